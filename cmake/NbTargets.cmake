@@ -1,0 +1,24 @@
+# SPDX-License-Identifier: MIT
+# What all targets of the project share: ccache, warnings.
+
+find_program(NBMANIPULATOR_CCACHE ccache)
+if(NBMANIPULATOR_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${NBMANIPULATOR_CCACHE})
+endif()
+
+# Warnings of the house style for one target of our own.
+function(nb_warnings target)
+    target_compile_options(${target} PRIVATE
+        -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
+        $<$<BOOL:${NBMANIPULATOR_WERROR}>:-Werror>)
+endfunction()
+
+# One test program: nb_test(name SOURCES ... LIBRARIES ...). Every case in it becomes a ctest test of its own.
+function(nb_test name)
+    cmake_parse_arguments(NB "" "" "SOURCES;LIBRARIES" ${ARGN})
+    add_executable(${name} ${NB_SOURCES})
+    nb_warnings(${name})
+    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
+    target_link_libraries(${name} PRIVATE ${NB_LIBRARIES} GTest::gtest GTest::gmock)
+    gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST)
+endfunction()
