@@ -44,7 +44,6 @@ public:
     /// printf; the text brings its own line end.
     void log(LogLevel lineLevel, const Char8* format, ...) __attribute__((format(printf, 3, 4)));
 
-
 private:
     LogLevel level = LOG_WARNING;
     std::ostream* out;
