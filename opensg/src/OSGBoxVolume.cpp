@@ -26,6 +26,7 @@ void BoxVolume::setBounds(const Pnt3f& minimum, const Pnt3f& maximum)
     low = minimum;
     high = maximum;
     setEmpty(false);
+    setValid();
 }
 
 void BoxVolume::setBounds(Real32 minX, Real32 minY, Real32 minZ, Real32 maxX, Real32 maxY,
@@ -36,7 +37,7 @@ void BoxVolume::setBounds(Real32 minX, Real32 minY, Real32 minZ, Real32 maxX, Re
 
 void BoxVolume::extendBy(const Pnt3f& point)
 {
-    if (!isValid() || isInfinite() || isStatic()) {
+    if (isInfinite() || isStatic() || (!isValid() && !isEmpty())) {
         return;
     }
     if (isEmpty()) {
@@ -51,12 +52,13 @@ void BoxVolume::extendBy(const Pnt3f& point)
 
 void BoxVolume::extendBy(const Volume& other)
 {
-    if (!isValid() || isInfinite() || isStatic() || !other.isValid() || other.isEmpty()) {
+    if (!other.isValid() || other.isEmpty()) {
         return;
     }
     if (other.isInfinite()) {
         setInfinite();
         setEmpty(false);
+        return;
     }
     Pnt3f otherLow;
     Pnt3f otherHigh;

@@ -39,6 +39,24 @@ struct Minors
 }  // namespace
 
 template <class ValueT>
+void TransformationMatrix<ValueT>::setValue(ValueT m00, ValueT m01, ValueT m02, ValueT m03,
+                                            ValueT m10, ValueT m11, ValueT m12, ValueT m13,
+                                            ValueT m20, ValueT m21, ValueT m22, ValueT m23,
+                                            ValueT m30, ValueT m31, ValueT m32, ValueT m33)
+{
+    *this = TransformationMatrix(m00, m01, m02, m03, m10, m11, m12, m13, m20, m21, m22, m23, m30,
+                                 m31, m32, m33);
+}
+
+template <class ValueT>
+void TransformationMatrix<ValueT>::setValueTransposed(
+    ValueT m00, ValueT m10, ValueT m20, ValueT m30, ValueT m01, ValueT m11, ValueT m21, ValueT m31,
+    ValueT m02, ValueT m12, ValueT m22, ValueT m32, ValueT m03, ValueT m13, ValueT m23, ValueT m33)
+{
+    setValue(m00, m01, m02, m03, m10, m11, m12, m13, m20, m21, m22, m23, m30, m31, m32, m33);
+}
+
+template <class ValueT>
 void TransformationMatrix<ValueT>::setRotate(const QuaternionType& rotation)
 {
     rotation.getValuesOnly(*this);
@@ -137,6 +155,35 @@ void TransformationMatrix<ValueT>::getTransform(VectorType& translation, Quatern
     VectorType moved;
     multMatrixVec(center, moved);
     translation += moved - center;
+}
+
+template <class ValueT>
+typename TransformationMatrix<ValueT>::ColumnType
+TransformationMatrix<ValueT>::rowCombined(ValueT x, ValueT y, ValueT z, ValueT w) const
+{
+    const ColumnType row(x, y, z, w);
+    return ColumnType(row.dot(columns[0]), row.dot(columns[1]), row.dot(columns[2]),
+                      row.dot(columns[3]));
+}
+
+template <class ValueT>
+void TransformationMatrix<ValueT>::multVecMatrix(const VectorType& source, VectorType& result) const
+{
+    result = VectorType(rowCombined(source[0], source[1], source[2], 0));
+}
+
+template <class ValueT>
+void TransformationMatrix<ValueT>::multPntMatrix(const PointType& source, PointType& result) const
+{
+    result = PointType(rowCombined(source[0], source[1], source[2], 1));
+}
+
+template <class ValueT>
+void TransformationMatrix<ValueT>::multPntFullMatrix(const PointType& source,
+                                                     PointType& result) const
+{
+    const ColumnType full = rowCombined(source[0], source[1], source[2], 1);
+    result = full[3] == 0 ? PointType() : PointType(full * (1 / full[3]));
 }
 
 template <class ValueT>

@@ -29,11 +29,12 @@ public:
 
     void getSize(Vec3f& size) const { size = high - low; }
 
-    /// A box set by its corners is no longer empty.
+    /// A box set by its corners is valid and not empty.
     void setBounds(const Pnt3f& minimum, const Pnt3f& maximum);
     void setBounds(Real32 minX, Real32 minY, Real32 minZ, Real32 maxX, Real32 maxY, Real32 maxZ);
 
-    /// Grows to hold a point; an empty box becomes the point, an infinite or static one stays.
+    /// Grows to hold a point; an empty box becomes the point, an infinite or static one, or one
+    /// that is neither valid nor empty, stays.
     void extendBy(const Pnt3f& point) override;
 
     /// Grows to hold another volume; empty ones add nothing, an infinite one makes this infinite.

@@ -52,22 +52,14 @@ public:
     constexpr void setIdentity() { *this = TransformationMatrix(); }
 
     /// Row by row, as written on paper.
-    constexpr void setValue(ValueT m00, ValueT m01, ValueT m02, ValueT m03, ValueT m10, ValueT m11,
-                            ValueT m12, ValueT m13, ValueT m20, ValueT m21, ValueT m22, ValueT m23,
-                            ValueT m30, ValueT m31, ValueT m32, ValueT m33)
-    {
-        *this = TransformationMatrix(m00, m01, m02, m03, m10, m11, m12, m13, m20, m21, m22, m23,
-                                     m30, m31, m32, m33);
-    }
+    void setValue(ValueT m00, ValueT m01, ValueT m02, ValueT m03, ValueT m10, ValueT m11,
+                  ValueT m12, ValueT m13, ValueT m20, ValueT m21, ValueT m22, ValueT m23,
+                  ValueT m30, ValueT m31, ValueT m32, ValueT m33);
 
     /// Column by column, the order of the memory.
-    constexpr void setValueTransposed(ValueT m00, ValueT m10, ValueT m20, ValueT m30, ValueT m01,
-                                      ValueT m11, ValueT m21, ValueT m31, ValueT m02, ValueT m12,
-                                      ValueT m22, ValueT m32, ValueT m03, ValueT m13, ValueT m23,
-                                      ValueT m33)
-    {
-        setValue(m00, m01, m02, m03, m10, m11, m12, m13, m20, m21, m22, m23, m30, m31, m32, m33);
-    }
+    void setValueTransposed(ValueT m00, ValueT m10, ValueT m20, ValueT m30, ValueT m01, ValueT m11,
+                            ValueT m21, ValueT m31, ValueT m02, ValueT m12, ValueT m22, ValueT m32,
+                            ValueT m03, ValueT m13, ValueT m23, ValueT m33);
 
     /// From 16 numbers, column by column (true) or row by row (false).
     constexpr void setValue(const ValueT* source, bool transposed = true)
@@ -209,6 +201,12 @@ public:
 
     constexpr void mult(VectorType& vector) const { multMatrixVec(vector, vector); }
 
+    // == Row vector times matrix, the transpose of the products above
+
+    void multVecMatrix(const VectorType& source, VectorType& result) const;
+    void multPntMatrix(const PointType& source, PointType& result) const;
+    void multPntFullMatrix(const PointType& source, PointType& result) const;
+
     // == Inverse, transpose, comparison; true if regular, the inverse of a singular matrix is the
     // identity
 
@@ -251,6 +249,8 @@ private:
         }
         return result;
     }
+
+    ColumnType rowCombined(ValueT x, ValueT y, ValueT z, ValueT w) const;
 
     static constexpr TransformationMatrix product(const TransformationMatrix& a,
                                                   const TransformationMatrix& b)
