@@ -108,7 +108,8 @@ void AbstractManipulator::setVisualisationRoot(const osg::NodePtr& root)
         return;
     }
     if (isActive()) {
-        // The visualisation is held by the concrete manipulator, so taking it from the old root does not destroy it.
+        // The visualisation is held by the concrete manipulator, so taking it from the old root
+        // does not destroy it.
         detach(previous, getVisualisation());
     }
     visualisationRoot = root;

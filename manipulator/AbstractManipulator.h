@@ -11,11 +11,12 @@
 
 namespace nbec::manipulator {
 
-/// State and behaviour that all manipulators share: activation, visualisation root, pointer, preselection.
+/// State and behaviour that all manipulators share: activation, visualisation root, pointer,
+/// preselection.
 ///
-/// The visualisation hangs under the root exactly while the manipulator is active. While a handle is hovered the
-/// scene's own hover highlighting (preselection) is off; a manipulator switches on only what it has switched off.
-/// All operations run on the user-interface thread.
+/// The visualisation hangs under the root exactly while the manipulator is active. While a handle
+/// is hovered the scene's own hover highlighting (preselection) is off; a manipulator switches on
+/// only what it has switched off. All operations run on the user-interface thread.
 class NB_MANIPULATOR_API AbstractManipulator : public Manipulator
 {
 public:
@@ -33,13 +34,14 @@ public:
 
     bool isActive() const override { return active; }
 
-    /// Deliberate: the three drag operations answer true (handled) by default, hoverManipulator, resetManipulator and
-    /// setManipulatorMode answer false.
+    /// Deliberate: the three drag operations answer true (handled) by default, hoverManipulator,
+    /// resetManipulator and setManipulatorMode answer false.
     bool startManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
     bool processManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
     bool stopManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
 
-    /// Calls hoverManipulator() and keeps preselection off exactly while it answers true. @return its answer
+    /// Calls hoverManipulator() and keeps preselection off exactly while it answers true. @return
+    /// its answer
     bool hover(ManipulatorInteractionContext* ctx, const std::string& hint) override;
 
     /// Calls resetManipulator() and gives preselection back. @return its answer
@@ -47,11 +49,15 @@ public:
 
     bool hoverManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
     bool resetManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
+
     void setMousePosition(const osg::Pnt2f& position) override { mousePosition = position; }
+
     osg::Pnt2f getMousePosition() const override { return mousePosition; }
+
     bool setManipulatorMode(const std::string& mode) override;
 
-    /// Releases the visualisation root. Does not detach the visualisation: a manipulator is deactivated before it dies.
+    /// Releases the visualisation root. Does not detach the visualisation: a manipulator is
+    /// deactivated before it dies.
     ~AbstractManipulator() override = default;
 
     /// Sets the node under which the visualisation hangs while active; an active one moves along.

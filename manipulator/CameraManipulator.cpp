@@ -99,8 +99,8 @@ void CameraManipulator::createMaterials()
     highlightMaterial = detail::makeHandleMaterial(
         osg::Color3f(kHighlightGrey, kHighlightGrey, kHighlightGrey), kHighlightSortKey, nullptr);
     const detail::EditBracket edit(highlightMaterial.get(),
-                                   osg::SimpleMaterial::SpecularFieldMask
-                                       | osg::SimpleMaterial::TransparencyFieldMask);
+                                   osg::SimpleMaterial::SpecularFieldMask |
+                                       osg::SimpleMaterial::TransparencyFieldMask);
     highlightMaterial->setSpecular(osg::Color3f(1.0F, 1.0F, 1.0F));
     highlightMaterial->setTransparency(kHighlightTransparency);
 }
@@ -147,9 +147,9 @@ void CameraManipulator::update(bool force)
     osg::Pnt3f cameraAt;
     osg::Vec3f cameraUp;
     nbOSGWidget::getFromAtUp(-1, cameraFrom, cameraAt, cameraUp);
-    const bool isSame = cameraFrom.equals(from, kUnchangedTolerance)
-        && cameraAt.equals(at, kUnchangedTolerance) && cameraUp.equals(up, kUnchangedTolerance)
-        && nbOSGWidget::getFov(-1) == fov;
+    const bool isSame = cameraFrom.equals(from, kUnchangedTolerance) &&
+        cameraAt.equals(at, kUnchangedTolerance) && cameraUp.equals(up, kUnchangedTolerance) &&
+        nbOSGWidget::getFov(-1) == fov;
     if (!isSame || isOrthographicSizeChanged()) {
         updateManipulator();
     }
@@ -305,15 +305,15 @@ void CameraManipulator::updateManipulator()
 bool CameraManipulator::isUnchanged(const osg::Pnt3f& cameraFrom, const osg::Pnt3f& cameraPivot,
                                     float cameraFov) const
 {
-    return cameraFrom.equals(from, kUnchangedTolerance)
-        && cameraPivot.equals(pivot, kUnchangedTolerance) && cameraFov == fov;
+    return cameraFrom.equals(from, kUnchangedTolerance) &&
+        cameraPivot.equals(pivot, kUnchangedTolerance) && cameraFov == fov;
 }
 
 bool CameraManipulator::isOrthographicSizeChanged() const
 {
     const osg::UberCameraPtr camera = mainCamera();
-    return camera != osg::NullFC && camera->isOrthographic()
-        && detail::orthographicScale(camera->getNearPlaneDiagonal()) != scale;
+    return camera != osg::NullFC && camera->isOrthographic() &&
+        detail::orthographicScale(camera->getNearPlaneDiagonal()) != scale;
 }
 
 void CameraManipulator::place(const osg::Pnt3f& position) const
@@ -322,9 +322,10 @@ void CameraManipulator::place(const osg::Pnt3f& position) const
     if (core == osg::NullFC) {
         return;
     }
-    const detail::EditBracket edit(core, osg::Transform3D::TranslationFieldMask
-                                       | osg::Transform3D::ScaleFieldMask
-                                       | osg::Transform3D::RotationFieldMask);
+    const detail::EditBracket edit(core,
+                                   osg::Transform3D::TranslationFieldMask |
+                                       osg::Transform3D::ScaleFieldMask |
+                                       osg::Transform3D::RotationFieldMask);
     core->setTranslation(position.subZero());
     core->setScale(osg::Vec3f(scale, scale, scale));
     core->setRotation(osg::Quaternion());
@@ -350,8 +351,8 @@ void CameraManipulator::setLocalSpaceManipulator(bool local)
 
 void CameraManipulator::updateAllManipulators()
 {
-    detail::forEachInstance(_allManipulators,
-                            [](CameraManipulator& manipulator) { manipulator.updateManipulator(); });
+    detail::forEachInstance(
+        _allManipulators, [](CameraManipulator& manipulator) { manipulator.updateManipulator(); });
 }
 
 void CameraManipulator::createInstance()

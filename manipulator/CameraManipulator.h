@@ -10,11 +10,13 @@
 
 namespace nbec::manipulator {
 
-/// Marks the orbit pivot of the active render widget's camera with a small three-axis cross drawn over the scene.
+/// Marks the orbit pivot of the active render widget's camera with a small three-axis cross drawn
+/// over the scene.
 ///
-/// The cross stands at the pivot and keeps its apparent size. It takes no drag: no handle is ever detected. It shows
-/// while the manipulator is active and bound to a node that exists. It reads the camera and writes nothing to it.
-/// Copies share the tree and the materials with their original and are not registered.
+/// The cross stands at the pivot and keeps its apparent size. It takes no drag: no handle is ever
+/// detected. It shows while the manipulator is active and bound to a node that exists. It reads the
+/// camera and writes nothing to it. Copies share the tree and the materials with their original and
+/// are not registered.
 class NB_MANIPULATOR_API CameraManipulator : public NodeManipulator
 {
 public:
@@ -30,8 +32,9 @@ public:
     osg::NodePtr getCollider() override;
 
     /// Re-places the cross if the camera has changed. Nothing while inactive or without a node.
-    /// Deliberate: look-at point and up vector are compared with caches that are never refreshed, so that a perspective
-    /// camera goes on to updateManipulator() each time, whose own comparison decides.
+    /// Deliberate: look-at point and up vector are compared with caches that are never refreshed,
+    /// so that a perspective camera goes on to updateManipulator() each time, whose own comparison
+    /// decides.
     /// @param force  goes on in any case
     void update(bool force) override;
 
@@ -41,7 +44,8 @@ public:
     bool hoverManipulator(ManipulatorInteractionContext* ctx, const std::string& tool) override;
     bool resetManipulator(ManipulatorInteractionContext* ctx, const std::string& tool) override;
 
-    /// Changes nothing. @return true for "precisionTool" and "", false for "tool" and everything else
+    /// Changes nothing. @return true for "precisionTool" and "", false for "tool" and everything
+    /// else
     bool setManipulatorMode(const std::string& tool) override;
 
     /// Unregisters the instance and releases tree and materials.
@@ -53,18 +57,25 @@ public:
 
     /// Shows the cross and places it.
     void activatePivotManipulator();
+
     /// Stores the flag, which nothing reads.
     void setDescriptionEnabled(bool on) { descriptionEnabled = on; }
 
-    /// Size on screen of all crosses, default 32. Deliberate: a size of 200 makes the scale infinite.
+    /// Size on screen of all crosses, default 32. Deliberate: a size of 200 makes the scale
+    /// infinite.
     static void setManipulatorSize(float size);
+
     static float getManipulatorSize() { return m_ManipulatorSize; }
+
     static void setLocalSpaceManipulator(bool local);
+
     static bool isLocalSpaceManipulator() { return m_LocalSpaceManipulator; }
+
     /// Re-places every registered cross, in the order of construction.
     static void updateAllManipulators();
-    /// Creates a manipulator that lives in the list of live ones only. Deliberate: it does not become the current
-    /// instance, which nothing in this library sets, so that a new size shows at the next update.
+    /// Creates a manipulator that lives in the list of live ones only. Deliberate: it does not
+    /// become the current instance, which nothing in this library sets, so that a new size shows at
+    /// the next update.
     static void createInstance();
 
 private:
@@ -77,7 +88,8 @@ private:
     static osg::NodePtr resolveTransformNode(const osg::NodePtr& node);
     void detectMode(const osg::NodePtr& hit);
     bool detectUnderPointer(ManipulatorInteractionContext* ctx);
-    bool isUnchanged(const osg::Pnt3f& cameraFrom, const osg::Pnt3f& cameraPivot, float cameraFov) const;
+    bool isUnchanged(const osg::Pnt3f& cameraFrom, const osg::Pnt3f& cameraPivot,
+                     float cameraFov) const;
     bool isOrthographicSizeChanged() const;
     void place(const osg::Pnt3f& position) const;
     void showAllElements();

@@ -21,13 +21,16 @@ constexpr interaction::PreferredPosition kManipulatorPosition =
 
 ManipulatorInteractionContext::ManipulatorInteractionContext()
     : ManipulatorInteractionContext(kManipulatorPosition)
-{
-}
+{ }
 
 ManipulatorInteractionContext::ManipulatorInteractionContext(
     interaction::PreferredPosition position)
     : MultimodeInteractionContext(position)
+{ }
+
+ManipulatorInteractionContext::~ManipulatorInteractionContext()
 {
+    leaveManager();
 }
 
 void ManipulatorInteractionContext::enabled(InteractionManager* manager)
@@ -100,8 +103,8 @@ bool ManipulatorInteractionContext::triggerEvent(InteractionManager* manager,
 
 bool ManipulatorInteractionContext::isRoutedEvent(const InteractionEvent& event) const
 {
-    return event.getTool() == toolName
-        && (event.getHint() == "select" || event.getHint() == "toggle");
+    return event.getTool() == toolName &&
+        (event.getHint() == "select" || event.getHint() == "toggle");
 }
 
 bool ManipulatorInteractionContext::dispatchToManipulator(InteractionManager* manager,

@@ -7,8 +7,8 @@ namespace nbec::manipulator {
 
 /// A manipulator bound to one scene node, which it holds weakly.
 ///
-/// Deliberate: the node is kept by its container id and not by a counted pointer, so that the manipulator never keeps
-/// a deleted node alive; getNode() answers null once it is gone.
+/// Deliberate: the node is kept by its container id and not by a counted pointer, so that the
+/// manipulator never keeps a deleted node alive; getNode() answers null once it is gone.
 class NB_MANIPULATOR_API NodeManipulator : public AbstractManipulator
 {
 public:

@@ -38,16 +38,16 @@ struct DefaultFamilies
 };
 
 /// One row per mode, in the order of the modes' values.
-constexpr std::array<DefaultFamilies, 10> kDefaultFamilies = {{{true, true, true},
-                                                               {true, false, false},
-                                                               {false, false, true},
-                                                               {false, true, false},
-                                                               {true, true, false},
-                                                               {true, true, false},
-                                                               {true, true, true},
-                                                               {true, true, false},
-                                                               {true, true, false},
-                                                               {true, true, true}}};
+constexpr std::array<DefaultFamilies, 10> kDefaultFamilies = { { { true, true, true },
+                                                                 { true, false, false },
+                                                                 { false, false, true },
+                                                                 { false, true, false },
+                                                                 { true, true, false },
+                                                                 { true, true, false },
+                                                                 { true, true, true },
+                                                                 { true, true, false },
+                                                                 { true, true, false },
+                                                                 { true, true, true } } };
 
 }  // namespace
 
@@ -309,8 +309,8 @@ void UniversalTransformManipulator2::setHandleMaterials(std::size_t row, bool hi
         if (part.node == osg::NullFC) {
             continue;
         }
-        const auto color = static_cast<std::size_t>(highlight ? HandleColor::Orange
-                                                              : kHandles[row].idle[i]);
+        const auto color =
+            static_cast<std::size_t>(highlight ? HandleColor::Orange : kHandles[row].idle[i]);
         detail::setGeometryMaterial(
             part.node, part.isLine ? lineMaterials[color].get() : solidMaterials[color].get());
     }
@@ -390,9 +390,10 @@ void UniversalTransformManipulator2::updateManipulator()
     const osg::Pnt3f anchor = anchorWorld(node);
     const float scale = screenScale(anchor);
     cachedTargetToWorld = detail::targetToWorld(node);
-    const detail::EditBracket edit(placement, osg::Transform3D::TranslationFieldMask
-                                       | osg::Transform3D::RotationFieldMask
-                                       | osg::Transform3D::ScaleFieldMask);
+    const detail::EditBracket edit(placement,
+                                   osg::Transform3D::TranslationFieldMask |
+                                       osg::Transform3D::RotationFieldMask |
+                                       osg::Transform3D::ScaleFieldMask);
     placement->setTranslation(anchor.subZero());
     placement->setScale(osg::Vec3f(scale, scale, scale));
     placement->setRotation(m_LocalSpaceManipulator ? detail::worldRotation(node)

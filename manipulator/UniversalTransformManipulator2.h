@@ -15,25 +15,34 @@ namespace nbec::manipulator {
 
 /// The translate, rotate and scale gizmo for scene nodes.
 ///
-/// Tree. The root "Manipulatorgroup" has four children: the marks of further selected nodes, the depth pass (an unnamed
-/// copy of the handles), the holder of additional geometry, and the handle pass with the handles themselves. The copy
-/// shares the cores of the handles, so that colours and visibility hold in both. Handles are built once, in a unit
-/// frame: along +y, then turned onto their axis; one Transform3D places, turns and sizes all of them.
-/// Axis colours: x red, y green, z blue; yellow acts on all axes, purple marks the scale pivot, orange highlights.
+/// Tree. The root "Manipulatorgroup" has four children: the marks of further selected nodes, the
+/// depth pass (an unnamed copy of the handles), the holder of additional geometry, and the handle
+/// pass with the handles themselves. The copy shares the cores of the handles, so that colours and
+/// visibility hold in both. Handles are built once, in a unit frame: along +y, then turned onto
+/// their axis; one Transform3D places, turns and sizes all of them. Axis colours: x red, y green, z
+/// blue; yellow acts on all axes, purple marks the scale pivot, orange highlights.
 ///
 /// Decisions.
-/// - Place: the gizmo stands at the node's rotate pivot (in scale and scale-pivot mode at its scale pivot); a node that
-///   is no Transform3D yet has its pivot at the centre of its volume, where it will be once it is converted.
+/// - Place: the gizmo stands at the node's rotate pivot (in scale and scale-pivot mode at its scale
+/// pivot); a node that
+///   is no Transform3D yet has its pivot at the centre of its volume, where it will be once it is
+///   converted.
 /// - Orientation: world axes, or the node's own axes with setLocalSpaceManipulator(true).
-/// - Visible elements per mode: universal all but the markers; translate arrows and planes; rotate rings; scale the
-///   scale handles and the cube "grid"; rotate pivot arrows, planes, rings and the sphere; scale pivot arrows, planes
-///   and the purple cube; clipping and translate-rotate arrows, planes and rings; translate-rotate-YZ the same without
-///   the x ring; translate-rotate-scale arrows, planes, rings and the scale handles.
-/// - A ring's axis line shows only while that ring is grabbed. Sphere and purple cube are unnamed markers, never hit.
-/// - Plane handles: a square patch of 0.4 with a bar (radius 0.02) along each of its two outer edges.
-/// - A drag is held by the handle that was under the pointer at its start; hovering is refused until it stops.
+/// - Visible elements per mode: universal all but the markers; translate arrows and planes; rotate
+/// rings; scale the
+///   scale handles and the cube "grid"; rotate pivot arrows, planes, rings and the sphere; scale
+///   pivot arrows, planes and the purple cube; clipping and translate-rotate arrows, planes and
+///   rings; translate-rotate-YZ the same without the x ring; translate-rotate-scale arrows, planes,
+///   rings and the scale handles.
+/// - A ring's axis line shows only while that ring is grabbed. Sphere and purple cube are unnamed
+/// markers, never hit.
+/// - Plane handles: a square patch of 0.4 with a bar (radius 0.02) along each of its two outer
+/// edges.
+/// - A drag is held by the handle that was under the pointer at its start; hovering is refused
+/// until it stops.
 ///
-/// All instances share the size and the space setting. Everything runs on the user-interface thread.
+/// All instances share the size and the space setting. Everything runs on the user-interface
+/// thread.
 class NB_MANIPULATOR_API UniversalTransformManipulator2 : public NodeManipulator
 {
 public:
@@ -71,7 +80,8 @@ public:
         ScaleUniform = 13
     };
 
-    /// Builds the handles, hidden, in mode translate, and appends the instance to the list of live ones.
+    /// Builds the handles, hidden, in mode translate, and appends the instance to the list of live
+    /// ones.
     UniversalTransformManipulator2();
     UniversalTransformManipulator2(const UniversalTransformManipulator2&) = delete;
     UniversalTransformManipulator2& operator=(const UniversalTransformManipulator2&) = delete;
@@ -85,8 +95,8 @@ public:
     /// The root "Manipulatorgroup"; the named handles below it can be hit.
     osg::NodePtr getCollider() override;
 
-    /// Re-places the gizmo if the node has moved since the last time; does not look at the camera, for which the host
-    /// calls updateAllManipulators(). Nothing while inactive or without a node.
+    /// Re-places the gizmo if the node has moved since the last time; does not look at the camera,
+    /// for which the host calls updateAllManipulators(). Nothing while inactive or without a node.
     /// @param force  re-places it in any case
     void update(bool force) override;
 
@@ -103,7 +113,8 @@ public:
     bool resetManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
 
     /// "precisionTool" switches temporary snapping on, every other mode off, for all instances.
-    /// Deliberate: "tool" answers false, although it takes effect; "precisionTool" and "" answer true, others false.
+    /// Deliberate: "tool" answers false, although it takes effect; "precisionTool" and "" answer
+    /// true, others false.
     bool setManipulatorMode(const std::string& mode) override;
 
     /// Unregisters the instance and releases the handles.
@@ -132,20 +143,28 @@ public:
 
     /// Creates a gizmo and makes it the shared instance; an earlier shared instance is destroyed.
     static void createInstance();
-    /// Size on screen of all gizmos, 0 <= size < 200, default 32. The shared instance is re-placed at once, others at
-    /// their next update.
+    /// Size on screen of all gizmos, 0 <= size < 200, default 32. The shared instance is re-placed
+    /// at once, others at their next update.
     static void setManipulatorSize(float size);
+
     static float getManipulatorSize() { return m_ManipulatorSize; }
-    /// Aligns the gizmos with the node's own axes instead of the world's. Re-placed as by setManipulatorSize().
+
+    /// Aligns the gizmos with the node's own axes instead of the world's. Re-placed as by
+    /// setManipulatorSize().
     static void setLocalSpaceManipulator(bool local);
+
     static bool isLocalSpaceManipulator() { return m_LocalSpaceManipulator; }
-    /// Re-places every live gizmo, in the order of construction. The host calls it when the camera has moved.
+
+    /// Re-places every live gizmo, in the order of construction. The host calls it when the camera
+    /// has moved.
     static void updateAllManipulators();
 
     /// The family of handles shown; Translate after construction.
     ManipulatorMode getMode() const { return mode; }
+
     /// Switches snapping of this gizmo.
     void enableSnapping(bool on) { snappingEnabled = on; }
+
     /// Switches the on-screen text of this gizmo.
     void setDescriptionEnabled(bool on) { descriptionEnabled = on; }
 
@@ -198,6 +217,7 @@ private:
     static float screenScale(const osg::Pnt3f& anchor);
     /// Centre of an object's volume, in its own frame or in the world's.
     static osg::Pnt3f calculateObjectCenter(const osg::NodePtr& node, bool worldSpace);
+
     bool snappingActive() const { return _temporary_snapping_active || snappingEnabled; }
 
     static float m_ManipulatorSize;

@@ -13,8 +13,10 @@ osg::UInt32 containerId(const Pointer& container)
     return container != osg::NullFC ? container.getFieldContainerId() : 0;
 }
 
-/// The container with an id from containerId(), if it still exists and is of the pointer's class or derived from it.
-/// @param id  container id, 0 = none @return null for 0, a destroyed container or one of another class
+/// The container with an id from containerId(), if it still exists and is of the pointer's class or
+/// derived from it.
+/// @param id  container id, 0 = none @return null for 0, a destroyed container or one of another
+/// class
 template <class Pointer>
 Pointer resolveContainer(osg::UInt32 id)
 {

@@ -20,6 +20,7 @@ public:
 
     EditBracket(const EditBracket&) = delete;
     EditBracket& operator=(const EditBracket&) = delete;
+
     ~EditBracket() { osg::endEditCP(container, mask); }
 
 private:

@@ -15,8 +15,8 @@ namespace nbec::manipulator::detail {
 /// The three state chunks that the line materials of one gizmo share.
 struct LineChunks
 {
-    osg::RefPtr<osg::LineChunkPtr> line;        ///< width 2 px, smooth
-    osg::RefPtr<osg::BlendChunkPtr> blend;      ///< GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA
+    osg::RefPtr<osg::LineChunkPtr> line;  ///< width 2 px, smooth
+    osg::RefPtr<osg::BlendChunkPtr> blend;  ///< GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA
     osg::RefPtr<osg::DepthTestChunkPtr> depth;  ///< GL_ALWAYS
 };
 
@@ -30,7 +30,8 @@ osg::DepthTestChunkPtr makeAlwaysDepthChunk();
 osg::SimpleMaterialRefPtr makeHandleMaterial(const osg::Color3f& diffuse, int sortKey,
                                              const LineChunks* chunks);
 
-/// Unlit material of a handle pass: the depth-test chunk and the sort key are all that matters of it.
+/// Unlit material of a handle pass: the depth-test chunk and the sort key are all that matters of
+/// it.
 osg::SimpleMaterialRefPtr makePassMaterial(const osg::DepthTestChunkPtr& depth, int sortKey);
 
 }  // namespace nbec::manipulator::detail

@@ -58,11 +58,12 @@ osg::NodePtr buildShape(HandleShape shape)
     return osg::NodePtr();
 }
 
-/// The one geometry of a shape from which all others take their properties. It is held for the rest of the process and
-/// found by its id, so that a scene graph that is shut down and started again builds it anew.
+/// The one geometry of a shape from which all others take their properties. It is held for the rest
+/// of the process and found by its id, so that a scene graph that is shut down and started again
+/// builds it anew.
 osg::GeometryPtr prototypeOf(HandleShape shape)
 {
-    static std::array<osg::UInt32, kShapeCount> prototypeIds{};
+    static std::array<osg::UInt32, kShapeCount> prototypeIds {};
     osg::UInt32& id = prototypeIds[static_cast<std::size_t>(shape)];
     osg::GeometryPtr prototype = resolveContainer<osg::GeometryPtr>(id);
     if (prototype == osg::NullFC) {
@@ -94,8 +95,9 @@ osg::NodePtr makePlacedNode(const osg::Vec3f& translation, const osg::Quaternion
 {
     const osg::ComponentTransformPtr core = osg::ComponentTransform::create();
     {
-        const EditBracket edit(core, osg::ComponentTransform::TranslationFieldMask
-                                   | osg::ComponentTransform::RotationFieldMask);
+        const EditBracket edit(core,
+                               osg::ComponentTransform::TranslationFieldMask |
+                                   osg::ComponentTransform::RotationFieldMask);
         core->setTranslation(translation);
         core->setRotation(rotation);
     }

@@ -17,8 +17,8 @@ void unregisterInstance(std::vector<Class*>& instances, const Class* instance)
     }
 }
 
-/// Calls an operation on every live instance in the order of construction. The length is read again before each step,
-/// so that the operation may create and destroy instances.
+/// Calls an operation on every live instance in the order of construction. The length is read again
+/// before each step, so that the operation may create and destroy instances.
 template <class Class, class Operation>
 void forEachInstance(const std::vector<Class*>& instances, Operation&& operation)
 {
