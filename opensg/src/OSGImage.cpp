@@ -21,18 +21,17 @@ struct Layout
 
 // The value of an intensity is brightness and alpha at once.
 constexpr Layout kLayouts[] = {
-    { Image::OSG_A_PF, 1, -1, -1, -1, -1, 0 },  { Image::OSG_I_PF, 1, -1, -1, -1, 0, 0 },
-    { Image::OSG_L_PF, 1, -1, -1, -1, 0, -1 },  { Image::OSG_LA_PF, 2, -1, -1, -1, 0, 1 },
-    { Image::OSG_RGB_PF, 3, 0, 1, 2, -1, -1 },  { Image::OSG_BGR_PF, 3, 2, 1, 0, -1, -1 },
-    { Image::OSG_RGBA_PF, 4, 0, 1, 2, -1, 3 },  { Image::OSG_BGRA_PF, 4, 2, 1, 0, -1, 3 },
+    { Image::OSG_A_PF, 1, -1, -1, -1, -1, 0 }, { Image::OSG_I_PF, 1, -1, -1, -1, 0, 0 },
+    { Image::OSG_L_PF, 1, -1, -1, -1, 0, -1 }, { Image::OSG_LA_PF, 2, -1, -1, -1, 0, 1 },
+    { Image::OSG_RGB_PF, 3, 0, 1, 2, -1, -1 }, { Image::OSG_BGR_PF, 3, 2, 1, 0, -1, -1 },
+    { Image::OSG_RGBA_PF, 4, 0, 1, 2, -1, 3 }, { Image::OSG_BGRA_PF, 4, 2, 1, 0, -1, 3 },
 };
 
 const Layout* layoutOf(UInt32 format)
 {
     const auto* const end = std::end(kLayouts);
-    const auto* const found = std::find_if(std::begin(kLayouts), end, [&](const Layout& layout) {
-        return layout.format == format;
-    });
+    const auto* const found = std::find_if(
+        std::begin(kLayouts), end, [&](const Layout& layout) { return layout.format == format; });
     return found != end ? found : nullptr;
 }
 
@@ -99,11 +98,11 @@ struct Block
 
     std::size_t offset(Int32 x, Int32 y, Int32 z) const
     {
-        return ((static_cast<std::size_t>(z) * static_cast<std::size_t>(height)
-                 + static_cast<std::size_t>(y))
-                    * static_cast<std::size_t>(width)
-                + static_cast<std::size_t>(x))
-            * components;
+        return ((static_cast<std::size_t>(z) * static_cast<std::size_t>(height) +
+                 static_cast<std::size_t>(y)) *
+                    static_cast<std::size_t>(width) +
+                static_cast<std::size_t>(x)) *
+            components;
     }
 };
 
@@ -114,8 +113,7 @@ struct Range
 
     Range(Int32 index, Int32 targetSize, Int32 sourceSize)
         : first(static_cast<Int32>(Int64(index) * sourceSize / targetSize))
-        , end(std::max(first + 1,
-                       static_cast<Int32>(Int64(index + 1) * sourceSize / targetSize)))
+        , end(std::max(first + 1, static_cast<Int32>(Int64(index + 1) * sourceSize / targetSize)))
     { }
 
     UInt32 size() const { return static_cast<UInt32>(end - first); }
@@ -162,8 +160,8 @@ bool Image::set(UInt32 newFormat, Int32 newWidth, Int32 newHeight, Int32 newDept
 {
     const Layout* const layout = layoutOf(newFormat);
     const UInt32 componentBytes = componentSize(type);
-    if (layout == nullptr || componentBytes == 0
-        || std::min({ newWidth, newHeight, newDepth, mipmapCount, frameCount, sideCount }) < 1) {
+    if (layout == nullptr || componentBytes == 0 ||
+        std::min({ newWidth, newHeight, newDepth, mipmapCount, frameCount, sideCount }) < 1) {
         SWARNING << "Image::set: no image of " << newWidth << " x " << newHeight << " x "
                  << newDepth << ", format " << newFormat << ", type " << type << ", mipmaps "
                  << mipmapCount << ", frames " << frameCount << ", sides " << sideCount
@@ -211,13 +209,13 @@ UInt8* Image::getData(UInt32 mipmap, UInt32 frame, UInt32 side)
 
 const UInt8* Image::getData(UInt32 mipmap, UInt32 frame, UInt32 side) const
 {
-    if (!isValid() || mipmap >= static_cast<UInt32>(getMipMapCount())
-        || frame >= static_cast<UInt32>(getFrameCount())
-        || side >= static_cast<UInt32>(getSideCount())) {
+    if (!isValid() || mipmap >= static_cast<UInt32>(getMipMapCount()) ||
+        frame >= static_cast<UInt32>(getFrameCount()) ||
+        side >= static_cast<UInt32>(getSideCount())) {
         return nullptr;
     }
-    std::size_t offset = std::size_t(getSize(true, false, true)) * frame
-        + std::size_t(getSize(true, false, false)) * side;
+    std::size_t offset = std::size_t(getSize(true, false, true)) * frame +
+        std::size_t(getSize(true, false, false)) * side;
     for (UInt32 level = 0; level < mipmap; ++level) {
         offset += levelBytes(level);
     }
@@ -226,9 +224,9 @@ const UInt8* Image::getData(UInt32 mipmap, UInt32 frame, UInt32 side) const
 
 std::size_t Image::levelBytes(UInt32 level) const
 {
-    return static_cast<std::size_t>(levelSize(getWidth(), level))
-        * static_cast<std::size_t>(levelSize(getHeight(), level))
-        * static_cast<std::size_t>(levelSize(getDepth(), level)) * static_cast<UInt32>(getBpp());
+    return static_cast<std::size_t>(levelSize(getWidth(), level)) *
+        static_cast<std::size_t>(levelSize(getHeight(), level)) *
+        static_cast<std::size_t>(levelSize(getDepth(), level)) * static_cast<UInt32>(getBpp());
 }
 
 UInt32 Image::getSize(bool withMipmaps, bool withFrames, bool withSides) const
@@ -292,8 +290,8 @@ bool Image::reformat(PixelFormat format, ImagePtr destination)
 {
     const Layout* const to = layoutOf(format);
     const bool inPlace = destination == NullFC || destination.getCPtr() == this;
-    if (to == nullptr || !canConvert("reformat")
-        || (inPlace && getPixelFormat() == UInt32(format))) {
+    if (to == nullptr || !canConvert("reformat") ||
+        (inPlace && getPixelFormat() == UInt32(format))) {
         return false;
     }
     const Layout* const from = layoutOf(getPixelFormat());
