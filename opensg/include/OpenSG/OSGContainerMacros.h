@@ -226,7 +226,7 @@ private:                                                                        
 #define OSG_OWNEDS_COUNT_(Name, ...) osg::countAllOwned(mf##Name, *this);
 #define OSG_OWNEDS_RELEASE_(Name, ...) osg::clearOwned(mf##Name, *this);
 
-#define OSG_OWNED_CLONE_(Name, ...) set##Name(cloner.copyOf(sf##Name.getValue()));
+#define OSG_OWNED_CLONE_(Name, ...) osg::setOwned(sf##Name, cloner.copyOf(sf##Name.getValue()), *this);
 #define OSG_LINK_CLONE_(Name, ...) sf##Name.setValue(osg::NullFC);
 #define OSG_OWNEDS_CLONE_(Name, ...) osg::cloneAllOwned(mf##Name, cloner, *this);
 #define OSG_LINKS_CLONE_(Name, ...) mf##Name.clear();
