@@ -56,7 +56,8 @@ public:
     /// The one conversion of positions. @return device pixels, not rounded, y from the top
     osg::Pnt2f toDevicePixels(const QPointF& logical) const;
 
-    /// Translates one event of the view. Events of other types are left alone.
+    /// Translates one event of the view. Events of other types are left alone. If the world below
+    /// nbScenegraph::getWorldRoot() changed meanwhile, the widget is asked for a redraw.
     /// @return whether it was input that something took, so that the view need not pass it on
     bool handleEvent(QEvent& event);
 
@@ -67,25 +68,32 @@ public:
     void interruptDrag();
 
 private:
+    bool translate(QEvent& event);
+    void followView(int eventType);
+
     bool press(const QMouseEvent& event);
+    bool pressSecond(Qt::MouseButton button);
     bool move(const QMouseEvent& event);
     bool release(const QMouseEvent& event);
+    bool cancelDrag();
+    void releaseButtons();
     bool wheel(const QWheelEvent& event);
-    bool keyPress(const QKeyEvent& event);
-    bool keyRelease(const QKeyEvent& event);
-    bool shortcutOverride(QKeyEvent& event) const;
-    void leave();
-    void loseFocus();
-    void goAway();
 
-    nbOSGWidget* currentWidget() const;
-    void pointTo(const QPointF& logical);
-    bool isInsideView() const;
-    void followModifiers(Qt::KeyboardModifiers modifiers);
+    bool keyPress(const QKeyEvent& event);
+    void keyRelease(const QKeyEvent& event);
+    /// Keeps Esc from the window's shortcuts while it is needed here.
+    bool overrideShortcut(QKeyEvent& event) const;
     void setPrecision(bool on);
-    bool send(const char* event, double amount = 0.0);
+
+    void leave();
+    void goAway();
+    nbOSGWidget* currentWidget() const;
+    void pointTo(const QPointF& logical, Qt::KeyboardModifiers modifiers);
+    /// @return whether the pointer lies in the view; true where that has no area to lie in
+    bool isInsideView() const;
+
+    bool sendDrag(const char* event);
     bool sendHover(const char* event);
-    void endOfButtons();
 
     InteractionManager& manager;
     nbOSGWidget* widget;
@@ -96,6 +104,7 @@ private:
     bool precisionIsHeld = false;
     bool buttonIsDown = false;  ///< from the first press to the last release
     bool dragIsSent = false;  ///< a "start" was sent, its "stop" was not
+    Qt::MouseButton dragButton = Qt::NoButton;
     std::string dragTool;
     std::string dragHint;
 };

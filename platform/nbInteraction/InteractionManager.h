@@ -35,8 +35,8 @@ enum class DragEnd
 /// Hover: when a context takes a hover that another took before, the other gets a "stopHover".
 ///
 /// Contexts are not owned; either side may die first. Contexts may be added, removed and destroyed
-/// from inside any call to a context. What a context throws is logged and counts as the answer
-/// false. User-interface thread only.
+/// from inside any call to a context, the manager may not be destroyed there. What a context throws
+/// is logged and counts as the answer false. User-interface thread only.
 class NB_PLATFORM_API InteractionManager
 {
 public:
@@ -107,25 +107,36 @@ private:
         Over  ///< ended from here while the input still sends its rest
     };
 
+    bool startDrag(const InteractionEvent& event);
+    bool continueDrag(const InteractionEvent& event);
+    /// Delivers the last event of a drag to whom it belongs; none runs afterwards.
+    bool finishDrag(const InteractionEvent& event, DragEnd end);
+    /// Ends a running drag with a stop event of its own.
+    void breakDrag(DragEnd end);
+
+    bool hover(const InteractionEvent& event);
+    bool broadcast(const InteractionEvent& event);
+    /// @return serial of the context that took the event, 0 for none
+    std::uint64_t offer(const InteractionEvent& event);
+    bool offerTo(std::uint64_t serial, const InteractionEvent& event);
+    /// @return whether one of the calls answered true
+    template <class Call>
+    bool forEachEnabled(Call call);
+    template <class Call>
+    void notify(std::uint64_t serial, Call call);
+    void tellMode(std::uint64_t serial);
+
     std::vector<Entry>::iterator findEntry(const InteractionContext* context);
     std::vector<Entry>::const_iterator findEntry(const InteractionContext* context) const;
     InteractionContext* contextOf(std::uint64_t serial) const;
+    /// Contexts are visited by serial, so that one that goes meanwhile is left out.
+    std::vector<std::uint64_t> serials() const;
     void sortEntries();
-    template <class Call>
-    void forEachEnabled(Call call);
-
-    bool startDrag(const InteractionEvent& event);
-    bool continueDrag(const InteractionEvent& event);
-    bool finishDrag(const InteractionEvent& event, DragEnd end);
-    void breakDrag(DragEnd end);
-    bool hover(const InteractionEvent& event);
-    bool broadcast(const InteractionEvent& event);
-    std::uint64_t offer(const InteractionEvent& event);
-    bool offerTo(std::uint64_t serial, const InteractionEvent& event);
 
     std::vector<Entry> entries;  ///< in the order in which they are asked
     std::uint64_t lastSerial = 0;
     std::uint64_t lastRaiseNumber = 0;
+    bool closing = false;  ///< the destructor is at work
     std::string mode = "tool";
 
     DragState dragState = DragState::None;
