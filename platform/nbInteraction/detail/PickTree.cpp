@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "PickTree.h"
 
-#include "EmbreeDevice.h"
-
 #include <algorithm>
 #include <cmath>
 #include <utility>
+
+#include "EmbreeDevice.h"
 
 namespace nbec::interaction::detail {
 
@@ -21,7 +21,8 @@ bool isFinite(const osg::Pnt3f& p)
 
 /// Moeller and Trumbore: solves origin + t d = p0 + u e1 + v e2 by Cramer's rule.
 /// Both faces; a triangle without area or parallel to the ray is missed.
-bool intersectTriangle(const PickRay& ray, const osg::Pnt3f& p0, const osg::Vec3f& e1, const osg::Vec3f& e2, float& t)
+bool intersectTriangle(const PickRay& ray, const osg::Pnt3f& p0, const osg::Vec3f& e1,
+                       const osg::Vec3f& e2, float& t)
 {
     const osg::Vec3f p = ray.direction.cross(e2);
     const float determinant = e1.dot(p);
@@ -76,8 +77,8 @@ void PickTree::assign(GeometrySoup newSoup)
         refitTree();
         return;
     }
-    // Whose positions changed once will change again: from now on built so that it can be refitted, which costs a
-    // little at each pick.
+    // Whose positions changed once will change again: from now on built so that it can be refitted,
+    // which costs a little at each pick.
     const bool expectsRefits = hadTree && sameTopology;
     dropTree();
     buildTree(expectsRefits);
@@ -92,11 +93,14 @@ void PickTree::buildTree(bool expectsRefits)
     scene = rtcNewScene(embreeDevice());
     mesh = rtcNewGeometry(embreeDevice(), RTC_GEOMETRY_TYPE_TRIANGLE);
     // Robust: no ray slips through between two triangles that share an edge.
-    rtcSetSceneFlags(scene, expectsRefits ? RTC_SCENE_FLAG_ROBUST | RTC_SCENE_FLAG_DYNAMIC : RTC_SCENE_FLAG_ROBUST);
-    rtcSetSharedGeometryBuffer(mesh, RTC_BUFFER_TYPE_VERTEX, 0, RTC_FORMAT_FLOAT3, soup.positions.data(), 0,
-                               sizeof(osg::Pnt3f), soup.positions.size());
-    rtcSetSharedGeometryBuffer(mesh, RTC_BUFFER_TYPE_INDEX, 0, RTC_FORMAT_UINT3, soup.triangles.data(), 0,
-                               3 * sizeof(std::uint32_t), getTriangleCount());
+    rtcSetSceneFlags(scene,
+                     expectsRefits ? RTC_SCENE_FLAG_ROBUST | RTC_SCENE_FLAG_DYNAMIC
+                                   : RTC_SCENE_FLAG_ROBUST);
+    rtcSetSharedGeometryBuffer(mesh, RTC_BUFFER_TYPE_VERTEX, 0, RTC_FORMAT_FLOAT3,
+                               soup.positions.data(), 0, sizeof(osg::Pnt3f), soup.positions.size());
+    rtcSetSharedGeometryBuffer(mesh, RTC_BUFFER_TYPE_INDEX, 0, RTC_FORMAT_UINT3,
+                               soup.triangles.data(), 0, 3 * sizeof(std::uint32_t),
+                               getTriangleCount());
     rtcCommitGeometry(mesh);
     rtcAttachGeometry(scene, mesh);
     rtcReleaseGeometry(mesh);
@@ -110,10 +114,11 @@ void PickTree::buildTree(bool expectsRefits)
 void PickTree::refitTree()
 {
     soup.positions.reserve(soup.positions.size() + 1);
-    rtcSetSharedGeometryBuffer(mesh, RTC_BUFFER_TYPE_VERTEX, 0, RTC_FORMAT_FLOAT3, soup.positions.data(), 0,
-                               sizeof(osg::Pnt3f), soup.positions.size());
-    rtcSetSharedGeometryBuffer(mesh, RTC_BUFFER_TYPE_INDEX, 0, RTC_FORMAT_UINT3, soup.triangles.data(), 0,
-                               3 * sizeof(std::uint32_t), getTriangleCount());
+    rtcSetSharedGeometryBuffer(mesh, RTC_BUFFER_TYPE_VERTEX, 0, RTC_FORMAT_FLOAT3,
+                               soup.positions.data(), 0, sizeof(osg::Pnt3f), soup.positions.size());
+    rtcSetSharedGeometryBuffer(mesh, RTC_BUFFER_TYPE_INDEX, 0, RTC_FORMAT_UINT3,
+                               soup.triangles.data(), 0, 3 * sizeof(std::uint32_t),
+                               getTriangleCount());
     rtcSetGeometryBuildQuality(mesh, RTC_BUILD_QUALITY_REFIT);
     rtcCommitGeometry(mesh);
     if (!commitScene(scene)) {
