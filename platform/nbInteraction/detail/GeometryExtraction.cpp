@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "GeometryExtraction.h"
 
-#include <OpenSG/OSGChangeCount.h>
 #include <OpenSG/OSGGeoProperty.h>
+#include <OpenSG/OSGLineIterator.h>
+#include <OpenSG/OSGPrimitiveIterator.h>
+#include <OpenSG/OSGTriangleIterator.h>
 
 #include <algorithm>
 
@@ -16,211 +18,81 @@ std::vector<osg::Pnt3f> readPositions(const osg::GeometryPtr& geometry)
     if (property == osg::NullFC) {
         return {};
     }
+    std::vector<osg::Pnt3f> positions;
+    // Room for one more, which a search tree over the array needs behind the last position.
+    positions.reserve(std::size_t(property->getSize()) + 1);
     if (const osg::GeoPositions3fPtr plain = osg::GeoPositions3fPtr::dcast(property);
         plain != osg::NullFC) {
-        return { plain->getField().begin(), plain->getField().end() };
+        positions.assign(plain->getField().begin(), plain->getField().end());
+        return positions;
     }
-    std::vector<osg::Pnt3f> positions(property->getSize());
     for (osg::UInt32 i = 0; i < property->getSize(); ++i) {
-        positions[i] = property->getValue(i);
+        positions.push_back(property->getValue(i));
     }
     return positions;
 }
 
-/// Position indices of all vertices, one after the other; empty stands for 0, 1, 2 ...
-struct VertexIndices
+/// Appends the position indices of all parts.
+/// @param cornerCount  corners of a part
+template <osg::Int32 cornerCount, class Iterator>
+void readParts(Iterator part, std::size_t positionCount, bool isIndexed,
+               std::vector<std::uint32_t>& indices)
 {
-    std::vector<std::uint32_t> values;
-    std::size_t count = 0;
-
-    std::uint32_t at(std::size_t vertex) const
-    {
-        return values.empty() ? static_cast<std::uint32_t>(vertex) : values[vertex];
-    }
-};
-
-VertexIndices readIndices(const osg::GeometryPtr& geometry, std::size_t positionCount)
-{
-    const osg::GeoIndicesPtr property = geometry->getIndices();
-    if (property == osg::NullFC || property->getSize() == 0) {
-        return { {}, positionCount };
-    }
-    const osg::MFUInt16& mapping = geometry->getIndexMapping();
-    const std::size_t stride = std::max<std::size_t>(mapping.size(), 1);
-    std::size_t offset = 0;
-    while (offset < mapping.size() &&
-           (mapping[static_cast<osg::UInt32>(offset)] & osg::Geometry::MapPosition) == 0) {
-        ++offset;
-    }
-    if (offset == stride) {
-        return {};  // a mapping without positions
-    }
-    VertexIndices result;
-    result.count = property->getSize() / stride;
-    result.values.resize(result.count);
-    if (const osg::GeoIndicesUI32Ptr plain = osg::GeoIndicesUI32Ptr::dcast(property);
-        plain != osg::NullFC) {
-        const auto first = plain->getField().begin();
-        for (std::size_t i = 0; i < result.count; ++i) {
-            result.values[i] = first[static_cast<std::ptrdiff_t>(i * stride + offset)];
+    for (; !part.isAtEnd(); ++part) {
+        std::uint32_t corners[cornerCount];
+        bool isComplete = true;
+        for (osg::Int32 i = 0; i < cornerCount; ++i) {
+            const osg::Int32 index = part.getPositionIndex(i);
+            const bool isKnown = index >= 0 && static_cast<std::size_t>(index) < positionCount;
+            if (!isKnown && (index < 0 || !isIndexed)) {
+                return;  // no later vertex exists either; a broken length must not take long
+            }
+            isComplete = isComplete && isKnown;
+            corners[i] = static_cast<std::uint32_t>(index);
         }
-        return result;
+        if (isComplete) {
+            indices.insert(indices.end(), corners, corners + cornerCount);
+        }
     }
-    for (std::size_t i = 0; i < result.count; ++i) {
-        result.values[i] = property->getValue(static_cast<osg::UInt32>(i * stride + offset));
-    }
-    return result;
 }
 
-/// Splits primitives into triangles, segments and points.
-class Splitter
+void readPoints(const osg::GeometryPtr& geometry, GeometrySoup& soup)
 {
-public:
-    Splitter(GeometrySoup& target, const VertexIndices& vertexIndices)
-        : soup(target)
-        , indices(vertexIndices)
-    { }
-
-    void add(osg::UInt32 type, std::size_t first, std::size_t length)
-    {
-        switch (type) {
-        case GL_POINTS:
-            for (std::size_t i = 0; i < length; ++i) {
-                point(first + i);
+    for (osg::PrimitiveIterator primitive = geometry->beginPrimitives(); !primitive.isAtEnd();
+         ++primitive) {
+        if (primitive.getType() != GL_POINTS) {
+            continue;
+        }
+        for (osg::UInt32 i = 0; i < primitive.getLength(); ++i) {
+            const osg::Int32 index = primitive.getPositionIndex(static_cast<osg::Int32>(i));
+            if (index < 0) {
+                return;
             }
-            break;
-        case GL_LINES:
-            for (std::size_t i = 0; i + 1 < length; i += 2) {
-                segment(first + i, first + i + 1);
+            if (static_cast<std::size_t>(index) < soup.positions.size()) {
+                soup.points.push_back(static_cast<std::uint32_t>(index));
             }
-            break;
-        case GL_LINE_STRIP:
-        case GL_LINE_LOOP:
-            for (std::size_t i = 0; i + 1 < length; ++i) {
-                segment(first + i, first + i + 1);
-            }
-            if (type == GL_LINE_LOOP && length > 2) {
-                segment(first + length - 1, first);
-            }
-            break;
-        default:
-            addFaces(type, first, length);
         }
     }
-
-private:
-    void addFaces(osg::UInt32 type, std::size_t first, std::size_t length)
-    {
-        switch (type) {
-        case GL_TRIANGLES:
-            soup.triangles.reserve(soup.triangles.size() + length);
-            for (std::size_t i = 0; i + 2 < length; i += 3) {
-                triangle(first + i, first + i + 1, first + i + 2);
-            }
-            break;
-        case GL_TRIANGLE_STRIP:
-            for (std::size_t i = 0; i + 2 < length; ++i) {
-                const std::size_t odd = i % 2;
-                triangle(first + i + odd, first + i + 1 - odd, first + i + 2);
-            }
-            break;
-        case GL_QUAD_STRIP:
-            for (std::size_t i = 0; i + 3 < length; i += 2) {
-                triangle(first + i, first + i + 1, first + i + 2);
-                triangle(first + i + 2, first + i + 1, first + i + 3);
-            }
-            break;
-        case GL_QUADS:
-            for (std::size_t i = 0; i + 3 < length; i += 4) {
-                triangle(first + i, first + i + 1, first + i + 2);
-                triangle(first + i, first + i + 2, first + i + 3);
-            }
-            break;
-        case GL_TRIANGLE_FAN:
-        case GL_POLYGON:
-            for (std::size_t i = 0; i + 2 < length; ++i) {
-                triangle(first, first + i + 1, first + i + 2);
-            }
-            break;
-        default:
-            break;
-        }
-    }
-
-    void triangle(std::size_t a, std::size_t b, std::size_t c)
-    {
-        const std::uint32_t i0 = indices.at(a);
-        const std::uint32_t i1 = indices.at(b);
-        const std::uint32_t i2 = indices.at(c);
-        if (std::max({ i0, i1, i2 }) < soup.positions.size()) {
-            soup.triangles.insert(soup.triangles.end(), { i0, i1, i2 });
-        }
-    }
-
-    void segment(std::size_t a, std::size_t b)
-    {
-        const std::uint32_t i0 = indices.at(a);
-        const std::uint32_t i1 = indices.at(b);
-        if (std::max(i0, i1) < soup.positions.size()) {
-            soup.segments.insert(soup.segments.end(), { i0, i1 });
-        }
-    }
-
-    void point(std::size_t a)
-    {
-        if (indices.at(a) < soup.positions.size()) {
-            soup.points.push_back(indices.at(a));
-        }
-    }
-
-    GeometrySoup& soup;
-    const VertexIndices& indices;
-};
+}
 
 }  // namespace
 
 GeometrySoup extractGeometry(const osg::GeometryPtr& geometry)
 {
     GeometrySoup soup;
-    if (geometry == osg::NullFC || geometry->getTypes() == osg::NullFC) {
+    if (geometry == osg::NullFC) {
         return soup;
     }
     soup.positions = readPositions(geometry);
-    const VertexIndices indices = readIndices(geometry, soup.positions.size());
-    const osg::GeoPTypesPtr types = geometry->getTypes();
-    const osg::GeoPLengthsPtr lengths = geometry->getLengths();
-    Splitter splitter(soup, indices);
-    std::size_t first = 0;
-    for (osg::UInt32 i = 0; i < types->getSize() && first < indices.count; ++i) {
-        const std::size_t left = indices.count - first;
-        std::size_t length = left;
-        if (lengths != osg::NullFC) {
-            length = i < lengths->getSize() ? std::min<std::size_t>(lengths->getValue(i), left) : 0;
-        }
-        splitter.add(types->getValue(i), first, length);
-        first += length;
+    const std::size_t positionCount = soup.positions.size();
+    const bool isIndexed = geometry->getIndices() != osg::NullFC;
+    if (isIndexed) {
+        soup.triangles.reserve(geometry->getIndices()->getSize());
     }
+    readParts<3>(geometry->beginTriangles(), positionCount, isIndexed, soup.triangles);
+    readParts<2>(geometry->beginLines(), positionCount, isIndexed, soup.segments);
+    readPoints(geometry, soup);
     return soup;
-}
-
-GeometryStamp stampOf(const osg::GeometryPtr& geometry)
-{
-    GeometryStamp stamp {};
-    if (geometry == osg::NullFC) {
-        return stamp;
-    }
-    const osg::FieldContainerPtr parts[] = { geometry->getPositions(), geometry->getIndices(),
-                                             geometry->getTypes(), geometry->getLengths() };
-    stamp[0] = osg::getChangeCount(geometry);
-    std::size_t next = 1;
-    for (const osg::FieldContainerPtr& part : parts) {
-        if (part != osg::NullFC) {
-            stamp[next] = part.getFieldContainerId();
-            stamp[next + 1] = osg::getChangeCount(part);
-        }
-        next += 2;
-    }
-    return stamp;
 }
 
 }  // namespace nbec::interaction::detail

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <utility>
 
 #include "EmbreeDevice.h"
@@ -17,6 +18,13 @@ constexpr std::size_t kRefitsBeforeRebuild = 64;
 bool isFinite(const osg::Pnt3f& p)
 {
     return std::isfinite(p[0]) && std::isfinite(p[1]) && std::isfinite(p[2]);
+}
+
+/// Bit by bit: what compares as equal within a tolerance may still have moved.
+bool haveSameValues(const std::vector<osg::Pnt3f>& a, const std::vector<osg::Pnt3f>& b)
+{
+    return a.size() == b.size() &&
+        (a.empty() || std::memcmp(a.data(), b.data(), a.size() * sizeof(osg::Pnt3f)) == 0);
 }
 
 /// Moeller and Trumbore: solves origin + t d = p0 + u e1 + v e2 by Cramer's rule.
@@ -64,8 +72,11 @@ PickTree::~PickTree()
 
 void PickTree::assign(GeometrySoup newSoup)
 {
-    const bool sameTopology =
-        newSoup.positions.size() == soup.positions.size() && newSoup.triangles == soup.triangles;
+    const bool sameTopology = newSoup.positions.size() == soup.positions.size() &&
+        newSoup.triangles == soup.triangles;  // Geometry is also edited for its material alone.
+    if (sameTopology && haveSameValues(newSoup.positions, soup.positions)) {
+        return;
+    }
     const bool hadTree = scene != nullptr;
     soup = std::move(newSoup);
     measure();
@@ -84,10 +95,15 @@ void PickTree::assign(GeometrySoup newSoup)
     buildTree(expectsRefits);
 }
 
+void PickTree::makeRoom()
+{
+    // Embree reads 16 bytes at each position, 4 beyond the last one.
+    soup.positions.reserve(soup.positions.size() + 1);
+}
+
 void PickTree::buildTree(bool expectsRefits)
 {
-    // Embree reads 16 bytes at each position.
-    soup.positions.reserve(soup.positions.size() + 1);
+    makeRoom();
     isRefittable = expectsRefits;
     refitsSinceBuild = 0;
     scene = rtcNewScene(embreeDevice());
@@ -113,7 +129,7 @@ void PickTree::buildTree(bool expectsRefits)
 
 void PickTree::refitTree()
 {
-    soup.positions.reserve(soup.positions.size() + 1);
+    makeRoom();
     rtcSetSharedGeometryBuffer(mesh, RTC_BUFFER_TYPE_VERTEX, 0, RTC_FORMAT_FLOAT3,
                                soup.positions.data(), 0, sizeof(osg::Pnt3f), soup.positions.size());
     rtcSetSharedGeometryBuffer(mesh, RTC_BUFFER_TYPE_INDEX, 0, RTC_FORMAT_UINT3,

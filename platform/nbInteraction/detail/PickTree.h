@@ -67,6 +67,7 @@ public:
     std::size_t getRefitCount() const { return refitCount; }
 
 private:
+    void makeRoom();
     void buildTree(bool expectsRefits);
     void refitTree();
     void dropTree();

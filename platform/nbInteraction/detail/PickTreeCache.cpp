@@ -3,6 +3,8 @@
 
 #include <OpenSG/OSGFieldContainerFactory.h>
 
+#include "GeometryExtraction.h"
+
 namespace nbec::interaction::detail {
 
 PickTreeCache& PickTreeCache::the()
@@ -15,13 +17,14 @@ PickTreeCache& PickTreeCache::the()
 std::shared_ptr<const PickTree> PickTreeCache::treeOf(const osg::GeometryPtr& geometry)
 {
     Entry& entry = entries[geometry.getFieldContainerId()];
-    const GeometryStamp stamp = stampOf(geometry);
-    if (entry.tree == nullptr || entry.stamp != stamp) {
+    // Edits of a geometry's properties are counted by the geometry, too.
+    const osg::UInt32 changeCount = geometry->getChangeCount();
+    if (entry.tree == nullptr || entry.changeCount != changeCount) {
         if (entry.tree == nullptr) {
             entry.tree = std::make_shared<PickTree>();
         }
         entry.tree->assign(extractGeometry(geometry));
-        entry.stamp = stamp;
+        entry.changeCount = changeCount;
     }
     return entry.tree;
 }

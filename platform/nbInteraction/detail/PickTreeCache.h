@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <OpenSG/OSGGeometry.h>
+#include <OpenSG/OSGNode.h>
+
 #include <memory>
 #include <unordered_map>
 
-#include "GeometryExtraction.h"
 #include "PickTree.h"
 
 namespace nbec::interaction::detail {
@@ -32,7 +34,7 @@ private:
     struct Entry
     {
         std::shared_ptr<PickTree> tree;
-        GeometryStamp stamp {};
+        osg::UInt32 changeCount = 0;
     };
 
     std::unordered_map<osg::UInt32, Entry> entries;

@@ -15,12 +15,14 @@ class SceneOutline
 public:
     static constexpr osg::UInt32 kNoItem = 0xffffffffu;
 
+    /// Whether a node's whole subtree plays no role in the scene: it is inactive or auxiliary.
+    static bool isPassedBy(const osg::NodePtr& node);
+
     void clear() { records.clear(); }
 
     /// Notes a node, before its children. @return what to hand to closeNode
-    /// @param isPassedBy  its subtree is inactive or auxiliary
-    /// @param item        number of the item that it is, or kNoItem
-    std::size_t openNode(const osg::NodePtr& node, bool isPassedBy, osg::UInt32 item);
+    /// @param item  number of the item that it is, or kNoItem
+    std::size_t openNode(const osg::NodePtr& node, osg::UInt32 item);
 
     void closeNode(std::size_t record) { records[record].end = records.size(); }
 
@@ -41,12 +43,14 @@ private:
         osg::UInt64 subtreeChanges;
         std::size_t end;  ///< behind the records of the subtree
         osg::UInt32 item;
-        bool isPassedBy;
+        bool passedBy;
     };
 
-    static Record recordOf(const osg::NodePtr& node, bool isPassedBy, osg::UInt32 item);
+    static Record recordOf(const osg::NodePtr& node, osg::UInt32 item);
     bool isCurrentFrom(std::size_t index, const osg::NodePtr& node,
                        std::vector<osg::UInt32>& touchedItems);
+    bool areChildrenCurrent(std::size_t index, const osg::NodePtr& node,
+                            std::vector<osg::UInt32>& touchedItems);
 
     std::vector<Record> records;
 };

@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ScenePicking.h"
 
-#include <nbOpenSGExt/NodeFlags.h>
-#include <nbOpenSGUtils/nbNodeUtils.h>
-
-#include <OpenSG/OSGChangeCount.h>
 #include <OpenSG/OSGFieldContainerFactory.h>
 
 #include <algorithm>
@@ -21,12 +17,6 @@ namespace {
 osg::FieldContainerPtr containerOf(osg::UInt32 id)
 {
     return osg::FieldContainerFactory::the()->getContainer(id);
-}
-
-bool isPassedBy(const osg::NodePtr& node)
-{
-    return node->getTravMask() == 0 ||
-        (nbNodeUtils::getNodeFlags(node) & osg::NodeFlags::Auxiliary) != 0;
 }
 
 /// Whether two lists have the same nodes with the same trees, so that only places can differ.
@@ -115,20 +105,17 @@ void ScenePicking::refresh(const osg::NodePtr& root)
 {
     const osg::UInt32 id = root.getFieldContainerId();
     const osg::UInt64 changes = root->getSubtreeChangeCount();
-    const osg::UInt64 shared = osg::getSharedChangeCount();
-    if (id == rootId && changes == rootChanges && shared == sharedChanges) {
+    if (id == rootId && changes == rootChanges) {
         return;
     }
     std::vector<osg::UInt32> touched;
     if (id != rootId || !outline.isCurrent(root, touched)) {
         walk(root);
     } else {
-        // Geometry properties that no node's counter tells of are among the shared changes.
-        refreshItems(touched, shared != sharedChanges);
+        refreshItems(touched);
     }
     rootId = id;
     rootChanges = changes;
-    sharedChanges = shared;
 }
 
 void ScenePicking::walk(const osg::NodePtr& root)
@@ -150,8 +137,8 @@ void ScenePicking::walk(const osg::NodePtr& root)
 void ScenePicking::collect(const osg::NodePtr& node, osg::Matrix worldFromParent,
                            std::vector<PickItem>& items)
 {
-    if (isPassedBy(node)) {
-        outline.closeNode(outline.openNode(node, true, SceneOutline::kNoItem));
+    if (SceneOutline::isPassedBy(node)) {
+        outline.closeNode(outline.openNode(node, SceneOutline::kNoItem));
         return;
     }
     osg::UInt32 item = SceneOutline::kNoItem;
@@ -160,12 +147,12 @@ void ScenePicking::collect(const osg::NodePtr& node, osg::Matrix worldFromParent
         if (const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(core);
             geometry != osg::NullFC) {
             item = static_cast<osg::UInt32>(items.size());
-            sources.push_back({ geometry.getFieldContainerId(), stampOf(geometry) });
+            sources.push_back({ geometry.getFieldContainerId(), geometry->getChangeCount() });
             items.emplace_back(node.getFieldContainerId(), PickTreeCache::the().treeOf(geometry),
                                worldFromParent);
         }
     }
-    const std::size_t record = outline.openNode(node, false, item);
+    const std::size_t record = outline.openNode(node, item);
     forEachEnteredChild(node, [&](const osg::NodePtr& child) {
         collect(child, worldFromParent, items);
         return true;
@@ -173,17 +160,11 @@ void ScenePicking::collect(const osg::NodePtr& node, osg::Matrix worldFromParent
     outline.closeNode(record);
 }
 
-void ScenePicking::refreshItems(const std::vector<osg::UInt32>& touched, bool all)
+void ScenePicking::refreshItems(const std::vector<osg::UInt32>& touched)
 {
     bool isAnyRefreshed = false;
-    if (all) {
-        for (std::size_t i = 0; i < sources.size(); ++i) {
-            isAnyRefreshed |= refreshItem(i);
-        }
-    } else {
-        for (const osg::UInt32 i : touched) {
-            isAnyRefreshed |= refreshItem(i);
-        }
+    for (const osg::UInt32 i : touched) {
+        isAnyRefreshed |= refreshItem(i);
     }
     if (isAnyRefreshed) {
         tree.refit();
@@ -194,11 +175,10 @@ bool ScenePicking::refreshItem(std::size_t index)
 {
     const osg::GeometryPtr geometry =
         osg::GeometryPtr::dcast(containerOf(sources[index].geometryId));
-    const GeometryStamp stamp = stampOf(geometry);
-    if (geometry == osg::NullFC || stamp == sources[index].stamp) {
+    if (geometry == osg::NullFC || geometry->getChangeCount() == sources[index].changeCount) {
         return false;
     }
-    sources[index].stamp = stamp;
+    sources[index].changeCount = geometry->getChangeCount();
     PickTreeCache::the().treeOf(geometry);
     PickItem& item = tree.editItems()[index];
     item.place(osg::Matrix(item.worldFromLocal));

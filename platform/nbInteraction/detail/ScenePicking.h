@@ -5,7 +5,6 @@
 
 #include <vector>
 
-#include "GeometryExtraction.h"
 #include "ItemTree.h"
 #include "PickView.h"
 #include "SceneOutline.h"
@@ -44,7 +43,7 @@ private:
     struct Source
     {
         osg::UInt32 geometryId;
-        GeometryStamp stamp;
+        osg::UInt32 changeCount;
     };
 
     void useView(const PickView& view);
@@ -52,7 +51,7 @@ private:
     void walk(const osg::NodePtr& root);
     void collect(const osg::NodePtr& node, osg::Matrix worldFromParent,
                  std::vector<PickItem>& items);
-    void refreshItems(const std::vector<osg::UInt32>& touched, bool all);
+    void refreshItems(const std::vector<osg::UInt32>& touched);
     bool refreshItem(std::size_t index);
     bool isInside(const PickItem& item, const ScreenBox& box) const;
 
@@ -61,7 +60,6 @@ private:
     SceneOutline outline;
     osg::UInt32 rootId = 0;
     osg::UInt64 rootChanges = 0;
-    osg::UInt64 sharedChanges = 0;
     std::size_t walkCount = 0;
 
     PickView projectedView;
