@@ -10,7 +10,7 @@ namespace nbec::interaction::detail {
 RTCDevice embreeDevice()
 {
     // Never released: trees may be given up as late as in destructors of static objects.
-    static RTCDevice const device = [] {
+    static const RTCDevice device = [] {
         RTCDevice made = rtcNewDevice(nullptr);
         if (made == nullptr) {
             nbLog::warning("Picker: Embree has no device here (error " +
@@ -28,7 +28,8 @@ bool commitScene(RTCScene scene)
     rtcCommitScene(scene);
     const RTCError error = rtcGetDeviceError(embreeDevice());
     if (error != RTC_ERROR_NONE) {
-        nbLog::warning("Picker: Embree cannot build a tree (error " + std::to_string(static_cast<int>(error)) + ")");
+        nbLog::warning("Picker: Embree cannot build a tree (error " +
+                       std::to_string(static_cast<int>(error)) + ")");
     }
     return error == RTC_ERROR_NONE;
 }

@@ -5,7 +5,8 @@
 
 namespace nbec::interaction::detail {
 
-/// The process's Embree device, made on first use and kept to the end of the process; null if it cannot be made.
+/// The process's Embree device, made on first use and kept to the end of the process; null if it
+/// cannot be made.
 RTCDevice embreeDevice();
 
 /// Commits a scene.

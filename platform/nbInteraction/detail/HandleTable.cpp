@@ -10,9 +10,11 @@ namespace {
 
 /// Distances that differ by less count as equal, so that the depth decides (device pixels).
 constexpr float kDistanceTiePx = 0.5f;
-/// Depths that differ by less than this part of the nearer one count as equal, so that the tree's order decides.
+/// Depths that differ by less than this part of the nearer one count as equal, so that the tree's
+/// order decides.
 constexpr float kDepthTie = 1e-4f;
-/// Primitives that share one box: few enough to test one by one, many enough that the boxes are few.
+/// Primitives that share one box: few enough to test one by one, many enough that the boxes are
+/// few.
 constexpr std::size_t kRunLength = 8;
 
 bool isFinite(const osg::Pnt3f& p)
@@ -20,8 +22,8 @@ bool isFinite(const osg::Pnt3f& p)
     return std::isfinite(p[0]) && std::isfinite(p[1]) && std::isfinite(p[2]);
 }
 
-ScreenProjection::Projected interpolate(const ScreenProjection::Projected& a, const ScreenProjection::Projected& b,
-                                        double s)
+ScreenProjection::Projected interpolate(const ScreenProjection::Projected& a,
+                                        const ScreenProjection::Projected& b, double s)
 {
     ScreenProjection::Projected result {};
     for (std::size_t i = 0; i < 4; ++i) {
@@ -65,8 +67,8 @@ void HandleTable::clear()
     positions.clear();
 }
 
-void HandleTable::add(osg::UInt32 nodeId, const GeometrySoup& shape, const osg::Matrix& tableFromGeo,
-                      float halfWidthPx)
+void HandleTable::add(osg::UInt32 nodeId, const GeometrySoup& shape,
+                      const osg::Matrix& tableFromGeo, float halfWidthPx)
 {
     const auto base = static_cast<std::uint32_t>(positions.size());
     for (const osg::Pnt3f& local : shape.positions) {
@@ -85,7 +87,8 @@ void HandleTable::add(osg::UInt32 nodeId, const GeometrySoup& shape, const osg::
     for (const std::uint32_t v : shape.points) {
         primitives.push_back({ { base + v, base + v, base + v }, false });
     }
-    handles.push_back({ nodeId, halfWidthPx, linearDeterminant(tableFromGeo) < 0.0, primitives.size() });
+    handles.push_back(
+        { nodeId, halfWidthPx, linearDeterminant(tableFromGeo) < 0.0, primitives.size() });
 }
 
 // == Projecting
@@ -135,7 +138,8 @@ void HandleTable::projectHandle(std::size_t first, std::size_t end)
 void HandleTable::projectPrimitive(std::uint32_t index)
 {
     const Primitive& primitive = primitives[index];
-    ScreenProjection::Projected corners[4] = { projected[primitive.vertices[0]], projected[primitive.vertices[1]],
+    ScreenProjection::Projected corners[4] = { projected[primitive.vertices[0]],
+                                               projected[primitive.vertices[1]],
                                                projected[primitive.vertices[2]] };
     for (const std::uint32_t v : primitive.vertices) {
         if (!isFinite(positions[v])) {
@@ -155,13 +159,15 @@ void HandleTable::projectPrimitive(std::uint32_t index)
     }
 }
 
-void HandleTable::addScreenPrimitive(const ScreenProjection::Projected* corners, std::uint32_t index, bool isTriangle)
+void HandleTable::addScreenPrimitive(const ScreenProjection::Projected* corners,
+                                     std::uint32_t index, bool isTriangle)
 {
     ScreenPrimitive result {};
     result.primitive = index;
     result.isTriangle = isTriangle;
     for (std::size_t i = 0; i < 3; ++i) {
-        const ScreenProjection::Projected& corner = corners[isTriangle ? i : std::min<std::size_t>(i, 1)];
+        const ScreenProjection::Projected& corner =
+            corners[isTriangle ? i : std::min<std::size_t>(i, 1)];
         if (!(corner.clip[3] > 0.0)) {
             return;
         }
@@ -199,7 +205,8 @@ bool HandleTable::pick(const ScreenPoint& position, float tolerancePx, HandleHit
             collect(static_cast<std::uint32_t>(i), position, tolerancePx, bestPx);
         }
     }
-    // In three sieves rather than by one comparison: "nearly equal" is not transitive, so sorting by it has no meaning.
+    // In three sieves rather than by one comparison: "nearly equal" is not transitive, so sorting
+    // by it has no meaning.
     float leastDepth = ScreenBox::kFar;
     for (const Candidate& candidate : candidates) {
         if (candidate.distancePx <= bestPx + kDistanceTiePx) {
@@ -209,15 +216,16 @@ bool HandleTable::pick(const ScreenPoint& position, float tolerancePx, HandleHit
     const float depthLimit = leastDepth + kDepthTie * std::abs(leastDepth);
     for (const Candidate& candidate : candidates) {
         if (candidate.distancePx <= bestPx + kDistanceTiePx && candidate.depth <= depthLimit) {
-            hit = { handles[candidate.handle].nodeId, projection.pointAt(candidate.nearest, candidate.depth),
-                    normalOf(candidate) };
+            hit = { handles[candidate.handle].nodeId,
+                    projection.pointAt(candidate.nearest, candidate.depth), normalOf(candidate) };
             return true;
         }
     }
     return false;
 }
 
-void HandleTable::collect(std::uint32_t handle, const ScreenPoint& position, float tolerancePx, float& bestPx)
+void HandleTable::collect(std::uint32_t handle, const ScreenPoint& position, float tolerancePx,
+                          float& bestPx)
 {
     const float halfWidthPx = handles[handle].halfWidthPx;
     const std::size_t runsEnd = screenHandles[handle].runsEnd;
@@ -232,8 +240,9 @@ void HandleTable::collect(std::uint32_t handle, const ScreenPoint& position, flo
                 continue;
             }
             const ScreenPoint* c = primitive.corners;
-            const ScreenNearest nearest = primitive.isTriangle ? nearestOnTriangle(position, c[0], c[1], c[2])
-                                                               : nearestOnSegment(position, c[0], c[1]);
+            const ScreenNearest nearest = primitive.isTriangle
+                ? nearestOnTriangle(position, c[0], c[1], c[2])
+                : nearestOnSegment(position, c[0], c[1]);
             if (!(nearest.squaredDistancePx <= reachPx * reachPx)) {
                 continue;
             }
@@ -244,7 +253,10 @@ void HandleTable::collect(std::uint32_t handle, const ScreenPoint& position, flo
                 continue;
             }
             const float* w = nearest.weights;
-            candidates.push_back({ handle, i, distancePx, depthAt(primitive, w),
+            candidates.push_back({ handle,
+                                   i,
+                                   distancePx,
+                                   depthAt(primitive, w),
                                    { w[0] * c[0].x + w[1] * c[1].x + w[2] * c[2].x,
                                      w[0] * c[0].y + w[1] * c[1].y + w[2] * c[2].y } });
             bestPx = std::min(bestPx, distancePx);
@@ -269,7 +281,8 @@ osg::Vec3f HandleTable::normalOf(const Candidate& winner) const
     const Primitive& primitive = primitives[screenPrimitives[winner.screenPrimitive].primitive];
     if (primitive.isTriangle) {
         const osg::Pnt3f& origin = positions[primitive.vertices[0]];
-        osg::Vec3f normal = (positions[primitive.vertices[1]] - origin).cross(positions[primitive.vertices[2]] - origin);
+        osg::Vec3f normal = (positions[primitive.vertices[1]] - origin)
+                                .cross(positions[primitive.vertices[2]] - origin);
         if (handles[winner.handle].isMirrored) {
             normal = -normal;
         }

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "PickView.h"
-#include "ScreenGeometry.h"
-#include "TriangleSoup.h"
-
 #include <cstdint>
 #include <vector>
+
+#include "GeometrySoup.h"
+#include "PickView.h"
+#include "ScreenGeometry.h"
 
 namespace nbec::interaction::detail {
 
@@ -14,14 +14,15 @@ namespace nbec::interaction::detail {
 struct HandleHit
 {
     osg::UInt32 nodeId = 0;
-    osg::Pnt3f point;   ///< world space
+    osg::Pnt3f point;  ///< world space
     osg::Vec3f normal;  ///< world space, unit length
 };
 
-/// The handles of a gizmo as plain shapes, and their picture on screen for one placement and one view.
+/// The handles of a gizmo as plain shapes, and their picture on screen for one placement and one
+/// view.
 ///
-/// A pick works on the picture alone: boxes around handles and around runs of primitives first, then distances to
-/// segments and triangles in pixels. Nothing of the scene graph is touched.
+/// A pick works on the picture alone: boxes around handles and around runs of primitives first,
+/// then distances to segments and triangles in pixels. Nothing of the scene graph is touched.
 class HandleTable
 {
 public:
@@ -33,7 +34,8 @@ public:
     /// @param shape         positions in the frame of the geometry
     /// @param tableFromGeo  places the shape in the frame of the table
     /// @param halfWidthPx   half of what is drawn across a line or point, device pixels, >= 0
-    void add(osg::UInt32 nodeId, const GeometrySoup& shape, const osg::Matrix& tableFromGeo, float halfWidthPx);
+    void add(osg::UInt32 nodeId, const GeometrySoup& shape, const osg::Matrix& tableFromGeo,
+             float halfWidthPx);
 
     bool isEmpty() const { return handles.empty(); }
 
@@ -44,7 +46,8 @@ public:
     void project(const osg::Matrix& worldFromTable, const PickView& view);
 
     /// Finds the handle at a position on screen.
-    /// The least distance beyond the drawn half width wins, then the least depth, then the first in the tree.
+    /// The least distance beyond the drawn half width wins, then the least depth, then the first in
+    /// the tree.
     /// @param position     device pixels
     /// @param tolerancePx  device pixels, >= 0
     /// @return false if nothing lies within the tolerance
@@ -109,9 +112,11 @@ private:
 
     void projectHandle(std::size_t first, std::size_t end);
     void projectPrimitive(std::uint32_t index);
-    void addScreenPrimitive(const ScreenProjection::Projected* corners, std::uint32_t index, bool isTriangle);
+    void addScreenPrimitive(const ScreenProjection::Projected* corners, std::uint32_t index,
+                            bool isTriangle);
     void closeRuns(std::size_t first);
-    void collect(std::uint32_t handle, const ScreenPoint& position, float tolerancePx, float& bestPx);
+    void collect(std::uint32_t handle, const ScreenPoint& position, float tolerancePx,
+                 float& bestPx);
     static float depthAt(const ScreenPrimitive& primitive, const float* weights);
     osg::Vec3f normalOf(const Candidate& winner) const;
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "ItemTree.h"
 
-#include "EmbreeDevice.h"
-
 #include <algorithm>
 #include <cmath>
 #include <utility>
+
+#include "EmbreeDevice.h"
 
 namespace nbec::interaction::detail {
 
@@ -13,7 +13,8 @@ namespace {
 
 /// Up to this many items are tested one after the other.
 constexpr std::size_t kDirectItems = 4;
-/// Bounds grow by this part of their largest coordinate, since the ray is rounded when it goes to local space.
+/// Bounds grow by this part of their largest coordinate, since the ray is rounded when it goes to
+/// local space.
 constexpr float kBoundsSlack = 4e-6f;
 
 /// @return whether the ray meets the box with 0 <= t <= tFar (slab by slab)
@@ -66,7 +67,8 @@ PickBounds transformBounds(const PickBounds& local, const osg::Matrix& worldFrom
 
 // == PickItem
 
-PickItem::PickItem(osg::UInt32 id, std::shared_ptr<const PickTree> geometryTree, const osg::Matrix& matrix)
+PickItem::PickItem(osg::UInt32 id, std::shared_ptr<const PickTree> geometryTree,
+                   const osg::Matrix& matrix)
     : nodeId(id)
     , tree(std::move(geometryTree))
 {
@@ -158,7 +160,8 @@ bool ItemTree::intersect(PickRay& ray, Hit& hit) const
     if (scene == nullptr) {
         bool isHit = false;
         for (const PickItem& item : items) {
-            if (!item.worldBounds.isEmpty && meetsBox(ray, item.worldBounds) && item.intersect(ray, hit.local)) {
+            if (!item.worldBounds.isEmpty && meetsBox(ray, item.worldBounds) &&
+                item.intersect(ray, hit.local)) {
                 hit.item = &item;
                 isHit = true;
             }

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "PickTree.h"
-
 #include <memory>
 #include <vector>
+
+#include "PickTree.h"
 
 typedef struct RTCGeometryTy* RTCGeometry;
 typedef struct RTCSceneTy* RTCScene;
@@ -16,7 +16,8 @@ namespace nbec::interaction::detail {
 /// One geometry at one place in the world.
 struct PickItem
 {
-    PickItem(osg::UInt32 id, std::shared_ptr<const PickTree> geometryTree, const osg::Matrix& matrix);
+    PickItem(osg::UInt32 id, std::shared_ptr<const PickTree> geometryTree,
+             const osg::Matrix& matrix);
 
     /// Moves the item, and takes up the present bounds of its tree.
     void place(const osg::Matrix& matrix);

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "PickTree.h"
 
-#include "EmbreeDevice.h"
-
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <utility>
+
+#include "EmbreeDevice.h"
 
 namespace nbec::interaction::detail {
 
@@ -19,9 +20,17 @@ bool isFinite(const osg::Pnt3f& p)
     return std::isfinite(p[0]) && std::isfinite(p[1]) && std::isfinite(p[2]);
 }
 
+/// Bit by bit: what compares as equal within a tolerance may still have moved.
+bool haveSameValues(const std::vector<osg::Pnt3f>& a, const std::vector<osg::Pnt3f>& b)
+{
+    return a.size() == b.size() &&
+        (a.empty() || std::memcmp(a.data(), b.data(), a.size() * sizeof(osg::Pnt3f)) == 0);
+}
+
 /// Moeller and Trumbore: solves origin + t d = p0 + u e1 + v e2 by Cramer's rule.
 /// Both faces; a triangle without area or parallel to the ray is missed.
-bool intersectTriangle(const PickRay& ray, const osg::Pnt3f& p0, const osg::Vec3f& e1, const osg::Vec3f& e2, float& t)
+bool intersectTriangle(const PickRay& ray, const osg::Pnt3f& p0, const osg::Vec3f& e1,
+                       const osg::Vec3f& e2, float& t)
 {
     const osg::Vec3f p = ray.direction.cross(e2);
     const float determinant = e1.dot(p);
@@ -63,8 +72,11 @@ PickTree::~PickTree()
 
 void PickTree::assign(GeometrySoup newSoup)
 {
-    const bool sameTopology =
-        newSoup.positions.size() == soup.positions.size() && newSoup.triangles == soup.triangles;
+    const bool sameTopology = newSoup.positions.size() == soup.positions.size() &&
+        newSoup.triangles == soup.triangles;  // Geometry is also edited for its material alone.
+    if (sameTopology && haveSameValues(newSoup.positions, soup.positions)) {
+        return;
+    }
     const bool hadTree = scene != nullptr;
     soup = std::move(newSoup);
     measure();
@@ -76,27 +88,35 @@ void PickTree::assign(GeometrySoup newSoup)
         refitTree();
         return;
     }
-    // Whose positions changed once will change again: from now on built so that it can be refitted, which costs a
-    // little at each pick.
+    // Whose positions changed once will change again: from now on built so that it can be refitted,
+    // which costs a little at each pick.
     const bool expectsRefits = hadTree && sameTopology;
     dropTree();
     buildTree(expectsRefits);
 }
 
+void PickTree::makeRoom()
+{
+    // Embree reads 16 bytes at each position, 4 beyond the last one.
+    soup.positions.reserve(soup.positions.size() + 1);
+}
+
 void PickTree::buildTree(bool expectsRefits)
 {
-    // Embree reads 16 bytes at each position.
-    soup.positions.reserve(soup.positions.size() + 1);
+    makeRoom();
     isRefittable = expectsRefits;
     refitsSinceBuild = 0;
     scene = rtcNewScene(embreeDevice());
     mesh = rtcNewGeometry(embreeDevice(), RTC_GEOMETRY_TYPE_TRIANGLE);
     // Robust: no ray slips through between two triangles that share an edge.
-    rtcSetSceneFlags(scene, expectsRefits ? RTC_SCENE_FLAG_ROBUST | RTC_SCENE_FLAG_DYNAMIC : RTC_SCENE_FLAG_ROBUST);
-    rtcSetSharedGeometryBuffer(mesh, RTC_BUFFER_TYPE_VERTEX, 0, RTC_FORMAT_FLOAT3, soup.positions.data(), 0,
-                               sizeof(osg::Pnt3f), soup.positions.size());
-    rtcSetSharedGeometryBuffer(mesh, RTC_BUFFER_TYPE_INDEX, 0, RTC_FORMAT_UINT3, soup.triangles.data(), 0,
-                               3 * sizeof(std::uint32_t), getTriangleCount());
+    rtcSetSceneFlags(scene,
+                     expectsRefits ? RTC_SCENE_FLAG_ROBUST | RTC_SCENE_FLAG_DYNAMIC
+                                   : RTC_SCENE_FLAG_ROBUST);
+    rtcSetSharedGeometryBuffer(mesh, RTC_BUFFER_TYPE_VERTEX, 0, RTC_FORMAT_FLOAT3,
+                               soup.positions.data(), 0, sizeof(osg::Pnt3f), soup.positions.size());
+    rtcSetSharedGeometryBuffer(mesh, RTC_BUFFER_TYPE_INDEX, 0, RTC_FORMAT_UINT3,
+                               soup.triangles.data(), 0, 3 * sizeof(std::uint32_t),
+                               getTriangleCount());
     rtcCommitGeometry(mesh);
     rtcAttachGeometry(scene, mesh);
     rtcReleaseGeometry(mesh);
@@ -109,11 +129,12 @@ void PickTree::buildTree(bool expectsRefits)
 
 void PickTree::refitTree()
 {
-    soup.positions.reserve(soup.positions.size() + 1);
-    rtcSetSharedGeometryBuffer(mesh, RTC_BUFFER_TYPE_VERTEX, 0, RTC_FORMAT_FLOAT3, soup.positions.data(), 0,
-                               sizeof(osg::Pnt3f), soup.positions.size());
-    rtcSetSharedGeometryBuffer(mesh, RTC_BUFFER_TYPE_INDEX, 0, RTC_FORMAT_UINT3, soup.triangles.data(), 0,
-                               3 * sizeof(std::uint32_t), getTriangleCount());
+    makeRoom();
+    rtcSetSharedGeometryBuffer(mesh, RTC_BUFFER_TYPE_VERTEX, 0, RTC_FORMAT_FLOAT3,
+                               soup.positions.data(), 0, sizeof(osg::Pnt3f), soup.positions.size());
+    rtcSetSharedGeometryBuffer(mesh, RTC_BUFFER_TYPE_INDEX, 0, RTC_FORMAT_UINT3,
+                               soup.triangles.data(), 0, 3 * sizeof(std::uint32_t),
+                               getTriangleCount());
     rtcSetGeometryBuildQuality(mesh, RTC_BUILD_QUALITY_REFIT);
     rtcCommitGeometry(mesh);
     if (!commitScene(scene)) {

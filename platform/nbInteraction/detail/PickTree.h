@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "PickView.h"
-#include "TriangleSoup.h"
-
 #include <cstdint>
+
+#include "GeometrySoup.h"
+#include "PickView.h"
 
 typedef struct RTCGeometryTy* RTCGeometry;
 typedef struct RTCSceneTy* RTCScene;
@@ -42,8 +42,9 @@ public:
     PickTree(const PickTree&) = delete;
     PickTree& operator=(const PickTree&) = delete;
 
-    /// Takes the triangles of a geometry; also when they have changed. If only positions differ from the last call, the
-    /// tree keeps its shape and only its boxes are refitted (from the second such call on; now and then it is rebuilt).
+    /// Takes the triangles of a geometry; also when they have changed. If only positions differ
+    /// from the last call, the tree keeps its shape and only its boxes are refitted (from the
+    /// second such call on; now and then it is rebuilt).
     void assign(GeometrySoup soup);
 
     /// Finds the nearest triangle with 0 <= t <= ray.tFar, both faces.
@@ -51,16 +52,22 @@ public:
     /// @return false on a miss, which changes nothing
     bool intersect(PickRay& ray, TreeHit& hit) const;
 
+    /// Of the triangles.
     const PickBounds& getBounds() const { return bounds; }
+
+    /// All positions of the geometry, those of lines and points too.
+    const std::vector<osg::Pnt3f>& getPositions() const { return soup.positions; }
 
     std::size_t getTriangleCount() const { return soup.triangles.size() / 3; }
 
-    /// @return how often a tree was built from nothing, and how often refitted; for tests of the update strategy
+    /// @return how often a tree was built from nothing, and how often refitted; for tests of the
+    /// update strategy
     std::size_t getBuildCount() const { return buildCount; }
 
     std::size_t getRefitCount() const { return refitCount; }
 
 private:
+    void makeRoom();
     void buildTree(bool expectsRefits);
     void refitTree();
     void dropTree();

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "PickView.h"
 
-#include <Eigen/LU>
-
 #include <cmath>
 #include <cstring>
+
+#include <Eigen/LU>
 
 namespace nbec::interaction::detail {
 
@@ -16,7 +16,8 @@ osg::Vec3f unit(double x, double y, double z)
     if (!(length > 0.0) || !std::isfinite(length)) {
         return {};
     }
-    return { static_cast<float>(x / length), static_cast<float>(y / length), static_cast<float>(z / length) };
+    return { static_cast<float>(x / length), static_cast<float>(y / length),
+             static_cast<float>(z / length) };
 }
 
 osg::Pnt3f toPoint(const std::array<double, 3>& p)
@@ -38,7 +39,8 @@ bool PickView::pixelCentre(const osg::Pnt2f& px, ScreenPoint& centre) const
 {
     const float x = px[0];
     const float y = px[1];
-    if (!(x >= 0.0f && y >= 0.0f && x < static_cast<float>(widthPx) && y < static_cast<float>(heightPx))) {
+    if (!(x >= 0.0f && y >= 0.0f && x < static_cast<float>(widthPx) &&
+          y < static_cast<float>(heightPx))) {
         return false;
     }
     centre = { std::floor(x) + 0.5f, std::floor(y) + 0.5f };
@@ -71,8 +73,8 @@ ScreenProjection::Projected ScreenProjection::project(const osg::Pnt3f& world) c
     const double z = world[2];
     Projected result {};
     for (std::size_t row = 0; row < 4; ++row) {
-        result.clip[row] =
-            clipFromWorld[row] * x + clipFromWorld[4 + row] * y + clipFromWorld[8 + row] * z + clipFromWorld[12 + row];
+        result.clip[row] = clipFromWorld[row] * x + clipFromWorld[4 + row] * y +
+            clipFromWorld[8 + row] * z + clipFromWorld[12 + row];
     }
     result.depth = depthRow[0] * x + depthRow[1] * y + depthRow[2] * z + depthRow[3];
     return result;
@@ -91,7 +93,8 @@ PickRay ScreenProjection::rayThrough(const ScreenPoint& position) const
     const double dx = end[0] - start[0];
     const double dy = end[1] - start[1];
     const double dz = end[2] - start[2];
-    return { toPoint(start), unit(dx, dy, dz), static_cast<float>(std::sqrt(dx * dx + dy * dy + dz * dz)) };
+    return { toPoint(start), unit(dx, dy, dz),
+             static_cast<float>(std::sqrt(dx * dx + dy * dy + dz * dz)) };
 }
 
 osg::Pnt3f ScreenProjection::pointAt(const ScreenPoint& position, double depth) const
@@ -108,7 +111,8 @@ osg::Pnt3f ScreenProjection::pointAt(const ScreenPoint& position, double depth) 
 
 std::array<double, 3> ScreenProjection::unproject(const ScreenPoint& position, double clipZ) const
 {
-    const double clip[4] = { position.x / halfWidth - 1.0, 1.0 - position.y / halfHeight, clipZ, 1.0 };
+    const double clip[4] = { position.x / halfWidth - 1.0, 1.0 - position.y / halfHeight, clipZ,
+                             1.0 };
     double result[4] = {};
     for (std::size_t row = 0; row < 4; ++row) {
         for (std::size_t column = 0; column < 4; ++column) {
@@ -159,7 +163,9 @@ osg::Vec3f transformNormal(const osg::Matrix& worldFromLocal, const osg::Vec3f& 
 
 double linearDeterminant(const osg::Matrix& m)
 {
-    const auto at = [&m](osg::UInt32 row, osg::UInt32 column) { return static_cast<double>(m[column][row]); };
+    const auto at = [&m](osg::UInt32 row, osg::UInt32 column) {
+        return static_cast<double>(m[column][row]);
+    };
     return at(0, 0) * (at(1, 1) * at(2, 2) - at(1, 2) * at(2, 1)) -
         at(0, 1) * (at(1, 0) * at(2, 2) - at(1, 2) * at(2, 0)) +
         at(0, 2) * (at(1, 0) * at(2, 1) - at(1, 1) * at(2, 0));

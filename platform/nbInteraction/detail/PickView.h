@@ -1,31 +1,33 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ScreenGeometry.h"
-
 #include <OpenSG/OSGMatrix.h>
 #include <OpenSG/OSGVector.h>
 
 #include <array>
+
+#include "ScreenGeometry.h"
 
 namespace nbec::interaction::detail {
 
 /// Camera and size of the view in which something is picked.
 struct PickView
 {
-    osg::Matrix viewing;     ///< 4x4, column vectors, camera from world
+    osg::Matrix viewing;  ///< 4x4, column vectors, camera from world
     osg::Matrix projection;  ///< 4x4, column vectors, clip from camera
-    int widthPx = 0;         ///< device pixels
-    int heightPx = 0;        ///< device pixels
+    int widthPx = 0;  ///< device pixels
+    int heightPx = 0;  ///< device pixels
 
     /// Exact comparison: whether everything derived from the other view holds for this one.
     bool isSame(const PickView& other) const;
 
-    /// @return centre of the pixel that holds the position; false outside the view, for NaN and for a view without area
+    /// @return centre of the pixel that holds the position; false outside the view, for NaN and for
+    /// a view without area
     bool pixelCentre(const osg::Pnt2f& px, ScreenPoint& centre) const;
 };
 
-/// A ray in world or local space: origin + t direction, 0 <= t <= tFar. The direction need not be unit.
+/// A ray in world or local space: origin + t direction, 0 <= t <= tFar. The direction need not be
+/// unit.
 struct PickRay
 {
     osg::Pnt3f origin;
@@ -34,14 +36,16 @@ struct PickRay
 };
 
 /// Maps between world space and the pixels of a view; all arithmetic in double.
-/// Pixel (0, 0) covers screen positions from 0 to 1, so that its centre is (0.5, 0.5) and the view spans 0 .. width.
+/// Pixel (0, 0) covers screen positions from 0 to 1, so that its centre is (0.5, 0.5) and the view
+/// spans 0 .. width.
 class ScreenProjection
 {
 public:
     ScreenProjection() = default;
     explicit ScreenProjection(const PickView& view);
 
-    /// @return whether the view has an area and the camera's matrices can be inverted; false: nothing can be picked
+    /// @return whether the view has an area and the camera's matrices can be inverted; false:
+    /// nothing can be picked
     bool isValid() const { return valid; }
 
     /// Clip coordinates and view depth of a world position.
@@ -82,8 +86,9 @@ private:
     bool valid = false;
 };
 
-/// World-space normal of a surface, unit length, zero if it has none. Scales, shears and mirrors are taken into account:
-/// the inverse transposed matrix, which is the matrix of cofactors up to the determinant's size.
+/// World-space normal of a surface, unit length, zero if it has none. Scales, shears and mirrors
+/// are taken into account: the inverse transposed matrix, which is the matrix of cofactors up to
+/// the determinant's size.
 /// @param worldFromLocal  4x4, column vectors; may be singular
 osg::Vec3f transformNormal(const osg::Matrix& worldFromLocal, const osg::Vec3f& localNormal);
 

@@ -12,14 +12,16 @@ struct ScreenPoint
     float y = 0.0f;
 };
 
-/// The point of a segment or triangle nearest to a position on screen, as weights of the corners (sum 1).
+/// The point of a segment or triangle nearest to a position on screen, as weights of the corners
+/// (sum 1).
 struct ScreenNearest
 {
     float weights[3] = { 1.0f, 0.0f, 0.0f };
     float squaredDistancePx = 0.0f;
 };
 
-/// Axis-parallel box on screen, edges included. Empty (nothing is near it) until something is added.
+/// Axis-parallel box on screen, edges included. Empty (nothing is near it) until something is
+/// added.
 struct ScreenBox
 {
     static constexpr float kFar = 3.0e38f;
@@ -45,18 +47,21 @@ struct ScreenBox
         maxY = std::max(maxY, box.maxY);
     }
 
-    /// @return whether p lies within `margin` pixels of the box along both axes; false for NaN and for an empty box
+    /// @return whether p lies within `margin` pixels of the box along both axes; false for NaN and
+    /// for an empty box
     bool isNear(const ScreenPoint& p, float margin) const
     {
-        // No short circuit: the four comparisons together are cheaper than a branch that is predicted badly.
+        // No short circuit: the four comparisons together are cheaper than a branch that is
+        // predicted badly.
         return static_cast<int>(p.x >= minX - margin) & static_cast<int>(p.x <= maxX + margin) &
             static_cast<int>(p.y >= minY - margin) & static_cast<int>(p.y <= maxY + margin);
     }
 };
 
-/// Nearest point of the segment a b to p. weights[2] is 0; for a segment without length weights[0] is 1.
-/// With s = (p - a).(b - a) / |b - a|^2, clamped to 0 .. 1, the point is a + s (b - a).
-inline ScreenNearest nearestOnSegment(const ScreenPoint& p, const ScreenPoint& a, const ScreenPoint& b)
+/// Nearest point of the segment a b to p. weights[2] is 0; for a segment without length weights[0]
+/// is 1. With s = (p - a).(b - a) / |b - a|^2, clamped to 0 .. 1, the point is a + s (b - a).
+inline ScreenNearest nearestOnSegment(const ScreenPoint& p, const ScreenPoint& a,
+                                      const ScreenPoint& b)
 {
     const float dx = b.x - a.x;
     const float dy = b.y - a.y;
@@ -70,10 +75,10 @@ inline ScreenNearest nearestOnSegment(const ScreenPoint& p, const ScreenPoint& a
     return { { 1.0f - s, s, 0.0f }, rx * rx + ry * ry };
 }
 
-/// Nearest point of the filled triangle a b c to p, whichever way it winds; distance 0 inside and on the edges.
-/// A triangle without area (seen edge-on) is the union of its edges.
-inline ScreenNearest nearestOnTriangle(const ScreenPoint& p, const ScreenPoint& a, const ScreenPoint& b,
-                                       const ScreenPoint& c)
+/// Nearest point of the filled triangle a b c to p, whichever way it winds; distance 0 inside and
+/// on the edges. A triangle without area (seen edge-on) is the union of its edges.
+inline ScreenNearest nearestOnTriangle(const ScreenPoint& p, const ScreenPoint& a,
+                                       const ScreenPoint& b, const ScreenPoint& c)
 {
     const auto doubleArea = [](const ScreenPoint& u, const ScreenPoint& v, const ScreenPoint& w) {
         return (v.x - u.x) * (w.y - u.y) - (w.x - u.x) * (v.y - u.y);

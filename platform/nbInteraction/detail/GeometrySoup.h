@@ -12,9 +12,10 @@ namespace nbec::interaction::detail {
 struct GeometrySoup
 {
     std::vector<osg::Pnt3f> positions;
-    std::vector<std::uint32_t> triangles;  ///< three per triangle, in the order of osg::TriangleIterator
-    std::vector<std::uint32_t> segments;   ///< two per segment of a line
-    std::vector<std::uint32_t> points;     ///< one per point
+    std::vector<std::uint32_t>
+        triangles;  ///< three per triangle, in the order of osg::TriangleIterator
+    std::vector<std::uint32_t> segments;  ///< two per segment of a line
+    std::vector<std::uint32_t> points;  ///< one per point
 };
 
 }  // namespace nbec::interaction::detail
