@@ -146,8 +146,8 @@ bool Camera::calcViewRay(Line& line, Int32 x, Int32 y, const Viewport& port)
     getProjection(projection, width, height);
     getProjectionTranslation(translation, width, height);
     getViewing(viewing, width, height);
-    const Grid screenFromWorld
-        = product(product(product(unit(), projection), translation), viewing);
+    const Grid screenFromWorld =
+        product(product(product(unit(), projection), translation), viewing);
 
     // In double and by homogeneous points: in single precision the difference of two close points
     // loses the direction far from the origin. A far plane at infinity works too.

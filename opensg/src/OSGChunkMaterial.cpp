@@ -49,8 +49,8 @@ Int32 ChunkMaterial::find(StateChunkPtr chunk) const
 StateChunkPtr ChunkMaterial::find(const FieldContainerType& type, Int32 slot) const
 {
     for (UInt32 i = 0; i < mfChunks.getSize(); ++i) {
-        if (mfChunks[i]->getType() == type
-            && (slot == State::AutoSlotReplace || slotOf(i) == slot)) {
+        if (mfChunks[i]->getType() == type &&
+            (slot == State::AutoSlotReplace || slotOf(i) == slot)) {
             return mfChunks[i];
         }
     }

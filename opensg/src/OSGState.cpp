@@ -38,9 +38,8 @@ bool State::addChunk(StateChunkPtr chunk, Int32 slot)
 
 bool State::subChunk(StateChunkPtr chunk)
 {
-    const auto found = std::find_if(chunks.begin(), chunks.end(), [&](const auto& entry) {
-        return entry == chunk;
-    });
+    const auto found = std::find_if(chunks.begin(), chunks.end(),
+                                    [&](const auto& entry) { return entry == chunk; });
     if (chunk == NullFC || found == chunks.end()) {
         SWARNING << "State::subChunk: the chunk is not in force" << std::endl;
         return false;
@@ -66,9 +65,8 @@ bool State::chunkPresent(UInt32 classId) const
 
 bool State::isTransparent() const
 {
-    return std::any_of(chunks.begin(), chunks.end(), [](const auto& entry) {
-        return entry != NullFC && entry->isTransparent();
-    });
+    return std::any_of(chunks.begin(), chunks.end(),
+                       [](const auto& entry) { return entry != NullFC && entry->isTransparent(); });
 }
 
 }  // namespace osg

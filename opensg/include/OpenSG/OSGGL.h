@@ -118,3 +118,6 @@ typedef float GLfloat;
 #define GL_ADD 0x0104
 #define GL_REPLACE 0x1E01
 #define GL_COMBINE 0x8570
+
+/// A setting of a chunk that is not used.
+#define OSG_GL_UNUSED 0xffff

@@ -7,6 +7,8 @@
 #include <OpenSG/OSGGL.h>
 #include <OpenSG/OSGImageFields.h>
 
+#include <cstddef>
+
 namespace osg {
 
 #define OSG_IMAGE_FIELDS(VALUE, OWNED, LINK, VALUES, OWNEDS, LINKS)                                \
@@ -35,7 +37,8 @@ namespace osg {
 class Image : public AttachmentContainer
 {
 public:
-    enum Type {
+    enum Type
+    {
         OSG_INVALID_IMAGEDATA = 0,
         OSG_UINT8_IMAGEDATA = GL_UNSIGNED_BYTE,
         OSG_UINT16_IMAGEDATA = GL_UNSIGNED_SHORT,
@@ -44,7 +47,8 @@ public:
         OSG_FLOAT16_IMAGEDATA = GL_HALF_FLOAT
     };
 
-    enum PixelFormat {
+    enum PixelFormat
+    {
         OSG_INVALID_PF = 0,
         OSG_A_PF = GL_ALPHA,
         OSG_I_PF = GL_INTENSITY,
@@ -97,7 +101,7 @@ public:
     /// Levels of the whole mipmap chain down to one pixel.
     UInt32 calcMipmapLevelCount() const;
 
-    /// Converts to another format, keeping the base level only.
+    /// Converts to another format, mipmaps, frames and sides along.
     ///
     /// Deliberate: brightness is the plain average of red, green and blue, rounded down, whatever
     /// the alpha; where a source without alpha meets a target with alpha, the alpha is the
@@ -121,6 +125,16 @@ public:
     /// Files are the host's business: both log one warning and answer false.
     bool read(const Char8* fileName);
     bool write(const Char8* fileName) const;
+
+private:
+    /// Bytes of one level of one side of one frame.
+    std::size_t levelBytes(UInt32 level) const;
+
+    /// Whether there are pixels of one byte per component; otherwise a warning.
+    bool canConvert(const Char8* operation) const;
+
+    bool resampleTo(Int32 newWidth, Int32 newHeight, Int32 newDepth, Int32 levels,
+                    const ImagePtr& destination);
 };
 
 }  // namespace osg

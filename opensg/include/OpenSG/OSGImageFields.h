@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <OpenSG/OSGAttachmentContainerFields.h>
+#include <OpenSG/OSGAttachmentContainerPtr.h>
 #include <OpenSG/OSGContainerMacros.h>
 
 namespace osg {

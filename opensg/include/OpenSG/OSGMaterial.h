@@ -22,9 +22,13 @@ class Material : public AttachmentContainer
     OSG_ABSTRACT_CONTAINER(Material, AttachmentContainer, OSG_MATERIAL_FIELDS);
 
 public:
-    enum { NoStateSorting = 0x7fffffff };
+    enum
+    {
+        NoStateSorting = 0x7fffffff
+    };
 
-    enum {
+    enum
+    {
         TransparencyAutoDetection = 0,
         TransparencyForceTransparent = 1,
         TransparencyForceOpaque = 2

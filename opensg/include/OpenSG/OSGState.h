@@ -22,8 +22,9 @@ class State : public FieldContainer
 
 public:
     /// Slots of addChunk that are no slot numbers.
-    enum {
-        AutoSlot = -1,        ///< the first free slot of the chunk's kind
+    enum
+    {
+        AutoSlot = -1,  ///< the first free slot of the chunk's kind
         AutoSlotReplace = -2  ///< slot 0; what is there gives way
     };
 

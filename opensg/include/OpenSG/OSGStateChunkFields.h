@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <OpenSG/OSGAttachmentFields.h>
+#include <OpenSG/OSGAttachmentPtr.h>
 #include <OpenSG/OSGContainerMacros.h>
 
 namespace osg {
