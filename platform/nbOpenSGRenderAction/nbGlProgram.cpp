@@ -43,6 +43,14 @@ GLuint compile(Gl& gl, GLenum stage, const std::string& text, std::string& error
     return 0;
 }
 
+void bindAttributes(Gl& gl, GLuint program)
+{
+    const char* const names[] = { "nbPosition", "nbNormal", "nbColor", "nbTexCoord" };
+    for (GLuint location = 0; location < 4; ++location) {
+        gl.glBindAttribLocation(program, location, names[location]);
+    }
+}
+
 }  // namespace
 
 bool GlProgram::build(Gl& gl, const std::string& vertexText, const std::string& geometryText,
@@ -70,6 +78,7 @@ bool GlProgram::build(Gl& gl, const std::string& vertexText, const std::string& 
         }
     }
     if (good) {
+        bindAttributes(gl, program);
         gl.glLinkProgram(program);
         GLint linked = GL_FALSE;
         gl.glGetProgramiv(program, GL_LINK_STATUS, &linked);
@@ -97,47 +106,59 @@ void GlProgram::destroy(Gl& gl)
     }
     id = 0;
     locations.clear();
+    literalLocations.clear();
 }
 
-GLint GlProgram::locate(Gl& gl, const char* name)
+GLint GlProgram::locate(Gl& gl, const std::string& name)
 {
     const auto known = locations.find(name);
     if (known != locations.end()) {
         return known->second;
     }
-    const GLint location = gl.glGetUniformLocation(id, name);
+    const GLint location = gl.glGetUniformLocation(id, name.c_str());
     locations.emplace(name, location);
+    return location;
+}
+
+GLint GlProgram::locateLiteral(Gl& gl, const char* name)
+{
+    const auto known = literalLocations.find(name);
+    if (known != literalLocations.end()) {
+        return known->second;
+    }
+    const GLint location = gl.glGetUniformLocation(id, name);
+    literalLocations.emplace(name, location);
     return location;
 }
 
 void GlProgram::set(Gl& gl, const char* name, const osg::Matrix& value)
 {
-    gl.glUniformMatrix4fv(locate(gl, name), 1, GL_FALSE, value.getValues());
+    gl.glUniformMatrix4fv(locateLiteral(gl, name), 1, GL_FALSE, value.getValues());
 }
 
 void GlProgram::set(Gl& gl, const char* name, float value)
 {
-    gl.glUniform1f(locate(gl, name), value);
+    gl.glUniform1f(locateLiteral(gl, name), value);
 }
 
 void GlProgram::set(Gl& gl, const char* name, GLint value)
 {
-    gl.glUniform1i(locate(gl, name), value);
+    gl.glUniform1i(locateLiteral(gl, name), value);
 }
 
 void GlProgram::set(Gl& gl, const char* name, float x, float y)
 {
-    gl.glUniform2f(locate(gl, name), x, y);
+    gl.glUniform2f(locateLiteral(gl, name), x, y);
 }
 
 void GlProgram::set(Gl& gl, const char* name, float x, float y, float z)
 {
-    gl.glUniform3f(locate(gl, name), x, y, z);
+    gl.glUniform3f(locateLiteral(gl, name), x, y, z);
 }
 
 void GlProgram::set(Gl& gl, const char* name, float x, float y, float z, float w)
 {
-    gl.glUniform4f(locate(gl, name), x, y, z, w);
+    gl.glUniform4f(locateLiteral(gl, name), x, y, z, w);
 }
 
 }  // namespace nbrender

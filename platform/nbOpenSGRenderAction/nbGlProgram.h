@@ -12,7 +12,8 @@ namespace nbrender {
 
 using Gl = QOpenGLFunctions_3_3_Core;
 
-/// A linked shader program. Needs the context that it was built in for everything but construction;
+/// A linked shader program. Vertex attributes have the places and names of shaderHeaderString(), also
+/// where a text declares them without a place. Needs the context that it was built in for everything but construction;
 /// who owns it calls destroy() there, or drops it when the context is gone.
 class GlProgram
 {
@@ -33,7 +34,11 @@ public:
     // == Uniforms; the program must be in use, names that it does not have are ignored
 
     /// Location of a uniform, -1 if there is none; looked up once per name.
-    GLint locate(Gl& gl, const char* name);
+    GLint locate(Gl& gl, const std::string& name);
+    /// The same for a string literal, told by its address.
+    GLint locateLiteral(Gl& gl, const char* name);
+
+    // The names of these are string literals.
 
     void set(Gl& gl, const char* name, const osg::Matrix& value);
     void set(Gl& gl, const char* name, float value);
@@ -45,6 +50,7 @@ public:
 private:
     GLuint id = 0;
     std::unordered_map<std::string, GLint> locations;
+    std::unordered_map<const void*, GLint> literalLocations;
 };
 
 }  // namespace nbrender
