@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 /// @file
 /// Containers of one's own, from one source for the bundled scene graph and for a real OpenSG 1.8.
-/// Used inside namespace osg, each line with a semicolon:
+/// Used inside namespace osg, each line with a semicolon (lists of several lines need backslashes):
 ///
 ///     NB_CONTAINER_POINTER(Dial, TransformPtr);        // class Dial, DialPtr, DialRefPtr
 ///
