@@ -14,7 +14,8 @@ class Attachment : public FieldContainer
     OSG_TYPE_ACCESS_(Attachment, FieldContainer);
 
 public:
-    enum {
+    enum
+    {
         ParentsFieldId = Inherited::NextFieldId,
         NextFieldId
     };

@@ -14,7 +14,8 @@ class AttachmentContainer : public FieldContainer
     OSG_TYPE_ACCESS_(AttachmentContainer, FieldContainer);
 
 public:
-    enum {
+    enum
+    {
         AttachmentsFieldId = Inherited::NextFieldId,
         NextFieldId
     };

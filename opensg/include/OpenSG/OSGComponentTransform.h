@@ -15,8 +15,9 @@ namespace osg {
     VALUE(ScaleOrientation, scaleOrientation, Quaternion, Quaternion())                            \
     VALUE(Translation, translation, Vec3f, Vec3f(0.f, 0.f, 0.f))
 
-/// A transform whose matrix is made of its parts: T C R SO S SO^-1 C^-1. The matrix is current after
-/// endEditCP with a mask that holds one of the parts. Angles in radians, lengths in the parent's units.
+/// A transform whose matrix is made of its parts: T C R SO S SO^-1 C^-1. The matrix is current
+/// after endEditCP with a mask that holds one of the parts. Angles in radians, lengths in the
+/// parent's units.
 class ComponentTransform : public Transform
 {
     OSG_CONTAINER(ComponentTransform, Transform, OSG_COMPONENT_TRANSFORM_FIELDS);

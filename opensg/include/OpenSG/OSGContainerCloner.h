@@ -17,7 +17,8 @@ public:
     ///                    derived from it is shared. An unknown name is logged and ignored.
     explicit ContainerCloner(const std::string& shareTypes);
 
-    /// What a copied field refers to: the source itself if it is null or shared, otherwise a deep copy.
+    /// What a copied field refers to: the source itself if it is null or shared, otherwise a deep
+    /// copy.
     template <class Pointer>
     Pointer copyOf(const Pointer& source)
     {

@@ -4,29 +4,33 @@
 ///
 /// == Pointers: in OSG<Class>Fields.h or in the class's own header, in namespace osg
 ///
-///     OSG_CONTAINER_POINTER(LineChunk, StateChunkPtr);   // class LineChunk, LineChunkPtr, LineChunkRefPtr,
-///                                                        // SFLineChunkPtr, MFLineChunkPtr; may be repeated
+///     OSG_CONTAINER_POINTER(LineChunk, StateChunkPtr);   // class LineChunk, LineChunkPtr,
+///     LineChunkRefPtr,
+///                                                        // SFLineChunkPtr, MFLineChunkPtr; may be
+///                                                        repeated
 ///
-/// == Class: OSG<Class>.h
+/// == Class: OSG<Class>.h (a list of several lines needs the usual backslashes, left out here)
 ///
-///     #define OSG_LINE_CHUNK_FIELDS(VALUE, OWNED, LINK) \
-///         VALUE(Width, width, Real32, 1.f)              \
+///     #define OSG_LINE_CHUNK_FIELDS(VALUE, OWNED, LINK)
+///         VALUE(Width, width, Real32, 1.f)
 ///         VALUE(Smooth, smooth, bool, false)
 ///
 ///     class LineChunk : public StateChunk
 ///     {
-///         OSG_STATE_CHUNK(LineChunk, StateChunk, OSG_LINE_CHUNK_FIELDS);   // a chunk class of its own
+///         OSG_STATE_CHUNK(LineChunk, StateChunk, OSG_LINE_CHUNK_FIELDS);   // a chunk class of its
+///         own
 ///
 ///     public:
 ///         bool isTransparent() const override;
 ///     };
 ///
-/// OSG_CONTAINER(Class, Base, FIELDS) for any other class, OSG_ABSTRACT_CONTAINER for one that cannot
-/// be created (no `create`, no prototype). OSG_NO_FIELDS is the empty list.
+/// OSG_CONTAINER(Class, Base, FIELDS) for any other class, OSG_ABSTRACT_CONTAINER for one that
+/// cannot be created (no `create`, no prototype). OSG_NO_FIELDS is the empty list.
 ///
 /// == Source: OSG<Class>.cpp, in namespace osg
 ///
-///     OSG_STATE_CHUNK_TYPE(LineChunk, StateChunk);   // or OSG_CONTAINER_TYPE, OSG_ABSTRACT_CONTAINER_TYPE
+///     OSG_STATE_CHUNK_TYPE(LineChunk, StateChunk);   // or OSG_CONTAINER_TYPE,
+///     OSG_ABSTRACT_CONTAINER_TYPE
 ///
 /// and one line in the table of OSGBuiltinCoreTypes.cpp, OSGBuiltinGeometryTypes.cpp or
 /// OSGBuiltinMaterialTypes.cpp, so that osgInit makes the type known to the factory by name.
@@ -35,33 +39,42 @@
 ///
 /// `Inherited`, `Ptr`, `create()` (count 0), `getClassType()`, `getClassTypeId()`, `getType()`,
 /// `shallowCopy()`, default and copy constructor and destructor (protected), deep cloning, and per
-/// field the enumerator XFieldId, the mask XFieldMask (1 << id, ids continue those of the base) and:
+/// field the enumerator XFieldId, the mask XFieldMask (1 << id, ids continue those of the base)
+/// and:
 ///
-///     VALUE(Width, width, Real32, 1.f)        T& getWidth(), const T& getWidth() const, setWidth(const T&),
+///     VALUE(Width, width, Real32, 1.f)        T& getWidth(), const T& getWidth() const,
+///     setWidth(const T&),
 ///                                             SField<T>* getSFWidth(); member sfWidth
-///     OWNED(Image, image, ImagePtr)           the same without the non-const reference; +1 while held, -1
-///                                             when replaced and with the container's end; copied by deepClone
-///     LINK(Beacon, beacon, NodePtr)           the same, but neither counted nor followed; null in a deepClone
+///     OWNED(Image, image, ImagePtr)           the same without the non-const reference; +1 while
+///     held, -1
+///                                             when replaced and with the container's end; copied
+///                                             by deepClone
+///     LINK(Beacon, beacon, NodePtr)           the same, but neither counted nor followed; null in
+///     a deepClone
 ///
-/// A class with multi fields writes a list of six and says OSG_MULTI_CONTAINER, OSG_MULTI_STATE_CHUNK
-/// or OSG_ABSTRACT_MULTI_CONTAINER (the ..._TYPE macros are the same ones):
+/// A class with multi fields writes a list of six and says OSG_MULTI_CONTAINER,
+/// OSG_MULTI_STATE_CHUNK or OSG_ABSTRACT_MULTI_CONTAINER (the ..._TYPE macros are the same ones):
 ///
-///     #define OSG_CHUNK_MATERIAL_FIELDS(VALUE, OWNED, LINK, VALUES, OWNEDS, LINKS) \
-///         OWNEDS(Chunks, chunks, StateChunkPtr)                                    \
+///     #define OSG_CHUNK_MATERIAL_FIELDS(VALUE, OWNED, LINK, VALUES, OWNEDS, LINKS)
+///         OWNEDS(Chunks, chunks, StateChunkPtr)
 ///         VALUES(Slots, slots, Int32)
 ///
-///     VALUES(Slots, slots, Int32)             MField<T>* getMFSlots(), MField<T>& getSlots() and const,
+///     VALUES(Slots, slots, Int32)             MField<T>* getMFSlots(), MField<T>& getSlots() and
+///     const,
 ///                                             T& getSlots(UInt32 index) and const; member mfSlots
-///     OWNEDS(Chunks, chunks, StateChunkPtr)   the same; each entry is counted. The class adds and removes with
-///                                             addOwned(mfChunks, chunk, *this), eraseOwned(mfChunks, index, *this),
-///                                             replaceOwned(mfChunks, index, chunk, *this), clearOwned(mfChunks, *this)
+///     OWNEDS(Chunks, chunks, StateChunkPtr)   the same; each entry is counted. The class adds and
+///     removes with
+///                                             addOwned(mfChunks, chunk, *this),
+///                                             eraseOwned(mfChunks, index, *this),
+///                                             replaceOwned(mfChunks, index, chunk, *this),
+///                                             clearOwned(mfChunks, *this)
 ///     LINKS(Port, port, ViewportPtr)          the same, not counted; empty in a deepClone
 ///
-/// Setters are plain: they write at once, announce nothing and call no `changed`. A reaction to an edit is an
-/// override of `changed(BitVector, UInt32)` that ends with Inherited::changed. What an OWNED or OWNEDS entry
-/// points to is told by ownerAdded and ownerRemoved (see FieldContainer). A class that nothing drawn depends
-/// on (cameras, viewports) overrides noteEdit with an empty body. Further data members need start values
-/// where they are declared; a copy starts with those.
+/// Setters are plain: they write at once, announce nothing and call no `changed`. A reaction to an
+/// edit is an override of `changed(BitVector, UInt32)` that ends with Inherited::changed. What an
+/// OWNED or OWNEDS entry points to is told by ownerAdded and ownerRemoved (see FieldContainer). A
+/// class that nothing drawn depends on (cameras, viewports) overrides noteEdit with an empty body.
+/// Further data members need start values where they are declared; a copy starts with those.
 #pragma once
 
 #include <OpenSG/OSGContainerCloner.h>

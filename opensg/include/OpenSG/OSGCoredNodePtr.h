@@ -2,12 +2,19 @@
 #pragma once
 
 #include <OpenSG/OSGNodeCorePtr.h>
-#include <OpenSG/OSGNodePtr.h>
+#include <OpenSG/OSGNodeFields.h>
 
 namespace osg {
 
 /// A new node with the core; count 0. A null core gives a node without one.
 NodePtr makeNodeFor(const NodeCorePtr& core);
+
+namespace detail {
+
+/// Null for a null node.
+NodeCorePtr coreOf(const NodePtr& node);
+
+}  // namespace detail
 
 /// A new node with a new core: `makeCoredNode<Group>()`; count 0.
 template <class Core>
@@ -40,7 +47,7 @@ public:
 
     CoredNodePtr& operator=(const NodePtr& node)
     {
-        corePointer = node != NullFC ? CorePtr::dcast(node->getCore()) : CorePtr();
+        corePointer = CorePtr::dcast(detail::coreOf(node));
         nodePointer = corePointer != NullFC ? node : NodePtr();
         return *this;
     }

@@ -3,35 +3,35 @@
 
 #include <OpenSG/OSGFieldContainerPtr.h>
 
-#include <OpenSG/OSGFieldContainerType.h>
-
 namespace osg {
 
 class ContainerCloner;
 
 /// Base of everything that is counted, has an id and a type and can be edited.
 /// Made by the create function of the class, destroyed by subRefCP; lives on the heap.
-/// Left out of real OpenSG: aspects, executeSync, access to fields by description, binary size, dump.
+/// Left out of real OpenSG: aspects, executeSync, access to fields by description, binary size,
+/// dump.
 class FieldContainer
 {
 public:
     using Ptr = FieldContainerPtr;
 
-    enum {
+    enum
+    {
         NextFieldId = 1
     };
 
     static FieldContainerType& getClassType() { return classType; }
 
-    static UInt32 getClassTypeId() { return classType.getId(); }
+    static UInt32 getClassTypeId();
 
     virtual FieldContainerType& getType() { return classType; }
 
     virtual const FieldContainerType& getType() const { return classType; }
 
-    const Char8* getTypeName() const { return getType().getCName(); }
+    const Char8* getTypeName() const;
 
-    UInt32 getTypeId() const { return getType().getId(); }
+    UInt32 getTypeId() const;
 
     /// A container of the same class with equal fields; counted pointer fields are counted once
     /// more. Count 0.

@@ -23,7 +23,8 @@ public:
     static FieldContainerFactory* the();
 
     /// Makes types that were constructed since the last call known by name, base classes first, and
-    /// creates their prototypes. osgInit calls it; so does whoever loads a library with types later.
+    /// creates their prototypes. osgInit calls it; so does whoever loads a library with types
+    /// later.
     void initializePendingTypes();
 
     /// Destroys the prototypes and forgets the types until the next initializePendingTypes.

@@ -25,10 +25,12 @@ struct FieldBits
     static constexpr BitVector AllFields = ~BitVector(0);
 };
 
-/// Who made an edit; the second argument of `changed`. The subset passes it on and gives it no meaning.
+/// Who made an edit; the second argument of `changed`. The subset passes it on and gives it no
+/// meaning.
 struct ChangedOrigin
 {
-    enum : UInt32 {
+    enum : UInt32
+    {
         Abstract = 0x01,
         Sync = 0x02,
         Child = 0x04,
@@ -130,8 +132,9 @@ protected:
     FieldContainer* target = nullptr;
 };
 
-/// What all typed pointers share: Base is the pointer of the base class, Object the container class,
-/// Self the pointer class itself. Object may be incomplete until a pointer to it is followed.
+/// What all typed pointers share: Base is the pointer of the base class, Object the container
+/// class, Self the pointer class itself. Object may be incomplete until a pointer to it is
+/// followed.
 template <class Base, class Object, class Self>
 class TypedContainerPtr : public Base
 {
@@ -246,3 +249,4 @@ private:
 #define CPEditAll(pointer) const osg::CPEditor pointer##Editor(pointer)
 
 #include <OpenSG/OSGFieldContainer.h>
+#include <OpenSG/OSGFieldContainerType.h>

@@ -26,7 +26,8 @@ class Node : public AttachmentContainer
     OSG_CREATION_(Node);
 
 public:
-    enum {
+    enum
+    {
         VolumeFieldId = Inherited::NextFieldId,
         TravMaskFieldId,
         ParentFieldId,
@@ -73,7 +74,8 @@ public:
     /// Index, or -1.
     Int32 findChild(const NodePtr& child) const;
 
-    /// Takes a child off; it is destroyed if nobody else holds it. A node that is no child is logged.
+    /// Takes a child off; it is destroyed if nobody else holds it. A node that is no child is
+    /// logged.
     void subChild(const NodePtr& child);
     void subChild(UInt32 index);
 
@@ -147,15 +149,18 @@ protected:
 
 private:
     friend class NodeCore;
+    friend class ContainerCloner;
     struct WorldCache;
 
     void noteSubtreeChange();
     void attach(UInt32 index, const NodePtr& child);
     void removeAt(UInt32 index);
-    void childrenChanged();
     void extendVolume();
     WorldCache& worldCacheBelow(const WorldCache* above, const Matrix& local);
     const WorldCache* findWorld();
+    /// Without a cloner cores are shared and attachments left out.
+    NodePtr copyAlone(ContainerCloner* cloner) const;
+    NodePtr copyTree(ContainerCloner* cloner) const;
 
     SField<UInt32> sfTravMask { 0xffffffffu };
     SFNodePtr sfParent;

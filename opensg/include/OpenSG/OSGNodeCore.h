@@ -16,7 +16,8 @@ class NodeCore : public AttachmentContainer
     OSG_TYPE_ACCESS_(NodeCore, AttachmentContainer);
 
 public:
-    enum {
+    enum
+    {
         ParentsFieldId = Inherited::NextFieldId,
         NextFieldId
     };

@@ -14,7 +14,8 @@ class Switch : public Group
 {
 public:
     /// Choices besides the index of a child.
-    enum {
+    enum
+    {
         ALL = -2,
         NONE = -1
     };

@@ -1,0 +1,8 @@
+// SPDX-License-Identifier: MIT
+#include "OSGBuiltinTypes.h"
+
+namespace osg {
+
+void referenceGeometryTypes() { }
+
+}  // namespace osg
