@@ -123,10 +123,11 @@ std::vector<osg::NodePtr> Picker::pickRectangle(const QRect& rect)
         return {};
     }
     detail::ScreenBox box;
-    box.extend({ static_cast<float>(normalised.left()), static_cast<float>(normalised.top()) });
+    box.minX = static_cast<float>(normalised.left());
+    box.minY = static_cast<float>(normalised.top());
     // Pixel n covers n .. n + 1.
-    box.extend({ static_cast<float>(normalised.right()) + 1.0f,
-                 static_cast<float>(normalised.bottom()) + 1.0f });
+    box.maxX = static_cast<float>(normalised.right()) + 1.0f;
+    box.maxY = static_cast<float>(normalised.bottom()) + 1.0f;
     return scenePicking->pickInside(nbScenegraph::getWorldRoot(), view, box);
 }
 
