@@ -33,6 +33,9 @@ UInt32 componentSize(Int32 type)
 /// Most bytes of a base level; with its mipmaps the size still fits into 32 bits.
 constexpr double kMostBytes = 2147483648.0;
 
+/// Levels beyond this one would all be one pixel, whatever the size.
+constexpr Int32 kMostMipmaps = 32;
+
 /// Size of a mipmap level in one direction.
 Int32 levelSize(Int32 size, UInt32 level)
 {
@@ -58,6 +61,7 @@ bool Image::set(UInt32 newFormat, Int32 newWidth, Int32 newHeight, Int32 newDept
     const UInt32 componentBytes = componentSize(type);
     const bool possible = layout != nullptr && componentBytes > 0 &&
         std::min({ newWidth, newHeight, newDepth, mipmapCount, frameCount, sideCount }) >= 1 &&
+        mipmapCount <= kMostMipmaps &&
         double(newWidth) * newHeight * newDepth * layout->components * componentBytes * frameCount *
                 sideCount <=
             kMostBytes;
@@ -68,6 +72,8 @@ bool Image::set(UInt32 newFormat, Int32 newWidth, Int32 newHeight, Int32 newDept
                  << std::endl;
         return false;
     }
+    const ImagePtr self(*this);
+    beginEditCP(self);
     setPixelFormat(newFormat);
     setWidth(newWidth);
     setHeight(newHeight);
@@ -86,6 +92,7 @@ bool Image::set(UInt32 newFormat, Int32 newWidth, Int32 newHeight, Int32 newDept
         pixels.assign(getSize(), 0);
     }
     mfPixel.swap(pixels);
+    endEditCP(self);
     return true;
 }
 

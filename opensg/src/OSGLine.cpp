@@ -2,7 +2,7 @@
 #include <OpenSG/OSGBoxVolume.h>
 #include <OpenSG/OSGLine.h>
 
-#include <utility>
+#include "RayTest.h"
 
 namespace osg {
 
@@ -28,60 +28,23 @@ bool Line::getClosestPoints(const Line& other, Pnt3f& onThis, Pnt3f& onOther) co
 bool Line::intersect(const Pnt3f& v0, const Pnt3f& v1, const Pnt3f& v2, Real32& t,
                      Vec3f* normal) const
 {
-    // Barycentric coordinates u, v of the point by Cramer's rule; their limits need no division.
-    const Vec3f edge1 = v1 - v0;
-    const Vec3f edge2 = v2 - v0;
-    const Vec3f p = direction.cross(edge2);
-    const Real32 det = edge1.dot(p);
-    // Relative to the edges: small triangles are met as well as large ones.
-    if (det * det <= Eps * Eps * edge1.squareLength() * p.squareLength()) {
+    if (!detail::meetsTriangle({ position, direction }, v0, v1, v2, t)) {
         return false;
     }
-    const Vec3f offset = position - v0;
-    const Real32 inverse = 1.f / det;
-    const Real32 u = offset.dot(p) * inverse;
-    if (!(u >= 0.f && u <= 1.f)) {
-        return false;
-    }
-    const Vec3f q = offset.cross(edge1);
-    const Real32 v = direction.dot(q) * inverse;
-    if (!(v >= 0.f && u + v <= 1.f)) {
-        return false;
-    }
-    t = edge2.dot(q) * inverse;
     if (normal != nullptr) {
-        *normal = edge1.cross(edge2);
+        *normal = (v1 - v0).cross(v2 - v0);
         // Not normalize(): the product of short edges may be below its threshold.
-        *normal *= 1.f / normal->length();
+        *normal /= normal->length();
     }
     return true;
 }
 
 bool Line::intersect(const BoxVolume& box, Real32& enter, Real32& exit) const
 {
-    if (box.isEmpty()) {
-        return false;
-    }
     Real32 from = 0.f;
     Real32 to = Inf;
-    for (UInt32 i = 0; i < 3; ++i) {
-        const Real32 low = box.getMin()[i] - position[i];
-        const Real32 high = box.getMax()[i] - position[i];
-        if (direction[i] == 0.f) {
-            if (low > 0.f || high < 0.f) {
-                return false;
-            }
-            continue;
-        }
-        Real32 first = low / direction[i];
-        Real32 last = high / direction[i];
-        if (first > last) {
-            std::swap(first, last);
-        }
-        from = osgMax(from, first);
-        to = osgMin(to, last);
-    }
-    if (from > to) {
+    if (box.isEmpty() ||
+        !detail::meetsBox({ position, direction }, box.getMin(), box.getMax(), from, to)) {
         return false;
     }
     enter = from;

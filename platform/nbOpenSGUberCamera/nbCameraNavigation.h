@@ -65,8 +65,9 @@ public:
     static osg::Vec3f worldUp(const CameraPose& pose);
 
     /// Axes of the pose's camera. back = (from - at) / |from - at|, right = up x back, normalised,
-    /// up = back x right. from = at gives the front view's direction; an up vector of length 0 or
-    /// along the axis is replaced by the world axis that is farthest from the view axis.
+    /// up = back x right. from = at gives the front view's direction. An up vector of length 0 or
+    /// along the axis is replaced by world up; is that along the axis too, by the up vector of the
+    /// standard view from above or below.
     static Axes axes(const CameraPose& pose);
 
     /// Field of view that is used for one that is given: clamped to kSmallestFovDeg ..
@@ -125,7 +126,8 @@ public:
     static CameraPose frame(const CameraPose& start, const osg::Pnt3f& boundsMin,
                             const osg::Pnt3f& boundsMax, osg::Real32 aspect);
 
-    /// Looks at the pivot from a standard direction, from the distance that the eye had to it.
+    /// Looks at the pivot from a standard direction, from the distance that the eye had to it
+    /// (orthographic: |at - from|, so that the size stays).
     /// Y-up: front looks along -z, right along -x, top along -y with -z up, bottom along y with z
     /// up. Z-up: front looks along y, right along -x, top along -z with y up, bottom along z with
     /// -y up. Three-quarter: from 45 degrees to the right of front, 30 degrees above.

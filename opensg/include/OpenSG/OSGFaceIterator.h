@@ -9,7 +9,7 @@ namespace osg {
 struct FaceSplitter
 {
     static UInt32 count(UInt32 type, UInt32 length);
-    static UInt32 corners(UInt32 type, UInt32 part, UInt32 (&vertices)[4]);
+    static UInt32 corners(UInt32 type, UInt32 part, UInt32 length, UInt32 (&vertices)[4]);
 };
 
 /// The triangles and quads of a geometry (getLength 3 or 4): strips, fans and polygons are split

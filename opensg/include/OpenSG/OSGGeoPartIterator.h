@@ -9,7 +9,8 @@ namespace osg {
 /// functions how many parts a primitive has and which of its vertices are the corners of one of
 /// them:
 ///     UInt32 count(UInt32 type, UInt32 length);
-///     UInt32 corners(UInt32 type, UInt32 part, UInt32 (&vertices)[4]);   // how many corners
+///     UInt32 corners(UInt32 type, UInt32 part, UInt32 length, UInt32 (&vertices)[4]);   // how
+///     many corners
 /// One made by its constructor is not at the first part: seek(0) it.
 template <class Splitter>
 class GeoPartIterator
@@ -118,7 +119,11 @@ protected:
 private:
     Int32 corner(Int32 which) const { return static_cast<Int32>(vertices[which]); }
 
-    void load() { cornerCount = Splitter::corners(primitives.getType(), part, vertices); }
+    void load()
+    {
+        cornerCount =
+            Splitter::corners(primitives.getType(), part, primitives.getLength(), vertices);
+    }
 
     PrimitiveIterator primitives;
     Int32 index = 0;

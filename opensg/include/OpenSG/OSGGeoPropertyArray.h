@@ -138,7 +138,8 @@ public:
     using StoredFieldType = MField<StoredT>;
     using GenericType = typename BaseT::GenericType;
 
-    enum {
+    enum
+    {
         GeoPropDataFieldId = BaseT::NextFieldId,
         NextFieldId
     };

@@ -43,8 +43,12 @@ class Geometry : public MaterialDrawable
     OSG_MULTI_CONTAINER(Geometry, MaterialDrawable, OSG_GEOMETRY_FIELDS);
 
 public:
+    /// What an edit of one of the properties counts as.
+    static constexpr BitVector PropertyFieldsMask = (IndicesFieldMask << 1) - TypesFieldMask;
+
     /// Masks of the index mapping.
-    enum : UInt16 {
+    enum : UInt16
+    {
         MapPosition = 1,
         MapNormal = 2,
         MapColor = 4,

@@ -24,7 +24,14 @@ public:
 
     UInt32 getLength(UInt32 primitive) const { return lengths->getValue(primitive); }
 
-    // == Index of a vertex in a property, counting the vertices of all primitives; -1 if there is none
+    /// Vertices that there are data for, whatever the lengths say: tuples of indices, or positions.
+    UInt32 getVertexCount() const
+    {
+        return indices.property != nullptr ? indices.size / stride : positions.size;
+    }
+
+    // == Index of a vertex in a property, counting the vertices of all primitives; -1 if there is
+    // none
 
     Int32 getPositionIndex(UInt32 vertex) const { return index(positions.entry, vertex); }
 
@@ -48,9 +55,6 @@ private:
     template <class Value>
     struct Source
     {
-        template <class Property, class Concrete>
-        void open(const Property& source, Int32 mappingEntry);
-
         Value read(Int32 at) const
         {
             // A negative index is a very large one here.

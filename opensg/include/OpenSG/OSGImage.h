@@ -63,7 +63,8 @@ public:
     OSG_MULTI_CONTAINER(Image, AttachmentContainer, OSG_IMAGE_FIELDS);
 
 public:
-    /// Takes over sizes and a copy of the data.
+    /// Takes over sizes and a copy of the data. Opens its own edit, as all functions here do that
+    /// change an image as a whole.
     /// @param pixelFormat  one of PixelFormat
     /// @param width, height, depth  pixels, at least 1
     /// @param frameDelay   seconds between frames
@@ -76,7 +77,7 @@ public:
              const UInt8* data = nullptr, Int32 type = OSG_UINT8_IMAGEDATA, bool allocMem = true,
              Int32 sideCount = 1);
 
-    /// Becomes a copy of another image; false for null.
+    /// Becomes a copy of another image; false for null and for an image without a size.
     bool set(ImagePtr other);
 
     /// First byte of a mipmap; null without data or if it does not exist.

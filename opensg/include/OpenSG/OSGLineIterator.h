@@ -9,7 +9,7 @@ namespace osg {
 struct LineSplitter
 {
     static UInt32 count(UInt32 type, UInt32 length);
-    static UInt32 corners(UInt32 type, UInt32 part, UInt32 (&vertices)[4]);
+    static UInt32 corners(UInt32 type, UInt32 part, UInt32 length, UInt32 (&vertices)[4]);
 };
 
 /// The lines of a geometry: strips and loops are split, a loop is closed. Triangles have none.

@@ -9,7 +9,7 @@ namespace osg {
 struct TriangleSplitter
 {
     static UInt32 count(UInt32 type, UInt32 length);
-    static UInt32 corners(UInt32 type, UInt32 part, UInt32 (&vertices)[4]);
+    static UInt32 corners(UInt32 type, UInt32 part, UInt32 length, UInt32 (&vertices)[4]);
 };
 
 /// The triangles of a geometry: strips, fans, quads and polygons are split. A strip gives the
