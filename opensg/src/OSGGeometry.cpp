@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <OpenSG/OSGBoxVolume.h>
 #include <OpenSG/OSGFaceIterator.h>
 #include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGGeometryView.h>

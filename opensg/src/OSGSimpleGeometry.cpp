@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGSimpleGeometry.h>
 
 #include "ShapeBuilder.h"
@@ -7,41 +6,6 @@
 namespace osg {
 
 namespace {
-
-/// One shared material, kept by id: the container may be gone after osgExit.
-template <class Make>
-MaterialPtr sharedMaterial(UInt32& id, Make make)
-{
-    MaterialPtr material = MaterialPtr::dcast(FieldContainerFactory::the()->getContainer(id));
-    if (material == NullFC) {
-        material = make();
-        addRefCP(material);
-        id = material.getFieldContainerId();
-    }
-    return material;
-}
-
-MaterialPtr makeDefaultMaterial()
-{
-    const SimpleMaterialPtr material = SimpleMaterial::create();
-    beginEditCP(material);
-    material->setDiffuse(Color3f(0.7f, 0.7f, 0.5f));
-    material->setAmbient(Color3f(0.1f, 0.1f, 0.1f));
-    material->setSpecular(Color3f(1.f, 1.f, 1.f));
-    material->setShininess(20.f);
-    endEditCP(material);
-    return material;
-}
-
-MaterialPtr makeDefaultUnlitMaterial()
-{
-    const SimpleMaterialPtr material = SimpleMaterial::create();
-    beginEditCP(material);
-    material->setDiffuse(Color3f(1.f, 1.f, 0.5f));
-    material->setLit(false);
-    endEditCP(material);
-    return material;
-}
 
 /// A divided rectangle: its lower left corner and its edges.
 struct Rectangle
@@ -77,18 +41,6 @@ void addRectangle(detail::ShapeBuilder& shape, const Rectangle& rectangle)
 }
 
 }  // namespace
-
-MaterialPtr getDefaultMaterial()
-{
-    static UInt32 id = 0;
-    return sharedMaterial(id, makeDefaultMaterial);
-}
-
-MaterialPtr getDefaultUnlitMaterial()
-{
-    static UInt32 id = 0;
-    return sharedMaterial(id, makeDefaultUnlitMaterial);
-}
 
 GeometryPtr makePlaneGeo(Real32 xsize, Real32 ysize, UInt16 hor, UInt16 vert)
 {

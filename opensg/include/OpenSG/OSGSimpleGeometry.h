@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <OpenSG/OSGDefaultMaterials.h>
 #include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGNode.h>
-#include <OpenSG/OSGSimpleMaterial.h>
 
 /// @file
 /// Simple shapes, each as geometry and as a node with it (count 0, unnamed). All arguments are
@@ -16,12 +16,6 @@
 /// radius <= 0) give NullFC and a warning.
 
 namespace osg {
-
-/// Diffuse (0.7, 0.7, 0.5), lit; one object for all. Null before osgInit.
-MaterialPtr getDefaultMaterial();
-
-/// Diffuse (1, 1, 0.5), unlit; one object for all.
-MaterialPtr getDefaultUnlitMaterial();
 
 /// In the XY plane, centred, normal +z; rows of vertices from bottom to top, a strip per row.
 NodePtr makePlane(Real32 xsize, Real32 ysize, UInt16 hor, UInt16 vert);
