@@ -303,7 +303,7 @@ void ItemPainter::drawLines(const RenderItem& item, const DrawState& state, cons
     setMaterial(program, item, state, false, mesh.hasColors);
     setTexture(program, state, false);
     gl.glBindVertexArray(mesh.lines);
-    gl.glDrawArraysInstanced(GL_TRIANGLE_FAN, 0, shaders::kLinePolygonVertices, mesh.lineCount);
+    gl.glDrawArraysInstanced(GL_TRIANGLE_STRIP, 0, shaders::kLinePolygonVertices, mesh.lineCount);
 }
 
 void ItemPainter::drawPoints(const RenderItem& item, const DrawState& state, const GpuMesh& mesh)

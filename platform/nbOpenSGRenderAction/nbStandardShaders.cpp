@@ -50,17 +50,25 @@ vec2 lineInPx(vec4 a, vec4 b)
 {
     return (b.xy / b.w - a.xy / a.w) * 0.5 * nbViewportSize;
 }
-vec4 lineCorner(vec4 a, vec4 b, int corner)
+// Corners in the order of a strip across the line: small triangles for the ends, two for the length.
+const int kCorners[14] = int[14](3, 2, 4, 1, 5, 0, 6, 13, 7, 12, 8, 11, 9, 10);
+vec4 lineCorner(vec4 a, vec4 b, int vertex)
 {
     vec2 along = lineInPx(a, b);
     float lengthPx = length(along);
     along = lengthPx > 1e-6 ? along / lengthPx : vec2(1.0, 0.0);
+    int corner = kCorners[vertex];
     bool atEnd = corner < 7;
     float angle = (float(corner % 7) / 6.0 - 0.5) * 3.14159265;
-    vec2 offsetPx = cos(angle) * along + sin(angle) * vec2(-along.y, along.x);
-    offsetPx *= (atEnd ? 0.5 : -0.5) * lineWidth;
+    float side = (atEnd ? 0.5 : -0.5) * lineWidth;
+    float beyondPx = cos(angle) * side;
+    vec2 offsetPx = beyondPx * along + sin(angle) * side * vec2(-along.y, along.x);
     vec4 place = atEnd ? b : a;
     place.xy += offsetPx * 2.0 / nbViewportSize * place.w;
+    // The depth goes on at the line's slope, so that coincident lines of other lengths have the same.
+    if (lengthPx > lineWidth) {
+        place.z += beyondPx / lengthPx * (b.z / b.w - a.z / a.w) * place.w;
+    }
     return place;
 }
 )";
@@ -82,7 +90,7 @@ void main()
     viewPosition = vec3(0.0, 0.0, -1.0);
     viewNormal = vec3(0.0);
     texCoord = vec2(0.0);
-    bool atEnd = gl_VertexID < 7;
+    bool atEnd = kCorners[gl_VertexID] < 7;
     vertexColor = atEnd ? endColor : startColor;
     lineDistancePx = 0.0;
     if (!cutAtNearPlane(a, b)) {
@@ -104,10 +112,8 @@ void main()
     if (!cutAtNearPlane(a, b)) {
         return;
     }
-    for (int i = 0; i < 7; ++i) {
+    for (int i = 0; i < 14; ++i) {
         gl_Position = lineCorner(a, b, i);
-        EmitVertex();
-        gl_Position = lineCorner(a, b, 13 - i);
         EmitVertex();
     }
     EndPrimitive();

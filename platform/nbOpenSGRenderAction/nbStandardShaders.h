@@ -13,7 +13,7 @@ std::string surfaceFragment();  ///< materials for both of them
 /// Widens the lines of a user's program, like lineVertex, from clip positions alone.
 std::string lineGeometry();
 
-/// Vertices of the polygon that lineVertex makes of a line, drawn as a triangle fan.
+/// Vertices of the polygon that lineVertex makes of a line, drawn as a triangle strip.
 constexpr int kLinePolygonVertices = 14;
 
 std::string fullScreenVertex();  ///< one triangle over everything, without attributes
