@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 /// @file
 /// Containers of one's own, from one source for the bundled scene graph and for a real OpenSG 1.8.
-/// Used inside namespace osg, each line with a semicolon:
+/// Used inside namespace osg, each line with a semicolon (lists of several lines need backslashes):
 ///
 ///     NB_CONTAINER_POINTER(Dial, TransformPtr);        // class Dial, DialPtr, DialRefPtr
 ///
-///     #define DIAL_FIELDS(VALUE, OWNED, LINK)                     \
-///         VALUE(Offset, offset, Vec3f, Vec3f(0.f, 0.f, 0.f))      \
-///         OWNED(Paint, paint, MaterialPtr)                        \
+///     #define DIAL_FIELDS(VALUE, OWNED, LINK)
+///         VALUE(Offset, offset, Vec3f, Vec3f(0.f, 0.f, 0.f))
+///         OWNED(Paint, paint, MaterialPtr)
 ///         LINK(Target, target, NodePtr)
 ///         // VALUE(name for ids and functions, name of the field, type, start value):
 ///         //     getOffset (a reference), setOffset, getSFOffset, OffsetFieldId, OffsetFieldMask
