@@ -56,8 +56,8 @@ void apply(DrawState& state, const osg::BlendChunkPtr& chunk)
     state.blendDestination = chunk->getDestFactor();
     state.blendSourceAlpha = alphaFactor(chunk->getAlphaSrcFactor(), chunk->getSrcFactor());
     state.blendDestinationAlpha = alphaFactor(chunk->getAlphaDestFactor(), chunk->getDestFactor());
-    state.blendEquation = chunk->getEquation() == GL_NONE ? GLenum(GL_FUNC_ADD)
-                                                          : chunk->getEquation();
+    state.blendEquation =
+        chunk->getEquation() == GL_NONE ? GLenum(GL_FUNC_ADD) : chunk->getEquation();
     state.blendColor = chunk->getColor();
     state.alphaFunc = chunk->getAlphaFunc() == GL_NONE ? GLenum(GL_ALWAYS) : chunk->getAlphaFunc();
     state.alphaValue = chunk->getAlphaValue();
@@ -93,11 +93,11 @@ void apply(DrawState& state, const osg::PolygonChunkPtr& chunk)
     state.cullFace = chunk->getCullFace();
     state.frontFace = chunk->getFrontFace();
     // Core profiles have one mode for both sides; a side that is left out has no say.
-    state.polygonMode
-        = chunk->getCullFace() == GL_FRONT ? chunk->getBackMode() : chunk->getFrontMode();
-    const bool hasOffset = (state.polygonMode == GL_FILL && chunk->getOffsetFill())
-        || (state.polygonMode == GL_LINE && chunk->getOffsetLine())
-        || (state.polygonMode == GL_POINT && chunk->getOffsetPoint());
+    state.polygonMode =
+        chunk->getCullFace() == GL_FRONT ? chunk->getBackMode() : chunk->getFrontMode();
+    const bool hasOffset = (state.polygonMode == GL_FILL && chunk->getOffsetFill()) ||
+        (state.polygonMode == GL_LINE && chunk->getOffsetLine()) ||
+        (state.polygonMode == GL_POINT && chunk->getOffsetPoint());
     state.offsetFactor = hasOffset ? chunk->getOffsetFactor() : 0.f;
     state.offsetBias = hasOffset ? chunk->getOffsetBias() : 0.f;
 }
@@ -115,11 +115,10 @@ bool applyIf(DrawState& state, const osg::StateChunkPtr& chunk)
 
 void applyChunk(DrawState& state, const osg::StateChunkPtr& chunk)
 {
-    if (chunk == osg::NullFC || applyIf<osg::BlendChunkPtr>(state, chunk)
-        || applyIf<osg::DepthChunkPtr>(state, chunk)
-        || applyIf<osg::DepthTestChunkPtr>(state, chunk)
-        || applyIf<osg::LineChunkPtr>(state, chunk)
-        || applyIf<osg::PolygonChunkPtr>(state, chunk)) {
+    if (chunk == osg::NullFC || applyIf<osg::BlendChunkPtr>(state, chunk) ||
+        applyIf<osg::DepthChunkPtr>(state, chunk) ||
+        applyIf<osg::DepthTestChunkPtr>(state, chunk) || applyIf<osg::LineChunkPtr>(state, chunk) ||
+        applyIf<osg::PolygonChunkPtr>(state, chunk)) {
         return;
     }
     if (osg::TextureChunkPtr::dcast(chunk) != osg::NullFC) {

@@ -4,6 +4,7 @@
 #include <OpenSG/OSGChunkMaterial.h>
 #include <OpenSG/OSGColor.h>
 #include <OpenSG/OSGGL.h>
+#include <OpenSG/OSGImage.h>
 #include <OpenSG/OSGMaterial.h>
 #include <OpenSG/OSGSHLChunk.h>
 #include <OpenSG/OSGTextureChunk.h>
@@ -54,7 +55,7 @@ struct DrawState
     float offsetBias = 0.f;
 
     osg::UInt32 textureId = 0;  ///< container id of the TextureChunk, 0 for none
-    osg::UInt32 shaderId = 0;   ///< container id of the SHLChunk, 0 for none
+    osg::UInt32 shaderId = 0;  ///< container id of the SHLChunk, 0 for none
 };
 
 /// State of a material; of null that of a grey lit surface.

@@ -45,8 +45,8 @@ bool FrameTargets::make(Gl& gl, int samples, std::string& error)
     GLint largest = 0;
     gl.glGetIntegerv(GL_MAX_RENDERBUFFER_SIZE, &largest);
     if (madeWidth > largest || madeHeight > largest) {
-        error = "a picture of " + sizeText(madeWidth, madeHeight) + " exceeds the driver's limit of "
-            + std::to_string(largest);
+        error = "a picture of " + sizeText(madeWidth, madeHeight) +
+            " exceeds the driver's limit of " + std::to_string(largest);
         return false;
     }
     madeSamples = clampSamples(gl, samples);
@@ -54,8 +54,8 @@ bool FrameTargets::make(Gl& gl, int samples, std::string& error)
     gl.glBindFramebuffer(GL_FRAMEBUFFER, drawFramebuffer);
     gl.glGenRenderbuffers(3, renderbuffers);
     constexpr GLenum kFormats[] = { GL_RGBA8, GL_RGBA8, GL_DEPTH_COMPONENT24 };
-    constexpr GLenum kAttachments[]
-        = { GL_COLOR_ATTACHMENT0, GL_COLOR_ATTACHMENT1, GL_DEPTH_ATTACHMENT };
+    constexpr GLenum kAttachments[] = { GL_COLOR_ATTACHMENT0, GL_COLOR_ATTACHMENT1,
+                                        GL_DEPTH_ATTACHMENT };
     for (int i = 0; i < 3; ++i) {
         gl.glBindRenderbuffer(GL_RENDERBUFFER, renderbuffers[i]);
         gl.glRenderbufferStorageMultisample(GL_RENDERBUFFER, madeSamples > 1 ? madeSamples : 0,
@@ -79,8 +79,8 @@ bool FrameTargets::make(Gl& gl, int samples, std::string& error)
     gl.glBindTexture(GL_TEXTURE_2D, 0);
     const bool canResolve = gl.glCheckFramebufferStatus(GL_FRAMEBUFFER) == GL_FRAMEBUFFER_COMPLETE;
     if (!canDraw || !canResolve) {
-        error = "the driver refuses frame buffers of " + sizeText(madeWidth, madeHeight) + " with "
-            + std::to_string(madeSamples) + " samples";
+        error = "the driver refuses frame buffers of " + sizeText(madeWidth, madeHeight) +
+            " with " + std::to_string(madeSamples) + " samples";
     }
     return canDraw && canResolve;
 }

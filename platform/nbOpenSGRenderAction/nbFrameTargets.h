@@ -7,12 +7,17 @@
 
 namespace nbrender {
 
-/// Where a frame is drawn: colour, effect and depth with several samples per pixel, and two textures that
-/// receive the resolved colour and effect. 8 bits per component, unconverted; depth has 24 bits.
+/// Where a frame is drawn: colour, effect and depth with several samples per pixel, and two
+/// textures that receive the resolved colour and effect. 8 bits per component, unconverted; depth
+/// has 24 bits.
 class FrameTargets
 {
 public:
-    enum class Buffer { Color, Effect };
+    enum class Buffer
+    {
+        Color,
+        Effect
+    };
 
     /// Makes the buffers for a size, if they are not there yet, and binds them for drawing.
     /// @param samples  wanted samples per pixel; the driver's limit holds, 1 or less is one
@@ -25,8 +30,8 @@ public:
     /// Texture with the resolved picture.
     GLuint getTexture(Buffer buffer) const { return textures[buffer == Buffer::Color ? 0 : 1]; }
 
-    /// The resolved picture, rows from top to bottom: colour without alpha, effect with it. Null before
-    /// the first frame.
+    /// The resolved picture, rows from top to bottom: colour without alpha, effect with it. Null
+    /// before the first frame.
     QImage read(Gl& gl, Buffer buffer) const;
 
     /// Samples per pixel that the driver really gave.

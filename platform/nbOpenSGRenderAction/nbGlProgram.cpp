@@ -57,11 +57,13 @@ bool GlProgram::build(Gl& gl, const std::string& vertexText, const std::string& 
                       const std::string& fragmentText, std::string& error)
 {
     destroy(gl);
+
     struct Stage
     {
         GLenum kind;
         const std::string& text;
     };
+
     const Stage stages[] = { { GL_VERTEX_SHADER, vertexText },
                              { GL_GEOMETRY_SHADER, geometryText },
                              { GL_FRAGMENT_SHADER, fragmentText } };

@@ -12,9 +12,10 @@ namespace nbrender {
 
 using Gl = QOpenGLFunctions_3_3_Core;
 
-/// A linked shader program. Vertex attributes have the places and names of shaderHeaderString(), also
-/// where a text declares them without a place. Needs the context that it was built in for everything but construction;
-/// who owns it calls destroy() there, or drops it when the context is gone.
+/// A linked shader program. Vertex attributes have the places and names of shaderHeaderString(),
+/// also where a text declares them without a place. Needs the context that it was built in for
+/// everything but construction; who owns it calls destroy() there, or drops it when the context is
+/// gone.
 class GlProgram
 {
 public:

@@ -11,22 +11,22 @@
 namespace nbrender {
 
 /// Buffers of one geometry. Attribute locations of surfaces, points and plainLines: 0 position,
-/// 1 normal, 2 colour, 3 texture coordinates (the latter two as far as they exist); of lines, one instance
-/// per line: 0 and 1 position and colour of the start, 2 and 3 of the end.
+/// 1 normal, 2 colour, 3 texture coordinates (the latter two as far as they exist); of lines, one
+/// instance per line: 0 and 1 position and colour of the start, 2 and 3 of the end.
 struct GpuMesh
 {
-    GLuint surfaces = 0;    ///< vertex array with an index buffer
-    GLuint lines = 0;       ///< vertex array, instanced
+    GLuint surfaces = 0;  ///< vertex array with an index buffer
+    GLuint lines = 0;  ///< vertex array, instanced
     GLuint plainLines = 0;  ///< vertex array, two vertices per line
-    GLuint points = 0;      ///< vertex array
+    GLuint points = 0;  ///< vertex array
     GLsizei triangleIndexCount = 0;
     GLsizei lineCount = 0;
     GLsizei pointCount = 0;
     bool hasColors = false;
 };
 
-/// Vertex buffers of geometries by container id: made on first use, made anew when the geometry's stamp
-/// has moved, dropped when the geometry is gone. Needs the current context of its first use.
+/// Vertex buffers of geometries by container id: made on first use, made anew when the geometry's
+/// stamp has moved, dropped when the geometry is gone. Needs the current context of its first use.
 class GpuMeshes
 {
 public:

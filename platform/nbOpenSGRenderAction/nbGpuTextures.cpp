@@ -13,8 +13,8 @@ namespace nbrender {
 
 namespace {
 
-/// How an image format is kept: core profiles know red, green, blue and alpha alone; the old formats are
-/// made of these by swizzling.
+/// How an image format is kept: core profiles know red, green, blue and alpha alone; the old
+/// formats are made of these by swizzling.
 struct Layout
 {
     osg::UInt32 format;
@@ -27,14 +27,62 @@ struct Layout
 };
 
 constexpr Layout kLayouts[] = {
-    { osg::Image::OSG_A_PF, GL_RED, GL_R8, GL_R16F, { GL_ONE, GL_ONE, GL_ONE, GL_RED }, false, true },
-    { osg::Image::OSG_I_PF, GL_RED, GL_R8, GL_R16F, { GL_RED, GL_RED, GL_RED, GL_RED }, true, true },
-    { osg::Image::OSG_L_PF, GL_RED, GL_R8, GL_R16F, { GL_RED, GL_RED, GL_RED, GL_ONE }, true, false },
-    { osg::Image::OSG_LA_PF, GL_RG, GL_RG8, GL_RG16F, { GL_RED, GL_RED, GL_RED, GL_GREEN }, true, true },
-    { osg::Image::OSG_RGB_PF, GL_RGB, GL_RGB8, GL_RGB16F, { GL_RED, GL_GREEN, GL_BLUE, GL_ONE }, true, false },
-    { osg::Image::OSG_BGR_PF, GL_BGR, GL_RGB8, GL_RGB16F, { GL_RED, GL_GREEN, GL_BLUE, GL_ONE }, true, false },
-    { osg::Image::OSG_RGBA_PF, GL_RGBA, GL_RGBA8, GL_RGBA16F, { GL_RED, GL_GREEN, GL_BLUE, GL_ALPHA }, true, true },
-    { osg::Image::OSG_BGRA_PF, GL_BGRA, GL_RGBA8, GL_RGBA16F, { GL_RED, GL_GREEN, GL_BLUE, GL_ALPHA }, true, true },
+    { osg::Image::OSG_A_PF,
+      GL_RED,
+      GL_R8,
+      GL_R16F,
+      { GL_ONE, GL_ONE, GL_ONE, GL_RED },
+      false,
+      true },
+    { osg::Image::OSG_I_PF,
+      GL_RED,
+      GL_R8,
+      GL_R16F,
+      { GL_RED, GL_RED, GL_RED, GL_RED },
+      true,
+      true },
+    { osg::Image::OSG_L_PF,
+      GL_RED,
+      GL_R8,
+      GL_R16F,
+      { GL_RED, GL_RED, GL_RED, GL_ONE },
+      true,
+      false },
+    { osg::Image::OSG_LA_PF,
+      GL_RG,
+      GL_RG8,
+      GL_RG16F,
+      { GL_RED, GL_RED, GL_RED, GL_GREEN },
+      true,
+      true },
+    { osg::Image::OSG_RGB_PF,
+      GL_RGB,
+      GL_RGB8,
+      GL_RGB16F,
+      { GL_RED, GL_GREEN, GL_BLUE, GL_ONE },
+      true,
+      false },
+    { osg::Image::OSG_BGR_PF,
+      GL_BGR,
+      GL_RGB8,
+      GL_RGB16F,
+      { GL_RED, GL_GREEN, GL_BLUE, GL_ONE },
+      true,
+      false },
+    { osg::Image::OSG_RGBA_PF,
+      GL_RGBA,
+      GL_RGBA8,
+      GL_RGBA16F,
+      { GL_RED, GL_GREEN, GL_BLUE, GL_ALPHA },
+      true,
+      true },
+    { osg::Image::OSG_BGRA_PF,
+      GL_BGRA,
+      GL_RGBA8,
+      GL_RGBA16F,
+      { GL_RED, GL_GREEN, GL_BLUE, GL_ALPHA },
+      true,
+      true },
 };
 
 const Layout* findLayout(osg::UInt32 format)
@@ -108,18 +156,18 @@ GpuTexture GpuTextures::upload(Gl& gl, const osg::TextureChunkPtr& chunk)
 {
     GpuTexture result;
     const osg::ImagePtr image = chunk->getImage();
-    if (image == osg::NullFC || !image->isValid()
-        || image->getData(0, chunk->getFrame()) == nullptr) {
+    if (image == osg::NullFC || !image->isValid() ||
+        image->getData(0, chunk->getFrame()) == nullptr) {
         return result;
     }
     const Layout* layout = findLayout(image->getPixelFormat());
     GLint largest = 0;
     gl.glGetIntegerv(GL_MAX_TEXTURE_SIZE, &largest);
     if (layout == nullptr || image->getWidth() > largest || image->getHeight() > largest) {
-        nbLog::error("texture of " + std::to_string(image->getWidth()) + " x "
-                     + std::to_string(image->getHeight()) + " pixels, format "
-                     + std::to_string(image->getPixelFormat())
-                     + ", cannot be shown by this driver (limit " + std::to_string(largest) + ")");
+        nbLog::error("texture of " + std::to_string(image->getWidth()) + " x " +
+                     std::to_string(image->getHeight()) + " pixels, format " +
+                     std::to_string(image->getPixelFormat()) +
+                     ", cannot be shown by this driver (limit " + std::to_string(largest) + ")");
         return result;
     }
     gl.glGenTextures(1, &result.name);

@@ -3,6 +3,7 @@
 
 #include <nbOpenSGRenderAction/nbGlProgram.h>
 
+#include <OpenSG/OSGImage.h>
 #include <OpenSG/OSGTextureChunk.h>
 
 #include <unordered_map>
@@ -17,8 +18,8 @@ struct GpuTexture
     bool hasAlpha = false;
 };
 
-/// Textures by the container id of their chunk: made on first use, anew when the chunk or its image was
-/// edited, dropped when the chunk is gone. Needs the current context of its first use.
+/// Textures by the container id of their chunk: made on first use, anew when the chunk or its image
+/// was edited, dropped when the chunk is gone. Needs the current context of its first use.
 class GpuTextures
 {
 public:

@@ -21,7 +21,8 @@ namespace nbrender {
 
 namespace {
 
-/// Handles more transparent than this are blended; their materials use tiny transparencies to get sorted.
+/// Handles more transparent than this are blended; their materials use tiny transparencies to get
+/// sorted.
 constexpr float kOpaqueHandleTransparency = 0.01f;
 constexpr float kRounding = 1e-6f;
 
@@ -152,8 +153,8 @@ osg::UInt32 ItemList::stateFor(const osg::MaterialPtr& material, const osg::Mate
     DrawState state = resolveMaterial(ownMaterial ? material : group);
     if (handle) {
         applyChunks(state, group);
-        state.transparent
-            = state.shaderId == 0 && state.alpha < 1.f - kOpaqueHandleTransparency - kRounding;
+        state.transparent =
+            state.shaderId == 0 && state.alpha < 1.f - kOpaqueHandleTransparency - kRounding;
         state.depthTest = true;
         state.depthFunc = GL_LEQUAL;
         state.depthWrite = true;
@@ -190,8 +191,7 @@ void ItemList::assignDepthSteps()
     for (RenderItem& item : items) {
         if (item.handle) {
             const osg::Int64 steps = osg::Int64(item.secondKey) - lowest[item.manipulator];
-            item.depthSteps
-                = static_cast<osg::Int32>(std::min<osg::Int64>(steps, kMostDepthSteps));
+            item.depthSteps = static_cast<osg::Int32>(std::min<osg::Int64>(steps, kMostDepthSteps));
         }
     }
 }
@@ -221,7 +221,8 @@ void ItemList::dropCopies()
             std::memcpy(place.data(), item->worldFromObject.getValues(), sizeof place);
             const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(
                 osg::FieldContainerFactory::the()->getContainer(item->geometryId));
-            if (!seen.emplace(item->manipulator, item->geometryId, idOf(geometry->getMaterial()), place)
+            if (!seen.emplace(item->manipulator, item->geometryId, idOf(geometry->getMaterial()),
+                              place)
                      .second) {
                 continue;
             }
@@ -246,8 +247,8 @@ void ItemList::measure()
 void ItemList::forgetDeadBounds()
 {
     for (auto known = boundsById.begin(); known != boundsById.end();) {
-        const bool alive
-            = osg::FieldContainerFactory::the()->getContainer(known->first) != osg::NullFC;
+        const bool alive =
+            osg::FieldContainerFactory::the()->getContainer(known->first) != osg::NullFC;
         known = alive ? std::next(known) : boundsById.erase(known);
     }
 }

@@ -21,14 +21,14 @@ struct RenderItem
     osg::UInt32 stateIndex = 0;  ///< into ItemList::getStates()
     osg::Matrix worldFromObject;
     osg::BoxVolume bounds;  ///< world space
-    osg::Int32 key = 0;     ///< sort key, of the material group below a manipulator node
+    osg::Int32 key = 0;  ///< sort key, of the material group below a manipulator node
     osg::Int32 secondKey = 0;  ///< below a manipulator node the geometry's own sort key
     bool blended = false;
-    bool handle = false;     ///< below a manipulator node
+    bool handle = false;  ///< below a manipulator node
     bool auxiliary = false;  ///< below a node that is marked auxiliary
-    /// Handles: how many steps nearer than its place the item is drawn. It is the own sort key minus the
-    /// lowest one below the same manipulator node, at most kMostDepthSteps, so that of coincident lines
-    /// the one with the higher key, such as a highlighted shaft, is seen.
+    /// Handles: how many steps nearer than its place the item is drawn. It is the own sort key
+    /// minus the lowest one below the same manipulator node, at most kMostDepthSteps, so that of
+    /// coincident lines the one with the higher key, such as a highlighted shaft, is seen.
     osg::Int32 depthSteps = 0;
     osg::UInt32 manipulator = 0;  ///< number of the manipulator node that the item is below, from 1
 };
@@ -37,14 +37,14 @@ constexpr osg::Int32 kMostDepthSteps = 8;
 
 /// The geometries of a tree in drawing order, kept until something in the tree changes.
 ///
-/// Order: sort key ascending, opaque and blended items alike; within a key opaque items first, grouped
-/// by material, then the blended ones from back to front. Scene items are drawn with the material of the
-/// outermost material group above them, otherwise with their own. Below a manipulator node the groups
-/// above that node play no role; the outermost group below it replaces chunks of the same kind and gives
-/// the first key, while the rest of the material stays the geometry's. Of items below one manipulator
-/// node that are alike in geometry, material and place, as a depth pass copy has them, the last one in
-/// order is kept: each of them would paint the same picture.
-/// Inactive nodes, and what a Switch does not choose, are left out.
+/// Order: sort key ascending, opaque and blended items alike; within a key opaque items first,
+/// grouped by material, then the blended ones from back to front. Scene items are drawn with the
+/// material of the outermost material group above them, otherwise with their own. Below a
+/// manipulator node the groups above that node play no role; the outermost group below it replaces
+/// chunks of the same kind and gives the first key, while the rest of the material stays the
+/// geometry's. Of items below one manipulator node that are alike in geometry, material and place,
+/// as a depth pass copy has them, the last one in order is kept: each of them would paint the same
+/// picture. Inactive nodes, and what a Switch does not choose, are left out.
 class NB_PLATFORM_API ItemList
 {
 public:
@@ -66,6 +66,7 @@ public:
 
 private:
     struct Place;
+
     struct StateKey
     {
         osg::UInt32 material = 0;
@@ -77,14 +78,16 @@ private:
             return material == other.material && group == other.group && handle == other.handle;
         }
     };
+
     struct StateKeyHash
     {
         std::size_t operator()(const StateKey& key) const
         {
-            return (std::size_t(key.material) << 32U) ^ (std::size_t(key.group) << 1U)
-                ^ std::size_t(key.handle);
+            return (std::size_t(key.material) << 32U) ^ (std::size_t(key.group) << 1U) ^
+                std::size_t(key.handle);
         }
     };
+
     struct LocalBounds
     {
         osg::UInt64 stamp = 0;
@@ -94,7 +97,8 @@ private:
     void visit(const osg::NodePtr& node, const Place& above);
     void visitChildren(const osg::NodePtr& node, const Place& place);
     void addItem(const osg::GeometryPtr& geometry, const Place& place);
-    osg::UInt32 stateFor(const osg::MaterialPtr& material, const osg::MaterialPtr& group, bool handle);
+    osg::UInt32 stateFor(const osg::MaterialPtr& material, const osg::MaterialPtr& group,
+                         bool handle);
     const osg::BoxVolume& localBounds(const osg::GeometryPtr& geometry);
     void assignDepthSteps();
     void sortItems();

@@ -13,8 +13,8 @@ namespace {
 
 /// Handles are drawn in depths 0 to this, the rest of the scene behind.
 constexpr double kHandleDepth = 0.1;
-/// Depth units of the driver per depth step of an item: more than what two lines over the same course
-/// differ by through rounding, far less than the thickness of any handle.
+/// Depth units of the driver per depth step of an item: more than what two lines over the same
+/// course differ by through rounding, far less than the thickness of any handle.
 constexpr float kUnitsPerDepthStep = 16.f;
 constexpr GLuint kEffectBuffer = 1;
 constexpr float kPointSize = 1.f;  ///< logical pixels
@@ -47,8 +47,8 @@ void setColor(Gl& gl, GlProgram& program, const char* name, const osg::Color3f& 
     program.set(gl, name, color.red(), color.green(), color.blue());
 }
 
-/// Transposed inverse of the 3x3: it keeps normals upright under uneven scales. A singular matrix gives
-/// itself.
+/// Transposed inverse of the 3x3: it keeps normals upright under uneven scales. A singular matrix
+/// gives itself.
 osg::Matrix normalMatrix(const osg::Matrix& matrix)
 {
     osg::Matrix linear = matrix;
@@ -157,7 +157,8 @@ void ItemPainter::applyDepth(const RenderItem& item, const DrawState& state)
         gl.glEnable(GL_DEPTH_CLAMP);
     } else {
         const double size = 1.0 - kHandleDepth;
-        gl.glDepthRange(kHandleDepth + size * state.depthNear, kHandleDepth + size * state.depthFar);
+        gl.glDepthRange(kHandleDepth + size * state.depthNear,
+                        kHandleDepth + size * state.depthFar);
         gl.glDisable(GL_DEPTH_CLAMP);
     }
     // OpenGL writes no depth without the test; a test that always passes is the same otherwise.
@@ -260,7 +261,8 @@ void ItemPainter::setTexture(GlProgram& program, const DrawState& state, bool is
     program.set(gl, "textureEnvColor", color.red(), color.green(), color.blue(), color.alpha());
 }
 
-GlProgram* ItemPainter::prepareShaderChunk(const RenderItem& item, const DrawState& state, bool lines)
+GlProgram* ItemPainter::prepareShaderChunk(const RenderItem& item, const DrawState& state,
+                                           bool lines)
 {
     const auto chunk = osg::SHLChunkPtr::dcast(resolve(state.shaderId));
     GlProgram* program = chunk == osg::NullFC ? nullptr : programs.use(gl, chunk, lines);

@@ -17,7 +17,7 @@ struct FrameView
     osg::Matrix viewFromWorld;
     osg::Matrix clipFromView;
     osg::Matrix clipFromWorld;  ///< product of the two
-    float widthPx = 1.f;        ///< device pixels
+    float widthPx = 1.f;  ///< device pixels
     float heightPx = 1.f;
     float pixelRatio = 1.f;  ///< device pixels per logical pixel
     bool orthographic = false;
@@ -25,12 +25,13 @@ struct FrameView
 };
 
 /// Whether something of a world box may be seen. Handles are not cut at the near and far plane.
-NB_PLATFORM_API bool isInView(const osg::BoxVolume& bounds, const osg::Matrix& clipFromWorld, bool handle);
+NB_PLATFORM_API bool isInView(const osg::BoxVolume& bounds, const osg::Matrix& clipFromWorld,
+                              bool handle);
 
 /// Draws items one after the other; keeps track of the OpenGL state that they share.
 ///
-/// Handles take the front tenth of the depth range, everything else the other nine. Blended items leave
-/// the effect buffer alone.
+/// Handles take the front tenth of the depth range, everything else the other nine. Blended items
+/// leave the effect buffer alone.
 class ItemPainter
 {
 public:

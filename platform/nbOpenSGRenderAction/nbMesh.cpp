@@ -28,8 +28,8 @@ osg::UInt8 toByte(float component)
 /// Colour of a vertex with its alpha, which the generic reading of colours leaves out.
 std::array<osg::UInt8, 4> readColor(const osg::GeoColorsPtr& colors, osg::Int32 index)
 {
-    if (colors == osg::NullFC || index < 0
-        || static_cast<osg::UInt32>(index) >= colors->getSize()) {
+    if (colors == osg::NullFC || index < 0 ||
+        static_cast<osg::UInt32>(index) >= colors->getSize()) {
         return { 255, 255, 255, 255 };
     }
     const auto at = static_cast<osg::UInt32>(index);
@@ -78,8 +78,7 @@ public:
                 normal = faceNormal(it);
             }
             for (osg::Int32 corner = 0; corner < 3; ++corner) {
-                mesh.triangles.push_back(flat ? append(it, corner, normal)
-                                              : shared(it, corner));
+                mesh.triangles.push_back(flat ? append(it, corner, normal) : shared(it, corner));
             }
         }
     }
@@ -87,8 +86,8 @@ public:
 private:
     static std::array<float, 3> faceNormal(const osg::TriangleIterator& it)
     {
-        osg::Vec3f normal
-            = (it.getPosition(1) - it.getPosition(0)).cross(it.getPosition(2) - it.getPosition(0));
+        osg::Vec3f normal =
+            (it.getPosition(1) - it.getPosition(0)).cross(it.getPosition(2) - it.getPosition(0));
         // The length is squared; tiny triangles must not lose their direction to a tolerance.
         const float length = normal.length();
         if (length > 0.f) {
@@ -117,8 +116,8 @@ private:
     /// Whether all properties that exist use the position's index.
     static bool isSingle(const Sources& sources)
     {
-        return sources[0] >= 0
-            && std::all_of(sources.begin(), sources.end(), [&sources](osg::Int32 source) {
+        return sources[0] >= 0 &&
+            std::all_of(sources.begin(), sources.end(), [&sources](osg::Int32 source) {
                    return source == sources[0] || source < 0;
                });
     }
@@ -194,8 +193,7 @@ Mesh buildMesh(const osg::GeometryPtr& geometry)
     if (geometry == osg::NullFC || geometry->getPositions() == osg::NullFC) {
         return mesh;
     }
-    mesh.hasColors
-        = geometry->getColors() != osg::NullFC && geometry->getColors()->getSize() > 0;
+    mesh.hasColors = geometry->getColors() != osg::NullFC && geometry->getColors()->getSize() > 0;
     TriangleCollector(geometry, mesh).run();
     collectLines(geometry, mesh);
     collectPoints(geometry, mesh);

@@ -27,12 +27,13 @@ struct LineVertex
     std::array<osg::UInt8, 4> color { 255, 255, 255, 255 };
 };
 
-/// A geometry as plain arrays: strips, fans, quads, polygons, loops and index mappings are resolved.
+/// A geometry as plain arrays: strips, fans, quads, polygons, loops and index mappings are
+/// resolved.
 struct Mesh
 {
     std::vector<MeshVertex> vertices;
     std::vector<osg::UInt32> triangles;  ///< three indices into vertices each
-    std::vector<LineVertex> lines;       ///< two ends each
+    std::vector<LineVertex> lines;  ///< two ends each
     std::vector<LineVertex> points;
     bool hasColors = false;
 };

@@ -38,19 +38,19 @@ void setParameter(Gl& gl, const osg::ShaderParameterPtr& parameter, GLint locati
 {
     using namespace osg;  // NOLINT: the long list of classes below
     setAs<ShaderParameterVec4fPtr>(
-        parameter,
-        [&](const Vec4f& v) { gl.glUniform4f(location, v.x(), v.y(), v.z(), v.w()); })
-        || setAs<ShaderParameterMatrixPtr>(
-            parameter,
-            [&](const Matrix& m) { gl.glUniformMatrix4fv(location, 1, GL_FALSE, m.getValues()); })
-        || setAs<ShaderParameterRealPtr>(parameter,
-                                         [&](Real32 v) { gl.glUniform1f(location, v); })
-        || setAs<ShaderParameterIntPtr>(parameter, [&](Int32 v) { gl.glUniform1i(location, v); })
-        || setAs<ShaderParameterBoolPtr>(
-            parameter, [&](bool v) { gl.glUniform1i(location, v ? 1 : 0); })
-        || setAs<ShaderParameterVec3fPtr>(
-            parameter, [&](const Vec3f& v) { gl.glUniform3f(location, v.x(), v.y(), v.z()); })
-        || setAs<ShaderParameterVec2fPtr>(
+        parameter, [&](const Vec4f& v) { gl.glUniform4f(location, v.x(), v.y(), v.z(), v.w()); }) ||
+        setAs<ShaderParameterMatrixPtr>(parameter,
+                                        [&](const Matrix& m) {
+                                            gl.glUniformMatrix4fv(location, 1, GL_FALSE,
+                                                                  m.getValues());
+                                        }) ||
+        setAs<ShaderParameterRealPtr>(parameter, [&](Real32 v) { gl.glUniform1f(location, v); }) ||
+        setAs<ShaderParameterIntPtr>(parameter, [&](Int32 v) { gl.glUniform1i(location, v); }) ||
+        setAs<ShaderParameterBoolPtr>(parameter,
+                                      [&](bool v) { gl.glUniform1i(location, v ? 1 : 0); }) ||
+        setAs<ShaderParameterVec3fPtr>(
+            parameter, [&](const Vec3f& v) { gl.glUniform3f(location, v.x(), v.y(), v.z()); }) ||
+        setAs<ShaderParameterVec2fPtr>(
             parameter, [&](const Vec2f& v) { gl.glUniform2f(location, v.x(), v.y()); });
 }
 
@@ -62,18 +62,18 @@ bool ShaderPrograms::initialise(Gl& gl, std::string& error)
     const auto build = [&](Standard which, const std::string& vertex, const std::string& fragment) {
         return getStandard(which).build(gl, vertex, std::string(), fragment, error);
     };
-    return build(Standard::Surface, surfaceVertex(), surfaceFragment())
-        && build(Standard::Line, lineVertex(), surfaceFragment())
-        && build(Standard::Background, fullScreenVertex(), gradientFragment())
-        && build(Standard::Present, fullScreenVertex(), presentFragment());
+    return build(Standard::Surface, surfaceVertex(), surfaceFragment()) &&
+        build(Standard::Line, lineVertex(), surfaceFragment()) &&
+        build(Standard::Background, fullScreenVertex(), gradientFragment()) &&
+        build(Standard::Present, fullScreenVertex(), presentFragment());
 }
 
 GlProgram* ShaderPrograms::use(Gl& gl, const osg::SHLChunkPtr& chunk, bool lines)
 {
     Entry& entry = entries[chunk.getFieldContainerId()];
     constexpr char kSeparator = '\1';
-    const std::string text = chunk->getVertexProgram() + kSeparator + chunk->getGeometryProgram()
-        + kSeparator + chunk->getFragmentProgram();
+    const std::string text = chunk->getVertexProgram() + kSeparator + chunk->getGeometryProgram() +
+        kSeparator + chunk->getFragmentProgram();
     if (entry.text != text) {
         entry.surface.destroy(gl);
         entry.line.destroy(gl);
@@ -96,8 +96,8 @@ void ShaderPrograms::build(Gl& gl, const osg::SHLChunkPtr& chunk, Entry& entry)
     const std::string& geometry = chunk->getGeometryProgram();
     std::string error;
     if (!entry.surface.build(gl, vertex, geometry, fragment, error)) {
-        nbLog::error("shader chunk " + std::to_string(chunk.getFieldContainerId())
-                     + " does not compile and is drawn in plain colour: " + error);
+        nbLog::error("shader chunk " + std::to_string(chunk.getFieldContainerId()) +
+                     " does not compile and is drawn in plain colour: " + error);
         return;
     }
     if (geometry.empty()) {

@@ -28,8 +28,8 @@ void main()
 }
 )";
 
-/// A line a .. b in clip space, cut at the near plane, and the corner of its polygon: a half circle of
-/// seven points around each end.
+/// A line a .. b in clip space, cut at the near plane, and the corner of its polygon: a half circle
+/// of seven points around each end.
 const char* const kLineFunctions = R"(
 uniform float lineWidth;
 bool cutAtNearPlane(inout vec4 a, inout vec4 b)
@@ -262,20 +262,20 @@ std::string surfaceVertex()
 std::string lineVertex()
 {
     // The attributes of lines are their own, so only the uniforms of the preamble are taken.
-    return shaderHeaderString(nbShaderStage::Geometry, true, false, false) + kLineFunctions
-        + kLineVertexBody;
+    return shaderHeaderString(nbShaderStage::Geometry, true, false, false) + kLineFunctions +
+        kLineVertexBody;
 }
 
 std::string surfaceFragment()
 {
-    return shaderHeaderString(nbShaderStage::Fragment, true, false, true) + kSurfaceFragmentBody
-        + kSurfaceMain;
+    return shaderHeaderString(nbShaderStage::Fragment, true, false, true) + kSurfaceFragmentBody +
+        kSurfaceMain;
 }
 
 std::string lineGeometry()
 {
-    return shaderHeaderString(nbShaderStage::Geometry, true, false, false) + kLineFunctions
-        + kLineGeometryBody;
+    return shaderHeaderString(nbShaderStage::Geometry, true, false, false) + kLineFunctions +
+        kLineGeometryBody;
 }
 
 std::string fullScreenVertex()
