@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: MIT
+#include "manipulator/AbstractManipulator.h"
+
+#include "manipulator/detail/EditBracket.h"
+
+#include <nbKernel/nbScenegraph.h>
+
+namespace nbec::manipulator {
+
+namespace {
+
+void attach(const osg::NodePtr& root, const osg::NodePtr& visualisation, osg::BitVector mask)
+{
+    if (root == osg::NullFC || visualisation == osg::NullFC) {
+        return;
+    }
+    const detail::EditBracket edit(root, mask);
+    root->addChild(visualisation);
+}
+
+void detach(const osg::NodePtr& root, const osg::NodePtr& visualisation)
+{
+    if (root == osg::NullFC || visualisation == osg::NullFC) {
+        return;
+    }
+    const detail::EditBracket edit(root, osg::FieldBits::AllFields);
+    root->subChild(visualisation);
+}
+
+}  // namespace
+
+void AbstractManipulator::activate(ManipulatorInteractionContext* /*ctx*/)
+{
+    if (active) {
+        return;
+    }
+    active = true;
+    attach(getVisualisationRoot(), getVisualisation(), osg::Node::ChildrenFieldMask);
+}
+
+void AbstractManipulator::deactivate(ManipulatorInteractionContext* /*ctx*/)
+{
+    if (!active) {
+        return;
+    }
+    active = false;
+    detach(getVisualisationRoot(), getVisualisation());
+    reenablePreselection();
+}
+
+bool AbstractManipulator::startManipulator(ManipulatorInteractionContext* /*ctx*/,
+                                           const std::string& /*hint*/)
+{
+    return true;
+}
+
+bool AbstractManipulator::processManipulator(ManipulatorInteractionContext* /*ctx*/,
+                                             const std::string& /*hint*/)
+{
+    return true;
+}
+
+bool AbstractManipulator::stopManipulator(ManipulatorInteractionContext* /*ctx*/,
+                                          const std::string& /*hint*/)
+{
+    return true;
+}
+
+bool AbstractManipulator::hover(ManipulatorInteractionContext* ctx, const std::string& hint)
+{
+    const bool handled = hoverManipulator(ctx, hint);
+    if (handled) {
+        disablePreselection();
+    } else {
+        reenablePreselection();
+    }
+    return handled;
+}
+
+bool AbstractManipulator::reset(ManipulatorInteractionContext* ctx, const std::string& hint)
+{
+    const bool handled = resetManipulator(ctx, hint);
+    reenablePreselection();
+    return handled;
+}
+
+bool AbstractManipulator::hoverManipulator(ManipulatorInteractionContext* /*ctx*/,
+                                           const std::string& /*hint*/)
+{
+    return false;
+}
+
+bool AbstractManipulator::resetManipulator(ManipulatorInteractionContext* /*ctx*/,
+                                           const std::string& /*hint*/)
+{
+    return false;
+}
+
+bool AbstractManipulator::setManipulatorMode(const std::string& /*mode*/)
+{
+    return false;
+}
+
+void AbstractManipulator::setVisualisationRoot(const osg::NodePtr& root)
+{
+    const osg::NodePtr previous = getVisualisationRoot();
+    if (root == previous) {
+        return;
+    }
+    if (isActive()) {
+        // The visualisation is held by the concrete manipulator, so taking it from the old root
+        // does not destroy it.
+        detach(previous, getVisualisation());
+    }
+    visualisationRoot = root;
+    if (isActive()) {
+        attach(root, getVisualisation(), osg::FieldBits::AllFields);
+    }
+}
+
+osg::NodePtr AbstractManipulator::getVisualisationRoot() const
+{
+    return visualisationRoot.get();
+}
+
+void AbstractManipulator::disablePreselection()
+{
+    if (nbScenegraph::isPreselectionEnabled()) {
+        nbScenegraph::setPreselectionEnabled(false);
+        preselectionSuppressed = true;
+    }
+}
+
+void AbstractManipulator::reenablePreselection()
+{
+    if (!nbScenegraph::isPreselectionEnabled() && preselectionSuppressed) {
+        nbScenegraph::setPreselectionEnabled(true);
+        preselectionSuppressed = false;
+    }
+}
+
+}  // namespace nbec::manipulator

@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: MIT
+#include "manipulator/ManipulatorInteractionContext.h"
+
+#include "manipulator/Manipulator.h"
+
+#include <nbInteraction/InteractionEvent.h>
+#include <nbInteraction/Picker.h>
+
+namespace nbec::manipulator {
+
+using interaction::InteractionEvent;
+using interaction::InteractionManager;
+using interaction::MultimodeInteractionContext;
+
+namespace {
+
+constexpr interaction::PreferredPosition kManipulatorPosition =
+    static_cast<interaction::PreferredPosition>(100);
+
+}  // namespace
+
+ManipulatorInteractionContext::ManipulatorInteractionContext()
+    : ManipulatorInteractionContext(kManipulatorPosition)
+{ }
+
+ManipulatorInteractionContext::ManipulatorInteractionContext(
+    interaction::PreferredPosition position)
+    : MultimodeInteractionContext(position)
+{ }
+
+ManipulatorInteractionContext::~ManipulatorInteractionContext()
+{
+    leaveManager();
+}
+
+void ManipulatorInteractionContext::enabled(InteractionManager* manager)
+{
+    MultimodeInteractionContext::enabled(manager);
+    if (manipulator != nullptr && isActive()) {
+        manipulator->activate(this);
+    }
+}
+
+void ManipulatorInteractionContext::disabled(InteractionManager* manager)
+{
+    MultimodeInteractionContext::disabled(manager);
+    if (manipulator != nullptr && isActive()) {
+        manipulator->deactivate(this);
+    }
+}
+
+void ManipulatorInteractionContext::contextAdded(InteractionManager* manager)
+{
+    MultimodeInteractionContext::contextAdded(manager);
+    if (manipulator != nullptr) {
+        manipulator->activate(this);
+    }
+}
+
+void ManipulatorInteractionContext::contextRemoved(InteractionManager* manager)
+{
+    if (manipulator != nullptr) {
+        manipulator->deactivate(this);
+    }
+    MultimodeInteractionContext::contextRemoved(manager);
+}
+
+void ManipulatorInteractionContext::pointerMoved(const osg::Pnt2f& position)
+{
+    pointerPosition = position;
+    if (manipulator != nullptr) {
+        manipulator->setMousePosition(position);
+    }
+    MultimodeInteractionContext::pointerMoved(position);
+}
+
+bool ManipulatorInteractionContext::triggerEvent(InteractionManager* manager,
+                                                 const InteractionEvent& event)
+{
+    if (manipulator == nullptr) {
+        return MultimodeInteractionContext::triggerEvent(manager, event);
+    }
+    const std::string& tool = event.getTool();
+    const std::string& name = event.getEvent();
+    if (isRoutedEvent(event)) {
+        return dispatchToManipulator(manager, event);
+    }
+    // The manipulator receives copies: what it does in return may end the event.
+    const std::string hint = event.getHint();
+    if (tool == toolName && hint == "selectThrough") {
+        if (name == "start") {
+            manipulator->reset(this, hint);
+        }
+    } else if (tool == "mode" && hint == "tool") {
+        if (name == "start") {
+            manipulator->hover(this, hint);
+        } else if (name == "stop") {
+            manipulator->reset(this, hint);
+        }
+    }
+    return MultimodeInteractionContext::triggerEvent(manager, event);
+}
+
+bool ManipulatorInteractionContext::isRoutedEvent(const InteractionEvent& event) const
+{
+    return event.getTool() == toolName &&
+        (event.getHint() == "select" || event.getHint() == "toggle");
+}
+
+bool ManipulatorInteractionContext::dispatchToManipulator(InteractionManager* manager,
+                                                          const InteractionEvent& event)
+{
+    const std::string& name = event.getEvent();
+    const std::string hint = event.getHint();
+    if (name == "start") {
+        return manipulator->startManipulator(this, hint);
+    }
+    if (name == "stop") {
+        return manipulator->stopManipulator(this, hint);
+    }
+    if (name == "process") {
+        return manipulator->processManipulator(this, hint);
+    }
+    if (name == "hover") {
+        return manipulator->hover(this, hint);
+    }
+    if (name == "stopHover") {
+        manipulator->reset(this, hint);
+        return MultimodeInteractionContext::triggerEvent(manager, event);
+    }
+    return false;
+}
+
+bool ManipulatorInteractionContext::selectMode(const std::string& mode)
+{
+    return manipulator != nullptr && manipulator->setManipulatorMode(mode);
+}
+
+void ManipulatorInteractionContext::setManipulator(Manipulator* current)
+{
+    manipulator = current;
+    if (manipulator != nullptr && picker != nullptr) {
+        picker->setPickNode(manipulator->getCollider());
+    }
+}
+
+void ManipulatorInteractionContext::setPicker(interaction::Picker* current)
+{
+    if (picker != nullptr) {
+        picker->setPickNode(osg::NullFC);
+    }
+    picker = current;
+    if (picker != nullptr && manipulator != nullptr) {
+        picker->setPickNode(manipulator->getCollider());
+    }
+}
+
+}  // namespace nbec::manipulator

@@ -1,0 +1,246 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "manipulator/NodeManipulator.h"
+
+#include <OpenSG/OSGMatrix.h>
+#include <OpenSG/OSGSimpleMaterial.h>
+
+#include <array>
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace nbec::manipulator {
+
+/// The translate, rotate and scale gizmo for scene nodes.
+///
+/// Tree. The root "Manipulatorgroup" has four children: the marks of further selected nodes, the
+/// depth pass (an unnamed copy of the handles), the holder of additional geometry, and the handle
+/// pass with the handles themselves. The copy shares the cores of the handles, so that colours and
+/// visibility hold in both. Handles are built once, in a unit frame: along +y, then turned onto
+/// their axis; one Transform3D places, turns and sizes all of them. Axis colours: x red, y green, z
+/// blue; yellow acts on all axes, purple marks the scale pivot, orange highlights.
+///
+/// Decisions.
+/// - Place: the gizmo stands at the node's rotate pivot (in scale and scale-pivot mode at its scale
+/// pivot); a node that
+///   is no Transform3D yet has its pivot at the centre of its volume, where it will be once it is
+///   converted.
+/// - Orientation: world axes, or the node's own axes with setLocalSpaceManipulator(true).
+/// - Visible elements per mode: universal all but the markers; translate arrows and planes; rotate
+/// rings; scale the
+///   scale handles and the cube "grid"; rotate pivot arrows, planes, rings and the sphere; scale
+///   pivot arrows, planes and the purple cube; clipping and translate-rotate arrows, planes and
+///   rings; translate-rotate-YZ the same without the x ring; translate-rotate-scale arrows, planes,
+///   rings and the scale handles.
+/// - A ring's axis line shows only while that ring is grabbed. Sphere and purple cube are unnamed
+/// markers, never hit.
+/// - Plane handles: a square patch of 0.4 with a bar (radius 0.02) along each of its two outer
+/// edges.
+/// - A drag is held by the handle that was under the pointer at its start; hovering is refused
+/// until it stops.
+///
+/// All instances share the size and the space setting. Everything runs on the user-interface
+/// thread.
+class NB_MANIPULATOR_API UniversalTransformManipulator2 : public NodeManipulator
+{
+public:
+    /// Family of handles shown.
+    enum class ManipulatorMode : osg::UInt32
+    {
+        Universal = 0,
+        Translate = 1,
+        Scale = 2,
+        Rotate = 3,
+        RotatePivot = 4,
+        ScalePivot = 5,
+        Clipping = 6,
+        TranslateRotate = 7,
+        TranslateRotateYZ = 8,
+        TranslateRotateScale = 9
+    };
+
+    /// The handle that is hovered or grabbed.
+    enum class ActiveMode : osg::UInt32
+    {
+        None = 0,
+        RotateX = 1,
+        RotateY = 2,
+        RotateZ = 3,
+        TranslateX = 4,
+        TranslateY = 5,
+        TranslateZ = 6,
+        TranslateXY = 7,
+        TranslateXZ = 8,
+        TranslateYZ = 9,
+        ScaleX = 10,
+        ScaleY = 11,
+        ScaleZ = 12,
+        ScaleUniform = 13
+    };
+
+    /// Builds the handles, hidden, in mode translate, and appends the instance to the list of live
+    /// ones.
+    UniversalTransformManipulator2();
+    UniversalTransformManipulator2(const UniversalTransformManipulator2&) = delete;
+    UniversalTransformManipulator2& operator=(const UniversalTransformManipulator2&) = delete;
+
+    /// Also shows the handles if there is a node.
+    void activate(ManipulatorInteractionContext* ctx) override;
+    /// Also forgets the active handle and its highlight.
+    void deactivate(ManipulatorInteractionContext* ctx) override;
+    /// The root "Manipulatorgroup".
+    osg::NodePtr getVisualisation() override;
+    /// The root "Manipulatorgroup"; the named handles below it can be hit.
+    osg::NodePtr getCollider() override;
+
+    /// Re-places the gizmo if the node has moved since the last time; does not look at the camera,
+    /// for which the host calls updateAllManipulators(). Nothing while inactive or without a node.
+    /// @param force  re-places it in any case
+    void update(bool force) override;
+
+    /// Grabs the handle under the pointer and hides the others. @return whether there is one
+    bool startManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
+    /// @return whether a handle is grabbed and the node can still be edited
+    bool processManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
+    /// Lets go of the handle. @return whether one was grabbed and there is still a node
+    bool stopManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
+
+    /// Highlights the handle under the pointer. @return whether there is one
+    bool hoverManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
+    /// Takes the highlight away. @return true
+    bool resetManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
+
+    /// "precisionTool" switches temporary snapping on, every other mode off, for all instances.
+    /// Deliberate: "tool" answers false, although it takes effect; "precisionTool" and "" answer
+    /// true, others false.
+    bool setManipulatorMode(const std::string& mode) override;
+
+    /// Unregisters the instance and releases the handles.
+    ~UniversalTransformManipulator2() override;
+
+    void setNode(const osg::NodePtr& node) override;
+
+    // Each shows the elements of its mode in their idle colours and re-places the gizmo.
+    virtual void activateRotatePivotManipulator();
+    virtual void activateScalePivotManipulator();
+    virtual void activateTranslateManipulator();
+    virtual void activateRotateManipulator();
+    virtual void activateScaleManipulator();
+    virtual void activateUniversalManipulator();
+    virtual void activateClippingManipulator();
+    /// For subclasses with handles of their own; does nothing here.
+    virtual void activateAdditionalManipulator();
+    virtual void activateTranslateRotateManipulator();
+    virtual void activateTranslateRotateScaleManipulator();
+    virtual void activateTranslateRotateYZManipulator();
+
+    /// Shows the handles of the current mode and re-places the gizmo; hides them without a node.
+    virtual void showActiveManipulator();
+    /// Hides all handles.
+    virtual void hideManipulator();
+
+    /// Creates a gizmo and makes it the shared instance; an earlier shared instance is destroyed.
+    static void createInstance();
+    /// Size on screen of all gizmos, 0 <= size < 200, default 32. The shared instance is re-placed
+    /// at once, others at their next update.
+    static void setManipulatorSize(float size);
+
+    static float getManipulatorSize() { return m_ManipulatorSize; }
+
+    /// Aligns the gizmos with the node's own axes instead of the world's. Re-placed as by
+    /// setManipulatorSize().
+    static void setLocalSpaceManipulator(bool local);
+
+    static bool isLocalSpaceManipulator() { return m_LocalSpaceManipulator; }
+
+    /// Re-places every live gizmo, in the order of construction. The host calls it when the camera
+    /// has moved.
+    static void updateAllManipulators();
+
+    /// The family of handles shown; Translate after construction.
+    ManipulatorMode getMode() const { return mode; }
+
+    /// Switches snapping of this gizmo.
+    void enableSnapping(bool on) { snappingEnabled = on; }
+
+    /// Switches the on-screen text of this gizmo.
+    void setDescriptionEnabled(bool on) { descriptionEnabled = on; }
+
+private:
+    static constexpr std::size_t kHandleCount = 15;
+    static constexpr std::size_t kMaxParts = 3;
+    static constexpr std::size_t kSolidCount = 6;
+    static constexpr std::size_t kLineCount = 7;
+
+    struct HandleRow;
+    static const std::array<HandleRow, kHandleCount> kHandles;
+
+    /// One drawn piece of a handle: a node with a geometry core, drawn solid or as lines.
+    struct HandlePart
+    {
+        osg::NodePtr node;
+        bool isLine = false;
+    };
+
+    /// The nodes of one row of the handle table; the handle tree keeps them alive.
+    struct HandleNodes
+    {
+        osg::NodePtr top;
+        std::array<HandlePart, kMaxParts> parts;
+    };
+
+    void createMaterials();
+    osg::NodePtr createManipulatorGeo();
+    void createMultiselectionRepresentationGeo();
+    static HandleNodes createArrow(std::size_t axis);
+    static HandleNodes createScaleHandle(std::size_t axis);
+    static HandleNodes createRing(std::size_t axis);
+    static HandleNodes createPlaneHandle(std::size_t plane);
+    static HandleNodes createMarker(bool sphere);
+    static HandleNodes createHandle(const HandleRow& row);
+
+    void activateMode(ManipulatorMode newMode);
+    void showAllElements();
+    void hideAllElements();
+    void showElements(ActiveMode grabbed);
+    void setHandleMaterials(std::size_t row, bool highlight);
+    void setDefaultMaterials(bool translate, bool rotate, bool scale, ActiveMode except);
+    void highlightMode();
+    void highlightControlElement();
+    void endHover();
+    ActiveMode detectMode(ManipulatorInteractionContext* ctx) const;
+
+    void updateManipulator();
+    osg::Pnt3f anchorWorld(const osg::NodePtr& node) const;
+    static float screenScale(const osg::Pnt3f& anchor);
+    /// Centre of an object's volume, in its own frame or in the world's.
+    static osg::Pnt3f calculateObjectCenter(const osg::NodePtr& node, bool worldSpace);
+
+    bool snappingActive() const { return _temporary_snapping_active || snappingEnabled; }
+
+    static float m_ManipulatorSize;
+    static bool m_LocalSpaceManipulator;
+    static std::vector<UniversalTransformManipulator2*> _allManipulators;
+    static UniversalTransformManipulator2* _the;
+    static bool _temporary_snapping_active;
+
+    ManipulatorMode mode = ManipulatorMode::Translate;
+    ActiveMode activeHandle = ActiveMode::None;
+    ActiveMode highlighted = ActiveMode::None;
+    bool grabbing = false;
+    bool snappingEnabled = false;
+    bool descriptionEnabled = true;
+
+    osg::RefPtr<osg::NodePtr> root;
+    osg::RefPtr<osg::NodePtr> handleTree;
+    osg::RefPtr<osg::NodePtr> multiselection;
+    osg::RefPtr<osg::NodePtr> additionalGeometry;
+    std::array<HandleNodes, kHandleCount> handles;
+    std::array<osg::SimpleMaterialRefPtr, kSolidCount> solidMaterials;
+    std::array<osg::SimpleMaterialRefPtr, kLineCount> lineMaterials;
+    osg::Matrix cachedTargetToWorld;
+};
+
+}  // namespace nbec::manipulator

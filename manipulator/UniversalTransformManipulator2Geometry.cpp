@@ -1,0 +1,313 @@
+// SPDX-License-Identifier: MIT
+#include "manipulator/UniversalTransformManipulator2.h"
+#include "manipulator/UniversalTransformManipulator2Handles.h"
+#include "manipulator/detail/HandleGroup.h"
+#include "manipulator/detail/HandleMaterials.h"
+#include "manipulator/detail/HandleNodes.h"
+#include "manipulator/detail/NodeVisibility.h"
+
+#include <nbOpenSGUtils/nbNodeUtils.h>
+
+namespace nbec::manipulator {
+
+using detail::HandleShape;
+
+namespace {
+
+using Mode = UniversalTransformManipulator2::ManipulatorMode;
+using Active = UniversalTransformManipulator2::ActiveMode;
+
+constexpr int kSolidSortKey = 64016;
+constexpr int kLineSortKey = 64015;
+// Deliberate: the highlight's line material has the solid ones' sort key, unlike the other line
+// materials.
+constexpr int kHighlightLineSortKey = 64016;
+
+constexpr float kHalfSqrt2 = 0.7071068F;
+constexpr float kRightAngleDeg = 90.0F;
+constexpr float kConeLift = 1.0F;
+constexpr float kScaleShaftCentre = 0.75F;
+constexpr float kScaleCubeCentre = 1.5F;
+constexpr float kPlaneCentre = 0.2F;
+constexpr float kPlaneEdge = 0.4F;
+constexpr std::size_t kUniform = 3;
+
+struct ColorRow
+{
+    float red, green, blue;
+};
+
+constexpr std::array<ColorRow, 7> kColors = { { { 1.0F, 0.0F, 0.0F },
+                                                { 0.0F, 1.0F, 0.0F },
+                                                { 0.0F, 0.0F, 1.0F },
+                                                { 1.0F, 1.0F, 0.0F },
+                                                { 0.6F, 0.35F, 0.65F },
+                                                { 1.0F, 0.5F, 0.0F },
+                                                { 0.1F, 0.1F, 0.1F } } };
+
+template <class... Modes>
+constexpr unsigned in(Modes... modes)
+{
+    return ((1U << static_cast<unsigned>(modes)) | ...);
+}
+
+constexpr unsigned kWithTranslation =
+    in(Mode::Universal, Mode::Translate, Mode::RotatePivot, Mode::ScalePivot, Mode::Clipping,
+       Mode::TranslateRotate, Mode::TranslateRotateYZ, Mode::TranslateRotateScale);
+constexpr unsigned kWithRotation =
+    in(Mode::Universal, Mode::Rotate, Mode::RotatePivot, Mode::Clipping, Mode::TranslateRotate,
+       Mode::TranslateRotateYZ, Mode::TranslateRotateScale);
+constexpr unsigned kWithRotationX = kWithRotation & ~in(Mode::TranslateRotateYZ);
+constexpr unsigned kWithScale = in(Mode::Universal, Mode::Scale, Mode::TranslateRotateScale);
+constexpr unsigned kWithUniformScale = in(Mode::Universal, Mode::Scale);
+
+constexpr std::array<HandleColor, 3> all(HandleColor color)
+{
+    return { color, color, color };
+}
+
+constexpr HandleColor kRed = HandleColor::Red;
+constexpr HandleColor kGreen = HandleColor::Green;
+constexpr HandleColor kBlue = HandleColor::Blue;
+
+/// The turn that takes +y onto an axis: -90 degrees about z for x, none for y, +90 degrees about x
+/// for z.
+osg::Quaternion turnOntoAxis(std::size_t axis)
+{
+    osg::Quaternion turn;
+    if (axis == 0) {
+        turn.setValueAsQuat(0.0F, 0.0F, -kHalfSqrt2, kHalfSqrt2);
+    } else if (axis == 2) {
+        turn.setValueAsQuat(kHalfSqrt2, 0.0F, 0.0F, kHalfSqrt2);
+    }
+    return turn;
+}
+
+/// The same turn as Euler angles in degrees.
+osg::Vec3f eulerOntoAxisDeg(std::size_t axis)
+{
+    return osg::Vec3f(axis == 2 ? kRightAngleDeg : 0.0F, 0.0F, axis == 0 ? -kRightAngleDeg : 0.0F);
+}
+
+osg::Vec3f unitAxis(std::size_t axis)
+{
+    return osg::Vec3f(axis == 0 ? 1.0F : 0.0F, axis == 1 ? 1.0F : 0.0F, axis == 2 ? 1.0F : 0.0F);
+}
+
+/// The turn that takes the xy plane onto a plane handle's plane: none for xy, y onto z for xz, x
+/// onto z for yz.
+osg::Quaternion turnOntoPlane(std::size_t plane)
+{
+    osg::Quaternion turn;
+    if (plane == 1) {
+        turn.setValueAsQuat(kHalfSqrt2, 0.0F, 0.0F, kHalfSqrt2);
+    } else if (plane == 2) {
+        turn.setValueAsQuat(0.0F, -kHalfSqrt2, 0.0F, kHalfSqrt2);
+    }
+    return turn;
+}
+
+/// Hangs a shape below a node at a place of its own. @return the shape's node
+osg::NodePtr addPlacedShape(const osg::NodePtr& parent, HandleShape shape,
+                            const osg::Vec3f& translation,
+                            const osg::Quaternion& rotation = osg::Quaternion())
+{
+    const osg::NodePtr shapeNode = detail::makeShapeNode(shape);
+    detail::addChild(parent,
+                     detail::addChild(detail::makePlacedNode(translation, rotation), shapeNode));
+    return shapeNode;
+}
+
+osg::NodePtr addShape(const osg::NodePtr& parent, HandleShape shape)
+{
+    const osg::NodePtr shapeNode = detail::makeShapeNode(shape);
+    detail::addChild(parent, shapeNode);
+    return shapeNode;
+}
+
+}  // namespace
+
+// Deliberate: the plane handles' colours (patch, bar, bar) do not follow one rule: xz has two red
+// bars, yz two blue ones.
+const std::array<UniversalTransformManipulator2::HandleRow,
+                 UniversalTransformManipulator2::kHandleCount>
+    UniversalTransformManipulator2::kHandles = { {
+        { "xaShape", Active::TranslateX, HandleKind::Arrow, 0, HandleFamily::Translate, all(kRed),
+          kWithTranslation },
+        { "yaShape", Active::TranslateY, HandleKind::Arrow, 1, HandleFamily::Translate, all(kGreen),
+          kWithTranslation },
+        { "zaShape", Active::TranslateZ, HandleKind::Arrow, 2, HandleFamily::Translate, all(kBlue),
+          kWithTranslation },
+        { "xsShape", Active::ScaleX, HandleKind::ScaleHandle, 0, HandleFamily::Scale, all(kRed),
+          kWithScale },
+        { "ysShape", Active::ScaleY, HandleKind::ScaleHandle, 1, HandleFamily::Scale, all(kGreen),
+          kWithScale },
+        { "zsShape", Active::ScaleZ, HandleKind::ScaleHandle, 2, HandleFamily::Scale, all(kBlue),
+          kWithScale },
+        { "grid", Active::ScaleUniform, HandleKind::ScaleHandle, kUniform, HandleFamily::Scale,
+          all(HandleColor::Yellow), kWithUniformScale },
+        { "rxShape", Active::RotateX, HandleKind::Ring, 0, HandleFamily::Rotate, all(kRed),
+          kWithRotationX },
+        { "ryShape", Active::RotateY, HandleKind::Ring, 1, HandleFamily::Rotate, all(kGreen),
+          kWithRotation },
+        { "rzShape", Active::RotateZ, HandleKind::Ring, 2, HandleFamily::Rotate, all(kBlue),
+          kWithRotation },
+        { "xyaShape",
+          Active::TranslateXY,
+          HandleKind::PlaneHandle,
+          0,
+          HandleFamily::Translate,
+          { kGreen, kRed, kGreen },
+          kWithTranslation },
+        { "xzaShape",
+          Active::TranslateXZ,
+          HandleKind::PlaneHandle,
+          1,
+          HandleFamily::Translate,
+          { kBlue, kRed, kRed },
+          kWithTranslation },
+        { "yzaShape",
+          Active::TranslateYZ,
+          HandleKind::PlaneHandle,
+          2,
+          HandleFamily::Translate,
+          { kGreen, kBlue, kBlue },
+          kWithTranslation },
+        { nullptr, Active::None, HandleKind::CentreSphere, 0, HandleFamily::Marker,
+          all(HandleColor::Yellow), in(Mode::RotatePivot) },
+        { nullptr, Active::None, HandleKind::PivotCube, 0, HandleFamily::Marker,
+          all(HandleColor::Purple), in(Mode::ScalePivot) },
+    } };
+
+void UniversalTransformManipulator2::createMaterials()
+{
+    const detail::LineChunks chunks = detail::makeLineChunks();
+    for (std::size_t i = 0; i < kColors.size(); ++i) {
+        const osg::Color3f color(kColors[i].red, kColors[i].green, kColors[i].blue);
+        const bool isHighlight = i == static_cast<std::size_t>(HandleColor::Orange);
+        lineMaterials[i] = detail::makeHandleMaterial(
+            color, isHighlight ? kHighlightLineSortKey : kLineSortKey, &chunks);
+        if (i < solidMaterials.size()) {
+            solidMaterials[i] = detail::makeHandleMaterial(color, kSolidSortKey, nullptr);
+        }
+    }
+}
+
+osg::NodePtr UniversalTransformManipulator2::createManipulatorGeo()
+{
+    createMaterials();
+    const osg::NodePtr tree = detail::makeTransform3DNode(osg::Vec3f());
+    for (std::size_t row = 0; row < kHandles.size(); ++row) {
+        handles[row] = createHandle(kHandles[row]);
+        detail::addChild(tree, handles[row].top);
+        setHandleMaterials(row, false);
+    }
+    nbNodeUtils::setIsAuxiliaryNode(tree, true);
+    return tree;
+}
+
+void UniversalTransformManipulator2::createMultiselectionRepresentationGeo()
+{
+    multiselection = detail::makeGroupNode();
+    nbNodeUtils::setIsAuxiliaryNode(multiselection.get(), true);
+}
+
+UniversalTransformManipulator2::HandleNodes
+UniversalTransformManipulator2::createHandle(const HandleRow& row)
+{
+    HandleNodes created;
+    switch (row.kind) {
+    case HandleKind::Arrow:
+        created = createArrow(row.axis);
+        break;
+    case HandleKind::ScaleHandle:
+        created = createScaleHandle(row.axis);
+        break;
+    case HandleKind::Ring:
+        created = createRing(row.axis);
+        break;
+    case HandleKind::PlaneHandle:
+        created = createPlaneHandle(row.axis);
+        break;
+    case HandleKind::CentreSphere:
+    case HandleKind::PivotCube:
+        created = createMarker(row.kind == HandleKind::CentreSphere);
+        break;
+    }
+    if (row.name != nullptr) {
+        nbNodeUtils::setName(created.top, row.name, true, created.top);
+        nbNodeUtils::setIsAuxiliaryNode(created.top, true);
+    }
+    return created;
+}
+
+UniversalTransformManipulator2::HandleNodes
+UniversalTransformManipulator2::createArrow(std::size_t axis)
+{
+    HandleNodes arrow;
+    arrow.top = detail::makePlacedNode(unitAxis(axis), turnOntoAxis(axis));
+    arrow.parts[0] = { addShape(arrow.top, HandleShape::ArrowShaft), true };
+    arrow.parts[1] = {
+        addPlacedShape(arrow.top, HandleShape::ArrowHead, osg::Vec3f(0.0F, kConeLift, 0.0F)), false
+    };
+    return arrow;
+}
+
+UniversalTransformManipulator2::HandleNodes
+UniversalTransformManipulator2::createScaleHandle(std::size_t axis)
+{
+    HandleNodes handle;
+    if (axis == kUniform) {
+        handle.top = detail::makeTransform3DNode(osg::Vec3f());
+        handle.parts[0] = { addShape(handle.top, HandleShape::Cube), false };
+        return handle;
+    }
+    handle.top = detail::makeTransform3DNode(eulerOntoAxisDeg(axis));
+    handle.parts[0] = { addPlacedShape(handle.top, HandleShape::ScaleShaft,
+                                       osg::Vec3f(0.0F, kScaleShaftCentre, 0.0F)),
+                        true };
+    handle.parts[1] = { addPlacedShape(handle.top, HandleShape::Cube,
+                                       osg::Vec3f(0.0F, kScaleCubeCentre, 0.0F)),
+                        false };
+    return handle;
+}
+
+UniversalTransformManipulator2::HandleNodes
+UniversalTransformManipulator2::createRing(std::size_t axis)
+{
+    HandleNodes ring;
+    ring.top = detail::makeTransform3DNode(eulerOntoAxisDeg(axis));
+    ring.parts[0] = { addShape(ring.top, HandleShape::Ring), true };
+    ring.parts[1] = { addShape(ring.top, HandleShape::RingAxis), true };
+    return ring;
+}
+
+UniversalTransformManipulator2::HandleNodes
+UniversalTransformManipulator2::createPlaneHandle(std::size_t plane)
+{
+    osg::Quaternion yOntoX;
+    yOntoX.setValueAsQuat(0.0F, 0.0F, -kHalfSqrt2, kHalfSqrt2);
+    HandleNodes handle;
+    handle.top = detail::makePlacedNode(osg::Vec3f(), turnOntoPlane(plane));
+    handle.parts[0] = { addPlacedShape(handle.top, HandleShape::PlanePatch,
+                                       osg::Vec3f(kPlaneCentre, kPlaneCentre, 0.0F)),
+                        false };
+    handle.parts[1] = { addPlacedShape(handle.top, HandleShape::PlaneBar,
+                                       osg::Vec3f(kPlaneCentre, kPlaneEdge, 0.0F), yOntoX),
+                        false };
+    handle.parts[2] = { addPlacedShape(handle.top, HandleShape::PlaneBar,
+                                       osg::Vec3f(kPlaneEdge, kPlaneCentre, 0.0F)),
+                        false };
+    return handle;
+}
+
+UniversalTransformManipulator2::HandleNodes
+UniversalTransformManipulator2::createMarker(bool sphere)
+{
+    HandleNodes marker;
+    marker.top = detail::makeShapeNode(sphere ? HandleShape::CentreSphere : HandleShape::Cube);
+    marker.parts[0] = { marker.top, false };
+    return marker;
+}
+
+}  // namespace nbec::manipulator

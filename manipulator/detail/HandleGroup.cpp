@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#include "manipulator/detail/HandleGroup.h"
+
+#include "manipulator/detail/EditBracket.h"
+#include "manipulator/detail/HandleMaterials.h"
+#include "manipulator/detail/HandleNodes.h"
+
+#include <nbOpenSGExt/DepthTestChunk.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
+
+#include <OpenSG/OSGMaterialGroup.h>
+
+namespace nbec::manipulator::detail {
+
+namespace {
+
+constexpr int kDepthPassSortKey = 64015;
+constexpr int kHandlePassSortKey = 64017;
+
+osg::RefPtr<osg::NodePtr> makePass(const osg::NodePtr& tree, const osg::DepthTestChunkPtr& depth,
+                                   int sortKey)
+{
+    const osg::SimpleMaterialRefPtr material = makePassMaterial(depth, sortKey);
+    const osg::MaterialGroupPtr core = osg::MaterialGroup::create();
+    {
+        const EditBracket edit(core, osg::MaterialGroup::MaterialFieldMask);
+        core->setMaterial(material.get());
+    }
+    osg::RefPtr<osg::NodePtr> group(makeNode(core));
+    addChild(group.get(), tree);
+    nbNodeUtils::setName(group.get(), kDepthPassGroupName);
+    nbNodeUtils::setIsAuxiliaryNode(group.get(), true);
+    return group;
+}
+
+}  // namespace
+
+HandlePasses makeHandlePasses(const osg::NodePtr& tree)
+{
+    const osg::RefPtr<osg::DepthTestChunkPtr> depth(makeAlwaysDepthChunk());
+    HandlePasses passes;
+    passes.depthPass = makePass(osg::cloneTree(tree), depth.get(), kDepthPassSortKey);
+    passes.handlePass = makePass(tree, depth.get(), kHandlePassSortKey);
+    return passes;
+}
+
+osg::NodePtr makeHandleRoot()
+{
+    const osg::NodePtr root = makeGroupNode();
+    nbNodeUtils::setName(root, kHandleGroupName);
+    nbNodeUtils::setIsAuxiliaryNode(root, true);
+    nbNodeUtils::setIsSelectableAuxiliaryNode(root, true);
+    nbNodeUtils::setIsManipulatorNode(root, true);
+    return root;
+}
+
+}  // namespace nbec::manipulator::detail

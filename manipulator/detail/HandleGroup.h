@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <OpenSG/OSGNode.h>
+#include <OpenSG/OSGRefPtr.h>
+
+namespace nbec::manipulator::detail {
+
+/// Name of a gizmo's root node.
+constexpr const char* kHandleGroupName = "Manipulatorgroup";
+
+/// Name of the nodes that hold the two passes. Deliberate: both bear the same name.
+constexpr const char* kDepthPassGroupName = "ManipulatorDepthPassMaterialGroup";
+
+/// The two passes in which a handle tree is drawn over the scene. Both nodes have no parent yet; a
+/// count is held.
+struct HandlePasses
+{
+    osg::RefPtr<osg::NodePtr>
+        depthPass;  ///< copy of the tree that shares its cores and bears no names, sort key 64015
+    osg::RefPtr<osg::NodePtr> handlePass;  ///< the tree itself, sort key 64017
+};
+
+/// Arranges a complete handle tree in two passes: an unnamed copy (osg::cloneTree, shared cores)
+/// under a material group with an unlit material, depth function GL_ALWAYS and sort key 64015, and
+/// the tree itself under a second one with sort key 64017. The two materials share one
+/// DepthTestChunk. The tree must be complete: nodes added later have no copy, and showNode() acts
+/// on both passes through the cores.
+/// @param tree  top node of the handles, becomes the child of the handle pass
+HandlePasses makeHandlePasses(const osg::NodePtr& tree);
+
+/// Makes an empty gizmo root: a Group node named "Manipulatorgroup", marked auxiliary, selectable
+/// auxiliary (the picker may hit it while the scene's selection ignores it) and manipulator node.
+osg::NodePtr makeHandleRoot();
+
+}  // namespace nbec::manipulator::detail

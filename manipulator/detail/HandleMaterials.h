@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <nbOpenSGExt/DepthTestChunk.h>
+
+#include <OpenSG/OSGBlendChunk.h>
+#include <OpenSG/OSGColor.h>
+#include <OpenSG/OSGLineChunk.h>
+#include <OpenSG/OSGSimpleMaterial.h>
+
+#include <vector>
+
+namespace nbec::manipulator::detail {
+
+/// The three state chunks that the line materials of one gizmo share.
+struct LineChunks
+{
+    osg::RefPtr<osg::LineChunkPtr> line;  ///< width 2 px, smooth
+    osg::RefPtr<osg::BlendChunkPtr> blend;  ///< GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA
+    osg::RefPtr<osg::DepthTestChunkPtr> depth;  ///< GL_ALWAYS
+};
+
+LineChunks makeLineChunks();
+
+/// A depth-test chunk with function GL_ALWAYS, count 0.
+osg::DepthTestChunkPtr makeAlwaysDepthChunk();
+
+/// Unlit handle material: black but for its diffuse colour, shininess 10.
+/// @param chunks  the line chunks to add, null for a solid material
+osg::SimpleMaterialRefPtr makeHandleMaterial(const osg::Color3f& diffuse, int sortKey,
+                                             const LineChunks* chunks);
+
+/// Unlit material of a handle pass: the depth-test chunk and the sort key are all that matters of
+/// it.
+osg::SimpleMaterialRefPtr makePassMaterial(const osg::DepthTestChunkPtr& depth, int sortKey);
+
+}  // namespace nbec::manipulator::detail

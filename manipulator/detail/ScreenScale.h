@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+namespace nbec::manipulator::detail {
+
+/// Size setting of a gizmo class before anybody sets one.
+constexpr float kDefaultManipulatorSize = 32.0F;
+
+/// Scale that keeps a gizmo's apparent size constant under a perspective camera:
+/// distance / (((200 - size) / 200) * 800 / fov), in double.
+/// A gizmo 672 units away under a field of view of 1 degree has scale 1 with the default size.
+/// Deliberate: a size of 200 makes the divisor 0 and the scale infinite; this is not guarded.
+/// @param distance  eye to the gizmo's anchor, world units, >= 0; 0 yields 0
+/// @param fovDeg    vertical field of view as the render widget reports it, degrees, > 0
+/// @param size      class-wide size setting, 0 <= size < 200; larger size, larger gizmo
+/// @return uniform scale, no unit
+float perspectiveScale(double distance, float fovDeg, float size);
+
+/// Scale that keeps a gizmo's apparent size constant under an orthographic camera: diagonal / 20.
+/// @param diagonal  diagonal of the camera's view, world units
+float orthographicScale(float diagonal);
+
+}  // namespace nbec::manipulator::detail

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <nbOpenSGExt/Transform3D.h>
+
+#include <OpenSG/OSGMatrix.h>
+#include <OpenSG/OSGNode.h>
+#include <OpenSG/OSGQuaternion.h>
+
+namespace nbec::manipulator::detail {
+
+/// Matrix whose change means that a manipulated node has moved: its to-world matrix, own core
+/// included.
+osg::Matrix targetToWorld(const osg::NodePtr& node);
+
+/// World from the frame of a node's parent; the identity for a node without a parent.
+osg::Matrix parentToWorld(const osg::NodePtr& node);
+
+/// A transform's pivot in world space: parent * (translation + rotate pivot), or the image of the
+/// scale pivot under the transform without its scale, parent * T(translation) T(rotatePivot) R RO
+/// T(-rotatePivot) * scale pivot.
+/// @param transform  core of the node
+/// @param scalePivot  the scale pivot instead of the rotate pivot
+osg::Pnt3f pivotWorld(const osg::NodePtr& node, const osg::Transform3DPtr& transform,
+                      bool scalePivot);
+
+/// Orientation of a node's axes in the world, scale and shear taken out by orthonormalising the
+/// columns (x keeps its direction, y its plane with x). Mirrored frames give the right-handed one
+/// with the same x and y; a column shorter than 1e-6 gives the identity.
+osg::Quaternion worldRotation(const osg::NodePtr& node);
+
+/// Centre of the node's volume, of its origin if it has none.
+/// @param worldSpace  in the world; otherwise in the node's own frame, in which pivots are given
+osg::Pnt3f objectCenter(const osg::NodePtr& node, bool worldSpace);
+
+}  // namespace nbec::manipulator::detail

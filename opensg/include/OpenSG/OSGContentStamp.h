@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <OpenSG/OSGBaseTypes.h>
+#include <OpenSG/OSGFieldContainer.h>
+#include <OpenSG/OSGFieldContainerPtr.h>
+
+namespace osg {
+
+/// Tells whether anything about a container and its parts changed since somebody looked: a number
+/// mixed from their ids and change counters. Equal stamps: nothing changed; otherwise something
+/// did. Stamps have no order. Ids are never reused, so a part that was replaced shows as well as
+/// one that was edited. Not in OpenSG.
+///
+/// A renderer keeps `material->getContentStamp()` with what it made from the material and compares:
+/// the stamp covers the material, its list of chunks, each chunk, a texture's image and a shader's
+/// parameters. `chunk->getContentStamp()` tells which chunk it was. As everywhere, a setter shows
+/// when its edit ends.
+class ContentStamp
+{
+public:
+    explicit ContentStamp(const FieldContainer& container) { add(container); }
+
+    void add(UInt64 number)
+    {
+        // Multiplication spreads low bits upwards, the shift brings high ones down again.
+        constexpr UInt64 kOdd = 0x9e3779b97f4a7c15ull;
+        constexpr UInt32 kHalf = 32;
+        value = (value ^ number) * kOdd;
+        value ^= value >> kHalf;
+    }
+
+    void add(const FieldContainer& container)
+    {
+        constexpr UInt32 kIdShift = 32;
+        add((UInt64(container.getFieldContainerId()) << kIdShift) | container.getChangeCount());
+    }
+
+    /// Null counts as a part, too.
+    void add(const FieldContainerPtr& container)
+    {
+        if (container != NullFC) {
+            add(*container);
+        } else {
+            add(UInt64(0));
+        }
+    }
+
+    UInt64 get() const { return value; }
+
+private:
+    UInt64 value = 1;
+};
+
+}  // namespace osg

@@ -1,0 +1,10 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <OpenSG/OSGNodeCoreFields.h>
+
+namespace osg {
+
+OSG_CONTAINER_POINTER(Group, NodeCorePtr);
+
+}  // namespace osg

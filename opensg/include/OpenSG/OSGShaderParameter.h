@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <OpenSG/OSGAttachment.h>
+#include <OpenSG/OSGConfig.h>
+#include <OpenSG/OSGContainerMacros.h>
+
+#include <string>
+
+namespace osg {
+
+OSG_CONTAINER_POINTER(ShaderParameter, AttachmentPtr);
+
+#define OSG_SHADER_PARAMETER_FIELDS(VALUE, OWNED, LINK)                                            \
+    VALUE(Name, name, std::string, std::string())
+
+/// A uniform variable of a shader: a name here, a value of one type in the derived classes.
+/// Left out of OpenSG's class: locations in a program, parameters of several values (the M
+/// classes), flags.
+class ShaderParameter : public Attachment
+{
+    OSG_ABSTRACT_CONTAINER(ShaderParameter, Attachment, OSG_SHADER_PARAMETER_FIELDS);
+};
+
+}  // namespace osg

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <OpenSG/OSGBlendChunk.h>
+#include <OpenSG/OSGChunkMaterial.h>
+#include <OpenSG/OSGColor.h>
+#include <OpenSG/OSGConfig.h>
+#include <OpenSG/OSGContainerMacros.h>
+#include <OpenSG/OSGGL.h>
+#include <OpenSG/OSGMaterialChunk.h>
+
+namespace osg {
+
+OSG_CONTAINER_POINTER(SimpleMaterial, ChunkMaterialPtr);
+
+#define OSG_SIMPLE_MATERIAL_FIELDS(VALUE, OWNED, LINK)                                             \
+    VALUE(Ambient, ambient, Color3f, Color3f(0.f, 0.f, 0.f))                                       \
+    VALUE(Diffuse, diffuse, Color3f, Color3f(0.f, 0.f, 0.f))                                       \
+    VALUE(Specular, specular, Color3f, Color3f(0.f, 0.f, 0.f))                                     \
+    VALUE(Shininess, shininess, Real32, 1.f)                                                       \
+    VALUE(Emission, emission, Color3f, Color3f(0.f, 0.f, 0.f))                                     \
+    VALUE(Transparency, transparency, Real32, 0.f)                                                 \
+    VALUE(Lit, lit, bool, true)                                                                    \
+    VALUE(ColorMaterial, colorMaterial, GLenum, GL_DIFFUSE)
+
+/// A material of a few colours, each 0 .. 1. Transparency 0 is opaque, 1 invisible; shininess
+/// 0 .. 128. Its state owns a material chunk made from these fields and, where the material is
+/// transparent, a blend chunk; chunks of the list come after both and replace them.
+class SimpleMaterial : public ChunkMaterial
+{
+    OSG_CONTAINER(SimpleMaterial, ChunkMaterial, OSG_SIMPLE_MATERIAL_FIELDS);
+
+public:
+    /// Deliberate: TransparencyForceOpaque does not override a transparency above Eps.
+    bool isTransparent() const override;
+
+protected:
+    void addChunks(const StatePtr& target) override;
+
+private:
+    MaterialChunkPtr makeMaterialChunk() const;
+};
+
+}  // namespace osg

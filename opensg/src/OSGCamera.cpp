@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: MIT
+#include <OpenSG/OSGCamera.h>
+#include <OpenSG/OSGLog.h>
+#include <OpenSG/OSGNode.h>
+#include <OpenSG/OSGViewport.h>
+#include <OpenSG/OSGWindow.h>
+
+#include <array>
+#include <cmath>
+#include <utility>
+
+namespace osg {
+
+OSG_ABSTRACT_CONTAINER_TYPE(Camera, AttachmentContainer);
+
+namespace {
+
+using Row = std::array<double, 4>;
+using Grid = std::array<Row, 4>;  // [row][column]
+
+/// a * b in double.
+Grid product(const Grid& a, const Matrix& b)
+{
+    Grid result {};
+    for (UInt32 row = 0; row < 4; ++row) {
+        for (UInt32 column = 0; column < 4; ++column) {
+            for (UInt32 k = 0; k < 4; ++k) {
+                result[row][column] += a[row][k] * static_cast<double>(b[column][k]);
+            }
+        }
+    }
+    return result;
+}
+
+Grid unit()
+{
+    Grid result {};
+    for (UInt32 i = 0; i < 4; ++i) {
+        result[i][i] = 1.0;
+    }
+    return result;
+}
+
+/// Solves m * x = b by elimination with row exchanges; zeros if m is singular.
+Row solve(Grid m, Row b)
+{
+    for (UInt32 column = 0; column < 4; ++column) {
+        UInt32 pivot = column;
+        for (UInt32 row = column + 1; row < 4; ++row) {
+            if (std::fabs(m[row][column]) > std::fabs(m[pivot][column])) {
+                pivot = row;
+            }
+        }
+        if (!(std::fabs(m[pivot][column]) > 0.0)) {
+            return Row {};
+        }
+        std::swap(m[pivot], m[column]);
+        std::swap(b[pivot], b[column]);
+        for (UInt32 row = 0; row < 4; ++row) {
+            if (row == column) {
+                continue;
+            }
+            const double factor = m[row][column] / m[column][column];
+            for (UInt32 k = column; k < 4; ++k) {
+                m[row][k] -= factor * m[column][k];
+            }
+            b[row] -= factor * b[column];
+        }
+    }
+    for (UInt32 i = 0; i < 4; ++i) {
+        b[i] /= m[i][i];
+    }
+    return b;
+}
+
+/// The point of homogeneous coordinates; the origin if they have none.
+Pnt3f pointOf(const Row& p)
+{
+    const double scale = std::fabs(p[3]) > 0.0 ? 1.0 / p[3] : 0.0;
+    return { static_cast<Real32>(p[0] * scale), static_cast<Real32>(p[1] * scale),
+             static_cast<Real32>(p[2] * scale) };
+}
+
+/// Unit direction from one homogeneous point to another; zero if they are one.
+Vec3f directionBetween(const Row& from, const Row& to)
+{
+    const double sign = from[3] * to[3] < 0.0 ? -1.0 : 1.0;
+    Row d {};
+    for (UInt32 i = 0; i < 3; ++i) {
+        d[i] = sign * (to[i] * from[3] - from[i] * to[3]);
+    }
+    const double length = std::hypot(d[0], d[1], d[2]);
+    const double scale = length > 0.0 ? 1.0 / length : 0.0;
+    return { static_cast<Real32>(d[0] * scale), static_cast<Real32>(d[1] * scale),
+             static_cast<Real32>(d[2] * scale) };
+}
+
+}  // namespace
+
+void Camera::getProjectionTranslation(Matrix& result, UInt32, UInt32)
+{
+    result.setIdentity();
+}
+
+void Camera::getViewing(Matrix& result, UInt32, UInt32)
+{
+    if (getBeacon() == NullFC) {
+        SWARNING << "Camera::getViewing: camera " << this << " has no beacon" << std::endl;
+        return;
+    }
+    getBeacon()->getToWorld(result);
+    result.invert();
+}
+
+void Camera::getWorldToScreen(Matrix& result, const Viewport& port)
+{
+    const auto width = static_cast<UInt32>(osgMax(port.getPixelWidth(), 0));
+    const auto height = static_cast<UInt32>(osgMax(port.getPixelHeight(), 0));
+    Matrix translation;
+    Matrix viewing;
+    getProjection(result, width, height);
+    getProjectionTranslation(translation, width, height);
+    getViewing(viewing, width, height);
+    result.mult(translation);
+    result.mult(viewing);
+}
+
+bool Camera::calcViewRay(Line& line, Int32 x, Int32 y, const Viewport& port)
+{
+    if (port.getParent() == NullFC) {
+        SWARNING << "Camera::calcViewRay: the viewport is in no window" << std::endl;
+        return false;
+    }
+    if (port.getPixelWidth() <= 0 || port.getPixelHeight() <= 0) {
+        return false;
+    }
+    const auto width = static_cast<UInt32>(port.getPixelWidth());
+    const auto height = static_cast<UInt32>(port.getPixelHeight());
+    const Int32 fromTop = y - (port.getParent()->getHeight() - port.getPixelTop());
+    const double ndcX = 2.0 * (x - port.getPixelLeft()) / width - 1.0;
+    const double ndcY = 1.0 - 2.0 * fromTop / height;
+
+    Matrix projection;
+    Matrix translation;
+    Matrix viewing;
+    getProjection(projection, width, height);
+    getProjectionTranslation(translation, width, height);
+    getViewing(viewing, width, height);
+    const Grid screenFromWorld =
+        product(product(product(unit(), projection), translation), viewing);
+
+    // In double and by homogeneous points: in single precision the difference of two close points
+    // loses the direction far from the origin. A far plane at infinity works too.
+    const Row front = solve(screenFromWorld, { ndcX, ndcY, -1.0, 1.0 });
+    const Row back = solve(screenFromWorld, { ndcX, ndcY, 1.0, 1.0 });
+    line.setValue(pointOf(front), directionBetween(front, back));
+    return true;
+}
+
+}  // namespace osg

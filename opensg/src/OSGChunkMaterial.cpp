@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: MIT
+#include <OpenSG/OSGChunkMaterial.h>
+#include <OpenSG/OSGContentStamp.h>
+#include <OpenSG/OSGLog.h>
+
+#include <algorithm>
+
+namespace osg {
+
+OSG_CONTAINER_TYPE(ChunkMaterial, Material);
+
+bool ChunkMaterial::addChunk(StateChunkPtr chunk, Int32 slot)
+{
+    if (chunk == NullFC) {
+        SWARNING << "ChunkMaterial::addChunk: the chunk is null" << std::endl;
+        return false;
+    }
+    if (slot != State::AutoSlotReplace || !mfSlots.empty()) {
+        mfSlots.resize(mfChunks.size(), State::AutoSlotReplace);
+        mfSlots.push_back(slot);
+    }
+    addOwned(mfChunks, chunk, *this);
+    return true;
+}
+
+bool ChunkMaterial::subChunk(StateChunkPtr chunk, Int32 slot)
+{
+    for (UInt32 i = 0; i < mfChunks.getSize(); ++i) {
+        if (mfChunks[i] != chunk || (slot != State::AutoSlotReplace && slotOf(i) != slot)) {
+            continue;
+        }
+        if (i < mfSlots.getSize()) {
+            mfSlots.erase(mfSlots.begin() + i);
+        }
+        eraseOwned(mfChunks, i, *this);
+        return false;
+    }
+    SWARNING << "ChunkMaterial::subChunk: the chunk is not in the material, slot " << slot
+             << std::endl;
+    return true;
+}
+
+Int32 ChunkMaterial::find(StateChunkPtr chunk) const
+{
+    const auto found = mfChunks.find(chunk);
+    return found != mfChunks.end() ? static_cast<Int32>(found - mfChunks.begin()) : -1;
+}
+
+StateChunkPtr ChunkMaterial::find(const FieldContainerType& type, Int32 slot) const
+{
+    for (UInt32 i = 0; i < mfChunks.getSize(); ++i) {
+        if (mfChunks[i]->getType() == type &&
+            (slot == State::AutoSlotReplace || slotOf(i) == slot)) {
+            return mfChunks[i];
+        }
+    }
+    return NullFC;
+}
+
+void ChunkMaterial::clearChunks()
+{
+    mfSlots.clear();
+    clearOwned(mfChunks, *this);
+}
+
+bool ChunkMaterial::isTransparent() const
+{
+    if (getTransparencyMode() != TransparencyAutoDetection) {
+        return Inherited::isTransparent();
+    }
+    return std::any_of(mfChunks.begin(), mfChunks.end(), [](const StateChunkPtr& chunk) {
+        return chunk != NullFC && chunk->isTransparent();
+    });
+}
+
+StatePtr ChunkMaterial::makeState()
+{
+    const StatePtr result = State::create();
+    addChunks(result);
+    return result;
+}
+
+void ChunkMaterial::rebuildState()
+{
+    if (currentState == NullFC) {
+        currentState = State::create();
+    } else {
+        currentState->clearChunks();
+    }
+    addChunks(currentState);
+    stateStamp = getContentStamp();
+}
+
+StatePtr ChunkMaterial::getState()
+{
+    if (currentState == NullFC || stateStamp != getContentStamp()) {
+        rebuildState();
+    }
+    return currentState;
+}
+
+UInt64 ChunkMaterial::getContentStamp() const
+{
+    ContentStamp stamp(*this);
+    for (UInt32 i = 0; i < mfChunks.getSize(); ++i) {
+        stamp.add(mfChunks[i] != NullFC ? mfChunks[i]->getContentStamp() : 0);
+        stamp.add(static_cast<UInt64>(slotOf(i)));
+    }
+    return stamp.get();
+}
+
+void ChunkMaterial::addChunks(const StatePtr& target)
+{
+    for (UInt32 i = 0; i < mfChunks.getSize(); ++i) {
+        target->addChunk(mfChunks[i], slotOf(i));
+    }
+}
+
+Int32 ChunkMaterial::slotOf(UInt32 index) const
+{
+    return index < mfSlots.getSize() ? mfSlots[index] : Int32(State::AutoSlotReplace);
+}
+
+}  // namespace osg

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// The chunks that are little more than their fields.
+#include <OpenSG/OSGBlendChunk.h>
+#include <OpenSG/OSGContentStamp.h>
+#include <OpenSG/OSGDepthChunk.h>
+#include <OpenSG/OSGImage.h>
+#include <OpenSG/OSGLineChunk.h>
+#include <OpenSG/OSGMaterialChunk.h>
+#include <OpenSG/OSGPolygonChunk.h>
+#include <OpenSG/OSGTextureChunk.h>
+
+namespace osg {
+
+OSG_STATE_CHUNK_TYPE(BlendChunk, StateChunk);
+OSG_STATE_CHUNK_TYPE(DepthChunk, StateChunk);
+OSG_STATE_CHUNK_TYPE(LineChunk, StateChunk);
+OSG_STATE_CHUNK_TYPE(MaterialChunk, StateChunk);
+OSG_STATE_CHUNK_TYPE(PolygonChunk, StateChunk);
+
+OSG_CONTAINER_TYPE(TextureChunk, StateChunk);
+StateChunkClass TextureChunk::chunkClass("TextureChunk", TextureChunk::kMaxTextures);
+
+bool BlendChunk::isTransparent() const
+{
+    return getDestFactor() != GL_ZERO;
+}
+
+UInt64 TextureChunk::getContentStamp() const
+{
+    ContentStamp stamp(*this);
+    stamp.add(getImage());
+    return stamp.get();
+}
+
+}  // namespace osg

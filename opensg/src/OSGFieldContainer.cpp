@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: MIT
+#include <OpenSG/OSGChangeCount.h>
+#include <OpenSG/OSGContainerCloner.h>
+#include <OpenSG/OSGFieldContainer.h>
+#include <OpenSG/OSGFieldContainerFactory.h>
+#include <OpenSG/OSGNode.h>
+
+#include "FactoryTables.h"
+
+namespace osg {
+
+namespace {
+
+UInt64 sharedChangeCount = 0;
+
+}  // namespace
+
+FieldContainerType FieldContainer::classType("FieldContainer", nullptr, nullptr);
+
+UInt32 FieldContainer::getClassTypeId()
+{
+    return classType.getId();
+}
+
+const Char8* FieldContainer::getTypeName() const
+{
+    return getType().getCName();
+}
+
+UInt32 FieldContainer::getTypeId() const
+{
+    return getType().getId();
+}
+
+FieldContainer::FieldContainer()
+    : id(FieldContainerFactory::the()->registerContainer(this))
+{ }
+
+FieldContainer::FieldContainer(const FieldContainer&)
+    : FieldContainer()
+{ }
+
+FieldContainer::~FieldContainer() = default;
+
+void FieldContainer::changed(BitVector, UInt32) { }
+
+void FieldContainer::ownerAdded(FieldContainer&) { }
+
+void FieldContainer::ownerRemoved(FieldContainer&) { }
+
+void FieldContainer::cloneReferences(ContainerCloner&) { }
+
+void FieldContainer::noteEdit()
+{
+    ++sharedChangeCount;
+}
+
+bool FieldContainer::releaseOne()
+{
+    if (--refCount > 0 || dying) {
+        return false;
+    }
+    destroy(this);
+    return true;
+}
+
+// What dies with a container is destroyed after it, one by one, so that a deep tree needs no deep
+// stack. All is gone when the outermost call returns.
+void FieldContainer::destroy(FieldContainer* container)
+{
+    FieldContainerFactory* const factory = FieldContainerFactory::the();
+    FieldContainerFactory::Tables& tables = *factory->tables;
+    container->dying = true;
+    factory->unregisterContainer(container);
+    if (tables.destroying) {
+        tables.doomed.push_back(container);
+        return;
+    }
+    tables.destroying = true;
+    delete container;
+    while (!tables.doomed.empty()) {
+        FieldContainer* const next = tables.doomed.back();
+        tables.doomed.pop_back();
+        delete next;
+    }
+    tables.destroying = false;
+}
+
+FieldContainer* FieldContainerPtr::checked(const FieldContainerPtr& source,
+                                           const FieldContainerType& type)
+{
+    const bool fits = source != NullFC && source->getType().isDerivedFrom(type);
+    return fits ? source.target : nullptr;
+}
+
+// == Counting
+
+void addRefCP(const FieldContainerPtr& container)
+{
+    if (container != NullFC) {
+        ++container->refCount;
+    }
+}
+
+void subRefCP(const FieldContainerPtr& container)
+{
+    if (container != NullFC) {
+        container->releaseOne();
+    }
+}
+
+void subRefCP(FieldContainerPtr& container)
+{
+    if (container != NullFC && container->releaseOne()) {
+        container = NullFC;
+    }
+}
+
+void clearRefCP(FieldContainerPtr& container)
+{
+    const FieldContainerPtr old = container;
+    container = NullFC;
+    subRefCP(old);
+}
+
+// == Edits
+
+void beginEditCP(const FieldContainerPtr&, BitVector, UInt32) { }
+
+void endEditCP(const FieldContainerPtr& container, BitVector whichField, UInt32 origin)
+{
+    changedCP(container, whichField, origin);
+}
+
+void changedCP(const FieldContainerPtr& container, BitVector whichField, UInt32 origin)
+{
+    if (container == NullFC) {
+        return;
+    }
+    ++container->changeCount;
+    container->noteEdit();
+    container->changed(whichField, origin);
+}
+
+void endEditNotChangedCP(const FieldContainerPtr&, BitVector, UInt32) { }
+
+UInt32 getChangeCount(const FieldContainerPtr& container)
+{
+    return container != NullFC ? container->getChangeCount() : 0;
+}
+
+UInt64 getTreeChangeCount(const NodePtr& node)
+{
+    return node != NullFC ? node->getSubtreeChangeCount() + sharedChangeCount : 0;
+}
+
+UInt64 getSharedChangeCount()
+{
+    return sharedChangeCount;
+}
+
+}  // namespace osg

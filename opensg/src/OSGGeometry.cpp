@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: MIT
+#include <OpenSG/OSGBoxVolume.h>
+#include <OpenSG/OSGFaceIterator.h>
+#include <OpenSG/OSGGeometry.h>
+#include <OpenSG/OSGGeometryView.h>
+#include <OpenSG/OSGLineIterator.h>
+#include <OpenSG/OSGTriangleIterator.h>
+
+namespace osg {
+
+OSG_ABSTRACT_CONTAINER_TYPE(Drawable, NodeCore);
+OSG_ABSTRACT_CONTAINER_TYPE(MaterialDrawable, Drawable);
+OSG_CONTAINER_TYPE(Geometry, MaterialDrawable);
+
+Int16 Geometry::calcMappingIndex(UInt16 attribute) const
+{
+    if (mfIndexMapping.empty()) {
+        return 0;
+    }
+    for (UInt32 i = 0; i < mfIndexMapping.getSize(); ++i) {
+        if ((mfIndexMapping[i] & attribute) != 0) {
+            return static_cast<Int16>(i);
+        }
+    }
+    return -1;
+}
+
+GeometryPtr Geometry::clone()
+{
+    return GeometryPtr::dcast(deepClone(GeometryPtr(*this), "Material"));
+}
+
+PrimitiveIterator Geometry::beginPrimitives() const
+{
+    PrimitiveIterator result((GeometryPtr(*this)));
+    result.setToBegin();
+    return result;
+}
+
+PrimitiveIterator Geometry::endPrimitives() const
+{
+    return PrimitiveIterator(GeometryPtr(*this), PrimitiveIterator::End());
+}
+
+TriangleIterator Geometry::beginTriangles() const
+{
+    TriangleIterator result((GeometryPtr(*this)));
+    result.setToBegin();
+    return result;
+}
+
+TriangleIterator Geometry::endTriangles() const
+{
+    return TriangleIterator(endPrimitives());
+}
+
+FaceIterator Geometry::beginFaces() const
+{
+    FaceIterator result((GeometryPtr(*this)));
+    result.setToBegin();
+    return result;
+}
+
+FaceIterator Geometry::endFaces() const
+{
+    return FaceIterator(endPrimitives());
+}
+
+LineIterator Geometry::beginLines() const
+{
+    LineIterator result((GeometryPtr(*this)));
+    result.setToBegin();
+    return result;
+}
+
+LineIterator Geometry::endLines() const
+{
+    return LineIterator(endPrimitives());
+}
+
+void Geometry::adjustVolume(Volume& volume)
+{
+    Inherited::adjustVolume(volume);
+
+    const GeometryView view((GeometryPtr(*this)));
+    const UInt32 positionCount = getPositions() != NullFC ? getPositions()->getSize() : 0;
+    BoxVolume box;
+    UInt64 first = 0;
+    for (UInt32 i = 0; i < view.getPrimitiveCount(); ++i) {
+        const UInt64 end = first + view.getLength(i);
+        for (UInt64 vertex = first; vertex < osgMin(end, UInt64(view.getVertexCount())); ++vertex) {
+            const Int32 index = view.getPositionIndex(static_cast<UInt32>(vertex));
+            if (static_cast<UInt32>(index) < positionCount) {
+                box.extendBy(view.getPosition(static_cast<UInt32>(vertex)));
+            }
+        }
+        first = end;
+    }
+    volume.extendBy(box);
+}
+
+void Geometry::changed(BitVector whichField, UInt32 origin)
+{
+    invalidateVolume();
+    Inherited::changed(whichField, origin);
+}
+
+// == Reading
+
+namespace {
+
+template <class Concrete, class Property, class Value>
+void openSource(const Property& source, const GeoProperty<Value>*& property, const Value*& raw,
+                UInt32& size)
+{
+    if (source == NullFC) {
+        return;
+    }
+    property = source.getCPtr();
+    size = source->getSize();
+    if (source->getType() == Concrete::getClassType()) {
+        raw = static_cast<const Concrete*>(source.getCPtr())->getField().data();
+    }
+}
+
+}  // namespace
+
+GeometryView::GeometryView(const GeometryPtr& geometry)
+{
+    if (geometry == NullFC || geometry->getTypes() == NullFC || geometry->getLengths() == NullFC) {
+        return;
+    }
+    const Geometry& geo = *geometry;
+    types = geo.getTypes().getCPtr();
+    lengths = geo.getLengths().getCPtr();
+    primitiveCount = osgMin(types->getSize(), lengths->getSize());
+    stride = osgMax(geo.getIndexMapping().getSize(), 1u);
+
+    const auto entryOf = [&geo](UInt16 attribute) -> Int32 {
+        return geo.getIndices() == NullFC ? 0 : geo.calcMappingIndex(attribute);
+    };
+    const auto open = [](auto concrete, const auto& property, Int32 entry, auto& source) {
+        using Concrete = std::remove_pointer_t<decltype(concrete)>;
+        openSource<Concrete>(property, source.property, source.raw, source.size);
+        source.entry = property == NullFC ? -1 : entry;
+    };
+    open(static_cast<GeoIndicesUI32*>(nullptr), geo.getIndices(), 0, indices);
+    open(static_cast<GeoPositions3f*>(nullptr), geo.getPositions(), entryOf(Geometry::MapPosition),
+         positions);
+    open(static_cast<GeoNormals3f*>(nullptr), geo.getNormals(), entryOf(Geometry::MapNormal),
+         normals);
+    open(static_cast<GeoColors3f*>(nullptr), geo.getColors(), entryOf(Geometry::MapColor), colors);
+    open(static_cast<GeoTexCoords2f*>(nullptr), geo.getTexCoords(), entryOf(Geometry::MapTexCoords),
+         texCoords);
+}
+
+}  // namespace osg

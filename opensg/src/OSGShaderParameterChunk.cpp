@@ -1,0 +1,206 @@
+// SPDX-License-Identifier: MIT
+#include <OpenSG/OSGContentStamp.h>
+#include <OpenSG/OSGLog.h>
+#include <OpenSG/OSGSHLChunk.h>
+#include <OpenSG/OSGShaderChunk.h>
+#include <OpenSG/OSGShaderParameterBool.h>
+#include <OpenSG/OSGShaderParameterChunk.h>
+#include <OpenSG/OSGShaderParameterInt.h>
+#include <OpenSG/OSGShaderParameterMatrix.h>
+#include <OpenSG/OSGShaderParameterReal.h>
+#include <OpenSG/OSGShaderParameterVec2f.h>
+#include <OpenSG/OSGShaderParameterVec3f.h>
+#include <OpenSG/OSGShaderParameterVec4f.h>
+
+#include <algorithm>
+
+namespace osg {
+
+OSG_ABSTRACT_CONTAINER_TYPE(ShaderParameter, Attachment);
+OSG_CONTAINER_TYPE(ShaderParameterBool, ShaderParameter);
+OSG_CONTAINER_TYPE(ShaderParameterInt, ShaderParameter);
+OSG_CONTAINER_TYPE(ShaderParameterReal, ShaderParameter);
+OSG_CONTAINER_TYPE(ShaderParameterVec2f, ShaderParameter);
+OSG_CONTAINER_TYPE(ShaderParameterVec3f, ShaderParameter);
+OSG_CONTAINER_TYPE(ShaderParameterVec4f, ShaderParameter);
+OSG_CONTAINER_TYPE(ShaderParameterMatrix, ShaderParameter);
+
+OSG_ABSTRACT_CONTAINER_TYPE(ShaderParameterChunk, StateChunk);
+OSG_ABSTRACT_CONTAINER_TYPE(ShaderChunk, ShaderParameterChunk);
+OSG_STATE_CHUNK_TYPE(SHLChunk, ShaderChunk);
+
+namespace {
+
+/// Reads the value of a parameter, if it is of this class.
+template <class Parameter, class Value>
+bool readParameter(const ShaderParameterPtr& source, Value& value)
+{
+    const auto typed = Parameter::Ptr::dcast(source);
+    if (typed == NullFC) {
+        return false;
+    }
+    value = typed->getValue();
+    return true;
+}
+
+}  // namespace
+
+ShaderParameterChunk::ShaderParameterChunk(const ShaderParameterChunk& source)
+    : Inherited(source)
+    , mfParameters(source.mfParameters)
+    , counted(source.counted)
+{
+    freeUnlisted();
+}
+
+template <class Parameter, class Value>
+bool ShaderParameterChunk::setParameter(const Char8* name, const Value& value)
+{
+    if (name == nullptr || *name == '\0') {
+        SWARNING << "ShaderParameterChunk::setUniformParameter: the name is empty" << std::endl;
+        return false;
+    }
+    freeUnlisted();
+    const ShaderParameterPtr present = findParameter(name);
+    auto parameter = Parameter::Ptr::dcast(present);
+    if (present != NullFC && parameter == NullFC) {
+        SWARNING << "ShaderParameterChunk::setUniformParameter: " << name << " is a "
+                 << present->getTypeName() << ", no " << Parameter::getClassType().getCName()
+                 << std::endl;
+        return false;
+    }
+    if (present == NullFC) {
+        parameter = Parameter::create();
+        parameter->setName(name);
+        counted.emplace_back(parameter);
+        mfParameters.push_back(parameter);
+    }
+    beginEditCP(parameter, Parameter::ValueFieldMask);
+    parameter->setValue(value);
+    endEditCP(parameter, Parameter::ValueFieldMask);
+    return true;
+}
+
+bool ShaderParameterChunk::setUniformParameter(const Char8* name, bool value)
+{
+    return setParameter<ShaderParameterBool>(name, value);
+}
+
+bool ShaderParameterChunk::setUniformParameter(const Char8* name, Int32 value)
+{
+    return setParameter<ShaderParameterInt>(name, value);
+}
+
+bool ShaderParameterChunk::setUniformParameter(const Char8* name, Real32 value)
+{
+    return setParameter<ShaderParameterReal>(name, value);
+}
+
+bool ShaderParameterChunk::setUniformParameter(const Char8* name, const Vec2f& value)
+{
+    return setParameter<ShaderParameterVec2f>(name, value);
+}
+
+bool ShaderParameterChunk::setUniformParameter(const Char8* name, const Vec3f& value)
+{
+    return setParameter<ShaderParameterVec3f>(name, value);
+}
+
+bool ShaderParameterChunk::setUniformParameter(const Char8* name, const Vec4f& value)
+{
+    return setParameter<ShaderParameterVec4f>(name, value);
+}
+
+bool ShaderParameterChunk::setUniformParameter(const Char8* name, const Matrix& value)
+{
+    return setParameter<ShaderParameterMatrix>(name, value);
+}
+
+bool ShaderParameterChunk::getUniformParameter(const Char8* name, bool& value) const
+{
+    return readParameter<ShaderParameterBool>(findParameter(name), value);
+}
+
+bool ShaderParameterChunk::getUniformParameter(const Char8* name, Int32& value) const
+{
+    return readParameter<ShaderParameterInt>(findParameter(name), value);
+}
+
+bool ShaderParameterChunk::getUniformParameter(const Char8* name, Real32& value) const
+{
+    return readParameter<ShaderParameterReal>(findParameter(name), value);
+}
+
+bool ShaderParameterChunk::getUniformParameter(const Char8* name, Vec2f& value) const
+{
+    return readParameter<ShaderParameterVec2f>(findParameter(name), value);
+}
+
+bool ShaderParameterChunk::getUniformParameter(const Char8* name, Vec3f& value) const
+{
+    return readParameter<ShaderParameterVec3f>(findParameter(name), value);
+}
+
+bool ShaderParameterChunk::getUniformParameter(const Char8* name, Vec4f& value) const
+{
+    return readParameter<ShaderParameterVec4f>(findParameter(name), value);
+}
+
+bool ShaderParameterChunk::getUniformParameter(const Char8* name, Matrix& value) const
+{
+    return readParameter<ShaderParameterMatrix>(findParameter(name), value);
+}
+
+bool ShaderParameterChunk::subUniformParameter(const Char8* name)
+{
+    const auto found = mfParameters.find(findParameter(name));
+    if (found == mfParameters.end()) {
+        return false;
+    }
+    const ShaderParameterChunkPtr self(*this);
+    beginEditCP(self, ParametersFieldMask);
+    mfParameters.erase(found);
+    freeUnlisted();
+    endEditCP(self, ParametersFieldMask);
+    return true;
+}
+
+ShaderParameterPtr ShaderParameterChunk::findParameter(const Char8* name) const
+{
+    for (const ShaderParameterPtr& parameter : mfParameters) {
+        if (name != nullptr && parameter != NullFC && parameter->getName() == name) {
+            return parameter;
+        }
+    }
+    return NullFC;
+}
+
+UInt64 ShaderParameterChunk::getContentStamp() const
+{
+    ContentStamp stamp(*this);
+    for (const ShaderParameterPtr& parameter : mfParameters) {
+        stamp.add(parameter);
+    }
+    return stamp.get();
+}
+
+void ShaderParameterChunk::cloneReferences(ContainerCloner& cloner)
+{
+    Inherited::cloneReferences(cloner);
+    std::vector<RefPtr<ShaderParameterPtr>> copies;
+    for (ShaderParameterPtr& parameter : mfParameters) {
+        parameter = cloner.copyOf(parameter);
+        copies.emplace_back(parameter);
+    }
+    counted.swap(copies);
+}
+
+void ShaderParameterChunk::freeUnlisted()
+{
+    const auto unlisted = [this](const auto& parameter) {
+        return mfParameters.find(parameter.get()) == mfParameters.end();
+    };
+    counted.erase(std::remove_if(counted.begin(), counted.end(), unlisted), counted.end());
+}
+
+}  // namespace osg

@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <nbUtils/nbPlatformExport.h>
+
+#include <OpenSG/OSGConfig.h>
+#include <OpenSG/OSGNode.h>
+
+#include <QRect>
+
+#include <memory>
+#include <vector>
+
+namespace nbec::interaction {
+
+namespace detail {
+class HandlePicking;
+class ScenePicking;
+struct PickView;
+}  // namespace detail
+
+/// Finds what lies under a pixel of the main render widget: scene geometry or manipulator handles.
+///
+/// The filter says which. Flags of a node hold for its whole subtree, inactive subtrees (travMask
+/// 0) are never hit.
+/// - SceneFilter: the nearest triangle of the scene below the world root, back faces too. Auxiliary
+/// subtrees are
+///   ignored, lines and points are never hit, the pick node plays no role.
+/// - HandleFilter: active, named geometry below the pick node, whatever lies in front of it;
+/// without a pick node, below
+///   every node marked manipulator or selectable auxiliary. Triangles, lines and points are hit
+///   within a tolerance on screen. The least distance beyond the drawn half width wins, then the
+///   least depth; ties (0.5 device pixels, 1e-4 of the depth) go to the handle first in the tree.
+///   Unnamed geometry is never hit.
+///
+/// The picker owns nothing of the scene: nodes are kept by container id, so one that was destroyed
+/// reads as null. What it derives from the scene follows the containers' change counters, so edits
+/// must be closed with endEditCP. Nothing throws. User-interface thread only.
+class NB_PLATFORM_API Picker
+{
+public:
+    enum Filter : int
+    {
+        SceneFilter = 0,
+        HandleFilter = 5
+    };
+
+    /// Distance in logical pixels within which handles are hit unless setTolerance says otherwise.
+    static constexpr float kDefaultTolerance = 4.0f;
+
+    Picker();
+    ~Picker();
+    Picker(const Picker&) = delete;
+    Picker& operator=(const Picker&) = delete;
+
+    /// Sets the top of the handles to test (a manipulator's collider); null clears. Not owned.
+    void setPickNode(const osg::NodePtr& node);
+    /// @return the pick node; null if none was set or it no longer exists
+    osg::NodePtr getPickNode() const;
+
+    /// Sets the filter. Values other than those of Filter are kept and pick nothing.
+    void setFilter(int value);
+    int getFilter() const;
+
+    /// Sets the handle tolerance. @param logicalPx  logical pixels, >= 0; negative and non-finite
+    /// values count as 0
+    void setTolerance(float logicalPx);
+    float getTolerance() const;
+
+    /// Sets the device pixels per logical pixel, which scales the tolerance. @param ratio  > 0,
+    /// other values are ignored
+    void setPixelRatio(float ratio);
+    float getPixelRatio() const;
+
+    /// Picks under the main widget's pointer and remembers the hit.
+    /// @return the hit geometry node; null if there is none, no widget, no camera or no area
+    osg::NodePtr pick();
+
+    /// Picks at a pixel of the main widget and remembers the hit.
+    /// The ray goes through the centre of the pixel that holds the position.
+    /// @param px  device pixels, y from the top; outside the view or NaN: no hit
+    osg::NodePtr pickAt(const osg::Pnt2f& px);
+
+    /// @return the node of the last pick; null if it missed or the node no longer exists
+    osg::NodePtr getHitNode() const;
+    /// @return the point of the last hit, world space; the origin after a miss.
+    /// On a handle hit beside its edge: the point of the handle nearest to the pointer on screen.
+    osg::Pnt3f getHitPoint() const;
+    /// @return the surface normal of the last hit, world space, unit length, on the front side of
+    /// the triangle as its vertices wind; on a line or point towards the eye; zero after a miss
+    osg::Vec3f getHitNormal() const;
+
+    /// Collects the scene's geometry nodes that lie wholly inside a rectangle of the main widget:
+    /// every position of the geometry is projected inside it and in front of the near plane.
+    /// Occluded nodes count. Auxiliary and inactive subtrees, filter and pick node as in
+    /// SceneFilter; lines and points count. Not remembered as hit.
+    /// @param rect  device pixels, y from the top; right and bottom inclusive as in Qt; need not be
+    /// normalised
+    /// @return nodes in tree order; empty for a rectangle without area
+    std::vector<osg::NodePtr> pickRectangle(const QRect& rect);
+
+    /// Builds or refreshes the search trees of all geometry below a node ahead of the first pick
+    /// (after loading). Trees are shared by all pickers and all nodes with the same core. Null:
+    /// nothing.
+    static void buildTrees(const osg::NodePtr& root);
+
+private:
+    /// Fills the view of the main widget; false if there is none to pick in.
+    bool currentView(detail::PickView& view) const;
+    void forgetHit();
+
+    osg::UInt32 pickNodeId = 0;
+    int filter = SceneFilter;
+    float tolerance = kDefaultTolerance;
+    float pixelRatio = 1.0f;
+
+    osg::UInt32 hitNodeId = 0;
+    osg::Pnt3f hitPoint;
+    osg::Vec3f hitNormal;
+
+    std::unique_ptr<detail::ScenePicking> scenePicking;
+    std::unique_ptr<detail::HandlePicking> handlePicking;
+};
+
+}  // namespace nbec::interaction

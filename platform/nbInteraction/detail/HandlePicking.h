@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <OpenSG/OSGMaterial.h>
+#include <OpenSG/OSGNode.h>
+
+#include "HandleTable.h"
+
+namespace nbec::interaction::detail {
+
+/// Picks manipulator handles: keeps a HandleTable in step with a subtree, its place in the world,
+/// and the view.
+class HandlePicking
+{
+public:
+    /// Finds the handle at a position on screen.
+    /// @param pickNode     top of the handles; null: below worldRoot, what is marked manipulator or
+    /// selectable auxiliary
+    /// @param tolerancePx  device pixels
+    bool pick(const osg::NodePtr& pickNode, const osg::NodePtr& worldRoot, const PickView& view,
+              const ScreenPoint& position, float tolerancePx, HandleHit& hit);
+
+    /// @return how often the table was filled anew, and how often only its picture; for tests of
+    /// the update strategy
+    std::size_t getFillCount() const { return fillCount; }
+
+    std::size_t getProjectionCount() const { return projectionCount; }
+
+private:
+    /// What holds for a node because of its ancestors.
+    struct Inherited
+    {
+        osg::Matrix tableFromParent;
+        osg::MaterialPtr outermostMaterial;  ///< of the material groups above
+        bool isBelowManipulator = false;
+        bool isHandle = false;  ///< below a node whose geometry counts as handles
+    };
+
+    void refresh(const osg::NodePtr& top, bool allCount, const PickView& view);
+    void collect(const osg::NodePtr& node, Inherited inherited);
+    void addHandle(const osg::NodePtr& node, const Inherited& inherited);
+    static Inherited inheritedBy(const osg::NodePtr& top);
+
+    HandleTable table;
+    osg::UInt32 topId = 0;
+    osg::UInt64 topChanges = 0;
+    bool topCounts = false;  ///< all geometry below the top counts as handles
+    osg::Matrix worldFromTable;
+    PickView projectedView;
+    std::size_t fillCount = 0;
+    std::size_t projectionCount = 0;
+};
+
+}  // namespace nbec::interaction::detail

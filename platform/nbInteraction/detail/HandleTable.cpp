@@ -1,0 +1,297 @@
+// SPDX-License-Identifier: MIT
+#include "HandleTable.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace nbec::interaction::detail {
+
+namespace {
+
+/// Distances that differ by less count as equal, so that the depth decides (device pixels).
+constexpr float kDistanceTiePx = 0.5f;
+/// Depths that differ by less than this part of the nearer one count as equal, so that the tree's
+/// order decides.
+constexpr float kDepthTie = 1e-4f;
+/// Primitives that share one box: few enough to test one by one, many enough that the boxes are
+/// few.
+constexpr std::size_t kRunLength = 8;
+
+bool isFinite(const osg::Pnt3f& p)
+{
+    return std::isfinite(p[0]) && std::isfinite(p[1]) && std::isfinite(p[2]);
+}
+
+ScreenProjection::Projected interpolate(const ScreenProjection::Projected& a,
+                                        const ScreenProjection::Projected& b, double s)
+{
+    ScreenProjection::Projected result {};
+    for (std::size_t i = 0; i < 4; ++i) {
+        result.clip[i] = a.clip[i] + s * (b.clip[i] - a.clip[i]);
+    }
+    result.depth = a.depth + s * (b.depth - a.depth);
+    return result;
+}
+
+/// Cuts a polygon or segment off at the near plane.
+/// @param corners  in: count corners; out: up to count + 1
+/// @return number of corners left
+std::size_t clipAtNearPlane(ScreenProjection::Projected* corners, std::size_t count)
+{
+    ScreenProjection::Projected result[4];
+    std::size_t kept = 0;
+    const std::size_t edges = count == 2 ? 1 : count;
+    for (std::size_t i = 0; i < count; ++i) {
+        const auto& current = corners[i];
+        const auto& next = corners[(i + 1) % count];
+        if (current.isVisible()) {
+            result[kept++] = current;
+        }
+        if (i < edges && current.isVisible() != next.isVisible()) {
+            const double d0 = current.nearDistance();
+            result[kept++] = interpolate(current, next, d0 / (d0 - next.nearDistance()));
+        }
+    }
+    std::copy(result, result + kept, corners);
+    return kept;
+}
+
+}  // namespace
+
+// == Building
+
+void HandleTable::clear()
+{
+    handles.clear();
+    primitives.clear();
+    positions.clear();
+}
+
+void HandleTable::add(osg::UInt32 nodeId, const GeometrySoup& shape,
+                      const osg::Matrix& tableFromGeo, float halfWidthPx)
+{
+    const auto base = static_cast<std::uint32_t>(positions.size());
+    for (const osg::Pnt3f& local : shape.positions) {
+        osg::Pnt3f placed;
+        tableFromGeo.multMatrixPnt(local, placed);
+        positions.push_back(placed);
+    }
+    for (std::size_t i = 0; i + 2 < shape.triangles.size(); i += 3) {
+        const std::uint32_t* v = &shape.triangles[i];
+        primitives.push_back({ { base + v[0], base + v[1], base + v[2] }, true });
+    }
+    for (std::size_t i = 0; i + 1 < shape.segments.size(); i += 2) {
+        const std::uint32_t* v = &shape.segments[i];
+        primitives.push_back({ { base + v[0], base + v[1], base + v[1] }, false });
+    }
+    for (const std::uint32_t v : shape.points) {
+        primitives.push_back({ { base + v, base + v, base + v }, false });
+    }
+    handles.push_back(
+        { nodeId, halfWidthPx, linearDeterminant(tableFromGeo) < 0.0, primitives.size() });
+}
+
+// == Projecting
+
+void HandleTable::project(const osg::Matrix& worldFromTable, const PickView& view)
+{
+    tableToWorld = worldFromTable;
+    projection = ScreenProjection(view);
+    screenPrimitives.clear();
+    runs.clear();
+    screenHandles.clear();
+    box = ScreenBox();
+    largestHalfWidthPx = 0.0f;
+    if (!projection.isValid()) {
+        return;
+    }
+    projected.resize(positions.size());
+    for (std::size_t i = 0; i < positions.size(); ++i) {
+        osg::Pnt3f world;
+        worldFromTable.multMatrixPnt(positions[i], world);
+        projected[i] = projection.project(world);
+    }
+    std::size_t first = 0;
+    for (const Handle& handle : handles) {
+        projectHandle(first, handle.primitivesEnd);
+        largestHalfWidthPx = std::max(largestHalfWidthPx, handle.halfWidthPx);
+        first = handle.primitivesEnd;
+    }
+}
+
+void HandleTable::projectHandle(std::size_t first, std::size_t end)
+{
+    const std::size_t firstRun = runs.size();
+    const std::size_t firstOnScreen = screenPrimitives.size();
+    for (std::size_t i = first; i < end; ++i) {
+        projectPrimitive(static_cast<std::uint32_t>(i));
+    }
+    closeRuns(firstOnScreen);
+    ScreenBox handleBox;
+    for (std::size_t i = firstRun; i < runs.size(); ++i) {
+        handleBox.extend(runs[i].box);
+    }
+    screenHandles.push_back({ handleBox, runs.size() });
+    box.extend(handleBox);
+}
+
+void HandleTable::projectPrimitive(std::uint32_t index)
+{
+    const Primitive& primitive = primitives[index];
+    ScreenProjection::Projected corners[4] = { projected[primitive.vertices[0]],
+                                               projected[primitive.vertices[1]],
+                                               projected[primitive.vertices[2]] };
+    for (const std::uint32_t v : primitive.vertices) {
+        if (!isFinite(positions[v])) {
+            return;
+        }
+    }
+    const std::size_t count = clipAtNearPlane(corners, primitive.isTriangle ? 3 : 2);
+    if (!primitive.isTriangle) {
+        if (count == 2) {
+            addScreenPrimitive(corners, index, false);
+        }
+        return;
+    }
+    for (std::size_t i = 2; i < count; ++i) {
+        const ScreenProjection::Projected fan[3] = { corners[0], corners[i - 1], corners[i] };
+        addScreenPrimitive(fan, index, true);
+    }
+}
+
+void HandleTable::addScreenPrimitive(const ScreenProjection::Projected* corners,
+                                     std::uint32_t index, bool isTriangle)
+{
+    ScreenPrimitive result {};
+    result.primitive = index;
+    result.isTriangle = isTriangle;
+    for (std::size_t i = 0; i < 3; ++i) {
+        const ScreenProjection::Projected& corner =
+            corners[isTriangle ? i : std::min<std::size_t>(i, 1)];
+        if (!(corner.clip[3] > 0.0)) {
+            return;
+        }
+        result.corners[i] = projection.toScreen(corner);
+        result.oneOverW[i] = static_cast<float>(1.0 / corner.clip[3]);
+        result.depthOverW[i] = static_cast<float>(corner.depth / corner.clip[3]);
+        result.box.extend(result.corners[i]);
+    }
+    screenPrimitives.push_back(result);
+}
+
+void HandleTable::closeRuns(std::size_t first)
+{
+    for (std::size_t begin = first; begin < screenPrimitives.size(); begin += kRunLength) {
+        const std::size_t end = std::min(begin + kRunLength, screenPrimitives.size());
+        Run run { ScreenBox(), static_cast<std::uint32_t>(begin), static_cast<std::uint32_t>(end) };
+        for (std::size_t i = begin; i < end; ++i) {
+            run.box.extend(screenPrimitives[i].box);
+        }
+        runs.push_back(run);
+    }
+}
+
+// == Picking
+
+bool HandleTable::pick(const ScreenPoint& position, float tolerancePx, HandleHit& hit)
+{
+    if (!box.isNear(position, tolerancePx + largestHalfWidthPx)) {
+        return false;
+    }
+    candidates.clear();
+    float bestPx = tolerancePx;
+    for (std::size_t i = 0; i < screenHandles.size(); ++i) {
+        if (screenHandles[i].box.isNear(position, tolerancePx + handles[i].halfWidthPx)) {
+            collect(static_cast<std::uint32_t>(i), position, tolerancePx, bestPx);
+        }
+    }
+    // In three sieves rather than by one comparison: "nearly equal" is not transitive, so sorting
+    // by it has no meaning.
+    float leastDepth = ScreenBox::kFar;
+    for (const Candidate& candidate : candidates) {
+        if (candidate.distancePx <= bestPx + kDistanceTiePx) {
+            leastDepth = std::min(leastDepth, candidate.depth);
+        }
+    }
+    const float depthLimit = leastDepth + kDepthTie * std::abs(leastDepth);
+    for (const Candidate& candidate : candidates) {
+        if (candidate.distancePx <= bestPx + kDistanceTiePx && candidate.depth <= depthLimit) {
+            hit = { handles[candidate.handle].nodeId,
+                    projection.pointAt(candidate.nearest, candidate.depth), normalOf(candidate) };
+            return true;
+        }
+    }
+    return false;
+}
+
+void HandleTable::collect(std::uint32_t handle, const ScreenPoint& position, float tolerancePx,
+                          float& bestPx)
+{
+    const float halfWidthPx = handles[handle].halfWidthPx;
+    const std::size_t runsEnd = screenHandles[handle].runsEnd;
+    for (std::size_t r = handle > 0 ? screenHandles[handle - 1].runsEnd : 0; r < runsEnd; ++r) {
+        float reachPx = std::min(tolerancePx, bestPx + kDistanceTiePx) + halfWidthPx;
+        if (!runs[r].box.isNear(position, reachPx)) {
+            continue;
+        }
+        for (std::uint32_t i = runs[r].begin; i < runs[r].end; ++i) {
+            const ScreenPrimitive& primitive = screenPrimitives[i];
+            if (!primitive.box.isNear(position, reachPx)) {
+                continue;
+            }
+            const ScreenPoint* c = primitive.corners;
+            const ScreenNearest nearest = primitive.isTriangle
+                ? nearestOnTriangle(position, c[0], c[1], c[2])
+                : nearestOnSegment(position, c[0], c[1]);
+            if (!(nearest.squaredDistancePx <= reachPx * reachPx)) {
+                continue;
+            }
+            // The drawn width belongs to lines; a triangle has none beyond its edges.
+            const float drawnPx = primitive.isTriangle ? 0.0f : halfWidthPx;
+            const float distancePx = std::max(std::sqrt(nearest.squaredDistancePx) - drawnPx, 0.0f);
+            if (distancePx > std::min(tolerancePx, bestPx + kDistanceTiePx)) {
+                continue;
+            }
+            const float* w = nearest.weights;
+            candidates.push_back({ handle,
+                                   i,
+                                   distancePx,
+                                   depthAt(primitive, w),
+                                   { w[0] * c[0].x + w[1] * c[1].x + w[2] * c[2].x,
+                                     w[0] * c[0].y + w[1] * c[1].y + w[2] * c[2].y } });
+            bestPx = std::min(bestPx, distancePx);
+            reachPx = std::min(tolerancePx, bestPx + kDistanceTiePx) + halfWidthPx;
+        }
+    }
+}
+
+float HandleTable::depthAt(const ScreenPrimitive& primitive, const float* weights)
+{
+    float depthOverW = 0.0f;
+    float oneOverW = 0.0f;
+    for (std::size_t i = 0; i < 3; ++i) {
+        depthOverW += weights[i] * primitive.depthOverW[i];
+        oneOverW += weights[i] * primitive.oneOverW[i];
+    }
+    return depthOverW / oneOverW;
+}
+
+osg::Vec3f HandleTable::normalOf(const Candidate& winner) const
+{
+    const Primitive& primitive = primitives[screenPrimitives[winner.screenPrimitive].primitive];
+    if (primitive.isTriangle) {
+        const osg::Pnt3f& origin = positions[primitive.vertices[0]];
+        osg::Vec3f normal = (positions[primitive.vertices[1]] - origin)
+                                .cross(positions[primitive.vertices[2]] - origin);
+        if (handles[winner.handle].isMirrored) {
+            normal = -normal;
+        }
+        const osg::Vec3f world = transformNormal(tableToWorld, normal);
+        if (world.squareLength() > 0.0f) {
+            return world;
+        }
+    }
+    return -projection.rayThrough(winner.nearest).direction;
+}
+
+}  // namespace nbec::interaction::detail

@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "GeometrySoup.h"
+#include "PickView.h"
+#include "ScreenGeometry.h"
+
+namespace nbec::interaction::detail {
+
+/// What a pointer found in a HandleTable.
+struct HandleHit
+{
+    osg::UInt32 nodeId = 0;
+    osg::Pnt3f point;  ///< world space
+    osg::Vec3f normal;  ///< world space, unit length
+};
+
+/// The handles of a gizmo as plain shapes, and their picture on screen for one placement and one
+/// view.
+///
+/// A pick works on the picture alone: boxes around handles and around runs of primitives first,
+/// then distances to segments and triangles in pixels. Nothing of the scene graph is touched.
+class HandleTable
+{
+public:
+    /// Removes all handles.
+    void clear();
+
+    /// Appends a handle; the order of the calls is the order of the tree.
+    /// @param nodeId        container id that a hit reports
+    /// @param shape         positions in the frame of the geometry
+    /// @param tableFromGeo  places the shape in the frame of the table
+    /// @param halfWidthPx   half of what is drawn across a line or point, device pixels, >= 0
+    void add(osg::UInt32 nodeId, const GeometrySoup& shape, const osg::Matrix& tableFromGeo,
+             float halfWidthPx);
+
+    bool isEmpty() const { return handles.empty(); }
+
+    std::size_t getHandleCount() const { return handles.size(); }
+
+    /// Draws the picture anew.
+    /// @param worldFromTable  4x4, column vectors
+    void project(const osg::Matrix& worldFromTable, const PickView& view);
+
+    /// Finds the handle at a position on screen.
+    /// The least distance beyond the drawn half width wins, then the least depth, then the first in
+    /// the tree.
+    /// @param position     device pixels
+    /// @param tolerancePx  device pixels, >= 0
+    /// @return false if nothing lies within the tolerance
+    bool pick(const ScreenPoint& position, float tolerancePx, HandleHit& hit);
+
+private:
+    /// A point, segment or triangle of a handle; points repeat their vertex.
+    struct Primitive
+    {
+        std::uint32_t vertices[3];
+        bool isTriangle;
+    };
+
+    struct Handle
+    {
+        osg::UInt32 nodeId;
+        float halfWidthPx;
+        bool isMirrored;  ///< its matrix within the table turns the winding round
+        std::size_t primitivesEnd;
+    };
+
+    /// A primitive as it appears on screen, cut off at the near plane.
+    struct ScreenPrimitive
+    {
+        ScreenBox box;
+        ScreenPoint corners[3];
+        float depthOverW[3];  ///< both quotients are linear on screen, their ratio is the depth
+        float oneOverW[3];
+        std::uint32_t primitive;
+        bool isTriangle;
+    };
+
+    struct ScreenHandle
+    {
+        ScreenBox box;
+        std::size_t runsEnd;
+    };
+
+    /// A few primitives that follow each other, with one box around them.
+    struct Run
+    {
+        ScreenBox box;
+        std::uint32_t begin;
+        std::uint32_t end;
+    };
+
+    struct Candidate
+    {
+        std::uint32_t handle;
+        std::uint32_t screenPrimitive;
+        float distancePx;  ///< beyond the drawn half width
+        float depth;
+        ScreenPoint nearest;
+    };
+
+    /// A corner while a primitive is cut.
+    struct ClipCorner
+    {
+        double clip[4];
+        double depth;
+    };
+
+    void projectHandle(std::size_t first, std::size_t end);
+    void projectPrimitive(std::uint32_t index);
+    void addScreenPrimitive(const ScreenProjection::Projected* corners, std::uint32_t index,
+                            bool isTriangle);
+    void closeRuns(std::size_t first);
+    void collect(std::uint32_t handle, const ScreenPoint& position, float tolerancePx,
+                 float& bestPx);
+    static float depthAt(const ScreenPrimitive& primitive, const float* weights);
+    osg::Vec3f normalOf(const Candidate& winner) const;
+
+    std::vector<Handle> handles;
+    std::vector<Primitive> primitives;
+    std::vector<osg::Pnt3f> positions;  ///< frame of the table
+
+    // The picture
+    osg::Matrix tableToWorld;
+    ScreenProjection projection;
+    std::vector<ScreenProjection::Projected> projected;  ///< one per position
+    std::vector<ScreenPrimitive> screenPrimitives;
+    std::vector<Run> runs;
+    std::vector<ScreenHandle> screenHandles;
+    ScreenBox box;
+    float largestHalfWidthPx = 0.0f;
+
+    std::vector<Candidate> candidates;  ///< scratch of pick, kept for its memory
+};
+
+}  // namespace nbec::interaction::detail

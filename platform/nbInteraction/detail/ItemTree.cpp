@@ -1,0 +1,224 @@
+// SPDX-License-Identifier: MIT
+#include "ItemTree.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "EmbreeDevice.h"
+
+namespace nbec::interaction::detail {
+
+namespace {
+
+/// Up to this many items are tested one after the other.
+constexpr std::size_t kDirectItems = 4;
+/// Bounds grow by this part of their largest coordinate, since the ray is rounded when it goes to
+/// local space.
+constexpr float kBoundsSlack = 4e-6f;
+
+/// @return whether the ray meets the box with 0 <= t <= tFar (slab by slab)
+bool meetsBox(const PickRay& ray, const PickBounds& box)
+{
+    float enter = 0.0f;
+    float leave = ray.tFar;
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        if (ray.direction[i] == 0.0f) {
+            if (ray.origin[i] < box.min[i] || ray.origin[i] > box.max[i]) {
+                return false;
+            }
+            continue;
+        }
+        const float inverse = 1.0f / ray.direction[i];
+        const float t0 = (box.min[i] - ray.origin[i]) * inverse;
+        const float t1 = (box.max[i] - ray.origin[i]) * inverse;
+        enter = std::max(enter, std::min(t0, t1));
+        leave = std::min(leave, std::max(t0, t1));
+    }
+    return enter <= leave;
+}
+
+PickBounds transformBounds(const PickBounds& local, const osg::Matrix& worldFromLocal)
+{
+    PickBounds result;
+    if (local.isEmpty) {
+        return result;
+    }
+    for (unsigned corner = 0; corner < 8; ++corner) {
+        const osg::Pnt3f p((corner & 1u) != 0 ? local.max[0] : local.min[0],
+                           (corner & 2u) != 0 ? local.max[1] : local.min[1],
+                           (corner & 4u) != 0 ? local.max[2] : local.min[2]);
+        osg::Pnt3f world;
+        worldFromLocal.multMatrixPnt(p, world);
+        result.extend(world);
+    }
+    float largest = 0.0f;
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        largest = std::max({ largest, std::abs(result.min[i]), std::abs(result.max[i]) });
+    }
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        result.min[i] -= kBoundsSlack * largest;
+        result.max[i] += kBoundsSlack * largest;
+    }
+    return result;
+}
+
+}  // namespace
+
+// == PickItem
+
+PickItem::PickItem(osg::UInt32 id, std::shared_ptr<const PickTree> geometryTree,
+                   const osg::Matrix& matrix)
+    : nodeId(id)
+    , tree(std::move(geometryTree))
+{
+    place(matrix);
+}
+
+void PickItem::place(const osg::Matrix& matrix)
+{
+    worldFromLocal = matrix;
+    isRegular = worldFromLocal.inverse(localFromWorld);
+    worldBounds = transformBounds(tree->getBounds(), worldFromLocal);
+}
+
+bool PickItem::intersect(PickRay& worldRay, TreeHit& hit) const
+{
+    if (!isRegular) {
+        return false;
+    }
+    // The direction keeps its length in the world, so that t is the same in both spaces.
+    PickRay ray;
+    localFromWorld.multMatrixPnt(worldRay.origin, ray.origin);
+    localFromWorld.multMatrixVec(worldRay.direction, ray.direction);
+    ray.tFar = worldRay.tFar;
+    if (!tree->intersect(ray, hit)) {
+        return false;
+    }
+    worldRay.tFar = ray.tFar;
+    return true;
+}
+
+// == ItemTree
+
+/// What one ray carries through Embree to the callbacks.
+struct ItemTree::Query : RTCIntersectContext
+{
+    Hit hit;
+};
+
+ItemTree::~ItemTree()
+{
+    dropTree();
+}
+
+void ItemTree::assign(std::vector<PickItem> newItems)
+{
+    dropTree();
+    items = std::move(newItems);
+    if (items.size() <= kDirectItems || embreeDevice() == nullptr) {
+        return;
+    }
+    scene = rtcNewScene(embreeDevice());
+    rtcSetSceneFlags(scene, RTC_SCENE_FLAG_ROBUST | RTC_SCENE_FLAG_DYNAMIC);
+    boxes = rtcNewGeometry(embreeDevice(), RTC_GEOMETRY_TYPE_USER);
+    rtcSetGeometryUserPrimitiveCount(boxes, static_cast<unsigned>(items.size()));
+    rtcSetGeometryUserData(boxes, this);
+    rtcSetGeometryBoundsFunction(boxes, &ItemTree::boundsOfItem, nullptr);
+    rtcSetGeometryIntersectFunction(boxes, &ItemTree::intersectItem);
+    rtcCommitGeometry(boxes);
+    rtcAttachGeometry(scene, boxes);
+    rtcReleaseGeometry(boxes);
+    if (!commitScene(scene)) {
+        dropTree();
+    }
+}
+
+void ItemTree::refit()
+{
+    if (scene == nullptr) {
+        return;
+    }
+    rtcSetGeometryBuildQuality(boxes, RTC_BUILD_QUALITY_REFIT);
+    rtcCommitGeometry(boxes);
+    if (!commitScene(scene)) {
+        dropTree();
+    }
+}
+
+void ItemTree::dropTree()
+{
+    if (scene != nullptr) {
+        rtcReleaseScene(scene);
+    }
+    scene = nullptr;
+    boxes = nullptr;
+}
+
+bool ItemTree::intersect(PickRay& ray, Hit& hit) const
+{
+    if (scene == nullptr) {
+        bool isHit = false;
+        for (const PickItem& item : items) {
+            if (!item.worldBounds.isEmpty && meetsBox(ray, item.worldBounds) &&
+                item.intersect(ray, hit.local)) {
+                hit.item = &item;
+                isHit = true;
+            }
+        }
+        return isHit;
+    }
+    Query query;
+    rtcInitIntersectContext(&query);
+    RTCRayHit rayHit {};
+    rayHit.ray.org_x = ray.origin[0];
+    rayHit.ray.org_y = ray.origin[1];
+    rayHit.ray.org_z = ray.origin[2];
+    rayHit.ray.dir_x = ray.direction[0];
+    rayHit.ray.dir_y = ray.direction[1];
+    rayHit.ray.dir_z = ray.direction[2];
+    rayHit.ray.tfar = ray.tFar;
+    rayHit.ray.mask = ~0u;
+    rayHit.hit.geomID = RTC_INVALID_GEOMETRY_ID;
+    rtcIntersect1(scene, &query, &rayHit);
+    if (query.hit.item == nullptr) {
+        return false;
+    }
+    ray.tFar = rayHit.ray.tfar;
+    hit = query.hit;
+    return true;
+}
+
+void ItemTree::boundsOfItem(const RTCBoundsFunctionArguments* arguments)
+{
+    const auto* self = static_cast<const ItemTree*>(arguments->geometryUserPtr);
+    const PickBounds& bounds = self->items[arguments->primID].worldBounds;
+    if (bounds.isEmpty) {
+        // A box turned inside out: the builder leaves such a primitive out.
+        *arguments->bounds_o = { 1.0f, 1.0f, 1.0f, 0.0f, -1.0f, -1.0f, -1.0f, 0.0f };
+        return;
+    }
+    *arguments->bounds_o = { bounds.min[0], bounds.min[1], bounds.min[2], 0.0f,
+                             bounds.max[0], bounds.max[1], bounds.max[2], 0.0f };
+}
+
+void ItemTree::intersectItem(const RTCIntersectFunctionNArguments* arguments)
+{
+    if (arguments->N != 1 || arguments->valid[0] == 0) {
+        return;
+    }
+    const auto* self = static_cast<const ItemTree*>(arguments->geometryUserPtr);
+    auto* rayHit = reinterpret_cast<RTCRayHit*>(arguments->rayhit);
+    auto* query = static_cast<Query*>(arguments->context);
+    const PickItem& item = self->items[arguments->primID];
+    PickRay ray { { rayHit->ray.org_x, rayHit->ray.org_y, rayHit->ray.org_z },
+                  { rayHit->ray.dir_x, rayHit->ray.dir_y, rayHit->ray.dir_z },
+                  rayHit->ray.tfar };
+    if (item.intersect(ray, query->hit.local)) {
+        query->hit.item = &item;
+        rayHit->ray.tfar = ray.tFar;
+        rayHit->hit.geomID = arguments->geomID;
+    }
+}
+
+}  // namespace nbec::interaction::detail

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "PickTree.h"
+
+typedef struct RTCGeometryTy* RTCGeometry;
+typedef struct RTCSceneTy* RTCScene;
+struct RTCBoundsFunctionArguments;
+struct RTCIntersectFunctionNArguments;
+
+namespace nbec::interaction::detail {
+
+/// One geometry at one place in the world.
+struct PickItem
+{
+    PickItem(osg::UInt32 id, std::shared_ptr<const PickTree> geometryTree,
+             const osg::Matrix& matrix);
+
+    /// Moves the item, and takes up the present bounds of its tree.
+    void place(const osg::Matrix& matrix);
+
+    /// As PickTree::intersect, but with ray and t in the world.
+    /// A singular matrix flattens the geometry: it cannot be hit.
+    bool intersect(PickRay& worldRay, TreeHit& hit) const;
+
+    osg::UInt32 nodeId;
+    std::shared_ptr<const PickTree> tree;
+    osg::Matrix worldFromLocal;
+    osg::Matrix localFromWorld;
+    PickBounds worldBounds;
+    bool isRegular = false;
+};
+
+/// Finds the item nearest along a ray among many, through a tree over their bounds.
+class ItemTree
+{
+public:
+    struct Hit
+    {
+        const PickItem* item = nullptr;
+        TreeHit local;
+    };
+
+    ItemTree() = default;
+    ~ItemTree();
+    ItemTree(const ItemTree&) = delete;
+    ItemTree& operator=(const ItemTree&) = delete;
+
+    /// Takes over a new list of items.
+    void assign(std::vector<PickItem> newItems);
+
+    const std::vector<PickItem>& getItems() const { return items; }
+
+    /// The items, to be moved in place; refit is called afterwards.
+    std::vector<PickItem>& editItems() { return items; }
+
+    void refit();
+
+    /// Finds the nearest hit with 0 <= t <= ray.tFar; tFar becomes its t.
+    bool intersect(PickRay& ray, Hit& hit) const;
+
+private:
+    struct Query;
+
+    void dropTree();
+    static void boundsOfItem(const RTCBoundsFunctionArguments* arguments);
+    static void intersectItem(const RTCIntersectFunctionNArguments* arguments);
+
+    std::vector<PickItem> items;
+    RTCScene scene = nullptr;
+    RTCGeometry boxes = nullptr;  ///< owned by the scene
+};
+
+}  // namespace nbec::interaction::detail

@@ -1,0 +1,209 @@
+// SPDX-License-Identifier: MIT
+#include "PickTree.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <utility>
+
+#include "EmbreeDevice.h"
+
+namespace nbec::interaction::detail {
+
+namespace {
+
+/// A refitted tree keeps the shape it had, which suits the positions less and less.
+constexpr std::size_t kRefitsBeforeRebuild = 64;
+
+bool isFinite(const osg::Pnt3f& p)
+{
+    return std::isfinite(p[0]) && std::isfinite(p[1]) && std::isfinite(p[2]);
+}
+
+/// Bit by bit: what compares as equal within a tolerance may still have moved.
+bool haveSameValues(const std::vector<osg::Pnt3f>& a, const std::vector<osg::Pnt3f>& b)
+{
+    return a.size() == b.size() &&
+        (a.empty() || std::memcmp(a.data(), b.data(), a.size() * sizeof(osg::Pnt3f)) == 0);
+}
+
+/// Moeller and Trumbore: solves origin + t d = p0 + u e1 + v e2 by Cramer's rule.
+/// Both faces; a triangle without area or parallel to the ray is missed.
+bool intersectTriangle(const PickRay& ray, const osg::Pnt3f& p0, const osg::Vec3f& e1,
+                       const osg::Vec3f& e2, float& t)
+{
+    const osg::Vec3f p = ray.direction.cross(e2);
+    const float determinant = e1.dot(p);
+    if (determinant == 0.0f) {
+        return false;
+    }
+    const float inverse = 1.0f / determinant;
+    const osg::Vec3f s = ray.origin - p0;
+    const float u = s.dot(p) * inverse;
+    const osg::Vec3f q = s.cross(e1);
+    const float v = ray.direction.dot(q) * inverse;
+    t = e2.dot(q) * inverse;
+    return u >= 0.0f && v >= 0.0f && u + v <= 1.0f && t >= 0.0f && t <= ray.tFar;
+}
+
+}  // namespace
+
+void PickBounds::extend(const osg::Pnt3f& p)
+{
+    if (!isFinite(p)) {
+        return;
+    }
+    if (isEmpty) {
+        min = p;
+        max = p;
+        isEmpty = false;
+        return;
+    }
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        min[i] = std::min(min[i], p[i]);
+        max[i] = std::max(max[i], p[i]);
+    }
+}
+
+PickTree::~PickTree()
+{
+    dropTree();
+}
+
+void PickTree::assign(GeometrySoup newSoup)
+{
+    const bool sameTopology = newSoup.positions.size() == soup.positions.size() &&
+        newSoup.triangles == soup.triangles;  // Geometry is also edited for its material alone.
+    if (sameTopology && haveSameValues(newSoup.positions, soup.positions)) {
+        return;
+    }
+    const bool hadTree = scene != nullptr;
+    soup = std::move(newSoup);
+    measure();
+    if (getTriangleCount() <= kDirectTriangles || embreeDevice() == nullptr) {
+        dropTree();
+        return;
+    }
+    if (sameTopology && isRefittable && refitsSinceBuild < kRefitsBeforeRebuild) {
+        refitTree();
+        return;
+    }
+    // Whose positions changed once will change again: from now on built so that it can be refitted,
+    // which costs a little at each pick.
+    const bool expectsRefits = hadTree && sameTopology;
+    dropTree();
+    buildTree(expectsRefits);
+}
+
+void PickTree::makeRoom()
+{
+    // Embree reads 16 bytes at each position, 4 beyond the last one.
+    soup.positions.reserve(soup.positions.size() + 1);
+}
+
+void PickTree::buildTree(bool expectsRefits)
+{
+    makeRoom();
+    isRefittable = expectsRefits;
+    refitsSinceBuild = 0;
+    scene = rtcNewScene(embreeDevice());
+    mesh = rtcNewGeometry(embreeDevice(), RTC_GEOMETRY_TYPE_TRIANGLE);
+    // Robust: no ray slips through between two triangles that share an edge.
+    rtcSetSceneFlags(scene,
+                     expectsRefits ? RTC_SCENE_FLAG_ROBUST | RTC_SCENE_FLAG_DYNAMIC
+                                   : RTC_SCENE_FLAG_ROBUST);
+    rtcSetSharedGeometryBuffer(mesh, RTC_BUFFER_TYPE_VERTEX, 0, RTC_FORMAT_FLOAT3,
+                               soup.positions.data(), 0, sizeof(osg::Pnt3f), soup.positions.size());
+    rtcSetSharedGeometryBuffer(mesh, RTC_BUFFER_TYPE_INDEX, 0, RTC_FORMAT_UINT3,
+                               soup.triangles.data(), 0, 3 * sizeof(std::uint32_t),
+                               getTriangleCount());
+    rtcCommitGeometry(mesh);
+    rtcAttachGeometry(scene, mesh);
+    rtcReleaseGeometry(mesh);
+    if (!commitScene(scene)) {
+        dropTree();
+        return;
+    }
+    ++buildCount;
+}
+
+void PickTree::refitTree()
+{
+    makeRoom();
+    rtcSetSharedGeometryBuffer(mesh, RTC_BUFFER_TYPE_VERTEX, 0, RTC_FORMAT_FLOAT3,
+                               soup.positions.data(), 0, sizeof(osg::Pnt3f), soup.positions.size());
+    rtcSetSharedGeometryBuffer(mesh, RTC_BUFFER_TYPE_INDEX, 0, RTC_FORMAT_UINT3,
+                               soup.triangles.data(), 0, 3 * sizeof(std::uint32_t),
+                               getTriangleCount());
+    rtcSetGeometryBuildQuality(mesh, RTC_BUILD_QUALITY_REFIT);
+    rtcCommitGeometry(mesh);
+    if (!commitScene(scene)) {
+        dropTree();
+        return;
+    }
+    ++refitsSinceBuild;
+    ++refitCount;
+}
+
+void PickTree::dropTree()
+{
+    if (scene != nullptr) {
+        rtcReleaseScene(scene);
+    }
+    scene = nullptr;
+    mesh = nullptr;
+    isRefittable = false;
+}
+
+void PickTree::measure()
+{
+    bounds = PickBounds();
+    for (const std::uint32_t index : soup.triangles) {
+        bounds.extend(soup.positions[index]);
+    }
+}
+
+bool PickTree::intersect(PickRay& ray, TreeHit& hit) const
+{
+    if (scene == nullptr) {
+        return intersectDirectly(ray, hit);
+    }
+    RTCRayHit query {};
+    query.ray.org_x = ray.origin[0];
+    query.ray.org_y = ray.origin[1];
+    query.ray.org_z = ray.origin[2];
+    query.ray.dir_x = ray.direction[0];
+    query.ray.dir_y = ray.direction[1];
+    query.ray.dir_z = ray.direction[2];
+    query.ray.tfar = ray.tFar;
+    query.ray.mask = ~0u;
+    query.hit.geomID = RTC_INVALID_GEOMETRY_ID;
+    RTCIntersectContext context;
+    rtcInitIntersectContext(&context);
+    rtcIntersect1(scene, &context, &query);
+    if (query.hit.geomID == RTC_INVALID_GEOMETRY_ID) {
+        return false;
+    }
+    ray.tFar = query.ray.tfar;
+    hit = { { query.hit.Ng_x, query.hit.Ng_y, query.hit.Ng_z }, query.hit.primID };
+    return true;
+}
+
+bool PickTree::intersectDirectly(PickRay& ray, TreeHit& hit) const
+{
+    bool isHit = false;
+    for (std::size_t i = 0; i + 2 < soup.triangles.size(); i += 3) {
+        const osg::Pnt3f& p0 = soup.positions[soup.triangles[i]];
+        const osg::Vec3f e1 = soup.positions[soup.triangles[i + 1]] - p0;
+        const osg::Vec3f e2 = soup.positions[soup.triangles[i + 2]] - p0;
+        float t = 0.0f;
+        if (intersectTriangle(ray, p0, e1, e2, t)) {
+            ray.tFar = t;
+            hit = { e1.cross(e2), static_cast<std::uint32_t>(i / 3) };
+            isHit = true;
+        }
+    }
+    return isHit;
+}
+
+}  // namespace nbec::interaction::detail

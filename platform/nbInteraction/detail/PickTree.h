@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+
+#include "GeometrySoup.h"
+#include "PickView.h"
+
+typedef struct RTCGeometryTy* RTCGeometry;
+typedef struct RTCSceneTy* RTCScene;
+
+namespace nbec::interaction::detail {
+
+/// Nearest triangle that a ray met in a PickTree, in the tree's frame.
+struct TreeHit
+{
+    osg::Vec3f normal;  ///< (p1 - p0) x (p2 - p0), not unit
+    std::uint32_t triangle = 0;
+};
+
+/// Axis-parallel box in the frame of its owner.
+struct PickBounds
+{
+    osg::Pnt3f min;
+    osg::Pnt3f max;
+    bool isEmpty = true;
+
+    /// Non-finite points are left out.
+    void extend(const osg::Pnt3f& p);
+};
+
+/// Finds the nearest triangle of one geometry along a ray.
+/// Above a few triangles through a bounding-volume tree, below that one by one.
+class PickTree
+{
+public:
+    /// Up to this many triangles a loop is quicker than a tree, and a tree's memory is saved.
+    static constexpr std::size_t kDirectTriangles = 16;
+
+    PickTree() = default;
+    ~PickTree();
+    PickTree(const PickTree&) = delete;
+    PickTree& operator=(const PickTree&) = delete;
+
+    /// Takes the triangles of a geometry; also when they have changed. If only positions differ
+    /// from the last call, the tree keeps its shape and only its boxes are refitted (from the
+    /// second such call on; now and then it is rebuilt).
+    void assign(GeometrySoup soup);
+
+    /// Finds the nearest triangle with 0 <= t <= ray.tFar, both faces.
+    /// @param ray  in the tree's frame; tFar becomes the t of the hit
+    /// @return false on a miss, which changes nothing
+    bool intersect(PickRay& ray, TreeHit& hit) const;
+
+    /// Of the triangles.
+    const PickBounds& getBounds() const { return bounds; }
+
+    /// All positions of the geometry, those of lines and points too.
+    const std::vector<osg::Pnt3f>& getPositions() const { return soup.positions; }
+
+    std::size_t getTriangleCount() const { return soup.triangles.size() / 3; }
+
+    /// @return how often a tree was built from nothing, and how often refitted; for tests of the
+    /// update strategy
+    std::size_t getBuildCount() const { return buildCount; }
+
+    std::size_t getRefitCount() const { return refitCount; }
+
+private:
+    void makeRoom();
+    void buildTree(bool expectsRefits);
+    void refitTree();
+    void dropTree();
+    void measure();
+    bool intersectDirectly(PickRay& ray, TreeHit& hit) const;
+
+    GeometrySoup soup;
+    PickBounds bounds;
+    RTCScene scene = nullptr;
+    RTCGeometry mesh = nullptr;  ///< owned by the scene
+    bool isRefittable = false;
+    std::size_t refitsSinceBuild = 0;
+    std::size_t buildCount = 0;
+    std::size_t refitCount = 0;
+};
+
+}  // namespace nbec::interaction::detail

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#include "PickTreeCache.h"
+
+#include <OpenSG/OSGFieldContainerFactory.h>
+
+#include "GeometryExtraction.h"
+
+namespace nbec::interaction::detail {
+
+PickTreeCache& PickTreeCache::the()
+{
+    // Never destroyed: Embree's own statics might be gone before the trees.
+    static PickTreeCache* const cache = new PickTreeCache;
+    return *cache;
+}
+
+std::shared_ptr<const PickTree> PickTreeCache::treeOf(const osg::GeometryPtr& geometry)
+{
+    Entry& entry = entries[geometry.getFieldContainerId()];
+    // Edits of a geometry's properties are counted by the geometry, too.
+    const osg::UInt32 changeCount = geometry->getChangeCount();
+    if (entry.tree == nullptr || entry.changeCount != changeCount) {
+        if (entry.tree == nullptr) {
+            entry.tree = std::make_shared<PickTree>();
+        }
+        entry.tree->assign(extractGeometry(geometry));
+        entry.changeCount = changeCount;
+    }
+    return entry.tree;
+}
+
+void PickTreeCache::buildBelow(const osg::NodePtr& node)
+{
+    if (node == osg::NullFC) {
+        return;
+    }
+    if (const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(node->getCore());
+        geometry != osg::NullFC) {
+        treeOf(geometry);
+    }
+    for (osg::UInt32 i = 0; i < node->getNChildren(); ++i) {
+        buildBelow(node->getChild(i));
+    }
+}
+
+void PickTreeCache::dropDead()
+{
+    for (auto entry = entries.begin(); entry != entries.end();) {
+        const bool lives =
+            osg::FieldContainerFactory::the()->getContainer(entry->first) != osg::NullFC;
+        entry = lives ? std::next(entry) : entries.erase(entry);
+    }
+}
+
+}  // namespace nbec::interaction::detail

@@ -1,0 +1,188 @@
+// SPDX-License-Identifier: MIT
+#include "ScenePicking.h"
+
+#include <OpenSG/OSGFieldContainerFactory.h>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "PickTreeCache.h"
+#include "TreeWalk.h"
+
+namespace nbec::interaction::detail {
+
+namespace {
+
+osg::FieldContainerPtr containerOf(osg::UInt32 id)
+{
+    return osg::FieldContainerFactory::the()->getContainer(id);
+}
+
+/// Whether two lists have the same nodes with the same trees, so that only places can differ.
+bool haveSameParts(const std::vector<PickItem>& a, const std::vector<PickItem>& b)
+{
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](const PickItem& left, const PickItem& right) {
+                          return left.nodeId == right.nodeId && left.tree == right.tree;
+                      });
+}
+
+}  // namespace
+
+// == Picking
+
+bool ScenePicking::pick(const osg::NodePtr& root, const PickView& view, const ScreenPoint& position,
+                        SceneHit& hit)
+{
+    useView(view);
+    if (!projection.isValid() || root == osg::NullFC) {
+        return false;
+    }
+    refresh(root);
+    PickRay ray = projection.rayThrough(position);
+    ItemTree::Hit found;
+    if (!tree.intersect(ray, found)) {
+        return false;
+    }
+    hit.node = osg::NodePtr::dcast(containerOf(found.item->nodeId));
+    hit.point = ray.origin + ray.direction * ray.tFar;
+    hit.normal = transformNormal(found.item->worldFromLocal, found.local.normal);
+    return hit.node != osg::NullFC;
+}
+
+std::vector<osg::NodePtr> ScenePicking::pickInside(const osg::NodePtr& root, const PickView& view,
+                                                   const ScreenBox& box)
+{
+    std::vector<osg::NodePtr> nodes;
+    useView(view);
+    if (!projection.isValid() || root == osg::NullFC) {
+        return nodes;
+    }
+    refresh(root);
+    for (const PickItem& item : tree.getItems()) {
+        if (!isInside(item, box)) {
+            continue;
+        }
+        if (const osg::NodePtr node = osg::NodePtr::dcast(containerOf(item.nodeId));
+            node != osg::NullFC) {
+            nodes.push_back(node);
+        }
+    }
+    return nodes;
+}
+
+bool ScenePicking::isInside(const PickItem& item, const ScreenBox& box) const
+{
+    bool isAnyInside = false;
+    for (const osg::Pnt3f& local : item.tree->getPositions()) {
+        osg::Pnt3f world;
+        item.worldFromLocal.multMatrixPnt(local, world);
+        const ScreenProjection::Projected projected = projection.project(world);
+        if (!std::isfinite(projected.clip[3])) {
+            continue;
+        }
+        if (!projected.isVisible() || !(projected.clip[3] > 0.0) ||
+            !box.isNear(projection.toScreen(projected), 0.0f)) {
+            return false;
+        }
+        isAnyInside = true;
+    }
+    return isAnyInside;
+}
+
+void ScenePicking::useView(const PickView& view)
+{
+    if (!view.isSame(projectedView)) {
+        projectedView = view;
+        projection = ScreenProjection(view);
+    }
+}
+
+// == Following the scene
+
+void ScenePicking::refresh(const osg::NodePtr& root)
+{
+    const osg::UInt32 id = root.getFieldContainerId();
+    const osg::UInt64 changes = root->getSubtreeChangeCount();
+    if (id == rootId && changes == rootChanges) {
+        return;
+    }
+    std::vector<osg::UInt32> touched;
+    if (id != rootId || !outline.isCurrent(root, touched)) {
+        walk(root);
+    } else {
+        refreshItems(touched);
+    }
+    rootId = id;
+    rootChanges = changes;
+}
+
+void ScenePicking::walk(const osg::NodePtr& root)
+{
+    ++walkCount;
+    outline.clear();
+    sources.clear();
+    std::vector<PickItem> items;
+    collect(root, osg::Matrix(), items);
+    if (haveSameParts(items, tree.getItems())) {
+        tree.editItems() = std::move(items);
+        tree.refit();
+    } else {
+        tree.assign(std::move(items));
+        PickTreeCache::the().dropDead();
+    }
+}
+
+void ScenePicking::collect(const osg::NodePtr& node, osg::Matrix worldFromParent,
+                           std::vector<PickItem>& items)
+{
+    if (SceneOutline::isPassedBy(node)) {
+        outline.closeNode(outline.openNode(node, SceneOutline::kNoItem));
+        return;
+    }
+    osg::UInt32 item = SceneOutline::kNoItem;
+    if (const osg::NodeCorePtr core = node->getCore(); core != osg::NullFC) {
+        core->accumulateMatrix(worldFromParent);
+        if (const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(core);
+            geometry != osg::NullFC) {
+            item = static_cast<osg::UInt32>(items.size());
+            sources.push_back({ geometry.getFieldContainerId(), geometry->getChangeCount() });
+            items.emplace_back(node.getFieldContainerId(), PickTreeCache::the().treeOf(geometry),
+                               worldFromParent);
+        }
+    }
+    const std::size_t record = outline.openNode(node, item);
+    forEachEnteredChild(node, [&](const osg::NodePtr& child) {
+        collect(child, worldFromParent, items);
+        return true;
+    });
+    outline.closeNode(record);
+}
+
+void ScenePicking::refreshItems(const std::vector<osg::UInt32>& touched)
+{
+    bool isAnyRefreshed = false;
+    for (const osg::UInt32 i : touched) {
+        isAnyRefreshed |= refreshItem(i);
+    }
+    if (isAnyRefreshed) {
+        tree.refit();
+    }
+}
+
+bool ScenePicking::refreshItem(std::size_t index)
+{
+    const osg::GeometryPtr geometry =
+        osg::GeometryPtr::dcast(containerOf(sources[index].geometryId));
+    if (geometry == osg::NullFC || geometry->getChangeCount() == sources[index].changeCount) {
+        return false;
+    }
+    sources[index].changeCount = geometry->getChangeCount();
+    PickTreeCache::the().treeOf(geometry);
+    PickItem& item = tree.editItems()[index];
+    item.place(osg::Matrix(item.worldFromLocal));
+    return true;
+}
+
+}  // namespace nbec::interaction::detail

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <OpenSG/OSGNode.h>
+
+#include <vector>
+
+#include "ItemTree.h"
+#include "PickView.h"
+#include "SceneOutline.h"
+
+namespace nbec::interaction::detail {
+
+/// What a ray found in the scene.
+struct SceneHit
+{
+    osg::NodePtr node;
+    osg::Pnt3f point;  ///< world space
+    osg::Vec3f normal;  ///< world space, unit length
+};
+
+/// Picks the geometry of a scene from a flat list of what is drawn in it, which follows the scene's
+/// change counters.
+class ScenePicking
+{
+public:
+    /// Finds the nearest triangle between near and far plane at a position on screen.
+    bool pick(const osg::NodePtr& root, const PickView& view, const ScreenPoint& position,
+              SceneHit& hit);
+
+    /// Collects the nodes whose positions all lie in a box on screen, in tree order.
+    std::vector<osg::NodePtr> pickInside(const osg::NodePtr& root, const PickView& view,
+                                         const ScreenBox& box);
+
+    /// @return number of geometries in the list
+    std::size_t getItemCount() const { return tree.getItems().size(); }
+
+    /// @return how often the whole scene was walked; for tests of the update strategy
+    std::size_t getWalkCount() const { return walkCount; }
+
+private:
+    /// The geometry behind an item and the state in which it was taken up.
+    struct Source
+    {
+        osg::UInt32 geometryId;
+        osg::UInt32 changeCount;
+    };
+
+    void useView(const PickView& view);
+    void refresh(const osg::NodePtr& root);
+    void walk(const osg::NodePtr& root);
+    void collect(const osg::NodePtr& node, osg::Matrix worldFromParent,
+                 std::vector<PickItem>& items);
+    void refreshItems(const std::vector<osg::UInt32>& touched);
+    bool refreshItem(std::size_t index);
+    bool isInside(const PickItem& item, const ScreenBox& box) const;
+
+    ItemTree tree;
+    std::vector<Source> sources;  ///< one per item
+    SceneOutline outline;
+    osg::UInt32 rootId = 0;
+    osg::UInt64 rootChanges = 0;
+    std::size_t walkCount = 0;
+
+    PickView projectedView;
+    ScreenProjection projection;
+};
+
+}  // namespace nbec::interaction::detail

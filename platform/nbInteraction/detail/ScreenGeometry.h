@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <algorithm>
+
+namespace nbec::interaction::detail {
+
+/// A position on screen, device pixels, y from the top.
+struct ScreenPoint
+{
+    float x = 0.0f;
+    float y = 0.0f;
+};
+
+/// The point of a segment or triangle nearest to a position on screen, as weights of the corners
+/// (sum 1).
+struct ScreenNearest
+{
+    float weights[3] = { 1.0f, 0.0f, 0.0f };
+    float squaredDistancePx = 0.0f;
+};
+
+/// Axis-parallel box on screen, edges included. Empty (nothing is near it) until something is
+/// added.
+struct ScreenBox
+{
+    static constexpr float kFar = 3.0e38f;
+
+    float minX = kFar;
+    float minY = kFar;
+    float maxX = -kFar;
+    float maxY = -kFar;
+
+    void extend(const ScreenPoint& p)
+    {
+        minX = std::min(minX, p.x);
+        minY = std::min(minY, p.y);
+        maxX = std::max(maxX, p.x);
+        maxY = std::max(maxY, p.y);
+    }
+
+    void extend(const ScreenBox& box)
+    {
+        minX = std::min(minX, box.minX);
+        minY = std::min(minY, box.minY);
+        maxX = std::max(maxX, box.maxX);
+        maxY = std::max(maxY, box.maxY);
+    }
+
+    /// @return whether p lies within `margin` pixels of the box along both axes; false for NaN and
+    /// for an empty box
+    bool isNear(const ScreenPoint& p, float margin) const
+    {
+        // No short circuit: the four comparisons together are cheaper than a branch that is
+        // predicted badly.
+        return static_cast<int>(p.x >= minX - margin) & static_cast<int>(p.x <= maxX + margin) &
+            static_cast<int>(p.y >= minY - margin) & static_cast<int>(p.y <= maxY + margin);
+    }
+};
+
+/// Nearest point of the segment a b to p. weights[2] is 0; for a segment without length weights[0]
+/// is 1. With s = (p - a).(b - a) / |b - a|^2, clamped to 0 .. 1, the point is a + s (b - a).
+inline ScreenNearest nearestOnSegment(const ScreenPoint& p, const ScreenPoint& a,
+                                      const ScreenPoint& b)
+{
+    const float dx = b.x - a.x;
+    const float dy = b.y - a.y;
+    const float px = p.x - a.x;
+    const float py = p.y - a.y;
+    const float squaredLength = dx * dx + dy * dy;
+    const float s =
+        squaredLength > 0.0f ? std::clamp((px * dx + py * dy) / squaredLength, 0.0f, 1.0f) : 0.0f;
+    const float rx = px - s * dx;
+    const float ry = py - s * dy;
+    return { { 1.0f - s, s, 0.0f }, rx * rx + ry * ry };
+}
+
+/// Nearest point of the filled triangle a b c to p, whichever way it winds; distance 0 inside and
+/// on the edges. A triangle without area (seen edge-on) is the union of its edges.
+inline ScreenNearest nearestOnTriangle(const ScreenPoint& p, const ScreenPoint& a,
+                                       const ScreenPoint& b, const ScreenPoint& c)
+{
+    const auto doubleArea = [](const ScreenPoint& u, const ScreenPoint& v, const ScreenPoint& w) {
+        return (v.x - u.x) * (w.y - u.y) - (w.x - u.x) * (v.y - u.y);
+    };
+    const float whole = doubleArea(a, b, c);
+    const float wa = doubleArea(p, b, c);
+    const float wb = doubleArea(p, c, a);
+    const float wc = doubleArea(p, a, b);
+    const bool inside = whole > 0.0f ? wa >= 0.0f && wb >= 0.0f && wc >= 0.0f
+                                     : whole < 0.0f && wa <= 0.0f && wb <= 0.0f && wc <= 0.0f;
+    if (inside) {
+        const float scale = 1.0f / (wa + wb + wc);
+        return { { wa * scale, wb * scale, wc * scale }, 0.0f };
+    }
+    ScreenNearest nearest = nearestOnSegment(p, a, b);
+    const ScreenNearest onBC = nearestOnSegment(p, b, c);
+    if (onBC.squaredDistancePx < nearest.squaredDistancePx) {
+        nearest = { { 0.0f, onBC.weights[0], onBC.weights[1] }, onBC.squaredDistancePx };
+    }
+    const ScreenNearest onCA = nearestOnSegment(p, c, a);
+    if (onCA.squaredDistancePx < nearest.squaredDistancePx) {
+        nearest = { { onCA.weights[1], 0.0f, onCA.weights[0] }, onCA.squaredDistancePx };
+    }
+    return nearest;
+}
+
+}  // namespace nbec::interaction::detail

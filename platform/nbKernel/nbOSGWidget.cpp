@@ -1,0 +1,312 @@
+// SPDX-License-Identifier: MIT
+#include <nbKernel/nbOSGWidget.h>
+#include <nbKernel/nbScenegraph.h>
+#include <nbOpenSGUtils/nbEdit.h>
+#include <nbUtils/nbLog.h>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <vector>
+
+namespace {
+
+constexpr int kLargestSidePx = std::numeric_limits<osg::UInt16>::max();
+/// Where a new camera stands, looking at the origin.
+constexpr float kStartDistance = 10.f;
+
+struct CountedCallback
+{
+    nbOSGWidget::ResizeCallback callback;
+    int count;
+};
+
+struct WidgetRegistry
+{
+    std::vector<nbOSGWidget*> widgets;
+    nbOSGWidget* main = nullptr;
+    std::vector<CountedCallback> resizeCallbacks;
+    int interactionMode = 0;
+};
+
+/// Made on first use and never destroyed: widgets with static life may use it to their end.
+WidgetRegistry& registry()
+{
+    static WidgetRegistry* const theRegistry = new WidgetRegistry;
+    return *theRegistry;
+}
+
+std::vector<CountedCallback>::iterator findCallback(nbOSGWidget::ResizeCallback callback)
+{
+    std::vector<CountedCallback>& all = registry().resizeCallbacks;
+    return std::find_if(all.begin(), all.end(), [callback](const CountedCallback& entry) {
+        return entry.callback == callback;
+    });
+}
+
+bool isFinitePosition(const osg::Pnt2f& position)
+{
+    return std::isfinite(position.x()) && std::isfinite(position.y());
+}
+
+/// Whole pixel that a position lies in, limited to what a rectangle's arithmetic can take.
+int toPixel(float position)
+{
+    constexpr float kLimit = 1e6f;
+    return static_cast<int>(std::floor(std::clamp(position, -kLimit, kLimit)));
+}
+
+}  // namespace
+
+nbOSGWidget::nbOSGWidget()
+    : camera(osg::UberCamera::create())
+    , viewport(osg::UberViewport::create())
+    , window(osg::PassiveWindow::create())
+{
+    CameraPose pose;
+    pose.from = osg::Pnt3f(0.f, 0.f, kStartDistance);
+    pose.at = osg::Pnt3f(0.f, 0.f, 0.f);
+    pose.pivot = pose.at;
+    pose.fovDeg = kDefaultFovDeg;
+    camera->setPose(pose);
+    {
+        const nbEdit edit(viewport, osg::Viewport::CameraFieldMask | osg::Viewport::RootFieldMask);
+        viewport->setCamera(camera);
+        viewport->setRoot(nbScenegraph::getWorldRoot());
+    }
+    window->addPort(viewport);
+    viewport->setDeviceSize(0, 0);
+    registry().widgets.push_back(this);
+    if (registry().main == nullptr) {
+        registry().main = this;
+    }
+}
+
+nbOSGWidget::~nbOSGWidget()
+{
+    std::vector<nbOSGWidget*>& all = registry().widgets;
+    all.erase(std::remove(all.begin(), all.end(), this), all.end());
+    if (registry().main == this) {
+        registry().main = all.empty() ? nullptr : all.front();
+    }
+    // None of these hold each other, so nobody may be left pointing at one that is gone.
+    viewport->setParent(osg::NullFC);
+    window = osg::NullFC;
+    viewport = osg::NullFC;
+    camera = osg::NullFC;
+}
+
+nbOSGWidget* nbOSGWidget::getMGLW(int index)
+{
+    if (index == -1) {
+        return registry().main;
+    }
+    const std::vector<nbOSGWidget*>& all = registry().widgets;
+    return index >= 0 && index < static_cast<int>(all.size()) ? all[index] : nullptr;
+}
+
+void nbOSGWidget::setMain()
+{
+    registry().main = this;
+}
+
+bool nbOSGWidget::isMain() const
+{
+    return registry().main == this;
+}
+
+osg::Pnt3f nbOSGWidget::getFrom(int index)
+{
+    const nbOSGWidget* const widget = getMGLW(index);
+    return widget != nullptr ? widget->camera->getFrom() : osg::Pnt3f(0.f, 0.f, 0.f);
+}
+
+float nbOSGWidget::getFov(int index)
+{
+    const nbOSGWidget* const widget = getMGLW(index);
+    return widget != nullptr ? widget->camera->getFov() : kDefaultFovDeg;
+}
+
+void nbOSGWidget::getFromAtUp(int index, osg::Pnt3f& from, osg::Pnt3f& at, osg::Vec3f& up)
+{
+    const nbOSGWidget* const widget = getMGLW(index);
+    const CameraPose pose = widget != nullptr ? widget->camera->getPose() : CameraPose();
+    from = pose.from;
+    at = pose.at;
+    up = pose.up;
+}
+
+osg::Pnt3f nbOSGWidget::getPivot(int index)
+{
+    const nbOSGWidget* const widget = getMGLW(index);
+    return widget != nullptr ? widget->camera->getPivot() : osg::Pnt3f(0.f, 0.f, 0.f);
+}
+
+bool nbOSGWidget::isCameraZUp()
+{
+    const nbOSGWidget* const widget = getMGLW(-1);
+    return widget != nullptr && widget->camera->isZUp();
+}
+
+int nbOSGWidget::getInteractionMode()
+{
+    return registry().interactionMode;
+}
+
+void nbOSGWidget::setInteractionMode(int mode)
+{
+    registry().interactionMode = mode;
+}
+
+void nbOSGWidget::addMGLWResizeCB(ResizeCallback callback)
+{
+    if (callback == nullptr) {
+        return;
+    }
+    const auto found = findCallback(callback);
+    if (found != registry().resizeCallbacks.end()) {
+        ++found->count;
+    } else {
+        registry().resizeCallbacks.push_back(CountedCallback { callback, 1 });
+    }
+}
+
+void nbOSGWidget::subMGLWResizeCB(ResizeCallback callback)
+{
+    const auto found = findCallback(callback);
+    if (found != registry().resizeCallbacks.end() && --found->count == 0) {
+        registry().resizeCallbacks.erase(found);
+    }
+}
+
+osg::UberCameraPtr nbOSGWidget::getUberCamera() const
+{
+    return camera;
+}
+
+osg::CameraPtr nbOSGWidget::getCamera() const
+{
+    return camera.get();
+}
+
+osg::ViewportPtr nbOSGWidget::getViewport() const
+{
+    return viewport.get();
+}
+
+osg::UberViewportPtr nbOSGWidget::getUberViewport() const
+{
+    return viewport;
+}
+
+void nbOSGWidget::resize(int width, int height)
+{
+    const int newWidth = std::clamp(width, 0, kLargestSidePx);
+    const int newHeight = std::clamp(height, 0, kLargestSidePx);
+    if (newWidth == widthPx && newHeight == heightPx) {
+        return;
+    }
+    widthPx = newWidth;
+    heightPx = newHeight;
+    window->setSize(static_cast<osg::UInt16>(widthPx), static_cast<osg::UInt16>(heightPx));
+    viewport->setDeviceSize(widthPx, heightPx);
+    if (widthPx > 0 && heightPx > 0) {
+        const nbEdit edit(camera, osg::UberCamera::ViewAspectFieldMask);
+        camera->setViewAspect(viewport->getDeviceAspect());
+    }
+    update();
+    callResizeCallbacks();
+}
+
+void nbOSGWidget::setMousePosition(const osg::Pnt2f& position)
+{
+    if (isFinitePosition(position)) {
+        mousePositionPx = position;
+    }
+}
+
+void nbOSGWidget::setPressPosition(const osg::Pnt2f& position)
+{
+    if (isFinitePosition(position)) {
+        pressPositionPx = position;
+        pressed = true;
+    }
+}
+
+void nbOSGWidget::clearPressPosition()
+{
+    pressed = false;
+}
+
+QRect nbOSGWidget::getMouseRect() const
+{
+    if (!pressed) {
+        return QRect();
+    }
+    // Not QRect::normalized(): it takes a rectangle of one pixel drawn backwards for an empty one.
+    const auto [left, right] =
+        std::minmax({ toPixel(pressPositionPx.x()), toPixel(mousePositionPx.x()) });
+    const auto [top, bottom] =
+        std::minmax({ toPixel(pressPositionPx.y()), toPixel(mousePositionPx.y()) });
+    return QRect(QPoint(left, top), QPoint(right, bottom));
+}
+
+void nbOSGWidget::update()
+{
+    if (redrawPending) {
+        return;
+    }
+    redrawPending = true;
+    if (observer != nullptr) {
+        observer->redrawRequested();
+    }
+}
+
+void nbOSGWidget::setCursor(Qt::CursorShape shape)
+{
+    if (shape == cursor) {
+        return;
+    }
+    cursor = shape;
+    if (observer != nullptr) {
+        observer->cursorChanged(shape);
+    }
+}
+
+void nbOSGWidget::cancelAntialiasing()
+{
+    if (observer != nullptr) {
+        observer->antialiasingCancelled();
+    }
+}
+
+void nbOSGWidget::setObserver(Observer* newObserver)
+{
+    observer = newObserver;
+    if (observer != nullptr && redrawPending) {
+        observer->redrawRequested();
+    }
+}
+
+void nbOSGWidget::setRootOfAll(const osg::NodePtr& root)
+{
+    for (const nbOSGWidget* const widget : registry().widgets) {
+        const nbEdit edit(widget->viewport, osg::Viewport::RootFieldMask);
+        widget->viewport->setRoot(root);
+    }
+}
+
+void nbOSGWidget::callResizeCallbacks()
+{
+    const std::vector<CountedCallback> current = registry().resizeCallbacks;
+    for (const CountedCallback& entry : current) {
+        if (findCallback(entry.callback) == registry().resizeCallbacks.end()) {
+            continue;  // removed by one that was called before it
+        }
+        try {
+            entry.callback();
+        } catch (...) {
+            nbLog::error("nbOSGWidget: a resize callback failed with an exception");
+        }
+    }
+}

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <OpenSG/OSGChunkMaterial.h>
+#include <OpenSG/OSGColor.h>
+#include <OpenSG/OSGGL.h>
+#include <OpenSG/OSGImage.h>
+#include <OpenSG/OSGMaterial.h>
+#include <OpenSG/OSGSHLChunk.h>
+#include <OpenSG/OSGTextureChunk.h>
+
+namespace nbrender {
+
+/// Everything about a material that drawing depends on, read from its fields and chunks.
+/// Of several chunks of one kind the last one of the list holds. DepthChunk and DepthTestChunk are
+/// one kind. The texture and shader chunks are not counted: a state lives for one rebuild of the
+/// item list, and both are looked up by id before use.
+struct DrawState
+{
+    osg::Color3f ambient { 0.f, 0.f, 0.f };
+    osg::Color3f diffuse { 0.7f, 0.7f, 0.7f };
+    osg::Color3f specular { 0.f, 0.f, 0.f };
+    osg::Color3f emission { 0.f, 0.f, 0.f };
+    float shininess = 1.f;
+    float alpha = 1.f;  ///< 1 - transparency
+    bool lit = true;
+    bool usesVertexColors = true;  ///< colours of the geometry replace diffuse
+
+    osg::Int32 sortKey = 0;
+    bool transparent = false;
+
+    GLenum blendSource = GL_ONE;
+    GLenum blendDestination = GL_ZERO;
+    GLenum blendSourceAlpha = GL_ONE;
+    GLenum blendDestinationAlpha = GL_ZERO;
+    GLenum blendEquation = GL_FUNC_ADD;
+    osg::Color4f blendColor { 0.f, 0.f, 0.f, 0.f };
+    GLenum alphaFunc = GL_ALWAYS;
+    float alphaValue = 0.f;
+
+    bool depthTest = true;
+    bool depthWrite = true;
+    GLenum depthFunc = GL_LEQUAL;
+    float depthNear = 0.f;  ///< of the range that the item's layer has, 0 .. 1
+    float depthFar = 1.f;
+
+    float lineWidth = 1.f;  ///< logical pixels
+    osg::UInt16 stipplePattern = 0xffff;
+    osg::Int32 stippleRepeat = 1;
+
+    GLenum cullFace = GL_NONE;
+    GLenum frontFace = GL_CCW;
+    GLenum polygonMode = GL_FILL;
+    float offsetFactor = 0.f;
+    float offsetBias = 0.f;
+
+    osg::UInt32 textureId = 0;  ///< container id of the TextureChunk, 0 for none
+    osg::UInt32 shaderId = 0;  ///< container id of the SHLChunk, 0 for none
+};
+
+/// State of a material; of null that of a grey lit surface.
+DrawState resolveMaterial(const osg::MaterialPtr& material);
+
+/// Replaces those parts of a state that a chunk of the material sets; colours, transparency,
+/// lighting and the sort key stay. This is what a material group does below a manipulator node.
+void applyChunks(DrawState& state, const osg::MaterialPtr& group);
+
+}  // namespace nbrender

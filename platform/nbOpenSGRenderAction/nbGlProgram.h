@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <OpenSG/OSGMatrix.h>
+
+#include <QtGui/QOpenGLFunctions_3_3_Core>
+
+#include <string>
+#include <unordered_map>
+
+namespace nbrender {
+
+using Gl = QOpenGLFunctions_3_3_Core;
+
+/// A linked shader program. Vertex attributes have the places and names of shaderHeaderString(),
+/// also where a text declares them without a place. Needs the context that it was built in for
+/// everything but construction; who owns it calls destroy() there, or drops it when the context is
+/// gone.
+class GlProgram
+{
+public:
+    /// Compiles and links; an empty geometry text leaves that stage out.
+    /// @param error  receives the first line of what the driver says on failure
+    /// @return false on failure; the program is then unusable and holds nothing
+    bool build(Gl& gl, const std::string& vertexText, const std::string& geometryText,
+               const std::string& fragmentText, std::string& error);
+
+    bool isUsable() const { return id != 0; }
+
+    void use(Gl& gl) const { gl.glUseProgram(id); }
+
+    /// Gives the program back to the driver.
+    void destroy(Gl& gl);
+
+    // == Uniforms; the program must be in use, names that it does not have are ignored
+
+    /// Location of a uniform, -1 if there is none; looked up once per name.
+    GLint locate(Gl& gl, const std::string& name);
+    /// The same for a string literal, told by its address.
+    GLint locateLiteral(Gl& gl, const char* name);
+
+    // The names of these are string literals.
+
+    void set(Gl& gl, const char* name, const osg::Matrix& value);
+    void set(Gl& gl, const char* name, float value);
+    void set(Gl& gl, const char* name, GLint value);
+    void set(Gl& gl, const char* name, float x, float y);
+    void set(Gl& gl, const char* name, float x, float y, float z);
+    void set(Gl& gl, const char* name, float x, float y, float z, float w);
+
+private:
+    GLuint id = 0;
+    std::unordered_map<std::string, GLint> locations;
+    std::unordered_map<const void*, GLint> literalLocations;
+};
+
+}  // namespace nbrender

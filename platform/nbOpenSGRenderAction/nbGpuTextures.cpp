@@ -1,0 +1,202 @@
+// SPDX-License-Identifier: MIT
+#include "nbGpuTextures.h"
+
+#include <nbUtils/nbLog.h>
+
+#include <OpenSG/OSGFieldContainerFactory.h>
+#include <OpenSG/OSGImage.h>
+
+#include <algorithm>
+#include <string>
+
+namespace nbrender {
+
+namespace {
+
+/// How an image format is kept: core profiles know red, green, blue and alpha alone; the old
+/// formats are made of these by swizzling.
+struct Layout
+{
+    osg::UInt32 format;
+    GLenum external;
+    GLenum internalByte;
+    GLenum internalFloat;
+    GLint swizzle[4];
+    bool hasColor;
+    bool hasAlpha;
+};
+
+constexpr Layout kLayouts[] = {
+    { osg::Image::OSG_A_PF,
+      GL_RED,
+      GL_R8,
+      GL_R16F,
+      { GL_ONE, GL_ONE, GL_ONE, GL_RED },
+      false,
+      true },
+    { osg::Image::OSG_I_PF,
+      GL_RED,
+      GL_R8,
+      GL_R16F,
+      { GL_RED, GL_RED, GL_RED, GL_RED },
+      true,
+      true },
+    { osg::Image::OSG_L_PF,
+      GL_RED,
+      GL_R8,
+      GL_R16F,
+      { GL_RED, GL_RED, GL_RED, GL_ONE },
+      true,
+      false },
+    { osg::Image::OSG_LA_PF,
+      GL_RG,
+      GL_RG8,
+      GL_RG16F,
+      { GL_RED, GL_RED, GL_RED, GL_GREEN },
+      true,
+      true },
+    { osg::Image::OSG_RGB_PF,
+      GL_RGB,
+      GL_RGB8,
+      GL_RGB16F,
+      { GL_RED, GL_GREEN, GL_BLUE, GL_ONE },
+      true,
+      false },
+    { osg::Image::OSG_BGR_PF,
+      GL_BGR,
+      GL_RGB8,
+      GL_RGB16F,
+      { GL_RED, GL_GREEN, GL_BLUE, GL_ONE },
+      true,
+      false },
+    { osg::Image::OSG_RGBA_PF,
+      GL_RGBA,
+      GL_RGBA8,
+      GL_RGBA16F,
+      { GL_RED, GL_GREEN, GL_BLUE, GL_ALPHA },
+      true,
+      true },
+    { osg::Image::OSG_BGRA_PF,
+      GL_BGRA,
+      GL_RGBA8,
+      GL_RGBA16F,
+      { GL_RED, GL_GREEN, GL_BLUE, GL_ALPHA },
+      true,
+      true },
+};
+
+const Layout* findLayout(osg::UInt32 format)
+{
+    const auto found = std::find_if(std::begin(kLayouts), std::end(kLayouts),
+                                    [format](const Layout& l) { return l.format == format; });
+    return found == std::end(kLayouts) ? nullptr : found;
+}
+
+bool wantsMipmaps(GLenum minFilter)
+{
+    return minFilter != GL_NEAREST && minFilter != GL_LINEAR;
+}
+
+/// GL_CLAMP mixed with a border that core profiles do not have.
+GLint wrapping(GLenum mode)
+{
+    constexpr GLenum kClamp = 0x2900;
+    return static_cast<GLint>(mode == kClamp ? GLenum(GL_CLAMP_TO_EDGE) : mode);
+}
+
+void setParameters(Gl& gl, const osg::TextureChunkPtr& chunk, const Layout& layout)
+{
+    const auto set = [&gl](GLenum name, GLint value) {
+        gl.glTexParameteri(GL_TEXTURE_2D, name, value);
+    };
+    set(GL_TEXTURE_MIN_FILTER, static_cast<GLint>(chunk->getMinFilter()));
+    set(GL_TEXTURE_MAG_FILTER, static_cast<GLint>(chunk->getMagFilter()));
+    set(GL_TEXTURE_WRAP_S, wrapping(chunk->getWrapS()));
+    set(GL_TEXTURE_WRAP_T, wrapping(chunk->getWrapT()));
+    gl.glTexParameteriv(GL_TEXTURE_2D, GL_TEXTURE_SWIZZLE_RGBA, layout.swizzle);
+}
+
+void uploadLevels(Gl& gl, const osg::TextureChunkPtr& chunk, const osg::ImagePtr& image,
+                  const Layout& layout)
+{
+    const auto type = static_cast<GLenum>(image->getDataType());
+    const GLenum internal = type == GL_UNSIGNED_BYTE ? layout.internalByte : layout.internalFloat;
+    const osg::Int32 levels = std::max(image->getMipMapCount(), 1);
+    gl.glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
+    for (osg::Int32 level = 0; level < levels; ++level) {
+        const GLsizei width = std::max(image->getWidth() >> level, 1);
+        const GLsizei height = std::max(image->getHeight() >> level, 1);
+        gl.glTexImage2D(GL_TEXTURE_2D, level, static_cast<GLint>(internal), width, height, 0,
+                        layout.external, type,
+                        image->getData(static_cast<osg::UInt32>(level), chunk->getFrame()));
+    }
+    gl.glPixelStorei(GL_UNPACK_ALIGNMENT, 4);
+    if (levels > 1) {
+        gl.glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAX_LEVEL, levels - 1);
+    } else if (wantsMipmaps(chunk->getMinFilter())) {
+        gl.glGenerateMipmap(GL_TEXTURE_2D);
+    }
+}
+
+}  // namespace
+
+const GpuTexture& GpuTextures::get(Gl& gl, const osg::TextureChunkPtr& chunk)
+{
+    Entry& entry = entries[chunk.getFieldContainerId()];
+    const osg::UInt64 stamp = chunk->getContentStamp();
+    if (entry.stamp != stamp) {
+        gl.glDeleteTextures(1, &entry.texture.name);
+        entry.texture = upload(gl, chunk);
+        entry.stamp = stamp;
+    }
+    return entry.texture;
+}
+
+GpuTexture GpuTextures::upload(Gl& gl, const osg::TextureChunkPtr& chunk)
+{
+    GpuTexture result;
+    const osg::ImagePtr image = chunk->getImage();
+    if (image == osg::NullFC || !image->isValid() ||
+        image->getData(0, chunk->getFrame()) == nullptr) {
+        return result;
+    }
+    const Layout* layout = findLayout(image->getPixelFormat());
+    GLint largest = 0;
+    gl.glGetIntegerv(GL_MAX_TEXTURE_SIZE, &largest);
+    if (layout == nullptr || image->getWidth() > largest || image->getHeight() > largest) {
+        nbLog::error("texture of " + std::to_string(image->getWidth()) + " x " +
+                     std::to_string(image->getHeight()) + " pixels, format " +
+                     std::to_string(image->getPixelFormat()) +
+                     ", cannot be shown by this driver (limit " + std::to_string(largest) + ")");
+        return result;
+    }
+    gl.glGenTextures(1, &result.name);
+    gl.glBindTexture(GL_TEXTURE_2D, result.name);
+    setParameters(gl, chunk, *layout);
+    uploadLevels(gl, chunk, image, *layout);
+    result.hasColor = layout->hasColor;
+    result.hasAlpha = layout->hasAlpha;
+    return result;
+}
+
+void GpuTextures::collect(Gl& gl)
+{
+    for (auto it = entries.begin(); it != entries.end();) {
+        if (osg::FieldContainerFactory::the()->getContainer(it->first) == osg::NullFC) {
+            gl.glDeleteTextures(1, &it->second.texture.name);
+            it = entries.erase(it);
+        } else {
+            ++it;
+        }
+    }
+}
+
+void GpuTextures::release(Gl& gl)
+{
+    for (auto& [id, entry] : entries) {
+        gl.glDeleteTextures(1, &entry.texture.name);
+    }
+    entries.clear();
+}
+
+}  // namespace nbrender

@@ -1,0 +1,322 @@
+// SPDX-License-Identifier: MIT
+#include "nbItemPainter.h"
+
+#include <nbOpenSGRenderAction/nbStandardShaders.h>
+
+#include <OpenSG/OSGFieldContainerFactory.h>
+
+#include <array>
+
+namespace nbrender {
+
+namespace {
+
+/// Handles are drawn in depths 0 to this, the rest of the scene behind.
+constexpr double kHandleDepth = 0.1;
+/// Depth units of the driver per depth step of an item: more than what two lines over the same
+/// course differ by through rounding, far less than the thickness of any handle.
+constexpr float kUnitsPerDepthStep = 16.f;
+constexpr GLuint kEffectBuffer = 1;
+constexpr float kPointSize = 1.f;  ///< logical pixels
+
+osg::FieldContainerPtr resolve(osg::UInt32 id)
+{
+    return osg::FieldContainerFactory::the()->getContainer(id);
+}
+
+/// Numbers that the fragment program knows texture environments by; others count as replacing.
+GLint textureModeNumber(GLenum mode)
+{
+    constexpr GLenum kModulate = 0x2100;
+    constexpr GLenum kDecal = 0x2101;
+    constexpr GLenum kBlend = 0x0BE2;
+    switch (mode) {
+    case kModulate:
+        return 2;
+    case kBlend:
+        return 3;
+    case kDecal:
+        return 4;
+    default:
+        return 1;
+    }
+}
+
+void setColor(Gl& gl, GlProgram& program, const char* name, const osg::Color3f& color)
+{
+    program.set(gl, name, color.red(), color.green(), color.blue());
+}
+
+/// Transposed inverse of the 3x3: it keeps normals upright under uneven scales. A singular matrix
+/// gives itself.
+osg::Matrix normalMatrix(const osg::Matrix& matrix)
+{
+    osg::Matrix linear = matrix;
+    linear.setTranslate(0.f, 0.f, 0.f);
+    osg::Matrix result;
+    if (!linear.inverse(result)) {
+        return linear;
+    }
+    result.transpose();
+    return result;
+}
+
+}  // namespace
+
+bool isInView(const osg::BoxVolume& bounds, const osg::Matrix& clipFromWorld, bool handle)
+{
+    const osg::Pnt3f& low = bounds.getMin();
+    const osg::Pnt3f& high = bounds.getMax();
+    const int planes = handle ? 4 : 6;
+    std::array<int, 6> outside {};
+    for (int corner = 0; corner < 8; ++corner) {
+        const osg::Vec4f point((corner & 1) != 0 ? high.x() : low.x(),
+                               (corner & 2) != 0 ? high.y() : low.y(),
+                               (corner & 4) != 0 ? high.z() : low.z(), 1.f);
+        osg::Vec4f clip;
+        clipFromWorld.multMatrixVec(point, clip);
+        // Wide lines reach a little beyond their bounds.
+        constexpr float kMargin = 1.05f;
+        const float w = clip.w() * (clip.w() > 0.f ? kMargin : 1.f);
+        const std::array<bool, 6> beyond { clip.x() < -w, clip.x() > w,  clip.y() < -w,
+                                           clip.y() > w,  clip.z() < -w, clip.z() > w };
+        for (std::size_t plane = 0; plane < beyond.size(); ++plane) {
+            outside[plane] += beyond[plane] ? 1 : 0;
+        }
+    }
+    for (std::size_t plane = 0; plane < static_cast<std::size_t>(planes); ++plane) {
+        if (outside[plane] == 8) {
+            return false;
+        }
+    }
+    return true;
+}
+
+ItemPainter::ItemPainter(Gl& functions, GpuMeshes& meshCache, GpuTextures& textureCache,
+                         ShaderPrograms& programCache, const FrameView& frameView)
+    : gl(functions)
+    , meshes(meshCache)
+    , textures(textureCache)
+    , programs(programCache)
+    , view(frameView)
+{
+    gl.glEnable(GL_DEPTH_TEST);
+    gl.glEnable(GL_PROGRAM_POINT_SIZE);
+    gl.glEnable(GL_POLYGON_OFFSET_FILL);
+    gl.glEnable(GL_POLYGON_OFFSET_LINE);
+    gl.glEnable(GL_POLYGON_OFFSET_POINT);
+}
+
+ItemPainter::~ItemPainter()
+{
+    for (const GLenum switchedOn :
+         { GL_DEPTH_TEST, GL_PROGRAM_POINT_SIZE, GL_POLYGON_OFFSET_FILL, GL_POLYGON_OFFSET_LINE,
+           GL_POLYGON_OFFSET_POINT, GL_DEPTH_CLAMP, GL_BLEND, GL_CULL_FACE }) {
+        gl.glDisable(switchedOn);
+    }
+    gl.glDepthFunc(GL_LESS);
+    gl.glDepthMask(GL_TRUE);
+    gl.glDepthRange(0.0, 1.0);
+    gl.glColorMaski(kEffectBuffer, GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
+    gl.glBlendFunc(GL_ONE, GL_ZERO);
+    gl.glBlendEquation(GL_FUNC_ADD);
+    gl.glPolygonMode(GL_FRONT_AND_BACK, GL_FILL);
+    gl.glPolygonOffset(0.f, 0.f);
+    gl.glFrontFace(GL_CCW);
+    gl.glCullFace(GL_BACK);
+    gl.glBindTexture(GL_TEXTURE_2D, 0);
+    gl.glBindVertexArray(0);
+    gl.glUseProgram(0);
+}
+
+void ItemPainter::draw(const RenderItem& item, const DrawState& state)
+{
+    const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(resolve(item.geometryId));
+    if (geometry == osg::NullFC) {
+        return;
+    }
+    const GpuMesh& mesh = meshes.get(gl, geometry);
+    applyDepth(item, state);
+    applyBlending(item, state);
+    applyPolygons(item, state);
+    if (mesh.triangleIndexCount > 0) {
+        drawSurfaces(item, state, mesh);
+    }
+    if (mesh.lineCount > 0) {
+        drawLines(item, state, mesh);
+    }
+    if (mesh.pointCount > 0) {
+        drawPoints(item, state, mesh);
+    }
+}
+
+void ItemPainter::applyDepth(const RenderItem& item, const DrawState& state)
+{
+    if (item.handle) {
+        gl.glDepthRange(0.0, kHandleDepth);
+        gl.glEnable(GL_DEPTH_CLAMP);
+    } else {
+        const double size = 1.0 - kHandleDepth;
+        gl.glDepthRange(kHandleDepth + size * state.depthNear,
+                        kHandleDepth + size * state.depthFar);
+        gl.glDisable(GL_DEPTH_CLAMP);
+    }
+    // OpenGL writes no depth without the test; a test that always passes is the same otherwise.
+    gl.glDepthFunc(state.depthTest ? state.depthFunc : GLenum(GL_ALWAYS));
+    gl.glDepthMask(state.depthTest && state.depthWrite ? GL_TRUE : GL_FALSE);
+}
+
+void ItemPainter::applyBlending(const RenderItem& item, const DrawState& state)
+{
+    // A handle that counts as opaque covers what is behind it, whatever its chunks.
+    if (item.handle && !item.blended) {
+        gl.glDisable(GL_BLEND);
+    } else {
+        gl.glEnable(GL_BLEND);
+        gl.glDisablei(GL_BLEND, kEffectBuffer);
+        gl.glBlendFuncSeparate(state.blendSource, state.blendDestination, state.blendSourceAlpha,
+                               state.blendDestinationAlpha);
+        gl.glBlendEquation(state.blendEquation);
+        gl.glBlendColor(state.blendColor.red(), state.blendColor.green(), state.blendColor.blue(),
+                        state.blendColor.alpha());
+    }
+    const GLboolean hasEffect = item.blended ? GL_FALSE : GL_TRUE;
+    gl.glColorMaski(kEffectBuffer, hasEffect, hasEffect, hasEffect, hasEffect);
+}
+
+void ItemPainter::applyPolygons(const RenderItem& item, const DrawState& state)
+{
+    if (state.cullFace == GL_NONE) {
+        gl.glDisable(GL_CULL_FACE);
+    } else {
+        gl.glEnable(GL_CULL_FACE);
+        gl.glCullFace(state.cullFace);
+    }
+    // A mirrored object shows its triangles the other way round.
+    const bool mirrored = item.worldFromObject.det3() < 0.f;
+    const bool counterClockwise = (state.frontFace == GL_CCW) != mirrored;
+    gl.glFrontFace(counterClockwise ? GL_CCW : GL_CW);
+    gl.glPolygonMode(GL_FRONT_AND_BACK, state.polygonMode);
+    gl.glPolygonOffset(state.offsetFactor,
+                       state.offsetBias - kUnitsPerDepthStep * static_cast<float>(item.depthSteps));
+}
+
+void ItemPainter::setPlace(GlProgram& program, const RenderItem& item)
+{
+    osg::Matrix clipFromObject = view.clipFromWorld;
+    clipFromObject.mult(item.worldFromObject);
+    osg::Matrix viewFromObject = view.viewFromWorld;
+    viewFromObject.mult(item.worldFromObject);
+    program.set(gl, "nbClipFromObject", clipFromObject);
+    program.set(gl, "nbWorldFromObject", item.worldFromObject);
+    program.set(gl, "nbViewFromWorld", view.viewFromWorld);
+    program.set(gl, "nbClipFromView", view.clipFromView);
+    program.set(gl, "nbViewportSize", view.widthPx, view.heightPx);
+    program.set(gl, "viewFromObject", viewFromObject);
+    program.set(gl, "normalFromObject", normalMatrix(viewFromObject));
+}
+
+void ItemPainter::setMaterial(GlProgram& program, const RenderItem& item, const DrawState& state,
+                              bool isSurface, bool hasColors)
+{
+    setColor(gl, program, "ambientColor", state.ambient);
+    setColor(gl, program, "diffuseColor", state.diffuse);
+    setColor(gl, program, "specularColor", state.specular);
+    setColor(gl, program, "emissionColor", state.emission);
+    program.set(gl, "shininess", state.shininess);
+    const bool covers = item.handle && !item.blended;
+    program.set(gl, "opacity", covers ? 1.f : state.alpha);
+    program.set(gl, "lit", GLint(state.lit && isSurface ? 1 : 0));
+    program.set(gl, "vertexColors", GLint(hasColors && state.usesVertexColors ? 1 : 0));
+    constexpr GLenum kFirstComparison = GL_NEVER;
+    program.set(gl, "alphaTest", static_cast<GLint>(state.alphaFunc - kFirstComparison));
+    program.set(gl, "alphaValue", state.alphaValue);
+    program.set(gl, "orthographic", GLint(view.orthographic ? 1 : 0));
+    program.set(gl, "viewUp", view.viewUp.x(), view.viewUp.y(), view.viewUp.z());
+    program.set(gl, "leavesNoEffect", GLint(item.handle ? 1 : 0));
+    program.set(gl, "pointSize", kPointSize * view.pixelRatio);
+    program.set(gl, "lineWidth", state.lineWidth * view.pixelRatio);
+    program.set(gl, "stipplePattern", GLint(isSurface ? 0xffff : state.stipplePattern));
+    program.set(gl, "stippleRepeat", static_cast<float>(state.stippleRepeat) * view.pixelRatio);
+}
+
+void ItemPainter::setTexture(GlProgram& program, const DrawState& state, bool isSurface)
+{
+    const auto chunk = osg::TextureChunkPtr::dcast(resolve(state.textureId));
+    GpuTexture texture;
+    if (isSurface && chunk != osg::NullFC) {
+        texture = textures.get(gl, chunk);
+    }
+    program.set(gl, "textureMode",
+                texture.name == 0 ? GLint(0) : textureModeNumber(chunk->getEnvMode()));
+    if (texture.name == 0) {
+        return;
+    }
+    gl.glActiveTexture(GL_TEXTURE0);
+    gl.glBindTexture(GL_TEXTURE_2D, texture.name);
+    program.set(gl, "nbTexture", GLint(0));
+    program.set(gl, "textureHasColor", GLint(texture.hasColor ? 1 : 0));
+    program.set(gl, "textureHasAlpha", GLint(texture.hasAlpha ? 1 : 0));
+    const osg::Color4f& color = chunk->getEnvColor();
+    program.set(gl, "textureEnvColor", color.red(), color.green(), color.blue(), color.alpha());
+}
+
+GlProgram* ItemPainter::prepareShaderChunk(const RenderItem& item, const DrawState& state,
+                                           bool lines)
+{
+    const auto chunk = osg::SHLChunkPtr::dcast(resolve(state.shaderId));
+    GlProgram* program = chunk == osg::NullFC ? nullptr : programs.use(gl, chunk, lines);
+    if (program != nullptr) {
+        setPlace(*program, item);
+        setMaterial(*program, item, state, !lines, false);
+        setTexture(*program, state, true);
+    }
+    return program;
+}
+
+void ItemPainter::drawSurfaces(const RenderItem& item, const DrawState& state, const GpuMesh& mesh)
+{
+    if (prepareShaderChunk(item, state, false) == nullptr) {
+        GlProgram& program = programs.getStandard(ShaderPrograms::Standard::Surface);
+        program.use(gl);
+        setPlace(program, item);
+        setMaterial(program, item, state, true, mesh.hasColors);
+        setTexture(program, state, true);
+    }
+    gl.glBindVertexArray(mesh.surfaces);
+    gl.glDrawElements(GL_TRIANGLES, mesh.triangleIndexCount, GL_UNSIGNED_INT, nullptr);
+}
+
+void ItemPainter::drawLines(const RenderItem& item, const DrawState& state, const GpuMesh& mesh)
+{
+    // What a line is made of has no sides.
+    gl.glDisable(GL_CULL_FACE);
+    gl.glPolygonMode(GL_FRONT_AND_BACK, GL_FILL);
+    if (prepareShaderChunk(item, state, true) != nullptr) {
+        gl.glBindVertexArray(mesh.plainLines);
+        gl.glDrawArrays(GL_LINES, 0, 2 * mesh.lineCount);
+        return;
+    }
+    GlProgram& program = programs.getStandard(ShaderPrograms::Standard::Line);
+    program.use(gl);
+    setPlace(program, item);
+    setMaterial(program, item, state, false, mesh.hasColors);
+    setTexture(program, state, false);
+    gl.glBindVertexArray(mesh.lines);
+    gl.glDrawArraysInstanced(GL_TRIANGLE_FAN, 0, shaders::kLinePolygonVertices, mesh.lineCount);
+}
+
+void ItemPainter::drawPoints(const RenderItem& item, const DrawState& state, const GpuMesh& mesh)
+{
+    if (prepareShaderChunk(item, state, false) == nullptr) {
+        GlProgram& program = programs.getStandard(ShaderPrograms::Standard::Surface);
+        program.use(gl);
+        setPlace(program, item);
+        setMaterial(program, item, state, false, mesh.hasColors);
+        setTexture(program, state, false);
+    }
+    gl.glBindVertexArray(mesh.points);
+    gl.glDrawArrays(GL_POINTS, 0, mesh.pointCount);
+}
+
+}  // namespace nbrender

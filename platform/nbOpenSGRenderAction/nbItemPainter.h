@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <nbOpenSGRenderAction/nbGpuMeshes.h>
+#include <nbOpenSGRenderAction/nbGpuTextures.h>
+#include <nbOpenSGRenderAction/nbItemList.h>
+#include <nbOpenSGRenderAction/nbShaderPrograms.h>
+
+#include <OpenSG/OSGMatrix.h>
+#include <OpenSG/OSGVector.h>
+
+namespace nbrender {
+
+/// How one frame sees the world. Matrices are 4x4 with column vectors.
+struct FrameView
+{
+    osg::Matrix viewFromWorld;
+    osg::Matrix clipFromView;
+    osg::Matrix clipFromWorld;  ///< product of the two
+    float widthPx = 1.f;  ///< device pixels
+    float heightPx = 1.f;
+    float pixelRatio = 1.f;  ///< device pixels per logical pixel
+    bool orthographic = false;
+    osg::Vec3f viewUp { 0.f, 1.f, 0.f };  ///< the world's up in view space, unit length
+};
+
+/// Whether something of a world box may be seen. Handles are not cut at the near and far plane.
+NB_PLATFORM_API bool isInView(const osg::BoxVolume& bounds, const osg::Matrix& clipFromWorld,
+                              bool handle);
+
+/// Draws items one after the other; keeps track of the OpenGL state that they share.
+///
+/// Handles take the front tenth of the depth range, everything else the other nine. Blended items
+/// leave the effect buffer alone.
+class ItemPainter
+{
+public:
+    ItemPainter(Gl& functions, GpuMeshes& meshCache, GpuTextures& textureCache,
+                ShaderPrograms& programCache, const FrameView& frameView);
+
+    /// Puts back the OpenGL state that a fresh context has.
+    ~ItemPainter();
+
+    ItemPainter(const ItemPainter&) = delete;
+    ItemPainter& operator=(const ItemPainter&) = delete;
+
+    void draw(const RenderItem& item, const DrawState& state);
+
+private:
+    void applyDepth(const RenderItem& item, const DrawState& state);
+    void applyBlending(const RenderItem& item, const DrawState& state);
+    void applyPolygons(const RenderItem& item, const DrawState& state);
+    GlProgram* prepareShaderChunk(const RenderItem& item, const DrawState& state, bool lines);
+    void setPlace(GlProgram& program, const RenderItem& item);
+    void setMaterial(GlProgram& program, const RenderItem& item, const DrawState& state,
+                     bool isSurface, bool hasColors);
+    void setTexture(GlProgram& program, const DrawState& state, bool isSurface);
+    void drawSurfaces(const RenderItem& item, const DrawState& state, const GpuMesh& mesh);
+    void drawLines(const RenderItem& item, const DrawState& state, const GpuMesh& mesh);
+    void drawPoints(const RenderItem& item, const DrawState& state, const GpuMesh& mesh);
+
+    Gl& gl;
+    GpuMeshes& meshes;
+    GpuTextures& textures;
+    ShaderPrograms& programs;
+    const FrameView& view;
+};
+
+}  // namespace nbrender

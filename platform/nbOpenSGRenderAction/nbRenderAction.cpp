@@ -1,0 +1,351 @@
+// SPDX-License-Identifier: MIT
+#include "nbRenderAction.h"
+
+#include <nbOpenSGRenderAction/nbFrameTargets.h>
+#include <nbOpenSGRenderAction/nbItemPainter.h>
+#include <nbOpenSGUberCamera/UberCamera.h>
+#include <nbOpenSGUberCamera/nbUberCameraUtils.h>
+#include <nbOpenSGUberViewport/UberViewport.h>
+#include <nbUtils/nbLog.h>
+
+#include <OpenSG/OSGSolidBackground.h>
+
+#include <QtCore/QPointer>
+#include <QtGui/QOpenGLContext>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kDefaultSamples = 8;
+/// Programs, textures and buffers of containers that are gone are looked for once per so many
+/// frames.
+constexpr unsigned int kFramesPerCollection = 64;
+
+using nbrender::FrameTargets;
+using nbrender::FrameView;
+using nbrender::Gl;
+using nbrender::GlProgram;
+using nbrender::ShaderPrograms;
+
+struct Background
+{
+    osg::Color4f top { 0.f, 0.f, 0.f, 1.f };
+    osg::Color4f bottom { 0.f, 0.f, 0.f, 1.f };
+};
+
+Background backgroundOf(const osg::ViewportPtr& viewport)
+{
+    Background result;
+    if (viewport == osg::NullFC) {
+        return result;
+    }
+    const auto solid = osg::SolidBackgroundPtr::dcast(viewport->getBackground());
+    const auto uber = osg::UberViewportPtr::dcast(viewport);
+    if (solid != osg::NullFC) {
+        const osg::Color3f color = solid->getColor();
+        result.top = result.bottom = osg::Color4f(color.red(), color.green(), color.blue(), 1.f);
+    } else if (uber != osg::NullFC) {
+        result.top = uber->getBackgroundTop();
+        result.bottom = uber->getBackgroundBottom();
+    }
+    return result;
+}
+
+bool isZUp(const osg::CameraPtr& camera)
+{
+    const auto uber = osg::UberCameraPtr::dcast(camera);
+    return uber != osg::NullFC && uber->isZUp();
+}
+
+void encloseScene(const osg::CameraPtr& camera, const osg::BoxVolume& bounds)
+{
+    const auto uber = osg::UberCameraPtr::dcast(camera);
+    if (uber == osg::NullFC) {
+        return;
+    }
+    if (bounds.isEmpty()) {
+        uber->setNearFarFromBounds(uber->getPivot(), uber->getPivot());
+    } else {
+        uber->setNearFarFromBounds(bounds.getMin(), bounds.getMax());
+    }
+}
+
+FrameView viewOf(const osg::CameraPtr& camera, int widthPx, int heightPx)
+{
+    FrameView view;
+    const auto width = static_cast<osg::UInt32>(widthPx);
+    const auto height = static_cast<osg::UInt32>(heightPx);
+    view.widthPx = static_cast<float>(widthPx);
+    view.heightPx = static_cast<float>(heightPx);
+    osg::Matrix translation;
+    camera->getProjection(view.clipFromView, width, height);
+    camera->getProjectionTranslation(translation, width, height);
+    view.clipFromView.mult(translation);
+    camera->getViewing(view.viewFromWorld, width, height);
+    view.orthographic = nbUberCameraUtils::isOrthographicCamera(camera);
+    const osg::Vec3f worldUp =
+        isZUp(camera) ? osg::Vec3f(0.f, 0.f, 1.f) : osg::Vec3f(0.f, 1.f, 0.f);
+    view.viewFromWorld.multMatrixVec(worldUp, view.viewUp);
+    view.viewUp.normalize();
+    return view;
+}
+
+}  // namespace
+
+/// Everything behind the interface.
+struct nbRenderAction::Impl
+{
+    bool prepareContext(std::string& error);
+    void forgetContext();
+    void drawBackground(const Background& background);
+    void drawScene(const osg::ViewportPtr& viewport, int widthPx, int heightPx);
+    void present(int widthPx, int heightPx, osg::UInt32 targetFramebuffer);
+    void collect();
+    bool fail(const std::string& reason);
+
+    int samples = kDefaultSamples;
+    float pixelRatio = 1.f;
+    float shiftX = 0.f;
+    float shiftY = 0.f;
+    bool effectShown = false;
+
+    QPointer<QOpenGLContext> context;
+    Gl* gl = nullptr;
+    GLuint emptyArray = 0;  ///< vertex array of programs that have no attributes
+    FrameTargets targets;
+    ShaderPrograms programs;
+    nbrender::GpuMeshes meshes;
+    nbrender::GpuTextures textures;
+    nbrender::ItemList list;
+    Statistics statistics;
+    unsigned int framesSinceCollection = 0;
+    std::string lastFailure;
+};
+
+bool nbRenderAction::Impl::prepareContext(std::string& error)
+{
+    QOpenGLContext* current = QOpenGLContext::currentContext();
+    if (current == nullptr) {
+        error = "no OpenGL context is current";
+        return false;
+    }
+    if (current == context && gl != nullptr) {
+        return true;
+    }
+    forgetContext();
+    Gl* functions = current->versionFunctions<Gl>();
+    if (functions == nullptr || !functions->initializeOpenGLFunctions()) {
+        const QSurfaceFormat format = current->format();
+        error = "OpenGL 3.3 core is needed, the driver gives " +
+            std::to_string(format.majorVersion()) + "." + std::to_string(format.minorVersion());
+        return false;
+    }
+    if (!programs.initialise(*functions, error)) {
+        programs.release(*functions);
+        return false;
+    }
+    functions->glGenVertexArrays(1, &emptyArray);
+    context = current;
+    gl = functions;
+    return true;
+}
+
+void nbRenderAction::Impl::forgetContext()
+{
+    targets.forget();
+    programs.forget();
+    meshes.forget();
+    textures.forget();
+    emptyArray = 0;
+    context.clear();
+    gl = nullptr;
+}
+
+void nbRenderAction::Impl::drawBackground(const Background& background)
+{
+    constexpr GLfloat kNothing[] = { 0.f, 0.f, 0.f, 0.f };
+    constexpr GLfloat kFarthest = 1.f;
+    gl->glDisable(GL_SCISSOR_TEST);
+    gl->glDisable(GL_DEPTH_TEST);
+    gl->glDisable(GL_BLEND);
+    gl->glDisable(GL_CULL_FACE);
+    gl->glDisable(GL_STENCIL_TEST);
+    gl->glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
+    gl->glDepthMask(GL_TRUE);
+    gl->glClearBufferfv(GL_COLOR, 1, kNothing);
+    gl->glClearBufferfv(GL_DEPTH, 0, &kFarthest);
+    GlProgram& program = programs.getStandard(ShaderPrograms::Standard::Background);
+    program.use(*gl);
+    const osg::Color4f& top = background.top;
+    const osg::Color4f& bottom = background.bottom;
+    program.set(*gl, "topColor", top.red(), top.green(), top.blue(), top.alpha());
+    program.set(*gl, "bottomColor", bottom.red(), bottom.green(), bottom.blue(), bottom.alpha());
+    gl->glBindVertexArray(emptyArray);
+    gl->glDrawArrays(GL_TRIANGLES, 0, 3);
+}
+
+void nbRenderAction::Impl::drawScene(const osg::ViewportPtr& viewport, int widthPx, int heightPx)
+{
+    const osg::CameraPtr camera = viewport->getCamera();
+    if (list.update(viewport->getRoot())) {
+        ++statistics.listBuilds;
+    }
+    encloseScene(camera, list.getSceneBounds());
+    FrameView view = viewOf(camera, widthPx, heightPx);
+    view.pixelRatio = pixelRatio;
+    osg::Matrix shift;
+    shift.setTranslate(2.f * shiftX / view.widthPx, 2.f * shiftY / view.heightPx, 0.f);
+    view.clipFromView.multLeft(shift);
+    view.clipFromWorld = view.clipFromView;
+    view.clipFromWorld.mult(view.viewFromWorld);
+
+    nbrender::ItemPainter painter(*gl, meshes, textures, programs, view);
+    for (const osg::UInt32 index : list.getOrder(view.viewFromWorld)) {
+        const nbrender::RenderItem& item = list.getItems()[index];
+        if (nbrender::isInView(item.bounds, view.clipFromWorld, item.handle)) {
+            painter.draw(item, list.getStates()[item.stateIndex]);
+            ++statistics.drawn;
+        }
+    }
+    statistics.items = list.getItems().size();
+}
+
+void nbRenderAction::Impl::present(int widthPx, int heightPx, osg::UInt32 targetFramebuffer)
+{
+    const auto shown = effectShown ? FrameTargets::Buffer::Effect : FrameTargets::Buffer::Color;
+    gl->glBindFramebuffer(GL_FRAMEBUFFER, targetFramebuffer);
+    gl->glViewport(0, 0, widthPx, heightPx);
+    gl->glDisable(GL_DEPTH_TEST);
+    GlProgram& program = programs.getStandard(ShaderPrograms::Standard::Present);
+    program.use(*gl);
+    program.set(*gl, "picture", GLint(0));
+    gl->glActiveTexture(GL_TEXTURE0);
+    gl->glBindTexture(GL_TEXTURE_2D, targets.getTexture(shown));
+    gl->glBindVertexArray(emptyArray);
+    gl->glDrawArrays(GL_TRIANGLES, 0, 3);
+    gl->glBindTexture(GL_TEXTURE_2D, 0);
+    gl->glBindVertexArray(0);
+    gl->glUseProgram(0);
+}
+
+void nbRenderAction::Impl::collect()
+{
+    if (++framesSinceCollection < kFramesPerCollection) {
+        return;
+    }
+    framesSinceCollection = 0;
+    meshes.collect(*gl);
+    textures.collect(*gl);
+    programs.collect(*gl);
+}
+
+bool nbRenderAction::Impl::fail(const std::string& reason)
+{
+    if (reason != lastFailure) {
+        nbLog::error("nbRenderAction: " + reason);
+        lastFailure = reason;
+    }
+    return false;
+}
+
+nbRenderAction::nbRenderAction()
+    : impl(std::make_unique<Impl>())
+{ }
+
+nbRenderAction::~nbRenderAction() = default;
+
+bool nbRenderAction::initialise(std::string* error)
+{
+    std::string reason;
+    const bool ready = impl->prepareContext(reason);
+    if (!ready && error != nullptr) {
+        *error = reason;
+    }
+    return ready;
+}
+
+bool nbRenderAction::render(const osg::ViewportPtr& viewport, int widthPx, int heightPx,
+                            osg::UInt32 targetFramebuffer)
+{
+    if (widthPx <= 0 || heightPx <= 0) {
+        return false;
+    }
+    std::string error;
+    if (!impl->prepareContext(error) ||
+        !impl->targets.bind(*impl->gl, widthPx, heightPx, impl->samples, error)) {
+        return impl->fail(error);
+    }
+    impl->lastFailure.clear();
+    impl->gl->glViewport(0, 0, widthPx, heightPx);
+    impl->drawBackground(backgroundOf(viewport));
+    impl->statistics.items = 0;
+    impl->statistics.drawn = 0;
+    if (viewport != osg::NullFC && viewport->getCamera() != osg::NullFC) {
+        impl->drawScene(viewport, widthPx, heightPx);
+    }
+    impl->targets.resolve(*impl->gl);
+    impl->present(widthPx, heightPx, targetFramebuffer);
+    impl->collect();
+    return true;
+}
+
+void nbRenderAction::setSamples(int samples)
+{
+    impl->samples = std::max(samples, 1);
+}
+
+int nbRenderAction::getSamples() const
+{
+    const int made = impl->targets.getSamples();
+    return made > 0 ? made : impl->samples;
+}
+
+void nbRenderAction::setPixelRatio(float ratio)
+{
+    if (ratio > 0.f) {
+        impl->pixelRatio = ratio;
+    }
+}
+
+void nbRenderAction::setSubpixelShift(float xPx, float yPx)
+{
+    impl->shiftX = xPx;
+    impl->shiftY = yPx;
+}
+
+void nbRenderAction::showEffectBuffer(bool on)
+{
+    impl->effectShown = on;
+}
+
+QImage nbRenderAction::readColour()
+{
+    return impl->gl == nullptr ? QImage()
+                               : impl->targets.read(*impl->gl, FrameTargets::Buffer::Color);
+}
+
+QImage nbRenderAction::readEffect()
+{
+    return impl->gl == nullptr ? QImage()
+                               : impl->targets.read(*impl->gl, FrameTargets::Buffer::Effect);
+}
+
+void nbRenderAction::release()
+{
+    if (impl->gl != nullptr && QOpenGLContext::currentContext() == impl->context) {
+        impl->targets.release(*impl->gl);
+        impl->programs.release(*impl->gl);
+        impl->meshes.release(*impl->gl);
+        impl->textures.release(*impl->gl);
+        impl->gl->glDeleteVertexArrays(1, &impl->emptyArray);
+    }
+    impl->forgetContext();
+}
+
+nbRenderAction::Statistics nbRenderAction::getStatistics() const
+{
+    Statistics result = impl->statistics;
+    result.meshes = impl->meshes.size();
+    return result;
+}

@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <nbUtils/nbPlatformExport.h>
+
+#include <OpenSG/OSGBaseTypes.h>
+#include <OpenSG/OSGViewport.h>
+
+#include <QtGui/QImage>
+
+#include <cstddef>
+#include <memory>
+#include <string>
+
+/// Draws what a viewport shows with OpenGL 3.3 core.
+///
+/// Every operation that draws, reads or releases needs the same current QOpenGLContext. What was
+/// made for a context is made anew from the containers when another one is current; who destroys a
+/// context calls release() in it before. Belongs to one thread.
+///
+/// Drawing order and the rules of material groups are those of nbrender::ItemList. Handles, all
+/// items below a manipulator node, are tested LEQUAL and write depth in the front tenth of the
+/// depth range, whatever their chunks say, so that they show through every object and occlude each
+/// other; the near and far plane do not cut them. Blended items write no depth. Line widths are
+/// logical pixels.
+///
+/// Lit surfaces get a light that travels with the camera, from above its left shoulder, and a sky
+/// and ground light; both sides of a surface are lit alike. Unlit ones show diffuse + emission, or
+/// the vertex colour
+/// + emission, exactly. Colours are not converted on their way to the frame buffer. There is a
+/// second output, the effect buffer, for effects on the finished picture: opaque scene items write
+/// their normal in view space, turned to the eye, as 0.5 n + 0.5 with alpha 1; the background and
+/// handles write zeros, blended items nothing. Programs of shader chunks write what they like; see
+/// nbShaderHeader.h for what they get. A program that does not compile costs one line in the log,
+/// and its items are drawn in plain colour.
+///
+/// The background is the gradient of an UberViewport, or the colour of a SolidBackground, or black.
+/// Of an UberCamera, near and far are set to enclose the scene and handles around it.
+class NB_PLATFORM_API nbRenderAction
+{
+public:
+    /// What the last frame took.
+    struct Statistics
+    {
+        std::size_t items = 0;  ///< in the list
+        std::size_t drawn = 0;  ///< of these drawn, the others were out of view
+        std::size_t listBuilds = 0;  ///< how often the item list was made since construction
+        std::size_t meshes = 0;  ///< geometries that have buffers
+    };
+
+    nbRenderAction();
+    /// Releases nothing on the graphics card: call release() before in the context.
+    ~nbRenderAction();
+
+    nbRenderAction(const nbRenderAction&) = delete;
+    nbRenderAction& operator=(const nbRenderAction&) = delete;
+
+    /// Gets ready for the current context; render() does it by itself if need be.
+    /// @param error  receives one line on failure; may be null
+    /// @return false without a current context with OpenGL 3.3 core
+    bool initialise(std::string* error);
+
+    /// Draws one frame and copies it into a framebuffer, from its lower left corner on.
+    /// @param viewport   camera, root and background; null, or one without camera, shows the
+    /// background
+    /// @param widthPx, heightPx  device pixels; sizes without area draw nothing
+    /// @param targetFramebuffer  OpenGL name; 0 is the context's own
+    /// @return false if nothing could be drawn; the log then has a line, once per cause
+    bool render(const osg::ViewportPtr& viewport, int widthPx, int heightPx,
+                osg::UInt32 targetFramebuffer);
+
+    /// Samples per pixel, 1 to what the driver has; 8 at the start.
+    void setSamples(int samples);
+    /// The number that the driver gave for the last frame, before the first one the wish.
+    int getSamples() const;
+
+    /// Device pixels per logical pixel, > 0; 1 at the start. Lines and points follow it.
+    void setPixelRatio(float ratio);
+
+    /// Shifts the picture by parts of a device pixel, x to the right and y up, for an average over
+    /// several frames.
+    void setSubpixelShift(float xPx, float yPx);
+
+    /// Shows the effect buffer instead of the colours.
+    void showEffectBuffer(bool on);
+
+    /// The last frame's colours, without alpha, rows from the top; null before the first frame.
+    QImage readColour();
+
+    /// The last frame's effect buffer with its alpha, rows from the top; null before the first
+    /// frame.
+    QImage readEffect();
+
+    /// Gives everything on the graphics card back; the next frame makes it anew.
+    void release();
+
+    Statistics getStatistics() const;
+
+private:
+    struct Impl;
+    std::unique_ptr<Impl> impl;
+};

@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: MIT
+#include "nbShaderPrograms.h"
+
+#include <nbOpenSGRenderAction/nbStandardShaders.h>
+#include <nbUtils/nbLog.h>
+
+#include <OpenSG/OSGFieldContainerFactory.h>
+#include <OpenSG/OSGShaderParameterBool.h>
+#include <OpenSG/OSGShaderParameterInt.h>
+#include <OpenSG/OSGShaderParameterMatrix.h>
+#include <OpenSG/OSGShaderParameterReal.h>
+#include <OpenSG/OSGShaderParameterVec2f.h>
+#include <OpenSG/OSGShaderParameterVec3f.h>
+#include <OpenSG/OSGShaderParameterVec4f.h>
+
+namespace nbrender {
+
+namespace {
+
+std::string orDefault(const std::string& text, std::string (*standard)())
+{
+    return text.empty() ? standard() : text;
+}
+
+/// Sets one parameter if it is of the class that the pointer type names.
+template <class ParameterPtr, class Setter>
+bool setAs(const osg::ShaderParameterPtr& parameter, const Setter& setter)
+{
+    const ParameterPtr typed = ParameterPtr::dcast(parameter);
+    if (typed == osg::NullFC) {
+        return false;
+    }
+    setter(typed->getValue());
+    return true;
+}
+
+void setParameter(Gl& gl, const osg::ShaderParameterPtr& parameter, GLint location)
+{
+    using namespace osg;  // NOLINT: the long list of classes below
+    setAs<ShaderParameterVec4fPtr>(
+        parameter, [&](const Vec4f& v) { gl.glUniform4f(location, v.x(), v.y(), v.z(), v.w()); }) ||
+        setAs<ShaderParameterMatrixPtr>(parameter,
+                                        [&](const Matrix& m) {
+                                            gl.glUniformMatrix4fv(location, 1, GL_FALSE,
+                                                                  m.getValues());
+                                        }) ||
+        setAs<ShaderParameterRealPtr>(parameter, [&](Real32 v) { gl.glUniform1f(location, v); }) ||
+        setAs<ShaderParameterIntPtr>(parameter, [&](Int32 v) { gl.glUniform1i(location, v); }) ||
+        setAs<ShaderParameterBoolPtr>(parameter,
+                                      [&](bool v) { gl.glUniform1i(location, v ? 1 : 0); }) ||
+        setAs<ShaderParameterVec3fPtr>(
+            parameter, [&](const Vec3f& v) { gl.glUniform3f(location, v.x(), v.y(), v.z()); }) ||
+        setAs<ShaderParameterVec2fPtr>(
+            parameter, [&](const Vec2f& v) { gl.glUniform2f(location, v.x(), v.y()); });
+}
+
+}  // namespace
+
+bool ShaderPrograms::initialise(Gl& gl, std::string& error)
+{
+    using namespace shaders;
+    const auto build = [&](Standard which, const std::string& vertex, const std::string& fragment) {
+        return getStandard(which).build(gl, vertex, std::string(), fragment, error);
+    };
+    return build(Standard::Surface, surfaceVertex(), surfaceFragment()) &&
+        build(Standard::Line, lineVertex(), surfaceFragment()) &&
+        build(Standard::Background, fullScreenVertex(), gradientFragment()) &&
+        build(Standard::Present, fullScreenVertex(), presentFragment());
+}
+
+GlProgram* ShaderPrograms::use(Gl& gl, const osg::SHLChunkPtr& chunk, bool lines)
+{
+    Entry& entry = entries[chunk.getFieldContainerId()];
+    constexpr char kSeparator = '\1';
+    const std::string text = chunk->getVertexProgram() + kSeparator + chunk->getGeometryProgram() +
+        kSeparator + chunk->getFragmentProgram();
+    if (entry.text != text) {
+        entry.surface.destroy(gl);
+        entry.line.destroy(gl);
+        entry.text = text;
+        build(gl, chunk, entry);
+    }
+    GlProgram& program = lines && entry.line.isUsable() ? entry.line : entry.surface;
+    if (!program.isUsable()) {
+        return nullptr;
+    }
+    program.use(gl);
+    setParameters(gl, chunk, program);
+    return &program;
+}
+
+void ShaderPrograms::build(Gl& gl, const osg::SHLChunkPtr& chunk, Entry& entry)
+{
+    const std::string vertex = orDefault(chunk->getVertexProgram(), shaders::surfaceVertex);
+    const std::string fragment = orDefault(chunk->getFragmentProgram(), shaders::surfaceFragment);
+    const std::string& geometry = chunk->getGeometryProgram();
+    std::string error;
+    if (!entry.surface.build(gl, vertex, geometry, fragment, error)) {
+        nbLog::error("shader chunk " + std::to_string(chunk.getFieldContainerId()) +
+                     " does not compile and is drawn in plain colour: " + error);
+        return;
+    }
+    if (geometry.empty()) {
+        // A program that passes more than positions between its stages does not link with this; its
+        // lines are then drawn as thin as the driver draws them.
+        entry.line.build(gl, vertex, shaders::lineGeometry(), fragment, error);
+    }
+}
+
+void ShaderPrograms::setParameters(Gl& gl, const osg::SHLChunkPtr& chunk, GlProgram& program)
+{
+    for (const osg::ShaderParameterPtr& parameter : chunk->getParameters()) {
+        if (parameter != osg::NullFC) {
+            setParameter(gl, parameter, program.locate(gl, parameter->getName()));
+        }
+    }
+}
+
+void ShaderPrograms::collect(Gl& gl)
+{
+    for (auto it = entries.begin(); it != entries.end();) {
+        if (osg::FieldContainerFactory::the()->getContainer(it->first) == osg::NullFC) {
+            it->second.surface.destroy(gl);
+            it->second.line.destroy(gl);
+            it = entries.erase(it);
+        } else {
+            ++it;
+        }
+    }
+}
+
+void ShaderPrograms::release(Gl& gl)
+{
+    for (auto& [id, entry] : entries) {
+        entry.surface.destroy(gl);
+        entry.line.destroy(gl);
+    }
+    entries.clear();
+    for (GlProgram& program : standard) {
+        program.destroy(gl);
+    }
+}
+
+void ShaderPrograms::forget()
+{
+    entries.clear();
+    for (GlProgram& program : standard) {
+        program = GlProgram();
+    }
+}
+
+}  // namespace nbrender

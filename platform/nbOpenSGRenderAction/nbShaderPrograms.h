@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <nbOpenSGRenderAction/nbGlProgram.h>
+
+#include <OpenSG/OSGSHLChunk.h>
+
+#include <unordered_map>
+
+namespace nbrender {
+
+/// The renderer's own programs and those of shader chunks, the latter by container id, compiled on
+/// first use and again when the text was edited. Needs the current context of its first use.
+class ShaderPrograms
+{
+public:
+    enum class Standard
+    {
+        Surface,
+        Line,
+        Background,
+        Present
+    };
+
+    /// Compiles the renderer's own programs.
+    /// @param error  receives a line on failure
+    bool initialise(Gl& gl, std::string& error);
+
+    GlProgram& getStandard(Standard which) { return standard[static_cast<std::size_t>(which)]; }
+
+    /// Program of a shader chunk, with its parameters set and in use.
+    /// @param lines  the program draws lines: without a geometry program of its own it gets one
+    /// that
+    ///               widens them, if the interface between its stages allows that
+    /// @return null if the chunk's text does not compile; the log got one line about it
+    GlProgram* use(Gl& gl, const osg::SHLChunkPtr& chunk, bool lines);
+
+    void collect(Gl& gl);
+    void release(Gl& gl);
+    void forget();
+
+private:
+    struct Entry
+    {
+        std::string text;  ///< of all stages
+        GlProgram surface;
+        GlProgram line;
+    };
+
+    static void build(Gl& gl, const osg::SHLChunkPtr& chunk, Entry& entry);
+    static void setParameters(Gl& gl, const osg::SHLChunkPtr& chunk, GlProgram& program);
+
+    GlProgram standard[4];
+    std::unordered_map<osg::UInt32, Entry> entries;
+};
+
+}  // namespace nbrender

@@ -1,0 +1,296 @@
+// SPDX-License-Identifier: MIT
+#include "nbStandardShaders.h"
+
+#include <nbOpenSGUtils/nbShaderHeader.h>
+
+namespace nbrender::shaders {
+
+namespace {
+
+const char* const kSurfaceVertexBody = R"(
+uniform mat4 viewFromObject;
+uniform mat4 normalFromObject;
+uniform float pointSize;
+out vec3 viewPosition;
+out vec3 viewNormal;
+out vec4 vertexColor;
+out vec2 texCoord;
+noperspective out float lineDistancePx;
+void main()
+{
+    gl_Position = nbClipFromObject * vec4(nbPosition, 1.0);
+    gl_PointSize = pointSize;
+    viewPosition = (viewFromObject * vec4(nbPosition, 1.0)).xyz;
+    viewNormal = mat3(normalFromObject) * nbNormal;
+    vertexColor = nbColor;
+    texCoord = nbTexCoord;
+    lineDistancePx = 0.0;
+}
+)";
+
+/// A line a .. b in clip space, cut at the near plane, and the corner of its polygon: a half circle
+/// of seven points around each end.
+const char* const kLineFunctions = R"(
+uniform float lineWidth;
+bool cutAtNearPlane(inout vec4 a, inout vec4 b)
+{
+    float aDepth = a.z + a.w;
+    float bDepth = b.z + b.w;
+    if (aDepth < 0.0 && bDepth < 0.0) {
+        return false;
+    }
+    if (aDepth < 0.0) {
+        a = mix(a, b, aDepth / (aDepth - bDepth));
+    } else if (bDepth < 0.0) {
+        b = mix(b, a, bDepth / (bDepth - aDepth));
+    }
+    return true;
+}
+vec2 lineInPx(vec4 a, vec4 b)
+{
+    return (b.xy / b.w - a.xy / a.w) * 0.5 * nbViewportSize;
+}
+vec4 lineCorner(vec4 a, vec4 b, int corner)
+{
+    vec2 along = lineInPx(a, b);
+    float lengthPx = length(along);
+    along = lengthPx > 1e-6 ? along / lengthPx : vec2(1.0, 0.0);
+    bool atEnd = corner < 7;
+    float angle = (float(corner % 7) / 6.0 - 0.5) * 3.14159265;
+    vec2 offsetPx = cos(angle) * along + sin(angle) * vec2(-along.y, along.x);
+    offsetPx *= (atEnd ? 0.5 : -0.5) * lineWidth;
+    vec4 place = atEnd ? b : a;
+    place.xy += offsetPx * 2.0 / nbViewportSize * place.w;
+    return place;
+}
+)";
+
+const char* const kLineVertexBody = R"(
+layout (location = 0) in vec3 startPosition;
+layout (location = 1) in vec4 startColor;
+layout (location = 2) in vec3 endPosition;
+layout (location = 3) in vec4 endColor;
+out vec3 viewPosition;
+out vec3 viewNormal;
+out vec4 vertexColor;
+out vec2 texCoord;
+noperspective out float lineDistancePx;
+void main()
+{
+    vec4 a = nbClipFromObject * vec4(startPosition, 1.0);
+    vec4 b = nbClipFromObject * vec4(endPosition, 1.0);
+    viewPosition = vec3(0.0, 0.0, -1.0);
+    viewNormal = vec3(0.0);
+    texCoord = vec2(0.0);
+    bool atEnd = gl_VertexID < 7;
+    vertexColor = atEnd ? endColor : startColor;
+    lineDistancePx = 0.0;
+    if (!cutAtNearPlane(a, b)) {
+        gl_Position = vec4(2.0, 2.0, 2.0, 1.0);
+        return;
+    }
+    gl_Position = lineCorner(a, b, gl_VertexID);
+    lineDistancePx = atEnd ? length(lineInPx(a, b)) : 0.0;
+}
+)";
+
+const char* const kLineGeometryBody = R"(
+layout (lines) in;
+layout (triangle_strip, max_vertices = 14) out;
+void main()
+{
+    vec4 a = gl_in[0].gl_Position;
+    vec4 b = gl_in[1].gl_Position;
+    if (!cutAtNearPlane(a, b)) {
+        return;
+    }
+    for (int i = 0; i < 7; ++i) {
+        gl_Position = lineCorner(a, b, i);
+        EmitVertex();
+        gl_Position = lineCorner(a, b, 13 - i);
+        EmitVertex();
+    }
+    EndPrimitive();
+}
+)";
+
+const char* const kSurfaceFragmentBody = R"(
+in vec3 viewPosition;
+in vec3 viewNormal;
+in vec4 vertexColor;
+in vec2 texCoord;
+noperspective in float lineDistancePx;
+layout (location = 0) out vec4 colorBufferRGBA;
+layout (location = 1) out vec4 effectBufferRGBA;
+uniform vec3 ambientColor;
+uniform vec3 diffuseColor;
+uniform vec3 specularColor;
+uniform vec3 emissionColor;
+uniform float shininess;
+uniform float opacity;
+uniform int lit;
+uniform int vertexColors;
+uniform int textureMode;      // 0 none, 1 replace, 2 modulate, 3 blend, 4 decal
+uniform int textureHasColor;
+uniform int textureHasAlpha;
+uniform vec4 textureEnvColor;
+uniform int alphaTest;        // GL comparison minus GL_NEVER
+uniform float alphaValue;
+uniform int orthographic;
+uniform vec3 viewUp;          // the world's up in view space
+uniform int leavesNoEffect;
+uniform int stipplePattern;   // 16 bits, lowest first
+uniform float stippleRepeat;  // device pixels per bit
+vec3 facingNormal()
+{
+    vec3 toEye = orthographic != 0 ? vec3(0.0, 0.0, 1.0) : normalize(-viewPosition);
+    float size = length(viewNormal);
+    vec3 normal = size > 0.0 ? viewNormal / size : toEye;
+    return dot(normal, toEye) < 0.0 ? -normal : normal;
+}
+vec3 shade(vec3 normal, vec3 diffuse)
+{
+    const vec3 kSky = vec3(0.40, 0.42, 0.46);
+    const vec3 kGround = vec3(0.20, 0.19, 0.18);
+    const vec3 kKeyDirection = vec3(-0.2873, 0.4104, 0.8655);
+    const float kKeyStrength = 0.68;
+    vec3 toEye = orthographic != 0 ? vec3(0.0, 0.0, 1.0) : normalize(-viewPosition);
+    vec3 sky = mix(kGround, kSky, 0.5 + 0.5 * dot(normal, viewUp));
+    float key = max(dot(normal, kKeyDirection), 0.0);
+    float highlight = key > 0.0
+        ? pow(max(dot(normal, normalize(kKeyDirection + toEye)), 0.0), max(shininess, 1.0)) : 0.0;
+    return emissionColor + ambientColor * sky + diffuse * (sky + kKeyStrength * key)
+        + specularColor * (kKeyStrength * highlight);
+}
+vec4 textured(vec4 color)
+{
+    vec4 texel = texture(nbTexture, texCoord);
+    if (textureMode == 1) {
+        return vec4(textureHasColor != 0 ? texel.rgb : color.rgb,
+                    textureHasAlpha != 0 ? texel.a : color.a);
+    }
+    if (textureMode == 4) {
+        return vec4(mix(color.rgb, texel.rgb, textureHasAlpha != 0 ? texel.a : 1.0), color.a);
+    }
+    float alpha = textureHasAlpha != 0 ? color.a * texel.a : color.a;
+    if (textureHasColor == 0) {
+        return vec4(color.rgb, alpha);
+    }
+    return vec4(textureMode == 2 ? color.rgb * texel.rgb
+                                 : mix(color.rgb, textureEnvColor.rgb, texel.rgb), alpha);
+}
+bool passesAlphaTest(float alpha)
+{
+    switch (alphaTest) {
+    case 0: return false;
+    case 1: return alpha < alphaValue;
+    case 2: return alpha == alphaValue;
+    case 3: return alpha <= alphaValue;
+    case 4: return alpha > alphaValue;
+    case 5: return alpha != alphaValue;
+    case 6: return alpha >= alphaValue;
+    }
+    return true;
+}
+)";
+
+const char* const kSurfaceMain = R"(
+bool inStippleGap()
+{
+    int bit = int(mod(floor(lineDistancePx / stippleRepeat), 16.0));
+    return (stipplePattern >> bit) % 2 == 0;
+}
+void main()
+{
+    if (stipplePattern != 0xffff && inStippleGap()) {
+        discard;
+    }
+    vec4 surface = vertexColors != 0 ? vec4(vertexColor.rgb, vertexColor.a * opacity)
+                                     : vec4(diffuseColor, opacity);
+    vec3 normal = facingNormal();
+    vec4 color = vec4(lit != 0 ? shade(normal, surface.rgb) : surface.rgb + emissionColor, surface.a);
+    if (textureMode != 0) {
+        color = textured(color);
+    }
+    if (!passesAlphaTest(color.a)) {
+        discard;
+    }
+    colorBufferRGBA = color;
+    effectBufferRGBA = leavesNoEffect != 0 ? vec4(0.0) : vec4(0.5 * normal + 0.5, 1.0);
+}
+)";
+
+const char* const kFullScreenVertexBody = R"(
+out vec2 place;
+void main()
+{
+    vec2 corner = vec2(gl_VertexID == 1 ? 3.0 : -1.0, gl_VertexID == 2 ? 3.0 : -1.0);
+    place = 0.5 * corner + 0.5;
+    gl_Position = vec4(corner, 1.0, 1.0);
+}
+)";
+
+const char* const kGradientFragmentBody = R"(
+in vec2 place;
+uniform vec4 topColor;
+uniform vec4 bottomColor;
+layout (location = 0) out vec4 colorBufferRGBA;
+layout (location = 1) out vec4 effectBufferRGBA;
+void main()
+{
+    colorBufferRGBA = vec4(mix(bottomColor.rgb, topColor.rgb, place.y), 1.0);
+    effectBufferRGBA = vec4(0.0);
+}
+)";
+
+const char* const kPresentFragmentBody = R"(
+uniform sampler2D picture;
+layout (location = 0) out vec4 color;
+void main()
+{
+    color = vec4(texelFetch(picture, ivec2(gl_FragCoord.xy), 0).rgb, 1.0);
+}
+)";
+
+}  // namespace
+
+std::string surfaceVertex()
+{
+    return shaderHeaderString(nbShaderStage::Vertex, true, true, false) + kSurfaceVertexBody;
+}
+
+std::string lineVertex()
+{
+    // The attributes of lines are their own, so only the uniforms of the preamble are taken.
+    return shaderHeaderString(nbShaderStage::Geometry, true, false, false) + kLineFunctions +
+        kLineVertexBody;
+}
+
+std::string surfaceFragment()
+{
+    return shaderHeaderString(nbShaderStage::Fragment, true, false, true) + kSurfaceFragmentBody +
+        kSurfaceMain;
+}
+
+std::string lineGeometry()
+{
+    return shaderHeaderString(nbShaderStage::Geometry, true, false, false) + kLineFunctions +
+        kLineGeometryBody;
+}
+
+std::string fullScreenVertex()
+{
+    return shaderHeaderString(nbShaderStage::Vertex, false, false, false) + kFullScreenVertexBody;
+}
+
+std::string gradientFragment()
+{
+    return shaderHeaderString(nbShaderStage::Fragment, false, false, false) + kGradientFragmentBody;
+}
+
+std::string presentFragment()
+{
+    return shaderHeaderString(nbShaderStage::Fragment, false, false, false) + kPresentFragmentBody;
+}
+
+}  // namespace nbrender::shaders

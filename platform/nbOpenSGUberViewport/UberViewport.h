@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <nbUtils/nbPlatformExport.h>
+
+#include <OpenSG/OSGColor.h>
+#include <OpenSG/OSGConfig.h>
+#include <OpenSG/OSGViewport.h>
+
+#include <FieldContainerGlue.h>
+
+namespace osg {
+
+NB_CONTAINER_POINTER(UberViewport, ViewportPtr);
+
+#define UBER_VIEWPORT_FIELDS(VALUE, OWNED, LINK)                                                   \
+    VALUE(BackgroundTop, backgroundTop, Color4f, Color4f(0.30f, 0.33f, 0.37f, 1.f))                \
+    VALUE(BackgroundBottom, backgroundBottom, Color4f, Color4f(0.13f, 0.14f, 0.16f, 1.f))          \
+    VALUE(DeviceWidth, deviceWidth, Int32, 0)                                                      \
+    VALUE(DeviceHeight, deviceHeight, Int32, 0)
+
+/// Viewport of the host: knows its size in device pixels and the two colours of its background, a
+/// vertical gradient from BackgroundTop to BackgroundBottom that the renderer paints (components
+/// from 0 to 1, as they reach the frame buffer).
+class NB_PLATFORM_API UberViewport : public Viewport
+{
+    NB_CONTAINER(UberViewport, Viewport, UBER_VIEWPORT_FIELDS);
+
+public:
+    /// Stores the size in device pixels and lets the viewport cover its whole window, or nothing if
+    /// a side is 0. Negative sides count as 0. The window's own size is its owner's to set.
+    void setDeviceSize(Int32 width, Int32 height);
+
+    /// Width / height, or 1 without an area.
+    Real32 getDeviceAspect() const;
+
+    /// One colour for the whole background.
+    void setBackgroundColor(const Color4f& color);
+};
+
+}  // namespace osg

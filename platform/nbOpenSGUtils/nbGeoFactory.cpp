@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+#include "nbGeoFactory.h"
+
+#include <nbOpenSGUtils/nbEdit.h>
+
+#include <OpenSG/OSGGeoProperty.h>
+#include <OpenSG/OSGNodePtr.h>
+
+#include <cmath>
+#include <vector>
+
+namespace {
+
+/// GL_LINES over shared points; two indices per piece.
+osg::GeometryPtr lineSet(const std::vector<osg::Pnt3f>& points,
+                         const std::vector<osg::UInt32>& pointIndices)
+{
+    const osg::GeoPositions3fPtr positions = osg::GeoPositions3f::create();
+    const osg::GeoIndicesUI32Ptr indices = osg::GeoIndicesUI32::create();
+    const osg::GeoPTypesUI8Ptr types = osg::GeoPTypesUI8::create();
+    const osg::GeoPLengthsUI32Ptr lengths = osg::GeoPLengthsUI32::create();
+    {
+        const nbEdit positionEdit(positions, osg::FieldBits::AllFields);
+        const nbEdit indexEdit(indices, osg::FieldBits::AllFields);
+        const nbEdit typeEdit(types, osg::FieldBits::AllFields);
+        const nbEdit lengthEdit(lengths, osg::FieldBits::AllFields);
+        for (const osg::Pnt3f& point : points) {
+            positions->addValue(point);
+        }
+        for (const osg::UInt32 index : pointIndices) {
+            indices->addValue(index);
+        }
+        types->addValue(GL_LINES);
+        lengths->addValue(static_cast<osg::UInt32>(pointIndices.size()));
+    }
+
+    const osg::GeometryPtr geometry = osg::Geometry::create();
+    const nbEdit edit(geometry, osg::FieldBits::AllFields);
+    geometry->setTypes(types);
+    geometry->setLengths(lengths);
+    geometry->setPositions(positions);
+    geometry->setIndices(indices);
+    return geometry;
+}
+
+osg::NodePtr nodeFor(const osg::GeometryPtr& geometry)
+{
+    return geometry == osg::NullFC ? osg::NodePtr() : osg::makeNodeFor(geometry);
+}
+
+}  // namespace
+
+osg::NodePtr nbGeoFactory::makeLine(float length)
+{
+    return nodeFor(makeLineGeo(length));
+}
+
+osg::GeometryPtr nbGeoFactory::makeLineGeo(float length)
+{
+    if (!(length > 0.f)) {
+        return osg::NullFC;
+    }
+    return lineSet({ osg::Pnt3f(0.f, -0.5f * length, 0.f), osg::Pnt3f(0.f, 0.5f * length, 0.f) },
+                   { 0, 1 });
+}
+
+osg::NodePtr nbGeoFactory::makeLineTorus(float radius, osg::UInt16 segments, bool dashed)
+{
+    return nodeFor(makeLineTorusGeo(radius, segments, dashed));
+}
+
+osg::GeometryPtr nbGeoFactory::makeLineTorusGeo(float radius, osg::UInt16 segments, bool dashed)
+{
+    if (!(radius > 0.f) || segments < 3) {
+        return osg::NullFC;
+    }
+    constexpr double kFullTurn = 2.0 * 3.14159265358979323846;
+    std::vector<osg::Pnt3f> points;
+    std::vector<osg::UInt32> pointIndices;
+    for (osg::UInt32 i = 0; i < segments; ++i) {
+        const double angle = kFullTurn * i / segments;
+        points.emplace_back(static_cast<float>(radius * std::cos(angle)), 0.f,
+                            static_cast<float>(radius * std::sin(angle)));
+        if (!dashed || i % 2 == 0) {
+            pointIndices.push_back(i);
+            pointIndices.push_back((i + 1) % segments);
+        }
+    }
+    return lineSet(points, pointIndices);
+}

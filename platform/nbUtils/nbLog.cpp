@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#include <nbUtils/nbLog.h>
+
+#include <cstdio>
+#include <utility>
+
+namespace {
+
+struct LogState
+{
+    nbLog::Sink sink;
+    nbLog::Level level = nbLog::Level::Info;
+    bool insideSink = false;
+};
+
+/// Made on first use, so that static objects of other sources can log; never destroyed, so that
+/// their destructors can too.
+LogState& state()
+{
+    static LogState* const theState = new LogState;
+    return *theState;
+}
+
+void writeToStandardError(nbLog::Level level, const std::string& text)
+{
+    std::fprintf(stderr, "%s: %s\n", nbLog::getLevelName(level), text.c_str());
+}
+
+/// Marks that the sink runs, so that its own entries do not come back to it.
+class SinkRun
+{
+public:
+    SinkRun() { state().insideSink = true; }
+
+    SinkRun(const SinkRun&) = delete;
+    SinkRun& operator=(const SinkRun&) = delete;
+
+    ~SinkRun() { state().insideSink = false; }
+};
+
+}  // namespace
+
+void nbLog::write(Level level, const std::string& text)
+{
+    if (level < state().level) {
+        return;
+    }
+    if (!state().sink || state().insideSink) {
+        writeToStandardError(level, text);
+        return;
+    }
+    const Sink current = state().sink;  // the sink may replace itself while it runs
+    const SinkRun run;
+    try {
+        current(level, text);
+    } catch (...) {
+        writeToStandardError(level, text);
+    }
+}
+
+void nbLog::write(Level level, const char* text)
+{
+    if (level >= state().level) {
+        write(level, std::string(text == nullptr ? "" : text));
+    }
+}
+
+nbLog::Sink nbLog::setSink(Sink sink)
+{
+    return std::exchange(state().sink, std::move(sink));
+}
+
+void nbLog::setLevel(Level level)
+{
+    state().level = level;
+}
+
+nbLog::Level nbLog::getLevel()
+{
+    return state().level;
+}
+
+const char* nbLog::getLevelName(Level level)
+{
+    switch (level) {
+    case Level::Debug:
+        return "debug";
+    case Level::Info:
+        return "info";
+    case Level::Warning:
+        return "warning";
+    case Level::Error:
+        break;
+    }
+    return "error";
+}

@@ -1,0 +1,195 @@
+// SPDX-License-Identifier: MIT
+#include "manipulator/CameraManipulator.h"
+
+#include "tests/manipulator/support/GizmoScene.h"
+
+#include <nbKernel/nbScenegraph.h>
+#include <nbOpenSGExt/Transform3D.h>
+#include <nbOpenSGUberCamera/UberCamera.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
+
+#include <OpenSG/OSGContainerCensus.h>
+#include <OpenSG/OSGGeometry.h>
+#include <OpenSG/OSGMaterialGroup.h>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <memory>
+
+namespace nbec::manipulator::test {
+
+namespace {
+
+class CameraManipulatorTest : public testing::Test
+{
+protected:
+    void SetUp() override { scene.install(cross); }
+
+    osg::NodePtr transformNode() { return cross.getVisualisation()->getChild(1)->getChild(0); }
+
+    osg::Transform3DPtr placement()
+    {
+        return osg::Transform3DPtr::dcast(transformNode()->getCore());
+    }
+
+    /// Perspective camera of a field of view, its pivot at the origin, looking along -z from a
+    /// distance.
+    void setCamera(float fovDeg, float distance)
+    {
+        const osg::UberCameraPtr camera = scene.widget.getUberCamera();
+        camera->setFromAtUp(osg::Pnt3f(0, 0, distance), osg::Pnt3f(0, 0, 0), osg::Vec3f(0, 1, 0));
+        osg::beginEditCP(camera);
+        camera->setFov(fovDeg);
+        camera->setPivot(osg::Pnt3f(0, 0, 0));
+        osg::endEditCP(camera);
+    }
+
+    GizmoScene scene;
+    CameraManipulator cross;
+};
+
+}  // namespace
+
+TEST_F(CameraManipulatorTest, TreeReadsAsThatOfTheTransformGizmo)
+{
+    const osg::NodePtr root = cross.getVisualisation();
+    EXPECT_EQ(nbNodeUtils::getName(root), "Manipulatorgroup");
+    EXPECT_EQ(cross.getCollider(), root);
+    EXPECT_TRUE(nbNodeUtils::isAuxiliaryNode(root));
+    EXPECT_TRUE(nbNodeUtils::isSelectableAuxiliaryNode(root));
+    EXPECT_TRUE(nbNodeUtils::isManipulatorNode(root));
+    ASSERT_EQ(root->getNChildren(), 2U);
+    const osg::Int32 sortKeys[] = { 64015, 64017 };
+    for (osg::UInt32 i = 0; i < 2; ++i) {
+        EXPECT_EQ(nbNodeUtils::getName(root->getChild(i)), "ManipulatorDepthPassMaterialGroup");
+        const auto group = osg::MaterialGroupPtr::dcast(root->getChild(i)->getCore());
+        EXPECT_EQ(group->getMaterial()->getSortKey(), sortKeys[i]);
+    }
+    const auto line = osg::GeometryPtr::dcast(transformNode()->getChild(0)->getCore());
+    ASSERT_EQ(line->getPositions()->getSize(), 6U);
+    EXPECT_EQ(line->getPositions()->getValue(0), osg::Pnt3f(-0.25F, 0, 0));
+    EXPECT_EQ(line->getPositions()->getValue(5), osg::Pnt3f(0, 0, 0.25F));
+    EXPECT_EQ(colorOf(transformNode()->getChild(0)), "1 0.5 0");
+}
+
+TEST_F(CameraManipulatorTest, ShowsExactlyWhileBoundToALiveNode)
+{
+    EXPECT_FALSE(isShown(transformNode()));
+    cross.setNode(scene.node);
+    EXPECT_TRUE(isShown(transformNode()));
+    cross.setNode(osg::NodePtr());
+    EXPECT_FALSE(isShown(transformNode()));
+
+    cross.setNode(scene.node);
+    scene.manager.removeContext(&scene.context);
+    nbScenegraph::getRootNode()->subChild(scene.node);
+    setCamera(30.0F, 100.0F);
+    scene.manager.addContext(&scene.context);
+    EXPECT_FALSE(isShown(transformNode())) << "a destroyed node reads as none";
+}
+
+TEST_F(CameraManipulatorTest, StandsAtThePivotInConstantSize)
+{
+    setCamera(1.0F, 672.0F);
+    cross.setNode(scene.node);
+    EXPECT_NEAR(placement()->getScale().x(), 1.0F, 1e-6F);
+
+    setCamera(1.0F, 336.0F);
+    cross.update(false);
+    EXPECT_NEAR(placement()->getScale().z(), 0.5F, 1e-6F);
+
+    const osg::UberCameraPtr camera = scene.widget.getUberCamera();
+    osg::beginEditCP(camera);
+    camera->setOrthographic(true);
+    camera->setPivot(osg::Pnt3f(1, 2, 3));
+    osg::endEditCP(camera);
+    CameraManipulator::updateAllManipulators();
+    EXPECT_NEAR(placement()->getScale().x(), camera->getNearPlaneDiagonal() / 20, 1e-6F);
+    EXPECT_TRUE(placement()->getTranslation().equals(osg::Vec3f(1, 2, 3), 1e-6F));
+}
+
+TEST_F(CameraManipulatorTest, AnOrthographicViewThatIsResizedIsNoticed)
+{
+    const osg::UberCameraPtr camera = scene.widget.getUberCamera();
+    osg::beginEditCP(camera);
+    camera->setOrthographic(true);
+    osg::endEditCP(camera);
+    cross.setNode(scene.node);
+    const float before = placement()->getScale().x();
+
+    scene.widget.resize(800, 200);
+    cross.update(false);
+
+    // Deliberate: eye, pivot and field of view are what the placement itself compares, so a new
+    // aspect alone does not resize the cross before one of them changes.
+    EXPECT_FLOAT_EQ(placement()->getScale().x(), before);
+    camera->setFromAtUp(osg::Pnt3f(0, 0, 11), osg::Pnt3f(0, 0, 0), osg::Vec3f(0, 1, 0));
+    cross.update(false);
+    EXPECT_NEAR(placement()->getScale().x(), camera->getNearPlaneDiagonal() / 20, 1e-6F);
+}
+
+TEST_F(CameraManipulatorTest, SizeOfTwoHundredIsNotGuarded)
+{
+    CameraManipulator::setManipulatorSize(200.0F);
+    setCamera(45.0F, 12.0F);
+    cross.setNode(scene.node);
+    CameraManipulator::setManipulatorSize(32.0F);
+
+    EXPECT_FALSE(std::isfinite(placement()->getScale().x()));
+}
+
+TEST_F(CameraManipulatorTest, TakesNoDragAndNoHover)
+{
+    cross.setNode(scene.node);
+    const osg::Pnt2f centre(400, 300);
+
+    EXPECT_FALSE(scene.send("hover", centre));
+    EXPECT_FALSE(scene.send("start", centre));
+    EXPECT_FALSE(cross.processManipulator(&scene.context, "select"));
+    EXPECT_FALSE(cross.stopManipulator(&scene.context, "select"));
+    EXPECT_TRUE(cross.resetManipulator(&scene.context, "select"));
+    EXPECT_EQ(scene.picker.getFilter(), 0) << "the picker is left at the scene";
+}
+
+TEST(CameraManipulator, ModesAreComparedExactly)
+{
+    CameraManipulator cross;
+    EXPECT_FALSE(cross.setManipulatorMode("tool"));
+    EXPECT_TRUE(cross.setManipulatorMode("precisionTool"));
+    EXPECT_TRUE(cross.setManipulatorMode(""));
+    EXPECT_FALSE(cross.setManipulatorMode("Tool"));
+}
+
+TEST(CameraManipulator, DestroyingOneLeavesTheOthersFollowing)
+{
+    GizmoScene scene;
+    CameraManipulator first;
+    auto second = std::make_unique<CameraManipulator>();
+    CameraManipulator third;
+    const CameraManipulator copy(third);
+    scene.install(third);
+    third.setNode(scene.node);
+    second.reset();
+
+    scene.widget.getUberCamera()->setFromAtUp(osg::Pnt3f(0, 0, 30), osg::Pnt3f(0, 0, 0),
+                                              osg::Vec3f(0, 1, 0));
+    CameraManipulator::updateAllManipulators();
+
+    for (CameraManipulator* cross : { &first, &third }) {
+        const osg::NodePtr transform = cross->getVisualisation()->getChild(1)->getChild(0);
+        EXPECT_GT(osg::Transform3DPtr::dcast(transform->getCore())->getScale().x(), 1.5F);
+    }
+}
+
+TEST(CameraManipulator, ConstructionAndDestructionLeaveNothing)
+{
+    const osg::ContainerCensus before = osg::ContainerCensus::take();
+    {
+        const CameraManipulator cross;
+        const CameraManipulator copy(cross);
+    }
+    EXPECT_EQ(osg::ContainerCensus::take().differenceTo(before), "");
+}
+
+}  // namespace nbec::manipulator::test

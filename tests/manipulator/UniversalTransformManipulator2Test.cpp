@@ -1,0 +1,525 @@
+// SPDX-License-Identifier: MIT
+#include "manipulator/UniversalTransformManipulator2.h"
+
+#include "tests/manipulator/support/GizmoScene.h"
+
+#include <nbKernel/nbScenegraph.h>
+#include <nbOpenSGExt/Transform3D.h>
+#include <nbOpenSGUberCamera/UberCamera.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
+
+#include <OpenSG/OSGChangeCount.h>
+#include <OpenSG/OSGComponentTransform.h>
+#include <OpenSG/OSGContainerCensus.h>
+#include <OpenSG/OSGGeometry.h>
+#include <OpenSG/OSGLineChunk.h>
+#include <OpenSG/OSGMaterialGroup.h>
+#include <OpenSG/OSGSimpleAttachments.h>
+#include <OpenSG/OSGSimpleMaterial.h>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <functional>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace nbec::manipulator::test {
+
+namespace {
+
+using Gizmo = UniversalTransformManipulator2;
+using Mode = Gizmo::ManipulatorMode;
+
+/// Scale of a gizmo 10 units from the eye under 45 degrees with size 32: 10 / (0.84 * 800 / 45).
+constexpr float kScaleAtTen = 10.0F * 45.0F / 672.0F;
+constexpr float kTolerance = 1e-4F;
+constexpr const char* kOrange = "1 0.5 0";
+
+const std::vector<std::string> kAllNames = { "xaShape", "yaShape", "zaShape",  "xsShape",
+                                             "ysShape", "zsShape", "grid",     "rxShape",
+                                             "ryShape", "rzShape", "xyaShape", "xzaShape",
+                                             "yzaShape" };
+
+osg::DynamicVolume worldVolumeOf(const osg::NodePtr& node)
+{
+    osg::DynamicVolume volume;
+    node->updateVolume();
+    node->getWorldVolume(volume);
+    return volume;
+}
+
+void forEachNode(const osg::NodePtr& tree, const std::function<void(const osg::NodePtr&)>& visit)
+{
+    visit(tree);
+    for (osg::UInt32 i = 0; i < tree->getNChildren(); ++i) {
+        forEachNode(tree->getChild(i), visit);
+    }
+}
+
+/// Geometry nodes below a handle's node, in tree order.
+std::vector<osg::NodePtr> partsOf(const osg::NodePtr& handle)
+{
+    std::vector<osg::NodePtr> parts;
+    forEachNode(handle, [&parts](const osg::NodePtr& node) {
+        if (osg::GeometryPtr::dcast(node->getCore()) != osg::NullFC) {
+            parts.push_back(node);
+        }
+    });
+    return parts;
+}
+
+class UniversalTransformManipulator2Test : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        gizmo.setNode(scene.node);
+        scene.install(gizmo);
+    }
+
+    osg::NodePtr root() { return gizmo.getVisualisation(); }
+
+    osg::NodePtr handle(const std::string& name) { return findNode(root(), name); }
+
+    /// World position of a point in the gizmo's unit frame.
+    osg::Pnt3f at(float x, float y, float z) const
+    {
+        return osg::Pnt3f(x * kScaleAtTen, y * kScaleAtTen, z * kScaleAtTen);
+    }
+
+    std::set<std::string> shownHandles()
+    {
+        std::set<std::string> shown;
+        for (const std::string& name : kAllNames) {
+            if (isShown(handle(name))) {
+                shown.insert(name);
+            }
+        }
+        return shown;
+    }
+
+    GizmoScene scene;
+    Gizmo gizmo;
+};
+
+}  // namespace
+
+TEST_F(UniversalTransformManipulator2Test, RootHoldsMarksCopyExtrasAndHandlesInThisOrder)
+{
+    ASSERT_EQ(nbNodeUtils::getName(root()), "Manipulatorgroup");
+    ASSERT_EQ(root()->getNChildren(), 4U);
+    EXPECT_TRUE(nbNodeUtils::isAuxiliaryNode(root()));
+    EXPECT_TRUE(nbNodeUtils::isSelectableAuxiliaryNode(root()));
+    EXPECT_TRUE(nbNodeUtils::isManipulatorNode(root()));
+    EXPECT_EQ(gizmo.getCollider(), root());
+
+    const osg::Int32 sortKeys[] = { 0, 64015, 0, 64017 };
+    for (const osg::UInt32 pass : { 1U, 3U }) {
+        const osg::NodePtr group = root()->getChild(pass);
+        EXPECT_EQ(nbNodeUtils::getName(group), "ManipulatorDepthPassMaterialGroup");
+        const osg::MaterialGroupPtr core = osg::MaterialGroupPtr::dcast(group->getCore());
+        ASSERT_NE(core, osg::NullFC);
+        EXPECT_EQ(core->getMaterial()->getSortKey(), sortKeys[pass]);
+    }
+
+    int unnamed = 0;
+    forEachNode(root()->getChild(1)->getChild(0), [&unnamed](const osg::NodePtr& node) {
+        EXPECT_EQ(osg::getName(node), nullptr) << "the copy must bear no names";
+        ++unnamed;
+    });
+    int all = 0;
+    forEachNode(root()->getChild(3)->getChild(0), [&all](const osg::NodePtr&) { ++all; });
+    EXPECT_EQ(unnamed, all);
+    for (const std::string& name : kAllNames) {
+        const osg::NodePtr named = handle(name);
+        ASSERT_NE(named, osg::NullFC) << name;
+        for (const osg::NodePtr& part : partsOf(named)) {
+            EXPECT_EQ(nbNodeUtils::getName(part), name);
+        }
+    }
+}
+
+TEST_F(UniversalTransformManipulator2Test, HandlesHaveTheirPlacesAndColours)
+{
+    struct Row
+    {
+        const char* name;
+        std::vector<std::string> colors;
+        osg::Pnt3f lastPartCentre;  ///< unit frame
+    };
+
+    const std::vector<Row> rows = {
+        { "xaShape", { "1 0 0", "1 0 0" }, osg::Pnt3f(2, 0, 0) },
+        { "yaShape", { "0 1 0", "0 1 0" }, osg::Pnt3f(0, 2, 0) },
+        { "zaShape", { "0 0 1", "0 0 1" }, osg::Pnt3f(0, 0, 2) },
+        { "xsShape", { "1 0 0", "1 0 0" }, osg::Pnt3f(1.5F, 0, 0) },
+        { "ysShape", { "0 1 0", "0 1 0" }, osg::Pnt3f(0, 1.5F, 0) },
+        { "zsShape", { "0 0 1", "0 0 1" }, osg::Pnt3f(0, 0, 1.5F) },
+        { "grid", { "1 1 0" }, osg::Pnt3f(0, 0, 0) },
+        { "xyaShape", { "0 1 0", "1 0 0", "0 1 0" }, osg::Pnt3f(0.4F, 0.2F, 0) },
+        { "xzaShape", { "0 0 1", "1 0 0", "1 0 0" }, osg::Pnt3f(0.4F, 0, 0.2F) },
+        { "yzaShape", { "0 1 0", "0 0 1", "0 0 1" }, osg::Pnt3f(0, 0.2F, 0.4F) },
+    };
+    gizmo.activateUniversalManipulator();
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        const std::vector<osg::NodePtr> parts = partsOf(handle(row.name));
+        ASSERT_EQ(parts.size(), row.colors.size());
+        for (std::size_t i = 0; i < parts.size(); ++i) {
+            EXPECT_EQ(colorOf(parts[i]), row.colors[i]);
+        }
+        osg::Pnt3f centre;
+        worldVolumeOf(parts.back()).getCenter(centre);
+        EXPECT_TRUE(centre.equals(row.lastPartCentre * kScaleAtTen, kTolerance)) << centre;
+    }
+    osg::Pnt3f low;
+    osg::Pnt3f high;
+    worldVolumeOf(partsOf(handle("xaShape"))[1]).getBounds(low, high);
+    EXPECT_NEAR(high.x(), 2.2F * kScaleAtTen, kTolerance)
+        << "the tip, half the cone beyond its centre";
+    worldVolumeOf(partsOf(handle("xaShape"))[0]).getBounds(low, high);
+    EXPECT_NEAR(low.x(), 0.0F, kTolerance);
+    EXPECT_NEAR(high.x(), 2.0F * kScaleAtTen, kTolerance);
+    worldVolumeOf(partsOf(handle("rxShape"))[0]).getBounds(low, high);
+    EXPECT_NEAR(high.x() - low.x(), 0.0F, kTolerance) << "the x ring lies in the yz plane";
+    EXPECT_NEAR(high.y(), 1.5F * kScaleAtTen, kTolerance);
+    EXPECT_NEAR(high.z(), 1.5F * kScaleAtTen, kTolerance);
+}
+
+TEST_F(UniversalTransformManipulator2Test, LineMaterialsSortBeforeSolidOnesExceptTheHighlight)
+{
+    gizmo.activateUniversalManipulator();
+    scene.hover(at(2.1F, 0, 0));
+    int lines = 0;
+    forEachNode(root()->getChild(3), [&lines](const osg::NodePtr& node) {
+        const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(node->getCore());
+        if (geometry == osg::NullFC) {
+            return;
+        }
+        const auto material = osg::SimpleMaterialPtr::dcast(geometry->getMaterial());
+        const auto line = osg::LineChunkPtr::dcast(material->find(osg::LineChunk::getClassType()));
+        const bool isPlainLine = line != osg::NullFC && colorOf(node) != kOrange;
+        EXPECT_EQ(material->getSortKey(), isPlainLine ? 64015 : 64016);
+        EXPECT_FALSE(material->getLit());
+        EXPECT_EQ(material->getMFChunks()->size(), line != osg::NullFC ? 3U : 0U);
+        if (line != osg::NullFC) {
+            EXPECT_FLOAT_EQ(line->getWidth(), 2.0F);
+            EXPECT_TRUE(line->getSmooth());
+            ++lines;
+        }
+    });
+    EXPECT_EQ(lines, 3 + 3 + 6) << "shafts of arrows and scale handles, rings and their axes";
+}
+
+TEST_F(UniversalTransformManipulator2Test, EachModeShowsItsFamilies)
+{
+    const std::set<std::string> arrows = { "xaShape", "yaShape", "zaShape" };
+    const std::set<std::string> planes = { "xyaShape", "xzaShape", "yzaShape" };
+    const std::set<std::string> rings = { "rxShape", "ryShape", "rzShape" };
+    const std::set<std::string> scales = { "xsShape", "ysShape", "zsShape" };
+    const auto join = [](std::initializer_list<std::set<std::string>> sets) {
+        std::set<std::string> all;
+        for (const auto& set : sets) {
+            all.insert(set.begin(), set.end());
+        }
+        return all;
+    };
+
+    struct Row
+    {
+        void (Gizmo::*activate)();
+        Mode mode;
+        std::set<std::string> shown;
+        bool sphere, cube;
+    };
+
+    const std::vector<Row> rows = {
+        { &Gizmo::activateUniversalManipulator, Mode::Universal,
+          join({ arrows, planes, rings, scales, { "grid" } }), false, false },
+        { &Gizmo::activateTranslateManipulator, Mode::Translate, join({ arrows, planes }), false,
+          false },
+        { &Gizmo::activateScaleManipulator, Mode::Scale, join({ scales, { "grid" } }), false,
+          false },
+        { &Gizmo::activateRotateManipulator, Mode::Rotate, rings, false, false },
+        { &Gizmo::activateRotatePivotManipulator, Mode::RotatePivot,
+          join({ arrows, planes, rings }), true, false },
+        { &Gizmo::activateScalePivotManipulator, Mode::ScalePivot, join({ arrows, planes }), false,
+          true },
+        { &Gizmo::activateClippingManipulator, Mode::Clipping, join({ arrows, planes, rings }),
+          false, false },
+        { &Gizmo::activateTranslateRotateManipulator, Mode::TranslateRotate,
+          join({ arrows, planes, rings }), false, false },
+        { &Gizmo::activateTranslateRotateYZManipulator, Mode::TranslateRotateYZ,
+          join({ arrows, planes, { "ryShape", "rzShape" } }), false, false },
+        { &Gizmo::activateTranslateRotateScaleManipulator, Mode::TranslateRotateScale,
+          join({ arrows, planes, rings, scales }), false, false },
+    };
+    EXPECT_EQ(gizmo.getMode(), Mode::Translate) << "after construction";
+    const osg::NodePtr tree = root()->getChild(3)->getChild(0);
+    const osg::NodePtr copy = root()->getChild(1)->getChild(0);
+    for (const Row& row : rows) {
+        SCOPED_TRACE(static_cast<int>(row.mode));
+        (gizmo.*row.activate)();
+        EXPECT_EQ(gizmo.getMode(), row.mode);
+        EXPECT_EQ(shownHandles(), row.shown);
+        const osg::UInt32 last = tree->getNChildren() - 1;
+        EXPECT_EQ(tree->getChild(last - 1)->getActive(), row.sphere);
+        EXPECT_EQ(tree->getChild(last)->getActive(), row.cube);
+        for (osg::UInt32 i = 0; i <= last; ++i) {
+            EXPECT_EQ(copy->getChild(i)->getActive(), tree->getChild(i)->getActive());
+        }
+        EXPECT_FALSE(isShown(partsOf(handle("rxShape"))[1]))
+            << "a ring's axis shows in its drag only";
+    }
+}
+
+TEST_F(UniversalTransformManipulator2Test, KeepsItsSizeOnScreen)
+{
+    const auto scaleOf = [this] {
+        return osg::Transform3DPtr::dcast(root()->getChild(3)->getChild(0)->getCore())->getScale();
+    };
+    gizmo.update(true);
+    EXPECT_NEAR(scaleOf().x(), kScaleAtTen, 1e-6F);
+
+    const osg::UberCameraPtr camera = scene.widget.getUberCamera();
+    camera->setFromAtUp(osg::Pnt3f(0, 0, 20), osg::Pnt3f(0, 0, 0), osg::Vec3f(0, 1, 0));
+    gizmo.update(false);
+    EXPECT_NEAR(scaleOf().x(), kScaleAtTen, 1e-6F) << "update(false) does not look at the camera";
+    Gizmo::updateAllManipulators();
+    EXPECT_NEAR(scaleOf().x(), 2 * kScaleAtTen, 1e-6F);
+
+    osg::beginEditCP(camera, osg::UberCamera::OrthographicFieldMask);
+    camera->setOrthographic(true);
+    osg::endEditCP(camera, osg::UberCamera::OrthographicFieldMask);
+    Gizmo::updateAllManipulators();
+    const double height = 2 * 20 * std::tan(22.5 * 3.14159265358979 / 180);
+    const double width = height * 800 / 600;
+    EXPECT_NEAR(scaleOf().y(), std::sqrt(width * width + height * height) / 20, 1e-4);
+}
+
+TEST_F(UniversalTransformManipulator2Test, FollowsTheNodeAndCostsNothingWhileItRests)
+{
+    gizmo.activateUniversalManipulator();
+    gizmo.update(false);
+    const osg::NodePtr tree = root()->getChild(3)->getChild(0);
+    const osg::UInt32 edits = osg::getChangeCount(tree->getCore());
+    gizmo.update(false);
+    EXPECT_EQ(osg::getChangeCount(tree->getCore()), edits);
+
+    const osg::Transform3DPtr transform = osg::Transform3DPtr::dcast(scene.node->getCore());
+    osg::beginEditCP(transform);
+    transform->setTranslation(osg::Vec3f(1, 2, 3));
+    transform->setRotatePivot(osg::Vec3f(0, 0, 1));
+    transform->setScalePivot(osg::Vec3f(1, 0, 1));
+    transform->setRotation(osg::Vec3f(0, 0, 90));
+    osg::endEditCP(transform);
+    gizmo.update(false);
+    osg::Pnt3f origin;
+    tree->getToWorld().multMatrixPnt(origin);
+    EXPECT_TRUE(origin.equals(osg::Pnt3f(1, 2, 4), kTolerance)) << origin;
+
+    gizmo.activateScalePivotManipulator();
+    origin = osg::Pnt3f();
+    tree->getToWorld().multMatrixPnt(origin);
+    EXPECT_TRUE(origin.equals(osg::Pnt3f(1, 3, 4), kTolerance)) << origin;
+}
+
+TEST_F(UniversalTransformManipulator2Test, StandsAtTheCentreOfWhatIsNoTransformYet)
+{
+    const osg::NodePtr box = scene.node->getChild(0);
+    const osg::Transform3DPtr transform = osg::Transform3DPtr::dcast(scene.node->getCore());
+    osg::beginEditCP(transform);
+    transform->setTranslation(osg::Vec3f(0, -3, 0));
+    osg::endEditCP(transform);
+
+    gizmo.setNode(box);
+
+    osg::Pnt3f origin;
+    root()->getChild(3)->getChild(0)->getToWorld().multMatrixPnt(origin);
+    EXPECT_TRUE(origin.equals(osg::Pnt3f(0, -3, 0), kTolerance)) << origin;
+}
+
+TEST_F(UniversalTransformManipulator2Test, LocalSpaceTurnsTheGizmoWithTheNode)
+{
+    const osg::Transform3DPtr transform = osg::Transform3DPtr::dcast(scene.node->getCore());
+    osg::beginEditCP(transform);
+    transform->setRotation(osg::Vec3f(0, 0, 90));
+    transform->setScale(osg::Vec3f(1, 5, 1));
+    osg::endEditCP(transform);
+
+    Gizmo::setLocalSpaceManipulator(true);
+    gizmo.update(true);
+    osg::Vec3f x(1, 0, 0);
+    root()->getChild(3)->getChild(0)->getToWorld().multMatrixVec(x);
+    Gizmo::setLocalSpaceManipulator(false);
+
+    EXPECT_TRUE(x.equals(osg::Vec3f(0, kScaleAtTen, 0), kTolerance)) << x;
+}
+
+TEST_F(UniversalTransformManipulator2Test, HoverLightsUpTheHandleUnderThePointer)
+{
+    struct Row
+    {
+        const char* name;
+        osg::Pnt3f unitPoint;
+    };
+
+    // Seen from a corner, so that no two of these points meet on screen.
+    scene.widget.getUberCamera()->setFromAtUp(osg::Pnt3f(5, 6, 7), osg::Pnt3f(0, 0, 0),
+                                              osg::Vec3f(0, 1, 0));
+    const float half = 1.5F * 0.70710678F;
+    const std::vector<Row> rows = {
+        { "xaShape", osg::Pnt3f(2, 0, 0) },
+        { "yaShape", osg::Pnt3f(0, 2, 0) },
+        { "zaShape", osg::Pnt3f(0, 0, 2) },
+        { "xsShape", osg::Pnt3f(1.5F, 0, 0) },
+        { "ysShape", osg::Pnt3f(0, 1.5F, 0) },
+        { "zsShape", osg::Pnt3f(0, 0, 1.5F) },
+        { "grid", osg::Pnt3f(0, 0, 0) },
+        { "rxShape", osg::Pnt3f(0, half, half) },
+        { "ryShape", osg::Pnt3f(half, 0, half) },
+        { "rzShape", osg::Pnt3f(half, half, 0) },
+        { "xyaShape", osg::Pnt3f(0.25F, 0.25F, 0) },
+        { "xzaShape", osg::Pnt3f(0.25F, 0, 0.25F) },
+        { "yzaShape", osg::Pnt3f(0, 0.25F, 0.25F) },
+    };
+    for (const bool orthographic : { false, true }) {
+        const osg::UberCameraPtr camera = scene.widget.getUberCamera();
+        osg::beginEditCP(camera, osg::UberCamera::OrthographicFieldMask);
+        camera->setOrthographic(orthographic);
+        osg::endEditCP(camera, osg::UberCamera::OrthographicFieldMask);
+        gizmo.activateUniversalManipulator();
+        const float scale =
+            osg::Transform3DPtr::dcast(root()->getChild(3)->getChild(0)->getCore())->getScale().x();
+        for (const Row& row : rows) {
+            SCOPED_TRACE(std::string(row.name) +
+                         (orthographic ? ", orthographic" : ", perspective"));
+            EXPECT_TRUE(scene.hover(row.unitPoint * scale));
+            EXPECT_FALSE(nbScenegraph::isPreselectionEnabled());
+            for (const std::string& name : kAllNames) {
+                for (const osg::NodePtr& part : partsOf(handle(name))) {
+                    EXPECT_EQ(colorOf(part) == kOrange, name == row.name) << name;
+                }
+            }
+        }
+        EXPECT_FALSE(scene.send("hover", osg::Pnt2f(5, 5)));
+        EXPECT_TRUE(nbScenegraph::isPreselectionEnabled());
+        EXPECT_EQ(colorOf(partsOf(handle("yzaShape"))[0]), "0 1 0");
+    }
+}
+
+TEST_F(UniversalTransformManipulator2Test, HoveringTheSameHandleAgainEditsNothing)
+{
+    scene.hover(at(2, 0, 0));
+    const osg::UInt64 edits = osg::getTreeChangeCount(root());
+
+    EXPECT_TRUE(scene.hover(at(2.02F, 0, 0)));
+
+    EXPECT_EQ(osg::getTreeChangeCount(root()), edits);
+}
+
+TEST_F(UniversalTransformManipulator2Test, GrabbingHidesTheOtherHandlesUntilItStops)
+{
+    gizmo.activateRotateManipulator();
+    scene.widget.getUberCamera()->setFromAtUp(osg::Pnt3f(6, 0, 8), osg::Pnt3f(0, 0, 0),
+                                              osg::Vec3f(0, 1, 0));
+    const float half = 1.5F * 0.70710678F;
+    const osg::Pnt2f onRing = scene.pixelOf(at(half, half, 0));
+
+    ASSERT_TRUE(scene.send("start", onRing));
+    EXPECT_EQ(shownHandles(), std::set<std::string> { "rzShape" });
+    EXPECT_TRUE(isShown(partsOf(handle("rzShape"))[1])) << "the axis of the grabbed ring shows";
+    EXPECT_EQ(colorOf(partsOf(handle("rzShape"))[0]), kOrange);
+    EXPECT_TRUE(gizmo.hoverManipulator(&scene.context, "select")) << "the grabbed handle stays hot";
+
+    EXPECT_TRUE(scene.send("stop", onRing));
+    EXPECT_EQ(shownHandles(), (std::set<std::string> { "rxShape", "ryShape", "rzShape" }));
+    EXPECT_FALSE(isShown(partsOf(handle("rzShape"))[1]));
+    EXPECT_EQ(colorOf(partsOf(handle("rzShape"))[0]), "0 0 1");
+}
+
+TEST_F(UniversalTransformManipulator2Test, NothingIsGrabbedBesideTheHandlesOrWithoutANode)
+{
+    EXPECT_FALSE(scene.send("start", osg::Pnt2f(5, 5)));
+    EXPECT_FALSE(gizmo.processManipulator(&scene.context, "select"));
+    EXPECT_FALSE(gizmo.stopManipulator(&scene.context, "select"));
+    EXPECT_EQ(shownHandles().size(), 6U);
+
+    gizmo.setNode(osg::NodePtr());
+    EXPECT_TRUE(shownHandles().empty());
+    EXPECT_FALSE(scene.hover(at(2, 0, 0)));
+    EXPECT_FALSE(scene.send("start", scene.pixelOf(at(2, 0, 0))));
+}
+
+TEST_F(UniversalTransformManipulator2Test, ANodeThatIsDestroyedReadsAsNone)
+{
+    nbScenegraph::getRootNode()->subChild(scene.node);
+    ASSERT_EQ(gizmo.getNode(), osg::NullFC);
+
+    gizmo.update(true);
+    EXPECT_FALSE(scene.hover(at(2, 0, 0)));
+    gizmo.activateScaleManipulator();
+    gizmo.showActiveManipulator();
+    EXPECT_TRUE(shownHandles().empty());
+}
+
+TEST_F(UniversalTransformManipulator2Test, TheTreeHangsUnderTheRootOnlyWhileActive)
+{
+    const osg::NodePtr internal = nbScenegraph::getInternalRoot();
+    EXPECT_GE(internal->findChild(root()), 0);
+    scene.hover(at(2, 0, 0));
+
+    scene.manager.removeContext(&scene.context);
+
+    EXPECT_EQ(internal->findChild(root()), -1);
+    EXPECT_TRUE(nbScenegraph::isPreselectionEnabled());
+    EXPECT_EQ(colorOf(partsOf(handle("xaShape"))[1]), "1 0 0") << "the highlight goes with it";
+}
+
+TEST(UniversalTransformManipulator2, ModesSwitchTemporarySnapping)
+{
+    Gizmo gizmo;
+    EXPECT_TRUE(gizmo.setManipulatorMode("precisionTool"));
+    EXPECT_FALSE(gizmo.setManipulatorMode("tool"));
+    EXPECT_TRUE(gizmo.setManipulatorMode(""));
+    EXPECT_FALSE(gizmo.setManipulatorMode("Tool"));
+    EXPECT_FALSE(gizmo.setManipulatorMode("precisiontool"));
+}
+
+TEST(UniversalTransformManipulator2, ConstructionAndDestructionLeaveNothing)
+{
+    {
+        const Gizmo first;
+    }  // makes the geometry that all gizmos share
+    const osg::ContainerCensus before = osg::ContainerCensus::take();
+    {
+        Gizmo gizmo;
+        gizmo.activateUniversalManipulator();
+        Gizmo::setManipulatorSize(40.0F);
+        Gizmo::setManipulatorSize(32.0F);
+    }
+    Gizmo::updateAllManipulators();
+    EXPECT_EQ(osg::ContainerCensus::take().differenceTo(before), "");
+}
+
+TEST(UniversalTransformManipulator2, ANewSizeReachesTheSharedInstanceAtOnceAndOthersLater)
+{
+    GizmoScene scene;
+    Gizmo gizmo;
+    gizmo.setNode(scene.node);
+    scene.install(gizmo);
+    const osg::NodePtr tree = gizmo.getVisualisation()->getChild(3)->getChild(0);
+    const auto scaleOf = [&tree] {
+        return osg::Transform3DPtr::dcast(tree->getCore())->getScale().x();
+    };
+
+    Gizmo::setManipulatorSize(100.0F);
+    EXPECT_NEAR(scaleOf(), kScaleAtTen, 1e-6F);
+    Gizmo::updateAllManipulators();
+    EXPECT_NEAR(scaleOf(), 10.0F / (0.5F * 800.0F / 45.0F), 1e-5F);
+    Gizmo::setManipulatorSize(32.0F);
+}
+
+}  // namespace nbec::manipulator::test

@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#include "manipulator/ManipulatorInteractionContext.h"
+#include "manipulator/UniversalTransformManipulator2.h"
+#include "tests/platform/support/VirtualSlot.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace nbec::manipulator::test {
+
+using nbtest::virtualSlot;
+
+TEST(VirtualTable, ManipulatorOperationsTakeTheSlotsZeroToFifteen)
+{
+    const std::vector<std::ptrdiff_t> slots = { virtualSlot(&Manipulator::activate),
+                                                virtualSlot(&Manipulator::deactivate),
+                                                virtualSlot(&Manipulator::isActive),
+                                                virtualSlot(&Manipulator::getVisualisation),
+                                                virtualSlot(&Manipulator::getCollider),
+                                                virtualSlot(&Manipulator::update),
+                                                virtualSlot(&Manipulator::startManipulator),
+                                                virtualSlot(&Manipulator::processManipulator),
+                                                virtualSlot(&Manipulator::stopManipulator),
+                                                virtualSlot(&Manipulator::hover),
+                                                virtualSlot(&Manipulator::reset),
+                                                virtualSlot(&Manipulator::hoverManipulator),
+                                                virtualSlot(&Manipulator::resetManipulator),
+                                                virtualSlot(&Manipulator::setMousePosition),
+                                                virtualSlot(&Manipulator::getMousePosition),
+                                                virtualSlot(&Manipulator::setManipulatorMode) };
+    for (std::size_t i = 0; i < slots.size(); ++i) {
+        EXPECT_EQ(slots[i], static_cast<std::ptrdiff_t>(i));
+    }
+}
+
+TEST(VirtualTable, SubclassesAppendInTheirFixedOrder)
+{
+    using Gizmo = UniversalTransformManipulator2;
+    // The destructor stands between; it takes two slots in this binary interface.
+    const std::ptrdiff_t first = virtualSlot(&NodeManipulator::setNode);
+    EXPECT_EQ(first, 18);
+    const std::vector<std::ptrdiff_t> slots = {
+        virtualSlot(&Gizmo::activateRotatePivotManipulator),
+        virtualSlot(&Gizmo::activateScalePivotManipulator),
+        virtualSlot(&Gizmo::activateTranslateManipulator),
+        virtualSlot(&Gizmo::activateRotateManipulator),
+        virtualSlot(&Gizmo::activateScaleManipulator),
+        virtualSlot(&Gizmo::activateUniversalManipulator),
+        virtualSlot(&Gizmo::activateClippingManipulator),
+        virtualSlot(&Gizmo::activateAdditionalManipulator),
+        virtualSlot(&Gizmo::activateTranslateRotateManipulator),
+        virtualSlot(&Gizmo::activateTranslateRotateScaleManipulator),
+        virtualSlot(&Gizmo::activateTranslateRotateYZManipulator),
+        virtualSlot(&Gizmo::showActiveManipulator),
+        virtualSlot(&Gizmo::hideManipulator)
+    };
+    for (std::size_t i = 0; i < slots.size(); ++i) {
+        EXPECT_EQ(slots[i], first + 1 + static_cast<std::ptrdiff_t>(i));
+    }
+}
+
+TEST(VirtualTable, TheContextKeepsTheOrderOfItsBase)
+{
+    using Context = ManipulatorInteractionContext;
+    EXPECT_EQ(virtualSlot(&Context::enabled), 1);
+    EXPECT_EQ(virtualSlot(&Context::disabled), 2);
+    EXPECT_EQ(virtualSlot(&Context::contextAdded), 3);
+    EXPECT_EQ(virtualSlot(&Context::contextRemoved), 4);
+    EXPECT_EQ(virtualSlot(&Context::pointerMoved), 7);
+    EXPECT_EQ(virtualSlot(&Context::triggerEvent), 9);
+    EXPECT_EQ(virtualSlot(&Context::selectMode), 14);
+}
+
+}  // namespace nbec::manipulator::test

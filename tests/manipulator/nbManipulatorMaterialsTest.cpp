@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#include "manipulator/nbManipulatorMaterials.h"
+
+#include <OpenSG/OSGContainerCensus.h>
+#include <OpenSG/OSGSHLChunk.h>
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+TEST(nbManipulatorMaterials, UnlitMaterialTakesTheColourAsDiffuseOnly)
+{
+    const osg::ContainerCensus before = osg::ContainerCensus::take();
+    osg::SimpleMaterialPtr material =
+        nbManipulatorMaterials::createUnlitMaterial(osg::Color4f(0.2F, 0.4F, 0.6F, 0.25F), 64016);
+    osg::SimpleMaterialPtr second =
+        nbManipulatorMaterials::createUnlitMaterial(osg::Color4f(0.2F, 0.4F, 0.6F, 0.25F), 64016);
+    const osg::Color3f black(0, 0, 0);
+
+    EXPECT_EQ(material->getDiffuse(), osg::Color3f(0.2F, 0.4F, 0.6F));
+    EXPECT_EQ(material->getEmission(), black);
+    EXPECT_EQ(material->getAmbient(), black);
+    EXPECT_EQ(material->getSpecular(), black);
+    EXPECT_FLOAT_EQ(material->getShininess(), 10.0F);
+    EXPECT_FLOAT_EQ(material->getTransparency(), 0.75F);
+    EXPECT_FALSE(material->getLit());
+    EXPECT_EQ(material->getSortKey(), 64016);
+    EXPECT_NE(material, second);
+    EXPECT_EQ(material.getRefCount(), 1);
+
+    osg::subRefCP(material);
+    osg::subRefCP(second);
+    EXPECT_EQ(osg::ContainerCensus::take().differenceTo(before), "");
+}
+
+TEST(nbManipulatorMaterials, ProjectionMaterialHoldsOneShaderWithTwoUniforms)
+{
+    osg::ChunkMaterialPtr material = nbManipulatorMaterials::createProjectionMaterial(
+        osg::Color4f(1.0F, 0.5F, 0.25F, 0.75F), -3);
+    ASSERT_EQ(material->getMFChunks()->size(), 1U);
+    const osg::SHLChunkPtr shader = osg::SHLChunkPtr::dcast(material->getChunks(0));
+    ASSERT_NE(shader, osg::NullFC);
+
+    const auto& parameters = *shader->getMFParameters();
+    ASSERT_EQ(parameters.size(), 2U);
+    EXPECT_EQ(parameters[0]->getName(), "color");
+    EXPECT_EQ(parameters[1]->getName(), "viewProjectionMatrix");
+    osg::Vec4f color;
+    osg::Matrix matrix;
+    matrix.setTranslate(1, 2, 3);
+    EXPECT_TRUE(shader->getUniformParameter("color", color));
+    EXPECT_EQ(color, osg::Vec4f(1.0F, 0.5F, 0.25F, 0.75F));
+    EXPECT_TRUE(shader->getUniformParameter("viewProjectionMatrix", matrix));
+    EXPECT_EQ(matrix, osg::Matrix::identity());
+    EXPECT_EQ(material->getSortKey(), -3);
+    EXPECT_EQ(material.getRefCount(), 1);
+
+    const std::string body =
+        "uniform vec4 color; \nlayout (location = 0) out vec4 colorBufferRGBA;\nlayout (location = "
+        "1) out vec4 effectBufferRGBA;\nvoid main()  \n{  \n   colorBufferRGBA = color; \n   "
+        "effectBufferRGBA = vec4(0.0); \n} \n";
+    const std::string fragment = shader->getFragmentProgram();
+    ASSERT_GT(fragment.size(), body.size());
+    EXPECT_EQ(body.size(), 202U);
+    EXPECT_EQ(fragment.substr(fragment.size() - body.size()), body);
+    EXPECT_NE(shader->getVertexProgram().find("uniform mat4 viewProjectionMatrix;"),
+              std::string::npos);
+    EXPECT_EQ(shader->getVertexProgram().find("#version"), 0U);
+    EXPECT_EQ(shader->getGeometryProgram(), "");
+    osg::subRefCP(material);
+}

@@ -1,0 +1,266 @@
+// SPDX-License-Identifier: MIT
+#include <OpenSG/OSGAttachmentContainer.h>
+#include <OpenSG/OSGBaseFunctions.h>
+#include <OpenSG/OSGContainerCensus.h>
+#include <OpenSG/OSGFieldContainerFactory.h>
+#include <OpenSG/OSGGroup.h>
+#include <OpenSG/OSGNode.h>
+#include <OpenSG/OSGNodePtr.h>
+#include <OpenSG/OSGRefPtr.h>
+#include <OpenSG/OSGSimpleAttachments.h>
+#include <OpenSG/OSGTransform.h>
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <random>
+#include <vector>
+
+using namespace osg;
+
+namespace {
+
+FieldContainerPtr resolve(UInt32 id)
+{
+    return FieldContainerFactory::the()->getContainer(id);
+}
+
+void destroy(NodePtr node)
+{
+    subRefCP(node);
+}
+
+/// Takes the count of a fresh container and gives it back with the end of the scope.
+NodeRefPtr hold(const NodePtr& node)
+{
+    return NodeRefPtr(node);
+}
+
+}  // namespace
+
+// == Ids
+
+TEST(IdTable, ResolvesExactlyTheLivingThroughRandomLifeAndDeath)
+{
+    std::mt19937 random(7);
+    std::map<UInt32, NodePtr> alive;
+    std::vector<UInt32> dead;
+    UInt32 lastId = 0;
+
+    for (int step = 0; step < 20000; ++step) {
+        const bool growing = step < 6000 || (step > 12000 && step < 15000);
+        if (random() % 10 < (growing ? 7u : 3u) || alive.empty()) {
+            const NodePtr node = Node::create();
+            ASSERT_GT(node.getFieldContainerId(), lastId);
+            lastId = node.getFieldContainerId();
+            alive[lastId] = node;
+        } else {
+            const auto victim =
+                std::next(alive.begin(), random() % std::min<std::size_t>(alive.size(), 50));
+            dead.push_back(victim->first);
+            destroy(victim->second);
+            alive.erase(victim);
+        }
+    }
+
+    for (const auto& entry : alive) {
+        ASSERT_EQ(resolve(entry.first), entry.second) << entry.first;
+    }
+    for (const UInt32 id : dead) {
+        ASSERT_EQ(resolve(id), NullFC) << id;
+    }
+    for (const auto& entry : alive) {
+        destroy(entry.second);
+    }
+    EXPECT_EQ(resolve(lastId), NullFC);
+}
+
+TEST(IdTable, MemoryFollowsTheLivingAndNotTheIdsGivenOut)
+{
+    const std::size_t before = ContainerCensus::idTableBytes();
+    std::vector<NodePtr> nodes(100000);
+    for (NodePtr& node : nodes) {
+        node = Node::create();
+    }
+    const std::size_t crowded = ContainerCensus::idTableBytes();
+    for (const NodePtr& node : nodes) {
+        destroy(node);
+    }
+
+    EXPECT_GT(crowded, 100000 * sizeof(void*));
+    EXPECT_LE(ContainerCensus::idTableBytes(), 2 * before);
+
+    const std::size_t quiet = ContainerCensus::idTableBytes();
+    for (int i = 0; i < 300000; ++i) {
+        destroy(Node::create());
+    }
+    EXPECT_EQ(ContainerCensus::idTableBytes(), quiet);
+}
+
+TEST(IdTable, TheLowestIdIsAPrototype)
+{
+    const FieldContainerPtr first = resolve(1);
+
+    ASSERT_NE(first, NullFC);
+    EXPECT_EQ(first->getType().getPrototype(), first);
+}
+
+// == Census
+
+TEST(ContainerCensus, NamesWhatCameAndWentByType)
+{
+    const NodeRefPtr old = hold(makeCoredNode<Group>());
+    const ContainerCensus before = ContainerCensus::take();
+
+    const NodeRefPtr node = hold(makeCoredNode<Transform>());
+    setName(node, "named");
+    const ContainerCensus between = ContainerCensus::take();
+    old->setCore(NullFC);
+
+    EXPECT_EQ(between.total(), before.total() + 3);
+    EXPECT_EQ(between.differenceTo(before), "Name +1, Node +1, Transform +1");
+    EXPECT_EQ(ContainerCensus::take().differenceTo(between), "Group -1");
+    EXPECT_EQ(between.differenceTo(between), "");
+}
+
+// == Types
+
+TEST(FieldContainerType, OfALibraryLoadedLaterIsKnownOnceItIsInitialised)
+{
+    FieldContainerFactory* const factory = FieldContainerFactory::the();
+    const UInt32 typesBefore = factory->getNumTypes();
+    {
+        const ContainerCensus before = ContainerCensus::take();
+        FieldContainerType late("LateGroup", &Group::getClassType(),
+                                [] { return FieldContainerPtr(Group::create()); });
+        EXPECT_EQ(factory->findType("LateGroup"), nullptr);
+        EXPECT_TRUE(late.isDerivedFrom(NodeCore::getClassType()));
+        FieldContainerPtr early = late.createContainer();
+        ASSERT_NE(early, NullFC);
+        subRefCP(early);
+
+        factory->initializePendingTypes();
+
+        EXPECT_EQ(factory->findType("LateGroup"), &late);
+        EXPECT_EQ(factory->findType(late.getId()), &late);
+        EXPECT_NE(late.getPrototype(), NullFC);
+        EXPECT_EQ(ContainerCensus::take().differenceTo(before), "Group +1");
+    }
+    EXPECT_EQ(factory->findType("LateGroup"), nullptr);
+    EXPECT_EQ(factory->getNumTypes(), typesBefore);
+}
+
+TEST(FieldContainerFactory, MakesByNameOnlyWhatIsOfTheKindAskedFor)
+{
+    FieldContainerFactory* const factory = FieldContainerFactory::the();
+
+    const NodeRefPtr node(factory->createNode("Node"));
+    const RefPtr<NodeCorePtr> core(factory->createNodeCore("Transform"));
+    const AttachmentRefPtr attachment(factory->createAttachment("Name"));
+    EXPECT_NE(node, NullFC);
+    EXPECT_NE(core, NullFC);
+    EXPECT_NE(attachment, NullFC);
+
+    EXPECT_EQ(factory->createNode("Transform"), NullFC);
+    EXPECT_EQ(factory->createNodeCore("Node"), NullFC);
+    EXPECT_EQ(factory->createAttachment("Group"), NullFC);
+    EXPECT_EQ(factory->createFieldContainer("NodeCore"), NullFC);
+    EXPECT_EQ(factory->createFieldContainer(nullptr), NullFC);
+}
+
+TEST(FieldContainerFactory, CanBeTakenDownAndBroughtUpAgain)
+{
+    const NodeRefPtr survivor = hold(Node::create());
+    const ContainerCensus before = ContainerCensus::take();
+
+    osgExit();
+    EXPECT_EQ(FieldContainerFactory::the()->findType("Node"), nullptr);
+    EXPECT_EQ(Node::getClassType().getPrototype(), NullFC);
+    EXPECT_EQ(ContainerCensus::take().differenceTo(before), "");
+    osgInit(0, nullptr);
+
+    EXPECT_EQ(FieldContainerFactory::the()->findType("Node"), &Node::getClassType());
+    EXPECT_NE(Node::getClassType().getPrototype(), NullFC);
+    EXPECT_EQ(resolve(survivor->getFieldContainerId()), survivor);
+}
+
+// == Pointers and counts
+
+TEST(RefPtr, ReplacingTheLastHolderOfAParentByItsChildKeepsTheChild)
+{
+    NodeRefPtr held = hold(makeCoredNode<Group>());
+    held->addChild(makeCoredNode<Group>());
+    const UInt32 parentId = held->getFieldContainerId();
+
+    held = held->getChild(0);
+
+    EXPECT_EQ(resolve(parentId), NullFC);
+    EXPECT_EQ(held.get().getRefCount(), 1);
+    EXPECT_EQ(held->getParent(), NullFC);
+}
+
+TEST(FieldContainer, OfADeepTreeAllIsGoneWhenTheRootIs)
+{
+    const ContainerCensus before = ContainerCensus::take();
+    NodePtr root = makeCoredNode<Transform>();
+    NodePtr deepest = root;
+    constexpr int kDepth = 50000;
+    for (int i = 0; i < kDepth; ++i) {
+        const NodePtr parent = makeCoredNode<Transform>();
+        parent->addChild(root);
+        root = parent;
+    }
+    EXPECT_EQ(deepest->getToWorld(), Matrix::identity());
+    root->updateVolume();
+    EXPECT_TRUE(deepest->getVolume().isValid());
+    NodePtr copy = deepCloneTree(root);
+    EXPECT_EQ(ContainerCensus::take().count("Transform"),
+              before.count("Transform") + 2 * (kDepth + 1));
+
+    destroy(root);
+    destroy(copy);
+
+    EXPECT_EQ(ContainerCensus::take().differenceTo(before), "");
+}
+
+// == Attachments
+
+TEST(AttachmentContainer, SharedAttachmentKnowsItsContainersAndLeavesWithTheLast)
+{
+    const ContainerCensus before = ContainerCensus::take();
+    {
+        const NamePtr name = Name::create();
+        name->setField("shared");
+        NodeRefPtr first = hold(Node::create());
+        const NodeRefPtr second = hold(Node::create());
+        first->addAttachment(name);
+        first->addAttachment(name);
+        second->addAttachment(name);
+        first->addAttachment(name, 3);
+        EXPECT_EQ(name.getRefCount(), 3);
+        EXPECT_EQ(name->getParents().getSize(), 3u);
+
+        first = NullFC;
+
+        EXPECT_EQ(name.getRefCount(), 1);
+        ASSERT_EQ(name->getParents().getSize(), 1u);
+        EXPECT_EQ(name->getParents()[0], second);
+        EXPECT_STREQ(getName(second), "shared");
+        second->addAttachment(Name::create());
+        EXPECT_STREQ(getName(second), "");
+    }
+    EXPECT_EQ(ContainerCensus::take().differenceTo(before), "");
+}
+
+TEST(AttachmentContainer, DeepCloneCopiesNamesUnlessTheyAreShared)
+{
+    const GroupRefPtr group(Group::create());
+    setName(group, "original");
+
+    const GroupRefPtr own(GroupPtr::dcast(deepClone(group)));
+    const GroupRefPtr sharing(GroupPtr::dcast(deepClone(group, "Name, NoSuchType")));
+    setName(group, "renamed");
+
+    EXPECT_STREQ(getName(own), "original");
+    EXPECT_STREQ(getName(sharing), "renamed");
+}

@@ -1,0 +1,254 @@
+// SPDX-License-Identifier: MIT
+// What a renderer asks of materials: the chunks in force, and whether anything changed.
+#include <OpenSG/OSGBlendChunk.h>
+#include <OpenSG/OSGChunkMaterial.h>
+#include <OpenSG/OSGContainerCensus.h>
+#include <OpenSG/OSGDefaultMaterials.h>
+#include <OpenSG/OSGDepthChunk.h>
+#include <OpenSG/OSGImage.h>
+#include <OpenSG/OSGLineChunk.h>
+#include <OpenSG/OSGMaterialChunk.h>
+#include <OpenSG/OSGPolygonChunk.h>
+#include <OpenSG/OSGRefPtr.h>
+#include <OpenSG/OSGSHLChunk.h>
+#include <OpenSG/OSGSimpleMaterial.h>
+#include <OpenSG/OSGSimpleTexturedMaterial.h>
+#include <OpenSG/OSGState.h>
+#include <OpenSG/OSGTextureChunk.h>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+OSG_USING_NAMESPACE
+
+namespace {
+
+template <class Chunk>
+typename Chunk::Ptr inForce(const StatePtr& state, UInt32 slot = 0)
+{
+    return Chunk::Ptr::dcast(state->getChunk(Chunk::getStaticClassId() + slot));
+}
+
+/// Counts the containers alive before and after a test.
+class Materials : public testing::Test
+{
+protected:
+    ~Materials() override { EXPECT_EQ(ContainerCensus::take().differenceTo(before), ""); }
+
+    ContainerCensus before = ContainerCensus::take();
+};
+
+}  // namespace
+
+TEST_F(Materials, LaterChunkOfAKindReplacesTheEarlierOneInTheState)
+{
+    const RefPtr<ChunkMaterialPtr> material(ChunkMaterial::create());
+    const LineChunkPtr thin = LineChunk::create();
+    const LineChunkPtr thick = LineChunk::create();
+    const DepthChunkPtr depth = DepthChunk::create();
+
+    material->addChunk(thin);
+    material->addChunk(depth);
+    material->addChunk(thick);
+
+    const StatePtr state = material->getState();
+    EXPECT_TRUE(inForce<LineChunk>(state) == thick);
+    EXPECT_TRUE(inForce<DepthChunk>(state) == depth);
+    EXPECT_FALSE(state->chunkPresent(PolygonChunk::getStaticClassId()));
+
+    material->subChunk(thick);
+    EXPECT_TRUE(inForce<LineChunk>(material->getState()) == thin);
+}
+
+TEST_F(Materials, SlotsOfAKindAreKeptApart)
+{
+    const RefPtr<ChunkMaterialPtr> material(ChunkMaterial::create());
+    const TextureChunkPtr base = TextureChunk::create();
+    const TextureChunkPtr detail = TextureChunk::create();
+    const TextureChunkPtr third = TextureChunk::create();
+
+    material->addChunk(detail, 1);
+    material->addChunk(base);
+    material->addChunk(third, State::AutoSlot);
+
+    const StatePtr state = material->getState();
+    EXPECT_TRUE(inForce<TextureChunk>(state, 0) == base);
+    EXPECT_TRUE(inForce<TextureChunk>(state, 1) == detail);
+    EXPECT_TRUE(inForce<TextureChunk>(state, 2) == third);
+}
+
+TEST_F(Materials, StateRefusesSlotsThatTheKindDoesNotHave)
+{
+    const RefPtr<StatePtr> state(State::create());
+    const RefPtr<LineChunkPtr> first(LineChunk::create());
+    const RefPtr<LineChunkPtr> second(LineChunk::create());
+
+    EXPECT_TRUE(state->addChunk(first, State::AutoSlot));
+    EXPECT_FALSE(state->addChunk(second, State::AutoSlot));
+    EXPECT_FALSE(state->addChunk(second, 1));
+    EXPECT_FALSE(state->addChunk(second, -3));
+    EXPECT_FALSE(state->addChunk(NullFC));
+    EXPECT_TRUE(inForce<LineChunk>(state) == first.get());
+    EXPECT_FALSE(state->subChunk(second));
+    EXPECT_TRUE(state->subChunk(first));
+    EXPECT_FALSE(state->chunkPresent(LineChunk::getStaticClassId()));
+}
+
+TEST_F(Materials, SimpleMaterialHasItsColoursAsAChunkAndBlendsOnlyWhenTransparent)
+{
+    const RefPtr<SimpleMaterialPtr> material(SimpleMaterial::create());
+    material->setDiffuse(Color3f(1.f, 0.5f, 0.25f));
+    material->setLit(false);
+
+    EXPECT_TRUE(inForce<MaterialChunk>(material->getState())->getDiffuse()
+                == Color4f(1.f, 0.5f, 0.25f, 1.f));
+    EXPECT_FALSE(inForce<MaterialChunk>(material->getState())->getLit());
+    EXPECT_TRUE(inForce<BlendChunk>(material->getState()) == NullFC);
+
+    beginEditCP(material, SimpleMaterial::TransparencyFieldMask);
+    material->setTransparency(0.75f);
+    endEditCP(material, SimpleMaterial::TransparencyFieldMask);
+
+    EXPECT_FLOAT_EQ(inForce<MaterialChunk>(material->getState())->getDiffuse().alpha(), 0.25f);
+    ASSERT_TRUE(inForce<BlendChunk>(material->getState()) != NullFC);
+    EXPECT_EQ(inForce<BlendChunk>(material->getState())->getDestFactor(),
+              GLenum(GL_ONE_MINUS_SRC_ALPHA));
+}
+
+TEST_F(Materials, AddedChunksReplaceTheBuiltInOnes)
+{
+    const RefPtr<SimpleMaterialPtr> material(SimpleMaterial::create());
+    const MaterialChunkPtr surface = MaterialChunk::create();
+    const BlendChunkPtr additive = BlendChunk::create();
+    additive->setDestFactor(GL_ONE);
+
+    material->addChunk(surface);
+    material->addChunk(additive);
+
+    const RefPtr<StatePtr> state(material->makeState());
+    EXPECT_TRUE(inForce<MaterialChunk>(state) == surface);
+    EXPECT_TRUE(inForce<BlendChunk>(state) == additive);
+}
+
+TEST_F(Materials, TexturedMaterialPutsItsImageIntoSlotZero)
+{
+    const RefPtr<SimpleTexturedMaterialPtr> material(SimpleTexturedMaterial::create());
+    ImagePtr image = Image::create();
+    image->set(Image::OSG_RGB_PF, 2, 2);
+    material->setImage(image);
+    material->setEnvMode(GL_MODULATE);
+
+    const TextureChunkPtr texture = inForce<TextureChunk>(material->getState());
+
+    ASSERT_TRUE(texture != NullFC);
+    EXPECT_TRUE(texture->getImage() == image);
+    EXPECT_EQ(texture->getEnvMode(), GLenum(GL_MODULATE));
+}
+
+TEST_F(Materials, StampMovesWithEveryPartAndWithNothingElse)
+{
+    const RefPtr<ChunkMaterialPtr> material(ChunkMaterial::create());
+    const LineChunkPtr line = LineChunk::create();
+    const TextureChunkPtr texture = TextureChunk::create();
+    const SHLChunkPtr shader = SHLChunk::create();
+    ImagePtr image = Image::create();
+    ImagePtr other = Image::create();
+    texture->setImage(image);
+    material->addChunk(line);
+    material->addChunk(texture, 1);
+    material->addChunk(shader);
+    shader->setUniformParameter("zoom", Real32(1.f));
+
+    const std::vector<std::pair<std::string, std::function<void()>>> changes = {
+        { "edit of the material", [&] { changedCP(material, Material::SortKeyFieldMask); } },
+        { "edit of a chunk", [&] { changedCP(line, LineChunk::WidthFieldMask); } },
+        { "edit of an image", [&] { changedCP(image, Image::PixelFieldMask); } },
+        { "other image", [&] { texture->setImage(other); } },
+        { "value of a uniform", [&] { shader->setUniformParameter("zoom", Real32(2.f)); } },
+        { "new uniform", [&] { shader->setUniformParameter("count", Int32(2)); } },
+        { "uniform gone", [&] { shader->subUniformParameter("zoom"); } },
+        { "chunk again", [&] { material->addChunk(line); } },
+        { "chunk gone", [&] { material->subChunk(line); } },
+        { "other slot",
+          [&] {
+              const RefPtr<TextureChunkPtr> held(texture);
+              material->subChunk(texture);
+              material->addChunk(texture, 0);
+          } },
+        { "no chunks", [&] { material->clearChunks(); } },
+    };
+
+    for (const auto& [name, change] : changes) {
+        const UInt64 stamp = material->getContentStamp();
+        const StatePtr state = material->getState();
+        EXPECT_EQ(material->getContentStamp(), stamp) << "before: " << name;
+        change();
+        EXPECT_NE(material->getContentStamp(), stamp) << name;
+        EXPECT_TRUE(material->getState() == state) << "the state object stays: " << name;
+    }
+}
+
+TEST_F(Materials, NullChunkIsRefusedAndLosesNothing)
+{
+    const RefPtr<ChunkMaterialPtr> material(ChunkMaterial::create());
+    material->addChunk(LineChunk::create());
+
+    EXPECT_FALSE(material->addChunk(NullFC));
+    EXPECT_TRUE(material->subChunk(NullFC));
+    EXPECT_EQ(material->getMFChunks()->size(), 1u);
+}
+
+TEST_F(Materials, UniformsClearedDirectlyAreFreed)
+{
+    const RefPtr<SHLChunkPtr> shader(SHLChunk::create());
+    shader->setUniformParameter("a", Real32(1.f));
+    shader->setUniformParameter("b", Real32(2.f));
+
+    shader->getMFParameters()->clear();
+    shader->setUniformParameter("c", Int32(3));
+
+    EXPECT_EQ(ContainerCensus::take().count("ShaderParameterReal"),
+              before.count("ShaderParameterReal"));
+    Int32 value = 0;
+    EXPECT_TRUE(shader->getUniformParameter("c", value));
+    EXPECT_EQ(value, 3);
+    EXPECT_FALSE(shader->setUniformParameter("", Int32(1)));
+    EXPECT_FALSE(shader->setUniformParameter(nullptr, Int32(1)));
+}
+
+TEST_F(Materials, DeepCloneOfAShaderHasItsOwnUniforms)
+{
+    const RefPtr<SHLChunkPtr> shader(SHLChunk::create());
+    shader->setFragmentProgram("void main() {}");
+    shader->setUniformParameter("zoom", Real32(1.f));
+
+    const RefPtr<SHLChunkPtr> copy(SHLChunkPtr::dcast(deepClone(shader)));
+    copy->setUniformParameter("zoom", Real32(5.f));
+
+    Real32 original = 0.f;
+    Real32 copied = 0.f;
+    EXPECT_TRUE(shader->getUniformParameter("zoom", original));
+    EXPECT_TRUE(copy->getUniformParameter("zoom", copied));
+    EXPECT_FLOAT_EQ(original, 1.f);
+    EXPECT_FLOAT_EQ(copied, 5.f);
+    EXPECT_EQ(copy->getFragmentProgram(), "void main() {}");
+}
+
+TEST_F(Materials, DeepCloneOfATextureCopiesItsImage)
+{
+    const RefPtr<TextureChunkPtr> texture(TextureChunk::create());
+    ImagePtr image = Image::create();
+    const UInt8 pixel[] = { 1, 2, 3 };
+    image->set(Image::OSG_RGB_PF, 1, 1, 1, 1, 1, 0.0, pixel);
+    texture->setImage(image);
+
+    const RefPtr<TextureChunkPtr> copy(TextureChunkPtr::dcast(deepClone(texture)));
+
+    ASSERT_TRUE(copy->getImage() != NullFC);
+    EXPECT_FALSE(copy->getImage() == image);
+    EXPECT_EQ(copy->getImage()->getData()[2], 3);
+    EXPECT_EQ(copy->getImage().getRefCount(), 1);
+}

@@ -1,0 +1,261 @@
+// SPDX-License-Identifier: MIT
+#include <OpenSG/OSGChangeCount.h>
+#include <OpenSG/OSGComponentTransform.h>
+#include <OpenSG/OSGContainerCensus.h>
+#include <OpenSG/OSGGroup.h>
+#include <OpenSG/OSGMaterialGroup.h>
+#include <OpenSG/OSGNode.h>
+#include <OpenSG/OSGNodePtr.h>
+#include <OpenSG/OSGPerspectiveCamera.h>
+#include <OpenSG/OSGSimpleMaterial.h>
+#include <OpenSG/OSGTransform.h>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <random>
+#include <vector>
+
+using namespace osg;
+
+namespace {
+
+/// What getToWorld has to equal, worked out without any memory.
+Matrix productFromRoot(const NodePtr& node)
+{
+    Matrix result;
+    for (NodePtr at = node; at != NullFC; at = at->getParent()) {
+        const TransformPtr transform = TransformPtr::dcast(at->getCore());
+        if (transform != NullFC) {
+            result.multLeft(transform->getMatrix());
+        }
+    }
+    return result;
+}
+
+Matrix randomMatrix(std::mt19937& random)
+{
+    std::uniform_real_distribution<Real32> number(-1.f, 1.f);
+    Matrix m;
+    m.setTransform(Vec3f(number(random), number(random), number(random)),
+                   Quaternion(Vec3f(number(random), 1.f, number(random)), number(random)));
+    return m;
+}
+
+bool isBelow(const NodePtr& node, const NodePtr& ancestor)
+{
+    NodePtr at = node;
+    while (at != NullFC && at != ancestor) {
+        at = at->getParent();
+    }
+    return at != NullFC;
+}
+
+/// A root with a chain transform - group - leaf below it, and a second tree.
+class TreeChangeCount : public testing::Test
+{
+protected:
+    TreeChangeCount()
+        : root(makeCoredNode<Group>())
+        , other(makeCoredNode<Group>())
+    {
+        const NodePtr moved = makeCoredNode<Transform>(&transform);
+        const NodePtr painted = makeCoredNode<MaterialGroup>(&materialGroup);
+        leaf = makeCoredNode<Group>();
+        root->addChild(moved);
+        moved->addChild(painted);
+        painted->addChild(leaf);
+        materialGroup->setMaterial(SimpleMaterial::create());
+    }
+
+    /// How far the counts of the tree and of the other tree move.
+    struct Moves
+    {
+        bool tree;
+        bool otherTree;
+    };
+
+    Moves after(const std::function<void()>& action) const
+    {
+        const UInt64 before = getTreeChangeCount(root);
+        const UInt64 otherBefore = getTreeChangeCount(other);
+        action();
+        return { getTreeChangeCount(root) != before, getTreeChangeCount(other) != otherBefore };
+    }
+
+    NodeRefPtr root;
+    NodeRefPtr other;
+    NodePtr leaf;
+    TransformPtr transform;
+    MaterialGroupPtr materialGroup;
+};
+
+}  // namespace
+
+// == Change counters
+
+TEST(ChangeCount, CountsEndedEditsOnly)
+{
+    const GroupRefPtr group(Group::create());
+    const UInt32 start = getChangeCount(group);
+
+    beginEditCP(group);
+    EXPECT_EQ(getChangeCount(group), start);
+    endEditCP(group);
+    EXPECT_EQ(getChangeCount(group), start + 1);
+    changedCP(group);
+    EXPECT_EQ(getChangeCount(group), start + 2);
+    beginEditCP(group);
+    endEditNotChangedCP(group);
+    EXPECT_EQ(getChangeCount(group), start + 2);
+    EXPECT_EQ(getChangeCount(NullFC), 0u);
+    EXPECT_EQ(getTreeChangeCount(NullFC), 0u);
+}
+
+TEST_F(TreeChangeCount, MovesForEditsOfNodesAndCoresBelowAndForNoOtherTree)
+{
+    struct Row
+    {
+        const char* what;
+        std::function<void()> action;
+    };
+
+    const NodePtr extra = makeCoredNode<Group>();
+    const Row rows[] = {
+        { "matrix", [&] { endEditCP(transform, Transform::MatrixFieldMask); } },
+        { "mask", [&] { endEditCP(leaf, Node::TravMaskFieldMask); } },
+        { "material of a group",
+          [&] { endEditCP(materialGroup, MaterialGroup::MaterialFieldMask); } },
+        { "child added", [&] { leaf->addChild(extra); } },
+        { "core replaced", [&] { extra->setCore(Transform::create()); } },
+        { "edit of a new core", [&] { endEditCP(extra->getCore()); } },
+        { "child taken off", [&] { leaf->subChild(extra); } },
+    };
+    for (const Row& row : rows) {
+        const Moves moves = after(row.action);
+        EXPECT_TRUE(moves.tree) << row.what;
+        EXPECT_FALSE(moves.otherTree) << row.what;
+    }
+}
+
+TEST_F(TreeChangeCount, MovesInBothTreesWhenANodeMovesOver)
+{
+    const Moves moves = after([&] { other->addChild(leaf); });
+
+    EXPECT_TRUE(moves.tree);
+    EXPECT_TRUE(moves.otherTree);
+    EXPECT_FALSE(after([&] { endEditCP(leaf); }).tree);
+}
+
+TEST_F(TreeChangeCount, MovesForMaterialsButNeitherForCamerasNorForReading)
+{
+    const CameraPtr camera = PerspectiveCamera::create();
+    const RefPtr<CameraPtr> held(camera);
+
+    EXPECT_TRUE(after([&] { endEditCP(materialGroup->getMaterial()); }).tree);
+    EXPECT_FALSE(after([&] { endEditCP(camera); }).tree);
+    EXPECT_FALSE(after([&] {
+                     root->updateVolume();
+                     leaf->getToWorld();
+                 }).tree);
+}
+
+// == World matrices
+
+TEST(NodeToWorld, EqualsTheProductThroughRandomEditsMovesAndSharedCores)
+{
+    std::mt19937 random(11);
+    const NodeRefPtr root(makeCoredNode<Transform>());
+    std::vector<NodePtr> nodes { root };
+    for (int i = 1; i < 150; ++i) {
+        NodePtr node;
+        if (i % 7 == 0) {
+            node = makeNodeFor(nodes[random() % nodes.size()]->getCore());
+        } else {
+            node = i % 3 == 0 ? makeCoredNode<Group>() : makeCoredNode<Transform>();
+        }
+        nodes[random() % 4 == 0 ? 0 : nodes.size() - 1]->addChild(node);
+        nodes.push_back(node);
+    }
+
+    for (int step = 0; step < 4000; ++step) {
+        const NodePtr node = nodes[random() % nodes.size()];
+        const NodePtr target = nodes[random() % nodes.size()];
+        const TransformPtr transform = TransformPtr::dcast(node->getCore());
+        switch (random() % 4) {
+        case 0:
+            if (transform != NullFC) {
+                transform->setMatrix(randomMatrix(random));
+            }
+            break;
+        case 1:
+            if (transform != NullFC) {
+                transform->getMatrix()[3][0] += 1.f;
+            }
+            break;
+        case 2:
+            if (node != root.get() && !isBelow(target, node)) {
+                target->addChild(node);
+            }
+            break;
+        default:
+            node->setCore(random() % 2 == 0 ? NodeCorePtr(Transform::create())
+                                            : NodeCorePtr(target->getCore()));
+        }
+        const NodePtr asked = nodes[random() % nodes.size()];
+        ASSERT_TRUE(asked->getToWorld().equals(productFromRoot(asked), 1e-4f)) << "step " << step;
+    }
+}
+
+TEST(NodeToWorld, FollowsAMatrixWrittenThroughAKeptReference)
+{
+    TransformPtr transform;
+    const NodeRefPtr root(makeCoredNode<Transform>(&transform));
+    root->addChild(Node::create());
+    Matrix& matrix = transform->getMatrix();
+
+    for (const Real32 x : { 1.f, 2.f, 3.f }) {
+        matrix.setTranslate(x, 0.f, 0.f);
+        EXPECT_EQ(root->getChild(0)->getToWorld()[3][0], x);
+    }
+}
+
+// == Children
+
+TEST(NodeChildren, InsertingAChildOfTheSameNodePutsItBeforeTheOneThatStoodThere)
+{
+    const NodeRefPtr root(makeCoredNode<Group>());
+    std::vector<NodePtr> child;
+    for (int i = 0; i < 4; ++i) {
+        child.push_back(Node::create());
+        root->addChild(child.back());
+    }
+
+    root->insertChild(3, child[0]);
+    EXPECT_EQ(*root->getMFChildren(), MFNodePtr({ child[1], child[2], child[0], child[3] }));
+    root->insertChild(0, child[3]);
+    EXPECT_EQ(*root->getMFChildren(), MFNodePtr({ child[3], child[1], child[2], child[0] }));
+    root->replaceChild(0, child[2]);
+    EXPECT_EQ(*root->getMFChildren(), MFNodePtr({ child[2], child[1], child[0] }));
+    EXPECT_FALSE(root->replaceChildBy(child[1], NullFC));
+    for (UInt32 i = 0; i < root->getNChildren(); ++i) {
+        EXPECT_EQ(root->getChild(i).getRefCount(), 1);
+        EXPECT_EQ(root->getChild(i)->getParent(), root);
+    }
+}
+
+TEST(NodeChildren, CoreHeldByNobodyElseLeavesWithTheNodeAndClonesLeakNothing)
+{
+    const ContainerCensus before = ContainerCensus::take();
+    {
+        const NodeRefPtr root(makeCoredNode<Group>());
+        root->addChild(makeCoredNode<ComponentTransform>());
+        const NodeRefPtr sharing(cloneTree(root));
+        const NodeRefPtr copying(deepCloneTree(root));
+        const NodeRefPtr shallow(NodePtr::dcast(root->shallowCopy()));
+        EXPECT_EQ(root->getCore()->getParents().getSize(), 3u);
+        EXPECT_EQ(shallow->getNChildren(), 0u);
+        EXPECT_NE(copying->getChild(0)->getCore(), root->getChild(0)->getCore());
+    }
+    EXPECT_EQ(ContainerCensus::take().differenceTo(before), "");
+}

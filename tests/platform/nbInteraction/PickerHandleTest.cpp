@@ -1,0 +1,288 @@
+// SPDX-License-Identifier: MIT
+#include <nbOpenSGUtils/nbGeoFactory.h>
+
+#include <OpenSG/OSGLineChunk.h>
+#include <OpenSG/OSGMaterialGroup.h>
+#include <OpenSG/OSGQuaternion.h>
+#include <OpenSG/OSGSimpleMaterial.h>
+
+#include <cmath>
+
+#include "PickerTestSupport.h"
+
+namespace {
+
+/// Handles below a group in the internal root, which is the pick node.
+class PickerHandles : public PickerTest
+{
+protected:
+    PickerHandles()
+    {
+        hang(nbScenegraph::getInternalRoot(), collider);
+        picker.setFilter(nbec::interaction::Picker::HandleFilter);
+        picker.setPickNode(collider);
+    }
+
+    static osg::MaterialPtr lineMaterial(float width)
+    {
+        const osg::LineChunkPtr chunk = osg::LineChunk::create();
+        chunk->setWidth(width);
+        const osg::SimpleMaterialPtr material = osg::SimpleMaterial::create();
+        material->addChunk(chunk);
+        return material;
+    }
+
+    /// A line along y, 2 long, with a line width in pixels.
+    static osg::NodePtr line(const std::string& name, float width)
+    {
+        const osg::NodePtr node = nbGeoFactory::makeLine(2.0f);
+        osg::GeometryPtr::dcast(node->getCore())->setMaterial(lineMaterial(width));
+        return named(name, node);
+    }
+
+    osg::NodePtr collider = osg::makeCoredNode<osg::Group>();
+};
+
+TEST_F(PickerHandles, LineIsHitWithinTheToleranceBeyondItsDrawnHalfWidth)
+{
+    hang(collider, line("line", 2.0f));
+
+    // The line is at x = 400; pixel 404 has its centre 4.5 away, 3.5 beyond the half width.
+    EXPECT_EQ(nameAt(404.0f, 300.0f), "line");
+    EXPECT_EQ(nameAt(395.0f, 300.0f), "line");
+    EXPECT_EQ(nameAt(405.0f, 300.0f), "");
+    // Its upper end is at y = 270.
+    EXPECT_EQ(nameAt(400.0f, 266.0f), "line");
+    EXPECT_EQ(nameAt(400.0f, 264.0f), "");
+
+    picker.setTolerance(1.0f);
+    EXPECT_EQ(nameAt(401.0f, 300.0f), "line");
+    EXPECT_EQ(nameAt(402.0f, 300.0f), "");
+    picker.setPixelRatio(4.0f);
+    EXPECT_EQ(nameAt(404.0f, 300.0f), "line");
+    picker.setTolerance(-3.0f);
+    EXPECT_EQ(nameAt(400.0f, 300.0f), "line");
+    EXPECT_EQ(nameAt(401.0f, 300.0f), "");
+}
+
+TEST_F(PickerHandles, HitOfALineIsItsNearestPointAndFacesTheEye)
+{
+    hang(collider, line("line", 2.0f));
+    ASSERT_EQ(nameAt(403.0f, 284.0f), "line");
+
+    // Pixel centre y = 284.5 is 15.5 pixels above the middle.
+    EXPECT_NEAR((picker.getHitPoint() - osg::Pnt3f(0.0f, 15.5f / 30.0f, 0.0f)).length(), 0.0f,
+                1e-4f);
+    osg::Vec3f towardsEye = osg::Pnt3f(0.0f, 0.0f, 10.0f) - picker.getHitPoint();
+    towardsEye.normalize();
+    EXPECT_NEAR((picker.getHitNormal() - towardsEye).length(), 0.0f, 1e-4f);
+}
+
+TEST_F(PickerHandles, LeastDistanceOnScreenWinsOverDepth)
+{
+    hang(collider, line("far", 1.0f));
+    // At depth 5, 60 pixels per unit: x = 406.
+    hang(collider, placed(0.1f, 0.0f, 5.0f, line("near", 1.0f)));
+
+    EXPECT_EQ(nameAt(401.0f, 300.0f), "far");
+    EXPECT_EQ(nameAt(404.0f, 300.0f), "near");
+}
+
+TEST_F(PickerHandles, DrawnWidthCountsAsDistanceZero)
+{
+    // 402.5 is within the drawn band of both lines: the nearer one wins, though its axis is farther
+    // away.
+    hang(collider, line("thin", 6.0f));
+    hang(collider, placed(0.1f, 0.0f, 5.0f, line("wide", 8.0f)));
+
+    EXPECT_EQ(nameAt(402.0f, 300.0f), "wide");
+}
+
+TEST_F(PickerHandles, AtEqualDistanceTheNearerHandleWinsAndThenTheFirstInTheTree)
+{
+    const osg::NodePtr first = named("first", box(1.0f));
+    hang(collider, first);
+    hang(collider, named("second", box(1.0f)));
+    EXPECT_EQ(nameAt(400.0f, 300.0f), "first");
+
+    const osg::NodePtr near = placed(0.0f, 0.0f, 0.01f, named("near", box(1.0f)));
+    hang(collider, near);
+    EXPECT_EQ(nameAt(400.0f, 300.0f), "near");
+
+    // 5e-4 nearer at depth 9.5: within 1e-4 of the depth it counts as equal.
+    osg::Matrix matrix;
+    matrix.setTranslate(0.0f, 0.0f, 5e-4f);
+    setMatrix(near, matrix);
+    EXPECT_EQ(nameAt(400.0f, 300.0f), "first");
+    hang(collider, first);  // to the end
+    EXPECT_EQ(nameAt(400.0f, 300.0f), "second");
+}
+
+TEST_F(PickerHandles, UnnamedCopyAndMarkersAreNeverHit)
+{
+    const osg::NodePtr original = named("handle", box(1.0f));
+    const osg::NodePtr handles = placed(0.0f, 0.0f, 0.0f, original);
+    const osg::NodePtr copy = osg::cloneTree(handles);
+    hang(collider, copy);
+    hang(collider, handles);
+    hang(collider, placed(2.0f, 0.0f, 0.0f, box(1.0f)));
+
+    EXPECT_EQ(pickAt(400.0f, 300.0f), original);
+    EXPECT_EQ(pickAt(460.0f, 300.0f), osg::NullFC);
+    nbNodeUtils::setName(original, "");
+    EXPECT_EQ(pickAt(400.0f, 300.0f), osg::NullFC);
+}
+
+TEST_F(PickerHandles, SceneInFrontDoesNotHideAHandle)
+{
+    hang(collider, named("handle", box(1.0f)));
+    hang(nbScenegraph::getRootNode(), placed(0.0f, 0.0f, 4.0f, named("scene", box(2.0f))));
+
+    EXPECT_EQ(nameAt(400.0f, 300.0f), "handle");
+}
+
+TEST_F(PickerHandles, InactiveHandlesAreNotHit)
+{
+    const osg::NodePtr handle = named("handle", box(1.0f));
+    const osg::NodePtr parent = placed(0.0f, 0.0f, 0.0f, handle);
+    hang(collider, parent);
+    for (const osg::NodePtr& node : { handle, parent, collider, nbScenegraph::getInternalRoot() }) {
+        setActive(node, false);
+        EXPECT_EQ(nameAt(400.0f, 300.0f), "");
+        setActive(node, true);
+        EXPECT_EQ(nameAt(400.0f, 300.0f), "handle");
+    }
+}
+
+TEST_F(PickerHandles, HandlesFollowTransformsAboveAndBelowThePickNodeAndTheCamera)
+{
+    const osg::NodePtr inner = placed(1.0f, 0.0f, 0.0f, named("handle", box(0.5f)));
+    const osg::NodePtr outer = placed(1.0f, 0.0f, 0.0f, inner);
+    hang(collider, outer);
+    picker.setPickNode(inner);
+    EXPECT_EQ(nameAt(460.0f, 300.0f), "handle");
+
+    osg::Matrix matrix;
+    matrix.setTranslate(-1.0f, 2.0f, 0.0f);
+    setMatrix(outer, matrix);
+    EXPECT_EQ(nameAt(460.0f, 300.0f), "");
+    EXPECT_EQ(nameAt(400.0f, 240.0f), "handle");
+    setMatrix(inner, matrix);
+    EXPECT_EQ(nameAt(340.0f, 180.0f), "handle");
+
+    widget.getUberCamera()->setFromAtUp({ -2.0f, 4.0f, 10.0f }, { -2.0f, 4.0f, 0.0f },
+                                        { 0.0f, 1.0f, 0.0f });
+    EXPECT_EQ(nameAt(340.0f, 180.0f), "");
+    EXPECT_EQ(nameAt(400.0f, 300.0f), "handle");
+    widget.resize(400, 300);
+    EXPECT_EQ(nameAt(200.0f, 150.0f), "handle");
+}
+
+TEST_F(PickerHandles, WithoutPickNodeMarkedSubtreesAreTested)
+{
+    const osg::NodePtr manipulator = placed(-2.0f, 0.0f, 0.0f, named("manipulator", box(1.0f)));
+    const osg::NodePtr auxiliary = placed(2.0f, 0.0f, 0.0f, named("auxiliary", box(1.0f)));
+    const osg::NodePtr scene = nbScenegraph::getRootNode();
+    hang(collider, manipulator);
+    hang(scene, auxiliary);
+    hang(scene, named("scene", box(1.0f)));
+    nbNodeUtils::setIsManipulatorNode(manipulator, true);
+    nbNodeUtils::setIsSelectableAuxiliaryNode(auxiliary, true);
+    picker.setPickNode(osg::NullFC);
+
+    EXPECT_EQ(nameAt(340.0f, 300.0f), "manipulator");
+    EXPECT_EQ(nameAt(400.0f, 300.0f), "");
+    EXPECT_EQ(nameAt(460.0f, 300.0f), "auxiliary");
+}
+
+TEST_F(PickerHandles, RingIsHitOnItsLineOnly)
+{
+    osg::Quaternion turn;
+    turn.setValueAsAxisDeg(1.0f, 0.0f, 0.0f, 90.0f);
+    osg::Matrix matrix;
+    matrix.setTransform(turn);
+    hang(collider, placed(matrix, named("ring", nbGeoFactory::makeLineTorus(2.0f, 72, false))));
+
+    // Radius 2: 60 pixels.
+    EXPECT_EQ(nameAt(460.0f, 300.0f), "ring");
+    EXPECT_EQ(nameAt(457.0f, 300.0f), "ring");
+    EXPECT_EQ(nameAt(400.0f, 240.0f), "ring");
+    EXPECT_EQ(nameAt(400.0f, 300.0f), "");
+    EXPECT_EQ(nameAt(400.0f + 60.0f * std::sqrt(0.5f), 300.0f + 60.0f * std::sqrt(0.5f)), "ring");
+    EXPECT_EQ(nameAt(450.0f, 300.0f), "");
+}
+
+TEST_F(PickerHandles, PartsBehindTheEyeAreCutOff)
+{
+    // Along z through (1, 0): at z = 0 it is at x = 430, at the near plane at 700; behind the eye
+    // nothing is left of it.
+    osg::Quaternion turn;
+    turn.setValueAsAxisDeg(1.0f, 0.0f, 0.0f, 90.0f);
+    osg::Matrix matrix;
+    matrix.setTransform(osg::Vec3f(1.0f, 0.0f, 0.0f), turn, osg::Vec3f(1.0f, 50.0f, 1.0f));
+    hang(collider, placed(matrix, line("line", 1.0f)));
+
+    EXPECT_EQ(nameAt(430.0f, 300.0f), "line");
+    EXPECT_NEAR(picker.getHitPoint()[2], 0.0f, 0.2f);
+    EXPECT_EQ(nameAt(699.0f, 300.0f), "line");
+    EXPECT_EQ(nameAt(710.0f, 300.0f), "");
+    EXPECT_EQ(nameAt(370.0f, 300.0f), "");
+}
+
+TEST_F(PickerHandles, LineWidthIsThatOfTheMaterialInForce)
+{
+    const osg::MaterialGroupPtr groupCore = osg::MaterialGroup::create();
+    const osg::NodePtr group = osg::makeNodeFor(groupCore);
+    hang(collider, group);
+    hang(group, line("line", 10.0f));
+    picker.setTolerance(0.0f);
+    const auto setGroupMaterial = [&](const osg::MaterialPtr& material) {
+        const nbEdit edit(groupCore, osg::MaterialGroup::MaterialFieldMask);
+        groupCore->setMaterial(material);
+    };
+
+    // Half of 10 reaches to pixel 404.
+    EXPECT_EQ(nameAt(404.0f, 300.0f), "line");
+    EXPECT_EQ(nameAt(405.0f, 300.0f), "");
+    setGroupMaterial(osg::SimpleMaterial::create());
+    EXPECT_EQ(nameAt(404.0f, 300.0f), "") << "the group's material replaces the line's";
+    nbNodeUtils::setIsManipulatorNode(collider, true);
+    EXPECT_EQ(nameAt(404.0f, 300.0f), "line")
+        << "below a manipulator node only chunks are replaced";
+    setGroupMaterial(lineMaterial(4.0f));
+    EXPECT_EQ(nameAt(404.0f, 300.0f), "");
+    EXPECT_EQ(nameAt(401.0f, 300.0f), "line");
+}
+
+TEST_F(PickerHandles, HandlesAreHitInAnOrthographicView)
+{
+    const osg::UberCameraPtr camera = widget.getUberCamera();
+    {
+        const nbEdit edit(camera, osg::UberCamera::OrthographicFieldMask);
+        camera->setOrthographic(true);
+    }
+    hang(collider, placed(2.0f, 0.0f, 5.0f, named("handle", box(1.0f))));
+    hang(collider, placed(2.0f, 0.0f, 6.0f, named("nearer", box(0.2f))));
+
+    // 30 pixels per unit at every depth.
+    EXPECT_EQ(nameAt(472.0f, 300.0f), "handle");
+    EXPECT_NEAR((picker.getHitPoint() - osg::Pnt3f(72.5f / 30.0f, -0.5f / 30.0f, 5.5f)).length(),
+                0.0f, 1e-4f);
+    EXPECT_NEAR((picker.getHitNormal() - osg::Vec3f(0.0f, 0.0f, 1.0f)).length(), 0.0f, 1e-5f);
+    EXPECT_EQ(nameAt(460.0f, 300.0f), "nearer");
+}
+
+TEST_F(PickerHandles, DestroyedPickNodeIsNoPickNode)
+{
+    const osg::NodePtr handle = named("handle", box(1.0f));
+    hang(collider, handle);
+    picker.setPickNode(handle);
+    ASSERT_EQ(pickAt(400.0f, 300.0f), handle);
+
+    collider->subChild(handle);
+
+    EXPECT_EQ(picker.getPickNode(), osg::NullFC);
+    EXPECT_EQ(pickAt(400.0f, 300.0f), osg::NullFC);
+}
+
+}  // namespace

@@ -1,0 +1,311 @@
+// SPDX-License-Identifier: MIT
+#include <OpenSG/OSGIntersectAction.h>
+#include <OpenSG/OSGLine.h>
+#include <OpenSG/OSGQuaternion.h>
+#include <OpenSG/OSGSwitch.h>
+
+#include <cmath>
+#include <limits>
+#include <memory>
+#include <random>
+#include <vector>
+
+#include "PickerTestSupport.h"
+
+namespace {
+
+constexpr float kTolerance = 1e-4f;
+
+class PickerScene : public PickerTest
+{
+protected:
+    osg::NodePtr scene = nbScenegraph::getRootNode();
+};
+
+void expectNear(const osg::Vec3f& actual, const osg::Vec3f& expected, float tolerance = kTolerance)
+{
+    EXPECT_LE((actual - expected).length(), tolerance) << actual << " instead of " << expected;
+}
+
+/// Turn by degrees about an axis, after a scale.
+osg::Matrix turnedAndScaled(const osg::Vec3f& axis, float deg, const osg::Vec3f& scale)
+{
+    osg::Quaternion turn;
+    turn.setValueAsAxisDeg(axis, deg);
+    osg::Matrix matrix;
+    matrix.setTransform(osg::Vec3f(), turn, scale);
+    return matrix;
+}
+
+TEST_F(PickerScene, NearestFaceIsHitToThePixel)
+{
+    const osg::NodePtr near = box(2.0f);
+    hang(scene, placed(0.0f, 0.0f, -5.0f, box(8.0f)));
+    hang(scene, near);
+
+    // The front face z = 1 lies at depth 9: its edge x = 1 is at 400 + 300 / 9 = 433.33.
+    EXPECT_EQ(pickAt(432.0f, 300.0f), near);
+    expectNear(picker.getHitPoint().subZero(),
+               { 32.5f / 300.0f * 9.0f, -0.5f / 300.0f * 9.0f, 1.0f });
+    expectNear(picker.getHitNormal(), { 0.0f, 0.0f, 1.0f });
+    EXPECT_EQ(pickAt(432.9f, 300.0f), near);
+    EXPECT_NE(pickAt(433.0f, 300.0f), near);
+}
+
+TEST_F(PickerScene, OrthographicViewHasParallelRays)
+{
+    const osg::UberCameraPtr camera = widget.getUberCamera();
+    {
+        const nbEdit edit(camera, osg::UberCamera::OrthographicFieldMask);
+        camera->setOrthographic(true);
+    }
+    const osg::NodePtr cube = box(2.0f);
+    hang(scene, cube);
+
+    // 20 units high: 30 pixels per unit at every depth.
+    EXPECT_EQ(pickAt(429.0f, 271.0f), cube);
+    expectNear(picker.getHitPoint().subZero(), { 29.5f / 30.0f, 28.5f / 30.0f, 1.0f });
+    EXPECT_EQ(pickAt(430.0f, 300.0f), osg::NullFC);
+    EXPECT_EQ(pickAt(400.0f, 269.0f), osg::NullFC);
+}
+
+TEST_F(PickerScene, WhatIsNotSeenOrAuxiliaryIsPassedThrough)
+{
+    const osg::NodePtr behind = box(2.0f);
+    const osg::NodePtr front = box(2.0f);
+    const osg::NodePtr frontParent = placed(0.0f, 0.0f, 3.0f, front);
+    hang(scene, behind);
+    hang(scene, frontParent);
+    ASSERT_EQ(pickAt(400.0f, 300.0f), front);
+
+    setActive(frontParent, false);
+    EXPECT_EQ(pickAt(400.0f, 300.0f), behind);
+    setActive(frontParent, true);
+    EXPECT_EQ(pickAt(400.0f, 300.0f), front);
+    nbNodeUtils::setIsAuxiliaryNode(frontParent, true);
+    EXPECT_EQ(pickAt(400.0f, 300.0f), behind);
+
+    // The internal root is auxiliary, the pick node plays no role.
+    const osg::NodePtr helper = placed(0.0f, 0.0f, 5.0f, box(2.0f));
+    hang(nbScenegraph::getInternalRoot(), helper);
+    picker.setPickNode(helper);
+    EXPECT_EQ(pickAt(400.0f, 300.0f), behind);
+}
+
+TEST_F(PickerScene, SwitchedOffChildrenAreNotHit)
+{
+    const osg::SwitchPtr chooser = osg::Switch::create();
+    chooser->setChoice(0);
+    const osg::NodePtr group = osg::makeNodeFor(chooser);
+    const osg::NodePtr small = box(1.0f);
+    const osg::NodePtr large = box(4.0f);
+    hang(group, small);
+    hang(group, large);
+    hang(scene, group);
+    EXPECT_EQ(pickAt(400.0f, 300.0f), small);
+    {
+        const nbEdit edit(chooser, osg::Switch::ChoiceFieldMask);
+        chooser->setChoice(1);
+    }
+    EXPECT_EQ(pickAt(400.0f, 300.0f), large);
+}
+
+TEST_F(PickerScene, EditsShowAtTheNextPick)
+{
+    const osg::NodePtr ball = osg::makeSphere(3, 1.0f);
+    const osg::NodePtr parent = placed(0.0f, 0.0f, 0.0f, ball);
+    hang(scene, parent);
+    nbec::interaction::Picker::buildTrees(scene);
+    ASSERT_EQ(pickAt(400.0f, 300.0f), ball);
+
+    osg::Matrix matrix;
+    matrix.setTranslate(3.0f, 0.0f, 0.0f);
+    setMatrix(parent, matrix);
+    EXPECT_EQ(pickAt(400.0f, 300.0f), osg::NullFC);
+    EXPECT_EQ(pickAt(490.0f, 300.0f), ball);
+
+    // The first edit of the positions rebuilds the tree, the further ones refit it.
+    const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(ball->getCore());
+    const osg::GeoPositionsPtr positions = geometry->getPositions();
+    for (int step = 1; step <= 3; ++step) {
+        {
+            const nbEdit edit(positions, osg::FieldBits::AllFields);
+            for (osg::UInt32 i = 0; i < positions->getSize(); ++i) {
+                positions->setValue(positions->getValue(i) + osg::Vec3f(0.0f, 2.5f, 0.0f), i);
+            }
+        }
+        const float y = 300.0f - 75.0f * static_cast<float>(step);
+        EXPECT_EQ(pickAt(490.0f, y), ball) << step;
+        EXPECT_EQ(pickAt(490.0f, y + 75.0f), osg::NullFC) << step;
+    }
+
+    // Fewer triangles: only the first one is left.
+    const osg::GeoPLengthsPtr lengths = geometry->getLengths();
+    {
+        const nbEdit edit(lengths, osg::FieldBits::AllFields);
+        lengths->setValue(3, 0);
+    }
+    EXPECT_EQ(pickAt(490.0f, 75.0f), osg::NullFC);
+}
+
+TEST_F(PickerScene, NodesThatShareACoreAreHitEachAtItsPlace)
+{
+    const osg::NodePtr left = osg::makeSphere(2, 1.0f);
+    const osg::NodePtr right = osg::makeNodeFor(left->getCore());
+    hang(scene, placed(-3.0f, 0.0f, 0.0f, left));
+    hang(scene, placed(3.0f, 0.0f, 0.0f, right));
+
+    EXPECT_EQ(pickAt(310.0f, 300.0f), left);
+    EXPECT_EQ(pickAt(490.0f, 300.0f), right);
+    EXPECT_EQ(pickAt(400.0f, 300.0f), osg::NullFC);
+}
+
+TEST_F(PickerScene, NormalIsUnitAndPerpendicularUnderScaleTurnAndMirror)
+{
+    const osg::Vec3f scales[] = { { 2.0f, 0.5f, 3.0f }, { -2.0f, 0.5f, 3.0f } };
+    for (const osg::Vec3f& scale : scales) {
+        const osg::NodePtr cube = box(1.0f);
+        const osg::NodePtr parent =
+            placed(turnedAndScaled({ 0.0f, 1.0f, 0.0f }, 30.0f, scale), cube);
+        hang(scene, parent);
+        ASSERT_EQ(pickAt(400.0f, 300.0f), cube);
+
+        // The face z = 0.5 of the cube, turned by 30 degrees about y: it faces the eye whether
+        // mirrored or not.
+        expectNear(picker.getHitNormal(), { 0.5f, 0.0f, std::sqrt(0.75f) });
+        scene->subChild(parent);
+    }
+}
+
+TEST_F(PickerScene, MissLeavesNoHitData)
+{
+    hang(scene, box(2.0f));
+    const float kNaN = std::numeric_limits<float>::quiet_NaN();
+    const osg::Pnt2f misses[] = { { 100.0f, 100.0f }, { -1.0f, 300.0f }, { 800.0f, 300.0f },
+                                  { kNaN, 300.0f },   { 400.0f, kNaN },  { 1e30f, 300.0f } };
+    for (const osg::Pnt2f& miss : misses) {
+        ASSERT_NE(pickAt(400.0f, 300.0f), osg::NullFC);
+        EXPECT_EQ(picker.pickAt(miss), osg::NullFC) << miss;
+        EXPECT_EQ(picker.getHitNode(), osg::NullFC);
+        EXPECT_EQ(picker.getHitNormal(), osg::Vec3f());
+    }
+    widget.setMousePosition({ 400.0f, 300.0f });
+    EXPECT_NE(picker.pick(), osg::NullFC);
+    picker.setFilter(3);
+    EXPECT_EQ(picker.pick(), osg::NullFC);
+    picker.setFilter(nbec::interaction::Picker::SceneFilter);
+    widget.resize(0, 600);
+    EXPECT_EQ(picker.pick(), osg::NullFC);
+    EXPECT_TRUE(picker.pickRectangle({ 0, 0, 800, 600 }).empty());
+}
+
+TEST_F(PickerScene, DestroyedNodesReadAsNull)
+{
+    const osg::NodePtr cube = box(2.0f);
+    const osg::NodePtr behind = placed(0.0f, 0.0f, -3.0f, box(3.0f));
+    hang(scene, cube);
+    hang(scene, behind);
+    ASSERT_EQ(pickAt(400.0f, 300.0f), cube);
+
+    scene->subChild(cube);
+
+    EXPECT_EQ(picker.getHitNode(), osg::NullFC);
+    EXPECT_EQ(pickAt(400.0f, 300.0f), behind->getChild(0));
+}
+
+TEST_F(PickerScene, BrokenGeometryIsPassedThrough)
+{
+    const osg::NodePtr ball = osg::makeSphere(3, 1.0f);
+    const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(ball->getCore());
+    const osg::NodePtr behind = placed(0.0f, 0.0f, -4.0f, box(2.0f));
+    hang(scene, ball);
+    hang(scene, behind);
+    ASSERT_EQ(pickAt(400.0f, 300.0f), ball);
+    const float kNaN = std::numeric_limits<float>::quiet_NaN();
+    {
+        const nbEdit edit(geometry->getPositions(), osg::FieldBits::AllFields);
+        for (osg::UInt32 i = 0; i < geometry->getPositions()->getSize(); ++i) {
+            geometry->getPositions()->setValue({ kNaN, kNaN, kNaN }, i);
+        }
+    }
+    EXPECT_EQ(pickAt(400.0f, 300.0f), behind->getChild(0));
+    {
+        const nbEdit edit(geometry->getPositions(), osg::FieldBits::AllFields);
+        geometry->getPositions()->resize(2);
+    }
+    EXPECT_EQ(pickAt(400.0f, 300.0f), behind->getChild(0));
+    {
+        const nbEdit edit(geometry, osg::Geometry::PositionsFieldMask);
+        geometry->setPositions(osg::NullFC);
+    }
+    EXPECT_EQ(pickAt(400.0f, 300.0f), behind->getChild(0));
+
+    // A matrix that flattens everything to nothing.
+    setMatrix(behind, turnedAndScaled({ 0.0f, 1.0f, 0.0f }, 0.0f, { 0.0f, 0.0f, 0.0f }));
+    EXPECT_EQ(pickAt(400.0f, 300.0f), osg::NullFC);
+}
+
+TEST_F(PickerScene, AgreesWithTheSceneGraphsOwnActionOnARandomScene)
+{
+    std::mt19937 random(20240501);
+    std::uniform_real_distribution<float> unit(-1.0f, 1.0f);
+    for (int i = 0; i < 60; ++i) {
+        const osg::NodePtr shape = i % 3 == 0 ? box(1.0f)
+            : i % 3 == 1                      ? osg::makeSphere(2, 0.6f)
+                                              : osg::makeTorus(0.2f, 0.6f, 8, 16);
+        osg::Matrix matrix =
+            turnedAndScaled({ unit(random), unit(random), 1.0f }, 180.0f * unit(random),
+                            { 1.5f + unit(random), 1.5f + unit(random), 1.0f });
+        matrix.setTranslate(8.0f * unit(random), 6.0f * unit(random), 4.0f * unit(random));
+        hang(scene, placed(matrix, shape));
+    }
+    const std::unique_ptr<osg::IntersectAction> action(osg::IntersectAction::create());
+    int hits = 0;
+    for (int i = 0; i < 2000; ++i) {
+        const float x = std::floor(400.0f + 400.0f * unit(random) * 0.99f);
+        const float y = std::floor(300.0f + 300.0f * unit(random) * 0.99f);
+        // Through the pixel's centre in the plane at depth 10.
+        const osg::Pnt3f eye(0.0f, 0.0f, 10.0f);
+        action->setLine(
+            osg::Line(eye, osg::Pnt3f((x + 0.5f - 400.0f) / 30.0f, (299.5f - y) / 30.0f, 0.0f)));
+        action->apply(scene);
+        const osg::NodePtr expected = action->didHit() ? action->getHitObject() : osg::NodePtr();
+
+        ASSERT_EQ(pickAt(x, y), expected) << x << ", " << y;
+        if (expected != osg::NullFC) {
+            ++hits;
+            expectNear(picker.getHitPoint().subZero(), action->getHitPoint().subZero(), 2e-3f);
+            EXPECT_NEAR(picker.getHitNormal().length(), 1.0f, 1e-5f);
+        }
+    }
+    EXPECT_GT(hits, 500);
+}
+
+TEST_F(PickerScene, RectangleTakesWhatLiesWhollyInside)
+{
+    // In the plane z = 0: from 370 to 430 pixels, its front at depth 9.5 a little larger.
+    const osg::NodePtr centre = box(1.0f);
+    const osg::NodePtr right = box(1.0f);
+    const osg::NodePtr hidden = box(1.0f);
+    const osg::NodePtr helper = box(1.0f);
+    const osg::NodePtr behindEye = box(1.0f);
+    hang(scene, centre);
+    hang(scene, placed(5.0f, 0.0f, 0.0f, right));
+    hang(scene, placed(0.0f, 0.0f, -5.0f, hidden));
+    hang(scene, placed(0.0f, 0.0f, 30.0f, behindEye));
+    hang(scene, helper);
+    nbNodeUtils::setIsAuxiliaryNode(helper, true);
+    // Half a unit at depth 9.5: 15.8 pixels.
+    using Nodes = std::vector<osg::NodePtr>;
+
+    EXPECT_EQ(picker.pickRectangle({ 384, 284, 32, 32 }), (Nodes { centre, hidden }));
+    EXPECT_EQ(picker.pickRectangle({ 385, 284, 31, 32 }), Nodes { hidden });
+    EXPECT_EQ(picker.pickRectangle(QRect(QPoint(415, 315), QPoint(384, 284)).normalized()),
+              (Nodes { centre, hidden }));
+    EXPECT_EQ(picker.pickRectangle({ 0, 0, 800, 600 }), (Nodes { centre, right, hidden }));
+    EXPECT_EQ(picker.pickRectangle({ 400, 300, 0, 0 }), Nodes {});
+    setActive(right, false);
+    EXPECT_EQ(picker.pickRectangle({ 500, 200, 200, 200 }), Nodes {});
+}
+
+}  // namespace

@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+#include <nbKernel/nbController.h>
+#include <nbUtils/nbLog.h>
+
+#include <OpenSG/OSGVector.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+namespace {
+
+class nbControllerTest : public testing::Test
+{
+protected:
+    ~nbControllerTest() override { nbController::clear(); }
+};
+
+}  // namespace
+
+TEST_F(nbControllerTest, ReceiverRepliesIntoTheMessage)
+{
+    nbController::addReceiver("editor::getScaleValues", [](nbMessage& msg) {
+        msg.set("projectionSize", osg::Vec2f(2.f, 3.f), true);
+    });
+    nbMessage msg;
+
+    EXPECT_TRUE(nbController::call("editor::getScaleValues", msg, 0));
+
+    osg::Vec2f size;
+    EXPECT_TRUE(nbMessage::get(msg, "projectionSize", size));
+    EXPECT_EQ(size, osg::Vec2f(2.f, 3.f));
+}
+
+TEST_F(nbControllerTest, UnknownNamesAreSilentAndCounted)
+{
+    nbController::addReceiver("updateMatRender", [](nbMessage&) {});
+    nbMessage msg;
+
+    testing::internal::CaptureStderr();
+    EXPECT_FALSE(nbController::call("updateMatrender", 0));
+    EXPECT_FALSE(nbController::call("::changedUVManipulator", msg, 0));
+    EXPECT_FALSE(nbController::call("updateMatrender", 0));
+    EXPECT_FALSE(nbController::call(nullptr, 0));
+    EXPECT_TRUE(nbController::call("updateMatRender", 0));
+
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+    EXPECT_EQ(nbController::getLostCallCount(), 4u);
+    EXPECT_EQ(nbController::getLostCallCount("updateMatrender"), 2u);
+    EXPECT_THAT(nbController::getLostCallNames(),
+                ElementsAre("", "::changedUVManipulator", "updateMatrender"));
+}
+
+TEST_F(nbControllerTest, ReceiverThatThrowsIsLoggedAndHarmsNobody)
+{
+    std::vector<std::string> entries;
+    nbLog::setSink([&entries](nbLog::Level, const std::string& text) { entries.push_back(text); });
+    nbController::addReceiver("broken",
+                              [](nbMessage&) { throw std::runtime_error("no material"); });
+    nbController::addReceiver("odd", [](nbMessage&) { throw 42; });
+
+    EXPECT_FALSE(nbController::call("broken", 0));
+    EXPECT_FALSE(nbController::call("odd", 0));
+    nbLog::setSink(nbLog::Sink());
+
+    ASSERT_EQ(entries.size(), 2u);
+    EXPECT_THAT(entries[0], HasSubstr("'broken' failed: no material"));
+    EXPECT_THAT(entries[1], HasSubstr("'odd'"));
+    EXPECT_EQ(nbController::getLostCallCount(), 0u);
+}
+
+TEST_F(nbControllerTest, ReceiversMayChangeTheRegistryAndCallWhileTheyRun)
+{
+    std::vector<std::string> order;
+    const auto owned = std::make_shared<int>(5);
+    nbController::addReceiver("once", [&order, owned](nbMessage&) {
+        nbController::removeReceiver("once");
+        for (int i = 0; i < 100; ++i) {
+            nbController::addReceiver("late" + std::to_string(i), [](nbMessage&) {});
+        }
+        nbController::addReceiver("inner", [&order](nbMessage&) { order.push_back("inner"); });
+        EXPECT_TRUE(nbController::call("inner", 0));
+        order.push_back("once " + std::to_string(*owned));
+    });
+
+    EXPECT_TRUE(nbController::call("once", 0));
+    EXPECT_FALSE(nbController::call("once", 0));
+
+    EXPECT_THAT(order, ElementsAre("inner", "once 5"));
+    EXPECT_EQ(owned.use_count(), 1);
+    EXPECT_TRUE(nbController::hasReceiver("late99"));
+}
+
+TEST_F(nbControllerTest, LaterReceiverTakesThePlaceAndAnEmptyOneClearsIt)
+{
+    int reached = 0;
+    nbController::addReceiver("name", [&reached](nbMessage&) { reached = 1; });
+    nbController::addReceiver("name", [&reached](nbMessage&) { reached = 2; });
+    EXPECT_TRUE(nbController::call("name", 0));
+    EXPECT_EQ(reached, 2);
+
+    nbController::addReceiver("name", nbController::Receiver());
+    EXPECT_FALSE(nbController::call("name", 0));
+}

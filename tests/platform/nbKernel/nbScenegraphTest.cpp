@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#include <nbKernel/nbOSGWidget.h>
+#include <nbKernel/nbScenegraph.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
+
+#include <OpenSG/OSGFieldContainerFactory.h>
+#include <OpenSG/OSGGroup.h>
+#include <OpenSG/OSGRefPtr.h>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+bool isAlive(osg::UInt32 id)
+{
+    return osg::FieldContainerFactory::the()->getContainer(id) != osg::NullFC;
+}
+
+}  // namespace
+
+TEST(nbScenegraph, WorldHoldsSceneAndHelpersApart)
+{
+    const osg::NodePtr world = nbScenegraph::getWorldRoot();
+
+    EXPECT_EQ(nbScenegraph::getRootNode()->getParent(), world);
+    EXPECT_EQ(nbScenegraph::getInternalRoot()->getParent(), world);
+    EXPECT_EQ(nbNodeUtils::getName(nbScenegraph::getRootNode()), "RootNode");
+    EXPECT_EQ(nbNodeUtils::getName(nbScenegraph::getInternalRoot()), "InternalRoot");
+    EXPECT_TRUE(nbNodeUtils::isAuxiliaryNode(nbScenegraph::getInternalRoot()));
+    EXPECT_FALSE(nbNodeUtils::isAuxiliaryNode(nbScenegraph::getRootNode()));
+    EXPECT_EQ(nbScenegraph::getWorldRoot(), world);
+}
+
+TEST(nbScenegraph, ClearFreesAllButWhatOthersHold)
+{
+    const osg::UInt32 worldId = nbScenegraph::getWorldRoot().getFieldContainerId();
+    const osg::NodeRefPtr held(osg::makeCoredNode<osg::Group>());
+    const osg::NodePtr loose = osg::makeCoredNode<osg::Group>();
+    const osg::UInt32 looseId = loose.getFieldContainerId();
+    nbScenegraph::getRootNode()->addChild(held.get());
+    nbScenegraph::getRootNode()->addChild(loose);
+    nbScenegraph::setPreselectionEnabled(false);
+
+    nbScenegraph::clear();
+
+    EXPECT_FALSE(isAlive(worldId));
+    EXPECT_FALSE(isAlive(looseId));
+    EXPECT_EQ(held->getParent(), osg::NullFC);
+    EXPECT_TRUE(nbScenegraph::isPreselectionEnabled());
+    EXPECT_EQ(nbScenegraph::getRootNode()->getNChildren(), 0u);
+}
+
+TEST(nbScenegraph, LiveViewportsFollowTheRoot)
+{
+    const nbOSGWidget widget;
+    const osg::NodePtr first = nbScenegraph::getWorldRoot();
+    EXPECT_EQ(widget.getViewport()->getRoot(), first);
+
+    nbScenegraph::clear();
+    EXPECT_EQ(widget.getViewport()->getRoot(), osg::NullFC);
+
+    EXPECT_EQ(nbScenegraph::getInternalRoot()->getParent(), widget.getViewport()->getRoot());
+}

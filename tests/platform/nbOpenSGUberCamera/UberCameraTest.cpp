@@ -1,0 +1,268 @@
+// SPDX-License-Identifier: MIT
+#include <nbOpenSGUberCamera/UberCamera.h>
+#include <nbOpenSGUberCamera/nbUberCameraUtils.h>
+
+#include <OpenSG/OSGFieldContainerFactory.h>
+#include <OpenSG/OSGLine.h>
+#include <OpenSG/OSGOrthographicCamera.h>
+#include <OpenSG/OSGPassiveWindow.h>
+#include <OpenSG/OSGViewport.h>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+using osg::Matrix;
+using osg::Pnt3f;
+using osg::UberCamera;
+using osg::UberCameraPtr;
+using osg::UberCameraRefPtr;
+using osg::Vec3f;
+
+namespace {
+
+constexpr float kNan = std::numeric_limits<float>::quiet_NaN();
+constexpr float kInfinity = std::numeric_limits<float>::infinity();
+constexpr float kTolerance = 1e-5f;
+
+/// At (0, 0, 10), looking at the origin, 90 degrees, near 1, far 100.
+UberCameraRefPtr makeCamera()
+{
+    UberCameraRefPtr camera(UberCamera::create());
+    camera->setFromAtUp(Pnt3f(0.f, 0.f, 10.f), Pnt3f(0.f, 0.f, 0.f), Vec3f(0.f, 1.f, 0.f));
+    camera->setPivot(Pnt3f(0.f, 0.f, 0.f));
+    camera->setFov(90.f);
+    camera->setNear(1.f);
+    camera->setFar(100.f);
+    return camera;
+}
+
+bool isFinite(const Matrix& matrix)
+{
+    for (int i = 0; i < 16; ++i) {
+        if (!std::isfinite(matrix.getValues()[i])) {
+            return false;
+        }
+    }
+    return true;
+}
+
+}  // namespace
+
+TEST(UberCamera, ProjectsWithDegreesEvenBelowPi)
+{
+    const UberCameraRefPtr camera = makeCamera();
+    Matrix projection;
+    camera->getProjection(projection, 800, 600);
+    EXPECT_NEAR(projection[0][0], 0.75f, kTolerance);
+    EXPECT_NEAR(projection[1][1], 1.f, kTolerance);
+    EXPECT_NEAR(projection[2][2], -1.020202f, kTolerance);
+    EXPECT_NEAR(projection[3][2], -2.020202f, kTolerance);
+    EXPECT_EQ(projection[2][3], -1.f);
+    EXPECT_EQ(projection[3][3], 0.f);
+
+    camera->setFov(1.f);
+    camera->getProjection(projection, 800, 600);
+    EXPECT_NEAR(projection[1][1], 114.58865f, 1e-3f);  // 1 / tan(0.5 degrees)
+}
+
+TEST(UberCamera, OrthographicViewIsAsHighAsThePerspectiveAtItsCentre)
+{
+    const UberCameraRefPtr camera = makeCamera();
+    camera->setViewAspect(4.f / 3.f);
+    EXPECT_NEAR(camera->getNearPlaneDiagonal(), 2.f * 5.f / 3.f, kTolerance);
+
+    camera->setOrthographic(true);
+    Matrix projection;
+    camera->getProjection(projection, 800, 600);
+
+    EXPECT_NEAR(projection[1][1], 0.1f, kTolerance);
+    EXPECT_NEAR(projection[0][0], 0.075f, kTolerance);
+    EXPECT_EQ(projection[2][3], 0.f);
+    EXPECT_NEAR(camera->getTop() - camera->getBottom(), 20.f, 1e-4f);
+    EXPECT_NEAR(camera->getRight() - camera->getLeft(), 80.f / 3.f, 1e-4f);
+    EXPECT_NEAR(camera->getNearPlaneDiagonal(), 100.f / 3.f, 1e-4f);
+}
+
+TEST(UberCamera, ViewRaysComeFromTheBeacon)
+{
+    const UberCameraRefPtr camera = makeCamera();
+    const osg::RefPtr<osg::ViewportPtr> viewport(osg::Viewport::create());
+    const osg::RefPtr<osg::PassiveWindowPtr> window(osg::PassiveWindow::create());
+    window->setSize(800, 600);
+    window->addPort(viewport);
+    viewport->setCamera(camera);
+    viewport->setSize(0.f, 0.f, 1.f, 1.f);
+    osg::Line ray;
+
+    // From the right: the camera's right is -z in the world. Row 301 is the middle.
+    camera->setFromAtUp(Pnt3f(10.f, 0.f, 0.f), Pnt3f(0.f, 0.f, 0.f), Vec3f(0.f, 1.f, 0.f));
+    ASSERT_TRUE(camera->calcViewRay(ray, 800, 301, *viewport));
+    EXPECT_TRUE(ray.getPosition().equals(Pnt3f(9.f, 0.f, -4.f / 3.f), kTolerance));
+    EXPECT_TRUE(ray.getDirection().equals(Vec3f(-0.6f, 0.f, -0.8f), kTolerance));
+
+    camera->setOrthographic(true);
+    ASSERT_TRUE(camera->calcViewRay(ray, 800, 301, *viewport));
+    EXPECT_TRUE(ray.getPosition().equals(Pnt3f(9.f, 0.f, -40.f / 3.f), 1e-4f));
+    EXPECT_TRUE(ray.getDirection().equals(Vec3f(-1.f, 0.f, 0.f), kTolerance));
+    viewport->setParent(osg::NullFC);
+}
+
+TEST(UberCamera, BeaconFollowsEditsOfTheFields)
+{
+    const UberCameraRefPtr camera(UberCamera::create());
+    Matrix viewing;
+    camera->getViewing(viewing, 1, 1);
+    EXPECT_EQ(viewing, Matrix::identity()) << "a new camera is at the origin";
+
+    osg::beginEditCP(camera.get(), UberCamera::FromFieldMask | UberCamera::AtFieldMask);
+    camera->setFrom(Pnt3f(1.f, 2.f, 3.f));
+    camera->setAt(Pnt3f(1.f, 2.f, -3.f));
+    osg::endEditCP(camera.get(), UberCamera::FromFieldMask | UberCamera::AtFieldMask);
+
+    const Matrix world = camera->getInternalParentNode()->getToWorld();
+    EXPECT_EQ(world[3], osg::Vec4f(1.f, 2.f, 3.f, 1.f));
+    EXPECT_EQ(camera->getBeacon(), camera->getInternalParentNode());
+    EXPECT_FALSE(camera->setFromAtUp(Pnt3f(kNan, 0.f, 0.f), Pnt3f(), Vec3f(0.f, 1.f, 0.f)));
+    EXPECT_EQ(camera->getFrom(0), Pnt3f(1.f, 2.f, 3.f));
+}
+
+TEST(UberCamera, CopyHasABeaconOfItsOwnAndBothAreGivenBack)
+{
+    osg::UInt32 beaconIds[2];
+    {
+        const UberCameraRefPtr camera = makeCamera();
+        const UberCameraRefPtr copy(UberCameraPtr::dcast(camera->shallowCopy()));
+        ASSERT_NE(copy, osg::NullFC);
+        EXPECT_EQ(copy->getFov(), 90.f);
+        copy->setFromAtUp(Pnt3f(7.f, 0.f, 0.f), Pnt3f(), Vec3f(0.f, 1.f, 0.f));
+
+        Matrix viewing;
+        camera->getViewing(viewing, 1, 1);
+        EXPECT_EQ(viewing[3], osg::Vec4f(0.f, 0.f, -10.f, 1.f));
+        beaconIds[0] = camera->getInternalParentNode().getFieldContainerId();
+        beaconIds[1] = copy->getInternalParentNode().getFieldContainerId();
+        EXPECT_NE(beaconIds[0], beaconIds[1]);
+    }
+    for (const osg::UInt32 id : beaconIds) {
+        EXPECT_EQ(osg::FieldContainerFactory::the()->getContainer(id), osg::NullFC);
+    }
+}
+
+TEST(UberCamera, UnusableFieldsStillGiveAFiniteProjection)
+{
+    const struct
+    {
+        const char* name;
+        Pnt3f from, at;
+        Vec3f up;
+        float fov, nearPlane, farPlane, aspect;
+    } rows[] = {
+        { "from is at",
+          { 1.f, 2.f, 3.f },
+          { 1.f, 2.f, 3.f },
+          { 0.f, 1.f, 0.f },
+          45.f,
+          1.f,
+          9.f,
+          1.f },
+        { "up along", { 0.f, 5.f, 0.f }, {}, { 0.f, 1.f, 0.f }, 45.f, 1.f, 9.f, 1.f },
+        { "up zero", { 0.f, 0.f, 5.f }, {}, {}, 45.f, 1.f, 9.f, 1.f },
+        { "from nan", { kNan, 0.f, 0.f }, {}, { 0.f, 1.f, 0.f }, 45.f, 1.f, 9.f, 1.f },
+        { "fov 0", { 0.f, 0.f, 5.f }, {}, { 0.f, 1.f, 0.f }, 0.f, 1.f, 9.f, 1.f },
+        { "fov nan", { 0.f, 0.f, 5.f }, {}, { 0.f, 1.f, 0.f }, kNan, 1.f, 9.f, 1.f },
+        { "fov 180", { 0.f, 0.f, 5.f }, {}, { 0.f, 1.f, 0.f }, 180.f, 1.f, 9.f, 1.f },
+        { "no depth", { 0.f, 0.f, 5.f }, {}, { 0.f, 1.f, 0.f }, 45.f, 0.f, 0.f, 1.f },
+        { "depth nan", { 0.f, 0.f, 5.f }, {}, { 0.f, 1.f, 0.f }, 45.f, kNan, kInfinity, 1.f },
+        { "far before near", { 0.f, 0.f, 5.f }, {}, { 0.f, 1.f, 0.f }, 45.f, 9.f, -1.f, 1.f },
+        { "aspect 0", { 0.f, 0.f, 5.f }, {}, { 0.f, 1.f, 0.f }, 45.f, 1.f, 9.f, 0.f },
+        { "far away", { 0.f, 0.f, 1e30f }, {}, { 0.f, 1.f, 0.f }, 45.f, 1.f, 9.f, kNan },
+    };
+
+    for (const auto& row : rows) {
+        for (const bool orthographic : { false, true }) {
+            const UberCameraRefPtr camera(UberCamera::create());
+            osg::beginEditCP(camera.get());
+            camera->setFrom(row.from);
+            camera->setAt(row.at);
+            camera->setUp(row.up);
+            camera->setFov(row.fov);
+            camera->setNear(row.nearPlane);
+            camera->setFar(row.farPlane);
+            camera->setViewAspect(row.aspect);
+            camera->setOrthographic(orthographic);
+            osg::endEditCP(camera.get());
+            Matrix projection;
+            Matrix viewing;
+
+            camera->getProjection(projection, 0, 600);
+            camera->getViewing(viewing, 0, 600);
+
+            EXPECT_TRUE(isFinite(projection)) << row.name << ' ' << projection;
+            EXPECT_TRUE(isFinite(viewing)) << row.name << ' ' << viewing;
+            EXPECT_NE(projection.det(), 0.f) << row.name;
+            EXPECT_NEAR(std::abs(viewing.det3()), 1.f, kTolerance) << row.name;
+            EXPECT_TRUE(std::isfinite(camera->getNearPlaneDiagonal())) << row.name;
+        }
+    }
+}
+
+TEST(UberCamera, DepthRangeEnclosesBoxPivotAndHandles)
+{
+    const struct
+    {
+        const char* name;
+        Pnt3f boundsMin, boundsMax, pivot;
+        bool orthographic;
+        float nearPlane, farPlane;
+    } rows[] = {
+        { "before the eye", { -1.f, -1.f, -1.f }, { 1.f, 1.f, 1.f }, {}, false, 4.5f, 16.5f },
+        { "pivot beyond",
+          { -1.f, -1.f, -1.f },
+          { 1.f, 1.f, 1.f },
+          { 0.f, 0.f, -90.f },
+          false,
+          4.5f,
+          150.f },
+        { "eye inside",
+          { -1e3f, -1e3f, -1e3f },
+          { 1e3f, 1e3f, 1e3f },
+          {},
+          false,
+          0.01515f,
+          1515.f },
+        { "behind the eye",
+          { 0.f, 0.f, 60.f },
+          { 1.f, 1.f, 61.f },
+          { 0.f, 0.f, 60.f },
+          false,
+          5.f,
+          15.f },
+        { "empty", { 1.f, 0.f, 0.f }, { 0.f, 0.f, 0.f }, {}, false, 5.f, 15.f },
+        { "not finite", { kNan, 0.f, 0.f }, { 0.f, kInfinity, 0.f }, {}, false, 5.f, 15.f },
+        { "flat view", { -1.f, -1.f, -1.f }, { 1.f, 1.f, 1.f }, {}, true, -5.162136f, 25.162136f },
+    };
+
+    for (const auto& row : rows) {
+        const UberCameraRefPtr camera = makeCamera();
+        camera->setPivot(row.pivot);
+        camera->setOrthographic(row.orthographic);
+
+        camera->setNearFarFromBounds(row.boundsMin, row.boundsMax);
+
+        EXPECT_NEAR(camera->getNear(), row.nearPlane, 1e-4f) << row.name;
+        EXPECT_NEAR(camera->getFar(), row.farPlane, 1e-2f) << row.name;
+    }
+}
+
+TEST(nbUberCameraUtils, AsksTheSwitchOrTheClass)
+{
+    const UberCameraRefPtr camera = makeCamera();
+    const osg::RefPtr<osg::OrthographicCameraPtr> flat(osg::OrthographicCamera::create());
+    EXPECT_FALSE(nbUberCameraUtils::isOrthographicCamera(camera.get()));
+    camera->setOrthographic(true);
+    EXPECT_TRUE(nbUberCameraUtils::isOrthographicCamera(camera.get()));
+    EXPECT_TRUE(nbUberCameraUtils::isOrthographicCamera(flat.get()));
+    EXPECT_FALSE(nbUberCameraUtils::isOrthographicCamera(osg::NullFC));
+}

@@ -1,0 +1,430 @@
+// SPDX-License-Identifier: MIT
+#include <nbOpenSGUberCamera/nbCameraNavigation.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <random>
+
+using osg::Pnt2f;
+using osg::Pnt3f;
+using osg::Vec3f;
+using Navigation = nbCameraNavigation;
+using View = nbCameraNavigation::StandardView;
+
+namespace {
+
+constexpr int kWidth = 800;
+constexpr int kHeight = 600;
+constexpr float kTolerance = 1e-5f;
+constexpr float kPixelTolerance = 1e-3f;
+constexpr float kNan = std::numeric_limits<float>::quiet_NaN();
+
+/// At (0, 0, 10), looking at the pivot in the origin; 90 degrees, so the view is 20 high there.
+CameraPose frontPose()
+{
+    CameraPose pose;
+    pose.from = Pnt3f(0.f, 0.f, 10.f);
+    pose.at = Pnt3f(0.f, 0.f, 0.f);
+    pose.pivot = pose.at;
+    pose.fovDeg = 90.f;
+    return pose;
+}
+
+/// Poses all around, near the origin so that a float's digits do not count; every second one flat,
+/// every third one with z up, the pivot before the eye but beside the view axis.
+CameraPose randomPose(int number)
+{
+    std::mt19937 random(static_cast<unsigned>(number));
+    std::uniform_real_distribution<float> unit(-1.f, 1.f);
+    CameraPose pose;
+    pose.from = Pnt3f(unit(random) * 4.f, unit(random) * 4.f, unit(random) * 4.f);
+    pose.at = pose.from + Vec3f(unit(random), unit(random), unit(random) + 1.5f) * 2.f;
+    pose.up = Vec3f(unit(random) * 0.3f, unit(random) + 1.5f, 0.f);
+    pose.fovDeg = 50.f + 30.f * unit(random);
+    pose.orthographic = number % 2 == 1;
+    pose.zUp = number % 3 == 1;
+    const Navigation::Axes axes = Navigation::axes(pose);
+    pose.pivot = pose.from - axes.back * (3.f + unit(random)) + axes.right * unit(random);
+    return pose;
+}
+
+constexpr int kPoseCount = 200;
+
+Pnt2f seenAt(const CameraPose& pose, const Pnt3f& point)
+{
+    Pnt2f pixel(-1e9f, -1e9f);
+    EXPECT_TRUE(Navigation::project(pose, point, kWidth, kHeight, pixel));
+    return pixel;
+}
+
+void expectSamePixel(const Pnt2f& actual, const Pnt2f& expected, int number)
+{
+    EXPECT_NEAR(actual.x(), expected.x(), kPixelTolerance) << "pose " << number;
+    EXPECT_NEAR(actual.y(), expected.y(), kPixelTolerance) << "pose " << number;
+}
+
+testing::AssertionResult isNear(const Pnt3f& actual, const Pnt3f& expected,
+                                float tolerance = kTolerance)
+{
+    if (actual.equals(expected, tolerance)) {
+        return testing::AssertionSuccess();
+    }
+    return testing::AssertionFailure() << '(' << actual << ") instead of (" << expected << ')';
+}
+
+bool isSame(const CameraPose& one, const CameraPose& other)
+{
+    return one.from == other.from && one.at == other.at && one.up == other.up &&
+        one.pivot == other.pivot && one.orthographic == other.orthographic;
+}
+
+float elevationSine(const CameraPose& pose)
+{
+    return Navigation::axes(pose).back.dot(Navigation::worldUp(pose));
+}
+
+}  // namespace
+
+TEST(nbCameraNavigation, AxesAreOrthonormalWhateverTheUpVector)
+{
+    const struct
+    {
+        const char* name;
+        Pnt3f from, at;
+        Vec3f up;
+        bool zUp;
+        Vec3f right, upAxis;
+    } rows[] = {
+        { "front",
+          { 0.f, 0.f, 5.f },
+          {},
+          { 0.f, 2.f, 1.f },
+          false,
+          { 1.f, 0.f, 0.f },
+          { 0.f, 1.f, 0.f } },
+        { "from is at", {}, {}, { 0.f, 1.f, 0.f }, false, { 1.f, 0.f, 0.f }, { 0.f, 1.f, 0.f } },
+        { "from is at, z up",
+          {},
+          {},
+          { 0.f, 0.f, 1.f },
+          true,
+          { 1.f, 0.f, 0.f },
+          { 0.f, 0.f, 1.f } },
+        { "up zero", { 0.f, 0.f, -5.f }, {}, {}, false, { -1.f, 0.f, 0.f }, { 0.f, 1.f, 0.f } },
+        { "up along",
+          { 5.f, 0.f, 0.f },
+          {},
+          { 1.f, 0.f, 0.f },
+          false,
+          { 0.f, 0.f, -1.f },
+          { 0.f, 1.f, 0.f } },
+        { "above",
+          { 0.f, 5.f, 0.f },
+          {},
+          { 0.f, 1.f, 0.f },
+          false,
+          { 1.f, 0.f, 0.f },
+          { 0.f, 0.f, -1.f } },
+        { "above, z up",
+          { 0.f, 0.f, 5.f },
+          {},
+          { 0.f, 0.f, 1.f },
+          true,
+          { 1.f, 0.f, 0.f },
+          { 0.f, 1.f, 0.f } },
+        { "tiny",
+          { 0.f, 0.f, 1e-20f },
+          {},
+          { 0.f, 1e-20f, 0.f },
+          false,
+          { 1.f, 0.f, 0.f },
+          { 0.f, 1.f, 0.f } },
+    };
+
+    for (const auto& row : rows) {
+        CameraPose pose;
+        pose.from = row.from;
+        pose.at = row.at;
+        pose.up = row.up;
+        pose.zUp = row.zUp;
+        const Navigation::Axes axes = Navigation::axes(pose);
+        EXPECT_TRUE(axes.right.equals(row.right, kTolerance)) << row.name << ": " << axes.right;
+        EXPECT_TRUE(axes.up.equals(row.upAxis, kTolerance)) << row.name << ": " << axes.up;
+        EXPECT_TRUE(axes.right.cross(axes.up).equals(axes.back, kTolerance)) << row.name;
+    }
+}
+
+TEST(nbCameraNavigation, OrbitTurnsAboutWorldUpAndRises)
+{
+    // 600 pixels are half a turn: 300 to the right take the eye a quarter to the left.
+    EXPECT_TRUE(
+        isNear(Navigation::orbit(frontPose(), 300.f, 0.f, kHeight).from, Pnt3f(-10.f, 0.f, 0.f)));
+    // 150 down lift it by 45 degrees.
+    const float side = 10.f * std::sqrt(0.5f);
+    EXPECT_TRUE(
+        isNear(Navigation::orbit(frontPose(), 0.f, 150.f, kHeight).from, Pnt3f(0.f, side, side)));
+
+    CameraPose zUp = Navigation::standardView(frontPose(), View::Front);
+    zUp.zUp = true;
+    zUp = Navigation::standardView(zUp, View::Front);
+    EXPECT_TRUE(isNear(Navigation::orbit(zUp, 300.f, 0.f, kHeight).from, Pnt3f(-10.f, 0.f, 0.f)));
+    EXPECT_TRUE(isNear(Navigation::orbit(zUp, 0.f, 150.f, kHeight).from, Pnt3f(0.f, -side, side)));
+}
+
+TEST(nbCameraNavigation, OrbitNeverTurnsOverThePole)
+{
+    const float steepest = std::sin(Navigation::kSteepestElevationDeg * osg::Pi / 180.f);
+    for (const float dy : { 1e4f, -1e4f }) {
+        const CameraPose pose = Navigation::orbit(frontPose(), 17.f, dy, kHeight);
+        EXPECT_NEAR(std::abs(elevationSine(pose)), steepest, 1e-6f);
+        EXPECT_GT(Navigation::axes(pose).up.y(), 0.f);
+
+        const CameraPose back =
+            Navigation::orbit(pose, -17.f, -std::copysign(299.6667f, dy), kHeight);
+        EXPECT_NEAR(elevationSine(back), 0.f, 1e-3f) << "the way back is free";
+        EXPECT_GT(Navigation::axes(back).up.y(), 0.99f);
+    }
+
+    const CameraPose top = Navigation::standardView(frontPose(), View::Top);
+    EXPECT_TRUE(isNear(Navigation::orbit(top, 0.f, 50.f, kHeight).from, top.from));
+    EXPECT_TRUE(isNear(Navigation::orbit(top, 0.f, -300.f, kHeight).from, Pnt3f(0.f, 0.f, 10.f)));
+    const CameraPose spun = Navigation::orbit(top, 300.f, 0.f, kHeight);
+    EXPECT_TRUE(isNear(spun.from, top.from));
+    EXPECT_TRUE(Navigation::axes(spun).right.equals(Vec3f(0.f, 0.f, 1.f), kTolerance));
+}
+
+TEST(nbCameraNavigation, OrbitKeepsDistancesAndThePivotsPlaceInTheView)
+{
+    for (int number = 0; number < kPoseCount; ++number) {
+        const CameraPose start = randomPose(number);
+        const CameraPose moved = Navigation::orbit(start, 123.f, -45.f, kHeight);
+
+        EXPECT_NEAR(moved.from.dist(moved.pivot), start.from.dist(start.pivot), 1e-5f);
+        EXPECT_NEAR(moved.from.dist(moved.at), start.from.dist(start.at), 1e-5f);
+        EXPECT_EQ(moved.pivot, start.pivot);
+        expectSamePixel(seenAt(moved, moved.pivot), seenAt(start, start.pivot), number);
+    }
+}
+
+TEST(nbCameraNavigation, SceneFollowsThePointerAlsoUpsideDown)
+{
+    for (const float up : { 1.f, -1.f }) {
+        CameraPose pose = frontPose();
+        pose.up = Vec3f(0.f, up, 0.f);
+        const Pnt3f nearSide(0.f, 0.f, 1.f);
+        const Pnt2f before = seenAt(pose, nearSide);
+        EXPECT_GT(seenAt(Navigation::orbit(pose, 20.f, 0.f, kHeight), nearSide).x(), before.x());
+        EXPECT_GT(seenAt(Navigation::orbit(pose, 0.f, 20.f, kHeight), nearSide).y(), before.y());
+    }
+}
+
+TEST(nbCameraNavigation, PannedPointStaysUnderThePointer)
+{
+    const CameraPose panned = Navigation::pan(frontPose(), 30.f, 60.f, kHeight);
+    EXPECT_TRUE(isNear(panned.from, Pnt3f(-1.f, 2.f, 10.f)));  // 20 units over 600 pixels
+    EXPECT_TRUE(isNear(panned.pivot, Pnt3f(-1.f, 2.f, 0.f)));
+
+    for (int number = 0; number < kPoseCount; ++number) {
+        const CameraPose start = randomPose(number);
+        const Pnt2f press(211.f, 97.f);
+        const Pnt3f held = Navigation::unproject(
+            start, press, Navigation::depth(start, start.pivot), kWidth, kHeight);
+        expectSamePixel(seenAt(start, held), press, number);
+
+        const CameraPose moved = Navigation::pan(start, 310.f, -88.f, kHeight);
+
+        expectSamePixel(seenAt(moved, held), Pnt2f(521.f, 9.f), number);
+    }
+}
+
+TEST(nbCameraNavigation, ZoomGoesTowardsTheTargetButNotPastThePivot)
+{
+    const struct
+    {
+        const char* name;
+        Pnt3f target;
+        float factor;
+        Pnt3f from, at;
+    } rows[] = {
+        { "pivot", {}, 0.5f, { 0.f, 0.f, 5.f }, {} },
+        { "beside the pivot", { 2.f, 0.f, 0.f }, 0.5f, { 1.f, 0.f, 5.f }, { 1.f, 0.f, 0.f } },
+        { "behind it on the same ray",
+          { 4.f, 0.f, -10.f },
+          0.5f,
+          { 1.f, 0.f, 5.f },
+          { 1.f, 0.f, 0.f } },
+        { "before it", { 0.f, 0.f, 6.f }, 0.5f, { 0.f, 0.f, 8.f }, { 0.f, 0.f, 3.f } },
+        { "behind the eye", { 3.f, 0.f, 50.f }, 0.5f, { 0.f, 0.f, 5.f }, {} },
+        { "away", {}, 2.f, { 0.f, 0.f, 20.f }, {} },
+    };
+
+    for (const auto& row : rows) {
+        const CameraPose moved = Navigation::zoom(frontPose(), row.factor, row.target);
+        EXPECT_TRUE(isNear(moved.from, row.from)) << row.name;
+        EXPECT_TRUE(isNear(moved.at, row.at)) << row.name;
+    }
+
+    CameraPose inwards = frontPose();
+    CameraPose outwards = frontPose();
+    for (int step = 0; step < 500; ++step) {
+        inwards = Navigation::zoom(inwards, 0.8f, Pnt3f(0.3f, 0.2f, -4.f));
+        outwards = Navigation::zoom(outwards, 1.25f);
+        ASSERT_GT(Navigation::depth(inwards, inwards.pivot), 0.f) << "step " << step;
+    }
+    EXPECT_GE(inwards.from.dist(inwards.at), 0.5f * Navigation::kNearestDistance);
+    EXPECT_LE(outwards.from.dist(outwards.at), 1.001f * Navigation::kFarthestDistance);
+}
+
+TEST(nbCameraNavigation, ZoomLeavesTheTargetWhereItIsSeen)
+{
+    for (int number = 0; number < kPoseCount; ++number) {
+        const CameraPose start = randomPose(number);
+        const Navigation::Axes axes = Navigation::axes(start);
+        const float depth =
+            1.f + 0.02f * static_cast<float>(number);  // before and behind the pivot
+        const Pnt3f target = start.from - axes.back * depth + axes.up * 0.4f - axes.right * 0.3f;
+
+        const CameraPose moved = Navigation::zoom(start, 0.7f, target);
+
+        expectSamePixel(seenAt(moved, target), seenAt(start, target), number);
+        if (start.orthographic) {
+            EXPECT_NEAR(Navigation::viewHeight(moved, 0.f),
+                        0.7f * Navigation::viewHeight(start, 0.f), kTolerance);
+        }
+    }
+}
+
+TEST(nbCameraNavigation, FrameFillsTheViewUpToItsMargin)
+{
+    const struct
+    {
+        const char* name;
+        bool orthographic;
+        float aspect;
+        Vec3f halfSize;
+        float distance;
+    } rows[] = {
+        // tan(fov / 2) is 1: near corner at z = 1 plus its height 1, times 1.1.
+        { "cube", false, 1.f, { 1.f, 1.f, 1.f }, 2.2f },
+        { "cube in a wide view", false, 3.f, { 1.f, 1.f, 1.f }, 2.2f },
+        { "cube in a narrow view", false, 0.5f, { 1.f, 1.f, 1.f }, 3.3f },
+        { "deep", false, 1.f, { 1.f, 1.f, 5.f }, 6.6f },
+        { "cube, flat view", true, 1.f, { 1.f, 1.f, 1.f }, 1.1f },
+        { "cube, narrow flat view", true, 0.5f, { 1.f, 1.f, 1.f }, 2.2f },
+        { "unusable aspect", false, kNan, { 1.f, 1.f, 1.f }, 2.2f },
+        { "a point", false, 1.f, { 0.f, 0.f, 0.f }, 10.f },
+    };
+
+    const Pnt3f centre(3.f, -4.f, 5.f);
+    for (const auto& row : rows) {
+        CameraPose pose = frontPose();
+        pose.orthographic = row.orthographic;
+        const CameraPose framed =
+            Navigation::frame(pose, centre - row.halfSize, centre + row.halfSize, row.aspect);
+        EXPECT_TRUE(isNear(framed.at, centre)) << row.name;
+        EXPECT_TRUE(isNear(framed.pivot, centre)) << row.name;
+        EXPECT_TRUE(isNear(framed.from, centre + Vec3f(0.f, 0.f, row.distance))) << row.name;
+    }
+}
+
+TEST(nbCameraNavigation, FramedCornersAreAllInTheView)
+{
+    for (int number = 0; number < kPoseCount; ++number) {
+        const CameraPose framed = Navigation::frame(randomPose(number), Pnt3f(-1.f, -3.f, 0.f),
+                                                    Pnt3f(2.f, 1.f, 9.f), float(kWidth) / kHeight);
+        float nearestToEdge = 1e9f;
+        for (int corner = 0; corner < 8; ++corner) {
+            const Pnt2f pixel =
+                seenAt(framed,
+                       Pnt3f((corner & 1) != 0 ? 2.f : -1.f, (corner & 2) != 0 ? 1.f : -3.f,
+                             (corner & 4) != 0 ? 9.f : 0.f));
+            nearestToEdge = std::min(
+                { nearestToEdge, pixel.x(), kWidth - pixel.x(), pixel.y(), kHeight - pixel.y() });
+        }
+        EXPECT_GT(nearestToEdge, 0.f) << "pose " << number;
+        EXPECT_LT(nearestToEdge, 0.12f * kWidth) << "pose " << number << " leaves too much room";
+    }
+}
+
+TEST(nbCameraNavigation, StandardViews)
+{
+    const float s = std::sqrt(0.5f);
+
+    const struct
+    {
+        const char* name;
+        View view;
+        bool zUp;
+        Vec3f back, up;
+    } rows[] = {
+        { "front", View::Front, false, { 0.f, 0.f, 1.f }, { 0.f, 1.f, 0.f } },
+        { "back", View::Back, false, { 0.f, 0.f, -1.f }, { 0.f, 1.f, 0.f } },
+        { "left", View::Left, false, { -1.f, 0.f, 0.f }, { 0.f, 1.f, 0.f } },
+        { "right", View::Right, false, { 1.f, 0.f, 0.f }, { 0.f, 1.f, 0.f } },
+        { "top", View::Top, false, { 0.f, 1.f, 0.f }, { 0.f, 0.f, -1.f } },
+        { "bottom", View::Bottom, false, { 0.f, -1.f, 0.f }, { 0.f, 0.f, 1.f } },
+        { "three-quarter",
+          View::ThreeQuarter,
+          false,
+          { s * std::sqrt(0.75f), 0.5f, s * std::sqrt(0.75f) },
+          { -0.5f * s, std::sqrt(0.75f), -0.5f * s } },
+        { "front, z up", View::Front, true, { 0.f, -1.f, 0.f }, { 0.f, 0.f, 1.f } },
+        { "back, z up", View::Back, true, { 0.f, 1.f, 0.f }, { 0.f, 0.f, 1.f } },
+        { "left, z up", View::Left, true, { -1.f, 0.f, 0.f }, { 0.f, 0.f, 1.f } },
+        { "right, z up", View::Right, true, { 1.f, 0.f, 0.f }, { 0.f, 0.f, 1.f } },
+        { "top, z up", View::Top, true, { 0.f, 0.f, 1.f }, { 0.f, 1.f, 0.f } },
+        { "bottom, z up", View::Bottom, true, { 0.f, 0.f, -1.f }, { 0.f, -1.f, 0.f } },
+    };
+
+    for (const auto& row : rows) {
+        CameraPose pose = frontPose();
+        pose.zUp = row.zUp;
+        pose.pivot = Pnt3f(1.f, 2.f, 10.f);  // sqrt(5) from the eye
+        const CameraPose moved = Navigation::standardView(pose, row.view);
+        const Navigation::Axes axes = Navigation::axes(moved);
+        EXPECT_TRUE(isNear(moved.from, pose.pivot + row.back * std::sqrt(5.f))) << row.name;
+        EXPECT_TRUE(axes.back.equals(row.back, kTolerance)) << row.name << ": " << axes.back;
+        EXPECT_TRUE(axes.up.equals(row.up, kTolerance)) << row.name << ": " << axes.up;
+    }
+}
+
+TEST(nbCameraNavigation, SwitchOfTheProjectionKeepsSizesAtThePivot)
+{
+    for (int number = 0; number < kPoseCount; ++number) {
+        const CameraPose start = randomPose(number);
+        const Navigation::Axes axes = Navigation::axes(start);
+        const Pnt3f beside = start.pivot + axes.right * 0.4f - axes.up * 0.2f;
+
+        const CameraPose moved = Navigation::withProjection(start, !start.orthographic);
+
+        EXPECT_NE(moved.orthographic, start.orthographic);
+        expectSamePixel(seenAt(moved, beside), seenAt(start, beside), number);
+        const CameraPose again = Navigation::withProjection(moved, start.orthographic);
+        expectSamePixel(seenAt(again, beside), seenAt(start, beside), number);
+    }
+}
+
+TEST(nbCameraNavigation, InputThatMakesNoMovementChangesNothing)
+{
+    const CameraPose pose = frontPose();
+    EXPECT_TRUE(isSame(Navigation::orbit(pose, kNan, 1.f, kHeight), pose));
+    EXPECT_TRUE(isSame(Navigation::orbit(pose, 1.f, 1.f, 0), pose));
+    EXPECT_TRUE(isSame(Navigation::pan(pose, 1.f, kNan, kHeight), pose));
+    EXPECT_TRUE(isSame(Navigation::pan(pose, 1.f, 1.f, -1), pose));
+    EXPECT_TRUE(isSame(Navigation::zoom(pose, 0.f), pose));
+    EXPECT_TRUE(isSame(Navigation::zoom(pose, kNan), pose));
+    EXPECT_TRUE(isSame(Navigation::zoom(pose, 0.5f, Pnt3f(kNan, 0.f, 0.f)), pose));
+    EXPECT_TRUE(
+        isSame(Navigation::frame(pose, Pnt3f(1.f, 1.f, 1.f), Pnt3f(0.f, 0.f, 0.f), 1.f), pose));
+
+    CameraPose broken = pose;
+    broken.at = Pnt3f(0.f, kNan, 0.f);
+    EXPECT_EQ(Navigation::orbit(broken, 5.f, 5.f, kHeight).from, pose.from);
+    CameraPose eyeInTheCentre = pose;
+    eyeInTheCentre.from = pose.at;
+    EXPECT_TRUE(Navigation::isFinite(Navigation::zoom(eyeInTheCentre, 0.5f)));
+    EXPECT_TRUE(Navigation::isFinite(Navigation::standardView(eyeInTheCentre, View::Top)));
+}

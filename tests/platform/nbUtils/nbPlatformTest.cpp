@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: MIT
+#include <nbUtils/nbPlatform.h>
+#include <nbUtils/nbUtils.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <clocale>
+#include <cmath>
+#include <limits>
+#include <string>
+
+TEST(nbPlatform, NumbersHaveAPointInEveryLocale)
+{
+    const std::string before = std::setlocale(LC_NUMERIC, nullptr);
+    for (const char* const locale : { "de_DE.UTF-8", "fr_FR.UTF-8", "C" }) {
+        std::setlocale(LC_NUMERIC, locale);  // those that the machine has not stay without effect
+
+        EXPECT_EQ(nbPlatform::numberToText(1234.5678, 2), "1234.57") << locale;
+        double value = 0.0;
+        EXPECT_TRUE(nbPlatform::textToNumber("-12.25", value)) << locale;
+        EXPECT_EQ(value, -12.25) << locale;
+    }
+    std::setlocale(LC_NUMERIC, before.c_str());
+}
+
+TEST(nbPlatform, WritesTheOddNumbers)
+{
+    constexpr double kInfinity = std::numeric_limits<double>::infinity();
+
+    const struct
+    {
+        const char* name;
+        double value;
+        int decimals;
+        const char* text;
+    } rows[] = {
+        { "no minus on what rounds to zero", -0.004, 2, "0.00" },
+        { "negative zero", -0.0, 0, "0" },
+        { "minus on what does not", -0.006, 2, "-0.01" },
+        { "decimals clamped from below", 2.5, -3, "2" },
+        { "not a number", std::nan(""), 2, "nan" },
+        { "infinite", -kInfinity, 2, "-inf" },
+        { "small", 1e-9, 3, "0.000" },
+    };
+
+    for (const auto& row : rows) {
+        EXPECT_EQ(nbPlatform::numberToText(row.value, row.decimals), row.text) << row.name;
+    }
+    EXPECT_EQ(nbPlatform::numberToText(std::numeric_limits<double>::max(), 17).size(), 309u + 18u);
+}
+
+TEST(nbPlatform, RefusesWhatIsNotOneFiniteNumber)
+{
+    for (const char* const text :
+         { "", " ", "1,5", "1.5x", "1 2", "+-1", "nan", "inf", "1e999", "--1", "0x10" }) {
+        double value = 42.0;
+        EXPECT_FALSE(nbPlatform::textToNumber(text, value)) << '"' << text << '"';
+        EXPECT_EQ(value, 42.0) << '"' << text << '"';
+    }
+    double value = 0.0;
+    EXPECT_TRUE(nbPlatform::textToNumber(" \t+1.5e2\n", value));
+    EXPECT_EQ(value, 150.0);
+}
+
+TEST(nbUtils, DecipheringGivesEveryTextBack)
+{
+    std::string bytes;
+    for (int round = 0; round < 3; ++round) {
+        for (int byte = 0; byte < 256; ++byte) {
+            bytes.push_back(static_cast<char>(byte));
+        }
+    }
+    const std::string shader = "uniform mat4 m;\r\nvoid main()\n{\n\tgl_Position = m * p;\n}\n";
+    for (const std::string& plain : { std::string(), bytes, shader }) {
+        EXPECT_EQ(nbUtils::decryptShaderLF(nbUtils::encryptShaderLF(plain)), plain);
+        EXPECT_EQ(nbUtils::encryptShaderLF(nbUtils::decryptShaderLF(plain)), plain);
+    }
+}
+
+TEST(nbUtils, EncipheredTextIsUnreadablePrintableAndKeepsItsLines)
+{
+    const std::string line = "vec4 vec4 vec4";
+    const std::string enciphered = nbUtils::encryptShaderLF(line + "\n" + line);
+
+    EXPECT_EQ(enciphered.find("vec4"), std::string::npos);
+    EXPECT_EQ(enciphered.substr(0, line.size()), enciphered.substr(line.size() + 1));
+    EXPECT_EQ(enciphered[line.size()], '\n');
+    EXPECT_TRUE(std::all_of(enciphered.begin(), enciphered.end(), [](char character) {
+        return character == '\n' || (character >= ' ' && character <= '~');
+    }));
+}
