@@ -1,0 +1,412 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/core/CommandLine.h"
+#include "viewer/core/Session.h"
+#include "viewer/core/SessionNames.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QKeySequence>
+
+#include <cmath>
+
+namespace viewer {
+namespace {
+
+constexpr qint64 kMaxSessionBytes = 64 * 1024 * 1024;
+constexpr double kMaxCoordinate = 1e9;
+
+/// Walks a JSON document and remembers the first thing that is wrong with it, with its path.
+class Reader
+{
+public:
+    explicit Reader(QString& errorText)
+        : error(errorText)
+    {
+    }
+
+    bool readSession(const QJsonObject& object, Session& session);
+
+private:
+    bool fail(const QString& path, const QString& what)
+    {
+        error = path.isEmpty() ? what : path + QStringLiteral(": ") + what;
+        return false;
+    }
+
+    bool checkKeys(const QJsonObject& object, const QString& path, const QStringList& known);
+    bool readNumbers(const QJsonValue& value, const QString& path, double* numbers, int count);
+    bool readString(const QJsonValue& value, const QString& path, QString& text);
+    bool readBool(const QJsonValue& value, const QString& path, bool& flag);
+    bool readInt(const QJsonValue& value, const QString& path, int limit, int& number);
+    bool readSize(const QJsonValue& value, QSize& sizePx);
+    bool readCamera(const QJsonValue& value, SessionCamera& camera);
+    bool readStep(const QJsonValue& value, const QString& path, SessionStep& step);
+    bool readTarget(const QJsonValue& value, const QString& path, SessionTarget& target);
+    bool readNamedTarget(const QJsonObject& object, const QString& path, SessionTarget& target);
+    bool readModifiers(const QJsonValue& value, const QString& path, SessionStep& step);
+    bool readExpectation(const QJsonValue& value, const QString& path, SessionExpectation& expectation);
+    bool checkStep(const QJsonObject& object, const QString& path, const SessionStep& step);
+
+    QString& error;
+};
+
+bool Reader::checkKeys(const QJsonObject& object, const QString& path, const QStringList& known)
+{
+    for (const QString& key : object.keys()) {
+        if (!known.contains(key)) {
+            return fail(path, QStringLiteral("unknown entry \"%1\"").arg(key));
+        }
+    }
+    return true;
+}
+
+bool Reader::readNumbers(const QJsonValue& value, const QString& path, double* numbers, int count)
+{
+    const QJsonArray array = value.toArray();
+    if (!value.isArray() || array.size() != count) {
+        return fail(path, QStringLiteral("expected an array of %1 numbers").arg(count));
+    }
+    for (int i = 0; i < count; ++i) {
+        numbers[i] = array.at(i).toDouble(NAN);
+        if (!array.at(i).isDouble() || !(std::abs(numbers[i]) <= kMaxCoordinate)) {
+            return fail(path, QStringLiteral("expected an array of %1 numbers").arg(count));
+        }
+    }
+    return true;
+}
+
+bool Reader::readString(const QJsonValue& value, const QString& path, QString& text)
+{
+    if (!value.isString()) {
+        return fail(path, QStringLiteral("expected a text"));
+    }
+    text = value.toString();
+    return true;
+}
+
+bool Reader::readBool(const QJsonValue& value, const QString& path, bool& flag)
+{
+    if (!value.isBool()) {
+        return fail(path, QStringLiteral("expected true or false"));
+    }
+    flag = value.toBool();
+    return true;
+}
+
+bool Reader::readInt(const QJsonValue& value, const QString& path, int limit, int& number)
+{
+    const double read = value.toDouble(NAN);
+    if (!value.isDouble() || read != std::floor(read) || !(std::abs(read) <= limit)) {
+        return fail(path, QStringLiteral("expected a whole number up to %1").arg(limit));
+    }
+    number = static_cast<int>(read);
+    return true;
+}
+
+bool Reader::readSize(const QJsonValue& value, QSize& sizePx)
+{
+    double edges[2] = { 0.0, 0.0 };
+    if (!readNumbers(value, QStringLiteral("size"), edges, 2)) {
+        return false;
+    }
+    for (const double edge : edges) {
+        if (edge != std::floor(edge) || edge < kMinViewEdgePx || edge > kMaxViewEdgePx) {
+            return fail(QStringLiteral("size"),
+                        QStringLiteral("expected two whole numbers from %1 to %2").arg(kMinViewEdgePx).arg(kMaxViewEdgePx));
+        }
+    }
+    sizePx = QSize(static_cast<int>(edges[0]), static_cast<int>(edges[1]));
+    return true;
+}
+
+bool Reader::readCamera(const QJsonValue& value, SessionCamera& camera)
+{
+    const QString path = QStringLiteral("camera");
+    const QJsonObject object = value.toObject();
+    if (!value.isObject()) {
+        return fail(path, QStringLiteral("expected an object"));
+    }
+    constexpr double kMaxFovDeg = 179.0;
+    if (!checkKeys(object, path, { "from", "at", "up", "fov", "orthographic", "zUp" })
+        || !readNumbers(object.value("from"), path + ".from", camera.from.data(), 3)
+        || !readNumbers(object.value("at"), path + ".at", camera.at.data(), 3)
+        || !readNumbers(object.value("up"), path + ".up", camera.up.data(), 3)) {
+        return false;
+    }
+    camera.fovDeg = object.value("fov").toDouble(camera.fovDeg);
+    if (!(camera.fovDeg >= 1.0 && camera.fovDeg <= kMaxFovDeg)) {
+        return fail(path + ".fov", QStringLiteral("expected degrees from 1 to 179"));
+    }
+    if (camera.from == camera.at) {
+        return fail(path, QStringLiteral("from and at are the same point"));
+    }
+    return (!object.contains("orthographic")
+            || readBool(object.value("orthographic"), path + ".orthographic", camera.orthographic))
+        && (!object.contains("zUp") || readBool(object.value("zUp"), path + ".zUp", camera.zUp));
+}
+
+bool Reader::readNamedTarget(const QJsonObject& object, const QString& path, SessionTarget& target)
+{
+    if (!checkKeys(object, path, { "handle", "node", "world", "offset" })) {
+        return false;
+    }
+    if (object.contains("offset")) {
+        double offset[2] = { 0.0, 0.0 };
+        if (!readNumbers(object.value("offset"), path + ".offset", offset, 2)) {
+            return false;
+        }
+        target.offsetPx = QPointF(offset[0], offset[1]);
+    }
+    if (object.contains("handle")) {
+        target.kind = SessionTarget::Kind::Handle;
+        return readString(object.value("handle"), path + ".handle", target.name);
+    }
+    if (object.contains("node")) {
+        target.kind = SessionTarget::Kind::Node;
+        return readString(object.value("node"), path + ".node", target.name);
+    }
+    if (object.contains("world")) {
+        target.kind = SessionTarget::Kind::World;
+        return readNumbers(object.value("world"), path + ".world", target.world.data(), 3);
+    }
+    return fail(path, QStringLiteral("expected \"handle\", \"node\" or \"world\""));
+}
+
+bool Reader::readTarget(const QJsonValue& value, const QString& path, SessionTarget& target)
+{
+    if (value.isObject()) {
+        return readNamedTarget(value.toObject(), path, target);
+    }
+    double px[2] = { 0.0, 0.0 };
+    if (!readNumbers(value, path, px, 2)) {
+        return false;
+    }
+    target.kind = SessionTarget::Kind::Pixel;
+    target.offsetPx = QPointF(px[0], px[1]);
+    return true;
+}
+
+bool Reader::readModifiers(const QJsonValue& value, const QString& path, SessionStep& step)
+{
+    if (!value.isArray()) {
+        return fail(path, QStringLiteral("expected an array of names"));
+    }
+    const QJsonArray array = value.toArray();
+    for (const QJsonValue& entry : array) {
+        const auto modifier = modifierFromName(entry.toString());
+        if (!modifier) {
+            return fail(path, QStringLiteral("unknown modifier \"%1\"").arg(entry.toVariant().toString()));
+        }
+        step.modifiers |= *modifier;
+    }
+    return true;
+}
+
+bool Reader::readExpectation(const QJsonValue& value, const QString& path, SessionExpectation& expectation)
+{
+    if (!value.isObject()) {
+        return fail(path, QStringLiteral("expected an object"));
+    }
+    const QJsonObject object = value.toObject();
+    if (!checkKeys(object, path, { "hover", "selection", "orthographic" })) {
+        return false;
+    }
+    QString text;
+    if (object.contains("hover")) {
+        if (!readString(object.value("hover"), path + ".hover", text)) {
+            return false;
+        }
+        expectation.hover = text;
+    }
+    if (object.contains("selection")) {
+        if (!readString(object.value("selection"), path + ".selection", text)) {
+            return false;
+        }
+        expectation.selection = text;
+    }
+    bool flag = false;
+    if (object.contains("orthographic")) {
+        if (!readBool(object.value("orthographic"), path + ".orthographic", flag)) {
+            return false;
+        }
+        expectation.orthographic = flag;
+    }
+    return true;
+}
+
+/// Demands what a step of its type cannot do without.
+bool Reader::checkStep(const QJsonObject& object, const QString& path, const SessionStep& step)
+{
+    using Type = SessionStep::Type;
+    switch (step.type) {
+    case Type::Move:
+    case Type::Press:
+    case Type::Release:
+    case Type::Click:
+    case Type::DoubleClick:
+        return object.contains("at") || fail(path, QStringLiteral("\"at\" is missing"));
+    case Type::Wheel:
+        return (object.contains("at") || fail(path, QStringLiteral("\"at\" is missing")))
+            && (step.wheelDelta != 0 || fail(path, QStringLiteral("\"delta\" is missing or 0")));
+    case Type::Key:
+    case Type::KeyPress:
+    case Type::KeyRelease: {
+        const QKeySequence keys(step.key, QKeySequence::PortableText);
+        const bool isOneKey = keys.count() == 1 && keys[0] != Qt::Key_unknown;
+        const bool isModifier = step.key == "Ctrl" || step.key == "Shift" || step.key == "Alt";
+        return isOneKey || isModifier || fail(path + ".key", QStringLiteral("unknown key \"%1\"").arg(step.key));
+    }
+    case Type::Checkpoint:
+        return (!step.name.isEmpty() || fail(path, QStringLiteral("\"name\" is missing")))
+            && (!step.name.contains(QLatin1Char('/')) && !step.name.contains(QLatin1Char('\\')) && !step.name.startsWith('.')
+                || fail(path + ".name", QStringLiteral("may not be a path")));
+    case Type::Leave:
+        break;
+    }
+    return true;
+}
+
+bool Reader::readStep(const QJsonValue& value, const QString& path, SessionStep& step)
+{
+    if (!value.isObject()) {
+        return fail(path, QStringLiteral("expected an object"));
+    }
+    const QJsonObject object = value.toObject();
+    if (!checkKeys(object, path,
+                   { "type", "at", "button", "modifiers", "delta", "key", "after", "name", "screenshot", "expect" })) {
+        return false;
+    }
+    const auto type = stepTypeFromName(object.value("type").toString());
+    if (!type) {
+        return fail(path + ".type", QStringLiteral("unknown type \"%1\"").arg(object.value("type").toVariant().toString()));
+    }
+    step.type = *type;
+    if (object.contains("button")) {
+        const auto button = buttonFromName(object.value("button").toString());
+        if (!button) {
+            return fail(path + ".button", QStringLiteral("expected \"left\", \"middle\" or \"right\""));
+        }
+        step.button = *button;
+    }
+    constexpr int kMaxDelta = 120000;
+    constexpr int kMaxPauseMs = 60000;
+    const auto has = [&object](const char* key) { return object.contains(QLatin1String(key)); };
+    return (!has("at") || readTarget(object.value("at"), path + ".at", step.at))
+        && (!has("modifiers") || readModifiers(object.value("modifiers"), path + ".modifiers", step))
+        && (!has("delta") || readInt(object.value("delta"), path + ".delta", kMaxDelta, step.wheelDelta))
+        && (!has("after") || readInt(object.value("after"), path + ".after", kMaxPauseMs, step.afterMs))
+        && (!has("key") || readString(object.value("key"), path + ".key", step.key))
+        && (!has("name") || readString(object.value("name"), path + ".name", step.name))
+        && (!has("screenshot") || readBool(object.value("screenshot"), path + ".screenshot", step.screenshot))
+        && (!has("expect") || readExpectation(object.value("expect"), path + ".expect", step.expectation))
+        && checkStep(object, path, step);
+}
+
+bool Reader::readSession(const QJsonObject& object, Session& session)
+{
+    if (!checkKeys(object, {}, { "session", "size", "files", "camera", "selection", "manipulator", "steps" })) {
+        return false;
+    }
+    if (object.value("session").toInt() != 1) {
+        return fail(QStringLiteral("session"), QStringLiteral("expected 1, the version of the format"));
+    }
+    if (!readSize(object.value("size"), session.sizePx)) {
+        return false;
+    }
+    const QJsonArray files = object.value("files").toArray();
+    for (int i = 0; i < files.size(); ++i) {
+        QString file;
+        if (!readString(files.at(i), QStringLiteral("files[%1]").arg(i), file)) {
+            return false;
+        }
+        session.files.append(file);
+    }
+    if (object.contains("camera")) {
+        session.camera.emplace();
+        if (!readCamera(object.value("camera"), *session.camera)) {
+            return false;
+        }
+    }
+    if (object.contains("selection")) {
+        session.selection.emplace();
+        if (!readString(object.value("selection"), QStringLiteral("selection"), *session.selection)) {
+            return false;
+        }
+    }
+    if (object.contains("manipulator")
+        && !readString(object.value("manipulator"), QStringLiteral("manipulator"), session.manipulator)) {
+        return false;
+    }
+    if (!object.value("steps").isArray()) {
+        return fail(QStringLiteral("steps"), QStringLiteral("expected an array"));
+    }
+    const QJsonArray steps = object.value("steps").toArray();
+    for (int i = 0; i < steps.size(); ++i) {
+        SessionStep step;
+        if (!readStep(steps.at(i), QStringLiteral("steps[%1]").arg(i), step)) {
+            return false;
+        }
+        session.steps.push_back(step);
+    }
+    return true;
+}
+
+/// "line 3, column 7" of a byte in a text; both count from 1.
+QString placeInText(const QByteArray& text, int offset)
+{
+    const QByteArray before = text.left(offset);
+    const int line = before.count('\n') + 1;
+    const int column = offset - before.lastIndexOf('\n');
+    return QStringLiteral("line %1, column %2").arg(line).arg(column);
+}
+
+}  // namespace
+
+std::optional<Session> parseSession(const QByteArray& text, QString& error)
+{
+    QJsonParseError jsonError;
+    const QJsonDocument document = QJsonDocument::fromJson(text, &jsonError);
+    if (document.isNull()) {
+        error = QStringLiteral("%1: %2").arg(placeInText(text, jsonError.offset), jsonError.errorString());
+        return std::nullopt;
+    }
+    Session session;
+    if (!document.isObject()) {
+        error = QStringLiteral("expected a JSON object");
+        return std::nullopt;
+    }
+    if (!Reader(error).readSession(document.object(), session)) {
+        return std::nullopt;
+    }
+    return session;
+}
+
+std::optional<Session> readSessionFile(const QString& path, QString& error)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        error = QStringLiteral("%1: %2").arg(path, file.errorString());
+        return std::nullopt;
+    }
+    if (file.size() > kMaxSessionBytes) {
+        error = QStringLiteral("%1: too large for a session").arg(path);
+        return std::nullopt;
+    }
+    QString problem;
+    std::optional<Session> session = parseSession(file.readAll(), problem);
+    if (!session) {
+        error = QStringLiteral("%1: %2").arg(path, problem);
+        return std::nullopt;
+    }
+    const QDir folder = QFileInfo(path).absoluteDir();
+    for (QString& model : session->files) {
+        model = QDir::cleanPath(folder.absoluteFilePath(model));
+    }
+    return session;
+}
+
+}  // namespace viewer
