@@ -134,7 +134,6 @@ uniform vec3 specularColor;
 uniform vec3 emissionColor;
 uniform float shininess;
 uniform float opacity;
-uniform int lit;
 uniform int vertexColors;
 uniform int textureMode;      // 0 none, 1 replace, 2 modulate, 3 blend, 4 decal
 uniform int textureHasColor;
@@ -170,6 +169,9 @@ vec3 shade(vec3 normal, vec3 diffuse)
 }
 vec4 textured(vec4 color)
 {
+    if (textureMode == 0) {
+        return color;
+    }
     vec4 texel = texture(nbTexture, texCoord);
     if (textureMode == 1) {
         return vec4(textureHasColor != 0 ? texel.rgb : color.rgb,
@@ -208,19 +210,22 @@ bool inStippleGap()
 }
 void main()
 {
-    if (stipplePattern != 0xffff && inStippleGap()) {
-        discard;
-    }
     vec4 surface = vertexColors != 0 ? vec4(vertexColor.rgb, vertexColor.a * opacity)
                                      : vec4(diffuseColor, opacity);
     vec3 normal = facingNormal();
-    vec4 color = vec4(lit != 0 ? shade(normal, surface.rgb) : surface.rgb + emissionColor, surface.a);
-    if (textureMode != 0) {
-        color = textured(color);
-    }
-    if (!passesAlphaTest(color.a)) {
+#ifdef LIT
+    vec4 color = vec4(shade(normal, surface.rgb), surface.a);
+#else
+    vec4 color = vec4(surface.rgb + emissionColor, surface.a);
+#endif
+#ifdef TEXTURED
+    color = textured(color);
+#endif
+#ifdef DISCARDS
+    if (!passesAlphaTest(color.a) || (stipplePattern != 0xffff && inStippleGap())) {
         discard;
     }
+#endif
     colorBufferRGBA = color;
     effectBufferRGBA = leavesNoEffect != 0 ? vec4(0.0) : vec4(0.5 * normal + 0.5, 1.0);
 }
@@ -272,10 +277,13 @@ std::string lineVertex()
         kLineVertexBody;
 }
 
-std::string surfaceFragment()
+std::string surfaceFragment(const Features& features)
 {
-    return shaderHeaderString(nbShaderStage::Fragment, true, false, true) + kSurfaceFragmentBody +
-        kSurfaceMain;
+    std::string text = shaderHeaderString(nbShaderStage::Fragment, true, false, true);
+    text += features.lit ? "#define LIT\n" : "";
+    text += features.textured ? "#define TEXTURED\n" : "";
+    text += features.discards ? "#define DISCARDS\n" : "";
+    return text + kSurfaceFragmentBody + kSurfaceMain;
 }
 
 std::string lineGeometry()
