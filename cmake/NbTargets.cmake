@@ -22,3 +22,14 @@ function(nb_test name)
     target_link_libraries(${name} PRIVATE ${NB_LIBRARIES} GTest::gtest GTest::gmock)
     gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST)
 endfunction()
+
+# One test program that needs OpenGL or a window, as one ctest test: nb_gl_test(name SOURCES ... LIBRARIES ...).
+# Without a display it runs on a virtual X server.
+function(nb_gl_test name)
+    cmake_parse_arguments(NB "" "" "SOURCES;LIBRARIES" ${ARGN})
+    add_executable(${name} ${NB_SOURCES})
+    nb_warnings(${name})
+    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
+    target_link_libraries(${name} PRIVATE ${NB_LIBRARIES} GTest::gtest GTest::gmock)
+    add_test(NAME ${name} COMMAND ${PROJECT_SOURCE_DIR}/tests/support/with-display.sh $<TARGET_FILE:${name}>)
+endfunction()

@@ -365,6 +365,8 @@ void InputTranslator::pointTo(const QPointF& logical, Qt::KeyboardModifiers modi
 {
     pointerPx = toDevicePixels(logical);
     if (nbOSGWidget* const view = currentWidget()) {
+        // Pickers and manipulators work in the main view.
+        view->setMain();
         view->setMousePosition(pointerPx);
     }
     manager.pointerMoved(pointerPx);

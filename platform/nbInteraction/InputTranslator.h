@@ -33,11 +33,11 @@ class InteractionManager;
 /// - Wheel and touchpad scroll: "trigger", tool "camera", hint "zoom", amount in wheel steps.
 /// - Ctrl held, released: mode "precisionTool", "tool".
 ///
-/// The widget's pointer is set and pointerMoved goes out before the event of the same input; each
-/// move is passed on by itself. A double click counts as a press. A second button, a lost focus or
-/// grab, and hiding or closing the view end a drag with "stop"; Esc and the right button also take
-/// it back. Nothing new begins until all buttons are up; then a hover is sent at the release
-/// position (a "stopHover" if it lies outside of the view).
+/// The view under the pointer becomes the main one, its pointer is set, and pointerMoved goes out
+/// before the event of the same input; each move is passed on by itself. A double click counts as a
+/// press. A second button, a lost focus or grab, and hiding or closing the view end a drag with
+/// "stop"; Esc and the right button also take it back. Nothing new begins until all buttons are up;
+/// then a hover is sent at the release position (a "stopHover" if it lies outside of the view).
 class NB_PLATFORM_API InputTranslator
 {
 public:

@@ -17,6 +17,7 @@ constexpr double kHandleDepth = 0.1;
 /// course differ by through rounding, far less than the thickness of any handle.
 constexpr float kUnitsPerDepthStep = 16.f;
 constexpr GLuint kEffectBuffer = 1;
+constexpr osg::UInt16 kSolidLine = 0xffff;
 constexpr float kPointSize = 1.f;  ///< logical pixels
 
 osg::FieldContainerPtr resolve(osg::UInt32 id)
@@ -226,7 +227,6 @@ void ItemPainter::setMaterial(GlProgram& program, const RenderItem& item, const 
     program.set(gl, "shininess", state.shininess);
     const bool covers = item.handle && !item.blended;
     program.set(gl, "opacity", covers ? 1.f : state.alpha);
-    program.set(gl, "lit", GLint(state.lit && isSurface ? 1 : 0));
     program.set(gl, "vertexColors", GLint(hasColors && state.usesVertexColors ? 1 : 0));
     constexpr GLenum kFirstComparison = GL_NEVER;
     program.set(gl, "alphaTest", static_cast<GLint>(state.alphaFunc - kFirstComparison));
@@ -236,29 +236,52 @@ void ItemPainter::setMaterial(GlProgram& program, const RenderItem& item, const 
     program.set(gl, "leavesNoEffect", GLint(item.handle ? 1 : 0));
     program.set(gl, "pointSize", kPointSize * view.pixelRatio);
     program.set(gl, "lineWidth", state.lineWidth * view.pixelRatio);
-    program.set(gl, "stipplePattern", GLint(isSurface ? 0xffff : state.stipplePattern));
+    program.set(gl, "stipplePattern", GLint(isSurface ? kSolidLine : state.stipplePattern));
     program.set(gl, "stippleRepeat", static_cast<float>(state.stippleRepeat) * view.pixelRatio);
 }
 
-void ItemPainter::setTexture(GlProgram& program, const DrawState& state, bool isSurface)
+bool ItemPainter::bindTexture(const DrawState& state)
 {
-    const auto chunk = osg::TextureChunkPtr::dcast(resolve(state.textureId));
-    GpuTexture texture;
-    if (isSurface && chunk != osg::NullFC) {
-        texture = textures.get(gl, chunk);
-    }
-    program.set(gl, "textureMode",
-                texture.name == 0 ? GLint(0) : textureModeNumber(chunk->getEnvMode()));
-    if (texture.name == 0) {
-        return;
-    }
+    boundChunk = osg::TextureChunkPtr::dcast(resolve(state.textureId));
+    boundTexture = boundChunk == osg::NullFC ? GpuTexture() : textures.get(gl, boundChunk);
     gl.glActiveTexture(GL_TEXTURE0);
-    gl.glBindTexture(GL_TEXTURE_2D, texture.name);
+    gl.glBindTexture(GL_TEXTURE_2D, boundTexture.name);
+    return boundTexture.name != 0;
+}
+
+void ItemPainter::setTexture(GlProgram& program)
+{
+    const bool isBound = boundTexture.name != 0;
+    program.set(gl, "textureMode",
+                isBound ? textureModeNumber(boundChunk->getEnvMode()) : GLint(0));
     program.set(gl, "nbTexture", GLint(0));
-    program.set(gl, "textureHasColor", GLint(texture.hasColor ? 1 : 0));
-    program.set(gl, "textureHasAlpha", GLint(texture.hasAlpha ? 1 : 0));
-    const osg::Color4f& color = chunk->getEnvColor();
-    program.set(gl, "textureEnvColor", color.red(), color.green(), color.blue(), color.alpha());
+    if (isBound) {
+        program.set(gl, "textureHasColor", GLint(boundTexture.hasColor ? 1 : 0));
+        program.set(gl, "textureHasAlpha", GLint(boundTexture.hasAlpha ? 1 : 0));
+        const osg::Color4f& color = boundChunk->getEnvColor();
+        program.set(gl, "textureEnvColor", color.red(), color.green(), color.blue(), color.alpha());
+    }
+}
+
+GlProgram* ItemPainter::prepareMaterial(const RenderItem& item, const DrawState& state,
+                                        ShaderPrograms::Shape shape, bool isSurface, bool hasColors)
+{
+    const bool isLine = shape == ShaderPrograms::Shape::Line;
+    shaders::Features features;
+    features.lit = state.lit && isSurface;
+    features.textured = isSurface && bindTexture(state);
+    features.discards =
+        state.alphaFunc != GL_ALWAYS || (isLine && state.stipplePattern != kSolidLine);
+    GlProgram* program = programs.getMaterialProgram(gl, shape, features);
+    if (program != nullptr) {
+        program->use(gl);
+        setPlace(*program, item);
+        setMaterial(*program, item, state, isSurface, hasColors);
+        if (features.textured) {
+            setTexture(*program);
+        }
+    }
+    return program;
 }
 
 GlProgram* ItemPainter::prepareShaderChunk(const RenderItem& item, const DrawState& state,
@@ -269,19 +292,18 @@ GlProgram* ItemPainter::prepareShaderChunk(const RenderItem& item, const DrawSta
     if (program != nullptr) {
         setPlace(*program, item);
         setMaterial(*program, item, state, !lines, false);
-        setTexture(*program, state, true);
+        bindTexture(state);
+        setTexture(*program);
     }
     return program;
 }
 
 void ItemPainter::drawSurfaces(const RenderItem& item, const DrawState& state, const GpuMesh& mesh)
 {
-    if (prepareShaderChunk(item, state, false) == nullptr) {
-        GlProgram& program = programs.getStandard(ShaderPrograms::Standard::Surface);
-        program.use(gl);
-        setPlace(program, item);
-        setMaterial(program, item, state, true, mesh.hasColors);
-        setTexture(program, state, true);
+    constexpr auto kShape = ShaderPrograms::Shape::Surface;
+    if (prepareShaderChunk(item, state, false) == nullptr &&
+        prepareMaterial(item, state, kShape, true, mesh.hasColors) == nullptr) {
+        return;
     }
     gl.glBindVertexArray(mesh.surfaces);
     gl.glDrawElements(GL_TRIANGLES, mesh.triangleIndexCount, GL_UNSIGNED_INT, nullptr);
@@ -297,23 +319,20 @@ void ItemPainter::drawLines(const RenderItem& item, const DrawState& state, cons
         gl.glDrawArrays(GL_LINES, 0, 2 * mesh.lineCount);
         return;
     }
-    GlProgram& program = programs.getStandard(ShaderPrograms::Standard::Line);
-    program.use(gl);
-    setPlace(program, item);
-    setMaterial(program, item, state, false, mesh.hasColors);
-    setTexture(program, state, false);
-    gl.glBindVertexArray(mesh.lines);
-    gl.glDrawArraysInstanced(GL_TRIANGLE_FAN, 0, shaders::kLinePolygonVertices, mesh.lineCount);
+    constexpr auto kShape = ShaderPrograms::Shape::Line;
+    if (prepareMaterial(item, state, kShape, false, mesh.hasColors) != nullptr) {
+        gl.glBindVertexArray(mesh.lines);
+        gl.glDrawArraysInstanced(GL_TRIANGLE_STRIP, 0, shaders::kLinePolygonVertices,
+                                 mesh.lineCount);
+    }
 }
 
 void ItemPainter::drawPoints(const RenderItem& item, const DrawState& state, const GpuMesh& mesh)
 {
-    if (prepareShaderChunk(item, state, false) == nullptr) {
-        GlProgram& program = programs.getStandard(ShaderPrograms::Standard::Surface);
-        program.use(gl);
-        setPlace(program, item);
-        setMaterial(program, item, state, false, mesh.hasColors);
-        setTexture(program, state, false);
+    constexpr auto kShape = ShaderPrograms::Shape::Surface;
+    if (prepareShaderChunk(item, state, false) == nullptr &&
+        prepareMaterial(item, state, kShape, false, mesh.hasColors) == nullptr) {
+        return;
     }
     gl.glBindVertexArray(mesh.points);
     gl.glDrawArrays(GL_POINTS, 0, mesh.pointCount);

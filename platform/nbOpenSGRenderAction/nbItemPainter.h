@@ -50,11 +50,17 @@ private:
     void applyDepth(const RenderItem& item, const DrawState& state);
     void applyBlending(const RenderItem& item, const DrawState& state);
     void applyPolygons(const RenderItem& item, const DrawState& state);
-    GlProgram* prepareShaderChunk(const RenderItem& item, const DrawState& state, bool lines);
     void setPlace(GlProgram& program, const RenderItem& item);
     void setMaterial(GlProgram& program, const RenderItem& item, const DrawState& state,
                      bool isSurface, bool hasColors);
-    void setTexture(GlProgram& program, const DrawState& state, bool isSurface);
+    /// Binds the state's texture, or none. @return whether there is one
+    bool bindTexture(const DrawState& state);
+    void setTexture(GlProgram& program);
+    /// A program for the state, in use and with its values; null if the driver refuses it.
+    GlProgram* prepareMaterial(const RenderItem& item, const DrawState& state,
+                               ShaderPrograms::Shape shape, bool isSurface, bool hasColors);
+    /// The same for the state's shader chunk; null without one, or with a broken one.
+    GlProgram* prepareShaderChunk(const RenderItem& item, const DrawState& state, bool lines);
     void drawSurfaces(const RenderItem& item, const DrawState& state, const GpuMesh& mesh);
     void drawLines(const RenderItem& item, const DrawState& state, const GpuMesh& mesh);
     void drawPoints(const RenderItem& item, const DrawState& state, const GpuMesh& mesh);
@@ -64,6 +70,8 @@ private:
     GpuTextures& textures;
     ShaderPrograms& programs;
     const FrameView& view;
+    osg::TextureChunkPtr boundChunk;
+    GpuTexture boundTexture;
 };
 
 }  // namespace nbrender

@@ -17,9 +17,9 @@ namespace nbrender {
 
 namespace {
 
-std::string orDefault(const std::string& text, std::string (*standard)())
+std::string orDefault(const std::string& text, const std::string& standard)
 {
-    return text.empty() ? standard() : text;
+    return text.empty() ? standard : text;
 }
 
 /// Sets one parameter if it is of the class that the pointer type names.
@@ -62,10 +62,26 @@ bool ShaderPrograms::initialise(Gl& gl, std::string& error)
     const auto build = [&](Standard which, const std::string& vertex, const std::string& fragment) {
         return getStandard(which).build(gl, vertex, std::string(), fragment, error);
     };
-    return build(Standard::Surface, surfaceVertex(), surfaceFragment()) &&
-        build(Standard::Line, lineVertex(), surfaceFragment()) &&
-        build(Standard::Background, fullScreenVertex(), gradientFragment()) &&
+    return build(Standard::Background, fullScreenVertex(), gradientFragment()) &&
         build(Standard::Present, fullScreenVertex(), presentFragment());
+}
+
+GlProgram* ShaderPrograms::getMaterialProgram(Gl& gl, Shape shape,
+                                              const shaders::Features& features)
+{
+    const std::size_t index = (shape == Shape::Line ? 8U : 0U) + (features.lit ? 4U : 0U) +
+        (features.textured ? 2U : 0U) + (features.discards ? 1U : 0U);
+    GlProgram& program = material[index];
+    if (!materialTried[index]) {
+        materialTried[index] = true;
+        std::string error;
+        const std::string vertex =
+            shape == Shape::Line ? shaders::lineVertex() : shaders::surfaceVertex();
+        if (!program.build(gl, vertex, std::string(), shaders::surfaceFragment(features), error)) {
+            nbLog::error("a program for materials does not compile on this driver: " + error);
+        }
+    }
+    return program.isUsable() ? &program : nullptr;
 }
 
 GlProgram* ShaderPrograms::use(Gl& gl, const osg::SHLChunkPtr& chunk, bool lines)
@@ -91,8 +107,9 @@ GlProgram* ShaderPrograms::use(Gl& gl, const osg::SHLChunkPtr& chunk, bool lines
 
 void ShaderPrograms::build(Gl& gl, const osg::SHLChunkPtr& chunk, Entry& entry)
 {
-    const std::string vertex = orDefault(chunk->getVertexProgram(), shaders::surfaceVertex);
-    const std::string fragment = orDefault(chunk->getFragmentProgram(), shaders::surfaceFragment);
+    const std::string vertex = orDefault(chunk->getVertexProgram(), shaders::surfaceVertex());
+    const std::string fragment =
+        orDefault(chunk->getFragmentProgram(), shaders::surfaceFragment(shaders::Features()));
     const std::string& geometry = chunk->getGeometryProgram();
     std::string error;
     if (!entry.surface.build(gl, vertex, geometry, fragment, error)) {
@@ -135,18 +152,18 @@ void ShaderPrograms::release(Gl& gl)
         entry.surface.destroy(gl);
         entry.line.destroy(gl);
     }
-    entries.clear();
     for (GlProgram& program : standard) {
         program.destroy(gl);
     }
+    for (GlProgram& program : material) {
+        program.destroy(gl);
+    }
+    forget();
 }
 
 void ShaderPrograms::forget()
 {
-    entries.clear();
-    for (GlProgram& program : standard) {
-        program = GlProgram();
-    }
+    *this = ShaderPrograms();
 }
 
 }  // namespace nbrender

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <nbOpenSGRenderAction/nbGlProgram.h>
+#include <nbOpenSGRenderAction/nbStandardShaders.h>
 
 #include <OpenSG/OSGSHLChunk.h>
 
@@ -14,19 +15,28 @@ namespace nbrender {
 class ShaderPrograms
 {
 public:
+    /// Programs that every frame needs.
     enum class Standard
     {
-        Surface,
-        Line,
         Background,
         Present
     };
+    /// What a material is drawn on.
+    enum class Shape
+    {
+        Surface,
+        Line
+    };
 
-    /// Compiles the renderer's own programs.
+    /// Compiles the renderer's own programs, as far as every frame needs them.
     /// @param error  receives a line on failure
     bool initialise(Gl& gl, std::string& error);
 
     GlProgram& getStandard(Standard which) { return standard[static_cast<std::size_t>(which)]; }
+
+    /// Program for materials, compiled on first use; null if the driver refuses it, of which the
+    /// log has a line.
+    GlProgram* getMaterialProgram(Gl& gl, Shape shape, const shaders::Features& features);
 
     /// Program of a shader chunk, with its parameters set and in use.
     /// @param lines  the program draws lines: without a geometry program of its own it gets one
@@ -50,7 +60,11 @@ private:
     static void build(Gl& gl, const osg::SHLChunkPtr& chunk, Entry& entry);
     static void setParameters(Gl& gl, const osg::SHLChunkPtr& chunk, GlProgram& program);
 
-    GlProgram standard[4];
+    static constexpr std::size_t kMaterialPrograms = 16;
+
+    GlProgram standard[2];
+    GlProgram material[kMaterialPrograms];
+    bool materialTried[kMaterialPrograms] = {};
     std::unordered_map<osg::UInt32, Entry> entries;
 };
 

@@ -50,17 +50,25 @@ vec2 lineInPx(vec4 a, vec4 b)
 {
     return (b.xy / b.w - a.xy / a.w) * 0.5 * nbViewportSize;
 }
-vec4 lineCorner(vec4 a, vec4 b, int corner)
+// Corners in the order of a strip across the line: small triangles for the ends, two for the length.
+const int kCorners[14] = int[14](3, 2, 4, 1, 5, 0, 6, 13, 7, 12, 8, 11, 9, 10);
+vec4 lineCorner(vec4 a, vec4 b, int vertex)
 {
     vec2 along = lineInPx(a, b);
     float lengthPx = length(along);
     along = lengthPx > 1e-6 ? along / lengthPx : vec2(1.0, 0.0);
+    int corner = kCorners[vertex];
     bool atEnd = corner < 7;
     float angle = (float(corner % 7) / 6.0 - 0.5) * 3.14159265;
-    vec2 offsetPx = cos(angle) * along + sin(angle) * vec2(-along.y, along.x);
-    offsetPx *= (atEnd ? 0.5 : -0.5) * lineWidth;
+    float side = (atEnd ? 0.5 : -0.5) * lineWidth;
+    float beyondPx = cos(angle) * side;
+    vec2 offsetPx = beyondPx * along + sin(angle) * side * vec2(-along.y, along.x);
     vec4 place = atEnd ? b : a;
     place.xy += offsetPx * 2.0 / nbViewportSize * place.w;
+    // The depth goes on at the line's slope, so that coincident lines of other lengths have the same.
+    if (lengthPx > lineWidth) {
+        place.z += beyondPx / lengthPx * (b.z / b.w - a.z / a.w) * place.w;
+    }
     return place;
 }
 )";
@@ -82,7 +90,7 @@ void main()
     viewPosition = vec3(0.0, 0.0, -1.0);
     viewNormal = vec3(0.0);
     texCoord = vec2(0.0);
-    bool atEnd = gl_VertexID < 7;
+    bool atEnd = kCorners[gl_VertexID] < 7;
     vertexColor = atEnd ? endColor : startColor;
     lineDistancePx = 0.0;
     if (!cutAtNearPlane(a, b)) {
@@ -104,10 +112,8 @@ void main()
     if (!cutAtNearPlane(a, b)) {
         return;
     }
-    for (int i = 0; i < 7; ++i) {
+    for (int i = 0; i < 14; ++i) {
         gl_Position = lineCorner(a, b, i);
-        EmitVertex();
-        gl_Position = lineCorner(a, b, 13 - i);
         EmitVertex();
     }
     EndPrimitive();
@@ -128,7 +134,6 @@ uniform vec3 specularColor;
 uniform vec3 emissionColor;
 uniform float shininess;
 uniform float opacity;
-uniform int lit;
 uniform int vertexColors;
 uniform int textureMode;      // 0 none, 1 replace, 2 modulate, 3 blend, 4 decal
 uniform int textureHasColor;
@@ -164,6 +169,9 @@ vec3 shade(vec3 normal, vec3 diffuse)
 }
 vec4 textured(vec4 color)
 {
+    if (textureMode == 0) {
+        return color;
+    }
     vec4 texel = texture(nbTexture, texCoord);
     if (textureMode == 1) {
         return vec4(textureHasColor != 0 ? texel.rgb : color.rgb,
@@ -202,19 +210,22 @@ bool inStippleGap()
 }
 void main()
 {
-    if (stipplePattern != 0xffff && inStippleGap()) {
-        discard;
-    }
     vec4 surface = vertexColors != 0 ? vec4(vertexColor.rgb, vertexColor.a * opacity)
                                      : vec4(diffuseColor, opacity);
     vec3 normal = facingNormal();
-    vec4 color = vec4(lit != 0 ? shade(normal, surface.rgb) : surface.rgb + emissionColor, surface.a);
-    if (textureMode != 0) {
-        color = textured(color);
-    }
-    if (!passesAlphaTest(color.a)) {
+#ifdef LIT
+    vec4 color = vec4(shade(normal, surface.rgb), surface.a);
+#else
+    vec4 color = vec4(surface.rgb + emissionColor, surface.a);
+#endif
+#ifdef TEXTURED
+    color = textured(color);
+#endif
+#ifdef DISCARDS
+    if (!passesAlphaTest(color.a) || (stipplePattern != 0xffff && inStippleGap())) {
         discard;
     }
+#endif
     colorBufferRGBA = color;
     effectBufferRGBA = leavesNoEffect != 0 ? vec4(0.0) : vec4(0.5 * normal + 0.5, 1.0);
 }
@@ -266,10 +277,13 @@ std::string lineVertex()
         kLineVertexBody;
 }
 
-std::string surfaceFragment()
+std::string surfaceFragment(const Features& features)
 {
-    return shaderHeaderString(nbShaderStage::Fragment, true, false, true) + kSurfaceFragmentBody +
-        kSurfaceMain;
+    std::string text = shaderHeaderString(nbShaderStage::Fragment, true, false, true);
+    text += features.lit ? "#define LIT\n" : "";
+    text += features.textured ? "#define TEXTURED\n" : "";
+    text += features.discards ? "#define DISCARDS\n" : "";
+    return text + kSurfaceFragmentBody + kSurfaceMain;
 }
 
 std::string lineGeometry()

@@ -45,8 +45,8 @@ protected:
         osg::endEditCP(camera);
     }
 
+    CameraManipulator cross;  // outlives the scene, which deactivates it
     GizmoScene scene;
-    CameraManipulator cross;
 };
 
 }  // namespace
@@ -163,10 +163,10 @@ TEST(CameraManipulator, ModesAreComparedExactly)
 
 TEST(CameraManipulator, DestroyingOneLeavesTheOthersFollowing)
 {
-    GizmoScene scene;
     CameraManipulator first;
     auto second = std::make_unique<CameraManipulator>();
     CameraManipulator third;
+    GizmoScene scene;
     const CameraManipulator copy(third);
     scene.install(third);
     third.setNode(scene.node);

@@ -82,12 +82,12 @@ INSTANTIATE_TEST_SUITE_P(
                    { "reset selectThrough" },
                    true },
         EventRow { "SelectThroughProcess", "process", "tool", "selectThrough", {}, true },
-        EventRow { "ModeStart", "start", "mode", "tool", { "hover tool" }, true },
+        EventRow { "ModeStart", "start", "mode", "tool", { "hover tool", "mode tool" }, true },
         EventRow { "ModeStop", "stop", "mode", "tool", { "reset tool" }, true },
         EventRow { "ModeProcess", "process", "mode", "tool", {}, true },
-        EventRow { "ModeOfOtherTool", "start", "mode", "zoom", {}, true },
+        EventRow { "ModeOfOtherTool", "start", "mode", "zoom", { "mode zoom" }, true },
         EventRow { "Empty", "", "", "", {}, true }),
-    [](const testing::TestParamInfo<EventRow>& info) { return std::string(info.param.name); });
+    [](const testing::TestParamInfo<EventRow>& row) { return std::string(row.param.name); });
 
 TEST(ManipulatorInteractionContext, ReturnsTheManipulatorsAnswer)
 {

@@ -100,8 +100,8 @@ protected:
         return shown;
     }
 
+    Gizmo gizmo;  // outlives the scene, which deactivates it
     GizmoScene scene;
-    Gizmo gizmo;
 };
 
 }  // namespace
@@ -506,8 +506,8 @@ TEST(UniversalTransformManipulator2, ConstructionAndDestructionLeaveNothing)
 
 TEST(UniversalTransformManipulator2, ANewSizeReachesTheSharedInstanceAtOnceAndOthersLater)
 {
-    GizmoScene scene;
     Gizmo gizmo;
+    GizmoScene scene;
     gizmo.setNode(scene.node);
     scene.install(gizmo);
     const osg::NodePtr tree = gizmo.getVisualisation()->getChild(3)->getChild(0);

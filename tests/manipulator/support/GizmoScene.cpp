@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/manipulator/support/GizmoScene.h"
 
-#include "manipulator/AbstractManipulator.h"
-
 #include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGExt/Transform3D.h>
 #include <nbOpenSGUberCamera/UberCamera.h>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "manipulator/AbstractManipulator.h"
 #include "manipulator/ManipulatorInteractionContext.h"
 
 #include <nbInteraction/InteractionManager.h>

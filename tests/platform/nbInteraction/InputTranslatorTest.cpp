@@ -318,6 +318,20 @@ TEST_F(InputTranslatorTest, WheelAndTouchpadZoomInSteps)
     EXPECT_THAT(takeEvents(), IsEmpty());
 }
 
+TEST_F(InputTranslatorTest, ViewUnderThePointerBecomesTheMainOne)
+{
+    nbOSGWidget second;
+    InputTranslator ofSecond(manager, &second);
+    ASSERT_TRUE(widget.isMain());
+
+    QMouseEvent event(QEvent::MouseMove, QPointF(5, 6), Qt::NoButton, Qt::NoButton, kNone);
+    ofSecond.handleEvent(event);
+
+    EXPECT_TRUE(second.isMain());
+    EXPECT_EQ(osg::Pnt2f(5, 6), second.getMousePosition());
+    EXPECT_NE(osg::Pnt2f(5, 6), widget.getMousePosition());
+}
+
 TEST_F(InputTranslatorTest, OnlyWhatChangesTheWorldAsksForARedraw)
 {
     nbScenegraph::getWorldRoot();

@@ -21,10 +21,10 @@ using testing::IsEmpty;
 class ToolInteractionContextTest : public testing::Test
 {
 protected:
-    bool send(const std::string& event, const std::string& tool = "tool",
+    bool send(const std::string& event, const std::string& toolName = "tool",
               const std::string& hint = "select")
     {
-        return manager.triggerEvent(InteractionEvent(event, tool, hint));
+        return manager.triggerEvent(InteractionEvent(event, toolName, hint));
     }
 
     CallLog log;

@@ -1,0 +1,29 @@
+# SPDX-License-Identifier: MIT
+# Installs the build into a fresh prefix, builds examples/ with find_package(nbManipulator) and checks what it prints, and that the README
+# shows the program as it is.
+
+function(run)
+    execute_process(COMMAND ${ARGN} RESULT_VARIABLE status OUTPUT_VARIABLE output ERROR_VARIABLE errors)
+    if(NOT status EQUAL 0)
+        list(JOIN ARGN " " call)
+        message(FATAL_ERROR "${call}\nended with ${status}\n${output}${errors}")
+    endif()
+    set(output "${output}" PARENT_SCOPE)
+endfunction()
+
+file(REMOVE_RECURSE ${SCRATCH}/prefix ${SCRATCH}/example)
+run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${SCRATCH}/prefix)
+run(${CMAKE_COMMAND} -G Ninja -S ${SOURCE}/examples -B ${SCRATCH}/example -DCMAKE_BUILD_TYPE=Release
+    -DCMAKE_PREFIX_PATH=${SCRATCH}/prefix -DCMAKE_CXX_COMPILER=${COMPILER} -DCMAKE_CXX_FLAGS=${FLAGS})
+run(${CMAKE_COMMAND} --build ${SCRATCH}/example)
+run(${SCRATCH}/example/first_gizmo)
+if(NOT output STREQUAL "xaShape\n")
+    message(FATAL_ERROR "the example printed \"${output}\" instead of xaShape")
+endif()
+
+file(READ ${SOURCE}/examples/first_gizmo.cpp program)
+file(READ ${SOURCE}/README.md readme)
+string(FIND "${readme}" "${program}" position)
+if(position EQUAL -1)
+    message(FATAL_ERROR "README.md does not show examples/first_gizmo.cpp as it is")
+endif()

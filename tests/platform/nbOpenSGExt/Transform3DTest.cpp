@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: MIT
+#include <nbOpenSGExt/Transform3D.h>
+#include <nbOpenSGExt/nbEulerRotation.h>
+#include <nbOpenSGUtils/nbEdit.h>
+
+#include <OpenSG/OSGRefPtr.h>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <string>
+
+namespace {
+
+constexpr float kTolerance = 2e-6f;
+constexpr float kAngleToleranceDeg = 2e-3f;
+
+osg::Transform3DRefPtr makeTransform()
+{
+    return osg::Transform3DRefPtr(osg::Transform3D::create());
+}
+
+void expectImage(const osg::Matrix& matrix, const osg::Pnt3f& point, const osg::Pnt3f& expected)
+{
+    osg::Pnt3f image;
+    matrix.multMatrixPnt(point, image);
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        EXPECT_NEAR(image[i], expected[i], kTolerance) << "component " << i;
+    }
+}
+
+}  // namespace
+
+TEST(Transform3D, MatrixTakesItsPartsInOrder)
+{
+    const osg::Transform3DRefPtr transform = makeTransform();
+    {
+        const nbEdit edit(transform.get(), osg::FieldBits::AllFields);
+        transform->setTranslation(osg::Vec3f(1.f, 2.f, 3.f));
+        transform->setRotatePivot(osg::Vec3f(1.f, 0.f, 0.f));
+        transform->setScalePivot(osg::Vec3f(0.f, 1.f, 0.f));
+        transform->setRotation(osg::Vec3f(0.f, 0.f, 90.f));
+        transform->setScale(osg::Vec3f(2.f, 3.f, 4.f));
+    }
+
+    // (1,1,1): about the scale pivot (2,1,4), about the rotate pivot (0,1,4), moved (1,3,7).
+    expectImage(transform->getMatrix(), osg::Pnt3f(1.f, 1.f, 1.f), osg::Pnt3f(1.f, 3.f, 7.f));
+
+    {
+        const nbEdit edit(transform.get(), osg::Transform3D::RotationOrientationFieldMask);
+        transform->setRotationOrientation(osg::Quaternion(osg::Vec3f(1.f, 0.f, 0.f), osg::Pi / 2));
+    }
+
+    // From the rotate pivot (1,1,4): the orientation turns first, (1,-4,1), then the rotation,
+    // (4,1,1).
+    expectImage(transform->getMatrix(), osg::Pnt3f(1.f, 1.f, 1.f), osg::Pnt3f(6.f, 3.f, 4.f));
+}
+
+TEST(Transform3D, MatrixFollowsOnlyWhenAnEditOfAPartEnds)
+{
+    const osg::Transform3DRefPtr transform = makeTransform();
+    const osg::Pnt3f origin(0.f, 0.f, 0.f);
+
+    osg::beginEditCP(transform.get(), osg::Transform3D::TranslationFieldMask);
+    transform->setTranslation(osg::Vec3f(5.f, 0.f, 0.f));
+    expectImage(transform->getMatrix(), origin, origin);
+    osg::endEditCP(transform.get(), osg::Transform3D::TranslationFieldMask);
+
+    expectImage(transform->getMatrix(), origin, osg::Pnt3f(5.f, 0.f, 0.f));
+}
+
+TEST(Transform3D, RotationModesShareOneRotation)
+{
+    const osg::Transform3DRefPtr transform = makeTransform();
+    const osg::Quaternion quarterTurn(osg::Vec3f(0.f, 1.f, 0.f), osg::Pi / 2);
+
+    transform->setRotation(quarterTurn);
+    EXPECT_EQ(transform->getRotationMode(), osg::Transform3D::QuaternionMode);
+    EXPECT_NEAR(transform->getRotation().y(), 90.f, kAngleToleranceDeg);
+
+    transform->setRotation(osg::Vec3f(30.f, 0.f, 0.f));
+    EXPECT_EQ(transform->getRotationMode(), osg::Transform3D::EulerMode);
+    EXPECT_NEAR(transform->getRotationAsQuaternion().x(), std::sin(osg::Pi / 12), kTolerance);
+
+    transform->setRotationMode(osg::Transform3D::AxisAlignedMode);
+    transform->setRotation(quarterTurn);
+    EXPECT_EQ(transform->getRotationMode(), osg::Transform3D::AxisAlignedMode);
+    EXPECT_NEAR(transform->getEulerRotation().y(), 90.f, kAngleToleranceDeg);
+}
+
+TEST(Transform3D, RotationMaskRebuildsTheMatrix)
+{
+    const osg::Transform3DRefPtr transform = makeTransform();
+    {
+        const nbEdit edit(transform.get(), osg::Transform3D::RotationFieldMask);
+        transform->setRotation(osg::Quaternion(osg::Vec3f(0.f, 0.f, 1.f), osg::Pi / 2));
+    }
+
+    expectImage(transform->getMatrix(), osg::Pnt3f(1.f, 0.f, 0.f), osg::Pnt3f(0.f, 1.f, 0.f));
+}
+
+TEST(nbEulerRotation, OrderSaysWhichAxisTurnsFirst)
+{
+    const osg::Vec3f angles(90.f, 90.f, 0.f);
+
+    struct Row
+    {
+        const char* order;
+        osg::Vec3f imageOfY;
+    };
+
+    // x takes y to z, y takes z to x.
+    const Row rows[] = { { "xyz", osg::Vec3f(1.f, 0.f, 0.f) },
+                         { "yxz", osg::Vec3f(0.f, 0.f, 1.f) },
+                         { "YXZ", osg::Vec3f(0.f, 0.f, 1.f) },
+                         { "nonsense", osg::Vec3f(1.f, 0.f, 0.f) },
+                         { "xxz", osg::Vec3f(1.f, 0.f, 0.f) } };
+    for (const Row& row : rows) {
+        osg::Vec3f image;
+        nbEulerRotation::toQuaternion(angles, row.order).multVec(osg::Vec3f(0.f, 1.f, 0.f), image);
+        EXPECT_TRUE(image.equals(row.imageOfY, kTolerance)) << row.order;
+    }
+}
+
+TEST(nbEulerRotation, AnglesComeBackInEveryOrder)
+{
+    for (const char* order : { "xyz", "yzx", "zxy", "xzy", "zyx", "yxz" }) {
+        // The middle angle is the one of the second letter; it must stay below a quarter turn.
+        osg::Vec3f angles(100.f, 100.f, 100.f);
+        angles[static_cast<osg::UInt32>(order[0] - 'x')] = 20.f;
+        angles[static_cast<osg::UInt32>(order[1] - 'x')] = -50.f;
+
+        const osg::Vec3f back =
+            nbEulerRotation::fromQuaternion(nbEulerRotation::toQuaternion(angles, order), order);
+
+        EXPECT_TRUE(back.equals(angles, kAngleToleranceDeg)) << order;
+    }
+}
+
+TEST(nbEulerRotation, GimbalLockKeepsTheRotation)
+{
+    for (const char* order : { "xyz", "yzx", "zxy", "xzy", "zyx", "yxz" }) {
+        for (const float middle : { 90.f, -90.f }) {
+            osg::Vec3f angles(35.f, 35.f, 35.f);
+            angles[static_cast<osg::UInt32>(order[1] - 'x')] = middle;
+            const osg::Quaternion rotation = nbEulerRotation::toQuaternion(angles, order);
+
+            const osg::Vec3f back = nbEulerRotation::fromQuaternion(rotation, order);
+
+            const osg::Quaternion again = nbEulerRotation::toQuaternion(back, order);
+            const float cosine = rotation.x() * again.x() + rotation.y() * again.y() +
+                rotation.z() * again.z() + rotation.w() * again.w();
+            EXPECT_NEAR(std::fabs(cosine), 1.f, 1e-5f) << order << " " << middle;
+            EXPECT_EQ(back[static_cast<osg::UInt32>(order[2] - 'x')], 0.f);
+        }
+    }
+}

@@ -1,0 +1,266 @@
+// SPDX-License-Identifier: MIT
+#include <nbOpenSGExt/Transform3D.h>
+#include <nbOpenSGUtils/nbEdit.h>
+#include <nbOpenSGUtils/nbGeoFactory.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
+
+#include <OpenSG/OSGComponentTransform.h>
+#include <OpenSG/OSGContainerCensus.h>
+#include <OpenSG/OSGGroup.h>
+#include <OpenSG/OSGLineIterator.h>
+#include <OpenSG/OSGNodePtr.h>
+#include <OpenSG/OSGSimpleGeometry.h>
+#include <OpenSG/OSGTransform.h>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace {
+
+constexpr float kTolerance = 1e-5f;
+
+/// A parent with a matrix of its own, the node under test, and a box below it.
+class ConversionTest : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        root = osg::makeCoredNode<osg::Group>();
+        node = osg::Node::create();
+        leaf = osg::makeBox(1.f, 2.f, 3.f, 1, 1, 1);
+        root->addChild(node);
+        node->addChild(leaf);
+        nbNodeUtils::setName(node, "part");
+        nbNodeUtils::setIsAuxiliaryNode(node, true);
+    }
+
+    void convertAndCompare()
+    {
+        const osg::Matrix before = leaf->getToWorld();
+
+        EXPECT_TRUE(nbNodeUtils::convertToTransform3DNode(node) == node);
+
+        EXPECT_TRUE(leaf->getToWorld().equals(before, kTolerance));
+        EXPECT_TRUE(osg::Transform3DPtr::dcast(node->getCore()) != osg::NullFC);
+        EXPECT_EQ(nbNodeUtils::getName(node), "part");
+        EXPECT_TRUE(nbNodeUtils::isAuxiliaryNode(node));
+    }
+
+    void setMatrix(const osg::Matrix& matrix)
+    {
+        const osg::TransformPtr core = osg::Transform::create();
+        {
+            const nbEdit edit(core, osg::Transform::MatrixFieldMask);
+            core->setMatrix(matrix);
+        }
+        node->setCore(core);
+    }
+
+    osg::NodeRefPtr root;
+    osg::NodePtr node;
+    osg::NodePtr leaf;
+};
+
+}  // namespace
+
+TEST_F(ConversionTest, TransformWithoutShearBecomesOneTransform3D)
+{
+    osg::Matrix matrix;
+    matrix.setTransform(osg::Vec3f(1.f, 2.f, 3.f), osg::Quaternion(osg::Vec3f(1.f, 2.f, 3.f), 1.f),
+                        osg::Vec3f(2.f, 3.f, 4.f));
+    setMatrix(matrix);
+
+    convertAndCompare();
+
+    EXPECT_TRUE(leaf->getParent() == node);
+    EXPECT_TRUE(
+        nbNodeUtils::getTransformNodeScale(node).equals(osg::Vec3f(2.f, 3.f, 4.f), kTolerance));
+}
+
+TEST_F(ConversionTest, MirrorFlatAndShearKeepThePlaceOfTheChildren)
+{
+    struct Row
+    {
+        const char* name;
+        osg::Matrix matrix;
+        bool needsChild;
+    };
+
+    const Row rows[] = {
+        { "mirror in y", osg::Matrix(1, 0, 0, 4, 0, -2, 0, 5, 0, 0, 3, 6, 0, 0, 0, 1), false },
+        { "flat in x", osg::Matrix(0, 0, 0, 4, 0, 2, 0, 5, 0, 0, 3, 6, 0, 0, 0, 1), false },
+        { "all in one point", osg::Matrix(0, 0, 0, 4, 0, 0, 0, 5, 0, 0, 0, 6, 0, 0, 0, 1), false },
+        { "two columns alike", osg::Matrix(1, 1, 0, 4, 0, 0, 2, 5, 0, 0, 0, 6, 0, 0, 0, 1), true },
+        { "shear", osg::Matrix(1, .5, .25, 4, 0, 2, .75, 5, 0, 0, -3, 6, 0, 0, 0, 1), true },
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        SetUp();
+        setMatrix(row.matrix);
+
+        convertAndCompare();
+
+        EXPECT_EQ(leaf->getParent() == node, !row.needsChild);
+        EXPECT_EQ(node->getNChildren(), 1u);
+    }
+}
+
+TEST_F(ConversionTest, ComponentTransformKeepsItsCentreAsPivots)
+{
+    for (const bool turnedScale : { false, true }) {
+        SetUp();
+        const osg::ComponentTransformPtr core = osg::ComponentTransform::create();
+        {
+            const nbEdit edit(core, osg::FieldBits::AllFields);
+            core->setTranslation(osg::Vec3f(1.f, 2.f, 3.f));
+            core->setCenter(osg::Vec3f(4.f, 5.f, 6.f));
+            core->setRotation(osg::Quaternion(osg::Vec3f(0.f, 1.f, 1.f), 0.5f));
+            core->setScale(osg::Vec3f(1.f, 2.f, 3.f));
+            if (turnedScale) {
+                core->setScaleOrientation(osg::Quaternion(osg::Vec3f(1.f, 0.f, 0.f), 0.7f));
+            }
+        }
+        node->setCore(core);
+
+        convertAndCompare();
+
+        EXPECT_EQ(leaf->getParent() == node, !turnedScale);
+        const auto transform = osg::Transform3DPtr::dcast(node->getCore());
+        EXPECT_EQ(transform->getRotatePivot(), osg::Vec3f(4.f, 5.f, 6.f));
+        EXPECT_EQ(transform->getScalePivot(), osg::Vec3f(4.f, 5.f, 6.f));
+        EXPECT_EQ(transform->getTranslation().equals(osg::Vec3f(1.f, 2.f, 3.f), kTolerance), true);
+    }
+}
+
+TEST_F(ConversionTest, OtherCoresMoveToAnOnlyChild)
+{
+    const osg::GeometryPtr geometry = osg::makeBoxGeo(1.f, 1.f, 1.f, 1, 1, 1);
+    node->setCore(geometry);
+
+    convertAndCompare();
+
+    ASSERT_EQ(node->getNChildren(), 1u);
+    EXPECT_TRUE(node->getChild(0)->getCore() == geometry);
+    EXPECT_TRUE(leaf->getParent() == node->getChild(0));
+
+    nbNodeUtils::convertToTransform3DNode(node);
+    EXPECT_TRUE(leaf->getParent()->getParent() == node) << "a second conversion changes nothing";
+}
+
+TEST_F(ConversionTest, LeavesNothingBehind)
+{
+    root = osg::NullFC;
+    const osg::ContainerCensus before = osg::ContainerCensus::take();
+    SetUp();
+    setMatrix(osg::Matrix(1, .5, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1));
+
+    nbNodeUtils::convertToTransform3DNode(node);
+    root = osg::NullFC;
+
+    EXPECT_EQ(osg::ContainerCensus::take().differenceTo(before), "");
+}
+
+TEST(nbNodeUtils, NullIsTakenEverywhere)
+{
+    const osg::NodePtr none;
+
+    nbNodeUtils::setName(none, "x", true);
+    nbNodeUtils::setIsManipulatorNode(none, true);
+
+    EXPECT_EQ(nbNodeUtils::getName(none), "");
+    EXPECT_EQ(nbNodeUtils::getNodeFlags(none), 0u);
+    EXPECT_FALSE(nbNodeUtils::hasParent(none, none));
+    EXPECT_TRUE(nbNodeUtils::resolveToTransformNode(none) == osg::NullFC);
+    EXPECT_TRUE(nbNodeUtils::convertToTransform3DNode(none) == osg::NullFC);
+    EXPECT_TRUE(nbNodeUtils::getWorldBounds(none).isEmpty());
+}
+
+TEST(nbNodeUtils, NamesTheGeometriesBelow)
+{
+    const osg::NodeRefPtr root(osg::makeCoredNode<osg::Group>());
+    const osg::NodePtr transform = osg::makeCoredNode<osg::Transform>();
+    const osg::NodePtr geometry = nbGeoFactory::makeLine(1.f);
+    root->addChild(transform);
+    transform->addChild(geometry);
+
+    nbNodeUtils::setName(root, "handle", true);
+    EXPECT_EQ(nbNodeUtils::getName(root), "handle");
+    EXPECT_EQ(nbNodeUtils::getName(transform), "");
+    EXPECT_EQ(nbNodeUtils::getName(geometry), "handle");
+
+    nbNodeUtils::setName(root, "other", true, transform);
+    EXPECT_EQ(nbNodeUtils::getName(geometry), "other");
+    EXPECT_EQ(nbNodeUtils::getName(transform), "");
+}
+
+TEST(nbNodeUtils, FlagsAreIndependent)
+{
+    const osg::NodeRefPtr node(osg::makeCoredNode<osg::Group>());
+
+    nbNodeUtils::setIsAuxiliaryNode(node, true);
+    nbNodeUtils::setIsManipulatorNode(node, true);
+    nbNodeUtils::setIsAuxiliaryNode(node, false);
+
+    EXPECT_FALSE(nbNodeUtils::isAuxiliaryNode(node));
+    EXPECT_FALSE(nbNodeUtils::isSelectableAuxiliaryNode(node));
+    EXPECT_TRUE(nbNodeUtils::isManipulatorNode(node));
+}
+
+TEST(nbNodeUtils, WorldBoundsLeaveAuxiliaryAndInactiveOut)
+{
+    const osg::NodeRefPtr root(osg::makeCoredNode<osg::Group>());
+    osg::TransformPtr move;
+    const osg::NodePtr moved = osg::makeCoredNode<osg::Transform>(&move);
+    move->getMatrix().setTranslate(10.f, 0.f, 0.f);
+    root->addChild(moved);
+    moved->addChild(osg::makeBox(2.f, 2.f, 2.f, 1, 1, 1));
+    const osg::NodePtr helper = osg::makeBox(100.f, 1.f, 1.f, 1, 1, 1);
+    const osg::NodePtr hidden = osg::makeBox(1.f, 100.f, 1.f, 1, 1, 1);
+    root->addChild(helper);
+    root->addChild(hidden);
+    nbNodeUtils::setIsAuxiliaryNode(helper, true);
+    hidden->setActive(false);
+
+    const osg::BoxVolume bounds = nbNodeUtils::getWorldBounds(root);
+
+    EXPECT_TRUE(bounds.getMin().equals(osg::Pnt3f(9.f, -1.f, -1.f), kTolerance));
+    EXPECT_TRUE(bounds.getMax().equals(osg::Pnt3f(11.f, 1.f, 1.f), kTolerance));
+    const osg::BoxVolume part = nbNodeUtils::getWorldBounds(moved->getChild(0));
+    EXPECT_TRUE(part.getMax().equals(osg::Pnt3f(11.f, 1.f, 1.f), kTolerance));
+}
+
+TEST(nbGeoFactory, LineLiesAlongYAndRingInXz)
+{
+    const osg::NodeRefPtr line(nbGeoFactory::makeLine(2.f));
+    osg::LineIterator it(osg::GeometryPtr::dcast(line->getCore()));
+    it.seek(0);
+    EXPECT_EQ(it.getPosition(0), osg::Pnt3f(0.f, -1.f, 0.f));
+    EXPECT_EQ(it.getPosition(1), osg::Pnt3f(0.f, 1.f, 0.f));
+
+    const osg::GeometryRefPtr ring(nbGeoFactory::makeLineTorusGeo(1.5f, 36, false));
+    int pieces = 0;
+    osg::Pnt3f last;
+    for (osg::LineIterator piece = ring->beginLines(); piece != ring->endLines(); ++piece) {
+        EXPECT_NEAR(std::hypot(piece.getPosition(0).x(), piece.getPosition(0).z()), 1.5f,
+                    kTolerance);
+        EXPECT_EQ(piece.getPosition(0).y(), 0.f);
+        if (pieces > 0) {
+            EXPECT_EQ(piece.getPosition(0), last) << "the pieces are joined";
+        }
+        last = piece.getPosition(1);
+        ++pieces;
+    }
+    EXPECT_EQ(pieces, 36);
+    EXPECT_EQ(last, osg::Pnt3f(1.5f, 0.f, 0.f)) << "the ring is closed";
+}
+
+TEST(nbGeoFactory, DashedRingHasEverySecondPieceAndBadArgumentsNone)
+{
+    const osg::GeometryRefPtr dashed(nbGeoFactory::makeLineTorusGeo(1.f, 8, true));
+    EXPECT_EQ(dashed->getLengths()->getValue(0), 8u);
+
+    EXPECT_TRUE(nbGeoFactory::makeLineTorus(1.f, 2, false) == osg::NullFC);
+    EXPECT_TRUE(nbGeoFactory::makeLineTorus(0.f, 8, false) == osg::NullFC);
+    EXPECT_TRUE(nbGeoFactory::makeLine(-1.f) == osg::NullFC);
+}
