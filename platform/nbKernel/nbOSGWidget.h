@@ -40,7 +40,7 @@ public:
         Observer() = default;
         Observer(const Observer&) = default;
         Observer& operator=(const Observer&) = default;
-        ~Observer() = default;
+        virtual ~Observer() = default;
     };
 
     using ResizeCallback = void (*)();

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <nbUtils/nbPlatformExport.h>
+
+#include <string>
+
+namespace nbec::interaction {
+
+/// A named event of the user: what happened, for which tool, and how it is meant. An immutable
+/// value; all three strings may be anything.
+class NB_PLATFORM_API InteractionEvent
+{
+public:
+    /// @param eventName  what happened ("start", "process", "stop", "hover", "stopHover", ...)
+    /// @param toolName   whom it concerns ("tool", "mode", "camera", ...)
+    /// @param hintText   how it is meant ("select", "toggle", "orbit", ...)
+    /// @param amountValue  extent of a stepless action, such as wheel steps (positive away from the
+    /// user); 0 where the event has none
+    InteractionEvent(const std::string& eventName, const std::string& toolName,
+                     const std::string& hintText, double amountValue = 0.0);
+
+    const std::string& getEvent() const;
+    const std::string& getTool() const;
+    const std::string& getHint() const;
+    double getAmount() const;
+
+private:
+    std::string event;
+    std::string tool;
+    std::string hint;
+    double amount = 0.0;
+};
+
+}  // namespace nbec::interaction

@@ -1,0 +1,208 @@
+// SPDX-License-Identifier: MIT
+#include <nbInteraction/CameraInteractionContext.h>
+#include <nbInteraction/InteractionManager.h>
+#include <nbKernel/nbOSGWidget.h>
+#include <nbKernel/nbScenegraph.h>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <memory>
+
+namespace nbec::interaction {
+namespace {
+
+constexpr float kTolerance = 1e-3f;
+
+class CameraWatcher : public AbstractInteractionContext
+{
+public:
+    void cameraMoved(const osg::TransformationMatrix<float>& worldFromCamera) override
+    {
+        ++count;
+        eye = osg::Pnt3f(worldFromCamera[3][0], worldFromCamera[3][1], worldFromCamera[3][2]);
+    }
+
+    int count = 0;
+    osg::Pnt3f eye;
+};
+
+class CameraInteractionContextTest : public testing::Test
+{
+protected:
+    CameraInteractionContextTest()
+    {
+        widget->resize(400, 300);
+        CameraPose pose;
+        pose.from = osg::Pnt3f(0, 0, 10);
+        pose.at = osg::Pnt3f(0, 0, 0);
+        pose.pivot = osg::Pnt3f(0, 0, 0);
+        context.setPose(pose);
+        manager.addContext(&context);
+        manager.addContext(&watcher);
+        context.setChangedCallback([this] { ++callbackCount; });
+    }
+
+    ~CameraInteractionContextTest() override { nbScenegraph::clear(); }
+
+    bool send(const std::string& event, const std::string& hint, double amount = 0.0)
+    {
+        return manager.triggerEvent(InteractionEvent(event, "camera", hint, amount));
+    }
+
+    void point(float x, float y) { manager.pointerMoved(osg::Pnt2f(x, y)); }
+
+    CameraPose pose() const { return widget->getUberCamera()->getPose(); }
+
+    float pivotDistance() const { return (pose().from - pose().pivot).length(); }
+
+    /// Where a world point is seen.
+    osg::Pnt2f seen(const osg::Pnt3f& world) const
+    {
+        osg::Pnt2f pixel(-1, -1);
+        nbCameraNavigation::project(pose(), world, 400, 300, pixel);
+        return pixel;
+    }
+
+    std::unique_ptr<nbOSGWidget> widget = std::make_unique<nbOSGWidget>();
+    InteractionManager manager;
+    CameraInteractionContext context;
+    CameraWatcher watcher;
+    int callbackCount = 0;
+};
+
+TEST_F(CameraInteractionContextTest, OrbitKeepsTheDistanceAndComesBackWithThePointer)
+{
+    point(200, 150);
+    EXPECT_TRUE(send("start", "orbit"));
+    point(320, 90);
+    EXPECT_TRUE(send("process", "orbit"));
+
+    EXPECT_NEAR(10.0f, pivotDistance(), kTolerance);
+    // The scene follows the pointer to the right and up, so the eye goes to the left and down.
+    EXPECT_LT(pose().from[0], -1.0f);
+    EXPECT_LT(pose().from[1], -1.0f);
+    EXPECT_NEAR(0.0f, (watcher.eye - pose().from).length(), kTolerance);
+
+    for (int step = 0; step < 50; ++step) {
+        point(200.0f + float(step % 7), 150.0f - float(step % 5));
+        send("process", "orbit");
+    }
+    point(200, 150);
+    send("process", "orbit");
+    EXPECT_TRUE(send("stop", "orbit"));
+    EXPECT_EQ(osg::Pnt3f(0, 0, 10), pose().from);
+    EXPECT_FALSE(send("process", "orbit"));
+}
+
+TEST_F(CameraInteractionContextTest, PanKeepsThePivotUnderThePointer)
+{
+    point(200, 150);
+    send("start", "pan");
+    point(250, 120);
+    send("process", "pan");
+
+    const osg::Pnt2f pixel = seen(osg::Pnt3f(0, 0, 0));
+    EXPECT_NEAR(250.0f, pixel[0], 0.05f);
+    EXPECT_NEAR(120.0f, pixel[1], 0.05f);
+    EXPECT_NEAR(10.0f, pivotDistance(), kTolerance);
+}
+
+TEST_F(CameraInteractionContextTest, WheelGoesNearerAndKeepsWhatIsUnderThePointer)
+{
+    const osg::Pnt3f world(2, 1, 0);
+    const osg::Pnt2f before = seen(world);
+    point(before[0], before[1]);
+
+    EXPECT_TRUE(send("trigger", "zoom", 2.0));
+
+    EXPECT_NEAR(before[0], seen(world)[0], 0.05f);
+    EXPECT_NEAR(before[1], seen(world)[1], 0.05f);
+    EXPECT_NEAR(10.0 * std::pow(CameraInteractionContext::kWheelFactor, 2), pose().from[2],
+                kTolerance);
+    send("trigger", "zoom", -2.0);
+    EXPECT_NEAR(0.0f, (pose().from - osg::Pnt3f(0, 0, 10)).length(), kTolerance);
+    EXPECT_FALSE(send("trigger", "zoom", std::numeric_limits<double>::quiet_NaN()));
+}
+
+TEST_F(CameraInteractionContextTest, ZoomDragHalvesTheDistanceForAQuarterOfTheHeight)
+{
+    point(200, 150);
+    send("start", "zoom");
+    point(200, 75);
+    send("process", "zoom");
+    EXPECT_NEAR(5.0f, pivotDistance(), kTolerance);
+    point(125, 150);
+    send("process", "zoom");
+    EXPECT_NEAR(20.0f, pivotDistance(), kTolerance);
+}
+
+TEST_F(CameraInteractionContextTest, WheelDuringADragIsKeptByTheDrag)
+{
+    point(200, 150);
+    send("start", "orbit");
+    point(260, 150);
+    send("process", "orbit");
+    send("trigger", "zoom", 3.0);
+    const float distance = pivotDistance();
+    const osg::Pnt3f eye = pose().from;
+    send("process", "orbit");
+    EXPECT_NEAR(0.0f, (pose().from - eye).length(), kTolerance);
+    point(300, 150);
+    send("process", "orbit");
+    EXPECT_NEAR(distance, pivotDistance(), kTolerance);
+}
+
+TEST_F(CameraInteractionContextTest, CancelPutsTheCameraBackAndInterruptionLeavesIt)
+{
+    for (const bool isCancelled : { true, false }) {
+        const osg::Pnt3f eye = pose().from;
+        point(200, 150);
+        send("start", "orbit");
+        point(300, 200);
+        send("process", "orbit");
+        send("trigger", "zoom", 1.0);
+        isCancelled ? manager.cancelDrag() : manager.endDrag();
+        EXPECT_EQ(isCancelled, eye == pose().from);
+    }
+}
+
+TEST_F(CameraInteractionContextTest, OnlyChangesAreTold)
+{
+    widget->redrawDone();
+    point(200, 150);
+    send("start", "orbit");
+    send("process", "orbit");
+    EXPECT_EQ(0, callbackCount);
+    EXPECT_FALSE(widget->isRedrawPending());
+
+    point(210, 150);
+    send("process", "orbit");
+    EXPECT_EQ(1, callbackCount);
+    EXPECT_EQ(1, watcher.count);
+    EXPECT_TRUE(widget->isRedrawPending());
+}
+
+TEST_F(CameraInteractionContextTest, RefusesWhatItCannotDo)
+{
+    EXPECT_FALSE(send("start", "roll"));
+    EXPECT_FALSE(send("process", "orbit"));
+    EXPECT_FALSE(manager.triggerEvent(InteractionEvent("start", "tool", "orbit")));
+    EXPECT_FALSE(send("trigger", "orbit", 1.0));
+    CameraPose broken;
+    broken.from = osg::Pnt3f(std::numeric_limits<float>::infinity(), 0, 0);
+    EXPECT_FALSE(context.setPose(broken));
+
+    widget->resize(0, 300);
+    EXPECT_FALSE(send("start", "orbit"));
+    widget->resize(400, 300);
+    EXPECT_TRUE(send("start", "orbit"));
+    widget.reset();
+    EXPECT_FALSE(send("process", "orbit"));
+    EXPECT_FALSE(send("trigger", "zoom", 1.0));
+    manager.cancelDrag();
+}
+
+}  // namespace
+}  // namespace nbec::interaction

@@ -1,0 +1,375 @@
+// SPDX-License-Identifier: MIT
+#include "tests/platform/nbInteraction/Recording.h"
+
+#include <nbUtils/nbLog.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <stdexcept>
+
+namespace nbec::interaction {
+namespace {
+
+using nbtest::CallLog;
+using nbtest::RecordingContext;
+using nbtest::takeLog;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class InteractionManagerTest : public testing::Test
+{
+protected:
+    bool send(const std::string& event, const std::string& tool = "tool",
+              const std::string& hint = "select")
+    {
+        return manager.triggerEvent(InteractionEvent(event, tool, hint));
+    }
+
+    void add(RecordingContext& context)
+    {
+        manager.addContext(&context);
+        log.clear();
+    }
+
+    CallLog log;
+    InteractionManager manager;
+};
+
+TEST_F(InteractionManagerTest, AsksHigherPositionsFirstAndAmongEqualsTheLaterAdded)
+{
+    RecordingContext low(log, "low", Camera);
+    RecordingContext early(log, "early", Manipulator);
+    RecordingContext late(log, "late", Manipulator);
+    RecordingContext between(log, "between", 70);
+    for (RecordingContext* context : { &early, &low, &between, &late }) {
+        add(*context);
+    }
+
+    EXPECT_FALSE(send("custom", "any tool", "any hint"));
+
+    EXPECT_THAT(log,
+                ElementsAre("late custom any tool/any hint", "early custom any tool/any hint",
+                            "between custom any tool/any hint", "low custom any tool/any hint"));
+}
+
+TEST_F(InteractionManagerTest, RaisedContextsComeFirstTheLatestBeforeTheOthers)
+{
+    RecordingContext top(log, "top", Overlay);
+    RecordingContext first(log, "first", Tool);
+    RecordingContext second(log, "second", Camera);
+    for (RecordingContext* context : { &top, &first, &second }) {
+        add(*context);
+    }
+
+    manager.raise(&first);
+    manager.raise(&second);
+    EXPECT_THAT(manager.getContexts(), ElementsAre(&second, &first, &top));
+    EXPECT_TRUE(first.isRaised());
+
+    manager.lower(&second);
+    EXPECT_THAT(manager.getContexts(), ElementsAre(&first, &top, &second));
+    EXPECT_FALSE(second.isRaised());
+
+    manager.removeContext(&first);
+    EXPECT_FALSE(first.isRaised());
+    manager.addContext(&first);
+    EXPECT_THAT(manager.getContexts(), ElementsAre(&top, &first, &second));
+}
+
+TEST_F(InteractionManagerTest, TakerEndsTheDeliveryAndDisabledContextsAreLeftOut)
+{
+    RecordingContext upper(log, "upper", Manipulator, { "trigger" });
+    RecordingContext lower(log, "lower", Tool, { "trigger" });
+    add(upper);
+    add(lower);
+
+    EXPECT_TRUE(send("trigger"));
+    EXPECT_THAT(takeLog(log), ElementsAre("upper trigger tool/select"));
+
+    manager.setEnabled(&upper, false);
+    EXPECT_TRUE(upper.isActive());
+    EXPECT_TRUE(send("trigger"));
+    manager.pointerMoved(osg::Pnt2f(3, 4));
+    manager.selectMode("precisionTool");
+    EXPECT_THAT(takeLog(log),
+                ElementsAre("upper disabled", "lower trigger tool/select", "lower pointer 3 4",
+                            "lower mode precisionTool"));
+
+    manager.setEnabled(&upper, true);
+    EXPECT_THAT(takeLog(log), ElementsAre("upper enabled", "upper mode precisionTool"));
+}
+
+TEST_F(InteractionManagerTest, TakenDragBelongsToItsContextUntilItsEnd)
+{
+    RecordingContext upper(log, "upper", Manipulator, { "process", "stop" });
+    RecordingContext lower(log, "lower", Tool, { "start" });
+    add(upper);
+    add(lower);
+
+    EXPECT_TRUE(send("start"));
+    EXPECT_EQ(&lower, manager.getDragContext());
+    send("process");
+    send("stop");
+
+    EXPECT_THAT(takeLog(log),
+                ElementsAre("upper start tool/select", "lower start tool/select",
+                            "lower process tool/select", "lower stop tool/select"));
+    EXPECT_FALSE(manager.isDragging());
+    send("process");
+    EXPECT_THAT(log, ElementsAre("upper process tool/select"));
+}
+
+TEST_F(InteractionManagerTest, DragThatNobodyTookGoesDownTheOrder)
+{
+    RecordingContext upper(log, "upper", Manipulator);
+    RecordingContext lower(log, "lower", Tool, { "process" });
+    add(upper);
+    add(lower);
+
+    EXPECT_FALSE(send("start"));
+    EXPECT_TRUE(manager.isDragging());
+    EXPECT_EQ(nullptr, manager.getDragContext());
+    log.clear();
+    EXPECT_TRUE(send("process"));
+    EXPECT_FALSE(send("stop"));
+
+    EXPECT_THAT(log,
+                ElementsAre("upper process tool/select", "lower process tool/select",
+                            "upper stop tool/select", "lower stop tool/select"));
+}
+
+TEST_F(InteractionManagerTest, DragEndedFromHereIsStoppedOnceAndItsRestIsDropped)
+{
+    struct Row
+    {
+        const char* name;
+        std::function<void(InteractionManager&, std::unique_ptr<RecordingContext>&)> end;
+        std::vector<std::string> calls;
+    };
+
+    const Row rows[] = {
+        { "ended", [](auto& owner, auto&) { owner.endDrag(); }, { "a stop tool/toggle" } },
+        { "removed",
+          [](auto& owner, auto& context) { owner.removeContext(context.get()); },
+          { "a stop tool/toggle", "a removed" } },
+        { "disabled",
+          [](auto& owner, auto& context) { owner.setEnabled(context.get(), false); },
+          { "a stop tool/toggle", "a disabled" } },
+        { "destroyed",
+          [](auto&, auto& context) { context.reset(); },
+          { "a stop tool/toggle", "a removed" } },
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        RecordingContext other(log, "other", Background);
+        auto context =
+            std::make_unique<RecordingContext>(log, "a", Tool, std::set<std::string> { "start" });
+        add(other);
+        add(*context);
+        send("start", "tool", "toggle");
+        log.clear();
+
+        row.end(manager, context);
+
+        EXPECT_THAT(takeLog(log), testing::ElementsAreArray(row.calls));
+        EXPECT_FALSE(manager.isDragging());
+        send("process", "tool", "toggle");
+        send("stop", "tool", "toggle");
+        EXPECT_THAT(log, IsEmpty());
+        send("process");
+        EXPECT_FALSE(log.empty());
+    }
+}
+
+TEST_F(InteractionManagerTest, CancelTakesBackOnlyDragsThatMayHaveEdited)
+{
+    RecordingContext context(log, "a", Tool, { "start" });
+    add(context);
+    std::vector<DragEnd> ends;
+    context.onEvent = [&](const InteractionEvent& event) {
+        if (event.getEvent() == "stop") {
+            ends.push_back(manager.getDragEnd());
+        }
+    };
+    manager.setCancelHandler([this] { log.push_back("handler"); });
+
+    manager.cancelDrag();
+    send("start");
+    send("stop");
+    send("start");
+    manager.endDrag();
+    EXPECT_EQ(0, std::count(log.begin(), log.end(), "handler"));
+
+    send("start");
+    log.clear();
+    manager.cancelDrag();
+    manager.cancelDrag();
+    EXPECT_THAT(log, ElementsAre("a stop tool/select", "handler"));
+    EXPECT_THAT(ends, ElementsAre(DragEnd::Released, DragEnd::Interrupted, DragEnd::Cancelled));
+    EXPECT_EQ(DragEnd::Released, manager.getDragEnd());
+
+    log.clear();
+    send("start", "camera", "orbit");
+    manager.cancelDrag();
+    context.taken.clear();
+    send("start");
+    manager.cancelDrag();
+    EXPECT_EQ(0, std::count(log.begin(), log.end(), "handler"));
+}
+
+TEST_F(InteractionManagerTest, SecondStartStopsTheFormerDrag)
+{
+    RecordingContext context(log, "a", Tool, { "start" });
+    add(context);
+
+    send("start", "tool", "add");
+    send("start", "camera", "pan");
+
+    EXPECT_THAT(log, ElementsAre("a start tool/add", "a stop tool/add", "a start camera/pan"));
+    EXPECT_TRUE(manager.isDragging());
+}
+
+TEST_F(InteractionManagerTest, HoverTakenFromALowerContextEndsThere)
+{
+    RecordingContext upper(log, "upper", Manipulator);
+    RecordingContext lower(log, "lower", Tool, { "hover" });
+    add(upper);
+    add(lower);
+
+    send("hover");
+    upper.taken = { "hover" };
+    log.clear();
+    send("hover");
+    EXPECT_THAT(takeLog(log),
+                ElementsAre("upper hover tool/select", "lower stopHover tool/select"));
+
+    // The upper one was asked itself this time.
+    upper.taken.clear();
+    send("hover");
+    EXPECT_THAT(takeLog(log), ElementsAre("upper hover tool/select", "lower hover tool/select"));
+}
+
+TEST_F(InteractionManagerTest, EndOfHoverAndModeEventsReachEveryContext)
+{
+    RecordingContext upper(log, "upper", Manipulator, { "stopHover", "start" });
+    RecordingContext lower(log, "lower", Tool);
+    add(upper);
+    add(lower);
+
+    EXPECT_TRUE(send("stopHover"));
+    EXPECT_THAT(takeLog(log),
+                ElementsAre("upper stopHover tool/select", "lower stopHover tool/select"));
+
+    send("start", "mode", "tool");
+    EXPECT_FALSE(manager.isDragging());
+    EXPECT_THAT(takeLog(log), ElementsAre("upper start mode/tool", "lower start mode/tool"));
+
+    send("start", "mode", "measure");
+    send("stop", "mode", "other");
+    EXPECT_EQ("measure", lower.getMode());
+    send("stop", "mode", "measure");
+    EXPECT_EQ("", lower.getMode());
+    EXPECT_EQ(1, std::count(log.begin(), log.end(), "lower mode measure"));
+    EXPECT_EQ(1, std::count(log.begin(), log.end(), "lower mode "));
+}
+
+TEST_F(InteractionManagerTest, NewContextIsToldTheMode)
+{
+    RecordingContext context(log, "a", Tool);
+
+    EXPECT_FALSE(manager.selectMode("precisionTool"));
+    EXPECT_TRUE(manager.addContext(&context));
+    EXPECT_FALSE(manager.addContext(&context));
+    EXPECT_FALSE(manager.addContext(nullptr));
+
+    EXPECT_THAT(log, ElementsAre("a added", "a mode precisionTool"));
+}
+
+TEST_F(InteractionManagerTest, ContextsMayComeAndGoWithinAnEvent)
+{
+    auto self = std::make_unique<RecordingContext>(log, "self", 90);
+    RecordingContext upper(log, "upper", Manipulator);
+    RecordingContext next(log, "next", 80);
+    RecordingContext last(log, "last", Tool);
+    RecordingContext added(log, "added", 60);
+    for (RecordingContext* context : { &upper, self.get(), &next, &last }) {
+        add(*context);
+    }
+    upper.onEvent = [&](const InteractionEvent&) {
+        self.reset();
+        manager.removeContext(&next);
+        manager.addContext(&added);
+    };
+
+    send("trigger");
+
+    EXPECT_THAT(log,
+                ElementsAre("upper trigger tool/select", "self removed", "next removed",
+                            "added added", "added mode tool", "last trigger tool/select"));
+}
+
+TEST_F(InteractionManagerTest, ContextThatLeavesWithinItsStartLeavesNoDragBehind)
+{
+    auto self =
+        std::make_unique<RecordingContext>(log, "self", Tool, std::set<std::string> { "start" });
+    RecordingContext other(log, "other", Background);
+    add(*self);
+    add(other);
+    self->onEvent = [&](const InteractionEvent&) { self.reset(); };
+
+    EXPECT_TRUE(send("start"));
+
+    EXPECT_FALSE(manager.isDragging());
+    send("process");
+    send("stop");
+    EXPECT_THAT(log, ElementsAre("self start tool/select", "self removed"));
+}
+
+TEST_F(InteractionManagerTest, WhatAContextThrowsIsLoggedAndCountsAsRefusal)
+{
+    std::vector<std::string> errors;
+    const nbLog::Sink former = nbLog::setSink(
+        [&errors](nbLog::Level, const std::string& text) { errors.push_back(text); });
+    RecordingContext upper(log, "upper", Manipulator, { "start" });
+    RecordingContext lower(log, "lower", Tool, { "start" });
+    add(upper);
+    add(lower);
+    upper.onEvent = [](const InteractionEvent&) { throw std::runtime_error("no luck"); };
+
+    EXPECT_TRUE(send("start"));
+
+    nbLog::setSink(former);
+    EXPECT_EQ(&lower, manager.getDragContext());
+    EXPECT_THAT(errors, ElementsAre("InteractionManager: a context threw: no luck"));
+}
+
+TEST_F(InteractionManagerTest, EitherSideMayDieFirst)
+{
+    RecordingContext context(log, "a", Tool, { "start" });
+    {
+        InteractionManager former;
+        former.addContext(&context);
+        manager.addContext(&context);
+        EXPECT_FALSE(former.hasContext(&context));
+        former.addContext(&context);
+        former.triggerEvent(InteractionEvent("start", "tool", "select"));
+        log.clear();
+    }
+    EXPECT_THAT(log, ElementsAre("a stop tool/select", "a removed"));
+    EXPECT_EQ(nullptr, context.getInteractionManager());
+    EXPECT_FALSE(context.isActive());
+
+    {
+        RecordingContext copy(context);
+        manager.addContext(&copy);
+        const RecordingContext second(copy);
+        EXPECT_FALSE(second.isActive());
+        EXPECT_EQ(nullptr, second.getInteractionManager());
+    }
+    EXPECT_THAT(manager.getContexts(), IsEmpty());
+}
+
+}  // namespace
+}  // namespace nbec::interaction

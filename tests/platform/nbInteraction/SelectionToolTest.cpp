@@ -1,0 +1,181 @@
+// SPDX-License-Identifier: MIT
+#include <nbInteraction/InteractionManager.h>
+#include <nbInteraction/Picker.h>
+#include <nbInteraction/SelectionTool.h>
+#include <nbInteraction/ToolInteractionContext.h>
+#include <nbKernel/nbOSGWidget.h>
+#include <nbKernel/nbScenegraph.h>
+#include <nbOpenSGSelection/nbSelection.h>
+
+#include <OpenSG/OSGSimpleGeometry.h>
+#include <OpenSG/OSGTransform.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace nbec::interaction {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+/// Pixels of the 400 x 300 view at which the two boxes and nothing are seen.
+const osg::Pnt2f kLeftPx(100, 150);
+const osg::Pnt2f kRightPx(300, 150);
+const osg::Pnt2f kNothingPx(200, 10);
+
+class SelectionToolTest : public testing::Test
+{
+protected:
+    SelectionToolTest()
+    {
+        widget.resize(400, 300);
+        // At 10 units the view is 2 * 10 * tan(22.5 deg) = 8.28 high, so 100 px are 2.76 units.
+        widget.getUberCamera()->setFromAtUp(osg::Pnt3f(0, 0, 10), osg::Pnt3f(0, 0, 0),
+                                            osg::Vec3f(0, 1, 0));
+        left = addBox(-2.76f);
+        right = addBox(2.76f);
+        context.setTool(&tool);
+        context.setPicker(&picker);
+        manager.addContext(&context);
+    }
+
+    ~SelectionToolTest() override
+    {
+        nbSelection::clear();
+        nbScenegraph::clear();
+    }
+
+    static osg::NodePtr addBox(float x)
+    {
+        const osg::NodePtr box = osg::makeBox(1, 1, 1, 1, 1, 1);
+        const osg::TransformPtr placement = osg::Transform::create();
+        osg::Matrix matrix;
+        matrix.setTranslate(x, 0, 0);
+        osg::beginEditCP(placement);
+        placement->setMatrix(matrix);
+        osg::endEditCP(placement);
+        const osg::NodePtr node = osg::Node::create();
+        osg::beginEditCP(node);
+        node->setCore(placement);
+        node->addChild(box);
+        osg::endEditCP(node);
+        const osg::NodePtr root = nbScenegraph::getRootNode();
+        osg::beginEditCP(root);
+        root->addChild(node);
+        osg::endEditCP(root);
+        return box;
+    }
+
+    bool sendAt(const osg::Pnt2f& px, const std::string& event, const std::string& hint)
+    {
+        widget.setMousePosition(px);
+        manager.pointerMoved(px);
+        return manager.triggerEvent(InteractionEvent(event, "tool", hint));
+    }
+
+    void click(const osg::Pnt2f& px, const std::string& hint)
+    {
+        sendAt(px, "start", hint);
+        sendAt(px, "stop", hint);
+    }
+
+    nbOSGWidget widget;
+    osg::NodePtr left;
+    osg::NodePtr right;
+    Picker picker;
+    SelectionTool tool;
+    ToolInteractionContext context { Selection };
+    InteractionManager manager;
+};
+
+TEST_F(SelectionToolTest, HintSaysWhatAClickDoesToTheSelection)
+{
+    click(kLeftPx, "select");
+    EXPECT_THAT(nbSelection::getNodes(), ElementsAre(left));
+    click(kRightPx, "selectThrough");
+    EXPECT_THAT(nbSelection::getNodes(), ElementsAre(right));
+    click(kLeftPx, "add");
+    click(kLeftPx, "add");
+    EXPECT_THAT(nbSelection::getNodes(), ElementsAre(right, left));
+    click(kRightPx, "toggle");
+    EXPECT_THAT(nbSelection::getNodes(), ElementsAre(left));
+    click(kRightPx, "toggle");
+    EXPECT_THAT(nbSelection::getNodes(), ElementsAre(left, right));
+
+    click(kNothingPx, "add");
+    click(kNothingPx, "toggle");
+    EXPECT_EQ(2u, nbSelection::getNodes().size());
+    click(kNothingPx, "select");
+    EXPECT_THAT(nbSelection::getNodes(), IsEmpty());
+    EXPECT_FALSE(sendAt(kLeftPx, "start", "sub"));
+}
+
+TEST_F(SelectionToolTest, OnlyAReleaseNearThePressIsAClick)
+{
+    tool.setPixelRatio(2.0f);
+    tool.setClickTolerance(3.0f);
+    const osg::Pnt2f near(kLeftPx[0] + 6, kLeftPx[1]);
+    const osg::Pnt2f far(kLeftPx[0] + 5, kLeftPx[1] + 4);
+
+    sendAt(kLeftPx, "start", "select");
+    EXPECT_TRUE(sendAt(far, "process", "select"));
+    EXPECT_TRUE(sendAt(far, "stop", "select"));
+    EXPECT_TRUE(nbSelection::isEmpty());
+
+    sendAt(kLeftPx, "start", "select");
+    sendAt(near, "stop", "select");
+    EXPECT_THAT(nbSelection::getNodes(), ElementsAre(left));
+}
+
+TEST_F(SelectionToolTest, InterruptedOrCancelledPressSelectsNothing)
+{
+    for (const bool isCancelled : { false, true }) {
+        EXPECT_TRUE(sendAt(kLeftPx, "start", "select"));
+        isCancelled ? manager.cancelDrag() : manager.endDrag();
+        EXPECT_FALSE(sendAt(kLeftPx, "stop", "select"));
+        EXPECT_TRUE(nbSelection::isEmpty());
+    }
+}
+
+TEST_F(SelectionToolTest, PickerKeepsItsFilter)
+{
+    picker.setFilter(Picker::HandleFilter);
+
+    click(kLeftPx, "select");
+
+    EXPECT_EQ(Picker::HandleFilter, picker.getFilter());
+    EXPECT_THAT(nbSelection::getNodes(), ElementsAre(left));
+    context.setPicker(nullptr);
+    EXPECT_FALSE(sendAt(kLeftPx, "start", "select"));
+}
+
+/// Tool that reads the picker's hit instead of picking.
+class HitReader : public AbstractInteractionTool
+{
+public:
+    bool startTool(ToolInteractionContext* driver, const std::string&) override
+    {
+        hit = driver->getPicker()->getHitNode();
+        return true;
+    }
+
+    osg::NodePtr hit;
+};
+
+TEST_F(SelectionToolTest, ContextPicksAheadForToolsThatReadTheHit)
+{
+    HitReader reader;
+    context.setTool(&reader);
+
+    sendAt(kLeftPx, "start", "add");
+    EXPECT_EQ(left, reader.hit);
+    sendAt(kRightPx, "start", "zoom");
+    EXPECT_EQ(left, reader.hit);
+    sendAt(kNothingPx, "start", "select");
+    EXPECT_EQ(osg::NodePtr(osg::NullFC), reader.hit);
+    context.setTool(nullptr);
+}
+
+}  // namespace
+}  // namespace nbec::interaction

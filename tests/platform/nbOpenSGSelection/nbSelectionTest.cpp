@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+#include <nbOpenSGSelection/nbSelection.h>
+#include <nbUtils/nbLog.h>
+
+#include <OpenSG/OSGRefPtr.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class nbSelectionTest : public testing::Test
+{
+protected:
+    nbSelectionTest()
+        : number(nbSelection::addChangedCallback([this] { ++changes; }))
+    { }
+
+    ~nbSelectionTest() override
+    {
+        nbSelection::removeChangedCallback(number);
+        nbSelection::clear();
+    }
+
+    static osg::NodeRefPtr makeNode() { return osg::NodeRefPtr(osg::Node::create()); }
+
+    int changes = 0;
+    int number = 0;
+    osg::NodeRefPtr a = makeNode();
+    osg::NodeRefPtr b = makeNode();
+    osg::NodePtr none = osg::NullFC;
+};
+
+TEST_F(nbSelectionTest, KeepsTheOrderOfSelectingWithoutRepetitions)
+{
+    nbSelection::set({ b.get(), none, a.get(), b.get() });
+    EXPECT_THAT(nbSelection::getNodes(), ElementsAre(b.get(), a.get()));
+    EXPECT_EQ(a.get(), nbSelection::getLast());
+    nbSelection::add(b.get());
+    EXPECT_EQ(a.get(), nbSelection::getLast());
+    nbSelection::toggle(b.get());
+    nbSelection::toggle(b.get());
+    EXPECT_THAT(nbSelection::getNodes(), ElementsAre(a.get(), b.get()));
+    nbSelection::set(none);
+    EXPECT_TRUE(nbSelection::isEmpty());
+    EXPECT_EQ(none, nbSelection::getLast());
+}
+
+TEST_F(nbSelectionTest, OnlyChangesAreTold)
+{
+    nbSelection::set(a.get());
+    EXPECT_EQ(1, changes);
+    nbSelection::set(a.get());
+    nbSelection::add(a.get());
+    nbSelection::add(none);
+    nbSelection::toggle(none);
+    nbSelection::remove(b.get());
+    EXPECT_EQ(1, changes);
+    nbSelection::remove(a.get());
+    EXPECT_EQ(2, changes);
+    nbSelection::clear();
+    EXPECT_EQ(2, changes);
+}
+
+TEST_F(nbSelectionTest, DestroyedNodeReadsAsGoneAndIsNotKeptAlive)
+{
+    nbSelection::set({ a.get(), b.get() });
+    a = osg::NullFC;
+
+    EXPECT_THAT(nbSelection::getNodes(), ElementsAre(b.get()));
+    b = osg::NullFC;
+    EXPECT_TRUE(nbSelection::isEmpty());
+    EXPECT_THAT(nbSelection::getNodes(), IsEmpty());
+}
+
+TEST_F(nbSelectionTest, CallbacksMayChangeSelectionAndCallbacksAndThrow)
+{
+    std::string logged;
+    const nbLog::Sink former =
+        nbLog::setSink([&logged](nbLog::Level, const std::string& text) { logged = text; });
+    int removed = 0;
+    int throwing = 0;
+    int calls = 0;
+    throwing = nbSelection::addChangedCallback([&] {
+        nbSelection::removeChangedCallback(throwing);
+        nbSelection::removeChangedCallback(removed);
+        nbSelection::add(b.get());
+        throw std::runtime_error("no luck");
+    });
+    removed = nbSelection::addChangedCallback([&] { ++calls; });
+
+    nbSelection::set(a.get());
+
+    nbLog::setSink(former);
+    EXPECT_THAT(nbSelection::getNodes(), ElementsAre(a.get(), b.get()));
+    EXPECT_EQ(0, calls);
+    EXPECT_EQ(2, changes);
+    EXPECT_EQ("nbSelection: a changed callback threw: no luck", logged);
+    EXPECT_EQ(0, nbSelection::addChangedCallback(nullptr));
+}
+
+}  // namespace
