@@ -333,6 +333,7 @@ void scenePick(benchmark::State& state)
 void scenePickAtRandomPixels(benchmark::State& state)
 {
     MeshStage stage(static_cast<int>(state.range(0)));
+    Picker::buildTrees(nbScenegraph::getWorldRoot());
     std::vector<osg::Pnt2f> path;
     unsigned seed = 1;
     const auto random = [&seed] {

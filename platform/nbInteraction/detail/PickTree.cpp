@@ -72,8 +72,8 @@ PickTree::~PickTree()
 
 void PickTree::assign(GeometrySoup newSoup)
 {
-    const bool sameTopology = newSoup.positions.size() == soup.positions.size() &&
-        newSoup.triangles == soup.triangles;
+    const bool sameTopology =
+        newSoup.positions.size() == soup.positions.size() && newSoup.triangles == soup.triangles;
     if (sameTopology && haveSameValues(newSoup.positions, soup.positions)) {
         return;  // geometry is also edited for its material alone
     }
