@@ -107,7 +107,6 @@ void HandlePicking::refresh(const osg::NodePtr& top, bool allCount, const PickVi
     worldFromTable = toWorld;
     projectedView = view;
     table.project(worldFromTable, projectedView);
-    ++projectionCount;
 }
 
 void HandlePicking::fill(const osg::NodePtr& top)

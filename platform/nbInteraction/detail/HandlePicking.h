@@ -23,12 +23,6 @@ public:
     bool pick(const osg::NodePtr& pickNode, const osg::NodePtr& worldRoot, const PickView& view,
               const ScreenPoint& position, float tolerancePx, HandleHit& hit);
 
-    /// @return how often the table was filled anew, and how often only its picture; for tests of
-    /// the update strategy
-    std::size_t getFillCount() const { return fillCount; }
-
-    std::size_t getProjectionCount() const { return projectionCount; }
-
 private:
     /// What holds for a node because of its ancestors.
     struct Inherited
@@ -62,8 +56,7 @@ private:
     bool topCounts = false;  ///< all geometry below the top counts as handles
     osg::Matrix worldFromTable;
     PickView projectedView;
-    std::size_t fillCount = 0;
-    std::size_t projectionCount = 0;
+    std::size_t fillCount = 0;  ///< how often the table was filled
 };
 
 }  // namespace nbec::interaction::detail

@@ -37,10 +37,6 @@ public:
     void add(osg::UInt32 nodeId, const GeometrySoup& shape, const osg::Matrix& tableFromGeo,
              float halfWidthPx);
 
-    bool isEmpty() const { return handles.empty(); }
-
-    std::size_t getHandleCount() const { return handles.size(); }
-
     /// Draws the picture anew.
     /// @param worldFromTable  4x4, column vectors
     void project(const osg::Matrix& worldFromTable, const PickView& view);

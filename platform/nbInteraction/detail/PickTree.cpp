@@ -119,9 +119,7 @@ void PickTree::buildTree(bool expectsRefits)
     rtcReleaseGeometry(mesh);
     if (!commitScene(scene)) {
         dropTree();
-        return;
     }
-    ++buildCount;
 }
 
 void PickTree::refitTree()
@@ -139,7 +137,6 @@ void PickTree::refitTree()
         return;
     }
     ++refitsSinceBuild;
-    ++refitCount;
 }
 
 void PickTree::dropTree()
