@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 /// @file
-/// The side of FieldContainerGlue.h for the bundled scene graph, whose own classes are declared with
-/// the same machinery.
+/// The side of FieldContainerGlue.h for the bundled scene graph, whose own classes are declared
+/// with the same machinery.
 #pragma once
 
 #include <OpenSG/OSGContainerMacros.h>

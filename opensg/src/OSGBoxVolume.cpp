@@ -45,7 +45,8 @@ void BoxVolume::extendBy(const Pnt3f& point)
         return;
     }
     for (UInt32 i = 0; i < 3; ++i) {
-        low[i] = osgMin(low[i], point[i]);
+        // In this order of the arguments a coordinate that is no number changes nothing.
+        low[i] = osgMin(point[i], low[i]);
         high[i] = osgMax(high[i], point[i]);
     }
 }

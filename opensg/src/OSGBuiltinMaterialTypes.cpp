@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "OSGBuiltinTypes.h"
-
 #include <OpenSG/OSGBlendChunk.h>
 #include <OpenSG/OSGChunkMaterial.h>
 #include <OpenSG/OSGDepthChunk.h>
@@ -27,6 +25,8 @@
 #include <OpenSG/OSGState.h>
 #include <OpenSG/OSGTextureChunk.h>
 #include <OpenSG/OSGViewport.h>
+
+#include "OSGBuiltinTypes.h"
 
 namespace osg {
 

@@ -4,7 +4,6 @@
 #include <OpenSG/OSGBlendChunk.h>
 #include <OpenSG/OSGContentStamp.h>
 #include <OpenSG/OSGDepthChunk.h>
-#include <OpenSG/OSGImage.h>
 #include <OpenSG/OSGLineChunk.h>
 #include <OpenSG/OSGMaterialChunk.h>
 #include <OpenSG/OSGPolygonChunk.h>

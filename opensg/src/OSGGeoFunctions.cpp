@@ -12,10 +12,8 @@ namespace {
 constexpr BitVector kTopologyMask = Geometry::TypesFieldMask | Geometry::LengthsFieldMask |
     Geometry::NormalsFieldMask | Geometry::IndicesFieldMask | Geometry::IndexMappingFieldMask;
 
-/// Everything that indices may refer to, as far as the geometry has it.
-constexpr UInt16 kMapEverything = Geometry::MapPosition | Geometry::MapNormal | Geometry::MapColor |
-    Geometry::MapTexCoords | Geometry::MapTexCoords1 | Geometry::MapTexCoords2 |
-    Geometry::MapTexCoords3;
+/// All properties that indices may refer to.
+constexpr UInt16 kMapEverything = 2 * Geometry::MapTexCoords7 - 1;
 
 /// A triangle by the numbers of its vertices.
 struct Triangle

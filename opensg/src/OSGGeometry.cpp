@@ -1,12 +1,25 @@
 // SPDX-License-Identifier: MIT
-#include <OpenSG/OSGBoxVolume.h>
 #include <OpenSG/OSGFaceIterator.h>
 #include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGGeometryView.h>
 #include <OpenSG/OSGLineIterator.h>
 #include <OpenSG/OSGTriangleIterator.h>
+#include <OpenSG/OSGVolume.h>
 
 namespace osg {
+
+namespace {
+
+/// A coordinate that is no number changes nothing.
+void extendBounds(Pnt3f& low, Pnt3f& high, const Pnt3f& point)
+{
+    for (UInt32 i = 0; i < 3; ++i) {
+        low[i] = osgMin(point[i], low[i]);
+        high[i] = osgMax(high[i], point[i]);
+    }
+}
+
+}  // namespace
 
 OSG_ABSTRACT_CONTAINER_TYPE(Drawable, NodeCore);
 OSG_ABSTRACT_CONTAINER_TYPE(MaterialDrawable, Drawable);
@@ -84,19 +97,25 @@ void Geometry::adjustVolume(Volume& volume)
 
     const GeometryView view((GeometryPtr(*this)));
     const UInt32 positionCount = getPositions() != NullFC ? getPositions()->getSize() : 0;
-    BoxVolume box;
+    // Bare bounds, not a volume: its state would be asked at every vertex.
+    Pnt3f low(Inf, Inf, Inf);
+    Pnt3f high(NegInf, NegInf, NegInf);
     UInt64 first = 0;
     for (UInt32 i = 0; i < view.getPrimitiveCount(); ++i) {
         const UInt64 end = first + view.getLength(i);
-        for (UInt64 vertex = first; vertex < osgMin(end, UInt64(view.getVertexCount())); ++vertex) {
+        const UInt32 stop = static_cast<UInt32>(osgMin(end, UInt64(view.getVertexCount())));
+        for (UInt64 vertex = first; vertex < stop; ++vertex) {
             const Int32 index = view.getPositionIndex(static_cast<UInt32>(vertex));
             if (static_cast<UInt32>(index) < positionCount) {
-                box.extendBy(view.getPosition(static_cast<UInt32>(vertex)));
+                extendBounds(low, high, view.getPosition(static_cast<UInt32>(vertex)));
             }
         }
         first = end;
     }
-    volume.extendBy(box);
+    if (low[0] <= high[0] && low[1] <= high[1] && low[2] <= high[2]) {
+        volume.extendBy(low);
+        volume.extendBy(high);
+    }
 }
 
 void Geometry::changed(BitVector whichField, UInt32 origin)

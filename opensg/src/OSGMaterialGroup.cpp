@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <OpenSG/OSGMaterial.h>
 #include <OpenSG/OSGMaterialGroup.h>
 
 namespace osg {

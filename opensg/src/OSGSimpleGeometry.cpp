@@ -18,6 +18,16 @@ struct Rectangle
     UInt16 rows;
 };
 
+std::size_t vertexCountOf(const Rectangle& r)
+{
+    return (std::size_t(r.columns) + 1) * (std::size_t(r.rows) + 1);
+}
+
+std::size_t indexCountOf(const Rectangle& r)
+{
+    return 2 * (std::size_t(r.columns) + 1) * r.rows;
+}
+
 /// Rows of vertices from bottom to top; one strip per row that takes the upper vertex first.
 void addRectangle(detail::ShapeBuilder& shape, const Rectangle& rectangle)
 {
@@ -47,10 +57,14 @@ GeometryPtr makePlaneGeo(Real32 xsize, Real32 ysize, UInt16 hor, UInt16 vert)
     if (hor == 0 || vert == 0) {
         return detail::refuseShape("makePlane", "a subdivision is 0");
     }
-    detail::ShapeBuilder shape;
-    addRectangle(shape,
-                 { Pnt3f(-xsize / 2, -ysize / 2, 0), Vec3f(xsize, 0, 0), Vec3f(0, ysize, 0),
-                   Vec3f(0, 0, 1), hor, vert });
+    const Rectangle rectangle { Pnt3f(-xsize / 2, -ysize / 2, 0),
+                                Vec3f(xsize, 0, 0),
+                                Vec3f(0, ysize, 0),
+                                Vec3f(0, 0, 1),
+                                hor,
+                                vert };
+    detail::ShapeBuilder shape(vertexCountOf(rectangle), indexCountOf(rectangle));
+    addRectangle(shape, rectangle);
     return shape.build();
 }
 
@@ -64,24 +78,26 @@ GeometryPtr makeBoxGeo(Real32 xsize, Real32 ysize, Real32 zsize, UInt16 hor, UIn
     const Vec3f y(0, ysize, 0);
     const Vec3f z(0, 0, zsize);
 
-    const struct
-    {
-        Vec3f right;
-        Vec3f up;
-        Vec3f normal;
-        Vec3f outward;
-        UInt16 columns;
-        UInt16 rows;
-    } faces[] = {
-        { x, y, Vec3f(0, 0, 1), z, hor, vert },    { -x, y, Vec3f(0, 0, -1), -z, hor, vert },
-        { -z, y, Vec3f(1, 0, 0), x, depth, vert }, { z, y, Vec3f(-1, 0, 0), -x, depth, vert },
-        { x, -z, Vec3f(0, 1, 0), y, hor, depth },  { x, z, Vec3f(0, -1, 0), -y, hor, depth },
+    const auto face = [](const Vec3f& right, const Vec3f& up, const Vec3f& outward,
+                         const Vec3f& normal, UInt16 columns, UInt16 rows) {
+        const Pnt3f corner = Pnt3f() + (outward - right - up) * 0.5f;
+        return Rectangle { corner, right, up, normal, columns, rows };
+    };
+    const Rectangle faces[] = {
+        face(x, y, z, Vec3f(0, 0, 1), hor, vert),    face(-x, y, -z, Vec3f(0, 0, -1), hor, vert),
+        face(-z, y, x, Vec3f(1, 0, 0), depth, vert), face(z, y, -x, Vec3f(-1, 0, 0), depth, vert),
+        face(x, -z, y, Vec3f(0, 1, 0), hor, depth),  face(x, z, -y, Vec3f(0, -1, 0), hor, depth),
     };
 
-    detail::ShapeBuilder shape;
-    for (const auto& face : faces) {
-        const Pnt3f corner = Pnt3f() + (face.outward - face.right - face.up) * 0.5f;
-        addRectangle(shape, { corner, face.right, face.up, face.normal, face.columns, face.rows });
+    std::size_t vertexCount = 0;
+    std::size_t indexCount = 0;
+    for (const Rectangle& rectangle : faces) {
+        vertexCount += vertexCountOf(rectangle);
+        indexCount += indexCountOf(rectangle);
+    }
+    detail::ShapeBuilder shape(vertexCount, indexCount);
+    for (const Rectangle& rectangle : faces) {
+        addRectangle(shape, rectangle);
     }
     return shape.build();
 }

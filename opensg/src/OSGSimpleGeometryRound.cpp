@@ -90,7 +90,8 @@ GeometryPtr makeFrustum(const Char8* function, const Frustum& frustum, bool doSi
     if (frustum.sides < 3) {
         return refuseShape(function, "less than 3 sides");
     }
-    ShapeBuilder shape;
+    const std::size_t ring = frustum.sides + std::size_t(1);
+    ShapeBuilder shape(4 * ring, 4 * ring);
     if (doSide) {
         addSide(shape, frustum);
     }
@@ -211,11 +212,17 @@ GeometryPtr makeTorusGeo(Real32 innerRadius, Real32 outerRadius, UInt16 sides, U
     if (sides < 3 || rings < 3) {
         return refuseShape("makeTorus", "less than 3 sides or rings");
     }
-    ShapeBuilder shape;
+    const UInt32 width = sides + 1u;
+    ShapeBuilder shape(std::size_t(width) * (rings + 1u), std::size_t(2) * sides * (rings + 1u));
+    std::vector<TurnPart> tubes;
+    tubes.reserve(width);
+    for (UInt32 side = 0; side <= sides; ++side) {
+        tubes.emplace_back(side, sides);
+    }
     for (UInt32 ring = 0; ring <= rings; ++ring) {
         const TurnPart around(ring, rings);
         for (UInt32 side = 0; side <= sides; ++side) {
-            const TurnPart tube(side, sides);
+            const TurnPart& tube = tubes[side];
             const Real32 radius = outerRadius + innerRadius * tube.cosine;
             shape.addVertex(
                 Pnt3f(radius * around.cosine, -radius * around.sine, innerRadius * tube.sine),
@@ -223,7 +230,6 @@ GeometryPtr makeTorusGeo(Real32 innerRadius, Real32 outerRadius, UInt16 sides, U
                 Vec2f(1.f - Real32(ring) / Real32(rings), Real32(side) / Real32(sides)));
         }
     }
-    const UInt32 width = sides + 1u;
     for (UInt32 side = 0; side < sides; ++side) {
         shape.beginPrimitive(GL_TRIANGLE_STRIP);
         for (UInt32 ring = 0; ring <= rings; ++ring) {
@@ -249,7 +255,8 @@ GeometryPtr makeSphereGeo(UInt16 depth, Real32 radius)
         divideFacets(points, facets);
     }
 
-    ShapeBuilder shape;
+    // An index of the position and one of the texture coordinates per corner.
+    ShapeBuilder shape(points.size(), 6 * facets.size());
     for (const Vec3f& point : points) {
         shape.addPosition(Pnt3f(point * radius), point);
     }
@@ -268,7 +275,8 @@ GeometryPtr makeLatLongSphereGeo(UInt16 latres, UInt16 longres, Real32 radius)
     if (latres < 2 || longres < 3) {
         return refuseShape("makeLatLongSphere", "less than 2 rows or 3 columns");
     }
-    ShapeBuilder shape;
+    const UInt32 width = longres + 1u;
+    ShapeBuilder shape(std::size_t(width) * (latres + 1u), std::size_t(2) * width * latres);
     for (UInt32 row = 0; row <= latres; ++row) {
         // Half a turn from the south pole to the north pole.
         const TurnPart latitude(row, 2u * latres);
@@ -280,7 +288,6 @@ GeometryPtr makeLatLongSphereGeo(UInt16 latres, UInt16 longres, Real32 radius)
                             Vec2f(Real32(column) / Real32(longres), Real32(row) / Real32(latres)));
         }
     }
-    const UInt32 width = longres + 1u;
     for (UInt32 row = 0; row < latres; ++row) {
         shape.beginPrimitive(GL_TRIANGLE_STRIP);
         for (UInt32 column = 0; column < width; ++column) {

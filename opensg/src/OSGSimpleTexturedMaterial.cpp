@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include <OpenSG/OSGContentStamp.h>
-#include <OpenSG/OSGImage.h>
 #include <OpenSG/OSGSimpleTexturedMaterial.h>
 #include <OpenSG/OSGTextureChunk.h>
 

@@ -6,6 +6,14 @@
 
 namespace osg::detail {
 
+ShapeBuilder::ShapeBuilder(std::size_t vertexCount, std::size_t indexCount)
+{
+    positions->getField().reserve(vertexCount);
+    normals->getField().reserve(vertexCount);
+    texCoords2->getField().reserve(vertexCount);
+    indices->getField().reserve(indexCount);
+}
+
 UInt32 ShapeBuilder::addVertex(const Pnt3f& position, const Vec3f& normal, const Vec2f& texCoords)
 {
     texCoords2->getField().push_back(texCoords);

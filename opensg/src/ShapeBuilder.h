@@ -11,6 +11,9 @@ namespace osg::detail {
 class ShapeBuilder
 {
 public:
+    /// Room for so many vertices and indices.
+    ShapeBuilder(std::size_t vertexCount, std::size_t indexCount);
+
     /// @return index of the new vertex
     UInt32 addVertex(const Pnt3f& position, const Vec3f& normal, const Vec2f& texCoords);
 

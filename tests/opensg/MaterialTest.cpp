@@ -20,6 +20,8 @@
 
 #include <functional>
 #include <string>
+#include <type_traits>
+#include <utility>
 #include <vector>
 
 OSG_USING_NAMESPACE
@@ -31,6 +33,24 @@ typename Chunk::Ptr inForce(const StatePtr& state, UInt32 slot = 0)
 {
     return Chunk::Ptr::dcast(state->getChunk(Chunk::getStaticClassId() + slot));
 }
+
+/// Whether `chunk->setImage(argument)` compiles.
+template <class Argument, class = void>
+struct TakesImage : std::false_type
+{ };
+
+template <class Argument>
+struct TakesImage<
+    Argument,
+    std::void_t<decltype(std::declval<TextureChunkPtr>()->setImage(std::declval<Argument>()))>>
+    : std::true_type
+{ };
+
+// Code that compiles here has to compile on the real interface as well.
+static_assert(TakesImage<ImagePtr&>::value, "a named variable");
+static_assert(!TakesImage<ImagePtr>::value, "the result of a call");
+static_assert(!TakesImage<const NullFieldContainerPtr&>::value, "NullFC");
+static_assert(!TakesImage<RefPtr<ImagePtr>&>::value, "a RefPtr");
 
 /// Counts the containers alive before and after a test.
 class Materials : public testing::Test
@@ -103,8 +123,8 @@ TEST_F(Materials, SimpleMaterialHasItsColoursAsAChunkAndBlendsOnlyWhenTransparen
     material->setDiffuse(Color3f(1.f, 0.5f, 0.25f));
     material->setLit(false);
 
-    EXPECT_TRUE(inForce<MaterialChunk>(material->getState())->getDiffuse()
-                == Color4f(1.f, 0.5f, 0.25f, 1.f));
+    EXPECT_TRUE(inForce<MaterialChunk>(material->getState())->getDiffuse() ==
+                Color4f(1.f, 0.5f, 0.25f, 1.f));
     EXPECT_FALSE(inForce<MaterialChunk>(material->getState())->getLit());
     EXPECT_TRUE(inForce<BlendChunk>(material->getState()) == NullFC);
 

@@ -1,15 +1,17 @@
 // SPDX-License-Identifier: MIT
+// clang-format off
 /// @file
 /// How the classes of the bundled scene graph are declared. One field is one line.
+/// (Lists of several lines need backslashes, which are left out in this comment.)
 ///
 /// == Pointers: in OSG<Class>Fields.h or in the class's own header, in namespace osg
 ///
-///     OSG_CONTAINER_POINTER(LineChunk, StateChunkPtr);   // class LineChunk, LineChunkPtr,
-///     LineChunkRefPtr,
-///                                                        // SFLineChunkPtr, MFLineChunkPtr; may be
-///                                                        repeated
+///     OSG_CONTAINER_POINTER(LineChunk, StateChunkPtr);
 ///
-/// == Class: OSG<Class>.h (a list of several lines needs the usual backslashes, left out here)
+/// declares class LineChunk, LineChunkPtr, LineChunkRefPtr, SFLineChunkPtr and MFLineChunkPtr. It
+/// may be repeated.
+///
+/// == Class: OSG<Class>.h
 ///
 ///     #define OSG_LINE_CHUNK_FIELDS(VALUE, OWNED, LINK)
 ///         VALUE(Width, width, Real32, 1.f)
@@ -17,58 +19,53 @@
 ///
 ///     class LineChunk : public StateChunk
 ///     {
-///         OSG_STATE_CHUNK(LineChunk, StateChunk, OSG_LINE_CHUNK_FIELDS);   // a chunk class of its
-///         own
+///         OSG_STATE_CHUNK(LineChunk, StateChunk, OSG_LINE_CHUNK_FIELDS);
 ///
 ///     public:
 ///         bool isTransparent() const override;
 ///     };
 ///
-/// OSG_CONTAINER(Class, Base, FIELDS) for any other class, OSG_ABSTRACT_CONTAINER for one that
-/// cannot be created (no `create`, no prototype). OSG_NO_FIELDS is the empty list.
+/// OSG_STATE_CHUNK is for chunks with a chunk class (a slot) of their own, OSG_CONTAINER for any
+/// other class, OSG_ABSTRACT_CONTAINER for one that cannot be created (no `create`, no prototype).
+/// OSG_NO_FIELDS is the empty list.
 ///
 /// == Source: OSG<Class>.cpp, in namespace osg
 ///
-///     OSG_STATE_CHUNK_TYPE(LineChunk, StateChunk);   // or OSG_CONTAINER_TYPE,
-///     OSG_ABSTRACT_CONTAINER_TYPE
+///     OSG_STATE_CHUNK_TYPE(LineChunk, StateChunk);
 ///
-/// and one line in the table of OSGBuiltinCoreTypes.cpp, OSGBuiltinGeometryTypes.cpp or
-/// OSGBuiltinMaterialTypes.cpp, so that osgInit makes the type known to the factory by name.
+/// or OSG_CONTAINER_TYPE, OSG_ABSTRACT_CONTAINER_TYPE; and one line in the table of
+/// OSGBuiltinCoreTypes.cpp, OSGBuiltinGeometryTypes.cpp or OSGBuiltinMaterialTypes.cpp, so that
+/// osgInit makes the type known to the factory by name.
 ///
 /// == What a class gets
 ///
 /// `Inherited`, `Ptr`, `create()` (count 0), `getClassType()`, `getClassTypeId()`, `getType()`,
-/// `shallowCopy()`, default and copy constructor and destructor (protected), deep cloning, and per
-/// field the enumerator XFieldId, the mask XFieldMask (1 << id, ids continue those of the base)
-/// and:
+/// `shallowCopy()`, deep cloning, protected constructors and destructor, and per field the
+/// enumerator XFieldId, the mask XFieldMask (1 << id; ids continue those of the base) and:
 ///
-///     VALUE(Width, width, Real32, 1.f)        T& getWidth(), const T& getWidth() const,
-///     setWidth(const T&),
-///                                             SField<T>* getSFWidth(); member sfWidth
-///     OWNED(Image, image, ImagePtr)           the same without the non-const reference; +1 while
-///     held, -1
-///                                             when replaced and with the container's end; copied
-///                                             by deepClone
-///     LINK(Beacon, beacon, NodePtr)           the same, but neither counted nor followed; null in
-///     a deepClone
+///     VALUE(Width, width, Real32, 1.f)      a value with its start value
+///         Real32& getWidth(), const Real32& getWidth() const, setWidth(const Real32&),
+///         SField<Real32>* getSFWidth(); member sfWidth
+///     OWNED(Image, image, ImagePtr)         +1 while held, -1 when replaced and with the
+///         the same without the                  container's end; copied by deepClone
+///         non-const reference
+///     LINK(Beacon, beacon, NodePtr)         neither counted nor followed; null in a deepClone
+///         the same as OWNED
 ///
 /// A class with multi fields writes a list of six and says OSG_MULTI_CONTAINER,
-/// OSG_MULTI_STATE_CHUNK or OSG_ABSTRACT_MULTI_CONTAINER (the ..._TYPE macros are the same ones):
+/// OSG_MULTI_STATE_CHUNK or OSG_ABSTRACT_MULTI_CONTAINER (the ..._TYPE macros are the same):
 ///
 ///     #define OSG_CHUNK_MATERIAL_FIELDS(VALUE, OWNED, LINK, VALUES, OWNEDS, LINKS)
 ///         OWNEDS(Chunks, chunks, StateChunkPtr)
 ///         VALUES(Slots, slots, Int32)
 ///
-///     VALUES(Slots, slots, Int32)             MField<T>* getMFSlots(), MField<T>& getSlots() and
-///     const,
-///                                             T& getSlots(UInt32 index) and const; member mfSlots
-///     OWNEDS(Chunks, chunks, StateChunkPtr)   the same; each entry is counted. The class adds and
-///     removes with
-///                                             addOwned(mfChunks, chunk, *this),
-///                                             eraseOwned(mfChunks, index, *this),
-///                                             replaceOwned(mfChunks, index, chunk, *this),
-///                                             clearOwned(mfChunks, *this)
-///     LINKS(Port, port, ViewportPtr)          the same, not counted; empty in a deepClone
+///     VALUES(Slots, slots, Int32)           values
+///         MField<Int32>* getMFSlots(), MField<Int32>& getSlots(), Int32& getSlots(UInt32 index),
+///         the same const; member mfSlots
+///     OWNEDS(Chunks, chunks, StateChunkPtr) each entry counted; the class adds and removes with
+///         the same                              addOwned, eraseOwned, replaceOwned, clearOwned
+///     LINKS(Port, port, ViewportPtr)        not counted; empty in a deepClone
+///         the same
 ///
 /// Setters are plain: they write at once, announce nothing and call no `changed`. A reaction to an
 /// edit is an override of `changed(BitVector, UInt32)` that ends with Inherited::changed. What an
@@ -85,8 +82,6 @@
 #include <OpenSG/OSGOwnedFields.h>
 #include <OpenSG/OSGRefPtr.h>
 #include <OpenSG/OSGSField.h>
-
-// clang-format off
 
 #define OSG_NO_FIELDS(VALUE, OWNED, LINK)
 
@@ -239,7 +234,8 @@ private:                                                                        
 #define OSG_OWNEDS_COUNT_(Name, ...) osg::countAllOwned(mf##Name, *this);
 #define OSG_OWNEDS_RELEASE_(Name, ...) osg::clearOwned(mf##Name, *this);
 
-#define OSG_OWNED_CLONE_(Name, ...) osg::setOwned(sf##Name, cloner.copyOf(sf##Name.getValue()), *this);
+#define OSG_OWNED_CLONE_(Name, ...)                                                                \
+    osg::setOwned(sf##Name, cloner.copyOf(sf##Name.getValue()), *this);
 #define OSG_LINK_CLONE_(Name, ...) sf##Name.setValue(osg::NullFC);
 #define OSG_OWNEDS_CLONE_(Name, ...) osg::cloneAllOwned(mf##Name, cloner, *this);
 #define OSG_LINKS_CLONE_(Name, ...) mf##Name.clear();

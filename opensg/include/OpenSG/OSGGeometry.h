@@ -56,7 +56,11 @@ public:
         MapTexCoords = 16,
         MapTexCoords1 = 32,
         MapTexCoords2 = 64,
-        MapTexCoords3 = 128
+        MapTexCoords3 = 128,
+        MapTexCoords4 = 256,
+        MapTexCoords5 = 512,
+        MapTexCoords6 = 1024,
+        MapTexCoords7 = 2048
     };
 
     /// Entry of the index mapping that serves a property.

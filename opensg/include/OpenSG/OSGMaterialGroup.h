@@ -4,7 +4,7 @@
 #include <OpenSG/OSGConfig.h>
 #include <OpenSG/OSGContainerMacros.h>
 #include <OpenSG/OSGGroup.h>
-#include <OpenSG/OSGMaterialFields.h>
+#include <OpenSG/OSGMaterial.h>
 #include <OpenSG/OSGNodePtr.h>
 
 namespace osg {

@@ -4,7 +4,7 @@
 #include <OpenSG/OSGConfig.h>
 #include <OpenSG/OSGContainerMacros.h>
 #include <OpenSG/OSGGL.h>
-#include <OpenSG/OSGImageFields.h>
+#include <OpenSG/OSGImage.h>
 #include <OpenSG/OSGSimpleMaterial.h>
 
 namespace osg {

@@ -5,7 +5,7 @@
 #include <OpenSG/OSGConfig.h>
 #include <OpenSG/OSGContainerMacros.h>
 #include <OpenSG/OSGGL.h>
-#include <OpenSG/OSGImageFields.h>
+#include <OpenSG/OSGImage.h>
 #include <OpenSG/OSGStateChunk.h>
 
 namespace osg {
