@@ -174,6 +174,9 @@ void UberCamera::setNearFarFromBounds(const Pnt3f& boundsMin, const Pnt3f& bound
         farthest *= 1.0 + kHandleReach;
         nearest = std::max(nearest * (1.0 - kHandleReach), farthest / kMostDepthRatio);
     }
+    if (getNear() == toFloat(nearest) && getFar() == toFloat(farthest)) {
+        return;  // asked in every frame, and most frames change nothing
+    }
     const nbEdit edit(UberCameraPtr(*this), NearFieldMask | FarFieldMask);
     setNear(toFloat(nearest));
     setFar(toFloat(farthest));

@@ -46,9 +46,10 @@ class NB_PLATFORM_API UberCamera : public PerspectiveCamera
     NB_CONTAINER(UberCamera, PerspectiveCamera, UBER_CAMERA_FIELDS);
 
 public:
-    /// Far is never more than this times Near in a perspective that setNearFarFromBounds() makes:
-    /// a depth buffer of 24 bits then still parts things 1e-2 of their distance apart at the far
-    /// end and far finer before it, also within the tenth of its range that the handles get.
+    /// Far is never more than this times Near in a perspective that setNearFarFromBounds() makes: a
+    /// depth buffer of 24 bits then still parts what is a hundredth of its distance apart at the
+    /// far end (2^-24 Far / Near = 0.006), and ever finer before it. Handles, which get a tenth of
+    /// the range, are parted ten times as coarsely.
     static constexpr Real32 kMostDepthRatio = 1e5f;
     /// Part of their distance that handles reach towards the eye and away from it, at most: gizmos
     /// have a constant size on screen, so their extent grows with the distance.

@@ -20,6 +20,9 @@ constexpr int kWidth = 800;
 constexpr int kHeight = 600;
 constexpr float kTolerance = 1e-5f;
 constexpr float kPixelTolerance = 1e-3f;
+const Vec3f kX(1.f, 0.f, 0.f);
+const Vec3f kY(0.f, 1.f, 0.f);
+const Vec3f kZ(0.f, 0.f, 1.f);
 constexpr float kNan = std::numeric_limits<float>::quiet_NaN();
 
 /// At (0, 0, 10), looking at the pivot in the origin; 90 degrees, so the view is 20 high there.
@@ -93,61 +96,24 @@ TEST(nbCameraNavigation, AxesAreOrthonormalWhateverTheUpVector)
     const struct
     {
         const char* name;
-        Pnt3f from, at;
-        Vec3f up;
+        Vec3f from, up;
         bool zUp;
         Vec3f right, upAxis;
     } rows[] = {
-        { "front",
-          { 0.f, 0.f, 5.f },
-          {},
-          { 0.f, 2.f, 1.f },
-          false,
-          { 1.f, 0.f, 0.f },
-          { 0.f, 1.f, 0.f } },
-        { "from is at", {}, {}, { 0.f, 1.f, 0.f }, false, { 1.f, 0.f, 0.f }, { 0.f, 1.f, 0.f } },
-        { "from is at, z up",
-          {},
-          {},
-          { 0.f, 0.f, 1.f },
-          true,
-          { 1.f, 0.f, 0.f },
-          { 0.f, 0.f, 1.f } },
-        { "up zero", { 0.f, 0.f, -5.f }, {}, {}, false, { -1.f, 0.f, 0.f }, { 0.f, 1.f, 0.f } },
-        { "up along",
-          { 5.f, 0.f, 0.f },
-          {},
-          { 1.f, 0.f, 0.f },
-          false,
-          { 0.f, 0.f, -1.f },
-          { 0.f, 1.f, 0.f } },
-        { "above",
-          { 0.f, 5.f, 0.f },
-          {},
-          { 0.f, 1.f, 0.f },
-          false,
-          { 1.f, 0.f, 0.f },
-          { 0.f, 0.f, -1.f } },
-        { "above, z up",
-          { 0.f, 0.f, 5.f },
-          {},
-          { 0.f, 0.f, 1.f },
-          true,
-          { 1.f, 0.f, 0.f },
-          { 0.f, 1.f, 0.f } },
-        { "tiny",
-          { 0.f, 0.f, 1e-20f },
-          {},
-          { 0.f, 1e-20f, 0.f },
-          false,
-          { 1.f, 0.f, 0.f },
-          { 0.f, 1.f, 0.f } },
+        { "slanted up", 5.f * kZ, kY + kZ, false, kX, kY },
+        { "from is at", {}, kY, false, kX, kY },
+        { "from is at, z up", {}, kZ, true, kX, kZ },
+        { "up zero", -5.f * kZ, {}, false, -kX, kY },
+        { "up along", 5.f * kX, kX, false, -kZ, kY },
+        { "above", 5.f * kY, kY, false, kX, -kZ },
+        { "above, z up", 5.f * kZ, kZ, true, kX, kY },
+        { "tiny", 1e-20f * kZ, 1e-20f * kY, false, kX, kY },
     };
 
     for (const auto& row : rows) {
         CameraPose pose;
-        pose.from = row.from;
-        pose.at = row.at;
+        pose.from = Pnt3f(row.from);
+        pose.at = Pnt3f();
         pose.up = row.up;
         pose.zUp = row.zUp;
         const Navigation::Axes axes = Navigation::axes(pose);
@@ -167,7 +133,7 @@ TEST(nbCameraNavigation, OrbitTurnsAboutWorldUpAndRises)
     EXPECT_TRUE(
         isNear(Navigation::orbit(frontPose(), 0.f, 150.f, kHeight).from, Pnt3f(0.f, side, side)));
 
-    CameraPose zUp = Navigation::standardView(frontPose(), View::Front);
+    CameraPose zUp = frontPose();
     zUp.zUp = true;
     zUp = Navigation::standardView(zUp, View::Front);
     EXPECT_TRUE(isNear(Navigation::orbit(zUp, 300.f, 0.f, kHeight).from, Pnt3f(-10.f, 0.f, 0.f)));
@@ -242,29 +208,27 @@ TEST(nbCameraNavigation, PannedPointStaysUnderThePointer)
 
 TEST(nbCameraNavigation, ZoomGoesTowardsTheTargetButNotPastThePivot)
 {
+    const Vec3f centre;
+
     const struct
     {
         const char* name;
-        Pnt3f target;
+        Vec3f target;
         float factor;
-        Pnt3f from, at;
+        Vec3f from, at;
     } rows[] = {
-        { "pivot", {}, 0.5f, { 0.f, 0.f, 5.f }, {} },
-        { "beside the pivot", { 2.f, 0.f, 0.f }, 0.5f, { 1.f, 0.f, 5.f }, { 1.f, 0.f, 0.f } },
-        { "behind it on the same ray",
-          { 4.f, 0.f, -10.f },
-          0.5f,
-          { 1.f, 0.f, 5.f },
-          { 1.f, 0.f, 0.f } },
-        { "before it", { 0.f, 0.f, 6.f }, 0.5f, { 0.f, 0.f, 8.f }, { 0.f, 0.f, 3.f } },
-        { "behind the eye", { 3.f, 0.f, 50.f }, 0.5f, { 0.f, 0.f, 5.f }, {} },
-        { "away", {}, 2.f, { 0.f, 0.f, 20.f }, {} },
+        { "pivot", centre, 0.5f, 5.f * kZ, centre },
+        { "beside the pivot", 2.f * kX, 0.5f, kX + 5.f * kZ, kX },
+        { "behind it on the same ray", 4.f * kX - 10.f * kZ, 0.5f, kX + 5.f * kZ, kX },
+        { "before it", 6.f * kZ, 0.5f, 8.f * kZ, 3.f * kZ },
+        { "behind the eye", 3.f * kX + 50.f * kZ, 0.5f, 5.f * kZ, centre },
+        { "away", centre, 2.f, 20.f * kZ, centre },
     };
 
     for (const auto& row : rows) {
-        const CameraPose moved = Navigation::zoom(frontPose(), row.factor, row.target);
-        EXPECT_TRUE(isNear(moved.from, row.from)) << row.name;
-        EXPECT_TRUE(isNear(moved.at, row.at)) << row.name;
+        const CameraPose moved = Navigation::zoom(frontPose(), row.factor, Pnt3f(row.target));
+        EXPECT_TRUE(isNear(moved.from, Pnt3f(row.from))) << row.name;
+        EXPECT_TRUE(isNear(moved.at, Pnt3f(row.at))) << row.name;
     }
 
     CameraPose inwards = frontPose();
@@ -299,6 +263,9 @@ TEST(nbCameraNavigation, ZoomLeavesTheTargetWhereItIsSeen)
 
 TEST(nbCameraNavigation, FrameFillsTheViewUpToItsMargin)
 {
+    // tan(fov / 2) is 1: the near corner at z = 1 plus its height 1, times 1.1.
+    const Vec3f cube(1.f, 1.f, 1.f);
+
     const struct
     {
         const char* name;
@@ -307,15 +274,14 @@ TEST(nbCameraNavigation, FrameFillsTheViewUpToItsMargin)
         Vec3f halfSize;
         float distance;
     } rows[] = {
-        // tan(fov / 2) is 1: near corner at z = 1 plus its height 1, times 1.1.
-        { "cube", false, 1.f, { 1.f, 1.f, 1.f }, 2.2f },
-        { "cube in a wide view", false, 3.f, { 1.f, 1.f, 1.f }, 2.2f },
-        { "cube in a narrow view", false, 0.5f, { 1.f, 1.f, 1.f }, 3.3f },
-        { "deep", false, 1.f, { 1.f, 1.f, 5.f }, 6.6f },
-        { "cube, flat view", true, 1.f, { 1.f, 1.f, 1.f }, 1.1f },
-        { "cube, narrow flat view", true, 0.5f, { 1.f, 1.f, 1.f }, 2.2f },
-        { "unusable aspect", false, kNan, { 1.f, 1.f, 1.f }, 2.2f },
-        { "a point", false, 1.f, { 0.f, 0.f, 0.f }, 10.f },
+        { "cube", false, 1.f, cube, 2.2f },
+        { "cube in a wide view", false, 3.f, cube, 2.2f },
+        { "cube in a narrow view", false, 0.5f, cube, 3.3f },
+        { "deep", false, 1.f, cube + 4.f * kZ, 6.6f },
+        { "cube, flat view", true, 1.f, cube, 1.1f },
+        { "cube, narrow flat view", true, 0.5f, cube, 2.2f },
+        { "unusable aspect", false, kNan, cube, 2.2f },
+        { "a point", false, 1.f, {}, 10.f },
     };
 
     const Pnt3f centre(3.f, -4.f, 5.f);
@@ -326,7 +292,7 @@ TEST(nbCameraNavigation, FrameFillsTheViewUpToItsMargin)
             Navigation::frame(pose, centre - row.halfSize, centre + row.halfSize, row.aspect);
         EXPECT_TRUE(isNear(framed.at, centre)) << row.name;
         EXPECT_TRUE(isNear(framed.pivot, centre)) << row.name;
-        EXPECT_TRUE(isNear(framed.from, centre + Vec3f(0.f, 0.f, row.distance))) << row.name;
+        EXPECT_TRUE(isNear(framed.from, centre + kZ * row.distance)) << row.name;
     }
 }
 
@@ -351,7 +317,9 @@ TEST(nbCameraNavigation, FramedCornersAreAllInTheView)
 
 TEST(nbCameraNavigation, StandardViews)
 {
-    const float s = std::sqrt(0.5f);
+    const Vec3f corner = (kX + kZ) * std::sqrt(0.5f);
+    const Vec3f cornerZUp = (kX - kY) * std::sqrt(0.5f);
+    const float cosine = std::sqrt(0.75f);  // of 30 degrees
 
     const struct
     {
@@ -360,23 +328,22 @@ TEST(nbCameraNavigation, StandardViews)
         bool zUp;
         Vec3f back, up;
     } rows[] = {
-        { "front", View::Front, false, { 0.f, 0.f, 1.f }, { 0.f, 1.f, 0.f } },
-        { "back", View::Back, false, { 0.f, 0.f, -1.f }, { 0.f, 1.f, 0.f } },
-        { "left", View::Left, false, { -1.f, 0.f, 0.f }, { 0.f, 1.f, 0.f } },
-        { "right", View::Right, false, { 1.f, 0.f, 0.f }, { 0.f, 1.f, 0.f } },
-        { "top", View::Top, false, { 0.f, 1.f, 0.f }, { 0.f, 0.f, -1.f } },
-        { "bottom", View::Bottom, false, { 0.f, -1.f, 0.f }, { 0.f, 0.f, 1.f } },
-        { "three-quarter",
-          View::ThreeQuarter,
-          false,
-          { s * std::sqrt(0.75f), 0.5f, s * std::sqrt(0.75f) },
-          { -0.5f * s, std::sqrt(0.75f), -0.5f * s } },
-        { "front, z up", View::Front, true, { 0.f, -1.f, 0.f }, { 0.f, 0.f, 1.f } },
-        { "back, z up", View::Back, true, { 0.f, 1.f, 0.f }, { 0.f, 0.f, 1.f } },
-        { "left, z up", View::Left, true, { -1.f, 0.f, 0.f }, { 0.f, 0.f, 1.f } },
-        { "right, z up", View::Right, true, { 1.f, 0.f, 0.f }, { 0.f, 0.f, 1.f } },
-        { "top, z up", View::Top, true, { 0.f, 0.f, 1.f }, { 0.f, 1.f, 0.f } },
-        { "bottom, z up", View::Bottom, true, { 0.f, 0.f, -1.f }, { 0.f, -1.f, 0.f } },
+        { "front", View::Front, false, kZ, kY },
+        { "back", View::Back, false, -kZ, kY },
+        { "left", View::Left, false, -kX, kY },
+        { "right", View::Right, false, kX, kY },
+        { "top", View::Top, false, kY, -kZ },
+        { "bottom", View::Bottom, false, -kY, kZ },
+        { "corner", View::ThreeQuarter, false, corner * cosine + kY * 0.5f,
+          kY * cosine - corner * 0.5f },
+        { "front, z up", View::Front, true, -kY, kZ },
+        { "back, z up", View::Back, true, kY, kZ },
+        { "left, z up", View::Left, true, -kX, kZ },
+        { "right, z up", View::Right, true, kX, kZ },
+        { "top, z up", View::Top, true, kZ, kY },
+        { "bottom, z up", View::Bottom, true, -kZ, -kY },
+        { "corner, z up", View::ThreeQuarter, true, cornerZUp * cosine + kZ * 0.5f,
+          kZ * cosine - cornerZUp * 0.5f },
     };
 
     for (const auto& row : rows) {
