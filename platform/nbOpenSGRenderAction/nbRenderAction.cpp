@@ -215,6 +215,9 @@ void nbRenderAction::Impl::drawBackground(const Background& background)
     gl->glDisable(GL_BLEND);
     gl->glDisable(GL_CULL_FACE);
     gl->glDisable(GL_STENCIL_TEST);
+    // Colours reach the frame buffer as they are.
+    gl->glDisable(GL_FRAMEBUFFER_SRGB);
+    gl->glDisable(GL_DITHER);
     gl->glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
     gl->glDepthMask(GL_TRUE);
     gl->glClearBufferfv(GL_COLOR, 1, kNothing);

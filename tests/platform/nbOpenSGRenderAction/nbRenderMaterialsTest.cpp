@@ -119,13 +119,14 @@ TEST_F(nbRenderMaterialsTest, BrokenShaderCostsOneLineAndIsDrawnInPlainColor)
     {
         const nbEdit edit(chunk, osg::FieldBits::AllFields);
         chunk->setFragmentProgram("#version 330 core\nvoid main() { this is no program; }\n");
+        chunk->setUniformParameter("color", osg::Vec4f(0.f, 0.f, 1.f, 1.f));
     }
 
     draw(group({ square(1.f, with(unlit(kGreen), osg::StateChunkPtr(chunk))) }));
     const QImage picture = redraw();
     nbLog::setSink(former);
 
-    EXPECT_EQ(at(picture, 0.f, 0.f), kGreen);
+    EXPECT_EQ(at(picture, 0.f, 0.f), kBlue) << "the parameter color is what is left";
     ASSERT_EQ(lines.size(), 1u) << "once, not per frame";
     EXPECT_EQ(lines[0].find('\n'), std::string::npos);
 }
