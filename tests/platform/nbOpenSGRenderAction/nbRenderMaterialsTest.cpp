@@ -5,6 +5,9 @@
 #include <nbOpenSGUtils/nbShaderHeader.h>
 #include <nbUtils/nbLog.h>
 
+#include <QtGui/QOffscreenSurface>
+#include <QtGui/QOpenGLContext>
+
 using namespace rendertest;
 
 using nbRenderMaterialsTest = RenderTest;
@@ -201,4 +204,28 @@ TEST_F(nbRenderMaterialsTest, SeveralPassesSmoothEdgesAndKeepSurfaces)
 
     EXPECT_EQ(at(smooth, 0.f, 0.f), odd);
     EXPECT_EQ(view->render(viewport.get(), kSize, kSize, 8), smooth);
+}
+
+TEST_F(nbRenderMaterialsTest, OneActionOutlivesALostContext)
+{
+    viewport->setRoot((scene = group({ square(1.f, unlit(kRed)) })).get());
+    QSurfaceFormat format;
+    format.setVersion(3, 3);
+    format.setProfile(QSurfaceFormat::CoreProfile);
+    QOffscreenSurface surface;
+    surface.setFormat(format);
+    surface.create();
+    nbRenderAction action;
+    EXPECT_FALSE(action.initialise(nullptr)) << "no context is current";
+    for (int life = 0; life < 2; ++life) {
+        QOpenGLContext context;
+        context.setFormat(format);
+        ASSERT_TRUE(context.create() && context.makeCurrent(&surface));
+
+        ASSERT_TRUE(
+            action.render(viewport.get(), kSize, kSize, context.defaultFramebufferObject()));
+
+        EXPECT_EQ(at(action.readColour(), 0.f, 0.f), kRed) << "life " << life;
+        // The context dies without a word to the action.
+    }
 }

@@ -195,6 +195,7 @@ protected:
         viewport->setRoot(scene.get());
         const QImage picture = view->render(viewport.get(), kSize, kSize);
         EXPECT_FALSE(picture.isNull()) << view->getError();
+        // For looking at what was drawn: a directory that gets every picture as a PNG file.
         const char* directory = std::getenv("NB_TEST_PICTURES");
         if (directory != nullptr) {
             const auto* info = testing::UnitTest::GetInstance()->current_test_info();
