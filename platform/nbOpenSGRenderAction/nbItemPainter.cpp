@@ -266,9 +266,27 @@ void ItemPainter::setTexture(GlProgram& program)
     }
 }
 
+DrawState ItemPainter::plainState(const DrawState& state)
+{
+    DrawState plain = state;
+    plain.lit = false;
+    const auto chunk = osg::SHLChunkPtr::dcast(resolve(state.shaderId));
+    osg::Vec4f color;
+    if (chunk != osg::NullFC && chunk->getUniformParameter("color", color)) {
+        plain.diffuse = osg::Color3f(color.x(), color.y(), color.z());
+        plain.alpha = color.w();
+    }
+    return plain;
+}
+
 GlProgram* ItemPainter::prepareMaterial(const RenderItem& item, const DrawState& state,
                                         ShaderPrograms::Shape shape, bool isSurface, bool hasColors)
 {
+    if (state.shaderId != 0) {
+        DrawState plain = plainState(state);
+        plain.shaderId = 0;
+        return prepareMaterial(item, plain, shape, isSurface, hasColors);
+    }
     const bool isLine = shape == ShaderPrograms::Shape::Line;
     shaders::Features features;
     features.lit = state.lit && isSurface;
