@@ -23,13 +23,14 @@ std::string sizeText(int width, int height)
 
 }  // namespace
 
-bool FrameTargets::bind(Gl& gl, int width, int height, int samples, std::string& error)
+bool FrameTargets::bind(Gl& gl, int width, int height, int samples, GLenum depthFormat,
+                        std::string& error)
 {
     if (width != madeWidth || height != madeHeight || samples != wantedSamples) {
         release(gl);
         madeWidth = width;
         madeHeight = height;
-        if (!make(gl, samples, error)) {
+        if (!make(gl, samples, depthFormat, error)) {
             release(gl);
             return false;
         }
@@ -40,7 +41,7 @@ bool FrameTargets::bind(Gl& gl, int width, int height, int samples, std::string&
     return true;
 }
 
-bool FrameTargets::make(Gl& gl, int samples, std::string& error)
+bool FrameTargets::make(Gl& gl, int samples, GLenum depthFormat, std::string& error)
 {
     GLint largest = 0;
     gl.glGetIntegerv(GL_MAX_RENDERBUFFER_SIZE, &largest);
@@ -53,13 +54,13 @@ bool FrameTargets::make(Gl& gl, int samples, std::string& error)
     gl.glGenFramebuffers(1, &drawFramebuffer);
     gl.glBindFramebuffer(GL_FRAMEBUFFER, drawFramebuffer);
     gl.glGenRenderbuffers(3, renderbuffers);
-    constexpr GLenum kFormats[] = { GL_RGBA8, GL_RGBA8, GL_DEPTH_COMPONENT24 };
+    const GLenum formats[] = { GL_RGBA8, GL_RGBA8, depthFormat };
     constexpr GLenum kAttachments[] = { GL_COLOR_ATTACHMENT0, GL_COLOR_ATTACHMENT1,
                                         GL_DEPTH_ATTACHMENT };
     for (int i = 0; i < 3; ++i) {
         gl.glBindRenderbuffer(GL_RENDERBUFFER, renderbuffers[i]);
         gl.glRenderbufferStorageMultisample(GL_RENDERBUFFER, madeSamples > 1 ? madeSamples : 0,
-                                            kFormats[i], madeWidth, madeHeight);
+                                            formats[i], madeWidth, madeHeight);
         gl.glFramebufferRenderbuffer(GL_FRAMEBUFFER, kAttachments[i], GL_RENDERBUFFER,
                                      renderbuffers[i]);
     }

@@ -22,7 +22,8 @@ public:
     /// Makes the buffers for a size, if they are not there yet, and binds them for drawing.
     /// @param samples  wanted samples per pixel; the driver's limit holds, 1 or less is one
     /// @param error    receives a line on failure
-    bool bind(Gl& gl, int width, int height, int samples, std::string& error);
+    /// @param depthFormat  of the depth buffer
+    bool bind(Gl& gl, int width, int height, int samples, GLenum depthFormat, std::string& error);
 
     /// Fills the textures from what was drawn.
     void resolve(Gl& gl);
@@ -42,7 +43,7 @@ public:
     void forget() { *this = FrameTargets(); }
 
 private:
-    bool make(Gl& gl, int samples, std::string& error);
+    bool make(Gl& gl, int samples, GLenum depthFormat, std::string& error);
 
     int madeWidth = 0;
     int madeHeight = 0;

@@ -154,16 +154,16 @@ void ItemPainter::draw(const RenderItem& item, const DrawState& state)
 void ItemPainter::applyDepth(const RenderItem& item, const DrawState& state)
 {
     if (item.handle) {
-        gl.glDepthRange(0.0, kHandleDepth);
+        view.depth.setRange(gl, 0.0, kHandleDepth);
         gl.glEnable(GL_DEPTH_CLAMP);
     } else {
         const double size = 1.0 - kHandleDepth;
-        gl.glDepthRange(kHandleDepth + size * state.depthNear,
-                        kHandleDepth + size * state.depthFar);
+        view.depth.setRange(gl, kHandleDepth + size * state.depthNear,
+                            kHandleDepth + size * state.depthFar);
         gl.glDisable(GL_DEPTH_CLAMP);
     }
     // OpenGL writes no depth without the test; a test that always passes is the same otherwise.
-    gl.glDepthFunc(state.depthTest ? state.depthFunc : GLenum(GL_ALWAYS));
+    gl.glDepthFunc(state.depthTest ? view.depth.getComparison(state.depthFunc) : GLenum(GL_ALWAYS));
     gl.glDepthMask(state.depthTest && state.depthWrite ? GL_TRUE : GL_FALSE);
 }
 
@@ -198,21 +198,24 @@ void ItemPainter::applyPolygons(const RenderItem& item, const DrawState& state)
     const bool counterClockwise = (state.frontFace == GL_CCW) != mirrored;
     gl.glFrontFace(counterClockwise ? GL_CCW : GL_CW);
     gl.glPolygonMode(GL_FRONT_AND_BACK, state.polygonMode);
-    gl.glPolygonOffset(state.offsetFactor,
-                       state.offsetBias - kUnitsPerDepthStep * static_cast<float>(item.depthSteps));
+    view.depth.setOffset(gl, state.offsetFactor,
+                         state.offsetBias -
+                             kUnitsPerDepthStep * static_cast<float>(item.depthSteps));
 }
 
 void ItemPainter::setPlace(GlProgram& program, const RenderItem& item)
 {
-    osg::Matrix clipFromObject = view.clipFromWorld;
-    clipFromObject.mult(item.worldFromObject);
+    const osg::Matrix& clipFromView = item.handle ? view.handleClipFromView : view.clipFromView;
     osg::Matrix viewFromObject = view.viewFromWorld;
     viewFromObject.mult(item.worldFromObject);
+    osg::Matrix clipFromObject = clipFromView;
+    clipFromObject.mult(viewFromObject);
     program.set(gl, "nbClipFromObject", clipFromObject);
     program.set(gl, "nbWorldFromObject", item.worldFromObject);
     program.set(gl, "nbViewFromWorld", view.viewFromWorld);
-    program.set(gl, "nbClipFromView", view.clipFromView);
+    program.set(gl, "nbClipFromView", clipFromView);
     program.set(gl, "nbViewportSize", view.widthPx, view.heightPx);
+    program.set(gl, "reversedDepth", GLint(view.depth.isReversed() ? 1 : 0));
     program.set(gl, "viewFromObject", viewFromObject);
     program.set(gl, "normalFromObject", normalMatrix(viewFromObject));
 }

@@ -11,8 +11,6 @@
 #include <OpenSG/OSGMaterialGroup.h>
 #include <OpenSG/OSGSimpleAttachments.h>
 
-#include <cstring>
-
 #include "GeometryExtraction.h"
 #include "TreeWalk.h"
 
@@ -61,11 +59,6 @@ bool hasName(const osg::NodePtr& node)
     return name != nullptr && *name != '\0';
 }
 
-bool isSame(const osg::Matrix& a, const osg::Matrix& b)
-{
-    return std::memcmp(a.getValues(), b.getValues(), 16 * sizeof(float)) == 0;
-}
-
 /// Whether the node and all its ancestors are active.
 bool isShown(osg::NodePtr node)
 {
@@ -101,7 +94,7 @@ void HandlePicking::refresh(const osg::NodePtr& top, bool allCount, const PickVi
     const osg::UInt64 changes = osg::getTreeChangeCount(top);
     const bool isFilled =
         top.getFieldContainerId() == topId && changes == topChanges && allCount == topCounts;
-    if (isFilled && isSame(toWorld, worldFromTable) && view.isSame(projectedView)) {
+    if (isFilled && hasSameBits(toWorld, worldFromTable) && view.isSame(projectedView)) {
         return;
     }
     if (!isFilled) {
