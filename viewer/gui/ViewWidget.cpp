@@ -48,6 +48,10 @@ ViewWidget::~ViewWidget()
 {
     renderWidget.setObserver(nullptr);
     releaseGraphics();
+    // The context ends after the members that the slot needs.
+    if (context() != nullptr) {
+        disconnect(context(), nullptr, this, nullptr);
+    }
 }
 
 void ViewWidget::fixSize(const QSize& newSizePx)
