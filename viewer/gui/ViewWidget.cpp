@@ -121,6 +121,9 @@ bool ViewWidget::event(QEvent* event)
 {
     const QEvent::Type type = event->type();
     const bool taken = translator.handleEvent(*event);
+    if (type == QEvent::MouseMove || type == QEvent::Leave) {
+        viewStage.gizmo().setPointerInside(type == QEvent::MouseMove);
+    }
     if (type == QEvent::MouseMove || type == QEvent::Leave || type == QEvent::MouseButtonRelease) {
         emit stateChanged();
     }
