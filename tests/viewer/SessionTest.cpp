@@ -21,6 +21,7 @@ TEST(Session, SurvivesWritingAndReading)
     session.sizePx = { 801, 603 };
     session.camera.emplace();
     session.camera->from = { 1.5, -2.25, 3.0 };
+    session.camera->pivot = std::array<double, 3> { 0.5, 0.0, 0.0 };
     session.camera->orthographic = true;
     session.selection = "Knot";
     session.manipulator = "universal";
@@ -110,7 +111,7 @@ TEST(Session, ModelsAreFoundBesideTheFile)
     ASSERT_TRUE(QDir(folder.path()).mkpath("sessions"));
     const QString path = folder.filePath("sessions/a.json");
     Session session;
-    session.files = { folder.filePath("models/knot.obj") };
+    session.files.append(folder.filePath("models/knot.obj"));
     QString error;
 
     ASSERT_TRUE(writeSessionFile(path, session, error)) << error.toStdString();

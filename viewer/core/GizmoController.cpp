@@ -142,7 +142,8 @@ osg::NodePtr GizmoController::handles()
 
 std::string GizmoController::hoveredHandle()
 {
-    return current == Gizmo::None ? std::string() : nbNodeUtils::getName(probe.pick());
+    const bool isPossible = pointerInside && current != Gizmo::None;
+    return isPossible ? nbNodeUtils::getName(probe.pick()) : std::string();
 }
 
 std::string GizmoController::handleAt(const osg::Pnt2f& px)

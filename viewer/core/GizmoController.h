@@ -56,7 +56,11 @@ public:
     /// Follows the camera: call when it moved or the view was resized.
     void followCamera();
 
-    /// Name of the handle under the main widget's pointer; "" if there is none or nothing is shown.
+    /// Tells whether the pointer is over the view; it is at the start.
+    void setPointerInside(bool inside) { pointerInside = inside; }
+
+    /// Name of the handle under the main widget's pointer; "" if there is none, nothing is shown or
+    /// the pointer is outside.
     std::string hoveredHandle();
 
     /// Tree of the handles shown; null if there are none.
@@ -79,6 +83,7 @@ private:
     nbec::manipulator::CameraManipulator camera;
     nbec::manipulator::ManipulatorInteractionContext context;
     Gizmo current = Gizmo::None;
+    bool pointerInside = true;
 };
 
 }  // namespace viewer

@@ -74,6 +74,7 @@ struct SessionCamera
     std::array<double, 3> from { 0.0, 0.0, 0.0 };
     std::array<double, 3> at { 0.0, 0.0, 0.0 };
     std::array<double, 3> up { 0.0, 1.0, 0.0 };
+    std::optional<std::array<double, 3>> pivot;  ///< what the view turns about; absent: `at`
     double fovDeg = 45.0;  ///< vertical opening angle, degrees
     bool orthographic = false;
     bool zUp = false;

@@ -133,11 +133,17 @@ bool Reader::readCamera(const QJsonValue& value, SessionCamera& camera)
         return fail(path, QStringLiteral("expected an object"));
     }
     constexpr double kMaxFovDeg = 179.0;
-    if (!checkKeys(object, path, { "from", "at", "up", "fov", "orthographic", "zUp" }) ||
+    if (!checkKeys(object, path, { "from", "at", "up", "pivot", "fov", "orthographic", "zUp" }) ||
         !readNumbers(object.value("from"), path + ".from", camera.from.data(), 3) ||
         !readNumbers(object.value("at"), path + ".at", camera.at.data(), 3) ||
         !readNumbers(object.value("up"), path + ".up", camera.up.data(), 3)) {
         return false;
+    }
+    if (object.contains("pivot")) {
+        camera.pivot.emplace();
+        if (!readNumbers(object.value("pivot"), path + ".pivot", camera.pivot->data(), 3)) {
+            return false;
+        }
     }
     camera.fovDeg = object.value("fov").toDouble(camera.fovDeg);
     if (!(camera.fovDeg >= 1.0 && camera.fovDeg <= kMaxFovDeg)) {

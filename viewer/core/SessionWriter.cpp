@@ -119,6 +119,9 @@ QJsonObject jsonOf(const SessionCamera& camera)
     object["from"] = jsonOf(camera.from);
     object["at"] = jsonOf(camera.at);
     object["up"] = jsonOf(camera.up);
+    if (camera.pivot) {
+        object["pivot"] = jsonOf(*camera.pivot);
+    }
     object["fov"] = camera.fovDeg;
     object["orthographic"] = camera.orthographic;
     object["zUp"] = camera.zUp;

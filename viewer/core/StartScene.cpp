@@ -125,7 +125,7 @@ void placeObjects(Composition& scene)
     scene.place("Vase", makeLathe(vaseProfile(), kFine),
                 glossy({ 0.74F, 0.36F, 0.24F }, 0.30F, 28.0F), { -2.75F, 0.2F, -0.75F });
     scene.place("Pebble", makeBlob(0.62F), glossy({ 0.83F, 0.67F, 0.34F }, 0.25F, 24.0F),
-                { 2.75F, 0.6F, 0.1F });
+                { 3.05F, 0.6F, -0.85F });
     scene.place("Column", makeTwistedColumn(0.62F, 2.9F), matt({ 0.52F, 0.56F, 0.66F }),
                 { 1.6F, 0.5F, -2.9F });
     scene.place("Bowl", makeLathe(bowlProfile(), kFine),
@@ -133,7 +133,7 @@ void placeObjects(Composition& scene)
     scene.place("Ball", makeBall(0.42F), glossy({ 0.78F, 0.20F, 0.22F }, 0.60F, 64.0F),
                 { -1.22F, 0.58F, 2.5F });
     scene.place("Pawn", makeLathe(pawnProfile(), kFine),
-                glossy({ 0.90F, 0.87F, 0.80F }, 0.30F, 32.0F), { 1.75F, 0, 2.3F });
+                glossy({ 0.90F, 0.87F, 0.80F }, 0.30F, 32.0F), { 2.9F, 0, 1.9F });
 }
 
 }  // namespace
