@@ -113,16 +113,17 @@ QImage FrameTargets::read(Gl& gl, Buffer buffer)
     gl.glReadPixels(0, 0, madeWidth, madeHeight, GL_RGBA, GL_UNSIGNED_BYTE, picture.bits());
     gl.glBindFramebuffer(GL_READ_FRAMEBUFFER, static_cast<GLuint>(readBefore));
     gl.glBindFramebuffer(GL_DRAW_FRAMEBUFFER, static_cast<GLuint>(drawnBefore));
-    const QImage upright = picture.mirrored();
+    QImage upright = picture.mirrored();
     if (buffer == Buffer::Effect) {
         return upright;
     }
     // Blending leaves fractions in the alpha of the colour buffer, which the picture does not have.
     QImage opaque = upright.convertToFormat(QImage::Format_RGBX8888);
+    constexpr uchar kOpaque = 0xff;
     for (int y = 0; y < opaque.height(); ++y) {
         uchar* row = opaque.scanLine(y);
         for (int x = 0; x < opaque.width(); ++x) {
-            row[4 * x + 3] = 255;
+            row[4 * x + 3] = kOpaque;
         }
     }
     return opaque;
