@@ -25,15 +25,15 @@ public:
     /// @param depthFormat  of the depth buffer
     bool bind(Gl& gl, int width, int height, int samples, GLenum depthFormat, std::string& error);
 
-    /// Fills the textures from what was drawn.
-    void resolve(Gl& gl);
+    /// Fills a texture from what was drawn since bind().
+    void resolve(Gl& gl, Buffer buffer);
 
     /// Texture with the resolved picture.
     GLuint getTexture(Buffer buffer) const { return textures[buffer == Buffer::Color ? 0 : 1]; }
 
     /// The resolved picture, rows from top to bottom: colour without alpha, effect with it. Null
     /// before the first frame.
-    QImage read(Gl& gl, Buffer buffer) const;
+    QImage read(Gl& gl, Buffer buffer);
 
     /// Samples per pixel that the driver really gave.
     int getSamples() const { return madeSamples; }

@@ -61,6 +61,9 @@ private:
     /// Binds the state's texture, or none. @return whether there is one
     bool bindTexture(const DrawState& state);
     void setTexture(GlProgram& program);
+    /// The state for items of a broken shader chunk: unlit, in the chunk's parameter "color" if it
+    /// has one.
+    static DrawState plainState(const DrawState& state);
     /// A program for the state, in use and with its values; null if the driver refuses it.
     GlProgram* prepareMaterial(const RenderItem& item, const DrawState& state,
                                ShaderPrograms::Shape shape, bool isSurface, bool hasColors);

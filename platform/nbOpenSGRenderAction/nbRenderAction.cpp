@@ -215,6 +215,9 @@ void nbRenderAction::Impl::drawBackground(const Background& background)
     gl->glDisable(GL_BLEND);
     gl->glDisable(GL_CULL_FACE);
     gl->glDisable(GL_STENCIL_TEST);
+    // Colours reach the frame buffer as they are.
+    gl->glDisable(GL_FRAMEBUFFER_SRGB);
+    gl->glDisable(GL_DITHER);
     gl->glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
     gl->glDepthMask(GL_TRUE);
     gl->glClearBufferfv(GL_COLOR, 1, kNothing);
@@ -225,8 +228,10 @@ void nbRenderAction::Impl::drawBackground(const Background& background)
     const osg::Color4f& bottom = background.bottom;
     program.set(*gl, "topColor", top.red(), top.green(), top.blue(), top.alpha());
     program.set(*gl, "bottomColor", bottom.red(), bottom.green(), bottom.blue(), bottom.alpha());
+    gl->glColorMaski(1, GL_FALSE, GL_FALSE, GL_FALSE, GL_FALSE);
     gl->glBindVertexArray(emptyArray);
     gl->glDrawArrays(GL_TRIANGLES, 0, 3);
+    gl->glColorMaski(1, GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
 }
 
 void nbRenderAction::Impl::drawScene(const osg::ViewportPtr& viewport, int widthPx, int heightPx)
@@ -265,6 +270,7 @@ void nbRenderAction::Impl::drawScene(const osg::ViewportPtr& viewport, int width
 void nbRenderAction::Impl::present(int widthPx, int heightPx, osg::UInt32 targetFramebuffer)
 {
     const auto shown = effectShown ? FrameTargets::Buffer::Effect : FrameTargets::Buffer::Color;
+    targets.resolve(*gl, shown);
     gl->glBindFramebuffer(GL_FRAMEBUFFER, targetFramebuffer);
     gl->glViewport(0, 0, widthPx, heightPx);
     gl->glDisable(GL_DEPTH_TEST);
@@ -336,7 +342,6 @@ bool nbRenderAction::render(const osg::ViewportPtr& viewport, int widthPx, int h
     if (viewport != osg::NullFC && viewport->getCamera() != osg::NullFC) {
         impl->drawScene(viewport, widthPx, heightPx);
     }
-    impl->targets.resolve(*impl->gl);
     impl->present(widthPx, heightPx, targetFramebuffer);
     impl->collect();
     return true;

@@ -251,11 +251,9 @@ in vec2 place;
 uniform vec4 topColor;
 uniform vec4 bottomColor;
 layout (location = 0) out vec4 colorBufferRGBA;
-layout (location = 1) out vec4 effectBufferRGBA;
 void main()
 {
     colorBufferRGBA = vec4(mix(bottomColor.rgb, topColor.rgb, place.y), 1.0);
-    effectBufferRGBA = vec4(0.0);
 }
 )";
 

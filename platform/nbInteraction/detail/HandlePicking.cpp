@@ -6,10 +6,11 @@
 
 #include <OpenSG/OSGChangeCount.h>
 #include <OpenSG/OSGChunkMaterial.h>
-#include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGLineChunk.h>
 #include <OpenSG/OSGMaterialGroup.h>
 #include <OpenSG/OSGSimpleAttachments.h>
+
+#include <iterator>
 
 #include "GeometryExtraction.h"
 #include "TreeWalk.h"
@@ -101,14 +102,32 @@ void HandlePicking::refresh(const osg::NodePtr& top, bool allCount, const PickVi
         topId = top.getFieldContainerId();
         topChanges = changes;
         topCounts = allCount;
-        table.clear();
-        collect(top, inheritedBy(top));
-        ++fillCount;
+        fill(top);
     }
     worldFromTable = toWorld;
     projectedView = view;
     table.project(worldFromTable, projectedView);
-    ++projectionCount;
+}
+
+void HandlePicking::fill(const osg::NodePtr& top)
+{
+    ++fillCount;
+    table.clear();
+    collect(top, inheritedBy(top));
+    for (auto shape = shapes.begin(); shape != shapes.end();) {
+        shape = shape->second.lastFill == fillCount ? std::next(shape) : shapes.erase(shape);
+    }
+}
+
+const GeometrySoup& HandlePicking::shapeOf(const osg::GeometryPtr& geometry)
+{
+    Shape& shape = shapes[geometry.getFieldContainerId()];
+    if (shape.lastFill == 0 || shape.changeCount != geometry->getChangeCount()) {
+        shape.soup = extractGeometry(geometry);
+        shape.changeCount = geometry->getChangeCount();
+    }
+    shape.lastFill = fillCount;
+    return shape.soup;
 }
 
 HandlePicking::Inherited HandlePicking::inheritedBy(const osg::NodePtr& top)
@@ -159,7 +178,7 @@ void HandlePicking::addHandle(const osg::NodePtr& node, const Inherited& inherit
     }
     const float width = lineWidth(geometry->getMaterial(), inherited.outermostMaterial,
                                   inherited.isBelowManipulator);
-    table.add(node.getFieldContainerId(), extractGeometry(geometry), inherited.tableFromParent,
+    table.add(node.getFieldContainerId(), shapeOf(geometry), inherited.tableFromParent,
               0.5f * width);
 }
 
