@@ -28,5 +28,5 @@ public:
     nbScopedUndo& operator=(const nbScopedUndo&) = delete;
 
 private:
-    bool records;
+    bool isRecorded;
 };

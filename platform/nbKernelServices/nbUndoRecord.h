@@ -12,6 +12,10 @@ public:
     nbUndoRecord() = default;
     virtual ~nbUndoRecord() = default;
 
+    /// False for an edit that a person does not see: it waits for the next step instead of making
+    /// one by itself.
+    virtual bool isStepAlone() const { return true; }
+
     /// Called once, when the step closes: reads the state at the end.
     /// @return whether it differs from the state before; a record without difference is dropped
     virtual bool close() = 0;

@@ -10,7 +10,7 @@
 
 class QUndoStack;
 class nbUndoRecord;
-struct nbTransformState;
+struct nbTransformEntry;
 
 /// Records edits and takes them back, as steps on a QUndoStack (of Qt's widgets module, which works
 /// without an application object).
@@ -77,9 +77,8 @@ public:
 
     /// To be called before each edit of a transform core. The first call in a step keeps the state;
     /// the next ones find it again, fastest when the cores of each scope come in the same order.
-    /// @return the state at the beginning of the step, valid until the next call; null if nothing
-    /// records
-    const nbTransformState* noteTransform(const osg::Transform3DPtr& core);
+    /// @return what is kept of the core, valid until the next call; null if nothing records
+    nbTransformEntry* noteTransform(const osg::Transform3DPtr& core);
 
     nbUndoService(const nbUndoService&) = delete;
     nbUndoService& operator=(const nbUndoService&) = delete;
@@ -87,11 +86,15 @@ public:
 private:
     friend class nbScopedUndo;
     friend class nbScopedMultiCommand;
-    class Recording;
     struct Internals;
 
     nbUndoService();
     ~nbUndoService();
+
+    void openScope(bool isRecorded);
+    void offerTitle(const QString& title);
+    void offerTitle(const char* title);
+    void closeScope(bool wasRecorded);
 
     std::unique_ptr<Internals> internals;
 };

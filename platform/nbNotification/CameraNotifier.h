@@ -12,13 +12,16 @@ namespace nbec::notification {
 
 /// Notifier whose texts stand still before the camera, over the whole scene.
 /// Has a place in the scene graph: an auxiliary node named "cameraNotifier" without geometry, which
-/// goes with the notifier. Its being active is what shows the texts.
+/// goes with the notifier.
 class NB_PLATFORM_API CameraNotifier : public Notifier
 {
 public:
     /// @param parent  where the node is hung, such as the scene's internal root; null: nowhere
     explicit CameraNotifier(const osg::NodePtr& parent);
     ~CameraNotifier() override;
+
+    /// While the node is active.
+    bool isVisible() const override;
 
     osg::NodePtr getNode() const { return node; }
 

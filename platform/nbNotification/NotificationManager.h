@@ -83,7 +83,8 @@ public:
     /// left out
     std::vector<VisibleText> getVisibleTexts(int width, int height) const;
 
-    /// Counts every change of texts, notifiers and settings that were announced.
+    /// Counts every change of texts and of the register of notifiers; settings of a notifier are
+    /// read when the view paints.
     osg::UInt64 getChangeCount() const { return changeCount; }
 
     /// Called after each change, so that the view can redraw. An empty function for none.

@@ -9,7 +9,7 @@
 namespace nbec::notification {
 
 /// How and where the texts of one kind are shown; kept as data, painted by the view.
-struct NotifierSettings
+struct NB_PLATFORM_API NotifierSettings
 {
     /// Height of the text relative to the view's usual text.
     float textSize = 1.f;
@@ -36,6 +36,9 @@ class NB_PLATFORM_API Notifier
 public:
     Notifier() = default;
     virtual ~Notifier();
+
+    /// Whether its texts are shown now.
+    virtual bool isVisible() const { return true; }
 
     // == Settings; setters with values that are not finite change nothing
 

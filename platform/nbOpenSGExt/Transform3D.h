@@ -54,6 +54,10 @@ public:
     static constexpr BitVector RotationFieldMask = EulerRotationFieldMask |
         EulerRotationOrderFieldMask | RotationQuaternionFieldMask | RotationModeFieldMask;
 
+    /// Everything that the matrix depends on.
+    static constexpr BitVector PartsFieldMask = TranslationFieldMask | RotatePivotFieldMask |
+        ScalePivotFieldMask | RotationFieldMask | RotationOrientationFieldMask | ScaleFieldMask;
+
     /// R as angles about x, y, z in degrees, in the core's order, whatever the mode.
     Vec3f getRotation() const;
 
@@ -72,6 +76,17 @@ public:
 
     /// Rebuilds the matrix when one of the parts has changed.
     void changed(BitVector whichField, UInt32 origin) override;
+
+private:
+    /// The angles' quaternion and what it was worked out from.
+    struct EulerCache
+    {
+        Vec3f angles { 0.f, 0.f, 0.f };
+        std::string order { "xyz" };
+        Quaternion rotation;
+    };
+
+    mutable EulerCache eulerCache;
 };
 
 }  // namespace osg

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <nbOpenSGExt/nbEulerRotation.h>
 #include <nbUtils/nbPlatformExport.h>
 
 #include <OpenSG/OSGQuaternion.h>
@@ -24,7 +25,7 @@ struct nbEulerAngles
 class NB_PLATFORM_API nbEulerUtils
 {
 public:
-    static constexpr int kOrderCount = 6;
+    static constexpr int kOrderCount = nbEulerRotation::kOrderCount;
 
     /// Number of an order; 0 for a text that is no permutation of x, y, z. Upper case counts as
     /// lower case.
@@ -34,7 +35,7 @@ public:
     static std::string getStringFromOrder(int order);
 
     /// Angles of a rotation. The middle angle of the order lies in -90 .. 90 degrees; where it is
-    /// within 1e-6 of the ends (cosine), the last angle is 0 and the first takes the whole turn.
+    /// within 1e-10 of the ends (cosine), the last angle is 0 and the first takes the whole turn.
     /// @param rotation  any length but 0, which gives zero angles
     static nbEulerAngles EulFromQuat(const osg::Quaterniond& rotation, int order);
     static nbEulerAngles EulFromQuat(const osg::Quaternion& rotation, int order);

@@ -61,8 +61,8 @@ public:
     static osg::Vec3f getTransformNodeRotatePivot(const osg::NodePtr& node);
     static osg::Vec3f getTransformNodeScalePivot(const osg::NodePtr& node);
 
-    /// Sets a pivot of the node's transform core, a point in the object's own coordinates: of a
-    /// Transform3D that pivot, of a ComponentTransform its centre, which is both.
+    /// Sets a pivot of the node's Transform3D core, a point in the object's own coordinates.
+    /// Can be undone where edits are recorded, see nbEditRecorder.
     /// @param keepInPlace  true: the translation changes with it, so that the object stays; false:
     /// only the pivot changes
     /// @param index  which transform of the node, for nodes with several; nodes here have one, -1

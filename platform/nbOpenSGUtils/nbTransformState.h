@@ -24,6 +24,6 @@ struct NB_PLATFORM_API nbTransformState
     /// Writes all parts back, as one edit.
     void applyTo(const osg::Transform3DPtr& core) const;
 
-    /// Whether all parts are the same bit for bit.
+    /// Whether all parts are the same bit for bit, zeros of both signs counting as one.
     bool isSame(const nbTransformState& other) const;
 };
