@@ -6,6 +6,11 @@ if(NBMANIPULATOR_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     set(CMAKE_CXX_COMPILER_LAUNCHER ${NBMANIPULATOR_CCACHE})
 endif()
 
+# Nobody replaces functions of our shared libraries one by one, so calls inside a library may be inlined.
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    add_compile_options(-fno-semantic-interposition)
+endif()
+
 # Warnings of the house style for one target of our own.
 function(nb_warnings target)
     target_compile_options(${target} PRIVATE

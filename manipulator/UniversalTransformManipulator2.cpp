@@ -20,6 +20,7 @@
 #include <OpenSG/OSGSimpleAttachments.h>
 
 #include <cmath>
+#include <cstring>
 #include <string_view>
 
 namespace nbec::manipulator {
@@ -30,6 +31,13 @@ using Mode = UniversalTransformManipulator2::ManipulatorMode;
 
 /// Elements of two to-world matrices that differ by no more are the same placement.
 constexpr float kPlacementTolerance = 1e-6F;
+
+/// Equal bits, which is the usual case and quick to see, or equal within the tolerance.
+bool isSamePlacement(const osg::Matrix& left, const osg::Matrix& right)
+{
+    return std::memcmp(left.getValues(), right.getValues(), sizeof(osg::Real32) * 16) == 0 ||
+        left.equals(right, kPlacementTolerance);
+}
 
 /// Which families an activation puts back to their idle colours.
 struct DefaultFamilies
@@ -116,7 +124,7 @@ void UniversalTransformManipulator2::update(bool force)
     if (node == osg::NullFC) {
         return;
     }
-    if (force || !detail::targetToWorld(node).equals(cachedTargetToWorld, kPlacementTolerance)) {
+    if (force || !isSamePlacement(detail::targetToWorld(node), cachedTargetToWorld)) {
         updateManipulator();
     }
 }

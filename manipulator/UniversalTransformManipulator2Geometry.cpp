@@ -26,10 +26,6 @@ constexpr int kHighlightLineSortKey = 64016;
 constexpr float kHalfSqrt2 = 0.7071068F;
 constexpr float kRightAngleDeg = 90.0F;
 constexpr float kConeLift = 1.0F;
-constexpr float kScaleShaftCentre = 0.75F;
-constexpr float kScaleCubeCentre = 1.5F;
-constexpr float kPlaneCentre = 0.2F;
-constexpr float kPlaneEdge = 0.4F;
 constexpr std::size_t kUniform = 3;
 
 struct ColorRow
@@ -107,17 +103,7 @@ osg::Quaternion turnOntoPlane(std::size_t plane)
     return turn;
 }
 
-/// Hangs a shape below a node at a place of its own. @return the shape's node
-osg::NodePtr addPlacedShape(const osg::NodePtr& parent, HandleShape shape,
-                            const osg::Vec3f& translation,
-                            const osg::Quaternion& rotation = osg::Quaternion())
-{
-    const osg::NodePtr shapeNode = detail::makeShapeNode(shape);
-    detail::addChild(parent,
-                     detail::addChild(detail::makePlacedNode(translation, rotation), shapeNode));
-    return shapeNode;
-}
-
+/// Hangs a shape below a node. @return the shape's node
 osg::NodePtr addShape(const osg::NodePtr& parent, HandleShape shape)
 {
     const osg::NodePtr shapeNode = detail::makeShapeNode(shape);
@@ -247,9 +233,10 @@ UniversalTransformManipulator2::createArrow(std::size_t axis)
     HandleNodes arrow;
     arrow.top = detail::makePlacedNode(unitAxis(axis), turnOntoAxis(axis));
     arrow.parts[0] = { addShape(arrow.top, HandleShape::ArrowShaft), true };
-    arrow.parts[1] = {
-        addPlacedShape(arrow.top, HandleShape::ArrowHead, osg::Vec3f(0.0F, kConeLift, 0.0F)), false
-    };
+    const osg::NodePtr head =
+        detail::makePlacedNode(osg::Vec3f(0.0F, kConeLift, 0.0F), osg::Quaternion());
+    detail::addChild(arrow.top, head);
+    arrow.parts[1] = { addShape(head, HandleShape::ArrowHead), false };
     return arrow;
 }
 
@@ -263,12 +250,8 @@ UniversalTransformManipulator2::createScaleHandle(std::size_t axis)
         return handle;
     }
     handle.top = detail::makeTransform3DNode(eulerOntoAxisDeg(axis));
-    handle.parts[0] = { addPlacedShape(handle.top, HandleShape::ScaleShaft,
-                                       osg::Vec3f(0.0F, kScaleShaftCentre, 0.0F)),
-                        true };
-    handle.parts[1] = { addPlacedShape(handle.top, HandleShape::Cube,
-                                       osg::Vec3f(0.0F, kScaleCubeCentre, 0.0F)),
-                        false };
+    handle.parts[0] = { addShape(handle.top, HandleShape::ScaleShaft), true };
+    handle.parts[1] = { addShape(handle.top, HandleShape::ScaleCube), false };
     return handle;
 }
 
@@ -285,19 +268,11 @@ UniversalTransformManipulator2::createRing(std::size_t axis)
 UniversalTransformManipulator2::HandleNodes
 UniversalTransformManipulator2::createPlaneHandle(std::size_t plane)
 {
-    osg::Quaternion yOntoX;
-    yOntoX.setValueAsQuat(0.0F, 0.0F, -kHalfSqrt2, kHalfSqrt2);
     HandleNodes handle;
     handle.top = detail::makePlacedNode(osg::Vec3f(), turnOntoPlane(plane));
-    handle.parts[0] = { addPlacedShape(handle.top, HandleShape::PlanePatch,
-                                       osg::Vec3f(kPlaneCentre, kPlaneCentre, 0.0F)),
-                        false };
-    handle.parts[1] = { addPlacedShape(handle.top, HandleShape::PlaneBar,
-                                       osg::Vec3f(kPlaneCentre, kPlaneEdge, 0.0F), yOntoX),
-                        false };
-    handle.parts[2] = { addPlacedShape(handle.top, HandleShape::PlaneBar,
-                                       osg::Vec3f(kPlaneEdge, kPlaneCentre, 0.0F)),
-                        false };
+    handle.parts[0] = { addShape(handle.top, HandleShape::PlanePatch), false };
+    handle.parts[1] = { addShape(handle.top, HandleShape::PlaneBarX), false };
+    handle.parts[2] = { addShape(handle.top, HandleShape::PlaneBarY), false };
     return handle;
 }
 

@@ -33,6 +33,36 @@ constexpr osg::UInt16 kPlaneBarSides = 8;
 constexpr float kSphereRadius = 0.125F;
 constexpr std::size_t kShapeCount = static_cast<std::size_t>(HandleShape::CentreSphere) + 1;
 
+osg::Matrix translation(float x, float y)
+{
+    osg::Matrix matrix;
+    matrix.setTranslate(x, y, 0.0F);
+    return matrix;
+}
+
+/// Where a shape lies in its handle's frame; the identity for most.
+osg::Matrix placeOf(HandleShape shape)
+{
+    switch (shape) {
+    case HandleShape::ScaleShaft:
+        return translation(0.0F, kScaleShaftLength / 2);
+    case HandleShape::ScaleCube:
+        return translation(0.0F, kScaleShaftLength);
+    case HandleShape::PlanePatch:
+        return translation(kPlaneSize / 2, kPlaneSize / 2);
+    case HandleShape::PlaneBarX: {
+        osg::Matrix place = translation(kPlaneSize / 2, kPlaneSize);
+        place.setRotate(
+            osg::Quaternion(osg::Vec3f(0.0F, 1.0F, 0.0F), osg::Vec3f(1.0F, 0.0F, 0.0F)));
+        return place;
+    }
+    case HandleShape::PlaneBarY:
+        return translation(kPlaneSize, kPlaneSize / 2);
+    default:
+        return osg::Matrix();
+    }
+}
+
 osg::NodePtr buildShape(HandleShape shape)
 {
     switch (shape) {
@@ -42,6 +72,7 @@ osg::NodePtr buildShape(HandleShape shape)
         return osg::makeCone(kConeHeight, kConeRadius, kConeSides, true, true);
     case HandleShape::ScaleShaft:
         return nbGeoFactory::makeLine(kScaleShaftLength);
+    case HandleShape::ScaleCube:
     case HandleShape::Cube:
         return osg::makeBox(kCubeSize, kCubeSize, kCubeSize, 1, 1, 1);
     case HandleShape::Ring:
@@ -50,12 +81,31 @@ osg::NodePtr buildShape(HandleShape shape)
         return nbGeoFactory::makeLine(kRingAxisLength);
     case HandleShape::PlanePatch:
         return osg::makePlane(kPlaneSize, kPlaneSize, 1, 1);
-    case HandleShape::PlaneBar:
+    case HandleShape::PlaneBarX:
+    case HandleShape::PlaneBarY:
         return osg::makeCylinder(kPlaneSize, kPlaneBarRadius, kPlaneBarSides, true, true, true);
     case HandleShape::CentreSphere:
         return osg::makeSphere(2, kSphereRadius);
     }
     return osg::NodePtr();
+}
+
+/// Moves a geometry's points and turns its normals, so that its handle needs no node for the place.
+void moveGeometry(const osg::GeometryPtr& geometry, const osg::Matrix& place)
+{
+    const EditBracket edit(geometry, osg::FieldBits::AllFields);
+    const osg::GeoPositionsPtr positions = geometry->getPositions();
+    for (osg::UInt32 i = 0; i < positions->getSize(); ++i) {
+        osg::Pnt3f point = positions->getValue(i);
+        place.multMatrixPnt(point);
+        positions->setValue(point, i);
+    }
+    const osg::GeoNormalsPtr normals = geometry->getNormals();
+    for (osg::UInt32 i = 0; normals != osg::NullFC && i < normals->getSize(); ++i) {
+        osg::Vec3f normal = normals->getValue(i);
+        place.multMatrixVec(normal);
+        normals->setValue(normal, i);
+    }
 }
 
 /// The one geometry of a shape from which all others take their properties. It is held for the rest
@@ -70,6 +120,7 @@ osg::GeometryPtr prototypeOf(HandleShape shape)
         osg::NodePtr node = buildShape(shape);
         prototype = osg::GeometryPtr::dcast(node->getCore());
         osg::addRefCP(prototype);
+        moveGeometry(prototype, placeOf(shape));
         osg::subRefCP(node);
         id = containerId(prototype);
     }

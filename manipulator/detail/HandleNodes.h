@@ -34,12 +34,15 @@ enum class HandleShape
 {
     ArrowShaft,  ///< line of length 2 along y, centred
     ArrowHead,  ///< cone, height 0.4, radius 0.1, 24 sides, axis y, centred
-    ScaleShaft,  ///< line of length 1.5 along y, centred
+    ScaleShaft,  ///< line of length 1.5 along y, centred at 0.75
+    ScaleCube,  ///< box of 0.175, centred at 1.5 on y
     Cube,  ///< box of 0.175, centred
     Ring,  ///< line circle of radius 1.5 about y, 36 segments
     RingAxis,  ///< line of length 20 along y, centred
-    PlanePatch,  ///< square of 0.4 in the xy plane, centred
-    PlaneBar,  ///< cylinder along y, height 0.4, radius 0.02, 8 sides, centred
+    PlanePatch,  ///< square of 0.4 in the xy plane, centred at (0.2, 0.2)
+    PlaneBarX,  ///< bar of length 0.4 along x, centred at (0.2, 0.4): cylinder, radius 0.02, 8
+                ///< sides
+    PlaneBarY,  ///< bar of length 0.4 along y, centred at (0.4, 0.2)
     CentreSphere  ///< sphere of radius 0.125
 };
 

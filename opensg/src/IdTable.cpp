@@ -7,7 +7,8 @@ namespace osg {
 
 namespace {
 
-constexpr std::size_t kFewestSlots = 64;
+/// 16 KiB: room for some gizmos, so that making and destroying one does not rebuild the table.
+constexpr std::size_t kFewestSlots = 1024;
 /// 2^32 divided by the golden ratio: spreads ids that follow each other evenly.
 constexpr UInt32 kSpread = 2654435769u;
 

@@ -133,6 +133,7 @@ void Node::insertChild(UInt32 index, const NodePtr& child)
 void Node::attach(UInt32 index, const NodePtr& child)
 {
     addRefCP(child);
+    mfChildren.reserveFew();
     mfChildren.insert(mfChildren.begin() + index, child);
     beginEditCP(child, ParentFieldMask);
     child->sfParent.setValue(NodePtr(this));

@@ -39,6 +39,7 @@ void NodeCore::noteEdit()
 
 void NodeCore::addParent(const NodePtr& parent)
 {
+    mfParents.reserveFew();
     mfParents.push_back(parent);
 }
 

@@ -10,8 +10,8 @@
 
 #include "detail/HandlePicking.h"
 #include "detail/PickTreeCache.h"
-#include "detail/PickView.h"
 #include "detail/ScenePicking.h"
+#include "detail/WidgetView.h"
 
 namespace nbec::interaction {
 
@@ -26,7 +26,8 @@ osg::NodePtr nodeOf(osg::UInt32 id)
 }  // namespace
 
 Picker::Picker()
-    : scenePicking(std::make_unique<detail::ScenePicking>())
+    : widgetView(std::make_unique<detail::WidgetView>())
+    , scenePicking(std::make_unique<detail::ScenePicking>())
     , handlePicking(std::make_unique<detail::HandlePicking>())
 { }
 
@@ -91,35 +92,34 @@ osg::NodePtr Picker::pick()
 osg::NodePtr Picker::pickAt(const osg::Pnt2f& px)
 {
     forgetHit();
-    detail::PickView view;
+    const detail::PickView* view = widgetView->current();
     detail::ScreenPoint centre;
-    if (!currentView(view) || !view.pixelCentre(px, centre)) {
+    if (view == nullptr || !view->pixelCentre(px, centre)) {
         return {};
     }
+    const osg::NodePtr root = nbScenegraph::getWorldRoot();
     if (filter == SceneFilter) {
         detail::SceneHit hit;
-        if (scenePicking->pick(nbScenegraph::getWorldRoot(), view, centre, hit)) {
-            hitNodeId = hit.node.getFieldContainerId();
-            hitPoint = hit.point;
-            hitNormal = hit.normal;
+        if (scenePicking->pick(root, *view, centre, hit)) {
+            rememberHit(hit.node, hit.point, hit.normal);
+            return hit.node;
         }
     } else if (filter == HandleFilter) {
         detail::HandleHit hit;
-        if (handlePicking->pick(getPickNode(), nbScenegraph::getWorldRoot(), view, centre,
-                                tolerance * pixelRatio, hit)) {
-            hitNodeId = hit.nodeId;
-            hitPoint = hit.point;
-            hitNormal = hit.normal;
+        if (handlePicking->pick(getPickNode(), root, *view, centre, tolerance * pixelRatio, hit)) {
+            const osg::NodePtr node = nodeOf(hit.nodeId);
+            rememberHit(node, hit.point, hit.normal);
+            return node;
         }
     }
-    return getHitNode();
+    return {};
 }
 
 std::vector<osg::NodePtr> Picker::pickRectangle(const QRect& rect)
 {
-    detail::PickView view;
+    const detail::PickView* view = widgetView->current();
     const QRect normalised = rect.normalized();
-    if (normalised.isEmpty() || !currentView(view)) {
+    if (normalised.isEmpty() || view == nullptr) {
         return {};
     }
     detail::ScreenBox box;
@@ -128,29 +128,18 @@ std::vector<osg::NodePtr> Picker::pickRectangle(const QRect& rect)
     // Pixel n covers n .. n + 1.
     box.maxX = static_cast<float>(normalised.right()) + 1.0f;
     box.maxY = static_cast<float>(normalised.bottom()) + 1.0f;
-    return scenePicking->pickInside(nbScenegraph::getWorldRoot(), view, box);
+    return scenePicking->pickInside(nbScenegraph::getWorldRoot(), *view, box);
 }
 
-bool Picker::currentView(detail::PickView& view) const
+void Picker::rememberHit(const osg::NodePtr& node, const osg::Pnt3f& point,
+                         const osg::Vec3f& normal)
 {
-    const nbOSGWidget* widget = nbOSGWidget::getMGLW(-1);
-    if (widget == nullptr || widget->getWidth() <= 0 || widget->getHeight() <= 0) {
-        return false;
+    // A table that still knows a node destroyed without an edit of its parent must not report it.
+    if (node != osg::NullFC) {
+        hitNodeId = node.getFieldContainerId();
+        hitPoint = point;
+        hitNormal = normal;
     }
-    const osg::CameraPtr camera = widget->getCamera();
-    if (camera == osg::NullFC) {
-        return false;
-    }
-    view.widthPx = widget->getWidth();
-    view.heightPx = widget->getHeight();
-    const auto width = static_cast<osg::UInt32>(view.widthPx);
-    const auto height = static_cast<osg::UInt32>(view.heightPx);
-    osg::Matrix translation;
-    camera->getProjection(view.projection, width, height);
-    camera->getProjectionTranslation(translation, width, height);
-    view.projection.mult(translation);
-    camera->getViewing(view.viewing, width, height);
-    return true;
 }
 
 void Picker::forgetHit()

@@ -16,7 +16,7 @@ namespace nbec::interaction {
 namespace detail {
 class HandlePicking;
 class ScenePicking;
-struct PickView;
+class WidgetView;
 }  // namespace detail
 
 /// Finds what lies under a pixel of the main render widget: scene geometry or manipulator handles.
@@ -105,8 +105,7 @@ public:
     static void buildTrees(const osg::NodePtr& root);
 
 private:
-    /// Fills the view of the main widget; false if there is none to pick in.
-    bool currentView(detail::PickView& view) const;
+    void rememberHit(const osg::NodePtr& node, const osg::Pnt3f& point, const osg::Vec3f& normal);
     void forgetHit();
 
     osg::UInt32 pickNodeId = 0;
@@ -118,6 +117,7 @@ private:
     osg::Pnt3f hitPoint;
     osg::Vec3f hitNormal;
 
+    std::unique_ptr<detail::WidgetView> widgetView;
     std::unique_ptr<detail::ScenePicking> scenePicking;
     std::unique_ptr<detail::HandlePicking> handlePicking;
 };

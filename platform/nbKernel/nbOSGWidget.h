@@ -27,6 +27,8 @@ public:
     class NB_PLATFORM_API Observer
     {
     public:
+        virtual ~Observer() = default;
+
         /// The view wants to be drawn once; answer with nbOSGWidget::redrawDone() when it is.
         virtual void redrawRequested() { }
 
@@ -40,7 +42,6 @@ public:
         Observer() = default;
         Observer(const Observer&) = default;
         Observer& operator=(const Observer&) = default;
-        virtual ~Observer() = default;
     };
 
     using ResizeCallback = void (*)();

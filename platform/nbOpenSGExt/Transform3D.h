@@ -51,6 +51,7 @@ public:
     };
 
     /// Everything that R depends on; for edits around setRotation.
+    // NOLINTNEXTLINE(readability-identifier-naming): named as the masks of fields
     static constexpr BitVector RotationFieldMask = EulerRotationFieldMask |
         EulerRotationOrderFieldMask | RotationQuaternionFieldMask | RotationModeFieldMask;
 

@@ -17,8 +17,11 @@ namespace nbrender {
 /// item list, and both are looked up by id before use.
 struct DrawState
 {
+    static constexpr float kDefaultGrey = 0.7f;
+    static constexpr osg::UInt16 kSolidLine = 0xffff;
+
     osg::Color3f ambient { 0.f, 0.f, 0.f };
-    osg::Color3f diffuse { 0.7f, 0.7f, 0.7f };
+    osg::Color3f diffuse { kDefaultGrey, kDefaultGrey, kDefaultGrey };
     osg::Color3f specular { 0.f, 0.f, 0.f };
     osg::Color3f emission { 0.f, 0.f, 0.f };
     float shininess = 1.f;
@@ -45,7 +48,7 @@ struct DrawState
     float depthFar = 1.f;
 
     float lineWidth = 1.f;  ///< logical pixels
-    osg::UInt16 stipplePattern = 0xffff;
+    osg::UInt16 stipplePattern = kSolidLine;
     osg::Int32 stippleRepeat = 1;
 
     GLenum cullFace = GL_NONE;

@@ -23,13 +23,14 @@ std::string sizeText(int width, int height)
 
 }  // namespace
 
-bool FrameTargets::bind(Gl& gl, int width, int height, int samples, std::string& error)
+bool FrameTargets::bind(Gl& gl, int width, int height, int samples, GLenum depthFormat,
+                        std::string& error)
 {
     if (width != madeWidth || height != madeHeight || samples != wantedSamples) {
         release(gl);
         madeWidth = width;
         madeHeight = height;
-        if (!make(gl, samples, error)) {
+        if (!make(gl, samples, depthFormat, error)) {
             release(gl);
             return false;
         }
@@ -40,7 +41,7 @@ bool FrameTargets::bind(Gl& gl, int width, int height, int samples, std::string&
     return true;
 }
 
-bool FrameTargets::make(Gl& gl, int samples, std::string& error)
+bool FrameTargets::make(Gl& gl, int samples, GLenum depthFormat, std::string& error)
 {
     GLint largest = 0;
     gl.glGetIntegerv(GL_MAX_RENDERBUFFER_SIZE, &largest);
@@ -53,13 +54,13 @@ bool FrameTargets::make(Gl& gl, int samples, std::string& error)
     gl.glGenFramebuffers(1, &drawFramebuffer);
     gl.glBindFramebuffer(GL_FRAMEBUFFER, drawFramebuffer);
     gl.glGenRenderbuffers(3, renderbuffers);
-    constexpr GLenum kFormats[] = { GL_RGBA8, GL_RGBA8, GL_DEPTH_COMPONENT24 };
+    const GLenum formats[] = { GL_RGBA8, GL_RGBA8, depthFormat };
     constexpr GLenum kAttachments[] = { GL_COLOR_ATTACHMENT0, GL_COLOR_ATTACHMENT1,
                                         GL_DEPTH_ATTACHMENT };
     for (int i = 0; i < 3; ++i) {
         gl.glBindRenderbuffer(GL_RENDERBUFFER, renderbuffers[i]);
         gl.glRenderbufferStorageMultisample(GL_RENDERBUFFER, madeSamples > 1 ? madeSamples : 0,
-                                            kFormats[i], madeWidth, madeHeight);
+                                            formats[i], madeWidth, madeHeight);
         gl.glFramebufferRenderbuffer(GL_FRAMEBUFFER, kAttachments[i], GL_RENDERBUFFER,
                                      renderbuffers[i]);
     }
@@ -85,40 +86,44 @@ bool FrameTargets::make(Gl& gl, int samples, std::string& error)
     return canDraw && canResolve;
 }
 
-void FrameTargets::resolve(Gl& gl)
+void FrameTargets::resolve(Gl& gl, Buffer buffer)
 {
+    const GLenum output = kOutputs[buffer == Buffer::Color ? 0 : 1];
     gl.glBindFramebuffer(GL_READ_FRAMEBUFFER, drawFramebuffer);
     gl.glBindFramebuffer(GL_DRAW_FRAMEBUFFER, resolveFramebuffer);
-    for (const GLenum output : kOutputs) {
-        gl.glReadBuffer(output);
-        gl.glDrawBuffer(output);
-        gl.glBlitFramebuffer(0, 0, madeWidth, madeHeight, 0, 0, madeWidth, madeHeight,
-                             GL_COLOR_BUFFER_BIT, GL_NEAREST);
-    }
+    gl.glReadBuffer(output);
+    gl.glDrawBuffer(output);
+    gl.glBlitFramebuffer(0, 0, madeWidth, madeHeight, 0, 0, madeWidth, madeHeight,
+                         GL_COLOR_BUFFER_BIT, GL_NEAREST);
 }
 
-QImage FrameTargets::read(Gl& gl, Buffer buffer) const
+QImage FrameTargets::read(Gl& gl, Buffer buffer)
 {
     if (resolveFramebuffer == 0) {
         return {};
     }
-    GLint boundBefore = 0;
-    gl.glGetIntegerv(GL_READ_FRAMEBUFFER_BINDING, &boundBefore);
+    GLint readBefore = 0;
+    GLint drawnBefore = 0;
+    gl.glGetIntegerv(GL_READ_FRAMEBUFFER_BINDING, &readBefore);
+    gl.glGetIntegerv(GL_DRAW_FRAMEBUFFER_BINDING, &drawnBefore);
+    resolve(gl, buffer);
     QImage picture(madeWidth, madeHeight, QImage::Format_RGBA8888);
     gl.glBindFramebuffer(GL_READ_FRAMEBUFFER, resolveFramebuffer);
     gl.glReadBuffer(kOutputs[buffer == Buffer::Color ? 0 : 1]);
     gl.glReadPixels(0, 0, madeWidth, madeHeight, GL_RGBA, GL_UNSIGNED_BYTE, picture.bits());
-    gl.glBindFramebuffer(GL_READ_FRAMEBUFFER, static_cast<GLuint>(boundBefore));
-    const QImage upright = picture.mirrored();
+    gl.glBindFramebuffer(GL_READ_FRAMEBUFFER, static_cast<GLuint>(readBefore));
+    gl.glBindFramebuffer(GL_DRAW_FRAMEBUFFER, static_cast<GLuint>(drawnBefore));
+    QImage upright = picture.mirrored();
     if (buffer == Buffer::Effect) {
         return upright;
     }
     // Blending leaves fractions in the alpha of the colour buffer, which the picture does not have.
     QImage opaque = upright.convertToFormat(QImage::Format_RGBX8888);
+    constexpr uchar kOpaque = 0xff;
     for (int y = 0; y < opaque.height(); ++y) {
         uchar* row = opaque.scanLine(y);
         for (int x = 0; x < opaque.width(); ++x) {
-            row[4 * x + 3] = 255;
+            row[4 * x + 3] = kOpaque;
         }
     }
     return opaque;

@@ -22,17 +22,18 @@ public:
     /// Makes the buffers for a size, if they are not there yet, and binds them for drawing.
     /// @param samples  wanted samples per pixel; the driver's limit holds, 1 or less is one
     /// @param error    receives a line on failure
-    bool bind(Gl& gl, int width, int height, int samples, std::string& error);
+    /// @param depthFormat  of the depth buffer
+    bool bind(Gl& gl, int width, int height, int samples, GLenum depthFormat, std::string& error);
 
-    /// Fills the textures from what was drawn.
-    void resolve(Gl& gl);
+    /// Fills a texture from what was drawn since bind().
+    void resolve(Gl& gl, Buffer buffer);
 
     /// Texture with the resolved picture.
     GLuint getTexture(Buffer buffer) const { return textures[buffer == Buffer::Color ? 0 : 1]; }
 
     /// The resolved picture, rows from top to bottom: colour without alpha, effect with it. Null
     /// before the first frame.
-    QImage read(Gl& gl, Buffer buffer) const;
+    QImage read(Gl& gl, Buffer buffer);
 
     /// Samples per pixel that the driver really gave.
     int getSamples() const { return madeSamples; }
@@ -42,7 +43,7 @@ public:
     void forget() { *this = FrameTargets(); }
 
 private:
-    bool make(Gl& gl, int samples, std::string& error);
+    bool make(Gl& gl, int samples, GLenum depthFormat, std::string& error);
 
     int madeWidth = 0;
     int madeHeight = 0;

@@ -31,8 +31,11 @@ osg::UInt32 idOf(const osg::FieldContainerPtr& container)
     return container == osg::NullFC ? 0 : container.getFieldContainerId();
 }
 
+constexpr std::size_t kMatrixSize = 16;
+using MatrixValues = std::array<float, kMatrixSize>;
+
 /// What two copies of one handle have in common.
-using Likeness = std::tuple<osg::UInt32, osg::UInt32, osg::UInt32, std::array<float, 16>>;
+using Likeness = std::tuple<osg::UInt32, osg::UInt32, osg::UInt32, MatrixValues>;
 
 /// Items of one sort key and kind stand together in the sorted list.
 bool sameRun(const RenderItem& a, const RenderItem& b)
@@ -217,8 +220,8 @@ void ItemList::dropCopies()
     kept.reserve(items.size());
     for (auto item = items.rbegin(); item != items.rend(); ++item) {
         if (item->handle) {
-            std::array<float, 16> place {};
-            std::memcpy(place.data(), item->worldFromObject.getValues(), sizeof place);
+            MatrixValues place {};
+            std::memcpy(place.data(), item->worldFromObject.getValues(), sizeof(MatrixValues));
             const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(
                 osg::FieldContainerFactory::the()->getContainer(item->geometryId));
             if (!seen.emplace(item->manipulator, item->geometryId, idOf(geometry->getMaterial()),

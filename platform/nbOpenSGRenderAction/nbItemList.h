@@ -83,7 +83,8 @@ private:
     {
         std::size_t operator()(const StateKey& key) const
         {
-            return (std::size_t(key.material) << 32U) ^ (std::size_t(key.group) << 1U) ^
+            constexpr unsigned int kHalf = 32;
+            return (std::size_t(key.material) << kHalf) ^ (std::size_t(key.group) << 1U) ^
                 std::size_t(key.handle);
         }
     };

@@ -17,7 +17,6 @@ constexpr double kHandleDepth = 0.1;
 /// course differ by through rounding, far less than the thickness of any handle.
 constexpr float kUnitsPerDepthStep = 16.f;
 constexpr GLuint kEffectBuffer = 1;
-constexpr osg::UInt16 kSolidLine = 0xffff;
 constexpr float kPointSize = 1.f;  ///< logical pixels
 
 osg::FieldContainerPtr resolve(osg::UInt32 id)
@@ -68,9 +67,11 @@ bool isInView(const osg::BoxVolume& bounds, const osg::Matrix& clipFromWorld, bo
 {
     const osg::Pnt3f& low = bounds.getMin();
     const osg::Pnt3f& high = bounds.getMax();
-    const int planes = handle ? 4 : 6;
-    std::array<int, 6> outside {};
-    for (int corner = 0; corner < 8; ++corner) {
+    constexpr int kCorners = 8;
+    constexpr std::size_t kPlanes = 6;
+    constexpr std::size_t kSidePlanes = 4;
+    std::array<int, kPlanes> outside {};
+    for (int corner = 0; corner < kCorners; ++corner) {
         const osg::Vec4f point((corner & 1) != 0 ? high.x() : low.x(),
                                (corner & 2) != 0 ? high.y() : low.y(),
                                (corner & 4) != 0 ? high.z() : low.z(), 1.f);
@@ -79,14 +80,14 @@ bool isInView(const osg::BoxVolume& bounds, const osg::Matrix& clipFromWorld, bo
         // Wide lines reach a little beyond their bounds.
         constexpr float kMargin = 1.05f;
         const float w = clip.w() * (clip.w() > 0.f ? kMargin : 1.f);
-        const std::array<bool, 6> beyond { clip.x() < -w, clip.x() > w,  clip.y() < -w,
-                                           clip.y() > w,  clip.z() < -w, clip.z() > w };
+        const std::array<bool, kPlanes> beyond { clip.x() < -w, clip.x() > w,  clip.y() < -w,
+                                                 clip.y() > w,  clip.z() < -w, clip.z() > w };
         for (std::size_t plane = 0; plane < beyond.size(); ++plane) {
             outside[plane] += beyond[plane] ? 1 : 0;
         }
     }
-    for (std::size_t plane = 0; plane < static_cast<std::size_t>(planes); ++plane) {
-        if (outside[plane] == 8) {
+    for (std::size_t plane = 0; plane < (handle ? kSidePlanes : kPlanes); ++plane) {
+        if (outside[plane] == kCorners) {
             return false;
         }
     }
@@ -154,16 +155,16 @@ void ItemPainter::draw(const RenderItem& item, const DrawState& state)
 void ItemPainter::applyDepth(const RenderItem& item, const DrawState& state)
 {
     if (item.handle) {
-        gl.glDepthRange(0.0, kHandleDepth);
+        view.depth.setRange(gl, 0.0, kHandleDepth);
         gl.glEnable(GL_DEPTH_CLAMP);
     } else {
         const double size = 1.0 - kHandleDepth;
-        gl.glDepthRange(kHandleDepth + size * state.depthNear,
-                        kHandleDepth + size * state.depthFar);
+        view.depth.setRange(gl, kHandleDepth + size * state.depthNear,
+                            kHandleDepth + size * state.depthFar);
         gl.glDisable(GL_DEPTH_CLAMP);
     }
     // OpenGL writes no depth without the test; a test that always passes is the same otherwise.
-    gl.glDepthFunc(state.depthTest ? state.depthFunc : GLenum(GL_ALWAYS));
+    gl.glDepthFunc(state.depthTest ? view.depth.getComparison(state.depthFunc) : GLenum(GL_ALWAYS));
     gl.glDepthMask(state.depthTest && state.depthWrite ? GL_TRUE : GL_FALSE);
 }
 
@@ -198,21 +199,24 @@ void ItemPainter::applyPolygons(const RenderItem& item, const DrawState& state)
     const bool counterClockwise = (state.frontFace == GL_CCW) != mirrored;
     gl.glFrontFace(counterClockwise ? GL_CCW : GL_CW);
     gl.glPolygonMode(GL_FRONT_AND_BACK, state.polygonMode);
-    gl.glPolygonOffset(state.offsetFactor,
-                       state.offsetBias - kUnitsPerDepthStep * static_cast<float>(item.depthSteps));
+    view.depth.setOffset(gl, state.offsetFactor,
+                         state.offsetBias -
+                             kUnitsPerDepthStep * static_cast<float>(item.depthSteps));
 }
 
 void ItemPainter::setPlace(GlProgram& program, const RenderItem& item)
 {
-    osg::Matrix clipFromObject = view.clipFromWorld;
-    clipFromObject.mult(item.worldFromObject);
+    const osg::Matrix& clipFromView = item.handle ? view.handleClipFromView : view.clipFromView;
     osg::Matrix viewFromObject = view.viewFromWorld;
     viewFromObject.mult(item.worldFromObject);
+    osg::Matrix clipFromObject = clipFromView;
+    clipFromObject.mult(viewFromObject);
     program.set(gl, "nbClipFromObject", clipFromObject);
     program.set(gl, "nbWorldFromObject", item.worldFromObject);
     program.set(gl, "nbViewFromWorld", view.viewFromWorld);
-    program.set(gl, "nbClipFromView", view.clipFromView);
+    program.set(gl, "nbClipFromView", clipFromView);
     program.set(gl, "nbViewportSize", view.widthPx, view.heightPx);
+    program.set(gl, "reversedDepth", GLint(view.depth.isReversed() ? 1 : 0));
     program.set(gl, "viewFromObject", viewFromObject);
     program.set(gl, "normalFromObject", normalMatrix(viewFromObject));
 }
@@ -236,7 +240,8 @@ void ItemPainter::setMaterial(GlProgram& program, const RenderItem& item, const 
     program.set(gl, "leavesNoEffect", GLint(item.handle ? 1 : 0));
     program.set(gl, "pointSize", kPointSize * view.pixelRatio);
     program.set(gl, "lineWidth", state.lineWidth * view.pixelRatio);
-    program.set(gl, "stipplePattern", GLint(isSurface ? kSolidLine : state.stipplePattern));
+    program.set(gl, "stipplePattern",
+                GLint(isSurface ? DrawState::kSolidLine : state.stipplePattern));
     program.set(gl, "stippleRepeat", static_cast<float>(state.stippleRepeat) * view.pixelRatio);
 }
 
@@ -263,15 +268,33 @@ void ItemPainter::setTexture(GlProgram& program)
     }
 }
 
+DrawState ItemPainter::plainState(const DrawState& state)
+{
+    DrawState plain = state;
+    plain.lit = false;
+    const auto chunk = osg::SHLChunkPtr::dcast(resolve(state.shaderId));
+    osg::Vec4f color;
+    if (chunk != osg::NullFC && chunk->getUniformParameter("color", color)) {
+        plain.diffuse = osg::Color3f(color.x(), color.y(), color.z());
+        plain.alpha = color.w();
+    }
+    return plain;
+}
+
 GlProgram* ItemPainter::prepareMaterial(const RenderItem& item, const DrawState& state,
                                         ShaderPrograms::Shape shape, bool isSurface, bool hasColors)
 {
+    if (state.shaderId != 0) {
+        DrawState plain = plainState(state);
+        plain.shaderId = 0;
+        return prepareMaterial(item, plain, shape, isSurface, hasColors);
+    }
     const bool isLine = shape == ShaderPrograms::Shape::Line;
     shaders::Features features;
     features.lit = state.lit && isSurface;
     features.textured = isSurface && bindTexture(state);
     features.discards =
-        state.alphaFunc != GL_ALWAYS || (isLine && state.stipplePattern != kSolidLine);
+        state.alphaFunc != GL_ALWAYS || (isLine && state.stipplePattern != DrawState::kSolidLine);
     GlProgram* program = programs.getMaterialProgram(gl, shape, features);
     if (program != nullptr) {
         program->use(gl);

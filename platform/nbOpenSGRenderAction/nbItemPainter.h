@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <nbOpenSGRenderAction/nbDepthLayout.h>
 #include <nbOpenSGRenderAction/nbGpuMeshes.h>
 #include <nbOpenSGRenderAction/nbGpuTextures.h>
 #include <nbOpenSGRenderAction/nbItemList.h>
@@ -11,12 +12,16 @@
 
 namespace nbrender {
 
-/// How one frame sees the world. Matrices are 4x4 with column vectors.
+/// How one frame sees the world. Matrices are 4x4 with column vectors. The projections that are
+/// drawn with are in the terms of the depth layout; handles have their own, with planes that
+/// enclose them tightly.
 struct FrameView
 {
     osg::Matrix viewFromWorld;
-    osg::Matrix clipFromView;
-    osg::Matrix clipFromWorld;  ///< product of the two
+    osg::Matrix clipFromView;  ///< as drawn
+    osg::Matrix handleClipFromView;  ///< as drawn, of handles
+    osg::Matrix usualClipFromWorld;  ///< with usual depths, for culling
+    DepthLayout depth;
     float widthPx = 1.f;  ///< device pixels
     float heightPx = 1.f;
     float pixelRatio = 1.f;  ///< device pixels per logical pixel
@@ -56,6 +61,9 @@ private:
     /// Binds the state's texture, or none. @return whether there is one
     bool bindTexture(const DrawState& state);
     void setTexture(GlProgram& program);
+    /// The state for items of a broken shader chunk: unlit, in the chunk's parameter "color" if it
+    /// has one.
+    static DrawState plainState(const DrawState& state);
     /// A program for the state, in use and with its values; null if the driver refuses it.
     GlProgram* prepareMaterial(const RenderItem& item, const DrawState& state,
                                ShaderPrograms::Shape shape, bool isSurface, bool hasColors);

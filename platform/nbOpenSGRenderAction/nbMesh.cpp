@@ -21,20 +21,19 @@ std::array<float, 3> triple(const osg::Pnt3f& p)
 
 osg::UInt8 toByte(float component)
 {
-    constexpr float kFull = 255.f;
-    return static_cast<osg::UInt8>(std::lround(std::clamp(component, 0.f, 1.f) * kFull));
+    return static_cast<osg::UInt8>(std::lround(std::clamp(component, 0.f, 1.f) * float(kFullByte)));
 }
 
 /// Colour of a vertex with its alpha, which the generic reading of colours leaves out.
-std::array<osg::UInt8, 4> readColor(const osg::GeoColorsPtr& colors, osg::Int32 index)
+ColorBytes readColor(const osg::GeoColorsPtr& colors, osg::Int32 index)
 {
     if (colors == osg::NullFC || index < 0 ||
         static_cast<osg::UInt32>(index) >= colors->getSize()) {
-        return { 255, 255, 255, 255 };
+        return kWhite;
     }
     const auto at = static_cast<osg::UInt32>(index);
     const osg::Color3f rgb = colors->getValue(at);
-    osg::UInt8 alpha = 255;
+    osg::UInt8 alpha = kFullByte;
     if (const auto floats = osg::GeoColors4fPtr::dcast(colors); floats != osg::NullFC) {
         alpha = toByte(floats->getField()[at].alpha());
     } else if (const auto bytes = osg::GeoColors4ubPtr::dcast(colors); bytes != osg::NullFC) {

@@ -11,12 +11,17 @@
 
 namespace nbrender {
 
+/// Red, green, blue and alpha.
+using ColorBytes = std::array<osg::UInt8, 4>;
+constexpr osg::UInt8 kFullByte = 0xff;
+constexpr ColorBytes kWhite { kFullByte, kFullByte, kFullByte, kFullByte };
+
 /// A corner of a triangle, as it lies in a vertex buffer.
 struct MeshVertex
 {
     std::array<float, 3> position {};
     std::array<float, 3> normal {};
-    std::array<osg::UInt8, 4> color { 255, 255, 255, 255 };  ///< red, green, blue, alpha
+    ColorBytes color = kWhite;
     std::array<float, 2> texCoord {};
 };
 
@@ -24,7 +29,7 @@ struct MeshVertex
 struct LineVertex
 {
     std::array<float, 3> position {};
-    std::array<osg::UInt8, 4> color { 255, 255, 255, 255 };
+    ColorBytes color = kWhite;
 };
 
 /// A geometry as plain arrays: strips, fans, quads, polygons, loops and index mappings are

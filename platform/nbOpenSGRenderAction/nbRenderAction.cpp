@@ -14,6 +14,8 @@
 #include <QtGui/QOpenGLContext>
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 
 namespace {
 
@@ -22,6 +24,7 @@ constexpr int kDefaultSamples = 8;
 /// frames.
 constexpr unsigned int kFramesPerCollection = 64;
 
+using nbrender::DepthLayout;
 using nbrender::FrameTargets;
 using nbrender::FrameView;
 using nbrender::Gl;
@@ -91,6 +94,45 @@ FrameView viewOf(const osg::CameraPtr& camera, int widthPx, int heightPx)
     return view;
 }
 
+/// Depths along the view axis, world units.
+struct DepthSpan
+{
+    double nearest = 0.0;
+    double farthest = 0.0;
+};
+
+/// What encloses the handles in view; nothing without any. In a perspective the nearest depth is
+/// positive.
+DepthSpan handleSpan(const nbrender::ItemList& list, const FrameView& view)
+{
+    // Of what reaches behind the eye, such as a long axis line, the parts very near to the eye are
+    // cut.
+    constexpr double kMostRatio = 1e3;
+    constexpr double kMargin = 0.01;
+    double nearest = std::numeric_limits<double>::max();
+    double farthest = std::numeric_limits<double>::lowest();
+    for (const nbrender::RenderItem& item : list.getItems()) {
+        if (!item.handle || !nbrender::isInView(item.bounds, view.usualClipFromWorld, true)) {
+            continue;
+        }
+        osg::BoxVolume box = item.bounds;
+        box.transform(view.viewFromWorld);
+        nearest = std::min<double>(nearest, -box.getMax().z());
+        farthest = std::max<double>(farthest, -box.getMin().z());
+    }
+    DepthSpan span;
+    if (farthest >= nearest) {
+        const double margin =
+            kMargin * (farthest - nearest) + kMargin * kMargin * std::fabs(farthest);
+        span.nearest = nearest - margin;
+        span.farthest = farthest + margin;
+        if (!view.orthographic) {
+            span.nearest = std::max(span.nearest, span.farthest / kMostRatio);
+        }
+    }
+    return span;
+}
+
 }  // namespace
 
 /// Everything behind the interface.
@@ -113,6 +155,7 @@ struct nbRenderAction::Impl
     QPointer<QOpenGLContext> context;
     Gl* gl = nullptr;
     GLuint emptyArray = 0;  ///< vertex array of programs that have no attributes
+    DepthLayout depth;
     FrameTargets targets;
     ShaderPrograms programs;
     nbrender::GpuMeshes meshes;
@@ -145,6 +188,7 @@ bool nbRenderAction::Impl::prepareContext(std::string& error)
         programs.release(*functions);
         return false;
     }
+    depth = DepthLayout::choose();
     functions->glGenVertexArrays(1, &emptyArray);
     context = current;
     gl = functions;
@@ -165,24 +209,29 @@ void nbRenderAction::Impl::forgetContext()
 void nbRenderAction::Impl::drawBackground(const Background& background)
 {
     constexpr GLfloat kNothing[] = { 0.f, 0.f, 0.f, 0.f };
-    constexpr GLfloat kFarthest = 1.f;
+    const GLfloat farthest = depth.getClearValue();
     gl->glDisable(GL_SCISSOR_TEST);
     gl->glDisable(GL_DEPTH_TEST);
     gl->glDisable(GL_BLEND);
     gl->glDisable(GL_CULL_FACE);
     gl->glDisable(GL_STENCIL_TEST);
+    // Colours reach the frame buffer as they are.
+    gl->glDisable(GL_FRAMEBUFFER_SRGB);
+    gl->glDisable(GL_DITHER);
     gl->glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
     gl->glDepthMask(GL_TRUE);
     gl->glClearBufferfv(GL_COLOR, 1, kNothing);
-    gl->glClearBufferfv(GL_DEPTH, 0, &kFarthest);
+    gl->glClearBufferfv(GL_DEPTH, 0, &farthest);
     GlProgram& program = programs.getStandard(ShaderPrograms::Standard::Background);
     program.use(*gl);
     const osg::Color4f& top = background.top;
     const osg::Color4f& bottom = background.bottom;
     program.set(*gl, "topColor", top.red(), top.green(), top.blue(), top.alpha());
     program.set(*gl, "bottomColor", bottom.red(), bottom.green(), bottom.blue(), bottom.alpha());
+    gl->glColorMaski(1, GL_FALSE, GL_FALSE, GL_FALSE, GL_FALSE);
     gl->glBindVertexArray(emptyArray);
     gl->glDrawArrays(GL_TRIANGLES, 0, 3);
+    gl->glColorMaski(1, GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
 }
 
 void nbRenderAction::Impl::drawScene(const osg::ViewportPtr& viewport, int widthPx, int heightPx)
@@ -194,26 +243,34 @@ void nbRenderAction::Impl::drawScene(const osg::ViewportPtr& viewport, int width
     encloseScene(camera, list.getSceneBounds());
     FrameView view = viewOf(camera, widthPx, heightPx);
     view.pixelRatio = pixelRatio;
+    view.depth = depth;
     osg::Matrix shift;
     shift.setTranslate(2.f * shiftX / view.widthPx, 2.f * shiftY / view.heightPx, 0.f);
     view.clipFromView.multLeft(shift);
-    view.clipFromWorld = view.clipFromView;
-    view.clipFromWorld.mult(view.viewFromWorld);
+    view.usualClipFromWorld = view.clipFromView;
+    view.usualClipFromWorld.mult(view.viewFromWorld);
+    const osg::Matrix usual = view.clipFromView;
+    view.clipFromView = depth.project(usual, camera->getNear(), camera->getFar());
+    const DepthSpan span = handleSpan(list, view);
+    view.handleClipFromView = depth.project(usual, span.nearest, span.farthest);
 
+    depth.enter();
     nbrender::ItemPainter painter(*gl, meshes, textures, programs, view);
     for (const osg::UInt32 index : list.getOrder(view.viewFromWorld)) {
         const nbrender::RenderItem& item = list.getItems()[index];
-        if (nbrender::isInView(item.bounds, view.clipFromWorld, item.handle)) {
+        if (nbrender::isInView(item.bounds, view.usualClipFromWorld, item.handle)) {
             painter.draw(item, list.getStates()[item.stateIndex]);
             ++statistics.drawn;
         }
     }
+    depth.leave();
     statistics.items = list.getItems().size();
 }
 
 void nbRenderAction::Impl::present(int widthPx, int heightPx, osg::UInt32 targetFramebuffer)
 {
     const auto shown = effectShown ? FrameTargets::Buffer::Effect : FrameTargets::Buffer::Color;
+    targets.resolve(*gl, shown);
     gl->glBindFramebuffer(GL_FRAMEBUFFER, targetFramebuffer);
     gl->glViewport(0, 0, widthPx, heightPx);
     gl->glDisable(GL_DEPTH_TEST);
@@ -273,7 +330,8 @@ bool nbRenderAction::render(const osg::ViewportPtr& viewport, int widthPx, int h
     }
     std::string error;
     if (!impl->prepareContext(error) ||
-        !impl->targets.bind(*impl->gl, widthPx, heightPx, impl->samples, error)) {
+        !impl->targets.bind(*impl->gl, widthPx, heightPx, impl->samples, impl->depth.getFormat(),
+                            error)) {
         return impl->fail(error);
     }
     impl->lastFailure.clear();
@@ -284,7 +342,6 @@ bool nbRenderAction::render(const osg::ViewportPtr& viewport, int widthPx, int h
     if (viewport != osg::NullFC && viewport->getCamera() != osg::NullFC) {
         impl->drawScene(viewport, widthPx, heightPx);
     }
-    impl->targets.resolve(*impl->gl);
     impl->present(widthPx, heightPx, targetFramebuffer);
     impl->collect();
     return true;

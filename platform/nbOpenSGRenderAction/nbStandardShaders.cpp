@@ -32,10 +32,15 @@ void main()
 /// of seven points around each end.
 const char* const kLineFunctions = R"(
 uniform float lineWidth;
+uniform int reversedDepth;
+float fromNearPlane(vec4 place)
+{
+    return reversedDepth != 0 ? place.w - place.z : place.w + place.z;
+}
 bool cutAtNearPlane(inout vec4 a, inout vec4 b)
 {
-    float aDepth = a.z + a.w;
-    float bDepth = b.z + b.w;
+    float aDepth = fromNearPlane(a);
+    float bDepth = fromNearPlane(b);
     if (aDepth < 0.0 && bDepth < 0.0) {
         return false;
     }
@@ -246,11 +251,9 @@ in vec2 place;
 uniform vec4 topColor;
 uniform vec4 bottomColor;
 layout (location = 0) out vec4 colorBufferRGBA;
-layout (location = 1) out vec4 effectBufferRGBA;
 void main()
 {
     colorBufferRGBA = vec4(mix(bottomColor.rgb, topColor.rgb, place.y), 1.0);
-    effectBufferRGBA = vec4(0.0);
 }
 )";
 

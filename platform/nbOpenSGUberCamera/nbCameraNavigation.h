@@ -11,11 +11,14 @@
 /// The distance of from and at is also the measure of an orthographic view, see viewHeight().
 struct CameraPose
 {
+    /// Field of view of a new camera and of one whose own is not usable, degrees.
+    static constexpr osg::Real32 kDefaultFovDeg = 45.f;
+
     osg::Pnt3f from { 0.f, 0.f, 0.f };  ///< the eye
     osg::Pnt3f at { 0.f, 0.f, -1.f };  ///< a point on the view axis
     osg::Vec3f up { 0.f, 1.f, 0.f };  ///< any length, need not be perpendicular to the axis
     osg::Pnt3f pivot { 0.f, 0.f, -1.f };  ///< what the view turns about
-    osg::Real32 fovDeg = 45.f;  ///< vertical opening angle
+    osg::Real32 fovDeg = kDefaultFovDeg;  ///< vertical opening angle
     bool orthographic = false;
     bool zUp = false;  ///< world up is z instead of y
 };
@@ -49,7 +52,7 @@ public:
     };
 
     /// Field of view that a camera gets when its own is not usable, degrees.
-    static constexpr osg::Real32 kDefaultFovDeg = 45.f;
+    static constexpr osg::Real32 kDefaultFovDeg = CameraPose::kDefaultFovDeg;
     /// Range in which a field of view is used, degrees.
     static constexpr osg::Real32 kSmallestFovDeg = 0.01f;
     static constexpr osg::Real32 kLargestFovDeg = 175.f;

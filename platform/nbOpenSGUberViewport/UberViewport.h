@@ -13,9 +13,15 @@ namespace osg {
 
 NB_CONTAINER_POINTER(UberViewport, ViewportPtr);
 
+/// Colours that the background of a new viewport has, red, green, blue.
+inline constexpr Real32 kUberViewportTop[] = { 0.30f, 0.33f, 0.37f };
+inline constexpr Real32 kUberViewportBottom[] = { 0.13f, 0.14f, 0.16f };
+
 #define UBER_VIEWPORT_FIELDS(VALUE, OWNED, LINK)                                                   \
-    VALUE(BackgroundTop, backgroundTop, Color4f, Color4f(0.30f, 0.33f, 0.37f, 1.f))                \
-    VALUE(BackgroundBottom, backgroundBottom, Color4f, Color4f(0.13f, 0.14f, 0.16f, 1.f))          \
+    VALUE(BackgroundTop, backgroundTop, Color4f,                                                   \
+          Color4f(kUberViewportTop[0], kUberViewportTop[1], kUberViewportTop[2], 1.f))             \
+    VALUE(BackgroundBottom, backgroundBottom, Color4f,                                             \
+          Color4f(kUberViewportBottom[0], kUberViewportBottom[1], kUberViewportBottom[2], 1.f))    \
     VALUE(DeviceWidth, deviceWidth, Int32, 0)                                                      \
     VALUE(DeviceHeight, deviceHeight, Int32, 0)
 

@@ -100,6 +100,18 @@ void extendByCorners(osg::BoxVolume& bounds, const osg::BoxVolume& local,
     }
 }
 
+/// Bounds of a node's own geometry in its frame. A leaf's volume is just that, and it is kept.
+osg::BoxVolume ownBounds(const osg::NodePtr& node, const osg::GeometryPtr& geometry)
+{
+    osg::BoxVolume bounds;
+    if (node->getNChildren() == 0) {
+        bounds.extendBy(node->getVolume(true));
+    } else {
+        geometry->adjustVolume(bounds);
+    }
+    return bounds;
+}
+
 void extendBySubtree(osg::BoxVolume& bounds, const osg::NodePtr& node,
                      const osg::Matrix& parentToWorld)
 {
@@ -112,8 +124,7 @@ void extendBySubtree(osg::BoxVolume& bounds, const osg::NodePtr& node,
         toWorld.mult(transform->getMatrix());
     }
     if (const osg::GeometryPtr geometry = coreOf<osg::GeometryPtr>(node); geometry != osg::NullFC) {
-        osg::BoxVolume local;
-        geometry->adjustVolume(local);
+        const osg::BoxVolume local = ownBounds(node, geometry);
         if (!local.isEmpty()) {
             extendByCorners(bounds, local, toWorld);
         }

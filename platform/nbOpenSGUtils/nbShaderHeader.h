@@ -30,6 +30,9 @@ enum class nbShaderStage
 /// texture, in every stage, the image of the material's texture chunk:
 ///     uniform sampler2D nbTexture;
 ///
+/// Clip depths are in the terms of the renderer's depth layout, which may run backwards: programs
+/// take them from the matrices and do not count on a direction.
+///
 /// A fragment program declares its outputs itself: location 0 is the colour buffer, location 1 the
 /// effect buffer. With all flags off the text is the version line alone.
 /// @return text that ends with a line break

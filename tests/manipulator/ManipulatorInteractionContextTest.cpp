@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -42,6 +43,11 @@ struct EventRow
     Calls calls;  ///< what reaches the manipulator
     bool passesOn;  ///< whether the context lets the base answer, which handles nothing
 };
+
+void PrintTo(const EventRow& row, std::ostream* stream)
+{
+    *stream << row.name;
+}
 
 class EventTable : public testing::TestWithParam<EventRow>
 { };

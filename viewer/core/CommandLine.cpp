@@ -88,7 +88,9 @@ bool isWritablePicture(const QString& path, QString& error)
     const QFileInfo info(path);
     const QByteArray format = info.suffix().toLower().toLatin1();
     if (!QImageWriter::supportedImageFormats().contains(format)) {
-        error = QStringLiteral("--screenshot %1: not a picture format that can be written, such as .png").arg(path);
+        error = QStringLiteral(
+                    "--screenshot %1: not a picture format that can be written, such as .png")
+                    .arg(path);
     } else if (!info.absoluteDir().exists()) {
         error = QStringLiteral("--screenshot %1: no such folder: %2").arg(path, info.path());
     } else if (info.isDir()) {
@@ -109,7 +111,9 @@ bool parseSize(const QString& text, QSize& sizePx)
         return false;
     }
     const QSize size(match.captured(1).toInt(), match.captured(2).toInt());
-    const auto isInRange = [](int edge) { return edge >= kMinViewEdgePx && edge <= kMaxViewEdgePx; };
+    const auto isInRange = [](int edge) {
+        return edge >= kMinViewEdgePx && edge <= kMaxViewEdgePx;
+    };
     if (!isInRange(size.width()) || !isInRange(size.height())) {
         return false;
     }
@@ -171,13 +175,15 @@ bool checkCommandLine(const CommandLine& options, QString& error)
 
 QString commandLineHelp()
 {
-    return QStringLiteral("usage: nbviewer [files] [options]\n"
-                          "  files                    models (OBJ, PLY, STL, glTF, GLB, 3DS, ...) and images to open\n"
-                          "  --session file.json      replay a session, then quit\n"
-                          "  --screenshot out.png     write a picture of the 3D view, then quit\n"
-                          "  --output folder          where the pictures of a session go (default: here)\n"
-                          "  --size WxH               size of the 3D view in pixels, each edge from %1 to %2\n"
-                          "  --help, --version\n")
+    return QStringLiteral(
+               "usage: nbviewer [files] [options]\n"
+               "  files                    models (OBJ, PLY, STL, glTF, GLB, 3DS, ...) and images "
+               "to open\n"
+               "  --session file.json      replay a session, then quit\n"
+               "  --screenshot out.png     write a picture of the 3D view, then quit\n"
+               "  --output folder          where the pictures of a session go (default: here)\n"
+               "  --size WxH               size of the 3D view in pixels, each edge from %1 to %2\n"
+               "  --help, --version\n")
         .arg(kMinViewEdgePx)
         .arg(kMaxViewEdgePx);
 }

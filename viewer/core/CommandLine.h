@@ -17,7 +17,8 @@ struct CommandLine
     QStringList files;  ///< models and images to open, in this order; empty: the start scene
     QString session;  ///< session file to replay; empty: none
     QString screenshot;  ///< picture to write; empty: none
-    QString outputFolder;  ///< where the pictures of a session's checkpoints go; empty: working folder
+    QString
+        outputFolder;  ///< where the pictures of a session's checkpoints go; empty: working folder
     QSize sizePx;  ///< size of the 3D view, device pixels; invalid: the window decides
     bool helpWanted = false;
     bool versionWanted = false;
@@ -31,7 +32,8 @@ struct CommandLine
 /// @return false if an argument is unknown, lacks its value or has a bad one
 bool parseCommandLine(const QStringList& arguments, CommandLine& options, QString& error);
 
-/// Looks whether everything that the options name can be there: files to read exist, folders to write to too.
+/// Looks whether everything that the options name can be there: files to read exist, folders to
+/// write to too.
 /// @return false with one line in `error` naming the first that is amiss
 bool checkCommandLine(const CommandLine& options, QString& error);
 

@@ -20,7 +20,8 @@ struct SessionTarget
         Pixel,  ///< `offsetPx` itself, from the view's upper left corner
         Handle,  ///< a visible place of the gizmo handle of that name, plus `offsetPx`
         World,  ///< the projection of `world`, plus `offsetPx`
-        Node,  ///< the projected centre of the bounds of the scene node of that name, plus `offsetPx`
+        Node,  ///< the projected centre of the bounds of the scene node of that name, plus
+               ///< `offsetPx`
     };
 
     Kind kind = Kind::Pixel;
@@ -73,24 +74,28 @@ struct SessionCamera
     std::array<double, 3> from { 0.0, 0.0, 0.0 };
     std::array<double, 3> at { 0.0, 0.0, 0.0 };
     std::array<double, 3> up { 0.0, 1.0, 0.0 };
+    std::optional<std::array<double, 3>> pivot;  ///< what the view turns about; absent: `at`
     double fovDeg = 45.0;  ///< vertical opening angle, degrees
     bool orthographic = false;
     bool zUp = false;
 };
 
-/// A recorded or written series of events with everything that makes its replay give the same picture.
+/// A recorded or written series of events with everything that makes its replay give the same
+/// picture.
 struct Session
 {
     QSize sizePx { 1200, 800 };  ///< of the 3D view, device pixels
     QStringList files;  ///< models to open, relative to the session file; empty: the start scene
     std::optional<SessionCamera> camera;  ///< absent: the camera that the scene starts with
-    std::optional<QString> selection;  ///< name of the node selected at the start, "" for none; absent: as it starts
+    std::optional<QString>
+        selection;  ///< name of the node selected at the start, "" for none; absent: as it starts
     QString manipulator;  ///< command name of the manipulator at the start; empty: as it starts
     std::vector<SessionStep> steps;
 };
 
 /// Reads a session from JSON text.
-/// @param error  one line that says what is wrong and where ("line 3, column 7: ..." or "steps[4].at: ...")
+/// @param error  one line that says what is wrong and where ("line 3, column 7: ..." or
+/// "steps[4].at: ...")
 /// @return nothing when the text is no valid session
 std::optional<Session> parseSession(const QByteArray& text, QString& error);
 

@@ -25,8 +25,7 @@ class Reader
 public:
     explicit Reader(QString& errorText)
         : error(errorText)
-    {
-    }
+    { }
 
     bool readSession(const QJsonObject& object, Session& session);
 
@@ -48,7 +47,8 @@ private:
     bool readTarget(const QJsonValue& value, const QString& path, SessionTarget& target);
     bool readNamedTarget(const QJsonObject& object, const QString& path, SessionTarget& target);
     bool readModifiers(const QJsonValue& value, const QString& path, SessionStep& step);
-    bool readExpectation(const QJsonValue& value, const QString& path, SessionExpectation& expectation);
+    bool readExpectation(const QJsonValue& value, const QString& path,
+                         SessionExpectation& expectation);
     bool checkStep(const QJsonObject& object, const QString& path, const SessionStep& step);
 
     QString& error;
@@ -116,7 +116,9 @@ bool Reader::readSize(const QJsonValue& value, QSize& sizePx)
     for (const double edge : edges) {
         if (edge != std::floor(edge) || edge < kMinViewEdgePx || edge > kMaxViewEdgePx) {
             return fail(QStringLiteral("size"),
-                        QStringLiteral("expected two whole numbers from %1 to %2").arg(kMinViewEdgePx).arg(kMaxViewEdgePx));
+                        QStringLiteral("expected two whole numbers from %1 to %2")
+                            .arg(kMinViewEdgePx)
+                            .arg(kMaxViewEdgePx));
         }
     }
     sizePx = QSize(static_cast<int>(edges[0]), static_cast<int>(edges[1]));
@@ -131,11 +133,17 @@ bool Reader::readCamera(const QJsonValue& value, SessionCamera& camera)
         return fail(path, QStringLiteral("expected an object"));
     }
     constexpr double kMaxFovDeg = 179.0;
-    if (!checkKeys(object, path, { "from", "at", "up", "fov", "orthographic", "zUp" })
-        || !readNumbers(object.value("from"), path + ".from", camera.from.data(), 3)
-        || !readNumbers(object.value("at"), path + ".at", camera.at.data(), 3)
-        || !readNumbers(object.value("up"), path + ".up", camera.up.data(), 3)) {
+    if (!checkKeys(object, path, { "from", "at", "up", "pivot", "fov", "orthographic", "zUp" }) ||
+        !readNumbers(object.value("from"), path + ".from", camera.from.data(), 3) ||
+        !readNumbers(object.value("at"), path + ".at", camera.at.data(), 3) ||
+        !readNumbers(object.value("up"), path + ".up", camera.up.data(), 3)) {
         return false;
+    }
+    if (object.contains("pivot")) {
+        camera.pivot.emplace();
+        if (!readNumbers(object.value("pivot"), path + ".pivot", camera.pivot->data(), 3)) {
+            return false;
+        }
     }
     camera.fovDeg = object.value("fov").toDouble(camera.fovDeg);
     if (!(camera.fovDeg >= 1.0 && camera.fovDeg <= kMaxFovDeg)) {
@@ -144,9 +152,9 @@ bool Reader::readCamera(const QJsonValue& value, SessionCamera& camera)
     if (camera.from == camera.at) {
         return fail(path, QStringLiteral("from and at are the same point"));
     }
-    return (!object.contains("orthographic")
-            || readBool(object.value("orthographic"), path + ".orthographic", camera.orthographic))
-        && (!object.contains("zUp") || readBool(object.value("zUp"), path + ".zUp", camera.zUp));
+    return (!object.contains("orthographic") ||
+            readBool(object.value("orthographic"), path + ".orthographic", camera.orthographic)) &&
+        (!object.contains("zUp") || readBool(object.value("zUp"), path + ".zUp", camera.zUp));
 }
 
 bool Reader::readNamedTarget(const QJsonObject& object, const QString& path, SessionTarget& target)
@@ -199,14 +207,16 @@ bool Reader::readModifiers(const QJsonValue& value, const QString& path, Session
     for (const QJsonValue& entry : array) {
         const auto modifier = modifierFromName(entry.toString());
         if (!modifier) {
-            return fail(path, QStringLiteral("unknown modifier \"%1\"").arg(entry.toVariant().toString()));
+            return fail(
+                path, QStringLiteral("unknown modifier \"%1\"").arg(entry.toVariant().toString()));
         }
         step.modifiers |= *modifier;
     }
     return true;
 }
 
-bool Reader::readExpectation(const QJsonValue& value, const QString& path, SessionExpectation& expectation)
+bool Reader::readExpectation(const QJsonValue& value, const QString& path,
+                             SessionExpectation& expectation)
 {
     if (!value.isObject()) {
         return fail(path, QStringLiteral("expected an object"));
@@ -250,20 +260,24 @@ bool Reader::checkStep(const QJsonObject& object, const QString& path, const Ses
     case Type::DoubleClick:
         return object.contains("at") || fail(path, QStringLiteral("\"at\" is missing"));
     case Type::Wheel:
-        return (object.contains("at") || fail(path, QStringLiteral("\"at\" is missing")))
-            && (step.wheelDelta != 0 || fail(path, QStringLiteral("\"delta\" is missing or 0")));
+        return (object.contains("at") || fail(path, QStringLiteral("\"at\" is missing"))) &&
+            (step.wheelDelta != 0 || fail(path, QStringLiteral("\"delta\" is missing or 0")));
     case Type::Key:
     case Type::KeyPress:
     case Type::KeyRelease: {
         const QKeySequence keys(step.key, QKeySequence::PortableText);
         const bool isOneKey = keys.count() == 1 && keys[0] != Qt::Key_unknown;
         const bool isModifier = step.key == "Ctrl" || step.key == "Shift" || step.key == "Alt";
-        return isOneKey || isModifier || fail(path + ".key", QStringLiteral("unknown key \"%1\"").arg(step.key));
+        return isOneKey || isModifier ||
+            fail(path + ".key", QStringLiteral("unknown key \"%1\"").arg(step.key));
     }
-    case Type::Checkpoint:
-        return (!step.name.isEmpty() || fail(path, QStringLiteral("\"name\" is missing")))
-            && (!step.name.contains(QLatin1Char('/')) && !step.name.contains(QLatin1Char('\\')) && !step.name.startsWith('.')
-                || fail(path + ".name", QStringLiteral("may not be a path")));
+    case Type::Checkpoint: {
+        // The name becomes that of a file in a folder that the person chose.
+        const bool isPath =
+            step.name.contains('/') || step.name.contains('\\') || step.name.startsWith('.');
+        return (!step.name.isEmpty() || fail(path, QStringLiteral("\"name\" is missing"))) &&
+            (!isPath || fail(path + ".name", QStringLiteral("may not be a path")));
+    }
     case Type::Leave:
         break;
     }
@@ -277,42 +291,53 @@ bool Reader::readStep(const QJsonValue& value, const QString& path, SessionStep&
     }
     const QJsonObject object = value.toObject();
     if (!checkKeys(object, path,
-                   { "type", "at", "button", "modifiers", "delta", "key", "after", "name", "screenshot", "expect" })) {
+                   { "type", "at", "button", "modifiers", "delta", "key", "after", "name",
+                     "screenshot", "expect" })) {
         return false;
     }
     const auto type = stepTypeFromName(object.value("type").toString());
     if (!type) {
-        return fail(path + ".type", QStringLiteral("unknown type \"%1\"").arg(object.value("type").toVariant().toString()));
+        return fail(
+            path + ".type",
+            QStringLiteral("unknown type \"%1\"").arg(object.value("type").toVariant().toString()));
     }
     step.type = *type;
     if (object.contains("button")) {
         const auto button = buttonFromName(object.value("button").toString());
         if (!button) {
-            return fail(path + ".button", QStringLiteral("expected \"left\", \"middle\" or \"right\""));
+            return fail(path + ".button",
+                        QStringLiteral("expected \"left\", \"middle\" or \"right\""));
         }
         step.button = *button;
     }
     constexpr int kMaxDelta = 120000;
     constexpr int kMaxPauseMs = 60000;
     const auto has = [&object](const char* key) { return object.contains(QLatin1String(key)); };
-    return (!has("at") || readTarget(object.value("at"), path + ".at", step.at))
-        && (!has("modifiers") || readModifiers(object.value("modifiers"), path + ".modifiers", step))
-        && (!has("delta") || readInt(object.value("delta"), path + ".delta", kMaxDelta, step.wheelDelta))
-        && (!has("after") || readInt(object.value("after"), path + ".after", kMaxPauseMs, step.afterMs))
-        && (!has("key") || readString(object.value("key"), path + ".key", step.key))
-        && (!has("name") || readString(object.value("name"), path + ".name", step.name))
-        && (!has("screenshot") || readBool(object.value("screenshot"), path + ".screenshot", step.screenshot))
-        && (!has("expect") || readExpectation(object.value("expect"), path + ".expect", step.expectation))
-        && checkStep(object, path, step);
+    return (!has("at") || readTarget(object.value("at"), path + ".at", step.at)) &&
+        (!has("modifiers") ||
+         readModifiers(object.value("modifiers"), path + ".modifiers", step)) &&
+        (!has("delta") ||
+         readInt(object.value("delta"), path + ".delta", kMaxDelta, step.wheelDelta)) &&
+        (!has("after") ||
+         readInt(object.value("after"), path + ".after", kMaxPauseMs, step.afterMs)) &&
+        (!has("key") || readString(object.value("key"), path + ".key", step.key)) &&
+        (!has("name") || readString(object.value("name"), path + ".name", step.name)) &&
+        (!has("screenshot") ||
+         readBool(object.value("screenshot"), path + ".screenshot", step.screenshot)) &&
+        (!has("expect") ||
+         readExpectation(object.value("expect"), path + ".expect", step.expectation)) &&
+        checkStep(object, path, step);
 }
 
 bool Reader::readSession(const QJsonObject& object, Session& session)
 {
-    if (!checkKeys(object, {}, { "session", "size", "files", "camera", "selection", "manipulator", "steps" })) {
+    if (!checkKeys(object, {},
+                   { "session", "size", "files", "camera", "selection", "manipulator", "steps" })) {
         return false;
     }
     if (object.value("session").toInt() != 1) {
-        return fail(QStringLiteral("session"), QStringLiteral("expected 1, the version of the format"));
+        return fail(QStringLiteral("session"),
+                    QStringLiteral("expected 1, the version of the format"));
     }
     if (!readSize(object.value("size"), session.sizePx)) {
         return false;
@@ -333,12 +358,14 @@ bool Reader::readSession(const QJsonObject& object, Session& session)
     }
     if (object.contains("selection")) {
         session.selection.emplace();
-        if (!readString(object.value("selection"), QStringLiteral("selection"), *session.selection)) {
+        if (!readString(object.value("selection"), QStringLiteral("selection"),
+                        *session.selection)) {
             return false;
         }
     }
-    if (object.contains("manipulator")
-        && !readString(object.value("manipulator"), QStringLiteral("manipulator"), session.manipulator)) {
+    if (object.contains("manipulator") &&
+        !readString(object.value("manipulator"), QStringLiteral("manipulator"),
+                    session.manipulator)) {
         return false;
     }
     if (!object.value("steps").isArray()) {
@@ -371,7 +398,8 @@ std::optional<Session> parseSession(const QByteArray& text, QString& error)
     QJsonParseError jsonError;
     const QJsonDocument document = QJsonDocument::fromJson(text, &jsonError);
     if (document.isNull()) {
-        error = QStringLiteral("%1: %2").arg(placeInText(text, jsonError.offset), jsonError.errorString());
+        error = QStringLiteral("%1: %2").arg(placeInText(text, jsonError.offset),
+                                             jsonError.errorString());
         return std::nullopt;
     }
     Session session;

@@ -63,13 +63,14 @@ QJsonObject jsonOf(const SessionExpectation& expectation)
 
 bool hasPlace(Type type)
 {
-    return type == Type::Move || type == Type::Press || type == Type::Release || type == Type::Click
-        || type == Type::DoubleClick || type == Type::Wheel;
+    return type == Type::Move || type == Type::Press || type == Type::Release ||
+        type == Type::Click || type == Type::DoubleClick || type == Type::Wheel;
 }
 
 bool hasButton(Type type)
 {
-    return type == Type::Press || type == Type::Release || type == Type::Click || type == Type::DoubleClick;
+    return type == Type::Press || type == Type::Release || type == Type::Click ||
+        type == Type::DoubleClick;
 }
 
 void addCheckpoint(const SessionStep& step, QJsonObject& object)
@@ -118,6 +119,9 @@ QJsonObject jsonOf(const SessionCamera& camera)
     object["from"] = jsonOf(camera.from);
     object["at"] = jsonOf(camera.at);
     object["up"] = jsonOf(camera.up);
+    if (camera.pivot) {
+        object["pivot"] = jsonOf(*camera.pivot);
+    }
     object["fov"] = camera.fovDeg;
     object["orthographic"] = camera.orthographic;
     object["zUp"] = camera.zUp;
@@ -160,7 +164,8 @@ bool writeSessionFile(const QString& path, const Session& session, QString& erro
     }
     QSaveFile output(path);
     const QByteArray text = sessionText(relative);
-    if (!output.open(QIODevice::WriteOnly) || output.write(text) != text.size() || !output.commit()) {
+    if (!output.open(QIODevice::WriteOnly) || output.write(text) != text.size() ||
+        !output.commit()) {
         error = QStringLiteral("%1: %2").arg(path, output.errorString());
         return false;
     }

@@ -24,6 +24,15 @@ public:
 
     auto find(const Value& value) const { return std::find(this->begin(), this->end(), value); }
 
+    /// Makes room for the first few values at once: the smallest block of common allocators holds
+    /// three pointers, and most nodes and cores have no more children and parents.
+    void reserveFew()
+    {
+        if (this->capacity() == 0) {
+            this->reserve(3);
+        }
+    }
+
     /// The values themselves.
     MField& getValues() { return *this; }
 

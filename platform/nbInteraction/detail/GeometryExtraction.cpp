@@ -56,6 +56,34 @@ void readParts(Iterator part, std::size_t positionCount, bool isIndexed,
     }
 }
 
+/// The quick way for what loaders make: triangle lists with plain 32-bit indices, taken over in one
+/// piece.
+/// @return false, and nothing is read, for everything else
+bool readTriangleLists(const osg::GeometryPtr& geometry, GeometrySoup& soup)
+{
+    const osg::GeoIndicesUI32Ptr indices = osg::GeoIndicesUI32Ptr::dcast(geometry->getIndices());
+    if (indices == osg::NullFC || geometry->getIndexMapping().size() > 1 ||
+        geometry->calcMappingIndex(osg::Geometry::MapPosition) != 0) {
+        return false;
+    }
+    std::size_t count = 0;
+    for (osg::PrimitiveIterator primitive = geometry->beginPrimitives(); !primitive.isAtEnd();
+         ++primitive) {
+        if (primitive.getType() != GL_TRIANGLES || primitive.getLength() % 3 != 0) {
+            return false;
+        }
+        count += primitive.getLength();
+    }
+    const auto first = indices->getField().begin();
+    if (count > indices->getSize() || count == 0 ||
+        *std::max_element(first, first + static_cast<std::ptrdiff_t>(count)) >=
+            soup.positions.size()) {
+        return false;
+    }
+    soup.triangles.assign(first, first + static_cast<std::ptrdiff_t>(count));
+    return true;
+}
+
 void readPoints(const osg::GeometryPtr& geometry, GeometrySoup& soup)
 {
     for (osg::PrimitiveIterator primitive = geometry->beginPrimitives(); !primitive.isAtEnd();
@@ -85,6 +113,9 @@ GeometrySoup extractGeometry(const osg::GeometryPtr& geometry)
     }
     soup.positions = readPositions(geometry);
     const std::size_t positionCount = soup.positions.size();
+    if (readTriangleLists(geometry, soup)) {
+        return soup;
+    }
     const bool isIndexed = geometry->getIndices() != osg::NullFC;
     if (isIndexed) {
         soup.triangles.reserve(geometry->getIndices()->getSize());

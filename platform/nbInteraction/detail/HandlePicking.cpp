@@ -6,12 +6,11 @@
 
 #include <OpenSG/OSGChangeCount.h>
 #include <OpenSG/OSGChunkMaterial.h>
-#include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGLineChunk.h>
 #include <OpenSG/OSGMaterialGroup.h>
 #include <OpenSG/OSGSimpleAttachments.h>
 
-#include <cstring>
+#include <iterator>
 
 #include "GeometryExtraction.h"
 #include "TreeWalk.h"
@@ -61,11 +60,6 @@ bool hasName(const osg::NodePtr& node)
     return name != nullptr && *name != '\0';
 }
 
-bool isSame(const osg::Matrix& a, const osg::Matrix& b)
-{
-    return std::memcmp(a.getValues(), b.getValues(), 16 * sizeof(float)) == 0;
-}
-
 /// Whether the node and all its ancestors are active.
 bool isShown(osg::NodePtr node)
 {
@@ -101,21 +95,39 @@ void HandlePicking::refresh(const osg::NodePtr& top, bool allCount, const PickVi
     const osg::UInt64 changes = osg::getTreeChangeCount(top);
     const bool isFilled =
         top.getFieldContainerId() == topId && changes == topChanges && allCount == topCounts;
-    if (isFilled && isSame(toWorld, worldFromTable) && view.isSame(projectedView)) {
+    if (isFilled && hasSameBits(toWorld, worldFromTable) && view.isSame(projectedView)) {
         return;
     }
     if (!isFilled) {
         topId = top.getFieldContainerId();
         topChanges = changes;
         topCounts = allCount;
-        table.clear();
-        collect(top, inheritedBy(top));
-        ++fillCount;
+        fill(top);
     }
     worldFromTable = toWorld;
     projectedView = view;
     table.project(worldFromTable, projectedView);
-    ++projectionCount;
+}
+
+void HandlePicking::fill(const osg::NodePtr& top)
+{
+    ++fillCount;
+    table.clear();
+    collect(top, inheritedBy(top));
+    for (auto shape = shapes.begin(); shape != shapes.end();) {
+        shape = shape->second.lastFill == fillCount ? std::next(shape) : shapes.erase(shape);
+    }
+}
+
+const GeometrySoup& HandlePicking::shapeOf(const osg::GeometryPtr& geometry)
+{
+    Shape& shape = shapes[geometry.getFieldContainerId()];
+    if (shape.lastFill == 0 || shape.changeCount != geometry->getChangeCount()) {
+        shape.soup = extractGeometry(geometry);
+        shape.changeCount = geometry->getChangeCount();
+    }
+    shape.lastFill = fillCount;
+    return shape.soup;
 }
 
 HandlePicking::Inherited HandlePicking::inheritedBy(const osg::NodePtr& top)
@@ -166,7 +178,7 @@ void HandlePicking::addHandle(const osg::NodePtr& node, const Inherited& inherit
     }
     const float width = lineWidth(geometry->getMaterial(), inherited.outermostMaterial,
                                   inherited.isBelowManipulator);
-    table.add(node.getFieldContainerId(), extractGeometry(geometry), inherited.tableFromParent,
+    table.add(node.getFieldContainerId(), shapeOf(geometry), inherited.tableFromParent,
               0.5f * width);
 }
 

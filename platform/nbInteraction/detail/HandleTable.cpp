@@ -106,10 +106,12 @@ void HandleTable::project(const osg::Matrix& worldFromTable, const PickView& vie
         return;
     }
     projected.resize(positions.size());
+    corners.resize(positions.size());
     for (std::size_t i = 0; i < positions.size(); ++i) {
         osg::Pnt3f world;
         worldFromTable.multMatrixPnt(positions[i], world);
         projected[i] = projection.project(world);
+        corners[i] = toCorner(projected[i]);
     }
     std::size_t first = 0;
     for (const Handle& handle : handles) {
@@ -135,47 +137,67 @@ void HandleTable::projectHandle(std::size_t first, std::size_t end)
     box.extend(handleBox);
 }
 
+HandleTable::ScreenCorner HandleTable::toCorner(const ScreenProjection::Projected& p) const
+{
+    // False for a position that is not finite, too.
+    if (!(p.isVisible() && p.clip[3] > 0.0)) {
+        return {};
+    }
+    const double oneOverW = 1.0 / p.clip[3];
+    return { projection.toScreen(p), static_cast<float>(p.depth * oneOverW),
+             static_cast<float>(oneOverW), true };
+}
+
 void HandleTable::projectPrimitive(std::uint32_t index)
 {
-    const Primitive& primitive = primitives[index];
-    ScreenProjection::Projected corners[4] = { projected[primitive.vertices[0]],
-                                               projected[primitive.vertices[1]],
-                                               projected[primitive.vertices[2]] };
-    for (const std::uint32_t v : primitive.vertices) {
-        if (!isFinite(positions[v])) {
-            return;
-        }
-    }
-    const std::size_t count = clipAtNearPlane(corners, primitive.isTriangle ? 3 : 2);
-    if (!primitive.isTriangle) {
-        if (count == 2) {
-            addScreenPrimitive(corners, index, false);
-        }
-        return;
-    }
-    for (std::size_t i = 2; i < count; ++i) {
-        const ScreenProjection::Projected fan[3] = { corners[0], corners[i - 1], corners[i] };
-        addScreenPrimitive(fan, index, true);
+    const std::uint32_t* v = primitives[index].vertices;
+    if (corners[v[0]].isVisible && corners[v[1]].isVisible && corners[v[2]].isVisible) {
+        addScreenPrimitive(corners[v[0]], corners[v[1]], corners[v[2]], index);
+    } else if (isFinite(positions[v[0]]) && isFinite(positions[v[1]]) &&
+               isFinite(positions[v[2]])) {
+        projectCut(index);
     }
 }
 
-void HandleTable::addScreenPrimitive(const ScreenProjection::Projected* corners,
-                                     std::uint32_t index, bool isTriangle)
+void HandleTable::projectCut(std::uint32_t index)
 {
-    ScreenPrimitive result {};
-    result.primitive = index;
-    result.isTriangle = isTriangle;
-    for (std::size_t i = 0; i < 3; ++i) {
-        const ScreenProjection::Projected& corner =
-            corners[isTriangle ? i : std::min<std::size_t>(i, 1)];
-        if (!(corner.clip[3] > 0.0)) {
-            return;
+    const Primitive& primitive = primitives[index];
+    ScreenProjection::Projected cut[4] = { projected[primitive.vertices[0]],
+                                           projected[primitive.vertices[1]],
+                                           projected[primitive.vertices[2]] };
+    const std::size_t count = clipAtNearPlane(cut, primitive.isTriangle ? 3 : 2);
+    ScreenCorner left[4];
+    for (std::size_t i = 0; i < count; ++i) {
+        left[i] = toCorner(cut[i]);
+        if (!left[i].isVisible) {
+            // A corner on the near plane itself may round to its other side.
+            cut[i].clip[2] = -cut[i].clip[3];
+            left[i] = toCorner(cut[i]);
         }
-        result.corners[i] = projection.toScreen(corner);
-        result.oneOverW[i] = static_cast<float>(1.0 / corner.clip[3]);
-        result.depthOverW[i] = static_cast<float>(corner.depth / corner.clip[3]);
-        result.box.extend(result.corners[i]);
     }
+    if (!primitive.isTriangle && count == 2) {
+        addScreenPrimitive(left[0], left[1], left[1], index);
+    }
+    for (std::size_t i = 2; primitive.isTriangle && i < count; ++i) {
+        addScreenPrimitive(left[0], left[i - 1], left[i], index);
+    }
+}
+
+void HandleTable::addScreenPrimitive(const ScreenCorner& a, const ScreenCorner& b,
+                                     const ScreenCorner& c, std::uint32_t index)
+{
+    if (!a.isVisible || !b.isVisible || !c.isVisible) {
+        return;
+    }
+    ScreenPrimitive result { ScreenBox(),
+                             { a.point, b.point, c.point },
+                             { a.depthOverW, b.depthOverW, c.depthOverW },
+                             { a.oneOverW, b.oneOverW, c.oneOverW },
+                             index,
+                             primitives[index].isTriangle };
+    result.box.extend(a.point);
+    result.box.extend(b.point);
+    result.box.extend(c.point);
     screenPrimitives.push_back(result);
 }
 

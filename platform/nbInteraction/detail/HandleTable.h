@@ -37,10 +37,6 @@ public:
     void add(osg::UInt32 nodeId, const GeometrySoup& shape, const osg::Matrix& tableFromGeo,
              float halfWidthPx);
 
-    bool isEmpty() const { return handles.empty(); }
-
-    std::size_t getHandleCount() const { return handles.size(); }
-
     /// Draws the picture anew.
     /// @param worldFromTable  4x4, column vectors
     void project(const osg::Matrix& worldFromTable, const PickView& view);
@@ -103,17 +99,21 @@ private:
         ScreenPoint nearest;
     };
 
-    /// A corner while a primitive is cut.
-    struct ClipCorner
+    /// A vertex on screen; without meaning unless it is in front of the near plane and finite.
+    struct ScreenCorner
     {
-        double clip[4];
-        double depth;
+        ScreenPoint point;
+        float depthOverW;
+        float oneOverW;
+        bool isVisible;
     };
 
+    ScreenCorner toCorner(const ScreenProjection::Projected& p) const;
     void projectHandle(std::size_t first, std::size_t end);
     void projectPrimitive(std::uint32_t index);
-    void addScreenPrimitive(const ScreenProjection::Projected* corners, std::uint32_t index,
-                            bool isTriangle);
+    void projectCut(std::uint32_t index);
+    void addScreenPrimitive(const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c,
+                            std::uint32_t index);
     void closeRuns(std::size_t first);
     void collect(std::uint32_t handle, const ScreenPoint& position, float tolerancePx,
                  float& bestPx);
@@ -128,6 +128,7 @@ private:
     osg::Matrix tableToWorld;
     ScreenProjection projection;
     std::vector<ScreenProjection::Projected> projected;  ///< one per position
+    std::vector<ScreenCorner> corners;  ///< one per position
     std::vector<ScreenPrimitive> screenPrimitives;
     std::vector<Run> runs;
     std::vector<ScreenHandle> screenHandles;

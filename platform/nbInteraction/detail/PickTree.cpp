@@ -72,27 +72,24 @@ PickTree::~PickTree()
 
 void PickTree::assign(GeometrySoup newSoup)
 {
-    const bool sameTopology = newSoup.positions.size() == soup.positions.size() &&
-        newSoup.triangles == soup.triangles;  // Geometry is also edited for its material alone.
+    const bool sameTopology =
+        newSoup.positions.size() == soup.positions.size() && newSoup.triangles == soup.triangles;
     if (sameTopology && haveSameValues(newSoup.positions, soup.positions)) {
-        return;
+        return;  // geometry is also edited for its material alone
     }
     const bool hadTree = scene != nullptr;
     soup = std::move(newSoup);
-    measure();
     if (getTriangleCount() <= kDirectTriangles || embreeDevice() == nullptr) {
         dropTree();
-        return;
-    }
-    if (sameTopology && isRefittable && refitsSinceBuild < kRefitsBeforeRebuild) {
+    } else if (sameTopology && isRefittable && refitsSinceBuild < kRefitsBeforeRebuild) {
         refitTree();
-        return;
+    } else {
+        // Whose positions changed once will change again: from now on built so that it can be
+        // refitted, which costs a little at each pick.
+        dropTree();
+        buildTree(hadTree && sameTopology);
     }
-    // Whose positions changed once will change again: from now on built so that it can be refitted,
-    // which costs a little at each pick.
-    const bool expectsRefits = hadTree && sameTopology;
-    dropTree();
-    buildTree(expectsRefits);
+    measure();
 }
 
 void PickTree::makeRoom()
@@ -122,9 +119,7 @@ void PickTree::buildTree(bool expectsRefits)
     rtcReleaseGeometry(mesh);
     if (!commitScene(scene)) {
         dropTree();
-        return;
     }
-    ++buildCount;
 }
 
 void PickTree::refitTree()
@@ -142,7 +137,6 @@ void PickTree::refitTree()
         return;
     }
     ++refitsSinceBuild;
-    ++refitCount;
 }
 
 void PickTree::dropTree()
@@ -158,8 +152,17 @@ void PickTree::dropTree()
 void PickTree::measure()
 {
     bounds = PickBounds();
-    for (const std::uint32_t index : soup.triangles) {
-        bounds.extend(soup.positions[index]);
+    if (scene == nullptr) {
+        for (const std::uint32_t index : soup.triangles) {
+            bounds.extend(soup.positions[index]);
+        }
+        return;
+    }
+    RTCBounds box;
+    rtcGetSceneBounds(scene, &box);
+    if (box.lower_x <= box.upper_x) {
+        bounds.extend({ box.lower_x, box.lower_y, box.lower_z });
+        bounds.extend({ box.upper_x, box.upper_y, box.upper_z });
     }
 }
 

@@ -60,12 +60,6 @@ public:
 
     std::size_t getTriangleCount() const { return soup.triangles.size() / 3; }
 
-    /// @return how often a tree was built from nothing, and how often refitted; for tests of the
-    /// update strategy
-    std::size_t getBuildCount() const { return buildCount; }
-
-    std::size_t getRefitCount() const { return refitCount; }
-
 private:
     void makeRoom();
     void buildTree(bool expectsRefits);
@@ -80,8 +74,6 @@ private:
     RTCGeometry mesh = nullptr;  ///< owned by the scene
     bool isRefittable = false;
     std::size_t refitsSinceBuild = 0;
-    std::size_t buildCount = 0;
-    std::size_t refitCount = 0;
 };
 
 }  // namespace nbec::interaction::detail

@@ -28,8 +28,6 @@ public:
     /// Forgets the trees of geometries that no longer exist.
     void dropDead();
 
-    std::size_t getSize() const { return entries.size(); }
-
 private:
     struct Entry
     {

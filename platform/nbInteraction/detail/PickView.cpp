@@ -27,12 +27,15 @@ osg::Pnt3f toPoint(const std::array<double, 3>& p)
 
 }  // namespace
 
+bool hasSameBits(const osg::Matrix& a, const osg::Matrix& b)
+{
+    return std::memcmp(a.getValues(), b.getValues(), 16 * sizeof(float)) == 0;
+}
+
 bool PickView::isSame(const PickView& other) const
 {
-    constexpr std::size_t kMatrixBytes = 16 * sizeof(float);
     return widthPx == other.widthPx && heightPx == other.heightPx &&
-        std::memcmp(viewing.getValues(), other.viewing.getValues(), kMatrixBytes) == 0 &&
-        std::memcmp(projection.getValues(), other.projection.getValues(), kMatrixBytes) == 0;
+        hasSameBits(viewing, other.viewing) && hasSameBits(projection, other.projection);
 }
 
 bool PickView::pixelCentre(const osg::Pnt2f& px, ScreenPoint& centre) const

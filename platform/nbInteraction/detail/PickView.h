@@ -10,6 +10,9 @@
 
 namespace nbec::interaction::detail {
 
+/// Exact comparison, unlike the matrices' own within a tolerance.
+bool hasSameBits(const osg::Matrix& a, const osg::Matrix& b);
+
 /// Camera and size of the view in which something is picked.
 struct PickView
 {

@@ -120,7 +120,6 @@ void ScenePicking::refresh(const osg::NodePtr& root)
 
 void ScenePicking::walk(const osg::NodePtr& root)
 {
-    ++walkCount;
     outline.clear();
     sources.clear();
     std::vector<PickItem> items;

@@ -32,12 +32,6 @@ public:
     std::vector<osg::NodePtr> pickInside(const osg::NodePtr& root, const PickView& view,
                                          const ScreenBox& box);
 
-    /// @return number of geometries in the list
-    std::size_t getItemCount() const { return tree.getItems().size(); }
-
-    /// @return how often the whole scene was walked; for tests of the update strategy
-    std::size_t getWalkCount() const { return walkCount; }
-
 private:
     /// The geometry behind an item and the state in which it was taken up.
     struct Source
@@ -60,7 +54,6 @@ private:
     SceneOutline outline;
     osg::UInt32 rootId = 0;
     osg::UInt64 rootChanges = 0;
-    std::size_t walkCount = 0;
 
     PickView projectedView;
     ScreenProjection projection;

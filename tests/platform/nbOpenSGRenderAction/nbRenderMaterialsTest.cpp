@@ -1,0 +1,231 @@
+// SPDX-License-Identifier: MIT
+#include "tests/platform/support/RenderTest.h"
+
+#include <nbOpenSGRenderAction/nbImageConvert.h>
+#include <nbOpenSGUtils/nbShaderHeader.h>
+#include <nbUtils/nbLog.h>
+
+#include <QtGui/QOffscreenSurface>
+#include <QtGui/QOpenGLContext>
+
+using namespace rendertest;
+
+using nbRenderMaterialsTest = RenderTest;
+
+TEST_F(nbRenderMaterialsTest, LitSurfaceIsBrightestTowardsTheLightAndVisibleFromBehind)
+{
+    const QImage picture = draw(group({ osg::makeSphere(4, 1.5f) }));
+    const auto brightness = [&](float x, float y) { return at(picture, x, y).lightness(); };
+
+    EXPECT_GT(brightness(-0.4f, 0.6f), brightness(0.8f, -0.8f) + 30);
+    EXPECT_GT(brightness(0.9f, -0.9f), 20) << "shaded, not black";
+
+    lookFrom(osg::Pnt3f(0.f, 0.f, -10.f));
+    const QImage behind = draw(group({ osg::makePlane(2.f, 2.f, 1, 1) }));
+    EXPECT_GT(at(behind, 0.f, 0.f).lightness(), 100) << "both sides are lit";
+}
+
+TEST_F(nbRenderMaterialsTest, EffectBufferTellsSceneFromHandles)
+{
+    const QImage picture = draw(
+        group({ square(2.f, unlit(kRed)), manipulator({ square(0.5f, unlit(kGreen, 64016)) }) }));
+    const QImage effect = view->readEffect();
+
+    EXPECT_EQ(at(picture, 0.f, 0.f), kGreen);
+    EXPECT_EQ(at(effect, 0.f, 0.f), QColor(0, 0, 0, 0));
+    EXPECT_EQ(at(effect, 1.5f, 0.f), QColor(0, 0, 0, 0)) << "the background";
+    const QColor facing = at(effect, 0.8f, 0.f);
+    EXPECT_NEAR(facing.red(), 128, 1);
+    EXPECT_NEAR(facing.green(), 128, 1);
+    EXPECT_EQ(facing.blue(), 255);
+    EXPECT_EQ(facing.alpha(), 255);
+}
+
+TEST_F(nbRenderMaterialsTest, TextureEnvironmentsMixAsTheirNamesSay)
+{
+    QImage halves(2, 2, QImage::Format_ARGB32);
+    halves.fill(QColor(0, 255, 0, 255));
+    halves.setPixelColor(0, 0, QColor(255, 255, 255, 255));  // top left
+    halves.setPixelColor(1, 0, QColor(255, 255, 255, 0));  // top right, without coverage
+    osg::ImagePtr image = nbImageConvert::toImage(halves);
+
+    struct Row
+    {
+        GLenum mode;
+        QColor bottom;
+        QColor topLeft;
+        QColor topRight;
+    };
+
+    const Row rows[] = {
+        { GL_REPLACE, QColor(0, 255, 0), QColor(255, 255, 255), kBlack },
+        { GL_MODULATE, QColor(0, 100, 0), QColor(200, 100, 50), kBlack },
+        { GL_DECAL, QColor(0, 255, 0), QColor(255, 255, 255), QColor(200, 100, 50) },
+        { GL_BLEND, QColor(200, 0, 50), QColor(0, 0, 255), kBlack },
+    };
+    const osg::TextureChunkPtr texture = osg::TextureChunk::create();
+    const osg::NodePtr root = group({ square(
+        2.f, with(with(unlit(QColor(200, 100, 50)), blendChunk()), osg::StateChunkPtr(texture))) });
+    for (const Row& row : rows) {
+        {
+            const nbEdit edit(texture, osg::FieldBits::AllFields);
+            texture->setImage(image);
+            texture->setMinFilter(GL_NEAREST);
+            texture->setMagFilter(GL_NEAREST);
+            texture->setEnvMode(row.mode);
+            texture->setEnvColor(osg::Color4f(0.f, 0.f, 1.f, 1.f));
+        }
+        const QImage picture = draw(root);
+
+        EXPECT_EQ(at(picture, -0.5f, 0.5f), row.topLeft) << row.mode;
+        EXPECT_EQ(at(picture, 0.5f, 0.5f), row.topRight) << row.mode;
+        EXPECT_EQ(at(picture, 0.5f, -0.5f), row.bottom) << row.mode;
+    }
+}
+
+TEST_F(nbRenderMaterialsTest, ShaderChunkDrawsWithItsParameters)
+{
+    const osg::SHLChunkPtr chunk = osg::SHLChunk::create();
+    {
+        const nbEdit edit(chunk, osg::FieldBits::AllFields);
+        chunk->setVertexProgram(shaderHeaderString(nbShaderStage::Vertex, true, false, false) +
+                                "uniform mat4 viewProjectionMatrix;\n"
+                                "void main() { gl_Position = viewProjectionMatrix * "
+                                "nbClipFromObject * vec4(nbPosition, 1.0); }\n");
+        chunk->setFragmentProgram(
+            shaderHeaderString(nbShaderStage::Fragment, true, false, false) +
+            "uniform vec4 color;\nlayout (location = 0) out vec4 colorBufferRGBA;\n"
+            "layout (location = 1) out vec4 effectBufferRGBA;\n"
+            "void main() { colorBufferRGBA = color; effectBufferRGBA = vec4(0.0); }\n");
+        chunk->setUniformParameter("color", osg::Vec4f(0.f, 0.f, 1.f, 1.f));
+        chunk->setUniformParameter("viewProjectionMatrix", osg::Matrix::identity());
+    }
+    const osg::ChunkMaterialPtr material = with(osg::ChunkMaterial::create(), chunk);
+    const osg::NodePtr line =
+        placed(colored(nbGeoFactory::makeLine(1.f),
+                       with(with(osg::ChunkMaterial::create(), chunk), lineChunk(5.f))),
+               osg::Vec3f(1.5f, 0.f, 0.f));
+
+    const QImage picture = draw(group({ manipulator({ square(1.f, material), line }) }));
+
+    EXPECT_EQ(at(picture, 0.f, 0.f), kBlue);
+    EXPECT_EQ(at(picture, 1.53f, 0.f), kBlue) << "lines are widened for a user's program, too";
+    EXPECT_EQ(at(view->readEffect(), 0.f, 0.f).alpha(), 0);
+}
+
+TEST_F(nbRenderMaterialsTest, BrokenShaderCostsOneLineAndIsDrawnInPlainColor)
+{
+    std::vector<std::string> lines;
+    const nbLog::Sink former =
+        nbLog::setSink([&lines](nbLog::Level, const std::string& text) { lines.push_back(text); });
+    const osg::SHLChunkPtr chunk = osg::SHLChunk::create();
+    {
+        const nbEdit edit(chunk, osg::FieldBits::AllFields);
+        chunk->setFragmentProgram("#version 330 core\nvoid main() { this is no program; }\n");
+        chunk->setUniformParameter("color", osg::Vec4f(0.f, 0.f, 1.f, 1.f));
+    }
+
+    draw(group({ square(1.f, with(unlit(kGreen), osg::StateChunkPtr(chunk))) }));
+    const QImage picture = redraw();
+    nbLog::setSink(former);
+
+    EXPECT_EQ(at(picture, 0.f, 0.f), kBlue) << "the parameter color is what is left";
+    ASSERT_EQ(lines.size(), 1u) << "once, not per frame";
+    EXPECT_EQ(lines[0].find('\n'), std::string::npos);
+}
+
+TEST_F(nbRenderMaterialsTest, EditsShowInTheNextFrameAndStillScenesCostNoRebuild)
+{
+    const osg::SimpleMaterialPtr material = unlit(kRed);
+    const osg::NodePtr plane = colored(osg::makePlane(1.f, 1.f, 1, 1), material);
+    const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(plane->getCore());
+    EXPECT_EQ(at(draw(group({ plane })), 0.f, 0.f), kRed);
+    const std::size_t builds = view->getAction().getStatistics().listBuilds;
+    lookFrom(osg::Pnt3f(0.f, 0.1f, 10.f));
+    redraw();
+    EXPECT_EQ(view->getAction().getStatistics().listBuilds, builds);
+
+    {
+        const nbEdit edit(material, osg::SimpleMaterial::DiffuseFieldMask);
+        material->setDiffuse(color(kBlue));
+    }
+    EXPECT_EQ(at(redraw(), 0.f, 0.f), kBlue);
+
+    const osg::GeoPositionsPtr positions = geometry->getPositions();
+    {
+        const nbEdit edit(positions, osg::FieldBits::AllFields);
+        for (osg::UInt32 i = 0; i < positions->getSize(); ++i) {
+            positions->setValue(positions->getValue(i) + osg::Vec3f(1.f, 0.f, 0.f), i);
+        }
+    }
+    const QImage moved = redraw();
+    EXPECT_EQ(at(moved, 0.f, 0.f), kBlack);
+    EXPECT_EQ(at(moved, 1.f, 0.f), kBlue);
+
+    plane->setActive(false);
+    {
+        const nbEdit edit(plane, osg::Node::TravMaskFieldMask);
+    }
+    EXPECT_EQ(at(redraw(), 1.f, 0.f), kBlack);
+}
+
+TEST_F(nbRenderMaterialsTest, WhatIsOutOfViewIsNotDrawn)
+{
+    draw(group({ square(1.f, unlit(kRed)), square(1.f, unlit(kRed), 0.f, 50.f) }));
+
+    EXPECT_EQ(view->getAction().getStatistics().items, 2u);
+    EXPECT_EQ(view->getAction().getStatistics().drawn, 1u);
+}
+
+TEST_F(nbRenderMaterialsTest, ReleaseAndAnotherContextRebuildFromTheContainers)
+{
+    draw(group({ square(1.f, unlit(kRed)) }));
+    {
+        nbOffscreenView other;
+        EXPECT_EQ(at(other.render(viewport.get(), kSize, kSize), 0.f, 0.f), kRed);
+    }
+    EXPECT_EQ(at(redraw(), 0.f, 0.f), kRed);
+
+    view = std::make_unique<nbOffscreenView>();
+    EXPECT_EQ(at(redraw(), 0.f, 0.f), kRed);
+    EXPECT_TRUE(view->render(viewport.get(), 0, 10).isNull());
+    EXPECT_NE(view->getError(), "");
+}
+
+TEST_F(nbRenderMaterialsTest, SeveralPassesSmoothEdgesAndKeepSurfaces)
+{
+    const QColor odd(200, 77, 31);
+    const osg::NodePtr root = group(
+        { placed(colored(osg::makePlane(2.f, 2.f, 1, 1), unlit(odd)), osg::Vec3f(0.f, 0.f, 0.f),
+                 osg::Quaternion(osg::Vec3f(0.f, 0.f, 1.f), 0.3f)) });
+    draw(root);
+
+    const QImage smooth = view->render(viewport.get(), kSize, kSize, 8);
+
+    EXPECT_EQ(at(smooth, 0.f, 0.f), odd);
+    EXPECT_EQ(view->render(viewport.get(), kSize, kSize, 8), smooth);
+}
+
+TEST_F(nbRenderMaterialsTest, OneActionOutlivesALostContext)
+{
+    viewport->setRoot((scene = group({ square(1.f, unlit(kRed)) })).get());
+    QSurfaceFormat format;
+    format.setVersion(3, 3);
+    format.setProfile(QSurfaceFormat::CoreProfile);
+    QOffscreenSurface surface;
+    surface.setFormat(format);
+    surface.create();
+    nbRenderAction action;
+    EXPECT_FALSE(action.initialise(nullptr)) << "no context is current";
+    for (int life = 0; life < 2; ++life) {
+        QOpenGLContext context;
+        context.setFormat(format);
+        ASSERT_TRUE(context.create() && context.makeCurrent(&surface));
+
+        ASSERT_TRUE(
+            action.render(viewport.get(), kSize, kSize, context.defaultFramebufferObject()));
+
+        EXPECT_EQ(at(action.readColour(), 0.f, 0.f), kRed) << "life " << life;
+        // The context dies without a word to the action.
+    }
+}

@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/core/CommandLine.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace viewer {
+namespace {
+
+TEST(CommandLine, TakesFilesAndOptionsInAnyOrder)
+{
+    CommandLine options;
+    QString error;
+
+    ASSERT_TRUE(parseCommandLine(
+        { "a.obj", "--size", "640x480", "--screenshot=out.png", "b.ply", "--", "-c.stl" }, options,
+        error));
+
+    EXPECT_EQ(options.files, QStringList({ "a.obj", "b.ply", "-c.stl" }));
+    EXPECT_EQ(options.sizePx, QSize(640, 480));
+    EXPECT_EQ(options.screenshot, "out.png");
+    EXPECT_TRUE(options.isUnattended());
+}
+
+TEST(CommandLine, SaysInOneLineWhichArgumentIsWrong)
+{
+    struct Row
+    {
+        QStringList arguments;
+        const char* part;
+    };
+
+    const Row rows[] = {
+        { { "--frobnicate" }, "unknown option --frobnicate" },
+        { { "--frobnicate=3" }, "unknown option --frobnicate" },
+        { { "-x" }, "unknown option -x" },
+        { { "--session" }, "option --session needs a value" },
+        { { "--screenshot=" }, "option --screenshot needs a value" },
+        { { "--size", "15x100" }, "--size 15x100" },
+        { { "--size", "100x8193" }, "from 16 to 8192" },
+        { { "--size", "100" }, "--size 100" },
+        { { "--size", "-100x100" }, "--size -100x100" },
+        { { "--size", "99999999999x100" }, "--size 99999999999x100" },
+    };
+    for (const Row& row : rows) {
+        CommandLine options;
+        QString error;
+
+        EXPECT_FALSE(parseCommandLine(row.arguments, options, error)) << row.part;
+
+        EXPECT_TRUE(error.contains(row.part)) << error.toStdString();
+        EXPECT_FALSE(error.contains('\n'));
+    }
+}
+
+TEST(CommandLine, AcceptsTheLimitsOfTheSize)
+{
+    QSize size;
+
+    EXPECT_TRUE(parseSize("16x8192", size));
+    EXPECT_EQ(size, QSize(16, 8192));
+    EXPECT_FALSE(parseSize("16x8192x3", size));
+    EXPECT_EQ(size, QSize(16, 8192));
+}
+
+TEST(CommandLine, FilesAndFoldersThatCannotBeThereAreNamed)
+{
+    const QTemporaryDir folder;
+    const QString model = folder.filePath("model.obj");
+    QFile(model).open(QIODevice::WriteOnly);
+
+    struct Row
+    {
+        QStringList arguments;
+        QString part;
+    };
+
+    const Row rows[] = {
+        { { folder.filePath("none.obj") }, "none.obj: no such file" },
+        { { model, folder.path() }, ": not a file" },
+        { { "--session", folder.filePath("none.json") }, "none.json: no such file" },
+        { { "--screenshot", folder.filePath("none/out.png") }, "no such folder" },
+        { { "--screenshot", folder.filePath("out.xyz") }, "not a picture format" },
+        { { "--output", folder.filePath("none") }, "no such folder" },
+        { { model, "--screenshot", folder.filePath("out.png"), "--output", folder.path() }, "" },
+    };
+    for (const Row& row : rows) {
+        CommandLine options;
+        QString error;
+        ASSERT_TRUE(parseCommandLine(row.arguments, options, error)) << error.toStdString();
+
+        EXPECT_EQ(checkCommandLine(options, error), row.part.isEmpty());
+
+        EXPECT_TRUE(error.contains(row.part)) << error.toStdString();
+    }
+}
+
+}  // namespace
+}  // namespace viewer

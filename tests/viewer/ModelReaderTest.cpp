@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/core/ModelReader.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace viewer {
+namespace {
+
+/// A folder of model files written by the tests.
+class ModelReader : public testing::Test
+{
+protected:
+    QString write(const char* name, const QByteArray& bytes) const
+    {
+        const QString path = folder.filePath(name);
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        EXPECT_EQ(file.write(bytes), bytes.size());
+        return path;
+    }
+
+    QTemporaryDir folder;
+    QString error;
+};
+
+const char* const kQuadObj =
+    "mtllib quad.mtl\no Quad\nv 0 0 0\nv 2 0 0\nv 2 1 0\nv 0 1 0\nusemtl Red\nf 1 2 3 4\n";
+
+TEST_F(ModelReader, ObjKeepsNamesAndColours)
+{
+    write("quad.mtl", "newmtl Red\nKd 0.75 0.25 0.125\nKs 0.5 0.5 0.5\nNs 32\nd 0.5\n");
+
+    const auto model = readModelFile(write("quad.obj", kQuadObj), {}, error);
+
+    ASSERT_TRUE(model) << error.toStdString();
+    EXPECT_EQ(model->root.name, "quad");
+    EXPECT_EQ(model->triangleCount(), 2U);
+    ASSERT_EQ(model->root.children.size(), 1U);
+    EXPECT_EQ(model->root.children[0].name, "Quad");
+    const MeshData& mesh = model->meshes.at(model->root.children[0].meshes.at(0));
+    EXPECT_EQ(mesh.positions.size(), 4U);
+    EXPECT_EQ(mesh.normals.at(0), (Vec3 { 0, 0, 1 }));
+    const MaterialData& material = model->materials.at(mesh.material);
+    EXPECT_EQ(material.diffuse, (Rgb { 0.75F, 0.25F, 0.125F }));
+    EXPECT_FLOAT_EQ(material.opacity, 0.5F);
+}
+
+TEST_F(ModelReader, PlyAndStlAreRead)
+{
+    const QByteArray ply =
+        "ply\nformat ascii 1.0\nelement vertex 3\nproperty float x\nproperty float y\nproperty "
+        "float z\n"
+        "property uchar red\nproperty uchar green\nproperty uchar blue\nelement face 1\n"
+        "property list uchar int vertex_indices\nend_header\n"
+        "0 0 0 255 0 0\n1 0 0 0 255 0\n0 1 0 0 0 255\n3 0 1 2\n";
+    const QByteArray stl =
+        "solid one\nfacet normal 0 0 1\nouter loop\nvertex 0 0 0\nvertex 1 0 0\nvertex 0 1 0\n"
+        "endloop\nendfacet\nendsolid one\n";
+
+    const auto colored = readModelFile(write("a.ply", ply), {}, error);
+    const auto plain = readModelFile(write("b.stl", stl), {}, error);
+
+    ASSERT_TRUE(colored && plain) << error.toStdString();
+    EXPECT_EQ(colored->meshes.at(0).colors.at(1), (std::array<std::uint8_t, 4> { 0, 255, 0, 255 }));
+    EXPECT_EQ(plain->triangleCount(), 1U);
+    EXPECT_EQ(plain->meshes.at(0).normals.at(0), (Vec3 { 0, 0, 1 }));
+}
+
+TEST_F(ModelReader, GltfKeepsItsHierarchy)
+{
+    // Three corners of a triangle as base64, under a node moved by (5, 6, 7) under a node moved by
+    // (1, 0, 0).
+    const float corners[9] = { 0, 0, 0, 1, 0, 0, 0, 1, 0 };
+    const QByteArray bytes(reinterpret_cast<const char*>(corners), sizeof corners);
+    const QByteArray gltf = R"({"asset":{"version":"2.0"},"scene":0,"scenes":[{"nodes":[0]}],
+        "nodes":[{"name":"Arm","translation":[1,0,0],"children":[1]},{"name":"Hand","translation":[5,6,7],"mesh":0}],
+        "meshes":[{"name":"Glove","primitives":[{"attributes":{"POSITION":0}}]}],
+        "accessors":[{"bufferView":0,"componentType":5126,"count":3,"type":"VEC3","min":[0,0,0],"max":[1,1,0]}],
+        "bufferViews":[{"buffer":0,"byteOffset":0,"byteLength":36}],
+        "buffers":[{"byteLength":36,"uri":"data:application/octet-stream;base64,)" +
+        bytes.toBase64() + "\"}]}";
+
+    const auto model = readModelFile(write("arm.gltf", gltf), {}, error);
+
+    ASSERT_TRUE(model) << error.toStdString();
+    const NodeData* node = &model->root;
+    while (node->name != "Hand" && !node->children.empty()) {
+        node = &node->children.front();
+    }
+    EXPECT_EQ(node->name, "Hand");
+    EXPECT_EQ(node->meshes.size(), 1U);
+    EXPECT_EQ((Vec3 { node->matrix[12], node->matrix[13], node->matrix[14] }), (Vec3 { 5, 6, 7 }));
+}
+
+TEST_F(ModelReader, APictureBecomesARectangleOfItsShape)
+{
+    QImage picture(40, 20, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    const QString path = folder.filePath("wide.png");
+    ASSERT_TRUE(picture.save(path));
+
+    const auto model = readModelFile(path, {}, error);
+
+    ASSERT_TRUE(model) << error.toStdString();
+    EXPECT_EQ(model->materials.at(0).texture.size(), QSize(40, 20));
+    EXPECT_FLOAT_EQ(model->meshes.at(0).positions.at(1)[0], 2.0F);
+}
+
+TEST_F(ModelReader, BrokenFilesGiveOneLineWithTheirName)
+{
+    write("lines.mtl", "");
+
+    struct Row
+    {
+        const char* name;
+        QByteArray bytes;
+    };
+
+    const QByteArray noise(400, '\x91');
+    const Row rows[] = {
+        { "empty.obj", "" },
+        { "noise.obj", noise },
+        { "pointless.obj", "v 0 0 0\nv 1 0 0\n" },
+        { "wild.obj", "v 0 0 0\nv 1 0 0\nv 0 1 0\nf 1 2 900\n" },
+        { "nan.obj", "v nan 0 0\nv 1 inf 0\nv 0 1 0\nf 1 2 3\n" },
+        { "noise.ply", noise },
+        { "short.ply",
+          "ply\nformat binary_little_endian 1.0\nelement vertex 1000000\nproperty float "
+          "x\nend_header\nab" },
+        { "noise.stl", noise },
+        { "long.stl", QByteArray(80, ' ') + QByteArray("\xff\xff\xff\x7f", 4) },
+        { "noise.glb", noise },
+        { "short.glb", "glTF\x02" },
+        { "noise.gltf", noise },
+        { "noise.3ds", noise },
+        { "noise.png", noise },
+        { "unknown.xyz123", noise },
+    };
+    for (const Row& row : rows) {
+        error.clear();
+
+        EXPECT_FALSE(readModelFile(write(row.name, row.bytes), {}, error)) << row.name;
+
+        EXPECT_TRUE(error.startsWith(folder.filePath(row.name) + ": ")) << error.toStdString();
+        EXPECT_FALSE(error.contains('\n'));
+    }
+    EXPECT_FALSE(readModelFile(folder.filePath("none.obj"), {}, error));
+    EXPECT_TRUE(error.endsWith("none.obj: no such file"));
+}
+
+TEST_F(ModelReader, AMissingPictureIsAWarningOnly)
+{
+    write("quad.mtl", "newmtl Red\nmap_Kd nowhere.png\n");
+
+    const auto model = readModelFile(write("quad.obj", kQuadObj), {}, error);
+
+    ASSERT_TRUE(model) << error.toStdString();
+    ASSERT_EQ(model->warnings.size(), 1);
+    EXPECT_TRUE(model->warnings[0].contains("nowhere.png"));
+}
+
+TEST_F(ModelReader, StopsWhenAskedTo)
+{
+    const auto model = readModelFile(
+        write("quad.obj", kQuadObj), [](double) { return false; }, error);
+
+    EXPECT_FALSE(model);
+    EXPECT_TRUE(error.contains("stopped"));
+}
+
+}  // namespace
+}  // namespace viewer

@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/core/Session.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace viewer {
+namespace {
+
+QByteArray withSteps(const char* steps)
+{
+    return QByteArray(R"({"session": 1, "size": [640, 480], "steps": [)") + steps + "]}";
+}
+
+TEST(Session, SurvivesWritingAndReading)
+{
+    Session session;
+    session.sizePx = { 801, 603 };
+    session.camera.emplace();
+    session.camera->from = { 1.5, -2.25, 3.0 };
+    session.camera->pivot = std::array<double, 3> { 0.5, 0.0, 0.0 };
+    session.camera->orthographic = true;
+    session.selection = "Knot";
+    session.manipulator = "universal";
+    SessionStep press;
+    press.type = SessionStep::Type::Press;
+    press.button = Qt::RightButton;
+    press.modifiers = Qt::ShiftModifier | Qt::ControlModifier;
+    press.at = { SessionTarget::Kind::Handle, "xaShape", {}, { 2.5, -1.0 } };
+    SessionStep wheel;
+    wheel.type = SessionStep::Type::Wheel;
+    wheel.wheelDelta = -240;
+    wheel.afterMs = 40;
+    wheel.at = { SessionTarget::Kind::World, {}, { 1.0, 2.0, 3.0 }, {} };
+    SessionStep checkpoint;
+    checkpoint.type = SessionStep::Type::Checkpoint;
+    checkpoint.name = "over x";
+    checkpoint.screenshot = true;
+    checkpoint.expectation.hover = "xaShape";
+    checkpoint.expectation.orthographic = false;
+    session.steps = { press, wheel, checkpoint };
+    QString error;
+
+    const std::optional<Session> read = parseSession(sessionText(session), error);
+
+    ASSERT_TRUE(read) << error.toStdString();
+    EXPECT_EQ(sessionText(*read), sessionText(session));
+    ASSERT_EQ(read->steps.size(), 3U);
+    EXPECT_EQ(read->steps[0].at.name, "xaShape");
+    EXPECT_EQ(read->steps[0].at.offsetPx, QPointF(2.5, -1.0));
+    EXPECT_EQ(read->steps[0].modifiers, press.modifiers);
+    EXPECT_EQ(read->steps[1].at.world[2], 3.0);
+    EXPECT_EQ(read->steps[2].expectation.hover, QString("xaShape"));
+    EXPECT_FALSE(read->steps[2].expectation.selection);
+}
+
+TEST(Session, SaysWhatIsWrongAndWhere)
+{
+    struct Row
+    {
+        QByteArray text;
+        const char* message;
+    };
+
+    const Row rows[] = {
+        { "{\n  \"session\": 1,\n  oops\n}", "line 3, column" },
+        { "[1]", "expected a JSON object" },
+        { R"({"session": 2, "size": [640, 480], "steps": []})", "session: expected 1" },
+        { R"({"session": 1, "size": [15, 480], "steps": []})",
+          "size: expected two whole numbers from 16 to 8192" },
+        { R"({"session": 1, "size": [640, 480]})", "steps: expected an array" },
+        { R"({"session": 1, "size": [640, 480], "setps": [], "steps": []})",
+          "unknown entry \"setps\"" },
+        { R"({"session": 1, "size": [640, 480], "camera": {"from": [0,0,0], "at": [0,0,0], "up": [0,1,0]}, "steps": []})",
+          "camera: from and at are the same point" },
+        { withSteps(R"({"type": "jump"})"), "steps[0].type: unknown type \"jump\"" },
+        { withSteps(R"({"type": "move"})"), "steps[0]: \"at\" is missing" },
+        { withSteps(R"({"type": "move", "at": [1, "2"]})"),
+          "steps[0].at: expected an array of 2 numbers" },
+        { withSteps(R"({"type": "move", "at": [1e300, 2]})"),
+          "steps[0].at: expected an array of 2 numbers" },
+        { withSteps(R"({"type": "move", "at": {"offset": [1, 2]}})"),
+          "steps[0].at: expected \"handle\"" },
+        { withSteps(R"({"type": "leave"}, {"type": "wheel", "at": [1, 2]})"),
+          "steps[1]: \"delta\" is missing or 0" },
+        { withSteps(R"({"type": "press", "at": [1, 2], "button": "fourth"})"), "steps[0].button" },
+        { withSteps(R"({"type": "press", "at": [1, 2], "modifiers": ["hyper"]})"),
+          "unknown modifier \"hyper\"" },
+        { withSteps(R"({"type": "key", "key": "Nonsense"})"), "unknown key \"Nonsense\"" },
+        { withSteps(R"({"type": "checkpoint", "name": "../../etc/x", "screenshot": true})"),
+          "may not be a path" },
+        { withSteps(R"({"type": "checkpoint", "name": "a", "expect": {"colour": 1}})"),
+          "unknown entry \"colour\"" },
+    };
+    for (const Row& row : rows) {
+        QString error;
+
+        EXPECT_FALSE(parseSession(row.text, error)) << row.message;
+
+        EXPECT_TRUE(error.contains(row.message))
+            << error.toStdString() << " instead of " << row.message;
+    }
+}
+
+TEST(Session, ModelsAreFoundBesideTheFile)
+{
+    const QTemporaryDir folder;
+    ASSERT_TRUE(QDir(folder.path()).mkpath("sessions"));
+    const QString path = folder.filePath("sessions/a.json");
+    Session session;
+    session.files.append(folder.filePath("models/knot.obj"));
+    QString error;
+
+    ASSERT_TRUE(writeSessionFile(path, session, error)) << error.toStdString();
+    const std::optional<Session> read = readSessionFile(path, error);
+
+    ASSERT_TRUE(read) << error.toStdString();
+    EXPECT_EQ(read->files, session.files);
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(file.readAll().contains("\"../models/knot.obj\""));
+}
+
+TEST(Session, AFileThatCannotBeWrittenOrReadIsNamed)
+{
+    const QTemporaryDir folder;
+    QString error;
+
+    EXPECT_FALSE(writeSessionFile(folder.filePath("none/a.json"), Session(), error));
+    EXPECT_TRUE(error.contains("none/a.json: "));
+    EXPECT_FALSE(readSessionFile(folder.filePath("b.json"), error));
+    EXPECT_TRUE(error.contains("b.json: "));
+}
+
+}  // namespace
+}  // namespace viewer

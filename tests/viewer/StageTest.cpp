@@ -1,0 +1,206 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/core/Stage.h"
+
+#include "viewer/core/SceneBuilder.h"
+#include "viewer/core/SessionTargets.h"
+#include "viewer/core/StartScene.h"
+
+#include <nbInteraction/EventNames.h>
+#include <nbInteraction/InteractionEvent.h>
+#include <nbKernel/nbScenegraph.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
+
+#include <OpenSG/OSGTransform.h>
+
+#include <gtest/gtest.h>
+
+namespace viewer {
+namespace {
+
+namespace names = nbec::interaction::names;
+
+constexpr int kWidthPx = 1200;
+constexpr int kHeightPx = 800;
+
+/// A view without a window, showing the start scene.
+class StageWithStartScene : public testing::Test
+{
+protected:
+    StageWithStartScene()
+        : stage(view)
+    {
+        stage.resize(kWidthPx, kHeightPx, 1.0F);
+        stage.showStartScene();
+        stage.update();
+    }
+
+    void hover(const osg::Pnt2f& px)
+    {
+        view.setMousePosition(px);
+        stage.interaction().pointerMoved(px);
+        send(names::kHover);
+    }
+
+    void send(const char* event)
+    {
+        stage.interaction().triggerEvent(
+            nbec::interaction::InteractionEvent(event, names::kTool, names::kSelect));
+    }
+
+    void click(const osg::Pnt2f& px)
+    {
+        hover(px);
+        send(names::kStart);
+        send(names::kStop);
+    }
+
+    osg::Pnt2f placeOf(SessionTarget::Kind kind, const char* name)
+    {
+        SessionTarget target;
+        target.kind = kind;
+        target.name = name;
+        osg::Pnt2f px(-1.F, -1.F);
+        QString error;
+        EXPECT_TRUE(resolveTarget(target, stage, px, error)) << error.toStdString();
+        return px;
+    }
+
+    nbOSGWidget view;
+    Stage stage;
+};
+
+TEST_F(StageWithStartScene, ShowsTheGizmoOnItsMainObject)
+{
+    EXPECT_EQ(stage.selectedName(), kStartSceneMainObject);
+    EXPECT_EQ(stage.gizmo().shown(), Gizmo::Universal);
+    ASSERT_NE(stage.gizmo().handles(), osg::NodePtr());
+}
+
+TEST_F(StageWithStartScene, EveryNamedHandleCanBeAimedAtAndIsHovered)
+{
+    for (const char* handle :
+         { "xaShape", "yaShape", "zaShape", "xsShape", "rxShape", "ryShape", "rzShape" }) {
+        hover(placeOf(SessionTarget::Kind::Handle, handle));
+
+        EXPECT_EQ(stage.gizmo().hoveredHandle(), handle);
+        EXPECT_FALSE(nbScenegraph::isPreselectionEnabled()) << "objects light up behind a handle";
+    }
+}
+
+TEST_F(StageWithStartScene, AClickSelectsTheObjectUnderThePointerAndBesideAllNone)
+{
+    const osg::Pnt2f vase = placeOf(SessionTarget::Kind::Node, "Vase");
+
+    hover(vase);
+    EXPECT_EQ(stage.preselectedName(), "Vase");
+    click(vase);
+    EXPECT_EQ(stage.selectedName(), "Vase");
+
+    click(osg::Pnt2f(3.F, 3.F));
+    EXPECT_EQ(stage.selectedName(), "");
+}
+
+TEST_F(StageWithStartScene, TheGizmoFollowsTheSelectionAndGoesWithIt)
+{
+    ASSERT_TRUE(stage.selectByName("Vase"));
+    const osg::Pnt2f onVase = placeOf(SessionTarget::Kind::Handle, "yaShape");
+    ASSERT_TRUE(stage.selectByName("Pebble"));
+    const osg::Pnt2f onPebble = placeOf(SessionTarget::Kind::Handle, "yaShape");
+
+    EXPECT_LT(onVase[0] + 100.F, onPebble[0]);
+
+    ASSERT_TRUE(stage.selectByName(""));
+    EXPECT_EQ(stage.gizmo().handleAt(onPebble), "");
+    EXPECT_FALSE(stage.selectByName("No such thing"));
+}
+
+TEST_F(StageWithStartScene, ChangingTheManipulatorLeavesOneOfThem)
+{
+    const auto gizmoCount = [] {
+        const osg::NodePtr root = nbScenegraph::getInternalRoot();
+        int count = 0;
+        for (osg::UInt32 i = 0; i < root->getNChildren(); ++i) {
+            count += nbNodeUtils::getName(root->getChild(i)) == "Manipulatorgroup" ? 1 : 0;
+        }
+        return count;
+    };
+    for (const Gizmo gizmo :
+         { Gizmo::Translate, Gizmo::CameraPivot, Gizmo::Universal, Gizmo::Translate }) {
+        stage.gizmo().show(gizmo);
+
+        EXPECT_EQ(gizmoCount(), 1) << gizmoName(gizmo);
+    }
+    SessionTarget ring;
+    ring.kind = SessionTarget::Kind::Handle;
+    ring.name = "rxShape";
+    osg::Pnt2f px;
+    QString error;
+    EXPECT_FALSE(resolveTarget(ring, stage, px, error)) << "the translate gizmo has no rings";
+    EXPECT_TRUE(error.contains("rxShape"));
+
+    stage.gizmo().show(Gizmo::None);
+    EXPECT_EQ(gizmoCount(), 0);
+    EXPECT_EQ(stage.gizmo().hoveredHandle(), "");
+}
+
+TEST_F(StageWithStartScene, CameraCommandsKeepTheSceneInView)
+{
+    const auto isKnotInView = [this] {
+        const osg::Pnt2f px = placeOf(SessionTarget::Kind::Node, kStartSceneMainObject);
+        return px[0] > 0.F && px[0] < kWidthPx && px[1] > 0.F && px[1] < kHeightPx;
+    };
+
+    stage.setOrthographic(true);
+    EXPECT_TRUE(stage.pose().orthographic);
+    EXPECT_TRUE(isKnotInView());
+    stage.setStandardView(nbCameraNavigation::StandardView::Top);
+    EXPECT_TRUE(isKnotInView());
+    stage.frameSelection();
+    const osg::Pnt2f px = placeOf(SessionTarget::Kind::Node, kStartSceneMainObject);
+    EXPECT_NEAR(px[0], kWidthPx / 2.0, 2.0);
+    EXPECT_NEAR(px[1], kHeightPx / 2.0, 2.0);
+    stage.setZUp(true);
+    EXPECT_TRUE(stage.pose().zUp);
+    stage.frameAll(true);
+    EXPECT_TRUE(isKnotInView());
+}
+
+TEST_F(StageWithStartScene, ClearingTakesSelectionAndGizmoAlong)
+{
+    stage.clear();
+    stage.update();
+
+    EXPECT_TRUE(stage.isEmpty());
+    EXPECT_EQ(stage.selectedName(), "");
+    EXPECT_EQ(stage.triangleCount(), 0U);
+}
+
+TEST(SceneBuilder, NodesStandWhereTheModelPutsThem)
+{
+    ModelData model;
+    model.materials.resize(1);
+    MeshData mesh;
+    mesh.name = "Leaf";
+    mesh.positions = { { 0, 0, 0 }, { 1, 0, 0 }, { 0, 1, 0 } };
+    mesh.triangles = { 0, 1, 2 };
+    model.meshes = { mesh };
+    NodeData branch;
+    branch.name = "Branch";
+    branch.meshes = { 0 };
+    branch.matrix[12] = 5.0F;
+    model.root.name = "Tree";
+    model.root.matrix[13] = 2.0F;
+    model.root.children = { branch };
+
+    const osg::NodeRefPtr root(buildScene(model));
+
+    const osg::NodePtr node = root->getChild(0);
+    EXPECT_EQ(nbNodeUtils::getName(node), "Branch");
+    EXPECT_EQ(nbNodeUtils::getName(node->getChild(0)), "Leaf");
+    const osg::BoxVolume bounds = nbNodeUtils::getWorldBounds(node);
+    EXPECT_EQ(bounds.getMin(), osg::Pnt3f(5.F, 2.F, 0.F));
+    EXPECT_EQ(bounds.getMax(), osg::Pnt3f(6.F, 3.F, 0.F));
+}
+
+}  // namespace
+}  // namespace viewer

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+// The main function of test programs that open windows.
+#include <nbKernel/nbController.h>
+#include <nbKernel/nbScenegraph.h>
+
+#include <OpenSG/OSGBaseFunctions.h>
+
+#include <QApplication>
+#include <QSurfaceFormat>
+
+#include <gmock/gmock.h>
+
+#include <optional>
+
+int main(int argc, char** argv)
+{
+    testing::InitGoogleMock(&argc, argv);
+    // Naming the tests, as the build does, needs no display.
+    std::optional<QApplication> application;
+    if (!testing::GTEST_FLAG(list_tests)) {
+        QSurfaceFormat format;
+        format.setVersion(3, 3);
+        format.setProfile(QSurfaceFormat::CoreProfile);
+        QSurfaceFormat::setDefaultFormat(format);
+        application.emplace(argc, argv);
+    }
+    osg::osgInit(argc, argv);
+    const int result = RUN_ALL_TESTS();
+    nbController::clear();
+    nbScenegraph::clear();
+    osg::osgExit();
+    return result;
+}

@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QImage>
+#include <QString>
+#include <QStringList>
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace viewer {
+
+using Vec3 = std::array<float, 3>;
+using Rgb = std::array<float, 3>;  ///< red, green, blue, 0 .. 1, as they reach the screen
+
+/// Surface of one material, as plain arrays; all but `triangles` have one entry per vertex or none
+/// at all.
+struct MeshData
+{
+    QString name;
+    std::vector<Vec3> positions;  ///< in the frame of the node that holds the mesh
+    std::vector<Vec3> normals;  ///< unit length
+    std::vector<std::array<float, 2>>
+        texCoords;  ///< (0, 0) is the lower left corner of the picture
+    std::vector<std::array<std::uint8_t, 4>> colors;  ///< red, green, blue, alpha
+    std::vector<std::uint32_t> triangles;  ///< vertex numbers, three for each
+    std::size_t material = 0;  ///< index into ModelData::materials
+};
+
+/// Look of a surface.
+struct MaterialData
+{
+    QString name;
+    Rgb diffuse { 0.7F, 0.7F, 0.7F };
+    Rgb specular { 0.0F, 0.0F, 0.0F };
+    Rgb emission { 0.0F, 0.0F, 0.0F };
+    float shininess = 20.0F;  ///< 1 .. 128
+    float opacity = 1.0F;  ///< 0 invisible .. 1 opaque
+    QImage texture;  ///< multiplied with diffuse; null for none
+};
+
+/// One node of a model's hierarchy.
+struct NodeData
+{
+    QString name;
+    /// 4x4, parent from node, column vectors, column after column.
+    std::array<float, 16> matrix { 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1 };
+    std::vector<std::size_t> meshes;  ///< indices into ModelData::meshes
+    std::vector<NodeData> children;
+};
+
+/// A model as read from a file or made by code: values only, so that any thread may make one.
+struct ModelData
+{
+    std::vector<MaterialData> materials;
+    std::vector<MeshData> meshes;
+    NodeData root;
+    QStringList warnings;  ///< one line each, about parts that could not be used
+
+    std::size_t triangleCount() const
+    {
+        std::size_t count = 0;
+        for (const MeshData& mesh : meshes) {
+            count += mesh.triangles.size() / 3;
+        }
+        return count;
+    }
+};
+
+}  // namespace viewer

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <nbInteraction/SelectionTool.h>
+
+#include <OpenSG/OSGNode.h>
+
+namespace viewer {
+
+/// Selects by click and knows which object lies under the resting pointer, while the scene graph
+/// allows preselection.
+class PreselectionTool : public nbec::interaction::SelectionTool
+{
+public:
+    bool hoverTool(nbec::interaction::ToolInteractionContext* context,
+                   const std::string& hint) override;
+    bool stopHoverTool(nbec::interaction::ToolInteractionContext* context,
+                       const std::string& hint) override;
+
+    /// The object under the pointer; null if there is none, if it is gone, or while preselection is
+    /// off.
+    osg::NodePtr getPreselected() const;
+
+private:
+    osg::UInt32 preselectedId = 0;
+};
+
+}  // namespace viewer

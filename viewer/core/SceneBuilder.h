@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "viewer/core/ModelData.h"
+
+#include <OpenSG/OSGConfig.h>
+#include <OpenSG/OSGNode.h>
+
+namespace viewer {
+
+/// Makes scene graph nodes of a model: a node with a Transform core for each node of the model,
+/// below it a named node with a Geometry core for each mesh. Belongs to the user-interface thread.
+/// @return the root, reference count 0; never null
+osg::NodePtr buildScene(const ModelData& model);
+
+/// The object that a picked or selected node stands for: the nearest node with a Transform core
+/// from it upwards.
+/// @return null for null, and above the scene root
+osg::NodePtr objectOf(const osg::NodePtr& node);
+
+/// First node below a root, in tree order, of a name that objectOf() could return; null if there is
+/// none.
+osg::NodePtr findObject(const osg::NodePtr& root, const std::string& name);
+
+}  // namespace viewer

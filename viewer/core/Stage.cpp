@@ -1,0 +1,241 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/core/Stage.h"
+
+#include "viewer/core/SceneBuilder.h"
+#include "viewer/core/StartScene.h"
+
+#include <nbKernel/nbScenegraph.h>
+#include <nbOpenSGSelection/nbSelection.h>
+#include <nbOpenSGUtils/nbEdit.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
+
+#include <OpenSG/OSGBoxVolume.h>
+
+#include <algorithm>
+
+namespace viewer {
+namespace {
+
+constexpr float kStartFovDeg = 32.0F;
+
+const osg::Color3f kSelectionColor { 0.95F, 0.96F, 0.98F };
+const osg::Color3f kPreselectionColor { 0.62F, 0.66F, 0.72F };
+constexpr float kMarkerWidthPx = 1.5F;
+
+osg::Pnt3f pointOf(const std::array<float, 3>& p)
+{
+    return { p[0], p[1], p[2] };
+}
+
+}  // namespace
+
+Stage::Stage(nbOSGWidget& view)
+    : renderWidget(view)
+    , selectionContext(nbec::interaction::Selection)
+    , gizmoController(manager)
+    , selectionMarker(kSelectionColor, kMarkerWidthPx)
+    , preselectionMarker(kPreselectionColor, kMarkerWidthPx)
+{
+    renderWidget.setMain();
+    scenePicker.setFilter(nbec::interaction::Picker::SceneFilter);
+    selectionContext.setPicker(&scenePicker);
+    selectionContext.setTool(&selectionTool);
+    cameraContext.setPicker(&scenePicker);
+    cameraContext.setChangedCallback([this] {
+        gizmoController.followCamera();
+        changed();
+    });
+    manager.addContext(&selectionContext);
+    manager.addContext(&cameraContext);
+    selectionCallback = nbSelection::addChangedCallback([this] { selectionChanged(); });
+}
+
+Stage::~Stage()
+{
+    nbSelection::removeChangedCallback(selectionCallback);
+    changedCallback = nullptr;
+    gizmoController.show(Gizmo::None);
+    manager.removeContext(&selectionContext);
+    manager.removeContext(&cameraContext);
+    selectionContext.setTool(nullptr);
+    clear();
+}
+
+void Stage::clear()
+{
+    nbSelection::clear();
+    gizmoController.setTarget(osg::NullFC);
+    const osg::NodePtr root = nbScenegraph::getRootNode();
+    const nbEdit edit(root, osg::Node::ChildrenFieldMask);
+    while (root->getNChildren() > 0) {
+        root->subChild(root->getNChildren() - 1);
+    }
+    triangles = 0;
+}
+
+osg::NodePtr Stage::add(const ModelData& model)
+{
+    const osg::NodePtr node = buildScene(model);
+    const osg::NodePtr root = nbScenegraph::getRootNode();
+    {
+        const nbEdit edit(root, osg::Node::ChildrenFieldMask);
+        root->addChild(node);
+    }
+    triangles += model.triangleCount();
+    nbec::interaction::Picker::buildTrees(node);
+    changed();
+    return node;
+}
+
+void Stage::showStartScene()
+{
+    clear();
+    const osg::NodePtr node = add(makeStartScene());
+    CameraPose start;
+    start.from = pointOf(kStartSceneFrom);
+    start.at = pointOf(kStartSceneAt);
+    start.pivot = start.at;
+    start.fovDeg = kStartFovDeg;
+    setPose(start);
+    select(findObject(node, kStartSceneMainObject));
+    gizmoController.show(Gizmo::Universal);
+}
+
+bool Stage::isEmpty() const
+{
+    return nbScenegraph::getRootNode()->getNChildren() == 0;
+}
+
+void Stage::select(const osg::NodePtr& node)
+{
+    nbSelection::set(node);
+}
+
+bool Stage::selectByName(const std::string& name)
+{
+    const osg::NodePtr node =
+        name.empty() ? osg::NodePtr() : findObject(nbScenegraph::getRootNode(), name);
+    if (node == osg::NullFC && !name.empty()) {
+        return false;
+    }
+    select(node);
+    return true;
+}
+
+osg::NodePtr Stage::selectedObject() const
+{
+    return objectOf(nbSelection::getLast());
+}
+
+std::string Stage::selectedName() const
+{
+    return nbNodeUtils::getName(selectedObject());
+}
+
+std::string Stage::preselectedName() const
+{
+    return nbNodeUtils::getName(selectionTool.getPreselected());
+}
+
+CameraPose Stage::pose() const
+{
+    return renderWidget.getUberCamera()->getPose();
+}
+
+void Stage::setPose(const CameraPose& pose)
+{
+    cameraContext.setPose(pose);
+}
+
+void Stage::frame(const osg::NodePtr& node, const CameraPose& from)
+{
+    const osg::BoxVolume bounds = nbNodeUtils::getWorldBounds(node);
+    if (bounds.isEmpty()) {
+        return;
+    }
+    const float aspect = renderWidget.getUberViewport()->getDeviceAspect();
+    setPose(nbCameraNavigation::frame(from, bounds.getMin(), bounds.getMax(), aspect));
+}
+
+void Stage::frameAll(bool reset)
+{
+    CameraPose from = pose();
+    if (reset) {
+        from =
+            nbCameraNavigation::standardView(from, nbCameraNavigation::StandardView::ThreeQuarter);
+    }
+    frame(nbScenegraph::getRootNode(), from);
+}
+
+void Stage::frameSelection()
+{
+    const osg::NodePtr object = selectedObject();
+    frame(object != osg::NullFC ? object : nbScenegraph::getRootNode(), pose());
+}
+
+void Stage::setStandardView(nbCameraNavigation::StandardView standardView)
+{
+    setPose(nbCameraNavigation::standardView(pose(), standardView));
+}
+
+void Stage::setOrthographic(bool on)
+{
+    setPose(nbCameraNavigation::withProjection(pose(), on));
+}
+
+void Stage::setZUp(bool on)
+{
+    CameraPose turned = pose();
+    turned.zUp = on;
+    setPose(
+        nbCameraNavigation::standardView(turned, nbCameraNavigation::StandardView::ThreeQuarter));
+}
+
+void Stage::resize(int widthPx, int heightPx, float pixelRatio)
+{
+    scenePicker.setPixelRatio(pixelRatio);
+    selectionTool.setPixelRatio(pixelRatio);
+    gizmoController.setPixelRatio(pixelRatio);
+    renderWidget.resize(widthPx, heightPx);
+    gizmoController.followCamera();
+    renderWidget.update();
+}
+
+void Stage::update()
+{
+    gizmoController.update();
+    std::vector<osg::NodePtr> selected;
+    for (const osg::NodePtr& node : nbSelection::getNodes()) {
+        const osg::NodePtr object = objectOf(node);
+        if (std::find(selected.begin(), selected.end(), object) == selected.end()) {
+            selected.push_back(object);
+        }
+    }
+    const osg::NodePtr preselected = selectionTool.getPreselected();
+    const bool isNew = preselected != osg::NullFC &&
+        std::find(selected.begin(), selected.end(), preselected) == selected.end();
+    selectionMarker.mark(selected);
+    preselectionMarker.mark(isNew ? std::vector<osg::NodePtr> { preselected }
+                                  : std::vector<osg::NodePtr> {});
+}
+
+void Stage::setChangedCallback(std::function<void()> callback)
+{
+    changedCallback = std::move(callback);
+}
+
+void Stage::selectionChanged()
+{
+    gizmoController.setTarget(selectedObject());
+    changed();
+}
+
+void Stage::changed()
+{
+    renderWidget.update();
+    if (changedCallback) {
+        changedCallback();
+    }
+}
+
+}  // namespace viewer

@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "viewer/core/BoundsMarker.h"
+#include "viewer/core/GizmoController.h"
+#include "viewer/core/ModelData.h"
+#include "viewer/core/PreselectionTool.h"
+
+#include <nbInteraction/CameraInteractionContext.h>
+#include <nbInteraction/InteractionManager.h>
+#include <nbInteraction/Picker.h>
+#include <nbInteraction/ToolInteractionContext.h>
+#include <nbKernel/nbOSGWidget.h>
+#include <nbOpenSGUberCamera/nbCameraNavigation.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace viewer {
+
+/// Everything that happens in the view without being a window: scene, selection, camera,
+/// manipulator and how input reaches them. Works without any widget, window or OpenGL; lives
+/// between osgInit and osgExit.
+class Stage
+{
+public:
+    /// @param view  made the main widget; not owned, outlives this
+    explicit Stage(nbOSGWidget& view);
+    Stage(const Stage&) = delete;
+    Stage& operator=(const Stage&) = delete;
+    /// Empties the scene.
+    ~Stage();
+
+    nbec::interaction::InteractionManager& interaction() { return manager; }
+
+    GizmoController& gizmo() { return gizmoController; }
+
+    nbOSGWidget& view() { return renderWidget; }
+
+    // == Scene
+
+    /// Removes all models.
+    void clear();
+    /// Hangs a model into the scene. @return its root
+    osg::NodePtr add(const ModelData& model);
+    /// Replaces everything by the start scene, seen as composed, with its main object selected and
+    /// the universal gizmo on it.
+    void showStartScene();
+    bool isEmpty() const;
+
+    std::size_t triangleCount() const { return triangles; }
+
+    // == Selection
+
+    /// Selects an object or a part of one; null for none.
+    void select(const osg::NodePtr& node);
+    /// Selects the object of that name, "" for none. @return false, selection untouched, if there
+    /// is no such object
+    bool selectByName(const std::string& name);
+    /// The object selected last; null if there is none.
+    osg::NodePtr selectedObject() const;
+    std::string selectedName() const;
+    /// Name of the object under the pointer that a click would select; "" for none.
+    std::string preselectedName() const;
+
+    // == Camera
+
+    CameraPose pose() const;
+    void setPose(const CameraPose& pose);
+    /// Shows all models from where the camera looks; the start view with the default direction if
+    /// `reset` is set.
+    void frameAll(bool reset = false);
+    /// Shows the selected object, or all if nothing is selected.
+    void frameSelection();
+    void setStandardView(nbCameraNavigation::StandardView standardView);
+    void setOrthographic(bool on);
+    void setZUp(bool on);
+
+    // == Keeping in step
+
+    /// Tells the size of the view, device pixels, and the device pixels per logical one.
+    void resize(int widthPx, int heightPx, float pixelRatio);
+    /// Brings gizmo and markers up to date; call before each picture.
+    void update();
+    /// Sets what is called when selection, camera or scene changed; empty for nothing.
+    void setChangedCallback(std::function<void()> callback);
+
+private:
+    void selectionChanged();
+    void changed();
+    void frame(const osg::NodePtr& node, const CameraPose& from);
+
+    nbOSGWidget& renderWidget;
+    nbec::interaction::InteractionManager manager;
+    nbec::interaction::Picker scenePicker;
+    PreselectionTool selectionTool;
+    nbec::interaction::ToolInteractionContext selectionContext;
+    nbec::interaction::CameraInteractionContext cameraContext;
+    GizmoController gizmoController;
+    BoundsMarker selectionMarker;
+    BoundsMarker preselectionMarker;
+    std::function<void()> changedCallback;
+    int selectionCallback = 0;
+    std::size_t triangles = 0;
+};
+
+}  // namespace viewer

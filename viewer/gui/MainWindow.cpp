@@ -1,0 +1,444 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/gui/MainWindow.h"
+
+#include "viewer/core/ModelReader.h"
+#include "viewer/gui/MessageBar.h"
+#include "viewer/gui/SessionPlayer.h"
+#include "viewer/gui/SessionRecorder.h"
+#include "viewer/gui/ViewWidget.h"
+#include "viewer/gui/WindowActions.h"
+
+#include <QCloseEvent>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QLabel>
+#include <QProgressBar>
+#include <QSettings>
+#include <QStatusBar>
+#include <QTimer>
+#include <QToolButton>
+
+namespace viewer {
+namespace {
+
+constexpr int kRecentCount = 8;
+constexpr int kProgressWidth = 180;
+constexpr int kPercent = 100;
+
+/// A window that a window manager refuses the wanted size is waited for this often.
+constexpr int kMaxSizeChecks = 200;
+constexpr int kSizeCheckMs = 10;
+
+const char* const kRecentKey = "recentFiles";
+const char* const kSessionFilter = "Sessions (*.json)";
+
+void setTextOf(QLabel* label, const QString& text)
+{
+    if (label->text() != text) {
+        label->setText(text);
+    }
+}
+
+osg::Pnt3f pointOf(const std::array<double, 3>& p)
+{
+    return { static_cast<float>(p[0]), static_cast<float>(p[1]), static_cast<float>(p[2]) };
+}
+
+CameraPose poseOf(const SessionCamera& camera)
+{
+    CameraPose pose;
+    pose.from = pointOf(camera.from);
+    pose.at = pointOf(camera.at);
+    pose.up = pointOf(camera.up).subZero();
+    pose.pivot = pointOf(camera.pivot.value_or(camera.at));
+    pose.fovDeg = static_cast<float>(camera.fovDeg);
+    pose.orthographic = camera.orthographic;
+    pose.zUp = camera.zUp;
+    return pose;
+}
+
+}  // namespace
+
+MainWindow::MainWindow(Attendance attendance)
+    : mode(attendance)
+    , viewWidget(new ViewWidget)
+    , loader(new ModelLoader(this))
+    , sessionPlayer(new SessionPlayer(*viewWidget, *this, this))
+    , sessionRecorder(new SessionRecorder(*viewWidget, this))
+{
+    setWindowTitle(QStringLiteral("nbviewer"));
+    auto* centre = new QWidget(this);
+    auto* layout = new QGridLayout(centre);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(viewWidget, 0, 0);
+    setCentralWidget(centre);
+    messageBar = new MessageBar(viewWidget);
+    createStatusLine();
+    actions = new WindowActions(*this, viewWidget->stage());
+    if (mode == Attendance::Attended) {
+        actions->setRecentFiles(QSettings().value(kRecentKey).toStringList());
+        connect(this, &MainWindow::problem, messageBar, &MessageBar::showMessage);
+    }
+    connect(actions, &WindowActions::shortcutUsed, sessionRecorder, &SessionRecorder::addShortcut);
+    connect(viewWidget, &ViewWidget::stateChanged, this, &MainWindow::updateStatus);
+    connect(viewWidget, &ViewWidget::drawingFailed, this, &MainWindow::problem);
+    connect(viewWidget, &ViewWidget::filesDropped, this, &MainWindow::handleDroppedFiles);
+    connect(loader, &ModelLoader::finished, this, &MainWindow::showLoadedModels);
+    connect(loader, &ModelLoader::failed, this, [this](const QString& reason) {
+        updateStatus();
+        pendingSession.reset();
+        emit problem(reason);
+    });
+    connect(loader, &ModelLoader::progressed, this, [this](const QString& file, int percent) {
+        progress->setValue(percent);
+        progress->setFormat(QFileInfo(file).fileName() + QStringLiteral(" %p%"));
+    });
+    connect(sessionPlayer, &SessionPlayer::finished, this, &MainWindow::concludeReplay);
+    viewWidget->stage().setChangedCallback([this] {
+        actions->update();
+        updateStatus();
+    });
+    viewWidget->setFocus();
+}
+
+MainWindow::~MainWindow()
+{
+    viewWidget->stage().setChangedCallback(nullptr);
+    // The view is needed by what the window owns besides it.
+    delete sessionPlayer;
+    delete sessionRecorder;
+}
+
+void MainWindow::createStatusLine()
+{
+    handleLabel = new QLabel(this);
+    selectionLabel = new QLabel(this);
+    sceneLabel = new QLabel(this);
+    progress = new QProgressBar(this);
+    progress->setRange(0, kPercent);
+    progress->setFixedWidth(kProgressWidth);
+    cancelButton = new QToolButton(this);
+    cancelButton->setText(tr("Stop loading"));
+    connect(cancelButton, &QToolButton::clicked, this, [this] {
+        loader->cancel();
+        pendingSession.reset();
+        updateStatus();
+    });
+    statusBar()->addWidget(selectionLabel);
+    statusBar()->addWidget(handleLabel);
+    statusBar()->addPermanentWidget(progress);
+    statusBar()->addPermanentWidget(cancelButton);
+    statusBar()->addPermanentWidget(sceneLabel);
+    progress->hide();
+    cancelButton->hide();
+}
+
+void MainWindow::updateStatus()
+{
+    Stage& stage = viewWidget->stage();
+    const QString handle = QString::fromStdString(stage.gizmo().hoveredHandle());
+    const QString hovered = QString::fromStdString(stage.preselectedName());
+    const QString selected = QString::fromStdString(stage.selectedName());
+    setTextOf(selectionLabel,
+              selected.isEmpty() ? tr("Nothing selected") : tr("Selected: %1").arg(selected));
+    if (!handle.isEmpty()) {
+        setTextOf(handleLabel, tr("Handle: %1").arg(handle));
+    } else {
+        setTextOf(handleLabel,
+                  hovered.isEmpty() ? QString() : tr("Under the pointer: %1").arg(hovered));
+    }
+    setTextOf(sceneLabel, tr("%L1 triangles").arg(stage.triangleCount()));
+    progress->setVisible(loader->isRunning());
+    cancelButton->setVisible(loader->isRunning());
+}
+
+// == Files
+
+void MainWindow::showStartScene()
+{
+    loader->cancel();
+    shownFiles.clear();
+    viewWidget->stage().showStartScene();
+    setWindowTitle(QStringLiteral("nbviewer"));
+    updateStatus();
+}
+
+void MainWindow::openFiles(const QStringList& files, Opening opening)
+{
+    openingFiles = files;
+    openingMode = opening;
+    progress->setValue(0);
+    loader->start(files);
+    updateStatus();
+}
+
+void MainWindow::showLoadedModels()
+{
+    Stage& stage = viewWidget->stage();
+    const bool replaced = openingMode == Opening::Replace || stage.isEmpty();
+    if (openingMode == Opening::Replace) {
+        stage.clear();
+        shownFiles.clear();
+    }
+    QStringList warnings;
+    osg::NodePtr last;
+    for (const ModelData& model : loader->takeModels()) {
+        last = stage.add(model);
+        warnings.append(model.warnings);
+    }
+    for (const QString& file : openingFiles) {
+        shownFiles.append(QFileInfo(file).absoluteFilePath());
+    }
+    addRecentFiles(openingFiles);
+    stage.frameAll(replaced);
+    stage.select(last);
+    if (stage.gizmo().shown() == Gizmo::None) {
+        stage.gizmo().show(Gizmo::Universal);
+    }
+    actions->update();
+    updateStatus();
+    setWindowTitle(QFileInfo(openingFiles.value(0)).fileName() + QStringLiteral(" - nbviewer"));
+    if (!warnings.isEmpty() && mode == Attendance::Attended) {
+        messageBar->showMessage(warnings.first());
+    }
+    if (pendingSession) {
+        beginReplay();
+    }
+    emit filesShown();
+}
+
+void MainWindow::addRecentFiles(const QStringList& files)
+{
+    if (mode == Attendance::Unattended) {
+        return;
+    }
+    QSettings settings;
+    QStringList recent = settings.value(kRecentKey).toStringList();
+    for (const QString& file : files) {
+        const QString path = QFileInfo(file).absoluteFilePath();
+        recent.removeAll(path);
+        recent.prepend(path);
+    }
+    recent = recent.mid(0, kRecentCount);
+    settings.setValue(kRecentKey, recent);
+    actions->setRecentFiles(recent);
+}
+
+void MainWindow::askForFiles(Opening opening)
+{
+    const QStringList files =
+        QFileDialog::getOpenFileNames(this, tr("Open"), {}, modelFileFilter());
+    if (!files.isEmpty()) {
+        openFiles(files, opening);
+    }
+}
+
+void MainWindow::askForPicture()
+{
+    const QString path = QFileDialog::getSaveFileName(
+        this, tr("Save picture"), QStringLiteral("view.png"), tr("Pictures (*.png *.jpg *.bmp)"));
+    QString error;
+    if (!path.isEmpty() && !savePicture(path, error)) {
+        emit problem(error);
+    }
+}
+
+bool MainWindow::savePicture(const QString& path, QString& error)
+{
+    const QImage picture = viewWidget->takePicture(error);
+    if (picture.isNull()) {
+        return false;
+    }
+    if (!picture.save(path)) {
+        error = QStringLiteral("%1: cannot be written").arg(path);
+        return false;
+    }
+    return true;
+}
+
+void MainWindow::handleDroppedFiles(const QStringList& files)
+{
+    if (files.size() == 1 && files.first().endsWith(QLatin1String(".json"), Qt::CaseInsensitive)) {
+        replayFile(files.first());
+    } else {
+        openFiles(files, Opening::Replace);
+    }
+}
+
+// == View
+
+void MainWindow::showGizmo(Gizmo gizmo)
+{
+    viewWidget->stage().gizmo().show(gizmo);
+    viewWidget->stage().view().update();
+}
+
+void MainWindow::showEffectBuffer(bool on)
+{
+    viewWidget->showEffectBuffer(on);
+}
+
+void MainWindow::suggestViewSize(const QSize& sizePx)
+{
+    viewWidget->fixSize(sizePx);
+    adjustSize();
+    QTimer::singleShot(0, this, [this] {
+        const QSize wanted = size();
+        viewWidget->fixSize({});
+        resize(wanted);
+    });
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    loader->cancel();
+    sessionPlayer->stop();
+    QMainWindow::closeEvent(event);
+}
+
+// == Sessions
+
+void MainWindow::replay(const Session& session, const std::optional<QDir>& pictures)
+{
+    sessionPlayer->stop();
+    pendingSession = session;
+    pendingPictures = pictures;
+    sizeChecks = 0;
+    if (!session.files.isEmpty()) {
+        openFiles(session.files, Opening::Replace);
+        return;
+    }
+    showStartScene();
+    beginReplay();
+}
+
+bool MainWindow::setStageFor(const Session& session, QString& error)
+{
+    Stage& stage = viewWidget->stage();
+    if (session.camera) {
+        stage.setPose(poseOf(*session.camera));
+    }
+    if (session.selection && !stage.selectByName(session.selection->toStdString())) {
+        error = QStringLiteral("the session begins with \"%1\" selected, which is not there")
+                    .arg(*session.selection);
+        return false;
+    }
+    if (!session.manipulator.isEmpty()) {
+        Gizmo gizmo = Gizmo::None;
+        if (!gizmoFromName(session.manipulator.toStdString(), gizmo)) {
+            error = QStringLiteral("manipulator: unknown name \"%1\"").arg(session.manipulator);
+            return false;
+        }
+        stage.gizmo().show(gizmo);
+    }
+    return true;
+}
+
+void MainWindow::beginReplay()
+{
+    viewWidget->fixSize(pendingSession->sizePx);
+    if (sizeChecks == 0) {
+        adjustSize();
+    }
+    // The layout gives the view its size only when the window has got its own.
+    const nbOSGWidget& renderWidget = viewWidget->stage().view();
+    const QSize size(renderWidget.getWidth(), renderWidget.getHeight());
+    if ((size != pendingSession->sizePx || !viewWidget->isVisible()) &&
+        ++sizeChecks < kMaxSizeChecks) {
+        QTimer::singleShot(kSizeCheckMs, this, [this] {
+            if (pendingSession) {
+                beginReplay();
+            }
+        });
+        return;
+    }
+    const Session session = *pendingSession;
+    pendingSession.reset();
+    QString error;
+    if (!setStageFor(session, error)) {
+        viewWidget->fixSize({});
+        emit problem(error);
+        return;
+    }
+    const auto pace = mode == Attendance::Attended ? SessionPlayer::Pace::AsRecorded
+                                                   : SessionPlayer::Pace::AsFastAsPossible;
+    sessionPlayer->start(session, pace, pendingPictures);
+    actions->update();
+}
+
+void MainWindow::stopReplay()
+{
+    sessionPlayer->stop();
+}
+
+bool MainWindow::isReplaying() const
+{
+    return sessionPlayer->isPlaying();
+}
+
+void MainWindow::concludeReplay()
+{
+    if (mode == Attendance::Attended) {
+        viewWidget->fixSize({});
+    }
+    actions->update();
+    if (!sessionPlayer->getFailures().isEmpty() && mode == Attendance::Attended) {
+        emit problem(sessionPlayer->getFailures().first());
+    }
+    emit replayFinished();
+}
+
+void MainWindow::record(bool on)
+{
+    if (on && !sessionRecorder->isRecording()) {
+        sessionRecorder->start(shownFiles);
+        statusBar()->showMessage(tr("Recording"));
+    } else if (!on && sessionRecorder->isRecording()) {
+        statusBar()->clearMessage();
+        saveRecording();
+    }
+}
+
+bool MainWindow::isRecording() const
+{
+    return sessionRecorder->isRecording();
+}
+
+void MainWindow::addCheckpoint()
+{
+    sessionRecorder->addCheckpoint();
+}
+
+void MainWindow::saveRecording()
+{
+    const Session session = sessionRecorder->stop();
+    const QString path = QFileDialog::getSaveFileName(
+        this, tr("Save session"), QStringLiteral("session.json"), tr(kSessionFilter));
+    QString error;
+    if (!path.isEmpty() && !writeSessionFile(path, session, error)) {
+        emit problem(error);
+    }
+}
+
+void MainWindow::askForSession()
+{
+    const QString path =
+        QFileDialog::getOpenFileName(this, tr("Replay session"), {}, tr(kSessionFilter));
+    if (!path.isEmpty()) {
+        replayFile(path);
+    }
+}
+
+void MainWindow::replayFile(const QString& path)
+{
+    QString error;
+    const std::optional<Session> session = readSessionFile(path, error);
+    if (session) {
+        replay(*session, std::nullopt);
+    } else {
+        emit problem(error);
+    }
+}
+
+}  // namespace viewer

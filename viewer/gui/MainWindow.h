@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "viewer/core/GizmoController.h"
+#include "viewer/core/Session.h"
+#include "viewer/gui/ModelLoader.h"
+
+#include <QDir>
+#include <QMainWindow>
+
+#include <optional>
+
+class QLabel;
+class QProgressBar;
+class QToolButton;
+
+namespace viewer {
+
+class MessageBar;
+class SessionPlayer;
+class SessionRecorder;
+class ViewWidget;
+class WindowActions;
+
+/// The viewer's window: view, menus, status line, opening of files, recording and replaying.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /// What becomes of the models shown when others are opened.
+    enum class Opening
+    {
+        Replace,
+        Add
+    };
+
+    /// Whether a person is there: alone, the window keeps no recent files and shows no messages
+    /// over the view.
+    enum class Attendance
+    {
+        Attended,
+        Unattended
+    };
+
+    explicit MainWindow(Attendance attendance);
+    MainWindow(const MainWindow&) = delete;
+    MainWindow& operator=(const MainWindow&) = delete;
+    ~MainWindow() override;
+
+    ViewWidget& view() { return *viewWidget; }
+
+    // == Files
+
+    void showStartScene();
+    /// Reads files in the background and shows them; answers with filesShown() or problem().
+    void openFiles(const QStringList& files, Opening opening);
+    void askForFiles(Opening opening);
+    void askForPicture();
+    /// Writes a picture of the view. @return false with one line in `error`
+    bool savePicture(const QString& path, QString& error);
+
+    // == View
+
+    void showGizmo(Gizmo gizmo);
+    void showEffectBuffer(bool on);
+    /// Makes the window as large as a view of this size needs; a person may change it afterwards.
+    void suggestViewSize(const QSize& sizePx);
+
+    // == Sessions
+
+    /// Shows what the session starts with, then plays it; answers with replayFinished() or
+    /// problem().
+    /// @param pictures  where its pictures go; nothing: none are written
+    void replay(const Session& session, const std::optional<QDir>& pictures);
+    void stopReplay();
+    bool isReplaying() const;
+    /// Begins to record, or ends it and asks where the session goes.
+    void record(bool on);
+    bool isRecording() const;
+    void addCheckpoint();
+    void askForSession();
+
+    SessionPlayer& player() { return *sessionPlayer; }
+
+signals:
+    void filesShown();
+    /// What could not be done, one line; everything is as it was.
+    void problem(const QString& text);
+    void replayFinished();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void createStatusLine();
+    void updateStatus();
+    void showLoadedModels();
+    void addRecentFiles(const QStringList& files);
+    void handleDroppedFiles(const QStringList& files);
+    void replayFile(const QString& path);
+    void beginReplay();
+    bool setStageFor(const Session& session, QString& error);
+    void concludeReplay();
+    void saveRecording();
+
+    Attendance mode;
+    ViewWidget* viewWidget = nullptr;
+    MessageBar* messageBar = nullptr;
+    ModelLoader* loader = nullptr;
+    SessionPlayer* sessionPlayer = nullptr;
+    SessionRecorder* sessionRecorder = nullptr;
+    WindowActions* actions = nullptr;
+
+    QLabel* handleLabel = nullptr;
+    QLabel* selectionLabel = nullptr;
+    QLabel* sceneLabel = nullptr;
+    QProgressBar* progress = nullptr;
+    QToolButton* cancelButton = nullptr;
+
+    QStringList shownFiles;
+    QStringList openingFiles;
+    Opening openingMode = Opening::Replace;
+    std::optional<Session> pendingSession;
+    std::optional<QDir> pendingPictures;
+    int sizeChecks = 0;
+};
+
+}  // namespace viewer

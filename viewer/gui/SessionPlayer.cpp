@@ -1,0 +1,287 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/gui/SessionPlayer.h"
+
+#include "viewer/core/SessionNames.h"
+#include "viewer/core/SessionTargets.h"
+#include "viewer/gui/ViewWidget.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QKeySequence>
+#include <QMouseEvent>
+#include <QTimer>
+#include <QWheelEvent>
+
+namespace viewer {
+namespace {
+
+using Type = SessionStep::Type;
+
+/// Qt key and modifiers of a portable key name.
+int keyOf(const QString& name, Qt::KeyboardModifiers& modifiers)
+{
+    if (name == QLatin1String("Ctrl")) {
+        return Qt::Key_Control;
+    }
+    if (name == QLatin1String("Shift")) {
+        return Qt::Key_Shift;
+    }
+    if (name == QLatin1String("Alt")) {
+        return Qt::Key_Alt;
+    }
+    const int combined = QKeySequence(name, QKeySequence::PortableText)[0];
+    modifiers |= Qt::KeyboardModifiers(combined & static_cast<int>(Qt::KeyboardModifierMask));
+    return combined & ~static_cast<int>(Qt::KeyboardModifierMask);
+}
+
+Qt::KeyboardModifiers modifierOfKey(int key)
+{
+    switch (key) {
+    case Qt::Key_Control:
+        return Qt::ControlModifier;
+    case Qt::Key_Shift:
+        return Qt::ShiftModifier;
+    case Qt::Key_Alt:
+        return Qt::AltModifier;
+    default:
+        return Qt::NoModifier;
+    }
+}
+
+}  // namespace
+
+SessionPlayer::SessionPlayer(ViewWidget& targetView, QWidget& targetWindow, QObject* parent)
+    : QObject(parent)
+    , view(targetView)
+    , window(targetWindow)
+{ }
+
+void SessionPlayer::start(const Session& newSession, Pace newPace,
+                          const std::optional<QDir>& folder)
+{
+    session = newSession;
+    pace = newPace;
+    pictureFolder = folder;
+    nextStep = 0;
+    failures.clear();
+    pictures.clear();
+    heldButtons = Qt::NoButton;
+    heldModifiers = Qt::NoModifier;
+    playing = true;
+    ++generation;
+    scheduleNext();
+}
+
+void SessionPlayer::stop()
+{
+    if (!playing) {
+        return;
+    }
+    playing = false;
+    ++generation;
+    for (const Qt::MouseButton button : { Qt::LeftButton, Qt::MiddleButton, Qt::RightButton }) {
+        if (heldButtons.testFlag(button)) {
+            heldButtons.setFlag(button, false);
+            sendMouse(QEvent::MouseButtonRelease, button, heldModifiers);
+        }
+    }
+    emit finished();
+}
+
+void SessionPlayer::scheduleNext()
+{
+    const bool paused = pace == Pace::AsRecorded && nextStep < session.steps.size();
+    const int pauseMs = paused ? session.steps[nextStep].afterMs : 0;
+    QTimer::singleShot(pauseMs, this, [this, scheduled = generation] {
+        if (scheduled == generation) {
+            playNext();
+        }
+    });
+}
+
+void SessionPlayer::playNext()
+{
+    if (nextStep >= session.steps.size()) {
+        stop();
+        return;
+    }
+    const SessionStep step = session.steps[nextStep];
+    QString error;
+    if (!play(step, error)) {
+        failures.append(QStringLiteral("steps[%1]: %2").arg(nextStep).arg(error));
+        stop();
+        return;
+    }
+    ++nextStep;
+    scheduleNext();
+}
+
+bool SessionPlayer::play(const SessionStep& step, QString& error)
+{
+    switch (step.type) {
+    case Type::Key:
+    case Type::KeyPress:
+    case Type::KeyRelease:
+        playKey(step);
+        return true;
+    case Type::Checkpoint:
+        return playCheckpoint(step, error);
+    case Type::Leave: {
+        QEvent leave(QEvent::Leave);
+        QCoreApplication::sendEvent(&view, &leave);
+        return true;
+    }
+    default:
+        return playPointer(step, error);
+    }
+}
+
+bool SessionPlayer::playPointer(const SessionStep& step, QString& error)
+{
+    osg::Pnt2f px;
+    if (!resolveTarget(step.at, view.stage(), px, error)) {
+        return false;
+    }
+    const QPointF target = view.toLogical(px);
+    const Qt::KeyboardModifiers modifiers = modifiersOf(step);
+    // A real pointer never presses where it has not moved to.
+    if (step.type == Type::Move || target != position) {
+        position = target;
+        sendMouse(QEvent::MouseMove, Qt::NoButton, modifiers);
+    }
+    if (step.type == Type::Press || step.type == Type::Click || step.type == Type::DoubleClick) {
+        heldButtons.setFlag(step.button, true);
+        sendMouse(step.type == Type::DoubleClick ? QEvent::MouseButtonDblClick
+                                                 : QEvent::MouseButtonPress,
+                  step.button, modifiers);
+    }
+    if (step.type == Type::Release || step.type == Type::Click || step.type == Type::DoubleClick) {
+        heldButtons.setFlag(step.button, false);
+        sendMouse(QEvent::MouseButtonRelease, step.button, modifiers);
+    }
+    if (step.type == Type::Wheel) {
+        sendWheel(step.wheelDelta, modifiers);
+    }
+    return true;
+}
+
+void SessionPlayer::sendMouse(QEvent::Type type, Qt::MouseButton button,
+                              Qt::KeyboardModifiers modifiers)
+{
+    const QPointF inWindow = view.mapTo(view.window(), QPoint(0, 0)) + position;
+    const QPointF onScreen = view.mapToGlobal(QPoint(0, 0)) + position;
+    QMouseEvent event(type, position, inWindow, onScreen, button, heldButtons, modifiers);
+    QCoreApplication::sendEvent(&view, &event);
+}
+
+void SessionPlayer::sendWheel(int delta, Qt::KeyboardModifiers modifiers)
+{
+    const QPointF onScreen = view.mapToGlobal(QPoint(0, 0)) + position;
+    QWheelEvent event(position, onScreen, QPoint(), QPoint(0, delta), heldButtons, modifiers,
+                      Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&view, &event);
+}
+
+void SessionPlayer::playKey(const SessionStep& step)
+{
+    Qt::KeyboardModifiers modifiers = modifiersOf(step);
+    const int key = keyOf(step.key, modifiers);
+    const Qt::KeyboardModifiers before = heldModifiers;
+    heldModifiers = modifiers;
+    if (step.type != Type::KeyRelease && !triggerShortcut(key, modifiers)) {
+        sendKey(QEvent::KeyPress, key);
+    }
+    if (step.type != Type::KeyPress) {
+        sendKey(QEvent::KeyRelease, key);
+    }
+    // Modifiers of a step end with it; only a modifier key of its own is held on.
+    heldModifiers = before;
+    const Qt::KeyboardModifiers own = modifierOfKey(key);
+    if (step.type == Type::KeyPress) {
+        heldModifiers |= own;
+    } else if (step.type == Type::KeyRelease) {
+        heldModifiers &= ~own;
+    }
+}
+
+void SessionPlayer::sendKey(QEvent::Type type, int key)
+{
+    const Qt::KeyboardModifiers own = modifierOfKey(key);
+    // As in events from the window system, a modifier key's own flag is set from its press on.
+    const Qt::KeyboardModifiers modifiers =
+        type == QEvent::KeyPress ? heldModifiers | own : heldModifiers & ~own;
+    QKeyEvent event(type, key, modifiers);
+    QCoreApplication::sendEvent(&view, &event);
+}
+
+/// Does what the window system's way of a key does first: asks the view, then looks for a shortcut.
+bool SessionPlayer::triggerShortcut(int key, Qt::KeyboardModifiers modifiers)
+{
+    QKeyEvent ask(QEvent::ShortcutOverride, key, modifiers);
+    ask.ignore();
+    QCoreApplication::sendEvent(&view, &ask);
+    if (ask.isAccepted()) {
+        return false;
+    }
+    const QKeySequence pressed(key | static_cast<int>(modifiers));
+    for (QAction* action : window.findChildren<QAction*>()) {
+        if (action->isEnabled() && action->shortcuts().contains(pressed)) {
+            action->trigger();
+            return true;
+        }
+    }
+    return false;
+}
+
+bool SessionPlayer::playCheckpoint(const SessionStep& step, QString& error)
+{
+    check(step);
+    if (!step.screenshot || !pictureFolder) {
+        return true;
+    }
+    const QImage picture = view.takePicture(error);
+    if (picture.isNull()) {
+        return false;
+    }
+    const QString path = pictureFolder->filePath(step.name + QStringLiteral(".png"));
+    if (!picture.save(path)) {
+        error = QStringLiteral("%1 cannot be written").arg(path);
+        return false;
+    }
+    pictures.append(path);
+    emit pictureWritten(path);
+    return true;
+}
+
+void SessionPlayer::check(const SessionStep& step)
+{
+    Stage& stage = view.stage();
+    const SessionExpectation& expectation = step.expectation;
+    if (expectation.hover) {
+        expect(step, "hover", *expectation.hover,
+               QString::fromStdString(stage.gizmo().hoveredHandle()));
+    }
+    if (expectation.selection) {
+        expect(step, "selection", *expectation.selection,
+               QString::fromStdString(stage.selectedName()));
+    }
+    if (expectation.orthographic) {
+        const auto word = [](bool on) {
+            return on ? QStringLiteral("true") : QStringLiteral("false");
+        };
+        expect(step, "orthographic", word(*expectation.orthographic),
+               word(stage.pose().orthographic));
+    }
+}
+
+void SessionPlayer::expect(const SessionStep& step, const char* what, const QString& expected,
+                           const QString& found)
+{
+    if (expected != found) {
+        failures.append(QStringLiteral("checkpoint \"%1\": %2 is \"%3\" instead of \"%4\"")
+                            .arg(step.name, QLatin1String(what), found, expected));
+    }
+}
+
+}  // namespace viewer

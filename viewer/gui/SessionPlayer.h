@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "viewer/core/Session.h"
+
+#include <QDir>
+#include <QEvent>
+#include <QObject>
+#include <QStringList>
+
+#include <optional>
+
+class QWidget;
+
+namespace viewer {
+
+class ViewWidget;
+
+/// Replays a session: sends its events to the view as Qt events, the way a person's come, and
+/// writes the pictures of its checkpoints. The scene and the view's size are in place when it
+/// starts.
+class SessionPlayer : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// How fast the steps follow each other.
+    enum class Pace
+    {
+        AsFastAsPossible,
+        AsRecorded
+    };
+
+    /// @param targetView  gets the events; outlives this
+    /// @param targetWindow  has the actions whose shortcuts key steps may be; outlives this
+    SessionPlayer(ViewWidget& targetView, QWidget& targetWindow, QObject* parent = nullptr);
+
+    /// Begins to play. @param folder  where pictures go; nothing: none are written
+    void start(const Session& newSession, Pace newPace, const std::optional<QDir>& folder);
+    /// Ends the replay where it is; releases what it holds down.
+    void stop();
+
+    bool isPlaying() const { return playing; }
+
+    /// Checkpoints that were not met, one line each.
+    const QStringList& getFailures() const { return failures; }
+
+    /// Files of the pictures written, in order.
+    const QStringList& getPictures() const { return pictures; }
+
+signals:
+    void pictureWritten(const QString& path);
+    /// The last step was played, or a step could not be.
+    void finished();
+
+private:
+    void scheduleNext();
+    void playNext();
+    bool play(const SessionStep& step, QString& error);
+    bool playPointer(const SessionStep& step, QString& error);
+    void sendMouse(QEvent::Type type, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
+    void sendWheel(int delta, Qt::KeyboardModifiers modifiers);
+    void playKey(const SessionStep& step);
+    void sendKey(QEvent::Type type, int key);
+    bool triggerShortcut(int key, Qt::KeyboardModifiers modifiers);
+    bool playCheckpoint(const SessionStep& step, QString& error);
+    void check(const SessionStep& step);
+    void expect(const SessionStep& step, const char* what, const QString& expected,
+                const QString& found);
+
+    Qt::KeyboardModifiers modifiersOf(const SessionStep& step) const
+    {
+        return heldModifiers | step.modifiers;
+    }
+
+    ViewWidget& view;
+    QWidget& window;
+    Session session;
+    Pace pace = Pace::AsFastAsPossible;
+    std::optional<QDir> pictureFolder;
+    std::size_t nextStep = 0;
+    bool playing = false;
+    unsigned generation =
+        0;  ///< counts starts and stops, so that a step scheduled before is dropped
+    QPointF position;  ///< of the pointer, logical pixels in the view
+    Qt::MouseButtons heldButtons = Qt::NoButton;
+    Qt::KeyboardModifiers heldModifiers = Qt::NoModifier;
+    QStringList failures;
+    QStringList pictures;
+};
+
+}  // namespace viewer

@@ -1,0 +1,198 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/gui/SessionRecorder.h"
+
+#include "viewer/gui/ViewWidget.h"
+
+#include <QKeyEvent>
+#include <QKeySequence>
+#include <QMouseEvent>
+#include <QWheelEvent>
+
+#include <algorithm>
+
+namespace viewer {
+namespace {
+
+using Type = SessionStep::Type;
+
+constexpr qint64 kLongestPauseMs = 2000;
+
+template <class Point>
+std::array<double, 3> arrayOf(const Point& p)
+{
+    return { p[0], p[1], p[2] };
+}
+
+SessionCamera cameraOf(const CameraPose& pose)
+{
+    SessionCamera camera;
+    camera.from = arrayOf(pose.from);
+    camera.at = arrayOf(pose.at);
+    camera.up = arrayOf(pose.up);
+    camera.pivot = arrayOf(pose.pivot);
+    camera.fovDeg = pose.fovDeg;
+    camera.orthographic = pose.orthographic;
+    camera.zUp = pose.zUp;
+    return camera;
+}
+
+bool isKnownButton(Qt::MouseButton button)
+{
+    return button == Qt::LeftButton || button == Qt::MiddleButton || button == Qt::RightButton;
+}
+
+QString keyName(int key)
+{
+    switch (key) {
+    case Qt::Key_Control:
+        return QStringLiteral("Ctrl");
+    case Qt::Key_Shift:
+        return QStringLiteral("Shift");
+    case Qt::Key_Alt:
+        return QStringLiteral("Alt");
+    default:
+        return QKeySequence(key).toString(QKeySequence::PortableText);
+    }
+}
+
+}  // namespace
+
+SessionRecorder::SessionRecorder(ViewWidget& targetView, QObject* parent)
+    : QObject(parent)
+    , view(targetView)
+{ }
+
+void SessionRecorder::start(const QStringList& files)
+{
+    session = Session();
+    session.sizePx = view.sizePx();
+    session.files = files;
+    session.camera = cameraOf(view.stage().pose());
+    session.selection = QString::fromStdString(view.stage().selectedName());
+    session.manipulator = QLatin1String(gizmoName(view.stage().gizmo().shown()));
+    checkpoints = 0;
+    recording = true;
+    clock.start();
+    view.installEventFilter(this);
+}
+
+Session SessionRecorder::stop()
+{
+    view.removeEventFilter(this);
+    recording = false;
+    return std::move(session);
+}
+
+void SessionRecorder::addCheckpoint()
+{
+    SessionStep step;
+    step.type = Type::Checkpoint;
+    step.name = QStringLiteral("checkpoint %1").arg(++checkpoints);
+    step.screenshot = true;
+    step.expectation.hover = QString::fromStdString(view.stage().gizmo().hoveredHandle());
+    step.expectation.selection = QString::fromStdString(view.stage().selectedName());
+    add(step);
+}
+
+void SessionRecorder::addShortcut(const QString& keys)
+{
+    if (!recording || keys.isEmpty()) {
+        return;
+    }
+    SessionStep step;
+    step.type = Type::Key;
+    step.key = keys;
+    add(step);
+}
+
+bool SessionRecorder::eventFilter(QObject* watched, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::MouseMove:
+        addMouse(Type::Move, *static_cast<QMouseEvent*>(event));
+        break;
+    case QEvent::MouseButtonPress:
+        addMouse(Type::Press, *static_cast<QMouseEvent*>(event));
+        break;
+    case QEvent::MouseButtonDblClick:
+        // The release that follows is an event of its own.
+        addMouse(Type::Press, *static_cast<QMouseEvent*>(event));
+        break;
+    case QEvent::MouseButtonRelease:
+        addMouse(Type::Release, *static_cast<QMouseEvent*>(event));
+        break;
+    case QEvent::Wheel:
+        addWheel(*static_cast<QWheelEvent*>(event));
+        break;
+    case QEvent::Leave: {
+        SessionStep step;
+        step.type = Type::Leave;
+        add(step);
+        break;
+    }
+    case QEvent::KeyPress:
+        addKey(Type::KeyPress, *static_cast<QKeyEvent*>(event));
+        break;
+    case QEvent::KeyRelease:
+        addKey(Type::KeyRelease, *static_cast<QKeyEvent*>(event));
+        break;
+    default:
+        break;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void SessionRecorder::add(SessionStep step)
+{
+    step.afterMs = static_cast<int>(std::min(clock.restart(), kLongestPauseMs));
+    session.steps.push_back(std::move(step));
+}
+
+SessionTarget SessionRecorder::pixelAt(const QPointF& logical) const
+{
+    SessionTarget target;
+    target.offsetPx = logical * view.devicePixelRatioF();
+    return target;
+}
+
+void SessionRecorder::addMouse(Type type, const QMouseEvent& event)
+{
+    if (type != Type::Move && !isKnownButton(event.button())) {
+        return;
+    }
+    SessionStep step;
+    step.type = type;
+    step.at = pixelAt(event.localPos());
+    step.modifiers = event.modifiers();
+    if (type != Type::Move) {
+        step.button = event.button();
+    }
+    add(step);
+}
+
+void SessionRecorder::addWheel(const QWheelEvent& event)
+{
+    if (event.angleDelta().y() == 0) {
+        return;
+    }
+    SessionStep step;
+    step.type = Type::Wheel;
+    step.at = pixelAt(event.position());
+    step.modifiers = event.modifiers();
+    step.wheelDelta = event.angleDelta().y();
+    add(step);
+}
+
+void SessionRecorder::addKey(Type type, const QKeyEvent& event)
+{
+    const QString name = keyName(event.key());
+    if (name.isEmpty() || event.isAutoRepeat()) {
+        return;
+    }
+    SessionStep step;
+    step.type = type;
+    step.key = name;
+    add(step);
+}
+
+}  // namespace viewer

@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/gui/StartUp.h"
+
+#include "viewer/gui/MainWindow.h"
+#include "viewer/gui/SessionPlayer.h"
+#include "viewer/gui/ViewWidget.h"
+
+#include <QCoreApplication>
+#include <QTimer>
+
+#include <cstdio>
+
+namespace viewer {
+namespace {
+
+/// Pictures are named on standard output, for whoever started the program.
+void announce(const QString& path)
+{
+    std::fprintf(stdout, "%s\n", qPrintable(path));
+    std::fflush(stdout);
+}
+
+}  // namespace
+
+StartUp::StartUp(MainWindow& targetWindow, const CommandLine& commandLine,
+                 const std::optional<Session>& newSession)
+    : QObject(&targetWindow)
+    , window(targetWindow)
+    , options(commandLine)
+    , session(newSession)
+{ }
+
+void StartUp::complain(const QString& text)
+{
+    std::fprintf(stderr, "nbviewer: %s\n", qPrintable(text.simplified()));
+}
+
+void StartUp::run()
+{
+    connect(&window, &MainWindow::problem, this, &StartUp::giveUp);
+    if (session) {
+        // The command line's files and size stand in for the session's own.
+        session->files = options.files.isEmpty() ? session->files : options.files;
+        session->sizePx = options.sizePx.isValid() ? options.sizePx : session->sizePx;
+        window.show();
+        playSession();
+        return;
+    }
+    if (options.isUnattended() && options.sizePx.isValid()) {
+        window.view().fixSize(options.sizePx);
+        window.adjustSize();
+    } else if (options.sizePx.isValid()) {
+        window.suggestViewSize(options.sizePx);
+    }
+    window.show();
+    showFiles();
+}
+
+void StartUp::showFiles()
+{
+    if (options.files.isEmpty()) {
+        window.showStartScene();
+        // The layout has settled when the events of showing the window are done.
+        QTimer::singleShot(0, this, &StartUp::conclude);
+        return;
+    }
+    connect(&window, &MainWindow::filesShown, this, &StartUp::conclude);
+    window.openFiles(options.files, MainWindow::Opening::Replace);
+}
+
+void StartUp::playSession()
+{
+    connect(&window.player(), &SessionPlayer::pictureWritten, this, &announce);
+    connect(&window, &MainWindow::replayFinished, this, &StartUp::concludeSession);
+    window.replay(
+        *session,
+        QDir(options.outputFolder.isEmpty() ? QStringLiteral(".") : options.outputFolder));
+}
+
+void StartUp::concludeSession()
+{
+    const QStringList failures = window.player().getFailures();
+    for (const QString& failure : failures) {
+        complain(QStringLiteral("%1: %2").arg(options.session, failure));
+    }
+    if (!failures.isEmpty()) {
+        QCoreApplication::exit(kCheckpointStatus);
+        return;
+    }
+    conclude();
+}
+
+void StartUp::conclude()
+{
+    // What goes wrong from now on is the window's to tell.
+    disconnect(&window, &MainWindow::filesShown, this, nullptr);
+    if (!options.screenshot.isEmpty()) {
+        QString error;
+        if (!window.savePicture(options.screenshot, error)) {
+            giveUp(error);
+            return;
+        }
+        announce(options.screenshot);
+    }
+    if (options.isUnattended()) {
+        QCoreApplication::exit(0);
+    } else {
+        disconnect(&window, &MainWindow::problem, this, nullptr);
+    }
+}
+
+void StartUp::giveUp(const QString& text)
+{
+    complain(text);
+    QCoreApplication::exit(kBadInputStatus);
+}
+
+}  // namespace viewer

@@ -1,0 +1,204 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/gui/ViewWidget.h"
+
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QOpenGLContext>
+#include <QUrl>
+
+#include <cmath>
+
+namespace viewer {
+namespace {
+
+/// Pictures that are averaged into one that is written to a file.
+constexpr int kPicturePasses = 4;
+
+constexpr QSize kPreferredSize(1200, 800);
+constexpr QSize kSmallestSize(16, 16);
+
+QStringList localFiles(const QMimeData* data)
+{
+    QStringList files;
+    for (const QUrl& url : data->urls()) {
+        if (url.isLocalFile()) {
+            files.append(url.toLocalFile());
+        }
+    }
+    return files;
+}
+
+}  // namespace
+
+ViewWidget::ViewWidget(QWidget* parent)
+    : QOpenGLWidget(parent)
+    , viewStage(renderWidget)
+    , translator(viewStage.interaction(), &renderWidget)
+{
+    setObjectName(QStringLiteral("view"));
+    setMouseTracking(true);
+    setFocusPolicy(Qt::StrongFocus);
+    setAcceptDrops(true);
+    setMinimumSize(kSmallestSize);
+    renderWidget.setObserver(this);
+}
+
+ViewWidget::~ViewWidget()
+{
+    renderWidget.setObserver(nullptr);
+    releaseGraphics();
+    // The context ends after the members that the slot needs.
+    if (context() != nullptr) {
+        disconnect(context(), nullptr, this, nullptr);
+    }
+}
+
+void ViewWidget::fixSize(const QSize& newSizePx)
+{
+    fixedSizePx = newSizePx;
+    if (newSizePx.isValid()) {
+        const double ratio = devicePixelRatioF();
+        setFixedSize(qRound(newSizePx.width() / ratio), qRound(newSizePx.height() / ratio));
+    } else {
+        setMinimumSize(kSmallestSize);
+        setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    }
+    adoptSize();
+}
+
+QSize ViewWidget::sizePx() const
+{
+    if (fixedSizePx.isValid()) {
+        return fixedSizePx;
+    }
+    const double ratio = devicePixelRatioF();
+    return { qRound(width() * ratio), qRound(height() * ratio) };
+}
+
+QPointF ViewWidget::toLogical(const osg::Pnt2f& px) const
+{
+    const double ratio = devicePixelRatioF();
+    return { static_cast<double>(px[0]) / ratio, static_cast<double>(px[1]) / ratio };
+}
+
+void ViewWidget::adoptSize()
+{
+    const double ratio = devicePixelRatioF();
+    translator.setDevicePixelRatio(ratio);
+    renderAction.setPixelRatio(static_cast<float>(ratio));
+    pictureView.getAction().setPixelRatio(static_cast<float>(ratio));
+    const QSize size = sizePx();
+    viewStage.resize(size.width(), size.height(), static_cast<float>(ratio));
+}
+
+QImage ViewWidget::takePicture(QString& error)
+{
+    viewStage.update();
+    const QSize size = sizePx();
+    const QImage picture =
+        pictureView.render(renderWidget.getViewport(), size.width(), size.height(), kPicturePasses);
+    if (picture.isNull()) {
+        error = QStringLiteral("the view cannot be drawn: %1")
+                    .arg(QString::fromStdString(pictureView.getError()));
+    }
+    return picture;
+}
+
+void ViewWidget::showEffectBuffer(bool on)
+{
+    renderAction.showEffectBuffer(on);
+    pictureView.getAction().showEffectBuffer(on);
+    renderWidget.update();
+}
+
+QSize ViewWidget::sizeHint() const
+{
+    return kPreferredSize;
+}
+
+bool ViewWidget::event(QEvent* event)
+{
+    const QEvent::Type type = event->type();
+    const bool taken = translator.handleEvent(*event);
+    if (type == QEvent::MouseMove || type == QEvent::Leave) {
+        viewStage.gizmo().setPointerInside(type == QEvent::MouseMove);
+    }
+    if (type == QEvent::MouseMove || type == QEvent::Leave || type == QEvent::MouseButtonRelease) {
+        emit stateChanged();
+    }
+    if (taken) {
+        event->accept();
+        return true;
+    }
+    return QOpenGLWidget::event(event);
+}
+
+void ViewWidget::initializeGL()
+{
+    connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, &ViewWidget::releaseGraphics);
+    std::string reason;
+    failed = !renderAction.initialise(&reason);
+    if (failed) {
+        emit drawingFailed(
+            QStringLiteral("the view cannot be drawn: %1").arg(QString::fromStdString(reason)));
+    }
+}
+
+void ViewWidget::paintGL()
+{
+    // What update() changes belongs to this picture, so its requests for another one are answered
+    // by it.
+    viewStage.update();
+    renderWidget.redrawDone();
+    if (failed) {
+        return;
+    }
+    const QSize size = sizePx();
+    renderAction.render(renderWidget.getViewport(), size.width(), size.height(),
+                        defaultFramebufferObject());
+    emit stateChanged();
+}
+
+void ViewWidget::resizeGL(int, int)
+{
+    adoptSize();
+}
+
+void ViewWidget::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (!localFiles(event->mimeData()).isEmpty()) {
+        event->acceptProposedAction();
+    }
+}
+
+void ViewWidget::dropEvent(QDropEvent* event)
+{
+    const QStringList files = localFiles(event->mimeData());
+    if (!files.isEmpty()) {
+        event->acceptProposedAction();
+        emit filesDropped(files);
+    }
+}
+
+void ViewWidget::redrawRequested()
+{
+    update();
+}
+
+void ViewWidget::cursorChanged(Qt::CursorShape shape)
+{
+    setCursor(shape);
+}
+
+void ViewWidget::releaseGraphics()
+{
+    if (context() == nullptr) {
+        return;
+    }
+    makeCurrent();
+    renderAction.release();
+    doneCurrent();
+}
+
+}  // namespace viewer

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "viewer/core/Stage.h"
+
+#include <nbInteraction/InputTranslator.h>
+#include <nbKernel/nbOSGWidget.h>
+#include <nbOpenSGRenderAction/nbOffscreenView.h>
+#include <nbOpenSGRenderAction/nbRenderAction.h>
+
+#include <QImage>
+#include <QOpenGLWidget>
+
+namespace viewer {
+
+/// The 3D view of the window: draws the stage with OpenGL and hands it the person's input.
+/// Draws only when the render widget asked for it. Pixel ratios are converted here and in the input
+/// translator only.
+class ViewWidget : public QOpenGLWidget, private nbOSGWidget::Observer
+{
+    Q_OBJECT
+
+public:
+    explicit ViewWidget(QWidget* parent = nullptr);
+    ViewWidget(const ViewWidget&) = delete;
+    ViewWidget& operator=(const ViewWidget&) = delete;
+    ~ViewWidget() override;
+
+    Stage& stage() { return viewStage; }
+
+    /// Fixes the size of the view, device pixels; an invalid size lets the layout decide again.
+    void fixSize(const QSize& sizePx);
+
+    /// Device pixels.
+    QSize sizePx() const;
+
+    /// Logical position of a device pixel.
+    QPointF toLogical(const osg::Pnt2f& px) const;
+
+    /// Picture of the view now, at its size, with smoothed edges. Draws by itself, so that the
+    /// window need not be seen.
+    /// @return null with one line in `error`
+    QImage takePicture(QString& error);
+
+    /// Shows the effect buffer instead of the colours.
+    void showEffectBuffer(bool on);
+
+    QSize sizeHint() const override;
+
+signals:
+    /// The pointer moved, the scene was drawn, or something else that a status line shows may have
+    /// changed.
+    void stateChanged();
+    /// Drawing is not possible; one line. Comes once.
+    void drawingFailed(const QString& reason);
+    /// A file was dropped on the view.
+    void filesDropped(const QStringList& files);
+
+protected:
+    bool event(QEvent* event) override;
+    void initializeGL() override;
+    void paintGL() override;
+    void resizeGL(int width, int height) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    void redrawRequested() override;
+    void cursorChanged(Qt::CursorShape shape) override;
+    void adoptSize();
+    void releaseGraphics();
+
+    nbOSGWidget renderWidget;
+    Stage viewStage;
+    nbec::interaction::InputTranslator translator;
+    nbRenderAction renderAction;
+    nbOffscreenView pictureView;
+    QSize fixedSizePx;
+    bool failed = false;
+};
+
+}  // namespace viewer

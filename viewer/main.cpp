@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/core/CommandLine.h"
+#include "viewer/core/Session.h"
+#include "viewer/gui/MainWindow.h"
+#include "viewer/gui/StartUp.h"
+
+#include <nbKernel/nbController.h>
+#include <nbKernel/nbScenegraph.h>
+
+#include <OpenSG/OSGBaseFunctions.h>
+
+#include <QApplication>
+#include <QSurfaceFormat>
+
+#include <clocale>
+#include <cstdio>
+#include <optional>
+
+namespace {
+
+using viewer::CommandLine;
+using viewer::StartUp;
+
+constexpr const char* kVersion = "0.1.0";
+
+/// OpenGL 3.3 core for every view; the render action has samples of its own.
+void requestGraphics()
+{
+    QSurfaceFormat format;
+    format.setRenderableType(QSurfaceFormat::OpenGL);
+    format.setVersion(3, 3);
+    format.setProfile(QSurfaceFormat::CoreProfile);
+    QSurfaceFormat::setDefaultFormat(format);
+}
+
+QStringList argumentsAfterName(int argc, char** argv)
+{
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i) {
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    }
+    return arguments;
+}
+
+/// Looks through the command line before any window exists.
+/// @return an exit status if the program is to end with it
+std::optional<int> prepare(const QStringList& arguments, CommandLine& options,
+                           std::optional<viewer::Session>& session)
+{
+    QString error;
+    if (!viewer::parseCommandLine(arguments, options, error)) {
+        StartUp::complain(error);
+        return StartUp::kBadInputStatus;
+    }
+    if (options.helpWanted || options.versionWanted) {
+        std::fputs(options.helpWanted ? qPrintable(viewer::commandLineHelp()) : "nbviewer ",
+                   stdout);
+        std::fputs(options.helpWanted ? "" : kVersion, stdout);
+        std::fputs(options.helpWanted ? "" : "\n", stdout);
+        return 0;
+    }
+    if (!viewer::checkCommandLine(options, error)) {
+        StartUp::complain(error);
+        return StartUp::kBadInputStatus;
+    }
+    if (!options.session.isEmpty()) {
+        session = viewer::readSessionFile(options.session, error);
+        if (!session) {
+            StartUp::complain(error);
+            return StartUp::kBadInputStatus;
+        }
+    }
+    if (!qEnvironmentVariableIsSet("DISPLAY") && !qEnvironmentVariableIsSet("WAYLAND_DISPLAY") &&
+        !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        StartUp::complain(QStringLiteral("there is no display; ./nb run brings its own"));
+        return StartUp::kBadInputStatus;
+    }
+    return std::nullopt;
+}
+
+int runWindow(QApplication& application, const CommandLine& options,
+              const std::optional<viewer::Session>& session)
+{
+    using Attendance = viewer::MainWindow::Attendance;
+    viewer::MainWindow window(options.isUnattended() ? Attendance::Unattended
+                                                     : Attendance::Attended);
+    StartUp startUp(window, options, session);
+    startUp.run();
+    return application.exec();
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    CommandLine options;
+    std::optional<viewer::Session> session;
+    if (const std::optional<int> status =
+            prepare(argumentsAfterName(argc, argv), options, session)) {
+        return *status;
+    }
+    requestGraphics();
+    // Pictures have the size that was asked for, whatever the screen is like.
+    QCoreApplication::setAttribute(options.isUnattended() ? Qt::AA_DisableHighDpiScaling
+                                                          : Qt::AA_EnableHighDpiScaling);
+    // Qt's own options are none of this program's, so it gets the name only.
+    int qtArgc = 1;
+    QApplication application(qtArgc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("nbviewer"));
+    QCoreApplication::setOrganizationName(QStringLiteral("nbviewer"));
+    // Numbers have a point, whatever the language of the desktop.
+    std::setlocale(LC_NUMERIC, "C");
+    osg::osgInit(argc, argv);
+    const int status = runWindow(application, options, session);
+    nbController::clear();
+    nbScenegraph::clear();
+    osg::osgExit();
+    return status;
+}
