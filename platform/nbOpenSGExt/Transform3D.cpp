@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Transform3D.h"
 
-#include <nbOpenSGExt/detail/RotationMath.h>
 #include <nbOpenSGExt/nbEulerRotation.h>
 
 #include <array>
@@ -10,6 +9,16 @@
 namespace osg {
 
 NB_CONTAINER_TYPE(Transform3D, Transform, NB_TRANSFORM3D_FIELDS);
+
+namespace {
+
+template <class Value>
+bool sameBits(const Value& a, const Value& b)
+{
+    return std::memcmp(a.getValues(), b.getValues(), sizeof(Value)) == 0;
+}
+
+}  // namespace
 
 Vec3f Transform3D::getRotation() const
 {
@@ -42,24 +51,31 @@ Quaternion Transform3D::getRotationAsQuaternion() const
     if (getRotationMode() == QuaternionMode) {
         return getRotationQuaternion();
     }
-    // Angles rarely change between two edits of a part.
     const Vec3f& angles = getEulerRotation();
-    const bool cached =
-        std::memcmp(eulerCache.angles.getValues(), angles.getValues(), sizeof(Vec3f)) == 0 &&
-        eulerCache.order == getEulerRotationOrder();
-    if (!cached) {
-        eulerCache.rotation = nbEulerRotation::toQuaternion(angles, getEulerRotationOrder());
-        eulerCache.angles = angles;
-        eulerCache.order = getEulerRotationOrder();
+    if (!sameBits(cache.angles, angles) || cache.order != getEulerRotationOrder()) {
+        cache.turn = nbEulerRotation::toQuaternion(angles, getEulerRotationOrder());
+        cache.angles = angles;
+        cache.order = getEulerRotationOrder();
     }
-    return eulerCache.rotation;
+    return cache.turn;
+}
+
+const nbRotationMath::Rows& Transform3D::getWholeRotation() const
+{
+    const Quaternion turn = getRotationAsQuaternion();
+    const Quaternion& orientation = getRotationOrientation();
+    if (!sameBits(cache.rowsTurn, turn) || !sameBits(cache.rowsOrientation, orientation)) {
+        cache.rows = nbRotationMath::rotationRows(nbRotationMath::product(
+            nbRotationMath::toDouble(turn), nbRotationMath::toDouble(orientation)));
+        cache.rowsTurn = turn;
+        cache.rowsOrientation = orientation;
+    }
+    return cache.rows;
 }
 
 Matrix Transform3D::computeMatrix() const
 {
-    const nbRotationMath::Rows rotation = nbRotationMath::rotationRows(
-        nbRotationMath::product(nbRotationMath::toDouble(getRotationAsQuaternion()),
-                                nbRotationMath::toDouble(getRotationOrientation())));
+    const nbRotationMath::Rows& rotation = getWholeRotation();
     const Vec3f& pivot = getRotatePivot();
     const Vec3f& scalePivot = getScalePivot();
     const Vec3f& factors = getScale();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <nbOpenSGExt/detail/RotationMath.h>
 #include <nbUtils/nbPlatformExport.h>
 
 #include <OpenSG/OSGQuaternion.h>
@@ -56,6 +57,7 @@ public:
         EulerRotationOrderFieldMask | RotationQuaternionFieldMask | RotationModeFieldMask;
 
     /// Everything that the matrix depends on.
+    // NOLINTNEXTLINE(readability-identifier-naming): named as the masks of fields
     static constexpr BitVector PartsFieldMask = TranslationFieldMask | RotatePivotFieldMask |
         ScalePivotFieldMask | RotationFieldMask | RotationOrientationFieldMask | ScaleFieldMask;
 
@@ -72,6 +74,9 @@ public:
     /// R as a quaternion, whatever the mode.
     Quaternion getRotationAsQuaternion() const;
 
+    /// R RO as a matrix, in double. Valid until a part of the rotation changes.
+    const nbRotationMath::Rows& getWholeRotation() const;
+
     /// The matrix that the parts give now, without waiting for the end of an edit.
     Matrix computeMatrix() const;
 
@@ -79,15 +84,20 @@ public:
     void changed(BitVector whichField, UInt32 origin) override;
 
 private:
-    /// The angles' quaternion and what it was worked out from.
-    struct EulerCache
+    /// What costs most to work out, kept with what it was worked out from: most edits leave the
+    /// rotation as it is.
+    struct RotationCache
     {
         Vec3f angles { 0.f, 0.f, 0.f };
         std::string order { "xyz" };
-        Quaternion rotation;
+        Quaternion turn;  ///< by the angles
+
+        Quaternion rowsTurn;
+        Quaternion rowsOrientation;
+        nbRotationMath::Rows rows { { { 1.0, 0.0, 0.0 }, { 0.0, 1.0, 0.0 }, { 0.0, 0.0, 1.0 } } };
     };
 
-    mutable EulerCache eulerCache;
+    mutable RotationCache cache;
 };
 
 }  // namespace osg

@@ -71,12 +71,74 @@ struct HalfTurn
     double cosine = 1.0;
 };
 
-HalfTurn halfTurn(double angleRad)
+HalfTurn halfTurnRad(double angleRad)
 {
     if (angleRad == 0.0) {
         return {};
     }
     return { std::sin(0.5 * angleRad), std::cos(0.5 * angleRad) };
+}
+
+/// Sine and cosine of half an angle in degrees, to 1e-11: far below what a float keeps, and quick.
+/// The angle is reduced in degrees, which is exact, so that half turns come out exact too. The rest
+/// is at most a quarter of pi; there the series end with x^11 / 11! and x^12 / 12!.
+HalfTurn halfTurnDeg(double angleDeg)
+{
+    constexpr double kLargest = 1e6;
+    const double half =
+        0.5 * (std::fabs(angleDeg) < kLargest ? angleDeg : std::fmod(angleDeg, 720.0));
+    if (!std::isfinite(half)) {
+        return { half - half, half - half };
+    }
+    const double quarters = std::nearbyint(half / 90.0);
+    const double x = kRadPerDeg * (half - 90.0 * quarters);
+    const double xx = x * x;
+    const double sine = x *
+        (1.0 +
+         xx *
+             (-1.0 / 6 +
+              xx *
+                  (1.0 / 120 + xx * (-1.0 / 5040 + xx * (1.0 / 362880 + xx * (-1.0 / 39916800))))));
+    const double cosine = 1.0 +
+        xx *
+            (-1.0 / 2 +
+             xx *
+                 (1.0 / 24 +
+                  xx *
+                      (-1.0 / 720 +
+                       xx * (1.0 / 40320 + xx * (-1.0 / 3628800 + xx * (1.0 / 479001600))))));
+    switch (static_cast<long>(quarters) & 3) {
+    case 0:
+        return { sine, cosine };
+    case 1:
+        return { cosine, -sine };
+    case 2:
+        return { -sine, -cosine };
+    default:
+        return { -cosine, sine };
+    }
+}
+
+/// The product qk qj qi of three turns about the axes of an order, multiplied out.
+/// @param turns  about x, y, z
+osg::Quaterniond product(const std::array<HalfTurn, 3>& turns, const nbEulerRotation::Order& order)
+{
+    const auto [i, j, k] = order.axes;
+    const double e = order.sign;
+    const HalfTurn& first = turns[i];
+    const HalfTurn& middle = turns[j];
+    const HalfTurn& last = turns[k];
+    const double cosines = first.cosine * middle.cosine;
+    const double sines = first.sine * middle.sine;
+    const double firstOnly = first.sine * middle.cosine;
+    const double middleOnly = first.cosine * middle.sine;
+    std::array<double, 3> axis {};
+    axis[i] = firstOnly * last.cosine - e * middleOnly * last.sine;
+    axis[j] = middleOnly * last.cosine + e * firstOnly * last.sine;
+    axis[k] = cosines * last.sine - e * sines * last.cosine;
+    osg::Quaterniond result;
+    result.setValueAsQuat(axis[0], axis[1], axis[2], cosines * last.cosine + e * sines * last.sine);
+    return result;
 }
 
 }  // namespace
@@ -103,33 +165,17 @@ const nbEulerRotation::Order& nbEulerRotation::getOrder(int order)
 
 osg::Quaterniond nbEulerRotation::toQuaternion(const std::array<double, 3>& anglesRad, int order)
 {
-    // The product qk qj qi of the three turns, multiplied out.
-    const Order& parsed = getOrder(order);
-    const auto [i, j, k] = parsed.axes;
-    const double e = parsed.sign;
-    const HalfTurn first = halfTurn(anglesRad[i]);
-    const HalfTurn middle = halfTurn(anglesRad[j]);
-    const HalfTurn last = halfTurn(anglesRad[k]);
-    const double cosines = first.cosine * middle.cosine;
-    const double sines = first.sine * middle.sine;
-    const double firstOnly = first.sine * middle.cosine;
-    const double middleOnly = first.cosine * middle.sine;
-    std::array<double, 3> axis {};
-    axis[i] = firstOnly * last.cosine - e * middleOnly * last.sine;
-    axis[j] = middleOnly * last.cosine + e * firstOnly * last.sine;
-    axis[k] = cosines * last.sine - e * sines * last.cosine;
-    osg::Quaterniond result;
-    result.setValueAsQuat(axis[0], axis[1], axis[2], cosines * last.cosine + e * sines * last.sine);
-    return result;
+    return product(
+        { halfTurnRad(anglesRad[0]), halfTurnRad(anglesRad[1]), halfTurnRad(anglesRad[2]) },
+        getOrder(order));
 }
 
 osg::Quaternion nbEulerRotation::toQuaternion(const osg::Vec3f& anglesDeg, const std::string& order)
 {
-    const osg::Quaterniond exact = toQuaternion({ kRadPerDeg * static_cast<double>(anglesDeg[0]),
-                                                  kRadPerDeg * static_cast<double>(anglesDeg[1]),
-                                                  kRadPerDeg * static_cast<double>(anglesDeg[2]) },
-                                                getOrderNumber(order));
-    return nbRotationMath::toFloat(exact);
+    return nbRotationMath::toFloat(product({ halfTurnDeg(static_cast<double>(anglesDeg[0])),
+                                             halfTurnDeg(static_cast<double>(anglesDeg[1])),
+                                             halfTurnDeg(static_cast<double>(anglesDeg[2])) },
+                                           getOrder(getOrderNumber(order))));
 }
 
 std::array<double, 3> nbEulerRotation::fromQuaternion(const osg::Quaterniond& rotation, int order)

@@ -10,7 +10,8 @@ using nbTransformMath::Vec3d;
 
 namespace {
 
-using Compensation = Vec3d (*)(const nbTransformState&, const Vec3d&);
+using Compensation = Vec3d (*)(const nbTransformState&, const nbTransformMath::Matrix3d&,
+                               const Vec3d&);
 
 osg::Transform3DPtr transformOf(const osg::NodePtr& node)
 {
@@ -24,8 +25,9 @@ osg::Vec3f compensated(const osg::Transform3DPtr& core, const osg::Vec3f& from,
 {
     const nbTransformState state = nbTransformState::of(*core);
     const Vec3d delta = nbTransformMath::toDouble(to) - nbTransformMath::toDouble(from);
-    return nbTransformMath::toFloat(nbTransformMath::toDouble(state.translation) +
-                                    compensation(state, delta));
+    return nbTransformMath::toFloat(
+        nbTransformMath::toDouble(state.translation) +
+        compensation(state, nbTransformMath::wholeRotation(*core), delta));
 }
 
 void announce(const osg::Transform3DPtr& core)

@@ -55,27 +55,27 @@ public:
 
     /// The frame that places of a target are given in, as seen from the space of the call: for
     /// local space the identity.
-    const nbTransformMath::Frame& of(const osg::NodePtr& node)
+    /// @param edited  the target's core; null if it is not edited
+    const nbTransformMath::Frame& of(const osg::NodePtr& node, const Transform3DPtr& edited)
     {
         const osg::NodePtr parent = isWorld ? node->getParent() : osg::NodePtr();
         if (parent == osg::NullFC) {
             return identity;
         }
-        // Compared, not kept by parent: targets above may have moved it since.
-        const osg::Matrix matrix = parent->getToWorld();
-        const bool isKnown =
-            std::memcmp(matrix.getValues(), known.getValues(), 16 * sizeof(osg::Real32)) == 0;
-        if (!isKnown) {
-            known = matrix;
-            frame = nbTransformMath::Frame::of(matrix);
+        if (parent != knownParent) {
+            frame = nbTransformMath::Frame::of(parent->getToWorld());
         }
+        // The target is no ancestor of its own parent, so that editing it leaves the frame as it
+        // is, unless its core is that of other nodes too.
+        const bool staysKnown = edited != osg::NullFC && edited->getParents().getSize() == 1;
+        knownParent = staysKnown ? parent : osg::NodePtr();
         return frame;
     }
 
 private:
     bool isWorld;
     nbTransformMath::Frame identity;
-    osg::Matrix known;
+    osg::NodePtr knownParent;
     nbTransformMath::Frame frame;
 };
 
@@ -160,12 +160,11 @@ struct Base
 
 Base baseOf(const Subject& subject, EditKind kind)
 {
-    const nbTransformState present = nbTransformState::of(*subject.core);
     const nbTransformEntry* const entry = subject.entry;
     const bool isStart = entry != nullptr &&
-        (present.isSame(entry->start) ||
-         (entry->writtenKind == kind && present.isSame(entry->written)));
-    return { isStart ? entry->start : present, isStart };
+        (entry->start.isSame(*subject.core) ||
+         (entry->writtenKind == kind && entry->written.isSame(*subject.core)));
+    return { isStart ? entry->start : nbTransformState::of(*subject.core), isStart };
 }
 
 /// Notes what an edit of a kind left, for the next baseOf.
@@ -184,8 +183,9 @@ void noteWritten(const Subject& subject, EditKind kind, const Base& base)
 struct PivotKind
 {
     EditKind kind;
-    Vec3d (*place)(const nbTransformState&);
-    nbTransformMath::MovedPivot (*move)(const nbTransformState&, const Vec3d&);
+    Vec3d (*place)(const nbTransformState&, const nbTransformMath::Matrix3d&);
+    nbTransformMath::MovedPivot (*move)(const nbTransformState&, const nbTransformMath::Matrix3d&,
+                                        const Vec3d&);
     Vec3f nbTransformState::*pivot;
     void (Transform3D::*set)(const Vec3f&);
     osg::BitVector mask;
@@ -212,12 +212,14 @@ bool movePivot(const PivotKind& kind, const Subject& subject, const nbTransformM
         return false;
     }
     const Base base = baseOf(subject, kind.kind);
-    const Vec3d start = kind.place(base.state);
+    // Edits of a kind leave the rotation as it was at the start.
+    const nbTransformMath::Matrix3d rotation = nbTransformMath::wholeRotation(*subject.core);
+    const Vec3d start = kind.place(base.state, rotation);
     Vec3f translation = base.state.translation;
     Vec3f pivot = base.state.*kind.pivot;
     if (!isSame(value, toFloat(frame.toOuter(start)))) {
         const nbTransformMath::MovedPivot moved =
-            kind.move(base.state, frame.toInner(toDouble(value)) - start);
+            kind.move(base.state, rotation, frame.toInner(toDouble(value)) - start);
         translation = toFloat(moved.translation);
         pivot = toFloat(moved.pivot);
     }
@@ -238,10 +240,10 @@ osg::UInt32 movePivots(const PivotKind& kind, const char* title, osg::UInt32 cou
                        nbTransformModel::ValueFunction places)
 {
     ParentFrames frames(worldSpace);
-    return editAll(title, count, places,
-                   [&](const Subject& subject, const Vec3f& value, Faults& faults) {
-                       return movePivot(kind, subject, frames.of(subject.node), value, faults);
-                   });
+    return editAll(
+        title, count, places, [&](const Subject& subject, const Vec3f& value, Faults& faults) {
+            return movePivot(kind, subject, frames.of(subject.node, subject.core), value, faults);
+        });
 }
 
 bool moveInWorld(const Subject& subject, const nbTransformMath::Frame& frame, const Vec3f& value,
@@ -287,6 +289,15 @@ void setTurn(const Subject& subject, const Vec3f& anglesDeg)
     }
 }
 
+/// R of a state, rounded to float as in the core's matrix.
+osg::Quaterniond turnOf(const nbTransformState& state)
+{
+    return nbRotationMath::toDouble(
+        state.rotationMode == Transform3D::QuaternionMode
+            ? state.rotationQuaternion
+            : nbEulerRotation::toQuaternion(state.eulerRotation, state.eulerRotationOrder));
+}
+
 /// The orientation with which the whole rotation of a state stays under another turn.
 osg::Quaternion compensatingOrientation(const nbTransformState& state, const osg::Quaternion& turn)
 {
@@ -294,7 +305,7 @@ osg::Quaternion compensatingOrientation(const nbTransformState& state, const osg
     back.invert();
     osg::Quaterniond orientation = nbRotationMath::product(
         back,
-        nbRotationMath::product(nbTransformMath::pivotRotation(state),
+        nbRotationMath::product(turnOf(state),
                                 nbRotationMath::toDouble(state.rotationOrientation)));
     orientation.normalize();
     return nbRotationMath::toFloat(orientation);
@@ -333,7 +344,7 @@ void assignStep(double& step, double value, const char* what)
 Vec3f inSpace(const osg::NodePtr& node, bool worldSpace, const Vec3d& place)
 {
     ParentFrames frames(worldSpace && node != osg::NullFC);
-    return toFloat(frames.of(node).toOuter(place));
+    return toFloat(frames.of(node, osg::NullFC).toOuter(place));
 }
 
 Transform3DPtr findTransform(const osg::NodePtr& node)
@@ -363,10 +374,10 @@ osg::UInt32 nbTransformModel::setTranslation(osg::UInt32 count, bool worldSpace,
                        });
     }
     ParentFrames frames(true);
-    return editAll(kMoveTitle, count, values,
-                   [&](const Subject& subject, const Vec3f& value, Faults& faults) {
-                       return moveInWorld(subject, frames.of(subject.node), value, faults);
-                   });
+    return editAll(
+        kMoveTitle, count, values, [&](const Subject& subject, const Vec3f& value, Faults& faults) {
+            return moveInWorld(subject, frames.of(subject.node, subject.core), value, faults);
+        });
 }
 
 osg::UInt32 nbTransformModel::setRotation(osg::UInt32 count, ValueFunction anglesDeg)
@@ -432,7 +443,9 @@ Vec3f nbTransformModel::getScalePivot(const osg::NodePtr& node, bool worldSpace)
         // Both pivots are one.
         return getRotationPivot(node, worldSpace);
     }
-    return inSpace(node, worldSpace, nbTransformMath::scalePivotPlace(nbTransformState::of(*core)));
+    return inSpace(node, worldSpace,
+                   nbTransformMath::scalePivotPlace(nbTransformState::of(*core),
+                                                    nbTransformMath::wholeRotation(*core)));
 }
 
 // == Steps of snapping
