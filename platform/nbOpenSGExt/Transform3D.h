@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <nbOpenSGExt/detail/RotationMath.h>
 #include <nbUtils/nbPlatformExport.h>
 
 #include <OpenSG/OSGQuaternion.h>
@@ -55,6 +56,11 @@ public:
     static constexpr BitVector RotationFieldMask = EulerRotationFieldMask |
         EulerRotationOrderFieldMask | RotationQuaternionFieldMask | RotationModeFieldMask;
 
+    /// Everything that the matrix depends on.
+    // NOLINTNEXTLINE(readability-identifier-naming): named as the masks of fields
+    static constexpr BitVector PartsFieldMask = TranslationFieldMask | RotatePivotFieldMask |
+        ScalePivotFieldMask | RotationFieldMask | RotationOrientationFieldMask | ScaleFieldMask;
+
     /// R as angles about x, y, z in degrees, in the core's order, whatever the mode.
     Vec3f getRotation() const;
 
@@ -68,11 +74,30 @@ public:
     /// R as a quaternion, whatever the mode.
     Quaternion getRotationAsQuaternion() const;
 
+    /// R RO as a matrix, in double. Valid until a part of the rotation changes.
+    const nbRotationMath::Rows& getWholeRotation() const;
+
     /// The matrix that the parts give now, without waiting for the end of an edit.
     Matrix computeMatrix() const;
 
     /// Rebuilds the matrix when one of the parts has changed.
     void changed(BitVector whichField, UInt32 origin) override;
+
+private:
+    /// What costs most to work out, kept with what it was worked out from: most edits leave the
+    /// rotation as it is.
+    struct RotationCache
+    {
+        Vec3f angles { 0.f, 0.f, 0.f };
+        std::string order { "xyz" };
+        Quaternion turn;  ///< by the angles
+
+        Quaternion rowsTurn;
+        Quaternion rowsOrientation;
+        nbRotationMath::Rows rows { { { 1.0, 0.0, 0.0 }, { 0.0, 1.0, 0.0 }, { 0.0, 0.0, 1.0 } } };
+    };
+
+    mutable RotationCache cache;
 };
 
 }  // namespace osg

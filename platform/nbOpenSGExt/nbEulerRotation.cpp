@@ -1,123 +1,194 @@
 // SPDX-License-Identifier: MIT
 #include "nbEulerRotation.h"
 
-#include <OpenSG/OSGMatrix.h>
+#include <nbOpenSGExt/detail/RotationMath.h>
 
-#include <algorithm>
-#include <array>
 #include <cctype>
 #include <cmath>
 
 namespace {
 
 constexpr double kRadPerDeg = 3.14159265358979323846 / 180.0;
-constexpr double kGimbalCosine = 1e-6;
+constexpr double kFloatGimbalCosine = 1e-6;
+constexpr double kDoubleGimbalCosine = 1e-10;
 
-/// The three axes in the order of turning; sign is +1 for a cyclic order, -1 for the others.
-struct AxisOrder
+struct NamedOrder
 {
-    std::array<int, 3> axes { 0, 1, 2 };
-    double sign = 1.0;
+    const char* name;
+    nbEulerRotation::Order order;
 };
 
-AxisOrder parseOrder(const std::string& order)
+constexpr std::array<NamedOrder, nbEulerRotation::kOrderCount> kOrders { {
+    { "xyz", { { 0, 1, 2 }, 1.0 } },
+    { "yzx", { { 1, 2, 0 }, 1.0 } },
+    { "zxy", { { 2, 0, 1 }, 1.0 } },
+    { "xzy", { { 0, 2, 1 }, -1.0 } },
+    { "yxz", { { 1, 0, 2 }, -1.0 } },
+    { "zyx", { { 2, 1, 0 }, -1.0 } },
+} };
+
+const NamedOrder& namedOrder(int order)
 {
-    AxisOrder result;
+    return kOrders[order > 0 && order < nbEulerRotation::kOrderCount
+                       ? static_cast<std::size_t>(order)
+                       : 0];
+}
+
+bool isSameText(const char* name, const std::string& order)
+{
     if (order.size() != 3) {
-        return result;
+        return false;
     }
-    std::array<int, 3> axes {};
-    for (std::size_t i = 0; i < axes.size(); ++i) {
-        axes[i] = std::tolower(static_cast<unsigned char>(order[i])) - 'x';
+    for (std::size_t i = 0; i < 3; ++i) {
+        if (name[i] != order[i] && name[i] != std::tolower(static_cast<unsigned char>(order[i]))) {
+            return false;
+        }
     }
-    std::array<int, 3> sorted = axes;
-    std::sort(sorted.begin(), sorted.end());
-    if (sorted != std::array<int, 3> { 0, 1, 2 }) {
-        return result;
-    }
-    result.axes = axes;
-    result.sign = (axes[1] - axes[0] + 3) % 3 == 1 ? 1.0 : -1.0;
-    return result;
+    return true;
 }
 
-struct DoubleQuaternion
+using nbRotationMath::Rows;
+
+/// With R = Rk(c) Rj(b) Ri(a) and e = +-1 for the order's parity, the elements are R_ki = -e sin b,
+/// R_kj = e cos b sin a, R_kk = cos b cos a, R_ji = e cos b sin c, R_ii = cos b cos c.
+std::array<double, 3> anglesOf(const Rows& r, int order, double gimbalCosine)
 {
-    std::array<double, 3> xyz { 0.0, 0.0, 0.0 };
-    double w = 1.0;
+    const nbEulerRotation::Order& axes = nbEulerRotation::getOrder(order);
+    const auto [i, j, k] = axes.axes;
+    const double e = axes.sign;
+    const double cosine = std::hypot(r[i][i], r[j][i]);
+    const bool locked = cosine < gimbalCosine;
+    std::array<double, 3> anglesRad {};
+    anglesRad[i] = locked ? std::atan2(-e * r[j][k], r[j][j]) : std::atan2(e * r[k][j], r[k][k]);
+    anglesRad[j] = std::atan2(-e * r[k][i], cosine);
+    anglesRad[k] = locked ? 0.0 : std::atan2(e * r[j][i], r[i][i]);
+    return anglesRad;
+}
+
+struct HalfTurn
+{
+    double sine = 0.0;
+    double cosine = 1.0;
 };
 
-/// a * b: b turns first.
-DoubleQuaternion product(const DoubleQuaternion& a, const DoubleQuaternion& b)
+HalfTurn halfTurnRad(double angleRad)
 {
-    DoubleQuaternion result;
-    for (std::size_t i = 0; i < 3; ++i) {
-        const std::size_t j = (i + 1) % 3;
-        const std::size_t k = (i + 2) % 3;
-        result.xyz[i] = a.w * b.xyz[i] + a.xyz[i] * b.w + a.xyz[j] * b.xyz[k] - a.xyz[k] * b.xyz[j];
+    if (angleRad == 0.0) {
+        return {};
     }
-    result.w = a.w * b.w - a.xyz[0] * b.xyz[0] - a.xyz[1] * b.xyz[1] - a.xyz[2] * b.xyz[2];
-    return result;
+    return { std::sin(0.5 * angleRad), std::cos(0.5 * angleRad) };
 }
 
-using Rows = std::array<std::array<double, 3>, 3>;
-
-/// Rotation matrix, rows as written on paper; a quaternion of another length is scaled to unit
-/// first.
-Rows rotationRows(const osg::Quaternion& q)
+/// Sine and cosine of half an angle in degrees, to 1e-11: far below what a float keeps, and quick.
+/// The angle is reduced in degrees, which is exact, so that half turns come out exact too. The rest
+/// is at most a quarter of pi; there the series end with x^11 / 11! and x^12 / 12!.
+HalfTurn halfTurnDeg(double angleDeg)
 {
-    const double x = q.x();
-    const double y = q.y();
-    const double z = q.z();
-    const double w = q.w();
-    const double lengthSquared = x * x + y * y + z * z + w * w;
-    const double s = lengthSquared > 0.0 ? 2.0 / lengthSquared : 0.0;
-    return { { { 1.0 - s * (y * y + z * z), s * (x * y - w * z), s * (x * z + w * y) },
-               { s * (x * y + w * z), 1.0 - s * (x * x + z * z), s * (y * z - w * x) },
-               { s * (x * z - w * y), s * (y * z + w * x), 1.0 - s * (x * x + y * y) } } };
+    constexpr double kLargest = 1e6;
+    const double half =
+        0.5 * (std::fabs(angleDeg) < kLargest ? angleDeg : std::fmod(angleDeg, 720.0));
+    if (!std::isfinite(half)) {
+        return { half - half, half - half };
+    }
+    const double quarters = std::nearbyint(half / 90.0);
+    const double x = kRadPerDeg * (half - 90.0 * quarters);
+    const double xx = x * x;
+    const double sine = x *
+        (1.0 +
+         xx *
+             (-1.0 / 6 +
+              xx *
+                  (1.0 / 120 + xx * (-1.0 / 5040 + xx * (1.0 / 362880 + xx * (-1.0 / 39916800))))));
+    const double cosine = 1.0 +
+        xx *
+            (-1.0 / 2 +
+             xx *
+                 (1.0 / 24 +
+                  xx *
+                      (-1.0 / 720 +
+                       xx * (1.0 / 40320 + xx * (-1.0 / 3628800 + xx * (1.0 / 479001600))))));
+    switch (static_cast<long>(quarters) & 3) {
+    case 0:
+        return { sine, cosine };
+    case 1:
+        return { cosine, -sine };
+    case 2:
+        return { -sine, -cosine };
+    default:
+        return { -cosine, sine };
+    }
+}
+
+/// The product qk qj qi of three turns about the axes of an order, multiplied out.
+/// @param turns  about x, y, z
+osg::Quaterniond product(const std::array<HalfTurn, 3>& turns, const nbEulerRotation::Order& order)
+{
+    const auto [i, j, k] = order.axes;
+    const double e = order.sign;
+    const HalfTurn& first = turns[i];
+    const HalfTurn& middle = turns[j];
+    const HalfTurn& last = turns[k];
+    const double cosines = first.cosine * middle.cosine;
+    const double sines = first.sine * middle.sine;
+    const double firstOnly = first.sine * middle.cosine;
+    const double middleOnly = first.cosine * middle.sine;
+    std::array<double, 3> axis {};
+    axis[i] = firstOnly * last.cosine - e * middleOnly * last.sine;
+    axis[j] = middleOnly * last.cosine + e * firstOnly * last.sine;
+    axis[k] = cosines * last.sine - e * sines * last.cosine;
+    osg::Quaterniond result;
+    result.setValueAsQuat(axis[0], axis[1], axis[2], cosines * last.cosine + e * sines * last.sine);
+    return result;
 }
 
 }  // namespace
 
+int nbEulerRotation::getOrderNumber(const std::string& order)
+{
+    for (std::size_t i = 0; i < kOrders.size(); ++i) {
+        if (isSameText(kOrders[i].name, order)) {
+            return static_cast<int>(i);
+        }
+    }
+    return 0;
+}
+
+const char* nbEulerRotation::getOrderName(int order)
+{
+    return namedOrder(order).name;
+}
+
+const nbEulerRotation::Order& nbEulerRotation::getOrder(int order)
+{
+    return namedOrder(order).order;
+}
+
+osg::Quaterniond nbEulerRotation::toQuaternion(const std::array<double, 3>& anglesRad, int order)
+{
+    return product(
+        { halfTurnRad(anglesRad[0]), halfTurnRad(anglesRad[1]), halfTurnRad(anglesRad[2]) },
+        getOrder(order));
+}
+
 osg::Quaternion nbEulerRotation::toQuaternion(const osg::Vec3f& anglesDeg, const std::string& order)
 {
-    const AxisOrder parsed = parseOrder(order);
-    DoubleQuaternion rotation;
-    for (const int axis : parsed.axes) {
-        const double half = 0.5 * kRadPerDeg * static_cast<double>(anglesDeg.getValues()[axis]);
-        DoubleQuaternion step;
-        step.xyz[static_cast<std::size_t>(axis)] = std::sin(half);
-        step.w = std::cos(half);
-        rotation = product(step, rotation);
-    }
-    osg::Quaternion result;
-    result.setValueAsQuat(
-        static_cast<osg::Real32>(rotation.xyz[0]), static_cast<osg::Real32>(rotation.xyz[1]),
-        static_cast<osg::Real32>(rotation.xyz[2]), static_cast<osg::Real32>(rotation.w));
-    return result;
+    return nbRotationMath::toFloat(product({ halfTurnDeg(static_cast<double>(anglesDeg[0])),
+                                             halfTurnDeg(static_cast<double>(anglesDeg[1])),
+                                             halfTurnDeg(static_cast<double>(anglesDeg[2])) },
+                                           getOrder(getOrderNumber(order))));
+}
+
+std::array<double, 3> nbEulerRotation::fromQuaternion(const osg::Quaterniond& rotation, int order)
+{
+    return anglesOf(nbRotationMath::rotationRows(rotation), order, kDoubleGimbalCosine);
 }
 
 osg::Vec3f nbEulerRotation::fromQuaternion(const osg::Quaternion& rotation,
                                            const std::string& order)
 {
-    // With R = Rk(c) Rj(b) Ri(a) and e = +-1 for the order's parity, the elements are
-    // R_ki = -e sin b, R_kj = e cos b sin a, R_kk = cos b cos a, R_ji = e cos b sin c, R_ii = cos b
-    // cos c.
-    const AxisOrder parsed = parseOrder(order);
-    const auto i = static_cast<std::size_t>(parsed.axes[0]);
-    const auto j = static_cast<std::size_t>(parsed.axes[1]);
-    const auto k = static_cast<std::size_t>(parsed.axes[2]);
-    const double e = parsed.sign;
-    const Rows r = rotationRows(rotation);
-    const double cosine = std::hypot(r[i][i], r[j][i]);
-    const bool locked = cosine < kGimbalCosine;
-    const double first =
-        locked ? std::atan2(-e * r[j][k], r[j][j]) : std::atan2(e * r[k][j], r[k][k]);
-    const double middle = std::atan2(-e * r[k][i], cosine);
-    const double last = locked ? 0.0 : std::atan2(e * r[j][i], r[i][i]);
-    std::array<double, 3> anglesRad {};
-    anglesRad[i] = first;
-    anglesRad[j] = middle;
-    anglesRad[k] = last;
+    const std::array<double, 3> anglesRad =
+        anglesOf(nbRotationMath::rotationRows(nbRotationMath::toDouble(rotation)),
+                 getOrderNumber(order), kFloatGimbalCosine);
     return { static_cast<osg::Real32>(anglesRad[0] / kRadPerDeg),
              static_cast<osg::Real32>(anglesRad[1] / kRadPerDeg),
              static_cast<osg::Real32>(anglesRad[2] / kRadPerDeg) };

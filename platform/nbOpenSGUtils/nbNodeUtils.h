@@ -61,6 +61,17 @@ public:
     static osg::Vec3f getTransformNodeRotatePivot(const osg::NodePtr& node);
     static osg::Vec3f getTransformNodeScalePivot(const osg::NodePtr& node);
 
+    /// Sets a pivot of the node's Transform3D core, a point in the object's own coordinates.
+    /// Can be undone where edits are recorded, see nbEditRecorder.
+    /// @param keepInPlace  true: the translation changes with it, so that the object stays; false:
+    /// only the pivot changes
+    /// @param index  which transform of the node, for nodes with several; nodes here have one, -1
+    /// @return false, and nothing has changed, for another core and for values that are not finite
+    static bool setTransformNodeRotatePivot(const osg::NodePtr& node, float x, float y, float z,
+                                            bool keepInPlace, int index);
+    static bool setTransformNodeScalePivot(const osg::NodePtr& node, float x, float y, float z,
+                                           bool keepInPlace, int index);
+
     /// Bounds, in world space, of the active geometry in the node's subtree that is not marked as
     /// auxiliary (marks of the node's ancestors do not count); empty if there is none.
     static osg::BoxVolume getWorldBounds(const osg::NodePtr& node);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <nbOpenSGExt/Transform3D.h>
 #include <nbOpenSGUtils/nbEdit.h>
+#include <nbOpenSGUtils/nbEditRecorder.h>
 
 #include <OpenSG/OSGComponentTransform.h>
 #include <OpenSG/OSGRefPtr.h>
@@ -160,7 +161,7 @@ void copyParts(const osg::ComponentTransformPtr& source, const osg::Transform3DP
 
 /// Puts a new child between a node and its children; the core of the child keeps the children's
 /// place.
-void insertOnlyChild(const osg::NodePtr& node, const osg::NodeCorePtr& childCore)
+osg::NodePtr insertOnlyChild(const osg::NodePtr& node, const osg::NodeCorePtr& childCore)
 {
     const osg::NodePtr child = osg::Node::create();
     {
@@ -171,12 +172,14 @@ void insertOnlyChild(const osg::NodePtr& node, const osg::NodeCorePtr& childCore
         }
     }
     node->addChild(child);
+    return child;
 }
 
 /// Splits a matrix into target and, where it has a shear, a Transform above the node's children.
 /// With the pivot c the matrix is T(translation) T(c) A T(-c).
-void splitMatrix(const osg::NodePtr& node, const osg::Matrix& matrix, const osg::Vec3f& pivot,
-                 const osg::Transform3DPtr& target)
+/// @return the new child, or null
+osg::NodePtr splitMatrix(const osg::NodePtr& node, const osg::Matrix& matrix,
+                         const osg::Vec3f& pivot, const osg::Transform3DPtr& target)
 {
     const Factors factors = factorise(matrix);
     osg::Vec3f movedPivot;
@@ -189,7 +192,7 @@ void splitMatrix(const osg::NodePtr& node, const osg::Matrix& matrix, const osg:
                                 static_cast<osg::Real32>(factors.scale[1]),
                                 static_cast<osg::Real32>(factors.scale[2])));
     if (!factors.hasShear()) {
-        return;
+        return osg::NullFC;
     }
     osg::Matrix shear = toMatrix(factors.shear);
     osg::Vec3f shearedPivot;
@@ -200,7 +203,7 @@ void splitMatrix(const osg::NodePtr& node, const osg::Matrix& matrix, const osg:
         const nbEdit edit(rest, osg::Transform::MatrixFieldMask);
         rest->setMatrix(shear);
     }
-    insertOnlyChild(node, rest);
+    return insertOnlyChild(node, rest);
 }
 
 }  // namespace
@@ -210,25 +213,30 @@ osg::NodePtr nbNodeUtils::convertToTransform3DNode(const osg::NodePtr& node)
     if (node == osg::NullFC || osg::Transform3DPtr::dcast(node->getCore()) != osg::NullFC) {
         return node;
     }
-    const osg::RefPtr<osg::NodeCorePtr> old(node->getCore());
     const osg::Transform3DPtr core = osg::Transform3D::create();
-    const nbEdit nodeEdit(node, osg::Node::CoreFieldMask | osg::Node::ChildrenFieldMask);
+    nbNodeConversion conversion;
+    conversion.node = node;
+    conversion.oldCore = node->getCore();
+    conversion.newCore = core;
+    const auto components = osg::ComponentTransformPtr::dcast(conversion.oldCore.get());
+    const auto transform = osg::TransformPtr::dcast(conversion.oldCore.get());
     {
+        const nbEdit nodeEdit(node, osg::Node::CoreFieldMask | osg::Node::ChildrenFieldMask);
         const nbEdit edit(core, osg::FieldBits::AllFields);
-        const auto components = osg::ComponentTransformPtr::dcast(old.get());
-        const auto transform = osg::TransformPtr::dcast(old.get());
         if (components != osg::NullFC && scalesAlongAxes(components)) {
             copyParts(components, core);
         } else if (transform != osg::NullFC) {
             const osg::Vec3f pivot =
                 components == osg::NullFC ? osg::Vec3f(0.f, 0.f, 0.f) : components->getCenter();
-            splitMatrix(node, transform->getMatrix(), pivot, core);
+            conversion.insertedChild = splitMatrix(node, transform->getMatrix(), pivot, core);
+        }
+        node->setCore(core);
+        if (conversion.oldCore.get() != osg::NullFC && transform == osg::NullFC) {
+            conversion.insertedChild = insertOnlyChild(node, conversion.oldCore.get());
         }
     }
-    const bool isTransform = osg::TransformPtr::dcast(old.get()) != osg::NullFC;
-    node->setCore(core);
-    if (old.get() != osg::NullFC && !isTransform) {
-        insertOnlyChild(node, old.get());
+    if (nbEditRecorder* const recorder = nbEditRecorder::get(); recorder != nullptr) {
+        recorder->nodeConverted(conversion);
     }
     return node;
 }

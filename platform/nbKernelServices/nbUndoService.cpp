@@ -1,0 +1,298 @@
+// SPDX-License-Identifier: MIT
+#include "nbUndoService.h"
+
+#include <nbKernelServices/detail/ConversionRecord.h>
+#include <nbKernelServices/detail/OpenStep.h>
+#include <nbOpenSGUtils/nbEditRecorder.h>
+
+#include <QtWidgets/QUndoStack>
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace {
+
+/// Whether edits are being made to restore a state, and how often that has been done.
+struct RestoreState
+{
+    bool isActive = false;
+    osg::UInt64 count = 0;
+};
+
+/// Time in which edits restore a state.
+class Restoring
+{
+public:
+    [[nodiscard]] explicit Restoring(RestoreState& wanted)
+        : state(wanted)
+    {
+        state.isActive = true;
+        ++state.count;
+    }
+
+    ~Restoring() { state.isActive = false; }
+
+    Restoring(const Restoring&) = delete;
+    Restoring& operator=(const Restoring&) = delete;
+
+private:
+    RestoreState& state;
+};
+
+/// One step on the stack. Its edits have been made already when it gets there.
+class StepCommand : public QUndoCommand
+{
+public:
+    StepCommand(const QString& title, StepRecords&& done, RestoreState& state)
+        : QUndoCommand(title)
+        , records(std::move(done))
+        , restoreState(state)
+    { }
+
+    void undo() override
+    {
+        const Restoring restoring(restoreState);
+        undoAll(records);
+        isDone = false;
+    }
+
+    void redo() override
+    {
+        if (isDone) {
+            return;
+        }
+        const Restoring restoring(restoreState);
+        redoAll(records);
+        isDone = true;
+    }
+
+private:
+    StepRecords records;
+    RestoreState& restoreState;
+    bool isDone = true;
+};
+
+/// How a group ends.
+enum class GroupEnd
+{
+    None,
+    Keep,
+    Cancel
+};
+
+}  // namespace
+
+struct nbUndoService::Internals final : public nbEditRecorder
+{
+    // Outlives the stack, whose steps refer to it.
+    RestoreState restoreState;
+    QUndoStack stack;
+    OpenStep step;
+    /// Records that are no step alone, for the next step.
+    StepRecords waiting;
+    int openScopes = 0;
+    int mutedScopes = 0;
+    bool isGroupOpen = false;
+    /// Asked for while a scope is open.
+    GroupEnd pendingEnd = GroupEnd::None;
+
+    bool isIdle() const { return openScopes == 0 && !isGroupOpen && !restoreState.isActive; }
+
+    bool isRecording() const
+    {
+        return (openScopes > 0 || isGroupOpen) && mutedScopes == 0 && !restoreState.isActive;
+    }
+
+    void transformChanges(const osg::Transform3DPtr& core) override
+    {
+        if (isRecording()) {
+            step.getTransforms().note(core);
+        }
+    }
+
+    void nodeConverted(const nbNodeConversion& conversion) override
+    {
+        if (mutedScopes > 0 || restoreState.isActive) {
+            return;
+        }
+        auto record = std::make_unique<ConversionRecord>(conversion);
+        if (isRecording()) {
+            step.add(std::move(record));
+        } else {
+            waiting.push_back(std::move(record));
+        }
+    }
+
+    void finishStep();
+    void finishGroup(GroupEnd end);
+};
+
+void nbUndoService::Internals::finishStep()
+{
+    StepRecords records = step.close();
+    const bool isStep = std::any_of(records.begin(), records.end(),
+                                    [](const auto& record) { return record->isStepAlone(); });
+    std::move(records.begin(), records.end(), std::back_inserter(waiting));
+    if (isStep) {
+        stack.push(new StepCommand(step.getTitle(), std::exchange(waiting, {}), restoreState));
+    }
+    step.clear();
+}
+
+void nbUndoService::Internals::finishGroup(GroupEnd end)
+{
+    if (!isGroupOpen) {
+        return;
+    }
+    if (openScopes > 0) {
+        pendingEnd = end;
+        return;
+    }
+    isGroupOpen = false;
+    pendingEnd = GroupEnd::None;
+    if (end == GroupEnd::Keep) {
+        finishStep();
+        return;
+    }
+    if (!step.isEmpty()) {
+        const Restoring restoring(restoreState);
+        step.cancel();
+    }
+    step.clear();
+}
+
+nbUndoService* nbUndoService::the()
+{
+    static nbUndoService service;
+    return &service;
+}
+
+nbUndoService::nbUndoService()
+    : internals(std::make_unique<Internals>())
+{
+    nbEditRecorder::set(internals.get());
+}
+
+nbUndoService::~nbUndoService()
+{
+    nbEditRecorder::set(nullptr);
+}
+
+// == The stack
+
+QUndoStack* nbUndoService::getStack()
+{
+    return &internals->stack;
+}
+
+bool nbUndoService::undo()
+{
+    if (!internals->isIdle() || !internals->stack.canUndo()) {
+        return false;
+    }
+    internals->stack.undo();
+    return true;
+}
+
+bool nbUndoService::redo()
+{
+    if (!internals->isIdle() || !internals->stack.canRedo()) {
+        return false;
+    }
+    internals->stack.redo();
+    return true;
+}
+
+void nbUndoService::clear()
+{
+    internals->isGroupOpen = false;
+    internals->pendingEnd = GroupEnd::None;
+    internals->step.clear();
+    internals->waiting.clear();
+    internals->stack.clear();
+}
+
+osg::UInt64 nbUndoService::getRestoreCount() const
+{
+    return internals->restoreState.count;
+}
+
+// == Groups
+
+void nbUndoService::beginGroup(const QString& title)
+{
+    internals->finishGroup(GroupEnd::Keep);
+    internals->isGroupOpen = true;
+    internals->pendingEnd = GroupEnd::None;
+    internals->step.offerTitle(title);
+}
+
+void nbUndoService::endGroup()
+{
+    internals->finishGroup(GroupEnd::Keep);
+}
+
+void nbUndoService::cancelGroup()
+{
+    internals->finishGroup(GroupEnd::Cancel);
+}
+
+bool nbUndoService::isGroupOpen() const
+{
+    return internals->isGroupOpen;
+}
+
+// == Recording
+
+bool nbUndoService::isRecording() const
+{
+    return internals->isRecording();
+}
+
+void nbUndoService::record(std::unique_ptr<nbUndoRecord> entry)
+{
+    if (entry != nullptr && internals->isRecording()) {
+        internals->step.add(std::move(entry));
+    }
+}
+
+nbTransformEntry* nbUndoService::noteTransform(const osg::Transform3DPtr& core)
+{
+    return internals->isRecording() ? &internals->step.getTransforms().note(core) : nullptr;
+}
+
+void nbUndoService::openScope(bool isRecorded)
+{
+    ++internals->openScopes;
+    if (!isRecorded) {
+        ++internals->mutedScopes;
+    }
+    internals->step.getTransforms().startPass();
+}
+
+void nbUndoService::offerTitle(const QString& title)
+{
+    internals->step.offerTitle(title);
+}
+
+void nbUndoService::offerTitle(const char* title)
+{
+    internals->step.offerTitle(title);
+}
+
+void nbUndoService::closeScope(bool wasRecorded)
+{
+    if (!wasRecorded) {
+        --internals->mutedScopes;
+    }
+    --internals->openScopes;
+    if (internals->openScopes > 0) {
+        return;
+    }
+    if (!internals->isGroupOpen) {
+        internals->finishStep();
+    } else if (internals->pendingEnd != GroupEnd::None) {
+        internals->finishGroup(internals->pendingEnd);
+    }
+}

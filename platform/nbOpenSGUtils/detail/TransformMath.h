@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// Arithmetic of a Transform3D's pivots, in double. Its matrix is x -> o + R S x with the whole
+/// rotation R and o = t + p + R (s - p - S s); t translation, p rotate pivot, s scale pivot, S
+/// scale. Functions take R with the rest, since it is costly to work out. The object stays where it
+/// is as long as R, S and o stay.
+#pragma once
+
+#include <nbOpenSGExt/detail/RotationMath.h>
+#include <nbOpenSGUtils/nbTransformState.h>
+
+#include <OpenSG/OSGMatrix.h>
+
+#include <cmath>
+
+namespace nbTransformMath {
+
+using osg::Vec3d;
+
+/// Rows as written on paper.
+struct Matrix3d
+{
+    nbRotationMath::Rows rows { { { 1, 0, 0 }, { 0, 1, 0 }, { 0, 0, 1 } } };
+
+    Vec3d operator*(const Vec3d& v) const
+    {
+        return { rows[0][0] * v[0] + rows[0][1] * v[1] + rows[0][2] * v[2],
+                 rows[1][0] * v[0] + rows[1][1] * v[1] + rows[1][2] * v[2],
+                 rows[2][0] * v[0] + rows[2][1] * v[1] + rows[2][2] * v[2] };
+    }
+
+    /// The transposed matrix times v; of a rotation the inverse.
+    Vec3d transposedTimes(const Vec3d& v) const
+    {
+        return { rows[0][0] * v[0] + rows[1][0] * v[1] + rows[2][0] * v[2],
+                 rows[0][1] * v[0] + rows[1][1] * v[1] + rows[2][1] * v[2],
+                 rows[0][2] * v[0] + rows[1][2] * v[1] + rows[2][2] * v[2] };
+    }
+};
+
+inline Vec3d toDouble(const osg::Vec3f& v)
+{
+    return { v[0], v[1], v[2] };
+}
+
+inline osg::Vec3f toFloat(const Vec3d& v)
+{
+    return { static_cast<osg::Real32>(v[0]), static_cast<osg::Real32>(v[1]),
+             static_cast<osg::Real32>(v[2]) };
+}
+
+inline bool isFinite(const osg::Vec3f& v)
+{
+    return std::isfinite(v[0]) && std::isfinite(v[1]) && std::isfinite(v[2]);
+}
+
+/// The three floats have the same values.
+inline bool isSame(const osg::Vec3f& a, const osg::Vec3f& b)
+{
+    return a[0] == b[0] && a[1] == b[1] && a[2] == b[2];
+}
+
+/// The whole rotation, with the orientation.
+inline Matrix3d wholeRotation(const osg::Transform3D& core)
+{
+    return { core.getWholeRotation() };
+}
+
+/// Where the rotate pivot is in the parent's frame: t + p.
+Vec3d rotatePivotPlace(const nbTransformState& state, const Matrix3d& rotation);
+
+/// Where the scale pivot is in the parent's frame: t + p + R (s - p).
+Vec3d scalePivotPlace(const nbTransformState& state, const Matrix3d& rotation);
+
+/// A pivot and the translation that belongs to it.
+struct MovedPivot
+{
+    Vec3d translation;
+    Vec3d pivot;
+};
+
+/// The rotate pivot moved by a vector of the parent's frame, the object left where it is.
+MovedPivot moveRotatePivot(const nbTransformState& state, const Matrix3d& rotation,
+                           const Vec3d& delta);
+
+/// The same for the scale pivot; along an axis of scale 0 it stays.
+MovedPivot moveScalePivot(const nbTransformState& state, const Matrix3d& rotation,
+                          const Vec3d& delta);
+
+/// What the translation gains when a pivot changes by a vector of the object's frame and the object
+/// stays.
+Vec3d rotatePivotCompensation(const nbTransformState& state, const Matrix3d& rotation,
+                              const Vec3d& pivotDelta);
+Vec3d scalePivotCompensation(const nbTransformState& state, const Matrix3d& rotation,
+                             const Vec3d& pivotDelta);
+
+/// An affine frame with its inverse.
+struct Frame
+{
+    Matrix3d linear;
+    Matrix3d inverse;
+    Vec3d origin { 0.0, 0.0, 0.0 };
+    bool invertible = true;
+
+    Vec3d toOuter(const Vec3d& point) const { return linear * point + origin; }
+
+    Vec3d toInner(const Vec3d& point) const { return inverse * (point - origin); }
+
+    /// Not invertible: a determinant within 1e-12 of 0, measured by the lengths of the columns.
+    static Frame of(const osg::Matrix& matrix);
+};
+
+}  // namespace nbTransformMath

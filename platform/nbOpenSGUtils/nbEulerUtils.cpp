@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: MIT
+#include "nbEulerUtils.h"
+
+#include <nbOpenSGExt/detail/RotationMath.h>
+
+#include <array>
+#include <cmath>
+
+namespace {
+
+constexpr double kPi = 3.14159265358979323846;
+constexpr double kDegPerRad = 180.0 / kPi;
+/// Cosine of the middle angle below which only a sum of first and last angle means something.
+constexpr double kLockedCosine = 1e-9;
+
+using Angles = std::array<double, 3>;
+
+Angles valuesOf(const nbEulerAngles& angles)
+{
+    return { angles.x, angles.y, angles.z };
+}
+
+nbEulerAngles makeAngles(const Angles& values, int order)
+{
+    return { values[0], values[1], values[2], order };
+}
+
+/// The angle plus whole turns that is nearest to another.
+double unwound(double angle, double reference)
+{
+    return angle + 2.0 * kPi * std::round((reference - angle) / (2.0 * kPi));
+}
+
+double squaredDistance(const Angles& a, const Angles& b)
+{
+    double sum = 0.0;
+    for (std::size_t i = 0; i < a.size(); ++i) {
+        sum += (a[i] - b[i]) * (a[i] - b[i]);
+    }
+    return sum;
+}
+
+Angles allUnwound(const Angles& angles, const Angles& reference)
+{
+    return { unwound(angles[0], reference[0]), unwound(angles[1], reference[1]),
+             unwound(angles[2], reference[2]) };
+}
+
+/// With the middle angle at one of its ends, first and last turn about the same line: with k = +-1
+/// only first - k last matters.
+Angles nearestLocked(Angles angles, const Angles& reference, const nbEulerRotation::Order& order)
+{
+    const auto [i, j, k] = order.axes;
+    const double sense = std::sin(angles[j]) > 0.0 ? order.sign : -order.sign;
+    const double turn = angles[i] - sense * angles[k];
+    const double wanted = reference[i] - sense * reference[k];
+    const double missing = unwound(turn, wanted) - wanted;
+    angles[i] = reference[i] + 0.5 * missing;
+    angles[k] = reference[k] - 0.5 * sense * missing;
+    angles[j] = unwound(angles[j], reference[j]);
+    return angles;
+}
+
+nbEulerAngles scaled(const nbEulerAngles& angles, double factor)
+{
+    return { angles.x * factor, angles.y * factor, angles.z * factor, angles.order };
+}
+
+}  // namespace
+
+int nbEulerUtils::getOrderFromString(const std::string& order)
+{
+    return nbEulerRotation::getOrderNumber(order);
+}
+
+std::string nbEulerUtils::getStringFromOrder(int order)
+{
+    return nbEulerRotation::getOrderName(order);
+}
+
+nbEulerAngles nbEulerUtils::EulFromQuat(const osg::Quaterniond& rotation, int order)
+{
+    return makeAngles(nbEulerRotation::fromQuaternion(rotation, order), order);
+}
+
+nbEulerAngles nbEulerUtils::EulFromQuat(const osg::Quaternion& rotation, int order)
+{
+    return EulFromQuat(nbRotationMath::toDouble(rotation), order);
+}
+
+osg::Quaterniond nbEulerUtils::QuatFromEul(const nbEulerAngles& angles)
+{
+    return nbEulerRotation::toQuaternion(valuesOf(angles), angles.order);
+}
+
+nbEulerAngles nbEulerUtils::convertOrder(const nbEulerAngles& angles, int order)
+{
+    return EulFromQuat(QuatFromEul(angles), order);
+}
+
+nbEulerAngles nbEulerUtils::multiply(const nbEulerAngles& step, const nbEulerAngles& accumulated)
+{
+    return nearest(EulFromQuat(nbRotationMath::product(QuatFromEul(step), QuatFromEul(accumulated)),
+                               accumulated.order),
+                   accumulated);
+}
+
+nbEulerAngles nbEulerUtils::nearest(const nbEulerAngles& angles, const nbEulerAngles& reference)
+{
+    const nbEulerRotation::Order& order = nbEulerRotation::getOrder(angles.order);
+    const Angles wanted = valuesOf(reference);
+    const Angles given = valuesOf(angles);
+    const auto [i, j, k] = order.axes;
+    if (std::fabs(std::cos(given[j])) < kLockedCosine) {
+        return makeAngles(nearestLocked(given, wanted, order), angles.order);
+    }
+    // The other three angles of the same rotation.
+    Angles turned = given;
+    turned[i] += kPi;
+    turned[j] = kPi - turned[j];
+    turned[k] += kPi;
+    const Angles same = allUnwound(given, wanted);
+    turned = allUnwound(turned, wanted);
+    return makeAngles(squaredDistance(turned, wanted) < squaredDistance(same, wanted) ? turned
+                                                                                      : same,
+                      angles.order);
+}
+
+nbEulerAngles nbEulerUtils::toDegrees(const nbEulerAngles& anglesRad)
+{
+    return scaled(anglesRad, kDegPerRad);
+}
+
+nbEulerAngles nbEulerUtils::toRadians(const nbEulerAngles& anglesDeg)
+{
+    return scaled(anglesDeg, 1.0 / kDegPerRad);
+}
+
+osg::Vec3f nbEulerUtils::toVec3f(const nbEulerAngles& angles)
+{
+    return { static_cast<osg::Real32>(angles.x), static_cast<osg::Real32>(angles.y),
+             static_cast<osg::Real32>(angles.z) };
+}
+
+nbEulerAngles nbEulerUtils::fromDegrees(const osg::Vec3f& anglesDeg, int order)
+{
+    return toRadians({ anglesDeg[0], anglesDeg[1], anglesDeg[2], order });
+}

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <nbOpenSGExt/nbEulerRotation.h>
+#include <nbUtils/nbPlatformExport.h>
+
+#include <OpenSG/OSGQuaternion.h>
+#include <OpenSG/OSGVector.h>
+
+#include <string>
+
+/// Angles about x, y and z, whatever the order in which they turn; radians unless said.
+struct nbEulerAngles
+{
+    double x = 0.0;
+    double y = 0.0;
+    double z = 0.0;
+    /// Number of the order, see nbEulerUtils.
+    int order = 0;
+};
+
+/// Euler angles of all six orders, in double.
+/// Order numbers and names: 0 "xyz", 1 "yzx", 2 "zxy", 3 "xzy", 4 "yxz", 5 "zyx". "xyz" turns about
+/// x first, then y, then z, about fixed axes: matrix Rz Ry Rx. Other numbers count as 0.
+class NB_PLATFORM_API nbEulerUtils
+{
+public:
+    static constexpr int kOrderCount = nbEulerRotation::kOrderCount;
+
+    /// Number of an order; 0 for a text that is no permutation of x, y, z. Upper case counts as
+    /// lower case.
+    static int getOrderFromString(const std::string& order);
+
+    /// Name of an order.
+    static std::string getStringFromOrder(int order);
+
+    /// Angles of a rotation. The middle angle of the order lies in -90 .. 90 degrees; where it is
+    /// within 1e-10 of the ends (cosine), the last angle is 0 and the first takes the whole turn.
+    /// @param rotation  any length but 0, which gives zero angles
+    static nbEulerAngles EulFromQuat(const osg::Quaterniond& rotation, int order);
+    static nbEulerAngles EulFromQuat(const osg::Quaternion& rotation, int order);
+
+    /// Unit quaternion of the angles.
+    static osg::Quaterniond QuatFromEul(const nbEulerAngles& angles);
+
+    /// The same rotation in another order, the angles of EulFromQuat.
+    static nbEulerAngles convertOrder(const nbEulerAngles& angles, int order);
+
+    /// step x accumulated: accumulated turns first. The result has the order of accumulated and, of
+    /// all angles for that rotation, those nearest to accumulated: values go on smoothly past the
+    /// middle angle's ends and past whole turns.
+    static nbEulerAngles multiply(const nbEulerAngles& step, const nbEulerAngles& accumulated);
+
+    /// Of all angles that give the same rotation in the same order, those nearest to the others.
+    static nbEulerAngles nearest(const nbEulerAngles& angles, const nbEulerAngles& reference);
+
+    static nbEulerAngles toDegrees(const nbEulerAngles& anglesRad);
+    static nbEulerAngles toRadians(const nbEulerAngles& anglesDeg);
+
+    /// The three angles as floats, in the unit they have.
+    static osg::Vec3f toVec3f(const nbEulerAngles& angles);
+
+    /// Angles from degrees as nodes have them.
+    static nbEulerAngles fromDegrees(const osg::Vec3f& anglesDeg, int order);
+};
