@@ -108,7 +108,7 @@ QImage ViewWidget::takePicture(QString& error)
     viewStage.update();
     const QSize size = sizePx();
     const int passes = isHuge(size) ? 1 : kPicturePasses;
-    const QImage picture =
+    QImage picture =
         pictureView.render(renderWidget.getViewport(), size.width(), size.height(), passes);
     if (picture.isNull()) {
         error = QStringLiteral("the view cannot be drawn: %1")
