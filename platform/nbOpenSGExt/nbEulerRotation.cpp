@@ -90,8 +90,8 @@ HalfTurn halfTurnDeg(double angleDeg)
     if (!std::isfinite(half)) {
         return { half - half, half - half };
     }
-    const double quarters = std::nearbyint(half / 90.0);
-    const double x = kRadPerDeg * (half - 90.0 * quarters);
+    const auto quarter = static_cast<int>(half * (1.0 / 90.0) + (half < 0.0 ? -0.5 : 0.5));
+    const double x = kRadPerDeg * (half - 90.0 * quarter);
     const double xx = x * x;
     const double sine = x *
         (1.0 +
@@ -107,7 +107,7 @@ HalfTurn halfTurnDeg(double angleDeg)
                   xx *
                       (-1.0 / 720 +
                        xx * (1.0 / 40320 + xx * (-1.0 / 3628800 + xx * (1.0 / 479001600))))));
-    switch (static_cast<long>(quarters) & 3) {
+    switch (quarter & 3) {
     case 0:
         return { sine, cosine };
     case 1:
