@@ -23,6 +23,8 @@
 #include <cstring>
 #include <string_view>
 
+#include <EditStamp.h>
+
 namespace nbec::manipulator {
 
 namespace {
@@ -117,13 +119,15 @@ osg::NodePtr UniversalTransformManipulator2::getCollider()
 
 void UniversalTransformManipulator2::update(bool force)
 {
-    if (!isActive()) {
+    const osg::UInt64 stamp = osg::glue::editStamp();
+    if (!isActive() || (!force && stamp == comparedStamp)) {
         return;
     }
     const osg::NodePtr node = getNode();
     if (node == osg::NullFC) {
         return;
     }
+    comparedStamp = stamp;
     if (force || !isSamePlacement(detail::targetToWorld(node), cachedTargetToWorld)) {
         updateManipulator();
     }

@@ -97,6 +97,7 @@ public:
 
     /// Re-places the gizmo if the node has moved since the last time; does not look at the camera,
     /// for which the host calls updateAllManipulators(). Nothing while inactive or without a node.
+    /// An edit of the node shows once it is closed with endEditCP.
     /// @param force  re-places it in any case
     void update(bool force) override;
 
@@ -241,6 +242,7 @@ private:
     std::array<osg::SimpleMaterialRefPtr, kSolidCount> solidMaterials;
     std::array<osg::SimpleMaterialRefPtr, kLineCount> lineMaterials;
     osg::Matrix cachedTargetToWorld;
+    osg::UInt64 comparedStamp = 0;  ///< edits seen by the last comparison, see EditStamp.h
 };
 
 }  // namespace nbec::manipulator

@@ -9,6 +9,13 @@
 
 namespace osg {
 
+namespace detail {
+
+UInt64 editCount = 0;
+
+}  // namespace detail
+
+
 namespace {
 
 UInt64 sharedChangeCount = 0;
@@ -137,6 +144,7 @@ void changedCP(const FieldContainerPtr& container, BitVector whichField, UInt32 
     if (container == NullFC) {
         return;
     }
+    ++detail::editCount;
     ++container->changeCount;
     container->noteEdit();
     container->changed(whichField, origin);

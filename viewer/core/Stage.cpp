@@ -61,6 +61,12 @@ Stage::~Stage()
     clear();
 }
 
+void Stage::showGizmo(Gizmo gizmo)
+{
+    gizmoController.show(gizmo);
+    changed();
+}
+
 void Stage::clear()
 {
     nbSelection::clear();
@@ -98,7 +104,7 @@ void Stage::showStartScene()
     start.fovDeg = kStartFovDeg;
     setPose(start);
     select(findObject(node, kStartSceneMainObject));
-    gizmoController.show(Gizmo::Universal);
+    showGizmo(Gizmo::Universal);
 }
 
 bool Stage::isEmpty() const

@@ -36,6 +36,9 @@ public:
 
     GizmoController& gizmo() { return gizmoController; }
 
+    /// Changes the manipulator shown.
+    void showGizmo(Gizmo gizmo);
+
     nbOSGWidget& view() { return renderWidget; }
 
     // == Scene

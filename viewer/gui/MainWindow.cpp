@@ -194,7 +194,7 @@ void MainWindow::showLoadedModels()
     stage.frameAll(replaced);
     stage.select(last);
     if (stage.gizmo().shown() == Gizmo::None) {
-        stage.gizmo().show(Gizmo::Universal);
+        stage.showGizmo(Gizmo::Universal);
     }
     actions->update();
     updateStatus();
@@ -268,12 +268,6 @@ void MainWindow::handleDroppedFiles(const QStringList& files)
 
 // == View
 
-void MainWindow::showGizmo(Gizmo gizmo)
-{
-    viewWidget->stage().gizmo().show(gizmo);
-    viewWidget->stage().view().update();
-}
-
 void MainWindow::showEffectBuffer(bool on)
 {
     viewWidget->showEffectBuffer(on);
@@ -330,7 +324,7 @@ bool MainWindow::setStageFor(const Session& session, QString& error)
             error = QStringLiteral("manipulator: unknown name \"%1\"").arg(session.manipulator);
             return false;
         }
-        stage.gizmo().show(gizmo);
+        stage.showGizmo(gizmo);
     }
     return true;
 }

@@ -62,7 +62,6 @@ public:
 
     // == View
 
-    void showGizmo(Gizmo gizmo);
     void showEffectBuffer(bool on);
     /// Makes the window as large as a view of this size needs; a person may change it afterwards.
     void suggestViewSize(const QSize& sizePx);

@@ -135,7 +135,7 @@ void WindowActions::addManipulatorMenu()
     gizmoGroup = new QActionGroup(this);
     for (const GizmoRow& row : kGizmos) {
         QAction* action = addSwitch(menu, row.name, tr(row.text), row.keys,
-                                    [this, gizmo = row.gizmo](bool) { window.showGizmo(gizmo); });
+                                    [this, gizmo = row.gizmo](bool) { stage.showGizmo(gizmo); });
         gizmoGroup->addAction(action);
         gizmoActions[row.gizmo] = action;
     }

@@ -9,6 +9,19 @@
 
 namespace osg {
 
+namespace detail {
+
+extern UInt64 editCount;
+
+}  // namespace detail
+
+/// How many edits of whatever container ended in this process. While it stands still, nothing that
+/// was edited as it should has changed.
+inline UInt64 getEditCount()
+{
+    return detail::editCount;
+}
+
 /// How often edits of the container ended with endEditCP or changedCP. 0 for null. Wraps after
 /// 2^32.
 UInt32 getChangeCount(const FieldContainerPtr& container);

@@ -245,6 +245,7 @@ TEST(nbItemList, IsMadeAnewOnlyAfterAnEdit)
 
 TEST(nbItemList, HoldsNoContainers)
 {
+    osg::getDefaultMaterial();  // made on first use and kept
     const osg::ContainerCensus before = osg::ContainerCensus::take();
     ItemList list;
     {

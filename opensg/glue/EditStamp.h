@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// A quick answer to "may anything have changed?", on both scene graphs.
+#pragma once
+
+#include <OpenSG/OSGBaseTypes.h>
+#include <OpenSG/OSGConfig.h>
+
+#if !defined(NBMANIPULATOR_SYSTEM_OPENSG)
+#include <OpenSG/OSGChangeCount.h>
+#endif
+
+namespace osg {
+namespace glue {
+
+/// Equal stamps mean that no edit ended between them. The bundled scene graph counts its edits; a
+/// real OpenSG does not, so there every stamp is new and the caller looks at the containers.
+inline UInt64 editStamp()
+{
+#if defined(NBMANIPULATOR_SYSTEM_OPENSG)
+    static UInt64 calls = 0;
+    return ++calls;
+#else
+    return getEditCount();
+#endif
+}
+
+}  // namespace glue
+}  // namespace osg
