@@ -42,7 +42,12 @@ inline osg::Quaterniond product(const osg::Quaterniond& a, const osg::Quaternion
 inline Rows rotationRows(const osg::Quaterniond& q)
 {
     const double square = q.x() * q.x() + q.y() * q.y() + q.z() * q.z() + q.w() * q.w();
-    const double s = square > 0.0 ? 2.0 / square : 0.0;
+    // Nearly always of unit length; there 2 - x is 1 / x to the last digits.
+    constexpr double kNearUnit = 1e-7;
+    const double offUnit = square - 1.0;
+    const double s = offUnit < kNearUnit && offUnit > -kNearUnit ? 2.0 - 2.0 * offUnit
+        : square > 0.0                                           ? 2.0 / square
+                                                                 : 0.0;
     const double xx = s * q.x() * q.x();
     const double yy = s * q.y() * q.y();
     const double zz = s * q.z() * q.z();
