@@ -65,7 +65,7 @@ const nbRotationMath::Rows& Transform3D::getWholeRotation() const
     const Quaternion turn = getRotationAsQuaternion();
     const Quaternion& orientation = getRotationOrientation();
     if (!sameBits(cache.rowsTurn, turn) || !sameBits(cache.rowsOrientation, orientation)) {
-        const osg::Quaterniond whole = sameBits(orientation, Quaternion())
+        const nbQuaterniond whole = sameBits(orientation, Quaternion())
             ? nbRotationMath::toDouble(turn)
             : nbRotationMath::product(nbRotationMath::toDouble(turn),
                                       nbRotationMath::toDouble(orientation));

@@ -121,7 +121,7 @@ HalfTurn halfTurnDeg(double angleDeg)
 
 /// The product qk qj qi of three turns about the axes of an order, multiplied out.
 /// @param turns  about x, y, z
-osg::Quaterniond product(const std::array<HalfTurn, 3>& turns, const nbEulerRotation::Order& order)
+nbQuaterniond product(const std::array<HalfTurn, 3>& turns, const nbEulerRotation::Order& order)
 {
     const auto [i, j, k] = order.axes;
     const double e = order.sign;
@@ -136,7 +136,7 @@ osg::Quaterniond product(const std::array<HalfTurn, 3>& turns, const nbEulerRota
     axis[i] = firstOnly * last.cosine - e * middleOnly * last.sine;
     axis[j] = middleOnly * last.cosine + e * firstOnly * last.sine;
     axis[k] = cosines * last.sine - e * sines * last.cosine;
-    osg::Quaterniond result;
+    nbQuaterniond result;
     result.setValueAsQuat(axis[0], axis[1], axis[2], cosines * last.cosine + e * sines * last.sine);
     return result;
 }
@@ -163,7 +163,7 @@ const nbEulerRotation::Order& nbEulerRotation::getOrder(int order)
     return namedOrder(order).order;
 }
 
-osg::Quaterniond nbEulerRotation::toQuaternion(const std::array<double, 3>& anglesRad, int order)
+nbQuaterniond nbEulerRotation::toQuaternion(const std::array<double, 3>& anglesRad, int order)
 {
     return product(
         { halfTurnRad(anglesRad[0]), halfTurnRad(anglesRad[1]), halfTurnRad(anglesRad[2]) },
@@ -178,7 +178,7 @@ osg::Quaternion nbEulerRotation::toQuaternion(const osg::Vec3f& anglesDeg, const
                                            getOrder(getOrderNumber(order))));
 }
 
-std::array<double, 3> nbEulerRotation::fromQuaternion(const osg::Quaterniond& rotation, int order)
+std::array<double, 3> nbEulerRotation::fromQuaternion(const nbQuaterniond& rotation, int order)
 {
     return anglesOf(nbRotationMath::rotationRows(rotation), order, kDoubleGimbalCosine);
 }

@@ -293,7 +293,7 @@ void setTurn(const Subject& subject, const Vec3f& anglesDeg)
 }
 
 /// R of a state, rounded to float as in the core's matrix.
-osg::Quaterniond turnOf(const nbTransformState& state)
+nbQuaterniond turnOf(const nbTransformState& state)
 {
     return nbRotationMath::toDouble(
         state.rotationMode == Transform3D::QuaternionMode
@@ -304,9 +304,9 @@ osg::Quaterniond turnOf(const nbTransformState& state)
 /// The orientation with which the whole rotation of a state stays under another turn.
 osg::Quaternion compensatingOrientation(const nbTransformState& state, const osg::Quaternion& turn)
 {
-    osg::Quaterniond back = nbRotationMath::toDouble(turn);
+    nbQuaterniond back = nbRotationMath::toDouble(turn);
     back.invert();
-    osg::Quaterniond orientation = nbRotationMath::product(
+    nbQuaterniond orientation = nbRotationMath::product(
         back,
         nbRotationMath::product(turnOf(state),
                                 nbRotationMath::toDouble(state.rotationOrientation)));

@@ -54,7 +54,7 @@ Rows matrixOf(const nbEulerAngles& angles)
     return result;
 }
 
-Rows matrixOf(const osg::Quaterniond& q)
+Rows matrixOf(const nbQuaterniond& q)
 {
     Rows rows {};
     for (osg::UInt32 column = 0; column < 3; ++column) {
@@ -117,7 +117,7 @@ TEST(nbEulerUtils, AnglesAndQuaternionsGiveOneMatrixInAllOrders)
         const nbEulerAngles angles { anyAngle(random), anyAngle(random), anyAngle(random), order };
         const Rows expected = matrixOf(angles);
 
-        const osg::Quaterniond quaternion = nbEulerUtils::QuatFromEul(angles);
+        const nbQuaterniond quaternion = nbEulerUtils::QuatFromEul(angles);
         expectNear(matrixOf(quaternion), expected);
         expectNear(matrixOf(nbEulerUtils::EulFromQuat(quaternion, order)), expected);
         for (int other = 0; other < nbEulerUtils::kOrderCount; ++other) {
