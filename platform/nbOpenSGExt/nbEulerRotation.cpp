@@ -82,7 +82,7 @@ HalfTurn halfTurnRad(double angleRad)
 /// Sine and cosine of half an angle in degrees, to 1e-11: far below what a float keeps, and quick.
 /// The angle is reduced in degrees, which is exact, so that half turns come out exact too. The rest
 /// is at most a quarter of pi; there the series end with x^11 / 11! and x^12 / 12!.
-HalfTurn halfTurnDeg(double angleDeg)
+inline HalfTurn halfTurnDeg(double angleDeg)
 {
     constexpr double kLargest = 1e6;
     const double half =
@@ -92,31 +92,20 @@ HalfTurn halfTurnDeg(double angleDeg)
     }
     const auto quarter = static_cast<int>(half * (1.0 / 90.0) + (half < 0.0 ? -0.5 : 0.5));
     const double x = kRadPerDeg * (half - 90.0 * quarter);
-    const double xx = x * x;
+    // Terms in pairs, so that they do not wait for each other.
+    const double x2 = x * x;
+    const double x4 = x2 * x2;
     const double sine = x *
-        (1.0 +
-         xx *
-             (-1.0 / 6 +
-              xx *
-                  (1.0 / 120 + xx * (-1.0 / 5040 + xx * (1.0 / 362880 + xx * (-1.0 / 39916800))))));
-    const double cosine = 1.0 +
-        xx *
-            (-1.0 / 2 +
-             xx *
-                 (1.0 / 24 +
-                  xx *
-                      (-1.0 / 720 +
-                       xx * (1.0 / 40320 + xx * (-1.0 / 3628800 + xx * (1.0 / 479001600))))));
-    switch (quarter & 3) {
-    case 0:
-        return { sine, cosine };
-    case 1:
-        return { cosine, -sine };
-    case 2:
-        return { -sine, -cosine };
-    default:
-        return { -cosine, sine };
-    }
+        ((1.0 - x2 * (1.0 / 6)) +
+         x4 * ((1.0 / 120 - x2 * (1.0 / 5040)) + x4 * (1.0 / 362880 - x2 * (1.0 / 39916800))));
+    const double cosine = (1.0 - 0.5 * x2) +
+        x4 *
+            ((1.0 / 24 - x2 * (1.0 / 720)) +
+             x4 * ((1.0 / 40320 - x2 * (1.0 / 3628800)) + x4 * (1.0 / 479001600)));
+    const bool isSwapped = (quarter & 1) != 0;
+    const double first = isSwapped ? cosine : sine;
+    const double second = isSwapped ? sine : cosine;
+    return { (quarter & 2) != 0 ? -first : first, ((quarter + 1) & 2) != 0 ? -second : second };
 }
 
 /// The product qk qj qi of three turns about the axes of an order, multiplied out.

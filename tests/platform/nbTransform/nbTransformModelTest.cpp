@@ -412,22 +412,30 @@ TEST_F(nbTransformModelTest, ResultsDoNotDependOnTheStepsBetween)
 {
     std::mt19937 random(7);
     std::uniform_real_distribution<float> anywhere(-10.f, 10.f);
-    using Setter =
-        osg::UInt32 (nbTransformModel::*)(osg::UInt32, bool, nbTransformModel::ValueFunction);
+    using Setter = void (*)(nbTransformModel&, nbTransformModel::ValueFunction);
+    const Setter translate = [](nbTransformModel& edited, nbTransformModel::ValueFunction value) {
+        edited.setTranslation(1, true, value);
+    };
+    const Setter moveRotatePivot = [](nbTransformModel& edited,
+                                      nbTransformModel::ValueFunction value) {
+        edited.setRotationPivot(1, true, value);
+    };
+    const Setter moveScalePivot = [](nbTransformModel& edited,
+                                     nbTransformModel::ValueFunction value) {
+        edited.setScalePivot(1, true, value);
+    };
     for (const Placement& placement : turnedPlacements()) {
-        for (const Setter setter :
-             { &nbTransformModel::setTranslation, &nbTransformModel::setRotationPivot,
-               &nbTransformModel::setScalePivot }) {
+        for (const Setter setter : { translate, moveRotatePivot, moveScalePivot }) {
             const osg::NodePtr direct = addBelowTurnedParent(placement);
             const osg::NodePtr wandering = addBelowTurnedParent(placement);
             const Vec3f goal(1.f, 2.f, 3.f);
             nbUndoService::the()->beginGroup();
             for (int step = 0; step < 500; ++step) {
                 const Vec3f value(anywhere(random), anywhere(random), anywhere(random));
-                (model->*setter)(1, true, giving(wandering, value));
+                setter(*model, giving(wandering, value));
             }
-            (model->*setter)(1, true, giving(wandering, goal));
-            (model->*setter)(1, true, giving(direct, goal));
+            setter(*model, giving(wandering, goal));
+            setter(*model, giving(direct, goal));
             nbUndoService::the()->endGroup();
 
             expectSameBits(coreOf(wandering)->getTranslation(), coreOf(direct)->getTranslation());
