@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/UniversalTransformManipulator2.h"
 
+#include "manipulator/ManipulatorInteractionContext.h"
+#include "manipulator/UniversalTransformManipulator2Drag.h"
 #include "manipulator/UniversalTransformManipulator2Handles.h"
 #include "manipulator/detail/EditBracket.h"
 #include "manipulator/detail/HandleGroup.h"
@@ -11,6 +13,7 @@
 #include "manipulator/detail/ScreenScale.h"
 #include "manipulator/detail/TargetFrame.h"
 
+#include <nbInteraction/Picker.h>
 #include <nbKernel/nbOSGWidget.h>
 #include <nbOpenSGExt/Transform3D.h>
 #include <nbOpenSGUberCamera/UberCamera.h>
@@ -68,6 +71,7 @@ UniversalTransformManipulator2* UniversalTransformManipulator2::_the = nullptr;
 bool UniversalTransformManipulator2::_temporary_snapping_active = false;
 
 UniversalTransformManipulator2::UniversalTransformManipulator2()
+    : drag(std::make_unique<TransformDrag>())
 {
     handleTree = createManipulatorGeo();
     createMultiselectionRepresentationGeo();
@@ -104,6 +108,7 @@ void UniversalTransformManipulator2::deactivate(ManipulatorInteractionContext* c
 {
     NodeManipulator::deactivate(ctx);
     grabbing = false;
+    prepared = false;
     endHover();
 }
 
@@ -142,32 +147,8 @@ bool UniversalTransformManipulator2::startManipulator(ManipulatorInteractionCont
         return false;
     }
     grabbing = true;
+    grabbedPoint = ctx->getPicker()->getHitPoint();
     highlightControlElement();
-    return true;
-}
-
-bool UniversalTransformManipulator2::processManipulator(ManipulatorInteractionContext* /*ctx*/,
-                                                        const std::string& /*hint*/)
-{
-    if (activeHandle == ActiveMode::None) {
-        return false;
-    }
-    const osg::NodePtr node = getNode();
-    return node != osg::NullFC && node->getParent() != osg::NullFC;
-}
-
-bool UniversalTransformManipulator2::stopManipulator(ManipulatorInteractionContext* /*ctx*/,
-                                                     const std::string& /*hint*/)
-{
-    if (activeHandle == ActiveMode::None) {
-        return false;
-    }
-    grabbing = false;
-    endHover();
-    if (getNode() == osg::NullFC) {
-        return false;
-    }
-    showActiveManipulator();
     return true;
 }
 
@@ -199,14 +180,6 @@ bool UniversalTransformManipulator2::setManipulatorMode(const std::string& newMo
     _temporary_snapping_active = newMode == "precisionTool";
     // Deliberate: "tool" answers false although it has ended temporary snapping.
     return newMode == "precisionTool" || newMode.empty();
-}
-
-void UniversalTransformManipulator2::setNode(const osg::NodePtr& node)
-{
-    NodeManipulator::setNode(node);
-    if (isActive()) {
-        showActiveManipulator();
-    }
 }
 
 // == Modes
@@ -394,22 +367,27 @@ UniversalTransformManipulator2::detectMode(ManipulatorInteractionContext* ctx) c
 
 void UniversalTransformManipulator2::updateManipulator()
 {
-    const osg::NodePtr node = getNode();
-    if (node == osg::NullFC) {
+    const osg::NodePtr selected = getNode();
+    if (selected == osg::NullFC) {
         return;
     }
+    const osg::NodePtr node = detail::editedNode(selected);
     const osg::Transform3DPtr placement = osg::Transform3DPtr::dcast(handleTree->getCore());
     const osg::Pnt3f anchor = anchorWorld(node);
-    const float scale = screenScale(anchor);
+    const float size = screenScale(anchor);
     cachedTargetToWorld = detail::targetToWorld(node);
-    const detail::EditBracket edit(placement,
-                                   osg::Transform3D::TranslationFieldMask |
-                                       osg::Transform3D::RotationFieldMask |
-                                       osg::Transform3D::ScaleFieldMask);
-    placement->setTranslation(anchor.subZero());
-    placement->setScale(osg::Vec3f(scale, scale, scale));
-    placement->setRotation(m_LocalSpaceManipulator ? detail::worldRotation(node)
-                                                   : osg::Quaternion());
+    {
+        const detail::EditBracket edit(placement,
+                                       osg::Transform3D::TranslationFieldMask |
+                                           osg::Transform3D::RotationFieldMask |
+                                           osg::Transform3D::ScaleFieldMask);
+        placement->setTranslation(anchor.subZero());
+        placement->setScale(osg::Vec3f(size, size, size));
+        placement->setRotation(orientationWorld(node));
+    }
+    if (!transformationInfos.empty()) {
+        updateMarks(size);
+    }
 }
 
 osg::Pnt3f UniversalTransformManipulator2::anchorWorld(const osg::NodePtr& node) const
@@ -420,6 +398,19 @@ osg::Pnt3f UniversalTransformManipulator2::anchorWorld(const osg::NodePtr& node)
     }
     const bool atScalePivot = mode == ManipulatorMode::Scale || mode == ManipulatorMode::ScalePivot;
     return detail::pivotWorld(node, transform, atScalePivot);
+}
+
+osg::Quaternion UniversalTransformManipulator2::orientationWorld(const osg::NodePtr& node) const
+{
+    if (mode == ManipulatorMode::Scale) {
+        return detail::worldRotation(node);
+    }
+    if (!m_LocalSpaceManipulator) {
+        return osg::Quaternion();
+    }
+    const osg::Transform3DPtr transform = osg::Transform3DPtr::dcast(node->getCore());
+    return transform != osg::NullFC ? detail::pivotAxesInWorld(node, transform)
+                                    : detail::worldRotation(node);
 }
 
 float UniversalTransformManipulator2::screenScale(const osg::Pnt3f& anchor)

@@ -3,15 +3,23 @@
 
 #include "manipulator/NodeManipulator.h"
 
+#include <nbOpenSGExt/Transform3D.h>
+#include <nbTransform/nbTransformModel.h>
+
 #include <OpenSG/OSGMatrix.h>
 #include <OpenSG/OSGSimpleMaterial.h>
 
 #include <array>
 #include <cstddef>
+#include <memory>
 #include <string>
 #include <vector>
 
 namespace nbec::manipulator {
+
+struct NodeTransformationInfo;
+struct TransformDrag;
+struct TransformStart;
 
 /// The translate, rotate and scale gizmo for scene nodes.
 ///
@@ -122,6 +130,13 @@ public:
     ~UniversalTransformManipulator2() override;
 
     void setNode(const osg::NodePtr& node) override;
+    /// Binds the gizmo to a node and to further ones that every drag transforms along with it, each
+    /// about its own pivots. Further nodes that are null, given twice, or above or below another of
+    /// the nodes are left out: they would be moved twice.
+    void setNode(const osg::NodePtr& node, const std::vector<osg::NodePtr>& nodes);
+    /// Sets both pivots of the node to the centre of its volume; the object stays where it is.
+    /// @return false without a node that can be made a transform
+    bool centerPivot();
 
     // Each shows the elements of its mode in their idle colours and re-places the gizmo.
     virtual void activateRotatePivotManipulator();
@@ -215,9 +230,42 @@ private:
 
     void updateManipulator();
     osg::Pnt3f anchorWorld(const osg::NodePtr& node) const;
+    osg::Quaternion orientationWorld(const osg::NodePtr& node) const;
     static float screenScale(const osg::Pnt3f& anchor);
     /// Centre of an object's volume, in its own frame or in the world's.
     static osg::Pnt3f calculateObjectCenter(const osg::NodePtr& node, bool worldSpace);
+
+    /// Shows the values that the grabbed handle edits as on-screen text; null takes the text away.
+    void setDescription(const osg::NodePtr& node);
+    void createMarks();
+    void updateMarks(float size);
+
+    osg::NodePtr makeTransform(const osg::NodePtr& node);
+    osg::NodePtr getTransform(osg::UInt32 index);
+    void prepareAll(const osg::NodePtr& node);
+    void prepareManipulator(const osg::NodePtr& node);
+    void prepareManipulator(const osg::NodePtr& node, NodeTransformationInfo& info);
+    TransformStart captureStart(const osg::NodePtr& node) const;
+    void updateManipulatorPlane();
+    osg::Matrix gizmoFrame() const;
+    osg::Matrix translationFrame(const osg::NodePtr& node, const osg::Transform3DPtr& transform);
+    osg::Matrix scaleFrame(const osg::Pnt3f& start) const;
+
+    void dragTo(const osg::NodePtr& node, const osg::Pnt3f& point);
+    void translate(const osg::NodePtr& node, const osg::Pnt3f& point);
+    void rotate(const osg::NodePtr& node, const osg::Pnt3f& point);
+    void scale(const osg::NodePtr& node, const osg::Pnt3f& point);
+    void translatePivot(const osg::NodePtr& node, const osg::Pnt3f& point);
+    void rotatePivot(const osg::NodePtr& node, const osg::Pnt3f& point);
+    static double computeRotation(const osg::Pnt3f& from, const osg::Pnt3f& to, osg::UInt32 axis);
+    static void accumulate(TransformStart& start, double angleRad);
+    osg::Vec3f handleDelta(const osg::Pnt3f& point) const;
+    osg::Vec3f scaleFactors(const osg::Pnt3f& point) const;
+    const TransformStart& startOf(osg::UInt32 index) const;
+    nbTransformModel::Value valueFor(const osg::NodePtr& node, osg::UInt32 index,
+                                     const osg::Vec3f& value) const;
+    osg::UInt32 targetCount() const;
+    void finishStep(const osg::NodePtr& node, bool describe);
 
     bool snappingActive() const { return _temporary_snapping_active || snappingEnabled; }
 
@@ -237,10 +285,15 @@ private:
     osg::RefPtr<osg::NodePtr> root;
     osg::RefPtr<osg::NodePtr> handleTree;
     osg::RefPtr<osg::NodePtr> multiselection;
+    osg::RefPtr<osg::NodePtr> marks;  ///< crosses of the further nodes, made when there are some
     osg::RefPtr<osg::NodePtr> additionalGeometry;
     std::array<HandleNodes, kHandleCount> handles;
     std::array<osg::SimpleMaterialRefPtr, kSolidCount> solidMaterials;
     std::array<osg::SimpleMaterialRefPtr, kLineCount> lineMaterials;
+    std::vector<NodeTransformationInfo> transformationInfos;
+    std::unique_ptr<TransformDrag> drag;
+    osg::Pnt3f grabbedPoint;  ///< where the grabbed handle was hit, world
+    bool prepared = false;
     osg::Matrix cachedTargetToWorld;
     osg::UInt64 comparedStamp = 0;  ///< edits seen by the last comparison, see EditStamp.h
 };

@@ -1,24 +1,25 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/detail/TargetFrame.h"
 
+#include "manipulator/detail/DragGeometry.h"
+
+#include <nbOpenSGExt/ClipPlane3D.h>
+
 #include <OpenSG/OSGDynamicVolume.h>
 
 namespace nbec::manipulator::detail {
 
-namespace {
-
-constexpr float kShortestAxis = 1e-6F;
-
-osg::Vec3f column(const osg::Matrix& matrix, osg::UInt32 index)
+osg::NodePtr editedNode(const osg::NodePtr& node)
 {
-    return osg::Vec3f(matrix[index][0], matrix[index][1], matrix[index][2]);
+    const osg::ClipPlane3DPtr clipPlane = osg::ClipPlane3DPtr::dcast(node->getCore());
+    return clipPlane != osg::NullFC && clipPlane->getTransformNode() != osg::NullFC
+        ? clipPlane->getTransformNode()
+        : node;
 }
-
-}  // namespace
 
 osg::Matrix targetToWorld(const osg::NodePtr& node)
 {
-    return node->getToWorld();
+    return editedNode(node)->getToWorld();
 }
 
 osg::Matrix parentToWorld(const osg::NodePtr& node)
@@ -45,18 +46,16 @@ osg::Pnt3f pivotWorld(const osg::NodePtr& node, const osg::Transform3DPtr& trans
 
 osg::Quaternion worldRotation(const osg::NodePtr& node)
 {
-    const osg::Matrix matrix = node->getToWorld();
-    osg::Vec3f x = column(matrix, 0);
-    osg::Vec3f z = x.cross(column(matrix, 1));
-    if (x.length() < kShortestAxis || z.length() < kShortestAxis * x.length()) {
-        return osg::Quaternion();
-    }
-    x.normalize();
-    z.normalize();
+    return osg::Quaternion(orthonormalised(node->getToWorld()));
+}
+
+osg::Quaternion pivotAxesInWorld(const osg::NodePtr& node, const osg::Transform3DPtr& transform)
+{
+    osg::Matrix axes = parentToWorld(node);
     osg::Matrix rotation;
-    rotation.setValue(x, z.cross(x), z);
-    rotation[3][3] = 1.0F;
-    return osg::Quaternion(rotation);
+    transform->getRotationAsQuaternion().getValue(rotation);
+    axes.mult(rotation);
+    return osg::Quaternion(orthonormalised(axes));
 }
 
 osg::Pnt3f objectCenter(const osg::NodePtr& node, bool worldSpace)

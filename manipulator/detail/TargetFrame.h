@@ -9,8 +9,12 @@
 
 namespace nbec::manipulator::detail {
 
-/// Matrix whose change means that a manipulated node has moved: its to-world matrix, own core
-/// included.
+/// The node whose transform is edited for a selected one: a clip plane's transform node, otherwise
+/// the node itself.
+osg::NodePtr editedNode(const osg::NodePtr& node);
+
+/// Matrix whose change means that a manipulated node has moved: the to-world matrix of the edited
+/// node, own core included.
 osg::Matrix targetToWorld(const osg::NodePtr& node);
 
 /// World from the frame of a node's parent; the identity for a node without a parent.
@@ -24,10 +28,12 @@ osg::Matrix parentToWorld(const osg::NodePtr& node);
 osg::Pnt3f pivotWorld(const osg::NodePtr& node, const osg::Transform3DPtr& transform,
                       bool scalePivot);
 
-/// Orientation of a node's axes in the world, scale and shear taken out by orthonormalising the
-/// columns (x keeps its direction, y its plane with x). Mirrored frames give the right-handed one
-/// with the same x and y; a column shorter than 1e-6 gives the identity.
+/// Orientation of a node's axes in the world, without scale and shear; see orthonormalised().
 osg::Quaternion worldRotation(const osg::NodePtr& node);
+
+/// Orientation of the axes of a transform's rotate pivot in the world: of its rotation without the
+/// rotation orientation.
+osg::Quaternion pivotAxesInWorld(const osg::NodePtr& node, const osg::Transform3DPtr& transform);
 
 /// Centre of the node's volume, of its origin if it has none.
 /// @param worldSpace  in the world; otherwise in the node's own frame, in which pivots are given

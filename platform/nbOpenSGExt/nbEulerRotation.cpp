@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "nbEulerRotation.h"
 
-#include <nbOpenSGExt/detail/RotationMath.h>
+#include <nbOpenSGExt/nbRotationMath.h>
 
 #include <cctype>
 #include <cmath>

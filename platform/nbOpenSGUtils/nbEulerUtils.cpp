@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "nbEulerUtils.h"
 
-#include <nbOpenSGExt/detail/RotationMath.h>
+#include <nbOpenSGExt/nbRotationMath.h>
 
 #include <array>
 #include <cmath>

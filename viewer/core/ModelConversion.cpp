@@ -36,8 +36,12 @@ std::uint8_t byteOf(float component)
 float encoded(float linear)
 {
     constexpr float kKnee = 0.0031308F;
+    constexpr float kSlope = 12.92F;
+    constexpr float kScale = 1.055F;
+    constexpr float kOffset = 0.055F;
+    constexpr float kExponent = 2.4F;
     const float x = std::clamp(linear, 0.0F, 1.0F);
-    return x <= kKnee ? 12.92F * x : 1.055F * std::pow(x, 1.0F / 2.4F) - 0.055F;
+    return x <= kKnee ? kSlope * x : kScale * std::pow(x, 1.0F / kExponent) - kOffset;
 }
 
 /// Makes a model of an imported scene.
@@ -206,8 +210,9 @@ NodeData Conversion::convert(const aiNode& source) const
     aiMatrix4x4 matrix = source.mTransformation;
     matrix.Transpose();  // the importer's memory goes row by row
     const float* values = &matrix.a1;
-    if (std::all_of(values, values + 16, [](float value) { return std::isfinite(value); })) {
-        std::copy(values, values + 16, node.matrix.begin());
+    if (std::all_of(values, values + kMatrixSize,
+                    [](float value) { return std::isfinite(value); })) {
+        std::copy(values, values + kMatrixSize, node.matrix.begin());
     }
     for (unsigned i = 0; i < source.mNumMeshes; ++i) {
         if (source.mMeshes[i] < model.meshes.size() &&

@@ -13,6 +13,9 @@
 namespace viewer {
 
 using Vec3 = std::array<float, 3>;
+/// 4x4, column vectors, column after column.
+constexpr std::size_t kMatrixSize = 16;
+using MatrixValues = std::array<float, kMatrixSize>;
 using Rgb = std::array<float, 3>;  ///< red, green, blue, 0 .. 1, as they reach the screen
 
 /// Surface of one material, as plain arrays; all but `triangles` have one entry per vertex or none
@@ -32,11 +35,14 @@ struct MeshData
 /// Look of a surface.
 struct MaterialData
 {
+    static constexpr float kPlainGrey = 0.7F;
+    static constexpr float kPlainShininess = 20.0F;
+
     QString name;
-    Rgb diffuse { 0.7F, 0.7F, 0.7F };
+    Rgb diffuse { kPlainGrey, kPlainGrey, kPlainGrey };
     Rgb specular { 0.0F, 0.0F, 0.0F };
     Rgb emission { 0.0F, 0.0F, 0.0F };
-    float shininess = 20.0F;  ///< 1 .. 128
+    float shininess = kPlainShininess;  ///< 1 .. 128
     float opacity = 1.0F;  ///< 0 invisible .. 1 opaque
     QImage texture;  ///< multiplied with diffuse; null for none
 };
@@ -45,8 +51,8 @@ struct MaterialData
 struct NodeData
 {
     QString name;
-    /// 4x4, parent from node, column vectors, column after column.
-    std::array<float, 16> matrix { 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1 };
+    /// Parent from node.
+    MatrixValues matrix { 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1 };
     std::vector<std::size_t> meshes;  ///< indices into ModelData::meshes
     std::vector<NodeData> children;
 };

@@ -71,11 +71,13 @@ struct SessionStep
 /// Camera of a session's start; world space.
 struct SessionCamera
 {
+    static constexpr double kDefaultFovDeg = 45.0;
+
     std::array<double, 3> from { 0.0, 0.0, 0.0 };
     std::array<double, 3> at { 0.0, 0.0, 0.0 };
     std::array<double, 3> up { 0.0, 1.0, 0.0 };
     std::optional<std::array<double, 3>> pivot;  ///< what the view turns about; absent: `at`
-    double fovDeg = 45.0;  ///< vertical opening angle, degrees
+    double fovDeg = kDefaultFovDeg;  ///< vertical opening angle, degrees
     bool orthographic = false;
     bool zUp = false;
 };
@@ -84,7 +86,10 @@ struct SessionCamera
 /// picture.
 struct Session
 {
-    QSize sizePx { 1200, 800 };  ///< of the 3D view, device pixels
+    static constexpr int kDefaultWidthPx = 1200;
+    static constexpr int kDefaultHeightPx = 800;
+
+    QSize sizePx { kDefaultWidthPx, kDefaultHeightPx };  ///< of the 3D view, device pixels
     QStringList files;  ///< models to open, relative to the session file; empty: the start scene
     std::optional<SessionCamera> camera;  ///< absent: the camera that the scene starts with
     std::optional<QString>

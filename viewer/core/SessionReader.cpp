@@ -16,7 +16,7 @@
 namespace viewer {
 namespace {
 
-constexpr qint64 kMaxSessionBytes = 64 * 1024 * 1024;
+constexpr qint64 kMaxSessionBytes = 64LL * 1024 * 1024;
 constexpr double kMaxCoordinate = 1e9;
 
 /// Walks a JSON document and remembers the first thing that is wrong with it, with its path.

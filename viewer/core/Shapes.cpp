@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+// NOLINTBEGIN(readability-magic-numbers): the coefficients of curves say nothing by a name.
 namespace viewer {
 namespace {
 
@@ -251,3 +252,5 @@ MeshData makeTwistedColumn(float halfWidth, float height)
 }
 
 }  // namespace viewer
+
+// NOLINTEND(readability-magic-numbers)

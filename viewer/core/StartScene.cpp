@@ -5,6 +5,8 @@
 
 #include <utility>
 
+// NOLINTBEGIN(readability-magic-numbers): places, sizes and colours of a composition say nothing by
+// a name.
 namespace viewer {
 namespace {
 
@@ -147,3 +149,5 @@ ModelData makeStartScene()
 }
 
 }  // namespace viewer
+
+// NOLINTEND(readability-magic-numbers)

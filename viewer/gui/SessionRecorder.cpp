@@ -112,10 +112,8 @@ bool SessionRecorder::eventFilter(QObject* watched, QEvent* event)
         addMouse(Type::Move, *static_cast<QMouseEvent*>(event));
         break;
     case QEvent::MouseButtonPress:
-        addMouse(Type::Press, *static_cast<QMouseEvent*>(event));
-        break;
+    // The release that follows a double click is an event of its own, so it is a press here.
     case QEvent::MouseButtonDblClick:
-        // The release that follows is an event of its own.
         addMouse(Type::Press, *static_cast<QMouseEvent*>(event));
         break;
     case QEvent::MouseButtonRelease:

@@ -46,13 +46,15 @@ void StartUp::run()
         playSession();
         return;
     }
-    if (options.isUnattended() && options.sizePx.isValid()) {
+    if (options.isUnattended()) {
         window.view().fixSize(options.sizePx);
         window.adjustSize();
-    } else if (options.sizePx.isValid()) {
-        window.suggestViewSize(options.sizePx);
     }
     window.show();
+    // How many device pixels a logical one has is known only once the window is on its screen.
+    if (!options.isUnattended() && options.sizePx.isValid()) {
+        window.suggestViewSize(options.sizePx);
+    }
     showFiles();
 }
 
@@ -111,7 +113,7 @@ void StartUp::conclude()
 
 void StartUp::giveUp(const QString& text)
 {
-    complain(text);
+    complain(session ? QStringLiteral("%1: %2").arg(options.session, text) : text);
     QCoreApplication::exit(kBadInputStatus);
 }
 

@@ -15,6 +15,16 @@ namespace {
 /// Pictures that are averaged into one that is written to a file.
 constexpr int kPicturePasses = 4;
 
+/// Above this many pixels one is too small to be told from its neighbours, and memory and time
+/// count more: one pass must do, and the view itself is drawn without samples.
+constexpr int kHugePx = 16 * 1024 * 1024;
+constexpr int kSamples = 8;
+
+bool isHuge(const QSize& sizePx)
+{
+    return sizePx.width() > kHugePx / qMax(sizePx.height(), 1);
+}
+
 constexpr QSize kPreferredSize(1200, 800);
 constexpr QSize kSmallestSize(16, 16);
 
@@ -89,6 +99,7 @@ void ViewWidget::adoptSize()
     renderAction.setPixelRatio(static_cast<float>(ratio));
     pictureView.getAction().setPixelRatio(static_cast<float>(ratio));
     const QSize size = sizePx();
+    renderAction.setSamples(isHuge(size) ? 1 : kSamples);
     viewStage.resize(size.width(), size.height(), static_cast<float>(ratio));
 }
 
@@ -96,8 +107,9 @@ QImage ViewWidget::takePicture(QString& error)
 {
     viewStage.update();
     const QSize size = sizePx();
-    const QImage picture =
-        pictureView.render(renderWidget.getViewport(), size.width(), size.height(), kPicturePasses);
+    const int passes = isHuge(size) ? 1 : kPicturePasses;
+    QImage picture =
+        pictureView.render(renderWidget.getViewport(), size.width(), size.height(), passes);
     if (picture.isNull()) {
         error = QStringLiteral("the view cannot be drawn: %1")
                     .arg(QString::fromStdString(pictureView.getError()));

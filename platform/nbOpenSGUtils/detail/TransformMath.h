@@ -6,7 +6,7 @@
 /// is as long as R, S and o stay.
 #pragma once
 
-#include <nbOpenSGExt/detail/RotationMath.h>
+#include <nbOpenSGExt/nbRotationMath.h>
 #include <nbOpenSGUtils/nbTransformState.h>
 
 #include <OpenSG/OSGMatrix.h>

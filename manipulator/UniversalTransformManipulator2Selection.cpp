@@ -1,0 +1,194 @@
+// SPDX-License-Identifier: MIT
+#include "manipulator/UniversalTransformManipulator2.h"
+#include "manipulator/UniversalTransformManipulator2Drag.h"
+#include "manipulator/UniversalTransformManipulator2Handles.h"
+#include "manipulator/detail/ContainerReference.h"
+#include "manipulator/detail/EditBracket.h"
+#include "manipulator/detail/HandleNodes.h"
+#include "manipulator/detail/MessageSending.h"
+#include "manipulator/detail/NodeVisibility.h"
+#include "manipulator/detail/TargetFrame.h"
+#include "manipulator/detail/ValueText.h"
+
+#include <nbOpenSGUtils/nbNodeUtils.h>
+
+#include <OpenSG/OSGGeometry.h>
+
+#include <QtCore/QString>
+
+#include <unordered_set>
+
+namespace nbec::manipulator {
+
+namespace {
+
+using Mode = UniversalTransformManipulator2::ManipulatorMode;
+using Active = UniversalTransformManipulator2::ActiveMode;
+using NodeIds = std::unordered_set<osg::UInt32>;
+
+/// Half the length of a mark's lines, in gizmo units.
+constexpr float kMarkReach = 0.15F;
+constexpr osg::UInt32 kPointsPerMark = 6;
+
+bool hasSelectedAncestor(const osg::NodePtr& node, const NodeIds& selected)
+{
+    for (osg::NodePtr above = node->getParent(); above != osg::NullFC; above = above->getParent()) {
+        if (selected.count(above.getFieldContainerId()) > 0) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// Text of the values that a handle edits in a mode. Deliberate: the universal mode shows none,
+/// whatever the handle, rings show theirs in mode rotate only, scale handles in mode scale only.
+QString describe(const osg::NodePtr& node, Active handle, Mode mode, bool worldSpace)
+{
+    if (handle >= Active::RotateX && handle <= Active::RotateZ) {
+        return mode == Mode::Rotate
+            ? detail::describeValues("Rotation (", nbNodeUtils::getTransformNodeRotation(node))
+            : QString();
+    }
+    if (handle >= Active::ScaleX) {
+        return mode == Mode::Scale
+            ? detail::describeValues("Scale (", nbNodeUtils::getTransformNodeScale(node))
+            : QString();
+    }
+    switch (mode) {
+    case Mode::Translate:
+    case Mode::Clipping:
+    case Mode::TranslateRotate:
+    case Mode::TranslateRotateYZ:
+    case Mode::TranslateRotateScale:
+        return detail::describeValues("Translation (",
+                                      nbTransformModel::getTranslation(node, worldSpace));
+    case Mode::RotatePivot:
+        return detail::describeValues("Rotate Pivot (",
+                                      nbTransformModel::getRotationPivot(node, worldSpace));
+    case Mode::ScalePivot:
+        return detail::describeValues("Scale Pivot (",
+                                      nbTransformModel::getScalePivot(node, worldSpace));
+    default:
+        return QString();
+    }
+}
+
+}  // namespace
+
+// == Nodes
+
+void UniversalTransformManipulator2::setNode(const osg::NodePtr& node)
+{
+    NodeManipulator::setNode(node);
+    transformationInfos.clear();
+    if (marks != osg::NullFC) {
+        detail::showNode(marks.get(), false);
+    }
+    if (isActive()) {
+        showActiveManipulator();
+    }
+}
+
+void UniversalTransformManipulator2::setNode(const osg::NodePtr& node,
+                                             const std::vector<osg::NodePtr>& nodes)
+{
+    setNode(node);
+    if (node == osg::NullFC) {
+        return;
+    }
+    NodeIds selected = { node.getFieldContainerId() };
+    for (const osg::NodePtr& further : nodes) {
+        selected.insert(detail::containerId(further));
+    }
+    NodeIds taken = { node.getFieldContainerId() };
+    for (const osg::NodePtr& further : nodes) {
+        if (further == osg::NullFC || nbNodeUtils::hasParent(node, further) ||
+            hasSelectedAncestor(further, selected) ||
+            !taken.insert(further.getFieldContainerId()).second) {
+            continue;
+        }
+        NodeTransformationInfo info;
+        info.index = static_cast<osg::UInt32>(transformationInfos.size() + 1);
+        info.nodeId = further.getFieldContainerId();
+        transformationInfos.push_back(info);
+    }
+    if (!transformationInfos.empty()) {
+        createMarks();
+        updateManipulator();
+    }
+}
+
+bool UniversalTransformManipulator2::centerPivot()
+{
+    const osg::NodePtr selected = getNode();
+    const osg::NodePtr node =
+        selected != osg::NullFC ? makeTransform(detail::editedNode(selected)) : selected;
+    if (node == osg::NullFC) {
+        return false;
+    }
+    const osg::Pnt3f center = calculateObjectCenter(node, false);
+    nbNodeUtils::setTransformNodeRotatePivot(node, center.x(), center.y(), center.z(), true, -1);
+    nbNodeUtils::setTransformNodeScalePivot(node, center.x(), center.y(), center.z(), true, -1);
+    updateManipulator();
+    detail::sendTransformationChanged();
+    return true;
+}
+
+// == Marks of the further nodes
+
+void UniversalTransformManipulator2::createMarks()
+{
+    const osg::GeoPTypesPtr types = osg::GeoPTypesUI8::create();
+    const osg::GeoPLengthsPtr lengths = osg::GeoPLengthsUI32::create();
+    const osg::GeoPositionsPtr positions = osg::GeoPositions3f::create();
+    const auto count = static_cast<osg::UInt32>(transformationInfos.size()) * kPointsPerMark;
+    types->push_back(GL_LINES);
+    lengths->push_back(count);
+    positions->resize(count);
+    const osg::GeometryPtr crosses = osg::Geometry::create();
+    {
+        const detail::EditBracket edit(crosses, osg::FieldBits::AllFields);
+        crosses->setTypes(types);
+        crosses->setLengths(lengths);
+        crosses->setPositions(positions);
+        crosses->setMaterial(lineMaterials[static_cast<std::size_t>(HandleColor::Yellow)].get());
+    }
+    const detail::EditBracket edit(multiselection.get(), osg::Node::ChildrenFieldMask);
+    if (marks != osg::NullFC) {
+        multiselection->subChild(marks.get());
+    }
+    marks = detail::makeNode(crosses);
+    multiselection->addChild(marks.get());
+}
+
+void UniversalTransformManipulator2::updateMarks(float size)
+{
+    const osg::GeometryPtr crosses = osg::GeometryPtr::dcast(marks->getCore());
+    const osg::GeoPositionsPtr positions = crosses->getPositions();
+    const detail::EditBracket edit(positions, osg::FieldBits::AllFields);
+    osg::UInt32 next = 0;
+    for (const NodeTransformationInfo& info : transformationInfos) {
+        const osg::NodePtr node = detail::resolveContainer<osg::NodePtr>(info.nodeId);
+        // A node that is gone leaves lines without length, which show nothing.
+        const osg::Pnt3f center = node != osg::NullFC ? anchorWorld(node) : osg::Pnt3f();
+        const float reach = node != osg::NullFC ? size * kMarkReach : 0.0F;
+        for (osg::UInt32 axis = 0; axis < 3; ++axis) {
+            osg::Vec3f arm;
+            arm[axis] = reach;
+            positions->setValue(center - arm, next++);
+            positions->setValue(center + arm, next++);
+        }
+    }
+}
+
+// == On-screen text
+
+void UniversalTransformManipulator2::setDescription(const osg::NodePtr& node)
+{
+    static detail::ValueText text("transformInfo");
+    text.show(node != osg::NullFC && descriptionEnabled
+                  ? describe(node, activeHandle, mode, !m_LocalSpaceManipulator)
+                  : QString());
+}
+
+}  // namespace nbec::manipulator
