@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <nbOpenSGExt/detail/RotationMath.h>
+#include <nbOpenSGExt/nbRotationMath.h>
 #include <nbUtils/nbPlatformExport.h>
 
 #include <OpenSG/OSGQuaternion.h>
