@@ -306,8 +306,7 @@ TransformStart UniversalTransformManipulator2::captureStart(const osg::NodePtr& 
                                     : nbTransformModel::getRotationPivot(node, true);
     start.rotation = transform->getRotationAsQuaternion();
     const int order = nbEulerUtils::getOrderFromString(transform->getEulerRotationOrder());
-    start.accumulated =
-        nbEulerUtils::toRadians(nbEulerUtils::fromDegrees(transform->getRotation(), order));
+    start.accumulated = nbEulerUtils::fromDegrees(transform->getRotation(), order);
     if (isRing(activeHandle)) {
         // The axis that the parent's frame maps onto the drawn one; a mirrored parent turns the
         // other way.
