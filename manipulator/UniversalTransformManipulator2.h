@@ -287,6 +287,7 @@ private:
 
     osg::RefPtr<osg::NodePtr> root;
     osg::RefPtr<osg::NodePtr> handleTree;
+    osg::Transform3DPtr placement;  ///< core of the handle tree, which never gets another
     osg::RefPtr<osg::NodePtr> multiselection;
     osg::RefPtr<osg::NodePtr> marks;  ///< crosses of the further nodes, made when there are some
     osg::RefPtr<osg::NodePtr> additionalGeometry;
