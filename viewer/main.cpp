@@ -11,6 +11,7 @@
 
 #include <QApplication>
 #include <QSurfaceFormat>
+#include <QTimer>
 
 #include <clocale>
 #include <cstdio>
@@ -85,7 +86,8 @@ int runWindow(QApplication& application, const CommandLine& options,
     viewer::MainWindow window(options.isUnattended() ? Attendance::Unattended
                                                      : Attendance::Attended);
     StartUp startUp(window, options, session);
-    startUp.run();
+    // From the event loop, which alone can be ended.
+    QTimer::singleShot(0, &startUp, &StartUp::run);
     return application.exec();
 }
 

@@ -113,7 +113,7 @@ void StartUp::conclude()
 
 void StartUp::giveUp(const QString& text)
 {
-    complain(text);
+    complain(session ? QStringLiteral("%1: %2").arg(options.session, text) : text);
     QCoreApplication::exit(kBadInputStatus);
 }
 
