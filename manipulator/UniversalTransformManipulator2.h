@@ -246,7 +246,9 @@ private:
     void prepareManipulator(const osg::NodePtr& node);
     void prepareManipulator(const osg::NodePtr& node, NodeTransformationInfo& info);
     TransformStart captureStart(const osg::NodePtr& node) const;
-    void updateManipulatorPlane();
+    void updateManipulatorPlane(const osg::NodePtr& node);
+    /// World direction in which an axis of the active handle goes, unit length.
+    osg::Vec3f movementAxis(const osg::NodePtr& node, osg::UInt32 axis) const;
     osg::Matrix gizmoFrame() const;
     osg::Matrix translationFrame(const osg::NodePtr& node, const osg::Transform3DPtr& transform);
     osg::Matrix scaleFrame(const osg::Pnt3f& start) const;

@@ -81,6 +81,7 @@ void UniversalTransformManipulator2::setNode(const osg::NodePtr& node)
 {
     NodeManipulator::setNode(node);
     transformationInfos.clear();
+    prepared = false;  // a drag goes on from here with the new nodes
     if (marks != osg::NullFC) {
         detail::showNode(marks.get(), false);
     }

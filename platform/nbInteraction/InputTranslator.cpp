@@ -3,9 +3,6 @@
 #include <nbInteraction/InputTranslator.h>
 #include <nbInteraction/InteractionManager.h>
 #include <nbKernel/nbOSGWidget.h>
-#include <nbKernel/nbScenegraph.h>
-
-#include <OpenSG/OSGChangeCount.h>
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -13,6 +10,8 @@
 
 #include <algorithm>
 #include <cmath>
+
+#include <EditStamp.h>
 
 namespace nbec::interaction {
 
@@ -118,11 +117,11 @@ osg::Pnt2f InputTranslator::toDevicePixels(const QPointF& logical) const
 
 bool InputTranslator::handleEvent(QEvent& event)
 {
-    const osg::UInt64 formerCount = osg::getTreeChangeCount(nbScenegraph::getWorldRoot());
+    const osg::UInt64 formerStamp = osg::glue::editStamp();
     const bool taken = translate(event);
     // Only what the event really changed is worth a redraw; handles light up without taking it.
     nbOSGWidget* const view = currentWidget();
-    if (view && osg::getTreeChangeCount(nbScenegraph::getWorldRoot()) != formerCount) {
+    if (view && osg::glue::editStamp() != formerStamp) {
         view->update();
     }
     return taken;
