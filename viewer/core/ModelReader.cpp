@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QImageReader>
 
+#include <algorithm>
 #include <exception>
 
 #include <assimp/Importer.hpp>
@@ -106,6 +107,16 @@ bool isPlyHeaderWhole(const QString& path)
     return false;
 }
 
+/// Files that are cut short may have faces without corners, which end the importer's program.
+bool hasEmptyFaces(const aiScene& scene)
+{
+    const auto isEmpty = [](const aiFace& face) { return face.mNumIndices == 0; };
+    return std::any_of(
+        scene.mMeshes, scene.mMeshes + scene.mNumMeshes, [&isEmpty](const aiMesh* mesh) {
+            return std::any_of(mesh->mFaces, mesh->mFaces + mesh->mNumFaces, isEmpty);
+        });
+}
+
 std::optional<ModelData> readWithImporter(const QString& path, const ReadProgress& report,
                                           QString& error)
 {
@@ -117,7 +128,15 @@ std::optional<ModelData> readWithImporter(const QString& path, const ReadProgres
     auto* progress = new Progress(report);
     importer.SetProgressHandler(progress);  // which owns it
     const unsigned flags = importFlags(path, importer);
-    const aiScene* scene = importer.ReadFile(QFile::encodeName(path).constData(), flags);
+    const aiScene* scene =
+        importer.ReadFile(QFile::encodeName(path).constData(), aiProcess_ValidateDataStructure);
+    if (scene != nullptr && hasEmptyFaces(*scene)) {
+        return fail(path, QStringLiteral("cannot be read as a model: it has faces without corners"),
+                    error);
+    }
+    if (scene != nullptr) {
+        scene = importer.ApplyPostProcessing(flags);
+    }
     if (progress->isCancelled()) {
         return fail(path, QStringLiteral("reading was stopped"), error);
     }
