@@ -130,6 +130,10 @@ TEST_F(ModelReader, BrokenFilesGiveOneLineWithTheirName)
         { "short.ply",
           "ply\nformat binary_little_endian 1.0\nelement vertex 1000000\nproperty float "
           "x\nend_header\nab" },
+        { "cut.ply", "ply\nformat ascii 1.0\nelement vertex 4\nproperty float x\nproperty uc" },
+        { "cornerless.ply",
+          "ply\nformat ascii 1.0\nelement vertex 3\nproperty float x\nproperty float y\nproperty "
+          "float z\nelement face 1\nproperty list uchar int vertex_indices\nend_header\n0 0 0\n" },
         { "noise.stl", noise },
         { "long.stl", QByteArray(80, ' ') + QByteArray("\xff\xff\xff\x7f", 4) },
         { "noise.glb", noise },

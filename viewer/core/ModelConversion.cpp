@@ -144,10 +144,11 @@ MaterialData Conversion::convert(const aiMaterial& source)
         material.name = text(name);
     }
     material.diffuse = color(source, AI_MATKEY_COLOR_DIFFUSE, material.diffuse);
-    material.specular = color(source, AI_MATKEY_COLOR_SPECULAR, material.specular);
     material.emission = color(source, AI_MATKEY_COLOR_EMISSIVE, material.emission);
     float value = 0.0F;
     if (source.Get(AI_MATKEY_SHININESS, value) == AI_SUCCESS && value >= 1.0F) {
+        // Without an exponent a gloss would lie over the whole surface.
+        material.specular = color(source, AI_MATKEY_COLOR_SPECULAR, material.specular);
         material.shininess = std::min(value, kMaxShininess);
     }
     // Some programs write 0 where they mean that nothing is transparent.

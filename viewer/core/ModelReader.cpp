@@ -3,9 +3,11 @@
 
 #include "viewer/core/ModelConversion.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
 
+#include <algorithm>
 #include <exception>
 
 #include <assimp/Importer.hpp>
@@ -61,6 +63,11 @@ private:
     bool goOn = true;
 };
 
+bool hasEnding(const QString& path, const char* ending)
+{
+    return QFileInfo(path).suffix().compare(QLatin1String(ending), Qt::CaseInsensitive) == 0;
+}
+
 unsigned importFlags(const QString& path, Assimp::Importer& importer)
 {
     unsigned flags = aiProcess_Triangulate | aiProcess_JoinIdenticalVertices |
@@ -70,7 +77,7 @@ unsigned importFlags(const QString& path, Assimp::Importer& importer)
                                 aiPrimitiveType_POINT | aiPrimitiveType_LINE);
     importer.SetPropertyFloat(AI_CONFIG_PP_GSN_MAX_SMOOTHING_ANGLE, kCreaseAngleDeg);
     // An STL file has one normal for each triangle, which would make every surface look faceted.
-    if (QFileInfo(path).suffix().compare(QLatin1String("stl"), Qt::CaseInsensitive) == 0) {
+    if (hasEnding(path, "stl")) {
         importer.SetPropertyInteger(AI_CONFIG_PP_RVC_FLAGS, aiComponent_NORMALS);
         flags |= aiProcess_RemoveComponent;
     }
@@ -83,14 +90,53 @@ std::optional<ModelData> fail(const QString& path, const QString& what, QString&
     return std::nullopt;
 }
 
+/// Whether the header of a PLY file reaches its end; the importer would look for it for ever.
+bool isPlyHeaderWhole(const QString& path)
+{
+    constexpr qint64 kLongestLine = 65536;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return false;
+    }
+    while (!file.atEnd()) {
+        // Files of old systems end their lines with a carriage return alone.
+        if (file.readLine(kLongestLine).contains("end_header")) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// Files that are cut short may have faces without corners, which end the importer's program.
+bool hasEmptyFaces(const aiScene& scene)
+{
+    const auto isEmpty = [](const aiFace& face) { return face.mNumIndices == 0; };
+    return std::any_of(
+        scene.mMeshes, scene.mMeshes + scene.mNumMeshes, [&isEmpty](const aiMesh* mesh) {
+            return std::any_of(mesh->mFaces, mesh->mFaces + mesh->mNumFaces, isEmpty);
+        });
+}
+
 std::optional<ModelData> readWithImporter(const QString& path, const ReadProgress& report,
                                           QString& error)
 {
+    if (hasEnding(path, "ply") && !isPlyHeaderWhole(path)) {
+        return fail(path, QStringLiteral("cannot be read as a model: its header has no end"),
+                    error);
+    }
     Assimp::Importer importer;
     auto* progress = new Progress(report);
     importer.SetProgressHandler(progress);  // which owns it
     const unsigned flags = importFlags(path, importer);
-    const aiScene* scene = importer.ReadFile(QFile::encodeName(path).constData(), flags);
+    const aiScene* scene =
+        importer.ReadFile(QFile::encodeName(path).constData(), aiProcess_ValidateDataStructure);
+    if (scene != nullptr && hasEmptyFaces(*scene)) {
+        return fail(path, QStringLiteral("cannot be read as a model: it has faces without corners"),
+                    error);
+    }
+    if (scene != nullptr) {
+        scene = importer.ApplyPostProcessing(flags);
+    }
     if (progress->isCancelled()) {
         return fail(path, QStringLiteral("reading was stopped"), error);
     }

@@ -98,8 +98,11 @@ void Stage::showStartScene()
     clear();
     const osg::NodePtr node = add(makeStartScene());
     CameraPose start;
-    start.from = pointOf(kStartSceneFrom);
     start.at = pointOf(kStartSceneAt);
+    // In a narrow view the eye steps back, so that the table keeps its place.
+    const float aspect = renderWidget.getUberViewport()->getDeviceAspect();
+    const float retreat = aspect > 0.0F ? std::max(1.0F, kStartSceneAspect / aspect) : 1.0F;
+    start.from = start.at + (pointOf(kStartSceneFrom) - start.at) * retreat;
     start.pivot = start.at;
     start.fovDeg = kStartFovDeg;
     setPose(start);

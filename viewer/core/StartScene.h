@@ -14,6 +14,9 @@ constexpr const char* kStartSceneMainObject = "Knot";
 constexpr std::array<float, 3> kStartSceneFrom { 6.4F, 5.3F, 9.6F };
 constexpr std::array<float, 3> kStartSceneAt { 0.0F, 1.25F, 0.0F };
 
+/// Narrowest view that shows all of the start scene from there, width by height.
+constexpr float kStartSceneAspect = 1.3F;
+
 /// The scene shown when no file is given: a still life on a round table, y up, the table's top at y
 /// = 0.
 ModelData makeStartScene();
