@@ -32,11 +32,12 @@ osg::Pnt3f pivotInParent(const osg::Transform3DPtr& transform, bool scalePivot)
 {
     osg::Vec3f place = transform->getTranslation() + transform->getRotatePivot();
     if (scalePivot) {
-        osg::Quaternion turn = transform->getRotationAsQuaternion();
-        turn.mult(transform->getRotationOrientation());
-        osg::Vec3f arm = transform->getScalePivot() - transform->getRotatePivot();
-        turn.multVec(arm, arm);
-        place += arm;
+        const nbRotationMath::Rows& turn = transform->getWholeRotation();
+        const osg::Vec3f arm = transform->getScalePivot() - transform->getRotatePivot();
+        for (osg::UInt32 i = 0; i < 3; ++i) {
+            place[i] += static_cast<float>(turn[i][0] * arm.x() + turn[i][1] * arm.y() +
+                                           turn[i][2] * arm.z());
+        }
     }
     return osg::Pnt3f(place);
 }
