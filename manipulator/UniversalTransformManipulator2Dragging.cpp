@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/UniversalTransformManipulator2.h"
 #include "manipulator/UniversalTransformManipulator2Drag.h"
+#include "manipulator/UniversalTransformManipulator2Handles.h"
 #include "manipulator/detail/ContainerReference.h"
 #include "manipulator/detail/DragGeometry.h"
 #include "manipulator/detail/MessageSending.h"
@@ -19,6 +20,9 @@
 
 namespace nbec::manipulator {
 
+using detail::mapped;
+using detail::rotated;
+
 namespace {
 
 using Active = UniversalTransformManipulator2::ActiveMode;
@@ -30,54 +34,6 @@ constexpr float kLeastAxisRatio = 0.01F;
 constexpr float kLeastUniformFactor = 0.1F;
 constexpr float kUniformSpeed = 0.1F;
 constexpr double kDegreeFactor = 3.1415927 / 360.0;
-
-bool isRing(Active handle)
-{
-    return handle >= Active::RotateX && handle <= Active::RotateZ;
-}
-
-bool isTranslation(Active handle)
-{
-    return handle >= Active::TranslateX && handle <= Active::TranslateYZ;
-}
-
-bool isScale(Active handle)
-{
-    return handle >= Active::ScaleX && handle <= Active::ScaleUniform;
-}
-
-/// Axis of a handle of one axis: 0, 1, 2; 3 for all others.
-osg::UInt32 axisOf(Active handle)
-{
-    const auto value = static_cast<osg::UInt32>(handle);
-    if (isRing(handle)) {
-        return value - static_cast<osg::UInt32>(Active::RotateX);
-    }
-    if (value >= static_cast<osg::UInt32>(Active::TranslateX) &&
-        value <= static_cast<osg::UInt32>(Active::TranslateZ)) {
-        return value - static_cast<osg::UInt32>(Active::TranslateX);
-    }
-    if (value >= static_cast<osg::UInt32>(Active::ScaleX) &&
-        value <= static_cast<osg::UInt32>(Active::ScaleZ)) {
-        return value - static_cast<osg::UInt32>(Active::ScaleX);
-    }
-    return 3;
-}
-
-/// Axis at right angles to a plane handle: z of xy, y of xz, x of yz; 3 for all others.
-osg::UInt32 planeNormalAxis(Active handle)
-{
-    switch (handle) {
-    case Active::TranslateXY:
-        return 2;
-    case Active::TranslateXZ:
-        return 1;
-    case Active::TranslateYZ:
-        return 0;
-    default:
-        return 3;
-    }
-}
 
 /// Keeps the components along which a handle moves; none of a handle that is no arrow or plane.
 osg::Vec3f maskedByHandle(const osg::Vec3f& delta, Active handle)
@@ -99,12 +55,6 @@ osg::Vec3f snappedLength(const osg::Vec3f& delta, double step)
     return delta * (scale * static_cast<float>(detail::snapped(length, step)));
 }
 
-osg::Vec3f rotated(const osg::Quaternion& rotation, osg::Vec3f vector)
-{
-    rotation.multVec(vector, vector);
-    return vector;
-}
-
 /// Quaternion of an angle about an axis, in double. @param axis  one not longer than 1e-6 gives the
 /// identity
 osg::Quaterniond turnAbout(const osg::Vec3f& axis, double angleRad)
@@ -117,38 +67,6 @@ osg::Quaterniond turnAbout(const osg::Vec3f& axis, double angleRad)
                             std::cos(angleRad / 2));
     }
     return turn;
-}
-
-osg::Vec3f column(const osg::Matrix& matrix, osg::UInt32 index)
-{
-    return osg::Vec3f(matrix[index][0], matrix[index][1], matrix[index][2]);
-}
-
-/// A frame whose axis number `axis` is the ring's normal and the next one the radial direction.
-osg::Matrix matrixOf(const detail::RingFrame& ring, osg::UInt32 axis)
-{
-    osg::Matrix frame;
-    const auto setColumn = [&frame](osg::UInt32 index, const osg::Vec3f& value) {
-        frame[index % 3] = osg::Vec4f(value.x(), value.y(), value.z(), 0.0F);
-    };
-    setColumn(axis, ring.normal);
-    setColumn(axis + 1, ring.radial);
-    setColumn(axis + 2, ring.tangent);
-    frame.setTranslate(ring.center);
-    return frame;
-}
-
-osg::Matrix inverted(const osg::Matrix& matrix)
-{
-    osg::Matrix result;
-    matrix.inverse(result);
-    return result;
-}
-
-osg::Pnt3f mapped(const osg::Matrix& matrix, osg::Pnt3f point)
-{
-    matrix.multMatrixPnt(point);
-    return point;
 }
 
 }  // namespace
@@ -237,180 +155,6 @@ void UniversalTransformManipulator2::dragTo(const osg::NodePtr& node, const osg:
     } else if (isScale(activeHandle)) {
         scale(node, point);
     }
-}
-
-// == Preparation
-
-void UniversalTransformManipulator2::prepareAll(const osg::NodePtr& node)
-{
-    prepareManipulator(node);
-    for (NodeTransformationInfo& info : transformationInfos) {
-        const osg::NodePtr further = getTransform(info.index);
-        if (further != osg::NullFC) {
-            prepareManipulator(further, info);
-        }
-    }
-    prepared = true;
-}
-
-osg::NodePtr UniversalTransformManipulator2::getTransform(osg::UInt32 index)
-{
-    if (index == 0) {
-        const osg::NodePtr selected = getNode();
-        return selected != osg::NullFC ? makeTransform(detail::editedNode(selected)) : selected;
-    }
-    const osg::NodePtr further =
-        detail::resolveContainer<osg::NodePtr>(transformationInfos[index - 1].nodeId);
-    return further != osg::NullFC ? makeTransform(further) : further;
-}
-
-void UniversalTransformManipulator2::prepareManipulator(const osg::NodePtr& node)
-{
-    const osg::Transform3DPtr transform = osg::Transform3DPtr::dcast(node->getCore());
-    *drag = TransformDrag();
-    updateManipulatorPlane(node);
-    drag->start = captureStart(node);
-
-    const nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1);
-    osg::Line ray;
-    drag->startWorld = grabbedPoint;
-    if (widget != nullptr && detail::pointerRay(*widget, ray) &&
-        !detail::intersectPlane(drag->plane, ray, drag->startWorld)) {
-        // The handle was hit this side of the plane's horizon, the plane is met beyond it.
-        drag->plane = osg::Plane(drag->plane.getNormal(), grabbedPoint);
-        detail::intersectPlane(drag->plane, ray, drag->startWorld);
-    }
-    if (!isRing(activeHandle)) {
-        drag->inverseDragFrame = inverted(translationFrame(node, transform));
-    }
-    drag->inverseScaleFrame = inverted(scaleFrame(drag->startWorld));
-    drag->startLocal = mapped(drag->inverseDragFrame, drag->startWorld);
-    drag->lastRotationPoint = drag->startLocal;
-    drag->scaleAnchor = mapped(drag->inverseScaleFrame, drag->startWorld).subZero();
-}
-
-void UniversalTransformManipulator2::prepareManipulator(const osg::NodePtr& node,
-                                                        NodeTransformationInfo& info)
-{
-    info.start = captureStart(node);
-}
-
-TransformStart UniversalTransformManipulator2::captureStart(const osg::NodePtr& node) const
-{
-    const osg::Transform3DPtr transform = osg::Transform3DPtr::dcast(node->getCore());
-    TransformStart start;
-    start.translationLocal = nbTransformModel::getTranslation(node, false);
-    start.translationWorld = nbTransformModel::getTranslation(node, true);
-    start.scale = transform->getScale();
-    const bool isScalePivot = mode == ManipulatorMode::ScalePivot;
-    start.pivotLocal = isScalePivot ? nbTransformModel::getScalePivot(node, false)
-                                    : nbTransformModel::getRotationPivot(node, false);
-    start.pivotWorld = isScalePivot ? nbTransformModel::getScalePivot(node, true)
-                                    : nbTransformModel::getRotationPivot(node, true);
-    start.rotation = transform->getRotationAsQuaternion();
-    const int order = nbEulerUtils::getOrderFromString(transform->getEulerRotationOrder());
-    start.accumulated = nbEulerUtils::fromDegrees(transform->getRotation(), order);
-    if (isRing(activeHandle)) {
-        // The axis that the parent's frame maps onto the drawn one; a mirrored parent turns the
-        // other way.
-        const osg::Matrix worldFromParent = detail::parentToWorld(node);
-        start.ringAxis = column(gizmoFrame(), axisOf(activeHandle));
-        inverted(worldFromParent).multMatrixVec(start.ringAxis);
-        start.ringAxis.normalize();
-        start.ringSign = worldFromParent.det3() < 0.0F ? -1.0 : 1.0;
-    }
-    return start;
-}
-
-void UniversalTransformManipulator2::updateManipulatorPlane(const osg::NodePtr& node)
-{
-    const osg::Matrix frame = gizmoFrame();
-    const osg::Pnt3f center(frame[3][0], frame[3][1], frame[3][2]);
-    const osg::UInt32 axis = axisOf(activeHandle);
-    const osg::UInt32 normalAxis = planeNormalAxis(activeHandle);
-    if (isRing(activeHandle)) {
-        const detail::RingFrame ring = detail::ringDragFrame(
-            center, column(frame, axis), grabbedPoint, detail::viewDirection(grabbedPoint));
-        drag->inverseDragFrame = inverted(matrixOf(ring, axis));
-        drag->plane = osg::Plane(ring.normal, ring.center);
-    } else if (normalAxis < 3) {
-        osg::Vec3f normal = movementAxis(node, (normalAxis + 1) % 3)
-                                .cross(movementAxis(node, (normalAxis + 2) % 3));
-        normal.normalize();
-        drag->plane = osg::Plane(normal, center);
-    } else if (axis < 3) {
-        drag->plane = osg::Plane(
-            detail::axisPlaneNormal(movementAxis(node, axis), detail::viewDirection(center)),
-            center);
-    } else {
-        drag->plane = osg::Plane(detail::viewDirection(grabbedPoint), grabbedPoint);
-    }
-}
-
-osg::Vec3f UniversalTransformManipulator2::movementAxis(const osg::NodePtr& node,
-                                                        osg::UInt32 axis) const
-{
-    osg::Vec3f direction = column(gizmoFrame(), axis);
-    if (m_LocalSpaceManipulator && isTranslation(activeHandle)) {
-        // Below a parent with different scales the node's own axes are not at right angles, as the
-        // drawn ones are; the node goes along its own.
-        osg::Vec3f own;
-        own[axis] = 1.0F;
-        own = rotated(osg::Transform3DPtr::dcast(node->getCore())->getRotationAsQuaternion(), own);
-        detail::parentToWorld(node).multMatrixVec(own);
-        direction = own.length() < kShortest ? direction : own;
-    }
-    direction.normalize();
-    return direction;
-}
-
-osg::Matrix UniversalTransformManipulator2::gizmoFrame() const
-{
-    const osg::Matrix placed = handleTree->getToWorld();
-    osg::Matrix frame = detail::orthonormalised(placed);
-    frame.setTranslate(placed[3][0], placed[3][1], placed[3][2]);
-    return frame;
-}
-
-osg::Matrix UniversalTransformManipulator2::translationFrame(const osg::NodePtr& node,
-                                                             const osg::Transform3DPtr& transform)
-{
-    for (osg::UInt32 i = 0; i < 3; ++i) {
-        const float factor = drag->start.scale[i];
-        drag->frameScale[i] = std::abs(factor) < kShortest ? 1.0F : factor;
-    }
-    osg::Matrix own;
-    own.setTransform(transform->getTranslation(), drag->start.rotation, drag->frameScale);
-    osg::Matrix frame = detail::parentToWorld(node);
-    frame.mult(own);
-    return frame;
-}
-
-osg::Matrix UniversalTransformManipulator2::scaleFrame(const osg::Pnt3f& start) const
-{
-    if (activeHandle != ActiveMode::ScaleUniform) {
-        return gizmoFrame();
-    }
-    // Up the screen is more, wherever the cube is grabbed: the origin lies one gizmo unit below.
-    osg::Pnt3f from;
-    osg::Pnt3f at;
-    osg::Vec3f cameraUp;
-    nbOSGWidget::getFromAtUp(-1, from, at, cameraUp);
-    osg::Vec3f sight = at - from;
-    sight.normalize();
-    osg::Vec3f right = sight.cross(cameraUp);
-    right.normalize();
-    const osg::Vec3f up = right.cross(sight);
-    osg::Matrix frame;
-    if (nbOSGWidget::isCameraZUp()) {
-        frame.setValue(right, sight, up);
-    } else {
-        frame.setValue(right, up, -sight);
-    }
-    frame[3][3] = 1.0F;
-    const float unit = column(handleTree->getToWorld(), 0).length();
-    frame.setTranslate(start - up * unit);
-    return frame;
 }
 
 // == The five transformations

@@ -15,11 +15,6 @@ constexpr float kShortest = 1e-6F;
 constexpr double kGreatestTiltCosine = 0.7660444431189780;
 constexpr double kGreatestTilt = 0.6981317007977318;
 
-osg::Vec3f column(const osg::Matrix& matrix, osg::UInt32 index)
-{
-    return osg::Vec3f(matrix[index][0], matrix[index][1], matrix[index][2]);
-}
-
 /// Any unit vector at right angles to a unit vector.
 osg::Vec3f anyPerpendicular(const osg::Vec3f& axis)
 {
@@ -65,6 +60,30 @@ void faceViewer(RingFrame& frame, const osg::Vec3f& towardsNormal)
 }
 
 }  // namespace
+
+osg::Vec3f column(const osg::Matrix& matrix, osg::UInt32 index)
+{
+    return osg::Vec3f(matrix[index][0], matrix[index][1], matrix[index][2]);
+}
+
+osg::Matrix inverted(const osg::Matrix& matrix)
+{
+    osg::Matrix result;
+    matrix.inverse(result);
+    return result;
+}
+
+osg::Pnt3f mapped(const osg::Matrix& matrix, osg::Pnt3f point)
+{
+    matrix.multMatrixPnt(point);
+    return point;
+}
+
+osg::Vec3f rotated(const osg::Quaternion& rotation, osg::Vec3f vector)
+{
+    rotation.multVec(vector, vector);
+    return vector;
+}
 
 bool pointerRay(const nbOSGWidget& widget, osg::Line& ray)
 {

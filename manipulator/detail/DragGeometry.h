@@ -4,11 +4,25 @@
 #include <OpenSG/OSGLine.h>
 #include <OpenSG/OSGMatrix.h>
 #include <OpenSG/OSGPlane.h>
+#include <OpenSG/OSGQuaternion.h>
 #include <OpenSG/OSGVector.h>
 
 class nbOSGWidget;
 
 namespace nbec::manipulator::detail {
+
+/// A column of a matrix without its last row: the direction of an axis, or (index 3) the place of
+/// the origin.
+osg::Vec3f column(const osg::Matrix& matrix, osg::UInt32 index);
+
+/// The inverse; the identity for a singular matrix.
+osg::Matrix inverted(const osg::Matrix& matrix);
+
+/// A point under an affine matrix.
+osg::Pnt3f mapped(const osg::Matrix& matrix, osg::Pnt3f point);
+
+/// A vector under a rotation.
+osg::Vec3f rotated(const osg::Quaternion& rotation, osg::Vec3f vector);
 
 /// Ray through the widget's pointer, world space, from the near plane on; the pointer's constant
 /// pixel of OpenSG's calcViewRay cancels out of differences.
