@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <manipulator/ManipulatorInteractionContext.h>
-#include <manipulator/UniversalTransformManipulator2.h>
 #include <nbInteraction/InteractionManager.h>
 #include <nbInteraction/Picker.h>
 #include <nbKernel/nbOSGWidget.h>
@@ -11,6 +9,9 @@
 #include <OpenSG/OSGSimpleGeometry.h>
 
 #include <iostream>
+
+#include <manipulator/ManipulatorInteractionContext.h>
+#include <manipulator/UniversalTransformManipulator2.h>
 
 int main(int argc, char** argv)
 {
