@@ -30,7 +30,6 @@ int main(int argc, char** argv)
         context.setManipulator(&gizmo);
         nbec::interaction::InteractionManager manager;
         manager.addContext(&context);
-
         view.setMousePosition(osg::Pnt2f(497, 300));
         manager.triggerEvent(nbec::interaction::InteractionEvent("hover", "tool", "select"));
         std::cout << nbNodeUtils::getName(picker.getHitNode()) << '\n';
