@@ -17,6 +17,7 @@
 
 namespace nbec::manipulator {
 
+class RotationStep;
 struct NodeTransformationInfo;
 struct TransformDrag;
 struct TransformStart;
@@ -260,7 +261,7 @@ private:
     void translatePivot(const osg::NodePtr& node, const osg::Pnt3f& point);
     void rotatePivot(const osg::NodePtr& node, const osg::Pnt3f& point);
     static double computeRotation(const osg::Pnt3f& from, const osg::Pnt3f& to, osg::UInt32 axis);
-    static void accumulate(TransformStart& start, double angleRad);
+    static void accumulate(TransformStart& start, RotationStep& step);
     osg::Vec3f handleDelta(const osg::Pnt3f& point) const;
     osg::Vec3f scaleFactors(const osg::Pnt3f& point) const;
     const TransformStart& startOf(osg::UInt32 index) const;
@@ -286,6 +287,7 @@ private:
 
     osg::RefPtr<osg::NodePtr> root;
     osg::RefPtr<osg::NodePtr> handleTree;
+    osg::Transform3DPtr placement;  ///< core of the handle tree, which never gets another
     osg::RefPtr<osg::NodePtr> multiselection;
     osg::RefPtr<osg::NodePtr> marks;  ///< crosses of the further nodes, made when there are some
     osg::RefPtr<osg::NodePtr> additionalGeometry;

@@ -274,7 +274,10 @@ void UniversalTransformManipulator2::prepareManipulator(const osg::NodePtr& node
     const nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1);
     osg::Line ray;
     drag->startWorld = grabbedPoint;
-    if (widget != nullptr && detail::pointerRay(*widget, ray)) {
+    if (widget != nullptr && detail::pointerRay(*widget, ray) &&
+        !detail::intersectPlane(drag->plane, ray, drag->startWorld)) {
+        // The handle was hit this side of the plane's horizon, the plane is met beyond it.
+        drag->plane = osg::Plane(drag->plane.getNormal(), grabbedPoint);
         detail::intersectPlane(drag->plane, ray, drag->startWorld);
     }
     if (!isRing(activeHandle)) {
@@ -501,9 +504,10 @@ void UniversalTransformManipulator2::rotate(const osg::NodePtr& node, const osg:
         }
     }
     drag->lastRotationPoint = rotationPoint;
-    accumulate(drag->start, angle);
+    RotationStep step(angle);
+    accumulate(drag->start, step);
     for (NodeTransformationInfo& info : transformationInfos) {
-        accumulate(info.start, angle);
+        accumulate(info.start, step);
     }
     model->setRotation(targetCount(), [&](osg::UInt32 index) {
         const nbEulerAngles degrees = nbEulerUtils::toDegrees(startOf(index).accumulated);
@@ -512,15 +516,25 @@ void UniversalTransformManipulator2::rotate(const osg::NodePtr& node, const osg:
     finishStep(node, true);
 }
 
-void UniversalTransformManipulator2::accumulate(TransformStart& start, double angleRad)
+void UniversalTransformManipulator2::accumulate(TransformStart& start, RotationStep& step)
 {
-    const int order = start.accumulated.order;
-    nbEulerAngles step =
-        nbEulerUtils::EulFromQuat(turnAbout(start.ringAxis, angleRad * start.ringSign), 0);
-    if (step.order != order) {
-        step = nbEulerUtils::convertOrder(step, order);
+    start.accumulated = nbEulerUtils::multiply(
+        step.about(start.ringAxis, start.ringSign, start.accumulated.order), start.accumulated);
+}
+
+const nbEulerAngles& RotationStep::about(const osg::Vec3f& newAxis, double newSign, int order)
+{
+    if (isKnown && newAxis == axis && newSign == sign && order == angles.order) {
+        return angles;
     }
-    start.accumulated = nbEulerUtils::multiply(step, start.accumulated);
+    isKnown = true;
+    axis = newAxis;
+    sign = newSign;
+    angles = nbEulerUtils::EulFromQuat(turnAbout(axis, angleRad * sign), 0);
+    if (angles.order != order) {
+        angles = nbEulerUtils::convertOrder(angles, order);
+    }
+    return angles;
 }
 
 osg::Vec3f UniversalTransformManipulator2::scaleFactors(const osg::Pnt3f& point) const
