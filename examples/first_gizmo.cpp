@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <manipulator/ManipulatorInteractionContext.h>
-#include <manipulator/UniversalTransformManipulator2.h>
 #include <nbInteraction/InteractionManager.h>
 #include <nbInteraction/Picker.h>
 #include <nbKernel/nbOSGWidget.h>
@@ -11,6 +9,9 @@
 #include <OpenSG/OSGSimpleGeometry.h>
 
 #include <iostream>
+
+#include <manipulator/ManipulatorInteractionContext.h>
+#include <manipulator/UniversalTransformManipulator2.h>
 
 int main(int argc, char** argv)
 {
@@ -29,7 +30,6 @@ int main(int argc, char** argv)
         context.setManipulator(&gizmo);
         nbec::interaction::InteractionManager manager;
         manager.addContext(&context);
-
         view.setMousePosition(osg::Pnt2f(497, 300));
         manager.triggerEvent(nbec::interaction::InteractionEvent("hover", "tool", "select"));
         std::cout << nbNodeUtils::getName(picker.getHitNode()) << '\n';

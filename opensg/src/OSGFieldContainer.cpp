@@ -15,7 +15,6 @@ UInt64 editCount = 0;
 
 }  // namespace detail
 
-
 namespace {
 
 UInt64 sharedChangeCount = 0;

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <embree3/rtcore.h>
-
 #include "PickView.h"
+#include <embree3/rtcore.h>
 
 namespace nbec::interaction::detail {
 
