@@ -30,11 +30,36 @@ osg::Vec3f compensated(const osg::Transform3DPtr& core, const osg::Vec3f& from,
         compensation(state, nbTransformMath::wholeRotation(*core), delta));
 }
 
-void announce(const osg::Transform3DPtr& core)
+/// What tells one pivot of a Transform3D from the other.
+struct PivotField
 {
+    const osg::Vec3f& (osg::Transform3D::*get)() const;
+    void (osg::Transform3D::*set)(const osg::Vec3f&);
+    osg::BitVector mask;
+    Compensation compensation;
+};
+
+bool setPivot(const osg::NodePtr& node, const osg::Vec3f& pivot, bool keepInPlace,
+              const PivotField& field)
+{
+    const osg::Transform3DPtr core = transformOf(node);
+    if (core == osg::NullFC || !nbTransformMath::isFinite(pivot)) {
+        return false;
+    }
+    const osg::Transform3D& transform = *core;
+    const osg::Vec3f translation = keepInPlace
+        ? compensated(core, (transform.*field.get)(), pivot, field.compensation)
+        : transform.getTranslation();
+    if (!nbTransformMath::isFinite(translation)) {
+        return false;
+    }
     if (nbEditRecorder* const recorder = nbEditRecorder::get(); recorder != nullptr) {
         recorder->transformChanges(core);
     }
+    const nbEdit edit(core, osg::Transform3D::TranslationFieldMask | field.mask);
+    core->setTranslation(translation);
+    ((*core).*field.set)(pivot);
+    return true;
 }
 
 }  // namespace
@@ -42,43 +67,17 @@ void announce(const osg::Transform3DPtr& core)
 bool nbNodeUtils::setTransformNodeRotatePivot(const osg::NodePtr& node, float x, float y, float z,
                                               bool keepInPlace, int)
 {
-    const osg::Transform3DPtr core = transformOf(node);
-    const osg::Vec3f pivot(x, y, z);
-    if (core == osg::NullFC || !nbTransformMath::isFinite(pivot)) {
-        return false;
-    }
-    const osg::Vec3f translation = keepInPlace
-        ? compensated(core, core->getRotatePivot(), pivot, nbTransformMath::rotatePivotCompensation)
-        : core->getTranslation();
-    if (!nbTransformMath::isFinite(translation)) {
-        return false;
-    }
-    announce(core);
-    const nbEdit edit(
-        core, osg::Transform3D::TranslationFieldMask | osg::Transform3D::RotatePivotFieldMask);
-    core->setTranslation(translation);
-    core->setRotatePivot(pivot);
-    return true;
+    return setPivot(node, osg::Vec3f(x, y, z), keepInPlace,
+                    { &osg::Transform3D::getRotatePivot, &osg::Transform3D::setRotatePivot,
+                      osg::Transform3D::RotatePivotFieldMask,
+                      nbTransformMath::rotatePivotCompensation });
 }
 
 bool nbNodeUtils::setTransformNodeScalePivot(const osg::NodePtr& node, float x, float y, float z,
                                              bool keepInPlace, int)
 {
-    const osg::Transform3DPtr core = transformOf(node);
-    const osg::Vec3f pivot(x, y, z);
-    if (core == osg::NullFC || !nbTransformMath::isFinite(pivot)) {
-        return false;
-    }
-    const osg::Vec3f translation = keepInPlace
-        ? compensated(core, core->getScalePivot(), pivot, nbTransformMath::scalePivotCompensation)
-        : core->getTranslation();
-    if (!nbTransformMath::isFinite(translation)) {
-        return false;
-    }
-    announce(core);
-    const nbEdit edit(
-        core, osg::Transform3D::TranslationFieldMask | osg::Transform3D::ScalePivotFieldMask);
-    core->setTranslation(translation);
-    core->setScalePivot(pivot);
-    return true;
+    return setPivot(node, osg::Vec3f(x, y, z), keepInPlace,
+                    { &osg::Transform3D::getScalePivot, &osg::Transform3D::setScalePivot,
+                      osg::Transform3D::ScalePivotFieldMask,
+                      nbTransformMath::scalePivotCompensation });
 }
