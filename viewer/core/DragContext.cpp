@@ -4,7 +4,9 @@
 #include <nbInteraction/EventNames.h>
 #include <nbInteraction/InteractionEvent.h>
 #include <nbInteraction/InteractionManager.h>
+#include <nbInteraction/Picker.h>
 #include <nbKernelServices/nbUndoService.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <utility>
 
@@ -50,6 +52,7 @@ bool DragContext::start(InteractionManager* manager, const InteractionEvent& eve
     nbUndoService::the()->beginGroup();
     isDragging = ManipulatorInteractionContext::triggerEvent(manager, event);
     if (isDragging) {
+        grabbed = getPicker() != nullptr ? nbNodeUtils::getName(getPicker()->getHitNode()) : "";
         notify();
     } else {
         nbUndoService::the()->endGroup();
@@ -62,6 +65,7 @@ bool DragContext::stop(InteractionManager* manager, const InteractionEvent& even
     const bool isCancelled = manager != nullptr && manager->getDragEnd() == DragEnd::Cancelled;
     const bool answer = ManipulatorInteractionContext::triggerEvent(manager, event);
     isDragging = false;
+    grabbed.clear();
     if (!isCancelled) {
         nbUndoService::the()->endGroup();
     }

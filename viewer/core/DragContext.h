@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 #include <manipulator/ManipulatorInteractionContext.h>
 
@@ -21,6 +22,9 @@ public:
     bool triggerEvent(nbec::interaction::InteractionManager* manager,
                       const nbec::interaction::InteractionEvent& event) override;
 
+    /// Name of the handle that is being dragged, "" for none.
+    const std::string& grabbedHandle() const { return grabbed; }
+
     /// Sets what is called when a drag has begun and when it has ended; empty for nothing.
     void setDragCallback(std::function<void()> callback);
 
@@ -33,6 +37,7 @@ private:
 
     std::function<void()> dragCallback;
     bool isDragging = false;
+    std::string grabbed;
 };
 
 }  // namespace viewer

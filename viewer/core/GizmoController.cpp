@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/core/GizmoController.h"
 
+#include "viewer/core/HandleCursor.h"
+
 #include <nbInteraction/InteractionManager.h>
 #include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbUndoService.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 #include <nbTransform/nbTransformModel.h>
+
+#include <QString>
 
 #include <array>
 #include <utility>
@@ -48,6 +52,17 @@ const GizmoRow& rowOf(Gizmo gizmo)
         }
     }
     return kGizmoRows.front();
+}
+
+std::string textOf(const char* what, const osg::Vec3f& values)
+{
+    constexpr int kDigits = 3;
+    QString text = QLatin1String(what) + QStringLiteral(" (%1, %2, %3)");
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        // A negative zero would flicker.
+        text = text.arg(static_cast<double>(values[i]) + 0.0, 0, 'f', kDigits);
+    }
+    return text.toStdString();
 }
 
 constexpr float kUsualSize = 32.0F;
@@ -232,8 +247,38 @@ osg::NodePtr GizmoController::handles()
 
 std::string GizmoController::hoveredHandle()
 {
+    if (!context.grabbedHandle().empty()) {
+        return context.grabbedHandle();
+    }
     const bool isPossible = pointerInside && current != Gizmo::None;
     return isPossible ? nbNodeUtils::getName(probe.pick()) : std::string();
+}
+
+std::string GizmoController::draggedValues() const
+{
+    if (targets.empty() || context.grabbedHandle().empty()) {
+        return {};
+    }
+    const osg::NodePtr node = targets.front();
+    switch (actionOfHandle(context.grabbedHandle())) {
+    case HandleAction::MoveAlong:
+    case HandleAction::MoveInPlane:
+        if (current == Gizmo::RotatePivot) {
+            return textOf("Rotate pivot", nbTransformModel::getRotationPivot(node, !isLocalSpace()));
+        }
+        if (current == Gizmo::ScalePivot) {
+            return textOf("Scale pivot", nbTransformModel::getScalePivot(node, !isLocalSpace()));
+        }
+        return textOf("Translation", nbTransformModel::getTranslation(node, !isLocalSpace()));
+    case HandleAction::Turn:
+        return textOf("Rotation", nbNodeUtils::getTransformNodeRotation(node));
+    case HandleAction::ScaleAlong:
+    case HandleAction::ScaleAll:
+        return textOf("Scale", nbNodeUtils::getTransformNodeScale(node));
+    case HandleAction::None:
+        break;
+    }
+    return {};
 }
 
 std::string GizmoController::handleAt(const osg::Pnt2f& px)

@@ -95,9 +95,13 @@ public:
     /// Tells whether the pointer is over the view; it is at the start.
     void setPointerInside(bool inside) { pointerInside = inside; }
 
-    /// Name of the handle under the main widget's pointer; "" if there is none, nothing is shown or
-    /// the pointer is outside.
+    /// Name of the handle that is dragged, otherwise of that under the main widget's pointer; "" if
+    /// there is none, nothing is shown or the pointer is outside.
     std::string hoveredHandle();
+
+    /// What the handle that is dragged edits on the main target, such as "Rotation (0, 45, 0)"; ""
+    /// while nothing is dragged.
+    std::string draggedValues() const;
 
     /// Tree of the handles shown; null if there are none.
     osg::NodePtr handles();

@@ -40,16 +40,6 @@ constexpr double kShortestAxisPx = 3.0;
 constexpr double kHalfTurnDeg = 180.0;
 constexpr double kDegPerRad = 57.295779513082323;
 
-HandleAction actionOf(const std::string& handle)
-{
-    for (const ActionRow& row : kActions) {
-        if (handle == row.handle) {
-            return row.action;
-        }
-    }
-    return HandleAction::None;
-}
-
 /// First node of the name with geometry; handles lie along the y axis of its frame.
 osg::NodePtr findPart(const osg::NodePtr& node, const std::string& name)
 {
@@ -96,10 +86,20 @@ bool findAngle(Stage& stage, const std::string& handle, double& angleDeg)
 
 }  // namespace
 
+HandleAction actionOfHandle(const std::string& handle)
+{
+    for (const ActionRow& row : kActions) {
+        if (handle == row.handle) {
+            return row.action;
+        }
+    }
+    return HandleAction::None;
+}
+
 HandleCursor cursorOfHandle(Stage& stage, const std::string& handle)
 {
     HandleCursor cursor;
-    cursor.action = actionOf(handle);
+    cursor.action = actionOfHandle(handle);
     const bool isAlong =
         cursor.action == HandleAction::MoveAlong || cursor.action == HandleAction::ScaleAlong;
     if (isAlong && !findAngle(stage, handle, cursor.angleDeg)) {

@@ -34,6 +34,9 @@ struct HandleCursor
     bool operator!=(const HandleCursor& other) const { return !(*this == other); }
 };
 
+/// What the handle of a name does; None for an unknown one.
+HandleAction actionOfHandle(const std::string& handle);
+
 /// Cursor for a handle of the gizmo shown. An axis that points at the eye has no direction; its
 /// handle counts as one that acts in a plane or on all axes.
 /// @param handle  name, "" for none
