@@ -7,6 +7,7 @@
 #include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbUndoService.h>
 #include <nbNotification/NotificationManager.h>
+#include <nbOpenSGExt/ClipPlane3D.h>
 #include <nbOpenSGSelection/nbSelection.h>
 #include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
@@ -47,6 +48,25 @@ void collectSurfaces(const osg::NodePtr& node, std::vector<osg::NodePtr>& object
     for (osg::UInt32 i = 0; i < node->getNChildren(); ++i) {
         collectSurfaces(node->getChild(i), objects);
     }
+}
+
+/// Whether there is a clip plane that one of two nodes has as its core, or gives its frame to.
+bool findClipPlaneOf(const osg::NodePtr& root, const osg::NodePtr& first,
+                     const osg::NodePtr& second)
+{
+    const osg::ClipPlane3DPtr plane = osg::ClipPlane3DPtr::dcast(root->getCore());
+    if (plane != osg::NullFC) {
+        const osg::NodePtr frame = plane->getTransformNode();
+        if (root == first || root == second || (frame != osg::NullFC && frame == second)) {
+            return true;
+        }
+    }
+    for (osg::UInt32 i = 0; i < root->getNChildren(); ++i) {
+        if (findClipPlaneOf(root->getChild(i), first, second)) {
+            return true;
+        }
+    }
+    return false;
 }
 
 }  // namespace
@@ -177,6 +197,13 @@ std::vector<osg::NodePtr> Stage::selectedObjects() const
         }
     }
     return objects;
+}
+
+bool Stage::isClipPlaneSelected() const
+{
+    const osg::NodePtr object = selectedObject();
+    return object != osg::NullFC &&
+        findClipPlaneOf(nbScenegraph::getRootNode(), nbSelection::getLast(), object);
 }
 
 void Stage::selectAll()

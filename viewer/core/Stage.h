@@ -66,6 +66,8 @@ public:
     std::string selectedName() const;
     /// The objects selected, each once, in the order of selecting.
     std::vector<osg::NodePtr> selectedObjects() const;
+    /// Whether the object selected last is, or carries, a clip plane or the frame of one.
+    bool isClipPlaneSelected() const;
     /// Selects every object that has a surface of its own.
     void selectAll();
     /// Name of the object under the pointer that a click would select; "" for none.
