@@ -20,6 +20,7 @@ struct SessionTarget
         Pixel,  ///< `offsetPx` itself, from the view's upper left corner
         Handle,  ///< a visible place of the gizmo handle of that name, plus `offsetPx`
         World,  ///< the projection of `world`, plus `offsetPx`
+        Pointer,  ///< where the pointer is, plus `offsetPx`
         Node,  ///< the projected centre of the bounds of the scene node of that name, plus
                ///< `offsetPx`
     };

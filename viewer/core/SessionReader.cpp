@@ -163,15 +163,20 @@ bool Reader::readCamera(const QJsonValue& value, SessionCamera& camera)
 
 bool Reader::readNamedTarget(const QJsonObject& object, const QString& path, SessionTarget& target)
 {
-    if (!checkKeys(object, path, { "handle", "node", "world", "offset" })) {
+    if (!checkKeys(object, path, { "handle", "node", "world", "offset", "by" })) {
         return false;
     }
-    if (object.contains("offset")) {
+    const QString key = object.contains("by") ? QStringLiteral("by") : QStringLiteral("offset");
+    if (object.contains(key)) {
         double offset[2] = { 0.0, 0.0 };
-        if (!readNumbers(object.value("offset"), path + ".offset", offset, 2)) {
+        if (!readNumbers(object.value(key), path + '.' + key, offset, 2)) {
             return false;
         }
         target.offsetPx = QPointF(offset[0], offset[1]);
+    }
+    if (object.contains("by")) {
+        target.kind = SessionTarget::Kind::Pointer;
+        return checkKeys(object, path, { "by" });
     }
     if (object.contains("handle")) {
         target.kind = SessionTarget::Kind::Handle;
@@ -185,7 +190,7 @@ bool Reader::readNamedTarget(const QJsonObject& object, const QString& path, Ses
         target.kind = SessionTarget::Kind::World;
         return readNumbers(object.value("world"), path + ".world", target.world.data(), 3);
     }
-    return fail(path, QStringLiteral("expected \"handle\", \"node\" or \"world\""));
+    return fail(path, QStringLiteral("expected \"handle\", \"node\", \"world\" or \"by\""));
 }
 
 bool Reader::readTarget(const QJsonValue& value, const QString& path, SessionTarget& target)

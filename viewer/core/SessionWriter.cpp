@@ -30,6 +30,9 @@ QJsonValue jsonOf(const SessionTarget& target)
     switch (target.kind) {
     case SessionTarget::Kind::Pixel:
         return jsonOf(target.offsetPx);
+    case SessionTarget::Kind::Pointer:
+        object["by"] = jsonOf(target.offsetPx);
+        return object;
     case SessionTarget::Kind::Handle:
         object["handle"] = target.name;
         break;
