@@ -74,6 +74,7 @@ UniversalTransformManipulator2::UniversalTransformManipulator2()
     : drag(std::make_unique<TransformDrag>())
 {
     handleTree = createManipulatorGeo();
+    placement = osg::Transform3DPtr::dcast(handleTree->getCore());
     createMultiselectionRepresentationGeo();
     additionalGeometry = detail::makeGroupNode();
     nbNodeUtils::setIsAuxiliaryNode(additionalGeometry.get(), true);
@@ -372,10 +373,9 @@ void UniversalTransformManipulator2::updateManipulator()
         return;
     }
     const osg::NodePtr node = detail::editedNode(selected);
-    const osg::Transform3DPtr placement = osg::Transform3DPtr::dcast(handleTree->getCore());
     const osg::Pnt3f anchor = anchorWorld(node);
     const float size = screenScale(anchor);
-    cachedTargetToWorld = detail::targetToWorld(node);
+    cachedTargetToWorld = node->getToWorld();
     {
         const detail::EditBracket edit(placement,
                                        osg::Transform3D::TranslationFieldMask |

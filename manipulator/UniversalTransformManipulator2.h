@@ -17,6 +17,7 @@
 
 namespace nbec::manipulator {
 
+class RotationStep;
 struct NodeTransformationInfo;
 struct TransformDrag;
 struct TransformStart;
@@ -246,7 +247,9 @@ private:
     void prepareManipulator(const osg::NodePtr& node);
     void prepareManipulator(const osg::NodePtr& node, NodeTransformationInfo& info);
     TransformStart captureStart(const osg::NodePtr& node) const;
-    void updateManipulatorPlane();
+    void updateManipulatorPlane(const osg::NodePtr& node);
+    /// World direction in which an axis of the active handle goes, unit length.
+    osg::Vec3f movementAxis(const osg::NodePtr& node, osg::UInt32 axis) const;
     osg::Matrix gizmoFrame() const;
     osg::Matrix translationFrame(const osg::NodePtr& node, const osg::Transform3DPtr& transform);
     osg::Matrix scaleFrame(const osg::Pnt3f& start) const;
@@ -258,7 +261,7 @@ private:
     void translatePivot(const osg::NodePtr& node, const osg::Pnt3f& point);
     void rotatePivot(const osg::NodePtr& node, const osg::Pnt3f& point);
     static double computeRotation(const osg::Pnt3f& from, const osg::Pnt3f& to, osg::UInt32 axis);
-    static void accumulate(TransformStart& start, double angleRad);
+    static void accumulate(TransformStart& start, RotationStep& step);
     osg::Vec3f handleDelta(const osg::Pnt3f& point) const;
     osg::Vec3f scaleFactors(const osg::Pnt3f& point) const;
     const TransformStart& startOf(osg::UInt32 index) const;
@@ -284,6 +287,7 @@ private:
 
     osg::RefPtr<osg::NodePtr> root;
     osg::RefPtr<osg::NodePtr> handleTree;
+    osg::Transform3DPtr placement;  ///< core of the handle tree, which never gets another
     osg::RefPtr<osg::NodePtr> multiselection;
     osg::RefPtr<osg::NodePtr> marks;  ///< crosses of the further nodes, made when there are some
     osg::RefPtr<osg::NodePtr> additionalGeometry;

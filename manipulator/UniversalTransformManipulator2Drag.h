@@ -33,6 +33,26 @@ struct NodeTransformationInfo
     TransformStart start;
 };
 
+/// One step of a rotation as angles; worked out once for targets that follow each other with the
+/// same axis and Euler order.
+class RotationStep
+{
+public:
+    explicit RotationStep(double angle)
+        : angleRad(angle)
+    { }
+
+    /// @param newSign  1, or -1 for the other way  @param order  of the result
+    const nbEulerAngles& about(const osg::Vec3f& newAxis, double newSign, int order);
+
+private:
+    double angleRad;
+    bool isKnown = false;
+    osg::Vec3f axis;
+    double sign = 1.0;
+    nbEulerAngles angles;
+};
+
 /// State of one drag.
 struct TransformDrag
 {

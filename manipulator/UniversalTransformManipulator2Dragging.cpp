@@ -268,13 +268,16 @@ void UniversalTransformManipulator2::prepareManipulator(const osg::NodePtr& node
 {
     const osg::Transform3DPtr transform = osg::Transform3DPtr::dcast(node->getCore());
     *drag = TransformDrag();
-    updateManipulatorPlane();
+    updateManipulatorPlane(node);
     drag->start = captureStart(node);
 
     const nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1);
     osg::Line ray;
     drag->startWorld = grabbedPoint;
-    if (widget != nullptr && detail::pointerRay(*widget, ray)) {
+    if (widget != nullptr && detail::pointerRay(*widget, ray) &&
+        !detail::intersectPlane(drag->plane, ray, drag->startWorld)) {
+        // The handle was hit this side of the plane's horizon, the plane is met beyond it.
+        drag->plane = osg::Plane(drag->plane.getNormal(), grabbedPoint);
         detail::intersectPlane(drag->plane, ray, drag->startWorld);
     }
     if (!isRing(activeHandle)) {
@@ -306,8 +309,7 @@ TransformStart UniversalTransformManipulator2::captureStart(const osg::NodePtr& 
                                     : nbTransformModel::getRotationPivot(node, true);
     start.rotation = transform->getRotationAsQuaternion();
     const int order = nbEulerUtils::getOrderFromString(transform->getEulerRotationOrder());
-    start.accumulated =
-        nbEulerUtils::toRadians(nbEulerUtils::fromDegrees(transform->getRotation(), order));
+    start.accumulated = nbEulerUtils::fromDegrees(transform->getRotation(), order);
     if (isRing(activeHandle)) {
         // The axis that the parent's frame maps onto the drawn one; a mirrored parent turns the
         // other way.
@@ -320,24 +322,46 @@ TransformStart UniversalTransformManipulator2::captureStart(const osg::NodePtr& 
     return start;
 }
 
-void UniversalTransformManipulator2::updateManipulatorPlane()
+void UniversalTransformManipulator2::updateManipulatorPlane(const osg::NodePtr& node)
 {
     const osg::Matrix frame = gizmoFrame();
     const osg::Pnt3f center(frame[3][0], frame[3][1], frame[3][2]);
     const osg::UInt32 axis = axisOf(activeHandle);
+    const osg::UInt32 normalAxis = planeNormalAxis(activeHandle);
     if (isRing(activeHandle)) {
         const detail::RingFrame ring = detail::ringDragFrame(
             center, column(frame, axis), grabbedPoint, detail::viewDirection(grabbedPoint));
         drag->inverseDragFrame = inverted(matrixOf(ring, axis));
         drag->plane = osg::Plane(ring.normal, ring.center);
-    } else if (planeNormalAxis(activeHandle) < 3) {
-        drag->plane = osg::Plane(column(frame, planeNormalAxis(activeHandle)), center);
+    } else if (normalAxis < 3) {
+        osg::Vec3f normal = movementAxis(node, (normalAxis + 1) % 3)
+                                .cross(movementAxis(node, (normalAxis + 2) % 3));
+        normal.normalize();
+        drag->plane = osg::Plane(normal, center);
     } else if (axis < 3) {
         drag->plane = osg::Plane(
-            detail::axisPlaneNormal(column(frame, axis), detail::viewDirection(center)), center);
+            detail::axisPlaneNormal(movementAxis(node, axis), detail::viewDirection(center)),
+            center);
     } else {
         drag->plane = osg::Plane(detail::viewDirection(grabbedPoint), grabbedPoint);
     }
+}
+
+osg::Vec3f UniversalTransformManipulator2::movementAxis(const osg::NodePtr& node,
+                                                        osg::UInt32 axis) const
+{
+    osg::Vec3f direction = column(gizmoFrame(), axis);
+    if (m_LocalSpaceManipulator && isTranslation(activeHandle)) {
+        // Below a parent with different scales the node's own axes are not at right angles, as the
+        // drawn ones are; the node goes along its own.
+        osg::Vec3f own;
+        own[axis] = 1.0F;
+        own = rotated(osg::Transform3DPtr::dcast(node->getCore())->getRotationAsQuaternion(), own);
+        detail::parentToWorld(node).multMatrixVec(own);
+        direction = own.length() < kShortest ? direction : own;
+    }
+    direction.normalize();
+    return direction;
 }
 
 osg::Matrix UniversalTransformManipulator2::gizmoFrame() const
@@ -480,9 +504,10 @@ void UniversalTransformManipulator2::rotate(const osg::NodePtr& node, const osg:
         }
     }
     drag->lastRotationPoint = rotationPoint;
-    accumulate(drag->start, angle);
+    RotationStep step(angle);
+    accumulate(drag->start, step);
     for (NodeTransformationInfo& info : transformationInfos) {
-        accumulate(info.start, angle);
+        accumulate(info.start, step);
     }
     model->setRotation(targetCount(), [&](osg::UInt32 index) {
         const nbEulerAngles degrees = nbEulerUtils::toDegrees(startOf(index).accumulated);
@@ -491,15 +516,25 @@ void UniversalTransformManipulator2::rotate(const osg::NodePtr& node, const osg:
     finishStep(node, true);
 }
 
-void UniversalTransformManipulator2::accumulate(TransformStart& start, double angleRad)
+void UniversalTransformManipulator2::accumulate(TransformStart& start, RotationStep& step)
 {
-    const int order = start.accumulated.order;
-    nbEulerAngles step =
-        nbEulerUtils::EulFromQuat(turnAbout(start.ringAxis, angleRad * start.ringSign), 0);
-    if (step.order != order) {
-        step = nbEulerUtils::convertOrder(step, order);
+    start.accumulated = nbEulerUtils::multiply(
+        step.about(start.ringAxis, start.ringSign, start.accumulated.order), start.accumulated);
+}
+
+const nbEulerAngles& RotationStep::about(const osg::Vec3f& newAxis, double newSign, int order)
+{
+    if (isKnown && newAxis == axis && newSign == sign && order == angles.order) {
+        return angles;
     }
-    start.accumulated = nbEulerUtils::multiply(step, start.accumulated);
+    isKnown = true;
+    axis = newAxis;
+    sign = newSign;
+    angles = nbEulerUtils::EulFromQuat(turnAbout(axis, angleRad * sign), 0);
+    if (angles.order != order) {
+        angles = nbEulerUtils::convertOrder(angles, order);
+    }
+    return angles;
 }
 
 osg::Vec3f UniversalTransformManipulator2::scaleFactors(const osg::Pnt3f& point) const

@@ -81,6 +81,7 @@ void UniversalTransformManipulator2::setNode(const osg::NodePtr& node)
 {
     NodeManipulator::setNode(node);
     transformationInfos.clear();
+    prepared = false;  // a drag goes on from here with the new nodes
     if (marks != osg::NullFC) {
         detail::showNode(marks.get(), false);
     }
@@ -164,19 +165,39 @@ void UniversalTransformManipulator2::createMarks()
 void UniversalTransformManipulator2::updateMarks(float size)
 {
     const osg::GeometryPtr crosses = osg::GeometryPtr::dcast(marks->getCore());
-    const osg::GeoPositionsPtr positions = crosses->getPositions();
-    const detail::EditBracket edit(positions, osg::FieldBits::AllFields);
-    osg::UInt32 next = 0;
+    const auto positions = osg::GeoPositions3fPtr::dcast(crosses->getPositions());
+    const detail::EditBracket edit(positions, osg::GeoPositions3f::GeoPropDataFieldMask);
+    auto& points = positions->getField();
+    const bool atScalePivot = mode == ManipulatorMode::Scale || mode == ManipulatorMode::ScalePivot;
+    osg::NodePtr
+        knownParent;  // nothing moves between the marks, so its matrix holds for its children
+    osg::Matrix worldFromParent;
+    std::size_t next = 0;
     for (const NodeTransformationInfo& info : transformationInfos) {
-        const osg::NodePtr node = detail::resolveContainer<osg::NodePtr>(info.nodeId);
+        const auto node = detail::resolveContainer<osg::NodePtr>(info.nodeId);
+        const auto transform = node != osg::NullFC ? osg::Transform3DPtr::dcast(node->getCore())
+                                                   : osg::Transform3DPtr();
+        osg::Pnt3f center;
+        if (transform != osg::NullFC) {
+            const osg::NodePtr parent = node->getParent();
+            if (parent == osg::NullFC || parent != knownParent) {
+                worldFromParent = detail::parentToWorld(node);
+                knownParent = parent;
+            }
+            center = detail::pivotInParent(transform, atScalePivot);
+            worldFromParent.multMatrixPnt(center);
+        } else if (node != osg::NullFC) {
+            center = anchorWorld(node);
+        }
         // A node that is gone leaves lines without length, which show nothing.
-        const osg::Pnt3f center = node != osg::NullFC ? anchorWorld(node) : osg::Pnt3f();
         const float reach = node != osg::NullFC ? size * kMarkReach : 0.0F;
         for (osg::UInt32 axis = 0; axis < 3; ++axis) {
-            osg::Vec3f arm;
-            arm[axis] = reach;
-            positions->setValue(center - arm, next++);
-            positions->setValue(center + arm, next++);
+            osg::Pnt3f& from = points[next++];
+            osg::Pnt3f& to = points[next++];
+            from = center;
+            to = center;
+            from[axis] -= reach;
+            to[axis] += reach;
         }
     }
 }

@@ -28,18 +28,23 @@ osg::Matrix parentToWorld(const osg::NodePtr& node)
     return parent != osg::NullFC ? parent->getToWorld() : osg::Matrix::identity();
 }
 
-osg::Pnt3f pivotWorld(const osg::NodePtr& node, const osg::Transform3DPtr& transform,
-                      bool scalePivot)
+osg::Pnt3f pivotInParent(const osg::Transform3DPtr& transform, bool scalePivot)
 {
-    osg::Vec3f local = transform->getTranslation() + transform->getRotatePivot();
+    osg::Vec3f place = transform->getTranslation() + transform->getRotatePivot();
     if (scalePivot) {
         osg::Quaternion turn = transform->getRotationAsQuaternion();
         turn.mult(transform->getRotationOrientation());
         osg::Vec3f arm = transform->getScalePivot() - transform->getRotatePivot();
         turn.multVec(arm, arm);
-        local += arm;
+        place += arm;
     }
-    osg::Pnt3f world(local);
+    return osg::Pnt3f(place);
+}
+
+osg::Pnt3f pivotWorld(const osg::NodePtr& node, const osg::Transform3DPtr& transform,
+                      bool scalePivot)
+{
+    osg::Pnt3f world = pivotInParent(transform, scalePivot);
     parentToWorld(node).multMatrixPnt(world);
     return world;
 }

@@ -20,6 +20,9 @@ osg::Matrix targetToWorld(const osg::NodePtr& node);
 /// World from the frame of a node's parent; the identity for a node without a parent.
 osg::Matrix parentToWorld(const osg::NodePtr& node);
 
+/// A transform's pivot in the frame of the node's parent; see pivotWorld().
+osg::Pnt3f pivotInParent(const osg::Transform3DPtr& transform, bool scalePivot);
+
 /// A transform's pivot in world space: parent * (translation + rotate pivot), or the image of the
 /// scale pivot under the transform without its scale, parent * T(translation) T(rotatePivot) R RO
 /// T(-rotatePivot) * scale pivot.

@@ -1,0 +1,465 @@
+// SPDX-License-Identifier: MIT
+// What drags send, show and refuse, and what may go wrong in the middle of one.
+#include "tests/manipulator/support/DragScene.h"
+
+#include <nbKernel/nbController.h>
+#include <nbKernel/nbScenegraph.h>
+#include <nbKernelServices/nbUndoService.h>
+#include <nbNotification/NotificationManager.h>
+#include <nbOpenSGUberCamera/UberCamera.h>
+#include <nbOpenSGUtils/nbNodePermission.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
+#include <nbTransform/nbTransformModel.h>
+#include <nbUtils/nbLog.h>
+
+#include <OpenSG/OSGGroup.h>
+#include <OpenSG/OSGSimpleGeometry.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace nbec::manipulator::test {
+
+namespace {
+
+using Gizmo = UniversalTransformManipulator2;
+using Mode = Gizmo::ManipulatorMode;
+using notification::NotificationManager;
+using osg::Vec2f;
+using osg::Vec3f;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr float kStep = 72.0F / 72.4264069F;
+constexpr float kDiagonal = 1.5F * 0.70710678F;
+constexpr osg::Int32 kTransformPermission = 19;
+const Vec3f kArrow(1.9F, 0, 0);
+const Vec3f kRing(kDiagonal, kDiagonal, 0);
+
+/// Collects log lines while it lives.
+class LogLines
+{
+public:
+    LogLines()
+        : before(nbLog::setSink(
+              [this](nbLog::Level, const std::string& text) { lines.push_back(text); }))
+    { }
+
+    LogLines(const LogLines&) = delete;
+    LogLines& operator=(const LogLines&) = delete;
+
+    ~LogLines() { nbLog::setSink(before); }
+
+    std::vector<std::string> lines;
+
+private:
+    nbLog::Sink before;
+};
+
+std::vector<std::string> visibleTexts()
+{
+    std::vector<std::string> texts;
+    for (const notification::VisibleText& text :
+         NotificationManager::getInstance()->getVisibleTexts(800, 600)) {
+        texts.push_back(text.text.toStdString());
+    }
+    return texts;
+}
+
+void destroy(const osg::NodePtr& node)
+{
+    const osg::NodePtr above = node->getParent();
+    osg::beginEditCP(above, osg::Node::ChildrenFieldMask);
+    above->subChild(node);
+    osg::endEditCP(above, osg::Node::ChildrenFieldMask);
+}
+
+void setCore(const osg::NodePtr& node, const osg::NodeCorePtr& core)
+{
+    osg::beginEditCP(node, osg::Node::CoreFieldMask);
+    node->setCore(core);
+    osg::endEditCP(node, osg::Node::CoreFieldMask);
+}
+
+Vec3f translationOf(const osg::NodePtr& node)
+{
+    return osg::Transform3DPtr::dcast(node->getCore())->getTranslation();
+}
+
+}  // namespace
+
+TEST(DragSteps, TheFirstPreparesAndMovesNothing)
+{
+    DragScene drags;
+    const auto pixel = drags.rayPixelOf(drags.onGizmo(kArrow));
+    EXPECT_FALSE(drags.scene.send("process", pixel)) << "nothing is grabbed yet";
+    ASSERT_TRUE(drags.scene.send("start", pixel));
+    EXPECT_TRUE(drags.scene.send("process", pixel + Vec2f(50, 0)));
+    EXPECT_EQ(drags.core()->getTranslation(), Vec3f(0, 0, 0));
+    EXPECT_TRUE(drags.scene.send("process", pixel + Vec2f(60, 0)));
+    EXPECT_NEAR(drags.core()->getTranslation().x(), 10.0F / 72.4264F, 2e-4F);
+    EXPECT_TRUE(drags.release());
+    EXPECT_FALSE(drags.release()) << "let go already";
+    EXPECT_FALSE(drags.scene.send("process", pixel));
+}
+
+TEST(DragSteps, SendChangedThenUpdateAndMarkTheSceneAsModified)
+{
+    DragScene drags;
+    drags.activate(Mode::RotatePivot);
+    for (const Vec3f& handle : { kArrow, kRing }) {
+        std::vector<std::string> sent;
+        for (const char* name :
+             { "nbTransform::updateTransformation", "nbTransform::changedTransformation" }) {
+            nbController::addReceiver(name, [&sent, name](nbMessage&) { sent.emplace_back(name); });
+        }
+        nbController::setModified(0);
+        ASSERT_TRUE(drags.grab(handle));
+        EXPECT_THAT(sent, IsEmpty());
+        EXPECT_EQ(nbController::getModified(), 0);
+        EXPECT_TRUE(drags.stepTo(Vec2f(-5, 5)));
+        EXPECT_THAT(
+            sent,
+            ElementsAre("nbTransform::changedTransformation", "nbTransform::updateTransformation"));
+        EXPECT_EQ(nbController::getModified(), 1);
+        EXPECT_TRUE(drags.release());
+        EXPECT_EQ(sent.size(), 2U);
+        nbController::clear();
+    }
+}
+
+TEST(DragSteps, AnArrowThatPointsAtTheEyeMovesNothing)
+{
+    DragScene drags;
+    drags.look(Camera::Side, true);
+    const osg::Pnt2f pixel = drags.rayPixelOf(drags.onGizmo(kArrow));
+    ASSERT_TRUE(drags.scene.send("start", pixel));
+    for (int i = 0; i < 5; ++i) {
+        EXPECT_TRUE(drags.scene.send("process", pixel + Vec2f(10.0F * static_cast<float>(i), 7)));
+    }
+    EXPECT_EQ(drags.core()->getTranslation(), Vec3f(0, 0, 0));
+}
+
+// == Refusals
+
+TEST(DragRefusals, ALockedNodeIsNeitherConvertedNorMovedAndEveryStepIsLogged)
+{
+    DragScene drags;
+    setCore(drags.scene.node, osg::Group::create());
+    drags.gizmo.update(true);
+    nbNodePermission::setAllowed(drags.scene.node, kTransformPermission, false);
+    const LogLines log;
+    const osg::Pnt2f pixel = drags.rayPixelOf(drags.onGizmo(kArrow));
+    ASSERT_TRUE(drags.scene.send("start", pixel));
+    EXPECT_FALSE(drags.scene.send("process", pixel));
+    EXPECT_FALSE(drags.scene.send("process", pixel + Vec2f(9, 0)));
+    EXPECT_THAT(log.lines,
+                ElementsAre("Selected node cannot be transformed.",
+                            "Selected node cannot be transformed."));
+    EXPECT_EQ(osg::Transform3DPtr::dcast(drags.scene.node->getCore()), osg::NullFC);
+}
+
+TEST(DragRefusals, OfSeveralNodesOnlyTheLockedOnesStay)
+{
+    DragScene drags;
+    const osg::NodePtr further = drags.addFurther(Vec3f(3, 0, 0));
+    drags.gizmo.setNode(drags.scene.node, { further });
+    nbNodePermission::setAllowed(drags.scene.node, kTransformPermission, false);
+    const LogLines log;
+    ASSERT_TRUE(drags.grab(kArrow));
+    EXPECT_TRUE(drags.dragBy(Vec2f(72, 0)));
+    EXPECT_EQ(drags.core()->getTranslation(), Vec3f(0, 0, 0));
+    EXPECT_NEAR(translationOf(further).x(), 3.0F + kStep, 2e-4F);
+    EXPECT_THAT(log.lines, IsEmpty());
+}
+
+// == Conversion
+
+TEST(DragConversion, AGroupBecomesATransformWithItsPivotsAtTheObjectsCentre)
+{
+    DragScene drags;
+    const osg::NodePtr node = drags.scene.node;
+    setCore(node, osg::Group::create());
+    const osg::NodePtr holder = osg::makeCoredNode<osg::Transform3D>();
+    const auto place = osg::Transform3DPtr::dcast(holder->getCore());
+    osg::beginEditCP(place);
+    place->setTranslation(Vec3f(1, 0.5F, 0));
+    osg::endEditCP(place);
+    const osg::RefPtr<osg::NodePtr> box(node->getChild(0));
+    osg::beginEditCP(node, osg::Node::ChildrenFieldMask);
+    node->subChild(box.get());
+    node->addChild(holder);
+    osg::endEditCP(node, osg::Node::ChildrenFieldMask);
+    holder->addChild(box.get());
+    drags.activate(Mode::Rotate);
+    EXPECT_LT((drags.onGizmo(Vec3f(0, 0, 0)) - osg::Pnt3f(1, 0.5F, 0)).length(), 1e-5F);
+
+    ASSERT_TRUE(drags.grab(kRing));
+    ASSERT_NE(drags.core(), osg::NullFC);
+    EXPECT_LT((drags.core()->getRotatePivot() - Vec3f(1, 0.5F, 0)).length(), 1e-5F);
+    EXPECT_LT((drags.core()->getScalePivot() - Vec3f(1, 0.5F, 0)).length(), 1e-5F);
+    EXPECT_TRUE(drags.dragBy(Vec2f(-40, -20)));
+    EXPECT_TRUE(drags.release());
+    osg::Pnt3f center(0, 0, 0);
+    box->getToWorld().multMatrixPnt(center);
+    EXPECT_LT((center - osg::Pnt3f(1, 0.5F, 0)).length(), 1e-5F) << "it turns about its centre";
+    EXPECT_GT(drags.core()->getRotation().z(), 20.0F);
+}
+
+// == Several nodes
+
+TEST(SeveralNodes, EachTurnsAndScalesAboutItsOwnPivots)
+{
+    DragScene drags;
+    const osg::NodePtr right = drags.addFurther(Vec3f(3, 0, 0));
+    const osg::NodePtr above = drags.addFurther(Vec3f(0, 3, 0));
+    const auto rightCore = osg::Transform3DPtr::dcast(right->getCore());
+    const auto aboveCore = osg::Transform3DPtr::dcast(above->getCore());
+    drags.edit(aboveCore,
+               [](const osg::Transform3DPtr& core) { core->setRotation(Vec3f(0, 0, 30)); });
+    drags.gizmo.setNode(drags.scene.node, { right, above });
+    drags.activate(Mode::Rotate);
+    ASSERT_TRUE(drags.grab(kRing));
+    EXPECT_TRUE(drags.dragBy(Vec2f(-51, -22)));
+    EXPECT_TRUE(drags.release());
+    EXPECT_NEAR(drags.core()->getRotation().z(), 45.0F, 0.01F);
+    EXPECT_NEAR(rightCore->getRotation().z(), 45.0F, 0.01F);
+    EXPECT_NEAR(aboveCore->getRotation().z(), 75.0F, 0.01F);
+    EXPECT_EQ(rightCore->getTranslation(), Vec3f(3, 0, 0));
+    EXPECT_EQ(aboveCore->getTranslation(), Vec3f(0, 3, 0));
+}
+
+TEST(SeveralNodes, ADestroyedOneIsPassedOverAndTheRestGoesOn)
+{
+    DragScene drags;
+    const osg::NodePtr gone = drags.addFurther(Vec3f(3, 0, 0));
+    const osg::NodePtr stays = drags.addFurther(Vec3f(0, 3, 0));
+    drags.gizmo.setNode(drags.scene.node, { gone, stays });
+    for (const Mode mode : { Mode::Translate, Mode::Scale, Mode::RotatePivot }) {
+        drags.activate(mode);
+        ASSERT_TRUE(drags.grab(mode == Mode::Scale ? Vec3f(1.5F, 0, 0) : kArrow));
+        EXPECT_TRUE(drags.dragBy(Vec2f(36, 0)));
+        if (mode == Mode::Translate) {
+            destroy(gone);
+        }
+        EXPECT_TRUE(drags.dragBy(Vec2f(72, 0)));
+        EXPECT_TRUE(drags.release());
+    }
+    EXPECT_NEAR(translationOf(stays).x(), kStep, 2e-4F);
+    EXPECT_NEAR(drags.core()->getTranslation().x(), kStep, 2e-4F);
+}
+
+TEST(SeveralNodes, AreOneUndoStep)
+{
+    DragScene drags;
+    const osg::NodePtr further = drags.addFurther(Vec3f(3, 0, 0));
+    drags.gizmo.setNode(drags.scene.node, { further });
+    nbUndoService::the()->beginGroup();
+    ASSERT_TRUE(drags.grab(kArrow));
+    EXPECT_TRUE(drags.dragBy(Vec2f(72, 0)));
+    EXPECT_TRUE(drags.release());
+    nbUndoService::the()->endGroup();
+    EXPECT_TRUE(nbUndoService::the()->undo());
+    EXPECT_FALSE(nbUndoService::the()->undo());
+    EXPECT_EQ(drags.core()->getTranslation(), Vec3f(0, 0, 0));
+    EXPECT_EQ(translationOf(further), Vec3f(3, 0, 0));
+}
+
+// == On-screen text
+
+TEST(DragText, ShowsTheEditedValuesAndGoesWithTheDrag)
+{
+    struct TextRow
+    {
+        Mode mode;
+        Vec3f grab;
+        Vec2f offsetPx;
+        const char* text;
+    };
+
+    const TextRow rows[] = {
+        { Mode::Translate, kArrow, { 72, 0 }, "Translation (0.99, 0.00, 0.00)" },
+        { Mode::TranslateRotateScale, kArrow, { 72, 0 }, "Translation (0.99, 0.00, 0.00)" },
+        { Mode::Rotate, kRing, { -51, -22 }, "Rotation (0.00, 0.00, 45.00)" },
+        { Mode::Scale, { 1.5F, 0, 0 }, { 73, 0 }, "Scale (2.00, 1.00, 1.00)" },
+        { Mode::RotatePivot, kArrow, { 72, 0 }, "Rotate Pivot (0.99, 0.00, 0.00)" },
+        { Mode::ScalePivot, kArrow, { 72, 0 }, "Scale Pivot (0.99, 0.00, 0.00)" },
+    };
+    for (const TextRow& row : rows) {
+        DragScene drags;
+        drags.activate(row.mode);
+        ASSERT_TRUE(drags.grab(row.grab));
+        EXPECT_THAT(visibleTexts(), IsEmpty());
+        EXPECT_TRUE(drags.dragBy(row.offsetPx));
+        EXPECT_THAT(visibleTexts(), ElementsAre(row.text));
+        EXPECT_TRUE(drags.release());
+        EXPECT_THAT(visibleTexts(), IsEmpty());
+        EXPECT_EQ(NotificationManager::getInstance()->getTextCount(), 0U);
+    }
+}
+
+TEST(DragText, IsEmptyWhereTheModeHasNoneAndWhenSwitchedOff)
+{
+    const std::pair<Mode, Vec3f> rows[] = { { Mode::Universal, kArrow },
+                                            { Mode::TranslateRotate, kRing },
+                                            { Mode::TranslateRotateScale, { 1.5F, 0, 0 } },
+                                            { Mode::RotatePivot, kRing },
+                                            { Mode::Translate, kArrow } };
+    for (const auto& [mode, grab] : rows) {
+        DragScene drags;
+        drags.activate(mode);
+        drags.gizmo.setDescriptionEnabled(mode != Mode::Translate);
+        ASSERT_TRUE(drags.grab(grab));
+        EXPECT_TRUE(drags.stepTo(Vec2f(-9, 4)));
+        EXPECT_THAT(visibleTexts(), IsEmpty()) << static_cast<int>(mode);
+    }
+}
+
+TEST(DragText, HasItsNotifierAndFollowsTheViewsShape)
+{
+    DragScene drags;
+    ASSERT_TRUE(drags.grab(kArrow));
+    EXPECT_TRUE(drags.stepTo(Vec2f(3, 0)));
+    const auto notifier = NotificationManager::getInstance()->getNotifier("transformInfo");
+    ASSERT_NE(notifier, nullptr);
+    notification::NotifierSettings expected;
+    expected.textSize = 1.0F;
+    expected.lineColor = osg::Color3f(0.5F, 0.5F, 0.5F);
+    expected.backColor = osg::Color3f(0.05F, 0.05F, 0.05F);
+    expected.textColor = osg::Color3f(1, 1, 1);
+    expected.textAreaFrom = Vec2f(30, 30);
+    expected.textAreaTo = Vec2f(-1, -1);
+    expected.textPosition = Vec2f(0, 26);
+    EXPECT_EQ(notifier->getSettings(), expected);
+    drags.scene.widget.resize(300, 600);
+    EXPECT_TRUE(drags.stepTo(Vec2f(4, 0)));
+    EXPECT_EQ(notifier->getSettings().textPosition, Vec2f(0, 52));
+    NotificationManager::getInstance()->clear();  // the host forgets all texts in between
+    EXPECT_TRUE(drags.stepTo(Vec2f(5, 0)));
+    EXPECT_EQ(NotificationManager::getInstance()->getTextCount(), 1U);
+    EXPECT_TRUE(drags.release());
+}
+
+// == In the middle of a drag
+
+TEST(BrokenDrags, ADestroyedNodeEndsThem)
+{
+    DragScene drags;
+    ASSERT_TRUE(drags.grab(kArrow));
+    EXPECT_TRUE(drags.dragBy(Vec2f(10, 0)));
+    destroy(drags.scene.node);
+    EXPECT_FALSE(drags.dragBy(Vec2f(20, 0)));
+    EXPECT_FALSE(drags.release());
+    EXPECT_FALSE(drags.release());
+    EXPECT_THAT(visibleTexts(), IsEmpty());
+}
+
+TEST(BrokenDrags, ANodeTakenOutOfTheSceneStays)
+{
+    DragScene drags;
+    const osg::RefPtr<osg::NodePtr> kept(drags.scene.node);
+    ASSERT_TRUE(drags.grab(kArrow));
+    EXPECT_TRUE(drags.dragBy(Vec2f(10, 0)));
+    destroy(drags.scene.node);
+    const Vec3f before = drags.core()->getTranslation();
+    EXPECT_FALSE(drags.dragBy(Vec2f(20, 0)));
+    EXPECT_EQ(drags.core()->getTranslation(), before);
+    EXPECT_TRUE(drags.release());
+}
+
+TEST(BrokenDrags, AViewWithoutSizeMovesNothing)
+{
+    DragScene drags;
+    for (const Vec3f& handle : { kArrow, Vec3f(0.25F, 0.25F, 0) }) {
+        ASSERT_TRUE(drags.grab(handle));
+        EXPECT_TRUE(drags.dragBy(Vec2f(10, 0)));
+        const Vec3f before = drags.core()->getTranslation();
+        drags.scene.widget.resize(0, 0);
+        EXPECT_TRUE(drags.dragBy(Vec2f(20, 0)));
+        EXPECT_EQ(drags.core()->getTranslation(), before);
+        drags.scene.widget.resize(800, 600);
+        EXPECT_TRUE(drags.dragBy(Vec2f(10, 0)));
+        EXPECT_LT((drags.core()->getTranslation() - before).length(), 1e-5F);
+        EXPECT_TRUE(drags.release());
+    }
+}
+
+TEST(BrokenDrags, WithoutAMainViewNothingMoves)
+{
+    DragScene drags;
+    ASSERT_TRUE(drags.grab(kArrow));
+    auto other = std::make_unique<nbOSGWidget>();
+    other->setMain();
+    other.reset();
+    if (nbOSGWidget::getMGLW(-1) == nullptr) {
+        EXPECT_FALSE(drags.stepTo(Vec2f(20, 0)));
+        EXPECT_EQ(drags.core()->getTranslation(), Vec3f(0, 0, 0));
+    } else {
+        EXPECT_TRUE(drags.stepTo(Vec2f(20, 0)));
+    }
+    drags.scene.widget.setMain();
+    drags.release();
+    EXPECT_TRUE(isFinite(drags.scene.node->getToWorld()));
+}
+
+TEST(BrokenDrags, FlattenedAndMirroredNodesAndParentsStayFinite)
+{
+    const std::pair<Mode, Vec3f> handles[] = {
+        { Mode::Translate, kArrow },     { Mode::Rotate, kRing },
+        { Mode::Scale, { 1.5F, 0, 0 } }, { Mode::RotatePivot, kArrow },
+        { Mode::RotatePivot, kRing },    { Mode::ScalePivot, kArrow }
+    };
+    for (const bool local : { false, true }) {
+        for (const bool isParent : { false, true }) {
+            for (const Vec3f& factor : { Vec3f(0, 0, 0), Vec3f(0, 1, 1), Vec3f(-1, 2, 1) }) {
+                for (const auto& [mode, grab] : handles) {
+                    DragScene drags;
+                    const LogLines log;  // the model says what it leaves alone
+                    Gizmo::setLocalSpaceManipulator(local);
+                    drags.activate(mode);
+                    ASSERT_TRUE(drags.grab(grab));
+                    EXPECT_TRUE(drags.dragBy(Vec2f(-10, 6)));
+                    const auto flatten = [&factor](const osg::Transform3DPtr& core) {
+                        core->setScale(factor);
+                    };
+                    drags.edit(isParent ? drags.parentCore() : drags.core(), flatten);
+                    EXPECT_TRUE(drags.dragBy(Vec2f(-20, 12)));
+                    EXPECT_TRUE(drags.release());
+                    drags.grab(grab);  // what is left of it may be too flat to be hit
+                    drags.dragBy(Vec2f(-20, 12));
+                    drags.release();
+                    EXPECT_TRUE(isFinite(drags.core()->computeMatrix()));
+                    EXPECT_TRUE(isFinite(
+                        drags.gizmo.getVisualisation()->getChild(3)->getChild(0)->getToWorld()));
+                }
+            }
+        }
+    }
+}
+
+TEST(BrokenDrags, ASelectionOrModeChangedMeanwhileIsHarmless)
+{
+    DragScene drags;
+    const osg::NodePtr other = drags.addFurther(Vec3f(3, 0, 0));
+    ASSERT_TRUE(drags.grab(kArrow));
+    EXPECT_TRUE(drags.dragBy(Vec2f(20, 0)));
+    drags.gizmo.setNode(drags.scene.node, { other });
+    drags.dragBy(Vec2f(30, 0));
+    EXPECT_LT((translationOf(other) - Vec3f(3, 0, 0)).length(), 1.0F)
+        << "a node that joins a drag must not jump";
+    drags.gizmo.setNode(other);
+    drags.dragBy(Vec2f(40, 0));
+    EXPECT_LT((translationOf(other) - Vec3f(3, 0, 0)).length(), 1.0F);
+    drags.activate(Mode::Rotate);
+    drags.dragBy(Vec2f(50, 0));
+    drags.gizmo.setNode(osg::NodePtr());
+    EXPECT_FALSE(drags.dragBy(Vec2f(60, 0)));
+    EXPECT_FALSE(drags.release());
+    EXPECT_TRUE(isFinite(other->getToWorld()));
+}
+
+}  // namespace nbec::manipulator::test

@@ -1,0 +1,398 @@
+// SPDX-License-Identifier: MIT
+// What holds for every drag, over random cameras, hierarchies, handles and ways of the pointer.
+#include "manipulator/detail/DragGeometry.h"
+#include "tests/manipulator/support/DragScene.h"
+
+#include <nbKernelServices/nbUndoService.h>
+#include <nbOpenSGUberCamera/UberCamera.h>
+#include <nbOpenSGUtils/nbTransformState.h>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <iterator>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace nbec::manipulator::test {
+
+namespace {
+
+using Gizmo = UniversalTransformManipulator2;
+using Mode = Gizmo::ManipulatorMode;
+using osg::Pnt2f;
+using osg::Pnt3f;
+using osg::Vec2f;
+using osg::Vec3f;
+
+constexpr float kPi = 3.14159265F;
+constexpr float kRadiansPerDegree = kPi / 180.0F;
+constexpr int kRuns = 300;
+constexpr float kDiagonal = 1.5F * 0.70710678F;
+const char* const kOrders[] = { "xyz", "yzx", "zxy", "xzy", "yxz", "zyx" };
+
+enum class Kind
+{
+    Arrow,
+    Plane,
+    Ring,
+    ScaleBox,
+    Uniform
+};
+
+struct Handle
+{
+    Kind kind;
+    osg::UInt32 axis;  ///< for planes the one at right angles
+    Vec3f grab;
+};
+
+const Handle kHandles[] = {
+    { Kind::Arrow, 0, { 1.9F, 0, 0 } },
+    { Kind::Arrow, 1, { 0, 1.9F, 0 } },
+    { Kind::Arrow, 2, { 0, 0, 1.9F } },
+    { Kind::Plane, 2, { 0.25F, 0.25F, 0 } },
+    { Kind::Plane, 1, { 0.25F, 0, 0.25F } },
+    { Kind::Plane, 0, { 0, 0.25F, 0.25F } },
+    { Kind::Ring, 0, { 0, kDiagonal, kDiagonal } },
+    { Kind::Ring, 1, { kDiagonal, 0, kDiagonal } },
+    { Kind::Ring, 2, { kDiagonal, kDiagonal, 0 } },
+    { Kind::ScaleBox, 0, { 1.5F, 0, 0 } },
+    { Kind::ScaleBox, 1, { 0, 1.5F, 0 } },
+    { Kind::ScaleBox, 2, { 0, 0, 1.5F } },
+    { Kind::Uniform, 3, { 0, 0, 0 } },
+};
+
+/// A scene with a camera, a hierarchy and a handle drawn by a seed; the same seed gives the same.
+class RandomDrag
+{
+public:
+    RandomDrag(unsigned seed, bool uniformParent)
+        : random(seed)
+        , handle(kHandles[pick(std::size(kHandles))])
+    {
+        Gizmo::setLocalSpaceManipulator(pick(2) == 1);
+        drags.edit(drags.parentCore(), [&](const osg::Transform3DPtr& core) {
+            core->setTranslation(vector(1.0F));
+            core->setRotation(vector(180.0F));
+            const float size = number(0.5F, 2.0F);
+            core->setScale(uniformParent ? Vec3f(size, size, size)
+                                         : Vec3f(size, number(0.5F, 2.0F), number(0.5F, 2.0F)));
+        });
+        drags.edit(drags.core(), [&](const osg::Transform3DPtr& core) {
+            core->setEulerRotationOrder(kOrders[pick(std::size(kOrders))]);
+            core->setTranslation(vector(1.0F));
+            core->setRotation(vector(180.0F));
+            core->setRotationMode(static_cast<osg::Int32>(pick(3)));
+            core->setRotationQuaternion(osg::Quaternion(unit(), number(0.0F, 2.0F * kPi)));
+            core->setScale(Vec3f(number(0.5F, 2.0F), number(0.5F, 2.0F), number(0.5F, 2.0F)));
+            core->setRotatePivot(vector(0.5F));
+            core->setScalePivot(vector(0.5F));
+            core->setRotationOrientation(osg::Quaternion(unit(), number(0.0F, 2.0F * kPi)));
+        });
+        drags.activate(modeOf(handle));
+        lookAtTheGizmo();
+    }
+
+    float number(float least, float most)
+    {
+        return std::uniform_real_distribution<float>(least, most)(random);
+    }
+
+    Vec3f vector(float reach)
+    {
+        return Vec3f(number(-reach, reach), number(-reach, reach), number(-reach, reach));
+    }
+
+    /// Whole pixels.
+    Vec2f offset(float reachPx)
+    {
+        return Vec2f(std::round(number(-reachPx, reachPx)), std::round(number(-reachPx, reachPx)));
+    }
+
+    /// False where another handle covers the chosen one.
+    bool grab()
+    {
+        if (!drags.grab(handle.grab)) {
+            return false;
+        }
+        return isShownAlone();
+    }
+
+    /// World direction of an arrow's movement, or at right angles to a plane's. Below a parent with
+    /// different scales the node's own axes are not at right angles, as the drawn ones are.
+    Vec3f movementAxis() const
+    {
+        const auto along = [this](osg::UInt32 index) {
+            Vec3f result;
+            result[index % 3] = 1.0F;
+            if (Gizmo::isLocalSpaceManipulator()) {
+                drags.core()->getRotationAsQuaternion().multVec(result, result);
+                drags.parent->getToWorld().multMatrixVec(result);
+            }
+            return result;
+        };
+        Vec3f axis = handle.kind == Kind::Plane
+            ? along(handle.axis + 1).cross(along(handle.axis + 2))
+            : along(handle.axis);
+        axis.normalize();
+        return axis;
+    }
+
+    nbTransformState state() const { return nbTransformState::of(*drags.core()); }
+
+    osg::Matrix toWorld() const { return drags.scene.node->getToWorld(); }
+
+    DragScene drags;
+
+private:
+    static Mode modeOf(const Handle& handle)
+    {
+        switch (handle.kind) {
+        case Kind::Ring:
+            return Mode::Rotate;
+        case Kind::ScaleBox:
+        case Kind::Uniform:
+            return Mode::Scale;
+        default:
+            return Mode::Translate;
+        }
+    }
+
+    std::size_t pick(std::size_t count)
+    {
+        return std::uniform_int_distribution<std::size_t>(0, count - 1)(random);
+    }
+
+    Vec3f unit()
+    {
+        Vec3f result = vector(1.0F);
+        result.normalize();
+        return result;
+    }
+
+    void lookAtTheGizmo()
+    {
+        const osg::UberCameraPtr camera = drags.scene.widget.getUberCamera();
+        osg::beginEditCP(camera);
+        camera->setOrthographic(pick(2) == 1);
+        camera->setFov(number(20.0F, 70.0F));
+        osg::endEditCP(camera);
+        const Pnt3f anchor = drags.onGizmo(Vec3f(0, 0, 0));
+        camera->setFromAtUp(anchor + unit() * number(3.0F, 30.0F), anchor + vector(0.3F), unit());
+        Gizmo::updateAllManipulators();
+    }
+
+    /// While a handle is grabbed only its own nodes are shown.
+    bool isShownAlone()
+    {
+        static const char* const kNames[] = { "xaShape",  "yaShape",  "zaShape", "xyaShape",
+                                              "xzaShape", "yzaShape", "rxShape", "ryShape",
+                                              "rzShape",  "xsShape",  "ysShape", "zsShape",
+                                              "grid" };
+        static const std::size_t kRows[] = { 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12 };
+        const auto index = static_cast<std::size_t>(&handle - kHandles);
+        return isShown(findNode(drags.gizmo.getVisualisation(), kNames[kRows[index]]));
+    }
+
+    std::mt19937 random;
+
+public:
+    const Handle& handle;
+};
+
+/// Differences of matrices are measured against their own size.
+float relativeDifference(const osg::Matrix& left, const osg::Matrix& right)
+{
+    float size = 1.0F;
+    for (int i = 0; i < 16; ++i) {
+        size = std::max(size, std::abs(left.getValues()[i]));
+    }
+    return greatestDifference(left, right) / size;
+}
+
+/// Runs a check on each seed whose handle can be grabbed; a fair part of all must be.
+template <class Check>
+void forEachDrag(bool uniformParent, Check check)
+{
+    int grabbed = 0;
+    for (unsigned seed = 1; seed <= kRuns; ++seed) {
+        RandomDrag drag(seed, uniformParent);
+        if (!drag.grab()) {
+            continue;
+        }
+        ++grabbed;
+        SCOPED_TRACE("seed " + std::to_string(seed));
+        check(drag);
+        if (testing::Test::HasFailure()) {
+            return;
+        }
+    }
+    EXPECT_GT(grabbed, kRuns / 2);
+}
+
+}  // namespace
+
+TEST(DragProperties, ValuesStayFiniteWhateverTheWay)
+{
+    forEachDrag(false, [](RandomDrag& drag) {
+        for (int i = 0; i < 12; ++i) {
+            EXPECT_TRUE(drag.drags.stepTo(drag.offset(2000.0F)));
+            ASSERT_TRUE(isFinite(drag.toWorld()));
+        }
+        EXPECT_TRUE(drag.drags.release());
+    });
+}
+
+TEST(DragProperties, BackAtTheStartNothingHasChanged)
+{
+    forEachDrag(false, [](RandomDrag& drag) {
+        const osg::Matrix before = drag.toWorld();
+        EXPECT_TRUE(drag.drags.dragBy(drag.offset(60.0F)));
+        EXPECT_TRUE(drag.drags.dragBy(drag.offset(60.0F)));
+        EXPECT_TRUE(drag.drags.dragBy(Vec2f(0, 0)));
+        EXPECT_LT(relativeDifference(before, drag.toWorld()), 2e-5F);
+    });
+}
+
+TEST(DragProperties, TheEndDependsNeitherOnTheWayNorOnTheSteps)
+{
+    for (unsigned seed = 1; seed <= kRuns; ++seed) {
+        RandomDrag direct(seed, false);
+        if (!direct.grab()) {
+            continue;
+        }
+        SCOPED_TRACE("seed " + std::to_string(seed));
+        const Vec2f end = direct.offset(40.0F);
+        const Vec2f around = direct.offset(40.0F);
+        EXPECT_TRUE(direct.drags.stepTo(around));
+        const osg::Matrix elsewhere = direct.toWorld();
+        EXPECT_TRUE(direct.drags.stepTo(end));
+        const osg::Matrix expected = direct.toWorld();
+        if (expected == elsewhere) {
+            continue;  // the end lies beyond the drag plane's horizon, where nothing moves
+        }
+        EXPECT_TRUE(direct.drags.stepTo(Vec2f(0, 0)));
+        EXPECT_TRUE(direct.drags.dragBy(around));
+        EXPECT_TRUE(direct.drags.dragBy(end));
+        ASSERT_LT(relativeDifference(expected, direct.toWorld()), 2e-5F);
+    }
+}
+
+TEST(DragProperties, UndoRestoresBitForBit)
+{
+    nbUndoService* const undo = nbUndoService::the();
+    forEachDrag(false, [undo](RandomDrag& drag) {
+        const nbTransformState before = drag.state();
+        undo->beginGroup();
+        EXPECT_TRUE(drag.drags.dragBy(drag.offset(60.0F)));
+        const nbTransformState after = drag.state();
+        EXPECT_TRUE(drag.drags.release());
+        undo->endGroup();
+        if (after.isSame(before)) {
+            EXPECT_FALSE(undo->undo());
+            return;
+        }
+        EXPECT_TRUE(undo->undo());
+        EXPECT_TRUE(drag.state().isSame(before));
+        EXPECT_TRUE(undo->redo());
+        EXPECT_TRUE(drag.state().isSame(after));
+        undo->clear();
+    });
+}
+
+TEST(DragProperties, PlanesAndArrowsKeepTheGrabbedPointUnderThePointer)
+{
+    forEachDrag(false, [](RandomDrag& drag) {
+        if (drag.handle.kind != Kind::Plane && drag.handle.kind != Kind::Arrow) {
+            return;
+        }
+        DragScene& drags = drag.drags;
+        // The point of the handle that the first step's ray meets, as the gizmo carries it along.
+        const Pnt3f origin = drags.onGizmo(Vec3f(0, 0, 0));
+        const Vec3f axis = drag.movementAxis();
+        const Vec3f sight = detail::viewDirection(origin);
+        const bool isPlane = drag.handle.kind == Kind::Plane;
+        const float steepness = std::abs(axis.dot(sight));
+        if (isPlane ? steepness < 0.2F : steepness > 0.95F) {
+            return;  // nearly along the line of sight: a pixel is too far in the world
+        }
+        const Vec3f normal = isPlane ? axis : detail::axisPlaneNormal(axis, sight);
+        osg::Line ray;
+        Pnt3f held;
+        ASSERT_TRUE(detail::pointerRay(drags.scene.widget, ray));
+        ASSERT_TRUE(detail::intersectPlane(osg::Plane(normal, origin), ray, held));
+        const Vec2f gap = drags.rayPixelOf(held) - drags.pressed;
+
+        const Pnt2f ahead = drags.rayPixelOf(held + axis * 0.1F);
+        Vec2f along = ahead - drags.rayPixelOf(held);
+        along.normalize();
+        for (int i = 1; i <= 20; ++i) {
+            // Along an axis whole pixels leave up to half a pixel beside it, which is not counted.
+            const float way = 3.0F * static_cast<float>(i) * (drag.number(0, 1) < 0.5F ? 1 : -1);
+            const Vec2f offset = isPlane
+                ? drag.offset(80.0F)
+                : Vec2f(std::round(along.x() * way), std::round(along.y() * way));
+            ASSERT_TRUE(drags.stepTo(offset));
+            const Vec3f moved = drags.onGizmo(Vec3f(0, 0, 0)) - origin;
+            const Vec2f now = drags.rayPixelOf(held + moved) - (drags.pressed + offset);
+            const Vec2f drift = now - gap;
+            ASSERT_LT(isPlane ? drift.length() : std::abs(drift.dot(along)), 0.6F);
+        }
+    });
+}
+
+TEST(DragProperties, TheNodeTurnsAboutTheDrawnRingByThePointersAngle)
+{
+    forEachDrag(true, [](RandomDrag& drag) {
+        if (drag.handle.kind != Kind::Ring) {
+            return;
+        }
+        DragScene& drags = drag.drags;
+        const Pnt3f center = drags.onGizmo(Vec3f(0, 0, 0));
+        Vec3f axis;
+        axis[drag.handle.axis] = 1.0F;
+        axis = drags.onGizmo(axis) - center;
+        axis.normalize();
+        Vec3f arm = drags.onGizmo(drag.handle.grab) - center;
+        if (std::abs(axis.dot(detail::viewDirection(center + arm))) < 0.8F) {
+            return;  // tilted by more than the ring's own plane is used for
+        }
+        const osg::Matrix before = drag.toWorld();
+        const float angle = drag.number(-170.0F, 170.0F) * kRadiansPerDegree;
+        // Once around in places: each pixel is near a point of the ring, the end is looked at from
+        // where the last pixel's ray meets the ring's plane.
+        osg::Line ray;
+        Pnt3f first;
+        Pnt3f last;
+        const osg::Plane plane(axis, center);
+        ASSERT_TRUE(detail::pointerRay(drags.scene.widget, ray));
+        ASSERT_TRUE(detail::intersectPlane(plane, ray, first));
+        for (int i = 1; i <= 40; ++i) {
+            Vec3f turned = arm;
+            osg::Quaternion(axis, angle * static_cast<float>(i) / 40.0F).multVec(arm, turned);
+            const Pnt2f pixel = drags.rayPixelOf(center + turned);
+            ASSERT_TRUE(drags.stepTo(Vec2f(std::round(pixel.x() - drags.pressed.x()),
+                                           std::round(pixel.y() - drags.pressed.y()))));
+        }
+        ASSERT_TRUE(detail::pointerRay(drags.scene.widget, ray));
+        ASSERT_TRUE(detail::intersectPlane(plane, ray, last));
+        const Vec3f from = first - center;
+        const Vec3f to = last - center;
+        const float pointerAngle = std::atan2(from.cross(to).dot(axis), from.dot(to));
+        EXPECT_NEAR(std::remainder(pointerAngle - angle, 2.0F * kPi), 0.0F, 0.06F);
+
+        // expected = T(center) R(axis, angle) T(-center) * before
+        osg::Matrix expected;
+        osg::Matrix back;
+        expected.setRotate(osg::Quaternion(axis, pointerAngle));
+        expected.setTranslate(center);
+        back.setTranslate(-center.x(), -center.y(), -center.z());
+        expected.mult(back);
+        expected.mult(before);
+        EXPECT_LT(relativeDifference(expected, drag.toWorld()), 1e-3F);
+    });
+}
+
+}  // namespace nbec::manipulator::test

@@ -1,0 +1,269 @@
+// SPDX-License-Identifier: MIT
+// Drags of every handle with numbers worked out by hand. The eye is 10 units away under 45 degrees
+// and 600 pixels high, so a world unit at the gizmo is 300 / (10 tan 22.5) = 72.4264 pixels in both
+// projections, and a unit of the gizmo 48.5 (perspective) or 50 pixels (orthographic).
+#include "tests/manipulator/support/DragScene.h"
+
+#include <nbOpenSGUberCamera/UberCamera.h>
+
+#include <OpenSG/OSGNode.h>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <iterator>
+#include <ostream>
+#include <string>
+
+namespace nbec::manipulator::test {
+
+namespace {
+
+using Mode = UniversalTransformManipulator2::ManipulatorMode;
+using osg::Vec2f;
+using osg::Vec3f;
+
+/// World units of a drag by 72 pixels.
+constexpr float kStep = 72.0F / 72.4264069F;
+constexpr float kTolerance = 2e-4F;
+/// Both coordinates of a ring's point at 45 degrees, gizmo units.
+constexpr float kDiagonal = 1.5F * 0.70710678F;
+constexpr float kRadiansPerDegree = 0.0174532925F;
+constexpr bool kWorld = false;
+constexpr bool kLocal = true;
+constexpr bool kPerspective = false;
+constexpr bool kOrthographic = true;
+
+/// Where the node stands: all rotations turn by 90 degrees about z.
+enum class Setting
+{
+    Plain,
+    TurnedNode,  ///< and scaled by 2
+    TurnedParent  ///< and scaled by 2
+};
+
+struct DragRow
+{
+    const char* name;
+    Mode mode;
+    Camera camera;
+    bool orthographic;
+    bool local;
+    Setting setting;
+    Vec3f grab;  ///< in gizmo units
+    Vec2f offsetPx;
+    Vec3f translation;
+    Vec3f rotation;
+    Vec3f scale;
+};
+
+void PrintTo(const DragRow& row, std::ostream* out)
+{
+    *out << row.name;
+}
+
+class DragRows : public testing::TestWithParam<DragRow>
+{ };
+
+void expectNear(const Vec3f& actual, const Vec3f& expected, float tolerance, const char* what)
+{
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        EXPECT_NEAR(actual[i], expected[i], tolerance) << what << ' ' << i;
+    }
+}
+
+const Vec3f kNone(0, 0, 0);
+const Vec3f kOne(1, 1, 1);
+const Vec3f kTwo(2, 2, 2);
+const Vec3f kQuarterTurn(0, 0, 90);
+
+}  // namespace
+
+TEST_P(DragRows, EndsWhereItWasWorkedOut)
+{
+    const DragRow& row = GetParam();
+    DragScene drags;
+    UniversalTransformManipulator2::setLocalSpaceManipulator(row.local);
+    const auto turnAndScale = [](const osg::Transform3DPtr& transform) {
+        transform->setRotation(kQuarterTurn);
+        transform->setScale(kTwo);
+    };
+    if (row.setting == Setting::TurnedNode) {
+        drags.edit(drags.core(), turnAndScale);
+    } else if (row.setting == Setting::TurnedParent) {
+        drags.edit(drags.parentCore(), turnAndScale);
+    }
+    drags.activate(row.mode);
+    drags.look(row.camera, row.orthographic);
+
+    ASSERT_TRUE(drags.grab(row.grab));
+    EXPECT_TRUE(drags.dragBy(row.offsetPx));
+    EXPECT_TRUE(drags.release());
+    expectNear(drags.core()->getTranslation(), row.translation, kTolerance, "translation");
+    expectNear(drags.core()->getRotation(), row.rotation, 0.01F, "rotation");
+    expectNear(drags.core()->getScale(), row.scale, 2e-3F, "scale");
+}
+
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Arrows, DragRows, testing::Values(
+    DragRow { "x", Mode::Translate, Camera::Front, kPerspective, kWorld, Setting::Plain, { 1.9F, 0, 0 }, { 72, 30 }, { kStep, 0, 0 }, kNone, kOne },
+    DragRow { "y", Mode::Translate, Camera::Front, kPerspective, kWorld, Setting::Plain, { 0, 1.9F, 0 }, { 25, -72 }, { 0, kStep, 0 }, kNone, kOne },
+    DragRow { "z", Mode::Universal, Camera::Side, kPerspective, kWorld, Setting::Plain, { 0, 0, 1.9F }, { -72, 9 }, { 0, 0, kStep }, kNone, kOne },
+    DragRow { "x orthographic", Mode::Clipping, Camera::Top, kOrthographic, kWorld, Setting::Plain, { 1.9F, 0, 0 }, { -72, 0 }, { -kStep, 0, 0 }, kNone, kOne },
+    DragRow { "y orthographic", Mode::TranslateRotate, Camera::Side, kOrthographic, kWorld, Setting::Plain, { 0, 1.9F, 0 }, { 5, -72 }, { 0, kStep, 0 }, kNone, kOne },
+    DragRow { "z orthographic", Mode::TranslateRotateYZ, Camera::Top, kOrthographic, kWorld, Setting::Plain, { 0, 0, 1.9F }, { 5, 72 }, { 0, 0, kStep }, kNone, kOne },
+    DragRow { "x local", Mode::Translate, Camera::Front, kPerspective, kLocal, Setting::TurnedNode, { 1.9F, 0, 0 }, { 30, -72 }, { 0, kStep, 0 }, kQuarterTurn, kTwo },
+    DragRow { "x world of a turned node", Mode::Translate, Camera::Front, kPerspective, kWorld, Setting::TurnedNode, { 1.9F, 0, 0 }, { 72, 0 }, { kStep, 0, 0 }, kQuarterTurn, kTwo },
+    DragRow { "x local below a turned parent", Mode::Translate, Camera::Front, kPerspective, kLocal, Setting::TurnedParent, { 1.9F, 0, 0 }, { 0, -72 }, { kStep / 2, 0, 0 }, kNone, kOne },
+    DragRow { "x world below a turned parent", Mode::TranslateRotateScale, Camera::Front, kOrthographic, kWorld, Setting::TurnedParent, { 1.9F, 0, 0 }, { 72, 0 }, { 0, -kStep / 2, 0 }, kNone, kOne }));
+
+INSTANTIATE_TEST_SUITE_P(Planes, DragRows, testing::Values(
+    DragRow { "xy", Mode::Translate, Camera::Front, kPerspective, kWorld, Setting::Plain, { 0.25F, 0.25F, 0 }, { 72, 36 }, { kStep, -kStep / 2, 0 }, kNone, kOne },
+    DragRow { "xz", Mode::Translate, Camera::Top, kPerspective, kWorld, Setting::Plain, { 0.25F, 0, 0.25F }, { 72, 36 }, { kStep, 0, kStep / 2 }, kNone, kOne },
+    DragRow { "yz", Mode::Translate, Camera::Side, kPerspective, kWorld, Setting::Plain, { 0, 0.25F, 0.25F }, { 72, 36 }, { 0, -kStep / 2, -kStep }, kNone, kOne },
+    DragRow { "xy orthographic, local, turned node", Mode::Universal, Camera::Front, kOrthographic, kLocal, Setting::TurnedNode, { 0.25F, 0.25F, 0 }, { 72, 36 }, { kStep, -kStep / 2, 0 }, kQuarterTurn, kTwo },
+    DragRow { "xz orthographic, turned parent", Mode::Translate, Camera::Top, kOrthographic, kWorld, Setting::TurnedParent, { 0.25F, 0, 0.25F }, { 72, 36 }, { 0, -kStep / 2, kStep / 4 }, kNone, kOne },
+    DragRow { "yz orthographic, local, turned parent", Mode::Translate, Camera::Top, kOrthographic, kLocal, Setting::TurnedParent, { 0, 0.25F, 0.25F }, { 72, 36 }, { 0, -kStep / 2, kStep / 4 }, kNone, kOne }));
+
+// From the point at 45 degrees on screen, 73 or 75 pixels from the centre, to the one above or beside
+// the centre.
+INSTANTIATE_TEST_SUITE_P(Rings, DragRows, testing::Values(
+    DragRow { "z", Mode::Rotate, Camera::Front, kPerspective, kWorld, Setting::Plain, { kDiagonal, kDiagonal, 0 }, { -51, -22 }, kNone, { 0, 0, 45 }, kOne },
+    DragRow { "x", Mode::Rotate, Camera::Side, kPerspective, kWorld, Setting::Plain, { 0, kDiagonal, -kDiagonal }, { -51, -22 }, kNone, { 45, 0, 0 }, kOne },
+    DragRow { "y", Mode::Universal, Camera::Top, kPerspective, kWorld, Setting::Plain, { kDiagonal, 0, -kDiagonal }, { -51, -22 }, kNone, { 0, 45, 0 }, kOne },
+    DragRow { "z orthographic, turned node", Mode::TranslateRotate, Camera::Front, kOrthographic, kWorld, Setting::TurnedNode, { kDiagonal, kDiagonal, 0 }, { -53, -22 }, kNone, { 0, 0, 135 }, kTwo },
+    DragRow { "y orthographic, local, turned node", Mode::Rotate, Camera::Side, kOrthographic, kLocal, Setting::TurnedNode, { kDiagonal, 0, -kDiagonal }, { 22, 53 }, kNone, { 0, 45, 90 }, kTwo },
+    DragRow { "x local, turned parent", Mode::Rotate, Camera::Top, kPerspective, kLocal, Setting::TurnedParent, { 0, -kDiagonal, -kDiagonal }, { 22, 51 }, kNone, { -45, 0, 0 }, kOne },
+    DragRow { "x world, turned parent", Mode::TranslateRotateScale, Camera::Side, kPerspective, kWorld, Setting::TurnedParent, { 0, kDiagonal, -kDiagonal }, { -51, -22 }, kNone, { 0, -45, 0 }, kOne },
+    DragRow { "z world, turned parent", Mode::TranslateRotateYZ, Camera::Front, kPerspective, kWorld, Setting::TurnedParent, { kDiagonal, kDiagonal, 0 }, { -51, -22 }, kNone, { 0, 0, 45 }, kOne }));
+
+// A box is 73 or 75 pixels from the centre; 97 or 100 pixels are two gizmo units.
+INSTANTIATE_TEST_SUITE_P(ScaleHandles, DragRows, testing::Values(
+    DragRow { "x", Mode::Scale, Camera::Front, kPerspective, kWorld, Setting::Plain, { 1.5F, 0, 0 }, { 73, 20 }, kNone, kNone, { 2, 1, 1 } },
+    DragRow { "y", Mode::Scale, Camera::Front, kPerspective, kWorld, Setting::Plain, { 0, 1.5F, 0 }, { 20, -73 }, kNone, kNone, { 1, 2, 1 } },
+    DragRow { "z", Mode::Scale, Camera::Side, kPerspective, kWorld, Setting::Plain, { 0, 0, 1.5F }, { -73, 4 }, kNone, kNone, { 1, 1, 2 } },
+    DragRow { "x orthographic, turned node", Mode::Scale, Camera::Front, kOrthographic, kWorld, Setting::TurnedNode, { 1.5F, 0, 0 }, { 0, -75 }, kNone, kQuarterTurn, { 4, 2, 2 } },
+    DragRow { "z orthographic, turned parent", Mode::Scale, Camera::Top, kOrthographic, kLocal, Setting::TurnedParent, { 0, 0, 1.5F }, { 0, 150 }, kNone, kNone, { 1, 1, 3 } },
+    DragRow { "x to the far side", Mode::Scale, Camera::Front, kPerspective, kWorld, Setting::Plain, { 1.5F, 0, 0 }, { -160, 0 }, kNone, kNone, { 0.01F, 1, 1 } },
+    DragRow { "uniform up", Mode::Scale, Camera::Oblique, kPerspective, kWorld, Setting::Plain, kNone, { 30, -97 }, kNone, kNone, { 1.2F, 1.2F, 1.2F } },
+    DragRow { "uniform down", Mode::Scale, Camera::Oblique, kOrthographic, kWorld, Setting::TurnedNode, kNone, { 30, 100 }, kNone, kQuarterTurn, { 1.6F, 1.6F, 1.6F } },
+    DragRow { "uniform to its least", Mode::Scale, Camera::Oblique, kOrthographic, kWorld, Setting::TurnedParent, kNone, { 0, 600 }, kNone, kNone, { 0.1F, 0.1F, 0.1F } }));
+
+// clang-format on
+
+TEST(Drags, UniformFactorGrowsUpTheScreenWhereZIsUp)
+{
+    DragScene drags;
+    drags.activate(Mode::Scale);
+    const osg::UberCameraPtr camera = drags.scene.widget.getUberCamera();
+    osg::beginEditCP(camera);
+    camera->setZUp(true);
+    osg::endEditCP(camera);
+    camera->setFromAtUp(osg::Pnt3f(0, -10, 0), osg::Pnt3f(0, 0, 0), Vec3f(0, 0, 1));
+    UniversalTransformManipulator2::updateAllManipulators();
+    ASSERT_TRUE(drags.grab(kNone));
+    EXPECT_TRUE(drags.dragBy(Vec2f(0, -97)));
+    expectNear(drags.core()->getScale(), Vec3f(1.2F, 1.2F, 1.2F), 2e-3F, "scale");
+}
+
+// == Pivots
+
+TEST(PivotDrags, MoveThePivotAndLeaveTheObject)
+{
+    for (const bool local : { false, true }) {
+        for (const Mode mode : { Mode::RotatePivot, Mode::ScalePivot }) {
+            DragScene drags;
+            UniversalTransformManipulator2::setLocalSpaceManipulator(local);
+            drags.edit(drags.parentCore(), [](const osg::Transform3DPtr& parent) {
+                parent->setScale(kTwo);
+                parent->setRotation(Vec3f(0, 0, 30));
+            });
+            drags.edit(drags.core(), [](const osg::Transform3DPtr& core) {
+                core->setRotation(Vec3f(0, 0, 60));
+                core->setScale(Vec3f(1, 3, 2));
+            });
+            drags.activate(mode);
+            drags.gizmo.enableSnapping(true);  // pivots never snap
+            const osg::Matrix before = drags.scene.node->getToWorld();
+            // The gizmo's x axis is the world's, or the node's: 90 degrees further on screen.
+            ASSERT_TRUE(drags.grab(Vec3f(1.9F, 0, 0)));
+            EXPECT_TRUE(drags.dragBy(local ? Vec2f(0, -36) : Vec2f(36, 0)));
+            EXPECT_TRUE(drags.release());
+            EXPECT_LT(greatestDifference(before, drags.scene.node->getToWorld()), 1e-5F);
+            const osg::Pnt3f expected =
+                local ? osg::Pnt3f(0, kStep / 2, 0) : osg::Pnt3f(kStep / 2, 0, 0);
+            EXPECT_LT((drags.onGizmo(kNone) - expected).length(), kTolerance)
+                << "local " << local << " mode " << static_cast<int>(mode);
+        }
+    }
+}
+
+TEST(PivotDrags, TurnThePivotAndLeaveTheObject)
+{
+    for (const auto rotationMode : { osg::Transform3D::EulerMode, osg::Transform3D::QuaternionMode,
+                                     osg::Transform3D::AxisAlignedMode }) {
+        DragScene drags;
+        drags.edit(drags.core(), [&](const osg::Transform3DPtr& core) {
+            core->setRotation(Vec3f(0, 0, 20));
+            core->setRotationMode(rotationMode);
+            core->setRotationQuaternion(core->getRotationAsQuaternion());
+            core->setTranslation(Vec3f(0, 0, 0));
+            core->setScale(Vec3f(1, 3, 2));
+        });
+        drags.edit(drags.core(), [](const osg::Transform3DPtr& core) {
+            core->setRotationQuaternion(osg::Quaternion(Vec3f(0, 0, 1), 20.0F * kRadiansPerDegree));
+        });
+        drags.activate(Mode::RotatePivot);
+        const osg::Matrix before = drags.scene.node->getToWorld();
+        ASSERT_TRUE(drags.grab(Vec3f(kDiagonal, kDiagonal, 0)));
+        EXPECT_TRUE(drags.dragBy(Vec2f(-51, -22)));
+        EXPECT_TRUE(drags.release());
+        EXPECT_LT(greatestDifference(before, drags.scene.node->getToWorld()), 1e-5F);
+        expectNear(drags.core()->getRotation(), Vec3f(0, 0, 65), 0.01F, "pivot");
+    }
+}
+
+// == Snapping
+
+TEST(SnappingDrags, RotationGathersSmallSteps)
+{
+    DragScene drags;
+    drags.activate(Mode::Rotate);
+    drags.gizmo.enableSnapping(true);
+    ASSERT_TRUE(drags.grab(Vec3f(kDiagonal, kDiagonal, 0)));
+    const float reached[] = { 0, 15, 15, 30, 15 };
+    const float pointerDeg[] = { 5, 10, 15, 20, 12 };
+    for (std::size_t i = 0; i < std::size(reached); ++i) {
+        // Far out on the ray through the ring's centre, where whole pixels are fine enough.
+        const float angle = (45.0F + pointerDeg[i]) * kRadiansPerDegree;
+        EXPECT_TRUE(drags.stepTo(
+            Vec2f(250.0F * std::cos(angle) - 51.0F, 51.0F - 250.0F * std::sin(angle))));
+        EXPECT_NEAR(drags.core()->getRotation().z(), reached[i], 1e-3F) << "step " << i;
+    }
+}
+
+TEST(SnappingDrags, TranslationsAndScalesEndOnMultiples)
+{
+    DragScene drags;
+    drags.activate(Mode::Universal);
+    drags.gizmo.setManipulatorMode("precisionTool");
+    ASSERT_TRUE(drags.grab(Vec3f(1.9F, 0, 0)));
+    EXPECT_TRUE(drags.dragBy(Vec2f(36, 0)));
+    EXPECT_EQ(drags.core()->getTranslation(), kNone);  // 0.497 units
+    EXPECT_TRUE(drags.dragBy(Vec2f(37, 0)));
+    expectNear(drags.core()->getTranslation(), Vec3f(1, 0, 0), 1e-6F, "just past the half");
+    EXPECT_TRUE(drags.dragBy(Vec2f(-110, 0)));
+    expectNear(drags.core()->getTranslation(), Vec3f(-2, 0, 0), 1e-6F, "back past -1.5");
+    EXPECT_TRUE(drags.dragBy(Vec2f(0, 0)));
+    EXPECT_TRUE(drags.release());
+
+    drags.gizmo.setManipulatorMode("tool");
+    drags.gizmo.enableSnapping(true);
+    ASSERT_TRUE(drags.grab(Vec3f(1.5F, 0, 0)));
+    EXPECT_TRUE(drags.dragBy(Vec2f(20, 0)));  // factor 93 / 73 = 1.274
+    expectNear(drags.core()->getScale(), Vec3f(1.3F, 1, 1), 1e-6F, "scale");
+    EXPECT_TRUE(drags.dragBy(Vec2f(-71, 0)));  // 2 / 73 = 0.027
+    expectNear(drags.core()->getScale(), Vec3f(0, 1, 1), 1e-6F, "scale");
+}
+
+}  // namespace nbec::manipulator::test
