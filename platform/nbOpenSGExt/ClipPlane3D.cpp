@@ -43,7 +43,7 @@ NodePtr ClipPlane3D::getTransformNode() const
 
 void ClipPlane3D::setTransformNode(const NodePtr& node)
 {
-    setTransformNodeId(node == NullFC ? 0 : node->getFieldContainerId());
+    setTransformNodeId(node == NullFC ? 0 : node.getFieldContainerId());
 }
 
 bool ClipPlane3D::getWorldEquation(const NodePtr& node, Vec4f& result) const

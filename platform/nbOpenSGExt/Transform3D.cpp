@@ -65,8 +65,11 @@ const nbRotationMath::Rows& Transform3D::getWholeRotation() const
     const Quaternion turn = getRotationAsQuaternion();
     const Quaternion& orientation = getRotationOrientation();
     if (!sameBits(cache.rowsTurn, turn) || !sameBits(cache.rowsOrientation, orientation)) {
-        cache.rows = nbRotationMath::rotationRows(nbRotationMath::product(
-            nbRotationMath::toDouble(turn), nbRotationMath::toDouble(orientation)));
+        const nbQuaterniond whole = sameBits(orientation, Quaternion())
+            ? nbRotationMath::toDouble(turn)
+            : nbRotationMath::product(nbRotationMath::toDouble(turn),
+                                      nbRotationMath::toDouble(orientation));
+        cache.rows = nbRotationMath::rotationRows(whole);
         cache.rowsTurn = turn;
         cache.rowsOrientation = orientation;
     }

@@ -82,7 +82,7 @@ HalfTurn halfTurnRad(double angleRad)
 /// Sine and cosine of half an angle in degrees, to 1e-11: far below what a float keeps, and quick.
 /// The angle is reduced in degrees, which is exact, so that half turns come out exact too. The rest
 /// is at most a quarter of pi; there the series end with x^11 / 11! and x^12 / 12!.
-HalfTurn halfTurnDeg(double angleDeg)
+inline HalfTurn halfTurnDeg(double angleDeg)
 {
     constexpr double kLargest = 1e6;
     const double half =
@@ -90,38 +90,27 @@ HalfTurn halfTurnDeg(double angleDeg)
     if (!std::isfinite(half)) {
         return { half - half, half - half };
     }
-    const double quarters = std::nearbyint(half / 90.0);
-    const double x = kRadPerDeg * (half - 90.0 * quarters);
-    const double xx = x * x;
+    const auto quarter = static_cast<int>(half * (1.0 / 90.0) + (half < 0.0 ? -0.5 : 0.5));
+    const double x = kRadPerDeg * (half - 90.0 * quarter);
+    // Terms in pairs, so that they do not wait for each other.
+    const double x2 = x * x;
+    const double x4 = x2 * x2;
     const double sine = x *
-        (1.0 +
-         xx *
-             (-1.0 / 6 +
-              xx *
-                  (1.0 / 120 + xx * (-1.0 / 5040 + xx * (1.0 / 362880 + xx * (-1.0 / 39916800))))));
-    const double cosine = 1.0 +
-        xx *
-            (-1.0 / 2 +
-             xx *
-                 (1.0 / 24 +
-                  xx *
-                      (-1.0 / 720 +
-                       xx * (1.0 / 40320 + xx * (-1.0 / 3628800 + xx * (1.0 / 479001600))))));
-    switch (static_cast<long>(quarters) & 3) {
-    case 0:
-        return { sine, cosine };
-    case 1:
-        return { cosine, -sine };
-    case 2:
-        return { -sine, -cosine };
-    default:
-        return { -cosine, sine };
-    }
+        ((1.0 - x2 * (1.0 / 6)) +
+         x4 * ((1.0 / 120 - x2 * (1.0 / 5040)) + x4 * (1.0 / 362880 - x2 * (1.0 / 39916800))));
+    const double cosine = (1.0 - 0.5 * x2) +
+        x4 *
+            ((1.0 / 24 - x2 * (1.0 / 720)) +
+             x4 * ((1.0 / 40320 - x2 * (1.0 / 3628800)) + x4 * (1.0 / 479001600)));
+    const bool isSwapped = (quarter & 1) != 0;
+    const double first = isSwapped ? cosine : sine;
+    const double second = isSwapped ? sine : cosine;
+    return { (quarter & 2) != 0 ? -first : first, ((quarter + 1) & 2) != 0 ? -second : second };
 }
 
 /// The product qk qj qi of three turns about the axes of an order, multiplied out.
 /// @param turns  about x, y, z
-osg::Quaterniond product(const std::array<HalfTurn, 3>& turns, const nbEulerRotation::Order& order)
+nbQuaterniond product(const std::array<HalfTurn, 3>& turns, const nbEulerRotation::Order& order)
 {
     const auto [i, j, k] = order.axes;
     const double e = order.sign;
@@ -136,7 +125,7 @@ osg::Quaterniond product(const std::array<HalfTurn, 3>& turns, const nbEulerRota
     axis[i] = firstOnly * last.cosine - e * middleOnly * last.sine;
     axis[j] = middleOnly * last.cosine + e * firstOnly * last.sine;
     axis[k] = cosines * last.sine - e * sines * last.cosine;
-    osg::Quaterniond result;
+    nbQuaterniond result;
     result.setValueAsQuat(axis[0], axis[1], axis[2], cosines * last.cosine + e * sines * last.sine);
     return result;
 }
@@ -163,7 +152,7 @@ const nbEulerRotation::Order& nbEulerRotation::getOrder(int order)
     return namedOrder(order).order;
 }
 
-osg::Quaterniond nbEulerRotation::toQuaternion(const std::array<double, 3>& anglesRad, int order)
+nbQuaterniond nbEulerRotation::toQuaternion(const std::array<double, 3>& anglesRad, int order)
 {
     return product(
         { halfTurnRad(anglesRad[0]), halfTurnRad(anglesRad[1]), halfTurnRad(anglesRad[2]) },
@@ -178,7 +167,7 @@ osg::Quaternion nbEulerRotation::toQuaternion(const osg::Vec3f& anglesDeg, const
                                            getOrder(getOrderNumber(order))));
 }
 
-std::array<double, 3> nbEulerRotation::fromQuaternion(const osg::Quaterniond& rotation, int order)
+std::array<double, 3> nbEulerRotation::fromQuaternion(const nbQuaterniond& rotation, int order)
 {
     return anglesOf(nbRotationMath::rotationRows(rotation), order, kDoubleGimbalCosine);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <nbOpenSGExt/nbRotationMath.h>
 #include <nbUtils/nbPlatformExport.h>
 
 #include <OpenSG/OSGQuaternion.h>
@@ -37,7 +38,7 @@ public:
 
     /// The same in double.
     /// @param anglesRad  angle about x, y, z in radians
-    static osg::Quaterniond toQuaternion(const std::array<double, 3>& anglesRad, int order);
+    static nbQuaterniond toQuaternion(const std::array<double, 3>& anglesRad, int order);
 
     /// Angles in degrees about x, y, z that give the rotation in the given order.
     /// The middle angle lies in -90 .. 90. Where it is within 1e-6 of the ends (cosine), the last
@@ -46,5 +47,5 @@ public:
     static osg::Vec3f fromQuaternion(const osg::Quaternion& rotation, const std::string& order);
 
     /// The same in double, in radians, with 1e-10 for the ends.
-    static std::array<double, 3> fromQuaternion(const osg::Quaterniond& rotation, int order);
+    static std::array<double, 3> fromQuaternion(const nbQuaterniond& rotation, int order);
 };

@@ -7,19 +7,22 @@
 
 #include <array>
 
+/// A quaternion in double; no scene graph but the bundled one has a name for it.
+using nbQuaterniond = osg::QuaternionBase<osg::Real64>;
+
 namespace nbRotationMath {
 
 /// A matrix by its rows, as written on paper.
 using Rows = std::array<std::array<double, 3>, 3>;
 
-inline osg::Quaterniond toDouble(const osg::Quaternion& q)
+inline nbQuaterniond toDouble(const osg::Quaternion& q)
 {
-    osg::Quaterniond result;
+    nbQuaterniond result;
     result.setValueAsQuat(q.x(), q.y(), q.z(), q.w());
     return result;
 }
 
-inline osg::Quaternion toFloat(const osg::Quaterniond& q)
+inline osg::Quaternion toFloat(const nbQuaterniond& q)
 {
     osg::Quaternion result;
     result.setValueAsQuat(static_cast<osg::Real32>(q.x()), static_cast<osg::Real32>(q.y()),
@@ -28,9 +31,9 @@ inline osg::Quaternion toFloat(const osg::Quaterniond& q)
 }
 
 /// a times b: b turns first.
-inline osg::Quaterniond product(const osg::Quaterniond& a, const osg::Quaterniond& b)
+inline nbQuaterniond product(const nbQuaterniond& a, const nbQuaterniond& b)
 {
-    osg::Quaterniond result;
+    nbQuaterniond result;
     result.setValueAsQuat(a.w() * b.x() + a.x() * b.w() + a.y() * b.z() - a.z() * b.y(),
                           a.w() * b.y() - a.x() * b.z() + a.y() * b.w() + a.z() * b.x(),
                           a.w() * b.z() + a.x() * b.y() - a.y() * b.x() + a.z() * b.w(),
@@ -39,10 +42,15 @@ inline osg::Quaterniond product(const osg::Quaterniond& a, const osg::Quaternion
 }
 
 /// A quaternion of another length is scaled to unit first; a zero one turns nothing.
-inline Rows rotationRows(const osg::Quaterniond& q)
+inline Rows rotationRows(const nbQuaterniond& q)
 {
     const double square = q.x() * q.x() + q.y() * q.y() + q.z() * q.z() + q.w() * q.w();
-    const double s = square > 0.0 ? 2.0 / square : 0.0;
+    // Nearly always of unit length; there 2 - x is 1 / x to the last digits.
+    constexpr double kNearUnit = 1e-7;
+    const double offUnit = square - 1.0;
+    const double s = offUnit < kNearUnit && offUnit > -kNearUnit ? 2.0 - 2.0 * offUnit
+        : square > 0.0                                           ? 2.0 / square
+                                                                 : 0.0;
     const double xx = s * q.x() * q.x();
     const double yy = s * q.y() * q.y();
     const double zz = s * q.z() * q.z();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "nbItemList.h"
 
+#include <nbOpenSGExt/ClipPlane3D.h>
 #include <nbOpenSGExt/NodeFlags.h>
 #include <nbOpenSGRenderAction/nbMesh.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
@@ -51,6 +52,7 @@ struct ItemList::Place
     osg::Matrix worldFromParent;
     osg::MaterialPtr group;
     osg::UInt32 manipulator = 0;
+    osg::UInt32 clipSet = 0;
     bool auxiliary = false;
 };
 
@@ -59,6 +61,8 @@ bool ItemList::update(const osg::NodePtr& root)
     const osg::UInt32 id = idOf(root);
     const osg::UInt64 count = osg::getTreeChangeCount(root);
     if (id == rootId && count == treeCount) {
+        // What moves a plane may be outside of the tree.
+        updateClipPlanes();
         return false;
     }
     rootId = id;
@@ -66,10 +70,12 @@ bool ItemList::update(const osg::NodePtr& root)
     items.clear();
     states.clear();
     stateIndices.clear();
+    clipSources.resize(1);
     manipulatorCount = 0;
     if (root != osg::NullFC) {
         visit(root, Place());
     }
+    updateClipPlanes();
     assignDepthSteps();
     sortItems();
     dropCopies();
@@ -93,6 +99,8 @@ void ItemList::visit(const osg::NodePtr& node, const Place& above)
     const osg::NodeCorePtr core = node->getCore();
     if (const auto transform = osg::TransformPtr::dcast(core); transform != osg::NullFC) {
         place.worldFromParent.mult(transform->getMatrix());
+    } else if (osg::ClipPlane3DPtr::dcast(core) != osg::NullFC) {
+        place.clipSet = extendedClipSet(above.clipSet, node);
     } else if (const auto group = osg::MaterialGroupPtr::dcast(core); group != osg::NullFC) {
         if (place.group == osg::NullFC) {
             place.group = group->getMaterial();
@@ -101,6 +109,31 @@ void ItemList::visit(const osg::NodePtr& node, const Place& above)
         addItem(geometry, place);
     }
     visitChildren(node, place);
+}
+
+osg::UInt32 ItemList::extendedClipSet(osg::UInt32 above, const osg::NodePtr& node)
+{
+    std::vector<ClipSource> sources = clipSources[above];
+    sources.push_back({ idOf(node->getCore()), idOf(node) });
+    clipSources.push_back(std::move(sources));
+    return static_cast<osg::UInt32>(clipSources.size() - 1);
+}
+
+void ItemList::updateClipPlanes()
+{
+    const osg::FieldContainerFactory& factory = *osg::FieldContainerFactory::the();
+    clipPlanes.assign(clipSources.size(), ClipPlanes());
+    for (std::size_t set = 1; set < clipSources.size(); ++set) {
+        for (const ClipSource& source : clipSources[set]) {
+            const auto core = osg::ClipPlane3DPtr::dcast(factory.getContainer(source.coreId));
+            const auto node = osg::NodePtr::dcast(factory.getContainer(source.nodeId));
+            osg::Vec4f plane;
+            if (core != osg::NullFC && clipPlanes[set].size() < kMostClipPlanes &&
+                core->getWorldEquation(node, plane)) {
+                clipPlanes[set].push_back(plane);
+            }
+        }
+    }
 }
 
 void ItemList::visitChildren(const osg::NodePtr& node, const Place& place)
@@ -130,6 +163,7 @@ void ItemList::addItem(const osg::GeometryPtr& geometry, const Place& place)
     item.handle = place.manipulator != 0;
     item.manipulator = place.manipulator;
     item.auxiliary = place.auxiliary;
+    item.clipSet = item.handle ? 0 : place.clipSet;
     item.worldFromObject = place.worldFromParent;
     item.bounds = local;
     item.bounds.transform(place.worldFromParent);

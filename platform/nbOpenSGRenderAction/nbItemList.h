@@ -8,6 +8,7 @@
 #include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGMatrix.h>
 #include <OpenSG/OSGNode.h>
+#include <OpenSG/OSGVector.h>
 
 #include <unordered_map>
 #include <vector>
@@ -31,7 +32,14 @@ struct RenderItem
     /// coincident lines the one with the higher key, such as a highlighted shaft, is seen.
     osg::Int32 depthSteps = 0;
     osg::UInt32 manipulator = 0;  ///< number of the manipulator node that the item is below, from 1
+    osg::UInt32 clipSet = 0;  ///< into ItemList::getClipPlanes; 0 for an item that nothing cuts
 };
+
+/// Clip planes in world space: what is seen has a x + b y + c z + d >= 0 for each of them.
+using ClipPlanes = std::vector<osg::Vec4f>;
+
+/// How many planes cut one item at most, the outermost in the tree first; further ones are ignored.
+constexpr std::size_t kMostClipPlanes = 6;
 
 constexpr osg::Int32 kMostDepthSteps = 8;
 
@@ -44,7 +52,8 @@ constexpr osg::Int32 kMostDepthSteps = 8;
 /// chunks of the same kind and gives the first key, while the rest of the material stays the
 /// geometry's. Of items below one manipulator node that are alike in geometry, material and place,
 /// as a depth pass copy has them, the last one in order is kept: each of them would paint the same
-/// picture. Inactive nodes, and what a Switch does not choose, are left out.
+/// picture. Inactive nodes, and what a Switch does not choose, are left out. ClipPlane3D cores cut
+/// the scene items below them, handles never.
 class NB_PLATFORM_API ItemList
 {
 public:
@@ -60,6 +69,9 @@ public:
     /// Indices into getItems() in drawing order for a view.
     /// @param viewFromWorld  4x4, column vectors; the camera looks along -z
     const std::vector<osg::UInt32>& getOrder(const osg::Matrix& viewFromWorld);
+
+    /// The planes of a set of the last update.
+    const ClipPlanes& getClipPlanes(osg::UInt32 clipSet) const { return clipPlanes[clipSet]; }
 
     /// World bounds of the items that are neither handles nor auxiliary; empty without any.
     const osg::BoxVolume& getSceneBounds() const { return sceneBounds; }
@@ -95,7 +107,16 @@ private:
         osg::BoxVolume box;
     };
 
+    /// One clip plane core in the tree.
+    struct ClipSource
+    {
+        osg::UInt32 coreId = 0;
+        osg::UInt32 nodeId = 0;
+    };
+
     void visit(const osg::NodePtr& node, const Place& above);
+    osg::UInt32 extendedClipSet(osg::UInt32 above, const osg::NodePtr& node);
+    void updateClipPlanes();
     void visitChildren(const osg::NodePtr& node, const Place& place);
     void addItem(const osg::GeometryPtr& geometry, const Place& place);
     osg::UInt32 stateFor(const osg::MaterialPtr& material, const osg::MaterialPtr& group,
@@ -110,6 +131,8 @@ private:
     std::vector<RenderItem> items;
     std::vector<DrawState> states;
     std::vector<osg::UInt32> order;
+    std::vector<std::vector<ClipSource>> clipSources { 1 };  ///< by set; the first stays empty
+    std::vector<ClipPlanes> clipPlanes { 1 };
     std::unordered_map<StateKey, osg::UInt32, StateKeyHash> stateIndices;
     std::unordered_map<osg::UInt32, LocalBounds> boundsById;
     osg::BoxVolume sceneBounds;

@@ -47,6 +47,16 @@ void setColor(Gl& gl, GlProgram& program, const char* name, const osg::Color3f& 
     program.set(gl, name, color.red(), color.green(), color.blue());
 }
 
+/// A plane of the world in view space; the view neither scales nor mirrors.
+osg::Vec4f inView(const osg::Vec4f& plane, const osg::Matrix& viewFromWorld)
+{
+    osg::Vec3f normal(plane.x(), plane.y(), plane.z());
+    viewFromWorld.multMatrixVec(normal);
+    const osg::Vec4f& origin = viewFromWorld[3];
+    const float offset = plane.w() - normal.dot(osg::Vec3f(origin.x(), origin.y(), origin.z()));
+    return { normal.x(), normal.y(), normal.z(), offset };
+}
+
 /// Transposed inverse of the 3x3: it keeps normals upright under uneven scales. A singular matrix
 /// gives itself.
 osg::Matrix normalMatrix(const osg::Matrix& matrix)
@@ -111,6 +121,7 @@ ItemPainter::ItemPainter(Gl& functions, GpuMeshes& meshCache, GpuTextures& textu
 
 ItemPainter::~ItemPainter()
 {
+    switchClipping(0);
     for (const GLenum switchedOn :
          { GL_DEPTH_TEST, GL_PROGRAM_POINT_SIZE, GL_POLYGON_OFFSET_FILL, GL_POLYGON_OFFSET_LINE,
            GL_POLYGON_OFFSET_POINT, GL_DEPTH_CLAMP, GL_BLEND, GL_CULL_FACE }) {
@@ -131,13 +142,17 @@ ItemPainter::~ItemPainter()
     gl.glUseProgram(0);
 }
 
-void ItemPainter::draw(const RenderItem& item, const DrawState& state)
+void ItemPainter::draw(const RenderItem& item, const DrawState& state, const ClipPlanes& planes)
 {
     const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(resolve(item.geometryId));
     if (geometry == osg::NullFC) {
         return;
     }
     const GpuMesh& mesh = meshes.get(gl, geometry);
+    viewClipPlanes.clear();
+    for (const osg::Vec4f& plane : planes) {
+        viewClipPlanes.push_back(inView(plane, view.viewFromWorld));
+    }
     applyDepth(item, state);
     applyBlending(item, state);
     applyPolygons(item, state);
@@ -202,6 +217,30 @@ void ItemPainter::applyPolygons(const RenderItem& item, const DrawState& state)
     view.depth.setOffset(gl, state.offsetFactor,
                          state.offsetBias -
                              kUnitsPerDepthStep * static_cast<float>(item.depthSteps));
+}
+
+void ItemPainter::switchClipping(std::size_t count)
+{
+    while (clippingCount > count) {
+        --clippingCount;
+        gl.glDisable(GL_CLIP_DISTANCE0 + static_cast<GLenum>(clippingCount));
+    }
+    while (clippingCount < count) {
+        gl.glEnable(GL_CLIP_DISTANCE0 + static_cast<GLenum>(clippingCount));
+        ++clippingCount;
+    }
+}
+
+void ItemPainter::setClipPlanes(GlProgram& program)
+{
+    constexpr std::array<const char*, kMostClipPlanes> kNames { "clipPlanes[0]", "clipPlanes[1]",
+                                                                "clipPlanes[2]", "clipPlanes[3]",
+                                                                "clipPlanes[4]", "clipPlanes[5]" };
+    for (std::size_t i = 0; i < viewClipPlanes.size(); ++i) {
+        const osg::Vec4f& plane = viewClipPlanes[i];
+        program.set(gl, kNames[i], plane.x(), plane.y(), plane.z(), plane.w());
+    }
+    switchClipping(viewClipPlanes.size());
 }
 
 void ItemPainter::setPlace(GlProgram& program, const RenderItem& item)
@@ -295,9 +334,11 @@ GlProgram* ItemPainter::prepareMaterial(const RenderItem& item, const DrawState&
     features.textured = isSurface && bindTexture(state);
     features.discards =
         state.alphaFunc != GL_ALWAYS || (isLine && state.stipplePattern != DrawState::kSolidLine);
-    GlProgram* program = programs.getMaterialProgram(gl, shape, features);
+    const auto clipping = viewClipPlanes.empty() ? shaders::Clipping::Off : shaders::Clipping::On;
+    GlProgram* program = programs.getMaterialProgram(gl, shape, clipping, features);
     if (program != nullptr) {
         program->use(gl);
+        setClipPlanes(*program);
         setPlace(*program, item);
         setMaterial(*program, item, state, isSurface, hasColors);
         if (features.textured) {
@@ -313,6 +354,7 @@ GlProgram* ItemPainter::prepareShaderChunk(const RenderItem& item, const DrawSta
     const auto chunk = osg::SHLChunkPtr::dcast(resolve(state.shaderId));
     GlProgram* program = chunk == osg::NullFC ? nullptr : programs.use(gl, chunk, lines);
     if (program != nullptr) {
+        switchClipping(0);
         setPlace(*program, item);
         setMaterial(*program, item, state, !lines, false);
         bindTexture(state);

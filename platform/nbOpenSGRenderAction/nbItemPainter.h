@@ -49,12 +49,17 @@ public:
     ItemPainter(const ItemPainter&) = delete;
     ItemPainter& operator=(const ItemPainter&) = delete;
 
-    void draw(const RenderItem& item, const DrawState& state);
+    /// @param planes  what cuts the item. Shader chunks are not cut unless their programs see to
+    /// it.
+    void draw(const RenderItem& item, const DrawState& state, const ClipPlanes& planes);
 
 private:
     void applyDepth(const RenderItem& item, const DrawState& state);
     void applyBlending(const RenderItem& item, const DrawState& state);
     void applyPolygons(const RenderItem& item, const DrawState& state);
+    /// Sets the item's clip planes for a program that obeys them, and switches as many on.
+    void setClipPlanes(GlProgram& program);
+    void switchClipping(std::size_t count);
     void setPlace(GlProgram& program, const RenderItem& item);
     void setMaterial(GlProgram& program, const RenderItem& item, const DrawState& state,
                      bool isSurface, bool hasColors);
@@ -78,6 +83,8 @@ private:
     GpuTextures& textures;
     ShaderPrograms& programs;
     const FrameView& view;
+    ClipPlanes viewClipPlanes;  ///< of the item that is being drawn, in view space
+    std::size_t clippingCount = 0;  ///< switched on
     osg::TextureChunkPtr boundChunk;
     GpuTexture boundTexture;
 };

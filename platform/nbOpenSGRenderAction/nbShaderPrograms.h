@@ -36,7 +36,8 @@ public:
 
     /// Program for materials, compiled on first use; null if the driver refuses it, of which the
     /// log has a line.
-    GlProgram* getMaterialProgram(Gl& gl, Shape shape, const shaders::Features& features);
+    GlProgram* getMaterialProgram(Gl& gl, Shape shape, shaders::Clipping clipping,
+                                  const shaders::Features& features);
 
     /// Program of a shader chunk, with its parameters set and in use.
     /// @param lines  the program draws lines: without a geometry program of its own it gets one
@@ -60,7 +61,7 @@ private:
     static void build(Gl& gl, const osg::SHLChunkPtr& chunk, Entry& entry);
     static void setParameters(Gl& gl, const osg::SHLChunkPtr& chunk, GlProgram& program);
 
-    static constexpr std::size_t kMaterialPrograms = 16;
+    static constexpr std::size_t kMaterialPrograms = 32;
 
     GlProgram standard[2];
     GlProgram material[kMaterialPrograms];

@@ -7,6 +7,19 @@ namespace nbrender::shaders {
 
 namespace {
 
+/// As many planes as kMostClipPlanes.
+const char* const kClipFunctions = R"(
+#define CLIPPED
+uniform vec4 clipPlanes[6];
+out float gl_ClipDistance[6];
+void clipAt(vec3 viewPoint)
+{
+    for (int i = 0; i < 6; ++i) {
+        gl_ClipDistance[i] = dot(clipPlanes[i], vec4(viewPoint, 1.0));
+    }
+}
+)";
+
 const char* const kSurfaceVertexBody = R"(
 uniform mat4 viewFromObject;
 uniform mat4 normalFromObject;
@@ -21,6 +34,9 @@ void main()
     gl_Position = nbClipFromObject * vec4(nbPosition, 1.0);
     gl_PointSize = pointSize;
     viewPosition = (viewFromObject * vec4(nbPosition, 1.0)).xyz;
+#ifdef CLIPPED
+    clipAt(viewPosition);
+#endif
     viewNormal = mat3(normalFromObject) * nbNormal;
     vertexColor = nbColor;
     texCoord = nbTexCoord;
@@ -88,6 +104,19 @@ out vec3 viewNormal;
 out vec4 vertexColor;
 out vec2 texCoord;
 noperspective out float lineDistancePx;
+#ifdef CLIPPED
+uniform mat4 viewFromObject;
+/// Clips a corner at one end of the line, where the near plane has left it.
+void clipLine(bool atEnd, float startDepth, float endDepth)
+{
+    vec3 start = (viewFromObject * vec4(startPosition, 1.0)).xyz;
+    vec3 end = (viewFromObject * vec4(endPosition, 1.0)).xyz;
+    float own = atEnd ? endDepth : startDepth;
+    float other = atEnd ? startDepth : endDepth;
+    float cut = own < 0.0 && other > 0.0 ? own / (own - other) : 0.0;
+    clipAt(atEnd ? mix(end, start, cut) : mix(start, end, cut));
+}
+#endif
 void main()
 {
     vec4 a = nbClipFromObject * vec4(startPosition, 1.0);
@@ -97,6 +126,9 @@ void main()
     texCoord = vec2(0.0);
     bool atEnd = kCorners[gl_VertexID] < 7;
     vertexColor = atEnd ? endColor : startColor;
+#ifdef CLIPPED
+    clipLine(atEnd, fromNearPlane(a), fromNearPlane(b));
+#endif
     lineDistancePx = 0.0;
     if (!cutAtNearPlane(a, b)) {
         gl_Position = vec4(2.0, 2.0, 2.0, 1.0);
@@ -268,16 +300,17 @@ void main()
 
 }  // namespace
 
-std::string surfaceVertex()
+std::string surfaceVertex(Clipping clipping)
 {
-    return shaderHeaderString(nbShaderStage::Vertex, true, true, false) + kSurfaceVertexBody;
+    return shaderHeaderString(nbShaderStage::Vertex, true, true, false) +
+        (clipping == Clipping::On ? kClipFunctions : "") + kSurfaceVertexBody;
 }
 
-std::string lineVertex()
+std::string lineVertex(Clipping clipping)
 {
     // The attributes of lines are their own, so only the uniforms of the preamble are taken.
     return shaderHeaderString(nbShaderStage::Geometry, true, false, false) + kLineFunctions +
-        kLineVertexBody;
+        (clipping == Clipping::On ? kClipFunctions : "") + kLineVertexBody;
 }
 
 std::string surfaceFragment(const Features& features)

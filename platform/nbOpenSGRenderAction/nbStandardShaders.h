@@ -15,11 +15,22 @@ struct Features
     bool discards = true;  ///< has alpha test and line stipple
 };
 
+/// Clip planes that a vertex program made with them obeys: uniform vec4 array "clipPlanes" in view
+/// space, written to as many clip distances. Planes of zeros cut nothing.
+enum class Clipping
+{
+    Off,
+    On
+};
+
 /// Materials for surfaceVertex and lineVertex.
 std::string surfaceFragment(const Features& features);
 
-std::string surfaceVertex();  ///< triangles and, with pointSize, points
-std::string lineVertex();  ///< a line per instance, widened to a polygon with round ends
+std::string
+surfaceVertex(Clipping clipping = Clipping::Off);  ///< triangles and, with pointSize, points
+std::string
+lineVertex(Clipping clipping =
+               Clipping::Off);  ///< a line per instance, widened to a polygon with round ends
 
 /// Widens the lines of a user's program, like lineVertex, from clip positions alone.
 std::string lineGeometry();

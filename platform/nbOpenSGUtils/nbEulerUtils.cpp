@@ -78,7 +78,7 @@ std::string nbEulerUtils::getStringFromOrder(int order)
     return nbEulerRotation::getOrderName(order);
 }
 
-nbEulerAngles nbEulerUtils::EulFromQuat(const osg::Quaterniond& rotation, int order)
+nbEulerAngles nbEulerUtils::EulFromQuat(const nbQuaterniond& rotation, int order)
 {
     return makeAngles(nbEulerRotation::fromQuaternion(rotation, order), order);
 }
@@ -88,7 +88,7 @@ nbEulerAngles nbEulerUtils::EulFromQuat(const osg::Quaternion& rotation, int ord
     return EulFromQuat(nbRotationMath::toDouble(rotation), order);
 }
 
-osg::Quaterniond nbEulerUtils::QuatFromEul(const nbEulerAngles& angles)
+nbQuaterniond nbEulerUtils::QuatFromEul(const nbEulerAngles& angles)
 {
     return nbEulerRotation::toQuaternion(valuesOf(angles), angles.order);
 }

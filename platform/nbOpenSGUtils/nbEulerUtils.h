@@ -37,11 +37,11 @@ public:
     /// Angles of a rotation. The middle angle of the order lies in -90 .. 90 degrees; where it is
     /// within 1e-10 of the ends (cosine), the last angle is 0 and the first takes the whole turn.
     /// @param rotation  any length but 0, which gives zero angles
-    static nbEulerAngles EulFromQuat(const osg::Quaterniond& rotation, int order);
+    static nbEulerAngles EulFromQuat(const nbQuaterniond& rotation, int order);
     static nbEulerAngles EulFromQuat(const osg::Quaternion& rotation, int order);
 
     /// Unit quaternion of the angles.
-    static osg::Quaterniond QuatFromEul(const nbEulerAngles& angles);
+    static nbQuaterniond QuatFromEul(const nbEulerAngles& angles);
 
     /// The same rotation in another order, the angles of EulFromQuat.
     static nbEulerAngles convertOrder(const nbEulerAngles& angles, int order);

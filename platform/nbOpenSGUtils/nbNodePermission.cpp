@@ -34,7 +34,7 @@ bool nbNodePermission::allows(const osg::NodePtr& node, osg::Int32 permission)
 
 void nbNodePermission::setAllowed(const osg::NodePtr& node, osg::Int32 permission, bool allowed)
 {
-    if (!isKnown(permission) || allows(node, permission) == allowed) {
+    if (node == osg::NullFC || !isKnown(permission) || allows(node, permission) == allowed) {
         return;
     }
     const nbEdit nodeEdit(node, osg::Node::AttachmentsFieldMask);

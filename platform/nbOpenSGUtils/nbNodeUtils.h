@@ -64,7 +64,7 @@ public:
     /// Sets a pivot of the node's Transform3D core, a point in the object's own coordinates.
     /// Can be undone where edits are recorded, see nbEditRecorder.
     /// @param keepInPlace  true: the translation changes with it, so that the object stays; false:
-    /// only the pivot changes
+    /// only the pivot changes. The other pivot's field stays in any case.
     /// @param index  which transform of the node, for nodes with several; nodes here have one, -1
     /// @return false, and nothing has changed, for another core and for values that are not finite
     static bool setTransformNodeRotatePivot(const osg::NodePtr& node, float x, float y, float z,

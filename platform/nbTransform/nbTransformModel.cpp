@@ -179,33 +179,40 @@ void noteWritten(const Subject& subject, EditKind kind, const Base& base)
     }
 }
 
-/// A pivot of the core: where it is, how it moves, which field it is.
+/// A pivot of the core: where it is and how it moves.
 struct PivotKind
 {
     EditKind kind;
     Vec3d (*place)(const nbTransformState&, const nbTransformMath::Matrix3d&);
-    nbTransformMath::MovedPivot (*move)(const nbTransformState&, const nbTransformMath::Matrix3d&,
-                                        const Vec3d&);
-    Vec3f nbTransformState::*pivot;
-    void (Transform3D::*set)(const Vec3f&);
-    osg::BitVector mask;
+    nbTransformMath::MovedPivots (*move)(const nbTransformState&, const nbTransformMath::Matrix3d&,
+                                         const Vec3d&);
 };
 
-const PivotKind kRotatePivot { RotatePivotEdit,
-                               &nbTransformMath::rotatePivotPlace,
-                               &nbTransformMath::moveRotatePivot,
-                               &nbTransformState::rotatePivot,
-                               &Transform3D::setRotatePivot,
-                               Transform3D::RotatePivotFieldMask };
-const PivotKind kScalePivot { ScalePivotEdit,
-                              &nbTransformMath::scalePivotPlace,
-                              &nbTransformMath::moveScalePivot,
-                              &nbTransformState::scalePivot,
-                              &Transform3D::setScalePivot,
-                              Transform3D::ScalePivotFieldMask };
+constexpr PivotKind kRotatePivot { RotatePivotEdit, &nbTransformMath::rotatePivotPlace,
+                                   &nbTransformMath::moveRotatePivot };
+constexpr PivotKind kScalePivot { ScalePivotEdit, &nbTransformMath::scalePivotPlace,
+                                  &nbTransformMath::moveScalePivot };
+
+/// The state with a pivot at a place, which is given in the space that the frame leads to.
+nbTransformState withPivotAt(const PivotKind& kind, const nbTransformState& base,
+                             const nbTransformMath::Matrix3d& rotation,
+                             const nbTransformMath::Frame& frame, const Vec3f& place)
+{
+    nbTransformState result = base;
+    const Vec3d start = kind.place(base, rotation);
+    if (isSame(place, toFloat(frame.toOuter(start)))) {
+        return result;
+    }
+    const nbTransformMath::MovedPivots moved =
+        kind.move(base, rotation, frame.toInner(toDouble(place)) - start);
+    result.translation = toFloat(moved.translation);
+    result.rotatePivot = toFloat(moved.rotatePivot);
+    result.scalePivot = toFloat(moved.scalePivot);
+    return result;
+}
 
 bool movePivot(const PivotKind& kind, const Subject& subject, const nbTransformMath::Frame& frame,
-               const Vec3f& value, Faults& faults)
+               const Vec3f& place, Faults& faults)
 {
     if (!frame.invertible) {
         ++faults.flattened;
@@ -213,24 +220,20 @@ bool movePivot(const PivotKind& kind, const Subject& subject, const nbTransformM
     }
     const Base base = baseOf(subject, kind.kind);
     // Edits of a kind leave the rotation as it was at the start.
-    const nbTransformMath::Matrix3d rotation = nbTransformMath::wholeRotation(*subject.core);
-    const Vec3d start = kind.place(base.state, rotation);
-    Vec3f translation = base.state.translation;
-    Vec3f pivot = base.state.*kind.pivot;
-    if (!isSame(value, toFloat(frame.toOuter(start)))) {
-        const nbTransformMath::MovedPivot moved =
-            kind.move(base.state, rotation, frame.toInner(toDouble(value)) - start);
-        translation = toFloat(moved.translation);
-        pivot = toFloat(moved.pivot);
-    }
-    if (!isFinite(translation) || !isFinite(pivot)) {
+    const nbTransformState moved =
+        withPivotAt(kind, base.state, nbTransformMath::wholeRotation(*subject.core), frame, place);
+    if (!isFinite(moved.translation) || !isFinite(moved.rotatePivot) ||
+        !isFinite(moved.scalePivot)) {
         ++faults.notFinite;
         return false;
     }
     {
-        const nbEdit edit(subject.core, Transform3D::TranslationFieldMask | kind.mask);
-        subject.core->setTranslation(translation);
-        (*subject.core.*kind.set)(pivot);
+        const nbEdit edit(subject.core,
+                          Transform3D::TranslationFieldMask | Transform3D::RotatePivotFieldMask |
+                              Transform3D::ScalePivotFieldMask);
+        subject.core->setTranslation(moved.translation);
+        subject.core->setRotatePivot(moved.rotatePivot);
+        subject.core->setScalePivot(moved.scalePivot);
     }
     noteWritten(subject, kind.kind, base);
     return true;
@@ -241,8 +244,8 @@ osg::UInt32 movePivots(const PivotKind& kind, const char* title, osg::UInt32 cou
 {
     ParentFrames frames(worldSpace);
     return editAll(
-        title, count, places, [&](const Subject& subject, const Vec3f& value, Faults& faults) {
-            return movePivot(kind, subject, frames.of(subject.node, subject.core), value, faults);
+        title, count, places, [&](const Subject& subject, const Vec3f& place, Faults& faults) {
+            return movePivot(kind, subject, frames.of(subject.node, subject.core), place, faults);
         });
 }
 
@@ -290,7 +293,7 @@ void setTurn(const Subject& subject, const Vec3f& anglesDeg)
 }
 
 /// R of a state, rounded to float as in the core's matrix.
-osg::Quaterniond turnOf(const nbTransformState& state)
+nbQuaterniond turnOf(const nbTransformState& state)
 {
     return nbRotationMath::toDouble(
         state.rotationMode == Transform3D::QuaternionMode
@@ -301,9 +304,9 @@ osg::Quaterniond turnOf(const nbTransformState& state)
 /// The orientation with which the whole rotation of a state stays under another turn.
 osg::Quaternion compensatingOrientation(const nbTransformState& state, const osg::Quaternion& turn)
 {
-    osg::Quaterniond back = nbRotationMath::toDouble(turn);
+    nbQuaterniond back = nbRotationMath::toDouble(turn);
     back.invert();
-    osg::Quaterniond orientation = nbRotationMath::product(
+    nbQuaterniond orientation = nbRotationMath::product(
         back,
         nbRotationMath::product(turnOf(state),
                                 nbRotationMath::toDouble(state.rotationOrientation)));

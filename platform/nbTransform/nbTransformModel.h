@@ -56,11 +56,12 @@ public:
     /// Scales along the object's axes about its scale pivot.
     osg::UInt32 setScale(osg::UInt32 count, ValueFunction factors);
 
-    /// Moves the rotate pivot; pivot and translation change so that the object stays.
+    /// Moves the rotate pivot. Pivot and translation change so that the object stays where it is,
+    /// and the other pivot too.
     osg::UInt32 setRotationPivot(osg::UInt32 count, bool worldSpace, ValueFunction places);
 
-    /// Moves the scale pivot; pivot and translation change so that the object stays. Along an axis
-    /// of scale 0 the pivot cannot leave the object and stays too.
+    /// Moves the scale pivot. Both pivots and the translation change so that the object stays where
+    /// it is, and the other pivot too. Along an axis of scale 0 the pivot cannot leave the object.
     osg::UInt32 setScalePivot(osg::UInt32 count, bool worldSpace, ValueFunction places);
 
     /// Turns the axes of the rotate pivot: angles as for setRotation. The rotation orientation

@@ -3,6 +3,8 @@
 
 #include <embree3/rtcore.h>
 
+#include "PickView.h"
+
 namespace nbec::interaction::detail {
 
 /// The process's Embree device, made on first use and kept to the end of the process; null if it
@@ -12,5 +14,21 @@ RTCDevice embreeDevice();
 /// Commits a scene.
 /// @return false (with a line in the log) if Embree reports an error, such as lack of memory
 bool commitScene(RTCScene scene);
+
+/// A query for the nearest hit of a ray from its origin to tFar.
+inline RTCRayHit toEmbree(const PickRay& ray)
+{
+    RTCRayHit query {};
+    query.ray.org_x = ray.origin[0];
+    query.ray.org_y = ray.origin[1];
+    query.ray.org_z = ray.origin[2];
+    query.ray.dir_x = ray.direction[0];
+    query.ray.dir_y = ray.direction[1];
+    query.ray.dir_z = ray.direction[2];
+    query.ray.tfar = ray.tFar;
+    query.ray.mask = ~0u;
+    query.hit.geomID = RTC_INVALID_GEOMETRY_ID;
+    return query;
+}
 
 }  // namespace nbec::interaction::detail

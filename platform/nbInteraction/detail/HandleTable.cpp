@@ -263,7 +263,7 @@ void HandleTable::collect(std::uint32_t handle, const ScreenPoint& position, flo
             }
             const ScreenPoint* c = primitive.corners;
             const ScreenNearest nearest = primitive.isTriangle
-                ? nearestOnTriangle(position, c[0], c[1], c[2])
+                ? nearestOnTriangle(position, c[0], c[1], c[2], reachPx)
                 : nearestOnSegment(position, c[0], c[1]);
             if (!(nearest.squaredDistancePx <= reachPx * reachPx)) {
                 continue;

@@ -170,16 +170,7 @@ bool ItemTree::intersect(PickRay& ray, Hit& hit) const
     }
     Query query;
     rtcInitIntersectContext(&query);
-    RTCRayHit rayHit {};
-    rayHit.ray.org_x = ray.origin[0];
-    rayHit.ray.org_y = ray.origin[1];
-    rayHit.ray.org_z = ray.origin[2];
-    rayHit.ray.dir_x = ray.direction[0];
-    rayHit.ray.dir_y = ray.direction[1];
-    rayHit.ray.dir_z = ray.direction[2];
-    rayHit.ray.tfar = ray.tFar;
-    rayHit.ray.mask = ~0u;
-    rayHit.hit.geomID = RTC_INVALID_GEOMETRY_ID;
+    RTCRayHit rayHit = toEmbree(ray);
     rtcIntersect1(scene, &query, &rayHit);
     if (query.hit.item == nullptr) {
         return false;

@@ -171,16 +171,7 @@ bool PickTree::intersect(PickRay& ray, TreeHit& hit) const
     if (scene == nullptr) {
         return intersectDirectly(ray, hit);
     }
-    RTCRayHit query {};
-    query.ray.org_x = ray.origin[0];
-    query.ray.org_y = ray.origin[1];
-    query.ray.org_z = ray.origin[2];
-    query.ray.dir_x = ray.direction[0];
-    query.ray.dir_y = ray.direction[1];
-    query.ray.dir_z = ray.direction[2];
-    query.ray.tfar = ray.tFar;
-    query.ray.mask = ~0u;
-    query.hit.geomID = RTC_INVALID_GEOMETRY_ID;
+    RTCRayHit query = toEmbree(ray);
     RTCIntersectContext context;
     rtcInitIntersectContext(&context);
     rtcIntersect1(scene, &context, &query);

@@ -75,14 +75,28 @@ inline ScreenNearest nearestOnSegment(const ScreenPoint& p, const ScreenPoint& a
     return { { 1.0f - s, s, 0.0f }, rx * rx + ry * ry };
 }
 
+/// Twice the signed area of the triangle u v w.
+inline float doubleArea(const ScreenPoint& u, const ScreenPoint& v, const ScreenPoint& w)
+{
+    return (v.x - u.x) * (w.y - u.y) - (w.x - u.x) * (v.y - u.y);
+}
+
+/// Whether p lies beyond the line through u and v by more than `reachPx`, on the side where the
+/// doubled area of u v p has the opposite sign of `winding`: |area| > reach |v - u|, squared.
+inline bool isBeyondEdge(float area, float winding, const ScreenPoint& u, const ScreenPoint& v,
+                         float reachPx)
+{
+    const float dx = v.x - u.x;
+    const float dy = v.y - u.y;
+    return area * winding < 0.0f && area * area > reachPx * reachPx * (dx * dx + dy * dy);
+}
+
 /// Nearest point of the filled triangle a b c to p, whichever way it winds; distance 0 inside and
 /// on the edges. A triangle without area (seen edge-on) is the union of its edges.
+/// @param reachPx  positions farther away than this may be given kFar as their squared distance
 inline ScreenNearest nearestOnTriangle(const ScreenPoint& p, const ScreenPoint& a,
-                                       const ScreenPoint& b, const ScreenPoint& c)
+                                       const ScreenPoint& b, const ScreenPoint& c, float reachPx)
 {
-    const auto doubleArea = [](const ScreenPoint& u, const ScreenPoint& v, const ScreenPoint& w) {
-        return (v.x - u.x) * (w.y - u.y) - (w.x - u.x) * (v.y - u.y);
-    };
     const float whole = doubleArea(a, b, c);
     const float wa = doubleArea(p, b, c);
     const float wb = doubleArea(p, c, a);
@@ -92,6 +106,10 @@ inline ScreenNearest nearestOnTriangle(const ScreenPoint& p, const ScreenPoint& 
     if (inside) {
         const float scale = 1.0f / (wa + wb + wc);
         return { { wa * scale, wb * scale, wc * scale }, 0.0f };
+    }
+    if (isBeyondEdge(wa, whole, b, c, reachPx) || isBeyondEdge(wb, whole, c, a, reachPx) ||
+        isBeyondEdge(wc, whole, a, b, reachPx)) {
+        return { { 1.0f, 0.0f, 0.0f }, ScreenBox::kFar };
     }
     ScreenNearest nearest = nearestOnSegment(p, a, b);
     const ScreenNearest onBC = nearestOnSegment(p, b, c);

@@ -24,7 +24,7 @@ void moveChildren(const osg::NodePtr& from, const osg::NodePtr& to)
 }  // namespace
 
 ConversionRecord::ConversionRecord(const nbNodeConversion& done)
-    : nodeId(done.node->getFieldContainerId())
+    : nodeId(done.node.getFieldContainerId())
     , oldCore(done.oldCore)
     , newCore(done.newCore)
     , insertedChild(done.insertedChild)

@@ -27,7 +27,7 @@ public:
     /// call. Cores that come in the order of the pass before are found without a search.
     nbTransformEntry& note(const osg::Transform3DPtr& core)
     {
-        const osg::UInt32 id = core->getFieldContainerId();
+        const osg::UInt32 id = core.getFieldContainerId();
         if (cursor < ids.size() && ids[cursor] == id) {
             return entries[cursor++];
         }

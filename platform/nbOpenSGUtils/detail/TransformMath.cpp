@@ -10,6 +10,11 @@ namespace {
 
 constexpr double kSingular = 1e-12;
 
+Vec3d scaledBy(const nbTransformState& state, const Vec3d& v)
+{
+    return { v[0] * state.scale[0], v[1] * state.scale[1], v[2] * state.scale[2] };
+}
+
 }  // namespace
 
 Vec3d rotatePivotPlace(const nbTransformState& state, const Matrix3d&)
@@ -23,24 +28,27 @@ Vec3d scalePivotPlace(const nbTransformState& state, const Matrix3d& rotation)
         rotation * (toDouble(state.scalePivot) - toDouble(state.rotatePivot));
 }
 
-MovedPivot moveRotatePivot(const nbTransformState& state, const Matrix3d& rotation,
-                           const Vec3d& delta)
+MovedPivots moveRotatePivot(const nbTransformState& state, const Matrix3d& rotation,
+                            const Vec3d& delta)
 {
     const Vec3d pivotDelta = rotation.transposedTimes(delta);
     return { toDouble(state.translation) + (delta - pivotDelta),
-             toDouble(state.rotatePivot) + pivotDelta };
+             toDouble(state.rotatePivot) + pivotDelta, toDouble(state.scalePivot) };
 }
 
-MovedPivot moveScalePivot(const nbTransformState& state, const Matrix3d& rotation,
-                          const Vec3d& delta)
+MovedPivots moveScalePivot(const nbTransformState& state, const Matrix3d& rotation,
+                           const Vec3d& delta)
 {
-    // o stays: the pivot's place moves by R S times the change of the pivot.
-    Vec3d pivotDelta = rotation.transposedTimes(delta);
+    // The place moves by R S times the change of s. With p changed by (1 - S) times it and t by the
+    // opposite, t + p and o stay.
+    const Vec3d turnedBack = rotation.transposedTimes(delta);
+    Vec3d pivotDelta;
     for (osg::UInt32 i = 0; i < 3; ++i) {
         const double factor = state.scale[i];
-        pivotDelta[i] = factor == 0.0 ? 0.0 : pivotDelta[i] / factor;
+        pivotDelta[i] = factor == 0.0 ? 0.0 : turnedBack[i] / factor;
     }
-    return { toDouble(state.translation) + scalePivotCompensation(state, rotation, pivotDelta),
+    const Vec3d shift = pivotDelta - scaledBy(state, pivotDelta);
+    return { toDouble(state.translation) - shift, toDouble(state.rotatePivot) + shift,
              toDouble(state.scalePivot) + pivotDelta };
 }
 
@@ -53,9 +61,7 @@ Vec3d rotatePivotCompensation(const nbTransformState&, const Matrix3d& rotation,
 Vec3d scalePivotCompensation(const nbTransformState& state, const Matrix3d& rotation,
                              const Vec3d& pivotDelta)
 {
-    const Vec3d scaled(pivotDelta[0] * state.scale[0], pivotDelta[1] * state.scale[1],
-                       pivotDelta[2] * state.scale[2]);
-    return rotation * (scaled - pivotDelta);
+    return rotation * (scaledBy(state, pivotDelta) - pivotDelta);
 }
 
 Frame Frame::of(const osg::Matrix& matrix)

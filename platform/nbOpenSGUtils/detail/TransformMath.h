@@ -72,20 +72,23 @@ Vec3d rotatePivotPlace(const nbTransformState& state, const Matrix3d& rotation);
 /// Where the scale pivot is in the parent's frame: t + p + R (s - p).
 Vec3d scalePivotPlace(const nbTransformState& state, const Matrix3d& rotation);
 
-/// A pivot and the translation that belongs to it.
-struct MovedPivot
+/// Pivots and the translation that belongs to them.
+struct MovedPivots
 {
     Vec3d translation;
-    Vec3d pivot;
+    Vec3d rotatePivot;
+    Vec3d scalePivot;
 };
 
-/// The rotate pivot moved by a vector of the parent's frame, the object left where it is.
-MovedPivot moveRotatePivot(const nbTransformState& state, const Matrix3d& rotation,
-                           const Vec3d& delta);
+/// The rotate pivot's place moved by a vector of the parent's frame; the object and the scale
+/// pivot's place stay.
+MovedPivots moveRotatePivot(const nbTransformState& state, const Matrix3d& rotation,
+                            const Vec3d& delta);
 
-/// The same for the scale pivot; along an axis of scale 0 it stays.
-MovedPivot moveScalePivot(const nbTransformState& state, const Matrix3d& rotation,
-                          const Vec3d& delta);
+/// The scale pivot's place moved, except along an axis of scale 0; the object and the rotate
+/// pivot's place stay.
+MovedPivots moveScalePivot(const nbTransformState& state, const Matrix3d& rotation,
+                           const Vec3d& delta);
 
 /// What the translation gains when a pivot changes by a vector of the object's frame and the object
 /// stays.

@@ -1,0 +1,384 @@
+// SPDX-License-Identifier: MIT
+#include <nbKernelServices/nbScopedMultiCommand.h>
+#include <nbKernelServices/nbScopedUndo.h>
+#include <nbKernelServices/nbUndoRecord.h>
+#include <nbKernelServices/nbUndoService.h>
+#include <nbOpenSGExt/Transform3D.h>
+#include <nbOpenSGUtils/nbEdit.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
+#include <nbOpenSGUtils/nbTransformState.h>
+#include <nbTransform/nbTransformModel.h>
+
+#include <OpenSG/OSGComponentTransform.h>
+#include <OpenSG/OSGGroup.h>
+#include <OpenSG/OSGNode.h>
+#include <OpenSG/OSGRefPtr.h>
+
+#include <QtWidgets/QUndoStack>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <vector>
+
+using osg::Transform3D;
+using osg::Transform3DPtr;
+using osg::Vec3f;
+
+namespace {
+
+/// A number that can be undone.
+class NumberRecord : public nbUndoRecord
+{
+public:
+    explicit NumberRecord(int& edited)
+        : number(edited)
+        , before(edited)
+    { }
+
+    bool close() override
+    {
+        after = number;
+        return after != before;
+    }
+
+    void undo() override { number = before; }
+
+    void redo() override { number = after; }
+
+private:
+    int& number;
+    int before;
+    int after = 0;
+};
+
+class nbUndoServiceTest : public testing::Test
+{
+protected:
+    nbUndoServiceTest()
+        : root(osg::makeNodeFor(osg::Group::create()))
+        , node(osg::makeNodeFor(Transform3D::create()))
+    {
+        undo->clear();
+        root->addChild(node);
+    }
+
+    ~nbUndoServiceTest() override { undo->clear(); }
+
+    void moveTo(float x) { moveTo(node, x); }
+
+    static void moveTo(const osg::NodePtr& moved, float x)
+    {
+        nbTransformModel::the()->setTranslation(1, false, [&](osg::UInt32) {
+            return nbTransformModel::Value({ moved, -1 }, Vec3f(x, 0.f, 0.f));
+        });
+    }
+
+    float place() const { return nbNodeUtils::getTransformNodeTranslation(node)[0]; }
+
+    nbUndoService* const undo = nbUndoService::the();
+    osg::NodeRefPtr root;
+    osg::NodePtr node;
+};
+
+}  // namespace
+
+// == Scopes
+
+TEST_F(nbUndoServiceTest, EachScopeIsAStepWithATitle)
+{
+    moveTo(1.f);
+    moveTo(2.f);
+
+    EXPECT_EQ(2, undo->getStack()->count());
+    EXPECT_EQ("Move", undo->getStack()->undoText());
+    EXPECT_TRUE(undo->undo());
+    EXPECT_EQ(1.f, place());
+    EXPECT_TRUE(undo->undo());
+    EXPECT_EQ(0.f, place());
+    EXPECT_FALSE(undo->undo());
+    EXPECT_TRUE(undo->redo());
+    EXPECT_TRUE(undo->redo());
+    EXPECT_FALSE(undo->redo());
+    EXPECT_EQ(2.f, place());
+}
+
+TEST_F(nbUndoServiceTest, NestedScopesJoinTheOuterOneAndTheFirstTitleHolds)
+{
+    {
+        const nbScopedUndo scope(true);
+        const nbScopedMultiCommand command(QStringLiteral("Change lines"));
+        moveTo(1.f);
+        moveTo(2.f);
+    }
+
+    EXPECT_EQ(1, undo->getStack()->count());
+    EXPECT_EQ("Change lines", undo->getStack()->undoText());
+    undo->undo();
+    EXPECT_EQ(0.f, place());
+}
+
+TEST_F(nbUndoServiceTest, NothingRecordedAndNothingChangedLeaveNoStep)
+{
+    {
+        const nbScopedUndo empty(true);
+    }
+    moveTo(0.f);
+    {
+        const nbScopedUndo scope(true);
+        moveTo(3.f);
+        moveTo(0.f);
+    }
+    {
+        const nbScopedUndo muted(false);
+        moveTo(5.f);
+    }
+
+    EXPECT_EQ(0, undo->getStack()->count());
+    EXPECT_EQ(5.f, place());
+}
+
+TEST_F(nbUndoServiceTest, RecordsOfOthersAreTakenBackTogetherWithTransforms)
+{
+    int number = 1;
+    {
+        const nbScopedUndo scope("Number");
+        undo->record(std::make_unique<NumberRecord>(number));
+        number = 7;
+        moveTo(1.f);
+    }
+    undo->undo();
+    EXPECT_EQ(1, number);
+    EXPECT_EQ(0.f, place());
+    undo->redo();
+    EXPECT_EQ(7, number);
+    EXPECT_EQ(1.f, place());
+
+    undo->record(std::make_unique<NumberRecord>(number));
+    EXPECT_EQ(1, undo->getStack()->count());
+}
+
+TEST_F(nbUndoServiceTest, AllPartsComeBackBitForBit)
+{
+    const auto core = Transform3DPtr::dcast(node->getCore());
+    {
+        const nbEdit edit(core, Transform3D::PartsFieldMask);
+        core->setTranslation(Vec3f(0.1f, 0.2f, 0.3f));
+        core->setRotation(Vec3f(11.f, 22.f, 33.f));
+        core->setScale(Vec3f(1.1f, 0.7f, 3.f));
+    }
+    const nbTransformState before = nbTransformState::of(*core);
+    const osg::Matrix matrix = core->getMatrix();
+    nbTransformModel* const model = nbTransformModel::the();
+    const auto value = [&](osg::UInt32) {
+        return nbTransformModel::Value({ node, -1 }, Vec3f(3.f, -4.f, 5.f));
+    };
+
+    undo->beginGroup();
+    model->setTranslation(1, true, value);
+    model->setRotation(1, value);
+    model->setScale(1, value);
+    model->setRotationPivot(1, true, value);
+    model->setScalePivot(1, true, value);
+    model->setRotationPivotOrientation(1, value);
+    undo->endGroup();
+    const nbTransformState after = nbTransformState::of(*core);
+    ASSERT_FALSE(before.isSame(after));
+
+    ASSERT_TRUE(undo->undo());
+    EXPECT_TRUE(before.isSame(*core));
+    for (osg::UInt32 i = 0; i < 16; ++i) {
+        EXPECT_EQ(matrix.getValues()[i], core->getMatrix().getValues()[i]);
+    }
+    ASSERT_TRUE(undo->redo());
+    EXPECT_TRUE(after.isSame(*core));
+}
+
+// == Groups
+
+TEST_F(nbUndoServiceTest, AGroupIsOneStepOverItsScopes)
+{
+    undo->beginGroup(QStringLiteral("Drag"));
+    moveTo(1.f);
+    moveTo(2.f);
+    EXPECT_EQ(0, undo->getStack()->count());
+    undo->endGroup();
+
+    EXPECT_EQ(1, undo->getStack()->count());
+    EXPECT_EQ("Drag", undo->getStack()->undoText());
+    undo->undo();
+    EXPECT_EQ(0.f, place());
+}
+
+TEST_F(nbUndoServiceTest, AGroupThatEndsWhereItBeganLeavesNoneAndKeepsRedo)
+{
+    moveTo(1.f);
+    undo->undo();
+
+    undo->beginGroup();
+    moveTo(2.f);
+    moveTo(0.f);
+    undo->endGroup();
+
+    EXPECT_EQ(0, undo->getStack()->index());
+    EXPECT_TRUE(undo->redo());
+    EXPECT_EQ(1.f, place());
+}
+
+TEST_F(nbUndoServiceTest, CancellingTakesBackWithoutRedo)
+{
+    int number = 1;
+    undo->beginGroup();
+    {
+        const nbScopedUndo scope(true);
+        undo->record(std::make_unique<NumberRecord>(number));
+        number = 2;
+    }
+    moveTo(1.f);
+    moveTo(2.f);
+    undo->cancelGroup();
+
+    EXPECT_EQ(0.f, place());
+    EXPECT_EQ(1, number);
+    EXPECT_FALSE(undo->redo());
+    EXPECT_FALSE(undo->undo());
+}
+
+TEST_F(nbUndoServiceTest, UndoAndRedoAreRefusedWithinGroupsAndScopes)
+{
+    moveTo(1.f);
+    moveTo(2.f);
+    undo->undo();
+
+    undo->beginGroup();
+    EXPECT_FALSE(undo->undo());
+    EXPECT_FALSE(undo->redo());
+    undo->endGroup();
+    {
+        const nbScopedUndo scope(true);
+        EXPECT_FALSE(undo->undo());
+    }
+    EXPECT_EQ(1.f, place());
+    EXPECT_TRUE(undo->redo());
+}
+
+TEST_F(nbUndoServiceTest, ALostStopEndsTheGroupWithTheNextOne)
+{
+    undo->beginGroup();
+    moveTo(1.f);
+    undo->beginGroup();
+    moveTo(2.f);
+    undo->endGroup();
+    undo->endGroup();
+
+    EXPECT_EQ(2, undo->getStack()->count());
+}
+
+TEST_F(nbUndoServiceTest, EndsWithinAScopeWaitForTheScope)
+{
+    undo->beginGroup();
+    {
+        const nbScopedUndo scope(true);
+        moveTo(1.f);
+        undo->cancelGroup();
+        EXPECT_TRUE(undo->isGroupOpen());
+        moveTo(2.f);
+    }
+
+    EXPECT_FALSE(undo->isGroupOpen());
+    EXPECT_EQ(0.f, place());
+}
+
+TEST_F(nbUndoServiceTest, TargetsInAnyOrderAndSharedCoresAreFoundAgain)
+{
+    const osg::NodePtr other = osg::makeNodeFor(Transform3D::create());
+    const osg::NodePtr twin = osg::makeNodeFor(node->getCore());
+    root->addChild(other);
+    root->addChild(twin);
+    const std::vector<std::vector<osg::NodePtr>> passes { { node, other, twin },
+                                                          { twin, other },
+                                                          { other, node } };
+    undo->beginGroup();
+    float x = 1.f;
+    for (const auto& pass : passes) {
+        nbTransformModel::the()->setTranslation(
+            static_cast<osg::UInt32>(pass.size()), false, [&](osg::UInt32 i) {
+                return nbTransformModel::Value({ pass[i], -1 }, Vec3f(x++, 0.f, 0.f));
+            });
+    }
+    undo->endGroup();
+
+    undo->undo();
+
+    EXPECT_EQ(0.f, place());
+    EXPECT_EQ(0.f, nbNodeUtils::getTransformNodeTranslation(other)[0]);
+}
+
+TEST_F(nbUndoServiceTest, WhatWasDestroyedIsPassedOver)
+{
+    const osg::NodePtr other = osg::makeNodeFor(Transform3D::create());
+    root->addChild(other);
+    undo->beginGroup();
+    moveTo(1.f);
+    moveTo(other, 1.f);
+    root->subChild(node);
+    undo->endGroup();
+    ASSERT_EQ(1, undo->getStack()->count());
+    undo->undo();
+    EXPECT_EQ(0.f, nbNodeUtils::getTransformNodeTranslation(other)[0]);
+
+    root->subChild(other);
+    EXPECT_TRUE(undo->redo());
+    EXPECT_TRUE(undo->undo());
+}
+
+// == Conversions
+
+TEST_F(nbUndoServiceTest, ConversionsBeforeTheFirstScopeBelongToItsStep)
+{
+    const osg::NodePtr plain = osg::makeNodeFor(osg::Group::create());
+    const osg::NodePtr child = osg::makeNodeFor(osg::Group::create());
+    plain->addChild(child);
+    root->addChild(plain);
+    const osg::NodeCorePtr group = plain->getCore();
+
+    nbNodeUtils::convertToTransform3DNode(plain);
+    nbNodeUtils::setTransformNodeRotatePivot(plain, 1.f, 2.f, 3.f, true, -1);
+    EXPECT_EQ(0, undo->getStack()->count());
+    moveTo(plain, 4.f);
+    EXPECT_EQ(1, undo->getStack()->count());
+
+    undo->undo();
+    EXPECT_EQ(group, plain->getCore());
+    ASSERT_EQ(1u, plain->getNChildren());
+    EXPECT_EQ(child, plain->getChild(0));
+    EXPECT_EQ(1u, group->getParents().getSize());
+
+    undo->redo();
+    EXPECT_EQ(4.f, nbNodeUtils::getTransformNodeTranslation(plain)[0]);
+    EXPECT_EQ(Vec3f(1.f, 2.f, 3.f), nbNodeUtils::getTransformNodeRotatePivot(plain));
+    ASSERT_EQ(1u, plain->getNChildren());
+    EXPECT_EQ(group, plain->getChild(0)->getCore());
+    EXPECT_EQ(plain, child->getParent()->getParent());
+}
+
+TEST_F(nbUndoServiceTest, AConversionAloneIsNoStepAndACancelledOneIsTakenBack)
+{
+    const osg::ComponentTransformPtr core = osg::ComponentTransform::create();
+    const osg::NodePtr plain = osg::makeNodeFor(core);
+    root->addChild(plain);
+
+    undo->beginGroup();
+    nbNodeUtils::convertToTransform3DNode(plain);
+    moveTo(plain, 1.f);
+    undo->cancelGroup();
+    EXPECT_EQ(osg::NodeCorePtr(core), plain->getCore());
+
+    undo->beginGroup();
+    nbNodeUtils::convertToTransform3DNode(plain);
+    undo->endGroup();
+    EXPECT_EQ(0, undo->getStack()->count());
+    moveTo(plain, 1.f);
+    undo->undo();
+    EXPECT_EQ(osg::NodeCorePtr(core), plain->getCore());
+}

@@ -1,0 +1,492 @@
+// SPDX-License-Identifier: MIT
+#include <nbKernelServices/nbUndoService.h>
+#include <nbOpenSGExt/Transform3D.h>
+#include <nbOpenSGExt/nbEulerRotation.h>
+#include <nbOpenSGUtils/nbEdit.h>
+#include <nbOpenSGUtils/nbNodePermission.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
+#include <nbTransform/nbTransformModel.h>
+#include <nbUtils/nbLog.h>
+
+#include <OpenSG/OSGGroup.h>
+#include <OpenSG/OSGNode.h>
+#include <OpenSG/OSGRefPtr.h>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstring>
+#include <limits>
+#include <random>
+#include <string>
+#include <vector>
+
+using osg::Transform3D;
+using osg::Transform3DPtr;
+using osg::Vec3f;
+
+namespace {
+
+constexpr float kTolerance = 2e-5f;
+
+/// What a node is made of, and what hangs above it.
+struct Placement
+{
+    Vec3f translation { 0.f, 0.f, 0.f };
+    Vec3f rotationDeg { 0.f, 0.f, 0.f };
+    Vec3f scale { 1.f, 1.f, 1.f };
+    Vec3f rotatePivot { 0.f, 0.f, 0.f };
+    Vec3f scalePivot { 0.f, 0.f, 0.f };
+    osg::Int32 mode = Transform3D::EulerMode;
+    std::string order = "xyz";
+};
+
+Transform3DPtr makeCore(const Placement& placement)
+{
+    const Transform3DPtr core = Transform3D::create();
+    const nbEdit edit(core, Transform3D::PartsFieldMask);
+    core->setTranslation(placement.translation);
+    core->setEulerRotationOrder(placement.order);
+    core->setEulerRotation(placement.rotationDeg);
+    core->setRotationQuaternion(
+        nbEulerRotation::toQuaternion(placement.rotationDeg, placement.order));
+    core->setRotationMode(placement.mode);
+    core->setScale(placement.scale);
+    core->setRotatePivot(placement.rotatePivot);
+    core->setScalePivot(placement.scalePivot);
+    return core;
+}
+
+class nbTransformModelTest : public testing::Test
+{
+protected:
+    nbTransformModelTest()
+        : root(osg::makeNodeFor(osg::Group::create()))
+        , formerSink(nbLog::setSink(
+              [this](nbLog::Level, const std::string& text) { logged.push_back(text); }))
+    {
+        nbUndoService::the()->clear();
+    }
+
+    ~nbTransformModelTest() override
+    {
+        nbLog::setSink(formerSink);
+        nbUndoService::the()->clear();
+    }
+
+    osg::NodePtr add(const Placement& placement, const osg::NodePtr& parent = osg::NullFC)
+    {
+        const osg::NodePtr node = osg::makeNodeFor(makeCore(placement));
+        (parent == osg::NullFC ? root.get() : parent)->addChild(node);
+        return node;
+    }
+
+    /// Below a parent moved by (1,2,3), turned by 90 degrees about z and scaled by 2: the parent's
+    /// (x,y,z) is the world's (1 - 2y, 2 + 2x, 3 + 2z).
+    osg::NodePtr addBelowTurnedParent(const Placement& placement)
+    {
+        return add(placement,
+                   add({ Vec3f(1.f, 2.f, 3.f), Vec3f(0.f, 0.f, 90.f), Vec3f(2.f, 2.f, 2.f) }));
+    }
+
+    static auto giving(const osg::NodePtr& node, const Vec3f& value)
+    {
+        return [node, value](osg::UInt32) { return nbTransformModel::Value({ node, -1 }, value); };
+    }
+
+    static Transform3DPtr coreOf(const osg::NodePtr& node)
+    {
+        return Transform3DPtr::dcast(node->getCore());
+    }
+
+    osg::NodeRefPtr root;
+    std::vector<std::string> logged;
+    nbTransformModel* const model = nbTransformModel::the();
+
+private:
+    nbLog::Sink formerSink;
+};
+
+void expectNear(const Vec3f& actual, const Vec3f& expected, float tolerance = kTolerance)
+{
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        EXPECT_NEAR(actual[i], expected[i], tolerance) << "component " << i;
+    }
+}
+
+void expectSameBits(const Vec3f& actual, const Vec3f& expected)
+{
+    EXPECT_EQ(0, std::memcmp(actual.getValues(), expected.getValues(), sizeof(Vec3f)))
+        << actual[0] << " " << actual[1] << " " << actual[2];
+}
+
+void expectNear(const osg::Matrix& actual, const osg::Matrix& expected, float tolerance)
+{
+    for (osg::UInt32 column = 0; column < 4; ++column) {
+        for (osg::UInt32 row = 0; row < 4; ++row) {
+            EXPECT_NEAR(actual[column][row], expected[column][row], tolerance)
+                << "column " << column << " row " << row;
+        }
+    }
+}
+
+/// Rows for tests that must hold however a node is turned.
+const std::vector<Placement>& turnedPlacements()
+{
+    static const std::vector<Placement> placements = [] {
+        std::vector<Placement> rows;
+        const Placement plain { Vec3f(1.f, -2.f, 3.f), Vec3f(25.f, -50.f, 110.f),
+                                Vec3f(2.f, 0.5f, 3.f), Vec3f(0.5f, 1.f, -1.f),
+                                Vec3f(-1.f, 0.25f, 2.f) };
+        for (const char* order : { "xyz", "yzx", "zxy", "xzy", "yxz", "zyx" }) {
+            rows.push_back(plain);
+            rows.back().order = order;
+        }
+        for (const osg::Int32 mode :
+             { Transform3D::QuaternionMode, Transform3D::AxisAlignedMode }) {
+            rows.push_back(plain);
+            rows.back().mode = mode;
+        }
+        rows.push_back(plain);
+        rows.back().scale = Vec3f(-1.f, 2.f, 0.5f);
+        return rows;
+    }();
+    return placements;
+}
+
+}  // namespace
+
+// == Values
+
+TEST_F(nbTransformModelTest, LocalTranslationIsStoredAsGiven)
+{
+    const osg::NodePtr node = addBelowTurnedParent({});
+    const Vec3f odd(0.1f, -0.f, 1e-30f);
+
+    EXPECT_EQ(1u, model->setTranslation(1, false, giving(node, odd)));
+
+    expectSameBits(coreOf(node)->getTranslation(), odd);
+    expectSameBits(nbTransformModel::getTranslation(node, false), odd);
+}
+
+TEST_F(nbTransformModelTest, WorldTranslationGoesThroughTheParent)
+{
+    const osg::NodePtr node = addBelowTurnedParent({});
+
+    model->setTranslation(1, true, giving(node, Vec3f(5.f, 8.f, 4.f)));
+
+    // (1 - 2y, 2 + 2x, 3 + 2z) = (5, 8, 4)
+    expectNear(coreOf(node)->getTranslation(), Vec3f(3.f, -2.f, 0.5f));
+    expectNear(nbTransformModel::getTranslation(node, true), Vec3f(5.f, 8.f, 4.f));
+}
+
+TEST_F(nbTransformModelTest, EachTargetGetsItsValueInItsOwnParent)
+{
+    const osg::NodePtr first = addBelowTurnedParent({});
+    const osg::NodePtr second = add({});
+    const std::vector<osg::NodePtr> nodes { first, second, first->getParent() };
+
+    const osg::UInt32 edited = model->setTranslation(3, true, [&](osg::UInt32 i) {
+        return nbTransformModel::Value({ nodes[i], static_cast<osg::Int32>(i) },
+                                       Vec3f(5.f, 8.f, 4.f + static_cast<float>(i)));
+    });
+
+    EXPECT_EQ(3u, edited);
+    expectNear(coreOf(first)->getTranslation(), Vec3f(3.f, -2.f, 0.5f));
+    expectNear(coreOf(second)->getTranslation(), Vec3f(5.f, 8.f, 5.f));
+    expectNear(coreOf(nodes[2])->getTranslation(), Vec3f(5.f, 8.f, 6.f));
+}
+
+TEST_F(nbTransformModelTest, ParentsAmongTheTargetsAreReadAsTheyAreThen)
+{
+    const osg::NodePtr parent = add({});
+    const osg::NodePtr child = add({}, parent);
+    const std::vector<osg::NodePtr> nodes { child, parent, child };
+
+    model->setTranslation(3, true, [&](osg::UInt32 i) {
+        return nbTransformModel::Value({ nodes[i], -1 }, Vec3f(i == 1 ? 10.f : 1.f, 0.f, 0.f));
+    });
+
+    expectNear(coreOf(child)->getTranslation(), Vec3f(-9.f, 0.f, 0.f));
+}
+
+TEST_F(nbTransformModelTest, RotationKeepsModeAndOrder)
+{
+    for (const Placement& placement : turnedPlacements()) {
+        SCOPED_TRACE(placement.order + " in mode " + std::to_string(placement.mode));
+        const osg::NodePtr node = add(placement);
+        const Vec3f angles(-30.f, 40.f, 75.f);
+
+        model->setRotation(1, giving(node, angles));
+
+        EXPECT_EQ(placement.mode, coreOf(node)->getRotationMode());
+        EXPECT_EQ(placement.order, coreOf(node)->getEulerRotationOrder());
+        expectNear(coreOf(node)->getRotation(), angles, 1e-4f);
+        const osg::Matrix before = node->getToWorld();
+        Placement asked = placement;
+        asked.rotationDeg = angles;
+        expectNear(before, add(asked)->getToWorld(), kTolerance);
+    }
+}
+
+TEST_F(nbTransformModelTest, ScaleMayBeZeroOrNegative)
+{
+    const osg::NodePtr node = add({});
+
+    model->setScale(1, giving(node, Vec3f(0.f, -2.f, 3.f)));
+
+    expectSameBits(coreOf(node)->getScale(), Vec3f(0.f, -2.f, 3.f));
+    EXPECT_TRUE(logged.empty());
+}
+
+TEST_F(nbTransformModelTest, NodesOfOtherKindsAreConvertedWithinTheUndoStep)
+{
+    const osg::NodePtr node = osg::makeNodeFor(osg::Group::create());
+    root->addChild(node);
+    const osg::NodeCorePtr group = node->getCore();
+
+    model->setTranslation(1, false, giving(node, Vec3f(1.f, 2.f, 3.f)));
+    ASSERT_NE(coreOf(node), osg::NullFC);
+    EXPECT_TRUE(nbUndoService::the()->undo());
+
+    EXPECT_EQ(group, node->getCore());
+    EXPECT_EQ(0u, node->getNChildren());
+}
+
+// == Refusals
+
+TEST_F(nbTransformModelTest, BadTargetsAreLeftAloneWithOneLineForAll)
+{
+    const osg::NodePtr good = add({});
+    const osg::NodePtr locked = add({});
+    nbNodePermission::setAllowed(locked, nbNodePermission::Transform, false);
+    const float nan = std::numeric_limits<float>::quiet_NaN();
+    const float infinite = std::numeric_limits<float>::infinity();
+    const std::vector<nbTransformModel::Value> values {
+        { { osg::NullFC, -1 }, Vec3f(1.f, 1.f, 1.f) },
+        { { good, -1 }, Vec3f(nan, 1.f, 1.f) },
+        { { locked, -1 }, Vec3f(1.f, 1.f, 1.f) },
+        { { good, -1 }, Vec3f(1.f, 1.f, infinite) },
+    };
+
+    EXPECT_EQ(0u, model->setTranslation(4, true, [&](osg::UInt32 i) { return values[i]; }));
+
+    expectSameBits(coreOf(good)->getTranslation(), Vec3f(0.f, 0.f, 0.f));
+    expectSameBits(coreOf(locked)->getTranslation(), Vec3f(0.f, 0.f, 0.f));
+    EXPECT_EQ(1u, logged.size());
+    EXPECT_FALSE(nbUndoService::the()->undo());
+}
+
+TEST_F(nbTransformModelTest, WorldValuesUnderAFlattenedParentAreRefused)
+{
+    Placement flat;
+    flat.scale = Vec3f(1.f, 0.f, 1.f);
+    const osg::NodePtr node = add({}, add(flat));
+
+    EXPECT_EQ(0u, model->setTranslation(1, true, giving(node, Vec3f(1.f, 2.f, 3.f))));
+    EXPECT_EQ(0u, model->setRotationPivot(1, true, giving(node, Vec3f(1.f, 2.f, 3.f))));
+    EXPECT_EQ(2u, logged.size());
+    EXPECT_EQ(1u, model->setTranslation(1, false, giving(node, Vec3f(1.f, 2.f, 3.f))));
+}
+
+TEST_F(nbTransformModelTest, ResultsBeyondFloatsAreRefused)
+{
+    Placement tiny;
+    tiny.scale = Vec3f(1e-30f, 1e-30f, 1e-30f);
+    const osg::NodePtr node = add({}, add(tiny));
+
+    EXPECT_EQ(0u, model->setTranslation(1, true, giving(node, Vec3f(1e20f, 0.f, 0.f))));
+
+    expectSameBits(coreOf(node)->getTranslation(), Vec3f(0.f, 0.f, 0.f));
+    EXPECT_EQ(1u, logged.size());
+}
+
+TEST_F(nbTransformModelTest, StepsOfSnappingAreZeroOrGreater)
+{
+    model->setScalePrecision(0.25);
+    model->setScalePrecision(-1.0);
+    model->setScalePrecision(std::numeric_limits<double>::quiet_NaN());
+
+    EXPECT_EQ(0.25, model->getScalePrecision());
+    EXPECT_EQ(2u, logged.size());
+    model->setScalePrecision(0.1);
+}
+
+// == Pivots
+
+TEST_F(nbTransformModelTest, RotatePivotMovesInTheParentsFrame)
+{
+    Placement placement;
+    placement.translation = Vec3f(1.f, 0.f, 0.f);
+    placement.rotationDeg = Vec3f(0.f, 0.f, 90.f);
+    const osg::NodePtr node = addBelowTurnedParent(placement);
+
+    // From (1,0,0) in the parent's frame by (0,2,0): turned back, the pivot gains (2,0,0).
+    model->setRotationPivot(1, false, giving(node, Vec3f(1.f, 2.f, 0.f)));
+
+    expectNear(coreOf(node)->getRotatePivot(), Vec3f(2.f, 0.f, 0.f));
+    expectNear(coreOf(node)->getTranslation(), Vec3f(-1.f, 2.f, 0.f));
+    expectNear(nbTransformModel::getRotationPivot(node, false), Vec3f(1.f, 2.f, 0.f));
+    // (1 - 2y, 2 + 2x, 3 + 2z)
+    expectNear(nbTransformModel::getRotationPivot(node, true), Vec3f(-3.f, 4.f, 3.f));
+}
+
+TEST_F(nbTransformModelTest, ScalePivotIsThePointThatScalingLeavesAlone)
+{
+    Placement placement;
+    placement.rotationDeg = Vec3f(0.f, 0.f, 180.f);
+    placement.scale = Vec3f(2.f, 2.f, 2.f);
+    const osg::NodePtr node = add(placement);
+
+    // The object's x looks to -x and is doubled: the point at (4,0,0) is its (-2,0,0).
+    model->setScalePivot(1, false, giving(node, Vec3f(4.f, 0.f, 0.f)));
+
+    expectNear(coreOf(node)->getScalePivot(), Vec3f(-2.f, 0.f, 0.f));
+    expectNear(nbTransformModel::getScalePivot(node, false), Vec3f(4.f, 0.f, 0.f));
+    model->setScale(1, giving(node, Vec3f(5.f, 5.f, 5.f)));
+    osg::Pnt3f fixed(-2.f, 0.f, 0.f);
+    node->getToWorld().multMatrixPnt(fixed);
+    expectNear(Vec3f(fixed), Vec3f(4.f, 0.f, 0.f));
+}
+
+TEST_F(nbTransformModelTest, MovedPivotsLeaveTheObjectInPlace)
+{
+    for (const Placement& placement : turnedPlacements()) {
+        for (const bool worldSpace : { false, true }) {
+            SCOPED_TRACE(placement.order + " in mode " + std::to_string(placement.mode) +
+                         (worldSpace ? ", world" : ", local"));
+            const osg::NodePtr node = addBelowTurnedParent(placement);
+            const osg::Matrix before = node->getToWorld();
+            const Vec3f place(3.f, -4.f, 2.5f);
+
+            const Vec3f scalePivot = nbTransformModel::getScalePivot(node, worldSpace);
+            EXPECT_EQ(1u, model->setRotationPivot(1, worldSpace, giving(node, place)));
+            expectNear(nbTransformModel::getRotationPivot(node, worldSpace), place);
+            expectNear(nbTransformModel::getScalePivot(node, worldSpace), scalePivot);
+            expectNear(node->getToWorld(), before, kTolerance);
+
+            const Vec3f further = place * 2.f;
+            EXPECT_EQ(1u, model->setScalePivot(1, worldSpace, giving(node, further)));
+            expectNear(nbTransformModel::getScalePivot(node, worldSpace), further);
+            expectNear(nbTransformModel::getRotationPivot(node, worldSpace), place);
+            expectNear(node->getToWorld(), before, kTolerance);
+
+            EXPECT_EQ(1u, model->setRotationPivotOrientation(1, giving(node, place * 30.f)));
+            expectNear(node->getToWorld(), before, kTolerance);
+            expectNear(coreOf(node)->getMatrix(), coreOf(node)->computeMatrix(), 0.f);
+        }
+    }
+}
+
+TEST_F(nbTransformModelTest, ScalePivotOfAFlatObjectStaysInItsPlane)
+{
+    Placement placement;
+    placement.scale = Vec3f(2.f, 0.f, 1.f);
+    const osg::NodePtr node = add(placement);
+    const osg::Matrix before = node->getToWorld();
+
+    EXPECT_EQ(1u, model->setScalePivot(1, false, giving(node, Vec3f(4.f, 5.f, 6.f))));
+
+    expectNear(coreOf(node)->getScalePivot(), Vec3f(2.f, 0.f, 6.f));
+    expectNear(node->getToWorld(), before, kTolerance);
+}
+
+TEST_F(nbTransformModelTest, OrientationTurnsTheAxesAndNotTheObject)
+{
+    Placement placement;
+    placement.rotationDeg = Vec3f(90.f, 0.f, 0.f);
+    const osg::NodePtr node = add(placement);
+
+    model->setRotationPivotOrientation(1, giving(node, Vec3f(0.f, 90.f, 0.f)));
+
+    expectNear(coreOf(node)->getRotation(), Vec3f(0.f, 90.f, 0.f), 1e-4f);
+    // The object's z lay along -y (90 degrees about x). The pivot's axes are now turned about y.
+    osg::Vec3f axis(0.f, 0.f, 1.f);
+    node->getToWorld().multMatrixVec(axis);
+    expectNear(axis, Vec3f(0.f, -1.f, 0.f));
+}
+
+// == Groups of steps
+
+TEST_F(nbTransformModelTest, ResultsDoNotDependOnTheStepsBetween)
+{
+    std::mt19937 random(7);
+    std::uniform_real_distribution<float> anywhere(-10.f, 10.f);
+    using Setter = void (*)(nbTransformModel&, nbTransformModel::ValueFunction);
+    const Setter translate = [](nbTransformModel& edited, nbTransformModel::ValueFunction value) {
+        edited.setTranslation(1, true, value);
+    };
+    const Setter moveRotatePivot = [](nbTransformModel& edited,
+                                      nbTransformModel::ValueFunction value) {
+        edited.setRotationPivot(1, true, value);
+    };
+    const Setter moveScalePivot = [](nbTransformModel& edited,
+                                     nbTransformModel::ValueFunction value) {
+        edited.setScalePivot(1, true, value);
+    };
+    for (const Placement& placement : turnedPlacements()) {
+        for (const Setter setter : { translate, moveRotatePivot, moveScalePivot }) {
+            const osg::NodePtr direct = addBelowTurnedParent(placement);
+            const osg::NodePtr wandering = addBelowTurnedParent(placement);
+            const Vec3f goal(1.f, 2.f, 3.f);
+            nbUndoService::the()->beginGroup();
+            for (int step = 0; step < 500; ++step) {
+                const Vec3f value(anywhere(random), anywhere(random), anywhere(random));
+                setter(*model, giving(wandering, value));
+            }
+            setter(*model, giving(wandering, goal));
+            setter(*model, giving(direct, goal));
+            nbUndoService::the()->endGroup();
+
+            expectSameBits(coreOf(wandering)->getTranslation(), coreOf(direct)->getTranslation());
+            expectSameBits(coreOf(wandering)->getRotatePivot(), coreOf(direct)->getRotatePivot());
+            expectSameBits(coreOf(wandering)->getScalePivot(), coreOf(direct)->getScalePivot());
+        }
+    }
+}
+
+TEST_F(nbTransformModelTest, AGroupThatGoesBackToItsStartLeavesNoStep)
+{
+    for (const Placement& placement : turnedPlacements()) {
+        SCOPED_TRACE(placement.order + " in mode " + std::to_string(placement.mode));
+        const osg::NodePtr node = addBelowTurnedParent(placement);
+        const Vec3f away(-7.f, 0.3f, 2.f);
+        const Vec3f angles = coreOf(node)->getRotation();
+        const Vec3f translation = nbTransformModel::getTranslation(node, true);
+
+        nbUndoService::the()->beginGroup();
+        model->setTranslation(1, true, giving(node, away));
+        model->setTranslation(1, true, giving(node, translation));
+        model->setRotation(1, giving(node, away));
+        model->setRotation(1, giving(node, angles));
+        nbUndoService::the()->endGroup();
+        nbUndoService::the()->beginGroup();
+        const Vec3f rotatePivot = nbTransformModel::getRotationPivot(node, true);
+        model->setRotationPivot(1, true, giving(node, away));
+        model->setRotationPivot(1, true, giving(node, rotatePivot));
+        const Vec3f scalePivot = nbTransformModel::getScalePivot(node, true);
+        model->setScalePivot(1, true, giving(node, away));
+        model->setScalePivot(1, true, giving(node, scalePivot));
+        model->setRotationPivotOrientation(1, giving(node, away));
+        model->setRotationPivotOrientation(1, giving(node, angles));
+        nbUndoService::the()->endGroup();
+
+        EXPECT_FALSE(nbUndoService::the()->undo());
+    }
+}
+
+TEST_F(nbTransformModelTest, EditsOfOtherKindsInAGroupAreNotLost)
+{
+    Placement placement;
+    placement.rotationDeg = Vec3f(0.f, 0.f, 90.f);
+    const osg::NodePtr node = add(placement);
+    nbUndoService::the()->beginGroup();
+
+    model->setRotationPivot(1, false, giving(node, Vec3f(1.f, 0.f, 0.f)));
+    model->setTranslation(1, false, giving(node, Vec3f(5.f, 0.f, 0.f)));
+    const osg::Matrix before = node->getToWorld();
+    model->setRotationPivot(1, false, giving(node, Vec3f(0.f, 3.f, 0.f)));
+
+    expectNear(node->getToWorld(), before, kTolerance);
+    nbUndoService::the()->endGroup();
+}
