@@ -148,8 +148,8 @@ void GizmoController::show(Gizmo gizmo)
 void GizmoController::setTarget(const osg::NodePtr& node, const std::vector<osg::NodePtr>& all)
 {
     manager.endDrag();
-    targets = node != osg::NullFC ? std::vector<osg::NodePtr> { node }
-                                  : std::vector<osg::NodePtr> {};
+    targets =
+        node != osg::NullFC ? std::vector<osg::NodePtr> { node } : std::vector<osg::NodePtr> {};
     for (const osg::NodePtr& further : all) {
         if (further != osg::NullFC && further != node) {
             targets.push_back(further);
@@ -264,7 +264,8 @@ std::string GizmoController::draggedValues() const
     case HandleAction::MoveAlong:
     case HandleAction::MoveInPlane:
         if (current == Gizmo::RotatePivot) {
-            return textOf("Rotate pivot", nbTransformModel::getRotationPivot(node, !isLocalSpace()));
+            return textOf("Rotate pivot",
+                          nbTransformModel::getRotationPivot(node, !isLocalSpace()));
         }
         if (current == Gizmo::ScalePivot) {
             return textOf("Scale pivot", nbTransformModel::getScalePivot(node, !isLocalSpace()));

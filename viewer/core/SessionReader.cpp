@@ -254,8 +254,9 @@ bool Reader::readNodeExpectations(const QJsonValue& value, const QString& path,
         }
         node.tolerance = object.value("tolerance").toDouble(node.tolerance);
         if (!node.translation && !node.rotationDeg && !node.scale) {
-            return fail(nodePath, QStringLiteral("expected \"translation\", \"rotation\" or "
-                                                 "\"scale\""));
+            return fail(nodePath,
+                        QStringLiteral("expected \"translation\", \"rotation\" or "
+                                       "\"scale\""));
         }
         nodes.push_back(node);
     }

@@ -94,6 +94,7 @@ public:
     bool redo();
     bool canUndo() const;
     bool canRedo() const;
+
     /// Whether something is being dragged, so that steps must not be taken back now.
     bool isDragging() const { return manager.isDragging(); }
 

@@ -116,7 +116,8 @@ QCursor cursorShape(const HandleCursor& cursor)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(kEdge / 2.0, kEdge / 2.0);
     const QPainterPath shape = shapeOf(cursor, angleDeg);
-    painter.strokePath(shape, QPen(Qt::white, kOutline, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.strokePath(shape,
+                       QPen(Qt::white, kOutline, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.fillPath(shape, Qt::black);
     painter.end();
     return QCursor(picture, kEdge / 2, kEdge / 2);

@@ -159,9 +159,8 @@ void MainWindow::createUndoList()
     addDockWidget(Qt::RightDockWidgetArea, dock);
     dock->setVisible(mode == Attendance::Attended);
     connect(stack, &QUndoStack::indexChanged, this, [this] { viewWidget->stage().edited(); });
-    connect(stack, &QUndoStack::cleanChanged, this, [this](bool clean) {
-        setWindowModified(!clean);
-    });
+    connect(stack, &QUndoStack::cleanChanged, this,
+            [this](bool clean) { setWindowModified(!clean); });
 }
 
 void MainWindow::setShownTitle(const QString& name)

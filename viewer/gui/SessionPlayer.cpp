@@ -294,8 +294,8 @@ void SessionPlayer::checkNode(const SessionStep& step, const SessionNodeExpectat
 {
     const osg::NodePtr found = findObject(nbScenegraph::getRootNode(), node.node.toStdString());
     if (found == osg::NullFC) {
-        failures.append(QStringLiteral("checkpoint \"%1\": there is no node \"%2\"")
-                            .arg(step.name, node.node));
+        failures.append(
+            QStringLiteral("checkpoint \"%1\": there is no node \"%2\"").arg(step.name, node.node));
         return;
     }
     expectNear(step, node, "translation", node.translation,

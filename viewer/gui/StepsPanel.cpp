@@ -32,8 +32,7 @@ StepsPanel::StepsPanel(GizmoController& gizmoController, QWidget* parent)
     , gizmo(gizmoController)
 {
     auto* form = new QFormLayout(this);
-    translation =
-        addBox(*form, "translationStep", tr("Step of translation"), 0.0, kMostUnits, 0.1);
+    translation = addBox(*form, "translationStep", tr("Step of translation"), 0.0, kMostUnits, 0.1);
     rotation = addBox(*form, "rotationStep", tr("Step of rotation, °"), 0.0, kMostDegrees, 5.0);
     scale = addBox(*form, "scaleStep", tr("Step of scale"), 0.0, kMostFactor, 0.05);
     size = addBox(*form, "gizmoSize", tr("Size of the gizmo"), kLeastSize, kMostSize, 4.0);

@@ -43,8 +43,8 @@ double paintText(QPainter& painter, const VisibleText& text, double offsetY)
 {
     const QFont font = fontOf(text.settings);
     const QFontMetricsF metrics(font);
-    const QRectF textArea = metrics.boundingRect(QRectF(0.0, 0.0, text.area.width(), 0.0),
-                                                 Qt::AlignLeft, text.text);
+    const QRectF textArea =
+        metrics.boundingRect(QRectF(0.0, 0.0, text.area.width(), 0.0), Qt::AlignLeft, text.text);
     const QRectF box(text.area.left(), text.area.top() + offsetY,
                      textArea.width() + 2.0 * kPaddingX, textArea.height() + 2.0 * kPaddingY);
     painter.save();
