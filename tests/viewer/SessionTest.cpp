@@ -41,20 +41,31 @@ TEST(Session, SurvivesWritingAndReading)
     checkpoint.screenshot = true;
     checkpoint.expectation.hover = "xaShape";
     checkpoint.expectation.orthographic = false;
-    session.steps = { press, wheel, checkpoint };
+    checkpoint.expectation.undoSteps = 2;
+    checkpoint.expectation.nodes.resize(1);
+    checkpoint.expectation.nodes[0].node = "Knot";
+    checkpoint.expectation.nodes[0].rotationDeg = std::array<double, 3> { 0.0, 45.0, -1.5 };
+    SessionStep move;
+    move.at = { SessionTarget::Kind::Pointer, {}, {}, { 3.0, -4.5 } };
+    session.steps = { press, wheel, checkpoint, move };
     QString error;
 
     const std::optional<Session> read = parseSession(sessionText(session), error);
 
     ASSERT_TRUE(read) << error.toStdString();
     EXPECT_EQ(sessionText(*read), sessionText(session));
-    ASSERT_EQ(read->steps.size(), 3U);
+    ASSERT_EQ(read->steps.size(), 4U);
     EXPECT_EQ(read->steps[0].at.name, "xaShape");
     EXPECT_EQ(read->steps[0].at.offsetPx, QPointF(2.5, -1.0));
     EXPECT_EQ(read->steps[0].modifiers, press.modifiers);
     EXPECT_EQ(read->steps[1].at.world[2], 3.0);
     EXPECT_EQ(read->steps[2].expectation.hover, QString("xaShape"));
     EXPECT_FALSE(read->steps[2].expectation.selection);
+    EXPECT_EQ(read->steps[2].expectation.undoSteps, 2);
+    ASSERT_EQ(read->steps[2].expectation.nodes.size(), 1U);
+    EXPECT_EQ((*read->steps[2].expectation.nodes[0].rotationDeg)[2], -1.5);
+    EXPECT_EQ(read->steps[3].at.kind, SessionTarget::Kind::Pointer);
+    EXPECT_EQ(read->steps[3].at.offsetPx, QPointF(3.0, -4.5));
 }
 
 TEST(Session, SaysWhatIsWrongAndWhere)
@@ -94,6 +105,11 @@ TEST(Session, SaysWhatIsWrongAndWhere)
           "may not be a path" },
         { withSteps(R"({"type": "checkpoint", "name": "a", "expect": {"colour": 1}})"),
           "unknown entry \"colour\"" },
+        { withSteps(
+              R"({"type": "checkpoint", "name": "a", "expect": {"nodes": {"Knot": {"scale": [1]}}}})"),
+          "steps[0].expect.nodes.Knot.scale: expected an array of 3 numbers" },
+        { withSteps(R"({"type": "checkpoint", "name": "a", "expect": {"nodes": {"Knot": {}}}})"),
+          "expected \"translation\", \"rotation\" or \"scale\"" },
     };
     for (const Row& row : rows) {
         QString error;

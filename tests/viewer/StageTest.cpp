@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/core/Stage.h"
 
+#include "viewer/core/HandleCursor.h"
 #include "viewer/core/SceneBuilder.h"
 #include "viewer/core/SessionTargets.h"
 #include "viewer/core/StartScene.h"
@@ -173,6 +174,23 @@ TEST_F(StageWithStartScene, ClearingTakesSelectionAndGizmoAlong)
     EXPECT_TRUE(stage.isEmpty());
     EXPECT_EQ(stage.selectedName(), "");
     EXPECT_EQ(stage.triangleCount(), 0U);
+}
+
+TEST_F(StageWithStartScene, CursorsPointAlongTheAxesOnTheScreen)
+{
+    stage.setOrthographic(true);
+    stage.setStandardView(nbCameraNavigation::StandardView::Front);
+    stage.frameSelection();
+    stage.update();
+
+    EXPECT_EQ(cursorOfHandle(stage, "xaShape").action, HandleAction::MoveAlong);
+    EXPECT_NEAR(cursorOfHandle(stage, "xaShape").angleDeg, 0.0, 0.5);
+    EXPECT_NEAR(cursorOfHandle(stage, "ysShape").angleDeg, 90.0, 0.5);
+    EXPECT_EQ(cursorOfHandle(stage, "ysShape").action, HandleAction::ScaleAlong);
+    EXPECT_EQ(cursorOfHandle(stage, "zaShape").action, HandleAction::MoveInPlane)
+        << "the axis points at the eye";
+    EXPECT_EQ(cursorOfHandle(stage, "rxShape").action, HandleAction::Turn);
+    EXPECT_EQ(cursorOfHandle(stage, "").action, HandleAction::None);
 }
 
 TEST(SceneBuilder, NodesStandWhereTheModelPutsThem)

@@ -1,27 +1,74 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/core/GizmoController.h"
 
+#include "viewer/core/HandleCursor.h"
+
 #include <nbInteraction/InteractionManager.h>
 #include <nbKernel/nbScenegraph.h>
+#include <nbKernelServices/nbUndoService.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
+#include <nbTransform/nbTransformModel.h>
+
+#include <QString>
 
 #include <array>
+#include <utility>
 
 namespace viewer {
 namespace {
 
-struct GizmoWord
+using Transform = nbec::manipulator::UniversalTransformManipulator2;
+
+/// One row for each manipulator: its word, and how the transform gizmo gets into that mode.
+struct GizmoRow
 {
     Gizmo gizmo;
     const char* name;
+    void (Transform::*activate)();
 };
 
-constexpr std::array<GizmoWord, 4> kGizmoWords { {
-    { Gizmo::None, "none" },
-    { Gizmo::Universal, "universal" },
-    { Gizmo::Translate, "translate" },
-    { Gizmo::CameraPivot, "camera" },
+constexpr std::array<GizmoRow, 12> kGizmoRows { {
+    { Gizmo::None, "none", nullptr },
+    { Gizmo::Universal, "universal", &Transform::activateUniversalManipulator },
+    { Gizmo::Translate, "translate", &Transform::activateTranslateManipulator },
+    { Gizmo::Rotate, "rotate", &Transform::activateRotateManipulator },
+    { Gizmo::Scale, "scale", &Transform::activateScaleManipulator },
+    { Gizmo::TranslateRotate, "translateRotate", &Transform::activateTranslateRotateManipulator },
+    { Gizmo::TranslateRotateScale, "translateRotateScale",
+      &Transform::activateTranslateRotateScaleManipulator },
+    { Gizmo::TranslateRotateYZ, "translateRotateYZ",
+      &Transform::activateTranslateRotateYZManipulator },
+    { Gizmo::RotatePivot, "rotatePivot", &Transform::activateRotatePivotManipulator },
+    { Gizmo::ScalePivot, "scalePivot", &Transform::activateScalePivotManipulator },
+    { Gizmo::Clipping, "clipping", &Transform::activateClippingManipulator },
+    { Gizmo::CameraPivot, "camera", nullptr },
 } };
+
+const GizmoRow& rowOf(Gizmo gizmo)
+{
+    for (const GizmoRow& row : kGizmoRows) {
+        if (row.gizmo == gizmo) {
+            return row;
+        }
+    }
+    return kGizmoRows.front();
+}
+
+std::string textOf(const char* what, const osg::Vec3f& values)
+{
+    constexpr int kDigits = 3;
+    QString text = QLatin1String(what) + QStringLiteral(" (%1, %2, %3)");
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        // A negative zero would flicker.
+        text = text.arg(static_cast<double>(values[i]) + 0.0, 0, 'f', kDigits);
+    }
+    return text.toStdString();
+}
+
+constexpr float kUsualSize = 32.0F;
+constexpr double kUsualTranslationStep = 1.0;
+constexpr double kUsualRotationStepDeg = 15.0;
+constexpr double kUsualScaleStep = 0.1;
 
 }  // namespace
 
@@ -29,19 +76,14 @@ using nbec::interaction::Picker;
 
 const char* gizmoName(Gizmo gizmo)
 {
-    for (const GizmoWord& word : kGizmoWords) {
-        if (word.gizmo == gizmo) {
-            return word.name;
-        }
-    }
-    return kGizmoWords.front().name;
+    return rowOf(gizmo).name;
 }
 
 bool gizmoFromName(const std::string& name, Gizmo& gizmo)
 {
-    for (const GizmoWord& word : kGizmoWords) {
-        if (name == word.name) {
-            gizmo = word.gizmo;
+    for (const GizmoRow& row : kGizmoRows) {
+        if (name == row.name) {
+            gizmo = row.gizmo;
             return true;
         }
     }
@@ -50,7 +92,6 @@ bool gizmoFromName(const std::string& name, Gizmo& gizmo)
 
 GizmoController::GizmoController(nbec::interaction::InteractionManager& interactionManager)
     : manager(interactionManager)
-    , context(nbec::interaction::Manipulator)
 {
     picker.setFilter(Picker::HandleFilter);
     probe.setFilter(Picker::HandleFilter);
@@ -69,24 +110,16 @@ GizmoController::~GizmoController()
 
 nbec::manipulator::Manipulator* GizmoController::manipulatorOf(Gizmo gizmo)
 {
-    switch (gizmo) {
-    case Gizmo::Universal:
-    case Gizmo::Translate:
-        return &transform;
-    case Gizmo::CameraPivot:
+    if (gizmo == Gizmo::CameraPivot) {
         return &camera;
-    case Gizmo::None:
-        break;
     }
-    return nullptr;
+    return rowOf(gizmo).activate != nullptr ? &transform : nullptr;
 }
 
 void GizmoController::applyMode(Gizmo gizmo)
 {
-    if (gizmo == Gizmo::Universal) {
-        transform.activateUniversalManipulator();
-    } else if (gizmo == Gizmo::Translate) {
-        transform.activateTranslateManipulator();
+    if (const auto activate = rowOf(gizmo).activate) {
+        (transform.*activate)();
     } else if (gizmo == Gizmo::CameraPivot) {
         camera.activatePivotManipulator();
     }
@@ -112,14 +145,86 @@ void GizmoController::show(Gizmo gizmo)
     followCamera();
 }
 
-void GizmoController::setTarget(const osg::NodePtr& node)
+void GizmoController::setTarget(const osg::NodePtr& node, const std::vector<osg::NodePtr>& all)
 {
-    transform.setNode(node);
+    manager.endDrag();
+    targets =
+        node != osg::NullFC ? std::vector<osg::NodePtr> { node } : std::vector<osg::NodePtr> {};
+    for (const osg::NodePtr& further : all) {
+        if (further != osg::NullFC && further != node) {
+            targets.push_back(further);
+        }
+    }
+    transform.setNode(node, targets);
     camera.setNode(node);
     // A manipulator hides itself without a node and shows its mode again with one.
     applyMode(current);
     followCamera();
 }
+
+// == Settings
+
+void GizmoController::setLocalSpace(bool on)
+{
+    Transform::setLocalSpaceManipulator(on);
+    followCamera();
+}
+
+bool GizmoController::isLocalSpace() const
+{
+    return Transform::isLocalSpaceManipulator();
+}
+
+void GizmoController::setSnapping(bool on)
+{
+    snapping = on;
+    transform.enableSnapping(on);
+}
+
+void GizmoController::setSize(float size)
+{
+    Transform::setManipulatorSize(size);
+    followCamera();
+}
+
+float GizmoController::size() const
+{
+    return Transform::getManipulatorSize();
+}
+
+void GizmoController::resetSettings()
+{
+    setLocalSpace(false);
+    setSnapping(false);
+    setSize(kUsualSize);
+    nbTransformModel* model = nbTransformModel::the();
+    model->setTranslationPrecision(kUsualTranslationStep);
+    model->setRotationPrecision(kUsualRotationStepDeg);
+    model->setScalePrecision(kUsualScaleStep);
+}
+
+bool GizmoController::centerPivots()
+{
+    manager.endDrag();
+    nbUndoService* undo = nbUndoService::the();
+    undo->beginGroup(QStringLiteral("Centre pivot"));
+    bool isDone = false;
+    const std::vector<osg::NodePtr> all = targets;
+    for (const osg::NodePtr& target : all) {
+        transform.setNode(target);
+        isDone = transform.centerPivot() || isDone;
+    }
+    undo->endGroup();
+    setTarget(all.empty() ? osg::NodePtr() : all.front(), all);
+    return isDone;
+}
+
+void GizmoController::setDragCallback(std::function<void()> callback)
+{
+    context.setDragCallback(std::move(callback));
+}
+
+// == Keeping in step
 
 void GizmoController::update()
 {
@@ -142,8 +247,39 @@ osg::NodePtr GizmoController::handles()
 
 std::string GizmoController::hoveredHandle()
 {
+    if (!context.grabbedHandle().empty()) {
+        return context.grabbedHandle();
+    }
     const bool isPossible = pointerInside && current != Gizmo::None;
     return isPossible ? nbNodeUtils::getName(probe.pick()) : std::string();
+}
+
+std::string GizmoController::draggedValues() const
+{
+    if (targets.empty() || context.grabbedHandle().empty()) {
+        return {};
+    }
+    const osg::NodePtr node = targets.front();
+    switch (actionOfHandle(context.grabbedHandle())) {
+    case HandleAction::MoveAlong:
+    case HandleAction::MoveInPlane:
+        if (current == Gizmo::RotatePivot) {
+            return textOf("Rotate pivot",
+                          nbTransformModel::getRotationPivot(node, !isLocalSpace()));
+        }
+        if (current == Gizmo::ScalePivot) {
+            return textOf("Scale pivot", nbTransformModel::getScalePivot(node, !isLocalSpace()));
+        }
+        return textOf("Translation", nbTransformModel::getTranslation(node, !isLocalSpace()));
+    case HandleAction::Turn:
+        return textOf("Rotation", nbNodeUtils::getTransformNodeRotation(node));
+    case HandleAction::ScaleAlong:
+    case HandleAction::ScaleAll:
+        return textOf("Scale", nbNodeUtils::getTransformNodeScale(node));
+    case HandleAction::None:
+        break;
+    }
+    return {};
 }
 
 std::string GizmoController::handleAt(const osg::Pnt2f& px)

@@ -20,6 +20,7 @@ struct SessionTarget
         Pixel,  ///< `offsetPx` itself, from the view's upper left corner
         Handle,  ///< a visible place of the gizmo handle of that name, plus `offsetPx`
         World,  ///< the projection of `world`, plus `offsetPx`
+        Pointer,  ///< where the pointer is, plus `offsetPx`
         Node,  ///< the projected centre of the bounds of the scene node of that name, plus
                ///< `offsetPx`
     };
@@ -30,12 +31,26 @@ struct SessionTarget
     QPointF offsetPx;  ///< device pixels, y down
 };
 
+/// Values that a scene node is to have at a checkpoint; an absent one demands nothing.
+struct SessionNodeExpectation
+{
+    static constexpr double kDefaultTolerance = 1e-4;
+
+    QString node;  ///< name of the object
+    std::optional<std::array<double, 3>> translation;  ///< in the parent's frame
+    std::optional<std::array<double, 3>> rotationDeg;
+    std::optional<std::array<double, 3>> scale;
+    double tolerance = kDefaultTolerance;  ///< of each number
+};
+
 /// What a checkpoint demands; an absent value demands nothing.
 struct SessionExpectation
 {
     std::optional<QString> hover;  ///< name of the handle under the pointer, "" for none
     std::optional<QString> selection;  ///< name of the selected node, "" for none
     std::optional<bool> orthographic;
+    std::optional<int> undoSteps;  ///< how many steps can be taken back
+    std::vector<SessionNodeExpectation> nodes;
 };
 
 /// One event of a session.

@@ -49,6 +49,10 @@ private:
     bool readModifiers(const QJsonValue& value, const QString& path, SessionStep& step);
     bool readExpectation(const QJsonValue& value, const QString& path,
                          SessionExpectation& expectation);
+    bool readNodeExpectations(const QJsonValue& value, const QString& path,
+                              std::vector<SessionNodeExpectation>& nodes);
+    bool readValues(const QJsonObject& object, const QString& path, const char* key,
+                    std::optional<std::array<double, 3>>& values);
     bool checkStep(const QJsonObject& object, const QString& path, const SessionStep& step);
 
     QString& error;
@@ -159,15 +163,20 @@ bool Reader::readCamera(const QJsonValue& value, SessionCamera& camera)
 
 bool Reader::readNamedTarget(const QJsonObject& object, const QString& path, SessionTarget& target)
 {
-    if (!checkKeys(object, path, { "handle", "node", "world", "offset" })) {
+    if (!checkKeys(object, path, { "handle", "node", "world", "offset", "by" })) {
         return false;
     }
-    if (object.contains("offset")) {
+    const QString key = object.contains("by") ? QStringLiteral("by") : QStringLiteral("offset");
+    if (object.contains(key)) {
         double offset[2] = { 0.0, 0.0 };
-        if (!readNumbers(object.value("offset"), path + ".offset", offset, 2)) {
+        if (!readNumbers(object.value(key), path + '.' + key, offset, 2)) {
             return false;
         }
         target.offsetPx = QPointF(offset[0], offset[1]);
+    }
+    if (object.contains("by")) {
+        target.kind = SessionTarget::Kind::Pointer;
+        return checkKeys(object, path, { "by" });
     }
     if (object.contains("handle")) {
         target.kind = SessionTarget::Kind::Handle;
@@ -181,7 +190,7 @@ bool Reader::readNamedTarget(const QJsonObject& object, const QString& path, Ses
         target.kind = SessionTarget::Kind::World;
         return readNumbers(object.value("world"), path + ".world", target.world.data(), 3);
     }
-    return fail(path, QStringLiteral("expected \"handle\", \"node\" or \"world\""));
+    return fail(path, QStringLiteral("expected \"handle\", \"node\", \"world\" or \"by\""));
 }
 
 bool Reader::readTarget(const QJsonValue& value, const QString& path, SessionTarget& target)
@@ -215,6 +224,45 @@ bool Reader::readModifiers(const QJsonValue& value, const QString& path, Session
     return true;
 }
 
+bool Reader::readValues(const QJsonObject& object, const QString& path, const char* key,
+                        std::optional<std::array<double, 3>>& values)
+{
+    if (!object.contains(QLatin1String(key))) {
+        return true;
+    }
+    values.emplace();
+    return readNumbers(object.value(QLatin1String(key)), path + '.' + key, values->data(), 3);
+}
+
+bool Reader::readNodeExpectations(const QJsonValue& value, const QString& path,
+                                  std::vector<SessionNodeExpectation>& nodes)
+{
+    if (!value.isObject()) {
+        return fail(path, QStringLiteral("expected an object"));
+    }
+    const QJsonObject all = value.toObject();
+    for (const QString& name : all.keys()) {
+        const QString nodePath = path + '.' + name;
+        const QJsonObject object = all.value(name).toObject();
+        SessionNodeExpectation node;
+        node.node = name;
+        if (!checkKeys(object, nodePath, { "translation", "rotation", "scale", "tolerance" }) ||
+            !readValues(object, nodePath, "translation", node.translation) ||
+            !readValues(object, nodePath, "rotation", node.rotationDeg) ||
+            !readValues(object, nodePath, "scale", node.scale)) {
+            return false;
+        }
+        node.tolerance = object.value("tolerance").toDouble(node.tolerance);
+        if (!node.translation && !node.rotationDeg && !node.scale) {
+            return fail(nodePath,
+                        QStringLiteral("expected \"translation\", \"rotation\" or "
+                                       "\"scale\""));
+        }
+        nodes.push_back(node);
+    }
+    return true;
+}
+
 bool Reader::readExpectation(const QJsonValue& value, const QString& path,
                              SessionExpectation& expectation)
 {
@@ -222,7 +270,7 @@ bool Reader::readExpectation(const QJsonValue& value, const QString& path,
         return fail(path, QStringLiteral("expected an object"));
     }
     const QJsonObject object = value.toObject();
-    if (!checkKeys(object, path, { "hover", "selection", "orthographic" })) {
+    if (!checkKeys(object, path, { "hover", "selection", "orthographic", "undoSteps", "nodes" })) {
         return false;
     }
     QString text;
@@ -245,7 +293,16 @@ bool Reader::readExpectation(const QJsonValue& value, const QString& path,
         }
         expectation.orthographic = flag;
     }
-    return true;
+    if (object.contains("undoSteps")) {
+        constexpr int kMostSteps = 100000;
+        expectation.undoSteps.emplace();
+        if (!readInt(object.value("undoSteps"), path + ".undoSteps", kMostSteps,
+                     *expectation.undoSteps)) {
+            return false;
+        }
+    }
+    return !object.contains("nodes") ||
+        readNodeExpectations(object.value("nodes"), path + ".nodes", expectation.nodes);
 }
 
 /// Demands what a step of its type cannot do without.

@@ -123,6 +123,9 @@ bool resolveTarget(const SessionTarget& target, Stage& stage, osg::Pnt2f& px, QS
     switch (target.kind) {
     case SessionTarget::Kind::Pixel:
         break;
+    case SessionTarget::Kind::Pointer:
+        place = stage.view().getMousePosition();
+        break;
     case SessionTarget::Kind::Handle:
         if (!resolveHandle(target.name, stage, place, error)) {
             return false;

@@ -30,6 +30,9 @@ QJsonValue jsonOf(const SessionTarget& target)
     switch (target.kind) {
     case SessionTarget::Kind::Pixel:
         return jsonOf(target.offsetPx);
+    case SessionTarget::Kind::Pointer:
+        object["by"] = jsonOf(target.offsetPx);
+        return object;
     case SessionTarget::Kind::Handle:
         object["handle"] = target.name;
         break;
@@ -46,6 +49,22 @@ QJsonValue jsonOf(const SessionTarget& target)
     return object;
 }
 
+QJsonObject jsonOf(const SessionNodeExpectation& node)
+{
+    QJsonObject object;
+    if (node.translation) {
+        object["translation"] = jsonOf(*node.translation);
+    }
+    if (node.rotationDeg) {
+        object["rotation"] = jsonOf(*node.rotationDeg);
+    }
+    if (node.scale) {
+        object["scale"] = jsonOf(*node.scale);
+    }
+    object["tolerance"] = node.tolerance;
+    return object;
+}
+
 QJsonObject jsonOf(const SessionExpectation& expectation)
 {
     QJsonObject object;
@@ -57,6 +76,16 @@ QJsonObject jsonOf(const SessionExpectation& expectation)
     }
     if (expectation.orthographic) {
         object["orthographic"] = *expectation.orthographic;
+    }
+    if (expectation.undoSteps) {
+        object["undoSteps"] = *expectation.undoSteps;
+    }
+    QJsonObject nodes;
+    for (const SessionNodeExpectation& node : expectation.nodes) {
+        nodes[node.node] = jsonOf(node);
+    }
+    if (!nodes.isEmpty()) {
+        object["nodes"] = nodes;
     }
     return object;
 }

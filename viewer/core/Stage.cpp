@@ -5,11 +5,17 @@
 #include "viewer/core/StartScene.h"
 
 #include <nbKernel/nbScenegraph.h>
+#include <nbKernelServices/nbUndoService.h>
+#include <nbNotification/NotificationManager.h>
+#include <nbOpenSGExt/ClipPlane3D.h>
 #include <nbOpenSGSelection/nbSelection.h>
 #include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <OpenSG/OSGBoxVolume.h>
+#include <OpenSG/OSGGeometry.h>
+
+#include <QtWidgets/QUndoStack>
 
 #include <algorithm>
 
@@ -25,6 +31,42 @@ constexpr float kMarkerWidthPx = 1.5F;
 osg::Pnt3f pointOf(const std::array<float, 3>& p)
 {
     return { p[0], p[1], p[2] };
+}
+
+/// Collects the objects that have geometry of their own: those that a click could select.
+void collectSurfaces(const osg::NodePtr& node, std::vector<osg::NodePtr>& objects)
+{
+    if (node == osg::NullFC || nbNodeUtils::isAuxiliaryNode(node)) {
+        return;
+    }
+    if (osg::GeometryPtr::dcast(node->getCore()) != osg::NullFC) {
+        const osg::NodePtr object = objectOf(node);
+        if (std::find(objects.begin(), objects.end(), object) == objects.end()) {
+            objects.push_back(object);
+        }
+    }
+    for (osg::UInt32 i = 0; i < node->getNChildren(); ++i) {
+        collectSurfaces(node->getChild(i), objects);
+    }
+}
+
+/// Whether there is a clip plane that one of two nodes has as its core, or gives its frame to.
+bool findClipPlaneOf(const osg::NodePtr& root, const osg::NodePtr& first,
+                     const osg::NodePtr& second)
+{
+    const osg::ClipPlane3DPtr plane = osg::ClipPlane3DPtr::dcast(root->getCore());
+    if (plane != osg::NullFC) {
+        const osg::NodePtr frame = plane->getTransformNode();
+        if (root == first || root == second || (frame != osg::NullFC && frame == second)) {
+            return true;
+        }
+    }
+    for (osg::UInt32 i = 0; i < root->getNChildren(); ++i) {
+        if (findClipPlaneOf(root->getChild(i), first, second)) {
+            return true;
+        }
+    }
+    return false;
 }
 
 }  // namespace
@@ -45,6 +87,10 @@ Stage::Stage(nbOSGWidget& view)
         gizmoController.followCamera();
         changed();
     });
+    manager.setCancelHandler([] { nbUndoService::the()->cancelGroup(); });
+    gizmoController.setDragCallback([this] { changed(); });
+    nbec::notification::NotificationManager::getInstance()->setChangeListener(
+        [this] { renderWidget.update(); });
     manager.addContext(&selectionContext);
     manager.addContext(&cameraContext);
     selectionCallback = nbSelection::addChangedCallback([this] { selectionChanged(); });
@@ -54,6 +100,7 @@ Stage::~Stage()
 {
     nbSelection::removeChangedCallback(selectionCallback);
     changedCallback = nullptr;
+    nbec::notification::NotificationManager::getInstance()->setChangeListener(nullptr);
     gizmoController.show(Gizmo::None);
     manager.removeContext(&selectionContext);
     manager.removeContext(&cameraContext);
@@ -77,6 +124,7 @@ void Stage::clear()
         root->subChild(root->getNChildren() - 1);
     }
     triangles = 0;
+    nbUndoService::the()->clear();
 }
 
 osg::NodePtr Stage::add(const ModelData& model)
@@ -139,6 +187,33 @@ osg::NodePtr Stage::selectedObject() const
 std::string Stage::selectedName() const
 {
     return nbNodeUtils::getName(selectedObject());
+}
+
+std::vector<osg::NodePtr> Stage::selectedObjects() const
+{
+    std::vector<osg::NodePtr> objects;
+    for (const osg::NodePtr& node : nbSelection::getNodes()) {
+        const osg::NodePtr object = objectOf(node);
+        if (object != osg::NullFC &&
+            std::find(objects.begin(), objects.end(), object) == objects.end()) {
+            objects.push_back(object);
+        }
+    }
+    return objects;
+}
+
+bool Stage::isClipPlaneSelected() const
+{
+    const osg::NodePtr object = selectedObject();
+    return object != osg::NullFC &&
+        findClipPlaneOf(nbScenegraph::getRootNode(), nbSelection::getLast(), object);
+}
+
+void Stage::selectAll()
+{
+    std::vector<osg::NodePtr> objects;
+    collectSurfaces(nbScenegraph::getRootNode(), objects);
+    nbSelection::set(objects);
 }
 
 std::string Stage::preselectedName() const
@@ -213,19 +288,45 @@ void Stage::resize(int widthPx, int heightPx, float pixelRatio)
 void Stage::update()
 {
     gizmoController.update();
-    std::vector<osg::NodePtr> selected;
-    for (const osg::NodePtr& node : nbSelection::getNodes()) {
-        const osg::NodePtr object = objectOf(node);
-        if (std::find(selected.begin(), selected.end(), object) == selected.end()) {
-            selected.push_back(object);
-        }
-    }
+    const std::vector<osg::NodePtr> selected = selectedObjects();
     const osg::NodePtr preselected = selectionTool.getPreselected();
     const bool isNew = preselected != osg::NullFC &&
         std::find(selected.begin(), selected.end(), preselected) == selected.end();
     selectionMarker.mark(selected);
     preselectionMarker.mark(isNew ? std::vector<osg::NodePtr> { preselected }
                                   : std::vector<osg::NodePtr> {});
+}
+
+// == Undo
+
+bool Stage::undo()
+{
+    const bool isDone = !isDragging() && nbUndoService::the()->undo();
+    edited();
+    return isDone;
+}
+
+bool Stage::redo()
+{
+    const bool isDone = !isDragging() && nbUndoService::the()->redo();
+    edited();
+    return isDone;
+}
+
+bool Stage::canUndo() const
+{
+    return !isDragging() && nbUndoService::the()->getStack()->canUndo();
+}
+
+bool Stage::canRedo() const
+{
+    return !isDragging() && nbUndoService::the()->getStack()->canRedo();
+}
+
+void Stage::edited()
+{
+    gizmoController.update();
+    changed();
 }
 
 void Stage::setChangedCallback(std::function<void()> callback)
@@ -235,7 +336,7 @@ void Stage::setChangedCallback(std::function<void()> callback)
 
 void Stage::selectionChanged()
 {
-    gizmoController.setTarget(selectedObject());
+    gizmoController.setTarget(selectedObject(), selectedObjects());
     changed();
 }
 

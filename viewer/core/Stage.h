@@ -64,6 +64,12 @@ public:
     /// The object selected last; null if there is none.
     osg::NodePtr selectedObject() const;
     std::string selectedName() const;
+    /// The objects selected, each once, in the order of selecting.
+    std::vector<osg::NodePtr> selectedObjects() const;
+    /// Whether the object selected last is, or carries, a clip plane or the frame of one.
+    bool isClipPlaneSelected() const;
+    /// Selects every object that has a surface of its own.
+    void selectAll();
     /// Name of the object under the pointer that a click would select; "" for none.
     std::string preselectedName() const;
 
@@ -80,7 +86,22 @@ public:
     void setOrthographic(bool on);
     void setZUp(bool on);
 
+    // == Undo
+
+    /// Takes the last step back. False if there is none, or while anything is dragged.
+    bool undo();
+    /// Does the step again that was taken back last. False as undo.
+    bool redo();
+    bool canUndo() const;
+    bool canRedo() const;
+
+    /// Whether something is being dragged, so that steps must not be taken back now.
+    bool isDragging() const { return manager.isDragging(); }
+
     // == Keeping in step
+
+    /// Redraws and tells everybody, as after an edit that did not come from the view.
+    void edited();
 
     /// Tells the size of the view, device pixels, and the device pixels per logical one.
     void resize(int widthPx, int heightPx, float pixelRatio);

@@ -8,7 +8,10 @@
 #include "viewer/gui/ViewWidget.h"
 #include "viewer/gui/WindowActions.h"
 
+#include <nbKernelServices/nbUndoService.h>
+
 #include <QCloseEvent>
+#include <QDockWidget>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGridLayout>
@@ -18,6 +21,8 @@
 #include <QStatusBar>
 #include <QTimer>
 #include <QToolButton>
+#include <QUndoStack>
+#include <QUndoView>
 
 namespace viewer {
 namespace {
@@ -67,7 +72,7 @@ MainWindow::MainWindow(Attendance attendance)
     , sessionPlayer(new SessionPlayer(*viewWidget, *this, this))
     , sessionRecorder(new SessionRecorder(*viewWidget, this))
 {
-    setWindowTitle(QStringLiteral("nbviewer"));
+    setShownTitle({});
     auto* centre = new QWidget(this);
     auto* layout = new QGridLayout(centre);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -75,6 +80,7 @@ MainWindow::MainWindow(Attendance attendance)
     setCentralWidget(centre);
     messageBar = new MessageBar(viewWidget);
     createStatusLine();
+    createUndoList();
     actions = new WindowActions(*this, viewWidget->stage());
     if (mode == Attendance::Attended) {
         actions->setRecentFiles(QSettings().value(kRecentKey).toStringList());
@@ -105,6 +111,8 @@ MainWindow::MainWindow(Attendance attendance)
 MainWindow::~MainWindow()
 {
     viewWidget->stage().setChangedCallback(nullptr);
+    // The service outlives the window, and the end of the stage empties the stack.
+    nbUndoService::the()->getStack()->disconnect(this);
     // The view is needed by what the window owns besides it.
     delete sessionPlayer;
     delete sessionRecorder;
@@ -113,6 +121,8 @@ MainWindow::~MainWindow()
 void MainWindow::createStatusLine()
 {
     handleLabel = new QLabel(this);
+    valuesLabel = new QLabel(this);
+    valuesLabel->setObjectName(QStringLiteral("values"));
     selectionLabel = new QLabel(this);
     sceneLabel = new QLabel(this);
     progress = new QProgressBar(this);
@@ -127,11 +137,36 @@ void MainWindow::createStatusLine()
     });
     statusBar()->addWidget(selectionLabel);
     statusBar()->addWidget(handleLabel);
+    statusBar()->addWidget(valuesLabel);
     statusBar()->addPermanentWidget(progress);
     statusBar()->addPermanentWidget(cancelButton);
     statusBar()->addPermanentWidget(sceneLabel);
     progress->hide();
     cancelButton->hide();
+}
+
+void MainWindow::createUndoList()
+{
+    QUndoStack* stack = nbUndoService::the()->getStack();
+    undoView = new QUndoView(stack);
+    undoView->setObjectName(QStringLiteral("undoList"));
+    undoView->setEmptyLabel(tr("As opened"));
+    // Keys are for the view, whatever was clicked last.
+    undoView->setFocusPolicy(Qt::NoFocus);
+    auto* dock = new QDockWidget(tr("Steps"), this);
+    dock->setObjectName(QStringLiteral("undoDock"));
+    dock->setWidget(undoView);
+    addDockWidget(Qt::RightDockWidgetArea, dock);
+    dock->setVisible(mode == Attendance::Attended);
+    connect(stack, &QUndoStack::indexChanged, this, [this] { viewWidget->stage().edited(); });
+    connect(stack, &QUndoStack::cleanChanged, this,
+            [this](bool clean) { setWindowModified(!clean); });
+}
+
+void MainWindow::setShownTitle(const QString& name)
+{
+    setWindowTitle(name.isEmpty() ? QStringLiteral("nbviewer[*]")
+                                  : name + QStringLiteral("[*] - nbviewer"));
 }
 
 void MainWindow::updateStatus()
@@ -140,8 +175,16 @@ void MainWindow::updateStatus()
     const QString handle = QString::fromStdString(stage.gizmo().hoveredHandle());
     const QString hovered = QString::fromStdString(stage.preselectedName());
     const QString selected = QString::fromStdString(stage.selectedName());
-    setTextOf(selectionLabel,
-              selected.isEmpty() ? tr("Nothing selected") : tr("Selected: %1").arg(selected));
+    const auto further = static_cast<int>(stage.selectedObjects().size()) - 1;
+    QString selection =
+        selected.isEmpty() ? tr("Nothing selected") : tr("Selected: %1").arg(selected);
+    if (further > 0) {
+        selection += tr(" and %n more", nullptr, further);
+    }
+    setTextOf(selectionLabel, selection);
+    setTextOf(valuesLabel, QString::fromStdString(stage.gizmo().draggedValues()));
+    // The list takes steps back by itself when it is clicked.
+    undoView->setEnabled(!stage.isDragging());
     if (!handle.isEmpty()) {
         setTextOf(handleLabel, tr("Handle: %1").arg(handle));
     } else {
@@ -160,7 +203,7 @@ void MainWindow::showStartScene()
     loader->cancel();
     shownFiles.clear();
     viewWidget->stage().showStartScene();
-    setWindowTitle(QStringLiteral("nbviewer"));
+    setShownTitle({});
     updateStatus();
 }
 
@@ -198,7 +241,7 @@ void MainWindow::showLoadedModels()
     }
     actions->update();
     updateStatus();
-    setWindowTitle(QFileInfo(openingFiles.value(0)).fileName() + QStringLiteral(" - nbviewer"));
+    setShownTitle(QFileInfo(openingFiles.value(0)).fileName());
     if (!warnings.isEmpty() && mode == Attendance::Attended) {
         messageBar->showMessage(warnings.first());
     }
@@ -310,6 +353,7 @@ void MainWindow::replay(const Session& session, const std::optional<QDir>& pictu
 bool MainWindow::setStageFor(const Session& session, QString& error)
 {
     Stage& stage = viewWidget->stage();
+    stage.gizmo().resetSettings();
     if (session.camera) {
         stage.setPose(poseOf(*session.camera));
     }

@@ -13,6 +13,7 @@
 class QLabel;
 class QProgressBar;
 class QToolButton;
+class QUndoView;
 
 namespace viewer {
 
@@ -93,6 +94,8 @@ protected:
 
 private:
     void createStatusLine();
+    void createUndoList();
+    void setShownTitle(const QString& name);
     void updateStatus();
     void showLoadedModels();
     void addRecentFiles(const QStringList& files);
@@ -111,7 +114,9 @@ private:
     SessionRecorder* sessionRecorder = nullptr;
     WindowActions* actions = nullptr;
 
+    QUndoView* undoView = nullptr;
     QLabel* handleLabel = nullptr;
+    QLabel* valuesLabel = nullptr;
     QLabel* selectionLabel = nullptr;
     QLabel* sceneLabel = nullptr;
     QProgressBar* progress = nullptr;

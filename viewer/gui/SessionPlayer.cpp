@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/gui/SessionPlayer.h"
 
+#include "viewer/core/SceneBuilder.h"
 #include "viewer/core/SessionNames.h"
 #include "viewer/core/SessionTargets.h"
 #include "viewer/gui/ViewWidget.h"
+
+#include <nbKernel/nbScenegraph.h>
+#include <nbKernelServices/nbUndoService.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <QAction>
 #include <QCoreApplication>
@@ -11,7 +16,10 @@
 #include <QKeySequence>
 #include <QMouseEvent>
 #include <QTimer>
+#include <QUndoStack>
 #include <QWheelEvent>
+
+#include <cmath>
 
 namespace viewer {
 namespace {
@@ -272,6 +280,53 @@ void SessionPlayer::check(const SessionStep& step)
         };
         expect(step, "orthographic", word(*expectation.orthographic),
                word(stage.pose().orthographic));
+    }
+    if (expectation.undoSteps) {
+        expect(step, "undoSteps", QString::number(*expectation.undoSteps),
+               QString::number(nbUndoService::the()->getStack()->index()));
+    }
+    for (const SessionNodeExpectation& node : expectation.nodes) {
+        checkNode(step, node);
+    }
+}
+
+void SessionPlayer::checkNode(const SessionStep& step, const SessionNodeExpectation& node)
+{
+    const osg::NodePtr found = findObject(nbScenegraph::getRootNode(), node.node.toStdString());
+    if (found == osg::NullFC) {
+        failures.append(
+            QStringLiteral("checkpoint \"%1\": there is no node \"%2\"").arg(step.name, node.node));
+        return;
+    }
+    expectNear(step, node, "translation", node.translation,
+               nbNodeUtils::getTransformNodeTranslation(found));
+    expectNear(step, node, "rotation", node.rotationDeg,
+               nbNodeUtils::getTransformNodeRotation(found));
+    expectNear(step, node, "scale", node.scale, nbNodeUtils::getTransformNodeScale(found));
+}
+
+void SessionPlayer::expectNear(const SessionStep& step, const SessionNodeExpectation& node,
+                               const char* what,
+                               const std::optional<std::array<double, 3>>& expected,
+                               const osg::Vec3f& found)
+{
+    if (!expected) {
+        return;
+    }
+    bool isNear = true;
+    QStringList wantedWords;
+    QStringList foundWords;
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        const auto value = static_cast<double>(found[i]);
+        // Not a number is near to nothing.
+        isNear = isNear && std::abs(value - (*expected)[i]) <= node.tolerance;
+        wantedWords.append(QString::number((*expected)[i]));
+        foundWords.append(QString::number(value));
+    }
+    if (!isNear) {
+        failures.append(QStringLiteral("checkpoint \"%1\": %2 of \"%3\" is (%4) instead of (%5)")
+                            .arg(step.name, QLatin1String(what), node.node, foundWords.join(", "),
+                                 wantedWords.join(", ")));
     }
 }
 

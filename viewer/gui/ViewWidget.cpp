@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/gui/ViewWidget.h"
 
+#include "viewer/gui/CursorShapes.h"
+#include "viewer/gui/TextPainter.h"
+
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QMimeData>
 #include <QOpenGLContext>
+#include <QPainter>
 #include <QUrl>
 
 #include <cmath>
@@ -113,8 +117,37 @@ QImage ViewWidget::takePicture(QString& error)
     if (picture.isNull()) {
         error = QStringLiteral("the view cannot be drawn: %1")
                     .arg(QString::fromStdString(pictureView.getError()));
+        return picture;
     }
+    paintTextsOver(picture);
     return picture;
+}
+
+QSize ViewWidget::logicalSize() const
+{
+    const double ratio = devicePixelRatioF();
+    const QSize px = sizePx();
+    return { qRound(px.width() / ratio), qRound(px.height() / ratio) };
+}
+
+void ViewWidget::paintTextsOver(QImage& picture) const
+{
+    if (!hasVisibleTexts(logicalSize())) {
+        return;
+    }
+    picture = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    QPainter painter(&picture);
+    painter.scale(devicePixelRatioF(), devicePixelRatioF());
+    paintTexts(painter, logicalSize());
+}
+
+void ViewWidget::updateCursor()
+{
+    const HandleCursor wanted = cursorOfHandle(viewStage, viewStage.gizmo().hoveredHandle());
+    if (wanted != shownCursor) {
+        shownCursor = wanted;
+        setCursor(wanted.action == HandleAction::None ? QCursor(hostCursor) : cursorShape(wanted));
+    }
 }
 
 void ViewWidget::showEffectBuffer(bool on)
@@ -137,6 +170,7 @@ bool ViewWidget::event(QEvent* event)
         viewStage.gizmo().setPointerInside(type == QEvent::MouseMove);
     }
     if (type == QEvent::MouseMove || type == QEvent::Leave || type == QEvent::MouseButtonRelease) {
+        updateCursor();
         emit stateChanged();
     }
     if (taken) {
@@ -169,6 +203,10 @@ void ViewWidget::paintGL()
     const QSize size = sizePx();
     renderAction.render(renderWidget.getViewport(), size.width(), size.height(),
                         defaultFramebufferObject());
+    if (hasVisibleTexts(logicalSize())) {
+        QPainter painter(this);
+        paintTexts(painter, logicalSize());
+    }
     emit stateChanged();
 }
 
@@ -200,7 +238,10 @@ void ViewWidget::redrawRequested()
 
 void ViewWidget::cursorChanged(Qt::CursorShape shape)
 {
-    setCursor(shape);
+    hostCursor = shape;
+    if (shownCursor.action == HandleAction::None) {
+        setCursor(shape);
+    }
 }
 
 void ViewWidget::releaseGraphics()

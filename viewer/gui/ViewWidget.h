@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "viewer/core/HandleCursor.h"
 #include "viewer/core/Stage.h"
 
 #include <nbInteraction/InputTranslator.h>
@@ -68,6 +69,9 @@ private:
     void redrawRequested() override;
     void cursorChanged(Qt::CursorShape shape) override;
     void adoptSize();
+    QSize logicalSize() const;
+    void paintTextsOver(QImage& picture) const;
+    void updateCursor();
     void releaseGraphics();
 
     nbOSGWidget renderWidget;
@@ -76,6 +80,8 @@ private:
     nbRenderAction renderAction;
     nbOffscreenView pictureView;
     QSize fixedSizePx;
+    HandleCursor shownCursor;
+    Qt::CursorShape hostCursor = Qt::ArrowCursor;
     bool failed = false;
 };
 

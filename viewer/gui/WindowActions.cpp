@@ -3,6 +3,10 @@
 
 #include "viewer/core/Stage.h"
 #include "viewer/gui/MainWindow.h"
+#include "viewer/gui/StepsPanel.h"
+#include "viewer/gui/ToolIcons.h"
+
+#include <nbKernelServices/nbUndoService.h>
 
 #include <QAction>
 #include <QActionGroup>
@@ -10,6 +14,9 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QToolBar>
+#include <QToolButton>
+#include <QUndoStack>
+#include <QWidgetAction>
 
 namespace viewer {
 namespace {
@@ -43,10 +50,18 @@ struct GizmoRow
 };
 
 constexpr GizmoRow kGizmos[] = {
-    { "gizmoNone", "&None", "N", Gizmo::None },
-    { "gizmoUniversal", "&Universal", "U", Gizmo::Universal },
-    { "gizmoTranslate", "&Translate", "T", Gizmo::Translate },
-    { "gizmoCamera", "&Camera pivot", "C", Gizmo::CameraPivot },
+    { "gizmoNone", "&None", "Q", Gizmo::None },
+    { "gizmoTranslate", "&Translate", "W", Gizmo::Translate },
+    { "gizmoRotate", "&Rotate", "E", Gizmo::Rotate },
+    { "gizmoScale", "&Scale", "R", Gizmo::Scale },
+    { "gizmoUniversal", "&Universal", "T", Gizmo::Universal },
+    { "gizmoTranslateRotate", "Translate, r&otate", "", Gizmo::TranslateRotate },
+    { "gizmoTranslateRotateScale", "Translate, rotate, s&cale", "", Gizmo::TranslateRotateScale },
+    { "gizmoTranslateRotateYZ", "Translate, rotate about &y and z", "", Gizmo::TranslateRotateYZ },
+    { "gizmoRotatePivot", "Rotate &pivot", "Shift+E", Gizmo::RotatePivot },
+    { "gizmoScalePivot", "Sca&le pivot", "Shift+R", Gizmo::ScalePivot },
+    { "gizmoClipping", "Clip plan&e", "", Gizmo::Clipping },
+    { "gizmoCamera", "Ca&mera pivot", "C", Gizmo::CameraPivot },
 };
 
 }  // namespace
@@ -57,6 +72,7 @@ WindowActions::WindowActions(MainWindow& targetWindow, Stage& targetStage)
     , stage(targetStage)
 {
     addFileMenu();
+    addEditMenu();
     addViewMenu();
     addManipulatorMenu();
     addSessionMenu();
@@ -109,6 +125,18 @@ void WindowActions::addFileMenu()
     add(menu, "fileQuit", tr("&Quit"), "Ctrl+Q", [this] { window.close(); });
 }
 
+void WindowActions::addEditMenu()
+{
+    QMenu* menu = window.menuBar()->addMenu(tr("&Edit"));
+    undo = add(menu, "undo", tr("&Undo"), "Ctrl+Z", [this] { stage.undo(); });
+    redo = add(menu, "redo", tr("&Redo"), "Ctrl+Shift+Z", [this] { stage.redo(); });
+    undo->setIcon(undoIcon());
+    redo->setIcon(redoIcon());
+    menu->addSeparator();
+    add(menu, "selectAll", tr("Select &all"), "Ctrl+A", [this] { stage.selectAll(); });
+    add(menu, "selectNone", tr("Select &nothing"), "D", [this] { stage.select(osg::NullFC); });
+}
+
 void WindowActions::addViewMenu()
 {
     QMenu* menu = window.menuBar()->addMenu(tr("&View"));
@@ -125,7 +153,7 @@ void WindowActions::addViewMenu()
                              [this](bool on) { stage.setOrthographic(on); });
     zUp = addSwitch(menu, "zUp", tr("&Z is up"), "Z", [this](bool on) { stage.setZUp(on); });
     menu->addSeparator();
-    addSwitch(menu, "effectBuffer", tr("Show &effect buffer"), "E",
+    addSwitch(menu, "effectBuffer", tr("Show &effect buffer"), "B",
               [this](bool on) { window.showEffectBuffer(on); });
 }
 
@@ -136,11 +164,37 @@ void WindowActions::addManipulatorMenu()
     for (const GizmoRow& row : kGizmos) {
         QAction* action = addSwitch(menu, row.name, tr(row.text), row.keys,
                                     [this, gizmo = row.gizmo](bool) { stage.showGizmo(gizmo); });
+        action->setIcon(gizmoIcon(row.gizmo));
         gizmoGroup->addAction(action);
         gizmoActions[row.gizmo] = action;
     }
     menu->addSeparator();
-    add(menu, "selectNone", tr("Select n&othing"), "D", [this] { stage.select(osg::NullFC); });
+    addTransformSettings(menu);
+}
+
+void WindowActions::addTransformSettings(QMenu* menu)
+{
+    localSpace = addSwitch(menu, "localSpace", tr("&Axes of the object"), "L", [this](bool on) {
+        stage.gizmo().setLocalSpace(on);
+        stage.edited();
+    });
+    snapping = addSwitch(menu, "snapping", tr("Snapp&ing"), "X",
+                         [this](bool on) { stage.gizmo().setSnapping(on); });
+    centerPivots = add(menu, "centerPivots", tr("Centre p&ivot"), "Shift+C", [this] {
+        stage.gizmo().centerPivots();
+        stage.edited();
+    });
+    localSpace->setIconText(tr("Local"));
+    localSpace->setToolTip(tr("Axes of the object instead of the world's (L)"));
+    snapping->setIconText(tr("Snap"));
+    snapping->setToolTip(tr("Advance in steps (X); hold Ctrl for a while"));
+    stepsMenu = menu->addMenu(tr("Steps an&d size"));
+    stepsPanel = new StepsPanel(stage.gizmo());
+    auto* panelAction = new QWidgetAction(stepsMenu);
+    panelAction->setDefaultWidget(stepsPanel);
+    stepsMenu->addAction(panelAction);
+    connect(stepsMenu, &QMenu::aboutToShow, stepsPanel, &StepsPanel::refresh);
+    connect(stepsPanel, &StepsPanel::edited, this, [this] { stage.edited(); });
 }
 
 void WindowActions::addSessionMenu()
@@ -175,9 +229,23 @@ void WindowActions::addToolBar()
     bar->addAction(open);
     bar->addAction(picture);
     bar->addSeparator();
+    bar->addAction(undo);
+    bar->addAction(redo);
+    bar->addSeparator();
     for (const GizmoRow& row : kGizmos) {
-        bar->addAction(gizmoActions[row.gizmo]);
+        if (!gizmoActions[row.gizmo]->icon().isNull()) {
+            bar->addAction(gizmoActions[row.gizmo]);
+        }
     }
+    bar->addSeparator();
+    bar->addAction(localSpace);
+    bar->addAction(snapping);
+    auto* steps = new QToolButton(bar);
+    steps->setText(tr("Steps"));
+    steps->setToolTip(tr("Steps of snapping, size of the gizmo"));
+    steps->setMenu(stepsMenu);
+    steps->setPopupMode(QToolButton::InstantPopup);
+    bar->addWidget(steps);
     bar->addSeparator();
     bar->addAction(frameAll);
     bar->addAction(frameSelection);
@@ -193,10 +261,28 @@ void WindowActions::update()
     orthographic->setChecked(pose.orthographic);
     zUp->setChecked(pose.zUp);
     gizmoActions[stage.gizmo().shown()]->setChecked(true);
+    updateEditing();
     record->setChecked(window.isRecording());
     record->setEnabled(!window.isReplaying());
     checkpoint->setEnabled(window.isRecording());
     stopReplay->setEnabled(window.isReplaying());
+}
+
+void WindowActions::updateEditing()
+{
+    const auto titled = [](const QString& verb, const QString& step) {
+        return step.isEmpty() ? verb : verb + QLatin1Char(' ') + step;
+    };
+    const QUndoStack* stack = nbUndoService::the()->getStack();
+    undo->setEnabled(stage.canUndo());
+    redo->setEnabled(stage.canRedo());
+    undo->setText(titled(tr("&Undo"), stack->undoText()));
+    redo->setText(titled(tr("&Redo"), stack->redoText()));
+    const bool isSelected = stage.selectedObject() != osg::NullFC;
+    centerPivots->setEnabled(isSelected && !stage.isDragging());
+    gizmoActions[Gizmo::Clipping]->setEnabled(stage.isClipPlaneSelected());
+    localSpace->setChecked(stage.gizmo().isLocalSpace());
+    snapping->setChecked(stage.gizmo().isSnapping());
 }
 
 void WindowActions::setRecentFiles(const QStringList& files)

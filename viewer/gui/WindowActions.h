@@ -19,6 +19,7 @@ namespace viewer {
 
 class MainWindow;
 class Stage;
+class StepsPanel;
 
 /// Menus, toolbar and shortcuts of the window.
 class WindowActions : public QObject
@@ -44,16 +45,26 @@ private:
     QAction* addSwitch(QMenu* menu, const char* name, const QString& text, const QString& keys,
                        std::function<void(bool)> run);
     void addFileMenu();
+    void addEditMenu();
     void addViewMenu();
     void addManipulatorMenu();
     void addSessionMenu();
+    void addTransformSettings(QMenu* menu);
     void addToolBar();
+    void updateEditing();
 
     MainWindow& window;
     Stage& stage;
     QMenu* recentMenu = nullptr;
     QActionGroup* gizmoGroup = nullptr;
     std::map<Gizmo, QAction*> gizmoActions;
+    QAction* undo = nullptr;
+    QAction* redo = nullptr;
+    QAction* localSpace = nullptr;
+    QAction* snapping = nullptr;
+    QAction* centerPivots = nullptr;
+    QMenu* stepsMenu = nullptr;
+    StepsPanel* stepsPanel = nullptr;
     QAction* orthographic = nullptr;
     QAction* zUp = nullptr;
     QAction* record = nullptr;
