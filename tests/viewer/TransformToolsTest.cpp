@@ -14,6 +14,7 @@
 #include <QAction>
 #include <QDoubleSpinBox>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QUndoView>
 
 #include <gtest/gtest.h>
@@ -35,22 +36,12 @@ SessionStep step(Type type, SessionTarget::Kind kind, const char* name, QPointF 
     return made;
 }
 
-SessionStep moveBy(double x, double y)
-{
-    return step(Type::Move, SessionTarget::Kind::Pointer, "", { x, y });
-}
-
 SessionStep key(const char* name)
 {
     SessionStep made;
     made.type = Type::Key;
     made.key = QLatin1String(name);
     return made;
-}
-
-SessionStep release()
-{
-    return step(Type::Release, SessionTarget::Kind::Pointer, "");
 }
 
 /// A shown window on the start scene, its knot selected, nobody at it.
@@ -87,9 +78,27 @@ protected:
     /// Grabs a handle and drags it in four steps, without letting go.
     void drag(const char* handle, double x, double y)
     {
-        play({ step(Type::Move, SessionTarget::Kind::Handle, handle),
-               step(Type::Press, SessionTarget::Kind::Pointer, ""), moveBy(x, y), moveBy(x, y),
-               moveBy(x, y), moveBy(x, y) });
+        play({ step(Type::Move, SessionTarget::Kind::Handle, handle) });
+        position = window.view().toLogical(stage().view().getMousePosition());
+        send(QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
+        for (int i = 0; i < 4; ++i) {
+            moveBy(x, y);
+        }
+        EXPECT_NE(stage().gizmo().draggedValues(), "") << handle << " is not grabbed";
+    }
+
+    void moveBy(double x, double y)
+    {
+        position += QPointF(x, y);
+        send(QEvent::MouseMove, Qt::NoButton, Qt::LeftButton);
+    }
+
+    void release() { send(QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton); }
+
+    void send(QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons held)
+    {
+        QMouseEvent event(type, position, button, held, Qt::NoModifier);
+        QCoreApplication::sendEvent(&window.view(), &event);
     }
 
     QAction* action(const char* name) { return window.findChild<QAction*>(QLatin1String(name)); }
@@ -106,6 +115,7 @@ protected:
         return nbNodeUtils::getTransformNodeTranslation(object(name));
     }
 
+    QPointF position;  ///< of the pointer in the view
     MainWindow window;
 };
 
@@ -134,7 +144,7 @@ TEST_F(TransformTools, ADragIsOneStepThatCanBeTakenBackOnceItIsOver)
     EXPECT_FALSE(action("undo")->isEnabled());
     EXPECT_FALSE(list->isEnabled()) << "a click into the list would take a step back";
     EXPECT_FALSE(stage().undo());
-    play({ release() });
+    release();
     const osg::Vec3f after = placeOf("Knot");
     EXPECT_GT(after[1], before[1] + 0.1F);
     EXPECT_TRUE(window.isWindowModified());
@@ -153,36 +163,50 @@ TEST_F(TransformTools, ADragIsOneStepThatCanBeTakenBackOnceItIsOver)
     EXPECT_FALSE(action("undo")->isEnabled()) << "steps of a scene that is gone";
 }
 
-TEST_F(TransformTools, EscAndTheRightButtonTakeADragBackAndAnInterruptionKeepsIt)
+TEST_F(TransformTools, EscAndTheRightButtonTakeADragBack)
 {
     const osg::Vec3f before = placeOf("Knot");
     drag("yaShape", 0.0, -10.0);
-    play({ key("Esc"), moveBy(0.0, -10.0), release() });
+    play({ key("Esc") });
+    moveBy(0.0, -10.0);
+    release();
     EXPECT_EQ(placeOf("Knot"), before);
     EXPECT_FALSE(action("undo")->isEnabled());
     EXPECT_FALSE(action("redo")->isEnabled());
 
-    SessionStep right = step(Type::Press, SessionTarget::Kind::Pointer, "");
-    right.button = Qt::RightButton;
-    SessionStep rightUp = release();
-    rightUp.button = Qt::RightButton;
     drag("yaShape", 0.0, -10.0);
-    play({ right, rightUp, release() });
+    send(QEvent::MouseButtonPress, Qt::RightButton, Qt::LeftButton | Qt::RightButton);
+    send(QEvent::MouseButtonRelease, Qt::RightButton, Qt::LeftButton);
+    release();
     EXPECT_EQ(placeOf("Knot"), before);
+}
 
+TEST_F(TransformTools, AnInterruptedDragKeepsWhatItDidAsAStep)
+{
+    const osg::Vec3f before = placeOf("Knot");
     drag("yaShape", 0.0, -10.0);
     stage().showGizmo(Gizmo::Rotate);
     EXPECT_GT(placeOf("Knot")[1], before[1] + 0.1F);
     EXPECT_TRUE(action("undo")->isEnabled());
-    play({ release() });
+    release();
 }
 
 TEST_F(TransformTools, ADragBackToItsStartLeavesNoStep)
 {
-    drag("xaShape", 8.0, 2.0);
-    play({ moveBy(-16.0, -4.0), moveBy(-16.0, -4.0), release() });
+    // The first drag of all makes the object a transform with its pivot in the middle.
+    drag("yaShape", 0.0, -10.0);
+    release();
+    auto* list = window.findChild<QUndoView*>(QStringLiteral("undoList"));
+    ASSERT_EQ(list->model()->rowCount(), 2);
 
-    EXPECT_FALSE(action("undo")->isEnabled());
+    const osg::Vec3f before = placeOf("Knot");
+    drag("xaShape", 8.0, 2.0);
+    moveBy(-16.0, -4.0);
+    moveBy(-16.0, -4.0);
+    release();
+
+    EXPECT_EQ(placeOf("Knot"), before);
+    EXPECT_EQ(list->model()->rowCount(), 2);
 }
 
 TEST_F(TransformTools, ValuesAreShownOverTheViewAndInTheStatusLine)
@@ -205,7 +229,7 @@ TEST_F(TransformTools, ValuesAreShownOverTheViewAndInTheStatusLine)
     QString error;
     EXPECT_NE(window.view().takePicture(error).copy(corner).convertToFormat(empty.format()), empty);
 
-    play({ release() });
+    release();
     EXPECT_EQ(values->text(), "");
     EXPECT_EQ(window.view().grabFramebuffer().copy(corner), empty);
 }
@@ -232,7 +256,7 @@ TEST_F(TransformTools, AllSelectedObjectsGoAlongInOneStep)
     const osg::Vec3f pawnPlace = placeOf("Pawn");
 
     drag("yaShape", 0.0, -10.0);
-    play({ release() });
+    release();
     const osg::Vec3f way = placeOf("Pawn") - pawnPlace;
     EXPECT_GT(way[1], 0.1F);
     EXPECT_LT((placeOf("Knot") - knot - way).length(), 1e-4F);
@@ -268,7 +292,7 @@ TEST_F(TransformTools, SettingsReachTheGizmo)
     const osg::Vec3f before = placeOf("Knot");
     play({ key("X"), key("W") });
     drag("yaShape", 0.0, -13.0);
-    play({ release() });
+    release();
     const double steps = static_cast<double>(placeOf("Knot")[1] - before[1]) / 0.25;
     EXPECT_GE(steps, 1.0);
     EXPECT_NEAR(steps, std::round(steps), 1e-4);

@@ -52,6 +52,10 @@ bool DragContext::start(InteractionManager* manager, const InteractionEvent& eve
     nbUndoService::the()->beginGroup();
     isDragging = ManipulatorInteractionContext::triggerEvent(manager, event);
     if (isDragging) {
+        // The manipulator measures from its first step on: one where the handle was grabbed keeps
+        // the way to the next position from being lost.
+        ManipulatorInteractionContext::triggerEvent(
+            manager, InteractionEvent(names::kProcess, event.getTool(), event.getHint()));
         grabbed = getPicker() != nullptr ? nbNodeUtils::getName(getPicker()->getHitNode()) : "";
         notify();
     } else {
