@@ -10,6 +10,7 @@
 #include <QtCore/QString>
 
 #include <algorithm>
+#include <cmath>
 #include <memory>
 
 namespace nbec::manipulator::detail {
@@ -24,6 +25,7 @@ constexpr float kBackGrey = 0.05F;
 constexpr float kAreaEdge = 30.0F;
 constexpr float kTextHeight = 26.0F;
 constexpr int kDecimals = 2;
+constexpr float kLeastShown = 0.005F;
 
 osg::Color3f grey(float value)
 {
@@ -88,7 +90,10 @@ QString describeValues(const char* title, const osg::Vec3f& values)
         if (i > 0) {
             text += QLatin1String(", ");
         }
-        text += QString::number(static_cast<double>(values[i]), 'f', kDecimals);
+        // What rounds to zero is shown without a sign.
+        const double value =
+            std::abs(values[i]) < kLeastShown ? 0.0 : static_cast<double>(values[i]);
+        text += QString::number(value, 'f', kDecimals);
     }
     text += QLatin1Char(')');
     return text;
