@@ -73,20 +73,29 @@ void DragScene::look(Camera from, bool orthographic)
 
 void DragScene::activate(Gizmo::ManipulatorMode mode)
 {
-    using Activation = void (Gizmo::*)();
-    static constexpr Activation kActivations[] = {
-        &Gizmo::activateUniversalManipulator,
-        &Gizmo::activateTranslateManipulator,
-        &Gizmo::activateScaleManipulator,
-        &Gizmo::activateRotateManipulator,
-        &Gizmo::activateRotatePivotManipulator,
-        &Gizmo::activateScalePivotManipulator,
-        &Gizmo::activateClippingManipulator,
-        &Gizmo::activateTranslateRotateManipulator,
-        &Gizmo::activateTranslateRotateYZManipulator,
-        &Gizmo::activateTranslateRotateScaleManipulator,
-    };
-    (gizmo.*kActivations[static_cast<std::size_t>(mode)])();
+    using Mode = Gizmo::ManipulatorMode;
+    switch (mode) {
+    case Mode::Universal:
+        return gizmo.activateUniversalManipulator();
+    case Mode::Translate:
+        return gizmo.activateTranslateManipulator();
+    case Mode::Scale:
+        return gizmo.activateScaleManipulator();
+    case Mode::Rotate:
+        return gizmo.activateRotateManipulator();
+    case Mode::RotatePivot:
+        return gizmo.activateRotatePivotManipulator();
+    case Mode::ScalePivot:
+        return gizmo.activateScalePivotManipulator();
+    case Mode::Clipping:
+        return gizmo.activateClippingManipulator();
+    case Mode::TranslateRotate:
+        return gizmo.activateTranslateRotateManipulator();
+    case Mode::TranslateRotateYZ:
+        return gizmo.activateTranslateRotateYZManipulator();
+    case Mode::TranslateRotateScale:
+        return gizmo.activateTranslateRotateScaleManipulator();
+    }
 }
 
 osg::Pnt2f DragScene::rayPixelOf(const osg::Pnt3f& world) const
