@@ -11,7 +11,6 @@
 #include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGUberCamera/UberCamera.h>
 
-#include <OpenSG/OSGBaseFunctions.h>
 #include <OpenSG/OSGSimpleGeometry.h>
 
 #include <benchmark/benchmark.h>
@@ -170,15 +169,3 @@ BENCHMARK(hoverOnHandle)->Name("gizmo/hover on a handle");
 BENCHMARK(hoverOffHandles)->Name("gizmo/hover off the handles");
 BENCHMARK(hoverBetweenHandles)->Name("gizmo/hover between the handles");
 BENCHMARK(updateUnchanged)->Name("gizmo/update, nothing changed");
-
-int main(int argc, char** argv)
-{
-    osg::osgInit(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
-        return 1;
-    }
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return osg::osgExit() ? 0 : 1;
-}

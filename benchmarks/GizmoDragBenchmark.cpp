@@ -14,7 +14,6 @@
 #include <nbOpenSGExt/Transform3D.h>
 #include <nbOpenSGUberCamera/UberCamera.h>
 
-#include <OpenSG/OSGBaseFunctions.h>
 #include <OpenSG/OSGSimpleGeometry.h>
 
 #include <benchmark/benchmark.h>
@@ -232,15 +231,3 @@ BENCHMARK_CAPTURE(plainLoop, scale, &osg::Transform3D::setScale, osg::Transform3
     ->Name("plain/many, scale")
     ->Arg(kManyNodes);
 BENCHMARK(placeMany)->Name("gizmos/1000 placed after a camera move");
-
-int main(int argc, char** argv)
-{
-    osg::osgInit(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
-        return 1;
-    }
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return osg::osgExit() ? 0 : 1;
-}

@@ -9,7 +9,6 @@
 #include <nbOpenSGUtils/nbGeoFactory.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
-#include <OpenSG/OSGBaseFunctions.h>
 #include <OpenSG/OSGComponentTransform.h>
 #include <OpenSG/OSGCoredNodePtr.h>
 #include <OpenSG/OSGGeometry.h>
@@ -482,16 +481,3 @@ BENCHMARK(buildTreeByEmbreeAlone)
     ->UseRealTime();
 
 }  // namespace
-
-int main(int argc, char** argv)
-{
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
-        return 2;
-    }
-    osg::osgInit(argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    nbScenegraph::clear();
-    osg::osgExit();
-    return 0;
-}

@@ -4,7 +4,6 @@
 #include <nbOpenSGExt/Transform3D.h>
 #include <nbTransform/nbTransformModel.h>
 
-#include <OpenSG/OSGBaseFunctions.h>
 #include <OpenSG/OSGGroup.h>
 #include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGRefPtr.h>
@@ -172,12 +171,3 @@ BENCHMARK(Scale)->Arg(1)->Arg(kManyNodes);
 BENCHMARK(WorldRotatePivot)->Arg(1)->Arg(kManyNodes);
 
 }  // namespace
-
-int main(int argc, char** argv)
-{
-    osg::osgInit(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    osg::osgExit();
-    return 0;
-}
