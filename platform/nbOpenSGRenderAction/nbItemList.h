@@ -36,6 +36,13 @@ struct RenderItem
     osg::UInt32 surfaceSpace = 0;  ///< into ItemList::getSurfaceSpace; 0: the item's own space
 };
 
+/// The space of the node that carries an item's material. Matrices are 4x4 for column vectors.
+struct SurfaceSpace
+{
+    osg::Matrix surfaceFromItem;
+    osg::Matrix worldFromSurface;
+};
+
 /// Clip planes in world space: what is seen has a x + b y + c z + d >= 0 for each of them.
 using ClipPlanes = std::vector<osg::Vec4f>;
 
@@ -74,10 +81,11 @@ public:
     /// The planes of a set of the last update.
     const ClipPlanes& getClipPlanes(osg::UInt32 clipSet) const { return clipPlanes[clipSet]; }
 
-    /// From an item's space to that of the node which carries its material, 4x4, column vectors.
-    const osg::Matrix& getSurfaceSpace(osg::UInt32 surfaceSpace) const
+    /// Where the node is that carries an item's material, if not the item itself does.
+    /// @param surfaceSpace  of the item, > 0
+    const SurfaceSpace& getSurfaceSpace(osg::UInt32 surfaceSpace) const
     {
-        return surfaceSpaces[surfaceSpace];
+        return surfaceSpaces[surfaceSpace - 1];
     }
 
     /// World bounds of the items that are neither handles nor auxiliary; empty without any.
@@ -141,7 +149,7 @@ private:
     std::vector<osg::UInt32> order;
     std::vector<std::vector<ClipSource>> clipSources { 1 };  ///< by set; the first stays empty
     std::vector<ClipPlanes> clipPlanes { 1 };
-    std::vector<osg::Matrix> surfaceSpaces { 1 };  ///< the first stays the identity
+    std::vector<SurfaceSpace> surfaceSpaces;
     std::unordered_map<StateKey, osg::UInt32, StateKeyHash> stateIndices;
     std::unordered_map<osg::UInt32, LocalBounds> boundsById;
     osg::BoxVolume sceneBounds;
