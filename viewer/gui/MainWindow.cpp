@@ -3,7 +3,8 @@
 
 #include "viewer/core/ModelReader.h"
 #include "viewer/gui/MessageBar.h"
-#include "viewer/gui/Panel.h"
+#include "viewer/gui/ObjectPanel.h"
+#include "viewer/gui/ScenePanel.h"
 #include "viewer/gui/SessionPlayer.h"
 #include "viewer/gui/SessionRecorder.h"
 #include "viewer/gui/StatusLine.h"
@@ -157,7 +158,12 @@ QDockWidget* MainWindow::addDock(QWidget* content, const QString& title, const Q
 }
 
 /// Every panel besides the list of steps; hidden until a person asks for it.
-void MainWindow::createPanels() { }
+void MainWindow::createPanels()
+{
+    Stage& stage = viewWidget->stage();
+    addPanel(new ScenePanel(stage), tr("Objects"), QStringLiteral("sceneDock"));
+    addPanel(new ObjectPanel(stage), tr("Properties"), QStringLiteral("objectDock"));
+}
 
 void MainWindow::addPanel(Panel* panel, const QString& title, const QString& name)
 {
