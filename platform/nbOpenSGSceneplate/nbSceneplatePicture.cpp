@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <cstring>
 
 namespace {
 
@@ -24,26 +23,6 @@ int alphaComponent(osg::UInt32 format)
     }
 }
 
-osg::Real32 componentAt(const osg::UInt8* bytes, osg::Int32 type, int component)
-{
-    constexpr float kByte = 255.f;
-    constexpr float kShort = 65535.f;
-    if (type == osg::Image::OSG_UINT8_IMAGEDATA) {
-        return bytes[component] / kByte;
-    }
-    if (type == osg::Image::OSG_UINT16_IMAGEDATA) {
-        osg::UInt16 value = 0;
-        std::memcpy(&value, bytes + component * sizeof(value), sizeof(value));
-        return value / kShort;
-    }
-    if (type == osg::Image::OSG_FLOAT32_IMAGEDATA) {
-        float value = 0.f;
-        std::memcpy(&value, bytes + component * sizeof(value), sizeof(value));
-        return value;
-    }
-    return 1.f;
-}
-
 osg::Int32 pixelAt(float part, osg::Int32 count)
 {
     const auto pixel = static_cast<osg::Int32>(part * static_cast<float>(count));
@@ -52,20 +31,32 @@ osg::Int32 pixelAt(float part, osg::Int32 count)
 
 }  // namespace
 
+osg::ImagePtr nbSceneplatePicture::imageOf(const osg::SceneplatePtr& plate)
+{
+    const osg::ImagePtr image = plate->getImage();
+    const bool isShowable = image != osg::NullFC && image->isValid() &&
+        image->getData() != nullptr && image->getDataType() == osg::Image::OSG_UINT8_IMAGEDATA;
+    return isShowable ? image : osg::ImagePtr();
+}
+
 osg::Real32 nbSceneplatePicture::alphaAt(const osg::SceneplatePtr& plate,
                                          const osg::Pnt2f& position)
 {
-    const osg::ImagePtr image = plate->getImage();
+    constexpr float kOpaque = 255.f;
+    const osg::ImagePtr image = imageOf(plate);
     if (image == osg::NullFC) {
         return plate->getColor().alpha();
     }
     const int component = alphaComponent(image->getPixelFormat());
-    const osg::UInt8* const data = image->isValid() ? image->getData() : nullptr;
-    if (component < 0 || data == nullptr) {
+    if (component < 0) {
         return 1.f;
     }
     const osg::Int32 x = pixelAt(position.x(), image->getWidth());
     const osg::Int32 y = pixelAt(position.y(), image->getHeight());
-    const std::size_t pixel = static_cast<std::size_t>(y) * image->getWidth() + x;
-    return componentAt(data + pixel * image->getBpp(), image->getDataType(), component);
+    const std::size_t pixel =
+        static_cast<std::size_t>(y) * static_cast<std::size_t>(image->getWidth()) +
+        static_cast<std::size_t>(x);
+    return image->getData()[pixel * static_cast<std::size_t>(image->getBpp()) +
+                            static_cast<std::size_t>(component)] /
+        kOpaque;
 }
