@@ -34,7 +34,7 @@ constexpr int kSolidSortKey = 64016;
 constexpr int kLineSortKey = 64015;
 constexpr float kFrameLayer = 0.0F;
 constexpr float kGuideLayer = 1.0F;
-constexpr float kHandleLayer = 3.0F;
+constexpr float kHandleLayer = 2.0F;
 
 constexpr double kDegree = 3.14159265358979323846 / 180.0;
 constexpr float kSphereRadius = 0.125F;  ///< of the shape

@@ -8,8 +8,8 @@ class nbOSGWidget;
 namespace nbec::manipulator::detail {
 
 /// Part of the plane's distance by which a layer lies nearer to the eye. Rounding of coordinates is
-/// far less; what lies r pixels off the view's centre is displaced by 2e-5 r pixels.
-constexpr double kScreenLayer = 2e-5;
+/// far less; what lies r pixels off the view's centre is displaced by 1e-5 r pixels.
+constexpr double kScreenLayer = 1e-5;
 
 /// World from the pixels of a view, for handles that lie flat on the screen and are drawn and hit
 /// as any others: x to the right and y down in device pixels from the view's top left corner, z in
