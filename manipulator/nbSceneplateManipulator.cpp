@@ -7,7 +7,6 @@
 #include "manipulator/detail/HandleNodes.h"
 #include "manipulator/detail/HandlePick.h"
 #include "manipulator/detail/InstanceRegistry.h"
-#include "manipulator/detail/MessageSending.h"
 #include "manipulator/detail/NodeVisibility.h"
 #include "manipulator/detail/ScreenScale.h"
 #include "manipulator/detail/ValueText.h"
@@ -19,13 +18,10 @@
 #include <nbOpenSGSceneplate/nbSceneplateList.h>
 #include <nbUtils/nbMessage.h>
 
-#include <OpenSG/OSGSimpleAttachments.h>
-
 #include <QtCore/QString>
 #include <QtGui/QVector2D>
 
 #include <algorithm>
-#include <string_view>
 
 #include <EditStamp.h>
 
@@ -143,7 +139,7 @@ bool nbSceneplateManipulator::startManipulator(ManipulatorInteractionContext* ct
     started->pressedPx = widget->getMousePosition();
     drag = std::move(started);
     showElements(activeMode);
-    detail::pauseMaterialPreview();
+    drag->preview.begin();
     return true;
 }
 
@@ -262,15 +258,8 @@ nbSceneplateManipulator::detectMode(ManipulatorInteractionContext* ctx)
         pixelRatio = ctx->getPicker()->getPixelRatio();
     }
     updateManipulator();
-    const osg::NodePtr hit = detail::pickHandle(ctx);
-    const char* const name = hit != osg::NullFC ? osg::getName(hit) : nullptr;
-    if (name == nullptr) {
-        return ActiveMode::None;
-    }
-    const auto row = std::find_if(kHandles.begin(), kHandles.end(), [name](const HandleRow& known) {
-        return std::string_view(name) == known.name;
-    });
-    return row != kHandles.end() ? row->mode : ActiveMode::None;
+    const HandleRow* const row = detail::findHandleRow(kHandles, detail::pickHandle(ctx));
+    return row != nullptr ? row->mode : ActiveMode::None;
 }
 
 // == Dragging
@@ -323,7 +312,6 @@ void nbSceneplateManipulator::endDrag()
     highlightMode(ActiveMode::None);
     showElements(ActiveMode::None);
     setDescription();
-    detail::resumeMaterialPreview();
 }
 
 void nbSceneplateManipulator::setDescription() const

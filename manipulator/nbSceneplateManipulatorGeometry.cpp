@@ -2,6 +2,7 @@
 #include "manipulator/detail/EditBracket.h"
 #include "manipulator/detail/HandleMaterials.h"
 #include "manipulator/detail/HandleNodes.h"
+#include "manipulator/detail/HandleShapes.h"
 #include "manipulator/detail/NodeVisibility.h"
 #include "manipulator/detail/ScreenPlane.h"
 #include "manipulator/detail/ScreenScale.h"
@@ -46,17 +47,18 @@ struct MaterialRow
 {
     float red, green, blue;
     bool isLine;
+    float transparency;
 };
 
 constexpr std::array<MaterialRow, static_cast<std::size_t>(Material::Count)> kMaterials = {
-    { { 1.0F, 1.0F, 0.0F, false },
-      { 0.0F, 0.0F, 1.0F, false },
-      { 1.0F, 0.5F, 0.0F, false },
-      { 1.0F, 1.0F, 0.0F, true },
-      { 0.0F, 0.0F, 1.0F, true },
-      { 1.0F, 0.5F, 0.0F, true },
-      { 0.6F, 0.35F, 0.65F, true },
-      { 0.0F, 0.0F, 0.0F, false } }
+    { { 1.0F, 1.0F, 0.0F, false, 0.0F },
+      { 0.0F, 0.0F, 1.0F, false, 0.0F },
+      { 1.0F, 0.5F, 0.0F, false, 0.0F },
+      { 1.0F, 1.0F, 0.0F, true, 0.0F },
+      { 0.0F, 0.0F, 1.0F, true, 0.0F },
+      { 1.0F, 0.5F, 0.0F, true, 0.0F },
+      { 0.6F, 0.35F, 0.65F, true, 0.0F },
+      { 0.0F, 0.0F, 0.0F, false, 1.0F } }
 };
 
 /// Frame of a rectangle or handle in the plane of pixels: x and y along its own axes (y up on the
@@ -162,11 +164,8 @@ void nbSceneplateManipulator::createMaterials()
         const MaterialRow& row = kMaterials[i];
         materials[i] = detail::makeHandleMaterial(osg::Color3f(row.red, row.green, row.blue),
                                                   row.isLine ? kLineSortKey : kSolidSortKey,
-                                                  row.isLine ? &chunks : nullptr);
+                                                  row.isLine ? &chunks : nullptr, row.transparency);
     }
-    const osg::SimpleMaterialPtr clear = materials[static_cast<std::size_t>(Material::Clear)].get();
-    const EditBracket edit(clear, osg::SimpleMaterial::TransparencyFieldMask);
-    clear->setTransparency(1.0F);
 }
 
 osg::NodePtr nbSceneplateManipulator::createManipulatorGeo()

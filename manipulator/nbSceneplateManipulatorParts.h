@@ -2,6 +2,7 @@
 #pragma once
 
 #include "manipulator/detail/PlateFrame.h"
+#include "manipulator/detail/PreviewPause.h"
 #include "manipulator/nbSceneplateManipulator.h"
 
 /// Materials of handles and guides, in the order of the manipulator's array.
@@ -40,6 +41,7 @@ struct nbSceneplateManipulator::HandleRow
 /// What a drag knows of its start, and how far it has come.
 struct nbSceneplateManipulator::Drag
 {
+    nbec::manipulator::detail::PreviewPause preview;  ///< ends with the drag
     nbec::manipulator::detail::PlateFrame start;
     osg::Pnt2f pressedPx;
     nbec::manipulator::detail::PlateArm arm;
