@@ -51,10 +51,15 @@ std::vector<nbSceneplateList::Entry> nbSceneplateList::collectShown(const osg::N
                       entries.begin(), entries.end(),
                       [](const Entry& entry) { return !nbSceneplateLayout::isShown(entry.plate); }),
                   entries.end());
+    sort(entries);
+    return entries;
+}
+
+void nbSceneplateList::sort(std::vector<Entry>& entries)
+{
     const auto rank = [](const Entry& entry) {
         return std::make_tuple(entry.plate->getFront(), entry.plate->getOrder());
     };
     std::stable_sort(entries.begin(), entries.end(),
                      [&rank](const Entry& a, const Entry& b) { return rank(a) < rank(b); });
-    return entries;
 }

@@ -29,6 +29,10 @@ public:
     /// next to nothing beside a large one.
     static std::vector<Entry> collect(const osg::NodePtr& root);
 
+    /// Brings plates into the order of drawing: behind the scene before in front of it, then by
+    /// Order, then as they were.
+    static void sort(std::vector<Entry>& entries);
+
     /// Those that are seen (see nbSceneplateLayout::isShown, nodes that are not active left out
     /// with all below), in the order of drawing: behind the scene before in front of it, then by
     /// Order, then as in the tree.

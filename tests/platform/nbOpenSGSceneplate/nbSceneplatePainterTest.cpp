@@ -2,8 +2,10 @@
 #include "tests/platform/support/Plates.h"
 #include "tests/platform/support/RenderTest.h"
 
+#include <nbInteraction/Picker.h>
+#include <nbKernel/nbOSGWidget.h>
+#include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGRenderAction/nbImageConvert.h>
-#include <nbOpenSGSceneplate/nbSceneplateLayout.h>
 
 using namespace rendertest;
 using platetest::makePlate;
@@ -245,4 +247,47 @@ TEST_F(nbSceneplatePainterTest, MarkersLieAroundThePlateAndHideNothingOfIt)
     EXPECT_EQ(picture.pixelColor(60, 76), kGreen);
     EXPECT_EQ(count(picture, kBlue), 0) << "hidden by the scene, its outline is not";
     EXPECT_LT(count(picture, kGreen), kSize * kSize - 1600 - 500);
+}
+
+TEST_F(nbSceneplatePainterTest, ThePickerHitsExactlyWhatIsDrawn)
+{
+    nbOSGWidget widget;
+    widget.resize(kSize, kSize);
+    nbec::interaction::Picker picker;
+    picker.setFilter(nbec::interaction::Picker::SceneplateFilter);
+    QImage ring(64, 64, QImage::Format_ARGB32);
+    for (int y = 0; y < 64; ++y) {
+        for (int x = 0; x < 64; ++x) {
+            const bool isSolid = std::abs(std::hypot(x - 31.5, y - 31.5) - 24.0) < 7.0;
+            ring.setPixelColor(x, y, isSolid ? Qt::white : Qt::transparent);
+        }
+    }
+    const auto add = [](const PlatePx& place, const QImage& picture) {
+        nbScenegraph::getSceneplateRoot()->addChild(
+            makePlate(place, kSize, kRed4, [&](const auto& plate) {
+                if (!picture.isNull()) {
+                    setImage(plate, picture);
+                }
+            }));
+    };
+    add({ 60.f, 60.f, 90.f, 37.f, 17.f }, QImage());
+    add({ 140.3f, 70.7f, 45.f, 45.f, -30.f }, QImage());
+    add({ 60.5f, 150.f, 64.f, 64.f }, ring);
+    add({ 150.f, 150.f, 61.f, 21.f, 270.f }, QImage());
+    widget.getUberViewport()->setBackgroundColor(osg::Color4f(0.f, 0.f, 0.f, 1.f));
+    view->getAction().setSamples(1);
+
+    const QImage picture = view->render(widget.getViewport(), kSize, kSize);
+
+    view->getAction().setSamples(8);
+    int differences = 0;
+    for (int y = 0; y < kSize; ++y) {
+        for (int x = 0; x < kSize; ++x) {
+            const bool isHit = picker.pickAt(osg::Pnt2f(static_cast<float>(x),
+                                                        static_cast<float>(y))) != osg::NullFC;
+            differences += isHit == (picture.pixelColor(x, y) != QColor(kBlack)) ? 0 : 1;
+        }
+    }
+    EXPECT_EQ(differences, 0);
+    nbScenegraph::clear();
 }
