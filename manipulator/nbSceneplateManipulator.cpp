@@ -52,6 +52,12 @@ PlateCorner cornerOf(Mode mode)
     }
 }
 
+/// The plate of a node; null if the node no longer exists or has another core.
+osg::SceneplatePtr resolvePlate(osg::UInt32 nodeId)
+{
+    return nbSceneplateList::plateOf(detail::resolveContainer<osg::NodePtr>(nodeId));
+}
+
 }  // namespace
 
 float nbSceneplateManipulator::m_ManipulatorSize = detail::kDefaultManipulatorSize;
@@ -84,9 +90,7 @@ nbSceneplateManipulator::~nbSceneplateManipulator()
 void nbSceneplateManipulator::activate(ManipulatorInteractionContext* ctx)
 {
     AbstractManipulator::activate(ctx);
-    if (ctx != nullptr && ctx->getPicker() != nullptr) {
-        pixelRatio = ctx->getPicker()->getPixelRatio();
-    }
+    followPixelRatio(ctx);
     updateManipulator();
 }
 
@@ -113,7 +117,9 @@ osg::NodePtr nbSceneplateManipulator::getCollider()
 
 void nbSceneplateManipulator::update(bool force)
 {
-    if (isActive() && (force || osg::glue::editStamp() != comparedStamp)) {
+    if (isActive() &&
+        (force || osg::glue::editStamp() != comparedStamp ||
+         nbOSGWidget::getMGLW(-1) != comparedWidget || unitPx() != comparedUnitPx)) {
         updateManipulator();
     }
 }
@@ -168,7 +174,7 @@ bool nbSceneplateManipulator::stopManipulator(ManipulatorInteractionContext* /*c
     }
     endDrag();
     updateManipulator();
-    return !getPlates().empty();
+    return hasPlates();
 }
 
 bool nbSceneplateManipulator::hoverManipulator(ManipulatorInteractionContext* ctx,
@@ -233,31 +239,46 @@ std::vector<osg::NodePtr> nbSceneplateManipulator::getNodes() const
 std::vector<osg::SceneplatePtr> nbSceneplateManipulator::getPlates() const
 {
     std::vector<osg::SceneplatePtr> plates;
-    for (const osg::NodePtr& node : getNodes()) {
-        plates.push_back(nbSceneplateList::plateOf(node));
+    for (const osg::UInt32 id : nodeIds) {
+        const osg::SceneplatePtr plate = resolvePlate(id);
+        if (plate != osg::NullFC) {
+            plates.push_back(plate);
+        }
     }
     return plates;
+}
+
+bool nbSceneplateManipulator::hasPlates() const
+{
+    return std::any_of(nodeIds.begin(), nodeIds.end(),
+                       [](osg::UInt32 id) { return resolvePlate(id) != osg::NullFC; });
 }
 
 void nbSceneplateManipulator::updateManipulator()
 {
     const nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1);
-    const bool isShown =
-        isActive() && widget != nullptr && !getNodes().empty() && placeHandles(*widget);
+    const bool isShown = isActive() && widget != nullptr && hasPlates() && placeHandles(*widget);
     detail::showNode(handleTree.get(), isShown);
     if (isShown) {
         placeGuides(*widget);
     }
     comparedStamp = osg::glue::editStamp();
+    comparedWidget = widget;
+    comparedUnitPx = unitPx();
+}
+
+void nbSceneplateManipulator::followPixelRatio(const ManipulatorInteractionContext* ctx)
+{
+    if (ctx != nullptr && ctx->getPicker() != nullptr) {
+        pixelRatio = ctx->getPicker()->getPixelRatio();
+    }
 }
 
 nbSceneplateManipulator::ActiveMode
 nbSceneplateManipulator::detectMode(ManipulatorInteractionContext* ctx)
 {
-    if (ctx != nullptr && ctx->getPicker() != nullptr) {
-        pixelRatio = ctx->getPicker()->getPixelRatio();
-    }
-    updateManipulator();
+    followPixelRatio(ctx);
+    update(false);
     const HandleRow* const row = detail::findHandleRow(kHandles, detail::pickHandle(ctx));
     return row != nullptr ? row->mode : ActiveMode::None;
 }
@@ -267,8 +288,7 @@ nbSceneplateManipulator::detectMode(ManipulatorInteractionContext* ctx)
 bool nbSceneplateManipulator::canGoOn(const nbOSGWidget* widget) const
 {
     return drag != nullptr && !drag->isBroken && widget != nullptr &&
-        widget->getWidth() == drag->widthPx && widget->getHeight() == drag->heightPx &&
-        !getNodes().empty();
+        widget->getWidth() == drag->widthPx && widget->getHeight() == drag->heightPx && hasPlates();
 }
 
 void nbSceneplateManipulator::dragTo(const osg::Pnt2f& pointerPx)

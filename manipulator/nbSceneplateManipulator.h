@@ -88,8 +88,8 @@ public:
     osg::NodePtr getCollider() override;
 
     /// Places the handles for the plates, the camera and the view's size as they are now; the host
-    /// calls it before a picture. Nothing while inactive, or if nothing was edited since the last
-    /// time.
+    /// calls it before a picture. Nothing while inactive, or if nothing has changed since the last
+    /// time in the same view.
     /// @param force  places them in any case
     void update(bool force) override;
 
@@ -168,10 +168,13 @@ private:
     void showElements(ActiveMode grabbed);
 
     std::vector<osg::SceneplatePtr> getPlates() const;
+    /// Whether getPlates() has any.
+    bool hasPlates() const;
     ActiveMode detectMode(ManipulatorInteractionContext* ctx);
     void updateManipulator();
     bool placeHandles(const nbOSGWidget& widget);
     void placeGuides(const nbOSGWidget& widget);
+    void followPixelRatio(const ManipulatorInteractionContext* ctx);
     float unitPx() const;
     bool canGoOn(const nbOSGWidget* widget) const;
     void dragTo(const osg::Pnt2f& pointerPx);
@@ -201,4 +204,6 @@ private:
     std::array<HandleNodes, kGuideCount> guides;  ///< the vertical and the horizontal one
     std::array<osg::SimpleMaterialRefPtr, kMaterialCount> materials;
     osg::UInt64 comparedStamp = 0;  ///< edits seen by the last update, see EditStamp.h
+    const nbOSGWidget* comparedWidget = nullptr;  ///< of the last update, for comparison only
+    float comparedUnitPx = 0.0F;
 };

@@ -396,7 +396,7 @@ TEST_F(SceneplateManipulatorTest, HandleSizeFollowsTheSettingAndThePixelRatio)
     nbSceneplateManipulator::setManipulatorSize(64.0F);
     nbSceneplateManipulator::setManipulatorSize(-1.0F);
     EXPECT_EQ(nbSceneplateManipulator::getManipulatorSize(), 64.0F);
-    nbSceneplateManipulator::updateAllManipulators();
+    scene.manipulator.update(false);
     isHandleAt("rotateShape", 400, 250 - 64);
     nbSceneplateManipulator::setManipulatorSize(32.0F);
 
