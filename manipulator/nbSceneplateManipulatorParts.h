@@ -5,17 +5,14 @@
 #include "manipulator/detail/PreviewPause.h"
 #include "manipulator/nbSceneplateManipulator.h"
 
-/// Materials of handles and guides, in the order of the manipulator's array.
-enum class SceneplateMaterial : std::size_t
+/// Colours of handles and guides, in the order of the manipulator's material arrays.
+enum class SceneplateColor : std::size_t
 {
-    YellowSolid,
-    BlueSolid,
-    OrangeSolid,
-    YellowLine,
-    BlueLine,
-    OrangeLine,
-    PurpleLine,
-    Clear,  ///< not seen, but hit
+    Yellow,
+    Blue,
+    Orange,
+    Purple,
+    Shadow,  ///< around the others, so that they are seen on every plate
     Count
 };
 
@@ -34,8 +31,7 @@ struct nbSceneplateManipulator::HandleRow
     const char* name;
     ActiveMode mode;
     SceneplateHandleKind kind;
-    std::array<SceneplateMaterial, kPartCount> idle;  ///< of each part
-    std::array<SceneplateMaterial, kPartCount> highlight;
+    SceneplateColor idle;
 };
 
 /// What a drag knows of its start, and how far it has come.
