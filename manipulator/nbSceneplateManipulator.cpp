@@ -128,7 +128,7 @@ bool nbSceneplateManipulator::startManipulator(ManipulatorInteractionContext* ct
                                                const std::string& /*hint*/)
 {
     if (drag != nullptr) {
-        return false;  // its stop went elsewhere
+        endDrag();  // whose stop was lost
     }
     activeMode = detectMode(ctx);
     highlightMode(activeMode);

@@ -97,10 +97,10 @@ static_assert(isInOrder(), "rows stand in the order of the enumerators");
 /// The sides of a rectangle in the xy plane as lines.
 osg::NodePtr buildOutline(float halfX, float halfY)
 {
-    const std::array<osg::Pnt3f, 4> corners = {
-        osg::Pnt3f(-halfX, -halfY, 0.0F), osg::Pnt3f(halfX, -halfY, 0.0F),
-        osg::Pnt3f(halfX, halfY, 0.0F), osg::Pnt3f(-halfX, halfY, 0.0F)
-    };
+    const std::array<osg::Pnt3f, 4> corners = { osg::Pnt3f(-halfX, -halfY, 0.0F),
+                                                osg::Pnt3f(halfX, -halfY, 0.0F),
+                                                osg::Pnt3f(halfX, halfY, 0.0F),
+                                                osg::Pnt3f(-halfX, halfY, 0.0F) };
     const osg::GeoPTypesPtr types = osg::GeoPTypesUI8::create();
     const osg::GeoPLengthsPtr lengths = osg::GeoPLengthsUI32::create();
     const osg::GeoPositionsPtr positions = osg::GeoPositions3f::create();

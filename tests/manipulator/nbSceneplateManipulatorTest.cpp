@@ -365,6 +365,19 @@ TEST_F(SceneplateManipulatorTest, DeactivationLetsGoAndHides)
     EXPECT_FALSE(scene.isHandleShown("grid"));
 }
 
+TEST_F(SceneplateManipulatorTest, ALostStopIsMadeGoodByTheNextStart)
+{
+    select({ 400, 300, 200, 100 });
+    scene.drag(osg::Pnt2f(400, 300), osg::Vec2f(10, 0), false);
+    sent.clear();
+    EXPECT_TRUE(scene.manipulator.startManipulator(&scene.context, "select"));
+    EXPECT_THAT(
+        sent, ElementsAre("setMatRenderEnabled on", "updateMatRender", "setMatRenderEnabled off"));
+    scene.widget.setMousePosition(osg::Pnt2f(415, 300));
+    EXPECT_TRUE(scene.manipulator.processManipulator(&scene.context, "select"));
+    EXPECT_FLOAT_EQ(last.offset.x(), 5.0F / 600) << "from the new start";
+}
+
 TEST_F(SceneplateManipulatorTest, AReceiverMayTakeItOutOfUse)
 {
     select({ 400, 300, 200, 100 });
