@@ -26,6 +26,7 @@ namespace {
 
 using Gizmo = PlanarTextureManipulator;
 using Names = std::vector<std::string>;
+using osg::Pnt2f;
 using osg::Pnt3f;
 using osg::Vec2f;
 using osg::Vec3f;
@@ -369,6 +370,17 @@ TEST(PlanarTextureManipulator, EndsAPauseThatIsOwed)
     EXPECT_EQ(planar.takeNames(), Names());
 }
 
+TEST(PlanarTextureManipulator, AStopThatIsLostLeavesNothingBehind)
+{
+    PlanarScene planar;
+    ASSERT_TRUE(planar.grab("rotateShape", Vec3f(0.6F, -0.8F, 0)));
+    planar.log.clear();
+    EXPECT_FALSE(planar.scene.send("start", Pnt2f(20, 20)));
+    EXPECT_EQ(planar.takeNames(), kResume);
+    EXPECT_EQ(shownHandles(planar), handlesOf("rotate translate scale"));
+    EXPECT_FALSE(planar.scene.send("hover", Pnt2f(20, 20)));
+}
+
 TEST(PlanarTextureManipulator, PreviewOfTheHostIsNotLeftPaused)
 {
     PlanarScene planar(PlanarScene::Receiver::Editor);
@@ -390,7 +402,7 @@ TEST(PlanarTextureManipulator, AsksForScaleValuesOnlyIfTheyAreUsed)
     EXPECT_EQ(planar.takeNames(), kPause);
     planar.gizmo.setUseTextureScale(true);
     planar.scaleReply = [](nbMessage& reply) {
-        reply.set("initialTextureScale", Vec3f(1, 1, 1), true);
+        reply.set("initialTextureScale", Vec3f(1.5F, 1, 1), true);
         reply.set("projectionSize", Vec2f(4, 3), true);
     };
     planar.gizmo.prepareManipulator(planar.scene.node);
@@ -403,11 +415,14 @@ TEST(PlanarTextureManipulator, AsksForScaleValuesOnlyIfTheyAreUsed)
         planar.scaleReply = [replies](nbMessage& reply) {
             if (replies) {
                 reply.set("projectionSize", Vec3f(8, 8, 8), true);
+                reply.set("initialTextureScale", Vec3f(2, 2, 2), true);
             }
         };
         testing::internal::CaptureStderr();
         planar.gizmo.prepareManipulator(planar.scene.node);
         EXPECT_EQ(testing::internal::GetCapturedStderr().empty(), !replies);
+        EXPECT_EQ(planar.gizmo.getProjectionSize(), Vec2f(4, 3));
+        EXPECT_EQ(planar.gizmo.getInitialTextureScale(), Vec3f(2, 2, 2));
         planar.gizmo.updateManipulator();
         expectNear(planar.onHandle("scaleXYURShape", Vec3f()), Pnt3f(2, 1.5F, 0), "corner");
     }
