@@ -248,9 +248,8 @@ void PlanarTextureManipulator::readProjection(const osg::NodePtr& node)
 {
     ProjectionFrame& frame = state->frame;
     frame.worldFromObject = node->getToWorld();
-    frame.pivot = objectPivot(node, isScaleMode(state->activeMode));
     if (state->useObjectTranslation) {
-        frame.translation = frame.pivot;
+        frame.translation = objectPivot(node, isScaleMode(state->activeMode));
     }
     if (state->useObjectScale) {
         frame.scale = nbNodeUtils::getTransformNodeScale(node);

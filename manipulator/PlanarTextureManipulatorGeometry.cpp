@@ -311,21 +311,21 @@ void PlanarTextureManipulator::placeHandles()
         return;
     }
     const osg::Vec3f extents = state->frame.halfExtents();
+    std::array<osg::Vec3f, 3> ends;  // of the extents, in the unit frame
+    for (osg::UInt32 end = 0; end < 3; ++end) {
+        const osg::Vec3f world = detail::column(worldFromAxes, end) * extents[end];
+        for (osg::UInt32 axis = 0; axis < 3; ++axis) {
+            ends[end][axis] = world.dot(detail::column(axes, axis)) / scales[axis];
+        }
+    }
     for (std::size_t i = 0; i < kPlanarHandles.size(); ++i) {
         const std::array<int, 3>& side = kPlanarHandles[i].side;
-        if (side == kNoSide) {
-            continue;
+        if (side != kNoSide) {
+            detail::moveNode(state->handles[i].top,
+                             ends[0] * static_cast<float>(side[0]) +
+                                 ends[1] * static_cast<float>(side[1]) +
+                                 ends[2] * static_cast<float>(side[2]));
         }
-        osg::Vec3f offset;
-        for (osg::UInt32 axis = 0; axis < 3; ++axis) {
-            offset[axis] = extents[axis] * static_cast<float>(side[axis]);
-        }
-        worldFromAxes.multMatrixVec(offset);
-        osg::Vec3f place;
-        for (osg::UInt32 axis = 0; axis < 3; ++axis) {
-            place[axis] = offset.dot(detail::column(axes, axis)) / scales[axis];
-        }
-        detail::moveNode(state->handles[i].top, place);
     }
 }
 

@@ -84,7 +84,6 @@ struct ProjectionFrame
     osg::Quaternion rotation;  ///< rotation * rotation orientation, unit length
     osg::Vec3f scale { 1.0F, 1.0F, 1.0F };
     osg::Vec3f projectionScale { 1.0F, 1.0F, 1.0F };  ///< of the projection even if another is used
-    osg::Vec3f pivot;  ///< rotate or scale pivot of the object, object space
     osg::Vec3f extentPerScale { 1.0F, 1.0F, 1.0F };  ///< half of what the projection covers
 
     /// World from the handle frame in object units, scale left out.
