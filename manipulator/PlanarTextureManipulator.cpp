@@ -20,6 +20,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 
 #include <EditStamp.h>
 
@@ -29,6 +30,7 @@ namespace {
 
 /// A quaternion shorter than this is no rotation.
 constexpr float kShortestQuaternion = 1e-6F;
+constexpr std::size_t kMatrixElements = 16;
 
 osg::Quaternion normalisedRotation(osg::Quaternion rotation)
 {
@@ -41,7 +43,7 @@ osg::Quaternion normalisedRotation(osg::Quaternion rotation)
 
 bool isFinite(const osg::Matrix& matrix)
 {
-    return std::all_of(matrix.getValues(), matrix.getValues() + 16,
+    return std::all_of(matrix.getValues(), matrix.getValues() + kMatrixElements,
                        [](float value) { return std::isfinite(value); });
 }
 

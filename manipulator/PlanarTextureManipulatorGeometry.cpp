@@ -275,10 +275,15 @@ void PlanarTextureManipulator::hideAllElements()
 
 // == Placement
 
+bool hasLength(float length)
+{
+    constexpr float kLeastLength = 1e-12F;
+    return std::abs(length) >= kLeastLength;
+}
+
 float usableLength(float length)
 {
-    constexpr float kShortest = 1e-6F;
-    return std::abs(length) < kShortest ? 1.0F : length;
+    return hasLength(length) ? length : 1.0F;
 }
 
 osg::Matrix ProjectionFrame::worldFromAxes() const
