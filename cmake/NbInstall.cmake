@@ -17,6 +17,7 @@ set_target_properties(nbManipulator nbplatform PROPERTIES
 # == Headers: what lies in a folder "detail" is not for users, nor are the parts of one class that only its own sources include
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/manipulator DESTINATION ${NBM_HEADERS} COMPONENT development
         FILES_MATCHING PATTERN "*.h" PATTERN "detail" EXCLUDE
+        PATTERN "PlanarTextureManipulatorState.h" EXCLUDE
         PATTERN "UniversalTransformManipulator2Drag.h" EXCLUDE
         PATTERN "UniversalTransformManipulator2Handles.h" EXCLUDE
         PATTERN "nbSceneplateManipulatorParts.h" EXCLUDE)
