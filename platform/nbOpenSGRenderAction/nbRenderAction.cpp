@@ -3,6 +3,7 @@
 
 #include <nbOpenSGRenderAction/nbFrameTargets.h>
 #include <nbOpenSGRenderAction/nbItemPainter.h>
+#include <nbOpenSGRenderAction/nbSceneplatePainter.h>
 #include <nbOpenSGUberCamera/UberCamera.h>
 #include <nbOpenSGUberCamera/nbUberCameraUtils.h>
 #include <nbOpenSGUberViewport/UberViewport.h>
@@ -101,6 +102,14 @@ struct DepthSpan
     double farthest = 0.0;
 };
 
+/// Which items of the list to draw.
+enum class Items
+{
+    All,
+    Scene,
+    Handles
+};
+
 /// What encloses the handles in view; nothing without any. In a perspective the nearest depth is
 /// positive.
 DepthSpan handleSpan(const nbrender::ItemList& list, const FrameView& view)
@@ -142,6 +151,7 @@ struct nbRenderAction::Impl
     void forgetContext();
     void drawBackground(const Background& background);
     void drawScene(const osg::ViewportPtr& viewport, int widthPx, int heightPx);
+    void drawItems(const FrameView& view, const std::vector<osg::UInt32>& order, Items which);
     void present(int widthPx, int heightPx, osg::UInt32 targetFramebuffer);
     void collect();
     bool fail(const std::string& reason);
@@ -160,6 +170,7 @@ struct nbRenderAction::Impl
     ShaderPrograms programs;
     nbrender::GpuMeshes meshes;
     nbrender::GpuTextures textures;
+    nbrender::SceneplatePainter plates;
     nbrender::ItemList list;
     Statistics statistics;
     unsigned int framesSinceCollection = 0;
@@ -201,6 +212,7 @@ void nbRenderAction::Impl::forgetContext()
     programs.forget();
     meshes.forget();
     textures.forget();
+    plates.forget();
     emptyArray = 0;
     context.clear();
     gl = nullptr;
@@ -254,17 +266,34 @@ void nbRenderAction::Impl::drawScene(const osg::ViewportPtr& viewport, int width
     const DepthSpan span = handleSpan(list, view);
     view.handleClipFromView = depth.project(usual, span.nearest, span.farthest);
 
+    const nbrender::PlateFrame plateFrame { widthPx, heightPx, pixelRatio, shiftX, shiftY };
+    plates.update(viewport->getRoot());
+    plates.drawBack(*gl, plateFrame, emptyArray);
+    const std::vector<osg::UInt32>& order = list.getOrder(view.viewFromWorld);
+    if (plates.hasFront()) {
+        drawItems(view, order, Items::Scene);
+        plates.drawFront(*gl, plateFrame, emptyArray);
+        drawItems(view, order, Items::Handles);
+    } else {
+        drawItems(view, order, Items::All);
+    }
+    statistics.items = list.getItems().size();
+}
+
+void nbRenderAction::Impl::drawItems(const FrameView& view, const std::vector<osg::UInt32>& order,
+                                     Items which)
+{
     depth.enter();
     nbrender::ItemPainter painter(*gl, meshes, textures, programs, view);
-    for (const osg::UInt32 index : list.getOrder(view.viewFromWorld)) {
+    for (const osg::UInt32 index : order) {
         const nbrender::RenderItem& item = list.getItems()[index];
-        if (nbrender::isInView(item.bounds, view.usualClipFromWorld, item.handle)) {
+        const bool isWanted = which == Items::All || item.handle == (which == Items::Handles);
+        if (isWanted && nbrender::isInView(item.bounds, view.usualClipFromWorld, item.handle)) {
             painter.draw(item, list);
             ++statistics.drawn;
         }
     }
     depth.leave();
-    statistics.items = list.getItems().size();
 }
 
 void nbRenderAction::Impl::present(int widthPx, int heightPx, osg::UInt32 targetFramebuffer)
@@ -294,6 +323,7 @@ void nbRenderAction::Impl::collect()
     framesSinceCollection = 0;
     meshes.collect(*gl);
     textures.collect(*gl);
+    plates.collect(*gl);
     programs.collect(*gl);
 }
 
@@ -395,6 +425,7 @@ void nbRenderAction::release()
         impl->programs.release(*impl->gl);
         impl->meshes.release(*impl->gl);
         impl->textures.release(*impl->gl);
+        impl->plates.release(*impl->gl);
         impl->gl->glDeleteVertexArrays(1, &impl->emptyArray);
     }
     impl->forgetContext();

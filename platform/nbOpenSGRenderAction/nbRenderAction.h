@@ -40,6 +40,10 @@
 /// nbShaderHeader.h for what they get. A program that does not compile costs one line in the log,
 /// and its items are drawn in plain colour.
 ///
+/// Scene plates (see osg::Sceneplate) lie over the background before the scene, or over the scene
+/// below the handles; where there are plates of the latter kind, all handles are drawn after all of
+/// the scene. The effect buffer does not know them.
+///
 /// The background is the gradient of an UberViewport, or the colour of a SolidBackground, or black.
 /// Of an UberCamera, near and far are set to enclose the scene and handles around it.
 class NB_PLATFORM_API nbRenderAction
