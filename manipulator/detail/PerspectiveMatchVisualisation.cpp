@@ -26,10 +26,12 @@ constexpr std::size_t kRingSegments = 32;
 /// Farthest place of the magnifier: beyond every view, and what an int can hold.
 constexpr float kFarthestPx = 1e6F;
 
+/// Logical pixels; the highlight is wider, so that orange tells from red on any photograph.
+constexpr float kHighlightWidthPx = 3.0F;
 /// Lines of an axis that does not count.
 constexpr float kUnusedWidthPx = 1.0F;
 constexpr float kUnusedGrey = 0.6F;
-constexpr float kUnusedGreyPart = 0.65F;
+constexpr float kUnusedGreyPart = 0.5F;
 
 struct ColorRow
 {
@@ -38,9 +40,9 @@ struct ColorRow
 
 /// Of the axes x, y and z. Lighter than pure, so that blue stands out from dark photographs.
 constexpr std::array<ColorRow, kMatchAxisCount> kAxisColors {
-    { { 1.0F, 0.2F, 0.2F }, { 0.2F, 0.85F, 0.2F }, { 0.25F, 0.5F, 1.0F } }
+    { { 1.0F, 0.2F, 0.2F }, { 0.1F, 0.75F, 0.15F }, { 0.25F, 0.5F, 1.0F } }
 };
-constexpr ColorRow kHighlightColor { 1.0F, 0.9F, 0.1F };
+constexpr ColorRow kHighlightColor { 1.0F, 0.6F, 0.0F };
 
 osg::Color4f opaque(const ColorRow& row)
 {
@@ -133,10 +135,10 @@ osg::Pnt3f inPlane(const osg::Pnt2f& point)
 
 PerspectiveMatchVisualisation::PerspectiveMatchVisualisation()
     : root(makeHandleRoot())
-    , highlightPen(makePen(opaque(kHighlightColor), kHighlightSortKey))
+    , highlightPen(makePen(opaque(kHighlightColor), kHighlightWidthPx, kHighlightSortKey))
 {
     for (std::size_t axis = 0; axis < kMatchAxisCount; ++axis) {
-        axisPens[axis] = makePen(opaque(kAxisColors[axis]), kAxisSortKey);
+        axisPens[axis] = makePen(opaque(kAxisColors[axis]), kLineWidthPx, kAxisSortKey);
         guideNodes[axis] = makeNode(makeSegmentsGeo());
         setGeometryMaterial(guideNodes[axis], axisPens[axis].material.get());
         addChild(root.get(), guideNodes[axis]);
@@ -158,8 +160,8 @@ PerspectiveMatchVisualisation::PerspectiveMatchVisualisation()
     showNode(root.get(), false);
 }
 
-PerspectiveMatchVisualisation::Pen PerspectiveMatchVisualisation::makePen(const osg::Color4f& color,
-                                                                          int sortKey)
+PerspectiveMatchVisualisation::Pen
+PerspectiveMatchVisualisation::makePen(const osg::Color4f& color, float widthPx, int sortKey)
 {
     Pen pen;
     pen.material = nbManipulatorMaterials::createProjectionMaterial(color, sortKey);
@@ -169,7 +171,7 @@ PerspectiveMatchVisualisation::Pen PerspectiveMatchVisualisation::makePen(const 
     pen.line = osg::LineChunk::create();
     {
         const EditBracket edit(pen.line, osg::FieldBits::AllFields);
-        pen.line->setWidth(kLineWidthPx);
+        pen.line->setWidth(widthPx);
         pen.line->setSmooth(true);
     }
     const EditBracket edit(material, osg::ChunkMaterial::ChunksFieldMask);

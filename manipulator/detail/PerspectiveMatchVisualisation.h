@@ -25,10 +25,11 @@ namespace nbec::manipulator::detail {
 /// widget; the materials' own matrix brings them to the picture, so that the scene's camera plays
 /// no role. Sizes are logical pixels. Lines of an axis that the vanishing-lines type does not use
 /// are thin and grey-tinted, but can still be moved: they keep their places for when the type
-/// changes. A line under the pointer, or grabbed, is yellow; with a line its two rings are.
+/// changes. A line under the pointer, or grabbed, is orange and
+/// wider; with a line its two rings are.
 ///
 /// While a part is dragged, dashes extend the lines of each used axis to the point where they
-/// vanish, marked with a cross, and long yellow dashes show the horizon through the vanishing
+/// vanish, marked with a cross, and long orange dashes show the horizon through the vanishing
 /// points of the two horizontal axes.
 ///
 /// Pickers do not find these nodes, whose places in the world mean nothing: the geometries bear no
@@ -98,7 +99,7 @@ private:
         std::array<osg::ComponentTransformPtr, 2> places;
     };
 
-    static Pen makePen(const osg::Color4f& color, int sortKey);
+    static Pen makePen(const osg::Color4f& color, float widthPx, int sortKey);
     void buildLine(LineNodes& nodes, const osg::GeometryPtr& ring) const;
     void setView(const MatchView& newView);
     void placeLine(std::size_t index);

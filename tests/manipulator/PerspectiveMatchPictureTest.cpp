@@ -44,16 +44,20 @@ protected:
 TEST_F(PerspectiveMatchPictureTest, Look)
 {
     scene.install(gizmo);
-    for (const QSize size : { QSize(960, 640), QSize(480, 720) }) {
+    osg::beginEditCP(scene.widget.getUberViewport());
+    scene.widget.getUberViewport()->setBackgroundTop(osg::Color4f(1,1,1,1));
+    scene.widget.getUberViewport()->setBackgroundBottom(osg::Color4f(.0,.0,.0,1));
+    osg::endEditCP(scene.widget.getUberViewport());
+    for (const QSize size : { QSize(960, 640), QSize(480, 720) }) { const double kk = size.width()>700?0:.5;
         scene.widget.resize(size.width(), size.height());
         scene.layLines();
         draw();
-        scene.send("hover", scene.pixelOf(scene.match().getXLine1().p1()));
+        scene.send("hover", scene.pixelOf(scene.match().getXLine1().pointAt(kk)));
         draw();
-        scene.send("start", scene.pixelOf(scene.match().getXLine1().p1()));
-        scene.send("process", scene.pixelOf(scene.match().getXLine1().p1()));
+        scene.send("start", scene.pixelOf(scene.match().getXLine1().pointAt(kk)));
+        scene.send("process", scene.pixelOf(scene.match().getXLine1().pointAt(kk)));
         draw();
-        scene.send("stop", scene.pixelOf(scene.match().getXLine1().p1()));
+        scene.send("stop", scene.pixelOf(scene.match().getXLine1().pointAt(kk)));
         scene.match().setVanishingLinesType(nbCameraTypes::XZLines);
         draw();
         scene.match().setVanishingLinesType(nbCameraTypes::XYZLines);
