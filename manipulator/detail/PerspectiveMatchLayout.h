@@ -117,7 +117,7 @@ struct VanishingPoint
 };
 
 /// Distance from the origin, reference sizes, beyond which lines count as parallel.
-constexpr double kFarthestVanishingPoint = 1e4;
+constexpr double kFarthestVanishingPoint = 200.0;
 
 VanishingPoint vanishingPointOf(const osg::Line2D& first, const osg::Line2D& second);
 

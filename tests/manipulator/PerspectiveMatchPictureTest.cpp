@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The perspective match overlay as it is drawn, at named pixels.
 #include "manipulator/PerspectiveMatchManipulator.h"
-
 #include "tests/manipulator/support/MatchScene.h"
 
 #include <nbOpenSGRenderAction/nbOffscreenView.h>
@@ -45,10 +44,11 @@ TEST_F(PerspectiveMatchPictureTest, Look)
 {
     scene.install(gizmo);
     osg::beginEditCP(scene.widget.getUberViewport());
-    scene.widget.getUberViewport()->setBackgroundTop(osg::Color4f(1,1,1,1));
-    scene.widget.getUberViewport()->setBackgroundBottom(osg::Color4f(.0,.0,.0,1));
+    scene.widget.getUberViewport()->setBackgroundTop(osg::Color4f(1, 1, 1, 1));
+    scene.widget.getUberViewport()->setBackgroundBottom(osg::Color4f(.0, .0, .0, 1));
     osg::endEditCP(scene.widget.getUberViewport());
-    for (const QSize size : { QSize(960, 640), QSize(480, 720) }) { const double kk = size.width()>700?0:.5;
+    for (const QSize size : { QSize(960, 640), QSize(480, 720) }) {
+        const double kk = size.width() > 700 ? 0 : .5;
         scene.widget.resize(size.width(), size.height());
         scene.layLines();
         draw();

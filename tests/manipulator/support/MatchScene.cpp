@@ -10,22 +10,22 @@ namespace nbec::manipulator::test {
 
 nbdCameraNode MatchScene::cameraNode() const
 {
-    return nbdCameraNode(
-        widget.getUberCamera()->getInternalParentNode().getFieldContainerId());
+    return nbdCameraNode(widget.getUberCamera()->getInternalParentNode().getFieldContainerId());
 }
 
 float MatchScene::referencePx() const
 {
-    const bool isVertical = nbCameraUtils::getVerticalSizing(widget.getCamera(), widget.getWidth(),
-                                                             widget.getHeight());
+    const bool isVertical =
+        nbCameraUtils::getVerticalSizing(widget.getCamera(), widget.getWidth(), widget.getHeight());
     return static_cast<float>(isVertical ? widget.getHeight() : widget.getWidth());
 }
 
 osg::Pnt2f MatchScene::pixelOf(const QPointF& linePoint) const
 {
     const double unit = referencePx();
-    return osg::Pnt2f(static_cast<float>(std::floor(linePoint.x() * unit)),
-                      static_cast<float>(widget.getHeight() - 1 - std::floor(linePoint.y() * unit)));
+    return osg::Pnt2f(
+        static_cast<float>(std::floor(linePoint.x() * unit)),
+        static_cast<float>(widget.getHeight() - 1 - std::floor(linePoint.y() * unit)));
 }
 
 void MatchScene::install(PerspectiveMatchManipulator& gizmo)

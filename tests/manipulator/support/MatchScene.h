@@ -18,12 +18,14 @@ public:
     using GizmoScene::pixelOf;
 
     nbdCameraNode cameraNode() const;
+
     nbdPerspectiveMatch match() const { return cameraNode().getPerspectiveMatch(); }
 
     /// Side of the view that line coordinates refer to, device pixels.
     float referencePx() const;
 
-    /// Pixel of the pointer, y from the top, whose middle is nearest to a point in line coordinates.
+    /// Pixel of the pointer, y from the top, whose middle is nearest to a point in line
+    /// coordinates.
     osg::Pnt2f pixelOf(const QPointF& linePoint) const;
 
     /// Installs the manipulator for the camera.
