@@ -6,15 +6,22 @@
 
 #include <nbKernelServices/nbdCameraNode.h>
 
+#include <OpenSG/OSGVector.h>
+
 #include <QtCore/QLineF>
 #include <QtCore/QPointF>
 
 namespace nbec::manipulator::test {
 
-/// The view of GizmoScene with a perspective match of its camera.
+/// The view of GizmoScene, 1600 x 1000 device pixels, with a perspective match of its camera whose
+/// lines lie apart from each other.
 class MatchScene : public GizmoScene
 {
 public:
+    MatchScene();
+    /// Forgets the undo steps.
+    ~MatchScene();
+
     using GizmoScene::pixelOf;
 
     nbdCameraNode cameraNode() const;
@@ -24,16 +31,27 @@ public:
     /// Side of the view that line coordinates refer to, device pixels.
     float referencePx() const;
 
-    /// Pixel of the pointer, y from the top, whose middle is nearest to a point in line
-    /// coordinates.
+    /// Whole pixel of the pointer, y from the top, that a point in line coordinates lies in.
     osg::Pnt2f pixelOf(const QPointF& linePoint) const;
 
-    /// Installs the manipulator for the camera.
-    void install(PerspectiveMatchManipulator& gizmo);
+    /// Installs a manipulator for the camera.
+    void installFor(PerspectiveMatchManipulator& gizmo);
 
-    /// Lays the six lines along edges of a box as the camera would see it from (4, 3, 5), filling
-    /// most of the view whatever its shape.
+    /// Lays the six lines across the view, whatever its shape: those of x vanish to the right,
+    /// those of y above and those of z to the left.
     void layLines() const;
+
+    /// Hovers a point and grabs what is there. @return what "start" answers
+    bool grab(const QPointF& linePoint);
+
+    /// Grabs, moves the pointer from its first place by a way in pixels, y up, and lets go.
+    void drag(const QPointF& linePoint, const osg::Vec2f& wayPx);
 };
+
+/// A line as the overlay draws it, numbered from 1; of length 0 at the origin if it is hidden.
+QLineF drawnLine(PerspectiveMatchManipulator& gizmo, int number);
+
+/// Whether the body (1), first (2) or second end (3) of a line is drawn as highlighted.
+bool isHighlighted(PerspectiveMatchManipulator& gizmo, int number, int part);
 
 }  // namespace nbec::manipulator::test
