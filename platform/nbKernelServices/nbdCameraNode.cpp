@@ -3,6 +3,7 @@
 
 #include <nbKernelServices/detail/MatchEdit.h>
 #include <nbKernelServices/detail/MatchState.h>
+#include <nbKernelServices/nbPerspectiveSolver.h>
 #include <nbOpenSGUberCamera/nbUberCameraPool.h>
 
 nbdCameraNode::nbdCameraNode(const nbdObject& object)
@@ -31,7 +32,7 @@ nbCameraTypes::FovMode nbdCameraNode::getFovMode() const
 void nbdCameraNode::setFovMode(nbCameraTypes::FovMode mode) const
 {
     if (mode == nbCameraTypes::SolvedFov || mode == nbCameraTypes::FixedFov) {
-        editMatch(*this, "fovMode", [&](MatchState& state) { state.fovMode = mode; });
+        editMatch(getId(), [&](MatchState& state) { state.fovMode = mode; });
     }
 }
 
@@ -41,5 +42,40 @@ nbCameraTypes::MatchResult nbdCameraNode::updateFromPerspectiveMatch() const
     if (camera == osg::NullFC) {
         return nbCameraTypes::NoCamera;
     }
-    return nbCameraTypes::ContradictingLines;
+    if (camera->isOrthographic()) {
+        return nbCameraTypes::OrthographicCamera;
+    }
+    const CameraPose pose = camera->getPose();
+    if (!nbCameraNavigation::isFinite(pose)) {
+        return nbCameraTypes::NoCamera;
+    }
+    const MatchState& state = MatchTable::of(camera);
+    PerspectiveProblem problem;
+    problem.lines = state.lines;
+    problem.type = state.type;
+    problem.fovMode = state.fovMode;
+    problem.width = state.shape.width;
+    problem.height = state.shape.height;
+    problem.start = nbPerspectiveSolver::aimOf(pose, problem.height);
+    const PerspectiveSolution solution = nbPerspectiveSolver::solve(problem);
+    if (nbCameraTypes::isSolved(solution.result)) {
+        CameraPose turned = nbPerspectiveSolver::turned(pose, solution.aim, problem.height);
+        if (solution.result == nbCameraTypes::SolvedWithKeptFov) {
+            turned.fovDeg = pose.fovDeg;
+        }
+        placeCamera(camera, turned);
+    }
+    return solution.result;
+}
+
+void nbdCameraNode::layLinesAsSeen() const
+{
+    const osg::UberCameraPtr camera = getCamera();
+    if (camera == osg::NullFC || !nbCameraNavigation::isFinite(camera->getPose())) {
+        return;
+    }
+    editMatch(getId(), [&](MatchState& state) {
+        state.lines =
+            nbPerspectiveSolver::linesOf(camera->getPose(), state.shape.width, state.shape.height);
+    });
 }

@@ -38,7 +38,12 @@ public:
     ///
     /// The pivot stays where it is in the camera's frame: eye and centre turn about it at their
     /// distance, so that what stood at the pivot is still in view and as far away. A pivot that is
-    /// not before the eye leaves this to the centre.
+    /// not before the eye leaves this to the centre. Nothing else moves. Pixels are taken as
+    /// square. See nbPerspectiveSolver for which camera is taken where the lines leave a choice.
     /// @return what came of it; where it is not solved the camera is untouched
     nbCameraTypes::MatchResult updateFromPerspectiveMatch() const;
+
+    /// Lays the lines of the match along the edges of a box at the pivot as the camera sees it now,
+    /// so that solving them leaves the camera as it is: a start for laying them elsewhere.
+    void layLinesAsSeen() const;
 };

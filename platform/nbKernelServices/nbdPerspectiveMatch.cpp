@@ -9,10 +9,6 @@
 
 namespace {
 
-/// Names of the lines as properties, by nbdPerspectiveMatch::Line.
-constexpr const char* kLineProperties[] = { "xLine1", "xLine2", "yLine1",
-                                            "yLine2", "zLine1", "zLine2" };
-
 bool isLine(int which)
 {
     return which >= 0 && which < nbdPerspectiveMatch::kLineCount;
@@ -33,8 +29,7 @@ QLineF nbdPerspectiveMatch::getLine(Line which) const
 void nbdPerspectiveMatch::setLine(Line which, const QLineF& line) const
 {
     if (isLine(which)) {
-        editMatch(*this, kLineProperties[which],
-                  [&](MatchState& state) { state.lines[which] = line; });
+        editMatch(getId(), [&](MatchState& state) { state.lines[which] = line; });
     }
 }
 
@@ -47,7 +42,7 @@ nbCameraTypes::VanishingLinesType nbdPerspectiveMatch::getVanishingLinesType() c
 void nbdPerspectiveMatch::setVanishingLinesType(nbCameraTypes::VanishingLinesType type) const
 {
     if (type >= 0 && type < nbCameraTypes::kVanishingLinesTypeCount) {
-        editMatch(*this, "vanishingLinesType", [&](MatchState& state) { state.type = type; });
+        editMatch(getId(), [&](MatchState& state) { state.type = type; });
     }
 }
 
@@ -60,8 +55,19 @@ float nbdPerspectiveMatch::getMagnifyFactor() const
 void nbdPerspectiveMatch::setMagnifyFactor(float factor) const
 {
     if (std::isfinite(factor)) {
-        editMatch(*this, "magnifyFactor", [&](MatchState& state) {
+        editMatch(getId(), [&](MatchState& state) {
             state.magnifyFactor = std::clamp(factor, kSmallestMagnifyFactor, kLargestMagnifyFactor);
         });
     }
+}
+
+bool nbdPerspectiveMatch::isAnchoredToCentre() const
+{
+    const MatchState* const state = MatchTable::find(getId());
+    return state != nullptr && state->anchoredToCentre;
+}
+
+void nbdPerspectiveMatch::setAnchoredToCentre(bool anchored) const
+{
+    editMatch(getId(), [&](MatchState& state) { state.anchoredToCentre = anchored; });
 }

@@ -11,7 +11,8 @@
 ///
 /// Line coordinates have their origin in the lower left corner of the view, y up, in units of the
 /// view's reference size (see nbCameraUtils::getVerticalSizing); a view of 1600 x 1000 pixels that
-/// keeps its height reaches from (0, 0) to (1.6, 1). The unit stays when the view is resized.
+/// keeps its height reaches from (0, 0) to (1.6, 1). The unit stays when the view is resized; see
+/// also setAnchoredToCentre.
 ///
 /// The match lives and dies with its camera. Setters announce a change by the object service and
 /// record it, with the camera's placement, in the open undo step; a setter moves no camera.
@@ -84,6 +85,12 @@ public:
     float getMagnifyFactor() const;
     /// Limited to the range above; not finite is ignored.
     void setMagnifyFactor(float factor) const;
+
+    /// Whether the lines keep their place relative to the middle of the view, where the photograph
+    /// and the view axis are, when the view gets another shape; at the start they keep it relative
+    /// to the lower left corner. Property "anchoredToCentre".
+    bool isAnchoredToCentre() const;
+    void setAnchoredToCentre(bool anchored) const;
 
 private:
     friend class nbdCameraNode;

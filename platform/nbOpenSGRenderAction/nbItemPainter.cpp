@@ -142,7 +142,8 @@ ItemPainter::~ItemPainter()
     gl.glUseProgram(0);
 }
 
-void ItemPainter::draw(const RenderItem& item, const DrawState& state, const ClipPlanes& planes)
+void ItemPainter::draw(const RenderItem& item, const DrawState& state,
+                       const nbClipSets::Planes& planes)
 {
     const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(resolve(item.geometryId));
     if (geometry == osg::NullFC) {
@@ -233,9 +234,10 @@ void ItemPainter::switchClipping(std::size_t count)
 
 void ItemPainter::setClipPlanes(GlProgram& program)
 {
-    constexpr std::array<const char*, kMostClipPlanes> kNames { "clipPlanes[0]", "clipPlanes[1]",
-                                                                "clipPlanes[2]", "clipPlanes[3]",
-                                                                "clipPlanes[4]", "clipPlanes[5]" };
+    constexpr std::array<const char*, nbClipSets::kMostPlanes> kNames {
+        "clipPlanes[0]", "clipPlanes[1]", "clipPlanes[2]",
+        "clipPlanes[3]", "clipPlanes[4]", "clipPlanes[5]"
+    };
     for (std::size_t i = 0; i < viewClipPlanes.size(); ++i) {
         const osg::Vec4f& plane = viewClipPlanes[i];
         program.set(gl, kNames[i], plane.x(), plane.y(), plane.z(), plane.w());

@@ -51,7 +51,7 @@ public:
 
     /// @param planes  what cuts the item. Shader chunks are not cut unless their programs see to
     /// it.
-    void draw(const RenderItem& item, const DrawState& state, const ClipPlanes& planes);
+    void draw(const RenderItem& item, const DrawState& state, const nbClipSets::Planes& planes);
 
 private:
     void applyDepth(const RenderItem& item, const DrawState& state);
@@ -83,7 +83,7 @@ private:
     GpuTextures& textures;
     ShaderPrograms& programs;
     const FrameView& view;
-    ClipPlanes viewClipPlanes;  ///< of the item that is being drawn, in view space
+    nbClipSets::Planes viewClipPlanes;  ///< of the item that is being drawn, in view space
     std::size_t clippingCount = 0;  ///< switched on
     osg::TextureChunkPtr boundChunk;
     GpuTexture boundTexture;

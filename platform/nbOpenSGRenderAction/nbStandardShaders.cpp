@@ -7,7 +7,7 @@ namespace nbrender::shaders {
 
 namespace {
 
-/// As many planes as kMostClipPlanes.
+/// As many planes as nbClipSets::kMostPlanes.
 const char* const kClipFunctions = R"(
 #define CLIPPED
 uniform vec4 clipPlanes[6];

@@ -3,6 +3,7 @@
 
 #include <nbOpenSGUberCamera/nbUberCameraPool.h>
 
+#include <cmath>
 #include <cstring>
 #include <iterator>
 #include <unordered_map>
@@ -29,24 +30,54 @@ void dropLostCameras()
 
 }  // namespace
 
-bool MatchState::isSame(const MatchState& other) const
+ViewShape ViewShape::of(const osg::UberCamera& camera)
+{
+    const double ratio = camera.getViewAspect();
+    const double aspect = std::isfinite(ratio) && ratio > 0.0 ? ratio : 1.0;
+    return camera.getHorizontalSizing() ? ViewShape { 1.0, 1.0 / aspect }
+                                        : ViewShape { aspect, 1.0 };
+}
+
+bool MatchState::isLineSame(const MatchState& other, int line) const
 {
     // The comparison of QLineF forgives small differences.
     static_assert(sizeof(QLineF) == 4 * sizeof(qreal));
-    return std::memcmp(lines.data(), other.lines.data(), sizeof(lines)) == 0 &&
-        type == other.type && magnifyFactor == other.magnifyFactor && fovMode == other.fovMode;
+    return std::memcmp(&lines[line], &other.lines[line], sizeof(QLineF)) == 0;
+}
+
+bool MatchState::isSame(const MatchState& other) const
+{
+    for (int line = 0; line < nbdPerspectiveMatch::kLineCount; ++line) {
+        if (!isLineSame(other, line)) {
+            return false;
+        }
+    }
+    return type == other.type && magnifyFactor == other.magnifyFactor && fovMode == other.fovMode &&
+        anchoredToCentre == other.anchoredToCentre;
+}
+
+void MatchState::settle(const ViewShape& now)
+{
+    if (anchoredToCentre && (now.width != shape.width || now.height != shape.height)) {
+        const QPointF way(0.5 * (now.width - shape.width), 0.5 * (now.height - shape.height));
+        for (QLineF& line : lines) {
+            line.translate(way);
+        }
+    }
+    shape = now;
 }
 
 MatchState& MatchTable::of(const osg::UberCameraPtr& camera)
 {
     const osg::UInt32 id = camera.getFieldContainerId();
-    const auto found = states().find(id);
-    if (found != states().end()) {
-        return found->second;
+    auto found = states().find(id);
+    if (found == states().end()) {
+        // Ids are never used again, so entries that are left over only cost memory.
+        dropLostCameras();
+        found = states().emplace(id, MatchState()).first;
     }
-    // Ids are never used again, so entries that are left over only cost memory.
-    dropLostCameras();
-    return states()[id];
+    found->second.settle(ViewShape::of(*camera));
+    return found->second;
 }
 
 MatchState* MatchTable::find(osg::UInt32 cameraNodeId)
