@@ -69,6 +69,12 @@ FrameView viewOf(const osg::CameraPtr& camera, int widthPx, int heightPx)
     return view;
 }
 
+/// Whether a program of its own decides where an item is seen: its bounds then say nothing.
+bool placesItself(const nbrender::ItemList& list, const nbrender::RenderItem& item)
+{
+    return list.getStates()[item.stateIndex].shaderId != 0;
+}
+
 /// Depths along the view axis, world units.
 struct DepthSpan
 {
@@ -87,7 +93,8 @@ DepthSpan handleSpan(const nbrender::ItemList& list, const FrameView& view)
     double nearest = std::numeric_limits<double>::max();
     double farthest = std::numeric_limits<double>::lowest();
     for (const nbrender::RenderItem& item : list.getItems()) {
-        if (!item.handle || !nbrender::isInView(item.bounds, view.usualClipFromWorld, true)) {
+        if (!item.handle || placesItself(list, item) ||
+            !nbrender::isInView(item.bounds, view.usualClipFromWorld, true)) {
             continue;
         }
         osg::BoxVolume box = item.bounds;
@@ -221,7 +228,8 @@ void nbRenderAction::Impl::drawScene(const osg::ViewportPtr& viewport, int width
     nbrender::ItemPainter painter(*gl, meshes, textures, programs, view);
     for (const osg::UInt32 index : list.getOrder(view.viewFromWorld)) {
         const nbrender::RenderItem& item = list.getItems()[index];
-        if (nbrender::isInView(item.bounds, view.usualClipFromWorld, item.handle)) {
+        if (placesItself(list, item) ||
+            nbrender::isInView(item.bounds, view.usualClipFromWorld, item.handle)) {
             painter.draw(item, list.getStates()[item.stateIndex], list.getClipPlanes(item.clipSet));
             ++statistics.drawn;
         }

@@ -30,8 +30,9 @@
 /// + emission, exactly. Colours are not converted on their way to the frame buffer. There is a
 /// second output, the effect buffer, for effects on the finished picture: opaque scene items write
 /// their normal in view space, turned to the eye, as 0.5 n + 0.5 with alpha 1; the background and
-/// handles write zeros, blended items nothing. Programs of shader chunks write what they like; see
-/// nbShaderHeader.h for what they get. A program that does not compile costs one line in the log,
+/// handles write zeros, blended items nothing. Programs of shader chunks write what they like and
+/// where they like, so that their items are always in view; see nbShaderHeader.h for what they get.
+/// A program that does not compile costs one line in the log,
 /// and its items are drawn in plain colour.
 ///
 /// The background is the gradient of an UberViewport, or the colour of a SolidBackground, or black,
