@@ -85,6 +85,15 @@ public:
     /// Sets the camera whose lines are shown. @param camera  null shows none; no count is held
     void setCamera(osg::UberCameraPtr camera);
 
+    /// The line under the pointer or grabbed, as of the last event; NoLine for none.
+    PerspectiveMatchLine getHoveredLine() const
+    {
+        return hovered || grabbed ? line : PerspectiveMatchLine::NoLine;
+    }
+
+    /// Its part: 0 none, 1 the line between the ends, 2 the first end, 3 the second end.
+    osg::UInt32 getHoveredPart() const { return hovered || grabbed ? handle : 0; }
+
 private:
     void connectToServices();
     void updateManipulator();

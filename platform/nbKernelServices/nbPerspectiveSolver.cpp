@@ -3,13 +3,13 @@
 
 #include <nbKernelServices/detail/VanishingFit.h>
 
-#include <Eigen/Geometry>
-#include <Eigen/LU>
-
 #include <algorithm>
 #include <cmath>
 #include <optional>
 #include <vector>
+
+#include <Eigen/Geometry>
+#include <Eigen/LU>
 
 namespace {
 
@@ -282,12 +282,15 @@ double usefulness(const QLineF& first, const QLineF& second)
     return std::abs(apart.x() * along.y() - apart.y() * along.x());
 }
 
-/// Edge of a box of half size 1 along an axis, at a corner (0 to 3) of the plane across the axis.
+/// Part of an edge of a box of half size 1 along an axis, at a corner (0 to 3) of the plane across
+/// the axis. It ends before the box's corners, where edges meet, so that lines have ends of their
+/// own.
 std::array<osg::Vec3d, 2> boxEdge(int axis, int corner)
 {
+    constexpr double kPartOfEdge = 0.8;
     std::array<osg::Vec3d, 2> ends;
     for (int end = 0; end < 2; ++end) {
-        ends[end][axis] = end == 0 ? -1.0 : 1.0;
+        ends[end][axis] = end == 0 ? -kPartOfEdge : kPartOfEdge;
         ends[end][(axis + 1) % kAxisCount] = (corner & 1) != 0 ? 1.0 : -1.0;
         ends[end][(axis + 2) % kAxisCount] = (corner & 2) != 0 ? 1.0 : -1.0;
     }

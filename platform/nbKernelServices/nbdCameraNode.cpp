@@ -6,6 +6,31 @@
 #include <nbKernelServices/nbPerspectiveSolver.h>
 #include <nbOpenSGUberCamera/nbUberCameraPool.h>
 
+namespace {
+
+PerspectiveSolution solveFor(const osg::UberCameraPtr& camera)
+{
+    PerspectiveSolution solution;
+    if (camera == osg::NullFC || !nbCameraNavigation::isFinite(camera->getPose())) {
+        return solution;
+    }
+    if (camera->isOrthographic()) {
+        solution.result = nbCameraTypes::OrthographicCamera;
+        return solution;
+    }
+    const MatchState& state = MatchTable::of(camera);
+    PerspectiveProblem problem;
+    problem.lines = state.lines;
+    problem.type = state.type;
+    problem.fovMode = state.fovMode;
+    problem.width = state.shape.width;
+    problem.height = state.shape.height;
+    problem.start = nbPerspectiveSolver::aimOf(camera->getPose(), problem.height);
+    return nbPerspectiveSolver::solve(problem);
+}
+
+}  // namespace
+
 nbdCameraNode::nbdCameraNode(const nbdObject& object)
     : nbdNode(Kind::CameraNode,
               object.getKind() == Kind::CameraNode || object.getKind() == Kind::Node
@@ -36,30 +61,19 @@ void nbdCameraNode::setFovMode(nbCameraTypes::FovMode mode) const
     }
 }
 
+nbCameraTypes::MatchResult nbdCameraNode::checkPerspectiveMatch() const
+{
+    return solveFor(getCamera()).result;
+}
+
 nbCameraTypes::MatchResult nbdCameraNode::updateFromPerspectiveMatch() const
 {
     const osg::UberCameraPtr camera = getCamera();
-    if (camera == osg::NullFC) {
-        return nbCameraTypes::NoCamera;
-    }
-    if (camera->isOrthographic()) {
-        return nbCameraTypes::OrthographicCamera;
-    }
-    const CameraPose pose = camera->getPose();
-    if (!nbCameraNavigation::isFinite(pose)) {
-        return nbCameraTypes::NoCamera;
-    }
-    const MatchState& state = MatchTable::of(camera);
-    PerspectiveProblem problem;
-    problem.lines = state.lines;
-    problem.type = state.type;
-    problem.fovMode = state.fovMode;
-    problem.width = state.shape.width;
-    problem.height = state.shape.height;
-    problem.start = nbPerspectiveSolver::aimOf(pose, problem.height);
-    const PerspectiveSolution solution = nbPerspectiveSolver::solve(problem);
+    const PerspectiveSolution solution = solveFor(camera);
     if (nbCameraTypes::isSolved(solution.result)) {
-        CameraPose turned = nbPerspectiveSolver::turned(pose, solution.aim, problem.height);
+        const CameraPose pose = camera->getPose();
+        CameraPose turned =
+            nbPerspectiveSolver::turned(pose, solution.aim, ViewShape::of(*camera).height);
         if (solution.result == nbCameraTypes::SolvedWithKeptFov) {
             turned.fovDeg = pose.fovDeg;
         }

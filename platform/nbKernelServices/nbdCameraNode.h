@@ -43,6 +43,9 @@ public:
     /// @return what came of it; where it is not solved the camera is untouched
     nbCameraTypes::MatchResult updateFromPerspectiveMatch() const;
 
+    /// What updateFromPerspectiveMatch() would answer now, without moving anything.
+    nbCameraTypes::MatchResult checkPerspectiveMatch() const;
+
     /// Lays the lines of the match along the edges of a box at the pivot as the camera sees it now,
     /// so that solving them leaves the camera as it is: a start for laying them elsewhere.
     void layLinesAsSeen() const;

@@ -4,6 +4,7 @@
 #include "viewer/core/ModelReader.h"
 #include "viewer/gui/MessageBar.h"
 #include "viewer/gui/Panel.h"
+#include "viewer/gui/PerspectiveMatchPanel.h"
 #include "viewer/gui/SessionPlayer.h"
 #include "viewer/gui/SessionRecorder.h"
 #include "viewer/gui/StatusLine.h"
@@ -157,7 +158,11 @@ QDockWidget* MainWindow::addDock(QWidget* content, const QString& title, const Q
 }
 
 /// Every panel besides the list of steps; hidden until a person asks for it.
-void MainWindow::createPanels() { }
+void MainWindow::createPanels()
+{
+    addPanel(new PerspectiveMatchPanel(viewWidget->stage()), tr("Perspective match"),
+             QStringLiteral("matchDock"));
+}
 
 void MainWindow::addPanel(Panel* panel, const QString& title, const QString& name)
 {
