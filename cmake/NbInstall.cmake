@@ -15,7 +15,8 @@ set_target_properties(nbManipulator nbplatform PROPERTIES
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/manipulator DESTINATION ${NBM_HEADERS}
         FILES_MATCHING PATTERN "*.h" PATTERN "detail" EXCLUDE
         PATTERN "UniversalTransformManipulator2Drag.h" EXCLUDE
-        PATTERN "UniversalTransformManipulator2Handles.h" EXCLUDE)
+        PATTERN "UniversalTransformManipulator2Handles.h" EXCLUDE
+        PATTERN "nbSceneplateManipulatorParts.h" EXCLUDE)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/platform/ DESTINATION ${NBM_HEADERS}
         FILES_MATCHING PATTERN "*.h" PATTERN "detail" EXCLUDE)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/opensg/include/ ${PROJECT_SOURCE_DIR}/opensg/glue/

@@ -31,7 +31,7 @@ constexpr float kPlaneSize = 0.4F;
 constexpr float kPlaneBarRadius = 0.02F;
 constexpr osg::UInt16 kPlaneBarSides = 8;
 constexpr float kSphereRadius = 0.125F;
-constexpr std::size_t kShapeCount = static_cast<std::size_t>(HandleShape::CentreSphere) + 1;
+constexpr std::size_t kShapeCount = static_cast<std::size_t>(HandleShape::SquareOutline) + 1;
 
 osg::Matrix translation(float x, float y)
 {
@@ -63,6 +63,32 @@ osg::Matrix placeOf(HandleShape shape)
     }
 }
 
+osg::NodePtr makeSquareOutline()
+{
+    constexpr float kHalf = 0.5F;
+    const std::array<osg::Pnt3f, 4> corners = { osg::Pnt3f(-kHalf, -kHalf, 0.0F),
+                                                osg::Pnt3f(kHalf, -kHalf, 0.0F),
+                                                osg::Pnt3f(kHalf, kHalf, 0.0F),
+                                                osg::Pnt3f(-kHalf, kHalf, 0.0F) };
+    const osg::GeoPTypesPtr types = osg::GeoPTypesUI8::create();
+    const osg::GeoPLengthsPtr lengths = osg::GeoPLengthsUI32::create();
+    const osg::GeoPositionsPtr positions = osg::GeoPositions3f::create();
+    for (std::size_t i = 0; i < corners.size(); ++i) {
+        positions->push_back(corners[i]);
+        positions->push_back(corners[(i + 1) % corners.size()]);
+    }
+    types->push_back(GL_LINES);
+    lengths->push_back(positions->getSize());
+    const osg::GeometryPtr outline = osg::Geometry::create();
+    {
+        const EditBracket edit(outline, osg::FieldBits::AllFields);
+        outline->setTypes(types);
+        outline->setLengths(lengths);
+        outline->setPositions(positions);
+    }
+    return makeNode(outline);
+}
+
 osg::NodePtr buildShape(HandleShape shape)
 {
     switch (shape) {
@@ -86,6 +112,10 @@ osg::NodePtr buildShape(HandleShape shape)
         return osg::makeCylinder(kPlaneSize, kPlaneBarRadius, kPlaneBarSides, true, true, true);
     case HandleShape::CentreSphere:
         return osg::makeSphere(2, kSphereRadius);
+    case HandleShape::Square:
+        return osg::makePlane(1.0F, 1.0F, 1, 1);
+    case HandleShape::SquareOutline:
+        return makeSquareOutline();
     }
     return osg::NodePtr();
 }

@@ -43,7 +43,9 @@ enum class HandleShape
     PlaneBarX,  ///< bar of length 0.4 along x, centred at (0.2, 0.4): cylinder, radius 0.02, 8
                 ///< sides
     PlaneBarY,  ///< bar of length 0.4 along y, centred at (0.4, 0.2)
-    CentreSphere  ///< sphere of radius 0.125
+    CentreSphere,  ///< sphere of radius 0.125
+    Square,  ///< square of 1 in the xy plane, centred
+    SquareOutline  ///< its edges as lines
 };
 
 /// A new node with a Geometry core of its own whose positions, normals, indices and so on are

@@ -5,6 +5,7 @@
 #include <nbOpenSGRenderAction/nbFrameTargets.h>
 #include <nbOpenSGRenderAction/nbItemPainter.h>
 #include <nbOpenSGRenderAction/nbMagnifierPainter.h>
+#include <nbOpenSGRenderAction/nbSceneplatePainter.h>
 #include <nbOpenSGUberCamera/UberCamera.h>
 #include <nbOpenSGUberCamera/nbUberCameraUtils.h>
 #include <nbUtils/nbLog.h>
@@ -82,6 +83,14 @@ struct DepthSpan
     double farthest = 0.0;
 };
 
+/// Which items of the list to draw.
+enum class Items
+{
+    All,
+    Scene,
+    Handles
+};
+
 /// What encloses the handles in view; nothing without any. In a perspective the nearest depth is
 /// positive.
 DepthSpan handleSpan(const nbrender::ItemList& list, const FrameView& view)
@@ -126,6 +135,7 @@ struct nbRenderAction::Impl
     void drawScene(const osg::ViewportPtr& viewport, int widthPx, int heightPx);
     void present(const osg::ViewportPtr& viewport, int widthPx, int heightPx,
                  osg::UInt32 targetFramebuffer);
+    void drawItems(const FrameView& view, const std::vector<osg::UInt32>& order, Items which);
     void collect();
     bool fail(const std::string& reason);
 
@@ -145,6 +155,7 @@ struct nbRenderAction::Impl
     nbrender::GpuTextures textures;
     nbrender::BackgroundPainter background;
     nbrender::MagnifierPainter magnifier;
+    nbrender::SceneplatePainter plates;
     nbrender::ItemList list;
     Statistics statistics;
     unsigned int framesSinceCollection = 0;
@@ -188,6 +199,7 @@ void nbRenderAction::Impl::forgetContext()
     textures.forget();
     background.forget();
     magnifier.forget();
+    plates.forget();
     emptyArray = 0;
     context.clear();
     gl = nullptr;
@@ -224,18 +236,36 @@ void nbRenderAction::Impl::drawScene(const osg::ViewportPtr& viewport, int width
     const DepthSpan span = handleSpan(list, view);
     view.handleClipFromView = depth.project(usual, span.nearest, span.farthest);
 
+    const nbrender::PlateFrame plateFrame { widthPx, heightPx, pixelRatio, shiftX, shiftY };
+    plates.update(viewport->getRoot());
+    plates.drawBack(*gl, plateFrame, emptyArray);
+    const std::vector<osg::UInt32>& order = list.getOrder(view.viewFromWorld);
+    if (plates.hasFront()) {
+        drawItems(view, order, Items::Scene);
+        plates.drawFront(*gl, plateFrame, emptyArray);
+        drawItems(view, order, Items::Handles);
+    } else {
+        drawItems(view, order, Items::All);
+    }
+    statistics.items = list.getItems().size();
+}
+
+void nbRenderAction::Impl::drawItems(const FrameView& view, const std::vector<osg::UInt32>& order,
+                                     Items which)
+{
     depth.enter();
     nbrender::ItemPainter painter(*gl, meshes, textures, programs, view);
-    for (const osg::UInt32 index : list.getOrder(view.viewFromWorld)) {
+    for (const osg::UInt32 index : order) {
         const nbrender::RenderItem& item = list.getItems()[index];
-        if (placesItself(list, item) ||
-            nbrender::isInView(item.bounds, view.usualClipFromWorld, item.handle)) {
+        const bool isWanted = which == Items::All || item.handle == (which == Items::Handles);
+        if (isWanted &&
+            (placesItself(list, item) ||
+             nbrender::isInView(item.bounds, view.usualClipFromWorld, item.handle))) {
             painter.draw(item, list.getStates()[item.stateIndex], list.getClipPlanes(item.clipSet));
             ++statistics.drawn;
         }
     }
     depth.leave();
-    statistics.items = list.getItems().size();
 }
 
 void nbRenderAction::Impl::present(const osg::ViewportPtr& viewport, int widthPx, int heightPx,
@@ -269,6 +299,7 @@ void nbRenderAction::Impl::collect()
     framesSinceCollection = 0;
     meshes.collect(*gl);
     textures.collect(*gl);
+    plates.collect(*gl);
     programs.collect(*gl);
 }
 
@@ -375,6 +406,7 @@ void nbRenderAction::release()
         impl->textures.release(*impl->gl);
         impl->background.release(*impl->gl);
         impl->magnifier.release(*impl->gl);
+        impl->plates.release(*impl->gl);
         impl->gl->glDeleteVertexArrays(1, &impl->emptyArray);
     }
     impl->forgetContext();

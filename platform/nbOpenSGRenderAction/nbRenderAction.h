@@ -39,6 +39,10 @@
 /// and over it the UberViewport's photograph. Over pictures of the main render widget lies the lens
 /// of nbMagnifierRenderer while that is shown; the buffers that can be read do not have it. Of an
 /// UberCamera, near and far are set to enclose the scene and handles around it.
+///
+/// Scene plates (see osg::Sceneplate) lie over the background before the scene, or over the scene
+/// below the handles; where there are plates of the latter kind, all handles are drawn after all of
+/// the scene. The effect buffer does not know them.
 class NB_PLATFORM_API nbRenderAction
 {
 public:

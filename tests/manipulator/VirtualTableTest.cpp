@@ -2,6 +2,7 @@
 #include "manipulator/ManipulatorInteractionContext.h"
 #include "manipulator/PerspectiveMatchManipulator.h"
 #include "manipulator/UniversalTransformManipulator2.h"
+#include "manipulator/nbSceneplatePickTool.h"
 #include "tests/platform/support/VirtualSlot.h"
 
 #include <gtest/gtest.h>
@@ -97,6 +98,22 @@ TEST(VirtualTable, TheContextKeepsTheOrderOfItsBase)
     EXPECT_EQ(virtualSlot(&Context::pointerMoved), 7);
     EXPECT_EQ(virtualSlot(&Context::triggerEvent), 9);
     EXPECT_EQ(virtualSlot(&Context::selectMode), 14);
+}
+
+TEST(VirtualTable, ThePlateToolKeepsTheOrderOfItsBase)
+{
+    using Tool = nbSceneplatePickTool;
+    const std::vector<std::ptrdiff_t> slots = {
+        virtualSlot(&Tool::setToolMode),    virtualSlot(&Tool::activateTool),
+        virtualSlot(&Tool::deactivateTool), virtualSlot(&Tool::isActive),
+        virtualSlot(&Tool::startTool),      virtualSlot(&Tool::processTool),
+        virtualSlot(&Tool::stopTool),       virtualSlot(&Tool::triggerTool),
+        virtualSlot(&Tool::hoverTool),      virtualSlot(&Tool::stopHoverTool),
+        virtualSlot(&Tool::isPickHint)
+    };
+    for (std::size_t i = 0; i < slots.size(); ++i) {
+        EXPECT_EQ(slots[i], static_cast<std::ptrdiff_t>(i));
+    }
 }
 
 }  // namespace nbec::manipulator::test

@@ -3,8 +3,10 @@
 
 #include "viewer/core/ModelReader.h"
 #include "viewer/gui/MessageBar.h"
+#include "viewer/gui/ObjectPanel.h"
 #include "viewer/gui/Panel.h"
 #include "viewer/gui/PerspectiveMatchPanel.h"
+#include "viewer/gui/ScenePanel.h"
 #include "viewer/gui/SessionPlayer.h"
 #include "viewer/gui/SessionRecorder.h"
 #include "viewer/gui/StatusLine.h"
@@ -160,7 +162,10 @@ QDockWidget* MainWindow::addDock(QWidget* content, const QString& title, const Q
 /// Every panel besides the list of steps; hidden until a person asks for it.
 void MainWindow::createPanels()
 {
-    addPanel(new PerspectiveMatchPanel(viewWidget->stage()), tr("Perspective match"),
+    Stage& stage = viewWidget->stage();
+    addPanel(new ScenePanel(stage), tr("Objects"), QStringLiteral("sceneDock"));
+    addPanel(new ObjectPanel(stage), tr("Properties"), QStringLiteral("objectDock"));
+    addPanel(new PerspectiveMatchPanel(stage), tr("Perspective match"),
              QStringLiteral("matchDock"));
 }
 
