@@ -3,6 +3,7 @@
 
 #include "viewer/core/Stage.h"
 #include "viewer/gui/ObjectPanel.h"
+#include "viewer/gui/PerspectiveMatchPanel.h"
 #include "viewer/gui/ScenePanel.h"
 
 #include <nbKernelServices/nbUndoService.h>
@@ -53,6 +54,8 @@ void PanelDocks::addPanels()
 {
     sceneDock = addPanel(new ScenePanel(stage), tr("Objects"), QStringLiteral("sceneDock"));
     objectDock = addPanel(new ObjectPanel(stage), tr("Properties"), QStringLiteral("objectDock"));
+    addPanel(new PerspectiveMatchPanel(stage), tr("Perspective match"),
+             QStringLiteral("matchDock"));
 }
 
 QDockWidget* PanelDocks::addDock(QWidget* content, const QString& title, const QString& name)
