@@ -150,9 +150,13 @@ TEST_F(PerspectiveMatchManipulatorTest, EveryStepButTheFirstIsAnUndoStepWithATit
         EXPECT_EQ(stepCount(), i);
     }
     scene.send("process", from);
-    EXPECT_EQ(stepCount(), 4) << "back at its start: one more step, the same values";
+    EXPECT_EQ(stepCount(), 4) << "back at its start: one more step";
+    expectLine(match().getYLine2(), before);
+    scene.send("process", from);
+    EXPECT_EQ(stepCount(), 5) << "even if no value changes";
+    nbUndoService::the()->undo();
     scene.send("stop", from);
-    EXPECT_EQ(stepCount(), 4);
+    EXPECT_EQ(stepCount(), 5) << "the one that was undone can be redone";
 
     EXPECT_EQ(nbUndoService::the()->getStack()->undoText(),
               "Change Perspective Match lines of camera " + scene.cameraNode().getName());
