@@ -50,7 +50,7 @@ const LineAccess* accessOf(PerspectiveMatchLine line)
 osg::ViewportPtr mainViewport()
 {
     const nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1);
-    return widget != nullptr ? widget->getViewport() : osg::NullFC;
+    return widget != nullptr ? widget->getViewport() : osg::ViewportPtr();
 }
 
 QString commandTitle(const nbdCameraNode& camera)

@@ -182,9 +182,8 @@ void setGeometryMaterial(const osg::NodePtr& node, const osg::MaterialPtr& mater
     geometry->setMaterial(material);
 }
 
-osg::NodePtr makeShapeNode(HandleShape shape)
+osg::NodePtr makeSharingNode(const osg::GeometryPtr& prototype)
 {
-    const osg::GeometryPtr prototype = prototypeOf(shape);
     const osg::GeometryPtr geometry = osg::Geometry::create();
     {
         const EditBracket edit(geometry, osg::FieldBits::AllFields);
@@ -196,6 +195,11 @@ osg::NodePtr makeShapeNode(HandleShape shape)
         geometry->getIndexMapping() = prototype->getIndexMapping();
     }
     return makeNode(geometry);
+}
+
+osg::NodePtr makeShapeNode(HandleShape shape)
+{
+    return makeSharingNode(prototypeOf(shape));
 }
 
 }  // namespace nbec::manipulator::detail

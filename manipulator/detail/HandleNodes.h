@@ -29,6 +29,10 @@ osg::NodePtr addChild(const osg::NodePtr& parent, const osg::NodePtr& child);
 /// the material, is left alone.
 void setGeometryMaterial(const osg::NodePtr& node, const osg::MaterialPtr& material);
 
+/// A new node with a Geometry core of its own that shares all properties of another one, so that
+/// the two differ in material and visibility only. No material is set.
+osg::NodePtr makeSharingNode(const osg::GeometryPtr& prototype);
+
 /// Geometry of handles that all gizmos share: built once per process, on first use.
 enum class HandleShape
 {
@@ -46,9 +50,9 @@ enum class HandleShape
     CentreSphere  ///< sphere of radius 0.125
 };
 
-/// A new node with a Geometry core of its own whose positions, normals, indices and so on are
-/// shared with all other nodes of the shape: visibility and colour sit on the core, so that no two
-/// handles share one. No material is set.
+/// A new node with a Geometry core of its own that shares its properties with all other nodes of
+/// the shape: visibility and colour sit on the core, so that no two handles share one. No material
+/// is set.
 osg::NodePtr makeShapeNode(HandleShape shape);
 
 }  // namespace nbec::manipulator::detail
