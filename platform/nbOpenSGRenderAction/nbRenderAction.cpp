@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "nbRenderAction.h"
 
+#include <nbOpenSGRenderAction/nbBackgroundPainter.h>
 #include <nbOpenSGRenderAction/nbFrameTargets.h>
 #include <nbOpenSGRenderAction/nbItemPainter.h>
+#include <nbOpenSGRenderAction/nbMagnifierPainter.h>
 #include <nbOpenSGUberCamera/UberCamera.h>
 #include <nbOpenSGUberCamera/nbUberCameraUtils.h>
-#include <nbOpenSGUberViewport/UberViewport.h>
 #include <nbUtils/nbLog.h>
-
-#include <OpenSG/OSGSolidBackground.h>
 
 #include <QtCore/QPointer>
 #include <QtGui/QOpenGLContext>
@@ -30,30 +29,6 @@ using nbrender::FrameView;
 using nbrender::Gl;
 using nbrender::GlProgram;
 using nbrender::ShaderPrograms;
-
-struct Background
-{
-    osg::Color4f top { 0.f, 0.f, 0.f, 1.f };
-    osg::Color4f bottom { 0.f, 0.f, 0.f, 1.f };
-};
-
-Background backgroundOf(const osg::ViewportPtr& viewport)
-{
-    Background result;
-    if (viewport == osg::NullFC) {
-        return result;
-    }
-    const auto solid = osg::SolidBackgroundPtr::dcast(viewport->getBackground());
-    const auto uber = osg::UberViewportPtr::dcast(viewport);
-    if (solid != osg::NullFC) {
-        const osg::Color3f color = solid->getColor();
-        result.top = result.bottom = osg::Color4f(color.red(), color.green(), color.blue(), 1.f);
-    } else if (uber != osg::NullFC) {
-        result.top = uber->getBackgroundTop();
-        result.bottom = uber->getBackgroundBottom();
-    }
-    return result;
-}
 
 bool isZUp(const osg::CameraPtr& camera)
 {
@@ -147,9 +122,10 @@ struct nbRenderAction::Impl
 {
     bool prepareContext(std::string& error);
     void forgetContext();
-    void drawBackground(const Background& background);
+    void clear();
     void drawScene(const osg::ViewportPtr& viewport, int widthPx, int heightPx);
-    void present(int widthPx, int heightPx, osg::UInt32 targetFramebuffer);
+    void present(const osg::ViewportPtr& viewport, int widthPx, int heightPx,
+                 osg::UInt32 targetFramebuffer);
     void collect();
     bool fail(const std::string& reason);
 
@@ -167,6 +143,8 @@ struct nbRenderAction::Impl
     ShaderPrograms programs;
     nbrender::GpuMeshes meshes;
     nbrender::GpuTextures textures;
+    nbrender::BackgroundPainter background;
+    nbrender::MagnifierPainter magnifier;
     nbrender::ItemList list;
     Statistics statistics;
     unsigned int framesSinceCollection = 0;
@@ -208,37 +186,22 @@ void nbRenderAction::Impl::forgetContext()
     programs.forget();
     meshes.forget();
     textures.forget();
+    background.forget();
+    magnifier.forget();
     emptyArray = 0;
     context.clear();
     gl = nullptr;
 }
 
-void nbRenderAction::Impl::drawBackground(const Background& background)
+void nbRenderAction::Impl::clear()
 {
     constexpr GLfloat kNothing[] = { 0.f, 0.f, 0.f, 0.f };
     const GLfloat farthest = depth.getClearValue();
     gl->glDisable(GL_SCISSOR_TEST);
-    gl->glDisable(GL_DEPTH_TEST);
-    gl->glDisable(GL_BLEND);
-    gl->glDisable(GL_CULL_FACE);
-    gl->glDisable(GL_STENCIL_TEST);
-    // Colours reach the frame buffer as they are.
-    gl->glDisable(GL_FRAMEBUFFER_SRGB);
-    gl->glDisable(GL_DITHER);
     gl->glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
     gl->glDepthMask(GL_TRUE);
     gl->glClearBufferfv(GL_COLOR, 1, kNothing);
     gl->glClearBufferfv(GL_DEPTH, 0, &farthest);
-    GlProgram& program = programs.getStandard(ShaderPrograms::Standard::Background);
-    program.use(*gl);
-    const osg::Color4f& top = background.top;
-    const osg::Color4f& bottom = background.bottom;
-    program.set(*gl, "topColor", top.red(), top.green(), top.blue(), top.alpha());
-    program.set(*gl, "bottomColor", bottom.red(), bottom.green(), bottom.blue(), bottom.alpha());
-    gl->glColorMaski(1, GL_FALSE, GL_FALSE, GL_FALSE, GL_FALSE);
-    gl->glBindVertexArray(emptyArray);
-    gl->glDrawArrays(GL_TRIANGLES, 0, 3);
-    gl->glColorMaski(1, GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
 }
 
 void nbRenderAction::Impl::drawScene(const osg::ViewportPtr& viewport, int widthPx, int heightPx)
@@ -275,7 +238,8 @@ void nbRenderAction::Impl::drawScene(const osg::ViewportPtr& viewport, int width
     statistics.items = list.getItems().size();
 }
 
-void nbRenderAction::Impl::present(int widthPx, int heightPx, osg::UInt32 targetFramebuffer)
+void nbRenderAction::Impl::present(const osg::ViewportPtr& viewport, int widthPx, int heightPx,
+                                   osg::UInt32 targetFramebuffer)
 {
     const auto shown = effectShown ? FrameTargets::Buffer::Effect : FrameTargets::Buffer::Color;
     targets.resolve(*gl, shown);
@@ -289,6 +253,9 @@ void nbRenderAction::Impl::present(int widthPx, int heightPx, osg::UInt32 target
     gl->glBindTexture(GL_TEXTURE_2D, targets.getTexture(shown));
     gl->glBindVertexArray(emptyArray);
     gl->glDrawArrays(GL_TRIANGLES, 0, 3);
+    if (nbrender::MagnifierPainter::isShown(viewport)) {
+        magnifier.draw(*gl, targets.getTexture(shown), widthPx, heightPx, pixelRatio, emptyArray);
+    }
     gl->glBindTexture(GL_TEXTURE_2D, 0);
     gl->glBindVertexArray(0);
     gl->glUseProgram(0);
@@ -344,13 +311,16 @@ bool nbRenderAction::render(const osg::ViewportPtr& viewport, int widthPx, int h
     }
     impl->lastFailure.clear();
     impl->gl->glViewport(0, 0, widthPx, heightPx);
-    impl->drawBackground(backgroundOf(viewport));
+    impl->clear();
+    impl->background.draw(*impl->gl, viewport,
+                          { widthPx, heightPx, impl->shiftX, impl->shiftY, impl->emptyArray },
+                          impl->programs, impl->textures);
     impl->statistics.items = 0;
     impl->statistics.drawn = 0;
     if (viewport != osg::NullFC && viewport->getCamera() != osg::NullFC) {
         impl->drawScene(viewport, widthPx, heightPx);
     }
-    impl->present(widthPx, heightPx, targetFramebuffer);
+    impl->present(viewport, widthPx, heightPx, targetFramebuffer);
     impl->collect();
     return true;
 }
@@ -403,6 +373,8 @@ void nbRenderAction::release()
         impl->programs.release(*impl->gl);
         impl->meshes.release(*impl->gl);
         impl->textures.release(*impl->gl);
+        impl->background.release(*impl->gl);
+        impl->magnifier.release(*impl->gl);
         impl->gl->glDeleteVertexArrays(1, &impl->emptyArray);
     }
     impl->forgetContext();

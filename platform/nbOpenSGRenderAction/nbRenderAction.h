@@ -35,8 +35,10 @@
 /// A program that does not compile costs one line in the log,
 /// and its items are drawn in plain colour.
 ///
-/// The background is the gradient of an UberViewport, or the colour of a SolidBackground, or black.
-/// Of an UberCamera, near and far are set to enclose the scene and handles around it.
+/// The background is the gradient of an UberViewport, or the colour of a SolidBackground, or black,
+/// and over it the UberViewport's photograph. Over pictures of the main render widget lies the lens
+/// of nbMagnifierRenderer while that is shown; the buffers that can be read do not have it. Of an
+/// UberCamera, near and far are set to enclose the scene and handles around it.
 class NB_PLATFORM_API nbRenderAction
 {
 public:
