@@ -204,7 +204,10 @@ void PerspectiveMatchVisualisation::setCamera(const osg::UberCameraPtr& camera)
         upAxis = camera->isZUp() ? 2 : 1;
         const bool isVertical =
             nbCameraUtils::getVerticalSizing(camera, changed.widthPx, changed.heightPx);
-        changed.referencePx = static_cast<float>(isVertical ? changed.heightPx : changed.widthPx);
+        const int referencePx = isVertical ? changed.heightPx : changed.widthPx;
+        if (referencePx > 0) {
+            changed.referencePx = static_cast<float>(referencePx);
+        }
     }
     setView(changed);
 }
@@ -217,6 +220,7 @@ void PerspectiveMatchVisualisation::setView(const MatchView& newView)
     view = newView;
     const osg::Matrix clipFromLine = clipFromLineUnits(view);
     for (const Pen* pen : { &axisPens[0], &axisPens[1], &axisPens[2], &highlightPen }) {
+        const EditBracket edit(pen->shader, osg::FieldBits::AllFields);
         pen->shader->setUniformParameter("viewProjectionMatrix", clipFromLine);
     }
     for (std::size_t i = 0; i < kMatchLineCount; ++i) {
@@ -275,8 +279,9 @@ void PerspectiveMatchVisualisation::styleAxis(std::size_t axis)
     const Pen& pen = axisPens[axis];
     const bool isUsed = match.isAxisUsed[axis];
     const ColorRow color = isUsed ? kAxisColors[axis] : faint(kAxisColors[axis]);
+    const EditBracket shaderEdit(pen.shader, osg::FieldBits::AllFields);
     pen.shader->setUniformParameter("color", osg::Vec4f(color.red, color.green, color.blue, 1.0F));
-    const EditBracket edit(pen.line, osg::LineChunk::WidthFieldMask);
+    const EditBracket lineEdit(pen.line, osg::LineChunk::WidthFieldMask);
     pen.line->setWidth(isUsed ? kLineWidthPx : kUnusedWidthPx);
 }
 
