@@ -79,7 +79,7 @@ PerspectiveMatchManipulator::~PerspectiveMatchManipulator()
     detail::unregisterInstance(_allManipulators, this);
 }
 
-void PerspectiveMatchManipulator::connectToServices()
+void PerspectiveMatchManipulator::connectToServices() const
 {
     const auto* const service = nbKernelServiceFactory::the().get<nbObjectService>();
     if (service != nullptr) {

@@ -86,7 +86,8 @@ public:
     void setCamera(osg::UberCameraPtr camera);
 
 private:
-    void connectToServices();
+    void connectToServices() const;
+    Q_SLOT void propertyChanged(const nbdObject& object, const QByteArray& property);
     void updateManipulator();
     nbdCameraNode getNbdCameraNode() const;
     osg::Line2D getLine(PerspectiveMatchLine which) const;
@@ -115,10 +116,6 @@ private:
 
     static void updateAllManipulators();
 
-private Q_SLOTS:
-    void propertyChanged(const nbdObject& object, const QByteArray& property);
-
-private:
     static const std::array<PerspectiveMatchLine, 6> kLines;
     static std::vector<PerspectiveMatchManipulator*> _allManipulators;
 
