@@ -2,6 +2,7 @@
 #include "viewer/core/Stage.h"
 
 #include "viewer/core/ClipPlanes.h"
+#include "viewer/core/ObjectCommands.h"
 #include "viewer/core/SceneBuilder.h"
 #include "viewer/core/StageTool.h"
 #include "viewer/core/StartScene.h"
@@ -77,6 +78,7 @@ Stage::Stage(nbOSGWidget& view)
     manager.addContext(&cameraContext);
     selectionCallback = nbSelection::addChangedCallback([this] { selectionChanged(); });
     addCommands();
+    addObjectCommands(*this);
 }
 
 void Stage::addCommands()
@@ -253,6 +255,7 @@ void Stage::clear()
     }
     triangles = 0;
     nbUndoService::the()->clear();
+    changed();
 }
 
 osg::NodePtr Stage::add(const ModelData& model)
