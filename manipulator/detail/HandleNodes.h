@@ -4,6 +4,7 @@
 #include <nbOpenSGExt/Transform3D.h>
 
 #include <OpenSG/OSGMaterial.h>
+#include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGQuaternion.h>
 #include <OpenSG/OSGVector.h>
