@@ -99,6 +99,23 @@ QString PerspectiveMatchTool::photograph() const
     return pictureName(stage.view().getUberViewport()->getPhotograph());
 }
 
+void PerspectiveMatchTool::setVeil(double opacity)
+{
+    photographVeil = opacity;
+    applyVeil();
+}
+
+void PerspectiveMatchTool::applyVeil()
+{
+    const osg::UberViewportPtr viewport = stage.view().getUberViewport();
+    const auto wanted = static_cast<float>(active ? photographVeil : 0.0);
+    if (viewport->getPhotographVeil() != wanted) {
+        const nbEdit edit(viewport, osg::UberViewport::PhotographVeilFieldMask);
+        viewport->setPhotographVeil(wanted);
+        stage.view().update();
+    }
+}
+
 // == The lines
 
 void PerspectiveMatchTool::showLines(bool on)
@@ -202,6 +219,7 @@ QString PerspectiveMatchTool::resultText() const
 void PerspectiveMatchTool::activate()
 {
     active = true;
+    applyVeil();
     if (!linesLaid) {
         const nbScopedUndo muted(false);
         camera().layLinesAsSeen();
@@ -216,6 +234,7 @@ void PerspectiveMatchTool::deactivate()
 {
     leavePointer();
     active = false;
+    applyVeil();
 }
 
 void PerspectiveMatchTool::takePointer()
@@ -236,6 +255,7 @@ void PerspectiveMatchTool::sceneCleared()
 {
     QString none;
     setPhotograph({}, none);
+    setVeil(kUsualVeil);
     showLines(true);
     const nbScopedUndo muted(false);
     const nbdPerspectiveMatch match = camera().getPerspectiveMatch();

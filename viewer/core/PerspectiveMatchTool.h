@@ -29,6 +29,7 @@ class Stage;
 class PerspectiveMatchTool : public StageTool
 {
 public:
+    static constexpr double kUsualVeil = 0.4;
     static constexpr int kLineCount = nbdPerspectiveMatch::kLineCount;
 
     /// @param targetStage  where this is added as a tool; outlives this
@@ -45,6 +46,13 @@ public:
     bool setPhotograph(const QString& file, QString& error);
     /// Its name without folder, "" for none.
     QString photograph() const;
+
+    /// How much the photograph also covers the models while this is active, so that its edges are
+    /// seen through them.
+    double veil() const { return photographVeil; }
+
+    /// @param opacity  0 .. 1
+    void setVeil(double opacity);
 
     // == The lines
 
@@ -94,6 +102,7 @@ private:
     void follow(const nbdObject& object, const QByteArray& property);
     void takePointer();
     void leavePointer();
+    void applyVeil();
     bool isRefused(QString& error) const;
 
     Stage& stage;
@@ -101,6 +110,7 @@ private:
     nbec::manipulator::PerspectiveMatchManipulator manipulator;
     DragContext context;
     QObject listener;
+    double photographVeil = kUsualVeil;
     bool active = false;
     bool linesShown = true;
     bool linesLaid = false;
