@@ -79,6 +79,9 @@ public:
     /// @return -1 for an unknown word
     static int lineByName(const QString& word);
 
+    /// Whether a name is that of a line or of an end of one, such as "x1" or "z2b".
+    static bool isHandle(const std::string& handle);
+
     /// What the lines say about the camera, one line for a person.
     QString resultText() const;
 
