@@ -50,7 +50,7 @@ const LineAccess* accessOf(PerspectiveMatchLine line)
 osg::ViewportPtr mainViewport()
 {
     const nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1);
-    return widget != nullptr ? widget->getViewport() : osg::NullFC;
+    return widget != nullptr ? widget->getViewport() : osg::ViewportPtr();
 }
 
 QString commandTitle(const nbdCameraNode& camera)
@@ -79,7 +79,7 @@ PerspectiveMatchManipulator::~PerspectiveMatchManipulator()
     detail::unregisterInstance(_allManipulators, this);
 }
 
-void PerspectiveMatchManipulator::connectToServices()
+void PerspectiveMatchManipulator::connectToServices() const
 {
     const auto* const service = nbKernelServiceFactory::the().get<nbObjectService>();
     if (service != nullptr) {

@@ -95,7 +95,8 @@ public:
     osg::UInt32 getHoveredPart() const { return hovered || grabbed ? handle : 0; }
 
 private:
-    void connectToServices();
+    void connectToServices() const;
+    Q_SLOT void propertyChanged(const nbdObject& object, const QByteArray& property);
     void updateManipulator();
     nbdCameraNode getNbdCameraNode() const;
     osg::Line2D getLine(PerspectiveMatchLine which) const;
@@ -124,10 +125,6 @@ private:
 
     static void updateAllManipulators();
 
-private Q_SLOTS:
-    void propertyChanged(const nbdObject& object, const QByteArray& property);
-
-private:
     static const std::array<PerspectiveMatchLine, 6> kLines;
     static std::vector<PerspectiveMatchManipulator*> _allManipulators;
 

@@ -117,8 +117,10 @@ public:
         }
         const double period = (dashPx + kGapPx) * view.pixelRatio;
         const double phase = std::isfinite(course.begin) ? course.begin : 0.0;
-        double dash = phase + std::floor((seen.begin - phase) / period) * period;
-        for (; dash < seen.end; dash += period) {
+        const double firstDash = std::floor((seen.begin - phase) / period);
+        const auto count = static_cast<int>(std::ceil((seen.end - phase) / period - firstDash));
+        for (int i = 0; i < count; ++i) {
+            const double dash = phase + (firstDash + i) * period;
             const double from = std::max(dash, seen.begin);
             const double to = std::min(dash + dashPx * view.pixelRatio, seen.end);
             if (from < to) {

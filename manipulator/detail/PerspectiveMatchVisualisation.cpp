@@ -3,6 +3,7 @@
 
 #include "manipulator/detail/EditBracket.h"
 #include "manipulator/detail/HandleGroup.h"
+#include "manipulator/detail/HandleMaterials.h"
 #include "manipulator/detail/HandleNodes.h"
 #include "manipulator/detail/NodeVisibility.h"
 #include "manipulator/nbManipulatorMaterials.h"
@@ -111,19 +112,6 @@ osg::GeometryPtr geometryOf(const osg::NodePtr& node)
     return osg::GeometryPtr::dcast(node->getCore());
 }
 
-/// A node with a geometry of its own that shares the properties of another one.
-osg::NodePtr makeSharingNode(const osg::GeometryPtr& prototype)
-{
-    const osg::GeometryPtr geometry = osg::Geometry::create();
-    {
-        const EditBracket edit(geometry, osg::FieldBits::AllFields);
-        geometry->setTypes(prototype->getTypes());
-        geometry->setLengths(prototype->getLengths());
-        geometry->setPositions(prototype->getPositions());
-    }
-    return makeNode(geometry);
-}
-
 osg::Pnt3f inPlane(const osg::Pnt2f& point)
 {
     return osg::Pnt3f(point.x(), point.y(), 0.0F);
@@ -164,18 +152,11 @@ PerspectiveMatchVisualisation::Pen
 PerspectiveMatchVisualisation::makePen(const osg::Color4f& color, float widthPx, int sortKey)
 {
     Pen pen;
-    pen.material = nbManipulatorMaterials::createProjectionMaterial(color, sortKey);
-    osg::ChunkMaterialPtr material = pen.material.get();
-    osg::subRefCP(material);  // the reference that belongs to the caller; the pen has its own now
-    pen.shader = osg::SHLChunkPtr::dcast(material->find(osg::SHLChunk::getClassType()));
-    pen.line = osg::LineChunk::create();
-    {
-        const EditBracket edit(pen.line, osg::FieldBits::AllFields);
-        pen.line->setWidth(widthPx);
-        pen.line->setSmooth(true);
-    }
-    const EditBracket edit(material, osg::ChunkMaterial::ChunksFieldMask);
-    material->addChunk(pen.line);
+    pen.material = adopt(nbManipulatorMaterials::createProjectionMaterial(color, sortKey));
+    pen.shader = osg::SHLChunkPtr::dcast(pen.material->find(osg::SHLChunk::getClassType()));
+    pen.line = makeLineChunk(widthPx);
+    const EditBracket edit(pen.material.get(), osg::ChunkMaterial::ChunksFieldMask);
+    pen.material->addChunk(pen.line);
     return pen;
 }
 
@@ -211,7 +192,8 @@ void PerspectiveMatchVisualisation::setCamera(const osg::UberCameraPtr& camera)
 {
     MatchView changed = view;
     const nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1);
-    const osg::ViewportPtr viewport = widget != nullptr ? widget->getViewport() : osg::NullFC;
+    const osg::ViewportPtr viewport =
+        widget != nullptr ? widget->getViewport() : osg::ViewportPtr();
     if (viewport != osg::NullFC) {
         changed.widthPx = viewport->getPixelWidth();
         changed.heightPx = viewport->getPixelHeight();
@@ -222,7 +204,10 @@ void PerspectiveMatchVisualisation::setCamera(const osg::UberCameraPtr& camera)
         upAxis = camera->isZUp() ? 2 : 1;
         const bool isVertical =
             nbCameraUtils::getVerticalSizing(camera, changed.widthPx, changed.heightPx);
-        changed.referencePx = static_cast<float>(isVertical ? changed.heightPx : changed.widthPx);
+        const int referencePx = isVertical ? changed.heightPx : changed.widthPx;
+        if (referencePx > 0) {
+            changed.referencePx = static_cast<float>(referencePx);
+        }
     }
     setView(changed);
 }
@@ -235,6 +220,7 @@ void PerspectiveMatchVisualisation::setView(const MatchView& newView)
     view = newView;
     const osg::Matrix clipFromLine = clipFromLineUnits(view);
     for (const Pen* pen : { &axisPens[0], &axisPens[1], &axisPens[2], &highlightPen }) {
+        const EditBracket edit(pen->shader, osg::FieldBits::AllFields);
         pen->shader->setUniformParameter("viewProjectionMatrix", clipFromLine);
     }
     for (std::size_t i = 0; i < kMatchLineCount; ++i) {
@@ -293,8 +279,9 @@ void PerspectiveMatchVisualisation::styleAxis(std::size_t axis)
     const Pen& pen = axisPens[axis];
     const bool isUsed = match.isAxisUsed[axis];
     const ColorRow color = isUsed ? kAxisColors[axis] : faint(kAxisColors[axis]);
+    const EditBracket shaderEdit(pen.shader, osg::FieldBits::AllFields);
     pen.shader->setUniformParameter("color", osg::Vec4f(color.red, color.green, color.blue, 1.0F));
-    const EditBracket edit(pen.line, osg::LineChunk::WidthFieldMask);
+    const EditBracket lineEdit(pen.line, osg::LineChunk::WidthFieldMask);
     pen.line->setWidth(isUsed ? kLineWidthPx : kUnusedWidthPx);
 }
 

@@ -25,8 +25,8 @@ namespace nbec::manipulator::detail {
 /// widget; the materials' own matrix brings them to the picture, so that the scene's camera plays
 /// no role. Sizes are logical pixels. Lines of an axis that the vanishing-lines type does not use
 /// are thin and grey-tinted, but can still be moved: they keep their places for when the type
-/// changes. A line under the pointer, or grabbed, is orange and
-/// wider; with a line its two rings are.
+/// changes. What is under the pointer, or grabbed, is orange and wider; with a line its two rings
+/// are.
 ///
 /// While a part is dragged, dashes extend the lines of each used axis to the point where they
 /// vanish, marked with a cross, and long orange dashes show the horizon through the vanishing
@@ -51,7 +51,8 @@ public:
     void setPixelRatio(float ratio);
 
     /// Takes the size of the main widget's viewport and its reference size for a camera: the height
-    /// if the camera is sized vertically, else the width.
+    /// if the camera is sized vertically, else the width. A view without area, such as that of a
+    /// window that was minimised during a drag, keeps the reference size that it had.
     /// @param camera  null: the reference size is that of before the first camera, 1080
     void setCamera(const osg::UberCameraPtr& camera);
 

@@ -133,7 +133,7 @@ void BackgroundPainter::drawPhotograph(Gl& gl, const osg::ViewportPtr& viewport,
         }
     }
     const osg::ImagePtr image = osg::UberViewportPtr::dcast(viewport)->getPhotograph();
-    const GLuint texture = textures.get(gl, image).name;
+    const GLuint texture = textures.get(gl, image, false).name;
     if (!photograph.isUsable() || texture == 0) {
         return;
     }

@@ -296,7 +296,7 @@ void nbRenderAction::Impl::drawItems(const FrameView& view, const std::vector<os
         if (isWanted &&
             (placesItself(list, item) ||
              nbrender::isInView(item.bounds, view.usualClipFromWorld, item.handle))) {
-            painter.draw(item, list.getStates()[item.stateIndex], list.getClipPlanes(item.clipSet));
+            painter.draw(item, list);
             ++statistics.drawn;
         }
     }

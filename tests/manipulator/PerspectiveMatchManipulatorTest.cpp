@@ -150,9 +150,13 @@ TEST_F(PerspectiveMatchManipulatorTest, EveryStepButTheFirstIsAnUndoStepWithATit
         EXPECT_EQ(stepCount(), i);
     }
     scene.send("process", from);
-    EXPECT_EQ(stepCount(), 4) << "back at its start: one more step, the same values";
+    EXPECT_EQ(stepCount(), 4) << "back at its start: one more step";
+    expectLine(match().getYLine2(), before);
+    scene.send("process", from);
+    EXPECT_EQ(stepCount(), 5) << "even if no value changes";
+    nbUndoService::the()->undo();
     scene.send("stop", from);
-    EXPECT_EQ(stepCount(), 4);
+    EXPECT_EQ(stepCount(), 5) << "the one that was undone can be redone";
 
     EXPECT_EQ(nbUndoService::the()->getStack()->undoText(),
               "Change Perspective Match lines of camera " + scene.cameraNode().getName());
@@ -248,19 +252,17 @@ TEST_F(PerspectiveMatchManipulatorTest, ACameraThatIsDestroyedReadsAsNone)
     EXPECT_FALSE(scene.send("hover", from));
 }
 
-TEST_F(PerspectiveMatchManipulatorTest, WithoutAViewADragStandsStill)
+TEST_F(PerspectiveMatchManipulatorTest, AViewWithoutAreaKeepsItsUnit)
 {
     const QLineF before = match().getXLine1();
-    PerspectiveMatchManipulator other;
     ASSERT_TRUE(scene.grab(before.center()));
     scene.widget.resize(0, 0);
+    EXPECT_TRUE(drawnLine(gizmo, 1).isNull());
     scene.send("process", osg::Pnt2f(0, 0));
     scene.send("process", osg::Pnt2f(3, 3));
-    scene.send("stop", osg::Pnt2f(3, 3));
-
-    EXPECT_FALSE(other.processManipulator(nullptr, "select")) << "nothing held";
-    EXPECT_FALSE(other.startManipulator(nullptr, "select"));
-    EXPECT_FALSE(other.hoverManipulator(nullptr, "select")) << "no context, no camera";
+    EXPECT_TRUE(scene.send("stop", osg::Pnt2f(3, 3)));
+    expectLine(match().getXLine1(), before.translated(0.003, -0.003));
+    EXPECT_FALSE(scene.send("hover", osg::Pnt2f(3, 3)));
 }
 
 // == Hovering, grabbing and the magnifier
@@ -465,6 +467,27 @@ TEST_F(PerspectiveMatchManipulatorTest, AllInstancesFollowTheView)
 }
 
 // == Construction
+
+TEST(PerspectiveMatchManipulator, WithoutARenderWidgetNothingIsHandled)
+{
+    const osg::RefPtr<osg::UberCameraPtr> camera(osg::UberCamera::create());
+    PerspectiveMatchManipulator gizmo;
+    {
+        MatchScene scene;
+        gizmo.activate(&scene.context);
+        gizmo.setCamera(scene.widget.getUberCamera());
+        gizmo.setMousePosition(scene.pixelOf(scene.match().getXLine1().p1()));
+        ASSERT_TRUE(gizmo.hoverManipulator(&scene.context, "select"));
+        ASSERT_TRUE(gizmo.startManipulator(&scene.context, "select"));
+        EXPECT_TRUE(gizmo.processManipulator(&scene.context, "select"));
+    }
+    EXPECT_FALSE(gizmo.processManipulator(nullptr, "select"));
+    EXPECT_TRUE(gizmo.stopManipulator(nullptr, "select"));
+    gizmo.setCamera(camera.get());
+    EXPECT_FALSE(gizmo.processManipulator(nullptr, "select"));
+    EXPECT_FALSE(gizmo.stopManipulator(nullptr, "select"));
+    gizmo.deactivate(nullptr);
+}
 
 TEST(PerspectiveMatchManipulator, MissingServicesAreReportedOnceAndDoNoHarm)
 {

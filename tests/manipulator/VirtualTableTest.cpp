@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/ManipulatorInteractionContext.h"
 #include "manipulator/PerspectiveMatchManipulator.h"
+#include "manipulator/PlanarTextureManipulator.h"
 #include "manipulator/UniversalTransformManipulator2.h"
 #include "manipulator/nbSceneplatePickTool.h"
 #include "tests/platform/support/VirtualSlot.h"
@@ -62,6 +63,15 @@ TEST(VirtualTable, SubclassesAppendInTheirFixedOrder)
     }
 }
 
+TEST(VirtualTable, ThePlanarGizmoAppendsNothing)
+{
+    using Gizmo = PlanarTextureManipulator;
+    EXPECT_EQ(virtualSlot(&Gizmo::update), 5);
+    EXPECT_EQ(virtualSlot(&Gizmo::startManipulator), 6);
+    EXPECT_EQ(virtualSlot(&Gizmo::resetManipulator), 12);
+    EXPECT_EQ(virtualSlot(&Gizmo::setNode), virtualSlot(&NodeManipulator::setNode));
+}
+
 TEST(VirtualTable, AnObjectOfQtThatManipulatesIsAnObjectFirst)
 {
     using Gizmo = PerspectiveMatchManipulator;
@@ -103,7 +113,7 @@ TEST(VirtualTable, TheContextKeepsTheOrderOfItsBase)
 TEST(VirtualTable, ThePlateToolKeepsTheOrderOfItsBase)
 {
     using Tool = nbSceneplatePickTool;
-    const std::vector<std::ptrdiff_t> slots = {
+    const std::vector<std::ptrdiff_t> places = {
         virtualSlot(&Tool::setToolMode),    virtualSlot(&Tool::activateTool),
         virtualSlot(&Tool::deactivateTool), virtualSlot(&Tool::isActive),
         virtualSlot(&Tool::startTool),      virtualSlot(&Tool::processTool),
@@ -111,8 +121,8 @@ TEST(VirtualTable, ThePlateToolKeepsTheOrderOfItsBase)
         virtualSlot(&Tool::hoverTool),      virtualSlot(&Tool::stopHoverTool),
         virtualSlot(&Tool::isPickHint)
     };
-    for (std::size_t i = 0; i < slots.size(); ++i) {
-        EXPECT_EQ(slots[i], static_cast<std::ptrdiff_t>(i));
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        EXPECT_EQ(places[i], static_cast<std::ptrdiff_t>(i));
     }
 }
 
