@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/core/HandleCursor.h"
 
+#include "viewer/core/PerspectiveMatchTool.h"
 #include "viewer/core/Stage.h"
 
 #include <nbOpenSGUtils/nbNodeUtils.h>
@@ -93,7 +94,7 @@ HandleAction actionOfHandle(const std::string& handle)
             return row.action;
         }
     }
-    return HandleAction::None;
+    return PerspectiveMatchTool::isHandle(handle) ? HandleAction::MoveInPlane : HandleAction::None;
 }
 
 HandleCursor cursorOfHandle(Stage& stage, const std::string& handle)
