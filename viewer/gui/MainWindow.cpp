@@ -4,6 +4,7 @@
 #include "viewer/core/ModelReader.h"
 #include "viewer/gui/MessageBar.h"
 #include "viewer/gui/ObjectPanel.h"
+#include "viewer/gui/PlatesPanel.h"
 #include "viewer/gui/ScenePanel.h"
 #include "viewer/gui/SessionPlayer.h"
 #include "viewer/gui/SessionRecorder.h"
@@ -163,6 +164,7 @@ void MainWindow::createPanels()
     Stage& stage = viewWidget->stage();
     addPanel(new ScenePanel(stage), tr("Objects"), QStringLiteral("sceneDock"));
     addPanel(new ObjectPanel(stage), tr("Properties"), QStringLiteral("objectDock"));
+    addPanel(new PlatesPanel(stage), tr("Scene plates"), QStringLiteral("platesDock"));
 }
 
 void MainWindow::addPanel(Panel* panel, const QString& title, const QString& name)
