@@ -102,6 +102,7 @@ PlatesTool::~PlatesTool()
 {
     stage.commands().remove(QStringLiteral("plates."));
     stage.removeTool(*this);
+    sceneCleared();
     dragContext.setManipulator(nullptr);
     manipulator.setVisualisationRoot(osg::NodePtr());
 }

@@ -49,6 +49,7 @@ class PlatesTool : public StageTool
 public:
     /// Adds itself and its commands to the stage. @param targetStage  outlives this
     explicit PlatesTool(Stage& targetStage);
+    /// Removes the plates.
     ~PlatesTool() override;
 
     const char* name() const override { return "plates"; }

@@ -295,8 +295,11 @@ void PlatesPanel::changeItem(QListWidgetItem* item)
 {
     const QString name = item->data(kNameRole).toString();
     if (item->text() != name) {
-        run(QStringLiteral("plates.select"), QJsonArray { name });
-        run(QStringLiteral("plates.name"), item->text());
+        // A command shows the list anew.
+        const QString wanted = item->text();
+        if (run(QStringLiteral("plates.select"), QJsonArray { name })) {
+            run(QStringLiteral("plates.name"), wanted);
+        }
         return;
     }
     run(QStringLiteral("plates.visible"),
