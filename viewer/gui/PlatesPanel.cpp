@@ -107,6 +107,9 @@ QBoxLayout* PlatesPanel::createButtons()
     QToolButton* picture =
         addButton(row, "plates.addPicture", tr("Picture…"), tr("Add a picture from a file"));
     connect(picture, &QToolButton::clicked, this, &PlatesPanel::askForPicture);
+    QToolButton* plain =
+        addButton(row, "plates.addColor", tr("Colour…"), tr("Add a plate of plain colour"));
+    connect(plain, &QToolButton::clicked, this, &PlatesPanel::askForColor);
     row->addStretch();
 
     const struct
@@ -265,6 +268,16 @@ void PlatesPanel::askForPicture()
     const QString file = QFileDialog::getOpenFileName(this, tr("Add picture"), {}, pictureFilter());
     if (!file.isEmpty()) {
         run(QStringLiteral("plates.addPicture"), QJsonObject { { QStringLiteral("file"), file } });
+    }
+}
+
+void PlatesPanel::askForColor()
+{
+    const QColor chosen =
+        QColorDialog::getColor(Qt::black, this, {}, QColorDialog::ShowAlphaChannel);
+    if (chosen.isValid()) {
+        run(QStringLiteral("plates.addColor"),
+            QJsonObject { { QStringLiteral("color"), chosen.name(QColor::HexArgb) } });
     }
 }
 

@@ -58,6 +58,7 @@ private:
 
     QJsonValue valueOf(const char* command) const;
     void askForPicture();
+    void askForColor();
     void addText();
     void selectRows();
     void changeItem(QListWidgetItem* item);
