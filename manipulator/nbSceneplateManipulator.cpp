@@ -7,7 +7,6 @@
 #include "manipulator/detail/HandleNodes.h"
 #include "manipulator/detail/HandlePick.h"
 #include "manipulator/detail/InstanceRegistry.h"
-#include "manipulator/detail/MessageSending.h"
 #include "manipulator/detail/NodeVisibility.h"
 #include "manipulator/detail/ScreenScale.h"
 #include "manipulator/detail/ValueText.h"
@@ -19,13 +18,10 @@
 #include <nbOpenSGSceneplate/nbSceneplateList.h>
 #include <nbUtils/nbMessage.h>
 
-#include <OpenSG/OSGSimpleAttachments.h>
-
 #include <QtCore/QString>
 #include <QtGui/QVector2D>
 
 #include <algorithm>
-#include <string_view>
 
 #include <EditStamp.h>
 
@@ -54,6 +50,12 @@ PlateCorner cornerOf(Mode mode)
     default:
         return PlateCorner::UpperRight;
     }
+}
+
+/// The plate of a node; null if the node no longer exists or has another core.
+osg::SceneplatePtr resolvePlate(osg::UInt32 nodeId)
+{
+    return nbSceneplateList::plateOf(detail::resolveContainer<osg::NodePtr>(nodeId));
 }
 
 }  // namespace
@@ -88,9 +90,7 @@ nbSceneplateManipulator::~nbSceneplateManipulator()
 void nbSceneplateManipulator::activate(ManipulatorInteractionContext* ctx)
 {
     AbstractManipulator::activate(ctx);
-    if (ctx != nullptr && ctx->getPicker() != nullptr) {
-        pixelRatio = ctx->getPicker()->getPixelRatio();
-    }
+    followPixelRatio(ctx);
     updateManipulator();
 }
 
@@ -117,7 +117,9 @@ osg::NodePtr nbSceneplateManipulator::getCollider()
 
 void nbSceneplateManipulator::update(bool force)
 {
-    if (isActive() && (force || osg::glue::editStamp() != comparedStamp)) {
+    if (isActive() &&
+        (force || osg::glue::editStamp() != comparedStamp ||
+         nbOSGWidget::getMGLW(-1) != comparedWidget || unitPx() != comparedUnitPx)) {
         updateManipulator();
     }
 }
@@ -126,7 +128,7 @@ bool nbSceneplateManipulator::startManipulator(ManipulatorInteractionContext* ct
                                                const std::string& /*hint*/)
 {
     if (drag != nullptr) {
-        return false;  // its stop went elsewhere
+        endDrag();  // whose stop was lost
     }
     activeMode = detectMode(ctx);
     highlightMode(activeMode);
@@ -143,7 +145,7 @@ bool nbSceneplateManipulator::startManipulator(ManipulatorInteractionContext* ct
     started->pressedPx = widget->getMousePosition();
     drag = std::move(started);
     showElements(activeMode);
-    detail::pauseMaterialPreview();
+    drag->preview.begin();
     return true;
 }
 
@@ -172,7 +174,7 @@ bool nbSceneplateManipulator::stopManipulator(ManipulatorInteractionContext* /*c
     }
     endDrag();
     updateManipulator();
-    return !getPlates().empty();
+    return hasPlates();
 }
 
 bool nbSceneplateManipulator::hoverManipulator(ManipulatorInteractionContext* ctx,
@@ -237,40 +239,48 @@ std::vector<osg::NodePtr> nbSceneplateManipulator::getNodes() const
 std::vector<osg::SceneplatePtr> nbSceneplateManipulator::getPlates() const
 {
     std::vector<osg::SceneplatePtr> plates;
-    for (const osg::NodePtr& node : getNodes()) {
-        plates.push_back(nbSceneplateList::plateOf(node));
+    for (const osg::UInt32 id : nodeIds) {
+        const osg::SceneplatePtr plate = resolvePlate(id);
+        if (plate != osg::NullFC) {
+            plates.push_back(plate);
+        }
     }
     return plates;
+}
+
+bool nbSceneplateManipulator::hasPlates() const
+{
+    return std::any_of(nodeIds.begin(), nodeIds.end(),
+                       [](osg::UInt32 id) { return resolvePlate(id) != osg::NullFC; });
 }
 
 void nbSceneplateManipulator::updateManipulator()
 {
     const nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1);
-    const bool isShown =
-        isActive() && widget != nullptr && !getNodes().empty() && placeHandles(*widget);
+    const bool isShown = isActive() && widget != nullptr && hasPlates() && placeHandles(*widget);
     detail::showNode(handleTree.get(), isShown);
     if (isShown) {
         placeGuides(*widget);
     }
     comparedStamp = osg::glue::editStamp();
+    comparedWidget = widget;
+    comparedUnitPx = unitPx();
+}
+
+void nbSceneplateManipulator::followPixelRatio(const ManipulatorInteractionContext* ctx)
+{
+    if (ctx != nullptr && ctx->getPicker() != nullptr) {
+        pixelRatio = ctx->getPicker()->getPixelRatio();
+    }
 }
 
 nbSceneplateManipulator::ActiveMode
 nbSceneplateManipulator::detectMode(ManipulatorInteractionContext* ctx)
 {
-    if (ctx != nullptr && ctx->getPicker() != nullptr) {
-        pixelRatio = ctx->getPicker()->getPixelRatio();
-    }
-    updateManipulator();
-    const osg::NodePtr hit = detail::pickHandle(ctx);
-    const char* const name = hit != osg::NullFC ? osg::getName(hit) : nullptr;
-    if (name == nullptr) {
-        return ActiveMode::None;
-    }
-    const auto row = std::find_if(kHandles.begin(), kHandles.end(), [name](const HandleRow& known) {
-        return std::string_view(name) == known.name;
-    });
-    return row != kHandles.end() ? row->mode : ActiveMode::None;
+    followPixelRatio(ctx);
+    update(false);
+    const HandleRow* const row = detail::findHandleRow(kHandles, detail::pickHandle(ctx));
+    return row != nullptr ? row->mode : ActiveMode::None;
 }
 
 // == Dragging
@@ -278,8 +288,7 @@ nbSceneplateManipulator::detectMode(ManipulatorInteractionContext* ctx)
 bool nbSceneplateManipulator::canGoOn(const nbOSGWidget* widget) const
 {
     return drag != nullptr && !drag->isBroken && widget != nullptr &&
-        widget->getWidth() == drag->widthPx && widget->getHeight() == drag->heightPx &&
-        !getNodes().empty();
+        widget->getWidth() == drag->widthPx && widget->getHeight() == drag->heightPx && hasPlates();
 }
 
 void nbSceneplateManipulator::dragTo(const osg::Pnt2f& pointerPx)
@@ -323,7 +332,6 @@ void nbSceneplateManipulator::endDrag()
     highlightMode(ActiveMode::None);
     showElements(ActiveMode::None);
     setDescription();
-    detail::resumeMaterialPreview();
 }
 
 void nbSceneplateManipulator::setDescription() const

@@ -35,8 +35,8 @@ class nbOSGWidget;
 ///   scale; the arm "rotateShape" with its knob turns. The origin of a handle's node is where it is
 ///   grabbed: centre of the frame, of the box, of the knob. Boxes win over arm and body.
 /// - Colours: frame and boxes yellow (they act on both axes), arm blue (it turns about the view
-///   axis), guide lines purple, orange highlights. During a drag only the grabbed handle and the
-///   frame are shown.
+///   axis), guide lines purple, orange highlights, all with a dark edge, so that they are seen on
+///   every plate. During a drag only the grabbed handle and the frame are shown.
 /// - Handles lie in a plane before the eye whose unit is a pixel (see detail/ScreenPlane.h). They
 ///   are drawn over plates and scene and picked as those of the other manipulators, and have one
 ///   size in logical pixels whatever the view's size: boxes 10, knob 12 across, arm 32 at the
@@ -88,8 +88,8 @@ public:
     osg::NodePtr getCollider() override;
 
     /// Places the handles for the plates, the camera and the view's size as they are now; the host
-    /// calls it before a picture. Nothing while inactive, or if nothing was edited since the last
-    /// time.
+    /// calls it before a picture. Nothing while inactive, or if nothing has changed since the last
+    /// time in the same view.
     /// @param force  places them in any case
     void update(bool force) override;
 
@@ -145,33 +145,47 @@ private:
     static constexpr std::size_t kHandleCount = 6;
     static constexpr std::size_t kGuideCount = 2;
     static constexpr std::size_t kPartCount = 2;
-    static constexpr std::size_t kMaterialCount = 8;
+    static constexpr std::size_t kColorCount = 5;
 
     struct HandleRow;
     static const std::array<HandleRow, kHandleCount> kHandles;
     struct Drag;
+
+    /// A piece of a handle that changes its colour: a node with a geometry core.
+    struct HandlePart
+    {
+        osg::NodePtr node;
+        bool isLine = false;
+    };
 
     /// The nodes of one row of the handle table; the handle tree keeps them alive.
     struct HandleNodes
     {
         osg::NodePtr top;
         osg::TransformPtr placement;  ///< core of the top
-        std::array<osg::NodePtr, kPartCount> parts;
+        std::array<HandlePart, kPartCount> parts;
     };
 
     void createMaterials();
     osg::NodePtr createManipulatorGeo();
-    static HandleNodes createHandle(const HandleRow& row);
+    static HandleNodes makeHandleNodes();
+    HandleNodes createHandle(const HandleRow& row) const;
+    void createBox(HandleNodes& box) const;
+    void createArm(HandleNodes& arm) const;
+    void createBody(HandleNodes& body) const;
     HandleNodes createGuide() const;
     void setHandleMaterials(std::size_t row, bool highlight);
     void highlightMode(ActiveMode mode);
     void showElements(ActiveMode grabbed);
 
     std::vector<osg::SceneplatePtr> getPlates() const;
+    /// Whether getPlates() has any.
+    bool hasPlates() const;
     ActiveMode detectMode(ManipulatorInteractionContext* ctx);
     void updateManipulator();
     bool placeHandles(const nbOSGWidget& widget);
     void placeGuides(const nbOSGWidget& widget);
+    void followPixelRatio(const ManipulatorInteractionContext* ctx);
     float unitPx() const;
     bool canGoOn(const nbOSGWidget* widget) const;
     void dragTo(const osg::Pnt2f& pointerPx);
@@ -199,6 +213,10 @@ private:
     osg::TransformPtr screenPlane;  ///< core of the handle tree: world from pixels
     std::array<HandleNodes, kHandleCount> handles;
     std::array<HandleNodes, kGuideCount> guides;  ///< the vertical and the horizontal one
-    std::array<osg::SimpleMaterialRefPtr, kMaterialCount> materials;
+    std::array<osg::SimpleMaterialRefPtr, kColorCount> solidMaterials;
+    std::array<osg::SimpleMaterialRefPtr, kColorCount> lineMaterials;
+    osg::SimpleMaterialRefPtr clearMaterial;  ///< of what is hit, but not seen
     osg::UInt64 comparedStamp = 0;  ///< edits seen by the last update, see EditStamp.h
+    const nbOSGWidget* comparedWidget = nullptr;  ///< of the last update, for comparison only
+    float comparedUnitPx = 0.0F;
 };

@@ -2,6 +2,7 @@
 #include "manipulator/detail/EditBracket.h"
 #include "manipulator/detail/HandleMaterials.h"
 #include "manipulator/detail/HandleNodes.h"
+#include "manipulator/detail/HandleShapes.h"
 #include "manipulator/detail/NodeVisibility.h"
 #include "manipulator/detail/ScreenPlane.h"
 #include "manipulator/detail/ScreenScale.h"
@@ -26,15 +27,22 @@ namespace detail = nbec::manipulator::detail;
 
 namespace {
 
-using Material = SceneplateMaterial;
+using Color = SceneplateColor;
+using Kind = SceneplateHandleKind;
 using Mode = nbSceneplateManipulator::ActiveMode;
 
 // Of what lies over each other the higher key is drawn nearer; layers of the plane part the rest.
 constexpr int kSolidSortKey = 64016;
 constexpr int kLineSortKey = 64015;
+constexpr int kShadowSortKey = 64014;
 constexpr float kFrameLayer = 0.0F;
 constexpr float kGuideLayer = 1.0F;
 constexpr float kHandleLayer = 2.0F;
+/// Of a handle's dark edge, from the handle.
+constexpr float kShadowLayer = -0.5F;
+/// By how much the dark edge is wider than what it surrounds, on each side.
+constexpr float kShadowWidth = 1.0F;
+constexpr float kShadowLineWidth = 4.0F;
 
 constexpr double kDegree = 3.14159265358979323846 / 180.0;
 constexpr float kSphereRadius = 0.125F;  ///< of the shape
@@ -42,22 +50,23 @@ constexpr float kShaftLength = 2.0F;  ///< of the shape
 /// A guide on the view's edge is drawn this far inside, so that all of its width is seen.
 constexpr float kGuideInset = 1.0F;
 
-struct MaterialRow
+struct ColorRow
 {
     float red, green, blue;
-    bool isLine;
 };
 
-constexpr std::array<MaterialRow, static_cast<std::size_t>(Material::Count)> kMaterials = {
-    { { 1.0F, 1.0F, 0.0F, false },
-      { 0.0F, 0.0F, 1.0F, false },
-      { 1.0F, 0.5F, 0.0F, false },
-      { 1.0F, 1.0F, 0.0F, true },
-      { 0.0F, 0.0F, 1.0F, true },
-      { 1.0F, 0.5F, 0.0F, true },
-      { 0.6F, 0.35F, 0.65F, true },
-      { 0.0F, 0.0F, 0.0F, false } }
+constexpr std::array<ColorRow, static_cast<std::size_t>(Color::Count)> kColors = {
+    { { 1.0F, 1.0F, 0.0F },
+      { 0.0F, 0.0F, 1.0F },
+      { 1.0F, 0.5F, 0.0F },
+      { 0.6F, 0.35F, 0.65F },
+      { 0.1F, 0.1F, 0.1F } }
 };
+
+constexpr std::size_t indexOf(Color color)
+{
+    return static_cast<std::size_t>(color);
+}
 
 /// Frame of a rectangle or handle in the plane of pixels: x and y along its own axes (y up on the
 /// screen while it is not turned), z in layers.
@@ -85,28 +94,34 @@ void setPlace(const osg::TransformPtr& core, const osg::Matrix& place)
     core->setMatrix(place);
 }
 
-/// Hangs a shape below a node, scaled and then moved along y.
-osg::NodePtr addShape(const osg::NodePtr& parent, HandleShape shape, const osg::Vec3f& scale,
-                      float y)
-{
-    const osg::ComponentTransformPtr core = osg::ComponentTransform::create();
-    {
-        const EditBracket edit(core, osg::FieldBits::AllFields);
-        core->setScale(scale);
-        core->setTranslation(osg::Vec3f(0.0F, y, 0.0F));
-    }
-    const osg::NodePtr place = detail::makeNode(core);
-    const osg::NodePtr shapeNode = detail::makeShapeNode(shape);
-    detail::addChild(place, shapeNode);
-    detail::addChild(parent, place);
-    return shapeNode;
-}
-
+/// Hangs a shape below a node.
 osg::NodePtr addShape(const osg::NodePtr& parent, HandleShape shape)
 {
     const osg::NodePtr shapeNode = detail::makeShapeNode(shape);
     detail::addChild(parent, shapeNode);
     return shapeNode;
+}
+
+/// The same scaled and then moved. @param y  in the handle's units  @param layer  see ScreenPlane.h
+osg::NodePtr addShape(const osg::NodePtr& parent, HandleShape shape, const osg::Vec3f& scale,
+                      float y, float layer)
+{
+    const osg::ComponentTransformPtr core = osg::ComponentTransform::create();
+    {
+        const EditBracket edit(core, osg::FieldBits::AllFields);
+        core->setScale(scale);
+        core->setTranslation(osg::Vec3f(0.0F, y, layer));
+    }
+    const osg::NodePtr place = detail::makeNode(core);
+    const osg::NodePtr shapeNode = addShape(place, shape);
+    detail::addChild(parent, place);
+    return shapeNode;
+}
+
+/// Scale of the sphere that makes a knob. It is flat, one layer thick to each side.
+osg::Vec3f knobScale(float radius)
+{
+    return osg::Vec3f(radius / kSphereRadius, radius / kSphereRadius, 1.0F / kSphereRadius);
 }
 
 bool isFinite(const PlateFrame& frame)
@@ -119,54 +134,35 @@ bool isFinite(const PlateFrame& frame)
 }  // namespace
 
 const std::array<nbSceneplateManipulator::HandleRow, nbSceneplateManipulator::kHandleCount>
-    nbSceneplateManipulator::kHandles = { {
-        { "scaleXYLLShape",
-          Mode::ScaleLowerLeft,
-          SceneplateHandleKind::Box,
-          { Material::YellowSolid, Material::YellowSolid },
-          { Material::OrangeSolid, Material::OrangeSolid } },
-        { "scaleXYULShape",
-          Mode::ScaleUpperLeft,
-          SceneplateHandleKind::Box,
-          { Material::YellowSolid, Material::YellowSolid },
-          { Material::OrangeSolid, Material::OrangeSolid } },
-        { "scaleXYLRShape",
-          Mode::ScaleLowerRight,
-          SceneplateHandleKind::Box,
-          { Material::YellowSolid, Material::YellowSolid },
-          { Material::OrangeSolid, Material::OrangeSolid } },
-        { "scaleXYURShape",
-          Mode::ScaleUpperRight,
-          SceneplateHandleKind::Box,
-          { Material::YellowSolid, Material::YellowSolid },
-          { Material::OrangeSolid, Material::OrangeSolid } },
-        { "rotateShape",
-          Mode::Rotate,
-          SceneplateHandleKind::Arm,
-          { Material::BlueSolid, Material::BlueLine },
-          { Material::OrangeSolid, Material::OrangeLine } },
-        { "grid",
-          Mode::Move,
-          SceneplateHandleKind::Body,
-          { Material::Clear, Material::YellowLine },
-          { Material::Clear, Material::OrangeLine } },
-    } };
+    nbSceneplateManipulator::kHandles = {
+        { { "scaleXYLLShape", Mode::ScaleLowerLeft, Kind::Box, Color::Yellow },
+          { "scaleXYULShape", Mode::ScaleUpperLeft, Kind::Box, Color::Yellow },
+          { "scaleXYLRShape", Mode::ScaleLowerRight, Kind::Box, Color::Yellow },
+          { "scaleXYURShape", Mode::ScaleUpperRight, Kind::Box, Color::Yellow },
+          { "rotateShape", Mode::Rotate, Kind::Arm, Color::Blue },
+          { "grid", Mode::Move, Kind::Body, Color::Yellow } }
+    };
 
 // == Building
 
 void nbSceneplateManipulator::createMaterials()
 {
-    static_assert(kMaterialCount == static_cast<std::size_t>(Material::Count));
+    static_assert(kColorCount == static_cast<std::size_t>(Color::Count));
     const detail::LineChunks chunks = detail::makeLineChunks();
-    for (std::size_t i = 0; i < kMaterials.size(); ++i) {
-        const MaterialRow& row = kMaterials[i];
-        materials[i] = detail::makeHandleMaterial(osg::Color3f(row.red, row.green, row.blue),
-                                                  row.isLine ? kLineSortKey : kSolidSortKey,
-                                                  row.isLine ? &chunks : nullptr);
+    const detail::LineChunks shadowChunks = detail::makeLineChunks();
+    {
+        const EditBracket edit(shadowChunks.line.get(), osg::LineChunk::WidthFieldMask);
+        shadowChunks.line->setWidth(kShadowLineWidth);
     }
-    const osg::SimpleMaterialPtr clear = materials[static_cast<std::size_t>(Material::Clear)].get();
-    const EditBracket edit(clear, osg::SimpleMaterial::TransparencyFieldMask);
-    clear->setTransparency(1.0F);
+    for (std::size_t i = 0; i < kColorCount; ++i) {
+        const osg::Color3f color(kColors[i].red, kColors[i].green, kColors[i].blue);
+        const bool isShadow = i == indexOf(Color::Shadow);
+        solidMaterials[i] =
+            detail::makeHandleMaterial(color, isShadow ? kShadowSortKey : kSolidSortKey, nullptr);
+        lineMaterials[i] = detail::makeHandleMaterial(
+            color, isShadow ? kShadowSortKey : kLineSortKey, isShadow ? &shadowChunks : &chunks);
+    }
+    clearMaterial = detail::makeHandleMaterial(osg::Color3f(), kShadowSortKey, nullptr, 1.0F);
 }
 
 osg::NodePtr nbSceneplateManipulator::createManipulatorGeo()
@@ -188,29 +184,27 @@ osg::NodePtr nbSceneplateManipulator::createManipulatorGeo()
     return tree;
 }
 
-nbSceneplateManipulator::HandleNodes nbSceneplateManipulator::createHandle(const HandleRow& row)
+nbSceneplateManipulator::HandleNodes nbSceneplateManipulator::makeHandleNodes()
 {
-    HandleNodes created;
-    created.placement = osg::Transform::create();
-    created.top = detail::makeNode(created.placement);
+    HandleNodes nodes;
+    nodes.placement = osg::Transform::create();
+    nodes.top = detail::makeNode(nodes.placement);
+    return nodes;
+}
+
+nbSceneplateManipulator::HandleNodes
+nbSceneplateManipulator::createHandle(const HandleRow& row) const
+{
+    HandleNodes created = makeHandleNodes();
     switch (row.kind) {
-    case SceneplateHandleKind::Box:
-        created.parts[0] = addShape(created.top, HandleShape::Square);
+    case Kind::Box:
+        createBox(created);
         break;
-    case SceneplateHandleKind::Arm: {
-        constexpr float kKnobScale = detail::kPlateKnobRadius / kSphereRadius;
-        constexpr float kLength = detail::kPlateArmLength - detail::kPlateKnobRadius;
-        // The knob is flat, one layer thick, as all else here; its arm goes down to the frame.
-        created.parts[0] = addShape(created.top, HandleShape::CentreSphere,
-                                    osg::Vec3f(kKnobScale, kKnobScale, 1.0F / kSphereRadius), 0.0F);
-        created.parts[1] = addShape(created.top, HandleShape::ArrowShaft,
-                                    osg::Vec3f(1.0F, kLength / kShaftLength, 1.0F),
-                                    -detail::kPlateKnobRadius - kLength / 2);
+    case Kind::Arm:
+        createArm(created);
         break;
-    }
-    case SceneplateHandleKind::Body:
-        created.parts[0] = addShape(created.top, HandleShape::Square);
-        created.parts[1] = addShape(created.top, HandleShape::SquareOutline);
+    case Kind::Body:
+        createBody(created);
         break;
     }
     nbNodeUtils::setName(created.top, row.name, true, created.top);
@@ -218,14 +212,50 @@ nbSceneplateManipulator::HandleNodes nbSceneplateManipulator::createHandle(const
     return created;
 }
 
+void nbSceneplateManipulator::createBox(HandleNodes& box) const
+{
+    box.parts[0] = { addShape(box.top, HandleShape::Square), false };
+    constexpr float kScale = 1.0F + 2.0F * kShadowWidth / detail::kPlateBoxSize;
+    const osg::NodePtr shadow = addShape(box.top, HandleShape::Square,
+                                         osg::Vec3f(kScale, kScale, 1.0F), 0.0F, kShadowLayer);
+    detail::setGeometryMaterial(shadow, solidMaterials[indexOf(Color::Shadow)].get());
+}
+
+void nbSceneplateManipulator::createArm(HandleNodes& arm) const
+{
+    // The knob is where the arm is placed; the shaft goes down to the frame.
+    constexpr float kLength = detail::kPlateArmLength - detail::kPlateKnobRadius;
+    constexpr float kShaftCentre = -detail::kPlateKnobRadius - kLength / 2;
+    const osg::Vec3f shaftScale(1.0F, kLength / kShaftLength, 1.0F);
+    arm.parts[0] = { addShape(arm.top, HandleShape::CentreSphere,
+                              knobScale(detail::kPlateKnobRadius), 0.0F, 0.0F),
+                     false };
+    arm.parts[1] = { addShape(arm.top, HandleShape::ArrowShaft, shaftScale, kShaftCentre, 0.0F),
+                     true };
+    const osg::NodePtr knob =
+        addShape(arm.top, HandleShape::CentreSphere,
+                 knobScale(detail::kPlateKnobRadius + kShadowWidth), 0.0F, kShadowLayer);
+    detail::setGeometryMaterial(knob, solidMaterials[indexOf(Color::Shadow)].get());
+    const osg::NodePtr shaft =
+        addShape(arm.top, HandleShape::ArrowShaft, shaftScale, kShaftCentre, kShadowLayer);
+    detail::setGeometryMaterial(shaft, lineMaterials[indexOf(Color::Shadow)].get());
+}
+
+void nbSceneplateManipulator::createBody(HandleNodes& body) const
+{
+    body.parts[0] = { addShape(body.top, HandleShape::SquareOutline), true };
+    const osg::NodePtr shadow = addShape(body.top, HandleShape::SquareOutline,
+                                         osg::Vec3f(1.0F, 1.0F, 1.0F), 0.0F, kShadowLayer);
+    detail::setGeometryMaterial(shadow, lineMaterials[indexOf(Color::Shadow)].get());
+    const osg::NodePtr inside = addShape(body.top, HandleShape::Square);
+    detail::setGeometryMaterial(inside, clearMaterial.get());
+}
+
 nbSceneplateManipulator::HandleNodes nbSceneplateManipulator::createGuide() const
 {
-    HandleNodes guide;
-    guide.placement = osg::Transform::create();
-    guide.top = detail::makeNode(guide.placement);
-    guide.parts[0] = addShape(guide.top, HandleShape::ArrowShaft);
-    detail::setGeometryMaterial(guide.parts[0],
-                                materials[static_cast<std::size_t>(Material::PurpleLine)].get());
+    HandleNodes guide = makeHandleNodes();
+    const osg::NodePtr line = addShape(guide.top, HandleShape::ArrowShaft);
+    detail::setGeometryMaterial(line, lineMaterials[indexOf(Color::Purple)].get());
     return guide;
 }
 
@@ -233,11 +263,11 @@ nbSceneplateManipulator::HandleNodes nbSceneplateManipulator::createGuide() cons
 
 void nbSceneplateManipulator::setHandleMaterials(std::size_t row, bool highlight)
 {
-    const auto& colors = highlight ? kHandles[row].highlight : kHandles[row].idle;
-    for (std::size_t i = 0; i < kPartCount; ++i) {
-        if (handles[row].parts[i] != osg::NullFC) {
-            detail::setGeometryMaterial(handles[row].parts[i],
-                                        materials[static_cast<std::size_t>(colors[i])].get());
+    const std::size_t color = indexOf(highlight ? Color::Orange : kHandles[row].idle);
+    for (const HandlePart& part : handles[row].parts) {
+        if (part.node != osg::NullFC) {
+            detail::setGeometryMaterial(
+                part.node, part.isLine ? lineMaterials[color].get() : solidMaterials[color].get());
         }
     }
 }
@@ -259,7 +289,7 @@ void nbSceneplateManipulator::showElements(ActiveMode grabbed)
         const HandleRow& row = kHandles[i];
         detail::showNode(handles[i].top,
                          grabbed == ActiveMode::None || row.mode == grabbed ||
-                             row.kind == SceneplateHandleKind::Body);
+                             row.kind == Kind::Body);
     }
     if (grabbed == ActiveMode::None) {
         for (const HandleNodes& guide : guides) {
@@ -293,15 +323,15 @@ bool nbSceneplateManipulator::placeHandles(const nbOSGWidget& widget)
     for (std::size_t i = 0; i < kHandles.size(); ++i) {
         osg::Matrix place;
         switch (kHandles[i].kind) {
-        case SceneplateHandleKind::Box:
+        case Kind::Box:
             place = placeInPlane(layout.corners[i], layout.frame.rotation, osg::Vec2f(boxPx, boxPx),
                                  kHandleLayer);
             break;
-        case SceneplateHandleKind::Arm:
+        case Kind::Arm:
             place = placeInPlane(layout.knob, layout.armRotation,
                                  osg::Vec2f(view.unitPx, view.unitPx), kHandleLayer);
             break;
-        case SceneplateHandleKind::Body:
+        case Kind::Body:
             place = placeInPlane(layout.frame.centre, layout.frame.rotation, layout.frame.size,
                                  kFrameLayer);
             break;

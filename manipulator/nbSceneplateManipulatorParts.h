@@ -2,19 +2,17 @@
 #pragma once
 
 #include "manipulator/detail/PlateFrame.h"
+#include "manipulator/detail/PreviewPause.h"
 #include "manipulator/nbSceneplateManipulator.h"
 
-/// Materials of handles and guides, in the order of the manipulator's array.
-enum class SceneplateMaterial : std::size_t
+/// Colours of handles and guides, in the order of the manipulator's material arrays.
+enum class SceneplateColor : std::size_t
 {
-    YellowSolid,
-    BlueSolid,
-    OrangeSolid,
-    YellowLine,
-    BlueLine,
-    OrangeLine,
-    PurpleLine,
-    Clear,  ///< not seen, but hit
+    Yellow,
+    Blue,
+    Orange,
+    Purple,
+    Shadow,  ///< around the others, so that they are seen on every plate
     Count
 };
 
@@ -33,13 +31,13 @@ struct nbSceneplateManipulator::HandleRow
     const char* name;
     ActiveMode mode;
     SceneplateHandleKind kind;
-    std::array<SceneplateMaterial, kPartCount> idle;  ///< of each part
-    std::array<SceneplateMaterial, kPartCount> highlight;
+    SceneplateColor idle;
 };
 
 /// What a drag knows of its start, and how far it has come.
 struct nbSceneplateManipulator::Drag
 {
+    nbec::manipulator::detail::PreviewPause preview;  ///< ends with the drag
     nbec::manipulator::detail::PlateFrame start;
     osg::Pnt2f pressedPx;
     nbec::manipulator::detail::PlateArm arm;

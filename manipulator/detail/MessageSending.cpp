@@ -14,13 +14,6 @@ void sendEmpty(const char* name)
     nbController::call(name, message, 0);
 }
 
-void enableMaterialPreview(bool enabled)
-{
-    nbMessage message;
-    message.set("enabled", enabled, true);
-    nbController::call("setMatRenderEnabled", message, 0);
-}
-
 }  // namespace
 
 void sendTransformationChanged()
@@ -30,15 +23,9 @@ void sendTransformationChanged()
     nbController::setModified(1);
 }
 
-void pauseMaterialPreview()
+void sendToReceiver(const std::string& receiver, const char* suffix, nbMessage& message)
 {
-    enableMaterialPreview(false);
-}
-
-void resumeMaterialPreview()
-{
-    enableMaterialPreview(true);
-    nbController::call("updateMatRender", 0);
+    nbController::call((receiver + suffix).c_str(), message, 0);
 }
 
 }  // namespace nbec::manipulator::detail

@@ -34,6 +34,7 @@ struct RenderItem
     osg::Int32 depthSteps = 0;
     osg::UInt32 manipulator = 0;  ///< number of the manipulator node that the item is below, from 1
     osg::UInt32 clipSet = 0;  ///< into ItemList::getClipPlanes; 0 for an item that nothing cuts
+    osg::UInt32 surfaceSpace = 0;  ///< into ItemList::getSurfaceSpace; 0: the item's own space
 };
 
 constexpr osg::Int32 kMostDepthSteps = 8;
@@ -69,6 +70,12 @@ public:
     const nbClipSets::Planes& getClipPlanes(osg::UInt32 clipSet) const
     {
         return clipSets.planesOf(clipSet);
+    }
+
+    /// From an item's space to that of the node which carries its material, 4x4, column vectors.
+    const osg::Matrix& getSurfaceSpace(osg::UInt32 surfaceSpace) const
+    {
+        return surfaceSpaces[surfaceSpace];
     }
 
     /// World bounds of the items that are neither handles nor auxiliary; empty without any.
@@ -108,6 +115,7 @@ private:
     void visit(const osg::NodePtr& node, const Place& above);
     void visitChildren(const osg::NodePtr& node, const Place& place);
     void addItem(const osg::GeometryPtr& geometry, const Place& place);
+    void placePictures(RenderItem& item, const Place& place);
     osg::UInt32 stateFor(const osg::MaterialPtr& material, const osg::MaterialPtr& group,
                          bool handle);
     const osg::BoxVolume& localBounds(const osg::GeometryPtr& geometry);
@@ -121,6 +129,7 @@ private:
     std::vector<DrawState> states;
     std::vector<osg::UInt32> order;
     nbClipSets clipSets;
+    std::vector<osg::Matrix> surfaceSpaces { 1 };  ///< the first stays the identity
     std::unordered_map<StateKey, osg::UInt32, StateKeyHash> stateIndices;
     std::unordered_map<osg::UInt32, LocalBounds> boundsById;
     osg::BoxVolume sceneBounds;

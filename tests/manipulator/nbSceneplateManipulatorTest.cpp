@@ -365,6 +365,19 @@ TEST_F(SceneplateManipulatorTest, DeactivationLetsGoAndHides)
     EXPECT_FALSE(scene.isHandleShown("grid"));
 }
 
+TEST_F(SceneplateManipulatorTest, ALostStopIsMadeGoodByTheNextStart)
+{
+    select({ 400, 300, 200, 100 });
+    scene.drag(osg::Pnt2f(400, 300), osg::Vec2f(10, 0), false);
+    sent.clear();
+    EXPECT_TRUE(scene.manipulator.startManipulator(&scene.context, "select"));
+    EXPECT_THAT(
+        sent, ElementsAre("setMatRenderEnabled on", "updateMatRender", "setMatRenderEnabled off"));
+    scene.widget.setMousePosition(osg::Pnt2f(415, 300));
+    EXPECT_TRUE(scene.manipulator.processManipulator(&scene.context, "select"));
+    EXPECT_FLOAT_EQ(last.offset.x(), 5.0F / 600) << "from the new start";
+}
+
 TEST_F(SceneplateManipulatorTest, AReceiverMayTakeItOutOfUse)
 {
     select({ 400, 300, 200, 100 });
@@ -396,7 +409,7 @@ TEST_F(SceneplateManipulatorTest, HandleSizeFollowsTheSettingAndThePixelRatio)
     nbSceneplateManipulator::setManipulatorSize(64.0F);
     nbSceneplateManipulator::setManipulatorSize(-1.0F);
     EXPECT_EQ(nbSceneplateManipulator::getManipulatorSize(), 64.0F);
-    nbSceneplateManipulator::updateAllManipulators();
+    scene.manipulator.update(false);
     isHandleAt("rotateShape", 400, 250 - 64);
     nbSceneplateManipulator::setManipulatorSize(32.0F);
 

@@ -3,12 +3,15 @@
 
 #include "tests/platform/support/Plates.h"
 
+#include <nbInteraction/InputTranslator.h>
 #include <nbInteraction/InteractionManager.h>
 #include <nbInteraction/Picker.h>
 #include <nbInteraction/ToolInteractionContext.h>
 #include <nbKernel/nbController.h>
 #include <nbKernel/nbOSGWidget.h>
 #include <nbKernel/nbScenegraph.h>
+
+#include <QtGui/QMouseEvent>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -262,6 +265,33 @@ TEST_F(SceneplatePickToolTest, RectangleSelectsWhateverWayItIsDrawn)
         EXPECT_THAT(selected, ElementsAre(left, right));
         selected.clear();
     }
+}
+
+TEST_F(SceneplatePickToolTest, MouseEventsOfAPersonHoverClickAndDragUpLeft)
+{
+    nbec::interaction::InputTranslator translator(manager, &widget);
+    const auto mouse = [&translator](QEvent::Type type, const osg::Pnt2f& px,
+                                     Qt::MouseButton button, Qt::MouseButtons buttons) {
+        QMouseEvent event(type, QPointF(px.x(), px.y()), button, buttons, Qt::NoModifier);
+        translator.handleEvent(event);
+    };
+    mouse(QEvent::MouseMove, kLeftPx, Qt::NoButton, Qt::NoButton);
+    EXPECT_THAT(preselected, ElementsAre(left));
+    mouse(QEvent::MouseButtonPress, kLeftPx, Qt::LeftButton, Qt::LeftButton);
+    mouse(QEvent::MouseButtonRelease, kLeftPx, Qt::LeftButton, Qt::NoButton);
+    EXPECT_THAT(selected, ElementsAre(left));
+
+    const osg::Pnt2f from(390, 290);
+    const osg::Pnt2f to(200, 20);
+    mouse(QEvent::MouseButtonPress, from, Qt::LeftButton, Qt::LeftButton);
+    mouse(QEvent::MouseMove, from - osg::Vec2f(1, 1), Qt::NoButton, Qt::LeftButton);
+    EXPECT_FALSE(widget.getRectSelection());
+    mouse(QEvent::MouseMove, to, Qt::NoButton, Qt::LeftButton);
+    EXPECT_TRUE(widget.getRectSelection());
+    mouse(QEvent::MouseButtonRelease, to, Qt::LeftButton, Qt::NoButton);
+    EXPECT_THAT(selected, ElementsAre(right));
+    EXPECT_FALSE(widget.getRectSelection());
+    EXPECT_EQ(selections, 2);
 }
 
 TEST_F(SceneplatePickToolTest, RectangleEndsAnOutstandingPreselectionAndIsRedrawn)

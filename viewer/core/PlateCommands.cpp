@@ -2,11 +2,13 @@
 #include "viewer/core/PlateCommands.h"
 
 #include "viewer/core/JsonReader.h"
+#include "viewer/core/PictureFile.h"
 #include "viewer/core/PlateFields.h"
-#include "viewer/core/PlatePictures.h"
+#include "viewer/core/PlateText.h"
 #include "viewer/core/PlatesTool.h"
 #include "viewer/core/Stage.h"
 
+#include <nbOpenSGRenderAction/nbImageConvert.h>
 #include <nbOpenSGSceneplate/nbSceneplateLayout.h>
 #include <nbOpenSGSceneplate/nbSceneplateList.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
@@ -110,18 +112,18 @@ bool addPicture(Stage& stage, PlatesTool& tool, const QJsonValue& value, QString
         !readPlacing(object, path, reader, plate) || !readHeight(object, reader, path, height)) {
         return false;
     }
-    const QImage picture = readPlatePicture(file, error);
-    if (picture.isNull()) {
+    plate.image = readPicture(file, error);
+    if (!plate.image) {
         return false;
     }
     if (height > 0.0) {
         const double heightPx = height * stage.view().getHeight();
-        plate.picture = picture;
-        plate.sizePx = osg::Vec2f(static_cast<float>(heightPx * picture.width() / picture.height()),
-                                  static_cast<float>(heightPx));
+        plate.sizePx = osg::Vec2f(
+            static_cast<float>(heightPx * plate.image->getWidth() / plate.image->getHeight()),
+            static_cast<float>(heightPx));
         tool.add(plate);
     } else {
-        tool.addPicture(picture, plate);
+        tool.addPicture(plate);
     }
     return true;
 }
@@ -152,13 +154,14 @@ bool addText(Stage& stage, PlatesTool& tool, const QJsonValue& value, QString& e
         }
         text.color = colorOf(*color);
     }
-    plate.picture = paintPlateText(text, stage.view().getHeight());
-    if (plate.picture.isNull()) {
+    const QImage picture = paintPlateText(text, stage.view().getHeight());
+    if (picture.isNull()) {
         return reader.fail(path + QStringLiteral(".text"),
                            QStringLiteral("expected a text that fits into a picture"));
     }
-    plate.sizePx = osg::Vec2f(static_cast<float>(plate.picture.width()) / kTextOversampling,
-                              static_cast<float>(plate.picture.height()) / kTextOversampling);
+    plate.image = osg::RefPtr<osg::ImagePtr>(nbImageConvert::toImage(picture));
+    plate.sizePx = osg::Vec2f(static_cast<float>(picture.width()) / kTextOversampling,
+                              static_cast<float>(picture.height()) / kTextOversampling);
     tool.add(plate);
     return true;
 }

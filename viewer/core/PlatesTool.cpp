@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/core/PlatesTool.h"
 
+#include "viewer/core/PictureFile.h"
 #include "viewer/core/PlateCommands.h"
-#include "viewer/core/PlatePictures.h"
 #include "viewer/core/Stage.h"
 
 #include <nbInteraction/EventNames.h>
 #include <nbKernel/nbScenegraph.h>
-#include <nbOpenSGRenderAction/nbImageConvert.h>
 #include <nbOpenSGSceneplate/nbSceneplateLayout.h>
 #include <nbOpenSGSceneplate/nbSceneplateList.h>
 #include <nbOpenSGUtils/nbEdit.h>
@@ -295,7 +294,7 @@ void PlatesTool::add(const NewPlate& wanted)
     const osg::NodeRefPtr node(osg::makeCoredNode<osg::Sceneplate>(&plate));
     {
         const nbEdit edit(plate, osg::FieldBits::AllFields);
-        plate->setImage(nbImageConvert::toImage(wanted.picture));
+        plate->setImage(wanted.image.get());
         plate->setColor(wanted.color);
         plate->setFront(wanted.front);
         place(plate, wanted, stage.view());
@@ -305,14 +304,13 @@ void PlatesTool::add(const NewPlate& wanted)
     select({ node.get() });
 }
 
-void PlatesTool::addPicture(const QImage& picture, NewPlate wanted)
+void PlatesTool::addPicture(NewPlate wanted)
 {
     const nbOSGWidget& view = stage.view();
-    const auto width = static_cast<float>(picture.width());
-    const auto height = static_cast<float>(picture.height());
+    const auto width = static_cast<float>(wanted.image->getWidth());
+    const auto height = static_cast<float>(wanted.image->getHeight());
     const float factor = std::min({ 1.F, kLargestPart * static_cast<float>(view.getWidth()) / width,
                                     kLargestPart * static_cast<float>(view.getHeight()) / height });
-    wanted.picture = picture;
     wanted.sizePx = osg::Vec2f(width * factor, height * factor);
     add(wanted);
 }
@@ -322,14 +320,14 @@ bool PlatesTool::takePicture(const QString& file, const osg::Pnt2f& px, QString&
     if (!active) {
         return false;
     }
-    const QImage picture = readPlatePicture(file, error);
-    if (picture.isNull()) {
+    NewPlate wanted;
+    wanted.image = readPicture(file, error);
+    if (!wanted.image) {
         return false;
     }
-    NewPlate wanted;
     wanted.name = QFileInfo(file).completeBaseName().toStdString();
     wanted.centrePx = px;
-    addPicture(picture, wanted);
+    addPicture(wanted);
     stage.edited();
     return true;
 }

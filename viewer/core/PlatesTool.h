@@ -8,7 +8,8 @@
 #include <nbOpenSGSceneplate/Sceneplate.h>
 #include <nbSceneplateModule/nbSceneplateModule.h>
 
-#include <QImage>
+#include <OpenSG/OSGRefPtr.h>
+
 #include <QString>
 
 #include <optional>
@@ -25,7 +26,7 @@ class Stage;
 /// A plate that is to be added.
 struct NewPlate
 {
-    QImage picture;  ///< null: a plate of plain colour
+    osg::RefPtr<osg::ImagePtr> image;  ///< null: a plate of plain colour
     osg::Color4f color { 1.F, 1.F, 1.F, 1.F };
     osg::Vec2f sizePx;  ///< in the present view
     std::string name;  ///< a number is added if another plate has it
@@ -90,8 +91,8 @@ public:
     /// Adds a plate before all others of its side and selects it.
     void add(const NewPlate& wanted);
     /// The same of a picture as large as it is, at most half the view.
-    /// @param centrePx  where; absent: the middle of the view
-    void addPicture(const QImage& picture, NewPlate wanted);
+    /// @param wanted  its image is not null, its size does not count
+    void addPicture(NewPlate wanted);
 
 private:
     void selectionHasChanged();

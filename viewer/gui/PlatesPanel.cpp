@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/gui/PlatesPanel.h"
 
+#include "viewer/core/PictureFile.h"
 #include "viewer/core/PlateFields.h"
-#include "viewer/core/PlatePictures.h"
+#include "viewer/core/PlateText.h"
 #include "viewer/core/Stage.h"
 #include "viewer/gui/VectorEdit.h"
 
@@ -18,7 +19,6 @@
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QImageReader>
 #include <QJsonObject>
 #include <QLineEdit>
 #include <QListWidget>
@@ -52,15 +52,6 @@ constexpr AnchorText kAnchorTexts[] = {
     { "bottom", QT_TRANSLATE_NOOP("viewer::PlatesPanel", "Bottom") },
     { "bottomRight", QT_TRANSLATE_NOOP("viewer::PlatesPanel", "Bottom right") },
 };
-
-QString pictureFilter()
-{
-    QStringList patterns;
-    for (const QByteArray& format : QImageReader::supportedImageFormats()) {
-        patterns.append(QStringLiteral("*.") + QString::fromLatin1(format));
-    }
-    return PlatesPanel::tr("Pictures (%1)").arg(patterns.join(QLatin1Char(' ')));
-}
 
 void showValue(QComboBox* box, const QJsonValue& value)
 {
@@ -265,7 +256,8 @@ QJsonValue PlatesPanel::valueOf(const char* command) const
 
 void PlatesPanel::askForPicture()
 {
-    const QString file = QFileDialog::getOpenFileName(this, tr("Add picture"), {}, pictureFilter());
+    const QString file =
+        QFileDialog::getOpenFileName(this, tr("Add picture"), {}, pictureFileFilter());
     if (!file.isEmpty()) {
         run(QStringLiteral("plates.addPicture"), QJsonObject { { QStringLiteral("file"), file } });
     }

@@ -3,6 +3,7 @@
 
 #include "viewer/core/Stage.h"
 #include "viewer/gui/MainWindow.h"
+#include "viewer/gui/PanelDocks.h"
 #include "viewer/gui/StepsPanel.h"
 #include "viewer/gui/ToolIcons.h"
 
@@ -171,7 +172,7 @@ void WindowActions::addViewMenu()
     zUp = addSwitch(menu, "zUp", tr("&Z is up"), "Z", [this](bool on) { stage.setZUp(on); });
     menu->addSeparator();
     QMenu* panels = menu->addMenu(tr("&Panels"));
-    panels->addActions(window.panelActions());
+    panels->addActions(window.panels().actions());
     addSwitch(menu, "effectBuffer", tr("Show &effect buffer"), "B",
               [this](bool on) { window.showEffectBuffer(on); });
 }

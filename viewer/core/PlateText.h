@@ -28,9 +28,4 @@ constexpr int kTextOversampling = 2;
 /// @return null for a text without a visible letter
 QImage paintPlateText(const PlateText& text, int viewHeightPx);
 
-/// Reads a picture file as it is to be seen, turned as its camera says.
-/// @param error  one line that begins with the file's name
-/// @return null on failure
-QImage readPlatePicture(const QString& file, QString& error);
-
 }  // namespace viewer

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "viewer/core/PlatePictures.h"
+#include "viewer/core/PlateText.h"
 
 #include <QFont>
 #include <QFontMetricsF>
 #include <QGuiApplication>
-#include <QImageReader>
 #include <QPainter>
 
 #include <cmath>
@@ -47,18 +46,6 @@ QImage paintPlateText(const PlateText& text, int viewHeightPx)
     painter.setFont(font);
     painter.setPen(text.color);
     painter.drawText(picture.rect(), Qt::AlignCenter, text.text);
-    return picture;
-}
-
-QImage readPlatePicture(const QString& file, QString& error)
-{
-    QImageReader reader(file);
-    reader.setAutoTransform(true);
-    const QImage picture = reader.read();
-    if (picture.isNull()) {
-        error =
-            QStringLiteral("%1: cannot be read as a picture: %2").arg(file, reader.errorString());
-    }
     return picture;
 }
 
