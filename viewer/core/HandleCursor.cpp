@@ -3,6 +3,7 @@
 
 #include "viewer/core/PerspectiveMatchTool.h"
 #include "viewer/core/Stage.h"
+#include "viewer/core/StageTool.h"
 
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
@@ -100,7 +101,8 @@ HandleAction actionOfHandle(const std::string& handle)
 HandleCursor cursorOfHandle(Stage& stage, const std::string& handle)
 {
     HandleCursor cursor;
-    cursor.action = actionOfHandle(handle);
+    const StageTool* tool = stage.activeTool();
+    cursor.action = tool != nullptr ? tool->actionOf(handle) : actionOfHandle(handle);
     const bool isAlong =
         cursor.action == HandleAction::MoveAlong || cursor.action == HandleAction::ScaleAlong;
     if (isAlong && !findAngle(stage, handle, cursor.angleDeg)) {

@@ -4,6 +4,7 @@
 #include "viewer/core/Stage.h"
 #include "viewer/gui/ObjectPanel.h"
 #include "viewer/gui/PerspectiveMatchPanel.h"
+#include "viewer/gui/PlatesPanel.h"
 #include "viewer/gui/ScenePanel.h"
 
 #include <nbKernelServices/nbUndoService.h>
@@ -56,6 +57,7 @@ void PanelDocks::addPanels()
     objectDock = addPanel(new ObjectPanel(stage), tr("Properties"), QStringLiteral("objectDock"));
     addPanel(new PerspectiveMatchPanel(stage), tr("Perspective match"),
              QStringLiteral("matchDock"));
+    addPanel(new PlatesPanel(stage), tr("Scene plates"), QStringLiteral("platesDock"));
 }
 
 QDockWidget* PanelDocks::addDock(QWidget* content, const QString& title, const QString& name)
