@@ -16,6 +16,8 @@ install(DIRECTORY ${PROJECT_SOURCE_DIR}/manipulator DESTINATION ${NBM_HEADERS}
         FILES_MATCHING PATTERN "*.h" PATTERN "detail" EXCLUDE
         PATTERN "UniversalTransformManipulator2Drag.h" EXCLUDE
         PATTERN "UniversalTransformManipulator2Handles.h" EXCLUDE)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/modules DESTINATION ${NBM_HEADERS}
+        FILES_MATCHING PATTERN "*.h")
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/platform/ DESTINATION ${NBM_HEADERS}
         FILES_MATCHING PATTERN "*.h" PATTERN "detail" EXCLUDE)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/opensg/include/ ${PROJECT_SOURCE_DIR}/opensg/glue/

@@ -14,6 +14,13 @@ void sendEmpty(const char* name)
     nbController::call(name, message, 0);
 }
 
+void sendMaterialPreviewEnabled(bool enabled)
+{
+    nbMessage message;
+    message.set("enabled", enabled, true);
+    nbController::call("setMatRenderEnabled", message, 0);
+}
+
 }  // namespace
 
 void sendTransformationChanged()
@@ -21,6 +28,17 @@ void sendTransformationChanged()
     sendEmpty("nbTransform::changedTransformation");
     sendEmpty("nbTransform::updateTransformation");
     nbController::setModified(1);
+}
+
+void sendMaterialPreviewPaused()
+{
+    sendMaterialPreviewEnabled(false);
+}
+
+void sendMaterialPreviewResumed()
+{
+    sendMaterialPreviewEnabled(true);
+    nbController::call("updateMatRender", 0);
 }
 
 }  // namespace nbec::manipulator::detail

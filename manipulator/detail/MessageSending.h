@@ -7,4 +7,11 @@ namespace nbec::manipulator::detail {
 /// "nbTransform::updateTransformation", each without attributes, and marks the scene as modified.
 void sendTransformationChanged();
 
+/// Has the host pause its preview of the material: "setMatRenderEnabled" with "enabled" = false.
+void sendMaterialPreviewPaused();
+
+/// Has the preview go on, "setMatRenderEnabled" with "enabled" = true, and show the material as it
+/// is now, "updateMatRender".
+void sendMaterialPreviewResumed();
+
 }  // namespace nbec::manipulator::detail
