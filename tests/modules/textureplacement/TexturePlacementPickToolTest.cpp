@@ -147,7 +147,6 @@ TEST_F(TexturePlacementPickToolTest, WithoutAPickerNothingStarts)
 TEST_F(TexturePlacementPickToolTest, DescriptionShowsTheHitUnlessThatIsSwitchedOff)
 {
     EXPECT_EQ(kPlainText, tool.getDescription());
-    // Three quarters of a pixel right of the centre at most: choose a face seen at whole numbers.
     picker.pickAt({ 400.0f, 300.0f });
     const osg::Pnt3f point = picker.getHitPoint();
     send("start", 400.0f, 300.0f);
