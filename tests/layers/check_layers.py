@@ -23,7 +23,8 @@ FORBIDDEN = {
     "modules": [UPPER],
 }
 # Within platform/: each library may include those before it.
-PLATFORM_ORDER = ["nbUtils", "nbOpenSGExt", "nbOpenSGUtils", "nbOpenSGUberCamera", "nbOpenSGUberViewport", "nbKernel"]
+PLATFORM_ORDER = ["nbUtils", "nbOpenSGExt", "nbOpenSGUtils", "nbOpenSGUberCamera", "nbOpenSGUberViewport", "nbOpenSGUberMaterial",
+                  "nbKernel"]
 INCLUDE = re.compile(r'^\s*#\s*include\s*[<"]([^>"]+)[>"]')
 
 
