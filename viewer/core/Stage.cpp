@@ -2,6 +2,7 @@
 #include "viewer/core/Stage.h"
 
 #include "viewer/core/SceneBuilder.h"
+#include "viewer/core/StageTool.h"
 #include "viewer/core/StartScene.h"
 
 #include <nbKernel/nbScenegraph.h>
@@ -84,7 +85,7 @@ Stage::Stage(nbOSGWidget& view)
     selectionContext.setTool(&selectionTool);
     cameraContext.setPicker(&scenePicker);
     cameraContext.setChangedCallback([this] {
-        gizmoController.followCamera();
+        viewChanged();
         changed();
     });
     manager.setCancelHandler([] { nbUndoService::the()->cancelGroup(); });
@@ -101,6 +102,7 @@ Stage::~Stage()
     nbSelection::removeChangedCallback(selectionCallback);
     changedCallback = nullptr;
     nbec::notification::NotificationManager::getInstance()->setChangeListener(nullptr);
+    endActiveTool();
     gizmoController.show(Gizmo::None);
     manager.removeContext(&selectionContext);
     manager.removeContext(&cameraContext);
@@ -110,12 +112,129 @@ Stage::~Stage()
 
 void Stage::showGizmo(Gizmo gizmo)
 {
+    endActiveTool();
     gizmoController.show(gizmo);
     changed();
 }
 
+// == Tools beside the gizmos
+
+void Stage::addTool(StageTool& tool)
+{
+    tools.push_back(&tool);
+}
+
+void Stage::removeTool(StageTool& tool)
+{
+    if (toolInUse == &tool) {
+        setActiveTool(nullptr);
+    }
+    tools.erase(std::remove(tools.begin(), tools.end(), &tool), tools.end());
+}
+
+void Stage::endActiveTool()
+{
+    if (toolInUse == nullptr) {
+        return;
+    }
+    manager.endDrag();
+    StageTool* former = toolInUse;
+    toolInUse = nullptr;
+    former->deactivate();
+}
+
+void Stage::setActiveTool(StageTool* tool)
+{
+    if (tool == toolInUse) {
+        return;
+    }
+    if (toolInUse == nullptr) {
+        gizmoBefore = gizmoController.shown();
+    }
+    endActiveTool();
+    if (tool == nullptr) {
+        gizmoController.show(gizmoBefore);
+    } else {
+        gizmoController.show(Gizmo::None);
+        toolInUse = tool;
+        tool->activate();
+    }
+    changed();
+}
+
+StageTool* Stage::toolByName(const std::string& name) const
+{
+    for (StageTool* tool : tools) {
+        if (name == tool->name()) {
+            return tool;
+        }
+    }
+    return nullptr;
+}
+
+std::string Stage::manipulatorName() const
+{
+    return toolInUse != nullptr ? toolInUse->name() : gizmoName(gizmoController.shown());
+}
+
+bool Stage::showManipulator(const std::string& name)
+{
+    Gizmo gizmo = Gizmo::None;
+    if (gizmoFromName(name, gizmo)) {
+        showGizmo(gizmo);
+        return true;
+    }
+    StageTool* tool = toolByName(name);
+    if (tool != nullptr) {
+        setActiveTool(tool);
+    }
+    return tool != nullptr;
+}
+
+osg::NodePtr Stage::handles()
+{
+    return toolInUse != nullptr ? toolInUse->handles() : gizmoController.handles();
+}
+
+std::string Stage::hoveredHandle()
+{
+    return toolInUse != nullptr ? toolInUse->hoveredHandle() : gizmoController.hoveredHandle();
+}
+
+std::string Stage::handleAt(const osg::Pnt2f& px)
+{
+    return toolInUse != nullptr ? toolInUse->handleAt(px) : gizmoController.handleAt(px);
+}
+
+std::string Stage::draggedValues() const
+{
+    return toolInUse != nullptr ? toolInUse->draggedValues() : gizmoController.draggedValues();
+}
+
+bool Stage::takePicture(const QString& file, const osg::Pnt2f& px, QString& error)
+{
+    std::vector<StageTool*> asked = tools;
+    std::stable_partition(asked.begin(), asked.end(),
+                          [this](const StageTool* tool) { return tool == toolInUse; });
+    for (StageTool* tool : asked) {
+        if (tool->takePicture(file, px, error)) {
+            return true;
+        }
+        if (!error.isEmpty()) {
+            return false;
+        }
+    }
+    return false;
+}
+
+// == Scene
+
 void Stage::clear()
 {
+    manager.endDrag();
+    for (StageTool* tool : tools) {
+        tool->sceneCleared();
+    }
     nbSelection::clear();
     gizmoController.setTarget(osg::NullFC);
     const osg::NodePtr root = nbScenegraph::getRootNode();
@@ -280,14 +399,28 @@ void Stage::resize(int widthPx, int heightPx, float pixelRatio)
     scenePicker.setPixelRatio(pixelRatio);
     selectionTool.setPixelRatio(pixelRatio);
     gizmoController.setPixelRatio(pixelRatio);
+    for (StageTool* tool : tools) {
+        tool->setPixelRatio(pixelRatio);
+    }
     renderWidget.resize(widthPx, heightPx);
-    gizmoController.followCamera();
+    viewChanged();
     renderWidget.update();
+}
+
+void Stage::viewChanged()
+{
+    gizmoController.followCamera();
+    for (StageTool* tool : tools) {
+        tool->viewChanged();
+    }
 }
 
 void Stage::update()
 {
     gizmoController.update();
+    for (StageTool* tool : tools) {
+        tool->update();
+    }
     const std::vector<osg::NodePtr> selected = selectedObjects();
     const osg::NodePtr preselected = selectionTool.getPreselected();
     const bool isNew = preselected != osg::NullFC &&
@@ -337,6 +470,9 @@ void Stage::setChangedCallback(std::function<void()> callback)
 void Stage::selectionChanged()
 {
     gizmoController.setTarget(selectedObject(), selectedObjects());
+    for (StageTool* tool : tools) {
+        tool->selectionChanged();
+    }
     changed();
 }
 

@@ -5,21 +5,25 @@
 #include "viewer/core/Session.h"
 #include "viewer/gui/ModelLoader.h"
 
+#include <OpenSG/OSGConfig.h>
+#include <OpenSG/OSGVector.h>
+
 #include <QDir>
+#include <QList>
 #include <QMainWindow>
 
 #include <optional>
 
-class QLabel;
-class QProgressBar;
-class QToolButton;
+class QDockWidget;
 class QUndoView;
 
 namespace viewer {
 
 class MessageBar;
+class Panel;
 class SessionPlayer;
 class SessionRecorder;
+class StatusLine;
 class ViewWidget;
 class WindowActions;
 
@@ -63,6 +67,8 @@ public:
 
     // == View
 
+    /// Panels at the side, to be shown and hidden.
+    QList<QAction*> panelActions() const;
     void showEffectBuffer(bool on);
     /// Makes the window as large as a view of this size needs; a person may change it afterwards.
     void suggestViewSize(const QSize& sizePx);
@@ -93,13 +99,15 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void createStatusLine();
     void createUndoList();
+    void createPanels();
+    QDockWidget* addDock(QWidget* content, const QString& title, const QString& name);
+    void addPanel(Panel* panel, const QString& title, const QString& name);
     void setShownTitle(const QString& name);
     void updateStatus();
     void showLoadedModels();
     void addRecentFiles(const QStringList& files);
-    void handleDroppedFiles(const QStringList& files);
+    void handleDroppedFiles(const QStringList& files, const osg::Pnt2f& px);
     void replayFile(const QString& path);
     void beginReplay();
     bool setStageFor(const Session& session, QString& error);
@@ -115,12 +123,9 @@ private:
     WindowActions* actions = nullptr;
 
     QUndoView* undoView = nullptr;
-    QLabel* handleLabel = nullptr;
-    QLabel* valuesLabel = nullptr;
-    QLabel* selectionLabel = nullptr;
-    QLabel* sceneLabel = nullptr;
-    QProgressBar* progress = nullptr;
-    QToolButton* cancelButton = nullptr;
+    StatusLine* statusLine = nullptr;
+    QList<QDockWidget*> docks;
+    QList<Panel*> panels;
 
     QStringList shownFiles;
     QStringList openingFiles;

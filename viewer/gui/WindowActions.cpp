@@ -153,6 +153,8 @@ void WindowActions::addViewMenu()
                              [this](bool on) { stage.setOrthographic(on); });
     zUp = addSwitch(menu, "zUp", tr("&Z is up"), "Z", [this](bool on) { stage.setZUp(on); });
     menu->addSeparator();
+    QMenu* panels = menu->addMenu(tr("&Panels"));
+    panels->addActions(window.panelActions());
     addSwitch(menu, "effectBuffer", tr("Show &effect buffer"), "B",
               [this](bool on) { window.showEffectBuffer(on); });
 }
@@ -260,12 +262,26 @@ void WindowActions::update()
     const CameraPose pose = stage.pose();
     orthographic->setChecked(pose.orthographic);
     zUp->setChecked(pose.zUp);
-    gizmoActions[stage.gizmo().shown()]->setChecked(true);
+    updateGizmos();
     updateEditing();
     record->setChecked(window.isRecording());
     record->setEnabled(!window.isReplaying());
     checkpoint->setEnabled(window.isRecording());
     stopReplay->setEnabled(window.isReplaying());
+}
+
+void WindowActions::updateGizmos()
+{
+    if (stage.activeTool() == nullptr) {
+        gizmoActions[stage.gizmo().shown()]->setChecked(true);
+        return;
+    }
+    // An exclusive group lets go of its last choice only when it is not exclusive.
+    gizmoGroup->setExclusive(false);
+    for (const auto& [gizmo, action] : gizmoActions) {
+        action->setChecked(false);
+    }
+    gizmoGroup->setExclusive(true);
 }
 
 void WindowActions::updateEditing()

@@ -51,6 +51,7 @@ private:
     void addSessionMenu();
     void addTransformSettings(QMenu* menu);
     void addToolBar();
+    void updateGizmos();
     void updateEditing();
 
     MainWindow& window;
