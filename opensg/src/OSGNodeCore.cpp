@@ -32,6 +32,11 @@ void NodeCore::invalidateVolume()
 
 void NodeCore::noteEdit()
 {
+    if (mfParents.empty()) {
+        // Another container may hold it, as a material does the transform of a projection.
+        Inherited::noteEdit();
+        return;
+    }
     for (const NodePtr& node : mfParents) {
         node->noteSubtreeChange();
     }

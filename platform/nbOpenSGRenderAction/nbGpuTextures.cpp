@@ -3,6 +3,7 @@
 
 #include <nbUtils/nbLog.h>
 
+#include <OpenSG/OSGContentStamp.h>
 #include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGImage.h>
 
@@ -104,7 +105,7 @@ GLint wrapping(GLenum mode)
     return static_cast<GLint>(mode == kClamp ? GLenum(GL_CLAMP_TO_EDGE) : mode);
 }
 
-void setParameters(Gl& gl, const osg::TextureChunkPtr& chunk, const Layout& layout)
+void setParameters(Gl& gl, const osg::TextureChunkPtr& chunk)
 {
     const auto set = [&gl](GLenum name, GLint value) {
         gl.glTexParameteri(GL_TEXTURE_2D, name, value);
@@ -113,11 +114,12 @@ void setParameters(Gl& gl, const osg::TextureChunkPtr& chunk, const Layout& layo
     set(GL_TEXTURE_MAG_FILTER, static_cast<GLint>(chunk->getMagFilter()));
     set(GL_TEXTURE_WRAP_S, wrapping(chunk->getWrapS()));
     set(GL_TEXTURE_WRAP_T, wrapping(chunk->getWrapT()));
-    gl.glTexParameteriv(GL_TEXTURE_2D, GL_TEXTURE_SWIZZLE_RGBA, layout.swizzle);
 }
 
-void uploadLevels(Gl& gl, const osg::TextureChunkPtr& chunk, const osg::ImagePtr& image,
-                  const Layout& layout)
+/// Uploads the levels that the image has; with a whole chain, the driver makes the missing ones of
+/// the last that there is.
+void uploadLevels(Gl& gl, const osg::ImagePtr& image, osg::UInt32 frame, const Layout& layout,
+                  bool wholeChain)
 {
     const auto type = static_cast<GLenum>(image->getDataType());
     const GLenum internal = type == GL_UNSIGNED_BYTE ? layout.internalByte : layout.internalFloat;
@@ -128,36 +130,23 @@ void uploadLevels(Gl& gl, const osg::TextureChunkPtr& chunk, const osg::ImagePtr
         const GLsizei height = std::max(image->getHeight() >> level, 1);
         gl.glTexImage2D(GL_TEXTURE_2D, level, static_cast<GLint>(internal), width, height, 0,
                         layout.external, type,
-                        image->getData(static_cast<osg::UInt32>(level), chunk->getFrame()));
+                        image->getData(static_cast<osg::UInt32>(level), frame));
     }
     gl.glPixelStorei(GL_UNPACK_ALIGNMENT, 4);
-    if (levels > 1) {
-        gl.glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAX_LEVEL, levels - 1);
-    } else if (wantsMipmaps(chunk->getMinFilter())) {
+    if (wholeChain && levels < static_cast<osg::Int32>(image->calcMipmapLevelCount())) {
+        gl.glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_BASE_LEVEL, levels - 1);
         gl.glGenerateMipmap(GL_TEXTURE_2D);
+        gl.glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_BASE_LEVEL, 0);
+    } else {
+        gl.glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAX_LEVEL, levels - 1);
     }
 }
 
-}  // namespace
-
-const GpuTexture& GpuTextures::get(Gl& gl, const osg::TextureChunkPtr& chunk)
-{
-    Entry& entry = entries[chunk.getFieldContainerId()];
-    const osg::UInt64 stamp = chunk->getContentStamp();
-    if (entry.stamp != stamp) {
-        gl.glDeleteTextures(1, &entry.texture.name);
-        entry.texture = upload(gl, chunk);
-        entry.stamp = stamp;
-    }
-    return entry.texture;
-}
-
-GpuTexture GpuTextures::upload(Gl& gl, const osg::TextureChunkPtr& chunk)
+/// Makes a texture of an image's frame, bound when it returns. Name 0 if it cannot be shown.
+GpuTexture upload(Gl& gl, const osg::ImagePtr& image, osg::UInt32 frame, bool wholeChain)
 {
     GpuTexture result;
-    const osg::ImagePtr image = chunk->getImage();
-    if (image == osg::NullFC || !image->isValid() ||
-        image->getData(0, chunk->getFrame()) == nullptr) {
+    if (image == osg::NullFC || !image->isValid() || image->getData(0, frame) == nullptr) {
         return result;
     }
     const Layout* layout = findLayout(image->getPixelFormat());
@@ -172,17 +161,30 @@ GpuTexture GpuTextures::upload(Gl& gl, const osg::TextureChunkPtr& chunk)
     }
     gl.glGenTextures(1, &result.name);
     gl.glBindTexture(GL_TEXTURE_2D, result.name);
-    setParameters(gl, chunk, *layout);
-    uploadLevels(gl, chunk, image, *layout);
+    gl.glTexParameteriv(GL_TEXTURE_2D, GL_TEXTURE_SWIZZLE_RGBA, layout->swizzle);
+    uploadLevels(gl, image, frame, *layout, wholeChain);
     result.hasColor = layout->hasColor;
     result.hasAlpha = layout->hasAlpha;
+    result.isIntensity = layout->format == osg::Image::OSG_I_PF;
     return result;
 }
 
-void GpuTextures::collect(Gl& gl)
+GpuTexture upload(Gl& gl, const osg::TextureChunkPtr& chunk)
+{
+    const GpuTexture result =
+        upload(gl, chunk->getImage(), chunk->getFrame(), wantsMipmaps(chunk->getMinFilter()));
+    if (result.name != 0) {
+        setParameters(gl, chunk);
+    }
+    return result;
+}
+
+/// Deletes the textures of what is gone, or all.
+template <class Entries>
+void drop(Gl& gl, Entries& entries, bool all)
 {
     for (auto it = entries.begin(); it != entries.end();) {
-        if (osg::FieldContainerFactory::the()->getContainer(it->first) == osg::NullFC) {
+        if (all || osg::FieldContainerFactory::the()->getContainer(it->first) == osg::NullFC) {
             gl.glDeleteTextures(1, &it->second.texture.name);
             it = entries.erase(it);
         } else {
@@ -191,12 +193,57 @@ void GpuTextures::collect(Gl& gl)
     }
 }
 
+}  // namespace
+
+const GpuTexture& GpuTextures::get(Gl& gl, const osg::TextureChunkPtr& chunk)
+{
+    Entry& entry = chunkEntries[chunk.getFieldContainerId()];
+    const osg::UInt64 stamp = chunk->getContentStamp();
+    if (entry.stamp != stamp) {
+        gl.glDeleteTextures(1, &entry.texture.name);
+        entry.texture = upload(gl, chunk);
+        entry.stamp = stamp;
+    }
+    return entry.texture;
+}
+
+const GpuTexture& GpuTextures::get(Gl& gl, const osg::ImagePtr& image)
+{
+    Entry& entry = imageEntries[image.getFieldContainerId()];
+    const osg::UInt64 stamp = osg::ContentStamp(*image).get();
+    if (entry.stamp != stamp) {
+        gl.glDeleteTextures(1, &entry.texture.name);
+        entry.texture = upload(gl, image, 0, true);
+        entry.stamp = stamp;
+    }
+    return entry.texture;
+}
+
+GLuint GpuTextures::getSampler(Gl& gl, bool repeatU, bool repeatV)
+{
+    GLuint& sampler = samplers[(repeatU ? 1U : 0U) + (repeatV ? 2U : 0U)];
+    if (sampler == 0) {
+        gl.glGenSamplers(1, &sampler);
+        gl.glSamplerParameteri(sampler, GL_TEXTURE_MIN_FILTER, GL_LINEAR_MIPMAP_LINEAR);
+        gl.glSamplerParameteri(sampler, GL_TEXTURE_MAG_FILTER, GL_LINEAR);
+        gl.glSamplerParameteri(sampler, GL_TEXTURE_WRAP_S, repeatU ? GL_REPEAT : GL_CLAMP_TO_EDGE);
+        gl.glSamplerParameteri(sampler, GL_TEXTURE_WRAP_T, repeatV ? GL_REPEAT : GL_CLAMP_TO_EDGE);
+    }
+    return sampler;
+}
+
+void GpuTextures::collect(Gl& gl)
+{
+    drop(gl, chunkEntries, false);
+    drop(gl, imageEntries, false);
+}
+
 void GpuTextures::release(Gl& gl)
 {
-    for (auto& [id, entry] : entries) {
-        gl.glDeleteTextures(1, &entry.texture.name);
-    }
-    entries.clear();
+    drop(gl, chunkEntries, true);
+    drop(gl, imageEntries, true);
+    gl.glDeleteSamplers(static_cast<GLsizei>(samplers.size()), samplers.data());
+    forget();
 }
 
 }  // namespace nbrender

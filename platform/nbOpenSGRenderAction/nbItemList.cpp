@@ -51,6 +51,8 @@ struct ItemList::Place
 {
     osg::Matrix worldFromParent;
     osg::MaterialPtr group;
+    /// Of the node that carries the group's material; belongs to a visit further up.
+    const osg::Matrix* worldFromGroup = nullptr;
     osg::UInt32 manipulator = 0;
     osg::UInt32 clipSet = 0;
     bool auxiliary = false;
@@ -71,6 +73,7 @@ bool ItemList::update(const osg::NodePtr& root)
     states.clear();
     stateIndices.clear();
     clipSources.resize(1);
+    surfaceSpaces.resize(1);
     manipulatorCount = 0;
     if (root != osg::NullFC) {
         visit(root, Place());
@@ -104,6 +107,7 @@ void ItemList::visit(const osg::NodePtr& node, const Place& above)
     } else if (const auto group = osg::MaterialGroupPtr::dcast(core); group != osg::NullFC) {
         if (place.group == osg::NullFC) {
             place.group = group->getMaterial();
+            place.worldFromGroup = &place.worldFromParent;
         }
     } else if (const auto geometry = osg::GeometryPtr::dcast(core); geometry != osg::NullFC) {
         addItem(geometry, place);
@@ -175,7 +179,20 @@ void ItemList::addItem(const osg::GeometryPtr& geometry, const Place& place)
         item.key = place.group == osg::NullFC ? state.sortKey : place.group->getSortKey();
     }
     item.blended = state.transparent;
+    placePictures(item, place);
     items.push_back(item);
+}
+
+void ItemList::placePictures(RenderItem& item, const Place& place)
+{
+    if (states[item.stateIndex].uber == nullptr || item.handle || place.group == osg::NullFC) {
+        return;
+    }
+    osg::Matrix groupFromObject;
+    place.worldFromGroup->inverse(groupFromObject);
+    groupFromObject.mult(item.worldFromObject);
+    item.surfaceSpace = static_cast<osg::UInt32>(surfaceSpaces.size());
+    surfaceSpaces.push_back(groupFromObject);
 }
 
 osg::UInt32 ItemList::stateFor(const osg::MaterialPtr& material, const osg::MaterialPtr& group,

@@ -33,6 +33,7 @@ struct RenderItem
     osg::Int32 depthSteps = 0;
     osg::UInt32 manipulator = 0;  ///< number of the manipulator node that the item is below, from 1
     osg::UInt32 clipSet = 0;  ///< into ItemList::getClipPlanes; 0 for an item that nothing cuts
+    osg::UInt32 surfaceSpace = 0;  ///< into ItemList::getSurfaceSpace; 0: the item's own space
 };
 
 /// Clip planes in world space: what is seen has a x + b y + c z + d >= 0 for each of them.
@@ -72,6 +73,12 @@ public:
 
     /// The planes of a set of the last update.
     const ClipPlanes& getClipPlanes(osg::UInt32 clipSet) const { return clipPlanes[clipSet]; }
+
+    /// From an item's space to that of the node which carries its material, 4x4, column vectors.
+    const osg::Matrix& getSurfaceSpace(osg::UInt32 surfaceSpace) const
+    {
+        return surfaceSpaces[surfaceSpace];
+    }
 
     /// World bounds of the items that are neither handles nor auxiliary; empty without any.
     const osg::BoxVolume& getSceneBounds() const { return sceneBounds; }
@@ -119,6 +126,7 @@ private:
     void updateClipPlanes();
     void visitChildren(const osg::NodePtr& node, const Place& place);
     void addItem(const osg::GeometryPtr& geometry, const Place& place);
+    void placePictures(RenderItem& item, const Place& place);
     osg::UInt32 stateFor(const osg::MaterialPtr& material, const osg::MaterialPtr& group,
                          bool handle);
     const osg::BoxVolume& localBounds(const osg::GeometryPtr& geometry);
@@ -133,6 +141,7 @@ private:
     std::vector<osg::UInt32> order;
     std::vector<std::vector<ClipSource>> clipSources { 1 };  ///< by set; the first stays empty
     std::vector<ClipPlanes> clipPlanes { 1 };
+    std::vector<osg::Matrix> surfaceSpaces { 1 };  ///< the first stays the identity
     std::unordered_map<StateKey, osg::UInt32, StateKeyHash> stateIndices;
     std::unordered_map<osg::UInt32, LocalBounds> boundsById;
     osg::BoxVolume sceneBounds;

@@ -259,7 +259,7 @@ void nbRenderAction::Impl::drawScene(const osg::ViewportPtr& viewport, int width
     for (const osg::UInt32 index : list.getOrder(view.viewFromWorld)) {
         const nbrender::RenderItem& item = list.getItems()[index];
         if (nbrender::isInView(item.bounds, view.usualClipFromWorld, item.handle)) {
-            painter.draw(item, list.getStates()[item.stateIndex], list.getClipPlanes(item.clipSet));
+            painter.draw(item, list);
             ++statistics.drawn;
         }
     }

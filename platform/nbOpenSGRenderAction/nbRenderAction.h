@@ -21,8 +21,14 @@
 /// Drawing order and the rules of material groups are those of nbrender::ItemList. Handles, all
 /// items below a manipulator node, are tested LEQUAL and write depth in the front tenth of the
 /// depth range, whatever their chunks say, so that they show through every object and occlude each
-/// other; the near and far plane do not cut them. Blended items write no depth. Line widths are
+/// other; the near and far plane do not cut them. Blended items write no depth, except that of a
+/// surface which only a projected picture makes transparent the opaque parts do. Line widths are
 /// logical pixels.
+///
+/// The pictures of UberMaterials are projected per pixel, in the space of the node that carries the
+/// material: a geometry's own node or that of a material group, as osg::ColorComponentSettings has
+/// it. A texture environment of GL_BLEND, GL_MODULATE, GL_DECAL or GL_REPLACE mixes as in OpenGL,
+/// alpha and brightness formats included. Mipmaps that an image lacks are made.
 ///
 /// Lit surfaces get a light that travels with the camera, from above its left shoulder, and a sky
 /// and ground light; both sides of a surface are lit alike. Unlit ones show diffuse + emission, or

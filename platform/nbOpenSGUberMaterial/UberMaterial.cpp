@@ -58,7 +58,8 @@ std::vector<std::string> UberMaterial::getComponentNames() const
 bool UberMaterial::isTransparent() const
 {
     const ColorComponentPtr entry = findComponent(kTransparencyComponent);
-    if (entry == NullFC || entry->getSettings() == NullFC || entry->getImage() == NullFC) {
+    if (entry == NullFC || entry->getSettings() == NullFC || entry->getImage() == NullFC ||
+        !entry->getImage()->isValid()) {
         return Inherited::isTransparent();
     }
     return entry->getSettings()->getAsMask() || entry->getImage()->hasAlphaChannel() ||
