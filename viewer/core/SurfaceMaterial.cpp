@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/core/SurfaceMaterial.h"
 
-#include "viewer/core/StateRecord.h"
-
+#include <nbKernelServices/nbScopedUndo.h>
+#include <nbKernelServices/nbUndoRecord.h>
+#include <nbKernelServices/nbUndoService.h>
 #include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <OpenSG/OSGGeometry.h>
+#include <OpenSG/OSGNodePtr.h>
 
+#include <memory>
 #include <utility>
 
 namespace viewer {
@@ -32,24 +35,45 @@ void setCoreOf(const osg::NodePtr& node, const osg::NodeCorePtr& core)
     node->setCore(core);
 }
 
-/// The geometry of a node, and its material.
-struct SurfaceState
+/// What a node showed, and what it shows instead.
+class SurfaceRecord : public nbUndoRecord
 {
-    using Pointer = osg::NodePtr;
+public:
+    /// To be made before the edit.
+    explicit SurfaceRecord(const osg::NodePtr& surface)
+        : node(surface)
+        , before(stateOf(surface))
+    { }
+
+    bool close() override
+    {
+        after = stateOf(node.get());
+        return after != before;
+    }
+
+    void undo() override { restore(before); }
+
+    void redo() override { restore(after); }
+
+private:
     using State = std::pair<osg::RefPtr<osg::GeometryPtr>, osg::RefPtr<osg::MaterialPtr>>;
 
-    static State read(const osg::NodePtr& node)
+    static State stateOf(const osg::NodePtr& surface)
     {
-        const osg::GeometryPtr geometry = geometryOf(node);
+        const osg::GeometryPtr geometry = geometryOf(surface);
         return { osg::RefPtr<osg::GeometryPtr>(geometry),
                  osg::RefPtr<osg::MaterialPtr>(geometry->getMaterial()) };
     }
 
-    static void write(const osg::NodePtr& node, const State& state)
+    void restore(const State& state)
     {
         setMaterialOf(state.first.get(), state.second.get());
-        setCoreOf(node, state.first.get());
+        setCoreOf(node.get(), state.first.get());
     }
+
+    osg::NodeRefPtr node;
+    State before;
+    State after;
 };
 
 /// A geometry core of its own for a node, with the arrays of the one that it shares with others.
@@ -133,7 +157,8 @@ osg::UberMaterialPtr makeUberMaterial(const osg::NodePtr& surface)
     if (present != osg::NullFC) {
         return present;
     }
-    recordState<SurfaceState>(surface);
+    const nbScopedUndo undo("Material for pictures");
+    nbUndoService::the()->record(std::make_unique<SurfaceRecord>(surface));
     osg::GeometryPtr geometry = geometryOf(surface);
     const osg::UberMaterialPtr material = makeLikeness(geometry->getMaterial());
     if (geometry->getParents().size() > 1) {
