@@ -14,6 +14,7 @@ set_target_properties(nbManipulator nbplatform PROPERTIES
 
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/manipulator DESTINATION ${NBM_HEADERS}
         FILES_MATCHING PATTERN "*.h" PATTERN "detail" EXCLUDE
+        PATTERN "PlanarTextureManipulatorState.h" EXCLUDE
         PATTERN "UniversalTransformManipulator2Drag.h" EXCLUDE
         PATTERN "UniversalTransformManipulator2Handles.h" EXCLUDE)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/modules DESTINATION ${NBM_HEADERS}

@@ -14,17 +14,10 @@
 #include "manipulator/detail/TargetFrame.h"
 
 #include <nbInteraction/Picker.h>
-#include <nbKernel/nbOSGWidget.h>
 #include <nbOpenSGExt/Transform3D.h>
-#include <nbOpenSGUberCamera/UberCamera.h>
-#include <nbOpenSGUberCamera/nbUberCameraUtils.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
-#include <OpenSG/OSGSimpleAttachments.h>
-
-#include <cmath>
 #include <cstring>
-#include <string_view>
 
 #include <EditStamp.h>
 
@@ -348,20 +341,8 @@ UniversalTransformManipulator2::detectMode(ManipulatorInteractionContext* ctx) c
     if (getNode() == osg::NullFC) {
         return ActiveMode::None;
     }
-    const osg::NodePtr hit = detail::pickHandle(ctx);
-    if (hit == osg::NullFC) {
-        return ActiveMode::None;
-    }
-    const char* const name = osg::getName(hit);
-    if (name == nullptr) {
-        return ActiveMode::None;
-    }
-    for (const HandleRow& row : kHandles) {
-        if (row.name != nullptr && std::string_view(name) == row.name) {
-            return row.activeMode;
-        }
-    }
-    return ActiveMode::None;
+    const HandleRow* const row = detail::findHandleRow(kHandles, detail::pickHandle(ctx));
+    return row != nullptr ? row->activeMode : ActiveMode::None;
 }
 
 // == Placement
@@ -374,7 +355,8 @@ void UniversalTransformManipulator2::updateManipulator()
     }
     const osg::NodePtr node = detail::editedNode(selected);
     const osg::Pnt3f anchor = anchorWorld(node);
-    const float size = screenScale(anchor);
+    const float size =
+        detail::screenScale(anchor, m_ManipulatorSize, detail::ViewDiagonal::FrustumSides);
     cachedTargetToWorld = node->getToWorld();
     {
         const detail::EditBracket edit(placement,
@@ -411,20 +393,6 @@ osg::Quaternion UniversalTransformManipulator2::orientationWorld(const osg::Node
     const osg::Transform3DPtr transform = osg::Transform3DPtr::dcast(node->getCore());
     return transform != osg::NullFC ? detail::pivotAxesInWorld(node, transform)
                                     : detail::worldRotation(node);
-}
-
-float UniversalTransformManipulator2::screenScale(const osg::Pnt3f& anchor)
-{
-    const nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1);
-    const osg::UberCameraPtr camera =
-        widget != nullptr ? widget->getUberCamera() : osg::UberCameraPtr();
-    if (camera != osg::NullFC && nbUberCameraUtils::isOrthographicCamera(camera)) {
-        const float width = camera->getRight() - camera->getLeft();
-        const float height = camera->getBottom() - camera->getTop();
-        return detail::orthographicScale(std::sqrt(width * width + height * height));
-    }
-    const double distance = anchor.dist(nbOSGWidget::getFrom(-1));
-    return detail::perspectiveScale(distance, nbOSGWidget::getFov(-1), m_ManipulatorSize);
 }
 
 osg::Pnt3f UniversalTransformManipulator2::calculateObjectCenter(const osg::NodePtr& node,

@@ -232,7 +232,6 @@ private:
     void updateManipulator();
     osg::Pnt3f anchorWorld(const osg::NodePtr& node) const;
     osg::Quaternion orientationWorld(const osg::NodePtr& node) const;
-    static float screenScale(const osg::Pnt3f& anchor);
     /// Centre of an object's volume, in its own frame or in the world's.
     static osg::Pnt3f calculateObjectCenter(const osg::NodePtr& node, bool worldSpace);
 

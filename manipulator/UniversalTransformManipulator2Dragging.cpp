@@ -131,11 +131,7 @@ osg::NodePtr UniversalTransformManipulator2::makeTransform(const osg::NodePtr& n
     }
     const osg::NodePtr transform = nbNodeUtils::convertToTransform3DNode(node);
     if (transform != osg::NullFC && node != nbScenegraph::getRootNode()) {
-        const osg::Pnt3f center = calculateObjectCenter(transform, false);
-        nbNodeUtils::setTransformNodeRotatePivot(transform, center.x(), center.y(), center.z(),
-                                                 true, -1);
-        nbNodeUtils::setTransformNodeScalePivot(transform, center.x(), center.y(), center.z(), true,
-                                                -1);
+        detail::setBothPivots(transform, calculateObjectCenter(transform, false));
     }
     return transform;
 }

@@ -50,7 +50,7 @@ osg::DepthTestChunkPtr makeAlwaysDepthChunk()
 }
 
 osg::SimpleMaterialRefPtr makeHandleMaterial(const osg::Color3f& diffuse, int sortKey,
-                                             const LineChunks* chunks)
+                                             const LineChunks* chunks, float transparency)
 {
     const osg::Color4f color(diffuse.red(), diffuse.green(), diffuse.blue(), 1.0F);
     osg::SimpleMaterialRefPtr material =
@@ -60,6 +60,10 @@ osg::SimpleMaterialRefPtr makeHandleMaterial(const osg::Color3f& diffuse, int so
         material->addChunk(chunks->line.get());
         material->addChunk(chunks->blend.get());
         material->addChunk(chunks->depth.get());
+    }
+    if (transparency != 0.0F) {
+        const EditBracket edit(material.get(), osg::SimpleMaterial::TransparencyFieldMask);
+        material->setTransparency(transparency);
     }
     return material;
 }

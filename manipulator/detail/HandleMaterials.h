@@ -26,9 +26,11 @@ LineChunks makeLineChunks();
 osg::DepthTestChunkPtr makeAlwaysDepthChunk();
 
 /// Unlit handle material: black but for its diffuse colour, shininess 10.
-/// @param chunks  the line chunks to add, null for a solid material
+/// @param chunks        the line chunks to add, null for a solid material
+/// @param transparency  0 opaque, 1 invisible; a tiny one has the handle drawn among the blended
+///                      items, in the order of their sort keys, and still looks opaque
 osg::SimpleMaterialRefPtr makeHandleMaterial(const osg::Color3f& diffuse, int sortKey,
-                                             const LineChunks* chunks);
+                                             const LineChunks* chunks, float transparency = 0.0F);
 
 /// Unlit material of a handle pass: the depth-test chunk and the sort key are all that matters of
 /// it.

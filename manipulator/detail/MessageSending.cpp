@@ -14,13 +14,6 @@ void sendEmpty(const char* name)
     nbController::call(name, message, 0);
 }
 
-void sendMaterialPreviewEnabled(bool enabled)
-{
-    nbMessage message;
-    message.set("enabled", enabled, true);
-    nbController::call("setMatRenderEnabled", message, 0);
-}
-
 }  // namespace
 
 void sendTransformationChanged()
@@ -30,15 +23,9 @@ void sendTransformationChanged()
     nbController::setModified(1);
 }
 
-void sendMaterialPreviewPaused()
+void sendToReceiver(const std::string& receiver, const char* suffix, nbMessage& message)
 {
-    sendMaterialPreviewEnabled(false);
-}
-
-void sendMaterialPreviewResumed()
-{
-    sendMaterialPreviewEnabled(true);
-    nbController::call("updateMatRender", 0);
+    nbController::call((receiver + suffix).c_str(), message, 0);
 }
 
 }  // namespace nbec::manipulator::detail

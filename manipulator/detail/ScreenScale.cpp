@@ -1,6 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/detail/ScreenScale.h"
 
+#include <nbKernel/nbOSGWidget.h>
+#include <nbOpenSGUberCamera/UberCamera.h>
+#include <nbOpenSGUberCamera/nbUberCameraUtils.h>
+
+#include <cmath>
+
 namespace nbec::manipulator::detail {
 
 namespace {
@@ -8,6 +14,16 @@ namespace {
 constexpr double kSizeLimit = 200.0;
 constexpr double kReference = 800.0;
 constexpr float kViewsPerDiagonal = 20.0F;
+
+float diagonalOf(const osg::UberCameraPtr& camera, ViewDiagonal diagonal)
+{
+    if (diagonal == ViewDiagonal::NearPlane) {
+        return camera->getNearPlaneDiagonal();
+    }
+    const float width = camera->getRight() - camera->getLeft();
+    const float height = camera->getBottom() - camera->getTop();
+    return std::sqrt(width * width + height * height);
+}
 
 }  // namespace
 
@@ -20,6 +36,18 @@ float perspectiveScale(double distance, float fovDeg, float size)
 float orthographicScale(float diagonal)
 {
     return diagonal / kViewsPerDiagonal;
+}
+
+float screenScale(const osg::Pnt3f& anchor, float size, ViewDiagonal diagonal)
+{
+    const nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1);
+    const osg::UberCameraPtr camera =
+        widget != nullptr ? widget->getUberCamera() : osg::UberCameraPtr();
+    if (camera != osg::NullFC && nbUberCameraUtils::isOrthographicCamera(camera)) {
+        return orthographicScale(diagonalOf(camera, diagonal));
+    }
+    const double distance = anchor.dist(nbOSGWidget::getFrom(-1));
+    return perspectiveScale(distance, nbOSGWidget::getFov(-1), size);
 }
 
 }  // namespace nbec::manipulator::detail

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <OpenSG/OSGVector.h>
+
 namespace nbec::manipulator::detail {
 
 /// Size setting of a gizmo class before anybody sets one.
@@ -19,5 +21,18 @@ float perspectiveScale(double distance, float fovDeg, float size);
 /// Scale that keeps a gizmo's apparent size constant under an orthographic camera: diagonal / 20.
 /// @param diagonal  diagonal of the camera's view, world units
 float orthographicScale(float diagonal);
+
+/// What an orthographic camera's view is measured by.
+enum class ViewDiagonal
+{
+    NearPlane,  ///< the camera's own near-plane diagonal
+    FrustumSides  ///< the diagonal that the sides of its frustum make
+};
+
+/// Scale of a gizmo in the main view: orthographicScale() under an orthographic camera, otherwise
+/// perspectiveScale() of the distance from the eye, with the widget's defaults where there is none.
+/// @param anchor  place of the gizmo, world
+/// @param size    class-wide size setting
+float screenScale(const osg::Pnt3f& anchor, float size, ViewDiagonal diagonal);
 
 }  // namespace nbec::manipulator::detail

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "modules/textureplacement/TexturePlacementPickTool.h"
 
-#include "manipulator/detail/ContainerReference.h"
+#include "manipulator/detail/MaterialComponent.h"
 #include "manipulator/detail/MessageSending.h"
+#include "manipulator/detail/PreviewPause.h"
 
 #include <nbInteraction/Picker.h>
 #include <nbInteraction/ToolInteractionContext.h>
-#include <nbKernel/nbController.h>
 #include <nbKernel/nbOSGWidget.h>
+#include <nbUtils/nbMessage.h>
 
 #include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGVector.h>
@@ -46,16 +47,34 @@ std::string describeHit(const osg::Pnt3f& point, const osg::Vec3f& normal)
 
 }  // namespace
 
+struct TexturePlacementPickTool::State
+{
+    std::string messageReceiver;
+    manipulator::detail::MaterialComponent component;
+    std::string actionName = kActionName;
+    std::string descriptionText =
+        QCoreApplication::translate("nbForegroundTextContext", "Set Texture Center Position")
+            .toStdString();
+    bool showHitData = true;
+    manipulator::detail::PreviewPause pause;
+};
+
 TexturePlacementPickTool::TexturePlacementPickTool()
-    : actionName(kActionName)
-    , descriptionText(
-          QCoreApplication::translate("nbForegroundTextContext", "Set Texture Center Position")
-              .toStdString())
+    : state(std::make_unique<State>())
 { }
 
-TexturePlacementPickTool::TexturePlacementPickTool(const TexturePlacementPickTool& other) = default;
-TexturePlacementPickTool&
-TexturePlacementPickTool::operator=(const TexturePlacementPickTool& other) = default;
+TexturePlacementPickTool::TexturePlacementPickTool(const TexturePlacementPickTool& other)
+    : AbstractInteractionTool(other)
+    , state(std::make_unique<State>(*other.state))
+{ }
+
+TexturePlacementPickTool& TexturePlacementPickTool::operator=(const TexturePlacementPickTool& other)
+{
+    AbstractInteractionTool::operator=(other);
+    *state = *other.state;
+    return *this;
+}
+
 TexturePlacementPickTool::~TexturePlacementPickTool() = default;
 
 // == The tool's operations, in their slot order
@@ -72,7 +91,7 @@ bool TexturePlacementPickTool::setToolMode(ToolInteractionContext* /*context*/,
 
 void TexturePlacementPickTool::activateTool(ToolInteractionContext* context)
 {
-    setDescription(descriptionText);
+    setDescription(state->descriptionText);
     AbstractInteractionTool::activateTool(context);
 }
 
@@ -84,20 +103,20 @@ void TexturePlacementPickTool::deactivateTool(ToolInteractionContext* context)
 
 bool TexturePlacementPickTool::startTool(ToolInteractionContext* context, const std::string& event)
 {
-    if (event != actionName) {
+    if (event != state->actionName) {
         return event == kZoomName;
     }
     if (pickerOf(context) == nullptr) {
         return false;
     }
-    manipulator::detail::sendMaterialPreviewPaused();
+    state->pause.begin();
     return processSelection(context);
 }
 
 bool TexturePlacementPickTool::processTool(ToolInteractionContext* context,
                                            const std::string& event)
 {
-    if (event != actionName) {
+    if (event != state->actionName) {
         return event == kZoomName;
     }
     processSelection(context);
@@ -107,14 +126,14 @@ bool TexturePlacementPickTool::processTool(ToolInteractionContext* context,
 bool TexturePlacementPickTool::stopTool(ToolInteractionContext* /*context*/,
                                         const std::string& event)
 {
-    if (event != actionName) {
+    if (event != state->actionName) {
         return event == kZoomName;
     }
     nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1);
     if (widget != nullptr) {
         widget->cancelAntialiasing();
     }
-    manipulator::detail::sendMaterialPreviewResumed();
+    state->pause.resume();
     return true;
 }
 
@@ -132,9 +151,9 @@ bool TexturePlacementPickTool::processSelection(ToolInteractionContext* context)
         message.set("hitNode", hitNode, true);
         message.set("hitPoint", hitPoint, true);
         message.set("hitNormal", hitNormal, true);
-        nbController::call((messageReceiver + kPlaceSuffix).c_str(), message, 0);
+        manipulator::detail::sendToReceiver(state->messageReceiver, kPlaceSuffix, message);
     }
-    if (hitNode != osg::NullFC && showHitData) {
+    if (hitNode != osg::NullFC && state->showHitData) {
         setDescription(describeHit(hitPoint, hitNormal));
     }
     return true;
@@ -146,57 +165,55 @@ void TexturePlacementPickTool::setMaterialComponent(osg::MaterialPtr material,
                                                     const std::string& componentType,
                                                     nbStateChunkBase* gui)
 {
-    materialId = manipulator::detail::containerId(material);
-    component = componentType;
-    guiChunk = gui;
+    state->component.set(material, componentType, gui);
 }
 
 bool TexturePlacementPickTool::isConnectedToMaterial(osg::MaterialPtr material) const
 {
-    return getMaterial() == material;
+    return state->component.isOf(material);
 }
 
 bool TexturePlacementPickTool::isConnectedTo(osg::MaterialPtr material,
                                              const std::string& componentType) const
 {
-    return isConnectedToMaterial(material) && component == componentType;
+    return state->component.is(material, componentType);
 }
 
-const std::string& TexturePlacementPickTool::getComponentType() const
+std::string TexturePlacementPickTool::getComponentType() const
 {
-    return component;
+    return state->component.getName();
 }
 
 osg::MaterialPtr TexturePlacementPickTool::getMaterial() const
 {
-    return manipulator::detail::resolveContainer<osg::MaterialPtr>(materialId);
+    return state->component.getMaterial();
 }
 
 nbStateChunkBase* TexturePlacementPickTool::getGUI() const
 {
-    return guiChunk;
+    return state->component.getGUI();
 }
 
 void TexturePlacementPickTool::setGUI(nbStateChunkBase* gui)
 {
-    guiChunk = gui;
+    state->component.setGUI(gui);
 }
 
 // == Settings
 
 void TexturePlacementPickTool::setMessageReceiver(const std::string& receiver)
 {
-    messageReceiver = receiver;
+    state->messageReceiver = receiver;
 }
 
 void TexturePlacementPickTool::setDescriptionText(const std::string& text)
 {
-    descriptionText = text;
+    state->descriptionText = text;
 }
 
 void TexturePlacementPickTool::setShowHitData(bool show)
 {
-    showHitData = show;
+    state->showHitData = show;
 }
 
 }  // namespace nbec::modules::textureplacement

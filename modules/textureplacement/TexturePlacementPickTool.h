@@ -8,6 +8,7 @@
 #include <OpenSG/OSGConfig.h>
 #include <OpenSG/OSGMaterial.h>
 
+#include <memory>
 #include <string>
 
 class nbStateChunkBase;
@@ -63,11 +64,11 @@ public:
     /// @param gui            the host's editor object of the component, not owned; null for none
     void setMaterialComponent(osg::MaterialPtr material, const std::string& componentType,
                               nbStateChunkBase* gui);
-    /// @return whether the material is the one whose texture is placed
+    /// @return whether the material is the one whose texture is placed; false for null
     bool isConnectedToMaterial(osg::MaterialPtr material) const;
     /// @return whether both the material and the component are those that are placed
     bool isConnectedTo(osg::MaterialPtr material, const std::string& componentType) const;
-    const std::string& getComponentType() const;
+    std::string getComponentType() const;
     /// @return null if none was set or it no longer exists
     osg::MaterialPtr getMaterial() const;
     nbStateChunkBase* getGUI() const;
@@ -89,13 +90,8 @@ private:
     /// @return false, and nothing is sent, without a picker
     bool processSelection(interaction::ToolInteractionContext* context);
 
-    std::string messageReceiver;
-    std::string component;
-    std::string actionName;
-    std::string descriptionText;
-    bool showHitData = true;
-    nbStateChunkBase* guiChunk = nullptr;
-    osg::UInt32 materialId = 0;
+    struct State;
+    std::unique_ptr<State> state;
 };
 
 }  // namespace nbec::modules::textureplacement

@@ -94,6 +94,7 @@ struct nbUndoService::Internals final : public nbEditRecorder
     int openScopes = 0;
     int mutedScopes = 0;
     bool isGroupOpen = false;
+    osg::UInt64 groupChanges = 0;
     /// Asked for while a scope is open.
     GroupEnd pendingEnd = GroupEnd::None;
 
@@ -150,6 +151,7 @@ void nbUndoService::Internals::finishGroup(GroupEnd end)
         return;
     }
     isGroupOpen = false;
+    ++groupChanges;
     pendingEnd = GroupEnd::None;
     if (end == GroupEnd::Keep) {
         finishStep();
@@ -207,6 +209,7 @@ bool nbUndoService::redo()
 void nbUndoService::clear()
 {
     internals->isGroupOpen = false;
+    ++internals->groupChanges;
     internals->pendingEnd = GroupEnd::None;
     internals->step.clear();
     internals->waiting.clear();
@@ -224,6 +227,7 @@ void nbUndoService::beginGroup(const QString& title)
 {
     internals->finishGroup(GroupEnd::Keep);
     internals->isGroupOpen = true;
+    ++internals->groupChanges;
     internals->pendingEnd = GroupEnd::None;
     internals->step.offerTitle(title);
 }
@@ -241,6 +245,11 @@ void nbUndoService::cancelGroup()
 bool nbUndoService::isGroupOpen() const
 {
     return internals->isGroupOpen;
+}
+
+osg::UInt64 nbUndoService::getGroupChangeCount() const
+{
+    return internals->groupChanges;
 }
 
 // == Recording

@@ -66,6 +66,9 @@ public:
 
     bool isGroupOpen() const;
 
+    /// Counts every opening and closing of a group, for who keeps values from its beginning on.
+    osg::UInt64 getGroupChangeCount() const;
+
     // == Recording, for those who edit
 
     /// Whether a group, or a scope that records, is open.

@@ -17,7 +17,7 @@ public:
     nbStateChunkBase(const nbStateChunkBase&) = delete;
     nbStateChunkBase& operator=(const nbStateChunkBase&) = delete;
 
-    /// Called after the values of a component were changed by a manipulator or by undo and redo;
-    /// reads them anew. Nothing here.
+    /// Called after an editor changed values of a component, for a manipulator or otherwise; undo
+    /// and redo are not told. Does nothing here.
     virtual void componentChanged(const std::string& component);
 };
