@@ -46,8 +46,8 @@ bool DragContext::triggerEvent(InteractionManager* manager, const InteractionEve
 
 bool DragContext::start(InteractionManager* manager, const InteractionEvent& event)
 {
-    const bool isTaken = group.start(
-        [&] { return ManipulatorInteractionContext::triggerEvent(manager, event); });
+    const bool isTaken =
+        group.start([&] { return ManipulatorInteractionContext::triggerEvent(manager, event); });
     if (isTaken) {
         // The manipulator measures from its first step on: one where the handle was grabbed keeps
         // the way to the next position from being lost.

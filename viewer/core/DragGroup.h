@@ -35,8 +35,8 @@ public:
     template <class Deliver>
     bool stop(const nbec::interaction::InteractionManager* manager, Deliver deliver)
     {
-        const bool isCancelled = manager != nullptr &&
-            manager->getDragEnd() == nbec::interaction::DragEnd::Cancelled;
+        const bool isCancelled =
+            manager != nullptr && manager->getDragEnd() == nbec::interaction::DragEnd::Cancelled;
         const bool answer = deliver();
         open = false;
         if (!isCancelled) {

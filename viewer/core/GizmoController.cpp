@@ -255,7 +255,7 @@ std::string GizmoController::draggedValues() const
     case HandleAction::MoveInPlane:
         if (current == Gizmo::RotatePivot) {
             return valueLine("Rotate pivot",
-                          nbTransformModel::getRotationPivot(node, !isLocalSpace()));
+                             nbTransformModel::getRotationPivot(node, !isLocalSpace()));
         }
         if (current == Gizmo::ScalePivot) {
             return valueLine("Scale pivot", nbTransformModel::getScalePivot(node, !isLocalSpace()));

@@ -154,6 +154,13 @@ ProjectionPose TextureTool::poseFacingTheEye(float aspect, float share) const
     return poseOnFront(bounds, toEye, up, aspect, share);
 }
 
+bool TextureTool::setComponent(const std::string& component)
+{
+    const bool isShown = textureTarget.setComponent(component);
+    refresh();
+    return isShown;
+}
+
 bool TextureTool::setPicture(const QString& file, QString& error)
 {
     error = hindrance();

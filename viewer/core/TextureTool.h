@@ -44,12 +44,12 @@ public:
     /// Why nothing can be put on the selection, one line; "" if something can.
     QString hindrance() const;
 
+    /// Turns to another component of the material. @return false for one that is not shown
+    bool setComponent(const std::string& component);
+
     /// Puts a picture file on the component. The first one comes to the side that faces the eye.
     /// @return false with one line in `error`, nothing changed
     bool setPicture(const QString& file, QString& error);
-
-    /// Adopts what the target is now; after every edit of it that is not made here.
-    void refresh();
 
     // == The pointer
 
@@ -116,6 +116,8 @@ private:
         DragGroup group;
     };
 
+    /// Adopts what the target is now.
+    void refresh();
     void connect();
     void takePointer();
     void leavePointer();

@@ -2,6 +2,7 @@
 #include "viewer/gui/MainWindow.h"
 
 #include "viewer/core/ModelReader.h"
+#include "viewer/gui/MaterialPanel.h"
 #include "viewer/gui/MessageBar.h"
 #include "viewer/gui/Panel.h"
 #include "viewer/gui/SessionPlayer.h"
@@ -157,7 +158,11 @@ QDockWidget* MainWindow::addDock(QWidget* content, const QString& title, const Q
 }
 
 /// Every panel besides the list of steps; hidden until a person asks for it.
-void MainWindow::createPanels() { }
+void MainWindow::createPanels()
+{
+    addPanel(new MaterialPanel(viewWidget->stage()), tr("Material"),
+             QStringLiteral("materialDock"));
+}
 
 void MainWindow::addPanel(Panel* panel, const QString& title, const QString& name)
 {
