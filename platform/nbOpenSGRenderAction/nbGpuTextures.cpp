@@ -8,7 +8,9 @@
 #include <OpenSG/OSGImage.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <string>
+#include <vector>
 
 namespace nbrender {
 
@@ -116,24 +118,58 @@ void setParameters(Gl& gl, const osg::TextureChunkPtr& chunk)
     set(GL_TEXTURE_WRAP_T, wrapping(chunk->getWrapT()));
 }
 
-/// Uploads the levels that the image has; with a whole chain, the driver makes the missing ones of
-/// the last that there is.
-void uploadLevels(Gl& gl, const osg::ImagePtr& image, osg::UInt32 frame, const Layout& layout,
-                  bool wholeChain)
+/// Pixels of bytes with their colours times alpha, which is the last component.
+std::vector<osg::UInt8> premultiply(const osg::UInt8* pixels, std::size_t count,
+                                    std::size_t components)
+{
+    constexpr unsigned int kFull = 255;
+    std::vector<osg::UInt8> result(pixels, pixels + count * components);
+    for (std::size_t pixel = 0; pixel < result.size(); pixel += components) {
+        const unsigned int alpha = result[pixel + components - 1];
+        for (std::size_t i = pixel; i + 1 < pixel + components; ++i) {
+            result[i] = static_cast<osg::UInt8>((result[i] * alpha + kFull / 2) / kFull);
+        }
+    }
+    return result;
+}
+
+/// How the levels of an image are uploaded.
+struct UploadOptions
+{
+    osg::UInt32 frame = 0;
+    bool wholeChain = true;  ///< missing mipmaps are made
+    bool premultiplied = false;
+};
+
+void uploadLevel(Gl& gl, const osg::ImagePtr& image, osg::Int32 level, const Layout& layout,
+                 const UploadOptions& options)
 {
     const auto type = static_cast<GLenum>(image->getDataType());
     const GLenum internal = type == GL_UNSIGNED_BYTE ? layout.internalByte : layout.internalFloat;
+    const GLsizei width = std::max(image->getWidth() >> level, 1);
+    const GLsizei height = std::max(image->getHeight() >> level, 1);
+    const osg::UInt8* data = image->getData(static_cast<osg::UInt32>(level), options.frame);
+    std::vector<osg::UInt8> scaled;
+    if (options.premultiplied) {
+        scaled = premultiply(data, static_cast<std::size_t>(width) * height, image->getBpp());
+        data = scaled.data();
+    }
+    gl.glTexImage2D(GL_TEXTURE_2D, level, static_cast<GLint>(internal), width, height, 0,
+                    layout.external, type, data);
+}
+
+/// Uploads the levels that the image has; with a whole chain, the driver makes the missing ones of
+/// the last that there is.
+void uploadLevels(Gl& gl, const osg::ImagePtr& image, const Layout& layout,
+                  const UploadOptions& options)
+{
     const osg::Int32 levels = std::max(image->getMipMapCount(), 1);
     gl.glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
     for (osg::Int32 level = 0; level < levels; ++level) {
-        const GLsizei width = std::max(image->getWidth() >> level, 1);
-        const GLsizei height = std::max(image->getHeight() >> level, 1);
-        gl.glTexImage2D(GL_TEXTURE_2D, level, static_cast<GLint>(internal), width, height, 0,
-                        layout.external, type,
-                        image->getData(static_cast<osg::UInt32>(level), frame));
+        uploadLevel(gl, image, level, layout, options);
     }
     gl.glPixelStorei(GL_UNPACK_ALIGNMENT, 4);
-    if (wholeChain && levels < static_cast<osg::Int32>(image->calcMipmapLevelCount())) {
+    if (options.wholeChain && levels < static_cast<osg::Int32>(image->calcMipmapLevelCount())) {
         gl.glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_BASE_LEVEL, levels - 1);
         gl.glGenerateMipmap(GL_TEXTURE_2D);
         gl.glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_BASE_LEVEL, 0);
@@ -143,10 +179,10 @@ void uploadLevels(Gl& gl, const osg::ImagePtr& image, osg::UInt32 frame, const L
 }
 
 /// Makes a texture of an image's frame, bound when it returns. Name 0 if it cannot be shown.
-GpuTexture upload(Gl& gl, const osg::ImagePtr& image, osg::UInt32 frame, bool wholeChain)
+GpuTexture upload(Gl& gl, const osg::ImagePtr& image, UploadOptions options)
 {
     GpuTexture result;
-    if (image == osg::NullFC || !image->isValid() || image->getData(0, frame) == nullptr) {
+    if (image == osg::NullFC || !image->isValid() || image->getData(0, options.frame) == nullptr) {
         return result;
     }
     const Layout* layout = findLayout(image->getPixelFormat());
@@ -159,20 +195,25 @@ GpuTexture upload(Gl& gl, const osg::ImagePtr& image, osg::UInt32 frame, bool wh
                      ", cannot be shown by this driver (limit " + std::to_string(largest) + ")");
         return result;
     }
+    const bool isIntensity = layout->format == osg::Image::OSG_I_PF;
     gl.glGenTextures(1, &result.name);
     gl.glBindTexture(GL_TEXTURE_2D, result.name);
     gl.glTexParameteriv(GL_TEXTURE_2D, GL_TEXTURE_SWIZZLE_RGBA, layout->swizzle);
-    uploadLevels(gl, image, frame, *layout, wholeChain);
+    options.premultiplied = options.premultiplied && layout->hasAlpha && layout->hasColor &&
+        !isIntensity && image->getDataType() == osg::Image::OSG_UINT8_IMAGEDATA;
+    uploadLevels(gl, image, *layout, options);
     result.hasColor = layout->hasColor;
     result.hasAlpha = layout->hasAlpha;
-    result.isIntensity = layout->format == osg::Image::OSG_I_PF;
+    result.isIntensity = isIntensity;
+    result.isPremultiplied = options.premultiplied;
     return result;
 }
 
 GpuTexture upload(Gl& gl, const osg::TextureChunkPtr& chunk)
 {
+    const bool wholeChain = wantsMipmaps(chunk->getMinFilter());
     const GpuTexture result =
-        upload(gl, chunk->getImage(), chunk->getFrame(), wantsMipmaps(chunk->getMinFilter()));
+        upload(gl, chunk->getImage(), { chunk->getFrame(), wholeChain, false });
     if (result.name != 0) {
         setParameters(gl, chunk);
     }
@@ -207,13 +248,14 @@ const GpuTexture& GpuTextures::get(Gl& gl, const osg::TextureChunkPtr& chunk)
     return entry.texture;
 }
 
-const GpuTexture& GpuTextures::get(Gl& gl, const osg::ImagePtr& image)
+const GpuTexture& GpuTextures::get(Gl& gl, const osg::ImagePtr& image, bool premultiplied)
 {
-    Entry& entry = imageEntries[image.getFieldContainerId()];
+    Entries& entries = premultiplied ? premultipliedEntries : imageEntries;
+    Entry& entry = entries[image.getFieldContainerId()];
     const osg::UInt64 stamp = osg::ContentStamp(*image).get();
     if (entry.stamp != stamp) {
         gl.glDeleteTextures(1, &entry.texture.name);
-        entry.texture = upload(gl, image, 0, true);
+        entry.texture = upload(gl, image, { 0, true, premultiplied });
         entry.stamp = stamp;
     }
     return entry.texture;
@@ -236,12 +278,14 @@ void GpuTextures::collect(Gl& gl)
 {
     drop(gl, chunkEntries, false);
     drop(gl, imageEntries, false);
+    drop(gl, premultipliedEntries, false);
 }
 
 void GpuTextures::release(Gl& gl)
 {
     drop(gl, chunkEntries, true);
     drop(gl, imageEntries, true);
+    drop(gl, premultipliedEntries, true);
     gl.glDeleteSamplers(static_cast<GLsizei>(samplers.size()), samplers.data());
     forget();
 }

@@ -19,6 +19,7 @@ struct GpuTexture
     bool hasColor = false;
     bool hasAlpha = false;
     bool isIntensity = false;  ///< colour and alpha are one value
+    bool isPremultiplied = false;  ///< colours are times alpha
 };
 
 /// Textures by the container id of their chunk or image: made on first use, anew when these were
@@ -33,7 +34,9 @@ public:
 
     /// Texture of an image's first frame with all its mipmaps, to be used with a sampler of
     /// getSampler; name 0 as above.
-    const GpuTexture& get(Gl& gl, const osg::ImagePtr& image);
+    /// @param premultiplied  colours times alpha, so that the colours of transparent pixels do not
+    ///                       mix with their neighbours'; as far as the image has bytes and alpha
+    const GpuTexture& get(Gl& gl, const osg::ImagePtr& image, bool premultiplied);
 
     /// Name of a sampler that filters smoothly and repeats, or keeps to the edge, in u and v.
     GLuint getSampler(Gl& gl, bool repeatU, bool repeatV);
@@ -52,8 +55,11 @@ private:
 
     static constexpr std::size_t kSamplerCount = 4;
 
-    std::unordered_map<osg::UInt32, Entry> chunkEntries;
-    std::unordered_map<osg::UInt32, Entry> imageEntries;
+    using Entries = std::unordered_map<osg::UInt32, Entry>;
+
+    Entries chunkEntries;
+    Entries imageEntries;
+    Entries premultipliedEntries;
     std::array<GLuint, kSamplerCount> samplers {};
 };
 

@@ -34,7 +34,8 @@ GLint flagsOf(const ProjectedPicture& picture, const GpuTexture& texture)
         bit(picture.repeatV, shaders::PictureRepeatsV) |
         bit(picture.clampZ, shaders::PictureClampsZ) |
         bit(picture.asMask && texture.hasColor, shaders::PictureByBrightness) |
-        bit(picture.invert && (picture.asMask || texture.hasAlpha), shaders::PictureInverted);
+        bit(picture.invert && (picture.asMask || texture.hasAlpha), shaders::PictureInverted) |
+        bit(texture.isPremultiplied, shaders::PicturePremultiplied);
 }
 
 }  // namespace
@@ -48,7 +49,10 @@ void bindUberMaterial(Gl& gl, GpuTextures& textures, GlProgram& program,
         gl.glActiveTexture(GL_TEXTURE0 + unit);
         const auto image =
             osg::ImagePtr::dcast(osg::FieldContainerFactory::the()->getContainer(picture.imageId));
-        const GpuTexture texture = image == osg::NullFC ? GpuTexture() : textures.get(gl, image);
+        // The colours of pixels that alpha hides count only where it is not alpha that covers.
+        const bool hidesByAlpha = !picture.asMask && !picture.invert;
+        const GpuTexture texture =
+            image == osg::NullFC ? GpuTexture() : textures.get(gl, image, hidesByAlpha);
         gl.glBindTexture(GL_TEXTURE_2D, texture.name);
         gl.glBindSampler(unit, textures.getSampler(gl, picture.repeatU, picture.repeatV));
         osg::Matrix pictureFromObject = picture.pictureFromSurface;

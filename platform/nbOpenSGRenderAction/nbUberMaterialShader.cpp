@@ -45,13 +45,18 @@ vec3 placeInPicture(int component)
 {
     return (pictureFromObject[component] * vec4(objectPosition, 1.0)).xyz;
 }
+vec4 texelOf(int component, sampler2D picture, vec3 place)
+{
+    vec4 texel = texture(picture, 0.5 * place.xy + 0.5);
+    return hasFlag(component, 64) ? vec4(texel.rgb / max(texel.a, 1e-6), texel.a) : texel;
+}
 vec4 withPictures(vec4 surface)
 {
     vec3 place = placeInPicture(0);
-    vec4 texel = texture(diffusePicture, 0.5 * place.xy + 0.5);
+    vec4 texel = texelOf(0, diffusePicture, place);
     surface.rgb = mix(surface.rgb, texel.rgb, insidePicture(0, place) * coverage(0, texel));
     place = placeInPicture(1);
-    texel = texture(transparencyPicture, 0.5 * place.xy + 0.5);
+    texel = texelOf(1, transparencyPicture, place);
     surface.a *= mix(1.0, coverage(1, texel), insidePicture(1, place));
     return surface;
 }

@@ -20,7 +20,8 @@ enum PictureFlag : int
     PictureRepeatsV = 4,
     PictureClampsZ = 8,
     PictureByBrightness = 16,  ///< covers by brightness, otherwise by alpha
-    PictureInverted = 32
+    PictureInverted = 32,
+    PicturePremultiplied = 64  ///< colours are times alpha
 };
 
 }  // namespace nbrender::shaders

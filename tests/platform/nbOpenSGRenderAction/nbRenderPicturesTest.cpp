@@ -272,6 +272,30 @@ TEST_F(nbRenderPicturesTest, DiffusePictureCoversByAlphaOrAsAMaskByBrightness)
     EXPECT_NEAR(at(byBrightness, 0.5f, -0.5f).red(), 67, 1);
 }
 
+TEST_F(nbRenderPicturesTest, ColorsOfTransparentPixelsDoNotShowAtTheBordersOfOpaqueOnes)
+{
+    // White columns between hidden black ones over white: all of it is white.
+    QImage columns(8, 8, QImage::Format_ARGB32);
+    for (int y = 0; y < 8; ++y) {
+        for (int x = 0; x < 8; ++x) {
+            columns.setPixelColor(x, y, x % 2 == 0 ? kWhite : QColor(0, 0, 0, 0));
+        }
+    }
+    PictureMaterial decal;
+    decal.setPicture(columns);
+    {
+        const nbEdit edit(decal.material, osg::FieldBits::AllFields);
+        decal.material->setDiffuse(color(kWhite));
+    }
+    for (const float scale : { 1.9f, 0.05f }) {
+        decal.place({ 0.f, 0.f, 0.f }, { scale, scale, 1.f });
+        const QImage picture = draw(wall(decal));
+        for (int x = 0; x < kSize; ++x) {
+            ASSERT_EQ(picture.pixelColor(x, kSize / 2), kWhite) << scale << " at pixel " << x;
+        }
+    }
+}
+
 TEST_F(nbRenderPicturesTest, TransparencyPictureCutsTheSurfaceOut)
 {
     PictureMaterial cutout(osg::UberMaterial::kTransparencyComponent);
