@@ -134,6 +134,12 @@ void PlanarTextureManipulator::update(bool force)
 bool PlanarTextureManipulator::startManipulator(ManipulatorInteractionContext* ctx,
                                                 const std::string& /*tool*/)
 {
+    if (state->dragging) {
+        // The host has lost a stop; what the last drag hid and paused comes back.
+        endDrag();
+        showElements();
+        state->previewPause.end();
+    }
     endHover();
     const ActiveMode detected = detectMode(ctx);
     if (detected == ActiveMode::None) {
@@ -383,6 +389,16 @@ float PlanarTextureManipulator::getAspectRatio() const
 void PlanarTextureManipulator::setUseTextureScale(bool on)
 {
     state->useTextureScale = on;
+}
+
+osg::Vec3f PlanarTextureManipulator::getInitialTextureScale() const
+{
+    return state->initialTextureScale;
+}
+
+osg::Vec2f PlanarTextureManipulator::getProjectionSize() const
+{
+    return state->projectionSize;
 }
 
 void PlanarTextureManipulator::setUseObjectScale(bool on)

@@ -170,6 +170,9 @@ public:
     void setAspectRatio(float ratio);
     float getAspectRatio() const;
     void setUseTextureScale(bool on);
+    /// What "::getScaleValues" was answered with last; (1, 1, 1) and (0, 0) before.
+    osg::Vec3f getInitialTextureScale() const;
+    osg::Vec2f getProjectionSize() const;
     void setUseObjectScale(bool on);
     void setUseObjectTranslation(bool on);
     void setApplyProjectionRotationToTranslation(bool on);

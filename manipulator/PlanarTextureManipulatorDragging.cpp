@@ -59,22 +59,25 @@ float depthFactor(float hit, float start)
     return factor <= 0.0F ? kLeastAxisFactor : factor;
 }
 
-/// Signed half of a side after its end has moved outwards.
-/// @param half     distance of the end from the centre; one of no length begins to grow
-/// @param outwards  how far half of the motion goes along the end's direction
-float grownHalf(float half, float outwards)
+bool hasLength(float half)
 {
-    if (std::abs(half) < kShortest) {
-        return std::max(outwards, 0.0F);
-    }
-    return half * std::max(1.0F + outwards / half, kLeastAxisFactor);
+    return std::abs(half) >= kShortest;
+}
+
+/// Signed half of a side after one of its ends has moved; never less than a hundredth. A side
+/// without length has no least one, and grows whichever way its end goes.
+/// @param half      distance of the end from the centre
+/// @param outwards  half of the end's motion, along its direction from the centre
+float draggedHalf(float half, float outwards)
+{
+    return hasLength(half) ? half * std::max(1.0F + outwards / half, kLeastAxisFactor) : outwards;
 }
 
 /// Gives two halves the ratio that they had: a corner goes along the diagonal, an edge takes the
 /// other side along. Sides without length have no ratio.
 void keepRatio(const osg::Vec3f& from, osg::Vec3f& to, const std::array<int, 3>& side)
 {
-    if (std::abs(from.x()) < kShortest || std::abs(from.y()) < kShortest) {
+    if (!hasLength(from.x()) || !hasLength(from.y())) {
         return;
     }
     const float x = to.x() / from.x();
@@ -376,16 +379,19 @@ void PlanarTextureManipulator::scaleEdge(osg::NodePtr node, const osg::Pnt3f& hi
         // Of a side only one end moves, the depth is counted from the projection plane.
         const float share = i < 2 ? 0.5F : 1.0F;
         if (side[i] != 0) {
-            to[i] = grownHalf(from[i], share * motion[i] * static_cast<float>(side[i]));
+            to[i] = draggedHalf(from[i], share * motion[i] * static_cast<float>(side[i]));
         }
     }
     if (state->keepAspectRatio && !isZPlane) {
         keepRatio(from, to, side);
     }
-    osg::Vec3f scales;
+    osg::Vec3f scales = drag.frame.scale;
     osg::Vec3f shift;
     for (osg::UInt32 i = 0; i < 3; ++i) {
-        scales[i] = to[i] == from[i] ? drag.frame.scale[i] : to[i] / drag.frame.extentPerScale[i];
+        if (to[i] != from[i]) {
+            scales[i] =
+                (hasLength(from[i]) ? to[i] : std::abs(to[i])) / drag.frame.extentPerScale[i];
+        }
         shift[i] = i < 2 ? (to[i] - from[i]) * static_cast<float>(side[i]) : 0.0F;
     }
     nbMessage message;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/ManipulatorInteractionContext.h"
+#include "manipulator/PlanarTextureManipulator.h"
 #include "manipulator/UniversalTransformManipulator2.h"
 #include "tests/platform/support/VirtualSlot.h"
 
@@ -58,6 +59,15 @@ TEST(VirtualTable, SubclassesAppendInTheirFixedOrder)
     for (std::size_t i = 0; i < slots.size(); ++i) {
         EXPECT_EQ(slots[i], first + 1 + static_cast<std::ptrdiff_t>(i));
     }
+}
+
+TEST(VirtualTable, ThePlanarGizmoAppendsNothing)
+{
+    using Gizmo = PlanarTextureManipulator;
+    EXPECT_EQ(virtualSlot(&Gizmo::update), 5);
+    EXPECT_EQ(virtualSlot(&Gizmo::startManipulator), 6);
+    EXPECT_EQ(virtualSlot(&Gizmo::resetManipulator), 12);
+    EXPECT_EQ(virtualSlot(&Gizmo::setNode), virtualSlot(&NodeManipulator::setNode));
 }
 
 TEST(VirtualTable, TheContextKeepsTheOrderOfItsBase)
