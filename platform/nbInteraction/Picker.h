@@ -24,8 +24,7 @@ class WidgetView;
 /// The filter says which. Flags of a node hold for its whole subtree, inactive subtrees (travMask
 /// 0) are never hit.
 /// - SceneFilter: the nearest triangle of the scene below the world root, back faces too. Auxiliary
-/// subtrees are
-///   ignored, lines and points are never hit, the pick node plays no role.
+/// subtrees are ignored, lines and points are never hit, the pick node plays no role.
 /// - HandleFilter: active, named geometry below the pick node, whatever lies in front of it;
 /// without a pick node, below
 ///   every node marked manipulator or selectable auxiliary. Triangles, lines and points are hit

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "nbItemList.h"
 
-#include <nbOpenSGExt/ClipPlane3D.h>
 #include <nbOpenSGExt/NodeFlags.h>
 #include <nbOpenSGRenderAction/nbMesh.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
@@ -64,7 +63,7 @@ bool ItemList::update(const osg::NodePtr& root)
     const osg::UInt64 count = osg::getTreeChangeCount(root);
     if (id == rootId && count == treeCount) {
         // What moves a plane may be outside of the tree.
-        updateClipPlanes();
+        clipSets.update();
         return false;
     }
     rootId = id;
@@ -72,13 +71,13 @@ bool ItemList::update(const osg::NodePtr& root)
     items.clear();
     states.clear();
     stateIndices.clear();
-    clipSources.resize(1);
+    clipSets.clear();
     surfaceSpaces.resize(1);
     manipulatorCount = 0;
     if (root != osg::NullFC) {
         visit(root, Place());
     }
-    updateClipPlanes();
+    clipSets.update();
     assignDepthSteps();
     sortItems();
     dropCopies();
@@ -99,11 +98,10 @@ void ItemList::visit(const osg::NodePtr& node, const Place& above)
         place.manipulator = ++manipulatorCount;
         place.group = osg::NullFC;
     }
+    place.clipSet = clipSets.below(above.clipSet, node);
     const osg::NodeCorePtr core = node->getCore();
     if (const auto transform = osg::TransformPtr::dcast(core); transform != osg::NullFC) {
         place.worldFromParent.mult(transform->getMatrix());
-    } else if (osg::ClipPlane3DPtr::dcast(core) != osg::NullFC) {
-        place.clipSet = extendedClipSet(above.clipSet, node);
     } else if (const auto group = osg::MaterialGroupPtr::dcast(core); group != osg::NullFC) {
         if (place.group == osg::NullFC) {
             place.group = group->getMaterial();
@@ -113,31 +111,6 @@ void ItemList::visit(const osg::NodePtr& node, const Place& above)
         addItem(geometry, place);
     }
     visitChildren(node, place);
-}
-
-osg::UInt32 ItemList::extendedClipSet(osg::UInt32 above, const osg::NodePtr& node)
-{
-    std::vector<ClipSource> sources = clipSources[above];
-    sources.push_back({ idOf(node->getCore()), idOf(node) });
-    clipSources.push_back(std::move(sources));
-    return static_cast<osg::UInt32>(clipSources.size() - 1);
-}
-
-void ItemList::updateClipPlanes()
-{
-    const osg::FieldContainerFactory& factory = *osg::FieldContainerFactory::the();
-    clipPlanes.assign(clipSources.size(), ClipPlanes());
-    for (std::size_t set = 1; set < clipSources.size(); ++set) {
-        for (const ClipSource& source : clipSources[set]) {
-            const auto core = osg::ClipPlane3DPtr::dcast(factory.getContainer(source.coreId));
-            const auto node = osg::NodePtr::dcast(factory.getContainer(source.nodeId));
-            osg::Vec4f plane;
-            if (core != osg::NullFC && clipPlanes[set].size() < kMostClipPlanes &&
-                core->getWorldEquation(node, plane)) {
-                clipPlanes[set].push_back(plane);
-            }
-        }
-    }
 }
 
 void ItemList::visitChildren(const osg::NodePtr& node, const Place& place)

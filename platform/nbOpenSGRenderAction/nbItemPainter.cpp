@@ -269,9 +269,10 @@ void ItemPainter::switchClipping(std::size_t count)
 
 void ItemPainter::setClipPlanes(GlProgram& program)
 {
-    constexpr std::array<const char*, kMostClipPlanes> kNames { "clipPlanes[0]", "clipPlanes[1]",
-                                                                "clipPlanes[2]", "clipPlanes[3]",
-                                                                "clipPlanes[4]", "clipPlanes[5]" };
+    constexpr std::array<const char*, nbClipSets::kMostPlanes> kNames {
+        "clipPlanes[0]", "clipPlanes[1]", "clipPlanes[2]",
+        "clipPlanes[3]", "clipPlanes[4]", "clipPlanes[5]"
+    };
     for (std::size_t i = 0; i < viewClipPlanes.size(); ++i) {
         const osg::Vec4f& plane = viewClipPlanes[i];
         program.set(gl, kNames[i], plane.x(), plane.y(), plane.z(), plane.w());

@@ -87,7 +87,7 @@ private:
     GpuTextures& textures;
     ShaderPrograms& programs;
     const FrameView& view;
-    ClipPlanes viewClipPlanes;  ///< of the item that is being drawn, in view space
+    nbClipSets::Planes viewClipPlanes;  ///< of the item that is being drawn, in view space
     const osg::Matrix* surfaceFromObject = nullptr;  ///< of the same item
     bool boundPictures = false;
     std::size_t clippingCount = 0;  ///< switched on

@@ -10,7 +10,7 @@ namespace {
 
 const char* const kProjectedDefine = "#define PROJECTED\n";
 
-/// As many planes as kMostClipPlanes.
+/// As many planes as nbClipSets::kMostPlanes.
 const char* const kClipFunctions = R"(
 #define CLIPPED
 uniform vec4 clipPlanes[6];

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/core/Stage.h"
 
+#include "viewer/core/ClipPlanes.h"
+#include "viewer/core/ObjectCommands.h"
 #include "viewer/core/SceneBuilder.h"
 #include "viewer/core/StageTool.h"
 #include "viewer/core/StartScene.h"
@@ -8,7 +10,6 @@
 #include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbUndoService.h>
 #include <nbNotification/NotificationManager.h>
-#include <nbOpenSGExt/ClipPlane3D.h>
 #include <nbOpenSGSelection/nbSelection.h>
 #include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
@@ -51,25 +52,6 @@ void collectSurfaces(const osg::NodePtr& node, std::vector<osg::NodePtr>& object
     }
 }
 
-/// Whether there is a clip plane that one of two nodes has as its core, or gives its frame to.
-bool findClipPlaneOf(const osg::NodePtr& root, const osg::NodePtr& first,
-                     const osg::NodePtr& second)
-{
-    const osg::ClipPlane3DPtr plane = osg::ClipPlane3DPtr::dcast(root->getCore());
-    if (plane != osg::NullFC) {
-        const osg::NodePtr frame = plane->getTransformNode();
-        if (root == first || root == second || (frame != osg::NullFC && frame == second)) {
-            return true;
-        }
-    }
-    for (osg::UInt32 i = 0; i < root->getNChildren(); ++i) {
-        if (findClipPlaneOf(root->getChild(i), first, second)) {
-            return true;
-        }
-    }
-    return false;
-}
-
 }  // namespace
 
 Stage::Stage(nbOSGWidget& view)
@@ -95,6 +77,35 @@ Stage::Stage(nbOSGWidget& view)
     manager.addContext(&selectionContext);
     manager.addContext(&cameraContext);
     selectionCallback = nbSelection::addChangedCallback([this] { selectionChanged(); });
+    addCommands();
+    addObjectCommands(*this);
+}
+
+void Stage::addCommands()
+{
+    commandTable.add(QStringLiteral("scene.addClipPlane"),
+                     [this](const QJsonValue&, QString& error) {
+                         const osg::NodePtr frame = addClipPlane(pose().from - pose().at);
+                         if (frame == osg::NullFC) {
+                             error = QStringLiteral("there is nothing to be cut");
+                             return false;
+                         }
+                         select(frame);
+                         showGizmo(Gizmo::Clipping);
+                         return true;
+                     });
+    commandTable.add(QStringLiteral("scene.removeClipPlane"),
+                     [this](const QJsonValue&, QString& error) {
+                         const osg::NodePtr frame = selectedObject();
+                         select(osg::NullFC);
+                         if (!removeClipPlane(frame)) {
+                             select(frame);
+                             error = QStringLiteral("select a clip plane first");
+                             return false;
+                         }
+                         showGizmo(Gizmo::Universal);
+                         return true;
+                     });
 }
 
 Stage::~Stage()
@@ -244,6 +255,7 @@ void Stage::clear()
     }
     triangles = 0;
     nbUndoService::the()->clear();
+    changed();
 }
 
 osg::NodePtr Stage::add(const ModelData& model)
@@ -323,9 +335,7 @@ std::vector<osg::NodePtr> Stage::selectedObjects() const
 
 bool Stage::isClipPlaneSelected() const
 {
-    const osg::NodePtr object = selectedObject();
-    return object != osg::NullFC &&
-        findClipPlaneOf(nbScenegraph::getRootNode(), nbSelection::getLast(), object);
+    return isClipPlaneOrFrame(selectedObject()) || isClipPlaneOrFrame(nbSelection::getLast());
 }
 
 void Stage::selectAll()

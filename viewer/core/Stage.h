@@ -153,6 +153,7 @@ public:
     void setChangedCallback(std::function<void()> callback);
 
 private:
+    void addCommands();
     void selectionChanged();
     void viewChanged();
     void endActiveTool();

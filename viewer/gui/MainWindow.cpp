@@ -2,9 +2,8 @@
 #include "viewer/gui/MainWindow.h"
 
 #include "viewer/core/ModelReader.h"
-#include "viewer/gui/MaterialPanel.h"
 #include "viewer/gui/MessageBar.h"
-#include "viewer/gui/Panel.h"
+#include "viewer/gui/PanelDocks.h"
 #include "viewer/gui/SessionPlayer.h"
 #include "viewer/gui/SessionRecorder.h"
 #include "viewer/gui/StatusLine.h"
@@ -14,7 +13,6 @@
 #include <nbKernelServices/nbUndoService.h>
 
 #include <QCloseEvent>
-#include <QDockWidget>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGridLayout>
@@ -23,7 +21,6 @@
 #include <QStatusBar>
 #include <QTimer>
 #include <QUndoStack>
-#include <QUndoView>
 
 namespace viewer {
 namespace {
@@ -35,6 +32,7 @@ constexpr int kMaxSizeChecks = 200;
 constexpr int kSizeCheckMs = 10;
 
 const char* const kRecentKey = "recentFiles";
+const char* const kLayoutKey = "windowLayout";
 const char* const kSessionFilter = "Sessions (*.json)";
 
 bool isSession(const QString& file)
@@ -83,8 +81,11 @@ MainWindow::MainWindow(Attendance attendance)
     layout->addWidget(viewWidget, 0, 0);
     setCentralWidget(centre);
     messageBar = new MessageBar(viewWidget);
-    createUndoList();
-    createPanels();
+    docks = new PanelDocks(*this, viewWidget->stage());
+    if (mode == Attendance::Attended) {
+        docks->arrange();
+        restoreState(QSettings().value(kLayoutKey).toByteArray());
+    }
     actions = new WindowActions(*this, viewWidget->stage());
     if (mode == Attendance::Attended) {
         actions->setRecentFiles(QSettings().value(kRecentKey).toStringList());
@@ -106,6 +107,9 @@ MainWindow::MainWindow(Attendance attendance)
         pendingSession.reset();
         updateStatus();
     });
+    connect(docks, &PanelDocks::problem, this, &MainWindow::problem);
+    connect(nbUndoService::the()->getStack(), &QUndoStack::cleanChanged, this,
+            [this](bool clean) { setWindowModified(!clean); });
     connect(sessionPlayer, &SessionPlayer::finished, this, &MainWindow::concludeReplay);
     viewWidget->stage().commands().setListener(
         [this](const QString& name, const QJsonValue& value) {
@@ -124,62 +128,12 @@ MainWindow::~MainWindow()
     viewWidget->stage().setChangedCallback(nullptr);
     viewWidget->stage().commands().setListener(nullptr);
     // Panels may own tools of the stage, which ends with the view.
-    qDeleteAll(docks);
+    delete docks;
     // The service outlives the window, and the end of the stage empties the stack.
     nbUndoService::the()->getStack()->disconnect(this);
     // The view is needed by what the window owns besides it.
     delete sessionPlayer;
     delete sessionRecorder;
-}
-
-void MainWindow::createUndoList()
-{
-    QUndoStack* stack = nbUndoService::the()->getStack();
-    undoView = new QUndoView(stack);
-    undoView->setObjectName(QStringLiteral("undoList"));
-    undoView->setEmptyLabel(tr("As opened"));
-    // Keys are for the view, whatever was clicked last.
-    undoView->setFocusPolicy(Qt::NoFocus);
-    QDockWidget* dock = addDock(undoView, tr("Steps"), QStringLiteral("undoDock"));
-    dock->setVisible(mode == Attendance::Attended);
-    connect(stack, &QUndoStack::indexChanged, this, [this] { viewWidget->stage().edited(); });
-    connect(stack, &QUndoStack::cleanChanged, this,
-            [this](bool clean) { setWindowModified(!clean); });
-}
-
-QDockWidget* MainWindow::addDock(QWidget* content, const QString& title, const QString& name)
-{
-    auto* dock = new QDockWidget(title, this);
-    dock->setObjectName(name);
-    dock->setWidget(content);
-    addDockWidget(Qt::RightDockWidgetArea, dock);
-    docks.append(dock);
-    return dock;
-}
-
-/// Every panel besides the list of steps; hidden until a person asks for it.
-void MainWindow::createPanels()
-{
-    addPanel(new MaterialPanel(viewWidget->stage()), tr("Material"),
-             QStringLiteral("materialDock"));
-}
-
-void MainWindow::addPanel(Panel* panel, const QString& title, const QString& name)
-{
-    QDockWidget* dock = addDock(panel, title, name);
-    panels.append(panel);
-    dock->hide();
-    connect(panel, &Panel::problem, this, &MainWindow::problem);
-    connect(dock, &QDockWidget::visibilityChanged, panel, [panel] { panel->refresh(); });
-}
-
-QList<QAction*> MainWindow::panelActions() const
-{
-    QList<QAction*> all;
-    for (QDockWidget* dock : docks) {
-        all.append(dock->toggleViewAction());
-    }
-    return all;
 }
 
 void MainWindow::setShownTitle(const QString& name)
@@ -192,13 +146,7 @@ void MainWindow::updateStatus()
 {
     Stage& stage = viewWidget->stage();
     statusLine->update(stage, loader->isRunning());
-    // The list takes steps back by itself when it is clicked.
-    undoView->setEnabled(!stage.isDragging());
-    for (Panel* panel : panels) {
-        if (panel->isVisible()) {
-            panel->refresh();
-        }
-    }
+    docks->refresh();
 }
 
 // == Files
@@ -342,6 +290,9 @@ void MainWindow::closeEvent(QCloseEvent* event)
 {
     loader->cancel();
     sessionPlayer->stop();
+    if (mode == Attendance::Attended) {
+        QSettings().setValue(kLayoutKey, saveState());
+    }
     QMainWindow::closeEvent(event);
 }
 

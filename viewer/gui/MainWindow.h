@@ -9,18 +9,14 @@
 #include <OpenSG/OSGVector.h>
 
 #include <QDir>
-#include <QList>
 #include <QMainWindow>
 
 #include <optional>
 
-class QDockWidget;
-class QUndoView;
-
 namespace viewer {
 
 class MessageBar;
-class Panel;
+class PanelDocks;
 class SessionPlayer;
 class SessionRecorder;
 class StatusLine;
@@ -55,6 +51,8 @@ public:
 
     ViewWidget& view() { return *viewWidget; }
 
+    PanelDocks& panels() { return *docks; }
+
     // == Files
 
     void showStartScene();
@@ -67,8 +65,6 @@ public:
 
     // == View
 
-    /// Panels at the side, to be shown and hidden.
-    QList<QAction*> panelActions() const;
     void showEffectBuffer(bool on);
     /// Makes the window as large as a view of this size needs; a person may change it afterwards.
     void suggestViewSize(const QSize& sizePx);
@@ -99,10 +95,6 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void createUndoList();
-    void createPanels();
-    QDockWidget* addDock(QWidget* content, const QString& title, const QString& name);
-    void addPanel(Panel* panel, const QString& title, const QString& name);
     void setShownTitle(const QString& name);
     void updateStatus();
     void showLoadedModels();
@@ -122,10 +114,8 @@ private:
     SessionRecorder* sessionRecorder = nullptr;
     WindowActions* actions = nullptr;
 
-    QUndoView* undoView = nullptr;
     StatusLine* statusLine = nullptr;
-    QList<QDockWidget*> docks;
-    QList<Panel*> panels;
+    PanelDocks* docks = nullptr;
 
     QStringList shownFiles;
     QStringList openingFiles;
