@@ -37,6 +37,15 @@ float signOf(float value)
     return value < 0.0F ? -1.0F : 1.0F;
 }
 
+/// Rotation with the axes y and z, both of unit length and at right angles.
+osg::Quaternion rotationOf(const osg::Vec3f& y, const osg::Vec3f& z)
+{
+    osg::Matrix turned;
+    turned.setValue(y.cross(z), y, z);
+    turned[3][3] = 1.0F;
+    return osg::Quaternion(turned);
+}
+
 }  // namespace
 
 ProjectionPose poseOnFront(const osg::BoxVolume& bounds, const osg::Vec3f& toEye,
@@ -56,13 +65,28 @@ ProjectionPose poseOnFront(const osg::BoxVolume& bounds, const osg::Vec3f& toEye
     ProjectionPose pose;
     const osg::Pnt3f centre = bounds.getMin() + size * 0.5F;
     pose.translation = centre.subZero() + z * half[depth];
-    osg::Matrix turned;
-    turned.setValue(y.cross(z), y, z);
-    turned[3][3] = 1.0F;
-    pose.rotation = osg::Quaternion(turned);
+    pose.rotation = rotationOf(y, z);
     const float halfWidth = share * std::min(half[width], half[height] * aspect);
     pose.scale = osg::Vec3f(halfWidth, halfWidth / aspect, half[depth]);
     return pose;
+}
+
+osg::Quaternion uprightRotation(const osg::Vec3f& normal, const osg::Vec3f& up,
+                                const osg::Vec3f& other)
+{
+    constexpr float kFlat = 0.1F;
+    osg::Vec3f z = normal;
+    z.normalize();
+    for (const osg::Vec3f& wanted : { up, other, unit(longestAxis(z, 3) == 1 ? 2 : 1, 1.0F) }) {
+        osg::Vec3f y = wanted;
+        y.normalize();
+        y -= z * z.dot(y);
+        if (y.length() > kFlat) {
+            y.normalize();
+            return rotationOf(y, z);
+        }
+    }
+    return {};
 }
 
 osg::Vec3f scaleKeepingAspect(const osg::Vec3f& before, const osg::Vec3f& wanted)

@@ -27,6 +27,13 @@ struct ProjectionPose
 ProjectionPose poseOnFront(const osg::BoxVolume& bounds, const osg::Vec3f& toEye,
                            const osg::Vec3f& up, float aspect, float share);
 
+/// Rotation of a projection that lies on a surface and is upright on it.
+/// @param normal  of the surface, any length; z of the projection
+/// @param up      what y of the projection is to point to
+/// @param other   what it points to on a surface that faces up or down
+osg::Quaternion uprightRotation(const osg::Vec3f& normal, const osg::Vec3f& up,
+                                const osg::Vec3f& other);
+
 /// Scale after an edit of which the ratio of x to y is kept: a side that alone has changed takes
 /// the other along.
 osg::Vec3f scaleKeepingAspect(const osg::Vec3f& before, const osg::Vec3f& wanted);

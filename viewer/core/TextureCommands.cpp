@@ -88,25 +88,6 @@ void addSwitch(Commands& commands, const char* name, Write write)
     });
 }
 
-/// Reads a place of the view out of the object of a drop.
-bool readPlace(const QJsonObject& object, SessionTarget& target, QString& error)
-{
-    JsonReader reader(error);
-    const QString name = named("drop");
-    if (object.contains("px")) {
-        std::array<double, 2> px {};
-        const bool isRead = reader.readNumbers(object.value("px"), name + ".px", px.data(), 2);
-        target.offsetPx = QPointF(px[0], px[1]);
-        return isRead;
-    }
-    if (object.contains("world")) {
-        target.kind = SessionTarget::Kind::World;
-        return reader.readNumbers(object.value("world"), name + ".world", target.world.data(), 3);
-    }
-    target.kind = SessionTarget::Kind::Node;
-    return reader.readString(object.value("node"), name + ".node", target.name);
-}
-
 }  // namespace
 
 TextureCommands::TextureCommands(Stage& targetStage, TextureTool& textureTool)
@@ -160,9 +141,10 @@ bool TextureCommands::drop(const QJsonValue& value, QString& error)
     QString file;
     osg::Pnt2f px;
     JsonReader reader(error);
-    if (!reader.checkKeys(object, named("drop"), { "file", "px", "node", "world" }) ||
+    if (!reader.checkKeys(object, named("drop"), { "file", "at" }) ||
         !reader.readString(object.value("file"), named("drop") + ".file", file) ||
-        !readPlace(object, target, error) || !resolveTarget(target, stage, px, error)) {
+        !readSessionTarget(object.value("at"), named("drop") + ".at", target, error) ||
+        !resolveTarget(target, stage, px, error)) {
         return false;
     }
     const bool isTaken = tool.takePicture(stage.commands().filePath(file), px, error);

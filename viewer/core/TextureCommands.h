@@ -12,8 +12,8 @@ class TextureTool;
 /// The commands and values of the texture tool, all named "texture.", as the panel, sessions and
 /// tests use them:
 /// - component "diffuse" or "transparency"; picture FILE, or null to take it away;
-/// - drop {"file": FILE, and one of "px": [x, y], "node": NAME, "world": [x, y, z]}: as if the file
-///   were dropped on that place of the view;
+/// - drop {"file": FILE, "at": PLACE}: as if the file were dropped there; a place of the view as
+///   steps of sessions have it;
 /// - handles "translate", "rotate", "scale" or "universal": shows these; place BOOL: clicks place
 ///   the picture;
 /// - translation, rotation (degrees), scale [x, y, z] of the projection, in the object's space;

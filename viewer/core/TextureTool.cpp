@@ -33,7 +33,7 @@ namespace names = nbec::interaction::names;
 constexpr const char* kReceiver = "nbviewer::texture";
 /// Size of a new picture, as a share of the side of its object.
 constexpr float kChosenShare = 0.6F;
-constexpr float kDroppedShare = 0.4F;
+constexpr float kDroppedShare = 0.5F;
 
 struct GroupRow
 {
@@ -61,6 +61,29 @@ const GroupRow* findGroup(const std::string& word)
 float aspectOf(const osg::ImagePtr& image)
 {
     return static_cast<float>(image->getWidth()) / static_cast<float>(image->getHeight());
+}
+
+/// A direction of the world in the space of a node.
+osg::Vec3f vectorIn(const osg::NodePtr& node, const osg::Vec3f& world)
+{
+    osg::Matrix nodeFromWorld;
+    node->getToWorld().inverse(nodeFromWorld);
+    osg::Vec3f vector;
+    nodeFromWorld.multMatrixVec(world, vector);
+    return vector;
+}
+
+/// A normal of the world in the space of a node, any length: it goes by the transposed matrix.
+osg::Vec3f normalIn(const osg::NodePtr& node, const osg::Vec3f& world)
+{
+    const osg::Matrix worldFromNode = node->getToWorld();
+    osg::Vec3f normal;
+    for (osg::UInt32 axis = 0; axis < 3; ++axis) {
+        for (osg::UInt32 row = 0; row < 3; ++row) {
+            normal[axis] += worldFromNode[axis][row] * world[row];
+        }
+    }
+    return normal;
 }
 
 /// Has the editor place the picture, as a click of the placing tool does.
@@ -138,20 +161,24 @@ QString TextureTool::hindrance() const
 ProjectionPose TextureTool::poseFacingTheEye(float aspect, float share) const
 {
     const osg::NodePtr surface = textureTarget.surface();
-    osg::Matrix surfaceFromWorld;
-    surface->getToWorld().inverse(surfaceFromWorld);
     const nbCameraNavigation::Axes axes = nbCameraNavigation::axes(stage.pose());
-    osg::Vec3f toEye;
-    osg::Vec3f up;
-    surfaceFromWorld.multMatrixVec(axes.back, toEye);
-    surfaceFromWorld.multMatrixVec(axes.up, up);
     surface->updateVolume();
     osg::BoxVolume bounds;
     osg::Pnt3f low;
     osg::Pnt3f high;
     surface->getVolume().getBounds(low, high);
     bounds.setBounds(low, high);
-    return poseOnFront(bounds, toEye, up, aspect, share);
+    return poseOnFront(bounds, vectorIn(surface, axes.back), vectorIn(surface, axes.up), aspect,
+                       share);
+}
+
+osg::Quaternion TextureTool::uprightOn(const osg::Vec3f& normal) const
+{
+    const osg::NodePtr surface = textureTarget.surface();
+    const CameraPose eye = stage.pose();
+    return uprightRotation(normalIn(surface, normal),
+                           vectorIn(surface, nbCameraNavigation::worldUp(eye)),
+                           vectorIn(surface, nbCameraNavigation::axes(eye).up));
 }
 
 bool TextureTool::setComponent(const std::string& component)
@@ -187,7 +214,9 @@ bool TextureTool::takePicture(const QString& file, const osg::Pnt2f& px, QString
     stage.select(part);
     nbUndoService* const undo = nbUndoService::the();
     undo->beginGroup(QStringLiteral("Place picture"));
-    textureTarget.setImage(image.get(), poseFacingTheEye(aspectOf(image.get()), kDroppedShare));
+    ProjectionPose pose = poseFacingTheEye(aspectOf(image.get()), kDroppedShare);
+    pose.rotation = uprightOn(scenePicker.getHitNormal());
+    textureTarget.setImage(image.get(), pose);
     refresh();
     sendPlace(scenePicker);
     undo->endGroup();

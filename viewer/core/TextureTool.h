@@ -124,6 +124,8 @@ private:
     void applyGroup();
     void showInScene();
     ProjectionPose poseFacingTheEye(float aspect, float share) const;
+    /// @param normal  of the surface, world space
+    osg::Quaternion uprightOn(const osg::Vec3f& normal) const;
 
     Stage& stage;
     nbMaterialPreview materialPreview;

@@ -4,11 +4,11 @@
 #include "viewer/core/PictureFile.h"
 #include "viewer/core/Stage.h"
 #include "viewer/gui/MaterialPicture.h"
+#include "viewer/gui/VectorEdit.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDoubleSpinBox>
 #include <QFileDialog>
 #include <QFormLayout>
 #include <QJsonArray>
@@ -25,25 +25,24 @@ namespace viewer {
 namespace {
 
 constexpr int kDecimals = 3;
+constexpr double kRounding = 0.5001e-3;  ///< by which a shown number may differ
 constexpr double kMostUnits = 1e6;
-constexpr double kMostDegrees = 3600.0;
 constexpr double kLeastScale = 1e-3;
 constexpr double kPercent = 100.0;
-constexpr int kBoxWidth = 74;
 
 struct VectorRow
 {
     const char* command;
     const char* label;
     double least;
-    double most;
     double step;
 };
 
 constexpr VectorRow kVectorRows[] = {
-    { "texture.translation", "Place", -kMostUnits, kMostUnits, 0.05 },
-    { "texture.rotation", "Turn, °", -kMostDegrees, kMostDegrees, 5.0 },
-    { "texture.scale", "Half size", kLeastScale, kMostUnits, 0.05 },
+    { "texture.translation", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Place"), -kMostUnits,
+      0.05 },
+    { "texture.rotation", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Turn, °"), -kMostUnits, 5.0 },
+    { "texture.scale", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Half size"), kLeastScale, 0.05 },
 };
 
 QString textOfFile(const QString& name)
@@ -178,26 +177,17 @@ void MaterialPanel::addHandleRow(QBoxLayout& column)
 void MaterialPanel::addProjectionRows(QFormLayout& form)
 {
     for (const VectorRow& row : kVectorRows) {
-        auto* boxes = new QHBoxLayout;
-        boxes->setSpacing(2);
-        Boxes& vector = vectors[QLatin1String(row.command)];
-        for (std::size_t i = 0; i < vector.size(); ++i) {
-            auto* box = new QDoubleSpinBox(this);
-            box->setObjectName(QLatin1String(row.command) + QLatin1Char("xyz"[i]));
-            box->setDecimals(kDecimals);
-            box->setRange(row.least, row.most);
-            box->setSingleStep(row.step);
-            box->setLocale(QLocale::c());
-            box->setButtonSymbols(QAbstractSpinBox::NoButtons);
-            box->setMinimumWidth(kBoxWidth);
-            // One step for undo when a number is finished, not one for each digit.
-            box->setKeyboardTracking(false);
-            connect(box, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
-                    [this, command = QString::fromLatin1(row.command)] { runVector(command); });
-            boxes->addWidget(box);
-            vector[i] = box;
-        }
-        form.addRow(tr(row.label), boxes);
+        VectorEdit::Style style;
+        style.step = row.step;
+        style.least = row.least;
+        style.decimals = kDecimals;
+        auto* edit = new VectorEdit({ tr("X"), tr("Y"), tr("Z") }, style, this);
+        const QString command = QString::fromLatin1(row.command);
+        edit->setObjectName(command);
+        connect(edit, &VectorEdit::edited, this,
+                [this, command](const QJsonArray& values) { runVector(command, values); });
+        form.addRow(tr(row.label), edit);
+        vectors[command] = edit;
     }
 }
 
@@ -260,16 +250,14 @@ void MaterialPanel::askForPicture()
     }
 }
 
-void MaterialPanel::runVector(const QString& command)
+void MaterialPanel::runVector(const QString& command, const QJsonArray& edited)
 {
-    // Boxes show rounded numbers: only one that a person has changed counts.
+    // The rows show rounded numbers: those that a person did not change stay what they are.
     QJsonArray value = stage().commands().value(command).value_or(QJsonValue()).toArray();
-    const Boxes& boxes = vectors[command];
     for (int i = 0; i < value.size(); ++i) {
-        const QDoubleSpinBox* const box = boxes[static_cast<std::size_t>(i)];
-        const double shown = std::pow(10.0, -kDecimals) * 0.5;
-        if (std::abs(box->value() - value.at(i).toDouble()) > shown * 1.001) {
-            value.replace(i, box->value());
+        const double change = std::abs(edited.at(i).toDouble() - value.at(i).toDouble());
+        if (change > kRounding) {
+            value.replace(i, edited.at(i));
         }
     }
     run(command, value);
@@ -280,8 +268,11 @@ void MaterialPanel::runVector(const QString& command)
 void MaterialPanel::refresh()
 {
     const QString hindrance = tool.hindrance();
-    const QString name =
-        stage().commands().value(QStringLiteral("texture.surface")).value_or(QJsonValue()).toString();
+    const QString name = stage()
+                             .commands()
+                             .value(QStringLiteral("texture.surface"))
+                             .value_or(QJsonValue())
+                             .toString();
     displayText(hint, hindrance.isEmpty() ? tr("On \"%1\"").arg(name) : hindrance);
     content->setEnabled(hindrance.isEmpty());
     projectionContent->setEnabled(tool.target().projection() != osg::NullFC);
@@ -301,14 +292,7 @@ void MaterialPanel::refreshRows()
     displayText(fileName, textOfFile(pictureName(image)));
     removeButton->setEnabled(image != osg::NullFC);
     for (auto row = vectors.begin(); row != vectors.end(); ++row) {
-        const QJsonArray vector = values.value(row.key()).value_or(QJsonValue()).toArray();
-        for (int i = 0; i < 3; ++i) {
-            QDoubleSpinBox* const box = row.value()[static_cast<std::size_t>(i)];
-            const QSignalBlocker blocker(box);
-            if (!box->hasFocus() || !stage().isDragging()) {
-                box->setValue(vector.at(i).toDouble());
-            }
-        }
+        row.value()->display(values.value(row.key()).value_or(QJsonValue()).toArray());
     }
     for (auto row = switches.begin(); row != switches.end(); ++row) {
         row.value()->setChecked(values.value(row.key()).value_or(QJsonValue()).toBool());

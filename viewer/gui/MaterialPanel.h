@@ -5,17 +5,14 @@
 #include "viewer/core/TextureTool.h"
 #include "viewer/gui/Panel.h"
 
-#include <QList>
+#include <QJsonArray>
 #include <QMap>
 #include <QString>
-
-#include <array>
 
 class QAbstractButton;
 class QBoxLayout;
 class QButtonGroup;
 class QComboBox;
-class QDoubleSpinBox;
 class QFormLayout;
 class QLabel;
 class QSlider;
@@ -23,6 +20,7 @@ class QSlider;
 namespace viewer {
 
 class MaterialPicture;
+class VectorEdit;
 
 /// The picture on the selected object: its file, how it is projected, the handles, and a preview.
 /// Owns the texture tool of the stage and its commands.
@@ -38,8 +36,6 @@ public:
     void refresh() override;
 
 private:
-    using Boxes = std::array<QDoubleSpinBox*, 3>;
-
     void addPictureRows(QFormLayout& form);
     void addHandleRow(QBoxLayout& column);
     void addProjectionRows(QFormLayout& form);
@@ -49,7 +45,7 @@ private:
     QAbstractButton* addHandleButton(QBoxLayout& row, const char* group, const QString& label);
 
     void askForPicture();
-    void runVector(const QString& command);
+    void runVector(const QString& command, const QJsonArray& edited);
     void refreshRows();
     void refreshPicture();
 
@@ -64,7 +60,7 @@ private:
     QLabel* fileName = nullptr;
     QAbstractButton* removeButton = nullptr;
     QButtonGroup* handleButtons = nullptr;
-    QMap<QString, Boxes> vectors;  ///< by their commands
+    QMap<QString, VectorEdit*> vectors;  ///< by their commands
     QMap<QString, QAbstractButton*> switches;  ///< by their commands
     QSlider* transparency = nullptr;
     bool isPictureOld = true;
