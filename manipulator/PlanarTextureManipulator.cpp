@@ -20,6 +20,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 
 #include <EditStamp.h>
 
@@ -29,6 +30,7 @@ namespace {
 
 /// A quaternion shorter than this is no rotation.
 constexpr float kShortestQuaternion = 1e-6F;
+constexpr std::size_t kMatrixElements = 16;
 
 osg::Quaternion normalisedRotation(osg::Quaternion rotation)
 {
@@ -41,7 +43,7 @@ osg::Quaternion normalisedRotation(osg::Quaternion rotation)
 
 bool isFinite(const osg::Matrix& matrix)
 {
-    return std::all_of(matrix.getValues(), matrix.getValues() + 16,
+    return std::all_of(matrix.getValues(), matrix.getValues() + kMatrixElements,
                        [](float value) { return std::isfinite(value); });
 }
 
@@ -248,9 +250,8 @@ void PlanarTextureManipulator::readProjection(const osg::NodePtr& node)
 {
     ProjectionFrame& frame = state->frame;
     frame.worldFromObject = node->getToWorld();
-    frame.pivot = objectPivot(node, isScaleMode(state->activeMode));
     if (state->useObjectTranslation) {
-        frame.translation = frame.pivot;
+        frame.translation = objectPivot(node, isScaleMode(state->activeMode));
     }
     if (state->useObjectScale) {
         frame.scale = nbNodeUtils::getTransformNodeScale(node);
@@ -426,62 +427,6 @@ void PlanarTextureManipulator::showZScaleValue(bool on)
 {
     state->zScaleValueShown = on;
     showElements();
-}
-
-// == Handles shown
-
-void PlanarTextureManipulator::activateTranslateManipulator()
-{
-    activateMode(ManipulatorMode::Translate);
-}
-
-void PlanarTextureManipulator::activateRotateManipulator()
-{
-    activateMode(ManipulatorMode::Rotate);
-}
-
-void PlanarTextureManipulator::activateScaleManipulator()
-{
-    activateMode(ManipulatorMode::Scale);
-}
-
-void PlanarTextureManipulator::activateUniversalManipulator()
-{
-    activateMode(ManipulatorMode::Universal);
-}
-
-void PlanarTextureManipulator::activateMode(ManipulatorMode newMode)
-{
-    state->mode = newMode;
-    showElements();
-    setDefaultMaterials();
-    updateManipulator();
-}
-
-PlanarTextureManipulator::ManipulatorMode PlanarTextureManipulator::getMode() const
-{
-    return state->mode;
-}
-
-PlanarTextureManipulator::ActiveMode PlanarTextureManipulator::getActiveMode() const
-{
-    return state->activeMode;
-}
-
-void PlanarTextureManipulator::showActiveManipulator()
-{
-    if (getNode() == osg::NullFC) {
-        hideManipulator();
-        return;
-    }
-    showElements();
-    detail::showNode(state->handleTree.get(), true);
-    updateManipulator();
-}
-
-void PlanarTextureManipulator::hideManipulator()
-{
-    detail::showNode(state->handleTree.get(), false);
 }
 
 // == All instances

@@ -29,7 +29,7 @@ namespace nbec::manipulator {
 /// - Frame. The handle frame has its origin at the projection's centre and its axes turned by
 ///   rotation * rotation orientation, in world space through the node. Handle space is that frame
 ///   in units of the projection's scale, so that the picture covers -1 to 1; an axis whose scale is
-///   below 1e-6 counts as 1. Below a mirrored node the handles are mirrored too.
+///   below 1e-12 counts as 1. Below a mirrored node the handles are mirrored too.
 /// - Size. Handles keep their size on screen; tabs go to x, y = +-scale and z = -scale of the
 ///   projection. With setUseTextureScale() the half of "projectionSize" takes the place of the
 ///   scale in x and y and follows it from there. An orthographic view is measured by the

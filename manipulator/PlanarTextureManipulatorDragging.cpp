@@ -59,11 +59,6 @@ float depthFactor(float hit, float start)
     return factor <= 0.0F ? kLeastAxisFactor : factor;
 }
 
-bool hasLength(float half)
-{
-    return std::abs(half) >= kShortest;
-}
-
 /// Signed half of a side after one of its ends has moved; never less than a hundredth. A side
 /// without length has no least one, and grows whichever way its end goes.
 /// @param half      distance of the end from the centre

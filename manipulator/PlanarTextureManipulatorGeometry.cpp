@@ -239,6 +239,60 @@ void PlanarTextureManipulator::highlightControlElement()
 
 // == Visibility
 
+void PlanarTextureManipulator::activateTranslateManipulator()
+{
+    activateMode(ManipulatorMode::Translate);
+}
+
+void PlanarTextureManipulator::activateRotateManipulator()
+{
+    activateMode(ManipulatorMode::Rotate);
+}
+
+void PlanarTextureManipulator::activateScaleManipulator()
+{
+    activateMode(ManipulatorMode::Scale);
+}
+
+void PlanarTextureManipulator::activateUniversalManipulator()
+{
+    activateMode(ManipulatorMode::Universal);
+}
+
+void PlanarTextureManipulator::activateMode(ManipulatorMode newMode)
+{
+    state->mode = newMode;
+    showElements();
+    setDefaultMaterials();
+    updateManipulator();
+}
+
+PlanarTextureManipulator::ManipulatorMode PlanarTextureManipulator::getMode() const
+{
+    return state->mode;
+}
+
+PlanarTextureManipulator::ActiveMode PlanarTextureManipulator::getActiveMode() const
+{
+    return state->activeMode;
+}
+
+void PlanarTextureManipulator::showActiveManipulator()
+{
+    if (getNode() == osg::NullFC) {
+        hideManipulator();
+        return;
+    }
+    showElements();
+    detail::showNode(state->handleTree.get(), true);
+    updateManipulator();
+}
+
+void PlanarTextureManipulator::hideManipulator()
+{
+    detail::showNode(state->handleTree.get(), false);
+}
+
 void PlanarTextureManipulator::showElements()
 {
     const PlanarHandleRow* const grabbed =
@@ -275,10 +329,15 @@ void PlanarTextureManipulator::hideAllElements()
 
 // == Placement
 
+bool hasLength(float length)
+{
+    constexpr float kLeastLength = 1e-12F;
+    return std::abs(length) >= kLeastLength;
+}
+
 float usableLength(float length)
 {
-    constexpr float kShortest = 1e-6F;
-    return std::abs(length) < kShortest ? 1.0F : length;
+    return hasLength(length) ? length : 1.0F;
 }
 
 osg::Matrix ProjectionFrame::worldFromAxes() const
@@ -311,21 +370,21 @@ void PlanarTextureManipulator::placeHandles()
         return;
     }
     const osg::Vec3f extents = state->frame.halfExtents();
+    std::array<osg::Vec3f, 3> ends;  // of the extents, in the unit frame
+    for (osg::UInt32 end = 0; end < 3; ++end) {
+        const osg::Vec3f world = detail::column(worldFromAxes, end) * extents[end];
+        for (osg::UInt32 axis = 0; axis < 3; ++axis) {
+            ends[end][axis] = world.dot(detail::column(axes, axis)) / scales[axis];
+        }
+    }
     for (std::size_t i = 0; i < kPlanarHandles.size(); ++i) {
         const std::array<int, 3>& side = kPlanarHandles[i].side;
-        if (side == kNoSide) {
-            continue;
+        if (side != kNoSide) {
+            detail::moveNode(state->handles[i].top,
+                             ends[0] * static_cast<float>(side[0]) +
+                                 ends[1] * static_cast<float>(side[1]) +
+                                 ends[2] * static_cast<float>(side[2]));
         }
-        osg::Vec3f offset;
-        for (osg::UInt32 axis = 0; axis < 3; ++axis) {
-            offset[axis] = extents[axis] * static_cast<float>(side[axis]);
-        }
-        worldFromAxes.multMatrixVec(offset);
-        osg::Vec3f place;
-        for (osg::UInt32 axis = 0; axis < 3; ++axis) {
-            place[axis] = offset.dot(detail::column(axes, axis)) / scales[axis];
-        }
-        detail::moveNode(state->handles[i].top, place);
     }
 }
 

@@ -73,7 +73,11 @@ extern const std::array<PlanarHandleRow, kPlanarHandleCount> kPlanarHandles;
 /// The row of a handle; null for None.
 const PlanarHandleRow* planarHandleOf(PlanarTextureManipulator::ActiveMode mode);
 
-/// A length that may be divided by: itself, or 1 if it is shorter than 1e-6.
+/// Whether a length of the projection, of either sign, is long enough to divide by: 1e-12, so that
+/// objects in small units have proportions too.
+bool hasLength(float length);
+
+/// The length, or 1 if it has none.
 float usableLength(float length);
 
 /// The projection's frame as it was read last.
@@ -84,7 +88,6 @@ struct ProjectionFrame
     osg::Quaternion rotation;  ///< rotation * rotation orientation, unit length
     osg::Vec3f scale { 1.0F, 1.0F, 1.0F };
     osg::Vec3f projectionScale { 1.0F, 1.0F, 1.0F };  ///< of the projection even if another is used
-    osg::Vec3f pivot;  ///< rotate or scale pivot of the object, object space
     osg::Vec3f extentPerScale { 1.0F, 1.0F, 1.0F };  ///< half of what the projection covers
 
     /// World from the handle frame in object units, scale left out.

@@ -37,4 +37,8 @@ osg::NodePtr addChild(const osg::NodePtr& parent, const osg::NodePtr& child);
 /// the material, is left alone.
 void setGeometryMaterial(const osg::NodePtr& node, const osg::MaterialPtr& material);
 
+/// A new node with a Geometry core of its own that shares all properties of another one, so that
+/// the two differ in material and visibility only. No material is set.
+osg::NodePtr makeSharingNode(const osg::GeometryPtr& prototype);
+
 }  // namespace nbec::manipulator::detail

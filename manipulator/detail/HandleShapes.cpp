@@ -18,7 +18,7 @@ namespace nbec::manipulator::detail {
 namespace {
 
 constexpr float kHalfSqrt2 = 0.7071068F;
-constexpr std::size_t kShapeCount = static_cast<std::size_t>(HandleShape::SquareTab) + 1;
+constexpr std::size_t kShapeCount = static_cast<std::size_t>(HandleShape::SquareOutline) + 1;
 
 enum class Solid
 {
@@ -28,6 +28,7 @@ enum class Solid
     Cylinder,  ///< height, radius, pieces
     Box,  ///< the three sides
     Plane,  ///< the two sides
+    Outline,  ///< the two sides
     Torus,  ///< radius of the tube and of the ring, pieces of each
     Sphere  ///< radius, subdivisions
 };
@@ -75,6 +76,8 @@ constexpr std::array<ShapeRow, kShapeCount> kShapes = { {
     { HandleShape::UprightTab, Solid::Box, { 0.2F, 0.4F, 0.025F }, {}, kOrigin, Turn::None },
     { HandleShape::LyingTab, Solid::Box, { 0.4F, 0.2F, 0.025F }, {}, kOrigin, Turn::None },
     { HandleShape::SquareTab, Solid::Box, { 0.4F, 0.4F, 0.025F }, {}, kOrigin, Turn::None },
+    { HandleShape::Square, Solid::Plane, { 1.0F, 1.0F }, {}, kOrigin, Turn::None },
+    { HandleShape::SquareOutline, Solid::Outline, { 1.0F, 1.0F }, {}, kOrigin, Turn::None },
 } };
 
 // clang-format on
@@ -90,6 +93,32 @@ constexpr bool isInOrder()
 }
 
 static_assert(isInOrder(), "rows stand in the order of the enumerators");
+
+/// The sides of a rectangle in the xy plane as lines.
+osg::NodePtr buildOutline(float halfX, float halfY)
+{
+    const std::array<osg::Pnt3f, 4> corners = { osg::Pnt3f(-halfX, -halfY, 0.0F),
+                                                osg::Pnt3f(halfX, -halfY, 0.0F),
+                                                osg::Pnt3f(halfX, halfY, 0.0F),
+                                                osg::Pnt3f(-halfX, halfY, 0.0F) };
+    const osg::GeoPTypesPtr types = osg::GeoPTypesUI8::create();
+    const osg::GeoPLengthsPtr lengths = osg::GeoPLengthsUI32::create();
+    const osg::GeoPositionsPtr positions = osg::GeoPositions3f::create();
+    for (std::size_t i = 0; i < corners.size(); ++i) {
+        positions->push_back(corners[i]);
+        positions->push_back(corners[(i + 1) % corners.size()]);
+    }
+    types->push_back(GL_LINES);
+    lengths->push_back(positions->getSize());
+    const osg::GeometryPtr outline = osg::Geometry::create();
+    {
+        const EditBracket edit(outline, osg::FieldBits::AllFields);
+        outline->setTypes(types);
+        outline->setLengths(lengths);
+        outline->setPositions(positions);
+    }
+    return makeNode(outline);
+}
 
 osg::NodePtr build(const ShapeRow& row)
 {
@@ -107,6 +136,8 @@ osg::NodePtr build(const ShapeRow& row)
         return osg::makeBox(size[0], size[1], size[2], 1, 1, 1);
     case Solid::Plane:
         return osg::makePlane(size[0], size[1], 1, 1);
+    case Solid::Outline:
+        return buildOutline(size[0] / 2, size[1] / 2);
     case Solid::Torus:
         return osg::makeTorus(size[0], size[1], row.pieces[0], row.pieces[1]);
     case Solid::Sphere:
@@ -182,18 +213,7 @@ osg::Quaternion quaternionOf(Turn turn)
 
 osg::NodePtr makeShapeNode(HandleShape shape)
 {
-    const osg::GeometryPtr prototype = prototypeOf(shape);
-    const osg::GeometryPtr geometry = osg::Geometry::create();
-    {
-        const EditBracket edit(geometry, osg::FieldBits::AllFields);
-        geometry->setTypes(prototype->getTypes());
-        geometry->setLengths(prototype->getLengths());
-        geometry->setPositions(prototype->getPositions());
-        geometry->setNormals(prototype->getNormals());
-        geometry->setIndices(prototype->getIndices());
-        geometry->getIndexMapping() = prototype->getIndexMapping();
-    }
-    return makeNode(geometry);
+    return makeSharingNode(prototypeOf(shape));
 }
 
 }  // namespace nbec::manipulator::detail

@@ -51,7 +51,11 @@ enum class HandleShape
     RingGrip,  ///< sphere of radius 0.125, centred at -1 on x
     UprightTab,  ///< box 0.2 x 0.4 x 0.025, centred
     LyingTab,  ///< box 0.4 x 0.2 x 0.025, centred
-    SquareTab  ///< box 0.4 x 0.4 x 0.025, centred
+    SquareTab,  ///< box 0.4 x 0.4 x 0.025, centred
+
+    // Handles that lie flat on the screen
+    Square,  ///< square of 1 in the xy plane, centred
+    SquareOutline  ///< its sides as lines
 };
 
 /// A new node with a Geometry core of its own whose positions, normals, indices and so on are

@@ -85,15 +85,21 @@ void ValueText::show(const QString& text)
 
 QString describeValues(const char* title, const osg::Vec3f& values)
 {
+    return describeValues(title, { values.x(), values.y(), values.z() });
+}
+
+QString describeValues(const char* title, std::initializer_list<float> values)
+{
     QString text = QCoreApplication::translate("nbForegroundTextContext", title);
-    for (osg::UInt32 i = 0; i < 3; ++i) {
-        if (i > 0) {
+    bool isFirst = true;
+    for (const float value : values) {
+        if (!isFirst) {
             text += QLatin1String(", ");
         }
+        isFirst = false;
         // What rounds to zero is shown without a sign.
-        const double value =
-            std::abs(values[i]) < kLeastShown ? 0.0 : static_cast<double>(values[i]);
-        text += QString::number(value, 'f', kDecimals);
+        const double shown = std::abs(value) < kLeastShown ? 0.0 : static_cast<double>(value);
+        text += QString::number(shown, 'f', kDecimals);
     }
     text += QLatin1Char(')');
     return text;

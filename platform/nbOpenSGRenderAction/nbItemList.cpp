@@ -3,6 +3,7 @@
 
 #include <nbOpenSGExt/NodeFlags.h>
 #include <nbOpenSGRenderAction/nbMesh.h>
+#include <nbOpenSGSceneplate/nbSceneplateList.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <OpenSG/OSGChangeCount.h>
@@ -88,7 +89,8 @@ bool ItemList::update(const osg::NodePtr& root)
 
 void ItemList::visit(const osg::NodePtr& node, const Place& above)
 {
-    if (!node->getActive()) {
+    // A scene plate has no place in 3D.
+    if (!node->getActive() || nbSceneplateList::plateOf(node) != osg::NullFC) {
         return;
     }
     Place place = above;

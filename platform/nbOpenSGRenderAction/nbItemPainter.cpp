@@ -184,7 +184,15 @@ void ItemPainter::drawCutout(const RenderItem& item, const DrawState& state, con
     drawMesh(item, part, mesh);
     part.alphaFunc = GL_LESS;
     part.depthWrite = false;
-    drawMesh(item, part, mesh);
+    if (state.cullFace != GL_NONE) {
+        drawMesh(item, part, mesh);
+        return;
+    }
+    // The far side of a closed body before the near one.
+    for (const GLenum hidden : { GL_FRONT, GL_BACK }) {
+        part.cullFace = hidden;
+        drawMesh(item, part, mesh);
+    }
 }
 
 void ItemPainter::drawMesh(const RenderItem& item, const DrawState& state, const GpuMesh& mesh)

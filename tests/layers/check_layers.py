@@ -24,7 +24,7 @@ FORBIDDEN = {
 }
 # Within platform/: each library may include those before it.
 PLATFORM_ORDER = ["nbUtils", "nbOpenSGExt", "nbOpenSGUtils", "nbOpenSGUberCamera", "nbOpenSGUberViewport", "nbOpenSGUberMaterial",
-                  "nbKernel"]
+                  "nbOpenSGSceneplate", "nbKernel"]
 INCLUDE = re.compile(r'^\s*#\s*include\s*[<"]([^>"]+)[>"]')
 
 

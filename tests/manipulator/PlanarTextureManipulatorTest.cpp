@@ -368,6 +368,13 @@ TEST(PlanarTextureManipulator, EndsAPauseThatIsOwed)
     EXPECT_FALSE(planar.drag.stepTo(Vec2f(5, 0)));
     EXPECT_FALSE(planar.drag.release());
     EXPECT_EQ(planar.takeNames(), Names());
+
+    planar.gizmo.setNode(planar.scene.node);
+    ASSERT_TRUE(planar.grab("xaShape", Vec3f(1.9F, 0, 0)));
+    planar.log.clear();
+    planar.gizmo.deactivate(nullptr);
+    EXPECT_EQ(planar.takeNames(), kResume);
+    EXPECT_EQ(planar.gizmo.getActiveMode(), Gizmo::ActiveMode::None);
 }
 
 TEST(PlanarTextureManipulator, AStopThatIsLostLeavesNothingBehind)
