@@ -131,10 +131,13 @@ TEST_F(TextureValuesTest, WrongMessagesLeaveEverythingAndCostOneLine)
 
 TEST_F(TextureValuesTest, ADragIsOneStepAndNoneWhenItEndsWhereItBegan)
 {
-    // 1 / (1 / 41) is not 41 in floats.
-    settings->setRepeat(osg::Vec2f(41.f, 1.f));
-    const float scale = 1.f / 41.f;
-    ASSERT_NE(1.f / scale, 41.f);
+    // One whose reciprocal's reciprocal is another one.
+    float repeat = 1.5f;
+    while (1.f / (1.f / repeat) == repeat) {
+        repeat += 0.37f;
+    }
+    settings->setRepeat(osg::Vec2f(repeat, 1.f));
+    const float scale = 1.f / repeat;
 
     undo->beginGroup();
     for (int i = 1; i <= 10; ++i) {
@@ -144,7 +147,7 @@ TEST_F(TextureValuesTest, ADragIsOneStepAndNoneWhenItEndsWhereItBegan)
     EXPECT_EQ(steps(), 1);
     const nbTextureValues after = values();
     ASSERT_TRUE(undo->undo());
-    EXPECT_EQ(values().repeat.x(), 41.f);
+    EXPECT_EQ(values().repeat.x(), repeat);
     ASSERT_TRUE(undo->redo());
     EXPECT_EQ(values(), after);
     ASSERT_TRUE(undo->undo());
@@ -154,7 +157,7 @@ TEST_F(TextureValuesTest, ADragIsOneStepAndNoneWhenItEndsWhereItBegan)
     send(kUv, { { "scale", osg::Vec2f(0.5f, 0.5f) } });
     send(kUv, { { "scale", osg::Vec2f(scale, 1.f) } });
     undo->endGroup();
-    EXPECT_EQ(values().repeat.x(), 41.f) << "the very repeat that it was";
+    EXPECT_EQ(values().repeat.x(), repeat) << "the very repeat that it was";
     EXPECT_EQ(steps(), 0);
 
     undo->beginGroup();
@@ -169,9 +172,9 @@ TEST_F(TextureValuesTest, ADragIsOneStepAndNoneWhenItEndsWhereItBegan)
     ASSERT_TRUE(undo->undo());
     EXPECT_EQ(values().offset, osg::Vec2f(1.f, 0.f));
     ASSERT_TRUE(undo->undo());
-    EXPECT_EQ(values(), []() {
+    EXPECT_EQ(values(), [repeat] {
         nbTextureValues start;
-        start.repeat = osg::Vec2f(41.f, 1.f);
+        start.repeat = osg::Vec2f(repeat, 1.f);
         return start;
     }());
     EXPECT_FALSE(settings->hasPlanarProjectionFlag(Settings::ClampZ));
