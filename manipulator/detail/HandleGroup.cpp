@@ -44,13 +44,24 @@ HandlePasses makeHandlePasses(const osg::NodePtr& tree)
     return passes;
 }
 
+osg::RefPtr<osg::NodePtr> makeDepthPass(const osg::NodePtr& tree, int sortKey)
+{
+    const osg::RefPtr<osg::DepthTestChunkPtr> depth(makeAlwaysDepthChunk());
+    return makePass(osg::cloneTree(tree), depth.get(), sortKey);
+}
+
+void markHandleRoot(const osg::NodePtr& root)
+{
+    nbNodeUtils::setIsAuxiliaryNode(root, true);
+    nbNodeUtils::setIsSelectableAuxiliaryNode(root, true);
+    nbNodeUtils::setIsManipulatorNode(root, true);
+}
+
 osg::NodePtr makeHandleRoot()
 {
     const osg::NodePtr root = makeGroupNode();
     nbNodeUtils::setName(root, kHandleGroupName);
-    nbNodeUtils::setIsAuxiliaryNode(root, true);
-    nbNodeUtils::setIsSelectableAuxiliaryNode(root, true);
-    nbNodeUtils::setIsManipulatorNode(root, true);
+    markHandleRoot(root);
     return root;
 }
 

@@ -29,8 +29,15 @@ struct HandlePasses
 /// @param tree  top node of the handles, becomes the child of the handle pass
 HandlePasses makeHandlePasses(const osg::NodePtr& tree);
 
-/// Makes an empty gizmo root: a Group node named "Manipulatorgroup", marked auxiliary, selectable
-/// auxiliary (the picker may hit it while the scene's selection ignores it) and manipulator node.
+/// The first of the two passes alone, with another sort key: an unnamed copy of a complete handle
+/// tree, shared cores, under a material group with an unlit material and depth function GL_ALWAYS.
+osg::RefPtr<osg::NodePtr> makeDepthPass(const osg::NodePtr& tree, int sortKey);
+
+/// Marks a node as a gizmo's root: auxiliary, selectable auxiliary (the picker may hit it while the
+/// scene's selection ignores it) and manipulator node.
+void markHandleRoot(const osg::NodePtr& root);
+
+/// Makes an empty gizmo root: a Group node named "Manipulatorgroup", marked as root.
 osg::NodePtr makeHandleRoot();
 
 }  // namespace nbec::manipulator::detail
