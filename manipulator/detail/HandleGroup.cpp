@@ -44,12 +44,6 @@ HandlePasses makeHandlePasses(const osg::NodePtr& tree)
     return passes;
 }
 
-osg::RefPtr<osg::NodePtr> makeDepthPass(const osg::NodePtr& tree, int sortKey)
-{
-    const osg::RefPtr<osg::DepthTestChunkPtr> depth(makeAlwaysDepthChunk());
-    return makePass(osg::cloneTree(tree), depth.get(), sortKey);
-}
-
 void markHandleRoot(const osg::NodePtr& root)
 {
     nbNodeUtils::setIsAuxiliaryNode(root, true);
@@ -62,6 +56,19 @@ osg::NodePtr makeHandleRoot()
     const osg::NodePtr root = makeGroupNode();
     nbNodeUtils::setName(root, kHandleGroupName);
     markHandleRoot(root);
+    return root;
+}
+
+osg::NodePtr makeHandleRootOver(const osg::NodePtr& tree, int depthPassSortKey)
+{
+    nbNodeUtils::setIsAuxiliaryNode(tree, true);
+    nbNodeUtils::setIsSelectableAuxiliaryNode(tree, true);
+    const osg::RefPtr<osg::DepthTestChunkPtr> depth(makeAlwaysDepthChunk());
+    const osg::RefPtr<osg::NodePtr> copy =
+        makePass(osg::cloneTree(tree), depth.get(), depthPassSortKey);
+    const osg::NodePtr root = makeHandleRoot();
+    addChild(root, tree);
+    addChild(root, copy.get());
     return root;
 }
 

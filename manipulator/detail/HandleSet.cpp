@@ -76,16 +76,6 @@ osg::Transform3DPtr HandleSet::getGroupTransform(std::size_t group) const
     return osg::Transform3DPtr::dcast(groups[group]->getCore());
 }
 
-osg::NodePtr HandleSet::getHandle(int activeMode) const
-{
-    for (std::size_t i = 0; i < handles.size(); ++i) {
-        if (table->rows[i].activeMode == activeMode) {
-            return handles[i].top;
-        }
-    }
-    return osg::NodePtr();
-}
-
 int HandleSet::detect(const osg::NodePtr& node, const osg::NodePtr& below) const
 {
     if (node == osg::NullFC || !nbNodeUtils::hasParent(node, below)) {
@@ -173,7 +163,11 @@ void HandleSet::showMode(const HandleModeRow& mode)
             showNode(groups[i], false);
         }
     }
-    showNode(getHandle(mode.hiddenHandle), false);
+    for (std::size_t i = 0; i < handles.size(); ++i) {
+        if (table->rows[i].activeMode == mode.hiddenHandle) {
+            showNode(handles[i].top, false);
+        }
+    }
 }
 
 void HandleSet::showOnly(int activeMode)

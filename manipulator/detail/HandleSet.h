@@ -89,8 +89,9 @@ public:
 
     osg::Transform3DPtr getRootTransform() const;
     osg::Transform3DPtr getGroupTransform(std::size_t group) const;
-    /// Top node of a handle; null for an unknown mode.
-    osg::NodePtr getHandle(int activeMode) const;
+
+    /// Top node of the handle of a row.
+    osg::NodePtr getNode(std::size_t row) const { return handles[row].top; }
 
     /// The active mode of a node that is a handle's by its name and lies below another; 0 for any
     /// other node and null.

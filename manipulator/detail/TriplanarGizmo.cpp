@@ -124,13 +124,7 @@ osg::Vec3f direction(const osg::Pnt3f& place)
 TriplanarGizmo::TriplanarGizmo()
     : AnchoredGizmo(handleTable(), makeAxisMaterials(), static_cast<int>(Mode::Initial))
 {
-    const osg::NodePtr tree = handles.getRoot();
-    nbNodeUtils::setIsAuxiliaryNode(tree, true);
-    nbNodeUtils::setIsSelectableAuxiliaryNode(tree, true);
-    const osg::RefPtr<osg::NodePtr> depthPass = makeDepthPass(tree, kDepthPassSortKey);
-    root = makeHandleRoot();
-    addChild(root.get(), tree);
-    addChild(root.get(), depthPass.get());
+    root = makeHandleRootOver(handles.getRoot(), kDepthPassSortKey);
 }
 
 std::unique_ptr<AnchoredGizmo> TriplanarGizmo::clone() const
