@@ -32,14 +32,22 @@ void NodeCore::invalidateVolume()
 
 void NodeCore::noteEdit()
 {
-    if (mfParents.empty()) {
-        // Another container may hold it, as a material does the transform of a projection.
+    if (ownerCount > 0) {
         Inherited::noteEdit();
-        return;
     }
     for (const NodePtr& node : mfParents) {
         node->noteSubtreeChange();
     }
+}
+
+void NodeCore::ownerAdded(FieldContainer&)
+{
+    ++ownerCount;
+}
+
+void NodeCore::ownerRemoved(FieldContainer&)
+{
+    --ownerCount;
 }
 
 void NodeCore::addParent(const NodePtr& parent)

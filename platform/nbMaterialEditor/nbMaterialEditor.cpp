@@ -91,7 +91,7 @@ struct nbMaterialEditor::Impl final : public PreviewMessages
     struct DragStart
     {
         osg::UInt32 projectionId = 0;
-        osg::UInt64 groupChanges = 0;
+        osg::UInt64 undoCount = 0;
         nbTransformState state;
     };
 
@@ -146,10 +146,11 @@ osg::Transform3DPtr nbMaterialEditor::Impl::projection() const
 
 const nbTransformState& nbMaterialEditor::Impl::startOf(const osg::Transform3DPtr& core)
 {
-    const osg::UInt64 groupChanges = nbUndoService::the()->getGroupChangeCount();
-    if (!dragStart || dragStart->projectionId != idOf(core) ||
-        dragStart->groupChanges != groupChanges) {
-        dragStart = DragStart { idOf(core), groupChanges, nbTransformState::of(*core) };
+    const nbUndoService* const undo = nbUndoService::the();
+    // Both only grow.
+    const osg::UInt64 undoCount = undo->getGroupChangeCount() + undo->getRestoreCount();
+    if (!dragStart || dragStart->projectionId != idOf(core) || dragStart->undoCount != undoCount) {
+        dragStart = DragStart { idOf(core), undoCount, nbTransformState::of(*core) };
     }
     return dragStart->state;
 }

@@ -32,8 +32,8 @@
 ///
 /// A drag begins for the editor at the first message after one of: setMaterial, an edit through the
 /// editor itself, a "setMatRenderEnabled" of either value (with which manipulators enclose their
-/// drags), the opening or closing of a group in nbUndoService, or another projection in the
-/// component.
+/// drags), the opening or closing of a group in nbUndoService, an undo or redo there, or another
+/// projection in the component.
 ///
 /// Every message that changes something is an undo scope of its own (see nbUndoService), so that a
 /// host's group makes one step of a drag, and marks the scene as modified. An attribute that is

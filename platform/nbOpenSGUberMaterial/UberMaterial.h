@@ -35,7 +35,8 @@ NB_CONTAINER_POINTER(UberMaterial, SimpleMaterialPtr);
 ///   nothing about this. Such a material is drawn blended.
 /// Outside of a picture that does not repeat, without settings, and with a picture that is missing
 /// or cannot be shown, the plain colour stays. Only surfaces show pictures, lines and points do
-/// not; a shader chunk in the material replaces all of this.
+/// not; a shader chunk in the material replaces all of this. Pickers see no pictures: what is cut
+/// out is hit like the rest.
 class NB_PLATFORM_API UberMaterial : public SimpleMaterial
 {
     NB_CONTAINER(UberMaterial, SimpleMaterial, NB_UBER_MATERIAL_FIELDS);

@@ -153,6 +153,9 @@ TEST_F(nbMaterialEditorTest, TotalsAddToTheProjectionAsItWasWhenTheDragBegan)
     editor->setMaterial(material.get(), object, kDiffuse);
     change({ { "transVec", osg::Vec3f(1.f, 0.f, 0.f) } });
     expectNear(projection()->getTranslation(), { 17.f, 2.f, 0.f }, "after setMaterial");
+    ASSERT_TRUE(undo->undo());
+    change({ { "transVec", osg::Vec3f(2.f, 0.f, 0.f) } });
+    expectNear(projection()->getTranslation(), { 18.f, 2.f, 0.f }, "after undo");
     EXPECT_TRUE(log.empty());
 }
 

@@ -108,18 +108,24 @@ TEST_F(UberMaterialTest, IsTransparentWithAPictureThatCanMakeItSo)
     EXPECT_FALSE(material->isTransparent());
 }
 
-TEST_F(UberMaterialTest, EditsOfAProjectionMoveTheCountsOfTrees)
+TEST_F(UberMaterialTest, EditsOfAHeldProjectionMoveTheCountsOfTrees)
 {
     const osg::NodeRefPtr root(osg::makeCoredNode<osg::Group>());
     const osg::RefPtr<osg::Transform3DPtr> projection(osg::Transform3D::create());
-    const osg::UInt64 before = osg::getTreeChangeCount(root.get());
-    {
-        const nbEdit edit(projection.get(), osg::Transform3D::TranslationFieldMask);
-        projection->setTranslation(osg::Vec3f(1.f, 2.f, 3.f));
-    }
+    const osg::ColorComponentSettingsRefPtr settings(osg::ColorComponentSettings::create());
+    const auto editMoves = [&] {
+        const osg::UInt64 before = osg::getTreeChangeCount(root.get());
+        {
+            const nbEdit edit(projection.get(), osg::Transform3D::TranslationFieldMask);
+        }
+        return osg::getTreeChangeCount(root.get()) != before;
+    };
 
-    EXPECT_NE(osg::getTreeChangeCount(root.get()), before);
-    EXPECT_EQ(projection->getMatrix()[3][2], 3.f);
+    EXPECT_FALSE(editMoves());
+    settings->setPlanarProjection(projection.get());
+    EXPECT_TRUE(editMoves());
+    settings->setPlanarProjection(osg::NullFC);
+    EXPECT_FALSE(editMoves());
 }
 
 TEST(ColorComponentSettings, FlagsAreSwitchedOneByOne)
