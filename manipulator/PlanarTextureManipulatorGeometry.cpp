@@ -230,6 +230,60 @@ void PlanarTextureManipulator::highlightControlElement()
 
 // == Visibility
 
+void PlanarTextureManipulator::activateTranslateManipulator()
+{
+    activateMode(ManipulatorMode::Translate);
+}
+
+void PlanarTextureManipulator::activateRotateManipulator()
+{
+    activateMode(ManipulatorMode::Rotate);
+}
+
+void PlanarTextureManipulator::activateScaleManipulator()
+{
+    activateMode(ManipulatorMode::Scale);
+}
+
+void PlanarTextureManipulator::activateUniversalManipulator()
+{
+    activateMode(ManipulatorMode::Universal);
+}
+
+void PlanarTextureManipulator::activateMode(ManipulatorMode newMode)
+{
+    state->mode = newMode;
+    showElements();
+    setDefaultMaterials();
+    updateManipulator();
+}
+
+PlanarTextureManipulator::ManipulatorMode PlanarTextureManipulator::getMode() const
+{
+    return state->mode;
+}
+
+PlanarTextureManipulator::ActiveMode PlanarTextureManipulator::getActiveMode() const
+{
+    return state->activeMode;
+}
+
+void PlanarTextureManipulator::showActiveManipulator()
+{
+    if (getNode() == osg::NullFC) {
+        hideManipulator();
+        return;
+    }
+    showElements();
+    detail::showNode(state->handleTree.get(), true);
+    updateManipulator();
+}
+
+void PlanarTextureManipulator::hideManipulator()
+{
+    detail::showNode(state->handleTree.get(), false);
+}
+
 void PlanarTextureManipulator::showElements()
 {
     const PlanarHandleRow* const grabbed =
