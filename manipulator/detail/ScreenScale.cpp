@@ -25,6 +25,15 @@ float diagonalOf(const osg::UberCameraPtr& camera, ViewDiagonal diagonal)
     return std::sqrt(width * width + height * height);
 }
 
+/// The main view's camera if it shows an orthographic view, else null.
+osg::UberCameraPtr orthographicCamera()
+{
+    const nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1);
+    const osg::UberCameraPtr camera =
+        widget != nullptr ? widget->getUberCamera() : osg::UberCameraPtr();
+    return nbUberCameraUtils::isOrthographicCamera(camera) ? camera : osg::UberCameraPtr();
+}
+
 }  // namespace
 
 float perspectiveScale(double distance, float fovDeg, float size)
@@ -38,12 +47,17 @@ float orthographicScale(float diagonal)
     return diagonal / kViewsPerDiagonal;
 }
 
+std::optional<float> orthographicDiagonal()
+{
+    const osg::UberCameraPtr camera = orthographicCamera();
+    return camera != osg::NullFC ? std::optional<float>(camera->getNearPlaneDiagonal())
+                                 : std::nullopt;
+}
+
 float screenScale(const osg::Pnt3f& anchor, float size, ViewDiagonal diagonal)
 {
-    const nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1);
-    const osg::UberCameraPtr camera =
-        widget != nullptr ? widget->getUberCamera() : osg::UberCameraPtr();
-    if (camera != osg::NullFC && nbUberCameraUtils::isOrthographicCamera(camera)) {
+    const osg::UberCameraPtr camera = orthographicCamera();
+    if (camera != osg::NullFC) {
         return orthographicScale(diagonalOf(camera, diagonal));
     }
     const double distance = anchor.dist(nbOSGWidget::getFrom(-1));
