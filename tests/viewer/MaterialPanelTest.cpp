@@ -105,7 +105,11 @@ TEST_F(MaterialPanelTest, ADroppedPictureIsSeenWhereItFellAndTheObjectKeepsItsCo
 {
     QString error;
     const QImage before = window.view().takePicture(error);
+    QString recorded;
+    stage().commands().setListener(
+        [&recorded](const QString& name, const QJsonValue&) { recorded = name; });
     drop(kLabel, "Vase");
+    EXPECT_EQ(recorded, "texture.drop");
     EXPECT_EQ(find<QLabel>("textureFile")->text(), "label.png");
     EXPECT_EQ(value("texture.handles"), QJsonValue("universal"));
 
