@@ -5,6 +5,7 @@
 
 #include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGMaterial.h>
+#include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGQuaternion.h>
 #include <OpenSG/OSGVector.h>

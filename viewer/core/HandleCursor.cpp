@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/core/HandleCursor.h"
 
+#include "viewer/core/PerspectiveMatchTool.h"
 #include "viewer/core/Stage.h"
+#include "viewer/core/StageTool.h"
 
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
@@ -103,13 +105,14 @@ HandleAction actionOfHandle(const std::string& handle)
             return row.action;
         }
     }
-    return HandleAction::None;
+    return PerspectiveMatchTool::isHandle(handle) ? HandleAction::MoveInPlane : HandleAction::None;
 }
 
 HandleCursor cursorOfHandle(Stage& stage, const std::string& handle)
 {
     HandleCursor cursor;
-    cursor.action = actionOfHandle(handle);
+    const StageTool* tool = stage.activeTool();
+    cursor.action = tool != nullptr ? tool->actionOf(handle) : actionOfHandle(handle);
     const bool isAlong =
         cursor.action == HandleAction::MoveAlong || cursor.action == HandleAction::ScaleAlong;
     if (isAlong && !findAngle(stage, handle, cursor.angleDeg)) {

@@ -5,6 +5,7 @@
 #include "viewer/gui/MaterialPanel.h"
 #include "viewer/gui/ObjectPanel.h"
 #include "viewer/gui/PerspectiveMatchPanel.h"
+#include "viewer/gui/PlatesPanel.h"
 #include "viewer/gui/ScenePanel.h"
 
 #include <nbKernelServices/nbUndoService.h>
@@ -58,6 +59,7 @@ void PanelDocks::addPanels()
     addPanel(new MaterialPanel(stage), tr("Material"), QStringLiteral("materialDock"));
     addPanel(new PerspectiveMatchPanel(stage), tr("Perspective match"),
              QStringLiteral("matchDock"));
+    addPanel(new PlatesPanel(stage), tr("Scene plates"), QStringLiteral("platesDock"));
 }
 
 QDockWidget* PanelDocks::addDock(QWidget* content, const QString& title, const QString& name)
