@@ -23,9 +23,9 @@ void PlacingContext::setAnchoring(Anchoring newAnchoring, std::function<void()> 
 bool PlacingContext::anchor(const InteractionManager* manager, const std::string& event)
 {
     if (event == names::kStart || event == names::kProcess) {
-        const bool isPlaced = anchoring(getPointerPosition());
-        isAnchored = isAnchored || isPlaced;
-        return isPlaced;
+        // A click beside the surface must not select something else.
+        isAnchored = anchoring(getPointerPosition()) || isAnchored;
+        return true;
     }
     if (event != names::kStop) {
         return false;

@@ -404,7 +404,7 @@ void TextureTool::update()
     // Undo and edits of others reach the display, too.
     if (active && osg::glue::editStamp() != shownStamp) {
         connect();
-        gizmos.current().update(false);
+        gizmos.update();
         showInScene();
         shownStamp = osg::glue::editStamp();
     }
