@@ -139,6 +139,43 @@ TEST_F(MaterialPanelTest, ADroppedPictureIsSeenWhereItFellAndTheObjectKeepsItsCo
     EXPECT_EQ(problems, QStringList());
 }
 
+TEST_F(MaterialPanelTest, APictureOnATexturedModelKeepsItsOwnColours)
+{
+    ModelData model;
+    model.materials.resize(1);
+    model.materials[0].diffuse = { 1.0F, 1.0F, 1.0F };
+    model.materials[0].texture = QImage(4, 4, QImage::Format_RGB888);
+    model.materials[0].texture.fill(QColor(0, 0, 255));
+    model.meshes.resize(1);
+    model.meshes[0].positions = { { -2, -2, 0 }, { 2, -2, 0 }, { 2, 2, 0 }, { -2, 2, 0 } };
+    model.meshes[0].normals = { 4, Vec3 { 0, 0, 1 } };
+    model.meshes[0].texCoords = { { 0, 0 }, { 1, 0 }, { 1, 1 }, { 0, 1 } };
+    model.meshes[0].triangles = { 0, 1, 2, 0, 2, 3 };
+    model.root.meshes = { 0 };
+    model.root.name = QStringLiteral("Blue");
+    stage().clear();
+    stage().add(model);
+    stage().setStandardView(nbCameraNavigation::StandardView::Front);
+    stage().frameAll();
+
+    drop(kLabel, "Blue");
+    stage().showGizmo(Gizmo::None);
+    stage().select(osg::NullFC);
+
+    QString error;
+    const QImage after = window.view().takePicture(error);
+    const QPoint middle(after.width() / 2, after.height() / 2);
+    int red = 0;
+    for (int y = -10; y <= 10; ++y) {
+        red = qMax(red, qRed(after.pixel(middle + QPoint(0, 4 * y))));
+    }
+    EXPECT_GT(red, 150) << "the label is as blue as the model";
+    const QColor beside =
+        after.pixelColor(middle + QPoint(qMin(after.width(), after.height()) * 2 / 5, 0));
+    EXPECT_EQ(beside.red(), 0);
+    EXPECT_GT(beside.blue(), 150);
+}
+
 TEST_F(MaterialPanelTest, ABrokenPictureIsOneLineAndNothingElse)
 {
     drop(QStringLiteral(NB_VIEWER_FOLDER "/models/missing.png"), "Vase");
