@@ -13,6 +13,7 @@
 #include <OpenSG/OSGSimpleMaterial.h>
 #include <OpenSG/OSGTextureChunk.h>
 
+#include <array>
 #include <memory>
 
 /// Shows a planar texture projection in the scene: a faint plane with the picture, its outline, and
@@ -98,7 +99,7 @@ private:
     osg::NodeRefPtr transform2DNode;
     osg::NodeRefPtr zExtentTransformNode;
     osg::NodeRefPtr zExtentGeometryNode;
-    osg::SimpleMaterialRefPtr planeMaterials[2];
+    std::array<osg::SimpleMaterialRefPtr, 2> planeMaterials;
     osg::RefPtr<osg::TextureChunkPtr> textureChunk;
     /// What the chunk shows belongs to the chunk, so copies have it in common.
     std::shared_ptr<ShownTexture> shownTexture;
