@@ -3,6 +3,7 @@
 
 #include <nbOpenSGExt/Transform3D.h>
 
+#include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGMaterial.h>
 #include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGNode.h>

@@ -21,7 +21,7 @@ struct ActionRow
     HandleAction action;
 };
 
-constexpr std::array<ActionRow, 13> kActions { {
+constexpr std::array<ActionRow, 23> kActions { {
     { "xaShape", HandleAction::MoveAlong },
     { "yaShape", HandleAction::MoveAlong },
     { "zaShape", HandleAction::MoveAlong },
@@ -35,6 +35,16 @@ constexpr std::array<ActionRow, 13> kActions { {
     { "xyaShape", HandleAction::MoveInPlane },
     { "xzaShape", HandleAction::MoveInPlane },
     { "yzaShape", HandleAction::MoveInPlane },
+    { "rotateShape", HandleAction::Turn },
+    { "scaleXYLLShape", HandleAction::ScaleAll },
+    { "scaleXYULShape", HandleAction::ScaleAll },
+    { "scaleXYLRShape", HandleAction::ScaleAll },
+    { "scaleXYURShape", HandleAction::ScaleAll },
+    { "scaleXLShape", HandleAction::ScaleAll },
+    { "scaleXRShape", HandleAction::ScaleAll },
+    { "scaleYLShape", HandleAction::ScaleAll },
+    { "scaleYUShape", HandleAction::ScaleAll },
+    { "scaleZPlaneShape", HandleAction::ScaleAll },
 } };
 
 /// Length on screen of one unit of a handle below which its direction says nothing.

@@ -2,6 +2,7 @@
 #include "viewer/gui/PanelDocks.h"
 
 #include "viewer/core/Stage.h"
+#include "viewer/gui/MaterialPanel.h"
 #include "viewer/gui/ObjectPanel.h"
 #include "viewer/gui/PerspectiveMatchPanel.h"
 #include "viewer/gui/PlatesPanel.h"
@@ -55,6 +56,7 @@ void PanelDocks::addPanels()
 {
     sceneDock = addPanel(new ScenePanel(stage), tr("Objects"), QStringLiteral("sceneDock"));
     objectDock = addPanel(new ObjectPanel(stage), tr("Properties"), QStringLiteral("objectDock"));
+    addPanel(new MaterialPanel(stage), tr("Material"), QStringLiteral("materialDock"));
     addPanel(new PerspectiveMatchPanel(stage), tr("Perspective match"),
              QStringLiteral("matchDock"));
     addPanel(new PlatesPanel(stage), tr("Scene plates"), QStringLiteral("platesDock"));
