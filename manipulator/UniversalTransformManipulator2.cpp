@@ -143,6 +143,7 @@ bool UniversalTransformManipulator2::startManipulator(ManipulatorInteractionCont
                                                       const std::string& /*hint*/)
 {
     endHover();
+    update(false);  // the node may have been moved since the last picture: by undo, by the host
     activeHandle = detectMode(ctx);
     if (activeHandle == ActiveMode::None) {
         return false;
@@ -159,6 +160,7 @@ bool UniversalTransformManipulator2::hoverManipulator(ManipulatorInteractionCont
     if (grabbing) {
         return true;
     }
+    update(false);
     activeHandle = detectMode(ctx);
     if (activeHandle != highlighted) {
         setDefaultMaterials(true, true, true, activeHandle);

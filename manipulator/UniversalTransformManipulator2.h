@@ -110,7 +110,8 @@ public:
     /// @param force  re-places it in any case
     void update(bool force) override;
 
-    /// Grabs the handle under the pointer and hides the others. @return whether there is one
+    /// Grabs the handle under the pointer and hides the others; first, as hovering, re-places the gizmo
+    /// as update(false) does. @return whether there is one
     bool startManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
     /// @return whether a handle is grabbed and the node can still be edited
     bool processManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;

@@ -9,6 +9,7 @@
 
 #include <nbKernel/nbOSGWidget.h>
 #include <nbKernel/nbScenegraph.h>
+#include <nbKernelServices/nbScopedUndo.h>
 #include <nbOpenSGExt/Transform3D.h>
 #include <nbOpenSGUtils/nbNodePermission.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
@@ -131,6 +132,9 @@ osg::NodePtr UniversalTransformManipulator2::makeTransform(const osg::NodePtr& n
     }
     const osg::NodePtr transform = nbNodeUtils::convertToTransform3DNode(node);
     if (transform != osg::NullFC && node != nbScenegraph::getRootNode()) {
+        // Where the pivots of a new transform are is part of the conversion, which is no undo step
+        // by itself: a drag that ends where it began leaves none.
+        const nbScopedUndo unrecorded(false);
         const osg::Pnt3f center = calculateObjectCenter(transform, false);
         nbNodeUtils::setTransformNodeRotatePivot(transform, center.x(), center.y(), center.z(),
                                                  true, -1);
