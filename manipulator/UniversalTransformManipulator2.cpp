@@ -14,17 +14,12 @@
 #include "manipulator/detail/TargetFrame.h"
 
 #include <nbInteraction/Picker.h>
-#include <nbKernel/nbOSGWidget.h>
 #include <nbOpenSGExt/Transform3D.h>
-#include <nbOpenSGUberCamera/UberCamera.h>
-#include <nbOpenSGUberCamera/nbUberCameraUtils.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <OpenSG/OSGSimpleAttachments.h>
 
-#include <cmath>
 #include <cstring>
-#include <string_view>
 
 #include <EditStamp.h>
 
@@ -44,13 +39,9 @@ bool isSamePlacement(const osg::Matrix& left, const osg::Matrix& right)
         left.equals(right, kPlacementTolerance);
 }
 
-/// Which families an activation puts back to their idle colours.
-struct DefaultFamilies
-{
-    bool translate, rotate, scale;
-};
+constexpr DefaultFamilies kAllFamilies { true, true, true };
 
-/// One row per mode, in the order of the modes' values.
+/// What each mode puts back to idle colours, one row per mode, in the order of the modes' values.
 constexpr std::array<DefaultFamilies, 10> kDefaultFamilies = { { { true, true, true },
                                                                  { true, false, false },
                                                                  { false, false, true },
@@ -71,21 +62,21 @@ UniversalTransformManipulator2* UniversalTransformManipulator2::_the = nullptr;
 bool UniversalTransformManipulator2::_temporary_snapping_active = false;
 
 UniversalTransformManipulator2::UniversalTransformManipulator2()
-    : drag(std::make_unique<TransformDrag>())
+    : handles(std::make_unique<TransformHandles>())
+    , drag(std::make_unique<TransformDrag>())
 {
-    handleTree = createManipulatorGeo();
-    placement = osg::Transform3DPtr::dcast(handleTree->getCore());
+    placement = osg::Transform3DPtr::dcast(handles->getTree()->getCore());
     createMultiselectionRepresentationGeo();
     additionalGeometry = detail::makeGroupNode();
     nbNodeUtils::setIsAuxiliaryNode(additionalGeometry.get(), true);
-    const detail::HandlePasses passes = detail::makeHandlePasses(handleTree.get());
+    const detail::HandlePasses passes = detail::makeHandlePasses(handles->getTree());
     root = detail::makeHandleRoot();
     detail::addChild(root.get(), multiselection.get());
     detail::addChild(root.get(), passes.depthPass.get());
     detail::addChild(root.get(), additionalGeometry.get());
     detail::addChild(root.get(), passes.handlePass.get());
-    showElements(ActiveMode::None);
-    detail::showNode(handleTree.get(), false);
+    handles->show(mode, ActiveMode::None);
+    detail::showNode(handles->getTree(), false);
     _allManipulators.push_back(this);
 }
 
@@ -150,7 +141,8 @@ bool UniversalTransformManipulator2::startManipulator(ManipulatorInteractionCont
     }
     grabbing = true;
     grabbedPoint = ctx->getPicker()->getHitPoint();
-    highlightControlElement();
+    handles->show(mode, activeHandle);
+    handles->highlight(activeHandle);
     return true;
 }
 
@@ -162,9 +154,9 @@ bool UniversalTransformManipulator2::hoverManipulator(ManipulatorInteractionCont
     }
     update(false);
     activeHandle = detectMode(ctx);
-    if (activeHandle != highlighted) {
-        setDefaultMaterials(true, true, true, activeHandle);
-        highlightMode();
+    if (activeHandle != handles->getHighlighted()) {
+        handles->makeIdle(kAllFamilies, activeHandle);
+        handles->highlight(activeHandle);
     }
     return activeHandle != ActiveMode::None;
 }
@@ -242,9 +234,8 @@ void UniversalTransformManipulator2::activateTranslateRotateYZManipulator()
 void UniversalTransformManipulator2::activateMode(ManipulatorMode newMode)
 {
     mode = newMode;
-    showElements(ActiveMode::None);
-    const DefaultFamilies& families = kDefaultFamilies[static_cast<std::size_t>(newMode)];
-    setDefaultMaterials(families.translate, families.rotate, families.scale, ActiveMode::None);
+    handles->show(mode, ActiveMode::None);
+    handles->makeIdle(kDefaultFamilies[static_cast<std::size_t>(newMode)], ActiveMode::None);
     updateManipulator();
 }
 
@@ -254,93 +245,23 @@ void UniversalTransformManipulator2::showActiveManipulator()
         hideManipulator();
         return;
     }
-    showElements(ActiveMode::None);
-    showAllElements();
+    handles->show(mode, ActiveMode::None);
+    detail::showNode(handles->getTree(), true);
     updateManipulator();
 }
 
 void UniversalTransformManipulator2::hideManipulator()
 {
-    hideAllElements();
+    detail::showNode(handles->getTree(), false);
 }
 
-void UniversalTransformManipulator2::showAllElements()
-{
-    detail::showNode(handleTree.get(), true);
-}
-
-void UniversalTransformManipulator2::hideAllElements()
-{
-    detail::showNode(handleTree.get(), false);
-}
-
-void UniversalTransformManipulator2::showElements(ActiveMode grabbed)
-{
-    const unsigned modeBit = 1U << static_cast<unsigned>(mode);
-    for (std::size_t i = 0; i < kHandles.size(); ++i) {
-        const HandleRow& row = kHandles[i];
-        const bool isGrabbed = grabbed != ActiveMode::None && row.activeMode == grabbed;
-        const bool isVisible = (row.visibleIn & modeBit) != 0;
-        detail::showNode(handles[i].top, isVisible && (isGrabbed || grabbed == ActiveMode::None));
-        if (row.kind == HandleKind::Ring) {
-            detail::showNode(handles[i].parts[1].node, isGrabbed);
-        }
-    }
-}
-
-// == Colours
-
-void UniversalTransformManipulator2::setHandleMaterials(std::size_t row, bool highlight)
-{
-    for (std::size_t i = 0; i < kMaxParts; ++i) {
-        const HandlePart& part = handles[row].parts[i];
-        if (part.node == osg::NullFC) {
-            continue;
-        }
-        const auto color =
-            static_cast<std::size_t>(highlight ? HandleColor::Orange : kHandles[row].idle[i]);
-        detail::setGeometryMaterial(
-            part.node, part.isLine ? lineMaterials[color].get() : solidMaterials[color].get());
-    }
-}
-
-void UniversalTransformManipulator2::setDefaultMaterials(bool translate, bool rotate, bool scale,
-                                                         ActiveMode except)
-{
-    for (std::size_t i = 0; i < kHandles.size(); ++i) {
-        const HandleRow& row = kHandles[i];
-        const bool isInFamily = row.family == HandleFamily::Translate ? translate
-            : row.family == HandleFamily::Rotate                      ? rotate
-            : row.family == HandleFamily::Scale                       ? scale
-                                                                      : true;
-        if (isInFamily && (except == ActiveMode::None || row.activeMode != except)) {
-            setHandleMaterials(i, false);
-        }
-    }
-    highlighted = except == highlighted ? highlighted : ActiveMode::None;
-}
-
-void UniversalTransformManipulator2::highlightMode()
-{
-    for (std::size_t i = 0; i < kHandles.size(); ++i) {
-        if (activeHandle != ActiveMode::None && kHandles[i].activeMode == activeHandle) {
-            setHandleMaterials(i, true);
-        }
-    }
-    highlighted = activeHandle;
-}
-
-void UniversalTransformManipulator2::highlightControlElement()
-{
-    showElements(activeHandle);
-    highlightMode();
-}
+// == Handle under the pointer
 
 void UniversalTransformManipulator2::endHover()
 {
     activeHandle = ActiveMode::None;
-    if (highlighted != ActiveMode::None) {
-        setDefaultMaterials(true, true, true, ActiveMode::None);
+    if (handles->getHighlighted() != ActiveMode::None) {
+        handles->makeIdle(kAllFamilies, ActiveMode::None);
     }
 }
 
@@ -351,24 +272,17 @@ UniversalTransformManipulator2::detectMode(ManipulatorInteractionContext* ctx) c
         return ActiveMode::None;
     }
     const osg::NodePtr hit = detail::pickHandle(ctx);
-    if (hit == osg::NullFC) {
-        return ActiveMode::None;
-    }
-    const char* const name = osg::getName(hit);
-    if (name == nullptr) {
-        return ActiveMode::None;
-    }
-    for (const HandleRow& row : kHandles) {
-        if (row.name != nullptr && std::string_view(name) == row.name) {
-            return row.activeMode;
-        }
-    }
-    return ActiveMode::None;
+    return hit != osg::NullFC ? TransformHandles::find(osg::getName(hit)) : ActiveMode::None;
 }
 
 // == Placement
 
 void UniversalTransformManipulator2::updateManipulator()
+{
+    updateManipulator(detail::ScreenScale(m_ManipulatorSize));
+}
+
+void UniversalTransformManipulator2::updateManipulator(const detail::ScreenScale& scale)
 {
     const osg::NodePtr selected = getNode();
     if (selected == osg::NullFC) {
@@ -376,7 +290,7 @@ void UniversalTransformManipulator2::updateManipulator()
     }
     const osg::NodePtr node = detail::editedNode(selected);
     const osg::Pnt3f anchor = anchorWorld(node);
-    const float size = screenScale(anchor);
+    const float size = scale.at(anchor);
     cachedTargetToWorld = node->getToWorld();
     {
         const detail::EditBracket edit(placement,
@@ -415,20 +329,6 @@ osg::Quaternion UniversalTransformManipulator2::orientationWorld(const osg::Node
                                     : detail::worldRotation(node);
 }
 
-float UniversalTransformManipulator2::screenScale(const osg::Pnt3f& anchor)
-{
-    const nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1);
-    const osg::UberCameraPtr camera =
-        widget != nullptr ? widget->getUberCamera() : osg::UberCameraPtr();
-    if (camera != osg::NullFC && nbUberCameraUtils::isOrthographicCamera(camera)) {
-        const float width = camera->getRight() - camera->getLeft();
-        const float height = camera->getBottom() - camera->getTop();
-        return detail::orthographicScale(std::sqrt(width * width + height * height));
-    }
-    const double distance = anchor.dist(nbOSGWidget::getFrom(-1));
-    return detail::perspectiveScale(distance, nbOSGWidget::getFov(-1), m_ManipulatorSize);
-}
-
 osg::Pnt3f UniversalTransformManipulator2::calculateObjectCenter(const osg::NodePtr& node,
                                                                  bool worldSpace)
 {
@@ -461,9 +361,11 @@ void UniversalTransformManipulator2::setLocalSpaceManipulator(bool local)
 
 void UniversalTransformManipulator2::updateAllManipulators()
 {
-    detail::forEachInstance(_allManipulators, [](UniversalTransformManipulator2& manipulator) {
-        manipulator.updateManipulator();
-    });
+    const detail::ScreenScale scale(m_ManipulatorSize);
+    detail::forEachInstance(_allManipulators,
+                            [&scale](UniversalTransformManipulator2& manipulator) {
+                                manipulator.updateManipulator(scale);
+                            });
 }
 
 }  // namespace nbec::manipulator

@@ -7,20 +7,21 @@
 #include <nbTransform/nbTransformModel.h>
 
 #include <OpenSG/OSGMatrix.h>
-#include <OpenSG/OSGSimpleMaterial.h>
 
-#include <array>
-#include <cstddef>
 #include <memory>
 #include <string>
 #include <vector>
 
 namespace nbec::manipulator {
 
-class RotationStep;
+class TransformHandles;
 struct NodeTransformationInfo;
 struct TransformDrag;
 struct TransformStart;
+
+namespace detail {
+class ScreenScale;
+}  // namespace detail
 
 /// The translate, rotate and scale gizmo for scene nodes.
 ///
@@ -110,8 +111,8 @@ public:
     /// @param force  re-places it in any case
     void update(bool force) override;
 
-    /// Grabs the handle under the pointer and hides the others; first, as hovering, re-places the gizmo
-    /// as update(false) does. @return whether there is one
+    /// Grabs the handle under the pointer and hides the others; first, as hovering, re-places the
+    /// gizmo as update(false) does. @return whether there is one
     bool startManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
     /// @return whether a handle is grabbed and the node can still be edited
     bool processManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
@@ -187,58 +188,22 @@ public:
     void setDescriptionEnabled(bool on) { descriptionEnabled = on; }
 
 private:
-    static constexpr std::size_t kHandleCount = 15;
-    static constexpr std::size_t kMaxParts = 3;
-    static constexpr std::size_t kSolidCount = 6;
-    static constexpr std::size_t kLineCount = 7;
-
-    struct HandleRow;
-    static const std::array<HandleRow, kHandleCount> kHandles;
-
-    /// One drawn piece of a handle: a node with a geometry core, drawn solid or as lines.
-    struct HandlePart
-    {
-        osg::NodePtr node;
-        bool isLine = false;
-    };
-
-    /// The nodes of one row of the handle table; the handle tree keeps them alive.
-    struct HandleNodes
-    {
-        osg::NodePtr top;
-        std::array<HandlePart, kMaxParts> parts;
-    };
-
-    void createMaterials();
-    osg::NodePtr createManipulatorGeo();
     void createMultiselectionRepresentationGeo();
-    static HandleNodes createArrow(std::size_t axis);
-    static HandleNodes createScaleHandle(std::size_t axis);
-    static HandleNodes createRing(std::size_t axis);
-    static HandleNodes createPlaneHandle(std::size_t plane);
-    static HandleNodes createMarker(bool sphere);
-    static HandleNodes createHandle(const HandleRow& row);
 
     void activateMode(ManipulatorMode newMode);
-    void showAllElements();
-    void hideAllElements();
-    void showElements(ActiveMode grabbed);
-    void setHandleMaterials(std::size_t row, bool highlight);
-    void setDefaultMaterials(bool translate, bool rotate, bool scale, ActiveMode except);
-    void highlightMode();
-    void highlightControlElement();
     void endHover();
     ActiveMode detectMode(ManipulatorInteractionContext* ctx) const;
 
     void updateManipulator();
+    void updateManipulator(const detail::ScreenScale& scale);
     osg::Pnt3f anchorWorld(const osg::NodePtr& node) const;
     osg::Quaternion orientationWorld(const osg::NodePtr& node) const;
-    static float screenScale(const osg::Pnt3f& anchor);
     /// Centre of an object's volume, in its own frame or in the world's.
     static osg::Pnt3f calculateObjectCenter(const osg::NodePtr& node, bool worldSpace);
 
     /// Shows the values that the grabbed handle edits as on-screen text; null takes the text away.
-    void setDescription(const osg::NodePtr& node);
+    /// @return whether there is a text
+    bool setDescription(const osg::NodePtr& node);
     void createMarks();
     void updateMarks(float size);
 
@@ -262,13 +227,12 @@ private:
     void translatePivot(const osg::NodePtr& node, const osg::Pnt3f& point);
     void rotatePivot(const osg::NodePtr& node, const osg::Pnt3f& point);
     static double computeRotation(const osg::Pnt3f& from, const osg::Pnt3f& to, osg::UInt32 axis);
-    static void accumulate(TransformStart& start, RotationStep& step);
     osg::Vec3f handleDelta(const osg::Pnt3f& point) const;
     osg::Vec3f scaleFactors(const osg::Pnt3f& point) const;
-    const TransformStart& startOf(osg::UInt32 index) const;
-    nbTransformModel::Value valueFor(const osg::NodePtr& node, osg::UInt32 index,
-                                     const osg::Vec3f& value) const;
-    osg::UInt32 targetCount() const;
+    TransformStart& startOf(osg::UInt32 index);
+    /// Looks up the containers of all targets, for one step.
+    void resolveTargets(const osg::NodePtr& node);
+    nbTransformModel::Value valueFor(osg::UInt32 index, const osg::Vec3f& value) const;
     void finishStep(const osg::NodePtr& node, bool describe);
 
     bool snappingActive() const { return _temporary_snapping_active || snappingEnabled; }
@@ -281,21 +245,18 @@ private:
 
     ManipulatorMode mode = ManipulatorMode::Translate;
     ActiveMode activeHandle = ActiveMode::None;
-    ActiveMode highlighted = ActiveMode::None;
     bool grabbing = false;
     bool snappingEnabled = false;
     bool descriptionEnabled = true;
 
     osg::RefPtr<osg::NodePtr> root;
-    osg::RefPtr<osg::NodePtr> handleTree;
     osg::Transform3DPtr placement;  ///< core of the handle tree, which never gets another
     osg::RefPtr<osg::NodePtr> multiselection;
     osg::RefPtr<osg::NodePtr> marks;  ///< crosses of the further nodes, made when there are some
     osg::RefPtr<osg::NodePtr> additionalGeometry;
-    std::array<HandleNodes, kHandleCount> handles;
-    std::array<osg::SimpleMaterialRefPtr, kSolidCount> solidMaterials;
-    std::array<osg::SimpleMaterialRefPtr, kLineCount> lineMaterials;
+    std::unique_ptr<TransformHandles> handles;
     std::vector<NodeTransformationInfo> transformationInfos;
+    std::vector<osg::NodePtr> resolvedTargets;  ///< within a step of a drag, otherwise empty
     std::unique_ptr<TransformDrag> drag;
     osg::Pnt3f grabbedPoint;  ///< where the grabbed handle was hit, world
     bool prepared = false;

@@ -126,7 +126,8 @@ TransformStart UniversalTransformManipulator2::captureStart(const osg::NodePtr& 
                                     : nbTransformModel::getRotationPivot(node, true);
     start.rotation = transform->getRotationAsQuaternion();
     const int order = nbEulerUtils::getOrderFromString(transform->getEulerRotationOrder());
-    start.accumulated = nbEulerUtils::fromDegrees(transform->getRotation(), order);
+    start.accumulated =
+        detail::TurningAngles(nbEulerUtils::fromDegrees(transform->getRotation(), order));
     if (isRing(activeHandle)) {
         // The axis that the parent's frame maps onto the drawn one; a mirrored parent turns the
         // other way.
@@ -183,7 +184,7 @@ osg::Vec3f UniversalTransformManipulator2::movementAxis(const osg::NodePtr& node
 
 osg::Matrix UniversalTransformManipulator2::gizmoFrame() const
 {
-    const osg::Matrix placed = handleTree->getToWorld();
+    const osg::Matrix placed = handles->getTree()->getToWorld();
     osg::Matrix frame = detail::orthonormalised(placed);
     frame.setTranslate(placed[3][0], placed[3][1], placed[3][2]);
     return frame;
@@ -230,7 +231,7 @@ osg::Matrix UniversalTransformManipulator2::scaleFrame(const osg::Pnt3f& start) 
         frame.setValue(right, up, -sight);
     }
     frame[3][3] = 1.0F;
-    const float unit = column(handleTree->getToWorld(), 0).length();
+    const float unit = column(handles->getTree()->getToWorld(), 0).length();
     frame.setTranslate(start - up * unit);
     return frame;
 }

@@ -1,6 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/detail/ScreenScale.h"
 
+#include <nbKernel/nbOSGWidget.h>
+#include <nbOpenSGUberCamera/UberCamera.h>
+#include <nbOpenSGUberCamera/nbUberCameraUtils.h>
+
+#include <cmath>
+
 namespace nbec::manipulator::detail {
 
 namespace {
@@ -9,17 +15,38 @@ constexpr double kSizeLimit = 200.0;
 constexpr double kReference = 800.0;
 constexpr float kViewsPerDiagonal = 20.0F;
 
+/// What distances are divided by.
+double perspectiveDivisor(float fovDeg, float size)
+{
+    const double sizeFactor = (kSizeLimit - static_cast<double>(size)) / kSizeLimit;
+    return sizeFactor * kReference / static_cast<double>(fovDeg);
+}
+
 }  // namespace
 
 float perspectiveScale(double distance, float fovDeg, float size)
 {
-    const double sizeFactor = (kSizeLimit - static_cast<double>(size)) / kSizeLimit;
-    return static_cast<float>(distance / (sizeFactor * kReference / static_cast<double>(fovDeg)));
+    return static_cast<float>(distance / perspectiveDivisor(fovDeg, size));
 }
 
 float orthographicScale(float diagonal)
 {
     return diagonal / kViewsPerDiagonal;
+}
+
+ScreenScale::ScreenScale(float size)
+    : eye(nbOSGWidget::getFrom(-1))
+    , divisor(perspectiveDivisor(nbOSGWidget::getFov(-1), size))
+{
+    const nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1);
+    const osg::UberCameraPtr camera =
+        widget != nullptr ? widget->getUberCamera() : osg::UberCameraPtr();
+    isOrthographic = camera != osg::NullFC && nbUberCameraUtils::isOrthographicCamera(camera);
+    if (isOrthographic) {
+        const float width = camera->getRight() - camera->getLeft();
+        const float height = camera->getBottom() - camera->getTop();
+        factor = orthographicScale(std::sqrt(width * width + height * height));
+    }
 }
 
 }  // namespace nbec::manipulator::detail

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <OpenSG/OSGVector.h>
+
 namespace nbec::manipulator::detail {
 
 /// Size setting of a gizmo class before anybody sets one.
@@ -19,5 +21,26 @@ float perspectiveScale(double distance, float fovDeg, float size);
 /// Scale that keeps a gizmo's apparent size constant under an orthographic camera: diagonal / 20.
 /// @param diagonal  diagonal of the camera's view, world units
 float orthographicScale(float diagonal);
+
+/// Scales of gizmos at any places under the main widget's camera as it is now. Made once for all
+/// gizmos that are placed together; not to be kept.
+class ScreenScale
+{
+public:
+    /// @param size  class-wide size setting, see perspectiveScale()
+    explicit ScreenScale(float size);
+
+    /// @param anchor  of a gizmo, world @return as perspectiveScale() or orthographicScale()
+    float at(const osg::Pnt3f& anchor) const
+    {
+        return isOrthographic ? factor : static_cast<float>(anchor.dist(eye) / divisor);
+    }
+
+private:
+    osg::Pnt3f eye;
+    bool isOrthographic = false;
+    float factor = 0.0F;  ///< of every gizmo under an orthographic camera
+    double divisor;  ///< of distances under a perspective one
+};
 
 }  // namespace nbec::manipulator::detail

@@ -6,11 +6,13 @@
 #include <nbNotification/CameraNotifier.h>
 #include <nbNotification/NotificationManager.h>
 
+#include <QtCore/QByteArray>
 #include <QtCore/QCoreApplication>
 #include <QtCore/QString>
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <memory>
 
 namespace nbec::manipulator::detail {
@@ -25,7 +27,11 @@ constexpr float kBackGrey = 0.05F;
 constexpr float kAreaEdge = 30.0F;
 constexpr float kTextHeight = 26.0F;
 constexpr int kDecimals = 2;
-constexpr float kLeastShown = 0.005F;
+constexpr double kHundredths = 100.0;
+/// Hundredths of values below are exact in a double, with a half added too.
+constexpr double kQuickLimit = 1e13;
+/// Room for three values: the greatest float has 39 digits before the point.
+constexpr std::size_t kLongestValues = 160;
 
 osg::Color3f grey(float value)
 {
@@ -50,6 +56,31 @@ float viewAspect()
     }
     return std::min(
         static_cast<float>(widget->getWidth()) / static_cast<float>(widget->getHeight()), 1.0F);
+}
+
+/// Writes a value of any float with two decimals, halves rounded away from zero. What rounds to
+/// zero has no sign. @return end of what was written
+char* writeValue(char* to, double value)
+{
+    const double magnitude = std::abs(value);
+    if (!(magnitude < kQuickLimit)) {
+        const QByteArray digits = QByteArray::number(value, 'f', kDecimals);
+        return std::copy(digits.begin(), digits.end(), to);
+    }
+    auto hundredths = static_cast<std::uint64_t>(magnitude * kHundredths + 0.5);
+    if (value < 0.0 && hundredths > 0) {
+        *to++ = '-';
+    }
+    char reversed[24];
+    int count = 0;
+    while (hundredths > 0 || count <= kDecimals) {
+        if (count == kDecimals) {
+            reversed[count++] = '.';
+        }
+        reversed[count++] = static_cast<char>('0' + hundredths % 10);
+        hundredths /= 10;
+    }
+    return std::reverse_copy(reversed, reversed + count, to);
 }
 
 }  // namespace
@@ -86,16 +117,17 @@ void ValueText::show(const QString& text)
 QString describeValues(const char* title, const osg::Vec3f& values)
 {
     QString text = QCoreApplication::translate("nbForegroundTextContext", title);
+    char digits[kLongestValues];
+    char* end = digits;
     for (osg::UInt32 i = 0; i < 3; ++i) {
         if (i > 0) {
-            text += QLatin1String(", ");
+            *end++ = ',';
+            *end++ = ' ';
         }
-        // What rounds to zero is shown without a sign.
-        const double value =
-            std::abs(values[i]) < kLeastShown ? 0.0 : static_cast<double>(values[i]);
-        text += QString::number(value, 'f', kDecimals);
+        end = writeValue(end, static_cast<double>(values[i]));
     }
-    text += QLatin1Char(')');
+    *end++ = ')';
+    text += QLatin1String(digits, static_cast<int>(end - digits));
     return text;
 }
 

@@ -257,9 +257,9 @@ void nbUndoService::record(std::unique_ptr<nbUndoRecord> entry)
     }
 }
 
-nbTransformEntry* nbUndoService::noteTransform(const osg::Transform3DPtr& core)
+TransformTable* nbUndoService::getOpenTransforms()
 {
-    return internals->isRecording() ? &internals->step.getTransforms().note(core) : nullptr;
+    return internals->isRecording() ? &internals->step.getTransforms() : nullptr;
 }
 
 void nbUndoService::openScope(bool isRecorded)
