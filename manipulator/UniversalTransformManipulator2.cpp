@@ -19,6 +19,8 @@
 
 #include <OpenSG/OSGSimpleAttachments.h>
 
+#include <algorithm>
+#include <atomic>
 #include <cstring>
 
 #include <EditStamp.h>
@@ -29,6 +31,10 @@ namespace {
 
 using Mode = UniversalTransformManipulator2::ManipulatorMode;
 
+/// Takes what was only read, so that it is read.
+std::atomic<osg::UInt32> seen { 0 };
+/// Gizmos that are looked at together before they are placed.
+constexpr std::size_t kReadAhead = 16;
 /// Elements of two to-world matrices that differ by no more are the same placement.
 constexpr float kPlacementTolerance = 1e-6F;
 
@@ -66,7 +72,8 @@ UniversalTransformManipulator2::UniversalTransformManipulator2()
     , drag(std::make_unique<TransformDrag>())
 {
     placement = osg::Transform3DPtr::dcast(handles->getTree()->getCore());
-    createMultiselectionRepresentationGeo();
+    multiselection = detail::makeGroupNode();
+    nbNodeUtils::setIsAuxiliaryNode(multiselection.get(), true);
     additionalGeometry = detail::makeGroupNode();
     nbNodeUtils::setIsAuxiliaryNode(additionalGeometry.get(), true);
     const detail::HandlePasses passes = detail::makeHandlePasses(handles->getTree());
@@ -175,6 +182,11 @@ bool UniversalTransformManipulator2::setManipulatorMode(const std::string& newMo
     _temporary_snapping_active = newMode == "precisionTool";
     // Deliberate: "tool" answers false although it has ended temporary snapping.
     return newMode == "precisionTool" || newMode.empty();
+}
+
+bool UniversalTransformManipulator2::snappingActive() const
+{
+    return _temporary_snapping_active || snappingEnabled;
 }
 
 // == Modes
@@ -351,6 +363,16 @@ void UniversalTransformManipulator2::setManipulatorSize(float size)
     }
 }
 
+float UniversalTransformManipulator2::getManipulatorSize()
+{
+    return m_ManipulatorSize;
+}
+
+bool UniversalTransformManipulator2::isLocalSpaceManipulator()
+{
+    return m_LocalSpaceManipulator;
+}
+
 void UniversalTransformManipulator2::setLocalSpaceManipulator(bool local)
 {
     m_LocalSpaceManipulator = local;
@@ -362,10 +384,36 @@ void UniversalTransformManipulator2::setLocalSpaceManipulator(bool local)
 void UniversalTransformManipulator2::updateAllManipulators()
 {
     const detail::ScreenScale scale(m_ManipulatorSize);
+    std::size_t next = 0;
     detail::forEachInstance(_allManipulators,
-                            [&scale](UniversalTransformManipulator2& manipulator) {
+                            [&scale, &next](UniversalTransformManipulator2& manipulator) {
+                                if (next++ % kReadAhead == 0) {
+                                    readAhead(next - 1);
+                                }
                                 manipulator.updateManipulator(scale);
                             });
+}
+
+/// Looks at what placing the next gizmos will touch. Nothing of it is near by when there are many
+/// gizmos; looked at one after the other, the waiting times for memory overlap, which the work on
+/// each would not let them.
+void UniversalTransformManipulator2::readAhead(std::size_t first)
+{
+    osg::UInt32 sum = 0;
+    const std::size_t end = std::min(first + kReadAhead, _allManipulators.size());
+    for (std::size_t i = first; i < end; ++i) {
+        const UniversalTransformManipulator2& manipulator = *_allManipulators[i];
+        const osg::NodePtr target = manipulator.getNode();
+        if (target != osg::NullFC && target->getCore() != osg::NullFC) {
+            sum += target->getCore()->getFieldContainerId();
+        }
+        for (const osg::NodePtr& pass : manipulator.placement->getParents()) {
+            for (osg::NodePtr above = pass; above != osg::NullFC; above = above->getParent()) {
+                sum += above->getTravMask();
+            }
+        }
+    }
+    seen.store(sum, std::memory_order_relaxed);
 }
 
 }  // namespace nbec::manipulator

@@ -34,41 +34,33 @@ class ScreenScale;
 ///
 /// Decisions.
 /// - Place: the gizmo stands at the node's rotate pivot (in scale and scale-pivot mode at its scale
-/// pivot); a node that
-///   is no Transform3D yet has its pivot at the centre of its volume, where it will be once it is
-///   converted.
+///   pivot); a node that is no Transform3D yet has its pivot at the centre of its volume, where it
+///   will be once it is converted. Conversion and pivot belong to the first undo step of an edit;
+///   a drag that ends where it began leaves no step, and the node stays converted.
 /// - Orientation: world axes, or the node's own axes with setLocalSpaceManipulator(true).
-/// - Visible elements per mode: universal all but the markers; translate arrows and planes; rotate
-/// rings; scale the
-///   scale handles and the cube "grid"; rotate pivot arrows, planes, rings and the sphere; scale
-///   pivot arrows, planes and the purple cube; clipping and translate-rotate arrows, planes and
-///   rings; translate-rotate-YZ the same without the x ring; translate-rotate-scale arrows, planes,
-///   rings and the scale handles.
 /// - A ring's axis line shows only while that ring is grabbed. Sphere and purple cube are unnamed
-/// markers, never hit.
-/// - Plane handles: a square patch of 0.4 with a bar (radius 0.02) along each of its two outer
-/// edges.
+///   markers, never hit.
+/// - Plane handles: a square patch of 0.4 with a bar (radius 0.02) along both outer edges.
 /// - A drag is held by the handle that was under the pointer at its start; hovering is refused
-/// until it stops.
+///   until it stops.
 ///
-/// All instances share the size and the space setting. Everything runs on the user-interface
-/// thread.
+/// All instances share the size and the space setting. Belongs to the user-interface thread.
 class NB_MANIPULATOR_API UniversalTransformManipulator2 : public NodeManipulator
 {
 public:
-    /// Family of handles shown.
+    /// Which handles are shown.
     enum class ManipulatorMode : osg::UInt32
     {
-        Universal = 0,
-        Translate = 1,
-        Scale = 2,
-        Rotate = 3,
-        RotatePivot = 4,
-        ScalePivot = 5,
-        Clipping = 6,
-        TranslateRotate = 7,
-        TranslateRotateYZ = 8,
-        TranslateRotateScale = 9
+        Universal = 0,  ///< all but the markers
+        Translate = 1,  ///< arrows and planes
+        Scale = 2,  ///< scale handles and the cube "grid"
+        Rotate = 3,  ///< rings
+        RotatePivot = 4,  ///< arrows, planes, rings and the sphere
+        ScalePivot = 5,  ///< arrows, planes and the purple cube
+        Clipping = 6,  ///< arrows, planes and rings
+        TranslateRotate = 7,  ///< arrows, planes and rings
+        TranslateRotateYZ = 8,  ///< arrows, planes, y and z ring
+        TranslateRotateScale = 9  ///< arrows, planes, rings and the scale handles of the axes
     };
 
     /// The handle that is hovered or grabbed.
@@ -90,8 +82,7 @@ public:
         ScaleUniform = 13
     };
 
-    /// Builds the handles, hidden, in mode translate, and appends the instance to the list of live
-    /// ones.
+    /// Builds the handles, hidden, in mode translate; joins the list of live instances.
     UniversalTransformManipulator2();
     UniversalTransformManipulator2(const UniversalTransformManipulator2&) = delete;
     UniversalTransformManipulator2& operator=(const UniversalTransformManipulator2&) = delete;
@@ -111,15 +102,15 @@ public:
     /// @param force  re-places it in any case
     void update(bool force) override;
 
-    /// Grabs the handle under the pointer and hides the others; first, as hovering, re-places the
-    /// gizmo as update(false) does. @return whether there is one
+    /// Grabs the handle under the pointer, after update(false), and hides the others.
+    /// @return whether there is one
     bool startManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
     /// @return whether a handle is grabbed and the node can still be edited
     bool processManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
     /// Lets go of the handle. @return whether one was grabbed and there is still a node
     bool stopManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
 
-    /// Highlights the handle under the pointer. @return whether there is one
+    /// Highlights the handle under the pointer, after update(false). @return whether there is one
     bool hoverManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
     /// Takes the highlight away. @return true
     bool resetManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
@@ -165,17 +156,12 @@ public:
     /// Size on screen of all gizmos, 0 <= size < 200, default 32. The shared instance is re-placed
     /// at once, others at their next update.
     static void setManipulatorSize(float size);
-
-    static float getManipulatorSize() { return m_ManipulatorSize; }
-
-    /// Aligns the gizmos with the node's own axes instead of the world's. Re-placed as by
-    /// setManipulatorSize().
+    static float getManipulatorSize();
+    /// Aligns gizmos with the node's own axes or the world's; re-placed as by setManipulatorSize().
     static void setLocalSpaceManipulator(bool local);
+    static bool isLocalSpaceManipulator();
 
-    static bool isLocalSpaceManipulator() { return m_LocalSpaceManipulator; }
-
-    /// Re-places every live gizmo, in the order of construction. The host calls it when the camera
-    /// has moved.
+    /// Re-places every live gizmo in the order of construction; for hosts whose camera has moved.
     static void updateAllManipulators();
 
     /// The family of handles shown; Translate after construction.
@@ -188,14 +174,13 @@ public:
     void setDescriptionEnabled(bool on) { descriptionEnabled = on; }
 
 private:
-    void createMultiselectionRepresentationGeo();
-
     void activateMode(ManipulatorMode newMode);
     void endHover();
     ActiveMode detectMode(ManipulatorInteractionContext* ctx) const;
 
     void updateManipulator();
     void updateManipulator(const detail::ScreenScale& scale);
+    static void readAhead(std::size_t first);
     osg::Pnt3f anchorWorld(const osg::NodePtr& node) const;
     osg::Quaternion orientationWorld(const osg::NodePtr& node) const;
     /// Centre of an object's volume, in its own frame or in the world's.
@@ -234,8 +219,7 @@ private:
     void resolveTargets(const osg::NodePtr& node);
     nbTransformModel::Value valueFor(osg::UInt32 index, const osg::Vec3f& value) const;
     void finishStep(const osg::NodePtr& node, bool describe);
-
-    bool snappingActive() const { return _temporary_snapping_active || snappingEnabled; }
+    bool snappingActive() const;
 
     static float m_ManipulatorSize;
     static bool m_LocalSpaceManipulator;

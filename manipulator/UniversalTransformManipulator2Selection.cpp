@@ -89,12 +89,6 @@ QString describe(const osg::NodePtr& node, Active handle, Mode mode, bool worldS
 
 }  // namespace
 
-void UniversalTransformManipulator2::createMultiselectionRepresentationGeo()
-{
-    multiselection = detail::makeGroupNode();
-    nbNodeUtils::setIsAuxiliaryNode(multiselection.get(), true);
-}
-
 // == Nodes
 
 void UniversalTransformManipulator2::setNode(const osg::NodePtr& node)

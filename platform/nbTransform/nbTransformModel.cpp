@@ -112,12 +112,15 @@ private:
     }
 };
 
-Transform3DPtr transformOf(const osg::NodePtr& node)
+Transform3DPtr convertedCore(const osg::NodePtr& node)
+{
+    return Transform3DPtr::dcast(nbNodeUtils::convertToTransform3DNode(node)->getCore());
+}
+
+inline Transform3DPtr transformOf(const osg::NodePtr& node)
 {
     const auto core = Transform3DPtr::dcast(node->getCore());
-    return core != osg::NullFC
-        ? core
-        : Transform3DPtr::dcast(nbNodeUtils::convertToTransform3DNode(node)->getCore());
+    return core != osg::NullFC ? core : convertedCore(node);
 }
 
 /// Hands each target with a value to edit(subject, value, faults), which answers whether it took
