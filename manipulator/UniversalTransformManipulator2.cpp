@@ -37,11 +37,12 @@ std::atomic<osg::UInt32> seen { 0 };
 constexpr std::size_t kReadAhead = 16;
 /// Elements of two to-world matrices that differ by no more are the same placement.
 constexpr float kPlacementTolerance = 1e-6F;
+constexpr std::size_t kElements = 16;
 
 /// Equal bits, which is the usual case and quick to see, or equal within the tolerance.
 bool isSamePlacement(const osg::Matrix& left, const osg::Matrix& right)
 {
-    return std::memcmp(left.getValues(), right.getValues(), sizeof(osg::Real32) * 16) == 0 ||
+    return std::memcmp(left.getValues(), right.getValues(), sizeof(osg::Real32) * kElements) == 0 ||
         left.equals(right, kPlacementTolerance);
 }
 

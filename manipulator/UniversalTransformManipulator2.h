@@ -128,8 +128,8 @@ public:
     /// about its own pivots. Further nodes that are null, given twice, or above or below another of
     /// the nodes are left out: they would be moved twice.
     void setNode(const osg::NodePtr& node, const std::vector<osg::NodePtr>& nodes);
-    /// Sets both pivots of the node to the centre of its volume; the object stays where it is.
-    /// @return false without a node that can be made a transform
+    /// Sets both pivots to the centre of the node's volume; the object stays. @return false without
+    /// a node that can be made a transform
     bool centerPivot();
 
     // Each shows the elements of its mode in their idle colours and re-places the gizmo.
@@ -232,7 +232,6 @@ private:
     bool grabbing = false;
     bool snappingEnabled = false;
     bool descriptionEnabled = true;
-
     osg::RefPtr<osg::NodePtr> root;
     osg::Transform3DPtr placement;  ///< core of the handle tree, which never gets another
     osg::RefPtr<osg::NodePtr> multiselection;
