@@ -96,13 +96,11 @@ void CameraManipulator::createMaterials()
                                        osg::SimpleMaterial::SpecularFieldMask);
         normalMaterial->setSpecular(osg::Color3f(0.5F, 0.5F, 0.5F));
     }
-    highlightMaterial = detail::makeHandleMaterial(
-        osg::Color3f(kHighlightGrey, kHighlightGrey, kHighlightGrey), kHighlightSortKey, nullptr);
-    const detail::EditBracket edit(highlightMaterial.get(),
-                                   osg::SimpleMaterial::SpecularFieldMask |
-                                       osg::SimpleMaterial::TransparencyFieldMask);
+    highlightMaterial =
+        detail::makeHandleMaterial(osg::Color3f(kHighlightGrey, kHighlightGrey, kHighlightGrey),
+                                   kHighlightSortKey, nullptr, kHighlightTransparency);
+    const detail::EditBracket edit(highlightMaterial.get(), osg::SimpleMaterial::SpecularFieldMask);
     highlightMaterial->setSpecular(osg::Color3f(1.0F, 1.0F, 1.0F));
-    highlightMaterial->setTransparency(kHighlightTransparency);
 }
 
 osg::NodePtr CameraManipulator::createManipulatorGeo()

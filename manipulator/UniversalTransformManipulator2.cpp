@@ -17,8 +17,6 @@
 #include <nbOpenSGExt/Transform3D.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
-#include <OpenSG/OSGSimpleAttachments.h>
-
 #include <algorithm>
 #include <atomic>
 #include <cstring>
@@ -284,15 +282,14 @@ UniversalTransformManipulator2::detectMode(ManipulatorInteractionContext* ctx) c
     if (getNode() == osg::NullFC) {
         return ActiveMode::None;
     }
-    const osg::NodePtr hit = detail::pickHandle(ctx);
-    return hit != osg::NullFC ? TransformHandles::find(osg::getName(hit)) : ActiveMode::None;
+    return TransformHandles::find(detail::pickHandle(ctx));
 }
 
 // == Placement
 
 void UniversalTransformManipulator2::updateManipulator()
 {
-    updateManipulator(detail::ScreenScale(m_ManipulatorSize));
+    updateManipulator(detail::ScreenScale(m_ManipulatorSize, detail::ViewDiagonal::FrustumSides));
 }
 
 void UniversalTransformManipulator2::updateManipulator(const detail::ScreenScale& scale)
@@ -384,7 +381,7 @@ void UniversalTransformManipulator2::setLocalSpaceManipulator(bool local)
 
 void UniversalTransformManipulator2::updateAllManipulators()
 {
-    const detail::ScreenScale scale(m_ManipulatorSize);
+    const detail::ScreenScale scale(m_ManipulatorSize, detail::ViewDiagonal::FrustumSides);
     std::size_t next = 0;
     detail::forEachInstance(_allManipulators,
                             [&scale, &next](UniversalTransformManipulator2& manipulator) {

@@ -140,11 +140,7 @@ osg::NodePtr UniversalTransformManipulator2::makeTransform(const osg::NodePtr& n
         // Where the pivots of a new transform are is part of the conversion, which is no undo step
         // by itself: a drag that ends where it began leaves none.
         const nbScopedUndo unrecorded(false);
-        const osg::Pnt3f center = calculateObjectCenter(transform, false);
-        nbNodeUtils::setTransformNodeRotatePivot(transform, center.x(), center.y(), center.z(),
-                                                 true, -1);
-        nbNodeUtils::setTransformNodeScalePivot(transform, center.x(), center.y(), center.z(), true,
-                                                -1);
+        detail::setBothPivots(transform, calculateObjectCenter(transform, false));
     }
     return transform;
 }

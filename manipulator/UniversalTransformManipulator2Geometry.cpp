@@ -4,11 +4,11 @@
 #include "manipulator/detail/HandleGroup.h"
 #include "manipulator/detail/HandleMaterials.h"
 #include "manipulator/detail/HandleNodes.h"
+#include "manipulator/detail/HandlePick.h"
+#include "manipulator/detail/HandleShapes.h"
 #include "manipulator/detail/NodeVisibility.h"
 
 #include <nbOpenSGUtils/nbNodeUtils.h>
-
-#include <string_view>
 
 namespace nbec::manipulator {
 
@@ -25,7 +25,6 @@ constexpr int kLineSortKey = 64015;
 // materials.
 constexpr int kHighlightLineSortKey = 64016;
 
-constexpr float kHalfSqrt2 = 0.7071068F;
 constexpr float kRightAngleDeg = 90.0F;
 constexpr float kConeLift = 1.0F;
 constexpr std::size_t kUniform = 3;
@@ -68,17 +67,12 @@ constexpr HandleColor kRed = HandleColor::Red;
 constexpr HandleColor kGreen = HandleColor::Green;
 constexpr HandleColor kBlue = HandleColor::Blue;
 
-/// The turn that takes +y onto an axis: -90 degrees about z for x, none for y, +90 degrees about x
-/// for z.
+/// The turn that takes +y onto an axis.
 osg::Quaternion turnOntoAxis(std::size_t axis)
 {
-    osg::Quaternion turn;
-    if (axis == 0) {
-        turn.setValueAsQuat(0.0F, 0.0F, -kHalfSqrt2, kHalfSqrt2);
-    } else if (axis == 2) {
-        turn.setValueAsQuat(kHalfSqrt2, 0.0F, 0.0F, kHalfSqrt2);
-    }
-    return turn;
+    constexpr std::array<detail::Turn, 3> kTurns = { detail::Turn::OntoX, detail::Turn::None,
+                                                     detail::Turn::OntoZ };
+    return detail::quaternionOf(kTurns[axis]);
 }
 
 /// The same turn as Euler angles in degrees.
@@ -96,13 +90,9 @@ osg::Vec3f unitAxis(std::size_t axis)
 /// onto z for yz.
 osg::Quaternion turnOntoPlane(std::size_t plane)
 {
-    osg::Quaternion turn;
-    if (plane == 1) {
-        turn.setValueAsQuat(kHalfSqrt2, 0.0F, 0.0F, kHalfSqrt2);
-    } else if (plane == 2) {
-        turn.setValueAsQuat(0.0F, -kHalfSqrt2, 0.0F, kHalfSqrt2);
-    }
-    return turn;
+    constexpr std::array<detail::Turn, 3> kTurns = { detail::Turn::None, detail::Turn::OntoZ,
+                                                     detail::Turn::AboutY };
+    return detail::quaternionOf(kTurns[plane]);
 }
 
 /// Hangs a shape below a node. @return the shape's node
@@ -334,16 +324,10 @@ void TransformHandles::highlight(Active handle)
     highlighted = handle;
 }
 
-TransformHandles::Active TransformHandles::find(const char* name)
+TransformHandles::Active TransformHandles::find(const osg::NodePtr& node)
 {
-    if (name != nullptr) {
-        for (const Row& row : kRows) {
-            if (row.name != nullptr && std::string_view(name) == row.name) {
-                return row.active;
-            }
-        }
-    }
-    return Active::None;
+    const Row* const row = detail::findHandleRow(kRows, node);
+    return row != nullptr ? row->active : Active::None;
 }
 
 }  // namespace nbec::manipulator

@@ -78,8 +78,8 @@ public:
 
     Active getHighlighted() const { return highlighted; }
 
-    /// The handle whose nodes have a name; None for null and others.
-    static Active find(const char* name);
+    /// The handle that a node belongs to, by its name; None for null and others.
+    static Active find(const osg::NodePtr& node);
 
 private:
     static constexpr std::size_t kHandleCount = 15;

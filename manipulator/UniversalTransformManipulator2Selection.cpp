@@ -141,9 +141,7 @@ bool UniversalTransformManipulator2::centerPivot()
     if (node == osg::NullFC) {
         return false;
     }
-    const osg::Pnt3f center = calculateObjectCenter(node, false);
-    nbNodeUtils::setTransformNodeRotatePivot(node, center.x(), center.y(), center.z(), true, -1);
-    nbNodeUtils::setTransformNodeScalePivot(node, center.x(), center.y(), center.z(), true, -1);
+    detail::setBothPivots(node, calculateObjectCenter(node, false));
     updateManipulator();
     detail::sendTransformationChanged();
     return true;

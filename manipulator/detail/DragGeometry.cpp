@@ -108,13 +108,22 @@ bool intersectPlane(const osg::Plane& plane, const osg::Line& ray, osg::Pnt3f& p
 
 osg::Vec3f viewDirection(const osg::Pnt3f& point)
 {
+    const nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1);
+    if (widget != nullptr && widget->getUberCamera()->isOrthographic()) {
+        return cameraDirection();
+    }
+    osg::Vec3f direction = point - nbOSGWidget::getFrom(-1);
+    direction.normalize();
+    return direction;
+}
+
+osg::Vec3f cameraDirection()
+{
     osg::Pnt3f from;
     osg::Pnt3f at;
     osg::Vec3f up;
     nbOSGWidget::getFromAtUp(-1, from, at, up);
-    const nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1);
-    const bool isOrthographic = widget != nullptr && widget->getUberCamera()->isOrthographic();
-    osg::Vec3f direction = isOrthographic ? at - from : point - from;
+    osg::Vec3f direction = at - from;
     direction.normalize();
     return direction;
 }

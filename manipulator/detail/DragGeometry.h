@@ -38,6 +38,9 @@ bool intersectPlane(const osg::Plane& plane, const osg::Line& ray, osg::Pnt3f& p
 /// view axis of an orthographic camera.
 osg::Vec3f viewDirection(const osg::Pnt3f& point);
 
+/// Direction in which the main camera looks: from the eye to the point looked at, unit length.
+osg::Vec3f cameraDirection();
+
 /// Normal of the plane that contains an axis and faces the viewer as well as it can:
 /// axis x (view x axis), unit length; zero where the axis points at the viewer.
 /// @param axis  unit length  @param view  direction of sight, unit length

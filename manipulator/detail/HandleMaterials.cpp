@@ -12,25 +12,12 @@ namespace {
 
 constexpr float kLineWidth = 2.0F;
 
-/// Takes over the reference with which the material functions return.
-osg::SimpleMaterialRefPtr adopt(osg::SimpleMaterialPtr material)
-{
-    osg::SimpleMaterialRefPtr held(material);
-    osg::subRefCP(material);
-    return held;
-}
-
 }  // namespace
 
 LineChunks makeLineChunks()
 {
     LineChunks chunks;
-    chunks.line = osg::LineChunk::create();
-    {
-        const EditBracket edit(chunks.line.get(), osg::FieldBits::AllFields);
-        chunks.line->setWidth(kLineWidth);
-        chunks.line->setSmooth(true);
-    }
+    chunks.line = makeLineChunk(kLineWidth);
     chunks.blend = osg::BlendChunk::create();
     {
         const EditBracket edit(chunks.blend.get(), osg::FieldBits::AllFields);
@@ -39,6 +26,15 @@ LineChunks makeLineChunks()
     }
     chunks.depth = makeAlwaysDepthChunk();
     return chunks;
+}
+
+osg::LineChunkPtr makeLineChunk(float widthPx)
+{
+    const osg::LineChunkPtr chunk = osg::LineChunk::create();
+    const EditBracket edit(chunk, osg::FieldBits::AllFields);
+    chunk->setWidth(widthPx);
+    chunk->setSmooth(true);
+    return chunk;
 }
 
 osg::DepthTestChunkPtr makeAlwaysDepthChunk()
@@ -50,7 +46,7 @@ osg::DepthTestChunkPtr makeAlwaysDepthChunk()
 }
 
 osg::SimpleMaterialRefPtr makeHandleMaterial(const osg::Color3f& diffuse, int sortKey,
-                                             const LineChunks* chunks)
+                                             const LineChunks* chunks, float transparency)
 {
     const osg::Color4f color(diffuse.red(), diffuse.green(), diffuse.blue(), 1.0F);
     osg::SimpleMaterialRefPtr material =
@@ -60,6 +56,10 @@ osg::SimpleMaterialRefPtr makeHandleMaterial(const osg::Color3f& diffuse, int so
         material->addChunk(chunks->line.get());
         material->addChunk(chunks->blend.get());
         material->addChunk(chunks->depth.get());
+    }
+    if (transparency != 0.0F) {
+        const EditBracket edit(material.get(), osg::SimpleMaterial::TransparencyFieldMask);
+        material->setTransparency(transparency);
     }
     return material;
 }

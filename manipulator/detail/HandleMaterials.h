@@ -12,6 +12,15 @@
 
 namespace nbec::manipulator::detail {
 
+/// Takes over the reference with which the functions of nbManipulatorMaterials return.
+template <class MaterialPointer>
+osg::RefPtr<MaterialPointer> adopt(MaterialPointer material)
+{
+    osg::RefPtr<MaterialPointer> held(material);
+    osg::subRefCP(material);
+    return held;
+}
+
 /// The three state chunks that the line materials of one gizmo share.
 struct LineChunks
 {
@@ -22,13 +31,18 @@ struct LineChunks
 
 LineChunks makeLineChunks();
 
+/// A chunk of smooth lines, count 0. @param widthPx  logical pixels
+osg::LineChunkPtr makeLineChunk(float widthPx);
+
 /// A depth-test chunk with function GL_ALWAYS, count 0.
 osg::DepthTestChunkPtr makeAlwaysDepthChunk();
 
 /// Unlit handle material: black but for its diffuse colour, shininess 10.
-/// @param chunks  the line chunks to add, null for a solid material
+/// @param chunks        the line chunks to add, null for a solid material
+/// @param transparency  0 opaque, 1 invisible; a tiny one has the handle drawn among the blended
+///                      items, in the order of their sort keys, and still looks opaque
 osg::SimpleMaterialRefPtr makeHandleMaterial(const osg::Color3f& diffuse, int sortKey,
-                                             const LineChunks* chunks);
+                                             const LineChunks* chunks, float transparency = 0.0F);
 
 /// Unlit material of a handle pass: the depth-test chunk and the sort key are all that matters of
 /// it.

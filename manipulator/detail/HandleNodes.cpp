@@ -1,130 +1,28 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/detail/HandleNodes.h"
 
-#include "manipulator/detail/ContainerReference.h"
 #include "manipulator/detail/EditBracket.h"
 
 #include <nbOpenSGExt/Transform3D.h>
-#include <nbOpenSGUtils/nbGeoFactory.h>
 
 #include <OpenSG/OSGComponentTransform.h>
+#include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGGroup.h>
-#include <OpenSG/OSGSimpleGeometry.h>
-
-#include <array>
-#include <cstddef>
 
 namespace nbec::manipulator::detail {
 
 namespace {
 
-constexpr float kArrowLength = 2.0F;
-constexpr float kConeHeight = 0.4F;
-constexpr float kConeRadius = 0.1F;
-constexpr osg::UInt16 kConeSides = 24;
-constexpr float kScaleShaftLength = 1.5F;
-constexpr float kCubeSize = 0.175F;
-constexpr float kRingRadius = 1.5F;
-constexpr osg::UInt16 kRingSegments = 36;
-constexpr float kRingAxisLength = 20.0F;
-constexpr float kPlaneSize = 0.4F;
-constexpr float kPlaneBarRadius = 0.02F;
-constexpr osg::UInt16 kPlaneBarSides = 8;
-constexpr float kSphereRadius = 0.125F;
-constexpr std::size_t kShapeCount = static_cast<std::size_t>(HandleShape::CentreSphere) + 1;
-
-osg::Matrix translation(float x, float y)
+/// Exactly equal numbers; the operators of vectors allow for a tolerance, which small scenes feel.
+template <class Values>
+bool isSame(const Values& left, const Values& right, osg::UInt32 count)
 {
-    osg::Matrix matrix;
-    matrix.setTranslate(x, y, 0.0F);
-    return matrix;
-}
-
-/// Where a shape lies in its handle's frame; the identity for most.
-osg::Matrix placeOf(HandleShape shape)
-{
-    switch (shape) {
-    case HandleShape::ScaleShaft:
-        return translation(0.0F, kScaleShaftLength / 2);
-    case HandleShape::ScaleCube:
-        return translation(0.0F, kScaleShaftLength);
-    case HandleShape::PlanePatch:
-        return translation(kPlaneSize / 2, kPlaneSize / 2);
-    case HandleShape::PlaneBarX: {
-        osg::Matrix place = translation(kPlaneSize / 2, kPlaneSize);
-        place.setRotate(
-            osg::Quaternion(osg::Vec3f(0.0F, 1.0F, 0.0F), osg::Vec3f(1.0F, 0.0F, 0.0F)));
-        return place;
+    for (osg::UInt32 i = 0; i < count; ++i) {
+        if (left[i] != right[i]) {
+            return false;
+        }
     }
-    case HandleShape::PlaneBarY:
-        return translation(kPlaneSize, kPlaneSize / 2);
-    default:
-        return osg::Matrix();
-    }
-}
-
-osg::NodePtr buildShape(HandleShape shape)
-{
-    switch (shape) {
-    case HandleShape::ArrowShaft:
-        return nbGeoFactory::makeLine(kArrowLength);
-    case HandleShape::ArrowHead:
-        return osg::makeCone(kConeHeight, kConeRadius, kConeSides, true, true);
-    case HandleShape::ScaleShaft:
-        return nbGeoFactory::makeLine(kScaleShaftLength);
-    case HandleShape::ScaleCube:
-    case HandleShape::Cube:
-        return osg::makeBox(kCubeSize, kCubeSize, kCubeSize, 1, 1, 1);
-    case HandleShape::Ring:
-        return nbGeoFactory::makeLineTorus(kRingRadius, kRingSegments, false);
-    case HandleShape::RingAxis:
-        return nbGeoFactory::makeLine(kRingAxisLength);
-    case HandleShape::PlanePatch:
-        return osg::makePlane(kPlaneSize, kPlaneSize, 1, 1);
-    case HandleShape::PlaneBarX:
-    case HandleShape::PlaneBarY:
-        return osg::makeCylinder(kPlaneSize, kPlaneBarRadius, kPlaneBarSides, true, true, true);
-    case HandleShape::CentreSphere:
-        return osg::makeSphere(2, kSphereRadius);
-    }
-    return osg::NodePtr();
-}
-
-/// Moves a geometry's points and turns its normals, so that its handle needs no node for the place.
-void moveGeometry(const osg::GeometryPtr& geometry, const osg::Matrix& place)
-{
-    const EditBracket edit(geometry, osg::FieldBits::AllFields);
-    const osg::GeoPositionsPtr positions = geometry->getPositions();
-    for (osg::UInt32 i = 0; i < positions->getSize(); ++i) {
-        osg::Pnt3f point = positions->getValue(i);
-        place.multMatrixPnt(point);
-        positions->setValue(point, i);
-    }
-    const osg::GeoNormalsPtr normals = geometry->getNormals();
-    for (osg::UInt32 i = 0; normals != osg::NullFC && i < normals->getSize(); ++i) {
-        osg::Vec3f normal = normals->getValue(i);
-        place.multMatrixVec(normal);
-        normals->setValue(normal, i);
-    }
-}
-
-/// The one geometry of a shape from which all others take their properties. It is held for the rest
-/// of the process and found by its id, so that a scene graph that is shut down and started again
-/// builds it anew.
-osg::GeometryPtr prototypeOf(HandleShape shape)
-{
-    static std::array<osg::UInt32, kShapeCount> prototypeIds {};
-    osg::UInt32& id = prototypeIds[static_cast<std::size_t>(shape)];
-    osg::GeometryPtr prototype = resolveContainer<osg::GeometryPtr>(id);
-    if (prototype == osg::NullFC) {
-        osg::NodePtr node = buildShape(shape);
-        prototype = osg::GeometryPtr::dcast(node->getCore());
-        osg::addRefCP(prototype);
-        moveGeometry(prototype, placeOf(shape));
-        osg::subRefCP(node);
-        id = containerId(prototype);
-    }
-    return prototype;
+    return true;
 }
 
 }  // namespace
@@ -165,6 +63,34 @@ osg::NodePtr makeTransform3DNode(const osg::Vec3f& eulerDeg)
     return makeNode(core);
 }
 
+void placeTransform(const osg::Transform3DPtr& transform, const osg::Vec3f& translation,
+                    const osg::Quaternion& rotation, const osg::Vec3f& scale)
+{
+    if (transform->getRotationMode() == osg::Transform3D::QuaternionMode &&
+        isSame(transform->getTranslation(), translation, 3) &&
+        isSame(transform->getScale(), scale, 3) &&
+        isSame(transform->getRotationQuaternion(), rotation, 4)) {
+        return;
+    }
+    const EditBracket edit(transform,
+                           osg::Transform3D::TranslationFieldMask |
+                               osg::Transform3D::RotationFieldMask |
+                               osg::Transform3D::ScaleFieldMask);
+    transform->setTranslation(translation);
+    transform->setScale(scale);
+    transform->setRotation(rotation);
+}
+
+void moveNode(const osg::NodePtr& node, const osg::Vec3f& translation)
+{
+    const osg::ComponentTransformPtr core = osg::ComponentTransformPtr::dcast(node->getCore());
+    if (core == osg::NullFC || isSame(core->getTranslation(), translation, 3)) {
+        return;
+    }
+    const EditBracket edit(core, osg::ComponentTransform::TranslationFieldMask);
+    core->setTranslation(translation);
+}
+
 osg::NodePtr addChild(const osg::NodePtr& parent, const osg::NodePtr& child)
 {
     const EditBracket edit(parent, osg::Node::ChildrenFieldMask);
@@ -182,9 +108,8 @@ void setGeometryMaterial(const osg::NodePtr& node, const osg::MaterialPtr& mater
     geometry->setMaterial(material);
 }
 
-osg::NodePtr makeShapeNode(HandleShape shape)
+osg::NodePtr makeSharingNode(const osg::GeometryPtr& prototype)
 {
-    const osg::GeometryPtr prototype = prototypeOf(shape);
     const osg::GeometryPtr geometry = osg::Geometry::create();
     {
         const EditBracket edit(geometry, osg::FieldBits::AllFields);

@@ -23,4 +23,9 @@ void sendTransformationChanged()
     nbController::setModified(1);
 }
 
+void sendToReceiver(const std::string& receiver, const char* suffix, nbMessage& message)
+{
+    nbController::call((receiver + suffix).c_str(), message, 0);
+}
+
 }  // namespace nbec::manipulator::detail

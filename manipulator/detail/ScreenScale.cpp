@@ -22,6 +22,16 @@ double perspectiveDivisor(float fovDeg, float size)
     return sizeFactor * kReference / static_cast<double>(fovDeg);
 }
 
+float diagonalOf(const osg::UberCameraPtr& camera, ViewDiagonal diagonal)
+{
+    if (diagonal == ViewDiagonal::NearPlane) {
+        return camera->getNearPlaneDiagonal();
+    }
+    const float width = camera->getRight() - camera->getLeft();
+    const float height = camera->getBottom() - camera->getTop();
+    return std::sqrt(width * width + height * height);
+}
+
 }  // namespace
 
 float perspectiveScale(double distance, float fovDeg, float size)
@@ -34,7 +44,7 @@ float orthographicScale(float diagonal)
     return diagonal / kViewsPerDiagonal;
 }
 
-ScreenScale::ScreenScale(float size)
+ScreenScale::ScreenScale(float size, ViewDiagonal diagonal)
     : eye(nbOSGWidget::getFrom(-1))
     , divisor(perspectiveDivisor(nbOSGWidget::getFov(-1), size))
 {
@@ -43,9 +53,7 @@ ScreenScale::ScreenScale(float size)
         widget != nullptr ? widget->getUberCamera() : osg::UberCameraPtr();
     isOrthographic = camera != osg::NullFC && nbUberCameraUtils::isOrthographicCamera(camera);
     if (isOrthographic) {
-        const float width = camera->getRight() - camera->getLeft();
-        const float height = camera->getBottom() - camera->getTop();
-        factor = orthographicScale(std::sqrt(width * width + height * height));
+        factor = orthographicScale(diagonalOf(camera, diagonal));
     }
 }
 

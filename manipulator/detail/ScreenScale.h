@@ -22,13 +22,20 @@ float perspectiveScale(double distance, float fovDeg, float size);
 /// @param diagonal  diagonal of the camera's view, world units
 float orthographicScale(float diagonal);
 
+/// What an orthographic camera's view is measured by.
+enum class ViewDiagonal
+{
+    NearPlane,  ///< the camera's own near-plane diagonal
+    FrustumSides  ///< the diagonal that the sides of its frustum make
+};
+
 /// Scales of gizmos at any places under the main widget's camera as it is now. Made once for all
 /// gizmos that are placed together; not to be kept.
 class ScreenScale
 {
 public:
     /// @param size  class-wide size setting, see perspectiveScale()
-    explicit ScreenScale(float size);
+    ScreenScale(float size, ViewDiagonal diagonal);
 
     /// @param anchor  of a gizmo, world @return as perspectiveScale() or orthographicScale()
     float at(const osg::Pnt3f& anchor) const

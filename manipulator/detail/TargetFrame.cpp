@@ -4,6 +4,7 @@
 #include "manipulator/detail/DragGeometry.h"
 
 #include <nbOpenSGExt/ClipPlane3D.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <OpenSG/OSGDynamicVolume.h>
 
@@ -82,6 +83,20 @@ osg::Pnt3f objectCenter(const osg::NodePtr& node, bool worldSpace)
         nodeFromWorld.multMatrixPnt(center);
     }
     return center;
+}
+
+bool hasPivots(const osg::NodePtr& node)
+{
+    const osg::Transform3DPtr transform = osg::Transform3DPtr::dcast(node->getCore());
+    const osg::Vec3f none;
+    return transform != osg::NullFC &&
+        (transform->getRotatePivot() != none || transform->getScalePivot() != none);
+}
+
+void setBothPivots(const osg::NodePtr& node, const osg::Pnt3f& point)
+{
+    nbNodeUtils::setTransformNodeRotatePivot(node, point.x(), point.y(), point.z(), true, -1);
+    nbNodeUtils::setTransformNodeScalePivot(node, point.x(), point.y(), point.z(), true, -1);
 }
 
 }  // namespace nbec::manipulator::detail

@@ -74,4 +74,11 @@ osg::Quaternion pivotAxesInWorld(const osg::NodePtr& node, const osg::Transform3
 /// @param worldSpace  in the world; otherwise in the node's own frame, in which pivots are given
 osg::Pnt3f objectCenter(const osg::NodePtr& node, bool worldSpace);
 
+/// Whether a node's core is a Transform3D with one of its pivots set away from the origin.
+bool hasPivots(const osg::NodePtr& node);
+
+/// Sets both pivots of a node's Transform3D to a point of its own frame; the object stays where it
+/// is. Nothing for another core.
+void setBothPivots(const osg::NodePtr& node, const osg::Pnt3f& point);
+
 }  // namespace nbec::manipulator::detail

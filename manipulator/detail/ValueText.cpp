@@ -30,8 +30,8 @@ constexpr int kDecimals = 2;
 constexpr double kHundredths = 100.0;
 /// Hundredths of values below are exact in a double, with a half added too.
 constexpr double kQuickLimit = 1e13;
-/// Room for three values: the greatest float has 39 digits before the point.
-constexpr std::size_t kLongestValues = 160;
+/// Room for a value: the greatest float has 39 digits before the point.
+constexpr std::size_t kLongestValue = 48;
 
 osg::Color3f grey(float value)
 {
@@ -116,18 +116,23 @@ void ValueText::show(const QString& text)
 
 QString describeValues(const char* title, const osg::Vec3f& values)
 {
+    return describeValues(title, { values.x(), values.y(), values.z() });
+}
+
+QString describeValues(const char* title, std::initializer_list<float> values)
+{
     QString text = QCoreApplication::translate("nbForegroundTextContext", title);
-    char digits[kLongestValues];
-    char* end = digits;
-    for (osg::UInt32 i = 0; i < 3; ++i) {
-        if (i > 0) {
-            *end++ = ',';
-            *end++ = ' ';
+    bool isFirst = true;
+    char digits[kLongestValue];
+    for (const float value : values) {
+        if (!isFirst) {
+            text += QLatin1String(", ");
         }
-        end = writeValue(end, static_cast<double>(values[i]));
+        isFirst = false;
+        const char* const end = writeValue(digits, static_cast<double>(value));
+        text += QLatin1String(digits, static_cast<int>(end - digits));
     }
-    *end++ = ')';
-    text += QLatin1String(digits, static_cast<int>(end - digits));
+    text += QLatin1Char(')');
     return text;
 }
 

@@ -3,6 +3,7 @@
 
 #include <OpenSG/OSGVector.h>
 
+#include <initializer_list>
 #include <string>
 
 class QString;
@@ -35,5 +36,8 @@ private:
 /// "title x, y, z)" with two decimals each and ".", whatever the locale.
 /// @param title  untranslated text of the context "nbForegroundTextContext", such as "Scale ("
 QString describeValues(const char* title, const osg::Vec3f& values);
+
+/// The same with any number of values.
+QString describeValues(const char* title, std::initializer_list<float> values);
 
 }  // namespace nbec::manipulator::detail

@@ -32,9 +32,22 @@ void NodeCore::invalidateVolume()
 
 void NodeCore::noteEdit()
 {
+    if (ownerCount > 0) {
+        Inherited::noteEdit();
+    }
     for (const NodePtr& node : mfParents) {
         node->noteSubtreeChange();
     }
+}
+
+void NodeCore::ownerAdded(FieldContainer&)
+{
+    ++ownerCount;
+}
+
+void NodeCore::ownerRemoved(FieldContainer&)
+{
+    --ownerCount;
 }
 
 void NodeCore::addParent(const NodePtr& parent)

@@ -10,6 +10,7 @@
 
 #include "detail/HandlePicking.h"
 #include "detail/PickTreeCache.h"
+#include "detail/PlatePicking.h"
 #include "detail/ScenePicking.h"
 #include "detail/WidgetView.h"
 
@@ -21,6 +22,14 @@ osg::NodePtr nodeOf(osg::UInt32 id)
 {
     return id == 0 ? osg::NodePtr()
                    : osg::NodePtr::dcast(osg::FieldContainerFactory::the()->getContainer(id));
+}
+
+/// Size of the main widget's view, without area if there is none. Plates need no camera.
+detail::PlateView viewSize()
+{
+    const nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1);
+    return widget == nullptr ? detail::PlateView()
+                             : detail::PlateView { widget->getWidth(), widget->getHeight() };
 }
 
 }  // namespace
@@ -92,6 +101,11 @@ osg::NodePtr Picker::pick()
 osg::NodePtr Picker::pickAt(const osg::Pnt2f& px)
 {
     forgetHit();
+    if (filter == SceneplateFilter) {
+        const osg::NodePtr node = detail::pickPlate(nbScenegraph::getWorldRoot(), viewSize(), px);
+        rememberHit(node, osg::Pnt3f(), osg::Vec3f());
+        return node;
+    }
     const detail::PickView* view = widgetView->current();
     detail::ScreenPoint centre;
     if (view == nullptr || !view->pixelCentre(px, centre)) {
@@ -117,9 +131,8 @@ osg::NodePtr Picker::pickAt(const osg::Pnt2f& px)
 
 std::vector<osg::NodePtr> Picker::pickRectangle(const QRect& rect)
 {
-    const detail::PickView* view = widgetView->current();
     const QRect normalised = rect.normalized();
-    if (normalised.isEmpty() || view == nullptr) {
+    if (normalised.isEmpty()) {
         return {};
     }
     detail::ScreenBox box;
@@ -128,7 +141,12 @@ std::vector<osg::NodePtr> Picker::pickRectangle(const QRect& rect)
     // Pixel n covers n .. n + 1.
     box.maxX = static_cast<float>(normalised.right()) + 1.0f;
     box.maxY = static_cast<float>(normalised.bottom()) + 1.0f;
-    return scenePicking->pickInside(nbScenegraph::getWorldRoot(), *view, box);
+    if (filter == SceneplateFilter) {
+        return detail::pickPlatesInside(nbScenegraph::getWorldRoot(), viewSize(), box);
+    }
+    const detail::PickView* view = widgetView->current();
+    return view == nullptr ? std::vector<osg::NodePtr>()
+                           : scenePicking->pickInside(nbScenegraph::getWorldRoot(), *view, box);
 }
 
 void Picker::rememberHit(const osg::NodePtr& node, const osg::Pnt3f& point,

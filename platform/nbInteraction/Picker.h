@@ -19,19 +19,24 @@ class ScenePicking;
 class WidgetView;
 }  // namespace detail
 
-/// Finds what lies under a pixel of the main render widget: scene geometry or manipulator handles.
+/// Finds what lies under a pixel of the main render widget: scene geometry, manipulator handles or
+/// scene plates.
 ///
 /// The filter says which. Flags of a node hold for its whole subtree, inactive subtrees (travMask
 /// 0) are never hit.
 /// - SceneFilter: the nearest triangle of the scene below the world root, back faces too. Auxiliary
-/// subtrees are
-///   ignored, lines and points are never hit, the pick node plays no role.
+/// subtrees are ignored, lines and points are never hit, the pick node plays no role.
 /// - HandleFilter: active, named geometry below the pick node, whatever lies in front of it;
 /// without a pick node, below
 ///   every node marked manipulator or selectable auxiliary. Triangles, lines and points are hit
 ///   within a tolerance on screen. The least distance beyond the drawn half width wins, then the
 ///   least depth; ties (0.5 device pixels, 1e-4 of the depth) go to the handle first in the tree.
 ///   Unnamed geometry is never hit.
+/// - SceneplateFilter: the foremost scene plate below the world root, those in front of the scene
+///   before those behind it, whatever the scene hides. Exact to the pixel: a plate is hit where the
+///   pixel's centre lies on it, turned or not, and its picture or colour has an alpha of at least
+///   kPlateAlphaThreshold, so that one clicks through the holes of a logo; its opacity does not
+///   count. There is no tolerance, no need of a camera, and the hit has no point and no normal.
 ///
 /// The picker owns nothing of the scene: nodes are kept by container id, so one that was destroyed
 /// reads as null. What it derives from the scene follows the containers' change counters, so edits
@@ -42,8 +47,12 @@ public:
     enum Filter : int
     {
         SceneFilter = 0,
-        HandleFilter = 5
+        HandleFilter = 5,
+        SceneplateFilter = 6
     };
+
+    /// Least alpha of a plate's picture at which it is hit: 0.1, about what can be seen.
+    static constexpr float kPlateAlphaThreshold = 0.1f;
 
     /// Distance in logical pixels within which handles are hit unless setTolerance says otherwise.
     static constexpr float kDefaultTolerance = 4.0f;
@@ -94,8 +103,12 @@ public:
     /// every position of the geometry is projected inside it and in front of the near plane.
     /// Occluded nodes count. Auxiliary and inactive subtrees, filter and pick node as in
     /// SceneFilter; lines and points count. Not remembered as hit.
+    ///
+    /// With the SceneplateFilter: the shown scene plates instead, each if all of it that is in view
+    /// lies inside, in the order of drawing. So a rectangle drawn over a large plate in the
+    /// background does not take that along.
     /// @param rect  device pixels, y from the top; right and bottom inclusive as in Qt; need not be
-    /// normalised
+    /// normalised: one drawn up or to the left counts the same
     /// @return nodes in tree order; empty for a rectangle without area
     std::vector<osg::NodePtr> pickRectangle(const QRect& rect);
 

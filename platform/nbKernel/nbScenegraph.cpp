@@ -14,6 +14,7 @@ struct Roots
     osg::NodePtr world;
     osg::NodePtr scene;
     osg::NodePtr internal;
+    osg::NodePtr sceneplates;
     bool preselectionEnabled = true;
 };
 
@@ -30,13 +31,17 @@ void makeRoots()
     osg::addRefCP(all.world);
     all.scene = osg::makeCoredNode<osg::Group>();
     all.internal = osg::makeCoredNode<osg::Group>();
+    all.sceneplates = osg::makeCoredNode<osg::Group>();
     nbNodeUtils::setName(all.world, "WorldRoot");
     nbNodeUtils::setName(all.scene, "RootNode");
     nbNodeUtils::setName(all.internal, "InternalRoot");
+    nbNodeUtils::setName(all.sceneplates, "SceneplateRoot");
     nbNodeUtils::setIsAuxiliaryNode(all.internal, true);
+    nbNodeUtils::setIsAuxiliaryNode(all.sceneplates, true);
     const nbEdit edit(all.world, osg::Node::ChildrenFieldMask);
     all.world->addChild(all.scene);
     all.world->addChild(all.internal);
+    all.world->addChild(all.sceneplates);
 }
 
 }  // namespace
@@ -60,6 +65,12 @@ osg::NodePtr nbScenegraph::getInternalRoot()
 {
     getWorldRoot();
     return roots().internal;
+}
+
+osg::NodePtr nbScenegraph::getSceneplateRoot()
+{
+    getWorldRoot();
+    return roots().sceneplates;
 }
 
 bool nbScenegraph::isPreselectionEnabled()

@@ -6,9 +6,9 @@
 #include <OpenSG/OSGConfig.h>
 #include <OpenSG/OSGNode.h>
 
-/// The scene's fixed nodes: the world root, which is drawn, with two children: the scene root,
-/// below which the person's nodes hang, and the internal root for helpers such as gizmos, marked
-/// auxiliary.
+/// The scene's fixed nodes: the world root, which is drawn, with three children: the scene root,
+/// below which the person's nodes hang, the internal root for helpers such as gizmos, marked
+/// auxiliary, and the root of the scene plates, marked auxiliary too: 3D tools pass it by.
 ///
 /// The nodes are made on first use, which must lie between osgInit and osgExit, and held until
 /// clear(), which a host calls before osgExit. Belongs to the user-interface thread.
@@ -23,6 +23,9 @@ public:
 
     /// Root of the helpers, named "InternalRoot"; never null.
     static osg::NodePtr getInternalRoot();
+
+    /// Root of the scene plates, named "SceneplateRoot"; never null. All views show its plates.
+    static osg::NodePtr getSceneplateRoot();
 
     /// Whether nodes light up under the pointer before they are selected; true at the start.
     static bool isPreselectionEnabled();

@@ -94,6 +94,7 @@ struct nbUndoService::Internals final : public nbEditRecorder
     int openScopes = 0;
     int mutedScopes = 0;
     bool isGroupOpen = false;
+    osg::UInt64 groupChanges = 0;
     /// Asked for while a scope is open.
     GroupEnd pendingEnd = GroupEnd::None;
 
@@ -150,6 +151,7 @@ void nbUndoService::Internals::finishGroup(GroupEnd end)
         return;
     }
     isGroupOpen = false;
+    ++groupChanges;
     pendingEnd = GroupEnd::None;
     if (end == GroupEnd::Keep) {
         finishStep();
@@ -207,6 +209,7 @@ bool nbUndoService::redo()
 void nbUndoService::clear()
 {
     internals->isGroupOpen = false;
+    ++internals->groupChanges;
     internals->pendingEnd = GroupEnd::None;
     internals->step.clear();
     internals->waiting.clear();
@@ -224,6 +227,7 @@ void nbUndoService::beginGroup(const QString& title)
 {
     internals->finishGroup(GroupEnd::Keep);
     internals->isGroupOpen = true;
+    ++internals->groupChanges;
     internals->pendingEnd = GroupEnd::None;
     internals->step.offerTitle(title);
 }
@@ -243,6 +247,11 @@ bool nbUndoService::isGroupOpen() const
     return internals->isGroupOpen;
 }
 
+osg::UInt64 nbUndoService::getGroupChangeCount() const
+{
+    return internals->groupChanges;
+}
+
 // == Recording
 
 bool nbUndoService::isRecording() const
@@ -255,6 +264,16 @@ void nbUndoService::record(std::unique_ptr<nbUndoRecord> entry)
     if (entry != nullptr && internals->isRecording()) {
         internals->step.add(std::move(entry));
     }
+}
+
+bool nbUndoService::isNewInStep(osg::UInt32 containerId)
+{
+    return internals->isRecording() && internals->step.meet(containerId);
+}
+
+void nbUndoService::noteTransform(const osg::Transform3DPtr& core)
+{
+    internals->transformChanges(core);
 }
 
 TransformTable* nbUndoService::getOpenTransforms()

@@ -66,6 +66,9 @@ public:
 
     bool isGroupOpen() const;
 
+    /// Counts every opening and closing of a group, for who keeps values from its beginning on.
+    osg::UInt64 getGroupChangeCount() const;
+
     // == Recording, for those who edit
 
     /// Whether a group, or a scope that records, is open.
@@ -75,9 +78,17 @@ public:
     /// dropped: the edit cannot be undone.
     void record(std::unique_ptr<nbUndoRecord> entry);
 
-    /// The transforms of the open step, each of which is to be noted there before an edit. The first
-    /// time in a step keeps the state; the next ones find it again, fastest when the cores of each
-    /// scope come in the same order.
+    /// For those who record the whole state of a container before its first edit in a step.
+    /// @param containerId  of the container
+    /// @return whether something records, and it is asked for the first time in the open step
+    bool isNewInStep(osg::UInt32 containerId);
+
+    /// To be called before an edit of a transform core. The first call in a step keeps the state.
+    void noteTransform(const osg::Transform3DPtr& core);
+
+    /// For many edits: the transforms of the open step, each of which is to be noted there before
+    /// an edit. The first time in a step keeps the state; the next ones find it again, fastest when
+    /// the cores of each scope come in the same order.
     /// @return valid until the scope or group closes; null if nothing records
     TransformTable* getOpenTransforms();
 

@@ -158,6 +158,7 @@ DrawState resolveMaterial(const osg::MaterialPtr& material)
     if (const auto chunks = osg::ChunkMaterialPtr::dcast(material); chunks != osg::NullFC) {
         applyList(state, chunks, true);
     }
+    state.uber = resolveUberMaterial(material);
     return state;
 }
 

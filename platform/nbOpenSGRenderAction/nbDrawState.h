@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <nbOpenSGRenderAction/nbUberMaterialState.h>
+
 #include <OpenSG/OSGChunkMaterial.h>
 #include <OpenSG/OSGColor.h>
 #include <OpenSG/OSGGL.h>
@@ -8,6 +10,8 @@
 #include <OpenSG/OSGMaterial.h>
 #include <OpenSG/OSGSHLChunk.h>
 #include <OpenSG/OSGTextureChunk.h>
+
+#include <memory>
 
 namespace nbrender {
 
@@ -59,6 +63,7 @@ struct DrawState
 
     osg::UInt32 textureId = 0;  ///< container id of the TextureChunk, 0 for none
     osg::UInt32 shaderId = 0;  ///< container id of the SHLChunk, 0 for none
+    std::shared_ptr<const UberMaterialState> uber;  ///< null without projected pictures
 };
 
 /// State of a material; of null that of a grey lit surface.

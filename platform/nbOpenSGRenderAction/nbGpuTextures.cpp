@@ -3,11 +3,14 @@
 
 #include <nbUtils/nbLog.h>
 
+#include <OpenSG/OSGContentStamp.h>
 #include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGImage.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <string>
+#include <vector>
 
 namespace nbrender {
 
@@ -104,7 +107,7 @@ GLint wrapping(GLenum mode)
     return static_cast<GLint>(mode == kClamp ? GLenum(GL_CLAMP_TO_EDGE) : mode);
 }
 
-void setParameters(Gl& gl, const osg::TextureChunkPtr& chunk, const Layout& layout)
+void setParameters(Gl& gl, const osg::TextureChunkPtr& chunk)
 {
     const auto set = [&gl](GLenum name, GLint value) {
         gl.glTexParameteri(GL_TEXTURE_2D, name, value);
@@ -113,51 +116,73 @@ void setParameters(Gl& gl, const osg::TextureChunkPtr& chunk, const Layout& layo
     set(GL_TEXTURE_MAG_FILTER, static_cast<GLint>(chunk->getMagFilter()));
     set(GL_TEXTURE_WRAP_S, wrapping(chunk->getWrapS()));
     set(GL_TEXTURE_WRAP_T, wrapping(chunk->getWrapT()));
-    gl.glTexParameteriv(GL_TEXTURE_2D, GL_TEXTURE_SWIZZLE_RGBA, layout.swizzle);
 }
 
-void uploadLevels(Gl& gl, const osg::TextureChunkPtr& chunk, const osg::ImagePtr& image,
-                  const Layout& layout)
+/// Pixels of bytes with their colours times alpha, which is the last component.
+std::vector<osg::UInt8> premultiply(const osg::UInt8* pixels, std::size_t count,
+                                    std::size_t components)
+{
+    constexpr unsigned int kFull = 255;
+    std::vector<osg::UInt8> result(pixels, pixels + count * components);
+    for (std::size_t pixel = 0; pixel < result.size(); pixel += components) {
+        const unsigned int alpha = result[pixel + components - 1];
+        for (std::size_t i = pixel; i + 1 < pixel + components; ++i) {
+            result[i] = static_cast<osg::UInt8>((result[i] * alpha + kFull / 2) / kFull);
+        }
+    }
+    return result;
+}
+
+/// How the levels of an image are uploaded.
+struct UploadOptions
+{
+    osg::UInt32 frame = 0;
+    bool wholeChain = true;  ///< missing mipmaps are made
+    bool premultiplied = false;
+};
+
+void uploadLevel(Gl& gl, const osg::ImagePtr& image, osg::Int32 level, const Layout& layout,
+                 const UploadOptions& options)
 {
     const auto type = static_cast<GLenum>(image->getDataType());
     const GLenum internal = type == GL_UNSIGNED_BYTE ? layout.internalByte : layout.internalFloat;
+    const GLsizei width = std::max(image->getWidth() >> level, 1);
+    const GLsizei height = std::max(image->getHeight() >> level, 1);
+    const osg::UInt8* data = image->getData(static_cast<osg::UInt32>(level), options.frame);
+    std::vector<osg::UInt8> scaled;
+    if (options.premultiplied) {
+        scaled = premultiply(data, static_cast<std::size_t>(width) * height, image->getBpp());
+        data = scaled.data();
+    }
+    gl.glTexImage2D(GL_TEXTURE_2D, level, static_cast<GLint>(internal), width, height, 0,
+                    layout.external, type, data);
+}
+
+/// Uploads the levels that the image has; with a whole chain, the driver makes the missing ones of
+/// the last that there is.
+void uploadLevels(Gl& gl, const osg::ImagePtr& image, const Layout& layout,
+                  const UploadOptions& options)
+{
     const osg::Int32 levels = std::max(image->getMipMapCount(), 1);
     gl.glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
     for (osg::Int32 level = 0; level < levels; ++level) {
-        const GLsizei width = std::max(image->getWidth() >> level, 1);
-        const GLsizei height = std::max(image->getHeight() >> level, 1);
-        gl.glTexImage2D(GL_TEXTURE_2D, level, static_cast<GLint>(internal), width, height, 0,
-                        layout.external, type,
-                        image->getData(static_cast<osg::UInt32>(level), chunk->getFrame()));
+        uploadLevel(gl, image, level, layout, options);
     }
     gl.glPixelStorei(GL_UNPACK_ALIGNMENT, 4);
-    if (levels > 1) {
-        gl.glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAX_LEVEL, levels - 1);
-    } else if (wantsMipmaps(chunk->getMinFilter())) {
+    if (options.wholeChain && levels < static_cast<osg::Int32>(image->calcMipmapLevelCount())) {
+        gl.glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_BASE_LEVEL, levels - 1);
         gl.glGenerateMipmap(GL_TEXTURE_2D);
+        gl.glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_BASE_LEVEL, 0);
+    } else {
+        gl.glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAX_LEVEL, levels - 1);
     }
 }
 
-}  // namespace
-
-const GpuTexture& GpuTextures::get(Gl& gl, const osg::TextureChunkPtr& chunk)
-{
-    Entry& entry = entries[chunk.getFieldContainerId()];
-    const osg::UInt64 stamp = chunk->getContentStamp();
-    if (entry.stamp != stamp) {
-        gl.glDeleteTextures(1, &entry.texture.name);
-        entry.texture = upload(gl, chunk);
-        entry.stamp = stamp;
-    }
-    return entry.texture;
-}
-
-GpuTexture GpuTextures::upload(Gl& gl, const osg::TextureChunkPtr& chunk)
+/// Makes a texture of an image's frame, bound when it returns. Name 0 if it cannot be shown.
+GpuTexture upload(Gl& gl, const osg::ImagePtr& image, UploadOptions options)
 {
     GpuTexture result;
-    const osg::ImagePtr image = chunk->getImage();
-    if (image == osg::NullFC || !image->isValid() ||
-        image->getData(0, chunk->getFrame()) == nullptr) {
+    if (image == osg::NullFC || !image->isValid() || image->getData(0, options.frame) == nullptr) {
         return result;
     }
     const Layout* layout = findLayout(image->getPixelFormat());
@@ -170,19 +195,37 @@ GpuTexture GpuTextures::upload(Gl& gl, const osg::TextureChunkPtr& chunk)
                      ", cannot be shown by this driver (limit " + std::to_string(largest) + ")");
         return result;
     }
+    const bool isIntensity = layout->format == osg::Image::OSG_I_PF;
     gl.glGenTextures(1, &result.name);
     gl.glBindTexture(GL_TEXTURE_2D, result.name);
-    setParameters(gl, chunk, *layout);
-    uploadLevels(gl, chunk, image, *layout);
+    gl.glTexParameteriv(GL_TEXTURE_2D, GL_TEXTURE_SWIZZLE_RGBA, layout->swizzle);
+    options.premultiplied = options.premultiplied && layout->hasAlpha && layout->hasColor &&
+        !isIntensity && image->getDataType() == osg::Image::OSG_UINT8_IMAGEDATA;
+    uploadLevels(gl, image, *layout, options);
     result.hasColor = layout->hasColor;
     result.hasAlpha = layout->hasAlpha;
+    result.isIntensity = isIntensity;
+    result.isPremultiplied = options.premultiplied;
     return result;
 }
 
-void GpuTextures::collect(Gl& gl)
+GpuTexture upload(Gl& gl, const osg::TextureChunkPtr& chunk)
+{
+    const bool wholeChain = wantsMipmaps(chunk->getMinFilter());
+    const GpuTexture result =
+        upload(gl, chunk->getImage(), { chunk->getFrame(), wholeChain, false });
+    if (result.name != 0) {
+        setParameters(gl, chunk);
+    }
+    return result;
+}
+
+/// Deletes the textures of what is gone, or all.
+template <class Entries>
+void drop(Gl& gl, Entries& entries, bool all)
 {
     for (auto it = entries.begin(); it != entries.end();) {
-        if (osg::FieldContainerFactory::the()->getContainer(it->first) == osg::NullFC) {
+        if (all || osg::FieldContainerFactory::the()->getContainer(it->first) == osg::NullFC) {
             gl.glDeleteTextures(1, &it->second.texture.name);
             it = entries.erase(it);
         } else {
@@ -191,12 +234,60 @@ void GpuTextures::collect(Gl& gl)
     }
 }
 
+}  // namespace
+
+const GpuTexture& GpuTextures::get(Gl& gl, const osg::TextureChunkPtr& chunk)
+{
+    Entry& entry = chunkEntries[chunk.getFieldContainerId()];
+    const osg::UInt64 stamp = chunk->getContentStamp();
+    if (entry.stamp != stamp) {
+        gl.glDeleteTextures(1, &entry.texture.name);
+        entry.texture = upload(gl, chunk);
+        entry.stamp = stamp;
+    }
+    return entry.texture;
+}
+
+const GpuTexture& GpuTextures::get(Gl& gl, const osg::ImagePtr& image, bool premultiplied)
+{
+    Entries& entries = premultiplied ? premultipliedEntries : imageEntries;
+    Entry& entry = entries[image.getFieldContainerId()];
+    const osg::UInt64 stamp = osg::ContentStamp(*image).get();
+    if (entry.stamp != stamp) {
+        gl.glDeleteTextures(1, &entry.texture.name);
+        entry.texture = upload(gl, image, { 0, true, premultiplied });
+        entry.stamp = stamp;
+    }
+    return entry.texture;
+}
+
+GLuint GpuTextures::getSampler(Gl& gl, bool repeatU, bool repeatV)
+{
+    GLuint& sampler = samplers[(repeatU ? 1U : 0U) + (repeatV ? 2U : 0U)];
+    if (sampler == 0) {
+        gl.glGenSamplers(1, &sampler);
+        gl.glSamplerParameteri(sampler, GL_TEXTURE_MIN_FILTER, GL_LINEAR_MIPMAP_LINEAR);
+        gl.glSamplerParameteri(sampler, GL_TEXTURE_MAG_FILTER, GL_LINEAR);
+        gl.glSamplerParameteri(sampler, GL_TEXTURE_WRAP_S, repeatU ? GL_REPEAT : GL_CLAMP_TO_EDGE);
+        gl.glSamplerParameteri(sampler, GL_TEXTURE_WRAP_T, repeatV ? GL_REPEAT : GL_CLAMP_TO_EDGE);
+    }
+    return sampler;
+}
+
+void GpuTextures::collect(Gl& gl)
+{
+    drop(gl, chunkEntries, false);
+    drop(gl, imageEntries, false);
+    drop(gl, premultipliedEntries, false);
+}
+
 void GpuTextures::release(Gl& gl)
 {
-    for (auto& [id, entry] : entries) {
-        gl.glDeleteTextures(1, &entry.texture.name);
-    }
-    entries.clear();
+    drop(gl, chunkEntries, true);
+    drop(gl, imageEntries, true);
+    drop(gl, premultipliedEntries, true);
+    gl.glDeleteSamplers(static_cast<GLsizei>(samplers.size()), samplers.data());
+    forget();
 }
 
 }  // namespace nbrender

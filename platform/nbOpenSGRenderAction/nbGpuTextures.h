@@ -6,6 +6,8 @@
 #include <OpenSG/OSGImage.h>
 #include <OpenSG/OSGTextureChunk.h>
 
+#include <array>
+#include <cstddef>
 #include <unordered_map>
 
 namespace nbrender {
@@ -16,10 +18,13 @@ struct GpuTexture
     GLuint name = 0;  ///< 0 if the image cannot be shown
     bool hasColor = false;
     bool hasAlpha = false;
+    bool isIntensity = false;  ///< colour and alpha are one value
+    bool isPremultiplied = false;  ///< colours are times alpha
 };
 
-/// Textures by the container id of their chunk: made on first use, anew when the chunk or its image
-/// was edited, dropped when the chunk is gone. Needs the current context of its first use.
+/// Textures by the container id of their chunk or image: made on first use, anew when these were
+/// edited, dropped when they are gone. Mipmaps that an image lacks are made where they are wanted.
+/// Needs the current context of its first use.
 class GpuTextures
 {
 public:
@@ -27,10 +32,19 @@ public:
     /// of which the log then has a line.
     const GpuTexture& get(Gl& gl, const osg::TextureChunkPtr& chunk);
 
+    /// Texture of an image's first frame with all its mipmaps, to be used with a sampler of
+    /// getSampler; name 0 as above.
+    /// @param premultiplied  colours times alpha, so that the colours of transparent pixels do not
+    ///                       mix with their neighbours'; as far as the image has bytes and alpha
+    const GpuTexture& get(Gl& gl, const osg::ImagePtr& image, bool premultiplied);
+
+    /// Name of a sampler that filters smoothly and repeats, or keeps to the edge, in u and v.
+    GLuint getSampler(Gl& gl, bool repeatU, bool repeatV);
+
     void collect(Gl& gl);
     void release(Gl& gl);
 
-    void forget() { entries.clear(); }
+    void forget() { *this = GpuTextures(); }
 
 private:
     struct Entry
@@ -39,9 +53,14 @@ private:
         GpuTexture texture;
     };
 
-    static GpuTexture upload(Gl& gl, const osg::TextureChunkPtr& chunk);
+    static constexpr std::size_t kSamplerCount = 4;
 
-    std::unordered_map<osg::UInt32, Entry> entries;
+    using Entries = std::unordered_map<osg::UInt32, Entry>;
+
+    Entries chunkEntries;
+    Entries imageEntries;
+    Entries premultipliedEntries;
+    std::array<GLuint, kSamplerCount> samplers {};
 };
 
 }  // namespace nbrender

@@ -62,9 +62,11 @@ QImage nbImageConvert::toPicture(const osg::ImagePtr& image)
     QImage picture(image->getWidth(), image->getHeight(),
                    image->hasAlphaChannel() ? QImage::Format_ARGB32 : QImage::Format_RGB32);
     const osg::UInt8* source = image->getData();
+    const osg::UInt32 format = image->getPixelFormat();
     for (int y = image->getHeight() - 1; y >= 0; --y) {
-        for (int x = 0; x < image->getWidth(); ++x) {
-            picture.setPixel(x, y, pixelOf(source, image->getPixelFormat()));
+        auto* const row = reinterpret_cast<QRgb*>(picture.scanLine(y));
+        for (int x = 0; x < picture.width(); ++x) {
+            row[x] = pixelOf(source, format);
             source += image->getBpp();
         }
     }

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "nbItemList.h"
 
-#include <nbOpenSGExt/ClipPlane3D.h>
 #include <nbOpenSGExt/NodeFlags.h>
 #include <nbOpenSGRenderAction/nbMesh.h>
+#include <nbOpenSGSceneplate/nbSceneplateList.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <OpenSG/OSGChangeCount.h>
@@ -51,6 +51,8 @@ struct ItemList::Place
 {
     osg::Matrix worldFromParent;
     osg::MaterialPtr group;
+    /// Of the node that carries the group's material; belongs to a visit further up.
+    const osg::Matrix* worldFromGroup = nullptr;
     osg::UInt32 manipulator = 0;
     osg::UInt32 clipSet = 0;
     bool auxiliary = false;
@@ -62,7 +64,7 @@ bool ItemList::update(const osg::NodePtr& root)
     const osg::UInt64 count = osg::getTreeChangeCount(root);
     if (id == rootId && count == treeCount) {
         // What moves a plane may be outside of the tree.
-        updateClipPlanes();
+        clipSets.update();
         return false;
     }
     rootId = id;
@@ -70,12 +72,13 @@ bool ItemList::update(const osg::NodePtr& root)
     items.clear();
     states.clear();
     stateIndices.clear();
-    clipSources.resize(1);
+    clipSets.clear();
+    surfaceSpaces.resize(1);
     manipulatorCount = 0;
     if (root != osg::NullFC) {
         visit(root, Place());
     }
-    updateClipPlanes();
+    clipSets.update();
     assignDepthSteps();
     sortItems();
     dropCopies();
@@ -86,7 +89,8 @@ bool ItemList::update(const osg::NodePtr& root)
 
 void ItemList::visit(const osg::NodePtr& node, const Place& above)
 {
-    if (!node->getActive()) {
+    // A scene plate has no place in 3D.
+    if (!node->getActive() || nbSceneplateList::plateOf(node) != osg::NullFC) {
         return;
     }
     Place place = above;
@@ -96,44 +100,19 @@ void ItemList::visit(const osg::NodePtr& node, const Place& above)
         place.manipulator = ++manipulatorCount;
         place.group = osg::NullFC;
     }
+    place.clipSet = clipSets.below(above.clipSet, node);
     const osg::NodeCorePtr core = node->getCore();
     if (const auto transform = osg::TransformPtr::dcast(core); transform != osg::NullFC) {
         place.worldFromParent.mult(transform->getMatrix());
-    } else if (osg::ClipPlane3DPtr::dcast(core) != osg::NullFC) {
-        place.clipSet = extendedClipSet(above.clipSet, node);
     } else if (const auto group = osg::MaterialGroupPtr::dcast(core); group != osg::NullFC) {
         if (place.group == osg::NullFC) {
             place.group = group->getMaterial();
+            place.worldFromGroup = &place.worldFromParent;
         }
     } else if (const auto geometry = osg::GeometryPtr::dcast(core); geometry != osg::NullFC) {
         addItem(geometry, place);
     }
     visitChildren(node, place);
-}
-
-osg::UInt32 ItemList::extendedClipSet(osg::UInt32 above, const osg::NodePtr& node)
-{
-    std::vector<ClipSource> sources = clipSources[above];
-    sources.push_back({ idOf(node->getCore()), idOf(node) });
-    clipSources.push_back(std::move(sources));
-    return static_cast<osg::UInt32>(clipSources.size() - 1);
-}
-
-void ItemList::updateClipPlanes()
-{
-    const osg::FieldContainerFactory& factory = *osg::FieldContainerFactory::the();
-    clipPlanes.assign(clipSources.size(), ClipPlanes());
-    for (std::size_t set = 1; set < clipSources.size(); ++set) {
-        for (const ClipSource& source : clipSources[set]) {
-            const auto core = osg::ClipPlane3DPtr::dcast(factory.getContainer(source.coreId));
-            const auto node = osg::NodePtr::dcast(factory.getContainer(source.nodeId));
-            osg::Vec4f plane;
-            if (core != osg::NullFC && clipPlanes[set].size() < kMostClipPlanes &&
-                core->getWorldEquation(node, plane)) {
-                clipPlanes[set].push_back(plane);
-            }
-        }
-    }
 }
 
 void ItemList::visitChildren(const osg::NodePtr& node, const Place& place)
@@ -175,7 +154,20 @@ void ItemList::addItem(const osg::GeometryPtr& geometry, const Place& place)
         item.key = place.group == osg::NullFC ? state.sortKey : place.group->getSortKey();
     }
     item.blended = state.transparent;
+    placePictures(item, place);
     items.push_back(item);
+}
+
+void ItemList::placePictures(RenderItem& item, const Place& place)
+{
+    if (states[item.stateIndex].uber == nullptr || item.handle || place.group == osg::NullFC) {
+        return;
+    }
+    osg::Matrix groupFromObject;
+    place.worldFromGroup->inverse(groupFromObject);
+    groupFromObject.mult(item.worldFromObject);
+    item.surfaceSpace = static_cast<osg::UInt32>(surfaceSpaces.size());
+    surfaceSpaces.push_back(groupFromObject);
 }
 
 osg::UInt32 ItemList::stateFor(const osg::MaterialPtr& material, const osg::MaterialPtr& group,

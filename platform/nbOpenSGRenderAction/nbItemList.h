@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <nbOpenSGExt/nbClipSets.h>
 #include <nbOpenSGRenderAction/nbDrawState.h>
 #include <nbUtils/nbPlatformExport.h>
 
@@ -33,13 +34,8 @@ struct RenderItem
     osg::Int32 depthSteps = 0;
     osg::UInt32 manipulator = 0;  ///< number of the manipulator node that the item is below, from 1
     osg::UInt32 clipSet = 0;  ///< into ItemList::getClipPlanes; 0 for an item that nothing cuts
+    osg::UInt32 surfaceSpace = 0;  ///< into ItemList::getSurfaceSpace; 0: the item's own space
 };
-
-/// Clip planes in world space: what is seen has a x + b y + c z + d >= 0 for each of them.
-using ClipPlanes = std::vector<osg::Vec4f>;
-
-/// How many planes cut one item at most, the outermost in the tree first; further ones are ignored.
-constexpr std::size_t kMostClipPlanes = 6;
 
 constexpr osg::Int32 kMostDepthSteps = 8;
 
@@ -71,7 +67,16 @@ public:
     const std::vector<osg::UInt32>& getOrder(const osg::Matrix& viewFromWorld);
 
     /// The planes of a set of the last update.
-    const ClipPlanes& getClipPlanes(osg::UInt32 clipSet) const { return clipPlanes[clipSet]; }
+    const nbClipSets::Planes& getClipPlanes(osg::UInt32 clipSet) const
+    {
+        return clipSets.planesOf(clipSet);
+    }
+
+    /// From an item's space to that of the node which carries its material, 4x4, column vectors.
+    const osg::Matrix& getSurfaceSpace(osg::UInt32 surfaceSpace) const
+    {
+        return surfaceSpaces[surfaceSpace];
+    }
 
     /// World bounds of the items that are neither handles nor auxiliary; empty without any.
     const osg::BoxVolume& getSceneBounds() const { return sceneBounds; }
@@ -107,18 +112,10 @@ private:
         osg::BoxVolume box;
     };
 
-    /// One clip plane core in the tree.
-    struct ClipSource
-    {
-        osg::UInt32 coreId = 0;
-        osg::UInt32 nodeId = 0;
-    };
-
     void visit(const osg::NodePtr& node, const Place& above);
-    osg::UInt32 extendedClipSet(osg::UInt32 above, const osg::NodePtr& node);
-    void updateClipPlanes();
     void visitChildren(const osg::NodePtr& node, const Place& place);
     void addItem(const osg::GeometryPtr& geometry, const Place& place);
+    void placePictures(RenderItem& item, const Place& place);
     osg::UInt32 stateFor(const osg::MaterialPtr& material, const osg::MaterialPtr& group,
                          bool handle);
     const osg::BoxVolume& localBounds(const osg::GeometryPtr& geometry);
@@ -131,8 +128,8 @@ private:
     std::vector<RenderItem> items;
     std::vector<DrawState> states;
     std::vector<osg::UInt32> order;
-    std::vector<std::vector<ClipSource>> clipSources { 1 };  ///< by set; the first stays empty
-    std::vector<ClipPlanes> clipPlanes { 1 };
+    nbClipSets clipSets;
+    std::vector<osg::Matrix> surfaceSpaces { 1 };  ///< the first stays the identity
     std::unordered_map<StateKey, osg::UInt32, StateKeyHash> stateIndices;
     std::unordered_map<osg::UInt32, LocalBounds> boundsById;
     osg::BoxVolume sceneBounds;

@@ -2,6 +2,7 @@
 #include "nbItemPainter.h"
 
 #include <nbOpenSGRenderAction/nbStandardShaders.h>
+#include <nbOpenSGRenderAction/nbUberMaterialBinding.h>
 
 #include <OpenSG/OSGFieldContainerFactory.h>
 
@@ -45,6 +46,13 @@ GLint textureModeNumber(GLenum mode)
 void setColor(Gl& gl, GlProgram& program, const char* name, const osg::Color3f& color)
 {
     program.set(gl, name, color.red(), color.green(), color.blue());
+}
+
+/// Whether only a picture makes parts of a surface transparent.
+bool hasCutouts(const DrawState& state)
+{
+    return state.uber != nullptr && state.uber->hasCutouts && state.shaderId == 0 &&
+        state.alphaFunc == GL_ALWAYS;
 }
 
 /// A plane of the world in view space; the view neither scales nor mirrors.
@@ -122,6 +130,9 @@ ItemPainter::ItemPainter(Gl& functions, GpuMeshes& meshCache, GpuTextures& textu
 ItemPainter::~ItemPainter()
 {
     switchClipping(0);
+    if (boundPictures) {
+        unbindUberMaterial(gl);
+    }
     for (const GLenum switchedOn :
          { GL_DEPTH_TEST, GL_PROGRAM_POINT_SIZE, GL_POLYGON_OFFSET_FILL, GL_POLYGON_OFFSET_LINE,
            GL_POLYGON_OFFSET_POINT, GL_DEPTH_CLAMP, GL_BLEND, GL_CULL_FACE }) {
@@ -142,7 +153,7 @@ ItemPainter::~ItemPainter()
     gl.glUseProgram(0);
 }
 
-void ItemPainter::draw(const RenderItem& item, const DrawState& state, const ClipPlanes& planes)
+void ItemPainter::draw(const RenderItem& item, const ItemList& list)
 {
     const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(resolve(item.geometryId));
     if (geometry == osg::NullFC) {
@@ -150,9 +161,42 @@ void ItemPainter::draw(const RenderItem& item, const DrawState& state, const Cli
     }
     const GpuMesh& mesh = meshes.get(gl, geometry);
     viewClipPlanes.clear();
-    for (const osg::Vec4f& plane : planes) {
+    for (const osg::Vec4f& plane : list.getClipPlanes(item.clipSet)) {
         viewClipPlanes.push_back(inView(plane, view.viewFromWorld));
     }
+    surfaceFromObject = &list.getSurfaceSpace(item.surfaceSpace);
+    const DrawState& state = list.getStates()[item.stateIndex];
+    if (item.blended && hasCutouts(state)) {
+        drawCutout(item, state, mesh);
+    } else {
+        drawMesh(item, state, mesh);
+    }
+}
+
+void ItemPainter::drawCutout(const RenderItem& item, const DrawState& state, const GpuMesh& mesh)
+{
+    // From here on a byte of alpha is full.
+    constexpr float kOpaque = 254.5f / 255.f;
+    DrawState part = state;
+    part.alphaValue = kOpaque;
+    part.alphaFunc = GL_GEQUAL;
+    part.depthWrite = true;
+    drawMesh(item, part, mesh);
+    part.alphaFunc = GL_LESS;
+    part.depthWrite = false;
+    if (state.cullFace != GL_NONE) {
+        drawMesh(item, part, mesh);
+        return;
+    }
+    // The far side of a closed body before the near one.
+    for (const GLenum hidden : { GL_FRONT, GL_BACK }) {
+        part.cullFace = hidden;
+        drawMesh(item, part, mesh);
+    }
+}
+
+void ItemPainter::drawMesh(const RenderItem& item, const DrawState& state, const GpuMesh& mesh)
+{
     applyDepth(item, state);
     applyBlending(item, state);
     applyPolygons(item, state);
@@ -233,9 +277,10 @@ void ItemPainter::switchClipping(std::size_t count)
 
 void ItemPainter::setClipPlanes(GlProgram& program)
 {
-    constexpr std::array<const char*, kMostClipPlanes> kNames { "clipPlanes[0]", "clipPlanes[1]",
-                                                                "clipPlanes[2]", "clipPlanes[3]",
-                                                                "clipPlanes[4]", "clipPlanes[5]" };
+    constexpr std::array<const char*, nbClipSets::kMostPlanes> kNames {
+        "clipPlanes[0]", "clipPlanes[1]", "clipPlanes[2]",
+        "clipPlanes[3]", "clipPlanes[4]", "clipPlanes[5]"
+    };
     for (std::size_t i = 0; i < viewClipPlanes.size(); ++i) {
         const osg::Vec4f& plane = viewClipPlanes[i];
         program.set(gl, kNames[i], plane.x(), plane.y(), plane.z(), plane.w());
@@ -302,6 +347,7 @@ void ItemPainter::setTexture(GlProgram& program)
     if (isBound) {
         program.set(gl, "textureHasColor", GLint(boundTexture.hasColor ? 1 : 0));
         program.set(gl, "textureHasAlpha", GLint(boundTexture.hasAlpha ? 1 : 0));
+        program.set(gl, "textureIsIntensity", GLint(boundTexture.isIntensity ? 1 : 0));
         const osg::Color4f& color = boundChunk->getEnvColor();
         program.set(gl, "textureEnvColor", color.red(), color.green(), color.blue(), color.alpha());
     }
@@ -332,6 +378,7 @@ GlProgram* ItemPainter::prepareMaterial(const RenderItem& item, const DrawState&
     shaders::Features features;
     features.lit = state.lit && isSurface;
     features.textured = isSurface && bindTexture(state);
+    features.projected = isSurface && state.uber != nullptr;
     features.discards =
         state.alphaFunc != GL_ALWAYS || (isLine && state.stipplePattern != DrawState::kSolidLine);
     const auto clipping = viewClipPlanes.empty() ? shaders::Clipping::Off : shaders::Clipping::On;
@@ -343,6 +390,10 @@ GlProgram* ItemPainter::prepareMaterial(const RenderItem& item, const DrawState&
         setMaterial(*program, item, state, isSurface, hasColors);
         if (features.textured) {
             setTexture(*program);
+        }
+        if (features.projected) {
+            bindUberMaterial(gl, textures, *program, *state.uber, *surfaceFromObject);
+            boundPictures = true;
         }
     }
     return program;

@@ -36,7 +36,8 @@ NB_PLATFORM_API bool isInView(const osg::BoxVolume& bounds, const osg::Matrix& c
 /// Draws items one after the other; keeps track of the OpenGL state that they share.
 ///
 /// Handles take the front tenth of the depth range, everything else the other nine. Blended items
-/// leave the effect buffer alone.
+/// leave the effect buffer alone and write no depth, except that of a surface which only a picture
+/// makes transparent the opaque parts do.
 class ItemPainter
 {
 public:
@@ -49,11 +50,14 @@ public:
     ItemPainter(const ItemPainter&) = delete;
     ItemPainter& operator=(const ItemPainter&) = delete;
 
-    /// @param planes  what cuts the item. Shader chunks are not cut unless their programs see to
-    /// it.
-    void draw(const RenderItem& item, const DrawState& state, const ClipPlanes& planes);
+    /// Shader chunks are not cut by clip planes unless their programs see to it.
+    /// @param list  that the item is of
+    void draw(const RenderItem& item, const ItemList& list);
 
 private:
+    void drawMesh(const RenderItem& item, const DrawState& state, const GpuMesh& mesh);
+    /// What is opaque first, with depth, so that it hides what it should; then the rest.
+    void drawCutout(const RenderItem& item, const DrawState& state, const GpuMesh& mesh);
     void applyDepth(const RenderItem& item, const DrawState& state);
     void applyBlending(const RenderItem& item, const DrawState& state);
     void applyPolygons(const RenderItem& item, const DrawState& state);
@@ -83,7 +87,9 @@ private:
     GpuTextures& textures;
     ShaderPrograms& programs;
     const FrameView& view;
-    ClipPlanes viewClipPlanes;  ///< of the item that is being drawn, in view space
+    nbClipSets::Planes viewClipPlanes;  ///< of the item that is being drawn, in view space
+    const osg::Matrix* surfaceFromObject = nullptr;  ///< of the same item
+    bool boundPictures = false;
     std::size_t clippingCount = 0;  ///< switched on
     osg::TextureChunkPtr boundChunk;
     GpuTexture boundTexture;

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "nbRenderAction.h"
 
+#include <nbOpenSGRenderAction/nbBackgroundPainter.h>
 #include <nbOpenSGRenderAction/nbFrameTargets.h>
 #include <nbOpenSGRenderAction/nbItemPainter.h>
+#include <nbOpenSGRenderAction/nbMagnifierPainter.h>
+#include <nbOpenSGRenderAction/nbSceneplatePainter.h>
 #include <nbOpenSGUberCamera/UberCamera.h>
 #include <nbOpenSGUberCamera/nbUberCameraUtils.h>
-#include <nbOpenSGUberViewport/UberViewport.h>
 #include <nbUtils/nbLog.h>
-
-#include <OpenSG/OSGSolidBackground.h>
 
 #include <QtCore/QPointer>
 #include <QtGui/QOpenGLContext>
@@ -30,30 +30,6 @@ using nbrender::FrameView;
 using nbrender::Gl;
 using nbrender::GlProgram;
 using nbrender::ShaderPrograms;
-
-struct Background
-{
-    osg::Color4f top { 0.f, 0.f, 0.f, 1.f };
-    osg::Color4f bottom { 0.f, 0.f, 0.f, 1.f };
-};
-
-Background backgroundOf(const osg::ViewportPtr& viewport)
-{
-    Background result;
-    if (viewport == osg::NullFC) {
-        return result;
-    }
-    const auto solid = osg::SolidBackgroundPtr::dcast(viewport->getBackground());
-    const auto uber = osg::UberViewportPtr::dcast(viewport);
-    if (solid != osg::NullFC) {
-        const osg::Color3f color = solid->getColor();
-        result.top = result.bottom = osg::Color4f(color.red(), color.green(), color.blue(), 1.f);
-    } else if (uber != osg::NullFC) {
-        result.top = uber->getBackgroundTop();
-        result.bottom = uber->getBackgroundBottom();
-    }
-    return result;
-}
 
 bool isZUp(const osg::CameraPtr& camera)
 {
@@ -94,11 +70,25 @@ FrameView viewOf(const osg::CameraPtr& camera, int widthPx, int heightPx)
     return view;
 }
 
+/// Whether a program of its own decides where an item is seen: its bounds then say nothing.
+bool placesItself(const nbrender::ItemList& list, const nbrender::RenderItem& item)
+{
+    return list.getStates()[item.stateIndex].shaderId != 0;
+}
+
 /// Depths along the view axis, world units.
 struct DepthSpan
 {
     double nearest = 0.0;
     double farthest = 0.0;
+};
+
+/// Which items of the list to draw.
+enum class Items
+{
+    All,
+    Scene,
+    Handles
 };
 
 /// What encloses the handles in view; nothing without any. In a perspective the nearest depth is
@@ -112,7 +102,8 @@ DepthSpan handleSpan(const nbrender::ItemList& list, const FrameView& view)
     double nearest = std::numeric_limits<double>::max();
     double farthest = std::numeric_limits<double>::lowest();
     for (const nbrender::RenderItem& item : list.getItems()) {
-        if (!item.handle || !nbrender::isInView(item.bounds, view.usualClipFromWorld, true)) {
+        if (!item.handle || placesItself(list, item) ||
+            !nbrender::isInView(item.bounds, view.usualClipFromWorld, true)) {
             continue;
         }
         osg::BoxVolume box = item.bounds;
@@ -140,9 +131,11 @@ struct nbRenderAction::Impl
 {
     bool prepareContext(std::string& error);
     void forgetContext();
-    void drawBackground(const Background& background);
+    void clear();
     void drawScene(const osg::ViewportPtr& viewport, int widthPx, int heightPx);
-    void present(int widthPx, int heightPx, osg::UInt32 targetFramebuffer);
+    void present(const osg::ViewportPtr& viewport, int widthPx, int heightPx,
+                 osg::UInt32 targetFramebuffer);
+    void drawItems(const FrameView& view, const std::vector<osg::UInt32>& order, Items which);
     void collect();
     bool fail(const std::string& reason);
 
@@ -160,6 +153,9 @@ struct nbRenderAction::Impl
     ShaderPrograms programs;
     nbrender::GpuMeshes meshes;
     nbrender::GpuTextures textures;
+    nbrender::BackgroundPainter background;
+    nbrender::MagnifierPainter magnifier;
+    nbrender::SceneplatePainter plates;
     nbrender::ItemList list;
     Statistics statistics;
     unsigned int framesSinceCollection = 0;
@@ -201,37 +197,23 @@ void nbRenderAction::Impl::forgetContext()
     programs.forget();
     meshes.forget();
     textures.forget();
+    background.forget();
+    magnifier.forget();
+    plates.forget();
     emptyArray = 0;
     context.clear();
     gl = nullptr;
 }
 
-void nbRenderAction::Impl::drawBackground(const Background& background)
+void nbRenderAction::Impl::clear()
 {
     constexpr GLfloat kNothing[] = { 0.f, 0.f, 0.f, 0.f };
     const GLfloat farthest = depth.getClearValue();
     gl->glDisable(GL_SCISSOR_TEST);
-    gl->glDisable(GL_DEPTH_TEST);
-    gl->glDisable(GL_BLEND);
-    gl->glDisable(GL_CULL_FACE);
-    gl->glDisable(GL_STENCIL_TEST);
-    // Colours reach the frame buffer as they are.
-    gl->glDisable(GL_FRAMEBUFFER_SRGB);
-    gl->glDisable(GL_DITHER);
     gl->glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
     gl->glDepthMask(GL_TRUE);
     gl->glClearBufferfv(GL_COLOR, 1, kNothing);
     gl->glClearBufferfv(GL_DEPTH, 0, &farthest);
-    GlProgram& program = programs.getStandard(ShaderPrograms::Standard::Background);
-    program.use(*gl);
-    const osg::Color4f& top = background.top;
-    const osg::Color4f& bottom = background.bottom;
-    program.set(*gl, "topColor", top.red(), top.green(), top.blue(), top.alpha());
-    program.set(*gl, "bottomColor", bottom.red(), bottom.green(), bottom.blue(), bottom.alpha());
-    gl->glColorMaski(1, GL_FALSE, GL_FALSE, GL_FALSE, GL_FALSE);
-    gl->glBindVertexArray(emptyArray);
-    gl->glDrawArrays(GL_TRIANGLES, 0, 3);
-    gl->glColorMaski(1, GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
 }
 
 void nbRenderAction::Impl::drawScene(const osg::ViewportPtr& viewport, int widthPx, int heightPx)
@@ -254,20 +236,40 @@ void nbRenderAction::Impl::drawScene(const osg::ViewportPtr& viewport, int width
     const DepthSpan span = handleSpan(list, view);
     view.handleClipFromView = depth.project(usual, span.nearest, span.farthest);
 
+    const nbrender::PlateFrame plateFrame { widthPx, heightPx, pixelRatio, shiftX, shiftY };
+    plates.update(viewport->getRoot());
+    plates.drawBack(*gl, plateFrame, emptyArray);
+    const std::vector<osg::UInt32>& order = list.getOrder(view.viewFromWorld);
+    if (plates.hasFront()) {
+        drawItems(view, order, Items::Scene);
+        plates.drawFront(*gl, plateFrame, emptyArray);
+        drawItems(view, order, Items::Handles);
+    } else {
+        drawItems(view, order, Items::All);
+    }
+    statistics.items = list.getItems().size();
+}
+
+void nbRenderAction::Impl::drawItems(const FrameView& view, const std::vector<osg::UInt32>& order,
+                                     Items which)
+{
     depth.enter();
     nbrender::ItemPainter painter(*gl, meshes, textures, programs, view);
-    for (const osg::UInt32 index : list.getOrder(view.viewFromWorld)) {
+    for (const osg::UInt32 index : order) {
         const nbrender::RenderItem& item = list.getItems()[index];
-        if (nbrender::isInView(item.bounds, view.usualClipFromWorld, item.handle)) {
-            painter.draw(item, list.getStates()[item.stateIndex], list.getClipPlanes(item.clipSet));
+        const bool isWanted = which == Items::All || item.handle == (which == Items::Handles);
+        if (isWanted &&
+            (placesItself(list, item) ||
+             nbrender::isInView(item.bounds, view.usualClipFromWorld, item.handle))) {
+            painter.draw(item, list);
             ++statistics.drawn;
         }
     }
     depth.leave();
-    statistics.items = list.getItems().size();
 }
 
-void nbRenderAction::Impl::present(int widthPx, int heightPx, osg::UInt32 targetFramebuffer)
+void nbRenderAction::Impl::present(const osg::ViewportPtr& viewport, int widthPx, int heightPx,
+                                   osg::UInt32 targetFramebuffer)
 {
     const auto shown = effectShown ? FrameTargets::Buffer::Effect : FrameTargets::Buffer::Color;
     targets.resolve(*gl, shown);
@@ -281,6 +283,9 @@ void nbRenderAction::Impl::present(int widthPx, int heightPx, osg::UInt32 target
     gl->glBindTexture(GL_TEXTURE_2D, targets.getTexture(shown));
     gl->glBindVertexArray(emptyArray);
     gl->glDrawArrays(GL_TRIANGLES, 0, 3);
+    if (nbrender::MagnifierPainter::isShown(viewport)) {
+        magnifier.draw(*gl, targets.getTexture(shown), widthPx, heightPx, pixelRatio, emptyArray);
+    }
     gl->glBindTexture(GL_TEXTURE_2D, 0);
     gl->glBindVertexArray(0);
     gl->glUseProgram(0);
@@ -294,6 +299,7 @@ void nbRenderAction::Impl::collect()
     framesSinceCollection = 0;
     meshes.collect(*gl);
     textures.collect(*gl);
+    plates.collect(*gl);
     programs.collect(*gl);
 }
 
@@ -336,13 +342,16 @@ bool nbRenderAction::render(const osg::ViewportPtr& viewport, int widthPx, int h
     }
     impl->lastFailure.clear();
     impl->gl->glViewport(0, 0, widthPx, heightPx);
-    impl->drawBackground(backgroundOf(viewport));
+    impl->clear();
+    impl->background.draw(*impl->gl, viewport,
+                          { widthPx, heightPx, impl->shiftX, impl->shiftY, impl->emptyArray },
+                          impl->programs, impl->textures);
     impl->statistics.items = 0;
     impl->statistics.drawn = 0;
     if (viewport != osg::NullFC && viewport->getCamera() != osg::NullFC) {
         impl->drawScene(viewport, widthPx, heightPx);
     }
-    impl->present(widthPx, heightPx, targetFramebuffer);
+    impl->present(viewport, widthPx, heightPx, targetFramebuffer);
     impl->collect();
     return true;
 }
@@ -395,6 +404,9 @@ void nbRenderAction::release()
         impl->programs.release(*impl->gl);
         impl->meshes.release(*impl->gl);
         impl->textures.release(*impl->gl);
+        impl->background.release(*impl->gl);
+        impl->magnifier.release(*impl->gl);
+        impl->plates.release(*impl->gl);
         impl->gl->glDeleteVertexArrays(1, &impl->emptyArray);
     }
     impl->forgetContext();

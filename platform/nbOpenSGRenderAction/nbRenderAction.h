@@ -21,8 +21,14 @@
 /// Drawing order and the rules of material groups are those of nbrender::ItemList. Handles, all
 /// items below a manipulator node, are tested LEQUAL and write depth in the front tenth of the
 /// depth range, whatever their chunks say, so that they show through every object and occlude each
-/// other; the near and far plane do not cut them. Blended items write no depth. Line widths are
+/// other; the near and far plane do not cut them. Blended items write no depth, except that of a
+/// surface which only a projected picture makes transparent the opaque parts do. Line widths are
 /// logical pixels.
+///
+/// The pictures of UberMaterials are projected per pixel, in the space of the node that carries the
+/// material: a geometry's own node or that of a material group, as osg::ColorComponentSettings has
+/// it. A texture environment of GL_BLEND, GL_MODULATE, GL_DECAL or GL_REPLACE mixes as in OpenGL,
+/// alpha and brightness formats included. Mipmaps that an image lacks are made.
 ///
 /// Lit surfaces get a light that travels with the camera, from above its left shoulder, and a sky
 /// and ground light; both sides of a surface are lit alike. Unlit ones show diffuse + emission, or
@@ -30,12 +36,19 @@
 /// + emission, exactly. Colours are not converted on their way to the frame buffer. There is a
 /// second output, the effect buffer, for effects on the finished picture: opaque scene items write
 /// their normal in view space, turned to the eye, as 0.5 n + 0.5 with alpha 1; the background and
-/// handles write zeros, blended items nothing. Programs of shader chunks write what they like; see
-/// nbShaderHeader.h for what they get. A program that does not compile costs one line in the log,
+/// handles write zeros, blended items nothing. Programs of shader chunks write what they like and
+/// where they like, so that their items are always in view; see nbShaderHeader.h for what they get.
+/// A program that does not compile costs one line in the log,
 /// and its items are drawn in plain colour.
 ///
-/// The background is the gradient of an UberViewport, or the colour of a SolidBackground, or black.
-/// Of an UberCamera, near and far are set to enclose the scene and handles around it.
+/// The background is the gradient of an UberViewport, or the colour of a SolidBackground, or black,
+/// and over it the UberViewport's photograph. Over pictures of the main render widget lies the lens
+/// of nbMagnifierRenderer while that is shown; the buffers that can be read do not have it. Of an
+/// UberCamera, near and far are set to enclose the scene and handles around it.
+///
+/// Scene plates (see osg::Sceneplate) lie over the background before the scene, or over the scene
+/// below the handles; where there are plates of the latter kind, all handles are drawn after all of
+/// the scene. The effect buffer does not know them.
 class NB_PLATFORM_API nbRenderAction
 {
 public:

@@ -69,15 +69,16 @@ bool ShaderPrograms::initialise(Gl& gl, std::string& error)
 GlProgram* ShaderPrograms::getMaterialProgram(Gl& gl, Shape shape, shaders::Clipping clipping,
                                               const shaders::Features& features)
 {
-    const std::size_t index = (clipping == shaders::Clipping::On ? 16U : 0U) +
-        (shape == Shape::Line ? 8U : 0U) + (features.lit ? 4U : 0U) +
-        (features.textured ? 2U : 0U) + (features.discards ? 1U : 0U);
+    const std::size_t index = (features.projected ? 32U : 0U) +
+        (clipping == shaders::Clipping::On ? 16U : 0U) + (shape == Shape::Line ? 8U : 0U) +
+        (features.lit ? 4U : 0U) + (features.textured ? 2U : 0U) + (features.discards ? 1U : 0U);
     GlProgram& program = material[index];
     if (!materialTried[index]) {
         materialTried[index] = true;
         std::string error;
-        const std::string vertex =
-            shape == Shape::Line ? shaders::lineVertex(clipping) : shaders::surfaceVertex(clipping);
+        const std::string vertex = shape == Shape::Line
+            ? shaders::lineVertex(clipping)
+            : shaders::surfaceVertex(clipping, features.projected);
         if (!program.build(gl, vertex, std::string(), shaders::surfaceFragment(features), error)) {
             nbLog::error("a program for materials does not compile on this driver: " + error);
         }

@@ -61,7 +61,7 @@ private:
     static void build(Gl& gl, const osg::SHLChunkPtr& chunk, Entry& entry);
     static void setParameters(Gl& gl, const osg::SHLChunkPtr& chunk, GlProgram& program);
 
-    static constexpr std::size_t kMaterialPrograms = 32;
+    static constexpr std::size_t kMaterialPrograms = 64;
 
     GlProgram standard[2];
     GlProgram material[kMaterialPrograms];

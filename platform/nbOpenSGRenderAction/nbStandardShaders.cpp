@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "nbStandardShaders.h"
 
+#include <nbOpenSGRenderAction/nbUberMaterialShader.h>
 #include <nbOpenSGUtils/nbShaderHeader.h>
 
 namespace nbrender::shaders {
 
 namespace {
 
-/// As many planes as kMostClipPlanes.
+const char* const kProjectedDefine = "#define PROJECTED\n";
+
+/// As many planes as nbClipSets::kMostPlanes.
 const char* const kClipFunctions = R"(
 #define CLIPPED
 uniform vec4 clipPlanes[6];
@@ -29,9 +32,15 @@ out vec3 viewNormal;
 out vec4 vertexColor;
 out vec2 texCoord;
 noperspective out float lineDistancePx;
+#ifdef PROJECTED
+out vec3 objectPosition;
+#endif
 void main()
 {
     gl_Position = nbClipFromObject * vec4(nbPosition, 1.0);
+#ifdef PROJECTED
+    objectPosition = nbPosition;
+#endif
     gl_PointSize = pointSize;
     viewPosition = (viewFromObject * vec4(nbPosition, 1.0)).xyz;
 #ifdef CLIPPED
@@ -175,6 +184,7 @@ uniform int vertexColors;
 uniform int textureMode;      // 0 none, 1 replace, 2 modulate, 3 blend, 4 decal
 uniform int textureHasColor;
 uniform int textureHasAlpha;
+uniform int textureIsIntensity;
 uniform vec4 textureEnvColor;
 uniform int alphaTest;        // GL comparison minus GL_NEVER
 uniform float alphaValue;
@@ -221,8 +231,11 @@ vec4 textured(vec4 color)
     if (textureHasColor == 0) {
         return vec4(color.rgb, alpha);
     }
-    return vec4(textureMode == 2 ? color.rgb * texel.rgb
-                                 : mix(color.rgb, textureEnvColor.rgb, texel.rgb), alpha);
+    if (textureMode == 2) {
+        return vec4(color.rgb * texel.rgb, alpha);
+    }
+    alpha = textureIsIntensity != 0 ? mix(color.a, textureEnvColor.a, texel.a) : alpha;
+    return vec4(mix(color.rgb, textureEnvColor.rgb, texel.rgb), alpha);
 }
 bool passesAlphaTest(float alpha)
 {
@@ -249,6 +262,9 @@ void main()
 {
     vec4 surface = vertexColors != 0 ? vec4(vertexColor.rgb, vertexColor.a * opacity)
                                      : vec4(diffuseColor, opacity);
+#ifdef PROJECTED
+    surface = withPictures(surface);
+#endif
     vec3 normal = facingNormal();
 #ifdef LIT
     vec4 color = vec4(shade(normal, surface.rgb), surface.a);
@@ -300,10 +316,11 @@ void main()
 
 }  // namespace
 
-std::string surfaceVertex(Clipping clipping)
+std::string surfaceVertex(Clipping clipping, bool projected)
 {
     return shaderHeaderString(nbShaderStage::Vertex, true, true, false) +
-        (clipping == Clipping::On ? kClipFunctions : "") + kSurfaceVertexBody;
+        (projected ? kProjectedDefine : "") + (clipping == Clipping::On ? kClipFunctions : "") +
+        kSurfaceVertexBody;
 }
 
 std::string lineVertex(Clipping clipping)
@@ -319,6 +336,7 @@ std::string surfaceFragment(const Features& features)
     text += features.lit ? "#define LIT\n" : "";
     text += features.textured ? "#define TEXTURED\n" : "";
     text += features.discards ? "#define DISCARDS\n" : "";
+    text += features.projected ? kProjectedDefine + uberMaterialFunctions() : "";
     return text + kSurfaceFragmentBody + kSurfaceMain;
 }
 

@@ -13,6 +13,7 @@ struct Features
     bool lit = true;  ///< shades; otherwise plain colours
     bool textured = true;  ///< mixes with a texture
     bool discards = true;  ///< has alpha test and line stipple
+    bool projected = false;  ///< shows the pictures of an UberMaterial; surfaces only
 };
 
 /// Clip planes that a vertex program made with them obeys: uniform vec4 array "clipPlanes" in view
@@ -26,8 +27,10 @@ enum class Clipping
 /// Materials for surfaceVertex and lineVertex.
 std::string surfaceFragment(const Features& features);
 
-std::string
-surfaceVertex(Clipping clipping = Clipping::Off);  ///< triangles and, with pointSize, points
+/// Triangles and, with pointSize, points.
+/// @param projected  for a fragment program with that feature
+std::string surfaceVertex(Clipping clipping = Clipping::Off, bool projected = false);
+
 std::string
 lineVertex(Clipping clipping =
                Clipping::Off);  ///< a line per instance, widened to a polygon with round ends

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-# Installs the build into a fresh prefix, builds examples/ with find_package(nbManipulator) and checks what it prints, and that the README
-# shows the program as it is.
+# Installs the build into a fresh prefix and uses it as a stranger would: builds examples/ with find_package(nbManipulator) and checks what
+# it prints, and that the README shows the program as it is; builds a program that drags a gizmo with pkg-config and runs it.
 
 function(run)
     execute_process(COMMAND ${ARGN} RESULT_VARIABLE status OUTPUT_VARIABLE output ERROR_VARIABLE errors)
@@ -13,6 +13,8 @@ endfunction()
 
 file(REMOVE_RECURSE ${SCRATCH}/prefix ${SCRATCH}/example)
 run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${SCRATCH}/prefix)
+
+# == The README's program, by its CMake project
 run(${CMAKE_COMMAND} -G Ninja -S ${SOURCE}/examples -B ${SCRATCH}/example -DCMAKE_BUILD_TYPE=Release
     -DCMAKE_PREFIX_PATH=${SCRATCH}/prefix -DCMAKE_CXX_COMPILER=${COMPILER} -DCMAKE_CXX_FLAGS=${FLAGS})
 run(${CMAKE_COMMAND} --build ${SCRATCH}/example)
@@ -26,4 +28,24 @@ file(READ ${SOURCE}/README.md readme)
 string(FIND "${readme}" "${program}" position)
 if(position EQUAL -1)
     message(FATAL_ERROR "README.md does not show examples/first_gizmo.cpp as it is")
+endif()
+
+# == A drag, by the compiler alone
+file(GLOB_RECURSE package ${SCRATCH}/prefix/nbManipulator.pc)
+get_filename_component(packages ${package} DIRECTORY)
+set(ENV{PKG_CONFIG_PATH} ${packages})
+run(pkg-config --cflags nbManipulator)
+separate_arguments(cflags UNIX_COMMAND "${output}")
+run(pkg-config --libs nbManipulator)
+separate_arguments(libs UNIX_COMMAND "${output}")
+run(pkg-config --variable=libdir nbManipulator)
+string(STRIP "${output}" libdir)
+separate_arguments(flags UNIX_COMMAND "${FLAGS}")
+run(${COMPILER} ${flags} -fPIC ${cflags} ${CMAKE_CURRENT_LIST_DIR}/drag/drag_gizmo.cpp -o ${SCRATCH}/drag_gizmo ${libs}
+    -Wl,-rpath,${libdir})
+run(${SCRATCH}/drag_gizmo)
+
+# == The viewer finds its libraries
+if(EXISTS ${SCRATCH}/prefix/bin/nbviewer)
+    run(${SCRATCH}/prefix/bin/nbviewer --version)
 endif()

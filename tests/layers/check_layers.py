@@ -22,7 +22,8 @@ FORBIDDEN = {
     "manipulator": [UPPER],
 }
 # Within platform/: each library may include those before it.
-PLATFORM_ORDER = ["nbUtils", "nbOpenSGExt", "nbOpenSGUtils", "nbOpenSGUberCamera", "nbOpenSGUberViewport", "nbKernel"]
+PLATFORM_ORDER = ["nbUtils", "nbOpenSGExt", "nbOpenSGUtils", "nbOpenSGUberCamera", "nbOpenSGUberViewport", "nbOpenSGUberMaterial",
+                  "nbOpenSGSceneplate", "nbKernel"]
 INCLUDE = re.compile(r'^\s*#\s*include\s*[<"]([^>"]+)[>"]')
 
 

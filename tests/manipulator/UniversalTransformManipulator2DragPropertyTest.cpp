@@ -343,7 +343,7 @@ TEST(DragProperties, PlanesAndArrowsKeepTheGrabbedPointUnderThePointer)
         Pnt3f held;
         ASSERT_TRUE(detail::pointerRay(drags.scene.widget, ray));
         ASSERT_TRUE(detail::intersectPlane(osg::Plane(normal, origin), ray, held));
-        const Vec2f gap = drags.rayPixelOf(held) - drags.pressed;
+        const Vec2f gap = drags.rayPixelOf(held) - drags.drag.pressed;
 
         const Pnt2f ahead = drags.rayPixelOf(held + axis * 0.1F);
         Vec2f along = ahead - drags.rayPixelOf(held);
@@ -364,7 +364,7 @@ TEST(DragProperties, PlanesAndArrowsKeepTheGrabbedPointUnderThePointer)
                 continue;  // behind the near plane, where nothing moves
             }
             const Vec3f moved = drags.onGizmo(Vec3f(0, 0, 0)) - origin;
-            const Vec2f now = drags.rayPixelOf(held + moved) - (drags.pressed + offset);
+            const Vec2f now = drags.rayPixelOf(held + moved) - (drags.drag.pressed + offset);
             const Vec2f drift = now - gap;
             ASSERT_LT(isPlane ? drift.length() : std::abs(drift.dot(along)), 0.6F);
         }
@@ -401,8 +401,8 @@ TEST(DragProperties, TheNodeTurnsAboutTheDrawnRingByThePointersAngle)
             Vec3f turned = arm;
             osg::Quaternion(axis, angle * static_cast<float>(i) / 40.0F).multVec(arm, turned);
             const Pnt2f pixel = drags.rayPixelOf(center + turned);
-            ASSERT_TRUE(drags.stepTo(Vec2f(std::round(pixel.x() - drags.pressed.x()),
-                                           std::round(pixel.y() - drags.pressed.y()))));
+            ASSERT_TRUE(drags.stepTo(Vec2f(std::round(pixel.x() - drags.drag.pressed.x()),
+                                           std::round(pixel.y() - drags.drag.pressed.y()))));
         }
         ASSERT_TRUE(detail::pointerRay(drags.scene.widget, ray));
         ASSERT_TRUE(detail::intersectPlane(plane, ray, last));

@@ -25,7 +25,6 @@ namespace {
 using nbec::interaction::Picker;
 
 const QString kModel = QStringLiteral(NB_VIEWER_FOLDER "/models/lighthouse.glb");
-const QString kShippedSession = QStringLiteral(NB_VIEWER_FOLDER "/sessions/first-light.json");
 
 /// Half the edge of the square of pixels that is looked at around a place.
 constexpr int kReachPx = 2;
@@ -246,15 +245,6 @@ TEST_F(FirstLight, AnArrowHeadHidesTheRingBehindItAndIsHiddenByTheRingBeforeIt)
                 << "the arrow head hides the ring before it";
         }
     }
-}
-
-TEST_F(FirstLight, TheShippedSessionMeetsItsCheckpoints)
-{
-    QString error;
-    const std::optional<Session> session = readSessionFile(kShippedSession, error);
-    ASSERT_TRUE(session) << error.toStdString();
-
-    replay(*session, std::nullopt);
 }
 
 TEST_F(FirstLight, TwoReplaysGiveTheSamePicture)

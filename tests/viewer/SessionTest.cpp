@@ -47,14 +47,20 @@ TEST(Session, SurvivesWritingAndReading)
     checkpoint.expectation.nodes[0].rotationDeg = std::array<double, 3> { 0.0, 45.0, -1.5 };
     SessionStep move;
     move.at = { SessionTarget::Kind::Pointer, {}, {}, { 3.0, -4.5 } };
-    session.steps = { press, wheel, checkpoint, move };
+    SessionStep command;
+    command.type = SessionStep::Type::Command;
+    command.name = "plates.addText";
+    command.value = QJsonObject { { "text", "Title" }, { "size", 0.25 } };
+    checkpoint.expectation.values = QJsonObject { { "plates.count", 1 } };
+    checkpoint.expectation.tolerance = 0.5;
+    session.steps = { press, wheel, checkpoint, move, command };
     QString error;
 
     const std::optional<Session> read = parseSession(sessionText(session), error);
 
     ASSERT_TRUE(read) << error.toStdString();
     EXPECT_EQ(sessionText(*read), sessionText(session));
-    ASSERT_EQ(read->steps.size(), 4U);
+    ASSERT_EQ(read->steps.size(), 5U);
     EXPECT_EQ(read->steps[0].at.name, "xaShape");
     EXPECT_EQ(read->steps[0].at.offsetPx, QPointF(2.5, -1.0));
     EXPECT_EQ(read->steps[0].modifiers, press.modifiers);
@@ -66,6 +72,8 @@ TEST(Session, SurvivesWritingAndReading)
     EXPECT_EQ((*read->steps[2].expectation.nodes[0].rotationDeg)[2], -1.5);
     EXPECT_EQ(read->steps[3].at.kind, SessionTarget::Kind::Pointer);
     EXPECT_EQ(read->steps[3].at.offsetPx, QPointF(3.0, -4.5));
+    EXPECT_EQ(read->steps[4].value, command.value);
+    EXPECT_EQ(read->steps[2].expectation.values, checkpoint.expectation.values);
 }
 
 TEST(Session, SaysWhatIsWrongAndWhere)
@@ -101,6 +109,7 @@ TEST(Session, SaysWhatIsWrongAndWhere)
         { withSteps(R"({"type": "press", "at": [1, 2], "modifiers": ["hyper"]})"),
           "unknown modifier \"hyper\"" },
         { withSteps(R"({"type": "key", "key": "Nonsense"})"), "unknown key \"Nonsense\"" },
+        { withSteps(R"({"type": "command", "value": 1})"), "steps[0]: \"command\" is missing" },
         { withSteps(R"({"type": "checkpoint", "name": "../../etc/x", "screenshot": true})"),
           "may not be a path" },
         { withSteps(R"({"type": "checkpoint", "name": "a", "expect": {"colour": 1}})"),

@@ -125,21 +125,6 @@ protected:
     MainWindow window;
 };
 
-TEST_F(TransformTools, TheShippedSessionMeetsItsCheckpoints)
-{
-    QString error;
-    const std::optional<Session> session =
-        readSessionFile(QStringLiteral(NB_VIEWER_FOLDER "/sessions/transform.json"), error);
-    ASSERT_TRUE(session) << error.toStdString();
-    bool done = false;
-    QObject::connect(&window, &MainWindow::replayFinished, [&done] { done = true; });
-
-    window.replay(*session, std::nullopt);
-    waitUntil([&done] { return done; });
-
-    EXPECT_EQ(window.player().getFailures(), QStringList());
-}
-
 TEST_F(TransformTools, ADragIsOneStepThatCanBeTakenBackOnceItIsOver)
 {
     const osg::Vec3f before = placeOf("Knot");

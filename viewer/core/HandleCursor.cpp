@@ -61,7 +61,7 @@ osg::NodePtr findPart(const osg::NodePtr& node, const std::string& name)
 /// Direction on screen of a handle's axis. @return false if it has none
 bool findAngle(Stage& stage, const std::string& handle, double& angleDeg)
 {
-    const osg::NodePtr part = findPart(stage.gizmo().handles(), handle);
+    const osg::NodePtr part = findPart(stage.handles(), handle);
     if (part == osg::NullFC) {
         return false;
     }

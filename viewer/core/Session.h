@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QJsonObject>
+#include <QJsonValue>
 #include <QPointF>
 #include <QSize>
 #include <QString>
@@ -51,6 +53,8 @@ struct SessionExpectation
     std::optional<bool> orthographic;
     std::optional<int> undoSteps;  ///< how many steps can be taken back
     std::vector<SessionNodeExpectation> nodes;
+    QJsonObject values;  ///< of Commands by their names
+    double tolerance = 1e-4;  ///< of each number in `values`
 };
 
 /// One event of a session.
@@ -68,6 +72,7 @@ struct SessionStep
         Key,  ///< press and release of a key
         KeyPress,
         KeyRelease,
+        Command,  ///< one of Commands
         Checkpoint,
     };
 
@@ -78,7 +83,8 @@ struct SessionStep
     int wheelDelta = 0;  ///< eighths of a degree, positive away from the person
     QString key;  ///< portable name such as "5", "Esc" or "F"
     int afterMs = 0;  ///< pause before the step when a session is shown to a person
-    QString name;  ///< of a checkpoint
+    QString name;  ///< of a checkpoint or a command
+    QJsonValue value;  ///< for a command
     bool screenshot = false;
     SessionExpectation expectation;
 };
@@ -109,7 +115,9 @@ struct Session
     std::optional<SessionCamera> camera;  ///< absent: the camera that the scene starts with
     std::optional<QString>
         selection;  ///< name of the node selected at the start, "" for none; absent: as it starts
-    QString manipulator;  ///< command name of the manipulator at the start; empty: as it starts
+    QString manipulator;  ///< command name of the manipulator or tool at the start; empty: as it
+                          ///< starts
+    QString folder;  ///< absolute, of the file read; files named in commands are found from there
     std::vector<SessionStep> steps;
 };
 

@@ -24,6 +24,7 @@ constexpr Word<Type> kTypes[] = {
     { "key", Type::Key },
     { "keyPress", Type::KeyPress },
     { "keyRelease", Type::KeyRelease },
+    { "command", Type::Command },
     { "checkpoint", Type::Checkpoint },
 };
 

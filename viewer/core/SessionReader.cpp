@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/core/CommandLine.h"
+#include "viewer/core/JsonReader.h"
 #include "viewer/core/Session.h"
 #include "viewer/core/SessionNames.h"
 
@@ -7,7 +8,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 #include <QKeySequence>
 
@@ -17,30 +17,16 @@ namespace viewer {
 namespace {
 
 constexpr qint64 kMaxSessionBytes = 64LL * 1024 * 1024;
-constexpr double kMaxCoordinate = 1e9;
 
-/// Walks a JSON document and remembers the first thing that is wrong with it, with its path.
-class Reader
+/// Walks the JSON document of a session.
+class Reader : private JsonReader
 {
 public:
-    explicit Reader(QString& errorText)
-        : error(errorText)
-    { }
+    using JsonReader::JsonReader;
 
     bool readSession(const QJsonObject& object, Session& session);
 
 private:
-    bool fail(const QString& path, const QString& what)
-    {
-        error = path.isEmpty() ? what : path + QStringLiteral(": ") + what;
-        return false;
-    }
-
-    bool checkKeys(const QJsonObject& object, const QString& path, const QStringList& known);
-    bool readNumbers(const QJsonValue& value, const QString& path, double* numbers, int count);
-    bool readString(const QJsonValue& value, const QString& path, QString& text);
-    bool readBool(const QJsonValue& value, const QString& path, bool& flag);
-    bool readInt(const QJsonValue& value, const QString& path, int limit, int& number);
     bool readSize(const QJsonValue& value, QSize& sizePx);
     bool readCamera(const QJsonValue& value, SessionCamera& camera);
     bool readStep(const QJsonValue& value, const QString& path, SessionStep& step);
@@ -54,62 +40,7 @@ private:
     bool readValues(const QJsonObject& object, const QString& path, const char* key,
                     std::optional<std::array<double, 3>>& values);
     bool checkStep(const QJsonObject& object, const QString& path, const SessionStep& step);
-
-    QString& error;
 };
-
-bool Reader::checkKeys(const QJsonObject& object, const QString& path, const QStringList& known)
-{
-    for (const QString& key : object.keys()) {
-        if (!known.contains(key)) {
-            return fail(path, QStringLiteral("unknown entry \"%1\"").arg(key));
-        }
-    }
-    return true;
-}
-
-bool Reader::readNumbers(const QJsonValue& value, const QString& path, double* numbers, int count)
-{
-    const QJsonArray array = value.toArray();
-    if (!value.isArray() || array.size() != count) {
-        return fail(path, QStringLiteral("expected an array of %1 numbers").arg(count));
-    }
-    for (int i = 0; i < count; ++i) {
-        numbers[i] = array.at(i).toDouble(NAN);
-        if (!array.at(i).isDouble() || !(std::abs(numbers[i]) <= kMaxCoordinate)) {
-            return fail(path, QStringLiteral("expected an array of %1 numbers").arg(count));
-        }
-    }
-    return true;
-}
-
-bool Reader::readString(const QJsonValue& value, const QString& path, QString& text)
-{
-    if (!value.isString()) {
-        return fail(path, QStringLiteral("expected a text"));
-    }
-    text = value.toString();
-    return true;
-}
-
-bool Reader::readBool(const QJsonValue& value, const QString& path, bool& flag)
-{
-    if (!value.isBool()) {
-        return fail(path, QStringLiteral("expected true or false"));
-    }
-    flag = value.toBool();
-    return true;
-}
-
-bool Reader::readInt(const QJsonValue& value, const QString& path, int limit, int& number)
-{
-    const double read = value.toDouble(NAN);
-    if (!value.isDouble() || read != std::floor(read) || !(std::abs(read) <= limit)) {
-        return fail(path, QStringLiteral("expected a whole number up to %1").arg(limit));
-    }
-    number = static_cast<int>(read);
-    return true;
-}
 
 bool Reader::readSize(const QJsonValue& value, QSize& sizePx)
 {
@@ -270,7 +201,9 @@ bool Reader::readExpectation(const QJsonValue& value, const QString& path,
         return fail(path, QStringLiteral("expected an object"));
     }
     const QJsonObject object = value.toObject();
-    if (!checkKeys(object, path, { "hover", "selection", "orthographic", "undoSteps", "nodes" })) {
+    if (!checkKeys(object, path,
+                   { "hover", "selection", "orthographic", "undoSteps", "nodes", "values",
+                     "tolerance" })) {
         return false;
     }
     QString text;
@@ -301,6 +234,13 @@ bool Reader::readExpectation(const QJsonValue& value, const QString& path,
             return false;
         }
     }
+    if (object.contains("values")) {
+        if (!object.value("values").isObject()) {
+            return fail(path + ".values", QStringLiteral("expected an object"));
+        }
+        expectation.values = object.value("values").toObject();
+    }
+    expectation.tolerance = object.value("tolerance").toDouble(expectation.tolerance);
     return !object.contains("nodes") ||
         readNodeExpectations(object.value("nodes"), path + ".nodes", expectation.nodes);
 }
@@ -335,6 +275,8 @@ bool Reader::checkStep(const QJsonObject& object, const QString& path, const Ses
         return (!step.name.isEmpty() || fail(path, QStringLiteral("\"name\" is missing"))) &&
             (!isPath || fail(path + ".name", QStringLiteral("may not be a path")));
     }
+    case Type::Command:
+        return object.contains("command") || fail(path, QStringLiteral("\"command\" is missing"));
     case Type::Leave:
         break;
     }
@@ -349,7 +291,7 @@ bool Reader::readStep(const QJsonValue& value, const QString& path, SessionStep&
     const QJsonObject object = value.toObject();
     if (!checkKeys(object, path,
                    { "type", "at", "button", "modifiers", "delta", "key", "after", "name",
-                     "screenshot", "expect" })) {
+                     "screenshot", "expect", "command", "value" })) {
         return false;
     }
     const auto type = stepTypeFromName(object.value("type").toString());
@@ -367,6 +309,9 @@ bool Reader::readStep(const QJsonValue& value, const QString& path, SessionStep&
         }
         step.button = *button;
     }
+    if (object.contains("value")) {
+        step.value = object.value("value");
+    }
     constexpr int kMaxDelta = 120000;
     constexpr int kMaxPauseMs = 60000;
     const auto has = [&object](const char* key) { return object.contains(QLatin1String(key)); };
@@ -379,6 +324,7 @@ bool Reader::readStep(const QJsonValue& value, const QString& path, SessionStep&
          readInt(object.value("after"), path + ".after", kMaxPauseMs, step.afterMs)) &&
         (!has("key") || readString(object.value("key"), path + ".key", step.key)) &&
         (!has("name") || readString(object.value("name"), path + ".name", step.name)) &&
+        (!has("command") || readString(object.value("command"), path + ".command", step.name)) &&
         (!has("screenshot") ||
          readBool(object.value("screenshot"), path + ".screenshot", step.screenshot)) &&
         (!has("expect") ||
@@ -439,32 +385,13 @@ bool Reader::readSession(const QJsonObject& object, Session& session)
     return true;
 }
 
-/// "line 3, column 7" of a byte in a text; both count from 1.
-QString placeInText(const QByteArray& text, int offset)
-{
-    const QByteArray before = text.left(offset);
-    const int line = before.count('\n') + 1;
-    const int column = offset - before.lastIndexOf('\n');
-    return QStringLiteral("line %1, column %2").arg(line).arg(column);
-}
-
 }  // namespace
 
 std::optional<Session> parseSession(const QByteArray& text, QString& error)
 {
-    QJsonParseError jsonError;
-    const QJsonDocument document = QJsonDocument::fromJson(text, &jsonError);
-    if (document.isNull()) {
-        error = QStringLiteral("%1: %2").arg(placeInText(text, jsonError.offset),
-                                             jsonError.errorString());
-        return std::nullopt;
-    }
+    const std::optional<QJsonObject> document = parseJsonObject(text, error);
     Session session;
-    if (!document.isObject()) {
-        error = QStringLiteral("expected a JSON object");
-        return std::nullopt;
-    }
-    if (!Reader(error).readSession(document.object(), session)) {
+    if (!document || !Reader(error).readSession(*document, session)) {
         return std::nullopt;
     }
     return session;
@@ -488,6 +415,7 @@ std::optional<Session> readSessionFile(const QString& path, QString& error)
         return std::nullopt;
     }
     const QDir folder = QFileInfo(path).absoluteDir();
+    session->folder = folder.path();
     for (QString& model : session->files) {
         model = QDir::cleanPath(folder.absoluteFilePath(model));
     }

@@ -3,6 +3,7 @@
 
 #include "viewer/core/SceneBuilder.h"
 #include "viewer/core/Stage.h"
+#include "viewer/core/StageTool.h"
 
 #include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
@@ -81,16 +82,19 @@ void sortFromTheMiddle(std::vector<osg::Pnt2f>& pixels)
 
 bool resolveHandle(const QString& name, Stage& stage, osg::Pnt2f& px, QString& error)
 {
-    std::vector<osg::Pnt2f> pixels;
     const std::string handle = name.toStdString();
-    collectHandle(stage, stage.gizmo().handles(), handle, pixels);
+    if (stage.activeTool() != nullptr && stage.activeTool()->findHandle(handle, px)) {
+        return true;
+    }
+    std::vector<osg::Pnt2f> pixels;
+    collectHandle(stage, stage.handles(), handle, pixels);
     if (pixels.empty()) {
         error = QStringLiteral("there is no handle \"%1\"").arg(name);
         return false;
     }
     sortFromTheMiddle(pixels);
     for (const osg::Pnt2f& candidate : pixels) {
-        if (stage.gizmo().handleAt(candidate) == handle) {
+        if (stage.handleAt(candidate) == handle) {
             px = candidate;
             return true;
         }

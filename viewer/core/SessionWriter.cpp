@@ -87,6 +87,10 @@ QJsonObject jsonOf(const SessionExpectation& expectation)
     if (!nodes.isEmpty()) {
         object["nodes"] = nodes;
     }
+    if (!expectation.values.isEmpty()) {
+        object["values"] = expectation.values;
+        object["tolerance"] = expectation.tolerance;
+    }
     return object;
 }
 
@@ -135,6 +139,12 @@ QJsonObject jsonOf(const SessionStep& step)
     }
     if (step.afterMs != 0) {
         object["after"] = step.afterMs;
+    }
+    if (step.type == Type::Command) {
+        object["command"] = step.name;
+        if (!step.value.isNull()) {
+            object["value"] = step.value;
+        }
     }
     if (step.type == Type::Checkpoint) {
         addCheckpoint(step, object);

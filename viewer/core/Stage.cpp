@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/core/Stage.h"
 
+#include "viewer/core/ClipPlanes.h"
+#include "viewer/core/ObjectCommands.h"
 #include "viewer/core/SceneBuilder.h"
+#include "viewer/core/StageTool.h"
 #include "viewer/core/StartScene.h"
 
 #include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbUndoService.h>
 #include <nbNotification/NotificationManager.h>
-#include <nbOpenSGExt/ClipPlane3D.h>
 #include <nbOpenSGSelection/nbSelection.h>
 #include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
@@ -50,25 +52,6 @@ void collectSurfaces(const osg::NodePtr& node, std::vector<osg::NodePtr>& object
     }
 }
 
-/// Whether there is a clip plane that one of two nodes has as its core, or gives its frame to.
-bool findClipPlaneOf(const osg::NodePtr& root, const osg::NodePtr& first,
-                     const osg::NodePtr& second)
-{
-    const osg::ClipPlane3DPtr plane = osg::ClipPlane3DPtr::dcast(root->getCore());
-    if (plane != osg::NullFC) {
-        const osg::NodePtr frame = plane->getTransformNode();
-        if (root == first || root == second || (frame != osg::NullFC && frame == second)) {
-            return true;
-        }
-    }
-    for (osg::UInt32 i = 0; i < root->getNChildren(); ++i) {
-        if (findClipPlaneOf(root->getChild(i), first, second)) {
-            return true;
-        }
-    }
-    return false;
-}
-
 }  // namespace
 
 Stage::Stage(nbOSGWidget& view)
@@ -84,7 +67,7 @@ Stage::Stage(nbOSGWidget& view)
     selectionContext.setTool(&selectionTool);
     cameraContext.setPicker(&scenePicker);
     cameraContext.setChangedCallback([this] {
-        gizmoController.followCamera();
+        viewChanged();
         changed();
     });
     manager.setCancelHandler([this] {
@@ -97,6 +80,35 @@ Stage::Stage(nbOSGWidget& view)
     manager.addContext(&selectionContext);
     manager.addContext(&cameraContext);
     selectionCallback = nbSelection::addChangedCallback([this] { selectionChanged(); });
+    addCommands();
+    addObjectCommands(*this);
+}
+
+void Stage::addCommands()
+{
+    commandTable.add(QStringLiteral("scene.addClipPlane"),
+                     [this](const QJsonValue&, QString& error) {
+                         const osg::NodePtr frame = addClipPlane(pose().from - pose().at);
+                         if (frame == osg::NullFC) {
+                             error = QStringLiteral("there is nothing to be cut");
+                             return false;
+                         }
+                         select(frame);
+                         showGizmo(Gizmo::Clipping);
+                         return true;
+                     });
+    commandTable.add(QStringLiteral("scene.removeClipPlane"),
+                     [this](const QJsonValue&, QString& error) {
+                         const osg::NodePtr frame = selectedObject();
+                         select(osg::NullFC);
+                         if (!removeClipPlane(frame)) {
+                             select(frame);
+                             error = QStringLiteral("select a clip plane first");
+                             return false;
+                         }
+                         showGizmo(Gizmo::Universal);
+                         return true;
+                     });
 }
 
 Stage::~Stage()
@@ -104,6 +116,7 @@ Stage::~Stage()
     nbSelection::removeChangedCallback(selectionCallback);
     changedCallback = nullptr;
     nbec::notification::NotificationManager::getInstance()->setChangeListener(nullptr);
+    endActiveTool();
     gizmoController.show(Gizmo::None);
     manager.removeContext(&selectionContext);
     manager.removeContext(&cameraContext);
@@ -113,12 +126,129 @@ Stage::~Stage()
 
 void Stage::showGizmo(Gizmo gizmo)
 {
+    endActiveTool();
     gizmoController.show(gizmo);
     changed();
 }
 
+// == Tools beside the gizmos
+
+void Stage::addTool(StageTool& tool)
+{
+    tools.push_back(&tool);
+}
+
+void Stage::removeTool(StageTool& tool)
+{
+    if (toolInUse == &tool) {
+        setActiveTool(nullptr);
+    }
+    tools.erase(std::remove(tools.begin(), tools.end(), &tool), tools.end());
+}
+
+void Stage::endActiveTool()
+{
+    if (toolInUse == nullptr) {
+        return;
+    }
+    manager.endDrag();
+    StageTool* former = toolInUse;
+    toolInUse = nullptr;
+    former->deactivate();
+}
+
+void Stage::setActiveTool(StageTool* tool)
+{
+    if (tool == toolInUse) {
+        return;
+    }
+    if (toolInUse == nullptr) {
+        gizmoBefore = gizmoController.shown();
+    }
+    endActiveTool();
+    if (tool == nullptr) {
+        gizmoController.show(gizmoBefore);
+    } else {
+        gizmoController.show(Gizmo::None);
+        toolInUse = tool;
+        tool->activate();
+    }
+    changed();
+}
+
+StageTool* Stage::toolByName(const std::string& name) const
+{
+    for (StageTool* tool : tools) {
+        if (name == tool->name()) {
+            return tool;
+        }
+    }
+    return nullptr;
+}
+
+std::string Stage::manipulatorName() const
+{
+    return toolInUse != nullptr ? toolInUse->name() : gizmoName(gizmoController.shown());
+}
+
+bool Stage::showManipulator(const std::string& name)
+{
+    Gizmo gizmo = Gizmo::None;
+    if (gizmoFromName(name, gizmo)) {
+        showGizmo(gizmo);
+        return true;
+    }
+    StageTool* tool = toolByName(name);
+    if (tool != nullptr) {
+        setActiveTool(tool);
+    }
+    return tool != nullptr;
+}
+
+osg::NodePtr Stage::handles()
+{
+    return toolInUse != nullptr ? toolInUse->handles() : gizmoController.handles();
+}
+
+std::string Stage::hoveredHandle()
+{
+    return toolInUse != nullptr ? toolInUse->hoveredHandle() : gizmoController.hoveredHandle();
+}
+
+std::string Stage::handleAt(const osg::Pnt2f& px)
+{
+    return toolInUse != nullptr ? toolInUse->handleAt(px) : gizmoController.handleAt(px);
+}
+
+std::string Stage::draggedValues() const
+{
+    return toolInUse != nullptr ? toolInUse->draggedValues() : gizmoController.draggedValues();
+}
+
+bool Stage::takePicture(const QString& file, const osg::Pnt2f& px, QString& error)
+{
+    std::vector<StageTool*> asked = tools;
+    std::stable_partition(asked.begin(), asked.end(),
+                          [this](const StageTool* tool) { return tool == toolInUse; });
+    for (StageTool* tool : asked) {
+        if (tool->takePicture(file, px, error)) {
+            return true;
+        }
+        if (!error.isEmpty()) {
+            return false;
+        }
+    }
+    return false;
+}
+
+// == Scene
+
 void Stage::clear()
 {
+    manager.endDrag();
+    for (StageTool* tool : tools) {
+        tool->sceneCleared();
+    }
     nbSelection::clear();
     gizmoController.setTarget(osg::NullFC);
     const osg::NodePtr root = nbScenegraph::getRootNode();
@@ -128,6 +258,7 @@ void Stage::clear()
     }
     triangles = 0;
     nbUndoService::the()->clear();
+    changed();
 }
 
 osg::NodePtr Stage::add(const ModelData& model)
@@ -207,9 +338,7 @@ std::vector<osg::NodePtr> Stage::selectedObjects() const
 
 bool Stage::isClipPlaneSelected() const
 {
-    const osg::NodePtr object = selectedObject();
-    return object != osg::NullFC &&
-        findClipPlaneOf(nbScenegraph::getRootNode(), nbSelection::getLast(), object);
+    return isClipPlaneOrFrame(selectedObject()) || isClipPlaneOrFrame(nbSelection::getLast());
 }
 
 void Stage::selectAll()
@@ -283,14 +412,28 @@ void Stage::resize(int widthPx, int heightPx, float pixelRatio)
     scenePicker.setPixelRatio(pixelRatio);
     selectionTool.setPixelRatio(pixelRatio);
     gizmoController.setPixelRatio(pixelRatio);
+    for (StageTool* tool : tools) {
+        tool->setPixelRatio(pixelRatio);
+    }
     renderWidget.resize(widthPx, heightPx);
-    gizmoController.followCamera();
+    viewChanged();
     renderWidget.update();
+}
+
+void Stage::viewChanged()
+{
+    gizmoController.followCamera();
+    for (StageTool* tool : tools) {
+        tool->viewChanged();
+    }
 }
 
 void Stage::update()
 {
     gizmoController.update();
+    for (StageTool* tool : tools) {
+        tool->update();
+    }
     const std::vector<osg::NodePtr> selected = selectedObjects();
     const osg::NodePtr preselected = selectionTool.getPreselected();
     const bool isNew = preselected != osg::NullFC &&
@@ -341,6 +484,9 @@ void Stage::setChangedCallback(std::function<void()> callback)
 void Stage::selectionChanged()
 {
     gizmoController.setTarget(selectedObject(), selectedObjects());
+    for (StageTool* tool : tools) {
+        tool->selectionChanged();
+    }
     changed();
 }
 

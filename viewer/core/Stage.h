@@ -2,6 +2,7 @@
 #pragma once
 
 #include "viewer/core/BoundsMarker.h"
+#include "viewer/core/Commands.h"
 #include "viewer/core/GizmoController.h"
 #include "viewer/core/ModelData.h"
 #include "viewer/core/PreselectionTool.h"
@@ -18,6 +19,8 @@
 #include <vector>
 
 namespace viewer {
+
+class StageTool;
 
 /// Everything that happens in the view without being a window: scene, selection, camera,
 /// manipulator and how input reaches them. Works without any widget, window or OpenGL; lives
@@ -36,8 +39,47 @@ public:
 
     GizmoController& gizmo() { return gizmoController; }
 
-    /// Changes the manipulator shown.
+    /// Changes the manipulator shown; an active tool ends.
     void showGizmo(Gizmo gizmo);
+
+    Commands& commands() { return commandTable; }
+
+    // == Tools beside the gizmos
+
+    /// Makes a tool known. @param tool  not owned; removed before it dies
+    void addTool(StageTool& tool);
+    void removeTool(StageTool& tool);
+    /// Gives the pointer to a tool; the gizmo shown, or the tool before, goes.
+    /// @param tool  one that was added; null: the gizmo shown before the first tool comes back
+    void setActiveTool(StageTool* tool);
+
+    StageTool* activeTool() const { return toolInUse; }
+
+    /// The tool of that name; null for none.
+    StageTool* toolByName(const std::string& name) const;
+
+    /// Word of the gizmo or tool that has the pointer, such as "universal".
+    std::string manipulatorName() const;
+    /// Shows the gizmo, or makes the tool active, of that name. @return false for an unknown one
+    bool showManipulator(const std::string& name);
+
+    // == Handles of the gizmo or of the active tool
+
+    /// Tree of the handles shown; null if there are none in the scene.
+    osg::NodePtr handles();
+    /// Name of the handle that is dragged, otherwise of that under the pointer; "" for none.
+    std::string hoveredHandle();
+    /// Name of the handle at a pixel, "" for none. @param px  device pixels, y from the top
+    std::string handleAt(const osg::Pnt2f& px);
+    /// What a running drag edits, such as "Rotation (0, 45, 0)"; "" while nothing is dragged.
+    std::string draggedValues() const;
+
+    // == Files
+
+    /// Offers a picture file to the tools, the active one first. @param px  where it was dropped
+    /// @return whether one took it; false with a text in `error`: it was meant but could not be
+    /// done
+    bool takePicture(const QString& file, const osg::Pnt2f& px, QString& error);
 
     nbOSGWidget& view() { return renderWidget; }
 
@@ -111,7 +153,10 @@ public:
     void setChangedCallback(std::function<void()> callback);
 
 private:
+    void addCommands();
     void selectionChanged();
+    void viewChanged();
+    void endActiveTool();
     void changed();
     void frame(const osg::NodePtr& node, const CameraPose& from);
 
@@ -125,6 +170,10 @@ private:
     BoundsMarker selectionMarker;
     BoundsMarker preselectionMarker;
     std::function<void()> changedCallback;
+    Commands commandTable;
+    std::vector<StageTool*> tools;
+    StageTool* toolInUse = nullptr;
+    Gizmo gizmoBefore = Gizmo::None;  ///< the first tool
     int selectionCallback = 0;
     std::size_t triangles = 0;
 };

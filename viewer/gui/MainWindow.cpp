@@ -3,46 +3,47 @@
 
 #include "viewer/core/ModelReader.h"
 #include "viewer/gui/MessageBar.h"
+#include "viewer/gui/PanelDocks.h"
 #include "viewer/gui/SessionPlayer.h"
 #include "viewer/gui/SessionRecorder.h"
+#include "viewer/gui/StatusLine.h"
 #include "viewer/gui/ViewWidget.h"
 #include "viewer/gui/WindowActions.h"
 
 #include <nbKernelServices/nbUndoService.h>
 
 #include <QCloseEvent>
-#include <QDockWidget>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGridLayout>
-#include <QLabel>
-#include <QProgressBar>
+#include <QImageReader>
 #include <QSettings>
 #include <QStatusBar>
 #include <QTimer>
-#include <QToolButton>
 #include <QUndoStack>
-#include <QUndoView>
 
 namespace viewer {
 namespace {
 
 constexpr int kRecentCount = 8;
-constexpr int kProgressWidth = 180;
-constexpr int kPercent = 100;
 
 /// A window that a window manager refuses the wanted size is waited for this often.
 constexpr int kMaxSizeChecks = 200;
 constexpr int kSizeCheckMs = 10;
 
 const char* const kRecentKey = "recentFiles";
+const char* const kLayoutKey = "windowLayout";
 const char* const kSessionFilter = "Sessions (*.json)";
 
-void setTextOf(QLabel* label, const QString& text)
+bool isSession(const QString& file)
 {
-    if (label->text() != text) {
-        label->setText(text);
-    }
+    return file.endsWith(QLatin1String(".json"), Qt::CaseInsensitive);
+}
+
+bool isPicture(const QString& file)
+{
+    const QByteArray suffix = QFileInfo(file).suffix().toLatin1().toLower();
+    return QImageReader::supportedImageFormats().contains(suffix);
 }
 
 osg::Pnt3f pointOf(const std::array<double, 3>& p)
@@ -71,6 +72,7 @@ MainWindow::MainWindow(Attendance attendance)
     , loader(new ModelLoader(this))
     , sessionPlayer(new SessionPlayer(*viewWidget, *this, this))
     , sessionRecorder(new SessionRecorder(*viewWidget, this))
+    , statusLine(new StatusLine(*statusBar()))
 {
     setShownTitle({});
     auto* centre = new QWidget(this);
@@ -79,8 +81,11 @@ MainWindow::MainWindow(Attendance attendance)
     layout->addWidget(viewWidget, 0, 0);
     setCentralWidget(centre);
     messageBar = new MessageBar(viewWidget);
-    createStatusLine();
-    createUndoList();
+    docks = new PanelDocks(*this, viewWidget->stage());
+    if (mode == Attendance::Attended) {
+        docks->arrange();
+        restoreState(QSettings().value(kLayoutKey).toByteArray());
+    }
     actions = new WindowActions(*this, viewWidget->stage());
     if (mode == Attendance::Attended) {
         actions->setRecentFiles(QSettings().value(kRecentKey).toStringList());
@@ -96,11 +101,21 @@ MainWindow::MainWindow(Attendance attendance)
         pendingSession.reset();
         emit problem(reason);
     });
-    connect(loader, &ModelLoader::progressed, this, [this](const QString& file, int percent) {
-        progress->setValue(percent);
-        progress->setFormat(QFileInfo(file).fileName() + QStringLiteral(" %p%"));
+    connect(loader, &ModelLoader::progressed, statusLine, &StatusLine::setProgress);
+    connect(statusLine, &StatusLine::stopLoadingAsked, this, [this] {
+        loader->cancel();
+        pendingSession.reset();
+        updateStatus();
     });
+    connect(docks, &PanelDocks::problem, this, &MainWindow::problem);
+    connect(nbUndoService::the()->getStack(), &QUndoStack::cleanChanged, this,
+            [this](bool clean) { setWindowModified(!clean); });
     connect(sessionPlayer, &SessionPlayer::finished, this, &MainWindow::concludeReplay);
+    viewWidget->stage().commands().setListener(
+        [this](const QString& name, const QJsonValue& value) {
+            sessionRecorder->addCommand(name, value);
+            viewWidget->stage().edited();
+        });
     viewWidget->stage().setChangedCallback([this] {
         actions->update();
         updateStatus();
@@ -111,56 +126,14 @@ MainWindow::MainWindow(Attendance attendance)
 MainWindow::~MainWindow()
 {
     viewWidget->stage().setChangedCallback(nullptr);
+    viewWidget->stage().commands().setListener(nullptr);
+    // Panels may own tools of the stage, which ends with the view.
+    delete docks;
     // The service outlives the window, and the end of the stage empties the stack.
     nbUndoService::the()->getStack()->disconnect(this);
     // The view is needed by what the window owns besides it.
     delete sessionPlayer;
     delete sessionRecorder;
-}
-
-void MainWindow::createStatusLine()
-{
-    handleLabel = new QLabel(this);
-    valuesLabel = new QLabel(this);
-    valuesLabel->setObjectName(QStringLiteral("values"));
-    selectionLabel = new QLabel(this);
-    sceneLabel = new QLabel(this);
-    progress = new QProgressBar(this);
-    progress->setRange(0, kPercent);
-    progress->setFixedWidth(kProgressWidth);
-    cancelButton = new QToolButton(this);
-    cancelButton->setText(tr("Stop loading"));
-    connect(cancelButton, &QToolButton::clicked, this, [this] {
-        loader->cancel();
-        pendingSession.reset();
-        updateStatus();
-    });
-    statusBar()->addWidget(selectionLabel);
-    statusBar()->addWidget(handleLabel);
-    statusBar()->addWidget(valuesLabel);
-    statusBar()->addPermanentWidget(progress);
-    statusBar()->addPermanentWidget(cancelButton);
-    statusBar()->addPermanentWidget(sceneLabel);
-    progress->hide();
-    cancelButton->hide();
-}
-
-void MainWindow::createUndoList()
-{
-    QUndoStack* stack = nbUndoService::the()->getStack();
-    undoView = new QUndoView(stack);
-    undoView->setObjectName(QStringLiteral("undoList"));
-    undoView->setEmptyLabel(tr("As opened"));
-    // Keys are for the view, whatever was clicked last.
-    undoView->setFocusPolicy(Qt::NoFocus);
-    auto* dock = new QDockWidget(tr("Steps"), this);
-    dock->setObjectName(QStringLiteral("undoDock"));
-    dock->setWidget(undoView);
-    addDockWidget(Qt::RightDockWidgetArea, dock);
-    dock->setVisible(mode == Attendance::Attended);
-    connect(stack, &QUndoStack::indexChanged, this, [this] { viewWidget->stage().edited(); });
-    connect(stack, &QUndoStack::cleanChanged, this,
-            [this](bool clean) { setWindowModified(!clean); });
 }
 
 void MainWindow::setShownTitle(const QString& name)
@@ -172,28 +145,8 @@ void MainWindow::setShownTitle(const QString& name)
 void MainWindow::updateStatus()
 {
     Stage& stage = viewWidget->stage();
-    const QString handle = QString::fromStdString(stage.gizmo().hoveredHandle());
-    const QString hovered = QString::fromStdString(stage.preselectedName());
-    const QString selected = QString::fromStdString(stage.selectedName());
-    const auto further = static_cast<int>(stage.selectedObjects().size()) - 1;
-    QString selection =
-        selected.isEmpty() ? tr("Nothing selected") : tr("Selected: %1").arg(selected);
-    if (further > 0) {
-        selection += tr(" and %n more", nullptr, further);
-    }
-    setTextOf(selectionLabel, selection);
-    setTextOf(valuesLabel, QString::fromStdString(stage.gizmo().draggedValues()));
-    // The list takes steps back by itself when it is clicked.
-    undoView->setEnabled(!stage.isDragging());
-    if (!handle.isEmpty()) {
-        setTextOf(handleLabel, tr("Handle: %1").arg(handle));
-    } else {
-        setTextOf(handleLabel,
-                  hovered.isEmpty() ? QString() : tr("Under the pointer: %1").arg(hovered));
-    }
-    setTextOf(sceneLabel, tr("%L1 triangles").arg(stage.triangleCount()));
-    progress->setVisible(loader->isRunning());
-    cancelButton->setVisible(loader->isRunning());
+    statusLine->update(stage, loader->isRunning());
+    docks->refresh();
 }
 
 // == Files
@@ -211,7 +164,7 @@ void MainWindow::openFiles(const QStringList& files, Opening opening)
 {
     openingFiles = files;
     openingMode = opening;
-    progress->setValue(0);
+    statusLine->setProgress({}, 0);
     loader->start(files);
     updateStatus();
 }
@@ -300,12 +253,18 @@ bool MainWindow::savePicture(const QString& path, QString& error)
     return true;
 }
 
-void MainWindow::handleDroppedFiles(const QStringList& files)
+void MainWindow::handleDroppedFiles(const QStringList& files, const osg::Pnt2f& px)
 {
-    if (files.size() == 1 && files.first().endsWith(QLatin1String(".json"), Qt::CaseInsensitive)) {
-        replayFile(files.first());
-    } else {
+    const QString& file = files.first();
+    if (files.size() > 1 || (!isPicture(file) && !isSession(file))) {
         openFiles(files, Opening::Replace);
+    } else if (isSession(file)) {
+        replayFile(file);
+    } else {
+        QString error;
+        if (!viewWidget->stage().takePicture(file, px, error)) {
+            emit problem(error.isEmpty() ? tr("%1: drop pictures on an object").arg(file) : error);
+        }
     }
 }
 
@@ -331,6 +290,9 @@ void MainWindow::closeEvent(QCloseEvent* event)
 {
     loader->cancel();
     sessionPlayer->stop();
+    if (mode == Attendance::Attended) {
+        QSettings().setValue(kLayoutKey, saveState());
+    }
     QMainWindow::closeEvent(event);
 }
 
@@ -363,12 +325,10 @@ bool MainWindow::setStageFor(const Session& session, QString& error)
         return false;
     }
     if (!session.manipulator.isEmpty()) {
-        Gizmo gizmo = Gizmo::None;
-        if (!gizmoFromName(session.manipulator.toStdString(), gizmo)) {
+        if (!stage.showManipulator(session.manipulator.toStdString())) {
             error = QStringLiteral("manipulator: unknown name \"%1\"").arg(session.manipulator);
             return false;
         }
-        stage.showGizmo(gizmo);
     }
     return true;
 }

@@ -5,21 +5,21 @@
 #include "viewer/core/Session.h"
 #include "viewer/gui/ModelLoader.h"
 
+#include <OpenSG/OSGConfig.h>
+#include <OpenSG/OSGVector.h>
+
 #include <QDir>
 #include <QMainWindow>
 
 #include <optional>
 
-class QLabel;
-class QProgressBar;
-class QToolButton;
-class QUndoView;
-
 namespace viewer {
 
 class MessageBar;
+class PanelDocks;
 class SessionPlayer;
 class SessionRecorder;
+class StatusLine;
 class ViewWidget;
 class WindowActions;
 
@@ -50,6 +50,8 @@ public:
     ~MainWindow() override;
 
     ViewWidget& view() { return *viewWidget; }
+
+    PanelDocks& panels() { return *docks; }
 
     // == Files
 
@@ -93,13 +95,11 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void createStatusLine();
-    void createUndoList();
     void setShownTitle(const QString& name);
     void updateStatus();
     void showLoadedModels();
     void addRecentFiles(const QStringList& files);
-    void handleDroppedFiles(const QStringList& files);
+    void handleDroppedFiles(const QStringList& files, const osg::Pnt2f& px);
     void replayFile(const QString& path);
     void beginReplay();
     bool setStageFor(const Session& session, QString& error);
@@ -114,13 +114,8 @@ private:
     SessionRecorder* sessionRecorder = nullptr;
     WindowActions* actions = nullptr;
 
-    QUndoView* undoView = nullptr;
-    QLabel* handleLabel = nullptr;
-    QLabel* valuesLabel = nullptr;
-    QLabel* selectionLabel = nullptr;
-    QLabel* sceneLabel = nullptr;
-    QProgressBar* progress = nullptr;
-    QToolButton* cancelButton = nullptr;
+    StatusLine* statusLine = nullptr;
+    PanelDocks* docks = nullptr;
 
     QStringList shownFiles;
     QStringList openingFiles;

@@ -1,14 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/gui/SessionPlayer.h"
 
-#include "viewer/core/SceneBuilder.h"
-#include "viewer/core/SessionNames.h"
+#include "viewer/core/SessionChecks.h"
 #include "viewer/core/SessionTargets.h"
 #include "viewer/gui/ViewWidget.h"
-
-#include <nbKernel/nbScenegraph.h>
-#include <nbKernelServices/nbUndoService.h>
-#include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <QAction>
 #include <QCoreApplication>
@@ -16,10 +11,7 @@
 #include <QKeySequence>
 #include <QMouseEvent>
 #include <QTimer>
-#include <QUndoStack>
 #include <QWheelEvent>
-
-#include <cmath>
 
 namespace viewer {
 namespace {
@@ -69,6 +61,7 @@ void SessionPlayer::start(const Session& newSession, Pace newPace,
                           const std::optional<QDir>& folder)
 {
     session = newSession;
+    view.stage().commands().setFolder(session.folder.isEmpty() ? QDir() : QDir(session.folder));
     pace = newPace;
     pictureFolder = folder;
     nextStep = 0;
@@ -133,6 +126,8 @@ bool SessionPlayer::play(const SessionStep& step, QString& error)
     case Type::KeyRelease:
         playKey(step);
         return true;
+    case Type::Command:
+        return view.stage().commands().run(step.name, step.value, error);
     case Type::Checkpoint:
         return playCheckpoint(step, error);
     case Type::Leave: {
@@ -244,7 +239,7 @@ bool SessionPlayer::triggerShortcut(int key, Qt::KeyboardModifiers modifiers)
 
 bool SessionPlayer::playCheckpoint(const SessionStep& step, QString& error)
 {
-    check(step);
+    failures.append(findFailures(step, view.stage()));
     if (!step.screenshot || !pictureFolder) {
         return true;
     }
@@ -260,83 +255,6 @@ bool SessionPlayer::playCheckpoint(const SessionStep& step, QString& error)
     pictures.append(path);
     emit pictureWritten(path);
     return true;
-}
-
-void SessionPlayer::check(const SessionStep& step)
-{
-    Stage& stage = view.stage();
-    const SessionExpectation& expectation = step.expectation;
-    if (expectation.hover) {
-        expect(step, "hover", *expectation.hover,
-               QString::fromStdString(stage.gizmo().hoveredHandle()));
-    }
-    if (expectation.selection) {
-        expect(step, "selection", *expectation.selection,
-               QString::fromStdString(stage.selectedName()));
-    }
-    if (expectation.orthographic) {
-        const auto word = [](bool on) {
-            return on ? QStringLiteral("true") : QStringLiteral("false");
-        };
-        expect(step, "orthographic", word(*expectation.orthographic),
-               word(stage.pose().orthographic));
-    }
-    if (expectation.undoSteps) {
-        expect(step, "undoSteps", QString::number(*expectation.undoSteps),
-               QString::number(nbUndoService::the()->getStack()->index()));
-    }
-    for (const SessionNodeExpectation& node : expectation.nodes) {
-        checkNode(step, node);
-    }
-}
-
-void SessionPlayer::checkNode(const SessionStep& step, const SessionNodeExpectation& node)
-{
-    const osg::NodePtr found = findObject(nbScenegraph::getRootNode(), node.node.toStdString());
-    if (found == osg::NullFC) {
-        failures.append(
-            QStringLiteral("checkpoint \"%1\": there is no node \"%2\"").arg(step.name, node.node));
-        return;
-    }
-    expectNear(step, node, "translation", node.translation,
-               nbNodeUtils::getTransformNodeTranslation(found));
-    expectNear(step, node, "rotation", node.rotationDeg,
-               nbNodeUtils::getTransformNodeRotation(found));
-    expectNear(step, node, "scale", node.scale, nbNodeUtils::getTransformNodeScale(found));
-}
-
-void SessionPlayer::expectNear(const SessionStep& step, const SessionNodeExpectation& node,
-                               const char* what,
-                               const std::optional<std::array<double, 3>>& expected,
-                               const osg::Vec3f& found)
-{
-    if (!expected) {
-        return;
-    }
-    bool isNear = true;
-    QStringList wantedWords;
-    QStringList foundWords;
-    for (osg::UInt32 i = 0; i < 3; ++i) {
-        const auto value = static_cast<double>(found[i]);
-        // Not a number is near to nothing.
-        isNear = isNear && std::abs(value - (*expected)[i]) <= node.tolerance;
-        wantedWords.append(QString::number((*expected)[i]));
-        foundWords.append(QString::number(value));
-    }
-    if (!isNear) {
-        failures.append(QStringLiteral("checkpoint \"%1\": %2 of \"%3\" is (%4) instead of (%5)")
-                            .arg(step.name, QLatin1String(what), node.node, foundWords.join(", "),
-                                 wantedWords.join(", ")));
-    }
-}
-
-void SessionPlayer::expect(const SessionStep& step, const char* what, const QString& expected,
-                           const QString& found)
-{
-    if (expected != found) {
-        failures.append(QStringLiteral("checkpoint \"%1\": %2 is \"%3\" instead of \"%4\"")
-                            .arg(step.name, QLatin1String(what), found, expected));
-    }
 }
 
 }  // namespace viewer

@@ -3,8 +3,6 @@
 
 #include "viewer/core/Session.h"
 
-#include <OpenSG/OSGVector.h>
-
 #include <QDir>
 #include <QEvent>
 #include <QObject>
@@ -66,12 +64,6 @@ private:
     void sendKey(QEvent::Type type, int key);
     bool triggerShortcut(int key, Qt::KeyboardModifiers modifiers);
     bool playCheckpoint(const SessionStep& step, QString& error);
-    void check(const SessionStep& step);
-    void checkNode(const SessionStep& step, const SessionNodeExpectation& node);
-    void expectNear(const SessionStep& step, const SessionNodeExpectation& node, const char* what,
-                    const std::optional<std::array<double, 3>>& expected, const osg::Vec3f& found);
-    void expect(const SessionStep& step, const char* what, const QString& expected,
-                const QString& found);
 
     Qt::KeyboardModifiers modifiersOf(const SessionStep& step) const
     {

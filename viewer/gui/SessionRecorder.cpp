@@ -69,7 +69,7 @@ void SessionRecorder::start(const QStringList& files)
     session.files = files;
     session.camera = cameraOf(view.stage().pose());
     session.selection = QString::fromStdString(view.stage().selectedName());
-    session.manipulator = QLatin1String(gizmoName(view.stage().gizmo().shown()));
+    session.manipulator = QString::fromStdString(view.stage().manipulatorName());
     checkpoints = 0;
     recording = true;
     clock.start();
@@ -89,7 +89,7 @@ void SessionRecorder::addCheckpoint()
     step.type = Type::Checkpoint;
     step.name = QStringLiteral("checkpoint %1").arg(++checkpoints);
     step.screenshot = true;
-    step.expectation.hover = QString::fromStdString(view.stage().gizmo().hoveredHandle());
+    step.expectation.hover = QString::fromStdString(view.stage().hoveredHandle());
     step.expectation.selection = QString::fromStdString(view.stage().selectedName());
     add(step);
 }
@@ -102,6 +102,18 @@ void SessionRecorder::addShortcut(const QString& keys)
     SessionStep step;
     step.type = Type::Key;
     step.key = keys;
+    add(step);
+}
+
+void SessionRecorder::addCommand(const QString& name, const QJsonValue& value)
+{
+    if (!recording) {
+        return;
+    }
+    SessionStep step;
+    step.type = Type::Command;
+    step.name = name;
+    step.value = value;
     add(step);
 }
 

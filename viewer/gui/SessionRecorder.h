@@ -34,6 +34,8 @@ public:
     void addCheckpoint();
     /// Adds a key that reached the window as a shortcut. @param keys  portable name
     void addShortcut(const QString& keys);
+    /// Adds a command that was done. @param value  as it was given
+    void addCommand(const QString& name, const QJsonValue& value);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -143,7 +143,7 @@ void ViewWidget::paintTextsOver(QImage& picture) const
 
 void ViewWidget::updateCursor()
 {
-    const HandleCursor wanted = cursorOfHandle(viewStage, viewStage.gizmo().hoveredHandle());
+    const HandleCursor wanted = cursorOfHandle(viewStage, viewStage.hoveredHandle());
     if (wanted != shownCursor) {
         shownCursor = wanted;
         setCursor(wanted.action == HandleAction::None ? QCursor(hostCursor) : cursorShape(wanted));
@@ -227,7 +227,10 @@ void ViewWidget::dropEvent(QDropEvent* event)
     const QStringList files = localFiles(event->mimeData());
     if (!files.isEmpty()) {
         event->acceptProposedAction();
-        emit filesDropped(files);
+        const double ratio = devicePixelRatioF();
+        emit filesDropped(files,
+                          { static_cast<float>(event->posF().x() * ratio),
+                            static_cast<float>(event->posF().y() * ratio) });
     }
 }
 

@@ -54,8 +54,8 @@ signals:
     void stateChanged();
     /// Drawing is not possible; one line. Comes once.
     void drawingFailed(const QString& reason);
-    /// A file was dropped on the view.
-    void filesDropped(const QStringList& files);
+    /// Files were dropped on the view, at least one. @param px  device pixels, y from the top
+    void filesDropped(const QStringList& files, const osg::Pnt2f& px);
 
 protected:
     bool event(QEvent* event) override;

@@ -3,6 +3,7 @@
 
 #include "viewer/core/Stage.h"
 #include "viewer/gui/MainWindow.h"
+#include "viewer/gui/PanelDocks.h"
 #include "viewer/gui/StepsPanel.h"
 #include "viewer/gui/ToolIcons.h"
 
@@ -109,6 +110,23 @@ QAction* WindowActions::addSwitch(QMenu* menu, const char* name, const QString& 
     return action;
 }
 
+QAction* WindowActions::addCommand(QMenu* menu, const char* command, const QString& text,
+                                   const QString& keys)
+{
+    QAction* action = menu->addAction(text);
+    action->setObjectName(QLatin1String(command));
+    action->setShortcut(QKeySequence(keys, QKeySequence::PortableText));
+    // A recording gets the command itself, so the shortcut is not told.
+    connect(action, &QAction::triggered, this, [this, command] {
+        QString error;
+        if (!stage.commands().run(QLatin1String(command), {}, error)) {
+            emit window.problem(error);
+        }
+        update();
+    });
+    return action;
+}
+
 void WindowActions::addFileMenu()
 {
     QMenu* menu = window.menuBar()->addMenu(tr("&File"));
@@ -153,6 +171,8 @@ void WindowActions::addViewMenu()
                              [this](bool on) { stage.setOrthographic(on); });
     zUp = addSwitch(menu, "zUp", tr("&Z is up"), "Z", [this](bool on) { stage.setZUp(on); });
     menu->addSeparator();
+    QMenu* panels = menu->addMenu(tr("&Panels"));
+    panels->addActions(window.panels().actions());
     addSwitch(menu, "effectBuffer", tr("Show &effect buffer"), "B",
               [this](bool on) { window.showEffectBuffer(on); });
 }
@@ -168,6 +188,9 @@ void WindowActions::addManipulatorMenu()
         gizmoGroup->addAction(action);
         gizmoActions[row.gizmo] = action;
     }
+    menu->addSeparator();
+    addCommand(menu, "scene.addClipPlane", tr("Add cl&ip plane"), "Shift+X");
+    removeClipPlane = addCommand(menu, "scene.removeClipPlane", tr("Remo&ve clip plane"), "");
     menu->addSeparator();
     addTransformSettings(menu);
 }
@@ -260,12 +283,26 @@ void WindowActions::update()
     const CameraPose pose = stage.pose();
     orthographic->setChecked(pose.orthographic);
     zUp->setChecked(pose.zUp);
-    gizmoActions[stage.gizmo().shown()]->setChecked(true);
+    updateGizmos();
     updateEditing();
     record->setChecked(window.isRecording());
     record->setEnabled(!window.isReplaying());
     checkpoint->setEnabled(window.isRecording());
     stopReplay->setEnabled(window.isReplaying());
+}
+
+void WindowActions::updateGizmos()
+{
+    if (stage.activeTool() == nullptr) {
+        gizmoActions[stage.gizmo().shown()]->setChecked(true);
+        return;
+    }
+    // An exclusive group lets go of its last choice only when it is not exclusive.
+    gizmoGroup->setExclusive(false);
+    for (const auto& [gizmo, action] : gizmoActions) {
+        action->setChecked(false);
+    }
+    gizmoGroup->setExclusive(true);
 }
 
 void WindowActions::updateEditing()
@@ -281,6 +318,7 @@ void WindowActions::updateEditing()
     const bool isSelected = stage.selectedObject() != osg::NullFC;
     centerPivots->setEnabled(isSelected && !stage.isDragging());
     gizmoActions[Gizmo::Clipping]->setEnabled(stage.isClipPlaneSelected());
+    removeClipPlane->setEnabled(stage.isClipPlaneSelected() && !stage.isDragging());
     localSpace->setChecked(stage.gizmo().isLocalSpace());
     snapping->setChecked(stage.gizmo().isSnapping());
 }

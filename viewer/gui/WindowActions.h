@@ -44,6 +44,8 @@ private:
                  std::function<void()> run);
     QAction* addSwitch(QMenu* menu, const char* name, const QString& text, const QString& keys,
                        std::function<void(bool)> run);
+    /// An action that runs a command of the stage. @param command  literal
+    QAction* addCommand(QMenu* menu, const char* command, const QString& text, const QString& keys);
     void addFileMenu();
     void addEditMenu();
     void addViewMenu();
@@ -51,6 +53,7 @@ private:
     void addSessionMenu();
     void addTransformSettings(QMenu* menu);
     void addToolBar();
+    void updateGizmos();
     void updateEditing();
 
     MainWindow& window;
@@ -63,6 +66,7 @@ private:
     QAction* localSpace = nullptr;
     QAction* snapping = nullptr;
     QAction* centerPivots = nullptr;
+    QAction* removeClipPlane = nullptr;
     QMenu* stepsMenu = nullptr;
     StepsPanel* stepsPanel = nullptr;
     QAction* orthographic = nullptr;

@@ -44,6 +44,11 @@ public:
     /// Has the volumes of all nodes with this core, and of their ancestors, worked out again.
     void invalidateVolume();
 
+    // A core may be part of something other than a node, as a transform is of a projection in a
+    // material. Its edits then count for all trees, see getTreeChangeCount.
+    void ownerAdded(FieldContainer& owner) override;
+    void ownerRemoved(FieldContainer& owner) override;
+
 protected:
     NodeCore() = default;
 
@@ -61,6 +66,7 @@ private:
     void subParent(const NodePtr& parent);
 
     MFNodePtr mfParents;
+    UInt32 ownerCount = 0;  ///< containers, other than nodes, that hold this one in a field
 };
 
 }  // namespace osg

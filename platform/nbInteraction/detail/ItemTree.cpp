@@ -38,6 +38,28 @@ bool meetsBox(const PickRay& ray, const PickBounds& box)
     return enter <= leave;
 }
 
+/// The part of a ray that is left of it, t from begin to end.
+struct Stretch
+{
+    float begin;
+    float end;
+
+    /// Takes away what lies on the far side of a plane; nothing is left when begin > end.
+    void cut(const osg::Vec4f& plane, const PickRay& ray)
+    {
+        const osg::Vec3f normal(plane[0], plane[1], plane[2]);
+        const float height = normal.dot(ray.origin.subZero()) + plane[3];
+        const float slope = normal.dot(ray.direction);
+        if (slope > 0.0f) {
+            begin = std::max(begin, -height / slope);
+        } else if (slope < 0.0f) {
+            end = std::min(end, -height / slope);
+        } else if (height < 0.0f) {
+            end = -1.0f;
+        }
+    }
+};
+
 PickBounds transformBounds(const PickBounds& local, const osg::Matrix& worldFromLocal)
 {
     PickBounds result;
@@ -68,9 +90,10 @@ PickBounds transformBounds(const PickBounds& local, const osg::Matrix& worldFrom
 // == PickItem
 
 PickItem::PickItem(osg::UInt32 id, std::shared_ptr<const PickTree> geometryTree,
-                   const osg::Matrix& matrix)
+                   const osg::Matrix& matrix, osg::UInt32 clipSetOfPlace)
     : nodeId(id)
     , tree(std::move(geometryTree))
+    , clipSet(clipSetOfPlace)
 {
     place(matrix);
 }
@@ -82,20 +105,24 @@ void PickItem::place(const osg::Matrix& matrix)
     worldBounds = transformBounds(tree->getBounds(), worldFromLocal);
 }
 
-bool PickItem::intersect(PickRay& worldRay, TreeHit& hit) const
+bool PickItem::intersect(PickRay& worldRay, const nbClipSets::Planes& planes, TreeHit& hit) const
 {
-    if (!isRegular) {
+    Stretch seen { 0.0f, worldRay.tFar };
+    for (const osg::Vec4f& plane : planes) {
+        seen.cut(plane, worldRay);
+    }
+    if (!isRegular || seen.begin > seen.end) {
         return false;
     }
     // The direction keeps its length in the world, so that t is the same in both spaces.
     PickRay ray;
-    localFromWorld.multMatrixPnt(worldRay.origin, ray.origin);
+    localFromWorld.multMatrixPnt(worldRay.origin + worldRay.direction * seen.begin, ray.origin);
     localFromWorld.multMatrixVec(worldRay.direction, ray.direction);
-    ray.tFar = worldRay.tFar;
+    ray.tFar = seen.end - seen.begin;
     if (!tree->intersect(ray, hit)) {
         return false;
     }
-    worldRay.tFar = ray.tFar;
+    worldRay.tFar = ray.tFar + seen.begin;
     return true;
 }
 
@@ -161,7 +188,7 @@ bool ItemTree::intersect(PickRay& ray, Hit& hit) const
         bool isHit = false;
         for (const PickItem& item : items) {
             if (!item.worldBounds.isEmpty && meetsBox(ray, item.worldBounds) &&
-                item.intersect(ray, hit.local)) {
+                item.intersect(ray, clipSets.planesOf(item.clipSet), hit.local)) {
                 hit.item = &item;
                 isHit = true;
             }
@@ -205,7 +232,7 @@ void ItemTree::intersectItem(const RTCIntersectFunctionNArguments* arguments)
     PickRay ray { { rayHit->ray.org_x, rayHit->ray.org_y, rayHit->ray.org_z },
                   { rayHit->ray.dir_x, rayHit->ray.dir_y, rayHit->ray.dir_z },
                   rayHit->ray.tfar };
-    if (item.intersect(ray, query->hit.local)) {
+    if (item.intersect(ray, self->clipSets.planesOf(item.clipSet), query->hit.local)) {
         query->hit.item = &item;
         rayHit->ray.tfar = ray.tFar;
         rayHit->hit.geomID = arguments->geomID;

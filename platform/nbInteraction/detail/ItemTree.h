@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <nbOpenSGExt/nbClipSets.h>
+
 #include <memory>
 #include <vector>
 
@@ -16,21 +18,24 @@ namespace nbec::interaction::detail {
 /// One geometry at one place in the world.
 struct PickItem
 {
+    /// @param clipSetOfPlace  set of the planes that cut the item
     PickItem(osg::UInt32 id, std::shared_ptr<const PickTree> geometryTree,
-             const osg::Matrix& matrix);
+             const osg::Matrix& matrix, osg::UInt32 clipSetOfPlace);
 
     /// Moves the item, and takes up the present bounds of its tree.
     void place(const osg::Matrix& matrix);
 
     /// As PickTree::intersect, but with ray and t in the world.
     /// A singular matrix flattens the geometry: it cannot be hit.
-    bool intersect(PickRay& worldRay, TreeHit& hit) const;
+    /// @param planes  what they cut away is not hit
+    bool intersect(PickRay& worldRay, const nbClipSets::Planes& planes, TreeHit& hit) const;
 
     osg::UInt32 nodeId;
     std::shared_ptr<const PickTree> tree;
     osg::Matrix worldFromLocal;
     osg::Matrix localFromWorld;
     PickBounds worldBounds;
+    osg::UInt32 clipSet = 0;
     bool isRegular = false;
 };
 
@@ -59,6 +64,11 @@ public:
 
     void refit();
 
+    /// The planes that cut the items, by their sets.
+    nbClipSets& editClipSets() { return clipSets; }
+
+    const nbClipSets& getClipSets() const { return clipSets; }
+
     /// Finds the nearest hit with 0 <= t <= ray.tFar; tFar becomes its t.
     bool intersect(PickRay& ray, Hit& hit) const;
 
@@ -70,6 +80,7 @@ private:
     static void intersectItem(const RTCIntersectFunctionNArguments* arguments);
 
     std::vector<PickItem> items;
+    nbClipSets clipSets;
     RTCScene scene = nullptr;
     RTCGeometry boxes = nullptr;  ///< owned by the scene
 };

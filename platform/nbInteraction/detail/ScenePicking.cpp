@@ -19,12 +19,20 @@ osg::FieldContainerPtr containerOf(osg::UInt32 id)
     return osg::FieldContainerFactory::the()->getContainer(id);
 }
 
+bool isCutAway(const osg::Pnt3f& world, const nbClipSets::Planes& planes)
+{
+    return std::any_of(planes.begin(), planes.end(), [&world](const osg::Vec4f& plane) {
+        return plane[0] * world[0] + plane[1] * world[1] + plane[2] * world[2] + plane[3] < 0.0f;
+    });
+}
+
 /// Whether two lists have the same nodes with the same trees, so that only places can differ.
 bool haveSameParts(const std::vector<PickItem>& a, const std::vector<PickItem>& b)
 {
     return std::equal(a.begin(), a.end(), b.begin(), b.end(),
                       [](const PickItem& left, const PickItem& right) {
-                          return left.nodeId == right.nodeId && left.tree == right.tree;
+                          return left.nodeId == right.nodeId && left.tree == right.tree &&
+                              left.clipSet == right.clipSet;
                       });
 }
 
@@ -75,11 +83,12 @@ std::vector<osg::NodePtr> ScenePicking::pickInside(const osg::NodePtr& root, con
 bool ScenePicking::isInside(const PickItem& item, const ScreenBox& box) const
 {
     bool isAnyInside = false;
+    const nbClipSets::Planes& planes = tree.getClipSets().planesOf(item.clipSet);
     for (const osg::Pnt3f& local : item.tree->getPositions()) {
         osg::Pnt3f world;
         item.worldFromLocal.multMatrixPnt(local, world);
         const ScreenProjection::Projected projected = projection.project(world);
-        if (!std::isfinite(projected.clip[3])) {
+        if (!std::isfinite(projected.clip[3]) || isCutAway(world, planes)) {
             continue;
         }
         if (!projected.isVisible() || !(projected.clip[3] > 0.0) ||
@@ -114,6 +123,7 @@ void ScenePicking::refresh(const osg::NodePtr& root)
     } else {
         refreshItems(touched);
     }
+    tree.editClipSets().update();
     rootId = id;
     rootChanges = changes;
 }
@@ -122,8 +132,9 @@ void ScenePicking::walk(const osg::NodePtr& root)
 {
     outline.clear();
     sources.clear();
+    tree.editClipSets().clear();
     std::vector<PickItem> items;
-    collect(root, osg::Matrix(), items);
+    collect(root, osg::Matrix(), 0, items);
     if (haveSameParts(items, tree.getItems())) {
         tree.editItems() = std::move(items);
         tree.refit();
@@ -134,12 +145,13 @@ void ScenePicking::walk(const osg::NodePtr& root)
 }
 
 void ScenePicking::collect(const osg::NodePtr& node, osg::Matrix worldFromParent,
-                           std::vector<PickItem>& items)
+                           osg::UInt32 clipSet, std::vector<PickItem>& items)
 {
     if (SceneOutline::isPassedBy(node)) {
         outline.closeNode(outline.openNode(node, SceneOutline::kNoItem));
         return;
     }
+    clipSet = tree.editClipSets().below(clipSet, node);
     osg::UInt32 item = SceneOutline::kNoItem;
     if (const osg::NodeCorePtr core = node->getCore(); core != osg::NullFC) {
         core->accumulateMatrix(worldFromParent);
@@ -148,12 +160,12 @@ void ScenePicking::collect(const osg::NodePtr& node, osg::Matrix worldFromParent
             item = static_cast<osg::UInt32>(items.size());
             sources.push_back({ geometry.getFieldContainerId(), geometry->getChangeCount() });
             items.emplace_back(node.getFieldContainerId(), PickTreeCache::the().treeOf(geometry),
-                               worldFromParent);
+                               worldFromParent, clipSet);
         }
     }
     const std::size_t record = outline.openNode(node, item);
     forEachEnteredChild(node, [&](const osg::NodePtr& child) {
-        collect(child, worldFromParent, items);
+        collect(child, worldFromParent, clipSet, items);
         return true;
     });
     outline.closeNode(record);

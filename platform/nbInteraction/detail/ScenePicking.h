@@ -43,7 +43,7 @@ private:
     void useView(const PickView& view);
     void refresh(const osg::NodePtr& root);
     void walk(const osg::NodePtr& root);
-    void collect(const osg::NodePtr& node, osg::Matrix worldFromParent,
+    void collect(const osg::NodePtr& node, osg::Matrix worldFromParent, osg::UInt32 clipSet,
                  std::vector<PickItem>& items);
     void refreshItems(const std::vector<osg::UInt32>& touched);
     bool refreshItem(std::size_t index);

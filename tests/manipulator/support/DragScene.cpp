@@ -5,7 +5,6 @@
 #include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbUndoService.h>
 #include <nbNotification/NotificationManager.h>
-#include <nbOpenSGUberCamera/UberCamera.h>
 #include <nbTransform/nbTransformModel.h>
 
 #include <OpenSG/OSGSimpleGeometry.h>
@@ -58,16 +57,7 @@ DragScene::~DragScene()
 
 void DragScene::look(Camera from, bool orthographic)
 {
-    const osg::UberCameraPtr camera = scene.widget.getUberCamera();
-    osg::beginEditCP(camera);
-    camera->setOrthographic(orthographic);
-    osg::endEditCP(camera);
-    static const osg::Pnt3f kEyes[] = {
-        { 0, 0, 10 }, { 10, 0, 0 }, { 0, 10, 0 }, { 20.0F / 7, 30.0F / 7, 60.0F / 7 }
-    };
-    const osg::Pnt3f& eye = kEyes[static_cast<std::size_t>(from)];
-    const osg::Vec3f up = from == Camera::Top ? osg::Vec3f(0, 0, -1) : osg::Vec3f(0, 1, 0);
-    camera->setFromAtUp(eye, osg::Pnt3f(0, 0, 0), up);
+    drag.look(from, orthographic);
     Gizmo::updateAllManipulators();
 }
 
@@ -98,15 +88,6 @@ void DragScene::activate(Gizmo::ManipulatorMode mode)
     }
 }
 
-osg::Pnt2f DragScene::rayPixelOf(const osg::Pnt3f& world) const
-{
-    const osg::Pnt2f middle(400.0F, 300.0F);
-    osg::Line ray;
-    scene.widget.getCamera()->calcViewRay(ray, 400, 300, *scene.widget.getViewport());
-    const osg::Pnt3f onRay = ray.getPosition() + ray.getDirection() * 10.0F;
-    return scene.pixelOf(world) + (middle - scene.pixelOf(onRay));
-}
-
 osg::Pnt3f DragScene::onGizmo(const osg::Vec3f& unit)
 {
     const osg::NodePtr handles = gizmo.getVisualisation()->getChild(3)->getChild(0);
@@ -117,36 +98,7 @@ osg::Pnt3f DragScene::onGizmo(const osg::Vec3f& unit)
 
 bool DragScene::grab(const osg::Vec3f& unit)
 {
-    const osg::Pnt2f pixel = rayPixelOf(onGizmo(unit));
-    pressed = osg::Pnt2f(std::round(pixel.x()), std::round(pixel.y()));
-    reached = osg::Vec2f();
-    return scene.send("start", pressed) && scene.send("process", pressed);
-}
-
-bool DragScene::stepTo(const osg::Vec2f& offsetPx)
-{
-    reached = offsetPx;
-    return scene.send(
-        "process",
-        osg::Pnt2f(std::round(pressed.x() + offsetPx.x()), std::round(pressed.y() + offsetPx.y())));
-}
-
-bool DragScene::dragBy(const osg::Vec2f& offsetPx)
-{
-    const osg::Vec2f from = reached;
-    const osg::Vec2f way = offsetPx - from;
-    const int steps = std::max(1, static_cast<int>(std::ceil(way.length())));
-    bool isHandled = true;
-    for (int i = 1; i <= steps; ++i) {
-        isHandled =
-            stepTo(from + way * (static_cast<float>(i) / static_cast<float>(steps))) && isHandled;
-    }
-    return isHandled;
-}
-
-bool DragScene::release()
-{
-    return scene.send("stop", osg::Pnt2f(pressed.x() + reached.x(), pressed.y() + reached.y()));
+    return drag.press(onGizmo(unit)) && drag.stepTo(osg::Vec2f());
 }
 
 osg::Transform3DPtr DragScene::core() const

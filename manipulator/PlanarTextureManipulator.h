@@ -1,0 +1,281 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "manipulator/NodeManipulator.h"
+
+#include <OpenSG/OSGMaterial.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+class nbMessage;
+class nbStateChunkBase;
+
+namespace nbec::manipulator {
+
+/// The gizmo that moves, turns and scales the planar projection of a picture on an object.
+///
+/// The projection belongs to a component of an osg::UberMaterial and lies in the space of the node:
+/// world = node.toWorld * projection. The gizmo only reads it; each step of a drag goes as a
+/// message to the receiver that the host named, whose answer shows once the projection is read
+/// again.
+///
+/// Tree. Under the root "Manipulatorgroup" one Transform3D places and sizes the handles, which are
+/// built once: arrows, plane handle, ring, scale axes and cube around the projection's centre, tabs
+/// at the middles of its edges, at its corners and at the end of its Z extent.
+///
+/// Decisions.
+/// - Frame. The handle frame has its origin at the projection's centre and its axes turned by
+///   rotation * rotation orientation, in world space through the node. Handle space is that frame
+///   in units of the projection's scale, so that the picture covers -1 to 1; an axis whose scale is
+///   below 1e-12 counts as 1. Below a mirrored node the handles are mirrored too.
+/// - Size. Handles keep their size on screen; tabs go to x, y = +-scale and z = -scale of the
+///   projection. With setUseTextureScale() the half of "projectionSize" takes the place of the
+///   scale in x and y and follows it from there. An orthographic view is measured by the
+///   near-plane diagonal.
+/// - Groups: translate shows arrows and plane handle, rotate the ring, scale the scale axes, the
+///   cube and all tabs, universal (at the start) everything. Ring blue with a grip in the accent
+///   colour; plane handle blue with a red and a green edge.
+/// - Z handles: "zsShape" and "scaleZPlaneShape" are visible unless setZScaleVisible(false); the
+///   latter shows the Z extent and can be hidden alone with showZScaleValue(false), for a
+///   projection that is not clamped. Scaling Z shows it again.
+/// - setUseObjectTranslation() puts the handles at the object's pivot, setUseObjectScale() starts
+///   from the scale of its transform instead of the projection's.
+/// - "transVec" is the motion of the projection's centre in the object's space. "offset" is its
+///   part in the handle frame's x and y; with setApplyProjectionRotationToTranslation() it is x and
+///   y of the turned "transVec".
+/// - Edges and corners. The tab keeps its distance from the pointer; the opposite edge or corner
+///   stays where it is, and the centre moves by half. No side shrinks below 0.01 of its start. With
+///   keep-aspect-ratio a corner goes along the diagonal and an edge scales the other side equally
+///   about its middle; a side of length 0 has no proportion and is left out. "clamping" is true for
+///   the Z plane, which scales the Z extent from the projection plane without moving the centre,
+///   and false, which says nothing, for the others.
+/// - A scale handle grabbed within 1e-6 of the centre has the factor 1. A step for which the drag
+///   plane is missed sends nothing; if that is so at the start, the first step that meets it starts
+///   the drag. A pointer on the centre keeps the last angle; angles lie within -pi to pi.
+/// - The on-screen text goes by what the grabbed handle edits: translation, scale or rotation.
+/// - A drag is held by the handle that was under the pointer at its start; hovering is refused
+///   until it stops. Deactivating ends it, and a pause of the preview that is still owed.
+/// - Copies share the handle tree with their original and are not registered; a pause of the
+///   preview stays with the original.
+///
+/// All instances share the size. Everything runs on the user-interface thread.
+class NB_MANIPULATOR_API PlanarTextureManipulator : public NodeManipulator
+{
+public:
+    /// The handle that is hovered or grabbed.
+    enum class ActiveMode : osg::UInt32
+    {
+        None = 0,
+        Rotate = 1,
+        TranslateX = 2,
+        TranslateY = 3,
+        TranslateZ = 4,
+        TranslateXY = 5,
+        ScaleX = 6,
+        ScaleY = 7,
+        ScaleZ = 8,
+        ScaleUniform = 9,
+        ScaleLowerLeft = 10,
+        ScaleUpperLeft = 11,
+        ScaleLowerRight = 12,
+        ScaleUpperRight = 13,
+        ScaleLeft = 14,
+        ScaleRight = 15,
+        ScaleLower = 16,
+        ScaleUpper = 17,
+        ScaleZPlane = 18
+    };
+
+    /// Groups of handles shown.
+    enum class ManipulatorMode : osg::UInt32
+    {
+        Universal = 0,
+        Translate = 1,
+        Scale = 2,
+        Rotate = 3
+    };
+
+    /// Builds the handles, hidden, and appends the instance to the list of live ones.
+    /// @param withDepthPass  also draws a copy of the handles with the depth test always passing
+    ///                       before them, for renderers that do not draw handles over the scene
+    explicit PlanarTextureManipulator(bool withDepthPass = false);
+    PlanarTextureManipulator(const PlanarTextureManipulator& other);
+    PlanarTextureManipulator& operator=(const PlanarTextureManipulator& other);
+
+    /// Also shows the handles if there is a node.
+    void activate(ManipulatorInteractionContext* ctx) override;
+    void deactivate(ManipulatorInteractionContext* ctx) override;
+    /// The root "Manipulatorgroup".
+    osg::NodePtr getVisualisation() override;
+    /// The root "Manipulatorgroup"; the named handles below it can be hit.
+    osg::NodePtr getCollider() override;
+
+    /// Reads the projection and re-places the handles if something was edited, the camera included,
+    /// or the size was set since the last time. Nothing while inactive or without a node.
+    /// @param force  in any case
+    void update(bool force) override;
+
+    /// Grabs the handle under the pointer, prepares, chooses plane and start point.
+    /// @return whether there is one
+    bool startManipulator(ManipulatorInteractionContext* ctx, const std::string& tool) override;
+    /// One step: makes the node a transform (with pivots at its centre if it has none), computes
+    /// from the start of the drag and sends. @return whether there is a handle and a node with a
+    /// parent
+    bool processManipulator(ManipulatorInteractionContext* ctx, const std::string& tool) override;
+    /// Lets go of the handle and resumes the preview. @return whether one was grabbed and there is
+    /// still a node
+    bool stopManipulator(ManipulatorInteractionContext* ctx, const std::string& tool) override;
+    /// Highlights the handle under the pointer. @return whether there is one
+    bool hoverManipulator(ManipulatorInteractionContext* ctx, const std::string& tool) override;
+    /// Takes the highlight away. @return true
+    bool resetManipulator(ManipulatorInteractionContext* ctx, const std::string& tool) override;
+
+    /// Unregisters the instance, resumes the preview if that is owed and releases the handles.
+    ~PlanarTextureManipulator() override;
+
+    /// Binds the gizmo to the object and prepares; null ends a drag and a pause that is owed.
+    void setNode(const osg::NodePtr& node) override;
+
+    /// Reads object and projection, asks for "::getScaleValues" if the texture scale is used, and
+    /// pauses the material preview. Without a projection the frame keeps its values.
+    void prepareManipulator(const osg::NodePtr& node);
+
+    // == What is edited
+
+    /// @param material       held by its id; null for none
+    /// @param componentType  name of the component within the material
+    /// @param gui            editor object of the host, not owned, may be null
+    void setMaterialComponent(osg::MaterialPtr material, const std::string& componentType,
+                              nbStateChunkBase* gui);
+    /// The material; null if there is none or it no longer exists.
+    osg::MaterialPtr getMaterial() const;
+    /// Whether the material is the edited one; false for null.
+    bool isConnectedToMaterial(osg::MaterialPtr material) const;
+    /// Whether material and component are the edited ones.
+    bool isConnectedTo(osg::MaterialPtr material, const std::string& componentType) const;
+    std::string getComponentType() const;
+    void setGUI(nbStateChunkBase* gui);
+    nbStateChunkBase* getGUI() const;
+    /// Prefix of the names of all messages to the editor; empty at the start.
+    void setMessageReceiver(const std::string& receiver);
+
+    // == Settings; all off at the start unless noted
+
+    /// Overridden by the material's flag whenever the gizmo prepares.
+    void setKeepAspectRatio(bool on);
+    bool getKeepAspectRatio() const;
+    /// Width by height of the picture, 1 at the start; overridden by the component's image.
+    void setAspectRatio(float ratio);
+    float getAspectRatio() const;
+    void setUseTextureScale(bool on);
+    /// What "::getScaleValues" was answered with last; (1, 1, 1) and (0, 0) before.
+    osg::Vec3f getInitialTextureScale() const;
+    osg::Vec2f getProjectionSize() const;
+    void setUseObjectScale(bool on);
+    void setUseObjectTranslation(bool on);
+    void setApplyProjectionRotationToTranslation(bool on);
+    /// On at the start.
+    void setZScaleVisible(bool on);
+    /// On at the start.
+    void showZScaleValue(bool on);
+
+    // == Handles shown
+
+    // Each shows the groups of its mode in their idle colours.
+    void activateTranslateManipulator();
+    void activateRotateManipulator();
+    void activateScaleManipulator();
+    void activateUniversalManipulator();
+
+    /// The groups shown; Universal after construction.
+    ManipulatorMode getMode() const;
+    /// The handle that is hovered or grabbed.
+    ActiveMode getActiveMode() const;
+
+    /// Shows the handles of the current mode and re-places them; hides them without a node.
+    void showActiveManipulator();
+    /// Hides all handles.
+    void hideManipulator();
+    /// Shows the handles of all groups.
+    void showAllElements();
+    void hideAllElements();
+    /// Gives each handle its idle colour.
+    void setDefaultMaterials();
+    /// Highlights the active handle.
+    void highlightMode();
+    /// Idle colours, then the highlight; while a handle is dragged also hides the groups that it
+    /// does not belong to. Deliberate: not for the x arrow and the plane handle.
+    void highlightControlElement();
+
+    // == Geometry
+
+    /// Centre of an object's volume, in the world's or in its own frame.
+    static osg::Pnt3f calculateObjectCenter(const osg::NodePtr& node, bool worldSpace);
+    /// Angle about the z axis from one point to another, radians within -pi to pi; 0 for a mode
+    /// other than Rotate and for a point on the axis.
+    /// @param from, to  in a frame with the centre of the turn at its origin
+    static float computeRotationAngles(osg::Pnt3f from, osg::Pnt3f to, ActiveMode mode);
+    /// Sets both pivots of the object to the projection's centre; the object stays where it is.
+    /// @return false without a node that can be made a transform
+    bool centerPivot();
+
+    /// Reads the projection again and places the handles.
+    void updateManipulator();
+    /// Chooses the drag plane of the active handle, through the origin of the handle frame.
+    void updateManipulatorPlane();
+
+    // == All instances
+
+    /// Creates a gizmo and makes it the shared instance, in place of an earlier one.
+    /// @param destroy  only destroys the shared instance
+    static void createInstance(bool destroy);
+
+    /// The shared instance, or null.
+    static PlanarTextureManipulator* getInstance() { return _the; }
+
+    /// Size on screen of all gizmos, 0 <= size < 200, default 32. The shared instance is re-placed
+    /// at once, others at their next update.
+    static void setManipulatorSize(float size);
+
+    static float getManipulatorSize() { return m_ManipulatorSize; }
+
+    /// Re-places every live gizmo, in the order of construction. The host calls it when the camera
+    /// has moved.
+    static void updateAllManipulators();
+
+private:
+    struct State;
+
+    void createManipulatorGeo(bool withDepthPass);
+    void createMaterials();
+    void activateMode(ManipulatorMode newMode);
+    void showElements();
+    void readProjection(const osg::NodePtr& node);
+    void askScaleValues();
+    void placeHandles();
+    ActiveMode detectMode(ManipulatorInteractionContext* ctx) const;
+    void endHover();
+    void endDrag();
+
+    void makeTransform(const osg::NodePtr& node);
+    void beginDrag();
+    void beginAt(const osg::Pnt3f& hit);
+    void dragTo(const osg::NodePtr& node);
+    void translate(const osg::Pnt3f& hit);
+    void rotate(const osg::Pnt3f& hit);
+    void scale(const osg::Pnt3f& hit);
+    void scaleEdge(osg::NodePtr node, const osg::Pnt3f& hit, int edge);
+    void setTranslationIn(nbMessage& message, const osg::Vec3f& shift) const;
+    void finishStep(nbMessage& message, const osg::NodePtr& node);
+    void setDescription(const osg::NodePtr& node);
+
+    static float m_ManipulatorSize;
+    static std::vector<PlanarTextureManipulator*> _allManipulators;
+    static PlanarTextureManipulator* _the;
+
+    std::unique_ptr<State> state;
+};
+
+}  // namespace nbec::manipulator

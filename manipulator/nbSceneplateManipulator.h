@@ -1,0 +1,222 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "manipulator/AbstractManipulator.h"
+
+#include <nbOpenSGSceneplate/Sceneplate.h>
+
+#include <OpenSG/OSGSimpleMaterial.h>
+#include <OpenSG/OSGTransform.h>
+
+#include <array>
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <vector>
+
+class nbOSGWidget;
+
+/// Moves, turns and scales the selected scene plates in the plane of the screen.
+///
+/// The manipulator edits no plate itself. Each change of a drag goes out as the kernel message
+/// "sceneplateChanged" with, in this order, "scaleFactor" (float), "offset" (QVector2D) and
+/// "rotation" (float): all three absolute from the drag's start. Plates scale by the factor and
+/// turn by the angle (degrees, counter-clockwise) about the centre of the selection's frame as it
+/// was at the start, and that centre moves by the offset (heights of the view, y up), so that
+/// scaling about a corner is a factor and an offset. While a handle is held the preview of
+/// materials is paused ("setMatRenderEnabled", "updateMatRender").
+///
+/// Decisions.
+/// - Frame: of one plate its own, turned with it; of several the upright rectangle around all. It
+///   is drawn at least 28 pixels wide and high, so that small plates can be grabbed.
+/// - Handles, by the names that the picker reports: the body "grid" (the frame and its inside)
+///   moves; the corner boxes "scaleXYLLShape", "scaleXYULShape", "scaleXYLRShape" and
+///   "scaleXYURShape" (lower left, upper left, lower right, upper right of the frame's own axes)
+///   scale; the arm "rotateShape" with its knob turns. The origin of a handle's node is where it is
+///   grabbed: centre of the frame, of the box, of the knob. Boxes win over arm and body.
+/// - Colours: frame and boxes yellow (they act on both axes), arm blue (it turns about the view
+///   axis), guide lines purple, orange highlights, all with a dark edge, so that they are seen on
+///   every plate. During a drag only the grabbed handle and the frame are shown.
+/// - Handles lie in a plane before the eye whose unit is a pixel (see detail/ScreenPlane.h). They
+///   are drawn over plates and scene and picked as those of the other manipulators, and have one
+///   size in logical pixels whatever the view's size: boxes 10, knob 12 across, arm 32 at the
+///   default manipulator size, proportional to it.
+/// - The arm stands above the frame, where the knob would not be in view below it, otherwise
+///   within. Boxes of a frame that reaches beyond opposite edges of the view are pulled in.
+/// - Scaling keeps the proportions and the opposite corner; in mode "precisionTool" (Ctrl) the
+///   centre. The mode may change within a drag. The longer side keeps at least 4 pixels.
+/// - Snapping (enableSnapping(), for body and arm also while the mode is "precisionTool"): the
+///   frame's edges and centre lines to the view's, a scaled corner to the view's edges and centre
+///   lines, within 8 logical pixels, with guide lines; the resulting rotation of the frame to
+///   multiples of 15 degrees.
+/// - A drag begins where the handle was pressed and sends nothing until something changes. It goes
+///   on as long as the plates and the view's size stay what they were; otherwise its further steps
+///   answer false, and nothing more is sent. Hovering is refused until it stops.
+///
+/// Plates are held by the ids of their nodes; one that is deleted drops out. Without plates, widget
+/// or area nothing is shown and every event answers false. All instances share the size. Everything
+/// runs on the user-interface thread.
+class NB_MANIPULATOR_API nbSceneplateManipulator : public nbec::manipulator::AbstractManipulator
+{
+public:
+    using ManipulatorInteractionContext = nbec::manipulator::ManipulatorInteractionContext;
+
+    /// The handle that is hovered or grabbed.
+    enum class ActiveMode : osg::UInt32
+    {
+        None = 0,
+        ScaleLowerLeft = 1,
+        ScaleUpperLeft = 2,
+        ScaleLowerRight = 3,
+        ScaleUpperRight = 4,
+        Rotate = 5,
+        Move = 6
+    };
+
+    /// Builds the handles, hidden, and appends the instance to the list of live ones.
+    nbSceneplateManipulator();
+    nbSceneplateManipulator(const nbSceneplateManipulator&) = delete;
+    nbSceneplateManipulator& operator=(const nbSceneplateManipulator&) = delete;
+
+    /// Also shows the handles if there are plates.
+    void activate(ManipulatorInteractionContext* ctx) override;
+    /// Also lets go of a grabbed handle.
+    void deactivate(ManipulatorInteractionContext* ctx) override;
+    /// The root "Manipulatorgroup".
+    osg::NodePtr getVisualisation() override;
+    /// The root "Manipulatorgroup"; the named handles below it can be hit.
+    osg::NodePtr getCollider() override;
+
+    /// Places the handles for the plates, the camera and the view's size as they are now; the host
+    /// calls it before a picture. Nothing while inactive, or if nothing has changed since the last
+    /// time in the same view.
+    /// @param force  places them in any case
+    void update(bool force) override;
+
+    /// Grabs the handle under the pointer and pauses the preview. @return whether there is one
+    bool startManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
+    /// @return whether a handle is grabbed and the drag can go on
+    bool processManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
+    /// Lets go of the handle and resumes the preview. @return whether one was grabbed and there is
+    /// still a plate
+    bool stopManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
+
+    /// Highlights the handle under the pointer. @return whether there is one
+    bool hoverManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
+    /// Takes the highlight away. @return true
+    bool resetManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
+
+    /// "precisionTool": see scaling and snapping above; every other mode ends it. As of the
+    /// transform gizmo, "precisionTool" and "" answer true and all others false.
+    bool setManipulatorMode(const std::string& mode) override;
+
+    /// Unregisters the instance and releases the handles.
+    ~nbSceneplateManipulator() override;
+
+    /// Sets the selected plates. @param nodes  held by id; null, double ones and nodes that are no
+    /// plates are left out
+    void setNodes(const std::vector<osg::NodePtr>& nodes);
+    /// The selected plates that still exist, in the given order.
+    std::vector<osg::NodePtr> getNodes() const;
+
+    /// The handle that is hovered or grabbed.
+    ActiveMode getActiveMode() const { return activeMode; }
+
+    /// Switches snapping of this manipulator; off at first.
+    void enableSnapping(bool on) { snappingEnabled = on; }
+
+    /// Switches the on-screen text of this manipulator; on at first.
+    void setDescriptionEnabled(bool on) { descriptionEnabled = on; }
+
+    /// Creates a manipulator and makes it the shared instance; an earlier shared instance is
+    /// destroyed.
+    static void createInstance();
+    /// Size of all handles, default 32. The shared instance is placed at once, others at their next
+    /// update. @param size  above 0, others are ignored
+    static void setManipulatorSize(float size);
+
+    static float getManipulatorSize() { return m_ManipulatorSize; }
+
+    /// Places the handles of every live manipulator, in the order of construction. Also called by
+    /// the widgets after a resize.
+    static void updateAllManipulators();
+
+private:
+    static constexpr std::size_t kHandleCount = 6;
+    static constexpr std::size_t kGuideCount = 2;
+    static constexpr std::size_t kPartCount = 2;
+    static constexpr std::size_t kColorCount = 5;
+
+    struct HandleRow;
+    static const std::array<HandleRow, kHandleCount> kHandles;
+    struct Drag;
+
+    /// A piece of a handle that changes its colour: a node with a geometry core.
+    struct HandlePart
+    {
+        osg::NodePtr node;
+        bool isLine = false;
+    };
+
+    /// The nodes of one row of the handle table; the handle tree keeps them alive.
+    struct HandleNodes
+    {
+        osg::NodePtr top;
+        osg::TransformPtr placement;  ///< core of the top
+        std::array<HandlePart, kPartCount> parts;
+    };
+
+    void createMaterials();
+    osg::NodePtr createManipulatorGeo();
+    static HandleNodes makeHandleNodes();
+    HandleNodes createHandle(const HandleRow& row) const;
+    void createBox(HandleNodes& box) const;
+    void createArm(HandleNodes& arm) const;
+    void createBody(HandleNodes& body) const;
+    HandleNodes createGuide() const;
+    void setHandleMaterials(std::size_t row, bool highlight);
+    void highlightMode(ActiveMode mode);
+    void showElements(ActiveMode grabbed);
+
+    std::vector<osg::SceneplatePtr> getPlates() const;
+    /// Whether getPlates() has any.
+    bool hasPlates() const;
+    ActiveMode detectMode(ManipulatorInteractionContext* ctx);
+    void updateManipulator();
+    bool placeHandles(const nbOSGWidget& widget);
+    void placeGuides(const nbOSGWidget& widget);
+    void followPixelRatio(const ManipulatorInteractionContext* ctx);
+    float unitPx() const;
+    bool canGoOn(const nbOSGWidget* widget) const;
+    void dragTo(const osg::Pnt2f& pointerPx);
+    void sendChange() const;
+    void endDrag();
+    void setDescription() const;
+
+    bool snappingActive() const { return precisionActive || snappingEnabled; }
+
+    static float m_ManipulatorSize;
+    static std::vector<nbSceneplateManipulator*> _allManipulators;
+    static nbSceneplateManipulator* _the;
+
+    std::vector<osg::UInt32> nodeIds;
+    ActiveMode activeMode = ActiveMode::None;
+    ActiveMode highlighted = ActiveMode::None;
+    bool precisionActive = false;
+    bool snappingEnabled = false;
+    bool descriptionEnabled = true;
+    float pixelRatio = 1.0F;
+    std::unique_ptr<Drag> drag;  ///< exactly while a handle is grabbed
+
+    osg::RefPtr<osg::NodePtr> root;
+    osg::RefPtr<osg::NodePtr> handleTree;
+    osg::TransformPtr screenPlane;  ///< core of the handle tree: world from pixels
+    std::array<HandleNodes, kHandleCount> handles;
+    std::array<HandleNodes, kGuideCount> guides;  ///< the vertical and the horizontal one
+    std::array<osg::SimpleMaterialRefPtr, kColorCount> solidMaterials;
+    std::array<osg::SimpleMaterialRefPtr, kColorCount> lineMaterials;
+    osg::SimpleMaterialRefPtr clearMaterial;  ///< of what is hit, but not seen
+    osg::UInt64 comparedStamp = 0;  ///< edits seen by the last update, see EditStamp.h
+    const nbOSGWidget* comparedWidget = nullptr;  ///< of the last update, for comparison only
+    float comparedUnitPx = 0.0F;
+};

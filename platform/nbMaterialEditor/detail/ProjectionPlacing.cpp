@@ -1,0 +1,170 @@
+// SPDX-License-Identifier: MIT
+#include "ProjectionPlacing.h"
+
+#include <nbOpenSGExt/nbEulerRotation.h>
+#include <nbOpenSGExt/nbRotationMath.h>
+
+#include <OpenSG/OSGRefPtr.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+using nbRotationMath::product;
+using nbRotationMath::toDouble;
+using nbRotationMath::toFloat;
+
+/// R of a Transform3D, which is what its matrix turns by before the rotation orientation.
+nbQuaterniond rotationOf(const nbTransformState& state)
+{
+    return state.rotationMode == osg::Transform3D::QuaternionMode
+        ? toDouble(state.rotationQuaternion)
+        : toDouble(nbEulerRotation::toQuaternion(state.eulerRotation, state.eulerRotationOrder));
+}
+
+nbQuaterniond unit(double x, double y, double z, double w)
+{
+    const double length = std::sqrt(x * x + y * y + z * z + w * w);
+    nbQuaterniond result;
+    if (length > 0.0) {
+        result.setValueAsQuat(x / length, y / length, z / length, w / length);
+    }
+    return result;
+}
+
+nbQuaterniond unit(const nbQuaterniond& q)
+{
+    return unit(q.x(), q.y(), q.z(), q.w());
+}
+
+nbQuaterniond inverse(const nbQuaterniond& q)
+{
+    return unit(-q.x(), -q.y(), -q.z(), q.w());
+}
+
+void setRotation(const nbQuaterniond& rotation, nbTransformState& state)
+{
+    const osg::Quaternion turn = toFloat(unit(rotation));
+    if (state.rotationMode == osg::Transform3D::AxisAlignedMode) {
+        state.eulerRotation = nbEulerRotation::fromQuaternion(turn, state.eulerRotationOrder);
+        return;
+    }
+    state.rotationQuaternion = turn;
+    state.rotationMode = osg::Transform3D::QuaternionMode;
+}
+
+osg::Vec3d axis(const nbTransformState& projection, std::size_t index)
+{
+    const nbRotationMath::Rows rows = nbRotationMath::rotationRows(
+        product(rotationOf(projection), toDouble(projection.rotationOrientation)));
+    return { rows[0][index], rows[1][index], rows[2][index] };
+}
+
+void takeRotation(const nbTransformState& start, nbTransformState& result)
+{
+    result.rotationMode = start.rotationMode;
+    result.eulerRotation = start.eulerRotation;
+    result.eulerRotationOrder = start.eulerRotationOrder;
+    result.rotationQuaternion = start.rotationQuaternion;
+    result.rotationOrientation = start.rotationOrientation;
+}
+
+bool isFinite(const osg::Vec3d& v)
+{
+    return std::isfinite(v.x()) && std::isfinite(v.y()) && std::isfinite(v.z());
+}
+
+}  // namespace
+
+osg::Vec3f turned(const nbTransformState& projection, const osg::Vec3f& vector)
+{
+    osg::Vec3d sum;
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        sum += axis(projection, i) * double(vector[i]);
+    }
+    return { static_cast<float>(sum.x()), static_cast<float>(sum.y()),
+             static_cast<float>(sum.z()) };
+}
+
+void turnAboutOwnZ(const nbTransformState& start, float angle, nbTransformState& result)
+{
+    takeRotation(start, result);
+    if (angle == 0.f) {
+        return;
+    }
+    const nbQuaterniond turn = unit(0.0, 0.0, std::sin(0.5 * angle), std::cos(0.5 * angle));
+    const nbQuaterniond orientation = unit(toDouble(start.rotationOrientation));
+    setRotation(
+        product(product(rotationOf(start), orientation), product(turn, inverse(orientation))),
+        result);
+}
+
+void turnZTo(const nbTransformState& start, const osg::Vec3f& normal, nbTransformState& result)
+{
+    takeRotation(start, result);
+    osg::Vec3d target(normal.x(), normal.y(), normal.z());
+    target.normalize();
+    const osg::Vec3d z = axis(start, 2);
+    const osg::Vec3d cross = z.cross(target);
+    const double cosine = z.dot(target);
+    // The angle from here on is not told from none, or a half turn.
+    constexpr double kSmallest = 1e-7;
+    if (cosine > 0.0 && cross.length() < kSmallest) {
+        return;
+    }
+    const osg::Vec3d y = axis(start, 1);
+    const nbQuaterniond turn = cosine < 0.0 && cross.length() < kSmallest
+        ? unit(y.x(), y.y(), y.z(), 0.0)
+        : unit(cross.x(), cross.y(), cross.z(), 1.0 + cosine);
+    setRotation(product(turn, rotationOf(start)), result);
+}
+
+bool toObject(const osg::Matrix& worldFromObject, const osg::Pnt3f& worldPoint,
+              const osg::Vec3f& worldNormal, osg::Pnt3f& point, osg::Vec3f& normal)
+{
+    osg::Matrix objectFromWorld;
+    if (!worldFromObject.inverse(objectFromWorld)) {
+        return false;
+    }
+    point = worldPoint;
+    objectFromWorld.multMatrixPnt(point);
+    // Normals go by the transposed matrix on this way.
+    osg::Vec3d back;
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        for (osg::UInt32 k = 0; k < 3; ++k) {
+            back[i] += double(worldFromObject[i][k]) * worldNormal[k];
+        }
+    }
+    const double length = back.length();
+    if (length > 0.0) {
+        back *= 1.0 / length;
+    }
+    normal = osg::Vec3f(static_cast<float>(back.x()), static_cast<float>(back.y()),
+                        static_cast<float>(back.z()));
+    return isFinite(back) && isFinite(osg::Vec3d(point.x(), point.y(), point.z()));
+}
+
+osg::Vec3f naturalScale(float aspect)
+{
+    return { aspect, 1.f, 1.f };
+}
+
+nbTransformState fittedProjection(const osg::BoxVolume& bounds, float aspect)
+{
+    const osg::RefPtr<osg::Transform3DPtr> fresh(osg::Transform3D::create());
+    nbTransformState state = nbTransformState::of(*fresh.get());
+    float half = 1.f;
+    if (!bounds.isEmpty()) {
+        const osg::Pnt3f low = bounds.getMin();
+        const osg::Pnt3f high = bounds.getMax();
+        const osg::Vec3f size = high - low;
+        const float largest = std::max({ size.x(), size.y(), size.z() });
+        half = largest > 0.f ? 0.25f * largest : 1.f;
+        state.translation =
+            osg::Vec3f(0.5f * (low.x() + high.x()), 0.5f * (low.y() + high.y()), high.z());
+    }
+    state.scale = naturalScale(aspect) * (half / std::max(aspect, 1.f));
+    state.scale[2] = half;
+    return state;
+}

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <nbOpenSGUtils/nbTransformState.h>
+
+#include <OpenSG/OSGBoxVolume.h>
+#include <OpenSG/OSGMatrix.h>
+#include <OpenSG/OSGVector.h>
+
+/// Arithmetic on the parts of a projection. Angles are radians.
+
+/// A vector of the projection's own, unscaled axes in the object's space.
+osg::Vec3f turned(const nbTransformState& projection, const osg::Vec3f& vector);
+
+/// Gives a projection the rotation of another one, turned about that one's own Z axis. The rotation
+/// orientation stays.
+void turnAboutOwnZ(const nbTransformState& start, float angle, nbTransformState& result);
+
+/// Gives a projection the rotation of another one, turned by the least angle that brings its Z axis
+/// to a direction; to the opposite one about its own Y axis, so that up stays up.
+/// @param normal  of any length > 0, in the object's space
+void turnZTo(const nbTransformState& start, const osg::Vec3f& normal, nbTransformState& result);
+
+/// Brings a surface point and normal of the world to an object's space.
+/// @return false if the object is flattened or something is not finite; a normal without length is
+/// answered as zero
+bool toObject(const osg::Matrix& worldFromObject, const osg::Pnt3f& worldPoint,
+              const osg::Vec3f& worldNormal, osg::Pnt3f& point, osg::Vec3f& normal);
+
+/// Scale of a picture with undistorted pixels and a height of two units.
+/// @param aspect  width / height, > 0
+osg::Vec3f naturalScale(float aspect);
+
+/// A projection onto the front of an object, with undistorted pixels, half as large as the object.
+/// @param bounds  of the object in its own space; empty: a picture with its longer side at 2
+nbTransformState fittedProjection(const osg::BoxVolume& bounds, float aspect);

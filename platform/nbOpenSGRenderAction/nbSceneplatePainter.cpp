@@ -1,0 +1,255 @@
+// SPDX-License-Identifier: MIT
+#include "nbSceneplatePainter.h"
+
+#include <nbOpenSGSceneplate/nbSceneplateLayout.h>
+#include <nbOpenSGSceneplate/nbSceneplatePicture.h>
+#include <nbOpenSGUtils/nbShaderHeader.h>
+#include <nbUtils/nbLog.h>
+
+#include <OpenSG/OSGChangeCount.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace nbrender {
+
+namespace {
+
+constexpr GLuint kEffectBuffer = 1;
+constexpr GLsizei kCorners = 4;
+
+const char* const kPlateVertexBody = R"(
+uniform vec2 viewSize;
+uniform vec2 origin;
+uniform vec2 sideX;
+uniform vec2 sideY;
+out vec2 texCoord;
+void main()
+{
+    vec2 place = vec2(gl_VertexID & 1, gl_VertexID >> 1);
+    vec2 pixel = origin + place.x * sideX + place.y * sideY;
+    vec2 part = pixel / viewSize;
+    texCoord = vec2(place.x, 1.0 - place.y);
+    gl_Position = vec4(2.0 * part.x - 1.0, 1.0 - 2.0 * part.y, 0.0, 1.0);
+}
+)";
+
+const char* const kPlateFragmentBody = R"(
+uniform sampler2D picture;
+uniform bool textured;
+uniform vec4 color;
+in vec2 texCoord;
+layout (location = 0) out vec4 colorBufferRGBA;
+void main()
+{
+    colorBufferRGBA = textured ? color * texture(picture, texCoord) : color;
+}
+)";
+
+/// An outline: a bright line next to the plate and a dark one around that, which together show on
+/// any ground.
+struct OutlineStyle
+{
+    float brightPx;  ///< logical pixels
+    float darkPx;
+    osg::Color4f color;
+};
+
+const osg::Color4f kDarkLine(0.05f, 0.05f, 0.06f, 0.55f);
+const OutlineStyle kSelectedStyle { 2.f, 1.f, osg::Color4f(1.f, 0.72f, 0.2f, 1.f) };
+const OutlineStyle kPreselectedStyle { 1.f, 1.f, osg::Color4f(0.75f, 0.88f, 1.f, 0.9f) };
+
+/// Times alpha, as blending expects it.
+osg::Color4f premultiplied(const osg::Color4f& color, float opacity)
+{
+    const float alpha = std::clamp(color.alpha(), 0.f, 1.f) * std::clamp(opacity, 0.f, 1.f);
+    return { color.red() * alpha, color.green() * alpha, color.blue() * alpha, alpha };
+}
+
+/// At least one device pixel, and whole ones, so that lines along the pixels are sharp.
+float devicePixels(float logicalPx, float pixelRatio)
+{
+    return std::max(std::floor(logicalPx * pixelRatio + 0.5f), 1.f);
+}
+
+}  // namespace
+
+/// A parallelogram in device pixels, y from the top: origin + a x + b y, 0 <= a, b <= 1.
+struct SceneplatePainter::Quad
+{
+    osg::Pnt2f origin;
+    osg::Vec2f x;
+    osg::Vec2f y;
+    GLuint texture = 0;  ///< 0: the colour alone
+    osg::Color4f color;  ///< factor, multiplied by its alpha
+};
+
+void SceneplatePainter::update(const osg::NodePtr& root)
+{
+    const osg::UInt32 id = root == osg::NullFC ? 0 : root.getFieldContainerId();
+    const osg::UInt64 count = osg::getTreeChangeCount(root);
+    if (id == rootId && count == treeCount) {
+        return;
+    }
+    rootId = id;
+    treeCount = count;
+    plates = nbSceneplateList::collectShown(root);
+    const auto front = std::find_if(plates.begin(), plates.end(),
+                                    [](const auto& entry) { return entry.plate->getFront(); });
+    frontBegin = static_cast<std::size_t>(front - plates.begin());
+    hasMarkers = std::any_of(plates.begin(), plates.end(), [](const auto& entry) {
+        return entry.plate->getMarker() != osg::Sceneplate::NoMarker;
+    });
+}
+
+void SceneplatePainter::drawBack(Gl& gl, const PlateFrame& frame, GLuint emptyArray)
+{
+    if (frontBegin > 0 && begin(gl, frame, emptyArray)) {
+        drawPlates(gl, frame, 0, frontBegin);
+        end(gl);
+    }
+}
+
+void SceneplatePainter::drawFront(Gl& gl, const PlateFrame& frame, GLuint emptyArray)
+{
+    if (!hasFront() || !begin(gl, frame, emptyArray)) {
+        return;
+    }
+    drawPlates(gl, frame, frontBegin, plates.size());
+    for (const nbSceneplateList::Entry& entry : plates) {
+        if (entry.plate->getMarker() != osg::Sceneplate::NoMarker) {
+            drawMarker(gl, frame, entry.plate);
+        }
+    }
+    end(gl);
+}
+
+bool SceneplatePainter::begin(Gl& gl, const PlateFrame& frame, GLuint emptyArray)
+{
+    if (!programTried) {
+        programTried = true;
+        std::string error;
+        if (!program.build(gl,
+                           shaderHeaderString(nbShaderStage::Vertex, false, false, false) +
+                               kPlateVertexBody,
+                           std::string(),
+                           shaderHeaderString(nbShaderStage::Fragment, false, false, false) +
+                               kPlateFragmentBody,
+                           error)) {
+            nbLog::error("the program for scene plates does not compile on this driver: " + error);
+        }
+    }
+    if (!program.isUsable()) {
+        return false;
+    }
+    program.use(gl);
+    program.set(gl, "picture", GLint(0));
+    program.set(gl, "viewSize", static_cast<float>(frame.widthPx),
+                static_cast<float>(frame.heightPx));
+    gl.glColorMaski(kEffectBuffer, GL_FALSE, GL_FALSE, GL_FALSE, GL_FALSE);
+    gl.glDisable(GL_DEPTH_TEST);
+    gl.glDepthMask(GL_FALSE);
+    gl.glDisable(GL_CULL_FACE);
+    gl.glEnable(GL_BLEND);
+    gl.glBlendEquation(GL_FUNC_ADD);
+    gl.glBlendFunc(GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
+    gl.glActiveTexture(GL_TEXTURE0);
+    gl.glBindVertexArray(emptyArray);
+    return true;
+}
+
+void SceneplatePainter::end(Gl& gl)
+{
+    gl.glBindTexture(GL_TEXTURE_2D, 0);
+    gl.glBindVertexArray(0);
+    gl.glUseProgram(0);
+    gl.glDisable(GL_BLEND);
+    gl.glBlendFunc(GL_ONE, GL_ZERO);
+    gl.glDepthMask(GL_TRUE);
+    gl.glColorMaski(kEffectBuffer, GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
+}
+
+void SceneplatePainter::drawPlates(Gl& gl, const PlateFrame& frame, std::size_t first,
+                                   std::size_t last)
+{
+    for (std::size_t i = first; i < last; ++i) {
+        drawPlate(gl, frame, plates[i].plate);
+    }
+}
+
+void SceneplatePainter::drawPlate(Gl& gl, const PlateFrame& frame, const osg::SceneplatePtr& plate)
+{
+    const nbSceneplateLayout::Corners corners =
+        nbSceneplateLayout::corners(plate, frame.widthPx, frame.heightPx);
+    Quad quad;
+    quad.origin = corners[0];
+    quad.x = corners[1] - corners[0];
+    quad.y = corners[3] - corners[0];
+    if (!nbSceneplateLayout::isOnPixels(plate)) {
+        quad.origin += osg::Vec2f(frame.shiftXPx, -frame.shiftYPx);
+    }
+    const osg::ImagePtr image = nbSceneplatePicture::imageOf(plate);
+    if (image != osg::NullFC) {
+        quad.texture = textures.get(gl, image);
+        quad.color = premultiplied(osg::Color4f(1.f, 1.f, 1.f, 1.f), plate->getOpacity());
+    } else {
+        quad.color = premultiplied(plate->getColor(), plate->getOpacity());
+    }
+    drawQuad(gl, quad);
+}
+
+void SceneplatePainter::drawMarker(Gl& gl, const PlateFrame& frame, const osg::SceneplatePtr& plate)
+{
+    const OutlineStyle& style =
+        plate->getMarker() == osg::Sceneplate::SelectedMarker ? kSelectedStyle : kPreselectedStyle;
+    const nbSceneplateLayout::Corners corners =
+        nbSceneplateLayout::corners(plate, frame.widthPx, frame.heightPx);
+    const float bright = devicePixels(style.brightPx, frame.pixelRatio);
+    const float dark = devicePixels(style.darkPx, frame.pixelRatio);
+    for (std::size_t i = 0; i < corners.size(); ++i) {
+        const osg::Pnt2f& begin = corners[i];
+        osg::Vec2f along = corners[(i + 1) % corners.size()] - begin;
+        osg::Vec2f unit = along;
+        unit.normalize();
+        // The corners run counter-clockwise on screen.
+        const osg::Vec2f outwards(-unit.y(), unit.x());
+        const auto drawLine = [&](float inner, float outer, const osg::Color4f& color) {
+            Quad quad;
+            quad.origin = begin + outwards * inner - unit * inner;
+            quad.x = along + unit * (inner + outer);
+            quad.y = outwards * (outer - inner);
+            quad.color = premultiplied(color, 1.f);
+            drawQuad(gl, quad);
+        };
+        drawLine(0.f, bright, style.color);
+        drawLine(bright, bright + dark, kDarkLine);
+    }
+}
+
+void SceneplatePainter::drawQuad(Gl& gl, const Quad& quad)
+{
+    const osg::Color4f& color = quad.color;
+    program.set(gl, "origin", quad.origin.x(), quad.origin.y());
+    program.set(gl, "sideX", quad.x.x(), quad.x.y());
+    program.set(gl, "sideY", quad.y.x(), quad.y.y());
+    program.set(gl, "color", color.red(), color.green(), color.blue(), color.alpha());
+    program.set(gl, "textured", GLint(quad.texture != 0 ? 1 : 0));
+    gl.glBindTexture(GL_TEXTURE_2D, quad.texture);
+    gl.glDrawArrays(GL_TRIANGLE_STRIP, 0, kCorners);
+}
+
+void SceneplatePainter::release(Gl& gl)
+{
+    textures.release(gl);
+    program.destroy(gl);
+    forget();
+}
+
+void SceneplatePainter::forget()
+{
+    textures.forget();
+    program = GlProgram();
+    programTried = false;
+}
+
+}  // namespace nbrender

@@ -1,0 +1,6 @@
+// SPDX-License-Identifier: MIT
+#include "nbStateChunkBase.h"
+
+nbStateChunkBase::~nbStateChunkBase() = default;
+
+void nbStateChunkBase::componentChanged(const std::string&) { }

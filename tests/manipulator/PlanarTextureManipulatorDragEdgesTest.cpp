@@ -1,0 +1,238 @@
+// SPDX-License-Identifier: MIT
+// Drags of the planar gizmo where something is missing or degenerate, and what they do to the
+// object. A world unit at the origin is 72.4264 pixels, see PlanarTextureManipulatorDragTest.cpp.
+#include "tests/manipulator/support/PlanarScene.h"
+
+#include <nbKernel/nbScenegraph.h>
+#include <nbNotification/NotificationManager.h>
+
+#include <OpenSG/OSGGeometry.h>
+#include <OpenSG/OSGSimpleGeometry.h>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <string>
+#include <vector>
+
+namespace nbec::manipulator::test {
+
+namespace {
+
+using Gizmo = PlanarTextureManipulator;
+using Names = std::vector<std::string>;
+using osg::Vec2f;
+using osg::Vec3f;
+
+/// World units of a drag by 72 pixels.
+constexpr float kStep = 72.0F / 72.4264069F;
+constexpr float kTolerance = 2e-4F;
+const Vec3f kTab(2.5F, 0, 0);
+
+void expectNear(const Vec3f& found, const Vec3f& expected, const std::string& what)
+{
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        EXPECT_NEAR(found[i], expected[i], kTolerance) << what << ' ' << i;
+    }
+}
+
+}  // namespace
+
+TEST(PlanarTextureManipulatorDrag, SendsNothingWhileThePlaneIsMissed)
+{
+    PlanarScene planar;
+    planar.gizmo.activateRotateManipulator();
+    // Seen along the projection plane, every ray begins in it and looks away or along.
+    planar.look(Camera::Side, false);
+    ASSERT_TRUE(planar.drag.press(planar.onHandle("rotateShape", Vec3f(0.03F, 1, 0))));
+    planar.log.clear();
+    EXPECT_TRUE(planar.drag.dragBy(Vec2f(0, 30)));
+    EXPECT_EQ(planar.takeNames(), Names());
+    EXPECT_TRUE(planar.drag.release());
+
+    // An arrow that points at the viewer has no plane.
+    planar.gizmo.activateTranslateManipulator();
+    planar.look(Camera::Front, true);
+    ASSERT_TRUE(planar.drag.press(planar.onHandle("zaShape", Vec3f(-0.05F, -0.05F, -1))));
+    EXPECT_EQ(planar.gizmo.getActiveMode(), Gizmo::ActiveMode::TranslateZ);
+    planar.log.clear();
+    EXPECT_TRUE(planar.drag.dragBy(Vec2f(20, 30)));
+    EXPECT_EQ(planar.takeNames(), Names());
+}
+
+TEST(PlanarTextureManipulatorDrag, NodeMaterialAndViewMayGoInMidDrag)
+{
+    const Vec3f tip(1.9F, 0, 0);
+    {
+        PlanarScene planar;
+        ASSERT_TRUE(planar.grab("xaShape", tip));
+        osg::beginEditCP(planar.parent, osg::Node::ChildrenFieldMask);
+        planar.parent->subChild(planar.scene.node);
+        osg::endEditCP(planar.parent, osg::Node::ChildrenFieldMask);
+        planar.log.clear();
+        EXPECT_FALSE(planar.drag.stepTo(Vec2f(9, 0)));
+        EXPECT_FALSE(planar.drag.release());
+        EXPECT_EQ(planar.takeNames(), Names());
+        EXPECT_EQ(planar.gizmo.getActiveMode(), Gizmo::ActiveMode::None);
+        planar.gizmo.setNode(osg::NodePtr());
+        EXPECT_EQ(planar.takeNames(), (Names { "setMatRenderEnabled", "updateMatRender" }));
+    }
+    {
+        PlanarScene planar;
+        ASSERT_TRUE(planar.grab("xaShape", tip));
+        const auto geometry = osg::GeometryPtr::dcast(planar.scene.node->getChild(0)->getCore());
+        osg::beginEditCP(geometry, osg::Geometry::MaterialFieldMask);
+        geometry->setMaterial(osg::MaterialPtr());
+        osg::endEditCP(geometry, osg::Geometry::MaterialFieldMask);
+        planar.material = osg::UberMaterialPtr();
+        EXPECT_EQ(planar.gizmo.getMaterial(), osg::NullFC);
+        EXPECT_TRUE(planar.drag.stepTo(Vec2f(72, 0)));
+        expectNear(attribute<Vec3f>(planar.last(), "transVec"), Vec3f(kStep, 0, 0), "transVec");
+        EXPECT_TRUE(planar.drag.release());
+    }
+    {
+        PlanarScene planar;
+        ASSERT_TRUE(planar.grab("xaShape", tip));
+        planar.log.clear();
+        planar.scene.widget.resize(0, 0);
+        EXPECT_TRUE(planar.drag.stepTo(Vec2f(9, 0)));
+        EXPECT_EQ(planar.takeNames(), Names());
+        EXPECT_TRUE(planar.drag.release());
+    }
+}
+
+TEST(PlanarTextureManipulatorDrag, DegenerateProjectionsGiveFiniteValues)
+{
+    const Vec3f scales[] = { { 0, 0, 0 }, { 0, 1, 1 }, { 1e-9F, 1e-9F, 1e-9F }, { -1, 2, -3 } };
+
+    const struct
+    {
+        const char* handle;
+        Vec3f grab;
+    } handles[] = { { "xsShape", kTab },
+                    { "ysShape", { 0, 2.5F, 0 } },
+                    { "grid", { 0, 0, 0 } },
+                    { "xaShape", { 1.9F, 0, 0 } },
+                    { "scaleXYURShape", { 0, 0, 0 } },
+                    { "scaleXRShape", { 0, 0, 0 } } };
+
+    for (const Vec3f& scale : scales) {
+        for (const bool keepAspect : { false, true }) {
+            PlanarScene planar;
+            osg::beginEditCP(planar.settings);
+            planar.settings->setPlanarProjectionFlags(keepAspect ? 1 : 0);
+            osg::endEditCP(planar.settings);
+            planar.edit(planar.projection,
+                        [&scale](const auto& projection) { projection->setScale(scale); });
+            for (const auto& handle : handles) {
+                if (!planar.drag.press(planar.onHandle(handle.handle, handle.grab))) {
+                    continue;
+                }
+                EXPECT_TRUE(planar.drag.dragBy(Vec2f(30, -20)));
+                EXPECT_TRUE(planar.drag.release());
+            }
+            ASSERT_FALSE(planar.log.empty());
+            for (const SentMessage& sent : planar.log) {
+                for (const char* const name : { "scale", "transVec" }) {
+                    Vec3f value;
+                    if (sent.message.has(name)) {
+                        nbMessage::get(sent.message, name, value);
+                    }
+                    EXPECT_TRUE(std::isfinite(value.squareLength())) << name;
+                }
+            }
+        }
+    }
+}
+
+TEST(PlanarTextureManipulatorDrag, ASideWithoutLengthGrowsAgainByItsEdge)
+{
+    PlanarScene planar;
+    planar.edit(planar.projection,
+                [](const auto& projection) { projection->setScale(Vec3f(0, 1, 1)); });
+    planar.gizmo.activateScaleManipulator();
+    ASSERT_TRUE(planar.drag.press(planar.onHandle("scaleXYURShape", Vec3f(0.15F, 0, 0))));
+    EXPECT_TRUE(planar.drag.dragBy(Vec2f(72, 0)));
+    expectNear(attribute<Vec3f>(planar.last(), "scale"), Vec3f(kStep / 2, 1, 1), "scale");
+    expectNear(attribute<Vec3f>(planar.last(), "transVec"), Vec3f(kStep / 2, 0, 0), "transVec");
+}
+
+// == The object
+
+TEST(PlanarTextureManipulatorDrag, MakesTheObjectATransformWithPivots)
+{
+    PlanarScene planar;
+    const osg::NodePtr box = osg::makeBox(1, 1, 1, 1, 1, 1);
+    const osg::NodePtr group = osg::makeCoredNode<osg::Transform3D>();
+    const auto place = osg::Transform3DPtr::dcast(group->getCore());
+    planar.edit(place, [](const auto& transform) { transform->setTranslation(Vec3f(0, 1, 0)); });
+    osg::beginEditCP(group, osg::Node::ChildrenFieldMask);
+    group->addChild(box);
+    osg::endEditCP(group, osg::Node::ChildrenFieldMask);
+    const osg::NodePtr object = osg::makeCoredNode<osg::Group>();
+    osg::beginEditCP(object, osg::Node::ChildrenFieldMask);
+    object->addChild(group);
+    osg::endEditCP(object, osg::Node::ChildrenFieldMask);
+    osg::beginEditCP(planar.parent, osg::Node::ChildrenFieldMask);
+    planar.parent->addChild(object);
+    osg::endEditCP(planar.parent, osg::Node::ChildrenFieldMask);
+    planar.gizmo.setNode(object);
+
+    ASSERT_TRUE(planar.grab("xaShape", Vec3f(1.9F, 0, 0)));
+    EXPECT_TRUE(planar.drag.stepTo(Vec2f(72, 0)));
+    const auto core = osg::Transform3DPtr::dcast(object->getCore());
+    ASSERT_NE(core, osg::NullFC);
+    expectNear(core->getRotatePivot(), Vec3f(0, 1, 0), "rotate pivot");
+    expectNear(core->getScalePivot(), Vec3f(0, 1, 0), "scale pivot");
+    expectNear(attribute<Vec3f>(planar.last(), "transVec"), Vec3f(kStep, 0, 0), "transVec");
+    EXPECT_TRUE(planar.drag.release());
+
+    planar.gizmo.setNode(nbScenegraph::getRootNode());
+    const osg::NodeCorePtr rootCore = nbScenegraph::getRootNode()->getCore();
+    ASSERT_TRUE(planar.grab("xaShape", Vec3f(1.9F, 0, 0)));
+    EXPECT_TRUE(planar.drag.stepTo(Vec2f(72, 0)));
+    EXPECT_EQ(nbScenegraph::getRootNode()->getCore(), rootCore) << "the scene's root stays";
+}
+
+TEST(PlanarTextureManipulatorDrag, TextSaysTheObjectsValuesExceptForZ)
+{
+    const struct
+    {
+        const char* handle;
+        Vec3f grab;
+        const char* text;
+    } rows[] = { { "xaShape", { 1.9F, 0, 0 }, "Translation (0.25, -0.50, 0.00)" },
+                 { "yaShape", { 0, 1.9F, 0 }, "Translation (0.25, -0.50, 0.00)" },
+                 { "xyaShape", { 0.25F, 0.25F, 0 }, "Translation (0.25, -0.50, 0.00)" },
+                 { "zaShape", { 0, 0, -1.9F }, "" },
+                 { "xsShape", kTab, "Scale (1.00, 2.00, 1.00)" },
+                 { "grid", { 0, 0, 0 }, "Scale (1.00, 2.00, 1.00)" },
+                 { "zsShape", { 0, 0, -2.5F }, "" },
+                 { "scaleXYURShape", { 0, 0, 0 }, "" },
+                 { "rotateShape", { 0.6F, -0.8F, 0 }, "Rotation (0.00, 0.00, 10.00)" } };
+
+    PlanarScene planar;
+    planar.edit(planar.core(), [](const auto& node) {
+        node->setTranslation(Vec3f(0.25F, -0.5F, 0));
+        node->setRotation(Vec3f(0, 0, 10));
+        node->setScale(Vec3f(1, 2, 1));
+    });
+    auto* const manager = notification::NotificationManager::getInstance();
+
+    for (const auto& row : rows) {
+        const std::string name = row.handle;
+        planar.look(name[0] == 'z' ? Camera::Side : Camera::Front, false);
+        ASSERT_TRUE(planar.grab(row.handle, row.grab)) << row.handle;
+        EXPECT_TRUE(planar.drag.stepTo(Vec2f(3, 3)));
+        const auto texts = manager->getVisibleTexts(800, 600);
+        EXPECT_EQ(texts.empty() ? QString() : texts.front().text, QString(row.text)) << row.handle;
+        EXPECT_TRUE(planar.drag.release());
+        EXPECT_EQ(manager->getTextCount(), 0U) << row.handle;
+    }
+    const auto notifier = manager->getNotifier("textureTransformInfo");
+    ASSERT_NE(notifier, nullptr);
+    EXPECT_EQ(notifier->getSettings().textPosition, Vec2f(0, 26));
+    EXPECT_EQ(notifier->getSettings().textAreaFrom, Vec2f(30, 30));
+}
+
+}  // namespace nbec::manipulator::test

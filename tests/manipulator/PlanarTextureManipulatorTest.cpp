@@ -1,0 +1,530 @@
+// SPDX-License-Identifier: MIT
+// Handles, groups, placement and the messages around a drag. The eye is 10 units away under 45
+// degrees and 600 pixels high: a world unit at the origin is 72.4264 pixels, a unit of the gizmo
+// 10 * 45 / 672 world units.
+#include "tests/manipulator/support/PlanarScene.h"
+
+#include <nbKernel/nbController.h>
+#include <nbKernel/nbScenegraph.h>
+#include <nbMaterialEditor/nbMaterialPreview.h>
+#include <nbOpenSGUberCamera/UberCamera.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
+
+#include <OpenSG/OSGGeometry.h>
+#include <OpenSG/OSGImage.h>
+#include <OpenSG/OSGSimpleGeometry.h>
+
+#include <gtest/gtest.h>
+
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace nbec::manipulator::test {
+
+namespace {
+
+using Gizmo = PlanarTextureManipulator;
+using Names = std::vector<std::string>;
+using osg::Pnt2f;
+using osg::Pnt3f;
+using osg::Vec2f;
+using osg::Vec3f;
+
+constexpr float kTolerance = 1e-4F;
+const std::string kHighlight = "1 0.5 0";
+const Names kPause = { "setMatRenderEnabled" };
+const Names kResume = { "setMatRenderEnabled", "updateMatRender" };
+
+/// A handle, where it is grabbed, and the idle colours of its parts.
+struct HandleCase
+{
+    const char* name;
+    unsigned mode;
+    Camera camera;
+    Vec3f unit;
+    const char* group;
+    Names idle;
+};
+
+void PrintTo(const HandleCase& row, std::ostream* out)
+{
+    *out << row.name;
+}
+
+// clang-format off
+const std::vector<HandleCase> kHandles = {
+    { "rotateShape", 1, Camera::Front, { 0.70710678F, -0.70710678F, 0 }, "rotate", { "0 0 1", "0.95 0.52 0.18" } },
+    { "xaShape", 2, Camera::Front, { 1.9F, 0, 0 }, "translate", { "1 0 0", "1 0 0" } },
+    { "yaShape", 3, Camera::Front, { 0, 1.9F, 0 }, "translate", { "0 1 0", "0 1 0" } },
+    { "zaShape", 4, Camera::Side, { 0, 0, -1.9F }, "translate", { "0 0 1", "0 0 1" } },
+    { "xyaShape", 5, Camera::Front, { 0.25F, 0.25F, 0 }, "translate", { "0 0 1", "1 0 0", "0 1 0" } },
+    { "xsShape", 6, Camera::Front, { 2.5F, 0, 0 }, "scale", { "1 0.5 0.5", "1 0.5 0.5" } },
+    { "ysShape", 7, Camera::Front, { 0, 2.5F, 0 }, "scale", { "0.5 1 0.5", "0.5 1 0.5" } },
+    { "zsShape", 8, Camera::Side, { 0, 0, -2.5F }, "scale", { "0.5 0.5 1", "0.5 0.5 1" } },
+    { "grid", 9, Camera::Front, { 0, 0, 0 }, "scale", { "1 1 0" } },
+    { "scaleXYLLShape", 10, Camera::Front, { 0, 0, 0 }, "scale", { "1 1 0" } },
+    { "scaleXYULShape", 11, Camera::Front, { 0, 0, 0 }, "scale", { "1 1 0" } },
+    { "scaleXYLRShape", 12, Camera::Front, { 0, 0, 0 }, "scale", { "1 1 0" } },
+    { "scaleXYURShape", 13, Camera::Front, { 0, 0, 0 }, "scale", { "1 1 0" } },
+    { "scaleXLShape", 14, Camera::Front, { 0, 0, 0 }, "scale", { "1 0.5 0.5" } },
+    { "scaleXRShape", 15, Camera::Front, { 0, 0.15F, 0 }, "scale", { "1 0.5 0.5" } },
+    { "scaleYLShape", 16, Camera::Front, { 0, 0, 0 }, "scale", { "0.5 1 0.5" } },
+    { "scaleYUShape", 17, Camera::Front, { 0.15F, 0, 0 }, "scale", { "0.5 1 0.5" } },
+    { "scaleZPlaneShape", 18, Camera::Oblique, { -0.17F, 0.17F, 0 }, "scale", { "0.5 0.5 1" } },
+};
+
+// clang-format on
+
+Names partColors(const osg::NodePtr& handle)
+{
+    Names colors;
+    for (osg::UInt32 i = 0; i < handle->getNChildren(); ++i) {
+        colors.push_back(colorOf(handle->getChild(i)));
+    }
+    return colors;
+}
+
+Names shownHandles(PlanarScene& planar)
+{
+    Names shown;
+    for (const HandleCase& row : kHandles) {
+        if (isShown(planar.handle(row.name))) {
+            shown.emplace_back(row.name);
+        }
+    }
+    return shown;
+}
+
+Names handlesOf(const std::string& groups)
+{
+    Names names;
+    for (const HandleCase& row : kHandles) {
+        if (groups.find(row.group) != std::string::npos) {
+            names.emplace_back(row.name);
+        }
+    }
+    return names;
+}
+
+Names without(Names names, const std::string& removed)
+{
+    Names kept;
+    for (const std::string& name : names) {
+        if (removed.find(name) == std::string::npos) {
+            kept.push_back(name);
+        }
+    }
+    return kept;
+}
+
+void expectNear(const Pnt3f& found, const Pnt3f& expected, const std::string& what)
+{
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        EXPECT_NEAR(found[i], expected[i], kTolerance) << what << ' ' << i;
+    }
+}
+
+class Handles : public testing::TestWithParam<HandleCase>
+{ };
+
+}  // namespace
+
+TEST_P(Handles, HaveTheirModeColoursAndHighlight)
+{
+    const HandleCase& row = GetParam();
+    PlanarScene planar;
+    planar.look(row.camera, false);
+    const osg::NodePtr handle = planar.handle(row.name);
+    EXPECT_EQ(partColors(handle), row.idle);
+
+    const osg::Pnt2f pixel = planar.drag.rayPixelOf(planar.onHandle(row.name, row.unit));
+    EXPECT_TRUE(planar.scene.send("hover", pixel));
+    EXPECT_EQ(static_cast<unsigned>(planar.gizmo.getActiveMode()), row.mode);
+    EXPECT_EQ(partColors(handle), Names(row.idle.size(), kHighlight));
+    EXPECT_TRUE(planar.scene.send("start", pixel));
+    EXPECT_EQ(static_cast<unsigned>(planar.gizmo.getActiveMode()), row.mode);
+    EXPECT_EQ(partColors(handle), Names(row.idle.size(), kHighlight));
+    // Deliberate: the x arrow and the plane handle leave all other groups shown.
+    const bool hidesOthers = row.mode != 2 && row.mode != 5;
+    EXPECT_EQ(shownHandles(planar), handlesOf(hidesOthers ? row.group : "rotate translate scale"));
+    EXPECT_TRUE(planar.scene.send("stop", pixel));
+    EXPECT_EQ(partColors(handle), row.idle);
+    EXPECT_EQ(shownHandles(planar), handlesOf("rotate translate scale"));
+}
+
+INSTANTIATE_TEST_SUITE_P(PlanarTextureManipulator, Handles, testing::ValuesIn(kHandles));
+
+TEST(PlanarTextureManipulator, MaterialsAreDrawnInTheirOrderAfterTheScene)
+{
+    PlanarScene planar;
+
+    const struct
+    {
+        const char* handle;
+        float transparency;
+        int sortKey;
+    } rows[] = { { "xaShape", 0.001F, 64016 },
+                 { "xsShape", 0.001F, 64015 },
+                 { "grid", 0.001F, 64016 } };
+
+    for (const auto& row : rows) {
+        const auto geometry =
+            osg::GeometryPtr::dcast(planar.handle(row.handle)->getChild(0)->getCore());
+        const auto material = osg::SimpleMaterialPtr::dcast(geometry->getMaterial());
+        EXPECT_FLOAT_EQ(material->getTransparency(), row.transparency) << row.handle;
+        EXPECT_EQ(material->getSortKey(), row.sortKey) << row.handle;
+        EXPECT_FALSE(material->getLit()) << row.handle;
+    }
+    const osg::NodePtr root = planar.gizmo.getVisualisation();
+    EXPECT_TRUE(nbNodeUtils::isAuxiliaryNode(root));
+    EXPECT_TRUE(nbNodeUtils::isSelectableAuxiliaryNode(root));
+    EXPECT_TRUE(nbNodeUtils::isManipulatorNode(root));
+}
+
+TEST(PlanarTextureManipulator, NodesOfOtherNamesAreNoHandles)
+{
+    PlanarScene planar;
+    const osg::NodePtr arrow = planar.handle("xaShape");
+    const osg::Pnt2f pixel = planar.drag.rayPixelOf(planar.onHandle("xaShape", Vec3f(1.9F, 0, 0)));
+    nbNodeUtils::setName(arrow, "xaShapes", true);
+
+    EXPECT_FALSE(planar.scene.send("hover", pixel));
+    EXPECT_FALSE(planar.scene.send("start", pixel));
+    EXPECT_EQ(planar.gizmo.getActiveMode(), Gizmo::ActiveMode::None);
+    EXPECT_EQ(colorOf(arrow->getChild(0)), "1 0 0");
+    EXPECT_TRUE(planar.log.empty());
+}
+
+TEST(PlanarTextureManipulator, ModesShowTheirGroups)
+{
+    PlanarScene planar;
+    Gizmo& gizmo = planar.gizmo;
+    EXPECT_EQ(shownHandles(planar), handlesOf("rotate translate scale"));
+    gizmo.activateTranslateManipulator();
+    EXPECT_EQ(shownHandles(planar), handlesOf("translate"));
+    gizmo.activateRotateManipulator();
+    EXPECT_EQ(shownHandles(planar), handlesOf("rotate"));
+    gizmo.activateScaleManipulator();
+    EXPECT_EQ(shownHandles(planar), handlesOf("scale"));
+    gizmo.showZScaleValue(false);
+    EXPECT_EQ(shownHandles(planar), without(handlesOf("scale"), "scaleZPlaneShape"));
+    gizmo.setZScaleVisible(false);
+    EXPECT_EQ(shownHandles(planar), without(handlesOf("scale"), "scaleZPlaneShape zsShape"));
+    gizmo.activateUniversalManipulator();
+    EXPECT_EQ(shownHandles(planar),
+              without(handlesOf("rotate translate scale"), "scaleZPlaneShape zsShape"));
+    gizmo.hideAllElements();
+    EXPECT_EQ(shownHandles(planar), Names());
+    gizmo.setZScaleVisible(true);
+    EXPECT_EQ(shownHandles(planar), Names());
+    gizmo.showActiveManipulator();
+    EXPECT_EQ(shownHandles(planar),
+              without(handlesOf("rotate translate scale"), "scaleZPlaneShape"));
+    gizmo.setNode(osg::NodePtr());
+    EXPECT_EQ(shownHandles(planar), Names());
+}
+
+TEST(PlanarTextureManipulator, TabsStandAtEdgesCornersAndDepthInAnySpace)
+{
+    const struct
+    {
+        const char* name;
+        Vec3f inProjection;
+    } tabs[] = { { "scaleXLShape", { -1, 0, 0 } },    { "scaleXRShape", { 1, 0, 0 } },
+                 { "scaleYLShape", { 0, -1, 0 } },    { "scaleYUShape", { 0, 1, 0 } },
+                 { "scaleXYLLShape", { -1, -1, 0 } }, { "scaleXYULShape", { -1, 1, 0 } },
+                 { "scaleXYLRShape", { 1, -1, 0 } },  { "scaleXYURShape", { 1, 1, 0 } },
+                 { "scaleZPlaneShape", { 0, 0, -1 } } };
+
+    PlanarScene planar;
+    planar.edit(planar.parentCore(), [](const osg::Transform3DPtr& parent) {
+        parent->setScale(Vec3f(-1.5F, 1, 0.5F));  // mirrored, and skewed by the turn below
+        parent->setRotation(Vec3f(10, 0, 0));
+    });
+    planar.edit(planar.core(), [](const osg::Transform3DPtr& node) {
+        node->setTranslation(Vec3f(0.5F, 0.25F, 0));
+        node->setRotation(Vec3f(0, 30, 20));
+    });
+    planar.edit(planar.projection, [](const osg::Transform3DPtr& projection) {
+        projection->setTranslation(Vec3f(0.1F, -0.2F, 1));
+        projection->setRotation(Vec3f(0, 0, 40));
+        projection->setRotationOrientation(osg::Quaternion(osg::Vec3f(1, 0, 0), 0.3F));
+        projection->setScale(Vec3f(2, 0.5F, 3));
+    });
+
+    for (const bool orthographic : { false, true }) {
+        planar.look(Camera::Oblique, orthographic);
+        for (const auto& tab : tabs) {
+            expectNear(planar.onHandle(tab.name, Vec3f()), planar.inWorld(tab.inProjection),
+                       tab.name);
+        }
+        // The z arrow points to where the projection looks, below a mirrored node too.
+        const Vec3f arrow = planar.onHandle("zaShape", Vec3f(0, 0, -1)) - planar.inWorld(Vec3f());
+        EXPECT_GT(arrow.dot(planar.inWorld(Vec3f(0, 0, -1)) - planar.inWorld(Vec3f())), 0.0F);
+    }
+}
+
+TEST(PlanarTextureManipulator, HandlesKeepTheirSizeOnScreen)
+{
+    PlanarScene planar;
+    const auto length = [&planar] {
+        return (planar.onHandle("xaShape", Vec3f(1, 0, 0)) -
+                planar.onHandle("xaShape", Vec3f(0, 0, 0)))
+            .length();
+    };
+    planar.look(Camera::Front, false);
+    EXPECT_NEAR(length(), 10.0F * 45.0F / 672.0F, kTolerance);
+    planar.edit(planar.core(), [](const osg::Transform3DPtr& node) {
+        node->setTranslation(Vec3f(0, 0, -10));
+        node->setScale(Vec3f(3, 3, 3));
+    });
+    EXPECT_NEAR(length(), 20.0F * 45.0F / 672.0F, kTolerance);
+    planar.look(Camera::Front, true);
+    EXPECT_NEAR(length(), planar.scene.widget.getUberCamera()->getNearPlaneDiagonal() / 20.0F,
+                kTolerance);
+}
+
+TEST(PlanarTextureManipulator, UpdateFollowsMaterialCameraAndSize)
+{
+    PlanarScene planar;
+    Gizmo::createInstance(false);
+    Gizmo* const shared = Gizmo::getInstance();
+    shared->setNode(planar.scene.node);
+    const auto sizeOf = [](Gizmo& gizmo) {
+        return gizmo.getVisualisation()->getChild(0)->getToWorld()[0][0];
+    };
+
+    osg::beginEditCP(planar.projection);
+    planar.projection->setTranslation(Vec3f(0.5F, 0, 0));
+    osg::endEditCP(planar.projection);
+    planar.gizmo.update(false);
+    expectNear(planar.onHandle("grid", Vec3f()), Pnt3f(0.5F, 0, 0), "centre");
+    const float before = sizeOf(planar.gizmo);
+    planar.drag.look(Camera::Front, true);
+    planar.gizmo.update(false);
+    EXPECT_NE(sizeOf(planar.gizmo), before);
+    planar.drag.look(Camera::Front, false);
+    planar.gizmo.update(false);
+    EXPECT_EQ(sizeOf(planar.gizmo), before);
+
+    shared->updateManipulator();
+    Gizmo::setManipulatorSize(116.0F);  // half of the divisor that 32 gives
+    EXPECT_NEAR(sizeOf(*shared), 20.0F * 45.0F / 672.0F, kTolerance);
+    EXPECT_EQ(sizeOf(planar.gizmo), before);
+    planar.gizmo.update(false);
+    EXPECT_NEAR(sizeOf(planar.gizmo), before * 2.0F, kTolerance);
+
+    Gizmo::createInstance(true);
+    EXPECT_EQ(Gizmo::getInstance(), nullptr);
+    Gizmo::setManipulatorSize(32.0F);
+    Gizmo::updateAllManipulators();
+    EXPECT_NEAR(sizeOf(planar.gizmo), before, kTolerance);
+}
+
+TEST(PlanarTextureManipulator, PausesThePreviewAndResumesIt)
+{
+    PlanarScene planar;
+    const auto isEnabled = [&planar] { return attribute<bool>(planar.log.front(), "enabled"); };
+    const osg::Pnt2f pixel = planar.drag.rayPixelOf(planar.onHandle("xaShape", Vec3f(1.9F, 0, 0)));
+
+    EXPECT_FALSE(planar.scene.send("stop", pixel));
+    planar.scene.send("hover", pixel);
+    EXPECT_FALSE(planar.scene.send("stop", pixel)) << "hovering is no start";
+    EXPECT_EQ(planar.takeNames(), Names());
+
+    EXPECT_TRUE(planar.scene.send("start", pixel));
+    ASSERT_EQ(planar.log.size(), 1U);
+    EXPECT_FALSE(isEnabled());
+    EXPECT_EQ(planar.takeNames(), kPause);
+    EXPECT_TRUE(planar.scene.send("stop", pixel));
+    EXPECT_TRUE(isEnabled());
+    EXPECT_EQ(planar.takeNames(), kResume);
+    EXPECT_FALSE(planar.scene.send("stop", pixel));
+    planar.gizmo.setNode(osg::NodePtr());
+    EXPECT_EQ(planar.takeNames(), Names()) << "nothing owed";
+}
+
+TEST(PlanarTextureManipulator, EndsAPauseThatIsOwed)
+{
+    PlanarScene planar;
+    planar.gizmo.setNode(planar.scene.node);
+    EXPECT_EQ(planar.takeNames(), kPause);
+    planar.gizmo.setNode(osg::NodePtr());
+    EXPECT_EQ(planar.takeNames(), kResume);
+    {
+        Gizmo other;
+        other.setNode(planar.scene.node);
+        const Gizmo copy(other);
+        planar.log.clear();
+    }
+    EXPECT_EQ(planar.takeNames(), kResume) << "once, not for the copy too";
+
+    planar.gizmo.setNode(planar.scene.node);
+    ASSERT_TRUE(planar.grab("xaShape", Vec3f(1.9F, 0, 0)));
+    planar.log.clear();
+    planar.gizmo.setNode(osg::NodePtr());
+    EXPECT_EQ(planar.takeNames(), kResume);
+    EXPECT_FALSE(planar.drag.stepTo(Vec2f(5, 0)));
+    EXPECT_FALSE(planar.drag.release());
+    EXPECT_EQ(planar.takeNames(), Names());
+
+    planar.gizmo.setNode(planar.scene.node);
+    ASSERT_TRUE(planar.grab("xaShape", Vec3f(1.9F, 0, 0)));
+    planar.log.clear();
+    planar.gizmo.deactivate(nullptr);
+    EXPECT_EQ(planar.takeNames(), kResume);
+    EXPECT_EQ(planar.gizmo.getActiveMode(), Gizmo::ActiveMode::None);
+}
+
+TEST(PlanarTextureManipulator, AStopThatIsLostLeavesNothingBehind)
+{
+    PlanarScene planar;
+    ASSERT_TRUE(planar.grab("rotateShape", Vec3f(0.6F, -0.8F, 0)));
+    planar.log.clear();
+    EXPECT_FALSE(planar.scene.send("start", Pnt2f(20, 20)));
+    EXPECT_EQ(planar.takeNames(), kResume);
+    EXPECT_EQ(shownHandles(planar), handlesOf("rotate translate scale"));
+    EXPECT_FALSE(planar.scene.send("hover", Pnt2f(20, 20)));
+}
+
+TEST(PlanarTextureManipulator, PreviewOfTheHostIsNotLeftPaused)
+{
+    PlanarScene planar(PlanarScene::Receiver::Editor);
+    nbMaterialPreview preview;
+    planar.gizmo.setNode(planar.scene.node);
+    EXPECT_TRUE(preview.isPaused());
+    ASSERT_TRUE(planar.grab("xaShape", Vec3f(1.9F, 0, 0)));
+    EXPECT_TRUE(planar.drag.dragBy(Vec2f(20, 0)));
+    EXPECT_TRUE(preview.isPaused());
+    EXPECT_TRUE(planar.drag.release());
+    EXPECT_FALSE(preview.isPaused());
+    EXPECT_EQ(preview.getRefreshCount(), 1U);
+}
+
+TEST(PlanarTextureManipulator, AsksForScaleValuesOnlyIfTheyAreUsed)
+{
+    PlanarScene planar;
+    planar.gizmo.prepareManipulator(planar.scene.node);
+    EXPECT_EQ(planar.takeNames(), kPause);
+    planar.gizmo.setUseTextureScale(true);
+    planar.scaleReply = [](nbMessage& reply) {
+        reply.set("initialTextureScale", Vec3f(1.5F, 1, 1), true);
+        reply.set("projectionSize", Vec2f(4, 3), true);
+    };
+    planar.gizmo.prepareManipulator(planar.scene.node);
+    EXPECT_EQ(planar.takeNames(), (Names { "label::getScaleValues", "setMatRenderEnabled" }));
+    planar.gizmo.updateManipulator();
+    expectNear(planar.onHandle("scaleXYURShape", Vec3f()), Pnt3f(2, 1.5F, 0), "corner");
+
+    // A reply of the wrong type, or none, leaves the size as it was.
+    for (const bool replies : { true, false }) {
+        planar.scaleReply = [replies](nbMessage& reply) {
+            if (replies) {
+                reply.set("projectionSize", Vec3f(8, 8, 8), true);
+                reply.set("initialTextureScale", Vec3f(2, 2, 2), true);
+            }
+        };
+        testing::internal::CaptureStderr();
+        planar.gizmo.prepareManipulator(planar.scene.node);
+        EXPECT_EQ(testing::internal::GetCapturedStderr().empty(), !replies);
+        EXPECT_EQ(planar.gizmo.getProjectionSize(), Vec2f(4, 3));
+        EXPECT_EQ(planar.gizmo.getInitialTextureScale(), Vec3f(2, 2, 2));
+        planar.gizmo.updateManipulator();
+        expectNear(planar.onHandle("scaleXYURShape", Vec3f()), Pnt3f(2, 1.5F, 0), "corner");
+    }
+}
+
+TEST(PlanarTextureManipulator, ReadsFlagAndPictureOfTheComponent)
+{
+    PlanarScene planar;
+    planar.gizmo.setKeepAspectRatio(true);
+    planar.gizmo.prepareManipulator(planar.scene.node);
+    EXPECT_FALSE(planar.gizmo.getKeepAspectRatio());
+    osg::beginEditCP(planar.settings);
+    planar.settings->setPlanarProjectionFlags(1);
+    osg::endEditCP(planar.settings);
+    const osg::ImagePtr image = osg::Image::create();
+    image->set(osg::Image::OSG_RGB_PF, 6, 4);
+    planar.material->setImage("diffuse", image);
+    planar.gizmo.setAspectRatio(7.0F);
+
+    planar.gizmo.prepareManipulator(planar.scene.node);
+    EXPECT_TRUE(planar.gizmo.getKeepAspectRatio());
+    EXPECT_FLOAT_EQ(planar.gizmo.getAspectRatio(), 1.5F);
+}
+
+TEST(PlanarTextureManipulator, IsConnectedToItsMaterialAndComponentOnly)
+{
+    PlanarScene planar;
+    Gizmo& gizmo = planar.gizmo;
+    const osg::RefPtr<osg::UberMaterialPtr> other(osg::UberMaterial::create());
+    EXPECT_TRUE(gizmo.isConnectedToMaterial(planar.material.get()));
+    EXPECT_TRUE(gizmo.isConnectedTo(planar.material.get(), "diffuse"));
+    EXPECT_FALSE(gizmo.isConnectedTo(planar.material.get(), "diffus"));
+    EXPECT_FALSE(gizmo.isConnectedToMaterial(other.get()));
+    EXPECT_EQ(gizmo.getComponentType(), "diffuse");
+    gizmo.setMaterialComponent(osg::MaterialPtr(), "mask", nullptr);
+    EXPECT_FALSE(gizmo.isConnectedToMaterial(osg::MaterialPtr()));
+    EXPECT_FALSE(gizmo.isConnectedToMaterial(planar.material.get()));
+}
+
+TEST(PlanarTextureManipulator, CopiesKeepTheStateAndShareTheHandles)
+{
+    PlanarScene planar;
+    planar.gizmo.activateScaleManipulator();
+    {
+        Gizmo copy(planar.gizmo);
+        EXPECT_TRUE(copy.isConnectedTo(planar.material.get(), "diffuse"));
+        EXPECT_EQ(copy.getNode(), planar.scene.node);
+        EXPECT_EQ(copy.getMode(), Gizmo::ManipulatorMode::Scale);
+        EXPECT_EQ(copy.getVisualisation(), planar.gizmo.getVisualisation());
+        copy.setMaterialComponent(osg::MaterialPtr(), "mask", nullptr);
+    }
+    EXPECT_EQ(planar.gizmo.getComponentType(), "diffuse");
+    EXPECT_TRUE(planar.grab("xsShape", Vec3f(2.5F, 0, 0)));
+    Gizmo assigned(true);
+    assigned = planar.gizmo;
+    EXPECT_EQ(assigned.getComponentType(), "diffuse");
+}
+
+TEST(PlanarTextureManipulator, DepthPassSharesCoresAndIsNotHit)
+{
+    PlanarScene planar;
+    Gizmo gizmo(true);
+    gizmo.setMaterialComponent(planar.material.get(), "diffuse", nullptr);
+    gizmo.setNode(planar.scene.node);
+    planar.scene.install(gizmo);
+    gizmo.activateRotateManipulator();
+    const osg::NodePtr copied = gizmo.getVisualisation()->getChild(0)->getChild(0);
+    const osg::NodePtr handles = gizmo.getVisualisation()->getChild(1)->getChild(0);
+    EXPECT_EQ(copied->getCore(), handles->getCore());
+    ASSERT_EQ(copied->getNChildren(), handles->getNChildren());
+    for (osg::UInt32 i = 0; i < copied->getNChildren(); ++i) {
+        EXPECT_EQ(copied->getChild(i)->getActive(), handles->getChild(i)->getActive()) << i;
+    }
+    EXPECT_TRUE(planar.scene.send("hover", planar.drag.rayPixelOf(Pnt3f(0.67F, 0, 0))));
+    EXPECT_EQ(gizmo.getActiveMode(), Gizmo::ActiveMode::Rotate);
+    planar.scene.manager.removeContext(&planar.scene.context);
+    planar.scene.install(planar.gizmo);
+}
+
+TEST(PlanarTextureManipulator, PivotGoesToTheCentreOfTheProjection)
+{
+    PlanarScene planar;
+    planar.edit(planar.core(), [](const osg::Transform3DPtr& node) {
+        node->setRotation(Vec3f(0, 0, 30));
+        node->setScale(Vec3f(2, 1, 1));
+    });
+    planar.edit(planar.projection, [](const osg::Transform3DPtr& projection) {
+        projection->setTranslation(Vec3f(0.5F, -0.25F, 1));
+    });
+    const osg::Matrix before = planar.scene.node->getToWorld();
+
+    EXPECT_TRUE(planar.gizmo.centerPivot());
+    EXPECT_EQ(planar.core()->getRotatePivot(), Vec3f(0.5F, -0.25F, 1));
+    EXPECT_EQ(planar.core()->getScalePivot(), Vec3f(0.5F, -0.25F, 1));
+    EXPECT_TRUE(planar.scene.node->getToWorld().equals(before, kTolerance));
+}
+
+}  // namespace nbec::manipulator::test

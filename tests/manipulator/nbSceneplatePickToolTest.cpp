@@ -1,0 +1,382 @@
+// SPDX-License-Identifier: MIT
+#include "manipulator/nbSceneplatePickTool.h"
+
+#include "tests/platform/support/Plates.h"
+
+#include <nbInteraction/InputTranslator.h>
+#include <nbInteraction/InteractionManager.h>
+#include <nbInteraction/Picker.h>
+#include <nbInteraction/ToolInteractionContext.h>
+#include <nbKernel/nbController.h>
+#include <nbKernel/nbOSGWidget.h>
+#include <nbKernel/nbScenegraph.h>
+
+#include <QtGui/QMouseEvent>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace {
+
+using nbec::interaction::InteractionEvent;
+using nbec::interaction::InteractionManager;
+using nbec::interaction::Picker;
+using nbec::interaction::ToolInteractionContext;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+/// Pixels of the 400 x 300 view at which the two plates and nothing are seen.
+const osg::Pnt2f kLeftPx(100, 150);
+const osg::Pnt2f kRightPx(300, 150);
+const osg::Pnt2f kNothingPx(200, 10);
+
+/// Gives tests what a derived tool of a host has.
+class HostTool : public nbSceneplatePickTool
+{
+public:
+    using nbSceneplatePickTool::isSelectionHint;
+    using nbSceneplatePickTool::preselectionActive;
+    using nbSceneplatePickTool::preselectionSent;
+    using nbSceneplatePickTool::sceneplateId;
+    using nbSceneplatePickTool::startPreselection;
+    using nbSceneplatePickTool::stopPreselection;
+};
+
+class SceneplatePickToolTest : public testing::Test
+{
+protected:
+    SceneplatePickToolTest()
+    {
+        widget.resize(400, 300);
+        left = addPlate({ kLeftPx.x(), kLeftPx.y(), 60, 60 });
+        right = addPlate({ kRightPx.x(), kRightPx.y(), 60, 60 });
+        picker.setFilter(Picker::SceneplateFilter);
+        context.setPicker(&picker);
+        context.setTool(&tool);
+        manager.addContext(&context);
+        nbOSGWidget::setInteractionMode(1);
+        nbController::addReceiver("sceneplatePreselected", [this](nbMessage& message) {
+            osg::NodePtr node;
+            EXPECT_EQ(message.names(), std::vector<std::string>({ "node" }));
+            EXPECT_TRUE(nbMessage::get(message, "node", node));
+            preselected.push_back(node);
+        });
+        nbController::addReceiver("sceneplateSelected", [this](nbMessage& message) {
+            EXPECT_EQ(message.names(), std::vector<std::string>({ "nodes", "hint" }));
+            EXPECT_TRUE(nbMessage::get(message, "nodes", selected));
+            EXPECT_TRUE(nbMessage::get(message, "hint", selectedHint));
+            ++selections;
+        });
+        // The manager's first mode is "tool"; these tests begin without it.
+        tool.preselectionActive = false;
+        tool.preselectionSent = false;
+        preselected.clear();
+        widget.setCursor(Qt::ArrowCursor);
+    }
+
+    ~SceneplatePickToolTest() override
+    {
+        manager.removeContext(&context);
+        nbController::clear();
+        nbOSGWidget::setInteractionMode(0);
+        nbScenegraph::clear();
+    }
+
+    static osg::NodePtr addPlate(const platetest::PlatePx& place)
+    {
+        const osg::NodePtr node =
+            platetest::makePlate(place, 300, osg::Color4f(1.0F, 1.0F, 1.0F, 1.0F));
+        nbScenegraph::getSceneplateRoot()->addChild(node);
+        return node;
+    }
+
+    bool sendAt(const osg::Pnt2f& px, const std::string& event, const std::string& hint = "select")
+    {
+        widget.setMousePosition(px);
+        manager.pointerMoved(px);
+        if (event == "start") {
+            widget.setPressPosition(px);
+        }
+        const bool handled = manager.triggerEvent(InteractionEvent(event, "tool", hint));
+        if (event == "stop") {
+            widget.clearPressPosition();
+        }
+        return handled;
+    }
+
+    /// A drag from one place to another. @return the answer to its last step
+    bool dragTo(const osg::Pnt2f& from, const osg::Pnt2f& to)
+    {
+        sendAt(from, "start");
+        return sendAt(to, "process");
+    }
+
+    nbOSGWidget widget;
+    osg::NodePtr left;
+    osg::NodePtr right;
+    Picker picker;
+    HostTool tool;
+    ToolInteractionContext context;
+    InteractionManager manager;
+    std::vector<osg::NodePtr> preselected;
+    std::vector<osg::NodePtr> selected;
+    std::string selectedHint;
+    int selections = 0;
+    const osg::NodePtr none;
+};
+
+TEST_F(SceneplatePickToolTest, HintsAreComparedExactly)
+{
+    for (const char* hint : { "select", "deselect", "add", "sub", "toggle" }) {
+        EXPECT_TRUE(HostTool::isSelectionHint(hint)) << hint;
+    }
+    for (const char* hint : { "Select", "selectThrough", "", "select " }) {
+        EXPECT_FALSE(HostTool::isSelectionHint(hint)) << hint;
+        EXPECT_TRUE(tool.hoverTool(&context, hint));
+        EXPECT_TRUE(tool.stopHoverTool(&context, hint));
+        EXPECT_FALSE(tool.startTool(&context, hint));
+        EXPECT_FALSE(tool.processTool(&context, hint));
+        EXPECT_FALSE(tool.stopTool(&context, hint));
+    }
+    EXPECT_THAT(preselected, IsEmpty());
+    EXPECT_EQ(selections, 0);
+}
+
+TEST_F(SceneplatePickToolTest, HoveringReportsThePlateAndAlsoNothing)
+{
+    EXPECT_TRUE(sendAt(kLeftPx, "hover"));
+    EXPECT_FALSE(sendAt(kNothingPx, "hover"));
+    EXPECT_THAT(preselected, ElementsAre(left, none));
+
+    EXPECT_TRUE(tool.stopHoverTool(&context, "select"));
+    EXPECT_TRUE(tool.stopHoverTool(&context, "select"));
+    EXPECT_THAT(preselected, ElementsAre(left, none, none)) << "one end per outstanding report";
+}
+
+TEST_F(SceneplatePickToolTest, HoveringHoldsBack)
+{
+    nbScenegraph::setPreselectionEnabled(false);
+    EXPECT_FALSE(sendAt(kLeftPx, "hover"));
+    nbScenegraph::setPreselectionEnabled(true);
+
+    nbController::setPresenterMode(true);
+    EXPECT_FALSE(sendAt(kLeftPx, "hover"));
+    EXPECT_TRUE(tool.setToolMode(&context, "tool"));
+    EXPECT_FALSE(tool.preselectionSent);
+    nbController::setPresenterMode(false);
+
+    EXPECT_THAT(preselected, IsEmpty());
+}
+
+TEST_F(SceneplatePickToolTest, InteractionModeZeroReportsInModeToolOnly)
+{
+    nbOSGWidget::setInteractionMode(0);
+    EXPECT_FALSE(sendAt(kLeftPx, "hover"));
+    EXPECT_THAT(preselected, IsEmpty());
+
+    EXPECT_TRUE(tool.setToolMode(&context, "tool"));
+    EXPECT_EQ(widget.getCursor(), Qt::CrossCursor);
+    EXPECT_THAT(preselected, ElementsAre(left)) << "reports at once";
+    EXPECT_TRUE(sendAt(kRightPx, "hover"));
+
+    EXPECT_TRUE(tool.setToolMode(&context, ""));
+    EXPECT_EQ(widget.getCursor(), Qt::ArrowCursor);
+    EXPECT_FALSE(tool.preselectionActive);
+    EXPECT_FALSE(sendAt(kLeftPx, "hover"));
+    EXPECT_THAT(preselected, ElementsAre(left, right, none));
+}
+
+TEST_F(SceneplatePickToolTest, LeavingModeToolWithoutAReportKeepsReporting)
+{
+    nbOSGWidget::setInteractionMode(0);
+    tool.setToolMode(&context, "tool");
+    tool.stopHoverTool(&context, "select");
+    preselected.clear();
+
+    EXPECT_TRUE(tool.setToolMode(&context, ""));
+
+    // Deliberate: the mode ends only together with an outstanding report.
+    EXPECT_TRUE(tool.preselectionActive);
+    EXPECT_THAT(preselected, IsEmpty());
+    EXPECT_TRUE(sendAt(kLeftPx, "hover"));
+}
+
+TEST_F(SceneplatePickToolTest, OtherModesChangeNothing)
+{
+    widget.setCursor(Qt::WaitCursor);
+    for (const char* mode : { "precisionTool", "Tool", " " }) {
+        EXPECT_FALSE(tool.setToolMode(&context, mode)) << mode;
+    }
+    EXPECT_EQ(widget.getCursor(), Qt::WaitCursor);
+    EXPECT_THAT(preselected, IsEmpty());
+}
+
+TEST_F(SceneplatePickToolTest, ClickSelectsThePlateUnderThePointer)
+{
+    EXPECT_TRUE(sendAt(kLeftPx, "start", "toggle"));
+    EXPECT_EQ(selections, 0) << "only the release selects";
+    EXPECT_TRUE(sendAt(kLeftPx, "stop", "toggle"));
+    EXPECT_THAT(selected, ElementsAre(left));
+    EXPECT_EQ(selectedHint, "toggle");
+
+    EXPECT_FALSE(sendAt(kNothingPx, "start"));
+    EXPECT_FALSE(sendAt(kNothingPx, "stop"));
+    EXPECT_THAT(selected, IsEmpty());
+    EXPECT_EQ(selectedHint, "select");
+    EXPECT_EQ(selections, 2) << "nothing is told as well";
+}
+
+TEST_F(SceneplatePickToolTest, DragsOfThreePixelsBothWaysSelectByRectangle)
+{
+    struct Row
+    {
+        const char* name;
+        osg::Vec2f drag;
+        bool isRectangle;
+    };
+
+    // A drag by n pixels spans n + 1.
+    const Row rows[] = {
+        { "2 x 10", osg::Vec2f(1, 9), false }, { "10 x 2", osg::Vec2f(9, 1), false },
+        { "3 x 3", osg::Vec2f(2, 2), true },   { "3 x 3 up left", osg::Vec2f(-2, -2), true },
+        { "40 x 3", osg::Vec2f(39, 2), true }, { "none", osg::Vec2f(0, 0), false }
+    };
+    for (const Row& row : rows) {
+        EXPECT_TRUE(dragTo(kLeftPx, kLeftPx + row.drag)) << row.name;
+        EXPECT_EQ(widget.getRectSelection(), row.isRectangle) << row.name;
+        sendAt(kLeftPx + row.drag, "stop");
+        EXPECT_FALSE(widget.getRectSelection()) << row.name;
+        EXPECT_EQ(selected.size(), row.isRectangle ? 0U : 1U) << row.name;
+    }
+}
+
+TEST_F(SceneplatePickToolTest, RectangleSelectsWhateverWayItIsDrawn)
+{
+    const osg::Pnt2f corner(60, 100);
+    const osg::Pnt2f other(340, 200);
+    for (const bool isBackwards : { false, true }) {
+        const osg::Pnt2f from = isBackwards ? other : corner;
+        const osg::Pnt2f to = isBackwards ? corner : other;
+        EXPECT_TRUE(dragTo(from, to));
+        EXPECT_TRUE(sendAt(to, "stop"));
+        EXPECT_THAT(selected, ElementsAre(left, right));
+        selected.clear();
+    }
+}
+
+TEST_F(SceneplatePickToolTest, MouseEventsOfAPersonHoverClickAndDragUpLeft)
+{
+    nbec::interaction::InputTranslator translator(manager, &widget);
+    const auto mouse = [&translator](QEvent::Type type, const osg::Pnt2f& px,
+                                     Qt::MouseButton button, Qt::MouseButtons buttons) {
+        QMouseEvent event(type, QPointF(px.x(), px.y()), button, buttons, Qt::NoModifier);
+        translator.handleEvent(event);
+    };
+    mouse(QEvent::MouseMove, kLeftPx, Qt::NoButton, Qt::NoButton);
+    EXPECT_THAT(preselected, ElementsAre(left));
+    mouse(QEvent::MouseButtonPress, kLeftPx, Qt::LeftButton, Qt::LeftButton);
+    mouse(QEvent::MouseButtonRelease, kLeftPx, Qt::LeftButton, Qt::NoButton);
+    EXPECT_THAT(selected, ElementsAre(left));
+
+    const osg::Pnt2f from(390, 290);
+    const osg::Pnt2f to(200, 20);
+    mouse(QEvent::MouseButtonPress, from, Qt::LeftButton, Qt::LeftButton);
+    mouse(QEvent::MouseMove, from - osg::Vec2f(1, 1), Qt::NoButton, Qt::LeftButton);
+    EXPECT_FALSE(widget.getRectSelection());
+    mouse(QEvent::MouseMove, to, Qt::NoButton, Qt::LeftButton);
+    EXPECT_TRUE(widget.getRectSelection());
+    mouse(QEvent::MouseButtonRelease, to, Qt::LeftButton, Qt::NoButton);
+    EXPECT_THAT(selected, ElementsAre(right));
+    EXPECT_FALSE(widget.getRectSelection());
+    EXPECT_EQ(selections, 2);
+}
+
+TEST_F(SceneplatePickToolTest, RectangleEndsAnOutstandingPreselectionAndIsRedrawn)
+{
+    sendAt(kNothingPx, "hover");
+    sendAt(kNothingPx, "start");
+    preselected.clear();
+    widget.redrawDone();
+
+    EXPECT_FALSE(sendAt(kNothingPx + osg::Vec2f(1, 1), "process"));
+    EXPECT_FALSE(widget.isRedrawPending());
+    EXPECT_TRUE(sendAt(kNothingPx + osg::Vec2f(5, 5), "process"));
+    EXPECT_TRUE(widget.isRedrawPending());
+    EXPECT_TRUE(sendAt(kNothingPx, "process")) << "a rectangle stays one when it gets small";
+
+    EXPECT_THAT(preselected, ElementsAre(none));
+    EXPECT_FALSE(tool.preselectionSent);
+}
+
+TEST_F(SceneplatePickToolTest, WithoutPickerOrContextNothingIsToldAndTheRectangleStays)
+{
+    widget.setRectSelection(true);
+    context.setPicker(nullptr);
+    for (ToolInteractionContext* ctx :
+         { &context, static_cast<ToolInteractionContext*>(nullptr) }) {
+        EXPECT_FALSE(tool.hoverTool(ctx, "select"));
+        EXPECT_FALSE(tool.startTool(ctx, "select"));
+        EXPECT_FALSE(tool.stopTool(ctx, "select"));
+        EXPECT_TRUE(tool.setToolMode(ctx, "tool"));
+    }
+    EXPECT_TRUE(widget.getRectSelection());
+    EXPECT_TRUE(tool.preselectionActive);
+    EXPECT_THAT(preselected, IsEmpty());
+    EXPECT_EQ(selections, 0);
+}
+
+TEST_F(SceneplatePickToolTest, CopiesLeaveTheOutstandingReportBehind)
+{
+    tool.sceneplateId = left->getCore().getFieldContainerId();
+    tool.setToolMode(&context, "tool");
+    ASSERT_TRUE(tool.preselectionSent);
+
+    const HostTool copy(tool);
+    HostTool assigned;
+    assigned = tool;
+    for (const HostTool* other : { &copy, static_cast<const HostTool*>(&assigned) }) {
+        EXPECT_EQ(other->getSceneplate(), left->getCore());
+        EXPECT_TRUE(other->preselectionActive);
+        EXPECT_FALSE(other->preselectionSent);
+        EXPECT_FALSE(other->isActive());
+    }
+    HostTool waiting;
+    waiting.preselectionSent = true;
+    waiting = HostTool();
+    EXPECT_TRUE(waiting.preselectionSent) << "the target's own report is still to be ended";
+}
+
+TEST_F(SceneplatePickToolTest, SceneplateIsFoundByItsIdAndType)
+{
+    EXPECT_EQ(tool.getSceneplate(), osg::NullFC);
+    tool.sceneplateId = left.getFieldContainerId();
+    EXPECT_EQ(tool.getSceneplate(), osg::NullFC) << "a node is no plate";
+    tool.sceneplateId = left->getCore().getFieldContainerId();
+    EXPECT_EQ(tool.getSceneplate(), left->getCore());
+    left->getParent()->subChild(left);
+    EXPECT_EQ(tool.getSceneplate(), osg::NullFC) << "it no longer exists";
+}
+
+TEST(SceneplatePickTool, AnswersWithoutAWidget)
+{
+    ToolInteractionContext context;
+    Picker picker;
+    context.setPicker(&picker);
+    HostTool tool;
+
+    EXPECT_TRUE(tool.setToolMode(&context, "tool"));
+    EXPECT_FALSE(tool.preselectionActive) << "without a widget nothing changes";
+    EXPECT_FALSE(tool.startTool(&context, "select"));
+    EXPECT_FALSE(tool.stopTool(&context, "select"));
+    tool.startPreselection(&context);
+    EXPECT_TRUE(tool.preselectionSent);
+    EXPECT_TRUE(tool.setToolMode(&context, ""));
+    EXPECT_TRUE(tool.preselectionSent);
+    tool.stopPreselection();
+    EXPECT_FALSE(tool.preselectionSent);
+}
+
+}  // namespace

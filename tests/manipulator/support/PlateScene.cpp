@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#include "tests/manipulator/support/PlateScene.h"
+
+#include "manipulator/detail/PlateFrame.h"
+#include "tests/manipulator/support/GizmoScene.h"
+
+#include <nbKernel/nbScenegraph.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace nbec::manipulator::test {
+
+PlateScene::PlateScene(int widthPx, int heightPx)
+{
+    widget.setMain();
+    widget.resize(widthPx, heightPx);
+    context.setPicker(&picker);
+    manipulator.setVisualisationRoot(nbScenegraph::getInternalRoot());
+    context.setManipulator(&manipulator);
+    manager.addContext(&context);
+}
+
+PlateScene::~PlateScene()
+{
+    manager.removeContext(&context);
+    context.setPicker(nullptr);
+    manipulator.setVisualisationRoot(osg::NodePtr());
+    nbScenegraph::clear();
+}
+
+osg::NodePtr PlateScene::addPlate(const platetest::PlatePx& place)
+{
+    const osg::NodePtr node =
+        platetest::makePlate(place, widget.getHeight(), osg::Color4f(0.2F, 0.4F, 0.6F, 1.0F));
+    const osg::NodePtr root = nbScenegraph::getSceneplateRoot();
+    const nbEdit edit(root, osg::Node::ChildrenFieldMask);
+    root->addChild(node);
+    return node;
+}
+
+osg::Pnt2f PlateScene::handlePx(const std::string& name)
+{
+    const osg::NodePtr handle = findNode(manipulator.getVisualisation(), name);
+    osg::Matrix clipFromWorld;
+    widget.getCamera()->getWorldToScreen(clipFromWorld, *widget.getViewport());
+    osg::Pnt3f origin;
+    handle->getToWorld().multMatrixPnt(origin);
+    osg::Pnt3f device;
+    clipFromWorld.multFullMatrixPnt(origin, device);
+    return osg::Pnt2f((device.x() + 1.0F) * 0.5F * static_cast<float>(widget.getWidth()),
+                      (1.0F - device.y()) * 0.5F * static_cast<float>(widget.getHeight()));
+}
+
+bool PlateScene::isHandleShown(const std::string& name)
+{
+    const osg::NodePtr handle = findNode(manipulator.getVisualisation(), name);
+    return handle != osg::NullFC && isShown(handle);
+}
+
+bool PlateScene::send(const std::string& event, const osg::Pnt2f& positionPx,
+                      const std::string& hint)
+{
+    widget.setMousePosition(positionPx);
+    manager.pointerMoved(positionPx);
+    return manager.triggerEvent(interaction::InteractionEvent(event, "tool", hint));
+}
+
+bool PlateScene::drag(const osg::Pnt2f& fromPx, const osg::Vec2f& distancePx, bool isReleased)
+{
+    constexpr float kStepPx = 5.0F;
+    bool handled = send("start", fromPx);
+    const int steps = std::max(1, static_cast<int>(std::ceil(distancePx.length() / kStepPx)));
+    for (int i = 1; i <= steps; ++i) {
+        const float part = static_cast<float>(i) / static_cast<float>(steps);
+        handled = send("process", fromPx + distancePx * part) && handled;
+    }
+    return isReleased ? send("stop", fromPx + distancePx) && handled : handled;
+}
+
+bool PlateScene::drag(const std::string& handle, const osg::Vec2f& distancePx, bool isReleased)
+{
+    return drag(handlePx(handle), distancePx, isReleased);
+}
+
+nbSceneplateLayout::Corners PlateScene::corners(const osg::NodePtr& plate) const
+{
+    return nbSceneplateLayout::corners(platetest::plateOf(plate), widget.getWidth(),
+                                       widget.getHeight());
+}
+
+osg::Pnt2f exactCorner(const osg::NodePtr& plate, const nbOSGWidget& widget, float alongX,
+                       float alongY)
+{
+    return detail::pointOfFrame(nbSceneplateLayout::frame({ platetest::plateOf(plate) },
+                                                          widget.getWidth(), widget.getHeight()),
+                                alongX, alongY);
+}
+
+}  // namespace nbec::manipulator::test

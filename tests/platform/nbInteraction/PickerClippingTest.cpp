@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+#include <nbOpenSGExt/ClipPlane3D.h>
+
+#include "PickerTestSupport.h"
+
+namespace {
+
+/// A plane whose frame is a transform node of its own; the half with x below the frame's origin is
+/// cut away.
+class PickerClipping : public PickerTest
+{
+protected:
+    PickerClipping()
+        : frame(placed(0.0f, 0.0f, 0.0f, osg::makeCoredNode<osg::Group>()))
+        , cut(osg::makeCoredNode<osg::ClipPlane3D>(&plane))
+    {
+        hang(nbScenegraph::getRootNode(), frame);
+        hang(nbScenegraph::getRootNode(), cut);
+        const nbEdit edit(plane, osg::FieldBits::AllFields);
+        plane->setEquation(osg::Vec4f(1.0f, 0.0f, 0.0f, 0.0f));
+        plane->setTransformNode(frame);
+    }
+
+    void moveFrame(float x)
+    {
+        const osg::TransformPtr core = osg::TransformPtr::dcast(frame->getCore());
+        const nbEdit edit(core, osg::Transform::MatrixFieldMask);
+        osg::Matrix matrix;
+        matrix.setTranslate(x, 0.0f, 0.0f);
+        core->setMatrix(matrix);
+    }
+
+    osg::NodePtr frame;
+    osg::ClipPlane3DPtr plane;
+    osg::NodePtr cut;
+};
+
+TEST_F(PickerClipping, WhatIsCutAwayIsNotHitAndWhatLiesBehindItIs)
+{
+    const osg::NodePtr cube = box(4.0f);
+    const osg::NodePtr wall = box(8.0f);
+    hang(cut, cube);
+    hang(nbScenegraph::getRootNode(), placed(0.0f, 0.0f, -10.0f, wall));
+
+    EXPECT_EQ(pickAt(420.0f, 300.0f), cube);
+    EXPECT_EQ(pickAt(380.0f, 300.0f), wall);
+    moveFrame(-1.5f);
+    EXPECT_EQ(pickAt(380.0f, 300.0f), cube);
+}
+
+TEST_F(PickerClipping, ThroughTheCutTheInsideIsSeen)
+{
+    const osg::NodePtr cube = box(4.0f);
+    hang(cut, cube);
+    {
+        const nbEdit edit(plane, osg::ClipPlane3D::EquationFieldMask);
+        plane->setEquation(osg::Vec4f(0.0f, 0.0f, -1.0f, 0.5f));
+    }
+
+    EXPECT_EQ(pickAt(400.0f, 300.0f), cube);
+
+    // The front half, z above 0.5, is gone: the ray meets the back wall from inside.
+    EXPECT_NEAR(picker.getHitPoint()[2], -2.0f, 1e-4f);
+}
+
+TEST_F(PickerClipping, SwitchedOffOrLiftedItCutsNothing)
+{
+    const osg::NodePtr cube = box(4.0f);
+    hang(cut, cube);
+    ASSERT_EQ(pickAt(380.0f, 300.0f), osg::NullFC);
+
+    {
+        const nbEdit edit(plane, osg::ClipPlane3D::EnableFieldMask);
+        plane->setEnable(false);
+    }
+    EXPECT_EQ(pickAt(380.0f, 300.0f), cube);
+    {
+        const nbEdit edit(plane, osg::ClipPlane3D::EnableFieldMask);
+        plane->setEnable(true);
+    }
+    EXPECT_EQ(pickAt(380.0f, 300.0f), osg::NullFC);
+    hang(nbScenegraph::getRootNode(), cube);
+    EXPECT_EQ(pickAt(380.0f, 300.0f), cube);
+}
+
+TEST_F(PickerClipping, ManyItemsAreCutAlike)
+{
+    std::vector<osg::NodePtr> cubes;
+    for (int i = -4; i <= 4; ++i) {
+        cubes.push_back(box(0.8f));
+        hang(cut, placed(static_cast<float>(i), 0.0f, 0.0f, cubes.back()));
+    }
+
+    EXPECT_EQ(pickAt(400.0f + 60.0f, 300.0f), cubes[6]);
+    EXPECT_EQ(pickAt(400.0f - 60.0f, 300.0f), osg::NullFC);
+
+    // A rectangle takes what is seen of them.
+    EXPECT_EQ(picker.pickRectangle(QRect(0, 0, 800, 600)).size(), 5U);
+}
+
+}  // namespace

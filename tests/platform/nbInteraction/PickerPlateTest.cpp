@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: MIT
+#include "tests/platform/nbInteraction/PickerTestSupport.h"
+#include "tests/platform/support/Plates.h"
+
+#include <nbOpenSGRenderAction/nbImageConvert.h>
+
+#include <QtGui/QImage>
+
+#include <gmock/gmock.h>
+
+#include <cmath>
+#include <limits>
+
+using nbec::interaction::Picker;
+using platetest::PlatePx;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+const osg::Color4f kWhite(1.f, 1.f, 1.f, 1.f);
+
+}  // namespace
+
+/// A view of 800 x 600 pixels with plates, picked by a picker of plates.
+class PickerPlateTest : public PickerTest
+{
+protected:
+    PickerPlateTest() { picker.setFilter(Picker::SceneplateFilter); }
+
+    static osg::NodePtr add(const std::string& name, const PlatePx& place,
+                            const std::function<void(const osg::SceneplatePtr&)>& change = {})
+    {
+        const osg::NodePtr node = named(name, platetest::makePlate(place, 600, kWhite, change));
+        hang(nbScenegraph::getSceneplateRoot(), node);
+        return node;
+    }
+
+    std::vector<std::string> namesIn(const QRect& rect)
+    {
+        std::vector<std::string> names;
+        for (const osg::NodePtr& node : picker.pickRectangle(rect)) {
+            names.push_back(nbNodeUtils::getName(node));
+        }
+        return names;
+    }
+};
+
+TEST_F(PickerPlateTest, TurnedPlateIsHitExactlyWherePixelCentresLieOnIt)
+{
+    add("plate", { 300.f, 200.f, 90.f, 37.f, 33.f });
+    const double angle = 33.0 * 3.14159265358979 / 180.0;
+
+    int hits = 0;
+    for (int y = 120; y < 280; ++y) {
+        for (int x = 220; x < 380; ++x) {
+            const double right = x + 0.5 - 300.0;
+            const double up = 200.0 - (y + 0.5);
+            const bool isInside =
+                std::fabs(right * std::cos(angle) + up * std::sin(angle)) < 45.0 &&
+                std::fabs(up * std::cos(angle) - right * std::sin(angle)) < 18.5;
+            hits += isInside ? 1 : 0;
+            // Anywhere within the pixel.
+            ASSERT_EQ(pickAt(static_cast<float>(x) + 0.9f, static_cast<float>(y)) != osg::NullFC,
+                      isInside)
+                << x << ", " << y;
+        }
+    }
+    EXPECT_NEAR(hits, 90 * 37, 40);
+}
+
+TEST_F(PickerPlateTest, ForemostPlateIsHitWhateverTheSceneHides)
+{
+    hang(nbScenegraph::getRootNode(), named("box", box(4.f)));
+    const auto front = [](bool isFront, int order) {
+        return [=](const osg::SceneplatePtr& plate) {
+            plate->setFront(isFront);
+            plate->setOrder(order);
+        };
+    };
+    add("back", { 400.f, 300.f, 300.f, 300.f }, front(false, 100));
+    const osg::NodePtr high = add("high", { 400.f, 300.f, 100.f, 100.f }, front(true, 2));
+    add("low", { 400.f, 300.f, 200.f, 200.f }, front(true, 1));
+
+    EXPECT_EQ(nameAt(400.f, 300.f), "high");
+    EXPECT_EQ(picker.getHitNode(), high);
+    EXPECT_EQ(nameAt(340.f, 300.f), "low");
+    EXPECT_EQ(nameAt(290.f, 300.f), "back");
+    EXPECT_EQ(nameAt(200.f, 300.f), "");
+    EXPECT_EQ(picker.getHitNode(), osg::NullFC);
+    setActive(high, false);
+    EXPECT_EQ(nameAt(400.f, 300.f), "low");
+    picker.setFilter(Picker::SceneFilter);
+    EXPECT_EQ(nameAt(400.f, 300.f), "box") << "the scene does not know plates";
+}
+
+TEST_F(PickerPlateTest, HolesOfAPictureAreNotHitOpacityDoesNotCount)
+{
+    QImage picture(2, 2, QImage::Format_ARGB32);
+    picture.fill(Qt::white);
+    picture.setPixelColor(0, 0, Qt::transparent);
+    picture.setPixelColor(1, 0, QColor(255, 255, 255, 26));  // just above the threshold
+    picture.setPixelColor(1, 1, QColor(255, 255, 255, 25));
+    const osg::NodePtr node = add("logo", { 400.f, 300.f, 80.f, 80.f }, [&](const auto& plate) {
+        plate->setImage(nbImageConvert::toImage(picture));
+        plate->setOpacity(0.01f);
+    });
+
+    EXPECT_EQ(nameAt(370.f, 270.f), "") << "upper left";
+    EXPECT_EQ(nameAt(430.f, 270.f), "logo");
+    EXPECT_EQ(nameAt(370.f, 330.f), "logo");
+    EXPECT_EQ(nameAt(430.f, 330.f), "");
+    EXPECT_EQ(nameAt(399.9f, 299.9f), "");
+    EXPECT_EQ(nameAt(400.f, 299.9f), "logo");
+
+    const osg::SceneplatePtr plate = platetest::plateOf(node);
+    const nbEdit edit(plate, osg::FieldBits::AllFields);
+    plate->setImage(osg::NullFC);
+    EXPECT_EQ(nameAt(370.f, 270.f), "logo");
+    plate->setColor(osg::Color4f(1.f, 1.f, 1.f, 0.05f));
+    EXPECT_EQ(nameAt(370.f, 270.f), "") << "a plate of clear colour";
+}
+
+TEST_F(PickerPlateTest, RectangleTakesPlatesThatLieInsideAsFarAsTheyAreInView)
+{
+    add("left", { 100.f, 100.f, 40.f, 40.f });
+    add("turned", { 200.f, 100.f, 40.f, 40.f, 45.f });  // 56.6 wide
+    add("ground", { 400.f, 300.f, 800.f, 600.f }, [](const auto& p) { p->setFront(false); });
+    add("half out", { 0.f, 300.f, 100.f, 40.f });
+    add("outside", { -200.f, 300.f, 100.f, 40.f });
+    add("hidden", { 100.f, 100.f, 10.f, 10.f }, [](const auto& p) { p->setVisible(false); });
+
+    EXPECT_THAT(namesIn(QRect(70, 60, 200, 80)), ElementsAre("left", "turned"));
+    EXPECT_THAT(namesIn(QRect(QPoint(269, 139), QPoint(70, 60))), ElementsAre("left", "turned"))
+        << "drawn up and to the left";
+    EXPECT_THAT(namesIn(QRect(80, 80, 40, 40)), ElementsAre("left")) << "exactly its pixels";
+    EXPECT_THAT(namesIn(QRect(81, 80, 39, 40)), IsEmpty());
+    EXPECT_THAT(namesIn(QRect(175, 75, 50, 50)), IsEmpty()) << "the corners of the turned one";
+    EXPECT_THAT(namesIn(QRect(0, 250, 120, 100)), ElementsAre("half out"));
+    EXPECT_THAT(namesIn(QRect(0, 0, 800, 600)),
+                ElementsAre("ground", "left", "turned", "half out"));
+    EXPECT_THAT(namesIn(QRect()), IsEmpty());
+}
+
+TEST_F(PickerPlateTest, NothingOutsideTheViewAndWithoutOne)
+{
+    add("everywhere", { 400.f, 300.f, 4000.f, 4000.f });
+    const float nan = std::numeric_limits<float>::quiet_NaN();
+
+    EXPECT_EQ(nameAt(0.f, 599.9f), "everywhere");
+    EXPECT_EQ(nameAt(-0.1f, 10.f), "");
+    EXPECT_EQ(nameAt(800.f, 10.f), "");
+    EXPECT_EQ(nameAt(nan, 10.f), "");
+    widget.setMousePosition(osg::Pnt2f(20.f, 20.f));
+    EXPECT_NE(picker.pick(), osg::NullFC);
+    widget.resize(0, 600);
+    EXPECT_EQ(nameAt(0.f, 0.f), "");
+    EXPECT_THAT(namesIn(QRect(-5000, -5000, 10000, 10000)), IsEmpty());
+}

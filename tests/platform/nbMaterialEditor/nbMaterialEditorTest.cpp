@@ -1,0 +1,496 @@
+// SPDX-License-Identifier: MIT
+#include <nbKernel/nbController.h>
+#include <nbKernelServices/nbUndoService.h>
+#include <nbMaterialEditor/nbMaterialEditor.h>
+#include <nbMaterialEditor/nbMaterialPreview.h>
+#include <nbOpenSGUtils/nbEdit.h>
+#include <nbUtils/nbLog.h>
+
+#include <OpenSG/OSGGeometry.h>
+#include <OpenSG/OSGGroup.h>
+#include <OpenSG/OSGSimpleGeometry.h>
+
+#include <QtWidgets/QUndoStack>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <functional>
+#include <limits>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace {
+
+using Settings = osg::ColorComponentSettings;
+
+constexpr float kHalfPi = 1.57079633f;
+constexpr float kTolerance = 1e-5f;
+constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
+const std::string kDiffuse = osg::UberMaterial::kDiffuseComponent;
+
+void expectNear(const osg::Vec3f& found, const osg::Vec3f& expected, const char* what)
+{
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        EXPECT_NEAR(found[i], expected[i], kTolerance) << what << ", component " << i;
+    }
+}
+
+struct Gui : public nbStateChunkBase
+{
+    std::vector<std::string> told;
+
+    void componentChanged(const std::string& component) override { told.push_back(component); }
+};
+
+/// An editor "label" of a box below a transform, with a projection.
+class nbMaterialEditorTest : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        nbController::clear();
+        undo->clear();
+        const osg::Transform3DPtr core = osg::Transform3D::create();
+        settings->setPlanarProjection(core);
+        material->setComponentSettings(kDiffuse, settings.get());
+        object = osg::makeBox(2.f, 2.f, 2.f, 1, 1, 1);
+        osg::GeometryPtr::dcast(object->getCore())->setMaterial(material.get());
+        root = osg::makeNodeFor(place);
+        root->addChild(object);
+        editor = std::make_unique<nbMaterialEditor>("label");
+        editor->setMaterial(material.get(), object, kDiffuse, &gui);
+        formerSink =
+            nbLog::setSink([this](nbLog::Level, const std::string& text) { log.push_back(text); });
+    }
+
+    void TearDown() override
+    {
+        nbLog::setSink(formerSink);
+        editor.reset();
+        undo->clear();
+        nbController::clear();
+    }
+
+    osg::Transform3DPtr projection() const { return settings->getPlanarProjection(); }
+
+    static void send(const std::string& suffix,
+                     const std::vector<std::pair<const char*, boost::any>>& attributes)
+    {
+        nbMessage message;
+        for (const auto& [name, value] : attributes) {
+            message.set(name, value, true);
+        }
+        nbController::call(("label" + suffix).c_str(), message, 0);
+    }
+
+    static void change(const std::vector<std::pair<const char*, boost::any>>& attributes)
+    {
+        send("::changedPlanarManipulator", attributes);
+    }
+
+    static void placeTexture(const osg::NodePtr& node, const osg::Pnt3f& point,
+                             const osg::Vec3f& normal)
+    {
+        send("::placeTexture",
+             { { "hitNode", node }, { "hitPoint", point }, { "hitNormal", normal } });
+    }
+
+    static void endDrag()
+    {
+        nbMessage message;
+        message.set("enabled", true, true);
+        nbController::call("setMatRenderEnabled", message, 0);
+        nbController::call("updateMatRender", 0);
+    }
+
+    /// A direction of the projection's frame, in the object's space.
+    osg::Vec3f direction(float x, float y, float z) const
+    {
+        osg::Vec3f result(x, y, z);
+        projection()->getMatrix().multMatrixVec(result);
+        return result;
+    }
+
+    int steps() const { return undo->getStack()->count(); }
+
+    nbUndoService* const undo = nbUndoService::the();
+    osg::UberMaterialRefPtr material { osg::UberMaterial::create() };
+    osg::ColorComponentSettingsRefPtr settings { Settings::create() };
+    osg::Transform3DPtr place { osg::Transform3D::create() };
+    osg::NodeRefPtr root;
+    osg::NodePtr object;
+    Gui gui;
+    std::unique_ptr<nbMaterialEditor> editor;
+    std::vector<std::string> log;
+    nbLog::Sink formerSink;
+};
+
+}  // namespace
+
+// == Changes by manipulators
+
+TEST_F(nbMaterialEditorTest, TotalsAddToTheProjectionAsItWasWhenTheDragBegan)
+{
+    projection()->setTranslation(osg::Vec3f(10.f, 0.f, 0.f));
+    change({ { "offset", osg::Vec2f(9.f, 9.f) }, { "transVec", osg::Vec3f(1.f, 0.f, 0.f) } });
+    change({ { "offset", osg::Vec2f(9.f, 9.f) }, { "transVec", osg::Vec3f(3.f, 2.f, 0.f) } });
+    expectNear(projection()->getTranslation(), { 13.f, 2.f, 0.f }, "not summed up");
+    expectNear(osg::Vec3f(projection()->getMatrix()[3][0], projection()->getMatrix()[3][1], 0.f),
+               { 13.f, 2.f, 0.f }, "the matrix follows");
+
+    endDrag();
+    change({ { "transVec", osg::Vec3f(1.f, 0.f, 0.f) } });
+    expectNear(projection()->getTranslation(), { 14.f, 2.f, 0.f }, "after a drag's end");
+    undo->beginGroup();
+    change({ { "transVec", osg::Vec3f(1.f, 0.f, 0.f) } });
+    expectNear(projection()->getTranslation(), { 15.f, 2.f, 0.f }, "in a group");
+    undo->beginGroup();
+    change({ { "transVec", osg::Vec3f(1.f, 0.f, 0.f) } });
+    expectNear(projection()->getTranslation(), { 16.f, 2.f, 0.f }, "in the next group");
+    undo->endGroup();
+    editor->setMaterial(material.get(), object, kDiffuse);
+    change({ { "transVec", osg::Vec3f(1.f, 0.f, 0.f) } });
+    expectNear(projection()->getTranslation(), { 17.f, 2.f, 0.f }, "after setMaterial");
+    ASSERT_TRUE(undo->undo());
+    change({ { "transVec", osg::Vec3f(2.f, 0.f, 0.f) } });
+    expectNear(projection()->getTranslation(), { 18.f, 2.f, 0.f }, "after undo");
+    EXPECT_TRUE(log.empty());
+}
+
+TEST_F(nbMaterialEditorTest, OffsetAloneMovesWithinThePlaneAndRotateTurnsBackwardsAboutOwnZ)
+{
+    {
+        const nbEdit edit(projection(), osg::Transform3D::PartsFieldMask);
+        projection()->setRotation(osg::Vec3f(0.f, 90.f, 0.f));
+        projection()->setRotationOrientation(osg::Quaternion(osg::Vec3f(0.f, 0.f, 1.f), kHalfPi));
+        projection()->setScale(osg::Vec3f(2.f, 2.f, 2.f));
+    }
+    // Own X looks to Y, own Y to +Z, and Z to X.
+    change({ { "offset", osg::Vec2f(1.f, 3.f) } });
+    expectNear(projection()->getTranslation(), { 0.f, 1.f, 3.f }, "offset");
+
+    expectNear(direction(0.f, 1.f, 0.f), { 0.f, 0.f, 2.f }, "own y before");
+    change({ { "rotate", 0.5f * kHalfPi } });
+    change({ { "rotate", kHalfPi } });
+    expectNear(direction(0.f, 0.f, 1.f), { 2.f, 0.f, 0.f }, "own z stays");
+    expectNear(direction(1.f, 0.f, 0.f), { 0.f, 0.f, -2.f }, "own x turned by -90 degrees");
+    EXPECT_EQ(projection()->getRotationOrientation(),
+              osg::Quaternion(osg::Vec3f(0.f, 0.f, 1.f), kHalfPi));
+    change({ { "rotate", 0.f } });
+    EXPECT_EQ(projection()->getRotationMode(), osg::Transform3D::EulerMode)
+        << "back at the start nothing has changed";
+}
+
+TEST_F(nbMaterialEditorTest, ScaleIsAbsoluteAndClampingSwitchesTheExtentOn)
+{
+    change({ { "scale", osg::Vec3f(2.f, 3.f, 4.f) } });
+    change({ { "scale", osg::Vec3f(0.f, 3.f, 5.f) } });
+    expectNear(projection()->getScale(), { 0.f, 3.f, 5.f }, "scale");
+    EXPECT_FALSE(settings->hasPlanarProjectionFlag(Settings::ClampZ));
+
+    settings->setPlanarProjectionFlags(Settings::RepeatU);
+    change({ { "clamping", true },
+             { "scale", osg::Vec3f(1.f, 1.f, 7.f) },
+             { "offset", osg::Vec2f(1.f, 1.f) },
+             { "transVec", osg::Vec3f(0.f, 0.f, 1.f) },
+             { "somethingElse", 1 } });
+    expectNear(projection()->getScale(), { 1.f, 1.f, 7.f }, "all at once");
+    expectNear(projection()->getTranslation(), { 0.f, 0.f, 1.f }, "all at once");
+    EXPECT_EQ(settings->getPlanarProjectionFlags(), Settings::RepeatU | Settings::ClampZ);
+    change({ { "clamping", false }, { "rotate", 1.f } });
+    EXPECT_TRUE(settings->hasPlanarProjectionFlag(Settings::ClampZ)) << "switched off nowhere";
+}
+
+TEST_F(nbMaterialEditorTest, WrongMessagesLeaveEverythingAndCostOneLine)
+{
+    using Attributes = std::vector<std::pair<const char*, boost::any>>;
+    const osg::Vec3f good(1.f, 2.f, 3.f);
+    const Attributes rows[] = {
+        {},
+        { { "somethingElse", 1 } },
+        { { "transVec", osg::Pnt3f(1.f, 2.f, 3.f) } },
+        { { "transVec", good }, { "offset", good } },
+        { { "transVec", good }, { "scale", osg::Vec3f(1.f, kNaN, 1.f) } },
+        { { "scale", good }, { "rotate", 1.0 } },
+        { { "scale", good }, { "rotate", std::numeric_limits<float>::infinity() } },
+        { { "scale", good }, { "clamping", 1 } },
+        { { "transVec", osg::Vec3f(0.f, kNaN, 0.f) } },
+    };
+    const nbTransformState before = nbTransformState::of(*projection());
+    for (const Attributes& row : rows) {
+        log.clear();
+        change(row);
+        EXPECT_EQ(log.size(), 1u) << testing::PrintToString(log);
+        EXPECT_TRUE(before.isSame(*projection())) << log.front();
+    }
+    log.clear();
+    projection()->setTranslation(osg::Vec3f(3e38f, 0.f, 0.f));
+    change({ { "transVec", osg::Vec3f(3e38f, 0.f, 0.f) } });
+    EXPECT_EQ(log.size(), 1u) << "a sum beyond all floats";
+    EXPECT_EQ(projection()->getTranslation().x(), 3e38f);
+    log.clear();
+    settings->setPlanarProjection(osg::NullFC);
+    change({ { "transVec", good } });
+    EXPECT_EQ(log.size(), 1u) << "no projection";
+    material = osg::NullFC;
+    change({ { "transVec", good } });
+    EXPECT_EQ(log.size(), 2u) << "the material still lives with the geometry";
+    root = osg::NullFC;
+    change({ { "transVec", good } });
+    placeTexture(osg::NullFC, osg::Pnt3f(), osg::Vec3f(0.f, 0.f, 1.f));
+    EXPECT_EQ(log.size(), 3u) << "nothing left to edit";
+    EXPECT_EQ(nbController::getModified(), 0);
+    EXPECT_EQ(steps(), 0);
+    EXPECT_TRUE(gui.told.empty());
+}
+
+TEST_F(nbMaterialEditorTest, ADragIsOneStepByGroupingAndUndoneBitForBit)
+{
+    projection()->setTranslation(osg::Vec3f(0.1f, 0.2f, 0.3f));
+    projection()->setEulerRotation(osg::Vec3f(10.f, 20.f, 30.f));
+    const nbTransformState before = nbTransformState::of(*projection());
+
+    undo->beginGroup();
+    for (int i = 1; i <= 10; ++i) {
+        change({ { "clamping", true },
+                 { "rotate", 0.1f * static_cast<float>(i) },
+                 { "transVec", osg::Vec3f(0.3f * static_cast<float>(i), 0.f, 0.f) } });
+    }
+    undo->endGroup();
+    EXPECT_EQ(steps(), 1);
+    EXPECT_EQ(nbController::getModified(), 1);
+    EXPECT_EQ(gui.told, std::vector<std::string>(10, kDiffuse));
+    const nbTransformState after = nbTransformState::of(*projection());
+
+    ASSERT_TRUE(undo->undo());
+    EXPECT_TRUE(before.isSame(*projection()));
+    EXPECT_FALSE(settings->hasPlanarProjectionFlag(Settings::ClampZ));
+    ASSERT_TRUE(undo->redo());
+    EXPECT_TRUE(after.isSame(*projection()));
+    EXPECT_TRUE(settings->hasPlanarProjectionFlag(Settings::ClampZ));
+
+    undo->beginGroup();
+    change({ { "rotate", 0.4f }, { "transVec", osg::Vec3f(1.f, 0.f, 0.f) } });
+    change({ { "rotate", 0.f }, { "transVec", osg::Vec3f(0.f, 0.f, 0.f) } });
+    undo->endGroup();
+    EXPECT_EQ(steps(), 1) << "a drag that ends where it began";
+
+    nbController::setModified(0);
+    gui.told.clear();
+    change({ { "scale", projection()->getScale() } });
+    EXPECT_EQ(nbController::getModified(), 0) << "nothing changed";
+    EXPECT_TRUE(gui.told.empty());
+    EXPECT_EQ(steps(), 1);
+}
+
+TEST_F(nbMaterialEditorTest, ScaleValuesTellTheSizeAndWhatThePictureNeeds)
+{
+    projection()->setScale(osg::Vec3f(2.f, 3.f, 4.f));
+    const auto ask = [] {
+        nbMessage message;
+        nbController::call("label::getScaleValues", message, 0);
+        return message;
+    };
+    osg::Vec3f textureScale;
+    osg::Vec2f size;
+    const nbMessage plain = ask();
+    ASSERT_TRUE(nbMessage::get(plain, "initialTextureScale", textureScale));
+    ASSERT_TRUE(nbMessage::get(plain, "projectionSize", size));
+    EXPECT_EQ(textureScale, osg::Vec3f(1.f, 1.f, 1.f));
+    EXPECT_EQ(size, osg::Vec2f(4.f, 6.f));
+
+    const osg::ImagePtr image = osg::Image::create();
+    image->set(osg::Image::OSG_RGB_PF, 8, 2);
+    material->setImage(kDiffuse, image);
+    ASSERT_TRUE(nbMessage::get(ask(), "initialTextureScale", textureScale));
+    EXPECT_EQ(textureScale, osg::Vec3f(4.f, 1.f, 1.f));
+    material->setComponentSettings(kDiffuse, osg::NullFC);
+    EXPECT_EQ(ask().size(), 0u);
+    EXPECT_TRUE(log.empty());
+}
+
+// == Placing
+
+TEST_F(nbMaterialEditorTest, PlacingPutsTheCentreOnThePointAndZOnTheNormal)
+{
+    {
+        const nbEdit edit(place, osg::Transform3D::PartsFieldMask);
+        place->setTranslation(osg::Vec3f(5.f, 0.f, 0.f));
+        place->setRotation(osg::Vec3f(0.f, 90.f, 0.f));
+        place->setScale(osg::Vec3f(2.f, 1.f, 1.f));
+    }
+    projection()->setScale(osg::Vec3f(0.5f, 0.5f, 0.5f));
+    // The object's X looks to the world's -Z and is twice as long.
+    placeTexture(object, osg::Pnt3f(5.f, 0.5f, -2.f), osg::Vec3f(0.f, 0.f, -1.f));
+    expectNear(projection()->getTranslation(), { 1.f, 0.5f, 0.f }, "point");
+    expectNear(direction(0.f, 0.f, 1.f), { 0.5f, 0.f, 0.f }, "z on the normal");
+    expectNear(direction(0.f, 1.f, 0.f), { 0.f, 0.5f, 0.f }, "up stays up");
+
+    // A normal across the uneven scale: the surface x + z = c of the object.
+    endDrag();
+    placeTexture(object, osg::Pnt3f(5.f, 0.f, 0.f), osg::Vec3f(2.f, 0.f, -1.f));
+    const float half = 0.5f * std::sqrt(0.5f);
+    expectNear(direction(0.f, 0.f, 1.f), { half, 0.f, half }, "by the transposed matrix");
+    EXPECT_EQ(nbController::getModified(), 1);
+    EXPECT_EQ(steps(), 2) << "without a group each is a step";
+}
+
+TEST_F(nbMaterialEditorTest, PlacingAlongAWayKeepsTheTurnWhateverTheWay)
+{
+    projection()->setRotation(osg::Vec3f(0.f, 0.f, 25.f));
+    projection()->setMatrix(projection()->computeMatrix());
+    const osg::Vec3f normals[] = {
+        { 1.f, 0.f, 0.f }, { 0.f, 1.f, 0.f }, { 0.f, -1.f, 1.f }, { 0.f, 0.f, 1.f }
+    };
+    for (const osg::Vec3f& normal : normals) {
+        placeTexture(object, osg::Pnt3f(0.f, 0.f, 1.f), normal);
+    }
+    const float angle = 25.f * kHalfPi / 90.f;
+    expectNear(direction(1.f, 0.f, 0.f), { std::cos(angle), std::sin(angle), 0.f },
+               "back at the first normal");
+
+    placeTexture(object, osg::Pnt3f(0.f, 0.f, -1.f), osg::Vec3f(0.f, 0.f, -1.f));
+    expectNear(direction(0.f, 0.f, 1.f), { 0.f, 0.f, -1.f }, "the other side");
+    expectNear(direction(0.f, 1.f, 0.f), { -std::sin(angle), std::cos(angle), 0.f }, "up stays up");
+    const osg::Quaternion turn = projection()->getRotationAsQuaternion();
+    placeTexture(object, osg::Pnt3f(0.f, 0.f, -0.5f), osg::Vec3f(0.f, 0.f, 0.f));
+    EXPECT_EQ(projection()->getRotationAsQuaternion(), turn) << "a normal without length";
+    expectNear(projection()->getTranslation(), { 0.f, 0.f, -0.5f }, "but the point is taken");
+}
+
+TEST_F(nbMaterialEditorTest, PlacingNeedsAHitOnWhatIsEdited)
+{
+    const nbTransformState before = nbTransformState::of(*projection());
+    const osg::NodeRefPtr other(osg::makeBox(1.f, 1.f, 1.f, 1, 1, 1));
+    placeTexture(osg::NullFC, osg::Pnt3f(1.f, 1.f, 1.f), osg::Vec3f(1.f, 0.f, 0.f));
+    placeTexture(other.get(), osg::Pnt3f(1.f, 1.f, 1.f), osg::Vec3f(1.f, 0.f, 0.f));
+    EXPECT_TRUE(log.empty());
+    placeTexture(object, osg::Pnt3f(kNaN, 1.f, 1.f), osg::Vec3f(1.f, 0.f, 0.f));
+    placeTexture(object, osg::Pnt3f(1.f, 1.f, 1.f), osg::Vec3f(1.f, kNaN, 0.f));
+    send("::placeTexture", { { "hitNode", object }, { "hitPoint", osg::Vec3f() } });
+    EXPECT_EQ(log.size(), 3u);
+    {
+        const nbEdit edit(place, osg::Transform3D::PartsFieldMask);
+        place->setScale(osg::Vec3f(1.f, 0.f, 1.f));
+    }
+    placeTexture(object, osg::Pnt3f(1.f, 0.f, 1.f), osg::Vec3f(0.f, 1.f, 0.f));
+    EXPECT_EQ(log.size(), 4u) << "a flat object";
+    EXPECT_TRUE(before.isSame(*projection()));
+
+    osg::GeometryPtr::dcast(other->getCore())->setMaterial(material.get());
+    placeTexture(other.get(), osg::Pnt3f(0.5f, 0.f, 0.f), osg::Vec3f(1.f, 0.f, 0.f));
+    expectNear(projection()->getTranslation(), { 0.5f, 0.f, 0.f },
+               "another geometry with the material, in its own space");
+}
+
+// == Edits by panels
+
+TEST_F(nbMaterialEditorTest, APictureForAPlainComponentGetsAFittingProjection)
+{
+    material->setComponentSettings(kDiffuse, osg::NullFC);
+    const osg::RefPtr<osg::ImagePtr> image(osg::Image::create());
+    image->set(osg::Image::OSG_RGB_PF, 20, 10);
+    EXPECT_FALSE(editor->setProjection(nbTransformState()));
+    EXPECT_FALSE(editor->setFlags(0));
+    EXPECT_FALSE(editor->setCoverage(true, true));
+    {
+        const nbEdit edit(place, osg::Transform3D::PartsFieldMask);
+        place->setTranslation(osg::Vec3f(5.f, 0.f, 0.f));
+    }
+
+    ASSERT_TRUE(editor->setImage(image.get()));
+
+    EXPECT_TRUE(material->getImage(kDiffuse) == image.get());
+    ASSERT_TRUE(editor->getProjection() != osg::NullFC);
+    expectNear(editor->getProjection()->getTranslation(), { 0.f, 0.f, 1.f }, "on the front");
+    expectNear(editor->getProjection()->getScale(), { 0.5f, 0.25f, 0.5f }, "half of the box");
+    EXPECT_EQ(steps(), 1);
+    ASSERT_TRUE(undo->undo());
+    EXPECT_TRUE(material->getComponentNames().empty());
+    ASSERT_TRUE(undo->redo());
+    expectNear(editor->getProjection()->getScale(), { 0.5f, 0.25f, 0.5f }, "again");
+    EXPECT_TRUE(material->getImage(kDiffuse) == image.get());
+}
+
+TEST_F(nbMaterialEditorTest, SettingsAreEditedWithUndo)
+{
+    const osg::RefPtr<osg::ImagePtr> image(osg::Image::create());
+    image->set(osg::Image::OSG_RGB_PF, 20, 10);
+    material->setImage(kDiffuse, image.get());
+
+    EXPECT_TRUE(editor->setFlags(Settings::KeepAspectRatio | Settings::RepeatU));
+    expectNear(projection()->getScale(), { 1.f, 0.5f, 1.f }, "square pixels");
+    EXPECT_TRUE(editor->setCoverage(true, true));
+    EXPECT_TRUE(settings->getAsMask() && settings->getInvert());
+    EXPECT_TRUE(editor->setImage(osg::NullFC));
+    EXPECT_EQ(steps(), 3);
+    EXPECT_TRUE(editor->setCoverage(true, true));
+    EXPECT_TRUE(editor->setImage(osg::NullFC));
+    EXPECT_EQ(steps(), 3) << "nothing new";
+
+    nbTransformState state = nbTransformState::of(*projection());
+    state.translation = osg::Vec3f(1.f, 2.f, 3.f);
+    EXPECT_TRUE(editor->setProjection(state));
+    state.scale[1] = kNaN;
+    EXPECT_FALSE(editor->setProjection(state));
+    EXPECT_EQ(projection()->getTranslation(), osg::Vec3f(1.f, 2.f, 3.f));
+    while (undo->undo()) { }
+    EXPECT_EQ(settings->getPlanarProjectionFlags(), 0u);
+    EXPECT_FALSE(settings->getAsMask() || settings->getInvert());
+    EXPECT_TRUE(material->getImage(kDiffuse) == image.get());
+    expectNear(projection()->getScale(), { 1.f, 1.f, 1.f }, "as at the start");
+}
+
+TEST_F(nbMaterialEditorTest, TheNewestEditorOfANameReceives)
+{
+    editor = std::make_unique<nbMaterialEditor>("label");
+    editor->setMaterial(material.get(), object, kDiffuse);
+    change({ { "scale", osg::Vec3f(2.f, 2.f, 2.f) } });
+    EXPECT_EQ(projection()->getScale().x(), 2.f);
+
+    editor.reset();
+    EXPECT_FALSE(nbController::hasReceiver("label::changedPlanarManipulator"));
+    EXPECT_FALSE(nbController::hasReceiver("label::placeTexture"));
+    EXPECT_FALSE(nbController::hasReceiver("label::getScaleValues"));
+    EXPECT_FALSE(nbController::hasReceiver("setMatRenderEnabled"));
+}
+
+// == The preview
+
+TEST_F(nbMaterialEditorTest, PreviewPausesAndRefreshesOnceResumed)
+{
+    const auto enable = [](const boost::any& value) {
+        nbMessage message;
+        message.set("enabled", value, true);
+        nbController::call("setMatRenderEnabled", message, 0);
+    };
+    int refreshes = 0;
+    nbMaterialPreview preview;
+    preview.setRefreshCallback([&] { ++refreshes; });
+    nbMaterialPreview second;
+    EXPECT_FALSE(preview.isPaused());
+
+    enable(false);
+    enable(false);
+    EXPECT_TRUE(preview.isPaused());
+    nbController::call("updateMatRender", 0);
+    preview.refresh();
+    EXPECT_EQ(refreshes, 0) << "paused";
+    enable(true);
+    EXPECT_EQ(refreshes, 1) << "what was owed";
+    EXPECT_FALSE(preview.isPaused() || second.isPaused());
+    nbController::call("updateMatRender", 0);
+    EXPECT_EQ(refreshes, 2);
+    EXPECT_EQ(preview.getPauseCount(), 2u);
+    EXPECT_EQ(preview.getResumeCount(), 1u);
+    EXPECT_EQ(preview.getRefreshCount(), 2u);
+
+    enable(1);
+    EXPECT_EQ(log.size(), 1u) << "a wrong type";
+    EXPECT_FALSE(preview.isPaused());
+    preview.setRefreshCallback([] { throw 1; });
+    nbController::call("updateMatRender", 0);
+    EXPECT_EQ(log.size(), 2u) << "a callback that throws is logged";
+}

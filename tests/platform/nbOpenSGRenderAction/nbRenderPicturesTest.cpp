@@ -1,0 +1,489 @@
+// SPDX-License-Identifier: MIT
+#include "tests/platform/support/PictureTest.h"
+
+#include <cstring>
+#include <limits>
+
+using namespace rendertest;
+
+namespace {
+
+using Settings = osg::ColorComponentSettings;
+
+constexpr float kPi = 3.14159265f;
+
+class nbRenderPicturesTest : public RenderTest
+{
+protected:
+    struct Probe
+    {
+        float x;
+        float y;
+        QColor color;
+    };
+
+    static void expectColors(const QImage& picture, const std::vector<Probe>& probes,
+                             const char* what)
+    {
+        for (const Probe& probe : probes) {
+            EXPECT_EQ(at(picture, probe.x, probe.y), probe.color)
+                << what << " at " << probe.x << ", " << probe.y;
+        }
+    }
+
+    void setOrthographic(bool on)
+    {
+        const nbEdit edit(camera, osg::FieldBits::AllFields);
+        camera->setOrthographic(on);
+    }
+
+    static osg::NodePtr wall(const PictureMaterial& picture, float size = 4.f, float z = 0.f,
+                             float x = 0.f)
+    {
+        return square(size, picture.material.get(), z, x);
+    }
+};
+
+osg::NodePtr transformed(const osg::NodePtr& child, const osg::Vec3f& translation,
+                         const osg::Vec3f& rotationDeg, const osg::Vec3f& scale)
+{
+    osg::Transform3DPtr core;
+    const osg::NodePtr node = osg::makeCoredNode<osg::Transform3D>(&core);
+    {
+        const nbEdit edit(core, osg::Transform3D::PartsFieldMask);
+        core->setTranslation(translation);
+        core->setRotation(rotationDeg);
+        core->setScale(scale);
+    }
+    node->addChild(child);
+    return node;
+}
+
+}  // namespace
+
+// == Where the picture is
+
+TEST_F(nbRenderPicturesTest, PictureIsWhereTheProjectionSaysInBothKindsOfView)
+{
+    const osg::Vec3f kNoTurn(0.f, 0.f, 0.f);
+
+    struct Row
+    {
+        const char* what;
+        osg::Vec3f translation;
+        osg::Vec3f rotationDeg;
+        float orientation;
+        osg::Vec3f scale;
+        std::vector<Probe> probes;
+    };
+
+    const Row rows[] = {
+        { "as made",
+          { 0.f, 0.f, 0.f },
+          kNoTurn,
+          0.f,
+          { 1.f, 1.f, 1.f },
+          { { -0.5f, 0.5f, kBlue },
+            { 0.5f, 0.5f, kYellow },
+            { -0.5f, -0.5f, kRed },
+            { 0.5f, -0.5f, kGreen },
+            { 0.94f, 0.94f, kYellow },
+            { 1.06f, 0.5f, kGrey },
+            { -0.5f, -1.06f, kGrey } } },
+        { "translated",
+          { 0.8f, -0.4f, 3.f },
+          kNoTurn,
+          0.f,
+          { 1.f, 1.f, 1.f },
+          { { 0.3f, 0.1f, kBlue },
+            { 1.3f, -0.9f, kGreen },
+            { -0.26f, 0.f, kGrey },
+            { 0.5f, 0.66f, kGrey } } },
+        { "scaled",
+          { 0.f, 0.f, 0.f },
+          kNoTurn,
+          0.f,
+          { 0.5f, 1.8f, 1.f },
+          { { -0.25f, 1.7f, kBlue }, { 0.44f, -1.7f, kGreen }, { 0.56f, 0.f, kGrey } } },
+        { "mirrored",
+          { 0.f, 0.f, 0.f },
+          kNoTurn,
+          0.f,
+          { -1.f, 1.f, 1.f },
+          { { -0.5f, 0.5f, kYellow }, { 0.5f, -0.5f, kRed } } },
+        { "turned by its angles and its orientation, 45 degrees each",
+          { 0.f, 0.f, 0.f },
+          { 0.f, 0.f, 45.f },
+          0.25f * kPi,
+          { 1.f, 0.5f, 1.f },
+          { { 0.25f, 0.5f, kGreen },
+            { -0.25f, 0.5f, kYellow },
+            { -0.25f, -0.5f, kBlue },
+            { 0.25f, -0.5f, kRed },
+            { 0.6f, 0.f, kGrey },
+            { -0.4f, 0.94f, kYellow } } },
+        { "turned about x, so that it is seen shortened",
+          { 0.f, 0.f, 0.f },
+          { 60.f, 0.f, 0.f },
+          0.f,
+          { 1.f, 1.f, 1.f },
+          // What lies at y on the wall is at y cos 60 along the picture.
+          { { -0.5f, 1.8f, kBlue }, { 0.5f, -1.8f, kGreen }, { 1.06f, 0.5f, kGrey } } },
+    };
+    for (const bool orthographic : { true, false }) {
+        setOrthographic(orthographic);
+        for (const Row& row : rows) {
+            PictureMaterial picture;
+            picture.setPicture(colorQuarters());
+            picture.place(row.translation, row.scale, row.rotationDeg);
+            picture.setOrientation(row.orientation);
+            expectColors(draw(wall(picture)), row.probes, row.what);
+        }
+    }
+}
+
+TEST_F(nbRenderPicturesTest, RepeatsAlongTheAxesThatSaySo)
+{
+    PictureMaterial picture;
+    picture.setPicture(colorQuarters());
+    picture.place({ 0.f, 0.f, 0.f }, { 0.4f, 0.4f, 1.f });
+    const osg::NodePtr root = wall(picture);
+
+    expectColors(draw(root), { { 1.f, 0.2f, kGrey }, { 0.2f, 1.f, kGrey } }, "no repeat");
+    picture.setFlags(Settings::RepeatU);
+    expectColors(redraw(), { { 1.f, 0.2f, kYellow }, { 0.6f, -0.2f, kRed }, { 0.2f, 1.f, kGrey } },
+                 "along x");
+    picture.setFlags(Settings::RepeatV | Settings::KeepAspectRatio);
+    expectColors(redraw(), { { 1.f, 0.2f, kGrey }, { 0.2f, 0.6f, kGreen } }, "along y");
+    picture.setFlags(Settings::RepeatU | Settings::RepeatV);
+    expectColors(redraw(), { { -1.f, -1.f, kRed }, { 0.6f, 1.f, kBlue } }, "along both");
+}
+
+TEST_F(nbRenderPicturesTest, ZExtentReachesFromThePlaneOneUnitBehindIt)
+{
+    PictureMaterial picture;
+    picture.setPicture(colorQuarters());
+    picture.place({ 0.f, 0.f, 0.5f }, { 2.f, 2.f, 0.8f });
+    std::vector<osg::NodePtr> walls;
+    // From 0.5 down to -0.3, both ends included.
+    const float places[] = { 0.6f, 0.5f, 0.1f, -0.3f, -0.4f };
+    for (int i = 0; i < 5; ++i) {
+        // The material's space is each square's own: the transform above moves the square, so the
+        // square itself has to be at the height.
+        const osg::NodePtr plane = osg::makePlane(0.6f, 0.6f, 1, 1);
+        const osg::GeometryPtr geometry =
+            osg::GeometryPtr::dcast(colored(plane, picture.material.get())->getCore());
+        const osg::GeoPositionsPtr positions = geometry->getPositions();
+        const nbEdit edit(positions, osg::FieldBits::AllFields);
+        for (osg::UInt32 k = 0; k < positions->getSize(); ++k) {
+            positions->setValue(
+                positions->getValue(k) +
+                    osg::Vec3f(-1.6f + 0.8f * static_cast<float>(i), 0.5f, places[i]),
+                k);
+        }
+        walls.push_back(plane);
+    }
+    const osg::NodePtr root = group(walls);
+
+    expectColors(draw(root), { { -1.6f, 0.5f, kBlue }, { 1.6f, 0.5f, kYellow } }, "unlimited");
+    picture.setFlags(Settings::ClampZ);
+    expectColors(redraw(),
+                 { { -1.6f, 0.5f, kGrey },
+                   { -0.8f, 0.5f, kBlue },
+                   { -0.1f, 0.5f, kBlue },
+                   { 0.1f, 0.5f, kYellow },
+                   { 0.8f, 0.5f, kYellow },
+                   { 1.6f, 0.5f, kGrey } },
+                 "in the extent");
+}
+
+TEST_F(nbRenderPicturesTest, LiesInTheSpaceOfTheNodeThatCarriesTheMaterial)
+{
+    PictureMaterial picture;
+    picture.setPicture(colorQuarters());
+    picture.place({ 0.5f, 0.f, 0.f }, { 0.5f, 0.5f, 1.f });
+
+    // The wall turned by 90 degrees and made twice as wide along its x, which is up now.
+    const osg::NodePtr plane = colored(osg::makePlane(2.f, 2.f, 1, 1), picture.material.get());
+    expectColors(
+        draw(transformed(plane, { 0.5f, 0.f, 0.f }, { 0.f, 0.f, 90.f }, { 2.f, 1.f, 1.f })),
+        { { 0.25f, 1.5f, kYellow },
+          { 0.75f, 1.5f, kGreen },
+          { 0.25f, 0.5f, kBlue },
+          { 0.75f, 0.5f, kRed },
+          { 1.1f, 1.5f, kGrey },
+          { 0.5f, -0.5f, kGrey } },
+        "a geometry's own material");
+
+    // A group's material lies in the group's space, whatever moves what is below.
+    const osg::NodePtr moved = placed(osg::makePlane(4.f, 4.f, 1, 1), { 0.7f, 0.7f, 0.f });
+    expectColors(draw(transformed(materialGroup(picture.material.get(), moved), { 0.f, 0.f, 0.f },
+                                  { 0.f, 0.f, 180.f }, { 2.f, 2.f, 2.f })),
+                 { { -0.5f, 0.5f, kRed },
+                   { -1.5f, 0.5f, kGreen },
+                   { -0.5f, -0.5f, kBlue },
+                   { -1.5f, -0.5f, kYellow },
+                   { 0.2f, 0.2f, kGrey } },
+                 "a group's material");
+}
+
+TEST_F(nbRenderPicturesTest, MovingTheProjectionAloneShowsInTheNextFrame)
+{
+    PictureMaterial picture;
+    picture.setPicture(colorQuarters());
+    draw(wall(picture));
+
+    picture.place({ 1.f, 1.f, 0.f }, { 0.5f, 0.5f, 1.f });
+    expectColors(redraw(), { { 0.75f, 1.25f, kBlue }, { -0.5f, 0.5f, kGrey } }, "moved");
+    picture.setPicture(quarters(kWhite, kWhite, kWhite, kWhite));
+    expectColors(redraw(), { { 0.75f, 1.25f, kWhite } }, "another picture");
+    const osg::ImagePtr image = picture.material->getImage(picture.component);
+    {
+        const nbEdit edit(image, osg::Image::PixelFieldMask);
+        std::memset(image->getData(), 0, image->getSize());
+    }
+    expectColors(redraw(), { { 0.75f, 1.25f, kBlack } }, "an edit of its pixels");
+}
+
+// == How it covers
+
+TEST_F(nbRenderPicturesTest, DiffusePictureCoversByAlphaOrAsAMaskByBrightness)
+{
+    QImage picture = colorQuarters().convertToFormat(QImage::Format_ARGB32);
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width() / 2; ++x) {
+            picture.setPixelColor(x, y, QColor(255, 255, 255, y < picture.height() / 2 ? 0 : 128));
+        }
+    }
+    PictureMaterial decal;
+    decal.setPicture(picture);
+    const osg::NodePtr root = wall(decal);
+
+    const QImage byAlpha = draw(root);
+    expectColors(byAlpha, { { -0.5f, 0.5f, kGrey }, { 0.5f, 0.5f, kYellow } }, "by alpha");
+    EXPECT_NEAR(at(byAlpha, -0.5f, -0.5f).red(), 178, 1) << "half of white over grey";
+    decal.setMask(false, true);
+    expectColors(redraw(), { { -0.5f, 0.5f, kWhite }, { 0.5f, 0.5f, kGrey }, { 1.2f, 0.f, kGrey } },
+                 "by inverted alpha");
+    decal.setMask(true, false);
+    const QImage byBrightness = redraw();
+    expectColors(byBrightness, { { -0.5f, 0.5f, kWhite } }, "by brightness");
+    EXPECT_NEAR(at(byBrightness, 0.5f, -0.5f).green(), 152, 1) << "a third of green";
+    EXPECT_NEAR(at(byBrightness, 0.5f, -0.5f).red(), 67, 1);
+}
+
+TEST_F(nbRenderPicturesTest, ColorsOfTransparentPixelsDoNotShowAtTheBordersOfOpaqueOnes)
+{
+    // White columns between hidden black ones over white: all of it is white.
+    QImage columns(8, 8, QImage::Format_ARGB32);
+    for (int y = 0; y < 8; ++y) {
+        for (int x = 0; x < 8; ++x) {
+            columns.setPixelColor(x, y, x % 2 == 0 ? kWhite : QColor(0, 0, 0, 0));
+        }
+    }
+    PictureMaterial decal;
+    decal.setPicture(columns);
+    {
+        const nbEdit edit(decal.material, osg::FieldBits::AllFields);
+        decal.material->setDiffuse(color(kWhite));
+    }
+    for (const float scale : { 1.9f, 0.05f }) {
+        decal.place({ 0.f, 0.f, 0.f }, { scale, scale, 1.f });
+        const QImage picture = draw(wall(decal));
+        for (int x = 0; x < kSize; ++x) {
+            ASSERT_EQ(picture.pixelColor(x, kSize / 2), kWhite) << scale << " at pixel " << x;
+        }
+    }
+}
+
+TEST_F(nbRenderPicturesTest, TransparencyPictureCutsTheSurfaceOut)
+{
+    PictureMaterial cutout(osg::UberMaterial::kTransparencyComponent);
+    cutout.setPicture(quarters(kWhite, kBlack, QColor(128, 128, 128), kWhite));
+    EXPECT_FALSE(cutout.material->isTransparent());
+    const osg::NodePtr root =
+        group({ square(4.f, unlit(kBlue), -1.f), wall(cutout), square(0.2f, unlit(kRed), -2.f) });
+
+    expectColors(draw(root), { { 0.5f, 0.5f, kGrey } }, "no alpha and no mask");
+    cutout.setMask(true, false);
+    EXPECT_TRUE(cutout.material->isTransparent());
+    const QImage masked = redraw();
+    expectColors(masked,
+                 { { -0.5f, 0.5f, kGrey },
+                   { 0.5f, 0.5f, kBlue },
+                   { 0.5f, -0.5f, kGrey },
+                   { 1.5f, 0.5f, kGrey } },
+                 "mask");
+    EXPECT_NEAR(at(masked, -0.5f, -0.5f).blue(), 177, 1) << "half of grey over blue";
+    cutout.setMask(true, true);
+    expectColors(redraw(),
+                 { { -0.5f, 0.5f, kBlue },
+                   { 0.5f, 0.5f, kGrey },
+                   { 0.5f, -0.5f, kBlue },
+                   { 1.5f, 0.5f, kGrey } },
+                 "inverted mask");
+}
+
+TEST_F(nbRenderPicturesTest, OpaquePartsOfACutOutBodyHideWhatIsBehindThem)
+{
+    PictureMaterial picture;
+    picture.setPicture(quarters(kRed, kRed, kRed, kRed));
+    picture.place({ 0.f, 0.f, 0.6f }, { 1.f, 1.f, 0.2f });
+    picture.setFlags(Settings::ClampZ);
+    PictureMaterial mask(osg::UberMaterial::kTransparencyComponent);
+    {
+        const nbEdit edit(mask.settings, osg::FieldBits::AllFields);
+        mask.settings->setAsMask(true);
+    }
+    picture.material->setComponentSettings(mask.component, mask.settings.get());
+    picture.material->setImage(mask.component,
+                               nbImageConvert::toImage(quarters(kWhite, kBlack, kWhite, kWhite)));
+    const osg::NodePtr body = colored(osg::makeBox(1.f, 1.f, 1.f, 1, 1, 1), picture.material.get());
+
+    expectColors(draw(body), { { -0.25f, 0.25f, kRed }, { 0.25f, 0.25f, kBlack } }, "front");
+    lookFrom(osg::Pnt3f(0.f, 0.f, -10.f));
+    expectColors(redraw(), { { 0.25f, 0.25f, kGrey }, { -0.25f, 0.25f, kBlack } }, "back");
+}
+
+TEST_F(nbRenderPicturesTest, LightFallsOnThePictureAsOnTheColor)
+{
+    PictureMaterial white;
+    white.setPicture(quarters(kWhite, kWhite, kWhite, kWhite));
+    {
+        const nbEdit edit(white.material, osg::FieldBits::AllFields);
+        white.material->setLit(true);
+        white.material->setDiffuse(osg::Color3f(1.f, 1.f, 1.f));
+    }
+    const QImage picture = draw(wall(white));
+
+    EXPECT_EQ(at(picture, 0.f, 0.f), at(picture, 1.5f, 0.f));
+    EXPECT_LT(at(picture, 0.f, 0.f).green(), 255);
+}
+
+// == What cannot be shown
+
+TEST_F(nbRenderPicturesTest, PlainColorStaysWhereThereIsNoPictureToShow)
+{
+    const auto expectPlain = [&](const PictureMaterial& picture, const char* what) {
+        expectColors(draw(wall(picture)), { { -0.5f, 0.5f, kGrey }, { 0.5f, -0.5f, kGrey } }, what);
+    };
+    PictureMaterial picture;
+    expectPlain(picture, "no picture");
+    picture.material->setImage(picture.component, osg::Image::create());
+    expectPlain(picture, "a picture without pixels");
+    const osg::ImagePtr alphaOnly = osg::Image::create();
+    const osg::UInt8 full = 255;
+    alphaOnly->set(osg::Image::OSG_A_PF, 1, 1, 1, 1, 1, 0.0, &full);
+    picture.material->setImage(picture.component, alphaOnly);
+    expectPlain(picture, "a picture without colour");
+
+    picture.setPicture(colorQuarters());
+    constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
+    for (const osg::Vec3f& scale :
+         { osg::Vec3f(0.f, 1.f, 1.f), osg::Vec3f(1.f, 1.f, 0.f), osg::Vec3f(kNaN, 1.f, 1.f),
+           osg::Vec3f(1.f, std::numeric_limits<float>::infinity(), 1.f) }) {
+        picture.place({ 0.f, 0.f, 0.f }, scale);
+        expectPlain(picture, "a flat or endless projection");
+    }
+    picture.place({ 0.f, 0.f, 0.f }, { 1.f, 1.f, 1.f });
+    {
+        const nbEdit edit(picture.settings, osg::FieldBits::AllFields);
+        picture.settings->setTextureProjectionType(Settings::TireProjection);
+    }
+    expectPlain(picture, "another kind of projection");
+    picture.material->setComponentSettings(picture.component, osg::NullFC);
+    expectPlain(picture, "no settings");
+}
+
+// == Formats of pictures
+
+TEST_F(nbRenderPicturesTest, ShowsPicturesOfEveryFormat)
+{
+    struct Row
+    {
+        osg::Image::PixelFormat format;
+        std::vector<osg::UInt8> pixel;
+        QColor shown;
+    };
+
+    const Row rows[] = {
+        { osg::Image::OSG_L_PF, { 200 }, QColor(200, 200, 200) },
+        { osg::Image::OSG_I_PF, { 255 }, kWhite },
+        { osg::Image::OSG_LA_PF, { 10, 255 }, QColor(10, 10, 10) },
+        { osg::Image::OSG_LA_PF, { 10, 0 }, kGrey },
+        { osg::Image::OSG_RGB_PF, { 10, 20, 30 }, QColor(10, 20, 30) },
+        { osg::Image::OSG_BGR_PF, { 10, 20, 30 }, QColor(30, 20, 10) },
+        { osg::Image::OSG_RGBA_PF, { 10, 20, 30, 255 }, QColor(10, 20, 30) },
+        { osg::Image::OSG_BGRA_PF, { 10, 20, 30, 255 }, QColor(30, 20, 10) },
+    };
+    for (const Row& row : rows) {
+        PictureMaterial picture;
+        const osg::ImagePtr image = osg::Image::create();
+        image->set(row.format, 1, 1, 1, 1, 1, 0.0, row.pixel.data());
+        picture.material->setImage(picture.component, image);
+        expectColors(draw(wall(picture)), { { 0.f, 0.f, row.shown } }, "format");
+    }
+}
+
+TEST_F(nbRenderPicturesTest, BlendEnvironmentMixesTowardsItsColorByFormat)
+{
+    // Own colour (200, 100, 50), environment white, over black, so that alpha darkens.
+    struct Row
+    {
+        osg::Image::PixelFormat format;
+        std::vector<osg::UInt8> pixel;
+        QColor shown;
+    };
+
+    const Row rows[] = {
+        { osg::Image::OSG_A_PF, { 51 }, QColor(40, 20, 10) },
+        { osg::Image::OSG_L_PF, { 51 }, QColor(211, 131, 91) },
+        { osg::Image::OSG_LA_PF, { 51, 0 }, kBlack },
+        { osg::Image::OSG_I_PF, { 51 }, QColor(211, 131, 91) },
+        { osg::Image::OSG_RGB_PF, { 255, 0, 51 }, QColor(255, 100, 91) },
+        { osg::Image::OSG_RGBA_PF, { 255, 0, 51, 51 }, QColor(51, 20, 18) },
+    };
+    for (const Row& row : rows) {
+        osg::ImagePtr image = osg::Image::create();
+        image->set(row.format, 1, 1, 1, 1, 1, 0.0, row.pixel.data());
+        const osg::TextureChunkPtr chunk = osg::TextureChunk::create();
+        {
+            const nbEdit edit(chunk, osg::FieldBits::AllFields);
+            chunk->setImage(image);
+            chunk->setEnvMode(GL_BLEND);
+            chunk->setEnvColor(osg::Color4f(1.f, 1.f, 1.f, 1.f));
+        }
+        const QImage picture = draw(square(
+            2.f, with(with(unlit(QColor(200, 100, 50)), blendChunk()), osg::StateChunkPtr(chunk))));
+        const QColor shown = at(picture, 0.f, 0.f);
+        EXPECT_NEAR(shown.red(), row.shown.red(), 1) << row.format;
+        EXPECT_NEAR(shown.green(), row.shown.green(), 1) << row.format;
+        EXPECT_NEAR(shown.blue(), row.shown.blue(), 1) << row.format;
+    }
+}
+
+TEST_F(nbRenderPicturesTest, MipmapsThatAnImageLacksAreMadeOfTheLastOneItHas)
+{
+    // Level 0 is black; level 1 has stripes that an 8 pixel picture hits in the middle of blue
+    // ones.
+    constexpr int kSide = 64;
+    constexpr int kHalf = kSide / 2;
+    std::vector<osg::UInt8> pixels(3U * kSide * kSide, 0);
+    for (int y = 0; y < kHalf; ++y) {
+        for (int x = 0; x < kHalf; ++x) {
+            const bool blue = x % 4 == 1 || x % 4 == 2;
+            const osg::UInt8 stripe[] = { 0, osg::UInt8(blue ? 0 : 255),
+                                          osg::UInt8(blue ? 255 : 0) };
+            pixels.insert(pixels.end(), std::begin(stripe), std::end(stripe));
+        }
+    }
+    const osg::ImagePtr image = osg::Image::create();
+    ASSERT_TRUE(image->set(osg::Image::OSG_RGB_PF, kSide, kSide, 1, 2, 1, 0.0, pixels.data()));
+    PictureMaterial small;
+    small.material->setImage(small.component, image);
+    small.place({ 0.02f, 0.02f, 0.f }, { 0.08f, 0.08f, 1.f });
+    const QColor shown = at(draw(wall(small)), 0.03f, 0.03f);
+
+    EXPECT_NEAR(shown.green(), 127, 8);
+    EXPECT_NEAR(shown.blue(), 127, 8);
+}

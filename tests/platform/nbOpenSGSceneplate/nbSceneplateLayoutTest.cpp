@@ -1,0 +1,224 @@
+// SPDX-License-Identifier: MIT
+#include "tests/platform/support/Plates.h"
+
+#include <nbKernel/nbScenegraph.h>
+#include <nbOpenSGSceneplate/nbSceneplateLayout.h>
+#include <nbOpenSGSceneplate/nbSceneplateList.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
+
+#include <OpenSG/OSGRefPtr.h>
+#include <OpenSG/OSGTransform.h>
+
+#include <gmock/gmock.h>
+
+#include <cmath>
+#include <limits>
+
+using osg::Pnt2f;
+using osg::Sceneplate;
+using osg::Vec2f;
+using Layout = nbSceneplateLayout;
+
+namespace {
+
+constexpr float kTolerancePx = 1e-3f;
+const osg::Color4f kWhite(1.f, 1.f, 1.f, 1.f);
+
+/// A plate with its fields as they are.
+class Plate
+{
+public:
+    explicit Plate(const std::function<void(const osg::SceneplatePtr&)>& change)
+        : node(platetest::makePlate({}, 1, kWhite, change))
+    { }
+
+    operator osg::SceneplatePtr() const { return platetest::plateOf(node.get()); }
+
+private:
+    osg::NodeRefPtr node;
+};
+
+Plate anchored(osg::Int32 anchor, const Vec2f& position, const Vec2f& size, float rotation = 0.f)
+{
+    return Plate([&](const osg::SceneplatePtr& plate) {
+        plate->setAnchor(anchor);
+        plate->setPosition(position);
+        plate->setSize(size);
+        plate->setRotation(rotation);
+    });
+}
+
+void expectAt(const Pnt2f& actual, float x, float y)
+{
+    EXPECT_NEAR(actual.x(), x, kTolerancePx);
+    EXPECT_NEAR(actual.y(), y, kTolerancePx);
+}
+
+}  // namespace
+
+TEST(nbSceneplateLayout, AnchorsAreTheNinePlacesOfTheView)
+{
+    expectAt(Layout::anchorPosition(Sceneplate::BottomLeft, 800, 600), 0.f, 600.f);
+    expectAt(Layout::anchorPosition(Sceneplate::Right, 800, 600), 800.f, 300.f);
+    expectAt(Layout::anchorPosition(Sceneplate::Top, 800, 600), 400.f, 0.f);
+    expectAt(Layout::anchorPosition(Sceneplate::TopRight, 800, 600), 800.f, 0.f);
+    expectAt(Layout::anchorPosition(-3, 800, 600), 400.f, 300.f);
+    expectAt(Layout::anchorPosition(9, 800, 600), 400.f, 300.f);
+}
+
+TEST(nbSceneplateLayout, PlatesKeepTheirPlaceRelativeToTheWindow)
+{
+    // 60 pixels left of and below the upper right corner of a view of 600 pixels.
+    const Plate logo = anchored(Sceneplate::TopRight, Vec2f(-0.1f, -0.1f), Vec2f(0.1f, 0.05f));
+
+    expectAt(Layout::centre(logo, 800, 600), 740.f, 60.f);
+    expectAt(Layout::centre(logo, 1000, 600), 940.f, 60.f);
+    expectAt(Layout::centre(logo, 1600, 1200), 1480.f, 120.f);
+    expectAt(Layout::corners(logo, 1600, 1200)[0], 1420.f, 150.f);
+    expectAt(Layout::corners(logo, 1600, 1200)[2], 1540.f, 90.f);
+}
+
+TEST(nbSceneplateLayout, UnturnedPlatesLieOnWholePixelsAndKeepTheirSize)
+{
+    for (int step = 0; step < 20; ++step) {
+        const float shift = 0.1f * static_cast<float>(step) / 600.f;
+        const Plate plate = anchored(Sceneplate::Centre, Vec2f(shift, 0.3f * shift),
+                                     Vec2f(33.f / 600.f, 20.f / 600.f));
+        const Layout::Corners corners = Layout::corners(plate, 801, 600);
+
+        EXPECT_EQ(corners[0].x(), std::floor(corners[0].x()));
+        EXPECT_EQ(corners[0].y(), std::floor(corners[0].y()));
+        EXPECT_EQ(corners[2].x() - corners[0].x(), 33.f);
+        EXPECT_EQ(corners[0].y() - corners[2].y(), 20.f);
+        EXPECT_NEAR(corners[0].x(), Layout::centre(plate, 801, 600).x() - 16.5f,
+                    0.5f + kTolerancePx);
+    }
+}
+
+TEST(nbSceneplateLayout, TurnedPlatesTurnCounterClockwiseOnScreen)
+{
+    const Plate plate = anchored(Sceneplate::Centre, Vec2f(0.f, 0.f), Vec2f(0.4f, 0.2f), 30.f);
+    const Layout::Corners corners = Layout::corners(plate, 1000, 1000);
+    const float c = std::cos(3.14159265f / 6.f);
+    const float s = 0.5f;
+
+    expectAt(corners[1], 500.f + 200.f * c + 100.f * s, 500.f - (200.f * s - 100.f * c));
+    expectAt(corners[3], 500.f - 200.f * c - 100.f * s, 500.f - (-200.f * s + 100.f * c));
+    EXPECT_FALSE(Layout::isOnPixels(plate));
+}
+
+TEST(nbSceneplateLayout, PositionsOnAPlateCountFromItsLowerLeftCorner)
+{
+    const Plate plate = anchored(Sceneplate::Centre, Vec2f(0.f, 0.f), Vec2f(0.4f, 0.2f), 90.f);
+    Pnt2f position;
+
+    ASSERT_TRUE(Layout::contains(plate, Pnt2f(550.f, 500.f), 1000, 1000, &position));
+    EXPECT_NEAR(position.x(), 0.5f, 1e-6f);
+    EXPECT_NEAR(position.y(), 0.25f, 1e-6f) << "its lower side is on the right now";
+    EXPECT_FALSE(Layout::contains(plate, Pnt2f(601.f, 500.f), 1000, 1000));
+    EXPECT_FALSE(Layout::contains(plate, Pnt2f(550.f, 500.f), 0, 1000));
+    EXPECT_FALSE(Layout::contains(plate, Pnt2f(NAN, 500.f), 1000, 1000));
+}
+
+TEST(nbSceneplateLayout, FramesAreTurnedForOnePlateAndUprightForSeveral)
+{
+    const Plate one = anchored(Sceneplate::Centre, Vec2f(0.1f, 0.f), Vec2f(0.2f, 0.1f), 45.f);
+    const Plate other = anchored(Sceneplate::BottomLeft, Vec2f(0.1f, 0.2f), Vec2f(0.2f, 0.2f));
+
+    const Layout::Frame single = Layout::frame({ one }, 1000, 1000);
+    expectAt(single.centre, 600.f, 500.f);
+    EXPECT_NEAR(single.size.x(), 200.f, kTolerancePx);
+    EXPECT_EQ(single.rotation, 45.f);
+
+    const Layout::Frame both = Layout::frame({ one, osg::SceneplatePtr(), other }, 1000, 1000);
+    const float reach = 150.f / std::sqrt(2.f);
+    const float right = 600.f + reach;
+    const float top = 500.f - reach;
+    expectAt(both.centre, 0.5f * right, 0.5f * (top + 900.f));
+    EXPECT_NEAR(both.size.x(), right, kTolerancePx);
+    EXPECT_EQ(both.rotation, 0.f);
+    EXPECT_EQ(Layout::frame({}, 1000, 1000).size.x(), 0.f);
+}
+
+TEST(nbSceneplateLayout, OffsetsAndPositionsAreTheInverseOfPixels)
+{
+    const Vec2f offset = Layout::toOffset(Vec2f(60.f, 30.f), 600);
+    EXPECT_FLOAT_EQ(offset.x(), 0.1f);
+    EXPECT_FLOAT_EQ(offset.y(), -0.05f);
+    const Vec2f back = Layout::toPixels(offset, 600);
+    EXPECT_FLOAT_EQ(back.x(), 60.f);
+    EXPECT_FLOAT_EQ(back.y(), 30.f);
+    const Plate plate = anchored(
+        Sceneplate::Right, Layout::positionAt(Sceneplate::Right, Pnt2f(123.f, 45.f), 800, 600),
+        Vec2f(0.1f, 0.1f));
+    expectAt(Layout::centre(plate, 800, 600), 123.f, 45.f);
+    EXPECT_EQ(Layout::toOffset(Vec2f(60.f, 30.f), 0), Vec2f(0.f, 0.f));
+}
+
+TEST(nbSceneplateLayout, WhatHasNoSizeOrNoNumbersIsNotShown)
+{
+    using Change = std::function<void(const osg::SceneplatePtr&)>;
+    const float nan = std::numeric_limits<float>::quiet_NaN();
+
+    const struct
+    {
+        const char* name;
+        Change change;
+        bool isShown;
+    } rows[] = {
+        { "usual", [](const auto&) {}, true },
+        { "hidden", [](const auto& p) { p->setVisible(false); }, false },
+        { "clear", [](const auto& p) { p->setOpacity(0.f); }, false },
+        { "clear by a strange number", [&](const auto& p) { p->setOpacity(nan); }, false },
+        { "no width", [](const auto& p) { p->setSize(Vec2f(0.f, 1.f)); }, false },
+        { "mirrored", [](const auto& p) { p->setScale(-1.f); }, false },
+        { "nowhere", [&](const auto& p) { p->setPosition(Vec2f(0.f, nan)); }, false },
+        { "too large", [](const auto& p) { p->setScale(std::numeric_limits<float>::infinity()); },
+          false },
+        { "turned by nothing", [&](const auto& p) { p->setRotation(nan); }, false },
+    };
+
+    for (const auto& row : rows) {
+        const Plate plate([&](const osg::SceneplatePtr& p) {
+            p->setSize(Vec2f(0.1f, 0.1f));
+            row.change(p);
+        });
+        EXPECT_EQ(Layout::isShown(plate), row.isShown) << row.name;
+    }
+    EXPECT_FALSE(Layout::isShown(osg::SceneplatePtr()));
+}
+
+TEST(nbSceneplateList, FindsPlatesBelowGroupsInDrawingOrder)
+{
+    const auto plate = [](const char* name, bool front, int order) {
+        const osg::NodePtr node =
+            platetest::makePlate({ 1.f, 1.f, 1.f, 1.f }, 1, kWhite, [&](const auto& p) {
+                p->setFront(front);
+                p->setOrder(order);
+            });
+        nbNodeUtils::setName(node, name);
+        return node;
+    };
+    const osg::NodePtr moved = osg::makeCoredNode<osg::Transform>();
+    moved->addChild(plate("below a transform", true, 0));
+    const osg::NodePtr hidden = osg::makeCoredNode<osg::Group>();
+    hidden->setActive(false);
+    hidden->addChild(plate("hidden", true, 9));
+    const osg::NodePtr group = osg::makeCoredNode<osg::Group>();
+    group->addChild(plate("front 2", true, 2));
+    group->addChild(plate("front 1", true, 1));
+    const osg::NodeRefPtr root(osg::makeCoredNode<osg::Group>());
+    for (const osg::NodePtr& child :
+         { moved, hidden, group, plate("back", false, 5), plate("front 1 again", true, 1) }) {
+        root->addChild(child);
+    }
+
+    std::vector<std::string> names;
+    for (const auto& entry : nbSceneplateList::collectShown(root.get())) {
+        names.push_back(nbNodeUtils::getName(entry.node));
+    }
+
+    EXPECT_THAT(names, testing::ElementsAre("back", "front 1", "front 1 again", "front 2"));
+    EXPECT_EQ(nbSceneplateList::collect(root.get()).size(), 5U);
+    EXPECT_TRUE(nbSceneplateList::collectShown(osg::NullFC).empty());
+}

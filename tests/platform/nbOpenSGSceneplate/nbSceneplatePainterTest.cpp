@@ -1,0 +1,293 @@
+// SPDX-License-Identifier: MIT
+#include "tests/platform/support/Plates.h"
+#include "tests/platform/support/RenderTest.h"
+
+#include <nbInteraction/Picker.h>
+#include <nbKernel/nbOSGWidget.h>
+#include <nbKernel/nbScenegraph.h>
+#include <nbOpenSGRenderAction/nbImageConvert.h>
+
+using namespace rendertest;
+using platetest::makePlate;
+using platetest::plateOf;
+using platetest::PlatePx;
+
+namespace {
+
+const osg::Color4f kRed4(1.f, 0.f, 0.f, 1.f);
+const osg::Color4f kGreen4(0.f, 1.f, 0.f, 1.f);
+const osg::Color4f kBlue4(0.f, 0.f, 1.f, 1.f);
+
+/// Pixels of one colour.
+int count(const QImage& picture, const QColor& color)
+{
+    int found = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            found += picture.pixelColor(x, y) == color ? 1 : 0;
+        }
+    }
+    return found;
+}
+
+/// Every pixel differs from its neighbours.
+QImage speckled(int width, int height)
+{
+    QImage picture(width, height, QImage::Format_RGB32);
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
+            picture.setPixelColor(x, y, QColor((x * 37) % 256, (y * 91) % 256, (x * y) % 256));
+        }
+    }
+    return picture;
+}
+
+void setImage(const osg::SceneplatePtr& plate, const QImage& picture)
+{
+    plate->setImage(nbImageConvert::toImage(picture));
+}
+
+}  // namespace
+
+class nbSceneplatePainterTest : public RenderTest
+{
+protected:
+    static osg::NodePtr front(const PlatePx& place, const osg::Color4f& color, int order = 0)
+    {
+        return makePlate(place, kSize, color,
+                         [order](const osg::SceneplatePtr& plate) { plate->setOrder(order); });
+    }
+
+    static osg::NodePtr back(const PlatePx& place, const osg::Color4f& color)
+    {
+        return makePlate(place, kSize, color,
+                         [](const osg::SceneplatePtr& plate) { plate->setFront(false); });
+    }
+};
+
+TEST_F(nbSceneplatePainterTest, UnturnedPlateCoversExactlyItsPixels)
+{
+    const QImage picture = draw(group({ front({ 70.f, 45.f, 100.f, 50.f }, kRed4) }));
+
+    EXPECT_EQ(count(picture, kRed), 100 * 50);
+    EXPECT_EQ(count(picture, kBlack), kSize * kSize - 100 * 50);
+    EXPECT_EQ(picture.pixelColor(20, 20), kRed);
+    EXPECT_EQ(picture.pixelColor(119, 69), kRed);
+    EXPECT_EQ(picture.pixelColor(19, 20), kBlack);
+    EXPECT_EQ(picture.pixelColor(120, 69), kBlack);
+    EXPECT_EQ(picture.pixelColor(119, 70), kBlack);
+}
+
+TEST_F(nbSceneplatePainterTest, PictureOfAsManyPixelsIsShownUnchangedWhereverThePlateLies)
+{
+    const QImage logo = speckled(41, 30);
+    // Of an odd width, so that the centre cannot lie between pixels on both sides.
+    for (const float shift : { 0.f, 0.25f, 0.5f, 0.8f }) {
+        SCOPED_TRACE(shift);
+        const QImage picture =
+            draw(group({ makePlate({ 100.f + shift, 80.f, 41.f, 30.f }, kSize, kRed4,
+                                   [&](const auto& plate) { setImage(plate, logo); }) }));
+
+        const int left = shift < 0.5f ? 80 : 80 + 0;
+        int first = -1;
+        for (int x = 0; x < kSize && first < 0; ++x) {
+            first = picture.pixelColor(x, 66) == QColor(kBlack) ? -1 : x;
+        }
+        EXPECT_NEAR(first, left, 1);
+        EXPECT_EQ(picture.copy(first, 65, 41, 30).convertToFormat(QImage::Format_RGB32), logo);
+    }
+}
+
+TEST_F(nbSceneplatePainterTest, SubpixelShiftsLeavePlatesOnPixelsAlone)
+{
+    const QImage logo = speckled(40, 30);
+    const QImage once =
+        draw(group({ makePlate({ 100.f, 80.f, 40.f, 30.f }, kSize, kRed4,
+                               [&](const auto& plate) { setImage(plate, logo); }) }));
+
+    EXPECT_EQ(view->render(viewport.get(), kSize, kSize, 4), once);
+}
+
+TEST_F(nbSceneplatePainterTest, LiesBeforeOrBehindTheSceneAndBelowHandles)
+{
+    const PlatePx all { 100.f, 100.f, 200.f, 200.f };
+    const osg::NodePtr box = square(1.f, unlit(kGreen));
+
+    EXPECT_EQ(at(draw(group({ back(all, kRed4), box })), 0.f, 0.f), kGreen);
+    EXPECT_EQ(at(redraw(), 1.f, 0.f), kRed);
+    EXPECT_EQ(at(draw(group({ front(all, kRed4), square(1.f, unlit(kGreen)) })), 0.f, 0.f), kRed);
+
+    const QImage handles =
+        draw(group({ manipulator({ square(1.f, unlit(kBlue)) }), square(2.f, unlit(kGreen, 7), 1.f),
+                     front({ 100.f, 100.f, 20.f, 200.f }, kRed4) }));
+    EXPECT_EQ(at(handles, 0.f, 0.f), kBlue) << "handles stay above plates";
+    EXPECT_EQ(at(handles, 0.f, 0.8f), kRed);
+    EXPECT_EQ(at(handles, 0.8f, 0.8f), kGreen);
+}
+
+TEST_F(nbSceneplatePainterTest, HigherOrderLiesInFrontThenTheLaterInTheTree)
+{
+    const PlatePx place { 100.f, 100.f, 80.f, 80.f };
+
+    EXPECT_EQ(at(draw(group({ front(place, kRed4, 3), front(place, kGreen4, 2) })), 0.f, 0.f),
+              kRed);
+    EXPECT_EQ(at(draw(group({ front(place, kRed4, 2), front(place, kGreen4, 2) })), 0.f, 0.f),
+              kGreen);
+    EXPECT_EQ(at(draw(group({ front(place, kRed4, -5), back(place, kGreen4) })), 0.f, 0.f), kRed)
+        << "in front of the scene, whatever the order of one behind";
+}
+
+TEST_F(nbSceneplatePainterTest, TurnsCounterClockwise)
+{
+    const QImage picture = draw(group({ front({ 100.f, 100.f, 120.f, 10.f, 45.f }, kRed4) }));
+
+    EXPECT_EQ(picture.pixelColor(130, 69), kRed) << "up to the right";
+    EXPECT_EQ(picture.pixelColor(69, 130), kRed);
+    EXPECT_EQ(picture.pixelColor(130, 130), kBlack);
+    EXPECT_NEAR(count(picture, kRed), 1200, 150);
+
+    const QImage upright = draw(group({ front({ 100.f, 100.f, 120.f, 10.f, 90.f }, kRed4) }));
+    EXPECT_EQ(count(upright, kRed), 1200) << "a quarter turn lies on pixels as well";
+    EXPECT_EQ(upright.pixelColor(95, 40), kRed);
+}
+
+TEST_F(nbSceneplatePainterTest, AlphaAndOpacityMixWithWhatIsBehind)
+{
+    QImage half(20, 20, QImage::Format_ARGB32);
+    half.fill(QColor(255, 0, 0, 128));
+    const auto transparent = [&](float opacity) {
+        return makePlate({ 100.f, 100.f, 40.f, 40.f }, kSize, kRed4, [&](const auto& plate) {
+            setImage(plate, half);
+            plate->setOpacity(opacity);
+        });
+    };
+    const osg::NodePtr green = square(4.f, unlit(kGreen));
+
+    const QColor mixed = at(draw(group({ transparent(1.f), green })), 0.f, 0.f);
+    EXPECT_NEAR(mixed.red(), 128, 2);
+    EXPECT_NEAR(mixed.green(), 127, 2);
+    const QColor faint =
+        at(draw(group({ transparent(0.5f), square(4.f, unlit(kGreen)) })), 0.f, 0.f);
+    EXPECT_NEAR(faint.red(), 64, 2);
+    EXPECT_NEAR(faint.green(), 191, 2);
+}
+
+TEST_F(nbSceneplatePainterTest, ClearRimsOfALogoStayClean)
+{
+    // Clear pixels are black; enlarged, the white next to them must not get a dark rim.
+    QImage logo(8, 8, QImage::Format_ARGB32);
+    logo.fill(Qt::transparent);
+    for (int y = 0; y < 8; ++y) {
+        for (int x = 0; x < 4; ++x) {
+            logo.setPixelColor(x, y, Qt::white);
+        }
+    }
+    const QImage picture =
+        draw(group({ makePlate({ 100.f, 100.f, 160.f, 160.f }, kSize, kRed4,
+                               [&](const auto& plate) { setImage(plate, logo); }),
+                     square(4.f, unlit(Qt::white)) }));
+
+    EXPECT_EQ(count(picture, Qt::white), kSize * kSize);
+}
+
+TEST_F(nbSceneplatePainterTest, FollowsEditsOfPlateAndImage)
+{
+    osg::NodePtr node;
+    draw(group({ node = front({ 100.f, 100.f, 40.f, 40.f }, kRed4) }));
+    const osg::SceneplatePtr plate = plateOf(node);
+    const auto edited = [&](const std::function<void()>& change) {
+        {
+            const nbEdit edit(plate, osg::FieldBits::AllFields);
+            change();
+        }
+        return at(redraw(), 0.f, 0.f);
+    };
+
+    EXPECT_EQ(edited([&] { plate->setColor(kBlue4); }), kBlue);
+    EXPECT_EQ(edited([&] { setImage(plate, speckled(1, 1)); }), QColor(0, 0, 0));
+    {
+        const osg::ImagePtr image = plate->getImage();
+        const nbEdit edit(image, osg::FieldBits::AllFields);
+        image->getData()[1] = 255;
+    }
+    EXPECT_EQ(at(redraw(), 0.f, 0.f), kGreen);
+    EXPECT_EQ(edited([&] { plate->setVisible(false); }), kBlack);
+}
+
+TEST_F(nbSceneplatePainterTest, EffectBufferAndSceneBoundsDoNotKnowPlates)
+{
+    const osg::NodePtr below = square(4.f, unlit(kBlue));
+    osg::NodePtr plate;
+    draw(group({ plate = front({ 100.f, 100.f, 100.f, 100.f }, kRed4) }));
+    const nbEdit edit(plate, osg::Node::ChildrenFieldMask);
+    plate->addChild(below);
+
+    const QImage picture = redraw();
+
+    EXPECT_EQ(count(picture, kBlue), 0) << "nothing below a plate is drawn";
+    EXPECT_EQ(view->readEffect().pixelColor(100, 100), QColor(0, 0, 0, 0));
+    EXPECT_EQ(view->getAction().getStatistics().items, 0U);
+}
+
+TEST_F(nbSceneplatePainterTest, MarkersLieAroundThePlateAndHideNothingOfIt)
+{
+    const QImage picture = draw(group(
+        { makePlate({ 60.f, 100.f, 40.f, 40.f }, kSize, kRed4,
+                    [](const auto& plate) { plate->setMarker(osg::Sceneplate::SelectedMarker); }),
+          makePlate({ 150.f, 100.f, 60.f, 30.f, 30.f }, kSize, kBlue4,
+                    [](const auto& plate) {
+                        plate->setFront(false);
+                        plate->setMarker(osg::Sceneplate::PreselectedMarker);
+                    }),
+          square(4.f, unlit(kGreen)) }));
+
+    EXPECT_EQ(count(picture, kRed), 1600);
+    EXPECT_GT(picture.pixelColor(60, 121).red(), 200) << "below the lower edge";
+    EXPECT_GT(picture.pixelColor(80, 80 - 1).red(), 200) << "closed at the corners";
+    EXPECT_EQ(picture.pixelColor(60, 76), kGreen);
+    EXPECT_EQ(count(picture, kBlue), 0) << "hidden by the scene, its outline is not";
+    EXPECT_LT(count(picture, kGreen), kSize * kSize - 1600 - 500);
+}
+
+TEST_F(nbSceneplatePainterTest, ThePickerHitsExactlyWhatIsDrawn)
+{
+    nbOSGWidget widget;
+    widget.resize(kSize, kSize);
+    nbec::interaction::Picker picker;
+    picker.setFilter(nbec::interaction::Picker::SceneplateFilter);
+    QImage ring(64, 64, QImage::Format_ARGB32);
+    for (int y = 0; y < 64; ++y) {
+        for (int x = 0; x < 64; ++x) {
+            const bool isSolid = std::abs(std::hypot(x - 31.5, y - 31.5) - 24.0) < 7.0;
+            ring.setPixelColor(x, y, isSolid ? Qt::white : Qt::transparent);
+        }
+    }
+    const auto add = [](const PlatePx& place, const QImage& picture) {
+        nbScenegraph::getSceneplateRoot()->addChild(
+            makePlate(place, kSize, kRed4, [&](const auto& plate) {
+                if (!picture.isNull()) {
+                    setImage(plate, picture);
+                }
+            }));
+    };
+    add({ 60.f, 60.f, 90.f, 37.f, 17.f }, QImage());
+    add({ 140.3f, 70.7f, 45.f, 45.f, -30.f }, QImage());
+    add({ 60.5f, 150.f, 64.f, 64.f }, ring);
+    add({ 150.f, 150.f, 61.f, 21.f, 270.f }, QImage());
+    widget.getUberViewport()->setBackgroundColor(osg::Color4f(0.f, 0.f, 0.f, 1.f));
+    view->getAction().setSamples(1);
+
+    const QImage picture = view->render(widget.getViewport(), kSize, kSize);
+
+    view->getAction().setSamples(8);
+    int differences = 0;
+    for (int y = 0; y < kSize; ++y) {
+        for (int x = 0; x < kSize; ++x) {
+            const bool isHit = picker.pickAt(osg::Pnt2f(static_cast<float>(x),
+                                                        static_cast<float>(y))) != osg::NullFC;
+            differences += isHit == (picture.pixelColor(x, y) != QColor(kBlack)) ? 0 : 1;
+        }
+    }
+    EXPECT_EQ(differences, 0);
+    nbScenegraph::clear();
+}

@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: MIT
+#include <nbOpenSGUberMaterial/UberMaterial.h>
+#include <nbOpenSGUtils/nbEdit.h>
+
+#include <OpenSG/OSGChangeCount.h>
+#include <OpenSG/OSGContainerCloner.h>
+#include <OpenSG/OSGFieldContainerFactory.h>
+#include <OpenSG/OSGGroup.h>
+#include <OpenSG/OSGNode.h>
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace {
+
+using Names = std::vector<std::string>;
+
+class UberMaterialTest : public testing::Test
+{
+protected:
+    static osg::ImagePtr makeImage(osg::UInt32 format)
+    {
+        const osg::ImagePtr image = osg::Image::create();
+        image->set(format, 1, 1);
+        return image;
+    }
+
+    osg::UberMaterialRefPtr material { osg::UberMaterial::create() };
+};
+
+}  // namespace
+
+TEST_F(UberMaterialTest, ComponentsGoByNameAndLastAsLongAsTheyHoldSomething)
+{
+    const osg::ColorComponentSettingsRefPtr settings(osg::ColorComponentSettings::create());
+    const osg::RefPtr<osg::ImagePtr> image(makeImage(osg::Image::OSG_RGB_PF));
+    EXPECT_TRUE(material->getComponentNames().empty());
+
+    material->setImage("diffuse", image.get());
+    material->setComponentSettings("bump", settings.get());
+    material->setComponentSettings("diffuse", settings.get());
+
+    EXPECT_EQ(material->getComponentNames(), (Names { "diffuse", "bump" }));
+    EXPECT_TRUE(material->getImage("diffuse") == image.get());
+    EXPECT_TRUE(material->getComponentSettings("diffuse") == settings.get());
+    EXPECT_TRUE(material->getImage("bump") == osg::NullFC);
+    EXPECT_TRUE(material->getComponentSettings("Diffuse") == osg::NullFC);
+    material->setImage("diffuse", osg::NullFC);
+    EXPECT_EQ(material->getComponentNames(), (Names { "diffuse", "bump" }));
+    material->setComponentSettings("diffuse", osg::NullFC);
+    material->setImage("nothing", osg::NullFC);
+    EXPECT_EQ(material->getComponentNames(), (Names { "bump" }));
+}
+
+TEST_F(UberMaterialTest, CountsWhatItHoldsAndGivesItBack)
+{
+    const osg::FieldContainerFactory* const factory = osg::FieldContainerFactory::the();
+    const osg::ImagePtr image = makeImage(osg::Image::OSG_RGB_PF);
+    const osg::ColorComponentSettingsPtr settings = osg::ColorComponentSettings::create();
+    settings->setPlanarProjection(osg::Transform3D::create());
+    const osg::UInt32 ids[] = { image.getFieldContainerId(), settings.getFieldContainerId(),
+                                settings->getPlanarProjection().getFieldContainerId() };
+
+    material->setImage("diffuse", image);
+    material->setComponentSettings("diffuse", settings);
+    material->setComponentSettings("transparency", settings);
+    for (const osg::UInt32 id : ids) {
+        EXPECT_TRUE(factory->getContainer(id) != osg::NullFC);
+    }
+    material->setComponentSettings("diffuse", osg::NullFC);
+    EXPECT_TRUE(factory->getContainer(ids[1]) != osg::NullFC);
+    material = osg::NullFC;
+    for (const osg::UInt32 id : ids) {
+        EXPECT_TRUE(factory->getContainer(id) == osg::NullFC);
+    }
+}
+
+TEST_F(UberMaterialTest, ACopyHasItsOwnListOfComponents)
+{
+    const osg::RefPtr<osg::ImagePtr> first(makeImage(osg::Image::OSG_RGB_PF));
+    const osg::RefPtr<osg::ImagePtr> second(makeImage(osg::Image::OSG_RGB_PF));
+    material->setImage("diffuse", first.get());
+
+    const osg::UberMaterialRefPtr copy(osg::UberMaterialPtr::dcast(material->shallowCopy()));
+    copy->setImage("diffuse", second.get());
+    copy->setImage("bump", second.get());
+
+    EXPECT_TRUE(material->getImage("diffuse") == first.get());
+    EXPECT_EQ(material->getComponentNames(), (Names { "diffuse" }));
+    EXPECT_TRUE(copy->getImage("diffuse") == second.get());
+}
+
+TEST_F(UberMaterialTest, IsTransparentWithAPictureThatCanMakeItSo)
+{
+    const osg::ColorComponentSettingsRefPtr settings(osg::ColorComponentSettings::create());
+    material->setComponentSettings("transparency", settings.get());
+    EXPECT_FALSE(material->isTransparent());
+    material->setImage("transparency", makeImage(osg::Image::OSG_RGB_PF));
+    EXPECT_FALSE(material->isTransparent());
+    settings->setAsMask(true);
+    EXPECT_TRUE(material->isTransparent());
+    settings->setAsMask(false);
+    material->setImage("transparency", makeImage(osg::Image::OSG_RGBA_PF));
+    EXPECT_TRUE(material->isTransparent());
+    material->setImage("transparency", osg::Image::create());
+    EXPECT_FALSE(material->isTransparent());
+}
+
+TEST_F(UberMaterialTest, EditsOfAHeldProjectionMoveTheCountsOfTrees)
+{
+    const osg::NodeRefPtr root(osg::makeCoredNode<osg::Group>());
+    const osg::RefPtr<osg::Transform3DPtr> projection(osg::Transform3D::create());
+    const osg::ColorComponentSettingsRefPtr settings(osg::ColorComponentSettings::create());
+    const auto editMoves = [&] {
+        const osg::UInt64 before = osg::getTreeChangeCount(root.get());
+        {
+            const nbEdit edit(projection.get(), osg::Transform3D::TranslationFieldMask);
+        }
+        return osg::getTreeChangeCount(root.get()) != before;
+    };
+
+    EXPECT_FALSE(editMoves());
+    settings->setPlanarProjection(projection.get());
+    EXPECT_TRUE(editMoves());
+    settings->setPlanarProjection(osg::NullFC);
+    EXPECT_FALSE(editMoves());
+}
+
+TEST(ColorComponentSettings, FlagsAreSwitchedOneByOne)
+{
+    using Settings = osg::ColorComponentSettings;
+    const osg::ColorComponentSettingsRefPtr settings(Settings::create());
+    EXPECT_EQ(settings->getPlanarProjectionFlags(), 0u);
+    EXPECT_EQ(settings->getTextureProjectionType(), Settings::PlanarProjection);
+
+    settings->setPlanarProjectionFlag(Settings::KeepAspectRatio, true);
+    settings->setPlanarProjectionFlag(Settings::ClampZ, true);
+    EXPECT_EQ(settings->getPlanarProjectionFlags() & 1u, 1u) << "bit 0 keeps the aspect ratio";
+    settings->setPlanarProjectionFlag(Settings::KeepAspectRatio, false);
+
+    EXPECT_FALSE(settings->hasPlanarProjectionFlag(Settings::KeepAspectRatio));
+    EXPECT_TRUE(settings->hasPlanarProjectionFlag(Settings::ClampZ));
+}

@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+#include <nbOpenSGUtils/nbImage.h>
+
+#include <OpenSG/OSGChangeCount.h>
+#include <OpenSG/OSGRefPtr.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstring>
+#include <vector>
+
+namespace {
+
+using Image = osg::Image;
+using Bytes = std::vector<osg::UInt8>;
+
+osg::RefPtr<osg::ImagePtr> makeImage(osg::UInt32 format, const Bytes& pixels, int width,
+                                     int mipmaps = 1, int type = Image::OSG_UINT8_IMAGEDATA)
+{
+    osg::RefPtr<osg::ImagePtr> image(Image::create());
+    EXPECT_TRUE(image->set(format, width, 1, 1, mipmaps, 1, 0.0, pixels.data(), type));
+    return image;
+}
+
+Bytes bytesOf(const osg::ImagePtr& image)
+{
+    return { image->getData(), image->getData() + image->getSize() };
+}
+
+}  // namespace
+
+TEST(nbImage, InvertsAlphaOfAllFormatsThatHaveItAndLeavesColors)
+{
+    struct Row
+    {
+        osg::UInt32 format;
+        Bytes before;
+        Bytes after;
+    };
+
+    const Row rows[] = {
+        { Image::OSG_A_PF, { 0, 200 }, { 255, 55 } },
+        { Image::OSG_I_PF, { 0, 200 }, { 255, 55 } },
+        { Image::OSG_LA_PF, { 1, 2, 3, 4 }, { 1, 253, 3, 251 } },
+        { Image::OSG_RGBA_PF, { 1, 2, 3, 4, 5, 6, 7, 255 }, { 1, 2, 3, 251, 5, 6, 7, 0 } },
+        { Image::OSG_BGRA_PF, { 1, 2, 3, 4, 5, 6, 7, 8 }, { 1, 2, 3, 251, 5, 6, 7, 247 } },
+    };
+    for (const Row& row : rows) {
+        const auto image = makeImage(row.format, row.before, 2);
+        const osg::UInt32 edits = osg::getChangeCount(image.get());
+
+        EXPECT_TRUE(nbImage::invertAlpha(image.get()));
+
+        EXPECT_EQ(bytesOf(image.get()), row.after) << row.format;
+        EXPECT_GT(osg::getChangeCount(image.get()), edits) << "who shows the image must see it";
+    }
+}
+
+TEST(nbImage, InvertsMipmapsAndWideComponents)
+{
+    const auto mipmapped = makeImage(Image::OSG_A_PF, { 0, 100, 50 }, 2, 2);
+    EXPECT_TRUE(nbImage::invertAlpha(mipmapped.get()));
+    EXPECT_EQ(bytesOf(mipmapped.get()), (Bytes { 255, 155, 205 }));
+
+    const osg::Real32 values[] = { 0.5f, 0.25f };
+    Bytes bytes(sizeof(values));
+    std::memcpy(bytes.data(), values, sizeof(values));
+    const auto floats = makeImage(Image::OSG_LA_PF, bytes, 1, 1, Image::OSG_FLOAT32_IMAGEDATA);
+    EXPECT_TRUE(nbImage::invertAlpha(floats.get()));
+    osg::Real32 inverted[2] = {};
+    std::memcpy(inverted, floats->getData(), sizeof(inverted));
+    EXPECT_EQ(inverted[0], 0.5f);
+    EXPECT_EQ(inverted[1], 0.75f);
+
+    const auto words = makeImage(Image::OSG_A_PF, { 1, 0 }, 1, 1, Image::OSG_UINT16_IMAGEDATA);
+    EXPECT_TRUE(nbImage::invertAlpha(words.get()));
+    EXPECT_EQ(bytesOf(words.get()), (Bytes { 254, 255 }));
+}
+
+TEST(nbImage, LeavesImagesWithoutAlphaAsTheyAre)
+{
+    const auto colors = makeImage(Image::OSG_RGB_PF, { 1, 2, 3 }, 1);
+
+    EXPECT_FALSE(nbImage::invertAlpha(colors.get()));
+    EXPECT_FALSE(nbImage::invertAlpha(osg::NullFC));
+    EXPECT_FALSE(nbImage::invertAlpha(Image::create()));
+
+    EXPECT_EQ(bytesOf(colors.get()), (Bytes { 1, 2, 3 }));
+}

@@ -1,0 +1,382 @@
+// SPDX-License-Identifier: MIT
+#include "tests/platform/support/Plates.h"
+
+#include <nbKernel/nbController.h>
+#include <nbKernel/nbOSGWidget.h>
+#include <nbKernel/nbScenegraph.h>
+#include <nbKernelServices/nbScopedUndo.h>
+#include <nbKernelServices/nbUndoService.h>
+#include <nbOpenSGSceneplate/nbSceneplateLayout.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
+#include <nbSceneplateModule/nbSceneplateEditing.h>
+#include <nbSceneplateModule/nbSceneplateModule.h>
+#include <nbUtils/nbLog.h>
+
+#include <OpenSG/OSGGroup.h>
+
+#include <QtGui/QVector2D>
+#include <QtWidgets/QUndoStack>
+
+#include <gmock/gmock.h>
+
+#include <cmath>
+#include <limits>
+#include <string>
+#include <vector>
+
+using osg::NodePtr;
+using osg::Sceneplate;
+using osg::Vec2f;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+namespace {
+
+constexpr float kTolerance = 1e-6f;
+const osg::Color4f kWhite(1.f, 1.f, 1.f, 1.f);
+
+}  // namespace
+
+/// Plates in a view of 800 x 600 pixels and a module that receives messages.
+class nbSceneplateModuleTest : public testing::Test
+{
+protected:
+    nbSceneplateModuleTest()
+    {
+        widget.resize(800, 600);
+        undo->clear();
+        nbController::setModified(0);
+        nbLog::setSink([this](nbLog::Level, const std::string& text) { log.push_back(text); });
+        module.addChangedCallback([this] { ++changes; });
+    }
+
+    ~nbSceneplateModuleTest() override
+    {
+        nbLog::setSink(nbLog::Sink());
+        undo->clear();
+        nbScenegraph::clear();
+    }
+
+    /// A square plate of a tenth of the view's height, placed from the centre.
+    static NodePtr add(float x, float y, float rotation = 0.f)
+    {
+        const NodePtr node = platetest::makePlate({}, 1, kWhite, [&](const auto& plate) {
+            plate->setAnchor(Sceneplate::Centre);
+            plate->setPosition(Vec2f(x, y));
+            plate->setSize(Vec2f(0.1f, 0.1f));
+            plate->setRotation(rotation);
+        });
+        const NodePtr root = nbScenegraph::getSceneplateRoot();
+        const nbEdit edit(root, osg::Node::ChildrenFieldMask);
+        root->addChild(node);
+        return node;
+    }
+
+    static void select(const std::vector<NodePtr>& nodes, const std::string& hint = "select")
+    {
+        nbMessage message;
+        message.set("nodes", nodes, true);
+        message.set("hint", hint, true);
+        nbController::call("sceneplateSelected", message, 0);
+    }
+
+    static void preselect(const NodePtr& node)
+    {
+        nbMessage message;
+        message.set("node", node, true);
+        nbController::call("sceneplatePreselected", message, 0);
+    }
+
+    static void change(float factor, const QVector2D& offset, float rotation)
+    {
+        nbMessage message;
+        message.set("scaleFactor", factor, true);
+        message.set("offset", offset, true);
+        message.set("rotation", rotation, true);
+        nbController::call("sceneplateChanged", message, 0);
+    }
+
+    static void expectPlace(const NodePtr& node, float x, float y, float scale, float rotation)
+    {
+        const osg::SceneplatePtr plate = platetest::plateOf(node);
+        EXPECT_NEAR(plate->getPosition().x(), x, kTolerance);
+        EXPECT_NEAR(plate->getPosition().y(), y, kTolerance);
+        EXPECT_NEAR(plate->getScale(), scale, kTolerance);
+        EXPECT_NEAR(plate->getRotation(), rotation, 1e-4f);
+    }
+
+    static osg::Int32 markerOf(const NodePtr& node)
+    {
+        return platetest::plateOf(node)->getMarker();
+    }
+
+    int stepCount() const { return undo->getStack()->count(); }
+
+    nbOSGWidget widget;
+    nbUndoService* const undo = nbUndoService::the();
+    nbSceneplateModule module;
+    std::vector<std::string> log;
+    int changes = 0;
+};
+
+TEST_F(nbSceneplateModuleTest, HintsSayWhatBecomesOfTheSelection)
+{
+    const NodePtr a = add(0.f, 0.f);
+    const NodePtr b = add(0.1f, 0.f);
+    const NodePtr c = add(0.2f, 0.f);
+
+    select({ b, a });
+    EXPECT_THAT(module.getSelection(), ElementsAre(b, a)) << "in the order of selecting";
+    select({ c, a }, "add");
+    EXPECT_THAT(module.getSelection(), ElementsAre(b, a, c));
+    select({ b }, "deselect");
+    select({ c }, "sub");
+    EXPECT_THAT(module.getSelection(), ElementsAre(a));
+    select({ a, b }, "toggle");
+    EXPECT_THAT(module.getSelection(), ElementsAre(b));
+    select({}, "add");
+    EXPECT_THAT(module.getSelection(), ElementsAre(b));
+    select({});
+    EXPECT_THAT(module.getSelection(), IsEmpty());
+    EXPECT_EQ(changes, 6) << "none for what changes nothing";
+    EXPECT_THAT(log, IsEmpty());
+    EXPECT_EQ(nbController::getModified(), 0) << "selecting is no change of the scene";
+}
+
+TEST_F(nbSceneplateModuleTest, MarkersFollowSelectionAndPreselection)
+{
+    const NodePtr a = add(0.f, 0.f);
+    const NodePtr b = add(0.1f, 0.f);
+    widget.redrawDone();
+
+    select({ a });
+    preselect(b);
+    EXPECT_EQ(markerOf(a), Sceneplate::SelectedMarker);
+    EXPECT_EQ(markerOf(b), Sceneplate::PreselectedMarker);
+    EXPECT_EQ(module.getPreselected(), b);
+    EXPECT_TRUE(widget.isRedrawPending());
+    preselect(a);
+    EXPECT_EQ(markerOf(a), Sceneplate::SelectedMarker);
+    EXPECT_EQ(markerOf(b), Sceneplate::NoMarker);
+    select({});
+    EXPECT_EQ(markerOf(a), Sceneplate::PreselectedMarker);
+    preselect(osg::NullFC);
+    EXPECT_EQ(markerOf(a), Sceneplate::NoMarker);
+}
+
+TEST_F(nbSceneplateModuleTest, BadMessagesCostALineAndLoseNothing)
+{
+    const NodePtr a = add(0.f, 0.f);
+    select({ a });
+    const float nan = std::numeric_limits<float>::quiet_NaN();
+    const float inf = std::numeric_limits<float>::infinity();
+    const auto expectLine = [this](const std::string& text) {
+        EXPECT_THAT(log, ElementsAre(HasSubstr(text)));
+        log.clear();
+    };
+
+    select({ a }, "Select");
+    expectLine("\"Select\" is unknown");
+    nbController::call("sceneplateSelected", 0);
+    expectLine("\"nodes\" is missing");
+    select({ nbScenegraph::getRootNode(), a, osg::NullFC });
+    expectLine("2 of 3 nodes are no scene plates");
+    preselect(nbScenegraph::getRootNode());
+    expectLine("no scene plates");
+    change(nan, { 0.f, 0.f }, 0.f);
+    expectLine("scaleFactor");
+    change(0.f, { 0.1f, 0.f }, 0.f);
+    expectLine("scaleFactor");
+    change(-2.f, { 0.1f, 0.f }, 0.f);
+    expectLine("scaleFactor");
+    change(1.f, { 0.1f, inf }, 0.f);
+    expectLine("not finite");
+    change(1.f, { 0.1f, 0.f }, nan);
+    expectLine("not finite");
+    change(1e38f, { 3e38f, 0.f }, 0.f);
+    EXPECT_THAT(log, IsEmpty());
+    change(1e38f, { 3e38f, 0.f }, 0.f);
+    expectLine("too large");
+    undo->undo();
+
+    testing::internal::CaptureStderr();
+    nbMessage mistyped;
+    mistyped.set("offset", Vec2f(0.1f, 0.1f), true);
+    nbController::call("sceneplateChanged", mistyped, 0);
+    EXPECT_THAT(testing::internal::GetCapturedStderr(), HasSubstr("wrong type"));
+
+    EXPECT_THAT(module.getSelection(), ElementsAre(a));
+    expectPlace(a, 0.f, 0.f, 1.f, 0.f);
+}
+
+TEST_F(nbSceneplateModuleTest, ValuesAreAbsoluteFromTheStartOfTheGroup)
+{
+    const NodePtr a = add(0.1f, 0.2f, 30.f);
+    select({ a });
+
+    undo->beginGroup();
+    change(1.f, { 0.f, 0.f }, 0.f);
+    change(1.5f, { 0.05f, 0.f }, 10.f);
+    change(2.f, { 0.1f, -0.1f }, 20.f);
+    undo->endGroup();
+    expectPlace(a, 0.2f, 0.1f, 2.f, 50.f);
+    EXPECT_EQ(stepCount(), 1);
+    EXPECT_EQ(undo->getStack()->text(0), "Turn scene plates");
+    EXPECT_EQ(nbController::getModified(), 1);
+
+    undo->beginGroup();
+    change(2.f, { 0.f, 0.f }, 0.f);
+    undo->endGroup();
+    expectPlace(a, 0.2f, 0.1f, 4.f, 50.f);
+
+    change(1.f, { 0.1f, 0.f }, 0.f);
+    change(1.f, { 0.1f, 0.f }, 0.f);
+    expectPlace(a, 0.4f, 0.1f, 4.f, 50.f);
+    EXPECT_EQ(stepCount(), 4) << "outside of a group each is a change of its own";
+}
+
+TEST_F(nbSceneplateModuleTest, BracketsStandForGroupsWhereAHostMakesNone)
+{
+    const NodePtr a = add(0.1f, 0.2f);
+    select({ a });
+
+    for (int drag = 1; drag <= 2; ++drag) {
+        module.beginChange();
+        change(1.f, { 0.05f, 0.f }, 0.f);
+        change(1.f, { 0.1f, 0.f }, 0.f);
+        module.endChange();
+        expectPlace(a, 0.1f + 0.1f * static_cast<float>(drag), 0.2f, 1.f, 0.f);
+    }
+}
+
+TEST_F(nbSceneplateModuleTest, SeveralPlatesTurnAndScaleAboutTheCentreOfTheirFrame)
+{
+    const NodePtr a = add(-0.2f, 0.f);
+    const NodePtr b = add(0.2f, 0.f);
+    // Anchored elsewhere, but at (0, 0.1) from the centre of this view.
+    const NodePtr c = add(0.f, 0.f);
+    nbSceneplateEditing::edit({ c }, "place", [](osg::Sceneplate& plate) {
+        plate.setAnchor(Sceneplate::TopRight);
+        plate.setPosition(Vec2f(-800.f / 1200.f, -0.4f));
+    });
+    select({ a, b, c });
+
+    // The frame reaches from -0.05 to 0.15 in y: its centre is (0, 0.05).
+    change(2.f, { 0.1f, 0.f }, 90.f);
+
+    expectPlace(a, 0.1f + 0.1f, 0.05f - 0.4f, 2.f, 90.f);
+    expectPlace(b, 0.1f + 0.1f, 0.05f + 0.4f, 2.f, 90.f);
+    expectPlace(c, -800.f / 1200.f + 0.1f - 0.1f, -0.4f - 0.05f, 2.f, 90.f);
+}
+
+TEST_F(nbSceneplateModuleTest, UndoRestoresBitForBitAndNoStepIsLeftWhereNothingChanged)
+{
+    const NodePtr a = add(0.1f, 1.f / 3.f, 200.f);
+    const NodePtr b = add(-0.7f, 0.01f);
+    select({ a, b });
+    const Vec2f before = platetest::plateOf(a)->getPosition();
+
+    undo->beginGroup();
+    change(1.37f, { 0.123f, 0.456f }, 77.7f);
+    change(1.f, { 0.f, 0.f }, 0.f);
+    undo->endGroup();
+    EXPECT_EQ(stepCount(), 0) << "ended where it began";
+    EXPECT_EQ(platetest::plateOf(a)->getRotation(), 200.f);
+
+    undo->beginGroup();
+    change(1.37f, { 0.123f, 0.456f }, 77.7f);
+    undo->endGroup();
+    const Vec2f after = platetest::plateOf(a)->getPosition();
+    ASSERT_TRUE(undo->undo());
+    EXPECT_EQ(platetest::plateOf(a)->getPosition().y(), before.y());
+    EXPECT_EQ(platetest::plateOf(a)->getScale(), 1.f);
+    EXPECT_EQ(markerOf(a), Sceneplate::SelectedMarker);
+    ASSERT_TRUE(undo->redo());
+    EXPECT_EQ(platetest::plateOf(a)->getPosition().y(), after.y());
+
+    undo->beginGroup();
+    change(1.f, { 0.5f, 0.f }, 0.f);
+    undo->cancelGroup();
+    EXPECT_EQ(platetest::plateOf(a)->getPosition().y(), after.y());
+    EXPECT_EQ(stepCount(), 1);
+}
+
+TEST_F(nbSceneplateModuleTest, DeletedPlatesLeaveTheSelectionAndComeBackWithUndo)
+{
+    const NodePtr a = add(0.f, 0.f);
+    const NodePtr b = add(0.1f, 0.f);
+    const osg::UInt32 idOfA = a.getFieldContainerId();
+    select({ a, b });
+    preselect(a);
+
+    EXPECT_EQ(nbSceneplateEditing::remove({ a, nbScenegraph::getRootNode() }), 1U);
+    EXPECT_THAT(module.getSelection(), ElementsAre(b));
+    EXPECT_EQ(module.getPreselected(), osg::NullFC);
+    change(1.f, { 0.1f, 0.f }, 0.f);
+    undo->undo();
+    undo->undo();
+    EXPECT_THAT(module.getSelection(), ElementsAre(a, b));
+    EXPECT_EQ(nbScenegraph::getSceneplateRoot()->getChild(0), a) << "at its place";
+
+    undo->redo();
+    undo->clear();
+    EXPECT_EQ(osg::FieldContainerFactory::the()->getContainer(idOfA), osg::NullFC)
+        << "nothing keeps it alive";
+    EXPECT_THAT(module.getSelection(), ElementsAre(b));
+}
+
+TEST_F(nbSceneplateModuleTest, AddedPlatesLieInFrontAndRestackAsBlocks)
+{
+    const auto make = [](const char* name, bool front = true) {
+        const NodePtr node = platetest::makePlate({ 1.f, 1.f, 1.f, 1.f }, 1, kWhite,
+                                                  [&](const auto& p) { p->setFront(front); });
+        nbNodeUtils::setName(node, name);
+        EXPECT_TRUE(nbSceneplateEditing::add(node));
+        return node;
+    };
+    const auto stack = [] {
+        std::string names;
+        for (const NodePtr& node : nbSceneplateEditing::getStack()) {
+            names += nbNodeUtils::getName(node);
+        }
+        return names;
+    };
+    const NodePtr a = make("a");
+    const NodePtr b = make("b");
+    make("x", false);
+    const NodePtr c = make("c");
+    EXPECT_EQ(stack(), "cbax");
+
+    EXPECT_TRUE(nbSceneplateEditing::restack({ a, b }, 1));
+    EXPECT_EQ(stack(), "bacx");
+    EXPECT_FALSE(nbSceneplateEditing::restack({ a, b }, 1)) << "they are in front";
+    EXPECT_TRUE(nbSceneplateEditing::restack({ b }, -1));
+    EXPECT_EQ(stack(), "abcx");
+    EXPECT_FALSE(nbSceneplateEditing::restack({ c }, -1));
+    EXPECT_EQ(stepCount(), 6);
+    while (undo->undo()) { }
+    EXPECT_EQ(stack(), "");
+    while (undo->redo()) { }
+    EXPECT_EQ(stack(), "abcx");
+    EXPECT_FALSE(nbSceneplateEditing::add(osg::makeCoredNode<osg::Group>()));
+}
+
+TEST_F(nbSceneplateModuleTest, ANewAnchorLeavesThePlateInPlace)
+{
+    const NodePtr a = add(0.1f, 0.2f);
+    const osg::SceneplatePtr plate = platetest::plateOf(a);
+    const osg::Pnt2f place = nbSceneplateLayout::centre(plate, 800, 600);
+
+    nbSceneplateEditing::setAnchor({ a }, Sceneplate::TopLeft, 800, 600);
+
+    EXPECT_NEAR(nbSceneplateLayout::centre(plate, 800, 600).x(), place.x(), 1e-3f);
+    EXPECT_NEAR(nbSceneplateLayout::centre(plate, 800, 600).y(), place.y(), 1e-3f);
+    EXPECT_NEAR(nbSceneplateLayout::centre(plate, 1600, 600).x(), place.x(), 1e-3f)
+        << "now it follows the left edge";
+    nbSceneplateEditing::rename(a, "Title");
+    undo->undo();
+    EXPECT_EQ(nbNodeUtils::getName(a), "");
+    undo->undo();
+    EXPECT_EQ(plate->getAnchor(), Sceneplate::Centre);
+}

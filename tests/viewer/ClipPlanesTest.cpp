@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/core/ClipPlanes.h"
+
+#include "viewer/core/SceneBuilder.h"
+#include "viewer/core/Stage.h"
+#include "viewer/core/StartScene.h"
+
+#include <nbKernel/nbScenegraph.h>
+#include <nbKernelServices/nbUndoService.h>
+
+#include <QtWidgets/QUndoStack>
+
+#include <gtest/gtest.h>
+
+namespace viewer {
+namespace {
+
+class ClipPlanes : public testing::Test
+{
+protected:
+    ClipPlanes()
+        : stage(view)
+    {
+        stage.resize(800, 600, 1.0F);
+        stage.showStartScene();
+        picker.setFilter(nbec::interaction::Picker::SceneFilter);
+    }
+
+    bool run(const char* command)
+    {
+        QString error;
+        const bool isDone = stage.commands().run(command, {}, error);
+        EXPECT_EQ(isDone, error.isEmpty());
+        return isDone;
+    }
+
+    /// Distance from the eye of what is seen in the middle of the view; 0 for nothing.
+    float depthInTheMiddle()
+    {
+        return picker.pickAt({ 400.F, 300.F }) == osg::NullFC
+            ? 0.F
+            : (picker.getHitPoint() - stage.pose().from).length();
+    }
+
+    osg::Vec3f placeOf(const std::string& name)
+    {
+        osg::Vec3f translation;
+        const osg::NodePtr node = findObject(nbScenegraph::getRootNode(), name);
+        if (node != osg::NullFC) {
+            osg::Pnt3f place;
+            node->getToWorld().multMatrixPnt(osg::Pnt3f(0.F, 0.F, 0.F), place);
+            translation = place.subZero();
+        }
+        return translation;
+    }
+
+    nbOSGWidget view;
+    Stage stage;
+    nbec::interaction::Picker picker;
+};
+
+TEST_F(ClipPlanes, TheHalfTowardsTheEyeGoesAndEverythingStaysInItsPlace)
+{
+    const osg::Vec3f place = placeOf(kStartSceneMainObject);
+    const float depth = depthInTheMiddle();
+    ASSERT_GT(depth, 0.F);
+
+    ASSERT_TRUE(run("scene.addClipPlane"));
+
+    EXPECT_EQ(stage.selectedName(), "Clip plane");
+    EXPECT_EQ(stage.gizmo().shown(), Gizmo::Clipping);
+    EXPECT_GT(depthInTheMiddle(), depth + 0.1F);
+    EXPECT_EQ(placeOf(kStartSceneMainObject), place);
+}
+
+TEST_F(ClipPlanes, AddingAndRemovingAreOneStepEachThatCanBeTakenBack)
+{
+    const float whole = depthInTheMiddle();
+    ASSERT_TRUE(run("scene.addClipPlane"));
+    const float cut = depthInTheMiddle();
+    ASSERT_NE(whole, cut);
+
+    EXPECT_TRUE(stage.undo());
+    EXPECT_EQ(depthInTheMiddle(), whole);
+    EXPECT_EQ(stage.selectedObject(), osg::NodePtr()) << "what is gone is not selected";
+    EXPECT_TRUE(stage.redo());
+    EXPECT_EQ(depthInTheMiddle(), cut);
+    ASSERT_TRUE(stage.selectByName("Clip plane"));
+    ASSERT_TRUE(run("scene.removeClipPlane"));
+    EXPECT_EQ(depthInTheMiddle(), whole);
+    EXPECT_TRUE(stage.undo());
+    EXPECT_EQ(depthInTheMiddle(), cut);
+    EXPECT_EQ(nbUndoService::the()->getStack()->count(), 2);
+}
+
+TEST_F(ClipPlanes, PlanesCutTogetherAndGoOneByOne)
+{
+    ASSERT_TRUE(run("scene.addClipPlane"));
+    const osg::NodePtr first = stage.selectedObject();
+    stage.setStandardView(nbCameraNavigation::StandardView::Top);
+    ASSERT_TRUE(run("scene.addClipPlane"));
+    const osg::NodePtr second = stage.selectedObject();
+    ASSERT_NE(first, second);
+    EXPECT_TRUE(isClipPlaneOrFrame(first));
+
+    EXPECT_TRUE(removeClipPlane(first));
+    EXPECT_FALSE(isClipPlaneOrFrame(first));
+    EXPECT_TRUE(isClipPlaneOrFrame(second));
+    EXPECT_TRUE(removeClipPlane(second));
+    EXPECT_NE(findObject(nbScenegraph::getRootNode(), kStartSceneMainObject), osg::NodePtr());
+}
+
+TEST_F(ClipPlanes, WithoutASceneOrASelectedPlaneOneLineSaysSo)
+{
+    QString error;
+    EXPECT_FALSE(stage.commands().run("scene.removeClipPlane", {}, error));
+    EXPECT_EQ(error, "select a clip plane first");
+    EXPECT_EQ(stage.selectedName(), kStartSceneMainObject);
+    stage.clear();
+    EXPECT_FALSE(stage.commands().run("scene.addClipPlane", {}, error));
+    EXPECT_EQ(error, "there is nothing to be cut");
+}
+
+}  // namespace
+}  // namespace viewer

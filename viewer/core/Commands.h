@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDir>
+#include <QJsonValue>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <map>
+#include <optional>
+
+namespace viewer {
+
+/// What the viewer can do and tell, by name: the way of panels, sessions and tests to the same
+/// operations.
+///
+/// Names are "area.operation", such as "plates.addPicture". A command takes one JSON value and
+/// either does everything or, with one line of reason, nothing. A value is read without any effect.
+class Commands
+{
+public:
+    /// Does a command. @return false with one line in `error`, nothing changed
+    using Run = std::function<bool(const QJsonValue& value, QString& error)>;
+    using Read = std::function<QJsonValue()>;
+    using Listener = std::function<void(const QString& name, const QJsonValue& value)>;
+
+    /// Adds a command, or replaces that of the name.
+    void add(const QString& name, Run run);
+    /// Adds a value, or replaces that of the name.
+    void addValue(const QString& name, Read read);
+    /// Removes every command and value whose name begins so; for owners that end before this.
+    void remove(const QString& prefix);
+
+    /// Runs a command, then tells the listener.
+    /// @return false with one line in `error` for an unknown name or a command that refused
+    bool run(const QString& name, const QJsonValue& value, QString& error);
+    /// @return nothing for an unknown name
+    std::optional<QJsonValue> value(const QString& name) const;
+    /// Names of all commands, sorted.
+    QStringList names() const;
+
+    /// Sets who is told of every command that was done, such as a recorder; empty for nobody.
+    void setListener(Listener newListener);
+
+    /// Sets the folder that relative file names in values are looked up in; the current one at
+    /// first.
+    void setFolder(const QDir& newFolder);
+    /// Absolute path of a file named in a value.
+    QString filePath(const QString& name) const;
+
+private:
+    std::map<QString, Run> commands;
+    std::map<QString, Read> values;
+    Listener listener;
+    QDir folder;
+};
+
+/// Whether a value is what was expected: numbers, also within arrays and objects, may differ by the
+/// tolerance; everything else is equal. An object may have entries that were not asked for.
+bool isNear(const QJsonValue& found, const QJsonValue& expected, double tolerance);
+
+/// Short text of a value for a message, such as "[1, 2.5]".
+QString textOf(const QJsonValue& value);
+
+}  // namespace viewer

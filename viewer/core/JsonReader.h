@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QJsonObject>
+#include <QJsonValue>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+namespace viewer {
+
+/// Reads values out of JSON and remembers what is wrong, with its path. Every operation answers
+/// false when the value is not what it has to be; its target then means nothing.
+class JsonReader
+{
+public:
+    /// @param errorText  gets the line; outlives this
+    explicit JsonReader(QString& errorText)
+        : error(errorText)
+    { }
+
+    /// Sets the line "path: what". @return false
+    bool fail(const QString& path, const QString& what);
+
+    bool checkKeys(const QJsonObject& object, const QString& path, const QStringList& known);
+    /// Reads an array of exactly so many finite numbers.
+    bool readNumbers(const QJsonValue& value, const QString& path, double* numbers, int count);
+    bool readString(const QJsonValue& value, const QString& path, QString& text);
+    bool readBool(const QJsonValue& value, const QString& path, bool& flag);
+    /// Reads a whole number from -limit to limit.
+    bool readInt(const QJsonValue& value, const QString& path, int limit, int& number);
+
+private:
+    QString& error;
+};
+
+/// Parses a text that is one JSON object.
+/// @param error  one line with the place of the fault ("line 3, column 7: ...")
+std::optional<QJsonObject> parseJsonObject(const QByteArray& text, QString& error);
+
+}  // namespace viewer

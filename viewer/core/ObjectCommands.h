@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <OpenSG/OSGConfig.h>
+#include <OpenSG/OSGNode.h>
+
+#include <QString>
+
+#include <vector>
+
+namespace viewer {
+
+class Commands;
+class Stage;
+
+/// Place of an object in the tree of objects, such as "0/2": the third object below the first one
+/// at the top. "" for what is no object of the scene.
+QString pathOf(const osg::NodePtr& object);
+
+/// @return null if there is no object at a path
+osg::NodePtr objectAt(const QString& path);
+
+/// The objects directly below an object, or at the top for null, in the order of the tree; groups
+/// and other nodes between them are passed through.
+std::vector<osg::NodePtr> childObjects(const osg::NodePtr& object);
+
+/// Adds the commands and values that concern the selected objects:
+/// "scene.select" (array of paths), "object.name", "object.translation", "object.rotation",
+/// "object.scale", "object.rotatePivot", "object.scalePivot" (arrays of three numbers, in the frame
+/// of the parent, degrees), "object.visible", "object.locked" (true or false). Vectors and switches
+/// act on every selected object as one undo step; values are those of the object selected last,
+/// null without one.
+/// @param stage  outlives the commands
+void addObjectCommands(Stage& stage);
+
+}  // namespace viewer

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "viewer/gui/Panel.h"
+
+#include <OpenSG/OSGConfig.h>
+#include <OpenSG/OSGNode.h>
+
+#include <QList>
+
+class QTreeWidget;
+class QTreeWidgetItem;
+
+namespace viewer {
+
+/// The tree of the scene's objects, in which a person selects.
+class ScenePanel : public Panel
+{
+    Q_OBJECT
+
+public:
+    explicit ScenePanel(Stage& stage, QWidget* parent = nullptr);
+
+    void refresh() override;
+
+private:
+    void rebuild();
+    void addObjects(const osg::NodePtr& parent, const QString& parentPath, QTreeWidgetItem* item);
+    void showSelection();
+    void select();
+
+    QTreeWidget* tree;
+    /// What the tree shows: number of ancestors and container id of each object.
+    QList<quint64> shown;
+    osg::UInt64 shownChanges = 0;
+};
+
+}  // namespace viewer

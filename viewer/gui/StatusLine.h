@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+
+class QLabel;
+class QProgressBar;
+class QStatusBar;
+class QToolButton;
+
+namespace viewer {
+
+class Stage;
+
+/// What the window's status line tells: selection, handle, values of a drag, triangles, and how far
+/// loading is.
+class StatusLine : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// @param bar  gets the labels; outlives this
+    explicit StatusLine(QStatusBar& bar);
+
+    /// Shows how it stands now.
+    void update(Stage& stage, bool isLoading);
+    void setProgress(const QString& file, int percent);
+
+signals:
+    void stopLoadingAsked();
+
+private:
+    QLabel* handleLabel;
+    QLabel* valuesLabel;
+    QLabel* selectionLabel;
+    QLabel* sceneLabel;
+    QProgressBar* progress;
+    QToolButton* cancelButton;
+};
+
+}  // namespace viewer
