@@ -36,12 +36,12 @@ void drawCross(osg::Pnt3f* points, const osg::Pnt3f& center, float reach)
     const float x = center.x();
     const float y = center.y();
     const float z = center.z();
-    points[0].setValues(x - reach, y, z);
-    points[1].setValues(x + reach, y, z);
-    points[2].setValues(x, y - reach, z);
-    points[3].setValues(x, y + reach, z);
-    points[4].setValues(x, y, z - reach);
-    points[5].setValues(x, y, z + reach);
+    points++->setValues(x - reach, y, z);
+    points++->setValues(x + reach, y, z);
+    points++->setValues(x, y - reach, z);
+    points++->setValues(x, y + reach, z);
+    points++->setValues(x, y, z - reach);
+    points++->setValues(x, y, z + reach);
 }
 
 bool hasSelectedAncestor(const osg::NodePtr& node, const NodeIds& selected)

@@ -11,6 +11,8 @@ namespace {
 
 /// Tangent of the greatest change of an angle that is followed, 7 degrees.
 constexpr double kGreatestTangent = 0.125;
+/// Of the arctangent's series, at t^17.
+constexpr double kLastFactor = 1.0 / 17.0;
 /// Cosine of the middle angle below which first and last angle change too fast to be followed.
 constexpr double kLeastCosine = 0.02;
 
@@ -23,7 +25,7 @@ double arctangent(double t)
     const double s4 = s2 * s2;
     const double low = (1.0 - s * (1.0 / 3)) + s2 * (1.0 / 5 - s * (1.0 / 7));
     const double high = (1.0 / 9 - s * (1.0 / 11)) + s2 * (1.0 / 13 - s * (1.0 / 15));
-    return t * (low + s4 * (high + s4 * (1.0 / 17)));
+    return t * (low + s4 * (high + s4 * kLastFactor));
 }
 
 std::array<double*, 3> valuesOf(nbEulerAngles& angles)

@@ -28,8 +28,11 @@ constexpr float kAreaEdge = 30.0F;
 constexpr float kTextHeight = 26.0F;
 constexpr int kDecimals = 2;
 constexpr double kHundredths = 100.0;
+constexpr std::uint64_t kBase = 10;
 /// Hundredths of values below are exact in a double, with a half added too.
 constexpr double kQuickLimit = 1e13;
+/// Room for a value below that limit, without its sign.
+constexpr std::size_t kLongestQuick = 24;
 /// Room for a value: the greatest float has 39 digits before the point.
 constexpr std::size_t kLongestValue = 48;
 
@@ -67,18 +70,18 @@ char* writeValue(char* to, double value)
         const QByteArray digits = QByteArray::number(value, 'f', kDecimals);
         return std::copy(digits.begin(), digits.end(), to);
     }
-    auto hundredths = static_cast<std::uint64_t>(magnitude * kHundredths + 0.5);
+    auto hundredths = static_cast<std::uint64_t>(std::floor(magnitude * kHundredths + 0.5));
     if (value < 0.0 && hundredths > 0) {
         *to++ = '-';
     }
-    char reversed[24];
+    char reversed[kLongestQuick];
     int count = 0;
     while (hundredths > 0 || count <= kDecimals) {
         if (count == kDecimals) {
             reversed[count++] = '.';
         }
-        reversed[count++] = static_cast<char>('0' + hundredths % 10);
-        hundredths /= 10;
+        reversed[count++] = static_cast<char>('0' + hundredths % kBase);
+        hundredths /= kBase;
     }
     return std::reverse_copy(reversed, reversed + count, to);
 }
