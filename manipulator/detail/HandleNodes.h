@@ -3,8 +3,8 @@
 
 #include <nbOpenSGExt/Transform3D.h>
 
+#include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGMaterial.h>
-#include <OpenSG/OSGGeometryFields.h>
 #include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGQuaternion.h>
 #include <OpenSG/OSGVector.h>

@@ -14,6 +14,17 @@ bool isLine(int which)
     return which >= 0 && which < nbdPerspectiveMatch::kLineCount;
 }
 
+double withKeptDigits(double stored, double given)
+{
+    return static_cast<double>(static_cast<float>(stored)) == given ? stored : given;
+}
+
+QLineF withKeptDigits(const QLineF& stored, const QLineF& given)
+{
+    return { withKeptDigits(stored.x1(), given.x1()), withKeptDigits(stored.y1(), given.y1()),
+             withKeptDigits(stored.x2(), given.x2()), withKeptDigits(stored.y2(), given.y2()) };
+}
+
 }  // namespace
 
 nbdPerspectiveMatch::nbdPerspectiveMatch(const nbdObject& object)
@@ -29,7 +40,9 @@ QLineF nbdPerspectiveMatch::getLine(Line which) const
 void nbdPerspectiveMatch::setLine(Line which, const QLineF& line) const
 {
     if (isLine(which)) {
-        editMatch(getId(), [&](MatchState& state) { state.lines[which] = line; });
+        editMatch(getId(), [&](MatchState& state) {
+            state.lines[which] = withKeptDigits(state.lines[which], line);
+        });
     }
 }
 

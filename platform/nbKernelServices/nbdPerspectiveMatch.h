@@ -44,7 +44,9 @@ public:
     explicit nbdPerspectiveMatch(const nbdObject& object);
 
     // == Lines. Properties "xLine1" to "zLine2". A null match has lines of length 0 at the origin.
-    // Every number is kept as it is given; whether lines are usable is asked when they are solved.
+    // Every number is kept as it is given; one that is the stored number in single precision, in
+    // which manipulators work, leaves the stored one its further digits. Whether lines are usable
+    // is asked when they are solved.
 
     QLineF getXLine1() const { return getLine(XLine1); }
 

@@ -3,9 +3,9 @@
 
 #include <nbUtils/nbPlatformExport.h>
 
-/// The magnifier of the main view: a round lens that shows the finished picture, photograph, scene
-/// and overlays, enlarged around a pixel. This is what is to be shown; the render action draws it
-/// into the pictures of the main render widget.
+/// The magnifier of the main view: a round lens that shows the finished picture enlarged around a
+/// pixel; with a photograph behind the scene, the photograph and the handles alone. This is what is
+/// to be shown; the render action draws it into the pictures of the main render widget.
 ///
 /// Positions are device pixels as those of the pointer: x from the left, y from the top, each pixel
 /// by its whole number. Changes ask the main render widget for a redraw.

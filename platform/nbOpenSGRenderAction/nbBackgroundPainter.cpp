@@ -9,6 +9,9 @@
 
 #include <OpenSG/OSGSolidBackground.h>
 
+#include <algorithm>
+#include <string>
+
 namespace nbrender {
 
 namespace {
@@ -18,6 +21,7 @@ in vec2 place;
 uniform sampler2D picture;
 uniform vec4 area;
 uniform vec2 viewSize;
+uniform float opacity;
 layout (location = 0) out vec4 colorBufferRGBA;
 void main()
 {
@@ -27,7 +31,7 @@ void main()
     if (any(lessThan(uv, vec2(0.0))) || any(greaterThan(uv, vec2(1.0)))) {
         discard;
     }
-    colorBufferRGBA = color;
+    colorBufferRGBA = vec4(color.rgb, color.a * opacity);
 }
 )";
 
@@ -83,16 +87,40 @@ void BackgroundPainter::draw(Gl& gl, const osg::ViewportPtr& viewport, const Bac
     gl.glColorMaski(1, GL_FALSE, GL_FALSE, GL_FALSE, GL_FALSE);
     gl.glBindVertexArray(frame.emptyArray);
     gl.glDrawArrays(GL_TRIANGLES, 0, 3);
-    const auto uber = osg::UberViewportPtr::dcast(viewport);
-    if (uber != osg::NullFC && uber->getPhotograph() != osg::NullFC) {
-        drawPhotograph(gl, viewport, uber->getPhotograph(), frame, textures);
+    if (hasPhotograph(viewport)) {
+        drawPhotograph(gl, viewport, 1.f, frame, textures);
     }
     gl.glColorMaski(1, GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
 }
 
-void BackgroundPainter::drawPhotograph(Gl& gl, const osg::ViewportPtr& viewport,
-                                       const osg::ImagePtr& image, const BackgroundFrame& frame,
-                                       GpuTextures& textures)
+void BackgroundPainter::drawVeil(Gl& gl, const osg::ViewportPtr& viewport,
+                                 const BackgroundFrame& frame, GpuTextures& textures)
+{
+    if (!hasVeil(viewport)) {
+        return;
+    }
+    prepareState(gl);
+    const float veil = osg::UberViewportPtr::dcast(viewport)->getPhotographVeil();
+    gl.glColorMaski(1, GL_FALSE, GL_FALSE, GL_FALSE, GL_FALSE);
+    gl.glBindVertexArray(frame.emptyArray);
+    drawPhotograph(gl, viewport, std::min(veil, 1.f), frame, textures);
+    gl.glColorMaski(1, GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
+}
+
+bool BackgroundPainter::hasPhotograph(const osg::ViewportPtr& viewport)
+{
+    const auto uber = osg::UberViewportPtr::dcast(viewport);
+    return uber != osg::NullFC && uber->getPhotograph() != osg::NullFC;
+}
+
+bool BackgroundPainter::hasVeil(const osg::ViewportPtr& viewport)
+{
+    return hasPhotograph(viewport) &&
+        osg::UberViewportPtr::dcast(viewport)->getPhotographVeil() > 0.f;
+}
+
+void BackgroundPainter::drawPhotograph(Gl& gl, const osg::ViewportPtr& viewport, float opacity,
+                                       const BackgroundFrame& frame, GpuTextures& textures)
 {
     if (!isTried) {
         isTried = true;
@@ -104,6 +132,7 @@ void BackgroundPainter::drawPhotograph(Gl& gl, const osg::ViewportPtr& viewport,
             nbLog::error("the program for photographs does not compile on this driver: " + error);
         }
     }
+    const osg::ImagePtr image = osg::UberViewportPtr::dcast(viewport)->getPhotograph();
     const GLuint texture = textures.get(gl, image, false).name;
     if (!photograph.isUsable() || texture == 0) {
         return;
@@ -118,11 +147,12 @@ void BackgroundPainter::drawPhotograph(Gl& gl, const osg::ViewportPtr& viewport,
                    fit.height);
     photograph.set(gl, "viewSize", static_cast<float>(frame.widthPx),
                    static_cast<float>(frame.heightPx));
+    photograph.set(gl, "opacity", opacity);
     gl.glActiveTexture(GL_TEXTURE0);
     gl.glBindTexture(GL_TEXTURE_2D, texture);
     gl.glBindSampler(0, textures.getSampler(gl, false, false));
     gl.glEnable(GL_BLEND);
-    gl.glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
+    gl.glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ZERO, GL_ONE);
     gl.glDrawArrays(GL_TRIANGLES, 0, 3);
     gl.glDisable(GL_BLEND);
     gl.glBindSampler(0, 0);

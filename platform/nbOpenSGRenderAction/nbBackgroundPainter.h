@@ -29,12 +29,21 @@ public:
     void draw(Gl& gl, const osg::ViewportPtr& viewport, const BackgroundFrame& frame,
               ShaderPrograms& programs, GpuTextures& textures);
 
+    /// Draws the photograph once more, over the scene, as far as the viewport's veil says.
+    void drawVeil(Gl& gl, const osg::ViewportPtr& viewport, const BackgroundFrame& frame,
+                  GpuTextures& textures);
+
+    /// Whether a viewport has a photograph, and one that covers the scene.
+    static bool hasPhotograph(const osg::ViewportPtr& viewport);
+    static bool hasVeil(const osg::ViewportPtr& viewport);
+
     void release(Gl& gl);
 
     void forget() { *this = BackgroundPainter(); }
 
 private:
-    void drawPhotograph(Gl& gl, const osg::ViewportPtr& viewport, const osg::ImagePtr& image,
+    /// @param opacity  0 .. 1
+    void drawPhotograph(Gl& gl, const osg::ViewportPtr& viewport, float opacity,
                         const BackgroundFrame& frame, GpuTextures& textures);
 
     GlProgram photograph;

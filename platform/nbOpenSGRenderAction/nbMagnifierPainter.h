@@ -7,7 +7,7 @@
 
 namespace nbrender {
 
-/// Draws the lens of nbMagnifierRenderer over a finished picture of the main render widget.
+/// Draws the lens of nbMagnifierRenderer over the pictures of the main render widget.
 ///
 /// The lens is a disc about the cursor's pixel, whose middle stays in its place, with a rim that is
 /// seen on any ground. Within it every pixel of the picture is a square, as large as the scale is,
@@ -24,12 +24,16 @@ public:
     /// Whether a viewport is that of the main render widget and its magnifier is shown.
     static bool isShown(const osg::ViewportPtr& viewport);
 
-    /// Draws into the bound framebuffer, in which the picture lies from its lower left corner on.
-    /// @param picture     texture with the finished picture, widthPx x heightPx
+    /// Keeps what the lens shows of a picture, until draw().
+    /// @param picture  framebuffer that holds it from its lower left corner on, widthPx x heightPx,
+    ///                 in its first buffer
+    void keep(Gl& gl, GLuint picture, int widthPx, int heightPx, float pixelRatio);
+
+    /// Draws into the bound framebuffer, in which a picture of the size that keep() was given lies
+    /// from its lower left corner on.
     /// @param pixelRatio  device pixels per logical pixel
     /// @param emptyArray  vertex array of programs that have no attributes
-    void draw(Gl& gl, GLuint picture, int widthPx, int heightPx, float pixelRatio,
-              GLuint emptyArray);
+    void draw(Gl& gl, float pixelRatio, GLuint emptyArray);
 
     void release(Gl& gl);
 
@@ -38,6 +42,13 @@ public:
 private:
     GlProgram lens;
     bool isTried = false;
+    GLuint texture = 0;
+    // What is kept: a part of the picture, y up.
+    int originX = 0;
+    int originY = 0;
+    int keptWidth = 0;
+    int keptHeight = 0;
+    int pictureHeight = 0;
 };
 
 }  // namespace nbrender

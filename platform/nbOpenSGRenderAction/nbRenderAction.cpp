@@ -24,6 +24,7 @@ constexpr int kDefaultSamples = 8;
 /// frames.
 constexpr unsigned int kFramesPerCollection = 64;
 
+using nbrender::BackgroundFrame;
 using nbrender::DepthLayout;
 using nbrender::FrameTargets;
 using nbrender::FrameView;
@@ -132,7 +133,13 @@ struct nbRenderAction::Impl
     bool prepareContext(std::string& error);
     void forgetContext();
     void clear();
-    void drawScene(const osg::ViewportPtr& viewport, int widthPx, int heightPx);
+    bool bindTargets(int widthPx, int heightPx, std::string& error);
+    void drawFrame(const osg::ViewportPtr& viewport, int widthPx, int heightPx, Items which);
+    FrameView prepareView(const osg::ViewportPtr& viewport, int widthPx, int heightPx);
+    void drawScene(const osg::ViewportPtr& viewport, const FrameView& view,
+                   const BackgroundFrame& behind);
+    bool isLensShown(const osg::ViewportPtr& viewport) const;
+    void keepForLens(int widthPx, int heightPx);
     void present(const osg::ViewportPtr& viewport, int widthPx, int heightPx,
                  osg::UInt32 targetFramebuffer);
     void drawItems(const FrameView& view, const std::vector<osg::UInt32>& order, Items which);
@@ -216,7 +223,29 @@ void nbRenderAction::Impl::clear()
     gl->glClearBufferfv(GL_DEPTH, 0, &farthest);
 }
 
-void nbRenderAction::Impl::drawScene(const osg::ViewportPtr& viewport, int widthPx, int heightPx)
+void nbRenderAction::Impl::drawFrame(const osg::ViewportPtr& viewport, int widthPx, int heightPx,
+                                     Items which)
+{
+    gl->glViewport(0, 0, widthPx, heightPx);
+    clear();
+    const BackgroundFrame behind { widthPx, heightPx, shiftX, shiftY, emptyArray };
+    background.draw(*gl, viewport, behind, programs, textures);
+    statistics.items = 0;
+    statistics.drawn = 0;
+    if (viewport == osg::NullFC || viewport->getCamera() == osg::NullFC) {
+        return;
+    }
+    const FrameView view = prepareView(viewport, widthPx, heightPx);
+    if (which == Items::Handles) {
+        drawItems(view, list.getOrder(view.viewFromWorld), which);
+    } else {
+        drawScene(viewport, view, behind);
+    }
+    statistics.items = list.getItems().size();
+}
+
+FrameView nbRenderAction::Impl::prepareView(const osg::ViewportPtr& viewport, int widthPx,
+                                            int heightPx)
 {
     const osg::CameraPtr camera = viewport->getCamera();
     if (list.update(viewport->getRoot())) {
@@ -235,19 +264,25 @@ void nbRenderAction::Impl::drawScene(const osg::ViewportPtr& viewport, int width
     view.clipFromView = depth.project(usual, camera->getNear(), camera->getFar());
     const DepthSpan span = handleSpan(list, view);
     view.handleClipFromView = depth.project(usual, span.nearest, span.farthest);
+    return view;
+}
 
-    const nbrender::PlateFrame plateFrame { widthPx, heightPx, pixelRatio, shiftX, shiftY };
+void nbRenderAction::Impl::drawScene(const osg::ViewportPtr& viewport, const FrameView& view,
+                                     const BackgroundFrame& behind)
+{
+    const nbrender::PlateFrame plateFrame { behind.widthPx, behind.heightPx, pixelRatio, shiftX,
+                                            shiftY };
     plates.update(viewport->getRoot());
     plates.drawBack(*gl, plateFrame, emptyArray);
     const std::vector<osg::UInt32>& order = list.getOrder(view.viewFromWorld);
-    if (plates.hasFront()) {
+    if (plates.hasFront() || nbrender::BackgroundPainter::hasVeil(viewport)) {
         drawItems(view, order, Items::Scene);
+        background.drawVeil(*gl, viewport, behind, textures);
         plates.drawFront(*gl, plateFrame, emptyArray);
         drawItems(view, order, Items::Handles);
     } else {
         drawItems(view, order, Items::All);
     }
-    statistics.items = list.getItems().size();
 }
 
 void nbRenderAction::Impl::drawItems(const FrameView& view, const std::vector<osg::UInt32>& order,
@@ -268,11 +303,32 @@ void nbRenderAction::Impl::drawItems(const FrameView& view, const std::vector<os
     depth.leave();
 }
 
+bool nbRenderAction::Impl::bindTargets(int widthPx, int heightPx, std::string& error)
+{
+    return targets.bind(*gl, widthPx, heightPx, samples, depth.getFormat(), error);
+}
+
+bool nbRenderAction::Impl::isLensShown(const osg::ViewportPtr& viewport) const
+{
+    return !effectShown && nbrender::MagnifierPainter::isShown(viewport);
+}
+
+void nbRenderAction::Impl::keepForLens(int widthPx, int heightPx)
+{
+    targets.resolve(*gl, FrameTargets::Buffer::Color);
+    magnifier.keep(*gl, targets.getResolved(), widthPx, heightPx, pixelRatio);
+}
+
 void nbRenderAction::Impl::present(const osg::ViewportPtr& viewport, int widthPx, int heightPx,
                                    osg::UInt32 targetFramebuffer)
 {
     const auto shown = effectShown ? FrameTargets::Buffer::Effect : FrameTargets::Buffer::Color;
-    targets.resolve(*gl, shown);
+    const bool isLens = isLensShown(viewport);
+    if (isLens && !nbrender::BackgroundPainter::hasPhotograph(viewport)) {
+        keepForLens(widthPx, heightPx);
+    } else {
+        targets.resolve(*gl, shown);
+    }
     gl->glBindFramebuffer(GL_FRAMEBUFFER, targetFramebuffer);
     gl->glViewport(0, 0, widthPx, heightPx);
     gl->glDisable(GL_DEPTH_TEST);
@@ -283,8 +339,8 @@ void nbRenderAction::Impl::present(const osg::ViewportPtr& viewport, int widthPx
     gl->glBindTexture(GL_TEXTURE_2D, targets.getTexture(shown));
     gl->glBindVertexArray(emptyArray);
     gl->glDrawArrays(GL_TRIANGLES, 0, 3);
-    if (nbrender::MagnifierPainter::isShown(viewport)) {
-        magnifier.draw(*gl, targets.getTexture(shown), widthPx, heightPx, pixelRatio, emptyArray);
+    if (isLens) {
+        magnifier.draw(*gl, pixelRatio, emptyArray);
     }
     gl->glBindTexture(GL_TEXTURE_2D, 0);
     gl->glBindVertexArray(0);
@@ -335,22 +391,16 @@ bool nbRenderAction::render(const osg::ViewportPtr& viewport, int widthPx, int h
         return false;
     }
     std::string error;
-    if (!impl->prepareContext(error) ||
-        !impl->targets.bind(*impl->gl, widthPx, heightPx, impl->samples, impl->depth.getFormat(),
-                            error)) {
+    if (!impl->prepareContext(error) || !impl->bindTargets(widthPx, heightPx, error)) {
         return impl->fail(error);
     }
     impl->lastFailure.clear();
-    impl->gl->glViewport(0, 0, widthPx, heightPx);
-    impl->clear();
-    impl->background.draw(*impl->gl, viewport,
-                          { widthPx, heightPx, impl->shiftX, impl->shiftY, impl->emptyArray },
-                          impl->programs, impl->textures);
-    impl->statistics.items = 0;
-    impl->statistics.drawn = 0;
-    if (viewport != osg::NullFC && viewport->getCamera() != osg::NullFC) {
-        impl->drawScene(viewport, widthPx, heightPx);
+    if (impl->isLensShown(viewport) && nbrender::BackgroundPainter::hasPhotograph(viewport)) {
+        impl->drawFrame(viewport, widthPx, heightPx, Items::Handles);
+        impl->keepForLens(widthPx, heightPx);
+        impl->bindTargets(widthPx, heightPx, error);
     }
+    impl->drawFrame(viewport, widthPx, heightPx, Items::All);
     impl->present(viewport, widthPx, heightPx, targetFramebuffer);
     impl->collect();
     return true;

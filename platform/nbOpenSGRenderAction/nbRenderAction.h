@@ -42,9 +42,12 @@
 /// and its items are drawn in plain colour.
 ///
 /// The background is the gradient of an UberViewport, or the colour of a SolidBackground, or black,
-/// and over it the UberViewport's photograph. Over pictures of the main render widget lies the lens
-/// of nbMagnifierRenderer while that is shown; the buffers that can be read do not have it. Of an
-/// UberCamera, near and far are set to enclose the scene and handles around it.
+/// and over it the UberViewport's photograph, which can also cover the scene as a veil below the
+/// handles. Of an UberCamera, near and far are set to enclose the scene and handles around it.
+///
+/// Over pictures of the main render widget lies the lens of nbMagnifierRenderer while that is
+/// shown; the buffers that can be read do not have it. It enlarges the picture or, if there is a
+/// photograph, that and the handles without the scene, which could hide what is to be seen.
 ///
 /// Scene plates (see osg::Sceneplate) lie over the background before the scene, or over the scene
 /// below the handles; where there are plates of the latter kind, all handles are drawn after all of

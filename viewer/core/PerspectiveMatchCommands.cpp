@@ -46,6 +46,21 @@ public:
         });
     }
 
+    void addNumber(const char* name, double least, double most,
+                   std::function<bool(double number, QString& error)> run)
+    {
+        commands.add(
+            full(name),
+            [least, most, run = std::move(run)](const QJsonValue& value, QString& error) {
+                const double number = value.toDouble();
+                if (!value.isDouble() || !(number >= least && number <= most)) {
+                    error = QStringLiteral("expected a number from %1 to %2").arg(least).arg(most);
+                    return false;
+                }
+                return run(number, error);
+            });
+    }
+
     /// A choice of words; the command gets the place of the word.
     template <std::size_t size>
     void addChoice(const char* name, const std::array<const char*, size>& words,
@@ -132,6 +147,10 @@ void addModes(CommandTable& table, PerspectiveMatchTool& tool, Stage& stage)
         const QString file = value.toString();
         return tool.setPhotograph(file.isEmpty() ? file : stage.commands().filePath(file), error);
     });
+    table.addNumber("setVeil", 0.0, 1.0, [&tool](double opacity, QString&) {
+        tool.setVeil(opacity);
+        return true;
+    });
     table.addSwitch("setActive", [&tool, &stage](bool on, QString& error) {
         if (on && stage.pose().orthographic) {
             error = QStringLiteral("an orthographic view cannot be matched: switch to perspective");
@@ -162,15 +181,12 @@ void addEdits(CommandTable& table, PerspectiveMatchTool& tool)
         const auto mode = static_cast<nbCameraTypes::FovMode>(choice);
         return tool.edit([mode, &tool](const auto&) { tool.camera().setFovMode(mode); }, error);
     });
-    table.add("setMagnifyFactor", [&tool](const QJsonValue& value, QString& error) {
-        const double factor = value.toDouble();
-        if (!(factor >= static_cast<double>(nbdPerspectiveMatch::kSmallestMagnifyFactor) &&
-              factor <= static_cast<double>(nbdPerspectiveMatch::kLargestMagnifyFactor))) {
-            error = QStringLiteral("expected a number from 1 to 32");
-            return false;
-        }
-        return tool.setMagnifyFactor(static_cast<float>(factor), error);
-    });
+    table.addNumber("setMagnifyFactor",
+                    static_cast<double>(nbdPerspectiveMatch::kSmallestMagnifyFactor),
+                    static_cast<double>(nbdPerspectiveMatch::kLargestMagnifyFactor),
+                    [&tool](double factor, QString& error) {
+                        return tool.setMagnifyFactor(static_cast<float>(factor), error);
+                    });
     table.add("setLine", [&tool](const QJsonValue& value, QString& error) {
         int line = 0;
         QLineF ends;
@@ -190,6 +206,7 @@ void addValues(CommandTable& table, PerspectiveMatchTool& tool, Stage& stage)
 {
     const auto match = [&tool] { return tool.camera().getPerspectiveMatch(); };
     table.addValue("photograph", [&tool] { return tool.photograph(); });
+    table.addValue("veil", [&tool] { return tool.veil(); });
     table.addValue("active", [&tool] { return tool.isActive(); });
     table.addValue("linesShown", [&tool] { return tool.areLinesShown(); });
     table.addValue("locked", [&tool] { return tool.camera().isLocked(); });

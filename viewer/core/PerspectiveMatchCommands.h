@@ -22,6 +22,7 @@ constexpr std::array<const char*, 2> kFovModeNames { "solved", "fixed" };
 /// | command | value |
 /// |---|---|
 /// | setPhotograph | file name, "" for none |
+/// | setVeil | how much the photograph covers the models in match mode, 0 to 1 |
 /// | setActive, showLines, setLocked | true or false |
 /// | setLinesType | "xyz", "xy", "xz" or "yz" |
 /// | setFovMode | "solved" or "fixed" |
@@ -29,7 +30,7 @@ constexpr std::array<const char*, 2> kFovModeNames { "solved", "fixed" };
 /// | setLine | {"line": "x1", "ends": [x1, y1, x2, y2]}, reference sizes from the lower left |
 /// | layLines, solve | none |
 ///
-/// Values: photograph, active, linesShown, locked, linesType, fovMode, magnifyFactor, lines,
+/// Values: photograph, veil, active, linesShown, locked, linesType, fovMode, magnifyFactor, lines,
 /// result, fov (degrees), and corners: the corners of the selected object's bounds as [x, y],
 /// device pixels from the upper left, in the order of x, then y, then z, small before large.
 void addPerspectiveMatchCommands(PerspectiveMatchTool& tool, Stage& stage);

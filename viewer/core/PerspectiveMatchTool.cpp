@@ -25,11 +25,38 @@ namespace {
 constexpr std::array<const char*, PerspectiveMatchTool::kLineCount> kLineNames { "x1", "x2", "y1",
                                                                                  "y2", "z1", "z2" };
 
-/// Parts of a line as the manipulator numbers them.
+/// Parts of a line, as the manipulator numbers them.
+constexpr osg::UInt32 kBody = 1;
 constexpr osg::UInt32 kFirstEnd = 2;
 constexpr osg::UInt32 kSecondEnd = 3;
-constexpr const char* kFirstEndSuffix = "a";
-constexpr const char* kSecondEndSuffix = "b";
+
+const char* suffixOf(osg::UInt32 part)
+{
+    return part == kFirstEnd ? "a" : part == kSecondEnd ? "b" : "";
+}
+
+std::string handleName(int line, osg::UInt32 part)
+{
+    return std::string(PerspectiveMatchTool::lineName(line)) + suffixOf(part);
+}
+
+struct HandleName
+{
+    int line = -1;  ///< none of that name
+    osg::UInt32 part = kBody;
+};
+
+HandleName read(const std::string& handle)
+{
+    for (int line = 0; line < PerspectiveMatchTool::kLineCount; ++line) {
+        for (const osg::UInt32 part : { kBody, kFirstEnd, kSecondEnd }) {
+            if (handle == handleName(line, part)) {
+                return { line, part };
+            }
+        }
+    }
+    return {};
+}
 
 QString translated(const char* text)
 {
@@ -97,6 +124,23 @@ bool PerspectiveMatchTool::setPhotograph(const QString& file, QString& error)
 QString PerspectiveMatchTool::photograph() const
 {
     return pictureName(stage.view().getUberViewport()->getPhotograph());
+}
+
+void PerspectiveMatchTool::setVeil(double opacity)
+{
+    photographVeil = opacity;
+    applyVeil();
+}
+
+void PerspectiveMatchTool::applyVeil()
+{
+    const osg::UberViewportPtr viewport = stage.view().getUberViewport();
+    const auto wanted = static_cast<float>(active ? photographVeil : 0.0);
+    if (viewport->getPhotographVeil() != wanted) {
+        const nbEdit edit(viewport, osg::UberViewport::PhotographVeilFieldMask);
+        viewport->setPhotographVeil(wanted);
+        stage.view().update();
+    }
 }
 
 // == The lines
@@ -176,6 +220,11 @@ int PerspectiveMatchTool::lineByName(const QString& word)
     return -1;
 }
 
+bool PerspectiveMatchTool::isHandle(const std::string& handle)
+{
+    return read(handle).line >= 0;
+}
+
 QString PerspectiveMatchTool::resultText() const
 {
     switch (camera().checkPerspectiveMatch()) {
@@ -202,6 +251,7 @@ QString PerspectiveMatchTool::resultText() const
 void PerspectiveMatchTool::activate()
 {
     active = true;
+    applyVeil();
     if (!linesLaid) {
         const nbScopedUndo muted(false);
         camera().layLinesAsSeen();
@@ -216,6 +266,7 @@ void PerspectiveMatchTool::deactivate()
 {
     leavePointer();
     active = false;
+    applyVeil();
 }
 
 void PerspectiveMatchTool::takePointer()
@@ -236,6 +287,7 @@ void PerspectiveMatchTool::sceneCleared()
 {
     QString none;
     setPhotograph({}, none);
+    setVeil(kUsualVeil);
     showLines(true);
     const nbScopedUndo muted(false);
     const nbdPerspectiveMatch match = camera().getPerspectiveMatch();
@@ -259,8 +311,7 @@ void PerspectiveMatchTool::update()
 {
     if (cameraMoved) {
         cameraMoved = false;
-        // The same pose, so that all who follow the camera are told.
-        stage.setPose(stage.pose());
+        stage.cameraMoved();
     }
 }
 
@@ -278,39 +329,26 @@ std::string PerspectiveMatchTool::hoveredHandle()
 {
     const auto line = static_cast<int>(manipulator.getHoveredLine()) - 1;
     const osg::UInt32 part = manipulator.getHoveredPart();
-    if (!active || line < 0 || part == 0) {
-        return {};
-    }
-    const std::string suffix = part == kFirstEnd ? kFirstEndSuffix
-        : part == kSecondEnd                     ? kSecondEndSuffix
-                                                 : "";
-    return lineName(line) + suffix;
+    return active && line >= 0 && part != 0 ? handleName(line, part) : std::string();
 }
 
 bool PerspectiveMatchTool::findHandle(const std::string& handle, osg::Pnt2f& px)
 {
-    const QString word = QString::fromStdString(handle);
-    const int line = lineByName(word.left(2));
-    const QString suffix = word.mid(2);
-    if (!active || !linesShown || line < 0) {
+    const HandleName name = read(handle);
+    if (!active || !linesShown || name.line < 0) {
         return false;
     }
-    const QLineF place = camera().getPerspectiveMatch().getLine(lineOf(line));
-    QPointF point = place.center();
-    if (suffix == QLatin1String(kFirstEndSuffix)) {
-        point = place.p1();
-    } else if (suffix == QLatin1String(kSecondEndSuffix)) {
-        point = place.p2();
-    } else if (!suffix.isEmpty()) {
-        return false;
-    }
+    const QLineF line = camera().getPerspectiveMatch().getLine(lineOf(name.line));
+    const QPointF place = name.part == kFirstEnd ? line.p1()
+        : name.part == kSecondEnd                ? line.p2()
+                                                 : line.center();
     const nbOSGWidget& view = stage.view();
     const int width = view.getWidth();
     const int height = view.getHeight();
     const int reference =
         nbCameraUtils::getVerticalSizing(view.getCamera(), width, height) ? height : width;
-    px = osg::Pnt2f(static_cast<float>(point.x() * reference),
-                    static_cast<float>(height - point.y() * reference));
+    px = osg::Pnt2f(static_cast<float>(place.x() * reference),
+                    static_cast<float>(height - place.y() * reference));
     return true;
 }
 

@@ -29,6 +29,7 @@ class Stage;
 class PerspectiveMatchTool : public StageTool
 {
 public:
+    static constexpr double kUsualVeil = 0.4;
     static constexpr int kLineCount = nbdPerspectiveMatch::kLineCount;
 
     /// @param targetStage  where this is added as a tool; outlives this
@@ -45,6 +46,13 @@ public:
     bool setPhotograph(const QString& file, QString& error);
     /// Its name without folder, "" for none.
     QString photograph() const;
+
+    /// How much the photograph also covers the models while this is active, so that its edges are
+    /// seen through them.
+    double veil() const { return photographVeil; }
+
+    /// @param opacity  0 .. 1
+    void setVeil(double opacity);
 
     // == The lines
 
@@ -71,6 +79,9 @@ public:
     /// @return -1 for an unknown word
     static int lineByName(const QString& word);
 
+    /// Whether a name is that of a line or of an end of one, such as "x1" or "z2b".
+    static bool isHandle(const std::string& handle);
+
     /// What the lines say about the camera, one line for a person.
     QString resultText() const;
 
@@ -94,6 +105,7 @@ private:
     void follow(const nbdObject& object, const QByteArray& property);
     void takePointer();
     void leavePointer();
+    void applyVeil();
     bool isRefused(QString& error) const;
 
     Stage& stage;
@@ -101,6 +113,7 @@ private:
     nbec::manipulator::PerspectiveMatchManipulator manipulator;
     DragContext context;
     QObject listener;
+    double photographVeil = kUsualVeil;
     bool active = false;
     bool linesShown = true;
     bool linesLaid = false;

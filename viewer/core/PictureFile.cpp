@@ -47,7 +47,8 @@ QString pictureFileFilter()
     for (const QByteArray& format : QImageReader::supportedImageFormats()) {
         patterns.append(QStringLiteral("*.") + QString::fromLatin1(format));
     }
-    return QCoreApplication::translate("viewer", "Pictures (%1)").arg(patterns.join(QLatin1Char(' ')));
+    return QCoreApplication::translate("viewer", "Pictures (%1)")
+        .arg(patterns.join(QLatin1Char(' ')));
 }
 
 }  // namespace viewer

@@ -17,6 +17,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalBlocker>
+#include <QSlider>
 
 namespace viewer {
 namespace {
@@ -25,6 +26,7 @@ namespace {
 constexpr double kMostCoordinate = 100.0;
 constexpr int kDecimals = 4;
 constexpr double kStep = 0.001;
+constexpr int kPercent = 100;
 
 template <std::size_t size>
 QStringList listOf(const std::array<const char*, size>& words)
@@ -40,6 +42,12 @@ void display(QCheckBox* box, bool on)
 {
     const QSignalBlocker blocker(box);
     box->setChecked(on);
+}
+
+void display(QSlider* slider, int value)
+{
+    const QSignalBlocker blocker(slider);
+    slider->setValue(value);
 }
 
 void display(QComboBox* box, int index)
@@ -124,6 +132,14 @@ void PerspectiveMatchPanel::addPhotograph(QFormLayout& form)
     connect(open, &QPushButton::clicked, this, &PerspectiveMatchPanel::askForPhotograph);
     connect(remove, &QPushButton::clicked, this,
             [this] { run(QStringLiteral("match.setPhotograph"), QString()); });
+    veil = new QSlider(Qt::Horizontal, this);
+    veil->setObjectName(QStringLiteral("matchVeil"));
+    veil->setFocusPolicy(Qt::NoFocus);
+    veil->setRange(0, kPercent);
+    form.addRow(tr("Over the models"), veil);
+    connect(veil, &QSlider::valueChanged, this, [this](int value) {
+        run(QStringLiteral("match.setVeil"), static_cast<double>(value) / kPercent);
+    });
 }
 
 QCheckBox* PerspectiveMatchPanel::addSwitch(QFormLayout& form, const char* name,
@@ -232,6 +248,7 @@ void PerspectiveMatchPanel::refresh()
     const QString name = tool.photograph();
     display(photograph, name.isEmpty() ? tr("none") : name);
     remove->setEnabled(!name.isEmpty());
+    display(veil, qRound(tool.veil() * kPercent));
     display(active, tool.isActive());
     display(linesShown, tool.areLinesShown());
     display(locked, camera.isLocked());

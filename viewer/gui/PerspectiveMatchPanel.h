@@ -13,6 +13,7 @@ class QFormLayout;
 class QGridLayout;
 class QLabel;
 class QPushButton;
+class QSlider;
 
 namespace viewer {
 
@@ -47,6 +48,7 @@ private:
     PerspectiveMatchTool tool;
     QLabel* photograph = nullptr;
     QPushButton* remove = nullptr;
+    QSlider* veil = nullptr;
     QCheckBox* active = nullptr;
     QCheckBox* linesShown = nullptr;
     QCheckBox* locked = nullptr;

@@ -39,8 +39,10 @@ bool isPlaceNearlySame(const CameraPose& a, const CameraPose& b)
 {
     constexpr osg::Real32 kRounding = 1e-5f;
     const osg::Real32 size = std::max({ a.from.dist(a.at), a.from.subZero().length(), 1.f });
+    // The up vector of a camera that was not placed by its match is any that gives the same axis.
+    const osg::Vec3f turn = nbCameraNavigation::axes(a).up - nbCameraNavigation::axes(b).up;
     return a.from.dist(b.from) <= kRounding * size && a.at.dist(b.at) <= kRounding * size &&
-        (a.up - b.up).length() <= kRounding * std::max(a.up.length(), 1.f) &&
+        turn.length() <= kRounding &&
         std::abs(a.fovDeg - b.fovDeg) <= kRounding * a.fovDeg;
 }
 
@@ -114,11 +116,12 @@ public:
         if (camera == osg::NullFC) {
             return false;
         }
-        stateAfter = MatchTable::of(camera);
-        isStateChanged = !stateBefore.isSame(stateAfter);
-        if (isGrouped && !isStateChanged && isPlaceNearlySame(poseBefore, camera->getPose())) {
-            place(camera, poseBefore);
+        MatchState& state = MatchTable::of(camera);
+        if (isGrouped && stateBefore.isSameInSinglePrecision(state)) {
+            takeRoundingBack(camera, state);
         }
+        stateAfter = state;
+        isStateChanged = !stateBefore.isSame(stateAfter);
         poseAfter = camera->getPose();
         isPlaceChanged = !isPlaceSame(poseBefore, poseAfter);
         return isStateChanged || isPlaceChanged || !isGrouped;
@@ -129,6 +132,15 @@ public:
     void redo() override { restore(stateAfter, poseAfter); }
 
 private:
+    /// After a drag that led the lines back to where they were.
+    void takeRoundingBack(const osg::UberCameraPtr& camera, MatchState& state) const
+    {
+        state.lines = stateBefore.lines;
+        if (isPlaceNearlySame(poseBefore, camera->getPose())) {
+            place(camera, poseBefore);
+        }
+    }
+
     void restore(const MatchState& state, const CameraPose& pose) const
     {
         const osg::UberCameraPtr camera = nbUberCameraPool::get(cameraId);

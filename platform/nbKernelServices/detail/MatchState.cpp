@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "MatchState.h"
 
+#include <nbKernelServices/nbQRPCConverter.h>
 #include <nbOpenSGUberCamera/nbUberCameraPool.h>
 
 #include <cmath>
@@ -54,6 +55,19 @@ bool MatchState::isSame(const MatchState& other) const
     }
     return type == other.type && magnifyFactor == other.magnifyFactor && fovMode == other.fovMode &&
         anchoredToCentre == other.anchoredToCentre;
+}
+
+bool MatchState::isSameInSinglePrecision(const MatchState& other) const
+{
+    const auto rounded = [](const MatchState& state) {
+        MatchState result = state;
+        for (QLineF& line : result.lines) {
+            line = nbQRPCConverter::fromLine2D(nbQRPCConverter::toLine2D(line));
+        }
+        return result;
+    };
+    return shape.width == other.shape.width && shape.height == other.shape.height &&
+        rounded(*this).isSame(rounded(other));
 }
 
 void MatchState::settle(const ViewShape& now)

@@ -37,6 +37,10 @@ struct MatchState
     /// Whether all that a person sets is the same, bit for bit.
     bool isSame(const MatchState& other) const;
 
+    /// The same, but for what is lost of the lines on their way through single precision; in views
+    /// of different shapes never.
+    bool isSameInSinglePrecision(const MatchState& other) const;
+
     /// Brings lines that are anchored to the centre in line with the view as it is now.
     void settle(const ViewShape& now);
 };

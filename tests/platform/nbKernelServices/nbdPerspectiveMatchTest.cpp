@@ -147,6 +147,8 @@ TEST_F(nbdPerspectiveMatchTest, KeepsWhatIsSetAndAnnouncesChangesOnce)
     node.setLocked(true);
 
     EXPECT_TRUE(isSameLine(match.getYLine2(), line));
+    match.setYLine2(nbQRPCConverter::fromLine2D(nbQRPCConverter::toLine2D(line)));
+    EXPECT_TRUE(isSameLine(match.getYLine2(), line)) << "the way through single precision";
     EXPECT_EQ(match.getVanishingLinesType(), nbCameraTypes::YZLines);
     EXPECT_EQ(match.getMagnifyFactor(), nbdPerspectiveMatch::kLargestMagnifyFactor);
     EXPECT_TRUE(node.isLocked());

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Cases: where a photograph lies in views of several shapes; a photograph of what the camera shows
-// lies exactly over it; transparent parts; edits; the magnifier shows pixels as squares about the
-// cursor, at the edges, and only in the main view.
+// lies exactly over it; transparent parts; edits; a veil over the scene, below handles; the
+// magnifier shows pixels as squares about the cursor, at the edges, and only in the main view; it
+// looks through the scene at a photograph.
 #include <nbKernel/nbOSGWidget.h>
 #include <nbKernel/nbScenegraph.h>
 #include <nbMagnifier/nbMagnifierRenderer.h>
@@ -140,6 +141,34 @@ TEST_F(nbRenderPhotographTest, APictureTakenThroughTheCameraLiesOverWhatItShows)
     for (int x = 0; x < 250; ++x) {
         ASSERT_LE(difference(seen.pixelColor(x, 100), taken.pixelColor(x + 25, 100)), 3) << x;
     }
+}
+
+TEST_F(nbRenderPhotographTest, AVeilCoversTheSceneButNoHandles)
+{
+    nbScenegraph::getRootNode()->addChild(square(4.f, unlit(kRed)));
+    const osg::NodePtr handle = placed(square(1.f, unlit(kGreen)), osg::Vec3f(0.f, 1.f, 0.f));
+    nbScenegraph::getInternalRoot()->addChild(manipulator({ handle }));
+    QImage photograph(40, 40, QImage::Format_RGB32);
+    photograph.fill(kBlue);
+    show(photograph);
+    EXPECT_EQ(draw(200, 200).pixelColor(100, 120), kRed);
+
+    const nbEdit edit(widget.getViewport(), osg::UberViewport::PhotographVeilFieldMask);
+    widget.getUberViewport()->setPhotographVeil(0.25f);
+    const QImage picture = draw(200, 200);
+
+    EXPECT_LE(difference(picture.pixelColor(100, 120), QColor(191, 0, 64)), 3);
+    EXPECT_EQ(picture.pixelColor(100, 76), kGreen);
+    EXPECT_EQ(picture.pixelColor(20, 20), kBlue);
+
+    // Over the handle the lens shows it, beside it the photograph behind the scene.
+    nbMagnifierRenderer::setVisible(true);
+    nbMagnifierRenderer::setCursorPosition(100, 76);
+    nbMagnifierRenderer::setMagnificationScale(2.f);
+    const QImage magnified = draw(200, 200);
+    EXPECT_EQ(magnified.pixelColor(100, 76), kGreen);
+    EXPECT_LE(difference(magnified.pixelColor(100, 126), kBlue), 3);
+    EXPECT_EQ(magnified.pixelColor(100, 170), picture.pixelColor(100, 170));
 }
 
 TEST_F(nbRenderPhotographTest, TheMagnifierShowsPixelsAsSquaresAboutTheCursor)

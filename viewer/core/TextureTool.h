@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "viewer/core/DragContext.h"
+#include "viewer/core/StageTool.h"
+#include "viewer/core/TextureTarget.h"
+
+#include <nbInteraction/Picker.h>
+#include <nbInteraction/ToolInteractionContext.h>
+#include <nbMaterialEditor/nbMaterialPreview.h>
+#include <nbOpenSGUberMaterial/nbStateChunkBase.h>
+
+#include <OpenSG/OSGNode.h>
+#include <OpenSG/OSGVector.h>
+
+#include <string>
+
+#include <manipulator/PlanarTextureManipulator.h>
+#include <manipulator/nbPlanarProjectionVisualization.h>
+#include <modules/textureplacement/TexturePlacementPickTool.h>
+
+namespace viewer {
+
+class Stage;
+
+/// Puts pictures on the surface of the selected object: the gizmo of their projection, placing by
+/// clicks and by drops, and the display of the projection in the scene.
+///
+/// While this is active either the gizmo's handles are shown, or clicks place the picture. Gizmo
+/// and clicks reach the material through the editor of the platform, as in any host.
+class TextureTool : public StageTool, public nbStateChunkBase
+{
+public:
+    /// @param targetStage  where this is added as a tool; outlives this
+    explicit TextureTool(Stage& targetStage);
+    ~TextureTool() override;
+
+    // == What is edited
+
+    TextureTarget& target() { return textureTarget; }
+
+    const TextureTarget& target() const { return textureTarget; }
+
+    /// Why nothing can be put on the selection, one line; "" if something can.
+    QString hindrance() const;
+
+    /// Turns to another component of the material. @return false for one that is not shown
+    bool setComponent(const std::string& component);
+
+    /// Puts a picture file on the component. The first one comes to the side that faces the eye.
+    /// @return false with one line in `error`, nothing changed
+    bool setPicture(const QString& file, QString& error);
+
+    // == The pointer
+
+    /// Word of the handles shown: "translate", "rotate", "scale" or "universal".
+    const std::string& group() const { return shownGroup; }
+
+    /// Shows the handles of a group, and makes this the active tool. @return false for another word
+    bool showGroup(const std::string& word);
+
+    bool isActive() const { return active; }
+
+    bool isPlacing() const { return active && placing; }
+
+    /// Lets clicks place the picture, and makes this the active tool; or shows the handles again.
+    void setPlacing(bool on);
+
+    // == The projection in the scene, visible while this is active
+
+    bool isProjectionShown() const { return projectionShown; }
+
+    void showProjection(bool on);
+
+    bool isDepthShown() const { return depthShown; }
+
+    void showDepth(bool on);
+    float planeTransparency() const;
+    /// @param transparency  0 .. 1
+    void setPlaneTransparency(float transparency);
+
+    /// Paused while a handle is dragged.
+    nbMaterialPreview& preview() { return materialPreview; }
+
+    // == As a tool of the stage
+
+    const char* name() const override { return "texture"; }
+
+    void activate() override;
+    void deactivate() override;
+    void sceneCleared() override;
+    void selectionChanged() override;
+    void viewChanged() override;
+    void update() override;
+    void setPixelRatio(float ratio) override;
+    osg::NodePtr handles() override;
+    std::string hoveredHandle() override;
+    std::string handleAt(const osg::Pnt2f& px) override;
+    std::string draggedValues() const override;
+    /// Puts the picture where it was dropped, upright, and selects that object.
+    bool takePicture(const QString& file, const osg::Pnt2f& px, QString& error) override;
+
+    // == As the editor's object: the values were changed by a drag, a click, undo or redo
+
+    void componentChanged(const std::string& component) override;
+
+private:
+    /// The context of the placing tool: from press to release everything becomes one undo step.
+    class PlacingContext : public nbec::interaction::ToolInteractionContext
+    {
+    public:
+        bool triggerEvent(nbec::interaction::InteractionManager* manager,
+                          const nbec::interaction::InteractionEvent& event) override;
+
+    private:
+        DragGroup group;
+    };
+
+    /// Adopts what the target is now.
+    void refresh();
+    void connect();
+    void takePointer();
+    void leavePointer();
+    void applyGroup();
+    void showInScene();
+    ProjectionPose poseFacingTheEye(float aspect, float share) const;
+    /// @param normal  of the surface, world space
+    osg::Quaternion uprightOn(const osg::Vec3f& normal) const;
+
+    Stage& stage;
+    nbMaterialPreview materialPreview;
+    nbPlanarProjectionVisualization visualization;
+
+    nbec::interaction::Picker handlePicker;
+    nbec::interaction::Picker probe;  ///< for questions, so that the context's last hit stays
+    nbec::interaction::Picker scenePicker;
+    nbec::manipulator::PlanarTextureManipulator gizmo;
+    nbec::modules::textureplacement::TexturePlacementPickTool placingTool;
+    DragContext handleContext;
+    PlacingContext placingContext;
+
+    TextureTarget textureTarget;
+    std::string shownGroup = "universal";
+    bool active = false;
+    bool placing = false;
+    bool projectionShown = true;
+    bool depthShown = true;
+    osg::UInt64 shownStamp = 0;
+};
+
+}  // namespace viewer
