@@ -73,8 +73,8 @@ public:
 
     /// Sets the picture on the planes. The same image with the same flags again does nothing, even
     /// if its pixels have changed.
-    /// Deliberate: an image without alpha that is no mask shows no picture at all, and mipmaps are
-    /// built on the inverted path alone.
+    /// Deliberate: an image without alpha that is no mask shows no picture at all, and mipmaps (the
+    /// whole chain) are built on the inverted path alone.
     /// @param image   null for none; counted only while it is itself on the planes
     /// @param asMask  a copy's brightness covers the planes, instead of the image's own alpha
     /// @param invert  the mask is turned over; without asMask it means nothing

@@ -10,6 +10,7 @@
 #include <nbKernelServices/nbUndoService.h>
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QDockWidget>
 #include <QDoubleSpinBox>
 #include <QDropEvent>
@@ -112,6 +113,9 @@ TEST_F(MaterialPanelTest, ADroppedPictureIsSeenWhereItFellAndTheObjectKeepsItsCo
     EXPECT_EQ(recorded, "texture.drop");
     EXPECT_EQ(find<QLabel>("textureFile")->text(), "label.png");
     EXPECT_EQ(value("texture.handles"), QJsonValue("universal"));
+    find<QAction>("texture.edit")->trigger();
+    EXPECT_EQ(value("texture.edit"), QJsonValue(false));
+    EXPECT_EQ(stage().gizmo().shown(), Gizmo::Universal) << "the gizmo before is back";
 
     // Without handles and without the display of the projection.
     stage().showGizmo(Gizmo::None);

@@ -16,6 +16,7 @@ class TextureTool;
 ///   steps of sessions have it;
 /// - handles "translate", "rotate", "scale" or "universal": shows these; place BOOL: clicks place
 ///   the picture;
+/// - edit BOOL: gives the pointer to the tool or back; null: the other way round;
 /// - translation, rotation (degrees), scale [x, y, z] of the projection, in the object's space;
 /// - keepAspect, repeatU, repeatV, endInDepth, mask, invert BOOL;
 /// - showProjection, showDepth BOOL and planeTransparency 0 .. 1: the projection in the scene.

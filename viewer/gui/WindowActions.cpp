@@ -195,6 +195,8 @@ void WindowActions::addManipulatorMenu()
     editPlates = addCommand(menu, "plates.edit", tr("&Edit scene plates"), "Shift+P");
     editPlates->setCheckable(true);
     removePlates = addCommand(menu, "plates.remove", tr("&Delete scene plates"), "Del");
+    editPictures = addCommand(menu, "texture.edit", tr("Edit pict&ures on objects"), "Shift+T");
+    editPictures->setCheckable(true);
     menu->addSeparator();
     addTransformSettings(menu);
 }
@@ -322,6 +324,8 @@ void WindowActions::updateEditing()
     redo->setEnabled(stage.canRedo());
     undo->setText(titled(tr("&Undo"), stack->undoText()));
     redo->setText(titled(tr("&Redo"), stack->redoText()));
+    const auto arePicturesEdited = stage.commands().value(QStringLiteral("texture.edit"));
+    editPictures->setChecked(arePicturesEdited && arePicturesEdited->toBool());
     const bool isSelected = stage.selectedObject() != osg::NullFC;
     centerPivots->setEnabled(isSelected && !stage.isDragging());
     gizmoActions[Gizmo::Clipping]->setEnabled(stage.isClipPlaneSelected());

@@ -69,6 +69,7 @@ private:
     QAction* removeClipPlane = nullptr;
     QAction* editPlates = nullptr;
     QAction* removePlates = nullptr;
+    QAction* editPictures = nullptr;
     QMenu* stepsMenu = nullptr;
     StepsPanel* stepsPanel = nullptr;
     QAction* orthographic = nullptr;
