@@ -15,6 +15,13 @@ constexpr double kSizeLimit = 200.0;
 constexpr double kReference = 800.0;
 constexpr float kViewsPerDiagonal = 20.0F;
 
+/// What distances are divided by.
+double perspectiveDivisor(float fovDeg, float size)
+{
+    const double sizeFactor = (kSizeLimit - static_cast<double>(size)) / kSizeLimit;
+    return sizeFactor * kReference / static_cast<double>(fovDeg);
+}
+
 float diagonalOf(const osg::UberCameraPtr& camera, ViewDiagonal diagonal)
 {
     if (diagonal == ViewDiagonal::NearPlane) {
@@ -29,8 +36,7 @@ float diagonalOf(const osg::UberCameraPtr& camera, ViewDiagonal diagonal)
 
 float perspectiveScale(double distance, float fovDeg, float size)
 {
-    const double sizeFactor = (kSizeLimit - static_cast<double>(size)) / kSizeLimit;
-    return static_cast<float>(distance / (sizeFactor * kReference / static_cast<double>(fovDeg)));
+    return static_cast<float>(distance / perspectiveDivisor(fovDeg, size));
 }
 
 float orthographicScale(float diagonal)
@@ -38,16 +44,17 @@ float orthographicScale(float diagonal)
     return diagonal / kViewsPerDiagonal;
 }
 
-float screenScale(const osg::Pnt3f& anchor, float size, ViewDiagonal diagonal)
+ScreenScale::ScreenScale(float size, ViewDiagonal diagonal)
+    : eye(nbOSGWidget::getFrom(-1))
+    , divisor(perspectiveDivisor(nbOSGWidget::getFov(-1), size))
 {
     const nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1);
     const osg::UberCameraPtr camera =
         widget != nullptr ? widget->getUberCamera() : osg::UberCameraPtr();
-    if (camera != osg::NullFC && nbUberCameraUtils::isOrthographicCamera(camera)) {
-        return orthographicScale(diagonalOf(camera, diagonal));
+    isOrthographic = camera != osg::NullFC && nbUberCameraUtils::isOrthographicCamera(camera);
+    if (isOrthographic) {
+        factor = orthographicScale(diagonalOf(camera, diagonal));
     }
-    const double distance = anchor.dist(nbOSGWidget::getFrom(-1));
-    return perspectiveScale(distance, nbOSGWidget::getFov(-1), size);
 }
 
 }  // namespace nbec::manipulator::detail

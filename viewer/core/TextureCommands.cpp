@@ -147,11 +147,7 @@ bool TextureCommands::drop(const QJsonValue& value, QString& error)
         !resolveTarget(target, stage, px, error)) {
         return false;
     }
-    const bool isTaken = tool.takePicture(stage.commands().filePath(file), px, error);
-    if (!isTaken && error.isEmpty()) {
-        error = QStringLiteral("there is no object to drop \"%1\" on").arg(file);
-    }
-    return isTaken;
+    return tool.dropPicture(stage.commands().filePath(file), px, error);
 }
 
 void TextureCommands::addHandleCommands()

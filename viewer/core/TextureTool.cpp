@@ -16,6 +16,9 @@
 #include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
+#include <QJsonArray>
+#include <QJsonObject>
+
 #include <array>
 
 #include <EditStamp.h>
@@ -201,10 +204,11 @@ bool TextureTool::setPicture(const QString& file, QString& error)
     return true;
 }
 
-bool TextureTool::takePicture(const QString& file, const osg::Pnt2f& px, QString& error)
+bool TextureTool::dropPicture(const QString& file, const osg::Pnt2f& px, QString& error)
 {
     const osg::NodePtr part = scenePicker.pickAt(px);
     if (objectOf(part) == osg::NullFC) {
+        error = QStringLiteral("%1: there is no object to drop it on").arg(file);
         return false;
     }
     const osg::RefPtr<osg::ImagePtr> image = readPicture(file, error);
@@ -223,6 +227,16 @@ bool TextureTool::takePicture(const QString& file, const osg::Pnt2f& px, QString
     placing = false;
     stage.setActiveTool(this);
     return true;
+}
+
+bool TextureTool::takePicture(const QString& file, const osg::Pnt2f& px, QString& error)
+{
+    if (objectOf(scenePicker.pickAt(px)) == osg::NullFC) {
+        return false;
+    }
+    const QJsonArray place { static_cast<double>(px[0]), static_cast<double>(px[1]) };
+    return stage.commands().run(QStringLiteral("texture.drop"),
+                                QJsonObject { { "file", file }, { "at", place } }, error);
 }
 
 // == Connection with gizmo, editor and placing tool

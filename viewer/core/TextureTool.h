@@ -51,6 +51,10 @@ public:
     /// @return false with one line in `error`, nothing changed
     bool setPicture(const QString& file, QString& error);
 
+    /// Puts a picture file on what lies at a pixel, upright, selects that object and shows the
+    /// handles. @return false with one line in `error`; nothing changed
+    bool dropPicture(const QString& file, const osg::Pnt2f& px, QString& error);
+
     // == The pointer
 
     /// Word of the handles shown: "translate", "rotate", "scale" or "universal".
@@ -97,7 +101,7 @@ public:
     std::string hoveredHandle() override;
     std::string handleAt(const osg::Pnt2f& px) override;
     std::string draggedValues() const override;
-    /// Puts the picture where it was dropped, upright, and selects that object.
+    /// Takes what falls on an object, as the command "texture.drop", so that it is recorded.
     bool takePicture(const QString& file, const osg::Pnt2f& px, QString& error) override;
 
     // == As the editor's object: the values were changed by a drag, a click, undo or redo

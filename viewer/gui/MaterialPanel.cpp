@@ -314,7 +314,7 @@ void MaterialPanel::refreshPicture()
     // What nobody sees is drawn when it is shown.
     isPictureOld = !isVisible();
     if (!isPictureOld) {
-        picture->show(tool.target());
+        picture->display(tool.target());
     }
 }
 

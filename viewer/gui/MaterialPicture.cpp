@@ -50,7 +50,7 @@ void MaterialPicture::look(const osg::Vec3f& back, const osg::Vec3f& up, const o
     camera->setPose(nbCameraNavigation::frame(pose, low, high, 1.0F));
 }
 
-void MaterialPicture::show(const TextureTarget& target)
+void MaterialPicture::display(const TextureTarget& target)
 {
     drawn = QImage();
     const osg::NodePtr surface = target.surface();

@@ -24,7 +24,7 @@ public:
     explicit MaterialPicture(QWidget* parent = nullptr);
 
     /// Draws the surface as it is now; nothing for none. The picture stays until the next call.
-    void show(const TextureTarget& target);
+    void display(const TextureTarget& target);
     /// Whether the picture stands still for now; it is drawn paler then.
     void setPaused(bool on);
 

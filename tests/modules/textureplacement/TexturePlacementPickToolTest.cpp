@@ -6,6 +6,7 @@
 #include <nbInteraction/InteractionManager.h>
 #include <nbInteraction/ToolInteractionContext.h>
 #include <nbKernel/nbController.h>
+#include <nbOpenSGUberMaterial/nbStateChunkBase.h>
 
 #include <OpenSG/OSGSimpleMaterial.h>
 
@@ -194,9 +195,9 @@ TEST(TexturePlacementPickTool, KnowsItsMaterialAndComponentAndCopiesThem)
 {
     osg::RefPtr<osg::MaterialPtr> material(osg::SimpleMaterial::create());
     const osg::RefPtr<osg::MaterialPtr> other(osg::SimpleMaterial::create());
-    auto* const gui = reinterpret_cast<nbStateChunkBase*>(&material);
+    nbStateChunkBase editor;
     TexturePlacementPickTool tool;
-    tool.setMaterialComponent(material.get(), "diffuse", gui);
+    tool.setMaterialComponent(material.get(), "diffuse", &editor);
     tool.setDescriptionText("Click");
 
     TexturePlacementPickTool assigned;
@@ -207,7 +208,7 @@ TEST(TexturePlacementPickTool, KnowsItsMaterialAndComponentAndCopiesThem)
         EXPECT_TRUE(copy.isConnectedTo(material.get(), "diffuse"));
         EXPECT_FALSE(copy.isConnectedTo(material.get(), "transparency"));
         EXPECT_FALSE(copy.isConnectedTo(other.get(), "diffuse"));
-        EXPECT_EQ(gui, copy.getGUI());
+        EXPECT_EQ(&editor, copy.getGUI());
         copy.activateTool(nullptr);
         EXPECT_EQ("Click", copy.getDescription());
     }
