@@ -476,13 +476,6 @@ void Stage::edited()
     changed();
 }
 
-void Stage::cameraMoved()
-{
-    manager.cameraMoved(renderWidget.getUberCamera()->getInternalParentNode()->getToWorld());
-    viewChanged();
-    changed();
-}
-
 void Stage::setChangedCallback(std::function<void()> callback)
 {
     changedCallback = std::move(callback);

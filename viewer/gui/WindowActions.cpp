@@ -192,6 +192,8 @@ void WindowActions::addManipulatorMenu()
     addCommand(menu, "scene.addClipPlane", tr("Add cl&ip plane"), "Shift+X");
     removeClipPlane = addCommand(menu, "scene.removeClipPlane", tr("Remo&ve clip plane"), "");
     menu->addSeparator();
+    matchCamera = addCommand(menu, "match.setActive", tr("&Match a photograph"), "Shift+M");
+    matchCamera->setCheckable(true);
     editPlates = addCommand(menu, "plates.edit", tr("&Edit scene plates"), "Shift+P");
     editPlates->setCheckable(true);
     removePlates = addCommand(menu, "plates.remove", tr("&Delete scene plates"), "Del");
@@ -299,8 +301,11 @@ void WindowActions::update()
 
 void WindowActions::updateGizmos()
 {
-    const auto arePlatesEdited = stage.commands().value(QStringLiteral("plates.edit"));
-    editPlates->setChecked(arePlatesEdited && arePlatesEdited->toBool());
+    const auto isOn = [this](const char* value) {
+        return stage.commands().value(QLatin1String(value)).value_or(false).toBool();
+    };
+    matchCamera->setChecked(isOn("match.active"));
+    editPlates->setChecked(isOn("plates.edit"));
     removePlates->setEnabled(editPlates->isChecked());
     if (stage.activeTool() == nullptr) {
         gizmoActions[stage.gizmo().shown()]->setChecked(true);

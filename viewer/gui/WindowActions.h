@@ -67,6 +67,7 @@ private:
     QAction* snapping = nullptr;
     QAction* centerPivots = nullptr;
     QAction* removeClipPlane = nullptr;
+    QAction* matchCamera = nullptr;
     QAction* editPlates = nullptr;
     QAction* removePlates = nullptr;
     QAction* editPictures = nullptr;
