@@ -97,6 +97,7 @@ TEST(TextureDragMath, TheFrameHasAxesOfUnitLengthAlsoMirroredOnes)
     EXPECT_TRUE(Vec3f(frame[2][0], frame[2][1], frame[2][2]).equals(Vec3f(0, 0, -1), 1e-6F));
     EXPECT_TRUE(Vec3f(frame[3][0], frame[3][1], frame[3][2]).equals(Vec3f(7, 8, 9), 1e-6F));
 
+    matrix.setIdentity();
     matrix.setScale(Vec3f(1, 0, 1));
     EXPECT_NEAR(unitFrame(matrix, Pnt3f()).det3(), 1.0F, 1e-6F) << "an axis without length";
 }
