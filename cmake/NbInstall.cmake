@@ -21,6 +21,8 @@ install(DIRECTORY ${PROJECT_SOURCE_DIR}/manipulator DESTINATION ${NBM_HEADERS} C
         PATTERN "UniversalTransformManipulator2Drag.h" EXCLUDE
         PATTERN "UniversalTransformManipulator2Handles.h" EXCLUDE
         PATTERN "nbSceneplateManipulatorParts.h" EXCLUDE)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/modules DESTINATION ${NBM_HEADERS} COMPONENT development
+        FILES_MATCHING PATTERN "*.h")
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/platform/ DESTINATION ${NBM_HEADERS} COMPONENT development
         FILES_MATCHING PATTERN "*.h" PATTERN "detail" EXCLUDE)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/opensg/include/ ${PROJECT_SOURCE_DIR}/opensg/glue/

@@ -12,25 +12,12 @@ namespace {
 
 constexpr float kLineWidth = 2.0F;
 
-/// Takes over the reference with which the material functions return.
-osg::SimpleMaterialRefPtr adopt(osg::SimpleMaterialPtr material)
-{
-    osg::SimpleMaterialRefPtr held(material);
-    osg::subRefCP(material);
-    return held;
-}
-
 }  // namespace
 
 LineChunks makeLineChunks()
 {
     LineChunks chunks;
-    chunks.line = osg::LineChunk::create();
-    {
-        const EditBracket edit(chunks.line.get(), osg::FieldBits::AllFields);
-        chunks.line->setWidth(kLineWidth);
-        chunks.line->setSmooth(true);
-    }
+    chunks.line = makeLineChunk(kLineWidth);
     chunks.blend = osg::BlendChunk::create();
     {
         const EditBracket edit(chunks.blend.get(), osg::FieldBits::AllFields);
@@ -39,6 +26,15 @@ LineChunks makeLineChunks()
     }
     chunks.depth = makeAlwaysDepthChunk();
     return chunks;
+}
+
+osg::LineChunkPtr makeLineChunk(float widthPx)
+{
+    const osg::LineChunkPtr chunk = osg::LineChunk::create();
+    const EditBracket edit(chunk, osg::FieldBits::AllFields);
+    chunk->setWidth(widthPx);
+    chunk->setSmooth(true);
+    return chunk;
 }
 
 osg::DepthTestChunkPtr makeAlwaysDepthChunk()

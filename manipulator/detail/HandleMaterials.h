@@ -12,6 +12,15 @@
 
 namespace nbec::manipulator::detail {
 
+/// Takes over the reference with which the functions of nbManipulatorMaterials return.
+template <class MaterialPointer>
+osg::RefPtr<MaterialPointer> adopt(MaterialPointer material)
+{
+    osg::RefPtr<MaterialPointer> held(material);
+    osg::subRefCP(material);
+    return held;
+}
+
 /// The three state chunks that the line materials of one gizmo share.
 struct LineChunks
 {
@@ -21,6 +30,9 @@ struct LineChunks
 };
 
 LineChunks makeLineChunks();
+
+/// A chunk of smooth lines, count 0. @param widthPx  logical pixels
+osg::LineChunkPtr makeLineChunk(float widthPx);
 
 /// A depth-test chunk with function GL_ALWAYS, count 0.
 osg::DepthTestChunkPtr makeAlwaysDepthChunk();

@@ -108,4 +108,19 @@ void setGeometryMaterial(const osg::NodePtr& node, const osg::MaterialPtr& mater
     geometry->setMaterial(material);
 }
 
+osg::NodePtr makeSharingNode(const osg::GeometryPtr& prototype)
+{
+    const osg::GeometryPtr geometry = osg::Geometry::create();
+    {
+        const EditBracket edit(geometry, osg::FieldBits::AllFields);
+        geometry->setTypes(prototype->getTypes());
+        geometry->setLengths(prototype->getLengths());
+        geometry->setPositions(prototype->getPositions());
+        geometry->setNormals(prototype->getNormals());
+        geometry->setIndices(prototype->getIndices());
+        geometry->getIndexMapping() = prototype->getIndexMapping();
+    }
+    return makeNode(geometry);
+}
+
 }  // namespace nbec::manipulator::detail

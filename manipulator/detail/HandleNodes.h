@@ -3,7 +3,9 @@
 
 #include <nbOpenSGExt/Transform3D.h>
 
+#include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGMaterial.h>
+#include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGQuaternion.h>
 #include <OpenSG/OSGVector.h>
@@ -36,5 +38,9 @@ osg::NodePtr addChild(const osg::NodePtr& parent, const osg::NodePtr& child);
 /// Sets the material of a node's geometry core, inside an edit; a node without one, or one that has
 /// the material, is left alone.
 void setGeometryMaterial(const osg::NodePtr& node, const osg::MaterialPtr& material);
+
+/// A new node with a Geometry core of its own that shares all properties of another one, so that
+/// the two differ in material and visibility only. No material is set.
+osg::NodePtr makeSharingNode(const osg::GeometryPtr& prototype);
 
 }  // namespace nbec::manipulator::detail

@@ -232,18 +232,7 @@ osg::Vec3f eulerDegOf(Turn turn)
 
 osg::NodePtr makeShapeNode(HandleShape shape)
 {
-    const osg::GeometryPtr prototype = prototypeOf(shape);
-    const osg::GeometryPtr geometry = osg::Geometry::create();
-    {
-        const EditBracket edit(geometry, osg::FieldBits::AllFields);
-        geometry->setTypes(prototype->getTypes());
-        geometry->setLengths(prototype->getLengths());
-        geometry->setPositions(prototype->getPositions());
-        geometry->setNormals(prototype->getNormals());
-        geometry->setIndices(prototype->getIndices());
-        geometry->getIndexMapping() = prototype->getIndexMapping();
-    }
-    return makeNode(geometry);
+    return makeSharingNode(prototypeOf(shape));
 }
 
 }  // namespace nbec::manipulator::detail

@@ -111,7 +111,7 @@ ValueText& text()
 }  // namespace
 
 TireGizmo::TireGizmo()
-    : AnchoredGizmo(handleTable(), makeAxisMaterials(), static_cast<int>(Mode::Universal))
+    : AnchoredGizmo(handleTable(), makeAxisMaterials(true), static_cast<int>(Mode::Universal))
 {
     root = makeHandleRootOver(handles.getRoot(), kDepthPassSortKey);
 }

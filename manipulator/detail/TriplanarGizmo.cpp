@@ -122,7 +122,7 @@ osg::Vec3f direction(const osg::Pnt3f& place)
 }  // namespace
 
 TriplanarGizmo::TriplanarGizmo()
-    : AnchoredGizmo(handleTable(), makeAxisMaterials(), static_cast<int>(Mode::Initial))
+    : AnchoredGizmo(handleTable(), makeAxisMaterials(false), static_cast<int>(Mode::Initial))
 {
     root = makeHandleRootOver(handles.getRoot(), kDepthPassSortKey);
 }

@@ -2,6 +2,7 @@
 #include <nbKernel/nbOSGWidget.h>
 #include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGUtils/nbEdit.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
 #include <nbUtils/nbLog.h>
 
 #include <algorithm>
@@ -14,6 +15,8 @@ namespace {
 constexpr int kLargestSidePx = std::numeric_limits<osg::UInt16>::max();
 /// Where a new camera stands, looking at the origin.
 constexpr float kStartDistance = 10.f;
+/// Of a new camera's internal parent node.
+constexpr char kCameraName[] = "Camera";
 
 struct CountedCallback
 {
@@ -69,6 +72,7 @@ nbOSGWidget::nbOSGWidget()
     pose.pivot = pose.at;
     pose.fovDeg = kDefaultFovDeg;
     camera->setPose(pose);
+    nbNodeUtils::setName(camera->getInternalParentNode(), kCameraName);
     {
         const nbEdit edit(viewport, osg::Viewport::CameraFieldMask | osg::Viewport::RootFieldMask);
         viewport->setCamera(camera);
@@ -211,8 +215,7 @@ void nbOSGWidget::resize(int width, int height)
     window->setSize(static_cast<osg::UInt16>(widthPx), static_cast<osg::UInt16>(heightPx));
     viewport->setDeviceSize(widthPx, heightPx);
     if (widthPx > 0 && heightPx > 0) {
-        const nbEdit edit(camera, osg::UberCamera::ViewAspectFieldMask);
-        camera->setViewAspect(viewport->getDeviceAspect());
+        camera->resizeView(viewport->getDeviceAspect());
     }
     update();
     callResizeCallbacks();

@@ -266,6 +266,11 @@ void nbUndoService::record(std::unique_ptr<nbUndoRecord> entry)
     }
 }
 
+bool nbUndoService::isNewInStep(osg::UInt32 containerId)
+{
+    return internals->isRecording() && internals->step.meet(containerId);
+}
+
 nbTransformEntry* nbUndoService::noteTransform(const osg::Transform3DPtr& core)
 {
     return internals->isRecording() ? &internals->step.getTransforms().note(core) : nullptr;

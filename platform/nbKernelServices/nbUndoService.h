@@ -78,6 +78,11 @@ public:
     /// dropped: the edit cannot be undone.
     void record(std::unique_ptr<nbUndoRecord> entry);
 
+    /// For those who record the whole state of a container before its first edit in a step.
+    /// @param containerId  of the container
+    /// @return whether something records, and it is asked for the first time in the open step
+    bool isNewInStep(osg::UInt32 containerId);
+
     /// To be called before each edit of a transform core. The first call in a step keeps the state;
     /// the next ones find it again, fastest when the cores of each scope come in the same order.
     /// @return what is kept of the core, valid until the next call; null if nothing records

@@ -31,6 +31,9 @@ public:
     /// Texture with the resolved picture.
     GLuint getTexture(Buffer buffer) const { return textures[buffer == Buffer::Color ? 0 : 1]; }
 
+    /// Framebuffer whose first buffer is the resolved colour, whose second the resolved effect.
+    GLuint getResolved() const { return resolveFramebuffer; }
+
     /// The resolved picture, rows from top to bottom: colour without alpha, effect with it. Null
     /// before the first frame.
     QImage read(Gl& gl, Buffer buffer);

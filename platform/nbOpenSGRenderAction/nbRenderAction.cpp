@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "nbRenderAction.h"
 
+#include <nbOpenSGRenderAction/nbBackgroundPainter.h>
 #include <nbOpenSGRenderAction/nbFrameTargets.h>
 #include <nbOpenSGRenderAction/nbItemPainter.h>
+#include <nbOpenSGRenderAction/nbMagnifierPainter.h>
 #include <nbOpenSGRenderAction/nbSceneplatePainter.h>
 #include <nbOpenSGUberCamera/UberCamera.h>
 #include <nbOpenSGUberCamera/nbUberCameraUtils.h>
-#include <nbOpenSGUberViewport/UberViewport.h>
 #include <nbUtils/nbLog.h>
-
-#include <OpenSG/OSGSolidBackground.h>
 
 #include <QtCore/QPointer>
 #include <QtGui/QOpenGLContext>
@@ -25,36 +24,13 @@ constexpr int kDefaultSamples = 8;
 /// frames.
 constexpr unsigned int kFramesPerCollection = 64;
 
+using nbrender::BackgroundFrame;
 using nbrender::DepthLayout;
 using nbrender::FrameTargets;
 using nbrender::FrameView;
 using nbrender::Gl;
 using nbrender::GlProgram;
 using nbrender::ShaderPrograms;
-
-struct Background
-{
-    osg::Color4f top { 0.f, 0.f, 0.f, 1.f };
-    osg::Color4f bottom { 0.f, 0.f, 0.f, 1.f };
-};
-
-Background backgroundOf(const osg::ViewportPtr& viewport)
-{
-    Background result;
-    if (viewport == osg::NullFC) {
-        return result;
-    }
-    const auto solid = osg::SolidBackgroundPtr::dcast(viewport->getBackground());
-    const auto uber = osg::UberViewportPtr::dcast(viewport);
-    if (solid != osg::NullFC) {
-        const osg::Color3f color = solid->getColor();
-        result.top = result.bottom = osg::Color4f(color.red(), color.green(), color.blue(), 1.f);
-    } else if (uber != osg::NullFC) {
-        result.top = uber->getBackgroundTop();
-        result.bottom = uber->getBackgroundBottom();
-    }
-    return result;
-}
 
 bool isZUp(const osg::CameraPtr& camera)
 {
@@ -95,6 +71,12 @@ FrameView viewOf(const osg::CameraPtr& camera, int widthPx, int heightPx)
     return view;
 }
 
+/// Whether a program of its own decides where an item is seen: its bounds then say nothing.
+bool placesItself(const nbrender::ItemList& list, const nbrender::RenderItem& item)
+{
+    return list.getStates()[item.stateIndex].shaderId != 0;
+}
+
 /// Depths along the view axis, world units.
 struct DepthSpan
 {
@@ -121,7 +103,8 @@ DepthSpan handleSpan(const nbrender::ItemList& list, const FrameView& view)
     double nearest = std::numeric_limits<double>::max();
     double farthest = std::numeric_limits<double>::lowest();
     for (const nbrender::RenderItem& item : list.getItems()) {
-        if (!item.handle || !nbrender::isInView(item.bounds, view.usualClipFromWorld, true)) {
+        if (!item.handle || placesItself(list, item) ||
+            !nbrender::isInView(item.bounds, view.usualClipFromWorld, true)) {
             continue;
         }
         osg::BoxVolume box = item.bounds;
@@ -149,10 +132,17 @@ struct nbRenderAction::Impl
 {
     bool prepareContext(std::string& error);
     void forgetContext();
-    void drawBackground(const Background& background);
-    void drawScene(const osg::ViewportPtr& viewport, int widthPx, int heightPx);
+    void clear();
+    bool bindTargets(int widthPx, int heightPx, std::string& error);
+    void drawFrame(const osg::ViewportPtr& viewport, int widthPx, int heightPx, Items which);
+    FrameView prepareView(const osg::ViewportPtr& viewport, int widthPx, int heightPx);
+    void drawScene(const osg::ViewportPtr& viewport, const FrameView& view,
+                   const BackgroundFrame& behind);
+    bool isLensShown(const osg::ViewportPtr& viewport) const;
+    void keepForLens(int widthPx, int heightPx);
+    void present(const osg::ViewportPtr& viewport, int widthPx, int heightPx,
+                 osg::UInt32 targetFramebuffer);
     void drawItems(const FrameView& view, const std::vector<osg::UInt32>& order, Items which);
-    void present(int widthPx, int heightPx, osg::UInt32 targetFramebuffer);
     void collect();
     bool fail(const std::string& reason);
 
@@ -170,6 +160,8 @@ struct nbRenderAction::Impl
     ShaderPrograms programs;
     nbrender::GpuMeshes meshes;
     nbrender::GpuTextures textures;
+    nbrender::BackgroundPainter background;
+    nbrender::MagnifierPainter magnifier;
     nbrender::SceneplatePainter plates;
     nbrender::ItemList list;
     Statistics statistics;
@@ -212,41 +204,48 @@ void nbRenderAction::Impl::forgetContext()
     programs.forget();
     meshes.forget();
     textures.forget();
+    background.forget();
+    magnifier.forget();
     plates.forget();
     emptyArray = 0;
     context.clear();
     gl = nullptr;
 }
 
-void nbRenderAction::Impl::drawBackground(const Background& background)
+void nbRenderAction::Impl::clear()
 {
     constexpr GLfloat kNothing[] = { 0.f, 0.f, 0.f, 0.f };
     const GLfloat farthest = depth.getClearValue();
     gl->glDisable(GL_SCISSOR_TEST);
-    gl->glDisable(GL_DEPTH_TEST);
-    gl->glDisable(GL_BLEND);
-    gl->glDisable(GL_CULL_FACE);
-    gl->glDisable(GL_STENCIL_TEST);
-    // Colours reach the frame buffer as they are.
-    gl->glDisable(GL_FRAMEBUFFER_SRGB);
-    gl->glDisable(GL_DITHER);
     gl->glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
     gl->glDepthMask(GL_TRUE);
     gl->glClearBufferfv(GL_COLOR, 1, kNothing);
     gl->glClearBufferfv(GL_DEPTH, 0, &farthest);
-    GlProgram& program = programs.getStandard(ShaderPrograms::Standard::Background);
-    program.use(*gl);
-    const osg::Color4f& top = background.top;
-    const osg::Color4f& bottom = background.bottom;
-    program.set(*gl, "topColor", top.red(), top.green(), top.blue(), top.alpha());
-    program.set(*gl, "bottomColor", bottom.red(), bottom.green(), bottom.blue(), bottom.alpha());
-    gl->glColorMaski(1, GL_FALSE, GL_FALSE, GL_FALSE, GL_FALSE);
-    gl->glBindVertexArray(emptyArray);
-    gl->glDrawArrays(GL_TRIANGLES, 0, 3);
-    gl->glColorMaski(1, GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
 }
 
-void nbRenderAction::Impl::drawScene(const osg::ViewportPtr& viewport, int widthPx, int heightPx)
+void nbRenderAction::Impl::drawFrame(const osg::ViewportPtr& viewport, int widthPx, int heightPx,
+                                     Items which)
+{
+    gl->glViewport(0, 0, widthPx, heightPx);
+    clear();
+    const BackgroundFrame behind { widthPx, heightPx, shiftX, shiftY, emptyArray };
+    background.draw(*gl, viewport, behind, programs, textures);
+    statistics.items = 0;
+    statistics.drawn = 0;
+    if (viewport == osg::NullFC || viewport->getCamera() == osg::NullFC) {
+        return;
+    }
+    const FrameView view = prepareView(viewport, widthPx, heightPx);
+    if (which == Items::Handles) {
+        drawItems(view, list.getOrder(view.viewFromWorld), which);
+    } else {
+        drawScene(viewport, view, behind);
+    }
+    statistics.items = list.getItems().size();
+}
+
+FrameView nbRenderAction::Impl::prepareView(const osg::ViewportPtr& viewport, int widthPx,
+                                            int heightPx)
 {
     const osg::CameraPtr camera = viewport->getCamera();
     if (list.update(viewport->getRoot())) {
@@ -265,19 +264,25 @@ void nbRenderAction::Impl::drawScene(const osg::ViewportPtr& viewport, int width
     view.clipFromView = depth.project(usual, camera->getNear(), camera->getFar());
     const DepthSpan span = handleSpan(list, view);
     view.handleClipFromView = depth.project(usual, span.nearest, span.farthest);
+    return view;
+}
 
-    const nbrender::PlateFrame plateFrame { widthPx, heightPx, pixelRatio, shiftX, shiftY };
+void nbRenderAction::Impl::drawScene(const osg::ViewportPtr& viewport, const FrameView& view,
+                                     const BackgroundFrame& behind)
+{
+    const nbrender::PlateFrame plateFrame { behind.widthPx, behind.heightPx, pixelRatio, shiftX,
+                                            shiftY };
     plates.update(viewport->getRoot());
     plates.drawBack(*gl, plateFrame, emptyArray);
     const std::vector<osg::UInt32>& order = list.getOrder(view.viewFromWorld);
-    if (plates.hasFront()) {
+    if (plates.hasFront() || nbrender::BackgroundPainter::hasVeil(viewport)) {
         drawItems(view, order, Items::Scene);
+        background.drawVeil(*gl, viewport, behind, textures);
         plates.drawFront(*gl, plateFrame, emptyArray);
         drawItems(view, order, Items::Handles);
     } else {
         drawItems(view, order, Items::All);
     }
-    statistics.items = list.getItems().size();
 }
 
 void nbRenderAction::Impl::drawItems(const FrameView& view, const std::vector<osg::UInt32>& order,
@@ -288,7 +293,9 @@ void nbRenderAction::Impl::drawItems(const FrameView& view, const std::vector<os
     for (const osg::UInt32 index : order) {
         const nbrender::RenderItem& item = list.getItems()[index];
         const bool isWanted = which == Items::All || item.handle == (which == Items::Handles);
-        if (isWanted && nbrender::isInView(item.bounds, view.usualClipFromWorld, item.handle)) {
+        if (isWanted &&
+            (placesItself(list, item) ||
+             nbrender::isInView(item.bounds, view.usualClipFromWorld, item.handle))) {
             painter.draw(item, list);
             ++statistics.drawn;
         }
@@ -296,10 +303,32 @@ void nbRenderAction::Impl::drawItems(const FrameView& view, const std::vector<os
     depth.leave();
 }
 
-void nbRenderAction::Impl::present(int widthPx, int heightPx, osg::UInt32 targetFramebuffer)
+bool nbRenderAction::Impl::bindTargets(int widthPx, int heightPx, std::string& error)
+{
+    return targets.bind(*gl, widthPx, heightPx, samples, depth.getFormat(), error);
+}
+
+bool nbRenderAction::Impl::isLensShown(const osg::ViewportPtr& viewport) const
+{
+    return !effectShown && nbrender::MagnifierPainter::isShown(viewport);
+}
+
+void nbRenderAction::Impl::keepForLens(int widthPx, int heightPx)
+{
+    targets.resolve(*gl, FrameTargets::Buffer::Color);
+    magnifier.keep(*gl, targets.getResolved(), widthPx, heightPx, pixelRatio);
+}
+
+void nbRenderAction::Impl::present(const osg::ViewportPtr& viewport, int widthPx, int heightPx,
+                                   osg::UInt32 targetFramebuffer)
 {
     const auto shown = effectShown ? FrameTargets::Buffer::Effect : FrameTargets::Buffer::Color;
-    targets.resolve(*gl, shown);
+    const bool isLens = isLensShown(viewport);
+    if (isLens && !nbrender::BackgroundPainter::hasPhotograph(viewport)) {
+        keepForLens(widthPx, heightPx);
+    } else {
+        targets.resolve(*gl, shown);
+    }
     gl->glBindFramebuffer(GL_FRAMEBUFFER, targetFramebuffer);
     gl->glViewport(0, 0, widthPx, heightPx);
     gl->glDisable(GL_DEPTH_TEST);
@@ -310,6 +339,9 @@ void nbRenderAction::Impl::present(int widthPx, int heightPx, osg::UInt32 target
     gl->glBindTexture(GL_TEXTURE_2D, targets.getTexture(shown));
     gl->glBindVertexArray(emptyArray);
     gl->glDrawArrays(GL_TRIANGLES, 0, 3);
+    if (isLens) {
+        magnifier.draw(*gl, pixelRatio, emptyArray);
+    }
     gl->glBindTexture(GL_TEXTURE_2D, 0);
     gl->glBindVertexArray(0);
     gl->glUseProgram(0);
@@ -359,20 +391,17 @@ bool nbRenderAction::render(const osg::ViewportPtr& viewport, int widthPx, int h
         return false;
     }
     std::string error;
-    if (!impl->prepareContext(error) ||
-        !impl->targets.bind(*impl->gl, widthPx, heightPx, impl->samples, impl->depth.getFormat(),
-                            error)) {
+    if (!impl->prepareContext(error) || !impl->bindTargets(widthPx, heightPx, error)) {
         return impl->fail(error);
     }
     impl->lastFailure.clear();
-    impl->gl->glViewport(0, 0, widthPx, heightPx);
-    impl->drawBackground(backgroundOf(viewport));
-    impl->statistics.items = 0;
-    impl->statistics.drawn = 0;
-    if (viewport != osg::NullFC && viewport->getCamera() != osg::NullFC) {
-        impl->drawScene(viewport, widthPx, heightPx);
+    if (impl->isLensShown(viewport) && nbrender::BackgroundPainter::hasPhotograph(viewport)) {
+        impl->drawFrame(viewport, widthPx, heightPx, Items::Handles);
+        impl->keepForLens(widthPx, heightPx);
+        impl->bindTargets(widthPx, heightPx, error);
     }
-    impl->present(widthPx, heightPx, targetFramebuffer);
+    impl->drawFrame(viewport, widthPx, heightPx, Items::All);
+    impl->present(viewport, widthPx, heightPx, targetFramebuffer);
     impl->collect();
     return true;
 }
@@ -425,6 +454,8 @@ void nbRenderAction::release()
         impl->programs.release(*impl->gl);
         impl->meshes.release(*impl->gl);
         impl->textures.release(*impl->gl);
+        impl->background.release(*impl->gl);
+        impl->magnifier.release(*impl->gl);
         impl->plates.release(*impl->gl);
         impl->gl->glDeleteVertexArrays(1, &impl->emptyArray);
     }

@@ -36,16 +36,22 @@
 /// + emission, exactly. Colours are not converted on their way to the frame buffer. There is a
 /// second output, the effect buffer, for effects on the finished picture: opaque scene items write
 /// their normal in view space, turned to the eye, as 0.5 n + 0.5 with alpha 1; the background and
-/// handles write zeros, blended items nothing. Programs of shader chunks write what they like; see
-/// nbShaderHeader.h for what they get. A program that does not compile costs one line in the log,
+/// handles write zeros, blended items nothing. Programs of shader chunks write what they like and
+/// where they like, so that their items are always in view; see nbShaderHeader.h for what they get.
+/// A program that does not compile costs one line in the log,
 /// and its items are drawn in plain colour.
+///
+/// The background is the gradient of an UberViewport, or the colour of a SolidBackground, or black,
+/// and over it the UberViewport's photograph, which can also cover the scene as a veil below the
+/// handles. Of an UberCamera, near and far are set to enclose the scene and handles around it.
+///
+/// Over pictures of the main render widget lies the lens of nbMagnifierRenderer while that is
+/// shown; the buffers that can be read do not have it. It enlarges the picture or, if there is a
+/// photograph, that and the handles without the scene, which could hide what is to be seen.
 ///
 /// Scene plates (see osg::Sceneplate) lie over the background before the scene, or over the scene
 /// below the handles; where there are plates of the latter kind, all handles are drawn after all of
 /// the scene. The effect buffer does not know them.
-///
-/// The background is the gradient of an UberViewport, or the colour of a SolidBackground, or black.
-/// Of an UberCamera, near and far are set to enclose the scene and handles around it.
 class NB_PLATFORM_API nbRenderAction
 {
 public:

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <nbOpenSGUberCamera/UberCamera.h>
+#include <nbOpenSGUberCamera/nbUberCameraPool.h>
 #include <nbOpenSGUtils/nbEdit.h>
 
 #include <OpenSG/OSGTransform.h>
@@ -109,6 +110,20 @@ bool UberCamera::setPose(const CameraPose& pose)
     setOrthographic(pose.orthographic);
     setZUp(pose.zUp);
     return true;
+}
+
+void UberCamera::resizeView(Real32 aspect)
+{
+    if (!std::isfinite(aspect) || aspect <= 0.f) {
+        return;
+    }
+    const nbEdit edit(UberCameraPtr(*this), ViewAspectFieldMask | FovFieldMask);
+    if (getHorizontalSizing()) {
+        const Real64 halfFov = 0.5 * kRadPerDeg * nbCameraNavigation::usableFovDeg(getFov());
+        const Real64 tanKept = std::tan(halfFov) * usableRatio(getViewAspect()) / aspect;
+        setFov(static_cast<Real32>(2.0 * std::atan(tanKept) / kRadPerDeg));
+    }
+    setViewAspect(aspect);
 }
 
 Real32 UberCamera::getLeft() const
@@ -233,6 +248,8 @@ void UberCamera::updateBeacon()
 {
     if (internalParentNode == NullFC) {
         internalParentNode = makeCoredNode<Transform>();
+        nbUberCameraPool::add(UberCameraPtr(*this).getFieldContainerId(),
+                              internalParentNode.get().getFieldContainerId());
     }
     if (getBeacon() != internalParentNode) {
         setBeacon(internalParentNode);

@@ -24,14 +24,16 @@ NB_CONTAINER_POINTER(UberCamera, PerspectiveCameraPtr);
     VALUE(Pivot, pivot, Pnt3f, Pnt3f(0.f, 0.f, -1.f))                                              \
     VALUE(Orthographic, orthographic, bool, false)                                                 \
     VALUE(ZUp, zUp, bool, false)                                                                   \
-    VALUE(ViewAspect, viewAspect, Real32, 1.f)
+    VALUE(ViewAspect, viewAspect, Real32, 1.f)                                                     \
+    VALUE(HorizontalSizing, horizontalSizing, bool, false)
 
 /// Camera of the host: perspective or orthographic, placed by eye, centre and up vector.
 ///
 /// Fields, world space and world units: From (eye), At (a point on the view axis), Up, Pivot (what
 /// the view turns about), Orthographic, ZUp (world up is z), ViewAspect (width / height of the
-/// view). Of the base: Fov is the vertical opening angle in degrees, always (45 in a new camera);
-/// Near 0.1 and Far 1000.
+/// view), HorizontalSizing (a resized view shows the same part of the world across its width
+/// instead of its height, see resizeView). Of the base: Fov is the vertical opening angle in
+/// degrees, always (45 in a new camera); Near 0.1 and Far 1000.
 ///
 /// The camera keeps a beacon of its own, a node without a parent whose core is a Transform, in step
 /// with From, At and Up whenever an edit of them ends, so that getViewing() and calcViewRay() work.
@@ -69,6 +71,11 @@ public:
     CameraPose getPose() const;
     /// @return false, and nothing changes, if a number is not finite
     bool setPose(const CameraPose& pose);
+
+    /// The view got another shape: sets ViewAspect, and with HorizontalSizing also Fov, so that the
+    /// horizontal opening angle stays. A ratio that is not finite or positive is ignored.
+    /// @param aspect  width / height of the view
+    void resizeView(Real32 aspect);
 
     bool isOrthographic() const { return getOrthographic(); }
 

@@ -5,6 +5,7 @@
 
 #include <OpenSG/OSGColor.h>
 #include <OpenSG/OSGConfig.h>
+#include <OpenSG/OSGImage.h>
 #include <OpenSG/OSGViewport.h>
 
 #include <FieldContainerGlue.h>
@@ -23,11 +24,15 @@ inline constexpr Real32 kUberViewportBottom[] = { 0.13f, 0.14f, 0.16f };
     VALUE(BackgroundBottom, backgroundBottom, Color4f,                                             \
           Color4f(kUberViewportBottom[0], kUberViewportBottom[1], kUberViewportBottom[2], 1.f))    \
     VALUE(DeviceWidth, deviceWidth, Int32, 0)                                                      \
-    VALUE(DeviceHeight, deviceHeight, Int32, 0)
+    VALUE(DeviceHeight, deviceHeight, Int32, 0)                                                    \
+    OWNED(Photograph, photograph, ImagePtr)                                                        \
+    VALUE(PhotographVeil, photographVeil, Real32, 0.f)
 
 /// Viewport of the host: knows its size in device pixels and the two colours of its background, a
 /// vertical gradient from BackgroundTop to BackgroundBottom that the renderer paints (components
-/// from 0 to 1, as they reach the frame buffer).
+/// from 0 to 1, as they reach the frame buffer). A Photograph, unless it is null, lies over the
+/// background and behind the scene, where nbPhotographFit places it; PhotographVeil, 0 to 1, is how
+/// much it also covers the scene, below the handles.
 class NB_PLATFORM_API UberViewport : public Viewport
 {
     NB_CONTAINER(UberViewport, Viewport, UBER_VIEWPORT_FIELDS);

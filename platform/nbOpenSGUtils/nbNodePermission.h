@@ -15,6 +15,7 @@ public:
     /// Numbers of permissions, 0 to 31; those without a name here are free for hosts.
     enum Permission : osg::Int32
     {
+        Edit = 0,  ///< anything about the node may be edited; denied, it is locked
         Transform = 19,  ///< translation, rotation, scale and pivots may be edited
     };
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "nbSceneplateUndo.h"
 
+#include <nbKernelServices/nbChildrenRecord.h>
 #include <nbKernelServices/nbUndoRecord.h>
 #include <nbKernelServices/nbUndoService.h>
 #include <nbOpenSGSceneplate/nbSceneplateList.h>
@@ -128,59 +129,6 @@ private:
     std::vector<Change> changes;
 };
 
-/// The children of a node before and after a step.
-class ChildrenRecord : public nbUndoRecord
-{
-public:
-    explicit ChildrenRecord(const osg::NodePtr& parent)
-        : parentId(parent.getFieldContainerId())
-        , before(childrenOf(parent))
-    { }
-
-    bool close() override
-    {
-        after = childrenOf(findNode(parentId));
-        return after != before;
-    }
-
-    void undo() override { restore(before); }
-
-    void redo() override { restore(after); }
-
-private:
-    using Children = std::vector<osg::NodeRefPtr>;
-
-    static Children childrenOf(const osg::NodePtr& parent)
-    {
-        Children children;
-        for (osg::UInt32 i = 0; parent != osg::NullFC && i < parent->getNChildren(); ++i) {
-            children.emplace_back(parent->getChild(i));
-        }
-        return children;
-    }
-
-    void restore(const Children& children) const
-    {
-        const osg::NodePtr parent = findNode(parentId);
-        if (parent == osg::NullFC) {
-            return;
-        }
-        // Held while they hang nowhere.
-        const Children former = childrenOf(parent);
-        const nbEdit edit(parent, osg::Node::ChildrenFieldMask);
-        for (const osg::NodeRefPtr& child : former) {
-            parent->subChild(child.get());
-        }
-        for (const osg::NodeRefPtr& child : children) {
-            parent->addChild(child.get());
-        }
-    }
-
-    osg::UInt32 parentId;
-    Children before;
-    Children after;
-};
-
 }  // namespace
 
 nbSceneplateState nbSceneplateState::of(const osg::NodePtr& node)
@@ -254,6 +202,7 @@ osg::UInt64 nbSceneplateUndo::getOpenStep()
 void nbSceneplateUndo::noteChildren(const osg::NodePtr& parent)
 {
     if (parent != osg::NullFC && nbUndoService::the()->isRecording()) {
-        nbUndoService::the()->record(std::make_unique<ChildrenRecord>(parent));
+        nbUndoService::the()->record(
+            std::make_unique<nbChildrenRecord>(std::vector<osg::NodePtr> { parent }));
     }
 }

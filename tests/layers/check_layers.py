@@ -19,7 +19,8 @@ PLATFORM = r"(platform/|nb[A-Z]\w*/)"
 FORBIDDEN = {
     "opensg": [UPPER, LIBRARY, PLATFORM, r"Q[A-Z]\w*", r"Qt\w+/", r"GL/"],
     "platform": [UPPER, LIBRARY],
-    "manipulator": [UPPER],
+    "manipulator": [UPPER, r"modules/"],
+    "modules": [UPPER],
 }
 # Within platform/: each library may include those before it.
 PLATFORM_ORDER = ["nbUtils", "nbOpenSGExt", "nbOpenSGUtils", "nbOpenSGUberCamera", "nbOpenSGUberViewport", "nbOpenSGUberMaterial",

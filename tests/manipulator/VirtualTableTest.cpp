@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/ManipulatorInteractionContext.h"
+#include "manipulator/PerspectiveMatchManipulator.h"
 #include "manipulator/PlanarTextureManipulator.h"
 #include "manipulator/UniversalTransformManipulator2.h"
 #include "manipulator/nbSceneplatePickTool.h"
@@ -15,34 +16,34 @@ using nbtest::virtualSlot;
 
 TEST(VirtualTable, ManipulatorOperationsTakeTheSlotsZeroToFifteen)
 {
-    const std::vector<std::ptrdiff_t> slots = { virtualSlot(&Manipulator::activate),
-                                                virtualSlot(&Manipulator::deactivate),
-                                                virtualSlot(&Manipulator::isActive),
-                                                virtualSlot(&Manipulator::getVisualisation),
-                                                virtualSlot(&Manipulator::getCollider),
-                                                virtualSlot(&Manipulator::update),
-                                                virtualSlot(&Manipulator::startManipulator),
-                                                virtualSlot(&Manipulator::processManipulator),
-                                                virtualSlot(&Manipulator::stopManipulator),
-                                                virtualSlot(&Manipulator::hover),
-                                                virtualSlot(&Manipulator::reset),
-                                                virtualSlot(&Manipulator::hoverManipulator),
-                                                virtualSlot(&Manipulator::resetManipulator),
-                                                virtualSlot(&Manipulator::setMousePosition),
-                                                virtualSlot(&Manipulator::getMousePosition),
-                                                virtualSlot(&Manipulator::setManipulatorMode) };
-    for (std::size_t i = 0; i < slots.size(); ++i) {
-        EXPECT_EQ(slots[i], static_cast<std::ptrdiff_t>(i));
+    const std::vector<std::ptrdiff_t> places = { virtualSlot(&Manipulator::activate),
+                                                 virtualSlot(&Manipulator::deactivate),
+                                                 virtualSlot(&Manipulator::isActive),
+                                                 virtualSlot(&Manipulator::getVisualisation),
+                                                 virtualSlot(&Manipulator::getCollider),
+                                                 virtualSlot(&Manipulator::update),
+                                                 virtualSlot(&Manipulator::startManipulator),
+                                                 virtualSlot(&Manipulator::processManipulator),
+                                                 virtualSlot(&Manipulator::stopManipulator),
+                                                 virtualSlot(&Manipulator::hover),
+                                                 virtualSlot(&Manipulator::reset),
+                                                 virtualSlot(&Manipulator::hoverManipulator),
+                                                 virtualSlot(&Manipulator::resetManipulator),
+                                                 virtualSlot(&Manipulator::setMousePosition),
+                                                 virtualSlot(&Manipulator::getMousePosition),
+                                                 virtualSlot(&Manipulator::setManipulatorMode) };
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        EXPECT_EQ(places[i], static_cast<std::ptrdiff_t>(i));
     }
 }
 
 TEST(VirtualTable, SubclassesAppendInTheirFixedOrder)
 {
     using Gizmo = UniversalTransformManipulator2;
-    // The destructor stands between; it takes two slots in this binary interface.
+    // The destructor stands between; it takes two places in this binary interface.
     const std::ptrdiff_t first = virtualSlot(&NodeManipulator::setNode);
     EXPECT_EQ(first, 18);
-    const std::vector<std::ptrdiff_t> slots = {
+    const std::vector<std::ptrdiff_t> places = {
         virtualSlot(&Gizmo::activateRotatePivotManipulator),
         virtualSlot(&Gizmo::activateScalePivotManipulator),
         virtualSlot(&Gizmo::activateTranslateManipulator),
@@ -57,8 +58,8 @@ TEST(VirtualTable, SubclassesAppendInTheirFixedOrder)
         virtualSlot(&Gizmo::showActiveManipulator),
         virtualSlot(&Gizmo::hideManipulator)
     };
-    for (std::size_t i = 0; i < slots.size(); ++i) {
-        EXPECT_EQ(slots[i], first + 1 + static_cast<std::ptrdiff_t>(i));
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        EXPECT_EQ(places[i], first + 1 + static_cast<std::ptrdiff_t>(i));
     }
 }
 
@@ -69,6 +70,32 @@ TEST(VirtualTable, ThePlanarGizmoAppendsNothing)
     EXPECT_EQ(virtualSlot(&Gizmo::startManipulator), 6);
     EXPECT_EQ(virtualSlot(&Gizmo::resetManipulator), 12);
     EXPECT_EQ(virtualSlot(&Gizmo::setNode), virtualSlot(&NodeManipulator::setNode));
+}
+
+TEST(VirtualTable, AnObjectOfQtThatManipulatesIsAnObjectFirst)
+{
+    using Gizmo = PerspectiveMatchManipulator;
+    Gizmo gizmo;
+    const auto* const start = reinterpret_cast<const char*>(&gizmo);
+    EXPECT_EQ(reinterpret_cast<const char*>(static_cast<QObject*>(&gizmo)), start);
+    EXPECT_EQ(reinterpret_cast<const char*>(static_cast<AbstractManipulator*>(&gizmo)),
+              start + sizeof(QObject));
+
+    // What it overrides of its second base follows the places of the first, in the fixed order.
+    const std::vector<std::ptrdiff_t> places = { virtualSlot(&Gizmo::activate),
+                                                 virtualSlot(&Gizmo::deactivate),
+                                                 virtualSlot(&Gizmo::getVisualisation),
+                                                 virtualSlot(&Gizmo::getCollider),
+                                                 virtualSlot(&Gizmo::update),
+                                                 virtualSlot(&Gizmo::startManipulator),
+                                                 virtualSlot(&Gizmo::processManipulator),
+                                                 virtualSlot(&Gizmo::stopManipulator),
+                                                 virtualSlot(&Gizmo::hoverManipulator),
+                                                 virtualSlot(&Gizmo::resetManipulator) };
+    for (std::size_t i = 1; i < places.size(); ++i) {
+        EXPECT_EQ(places[i], places[0] + static_cast<std::ptrdiff_t>(i));
+    }
+    EXPECT_GT(places[0], 0);
 }
 
 TEST(VirtualTable, TheContextKeepsTheOrderOfItsBase)
@@ -86,7 +113,7 @@ TEST(VirtualTable, TheContextKeepsTheOrderOfItsBase)
 TEST(VirtualTable, ThePlateToolKeepsTheOrderOfItsBase)
 {
     using Tool = nbSceneplatePickTool;
-    const std::vector<std::ptrdiff_t> slots = {
+    const std::vector<std::ptrdiff_t> places = {
         virtualSlot(&Tool::setToolMode),    virtualSlot(&Tool::activateTool),
         virtualSlot(&Tool::deactivateTool), virtualSlot(&Tool::isActive),
         virtualSlot(&Tool::startTool),      virtualSlot(&Tool::processTool),
@@ -94,8 +121,8 @@ TEST(VirtualTable, ThePlateToolKeepsTheOrderOfItsBase)
         virtualSlot(&Tool::hoverTool),      virtualSlot(&Tool::stopHoverTool),
         virtualSlot(&Tool::isPickHint)
     };
-    for (std::size_t i = 0; i < slots.size(); ++i) {
-        EXPECT_EQ(slots[i], static_cast<std::ptrdiff_t>(i));
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        EXPECT_EQ(places[i], static_cast<std::ptrdiff_t>(i));
     }
 }
 

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/core/ClipPlanes.h"
 
-#include "viewer/core/ChildrenRecord.h"
-
 #include <nbKernel/nbScenegraph.h>
+#include <nbKernelServices/nbChildrenRecord.h>
 #include <nbKernelServices/nbScopedUndo.h>
 #include <nbKernelServices/nbUndoService.h>
 #include <nbOpenSGExt/ClipPlane3D.h>
@@ -163,7 +162,7 @@ osg::NodePtr addClipPlane(const osg::Vec3f& away)
     }
     const nbScopedUndo scope(QStringLiteral("Add clip plane"));
     nbUndoService::the()->record(
-        std::make_unique<ChildrenRecord>(std::vector<osg::NodePtr> { root, plane }));
+        std::make_unique<nbChildrenRecord>(std::vector<osg::NodePtr> { root, plane }));
     moveChildren(root, plane);
     const nbEdit edit(root, osg::Node::ChildrenFieldMask);
     root->addChild(plane);
@@ -181,8 +180,8 @@ bool removeClipPlane(const osg::NodePtr& frame)
     const osg::NodePtr parent = plane->getParent();
     const osg::NodePtr frameParent = frame->getParent();
     const nbScopedUndo scope(QStringLiteral("Remove clip plane"));
-    nbUndoService::the()->record(
-        std::make_unique<ChildrenRecord>(std::vector<osg::NodePtr> { parent, plane, frameParent }));
+    nbUndoService::the()->record(std::make_unique<nbChildrenRecord>(
+        std::vector<osg::NodePtr> { parent, plane, frameParent }));
     moveChildren(plane, parent);
     const nbEdit parentEdit(parent, osg::Node::ChildrenFieldMask);
     parent->subChild(plane);

@@ -5,7 +5,6 @@
 #include <nbInteraction/InteractionEvent.h>
 #include <nbInteraction/InteractionManager.h>
 #include <nbInteraction/Picker.h>
-#include <nbKernelServices/nbUndoService.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <utility>
@@ -13,7 +12,6 @@
 namespace viewer {
 
 namespace names = nbec::interaction::names;
-using nbec::interaction::DragEnd;
 using nbec::interaction::InteractionEvent;
 using nbec::interaction::InteractionManager;
 using nbec::manipulator::ManipulatorInteractionContext;
@@ -40,7 +38,7 @@ bool DragContext::triggerEvent(InteractionManager* manager, const InteractionEve
     if (isTool && event.getEvent() == names::kStart) {
         return start(manager, event);
     }
-    if (isTool && event.getEvent() == names::kStop && isDragging) {
+    if (isTool && event.getEvent() == names::kStop && group.isOpen()) {
         return stop(manager, event);
     }
     return ManipulatorInteractionContext::triggerEvent(manager, event);
@@ -48,31 +46,24 @@ bool DragContext::triggerEvent(InteractionManager* manager, const InteractionEve
 
 bool DragContext::start(InteractionManager* manager, const InteractionEvent& event)
 {
-    // Opened first, as the start may already edit: it makes transforms of other cores.
-    nbUndoService::the()->beginGroup();
-    isDragging = ManipulatorInteractionContext::triggerEvent(manager, event);
-    if (isDragging) {
+    const bool isTaken =
+        group.start([&] { return ManipulatorInteractionContext::triggerEvent(manager, event); });
+    if (isTaken) {
         // The manipulator measures from its first step on: one where the handle was grabbed keeps
         // the way to the next position from being lost.
         ManipulatorInteractionContext::triggerEvent(
             manager, InteractionEvent(names::kProcess, event.getTool(), event.getHint()));
         grabbed = getPicker() != nullptr ? nbNodeUtils::getName(getPicker()->getHitNode()) : "";
         notify();
-    } else {
-        nbUndoService::the()->endGroup();
     }
-    return isDragging;
+    return isTaken;
 }
 
 bool DragContext::stop(InteractionManager* manager, const InteractionEvent& event)
 {
-    const bool isCancelled = manager != nullptr && manager->getDragEnd() == DragEnd::Cancelled;
-    const bool answer = ManipulatorInteractionContext::triggerEvent(manager, event);
-    isDragging = false;
+    const bool answer = group.stop(
+        manager, [&] { return ManipulatorInteractionContext::triggerEvent(manager, event); });
     grabbed.clear();
-    if (!isCancelled) {
-        nbUndoService::the()->endGroup();
-    }
     notify();
     return answer;
 }

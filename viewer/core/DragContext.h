@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "viewer/core/DragGroup.h"
+
 #include <functional>
 #include <string>
 
@@ -9,10 +11,7 @@
 namespace viewer {
 
 /// The manipulators' interaction context of the viewer: everything that a handle edits between the
-/// start of a drag and its stop becomes one undo step.
-///
-/// A drag that is interrupted keeps what it did as its step; one that is cancelled keeps its group
-/// open until the interaction manager's cancel handler takes it back.
+/// start of a drag and its stop becomes one undo step, see DragGroup.
 class DragContext : public nbec::manipulator::ManipulatorInteractionContext
 {
 public:
@@ -36,7 +35,7 @@ private:
     void notify() const;
 
     std::function<void()> dragCallback;
-    bool isDragging = false;
+    DragGroup group;
     std::string grabbed;
 };
 

@@ -2,6 +2,7 @@
 #include "viewer/core/GizmoController.h"
 
 #include "viewer/core/HandleCursor.h"
+#include "viewer/core/ValueLine.h"
 
 #include <nbInteraction/InteractionManager.h>
 #include <nbKernel/nbScenegraph.h>
@@ -52,17 +53,6 @@ const GizmoRow& rowOf(Gizmo gizmo)
         }
     }
     return kGizmoRows.front();
-}
-
-std::string textOf(const char* what, const osg::Vec3f& values)
-{
-    constexpr int kDigits = 3;
-    QString text = QLatin1String(what) + QStringLiteral(" (%1, %2, %3)");
-    for (osg::UInt32 i = 0; i < 3; ++i) {
-        // A negative zero would flicker.
-        text = text.arg(static_cast<double>(values[i]) + 0.0, 0, 'f', kDigits);
-    }
-    return text.toStdString();
 }
 
 constexpr float kUsualSize = 32.0F;
@@ -264,18 +254,18 @@ std::string GizmoController::draggedValues() const
     case HandleAction::MoveAlong:
     case HandleAction::MoveInPlane:
         if (current == Gizmo::RotatePivot) {
-            return textOf("Rotate pivot",
-                          nbTransformModel::getRotationPivot(node, !isLocalSpace()));
+            return valueLine("Rotate pivot",
+                             nbTransformModel::getRotationPivot(node, !isLocalSpace()));
         }
         if (current == Gizmo::ScalePivot) {
-            return textOf("Scale pivot", nbTransformModel::getScalePivot(node, !isLocalSpace()));
+            return valueLine("Scale pivot", nbTransformModel::getScalePivot(node, !isLocalSpace()));
         }
-        return textOf("Translation", nbTransformModel::getTranslation(node, !isLocalSpace()));
+        return valueLine("Translation", nbTransformModel::getTranslation(node, !isLocalSpace()));
     case HandleAction::Turn:
-        return textOf("Rotation", nbNodeUtils::getTransformNodeRotation(node));
+        return valueLine("Rotation", nbNodeUtils::getTransformNodeRotation(node));
     case HandleAction::ScaleAlong:
     case HandleAction::ScaleAll:
-        return textOf("Scale", nbNodeUtils::getTransformNodeScale(node));
+        return valueLine("Scale", nbNodeUtils::getTransformNodeScale(node));
     case HandleAction::None:
         break;
     }

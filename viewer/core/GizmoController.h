@@ -95,6 +95,8 @@ public:
     /// Tells whether the pointer is over the view; it is at the start.
     void setPointerInside(bool inside) { pointerInside = inside; }
 
+    bool isPointerInside() const { return pointerInside; }
+
     /// Name of the handle that is dragged, otherwise of that under the main widget's pointer; "" if
     /// there is none, nothing is shown or the pointer is outside.
     std::string hoveredHandle();

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/core/HandleCursor.h"
 
+#include "viewer/core/PerspectiveMatchTool.h"
 #include "viewer/core/Stage.h"
+#include "viewer/core/StageTool.h"
 
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
@@ -19,7 +21,7 @@ struct ActionRow
     HandleAction action;
 };
 
-constexpr std::array<ActionRow, 13> kActions { {
+constexpr std::array<ActionRow, 23> kActions { {
     { "xaShape", HandleAction::MoveAlong },
     { "yaShape", HandleAction::MoveAlong },
     { "zaShape", HandleAction::MoveAlong },
@@ -33,6 +35,16 @@ constexpr std::array<ActionRow, 13> kActions { {
     { "xyaShape", HandleAction::MoveInPlane },
     { "xzaShape", HandleAction::MoveInPlane },
     { "yzaShape", HandleAction::MoveInPlane },
+    { "rotateShape", HandleAction::Turn },
+    { "scaleXYLLShape", HandleAction::ScaleAll },
+    { "scaleXYULShape", HandleAction::ScaleAll },
+    { "scaleXYLRShape", HandleAction::ScaleAll },
+    { "scaleXYURShape", HandleAction::ScaleAll },
+    { "scaleXLShape", HandleAction::ScaleAll },
+    { "scaleXRShape", HandleAction::ScaleAll },
+    { "scaleYLShape", HandleAction::ScaleAll },
+    { "scaleYUShape", HandleAction::ScaleAll },
+    { "scaleZPlaneShape", HandleAction::ScaleAll },
 } };
 
 /// Length on screen of one unit of a handle below which its direction says nothing.
@@ -93,13 +105,14 @@ HandleAction actionOfHandle(const std::string& handle)
             return row.action;
         }
     }
-    return HandleAction::None;
+    return PerspectiveMatchTool::isHandle(handle) ? HandleAction::MoveInPlane : HandleAction::None;
 }
 
 HandleCursor cursorOfHandle(Stage& stage, const std::string& handle)
 {
     HandleCursor cursor;
-    cursor.action = actionOfHandle(handle);
+    const StageTool* tool = stage.activeTool();
+    cursor.action = tool != nullptr ? tool->actionOf(handle) : actionOfHandle(handle);
     const bool isAlong =
         cursor.action == HandleAction::MoveAlong || cursor.action == HandleAction::ScaleAlong;
     if (isAlong && !findAngle(stage, handle, cursor.angleDeg)) {

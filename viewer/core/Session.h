@@ -127,6 +127,11 @@ struct Session
 /// @return nothing when the text is no valid session
 std::optional<Session> parseSession(const QByteArray& text, QString& error);
 
+/// Reads a place in the view, as steps have it, out of the value of a command.
+/// @param path  of the value, for the line in `error`
+bool readSessionTarget(const QJsonValue& value, const QString& path, SessionTarget& target,
+                       QString& error);
+
 /// Reads a session file; paths of models become absolute.
 /// @param error  one line that begins with the file's name
 std::optional<Session> readSessionFile(const QString& path, QString& error);

@@ -25,12 +25,12 @@ public:
     using JsonReader::JsonReader;
 
     bool readSession(const QJsonObject& object, Session& session);
+    bool readTarget(const QJsonValue& value, const QString& path, SessionTarget& target);
 
 private:
     bool readSize(const QJsonValue& value, QSize& sizePx);
     bool readCamera(const QJsonValue& value, SessionCamera& camera);
     bool readStep(const QJsonValue& value, const QString& path, SessionStep& step);
-    bool readTarget(const QJsonValue& value, const QString& path, SessionTarget& target);
     bool readNamedTarget(const QJsonObject& object, const QString& path, SessionTarget& target);
     bool readModifiers(const QJsonValue& value, const QString& path, SessionStep& step);
     bool readExpectation(const QJsonValue& value, const QString& path,
@@ -386,6 +386,12 @@ bool Reader::readSession(const QJsonObject& object, Session& session)
 }
 
 }  // namespace
+
+bool readSessionTarget(const QJsonValue& value, const QString& path, SessionTarget& target,
+                       QString& error)
+{
+    return Reader(error).readTarget(value, path, target);
+}
 
 std::optional<Session> parseSession(const QByteArray& text, QString& error)
 {

@@ -472,6 +472,13 @@ void Stage::edited()
     changed();
 }
 
+void Stage::cameraMoved()
+{
+    manager.cameraMoved(renderWidget.getUberCamera()->getInternalParentNode()->getToWorld());
+    viewChanged();
+    changed();
+}
+
 void Stage::setChangedCallback(std::function<void()> callback)
 {
     changedCallback = std::move(callback);

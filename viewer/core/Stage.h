@@ -145,6 +145,9 @@ public:
     /// Redraws and tells everybody, as after an edit that did not come from the view.
     void edited();
 
+    /// Tells everybody that the camera was placed by other means than this, as by its match.
+    void cameraMoved();
+
     /// Tells the size of the view, device pixels, and the device pixels per logical one.
     void resize(int widthPx, int heightPx, float pixelRatio);
     /// Brings gizmo and markers up to date; call before each picture.

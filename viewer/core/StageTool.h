@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "viewer/core/HandleCursor.h"
+
 #include <OpenSG/OSGConfig.h>
 #include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGVector.h>
@@ -64,6 +66,12 @@ public:
     /// Where a handle that has no tree in the scene can be hit.
     /// @return false, target untouched, if there is none of that name
     virtual bool findHandle(const std::string&, osg::Pnt2f&) { return false; }
+
+    /// What the handle of a name does, for the cursor over it.
+    virtual HandleAction actionOf(const std::string& handle) const
+    {
+        return actionOfHandle(handle);
+    }
 
     /// What a running drag edits, for the status line; "" while nothing is dragged.
     virtual std::string draggedValues() const { return {}; }

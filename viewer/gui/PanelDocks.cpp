@@ -2,7 +2,10 @@
 #include "viewer/gui/PanelDocks.h"
 
 #include "viewer/core/Stage.h"
+#include "viewer/gui/MaterialPanel.h"
 #include "viewer/gui/ObjectPanel.h"
+#include "viewer/gui/PerspectiveMatchPanel.h"
+#include "viewer/gui/PlatesPanel.h"
 #include "viewer/gui/ScenePanel.h"
 
 #include <nbKernelServices/nbUndoService.h>
@@ -53,6 +56,10 @@ void PanelDocks::addPanels()
 {
     sceneDock = addPanel(new ScenePanel(stage), tr("Objects"), QStringLiteral("sceneDock"));
     objectDock = addPanel(new ObjectPanel(stage), tr("Properties"), QStringLiteral("objectDock"));
+    addPanel(new MaterialPanel(stage), tr("Material"), QStringLiteral("materialDock"));
+    addPanel(new PerspectiveMatchPanel(stage), tr("Perspective match"),
+             QStringLiteral("matchDock"));
+    addPanel(new PlatesPanel(stage), tr("Scene plates"), QStringLiteral("platesDock"));
 }
 
 QDockWidget* PanelDocks::addDock(QWidget* content, const QString& title, const QString& name)

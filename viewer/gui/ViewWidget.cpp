@@ -2,6 +2,7 @@
 #include "viewer/gui/ViewWidget.h"
 
 #include "viewer/gui/CursorShapes.h"
+#include "viewer/gui/SelectionRectangle.h"
 #include "viewer/gui/TextPainter.h"
 
 #include <QDragEnterEvent>
@@ -119,7 +120,7 @@ QImage ViewWidget::takePicture(QString& error)
                     .arg(QString::fromStdString(pictureView.getError()));
         return picture;
     }
-    paintTextsOver(picture);
+    paintOverlayOver(picture);
     return picture;
 }
 
@@ -130,14 +131,25 @@ QSize ViewWidget::logicalSize() const
     return { qRound(px.width() / ratio), qRound(px.height() / ratio) };
 }
 
-void ViewWidget::paintTextsOver(QImage& picture) const
+void ViewWidget::paintOverlayOver(QImage& picture) const
 {
-    if (!hasVisibleTexts(logicalSize())) {
+    if (!hasOverlay()) {
         return;
     }
     picture = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
     QPainter painter(&picture);
     painter.scale(devicePixelRatioF(), devicePixelRatioF());
+    paintOverlay(painter);
+}
+
+bool ViewWidget::hasOverlay() const
+{
+    return hasVisibleTexts(logicalSize()) || hasSelectionRectangle(renderWidget);
+}
+
+void ViewWidget::paintOverlay(QPainter& painter) const
+{
+    paintSelectionRectangle(painter, renderWidget, devicePixelRatioF());
     paintTexts(painter, logicalSize());
 }
 
@@ -203,9 +215,9 @@ void ViewWidget::paintGL()
     const QSize size = sizePx();
     renderAction.render(renderWidget.getViewport(), size.width(), size.height(),
                         defaultFramebufferObject());
-    if (hasVisibleTexts(logicalSize())) {
+    if (hasOverlay()) {
         QPainter painter(this);
-        paintTexts(painter, logicalSize());
+        paintOverlay(painter);
     }
     emit stateChanged();
 }

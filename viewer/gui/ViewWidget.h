@@ -70,7 +70,11 @@ private:
     void cursorChanged(Qt::CursorShape shape) override;
     void adoptSize();
     QSize logicalSize() const;
-    void paintTextsOver(QImage& picture) const;
+    /// Whether something is painted over the picture.
+    bool hasOverlay() const;
+    /// @param painter  in logical pixels of the view
+    void paintOverlay(QPainter& painter) const;
+    void paintOverlayOver(QImage& picture) const;
     void updateCursor();
     void releaseGraphics();
 

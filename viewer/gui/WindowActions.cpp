@@ -192,6 +192,10 @@ void WindowActions::addManipulatorMenu()
     addCommand(menu, "scene.addClipPlane", tr("Add cl&ip plane"), "Shift+X");
     removeClipPlane = addCommand(menu, "scene.removeClipPlane", tr("Remo&ve clip plane"), "");
     menu->addSeparator();
+    editPlates = addCommand(menu, "plates.edit", tr("&Edit scene plates"), "Shift+P");
+    editPlates->setCheckable(true);
+    removePlates = addCommand(menu, "plates.remove", tr("&Delete scene plates"), "Del");
+    menu->addSeparator();
     addTransformSettings(menu);
 }
 
@@ -293,6 +297,9 @@ void WindowActions::update()
 
 void WindowActions::updateGizmos()
 {
+    const auto arePlatesEdited = stage.commands().value(QStringLiteral("plates.edit"));
+    editPlates->setChecked(arePlatesEdited && arePlatesEdited->toBool());
+    removePlates->setEnabled(editPlates->isChecked());
     if (stage.activeTool() == nullptr) {
         gizmoActions[stage.gizmo().shown()]->setChecked(true);
         return;

@@ -67,6 +67,8 @@ private:
     QAction* snapping = nullptr;
     QAction* centerPivots = nullptr;
     QAction* removeClipPlane = nullptr;
+    QAction* editPlates = nullptr;
+    QAction* removePlates = nullptr;
     QMenu* stepsMenu = nullptr;
     StepsPanel* stepsPanel = nullptr;
     QAction* orthographic = nullptr;

@@ -58,6 +58,7 @@ void OpenStep::clear()
 {
     transforms.clear();
     records.clear();
+    met.clear();
     title.clear();
     literalTitle = nullptr;
 }

@@ -7,6 +7,7 @@
 #include <QtCore/QString>
 
 #include <memory>
+#include <unordered_set>
 #include <vector>
 
 /// Records of a step, in the order of the edits.
@@ -19,6 +20,9 @@ public:
     TransformTable& getTransforms() { return transforms; }
 
     void add(std::unique_ptr<nbUndoRecord> entry) { records.push_back(std::move(entry)); }
+
+    /// Remembers a container. @return whether it was not known yet
+    bool meet(osg::UInt32 containerId) { return met.insert(containerId).second; }
 
     /// Names the step unless it has a name. A literal is translated only when it is asked for.
     void offerTitle(const QString& text);
@@ -40,6 +44,7 @@ public:
 private:
     TransformTable transforms;
     StepRecords records;
+    std::unordered_set<osg::UInt32> met;
     QString title;
     const char* literalTitle = nullptr;
 };

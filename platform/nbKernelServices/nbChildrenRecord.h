@@ -2,6 +2,7 @@
 #pragma once
 
 #include <nbKernelServices/nbUndoRecord.h>
+#include <nbUtils/nbPlatformExport.h>
 
 #include <OpenSG/OSGConfig.h>
 #include <OpenSG/OSGNode.h>
@@ -9,15 +10,13 @@
 
 #include <vector>
 
-namespace viewer {
-
 /// Undo record of edits to what hangs below some nodes. Keeps nodes that were taken out alive.
-class ChildrenRecord : public nbUndoRecord
+class NB_PLATFORM_API nbChildrenRecord : public nbUndoRecord
 {
 public:
     /// Remembers the children that the nodes have now; made before the edit.
     /// @param parents  a node may be named twice
-    explicit ChildrenRecord(const std::vector<osg::NodePtr>& parents);
+    explicit nbChildrenRecord(const std::vector<osg::NodePtr>& parents);
 
     bool close() override;
     void undo() override;
@@ -37,5 +36,3 @@ private:
 
     std::vector<Entry> entries;
 };
-
-}  // namespace viewer

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "viewer/core/ChildrenRecord.h"
+#include "nbChildrenRecord.h"
 
 #include <nbOpenSGUtils/nbEdit.h>
 
 #include <algorithm>
 
-namespace viewer {
 namespace {
 
 std::vector<osg::NodeRefPtr> childrenOf(const osg::NodePtr& parent)
@@ -19,7 +18,7 @@ std::vector<osg::NodeRefPtr> childrenOf(const osg::NodePtr& parent)
 
 }  // namespace
 
-ChildrenRecord::ChildrenRecord(const std::vector<osg::NodePtr>& parents)
+nbChildrenRecord::nbChildrenRecord(const std::vector<osg::NodePtr>& parents)
 {
     for (const osg::NodePtr& parent : parents) {
         const bool isKnown =
@@ -31,7 +30,7 @@ ChildrenRecord::ChildrenRecord(const std::vector<osg::NodePtr>& parents)
     }
 }
 
-bool ChildrenRecord::close()
+bool nbChildrenRecord::close()
 {
     bool isChanged = false;
     for (Entry& entry : entries) {
@@ -41,17 +40,17 @@ bool ChildrenRecord::close()
     return isChanged;
 }
 
-void ChildrenRecord::undo()
+void nbChildrenRecord::undo()
 {
     restore(&Entry::before);
 }
 
-void ChildrenRecord::redo()
+void nbChildrenRecord::redo()
 {
     restore(&Entry::after);
 }
 
-void ChildrenRecord::restore(Children Entry::*state)
+void nbChildrenRecord::restore(Children Entry::*state)
 {
     // All are emptied first: a child that changes its parent must be free.
     for (const Entry& entry : entries) {
@@ -69,5 +68,3 @@ void ChildrenRecord::restore(Children Entry::*state)
         }
     }
 }
-
-}  // namespace viewer

@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "manipulator/AbstractManipulator.h"
+#include "manipulator/PerspectiveMatchLine.h"
+
+#include <nbKernelServices/nbCameraTypes.h>
+#include <nbKernelServices/nbdCameraNode.h>
+#include <nbKernelServices/nbdObject.h>
+#include <nbOpenSGExt/Line2D.h>
+#include <nbOpenSGUberCamera/UberCamera.h>
+
+#include <QtCore/QByteArray>
+#include <QtCore/QObject>
+
+#include <array>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace nbec::manipulator {
+
+namespace detail {
+class PerspectiveMatchVisualisation;
+}  // namespace detail
+
+/// Edits the vanishing lines of a camera's perspective match by dragging them in the view.
+///
+/// The six lines, two along each axis of the world, are drawn over the scene with a ring around
+/// each end. A drag of a ring moves that end, a drag of the line between them the whole line; the
+/// new line is always that of the drag's start plus the pointer's way since then. Each step of a
+/// drag is written to the match as one undo step, and the host derives the camera's orientation and
+/// field of view from the lines. While an end is held a magnifier shows what lies under it.
+///
+/// Line coordinates have their origin in the lower left corner of the main render widget's
+/// viewport and y up; their unit is the viewport's height for a camera that is sized vertically,
+/// otherwise its width. Ends come before lines under the pointer and the nearest wins, within 4
+/// logical pixels of what is drawn. Lines of axes that the match's vanishing-lines type does not
+/// use are drawn faintly and can be moved all the same.
+///
+/// The overlay is found by this manipulator alone, not by the context's picker; that one only says
+/// how many device pixels a logical pixel has.
+///
+/// The camera is held by its container id: one that is gone reads as none. A locked camera node
+/// refuses edits silently. Changes of a match that are made elsewhere are drawn when the host's
+/// object service announces them.
+class NB_MANIPULATOR_API PerspectiveMatchManipulator : public QObject, public AbstractManipulator
+{
+    Q_OBJECT
+
+public:
+    /// Builds the overlay, hidden, connects to the host's object service and joins the list of live
+    /// instances. Without that service it says so on standard error, and changes made elsewhere are
+    /// not drawn.
+    PerspectiveMatchManipulator();
+    PerspectiveMatchManipulator(const PerspectiveMatchManipulator&) = delete;
+    PerspectiveMatchManipulator& operator=(const PerspectiveMatchManipulator&) = delete;
+
+    /// Shows the overlay and follows the render widgets' sizes.
+    void activate(ManipulatorInteractionContext* ctx) override;
+    /// Hides the overlay and forgets the camera: setCamera() must be called again.
+    void deactivate(ManipulatorInteractionContext* ctx) override;
+    /// Root of the overlay.
+    osg::NodePtr getVisualisation() override;
+    /// The same.
+    osg::NodePtr getCollider() override;
+    /// Draws the lines anew, if active. @param force  false does nothing
+    void update(bool force) override;
+
+    /// Takes hold of what is under the pointer. @return false unless hovered, or with nothing there
+    bool startManipulator(ManipulatorInteractionContext* ctx, const std::string& tool) override;
+    /// The first call of a grab notes where it begins, the next ones move the line.
+    /// @return false if nothing is held, or without a render widget with a viewport
+    bool processManipulator(ManipulatorInteractionContext* ctx, const std::string& tool) override;
+    /// Lets go. @return false if nothing was held
+    bool stopManipulator(ManipulatorInteractionContext* ctx, const std::string& tool) override;
+    /// Highlights what is under the pointer. @return false if that is nothing, or while grabbed
+    bool hoverManipulator(ManipulatorInteractionContext* ctx, const std::string& tool) override;
+    /// Ends hovering. @return true
+    bool resetManipulator(ManipulatorInteractionContext* ctx, const std::string& tool) override;
+
+    /// Unregisters the instance and releases the overlay.
+    ~PerspectiveMatchManipulator() override;
+
+    /// Sets the camera whose lines are shown. @param camera  null shows none; no count is held
+    void setCamera(osg::UberCameraPtr camera);
+
+    /// The line under the pointer or grabbed, as of the last event; NoLine for none.
+    PerspectiveMatchLine getHoveredLine() const
+    {
+        return hovered || grabbed ? line : PerspectiveMatchLine::NoLine;
+    }
+
+    /// Its part: 0 none, 1 the line between the ends, 2 the first end, 3 the second end.
+    osg::UInt32 getHoveredPart() const { return hovered || grabbed ? handle : 0; }
+
+private:
+    void connectToServices() const;
+    Q_SLOT void propertyChanged(const nbdObject& object, const QByteArray& property);
+    void updateManipulator();
+    nbdCameraNode getNbdCameraNode() const;
+    osg::Line2D getLine(PerspectiveMatchLine which) const;
+    void setLine(PerspectiveMatchLine which, const osg::Line2D& value);
+    nbCameraTypes::VanishingLinesType getVanishingLinesType() const;
+
+    osg::Pnt2f pointerFromBelow() const;
+    osg::NodePtr pickNode() const;
+    bool detectMode(const osg::NodePtr& node);
+    bool updateMode();
+    void prepareManipulator(const osg::Pnt2f& pointerPx);
+    void translate(const osg::Pnt2f& pointerPx);
+    void startDrag();
+    void stopDrag();
+    void startHighlight();
+    void stopHighlight();
+    void showManipulator();
+    void hideManipulator();
+    void takePixelRatio(ManipulatorInteractionContext* ctx);
+
+    bool isEndHeld() const;
+    void updateMagnifier();
+    void updateMagnifierVisibility();
+    void updateMagnifierPosition();
+    void updateMagnifierScaleFactor();
+
+    static void updateAllManipulators();
+
+    static const std::array<PerspectiveMatchLine, 6> kLines;
+    static std::vector<PerspectiveMatchManipulator*> _allManipulators;
+
+    osg::UInt32 cameraId = 0;
+    std::unique_ptr<detail::PerspectiveMatchVisualisation> visualisation;
+    PerspectiveMatchLine line = PerspectiveMatchLine::NoLine;
+    osg::UInt32 handle = 0;
+    osg::Pnt2f dragStart;
+    osg::Line2D lineAtDragStart;
+    bool hovered = false;
+    bool grabbed = false;
+    bool dragging = false;
+};
+
+}  // namespace nbec::manipulator

@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+#include "MatchState.h"
+
+#include <nbKernelServices/nbQRPCConverter.h>
+#include <nbOpenSGUberCamera/nbUberCameraPool.h>
+
+#include <cmath>
+#include <cstring>
+#include <iterator>
+#include <unordered_map>
+
+namespace {
+
+/// By container id of the camera.
+using States = std::unordered_map<osg::UInt32, MatchState>;
+
+States& states()
+{
+    static States all;
+    return all;
+}
+
+void dropLostCameras()
+{
+    States& all = states();
+    for (auto state = all.begin(); state != all.end();) {
+        state = nbUberCameraPool::get(state->first) == osg::NullFC ? all.erase(state)
+                                                                   : std::next(state);
+    }
+}
+
+}  // namespace
+
+ViewShape ViewShape::of(const osg::UberCamera& camera)
+{
+    const double ratio = camera.getViewAspect();
+    const double aspect = std::isfinite(ratio) && ratio > 0.0 ? ratio : 1.0;
+    return camera.getHorizontalSizing() ? ViewShape { 1.0, 1.0 / aspect }
+                                        : ViewShape { aspect, 1.0 };
+}
+
+bool MatchState::isLineSame(const MatchState& other, int line) const
+{
+    // The comparison of QLineF forgives small differences.
+    static_assert(sizeof(QLineF) == 4 * sizeof(qreal));
+    return std::memcmp(&lines[line], &other.lines[line], sizeof(QLineF)) == 0;
+}
+
+bool MatchState::isSame(const MatchState& other) const
+{
+    for (int line = 0; line < nbdPerspectiveMatch::kLineCount; ++line) {
+        if (!isLineSame(other, line)) {
+            return false;
+        }
+    }
+    return type == other.type && magnifyFactor == other.magnifyFactor && fovMode == other.fovMode &&
+        anchoredToCentre == other.anchoredToCentre;
+}
+
+bool MatchState::isSameInSinglePrecision(const MatchState& other) const
+{
+    const auto rounded = [](const MatchState& state) {
+        MatchState result = state;
+        for (QLineF& line : result.lines) {
+            line = nbQRPCConverter::fromLine2D(nbQRPCConverter::toLine2D(line));
+        }
+        return result;
+    };
+    return shape.width == other.shape.width && shape.height == other.shape.height &&
+        rounded(*this).isSame(rounded(other));
+}
+
+void MatchState::settle(const ViewShape& now)
+{
+    if (anchoredToCentre && (now.width != shape.width || now.height != shape.height)) {
+        const QPointF way(0.5 * (now.width - shape.width), 0.5 * (now.height - shape.height));
+        for (QLineF& line : lines) {
+            line.translate(way);
+        }
+    }
+    shape = now;
+}
+
+MatchState& MatchTable::of(const osg::UberCameraPtr& camera)
+{
+    const osg::UInt32 id = camera.getFieldContainerId();
+    auto found = states().find(id);
+    if (found == states().end()) {
+        // Ids are never used again, so entries that are left over only cost memory.
+        dropLostCameras();
+        found = states().emplace(id, MatchState()).first;
+    }
+    found->second.settle(ViewShape::of(*camera));
+    return found->second;
+}
+
+MatchState* MatchTable::find(osg::UInt32 cameraNodeId)
+{
+    const osg::UberCameraPtr camera = nbUberCameraPool::getByNode(cameraNodeId);
+    return camera != osg::NullFC ? &of(camera) : nullptr;
+}

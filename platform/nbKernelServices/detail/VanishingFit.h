@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtCore/QLineF>
+
+#include <vector>
+
+#include <Eigen/Core>
+
+/// Fit of a camera's orientation and focal length to lines of its picture, in double precision.
+/// Everything is about the middle of the picture, in reference sizes, y up.
+namespace nbmatch {
+
+using Vector2 = Eigen::Vector2d;
+using Vector3 = Eigen::Vector3d;
+using Matrix3 = Eigen::Matrix3d;
+
+/// A line of the picture that runs along an axis of the world.
+struct Edge
+{
+    int axis;  ///< 0 x, 1 y, 2 z
+    Vector2 middle;
+    Vector2 direction;  ///< unit length
+    double halfLength;
+
+    /// The line through it: a x + b y + c = 0 with a^2 + b^2 = 1.
+    Vector3 throughLine() const
+    {
+        const Vector2 normal(-direction.y(), direction.x());
+        return { normal.x(), normal.y(), -normal.dot(middle) };
+    }
+};
+
+/// @param line  of a length above 0
+Edge makeEdge(int axis, const QLineF& line);
+
+/// What is looked for: the camera looks along its -z.
+struct Aim
+{
+    Matrix3 cameraFromWorld = Matrix3::Identity();
+    double focalLength = 1.0;
+};
+
+/// The rotation with the smallest sum of squared differences to a matrix of determinant >= 0.
+Matrix3 nearestRotation(const Matrix3& matrix);
+
+/// Sum over the edges of the square of the way that the ends must move, across the line and in
+/// opposite directions, for the line to pass the vanishing point of its axis.
+double squaredError(const std::vector<Edge>& edges, const Aim& aim);
+
+/// Least squares of squaredError by Gauss-Newton with damping, from a start that is near.
+/// @param isFovFree  whether the focal length is fitted too
+/// @return never worse than the start
+Aim fit(const std::vector<Edge>& edges, const Aim& start, bool isFovFree);
+
+}  // namespace nbmatch

@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <nbKernelServices/nbCameraTypes.h>
+#include <nbOpenSGUberCamera/nbCameraNavigation.h>
+#include <nbUtils/nbPlatformExport.h>
+
+#include <OpenSG/OSGVector.h>
+
+#include <QtCore/QLineF>
+
+#include <array>
+
+/// How a camera looks: orientation and opening, as values in double precision.
+struct PerspectiveAim
+{
+    /// Axes of the camera in the world, orthonormal; back points from the scene to the eye.
+    osg::Vec3d right { 1.0, 0.0, 0.0 };
+    osg::Vec3d up { 0.0, 1.0, 0.0 };
+    osg::Vec3d back { 0.0, 0.0, 1.0 };
+    /// Distance of eye and picture in reference sizes of the picture: 0.5 / tan(fov / 2) with the
+    /// opening angle across the reference size. > 0
+    double focalLength = 1.0;
+};
+
+/// Two lines for each of x, y and z, as in nbdPerspectiveMatch: reference sizes, y up.
+using PerspectiveLines = std::array<QLineF, 6>;
+
+/// What is known of a picture whose camera is looked for.
+struct PerspectiveProblem
+{
+    PerspectiveLines lines;
+    nbCameraTypes::VanishingLinesType type = nbCameraTypes::XYZLines;
+    nbCameraTypes::FovMode fovMode = nbCameraTypes::SolvedFov;
+    /// Size of the picture in reference sizes; one of them is 1. The view axis meets its middle.
+    double width = 1.0;
+    double height = 1.0;
+    /// The camera as it stands: where the lines leave a choice, the nearest is taken.
+    PerspectiveAim start;
+};
+
+/// What came of it; aim is that of the problem's start unless isSolved(result).
+struct PerspectiveSolution
+{
+    nbCameraTypes::MatchResult result = nbCameraTypes::NoCamera;
+    PerspectiveAim aim;
+};
+
+/// Arithmetic of a perspective match: which camera shows edges along the world's axes in given
+/// directions of its picture. Knows no camera and no view.
+///
+/// With the middle of the picture as origin, focal length f and homogeneous coordinates (x, y, w),
+/// the two lines of an axis meet in its vanishing point v = l1 x l2, and the axis has the direction
+/// (x, y, -f w) in the camera's frame, or the opposite one. Axes are perpendicular, so two of them
+/// give f^2 = -(x1 x2 + y1 y2) / (w1 w2), and the directions, brought to the nearest rotation, the
+/// orientation. From there a Gauss-Newton iteration with damping finds the least squares of how far
+/// the ends of the lines must move, each line turning about its middle, to point at the vanishing
+/// points of one camera: with exact lines that changes nothing, and with three axes it is the best
+/// fit to all six lines.
+///
+/// Which camera is taken where the lines leave a choice:
+/// - Lines do not tell an axis from its opposite: of the orientations that fit, right-handed all of
+///   them, the one with the smallest turn from the start is taken.
+/// - The field of view is kept, and the orientation is the best fit to it, if it is fixed; if fewer
+///   than two vanishing points lie within kFarthestVanishingPoint of the middle, since lines that
+///   are parallel in the picture say nothing about it; or if no opening angle from kSmallestFovDeg
+///   to kLargestFovDeg fits (perpendicular axes are never seen at an acute angle from the middle).
+class NB_PLATFORM_API nbPerspectiveSolver
+{
+public:
+    /// Vanishing points beyond count as infinitely far, reference sizes.
+    static constexpr double kFarthestVanishingPoint = 200.0;
+    /// Opening angles that are taken from lines, across the reference size, degrees.
+    static constexpr double kSmallestFovDeg = 0.25;
+    static constexpr double kLargestFovDeg = 170.0;
+    /// Shorter lines have no direction, reference sizes.
+    static constexpr double kShortestLine = 1e-4;
+    /// Lines of an axis, all of whose ends are nearer than this to the other line, are identical,
+    /// reference sizes.
+    static constexpr double kIdenticalDistance = 1e-5;
+    /// Ends of lines farther from the lower left corner are not used, reference sizes.
+    static constexpr double kFarthestEnd = 1e4;
+    /// Axes whose directions differ by less, or by less from opposite ones, contradict each other;
+    /// sine of the angle.
+    static constexpr double kSmallestAxisSine = 1e-3;
+
+    static PerspectiveSolution solve(const PerspectiveProblem& problem);
+
+    /// How a pose of a perspective camera looks at a picture of a height in reference sizes.
+    static PerspectiveAim aimOf(const CameraPose& pose, double height);
+
+    /// A pose that is turned and opened so that it looks as given. The point that it turns about,
+    /// the pivot or else, if that is not before the eye, at, keeps its place in the camera's frame;
+    /// at lies on the new view axis at its old distance.
+    /// @param height  of the picture, reference sizes
+    static CameraPose turned(const CameraPose& start, const PerspectiveAim& aim, double height);
+
+    /// Lines along edges of a box about the pivot (or at, as above) as a pose sees it, of each axis
+    /// the two edges that are farthest apart in the picture. Solving them gives the pose back,
+    /// unless it looks along an axis.
+    static PerspectiveLines linesOf(const CameraPose& pose, double width, double height);
+};

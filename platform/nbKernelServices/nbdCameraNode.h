@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <nbKernelServices/nbCameraTypes.h>
+#include <nbKernelServices/nbdNode.h>
+#include <nbKernelServices/nbdPerspectiveMatch.h>
+#include <nbOpenSGUberCamera/UberCamera.h>
+
+/// Refers to a camera by its internal parent node (osg::UberCamera::getInternalParentNode).
+class NB_PLATFORM_API nbdCameraNode : public nbdNode
+{
+public:
+    /// A null camera.
+    nbdCameraNode() = default;
+
+    /// @param nodeId  container id of a camera's internal parent node; other ids make a null camera
+    explicit nbdCameraNode(osg::UInt32 nodeId)
+        : nbdNode(Kind::CameraNode, nodeId)
+    { }
+
+    /// The camera that an object is, or whose internal parent node it is; else null.
+    explicit nbdCameraNode(const nbdObject& object);
+
+    /// The camera itself; null for a null object.
+    osg::UberCameraPtr getCamera() const;
+
+    /// The camera's perspective match, which every camera has; null for a null camera.
+    nbdPerspectiveMatch getPerspectiveMatch() const;
+
+    /// What the match does to the field of view; SolvedFov for a null camera. Property "fovMode".
+    nbCameraTypes::FovMode getFovMode() const;
+    /// Numbers that are no mode are ignored.
+    void setFovMode(nbCameraTypes::FovMode mode) const;
+
+    /// Turns the camera, and sets its field of view, so that it shows edges along the world's axes
+    /// in the directions that the lines of its match have in the picture. Properties "orientation"
+    /// and "fov". Asks nobody whether the camera is locked.
+    ///
+    /// The pivot stays where it is in the camera's frame: eye and centre turn about it at their
+    /// distance, so that what stood at the pivot is still in view and as far away. A pivot that is
+    /// not before the eye leaves this to the centre. Nothing else moves. Pixels are taken as
+    /// square. See nbPerspectiveSolver for which camera is taken where the lines leave a choice.
+    /// @return what came of it; where it is not solved the camera is untouched
+    nbCameraTypes::MatchResult updateFromPerspectiveMatch() const;
+
+    /// What updateFromPerspectiveMatch() would answer now, without moving anything.
+    nbCameraTypes::MatchResult checkPerspectiveMatch() const;
+
+    /// Lays the lines of the match along the edges of a box at the pivot as the camera sees it now,
+    /// so that solving them leaves the camera as it is: a start for laying them elsewhere.
+    void layLinesAsSeen() const;
+};

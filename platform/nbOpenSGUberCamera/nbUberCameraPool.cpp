@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#include <nbOpenSGUberCamera/nbUberCameraPool.h>
+
+#include <OpenSG/OSGFieldContainerFactory.h>
+
+#include <algorithm>
+
+namespace {
+
+struct PoolEntry
+{
+    osg::UInt32 cameraId;
+    osg::UInt32 nodeId;
+};
+
+/// Entries of cameras that are gone stay until the next one comes: ids are never used again.
+std::vector<PoolEntry>& entries()
+{
+    static std::vector<PoolEntry> all;
+    return all;
+}
+
+}  // namespace
+
+osg::UberCameraPtr nbUberCameraPool::get(osg::UInt32 id)
+{
+    if (id == 0) {
+        return osg::NullFC;
+    }
+    return osg::UberCameraPtr::dcast(osg::FieldContainerFactory::the()->getContainer(id));
+}
+
+osg::UberCameraPtr nbUberCameraPool::getByNode(osg::UInt32 nodeId)
+{
+    const auto found = std::find_if(entries().begin(), entries().end(),
+                                    [nodeId](const auto& entry) { return entry.nodeId == nodeId; });
+    return found != entries().end() ? get(found->cameraId) : osg::UberCameraPtr(osg::NullFC);
+}
+
+std::vector<osg::UberCameraPtr> nbUberCameraPool::getAll()
+{
+    std::vector<osg::UberCameraPtr> result;
+    for (const PoolEntry& entry : entries()) {
+        const osg::UberCameraPtr camera = get(entry.cameraId);
+        if (camera != osg::NullFC) {
+            result.push_back(camera);
+        }
+    }
+    return result;
+}
+
+void nbUberCameraPool::add(osg::UInt32 cameraId, osg::UInt32 nodeId)
+{
+    std::vector<PoolEntry>& all = entries();
+    all.erase(
+        std::remove_if(all.begin(), all.end(),
+                       [](const PoolEntry& entry) { return get(entry.cameraId) == osg::NullFC; }),
+        all.end());
+    all.push_back({ cameraId, nodeId });
+}

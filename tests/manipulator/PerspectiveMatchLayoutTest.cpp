@@ -1,0 +1,276 @@
+// SPDX-License-Identifier: MIT
+#include "manipulator/detail/PerspectiveMatchLayout.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <utility>
+
+namespace nbec::manipulator::detail {
+
+namespace {
+
+using Kind = VanishingPoint::Kind;
+
+constexpr float kTolerance = 1e-5F;
+/// Closed ends of dashes are rounded to floats.
+constexpr float kOnLine = 1e-5F;
+
+osg::Line2D line(float x1, float y1, float x2, float y2)
+{
+    return osg::Line2D(osg::Pnt2f(x1, y1), osg::Pnt2f(x2, y2));
+}
+
+MatchView viewOf(int widthPx, int heightPx, float referencePx, float pixelRatio = 1.0F)
+{
+    MatchView view;
+    view.widthPx = widthPx;
+    view.heightPx = heightPx;
+    view.referencePx = referencePx;
+    view.pixelRatio = pixelRatio;
+    return view;
+}
+
+/// All lines empty but the given ones.
+MatchLines linesWith(std::initializer_list<std::pair<PerspectiveMatchLine, osg::Line2D>> given)
+{
+    MatchLines lines;
+    for (const auto& [number, value] : given) {
+        lines.lines[matchLineIndex(number)] = value;
+    }
+    return lines;
+}
+
+float distanceToLine(const osg::Pnt3f& point, const osg::Line2D& onLine)
+{
+    const osg::Vec2f along = onLine.getDirection();
+    const osg::Vec2f from = osg::Pnt2f(point.x(), point.y()) - onLine.getFirst();
+    return std::fabs(along.x() * from.y() - along.y() * from.x()) / along.length();
+}
+
+}  // namespace
+
+TEST(PerspectiveMatchLayout, LineUnitsFillTheViewFromItsLowerLeftCorner)
+{
+    for (const MatchView& view : { viewOf(1600, 1000, 1000), viewOf(601, 907, 601) }) {
+        const osg::Matrix matrix = clipFromLineUnits(view);
+        osg::Pnt3f low(0, 0, 0);
+        osg::Pnt3f high(static_cast<float>(view.widthPx) / view.referencePx,
+                        static_cast<float>(view.heightPx) / view.referencePx, 0);
+        matrix.multFullMatrixPnt(low);
+        matrix.multFullMatrixPnt(high);
+        EXPECT_TRUE(low.equals(osg::Pnt3f(-1, -1, 0), kTolerance));
+        EXPECT_TRUE(high.equals(osg::Pnt3f(1, 1, 0), kTolerance));
+    }
+}
+
+TEST(PerspectiveMatchLayout, EndsComeBeforeLinesAndTheNearestWins)
+{
+    using Line = PerspectiveMatchLine;
+    // X1 runs along y = 500 px from x = 200 to 800, Z1 crosses it at x = 400.
+    const MatchLines lines = linesWith({ { Line::XLine1, line(0.2F, 0.5F, 0.8F, 0.5F) },
+                                         { Line::ZLine1, line(0.4F, 0.1F, 0.4F, 0.9F) },
+                                         { Line::YLine2, line(0.812F, 0.5F, 0.9F, 0.9F) } });
+
+    struct Row
+    {
+        const char* name;
+        float x, y;
+        MatchPart expected;
+    };
+
+    const Row rows[] = {
+        { "first end", 200, 500, { Line::XLine1, kFirstEnd } },
+        { "an end nearly 10 px away, the line under the pointer",
+          209,
+          500,
+          { Line::XLine1, kFirstEnd } },
+        { "beyond the end's reach", 211, 500, { Line::XLine1, kLineBody } },
+        { "5 px beside the line", 600, 505, { Line::XLine1, kLineBody } },
+        { "more than 5 px beside it", 600, 505.5F, {} },
+        { "the nearer line at a crossing", 401, 502, { Line::ZLine1, kLineBody } },
+        { "between two ends, nearer to the first one", 805, 500, { Line::XLine1, kSecondEnd } },
+        { "between two ends, nearer to the other one", 808, 500, { Line::YLine2, kFirstEnd } },
+        { "on the course of the line, but beyond its end", 180, 500, {} },
+        { "nothing near", 100, 900, {} }
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(partUnderPointer(lines, viewOf(1600, 1000, 1000), osg::Pnt2f(row.x, row.y)),
+                  row.expected)
+            << row.name;
+    }
+    EXPECT_EQ(partUnderPointer(lines, viewOf(1600, 1000, 1000, 2), osg::Pnt2f(600, 510)),
+              (MatchPart { Line::XLine1, kLineBody }))
+        << "two device pixels per logical pixel";
+    EXPECT_FALSE(partUnderPointer(lines, MatchView(), osg::Pnt2f(0, 0)).isSet()) << "no view";
+}
+
+TEST(PerspectiveMatchLayout, OfPartsAtOneDistanceThatOfAUsedAxisWins)
+{
+    using Line = PerspectiveMatchLine;
+    const osg::Line2D same = line(0.2F, 0.2F, 0.6F, 0.6F);
+    MatchLines lines = linesWith({ { Line::XLine2, same }, { Line::YLine1, same } });
+    const MatchView view = viewOf(1000, 1000, 1000);
+
+    EXPECT_EQ(partUnderPointer(lines, view, osg::Pnt2f(200, 200)).line, Line::XLine2);
+    lines.isAxisUsed = { false, true, true };
+    EXPECT_EQ(partUnderPointer(lines, view, osg::Pnt2f(200, 200)).line, Line::YLine1);
+    EXPECT_EQ(partUnderPointer(lines, view, osg::Pnt2f(400, 400)),
+              (MatchPart { Line::YLine1, kLineBody }));
+}
+
+TEST(PerspectiveMatchLayout, OnlyLinesThatCanBeDrawnAreHit)
+{
+    const float nan = std::numeric_limits<float>::quiet_NaN();
+    EXPECT_FALSE(isMatchLineShown(osg::Line2D()));
+    EXPECT_FALSE(isMatchLineShown(line(0.1F, nan, 0.2F, 0.3F)));
+    EXPECT_FALSE(isMatchLineShown(line(0.1F, 0.1F, std::numeric_limits<float>::infinity(), 0.3F)));
+    EXPECT_TRUE(isMatchLineShown(line(0.0F, 0.0F, 0.3F, 0.0F)));
+    const osg::Line2D collapsed = line(0.3F, 0.3F, 0.3F, 0.3F);
+    EXPECT_TRUE(isMatchLineShown(collapsed)) << "its ends can be pulled apart";
+
+    const MatchView view = viewOf(1000, 1000, 1000);
+    const MatchLines lines = linesWith({ { PerspectiveMatchLine::ZLine2, collapsed } });
+    EXPECT_EQ(partUnderPointer(lines, view, osg::Pnt2f(303, 300)),
+              (MatchPart { PerspectiveMatchLine::ZLine2, kFirstEnd }));
+    EXPECT_FALSE(partUnderPointer(lines, view, osg::Pnt2f(0, 0)).isSet()) << "of an empty line";
+}
+
+TEST(PerspectiveMatchLayout, VanishingPoints)
+{
+    struct Row
+    {
+        const char* name;
+        osg::Line2D first, second;
+        Kind kind;
+        osg::Vec2d place;
+    };
+
+    const Row rows[] = {
+        { "they meet at (2, 0.5)",
+          line(0, 0, 1, 0.25F),
+          line(0, 1, 1, 0.75F),
+          Kind::Point,
+          { 2, 0.5 } },
+        { "between their ends", line(0, 0, 1, 1), line(0, 1, 1, 0), Kind::Point, { 0.5, 0.5 } },
+        { "parallel", line(0, 0, 1, 0), line(0.5F, 1, 3, 1), Kind::Direction, { 1, 0 } },
+        { "beyond what counts",
+          line(0, 0, 1, 0),
+          line(0, 1, 1, 0.999F),
+          Kind::Direction,
+          { 1, 0 } },
+        { "one line twice", line(0, 0, 1, 0.5F), line(2, 1, 4, 2), Kind::None, {} },
+        { "no length", line(0.5F, 0.5F, 0.5F, 0.5F), line(0, 1, 1, 0), Kind::None, {} },
+        { "empty", osg::Line2D(), line(0, 1, 1, 0), Kind::None, {} },
+    };
+    for (const Row& row : rows) {
+        const VanishingPoint found = vanishingPointOf(row.first, row.second);
+        EXPECT_EQ(found.kind, row.kind) << row.name;
+        if (row.kind != Kind::None) {
+            EXPECT_NEAR(found.place.x(), row.place.x(), 1e-6) << row.name;
+            EXPECT_NEAR(found.place.y(), row.place.y(), 1e-6) << row.name;
+        }
+    }
+}
+
+TEST(PerspectiveMatchLayout, DashesGoFromTheNearerEndToTheVanishingPoint)
+{
+    using Line = PerspectiveMatchLine;
+    // They meet at (0.9, 0.5), in the view; the second is drawn from right to left.
+    const osg::Line2D first = line(0.1F, 0.1F, 0.5F, 0.3F);
+    const osg::Line2D second = line(0.5F, 0.7F, 0.1F, 0.9F);
+    const MatchLines lines = linesWith({ { Line::YLine1, first }, { Line::YLine2, second } });
+
+    const MatchGuides guides = makeMatchGuides(lines, viewOf(1000, 1000, 1000), 1);
+
+    const MatchGuides::Segments& dashes = guides.axes[1];
+    ASSERT_GT(dashes.size(), 8U);
+    EXPECT_TRUE(dashes.front().equals(osg::Pnt3f(0.5F, 0.3F, 0), kTolerance));
+    const std::size_t crossEnds = 4;
+    for (std::size_t i = 0; i + crossEnds < dashes.size(); ++i) {
+        EXPECT_LT(std::min(distanceToLine(dashes[i], first), distanceToLine(dashes[i], second)),
+                  kOnLine);
+        EXPECT_GE(dashes[i].x(), 0.5F - kTolerance);
+        EXPECT_LE(dashes[i].x(), 0.9F + kTolerance);
+    }
+    osg::Vec3f middle;
+    for (std::size_t i = dashes.size() - crossEnds; i < dashes.size(); ++i) {
+        middle += dashes[i].subZero() * 0.25F;
+    }
+    EXPECT_TRUE(middle.equals(osg::Vec3f(0.9F, 0.5F, 0), kTolerance)) << "the cross";
+    EXPECT_TRUE(guides.axes[0].empty());
+    EXPECT_TRUE(guides.horizon.empty()) << "y is not horizontal";
+}
+
+TEST(PerspectiveMatchLayout, GuidesStayInTheViewHoweverFarTheLinesReach)
+{
+    using Line = PerspectiveMatchLine;
+
+    struct Row
+    {
+        const char* name;
+        osg::Line2D first, second;
+        bool isSeen;
+    };
+
+    const Row rows[] = {
+        { "a far point", line(0.1F, 0.1F, 0.3F, 0.1F), line(0.1F, 0.5F, 0.3F, 0.499F), true },
+        { "parallel", line(0.4F, 0.4F, 0.5F, 0.4F), line(0.4F, 0.6F, 0.5F, 0.6F), true },
+        { "ends far outside", line(-9e3F, 0.5F, -8e3F, 0.5F), line(-9e3F, 9, -8e3F, 8), true },
+        { "away from the view", line(5, 5, 6, 6), line(5, 6, 6, 6.5F), false },
+        { "meeting between their ends", line(0, 0, 1, 1), line(0, 1, 1, 0), true },
+    };
+    const MatchView view = viewOf(900, 600, 600);
+    for (const Row& row : rows) {
+        const MatchLines lines =
+            linesWith({ { Line::ZLine1, row.first }, { Line::ZLine2, row.second } });
+        const MatchGuides::Segments dashes = makeMatchGuides(lines, view, 1).axes[2];
+        EXPECT_EQ(!dashes.empty(), row.isSeen) << row.name;
+        EXPECT_LT(dashes.size(), 1000U) << row.name;
+        for (const osg::Pnt3f& point : dashes) {
+            EXPECT_GE(point.x(), -0.02F) << row.name;
+            EXPECT_LE(point.x(), 1.52F) << row.name;
+            EXPECT_GE(point.y(), -0.02F) << row.name;
+            EXPECT_LE(point.y(), 1.02F) << row.name;
+        }
+    }
+}
+
+TEST(PerspectiveMatchLayout, TheHorizonJoinsTheHorizontalAxes)
+{
+    using Line = PerspectiveMatchLine;
+    // x vanishes at (2, 0.5), z at (-1, 0.5), y at (0.5, 3).
+    MatchLines lines = linesWith({ { Line::XLine1, line(0, 0, 1, 0.25F) },
+                                   { Line::XLine2, line(0, 1, 1, 0.75F) },
+                                   { Line::YLine1, line(0, 0, 0.25F, 1.5F) },
+                                   { Line::YLine2, line(1, 0, 0.75F, 1.5F) },
+                                   { Line::ZLine1, line(1, 0, 0.5F, 0.125F) },
+                                   { Line::ZLine2, line(1, 1, 0.5F, 0.875F) } });
+    const MatchView view = viewOf(1000, 1000, 1000);
+
+    const MatchGuides yUp = makeMatchGuides(lines, view, 1);
+    ASSERT_FALSE(yUp.horizon.empty());
+    for (const osg::Pnt3f& point : yUp.horizon) {
+        EXPECT_NEAR(point.y(), 0.5F, kTolerance);
+    }
+    const float ends[] = { yUp.horizon.front().x(), yUp.horizon.back().x() };
+    EXPECT_LT(std::min(ends[0], ends[1]), 0.03F) << "across the whole view";
+    EXPECT_GT(std::max(ends[0], ends[1]), 0.97F);
+
+    for (const osg::Pnt3f& point : makeMatchGuides(lines, view, 2).horizon) {
+        EXPECT_LT(distanceToLine(point, line(2, 0.5F, 0.5F, 3)), kOnLine) << "z up";
+    }
+    lines.lines[matchLineIndex(Line::XLine2)] = line(0, 1, 1, 1.25F);
+    for (const osg::Pnt3f& point : makeMatchGuides(lines, view, 1).horizon) {
+        EXPECT_LT(distanceToLine(point, line(-1, 0.5F, 3, 1.5F)), kOnLine) << "x parallel";
+    }
+    lines.isAxisUsed = { false, true, true };
+    const MatchGuides partly = makeMatchGuides(lines, view, 1);
+    EXPECT_TRUE(partly.horizon.empty()) << "without x";
+    EXPECT_TRUE(partly.axes[0].empty());
+    EXPECT_FALSE(partly.axes[2].empty());
+}
+
+}  // namespace nbec::manipulator::detail

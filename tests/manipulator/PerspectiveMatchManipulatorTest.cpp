@@ -1,0 +1,526 @@
+// SPDX-License-Identifier: MIT
+#include "manipulator/PerspectiveMatchManipulator.h"
+
+#include "tests/manipulator/support/MatchScene.h"
+
+#include <nbKernel/nbScenegraph.h>
+#include <nbKernelServices/nbKernelServiceFactory.h>
+#include <nbKernelServices/nbObjectService.h>
+#include <nbKernelServices/nbUndoService.h>
+#include <nbMagnifier/nbMagnifierRenderer.h>
+#include <nbOpenSGUberCamera/UberCamera.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
+
+#include <OpenSG/OSGChunkMaterial.h>
+#include <OpenSG/OSGContainerCensus.h>
+#include <OpenSG/OSGGeometry.h>
+
+#include <QtCore/QSignalBlocker>
+#include <QtWidgets/QUndoStack>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <map>
+#include <memory>
+#include <vector>
+
+namespace nbec::manipulator::test {
+
+namespace {
+
+constexpr double kTolerance = 1e-6;
+
+void expectLine(const QLineF& actual, const QLineF& expected, const char* what = "")
+{
+    EXPECT_NEAR(actual.x1(), expected.x1(), kTolerance) << what;
+    EXPECT_NEAR(actual.y1(), expected.y1(), kTolerance) << what;
+    EXPECT_NEAR(actual.x2(), expected.x2(), kTolerance) << what;
+    EXPECT_NEAR(actual.y2(), expected.y2(), kTolerance) << what;
+}
+
+nbObjectService* objectService()
+{
+    return nbKernelServiceFactory::the().find<nbObjectService>();
+}
+
+int stepCount()
+{
+    return nbUndoService::the()->getStack()->count();
+}
+
+class PerspectiveMatchManipulatorTest : public testing::Test
+{
+protected:
+    void SetUp() override { scene.installFor(gizmo); }
+
+    nbdPerspectiveMatch match() const { return scene.match(); }
+
+    /// Changes X line 1 without a word to the manipulator.
+    QLineF changeSilently()
+    {
+        const QSignalBlocker blocker(objectService());
+        const QLineF changed = match().getXLine1().translated(0.02, 0.03);
+        match().setXLine1(changed);
+        return changed;
+    }
+
+    PerspectiveMatchManipulator gizmo;  // outlives the scene, which deactivates it
+    MatchScene scene;
+};
+
+}  // namespace
+
+// == Dragging
+
+TEST_F(PerspectiveMatchManipulatorTest, EachPartMovesWhatBelongsToIt)
+{
+    struct Row
+    {
+        const char* name;
+        double place;  ///< where the line is grabbed, 0 its first end
+        bool movesFirst, movesSecond;
+    };
+
+    const Row rows[] = { { "body", 0.5, true, true },
+                         { "first end", 0.0, true, false },
+                         { "second end", 1.0, false, true } };
+    for (const Row& row : rows) {
+        scene.layLines();
+        const QLineF before = match().getXLine1();
+        const QPointF way(0.01, -0.02);
+
+        scene.drag(before.pointAt(row.place), osg::Vec2f(10, -20));
+
+        expectLine(match().getXLine1(),
+                   QLineF(row.movesFirst ? before.p1() + way : before.p1(),
+                          row.movesSecond ? before.p2() + way : before.p2()),
+                   row.name);
+        expectLine(drawnLine(gizmo, 1), match().getXLine1(), row.name);
+    }
+}
+
+TEST_F(PerspectiveMatchManipulatorTest, EveryLineIsReadAndWrittenUnderItsOwnNumber)
+{
+    using Match = nbdPerspectiveMatch;
+    for (int i = 0; i < Match::kLineCount; ++i) {
+        scene.layLines();
+        std::array<QLineF, Match::kLineCount> expected;
+        for (int j = 0; j < Match::kLineCount; ++j) {
+            expected[j] = match().getLine(Match::Line(j));
+            expectLine(drawnLine(gizmo, j + 1), expected[j]);
+        }
+
+        scene.drag(expected[i].center(), osg::Vec2f(7, 5));
+
+        expected[i].translate(0.007, 0.005);
+        for (int j = 0; j < Match::kLineCount; ++j) {
+            expectLine(match().getLine(Match::Line(j)), expected[j]);
+        }
+    }
+}
+
+TEST_F(PerspectiveMatchManipulatorTest, TheWayCountsFromTheFirstStepOfAGrab)
+{
+    const QLineF before = match().getXLine1();
+    const osg::Pnt2f from = scene.pixelOf(before.center());
+
+    ASSERT_TRUE(scene.grab(before.center()));
+    EXPECT_TRUE(scene.send("process", from + osg::Vec2f(100, 0)));
+    expectLine(match().getXLine1(), before, "the first step moves nothing");
+    EXPECT_EQ(stepCount(), 0);
+    for (int i = 1; i <= 50; ++i) {
+        EXPECT_TRUE(scene.send("process", from + osg::Vec2f(100.0F + static_cast<float>(i), 0)));
+    }
+    expectLine(match().getXLine1(), before.translated(0.05, 0), "nothing adds up");
+    EXPECT_TRUE(scene.send("process", from + osg::Vec2f(100, 0)));
+    expectLine(match().getXLine1(), before, "back at its start");
+    EXPECT_TRUE(scene.send("stop", from));
+}
+
+TEST_F(PerspectiveMatchManipulatorTest, EveryStepButTheFirstIsAnUndoStepWithATitle)
+{
+    const QLineF before = match().getYLine2();
+    const osg::Pnt2f from = scene.pixelOf(before.p2());
+    ASSERT_TRUE(scene.grab(before.p2()));
+    scene.send("process", from);
+    for (int i = 1; i <= 3; ++i) {
+        scene.send("process", from + osg::Vec2f(0, 4.0F * static_cast<float>(i)));
+        EXPECT_EQ(stepCount(), i);
+    }
+    scene.send("process", from);
+    EXPECT_EQ(stepCount(), 4) << "back at its start: one more step";
+    expectLine(match().getYLine2(), before);
+    scene.send("process", from);
+    EXPECT_EQ(stepCount(), 5) << "even if no value changes";
+    nbUndoService::the()->undo();
+    scene.send("stop", from);
+    EXPECT_EQ(stepCount(), 5) << "the one that was undone can be redone";
+
+    EXPECT_EQ(nbUndoService::the()->getStack()->undoText(),
+              "Change Perspective Match lines of camera " + scene.cameraNode().getName());
+    EXPECT_FALSE(scene.cameraNode().getName().isEmpty());
+    nbUndoService::the()->undo();
+    expectLine(match().getYLine2(), QLineF(before.p1(), before.p2() - QPointF(0, 0.012)));
+    expectLine(drawnLine(gizmo, 4), match().getYLine2(), "an undo is drawn");
+}
+
+TEST_F(PerspectiveMatchManipulatorTest, ThePointerIsCountedFromTheLowestRow)
+{
+    // In a view of odd height the line lies exactly in its lowest row.
+    scene.widget.resize(801, 601);
+    match().setZLine2(QLineF(100.5 / 601, 0.5 / 601, 300.5 / 601, 0.5 / 601));
+    EXPECT_TRUE(scene.send("hover", osg::Pnt2f(100, 600)));
+    EXPECT_TRUE(isHighlighted(gizmo, 6, 2));
+    EXPECT_FALSE(scene.send("hover", osg::Pnt2f(100, 589))) << "11 px above the end";
+    EXPECT_FALSE(scene.send("hover", osg::Pnt2f(100, 0))) << "the top row is the other edge";
+
+    ASSERT_TRUE(scene.send("hover", osg::Pnt2f(100, 600)));
+    ASSERT_TRUE(scene.send("start", osg::Pnt2f(100, 600)));
+    scene.send("process", osg::Pnt2f(100, 600));
+    scene.send("process", osg::Pnt2f(100, 0));
+    EXPECT_NEAR(match().getZLine2().y1(), 600.5 / 601, kTolerance) << "up in the picture is more";
+    EXPECT_EQ(nbMagnifierRenderer::getCursorX(), 100);
+    EXPECT_EQ(nbMagnifierRenderer::getCursorY(), 0);
+    scene.send("stop", osg::Pnt2f(100, 0));
+}
+
+TEST_F(PerspectiveMatchManipulatorTest, ACameraSizedByItsWidthCountsInWidths)
+{
+    const osg::UberCameraPtr camera = scene.widget.getUberCamera();
+    osg::beginEditCP(camera);
+    camera->setHorizontalSizing(true);
+    osg::endEditCP(camera);
+    gizmo.update(true);
+    scene.layLines();
+    const QLineF before = match().getZLine1();
+
+    scene.drag(before.center(), osg::Vec2f(16, 32));
+
+    expectLine(match().getZLine1(), before.translated(0.01, 0.02));
+}
+
+TEST_F(PerspectiveMatchManipulatorTest, AViewResizedDuringADragMeasuresInItsNewSize)
+{
+    const QLineF before = match().getXLine2();
+    const osg::Pnt2f from = scene.pixelOf(before.center());
+    ASSERT_TRUE(scene.grab(before.center()));
+    scene.send("process", from);
+    scene.widget.resize(1600, 500);
+    expectLine(drawnLine(gizmo, 2), before, "the unit is the view's size");
+
+    // The pointer is counted from the new lowest row, 500 px nearer to the top.
+    scene.send("process", osg::Pnt2f(from.x() + 5, from.y() - 500));
+    expectLine(match().getXLine2(), before.translated(0.01, 0));
+    scene.send("stop", from);
+}
+
+TEST_F(PerspectiveMatchManipulatorTest, ALockedCameraRefusesSilently)
+{
+    scene.cameraNode().setLocked(true);
+    const QLineF before = match().getXLine1();
+    const osg::Pnt2f from = scene.pixelOf(before.p1());
+
+    ASSERT_TRUE(scene.grab(before.p1())) << "its lines can still be looked at";
+    EXPECT_TRUE(scene.send("process", from));
+    EXPECT_TRUE(scene.send("process", from + osg::Vec2f(50, 50)));
+    EXPECT_TRUE(scene.send("stop", from));
+
+    EXPECT_EQ(match().getXLine1(), before);
+    EXPECT_EQ(stepCount(), 0);
+    scene.cameraNode().setLocked(false);
+}
+
+TEST_F(PerspectiveMatchManipulatorTest, ACameraThatIsDestroyedReadsAsNone)
+{
+    osg::RefPtr<osg::UberCameraPtr> own(osg::UberCamera::create());
+    const nbdPerspectiveMatch ownMatch =
+        nbdCameraNode(own->getInternalParentNode().getFieldContainerId()).getPerspectiveMatch();
+    ownMatch.setXLine1(QLineF(0.2, 0.2, 0.5, 0.4));
+    gizmo.setCamera(own.get());
+    const osg::Pnt2f from = scene.pixelOf(QPointF(0.2, 0.2));
+    ASSERT_TRUE(scene.grab(QPointF(0.2, 0.2)));
+    scene.send("process", from);
+
+    own = osg::NullFC;
+
+    EXPECT_TRUE(scene.send("process", from + osg::Vec2f(10, 0)));
+    EXPECT_EQ(stepCount(), 0);
+    EXPECT_TRUE(drawnLine(gizmo, 1).isNull());
+    EXPECT_TRUE(scene.send("stop", from));
+    EXPECT_FALSE(scene.send("hover", from));
+}
+
+TEST_F(PerspectiveMatchManipulatorTest, AViewWithoutAreaKeepsItsUnit)
+{
+    const QLineF before = match().getXLine1();
+    ASSERT_TRUE(scene.grab(before.center()));
+    scene.widget.resize(0, 0);
+    EXPECT_TRUE(drawnLine(gizmo, 1).isNull());
+    scene.send("process", osg::Pnt2f(0, 0));
+    scene.send("process", osg::Pnt2f(3, 3));
+    EXPECT_TRUE(scene.send("stop", osg::Pnt2f(3, 3)));
+    expectLine(match().getXLine1(), before.translated(0.003, -0.003));
+    EXPECT_FALSE(scene.send("hover", osg::Pnt2f(3, 3)));
+}
+
+// == Hovering, grabbing and the magnifier
+
+TEST_F(PerspectiveMatchManipulatorTest, HoverHighlightsAndStartNeedsIt)
+{
+    const QLineF x1 = match().getXLine1();
+    const QPointF offLines(0.8, 0.5);
+
+    EXPECT_FALSE(scene.send("start", scene.pixelOf(x1.center()))) << "not hovered yet";
+    EXPECT_TRUE(scene.send("hover", scene.pixelOf(x1.center())));
+    EXPECT_FALSE(nbScenegraph::isPreselectionEnabled());
+    for (int part = 1; part <= 3; ++part) {
+        EXPECT_TRUE(isHighlighted(gizmo, 1, part)) << "a line with its ends";
+        EXPECT_FALSE(isHighlighted(gizmo, 2, part));
+    }
+    EXPECT_TRUE(scene.send("hover", scene.pixelOf(x1.p2())));
+    EXPECT_FALSE(isHighlighted(gizmo, 1, 1));
+    EXPECT_FALSE(isHighlighted(gizmo, 1, 2));
+    EXPECT_TRUE(isHighlighted(gizmo, 1, 3));
+    EXPECT_FALSE(scene.send("hover", scene.pixelOf(offLines)));
+    EXPECT_FALSE(isHighlighted(gizmo, 1, 3));
+    EXPECT_TRUE(nbScenegraph::isPreselectionEnabled());
+
+    EXPECT_FALSE(scene.send("start", scene.pixelOf(offLines))) << "hovered, but nothing there";
+    EXPECT_FALSE(scene.send("process", scene.pixelOf(offLines)));
+    EXPECT_FALSE(scene.send("stop", scene.pixelOf(offLines)));
+    EXPECT_TRUE(scene.send("hover", scene.pixelOf(x1.p1())));
+    EXPECT_TRUE(gizmo.resetManipulator(&scene.context, "select"));
+    EXPECT_FALSE(isHighlighted(gizmo, 1, 2));
+    EXPECT_FALSE(scene.send("start", scene.pixelOf(x1.p1()))) << "reset ends hovering";
+}
+
+TEST_F(PerspectiveMatchManipulatorTest, HoverIsRefusedWhileGrabbed)
+{
+    const QLineF z1 = match().getZLine1();
+    ASSERT_TRUE(scene.grab(match().getXLine1().p1()));
+
+    EXPECT_FALSE(scene.send("hover", scene.pixelOf(z1.center())));
+    EXPECT_FALSE(isHighlighted(gizmo, 5, 1));
+    EXPECT_TRUE(isHighlighted(gizmo, 1, 2)) << "what is held stays highlighted";
+    EXPECT_TRUE(scene.send("stop", scene.pixelOf(z1.center())));
+    EXPECT_FALSE(scene.send("stop", scene.pixelOf(z1.center()))) << "nothing held any more";
+    EXPECT_FALSE(scene.send("process", scene.pixelOf(z1.center())));
+    EXPECT_TRUE(scene.send("hover", scene.pixelOf(z1.center())));
+}
+
+TEST_F(PerspectiveMatchManipulatorTest, TheMagnifierShowsExactlyWhileAnEndIsHeld)
+{
+    match().setMagnifyFactor(6.0F);
+    match().setXLine2(QLineF(0.2005, 0.2505, 0.7005, 0.3205));
+    const QLineF x2 = match().getXLine2();
+    const osg::Pnt2f from = scene.pixelOf(x2.p2());
+
+    scene.send("hover", from);
+    EXPECT_FALSE(nbMagnifierRenderer::isVisible());
+    scene.send("start", from);
+    EXPECT_TRUE(nbMagnifierRenderer::isVisible());
+    EXPECT_FLOAT_EQ(nbMagnifierRenderer::getMagnificationScale(), 6.0F);
+    EXPECT_EQ(nbMagnifierRenderer::getCursorX(), static_cast<int>(from.x()));
+    EXPECT_EQ(nbMagnifierRenderer::getCursorY(), static_cast<int>(from.y()));
+    // Grabbed a few pixels beside the end: the magnifier is at the end all the same.
+    scene.send("process", from + osg::Vec2f(5, 3));
+    scene.send("process", from + osg::Vec2f(45, 23));
+    EXPECT_EQ(nbMagnifierRenderer::getCursorX(), static_cast<int>(from.x()) + 40);
+    EXPECT_EQ(nbMagnifierRenderer::getCursorY(), static_cast<int>(from.y()) + 20);
+    scene.send("stop", from);
+    EXPECT_FALSE(nbMagnifierRenderer::isVisible());
+
+    ASSERT_TRUE(scene.grab(match().getZLine1().center()));
+    EXPECT_FALSE(nbMagnifierRenderer::isVisible()) << "a line is held";
+    scene.send("process", from);
+    scene.send("process", from);
+    EXPECT_FALSE(nbMagnifierRenderer::isVisible());
+    scene.send("stop", from);
+}
+
+TEST_F(PerspectiveMatchManipulatorTest, ThePickerTellsTheSizeOfALogicalPixel)
+{
+    const osg::Pnt2f beside = scene.pixelOf(match().getXLine1().p1()) - osg::Vec2f(16, 0);
+    EXPECT_FALSE(scene.send("hover", beside));
+    scene.picker.setPixelRatio(2.0F);
+    EXPECT_TRUE(scene.send("hover", beside));
+}
+
+// == What is drawn
+
+TEST_F(PerspectiveMatchManipulatorTest, TheColliderIsTheOverlayItself)
+{
+    const osg::NodePtr root = gizmo.getVisualisation();
+    EXPECT_EQ(gizmo.getCollider(), root);
+    EXPECT_TRUE(nbNodeUtils::isAuxiliaryNode(root));
+    EXPECT_TRUE(nbNodeUtils::isManipulatorNode(root));
+
+    std::map<osg::Int32, std::vector<osg::MaterialPtr>> materials;
+    scene.send("hover", scene.pixelOf(match().getXLine1().p1()));
+    for (osg::UInt32 i = 0; i < root->getNChildren(); ++i) {
+        osg::NodePtr node = root->getChild(i);
+        node = node->getNChildren() > 0 ? node->getChild(0) : node;
+        const auto material = osg::GeometryPtr::dcast(node->getCore())->getMaterial();
+        auto& known = materials[material->getSortKey()];
+        if (std::find(known.begin(), known.end(), material) == known.end()) {
+            known.push_back(material);
+        }
+        EXPECT_EQ(nbNodeUtils::getName(node), "") << "pickers find named geometry only";
+    }
+    ASSERT_EQ(materials.size(), 2U);
+    EXPECT_EQ(materials[64016].size(), 3U);
+    EXPECT_EQ(materials[64017].size(), 1U);
+}
+
+TEST_F(PerspectiveMatchManipulatorTest, ShowsWhileActiveAndForgetsTheCameraThen)
+{
+    EXPECT_TRUE(isShown(gizmo.getVisualisation()));
+    scene.manager.removeContext(&scene.context);
+    EXPECT_FALSE(gizmo.getVisualisation()->getActive());
+    EXPECT_EQ(gizmo.getVisualisation()->getParent(), osg::NullFC);
+
+    scene.install(gizmo);
+    EXPECT_TRUE(isShown(gizmo.getVisualisation()));
+    EXPECT_TRUE(drawnLine(gizmo, 1).isNull()) << "no camera";
+    EXPECT_FALSE(scene.grab(match().getXLine1().center()));
+    gizmo.setCamera(scene.widget.getUberCamera());
+    expectLine(drawnLine(gizmo, 1), match().getXLine1());
+    gizmo.setCamera(osg::NullFC);
+    EXPECT_TRUE(drawnLine(gizmo, 1).isNull());
+}
+
+TEST_F(PerspectiveMatchManipulatorTest, OnlyAForcedUpdateOfAnActiveOneReadsTheLines)
+{
+    const QLineF before = drawnLine(gizmo, 1);
+    const QLineF changed = changeSilently();
+    gizmo.update(false);
+    expectLine(drawnLine(gizmo, 1), before);
+    gizmo.update(true);
+    expectLine(drawnLine(gizmo, 1), changed);
+
+    scene.manager.removeContext(&scene.context);
+    changeSilently();
+    gizmo.update(true);
+    scene.widget.resize(500, 500);
+    EXPECT_FALSE(isShown(gizmo.getVisualisation()));
+}
+
+TEST_F(PerspectiveMatchManipulatorTest, WhichPropertiesAreDrawnAnew)
+{
+    const osg::RefPtr<osg::UberCameraPtr> other(osg::UberCamera::create());
+    const nbdCameraNode otherNode(other->getInternalParentNode().getFieldContainerId());
+
+    struct Row
+    {
+        const char* name;
+        nbdObject object;
+        const char* property;
+        bool redraws;
+    };
+
+    const Row rows[] = {
+        { "fov mode of the camera", scene.cameraNode(), "fovMode", true },
+        { "another property of it", scene.cameraNode(), "fov", false },
+        { "compared exactly", scene.cameraNode(), "FovMode", false },
+        { "fov mode of another camera", otherNode, "fovMode", false },
+        { "another camera's match", otherNode.getPerspectiveMatch(), "magnifyFactor", true },
+        { "the camera's match, whatever the property", match(), "", true },
+        { "an object that is null", nbdObject(), "fovMode", false },
+        { "a node that is no camera", nbdNode(nbScenegraph::getRootNode().getFieldContainerId()),
+          "fovMode", false },
+    };
+    for (const Row& row : rows) {
+        const QLineF before = drawnLine(gizmo, 1);
+        const QLineF changed = changeSilently();
+        nbObjectService::notify(row.object, row.property);
+        expectLine(drawnLine(gizmo, 1), row.redraws ? changed : before, row.name);
+        gizmo.update(true);
+    }
+}
+
+TEST_F(PerspectiveMatchManipulatorTest, AllInstancesFollowTheView)
+{
+    PerspectiveMatchManipulator first;
+    auto second = std::make_unique<PerspectiveMatchManipulator>();
+    PerspectiveMatchManipulator third;
+    for (PerspectiveMatchManipulator* each : { &first, second.get(), &third }) {
+        each->activate(nullptr);
+        each->setCamera(scene.widget.getUberCamera());
+    }
+    third.deactivate(nullptr);
+    third.deactivate(nullptr);
+    second.reset();
+    const QLineF before = drawnLine(first, 1);
+
+    const QLineF changed = changeSilently();
+    scene.widget.resize(1200, 800);
+
+    expectLine(drawnLine(gizmo, 1), changed);
+    expectLine(drawnLine(first, 1), changed);
+    EXPECT_NE(changed, before);
+    first.deactivate(nullptr);
+    const QLineF later = changeSilently();
+    scene.widget.resize(1600, 1000);
+    expectLine(drawnLine(gizmo, 1), later, "the others' leaving takes nothing from it");
+}
+
+// == Construction
+
+TEST(PerspectiveMatchManipulator, WithoutARenderWidgetNothingIsHandled)
+{
+    const osg::RefPtr<osg::UberCameraPtr> camera(osg::UberCamera::create());
+    PerspectiveMatchManipulator gizmo;
+    {
+        MatchScene scene;
+        gizmo.activate(&scene.context);
+        gizmo.setCamera(scene.widget.getUberCamera());
+        gizmo.setMousePosition(scene.pixelOf(scene.match().getXLine1().p1()));
+        ASSERT_TRUE(gizmo.hoverManipulator(&scene.context, "select"));
+        ASSERT_TRUE(gizmo.startManipulator(&scene.context, "select"));
+        EXPECT_TRUE(gizmo.processManipulator(&scene.context, "select"));
+    }
+    EXPECT_FALSE(gizmo.processManipulator(nullptr, "select"));
+    EXPECT_TRUE(gizmo.stopManipulator(nullptr, "select"));
+    gizmo.setCamera(camera.get());
+    EXPECT_FALSE(gizmo.processManipulator(nullptr, "select"));
+    EXPECT_FALSE(gizmo.stopManipulator(nullptr, "select"));
+    gizmo.deactivate(nullptr);
+}
+
+TEST(PerspectiveMatchManipulator, MissingServicesAreReportedOnceAndDoNoHarm)
+{
+    nbObjectService* const service = objectService();
+    nbKernelServiceFactory::the().registerService<nbObjectService>(nullptr);
+    testing::internal::CaptureStderr();
+    const PerspectiveMatchManipulator withNull;
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "nbKernelServiceFactory: service 'nbObjectService' is NULL!\n");
+
+    nbKernelServiceFactory::the().unregister<nbObjectService>();
+    testing::internal::CaptureStderr();
+    PerspectiveMatchManipulator without;
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "nbKernelServiceFactory: couldn't find class 'nbObjectService'!\n");
+    {
+        MatchScene scene;
+        scene.installFor(without);
+        const QLineF before = scene.match().getXLine1();
+        scene.drag(before.center(), osg::Vec2f(10, 0));
+        expectLine(scene.match().getXLine1(), before.translated(0.01, 0));
+    }
+    nbKernelServiceFactory::the().registerService(service);
+}
+
+TEST(PerspectiveMatchManipulator, ConstructionAndDestructionLeaveNothing)
+{
+    const osg::ContainerCensus before = osg::ContainerCensus::take();
+    {
+        const PerspectiveMatchManipulator first;
+        const PerspectiveMatchManipulator second;
+    }
+    EXPECT_EQ(osg::ContainerCensus::take().differenceTo(before), "");
+}
+
+}  // namespace nbec::manipulator::test

@@ -1,0 +1,220 @@
+// SPDX-License-Identifier: MIT
+// The perspective match overlay as it is drawn, at named pixels.
+#include "manipulator/PerspectiveMatchManipulator.h"
+#include "tests/manipulator/support/MatchScene.h"
+
+#include <nbOpenSGRenderAction/nbImageConvert.h>
+#include <nbOpenSGRenderAction/nbOffscreenView.h>
+#include <nbOpenSGUberCamera/UberCamera.h>
+
+#include <QtCore/QSize>
+#include <QtGui/QImage>
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <memory>
+
+namespace nbec::manipulator::test {
+
+namespace {
+
+const QColor kRed = QColor::fromRgbF(1.0, 0.2, 0.2);
+const QColor kGreen = QColor::fromRgbF(0.1, 0.75, 0.15);
+const QColor kBlue = QColor::fromRgbF(0.25, 0.5, 1.0);
+const QColor kOrange = QColor::fromRgbF(1.0, 0.6, 0.0);
+const QColor kFaintGreen = QColor::fromRgbF(0.35, 0.675, 0.375);
+const QColor kBlack(0, 0, 0);
+
+::testing::AssertionResult isColor(const QColor& actual, const QColor& expected)
+{
+    constexpr int kRounding = 2;
+    if (std::abs(actual.red() - expected.red()) <= kRounding &&
+        std::abs(actual.green() - expected.green()) <= kRounding &&
+        std::abs(actual.blue() - expected.blue()) <= kRounding) {
+        return ::testing::AssertionSuccess();
+    }
+    return ::testing::AssertionFailure()
+        << actual.name().toStdString() << " instead of " << expected.name().toStdString();
+}
+
+class PerspectiveMatchPictureTest : public testing::Test
+{
+protected:
+    static void SetUpTestSuite() { view = std::make_unique<nbOffscreenView>(); }
+
+    static void TearDownTestSuite() { view.reset(); }
+
+    void SetUp() override
+    {
+        ASSERT_TRUE(view->open()) << view->getError();
+        const osg::UberViewportPtr viewport = scene.widget.getUberViewport();
+        osg::beginEditCP(viewport);
+        viewport->setBackgroundColor(osg::Color4f(0, 0, 0, 1));
+        osg::endEditCP(viewport);
+        scene.installFor(gizmo);
+        scene.widget.resize(640, 480);
+    }
+
+    QImage draw()
+    {
+        const QImage picture = view->render(scene.widget.getViewport(), scene.widget.getWidth(),
+                                            scene.widget.getHeight());
+        EXPECT_FALSE(picture.isNull()) << view->getError();
+        // For looking at what was drawn: a directory that gets every picture as a PNG file.
+        const char* const directory = std::getenv("NB_TEST_PICTURES");
+        if (directory != nullptr) {
+            const auto* const info = testing::UnitTest::GetInstance()->current_test_info();
+            picture.save(QString("%1/%2_%3.png").arg(directory, info->name()).arg(pictureCount++));
+        }
+        return picture;
+    }
+
+    /// A line between the middles of two pixels, counted from the lower left corner.
+    QLineF pixelLine(int x1, int y1, int x2, int y2) const
+    {
+        const double unit = scene.referencePx();
+        return QLineF((x1 + 0.5) / unit, (y1 + 0.5) / unit, (x2 + 0.5) / unit, (y2 + 0.5) / unit);
+    }
+
+    /// Colour of a pixel, counted from the lower left corner.
+    static QColor at(const QImage& picture, int x, int y)
+    {
+        return picture.pixelColor(x, picture.height() - 1 - y);
+    }
+
+    static inline std::unique_ptr<nbOffscreenView> view;
+    PerspectiveMatchManipulator gizmo;  // outlives the scene, which deactivates it
+    MatchScene scene;
+    int pictureCount = 0;
+};
+
+}  // namespace
+
+TEST_F(PerspectiveMatchPictureTest, LinesStandInTheirPixelsWhateverTheViewAndTheCamera)
+{
+    const osg::UberCameraPtr camera = scene.widget.getUberCamera();
+    for (const QSize size : { QSize(640, 480), QSize(360, 640), QSize(301, 203) }) {
+        for (const bool isHorizontal : { false, true }) {
+            osg::beginEditCP(camera);
+            camera->setHorizontalSizing(isHorizontal);
+            osg::endEditCP(camera);
+            scene.widget.resize(size.width(), size.height());
+            scene.layLines();
+            // Across the middle, over the box; and up along the right edge.
+            const int midX = size.width() / 2;
+            const int midY = size.height() / 2;
+            scene.match().setXLine1(pixelLine(midX - 60, midY, midX + 60, midY));
+            scene.match().setYLine1(pixelLine(size.width() - 9, 20, size.width() - 9, 80));
+            for (const osg::Pnt3f& eye : { osg::Pnt3f(0, 0, 6), osg::Pnt3f(500, 80, -3) }) {
+                camera->setFromAtUp(eye, eye - osg::Vec3f(0, 0, 6), osg::Vec3f(0, 1, 0));
+                const QImage picture = draw();
+                EXPECT_TRUE(isColor(at(picture, midX, midY), kRed));
+                EXPECT_TRUE(isColor(at(picture, midX + 30, midY), kRed));
+                EXPECT_TRUE(isColor(at(picture, size.width() - 9, 50), kGreen));
+                EXPECT_TRUE(isColor(at(picture, size.width() - 15, 20), kGreen)) << "ring";
+                EXPECT_TRUE(isColor(at(picture, size.width() - 12, 20), kBlack)) << "inside it";
+                EXPECT_TRUE(isColor(at(picture, size.width() - 15, 30), kBlack));
+            }
+        }
+    }
+}
+
+TEST_F(PerspectiveMatchPictureTest, TheOverlayLeavesNoTraceInTheEffectBuffer)
+{
+    scene.widget.getUberCamera()->setFromAtUp(osg::Pnt3f(0, 0, 6), osg::Pnt3f(0, 0, 0),
+                                              osg::Vec3f(0, 1, 0));
+    scene.match().setZLine1(pixelLine(260, 240, 380, 240));
+    EXPECT_TRUE(isColor(at(draw(), 320, 240), kBlue));
+    const QImage effect = view->readEffect();
+    EXPECT_EQ(effect.pixelColor(320, 239).alpha(), 0);
+    EXPECT_EQ(effect.pixelColor(320, 220).alpha(), 255) << "of the box below the line";
+}
+
+TEST_F(PerspectiveMatchPictureTest, WhatIsUnderThePointerIsOrange)
+{
+    scene.match().setXLine1(pixelLine(100, 100, 200, 100));
+    const QPointF end((100.5) / 480, (100.5) / 480);
+    scene.send("hover", scene.pixelOf(end));
+    const QImage endPicture = draw();
+    EXPECT_TRUE(isColor(at(endPicture, 94, 100), kOrange));
+    EXPECT_TRUE(isColor(at(endPicture, 150, 100), kRed));
+    EXPECT_TRUE(isColor(at(endPicture, 206, 100), kRed));
+
+    scene.send("hover", scene.pixelOf(scene.match().getXLine1().center()));
+    const QImage linePicture = draw();
+    EXPECT_TRUE(isColor(at(linePicture, 94, 100), kOrange));
+    EXPECT_TRUE(isColor(at(linePicture, 150, 100), kOrange));
+    EXPECT_TRUE(isColor(at(linePicture, 150, 101), kOrange)) << "wider than the others";
+    gizmo.resetManipulator(nullptr, "select");
+    EXPECT_TRUE(isColor(at(draw(), 150, 100), kRed));
+}
+
+TEST_F(PerspectiveMatchPictureTest, AxesThatAreNotUsedAreFaint)
+{
+    scene.match().setYLine2(pixelLine(500, 100, 500, 300));
+    EXPECT_TRUE(isColor(at(draw(), 500, 200), kGreen));
+    scene.match().setVanishingLinesType(nbCameraTypes::XZLines);
+    const QImage picture = draw();
+    EXPECT_TRUE(isColor(at(picture, 500, 200), kFaintGreen));
+    EXPECT_TRUE(isColor(at(picture, 501, 200), kBlack)) << "thin";
+    scene.match().setVanishingLinesType(nbCameraTypes::YZLines);
+    EXPECT_TRUE(isColor(at(draw(), 500, 200), kGreen));
+}
+
+TEST_F(PerspectiveMatchPictureTest, GuidesShowDuringADrag)
+{
+    // x vanishes to the right and z to the left, both at the height of row 300.
+    scene.match().setXLine1(pixelLine(200, 300, 260, 300));
+    scene.match().setXLine2(pixelLine(200, 100, 260, 130));
+    scene.match().setZLine1(pixelLine(440, 300, 400, 300));
+    scene.match().setZLine2(pixelLine(440, 100, 400, 120));
+    const QPointF grabbed = scene.match().getXLine2().center();
+    const auto grey = [](const QColor& color) { return color.value() < 40; };
+
+    EXPECT_TRUE(grey(at(draw(), 268, 134)));
+    ASSERT_TRUE(scene.grab(grabbed));
+    const QImage picture = draw();
+    EXPECT_TRUE(isColor(at(picture, 262, 131), kRed)) << "the first dash";
+    int horizonPixels = 0;
+    for (int x = 0; x < 190; ++x) {
+        horizonPixels += isColor(at(picture, x, 300), kOrange) ? 1 : 0;
+    }
+    EXPECT_GT(horizonPixels, 100) << "dashes across the view";
+    EXPECT_LT(horizonPixels, 170) << "with gaps";
+
+    scene.send("stop", scene.pixelOf(grabbed));
+    EXPECT_TRUE(grey(at(draw(), 262, 131)));
+}
+
+TEST_F(PerspectiveMatchPictureTest, TheMagnifierShowsPhotographAndLineUnderAHeldEnd)
+{
+    // The photograph is white from column 320 on; the held end is 4 columns before that.
+    QImage photograph(640, 480, QImage::Format_RGB32);
+    photograph.fill(Qt::black);
+    for (int y = 0; y < photograph.height(); ++y) {
+        for (int x = 320; x < photograph.width(); ++x) {
+            photograph.setPixelColor(x, y, Qt::white);
+        }
+    }
+    const osg::UberViewportPtr viewport = scene.widget.getUberViewport();
+    osg::beginEditCP(viewport);
+    viewport->setPhotograph(nbImageConvert::toImage(photograph));
+    osg::endEditCP(viewport);
+    scene.match().setXLine1(pixelLine(316, 60, 200, 60));
+    scene.match().setMagnifyFactor(4.0F);
+
+    EXPECT_TRUE(isColor(at(draw(), 325, 90), QColor(Qt::white)));
+    ASSERT_TRUE(scene.grab(scene.match().getXLine1().p1()));
+    const QImage picture = draw();
+
+    EXPECT_TRUE(isColor(at(picture, 328, 62), kBlack)) << "3 columns to the right of the end";
+    EXPECT_TRUE(isColor(at(picture, 332, 65), QColor(Qt::white))) << "4 columns";
+    EXPECT_TRUE(isColor(at(picture, 304, 60), kRed)) << "the line, 3 columns to the left";
+    EXPECT_TRUE(isColor(at(picture, 304, 61), kRed)) << "4 pixels for each";
+    EXPECT_TRUE(isColor(at(picture, 316 + 24, 60), kOrange)) << "the ring of the end, at 4 x 6";
+    scene.send("stop", scene.pixelOf(scene.match().getXLine1().p1()));
+    EXPECT_TRUE(isColor(at(draw(), 325, 90), QColor(Qt::white)));
+}
+
+}  // namespace nbec::manipulator::test

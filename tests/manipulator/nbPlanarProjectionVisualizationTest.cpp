@@ -1,0 +1,387 @@
+// SPDX-License-Identifier: MIT
+#include "manipulator/nbPlanarProjectionVisualization.h"
+
+#include "tests/platform/support/RenderTest.h"
+
+#include <nbOpenSGExt/Transform3D.h>
+#include <nbOpenSGUberMaterial/ColorComponentSettings.h>
+
+#include <functional>
+
+namespace {
+
+using rendertest::group;
+using rendertest::placed;
+
+constexpr float kTolerance = 1e-5f;
+constexpr int kColorTolerance = 3;
+
+/// Image of 4 x 4 pixels, all alike.
+osg::ImagePtr makeImage(osg::UInt32 format, const std::vector<osg::UInt8>& pixel)
+{
+    constexpr int kSide = 4;
+    std::vector<osg::UInt8> data;
+    for (int i = 0; i < kSide * kSide; ++i) {
+        data.insert(data.end(), pixel.begin(), pixel.end());
+    }
+    const osg::ImagePtr image = osg::Image::create();
+    image->set(format, kSide, kSide, 1, 1, 1, 0.0, data.data());
+    return image;
+}
+
+void visit(const osg::NodePtr& node, const std::function<void(const osg::NodePtr&)>& visitor)
+{
+    visitor(node);
+    for (osg::UInt32 i = 0; i < node->getNChildren(); ++i) {
+        visit(node->getChild(i), visitor);
+    }
+}
+
+/// Materials of the planes below a node, in tree order.
+std::vector<osg::SimpleMaterialPtr> planeMaterials(const osg::NodePtr& top)
+{
+    std::vector<osg::SimpleMaterialPtr> found;
+    visit(top, [&found](const osg::NodePtr& node) {
+        const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(node->getCore());
+        if (geometry != osg::NullFC) {
+            const auto material = osg::SimpleMaterialPtr::dcast(geometry->getMaterial());
+            if (material->find(osg::TextureChunk::getClassType()) != osg::NullFC) {
+                found.push_back(material);
+            }
+        }
+    });
+    return found;
+}
+
+template <class Chunk>
+typename Chunk::Ptr chunkOf(const osg::SimpleMaterialPtr& material)
+{
+    return Chunk::Ptr::dcast(material->find(Chunk::getClassType()));
+}
+
+osg::ImagePtr shownImage(const nbPlanarProjectionVisualization& visualization)
+{
+    const auto materials = planeMaterials(visualization.get2DTransformNode());
+    return chunkOf<osg::TextureChunk>(materials.at(0))->getImage();
+}
+
+osg::Transform3DPtr transform3D(const osg::NodePtr& node)
+{
+    return osg::Transform3DPtr::dcast(node->getCore());
+}
+
+osg::NodePtr zExtentNode(const nbPlanarProjectionVisualization& visualization)
+{
+    return visualization.getProjectionTransformNode()->getChild(1);
+}
+
+osg::RefPtr<osg::ColorComponentSettingsPtr> makeSettings(const osg::Vec3f& translation,
+                                                         const osg::Quaternion& rotation,
+                                                         const osg::Vec3f& scale)
+{
+    osg::RefPtr<osg::ColorComponentSettingsPtr> settings(osg::ColorComponentSettings::create());
+    const osg::Transform3DPtr projection = osg::Transform3D::create();
+    {
+        const nbEdit edit(projection, osg::FieldBits::AllFields);
+        projection->setTranslation(translation);
+        projection->setRotation(rotation);
+        projection->setScale(scale);
+    }
+    const nbEdit edit(settings.get(), osg::FieldBits::AllFields);
+    settings->setPlanarProjection(projection);
+    return settings;
+}
+
+void expectBox(const osg::NodePtr& node, const osg::Pnt3f& low, const osg::Pnt3f& high)
+{
+    osg::DynamicVolume volume;
+    node->getWorldVolume(volume);
+    osg::Pnt3f min;
+    osg::Pnt3f max;
+    volume.getBounds(min, max);
+    EXPECT_TRUE(min.equals(low, kTolerance)) << min;
+    EXPECT_TRUE(max.equals(high, kTolerance)) << max;
+}
+
+// == The tree
+
+TEST(nbPlanarProjectionVisualization, TreeGoesFromTheObjectToTheProjectionToThePlane)
+{
+    const nbPlanarProjectionVisualization visualization;
+    const osg::NodePtr root = visualization.getRootNode();
+
+    EXPECT_TRUE(nbNodeUtils::isAuxiliaryNode(root));
+    EXPECT_FALSE(nbNodeUtils::isManipulatorNode(root));
+    EXPECT_NE(osg::NullFC, osg::GroupPtr::dcast(root->getCore()));
+    EXPECT_EQ(root, visualization.getVisualizationNode()->getParent());
+    EXPECT_EQ(visualization.getVisualizationNode(),
+              visualization.getProjectionTransformNode()->getParent());
+    EXPECT_EQ(visualization.getProjectionTransformNode(),
+              visualization.get2DTransformNode()->getParent());
+    EXPECT_EQ(osg::Vec3f(0, 0, -1), transform3D(zExtentNode(visualization))->getTranslation());
+    expectBox(visualization.get2DTransformNode(), { -1, -1, 0 }, { 1, 1, 0 });
+    expectBox(root, { -1, -1, -1 }, { 1, 1, 0 });
+}
+
+TEST(nbPlanarProjectionVisualization, PlanesAreFaintShowTheTextureAndIgnoreDepth)
+{
+    nbPlanarProjectionVisualization visualization;
+    const auto materials = planeMaterials(visualization.getRootNode());
+
+    ASSERT_EQ(2U, materials.size());
+    EXPECT_NE(materials[0], materials[1]);
+    EXPECT_EQ(0.8f, visualization.getPlaneTransparency());
+    visualization.setPlaneTransparency(0.5f);
+    for (const osg::SimpleMaterialPtr& material : materials) {
+        EXPECT_EQ(0.5f, material->getTransparency());
+        EXPECT_EQ(64000, material->getSortKey());
+        EXPECT_EQ(osg::Color3f(), material->getDiffuse());
+        const osg::BlendChunkPtr blend = chunkOf<osg::BlendChunk>(material);
+        EXPECT_EQ(GLenum(GL_SRC_ALPHA), blend->getSrcFactor());
+        EXPECT_EQ(GLenum(GL_ONE_MINUS_SRC_ALPHA), blend->getDestFactor());
+        const osg::DepthChunkPtr depth = chunkOf<osg::DepthChunk>(material);
+        EXPECT_FALSE(depth->getEnable());
+        EXPECT_TRUE(depth->getReadOnly());
+        EXPECT_EQ(GLenum(GL_LEQUAL), depth->getFunc());
+        EXPECT_EQ(GLenum(GL_BLEND), chunkOf<osg::TextureChunk>(material)->getEnvMode());
+        EXPECT_EQ(chunkOf<osg::TextureChunk>(materials[0]), chunkOf<osg::TextureChunk>(material));
+    }
+}
+
+TEST(nbPlanarProjectionVisualization, ShowsAndHidesAsAWholeAndTheZExtentAlone)
+{
+    nbPlanarProjectionVisualization visualization;
+    const osg::NodePtr extent = zExtentNode(visualization);
+
+    visualization.setZScaleVisible(false);
+    EXPECT_FALSE(extent->getActive());
+    EXPECT_FALSE(extent->getChild(0)->getActive());
+    EXPECT_TRUE(visualization.get2DTransformNode()->getActive());
+    visualization.setZScaleVisible(true);
+    visualization.setVisible(false);
+    EXPECT_TRUE(extent->getActive() && extent->getChild(0)->getActive());
+    EXPECT_FALSE(visualization.getRootNode()->getActive());
+}
+
+TEST(nbPlanarProjectionVisualization, NothingIsLeftBehind)
+{
+    const osg::NodeRefPtr held(nbPlanarProjectionVisualization().getRootNode());
+    EXPECT_EQ(1U, held->getRefCount());
+}
+
+// == Placement
+
+TEST(nbPlanarProjectionVisualization, FollowsTheObjectAndTheProjection)
+{
+    nbPlanarProjectionVisualization visualization;
+    const osg::NodePtr object = group({});
+    const osg::NodeRefPtr scene(placed(object, osg::Vec3f(10, 0, 0)));
+    // The quarter turn takes the projection's x to y.
+    const osg::Quaternion turn(osg::Vec3f(0, 0, 1), osg::Pi / 2);
+    const auto settings = makeSettings(osg::Vec3f(0, 5, 0), turn, osg::Vec3f(2, 3, 4));
+
+    visualization.attachToNode(object);
+    visualization.updateProjectionTransform(settings.get());
+    visualization.setScale(2, 3);
+
+    expectBox(visualization.get2DTransformNode(), { 7, 3, 0 }, { 13, 7, 0 });
+    // The box in which the projection shows when it ends in z.
+    expectBox(zExtentNode(visualization), { 7, 3, -4 }, { 13, 7, 0 });
+    EXPECT_TRUE(transform3D(visualization.getProjectionTransformNode())
+                    ->getRotationAsQuaternion()
+                    .equals(turn, kTolerance));
+    EXPECT_EQ(osg::Vec3f(2, 3, 4), transform3D(zExtentNode(visualization))->getScale());
+
+    visualization.setRotate(90);
+    expectBox(visualization.get2DTransformNode(), { 8, 2, 0 }, { 12, 8, 0 });
+
+    visualization.attachToNode(osg::NodePtr());
+    expectBox(visualization.get2DTransformNode(), { -2, 2, 0 }, { 2, 8, 0 });
+}
+
+TEST(nbPlanarProjectionVisualization, TheRotationOrientationIsPartOfTheProjectionsRotation)
+{
+    nbPlanarProjectionVisualization visualization;
+    const auto settings = makeSettings(
+        osg::Vec3f(1, 2, 3), osg::Quaternion(osg::Vec3f(0, 1, 0), 0.4f), osg::Vec3f(1, 1, 1));
+    const osg::Transform3DPtr projection = settings->getPlanarProjection();
+    {
+        const nbEdit edit(projection, osg::FieldBits::AllFields);
+        projection->setRotationOrientation(osg::Quaternion(osg::Vec3f(0, 0, 1), 0.7f));
+    }
+
+    visualization.updateProjectionTransform(settings.get());
+
+    EXPECT_TRUE(transform3D(visualization.getProjectionTransformNode())
+                    ->getMatrix()
+                    .equals(projection->getMatrix(), kTolerance));
+}
+
+TEST(nbPlanarProjectionVisualization, WithoutAProjectionNothingMoves)
+{
+    nbPlanarProjectionVisualization visualization;
+    const auto settings = makeSettings(osg::Vec3f(1, 2, 3), osg::Quaternion(), osg::Vec3f(2, 2, 2));
+    visualization.updateProjectionTransform(settings.get());
+    const osg::RefPtr<osg::ColorComponentSettingsPtr> empty(osg::ColorComponentSettings::create());
+
+    visualization.updateProjectionTransform(empty.get());
+    visualization.updateProjectionTransform(osg::ColorComponentSettingsPtr());
+
+    EXPECT_EQ(osg::Vec3f(1, 2, 3),
+              transform3D(visualization.getProjectionTransformNode())->getTranslation());
+}
+
+// == Textures
+
+TEST(nbPlanarProjectionVisualization, ShowsAnImageWithAlphaAndNoneWithout)
+{
+    nbPlanarProjectionVisualization visualization;
+    const osg::RefPtr<osg::ImagePtr> clear(makeImage(osg::Image::OSG_RGBA_PF, { 255, 0, 0, 128 }));
+    const osg::RefPtr<osg::ImagePtr> opaque(makeImage(osg::Image::OSG_RGB_PF, { 255, 0, 0 }));
+
+    visualization.setTexture(clear.get(), false, false);
+    EXPECT_EQ(clear.get(), shownImage(visualization));
+    visualization.setTexture(opaque.get(), false, false);
+    EXPECT_EQ(osg::NullFC, shownImage(visualization));
+    visualization.setTexture(clear.get(), false, true);
+    EXPECT_EQ(clear.get(), shownImage(visualization));
+    visualization.setTexture(osg::ImagePtr(), true, true);
+    EXPECT_EQ(osg::NullFC, shownImage(visualization));
+}
+
+TEST(nbPlanarProjectionVisualization, AMaskIsTheBrightnessAsAlpha)
+{
+    nbPlanarProjectionVisualization visualization;
+    const osg::RefPtr<osg::ImagePtr> source(
+        makeImage(osg::Image::OSG_RGBA_PF, { 40, 50, 60, 255 }));
+
+    visualization.setTexture(source.get(), true, false);
+    const osg::ImagePtr mask = shownImage(visualization);
+    ASSERT_NE(osg::NullFC, mask);
+    EXPECT_NE(source.get(), mask);
+    EXPECT_EQ(osg::UInt32(osg::Image::OSG_A_PF), mask->getPixelFormat());
+    EXPECT_EQ(50, *mask->getData());
+    EXPECT_EQ(1, mask->getMipMapCount());
+
+    visualization.setTexture(source.get(), true, true);
+    const osg::ImagePtr inverted = shownImage(visualization);
+    EXPECT_EQ(205, *inverted->getData());
+    EXPECT_EQ(3, inverted->getMipMapCount());
+    EXPECT_EQ(205, *inverted->getData(2));
+    EXPECT_EQ(osg::UInt32(osg::Image::OSG_RGBA_PF), source->getPixelFormat());
+}
+
+TEST(nbPlanarProjectionVisualization, ABrokenImageGivesNoMask)
+{
+    nbPlanarProjectionVisualization visualization;
+    visualization.setTexture(makeImage(osg::Image::OSG_L_PF, { 9 }), true, false);
+    ASSERT_NE(osg::NullFC, shownImage(visualization));
+
+    visualization.setTexture(osg::Image::create(), true, true);
+
+    EXPECT_EQ(osg::NullFC, shownImage(visualization));
+}
+
+TEST(nbPlanarProjectionVisualization, TheSameTextureAgainDoesNothingAlsoThroughACopy)
+{
+    nbPlanarProjectionVisualization visualization;
+    const osg::RefPtr<osg::ImagePtr> source(makeImage(osg::Image::OSG_RGB_PF, { 9, 9, 9 }));
+    visualization.setTexture(source.get(), true, false);
+    const osg::ImagePtr mask = shownImage(visualization);
+
+    nbPlanarProjectionVisualization copy(visualization);
+    nbPlanarProjectionVisualization assigned;
+    assigned = visualization;
+    visualization.setTexture(source.get(), true, false);
+    copy.setTexture(source.get(), true, false);
+    EXPECT_EQ(mask, shownImage(visualization));
+    EXPECT_EQ(visualization.getRootNode(), copy.getRootNode());
+    EXPECT_EQ(visualization.getRootNode(), assigned.getRootNode());
+
+    // What one of them changes is no longer what the others would leave alone.
+    copy.setTexture(osg::ImagePtr(), false, false);
+    visualization.setTexture(source.get(), true, false);
+    EXPECT_NE(osg::NullFC, shownImage(visualization));
+}
+
+// == Pictures
+
+class PlanarProjectionPictureTest : public rendertest::RenderTest
+{
+protected:
+    /// Draws the visualisation of an image over a red wall at z = 1, thus behind that wall.
+    QImage drawOverWall(const osg::ImagePtr& image, bool asMask, bool invert)
+    {
+        visualization.setTexture(image, asMask, invert);
+        visualization.setPlaneTransparency(0.5f);
+        const osg::NodePtr wall = rendertest::square(4.f, rendertest::unlit(rendertest::kRed), 1.f);
+        return draw(group({ wall, visualization.getRootNode() }));
+    }
+
+    static void expectColor(const QColor& expected, const QColor& seen)
+    {
+        EXPECT_NEAR(expected.red(), seen.red(), kColorTolerance);
+        EXPECT_NEAR(expected.green(), seen.green(), kColorTolerance);
+        EXPECT_NEAR(expected.blue(), seen.blue(), kColorTolerance);
+    }
+
+    nbPlanarProjectionVisualization visualization;
+};
+
+TEST_F(PlanarProjectionPictureTest, ThePictureShowsThroughTheObjectWithItsRightWayUp)
+{
+    // Left half clear, right half white, the lower right quarter green.
+    const osg::ImagePtr image = makeImage(osg::Image::OSG_RGBA_PF, { 255, 255, 255, 0 });
+    for (int y = 0; y < 4; ++y) {
+        for (int x = 2; x < 4; ++x) {
+            osg::UInt8* const pixel = image->getData() + 4 * (4 * y + x);
+            pixel[0] = pixel[2] = y < 2 ? 0 : 255;
+            pixel[3] = 255;
+        }
+    }
+
+    const QImage picture = drawOverWall(image, false, false);
+
+    // Each of the two planes covers a half.
+    expectColor(rendertest::kRed, at(picture, -0.75f, 0.5f));
+    expectColor(QColor(255, 191, 191), at(picture, 0.75f, 0.75f));
+    EXPECT_GT(at(picture, 0.75f, -0.75f).green(), 180);
+    EXPECT_LT(at(picture, 0.75f, -0.75f).blue(), 80);
+    expectColor(rendertest::kRed, at(picture, 1.5f, 0.f));
+}
+
+TEST_F(PlanarProjectionPictureTest, AMaskCoversWhereItIsBrightOrInvertedWhereItIsDark)
+{
+    const osg::RefPtr<osg::ImagePtr> image(makeImage(osg::Image::OSG_RGB_PF, { 0, 0, 0 }));
+    for (int i = 0; i < 16; ++i) {
+        if (i % 4 >= 2) {
+            std::fill_n(image->getData() + 3 * i, 3, osg::UInt8(255));
+        }
+    }
+
+    const QImage plain = drawOverWall(image.get(), true, false);
+    expectColor(rendertest::kRed, at(plain, -0.75f, 0.f));
+    EXPECT_LT(at(plain, 0.75f, 0.f).red(), 100);
+
+    const QImage inverted = drawOverWall(image.get(), true, true);
+    expectColor(rendertest::kRed, at(inverted, 0.75f, 0.f));
+    EXPECT_LT(at(inverted, -0.75f, 0.f).red(), 100);
+}
+
+TEST_F(PlanarProjectionPictureTest, OutlineAndZExtentAreLinesThatCanBeSeenFromTheSide)
+{
+    camera->setFromAtUp({ 10.f, 0.f, 0.f }, { 0.f, 0.f, 0.f }, { 0.f, 1.f, 0.f });
+    const auto settings =
+        makeSettings(osg::Vec3f(0, 0, 0), osg::Quaternion(), osg::Vec3f(1, 1, 1.5f));
+    visualization.updateProjectionTransform(settings.get());
+
+    // From the side, x on the picture is -z: the extent goes from 0 to 1.5, its edge at y = 1.
+    const auto edgeIsSeen = [](const QImage& picture) {
+        return at(picture, 0.7f, 0.99f).red() + at(picture, 0.7f, 1.01f).red() > 100;
+    };
+    EXPECT_TRUE(edgeIsSeen(draw(group({ visualization.getRootNode() }))));
+    visualization.setZScaleVisible(false);
+    EXPECT_FALSE(edgeIsSeen(redraw()));
+}
+
+}  // namespace

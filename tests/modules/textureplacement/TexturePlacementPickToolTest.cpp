@@ -1,0 +1,221 @@
+// SPDX-License-Identifier: MIT
+#include "modules/textureplacement/TexturePlacementPickTool.h"
+
+#include "tests/platform/nbInteraction/PickerTestSupport.h"
+
+#include <nbInteraction/InteractionManager.h>
+#include <nbInteraction/ToolInteractionContext.h>
+#include <nbKernel/nbController.h>
+#include <nbOpenSGUberMaterial/nbStateChunkBase.h>
+
+#include <OpenSG/OSGSimpleMaterial.h>
+
+#include <gmock/gmock.h>
+
+#include <vector>
+
+namespace nbec::modules::textureplacement {
+namespace {
+
+using interaction::InteractionEvent;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr float kTolerance = 1e-4f;
+constexpr const char* kPlainText = "Set Texture Center Position";
+
+/// A tool on a context in front of a box of 4 units around the origin; what it sends is written
+/// down as "name" or, for the preview, "name enabled".
+class TexturePlacementPickToolTest : public PickerTest, public nbOSGWidget::Observer
+{
+protected:
+    TexturePlacementPickToolTest()
+    {
+        hang(nbScenegraph::getRootNode(), placed(0.0f, 0.0f, 0.0f, named("box", box(4.0f))));
+        widget.setObserver(this);
+        nbController::addReceiver("editor::placeTexture", [this](nbMessage& message) {
+            sent.push_back("editor::placeTexture");
+            EXPECT_THAT(message.names(), ElementsAre("hitNode", "hitPoint", "hitNormal"));
+            EXPECT_TRUE(nbMessage::get(message, "hitNode", hitNode));
+            EXPECT_TRUE(nbMessage::get(message, "hitPoint", hitPoint));
+            EXPECT_TRUE(nbMessage::get(message, "hitNormal", hitNormal));
+        });
+        nbController::addReceiver("setMatRenderEnabled", [this](nbMessage& message) {
+            bool enabled = false;
+            EXPECT_TRUE(nbMessage::get(message, "enabled", enabled));
+            sent.push_back(enabled ? "setMatRenderEnabled true" : "setMatRenderEnabled false");
+        });
+        nbController::addReceiver("updateMatRender",
+                                  [this](nbMessage&) { sent.push_back("updateMatRender"); });
+        tool.setMessageReceiver("editor");
+        context.setPicker(&picker);
+        context.setTool(&tool);
+        manager.addContext(&context);
+    }
+
+    ~TexturePlacementPickToolTest() override
+    {
+        manager.removeContext(&context);
+        widget.setObserver(nullptr);
+        nbController::clear();
+    }
+
+    void antialiasingCancelled() override { sent.push_back("cancelAntialiasing"); }
+
+    /// An event with the pointer at a pixel; the plane z = 0 has 30 pixels a unit, (400, 300) is
+    /// its origin.
+    bool send(const std::string& event, float x, float y, const std::string& hint = "select")
+    {
+        widget.setMousePosition({ x, y });
+        manager.pointerMoved({ x, y });
+        return manager.triggerEvent(InteractionEvent(event, "tool", hint));
+    }
+
+    std::vector<std::string> takeSent()
+    {
+        std::vector<std::string> taken;
+        taken.swap(sent);
+        return taken;
+    }
+
+    interaction::InteractionManager manager;
+    interaction::ToolInteractionContext context;
+    TexturePlacementPickTool tool;
+    std::vector<std::string> sent;
+    osg::NodePtr hitNode;
+    osg::Pnt3f hitPoint;
+    osg::Vec3f hitNormal;
+};
+
+TEST_F(TexturePlacementPickToolTest, APressPlacesAndSoDoesEveryMoveUntilTheRelease)
+{
+    EXPECT_TRUE(send("start", 400.0f, 300.0f));
+
+    EXPECT_THAT(takeSent(), ElementsAre("setMatRenderEnabled false", "editor::placeTexture"));
+    EXPECT_EQ("box", nbNodeUtils::getName(hitNode));
+    EXPECT_NEAR(2.0f, hitPoint.z(), kTolerance);
+    EXPECT_NEAR(1.0f, hitNormal.z(), kTolerance);
+
+    // The front face lies at depth 8: 37.5 pixels a unit; rays go through centres of pixels.
+    EXPECT_TRUE(send("process", 437.0f, 300.0f));
+    EXPECT_NEAR(1.0f, hitPoint.x(), kTolerance);
+    EXPECT_THAT(takeSent(), ElementsAre("editor::placeTexture"));
+
+    EXPECT_TRUE(send("stop", 437.0f, 300.0f));
+    EXPECT_THAT(takeSent(),
+                ElementsAre("cancelAntialiasing", "setMatRenderEnabled true", "updateMatRender"));
+}
+
+TEST_F(TexturePlacementPickToolTest, APressBesideEveryObjectSendsANullNode)
+{
+    hitNode = nbScenegraph::getRootNode();
+
+    EXPECT_TRUE(send("start", 10.0f, 10.0f));
+
+    EXPECT_THAT(sent, ElementsAre("setMatRenderEnabled false", "editor::placeTexture"));
+    EXPECT_EQ(osg::NullFC, hitNode);
+    EXPECT_EQ(kPlainText, tool.getDescription());
+}
+
+TEST_F(TexturePlacementPickToolTest, HintsOfOthersAreRefusedAndZoomIsTakenForNothing)
+{
+    const struct
+    {
+        const char* hint;
+        bool taken;
+    } rows[] = { { "add", false },      { "zoom", true },    { "", false },
+                 { "selected", false }, { "selec", false },  { "zoomed", false },
+                 { "toggle", false },   { "Select", false }, { "selectThrough", false } };
+
+    for (const auto& row : rows) {
+        EXPECT_EQ(row.taken, tool.startTool(&context, row.hint)) << row.hint;
+        EXPECT_EQ(row.taken, tool.processTool(&context, row.hint)) << row.hint;
+        EXPECT_EQ(row.taken, tool.stopTool(&context, row.hint)) << row.hint;
+    }
+    EXPECT_THAT(sent, IsEmpty());
+}
+
+TEST_F(TexturePlacementPickToolTest, WithoutAPickerNothingStarts)
+{
+    context.setPicker(nullptr);
+
+    EXPECT_FALSE(tool.startTool(&context, "select"));
+    EXPECT_TRUE(tool.processTool(&context, "select"));
+
+    EXPECT_THAT(sent, IsEmpty());
+}
+
+TEST_F(TexturePlacementPickToolTest, DescriptionShowsTheHitUnlessThatIsSwitchedOff)
+{
+    EXPECT_EQ(kPlainText, tool.getDescription());
+    picker.pickAt({ 400.0f, 300.0f });
+    const osg::Pnt3f point = picker.getHitPoint();
+    send("start", 400.0f, 300.0f);
+    std::ostringstream expected;
+    expected << "Position: [" << point.x() << ", " << point.y() << ", " << point.z()
+             << "] Direction: [0, 0, 1]";
+    EXPECT_EQ(expected.str(), tool.getDescription());
+    send("stop", 400.0f, 300.0f);
+
+    manager.setEnabled(&context, false);
+    EXPECT_EQ("", tool.getDescription());
+    tool.setDescriptionText("Click");
+    tool.setShowHitData(false);
+    manager.setEnabled(&context, true);
+    send("start", 400.0f, 300.0f);
+    EXPECT_EQ("Click", tool.getDescription());
+}
+
+TEST_F(TexturePlacementPickToolTest, OnlyTheModeToolShowsTheCrossHair)
+{
+    const struct
+    {
+        const char* mode;
+        Qt::CursorShape cursor;
+    } rows[] = { { "tool", Qt::CrossCursor }, { "toolbox", Qt::ArrowCursor },
+                 { "tool", Qt::CrossCursor }, { "too", Qt::ArrowCursor },
+                 { "tool", Qt::CrossCursor }, { "", Qt::ArrowCursor } };
+
+    for (const auto& row : rows) {
+        EXPECT_TRUE(tool.setToolMode(&context, row.mode));
+        EXPECT_EQ(row.cursor, widget.getCursor()) << row.mode;
+    }
+}
+
+TEST_F(TexturePlacementPickToolTest, WithoutAReceiverTheBareSuffixIsSent)
+{
+    tool.setMessageReceiver("");
+
+    send("start", 400.0f, 300.0f);
+
+    EXPECT_EQ(1U, nbController::getLostCallCount("::placeTexture"));
+}
+
+TEST(TexturePlacementPickTool, KnowsItsMaterialAndComponentAndCopiesThem)
+{
+    osg::RefPtr<osg::MaterialPtr> material(osg::SimpleMaterial::create());
+    const osg::RefPtr<osg::MaterialPtr> other(osg::SimpleMaterial::create());
+    nbStateChunkBase editor;
+    TexturePlacementPickTool tool;
+    tool.setMaterialComponent(material.get(), "diffuse", &editor);
+    tool.setDescriptionText("Click");
+
+    TexturePlacementPickTool assigned;
+    assigned = tool;
+    for (TexturePlacementPickTool copy : { TexturePlacementPickTool(tool), assigned }) {
+        EXPECT_TRUE(copy.isConnectedToMaterial(material.get()));
+        EXPECT_FALSE(copy.isConnectedToMaterial(other.get()));
+        EXPECT_TRUE(copy.isConnectedTo(material.get(), "diffuse"));
+        EXPECT_FALSE(copy.isConnectedTo(material.get(), "transparency"));
+        EXPECT_FALSE(copy.isConnectedTo(other.get(), "diffuse"));
+        EXPECT_EQ(&editor, copy.getGUI());
+        copy.activateTool(nullptr);
+        EXPECT_EQ("Click", copy.getDescription());
+    }
+
+    material = osg::RefPtr<osg::MaterialPtr>();
+    EXPECT_EQ(osg::NullFC, tool.getMaterial());
+}
+
+}  // namespace
+}  // namespace nbec::modules::textureplacement

@@ -1,0 +1,345 @@
+// SPDX-License-Identifier: MIT
+// Cases: handles and what they refer to; signals; solving a widget's camera; refusals; the lock;
+// undo with and without a group; lines in a view that changes its shape; sizing by the width;
+// services that are missing.
+#include <nbKernel/nbOSGWidget.h>
+#include <nbKernelServices/nbKernelServiceFactory.h>
+#include <nbKernelServices/nbObjectService.h>
+#include <nbKernelServices/nbPerspectiveSolver.h>
+#include <nbKernelServices/nbQRPCConverter.h>
+#include <nbKernelServices/nbScopedUndo.h>
+#include <nbKernelServices/nbUndoService.h>
+#include <nbKernelServices/nbdCameraNode.h>
+#include <nbOpenSGUberCamera/nbCameraUtils.h>
+#include <nbOpenSGUberCamera/nbUberCameraPool.h>
+#include <nbOpenSGUtils/nbEdit.h>
+
+#include <OpenSG/OSGGroup.h>
+#include <OpenSG/OSGNodePtr.h>
+
+#include <QtWidgets/QUndoStack>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <memory>
+#include <string>
+#include <vector>
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+constexpr double kDegPerRad = 180.0 / 3.14159265358979323846;
+
+bool isSamePlace(const CameraPose& a, const CameraPose& b)
+{
+    bool same = a.fovDeg == b.fovDeg;
+    for (int i = 0; i < 3; ++i) {
+        same = same && a.from[i] == b.from[i] && a.at[i] == b.at[i] && a.up[i] == b.up[i];
+    }
+    return same;
+}
+
+bool isSameLine(const QLineF& a, const QLineF& b)
+{
+    return a.x1() == b.x1() && a.y1() == b.y1() && a.x2() == b.x2() && a.y2() == b.y2();
+}
+
+/// A view of 1600 x 1000 with the camera that took the photograph, and the lines that it gives.
+class nbdPerspectiveMatchTest : public testing::Test
+{
+protected:
+    nbdPerspectiveMatchTest()
+    {
+        undo->clear();
+        widget->resize(1600, 1000);
+        camera = widget->getUberCamera();
+        node = nbdCameraNode(nbQRPCConverter::nodeToId(camera->getInternalParentNode()));
+        match = node.getPerspectiveMatch();
+        photographed.from = osg::Pnt3f(4.f, 3.f, 6.f);
+        photographed.at = photographed.pivot = osg::Pnt3f(0.f, 0.5f, 0.f);
+        photographed.fovDeg = 38.f;
+        camera->setPose(photographed);
+        node.layLinesAsSeen();
+        QObject::connect(nbKernelServiceFactory::the().find<nbObjectService>(),
+                         &nbObjectService::propertyChanged, &listener,
+                         [this](const nbdObject& object, const QByteArray& property) {
+                             changes.push_back((nbdCameraNode(object) ? "camera " : "match ") +
+                                               property.toStdString());
+                         });
+    }
+
+    ~nbdPerspectiveMatchTest() override { undo->clear(); }
+
+    /// The camera somewhere near, so that solving has something to do.
+    void stepAside()
+    {
+        CameraPose pose = photographed;
+        pose.from = osg::Pnt3f(5.f, 3.5f, 5.2f);
+        pose.fovDeg = 50.f;
+        camera->setPose(pose);
+    }
+
+    void dragLine(double dx)
+    {
+        const nbScopedUndo scope(true);
+        match.setXLine1(match.getXLine1().translated(dx, 0.0));
+        node.updateFromPerspectiveMatch();
+    }
+
+    /// How far the camera looks from the photograph's direction.
+    double missDeg() const
+    {
+        const osg::Vec3f a = nbCameraNavigation::axes(camera->getPose()).back;
+        const osg::Vec3f b = nbCameraNavigation::axes(photographed).back;
+        return std::asin(a.cross(b).length()) * kDegPerRad;
+    }
+
+    nbUndoService* const undo = nbUndoService::the();
+    std::unique_ptr<nbOSGWidget> widget = std::make_unique<nbOSGWidget>();
+    osg::UberCameraPtr camera;
+    nbdCameraNode node;
+    nbdPerspectiveMatch match;
+    CameraPose photographed;
+    QObject listener;
+    std::vector<std::string> changes;
+};
+
+TEST_F(nbdPerspectiveMatchTest, HandlesReferToLivingThings)
+{
+    const osg::NodeRefPtr plain(osg::makeNodeFor(osg::Group::create()));
+    const nbdNode plainNode(nbQRPCConverter::nodeToId(plain));
+
+    EXPECT_TRUE(node && match && plainNode);
+    EXPECT_EQ(node.getName(), "Camera");
+    EXPECT_TRUE(nbdCameraNode(static_cast<const nbdObject&>(node)).isEqual(node));
+    EXPECT_TRUE(nbdCameraNode(static_cast<const nbdObject&>(match)).isNull());
+    EXPECT_TRUE(nbdPerspectiveMatch(static_cast<const nbdObject&>(node)).isNull());
+    EXPECT_TRUE(nbdCameraNode(static_cast<const nbdObject&>(plainNode)).isNull());
+    EXPECT_FALSE(match.isEqual(node));
+    EXPECT_EQ(nbUberCameraPool::get(camera.getFieldContainerId()), camera);
+    EXPECT_EQ(nbUberCameraPool::get(plain.get().getFieldContainerId()), osg::NullFC);
+    EXPECT_EQ(nbUberCameraPool::get(0), osg::NullFC);
+
+    widget.reset();
+    EXPECT_TRUE(node.isNull() && match.isNull());
+    EXPECT_FALSE(node.isLocked());
+    match.setXLine1(QLineF(1.0, 2.0, 3.0, 4.0));
+    EXPECT_TRUE(isSameLine(match.getXLine1(), QLineF()));
+    EXPECT_EQ(node.updateFromPerspectiveMatch(), nbCameraTypes::NoCamera);
+    EXPECT_EQ(nbQRPCConverter::nodeToId(osg::NullFC), 0u);
+}
+
+TEST_F(nbdPerspectiveMatchTest, KeepsWhatIsSetAndAnnouncesChangesOnce)
+{
+    const QLineF line(0.1, 0.2000000001, -3.0, 1e5);
+    match.setYLine2(line);
+    match.setYLine2(line);
+    match.setVanishingLinesType(nbCameraTypes::YZLines);
+    match.setVanishingLinesType(static_cast<nbCameraTypes::VanishingLinesType>(9));
+    match.setMagnifyFactor(100.f);
+    match.setMagnifyFactor(std::numeric_limits<float>::quiet_NaN());
+    node.setFovMode(nbCameraTypes::FixedFov);
+    node.setLocked(true);
+
+    EXPECT_TRUE(isSameLine(match.getYLine2(), line));
+    match.setYLine2(nbQRPCConverter::fromLine2D(nbQRPCConverter::toLine2D(line)));
+    EXPECT_TRUE(isSameLine(match.getYLine2(), line)) << "the way through single precision";
+    EXPECT_EQ(match.getVanishingLinesType(), nbCameraTypes::YZLines);
+    EXPECT_EQ(match.getMagnifyFactor(), nbdPerspectiveMatch::kLargestMagnifyFactor);
+    EXPECT_TRUE(node.isLocked());
+    EXPECT_THAT(changes,
+                ElementsAre("match yLine2", "match vanishingLinesType", "match magnifyFactor",
+                            "camera fovMode", "camera locked"));
+}
+
+TEST_F(nbdPerspectiveMatchTest, TurnsAndOpensTheCameraAboutItsPivot)
+{
+    stepAside();
+    const float distance = camera->getFrom().dist(camera->getPivot());
+
+    EXPECT_EQ(node.updateFromPerspectiveMatch(), nbCameraTypes::Solved);
+
+    EXPECT_LT(missDeg(), 0.01);
+    EXPECT_NEAR(camera->getFov(), photographed.fovDeg, 0.01);
+    EXPECT_NEAR(camera->getFrom().dist(camera->getPivot()), distance, 1e-4);
+    EXPECT_THAT(changes, ElementsAre("camera orientation", "camera fov"));
+
+    stepAside();
+    node.setFovMode(nbCameraTypes::FixedFov);
+    EXPECT_EQ(node.updateFromPerspectiveMatch(), nbCameraTypes::SolvedWithKeptFov);
+    EXPECT_EQ(camera->getFov(), 50.f);
+}
+
+TEST_F(nbdPerspectiveMatchTest, RefusalsLeaveTheCameraUntouched)
+{
+    stepAside();
+    const CameraPose before = camera->getPose();
+    const QLineF good = match.getZLine1();
+
+    match.setZLine1(QLineF(0.5, 0.5, 0.5, 0.5));
+    EXPECT_EQ(node.updateFromPerspectiveMatch(), nbCameraTypes::UnusableLine);
+    match.setZLine1(match.getZLine2());
+    EXPECT_EQ(node.updateFromPerspectiveMatch(), nbCameraTypes::IdenticalLines);
+    EXPECT_TRUE(isSamePlace(camera->getPose(), before));
+
+    match.setZLine1(good);
+    {
+        const nbEdit edit(camera, osg::UberCamera::OrthographicFieldMask);
+        camera->setOrthographic(true);
+    }
+    EXPECT_EQ(node.updateFromPerspectiveMatch(), nbCameraTypes::OrthographicCamera);
+    EXPECT_TRUE(isSamePlace(camera->getPose(), before));
+}
+
+TEST_F(nbdPerspectiveMatchTest, EachScopeIsAStepAndUndoRestoresBitForBit)
+{
+    stepAside();
+    const CameraPose startPose = camera->getPose();
+    const QLineF startLine = match.getXLine1();
+
+    dragLine(0.02);
+    dragLine(0.0);
+    const CameraPose endPose = camera->getPose();
+    const QLineF endLine = match.getXLine1();
+    EXPECT_EQ(undo->getStack()->count(), 2);
+
+    changes.clear();
+    EXPECT_TRUE(undo->undo() && undo->undo());
+    EXPECT_TRUE(isSamePlace(camera->getPose(), startPose));
+    EXPECT_TRUE(isSameLine(match.getXLine1(), startLine));
+    EXPECT_THAT(changes, testing::Contains("match xLine1"));
+    EXPECT_TRUE(undo->redo() && undo->redo());
+    EXPECT_TRUE(isSamePlace(camera->getPose(), endPose));
+    EXPECT_TRUE(isSameLine(match.getXLine1(), endLine));
+}
+
+TEST_F(nbdPerspectiveMatchTest, AGroupIsOneStepOrNoneAndCanBeTakenBack)
+{
+    stepAside();
+    const CameraPose startPose = camera->getPose();
+    const QLineF startLine = match.getXLine1();
+
+    undo->beginGroup();
+    for (int i = 0; i < 20; ++i) {
+        dragLine(0.001);
+    }
+    undo->endGroup();
+    EXPECT_EQ(undo->getStack()->count(), 1);
+    EXPECT_TRUE(undo->undo());
+    EXPECT_TRUE(isSamePlace(camera->getPose(), startPose));
+    EXPECT_TRUE(undo->redo());
+
+    // There and back again: as the lines give it, the camera ends where it was but for rounding.
+    const CameraPose solvedPose = camera->getPose();
+    const QLineF solvedLine = match.getXLine1();
+    undo->beginGroup();
+    dragLine(0.05);
+    match.setXLine1(solvedLine);
+    node.updateFromPerspectiveMatch();
+    undo->endGroup();
+    EXPECT_EQ(undo->getStack()->count(), 1);
+    EXPECT_TRUE(isSamePlace(camera->getPose(), solvedPose));
+
+    undo->undo();
+    undo->beginGroup();
+    dragLine(0.05);
+    undo->cancelGroup();
+    EXPECT_TRUE(isSamePlace(camera->getPose(), startPose));
+    EXPECT_TRUE(isSameLine(match.getXLine1(), startLine));
+}
+
+TEST_F(nbdPerspectiveMatchTest, UndoOfASettingLeavesTheCameraThatWasTurnedSince)
+{
+    {
+        const nbScopedUndo scope(true);
+        match.setMagnifyFactor(9.f);
+    }
+    stepAside();
+    const CameraPose pose = camera->getPose();
+
+    EXPECT_TRUE(undo->undo());
+
+    EXPECT_EQ(match.getMagnifyFactor(), nbdPerspectiveMatch::kDefaultMagnifyFactor);
+    EXPECT_TRUE(isSamePlace(camera->getPose(), pose));
+}
+
+TEST_F(nbdPerspectiveMatchTest, LinesStayInPlaceOrWithTheMiddleWhenTheViewChangesItsShape)
+{
+    const QLineF line = match.getXLine1();
+    widget->resize(1000, 500);
+    EXPECT_TRUE(isSameLine(match.getXLine1(), line));
+    widget->resize(1600, 1000);
+
+    match.setAnchoredToCentre(true);
+    {
+        const nbScopedUndo scope(true);
+        match.setYLine1(QLineF(0.5, 0.5, 0.6, 0.9));
+    }
+    widget->resize(1000, 500);
+    // The middle moves from 0.8 to 1.
+    EXPECT_NEAR(match.getXLine1().x1(), line.x1() + 0.2, 1e-6);
+    EXPECT_NEAR(match.getXLine1().y1(), line.y1(), 1e-12);
+    undo->undo();
+    EXPECT_NEAR(match.getXLine1().x1(), line.x1() + 0.2, 1e-6);
+    stepAside();
+    undo->redo();
+    match.setYLine1(nbPerspectiveSolver::linesOf(photographed, 2.0, 1.0)[2]);
+    EXPECT_EQ(node.updateFromPerspectiveMatch(), nbCameraTypes::Solved);
+    EXPECT_LT(missDeg(), 0.01);
+}
+
+TEST_F(nbdPerspectiveMatchTest, SizingByTheWidthKeepsWhatIsSeenAcrossIt)
+{
+    EXPECT_TRUE(nbCameraUtils::getVerticalSizing(camera, 1600, 1000));
+    EXPECT_TRUE(nbCameraUtils::getVerticalSizing(osg::NullFC, 1, 1));
+    {
+        const nbEdit edit(camera, osg::UberCamera::HorizontalSizingFieldMask);
+        camera->setHorizontalSizing(true);
+    }
+    EXPECT_FALSE(nbCameraUtils::getVerticalSizing(camera, 1600, 1000));
+    const float right = camera->getRight() / camera->getNear();
+    widget->resize(1600, 400);
+    EXPECT_NEAR(camera->getRight() / camera->getNear(), right, 1e-5);
+
+    photographed.fovDeg = camera->getFov();
+    node.layLinesAsSeen();
+    EXPECT_LT(match.getXLine1().y1(), 0.25);
+    stepAside();
+    EXPECT_EQ(node.updateFromPerspectiveMatch(), nbCameraTypes::Solved);
+    EXPECT_NEAR(camera->getFov(), photographed.fovDeg, 0.01);
+    EXPECT_LT(missDeg(), 0.01);
+}
+
+TEST_F(nbdPerspectiveMatchTest, MissingServicesAreNamedOnStandardError)
+{
+    struct Clerk
+    { };
+
+    nbKernelServiceFactory& factory = nbKernelServiceFactory::the();
+    nbObjectService* const service = factory.get<nbObjectService>();
+    ASSERT_NE(service, nullptr);
+
+    testing::internal::CaptureStderr();
+    factory.unregister<nbObjectService>();
+    EXPECT_EQ(factory.get<nbObjectService>(), nullptr);
+    match.setMagnifyFactor(7.f);  // nobody to tell, not a word
+    factory.registerService<nbObjectService>(nullptr);
+    EXPECT_EQ(factory.get<nbObjectService>(), nullptr);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "nbKernelServiceFactory: couldn't find class 'nbObjectService'!\n"
+              "nbKernelServiceFactory: service 'nbObjectService' is NULL!\n");
+    EXPECT_THAT(changes, IsEmpty());
+
+    factory.registerService(service);
+    Clerk clerk;
+    factory.registerService(&clerk);
+    EXPECT_EQ(factory.get<Clerk>(), &clerk);
+    factory.unregister<Clerk>();
+}
+
+}  // namespace

@@ -1,0 +1,224 @@
+// SPDX-License-Identifier: MIT
+// Cases: where a photograph lies in views of several shapes; a photograph of what the camera shows
+// lies exactly over it; transparent parts; edits; a veil over the scene, below handles; the
+// magnifier shows pixels as squares about the cursor, at the edges, and only in the main view; it
+// looks through the scene at a photograph.
+#include <nbKernel/nbOSGWidget.h>
+#include <nbKernel/nbScenegraph.h>
+#include <nbMagnifier/nbMagnifierRenderer.h>
+#include <nbOpenSGRenderAction/nbImageConvert.h>
+#include <nbOpenSGUberViewport/nbPhotographFit.h>
+
+#include <cstdlib>
+#include <memory>
+
+#include <tests/platform/support/RenderTest.h>
+
+namespace {
+
+using namespace rendertest;
+
+/// Vertical stripes, so that neighbours tell each other apart, of a picture of its own size.
+QImage stripes(int width, int height)
+{
+    QImage picture(width, height, QImage::Format_RGB32);
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
+            picture.setPixelColor(x, y, QColor((x * 37) % 256, (y * 53) % 256, (x * y) % 256));
+        }
+    }
+    return picture;
+}
+
+int difference(const QColor& a, const QColor& b)
+{
+    return std::abs(a.red() - b.red()) + std::abs(a.green() - b.green()) +
+        std::abs(a.blue() - b.blue());
+}
+
+TEST(nbPhotographFit, KeepsTheReferenceSideAndTheMiddle)
+{
+    struct Row
+    {
+        const char* name;
+        int view[2];
+        bool verticalSizing;
+        float expected[4];
+    };
+
+    const Row rows[] = {
+        { "wider view, by the height", { 2000, 500 }, true, { 625.f, 0.f, 750.f, 500.f } },
+        { "narrower view, by the height", { 500, 500 }, true, { -125.f, 0.f, 750.f, 500.f } },
+        { "wider view, by the width", { 600, 100 }, false, { 0.f, -150.f, 600.f, 400.f } },
+        { "no area", { 600, 0 }, false, { 0.f, 0.f, 0.f, 0.f } },
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        const nbPhotographFit fit =
+            nbPhotographFit::of(300, 200, row.view[0], row.view[1], row.verticalSizing);
+        EXPECT_FLOAT_EQ(fit.left, row.expected[0]);
+        EXPECT_FLOAT_EQ(fit.bottom, row.expected[1]);
+        EXPECT_FLOAT_EQ(fit.width, row.expected[2]);
+        EXPECT_FLOAT_EQ(fit.height, row.expected[3]);
+    }
+}
+
+/// A main render widget with a photograph and nothing in its scene.
+class nbRenderPhotographTest : public testing::Test
+{
+protected:
+    static void SetUpTestSuite() { view = std::make_unique<nbOffscreenView>(); }
+
+    static void TearDownTestSuite() { view.reset(); }
+
+    nbRenderPhotographTest()
+    {
+        widget.setMain();
+        const nbEdit edit(widget.getViewport(), osg::FieldBits::AllFields);
+        widget.getUberViewport()->setBackgroundColor(osg::Color4f(0.f, 0.f, 0.f, 1.f));
+    }
+
+    ~nbRenderPhotographTest() override
+    {
+        nbMagnifierRenderer::setVisible(false);
+        nbScenegraph::clear();
+    }
+
+    void show(const QImage& photograph)
+    {
+        const nbEdit edit(widget.getViewport(), osg::UberViewport::PhotographFieldMask);
+        widget.getUberViewport()->setPhotograph(nbImageConvert::toImage(photograph));
+    }
+
+    QImage draw(int width, int height)
+    {
+        widget.resize(width, height);
+        QImage picture = view->render(widget.getViewport(), width, height);
+        EXPECT_FALSE(picture.isNull()) << view->getError();
+        return picture;
+    }
+
+    static inline std::unique_ptr<nbOffscreenView> view;
+    nbOSGWidget widget;
+};
+
+TEST_F(nbRenderPhotographTest, APhotographOfTheViewsHeightIsShownPixelByPixel)
+{
+    const QImage photograph = stripes(60, 40);
+    show(photograph);
+
+    const QImage picture = draw(100, 40);
+
+    int worst = 0;
+    for (int y = 0; y < 40; ++y) {
+        for (int x = 0; x < 60; ++x) {
+            worst = std::max(
+                worst, difference(picture.pixelColor(x + 20, y), photograph.pixelColor(x, y)));
+        }
+    }
+    EXPECT_LE(worst, 3);
+    EXPECT_EQ(picture.pixelColor(19, 20), kBlack);
+    EXPECT_EQ(picture.pixelColor(80, 20), kBlack);
+
+    QImage changed(60, 40, QImage::Format_ARGB32);
+    changed.fill(QColor(0, 0, 255, 128));
+    show(changed);
+    EXPECT_LE(difference(draw(100, 40).pixelColor(50, 20), QColor(0, 0, 128)), 3);
+    show(QImage());
+    EXPECT_EQ(draw(100, 40).pixelColor(50, 20), kBlack);
+}
+
+TEST_F(nbRenderPhotographTest, APictureTakenThroughTheCameraLiesOverWhatItShows)
+{
+    const osg::NodePtr square = rendertest::square(4.f, unlit(kRed));
+    nbScenegraph::getRootNode()->addChild(square);
+    const QImage taken = draw(300, 200);
+    nbScenegraph::getRootNode()->subChild(square);
+    show(taken);
+
+    const QImage seen = draw(250, 200);
+
+    for (int x = 0; x < 250; ++x) {
+        ASSERT_LE(difference(seen.pixelColor(x, 100), taken.pixelColor(x + 25, 100)), 3) << x;
+    }
+}
+
+TEST_F(nbRenderPhotographTest, AVeilCoversTheSceneButNoHandles)
+{
+    nbScenegraph::getRootNode()->addChild(square(4.f, unlit(kRed)));
+    const osg::NodePtr handle = placed(square(1.f, unlit(kGreen)), osg::Vec3f(0.f, 1.f, 0.f));
+    nbScenegraph::getInternalRoot()->addChild(manipulator({ handle }));
+    QImage photograph(40, 40, QImage::Format_RGB32);
+    photograph.fill(kBlue);
+    show(photograph);
+    EXPECT_EQ(draw(200, 200).pixelColor(100, 120), kRed);
+
+    const nbEdit edit(widget.getViewport(), osg::UberViewport::PhotographVeilFieldMask);
+    widget.getUberViewport()->setPhotographVeil(0.25f);
+    const QImage picture = draw(200, 200);
+
+    EXPECT_LE(difference(picture.pixelColor(100, 120), QColor(191, 0, 64)), 3);
+    EXPECT_EQ(picture.pixelColor(100, 76), kGreen);
+    EXPECT_EQ(picture.pixelColor(20, 20), kBlue);
+
+    // Over the handle the lens shows it, beside it the photograph behind the scene.
+    nbMagnifierRenderer::setVisible(true);
+    nbMagnifierRenderer::setCursorPosition(100, 76);
+    nbMagnifierRenderer::setMagnificationScale(2.f);
+    const QImage magnified = draw(200, 200);
+    EXPECT_EQ(magnified.pixelColor(100, 76), kGreen);
+    EXPECT_LE(difference(magnified.pixelColor(100, 126), kBlue), 3);
+    EXPECT_EQ(magnified.pixelColor(100, 170), picture.pixelColor(100, 170));
+}
+
+TEST_F(nbRenderPhotographTest, TheMagnifierShowsPixelsAsSquaresAboutTheCursor)
+{
+    constexpr int kWidth = 300;
+    constexpr int kHeight = 240;
+    show(stripes(kWidth, kHeight));
+    const QImage plain = draw(kWidth, kHeight);
+    nbMagnifierRenderer::setVisible(true);
+
+    struct Row
+    {
+        int x;
+        int y;
+        int scale;
+    };
+
+    for (const Row& row : { Row { 150, 100, 5 }, Row { 151, 121, 4 }, Row { 0, 0, 4 },
+                            Row { 299, 239, 3 }, Row { 150, 300, 5 } }) {
+        SCOPED_TRACE(testing::Message() << row.x << ", " << row.y << " by " << row.scale);
+        nbMagnifierRenderer::setCursorPosition(row.x, row.y);
+        nbMagnifierRenderer::setMagnificationScale(static_cast<float>(row.scale));
+        const QImage picture = draw(kWidth, kHeight);
+        int compared = 0;
+        int wrong = 0;
+        for (int y = 0; y < kHeight; ++y) {
+            for (int x = 0; x < kWidth; ++x) {
+                const double radius = std::hypot(x - row.x, y - row.y);
+                if (radius > 80.0 + 1.0) {
+                    wrong += picture.pixelColor(x, y) != plain.pixelColor(x, y);
+                } else if (radius < 80.0 - 3.0 - 1.0) {
+                    // In the form of whole numbers: y runs down here and up in the lens.
+                    const int fromX =
+                        static_cast<int>(std::floor(row.x + 0.5 + double(x - row.x) / row.scale));
+                    const int fromY = kHeight - 1 -
+                        static_cast<int>(std::floor(kHeight - row.y - 0.5 +
+                                                    double(row.y - y) / row.scale));
+                    ++compared;
+                    wrong += picture.pixelColor(x, y) !=
+                        plain.pixelColor(std::clamp(fromX, 0, kWidth - 1),
+                                         std::clamp(fromY, 0, kHeight - 1));
+                }
+            }
+        }
+        EXPECT_EQ(wrong, 0);
+        EXPECT_GT(compared, 900);
+    }
+    nbOSGWidget other;
+    other.setMain();
+    EXPECT_EQ(draw(kWidth, kHeight), plain);
+}
+
+}  // namespace

@@ -1,0 +1,217 @@
+// SPDX-License-Identifier: MIT
+// Putting pictures on objects in the window, as a person does it.
+#include "viewer/core/SessionTargets.h"
+#include "viewer/core/Stage.h"
+#include "viewer/gui/MainWindow.h"
+#include "viewer/gui/MaterialPicture.h"
+#include "viewer/gui/VectorEdit.h"
+#include "viewer/gui/ViewWidget.h"
+
+#include <nbKernelServices/nbUndoService.h>
+
+#include <QAbstractButton>
+#include <QDockWidget>
+#include <QDoubleSpinBox>
+#include <QDropEvent>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QUndoStack>
+#include <QUrl>
+
+#include "support/GuiTest.h"
+
+namespace viewer {
+namespace {
+
+const QString kLabel = QStringLiteral(NB_VIEWER_FOLDER "/models/label.png");
+
+/// A shown window on the start scene with the material panel.
+class MaterialPanelTest : public GuiTest
+{
+protected:
+    MaterialPanelTest()
+        : window(MainWindow::Attendance::Unattended)
+    {
+        QObject::connect(&window, &MainWindow::problem,
+                         [this](const QString& text) { problems.append(text); });
+        window.show();
+        window.showStartScene();
+        find<QDockWidget>("materialDock")->show();
+        waitForQuiet();
+    }
+
+    template <class Widget>
+    Widget* find(const char* name)
+    {
+        auto* found = window.findChild<Widget*>(QLatin1String(name));
+        EXPECT_NE(found, nullptr) << name;
+        return found;
+    }
+
+    Stage& stage() { return window.view().stage(); }
+
+    /// Drops a file on the middle of an object, with the events of the window system.
+    void drop(const QString& file, const char* node)
+    {
+        stage().selectByName(node);
+        QString error;
+        SessionTarget target;
+        target.kind = SessionTarget::Kind::Node;
+        target.name = QLatin1String(node);
+        ASSERT_TRUE(resolveTarget(target, stage(), px, error)) << error.toStdString();
+        stage().select(osg::NullFC);
+        QMimeData data;
+        data.setUrls({ QUrl::fromLocalFile(file) });
+        const QPointF place = window.view().toLogical(px);
+        QDragEnterEvent enter(place.toPoint(), Qt::CopyAction, &data, Qt::LeftButton,
+                              Qt::NoModifier);
+        QCoreApplication::sendEvent(&window.view(), &enter);
+        EXPECT_TRUE(enter.isAccepted());
+        QDropEvent event(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&window.view(), &event);
+        waitForQuiet();
+    }
+
+    static void type(QWidget* widget, const QString& text)
+    {
+        for (const QChar letter : text) {
+            QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, letter);
+            QCoreApplication::sendEvent(widget, &press);
+        }
+        QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+        QCoreApplication::sendEvent(widget, &enter);
+    }
+
+    void mouse(QEvent::Type type, const osg::Pnt2f& at, Qt::MouseButton button,
+               Qt::MouseButtons held)
+    {
+        QMouseEvent event(type, window.view().toLogical(at), button, held, Qt::NoModifier);
+        QCoreApplication::sendEvent(&window.view(), &event);
+    }
+
+    QJsonValue value(const char* name)
+    {
+        return stage().commands().value(QLatin1String(name)).value_or(QJsonValue());
+    }
+
+    MainWindow window;
+    QStringList problems;
+    osg::Pnt2f px;  ///< where the last file was dropped
+};
+
+TEST_F(MaterialPanelTest, ADroppedPictureIsSeenWhereItFellAndTheObjectKeepsItsColour)
+{
+    QString error;
+    const QImage before = window.view().takePicture(error);
+    QString recorded;
+    stage().commands().setListener(
+        [&recorded](const QString& name, const QJsonValue&) { recorded = name; });
+    drop(kLabel, "Vase");
+    EXPECT_EQ(recorded, "texture.drop");
+    EXPECT_EQ(find<QLabel>("textureFile")->text(), "label.png");
+    EXPECT_EQ(value("texture.handles"), QJsonValue("universal"));
+
+    // Without handles and without the display of the projection.
+    stage().showGizmo(Gizmo::None);
+    stage().select(osg::NullFC);
+    const QImage after = window.view().takePicture(error);
+
+    // The paper of the label is near white, the vase is not; far from the label nothing changes.
+    const QPoint middle(static_cast<int>(px[0]), static_cast<int>(px[1]));
+    int changed = 0;
+    int blue = 0;
+    for (int y = -12; y <= 12; ++y) {
+        for (int x = -12; x <= 12; ++x) {
+            const QPoint place = middle + QPoint(x, y);
+            changed += before.pixel(place) != after.pixel(place) ? 1 : 0;
+            blue = qMax(blue, qBlue(after.pixel(place)));
+        }
+    }
+    EXPECT_GT(changed, 500);
+    EXPECT_GT(blue, 140);
+    const QPoint foot(middle.x(), middle.y() + 80);
+    const QColor was = before.pixelColor(foot);
+    const QColor is = after.pixelColor(foot);
+    EXPECT_NEAR(was.red(), is.red(), 3);
+    EXPECT_NEAR(was.blue(), is.blue(), 3);
+    EXPECT_EQ(problems, QStringList());
+}
+
+TEST_F(MaterialPanelTest, ABrokenPictureIsOneLineAndNothingElse)
+{
+    drop(QStringLiteral(NB_VIEWER_FOLDER "/models/missing.png"), "Vase");
+
+    ASSERT_EQ(problems.size(), 1);
+    EXPECT_TRUE(problems.first().contains("missing.png"));
+    EXPECT_FALSE(stage().canUndo());
+}
+
+TEST_F(MaterialPanelTest, WithoutASelectionThePanelSaysSoAndIsOff)
+{
+    EXPECT_TRUE(find<QWidget>("materialContent")->isEnabled());
+
+    stage().select(osg::NullFC);
+
+    EXPECT_FALSE(find<QWidget>("materialContent")->isEnabled());
+    EXPECT_EQ(find<QLabel>("materialHint")->text(), "Select an object to put a picture on it.");
+}
+
+TEST_F(MaterialPanelTest, TypedNumbersMoveThePictureAloneAndAreOneStepEach)
+{
+    drop(kLabel, "Vase");
+    auto* const edit = find<VectorEdit>("texture.scale");
+    const QList<QDoubleSpinBox*> boxes = edit->findChildren<QDoubleSpinBox*>();
+    ASSERT_EQ(boxes.size(), 3);
+    const double aspect = boxes[0]->value() / boxes[1]->value();
+    const int steps = nbUndoService::the()->getStack()->index();
+
+    boxes[0]->setFocus();
+    boxes[0]->selectAll();
+    type(boxes[0], "0.25");
+
+    EXPECT_EQ(boxes[0]->value(), 0.25);
+    EXPECT_NEAR(boxes[0]->value() / boxes[1]->value(), aspect, 0.02) << "the aspect is kept";
+    EXPECT_EQ(nbUndoService::the()->getStack()->index(), steps + 1);
+    EXPECT_TRUE(stage().undo());
+    EXPECT_NE(boxes[0]->value(), 0.25);
+    EXPECT_EQ(problems, QStringList());
+}
+
+TEST_F(MaterialPanelTest, ButtonsShowHandlesAndThePreviewWaitsForTheEndOfADrag)
+{
+    drop(kLabel, "Vase");
+    find<QAbstractButton>("texture-translate")->click();
+    EXPECT_EQ(value("texture.handles"), QJsonValue("translate"));
+    EXPECT_TRUE(find<QAbstractButton>("texture-translate")->isChecked());
+    auto* const picture = find<MaterialPicture>("materialPicture");
+    const QImage before = picture->picture();
+    ASSERT_FALSE(before.isNull());
+
+    SessionTarget target;
+    target.kind = SessionTarget::Kind::Handle;
+    target.name = QStringLiteral("xyaShape");
+    QString error;
+    osg::Pnt2f at;
+    ASSERT_TRUE(resolveTarget(target, stage(), at, error)) << error.toStdString();
+    mouse(QEvent::MouseMove, at, Qt::NoButton, Qt::NoButton);
+    mouse(QEvent::MouseButtonPress, at, Qt::LeftButton, Qt::LeftButton);
+    mouse(QEvent::MouseMove, at + osg::Vec2f(15, 10), Qt::NoButton, Qt::LeftButton);
+    EXPECT_EQ(value("texture.preview"), QJsonValue(false));
+    EXPECT_EQ(picture->picture(), before);
+    mouse(QEvent::MouseButtonRelease, at + osg::Vec2f(15, 10), Qt::LeftButton, Qt::NoButton);
+
+    EXPECT_EQ(value("texture.preview"), QJsonValue(true));
+    EXPECT_NE(picture->picture(), before);
+    find<QAbstractButton>("texture-place")->click();
+    EXPECT_EQ(value("texture.place"), QJsonValue(true));
+    find<QAbstractButton>("texture.mask")->click();
+    EXPECT_EQ(value("texture.mask"), QJsonValue(true));
+    find<QAbstractButton>("textureRemove")->click();
+    EXPECT_EQ(find<QLabel>("textureFile")->text(), "No picture");
+    EXPECT_EQ(problems, QStringList());
+}
+
+}  // namespace
+}  // namespace viewer

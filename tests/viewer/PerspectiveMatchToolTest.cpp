@@ -1,0 +1,258 @@
+// SPDX-License-Identifier: MIT
+// Cases: commands and what they refuse; one undo step for each drag and each edit; the camera's
+// followers are told; lines stay on the photograph in views of other shapes; lock, hidden lines,
+// orthographic views; another scene.
+#include "viewer/core/PerspectiveMatchTool.h"
+
+#include "viewer/core/PerspectiveMatchCommands.h"
+#include "viewer/core/Stage.h"
+
+#include <nbInteraction/EventNames.h>
+#include <nbInteraction/InteractionEvent.h>
+#include <nbKernelServices/nbUndoService.h>
+#include <nbMagnifier/nbMagnifierRenderer.h>
+#include <nbOpenSGUberViewport/UberViewport.h>
+
+#include <QImage>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QTemporaryDir>
+#include <QtWidgets/QUndoStack>
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace viewer {
+namespace {
+
+namespace names = nbec::interaction::names;
+
+class PerspectiveMatchToolTest : public testing::Test
+{
+protected:
+    PerspectiveMatchToolTest()
+        : stage(view)
+        , tool(stage)
+    {
+        stage.resize(1200, 800, 1.0F);
+        stage.showStartScene();
+    }
+
+    bool run(const char* command, const QJsonValue& value = {})
+    {
+        error.clear();
+        return stage.commands().run(QStringLiteral("match.") + QLatin1String(command), value,
+                                    error);
+    }
+
+    QJsonValue value(const char* name)
+    {
+        return stage.commands()
+            .value(QStringLiteral("match.") + QLatin1String(name))
+            .value_or(QJsonValue());
+    }
+
+    QLineF line(nbdPerspectiveMatch::Line which) const
+    {
+        return tool.camera().getPerspectiveMatch().getLine(which);
+    }
+
+    void send(const char* event, const osg::Pnt2f& px)
+    {
+        view.setMousePosition(px);
+        stage.interaction().pointerMoved(px);
+        stage.interaction().triggerEvent(
+            nbec::interaction::InteractionEvent(event, names::kTool, names::kSelect));
+    }
+
+    /// Drags a handle in two steps, with the button still down at the end.
+    osg::Pnt2f dragOut(const char* handle, float x, float y)
+    {
+        osg::Pnt2f px;
+        EXPECT_TRUE(tool.findHandle(handle, px)) << handle;
+        send(names::kHover, px);
+        EXPECT_EQ(tool.hoveredHandle(), handle);
+        send(names::kStart, px);
+        send(names::kProcess, osg::Pnt2f(px[0] + 0.5F * x, px[1] + 0.5F * y));
+        const osg::Pnt2f end(px[0] + x, px[1] + y);
+        send(names::kProcess, end);
+        return end;
+    }
+
+    static int steps() { return nbUndoService::the()->getStack()->index(); }
+
+    nbOSGWidget view;
+    Stage stage;
+    PerspectiveMatchTool tool;
+    QString error;
+};
+
+TEST_F(PerspectiveMatchToolTest, TheLinesBeginWhereTheCameraSeesThem)
+{
+    const CameraPose before = stage.pose();
+
+    ASSERT_TRUE(run("setActive", true));
+    ASSERT_TRUE(run("solve"));
+
+    EXPECT_EQ(stage.manipulatorName(), "match");
+    EXPECT_LT(stage.pose().from.dist(before.from), 1e-3F);
+    EXPECT_NEAR(stage.pose().fovDeg, before.fovDeg, 1e-3F);
+    ASSERT_TRUE(run("setActive", false));
+    EXPECT_EQ(stage.manipulatorName(), "universal");
+}
+
+TEST_F(PerspectiveMatchToolTest, ADragIsOneStepAndMovesOneEndAndTheCamera)
+{
+    ASSERT_TRUE(run("setActive", true));
+    const CameraPose before = stage.pose();
+    const QLineF lineBefore = line(nbdPerspectiveMatch::XLine1);
+
+    const osg::Pnt2f end = dragOut("x1b", 0.0F, -40.0F);
+    EXPECT_TRUE(nbMagnifierRenderer::isVisible());
+    EXPECT_FALSE(tool.draggedValues().empty());
+    send(names::kStop, end);
+
+    EXPECT_FALSE(nbMagnifierRenderer::isVisible());
+    EXPECT_EQ(line(nbdPerspectiveMatch::XLine1).p1(), lineBefore.p1());
+    EXPECT_NEAR(line(nbdPerspectiveMatch::XLine1).y2(), lineBefore.y2() + 40.0 / 800.0, 1e-6);
+    EXPECT_GT(stage.pose().from.dist(before.from), 0.01F);
+    EXPECT_EQ(steps(), 1);
+    EXPECT_TRUE(stage.undo());
+    EXPECT_EQ(stage.pose().from, before.from);
+    EXPECT_EQ(line(nbdPerspectiveMatch::XLine1), lineBefore);
+
+    osg::Pnt2f there = dragOut("x1b", 0.0F, -40.0F);
+    there[1] += 40.0F;
+    send(names::kProcess, there);
+    send(names::kStop, there);
+    EXPECT_EQ(steps(), 0) << "there and back again is no step";
+    EXPECT_EQ(line(nbdPerspectiveMatch::XLine1).p2(), lineBefore.p2());
+
+    send(names::kStop, dragOut("x1", 30.0F, 10.0F));
+    EXPECT_EQ(steps(), 1) << "the body moves as a whole";
+    EXPECT_NEAR(line(nbdPerspectiveMatch::XLine1).length(), lineBefore.length(), 1e-6);
+}
+
+TEST_F(PerspectiveMatchToolTest, EachEditIsAStepAndTellsWhoFollowsTheCamera)
+{
+    ASSERT_TRUE(run("setActive", true));
+    int told = 0;
+    stage.setChangedCallback([&told] { ++told; });
+
+    const QLineF moved = line(nbdPerspectiveMatch::ZLine2).translated(0.04, 0.02);
+    const QJsonArray ends { moved.x1(), moved.y1(), moved.x2(), moved.y2() };
+    EXPECT_TRUE(run("setLine", QJsonObject { { "line", "z2" }, { "ends", ends } }));
+    EXPECT_EQ(line(nbdPerspectiveMatch::ZLine2), moved);
+    stage.update();
+    EXPECT_GT(told, 0) << value("result").toString().toStdString();
+    EXPECT_TRUE(run("setLinesType", "xz"));
+    EXPECT_TRUE(run("setFovMode", "fixed"));
+    EXPECT_TRUE(run("setMagnifyFactor", 6.5));
+    EXPECT_TRUE(run("layLines"));
+
+    EXPECT_EQ(steps(), 5);
+    EXPECT_EQ(value("linesType"), QJsonValue("xz"));
+    EXPECT_EQ(value("fovMode"), QJsonValue("fixed"));
+    EXPECT_EQ(value("magnifyFactor"), QJsonValue(6.5));
+    while (stage.undo()) { }
+    EXPECT_EQ(value("linesType"), QJsonValue("xyz"));
+    EXPECT_EQ(value("magnifyFactor"), QJsonValue(4.0));
+    stage.setChangedCallback(nullptr);
+}
+
+TEST_F(PerspectiveMatchToolTest, RefusesWhatItCannotDoInOneLine)
+{
+    const QJsonObject threeNumbers { { "line", "x1" }, { "ends", QJsonArray { 1, 2, 3 } } };
+    const QJsonObject unknownLine { { "line", "w1" }, { "ends", QJsonArray { 1, 2, 3, 4 } } };
+    const std::pair<const char*, QJsonValue> rows[] = {
+        { "setPhotograph", "missing.png" },
+        { "setPhotograph", 3 },
+        { "setVeil", 1.5 },
+        { "setActive", "yes" },
+        { "setLinesType", "xw" },
+        { "setFovMode", 1 },
+        { "setMagnifyFactor", 0.5 },
+        { "setMagnifyFactor", "4" },
+        { "setLine", threeNumbers },
+        { "setLine", unknownLine },
+    };
+    for (const auto& [command, argument] : rows) {
+        EXPECT_FALSE(run(command, argument)) << command;
+        EXPECT_FALSE(error.isEmpty()) << command;
+        EXPECT_FALSE(error.contains('\n')) << command;
+    }
+    EXPECT_EQ(steps(), 0);
+
+    stage.setOrthographic(true);
+    EXPECT_FALSE(run("setActive", true));
+    EXPECT_TRUE(error.contains(QStringLiteral("orthographic")));
+    EXPECT_TRUE(value("result").toString().contains(QStringLiteral("rthographic")));
+}
+
+TEST_F(PerspectiveMatchToolTest, ALockedCameraStaysAndHiddenLinesCannotBeGrabbed)
+{
+    ASSERT_TRUE(run("setActive", true));
+    ASSERT_TRUE(run("setLocked", true));
+    const CameraPose before = stage.pose();
+    const QLineF lineBefore = line(nbdPerspectiveMatch::YLine1);
+
+    send(names::kStop, dragOut("y1a", 25.0F, 0.0F));
+    EXPECT_FALSE(run("solve"));
+    EXPECT_FALSE(run("setLinesType", "xy"));
+    EXPECT_EQ(line(nbdPerspectiveMatch::YLine1), lineBefore);
+    EXPECT_EQ(stage.pose().from, before.from);
+    EXPECT_EQ(steps(), 0);
+
+    ASSERT_TRUE(run("setLocked", false));
+    ASSERT_TRUE(run("showLines", false));
+    osg::Pnt2f px;
+    EXPECT_FALSE(tool.findHandle("y1a", px));
+    EXPECT_EQ(stage.handles(), osg::NodePtr());
+    ASSERT_TRUE(run("showLines", true));
+    send(names::kStop, dragOut("y1a", 25.0F, 0.0F));
+    EXPECT_EQ(steps(), 1);
+}
+
+TEST_F(PerspectiveMatchToolTest, LinesStayOnThePhotographInViewsOfAnyShape)
+{
+    ASSERT_TRUE(run("setActive", true));
+    ASSERT_TRUE(run("setLinesType", "xz"));
+    const CameraPose before = stage.pose();
+    for (const auto& [width, height] : { std::pair(501, 333), std::pair(333, 777) }) {
+        stage.resize(width, height, 1.0F);
+
+        ASSERT_TRUE(run("solve"));
+
+        EXPECT_LT(stage.pose().from.dist(before.from), 2e-3F) << width;
+        EXPECT_NEAR(stage.pose().fovDeg, before.fovDeg, 1e-2F) << width;
+        send(names::kStop, dragOut("z1b", 7.0F, 0.0F));
+        EXPECT_TRUE(stage.undo());
+    }
+}
+
+TEST_F(PerspectiveMatchToolTest, APhotographIsTakenWhenItIsDroppedAndGoesWithTheScene)
+{
+    QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("street.png"));
+    QImage(30, 20, QImage::Format_RGB32).save(file);
+    EXPECT_FALSE(stage.takePicture(file, osg::Pnt2f(10.F, 10.F), error));
+    ASSERT_TRUE(run("setActive", true));
+
+    EXPECT_TRUE(stage.takePicture(file, osg::Pnt2f(10.F, 10.F), error));
+    EXPECT_EQ(value("photograph"), QJsonValue("street.png"));
+    EXPECT_FLOAT_EQ(view.getUberViewport()->getPhotographVeil(),
+                    static_cast<float>(PerspectiveMatchTool::kUsualVeil));
+    ASSERT_TRUE(run("setActive", false));
+    EXPECT_EQ(value("photograph"), QJsonValue("street.png"));
+    EXPECT_EQ(view.getUberViewport()->getPhotographVeil(), 0.F);
+
+    ASSERT_TRUE(run("setLinesType", "yz"));
+    stage.showStartScene();
+    EXPECT_EQ(value("photograph"), QJsonValue(""));
+    EXPECT_EQ(value("linesType"), QJsonValue("xyz"));
+    EXPECT_EQ(steps(), 0);
+}
+
+}  // namespace
+}  // namespace viewer

@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/core/ProjectionPlacement.h"
+
+#include <gtest/gtest.h>
+
+namespace viewer {
+namespace {
+
+constexpr float kTolerance = 1e-5F;
+
+osg::Vec3f turned(const osg::Quaternion& rotation, const osg::Vec3f& vector)
+{
+    osg::Vec3f result;
+    rotation.multVec(vector, result);
+    return result;
+}
+
+void expectNear(const osg::Vec3f& found, const osg::Vec3f& expected, const char* what)
+{
+    EXPECT_TRUE(found.equals(expected, kTolerance)) << what << ": " << found;
+}
+
+TEST(ProjectionPlacement, ANewPictureLiesUprightOnTheSideThatFacesTheEye)
+{
+    struct Row
+    {
+        const char* name;
+        osg::Vec3f toEye;
+        osg::Vec3f up;
+        osg::Vec3f place;
+        osg::Vec3f y;
+        osg::Vec3f scale;  ///< for a square picture over half of the side
+    };
+
+    // A box of 4 x 2 x 6 about (1, 0, 0).
+    const Row rows[] = {
+        { "front",
+          { 0.2F, 0.3F, 2.F },
+          { 0, 1, -0.2F },
+          { 1, 0, 3 },
+          { 0, 1, 0 },
+          { .5F, .5F, 3 } },
+        { "back", { 0, 0, -1 }, { 0, 1, 0 }, { 1, 0, -3 }, { 0, 1, 0 }, { .5F, .5F, 3 } },
+        { "left", { -3, 1, 1 }, { 0, 1, 0 }, { -1, 0, 0 }, { 0, 1, 0 }, { .5F, .5F, 2 } },
+        { "above", { 0, 1, 0 }, { 0, 0, -1 }, { 1, 1, 0 }, { 0, 0, -1 }, { 1, 1, 1 } },
+        { "upside down", { 0, 0, 1 }, { 0, -1, 0 }, { 1, 0, 3 }, { 0, -1, 0 }, { .5F, .5F, 3 } },
+    };
+    osg::BoxVolume box;
+    box.setBounds(osg::Pnt3f(-1, -1, -3), osg::Pnt3f(3, 1, 3));
+    for (const Row& row : rows) {
+        const ProjectionPose pose = poseOnFront(box, row.toEye, row.up, 1.F, 0.5F);
+        expectNear(pose.translation, row.place, row.name);
+        expectNear(turned(pose.rotation, { 0, 1, 0 }), row.y, row.name);
+        expectNear(pose.scale, row.scale, row.name);
+        EXPECT_GT(turned(pose.rotation, { 0, 0, 1 }).dot(row.toEye), 0.F) << row.name;
+    }
+}
+
+TEST(ProjectionPlacement, ANewPictureKeepsItsAspectWithinTheSideAndFlatObjectsGetDepth)
+{
+    osg::BoxVolume box;
+    box.setBounds(osg::Pnt3f(-2, -1, 0), osg::Pnt3f(2, 1, 0));
+
+    const osg::Vec3f wide = poseOnFront(box, { 0, 0, 1 }, { 0, 1, 0 }, 4.F, 1.F).scale;
+    const osg::Vec3f tall = poseOnFront(box, { 0, 0, 1 }, { 0, 1, 0 }, 0.5F, 1.F).scale;
+
+    EXPECT_FLOAT_EQ(wide[0], 2.F);
+    EXPECT_FLOAT_EQ(wide[1], 0.5F);
+    EXPECT_FLOAT_EQ(tall[0], 0.5F);
+    EXPECT_FLOAT_EQ(tall[1], 1.F);
+    EXPECT_GT(wide[2], 0.F);
+}
+
+TEST(ProjectionPlacement, UprightMeansUpAlongTheSurfaceAndFlatOnesTakeTheView)
+{
+    const osg::Vec3f up(0, 1, 0);
+    const osg::Vec3f away(0, 0, -1);
+    const osg::Vec3f normals[] = { { 1, 0.5F, 2 }, { 0, 3, 0 }, { 0, -1, 0 }, { -1, 0, 0 } };
+    for (const osg::Vec3f& normal : normals) {
+        const osg::Quaternion rotation = uprightRotation(normal, up, away);
+        osg::Vec3f unit = normal;
+        unit.normalize();
+        expectNear(turned(rotation, { 0, 0, 1 }), unit, "z");
+        const osg::Vec3f y = turned(rotation, { 0, 1, 0 });
+        const bool isFlat = normal[0] == 0.F && normal[2] == 0.F;
+        expectNear(turned(rotation, { 1, 0, 0 }), y.cross(unit), "x");
+        EXPECT_NEAR(turned(rotation, { 1, 0, 0 }).dot(isFlat ? away : up), 0.F, kTolerance);
+        EXPECT_GT(y.dot(isFlat ? away : up), 0.F);
+    }
+}
+
+TEST(ProjectionPlacement, ASideAloneTakesTheOtherAlongWhenAspectIsKept)
+{
+    const osg::Vec3f before(2, 1, 5);
+
+    expectNear(scaleKeepingAspect(before, { 4, 1, 5 }), { 4, 2, 5 }, "x");
+    expectNear(scaleKeepingAspect(before, { 2, 3, 5 }), { 6, 3, 5 }, "y");
+    expectNear(scaleKeepingAspect(before, { 3, 3, 5 }), { 3, 3, 5 }, "both");
+    expectNear(scaleKeepingAspect(before, { 2, 1, 7 }), { 2, 1, 7 }, "z");
+    expectNear(scaleKeepingAspect({ 0, 1, 1 }, { 2, 1, 1 }), { 2, 1, 1 }, "from nothing");
+}
+
+}  // namespace
+}  // namespace viewer

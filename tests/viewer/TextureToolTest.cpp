@@ -1,0 +1,365 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/core/TextureTool.h"
+
+#include "viewer/core/SceneBuilder.h"
+#include "viewer/core/SessionTargets.h"
+#include "viewer/core/Stage.h"
+#include "viewer/core/SurfaceMaterial.h"
+#include "viewer/core/TextureCommands.h"
+
+#include <nbInteraction/EventNames.h>
+#include <nbInteraction/InteractionEvent.h>
+#include <nbKernel/nbScenegraph.h>
+#include <nbKernelServices/nbUndoService.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
+
+#include <OpenSG/OSGGeometry.h>
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QTemporaryDir>
+#include <QtWidgets/QUndoStack>
+
+#include <gtest/gtest.h>
+
+namespace viewer {
+namespace {
+
+namespace names = nbec::interaction::names;
+
+const QString kLabel = QStringLiteral(NB_VIEWER_FOLDER "/models/label.png");
+constexpr float kTolerance = 1e-4F;
+
+/// The start scene without a window, with the texture tool and its commands.
+class TextureToolTest : public testing::Test
+{
+protected:
+    TextureToolTest()
+        : stage(view)
+        , tool(stage)
+        , commands(stage, tool)
+    {
+        stage.resize(1200, 800, 1.0F);
+        stage.showStartScene();
+        stage.update();
+    }
+
+    ~TextureToolTest() override { stage.clear(); }
+
+    bool run(const char* name, const QJsonValue& value)
+    {
+        error.clear();
+        const bool isDone = stage.commands().run(QLatin1String(name), value, error);
+        EXPECT_EQ(isDone, error.isEmpty()) << name << ": " << error.toStdString();
+        EXPECT_FALSE(error.contains(QLatin1Char('\n')));
+        return isDone;
+    }
+
+    bool drop(const char* node)
+    {
+        return run("texture.drop",
+                   QJsonObject { { "file", kLabel },
+                                 { "at", QJsonObject { { "node", QLatin1String(node) } } } });
+    }
+
+    QJsonValue value(const char* name)
+    {
+        return stage.commands().value(QLatin1String(name)).value_or(QJsonValue("no value"));
+    }
+
+    osg::Pnt2f placeOf(SessionTarget::Kind kind, const char* name)
+    {
+        SessionTarget target;
+        target.kind = kind;
+        target.name = QLatin1String(name);
+        osg::Pnt2f px;
+        EXPECT_TRUE(resolveTarget(target, stage, px, error)) << error.toStdString();
+        return px;
+    }
+
+    /// An event with the pointer at a pixel, as the window delivers it.
+    bool send(const char* event, const osg::Pnt2f& px)
+    {
+        view.setMousePosition(px);
+        stage.interaction().pointerMoved(px);
+        return stage.interaction().triggerEvent(
+            nbec::interaction::InteractionEvent(event, names::kTool, names::kSelect));
+    }
+
+    static osg::GeometryPtr geometryOf(const osg::NodePtr& node)
+    {
+        return osg::GeometryPtr::dcast(node->getCore());
+    }
+
+    static int steps() { return nbUndoService::the()->getStack()->index(); }
+
+    nbOSGWidget view;
+    Stage stage;
+    TextureTool tool;
+    TextureCommands commands;
+    QString error;
+};
+
+TEST_F(TextureToolTest, ADropPlacesThePictureUprightWhereItFellAsOneStep)
+{
+    const osg::NodePtr vase = findObject(nbScenegraph::getRootNode(), "Vase");
+    const osg::SimpleMaterialPtr before =
+        osg::SimpleMaterialPtr::dcast(geometryOf(surfaceOf(vase, {}))->getMaterial());
+    const osg::Color3f color = before->getDiffuse();
+    nbec::interaction::Picker picker;
+    picker.pickAt(placeOf(SessionTarget::Kind::Node, "Vase"));
+    const osg::Vec3f hit = picker.getHitPoint() - osg::Pnt3f(-2.75F, 0.2F, -0.75F);
+
+    ASSERT_TRUE(drop("Vase"));
+
+    EXPECT_EQ(stage.selectedName(), "Vase");
+    EXPECT_EQ(stage.activeTool(), &tool);
+    EXPECT_EQ(steps(), 1);
+    EXPECT_EQ(value("texture.picture"), QJsonValue("label.png"));
+    EXPECT_TRUE(value("texture.endInDepth").toBool());
+    const osg::Transform3DPtr projection = tool.target().projection();
+    ASSERT_NE(projection, osg::NullFC);
+    EXPECT_TRUE(projection->getTranslation().equals(hit, kTolerance));
+    const osg::Vec3f scale = projection->getScale();
+    EXPECT_NEAR(scale[0] / scale[1], 480.F / 360.F, kTolerance);
+    osg::Vec3f across(1, 0, 0);
+    projection->getMatrix().multMatrixVec(across);
+    EXPECT_NEAR(across[1], 0.F, kTolerance) << "its lower edge is not level";
+    EXPECT_EQ(tool.target().material()->getDiffuse(), color);
+
+    ASSERT_TRUE(stage.undo());
+    EXPECT_EQ(tool.target().material(), osg::NullFC);
+    EXPECT_EQ(value("texture.picture"), QJsonValue(""));
+    EXPECT_EQ(geometryOf(surfaceOf(vase, {}))->getMaterial(), before);
+    ASSERT_TRUE(stage.redo());
+    EXPECT_EQ(value("texture.picture"), QJsonValue("label.png"));
+    EXPECT_TRUE(projection->getTranslation().equals(hit, kTolerance));
+}
+
+TEST_F(TextureToolTest, ADropBesideEveryObjectIsLeftToOthers)
+{
+    QString reason;
+    EXPECT_FALSE(stage.takePicture(kLabel, { 3.F, 3.F }, reason));
+    EXPECT_EQ(reason, "");
+    EXPECT_FALSE(
+        run("texture.drop", QJsonObject { { "file", kLabel }, { "at", QJsonArray { 3, 3 } } }));
+}
+
+TEST_F(TextureToolTest, ClicksPlaceThePictureAndOneTakesBackTheWholeDrag)
+{
+    ASSERT_TRUE(drop("Vase"));
+    const osg::Vec3f before = tool.target().projection()->getTranslation();
+    const osg::Pnt2f px = placeOf(SessionTarget::Kind::Node, "Vase");
+    ASSERT_TRUE(run("texture.place", true));
+    EXPECT_EQ(view.getCursor(), Qt::CrossCursor);
+    EXPECT_EQ(stage.handles(), osg::NullFC);
+
+    EXPECT_TRUE(send("start", px + osg::Vec2f(10, 10)));
+    EXPECT_FALSE(value("texture.preview").toBool());
+    send("process", px + osg::Vec2f(20, 15));
+    send("stop", px + osg::Vec2f(20, 15));
+
+    nbec::interaction::Picker picker;
+    picker.pickAt(px + osg::Vec2f(20, 15));
+    const osg::Vec3f hit = picker.getHitPoint() - osg::Pnt3f(-2.75F, 0.2F, -0.75F);
+    EXPECT_TRUE(tool.target().projection()->getTranslation().equals(hit, kTolerance));
+    EXPECT_TRUE(value("texture.preview").toBool());
+    EXPECT_EQ(steps(), 2);
+    EXPECT_EQ(stage.draggedValues().rfind("Position: [", 0), 0U) << stage.draggedValues();
+
+    send("start", px);
+    send("process", px + osg::Vec2f(-20, 15));
+    stage.interaction().cancelDrag();
+    send("stop", px + osg::Vec2f(-20, 15));
+    EXPECT_TRUE(tool.target().projection()->getTranslation().equals(hit, kTolerance));
+    EXPECT_EQ(steps(), 2);
+
+    ASSERT_TRUE(stage.undo());
+    EXPECT_TRUE(tool.target().projection()->getTranslation().equals(before, kTolerance));
+    stage.showGizmo(Gizmo::Universal);
+    EXPECT_FALSE(tool.isPlacing());
+    EXPECT_EQ(view.getCursor(), Qt::ArrowCursor);
+}
+
+TEST_F(TextureToolTest, ADragOfAHandleIsOneStepAndMovesThePictureWithThePointer)
+{
+    ASSERT_TRUE(drop("Vase"));
+    ASSERT_TRUE(run("texture.handles", "translate"));
+    stage.update();
+    const osg::Pnt2f handle = placeOf(SessionTarget::Kind::Handle, "xyaShape");
+    const osg::Vec3f before = tool.target().projection()->getTranslation();
+    EXPECT_EQ(stage.handleAt(handle), "xyaShape");
+
+    ASSERT_TRUE(send("start", handle));
+    send("process", handle + osg::Vec2f(12, -8));
+    EXPECT_EQ(stage.draggedValues().rfind("Picture at (", 0), 0U) << stage.draggedValues();
+    send("stop", handle + osg::Vec2f(12, -8));
+
+    EXPECT_EQ(steps(), 2);
+    EXPECT_FALSE(tool.target().projection()->getTranslation().equals(before, 0.01F));
+    stage.update();
+    EXPECT_EQ(stage.handleAt(handle + osg::Vec2f(12, -8)), "xyaShape") << "it stayed behind";
+    ASSERT_TRUE(stage.undo());
+    EXPECT_TRUE(tool.target().projection()->getTranslation().equals(before, kTolerance));
+}
+
+TEST_F(TextureToolTest, ASharedGeometryGetsThePictureOnOneOfItsObjectsAlone)
+{
+    ModelData model;
+    model.meshes.resize(1);
+    model.materials.resize(1);
+    model.meshes[0].positions = { { 0, 0, 0 }, { 1, 0, 0 }, { 0, 1, 0 } };
+    model.meshes[0].triangles = { 0, 1, 2 };
+    model.root.children.resize(2);
+    model.root.children[0].meshes = model.root.children[1].meshes = { 0 };
+    model.root.children[0].name = "first";
+    model.root.children[1].name = "second";
+    stage.clear();
+    const osg::NodePtr root = stage.add(model);
+    const osg::NodePtr first = surfaceOf(root->getChild(0), {});
+    const osg::NodePtr second = surfaceOf(root->getChild(1), {});
+    ASSERT_EQ(first->getCore(), second->getCore());
+
+    stage.select(root);
+    EXPECT_NE(tool.hindrance(), "");
+    EXPECT_FALSE(run("texture.picture", kLabel));
+    stage.select(root->getChild(0));
+    ASSERT_TRUE(run("texture.picture", kLabel));
+
+    EXPECT_NE(uberMaterialOf(first), osg::NullFC);
+    EXPECT_EQ(uberMaterialOf(second), osg::NullFC);
+    EXPECT_EQ(geometryOf(first)->getPositions(), geometryOf(second)->getPositions());
+    ASSERT_TRUE(stage.undo());
+    EXPECT_EQ(first->getCore(), second->getCore());
+    EXPECT_EQ(steps(), 0);
+}
+
+TEST_F(TextureToolTest, ValuesAreWhatWasTypedAndEachEditIsAStep)
+{
+    ASSERT_TRUE(run("texture.picture", kLabel));
+
+    const struct
+    {
+        const char* name;
+        QJsonValue value;
+    } rows[] = { { "texture.translation", QJsonArray { 0.5, -1, 2 } },
+                 { "texture.rotation", QJsonArray { 10, 20, 30 } },
+                 { "texture.scale", QJsonArray { 2, 3, 4 } },
+                 { "texture.keepAspect", false },
+                 { "texture.repeatU", true },
+                 { "texture.repeatV", true },
+                 { "texture.endInDepth", false },
+                 { "texture.mask", true },
+                 { "texture.invert", true } };
+
+    for (const auto& row : rows) {
+        const QJsonValue before = value(row.name);
+        const int stepsBefore = steps();
+        EXPECT_TRUE(run(row.name, row.value)) << row.name;
+        EXPECT_TRUE(isNear(value(row.name), row.value, 1e-3)) << row.name;
+        EXPECT_EQ(steps(), stepsBefore + 1) << row.name;
+        ASSERT_TRUE(stage.undo()) << row.name;
+        EXPECT_TRUE(isNear(value(row.name), before, 1e-3)) << row.name;
+    }
+
+    const QJsonArray scale = value("texture.scale").toArray();
+    ASSERT_TRUE(
+        run("texture.scale", QJsonArray { 2 * scale.at(0).toDouble(), scale.at(1), scale.at(2) }));
+    EXPECT_NEAR(value("texture.scale").toArray().at(1).toDouble(), 2 * scale.at(1).toDouble(),
+                1e-5);
+}
+
+TEST_F(TextureToolTest, ComponentsHavePicturesOfTheirOwn)
+{
+    ASSERT_TRUE(run("texture.picture", kLabel));
+    ASSERT_TRUE(run("texture.component", "transparency"));
+
+    EXPECT_EQ(value("texture.picture"), QJsonValue(""));
+    EXPECT_TRUE(value("texture.scale").isNull());
+    EXPECT_FALSE(run("texture.place", true)) << "there is nothing to place";
+    ASSERT_TRUE(run("texture.picture", kLabel));
+    ASSERT_TRUE(run("texture.picture", QJsonValue()));
+    EXPECT_EQ(value("texture.picture"), QJsonValue(""));
+    ASSERT_TRUE(run("texture.component", "diffuse"));
+    EXPECT_EQ(value("texture.picture"), QJsonValue("label.png"));
+}
+
+TEST_F(TextureToolTest, BadInputIsOneLineAndChangesNothing)
+{
+    QTemporaryDir folder;
+    stage.commands().setFolder(QDir(folder.path()));
+    QFile broken(folder.filePath("broken.png"));
+    ASSERT_TRUE(broken.open(QIODevice::WriteOnly));
+    broken.write("\x89PNG\r\n\x1a\nand no more");
+    broken.close();
+
+    const struct
+    {
+        const char* name;
+        QJsonValue value;
+    } rows[] = {
+        { "texture.picture", "missing.png" },
+        { "texture.picture", "broken.png" },
+        { "texture.picture", 7 },
+        { "texture.picture", QJsonValue() },
+        { "texture.drop", 7 },
+        { "texture.drop", QJsonObject { { "file", "missing.png" }, { "at", "here" } } },
+        { "texture.drop",
+          QJsonObject { { "file", "missing.png" }, { "at", QJsonObject { { "node", "Vase" } } } } },
+        { "texture.component", "scent" },
+        { "texture.handles", "bend" },
+        { "texture.translation", QJsonArray { 1, 2, 3 } },
+        { "texture.keepAspect", true },
+        { "texture.mask", true },
+        { "texture.place", true },
+        { "texture.planeTransparency", 1.5 },
+        { "texture.planeTransparency", "half" },
+        { "texture.showDepth", 1 },
+    };
+
+    for (const auto& row : rows) {
+        EXPECT_FALSE(run(row.name, row.value)) << row.name << textOf(row.value).toStdString();
+        EXPECT_NE(error, "");
+    }
+    EXPECT_EQ(steps(), 0);
+    EXPECT_EQ(tool.target().material(), osg::NullFC);
+
+    ASSERT_TRUE(run("texture.picture", kLabel));
+    for (const QJsonValue& bad :
+         { QJsonValue(QJsonArray { 1, 0, 1 }), QJsonValue(QJsonArray { 1, -2, 1 }),
+           QJsonValue(QJsonArray { 1, 2 }), QJsonValue("large") }) {
+        EXPECT_FALSE(run("texture.scale", bad));
+    }
+    EXPECT_EQ(steps(), 1);
+}
+
+TEST_F(TextureToolTest, TheProjectionIsShownWhileTheToolHasThePointer)
+{
+    ASSERT_TRUE(drop("Vase"));
+    const osg::NodePtr helpers = nbScenegraph::getInternalRoot();
+    const auto shownHelpers = [&helpers] {
+        int shown = 0;
+        for (osg::UInt32 i = 0; i < helpers->getNChildren(); ++i) {
+            shown += helpers->getChild(i)->getActive() ? 1 : 0;
+        }
+        return shown;
+    };
+    const int withProjection = shownHelpers();
+
+    ASSERT_TRUE(run("texture.showProjection", false));
+    EXPECT_EQ(shownHelpers(), withProjection - 1);
+    ASSERT_TRUE(run("texture.showProjection", true));
+    EXPECT_EQ(shownHelpers(), withProjection);
+    ASSERT_TRUE(run("texture.planeTransparency", 0.25));
+    EXPECT_EQ(value("texture.planeTransparency"), QJsonValue(0.25));
+
+    stage.clear();
+    stage.update();
+    EXPECT_EQ(value("texture.surface"), QJsonValue(""));
+    EXPECT_LT(shownHelpers(), withProjection);
+}
+
+}  // namespace
+}  // namespace viewer

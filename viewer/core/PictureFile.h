@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <OpenSG/OSGImage.h>
+#include <OpenSG/OSGRefPtr.h>
+
+#include <QString>
+#include <QStringList>
+
+namespace viewer {
+
+/// Reads a picture file in any format that Qt knows, upright, for use on a surface. Very large ones
+/// are scaled down to what any graphics card takes. The image is named after the file.
+/// @return null with one line in `error`
+osg::RefPtr<osg::ImagePtr> readPicture(const QString& file, QString& error);
+
+/// Name of the file that an image was read from, without folder; "" for null and other images.
+QString pictureName(const osg::ImagePtr& image);
+
+/// Filter of a file dialog for all formats that can be read.
+QString pictureFileFilter();
+
+}  // namespace viewer

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <nbOpenSGSceneplate/Sceneplate.h>
+
+#include <QColor>
+#include <QJsonValue>
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+namespace viewer {
+
+/// One property of a plate as commands name it.
+struct PlateField
+{
+    const char* name;  ///< behind "plates."
+    const char* title;  ///< of the step of undo
+    const char* expected;  ///< what a value has to be
+    /// Whether a value is one; with a plate, also sets it.
+    bool (*accept)(const QJsonValue& value, osg::Sceneplate* plate);
+    QJsonValue (*read)(const osg::Sceneplate& plate);
+};
+
+/// All that are set by themselves, in the order of a panel; name and anchor are not among them.
+const std::vector<PlateField>& plateFields();
+
+/// Word for a place of the view, such as "topLeft"; "centre" for an unknown one.
+QString anchorName(osg::Int32 anchor);
+/// @return nothing for an unknown word
+std::optional<osg::Int32> anchorFromName(const QString& name);
+
+/// Reads two finite numbers. @return false, vector untouched, if it is something else
+bool readPair(const QJsonValue& value, osg::Vec2f& pair);
+
+/// "#rrggbb" or "#aarrggbb" or the name of a colour.
+std::optional<osg::Color4f> readPlateColor(const QJsonValue& value);
+QColor colorOf(const osg::Color4f& color);
+
+}  // namespace viewer

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <OpenSG/OSGBoxVolume.h>
+#include <OpenSG/OSGConfig.h>
+#include <OpenSG/OSGQuaternion.h>
+#include <OpenSG/OSGVector.h>
+
+namespace viewer {
+
+/// Where a planar projection lies, in the space of its object: the picture covers -1 .. 1 in x and
+/// y of its frame, and -1 .. 0 in z if it ends there.
+struct ProjectionPose
+{
+    osg::Vec3f translation;
+    osg::Quaternion rotation;
+    osg::Vec3f scale { 1.0F, 1.0F, 1.0F };
+};
+
+/// A projection on that side of a box that faces the eye most, upright, as large as that share of
+/// the side allows; it ends in the middle of the box.
+/// @param bounds   of the object, in its space; a flat one counts as a little thick
+/// @param toEye    direction to the eye, in the same space, any length
+/// @param up       direction that is up in the view
+/// @param aspect   width by height of the picture, > 0
+/// @param share    half width by half width of the side, at most, 0 .. 1
+ProjectionPose poseOnFront(const osg::BoxVolume& bounds, const osg::Vec3f& toEye,
+                           const osg::Vec3f& up, float aspect, float share);
+
+/// Rotation of a projection that lies on a surface and is upright on it.
+/// @param normal  of the surface, any length; z of the projection
+/// @param up      what y of the projection is to point to
+/// @param other   what it points to on a surface that faces up or down
+osg::Quaternion uprightRotation(const osg::Vec3f& normal, const osg::Vec3f& up,
+                                const osg::Vec3f& other);
+
+/// Scale after an edit of which the ratio of x to y is kept: a side that alone has changed takes
+/// the other along.
+osg::Vec3f scaleKeepingAspect(const osg::Vec3f& before, const osg::Vec3f& wanted);
+
+}  // namespace viewer

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "viewer/core/TextureCommands.h"
+#include "viewer/core/TextureTool.h"
+#include "viewer/gui/Panel.h"
+
+#include <QJsonArray>
+#include <QMap>
+#include <QString>
+
+class QAbstractButton;
+class QBoxLayout;
+class QButtonGroup;
+class QComboBox;
+class QFormLayout;
+class QLabel;
+class QSlider;
+
+namespace viewer {
+
+class MaterialPicture;
+class VectorEdit;
+
+/// The picture on the selected object: its file, how it is projected, the handles, and a preview.
+/// Owns the texture tool of the stage and its commands.
+class MaterialPanel : public Panel
+{
+    Q_OBJECT
+
+public:
+    /// @param targetStage  outlives this
+    explicit MaterialPanel(Stage& targetStage, QWidget* parent = nullptr);
+    ~MaterialPanel() override;
+
+    void refresh() override;
+
+private:
+    void addPictureRows(QFormLayout& form);
+    void addHandleRow(QBoxLayout& column);
+    void addProjectionRows(QFormLayout& form);
+    void addSwitches(QBoxLayout& column);
+    void addSceneRows(QBoxLayout& column);
+    void addSwitch(QBoxLayout& row, const char* command, const QString& label);
+    QAbstractButton* addHandleButton(QBoxLayout& row, const char* group, const QString& label);
+
+    void askForPicture();
+    void runVector(const QString& command, const QJsonArray& edited);
+    void refreshRows();
+    void refreshPicture();
+
+    TextureTool tool;
+    TextureCommands commands;
+
+    QLabel* hint = nullptr;
+    MaterialPicture* picture = nullptr;
+    QWidget* content = nullptr;  ///< everything that needs a surface
+    QWidget* projectionContent = nullptr;  ///< everything that needs a picture
+    QComboBox* component = nullptr;
+    QLabel* fileName = nullptr;
+    QAbstractButton* removeButton = nullptr;
+    QButtonGroup* handleButtons = nullptr;
+    QMap<QString, VectorEdit*> vectors;  ///< by their commands
+    QMap<QString, QAbstractButton*> switches;  ///< by their commands
+    QSlider* transparency = nullptr;
+    bool isPictureOld = true;
+};
+
+}  // namespace viewer

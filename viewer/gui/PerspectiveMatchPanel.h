@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "viewer/core/PerspectiveMatchTool.h"
+#include "viewer/gui/Panel.h"
+
+#include <array>
+
+class QCheckBox;
+class QComboBox;
+class QDoubleSpinBox;
+class QFormLayout;
+class QGridLayout;
+class QLabel;
+class QPushButton;
+class QSlider;
+
+namespace viewer {
+
+/// The panel of the perspective match, whose tool it owns: photograph, match mode, settings and the
+/// coordinates of the lines.
+class PerspectiveMatchPanel : public Panel
+{
+    Q_OBJECT
+
+public:
+    /// @param targetStage  outlives this
+    explicit PerspectiveMatchPanel(Stage& targetStage, QWidget* parent = nullptr);
+
+    void refresh() override;
+
+private:
+    static constexpr int kNumbersPerLine = 4;
+    using LineBoxes = std::array<QDoubleSpinBox*, kNumbersPerLine>;
+
+    QCheckBox* addSwitch(QFormLayout& form, const char* name, const QString& label,
+                         const QString& command);
+    QComboBox* addChoice(QFormLayout& form, const char* name, const QString& label,
+                         const QString& command, const QStringList& words,
+                         const QStringList& texts);
+    void addPhotograph(QFormLayout& form);
+    void addMagnifier(QFormLayout& form);
+    void addLines(QGridLayout& grid);
+    QPushButton* addButton(const char* name, const QString& text, const QString& command);
+    void askForPhotograph();
+    void sendLine(int line);
+
+    PerspectiveMatchTool tool;
+    QLabel* photograph = nullptr;
+    QPushButton* remove = nullptr;
+    QSlider* veil = nullptr;
+    QCheckBox* active = nullptr;
+    QCheckBox* linesShown = nullptr;
+    QCheckBox* locked = nullptr;
+    QComboBox* linesType = nullptr;
+    QComboBox* fovMode = nullptr;
+    QDoubleSpinBox* magnifyFactor = nullptr;
+    std::array<LineBoxes, PerspectiveMatchTool::kLineCount> lineBoxes {};
+    QPushButton* layLines = nullptr;
+    QPushButton* solve = nullptr;
+    QLabel* result = nullptr;
+};
+
+}  // namespace viewer

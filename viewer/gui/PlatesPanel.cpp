@@ -1,0 +1,379 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/gui/PlatesPanel.h"
+
+#include "viewer/core/PictureFile.h"
+#include "viewer/core/PlateFields.h"
+#include "viewer/core/PlateText.h"
+#include "viewer/core/Stage.h"
+#include "viewer/gui/VectorEdit.h"
+
+#include <nbOpenSGSceneplate/nbSceneplateList.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
+
+#include <QCheckBox>
+#include <QColorDialog>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QFileDialog>
+#include <QFontComboBox>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QJsonObject>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPainter>
+#include <QSignalBlocker>
+#include <QSpinBox>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace viewer {
+namespace {
+
+constexpr int kPercent = 100;
+constexpr int kNameRole = Qt::UserRole;
+
+struct AnchorText
+{
+    const char* word;
+    const char* text;
+};
+
+/// As they lie in the view, row by row.
+constexpr AnchorText kAnchorTexts[] = {
+    { "topLeft", QT_TRANSLATE_NOOP("viewer::PlatesPanel", "Top left") },
+    { "top", QT_TRANSLATE_NOOP("viewer::PlatesPanel", "Top") },
+    { "topRight", QT_TRANSLATE_NOOP("viewer::PlatesPanel", "Top right") },
+    { "left", QT_TRANSLATE_NOOP("viewer::PlatesPanel", "Left") },
+    { "centre", QT_TRANSLATE_NOOP("viewer::PlatesPanel", "Centre") },
+    { "right", QT_TRANSLATE_NOOP("viewer::PlatesPanel", "Right") },
+    { "bottomLeft", QT_TRANSLATE_NOOP("viewer::PlatesPanel", "Bottom left") },
+    { "bottom", QT_TRANSLATE_NOOP("viewer::PlatesPanel", "Bottom") },
+    { "bottomRight", QT_TRANSLATE_NOOP("viewer::PlatesPanel", "Bottom right") },
+};
+
+void showValue(QComboBox* box, const QJsonValue& value)
+{
+    const QSignalBlocker blocker(box);
+    box->setEnabled(!value.isNull());
+    box->setCurrentIndex(box->findData(value.toVariant()));
+}
+
+}  // namespace
+
+PlatesPanel::PlatesPanel(Stage& targetStage, QWidget* parent)
+    : Panel(targetStage, parent)
+    , platesTool(targetStage)
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(createButtons());
+    createList();
+    layout->addWidget(list, 1);
+    layout->addLayout(createProperties());
+    layout->addWidget(createTextBox());
+    refresh();
+}
+
+// == Making
+
+QToolButton* PlatesPanel::addButton(QBoxLayout* row, const char* name, const QString& text,
+                                    const QString& tip)
+{
+    auto* button = new QToolButton(this);
+    button->setObjectName(QLatin1String(name));
+    button->setText(text);
+    button->setToolTip(tip);
+    row->addWidget(button);
+    return button;
+}
+
+QBoxLayout* PlatesPanel::createButtons()
+{
+    auto* row = new QHBoxLayout;
+    edit = addButton(row, "plates.edit", tr("Edit"), tr("Select and edit plates in the view"));
+    edit->setCheckable(true);
+    connect(edit, &QToolButton::clicked, this,
+            [this](bool on) { run(QStringLiteral("plates.edit"), on); });
+    QToolButton* picture =
+        addButton(row, "plates.addPicture", tr("Picture…"), tr("Add a picture from a file"));
+    connect(picture, &QToolButton::clicked, this, &PlatesPanel::askForPicture);
+    QToolButton* plain =
+        addButton(row, "plates.addColor", tr("Colour…"), tr("Add a plate of plain colour"));
+    connect(plain, &QToolButton::clicked, this, &PlatesPanel::askForColor);
+    row->addStretch();
+
+    const struct
+    {
+        const char* command;
+        QString text;
+        QString tip;
+    } rows[] = {
+        { "plates.forward", QStringLiteral("▲"), tr("Bring forward") },
+        { "plates.backward", QStringLiteral("▼"), tr("Send backward") },
+        { "plates.remove", QStringLiteral("✕"), tr("Delete") },
+    };
+
+    for (const auto& entry : rows) {
+        QToolButton* button = addButton(row, entry.command, entry.text, entry.tip);
+        button->setAccessibleName(entry.tip);
+        connect(button, &QToolButton::clicked, this,
+                [this, command = entry.command] { run(QLatin1String(command)); });
+        selectionButtons.push_back(button);
+    }
+    return row;
+}
+
+void PlatesPanel::createList()
+{
+    list = new QListWidget(this);
+    list->setObjectName(QStringLiteral("plateList"));
+    list->setAccessibleName(tr("Scene plates, the foremost first"));
+    list->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    list->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
+    constexpr int kLeastHeight = 80;
+    list->setMinimumHeight(kLeastHeight);
+    connect(list, &QListWidget::itemSelectionChanged, this, &PlatesPanel::selectRows);
+    connect(list, &QListWidget::itemChanged, this, &PlatesPanel::changeItem);
+}
+
+QFormLayout* PlatesPanel::createProperties()
+{
+    auto* form = new QFormLayout;
+    side = new QComboBox(this);
+    side->setObjectName(QStringLiteral("plates.front"));
+    side->addItem(tr("In front of the scene"), true);
+    side->addItem(tr("Behind the scene"), false);
+    connect(side, QOverload<int>::of(&QComboBox::activated), this,
+            [this] { run(QStringLiteral("plates.front"), side->currentData().toBool()); });
+    form->addRow(tr("Lies"), side);
+    opacity = new QSpinBox(this);
+    opacity->setObjectName(QStringLiteral("plates.opacity"));
+    opacity->setRange(0, kPercent);
+    opacity->setSuffix(QStringLiteral(" %"));
+    opacity->setSingleStep(10);
+    opacity->setKeyboardTracking(false);
+    connect(opacity, QOverload<int>::of(&QSpinBox::valueChanged), this, [this](int percent) {
+        run(QStringLiteral("plates.opacity"), static_cast<double>(percent) / kPercent);
+    });
+    form->addRow(tr("Opacity"), opacity);
+    anchor = new QComboBox(this);
+    anchor->setObjectName(QStringLiteral("plates.anchor"));
+    anchor->setToolTip(tr("The place of the window that the plate follows"));
+    for (const AnchorText& entry : kAnchorTexts) {
+        anchor->addItem(tr(entry.text), QLatin1String(entry.word));
+    }
+    connect(anchor, QOverload<int>::of(&QComboBox::activated), this,
+            [this] { run(QStringLiteral("plates.anchor"), anchor->currentData().toString()); });
+    form->addRow(tr("Anchor"), anchor);
+    addNumbers(form, "plates.position", tr("Position"), { tr("X"), tr("Y") }, 0.01);
+    addNumbers(form, "plates.size", tr("Size"), { tr("Width"), tr("Height") }, 0.01);
+    addNumbers(form, "plates.scale", tr("Scale"), { tr("Scale") }, 0.1);
+    addNumbers(form, "plates.rotation", tr("Rotation, °"), { tr("Rotation") }, 5.0);
+    snapping = new QCheckBox(tr("Snap to edges and centre"), this);
+    snapping->setObjectName(QStringLiteral("plates.snapping"));
+    connect(snapping, &QCheckBox::toggled, this,
+            [this](bool on) { run(QStringLiteral("plates.snapping"), on); });
+    form->addRow(snapping);
+    return form;
+}
+
+void PlatesPanel::addNumbers(QFormLayout* form, const char* command, const QString& label,
+                             const QStringList& names, double step)
+{
+    VectorEdit::Style style;
+    style.step = step;
+    auto* boxes = new VectorEdit(names, style, this);
+    boxes->setObjectName(QLatin1String(command));
+    const bool isVector = names.size() > 1;
+    connect(boxes, &VectorEdit::edited, this, [this, command, isVector](const QJsonArray& values) {
+        run(QLatin1String(command), isVector ? QJsonValue(values) : values.first());
+    });
+    form->addRow(label, boxes);
+    numbers.push_back({ command, boxes, isVector });
+}
+
+QWidget* PlatesPanel::createTextBox()
+{
+    auto* box = new QGroupBox(tr("New text"), this);
+    auto* layout = new QVBoxLayout(box);
+    textEdit = new QLineEdit(box);
+    textEdit->setObjectName(QStringLiteral("plateText"));
+    textEdit->setPlaceholderText(tr("Title"));
+    layout->addWidget(textEdit);
+    fontBox = new QFontComboBox(box);
+    fontBox->setObjectName(QStringLiteral("plateFont"));
+    fontBox->setMinimumContentsLength(8);
+    fontBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    layout->addWidget(fontBox);
+    auto* row = new QHBoxLayout;
+    layout->addLayout(row);
+    textHeight = new QDoubleSpinBox(box);
+    textHeight->setObjectName(QStringLiteral("plateTextHeight"));
+    textHeight->setRange(1.0, kPercent);
+    textHeight->setDecimals(1);
+    textHeight->setSuffix(QStringLiteral(" %"));
+    textHeight->setToolTip(tr("Height of a line, of the view's"));
+    textHeight->setValue(PlateText::kUsualHeight * kPercent);
+    row->addWidget(textHeight);
+    bold = new QCheckBox(tr("Bold"), box);
+    bold->setObjectName(QStringLiteral("plateTextBold"));
+    row->addWidget(bold);
+    colorButton = addButton(row, "plateTextColor", {}, tr("Colour of the text"));
+    colorButton->setAccessibleName(tr("Colour of the text"));
+    connect(colorButton, &QToolButton::clicked, this, [this] {
+        const QColor chosen =
+            QColorDialog::getColor(color, this, {}, QColorDialog::ShowAlphaChannel);
+        if (chosen.isValid()) {
+            color = chosen;
+            showColor();
+        }
+    });
+    row->addStretch();
+    QToolButton* add = addButton(row, "plates.addText", tr("Add"), tr("Add the text as a plate"));
+    connect(add, &QToolButton::clicked, this, &PlatesPanel::addText);
+    connect(textEdit, &QLineEdit::returnPressed, this, &PlatesPanel::addText);
+    showColor();
+    return box;
+}
+
+void PlatesPanel::showColor()
+{
+    QPixmap swatch(colorButton->iconSize());
+    swatch.fill(color);
+    QPainter painter(&swatch);
+    painter.drawRect(swatch.rect().adjusted(0, 0, -1, -1));
+    painter.end();
+    colorButton->setIcon(swatch);
+}
+
+// == What a person does
+
+QJsonValue PlatesPanel::valueOf(const char* command) const
+{
+    return stage().commands().value(QLatin1String(command)).value_or(QJsonValue());
+}
+
+void PlatesPanel::askForPicture()
+{
+    const QString file =
+        QFileDialog::getOpenFileName(this, tr("Add picture"), {}, pictureFileFilter());
+    if (!file.isEmpty()) {
+        run(QStringLiteral("plates.addPicture"), QJsonObject { { QStringLiteral("file"), file } });
+    }
+}
+
+void PlatesPanel::askForColor()
+{
+    const QColor chosen =
+        QColorDialog::getColor(Qt::black, this, {}, QColorDialog::ShowAlphaChannel);
+    if (chosen.isValid()) {
+        run(QStringLiteral("plates.addColor"),
+            QJsonObject { { QStringLiteral("color"), chosen.name(QColor::HexArgb) } });
+    }
+}
+
+void PlatesPanel::addText()
+{
+    const QJsonObject value { { QStringLiteral("text"), textEdit->text() },
+                              { QStringLiteral("font"), fontBox->currentFont().family() },
+                              { QStringLiteral("height"), textHeight->value() / kPercent },
+                              { QStringLiteral("bold"), bold->isChecked() },
+                              { QStringLiteral("color"), color.name(QColor::HexArgb) } };
+    if (run(QStringLiteral("plates.addText"), value)) {
+        textEdit->clear();
+    }
+}
+
+void PlatesPanel::selectRows()
+{
+    QJsonArray names;
+    for (int row = 0; row < list->count(); ++row) {
+        if (list->item(row)->isSelected()) {
+            names.append(list->item(row)->data(kNameRole).toString());
+        }
+    }
+    run(QStringLiteral("plates.select"), names);
+}
+
+void PlatesPanel::changeItem(QListWidgetItem* item)
+{
+    const QString name = item->data(kNameRole).toString();
+    if (item->text() != name) {
+        // A command shows the list anew.
+        const QString wanted = item->text();
+        if (run(QStringLiteral("plates.select"), QJsonArray { name })) {
+            run(QStringLiteral("plates.name"), wanted);
+        }
+        return;
+    }
+    run(QStringLiteral("plates.visible"),
+        QJsonObject { { QStringLiteral("name"), name },
+                      { QStringLiteral("visible"), item->checkState() == Qt::Checked } });
+}
+
+// == Showing how things are
+
+void PlatesPanel::refresh()
+{
+    refreshList();
+    refreshProperties();
+}
+
+void PlatesPanel::refreshList()
+{
+    const QSignalBlocker blocker(list);
+    const std::vector<osg::NodePtr> plates = PlatesTool::all();
+    const QJsonArray selected = valueOf("plates.selected").toArray();
+    while (list->count() > static_cast<int>(plates.size())) {
+        delete list->takeItem(list->count() - 1);
+    }
+    for (int row = 0; row < static_cast<int>(plates.size()); ++row) {
+        const osg::NodePtr& node = plates[static_cast<std::size_t>(row)];
+        const osg::SceneplatePtr plate = nbSceneplateList::plateOf(node);
+        const QString name = QString::fromStdString(nbNodeUtils::getName(node));
+        if (row == list->count()) {
+            auto* added = new QListWidgetItem(list);
+            added->setFlags(added->flags() | Qt::ItemIsEditable | Qt::ItemIsUserCheckable);
+        }
+        QListWidgetItem* item = list->item(row);
+        item->setData(kNameRole, name);
+        item->setText(name);
+        item->setCheckState(plate->getVisible() ? Qt::Checked : Qt::Unchecked);
+        item->setToolTip(plate->getFront() ? tr("In front of the scene") : tr("Behind the scene"));
+        QFont itemFont = item->font();
+        itemFont.setItalic(!plate->getFront());
+        item->setFont(itemFont);
+        item->setSelected(selected.contains(name));
+    }
+}
+
+void PlatesPanel::refreshProperties()
+{
+    {
+        const QSignalBlocker blocker(edit);
+        edit->setChecked(platesTool.isActive());
+    }
+    showValue(side, valueOf("plates.front"));
+    showValue(anchor, valueOf("plates.anchor"));
+    const QJsonValue opacityValue = valueOf("plates.opacity");
+    {
+        const QSignalBlocker blocker(opacity);
+        opacity->setEnabled(opacityValue.isDouble());
+        opacity->setValue(qRound(opacityValue.toDouble() * kPercent));
+    }
+    for (const NumberRow& row : numbers) {
+        const QJsonValue value = valueOf(row.command);
+        const QJsonArray values = row.isVector ? value.toArray()
+            : value.isDouble()                 ? QJsonArray { value }
+                                               : QJsonArray();
+        row.edit->display(values);
+    }
+    const QSignalBlocker blocker(snapping);
+    snapping->setChecked(valueOf("plates.snapping").toBool());
+    for (QToolButton* button : selectionButtons) {
+        button->setEnabled(!platesTool.selected().empty());
+    }
+}
+
+}  // namespace viewer

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "viewer/core/PlatesTool.h"
+#include "viewer/gui/Panel.h"
+
+#include <QColor>
+
+#include <vector>
+
+class QBoxLayout;
+class QCheckBox;
+class QComboBox;
+class QDoubleSpinBox;
+class QFontComboBox;
+class QFormLayout;
+class QLineEdit;
+class QListWidget;
+class QListWidgetItem;
+class QSpinBox;
+class QToolButton;
+
+namespace viewer {
+
+class VectorEdit;
+
+/// Scene plates: adding them from pictures, texts and colours, their list from the foremost to the
+/// rearmost, and the properties of the selected ones. Owns the tool that edits them in the view.
+class PlatesPanel : public Panel
+{
+    Q_OBJECT
+
+public:
+    explicit PlatesPanel(Stage& targetStage, QWidget* parent = nullptr);
+
+    void refresh() override;
+
+    PlatesTool& tool() { return platesTool; }
+
+private:
+    /// Boxes for the numbers of one command.
+    struct NumberRow
+    {
+        const char* command;
+        VectorEdit* edit;
+        bool isVector;  ///< the value is an array
+    };
+
+    QToolButton* addButton(QBoxLayout* row, const char* name, const QString& text,
+                           const QString& tip);
+    QBoxLayout* createButtons();
+    void createList();
+    QFormLayout* createProperties();
+    void addNumbers(QFormLayout* form, const char* command, const QString& label,
+                    const QStringList& names, double step);
+    QWidget* createTextBox();
+    void showColor();
+
+    QJsonValue valueOf(const char* command) const;
+    void askForPicture();
+    void askForColor();
+    void addText();
+    void selectRows();
+    void changeItem(QListWidgetItem* item);
+    void refreshList();
+    void refreshProperties();
+
+    PlatesTool platesTool;
+    QToolButton* edit = nullptr;
+    std::vector<QToolButton*> selectionButtons;
+    QListWidget* list = nullptr;
+    QComboBox* side = nullptr;
+    QComboBox* anchor = nullptr;
+    QSpinBox* opacity = nullptr;
+    std::vector<NumberRow> numbers;
+    QCheckBox* snapping = nullptr;
+    QLineEdit* textEdit = nullptr;
+    QFontComboBox* fontBox = nullptr;
+    QDoubleSpinBox* textHeight = nullptr;
+    QCheckBox* bold = nullptr;
+    QToolButton* colorButton = nullptr;
+    QColor color { Qt::white };
+};
+
+}  // namespace viewer
