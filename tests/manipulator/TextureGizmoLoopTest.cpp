@@ -154,11 +154,13 @@ TEST(TextureGizmoLoop, TheTireGizmoStaysUnderThePointer)
         });
         at.look(Camera::Oblique, orthographic);
 
+        gizmo.activateScaleManipulator();
+
         const struct
         {
             const char* handle;
             Vec2f offsetPx;
-        } drags[] = { { "radiusShape", { 25, -35 } },
+        } drags[] = { { "radiusShape", { -12, 18 } },
                       { "heightShape", { 25, 5 } },
                       { "oppositeHeightShape", { -25, -5 } },
                       { "scaleUShape", { -5, 60 } } };
@@ -179,10 +181,10 @@ TEST(TextureGizmoLoop, TheTireGizmoStaysUnderThePointer)
         EXPECT_FALSE(at.settings->getTireAutoParameter()) << "set by hand";
 
         gizmo.activateTranslateManipulator();
-        const Pnt2f before = at.scene.pixelOf(at.onHandle("yaShape", Vec3f()));
+        const Pnt2f before = at.scene.pixelOf(at.onHandle("yaShape", Vec3f(0, 1.9F, 0)));
         ASSERT_TRUE(at.grab("yaShape", Vec3f(0, 1.9F, 0)));
         EXPECT_TRUE(at.drag.dragBy(Vec2f(0, -50)));
-        const Vec2f went = at.scene.pixelOf(at.onHandle("yaShape", Vec3f())) - before;
+        const Vec2f went = at.scene.pixelOf(at.onHandle("yaShape", Vec3f(0, 1.9F, 0))) - before;
         expectUnderPointer(went, Vec2f(0, -50), "yaShape");
         EXPECT_TRUE(at.drag.release());
     }
