@@ -224,7 +224,7 @@ TEST(TireProjectionManipulator, WhatWasSetByHandIsNotFittedAgain)
     }
 }
 
-TEST(TireProjectionManipulator, LengthsNeverFallBelowAThousandthOfTheirStart)
+TEST(TireProjectionManipulator, LengthsAreToldAndNeverFallBelowAThousandthOfTheirStart)
 {
     Tire tire;
     AnchorScene& at = tire.at;
@@ -235,8 +235,14 @@ TEST(TireProjectionManipulator, LengthsNeverFallBelowAThousandthOfTheirStart)
     EXPECT_TRUE(at.drag.release());
     at.look(Camera::Front, true);
     ASSERT_TRUE(at.grabAt("heightShape", at.originOf("heightShape")));
+    EXPECT_TRUE(at.drag.stepTo(Vec2f(72, 0)));
+    const auto* const manager = notification::NotificationManager::getInstance();
+    ASSERT_EQ(manager->getTextCount(), 1U);
+    EXPECT_EQ(manager->getVisibleTexts(800, 600).front().text, "Height (4.99)");
     EXPECT_TRUE(at.drag.stepTo(Vec2f(-390, 0)));
     EXPECT_FLOAT_EQ(attribute<float>(at.last(), "ScaleHeight"), 0.003F);
+    EXPECT_TRUE(at.drag.release());
+    EXPECT_EQ(manager->getTextCount(), 0U);
 }
 
 }  // namespace nbec::manipulator::test
