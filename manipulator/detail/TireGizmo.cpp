@@ -146,8 +146,9 @@ void TireGizmo::placeHandles(const osg::Matrix& worldFromAnchor)
     const TireValues values = readValues();
     const osg::Pnt3f center = mapped(worldFromAnchor, osg::Pnt3f(values.center));
     const osg::Matrix axes = orthonormalised(worldFromAnchor);
-    const float size = screenScale(center, TireProjectionManipulator::getManipulatorSize(),
-                                   ViewDiagonal::NearPlane);
+    const float size =
+        ScreenScale(TireProjectionManipulator::getManipulatorSize(), ViewDiagonal::NearPlane)
+            .at(center);
     placeTransform(handles.getRootTransform(), center.subZero(), osg::Quaternion::identity(),
                    osg::Vec3f(size, size, size));
     if (!(size > kLeastSize) || !std::isfinite(size)) {

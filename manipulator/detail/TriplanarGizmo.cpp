@@ -135,8 +135,9 @@ std::unique_ptr<AnchoredGizmo> TriplanarGizmo::clone() const
 void TriplanarGizmo::placeHandles(const osg::Matrix& worldFromAnchor)
 {
     const osg::Pnt3f& place = anchor.getWorldPosition();
-    const float size = screenScale(place, TriplanarTextureManipulator::getManipulatorSize(),
-                                   ViewDiagonal::NearPlane);
+    const float size =
+        ScreenScale(TriplanarTextureManipulator::getManipulatorSize(), ViewDiagonal::NearPlane)
+            .at(place);
     placeTransform(handles.getRootTransform(), place.subZero(), osg::Quaternion::identity(),
                    osg::Vec3f(size, size, size));
     const osg::Quaternion axes(orthonormalised(worldFromAnchor));

@@ -424,6 +424,33 @@ TEST(nbPerspectiveSolver, AxesAtAnAcuteAngleKeepTheFieldOfView)
     EXPECT_NEAR(solution.aim.right.cross(solution.aim.up).dot(solution.aim.back), 1.0, 1e-12);
 }
 
+TEST(nbPerspectiveSolver, AnyLinesGiveACameraOrARefusal)
+{
+    Studio studio(23);
+    int solved = 0;
+    for (int i = 0; i < 3000; ++i) {
+        PerspectiveProblem problem;
+        problem.width = 1.5;
+        problem.type = static_cast<nbCameraTypes::VanishingLinesType>(i % 4);
+        problem.start = studio.camera();
+        // Many of these are parallel, meet in one another's ends, or contradict each other.
+        const double grid = i % 3 == 0 ? 4.0 : 1000.0;
+        const auto coordinate = [&] { return std::round(studio.between(0.0, grid)) / grid; };
+        for (QLineF& line : problem.lines) {
+            line = QLineF(coordinate(), coordinate(), coordinate(), coordinate());
+        }
+
+        const PerspectiveSolution solution = nbPerspectiveSolver::solve(problem);
+
+        const PerspectiveAim& aim = solution.aim;
+        solved += nbCameraTypes::isSolved(solution.result) ? 1 : 0;
+        ASSERT_NEAR(aim.right.cross(aim.up).dot(aim.back), 1.0, 1e-9) << i;
+        ASSERT_NEAR(aim.right.length(), 1.0, 1e-9) << i;
+        ASSERT_TRUE(std::isfinite(aim.focalLength) && aim.focalLength > 0.0) << i;
+    }
+    EXPECT_GT(solved, 1500);
+}
+
 struct RefusedRow
 {
     const char* name;
