@@ -33,15 +33,8 @@ constexpr int kLightSortKey = 64015;
 /// scene and in the order of their sort keys, while they look opaque.
 constexpr float kTrace = 0.001F;
 
-struct MaterialRow
-{
-    float red, green, blue;
-    float transparency;
-    int sortKey;
-};
-
 /// In the order of PlanarMaterial.
-constexpr std::array<MaterialRow, kPlanarMaterialCount> kMaterials = {
+constexpr std::array<detail::HandleMaterialRow, kPlanarMaterialCount> kMaterials = {
     { { 1.0F, 0.0F, 0.0F, kTrace, kAxisSortKey },
       { 0.0F, 1.0F, 0.0F, kTrace, kAxisSortKey },
       { 1.0F, 0.5F, 0.5F, kTrace, kLightSortKey },
@@ -163,9 +156,7 @@ const PlanarHandleRow* planarHandleOf(Active mode)
 void PlanarTextureManipulator::createMaterials()
 {
     for (std::size_t i = 0; i < kMaterials.size(); ++i) {
-        const MaterialRow& row = kMaterials[i];
-        state->materials[i] = detail::makeHandleMaterial(osg::Color3f(row.red, row.green, row.blue),
-                                                         row.sortKey, nullptr, row.transparency);
+        state->materials[i] = detail::makeHandleMaterial(kMaterials[i]);
     }
 }
 

@@ -23,20 +23,6 @@ namespace {
 
 constexpr float kShortest = 1e-6F;
 
-/// A frame whose axis number `axis` is the ring's normal and the next one the radial direction.
-osg::Matrix matrixOf(const detail::RingFrame& ring, osg::UInt32 axis)
-{
-    osg::Matrix frame;
-    const auto setColumn = [&frame](osg::UInt32 index, const osg::Vec3f& value) {
-        frame[index % 3] = osg::Vec4f(value.x(), value.y(), value.z(), 0.0F);
-    };
-    setColumn(axis, ring.normal);
-    setColumn(axis + 1, ring.radial);
-    setColumn(axis + 2, ring.tangent);
-    frame.setTranslate(ring.center);
-    return frame;
-}
-
 /// Takes out of the other two axes of a frame what lies along one of them: the coordinate along
 /// that axis is then a point's distance from the plane at right angles to it.
 void straighten(osg::Matrix& frame, osg::UInt32 axis)
@@ -149,7 +135,7 @@ void UniversalTransformManipulator2::updateManipulatorPlane(const osg::NodePtr& 
     if (isRing(activeHandle)) {
         const detail::RingFrame ring = detail::ringDragFrame(
             center, column(frame, axis), grabbedPoint, detail::viewDirection(grabbedPoint));
-        drag->inverseDragFrame = inverted(matrixOf(ring, axis));
+        drag->inverseDragFrame = inverted(detail::ringMatrix(ring, axis));
         drag->plane = osg::Plane(ring.normal, ring.center);
     } else if (normalAxis < 3) {
         osg::Vec3f normal = movementAxis(node, (normalAxis + 1) % 3)

@@ -177,6 +177,19 @@ RingFrame ringDragFrame(const osg::Pnt3f& center, const osg::Vec3f& axis, const 
     return frame;
 }
 
+osg::Matrix ringMatrix(const RingFrame& ring, osg::UInt32 axis)
+{
+    osg::Matrix frame;
+    const auto setColumn = [&frame](osg::UInt32 index, const osg::Vec3f& value) {
+        frame[index % 3] = osg::Vec4f(value.x(), value.y(), value.z(), 0.0F);
+    };
+    setColumn(axis, ring.normal);
+    setColumn(axis + 1, ring.radial);
+    setColumn(axis + 2, ring.tangent);
+    frame.setTranslate(ring.center);
+    return frame;
+}
+
 double snapped(double value, double step)
 {
     if (value == 0.0 || step == 0.0) {

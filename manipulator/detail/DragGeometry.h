@@ -83,6 +83,11 @@ struct RingFrame
 RingFrame ringDragFrame(const osg::Pnt3f& center, const osg::Vec3f& axis, const osg::Pnt3f& grabbed,
                         const osg::Vec3f& view);
 
+/// World from a ring's frame: the normal is its axis, radial and tangent are the next two in cyclic
+/// order, so that a positive turn goes the way of the frame's axes.
+/// @param axis  0, 1 or 2
+osg::Matrix ringMatrix(const RingFrame& ring, osg::UInt32 axis);
+
 /// Rounds a value half away from zero to a multiple of a step: step * floor(value / step + 0.5) for
 /// a positive value, step * ceil(value / step - 0.5) for a negative one. Zero, and any value with a
 /// step of zero, stays.

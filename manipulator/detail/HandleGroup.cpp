@@ -44,13 +44,31 @@ HandlePasses makeHandlePasses(const osg::NodePtr& tree)
     return passes;
 }
 
+void markHandleRoot(const osg::NodePtr& root)
+{
+    nbNodeUtils::setIsAuxiliaryNode(root, true);
+    nbNodeUtils::setIsSelectableAuxiliaryNode(root, true);
+    nbNodeUtils::setIsManipulatorNode(root, true);
+}
+
 osg::NodePtr makeHandleRoot()
 {
     const osg::NodePtr root = makeGroupNode();
     nbNodeUtils::setName(root, kHandleGroupName);
-    nbNodeUtils::setIsAuxiliaryNode(root, true);
-    nbNodeUtils::setIsSelectableAuxiliaryNode(root, true);
-    nbNodeUtils::setIsManipulatorNode(root, true);
+    markHandleRoot(root);
+    return root;
+}
+
+osg::NodePtr makeHandleRootOver(const osg::NodePtr& tree, int depthPassSortKey)
+{
+    nbNodeUtils::setIsAuxiliaryNode(tree, true);
+    nbNodeUtils::setIsSelectableAuxiliaryNode(tree, true);
+    const osg::RefPtr<osg::DepthTestChunkPtr> depth(makeAlwaysDepthChunk());
+    const osg::RefPtr<osg::NodePtr> copy =
+        makePass(osg::cloneTree(tree), depth.get(), depthPassSortKey);
+    const osg::NodePtr root = makeHandleRoot();
+    addChild(root, tree);
+    addChild(root, copy.get());
     return root;
 }
 

@@ -29,8 +29,15 @@ struct HandlePasses
 /// @param tree  top node of the handles, becomes the child of the handle pass
 HandlePasses makeHandlePasses(const osg::NodePtr& tree);
 
-/// Makes an empty gizmo root: a Group node named "Manipulatorgroup", marked auxiliary, selectable
-/// auxiliary (the picker may hit it while the scene's selection ignores it) and manipulator node.
+/// Marks a node as a gizmo's root: auxiliary, selectable auxiliary (the picker may hit it while the
+/// scene's selection ignores it) and manipulator node.
+void markHandleRoot(const osg::NodePtr& root);
+
+/// Makes an empty gizmo root: a Group node named "Manipulatorgroup", marked as root.
 osg::NodePtr makeHandleRoot();
+
+/// Makes a gizmo root over a complete handle tree and, after it, the first of the two passes with a
+/// sort key of its own. The tree is marked auxiliary and selectable auxiliary.
+osg::NodePtr makeHandleRootOver(const osg::NodePtr& tree, int depthPassSortKey);
 
 }  // namespace nbec::manipulator::detail

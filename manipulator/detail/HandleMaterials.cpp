@@ -64,6 +64,12 @@ osg::SimpleMaterialRefPtr makeHandleMaterial(const osg::Color3f& diffuse, int so
     return material;
 }
 
+osg::SimpleMaterialRefPtr makeHandleMaterial(const HandleMaterialRow& row)
+{
+    return makeHandleMaterial(osg::Color3f(row.red, row.green, row.blue), row.sortKey, nullptr,
+                              row.transparency);
+}
+
 osg::SimpleMaterialRefPtr makePassMaterial(const osg::DepthTestChunkPtr& depth, int sortKey)
 {
     osg::SimpleMaterialRefPtr material(osg::SimpleMaterial::create());

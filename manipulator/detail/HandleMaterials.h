@@ -44,6 +44,17 @@ osg::DepthTestChunkPtr makeAlwaysDepthChunk();
 osg::SimpleMaterialRefPtr makeHandleMaterial(const osg::Color3f& diffuse, int sortKey,
                                              const LineChunks* chunks, float transparency = 0.0F);
 
+/// Colour, transparency and sort key of a solid handle material.
+struct HandleMaterialRow
+{
+    float red, green, blue;
+    float transparency;
+    int sortKey;
+};
+
+/// The solid handle material of a row.
+osg::SimpleMaterialRefPtr makeHandleMaterial(const HandleMaterialRow& row);
+
 /// Unlit material of a handle pass: the depth-test chunk and the sort key are all that matters of
 /// it.
 osg::SimpleMaterialRefPtr makePassMaterial(const osg::DepthTestChunkPtr& depth, int sortKey);

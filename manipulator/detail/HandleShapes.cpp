@@ -76,6 +76,11 @@ constexpr std::array<ShapeRow, kShapeCount> kShapes = { {
     { HandleShape::UprightTab, Solid::Box, { 0.2F, 0.4F, 0.025F }, {}, kOrigin, Turn::None },
     { HandleShape::LyingTab, Solid::Box, { 0.4F, 0.2F, 0.025F }, {}, kOrigin, Turn::None },
     { HandleShape::SquareTab, Solid::Box, { 0.4F, 0.4F, 0.025F }, {}, kOrigin, Turn::None },
+    { HandleShape::ScaleTabXY, Solid::Box, { 0.25F, 0.3F, 0.025F }, {}, { 2.5F, 2.5F, 0.0F }, Turn::None },
+    { HandleShape::SlimArrowShaft, Solid::Cylinder, { 1.9125F, 0.02F }, { 8 }, kOrigin, Turn::None },
+    { HandleShape::LongScaleShaft, Solid::Line, { 2.5F }, {}, kOrigin, Turn::None },
+    { HandleShape::SolidBigRing, Solid::Torus, { 0.02F, 1.5F }, { 6, 36 }, kOrigin, Turn::None },
+    { HandleShape::UnitCircle, Solid::LineRing, { 1.0F }, { 72 }, kOrigin, Turn::OntoX },
     { HandleShape::Square, Solid::Plane, { 1.0F, 1.0F }, {}, kOrigin, Turn::None },
     { HandleShape::SquareOutline, Solid::Outline, { 1.0F, 1.0F }, {}, kOrigin, Turn::None },
 } };
@@ -201,14 +206,28 @@ osg::Quaternion quaternionOf(Turn turn)
     case Turn::OntoZ:
         result.setValueAsQuat(kHalfSqrt2, 0.0F, 0.0F, kHalfSqrt2);
         break;
+    case Turn::OntoMinusX:
+        result.setValueAsQuat(0.0F, 0.0F, kHalfSqrt2, kHalfSqrt2);
+        break;
     case Turn::OntoMinusZ:
         result.setValueAsQuat(-kHalfSqrt2, 0.0F, 0.0F, kHalfSqrt2);
         break;
     case Turn::AboutY:
         result.setValueAsQuat(0.0F, -kHalfSqrt2, 0.0F, kHalfSqrt2);
         break;
+    case Turn::ZOntoX:
+        result.setValueAsQuat(0.0F, kHalfSqrt2, 0.0F, kHalfSqrt2);
+        break;
     }
     return result;
+}
+
+osg::Vec3f eulerDegOf(Turn turn)
+{
+    constexpr float kRightAngleDeg = 90.0F;
+    // One component of the quaternion beside the last is not zero, and tells axis and sense.
+    const osg::Quaternion rotation = quaternionOf(turn);
+    return osg::Vec3f(rotation.x(), rotation.y(), rotation.z()) * (kRightAngleDeg / kHalfSqrt2);
 }
 
 osg::NodePtr makeShapeNode(HandleShape shape)

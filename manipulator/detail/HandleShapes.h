@@ -12,11 +12,16 @@ enum class Turn
     None,
     OntoX,  ///< +y onto +x: -90 degrees about z
     OntoZ,  ///< +y onto +z: +90 degrees about x
+    OntoMinusX,  ///< +y onto -x: +90 degrees about z
     OntoMinusZ,  ///< +y onto -z: -90 degrees about x
-    AboutY  ///< -90 degrees about y
+    AboutY,  ///< -90 degrees about y
+    ZOntoX  ///< +z onto +x: +90 degrees about y
 };
 
 osg::Quaternion quaternionOf(Turn turn);
+
+/// The same turn as angles about x, y and z, degrees.
+osg::Vec3f eulerDegOf(Turn turn);
 
 /// Geometry of handles that all gizmos share: built once per process, on first use.
 enum class HandleShape
@@ -52,6 +57,11 @@ enum class HandleShape
     UprightTab,  ///< box 0.2 x 0.4 x 0.025, centred
     LyingTab,  ///< box 0.4 x 0.2 x 0.025, centred
     SquareTab,  ///< box 0.4 x 0.4 x 0.025, centred
+    ScaleTabXY,  ///< box 0.25 x 0.3 x 0.025, centred at (2.5, 2.5)
+    SlimArrowShaft,  ///< cylinder, height 1.9125, radius 0.02, 8 sides, axis y, centred
+    LongScaleShaft,  ///< line of length 2.5 along y, centred
+    SolidBigRing,  ///< torus about z, radius of the tube 0.02, of the ring 1.5, 6 sides, 36 rings
+    UnitCircle,  ///< line circle of radius 1 about x, 72 segments
 
     // Handles that lie flat on the screen
     Square,  ///< square of 1 in the xy plane, centred

@@ -32,6 +32,15 @@ float diagonalOf(const osg::UberCameraPtr& camera, ViewDiagonal diagonal)
     return std::sqrt(width * width + height * height);
 }
 
+/// The main view's camera if it shows an orthographic view, else null.
+osg::UberCameraPtr orthographicCamera()
+{
+    const nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1);
+    const osg::UberCameraPtr camera =
+        widget != nullptr ? widget->getUberCamera() : osg::UberCameraPtr();
+    return nbUberCameraUtils::isOrthographicCamera(camera) ? camera : osg::UberCameraPtr();
+}
+
 }  // namespace
 
 float perspectiveScale(double distance, float fovDeg, float size)
@@ -44,14 +53,19 @@ float orthographicScale(float diagonal)
     return diagonal / kViewsPerDiagonal;
 }
 
+std::optional<float> orthographicDiagonal()
+{
+    const osg::UberCameraPtr camera = orthographicCamera();
+    return camera != osg::NullFC ? std::optional<float>(camera->getNearPlaneDiagonal())
+                                 : std::nullopt;
+}
+
 ScreenScale::ScreenScale(float size, ViewDiagonal diagonal)
     : eye(nbOSGWidget::getFrom(-1))
     , divisor(perspectiveDivisor(nbOSGWidget::getFov(-1), size))
 {
-    const nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1);
-    const osg::UberCameraPtr camera =
-        widget != nullptr ? widget->getUberCamera() : osg::UberCameraPtr();
-    isOrthographic = camera != osg::NullFC && nbUberCameraUtils::isOrthographicCamera(camera);
+    const osg::UberCameraPtr camera = orthographicCamera();
+    isOrthographic = camera != osg::NullFC;
     if (isOrthographic) {
         factor = orthographicScale(diagonalOf(camera, diagonal));
     }

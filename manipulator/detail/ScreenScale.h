@@ -3,6 +3,8 @@
 
 #include <OpenSG/OSGVector.h>
 
+#include <optional>
+
 namespace nbec::manipulator::detail {
 
 /// Size setting of a gizmo class before anybody sets one.
@@ -28,6 +30,10 @@ enum class ViewDiagonal
     NearPlane,  ///< the camera's own near-plane diagonal
     FrustumSides  ///< the diagonal that the sides of its frustum make
 };
+
+/// Near-plane diagonal of the main view's camera, world units; nothing if there is no camera or it
+/// is a perspective one.
+std::optional<float> orthographicDiagonal();
 
 /// Scales of gizmos at any places under the main widget's camera as it is now. Made once for all
 /// gizmos that are placed together; not to be kept.

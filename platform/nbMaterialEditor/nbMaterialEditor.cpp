@@ -3,22 +3,15 @@
 
 #include <nbKernel/nbController.h>
 #include <nbKernelServices/nbScopedUndo.h>
-#include <nbKernelServices/nbUndoService.h>
-#include <nbMaterialEditor/detail/ComponentRecord.h>
-#include <nbMaterialEditor/detail/PreviewMessages.h>
+#include <nbMaterialEditor/detail/EditedComponent.h>
 #include <nbMaterialEditor/detail/ProjectionChange.h>
 #include <nbMaterialEditor/detail/ProjectionPlacing.h>
+#include <nbMaterialEditor/detail/ValueChange.h>
 #include <nbOpenSGUtils/nbEdit.h>
-#include <nbOpenSGUtils/nbNodeUtils.h>
 #include <nbUtils/nbLog.h>
-
-#include <OpenSG/OSGFieldContainerFactory.h>
-#include <OpenSG/OSGGeometry.h>
 
 #include <QtCore/QCoreApplication>
 
-#include <algorithm>
-#include <cmath>
 #include <map>
 #include <optional>
 
@@ -28,6 +21,9 @@ using Settings = osg::ColorComponentSettings;
 
 constexpr const char* kScaleValues = "::getScaleValues";
 constexpr const char* kChanged = "::changedPlanarManipulator";
+constexpr const char* kChangedTriplanar = "::changedTriplanarManipulator";
+constexpr const char* kChangedUv = "::changedUVManipulator";
+constexpr const char* kChangedTire = "::changedTireManipulator";
 constexpr const char* kPlace = "::placeTexture";
 
 // Texts for people, translated when a step is made.
@@ -35,39 +31,7 @@ constexpr const char* kChangeTitle = QT_TRANSLATE_NOOP("Manipulator", "Edit Text
 constexpr const char* kPlaceTitle = QT_TRANSLATE_NOOP("Manipulator", "Place Texture");
 constexpr const char* kImageTitle = QT_TRANSLATE_NOOP("Manipulator", "Set Texture");
 constexpr const char* kSettingsTitle = QT_TRANSLATE_NOOP("Manipulator", "Edit Texture Settings");
-
-osg::FieldContainerPtr resolve(osg::UInt32 id)
-{
-    return osg::FieldContainerFactory::the()->getContainer(id);
-}
-
-osg::UInt32 idOf(const osg::FieldContainerPtr& container)
-{
-    return container == osg::NullFC ? 0 : container.getFieldContainerId();
-}
-
-float aspectOf(const osg::ImagePtr& image)
-{
-    return image == osg::NullFC || image->getWidth() <= 0 || image->getHeight() <= 0
-        ? 1.f
-        : static_cast<float>(image->getWidth()) / static_cast<float>(image->getHeight());
-}
-
-template <class Vector>
-bool isFiniteVector(const Vector& vector)
-{
-    const float* const values = vector.getValues();
-    return std::all_of(values, values + sizeof(Vector) / sizeof(float),
-                       [](float v) { return std::isfinite(v); });
-}
-
-bool isFinite(const nbTransformState& state)
-{
-    return isFiniteVector(state.translation) && isFiniteVector(state.rotatePivot) &&
-        isFiniteVector(state.scalePivot) && isFiniteVector(state.eulerRotation) &&
-        isFiniteVector(state.scale) && isFiniteVector(state.rotationQuaternion) &&
-        isFiniteVector(state.rotationOrientation);
-}
+constexpr const char* kTypeTitle = QT_TRANSLATE_NOOP("Manipulator", "Switch Texture Projection");
 
 /// Who receives the messages of a name, so that an older editor of that name takes nothing away.
 std::map<std::string, const void*>& newestEditors()
@@ -85,169 +49,22 @@ const Value* attribute(const nbMessage& message, const char* name)
 
 }  // namespace
 
-struct nbMaterialEditor::Impl final : public PreviewMessages
+struct nbMaterialEditor::Impl final : public EditedComponent
 {
-    /// The projection as it was when the drag began.
-    struct DragStart
-    {
-        osg::UInt32 projectionId = 0;
-        osg::UInt64 undoCount = 0;
-        nbTransformState state;
-    };
-
     std::string receiver;
-    osg::UInt32 materialId = 0;
-    osg::UInt32 objectId = 0;
-    std::string component;
-    nbStateChunkBase* gui = nullptr;
-    std::optional<DragStart> dragStart;
 
-    void previewEnabled(bool) override { dragStart.reset(); }
-
-    osg::UberMaterialPtr material() const
-    {
-        return osg::UberMaterialPtr::dcast(resolve(materialId));
-    }
-
-    osg::NodePtr object() const { return osg::NodePtr::dcast(resolve(objectId)); }
-
-    osg::ColorComponentSettingsPtr settings() const;
-    osg::Transform3DPtr projection() const;
-    const nbTransformState& startOf(const osg::Transform3DPtr& core);
     void refuse(const char* message, const std::string& reason) const;
-    void announce();
-    bool write(const osg::Transform3DPtr& core, const nbTransformState& state);
-    void recordComponent() const;
-    /// Has `edit` change the component, as one undo scope.
-    template <class Edit>
-    void editComponent(const char* title, const Edit& edit);
-    bool clampZ();
-    void createProjection(float aspect);
-    osg::NodePtr spaceOf(const osg::NodePtr& hit) const;
 
     void replyScaleValues(nbMessage& message) const;
     void change(const nbMessage& message);
+    void changeValues(const char* name, nbValueChange::Read read, const nbMessage& message);
     void place(const nbMessage& message);
     void placeAt(const osg::NodePtr& space, const osg::Pnt3f& point, const osg::Vec3f& normal);
 };
 
-osg::ColorComponentSettingsPtr nbMaterialEditor::Impl::settings() const
-{
-    const osg::UberMaterialPtr edited = material();
-    return edited == osg::NullFC ? osg::ColorComponentSettingsPtr()
-                                 : edited->getComponentSettings(component);
-}
-
-osg::Transform3DPtr nbMaterialEditor::Impl::projection() const
-{
-    const osg::ColorComponentSettingsPtr edited = settings();
-    return edited == osg::NullFC ? osg::Transform3DPtr() : edited->getPlanarProjection();
-}
-
-const nbTransformState& nbMaterialEditor::Impl::startOf(const osg::Transform3DPtr& core)
-{
-    const nbUndoService* const undo = nbUndoService::the();
-    // Both only grow.
-    const osg::UInt64 undoCount = undo->getGroupChangeCount() + undo->getRestoreCount();
-    if (!dragStart || dragStart->projectionId != idOf(core) || dragStart->undoCount != undoCount) {
-        dragStart = DragStart { idOf(core), undoCount, nbTransformState::of(*core) };
-    }
-    return dragStart->state;
-}
-
 void nbMaterialEditor::Impl::refuse(const char* message, const std::string& reason) const
 {
     nbLog::warning(receiver + message + ": " + reason + "; nothing is changed");
-}
-
-void nbMaterialEditor::Impl::announce()
-{
-    nbController::setModified(1);
-    if (gui != nullptr) {
-        gui->componentChanged(component);
-    }
-}
-
-/// @return whether anything is different now
-bool nbMaterialEditor::Impl::write(const osg::Transform3DPtr& core, const nbTransformState& state)
-{
-    if (state.isSame(*core)) {
-        return false;
-    }
-    nbUndoService::the()->noteTransform(core);
-    state.applyTo(core);
-    return true;
-}
-
-/// To be called before an edit.
-void nbMaterialEditor::Impl::recordComponent() const
-{
-    nbUndoService::the()->record(std::make_unique<ComponentRecord>(material(), component));
-}
-
-/// @return whether anything is different now
-bool nbMaterialEditor::Impl::clampZ()
-{
-    const osg::ColorComponentSettingsPtr edited = settings();
-    if (edited->hasPlanarProjectionFlag(Settings::ClampZ)) {
-        return false;
-    }
-    recordComponent();
-    const nbEdit edit(edited, Settings::PlanarProjectionFlagsFieldMask);
-    edited->setPlanarProjectionFlag(Settings::ClampZ, true);
-    return true;
-}
-
-void nbMaterialEditor::Impl::createProjection(float aspect)
-{
-    if (settings() == osg::NullFC) {
-        material()->setComponentSettings(component, Settings::create());
-    }
-    const osg::ColorComponentSettingsPtr edited = settings();
-    if (edited->getPlanarProjection() != osg::NullFC) {
-        return;
-    }
-    osg::BoxVolume bounds;
-    bounds.setEmpty();
-    if (const osg::NodePtr node = object(); node != osg::NullFC) {
-        bounds = nbNodeUtils::getWorldBounds(node);
-        osg::Matrix objectFromWorld;
-        if (node->getToWorld().inverse(objectFromWorld)) {
-            bounds.transform(objectFromWorld);
-        }
-    }
-    const osg::Transform3DPtr core = osg::Transform3D::create();
-    fittedProjection(bounds, aspect).applyTo(core);
-    const nbEdit edit(edited, Settings::PlanarProjectionFieldMask);
-    edited->setPlanarProjection(core);
-}
-
-/// The node in whose space the projection is for a hit: the object, if that was hit, or else
-/// another node with the same material. Null if it has nothing to do with the material.
-osg::NodePtr nbMaterialEditor::Impl::spaceOf(const osg::NodePtr& hit) const
-{
-    const osg::NodePtr edited = object();
-    if (edited != osg::NullFC &&
-        (nbNodeUtils::hasParent(hit, edited) || nbNodeUtils::hasParent(edited, hit))) {
-        return edited;
-    }
-    const auto geometry =
-        hit == osg::NullFC ? osg::GeometryPtr() : osg::GeometryPtr::dcast(hit->getCore());
-    const bool same = geometry != osg::NullFC && idOf(geometry->getMaterial()) == materialId;
-    return same ? hit : osg::NodePtr();
-}
-
-template <class Edit>
-void nbMaterialEditor::Impl::editComponent(const char* title, const Edit& edit)
-{
-    dragStart.reset();
-    const nbScopedUndo scope(title);
-    const ComponentState before = ComponentState::of(material(), component);
-    recordComponent();
-    edit();
-    if (!(before == ComponentState::of(material(), component))) {
-        announce();
-    }
 }
 
 // == Messages
@@ -259,7 +76,7 @@ void nbMaterialEditor::Impl::replyScaleValues(nbMessage& message) const
         return;
     }
     const osg::Vec3f scale = core->getScale();
-    const float aspect = aspectOf(material()->getImage(component));
+    const float aspect = aspectOf(material()->getImage(component()));
     message.set("initialTextureScale", naturalScale(aspect), true);
     message.set("projectionSize", osg::Vec2f(2.f * scale.x(), 2.f * scale.y()), true);
 }
@@ -273,7 +90,7 @@ void nbMaterialEditor::Impl::change(const nbMessage& message)
         refuse(kChanged, wanted ? "there is no projection" : reason);
         return;
     }
-    const nbTransformState state = wanted->applyTo(startOf(core), nbTransformState::of(*core));
+    const nbTransformState state = wanted->applyTo(start().projection, nbTransformState::of(*core));
     if (!isFinite(state)) {
         refuse(kChanged, "the projection would not be finite");
         return;
@@ -282,6 +99,30 @@ void nbMaterialEditor::Impl::change(const nbMessage& message)
     const bool moved = write(core, state);
     const bool clamped = wanted->clamping && clampZ();
     if (moved || clamped) {
+        announce();
+    }
+}
+
+void nbMaterialEditor::Impl::changeValues(const char* name, nbValueChange::Read read,
+                                          const nbMessage& message)
+{
+    const osg::ColorComponentSettingsPtr edited = settings();
+    if (edited == osg::NullFC) {
+        refuse(name, "the component has no settings");
+        return;
+    }
+    const bool wasAutomatic = edited->getTireAutoParameter();
+    nbTextureValues values = nbTextureValues::of(*edited);
+    std::string reason;
+    if (!read(message, start().values, values, reason)) {
+        refuse(name, reason);
+        return;
+    }
+    if (values.tireAutoParameter && !wasAutomatic) {
+        values = fitted(values, Settings::TireProjection);
+    }
+    const nbScopedUndo scope(kChangeTitle);
+    if (write(values)) {
         announce();
     }
 }
@@ -310,11 +151,10 @@ void nbMaterialEditor::Impl::placeAt(const osg::NodePtr& space, const osg::Pnt3f
                                    : "the place is not finite or the object is flat");
         return;
     }
-    const nbTransformState start = startOf(core);
     nbTransformState state = nbTransformState::of(*core);
     state.translation = osg::Vec3f(ownPoint.x(), ownPoint.y(), ownPoint.z());
     if (ownNormal.length() > 0.f) {
-        turnZTo(start, ownNormal, state);
+        turnZTo(start().projection, ownNormal, state);
     }
     const nbScopedUndo scope(kPlaceTitle);
     if (write(core, state)) {
@@ -334,6 +174,17 @@ nbMaterialEditor::nbMaterialEditor(const std::string& receiverName)
                               [self](nbMessage& message) { self->replyScaleValues(message); });
     nbController::addReceiver(receiverName + kChanged,
                               [self](nbMessage& message) { self->change(message); });
+    const std::pair<const char*, nbValueChange::Read> valueMessages[] = {
+        { kChangedTriplanar, &nbValueChange::readTriplanar },
+        { kChangedUv, &nbValueChange::readUv },
+        { kChangedTire, &nbValueChange::readTire },
+    };
+    for (const auto& [name, read] : valueMessages) {
+        nbController::addReceiver(receiverName + name,
+                                  [self, suffix = name, reader = read](nbMessage& message) {
+                                      self->changeValues(suffix, reader, message);
+                                  });
+    }
     nbController::addReceiver(receiverName + kPlace,
                               [self](nbMessage& message) { self->place(message); });
 }
@@ -345,7 +196,8 @@ nbMaterialEditor::~nbMaterialEditor()
         return;
     }
     newestEditors().erase(newest);
-    for (const char* name : { kScaleValues, kChanged, kPlace }) {
+    for (const char* name :
+         { kScaleValues, kChanged, kChangedTriplanar, kChangedUv, kChangedTire, kPlace }) {
         nbController::removeReceiver(impl->receiver + name);
     }
 }
@@ -353,11 +205,7 @@ nbMaterialEditor::~nbMaterialEditor()
 void nbMaterialEditor::setMaterial(const osg::MaterialPtr& material, const osg::NodePtr& object,
                                    const std::string& component, nbStateChunkBase* gui)
 {
-    impl->materialId = idOf(osg::UberMaterialPtr::dcast(material));
-    impl->objectId = idOf(object);
-    impl->component = component;
-    impl->gui = gui;
-    impl->dragStart.reset();
+    impl->setTarget(material, object, component, gui);
 }
 
 const std::string& nbMaterialEditor::getReceiverName() const
@@ -377,7 +225,7 @@ osg::NodePtr nbMaterialEditor::getObject() const
 
 const std::string& nbMaterialEditor::getComponent() const
 {
-    return impl->component;
+    return impl->component();
 }
 
 osg::ColorComponentSettingsPtr nbMaterialEditor::getSettings() const
@@ -390,6 +238,11 @@ osg::Transform3DPtr nbMaterialEditor::getProjection() const
     return impl->projection();
 }
 
+nbStateChunkBase* nbMaterialEditor::getStateChunk()
+{
+    return &impl->values();
+}
+
 // == Edits
 
 bool nbMaterialEditor::setImage(const osg::ImagePtr& image)
@@ -398,10 +251,10 @@ bool nbMaterialEditor::setImage(const osg::ImagePtr& image)
     if (material == osg::NullFC) {
         return false;
     }
-    impl->editComponent(kImageTitle, [&] {
-        material->setImage(impl->component, image);
+    impl->makeEdit(kImageTitle, [&] {
+        material->setImage(impl->component(), image);
         if (image != osg::NullFC) {
-            impl->createProjection(aspectOf(image));
+            impl->createProjection();
         }
     });
     return true;
@@ -413,7 +266,7 @@ bool nbMaterialEditor::setProjection(const nbTransformState& state)
     if (core == osg::NullFC || !isFinite(state)) {
         return false;
     }
-    impl->dragStart.reset();
+    impl->endDrag();
     const nbScopedUndo scope(kChangeTitle);
     if (impl->write(core, state)) {
         impl->announce();
@@ -429,12 +282,13 @@ bool nbMaterialEditor::setFlags(osg::UInt32 flags)
     }
     const osg::Transform3DPtr core = impl->projection();
     const osg::UInt32 switchedOn = flags & ~settings->getPlanarProjectionFlags();
-    impl->editComponent(kSettingsTitle, [&] {
+    impl->makeEdit(kSettingsTitle, [&] {
         const nbEdit edit(settings, Settings::PlanarProjectionFlagsFieldMask);
         settings->setPlanarProjectionFlags(flags);
         if ((switchedOn & Settings::KeepAspectRatio) != 0 && core != osg::NullFC) {
             nbTransformState state = nbTransformState::of(*core);
-            state.scale[1] = state.scale[0] / aspectOf(impl->material()->getImage(impl->component));
+            state.scale[1] =
+                state.scale[0] / aspectOf(impl->material()->getImage(impl->component()));
             impl->write(core, state);
         }
     });
@@ -447,10 +301,43 @@ bool nbMaterialEditor::setCoverage(bool asMask, bool invert)
     if (settings == osg::NullFC) {
         return false;
     }
-    impl->editComponent(kSettingsTitle, [&] {
+    impl->makeEdit(kSettingsTitle, [&] {
         const nbEdit edit(settings, Settings::AsMaskFieldMask | Settings::InvertFieldMask);
         settings->setAsMask(asMask);
         settings->setInvert(invert);
+    });
+    return true;
+}
+
+bool nbMaterialEditor::setTextureProjectionType(osg::Int32 type)
+{
+    const osg::ColorComponentSettingsPtr settings = impl->settings();
+    if (settings == osg::NullFC || type < Settings::UVProjection ||
+        type > Settings::TireProjection) {
+        return false;
+    }
+    impl->makeEdit(kTypeTitle, [&] {
+        {
+            const nbEdit edit(settings, Settings::TextureProjectionTypeFieldMask);
+            settings->setTextureProjectionType(type);
+        }
+        if (type == Settings::PlanarProjection) {
+            impl->createProjection();
+        }
+        impl->write(impl->fitted(nbTextureValues::of(*settings), type));
+    });
+    return true;
+}
+
+bool nbMaterialEditor::setTextureValues(const nbTextureValues& values)
+{
+    const osg::ColorComponentSettingsPtr settings = impl->settings();
+    if (settings == osg::NullFC || !values.isSound()) {
+        return false;
+    }
+    const bool fits = values.tireAutoParameter && !settings->getTireAutoParameter();
+    impl->makeEdit(kChangeTitle, [&] {
+        impl->write(fits ? impl->fitted(values, Settings::TireProjection) : values);
     });
     return true;
 }

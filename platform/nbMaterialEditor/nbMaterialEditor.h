@@ -3,6 +3,7 @@
 
 #include <nbOpenSGUberMaterial/UberMaterial.h>
 #include <nbOpenSGUberMaterial/nbStateChunkBase.h>
+#include <nbOpenSGUberMaterial/nbTextureValues.h>
 #include <nbOpenSGUtils/nbTransformState.h>
 #include <nbUtils/nbPlatformExport.h>
 
@@ -30,6 +31,15 @@
 ///   another geometry with the same material, in whose space the projection lies as well; a null
 ///   node and anything else do nothing. A normal without length leaves the rotation.
 ///
+/// - R::changedTriplanarManipulator, all values absolute: "XOffset", "YOffset", "ZOffset" (Vec2f),
+///   "rotate" (Vec3f, radians), "XScale", "YScale", "ZScale" (Vec2f), the reciprocals of the
+///   repeats. R::changedUVManipulator: "offset", "scale" (Vec2f) and "rotate" (float, degrees), the
+///   same for the UV projection. R::changedTireManipulator: "center" (Vec3f), "ScaleHeight",
+///   "ScaleRadius", "ScaleU" (float), and "autoParameter" (bool), which, where it was false and
+///   becomes true, fits centre, height and radius to the object. They change the values of their
+///   projection, whichever the component shows. A scale of 0, or so small or large that its
+///   reciprocal is none, is refused.
+///
 /// A drag begins for the editor at the first message after one of: setMaterial, an edit through the
 /// editor itself, a "setMatRenderEnabled" of either value (with which manipulators enclose their
 /// drags), the opening or closing of a group in nbUndoService, an undo or redo there, or another
@@ -37,7 +47,7 @@
 ///
 /// Every message that changes something is an undo scope of its own (see nbUndoService), so that a
 /// host's group makes one step of a drag, and marks the scene as modified. An attribute that is
-/// missing, of another type or not finite, or a message without a projection to change, leaves
+/// missing, of another type or not finite, or a message without anything to change, leaves
 /// everything as it was and costs one line in the log. Belongs to the user-interface thread.
 class NB_PLATFORM_API nbMaterialEditor
 {
@@ -64,6 +74,10 @@ public:
     osg::NodePtr getObject() const;
     const std::string& getComponent() const;
 
+    /// Delivers the values of the material's components, for who reads them by that interface. The
+    /// editor's own; changes are told to the `gui` of setMaterial, not to this.
+    nbStateChunkBase* getStateChunk();
+
     /// Settings and projection of the component; null where there are none.
     osg::ColorComponentSettingsPtr getSettings() const;
     osg::Transform3DPtr getProjection() const;
@@ -82,6 +96,17 @@ public:
     /// Writes the flags of the planar projection (bits of PlanarProjectionFlag). With
     /// KeepAspectRatio switched on, the Y scale becomes what makes the picture's pixels square.
     bool setFlags(osg::UInt32 flags);
+
+    /// Switches to another projection of the picture (TextureProjection). A projection that was
+    /// never used is fitted to the object: the planar one as by setImage, the triplanar one with
+    /// square pixels and pictures half as high as the object's longest side; the tire projection
+    /// always while TireAutoParameter is set. False also for any other number.
+    bool setTextureProjectionType(osg::Int32 type);
+
+    /// Writes all values of the UV, triplanar and tire projection; TireAutoParameter, where it
+    /// comes, has centre, height and radius fitted to the object. False also for values that are
+    /// not sound.
+    bool setTextureValues(const nbTextureValues& values);
 
     /// @param asMask  coverage is the brightness of the picture instead of its alpha
     /// @param invert  coverage is turned over

@@ -85,6 +85,7 @@ const GpuMesh& GpuMeshes::get(Gl& gl, const osg::GeometryPtr& geometry)
 void GpuMeshes::upload(Gl& gl, const Mesh& mesh, Entry& entry)
 {
     entry.mesh.hasColors = mesh.hasColors;
+    entry.mesh.hasTexCoords = mesh.hasTexCoords;
     if (!mesh.triangles.empty()) {
         entry.mesh.surfaces = makeVertexArray(gl);
         entry.buffers[0] = makeBuffer(gl, GL_ARRAY_BUFFER, mesh.vertices);

@@ -23,6 +23,7 @@ struct GpuMesh
     GLsizei lineCount = 0;
     GLsizei pointCount = 0;
     bool hasColors = false;
+    bool hasTexCoords = false;
 };
 
 /// Vertex buffers of geometries by container id: made on first use, made anew when the geometry's

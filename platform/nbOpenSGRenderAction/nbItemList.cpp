@@ -73,7 +73,7 @@ bool ItemList::update(const osg::NodePtr& root)
     states.clear();
     stateIndices.clear();
     clipSets.clear();
-    surfaceSpaces.resize(1);
+    surfaceSpaces.clear();
     manipulatorCount = 0;
     if (root != osg::NullFC) {
         visit(root, Place());
@@ -163,11 +163,12 @@ void ItemList::placePictures(RenderItem& item, const Place& place)
     if (states[item.stateIndex].uber == nullptr || item.handle || place.group == osg::NullFC) {
         return;
     }
-    osg::Matrix groupFromObject;
-    place.worldFromGroup->inverse(groupFromObject);
-    groupFromObject.mult(item.worldFromObject);
+    SurfaceSpace space;
+    space.worldFromSurface = *place.worldFromGroup;
+    place.worldFromGroup->inverse(space.surfaceFromItem);
+    space.surfaceFromItem.mult(item.worldFromObject);
+    surfaceSpaces.push_back(space);
     item.surfaceSpace = static_cast<osg::UInt32>(surfaceSpaces.size());
-    surfaceSpaces.push_back(groupFromObject);
 }
 
 osg::UInt32 ItemList::stateFor(const osg::MaterialPtr& material, const osg::MaterialPtr& group,

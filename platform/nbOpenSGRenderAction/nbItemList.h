@@ -37,6 +37,13 @@ struct RenderItem
     osg::UInt32 surfaceSpace = 0;  ///< into ItemList::getSurfaceSpace; 0: the item's own space
 };
 
+/// The space of the node that carries an item's material. Matrices are 4x4 for column vectors.
+struct SurfaceSpace
+{
+    osg::Matrix surfaceFromItem;
+    osg::Matrix worldFromSurface;
+};
+
 constexpr osg::Int32 kMostDepthSteps = 8;
 
 /// The geometries of a tree in drawing order, kept until something in the tree changes.
@@ -72,10 +79,11 @@ public:
         return clipSets.planesOf(clipSet);
     }
 
-    /// From an item's space to that of the node which carries its material, 4x4, column vectors.
-    const osg::Matrix& getSurfaceSpace(osg::UInt32 surfaceSpace) const
+    /// Where the node is that carries an item's material, if not the item itself does.
+    /// @param surfaceSpace  of the item, > 0
+    const SurfaceSpace& getSurfaceSpace(osg::UInt32 surfaceSpace) const
     {
-        return surfaceSpaces[surfaceSpace];
+        return surfaceSpaces[surfaceSpace - 1];
     }
 
     /// World bounds of the items that are neither handles nor auxiliary; empty without any.
@@ -129,7 +137,7 @@ private:
     std::vector<DrawState> states;
     std::vector<osg::UInt32> order;
     nbClipSets clipSets;
-    std::vector<osg::Matrix> surfaceSpaces { 1 };  ///< the first stays the identity
+    std::vector<SurfaceSpace> surfaceSpaces;
     std::unordered_map<StateKey, osg::UInt32, StateKeyHash> stateIndices;
     std::unordered_map<osg::UInt32, LocalBounds> boundsById;
     osg::BoxVolume sceneBounds;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "nbItemPainter.h"
 
+#include <nbOpenSGRenderAction/nbNormalMatrix.h>
 #include <nbOpenSGRenderAction/nbStandardShaders.h>
 #include <nbOpenSGRenderAction/nbUberMaterialBinding.h>
 
@@ -63,20 +64,6 @@ osg::Vec4f inView(const osg::Vec4f& plane, const osg::Matrix& viewFromWorld)
     const osg::Vec4f& origin = viewFromWorld[3];
     const float offset = plane.w() - normal.dot(osg::Vec3f(origin.x(), origin.y(), origin.z()));
     return { normal.x(), normal.y(), normal.z(), offset };
-}
-
-/// Transposed inverse of the 3x3: it keeps normals upright under uneven scales. A singular matrix
-/// gives itself.
-osg::Matrix normalMatrix(const osg::Matrix& matrix)
-{
-    osg::Matrix linear = matrix;
-    linear.setTranslate(0.f, 0.f, 0.f);
-    osg::Matrix result;
-    if (!linear.inverse(result)) {
-        return linear;
-    }
-    result.transpose();
-    return result;
 }
 
 }  // namespace
@@ -164,7 +151,11 @@ void ItemPainter::draw(const RenderItem& item, const ItemList& list)
     for (const osg::Vec4f& plane : list.getClipPlanes(item.clipSet)) {
         viewClipPlanes.push_back(inView(plane, view.viewFromWorld));
     }
-    surfaceFromObject = &list.getSurfaceSpace(item.surfaceSpace);
+    if (item.surfaceSpace != 0) {
+        surfaceSpace = list.getSurfaceSpace(item.surfaceSpace);
+    } else {
+        surfaceSpace = SurfaceSpace { osg::Matrix(), item.worldFromObject };
+    }
     const DrawState& state = list.getStates()[item.stateIndex];
     if (item.blended && hasCutouts(state)) {
         drawCutout(item, state, mesh);
@@ -367,18 +358,21 @@ DrawState ItemPainter::plainState(const DrawState& state)
 }
 
 GlProgram* ItemPainter::prepareMaterial(const RenderItem& item, const DrawState& state,
-                                        ShaderPrograms::Shape shape, bool isSurface, bool hasColors)
+                                        ShaderPrograms::Shape shape, bool isSurface,
+                                        const GpuMesh& mesh)
 {
     if (state.shaderId != 0) {
         DrawState plain = plainState(state);
         plain.shaderId = 0;
-        return prepareMaterial(item, plain, shape, isSurface, hasColors);
+        return prepareMaterial(item, plain, shape, isSurface, mesh);
     }
     const bool isLine = shape == ShaderPrograms::Shape::Line;
     shaders::Features features;
     features.lit = state.lit && isSurface;
     features.textured = isSurface && bindTexture(state);
-    features.projected = isSurface && state.uber != nullptr;
+    if (isSurface && state.uber != nullptr) {
+        features.pictures = pictureKinds(*state.uber, mesh.hasTexCoords);
+    }
     features.discards =
         state.alphaFunc != GL_ALWAYS || (isLine && state.stipplePattern != DrawState::kSolidLine);
     const auto clipping = viewClipPlanes.empty() ? shaders::Clipping::Off : shaders::Clipping::On;
@@ -387,12 +381,12 @@ GlProgram* ItemPainter::prepareMaterial(const RenderItem& item, const DrawState&
         program->use(gl);
         setClipPlanes(*program);
         setPlace(*program, item);
-        setMaterial(*program, item, state, isSurface, hasColors);
+        setMaterial(*program, item, state, isSurface, mesh.hasColors);
         if (features.textured) {
             setTexture(*program);
         }
-        if (features.projected) {
-            bindUberMaterial(gl, textures, *program, *state.uber, *surfaceFromObject);
+        if (shaders::hasPicture(features.pictures)) {
+            bindUberMaterial(gl, textures, *program, *state.uber, surfaceSpace);
             boundPictures = true;
         }
     }
@@ -418,7 +412,7 @@ void ItemPainter::drawSurfaces(const RenderItem& item, const DrawState& state, c
 {
     constexpr auto kShape = ShaderPrograms::Shape::Surface;
     if (prepareShaderChunk(item, state, false) == nullptr &&
-        prepareMaterial(item, state, kShape, true, mesh.hasColors) == nullptr) {
+        prepareMaterial(item, state, kShape, true, mesh) == nullptr) {
         return;
     }
     gl.glBindVertexArray(mesh.surfaces);
@@ -436,7 +430,7 @@ void ItemPainter::drawLines(const RenderItem& item, const DrawState& state, cons
         return;
     }
     constexpr auto kShape = ShaderPrograms::Shape::Line;
-    if (prepareMaterial(item, state, kShape, false, mesh.hasColors) != nullptr) {
+    if (prepareMaterial(item, state, kShape, false, mesh) != nullptr) {
         gl.glBindVertexArray(mesh.lines);
         gl.glDrawArraysInstanced(GL_TRIANGLE_STRIP, 0, shaders::kLinePolygonVertices,
                                  mesh.lineCount);
@@ -447,7 +441,7 @@ void ItemPainter::drawPoints(const RenderItem& item, const DrawState& state, con
 {
     constexpr auto kShape = ShaderPrograms::Shape::Surface;
     if (prepareShaderChunk(item, state, false) == nullptr &&
-        prepareMaterial(item, state, kShape, false, mesh.hasColors) == nullptr) {
+        prepareMaterial(item, state, kShape, false, mesh) == nullptr) {
         return;
     }
     gl.glBindVertexArray(mesh.points);

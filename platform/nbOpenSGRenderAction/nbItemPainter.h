@@ -75,7 +75,7 @@ private:
     static DrawState plainState(const DrawState& state);
     /// A program for the state, in use and with its values; null if the driver refuses it.
     GlProgram* prepareMaterial(const RenderItem& item, const DrawState& state,
-                               ShaderPrograms::Shape shape, bool isSurface, bool hasColors);
+                               ShaderPrograms::Shape shape, bool isSurface, const GpuMesh& mesh);
     /// The same for the state's shader chunk; null without one, or with a broken one.
     GlProgram* prepareShaderChunk(const RenderItem& item, const DrawState& state, bool lines);
     void drawSurfaces(const RenderItem& item, const DrawState& state, const GpuMesh& mesh);
@@ -88,7 +88,7 @@ private:
     ShaderPrograms& programs;
     const FrameView& view;
     nbClipSets::Planes viewClipPlanes;  ///< of the item that is being drawn, in view space
-    const osg::Matrix* surfaceFromObject = nullptr;  ///< of the same item
+    SurfaceSpace surfaceSpace;  ///< of the same item
     bool boundPictures = false;
     std::size_t clippingCount = 0;  ///< switched on
     osg::TextureChunkPtr boundChunk;

@@ -193,6 +193,8 @@ Mesh buildMesh(const osg::GeometryPtr& geometry)
         return mesh;
     }
     mesh.hasColors = geometry->getColors() != osg::NullFC && geometry->getColors()->getSize() > 0;
+    mesh.hasTexCoords =
+        geometry->getTexCoords() != osg::NullFC && geometry->getTexCoords()->getSize() > 0;
     TriangleCollector(geometry, mesh).run();
     collectLines(geometry, mesh);
     collectPoints(geometry, mesh);

@@ -41,6 +41,7 @@ struct Mesh
     std::vector<LineVertex> lines;  ///< two ends each
     std::vector<LineVertex> points;
     bool hasColors = false;
+    bool hasTexCoords = false;
 };
 
 /// Reads a geometry; null gives an empty mesh. A geometry without normals gets one per triangle.

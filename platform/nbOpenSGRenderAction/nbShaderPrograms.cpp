@@ -69,21 +69,25 @@ bool ShaderPrograms::initialise(Gl& gl, std::string& error)
 GlProgram* ShaderPrograms::getMaterialProgram(Gl& gl, Shape shape, shaders::Clipping clipping,
                                               const shaders::Features& features)
 {
-    const std::size_t index = (features.projected ? 32U : 0U) +
+    const auto kindIndex = [](int kind) {
+        return static_cast<std::size_t>(kind - shaders::kNoPicture);
+    };
+    const std::size_t index = kPlainPrograms *
+            (kPictureKinds * kindIndex(features.pictures[1]) + kindIndex(features.pictures[0])) +
         (clipping == shaders::Clipping::On ? 16U : 0U) + (shape == Shape::Line ? 8U : 0U) +
         (features.lit ? 4U : 0U) + (features.textured ? 2U : 0U) + (features.discards ? 1U : 0U);
-    GlProgram& program = material[index];
-    if (!materialTried[index]) {
-        materialTried[index] = true;
+    if (material[index] == nullptr) {
+        material[index] = std::make_unique<GlProgram>();
         std::string error;
         const std::string vertex = shape == Shape::Line
             ? shaders::lineVertex(clipping)
-            : shaders::surfaceVertex(clipping, features.projected);
-        if (!program.build(gl, vertex, std::string(), shaders::surfaceFragment(features), error)) {
+            : shaders::surfaceVertex(clipping, shaders::hasPicture(features.pictures));
+        if (!material[index]->build(gl, vertex, std::string(), shaders::surfaceFragment(features),
+                                    error)) {
             nbLog::error("a program for materials does not compile on this driver: " + error);
         }
     }
-    return program.isUsable() ? &program : nullptr;
+    return material[index]->isUsable() ? material[index].get() : nullptr;
 }
 
 GlProgram* ShaderPrograms::use(Gl& gl, const osg::SHLChunkPtr& chunk, bool lines)
@@ -157,8 +161,10 @@ void ShaderPrograms::release(Gl& gl)
     for (GlProgram& program : standard) {
         program.destroy(gl);
     }
-    for (GlProgram& program : material) {
-        program.destroy(gl);
+    for (const std::unique_ptr<GlProgram>& program : material) {
+        if (program != nullptr) {
+            program->destroy(gl);
+        }
     }
     forget();
 }

@@ -6,6 +6,8 @@
 
 #include <OpenSG/OSGSHLChunk.h>
 
+#include <array>
+#include <memory>
 #include <unordered_map>
 
 namespace nbrender {
@@ -61,11 +63,13 @@ private:
     static void build(Gl& gl, const osg::SHLChunkPtr& chunk, Entry& entry);
     static void setParameters(Gl& gl, const osg::SHLChunkPtr& chunk, GlProgram& program);
 
-    static constexpr std::size_t kMaterialPrograms = 64;
+    /// Without projected pictures, and each component with none or one of four kinds.
+    static constexpr std::size_t kPlainPrograms = 32;
+    static constexpr std::size_t kPictureKinds = 5;
+    static constexpr std::size_t kMaterialPrograms = kPlainPrograms * kPictureKinds * kPictureKinds;
 
     GlProgram standard[2];
-    GlProgram material[kMaterialPrograms];
-    bool materialTried[kMaterialPrograms] = {};
+    std::array<std::unique_ptr<GlProgram>, kMaterialPrograms> material;  ///< null until wanted
     std::unordered_map<osg::UInt32, Entry> entries;
 };
 

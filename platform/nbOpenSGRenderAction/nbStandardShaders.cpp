@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "nbStandardShaders.h"
 
-#include <nbOpenSGRenderAction/nbUberMaterialShader.h>
 #include <nbOpenSGUtils/nbShaderHeader.h>
 
 namespace nbrender::shaders {
@@ -34,12 +33,14 @@ out vec2 texCoord;
 noperspective out float lineDistancePx;
 #ifdef PROJECTED
 out vec3 objectPosition;
+out vec3 objectNormal;
 #endif
 void main()
 {
     gl_Position = nbClipFromObject * vec4(nbPosition, 1.0);
 #ifdef PROJECTED
     objectPosition = nbPosition;
+    objectNormal = nbNormal;
 #endif
     gl_PointSize = pointSize;
     viewPosition = (viewFromObject * vec4(nbPosition, 1.0)).xyz;
@@ -343,8 +344,11 @@ std::string surfaceFragment(const Features& features)
     text += features.lit ? "#define LIT\n" : "";
     text += features.textured ? "#define TEXTURED\n" : "";
     text += features.discards ? "#define DISCARDS\n" : "";
-    text += features.projected ? kProjectedDefine + uberMaterialFunctions() : "";
-    return text + kSurfaceFragmentBody + kSurfaceMain;
+    if (!hasPicture(features.pictures)) {
+        return text + kSurfaceFragmentBody + kSurfaceMain;
+    }
+    return text + kProjectedDefine + kSurfaceFragmentBody +
+        uberMaterialFunctions(features.pictures) + kSurfaceMain;
 }
 
 std::string lineGeometry()

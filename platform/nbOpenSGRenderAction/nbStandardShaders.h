@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <nbOpenSGRenderAction/nbUberMaterialShader.h>
+
 #include <string>
 
 /// Texts of the renderer's own shader programs, complete with their preambles.
@@ -13,7 +15,8 @@ struct Features
     bool lit = true;  ///< shades; otherwise plain colours
     bool textured = true;  ///< mixes with a texture
     bool discards = true;  ///< has alpha test and line stipple
-    bool projected = false;  ///< shows the pictures of an UberMaterial; surfaces only
+    /// Pictures of an UberMaterial that it shows; surfaces only.
+    PictureKinds pictures { kNoPicture, kNoPicture };
 };
 
 /// Clip planes that a vertex program made with them obeys: uniform vec4 array "clipPlanes" in view
@@ -28,7 +31,7 @@ enum class Clipping
 std::string surfaceFragment(const Features& features);
 
 /// Triangles and, with pointSize, points.
-/// @param projected  for a fragment program with that feature
+/// @param projected  for a fragment program that shows pictures
 std::string surfaceVertex(Clipping clipping = Clipping::Off, bool projected = false);
 
 std::string

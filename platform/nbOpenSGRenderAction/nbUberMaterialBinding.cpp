@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "nbUberMaterialBinding.h"
 
-#include <nbOpenSGRenderAction/nbUberMaterialShader.h>
+#include <nbOpenSGRenderAction/nbNormalMatrix.h>
+#include <nbOpenSGUberMaterial/ColorComponentSettings.h>
 
 #include <OpenSG/OSGFieldContainerFactory.h>
 
 namespace nbrender {
 
 namespace {
+
+using Settings = osg::ColorComponentSettings;
 
 /// The first unit is that of texture chunks.
 constexpr GLuint kFirstUnit = 1;
@@ -17,13 +20,23 @@ struct Names
 {
     const char* picture;
     const char* matrix;
+    const char* normalMatrix;
+    std::array<const char*, ProjectedPicture::kTileCount> tiles;
     const char* flags;
 };
 
-constexpr std::array<Names, UberMaterialState::ComponentCount> kNames {
-    { { "diffusePicture", "pictureFromObject[0]", "pictureFlags[0]" },
-      { "transparencyPicture", "pictureFromObject[1]", "pictureFlags[1]" } }
-};
+constexpr std::array<Names, UberMaterialState::ComponentCount> kNames { {
+    { "diffusePicture",
+      "pictureFromObject[0]",
+      "pictureNormalFromObject[0]",
+      { "pictureTiles[0]", "pictureTiles[1]", "pictureTiles[2]" },
+      "pictureFlags[0]" },
+    { "transparencyPicture",
+      "pictureFromObject[1]",
+      "pictureNormalFromObject[1]",
+      { "pictureTiles[3]", "pictureTiles[4]", "pictureTiles[5]" },
+      "pictureFlags[1]" },
+} };
 
 GLint flagsOf(const ProjectedPicture& picture, const GpuTexture& texture)
 {
@@ -38,28 +51,82 @@ GLint flagsOf(const ProjectedPicture& picture, const GpuTexture& texture)
         bit(texture.isPremultiplied, shaders::PicturePremultiplied);
 }
 
+GpuTexture bindPicture(Gl& gl, GpuTextures& textures, const ProjectedPicture& picture, GLuint unit)
+{
+    gl.glActiveTexture(GL_TEXTURE0 + unit);
+    const auto image =
+        osg::ImagePtr::dcast(osg::FieldContainerFactory::the()->getContainer(picture.imageId));
+    // The colours of pixels that alpha hides count only where it is not alpha that covers.
+    const bool hidesByAlpha = !picture.asMask && !picture.invert;
+    const GpuTexture texture =
+        image == osg::NullFC ? GpuTexture() : textures.get(gl, image, hidesByAlpha);
+    gl.glBindTexture(GL_TEXTURE_2D, texture.name);
+    gl.glBindSampler(unit, textures.getSampler(gl, picture.repeatU, picture.repeatV));
+    return texture;
+}
+
+/// The space's axes in lengths of the world, on a diagonal.
+osg::Matrix axisLengths(const osg::Matrix& worldFromSurface)
+{
+    osg::Matrix lengths;
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        const osg::Vec4f& axis = worldFromSurface[i];
+        lengths[i][i] = osg::Vec3f(axis.x(), axis.y(), axis.z()).length();
+    }
+    return lengths;
+}
+
+void setPlacing(Gl& gl, GlProgram& program, const Names& names, const ProjectedPicture& picture,
+                const SurfaceSpace& space)
+{
+    osg::Matrix pictureFromObject = picture.pictureFromSurface;
+    if (picture.kind == Settings::TriplanarProjection) {
+        pictureFromObject.mult(axisLengths(space.worldFromSurface));
+    }
+    if (picture.kind != Settings::UVProjection) {
+        pictureFromObject.mult(space.surfaceFromItem);
+    }
+    program.set(gl, names.matrix, pictureFromObject);
+    if (picture.kind != Settings::TriplanarProjection && picture.kind != Settings::TireProjection) {
+        return;
+    }
+    // A tire's tread and sides do not depend on the size of its projection.
+    program.set(gl, names.normalMatrix,
+                normalMatrix(picture.kind == Settings::TireProjection ? space.surfaceFromItem
+                                                                      : pictureFromObject));
+    for (std::size_t i = 0; i < picture.tiles.size(); ++i) {
+        const osg::Vec4f& tile = picture.tiles[i];
+        program.set(gl, names.tiles[i], tile.x(), tile.y(), tile.z(), tile.w());
+    }
+}
+
 }  // namespace
 
+shaders::PictureKinds pictureKinds(const UberMaterialState& state, bool hasTexCoords)
+{
+    shaders::PictureKinds kinds {};
+    for (std::size_t component = 0; component < kinds.size(); ++component) {
+        const int kind = state.pictures[component].kind;
+        kinds[component] =
+            kind == Settings::UVProjection && !hasTexCoords ? shaders::kNoPicture : kind;
+    }
+    return kinds;
+}
+
 void bindUberMaterial(Gl& gl, GpuTextures& textures, GlProgram& program,
-                      const UberMaterialState& state, const osg::Matrix& surfaceFromObject)
+                      const UberMaterialState& state, const SurfaceSpace& space)
 {
     for (std::size_t component = 0; component < kNames.size(); ++component) {
         const ProjectedPicture& picture = state.pictures[component];
+        if (picture.kind == shaders::kNoPicture) {
+            continue;
+        }
+        const Names& names = kNames[component];
         const GLuint unit = kFirstUnit + static_cast<GLuint>(component);
-        gl.glActiveTexture(GL_TEXTURE0 + unit);
-        const auto image =
-            osg::ImagePtr::dcast(osg::FieldContainerFactory::the()->getContainer(picture.imageId));
-        // The colours of pixels that alpha hides count only where it is not alpha that covers.
-        const bool hidesByAlpha = !picture.asMask && !picture.invert;
-        const GpuTexture texture =
-            image == osg::NullFC ? GpuTexture() : textures.get(gl, image, hidesByAlpha);
-        gl.glBindTexture(GL_TEXTURE_2D, texture.name);
-        gl.glBindSampler(unit, textures.getSampler(gl, picture.repeatU, picture.repeatV));
-        osg::Matrix pictureFromObject = picture.pictureFromSurface;
-        pictureFromObject.mult(surfaceFromObject);
-        program.set(gl, kNames[component].picture, static_cast<GLint>(unit));
-        program.set(gl, kNames[component].matrix, pictureFromObject);
-        program.set(gl, kNames[component].flags, flagsOf(picture, texture));
+        const GpuTexture texture = bindPicture(gl, textures, picture, unit);
+        program.set(gl, names.picture, static_cast<GLint>(unit));
+        program.set(gl, names.flags, flagsOf(picture, texture));
+        setPlacing(gl, program, names, picture, space);
     }
     gl.glActiveTexture(GL_TEXTURE0);
 }

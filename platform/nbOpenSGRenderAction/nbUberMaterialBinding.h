@@ -2,18 +2,22 @@
 #pragma once
 
 #include <nbOpenSGRenderAction/nbGpuTextures.h>
+#include <nbOpenSGRenderAction/nbItemList.h>
+#include <nbOpenSGRenderAction/nbUberMaterialShader.h>
 #include <nbOpenSGRenderAction/nbUberMaterialState.h>
-
-#include <OpenSG/OSGMatrix.h>
 
 namespace nbrender {
 
+/// The pictures of a material that a geometry shows.
+/// @param hasTexCoords  whether it has texture coordinates
+shaders::PictureKinds pictureKinds(const UberMaterialState& state, bool hasTexCoords);
+
 /// Binds the pictures of an UberMaterial to texture units of their own and sets what
 /// shaders::uberMaterialFunctions() wants. Leaves texture unit 0 active.
-/// @param program            in use
-/// @param surfaceFromObject  from the item's space to that of the projections, 4x4, column vectors
+/// @param program  in use, for pictureKinds()
+/// @param space    of the projections
 void bindUberMaterial(Gl& gl, GpuTextures& textures, GlProgram& program,
-                      const UberMaterialState& state, const osg::Matrix& surfaceFromObject);
+                      const UberMaterialState& state, const SurfaceSpace& space);
 
 /// Puts the texture units back that bindUberMaterial uses.
 void unbindUberMaterial(Gl& gl);

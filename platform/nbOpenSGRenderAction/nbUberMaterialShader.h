@@ -1,16 +1,32 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <string>
 
 namespace nbrender::shaders {
 
+/// How the pictures of the diffuse and the transparency component are projected: numbers of
+/// TextureProjection, or kNoPicture.
+using PictureKinds = std::array<int, 2>;
+
+constexpr int kNoPicture = -1;
+
+constexpr bool hasPicture(const PictureKinds& kinds)
+{
+    return kinds[0] != kNoPicture || kinds[1] != kNoPicture;
+}
+
 /// Part of a fragment program: the function `vec4 withPictures(vec4 surface)` puts the pictures of
 /// an UberMaterial over a surface's colour and opacity.
 ///
-/// Wants the input objectPosition; per component c its uniforms pictureFromObject[c] and
-/// pictureFlags[c] (bits of PictureFlag), and the samplers diffusePicture and transparencyPicture.
-std::string uberMaterialFunctions();
+/// Wants the inputs objectPosition, objectNormal and texCoord, of which the last one is declared
+/// before; per component c with a picture the uniforms pictureFromObject[c] and pictureFlags[c]
+/// (bits of PictureFlag), for the triplanar and the tire projection pictureNormalFromObject[c] and
+/// pictureTiles[3 c .. 3 c + 2]; and the samplers diffusePicture and transparencyPicture.
+/// @param kinds  what the program can show: drivers take long to compile what it does not
+std::string uberMaterialFunctions(const PictureKinds& kinds);
 
 /// Bits of a component's flags in the program.
 enum PictureFlag : int

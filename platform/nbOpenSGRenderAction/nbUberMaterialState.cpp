@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "nbUberMaterialState.h"
 
+#include <nbOpenSGExt/nbEulerRotation.h>
+#include <nbOpenSGExt/nbRotationMath.h>
 #include <nbOpenSGUberMaterial/UberMaterial.h>
 
 #include <algorithm>
@@ -32,26 +34,141 @@ bool isUseful(const osg::ImagePtr& image, const osg::ColorComponentSettingsPtr& 
         : settings->getAsMask() || image->hasAlphaChannel();
 }
 
-ProjectedPicture resolvePicture(const osg::UberMaterialPtr& material, const char* name,
-                                UberMaterialState::Component component)
+using Settings = osg::ColorComponentSettings;
+
+/// A matrix of the first three columns and the last one.
+osg::Matrix matrixOf(const osg::Vec3f& x, const osg::Vec3f& y, const osg::Vec3f& z,
+                     const osg::Vec3f& origin)
 {
-    using Settings = osg::ColorComponentSettings;
-    ProjectedPicture picture;
-    const osg::ImagePtr image = material->getImage(name);
-    const osg::ColorComponentSettingsPtr settings = material->getComponentSettings(name);
-    if (!isUseful(image, settings, component) ||
-        settings->getTextureProjectionType() != Settings::PlanarProjection ||
-        settings->getPlanarProjection() == osg::NullFC ||
-        !settings->getPlanarProjection()->getMatrix().inverse(picture.pictureFromSurface) ||
-        !isFinite(picture.pictureFromSurface)) {
-        return picture;
+    osg::Matrix matrix;
+    const std::array<osg::Vec3f, 4> columns { x, y, z, origin };
+    for (osg::UInt32 i = 0; i < columns.size(); ++i) {
+        for (osg::UInt32 k = 0; k < 3; ++k) {
+            matrix[i][k] = columns[i][k];
+        }
     }
-    picture.imageId = image.getFieldContainerId();
+    return matrix;
+}
+
+bool isFinite(const osg::Vec3f& vector)
+{
+    return std::isfinite(vector.x()) && std::isfinite(vector.y()) && std::isfinite(vector.z());
+}
+
+/// Whether a tile is neither without end nor without size.
+bool isTile(const osg::Vec4f& tile)
+{
+    return std::isnormal(tile.x()) && std::isnormal(tile.y()) && std::isfinite(tile.z()) &&
+        std::isfinite(tile.w());
+}
+
+// Each of these is false if the projection has no inverse or is not finite.
+
+bool resolvePlanar(const osg::ColorComponentSettingsPtr& settings, ProjectedPicture& picture)
+{
+    const osg::Transform3DPtr projection = settings->getPlanarProjection();
+    if (projection == osg::NullFC || !projection->getMatrix().inverse(picture.pictureFromSurface)) {
+        return false;
+    }
     picture.repeatU = settings->hasPlanarProjectionFlag(Settings::RepeatU);
     picture.repeatV = settings->hasPlanarProjectionFlag(Settings::RepeatV);
     picture.clampZ = settings->hasPlanarProjectionFlag(Settings::ClampZ);
+    return true;
+}
+
+bool resolveTriplanar(const osg::ColorComponentSettingsPtr& settings, ProjectedPicture& picture)
+{
+    constexpr float kHundredth = 0.01f;
+    const osg::Vec3f& rotation = settings->getTriplanarRotation();
+    if (!isFinite(rotation)) {
+        return false;
+    }
+    // Deliberate: the angle about y runs the other way round.
+    const nbRotationMath::Rows turn = nbRotationMath::rotationRows(
+        nbEulerRotation::toQuaternion({ rotation.x(), -double(rotation.y()), rotation.z() },
+                                      nbEulerRotation::getOrderNumber("xyz")));
+    const auto row = [&turn](std::size_t i) {
+        return osg::Vec3f(static_cast<float>(turn[i][0]), static_cast<float>(turn[i][1]),
+                          static_cast<float>(turn[i][2])) *
+            kHundredth;
+    };
+    // The inverse of a turn has its rows as columns.
+    picture.pictureFromSurface = matrixOf(row(0), row(1), row(2), osg::Vec3f(0.f, 0.f, 0.f));
+    for (osg::UInt32 i = 0; i < ProjectedPicture::kTileCount; ++i) {
+        const float repeatU = settings->getTriplanarRepeatU()[i];
+        const float repeatV = settings->getTriplanarRepeatV()[i];
+        picture.tiles[i] =
+            osg::Vec4f(repeatU, repeatV, settings->getTriplanarOffsetU()[i] * repeatU,
+                       settings->getTriplanarOffsetV()[i] * repeatV);
+    }
+    return std::all_of(picture.tiles.begin(), picture.tiles.end(), isTile);
+}
+
+bool resolveUv(const osg::ColorComponentSettingsPtr& settings, ProjectedPicture& picture)
+{
+    constexpr double kRadiansPerDegree = 0.017453292519943295;
+    constexpr float kHalf = 0.5f;
+    const osg::Vec2f& offset = settings->getOffset();
+    const osg::Vec2f& repeat = settings->getRepeat();
+    const double angle = settings->getRotate() * kRadiansPerDegree;
+    const auto cosine = static_cast<float>(std::cos(angle));
+    const auto sine = static_cast<float>(std::sin(angle));
+    // A picture that turns clockwise is looked up counter-clockwise.
+    const osg::Vec3f u(cosine * repeat.x(), sine * repeat.y(), 0.f);
+    const osg::Vec3f v(-sine * repeat.x(), cosine * repeat.y(), 0.f);
+    const osg::Vec3f middle(kHalf * repeat.x(), kHalf * repeat.y(), 0.f);
+    picture.pictureFromSurface =
+        matrixOf(u, v, osg::Vec3f(0.f, 0.f, 1.f),
+                 middle - u * (offset.x() + kHalf) - v * (offset.y() + kHalf));
+    return std::isnormal(repeat.x()) && std::isnormal(repeat.y());
+}
+
+bool resolveTire(const osg::ColorComponentSettingsPtr& settings, ProjectedPicture& picture)
+{
+    constexpr float kHalf = 0.5f;
+    const osg::Vec3f& center = settings->getTireCenter();
+    const float alongScale = 1.f / settings->getTireScaleHeight();
+    const float acrossScale = 1.f / settings->getTireScaleRadius();
+    picture.pictureFromSurface = matrixOf(
+        { alongScale, 0.f, 0.f }, { 0.f, acrossScale, 0.f }, { 0.f, 0.f, acrossScale },
+        { -center.x() * alongScale, -center.y() * acrossScale, -center.z() * acrossScale });
+    picture.tiles.front() = osg::Vec4f(1.f / settings->getTireScaleU(), 1.f, kHalf, kHalf);
+    return std::isnormal(alongScale) && std::isnormal(acrossScale) && isTile(picture.tiles.front());
+}
+
+bool resolvePlacing(const osg::ColorComponentSettingsPtr& settings, ProjectedPicture& picture)
+{
+    switch (picture.kind) {
+    case Settings::UVProjection:
+        return resolveUv(settings, picture);
+    case Settings::PlanarProjection:
+        return resolvePlanar(settings, picture);
+    case Settings::TriplanarProjection:
+        return resolveTriplanar(settings, picture);
+    case Settings::TireProjection:
+        return resolveTire(settings, picture);
+    default:
+        return false;
+    }
+}
+
+ProjectedPicture resolvePicture(const osg::UberMaterialPtr& material, const char* name,
+                                UberMaterialState::Component component)
+{
+    const osg::ImagePtr image = material->getImage(name);
+    const osg::ColorComponentSettingsPtr settings = material->getComponentSettings(name);
+    if (!isUseful(image, settings, component)) {
+        return ProjectedPicture();
+    }
+    ProjectedPicture picture;
+    picture.kind = settings->getTextureProjectionType();
+    picture.repeatU = picture.repeatV = true;
     picture.asMask = settings->getAsMask();
     picture.invert = settings->getInvert();
+    if (!resolvePlacing(settings, picture) || !isFinite(picture.pictureFromSurface)) {
+        return ProjectedPicture();
+    }
+    picture.imageId = image.getFieldContainerId();
     return picture;
 }
 

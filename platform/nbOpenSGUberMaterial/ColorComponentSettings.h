@@ -19,17 +19,56 @@ NB_CONTAINER_POINTER(ColorComponentSettings, AttachmentContainerPtr);
     VALUE(PlanarProjectionFlags, planarProjectionFlags, UInt32, 0)                                 \
     VALUE(TextureProjectionType, textureProjectionType, Int32, 1)                                  \
     VALUE(AsMask, asMask, bool, false)                                                             \
-    VALUE(Invert, invert, bool, false)
+    VALUE(Invert, invert, bool, false)                                                             \
+    VALUE(Rotate, rotate, Real32, 0.f)                                                             \
+    VALUE(Offset, offset, Vec2f, Vec2f(0.f, 0.f))                                                  \
+    VALUE(Repeat, repeat, Vec2f, Vec2f(1.f, 1.f))                                                  \
+    VALUE(TriplanarRotation, triplanarRotation, Vec3f, Vec3f(0.f, 0.f, 0.f))                       \
+    VALUE(TriplanarOffsetU, triplanarOffsetU, Vec3f, Vec3f(0.f, 0.f, 0.f))                         \
+    VALUE(TriplanarOffsetV, triplanarOffsetV, Vec3f, Vec3f(0.f, 0.f, 0.f))                         \
+    VALUE(TriplanarRepeatU, triplanarRepeatU, Vec3f, Vec3f(1.f, 1.f, 1.f))                         \
+    VALUE(TriplanarRepeatV, triplanarRepeatV, Vec3f, Vec3f(1.f, 1.f, 1.f))                         \
+    VALUE(TireCenter, tireCenter, Vec3f, Vec3f(0.f, 0.f, 0.f))                                     \
+    VALUE(TireScaleU, tireScaleU, Real32, 1.f)                                                     \
+    VALUE(TireScaleHeight, tireScaleHeight, Real32, 1.f)                                           \
+    VALUE(TireScaleRadius, tireScaleRadius, Real32, 1.f)                                           \
+    VALUE(TireAutoParameter, tireAutoParameter, bool, true)
 
 // clang-format on
 
-/// How the picture of one colour component of an UberMaterial lies on the surface.
+/// How the picture of one colour component of an UberMaterial lies on the surface. The object is
+/// the node that carries the material; (u, v) is (0, 0) at the picture's left lower corner and
+/// (1, 1) at the opposite one.
 ///
-/// The planar projection lies in the space of the node that carries the material: world =
-/// node.toWorld * projection.getMatrix(). In its own frame the picture covers x and y from -1 to 1,
-/// its left lower corner at (-1, -1), and is projected along z through the whole object, onto
-/// surfaces of either side. With ClampZ it shows only where z is from -1 to 0, the Z extent.
-/// A projection that is null, flattened (a scale of 0, say) or not finite shows no picture.
+/// Planar: the projection lies in the object's space: world = node.toWorld *
+/// projection.getMatrix(). In its own frame the picture covers x and y from -1 to 1, its left lower
+/// corner at (-1, -1), and is projected along z through the whole object, onto surfaces of either
+/// side. With ClampZ it shows only where z is from -1 to 0, the Z extent.
+///
+/// Triplanar: three projections along the axes of a frame, which is that of the object, its axes of
+/// the world's unit length, turned by TriplanarRotation: radians about the object's own x, then y,
+/// then z axis. Deliberate: those about x and z turn the frame counter-clockwise, that about y
+/// clockwise. The projection along x shows (y, z) of the frame, that along y (x, z), that along z
+/// (x, y): u = (coordinate / 100 + offset) * repeat, and v alike, where the offsets and repeats are
+/// element 0, 1, 2 of their fields for the projections along x, y, z. The three mix by the surface
+/// normal in the frame, by the eighth powers of its coordinates. The picture repeats, and goes
+/// through the object.
+///
+/// UV: the geometry's texture coordinates less the Offset, turned about their (0.5, 0.5), times
+/// Repeat. The picture moves with a growing offset along u and v, and turns clockwise about the
+/// middle of the unit square by Rotate, in degrees. It repeats.
+///
+/// Tire: around an axle through TireCenter along the object's x axis, lengths in its space. u goes
+/// around it, from y to z: the picture's middle is at +y and takes the part TireScaleU of the
+/// circumference, so that 1 is once around and 0.25 four times. On the tread v goes along the
+/// axle: the picture is centred on TireCenter and TireScaleHeight wide. On the sides v goes from
+/// the edge at TireScaleRadius, where a picture of the tread would begin again, one picture to the
+/// axle. Tread and sides mix by the surface normal as in the triplanar projection. With
+/// TireAutoParameter an nbMaterialEditor fits the centre, height and radius to the object; nobody
+/// else looks at this.
+///
+/// A projection that is null, flattened (a scale or repeat of 0, say) or not finite shows no
+/// picture, nor does a UV projection of a geometry without texture coordinates.
 ///
 /// Coverage is where the picture counts: its alpha, or, as a mask, its brightness (the average of
 /// red, green and blue). Invert turns it over. What covers nothing shows the plain component.
@@ -38,7 +77,7 @@ class NB_PLATFORM_API ColorComponentSettings : public AttachmentContainer
     NB_CONTAINER(ColorComponentSettings, AttachmentContainer, NB_COLOR_COMPONENT_SETTINGS_FIELDS);
 
 public:
-    /// Bits of PlanarProjectionFlags; none at the start.
+    /// Bits of PlanarProjectionFlags; none at the start. They hold for the planar projection only.
     enum PlanarProjectionFlag : UInt32
     {
         /// Who edits the scale keeps the ratio of x to y. The picture fills the projection anyhow,

@@ -34,6 +34,12 @@ void UberMaterial::setComponentSettings(const std::string& component,
     replaceComponent(component, settings, getImage(component));
 }
 
+Vec2f UberMaterial::getRepeat(const std::string& component) const
+{
+    const ColorComponentSettingsPtr settings = getComponentSettings(component);
+    return settings == NullFC ? Vec2f(1.f, 1.f) : settings->getRepeat();
+}
+
 ImagePtr UberMaterial::getImage(const std::string& component) const
 {
     const ColorComponentPtr entry = findComponent(component);

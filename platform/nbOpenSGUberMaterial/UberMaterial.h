@@ -52,6 +52,10 @@ public:
     void setComponentSettings(const std::string& component,
                               const ColorComponentSettingsPtr& settings);
 
+    /// How often the picture of a component repeats over a unit of the texture coordinates; 1 in
+    /// both directions for a component without settings.
+    Vec2f getRepeat(const std::string& component) const;
+
     /// Picture of a component; null if it has none.
     ImagePtr getImage(const std::string& component) const;
 

@@ -290,3 +290,17 @@ osg::BoxVolume nbNodeUtils::getWorldBounds(const osg::NodePtr& node)
     }
     return bounds;
 }
+
+osg::BoxVolume nbNodeUtils::getOwnBounds(const osg::NodePtr& node)
+{
+    osg::BoxVolume bounds;
+    bounds.setEmpty();
+    if (node != osg::NullFC) {
+        osg::Matrix nodeFromParent;
+        if (const auto transform = coreOf<osg::TransformPtr>(node); transform != osg::NullFC) {
+            transform->getMatrix().inverse(nodeFromParent);
+        }
+        extendBySubtree(bounds, node, nodeFromParent);
+    }
+    return bounds;
+}

@@ -75,4 +75,7 @@ public:
     /// Bounds, in world space, of the active geometry in the node's subtree that is not marked as
     /// auxiliary (marks of the node's ancestors do not count); empty if there is none.
     static osg::BoxVolume getWorldBounds(const osg::NodePtr& node);
+
+    /// The same in the node's own space, from which its getToWorld() leads.
+    static osg::BoxVolume getOwnBounds(const osg::NodePtr& node);
 };

@@ -6,6 +6,7 @@
 #include "viewer/core/SessionTargets.h"
 #include "viewer/core/Stage.h"
 #include "viewer/core/TextureTool.h"
+#include "viewer/core/TextureValueCommands.h"
 
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
@@ -99,6 +100,7 @@ TextureCommands::TextureCommands(Stage& targetStage, TextureTool& textureTool)
     addProjectionCommands();
     addSwitches();
     addSceneCommands();
+    addTextureValueCommands(stage, tool);
 }
 
 TextureCommands::~TextureCommands()
@@ -176,7 +178,7 @@ void TextureCommands::addHandleCommands()
     });
     commands.addValue(named("edit"), [this] { return tool.isActive(); });
     addSwitch(commands, "place", [this](bool on, QString& error) {
-        const bool isPossible = !on || tool.target().projection() != osg::NullFC;
+        const bool isPossible = !on || tool.target().settings() != osg::NullFC;
         if (isPossible) {
             tool.setPlacing(on);
         }

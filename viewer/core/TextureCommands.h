@@ -14,12 +14,15 @@ class TextureTool;
 /// - component "diffuse" or "transparency"; picture FILE, or null to take it away;
 /// - drop {"file": FILE, "at": PLACE}: as if the file were dropped there; a place of the view as
 ///   steps of sessions have it;
-/// - handles "translate", "rotate", "scale" or "universal": shows these; place BOOL: clicks place
-///   the picture;
+/// - handles "translate", "rotate", "scale", "rotateScale" or "universal": shows these, as far as
+///   the projection has them; place BOOL: clicks place the picture, or the handles alone where only
+///   these have a place;
 /// - edit BOOL: gives the pointer to the tool or back; null: the other way round;
-/// - translation, rotation (degrees), scale [x, y, z] of the projection, in the object's space;
+/// - translation, rotation (degrees), scale [x, y, z] of the planar projection, in the object's
+///   space;
 /// - keepAspect, repeatU, repeatV, endInDepth, mask, invert BOOL;
 /// - showProjection, showDepth BOOL and planeTransparency 0 .. 1: the projection in the scene.
+/// - those of addTextureValueCommands().
 /// Each is a value of the same name, except drop; picture is the name of the file alone. Further
 /// values: surface, the name of what is edited, and preview, false while it is paused.
 class TextureCommands

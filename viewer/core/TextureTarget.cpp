@@ -86,6 +86,21 @@ osg::ImagePtr TextureTarget::image() const
     return found == osg::NullFC ? osg::ImagePtr() : found->getImage(componentName);
 }
 
+TextureTarget::Settings::TextureProjection TextureTarget::projectionType() const
+{
+    const osg::ColorComponentSettingsPtr found = settings();
+    const osg::Int32 type =
+        found == osg::NullFC ? Settings::PlanarProjection : found->getTextureProjectionType();
+    const bool isKnown = type >= Settings::UVProjection && type <= Settings::TireProjection;
+    return isKnown ? static_cast<Settings::TextureProjection>(type) : Settings::PlanarProjection;
+}
+
+nbTextureValues TextureTarget::values() const
+{
+    const osg::ColorComponentSettingsPtr found = settings();
+    return found == osg::NullFC ? nbTextureValues() : nbTextureValues::of(*found);
+}
+
 bool TextureTarget::setComponent(const std::string& name)
 {
     const bool isShown = name == osg::UberMaterial::kDiffuseComponent ||
@@ -182,6 +197,16 @@ bool TextureTarget::setFlag(Flag flag, bool on)
 bool TextureTarget::setCoverage(bool asMask, bool invert)
 {
     return editor.setCoverage(asMask, invert);
+}
+
+bool TextureTarget::setProjectionType(Settings::TextureProjection type)
+{
+    return editor.setTextureProjectionType(type);
+}
+
+bool TextureTarget::setValues(const nbTextureValues& values)
+{
+    return editor.setTextureValues(values);
 }
 
 }  // namespace viewer

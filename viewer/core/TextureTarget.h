@@ -40,6 +40,10 @@ public:
     osg::ColorComponentSettingsPtr settings() const;
     osg::Transform3DPtr projection() const;
     osg::ImagePtr image() const;
+    /// How the picture lies on the surface; planar without settings.
+    Settings::TextureProjection projectionType() const;
+    /// Of the other projections; those of fresh settings without any.
+    nbTextureValues values() const;
 
     /// "diffuse" at first.
     const std::string& component() const { return componentName; }
@@ -62,6 +66,10 @@ public:
     bool setScale(const osg::Vec3f& scale);
     bool setFlag(Flag flag, bool on);
     bool setCoverage(bool asMask, bool invert);
+    /// Switches to another projection, which is fitted to the object if it was never used.
+    bool setProjectionType(Settings::TextureProjection type);
+    /// Also false for values that are not finite, or zero where they must not be.
+    bool setValues(const nbTextureValues& values);
 
 private:
     /// What the editor works on, by ids.

@@ -5,10 +5,8 @@
 #include "viewer/core/PictureFile.h"
 #include "viewer/core/SceneBuilder.h"
 #include "viewer/core/Stage.h"
-#include "viewer/core/ValueLine.h"
+#include "viewer/core/TextureValueText.h"
 
-#include <nbInteraction/EventNames.h>
-#include <nbInteraction/InteractionEvent.h>
 #include <nbKernel/nbController.h>
 #include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbUndoService.h>
@@ -19,47 +17,19 @@
 #include <QJsonArray>
 #include <QJsonObject>
 
-#include <array>
-
 #include <EditStamp.h>
 
 namespace viewer {
 namespace {
 
-using nbec::interaction::InteractionEvent;
 using nbec::interaction::InteractionManager;
 using nbec::interaction::Picker;
-using nbec::interaction::ToolInteractionContext;
-using nbec::manipulator::PlanarTextureManipulator;
-namespace names = nbec::interaction::names;
 
 constexpr const char* kReceiver = "nbviewer::texture";
 /// Size of a new picture, as a share of the side of its object.
 constexpr float kChosenShare = 0.6F;
 constexpr float kDroppedShare = 0.5F;
-
-struct GroupRow
-{
-    const char* word;
-    void (PlanarTextureManipulator::*activate)();
-};
-
-constexpr std::array<GroupRow, 4> kGroups { {
-    { "translate", &PlanarTextureManipulator::activateTranslateManipulator },
-    { "rotate", &PlanarTextureManipulator::activateRotateManipulator },
-    { "scale", &PlanarTextureManipulator::activateScaleManipulator },
-    { "universal", &PlanarTextureManipulator::activateUniversalManipulator },
-} };
-
-const GroupRow* findGroup(const std::string& word)
-{
-    for (const GroupRow& row : kGroups) {
-        if (word == row.word) {
-            return &row;
-        }
-    }
-    return nullptr;
-}
+constexpr const char* kAllHandles = "universal";
 
 float aspectOf(const osg::ImagePtr& image)
 {
@@ -112,6 +82,7 @@ void resumePreview()
 
 TextureTool::TextureTool(Stage& targetStage)
     : stage(targetStage)
+    , gizmos(kReceiver, nbScenegraph::getInternalRoot())
     , textureTarget(kReceiver, *this)
 {
     handlePicker.setFilter(Picker::HandleFilter);
@@ -122,8 +93,6 @@ TextureTool::TextureTool(Stage& targetStage)
         helpers->addChild(visualization.getRootNode());
     }
     visualization.setVisible(false);
-    gizmo.setVisualisationRoot(helpers);
-    gizmo.setMessageReceiver(kReceiver);
     handleContext.setPicker(&handlePicker);
     handleContext.setDragCallback([this] { stage.edited(); });
     placingTool.setMessageReceiver(kReceiver);
@@ -134,7 +103,6 @@ TextureTool::TextureTool(Stage& targetStage)
 TextureTool::~TextureTool()
 {
     stage.removeTool(*this);
-    gizmo.setNode({});
     handleContext.setManipulator(nullptr);
     handleContext.setPicker(nullptr);
     placingContext.setPicker(nullptr);
@@ -204,6 +172,13 @@ bool TextureTool::setPicture(const QString& file, QString& error)
     return true;
 }
 
+bool TextureTool::setProjectionType(TextureTarget::Settings::TextureProjection type)
+{
+    const bool isDone = textureTarget.setProjectionType(type);
+    refresh();
+    return isDone;
+}
+
 bool TextureTool::dropPicture(const QString& file, const osg::Pnt2f& px, QString& error)
 {
     const osg::NodePtr part = scenePicker.pickAt(px);
@@ -243,16 +218,19 @@ bool TextureTool::takePicture(const QString& file, const osg::Pnt2f& px, QString
 
 void TextureTool::connect()
 {
-    if (!textureTarget.connect()) {
+    const bool isOther = gizmos.follow(textureTarget);
+    if (!textureTarget.connect() && !isOther) {
         return;
     }
-    const bool isThere = textureTarget.projection() != osg::NullFC;
-    const osg::MaterialPtr material = textureTarget.material();
-    placingTool.setMaterialComponent(material, textureTarget.component(), this);
-    gizmo.setMaterialComponent(material, textureTarget.component(), this);
-    gizmo.setNode(isThere ? textureTarget.object() : osg::NodePtr());
-    if (isThere) {
+    placingTool.setMaterialComponent(textureTarget.material(), textureTarget.component(), this);
+    gizmos.connect(textureTarget, *this);
+    if (textureTarget.projection() != osg::NullFC) {
         resumePreview();
+    }
+    followAnchor();
+    if (isOther && active) {
+        leavePointer();
+        takePointer();
     }
     applyGroup();
 }
@@ -274,7 +252,7 @@ void TextureTool::componentChanged(const std::string& /*component*/)
 
 bool TextureTool::showGroup(const std::string& word)
 {
-    if (findGroup(word) == nullptr) {
+    if (!gizmos.hasGroup(word)) {
         return false;
     }
     shownGroup = word;
@@ -285,10 +263,56 @@ bool TextureTool::showGroup(const std::string& word)
 
 void TextureTool::applyGroup()
 {
-    const GroupRow* const row = findGroup(shownGroup);
-    if (active && !placing && row != nullptr) {
-        (gizmo.*row->activate)();
+    if (!gizmos.hasGroup(shownGroup)) {
+        shownGroup = kAllHandles;
     }
+    if (active && !placing) {
+        gizmos.showGroup(shownGroup);
+        gizmos.place();
+    }
+}
+
+void TextureTool::setHandleSize(float size)
+{
+    gizmos.setSize(size);
+    stage.edited();
+}
+
+// == The place of the handles
+
+/// Hands the gizmos the anchor, which moves to the surface that is edited.
+void TextureTool::followAnchor()
+{
+    const osg::NodePtr surface = textureTarget.surface();
+    const bool isWanted = textureTarget.settings() != osg::NullFC &&
+        textureTarget.projectionType() != TextureTarget::Settings::PlanarProjection;
+    if (isWanted && !handlePlace.isOn(surface)) {
+        handlePlace.set(surface, visiblePointOf(surface, stage));
+    }
+    if (handlePlace.isOn(surface)) {
+        gizmos.setAnchor(surface, handlePlace.place());
+    }
+}
+
+std::optional<osg::Pnt3f> TextureTool::anchor() const
+{
+    const bool isHere =
+        textureTarget.settings() != osg::NullFC && handlePlace.isOn(textureTarget.surface());
+    return isHere ? handlePlace.worldPlace() : std::nullopt;
+}
+
+bool TextureTool::setAnchor(const osg::Pnt2f& px)
+{
+    const osg::NodePtr surface = textureTarget.surface();
+    const bool isHit = surface != osg::NullFC && textureTarget.settings() != osg::NullFC &&
+        scenePicker.pickAt(px) == surface;
+    if (isHit) {
+        handlePlace.set(surface, scenePicker.getHitPoint());
+        followAnchor();
+        gizmos.place();
+        stage.edited();
+    }
+    return isHit;
 }
 
 void TextureTool::setPlacing(bool on)
@@ -307,15 +331,23 @@ void TextureTool::takePointer()
 {
     InteractionManager& manager = stage.interaction();
     if (placing) {
-        placingContext.setTool(&placingTool);
+        const bool isPicture =
+            textureTarget.projectionType() == TextureTarget::Settings::PlanarProjection;
+        placingContext.setTool(isPicture ? &placingTool : nullptr);
+        if (!isPicture) {
+            placingContext.setAnchoring([this](const osg::Pnt2f& px) {
+                anchored = setAnchor(px);
+                return anchored;
+            });
+            stage.view().setCursor(Qt::CrossCursor);
+        }
         manager.addContext(&placingContext);
         return;
     }
-    handleContext.setManipulator(&gizmo);
-    probe.setPickNode(gizmo.getCollider());
+    handleContext.setManipulator(&gizmos.current());
+    probe.setPickNode(gizmos.current().getCollider());
     manager.addContext(&handleContext);
     applyGroup();
-    PlanarTextureManipulator::updateAllManipulators();
 }
 
 void TextureTool::leavePointer()
@@ -324,6 +356,10 @@ void TextureTool::leavePointer()
     manager.removeContext(&handleContext);
     manager.removeContext(&placingContext);
     placingContext.setTool(nullptr);
+    placingContext.setAnchoring(nullptr);
+    if (placing) {
+        stage.view().setCursor(Qt::ArrowCursor);
+    }
 }
 
 void TextureTool::activate()
@@ -339,20 +375,6 @@ void TextureTool::deactivate()
     active = false;
     placing = false;
     showInScene();
-}
-
-bool TextureTool::PlacingContext::triggerEvent(InteractionManager* manager,
-                                               const InteractionEvent& event)
-{
-    const bool isTool = event.getTool() == names::kTool;
-    const auto deliver = [&] { return ToolInteractionContext::triggerEvent(manager, event); };
-    if (isTool && event.getEvent() == names::kStart) {
-        return group.start(deliver);
-    }
-    if (isTool && event.getEvent() == names::kStop && group.isOpen()) {
-        return group.stop(manager, deliver);
-    }
-    return deliver();
 }
 
 // == What happens on the stage
@@ -375,16 +397,20 @@ void TextureTool::selectionChanged()
 void TextureTool::viewChanged()
 {
     if (active) {
-        PlanarTextureManipulator::updateAllManipulators();
+        gizmos.place();
     }
 }
 
 void TextureTool::update()
 {
+    if (anchored && !stage.isDragging()) {
+        anchored = false;
+        setPlacing(false);
+    }
     // Undo and edits of others reach the display, too.
     if (active && osg::glue::editStamp() != shownStamp) {
         connect();
-        gizmo.update(false);
+        gizmos.current().update(false);
         showInScene();
         shownStamp = osg::glue::editStamp();
     }
@@ -399,7 +425,7 @@ void TextureTool::setPixelRatio(float ratio)
 
 osg::NodePtr TextureTool::handles()
 {
-    return isPlacing() ? osg::NodePtr() : gizmo.getCollider();
+    return isPlacing() ? osg::NodePtr() : gizmos.current().getCollider();
 }
 
 std::string TextureTool::hoveredHandle()
@@ -421,19 +447,8 @@ std::string TextureTool::draggedValues() const
     if (isPlacing()) {
         return placingTool.getDescription();
     }
-    const osg::Transform3DPtr projection = textureTarget.projection();
-    if (projection == osg::NullFC || handleContext.grabbedHandle().empty()) {
-        return {};
-    }
-    switch (actionOfHandle(handleContext.grabbedHandle())) {
-    case HandleAction::MoveAlong:
-    case HandleAction::MoveInPlane:
-        return valueLine("Picture at", projection->getTranslation());
-    case HandleAction::Turn:
-        return valueLine("Picture turned", projection->getRotation());
-    default:
-        return valueLine("Picture scale", projection->getScale());
-    }
+    const std::string& handle = handleContext.grabbedHandle();
+    return handle.empty() ? std::string() : textureValueText(actionOf(handle), textureTarget);
 }
 
 // == The projection in the scene
@@ -465,7 +480,8 @@ void TextureTool::showInScene()
 {
     const osg::ColorComponentSettingsPtr settings = textureTarget.settings();
     const osg::Transform3DPtr projection = textureTarget.projection();
-    const bool isShown = active && projectionShown && projection != osg::NullFC;
+    const bool isShown = active && projectionShown && projection != osg::NullFC &&
+        textureTarget.projectionType() == TextureTarget::Settings::PlanarProjection;
     visualization.setVisible(isShown);
     if (!isShown) {
         return;
@@ -477,7 +493,7 @@ void TextureTool::showInScene()
     visualization.setScale(scale[0], scale[1]);
     visualization.setZScaleVisible(ends && depthShown);
     visualization.setTexture(textureTarget.image(), settings->getAsMask(), settings->getInvert());
-    gizmo.showZScaleValue(ends);
+    gizmos.planarGizmo().showZScaleValue(ends);
 }
 
 }  // namespace viewer

@@ -2,20 +2,22 @@
 #pragma once
 
 #include "viewer/core/DragContext.h"
+#include "viewer/core/PlacingContext.h"
 #include "viewer/core/StageTool.h"
+#include "viewer/core/TextureAnchor.h"
+#include "viewer/core/TextureGizmos.h"
 #include "viewer/core/TextureTarget.h"
 
 #include <nbInteraction/Picker.h>
-#include <nbInteraction/ToolInteractionContext.h>
 #include <nbMaterialEditor/nbMaterialPreview.h>
 #include <nbOpenSGUberMaterial/nbStateChunkBase.h>
 
 #include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGVector.h>
 
+#include <optional>
 #include <string>
 
-#include <manipulator/PlanarTextureManipulator.h>
 #include <manipulator/nbPlanarProjectionVisualization.h>
 #include <modules/textureplacement/TexturePlacementPickTool.h>
 
@@ -51,24 +53,44 @@ public:
     /// @return false with one line in `error`, nothing changed
     bool setPicture(const QString& file, QString& error);
 
+    /// Switches to another projection of the picture, with its handles. @return false without one
+    bool setProjectionType(TextureTarget::Settings::TextureProjection type);
+
     /// Puts a picture file on what lies at a pixel, upright, selects that object and shows the
     /// handles. @return false with one line in `error`; nothing changed
     bool dropPicture(const QString& file, const osg::Pnt2f& px, QString& error);
 
     // == The pointer
 
-    /// Word of the handles shown: "translate", "rotate", "scale" or "universal".
+    /// Word of the handles shown, see TextureGizmos.
     const std::string& group() const { return shownGroup; }
 
-    /// Shows the handles of a group, and makes this the active tool. @return false for another word
+    /// Whether the picture's projection has the handles of a group.
+    bool hasGroup(const std::string& word) const { return gizmos.hasGroup(word); }
+
+    /// Shows the handles of a group, and makes this the active tool. @return false for one that the
+    /// picture's projection does not have
     bool showGroup(const std::string& word);
+
+    /// Of the handles in use.
+    TextureGizmos::Size handleSize() const { return gizmos.size(); }
+
+    void setHandleSize(float size);
 
     bool isActive() const { return active; }
 
     bool isPlacing() const { return active && placing; }
 
     /// Lets clicks place the picture, and makes this the active tool; or shows the handles again.
+    /// Where only the handles have a place, a click places these, and they are shown again.
     void setPlacing(bool on);
+
+    /// Where the handles of all but the planar projection stand, world space; nothing without a
+    /// picture.
+    std::optional<osg::Pnt3f> anchor() const;
+
+    /// Puts it where the surface lies at a pixel. @return false if it does not lie there
+    bool setAnchor(const osg::Pnt2f& px);
 
     // == The projection in the scene, visible while this is active
 
@@ -109,23 +131,13 @@ public:
     void componentChanged(const std::string& component) override;
 
 private:
-    /// The context of the placing tool: from press to release everything becomes one undo step.
-    class PlacingContext : public nbec::interaction::ToolInteractionContext
-    {
-    public:
-        bool triggerEvent(nbec::interaction::InteractionManager* manager,
-                          const nbec::interaction::InteractionEvent& event) override;
-
-    private:
-        DragGroup group;
-    };
-
     /// Adopts what the target is now.
     void refresh();
     void connect();
     void takePointer();
     void leavePointer();
     void applyGroup();
+    void followAnchor();
     void showInScene();
     ProjectionPose poseFacingTheEye(float aspect, float share) const;
     /// @param normal  of the surface, world space
@@ -138,7 +150,8 @@ private:
     nbec::interaction::Picker handlePicker;
     nbec::interaction::Picker probe;  ///< for questions, so that the context's last hit stays
     nbec::interaction::Picker scenePicker;
-    nbec::manipulator::PlanarTextureManipulator gizmo;
+    TextureGizmos gizmos;
+    TextureAnchor handlePlace;
     nbec::modules::textureplacement::TexturePlacementPickTool placingTool;
     DragContext handleContext;
     PlacingContext placingContext;
@@ -147,6 +160,7 @@ private:
     std::string shownGroup = "universal";
     bool active = false;
     bool placing = false;
+    bool anchored = false;  ///< a click has just placed the handles
     bool projectionShown = true;
     bool depthShown = true;
     osg::UInt64 shownStamp = 0;

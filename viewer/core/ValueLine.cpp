@@ -2,18 +2,39 @@
 #include "viewer/core/ValueLine.h"
 
 #include <QString>
+#include <QStringList>
 
 namespace viewer {
+namespace {
+
+std::string lineOf(const char* what, const float* values, int count)
+{
+    constexpr int kDigits = 3;
+    QStringList texts;
+    for (int i = 0; i < count; ++i) {
+        // A negative zero would flicker.
+        texts.append(QString::number(static_cast<double>(values[i]) + 0.0, 'f', kDigits));
+    }
+    return (QLatin1String(what) + QStringLiteral(" (") + texts.join(QStringLiteral(", ")) +
+            QStringLiteral(")"))
+        .toStdString();
+}
+
+}  // namespace
 
 std::string valueLine(const char* what, const osg::Vec3f& values)
 {
-    constexpr int kDigits = 3;
-    QString text = QLatin1String(what) + QStringLiteral(" (%1, %2, %3)");
-    for (osg::UInt32 i = 0; i < 3; ++i) {
-        // A negative zero would flicker.
-        text = text.arg(static_cast<double>(values[i]) + 0.0, 0, 'f', kDigits);
-    }
-    return text.toStdString();
+    return lineOf(what, values.getValues(), 3);
+}
+
+std::string valueLine(const char* what, const osg::Vec2f& values)
+{
+    return lineOf(what, values.getValues(), 2);
+}
+
+std::string valueLine(const char* what, float value)
+{
+    return lineOf(what, &value, 1);
 }
 
 }  // namespace viewer

@@ -8,7 +8,9 @@
 
 namespace viewer {
 
-/// Three values for the status line, such as "Rotation (0.000, 45.000, 0.000)".
+/// Values for the status line, such as "Rotation (0.000, 45.000, 0.000)".
 std::string valueLine(const char* what, const osg::Vec3f& values);
+std::string valueLine(const char* what, const osg::Vec2f& values);
+std::string valueLine(const char* what, float value);
 
 }  // namespace viewer

@@ -27,6 +27,7 @@ ComponentState ComponentState::of(const osg::UberMaterialPtr& material,
         state.textureProjectionType = settings->getTextureProjectionType();
         state.asMask = settings->getAsMask();
         state.invert = settings->getInvert();
+        state.values = nbTextureValues::of(*settings);
     }
     return state;
 }
@@ -41,6 +42,7 @@ void ComponentState::applyTo(const osg::UberMaterialPtr& material,
         settings->setTextureProjectionType(textureProjectionType);
         settings->setAsMask(asMask);
         settings->setInvert(invert);
+        values.applyTo(settings.get());
     }
     material->setImage(component, image.get());
     material->setComponentSettings(component, settings.get());
@@ -51,7 +53,7 @@ bool ComponentState::operator==(const ComponentState& other) const
     return settings == other.settings && image == other.image && projection == other.projection &&
         planarProjectionFlags == other.planarProjectionFlags &&
         textureProjectionType == other.textureProjectionType && asMask == other.asMask &&
-        invert == other.invert;
+        invert == other.invert && values == other.values;
 }
 
 ComponentRecord::ComponentRecord(const osg::UberMaterialPtr& material, const std::string& edited)

@@ -3,6 +3,7 @@
 
 #include <nbKernelServices/nbUndoRecord.h>
 #include <nbOpenSGUberMaterial/UberMaterial.h>
+#include <nbOpenSGUberMaterial/nbTextureValues.h>
 
 #include <string>
 
@@ -17,6 +18,7 @@ struct ComponentState
     osg::Int32 textureProjectionType = 0;
     bool asMask = false;
     bool invert = false;
+    nbTextureValues values;
 
     static ComponentState of(const osg::UberMaterialPtr& material, const std::string& component);
 

@@ -168,3 +168,41 @@ nbTransformState fittedProjection(const osg::BoxVolume& bounds, float aspect)
     state.scale[2] = half;
     return state;
 }
+
+void fitTriplanar(const osg::BoxVolume& bounds, const osg::Matrix& worldFromObject, float aspect,
+                  nbTextureValues& values)
+{
+    if (bounds.isEmpty()) {
+        return;
+    }
+    const osg::Vec3f size = bounds.getMax() - bounds.getMin();
+    float largest = 0.f;
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        const osg::Vec4f& axis = worldFromObject[i];
+        largest = std::max(largest, size[i] * osg::Vec3f(axis.x(), axis.y(), axis.z()).length());
+    }
+    // A picture that repeats once is this large.
+    constexpr float kUnits = 100.f;
+    constexpr float kHalf = 0.5f;
+    const float repeatV = kUnits / (kHalf * largest);
+    const float repeatU = repeatV / aspect;
+    if (std::isnormal(repeatV) && std::isnormal(repeatU)) {
+        values.triplanarRepeatU = osg::Vec3f(repeatU, repeatU, repeatU);
+        values.triplanarRepeatV = osg::Vec3f(repeatV, repeatV, repeatV);
+    }
+}
+
+void fitTire(const osg::BoxVolume& bounds, nbTextureValues& values)
+{
+    if (bounds.isEmpty()) {
+        return;
+    }
+    osg::Pnt3f middle;
+    bounds.getCenter(middle);
+    const osg::Vec3f size = bounds.getMax() - bounds.getMin();
+    constexpr float kHalf = 0.5f;
+    const float radius = kHalf * std::max(size.y(), size.z());
+    values.tireCenter = osg::Vec3f(middle.x(), middle.y(), middle.z());
+    values.tireScaleHeight = size.x() > 0.f ? size.x() : values.tireScaleHeight;
+    values.tireScaleRadius = radius > 0.f ? radius : values.tireScaleRadius;
+}

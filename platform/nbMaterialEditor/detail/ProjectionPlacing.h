@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <nbOpenSGUberMaterial/nbTextureValues.h>
 #include <nbOpenSGUtils/nbTransformState.h>
 
 #include <OpenSG/OSGBoxVolume.h>
@@ -34,3 +35,15 @@ osg::Vec3f naturalScale(float aspect);
 /// A projection onto the front of an object, with undistorted pixels, half as large as the object.
 /// @param bounds  of the object in its own space; empty: a picture with its longer side at 2
 nbTransformState fittedProjection(const osg::BoxVolume& bounds, float aspect);
+
+/// Triplanar pictures with undistorted pixels, half as high as the object is large.
+/// @param bounds           of the object in its own space; empty or without size: nothing happens
+/// @param worldFromObject  along whose axes the projection has the world's unit length
+/// @param aspect           width / height, > 0
+void fitTriplanar(const osg::BoxVolume& bounds, const osg::Matrix& worldFromObject, float aspect,
+                  nbTextureValues& values);
+
+/// A tire projection as large as the object, around its middle.
+/// @param bounds  of the object in its own space; empty: nothing happens, and what would have no
+///                size stays
+void fitTire(const osg::BoxVolume& bounds, nbTextureValues& values);

@@ -1,91 +1,26 @@
 // SPDX-License-Identifier: MIT
-#include <nbKernel/nbController.h>
-#include <nbKernelServices/nbUndoService.h>
-#include <nbMaterialEditor/nbMaterialEditor.h>
+#include "tests/platform/nbMaterialEditor/EditorTest.h"
+
 #include <nbMaterialEditor/nbMaterialPreview.h>
 #include <nbOpenSGUtils/nbEdit.h>
-#include <nbUtils/nbLog.h>
 
-#include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGGroup.h>
-#include <OpenSG/OSGSimpleGeometry.h>
-
-#include <QtWidgets/QUndoStack>
-
-#include <gtest/gtest.h>
 
 #include <cmath>
 #include <functional>
-#include <limits>
-#include <memory>
-#include <string>
-#include <vector>
+
+using namespace editortest;
 
 namespace {
 
-using Settings = osg::ColorComponentSettings;
-
 constexpr float kHalfPi = 1.57079633f;
-constexpr float kTolerance = 1e-5f;
-constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
-const std::string kDiffuse = osg::UberMaterial::kDiffuseComponent;
 
-void expectNear(const osg::Vec3f& found, const osg::Vec3f& expected, const char* what)
-{
-    for (osg::UInt32 i = 0; i < 3; ++i) {
-        EXPECT_NEAR(found[i], expected[i], kTolerance) << what << ", component " << i;
-    }
-}
-
-struct Gui : public nbStateChunkBase
-{
-    std::vector<std::string> told;
-
-    void componentChanged(const std::string& component) override { told.push_back(component); }
-};
-
-/// An editor "label" of a box below a transform, with a projection.
-class nbMaterialEditorTest : public testing::Test
+class nbMaterialEditorTest : public EditorTest
 {
 protected:
-    void SetUp() override
-    {
-        nbController::clear();
-        undo->clear();
-        const osg::Transform3DPtr core = osg::Transform3D::create();
-        settings->setPlanarProjection(core);
-        material->setComponentSettings(kDiffuse, settings.get());
-        object = osg::makeBox(2.f, 2.f, 2.f, 1, 1, 1);
-        osg::GeometryPtr::dcast(object->getCore())->setMaterial(material.get());
-        root = osg::makeNodeFor(place);
-        root->addChild(object);
-        editor = std::make_unique<nbMaterialEditor>("label");
-        editor->setMaterial(material.get(), object, kDiffuse, &gui);
-        formerSink =
-            nbLog::setSink([this](nbLog::Level, const std::string& text) { log.push_back(text); });
-    }
-
-    void TearDown() override
-    {
-        nbLog::setSink(formerSink);
-        editor.reset();
-        undo->clear();
-        nbController::clear();
-    }
-
     osg::Transform3DPtr projection() const { return settings->getPlanarProjection(); }
 
-    static void send(const std::string& suffix,
-                     const std::vector<std::pair<const char*, boost::any>>& attributes)
-    {
-        nbMessage message;
-        for (const auto& [name, value] : attributes) {
-            message.set(name, value, true);
-        }
-        nbController::call(("label" + suffix).c_str(), message, 0);
-    }
-
-    static void change(const std::vector<std::pair<const char*, boost::any>>& attributes)
+    static void change(const Attributes& attributes)
     {
         send("::changedPlanarManipulator", attributes);
     }
@@ -112,19 +47,6 @@ protected:
         projection()->getMatrix().multMatrixVec(result);
         return result;
     }
-
-    int steps() const { return undo->getStack()->count(); }
-
-    nbUndoService* const undo = nbUndoService::the();
-    osg::UberMaterialRefPtr material { osg::UberMaterial::create() };
-    osg::ColorComponentSettingsRefPtr settings { Settings::create() };
-    osg::Transform3DPtr place { osg::Transform3D::create() };
-    osg::NodeRefPtr root;
-    osg::NodePtr object;
-    Gui gui;
-    std::unique_ptr<nbMaterialEditor> editor;
-    std::vector<std::string> log;
-    nbLog::Sink formerSink;
 };
 
 }  // namespace
@@ -205,7 +127,6 @@ TEST_F(nbMaterialEditorTest, ScaleIsAbsoluteAndClampingSwitchesTheExtentOn)
 
 TEST_F(nbMaterialEditorTest, WrongMessagesLeaveEverythingAndCostOneLine)
 {
-    using Attributes = std::vector<std::pair<const char*, boost::any>>;
     const osg::Vec3f good(1.f, 2.f, 3.f);
     const Attributes rows[] = {
         {},

@@ -15,22 +15,6 @@ constexpr float kPi = 3.14159265f;
 class nbRenderPicturesTest : public RenderTest
 {
 protected:
-    struct Probe
-    {
-        float x;
-        float y;
-        QColor color;
-    };
-
-    static void expectColors(const QImage& picture, const std::vector<Probe>& probes,
-                             const char* what)
-    {
-        for (const Probe& probe : probes) {
-            EXPECT_EQ(at(picture, probe.x, probe.y), probe.color)
-                << what << " at " << probe.x << ", " << probe.y;
-        }
-    }
-
     void setOrthographic(bool on)
     {
         const nbEdit edit(camera, osg::FieldBits::AllFields);
@@ -43,21 +27,6 @@ protected:
         return square(size, picture.material.get(), z, x);
     }
 };
-
-osg::NodePtr transformed(const osg::NodePtr& child, const osg::Vec3f& translation,
-                         const osg::Vec3f& rotationDeg, const osg::Vec3f& scale)
-{
-    osg::Transform3DPtr core;
-    const osg::NodePtr node = osg::makeCoredNode<osg::Transform3D>(&core);
-    {
-        const nbEdit edit(core, osg::Transform3D::PartsFieldMask);
-        core->setTranslation(translation);
-        core->setRotation(rotationDeg);
-        core->setScale(scale);
-    }
-    node->addChild(child);
-    return node;
-}
 
 }  // namespace
 
@@ -388,9 +357,9 @@ TEST_F(nbRenderPicturesTest, PlainColorStaysWhereThereIsNoPictureToShow)
     picture.place({ 0.f, 0.f, 0.f }, { 1.f, 1.f, 1.f });
     {
         const nbEdit edit(picture.settings, osg::FieldBits::AllFields);
-        picture.settings->setTextureProjectionType(Settings::TireProjection);
+        picture.settings->setPlanarProjection(osg::NullFC);
     }
-    expectPlain(picture, "another kind of projection");
+    expectPlain(picture, "no projection");
     picture.material->setComponentSettings(picture.component, osg::NullFC);
     expectPlain(picture, "no settings");
 }

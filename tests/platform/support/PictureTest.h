@@ -13,6 +13,21 @@ inline const QColor kWhite(255, 255, 255);
 inline const QColor kYellow(255, 255, 0);
 inline const QColor kGrey(100, 100, 100);
 
+inline osg::NodePtr transformed(const osg::NodePtr& child, const osg::Vec3f& translation,
+                                const osg::Vec3f& rotationDeg, const osg::Vec3f& scale)
+{
+    osg::Transform3DPtr core;
+    const osg::NodePtr node = osg::makeCoredNode<osg::Transform3D>(&core);
+    {
+        const nbEdit edit(core, osg::Transform3D::PartsFieldMask);
+        core->setTranslation(translation);
+        core->setRotation(rotationDeg);
+        core->setScale(scale);
+    }
+    node->addChild(child);
+    return node;
+}
+
 /// A picture of four quarters, opaque and without an alpha channel.
 inline QImage quarters(const QColor& topLeft, const QColor& topRight, const QColor& bottomLeft,
                        const QColor& bottomRight)

@@ -212,6 +212,24 @@ protected:
                                   static_cast<int>(std::floor(0.5f * kSize - y * pxPerUnit)));
     }
 
+    /// A colour that is wanted at such a place.
+    struct Probe
+    {
+        float x;
+        float y;
+        QColor color;
+    };
+
+    static void expectColors(const QImage& picture, const std::vector<Probe>& probes,
+                             const char* what)
+    {
+        for (const Probe& probe : probes) {
+            EXPECT_EQ(at(picture, probe.x, probe.y), probe.color)
+                << what << " at " << probe.x << ", " << probe.y << ": "
+                << at(picture, probe.x, probe.y).name().toStdString();
+        }
+    }
+
     static inline std::unique_ptr<nbOffscreenView> view;
     osg::RefPtr<osg::UberCameraPtr> camera;
     osg::RefPtr<osg::UberViewportPtr> viewport;

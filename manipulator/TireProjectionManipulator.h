@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "manipulator/AnchoredTextureManipulator.h"
+
+#include <vector>
+
+namespace nbec::manipulator {
+
+/// The gizmo that edits the tire projection of a picture, which goes around an axle: its centre,
+/// how much of the circumference the picture takes, and the height (along the axle) and radius of
+/// the tread.
+///
+/// The projection lies in the space of the anchor's node, the axle along its x axis. The handles
+/// stand at the projection's centre and show it: a ring as large as its radius, boxes at both ends
+/// of its height, a box where the picture ends on the ring, and arrows for the centre, which keep
+/// their size on screen as the boxes do.
+///
+/// Messages: receiver + "::changedTireManipulator", absolute values, each followed by marking the
+/// scene as modified.
+/// - Arrows: "center" (Vec3f), in the space of the anchor's node.
+/// - Ring and its box: "ScaleRadius"; boxes of the height: "ScaleHeight"; box on the ring:
+///   "ScaleU" (each float). What is grabbed stays under the pointer; no value falls below 0.001 of
+///   its start (the part of the circumference not below 0.001).
+/// - When a drag that has sent something stops: "autoParameter" (bool), false, so that what was set
+///   by hand is not fitted again. A drag of the U scale, which is never fitted, sends what the
+///   material says.
+///
+/// Decisions.
+/// - Values come from the gui object if it has the component, else from the material's settings if
+///   they are those of a tire; else centre 0 and 1 for the rest.
+/// - The box of the radius is at -z, those of the height at +y, where the picture's middle is; the
+///   picture's end goes from there to +z as the U scale grows, and is at -y for once around.
+/// - The ring is dragged along the direction from the axle in which it was grabbed, in a plane that
+///   faces the viewer, so that it can be dragged from any side but exactly against the view. The U
+///   scale follows the angle about the axle, with the transform gizmo's rule for rings seen at a
+///   grazing angle.
+/// - Everything is shown at the start. On-screen text tells the value while it is dragged.
+class NB_MANIPULATOR_API TireProjectionManipulator : public AnchoredTextureManipulator
+{
+public:
+    /// Handles shown.
+    enum class ManipulatorMode : osg::Int32
+    {
+        Hidden = -1,
+        Universal = 0,
+        Translate = 1,
+        Scale = 2
+    };
+
+    /// The handle that is hovered or grabbed.
+    enum class ActiveMode : osg::UInt32
+    {
+        None = 0,
+        TranslateX = 1,
+        TranslateY = 2,
+        TranslateZ = 3,
+        ScaleHeight = 4,
+        ScaleRadius = 5,
+        ScaleU = 6
+    };
+
+    /// Builds the handles and appends the instance to the list of live ones.
+    TireProjectionManipulator();
+    TireProjectionManipulator(const TireProjectionManipulator& other) = default;
+    TireProjectionManipulator& operator=(const TireProjectionManipulator& other) = default;
+
+    /// Unregisters the instance and releases the handles.
+    ~TireProjectionManipulator() override;
+
+    void activateUniversalManipulator();
+    void activateTranslateManipulator();
+    void activateScaleManipulator();
+
+    ManipulatorMode getMode() const;
+    ActiveMode getActiveMode() const;
+
+    // == All instances
+
+    /// Makes the shared instance, in place of an earlier one, which is destroyed.
+    static void createInstance();
+
+    /// The shared instance, or null. Whoever deletes it takes it away.
+    static TireProjectionManipulator* getInstance() { return _the; }
+
+    /// Size on screen, 0 <= size < 200, default 32. The shared instance is placed anew.
+    static void setManipulatorSize(float size);
+
+    static float getManipulatorSize() { return m_ManipulatorSize; }
+
+    /// Places every live gizmo anew, in the order of construction.
+    static void updateAllManipulators();
+
+private:
+    static float m_ManipulatorSize;
+    static std::vector<TireProjectionManipulator*> _allManipulators;
+    static TireProjectionManipulator* _the;
+};
+
+}  // namespace nbec::manipulator

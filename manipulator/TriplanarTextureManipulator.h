@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "manipulator/AnchoredTextureManipulator.h"
+
+#include <vector>
+
+namespace nbec::manipulator {
+
+/// The gizmo that edits the triplanar projection of a picture: the offsets and scales (reciprocals
+/// of the repeats) of three planar projections along the axes of a frame, and the frame's rotation.
+///
+/// Frame. Origin at the anchor point, axes those of the anchor's node, each of unit length in the
+/// world, so that a frame unit is a world unit; mirrored and skewed with the node. The handles lie
+/// along them, without mirror and skew. The projection's own rotation does not turn them.
+///
+/// Messages: receiver + "::changedTriplanarManipulator", absolute values.
+/// - Arrows: "XOffset", "YOffset", "ZOffset" (Vec2f), the two projections that contain the axis,
+///   less the shift / 100.
+/// - Rings: "rotate" (Vec3f), radians about x, y, z. Deliberate: a turn by the right hand about x
+///   and z adds, one about y subtracts.
+/// - Scale handles: "XScale", "YScale", "ZScale" (Vec2f), those two projections times the ratio of
+///   the pointer's coordinates, never below 0.001; grabbed at coordinate 0 it is infinite or
+///   undefined, and sent so. The yellow box scales all three, a hundred times more gently, by the y
+///   coordinate (z where z is up in the world).
+/// Each is followed by marking the scene as modified.
+///
+/// Decisions.
+/// - Values come from the gui object if it has the component, else from the material's settings if
+///   the projection is triplanar; else a drag starts from no rotation and offset and from scale 1.
+/// - The size of a drag's handles follows only what update() compares: setManipulatorSize() places
+///   the shared instance, hosts call updateAllManipulators() for the others.
+class NB_MANIPULATOR_API TriplanarTextureManipulator : public AnchoredTextureManipulator
+{
+public:
+    /// Handles shown.
+    enum class ManipulatorMode : osg::Int32
+    {
+        Hidden = -1,
+        Universal = 0,
+        Initial = 1,  ///< after construction: what is shown is left as it is
+        Rotate = 3,
+        RotateScale = 4
+    };
+
+    /// The handle that is hovered or grabbed.
+    enum class ActiveMode : osg::UInt32
+    {
+        None = 0,
+        RotateX = 1,
+        RotateY = 2,
+        RotateZ = 3,
+        TranslateX = 4,
+        TranslateY = 5,
+        TranslateZ = 6,
+        ScaleX = 7,
+        ScaleY = 8,
+        ScaleZ = 9,
+        ScaleUniform = 10
+    };
+
+    /// Builds the handles and appends the instance to the list of live ones.
+    TriplanarTextureManipulator();
+    TriplanarTextureManipulator(const TriplanarTextureManipulator& other) = default;
+    TriplanarTextureManipulator& operator=(const TriplanarTextureManipulator& other) = default;
+
+    /// Unregisters the instance and releases the handles.
+    ~TriplanarTextureManipulator() override;
+
+    void activateUniversalManipulator();
+    void activateRotateManipulator();
+    void activateRotateScaleManipulator();
+
+    ManipulatorMode getMode() const;
+    ActiveMode getActiveMode() const;
+
+    /// Has drags of rings that are seen at a grazing angle measured on the ring turned towards the
+    /// viewer, as those of the transform gizmo, instead of in the ring's own plane. Off at the
+    /// start.
+    void setRingsTilted(bool on);
+    bool areRingsTilted() const;
+
+    // == All instances
+
+    /// Makes the shared instance, in place of an earlier one, which is destroyed.
+    static void createInstance();
+
+    /// The shared instance, or null. Whoever deletes it takes it away.
+    static TriplanarTextureManipulator* getInstance() { return _the; }
+
+    /// Size on screen, 0 <= size < 200, default 32. Deliberate: 200 makes the size infinite in
+    /// perspective views. The shared instance is placed anew.
+    static void setManipulatorSize(float size);
+
+    static float getManipulatorSize() { return m_ManipulatorSize; }
+
+    /// Places every live gizmo anew, in the order of construction.
+    static void updateAllManipulators();
+
+private:
+    static float m_ManipulatorSize;
+    static std::vector<TriplanarTextureManipulator*> _allManipulators;
+    static TriplanarTextureManipulator* _the;
+};
+
+}  // namespace nbec::manipulator

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <nbOpenSGUberMaterial/ColorComponentSettings.h>
+#include <nbUtils/nbPlatformExport.h>
+
+#include <OpenSG/OSGBaseTypes.h>
+#include <OpenSG/OSGVector.h>
+
+/// The UV, triplanar and tire projection of a component as plain values, which
+/// ColorComponentSettings explains. A fresh one has the values of fresh settings.
+struct NB_PLATFORM_API nbTextureValues
+{
+    osg::Vec2f offset { 0.f, 0.f };
+    osg::Vec2f repeat { 1.f, 1.f };
+    osg::Real32 rotate = 0.f;  ///< degrees
+
+    osg::Vec3f triplanarRotation { 0.f, 0.f, 0.f };  ///< radians
+    osg::Vec3f triplanarOffsetU { 0.f, 0.f, 0.f };
+    osg::Vec3f triplanarOffsetV { 0.f, 0.f, 0.f };
+    osg::Vec3f triplanarRepeatU { 1.f, 1.f, 1.f };
+    osg::Vec3f triplanarRepeatV { 1.f, 1.f, 1.f };
+
+    osg::Vec3f tireCenter { 0.f, 0.f, 0.f };
+    osg::Real32 tireScaleU = 1.f;
+    osg::Real32 tireScaleHeight = 1.f;
+    osg::Real32 tireScaleRadius = 1.f;
+    bool tireAutoParameter = true;
+
+    static nbTextureValues of(const osg::ColorComponentSettings& settings);
+
+    /// Writes all values, in an edit of its own.
+    void applyTo(const osg::ColorComponentSettingsPtr& settings) const;
+
+    /// Whether all values are finite and no repeat or scale is (or is as good as) zero.
+    bool isSound() const;
+
+    /// Whether the triplanar projection is the same.
+    bool hasSameTriplanar(const nbTextureValues& other) const;
+
+    bool operator==(const nbTextureValues& other) const;
+
+    bool operator!=(const nbTextureValues& other) const { return !(*this == other); }
+};

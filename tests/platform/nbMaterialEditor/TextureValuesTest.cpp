@@ -1,0 +1,292 @@
+// SPDX-License-Identifier: MIT
+#include "tests/platform/nbMaterialEditor/EditorTest.h"
+
+#include <nbOpenSGUtils/nbEdit.h>
+
+using namespace editortest;
+
+namespace {
+
+constexpr const char* kTriplanar = "::changedTriplanarManipulator";
+constexpr const char* kUv = "::changedUVManipulator";
+constexpr const char* kTire = "::changedTireManipulator";
+
+class TextureValuesTest : public EditorTest
+{
+protected:
+    nbTextureValues values() const { return nbTextureValues::of(*settings); }
+
+    void setImage(osg::Int32 width, osg::Int32 height)
+    {
+        const osg::ImagePtr image = osg::Image::create();
+        image->set(osg::Image::OSG_RGB_PF, width, height);
+        material->setImage(kDiffuse, image);
+    }
+};
+
+}  // namespace
+
+// == Messages
+
+TEST_F(TextureValuesTest, TriplanarValuesAreTakenAsTheyComeAndScalesAreReciprocals)
+{
+    send(kTriplanar,
+         { { "YOffset", osg::Vec2f(-0.5f, 0.25f) }, { "ZOffset", osg::Vec2f(1.f, 2.f) } });
+    send(kTriplanar,
+         { { "XScale", osg::Vec2f(0.5f, 4.f) },
+           { "ZScale", osg::Vec2f(-2.f, 0.25f) },
+           { "somethingElse", 1 } });
+    send(kTriplanar, { { "rotate", osg::Vec3f(0.1f, 0.2f, 0.3f) } });
+    send(kTriplanar, { { "rotate", osg::Vec3f(0.4f, 0.5f, 0.6f) } });
+
+    expectNear(values().triplanarOffsetU, { 0.f, -0.5f, 1.f }, "offset u");
+    expectNear(values().triplanarOffsetV, { 0.f, 0.25f, 2.f }, "offset v");
+    expectNear(values().triplanarRepeatU, { 2.f, 1.f, -0.5f }, "repeat u");
+    expectNear(values().triplanarRepeatV, { 0.25f, 1.f, 4.f }, "repeat v");
+    expectNear(values().triplanarRotation, { 0.4f, 0.5f, 0.6f }, "not summed up");
+    EXPECT_EQ(settings->getTextureProjectionType(), Settings::PlanarProjection) << "not switched";
+    EXPECT_EQ(nbController::getModified(), 1);
+    EXPECT_EQ(gui.told, std::vector<std::string>(4, kDiffuse));
+    EXPECT_EQ(steps(), 4);
+    EXPECT_TRUE(log.empty());
+    while (undo->undo()) { }
+    EXPECT_EQ(values(), nbTextureValues());
+}
+
+TEST_F(TextureValuesTest, UvAndTireValuesAreTakenAsTheyCome)
+{
+    send(kUv, { { "offset", osg::Vec2f(0.5f, -3.f) } });
+    send(kUv, { { "rotate", -45.f } });
+    send(kUv, { { "scale", osg::Vec2f(0.25f, -2.f) } });
+    EXPECT_EQ(values().offset, osg::Vec2f(0.5f, -3.f));
+    EXPECT_EQ(values().rotate, -45.f);
+    EXPECT_EQ(values().repeat, osg::Vec2f(4.f, -0.5f));
+    EXPECT_EQ(material->getRepeat(kDiffuse), osg::Vec2f(4.f, -0.5f));
+
+    send(kTire, { { "center", osg::Vec3f(1.f, 2.f, 3.f) } });
+    send(kTire, { { "ScaleHeight", 2.f }, { "ScaleRadius", 3.f }, { "ScaleU", 0.25f } });
+    expectNear(values().tireCenter, { 1.f, 2.f, 3.f }, "centre");
+    EXPECT_EQ(values().tireScaleHeight, 2.f);
+    EXPECT_EQ(values().tireScaleRadius, 3.f);
+    EXPECT_EQ(values().tireScaleU, 0.25f);
+    EXPECT_TRUE(values().tireAutoParameter);
+    send(kTire, { { "autoParameter", true } });
+    EXPECT_EQ(values().tireScaleRadius, 3.f) << "it was automatic before";
+    send(kTire, { { "autoParameter", false } });
+    EXPECT_FALSE(values().tireAutoParameter);
+    {
+        const nbEdit edit(place, osg::Transform3D::PartsFieldMask);
+        place->setRotation(osg::Vec3f(30.f, 30.f, 30.f));
+    }
+    send(kTire, { { "autoParameter", true } });
+    expectNear(values().tireCenter, { 0.f, 0.f, 0.f }, "the box's middle");
+    EXPECT_NEAR(values().tireScaleHeight, 2.f, kTolerance) << "however the box is turned";
+    EXPECT_NEAR(values().tireScaleRadius, 1.f, kTolerance);
+    EXPECT_EQ(values().tireScaleU, 0.25f);
+    EXPECT_TRUE(log.empty());
+}
+
+TEST_F(TextureValuesTest, WrongMessagesLeaveEverythingAndCostOneLine)
+{
+    const osg::Vec2f good(2.f, 2.f);
+    const std::pair<const char*, Attributes> rows[] = {
+        { kTriplanar, {} },
+        { kTriplanar, { { "somethingElse", 1 } } },
+        { kTriplanar, { { "XOffset", good }, { "YOffset", osg::Vec3f() } } },
+        { kTriplanar, { { "XOffset", good }, { "ZOffset", osg::Vec2f(kNaN, 0.f) } } },
+        { kTriplanar, { { "rotate", osg::Vec3f(0.f, kInfinity, 0.f) } } },
+        { kTriplanar, { { "rotate", 1.f } } },
+        { kTriplanar, { { "XScale", good }, { "YScale", osg::Vec2f(0.f, 1.f) } } },
+        { kTriplanar, { { "XScale", osg::Vec2f(kInfinity, 1.f) }, { "YScale", good } } },
+        { kUv, {} },
+        { kUv, { { "offset", osg::Vec2f(0.f, kNaN) } } },
+        { kUv, { { "rotate", kNaN } } },
+        { kUv, { { "rotate", 1.0 } } },
+        { kUv, { { "scale", osg::Vec2f(1.f, 0.f) }, { "offset", good } } },
+        { kUv, { { "scale", osg::Vec2f(-kInfinity, 1.f) } } },
+        { kUv, { { "scale", osg::Vec2f(1e-42f, 1.f) } } },
+        { kUv, { { "scale", osg::Vec2f(3e38f, 1.f) } } },
+        { kTire, {} },
+        { kTire, { { "center", osg::Pnt3f() } } },
+        { kTire, { { "ScaleHeight", 2.f }, { "ScaleRadius", 0.f } } },
+        { kTire, { { "ScaleHeight", kInfinity }, { "ScaleU", 2.f } } },
+        { kTire, { { "autoParameter", 1 }, { "ScaleU", 2.f } } },
+    };
+    const nbTextureValues before = values();
+    for (const auto& [message, attributes] : rows) {
+        log.clear();
+        send(message, attributes);
+        EXPECT_EQ(log.size(), 1u) << message << testing::PrintToString(log);
+        EXPECT_EQ(values(), before) << message << testing::PrintToString(log);
+    }
+    log.clear();
+    material->setComponentSettings(kDiffuse, osg::NullFC);
+    send(kUv, { { "offset", good } });
+    send(kTire, { { "ScaleU", 2.f } });
+    EXPECT_EQ(log.size(), 2u) << "no settings";
+    EXPECT_EQ(nbController::getModified(), 0);
+    EXPECT_EQ(steps(), 0);
+    EXPECT_TRUE(gui.told.empty());
+}
+
+TEST_F(TextureValuesTest, ADragIsOneStepAndNoneWhenItEndsWhereItBegan)
+{
+    // One whose reciprocal's reciprocal is another one.
+    float repeat = 1.5f;
+    while (1.f / (1.f / repeat) == repeat) {
+        repeat += 0.37f;
+    }
+    settings->setRepeat(osg::Vec2f(repeat, 1.f));
+    const float scale = 1.f / repeat;
+
+    undo->beginGroup();
+    for (int i = 1; i <= 10; ++i) {
+        send(kUv, { { "scale", osg::Vec2f(scale * static_cast<float>(i), 1.f) } });
+    }
+    undo->endGroup();
+    EXPECT_EQ(steps(), 1);
+    const nbTextureValues after = values();
+    ASSERT_TRUE(undo->undo());
+    EXPECT_EQ(values().repeat.x(), repeat);
+    ASSERT_TRUE(undo->redo());
+    EXPECT_EQ(values(), after);
+    ASSERT_TRUE(undo->undo());
+    undo->clear();
+
+    undo->beginGroup();
+    send(kUv, { { "scale", osg::Vec2f(0.5f, 0.5f) } });
+    send(kUv, { { "scale", osg::Vec2f(scale, 1.f) } });
+    undo->endGroup();
+    EXPECT_EQ(values().repeat.x(), repeat) << "the very repeat that it was";
+    EXPECT_EQ(steps(), 0);
+
+    undo->beginGroup();
+    send(kUv, { { "offset", osg::Vec2f(1.f, 0.f) } });
+    send(kTriplanar, { { "rotate", osg::Vec3f(1.f, 0.f, 0.f) } });
+    send("::changedPlanarManipulator", { { "clamping", true } });
+    undo->endGroup();
+    undo->beginGroup();
+    send(kUv, { { "offset", osg::Vec2f(2.f, 0.f) } });
+    undo->endGroup();
+    EXPECT_EQ(steps(), 2);
+    ASSERT_TRUE(undo->undo());
+    EXPECT_EQ(values().offset, osg::Vec2f(1.f, 0.f));
+    ASSERT_TRUE(undo->undo());
+    EXPECT_EQ(values(), [repeat] {
+        nbTextureValues start;
+        start.repeat = osg::Vec2f(repeat, 1.f);
+        return start;
+    }());
+    EXPECT_FALSE(settings->hasPlanarProjectionFlag(Settings::ClampZ));
+
+    undo->beginGroup();
+    send(kUv, { { "offset", osg::Vec2f(5.f, 0.f) } });
+    undo->cancelGroup();
+    EXPECT_EQ(values().offset, osg::Vec2f(0.f, 0.f)) << "taken back";
+}
+
+// == Edits by panels
+
+TEST_F(TextureValuesTest, SwitchingTheProjectionFitsWhatWasNeverUsed)
+{
+    setImage(20, 10);
+    object = root.get();
+    editor->setMaterial(material.get(), object, kDiffuse);
+    {
+        const nbEdit edit(place, osg::Transform3D::PartsFieldMask);
+        place->setScale(osg::Vec3f(2.f, 1.f, 1.f));
+        place->setRotation(osg::Vec3f(0.f, 0.f, 45.f));
+    }
+    ASSERT_TRUE(editor->setTextureProjectionType(Settings::TriplanarProjection));
+    // Pictures 2 units high (half of 4) and 4 units wide.
+    expectNear(values().triplanarRepeatU, { 25.f, 25.f, 25.f }, "u");
+    expectNear(values().triplanarRepeatV, { 50.f, 50.f, 50.f }, "v");
+    EXPECT_EQ(steps(), 1);
+    ASSERT_TRUE(editor->setTextureProjectionType(Settings::UVProjection));
+    EXPECT_EQ(values().repeat, osg::Vec2f(1.f, 1.f));
+    ASSERT_TRUE(editor->setTextureProjectionType(Settings::TireProjection));
+    EXPECT_EQ(settings->getTextureProjectionType(), Settings::TireProjection);
+    EXPECT_NEAR(values().tireScaleHeight, 2.f, kTolerance) << "in the object's own space";
+    EXPECT_NEAR(values().tireScaleRadius, 1.f, kTolerance);
+
+    send(kTriplanar, { { "XScale", osg::Vec2f(0.5f, 0.5f) } });
+    ASSERT_TRUE(editor->setTextureProjectionType(Settings::TriplanarProjection));
+    EXPECT_EQ(values().triplanarRepeatU[0], 2.f) << "what was used stays";
+    EXPECT_TRUE(editor->setTextureProjectionType(Settings::TriplanarProjection));
+    EXPECT_EQ(steps(), 5) << "nothing new";
+    EXPECT_FALSE(editor->setTextureProjectionType(4));
+    EXPECT_FALSE(editor->setTextureProjectionType(-1));
+    while (undo->undo()) { }
+    EXPECT_EQ(settings->getTextureProjectionType(), Settings::PlanarProjection);
+    EXPECT_EQ(values(), nbTextureValues());
+
+    settings->setPlanarProjection(osg::NullFC);
+    ASSERT_TRUE(editor->setTextureProjectionType(Settings::PlanarProjection));
+    EXPECT_TRUE(editor->getProjection() != osg::NullFC);
+    material->setComponentSettings(kDiffuse, osg::NullFC);
+    EXPECT_FALSE(editor->setTextureProjectionType(Settings::UVProjection)) << "no settings";
+}
+
+TEST_F(TextureValuesTest, ValuesAreWrittenWithUndoUnlessTheyAreUnsound)
+{
+    nbTextureValues wanted;
+    wanted.offset = osg::Vec2f(1.f, 2.f);
+    wanted.triplanarRotation = osg::Vec3f(1.f, 2.f, 3.f);
+    wanted.tireScaleU = 0.5f;
+    wanted.tireAutoParameter = false;
+    ASSERT_TRUE(editor->setTextureValues(wanted));
+    EXPECT_EQ(values(), wanted);
+    nbTextureValues unsound = wanted;
+    unsound.repeat[1] = 0.f;
+    EXPECT_FALSE(editor->setTextureValues(unsound));
+    unsound = wanted;
+    unsound.triplanarOffsetV[2] = kNaN;
+    EXPECT_FALSE(editor->setTextureValues(unsound));
+    EXPECT_EQ(values(), wanted);
+    EXPECT_EQ(steps(), 1);
+
+    wanted.tireAutoParameter = true;
+    wanted.tireScaleRadius = 17.f;
+    ASSERT_TRUE(editor->setTextureValues(wanted));
+    EXPECT_EQ(values().tireScaleRadius, 1.f) << "fitted";
+    while (undo->undo()) { }
+    EXPECT_EQ(values(), nbTextureValues());
+}
+
+// == Editor objects
+
+TEST_F(TextureValuesTest, TheEditorsObjectDeliversTheValuesAsTheyAre)
+{
+    const nbStateChunkBase* const chunk = editor->getStateChunk();
+    nbTextureValues shown;
+    shown.offset = osg::Vec2f(1.f, 2.f);
+    shown.repeat = osg::Vec2f(3.f, 4.f);
+    shown.rotate = 5.f;
+    shown.triplanarRotation = osg::Vec3f(6.f, 7.f, 8.f);
+    shown.triplanarOffsetU = osg::Vec3f(9.f, 10.f, 11.f);
+    shown.triplanarOffsetV = osg::Vec3f(12.f, 13.f, 14.f);
+    shown.triplanarRepeatU = osg::Vec3f(15.f, 16.f, 17.f);
+    shown.triplanarRepeatV = osg::Vec3f(18.f, 19.f, 20.f);
+    shown.tireCenter = osg::Vec3f(21.f, 22.f, 23.f);
+    shown.tireScaleU = 24.f;
+    shown.tireScaleHeight = 25.f;
+    shown.tireScaleRadius = 26.f;
+    shown.applyTo(settings.get());
+
+    ASSERT_TRUE(chunk->hasComponent(kDiffuse));
+    EXPECT_FALSE(chunk->hasComponent("bump"));
+    EXPECT_EQ(chunk->getOffset(kDiffuse), shown.offset);
+    EXPECT_EQ(chunk->getRepeat(kDiffuse), shown.repeat);
+    EXPECT_EQ(chunk->getRotate(kDiffuse), 5.f);
+    EXPECT_EQ(chunk->getTriplanarRotation(kDiffuse), shown.triplanarRotation);
+    EXPECT_EQ(chunk->getTriplanarOffset(kDiffuse, 1), osg::Vec2f(10.f, 13.f));
+    EXPECT_EQ(chunk->getTriplanarRepeat(kDiffuse, 2), osg::Vec2f(17.f, 20.f));
+    EXPECT_EQ(chunk->getTireCenter(kDiffuse), shown.tireCenter);
+    EXPECT_EQ(chunk->getTireScaleU(kDiffuse), 24.f);
+    EXPECT_EQ(chunk->getTireScaleHeight(kDiffuse), 25.f);
+    EXPECT_EQ(chunk->getTireScaleRadius(kDiffuse), 26.f);
+    EXPECT_EQ(chunk->getTriplanarRepeat("bump", 0), osg::Vec2f(1.f, 1.f)) << "a fresh one's";
+    editor->setMaterial(osg::NullFC, object, kDiffuse);
+    EXPECT_FALSE(chunk->hasComponent(kDiffuse));
+    EXPECT_FALSE(gui.hasComponent(kDiffuse));
+}

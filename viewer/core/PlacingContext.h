@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "viewer/core/DragGroup.h"
+
+#include <nbInteraction/ToolInteractionContext.h>
+
+#include <functional>
+
+namespace viewer {
+
+/// The context of a tool that places by clicks: everything from press to release becomes one undo
+/// step. Or that of clicks which place handles, which is no edit.
+class PlacingContext : public nbec::interaction::ToolInteractionContext
+{
+public:
+    bool triggerEvent(nbec::interaction::InteractionManager* manager,
+                      const nbec::interaction::InteractionEvent& event) override;
+
+    /// Places handles at a pixel. @return whether there is a place for them
+    using Anchoring = std::function<bool(const osg::Pnt2f& px)>;
+
+    /// Has clicks place handles; empty: they go to the tool.
+    void setAnchoring(Anchoring newAnchoring);
+
+private:
+    DragGroup group;
+    Anchoring anchoring;
+};
+
+}  // namespace viewer
