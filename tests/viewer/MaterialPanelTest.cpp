@@ -11,6 +11,7 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QComboBox>
 #include <QDockWidget>
 #include <QDoubleSpinBox>
 #include <QDropEvent>
@@ -18,6 +19,7 @@
 #include <QLabel>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QSlider>
 #include <QUndoStack>
 #include <QUrl>
 
@@ -217,6 +219,64 @@ TEST_F(MaterialPanelTest, TypedNumbersMoveThePictureAloneAndAreOneStepEach)
     EXPECT_EQ(nbUndoService::the()->getStack()->index(), steps + 1);
     EXPECT_TRUE(stage().undo());
     EXPECT_NE(boxes[0]->value(), 0.25);
+    EXPECT_EQ(problems, QStringList());
+}
+
+TEST_F(MaterialPanelTest, TheProjectionIsSwitchedTypedAndDraggedAroundAClickedPlace)
+{
+    drop(kLabel, "Column");
+    auto* const projection = find<QComboBox>("texture.projection");
+    EXPECT_EQ(projection->currentData().toString(), "planar");
+    EXPECT_TRUE(find<QWidget>("texture.scale")->isVisible());
+    EXPECT_FALSE(find<QAbstractButton>("texture-rotateScale")->isEnabled());
+
+    projection->setFocus();
+    while (projection->currentData().toString() != "triplanar") {
+        QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
+        QCoreApplication::sendEvent(projection, &down);
+    }
+    waitForQuiet();
+    EXPECT_EQ(value("texture.projection"), QJsonValue("triplanar"));
+    EXPECT_FALSE(find<QWidget>("texture.scale")->isVisible());
+    EXPECT_TRUE(find<QWidget>("texture.triplanarRepeatU")->isVisible());
+    EXPECT_FALSE(find<QAbstractButton>("texture-scale")->isEnabled());
+    EXPECT_TRUE(find<QAbstractButton>("texture-rotateScale")->isEnabled());
+
+    find<QAbstractButton>("texture-place")->click();
+    const osg::Pnt2f place = px + osg::Vec2f(5, 40);
+    mouse(QEvent::MouseButtonPress, place, Qt::LeftButton, Qt::LeftButton);
+    mouse(QEvent::MouseButtonRelease, place, Qt::LeftButton, Qt::NoButton);
+    waitForQuiet();
+    EXPECT_EQ(stage().handleAt(place), "grid");
+    EXPECT_TRUE(find<QAbstractButton>("texture-universal")->isChecked());
+
+    const QList<QDoubleSpinBox*> boxes =
+        find<VectorEdit>("texture.triplanarOffsetV")->findChildren<QDoubleSpinBox*>();
+    SessionTarget target;
+    target.kind = SessionTarget::Kind::Handle;
+    target.name = QStringLiteral("yaShape");
+    QString error;
+    osg::Pnt2f at;
+    ASSERT_TRUE(resolveTarget(target, stage(), at, error)) << error.toStdString();
+    mouse(QEvent::MouseMove, at, Qt::NoButton, Qt::NoButton);
+    mouse(QEvent::MouseButtonPress, at, Qt::LeftButton, Qt::LeftButton);
+    mouse(QEvent::MouseMove, at + osg::Vec2f(0, -20), Qt::NoButton, Qt::LeftButton);
+    mouse(QEvent::MouseMove, at + osg::Vec2f(0, -40), Qt::NoButton, Qt::LeftButton);
+    EXPECT_EQ(value("texture.preview"), QJsonValue(false));
+    mouse(QEvent::MouseButtonRelease, at + osg::Vec2f(0, -40), Qt::LeftButton, Qt::NoButton);
+    waitForQuiet();
+    EXPECT_LT(boxes[2]->value(), -0.001) << "the picture went up along z";
+    EXPECT_EQ(boxes[0]->value(), 0.0);
+
+    boxes[2]->setFocus();
+    boxes[2]->selectAll();
+    type(boxes[2], "0.00123");
+    EXPECT_NEAR(value("texture.triplanarOffsetV").toArray().at(2).toDouble(), 0.00123, 1e-7);
+    find<QSlider>("texture.handleSize")->setValue(60);
+    EXPECT_EQ(value("texture.handleSize"), QJsonValue(90));
+    find<QSlider>("texture.handleSize")->setValue(21);
+    while (stage().undo()) { }
+    EXPECT_EQ(projection->currentData().toString(), "planar");
     EXPECT_EQ(problems, QStringList());
 }
 

@@ -6,6 +6,7 @@
 #include <nbInteraction/ToolInteractionContext.h>
 
 #include <functional>
+#include <string>
 
 namespace viewer {
 
@@ -21,11 +22,16 @@ public:
     using Anchoring = std::function<bool(const osg::Pnt2f& px)>;
 
     /// Has clicks place handles; empty: they go to the tool.
-    void setAnchoring(Anchoring newAnchoring);
+    /// @param whenPlaced  called when the button was let go after that
+    void setAnchoring(Anchoring newAnchoring, std::function<void()> whenPlaced);
 
 private:
+    bool anchor(const nbec::interaction::InteractionManager* manager, const std::string& event);
+
     DragGroup group;
     Anchoring anchoring;
+    std::function<void()> anchored;
+    bool isAnchored = false;
 };
 
 }  // namespace viewer

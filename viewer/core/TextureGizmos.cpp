@@ -145,6 +145,12 @@ void TextureGizmos::place()
     kind().place();
 }
 
+void TextureGizmos::update()
+{
+    // Those of a tire are where its values say, which nothing else tells them.
+    current().update(type == Settings::TireProjection);
+}
+
 TextureGizmos::Size TextureGizmos::size() const
 {
     return { kind().leastSize, kind().mostSize, kind().size() };

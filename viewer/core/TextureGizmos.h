@@ -66,6 +66,8 @@ public:
 
     /// Places the handles of the gizmo in use anew.
     void place();
+    /// The same after an edit, as far as it matters to them.
+    void update();
 
     Size size() const;
     /// @param size  from least to most

@@ -335,10 +335,8 @@ void TextureTool::takePointer()
             textureTarget.projectionType() == TextureTarget::Settings::PlanarProjection;
         placingContext.setTool(isPicture ? &placingTool : nullptr);
         if (!isPicture) {
-            placingContext.setAnchoring([this](const osg::Pnt2f& px) {
-                anchored = setAnchor(px);
-                return anchored;
-            });
+            placingContext.setAnchoring([this](const osg::Pnt2f& px) { return setAnchor(px); },
+                                        [this] { setPlacing(false); });
             stage.view().setCursor(Qt::CrossCursor);
         }
         manager.addContext(&placingContext);
@@ -356,7 +354,7 @@ void TextureTool::leavePointer()
     manager.removeContext(&handleContext);
     manager.removeContext(&placingContext);
     placingContext.setTool(nullptr);
-    placingContext.setAnchoring(nullptr);
+    placingContext.setAnchoring(nullptr, nullptr);
     if (placing) {
         stage.view().setCursor(Qt::ArrowCursor);
     }
@@ -403,14 +401,10 @@ void TextureTool::viewChanged()
 
 void TextureTool::update()
 {
-    if (anchored && !stage.isDragging()) {
-        anchored = false;
-        setPlacing(false);
-    }
     // Undo and edits of others reach the display, too.
     if (active && osg::glue::editStamp() != shownStamp) {
         connect();
-        gizmos.current().update(false);
+        gizmos.update();
         showInScene();
         shownStamp = osg::glue::editStamp();
     }

@@ -160,7 +160,6 @@ private:
     std::string shownGroup = "universal";
     bool active = false;
     bool placing = false;
-    bool anchored = false;  ///< a click has just placed the handles
     bool projectionShown = true;
     bool depthShown = true;
     osg::UInt64 shownStamp = 0;

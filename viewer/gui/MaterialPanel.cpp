@@ -25,25 +25,72 @@ namespace viewer {
 namespace {
 
 constexpr int kDecimals = 3;
-constexpr double kRounding = 0.5001e-3;  ///< by which a shown number may differ
+constexpr int kFineDecimals = 5;  ///< of hundreds of units
+constexpr double kHalfOfLast = 0.5001;  ///< by which the last shown decimal may differ
 constexpr double kMostUnits = 1e6;
 constexpr double kLeastScale = 1e-3;
 constexpr double kPercent = 100.0;
 
-struct VectorRow
+/// What numbers are named by.
+enum class Naming
 {
-    const char* command;
-    const char* label;
-    double least;
-    double step;
+    Axes,
+    Picture,  ///< u and v
+    None  ///< one number
 };
 
-constexpr VectorRow kVectorRows[] = {
-    { "texture.translation", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Place"), -kMostUnits,
-      0.05 },
-    { "texture.rotation", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Turn, °"), -kMostUnits, 5.0 },
-    { "texture.scale", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Half size"), kLeastScale, 0.05 },
+/// Numbers of a projection that a person can type.
+struct ValueRow
+{
+    const char* projection;
+    const char* command;
+    const char* label;
+    Naming naming;
+    double step;
+    double least = -kMostUnits;
+    int decimals = kDecimals;
 };
+
+constexpr ValueRow kValueRows[] = {
+    { "planar", "texture.translation", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Place"),
+      Naming::Axes, 0.05 },
+    { "planar", "texture.rotation", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Turn, °"),
+      Naming::Axes, 5.0 },
+    { "planar", "texture.scale", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Half size"),
+      Naming::Axes, 0.05, kLeastScale },
+    { "uv", "texture.uvOffset", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Offset"),
+      Naming::Picture, 0.05 },
+    { "uv", "texture.uvRotate", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Turn, °"), Naming::None,
+      5.0 },
+    { "uv", "texture.uvRepeat", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Repeat"),
+      Naming::Picture, 0.5 },
+    { "triplanar", "texture.triplanarRotation",
+      QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Turn, °"), Naming::Axes, 5.0 },
+    { "triplanar", "texture.triplanarOffsetU",
+      QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Offset across"), Naming::Axes, 0.001, -kMostUnits,
+      kFineDecimals },
+    { "triplanar", "texture.triplanarOffsetV",
+      QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Offset upwards"), Naming::Axes, 0.001,
+      -kMostUnits, kFineDecimals },
+    { "triplanar", "texture.triplanarRepeatU",
+      QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Repeat across"), Naming::Axes, 5.0 },
+    { "triplanar", "texture.triplanarRepeatV",
+      QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Repeat upwards"), Naming::Axes, 5.0 },
+    { "tire", "texture.tireCenter", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Centre"),
+      Naming::Axes, 0.05 },
+    { "tire", "texture.tireHeight", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Width of tread"),
+      Naming::None, 0.05 },
+    { "tire", "texture.tireRadius", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Radius"),
+      Naming::None, 0.05 },
+    { "tire", "texture.tireScaleU", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Part around"),
+      Naming::None, 0.05 },
+};
+
+/// The numbers of a value: those of an array, or one.
+QJsonArray numbersOf(const QJsonValue& value)
+{
+    return value.isDouble() ? QJsonArray { value } : value.toArray();
+}
 
 QString textOfFile(const QString& name)
 {
@@ -94,12 +141,12 @@ MaterialPanel::MaterialPanel(Stage& targetStage, QWidget* parent)
     rows->addWidget(projectionContent);
     auto* projectionRows = new QVBoxLayout(projectionContent);
     projectionRows->setContentsMargins(0, 0, 0, 0);
-    addHandleRow(*projectionRows);
-    auto* projectionForm = new QFormLayout;
-    projectionRows->addLayout(projectionForm);
-    addProjectionRows(*projectionForm);
-    addSwitches(*projectionRows);
-    addSceneRows(*projectionRows);
+    addProjectionRow(*projectionRows);
+    addHandleRows(*projectionRows);
+    for (const char* word : { "planar", "uv", "triplanar", "tire" }) {
+        addValueRows(*projectionRows, word);
+    }
+    addCoverageRow(*projectionRows);
     tool.preview().setRefreshCallback([this] { refreshPicture(); });
     refresh();
 }
@@ -153,7 +200,23 @@ QAbstractButton* MaterialPanel::addHandleButton(QBoxLayout& row, const char* gro
     return button;
 }
 
-void MaterialPanel::addHandleRow(QBoxLayout& column)
+void MaterialPanel::addProjectionRow(QBoxLayout& column)
+{
+    projection = new QComboBox(this);
+    projection->setObjectName(QStringLiteral("texture.projection"));
+    projection->addItem(tr("From one side"), QStringLiteral("planar"));
+    projection->addItem(tr("Texture coordinates"), QStringLiteral("uv"));
+    projection->addItem(tr("From three sides"), QStringLiteral("triplanar"));
+    projection->addItem(tr("Around a tire"), QStringLiteral("tire"));
+    connect(projection, QOverload<int>::of(&QComboBox::activated), this, [this] {
+        run(QStringLiteral("texture.projection"), projection->currentData().toString());
+    });
+    auto* form = new QFormLayout;
+    form->addRow(tr("Projection"), projection);
+    column.addLayout(form);
+}
+
+void MaterialPanel::addHandleRows(QBoxLayout& column)
 {
     handleButtons = new QButtonGroup(this);
     auto* row = new QHBoxLayout;
@@ -162,6 +225,7 @@ void MaterialPanel::addHandleRow(QBoxLayout& column)
     const std::pair<const char*, QString> groups[] = { { "translate", tr("Move") },
                                                        { "rotate", tr("Turn") },
                                                        { "scale", tr("Scale") },
+                                                       { "rotateScale", tr("Turn + scale") },
                                                        { "universal", tr("All") } };
     for (const auto& [group, label] : groups) {
         QAbstractButton* button = addHandleButton(*row, group, label);
@@ -169,25 +233,63 @@ void MaterialPanel::addHandleRow(QBoxLayout& column)
             run(QStringLiteral("texture.handles"), word);
         });
     }
-    QAbstractButton* place = addHandleButton(*row, "place", tr("Place by click"));
+    auto* form = new QFormLayout;
+    column.addLayout(form);
+    auto* placeRow = new QHBoxLayout;
+    QAbstractButton* place = addHandleButton(*placeRow, "place", tr("By click"));
+    place->setToolTip(tr("Clicks on the object place the picture, or its handles"));
     connect(place, &QAbstractButton::clicked, this,
             [this] { run(QStringLiteral("texture.place"), true); });
+    form->addRow(tr("Placing"), placeRow);
+    handleSize = new QSlider(Qt::Horizontal, this);
+    handleSize->setObjectName(QStringLiteral("texture.handleSize"));
+    handleSize->setRange(0, static_cast<int>(kPercent));
+    connect(handleSize, &QSlider::valueChanged, this, [this](int percent) {
+        const TextureGizmos::Size size = tool.handleSize();
+        run(QStringLiteral("texture.handleSize"),
+            static_cast<double>(size.least) +
+                static_cast<double>(size.most - size.least) * percent / kPercent);
+    });
+    form->addRow(tr("Handle size"), handleSize);
 }
 
-void MaterialPanel::addProjectionRows(QFormLayout& form)
+void MaterialPanel::addValueRows(QBoxLayout& column, const char* word)
 {
-    for (const VectorRow& row : kVectorRows) {
+    auto* rows = new QWidget(this);
+    column.addWidget(rows);
+    valueRows[QLatin1String(word)] = rows;
+    auto* itsColumn = new QVBoxLayout(rows);
+    itsColumn->setContentsMargins(0, 0, 0, 0);
+    auto* form = new QFormLayout;
+    itsColumn->addLayout(form);
+    for (const ValueRow& row : kValueRows) {
+        if (QLatin1String(row.projection) != QLatin1String(word)) {
+            continue;
+        }
         VectorEdit::Style style;
         style.step = row.step;
         style.least = row.least;
-        style.decimals = kDecimals;
-        auto* edit = new VectorEdit({ tr("X"), tr("Y"), tr("Z") }, style, this);
+        style.decimals = row.decimals;
+        const QString label = tr(row.label);
+        const QStringList names = row.naming == Naming::Axes ? QStringList { "X", "Y", "Z" }
+            : row.naming == Naming::Picture                  ? QStringList { "U", "V" }
+                                                             : QStringList { label };
+        auto* edit = new VectorEdit(names, style, rows);
         const QString command = QString::fromLatin1(row.command);
         edit->setObjectName(command);
+        const double rounding = kHalfOfLast * std::pow(10.0, -row.decimals);
         connect(edit, &VectorEdit::edited, this,
-                [this, command](const QJsonArray& values) { runVector(command, values); });
-        form.addRow(tr(row.label), edit);
+                [this, command, rounding](const QJsonArray& values) {
+                    runNumbers(command, values, rounding);
+                });
+        form->addRow(label, edit);
         vectors[command] = edit;
+    }
+    if (QLatin1String(word) == QLatin1String("planar")) {
+        addSwitches(*itsColumn);
+        addSceneRows(*itsColumn);
+    } else if (QLatin1String(word) == QLatin1String("tire")) {
+        addSwitch(*itsColumn, "texture.tireFit", tr("Fit to the object"));
     }
 }
 
@@ -203,12 +305,11 @@ void MaterialPanel::addSwitch(QBoxLayout& row, const char* command, const QStrin
 
 void MaterialPanel::addSwitches(QBoxLayout& column)
 {
-    const std::array<std::array<std::pair<const char*, QString>, 2>, 3> rows { {
+    const std::array<std::array<std::pair<const char*, QString>, 2>, 2> rows { {
         { { { "texture.keepAspect", tr("Keep aspect") },
             { "texture.endInDepth", tr("End in depth") } } },
         { { { "texture.repeatU", tr("Repeat across") },
             { "texture.repeatV", tr("Repeat upwards") } } },
-        { { { "texture.mask", tr("Picture is a mask") }, { "texture.invert", tr("Invert") } } },
     } };
     auto* grid = new QHBoxLayout;
     column.addLayout(grid);
@@ -219,6 +320,14 @@ void MaterialPanel::addSwitches(QBoxLayout& column)
             addSwitch(*half, row[side].first, row[side].second);
         }
     }
+}
+
+void MaterialPanel::addCoverageRow(QBoxLayout& column)
+{
+    auto* row = new QHBoxLayout;
+    column.addLayout(row);
+    addSwitch(*row, "texture.mask", tr("Picture is a mask"));
+    addSwitch(*row, "texture.invert", tr("Invert"));
 }
 
 void MaterialPanel::addSceneRows(QBoxLayout& column)
@@ -250,17 +359,18 @@ void MaterialPanel::askForPicture()
     }
 }
 
-void MaterialPanel::runVector(const QString& command, const QJsonArray& edited)
+void MaterialPanel::runNumbers(const QString& command, const QJsonArray& edited, double rounding)
 {
     // The rows show rounded numbers: those that a person did not change stay what they are.
-    QJsonArray value = stage().commands().value(command).value_or(QJsonValue()).toArray();
-    for (int i = 0; i < value.size(); ++i) {
-        const double change = std::abs(edited.at(i).toDouble() - value.at(i).toDouble());
-        if (change > kRounding) {
-            value.replace(i, edited.at(i));
+    const QJsonValue present = stage().commands().value(command).value_or(QJsonValue());
+    QJsonArray numbers = numbersOf(present);
+    for (int i = 0; i < numbers.size(); ++i) {
+        const double change = std::abs(edited.at(i).toDouble() - numbers.at(i).toDouble());
+        if (change > rounding) {
+            numbers.replace(i, edited.at(i));
         }
     }
-    run(command, value);
+    run(command, present.isDouble() ? numbers.first() : QJsonValue(numbers));
 }
 
 // == What there is
@@ -275,7 +385,7 @@ void MaterialPanel::refresh()
                              .toString();
     displayText(hint, hindrance.isEmpty() ? tr("On \"%1\"").arg(name) : hindrance);
     content->setEnabled(hindrance.isEmpty());
-    projectionContent->setEnabled(tool.target().projection() != osg::NullFC);
+    projectionContent->setEnabled(tool.target().settings() != osg::NullFC);
     refreshRows();
     picture->setPaused(tool.preview().isPaused());
     if (isPictureOld && isVisible()) {
@@ -292,7 +402,7 @@ void MaterialPanel::refreshRows()
     displayText(fileName, textOfFile(pictureName(image)));
     removeButton->setEnabled(image != osg::NullFC);
     for (auto row = vectors.begin(); row != vectors.end(); ++row) {
-        row.value()->display(values.value(row.key()).value_or(QJsonValue()).toArray());
+        row.value()->display(numbersOf(values.value(row.key()).value_or(QJsonValue())));
     }
     for (auto row = switches.begin(); row != switches.end(); ++row) {
         row.value()->setChecked(values.value(row.key()).value_or(QJsonValue()).toBool());
@@ -302,11 +412,33 @@ void MaterialPanel::refreshRows()
         : values.value(QStringLiteral("texture.handles")).value_or(QJsonValue()).toString();
     handleButtons->setExclusive(false);
     for (QAbstractButton* button : handleButtons->buttons()) {
+        const std::string group =
+            button->objectName().mid(QStringLiteral("texture-").size()).toStdString();
+        button->setEnabled(group == "place" || tool.hasGroup(group));
         button->setChecked(button->objectName() == QStringLiteral("texture-") + shown);
     }
     handleButtons->setExclusive(true);
+    refreshProjection();
     const QSignalBlocker blocker(transparency);
     transparency->setValue(qRound(static_cast<double>(tool.planeTransparency()) * kPercent));
+}
+
+void MaterialPanel::refreshProjection()
+{
+    const QString known = stage()
+                              .commands()
+                              .value(QStringLiteral("texture.projection"))
+                              .value_or(QJsonValue())
+                              .toString();
+    const QString shown = known.isEmpty() ? QStringLiteral("planar") : known;
+    projection->setCurrentIndex(projection->findData(shown));
+    for (auto rows = valueRows.begin(); rows != valueRows.end(); ++rows) {
+        rows.value()->setVisible(rows.key() == shown);
+    }
+    const TextureGizmos::Size size = tool.handleSize();
+    const QSignalBlocker blocker(handleSize);
+    handleSize->setValue(qRound(
+        static_cast<double>((size.present - size.least) / (size.most - size.least)) * kPercent));
 }
 
 void MaterialPanel::refreshPicture()

@@ -37,16 +37,21 @@ public:
 
 private:
     void addPictureRows(QFormLayout& form);
-    void addHandleRow(QBoxLayout& column);
-    void addProjectionRows(QFormLayout& form);
+    void addProjectionRow(QBoxLayout& column);
+    void addHandleRows(QBoxLayout& column);
+    /// Rows of one projection, by its word in commands.
+    void addValueRows(QBoxLayout& column, const char* word);
+    void addCoverageRow(QBoxLayout& column);
     void addSwitches(QBoxLayout& column);
     void addSceneRows(QBoxLayout& column);
     void addSwitch(QBoxLayout& row, const char* command, const QString& label);
     QAbstractButton* addHandleButton(QBoxLayout& row, const char* group, const QString& label);
 
     void askForPicture();
-    void runVector(const QString& command, const QJsonArray& edited);
+    /// @param rounding  by which shown numbers may differ from what they show
+    void runNumbers(const QString& command, const QJsonArray& edited, double rounding);
     void refreshRows();
+    void refreshProjection();
     void refreshPicture();
 
     TextureTool tool;
@@ -60,6 +65,9 @@ private:
     QLabel* fileName = nullptr;
     QAbstractButton* removeButton = nullptr;
     QButtonGroup* handleButtons = nullptr;
+    QComboBox* projection = nullptr;
+    QSlider* handleSize = nullptr;
+    QMap<QString, QWidget*> valueRows;  ///< by the word of their projection
     QMap<QString, VectorEdit*> vectors;  ///< by their commands
     QMap<QString, QAbstractButton*> switches;  ///< by their commands
     QSlider* transparency = nullptr;

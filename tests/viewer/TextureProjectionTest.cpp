@@ -1,0 +1,287 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/core/SceneBuilder.h"
+
+#include "support/TextureTest.h"
+
+namespace viewer {
+namespace {
+
+using Settings = TextureTarget::Settings;
+
+/// A picture on the column of the start scene.
+class TextureProjectionTest : public TextureTest
+{
+protected:
+    TextureProjectionTest()
+    {
+        stage.selectByName("Column");
+        EXPECT_TRUE(run("texture.picture", kLabel));
+    }
+
+    osg::Pnt2f project(const osg::Pnt3f& world)
+    {
+        osg::Pnt2f px;
+        EXPECT_TRUE(nbCameraNavigation::project(stage.pose(), world, view.getWidth(),
+                                                view.getHeight(), px));
+        return px;
+    }
+
+    void drag(const osg::Pnt2f& from, const osg::Pnt2f& to)
+    {
+        ASSERT_TRUE(send("start", from));
+        send("process", from + (to - from) * 0.5F);
+        send("process", to);
+        send("stop", to);
+    }
+
+    /// Where the projection along z looks the picture up for a world point.
+    osg::Vec2f lookUpAlongZ(const osg::Pnt3f& world)
+    {
+        const osg::Matrix toWorld = tool.target().surface()->getToWorld();
+        osg::Matrix fromWorld;
+        toWorld.inverse(fromWorld);
+        osg::Pnt3f place = world;
+        fromWorld.multMatrixPnt(place);
+        const nbTextureValues values = tool.target().values();
+        osg::Vec2f found;
+        for (osg::UInt32 i = 0; i < 2; ++i) {
+            const float length = osg::Vec3f(toWorld[i][0], toWorld[i][1], toWorld[i][2]).length();
+            const float offset = (i == 0 ? values.triplanarOffsetU : values.triplanarOffsetV)[2];
+            const float repeat = (i == 0 ? values.triplanarRepeatU : values.triplanarRepeatV)[2];
+            found[i] = (place[i] * length / 100.F + offset) * repeat;
+        }
+        return found;
+    }
+};
+
+TEST_F(TextureProjectionTest, SwitchingShowsTheHandlesOfTheProjectionAndIsOneStep)
+{
+    const struct
+    {
+        const char* projection;
+        const char* handle;
+        const char* missingGroup;
+    } rows[] = {
+        { "triplanar", "ryShape", "scale" },
+        { "uv", "rotateShape", "bend" },
+        { "tire", "radiusRingShape", "rotate" },
+        { "planar", "scaleXYURShape", "rotateScale" },
+    };
+
+    int expected = steps();
+    for (const auto& row : rows) {
+        ASSERT_TRUE(run("texture.handles", tool.hasGroup("rotate") ? "rotate" : "universal"));
+        ASSERT_TRUE(run("texture.projection", row.projection));
+        EXPECT_EQ(value("texture.projection"), QJsonValue(row.projection));
+        EXPECT_EQ(steps(), ++expected) << row.projection;
+        EXPECT_FALSE(run("texture.handles", row.missingGroup));
+        ASSERT_TRUE(run("texture.handles", "universal"));
+        stage.update();
+        const osg::Pnt2f px = placeOf(SessionTarget::Kind::Handle, row.handle);
+        EXPECT_EQ(stage.handleAt(px), row.handle);
+    }
+    ASSERT_TRUE(stage.undo());
+    stage.update();
+    EXPECT_EQ(value("texture.projection"), QJsonValue("tire"));
+    EXPECT_EQ(stage.handleAt(placeOf(SessionTarget::Kind::Handle, "heightShape")), "heightShape");
+    ASSERT_TRUE(run("texture.projection", "tire"));
+    EXPECT_EQ(steps(), expected - 1) << "no other projection";
+}
+
+TEST_F(TextureProjectionTest, AnArrowOfTheTriplanarGizmoTakesThePictureAlong)
+{
+    ASSERT_TRUE(run("object.rotation", QJsonArray { 10, 25, 5 }));
+    ASSERT_TRUE(run("object.scale", QJsonArray { 1.5, 0.8, 1 }));
+    ASSERT_TRUE(run("texture.projection", "triplanar"));
+    for (const bool orthographic : { false, true }) {
+        stage.setOrthographic(orthographic);
+        ASSERT_TRUE(run("texture.handles", "universal"));
+        stage.update();
+        const osg::Pnt3f anchor = *tool.anchor();
+        osg::Vec3f axis(1, 0, 0);
+        tool.target().surface()->getToWorld().multMatrixVec(axis);
+        axis.normalize();
+        const osg::Pnt3f grabbed = anchor + axis * 0.6F;
+        const osg::Pnt3f target = grabbed + axis * 0.4F;
+        ASSERT_EQ(stage.handleAt(project(grabbed)), "xaShape");
+        const osg::Vec2f before = lookUpAlongZ(grabbed);
+        const int stepsBefore = steps();
+
+        drag(project(grabbed), project(target));
+
+        const osg::Vec2f after = lookUpAlongZ(target);
+        EXPECT_NEAR(after[0], before[0], 2e-3F);
+        EXPECT_NEAR(after[1], before[1], 2e-3F);
+        EXPECT_EQ(steps(), stepsBefore + 1);
+        EXPECT_TRUE(value("texture.preview").toBool());
+        ASSERT_TRUE(stage.undo());
+        EXPECT_EQ(tool.target().values().triplanarOffsetU, osg::Vec3f(0, 0, 0));
+    }
+}
+
+TEST_F(TextureProjectionTest, DragsOfTheOtherGizmosArriveAndAreTold)
+{
+    ASSERT_TRUE(run("texture.projection", "uv"));
+    ASSERT_TRUE(run("texture.handles", "universal"));
+    stage.update();
+    const osg::Pnt2f arrow = placeOf(SessionTarget::Kind::Handle, "xaShape");
+    ASSERT_TRUE(send("start", arrow));
+    send("process", arrow + osg::Vec2f(64, 9));
+    EXPECT_EQ(stage.draggedValues(), "Picture offset (0.125, 0.000)");
+    send("stop", arrow + osg::Vec2f(64, 9));
+    EXPECT_EQ(value("texture.uvOffset"), QJsonValue(QJsonArray { 0.125, 0 }));
+
+    ASSERT_TRUE(run("texture.projection", "tire"));
+    stage.update();
+    EXPECT_EQ(value("texture.tireFit"), QJsonValue(true));
+    const osg::Pnt2f box = placeOf(SessionTarget::Kind::Handle, "heightShape");
+    ASSERT_TRUE(send("start", box));
+    send("process", box + osg::Vec2f(30, 0));
+    EXPECT_EQ(stage.draggedValues().rfind("Tire height, radius, part around (", 0), 0U);
+    send("stop", box + osg::Vec2f(30, 0));
+    EXPECT_EQ(value("texture.tireFit"), QJsonValue(false));
+    ASSERT_TRUE(stage.undo());
+    EXPECT_EQ(value("texture.tireFit"), QJsonValue(true)) << "the whole drag is one step";
+}
+
+TEST_F(TextureProjectionTest, AClickPlacesTheHandlesOnTheSurfaceAlone)
+{
+    ASSERT_TRUE(run("texture.projection", "triplanar"));
+    ASSERT_TRUE(run("texture.place", true));
+    const QJsonValue before = value("texture.anchor");
+    const int stepsBefore = steps();
+    const osg::Pnt2f px = placeOf(SessionTarget::Kind::Node, "Column") + osg::Vec2f(8, 60);
+
+    EXPECT_EQ(stage.handles(), osg::NullFC);
+    EXPECT_EQ(view.getCursor(), Qt::CrossCursor);
+    EXPECT_TRUE(send("start", { 3.F, 3.F }));
+    send("stop", { 3.F, 3.F });
+    EXPECT_EQ(stage.selectedName(), "Column") << "a click beside it";
+    EXPECT_TRUE(tool.isPlacing());
+    EXPECT_EQ(value("texture.anchor"), before);
+    EXPECT_TRUE(send("start", px));
+    send("stop", px);
+
+    nbec::interaction::Picker picker;
+    picker.pickAt(px);
+    EXPECT_TRUE(tool.anchor()->equals(picker.getHitPoint(), kTolerance));
+    EXPECT_FALSE(tool.isPlacing());
+    EXPECT_EQ(view.getCursor(), Qt::ArrowCursor);
+    EXPECT_NE(stage.handles(), osg::NullFC);
+    EXPECT_EQ(steps(), stepsBefore);
+    stage.update();
+    EXPECT_EQ(stage.handleAt(px), "grid") << "the handles are not there";
+    EXPECT_FALSE(run("texture.anchor", QJsonArray { 3, 3 }));
+    stage.selectByName("Vase");
+    EXPECT_TRUE(value("texture.anchor").isNull());
+}
+
+TEST_F(TextureProjectionTest, ValuesAreWhatWasTypedAndEachEditIsAStep)
+{
+    const struct
+    {
+        const char* name;
+        QJsonValue value;
+    } rows[] = {
+        { "texture.uvOffset", QJsonArray { 0.5, -1 } },
+        { "texture.uvRepeat", QJsonArray { 2, -3 } },
+        { "texture.uvRotate", 30 },
+        { "texture.triplanarRotation", QJsonArray { 10, 20, 30 } },
+        { "texture.triplanarOffsetU", QJsonArray { 1, 2, 3 } },
+        { "texture.triplanarOffsetV", QJsonArray { 4, 5, 6 } },
+        { "texture.triplanarRepeatU", QJsonArray { 7, 8, 9 } },
+        { "texture.triplanarRepeatV", QJsonArray { 10, 11, 12 } },
+        { "texture.tireCenter", QJsonArray { 1, 2, 3 } },
+        { "texture.tireHeight", 3 },
+        { "texture.tireRadius", 4 },
+        { "texture.tireScaleU", 0.25 },
+        { "texture.tireFit", false },
+    };
+
+    for (const auto& row : rows) {
+        const QJsonValue before = value(row.name);
+        const int stepsBefore = steps();
+        EXPECT_TRUE(run(row.name, row.value)) << row.name;
+        EXPECT_TRUE(isNear(value(row.name), row.value, 1e-5)) << row.name;
+        EXPECT_EQ(steps(), stepsBefore + 1) << row.name;
+        ASSERT_TRUE(stage.undo()) << row.name;
+        EXPECT_TRUE(isNear(value(row.name), before, 1e-5)) << row.name;
+    }
+    ASSERT_TRUE(run("texture.projection", "tire"));
+    ASSERT_TRUE(run("texture.tireScaleU", 0.5));
+    EXPECT_EQ(value("texture.tireFit"), QJsonValue(true)) << "it is never fitted";
+    ASSERT_TRUE(run("texture.handles", "universal"));
+    stage.update();
+    const QJsonValue fittedRadius = value("texture.tireRadius");
+    const osg::Pnt2f fitted = placeOf(SessionTarget::Kind::Handle, "radiusShape");
+    ASSERT_TRUE(run("texture.tireRadius", 2.5));
+    EXPECT_EQ(value("texture.tireFit"), QJsonValue(false)) << "set by hand";
+    stage.update();
+    EXPECT_NE(stage.handleAt(fitted), "radiusShape") << "the handles stayed behind";
+    ASSERT_TRUE(run("texture.tireFit", true));
+    EXPECT_EQ(value("texture.tireRadius"), fittedRadius);
+}
+
+TEST_F(TextureProjectionTest, SizesOfHandlesGoByTheGizmo)
+{
+    const auto widthOf = [this](const char* handle, const char* other) {
+        stage.update();
+        return (placeOf(SessionTarget::Kind::Handle, handle) -
+                placeOf(SessionTarget::Kind::Handle, other))
+            .length();
+    };
+    ASSERT_TRUE(run("texture.projection", "uv"));
+    ASSERT_TRUE(run("texture.handles", "universal"));
+    const double present = value("texture.handleSize").toDouble();
+    const float before = widthOf("grid", "xyaShape");
+    ASSERT_TRUE(run("texture.handleSize", 1.5 * present));
+    EXPECT_NEAR(widthOf("grid", "xyaShape") / before, 1.5F, 0.1F);
+    ASSERT_TRUE(run("texture.handleSize", present));
+    EXPECT_FALSE(run("texture.handleSize", 32)) << "a size of another gizmo";
+
+    ASSERT_TRUE(run("texture.projection", "triplanar"));
+    EXPECT_EQ(value("texture.handleSize"), QJsonValue(32));
+    EXPECT_FALSE(run("texture.handleSize", 200)) << "infinite";
+    EXPECT_FALSE(run("texture.handleSize", -1));
+    EXPECT_FALSE(run("texture.handleSize", "large"));
+    EXPECT_EQ(value("texture.handleSize"), QJsonValue(32));
+}
+
+TEST_F(TextureProjectionTest, BadInputIsOneLineAndChangesNothing)
+{
+    const nbTextureValues before = tool.target().values();
+
+    const struct
+    {
+        const char* name;
+        QJsonValue value;
+    } rows[] = {
+        { "texture.projection", "round" },
+        { "texture.projection", 2 },
+        { "texture.uvOffset", QJsonArray { 1 } },
+        { "texture.uvOffset", 1 },
+        { "texture.uvRepeat", QJsonArray { 0, 1 } },
+        { "texture.uvRotate", QJsonArray { 1 } },
+        { "texture.uvRepeat", QJsonArray { 1e-60, 1 } },
+        { "texture.triplanarRepeatU", QJsonArray { 1, 1, 0 } },
+        { "texture.triplanarOffsetU", QJsonArray { 1, 1, 1e300 } },
+        { "texture.tireRadius", 0 },
+        { "texture.tireFit", 1 },
+        { "texture.anchor", "here" },
+    };
+
+    const int stepsBefore = steps();
+    for (const auto& row : rows) {
+        EXPECT_FALSE(run(row.name, row.value)) << row.name << textOf(row.value).toStdString();
+        EXPECT_NE(error, "");
+    }
+    EXPECT_EQ(tool.target().values(), before);
+    EXPECT_EQ(steps(), stepsBefore);
+    stage.selectByName("Vase");
+    EXPECT_FALSE(run("texture.projection", "uv")) << "no picture";
+    EXPECT_FALSE(run("texture.uvRotate", 3));
+    EXPECT_TRUE(value("texture.projection").isNull());
+}
+
+}  // namespace
+}  // namespace viewer
