@@ -44,6 +44,7 @@ void AnchoredTextureManipulator::activate(ManipulatorInteractionContext* ctx)
 
 void AnchoredTextureManipulator::deactivate(ManipulatorInteractionContext* ctx)
 {
+    // Deliberate: a drag goes on; hosts stop it before.
     AbstractManipulator::deactivate(ctx);
 }
 

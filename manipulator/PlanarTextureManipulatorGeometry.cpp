@@ -352,7 +352,7 @@ void PlanarTextureManipulator::placeHandles()
     const osg::Pnt3f center(detail::column(worldFromAxes, 3));
     const osg::Matrix axes = detail::orthonormalised(worldFromAxes);
     const float size =
-        detail::screenScale(center, m_ManipulatorSize, detail::ViewDiagonal::NearPlane);
+        detail::ScreenScale(m_ManipulatorSize, detail::ViewDiagonal::NearPlane).at(center);
     state->placedSize = m_ManipulatorSize;
     // A mirrored object has mirrored handles: -z stays where the projection looks.
     const osg::Vec3f scales(size, size, worldFromAxes.det3() < 0.0F ? -size : size);

@@ -17,6 +17,8 @@
 #include <nbOpenSGExt/Transform3D.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
+#include <algorithm>
+#include <atomic>
 #include <cstring>
 
 #include <EditStamp.h>
@@ -27,23 +29,24 @@ namespace {
 
 using Mode = UniversalTransformManipulator2::ManipulatorMode;
 
+/// Takes what was only read, so that it is read.
+std::atomic<osg::UInt32> seen { 0 };
+/// Gizmos that are looked at together before they are placed.
+constexpr std::size_t kReadAhead = 16;
 /// Elements of two to-world matrices that differ by no more are the same placement.
 constexpr float kPlacementTolerance = 1e-6F;
+constexpr std::size_t kElements = 16;
 
 /// Equal bits, which is the usual case and quick to see, or equal within the tolerance.
 bool isSamePlacement(const osg::Matrix& left, const osg::Matrix& right)
 {
-    return std::memcmp(left.getValues(), right.getValues(), sizeof(osg::Real32) * 16) == 0 ||
+    return std::memcmp(left.getValues(), right.getValues(), sizeof(osg::Real32) * kElements) == 0 ||
         left.equals(right, kPlacementTolerance);
 }
 
-/// Which families an activation puts back to their idle colours.
-struct DefaultFamilies
-{
-    bool translate, rotate, scale;
-};
+constexpr DefaultFamilies kAllFamilies { true, true, true };
 
-/// One row per mode, in the order of the modes' values.
+/// What each mode puts back to idle colours, one row per mode, in the order of the modes' values.
 constexpr std::array<DefaultFamilies, 10> kDefaultFamilies = { { { true, true, true },
                                                                  { true, false, false },
                                                                  { false, false, true },
@@ -64,21 +67,22 @@ UniversalTransformManipulator2* UniversalTransformManipulator2::_the = nullptr;
 bool UniversalTransformManipulator2::_temporary_snapping_active = false;
 
 UniversalTransformManipulator2::UniversalTransformManipulator2()
-    : drag(std::make_unique<TransformDrag>())
+    : handles(std::make_unique<TransformHandles>())
+    , drag(std::make_unique<TransformDrag>())
 {
-    handleTree = createManipulatorGeo();
-    placement = osg::Transform3DPtr::dcast(handleTree->getCore());
-    createMultiselectionRepresentationGeo();
+    placement = osg::Transform3DPtr::dcast(handles->getTree()->getCore());
+    multiselection = detail::makeGroupNode();
+    nbNodeUtils::setIsAuxiliaryNode(multiselection.get(), true);
     additionalGeometry = detail::makeGroupNode();
     nbNodeUtils::setIsAuxiliaryNode(additionalGeometry.get(), true);
-    const detail::HandlePasses passes = detail::makeHandlePasses(handleTree.get());
+    const detail::HandlePasses passes = detail::makeHandlePasses(handles->getTree());
     root = detail::makeHandleRoot();
     detail::addChild(root.get(), multiselection.get());
     detail::addChild(root.get(), passes.depthPass.get());
     detail::addChild(root.get(), additionalGeometry.get());
     detail::addChild(root.get(), passes.handlePass.get());
-    showElements(ActiveMode::None);
-    detail::showNode(handleTree.get(), false);
+    handles->show(mode, ActiveMode::None);
+    detail::showNode(handles->getTree(), false);
     _allManipulators.push_back(this);
 }
 
@@ -136,13 +140,15 @@ bool UniversalTransformManipulator2::startManipulator(ManipulatorInteractionCont
                                                       const std::string& /*hint*/)
 {
     endHover();
+    update(false);  // the node may have been moved since the last picture: by undo, by the host
     activeHandle = detectMode(ctx);
     if (activeHandle == ActiveMode::None) {
         return false;
     }
     grabbing = true;
     grabbedPoint = ctx->getPicker()->getHitPoint();
-    highlightControlElement();
+    handles->show(mode, activeHandle);
+    handles->highlight(activeHandle);
     return true;
 }
 
@@ -152,10 +158,11 @@ bool UniversalTransformManipulator2::hoverManipulator(ManipulatorInteractionCont
     if (grabbing) {
         return true;
     }
+    update(false);
     activeHandle = detectMode(ctx);
-    if (activeHandle != highlighted) {
-        setDefaultMaterials(true, true, true, activeHandle);
-        highlightMode();
+    if (activeHandle != handles->getHighlighted()) {
+        handles->makeIdle(kAllFamilies, activeHandle);
+        handles->highlight(activeHandle);
     }
     return activeHandle != ActiveMode::None;
 }
@@ -174,6 +181,11 @@ bool UniversalTransformManipulator2::setManipulatorMode(const std::string& newMo
     _temporary_snapping_active = newMode == "precisionTool";
     // Deliberate: "tool" answers false although it has ended temporary snapping.
     return newMode == "precisionTool" || newMode.empty();
+}
+
+bool UniversalTransformManipulator2::snappingActive() const
+{
+    return _temporary_snapping_active || snappingEnabled;
 }
 
 // == Modes
@@ -233,9 +245,8 @@ void UniversalTransformManipulator2::activateTranslateRotateYZManipulator()
 void UniversalTransformManipulator2::activateMode(ManipulatorMode newMode)
 {
     mode = newMode;
-    showElements(ActiveMode::None);
-    const DefaultFamilies& families = kDefaultFamilies[static_cast<std::size_t>(newMode)];
-    setDefaultMaterials(families.translate, families.rotate, families.scale, ActiveMode::None);
+    handles->show(mode, ActiveMode::None);
+    handles->makeIdle(kDefaultFamilies[static_cast<std::size_t>(newMode)], ActiveMode::None);
     updateManipulator();
 }
 
@@ -245,93 +256,23 @@ void UniversalTransformManipulator2::showActiveManipulator()
         hideManipulator();
         return;
     }
-    showElements(ActiveMode::None);
-    showAllElements();
+    handles->show(mode, ActiveMode::None);
+    detail::showNode(handles->getTree(), true);
     updateManipulator();
 }
 
 void UniversalTransformManipulator2::hideManipulator()
 {
-    hideAllElements();
+    detail::showNode(handles->getTree(), false);
 }
 
-void UniversalTransformManipulator2::showAllElements()
-{
-    detail::showNode(handleTree.get(), true);
-}
-
-void UniversalTransformManipulator2::hideAllElements()
-{
-    detail::showNode(handleTree.get(), false);
-}
-
-void UniversalTransformManipulator2::showElements(ActiveMode grabbed)
-{
-    const unsigned modeBit = 1U << static_cast<unsigned>(mode);
-    for (std::size_t i = 0; i < kHandles.size(); ++i) {
-        const HandleRow& row = kHandles[i];
-        const bool isGrabbed = grabbed != ActiveMode::None && row.activeMode == grabbed;
-        const bool isVisible = (row.visibleIn & modeBit) != 0;
-        detail::showNode(handles[i].top, isVisible && (isGrabbed || grabbed == ActiveMode::None));
-        if (row.kind == HandleKind::Ring) {
-            detail::showNode(handles[i].parts[1].node, isGrabbed);
-        }
-    }
-}
-
-// == Colours
-
-void UniversalTransformManipulator2::setHandleMaterials(std::size_t row, bool highlight)
-{
-    for (std::size_t i = 0; i < kMaxParts; ++i) {
-        const HandlePart& part = handles[row].parts[i];
-        if (part.node == osg::NullFC) {
-            continue;
-        }
-        const auto color =
-            static_cast<std::size_t>(highlight ? HandleColor::Orange : kHandles[row].idle[i]);
-        detail::setGeometryMaterial(
-            part.node, part.isLine ? lineMaterials[color].get() : solidMaterials[color].get());
-    }
-}
-
-void UniversalTransformManipulator2::setDefaultMaterials(bool translate, bool rotate, bool scale,
-                                                         ActiveMode except)
-{
-    for (std::size_t i = 0; i < kHandles.size(); ++i) {
-        const HandleRow& row = kHandles[i];
-        const bool isInFamily = row.family == HandleFamily::Translate ? translate
-            : row.family == HandleFamily::Rotate                      ? rotate
-            : row.family == HandleFamily::Scale                       ? scale
-                                                                      : true;
-        if (isInFamily && (except == ActiveMode::None || row.activeMode != except)) {
-            setHandleMaterials(i, false);
-        }
-    }
-    highlighted = except == highlighted ? highlighted : ActiveMode::None;
-}
-
-void UniversalTransformManipulator2::highlightMode()
-{
-    for (std::size_t i = 0; i < kHandles.size(); ++i) {
-        if (activeHandle != ActiveMode::None && kHandles[i].activeMode == activeHandle) {
-            setHandleMaterials(i, true);
-        }
-    }
-    highlighted = activeHandle;
-}
-
-void UniversalTransformManipulator2::highlightControlElement()
-{
-    showElements(activeHandle);
-    highlightMode();
-}
+// == Handle under the pointer
 
 void UniversalTransformManipulator2::endHover()
 {
     activeHandle = ActiveMode::None;
-    if (highlighted != ActiveMode::None) {
-        setDefaultMaterials(true, true, true, ActiveMode::None);
+    if (handles->getHighlighted() != ActiveMode::None) {
+        handles->makeIdle(kAllFamilies, ActiveMode::None);
     }
 }
 
@@ -341,13 +282,17 @@ UniversalTransformManipulator2::detectMode(ManipulatorInteractionContext* ctx) c
     if (getNode() == osg::NullFC) {
         return ActiveMode::None;
     }
-    const HandleRow* const row = detail::findHandleRow(kHandles, detail::pickHandle(ctx));
-    return row != nullptr ? row->activeMode : ActiveMode::None;
+    return TransformHandles::find(detail::pickHandle(ctx));
 }
 
 // == Placement
 
 void UniversalTransformManipulator2::updateManipulator()
+{
+    updateManipulator(detail::ScreenScale(m_ManipulatorSize, detail::ViewDiagonal::FrustumSides));
+}
+
+void UniversalTransformManipulator2::updateManipulator(const detail::ScreenScale& scale)
 {
     const osg::NodePtr selected = getNode();
     if (selected == osg::NullFC) {
@@ -355,8 +300,7 @@ void UniversalTransformManipulator2::updateManipulator()
     }
     const osg::NodePtr node = detail::editedNode(selected);
     const osg::Pnt3f anchor = anchorWorld(node);
-    const float size =
-        detail::screenScale(anchor, m_ManipulatorSize, detail::ViewDiagonal::FrustumSides);
+    const float size = scale.at(anchor);
     cachedTargetToWorld = node->getToWorld();
     {
         const detail::EditBracket edit(placement,
@@ -417,6 +361,16 @@ void UniversalTransformManipulator2::setManipulatorSize(float size)
     }
 }
 
+float UniversalTransformManipulator2::getManipulatorSize()
+{
+    return m_ManipulatorSize;
+}
+
+bool UniversalTransformManipulator2::isLocalSpaceManipulator()
+{
+    return m_LocalSpaceManipulator;
+}
+
 void UniversalTransformManipulator2::setLocalSpaceManipulator(bool local)
 {
     m_LocalSpaceManipulator = local;
@@ -427,9 +381,37 @@ void UniversalTransformManipulator2::setLocalSpaceManipulator(bool local)
 
 void UniversalTransformManipulator2::updateAllManipulators()
 {
-    detail::forEachInstance(_allManipulators, [](UniversalTransformManipulator2& manipulator) {
-        manipulator.updateManipulator();
-    });
+    const detail::ScreenScale scale(m_ManipulatorSize, detail::ViewDiagonal::FrustumSides);
+    std::size_t next = 0;
+    detail::forEachInstance(_allManipulators,
+                            [&scale, &next](UniversalTransformManipulator2& manipulator) {
+                                if (next++ % kReadAhead == 0) {
+                                    readAhead(next - 1);
+                                }
+                                manipulator.updateManipulator(scale);
+                            });
+}
+
+/// Looks at what placing the next gizmos will touch. Nothing of it is near by when there are many
+/// gizmos; looked at one after the other, the waiting times for memory overlap, which the work on
+/// each would not let them.
+void UniversalTransformManipulator2::readAhead(std::size_t first)
+{
+    osg::UInt32 sum = 0;
+    const std::size_t end = std::min(first + kReadAhead, _allManipulators.size());
+    for (std::size_t i = first; i < end; ++i) {
+        const UniversalTransformManipulator2& manipulator = *_allManipulators[i];
+        const osg::NodePtr target = manipulator.getNode();
+        if (target != osg::NullFC && target->getCore() != osg::NullFC) {
+            sum += target->getCore()->getFieldContainerId();
+        }
+        for (const osg::NodePtr& pass : manipulator.placement->getParents()) {
+            for (osg::NodePtr above = pass; above != osg::NullFC; above = above->getParent()) {
+                sum += above->getTravMask();
+            }
+        }
+    }
+    seen.store(sum, std::memory_order_relaxed);
 }
 
 }  // namespace nbec::manipulator

@@ -7,20 +7,21 @@
 #include <nbTransform/nbTransformModel.h>
 
 #include <OpenSG/OSGMatrix.h>
-#include <OpenSG/OSGSimpleMaterial.h>
 
-#include <array>
-#include <cstddef>
 #include <memory>
 #include <string>
 #include <vector>
 
 namespace nbec::manipulator {
 
-class RotationStep;
+class TransformHandles;
 struct NodeTransformationInfo;
 struct TransformDrag;
 struct TransformStart;
+
+namespace detail {
+class ScreenScale;
+}  // namespace detail
 
 /// The translate, rotate and scale gizmo for scene nodes.
 ///
@@ -33,41 +34,33 @@ struct TransformStart;
 ///
 /// Decisions.
 /// - Place: the gizmo stands at the node's rotate pivot (in scale and scale-pivot mode at its scale
-/// pivot); a node that
-///   is no Transform3D yet has its pivot at the centre of its volume, where it will be once it is
-///   converted.
+///   pivot); a node that is no Transform3D yet has its pivot at the centre of its volume, where it
+///   will be once it is converted. Conversion and pivot belong to the first undo step of an edit;
+///   a drag that ends where it began leaves no step, and the node stays converted.
 /// - Orientation: world axes, or the node's own axes with setLocalSpaceManipulator(true).
-/// - Visible elements per mode: universal all but the markers; translate arrows and planes; rotate
-/// rings; scale the
-///   scale handles and the cube "grid"; rotate pivot arrows, planes, rings and the sphere; scale
-///   pivot arrows, planes and the purple cube; clipping and translate-rotate arrows, planes and
-///   rings; translate-rotate-YZ the same without the x ring; translate-rotate-scale arrows, planes,
-///   rings and the scale handles.
 /// - A ring's axis line shows only while that ring is grabbed. Sphere and purple cube are unnamed
-/// markers, never hit.
-/// - Plane handles: a square patch of 0.4 with a bar (radius 0.02) along each of its two outer
-/// edges.
+///   markers, never hit.
+/// - Plane handles: a square patch of 0.4 with a bar (radius 0.02) along both outer edges.
 /// - A drag is held by the handle that was under the pointer at its start; hovering is refused
-/// until it stops.
+///   until it stops.
 ///
-/// All instances share the size and the space setting. Everything runs on the user-interface
-/// thread.
+/// All instances share the size and the space setting. Belongs to the user-interface thread.
 class NB_MANIPULATOR_API UniversalTransformManipulator2 : public NodeManipulator
 {
 public:
-    /// Family of handles shown.
+    /// Which handles are shown.
     enum class ManipulatorMode : osg::UInt32
     {
-        Universal = 0,
-        Translate = 1,
-        Scale = 2,
-        Rotate = 3,
-        RotatePivot = 4,
-        ScalePivot = 5,
-        Clipping = 6,
-        TranslateRotate = 7,
-        TranslateRotateYZ = 8,
-        TranslateRotateScale = 9
+        Universal = 0,  ///< all but the markers
+        Translate = 1,  ///< arrows and planes
+        Scale = 2,  ///< scale handles and the cube "grid"
+        Rotate = 3,  ///< rings
+        RotatePivot = 4,  ///< arrows, planes, rings and the sphere
+        ScalePivot = 5,  ///< arrows, planes and the purple cube
+        Clipping = 6,  ///< arrows, planes and rings
+        TranslateRotate = 7,  ///< arrows, planes and rings
+        TranslateRotateYZ = 8,  ///< arrows, planes, y and z ring
+        TranslateRotateScale = 9  ///< arrows, planes, rings and the scale handles of the axes
     };
 
     /// The handle that is hovered or grabbed.
@@ -89,8 +82,7 @@ public:
         ScaleUniform = 13
     };
 
-    /// Builds the handles, hidden, in mode translate, and appends the instance to the list of live
-    /// ones.
+    /// Builds the handles, hidden, in mode translate; joins the list of live instances.
     UniversalTransformManipulator2();
     UniversalTransformManipulator2(const UniversalTransformManipulator2&) = delete;
     UniversalTransformManipulator2& operator=(const UniversalTransformManipulator2&) = delete;
@@ -110,14 +102,15 @@ public:
     /// @param force  re-places it in any case
     void update(bool force) override;
 
-    /// Grabs the handle under the pointer and hides the others. @return whether there is one
+    /// Grabs the handle under the pointer, after update(false), and hides the others.
+    /// @return whether there is one
     bool startManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
     /// @return whether a handle is grabbed and the node can still be edited
     bool processManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
     /// Lets go of the handle. @return whether one was grabbed and there is still a node
     bool stopManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
 
-    /// Highlights the handle under the pointer. @return whether there is one
+    /// Highlights the handle under the pointer, after update(false). @return whether there is one
     bool hoverManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
     /// Takes the highlight away. @return true
     bool resetManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
@@ -135,8 +128,8 @@ public:
     /// about its own pivots. Further nodes that are null, given twice, or above or below another of
     /// the nodes are left out: they would be moved twice.
     void setNode(const osg::NodePtr& node, const std::vector<osg::NodePtr>& nodes);
-    /// Sets both pivots of the node to the centre of its volume; the object stays where it is.
-    /// @return false without a node that can be made a transform
+    /// Sets both pivots to the centre of the node's volume; the object stays. @return false without
+    /// a node that can be made a transform
     bool centerPivot();
 
     // Each shows the elements of its mode in their idle colours and re-places the gizmo.
@@ -163,17 +156,12 @@ public:
     /// Size on screen of all gizmos, 0 <= size < 200, default 32. The shared instance is re-placed
     /// at once, others at their next update.
     static void setManipulatorSize(float size);
-
-    static float getManipulatorSize() { return m_ManipulatorSize; }
-
-    /// Aligns the gizmos with the node's own axes instead of the world's. Re-placed as by
-    /// setManipulatorSize().
+    static float getManipulatorSize();
+    /// Aligns gizmos with the node's own axes or the world's; re-placed as by setManipulatorSize().
     static void setLocalSpaceManipulator(bool local);
+    static bool isLocalSpaceManipulator();
 
-    static bool isLocalSpaceManipulator() { return m_LocalSpaceManipulator; }
-
-    /// Re-places every live gizmo, in the order of construction. The host calls it when the camera
-    /// has moved.
+    /// Re-places every live gizmo in the order of construction; for hosts whose camera has moved.
     static void updateAllManipulators();
 
     /// The family of handles shown; Translate after construction.
@@ -186,57 +174,21 @@ public:
     void setDescriptionEnabled(bool on) { descriptionEnabled = on; }
 
 private:
-    static constexpr std::size_t kHandleCount = 15;
-    static constexpr std::size_t kMaxParts = 3;
-    static constexpr std::size_t kSolidCount = 6;
-    static constexpr std::size_t kLineCount = 7;
-
-    struct HandleRow;
-    static const std::array<HandleRow, kHandleCount> kHandles;
-
-    /// One drawn piece of a handle: a node with a geometry core, drawn solid or as lines.
-    struct HandlePart
-    {
-        osg::NodePtr node;
-        bool isLine = false;
-    };
-
-    /// The nodes of one row of the handle table; the handle tree keeps them alive.
-    struct HandleNodes
-    {
-        osg::NodePtr top;
-        std::array<HandlePart, kMaxParts> parts;
-    };
-
-    void createMaterials();
-    osg::NodePtr createManipulatorGeo();
-    void createMultiselectionRepresentationGeo();
-    static HandleNodes createArrow(std::size_t axis);
-    static HandleNodes createScaleHandle(std::size_t axis);
-    static HandleNodes createRing(std::size_t axis);
-    static HandleNodes createPlaneHandle(std::size_t plane);
-    static HandleNodes createMarker(bool sphere);
-    static HandleNodes createHandle(const HandleRow& row);
-
     void activateMode(ManipulatorMode newMode);
-    void showAllElements();
-    void hideAllElements();
-    void showElements(ActiveMode grabbed);
-    void setHandleMaterials(std::size_t row, bool highlight);
-    void setDefaultMaterials(bool translate, bool rotate, bool scale, ActiveMode except);
-    void highlightMode();
-    void highlightControlElement();
     void endHover();
     ActiveMode detectMode(ManipulatorInteractionContext* ctx) const;
 
     void updateManipulator();
+    void updateManipulator(const detail::ScreenScale& scale);
+    static void readAhead(std::size_t first);
     osg::Pnt3f anchorWorld(const osg::NodePtr& node) const;
     osg::Quaternion orientationWorld(const osg::NodePtr& node) const;
     /// Centre of an object's volume, in its own frame or in the world's.
     static osg::Pnt3f calculateObjectCenter(const osg::NodePtr& node, bool worldSpace);
 
     /// Shows the values that the grabbed handle edits as on-screen text; null takes the text away.
-    void setDescription(const osg::NodePtr& node);
+    /// @return whether there is a text
+    bool setDescription(const osg::NodePtr& node);
     void createMarks();
     void updateMarks(float size);
 
@@ -260,16 +212,14 @@ private:
     void translatePivot(const osg::NodePtr& node, const osg::Pnt3f& point);
     void rotatePivot(const osg::NodePtr& node, const osg::Pnt3f& point);
     static double computeRotation(const osg::Pnt3f& from, const osg::Pnt3f& to, osg::UInt32 axis);
-    static void accumulate(TransformStart& start, RotationStep& step);
     osg::Vec3f handleDelta(const osg::Pnt3f& point) const;
     osg::Vec3f scaleFactors(const osg::Pnt3f& point) const;
-    const TransformStart& startOf(osg::UInt32 index) const;
-    nbTransformModel::Value valueFor(const osg::NodePtr& node, osg::UInt32 index,
-                                     const osg::Vec3f& value) const;
-    osg::UInt32 targetCount() const;
+    TransformStart& startOf(osg::UInt32 index);
+    /// Looks up the containers of all targets, for one step.
+    void resolveTargets(const osg::NodePtr& node);
+    nbTransformModel::Value valueFor(osg::UInt32 index, const osg::Vec3f& value) const;
     void finishStep(const osg::NodePtr& node, bool describe);
-
-    bool snappingActive() const { return _temporary_snapping_active || snappingEnabled; }
+    bool snappingActive() const;
 
     static float m_ManipulatorSize;
     static bool m_LocalSpaceManipulator;
@@ -279,21 +229,17 @@ private:
 
     ManipulatorMode mode = ManipulatorMode::Translate;
     ActiveMode activeHandle = ActiveMode::None;
-    ActiveMode highlighted = ActiveMode::None;
     bool grabbing = false;
     bool snappingEnabled = false;
     bool descriptionEnabled = true;
-
     osg::RefPtr<osg::NodePtr> root;
-    osg::RefPtr<osg::NodePtr> handleTree;
     osg::Transform3DPtr placement;  ///< core of the handle tree, which never gets another
     osg::RefPtr<osg::NodePtr> multiselection;
     osg::RefPtr<osg::NodePtr> marks;  ///< crosses of the further nodes, made when there are some
     osg::RefPtr<osg::NodePtr> additionalGeometry;
-    std::array<HandleNodes, kHandleCount> handles;
-    std::array<osg::SimpleMaterialRefPtr, kSolidCount> solidMaterials;
-    std::array<osg::SimpleMaterialRefPtr, kLineCount> lineMaterials;
+    std::unique_ptr<TransformHandles> handles;
     std::vector<NodeTransformationInfo> transformationInfos;
+    std::vector<osg::NodePtr> resolvedTargets;  ///< within a step of a drag, otherwise empty
     std::unique_ptr<TransformDrag> drag;
     osg::Pnt3f grabbedPoint;  ///< where the grabbed handle was hit, world
     bool prepared = false;

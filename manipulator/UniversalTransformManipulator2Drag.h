@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <nbOpenSGUtils/nbEulerUtils.h>
+#include "manipulator/detail/TurningAngles.h"
 
 #include <OpenSG/OSGMatrix.h>
 #include <OpenSG/OSGPlane.h>
@@ -19,8 +19,7 @@ struct TransformStart
     osg::Vec3f pivotLocal;  ///< rotate or scale pivot, as the mode moves; frame of the parent
     osg::Vec3f pivotWorld;
     osg::Quaternion rotation;  ///< without the rotation orientation
-    nbEulerAngles
-        accumulated;  ///< rotation built up by the drag's steps, radians, in the node's order
+    detail::TurningAngles accumulated;  ///< rotation built up by the drag's steps
     osg::Vec3f ringAxis;  ///< axis of the grabbed ring in the frame of the parent, unit length
     double ringSign = 1.0;  ///< -1 under a mirrored parent, which turns the sense of rotation
 };
@@ -33,8 +32,7 @@ struct NodeTransformationInfo
     TransformStart start;
 };
 
-/// One step of a rotation as angles; worked out once for targets that follow each other with the
-/// same axis and Euler order.
+/// One step of a rotation; worked out once for targets that follow each other with the same axis.
 class RotationStep
 {
 public:
@@ -42,15 +40,15 @@ public:
         : angleRad(angle)
     { }
 
-    /// @param newSign  1, or -1 for the other way  @param order  of the result
-    const nbEulerAngles& about(const osg::Vec3f& newAxis, double newSign, int order);
+    /// @param newSign  1, or -1 for the other way
+    const nbQuaterniond& about(const osg::Vec3f& newAxis, double newSign);
 
 private:
     double angleRad;
     bool isKnown = false;
     osg::Vec3f axis;
     double sign = 1.0;
-    nbEulerAngles angles;
+    nbQuaterniond turn;
 };
 
 /// State of one drag.

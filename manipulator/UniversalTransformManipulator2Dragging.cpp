@@ -9,6 +9,7 @@
 
 #include <nbKernel/nbOSGWidget.h>
 #include <nbKernel/nbScenegraph.h>
+#include <nbKernelServices/nbScopedUndo.h>
 #include <nbOpenSGExt/Transform3D.h>
 #include <nbOpenSGUtils/nbNodePermission.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
@@ -67,6 +68,11 @@ osg::Quaterniond turnAbout(const osg::Vec3f& axis, double angleRad)
                             std::cos(angleRad / 2));
     }
     return turn;
+}
+
+osg::Vec3f toDegrees(const nbEulerAngles& anglesRad)
+{
+    return nbEulerUtils::toVec3f(nbEulerUtils::toDegrees(anglesRad));
 }
 
 }  // namespace
@@ -131,6 +137,9 @@ osg::NodePtr UniversalTransformManipulator2::makeTransform(const osg::NodePtr& n
     }
     const osg::NodePtr transform = nbNodeUtils::convertToTransform3DNode(node);
     if (transform != osg::NullFC && node != nbScenegraph::getRootNode()) {
+        // Where the pivots of a new transform are is part of the conversion, which is no undo step
+        // by itself: a drag that ends where it began leaves none.
+        const nbScopedUndo unrecorded(false);
         detail::setBothPivots(transform, calculateObjectCenter(transform, false));
     }
     return transform;
@@ -138,6 +147,7 @@ osg::NodePtr UniversalTransformManipulator2::makeTransform(const osg::NodePtr& n
 
 void UniversalTransformManipulator2::dragTo(const osg::NodePtr& node, const osg::Pnt3f& point)
 {
+    resolveTargets(node);
     if (mode == ManipulatorMode::RotatePivot || mode == ManipulatorMode::ScalePivot) {
         if (isRing(activeHandle)) {
             rotatePivot(node, point);
@@ -151,28 +161,30 @@ void UniversalTransformManipulator2::dragTo(const osg::NodePtr& node, const osg:
     } else if (isScale(activeHandle)) {
         scale(node, point);
     }
+    resolvedTargets.clear();  // nothing is kept from step to step
 }
 
 // == The five transformations
 
-const TransformStart& UniversalTransformManipulator2::startOf(osg::UInt32 index) const
+TransformStart& UniversalTransformManipulator2::startOf(osg::UInt32 index)
 {
     return index == 0 ? drag->start : transformationInfos[index - 1].start;
 }
 
-nbTransformModel::Value UniversalTransformManipulator2::valueFor(const osg::NodePtr& node,
-                                                                 osg::UInt32 index,
-                                                                 const osg::Vec3f& value) const
+void UniversalTransformManipulator2::resolveTargets(const osg::NodePtr& node)
 {
-    const osg::NodePtr target = index == 0
-        ? node
-        : detail::resolveContainer<osg::NodePtr>(transformationInfos[index - 1].nodeId);
-    return { { target, static_cast<osg::Int32>(index) }, value };
+    resolvedTargets.resize(transformationInfos.size() + 1);
+    resolvedTargets[0] = node;
+    for (std::size_t i = 0; i < transformationInfos.size(); ++i) {
+        resolvedTargets[i + 1] =
+            detail::resolveContainer<osg::NodePtr>(transformationInfos[i].nodeId);
+    }
 }
 
-osg::UInt32 UniversalTransformManipulator2::targetCount() const
+nbTransformModel::Value UniversalTransformManipulator2::valueFor(osg::UInt32 index,
+                                                                 const osg::Vec3f& value) const
 {
-    return static_cast<osg::UInt32>(transformationInfos.size() + 1);
+    return { { resolvedTargets[index], static_cast<osg::Int32>(index) }, value };
 }
 
 osg::Vec3f UniversalTransformManipulator2::handleDelta(const osg::Pnt3f& point) const
@@ -189,8 +201,8 @@ osg::Vec3f UniversalTransformManipulator2::handleDelta(const osg::Pnt3f& point) 
 
 void UniversalTransformManipulator2::finishStep(const osg::NodePtr& node, bool describe)
 {
-    if (describe) {
-        setDescription(node);
+    if (describe && setDescription(node)) {
+        resolvedTargets.clear();  // who listens to texts may have destroyed some
     }
     updateManipulator();
     detail::sendTransformationChanged();
@@ -207,12 +219,13 @@ void UniversalTransformManipulator2::translate(const osg::NodePtr& node, const o
         delta = snappedLength(delta, model->getTranslationPrecision());
     }
     const bool worldSpace = !m_LocalSpaceManipulator;
-    model->setTranslation(targetCount(), worldSpace, [&](osg::UInt32 index) {
-        const TransformStart& start = startOf(index);
-        return valueFor(node, index,
-                        worldSpace ? start.translationWorld + delta
-                                   : start.translationLocal + rotated(start.rotation, delta));
-    });
+    model->setTranslation(
+        static_cast<osg::UInt32>(resolvedTargets.size()), worldSpace, [&](osg::UInt32 index) {
+            const TransformStart& start = startOf(index);
+            return valueFor(index,
+                            worldSpace ? start.translationWorld + delta
+                                       : start.translationLocal + rotated(start.rotation, delta));
+        });
     finishStep(node, true);
 }
 
@@ -245,36 +258,23 @@ void UniversalTransformManipulator2::rotate(const osg::NodePtr& node, const osg:
     }
     drag->lastRotationPoint = rotationPoint;
     RotationStep step(angle);
-    accumulate(drag->start, step);
-    for (NodeTransformationInfo& info : transformationInfos) {
-        accumulate(info.start, step);
-    }
-    model->setRotation(targetCount(), [&](osg::UInt32 index) {
-        const nbEulerAngles degrees = nbEulerUtils::toDegrees(startOf(index).accumulated);
-        return valueFor(node, index, nbEulerUtils::toVec3f(degrees));
+    model->setRotation(static_cast<osg::UInt32>(resolvedTargets.size()), [&](osg::UInt32 index) {
+        TransformStart& start = startOf(index);
+        start.accumulated.turn(step.about(start.ringAxis, start.ringSign));
+        return valueFor(index, toDegrees(start.accumulated.getAngles()));
     });
     finishStep(node, true);
 }
 
-void UniversalTransformManipulator2::accumulate(TransformStart& start, RotationStep& step)
+const nbQuaterniond& RotationStep::about(const osg::Vec3f& newAxis, double newSign)
 {
-    start.accumulated = nbEulerUtils::multiply(
-        step.about(start.ringAxis, start.ringSign, start.accumulated.order), start.accumulated);
-}
-
-const nbEulerAngles& RotationStep::about(const osg::Vec3f& newAxis, double newSign, int order)
-{
-    if (isKnown && newAxis == axis && newSign == sign && order == angles.order) {
-        return angles;
+    if (!isKnown || newAxis != axis || newSign != sign) {
+        isKnown = true;
+        axis = newAxis;
+        sign = newSign;
+        turn = turnAbout(axis, angleRad * sign);
     }
-    isKnown = true;
-    axis = newAxis;
-    sign = newSign;
-    angles = nbEulerUtils::EulFromQuat(turnAbout(axis, angleRad * sign), 0);
-    if (angles.order != order) {
-        angles = nbEulerUtils::convertOrder(angles, order);
-    }
-    return angles;
+    return turn;
 }
 
 osg::Vec3f UniversalTransformManipulator2::scaleFactors(const osg::Pnt3f& point) const
@@ -308,7 +308,7 @@ void UniversalTransformManipulator2::scale(const osg::NodePtr& node, const osg::
     const osg::Vec3f factors = scaleFactors(point);
     const bool isUniform = activeHandle == ActiveMode::ScaleUniform;
     const double step = snappingActive() ? model->getScalePrecision() : 0.0;
-    model->setScale(targetCount(), [&](osg::UInt32 index) {
+    model->setScale(static_cast<osg::UInt32>(resolvedTargets.size()), [&](osg::UInt32 index) {
         osg::Vec3f value = startOf(index).scale;
         for (osg::UInt32 i = 0; i < 3; ++i) {
             if (isUniform || i == axisOf(activeHandle)) {
@@ -316,7 +316,7 @@ void UniversalTransformManipulator2::scale(const osg::NodePtr& node, const osg::
                     detail::snapped(static_cast<double>(value[i] * factors[i]), step));
             }
         }
-        return valueFor(node, index, value);
+        return valueFor(index, value);
     });
     finishStep(node, true);
 }
@@ -329,14 +329,16 @@ void UniversalTransformManipulator2::translatePivot(const osg::NodePtr& node,
     const bool worldSpace = !m_LocalSpaceManipulator;
     const auto place = [&](osg::UInt32 index) {
         const TransformStart& start = startOf(index);
-        return valueFor(node, index,
+        return valueFor(index,
                         worldSpace ? start.pivotWorld + delta
                                    : start.pivotLocal + rotated(start.rotation, delta));
     };
     if (mode == ManipulatorMode::RotatePivot) {
-        nbTransformModel::the()->setRotationPivot(targetCount(), worldSpace, place);
+        nbTransformModel::the()->setRotationPivot(static_cast<osg::UInt32>(resolvedTargets.size()),
+                                                  worldSpace, place);
     } else {
-        nbTransformModel::the()->setScalePivot(targetCount(), worldSpace, place);
+        nbTransformModel::the()->setScalePivot(static_cast<osg::UInt32>(resolvedTargets.size()),
+                                               worldSpace, place);
     }
     finishStep(node, true);
 }
@@ -345,14 +347,15 @@ void UniversalTransformManipulator2::rotatePivot(const osg::NodePtr& node, const
 {
     const double angle = computeRotation(drag->startLocal, mapped(drag->inverseDragFrame, point),
                                          axisOf(activeHandle));
-    nbTransformModel::the()->setRotationPivotOrientation(targetCount(), [&](osg::UInt32 index) {
-        const TransformStart& start = startOf(index);
-        osg::Quaterniond turned = turnAbout(start.ringAxis, angle * start.ringSign);
-        turned.mult(nbEulerUtils::QuatFromEul(start.accumulated));
-        turned.normalize();
-        const nbEulerAngles angles = nbEulerUtils::EulFromQuat(turned, start.accumulated.order);
-        return valueFor(node, index, nbEulerUtils::toVec3f(nbEulerUtils::toDegrees(angles)));
-    });
+    nbTransformModel::the()->setRotationPivotOrientation(
+        static_cast<osg::UInt32>(resolvedTargets.size()), [&](osg::UInt32 index) {
+            const TransformStart& start = startOf(index);
+            osg::Quaterniond turned = turnAbout(start.ringAxis, angle * start.ringSign);
+            turned.mult(start.accumulated.getRotation());
+            turned.normalize();
+            const int order = start.accumulated.getAngles().order;
+            return valueFor(index, toDegrees(nbEulerUtils::EulFromQuat(turned, order)));
+        });
     // Deliberate: the description stays as it is.
     finishStep(node, false);
 }

@@ -4,6 +4,7 @@
 #include "manipulator/detail/HandleGroup.h"
 #include "manipulator/detail/HandleMaterials.h"
 #include "manipulator/detail/HandleNodes.h"
+#include "manipulator/detail/HandlePick.h"
 #include "manipulator/detail/HandleShapes.h"
 #include "manipulator/detail/NodeVisibility.h"
 
@@ -15,8 +16,8 @@ using detail::HandleShape;
 
 namespace {
 
-using Mode = UniversalTransformManipulator2::ManipulatorMode;
-using Active = UniversalTransformManipulator2::ActiveMode;
+using Mode = TransformHandles::Mode;
+using Active = TransformHandles::Active;
 
 constexpr int kSolidSortKey = 64016;
 constexpr int kLineSortKey = 64015;
@@ -106,9 +107,8 @@ osg::NodePtr addShape(const osg::NodePtr& parent, HandleShape shape)
 
 // Deliberate: the plane handles' colours (patch, bar, bar) do not follow one rule: xz has two red
 // bars, yz two blue ones.
-const std::array<UniversalTransformManipulator2::HandleRow,
-                 UniversalTransformManipulator2::kHandleCount>
-    UniversalTransformManipulator2::kHandles = { {
+const std::array<TransformHandles::Row, TransformHandles::kHandleCount> TransformHandles::kRows = {
+    {
         { "xaShape", Active::TranslateX, HandleKind::Arrow, 0, HandleFamily::Translate, all(kRed),
           kWithTranslation },
         { "yaShape", Active::TranslateY, HandleKind::Arrow, 1, HandleFamily::Translate, all(kGreen),
@@ -154,9 +154,22 @@ const std::array<UniversalTransformManipulator2::HandleRow,
           all(HandleColor::Yellow), in(Mode::RotatePivot) },
         { nullptr, Active::None, HandleKind::PivotCube, 0, HandleFamily::Marker,
           all(HandleColor::Purple), in(Mode::ScalePivot) },
-    } };
+    }
+};
 
-void UniversalTransformManipulator2::createMaterials()
+TransformHandles::TransformHandles()
+    : tree(detail::makeTransform3DNode(osg::Vec3f()))
+{
+    createMaterials();
+    for (std::size_t row = 0; row < kRows.size(); ++row) {
+        nodes[row] = createHandle(kRows[row]);
+        detail::addChild(tree.get(), nodes[row].top);
+        setMaterials(row, false);
+    }
+    nbNodeUtils::setIsAuxiliaryNode(tree.get(), true);
+}
+
+void TransformHandles::createMaterials()
 {
     const detail::LineChunks chunks = detail::makeLineChunks();
     for (std::size_t i = 0; i < kColors.size(); ++i) {
@@ -170,29 +183,9 @@ void UniversalTransformManipulator2::createMaterials()
     }
 }
 
-osg::NodePtr UniversalTransformManipulator2::createManipulatorGeo()
+TransformHandles::Nodes TransformHandles::createHandle(const Row& row)
 {
-    createMaterials();
-    const osg::NodePtr tree = detail::makeTransform3DNode(osg::Vec3f());
-    for (std::size_t row = 0; row < kHandles.size(); ++row) {
-        handles[row] = createHandle(kHandles[row]);
-        detail::addChild(tree, handles[row].top);
-        setHandleMaterials(row, false);
-    }
-    nbNodeUtils::setIsAuxiliaryNode(tree, true);
-    return tree;
-}
-
-void UniversalTransformManipulator2::createMultiselectionRepresentationGeo()
-{
-    multiselection = detail::makeGroupNode();
-    nbNodeUtils::setIsAuxiliaryNode(multiselection.get(), true);
-}
-
-UniversalTransformManipulator2::HandleNodes
-UniversalTransformManipulator2::createHandle(const HandleRow& row)
-{
-    HandleNodes created;
+    Nodes created;
     switch (row.kind) {
     case HandleKind::Arrow:
         created = createArrow(row.axis);
@@ -218,10 +211,9 @@ UniversalTransformManipulator2::createHandle(const HandleRow& row)
     return created;
 }
 
-UniversalTransformManipulator2::HandleNodes
-UniversalTransformManipulator2::createArrow(std::size_t axis)
+TransformHandles::Nodes TransformHandles::createArrow(std::size_t axis)
 {
-    HandleNodes arrow;
+    Nodes arrow;
     arrow.top = detail::makePlacedNode(unitAxis(axis), turnOntoAxis(axis));
     arrow.parts[0] = { addShape(arrow.top, HandleShape::ArrowShaft), true };
     const osg::NodePtr head =
@@ -231,10 +223,9 @@ UniversalTransformManipulator2::createArrow(std::size_t axis)
     return arrow;
 }
 
-UniversalTransformManipulator2::HandleNodes
-UniversalTransformManipulator2::createScaleHandle(std::size_t axis)
+TransformHandles::Nodes TransformHandles::createScaleHandle(std::size_t axis)
 {
-    HandleNodes handle;
+    Nodes handle;
     if (axis == kUniform) {
         handle.top = detail::makeTransform3DNode(osg::Vec3f());
         handle.parts[0] = { addShape(handle.top, HandleShape::Cube), false };
@@ -246,20 +237,18 @@ UniversalTransformManipulator2::createScaleHandle(std::size_t axis)
     return handle;
 }
 
-UniversalTransformManipulator2::HandleNodes
-UniversalTransformManipulator2::createRing(std::size_t axis)
+TransformHandles::Nodes TransformHandles::createRing(std::size_t axis)
 {
-    HandleNodes ring;
+    Nodes ring;
     ring.top = detail::makeTransform3DNode(eulerOntoAxisDeg(axis));
     ring.parts[0] = { addShape(ring.top, HandleShape::Ring), true };
     ring.parts[1] = { addShape(ring.top, HandleShape::RingAxis), true };
     return ring;
 }
 
-UniversalTransformManipulator2::HandleNodes
-UniversalTransformManipulator2::createPlaneHandle(std::size_t plane)
+TransformHandles::Nodes TransformHandles::createPlaneHandle(std::size_t plane)
 {
-    HandleNodes handle;
+    Nodes handle;
     handle.top = detail::makePlacedNode(osg::Vec3f(), turnOntoPlane(plane));
     handle.parts[0] = { addShape(handle.top, HandleShape::PlanePatch), false };
     handle.parts[1] = { addShape(handle.top, HandleShape::PlaneBarX), false };
@@ -267,13 +256,78 @@ UniversalTransformManipulator2::createPlaneHandle(std::size_t plane)
     return handle;
 }
 
-UniversalTransformManipulator2::HandleNodes
-UniversalTransformManipulator2::createMarker(bool sphere)
+TransformHandles::Nodes TransformHandles::createMarker(bool sphere)
 {
-    HandleNodes marker;
+    Nodes marker;
     marker.top = detail::makeShapeNode(sphere ? HandleShape::CentreSphere : HandleShape::Cube);
     marker.parts[0] = { marker.top, false };
     return marker;
+}
+
+// == What is shown and lit up
+
+osg::SimpleMaterialPtr TransformHandles::getLineMaterial(HandleColor color) const
+{
+    return lineMaterials[static_cast<std::size_t>(color)].get();
+}
+
+void TransformHandles::show(Mode mode, Active grabbed)
+{
+    const unsigned modeBit = 1U << static_cast<unsigned>(mode);
+    for (std::size_t i = 0; i < kRows.size(); ++i) {
+        const Row& row = kRows[i];
+        const bool isGrabbed = grabbed != Active::None && row.active == grabbed;
+        const bool isVisible = (row.visibleIn & modeBit) != 0;
+        detail::showNode(nodes[i].top, isVisible && (isGrabbed || grabbed == Active::None));
+        if (row.kind == HandleKind::Ring) {
+            detail::showNode(nodes[i].parts[1].node, isGrabbed);
+        }
+    }
+}
+
+void TransformHandles::setMaterials(std::size_t row, bool highlight)
+{
+    for (std::size_t i = 0; i < kMaxParts; ++i) {
+        const Part& part = nodes[row].parts[i];
+        if (part.node == osg::NullFC) {
+            continue;
+        }
+        const auto color =
+            static_cast<std::size_t>(highlight ? HandleColor::Orange : kRows[row].idle[i]);
+        detail::setGeometryMaterial(
+            part.node, part.isLine ? lineMaterials[color].get() : solidMaterials[color].get());
+    }
+}
+
+void TransformHandles::makeIdle(const DefaultFamilies& families, Active except)
+{
+    for (std::size_t i = 0; i < kRows.size(); ++i) {
+        const Row& row = kRows[i];
+        const bool isInFamily = row.family == HandleFamily::Translate ? families.translate
+            : row.family == HandleFamily::Rotate                      ? families.rotate
+            : row.family == HandleFamily::Scale                       ? families.scale
+                                                                      : true;
+        if (isInFamily && (except == Active::None || row.active != except)) {
+            setMaterials(i, false);
+        }
+    }
+    highlighted = except == highlighted ? highlighted : Active::None;
+}
+
+void TransformHandles::highlight(Active handle)
+{
+    for (std::size_t i = 0; i < kRows.size(); ++i) {
+        if (handle != Active::None && kRows[i].active == handle) {
+            setMaterials(i, true);
+        }
+    }
+    highlighted = handle;
+}
+
+TransformHandles::Active TransformHandles::find(const osg::NodePtr& node)
+{
+    const Row* const row = detail::findHandleRow(kRows, node);
+    return row != nullptr ? row->active : Active::None;
 }
 
 }  // namespace nbec::manipulator

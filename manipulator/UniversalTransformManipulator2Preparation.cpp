@@ -23,6 +23,25 @@ namespace {
 
 constexpr float kShortest = 1e-6F;
 
+/// Takes out of the other two axes of a frame what lies along one of them: the coordinate along
+/// that axis is then a point's distance from the plane at right angles to it.
+void straighten(osg::Matrix& frame, osg::UInt32 axis)
+{
+    const osg::Vec3f along = column(frame, axis);
+    const float squaredLength = along.dot(along);
+    if (!(squaredLength > 0.0F)) {
+        return;
+    }
+    for (osg::UInt32 i = 1; i < 3; ++i) {
+        osg::Vec4f& other = frame[(axis + i) % 3];
+        const float part =
+            (other[0] * along[0] + other[1] * along[1] + other[2] * along[2]) / squaredLength;
+        for (osg::UInt32 row = 0; row < 3; ++row) {
+            other[row] -= along[row] * part;
+        }
+    }
+}
+
 }  // namespace
 
 void UniversalTransformManipulator2::prepareAll(const osg::NodePtr& node)
@@ -93,7 +112,8 @@ TransformStart UniversalTransformManipulator2::captureStart(const osg::NodePtr& 
                                     : nbTransformModel::getRotationPivot(node, true);
     start.rotation = transform->getRotationAsQuaternion();
     const int order = nbEulerUtils::getOrderFromString(transform->getEulerRotationOrder());
-    start.accumulated = nbEulerUtils::fromDegrees(transform->getRotation(), order);
+    start.accumulated =
+        detail::TurningAngles(nbEulerUtils::fromDegrees(transform->getRotation(), order));
     if (isRing(activeHandle)) {
         // The axis that the parent's frame maps onto the drawn one; a mirrored parent turns the
         // other way.
@@ -150,7 +170,7 @@ osg::Vec3f UniversalTransformManipulator2::movementAxis(const osg::NodePtr& node
 
 osg::Matrix UniversalTransformManipulator2::gizmoFrame() const
 {
-    const osg::Matrix placed = handleTree->getToWorld();
+    const osg::Matrix placed = handles->getTree()->getToWorld();
     osg::Matrix frame = detail::orthonormalised(placed);
     frame.setTranslate(placed[3][0], placed[3][1], placed[3][2]);
     return frame;
@@ -167,6 +187,11 @@ osg::Matrix UniversalTransformManipulator2::translationFrame(const osg::NodePtr&
     own.setTransform(transform->getTranslation(), drag->start.rotation, drag->frameScale);
     osg::Matrix frame = detail::parentToWorld(node);
     frame.mult(own);
+    if (const osg::UInt32 axis = axisOf(activeHandle); isTranslation(activeHandle) && axis < 3) {
+        // Below a parent with different scales the axes are not at right angles. Without this a
+        // pointer that leaves the arrow's line sideways would pull the node along the arrow.
+        straighten(frame, axis);
+    }
     return frame;
 }
 
@@ -192,7 +217,7 @@ osg::Matrix UniversalTransformManipulator2::scaleFrame(const osg::Pnt3f& start) 
         frame.setValue(right, up, -sight);
     }
     frame[3][3] = 1.0F;
-    const float unit = column(handleTree->getToWorld(), 0).length();
+    const float unit = column(handles->getTree()->getToWorld(), 0).length();
     frame.setTranslate(start - up * unit);
     return frame;
 }

@@ -30,6 +30,20 @@ using NodeIds = std::unordered_set<osg::UInt32>;
 constexpr float kMarkReach = 0.15F;
 constexpr osg::UInt32 kPointsPerMark = 6;
 
+/// Three lines along the axes. @param points  six  @param reach  half their length; 0 shows nothing
+void drawCross(osg::Pnt3f* points, const osg::Pnt3f& center, float reach)
+{
+    const float x = center.x();
+    const float y = center.y();
+    const float z = center.z();
+    points++->setValues(x - reach, y, z);
+    points++->setValues(x + reach, y, z);
+    points++->setValues(x, y - reach, z);
+    points++->setValues(x, y + reach, z);
+    points++->setValues(x, y, z - reach);
+    points++->setValues(x, y, z + reach);
+}
+
 bool hasSelectedAncestor(const osg::NodePtr& node, const NodeIds& selected)
 {
     for (osg::NodePtr above = node->getParent(); above != osg::NullFC; above = above->getParent()) {
@@ -150,7 +164,7 @@ void UniversalTransformManipulator2::createMarks()
         crosses->setTypes(types);
         crosses->setLengths(lengths);
         crosses->setPositions(positions);
-        crosses->setMaterial(lineMaterials[static_cast<std::size_t>(HandleColor::Yellow)].get());
+        crosses->setMaterial(handles->getLineMaterial(HandleColor::Yellow));
     }
     const detail::EditBracket edit(multiselection.get(), osg::Node::ChildrenFieldMask);
     if (marks != osg::NullFC) {
@@ -167,47 +181,35 @@ void UniversalTransformManipulator2::updateMarks(float size)
     const detail::EditBracket edit(positions, osg::GeoPositions3f::GeoPropDataFieldMask);
     auto& points = positions->getField();
     const bool atScalePivot = mode == ManipulatorMode::Scale || mode == ManipulatorMode::ScalePivot;
-    osg::NodePtr
-        knownParent;  // nothing moves between the marks, so its matrix holds for its children
-    osg::Matrix worldFromParent;
-    std::size_t next = 0;
-    for (const NodeTransformationInfo& info : transformationInfos) {
-        const auto node = detail::resolveContainer<osg::NodePtr>(info.nodeId);
-        const auto transform = node != osg::NullFC ? osg::Transform3DPtr::dcast(node->getCore())
-                                                   : osg::Transform3DPtr();
+    detail::ParentMatrix parents;
+    const bool areResolved = resolvedTargets.size() == transformationInfos.size() + 1;
+    for (std::size_t i = 0; i < transformationInfos.size(); ++i) {
+        const osg::NodePtr node = areResolved
+            ? resolvedTargets[i + 1]
+            : detail::resolveContainer<osg::NodePtr>(transformationInfos[i].nodeId);
         osg::Pnt3f center;
-        if (transform != osg::NullFC) {
-            const osg::NodePtr parent = node->getParent();
-            if (parent == osg::NullFC || parent != knownParent) {
-                worldFromParent = detail::parentToWorld(node);
-                knownParent = parent;
-            }
-            center = detail::pivotInParent(transform, atScalePivot);
-            worldFromParent.multMatrixPnt(center);
-        } else if (node != osg::NullFC) {
-            center = anchorWorld(node);
+        float reach = 0.0F;
+        if (node != osg::NullFC) {
+            const auto transform = osg::Transform3DPtr::dcast(node->getCore());
+            center = transform == osg::NullFC
+                ? anchorWorld(node)
+                : parents.toWorld(node, detail::pivotInParent(transform, atScalePivot));
+            reach = size * kMarkReach;
         }
-        // A node that is gone leaves lines without length, which show nothing.
-        const float reach = node != osg::NullFC ? size * kMarkReach : 0.0F;
-        for (osg::UInt32 axis = 0; axis < 3; ++axis) {
-            osg::Pnt3f& from = points[next++];
-            osg::Pnt3f& to = points[next++];
-            from = center;
-            to = center;
-            from[axis] -= reach;
-            to[axis] += reach;
-        }
+        drawCross(&points[i * kPointsPerMark], center, reach);
     }
 }
 
 // == On-screen text
 
-void UniversalTransformManipulator2::setDescription(const osg::NodePtr& node)
+bool UniversalTransformManipulator2::setDescription(const osg::NodePtr& node)
 {
-    static detail::ValueText text("transformInfo");
-    text.show(node != osg::NullFC && descriptionEnabled
-                  ? describe(node, activeHandle, mode, !m_LocalSpaceManipulator)
-                  : QString());
+    static detail::ValueText notifier("transformInfo");
+    const QString text = node != osg::NullFC && descriptionEnabled
+        ? describe(node, activeHandle, mode, !m_LocalSpaceManipulator)
+        : QString();
+    notifier.show(text);
+    return !text.isEmpty();
 }
 
 }  // namespace nbec::manipulator

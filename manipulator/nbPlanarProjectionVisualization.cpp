@@ -41,6 +41,8 @@ constexpr float kLineWidth = 1.0F;
 constexpr float kPlaneEmission[] = { 0.10F, 0.16F, 0.24F };
 constexpr float kLineColor[] = { 1.0F, 0.85F, 0.35F };
 
+constexpr osg::UInt32 kCorners = 4;
+
 using Segment = std::pair<osg::UInt32, osg::UInt32>;
 
 osg::DepthChunkPtr makeSeeThroughChunk()
@@ -168,7 +170,11 @@ osg::NodePtr makeOutline(const osg::MaterialPtr& material)
 {
     std::vector<osg::Pnt3f> corners;
     appendCorners(corners, 0.0F);
-    return makeLines(corners, { { 0, 1 }, { 1, 2 }, { 2, 3 }, { 3, 0 } }, material);
+    std::vector<Segment> edges;
+    for (osg::UInt32 i = 0; i < kCorners; ++i) {
+        edges.emplace_back(i, (i + 1) % kCorners);
+    }
+    return makeLines(corners, edges, material);
 }
 
 /// The far end of the box and the edges that lead there; the near end is the outline's place.
@@ -177,9 +183,12 @@ osg::NodePtr makeZExtentLines(const osg::MaterialPtr& material)
     std::vector<osg::Pnt3f> corners;
     appendCorners(corners, -1.0F);
     appendCorners(corners, 0.0F);
-    return makeLines(
-        corners, { { 0, 4 }, { 1, 5 }, { 2, 6 }, { 3, 7 }, { 4, 5 }, { 5, 6 }, { 6, 7 }, { 7, 4 } },
-        material);
+    std::vector<Segment> edges;
+    for (osg::UInt32 i = 0; i < kCorners; ++i) {
+        edges.emplace_back(i, kCorners + i);
+        edges.emplace_back(kCorners + i, kCorners + (i + 1) % kCorners);
+    }
+    return makeLines(corners, edges, material);
 }
 
 /// See the class description: at the far end, looking back, scaled about the near end.

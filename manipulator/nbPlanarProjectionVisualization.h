@@ -13,6 +13,7 @@
 #include <OpenSG/OSGSimpleMaterial.h>
 #include <OpenSG/OSGTextureChunk.h>
 
+#include <array>
 #include <memory>
 
 /// Shows a planar texture projection in the scene: a faint plane with the picture, its outline, and
@@ -72,8 +73,8 @@ public:
 
     /// Sets the picture on the planes. The same image with the same flags again does nothing, even
     /// if its pixels have changed.
-    /// Deliberate: an image without alpha that is no mask shows no picture at all, and mipmaps are
-    /// built on the inverted path alone.
+    /// Deliberate: an image without alpha that is no mask shows no picture at all, and mipmaps (the
+    /// whole chain) are built on the inverted path alone.
     /// @param image   null for none; counted only while it is itself on the planes
     /// @param asMask  a copy's brightness covers the planes, instead of the image's own alpha
     /// @param invert  the mask is turned over; without asMask it means nothing
@@ -98,7 +99,7 @@ private:
     osg::NodeRefPtr transform2DNode;
     osg::NodeRefPtr zExtentTransformNode;
     osg::NodeRefPtr zExtentGeometryNode;
-    osg::SimpleMaterialRefPtr planeMaterials[2];
+    std::array<osg::SimpleMaterialRefPtr, 2> planeMaterials;
     osg::RefPtr<osg::TextureChunkPtr> textureChunk;
     /// What the chunk shows belongs to the chunk, so copies have it in common.
     std::shared_ptr<ShownTexture> shownTexture;

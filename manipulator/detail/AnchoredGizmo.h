@@ -24,9 +24,9 @@ namespace nbec::manipulator::detail {
 /// handles, hovering, the course of a drag, and when they are placed anew. The gizmos derive from
 /// it; AnchoredTextureManipulator is its face to the host.
 ///
-/// Deliberate: start and stop of a drag do as written in their comments even where the host has
-/// skipped the other; a drag that lost its stop is ended by the next start, by another material or
-/// with the gizmo.
+/// Deliberate: a stop resumes the preview even if no step has paused it, but without a material it
+/// sends nothing. What is owed then, and a drag that lost its stop, is made good by the next start,
+/// by another material or with the gizmo.
 class AnchoredGizmo
 {
 public:

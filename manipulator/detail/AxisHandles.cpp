@@ -53,7 +53,7 @@ osg::RefPtr<osg::StateChunkPtr> makeWideLineChunk()
 
 }  // namespace
 
-HandleSet::Materials makeAxisMaterials()
+HandleSet::Materials makeAxisMaterials(bool hasWideHighlight)
 {
     const osg::RefPtr<osg::StateChunkPtr> depth = makeDepthChunk();
     const osg::RefPtr<osg::StateChunkPtr> line = makeWideLineChunk();
@@ -63,6 +63,11 @@ HandleSet::Materials makeAxisMaterials()
         materials.push_back(makeHandleMaterial(row));
         const EditBracket edit(materials.back().get(), osg::ChunkMaterial::ChunksFieldMask);
         materials.back()->addChunk(isLine ? line.get() : depth.get());
+    }
+    if (hasWideHighlight) {
+        const osg::SimpleMaterialPtr highlight = materials[HighlightMaterial].get();
+        const EditBracket edit(highlight, osg::ChunkMaterial::ChunksFieldMask);
+        highlight->addChunk(line.get());
     }
     return materials;
 }

@@ -22,7 +22,8 @@ enum AxisMaterial : std::size_t
 };
 
 /// Makes the eleven materials. The last three are for lines of 4 px, not smooth.
-HandleSet::Materials makeAxisMaterials();
+/// @param hasWideHighlight  whether highlighted lines are as wide, too; otherwise they are thin
+HandleSet::Materials makeAxisMaterials(bool hasWideHighlight);
 
 /// The row of an arrow from the origin along a positive axis, in that axis' colour.
 /// @param axis  0, 1 or 2

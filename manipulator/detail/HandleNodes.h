@@ -5,7 +5,6 @@
 
 #include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGMaterial.h>
-#include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGQuaternion.h>
 #include <OpenSG/OSGVector.h>

@@ -15,6 +15,13 @@ constexpr double kSizeLimit = 200.0;
 constexpr double kReference = 800.0;
 constexpr float kViewsPerDiagonal = 20.0F;
 
+/// What distances are divided by.
+double perspectiveDivisor(float fovDeg, float size)
+{
+    const double sizeFactor = (kSizeLimit - static_cast<double>(size)) / kSizeLimit;
+    return sizeFactor * kReference / static_cast<double>(fovDeg);
+}
+
 float diagonalOf(const osg::UberCameraPtr& camera, ViewDiagonal diagonal)
 {
     if (diagonal == ViewDiagonal::NearPlane) {
@@ -38,8 +45,7 @@ osg::UberCameraPtr orthographicCamera()
 
 float perspectiveScale(double distance, float fovDeg, float size)
 {
-    const double sizeFactor = (kSizeLimit - static_cast<double>(size)) / kSizeLimit;
-    return static_cast<float>(distance / (sizeFactor * kReference / static_cast<double>(fovDeg)));
+    return static_cast<float>(distance / perspectiveDivisor(fovDeg, size));
 }
 
 float orthographicScale(float diagonal)
@@ -54,14 +60,15 @@ std::optional<float> orthographicDiagonal()
                                  : std::nullopt;
 }
 
-float screenScale(const osg::Pnt3f& anchor, float size, ViewDiagonal diagonal)
+ScreenScale::ScreenScale(float size, ViewDiagonal diagonal)
+    : eye(nbOSGWidget::getFrom(-1))
+    , divisor(perspectiveDivisor(nbOSGWidget::getFov(-1), size))
 {
     const osg::UberCameraPtr camera = orthographicCamera();
-    if (camera != osg::NullFC) {
-        return orthographicScale(diagonalOf(camera, diagonal));
+    isOrthographic = camera != osg::NullFC;
+    if (isOrthographic) {
+        factor = orthographicScale(diagonalOf(camera, diagonal));
     }
-    const double distance = anchor.dist(nbOSGWidget::getFrom(-1));
-    return perspectiveScale(distance, nbOSGWidget::getFov(-1), size);
 }
 
 }  // namespace nbec::manipulator::detail

@@ -35,10 +35,25 @@ enum class ViewDiagonal
 /// is a perspective one.
 std::optional<float> orthographicDiagonal();
 
-/// Scale of a gizmo in the main view: orthographicScale() under an orthographic camera, otherwise
-/// perspectiveScale() of the distance from the eye, with the widget's defaults where there is none.
-/// @param anchor  place of the gizmo, world
-/// @param size    class-wide size setting
-float screenScale(const osg::Pnt3f& anchor, float size, ViewDiagonal diagonal);
+/// Scales of gizmos at any places under the main widget's camera as it is now. Made once for all
+/// gizmos that are placed together; not to be kept.
+class ScreenScale
+{
+public:
+    /// @param size  class-wide size setting, see perspectiveScale()
+    ScreenScale(float size, ViewDiagonal diagonal);
+
+    /// @param anchor  of a gizmo, world @return as perspectiveScale() or orthographicScale()
+    float at(const osg::Pnt3f& anchor) const
+    {
+        return isOrthographic ? factor : static_cast<float>(anchor.dist(eye) / divisor);
+    }
+
+private:
+    osg::Pnt3f eye;
+    bool isOrthographic = false;
+    float factor = 0.0F;  ///< of every gizmo under an orthographic camera
+    double divisor;  ///< of distances under a perspective one
+};
 
 }  // namespace nbec::manipulator::detail

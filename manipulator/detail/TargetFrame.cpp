@@ -12,6 +12,9 @@ namespace nbec::manipulator::detail {
 
 osg::NodePtr editedNode(const osg::NodePtr& node)
 {
+    if (osg::Transform3DPtr::dcast(node->getCore()) != osg::NullFC) {
+        return node;  // the usual case, and the quicker one to see
+    }
     const osg::ClipPlane3DPtr clipPlane = osg::ClipPlane3DPtr::dcast(node->getCore());
     return clipPlane != osg::NullFC && clipPlane->getTransformNode() != osg::NullFC
         ? clipPlane->getTransformNode()
@@ -29,16 +32,14 @@ osg::Matrix parentToWorld(const osg::NodePtr& node)
     return parent != osg::NullFC ? parent->getToWorld() : osg::Matrix::identity();
 }
 
-osg::Pnt3f pivotInParent(const osg::Transform3DPtr& transform, bool scalePivot)
+osg::Pnt3f scalePivotInParent(const osg::Transform3DPtr& transform)
 {
     osg::Vec3f place = transform->getTranslation() + transform->getRotatePivot();
-    if (scalePivot) {
-        const nbRotationMath::Rows& turn = transform->getWholeRotation();
-        const osg::Vec3f arm = transform->getScalePivot() - transform->getRotatePivot();
-        for (osg::UInt32 i = 0; i < 3; ++i) {
-            place[i] += static_cast<float>(turn[i][0] * arm.x() + turn[i][1] * arm.y() +
-                                           turn[i][2] * arm.z());
-        }
+    const nbRotationMath::Rows& turn = transform->getWholeRotation();
+    const osg::Vec3f arm = transform->getScalePivot() - transform->getRotatePivot();
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        place[i] +=
+            static_cast<float>(turn[i][0] * arm.x() + turn[i][1] * arm.y() + turn[i][2] * arm.z());
     }
     return osg::Pnt3f(place);
 }

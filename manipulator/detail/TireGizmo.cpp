@@ -111,7 +111,7 @@ ValueText& text()
 }  // namespace
 
 TireGizmo::TireGizmo()
-    : AnchoredGizmo(handleTable(), makeAxisMaterials(), static_cast<int>(Mode::Universal))
+    : AnchoredGizmo(handleTable(), makeAxisMaterials(true), static_cast<int>(Mode::Universal))
 {
     root = makeHandleRootOver(handles.getRoot(), kDepthPassSortKey);
 }
@@ -146,8 +146,9 @@ void TireGizmo::placeHandles(const osg::Matrix& worldFromAnchor)
     const TireValues values = readValues();
     const osg::Pnt3f center = mapped(worldFromAnchor, osg::Pnt3f(values.center));
     const osg::Matrix axes = orthonormalised(worldFromAnchor);
-    const float size = screenScale(center, TireProjectionManipulator::getManipulatorSize(),
-                                   ViewDiagonal::NearPlane);
+    const float size =
+        ScreenScale(TireProjectionManipulator::getManipulatorSize(), ViewDiagonal::NearPlane)
+            .at(center);
     placeTransform(handles.getRootTransform(), center.subZero(), osg::Quaternion::identity(),
                    osg::Vec3f(size, size, size));
     if (!(size > kLeastSize) || !std::isfinite(size)) {
@@ -187,13 +188,7 @@ bool TireGizmo::prepare(const nbOSGWidget& widget)
     start = readValues();
     hasSent = false;
     chooseDirection();
-    choosePlane();
-    osg::Line ray;
-    osg::Pnt3f hit;
-    hasStart = false;
-    if (pointerRay(widget, ray) && intersectPlane(dragPlane, ray, hit)) {
-        beginAt(hit);
-    }
+    choosePlane(widget);
     return true;
 }
 
@@ -212,7 +207,7 @@ void TireGizmo::chooseDirection()
     }
 }
 
-void TireGizmo::choosePlane()
+void TireGizmo::choosePlane(const nbOSGWidget& widget)
 {
     const osg::Pnt3f center = mapped(worldFromObject, osg::Pnt3f(start.center));
     if (activeMode == number(Active::ScaleU)) {
@@ -220,40 +215,29 @@ void TireGizmo::choosePlane()
         const float side = worldFromObject.det3() < 0.0F ? -1.0F : 1.0F;
         const osg::Vec3f axle = column(orthonormalised(worldFromObject), 0) * side;
         ring = ringDragFrame(center, axle, grabbedPoint, viewDirection(grabbedPoint));
-        dragPlane = osg::Plane(ring.normal, ring.center);
+        dragPlane.begin(ring.normal, ring.center, widget);
         return;
     }
     osg::Vec3f along = mapped(worldFromObject, osg::Pnt3f(start.center + direction)) - center;
     const float length = along.length();
     along *= length > 0.0F ? 1.0F / length : 0.0F;
-    dragPlane = osg::Plane(axisPlaneNormal(along, viewDirection(grabbedPoint)), grabbedPoint);
-}
-
-void TireGizmo::beginAt(const osg::Pnt3f& hit)
-{
-    dragStartWorld = hit;
-    dragStartLocal = mapped(objectFromWorld, hit);
-    hasStart = true;
+    dragPlane.begin(axisPlaneNormal(along, viewDirection(grabbedPoint)), grabbedPoint, widget);
 }
 
 // == Steps
 
 void TireGizmo::step(const nbOSGWidget& widget)
 {
-    osg::Line ray;
     osg::Pnt3f hit;
-    if (!pointerRay(widget, ray) || !intersectPlane(dragPlane, ray, hit)) {
-        return;
+    if (dragPlane.follow(widget, hit)) {
+        changeTo(hit);
     }
-    if (!hasStart) {
-        beginAt(hit);
-    }
-    changeTo(hit);
 }
 
 void TireGizmo::changeTo(const osg::Pnt3f& hit)
 {
-    const float way = (mapped(objectFromWorld, hit) - dragStartLocal).dot(direction);
+    const float way = (mapped(objectFromWorld, hit) - mapped(objectFromWorld, dragPlane.getStart()))
+                          .dot(direction);
     nbMessage message;
     if (activeMode <= number(Active::TranslateZ)) {
         const osg::Vec3f center = start.center + direction * way;
@@ -268,8 +252,8 @@ void TireGizmo::changeTo(const osg::Pnt3f& hit)
         message.set("ScaleRadius", radius, true);
         text().show(describeValues("Radius (", { radius }));
     } else {
-        const float part =
-            grownCircumferencePart(start.scaleU, ring.angleOf(dragStartWorld), ring.angleOf(hit));
+        const float part = grownCircumferencePart(start.scaleU, ring.angleOf(dragPlane.getStart()),
+                                                  ring.angleOf(hit));
         message.set("ScaleU", part, true);
         text().show(describeValues("Scale (", { part }));
     }

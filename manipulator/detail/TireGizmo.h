@@ -4,8 +4,7 @@
 #include "manipulator/TireProjectionManipulator.h"
 #include "manipulator/detail/AnchoredGizmo.h"
 #include "manipulator/detail/DragGeometry.h"
-
-#include <OpenSG/OSGPlane.h>
+#include "manipulator/detail/DragPlane.h"
 
 namespace nbec::manipulator::detail {
 
@@ -37,19 +36,15 @@ protected:
 private:
     TireValues readValues() const;
     void chooseDirection();
-    void choosePlane();
-    void beginAt(const osg::Pnt3f& hit);
+    void choosePlane(const nbOSGWidget& widget);
     void changeTo(const osg::Pnt3f& hit);
 
     TireValues start;
     osg::Matrix worldFromObject;  ///< at the drag's start
     osg::Matrix objectFromWorld;
-    osg::Plane dragPlane;  ///< world
+    DragPlane dragPlane;
     osg::Vec3f direction;  ///< unit vector that a linear drag goes along, object space
     RingFrame ring;  ///< of a drag about the axle
-    bool hasStart = false;  ///< whether a ray has met the plane yet
-    osg::Pnt3f dragStartWorld;
-    osg::Pnt3f dragStartLocal;  ///< object space
     bool hasSent = false;
 };
 

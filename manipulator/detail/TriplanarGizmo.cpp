@@ -122,7 +122,7 @@ osg::Vec3f direction(const osg::Pnt3f& place)
 }  // namespace
 
 TriplanarGizmo::TriplanarGizmo()
-    : AnchoredGizmo(handleTable(), makeAxisMaterials(), static_cast<int>(Mode::Initial))
+    : AnchoredGizmo(handleTable(), makeAxisMaterials(false), static_cast<int>(Mode::Initial))
 {
     root = makeHandleRootOver(handles.getRoot(), kDepthPassSortKey);
 }
@@ -135,8 +135,9 @@ std::unique_ptr<AnchoredGizmo> TriplanarGizmo::clone() const
 void TriplanarGizmo::placeHandles(const osg::Matrix& worldFromAnchor)
 {
     const osg::Pnt3f& place = anchor.getWorldPosition();
-    const float size = screenScale(place, TriplanarTextureManipulator::getManipulatorSize(),
-                                   ViewDiagonal::NearPlane);
+    const float size =
+        ScreenScale(TriplanarTextureManipulator::getManipulatorSize(), ViewDiagonal::NearPlane)
+            .at(place);
     placeTransform(handles.getRootTransform(), place.subZero(), osg::Quaternion::identity(),
                    osg::Vec3f(size, size, size));
     const osg::Quaternion axes(orthonormalised(worldFromAnchor));
@@ -171,20 +172,8 @@ bool TriplanarGizmo::prepare(const nbOSGWidget& widget)
     frameMatrix = unitFrame(worldFromAnchor, anchor.getWorldPosition());
     inverseFrameMatrix = inverted(frameMatrix);
     readValues();
-    updatePlane();
-    osg::Line ray;
-    osg::Pnt3f hit;
-    hasStart = false;
-    if (pointerRay(widget, ray) && intersectPlane(dragPlane, ray, hit)) {
-        beginAt(hit);
-    }
+    updatePlane(widget);
     return true;
-}
-
-void TriplanarGizmo::beginAt(const osg::Pnt3f& hit)
-{
-    dragStartLocal = mapped(inverseFrameMatrix, hit);
-    hasStart = true;
 }
 
 void TriplanarGizmo::readValues()
@@ -217,42 +206,39 @@ void TriplanarGizmo::readValues()
     newRotation = startRotation;
 }
 
-void TriplanarGizmo::updatePlane()
+void TriplanarGizmo::updatePlane(const nbOSGWidget& widget)
 {
+    if (isRing() && areRingsTilted) {
+        const RingFrame tilted = tiltedRing();
+        inverseFrameMatrix = inverted(ringMatrix(tilted, axis()));
+        dragPlane.begin(tilted.normal, tilted.center, widget);
+        return;
+    }
     osg::Vec3f normal = cameraDirection();
     if (axis() < 3) {
         const osg::Vec3f axisDirection = column(frameMatrix, axis());
         normal = isRing() ? axisDirection : axisPlaneNormal(axisDirection, normal);
     }
-    dragPlane = osg::Plane(normal, anchor.getWorldPosition());
-    if (isRing() && areRingsTilted) {
-        tiltRing(grabbedPoint);
-    }
+    dragPlane.begin(normal, anchor.getWorldPosition(), widget);
 }
 
-void TriplanarGizmo::tiltRing(const osg::Pnt3f& grabbed)
+RingFrame TriplanarGizmo::tiltedRing() const
 {
     // About the axis of a mirrored frame a positive turn goes by the left hand.
     const float side = frameMatrix.det3() < 0.0F ? -1.0F : 1.0F;
-    const RingFrame tilted =
-        ringDragFrame(anchor.getWorldPosition(), column(frameMatrix, axis()) * side, grabbed,
-                      viewDirection(grabbed));
-    inverseFrameMatrix = inverted(ringMatrix(tilted, axis()));
-    dragPlane = osg::Plane(tilted.normal, tilted.center);
+    return ringDragFrame(anchor.getWorldPosition(), column(frameMatrix, axis()) * side,
+                         grabbedPoint, viewDirection(grabbedPoint));
 }
 
 // == Steps
 
 void TriplanarGizmo::step(const nbOSGWidget& widget)
 {
-    osg::Line ray;
     osg::Pnt3f hit;
-    if (!pointerRay(widget, ray) || !intersectPlane(dragPlane, ray, hit)) {
+    if (!dragPlane.follow(widget, hit)) {
         return;
     }
-    if (!hasStart) {
-        beginAt(hit);
-    }
+    dragStartLocal = mapped(inverseFrameMatrix, dragPlane.getStart());
     const osg::Pnt3f place = mapped(inverseFrameMatrix, hit);
     if (activeMode >= number(Active::ScaleX)) {
         scale(place);

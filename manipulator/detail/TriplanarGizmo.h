@@ -3,9 +3,9 @@
 
 #include "manipulator/TriplanarTextureManipulator.h"
 #include "manipulator/detail/AnchoredGizmo.h"
+#include "manipulator/detail/DragGeometry.h"
+#include "manipulator/detail/DragPlane.h"
 #include "manipulator/detail/TextureDragMath.h"
-
-#include <OpenSG/OSGPlane.h>
 
 namespace nbec::manipulator::detail {
 
@@ -31,19 +31,17 @@ private:
     /// Axis of the active handle, 0 .. 2; 3 for the uniform one.
     osg::UInt32 axis() const;
     void readValues();
-    void updatePlane();
-    void tiltRing(const osg::Pnt3f& grabbed);
-    void beginAt(const osg::Pnt3f& hit);
+    void updatePlane(const nbOSGWidget& widget);
+    RingFrame tiltedRing() const;
     void translate(const osg::Pnt3f& place);
     void rotate(const osg::Pnt3f& place);
     void scale(const osg::Pnt3f& place);
     void sendChange(nbMessage& message);
 
-    osg::Plane dragPlane;  ///< world
+    DragPlane dragPlane;
     osg::Matrix frameMatrix;  ///< world from frame at the drag's start
     osg::Matrix inverseFrameMatrix;  ///< of the frame, or of the tilted ring
-    bool hasStart = false;  ///< whether a ray has met the plane yet
-    osg::Pnt3f dragStartLocal;
+    osg::Pnt3f dragStartLocal;  ///< in the frame that inverseFrameMatrix maps to
     osg::Vec3f startRotation;
     TriplanarPairs offsets;
     TriplanarPairs scales;

@@ -191,7 +191,11 @@ std::unique_ptr<AnchoredGizmo> UVGizmo::clone() const
 
 bool UVGizmo::isElseChanged() const
 {
-    return !facing.equals(cameraFacing(), 1e-6F);
+    osg::Pnt3f from;
+    osg::Pnt3f at;
+    osg::Vec3f up;
+    nbOSGWidget::getFromAtUp(-1, from, at, up);
+    return at != seenAt || up != seenUp;
 }
 
 void UVGizmo::placeHandles(const osg::Matrix& /*worldFromAnchor*/)
@@ -206,7 +210,8 @@ void UVGizmo::placeHandles(const osg::Matrix& /*worldFromAnchor*/)
                                                  : static_cast<float>(distance / kDistancePerScale);
     placeTransform(handles.getRootTransform(), place, osg::Quaternion::identity(),
                    osg::Vec3f(rootScale, rootScale, rootScale));
-    facing = cameraFacing();
+    osg::Pnt3f from;
+    nbOSGWidget::getFromAtUp(-1, from, seenAt, seenUp);
     const osg::Transform3DPtr view = osg::Transform3DPtr::dcast(root->getCore());
     {
         const EditBracket edit(
@@ -214,7 +219,7 @@ void UVGizmo::placeHandles(const osg::Matrix& /*worldFromAnchor*/)
         view->setRotatePivot(place);
         view->setScalePivot(place);
     }
-    placeTransform(view, osg::Vec3f(), facing, osg::Vec3f(viewScale, viewScale, viewScale));
+    placeTransform(view, osg::Vec3f(), cameraFacing(), osg::Vec3f(viewScale, viewScale, viewScale));
 }
 
 // == Drags

@@ -4,7 +4,7 @@
 #include "manipulator/UVTextureManipulator.h"
 #include "manipulator/detail/AnchoredGizmo.h"
 
-#include <OpenSG/OSGQuaternion.h>
+#include <OpenSG/OSGVector.h>
 
 namespace nbec::manipulator::detail {
 
@@ -36,7 +36,8 @@ private:
     void rotate(const osg::Vec2f& pointer);
     void scale(const osg::Vec2f& pointer);
 
-    osg::Quaternion facing;  ///< of the camera at the last placement
+    osg::Pnt3f seenAt;  ///< where the camera looked at the last placement
+    osg::Vec3f seenUp;  ///< of the camera at the last placement
     float startRotate = 0.0F;  ///< degrees
     float newRotate = 0.0F;  ///< degrees
     osg::Vec2f startScale;

@@ -6,11 +6,13 @@
 #include <nbNotification/CameraNotifier.h>
 #include <nbNotification/NotificationManager.h>
 
+#include <QtCore/QByteArray>
 #include <QtCore/QCoreApplication>
 #include <QtCore/QString>
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <memory>
 
 namespace nbec::manipulator::detail {
@@ -25,7 +27,14 @@ constexpr float kBackGrey = 0.05F;
 constexpr float kAreaEdge = 30.0F;
 constexpr float kTextHeight = 26.0F;
 constexpr int kDecimals = 2;
-constexpr float kLeastShown = 0.005F;
+constexpr double kHundredths = 100.0;
+constexpr std::uint64_t kBase = 10;
+/// Hundredths of values below are exact in a double, with a half added too.
+constexpr double kQuickLimit = 1e13;
+/// Room for a value below that limit, without its sign.
+constexpr std::size_t kLongestQuick = 24;
+/// Room for a value: the greatest float has 39 digits before the point.
+constexpr std::size_t kLongestValue = 48;
 
 osg::Color3f grey(float value)
 {
@@ -50,6 +59,31 @@ float viewAspect()
     }
     return std::min(
         static_cast<float>(widget->getWidth()) / static_cast<float>(widget->getHeight()), 1.0F);
+}
+
+/// Writes a value of any float with two decimals, halves rounded away from zero. What rounds to
+/// zero has no sign. @return end of what was written
+char* writeValue(char* to, double value)
+{
+    const double magnitude = std::abs(value);
+    if (!(magnitude < kQuickLimit)) {
+        const QByteArray digits = QByteArray::number(value, 'f', kDecimals);
+        return std::copy(digits.begin(), digits.end(), to);
+    }
+    auto hundredths = static_cast<std::uint64_t>(std::floor(magnitude * kHundredths + 0.5));
+    if (value < 0.0 && hundredths > 0) {
+        *to++ = '-';
+    }
+    char reversed[kLongestQuick];
+    int count = 0;
+    while (hundredths > 0 || count <= kDecimals) {
+        if (count == kDecimals) {
+            reversed[count++] = '.';
+        }
+        reversed[count++] = static_cast<char>('0' + hundredths % kBase);
+        hundredths /= kBase;
+    }
+    return std::reverse_copy(reversed, reversed + count, to);
 }
 
 }  // namespace
@@ -92,14 +126,14 @@ QString describeValues(const char* title, std::initializer_list<float> values)
 {
     QString text = QCoreApplication::translate("nbForegroundTextContext", title);
     bool isFirst = true;
+    char digits[kLongestValue];
     for (const float value : values) {
         if (!isFirst) {
             text += QLatin1String(", ");
         }
         isFirst = false;
-        // What rounds to zero is shown without a sign.
-        const double shown = std::abs(value) < kLeastShown ? 0.0 : static_cast<double>(value);
-        text += QString::number(shown, 'f', kDecimals);
+        const char* const end = writeValue(digits, static_cast<double>(value));
+        text += QLatin1String(digits, static_cast<int>(end - digits));
     }
     text += QLatin1Char(')');
     return text;

@@ -92,12 +92,6 @@ AttachmentPtr AttachmentContainer::findAttachment(UInt32 groupId, UInt16 binding
     return found != map.end() ? found->second : AttachmentPtr();
 }
 
-AttachmentPtr AttachmentContainer::findAttachment(const FieldContainerType& type,
-                                                  UInt16 binding) const
-{
-    return findAttachment(type.getGroupId(), binding);
-}
-
 void AttachmentContainer::cloneReferences(ContainerCloner& cloner)
 {
     Inherited::cloneReferences(cloner);

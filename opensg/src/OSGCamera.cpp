@@ -5,6 +5,7 @@
 #include <OpenSG/OSGViewport.h>
 #include <OpenSG/OSGWindow.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <utility>
@@ -18,32 +19,44 @@ namespace {
 using Row = std::array<double, 4>;
 using Grid = std::array<Row, 4>;  // [row][column]
 
+Grid gridOf(const Matrix& matrix)
+{
+    Grid result {};
+    for (UInt32 row = 0; row < 4; ++row) {
+        for (UInt32 column = 0; column < 4; ++column) {
+            result[row][column] = static_cast<double>(matrix[column][row]);
+        }
+    }
+    return result;
+}
+
 /// a * b in double.
 Grid product(const Grid& a, const Matrix& b)
 {
     Grid result {};
     for (UInt32 row = 0; row < 4; ++row) {
         for (UInt32 column = 0; column < 4; ++column) {
+            double sum = 0.0;
             for (UInt32 k = 0; k < 4; ++k) {
-                result[row][column] += a[row][k] * static_cast<double>(b[column][k]);
+                sum += a[row][k] * static_cast<double>(b[column][k]);
             }
+            result[row][column] = sum;
         }
     }
     return result;
 }
 
-Grid unit()
+/// Two solutions of the same equations with different right sides.
+struct RowPair
 {
-    Grid result {};
-    for (UInt32 i = 0; i < 4; ++i) {
-        result[i][i] = 1.0;
-    }
-    return result;
-}
+    Row first {};
+    Row second {};
+};
 
-/// Solves m * x = b by elimination with row exchanges; zeros if m is singular.
-Row solve(Grid m, Row b)
+/// Solves m * x = b for both b by one elimination with row exchanges; zeros if m is singular.
+RowPair solve(Grid m, RowPair b)
 {
+    Row inversePivots {};
     for (UInt32 column = 0; column < 4; ++column) {
         UInt32 pivot = column;
         for (UInt32 row = column + 1; row < 4; ++row) {
@@ -52,23 +65,30 @@ Row solve(Grid m, Row b)
             }
         }
         if (!(std::fabs(m[pivot][column]) > 0.0)) {
-            return Row {};
+            return {};
         }
-        std::swap(m[pivot], m[column]);
-        std::swap(b[pivot], b[column]);
-        for (UInt32 row = 0; row < 4; ++row) {
-            if (row == column) {
-                continue;
-            }
-            const double factor = m[row][column] / m[column][column];
-            for (UInt32 k = column; k < 4; ++k) {
+        if (pivot != column) {
+            std::swap(m[pivot], m[column]);
+            std::swap(b.first[pivot], b.first[column]);
+            std::swap(b.second[pivot], b.second[column]);
+        }
+        inversePivots[column] = 1.0 / m[column][column];
+        for (UInt32 row = column + 1; row < 4; ++row) {
+            const double factor = m[row][column] * inversePivots[column];
+            for (UInt32 k = column + 1; k < 4; ++k) {
                 m[row][k] -= factor * m[column][k];
             }
-            b[row] -= factor * b[column];
+            b.first[row] -= factor * b.first[column];
+            b.second[row] -= factor * b.second[column];
         }
     }
-    for (UInt32 i = 0; i < 4; ++i) {
-        b[i] /= m[i][i];
+    for (UInt32 i = 4; i-- > 0;) {
+        for (UInt32 k = i + 1; k < 4; ++k) {
+            b.first[i] -= m[i][k] * b.first[k];
+            b.second[i] -= m[i][k] * b.second[k];
+        }
+        b.first[i] *= inversePivots[i];
+        b.second[i] *= inversePivots[i];
     }
     return b;
 }
@@ -89,8 +109,17 @@ Vec3f directionBetween(const Row& from, const Row& to)
     for (UInt32 i = 0; i < 3; ++i) {
         d[i] = sign * (to[i] * from[3] - from[i] * to[3]);
     }
-    const double length = std::hypot(d[0], d[1], d[2]);
-    const double scale = length > 0.0 ? 1.0 / length : 0.0;
+    // Scaled, so that no square leaves the range of numbers.
+    const double largest = std::max({ std::fabs(d[0]), std::fabs(d[1]), std::fabs(d[2]) });
+    if (!(largest > 0.0) || !std::isfinite(largest)) {
+        return {};
+    }
+    const double inverse = 1.0 / largest;
+    for (UInt32 i = 0; i < 3; ++i) {
+        d[i] *= inverse;
+    }
+    const double length = std::sqrt(d[0] * d[0] + d[1] * d[1] + d[2] * d[2]);
+    const double scale = 1.0 / length;
     return { static_cast<Real32>(d[0] * scale), static_cast<Real32>(d[1] * scale),
              static_cast<Real32>(d[2] * scale) };
 }
@@ -146,13 +175,16 @@ bool Camera::calcViewRay(Line& line, Int32 x, Int32 y, const Viewport& port)
     getProjection(projection, width, height);
     getProjectionTranslation(translation, width, height);
     getViewing(viewing, width, height);
-    const Grid screenFromWorld =
-        product(product(product(unit(), projection), translation), viewing);
+    Grid screenFromWorld = gridOf(projection);
+    if (translation != Matrix::identity()) {
+        screenFromWorld = product(screenFromWorld, translation);
+    }
+    screenFromWorld = product(screenFromWorld, viewing);
 
     // In double and by homogeneous points: in single precision the difference of two close points
     // loses the direction far from the origin. A far plane at infinity works too.
-    const Row front = solve(screenFromWorld, { ndcX, ndcY, -1.0, 1.0 });
-    const Row back = solve(screenFromWorld, { ndcX, ndcY, 1.0, 1.0 });
+    const auto [front, back] =
+        solve(screenFromWorld, { { ndcX, ndcY, -1.0, 1.0 }, { ndcX, ndcY, 1.0, 1.0 } });
     line.setValue(pointOf(front), directionBetween(front, back));
     return true;
 }

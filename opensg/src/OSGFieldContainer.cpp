@@ -92,13 +92,6 @@ void FieldContainer::destroy(FieldContainer* container)
     tables.destroying = false;
 }
 
-FieldContainer* FieldContainerPtr::checked(const FieldContainerPtr& source,
-                                           const FieldContainerType& type)
-{
-    const bool fits = source != NullFC && source->getType().isDerivedFrom(type);
-    return fits ? source.target : nullptr;
-}
-
 // == Counting
 
 void addRefCP(const FieldContainerPtr& container)

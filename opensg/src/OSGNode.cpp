@@ -305,7 +305,10 @@ void Node::getWorldVolume(DynamicVolume& result)
 
 void Node::invalidateVolume()
 {
-    for (Node* node = this; node != nullptr; node = node->getParent().getCPtr()) {
+    volume.setValid(false);
+    // Above an invalid volume all are invalid, or do not depend on it because a node is inactive.
+    for (Node* node = getParent().getCPtr(); node != nullptr && node->volume.isValid();
+         node = node->getParent().getCPtr()) {
         node->volume.setValid(false);
     }
 }

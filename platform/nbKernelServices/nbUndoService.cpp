@@ -271,9 +271,14 @@ bool nbUndoService::isNewInStep(osg::UInt32 containerId)
     return internals->isRecording() && internals->step.meet(containerId);
 }
 
-nbTransformEntry* nbUndoService::noteTransform(const osg::Transform3DPtr& core)
+void nbUndoService::noteTransform(const osg::Transform3DPtr& core)
 {
-    return internals->isRecording() ? &internals->step.getTransforms().note(core) : nullptr;
+    internals->transformChanges(core);
+}
+
+TransformTable* nbUndoService::getOpenTransforms()
+{
+    return internals->isRecording() ? &internals->step.getTransforms() : nullptr;
 }
 
 void nbUndoService::openScope(bool isRecorded)

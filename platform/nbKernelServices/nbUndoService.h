@@ -10,7 +10,7 @@
 
 class QUndoStack;
 class nbUndoRecord;
-struct nbTransformEntry;
+class TransformTable;
 
 /// Records edits and takes them back, as steps on a QUndoStack (of Qt's widgets module, which works
 /// without an application object).
@@ -83,10 +83,14 @@ public:
     /// @return whether something records, and it is asked for the first time in the open step
     bool isNewInStep(osg::UInt32 containerId);
 
-    /// To be called before each edit of a transform core. The first call in a step keeps the state;
-    /// the next ones find it again, fastest when the cores of each scope come in the same order.
-    /// @return what is kept of the core, valid until the next call; null if nothing records
-    nbTransformEntry* noteTransform(const osg::Transform3DPtr& core);
+    /// To be called before an edit of a transform core. The first call in a step keeps the state.
+    void noteTransform(const osg::Transform3DPtr& core);
+
+    /// For many edits: the transforms of the open step, each of which is to be noted there before
+    /// an edit. The first time in a step keeps the state; the next ones find it again, fastest when
+    /// the cores of each scope come in the same order.
+    /// @return valid until the scope or group closes; null if nothing records
+    TransformTable* getOpenTransforms();
 
     nbUndoService(const nbUndoService&) = delete;
     nbUndoService& operator=(const nbUndoService&) = delete;

@@ -18,6 +18,12 @@ bool sameBits(const Value& a, const Value& b)
     return std::memcmp(a.getValues(), b.getValues(), sizeof(Value)) == 0;
 }
 
+bool isSameOrder(const Char8 (&kept)[3], const std::string& order)
+{
+    return order.size() == sizeof kept && order[0] == kept[0] && order[1] == kept[1] &&
+        order[2] == kept[2];
+}
+
 }  // namespace
 
 Vec3f Transform3D::getRotation() const
@@ -48,31 +54,45 @@ void Transform3D::setRotation(const Quaternion& rotation)
 
 Quaternion Transform3D::getRotationAsQuaternion() const
 {
+    return currentTurn();
+}
+
+/// R, with the rows of the cache brought into step with it.
+const Quaternion& Transform3D::currentTurn() const
+{
+    const Quaternion& orientation = getRotationOrientation();
+    bool isCurrent = sameBits(cache.orientation, orientation);
     if (getRotationMode() == QuaternionMode) {
-        return getRotationQuaternion();
-    }
-    const Vec3f& angles = getEulerRotation();
-    if (!sameBits(cache.angles, angles) || cache.order != getEulerRotationOrder()) {
-        cache.turn = nbEulerRotation::toQuaternion(angles, getEulerRotationOrder());
+        const Quaternion& turn = getRotationQuaternion();
+        isCurrent = isCurrent && sameBits(cache.turn, turn);
+        cache.turn = turn;
+        cache.isOfAngles = false;
+    } else if (const Vec3f& angles = getEulerRotation(); !cache.isOfAngles ||
+               !sameBits(cache.angles, angles) ||
+               !isSameOrder(cache.order, getEulerRotationOrder())) {
+        const std::string& order = getEulerRotationOrder();
+        cache.turn = nbEulerRotation::toQuaternion(angles, order);
         cache.angles = angles;
-        cache.order = getEulerRotationOrder();
+        cache.isOfAngles = order.size() == sizeof cache.order;  // others are not kept
+        if (cache.isOfAngles) {
+            std::memcpy(cache.order, order.data(), sizeof cache.order);
+        }
+        isCurrent = false;
+    }
+    if (!isCurrent) {
+        cache.orientation = orientation;
+        const nbQuaterniond turn = nbRotationMath::toDouble(cache.turn);
+        cache.rows = nbRotationMath::rotationRows(
+            sameBits(orientation, Quaternion())
+                ? turn
+                : nbRotationMath::product(turn, nbRotationMath::toDouble(orientation)));
     }
     return cache.turn;
 }
 
 const nbRotationMath::Rows& Transform3D::getWholeRotation() const
 {
-    const Quaternion turn = getRotationAsQuaternion();
-    const Quaternion& orientation = getRotationOrientation();
-    if (!sameBits(cache.rowsTurn, turn) || !sameBits(cache.rowsOrientation, orientation)) {
-        const nbQuaterniond whole = sameBits(orientation, Quaternion())
-            ? nbRotationMath::toDouble(turn)
-            : nbRotationMath::product(nbRotationMath::toDouble(turn),
-                                      nbRotationMath::toDouble(orientation));
-        cache.rows = nbRotationMath::rotationRows(whole);
-        cache.rowsTurn = turn;
-        cache.rowsOrientation = orientation;
-    }
+    currentTurn();
     return cache.rows;
 }
 

@@ -88,14 +88,15 @@ private:
     /// rotation as it is.
     struct RotationCache
     {
-        Vec3f angles { 0.f, 0.f, 0.f };
-        std::string order { "xyz" };
-        Quaternion turn;  ///< by the angles
-
-        Quaternion rowsTurn;
-        Quaternion rowsOrientation;
         nbRotationMath::Rows rows { { { 1.0, 0.0, 0.0 }, { 0.0, 1.0, 0.0 }, { 0.0, 0.0, 1.0 } } };
+        Quaternion turn;  ///< R
+        Quaternion orientation;
+        Vec3f angles { 0.f, 0.f, 0.f };  ///< that gave the turn
+        Char8 order[3] = { 'x', 'y', 'z' };
+        bool isOfAngles = true;  ///< the turn comes from angles and order
     };
+
+    const Quaternion& currentTurn() const;
 
     mutable RotationCache cache;
 };

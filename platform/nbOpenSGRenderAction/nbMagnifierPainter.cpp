@@ -108,12 +108,14 @@ void MagnifierPainter::draw(Gl& gl, float pixelRatio, GLuint emptyArray)
     gl.glActiveTexture(GL_TEXTURE0);
     gl.glBindTexture(GL_TEXTURE_2D, texture);
     gl.glBindVertexArray(emptyArray);
-    // The rest of the picture costs nothing.
+    // The rest of the picture costs nothing. A cursor far outside leaves nothing to be drawn.
+    const auto edge = [radius](float middle) {
+        constexpr float kFarthest = 1e6f;
+        return static_cast<GLint>(std::floor(std::clamp(middle - radius, -kFarthest, kFarthest)));
+    };
+    const auto side = static_cast<GLsizei>(std::ceil(2.f * radius)) + 3;
     gl.glEnable(GL_SCISSOR_TEST);
-    gl.glScissor(static_cast<GLint>(std::floor(x - radius)) - 1,
-                 static_cast<GLint>(std::floor(y - radius)) - 1,
-                 static_cast<GLsizei>(std::ceil(2.f * radius)) + 3,
-                 static_cast<GLsizei>(std::ceil(2.f * radius)) + 3);
+    gl.glScissor(edge(x) - 1, edge(y) - 1, side, side);
     gl.glEnable(GL_BLEND);
     gl.glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ZERO, GL_ONE);
     gl.glDrawArrays(GL_TRIANGLES, 0, 3);

@@ -264,6 +264,11 @@ void main()
     vec4 surface = vertexColors != 0 ? vec4(vertexColor.rgb, vertexColor.a * opacity)
                                      : vec4(diffuseColor, opacity);
 #ifdef PROJECTED
+#ifdef TEXTURED
+    // A texture that colours the surface lies under the pictures.
+    bool isUnderPictures = textureMode == 2;
+    surface = isUnderPictures ? textured(surface) : surface;
+#endif
     surface = withPictures(surface);
 #endif
     vec3 normal = facingNormal();
@@ -272,7 +277,9 @@ void main()
 #else
     vec4 color = vec4(surface.rgb + emissionColor, surface.a);
 #endif
-#ifdef TEXTURED
+#if defined(TEXTURED) && defined(PROJECTED)
+    color = isUnderPictures ? color : textured(color);
+#elif defined(TEXTURED)
     color = textured(color);
 #endif
 #ifdef DISCARDS

@@ -34,6 +34,8 @@ public:
     /// Name of an order.
     static std::string getStringFromOrder(int order);
 
+    // NOLINTBEGIN(readability-identifier-naming): names that hosts know
+
     /// Angles of a rotation. The middle angle of the order lies in -90 .. 90 degrees; where it is
     /// within 1e-10 of the ends (cosine), the last angle is 0 and the first takes the whole turn.
     /// @param rotation  any length but 0, which gives zero angles
@@ -42,6 +44,8 @@ public:
 
     /// Unit quaternion of the angles.
     static nbQuaterniond QuatFromEul(const nbEulerAngles& angles);
+
+    // NOLINTEND(readability-identifier-naming)
 
     /// The same rotation in another order, the angles of EulFromQuat.
     static nbEulerAngles convertOrder(const nbEulerAngles& angles, int order);

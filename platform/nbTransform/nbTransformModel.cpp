@@ -112,12 +112,15 @@ private:
     }
 };
 
-Transform3DPtr transformOf(const osg::NodePtr& node)
+Transform3DPtr convertedCore(const osg::NodePtr& node)
+{
+    return Transform3DPtr::dcast(nbNodeUtils::convertToTransform3DNode(node)->getCore());
+}
+
+inline Transform3DPtr transformOf(const osg::NodePtr& node)
 {
     const auto core = Transform3DPtr::dcast(node->getCore());
-    return core != osg::NullFC
-        ? core
-        : Transform3DPtr::dcast(nbNodeUtils::convertToTransform3DNode(node)->getCore());
+    return core != osg::NullFC ? core : convertedCore(node);
 }
 
 /// Hands each target with a value to edit(subject, value, faults), which answers whether it took
@@ -126,8 +129,8 @@ template <class Edit>
 osg::UInt32 editAll(const char* title, osg::UInt32 count, nbTransformModel::ValueFunction values,
                     Edit edit)
 {
-    nbUndoService* const undo = nbUndoService::the();
     const nbScopedUndo scope(title);
+    TransformTable* const recorded = nbUndoService::the()->getOpenTransforms();
     Faults faults;
     osg::UInt32 edited = 0;
     for (osg::UInt32 i = 0; i < count; ++i) {
@@ -141,7 +144,8 @@ osg::UInt32 editAll(const char* title, osg::UInt32 count, nbTransformModel::Valu
             continue;
         }
         const Transform3DPtr core = transformOf(node);
-        if (edit(Subject { node, core, undo->noteTransform(core) }, value.second, faults)) {
+        nbTransformEntry* const entry = recorded != nullptr ? &recorded->note(core) : nullptr;
+        if (edit(Subject { node, core, entry }, value.second, faults)) {
             ++edited;
         }
     }
@@ -256,13 +260,16 @@ bool moveInWorld(const Subject& subject, const nbTransformMath::Frame& frame, co
         ++faults.flattened;
         return false;
     }
-    const Vec3f start = subject.entry != nullptr ? subject.entry->start.translation
-                                                 : subject.core->getTranslation();
-    const bool isStart = isSame(value, toFloat(frame.toOuter(toDouble(start))));
-    const Vec3f translation = isStart ? start : toFloat(frame.toInner(toDouble(value)));
-    if (!isFinite(translation)) {
-        ++faults.notFinite;
-        return false;
+    Vec3f translation = value;
+    if (!frame.isIdentity) {
+        const Vec3f& start = subject.entry != nullptr ? subject.entry->start.translation
+                                                      : subject.core->getTranslation();
+        const bool isStart = isSame(value, toFloat(frame.toOuter(toDouble(start))));
+        translation = isStart ? start : toFloat(frame.toInner(toDouble(value)));
+        if (!isFinite(translation)) {
+            ++faults.notFinite;
+            return false;
+        }
     }
     const nbEdit edit(subject.core, Transform3D::TranslationFieldMask);
     subject.core->setTranslation(translation);

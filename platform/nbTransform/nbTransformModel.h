@@ -96,9 +96,12 @@ public:
     nbTransformModel& operator=(const nbTransformModel&) = delete;
 
 private:
+    static constexpr double kStartRotationPrecisionDeg = 15.0;
+    static constexpr double kStartScalePrecision = 0.1;
+
     nbTransformModel() = default;
 
     double translationPrecision = 1.0;
-    double rotationPrecision = 15.0;
-    double scalePrecision = 0.1;
+    double rotationPrecision = kStartRotationPrecisionDeg;
+    double scalePrecision = kStartScalePrecision;
 };

@@ -77,19 +77,18 @@ public:
             core->setTranslation(vector(1.0F));
             core->setRotation(vector(180.0F));
             const float size = number(0.5F, 2.0F);
-            core->setScale(uniformParent ? Vec3f(size, size, size)
-                                         : Vec3f(size, number(0.5F, 2.0F), number(0.5F, 2.0F)));
+            core->setScale(uniformParent ? Vec3f(size, size, size) : factors());
         });
         drags.edit(drags.core(), [&](const osg::Transform3DPtr& core) {
             core->setEulerRotationOrder(kOrders[pick(std::size(kOrders))]);
             core->setTranslation(vector(1.0F));
             core->setRotation(vector(180.0F));
             core->setRotationMode(static_cast<osg::Int32>(pick(3)));
-            core->setRotationQuaternion(osg::Quaternion(unit(), number(0.0F, 2.0F * kPi)));
-            core->setScale(Vec3f(number(0.5F, 2.0F), number(0.5F, 2.0F), number(0.5F, 2.0F)));
+            core->setRotationQuaternion(turn());
+            core->setScale(factors());
             core->setRotatePivot(vector(0.5F));
             core->setScalePivot(vector(0.5F));
-            core->setRotationOrientation(osg::Quaternion(unit(), number(0.0F, 2.0F * kPi)));
+            core->setRotationOrientation(turn());
         });
         drags.activate(modeOf(handle));
         lookAtTheGizmo();
@@ -100,15 +99,14 @@ public:
         return std::uniform_real_distribution<float>(least, most)(random);
     }
 
-    Vec3f vector(float reach)
-    {
-        return Vec3f(number(-reach, reach), number(-reach, reach), number(-reach, reach));
-    }
+    Vec3f vector(float reach) { return vectorOf(-reach, reach); }
 
     /// Whole pixels.
     Vec2f offset(float reachPx)
     {
-        return Vec2f(std::round(number(-reachPx, reachPx)), std::round(number(-reachPx, reachPx)));
+        const float right = std::round(number(-reachPx, reachPx));
+        const float up = std::round(number(-reachPx, reachPx));
+        return Vec2f(right, up);
     }
 
     /// False where another handle covers the chosen one.
@@ -165,11 +163,30 @@ private:
         return std::uniform_int_distribution<std::size_t>(0, count - 1)(random);
     }
 
+    // Numbers are drawn one statement after the other: the order in which arguments are worked out
+    // is the compiler's choice.
+
+    Vec3f vectorOf(float least, float most)
+    {
+        const float x = number(least, most);
+        const float y = number(least, most);
+        const float z = number(least, most);
+        return Vec3f(x, y, z);
+    }
+
+    Vec3f factors() { return vectorOf(0.5F, 2.0F); }
+
     Vec3f unit()
     {
         Vec3f result = vector(1.0F);
         result.normalize();
         return result;
+    }
+
+    osg::Quaternion turn()
+    {
+        const Vec3f axis = unit();
+        return osg::Quaternion(axis, number(0.0F, 2.0F * kPi));
     }
 
     void lookAtTheGizmo()
@@ -180,7 +197,10 @@ private:
         camera->setFov(number(20.0F, 70.0F));
         osg::endEditCP(camera);
         const Pnt3f anchor = drags.onGizmo(Vec3f(0, 0, 0));
-        camera->setFromAtUp(anchor + unit() * number(3.0F, 30.0F), anchor + vector(0.3F), unit());
+        const Vec3f side = unit();
+        const float distance = number(3.0F, 30.0F);
+        const Vec3f beside = vector(0.3F);
+        camera->setFromAtUp(anchor + side * distance, anchor + beside, unit());
         Gizmo::updateAllManipulators();
     }
 
@@ -328,13 +348,21 @@ TEST(DragProperties, PlanesAndArrowsKeepTheGrabbedPointUnderThePointer)
         const Pnt2f ahead = drags.rayPixelOf(held + axis * 0.1F);
         Vec2f along = ahead - drags.rayPixelOf(held);
         along.normalize();
+        // In parallel projection an arrow follows the pointer's part along its line, however far
+        // beside the line the pointer goes; in perspective that holds on the line.
+        const Vec2f aside(-along.y(), along.x());
+        const float reach = drags.scene.widget.getUberCamera()->isOrthographic() ? 40.0F : 0.0F;
         for (int i = 1; i <= 20; ++i) {
-            // Along an axis whole pixels leave up to half a pixel beside it, which is not counted.
             const float way = 3.0F * static_cast<float>(i) * (drag.number(0, 1) < 0.5F ? 1 : -1);
-            const Vec2f offset = isPlane
-                ? drag.offset(80.0F)
-                : Vec2f(std::round(along.x() * way), std::round(along.y() * way));
+            const Vec2f onArrow = along * way + aside * drag.number(-reach, reach);
+            const Vec2f offset = isPlane ? drag.offset(80.0F)
+                                         : Vec2f(std::round(onArrow.x()), std::round(onArrow.y()));
             ASSERT_TRUE(drags.stepTo(offset));
+            Pnt3f met;
+            ASSERT_TRUE(detail::pointerRay(drags.scene.widget, ray));
+            if (!detail::intersectPlane(osg::Plane(normal, origin), ray, met)) {
+                continue;  // behind the near plane, where nothing moves
+            }
             const Vec3f moved = drags.onGizmo(Vec3f(0, 0, 0)) - origin;
             const Vec2f now = drags.rayPixelOf(held + moved) - (drags.drag.pressed + offset);
             const Vec2f drift = now - gap;

@@ -2,12 +2,16 @@
 #include "manipulator/ManipulatorInteractionContext.h"
 #include "manipulator/PerspectiveMatchManipulator.h"
 #include "manipulator/PlanarTextureManipulator.h"
+#include "manipulator/TireProjectionManipulator.h"
+#include "manipulator/TriplanarTextureManipulator.h"
+#include "manipulator/UVTextureManipulator.h"
 #include "manipulator/UniversalTransformManipulator2.h"
 #include "manipulator/nbSceneplatePickTool.h"
 #include "tests/platform/support/VirtualSlot.h"
 
 #include <gtest/gtest.h>
 
+#include <type_traits>
 #include <vector>
 
 namespace nbec::manipulator::test {
@@ -96,6 +100,28 @@ TEST(VirtualTable, AnObjectOfQtThatManipulatesIsAnObjectFirst)
         EXPECT_EQ(places[i], places[0] + static_cast<std::ptrdiff_t>(i));
     }
     EXPECT_GT(places[0], 0);
+}
+
+template <class Gizmo>
+class AnchoredVirtualTable : public testing::Test
+{ };
+
+using AnchoredGizmos =
+    testing::Types<TriplanarTextureManipulator, UVTextureManipulator, TireProjectionManipulator>;
+TYPED_TEST_SUITE(AnchoredVirtualTable, AnchoredGizmos);
+
+TYPED_TEST(AnchoredVirtualTable, AppendsNothing)
+{
+    using Gizmo = TypeParam;
+    EXPECT_EQ(virtualSlot(&Gizmo::activate), 0);
+    EXPECT_EQ(virtualSlot(&Gizmo::getVisualisation), 3);
+    EXPECT_EQ(virtualSlot(&Gizmo::update), 5);
+    EXPECT_EQ(virtualSlot(&Gizmo::startManipulator), 6);
+    EXPECT_EQ(virtualSlot(&Gizmo::stopManipulator), 8);
+    EXPECT_EQ(virtualSlot(&Gizmo::hover), 9);
+    EXPECT_EQ(virtualSlot(&Gizmo::resetManipulator), 12);
+    EXPECT_EQ(virtualSlot(&Gizmo::setManipulatorMode), 15);
+    EXPECT_TRUE((std::is_base_of_v<AbstractManipulator, Gizmo>));
 }
 
 TEST(VirtualTable, TheContextKeepsTheOrderOfItsBase)

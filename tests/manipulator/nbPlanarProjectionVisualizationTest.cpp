@@ -6,6 +6,8 @@
 #include <nbOpenSGExt/Transform3D.h>
 #include <nbOpenSGUberMaterial/ColorComponentSettings.h>
 
+#include <OpenSG/OSGContainerCensus.h>
+
 #include <functional>
 
 namespace {
@@ -165,8 +167,14 @@ TEST(nbPlanarProjectionVisualization, ShowsAndHidesAsAWholeAndTheZExtentAlone)
 
 TEST(nbPlanarProjectionVisualization, NothingIsLeftBehind)
 {
-    const osg::NodeRefPtr held(nbPlanarProjectionVisualization().getRootNode());
-    EXPECT_EQ(1U, held->getRefCount());
+    const osg::ContainerCensus before = osg::ContainerCensus::take();
+    {
+        const osg::RefPtr<osg::ImagePtr> image(makeImage(osg::Image::OSG_RGB_PF, { 9, 9, 9 }));
+        nbPlanarProjectionVisualization visualization;
+        visualization.setTexture(image.get(), true, true);
+        const nbPlanarProjectionVisualization copy(visualization);
+    }
+    EXPECT_EQ(osg::ContainerCensus::take().differenceTo(before), "");
 }
 
 // == Placement

@@ -7,6 +7,7 @@
 #include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGNodePtr.h>
 #include <OpenSG/OSGPerspectiveCamera.h>
+#include <OpenSG/OSGSimpleGeometry.h>
 #include <OpenSG/OSGSimpleMaterial.h>
 #include <OpenSG/OSGTransform.h>
 
@@ -221,6 +222,41 @@ TEST(NodeToWorld, FollowsAMatrixWrittenThroughAKeptReference)
 }
 
 // == Children
+
+TEST(NodeVolume, FollowsEditsBelowNodesThatWereInactiveMeanwhile)
+{
+    const NodeRefPtr root(makeCoredNode<Group>());
+    const NodePtr hidden = makeCoredNode<Group>();
+    const NodePtr mover = makeCoredNode<Transform>();
+    root->addChild(hidden);
+    hidden->addChild(mover);
+    mover->addChild(makeBox(2, 2, 2, 1, 1, 1));
+    const auto move = [&mover](Real32 x) {
+        const TransformPtr core = TransformPtr::dcast(mover->getCore());
+        beginEditCP(core, Transform::MatrixFieldMask);
+        core->getMatrix().setTranslate(x, 0.f, 0.f);
+        endEditCP(core, Transform::MatrixFieldMask);
+    };
+    const auto activate = [&hidden](bool on) {
+        beginEditCP(hidden, Node::TravMaskFieldMask);
+        hidden->setActive(on);
+        endEditCP(hidden, Node::TravMaskFieldMask);
+    };
+    const auto right = [&root] { return root->getVolume(true).getMax().x(); };
+
+    move(3.f);
+    EXPECT_FLOAT_EQ(right(), 4.f);
+    activate(false);
+    EXPECT_TRUE(root->getVolume(true).isEmpty());
+    move(5.f);
+    move(6.f);
+    EXPECT_TRUE(root->getVolume(true).isEmpty());
+    activate(true);
+    EXPECT_FLOAT_EQ(right(), 7.f);
+    move(8.f);
+    move(9.f);
+    EXPECT_FLOAT_EQ(right(), 10.f);
+}
 
 TEST(NodeChildren, InsertingAChildOfTheSameNodePutsItBeforeTheOneThatStoodThere)
 {

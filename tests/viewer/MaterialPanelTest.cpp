@@ -10,6 +10,7 @@
 #include <nbKernelServices/nbUndoService.h>
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QComboBox>
 #include <QDockWidget>
 #include <QDoubleSpinBox>
@@ -114,6 +115,9 @@ TEST_F(MaterialPanelTest, ADroppedPictureIsSeenWhereItFellAndTheObjectKeepsItsCo
     EXPECT_EQ(recorded, "texture.drop");
     EXPECT_EQ(find<QLabel>("textureFile")->text(), "label.png");
     EXPECT_EQ(value("texture.handles"), QJsonValue("universal"));
+    find<QAction>("texture.edit")->trigger();
+    EXPECT_EQ(value("texture.edit"), QJsonValue(false));
+    EXPECT_EQ(stage().gizmo().shown(), Gizmo::Universal) << "the gizmo before is back";
 
     // Without handles and without the display of the projection.
     stage().showGizmo(Gizmo::None);
@@ -139,6 +143,43 @@ TEST_F(MaterialPanelTest, ADroppedPictureIsSeenWhereItFellAndTheObjectKeepsItsCo
     EXPECT_NEAR(was.red(), is.red(), 3);
     EXPECT_NEAR(was.blue(), is.blue(), 3);
     EXPECT_EQ(problems, QStringList());
+}
+
+TEST_F(MaterialPanelTest, APictureOnATexturedModelKeepsItsOwnColours)
+{
+    ModelData model;
+    model.materials.resize(1);
+    model.materials[0].diffuse = { 1.0F, 1.0F, 1.0F };
+    model.materials[0].texture = QImage(4, 4, QImage::Format_RGB888);
+    model.materials[0].texture.fill(QColor(0, 0, 255));
+    model.meshes.resize(1);
+    model.meshes[0].positions = { { -2, -2, 0 }, { 2, -2, 0 }, { 2, 2, 0 }, { -2, 2, 0 } };
+    model.meshes[0].normals = { 4, Vec3 { 0, 0, 1 } };
+    model.meshes[0].texCoords = { { 0, 0 }, { 1, 0 }, { 1, 1 }, { 0, 1 } };
+    model.meshes[0].triangles = { 0, 1, 2, 0, 2, 3 };
+    model.root.meshes = { 0 };
+    model.root.name = QStringLiteral("Blue");
+    stage().clear();
+    stage().add(model);
+    stage().setStandardView(nbCameraNavigation::StandardView::Front);
+    stage().frameAll();
+
+    drop(kLabel, "Blue");
+    stage().showGizmo(Gizmo::None);
+    stage().select(osg::NullFC);
+
+    QString error;
+    const QImage after = window.view().takePicture(error);
+    const QPoint middle(after.width() / 2, after.height() / 2);
+    int red = 0;
+    for (int y = -10; y <= 10; ++y) {
+        red = qMax(red, qRed(after.pixel(middle + QPoint(0, 4 * y))));
+    }
+    EXPECT_GT(red, 150) << "the label is as blue as the model";
+    const QColor beside =
+        after.pixelColor(middle + QPoint(qMin(after.width(), after.height()) * 2 / 5, 0));
+    EXPECT_EQ(beside.red(), 0);
+    EXPECT_GT(beside.blue(), 150);
 }
 
 TEST_F(MaterialPanelTest, ABrokenPictureIsOneLineAndNothingElse)

@@ -115,6 +115,12 @@ protected:
         return nbNodeUtils::getTransformNodeTranslation(object(name));
     }
 
+    float heightOfGizmo()
+    {
+        const osg::NodePtr handles = stage().gizmo().handles()->getChild(3)->getChild(0);
+        return handles->getToWorld()[3][1];
+    }
+
     QPointF position;  ///< of the pointer in the view
     MainWindow window;
 };
@@ -164,6 +170,21 @@ TEST_F(TransformTools, EscAndTheRightButtonTakeADragBack)
     send(QEvent::MouseButtonRelease, Qt::RightButton, Qt::LeftButton);
     release();
     EXPECT_EQ(placeOf("Knot"), before);
+
+    // At once again, before a picture was drawn.
+    drag("yaShape", 0.0, -10.0);
+    EXPECT_NE(placeOf("Knot"), before);
+    release();
+}
+
+TEST_F(TransformTools, TheGizmoGoesBackWithAPivot)
+{
+    action("gizmoRotatePivot")->trigger();
+    drag("yaShape", 0.0, -10.0);
+    release();
+    const float moved = heightOfGizmo();
+    play({ key("Ctrl+Z") });
+    EXPECT_LT(heightOfGizmo(), moved - 0.1F);
 }
 
 TEST_F(TransformTools, AnInterruptedDragKeepsWhatItDidAsAStep)

@@ -151,7 +151,12 @@ void addModes(CommandTable& table, PerspectiveMatchTool& tool, Stage& stage)
         tool.setVeil(opacity);
         return true;
     });
-    table.addSwitch("setActive", [&tool, &stage](bool on, QString& error) {
+    table.add("setActive", [&tool, &stage](const QJsonValue& value, QString& error) {
+        if (!value.isBool() && !value.isNull()) {
+            error = QStringLiteral("expected true or false");
+            return false;
+        }
+        const bool on = value.toBool(!tool.isActive());
         if (on && stage.pose().orthographic) {
             error = QStringLiteral("an orthographic view cannot be matched: switch to perspective");
             return false;

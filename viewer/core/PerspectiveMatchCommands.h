@@ -23,7 +23,8 @@ constexpr std::array<const char*, 2> kFovModeNames { "solved", "fixed" };
 /// |---|---|
 /// | setPhotograph | file name, "" for none |
 /// | setVeil | how much the photograph covers the models in match mode, 0 to 1 |
-/// | setActive, showLines, setLocked | true or false |
+/// | setActive | true or false; null changes to the other |
+/// | showLines, setLocked | true or false |
 /// | setLinesType | "xyz", "xy", "xz" or "yz" |
 /// | setFovMode | "solved" or "fixed" |
 /// | setMagnifyFactor | number from 1 to 32 |

@@ -81,10 +81,12 @@ bool readPlacing(const QJsonObject& object, const QString& path, JsonReader& rea
         return false;
     }
     if (object.contains(QLatin1String("anchor"))) {
-        plate.anchor = anchorFromName(object[QLatin1String("anchor")].toString());
-        if (!plate.anchor) {
+        const std::optional<osg::Int32> anchor =
+            anchorFromName(object[QLatin1String("anchor")].toString());
+        if (!anchor) {
             return reader.fail(path + QStringLiteral(".anchor"), QStringLiteral("unknown place"));
         }
+        plate.anchor = *anchor;
     }
     if (object.contains(QLatin1String("position"))) {
         osg::Vec2f position;

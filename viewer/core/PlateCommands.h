@@ -11,8 +11,9 @@ class Stage;
 /// - "plates.edit": true or false begins or ends editing in the view; null does the other.
 /// - "plates.addPicture": {"file": ...}; "plates.addText": {"text": ..., "font", "color", "bold",
 ///   "height"}, height of a line in heights of the view; "plates.addColor": {"color": "#rrggbb" or
-///   "#aarrggbb", "size": [width, height]}. All take "name", "front", "anchor", "position", and a
-///   picture "height", of the plate. What was added is selected.
+///   "#aarrggbb", "size": [width, height]}. All take "name", "front", "anchor" (the centre unless
+///   told) and "position" (mid-view unless told), and a picture "height", of the plate. What was
+///   added is selected.
 /// - "plates.select": array of names. "plates.remove", "plates.forward" and "plates.backward" for
 ///   the selected ones, and so are the following, each also a value, that of the plate selected
 ///   last:

@@ -42,95 +42,87 @@ constexpr double kLeastSize = 1e-3;
 const char* const kPairExpected = "expected an array of two numbers";
 const char* const kSwitchExpected = "expected true or false";
 
-std::vector<PlateField> makeFields()
-{
-    return {
-        { "front", "Scene plates to the front or back", kSwitchExpected,
-          [](const QJsonValue& value, Sceneplate* plate) {
-              if (plate != nullptr) {
-                  plate->setFront(value.toBool());
-              }
-              return value.isBool();
-          },
-          [](const Sceneplate& plate) { return QJsonValue(plate.getFront()); } },
-        { "visible", "Show or hide scene plates", kSwitchExpected,
-          [](const QJsonValue& value, Sceneplate* plate) {
-              if (plate != nullptr) {
-                  plate->setVisible(value.toBool());
-              }
-              return value.isBool();
-          },
-          [](const Sceneplate& plate) { return QJsonValue(plate.getVisible()); } },
-        { "opacity", "Opacity of scene plates", "expected a number from 0 to 1",
-          [](const QJsonValue& value, Sceneplate* plate) {
-              if (plate != nullptr) {
-                  plate->setOpacity(static_cast<float>(value.toDouble()));
-              }
-              return isNumber(value, 0.0) && value.toDouble() <= 1.0;
-          },
-          [](const Sceneplate& plate) {
-              return QJsonValue(static_cast<double>(plate.getOpacity()));
-          } },
-        { "position", "Move scene plates", kPairExpected,
-          [](const QJsonValue& value, Sceneplate* plate) {
-              osg::Vec2f pair;
-              const bool isPair = acceptPair(value, -kMost, pair);
-              if (plate != nullptr) {
-                  plate->setPosition(pair);
-              }
-              return isPair;
-          },
-          [](const Sceneplate& plate) { return QJsonValue(pairOf(plate.getPosition())); } },
-        { "size", "Size of scene plates", "expected an array of two numbers, at least 0.001",
-          [](const QJsonValue& value, Sceneplate* plate) {
-              osg::Vec2f pair;
-              const bool isPair = acceptPair(value, kLeastSize, pair);
-              if (plate != nullptr) {
-                  plate->setSize(pair);
-              }
-              return isPair;
-          },
-          [](const Sceneplate& plate) { return QJsonValue(pairOf(plate.getSize())); } },
-        { "scale", "Scale scene plates", "expected a number of at least 0.001",
-          [](const QJsonValue& value, Sceneplate* plate) {
-              if (plate != nullptr) {
-                  plate->setScale(static_cast<float>(value.toDouble()));
-              }
-              return isNumber(value, kLeastSize);
-          },
-          [](const Sceneplate& plate) {
-              return QJsonValue(static_cast<double>(plate.getScale()));
-          } },
-        { "rotation", "Turn scene plates", "expected a number of degrees",
-          [](const QJsonValue& value, Sceneplate* plate) {
-              if (plate != nullptr) {
-                  plate->setRotation(static_cast<float>(value.toDouble()));
-              }
-              return isNumber(value, -kMost);
-          },
-          [](const Sceneplate& plate) {
-              return QJsonValue(static_cast<double>(plate.getRotation()));
-          } },
-        { "color", "Colour of scene plates", "expected a colour such as \"#ff8000\"",
-          [](const QJsonValue& value, Sceneplate* plate) {
-              const std::optional<osg::Color4f> color = readPlateColor(value);
-              if (plate != nullptr && color) {
-                  plate->setColor(*color);
-              }
-              return color.has_value();
-          },
-          [](const Sceneplate& plate) {
-              return QJsonValue(colorOf(plate.getColor()).name(QColor::HexArgb));
-          } },
-    };
-}
+const std::vector<PlateField> kFields {
+    { "front", "Scene plates to the front or back", kSwitchExpected,
+      [](const QJsonValue& value, Sceneplate* plate) {
+          if (plate != nullptr) {
+              plate->setFront(value.toBool());
+          }
+          return value.isBool();
+      },
+      [](const Sceneplate& plate) { return QJsonValue(plate.getFront()); } },
+    { "visible", "Show or hide scene plates", kSwitchExpected,
+      [](const QJsonValue& value, Sceneplate* plate) {
+          if (plate != nullptr) {
+              plate->setVisible(value.toBool());
+          }
+          return value.isBool();
+      },
+      [](const Sceneplate& plate) { return QJsonValue(plate.getVisible()); } },
+    { "opacity", "Opacity of scene plates", "expected a number from 0 to 1",
+      [](const QJsonValue& value, Sceneplate* plate) {
+          if (plate != nullptr) {
+              plate->setOpacity(static_cast<float>(value.toDouble()));
+          }
+          return isNumber(value, 0.0) && value.toDouble() <= 1.0;
+      },
+      [](const Sceneplate& plate) { return QJsonValue(static_cast<double>(plate.getOpacity())); } },
+    { "position", "Move scene plates", kPairExpected,
+      [](const QJsonValue& value, Sceneplate* plate) {
+          osg::Vec2f pair;
+          const bool isPair = acceptPair(value, -kMost, pair);
+          if (plate != nullptr) {
+              plate->setPosition(pair);
+          }
+          return isPair;
+      },
+      [](const Sceneplate& plate) { return QJsonValue(pairOf(plate.getPosition())); } },
+    { "size", "Size of scene plates", "expected an array of two numbers, at least 0.001",
+      [](const QJsonValue& value, Sceneplate* plate) {
+          osg::Vec2f pair;
+          const bool isPair = acceptPair(value, kLeastSize, pair);
+          if (plate != nullptr) {
+              plate->setSize(pair);
+          }
+          return isPair;
+      },
+      [](const Sceneplate& plate) { return QJsonValue(pairOf(plate.getSize())); } },
+    { "scale", "Scale scene plates", "expected a number of at least 0.001",
+      [](const QJsonValue& value, Sceneplate* plate) {
+          if (plate != nullptr) {
+              plate->setScale(static_cast<float>(value.toDouble()));
+          }
+          return isNumber(value, kLeastSize);
+      },
+      [](const Sceneplate& plate) { return QJsonValue(static_cast<double>(plate.getScale())); } },
+    { "rotation", "Turn scene plates", "expected a number of degrees",
+      [](const QJsonValue& value, Sceneplate* plate) {
+          if (plate != nullptr) {
+              plate->setRotation(static_cast<float>(value.toDouble()));
+          }
+          return isNumber(value, -kMost);
+      },
+      [](const Sceneplate& plate) {
+          return QJsonValue(static_cast<double>(plate.getRotation()));
+      } },
+    { "color", "Colour of scene plates", "expected a colour such as \"#ff8000\"",
+      [](const QJsonValue& value, Sceneplate* plate) {
+          const std::optional<osg::Color4f> color = readPlateColor(value);
+          if (plate != nullptr && color) {
+              plate->setColor(*color);
+          }
+          return color.has_value();
+      },
+      [](const Sceneplate& plate) {
+          return QJsonValue(colorOf(plate.getColor()).name(QColor::HexArgb));
+      } },
+};
 
 }  // namespace
 
 const std::vector<PlateField>& plateFields()
 {
-    static const std::vector<PlateField> fields = makeFields();
-    return fields;
+    return kFields;
 }
 
 QString anchorName(osg::Int32 anchor)

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/core/PlatesTool.h"
 
-#include "viewer/core/PictureFile.h"
 #include "viewer/core/PlateCommands.h"
+#include "viewer/core/PlateFields.h"
 #include "viewer/core/Stage.h"
 
 #include <nbInteraction/EventNames.h>
@@ -15,7 +15,9 @@
 
 #include <OpenSG/OSGCoredNodePtr.h>
 
-#include <QFileInfo>
+#include <QCoreApplication>
+#include <QJsonArray>
+#include <QJsonObject>
 
 #include <algorithm>
 #include <cmath>
@@ -63,17 +65,11 @@ void place(const osg::SceneplatePtr& plate, const NewPlate& wanted, const nbOSGW
 {
     const int width = view.getWidth();
     const int height = std::max(view.getHeight(), 1);
-    const osg::Pnt2f middle(0.5F * static_cast<float>(width), 0.5F * static_cast<float>(height));
-    const osg::Pnt2f centre = wanted.centrePx.value_or(middle);
-    const osg::Int32 anchor = wanted.anchor.value_or(nearestAnchor(centre, view));
-    plate->setAnchor(anchor);
-    if (wanted.position) {
-        plate->setPosition(*wanted.position);
-    } else if (!wanted.centrePx && wanted.anchor) {
-        plate->setPosition(osg::Vec2f(0.F, 0.F));
-    } else {
-        plate->setPosition(nbSceneplateLayout::positionAt(anchor, centre, width, height));
-    }
+    const osg::Pnt2f middle =
+        nbSceneplateLayout::anchorPosition(osg::Sceneplate::Centre, width, height);
+    plate->setAnchor(wanted.anchor);
+    plate->setPosition(wanted.position.value_or(
+        nbSceneplateLayout::positionAt(wanted.anchor, middle, width, height)));
     const osg::Vec2f size = nbSceneplateLayout::toOffset(wanted.sizePx, height);
     plate->setSize(osg::Vec2f(size.x(), -size.y()));
 }
@@ -253,6 +249,17 @@ std::string PlatesTool::draggedValues() const
     }
 }
 
+QString PlatesTool::selectionText() const
+{
+    const std::vector<osg::NodePtr> nodes = selected();
+    if (nodes.size() > 1) {
+        return QCoreApplication::translate("viewer", "%1 scene plates").arg(nodes.size());
+    }
+    return nodes.empty() ? QCoreApplication::translate("viewer", "No scene plate selected")
+                         : QCoreApplication::translate("viewer", "Scene plate: %1")
+                               .arg(QString::fromStdString(nbNodeUtils::getName(nodes.front())));
+}
+
 // == Plates
 
 std::vector<osg::NodePtr> PlatesTool::all()
@@ -320,16 +327,19 @@ bool PlatesTool::takePicture(const QString& file, const osg::Pnt2f& px, QString&
     if (!active) {
         return false;
     }
-    NewPlate wanted;
-    wanted.image = readPicture(file, error);
-    if (!wanted.image) {
-        return false;
-    }
-    wanted.name = QFileInfo(file).completeBaseName().toStdString();
-    wanted.centrePx = px;
-    addPicture(wanted);
-    stage.edited();
-    return true;
+    const nbOSGWidget& view = stage.view();
+    const osg::Int32 anchor = nearestAnchor(px, view);
+    const osg::Vec2f position =
+        nbSceneplateLayout::positionAt(anchor, px, view.getWidth(), view.getHeight());
+    // As a command, so that it becomes part of a recording.
+    return stage.commands().run(
+        QStringLiteral("plates.addPicture"),
+        QJsonObject { { QStringLiteral("file"), file },
+                      { QStringLiteral("anchor"), anchorName(anchor) },
+                      { QStringLiteral("position"),
+                        QJsonArray { static_cast<double>(position.x()),
+                                     static_cast<double>(position.y()) } } },
+        error);
 }
 
 }  // namespace viewer

@@ -31,18 +31,17 @@ struct NewPlate
     osg::Vec2f sizePx;  ///< in the present view
     std::string name;  ///< a number is added if another plate has it
     bool front = true;
-    /// One of Sceneplate::AnchorPlace; absent: that which is nearest to the plate.
-    std::optional<osg::Int32> anchor;
-    std::optional<osg::Vec2f> position;  ///< from the anchor; absent: see centrePx
-    std::optional<osg::Pnt2f> centrePx;  ///< absent: at the anchor, by default mid-view
+    osg::Int32 anchor = osg::Sceneplate::Centre;
+    /// From the anchor; absent: mid-view.
+    std::optional<osg::Vec2f> position;
 };
 
 /// Scene plates in the viewer: titles, logos and overlays that a person adds, selects by click or
 /// rectangle and edits by their handles while this tool is active.
 ///
 /// Plates keep their place relative to the window: a plate is anchored to one of nine places of the
-/// view, and its distance from there and its size are in heights of the view. A new one is anchored
-/// to the place that is nearest to it.
+/// view, and its distance from there and its size are in heights of the view. One that is dropped
+/// on the view is anchored to the place that is nearest to it, others to the centre unless told.
 /// The selection of plates is remembered, without outlines, while the tool is not active. A person
 /// deletes plates, and everything else is done, by the commands of PlateCommands.h.
 class PlatesTool : public StageTool
@@ -71,6 +70,7 @@ public:
     bool findHandle(const std::string& handle, osg::Pnt2f& px) override;
     HandleAction actionOf(const std::string& handle) const override;
     std::string draggedValues() const override;
+    QString selectionText() const override;
 
     /// A picture dropped while the tool is active becomes a plate there.
     bool takePicture(const QString& file, const osg::Pnt2f& px, QString& error) override;

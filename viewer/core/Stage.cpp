@@ -70,7 +70,10 @@ Stage::Stage(nbOSGWidget& view)
         viewChanged();
         changed();
     });
-    manager.setCancelHandler([] { nbUndoService::the()->cancelGroup(); });
+    manager.setCancelHandler([this] {
+        nbUndoService::the()->cancelGroup();
+        edited();
+    });
     gizmoController.setDragCallback([this] { changed(); });
     nbec::notification::NotificationManager::getInstance()->setChangeListener(
         [this] { renderWidget.update(); });
@@ -468,14 +471,8 @@ bool Stage::canRedo() const
 
 void Stage::edited()
 {
-    gizmoController.update();
-    changed();
-}
-
-void Stage::cameraMoved()
-{
-    manager.cameraMoved(renderWidget.getUberCamera()->getInternalParentNode()->getToWorld());
-    viewChanged();
+    // Not update(): a pivot that goes back leaves the object, and so its matrix, as it is.
+    gizmoController.followCamera();
     changed();
 }
 

@@ -146,7 +146,12 @@ public:
     void edited();
 
     /// Tells everybody that the camera was placed by other means than this, as by its match.
-    void cameraMoved();
+    void cameraMoved()
+    {
+        manager.cameraMoved(renderWidget.getUberCamera()->getInternalParentNode()->getToWorld());
+        viewChanged();
+        changed();
+    }
 
     /// Tells the size of the view, device pixels, and the device pixels per logical one.
     void resize(int widthPx, int heightPx, float pixelRatio);

@@ -76,6 +76,10 @@ public:
     /// What a running drag edits, for the status line; "" while nothing is dragged.
     virtual std::string draggedValues() const { return {}; }
 
+    /// What of its own an active tool has selected, for the status line; "" for the scene's
+    /// selection.
+    virtual QString selectionText() const { return {}; }
+
     // == Files
 
     /// Offers a picture file that was dropped on the view.

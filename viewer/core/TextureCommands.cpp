@@ -166,6 +166,17 @@ void TextureCommands::addHandleCommands()
         const bool areShown = tool.isActive() && !tool.isPlacing();
         return QString::fromStdString(areShown ? tool.group() : std::string());
     });
+    commands.add(named("edit"), [this](const QJsonValue& value, QString& error) {
+        bool on = !tool.isActive();
+        if (!value.isNull() && !JsonReader(error).readBool(value, named("edit"), on)) {
+            return false;
+        }
+        if (on != tool.isActive()) {
+            stage.setActiveTool(on ? &tool : nullptr);
+        }
+        return true;
+    });
+    commands.addValue(named("edit"), [this] { return tool.isActive(); });
     addSwitch(commands, "place", [this](bool on, QString& error) {
         const bool isPossible = !on || tool.target().settings() != osg::NullFC;
         if (isPossible) {

@@ -17,6 +17,7 @@ class TextureTool;
 /// - handles "translate", "rotate", "scale", "rotateScale" or "universal": shows these, as far as
 ///   the projection has them; place BOOL: clicks place the picture, or the handles alone where only
 ///   these have a place;
+/// - edit BOOL: gives the pointer to the tool or back; null: the other way round;
 /// - translation, rotation (degrees), scale [x, y, z] of the planar projection, in the object's
 ///   space;
 /// - keepAspect, repeatU, repeatV, endInDepth, mask, invert BOOL;

@@ -24,7 +24,7 @@ class VectorEdit;
 
 /// The picture on the selected object: its file, how it is projected, the handles, and a preview.
 /// Owns the texture tool of the stage and its commands.
-class MaterialPanel : public Panel
+class MaterialPanel final : public Panel
 {
     Q_OBJECT
 

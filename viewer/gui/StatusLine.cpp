@@ -2,6 +2,7 @@
 #include "viewer/gui/StatusLine.h"
 
 #include "viewer/core/Stage.h"
+#include "viewer/core/StageTool.h"
 
 #include <QFileInfo>
 #include <QLabel>
@@ -72,7 +73,9 @@ StatusLine::StatusLine(QStatusBar& bar)
 
 void StatusLine::update(Stage& stage, bool isLoading)
 {
-    setTextOf(selectionLabel, selectionText(stage));
+    const QString ofTool =
+        stage.activeTool() != nullptr ? stage.activeTool()->selectionText() : QString();
+    setTextOf(selectionLabel, ofTool.isEmpty() ? selectionText(stage) : ofTool);
     setTextOf(handleLabel, pointerText(stage));
     setTextOf(valuesLabel, QString::fromStdString(stage.draggedValues()));
     setTextOf(sceneLabel, tr("%L1 triangles").arg(stage.triangleCount()));

@@ -192,9 +192,13 @@ void WindowActions::addManipulatorMenu()
     addCommand(menu, "scene.addClipPlane", tr("Add cl&ip plane"), "Shift+X");
     removeClipPlane = addCommand(menu, "scene.removeClipPlane", tr("Remo&ve clip plane"), "");
     menu->addSeparator();
+    matchCamera = addCommand(menu, "match.setActive", tr("&Match a photograph"), "Shift+M");
+    matchCamera->setCheckable(true);
     editPlates = addCommand(menu, "plates.edit", tr("&Edit scene plates"), "Shift+P");
     editPlates->setCheckable(true);
     removePlates = addCommand(menu, "plates.remove", tr("&Delete scene plates"), "Del");
+    editPictures = addCommand(menu, "texture.edit", tr("Edit pict&ures on objects"), "Shift+T");
+    editPictures->setCheckable(true);
     menu->addSeparator();
     addTransformSettings(menu);
 }
@@ -297,8 +301,11 @@ void WindowActions::update()
 
 void WindowActions::updateGizmos()
 {
-    const auto arePlatesEdited = stage.commands().value(QStringLiteral("plates.edit"));
-    editPlates->setChecked(arePlatesEdited && arePlatesEdited->toBool());
+    const auto isOn = [this](const char* value) {
+        return stage.commands().value(QLatin1String(value)).value_or(false).toBool();
+    };
+    matchCamera->setChecked(isOn("match.active"));
+    editPlates->setChecked(isOn("plates.edit"));
     removePlates->setEnabled(editPlates->isChecked());
     if (stage.activeTool() == nullptr) {
         gizmoActions[stage.gizmo().shown()]->setChecked(true);
@@ -322,6 +329,8 @@ void WindowActions::updateEditing()
     redo->setEnabled(stage.canRedo());
     undo->setText(titled(tr("&Undo"), stack->undoText()));
     redo->setText(titled(tr("&Redo"), stack->redoText()));
+    const auto arePicturesEdited = stage.commands().value(QStringLiteral("texture.edit"));
+    editPictures->setChecked(arePicturesEdited && arePicturesEdited->toBool());
     const bool isSelected = stage.selectedObject() != osg::NullFC;
     centerPivots->setEnabled(isSelected && !stage.isDragging());
     gizmoActions[Gizmo::Clipping]->setEnabled(stage.isClipPlaneSelected());

@@ -67,8 +67,10 @@ private:
     QAction* snapping = nullptr;
     QAction* centerPivots = nullptr;
     QAction* removeClipPlane = nullptr;
+    QAction* matchCamera = nullptr;
     QAction* editPlates = nullptr;
     QAction* removePlates = nullptr;
+    QAction* editPictures = nullptr;
     QMenu* stepsMenu = nullptr;
     StepsPanel* stepsPanel = nullptr;
     QAction* orthographic = nullptr;

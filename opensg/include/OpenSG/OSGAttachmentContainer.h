@@ -32,7 +32,11 @@ public:
     /// Null if there is none.
     AttachmentPtr findAttachment(UInt32 groupId, UInt16 binding = 0) const;
 
-    AttachmentPtr findAttachment(const FieldContainerType& type, UInt16 binding = 0) const;
+    AttachmentPtr findAttachment(const FieldContainerType& type, UInt16 binding = 0) const
+    {
+        return sfAttachments.getValue().empty() ? AttachmentPtr()
+                                                : findAttachment(type.getGroupId(), binding);
+    }
 
     SFAttachmentMap* getSFAttachments() { return &sfAttachments; }
 

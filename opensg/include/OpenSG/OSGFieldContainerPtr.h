@@ -126,8 +126,13 @@ public:
     }
 
 protected:
-    /// The object if it is of the type or derived from it, otherwise null.
-    static FieldContainer* checked(const FieldContainerPtr& source, const FieldContainerType& type);
+    /// The object if it is of the type or derived from it, otherwise null. A template, because the
+    /// class is not complete here.
+    template <class Container>
+    static Container* checked(Container* object, const FieldContainerType& type)
+    {
+        return object != nullptr && object->getType().isDerivedFrom(type) ? object : nullptr;
+    }
 
     FieldContainer* target = nullptr;
 };
@@ -155,7 +160,8 @@ public:
     static Self dcast(const FieldContainerPtr& source)
     {
         return Self(
-            static_cast<Object*>(FieldContainerPtr::checked(source, Object::getClassType())));
+            static_cast<Object*>(
+                FieldContainerPtr::checked(source.getCPtr(), Object::getClassType())));
     }
 
     Object* operator->() const { return static_cast<Object*>(this->target); }

@@ -162,13 +162,14 @@ private:
     NodePtr copyAlone(ContainerCloner* cloner) const;
     NodePtr copyTree(ContainerCloner* cloner) const;
 
+    // In this order what an edit below touches lies close together.
     SField<UInt32> sfTravMask { 0xffffffffu };
     SFNodePtr sfParent;
     SField<NodeCorePtr> sfCore;
-    MFNodePtr mfChildren;
-    DynamicVolume volume;
     UInt64 subtreeChangeCount = 0;
+    DynamicVolume volume;
     std::unique_ptr<WorldCache> world;
+    MFNodePtr mfChildren;
 };
 
 /// See Node::clone. Null gives null.

@@ -17,8 +17,8 @@ struct ViewShape
 /// What the perspective match of a camera holds.
 struct MatchState
 {
-    /// As a new match has them: along the edges of a box that is seen from above and from one side,
-    /// within any view that is not narrower than high.
+    /// As a new match has them: along the edges of a box with an upright edge in front, within any
+    /// view that is not narrower than high.
     PerspectiveLines lines {
         QLineF(0.10, 0.70, 0.45, 0.80), QLineF(0.10, 0.30, 0.45, 0.20),
         QLineF(0.45, 0.80, 0.45, 0.20), QLineF(0.90, 0.70, 0.89, 0.30),

@@ -67,6 +67,10 @@ Vec3d scalePivotCompensation(const nbTransformState& state, const Matrix3d& rota
 Frame Frame::of(const osg::Matrix& matrix)
 {
     Frame frame;
+    frame.isIdentity = matrix == osg::Matrix::identity();
+    if (frame.isIdentity) {
+        return frame;
+    }
     std::array<Vec3d, 3> columns {};
     double lengths = 1.0;
     for (osg::UInt32 i = 0; i < 3; ++i) {

@@ -104,6 +104,7 @@ struct Frame
     Matrix3d inverse;
     Vec3d origin { 0.0, 0.0, 0.0 };
     bool invertible = true;
+    bool isIdentity = true;
 
     Vec3d toOuter(const Vec3d& point) const { return linear * point + origin; }
 

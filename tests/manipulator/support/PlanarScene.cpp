@@ -43,7 +43,11 @@ PlanarScene::PlanarScene(Receiver receiver)
         editor->setMaterial(material.get(), scene.node, osg::UberMaterial::kDiffuseComponent);
     } else {
         listen("label::changedPlanarManipulator");
-        listen("label::getScaleValues");
+        listen("label::getScaleValues", [this](nbMessage& message) {
+            if (scaleReply) {
+                scaleReply(message);
+            }
+        });
         listen("setMatRenderEnabled");
         listen("updateMatRender");
     }
@@ -72,16 +76,6 @@ void PlanarScene::makeMaterial()
     osg::beginEditCP(geometry, osg::Geometry::MaterialFieldMask);
     geometry->setMaterial(material.get());
     osg::endEditCP(geometry, osg::Geometry::MaterialFieldMask);
-}
-
-void PlanarScene::listen(const std::string& name)
-{
-    nbController::addReceiver(name, [this, name](nbMessage& message) {
-        log.push_back({ name, message });
-        if (name == "label::getScaleValues" && scaleReply) {
-            scaleReply(message);
-        }
-    });
 }
 
 void PlanarScene::look(Camera from, bool orthographic)
@@ -142,33 +136,5 @@ bool PlanarScene::grab(const std::string& name, const osg::Vec3f& unit)
     return drag.press(onHandle(name, unit)) &&
         nbNodeUtils::getName(scene.picker.getHitNode()) == name;
 }
-
-std::vector<std::string> PlanarScene::takeNames()
-{
-    std::vector<std::string> names;
-    for (const SentMessage& sent : log) {
-        names.push_back(sent.name);
-    }
-    log.clear();
-    return names;
-}
-
-SentMessage PlanarScene::last() const
-{
-    return log.empty() ? SentMessage() : log.back();
-}
-
-template <class T>
-T attribute(const SentMessage& sent, const std::string& name)
-{
-    T value {};
-    EXPECT_TRUE(nbMessage::get(sent.message, name, value)) << sent.name << ' ' << name;
-    return value;
-}
-
-template bool attribute<bool>(const SentMessage&, const std::string&);
-template float attribute<float>(const SentMessage&, const std::string&);
-template osg::Vec2f attribute<osg::Vec2f>(const SentMessage&, const std::string&);
-template osg::Vec3f attribute<osg::Vec3f>(const SentMessage&, const std::string&);
 
 }  // namespace nbec::manipulator::test

@@ -3,6 +3,7 @@
 
 #include "manipulator/PlanarTextureManipulator.h"
 #include "tests/manipulator/support/HandleDrag.h"
+#include "tests/manipulator/support/MessageLog.h"
 
 #include <nbMaterialEditor/nbMaterialEditor.h>
 #include <nbOpenSGUberMaterial/UberMaterial.h>
@@ -15,16 +16,9 @@
 
 namespace nbec::manipulator::test {
 
-/// A message as it came, without replies.
-struct SentMessage
-{
-    std::string name;
-    nbMessage message;
-};
-
 /// A scene whose box wears a material with a planar projection, from -1 to 1 at the origin, and a
 /// planar gizmo with all its handles. The messages go to a log, or to a real editor.
-class PlanarScene
+class PlanarScene : public MessageLog
 {
 public:
     enum class Receiver
@@ -57,12 +51,6 @@ public:
     /// Presses on a point of a handle. @return whether that handle was grabbed
     bool grab(const std::string& name, const osg::Vec3f& unit);
 
-    /// Names of the messages in the log, which is emptied.
-    std::vector<std::string> takeNames();
-    /// The last message in the log; an empty one if there is none.
-    SentMessage last() const;
-
-    std::vector<SentMessage> log;
     /// What "::getScaleValues" is answered with; nothing at the start.
     std::function<void(nbMessage&)> scaleReply;
 
@@ -77,11 +65,6 @@ public:
 
 private:
     void makeMaterial();
-    void listen(const std::string& name);
 };
-
-/// Value of an attribute; fails the test if it is missing or of another type.
-template <class T>
-T attribute(const SentMessage& sent, const std::string& name);
 
 }  // namespace nbec::manipulator::test

@@ -10,6 +10,7 @@
 #include <nbOpenSGUberViewport/nbPhotographFit.h>
 
 #include <cstdlib>
+#include <limits>
 #include <memory>
 
 #include <tests/platform/support/RenderTest.h>
@@ -216,6 +217,10 @@ TEST_F(nbRenderPhotographTest, TheMagnifierShowsPixelsAsSquaresAboutTheCursor)
         EXPECT_EQ(wrong, 0);
         EXPECT_GT(compared, 900);
     }
+    nbMagnifierRenderer::setCursorPosition(std::numeric_limits<int>::max(),
+                                           std::numeric_limits<int>::min());
+    EXPECT_EQ(draw(kWidth, kHeight), plain);
+    nbMagnifierRenderer::setCursorPosition(150, 100);
     nbOSGWidget other;
     other.setMain();
     EXPECT_EQ(draw(kWidth, kHeight), plain);

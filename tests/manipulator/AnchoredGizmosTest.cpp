@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: MIT
+// What the gizmos at an anchor point do where the host lacks something.
+#include "manipulator/TireProjectionManipulator.h"
+#include "manipulator/TriplanarTextureManipulator.h"
+#include "manipulator/UVTextureManipulator.h"
+#include "tests/manipulator/support/AnchorScene.h"
+
+#include <nbKernel/nbController.h>
+#include <nbOpenSGExt/Transform3D.h>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace nbec::manipulator::test {
+
+namespace {
+
+using osg::Pnt2f;
+using osg::Pnt3f;
+using osg::Vec2f;
+using osg::Vec3f;
+using Settings = osg::ColorComponentSettings;
+
+template <class Gizmo>
+struct Traits;
+
+template <>
+struct Traits<TriplanarTextureManipulator>
+{
+    static constexpr const char* kChanged = "::changedTriplanarManipulator";
+    static constexpr auto kType = Settings::TriplanarProjection;
+};
+
+template <>
+struct Traits<UVTextureManipulator>
+{
+    static constexpr const char* kChanged = "::changedUVManipulator";
+    static constexpr auto kType = Settings::UVProjection;
+};
+
+template <>
+struct Traits<TireProjectionManipulator>
+{
+    static constexpr const char* kChanged = "::changedTireManipulator";
+    static constexpr auto kType = Settings::TireProjection;
+};
+
+template <class Gizmo>
+class AnchoredGizmos : public testing::Test
+{ };
+
+using AllGizmos =
+    testing::Types<TriplanarTextureManipulator, UVTextureManipulator, TireProjectionManipulator>;
+TYPED_TEST_SUITE(AnchoredGizmos, AllGizmos);
+
+/// Handles that nothing lies in front of, seen from the front.
+const Vec3f kArrowHead(0, 1.9F, 0);
+
+}  // namespace
+
+TYPED_TEST(AnchoredGizmos, WithoutAViewNothingIsFoundAndNothingIsSent)
+{
+    TypeParam gizmo;
+    interaction::Picker picker;
+    ManipulatorInteractionContext context;
+    context.setPicker(&picker);
+    const osg::RefPtr<osg::NodePtr> node(osg::makeCoredNode<osg::Transform3D>());
+    const osg::UberMaterialRefPtr material(osg::UberMaterial::create());
+    gizmo.setAnchor(node.get(), Pnt3f(1, 2, 3));
+    gizmo.setMaterialComponent(material.get(), "diffuse", nullptr);
+    gizmo.activate(&context);
+    gizmo.update(true);
+
+    EXPECT_TRUE(gizmo.isActive());
+    EXPECT_EQ(gizmo.getAnchorPosition(), Pnt3f(1, 2, 3));
+    EXPECT_FALSE(gizmo.hover(&context, "select"));
+    EXPECT_FALSE(gizmo.startManipulator(&context, "select"));
+    EXPECT_FALSE(gizmo.processManipulator(&context, "select"));
+    EXPECT_FALSE(gizmo.stopManipulator(&context, "select"));
+    gizmo.deactivate(&context);
+}
+
+TYPED_TEST(AnchoredGizmos, AViewThatIsLostDuringADragLosesNothing)
+{
+    TypeParam gizmo;
+    AnchorScene at(gizmo, Traits<TypeParam>::kChanged, Traits<TypeParam>::kType);
+    gizmo.activateUniversalManipulator();
+    at.look(Camera::Oblique, false);
+    ASSERT_TRUE(at.grab("yaShape", kArrowHead));
+    {
+        nbOSGWidget other;  // without area
+        other.setMain();
+        at.drag.stepTo(Vec2f(5, 5));
+        gizmo.update(true);
+    }
+    at.scene.widget.setMain();
+    gizmo.update(true);
+    EXPECT_TRUE(at.drag.stepTo(Vec2f(5, -5)));
+    EXPECT_EQ(at.last().name, std::string("label") + Traits<TypeParam>::kChanged);
+    EXPECT_TRUE(at.drag.release());
+    EXPECT_TRUE(at.scene.hover(at.onHandle("yaShape", kArrowHead)));
+}
+
+TYPED_TEST(AnchoredGizmos, AnAnchorThatIsDeletedDuringADragLeavesTheHandlesWhereTheyAre)
+{
+    TypeParam gizmo;
+    AnchorScene at(gizmo, Traits<TypeParam>::kChanged, Traits<TypeParam>::kType);
+    gizmo.activateUniversalManipulator();
+    osg::RefPtr<osg::NodePtr> passing(osg::makeCoredNode<osg::Transform3D>());
+    gizmo.setAnchor(passing.get(), Pnt3f(0.5F, 0, 0));
+    at.look(Camera::Oblique, true);
+    ASSERT_TRUE(at.grab("yaShape", kArrowHead));
+    const Pnt3f place = at.onHandle("yaShape", Vec3f());
+    passing = osg::NullFC;
+    EXPECT_EQ(gizmo.getAnchorNode(), osg::NullFC);
+    EXPECT_TRUE(at.drag.stepTo(Vec2f(0, -9)));
+    EXPECT_EQ(at.last().name, std::string("label") + Traits<TypeParam>::kChanged);
+    gizmo.update(true);
+    EXPECT_EQ(at.onHandle("yaShape", Vec3f()), place);
+    EXPECT_TRUE(at.drag.release());
+}
+
+TYPED_TEST(AnchoredGizmos, DeactivatingOnlyTakesTheHandlesAway)
+{
+    TypeParam gizmo;
+    AnchorScene at(gizmo, Traits<TypeParam>::kChanged, Traits<TypeParam>::kType);
+    gizmo.activateUniversalManipulator();
+    at.look(Camera::Oblique, false);
+    ASSERT_TRUE(at.grab("yaShape", kArrowHead));
+    at.takeNames();
+    // Deliberate: the drag goes on and no message is sent.
+    gizmo.deactivate(&at.scene.context);
+    EXPECT_TRUE(at.log.empty());
+    EXPECT_EQ(gizmo.getVisualisation()->getParent(), osg::NullFC);
+    gizmo.activate(&at.scene.context);
+    EXPECT_TRUE(at.drag.stepTo(Vec2f(3, 3)));
+    EXPECT_TRUE(at.drag.release());
+}
+
+TYPED_TEST(AnchoredGizmos, AGizmoThatDiesDuringADragResumesThePreview)
+{
+    auto gizmo = std::make_unique<TypeParam>();
+    AnchorScene at(*gizmo, Traits<TypeParam>::kChanged, Traits<TypeParam>::kType);
+    gizmo->activateUniversalManipulator();
+    at.look(Camera::Oblique, false);
+    ASSERT_TRUE(at.grab("yaShape", kArrowHead));
+    at.takeNames();
+    at.scene.manager.removeContext(&at.scene.context);
+    at.scene.context.setManipulator(nullptr);
+    gizmo.reset();
+    TypeParam::updateAllManipulators();
+    EXPECT_EQ(at.takeNames(),
+              (std::vector<std::string> { "setMatRenderEnabled", "updateMatRender" }));
+}
+
+}  // namespace nbec::manipulator::test

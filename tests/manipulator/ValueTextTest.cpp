@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#include "manipulator/detail/ValueText.h"
+
+#include <QtCore/QString>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdint>
+#include <cstring>
+#include <limits>
+#include <random>
+#include <string>
+
+namespace nbec::manipulator::detail {
+
+namespace {
+
+std::string describe(float x, float y, float z)
+{
+    return describeValues("Scale (", osg::Vec3f(x, y, z)).toStdString();
+}
+
+}  // namespace
+
+TEST(ValueText, HasTwoDecimalsAndNoSignOnZero)
+{
+    EXPECT_EQ(describe(0.0F, 1.0F, -2.5F), "Scale (0.00, 1.00, -2.50)");
+    EXPECT_EQ(describe(-0.0F, -0.004F, 0.005F), "Scale (0.00, 0.00, 0.00)");
+    EXPECT_EQ(describe(0.125F, -0.125F, 9.996F), "Scale (0.13, -0.13, 10.00)");
+    EXPECT_EQ(describe(16777216.0F, -1234567.9F, 0.05F), "Scale (16777216.00, -1234567.88, 0.05)");
+    const float infinity = std::numeric_limits<float>::infinity();
+    EXPECT_EQ(describe(infinity, -infinity, 1e20F), "Scale (inf, -inf, 100000002004087734272.00)");
+    EXPECT_EQ(describe(std::numeric_limits<float>::quiet_NaN(), 0, 0), "Scale (nan, 0.00, 0.00)");
+}
+
+TEST(ValueText, RoundsAsTheLibraryDoes)
+{
+    std::mt19937 random(3);
+    for (int i = 0; i < 100000; ++i) {
+        const auto bits = static_cast<std::uint32_t>(random());
+        float value = 0.0F;
+        std::memcpy(&value, &bits, sizeof value);
+        if (!(std::abs(value) >= 0.005F)) {
+            continue;
+        }
+        const QString number = QString::number(static_cast<double>(value), 'f', 2);
+        ASSERT_EQ(describe(value, value, value),
+                  QStringLiteral("Scale (%1, %1, %1)").arg(number).toStdString());
+    }
+}
+
+}  // namespace nbec::manipulator::detail
