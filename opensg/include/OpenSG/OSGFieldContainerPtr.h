@@ -159,9 +159,8 @@ public:
     /// Checked cast; NullFC for null and for a container of another type.
     static Self dcast(const FieldContainerPtr& source)
     {
-        return Self(
-            static_cast<Object*>(
-                FieldContainerPtr::checked(source.getCPtr(), Object::getClassType())));
+        return Self(static_cast<Object*>(
+            FieldContainerPtr::checked(source.getCPtr(), Object::getClassType())));
     }
 
     Object* operator->() const { return static_cast<Object*>(this->target); }

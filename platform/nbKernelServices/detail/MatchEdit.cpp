@@ -42,8 +42,7 @@ bool isPlaceNearlySame(const CameraPose& a, const CameraPose& b)
     // The up vector of a camera that was not placed by its match is any that gives the same axis.
     const osg::Vec3f turn = nbCameraNavigation::axes(a).up - nbCameraNavigation::axes(b).up;
     return a.from.dist(b.from) <= kRounding * size && a.at.dist(b.at) <= kRounding * size &&
-        turn.length() <= kRounding &&
-        std::abs(a.fovDeg - b.fovDeg) <= kRounding * a.fovDeg;
+        turn.length() <= kRounding && std::abs(a.fovDeg - b.fovDeg) <= kRounding * a.fovDeg;
 }
 
 void announce(const nbdCameraNode& camera, const MatchState& before, const MatchState& after)
