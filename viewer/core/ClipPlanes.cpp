@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/core/ClipPlanes.h"
 
+#include "viewer/core/Stage.h"
+
 #include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbChildrenRecord.h>
 #include <nbKernelServices/nbScopedUndo.h>
@@ -194,6 +196,33 @@ bool isClipPlaneOrFrame(const osg::NodePtr& node)
 {
     return node != osg::NullFC &&
         (osg::ClipPlane3DPtr::dcast(node->getCore()) != osg::NullFC || isFrame(node));
+}
+
+void addClipPlaneCommands(Stage& stage)
+{
+    Commands& commands = stage.commands();
+    commands.add(QStringLiteral("scene.addClipPlane"), [&stage](const QJsonValue&, QString& error) {
+        const osg::NodePtr frame = addClipPlane(stage.pose().from - stage.pose().at);
+        if (frame == osg::NullFC) {
+            error = QStringLiteral("there is nothing to be cut");
+            return false;
+        }
+        stage.select(frame);
+        stage.showGizmo(Gizmo::Clipping);
+        return true;
+    });
+    commands.add(QStringLiteral("scene.removeClipPlane"),
+                 [&stage](const QJsonValue&, QString& error) {
+                     const osg::NodePtr frame = stage.selectedObject();
+                     stage.select(osg::NullFC);
+                     if (!removeClipPlane(frame)) {
+                         stage.select(frame);
+                         error = QStringLiteral("select a clip plane first");
+                         return false;
+                     }
+                     stage.showGizmo(Gizmo::Universal);
+                     return true;
+                 });
 }
 
 }  // namespace viewer

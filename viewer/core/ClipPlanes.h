@@ -7,6 +7,8 @@
 
 namespace viewer {
 
+class Stage;
+
 /// Clip planes in the viewer's scene. A plane is a node directly below the scene root that has
 /// everything to be cut below it, and beside it a node named "Clip plane" with the plane's frame:
 /// that is what a person selects, moves and turns. The outline of a square in the frame shows where
@@ -24,5 +26,10 @@ bool removeClipPlane(const osg::NodePtr& frame);
 
 /// Whether a node has a clip plane as its core or is the frame of one.
 bool isClipPlaneOrFrame(const osg::NodePtr& node);
+
+/// Adds the commands "scene.addClipPlane", which cuts away the half towards the eye and puts the
+/// gizmo on the plane, and "scene.removeClipPlane" for the selected one.
+/// @param stage  outlives the commands
+void addClipPlaneCommands(Stage& stage);
 
 }  // namespace viewer

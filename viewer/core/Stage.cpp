@@ -80,35 +80,8 @@ Stage::Stage(nbOSGWidget& view)
     manager.addContext(&selectionContext);
     manager.addContext(&cameraContext);
     selectionCallback = nbSelection::addChangedCallback([this] { selectionChanged(); });
-    addCommands();
+    addClipPlaneCommands(*this);
     addObjectCommands(*this);
-}
-
-void Stage::addCommands()
-{
-    commandTable.add(QStringLiteral("scene.addClipPlane"),
-                     [this](const QJsonValue&, QString& error) {
-                         const osg::NodePtr frame = addClipPlane(pose().from - pose().at);
-                         if (frame == osg::NullFC) {
-                             error = QStringLiteral("there is nothing to be cut");
-                             return false;
-                         }
-                         select(frame);
-                         showGizmo(Gizmo::Clipping);
-                         return true;
-                     });
-    commandTable.add(QStringLiteral("scene.removeClipPlane"),
-                     [this](const QJsonValue&, QString& error) {
-                         const osg::NodePtr frame = selectedObject();
-                         select(osg::NullFC);
-                         if (!removeClipPlane(frame)) {
-                             select(frame);
-                             error = QStringLiteral("select a clip plane first");
-                             return false;
-                         }
-                         showGizmo(Gizmo::Universal);
-                         return true;
-                     });
 }
 
 Stage::~Stage()

@@ -161,7 +161,6 @@ public:
     void setChangedCallback(std::function<void()> callback);
 
 private:
-    void addCommands();
     void selectionChanged();
     void viewChanged();
     void endActiveTool();
