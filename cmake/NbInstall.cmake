@@ -52,7 +52,7 @@ if(NBMANIPULATOR_VIEWER)
     set_target_properties(nbviewer PROPERTIES INSTALL_RPATH "$ORIGIN/${NBM_LIBRARIES_FROM_PROGRAM}")
     install(TARGETS nbviewer RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT viewer)
     install(DIRECTORY ${PROJECT_SOURCE_DIR}/viewer/models ${PROJECT_SOURCE_DIR}/viewer/sessions
-            DESTINATION ${CMAKE_INSTALL_DATADIR}/nbviewer COMPONENT viewer)
+            DESTINATION ${CMAKE_INSTALL_DATADIR}/nbviewer COMPONENT viewer PATTERN "*.py" EXCLUDE)
 endif()
 
 # == Packages: cpack in the build folder, or ./nb package
