@@ -54,7 +54,7 @@ class AnchoredGizmos : public testing::Test
 
 using AllGizmos =
     testing::Types<TriplanarTextureManipulator, UVTextureManipulator, TireProjectionManipulator>;
-TYPED_TEST_SUITE(AnchoredGizmos, AllGizmos);
+TYPED_TEST_SUITE(AnchoredGizmos, AllGizmos, );
 
 /// Handles that nothing lies in front of, seen from the front.
 const Vec3f kArrowHead(0, 1.9F, 0);

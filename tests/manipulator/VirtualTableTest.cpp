@@ -108,7 +108,7 @@ class AnchoredVirtualTable : public testing::Test
 
 using AnchoredGizmos =
     testing::Types<TriplanarTextureManipulator, UVTextureManipulator, TireProjectionManipulator>;
-TYPED_TEST_SUITE(AnchoredVirtualTable, AnchoredGizmos);
+TYPED_TEST_SUITE(AnchoredVirtualTable, AnchoredGizmos, );
 
 TYPED_TEST(AnchoredVirtualTable, AppendsNothing)
 {
