@@ -3,12 +3,9 @@
 // transform set within an open undo group, messages sent, gizmo placed. Beside the step for many
 // nodes stands a plain loop that makes the same edits. Gizmos are placed anew after the camera has
 // moved.
-#include "manipulator/ManipulatorInteractionContext.h"
+#include "benchmarks/GizmoStage.h"
 #include "manipulator/UniversalTransformManipulator2.h"
 
-#include <nbInteraction/InteractionManager.h>
-#include <nbInteraction/Picker.h>
-#include <nbKernel/nbOSGWidget.h>
 #include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbUndoService.h>
 #include <nbOpenSGExt/Transform3D.h>
@@ -23,13 +20,11 @@
 
 namespace {
 
-using nbec::manipulator::ManipulatorInteractionContext;
 using nbec::manipulator::UniversalTransformManipulator2;
-using Event = nbec::interaction::InteractionEvent;
+namespace bench = nbec::manipulator::bench;
 
 constexpr std::int64_t kManyNodes = 1000;
 constexpr std::size_t kManyGizmos = 1000;
-constexpr int kWayPx = 64;
 
 osg::NodePtr addTransform(const osg::Vec3f& translation)
 {
@@ -44,82 +39,22 @@ osg::NodePtr addTransform(const osg::Vec3f& translation)
     return node;
 }
 
-/// Nodes with a gizmo over the first one, whose handle is grabbed, seen from (5, 6, 7) in 1280 x
-/// 800 pixels.
-class Stage
+/// Nodes with a gizmo over the first one, seen from (5, 6, 7).
+struct Stage : bench::GizmoStage<UniversalTransformManipulator2>
 {
-public:
     explicit Stage(std::int64_t furtherCount)
     {
-        view.resize(1280, 800);
-        view.getUberCamera()->setFromAtUp(osg::Pnt3f(5, 6, 7), osg::Pnt3f(0, 0, 0),
-                                          osg::Vec3f(0, 1, 0));
+        look(osg::Pnt3f(5, 6, 7));
         node = addTransform(osg::Vec3f(-0.5F, -0.25F, 0.F));
         for (std::int64_t i = 0; i < furtherCount; ++i) {
             further.push_back(addTransform(osg::Vec3f(static_cast<float>(i), 20.F, 0.F)));
         }
-        gizmo.setVisualisationRoot(nbScenegraph::getInternalRoot());
         gizmo.setNode(node, further);
-        context.setPicker(&picker);
-        context.setManipulator(&gizmo);
-        manager.addContext(&context);
+        begin();
     }
 
-    Stage(const Stage&) = delete;
-    Stage& operator=(const Stage&) = delete;
-
-    ~Stage()
-    {
-        trigger(stopEvent, pressed);
-        nbUndoService::the()->endGroup();
-        nbUndoService::the()->clear();
-        manager.removeContext(&context);
-        nbScenegraph::clear();
-    }
-
-    /// Grabs the handle at a point of the gizmo's unit frame.
-    bool grab(const osg::Pnt3f& unit)
-    {
-        osg::Pnt3f world = unit;
-        gizmo.getVisualisation()->getChild(3)->getChild(0)->getToWorld().multMatrixPnt(world);
-        osg::Matrix clipFromWorld;
-        view.getCamera()->getWorldToScreen(clipFromWorld, *view.getViewport());
-        osg::Pnt3f device;
-        clipFromWorld.multFullMatrixPnt(world, device);
-        pressed = osg::Pnt2f((device.x() + 1.0F) * 640.0F, (1.0F - device.y()) * 400.0F);
-        nbUndoService::the()->beginGroup();
-        return trigger(startEvent, pressed) && trigger(processEvent, pressed);
-    }
-
-    /// The next step of a pointer that wanders to and fro; no step repeats the one before.
-    bool step()
-    {
-        way = way % (2 * kWayPx) + 1;
-        const auto offset = static_cast<float>(way <= kWayPx ? way : 2 * kWayPx - way);
-        return trigger(processEvent, pressed + osg::Vec2f(offset, -offset));
-    }
-
-    nbOSGWidget view;
-    UniversalTransformManipulator2 gizmo;
     osg::NodePtr node;
     std::vector<osg::NodePtr> further;
-
-private:
-    bool trigger(const Event& event, const osg::Pnt2f& positionPx)
-    {
-        view.setMousePosition(positionPx);
-        context.pointerMoved(positionPx);
-        return context.triggerEvent(&manager, event);
-    }
-
-    nbec::interaction::Picker picker;
-    ManipulatorInteractionContext context;
-    nbec::interaction::InteractionManager manager;
-    osg::Pnt2f pressed;
-    int way = 0;
-    const Event startEvent { "start", "tool", "select" };
-    const Event processEvent { "process", "tool", "select" };
-    const Event stopEvent { "stop", "tool", "select" };
 };
 
 using Activation = void (UniversalTransformManipulator2::*)();
@@ -139,17 +74,8 @@ const Drag kScale { &UniversalTransformManipulator2::activateScaleManipulator, {
 void runSteps(benchmark::State& state, Stage& stage, const Drag& drag)
 {
     (stage.gizmo.*drag.activate)();
-    if (!stage.grab(drag.grab)) {
-        state.SkipWithError("the handle was missed");
-        return;
-    }
-    std::int64_t handled = 0;
-    for (auto _ : state) {
-        handled += stage.step() ? 1 : 0;
-    }
-    if (handled != static_cast<std::int64_t>(state.iterations())) {
-        state.SkipWithError("a step was refused");
-    }
+    const osg::NodePtr frame = stage.gizmo.getVisualisation()->getChild(3)->getChild(0);
+    bench::dragSteps(state, stage, stage.pixelIn(frame, drag.grab));
 }
 
 void oneNode(benchmark::State& state, const Drag& drag, bool withText)

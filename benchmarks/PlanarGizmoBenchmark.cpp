@@ -10,9 +10,11 @@
 namespace {
 
 using nbec::manipulator::PlanarTextureManipulator;
+namespace bench = nbec::manipulator::bench;
+using bench::createAndDestroy;
 
 /// The gizmo on the picture's own box.
-struct Stage : nbec::manipulator::bench::TextureStage<PlanarTextureManipulator>
+struct Stage : bench::TextureStage<PlanarTextureManipulator>
 {
     Stage()
         : TextureStage("::changedPlanarManipulator", osg::ColorComponentSettings::PlanarProjection,
@@ -20,49 +22,18 @@ struct Stage : nbec::manipulator::bench::TextureStage<PlanarTextureManipulator>
     { }
 };
 
-void createAndDestroy(benchmark::State& state)
-{
-    {
-        const PlanarTextureManipulator first;
-    }  // makes the geometry that all share
-    for (auto _ : state) {
-        PlanarTextureManipulator gizmo;
-        benchmark::DoNotOptimize(gizmo);
-    }
-}
-
-/// Wanders along the y arrow, so that every step is a hit at another place of one handle.
+/// Along the y arrow, so that every step is a hit at another place of one handle.
 void hoverOnHandle(benchmark::State& state)
 {
     Stage stage;
-    const osg::Pnt2f from = stage.pixelOf(osg::Pnt3f(0, 1.15F, 0));
-    const osg::Pnt2f to = stage.pixelOf(osg::Pnt3f(0, 1.5F, 0));
-    constexpr int kSteps = 64;
-    int step = 0;
-    int hits = 0;
-    for (auto _ : state) {
-        const float t = static_cast<float>(step) / kSteps;
-        hits += stage.hover(from + (to - from) * t) ? 1 : 0;
-        step = (step + 1) % kSteps;
-    }
-    if (hits != static_cast<int>(state.iterations())) {
-        state.SkipWithError("a step missed the handle");
-    }
+    bench::hoverAlong(state, stage, stage.pixelOf(osg::Pnt3f(0, 1.15F, 0)),
+                      stage.pixelOf(osg::Pnt3f(0, 1.5F, 0)));
 }
 
 void hoverOffHandles(benchmark::State& state)
 {
     Stage stage;
-    constexpr int kSteps = 64;
-    int step = 0;
-    int hits = 0;
-    for (auto _ : state) {
-        hits += stage.hover(osg::Pnt2f(40.0F + static_cast<float>(step), 50.0F)) ? 1 : 0;
-        step = (step + 1) % kSteps;
-    }
-    if (hits != 0) {
-        state.SkipWithError("a step hit a handle");
-    }
+    bench::hoverBeside(state, stage);
 }
 
 void updateUnchanged(benchmark::State& state)
@@ -78,17 +49,7 @@ void dragSteps(benchmark::State& state, const char* receiver, const osg::Pnt3f& 
 {
     Stage stage;
     stage.gizmo.setMessageReceiver(receiver);
-    if (!stage.grab(unit)) {
-        state.SkipWithError("the handle was missed");
-        return;
-    }
-    std::int64_t handled = 0;
-    for (auto _ : state) {
-        handled += stage.step() ? 1 : 0;
-    }
-    if (handled != static_cast<std::int64_t>(state.iterations())) {
-        state.SkipWithError("a step was refused");
-    }
+    bench::dragSteps(state, stage, stage.pixelOf(unit));
 }
 
 const osg::Pnt3f kArrow(1.9F, 0.F, 0.F);
@@ -97,7 +58,9 @@ const osg::Pnt3f kScaleTab(2.5F, 0.F, 0.F);
 
 }  // namespace
 
-BENCHMARK(createAndDestroy)->Name("planar/create and destroy")->Unit(benchmark::kMicrosecond);
+BENCHMARK_TEMPLATE(createAndDestroy, PlanarTextureManipulator)
+    ->Name("planar/create and destroy")
+    ->Unit(benchmark::kMicrosecond);
 BENCHMARK(hoverOnHandle)->Name("planar/hover on a handle");
 BENCHMARK(hoverOffHandles)->Name("planar/hover off the handles");
 BENCHMARK(updateUnchanged)->Name("planar/update, nothing changed");

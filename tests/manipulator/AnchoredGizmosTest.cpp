@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What the gizmos at an anchor point do where the host lacks something.
-#include "manipulator/TireProjectionManipulator.h"
-#include "manipulator/TriplanarTextureManipulator.h"
-#include "manipulator/UVTextureManipulator.h"
 #include "tests/manipulator/support/AnchorScene.h"
+#include "tests/manipulator/support/AnchoredTraits.h"
 
 #include <nbKernel/nbController.h>
 #include <nbOpenSGExt/Transform3D.h>
@@ -23,30 +21,6 @@ using osg::Pnt3f;
 using osg::Vec2f;
 using osg::Vec3f;
 using Settings = osg::ColorComponentSettings;
-
-template <class Gizmo>
-struct Traits;
-
-template <>
-struct Traits<TriplanarTextureManipulator>
-{
-    static constexpr const char* kChanged = "::changedTriplanarManipulator";
-    static constexpr auto kType = Settings::TriplanarProjection;
-};
-
-template <>
-struct Traits<UVTextureManipulator>
-{
-    static constexpr const char* kChanged = "::changedUVManipulator";
-    static constexpr auto kType = Settings::UVProjection;
-};
-
-template <>
-struct Traits<TireProjectionManipulator>
-{
-    static constexpr const char* kChanged = "::changedTireManipulator";
-    static constexpr auto kType = Settings::TireProjection;
-};
 
 template <class Gizmo>
 class AnchoredGizmos : public testing::Test
@@ -86,7 +60,7 @@ TYPED_TEST(AnchoredGizmos, WithoutAViewNothingIsFoundAndNothingIsSent)
 TYPED_TEST(AnchoredGizmos, AViewThatIsLostDuringADragLosesNothing)
 {
     TypeParam gizmo;
-    AnchorScene at(gizmo, Traits<TypeParam>::kChanged, Traits<TypeParam>::kType);
+    AnchorScene at(gizmo, AnchoredTraits<TypeParam>::kChanged, AnchoredTraits<TypeParam>::kType);
     gizmo.activateUniversalManipulator();
     at.look(Camera::Oblique, false);
     ASSERT_TRUE(at.grab("yaShape", kArrowHead));
@@ -99,7 +73,7 @@ TYPED_TEST(AnchoredGizmos, AViewThatIsLostDuringADragLosesNothing)
     at.scene.widget.setMain();
     gizmo.update(true);
     EXPECT_TRUE(at.drag.stepTo(Vec2f(5, -5)));
-    EXPECT_EQ(at.last().name, std::string("label") + Traits<TypeParam>::kChanged);
+    EXPECT_EQ(at.last().name, std::string("label") + AnchoredTraits<TypeParam>::kChanged);
     EXPECT_TRUE(at.drag.release());
     EXPECT_TRUE(at.scene.hover(at.onHandle("yaShape", kArrowHead)));
 }
@@ -107,7 +81,7 @@ TYPED_TEST(AnchoredGizmos, AViewThatIsLostDuringADragLosesNothing)
 TYPED_TEST(AnchoredGizmos, AnAnchorThatIsDeletedDuringADragLeavesTheHandlesWhereTheyAre)
 {
     TypeParam gizmo;
-    AnchorScene at(gizmo, Traits<TypeParam>::kChanged, Traits<TypeParam>::kType);
+    AnchorScene at(gizmo, AnchoredTraits<TypeParam>::kChanged, AnchoredTraits<TypeParam>::kType);
     gizmo.activateUniversalManipulator();
     osg::RefPtr<osg::NodePtr> passing(osg::makeCoredNode<osg::Transform3D>());
     gizmo.setAnchor(passing.get(), Pnt3f(0.5F, 0, 0));
@@ -117,7 +91,7 @@ TYPED_TEST(AnchoredGizmos, AnAnchorThatIsDeletedDuringADragLeavesTheHandlesWhere
     passing = osg::NullFC;
     EXPECT_EQ(gizmo.getAnchorNode(), osg::NullFC);
     EXPECT_TRUE(at.drag.stepTo(Vec2f(0, -9)));
-    EXPECT_EQ(at.last().name, std::string("label") + Traits<TypeParam>::kChanged);
+    EXPECT_EQ(at.last().name, std::string("label") + AnchoredTraits<TypeParam>::kChanged);
     gizmo.update(true);
     EXPECT_EQ(at.onHandle("yaShape", Vec3f()), place);
     EXPECT_TRUE(at.drag.release());
@@ -126,7 +100,7 @@ TYPED_TEST(AnchoredGizmos, AnAnchorThatIsDeletedDuringADragLeavesTheHandlesWhere
 TYPED_TEST(AnchoredGizmos, DeactivatingOnlyTakesTheHandlesAway)
 {
     TypeParam gizmo;
-    AnchorScene at(gizmo, Traits<TypeParam>::kChanged, Traits<TypeParam>::kType);
+    AnchorScene at(gizmo, AnchoredTraits<TypeParam>::kChanged, AnchoredTraits<TypeParam>::kType);
     gizmo.activateUniversalManipulator();
     at.look(Camera::Oblique, false);
     ASSERT_TRUE(at.grab("yaShape", kArrowHead));
@@ -143,7 +117,7 @@ TYPED_TEST(AnchoredGizmos, DeactivatingOnlyTakesTheHandlesAway)
 TYPED_TEST(AnchoredGizmos, AGizmoThatDiesDuringADragResumesThePreview)
 {
     auto gizmo = std::make_unique<TypeParam>();
-    AnchorScene at(*gizmo, Traits<TypeParam>::kChanged, Traits<TypeParam>::kType);
+    AnchorScene at(*gizmo, AnchoredTraits<TypeParam>::kChanged, AnchoredTraits<TypeParam>::kType);
     gizmo->activateUniversalManipulator();
     at.look(Camera::Oblique, false);
     ASSERT_TRUE(at.grab("yaShape", kArrowHead));
