@@ -122,8 +122,10 @@ MainWindow::MainWindow(Attendance attendance)
             [this](bool clean) { setWindowModified(!clean); });
     connect(sessionPlayer, &SessionPlayer::finished, this, &MainWindow::concludeReplay);
     viewWidget->stage().commands().setListener(
-        [this](const QString& name, const QJsonValue& value) {
-            sessionRecorder->addCommand(name, value);
+        [this](const QString& name, const QJsonValue& value, Commands::Moment moment) {
+            if (moment == Commands::Moment::Final) {
+                sessionRecorder->addCommand(name, value);
+            }
             viewWidget->stage().edited();
         });
     viewWidget->stage().setChangedCallback([this] {
@@ -174,7 +176,7 @@ void MainWindow::openFiles(const QStringList& files, Opening opening)
 {
     openingFiles = files;
     openingMode = opening;
-    statusLine->setProgress({}, 0);
+    statusLine->setProgress(ModelLoader::Phase::Reading, files.value(0), 0);
     loader->start(files);
     updateStatus();
 }
@@ -189,7 +191,7 @@ void MainWindow::showLoadedModels()
     }
     QStringList warnings;
     osg::NodePtr last;
-    for (const ModelData& model : loader->takeModels()) {
+    for (const BuiltModel& model : loader->takeModels()) {
         last = stage.add(model);
         warnings.append(model.warnings);
     }

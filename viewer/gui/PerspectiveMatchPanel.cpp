@@ -137,9 +137,8 @@ void PerspectiveMatchPanel::addPhotograph(QFormLayout& form)
     veil->setFocusPolicy(Qt::TabFocus);
     veil->setRange(0, kPercent);
     form.addRow(tr("Over the models"), veil);
-    connect(veil, &QSlider::valueChanged, this, [this](int value) {
-        run(QStringLiteral("match.setVeil"), static_cast<double>(value) / kPercent);
-    });
+    connectSlider(*veil, QStringLiteral("match.setVeil"),
+                  [](int value) { return static_cast<double>(value) / kPercent; });
 }
 
 QCheckBox* PerspectiveMatchPanel::addSwitch(QFormLayout& form, const char* name,
