@@ -63,7 +63,7 @@ TEST_F(ModelLoaderTest, TellsBothPhasesInOrderAndBringsModelsWithTheirTrees)
 {
     QList<int> percents;
     QList<ModelLoader::Phase> phases;
-    QObject::connect(&loader, &ModelLoader::progressed,
+    QObject::connect(&loader, &ModelLoader::progressed, &loader,
                      [&](ModelLoader::Phase phase, const QString& file, int percent) {
                          EXPECT_EQ(file, path);
                          percents.append(percent);
@@ -93,13 +93,14 @@ TEST_F(ModelLoaderTest, GivenUpInEitherPhaseItStaysSilent)
 {
     for (const auto wanted : { ModelLoader::Phase::Reading, ModelLoader::Phase::Preparing }) {
         bool isCancelled = false;
-        const auto connection = QObject::connect(
-            &loader, &ModelLoader::progressed, [&](ModelLoader::Phase phase, const QString&, int) {
-                if (phase == wanted && !isCancelled) {
-                    isCancelled = true;
-                    loader.cancel();
-                }
-            });
+        const auto connection =
+            QObject::connect(&loader, &ModelLoader::progressed, &loader,
+                             [&](ModelLoader::Phase phase, const QString&, int) {
+                                 if (phase == wanted && !isCancelled) {
+                                     isCancelled = true;
+                                     loader.cancel();
+                                 }
+                             });
         loader.start({ path });
         waitUntil([&] { return isCancelled; });
         waitForQuiet();
@@ -131,6 +132,7 @@ TEST_F(ModelLoaderTest, EscapeOrTheButtonStopLoadingAndTheSceneStaysAsItWas)
     for (const bool byKey : { true, false }) {
         window.openFiles({ path }, MainWindow::Opening::Replace);
         EXPECT_TRUE(bar->isVisibleTo(&window));
+        waitUntil([bar] { return bar->value() > 0; });
         EXPECT_TRUE(bar->text().contains("grid.obj")) << bar->text().toStdString();
         if (byKey) {
             QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);

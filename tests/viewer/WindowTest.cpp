@@ -70,7 +70,8 @@ bool isOwnControl(const QWidget* widget)
         qobject_cast<const QAbstractSpinBox*>(widget->parent()) != nullptr ||
         qobject_cast<const QComboBox*>(widget->parent()) != nullptr ||
         widget->inherits("QDockWidgetTitleButton") || widget->inherits("QToolBarExtension") ||
-        widget->inherits("QScrollBar")) {
+        widget->inherits("QScrollBar") || widget->inherits("QHeaderView") ||
+        widget->inherits("QComboBoxListView")) {
         return false;
     }
     return qobject_cast<const QAbstractButton*>(widget) != nullptr ||
@@ -142,9 +143,11 @@ TEST_F(WindowTest, EveryMenuEntryHasAMnemonicOfItsOwn)
         std::set<QChar> letters;
         for (QAction* entry : menu->actions()) {
             const int mark = entry->text().indexOf(QLatin1Char('&'));
-            if (entry->isSeparator() || mark < 0) {
+            // Panels name their own switches; there may be any number of recent files.
+            if (entry->isSeparator() || (mark < 0 && entry->objectName().isEmpty())) {
                 continue;
             }
+            ASSERT_GE(mark, 0) << entry->text().toStdString();
             EXPECT_TRUE(letters.insert(entry->text().at(mark + 1).toLower()).second)
                 << menu->title().toStdString() << ": " << entry->text().toStdString();
         }

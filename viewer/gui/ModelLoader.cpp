@@ -22,7 +22,10 @@ constexpr double kReadingShare = 0.75;
 
 ModelLoader::ModelLoader(QObject* parent)
     : QObject(parent)
-{ }
+{
+    // Goes from thread to thread by value.
+    qRegisterMetaType<Phase>();
+}
 
 ModelLoader::~ModelLoader()
 {
