@@ -71,6 +71,7 @@ AboutBox::AboutBox(const QString& graphics, QWidget* parent)
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
     QPushButton* copy = buttons->addButton(tr("C&opy"), QDialogButtonBox::ActionRole);
     copy->setIcon(themeIcon(QStringLiteral("copy")));
+    buttons->button(QDialogButtonBox::Close)->setIcon(themeIcon(QStringLiteral("cancel")));
     connect(copy, &QPushButton::clicked, this,
             [text] { QApplication::clipboard()->setText(text); });
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);

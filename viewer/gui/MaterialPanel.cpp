@@ -4,6 +4,7 @@
 #include "viewer/core/PictureFile.h"
 #include "viewer/core/Stage.h"
 #include "viewer/gui/MaterialPicture.h"
+#include "viewer/gui/PanelScrollArea.h"
 #include "viewer/gui/VectorEdit.h"
 
 #include <QButtonGroup>
@@ -14,7 +15,6 @@
 #include <QJsonArray>
 #include <QLabel>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QSignalBlocker>
 #include <QSlider>
 #include <QToolButton>
@@ -113,12 +113,9 @@ MaterialPanel::MaterialPanel(Stage& targetStage, QWidget* parent)
 {
     auto* outer = new QVBoxLayout(this);
     outer->setContentsMargins(0, 0, 0, 0);
-    auto* area = new QScrollArea(this);
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
+    auto* all = new QWidget(this);
+    auto* area = new PanelScrollArea(all, this);
     outer->addWidget(area);
-    auto* all = new QWidget(area);
-    area->setWidget(all);
     auto* column = new QVBoxLayout(all);
     hint = new QLabel(all);
     hint->setObjectName(QStringLiteral("materialHint"));
@@ -148,6 +145,8 @@ MaterialPanel::MaterialPanel(Stage& targetStage, QWidget* parent)
     }
     addCoverageRow(*projectionRows);
     tool.preview().setRefreshCallback([this] { refreshPicture(); });
+    // While the rows of all projections still count.
+    area->measure();
     refresh();
 }
 

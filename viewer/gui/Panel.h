@@ -31,6 +31,9 @@ public:
     /// a person would take for an edit.
     virtual void refresh() = 0;
 
+    /// Whether the panel is of a fixed height, so that a window with little room has to scroll it.
+    virtual bool needsScrolling() const { return true; }
+
 signals:
     /// What could not be done, one line.
     void problem(const QString& text);

@@ -5,6 +5,7 @@
 #include "viewer/gui/LogPanel.h"
 #include "viewer/gui/MaterialPanel.h"
 #include "viewer/gui/ObjectPanel.h"
+#include "viewer/gui/PanelScrollArea.h"
 #include "viewer/gui/PerspectiveMatchPanel.h"
 #include "viewer/gui/PlatesPanel.h"
 #include "viewer/gui/ScenePanel.h"
@@ -25,6 +26,8 @@ namespace {
 constexpr int kShareOfObjects = 3;
 constexpr int kShareOfProperties = 4;
 constexpr int kShareOfSteps = 2;
+
+constexpr int kMessagesHeight = 150;  ///< logical pixels, at first
 
 }  // namespace
 
@@ -89,7 +92,11 @@ QDockWidget* PanelDocks::addDock(QWidget* content, const QString& title, const Q
 
 QDockWidget* PanelDocks::addPanel(Panel* panel, const QString& title, const QString& name)
 {
-    QDockWidget* dock = addDock(panel, title, name);
+    QWidget* content = panel;
+    if (panel->needsScrolling()) {
+        content = new PanelScrollArea(panel);
+    }
+    QDockWidget* dock = addDock(content, title, name);
     panels.append(panel);
     connect(panel, &Panel::problem, this, &PanelDocks::problem);
     connect(dock, &QDockWidget::visibilityChanged, panel, [panel] { panel->refresh(); });
@@ -107,6 +114,9 @@ void PanelDocks::arrange()
             window.tabifyDockWidget(objectDock, dock);
         }
     }
+    // The panels have the whole height, messages only the width of the view.
+    window.setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+    window.resizeDocks({ logDock }, { kMessagesHeight }, Qt::Vertical);
     window.resizeDocks(shown, { kShareOfObjects, kShareOfProperties, kShareOfSteps }, Qt::Vertical);
 }
 
