@@ -1,0 +1,163 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""Makes the pictures of the manual from the viewer's sessions.
+
+    make_pictures.py VIEWER [NAME ...]
+
+VIEWER is the program nbviewer, which needs a display. Each picture is a part of a screenshot that a checkpoint of a shipped
+session takes, with at most 256 colours. NAMEs make only those. Exit status: 0 all were made, 1 a replay failed.
+"""
+
+import collections
+import pathlib
+import struct
+import subprocess
+import sys
+import tempfile
+import zlib
+
+HERE = pathlib.Path(__file__).resolve().parent
+SESSIONS = HERE.parents[1] / "viewer" / "sessions"
+
+# Picture: session, checkpoint, left and upper edge of the part, width and height.
+PICTURES = {
+    "transform": ("first-light", "3-x-arrow", 210, 140, 800, 500),
+    "camera": ("pivot", "2-turned-about", 190, 160, 800, 500),
+    "planar": ("label", "2-dropped", 180, 80, 800, 500),
+    "placement": ("label", "3-placing", 180, 170, 800, 500),
+    "triplanar": ("triplanar", "2-from-three-sides", 170, 130, 800, 500),
+    "uv": ("uv", "1-by-texture-coordinates", 200, 150, 800, 500),
+    "tire": ("tire", "2-sixteen-times-around", 190, 100, 800, 500),
+    "match": ("match", "2-magnifier", 100, 90, 800, 500),
+    "plates": ("plates", "4-moved", 400, 20, 800, 500),
+}
+MOST_COLOURS = 256
+
+
+# == PNG, as the viewer writes it (8 bits, not interlaced) and with a palette
+
+def chunks(data):
+    place = 8
+    while place < len(data):
+        length, kind = struct.unpack(">I4s", data[place:place + 8])
+        yield kind, data[place + 8:place + 8 + length]
+        place += length + 12
+
+
+def unfiltered_rows(raw, stride, step):
+    """Rows of bytes, with each row's filter taken back."""
+    before = bytearray(stride)
+    for start in range(0, len(raw), stride + 1):
+        kind = raw[start]
+        row = bytearray(raw[start + 1:start + 1 + stride])
+        if kind == 1:
+            for i in range(step, stride):
+                row[i] = (row[i] + row[i - step]) & 255
+        elif kind == 2:
+            for i in range(stride):
+                row[i] = (row[i] + before[i]) & 255
+        elif kind == 3:
+            for i in range(stride):
+                left = row[i - step] if i >= step else 0
+                row[i] = (row[i] + (left + before[i]) // 2) & 255
+        elif kind == 4:
+            for i in range(stride):
+                left, corner = (row[i - step], before[i - step]) if i >= step else (0, 0)
+                row[i] = (row[i] + paeth(left, before[i], corner)) & 255
+        yield row
+        before = row
+
+
+def paeth(left, above, corner):
+    guess = left + above - corner
+    return min((left, above, corner), key=lambda value: abs(guess - value))
+
+
+def read_part(path, left, top, width, height):
+    """Pixels (r, g, b) of a part of a picture, row after row."""
+    data = path.read_bytes()
+    parts = list(chunks(data))
+    full_width, full_height, _, kind = struct.unpack(">IIBB", dict(parts)[b"IHDR"][:10])
+    if left + width > full_width or top + height > full_height:
+        raise ValueError(f"{path.name} has {full_width} x {full_height} pixels, too few for the part")
+    step = {2: 3, 6: 4}[kind]
+    raw = zlib.decompress(b"".join(content for name, content in parts if name == b"IDAT"))
+    pixels = []
+    for number, row in enumerate(unfiltered_rows(raw, full_width * step, step)):
+        if number >= top + height:
+            break
+        if number >= top:
+            pixels += [tuple(row[i:i + 3]) for i in range(left * step, (left + width) * step, step)]
+    return pixels
+
+
+def write_with_palette(path, indices, palette, width, height):
+    def chunk(kind, content):
+        return struct.pack(">I", len(content)) + kind + content + struct.pack(">I", zlib.crc32(kind + content))
+
+    rows = b"".join(b"\0" + bytes(indices[i:i + width]) for i in range(0, width * height, width))
+    path.write_bytes(b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", struct.pack(">IIBBBBB", width, height, 8, 3, 0, 0, 0)) +
+                     chunk(b"PLTE", bytes(value for colour in palette for value in colour)) +
+                     chunk(b"IDAT", zlib.compress(rows, 9)) + chunk(b"IEND", b""))
+
+
+# == Fewer colours
+
+def widest(box):
+    """Extent and number of the channel in which the colours of a box differ most."""
+    return max((max(colour[i] for colour, _ in box) - min(colour[i] for colour, _ in box), i) for i in range(3))
+
+
+def reduce_colours(pixels):
+    """Palette, and the index of each pixel's colour in it: boxes of colours are cut in two where they differ most."""
+    boxes = [list(collections.Counter(pixels).items())]
+    extents = [widest(boxes[0])]
+    while len(boxes) < MOST_COLOURS and max(extents)[0] > 0:
+        number = extents.index(max(extents))
+        channel = extents[number][1]
+        box = boxes[number]
+        middle = (max(colour[channel] for colour, _ in box) + min(colour[channel] for colour, _ in box)) / 2
+        boxes[number] = [entry for entry in box if entry[0][channel] <= middle]
+        boxes.append([entry for entry in box if entry[0][channel] > middle])
+        extents[number] = widest(boxes[number])
+        extents.append(widest(boxes[-1]))
+    palette, number_of = [], {}
+    for number, box in enumerate(boxes):
+        weight = sum(count for _, count in box)
+        palette.append(tuple(round(sum(colour[i] * count for colour, count in box) / weight) for i in range(3)))
+        number_of.update((colour, number) for colour, _ in box)
+    return palette, [number_of[pixel] for pixel in pixels]
+
+
+# == Replays
+
+def replay(viewer, session, folder):
+    run = subprocess.run([viewer, "--session", SESSIONS / f"{session}.json", "--output", folder],
+                         stdout=subprocess.DEVNULL, check=False)
+    return run.returncode == 0
+
+
+def main(arguments):
+    viewer, names = arguments[0], arguments[1:] or list(PICTURES)
+    unknown = [name for name in names if name not in PICTURES]
+    if unknown:
+        print(f"no picture has the name {', '.join(unknown)}", file=sys.stderr)
+        return 1
+    with tempfile.TemporaryDirectory() as scratch:
+        for session in sorted({PICTURES[name][0] for name in names}):
+            folder = pathlib.Path(scratch) / session
+            folder.mkdir()
+            if not replay(viewer, session, folder):
+                print(f"the session {session} does not meet its checkpoints", file=sys.stderr)
+                return 1
+            for name in names:
+                if PICTURES[name][0] == session:
+                    _, checkpoint, left, top, width, height = PICTURES[name]
+                    palette, indices = reduce_colours(read_part(folder / f"{checkpoint}.png", left, top, width, height))
+                    write_with_palette(HERE / f"{name}.png", indices, palette, width, height)
+                    print(HERE / f"{name}.png")
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(sys.argv[1:]))
