@@ -103,30 +103,34 @@ def write_with_palette(path, indices, palette, width, height):
 
 # == Fewer colours
 
-def widest(box):
-    """Extent and number of the channel in which the colours of a box differ most."""
-    return max((max(colour[i] for colour, _ in box) - min(colour[i] for colour, _ in box), i) for i in range(3))
+class Box:
+    """Colours that are to become one, with how often each occurs."""
+
+    def __init__(self, entries):
+        self.entries = entries
+        weight = sum(count for _, count in entries)
+        self.mean = [sum(colour[i] * count for colour, count in entries) / weight for i in range(3)]
+        errors = [sum((colour[i] - self.mean[i]) ** 2 * count for colour, count in entries) for i in range(3)]
+        self.channel = errors.index(max(errors))
+        self.error = sum(errors)
+
+    def halves(self):
+        at, limit = self.channel, self.mean[self.channel]
+        return (Box([entry for entry in self.entries if entry[0][at] <= limit]),
+                Box([entry for entry in self.entries if entry[0][at] > limit]))
 
 
 def reduce_colours(pixels):
-    """Palette, and the index of each pixel's colour in it: boxes of colours are cut in two where they differ most."""
-    boxes = [list(collections.Counter(pixels).items())]
-    extents = [widest(boxes[0])]
-    while len(boxes) < MOST_COLOURS and max(extents)[0] > 0:
-        number = extents.index(max(extents))
-        channel = extents[number][1]
-        box = boxes[number]
-        middle = (max(colour[channel] for colour, _ in box) + min(colour[channel] for colour, _ in box)) / 2
-        boxes[number] = [entry for entry in box if entry[0][channel] <= middle]
-        boxes.append([entry for entry in box if entry[0][channel] > middle])
-        extents[number] = widest(boxes[number])
-        extents.append(widest(boxes[-1]))
-    palette, number_of = [], {}
-    for number, box in enumerate(boxes):
-        weight = sum(count for _, count in box)
-        palette.append(tuple(round(sum(colour[i] * count for colour, count in box) / weight) for i in range(3)))
-        number_of.update((colour, number) for colour, _ in box)
-    return palette, [number_of[pixel] for pixel in pixels]
+    """Palette, and the index of each pixel's colour in it: the box with the greatest error is cut in two, again and again."""
+    boxes = [Box(list(collections.Counter(pixels).items()))]
+    while len(boxes) < MOST_COLOURS:
+        worst = max(boxes, key=lambda box: box.error)
+        if worst.error == 0:
+            break
+        boxes.remove(worst)
+        boxes += worst.halves()
+    number_of = {colour: number for number, box in enumerate(boxes) for colour, _ in box.entries}
+    return [tuple(round(value) for value in box.mean) for box in boxes], [number_of[pixel] for pixel in pixels]
 
 
 # == Replays
