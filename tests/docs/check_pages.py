@@ -2,9 +2,10 @@
 # SPDX-License-Identifier: MIT
 """Checks that links and pictures of the pages lead somewhere, and that no page and no picture is forgotten.
 
-    check_links.py ROOT
+    check_pages.py ROOT
 
-Also that each picture of the manual belongs to a checkpoint of a session that takes a screenshot.
+Also that each picture of the manual belongs to a checkpoint of a session that takes a screenshot, and that what new-manipulator.md
+shows of the example is in it.
 Exit status: 0 all is well, 1 it is not.
 """
 
@@ -40,7 +41,17 @@ def screenshots(session):
     return {step["name"] for step in steps if step["type"] == "checkpoint" and step.get("screenshot")}
 
 
+def missing_excerpts(root):
+    """First lines of the pieces of C++ that a page shows of the example and that are not in it."""
+    text = "\n".join(path.read_text(encoding="utf-8") for path in sorted((root / "examples").glob("LiftManipulator.*")))
+    page = (root / "docs" / "new-manipulator.md").read_text(encoding="utf-8")
+    for block in re.findall(r"^```cpp\n(.*?)^```$", page, flags=re.DOTALL | re.MULTILINE):
+        if block not in text:
+            yield block.splitlines()[0]
+
+
 def faults(root):
+    yield from (f"new-manipulator.md: the example does not have: {line} ..." for line in missing_excerpts(root))
     linked = set()
     for page in documents(root):
         for link, target in targets(page):
