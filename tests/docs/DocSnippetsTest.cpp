@@ -10,6 +10,14 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
+
+/// Names the snippet where GoogleTest tells the parameter of a test.
+static void PrintTo(const DocSnippet& snippet, std::ostream* output)
+{
+    *output << snippet.name;
+}
+
 namespace {
 
 class DocSnippets : public testing::TestWithParam<DocSnippet>
