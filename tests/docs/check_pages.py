@@ -4,8 +4,8 @@
 
     check_pages.py ROOT
 
-Also that each picture of the manual belongs to a checkpoint of a session that takes a screenshot, and that what new-manipulator.md
-shows of the example is in it.
+Also that each picture of the manual belongs to a checkpoint of a session that takes a screenshot; that what new-manipulator.md
+shows of the example is in it; that every handle of the library is on a page; and that the pages name nothing that no source has.
 Exit status: 0 all is well, 1 it is not.
 """
 
@@ -14,6 +14,8 @@ import json
 import pathlib
 import re
 import sys
+
+import pages
 
 LINK = re.compile(r"\]\(([^)#\s]+)(?:#[^)]*)?\)")
 
@@ -50,7 +52,32 @@ def missing_excerpts(root):
             yield block.splitlines()[0]
 
 
+def unknown_names(root):
+    """Page, and each identifier in it that no source knows."""
+    known = set()
+    for folder in ("manipulator", "modules", "platform", "opensg", "examples", "docs"):
+        for path in (root / folder).rglob("*"):
+            if path.suffix in (".h", ".cpp", ".txt"):
+                known.update(re.findall(r"\w+", path.read_text(encoding="utf-8")))
+    for page in [root / "README.md", *sorted((root / "docs").glob("*.md"))]:
+        for code in re.findall(r"`([A-Za-z_][\w:]*)(?:\([^`]*\))?`", page.read_text(encoding="utf-8")):
+            for name in filter(None, code.split("::")):
+                if name not in known:
+                    yield page, name
+
+
+def missing_handles(root):
+    """Handles that no page names, and those that no source has."""
+    handle = re.compile(r'"(\w+Shape|grid)"')
+    in_sources = {name for _, text in pages.library_sources(root) for name in handle.findall(text)}
+    on_pages = {name for page in (root / "docs").glob("*.md") for name in handle.findall(page.read_text(encoding="utf-8"))}
+    example = {"liftShape", "putDownShape"}
+    yield from sorted(in_sources ^ (on_pages - example))
+
+
 def faults(root):
+    yield from (f"{page.name}: no source knows {name}" for page, name in unknown_names(root))
+    yield from (f"the handle {name} is not both on a page and in the library" for name in missing_handles(root))
     yield from (f"new-manipulator.md: the example does not have: {line} ..." for line in missing_excerpts(root))
     linked = set()
     for page in documents(root):
