@@ -28,34 +28,28 @@ def literals(argument, text):
 
 
 def sent(root):
-    """Names of messages, and names of attributes, in the library's sources."""
-    messages, attributes = set(), set()
-    for _, text in pages.library_sources(root):
-        messages.update(CALLS.findall(text))
-        messages.update("R" + suffix for suffix in SUFFIXES.findall(text))
-        if "nbMessage" in text:
-            attributes.update(name for argument in ATTRIBUTES.findall(text) for name in literals(argument, text))
-    return messages, attributes
+    """For each source of the library that sends anything: its name, the messages in it and their attributes."""
+    for path, text in pages.library_sources(root):
+        messages = {*CALLS.findall(text), *("R" + suffix for suffix in SUFFIXES.findall(text))}
+        if messages:
+            yield path.name, messages, {name for argument in ATTRIBUTES.findall(text) for name in literals(argument, text)}
 
 
-def described(root):
-    sections = pages.sections(root / "docs" / "messages.md")
-    attributes = {name for body in sections.values() for name in re.findall(r"^\| `(\w+)` \|", body, flags=re.MULTILINE)}
-    return set(sections), attributes
-
-
-def differences(what, in_sources, on_page):
-    yield from (f"{what} {name} is missing on the page" for name in sorted(in_sources - on_page))
-    yield from (f"{what} {name} is on the page, but nothing sends it" for name in sorted(on_page - in_sources))
+def differences(root):
+    described = {name: set(re.findall(r"^\| `(\w+)` \|", body, flags=re.MULTILINE))
+                 for name, body in pages.sections(root / "docs" / "messages.md").items()}
+    known = set()
+    for source, messages, attributes in sent(root):
+        known |= messages
+        yield from (f"message {name} of {source} is missing on the page" for name in sorted(messages - set(described)))
+        on_page = set().union(*(described.get(name, set()) for name in messages))
+        yield from (f"attribute {name} of {source} is missing on the page" for name in sorted(attributes - on_page))
+        yield from (f"attribute {name} is on the page, but {source} does not send it" for name in sorted(on_page - attributes))
+    yield from (f"message {name} is on the page, but nothing sends it" for name in sorted(set(described) - known))
 
 
 def main(arguments):
-    root = pathlib.Path(arguments[0])
-    in_sources, on_page = sent(root), described(root)
-    found = [fault for what, left, right in zip(("message", "attribute"), in_sources, on_page)
-             for fault in differences(what, left, right)]
-    if not all(in_sources):
-        found.append("no messages were found in the sources")
+    found = list(differences(pathlib.Path(arguments[0])))
     print("\n".join(found) if found else "docs/messages.md lists what the library sends")
     return 1 if found else 0
 
