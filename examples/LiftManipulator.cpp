@@ -203,8 +203,9 @@ bool LiftManipulator::processManipulator(Context* /*ctx*/, const std::string& /*
     }
     osg::Pnt3f hit;
     if (activeMode == ActiveMode::PutDown) {
-        if (!prepared) {
-            setHeight(startHeight - nbNodeUtils::getWorldBounds(node).getMin()[1]);
+        const osg::BoxVolume bounds = nbNodeUtils::getWorldBounds(node);
+        if (!prepared && !bounds.isEmpty()) {
+            setHeight(startHeight - bounds.getMin()[1]);
         }
         prepared = true;
     } else if (pointerOnPlane(hit)) {
