@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Makes the pictures of the manual from the viewer's sessions.
+"""Makes the pictures of the manual and of the README from the viewer's sessions.
 
     make_pictures.py VIEWER [NAME ...]
 
@@ -10,6 +10,7 @@ session takes, with at most 256 colours. NAMEs make only those. Exit status: 0 a
 
 import collections
 import pathlib
+import shutil
 import struct
 import subprocess
 import sys
@@ -19,8 +20,10 @@ import zlib
 HERE = pathlib.Path(__file__).resolve().parent
 SESSIONS = HERE.parents[1] / "viewer" / "sessions"
 
-# Picture: session, checkpoint, left and upper edge of the part, width and height.
+# Picture: session, checkpoint, left and upper edge of the part, width and height. That of the README is a whole screenshot.
+README_PICTURE = "first-light"
 PICTURES = {
+    README_PICTURE: ("first-light", "3-x-arrow"),
     "transform": ("first-light", "3-x-arrow", 210, 140, 800, 500),
     "camera": ("pivot", "2-turned-about", 190, 160, 800, 500),
     "planar": ("label", "2-dropped", 180, 80, 800, 500),
@@ -141,6 +144,17 @@ def replay(viewer, session, folder):
     return run.returncode == 0
 
 
+def make(name, folder):
+    """Makes a picture from the screenshots in a folder. @return its path"""
+    _, checkpoint, *part = PICTURES[name]
+    screenshot = folder / f"{checkpoint}.png"
+    if name == README_PICTURE:
+        return shutil.copyfile(screenshot, HERE.parent / f"{name}.png")
+    palette, indices = reduce_colours(read_part(screenshot, *part))
+    write_with_palette(HERE / f"{name}.png", indices, palette, *part[2:])
+    return HERE / f"{name}.png"
+
+
 def main(arguments):
     viewer, names = arguments[0], arguments[1:] or list(PICTURES)
     unknown = [name for name in names if name not in PICTURES]
@@ -156,10 +170,7 @@ def main(arguments):
                 return 1
             for name in names:
                 if PICTURES[name][0] == session:
-                    _, checkpoint, left, top, width, height = PICTURES[name]
-                    palette, indices = reduce_colours(read_part(folder / f"{checkpoint}.png", left, top, width, height))
-                    write_with_palette(HERE / f"{name}.png", indices, palette, width, height)
-                    print(HERE / f"{name}.png")
+                    print(make(name, folder))
     return 0
 
 
