@@ -2,6 +2,7 @@
 #include "viewer/gui/MainWindow.h"
 
 #include "viewer/core/ModelReader.h"
+#include "viewer/core/SessionStart.h"
 #include "viewer/core/StageTool.h"
 #include "viewer/gui/LogPanel.h"
 #include "viewer/gui/MessageBar.h"
@@ -22,11 +23,9 @@
 #include <QGridLayout>
 #include <QImageReader>
 #include <QKeyEvent>
-#include <QMenuBar>
 #include <QScreen>
 #include <QStatusBar>
 #include <QTimer>
-#include <QToolBar>
 #include <QUndoStack>
 
 namespace viewer {
@@ -53,24 +52,6 @@ bool isPicture(const QString& file)
     return QImageReader::supportedImageFormats().contains(suffix);
 }
 
-osg::Pnt3f pointOf(const std::array<double, 3>& p)
-{
-    return { static_cast<float>(p[0]), static_cast<float>(p[1]), static_cast<float>(p[2]) };
-}
-
-CameraPose poseOf(const SessionCamera& camera)
-{
-    CameraPose pose;
-    pose.from = pointOf(camera.from);
-    pose.at = pointOf(camera.at);
-    pose.up = pointOf(camera.up).subZero();
-    pose.pivot = pointOf(camera.pivot.value_or(camera.at));
-    pose.fovDeg = static_cast<float>(camera.fovDeg);
-    pose.orthographic = camera.orthographic;
-    pose.zUp = camera.zUp;
-    return pose;
-}
-
 }  // namespace
 
 MainWindow::MainWindow(Attendance attendance)
@@ -80,6 +61,7 @@ MainWindow::MainWindow(Attendance attendance)
     , sessionPlayer(new SessionPlayer(*viewWidget, *this, this))
     , sessionRecorder(new SessionRecorder(*viewWidget, this))
     , statusLine(new StatusLine(*statusBar()))
+    , fullScreen(*this)
 {
     setShownTitle({});
     auto* centre = new QWidget(this);
@@ -317,32 +299,12 @@ void MainWindow::showPanelOfTool()
     }
 }
 
-bool MainWindow::isWhole() const
-{
-    return !stateBeforeWhole.isEmpty();
-}
-
 void MainWindow::showWhole(bool on)
 {
-    if (on == isWhole()) {
-        return;
+    if (fullScreen.set(on)) {
+        viewWidget->setFocus();
+        actions->update();
     }
-    if (on) {
-        stateBeforeWhole = memory::stateOf(*this);
-        for (QToolBar* bar : findChildren<QToolBar*>()) {
-            bar->hide();
-        }
-        docks->hide();
-        setWindowState(windowState() | Qt::WindowFullScreen);
-    } else {
-        setWindowState(windowState() & ~Qt::WindowFullScreen);
-        memory::restoreState(*this, stateBeforeWhole);
-        stateBeforeWhole.clear();
-    }
-    menuBar()->setVisible(!on);
-    statusBar()->setVisible(!on);
-    viewWidget->setFocus();
-    actions->update();
 }
 
 void MainWindow::keyPressEvent(QKeyEvent* event)
@@ -383,27 +345,6 @@ void MainWindow::replay(const Session& session, const std::optional<QDir>& pictu
     beginReplay();
 }
 
-bool MainWindow::setStageFor(const Session& session, QString& error)
-{
-    Stage& stage = viewWidget->stage();
-    stage.gizmo().resetSettings();
-    if (session.camera) {
-        stage.setPose(poseOf(*session.camera));
-    }
-    if (session.selection && !stage.selectByName(session.selection->toStdString())) {
-        error = QStringLiteral("the session begins with \"%1\" selected, which is not there")
-                    .arg(*session.selection);
-        return false;
-    }
-    if (!session.manipulator.isEmpty()) {
-        if (!stage.showManipulator(session.manipulator.toStdString())) {
-            error = QStringLiteral("manipulator: unknown name \"%1\"").arg(session.manipulator);
-            return false;
-        }
-    }
-    return true;
-}
-
 void MainWindow::beginReplay()
 {
     viewWidget->fixSize(pendingSession->sizePx);
@@ -425,7 +366,7 @@ void MainWindow::beginReplay()
     const Session session = *pendingSession;
     pendingSession.reset();
     QString error;
-    if (!setStageFor(session, error)) {
+    if (!beginSession(viewWidget->stage(), session, error)) {
         viewWidget->fixSize({});
         emit problem(error);
         return;

@@ -3,13 +3,13 @@
 
 #include "viewer/core/GizmoController.h"
 #include "viewer/core/Session.h"
+#include "viewer/gui/FullScreen.h"
 #include "viewer/gui/ModelLoader.h"
 #include "viewer/gui/Theme.h"
 
 #include <OpenSG/OSGConfig.h>
 #include <OpenSG/OSGVector.h>
 
-#include <QByteArray>
 #include <QDir>
 #include <QMainWindow>
 
@@ -75,7 +75,9 @@ public:
 
     /// Lets the view alone fill the screen, or shows the window as it was before.
     void showWhole(bool on);
-    bool isWhole() const;
+
+    bool isWhole() const { return fullScreen.isOn(); }
+
     /// Brings the panel of the active tool to the front, if a person uses the window.
     void showPanelOfTool();
     /// Makes the window as large as a view of this size needs; a person may change it afterwards.
@@ -117,7 +119,6 @@ private:
     void handleDroppedFiles(const QStringList& files, const osg::Pnt2f& px);
     void replayFile(const QString& path);
     void beginReplay();
-    bool setStageFor(const Session& session, QString& error);
     void concludeReplay();
     void saveRecording();
 
@@ -130,10 +131,10 @@ private:
     WindowActions* actions = nullptr;
 
     StatusLine* statusLine = nullptr;
+    FullScreen fullScreen;
     PanelDocks* docks = nullptr;
 
     Theme shownTheme = Theme::System;
-    QByteArray stateBeforeWhole;  ///< empty unless the view fills the screen
     QStringList shownFiles;
     QStringList openingFiles;
     Opening openingMode = Opening::Replace;

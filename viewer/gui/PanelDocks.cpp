@@ -137,13 +137,6 @@ void PanelDocks::showPanelOf(const QString& tool)
     }
 }
 
-void PanelDocks::hide()
-{
-    for (QDockWidget* dock : docks) {
-        dock->hide();
-    }
-}
-
 void PanelDocks::focusNext(QWidget* view)
 {
     QList<QWidget*> places { view };

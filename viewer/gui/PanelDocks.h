@@ -44,9 +44,6 @@ public:
     /// @param tool  name of the tool; one without panel does nothing
     void showPanelOf(const QString& tool);
 
-    /// Hides all of them.
-    void hide();
-
     /// Gives the keys to the next panel that is seen, after the last one to the view.
     void focusNext(QWidget* view);
 
