@@ -13,7 +13,6 @@
 #include <nbKernelServices/nbUndoService.h>
 
 #include <QAction>
-#include <QApplication>
 #include <QDockWidget>
 #include <QMainWindow>
 #include <QUndoStack>
@@ -144,7 +143,7 @@ void PanelDocks::focusNext(QWidget* view)
     for (QDockWidget* dock : docks) {
         // Of docks that lie on each other one is seen.
         if (dock->isVisible() && !dock->visibleRegion().isEmpty()) {
-            if (dock->isAncestorOf(QApplication::focusWidget())) {
+            if (dock->isAncestorOf(window.focusWidget())) {
                 present = places.size();
             }
             places.append(dock->widget());
