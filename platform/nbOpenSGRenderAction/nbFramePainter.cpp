@@ -117,7 +117,7 @@ FrameSteps FramePainter::makeSteps(const Frame& frame, const osg::ViewportPtr& v
     }
     if (plates.hasFront()) {
         plates.addFrontTo(stamp, frame);
-        steps.push_back({ FrameStep::Kind::FrontPlates, 0, false, stamp.get() });
+        steps.push_back({ FrameStep::Kind::FrontPlates, 0, true, stamp.get() });
     }
     addItems(steps, stamp, view, false, true);
     return steps;

@@ -55,6 +55,7 @@ struct nbRenderAction::Impl
     FrameTargets targets;
     nbrender::FramePainter painter;
     nbrender::MagnifierPainter magnifier;
+    std::size_t frames = 0;
     DrawCount count;
     double milliseconds = 0.0;
     unsigned int framesSinceCollection = 0;
@@ -205,6 +206,7 @@ bool nbRenderAction::render(const osg::ViewportPtr& viewport, int widthPx, int h
         impl->gl->glFinish();
     }
     impl->milliseconds = static_cast<double>(clock.nsecsElapsed()) / kNanosecondsPerMillisecond;
+    ++impl->frames;
     impl->collect();
     return true;
 }
@@ -275,6 +277,7 @@ nbRenderAction::Statistics nbRenderAction::getStatistics() const
 {
     const nbrender::FramePainter::Taken& taken = impl->painter.getTaken();
     Statistics result;
+    result.frames = impl->frames;
     result.items = taken.items;
     result.drawn = taken.inView;
     result.reused = taken.reused;

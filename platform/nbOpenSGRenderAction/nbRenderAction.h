@@ -66,6 +66,7 @@ public:
     /// What the last frame took.
     struct Statistics
     {
+        std::size_t frames = 0;  ///< drawn since construction
         std::size_t items = 0;  ///< in the list
         std::size_t drawn = 0;  ///< of these in view
         std::size_t reused = 0;  ///< of these not drawn but taken from the kept scene image

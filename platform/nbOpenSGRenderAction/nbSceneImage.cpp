@@ -46,7 +46,7 @@ void SceneImage::forget()
 std::size_t SceneImage::unchangedSteps(const FrameSteps& steps) const
 {
     std::size_t count = 0;
-    while (count < steps.size() && count < lastStamps.size() && !steps[count].handle &&
+    while (count < steps.size() && count < lastStamps.size() && !steps[count].transient &&
            steps[count].stamp == lastStamps[count]) {
         ++count;
     }

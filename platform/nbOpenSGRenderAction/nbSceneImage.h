@@ -25,7 +25,7 @@ struct FrameStep
 
     Kind kind = Kind::Item;
     osg::UInt32 item = 0;  ///< index into the item list
-    bool handle = false;
+    bool transient = false;  ///< likely to change and cheap: never kept
     /// Differs when anything may that the frame has drawn up to this step, it included.
     osg::UInt64 stamp = 0;
 };
@@ -34,13 +34,13 @@ using FrameSteps = std::vector<FrameStep>;
 
 /// Decides what of a frame is taken from a kept copy of an earlier one, and when one is kept.
 ///
-/// Kept is what the first steps of a frame draw, up to any step that is not a handle: a frame that
-/// begins with the same steps starts from the copy and draws the others, in the same order on the
-/// same samples, and so is equal to a frame drawn in full to the last bit. Which steps are "the
-/// scene" thus needs no knowledge of what they are: a frame that shares no beginning with the one
-/// before, as while the camera moves, is drawn in full and not kept; the second one with the same
-/// beginning keeps it; further ones use it as long as it is the beginning of theirs. Items that
-/// are drawn after the first handle, or after something else that keeps changing, are drawn each
+/// Kept is what the first steps of a frame draw, handles and plates before the scene left out: a
+/// frame that begins with the same steps starts from the copy and draws the others, in the same
+/// order on the same samples, and so is equal to a frame drawn in full to the last bit. Which steps
+/// are "the scene" thus needs no knowledge of what they are: a frame that shares no beginning with
+/// the one before, as while the camera moves, is drawn in full and not kept; the second one with
+/// the same beginning keeps it; further ones use it as long as it is the beginning of theirs. Items
+/// that are drawn after one of these, or after something else that keeps changing, are drawn each
 /// time.
 ///
 /// A copy is used where that costs less than to draw: it is not while an object that is drawn

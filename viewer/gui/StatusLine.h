@@ -24,6 +24,8 @@ public:
 
     /// Shows how it stands now.
     void update(Stage& stage, bool isLoading);
+    /// Shows a line about the last frame; nothing for an empty one.
+    void showFrame(const QString& text);
     void setProgress(const QString& file, int percent);
 
 signals:
@@ -33,6 +35,7 @@ private:
     QLabel* handleLabel;
     QLabel* valuesLabel;
     QLabel* selectionLabel;
+    QLabel* frameLabel;
     QLabel* sceneLabel;
     QProgressBar* progress;
     QToolButton* cancelButton;

@@ -46,6 +46,15 @@ public:
     /// Shows the effect buffer instead of the colours.
     void showEffectBuffer(bool on);
 
+    /// Whether each frame is timed until the driver is done, for frameText().
+    void showFrameStatistics(bool on);
+
+    /// What the last frame took; what it says of the time is whole only while that is shown.
+    nbRenderAction::Statistics frameStatistics() const { return renderAction.getStatistics(); }
+
+    /// The same as a line of text; empty while it is not shown.
+    QString frameText() const;
+
     QSize sizeHint() const override;
 
 signals:
@@ -66,6 +75,7 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
+    void addCommands();
     void redrawRequested() override;
     void cursorChanged(Qt::CursorShape shape) override;
     void adoptSize();
@@ -87,6 +97,7 @@ private:
     HandleCursor shownCursor;
     Qt::CursorShape hostCursor = Qt::ArrowCursor;
     bool failed = false;
+    bool frameStatisticsShown = false;
 };
 
 }  // namespace viewer

@@ -175,6 +175,7 @@ void WindowActions::addViewMenu()
     panels->addActions(window.panels().actions());
     addSwitch(menu, "effectBuffer", tr("Show &effect buffer"), "B",
               [this](bool on) { window.showEffectBuffer(on); });
+    addCommand(menu, "view.setFrameStatistics", tr("Frame s&tatistics"), "")->setCheckable(true);
 }
 
 void WindowActions::addManipulatorMenu()
