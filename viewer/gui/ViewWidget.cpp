@@ -6,6 +6,7 @@
 #include "viewer/gui/SelectionRectangle.h"
 #include "viewer/gui/TextPainter.h"
 
+#include <QCoreApplication>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QJsonObject>
@@ -165,6 +166,14 @@ void ViewWidget::updateCursor()
     }
 }
 
+void ViewWidget::renewContext()
+{
+    // What a move to another window tells a view.
+    QEvent moved(QEvent::WindowChangeInternal);
+    QCoreApplication::sendEvent(this, &moved);
+    update();
+}
+
 void ViewWidget::showEffectBuffer(bool on)
 {
     renderAction.showEffectBuffer(on);
@@ -298,6 +307,9 @@ void ViewWidget::dropEvent(QDropEvent* event)
 
 void ViewWidget::redrawRequested()
 {
+    if (context() != nullptr && !context()->isValid()) {
+        renewContext();
+    }
     update();
 }
 

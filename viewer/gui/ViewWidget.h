@@ -15,8 +15,9 @@
 namespace viewer {
 
 /// The 3D view of the window: draws the stage with OpenGL and hands it the person's input.
-/// Draws only when the render widget asked for it. Pixel ratios are converted here and in the input
-/// translator only.
+/// Draws only when the render widget asked for it. Nothing is lost with an OpenGL context, as when
+/// the view moves to another window: the next picture is the same. Pixel ratios are converted here
+/// and in the input translator only.
 class ViewWidget : public QOpenGLWidget, private nbOSGWidget::Observer
 {
     Q_OBJECT
@@ -42,6 +43,10 @@ public:
     /// window need not be seen.
     /// @return null with one line in `error`
     QImage takePicture(QString& error);
+
+    /// Gives the view a new OpenGL context, in which everything is made anew from the scene. The
+    /// view does it by itself where the driver has lost the old one.
+    void renewContext();
 
     /// Shows the effect buffer instead of the colours.
     void showEffectBuffer(bool on);

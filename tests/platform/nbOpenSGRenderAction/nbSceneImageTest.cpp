@@ -617,6 +617,17 @@ TEST_F(KeptPictureTest, MagnifierShowsTheFinishedPicture)
     }
 }
 
+TEST_F(KeptPictureTest, EverythingIsMadeAnewInANewContext)
+{
+    const QImage before = settle();
+    view->close();
+    EXPECT_EQ(difference(compare("a new context"), before), "");
+    setDiffuse(materialOf(show.handle), nextColor());
+    compare("highlight in the new context");
+    settle();
+    EXPECT_GE(reused(), 4U);
+}
+
 TEST_F(KeptPictureTest, ARedrawOfTheSameIsCheapAndCounted)
 {
     settle();
