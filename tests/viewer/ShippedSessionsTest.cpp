@@ -25,7 +25,7 @@ std::vector<std::string> sessionNames()
 }
 
 /// Draws what a view shows twice, once with the kept image of the scene, and counts the pictures
-/// that differ; small ones of every second frame, so that a replay takes little longer.
+/// that differ; small ones of every fourth frame, so that a replay takes little longer.
 class KeptImageCheck
 {
 public:
@@ -37,7 +37,7 @@ public:
 
     void compare()
     {
-        constexpr std::size_t kEvery = 2;
+        constexpr std::size_t kEvery = 4;
         const std::size_t frame = view.frameStatistics().frames;
         const nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1);
         if (frame < lastFrame + kEvery || widget == nullptr) {
