@@ -140,6 +140,7 @@ void MainWindow::updateStatus()
 {
     Stage& stage = viewWidget->stage();
     statusLine->update(stage, loader->isRunning());
+    statusLine->showFrame(viewWidget->frameText());
     docks->refresh();
 }
 
