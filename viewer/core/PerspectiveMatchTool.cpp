@@ -112,13 +112,18 @@ bool PerspectiveMatchTool::setPhotograph(const QString& file, QString& error)
             return false;
         }
     }
+    setPhotograph(image.get());
+    return true;
+}
+
+void PerspectiveMatchTool::setPhotograph(const osg::ImagePtr& image)
+{
     const osg::UberViewportPtr viewport = stage.view().getUberViewport();
     {
         const nbEdit edit(viewport, osg::UberViewport::PhotographFieldMask);
-        viewport->setPhotograph(image.get());
+        viewport->setPhotograph(image);
     }
     stage.view().update();
-    return true;
 }
 
 QString PerspectiveMatchTool::photograph() const
@@ -285,8 +290,7 @@ void PerspectiveMatchTool::leavePointer()
 
 void PerspectiveMatchTool::sceneCleared()
 {
-    QString none;
-    setPhotograph({}, none);
+    setPhotograph(osg::ImagePtr());
     setVeil(kUsualVeil);
     showLines(true);
     const nbScopedUndo muted(false);
