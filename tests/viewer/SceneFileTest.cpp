@@ -9,8 +9,8 @@
 #include "viewer/core/SceneBuilder.h"
 
 #include <nbKernel/nbScenegraph.h>
+#include <nbKernelServices/nbScopedUndo.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
-#include <nbTransform/nbTransformModel.h>
 
 #include <QDir>
 #include <QJsonDocument>
