@@ -2,13 +2,17 @@
 #include "viewer/gui/MainWindow.h"
 
 #include "viewer/core/ModelReader.h"
+#include "viewer/core/StageTool.h"
+#include "viewer/gui/LogPanel.h"
 #include "viewer/gui/MessageBar.h"
 #include "viewer/gui/PanelDocks.h"
 #include "viewer/gui/SessionPlayer.h"
 #include "viewer/gui/SessionRecorder.h"
 #include "viewer/gui/StatusLine.h"
+#include "viewer/gui/ToolBars.h"
 #include "viewer/gui/ViewWidget.h"
 #include "viewer/gui/WindowActions.h"
+#include "viewer/gui/WindowMemory.h"
 
 #include <nbKernelServices/nbUndoService.h>
 
@@ -17,23 +21,26 @@
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QImageReader>
-#include <QSettings>
+#include <QKeyEvent>
+#include <QMenuBar>
+#include <QScreen>
 #include <QStatusBar>
 #include <QTimer>
+#include <QToolBar>
 #include <QUndoStack>
 
 namespace viewer {
 namespace {
 
-constexpr int kRecentCount = 8;
-
 /// A window that a window manager refuses the wanted size is waited for this often.
 constexpr int kMaxSizeChecks = 200;
 constexpr int kSizeCheckMs = 10;
 
-const char* const kRecentKey = "recentFiles";
-const char* const kLayoutKey = "windowLayout";
-const char* const kSessionFilter = "Sessions (*.json)";
+/// Size at the first start, logical pixels, and the part of the screen that it takes at most.
+constexpr QSize kFirstSize(1440, 900);
+constexpr double kMostOfScreen = 0.94;
+
+const char* const kSessionFilter = QT_TRANSLATE_NOOP("viewer::MainWindow", "Sessions (*.json)");
 
 bool isSession(const QString& file)
 {
@@ -83,14 +90,21 @@ MainWindow::MainWindow(Attendance attendance)
     messageBar = new MessageBar(viewWidget);
     docks = new PanelDocks(*this, viewWidget->stage());
     if (mode == Attendance::Attended) {
+        shownTheme = memory::theme();
+        applyTheme(shownTheme);
         docks->arrange();
-        restoreState(QSettings().value(kLayoutKey).toByteArray());
     }
     actions = new WindowActions(*this, viewWidget->stage());
+    addToolBars(*this);
     if (mode == Attendance::Attended) {
-        actions->setRecentFiles(QSettings().value(kRecentKey).toStringList());
+        actions->setRecentFiles(memory::recentFiles());
         connect(this, &MainWindow::problem, messageBar, &MessageBar::showMessage);
+        if (!memory::restoreLayout(*this)) {
+            resize(kFirstSize.boundedTo(screen()->availableSize() * kMostOfScreen));
+        }
     }
+    connect(this, &MainWindow::problem, this,
+            [this](const QString& text) { docks->log().append(nbLog::Level::Warning, text); });
     connect(actions, &WindowActions::shortcutUsed, sessionRecorder, &SessionRecorder::addShortcut);
     connect(viewWidget, &ViewWidget::stateChanged, this, &MainWindow::updateStatus);
     connect(viewWidget, &ViewWidget::drawingFailed, this, &MainWindow::problem);
@@ -102,11 +116,7 @@ MainWindow::MainWindow(Attendance attendance)
         emit problem(reason);
     });
     connect(loader, &ModelLoader::progressed, statusLine, &StatusLine::setProgress);
-    connect(statusLine, &StatusLine::stopLoadingAsked, this, [this] {
-        loader->cancel();
-        pendingSession.reset();
-        updateStatus();
-    });
+    connect(statusLine, &StatusLine::stopLoadingAsked, this, &MainWindow::stopLoading);
     connect(docks, &PanelDocks::problem, this, &MainWindow::problem);
     connect(nbUndoService::the()->getStack(), &QUndoStack::cleanChanged, this,
             [this](bool clean) { setWindowModified(!clean); });
@@ -195,6 +205,9 @@ void MainWindow::showLoadedModels()
     actions->update();
     updateStatus();
     setShownTitle(QFileInfo(openingFiles.value(0)).fileName());
+    for (const QString& warning : warnings) {
+        docks->log().append(nbLog::Level::Warning, warning);
+    }
     if (!warnings.isEmpty() && mode == Attendance::Attended) {
         messageBar->showMessage(warnings.first());
     }
@@ -206,19 +219,16 @@ void MainWindow::showLoadedModels()
 
 void MainWindow::addRecentFiles(const QStringList& files)
 {
-    if (mode == Attendance::Unattended) {
-        return;
+    if (mode == Attendance::Attended) {
+        actions->setRecentFiles(memory::addRecentFiles(files));
     }
-    QSettings settings;
-    QStringList recent = settings.value(kRecentKey).toStringList();
-    for (const QString& file : files) {
-        const QString path = QFileInfo(file).absoluteFilePath();
-        recent.removeAll(path);
-        recent.prepend(path);
-    }
-    recent = recent.mid(0, kRecentCount);
-    settings.setValue(kRecentKey, recent);
-    actions->setRecentFiles(recent);
+}
+
+void MainWindow::stopLoading()
+{
+    loader->cancel();
+    pendingSession.reset();
+    updateStatus();
 }
 
 void MainWindow::askForFiles(Opening opening)
@@ -262,7 +272,9 @@ void MainWindow::handleDroppedFiles(const QStringList& files, const osg::Pnt2f& 
         replayFile(file);
     } else {
         QString error;
-        if (!viewWidget->stage().takePicture(file, px, error)) {
+        if (viewWidget->stage().takePicture(file, px, error)) {
+            showPanelOfTool();
+        } else {
             emit problem(error.isEmpty() ? tr("%1: drop pictures on an object").arg(file) : error);
         }
     }
@@ -286,12 +298,69 @@ void MainWindow::suggestViewSize(const QSize& sizePx)
     });
 }
 
+void MainWindow::setTheme(Theme theme)
+{
+    shownTheme = theme;
+    applyTheme(theme);
+    if (mode == Attendance::Attended) {
+        memory::keepTheme(theme);
+    }
+}
+
+void MainWindow::showPanelOfTool()
+{
+    const StageTool* tool = viewWidget->stage().activeTool();
+    if (tool != nullptr && mode == Attendance::Attended && !isReplaying()) {
+        docks->showPanelOf(QLatin1String(tool->name()));
+    }
+}
+
+bool MainWindow::isWhole() const
+{
+    return !stateBeforeWhole.isEmpty();
+}
+
+void MainWindow::showWhole(bool on)
+{
+    if (on == isWhole()) {
+        return;
+    }
+    if (on) {
+        stateBeforeWhole = memory::stateOf(*this);
+        for (QToolBar* bar : findChildren<QToolBar*>()) {
+            bar->hide();
+        }
+        docks->hide();
+        setWindowState(windowState() | Qt::WindowFullScreen);
+    } else {
+        setWindowState(windowState() & ~Qt::WindowFullScreen);
+        memory::restoreState(*this, stateBeforeWhole);
+        stateBeforeWhole.clear();
+    }
+    menuBar()->setVisible(!on);
+    statusBar()->setVisible(!on);
+    viewWidget->setFocus();
+    actions->update();
+}
+
+void MainWindow::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() != Qt::Key_Escape) {
+        QMainWindow::keyPressEvent(event);
+    } else if (loader->isRunning()) {
+        stopLoading();
+    } else {
+        showWhole(false);
+    }
+}
+
 void MainWindow::closeEvent(QCloseEvent* event)
 {
     loader->cancel();
     sessionPlayer->stop();
     if (mode == Attendance::Attended) {
-        QSettings().setValue(kLayoutKey, saveState());
+        showWhole(false);
+        memory::keepLayout(*this, memory::stateOf(*this));
     }
     QMainWindow::closeEvent(event);
 }

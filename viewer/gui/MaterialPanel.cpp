@@ -194,7 +194,7 @@ QAbstractButton* MaterialPanel::addHandleButton(QBoxLayout& row, const char* gro
     button->setCheckable(true);
     button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     // Keys are for the view, whatever was clicked last.
-    button->setFocusPolicy(Qt::NoFocus);
+    button->setFocusPolicy(Qt::TabFocus);
     handleButtons->addButton(button);
     row.addWidget(button);
     return button;

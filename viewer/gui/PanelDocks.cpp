@@ -2,6 +2,7 @@
 #include "viewer/gui/PanelDocks.h"
 
 #include "viewer/core/Stage.h"
+#include "viewer/gui/LogPanel.h"
 #include "viewer/gui/MaterialPanel.h"
 #include "viewer/gui/ObjectPanel.h"
 #include "viewer/gui/PerspectiveMatchPanel.h"
@@ -11,6 +12,7 @@
 #include <nbKernelServices/nbUndoService.h>
 
 #include <QAction>
+#include <QApplication>
 #include <QDockWidget>
 #include <QMainWindow>
 #include <QUndoStack>
@@ -33,6 +35,7 @@ PanelDocks::PanelDocks(QMainWindow& targetWindow, Stage& targetStage)
 {
     addSteps();
     addPanels();
+    addLog();
 }
 
 PanelDocks::~PanelDocks()
@@ -47,7 +50,8 @@ void PanelDocks::addSteps()
     undoView->setObjectName(QStringLiteral("undoList"));
     undoView->setEmptyLabel(tr("As opened"));
     // Keys are for the view, whatever was clicked last.
-    undoView->setFocusPolicy(Qt::NoFocus);
+    undoView->setFocusPolicy(Qt::TabFocus);
+    undoView->setAccessibleName(tr("Steps"));
     stepsDock = addDock(undoView, tr("Steps"), QStringLiteral("undoDock"));
     connect(stack, &QUndoStack::indexChanged, this, [this] { stage.edited(); });
 }
@@ -56,10 +60,20 @@ void PanelDocks::addPanels()
 {
     sceneDock = addPanel(new ScenePanel(stage), tr("Objects"), QStringLiteral("sceneDock"));
     objectDock = addPanel(new ObjectPanel(stage), tr("Properties"), QStringLiteral("objectDock"));
-    addPanel(new MaterialPanel(stage), tr("Material"), QStringLiteral("materialDock"));
-    addPanel(new PerspectiveMatchPanel(stage), tr("Perspective match"),
-             QStringLiteral("matchDock"));
-    addPanel(new PlatesPanel(stage), tr("Scene plates"), QStringLiteral("platesDock"));
+    toolDocks[QStringLiteral("texture")] =
+        addPanel(new MaterialPanel(stage), tr("Material"), QStringLiteral("materialDock"));
+    toolDocks[QStringLiteral("match")] = addPanel(
+        new PerspectiveMatchPanel(stage), tr("Perspective match"), QStringLiteral("matchDock"));
+    toolDocks[QStringLiteral("plates")] =
+        addPanel(new PlatesPanel(stage), tr("Scene plates"), QStringLiteral("platesDock"));
+}
+
+void PanelDocks::addLog()
+{
+    logPanel = new LogPanel;
+    logDock = addDock(logPanel, tr("Messages"), QStringLiteral("logDock"));
+    window.addDockWidget(Qt::BottomDockWidgetArea, logDock);
+    logDock->hide();
 }
 
 QDockWidget* PanelDocks::addDock(QWidget* content, const QString& title, const QString& name)
@@ -89,7 +103,7 @@ void PanelDocks::arrange()
     const QList<QDockWidget*> shown { sceneDock, objectDock, stepsDock };
     for (QDockWidget* dock : docks) {
         dock->setVisible(shown.contains(dock));
-        if (!shown.contains(dock)) {
+        if (!shown.contains(dock) && dock != logDock) {
             window.tabifyDockWidget(objectDock, dock);
         }
     }
@@ -103,6 +117,48 @@ QList<QAction*> PanelDocks::actions() const
         all.append(dock->toggleViewAction());
     }
     return all;
+}
+
+void PanelDocks::showPanelOf(const QString& tool)
+{
+    if (QDockWidget* dock = toolDocks.value(tool)) {
+        dock->show();
+        dock->raise();
+    }
+}
+
+void PanelDocks::hide()
+{
+    for (QDockWidget* dock : docks) {
+        dock->hide();
+    }
+}
+
+void PanelDocks::focusNext(QWidget* view)
+{
+    QList<QWidget*> places { view };
+    int present = 0;
+    for (QDockWidget* dock : docks) {
+        // Of docks that lie on each other one is seen.
+        if (dock->isVisible() && !dock->visibleRegion().isEmpty()) {
+            if (dock->isAncestorOf(QApplication::focusWidget())) {
+                present = places.size();
+            }
+            places.append(dock->widget());
+        }
+    }
+    QWidget* place = places.at((present + 1) % places.size());
+    // A panel itself takes no keys, but the first thing in it.
+    for (QWidget* next = place; next != nullptr;) {
+        if (next->isVisible() && next->isEnabled() && (next->focusPolicy() & Qt::TabFocus) != 0) {
+            next->setFocus(Qt::TabFocusReason);
+            return;
+        }
+        next = next->nextInFocusChain();
+        if (next == place) {
+            return;
+        }
+    }
 }
 
 void PanelDocks::refresh()

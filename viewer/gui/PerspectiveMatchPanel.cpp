@@ -123,7 +123,7 @@ void PerspectiveMatchPanel::addPhotograph(QFormLayout& form)
     auto* open = new QPushButton(tr("Open…"), this);
     remove = new QPushButton(tr("Remove"), this);
     for (QPushButton* button : { open, remove }) {
-        button->setFocusPolicy(Qt::NoFocus);
+        button->setFocusPolicy(Qt::TabFocus);
     }
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(open);
@@ -134,7 +134,7 @@ void PerspectiveMatchPanel::addPhotograph(QFormLayout& form)
             [this] { run(QStringLiteral("match.setPhotograph"), QString()); });
     veil = new QSlider(Qt::Horizontal, this);
     veil->setObjectName(QStringLiteral("matchVeil"));
-    veil->setFocusPolicy(Qt::NoFocus);
+    veil->setFocusPolicy(Qt::TabFocus);
     veil->setRange(0, kPercent);
     form.addRow(tr("Over the models"), veil);
     connect(veil, &QSlider::valueChanged, this, [this](int value) {
@@ -148,7 +148,7 @@ QCheckBox* PerspectiveMatchPanel::addSwitch(QFormLayout& form, const char* name,
     auto* box = new QCheckBox(this);
     box->setObjectName(QLatin1String(name));
     // Keys are for the view.
-    box->setFocusPolicy(Qt::NoFocus);
+    box->setFocusPolicy(Qt::TabFocus);
     form.addRow(label, box);
     connect(box, &QCheckBox::toggled, this, [this, command](bool on) { run(command, on); });
     return box;
@@ -160,7 +160,7 @@ QComboBox* PerspectiveMatchPanel::addChoice(QFormLayout& form, const char* name,
 {
     auto* box = new QComboBox(this);
     box->setObjectName(QLatin1String(name));
-    box->setFocusPolicy(Qt::NoFocus);
+    box->setFocusPolicy(Qt::TabFocus);
     box->addItems(texts);
     form.addRow(label, box);
     connect(box, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
@@ -210,7 +210,7 @@ QPushButton* PerspectiveMatchPanel::addButton(const char* name, const QString& t
 {
     auto* button = new QPushButton(text, this);
     button->setObjectName(QLatin1String(name));
-    button->setFocusPolicy(Qt::NoFocus);
+    button->setFocusPolicy(Qt::TabFocus);
     connect(button, &QPushButton::clicked, this, [this, command] { run(command); });
     return button;
 }
