@@ -146,6 +146,12 @@ QByteArray exactJson(float value)
     return isGivenBack ? digits : shortest(static_cast<double>(value));
 }
 
+double shortDouble(float value)
+{
+    const double found = shortest(value).toDouble();
+    return static_cast<float>(found) == value ? found : static_cast<double>(value);
+}
+
 QByteArray exactJson(double value)
 {
     return isNegativeZero(value) ? QByteArrayLiteral("\"-0\"") : shortest(value);

@@ -61,4 +61,9 @@ private:
 QByteArray exactJson(float value);
 QByteArray exactJson(double value);
 
+/// The number of double precision that is written with the fewest digits that give a number of
+/// single precision back, such as 0.1 for the nearest float to it.
+/// @param value  finite
+double shortDouble(float value);
+
 }  // namespace viewer

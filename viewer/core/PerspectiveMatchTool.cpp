@@ -370,7 +370,8 @@ std::string PerspectiveMatchTool::draggedValues() const
 bool PerspectiveMatchTool::takePicture(const QString& file, const osg::Pnt2f& /*px*/,
                                        QString& error)
 {
-    return active && setPhotograph(file, error);
+    // As a command, so that it becomes part of a recording.
+    return active && stage.commands().run(QStringLiteral("match.setPhotograph"), file, error);
 }
 
 }  // namespace viewer

@@ -82,7 +82,8 @@ public:
     }
 
     template <std::size_t Count>
-    bool words(const char* key, int& number, const std::array<const char*, Count>& allowed, int usual)
+    bool words(const char* key, int& number, const std::array<const char*, Count>& allowed,
+               int usual)
     {
         number = usual;
         return !has(key) || words(key, number, allowed);

@@ -3,9 +3,11 @@
 
 #include "viewer/core/ModelReader.h"
 #include "viewer/core/StageTool.h"
+#include "viewer/gui/CaptionBar.h"
 #include "viewer/gui/LogPanel.h"
 #include "viewer/gui/MessageBar.h"
 #include "viewer/gui/PanelDocks.h"
+#include "viewer/gui/SceneFileActions.h"
 #include "viewer/gui/SessionPlayer.h"
 #include "viewer/gui/SessionRecorder.h"
 #include "viewer/gui/StatusLine.h"
@@ -13,8 +15,6 @@
 #include "viewer/gui/ViewWidget.h"
 #include "viewer/gui/WindowActions.h"
 #include "viewer/gui/WindowMemory.h"
-
-#include <nbKernelServices/nbUndoService.h>
 
 #include <QCloseEvent>
 #include <QFileDialog>
@@ -27,20 +27,15 @@
 #include <QStatusBar>
 #include <QTimer>
 #include <QToolBar>
-#include <QUndoStack>
+
+#include <algorithm>
 
 namespace viewer {
 namespace {
 
-/// A window that a window manager refuses the wanted size is waited for this often.
-constexpr int kMaxSizeChecks = 200;
-constexpr int kSizeCheckMs = 10;
-
 /// Size at the first start, logical pixels, and the part of the screen that it takes at most.
 constexpr QSize kFirstSize(1440, 900);
 constexpr double kMostOfScreen = 0.94;
-
-const char* const kSessionFilter = QT_TRANSLATE_NOOP("viewer::MainWindow", "Sessions (*.json)");
 
 bool isSession(const QString& file)
 {
@@ -51,24 +46,6 @@ bool isPicture(const QString& file)
 {
     const QByteArray suffix = QFileInfo(file).suffix().toLatin1().toLower();
     return QImageReader::supportedImageFormats().contains(suffix);
-}
-
-osg::Pnt3f pointOf(const std::array<double, 3>& p)
-{
-    return { static_cast<float>(p[0]), static_cast<float>(p[1]), static_cast<float>(p[2]) };
-}
-
-CameraPose poseOf(const SessionCamera& camera)
-{
-    CameraPose pose;
-    pose.from = pointOf(camera.from);
-    pose.at = pointOf(camera.at);
-    pose.up = pointOf(camera.up).subZero();
-    pose.pivot = pointOf(camera.pivot.value_or(camera.at));
-    pose.fovDeg = static_cast<float>(camera.fovDeg);
-    pose.orthographic = camera.orthographic;
-    pose.zUp = camera.zUp;
-    return pose;
 }
 
 }  // namespace
@@ -94,11 +71,15 @@ MainWindow::MainWindow(Attendance attendance)
         applyTheme(shownTheme);
         docks->arrange();
     }
+    sceneFiles = new SceneFileActions(*this, viewWidget->stage(), *loader);
     actions = new WindowActions(*this, viewWidget->stage());
     addToolBars(*this);
     if (mode == Attendance::Attended) {
         actions->setRecentFiles(memory::recentFiles());
         connect(this, &MainWindow::problem, messageBar, &MessageBar::showMessage);
+        sceneFiles->setQuestion(sceneFiles->dialog());
+        connect(sessionPlayer, &SessionPlayer::captionChanged, new CaptionBar(viewWidget),
+                &CaptionBar::showCaption);
         if (!memory::restoreLayout(*this)) {
             resize(kFirstSize.boundedTo(screen()->availableSize() * kMostOfScreen));
         }
@@ -113,17 +94,29 @@ MainWindow::MainWindow(Attendance attendance)
     connect(loader, &ModelLoader::failed, this, [this](const QString& reason) {
         updateStatus();
         pendingSession.reset();
+        sceneFiles->forget();
         emit problem(reason);
     });
     connect(loader, &ModelLoader::progressed, statusLine, &StatusLine::setProgress);
     connect(statusLine, &StatusLine::stopLoadingAsked, this, &MainWindow::stopLoading);
     connect(docks, &PanelDocks::problem, this, &MainWindow::problem);
-    connect(nbUndoService::the()->getStack(), &QUndoStack::cleanChanged, this,
-            [this](bool clean) { setWindowModified(!clean); });
+    connect(sceneFiles, &SceneFileActions::modifiedChanged, this, &QWidget::setWindowModified);
+    connect(sceneFiles, &SceneFileActions::problem, this, [this](const QString& text) {
+        pendingSession.reset();
+        updateStatus();
+        emit problem(text);
+    });
+    connect(sceneFiles, &SceneFileActions::opened, this, &MainWindow::sceneOpened);
+    connect(sceneFiles, &SceneFileActions::saved, this, [this](const QString& path) {
+        shownFiles = QStringList { path };
+        setShownTitle(QFileInfo(path).fileName());
+        addRecentFiles(shownFiles);
+    });
     connect(sessionPlayer, &SessionPlayer::finished, this, &MainWindow::concludeReplay);
     viewWidget->stage().commands().setListener(
         [this](const QString& name, const QJsonValue& value) {
             sessionRecorder->addCommand(name, value);
+            sceneFiles->noteCommand(name);
             viewWidget->stage().edited();
         });
     viewWidget->stage().setChangedCallback([this] {
@@ -137,10 +130,9 @@ MainWindow::~MainWindow()
 {
     viewWidget->stage().setChangedCallback(nullptr);
     viewWidget->stage().commands().setListener(nullptr);
+    delete sceneFiles;
     // Panels may own tools of the stage, which ends with the view.
     delete docks;
-    // The service outlives the window, and the end of the stage empties the stack.
-    nbUndoService::the()->getStack()->disconnect(this);
     // The view is needed by what the window owns besides it.
     delete sessionPlayer;
     delete sessionRecorder;
@@ -163,24 +155,61 @@ void MainWindow::updateStatus()
 
 void MainWindow::showStartScene()
 {
+    if (!pendingSession && !sceneFiles->mayReplace()) {
+        return;
+    }
     loader->cancel();
     shownFiles.clear();
     viewWidget->stage().showStartScene();
+    sceneFiles->replaced();
     setShownTitle({});
     updateStatus();
 }
 
 void MainWindow::openFiles(const QStringList& files, Opening opening)
 {
+    const bool isScene = std::any_of(files.begin(), files.end(), &isSceneFileName);
+    if (isScene && (files.size() > 1 || opening == Opening::Add)) {
+        emit problem(tr("%1: a scene can only be opened by itself").arg(files.first()));
+        return;
+    }
+    if (opening == Opening::Replace && !pendingSession && !sceneFiles->mayReplace()) {
+        return;
+    }
     openingFiles = files;
     openingMode = opening;
     statusLine->setProgress({}, 0);
-    loader->start(files);
+    sceneFiles->forget();
+    if (isScene) {
+        sceneFiles->open(files.first());
+    } else {
+        loader->start(files);
+    }
     updateStatus();
+}
+
+void MainWindow::sceneOpened(const QString& path, bool byCommand)
+{
+    shownFiles = QStringList { path };
+    addRecentFiles(shownFiles);
+    setShownTitle(QFileInfo(path).fileName());
+    if (!byCommand) {
+        sessionRecorder->addCommand(QStringLiteral("scene.open"), path);
+    }
+    actions->update();
+    updateStatus();
+    if (pendingSession) {
+        beginReplay();
+    }
+    emit filesShown();
 }
 
 void MainWindow::showLoadedModels()
 {
+    if (sceneFiles->isOpening()) {
+        sceneFiles->conclude();
+        return;
+    }
     Stage& stage = viewWidget->stage();
     const bool replaced = openingMode == Opening::Replace || stage.isEmpty();
     if (openingMode == Opening::Replace) {
@@ -197,6 +226,11 @@ void MainWindow::showLoadedModels()
         shownFiles.append(QFileInfo(file).absoluteFilePath());
     }
     addRecentFiles(openingFiles);
+    if (openingMode == Opening::Replace) {
+        sceneFiles->replaced();
+    } else {
+        sceneFiles->touch();
+    }
     stage.frameAll(replaced);
     stage.select(last);
     if (stage.gizmo().shown() == Gizmo::None) {
@@ -227,6 +261,7 @@ void MainWindow::addRecentFiles(const QStringList& files)
 void MainWindow::stopLoading()
 {
     loader->cancel();
+    sceneFiles->forget();
     pendingSession.reset();
     updateStatus();
 }
@@ -356,6 +391,10 @@ void MainWindow::keyPressEvent(QKeyEvent* event)
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
+    if (!isReplaying() && !sceneFiles->mayReplace()) {
+        event->ignore();
+        return;
+    }
     loader->cancel();
     sessionPlayer->stop();
     if (mode == Attendance::Attended) {
@@ -363,149 +402,6 @@ void MainWindow::closeEvent(QCloseEvent* event)
         memory::keepLayout(*this, memory::stateOf(*this));
     }
     QMainWindow::closeEvent(event);
-}
-
-// == Sessions
-
-void MainWindow::replay(const Session& session, const std::optional<QDir>& pictures)
-{
-    sessionPlayer->stop();
-    pendingSession = session;
-    pendingPictures = pictures;
-    sizeChecks = 0;
-    if (!session.files.isEmpty()) {
-        openFiles(session.files, Opening::Replace);
-        return;
-    }
-    showStartScene();
-    beginReplay();
-}
-
-bool MainWindow::setStageFor(const Session& session, QString& error)
-{
-    Stage& stage = viewWidget->stage();
-    stage.gizmo().resetSettings();
-    if (session.camera) {
-        stage.setPose(poseOf(*session.camera));
-    }
-    if (session.selection && !stage.selectByName(session.selection->toStdString())) {
-        error = QStringLiteral("the session begins with \"%1\" selected, which is not there")
-                    .arg(*session.selection);
-        return false;
-    }
-    if (!session.manipulator.isEmpty()) {
-        if (!stage.showManipulator(session.manipulator.toStdString())) {
-            error = QStringLiteral("manipulator: unknown name \"%1\"").arg(session.manipulator);
-            return false;
-        }
-    }
-    return true;
-}
-
-void MainWindow::beginReplay()
-{
-    viewWidget->fixSize(pendingSession->sizePx);
-    if (sizeChecks == 0) {
-        adjustSize();
-    }
-    // The layout gives the view its size only when the window has got its own.
-    const nbOSGWidget& renderWidget = viewWidget->stage().view();
-    const QSize size(renderWidget.getWidth(), renderWidget.getHeight());
-    if ((size != pendingSession->sizePx || !viewWidget->isVisible()) &&
-        ++sizeChecks < kMaxSizeChecks) {
-        QTimer::singleShot(kSizeCheckMs, this, [this] {
-            if (pendingSession) {
-                beginReplay();
-            }
-        });
-        return;
-    }
-    const Session session = *pendingSession;
-    pendingSession.reset();
-    QString error;
-    if (!setStageFor(session, error)) {
-        viewWidget->fixSize({});
-        emit problem(error);
-        return;
-    }
-    const auto pace = mode == Attendance::Attended ? SessionPlayer::Pace::AsRecorded
-                                                   : SessionPlayer::Pace::AsFastAsPossible;
-    sessionPlayer->start(session, pace, pendingPictures);
-    actions->update();
-}
-
-void MainWindow::stopReplay()
-{
-    sessionPlayer->stop();
-}
-
-bool MainWindow::isReplaying() const
-{
-    return sessionPlayer->isPlaying();
-}
-
-void MainWindow::concludeReplay()
-{
-    if (mode == Attendance::Attended) {
-        viewWidget->fixSize({});
-    }
-    actions->update();
-    if (!sessionPlayer->getFailures().isEmpty() && mode == Attendance::Attended) {
-        emit problem(sessionPlayer->getFailures().first());
-    }
-    emit replayFinished();
-}
-
-void MainWindow::record(bool on)
-{
-    if (on && !sessionRecorder->isRecording()) {
-        sessionRecorder->start(shownFiles);
-        statusBar()->showMessage(tr("Recording"));
-    } else if (!on && sessionRecorder->isRecording()) {
-        statusBar()->clearMessage();
-        saveRecording();
-    }
-}
-
-bool MainWindow::isRecording() const
-{
-    return sessionRecorder->isRecording();
-}
-
-void MainWindow::addCheckpoint()
-{
-    sessionRecorder->addCheckpoint();
-}
-
-void MainWindow::saveRecording()
-{
-    const Session session = sessionRecorder->stop();
-    const QString path = QFileDialog::getSaveFileName(
-        this, tr("Save session"), QStringLiteral("session.json"), tr(kSessionFilter));
-    QString error;
-    if (!path.isEmpty() && !writeSessionFile(path, session, error)) {
-        emit problem(error);
-    }
-}
-
-void MainWindow::askForSession()
-{
-    const QString path =
-        QFileDialog::getOpenFileName(this, tr("Replay session"), {}, tr(kSessionFilter));
-    if (!path.isEmpty()) {
-        replayFile(path);
-    }
-}
-
-void MainWindow::replayFile(const QString& path)
-{
-    QString error;
-    const std::optional<Session> session = readSessionFile(path, error);
-    if (session) {
-        replay(*session, std::nullopt);
-    } else {
-        emit problem(error);
-    }
 }
 
 }  // namespace viewer
