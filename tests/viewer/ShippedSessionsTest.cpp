@@ -2,8 +2,11 @@
 #include "viewer/core/Session.h"
 #include "viewer/gui/MainWindow.h"
 #include "viewer/gui/SessionPlayer.h"
+#include "viewer/gui/ViewWidget.h"
 
 #include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
 
 #include "support/GuiTest.h"
 
@@ -19,6 +22,13 @@ std::vector<std::string> sessionNames()
         names.push_back(QFileInfo(file).completeBaseName().toStdString());
     }
     return names;
+}
+
+QByteArray textOf(const QString& path)
+{
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+    return file.readAll();
 }
 
 class ShippedSessions : public GuiTest, public testing::WithParamInterface<std::string>
@@ -45,6 +55,38 @@ TEST_P(ShippedSessions, MeetTheirCheckpoints)
 
     EXPECT_EQ(problems, QStringList());
     EXPECT_EQ(window.player().getFailures(), QStringList());
+}
+
+TEST_P(ShippedSessions, WhatTheyMadeIsTheSameAfterSavingAndOpening)
+{
+    QString error;
+    const std::optional<Session> session = readSessionFile(
+        kSessions.filePath(QString::fromStdString(GetParam()) + QStringLiteral(".json")), error);
+    ASSERT_TRUE(session) << error.toStdString();
+    MainWindow window(MainWindow::Attendance::Unattended);
+    bool done = false;
+    QObject::connect(&window, &MainWindow::replayFinished, [&done] { done = true; });
+    window.show();
+    window.replay(*session, std::nullopt);
+    waitUntil([&done] { return done; });
+    Stage& stage = window.view().stage();
+    const auto plainPicture = [&] {
+        stage.setActiveTool(nullptr);
+        stage.showGizmo(Gizmo::None);
+        stage.select(osg::NullFC);
+        return window.view().takePicture(error);
+    };
+    const QTemporaryDir folder;
+    const QString first = folder.filePath("first.nbscene");
+    const QString second = folder.filePath("second.nbscene");
+    const QImage before = plainPicture();
+
+    ASSERT_TRUE(stage.commands().run("scene.save", first, error)) << error.toStdString();
+    ASSERT_TRUE(stage.commands().run("scene.open", first, error)) << error.toStdString();
+
+    EXPECT_EQ(plainPicture(), before);
+    ASSERT_TRUE(stage.commands().run("scene.save", second, error)) << error.toStdString();
+    EXPECT_EQ(textOf(second), textOf(first));
 }
 
 std::string testName(const testing::TestParamInfo<std::string>& info)

@@ -9,6 +9,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 namespace viewer {
@@ -137,19 +138,17 @@ void JsonWriter::separate()
 
 QByteArray exactJson(float value)
 {
-    if (isNegativeZero(static_cast<double>(value))) {
-        return QByteArrayLiteral("\"-0\"");
-    }
-    // What is read in double precision first may be rounded the other way.
-    const QByteArray digits = shortest(value);
-    const bool isGivenBack = static_cast<float>(digits.toDouble()) == value;
-    return isGivenBack ? digits : shortest(static_cast<double>(value));
+    return isNegativeZero(static_cast<double>(value)) ? QByteArrayLiteral("\"-0\"")
+                                                      : shortest(shortDouble(value));
 }
 
 double shortDouble(float value)
 {
+    // What is read in double precision first may be rounded the other way, or be out of range.
     const double found = shortest(value).toDouble();
-    return static_cast<float>(found) == value ? found : static_cast<double>(value);
+    const bool isGivenBack = std::abs(found) <= double(std::numeric_limits<float>::max()) &&
+        static_cast<float>(found) == value;
+    return isGivenBack ? found : static_cast<double>(value);
 }
 
 QByteArray exactJson(double value)

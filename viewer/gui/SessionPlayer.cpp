@@ -20,6 +20,10 @@ namespace {
 
 using Type = SessionStep::Type;
 
+/// A person gets at least this long to read a caption.
+constexpr int kReadingMs = 900;
+constexpr int kReadingMsPerLetter = 25;
+
 /// Qt key and modifiers of a portable key name.
 int keyOf(const QString& name, Qt::KeyboardModifiers& modifiers)
 {
@@ -118,7 +122,10 @@ void SessionPlayer::setCaption(const QString& title, const QString& text)
 void SessionPlayer::scheduleNext()
 {
     const bool isTimed = pace == Pace::AsRecorded && nextStep < session.steps.size();
-    const int pauseMs = isTimed ? session.steps[nextStep].afterMs : 0;
+    const bool isToBeRead = isTimed && nextStep > 0 &&
+        session.steps[nextStep - 1].type == Type::Caption && !captionTitle.isEmpty();
+    const int readingMs = isToBeRead ? kReadingMs + kReadingMsPerLetter * captionText.size() : 0;
+    const int pauseMs = isTimed ? qMax(session.steps[nextStep].afterMs, readingMs) : 0;
     QTimer::singleShot(pauseMs, this, [this, scheduled = generation] {
         if (scheduled == generation) {
             playNext();
