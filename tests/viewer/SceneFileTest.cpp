@@ -235,7 +235,7 @@ class SceneFile : public SceneTest
 
 TEST_F(SceneFile, SavedOpenedAndSavedAgainIsTheSameWhateverWasEdited)
 {
-    constexpr unsigned kScenes = 40;
+    constexpr unsigned kScenes = 20;
     constexpr int kEdits = 25;
     const QString first = fileIn("first.nbscene");
     const QString second = fileIn("second.nbscene");

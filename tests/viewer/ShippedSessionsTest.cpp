@@ -31,6 +31,30 @@ QByteArray textOf(const QString& path)
     return file.readAll();
 }
 
+/// What a session made looks the same, and is the same, after saving and opening.
+void checkThatTheSceneSurvivesSaving(MainWindow& window)
+{
+    QString error;
+    Stage& stage = window.view().stage();
+    const auto plainPicture = [&] {
+        stage.setActiveTool(nullptr);
+        stage.showGizmo(Gizmo::None);
+        stage.select(osg::NullFC);
+        return window.view().takePicture(error);
+    };
+    const QTemporaryDir folder;
+    const QString first = folder.filePath("first.nbscene");
+    const QString second = folder.filePath("second.nbscene");
+    const QImage before = plainPicture();
+
+    ASSERT_TRUE(stage.commands().run("scene.save", first, error)) << error.toStdString();
+    ASSERT_TRUE(stage.commands().run("scene.open", first, error)) << error.toStdString();
+
+    EXPECT_EQ(plainPicture(), before);
+    ASSERT_TRUE(stage.commands().run("scene.save", second, error)) << error.toStdString();
+    EXPECT_EQ(textOf(second), textOf(first));
+}
+
 class ShippedSessions : public GuiTest, public testing::WithParamInterface<std::string>
 { };
 
@@ -55,38 +79,7 @@ TEST_P(ShippedSessions, MeetTheirCheckpoints)
 
     EXPECT_EQ(problems, QStringList());
     EXPECT_EQ(window.player().getFailures(), QStringList());
-}
-
-TEST_P(ShippedSessions, WhatTheyMadeIsTheSameAfterSavingAndOpening)
-{
-    QString error;
-    const std::optional<Session> session = readSessionFile(
-        kSessions.filePath(QString::fromStdString(GetParam()) + QStringLiteral(".json")), error);
-    ASSERT_TRUE(session) << error.toStdString();
-    MainWindow window(MainWindow::Attendance::Unattended);
-    bool done = false;
-    QObject::connect(&window, &MainWindow::replayFinished, [&done] { done = true; });
-    window.show();
-    window.replay(*session, std::nullopt);
-    waitUntil([&done] { return done; });
-    Stage& stage = window.view().stage();
-    const auto plainPicture = [&] {
-        stage.setActiveTool(nullptr);
-        stage.showGizmo(Gizmo::None);
-        stage.select(osg::NullFC);
-        return window.view().takePicture(error);
-    };
-    const QTemporaryDir folder;
-    const QString first = folder.filePath("first.nbscene");
-    const QString second = folder.filePath("second.nbscene");
-    const QImage before = plainPicture();
-
-    ASSERT_TRUE(stage.commands().run("scene.save", first, error)) << error.toStdString();
-    ASSERT_TRUE(stage.commands().run("scene.open", first, error)) << error.toStdString();
-
-    EXPECT_EQ(plainPicture(), before);
-    ASSERT_TRUE(stage.commands().run("scene.save", second, error)) << error.toStdString();
-    EXPECT_EQ(textOf(second), textOf(first));
+    checkThatTheSceneSurvivesSaving(window);
 }
 
 std::string testName(const testing::TestParamInfo<std::string>& info)
