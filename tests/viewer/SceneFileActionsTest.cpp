@@ -8,10 +8,13 @@
 #include "viewer/gui/SessionPlayer.h"
 #include "viewer/gui/ViewWidget.h"
 
+#include <QAbstractButton>
 #include <QAction>
+#include <QApplication>
 #include <QFile>
 #include <QJsonArray>
 #include <QTemporaryDir>
+#include <QTimer>
 
 namespace viewer {
 namespace {
@@ -177,6 +180,25 @@ TEST_F(SceneFileActionsTest, EditsAreNotLostWithoutAQuestion)
     moveVase();
     answer = QMessageBox::Discard;
     EXPECT_TRUE(window.close());
+}
+
+TEST_F(SceneFileActionsTest, TheQuestionOffersToSaveToDiscardAndToCancel)
+{
+    QList<QMessageBox::StandardButton> offered;
+    QTimer::singleShot(0, &window, [&offered] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        for (QAbstractButton* button : box->buttons()) {
+            offered.append(box->standardButton(button));
+        }
+        box->grab().save("/tmp/sf_dialog.png");
+        box->button(QMessageBox::Discard)->click();
+    });
+
+    EXPECT_EQ(window.scenes().dialog()("table.nbscene has been edited. Save it?"),
+              QMessageBox::Discard);
+
+    EXPECT_EQ(offered.size(), 3);
+    EXPECT_TRUE(offered.contains(QMessageBox::Save) && offered.contains(QMessageBox::Cancel));
 }
 
 TEST_F(SceneFileActionsTest, AFailedSaveKeepsTheScene)

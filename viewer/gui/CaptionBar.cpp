@@ -16,7 +16,7 @@ constexpr double kPaddingPart = 0.022;
 constexpr int kLeastTitlePx = 15;
 constexpr int kLeastTextPx = 11;
 
-const QColor kGround(16, 20, 26, 190);
+const QColor kGround(16, 20, 26, 215);
 const QColor kAccent(0xe8, 0xb0, 0x4a);
 const QColor kTitleColor(0xff, 0xff, 0xff);
 const QColor kTextColor(0xd6, 0xdc, 0xe4);
