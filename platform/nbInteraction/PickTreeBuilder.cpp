@@ -85,16 +85,17 @@ struct PickTreeBuilder::Internals
     std::vector<Job> jobs;
 };
 
-PickTreeBuilder::PickTreeBuilder(const osg::NodePtr& root)
+PickTreeBuilder::PickTreeBuilder(const std::vector<osg::NodePtr>& roots)
     : internals(std::make_unique<Internals>())
 {
-    if (root == osg::NullFC) {
-        return;
-    }
     // A device that cannot be made is told in the log, which belongs to this thread.
     detail::embreeDevice();
     std::set<osg::UInt32> known;
-    collectJobs(root, known, internals->jobs);
+    for (const osg::NodePtr& root : roots) {
+        if (root != osg::NullFC) {
+            collectJobs(root, known, internals->jobs);
+        }
+    }
 }
 
 PickTreeBuilder::~PickTreeBuilder() = default;

@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <memory>
+#include <vector>
 
 namespace nbec::interaction {
 
@@ -24,10 +25,10 @@ public:
     /// thread of build() or others, one call at a time.
     using Progress = std::function<bool(double)>;
 
-    /// Copies the triangles of all geometry below a node whose tree is not there yet.
+    /// Copies the triangles of all geometry below some nodes whose tree is not there yet.
     /// User-interface thread.
-    /// @param root  need not be in the scene; null: nothing
-    explicit PickTreeBuilder(const osg::NodePtr& root);
+    /// @param roots  need not be in the scene; null: nothing
+    explicit PickTreeBuilder(const std::vector<osg::NodePtr>& roots);
     PickTreeBuilder(const PickTreeBuilder&) = delete;
     PickTreeBuilder& operator=(const PickTreeBuilder&) = delete;
     /// Any thread.

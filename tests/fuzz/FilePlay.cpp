@@ -40,12 +40,12 @@ ModelData standIn(const QString& file)
 
 SceneAssets standIns()
 {
-    return { [](const QString& file, QString& error) -> std::optional<ModelData> {
+    return { [](const QString& file, QString& error) -> std::optional<BuiltModel> {
                 if (file.contains(QLatin1String("gone"))) {
                     error = QStringLiteral("gone");
                     return std::nullopt;
                 }
-                return standIn(file);
+                return buildModel(standIn(file));
             },
              [](const QString& file, QString&) {
                  osg::RefPtr<osg::ImagePtr> image(osg::Image::create());

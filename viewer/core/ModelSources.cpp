@@ -5,11 +5,11 @@
 
 namespace viewer {
 
-void ModelSources::add(const osg::NodePtr& root, const ModelData& model)
+void ModelSources::add(const BuiltModel& model)
 {
-    sources[root.getFieldContainerId()] = { model.file, model.builtIn };
-    triangles += model.triangleCount();
-    addNames(root);
+    sources[model.root.get().getFieldContainerId()] = { model.file, model.builtIn };
+    triangles += model.triangles;
+    addNames(model.root.get());
 }
 
 const ModelSources::Source* ModelSources::find(const osg::NodePtr& root) const

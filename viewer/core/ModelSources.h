@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "viewer/core/ModelData.h"
+#include "viewer/core/SceneBuilder.h"
 
 #include <OpenSG/OSGConfig.h>
 #include <OpenSG/OSGNode.h>
@@ -22,8 +22,8 @@ public:
         QString builtIn;  ///< name of a model that is built in; else empty
     };
 
-    /// @param root  of what was built of the model, nothing of it edited yet
-    void add(const osg::NodePtr& root, const ModelData& model);
+    /// @param model  of which nothing has been edited yet
+    void add(const BuiltModel& model);
 
     /// Where a model came from; null for a node that is no root of one.
     const Source* find(const osg::NodePtr& root) const;

@@ -151,6 +151,12 @@ osg::NodePtr buildScene(const ModelData& model)
     return Builder(model).build(model.root);
 }
 
+BuiltModel buildModel(const ModelData& model)
+{
+    return { osg::RefPtr<osg::NodePtr>(buildScene(model)), model.triangleCount(), model.warnings,
+             model.file, model.builtIn };
+}
+
 osg::NodePtr objectOf(const osg::NodePtr& node)
 {
     const osg::NodePtr object = nbNodeUtils::resolveToTransformNode(node);

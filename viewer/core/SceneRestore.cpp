@@ -5,7 +5,6 @@
 #include "viewer/core/ModelReader.h"
 #include "viewer/core/ObjectCommands.h"
 #include "viewer/core/PictureFile.h"
-#include "viewer/core/SceneBuilder.h"
 #include "viewer/core/SceneMatchState.h"
 #include "viewer/core/ScenePictures.h"
 #include "viewer/core/Stage.h"
@@ -124,21 +123,21 @@ private:
 
     bool buildModel(const SceneModel& wanted, const QString& place)
     {
-        std::optional<ModelData> data;
+        std::optional<BuiltModel> model;
         QString reason;
         if (!wanted.file.isEmpty()) {
-            data = assets.model(wanted.file, reason);
+            model = assets.model(wanted.file, reason);
         } else if (wanted.builtIn == QLatin1String(kStartSceneName)) {
-            data = makeStartScene();
+            model = viewer::buildModel(makeStartScene());
         } else {
             reason = QStringLiteral("there is no model \"%1\"").arg(wanted.builtIn);
         }
-        if (!data) {
+        if (!model) {
             return fail(place, reason);
         }
-        const osg::NodePtr root = buildScene(*data);
+        const osg::NodePtr root = model->root.get();
         models.emplace_back(root);
-        scene.sources.add(root, *data);
+        scene.sources.add(*model);
         for (std::size_t i = 0; i < wanted.nodes.size(); ++i) {
             if (!editObject(root, wanted.nodes[i], place + QStringLiteral(".nodes[%1]").arg(i))) {
                 return false;
@@ -357,7 +356,10 @@ private:
 
 SceneAssets SceneAssets::fromDisk()
 {
-    return { [](const QString& file, QString& error) { return readModelFile(file, {}, error); },
+    return { [](const QString& file, QString& error) -> std::optional<BuiltModel> {
+                const std::optional<ModelData> model = readModelFile(file, {}, error);
+                return model ? std::make_optional(buildModel(*model)) : std::nullopt;
+            },
              [](const QString& file, QString& error) { return readPicture(file, error); } };
 }
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "viewer/core/ModelData.h"
 #include "viewer/core/ModelSources.h"
+#include "viewer/core/SceneBuilder.h"
 #include "viewer/core/SceneFile.h"
 
 #include <OpenSG/OSGImage.h>
@@ -22,7 +22,7 @@ class Stage;
 /// error.
 struct SceneAssets
 {
-    std::function<std::optional<ModelData>(const QString& file, QString& error)> model;
+    std::function<std::optional<BuiltModel>(const QString& file, QString& error)> model;
     std::function<osg::RefPtr<osg::ImagePtr>(const QString& file, QString& error)> picture;
 
     static SceneAssets fromDisk();

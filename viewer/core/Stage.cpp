@@ -237,13 +237,18 @@ void Stage::clear()
 
 osg::NodePtr Stage::add(const ModelData& model)
 {
-    const osg::NodePtr node = buildScene(model);
+    return add(buildModel(model));
+}
+
+osg::NodePtr Stage::add(const BuiltModel& model)
+{
+    const osg::NodePtr node = model.root.get();
     const osg::NodePtr root = nbScenegraph::getRootNode();
     {
         const nbEdit edit(root, osg::Node::ChildrenFieldMask);
         root->addChild(node);
     }
-    modelSources.add(node, model);
+    modelSources.add(model);
     nbec::interaction::Picker::buildTrees(node);
     changed();
     return node;

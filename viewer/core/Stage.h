@@ -22,6 +22,7 @@
 namespace viewer {
 
 class StageTool;
+struct BuiltModel;
 
 /// Everything that happens in the view without being a window: scene, selection, camera,
 /// manipulator and how input reaches them. Works without any widget, window or OpenGL; lives
@@ -90,6 +91,8 @@ public:
     void clear();
     /// Hangs a model into the scene. @return its root
     osg::NodePtr add(const ModelData& model);
+    /// The same for one whose nodes are there. Search trees that are still missing are built now.
+    osg::NodePtr add(const BuiltModel& model);
     /// Replaces all models by what was built before.
     /// @param top      what comes right below the scene's root, without parents
     /// @param sources  of the models among and below it

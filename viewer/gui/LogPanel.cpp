@@ -14,6 +14,8 @@
 #include <QToolButton>
 #include <QTreeWidget>
 
+#include <utility>
+
 namespace viewer {
 namespace {
 
@@ -79,8 +81,20 @@ LogPanel::LogPanel(QWidget* parent)
     list->setUniformRowHeights(true);
     list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     list->setHeaderLabels({ tr("Time"), tr("Level"), tr("Message") });
-    list->header()->setSectionResizeMode(TimeColumn, QHeaderView::ResizeToContents);
-    list->header()->setSectionResizeMode(LevelColumn, QHeaderView::ResizeToContents);
+    const int margin = list->fontMetrics().height();
+    list->setColumnWidth(TimeColumn,
+                         list->fontMetrics().horizontalAdvance("00:00:00") + 2 * margin);
+    int widest = 0;
+    for (const LevelRow& level : kLevels) {
+        widest = qMax(widest, list->fontMetrics().horizontalAdvance(tr(level.text)));
+    }
+    list->setColumnWidth(LevelColumn, widest + 3 * margin);
+    scrollTimer.setSingleShot(true);
+    connect(&scrollTimer, &QTimer::timeout, this, [this] {
+        if (std::exchange(scrollsToEnd, false)) {
+            list->scrollToBottom();
+        }
+    });
     column->addWidget(list);
     auto* shortcut = new QShortcut(QKeySequence::Copy, list);
     shortcut->setContext(Qt::WidgetShortcut);
@@ -118,23 +132,26 @@ QToolButton* LogPanel::addButton(QHBoxLayout& row, const char* name, const QStri
 void LogPanel::append(Level level, const QString& text)
 {
     const LevelRow& row = kLevels[static_cast<std::size_t>(level)];
-    const QScrollBar* bar = list->verticalScrollBar();
-    const bool isAtEnd = bar->value() == bar->maximum();
     auto* item = new QTreeWidgetItem(
         { QTime::currentTime().toString(QStringLiteral("HH:mm:ss")), tr(row.text), text });
     item->setIcon(LevelColumn, themeIcon(QLatin1String(row.icon)));
     item->setData(LevelColumn, kLevelRole, static_cast<int>(level));
     item->setToolTip(TextColumn, text);
+    const QScrollBar* bar = list->verticalScrollBar();
+    // Whoever reads further up is left there.
+    scrollsToEnd = scrollsToEnd || bar->value() == bar->maximum();
     list->addTopLevelItem(item);
-    item->setHidden(!isWanted(item));
+    if (!isWanted(item)) {
+        item->setHidden(true);
+    }
     while (list->topLevelItemCount() > kMostEntries) {
         delete list->takeTopLevelItem(0);
     }
-    // Whoever reads further up is left there.
-    if (isAtEnd) {
-        list->scrollToItem(item);
-    }
     updateButtons();
+    // Once for all messages that come at a time.
+    if (!scrollTimer.isActive()) {
+        scrollTimer.start(0);
+    }
 }
 
 QString LogPanel::text() const

@@ -3,6 +3,7 @@
 
 #include <nbUtils/nbLog.h>
 
+#include <QTimer>
 #include <QWidget>
 
 class QComboBox;
@@ -47,6 +48,8 @@ private:
     QToolButton* copyButton = nullptr;
     QToolButton* clearButton = nullptr;
     nbLog::Sink former;
+    QTimer scrollTimer;
+    bool scrollsToEnd = false;
 };
 
 }  // namespace viewer

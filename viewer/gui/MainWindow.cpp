@@ -114,8 +114,10 @@ MainWindow::MainWindow(Attendance attendance)
     });
     connect(sessionPlayer, &SessionPlayer::finished, this, &MainWindow::concludeReplay);
     viewWidget->stage().commands().setListener(
-        [this](const QString& name, const QJsonValue& value) {
-            sessionRecorder->addCommand(name, value);
+        [this](const QString& name, const QJsonValue& value, Commands::Moment moment) {
+            if (moment == Commands::Moment::Final) {
+                sessionRecorder->addCommand(name, value);
+            }
             sceneFiles->noteCommand(name);
             viewWidget->stage().edited();
         });
@@ -178,7 +180,7 @@ void MainWindow::openFiles(const QStringList& files, Opening opening)
     }
     openingFiles = files;
     openingMode = opening;
-    statusLine->setProgress({}, 0);
+    statusLine->setProgress(ModelLoader::Phase::Reading, files.value(0), 0);
     sceneFiles->forget();
     if (isScene) {
         sceneFiles->open(files.first());
@@ -218,7 +220,7 @@ void MainWindow::showLoadedModels()
     }
     QStringList warnings;
     osg::NodePtr last;
-    for (const ModelData& model : loader->takeModels()) {
+    for (const BuiltModel& model : loader->takeModels()) {
         last = stage.add(model);
         warnings.append(model.warnings);
     }

@@ -244,11 +244,10 @@ void MaterialPanel::addHandleRows(QBoxLayout& column)
     handleSize = new QSlider(Qt::Horizontal, this);
     handleSize->setObjectName(QStringLiteral("texture.handleSize"));
     handleSize->setRange(0, static_cast<int>(kPercent));
-    connect(handleSize, &QSlider::valueChanged, this, [this](int percent) {
+    connectSlider(*handleSize, QStringLiteral("texture.handleSize"), [this](int percent) {
         const TextureGizmos::Size size = tool.handleSize();
-        run(QStringLiteral("texture.handleSize"),
-            static_cast<double>(size.least) +
-                static_cast<double>(size.most - size.least) * percent / kPercent);
+        return static_cast<double>(size.least) +
+            static_cast<double>(size.most - size.least) * percent / kPercent;
     });
     form->addRow(tr("Handle size"), handleSize);
 }
@@ -288,6 +287,10 @@ void MaterialPanel::addValueRows(QBoxLayout& column, const char* word)
     if (QLatin1String(word) == QLatin1String("planar")) {
         addSwitches(*itsColumn);
         addSceneRows(*itsColumn);
+    } else if (QLatin1String(word) == QLatin1String("uv")) {
+        addSwitch(*itsColumn, "texture.uvKeepAspect", tr("Keep aspect"));
+    } else if (QLatin1String(word) == QLatin1String("triplanar")) {
+        addSwitch(*itsColumn, "texture.ringsTilted", tr("Turn rings seen edge-on"));
     } else if (QLatin1String(word) == QLatin1String("tire")) {
         addSwitch(*itsColumn, "texture.tireFit", tr("Fit to the object"));
     }
@@ -340,9 +343,8 @@ void MaterialPanel::addSceneRows(QBoxLayout& column)
     transparency->setObjectName(QStringLiteral("texture.planeTransparency"));
     transparency->setRange(0, static_cast<int>(kPercent));
     transparency->setToolTip(tr("How far one sees through the shown projection"));
-    connect(transparency, &QSlider::valueChanged, this, [this](int percent) {
-        run(QStringLiteral("texture.planeTransparency"), percent / kPercent);
-    });
+    connectSlider(*transparency, QStringLiteral("texture.planeTransparency"),
+                  [](int percent) { return percent / kPercent; });
     auto* form = new QFormLayout;
     form->addRow(tr("Transparency"), transparency);
     column.addLayout(form);

@@ -137,9 +137,8 @@ void PerspectiveMatchPanel::addPhotograph(QFormLayout& form)
     veil->setFocusPolicy(Qt::TabFocus);
     veil->setRange(0, kPercent);
     form.addRow(tr("Over the models"), veil);
-    connect(veil, &QSlider::valueChanged, this, [this](int value) {
-        run(QStringLiteral("match.setVeil"), static_cast<double>(value) / kPercent);
-    });
+    connectSlider(*veil, QStringLiteral("match.setVeil"),
+                  [](int value) { return static_cast<double>(value) / kPercent; });
 }
 
 QCheckBox* PerspectiveMatchPanel::addSwitch(QFormLayout& form, const char* name,
@@ -184,12 +183,16 @@ void PerspectiveMatchPanel::addMagnifier(QFormLayout& form)
 
 void PerspectiveMatchPanel::addLines(QGridLayout& grid)
 {
+    const QString names[kNumbersPerLine] = { tr("Line %1, start, across"), tr("Line %1, start, up"),
+                                             tr("Line %1, end, across"), tr("Line %1, end, up") };
     for (int line = 0; line < PerspectiveMatchTool::kLineCount; ++line) {
         const QString word = QLatin1String(PerspectiveMatchTool::lineName(line));
         grid.addWidget(new QLabel(word.toUpper(), this), line, 0);
         for (int i = 0; i < kNumbersPerLine; ++i) {
             auto* box = new QDoubleSpinBox(this);
             box->setObjectName(QStringLiteral("matchLine_%1_%2").arg(word).arg(i));
+            box->setAccessibleName(names[i].arg(word.toUpper()));
+            box->setToolTip(box->accessibleName());
             box->setLocale(QLocale::c());
             box->setDecimals(kDecimals);
             box->setSingleStep(kStep);
@@ -270,10 +273,10 @@ void PerspectiveMatchPanel::refresh()
             box->setEnabled(canEdit);
         }
     }
-    display(
-        result,
-        tool.resultText() +
-            tr(" Field of view %1°.").arg(static_cast<double>(stage().pose().fovDeg), 0, 'f', 2));
+    const auto fovDeg = static_cast<double>(stage().pose().fovDeg);
+    display(result,
+            tr("%1 Field of view %2°.", "sentence, number")
+                .arg(tool.resultText(), QString::number(fovDeg, 'f', 2)));
 }
 
 }  // namespace viewer

@@ -43,10 +43,10 @@ QStringList modelFilesOf(const SceneDocument& document)
 }
 
 /// Hands out models that were read before, in the order of the document.
-SceneAssets assetsOf(std::vector<ModelData> models)
+SceneAssets assetsOf(std::vector<BuiltModel> models)
 {
     SceneAssets assets = SceneAssets::fromDisk();
-    const auto source = std::make_shared<std::vector<ModelData>>(std::move(models));
+    const auto source = std::make_shared<std::vector<BuiltModel>>(std::move(models));
     assets.model = [source, next = std::size_t(0)](const QString&, QString&) mutable {
         return std::make_optional(std::move((*source)[next++]));
     };

@@ -62,7 +62,7 @@ struct ThemeRow
 constexpr ThemeRow kThemes[] = {
     { "themeSystem", QT_TRANSLATE_NOOP("viewer::WindowActions", "As the &desktop"), Theme::System },
     { "themeLight", QT_TRANSLATE_NOOP("viewer::WindowActions", "&Light"), Theme::Light },
-    { "themeDark", QT_TRANSLATE_NOOP("viewer::WindowActions", "&Dark"), Theme::Dark },
+    { "themeDark", QT_TRANSLATE_NOOP("viewer::WindowActions", "Dar&k"), Theme::Dark },
 };
 
 constexpr GizmoRow kGizmos[] = {
@@ -267,12 +267,12 @@ void WindowActions::addManipulatorMenu()
     addCommand(menu, "scene.addClipPlane", tr("Add cl&ip plane"), "Shift+X");
     removeClipPlane = addCommand(menu, "scene.removeClipPlane", tr("Remo&ve clip plane"), "");
     menu->addSeparator();
-    matchCamera = addCommand(menu, "match.setActive", tr("&Match a photograph"), "Shift+M");
+    matchCamera = addCommand(menu, "match.setActive", tr("Match a p&hotograph"), "Shift+M");
     matchCamera->setCheckable(true);
-    editPlates = addCommand(menu, "plates.edit", tr("&Edit scene plates"), "Shift+P");
+    editPlates = addCommand(menu, "plates.edit", tr("Edit scene pl&ates"), "Shift+P");
     editPlates->setCheckable(true);
     removePlates = addCommand(menu, "plates.remove", tr("&Delete scene plates"), "Del");
-    editPictures = addCommand(menu, "texture.edit", tr("Edit pict&ures on objects"), "Shift+T");
+    editPictures = addCommand(menu, "texture.edit", tr("Edit pictures on o&bjects"), "Shift+T");
     editPictures->setCheckable(true);
     menu->addSeparator();
     addTransformSettings(menu);
@@ -280,19 +280,19 @@ void WindowActions::addManipulatorMenu()
 
 void WindowActions::addTransformSettings(QMenu* menu)
 {
-    localSpace = addSwitch(menu, "localSpace", tr("&Axes of the object"), "L", [this](bool on) {
+    localSpace = addSwitch(menu, "localSpace", tr("Axes o&f the object"), "L", [this](bool on) {
         stage.gizmo().setLocalSpace(on);
         stage.edited();
     });
-    snapping = addSwitch(menu, "snapping", tr("Snapp&ing"), "X",
+    snapping = addSwitch(menu, "snapping", tr("Snappin&g"), "X",
                          [this](bool on) { stage.gizmo().setSnapping(on); });
-    centerPivots = add(menu, "centerPivots", tr("Centre p&ivot"), "Shift+C", [this] {
+    centerPivots = add(menu, "centerPivots", tr("Pivot bac&k to the centre"), "Shift+C", [this] {
         stage.gizmo().centerPivots();
         stage.edited();
     });
     describe(localSpace, tr("Axes of the object instead of the world's"));
     describe(snapping, tr("Advance in steps; hold Ctrl for a while"));
-    QMenu* stepsMenu = menu->addMenu(themeIcon(QStringLiteral("steps")), tr("Steps an&d size"));
+    QMenu* stepsMenu = menu->addMenu(themeIcon(QStringLiteral("steps")), tr("Steps and si&ze"));
     stepsMenu->menuAction()->setObjectName(QStringLiteral("steps"));
     stepsMenu->menuAction()->setToolTip(tr("Steps of snapping, size of the gizmo"));
     stepsPanel = new StepsPanel(stage.gizmo());
