@@ -357,8 +357,8 @@ private:
 SceneAssets SceneAssets::fromDisk()
 {
     return { [](const QString& file, QString& error) -> std::optional<BuiltModel> {
-                const std::optional<ModelData> model = readModelFile(file, {}, error);
-                return model ? std::make_optional(buildModel(*model)) : std::nullopt;
+                const std::optional<ModelData> data = readModelFile(file, {}, error);
+                return data ? std::make_optional(buildModel(*data)) : std::nullopt;
             },
              [](const QString& file, QString& error) { return readPicture(file, error); } };
 }
