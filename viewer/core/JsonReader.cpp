@@ -45,11 +45,23 @@ bool readExactArray(const QJsonValue& value, Number* numbers, int count)
     return areNumbers;
 }
 
+/// What is quoted from a file may have several lines, or be very long.
+QString oneLine(QString text)
+{
+    constexpr int kLongest = 400;
+    for (QChar& letter : text) {
+        if (!letter.isPrint()) {
+            letter = QLatin1Char(' ');
+        }
+    }
+    return text.size() > kLongest ? text.left(kLongest) + QStringLiteral("...") : text;
+}
+
 }  // namespace
 
 bool JsonReader::fail(const QString& path, const QString& what)
 {
-    error = path.isEmpty() ? what : path + QStringLiteral(": ") + what;
+    error = oneLine(path.isEmpty() ? what : path + QStringLiteral(": ") + what);
     return false;
 }
 

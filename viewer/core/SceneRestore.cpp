@@ -2,6 +2,7 @@
 #include "viewer/core/SceneRestore.h"
 
 #include "viewer/core/ClipPlanes.h"
+#include "viewer/core/JsonReader.h"
 #include "viewer/core/ModelReader.h"
 #include "viewer/core/ObjectCommands.h"
 #include "viewer/core/PictureFile.h"
@@ -83,8 +84,7 @@ public:
 private:
     bool fail(const QString& place, const QString& what)
     {
-        error = place + QStringLiteral(": ") + what;
-        return false;
+        return JsonReader(error).fail(place, what);
     }
 
     // == Files
