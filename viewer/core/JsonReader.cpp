@@ -50,7 +50,7 @@ QString oneLine(QString text)
 {
     constexpr int kLongest = 400;
     for (QChar& letter : text) {
-        if (!letter.isPrint()) {
+        if (!letter.isPrint() && !letter.isSurrogate()) {
             letter = QLatin1Char(' ');
         }
     }
