@@ -2,6 +2,7 @@
 #pragma once
 
 #include "viewer/core/GizmoController.h"
+#include "viewer/core/SceneFile.h"
 #include "viewer/core/Session.h"
 #include "viewer/gui/FullScreen.h"
 #include "viewer/gui/ModelLoader.h"
@@ -19,6 +20,7 @@ namespace viewer {
 
 class MessageBar;
 class PanelDocks;
+class SceneFileActions;
 class SessionPlayer;
 class SessionRecorder;
 class StatusLine;
@@ -55,10 +57,14 @@ public:
 
     PanelDocks& panels() { return *docks; }
 
+    SceneFileActions& scenes() { return *sceneFiles; }
+
     // == Files
 
+    /// Everything that replaces the scene first lets a person save it.
     void showStartScene();
-    /// Reads files in the background and shows them; answers with filesShown() or problem().
+    /// Reads files, models or one scene, in the background and shows them; answers with
+    /// filesShown() or problem().
     void openFiles(const QStringList& files, Opening opening);
     void askForFiles(Opening opening);
     void askForPicture();
@@ -114,6 +120,7 @@ private:
     void setShownTitle(const QString& name);
     void updateStatus();
     void showLoadedModels();
+    void sceneOpened(const QString& path, bool byCommand);
     void addRecentFiles(const QStringList& files);
     void stopLoading();
     void handleDroppedFiles(const QStringList& files, const osg::Pnt2f& px);
@@ -121,6 +128,7 @@ private:
     void beginReplay();
     void concludeReplay();
     void saveRecording();
+    bool writeRecording(const QString& path, Session& session, QString& error);
 
     Attendance mode;
     ViewWidget* viewWidget = nullptr;
@@ -133,11 +141,13 @@ private:
     StatusLine* statusLine = nullptr;
     FullScreen fullScreen;
     PanelDocks* docks = nullptr;
+    SceneFileActions* sceneFiles = nullptr;
 
     Theme shownTheme = Theme::System;
     QStringList shownFiles;
     QStringList openingFiles;
     Opening openingMode = Opening::Replace;
+    std::optional<SceneDocument> recordedScene;  ///< in which a recording began, if it was edited
     std::optional<Session> pendingSession;
     std::optional<QDir> pendingPictures;
     int sizeChecks = 0;
