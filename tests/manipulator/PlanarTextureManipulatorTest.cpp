@@ -6,7 +6,6 @@
 
 #include <nbKernel/nbController.h>
 #include <nbKernel/nbScenegraph.h>
-#include <nbMaterialEditor/nbMaterialPreview.h>
 #include <nbOpenSGUberCamera/UberCamera.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
@@ -388,20 +387,6 @@ TEST(PlanarTextureManipulator, AStopThatIsLostLeavesNothingBehind)
     EXPECT_FALSE(planar.scene.send("hover", Pnt2f(20, 20)));
 }
 
-TEST(PlanarTextureManipulator, PreviewOfTheHostIsNotLeftPaused)
-{
-    PlanarScene planar(PlanarScene::Receiver::Editor);
-    nbMaterialPreview preview;
-    planar.gizmo.setNode(planar.scene.node);
-    EXPECT_TRUE(preview.isPaused());
-    ASSERT_TRUE(planar.grab("xaShape", Vec3f(1.9F, 0, 0)));
-    EXPECT_TRUE(planar.drag.dragBy(Vec2f(20, 0)));
-    EXPECT_TRUE(preview.isPaused());
-    EXPECT_TRUE(planar.drag.release());
-    EXPECT_FALSE(preview.isPaused());
-    EXPECT_EQ(preview.getRefreshCount(), 1U);
-}
-
 TEST(PlanarTextureManipulator, AsksForScaleValuesOnlyIfTheyAreUsed)
 {
     PlanarScene planar;
@@ -452,21 +437,6 @@ TEST(PlanarTextureManipulator, ReadsFlagAndPictureOfTheComponent)
     planar.gizmo.prepareManipulator(planar.scene.node);
     EXPECT_TRUE(planar.gizmo.getKeepAspectRatio());
     EXPECT_FLOAT_EQ(planar.gizmo.getAspectRatio(), 1.5F);
-}
-
-TEST(PlanarTextureManipulator, IsConnectedToItsMaterialAndComponentOnly)
-{
-    PlanarScene planar;
-    Gizmo& gizmo = planar.gizmo;
-    const osg::RefPtr<osg::UberMaterialPtr> other(osg::UberMaterial::create());
-    EXPECT_TRUE(gizmo.isConnectedToMaterial(planar.material.get()));
-    EXPECT_TRUE(gizmo.isConnectedTo(planar.material.get(), "diffuse"));
-    EXPECT_FALSE(gizmo.isConnectedTo(planar.material.get(), "diffus"));
-    EXPECT_FALSE(gizmo.isConnectedToMaterial(other.get()));
-    EXPECT_EQ(gizmo.getComponentType(), "diffuse");
-    gizmo.setMaterialComponent(osg::MaterialPtr(), "mask", nullptr);
-    EXPECT_FALSE(gizmo.isConnectedToMaterial(osg::MaterialPtr()));
-    EXPECT_FALSE(gizmo.isConnectedToMaterial(planar.material.get()));
 }
 
 TEST(PlanarTextureManipulator, CopiesKeepTheStateAndShareTheHandles)

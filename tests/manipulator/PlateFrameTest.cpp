@@ -29,54 +29,6 @@ PlateFrame makeFrame(float x, float y, float width, float height, float rotation
         << "(" << point.x() << ", " << point.y() << ") is not (" << x << ", " << y << ")";
 }
 
-TEST(PlateFrame, CornersBelongToTheFramesOwnAxes)
-{
-    const PlateFrame upright = makeFrame(400, 300, 200, 100);
-    EXPECT_TRUE(isAt(cornerOfFrame(upright, PlateCorner::LowerLeft), 300, 350));
-    EXPECT_TRUE(isAt(cornerOfFrame(upright, PlateCorner::UpperRight), 500, 250));
-    // A quarter turn counter-clockwise takes the lower left corner to the lower right of the
-    // screen.
-    const PlateFrame turned = makeFrame(400, 300, 200, 100, 90);
-    EXPECT_TRUE(isAt(cornerOfFrame(turned, PlateCorner::LowerLeft), 450, 400));
-    EXPECT_TRUE(isAt(cornerOfFrame(turned, PlateCorner::UpperLeft), 350, 400));
-}
-
-TEST(PlateFrame, SmallFramesAreDrawnLargeEnoughToGrab)
-{
-    const PlateView dense { 800, 600, 2.0F };
-    const PlateHandles handles = layOutHandles(makeFrame(400, 300, 4, 200), PlateArm::Above, dense);
-    EXPECT_FLOAT_EQ(handles.frame.size.x(), 2 * kPlateLeastSide);
-    EXPECT_FLOAT_EQ(handles.frame.size.y(), 200);
-    EXPECT_TRUE(isAt(handles.knob, 400, 300 - 100 - 2 * kPlateArmLength));
-}
-
-TEST(PlateFrame, TheArmStandsWhereItsKnobIsSeen)
-{
-    struct Row
-    {
-        const char* name;
-        PlateFrame frame;
-        PlateArm arm;
-        float knobX, knobY;
-    };
-
-    const Row rows[] = {
-        { "room above", makeFrame(400, 300, 100, 100), PlateArm::Above, 400,
-          250 - kPlateArmLength },
-        { "at the top", makeFrame(400, 50, 100, 100), PlateArm::Below, 400, 100 + kPlateArmLength },
-        { "fills the view", makeFrame(400, 300, 800, 600), PlateArm::Inside, 400, kPlateArmLength },
-        { "turned at the left", makeFrame(50, 300, 100, 100, 90), PlateArm::Below,
-          100 + kPlateArmLength, 300 },
-        { "out of view", makeFrame(-400, 300, 100, 100), PlateArm::Above, -400,
-          250 - kPlateArmLength },
-    };
-    for (const Row& row : rows) {
-        EXPECT_EQ(chooseArm(row.frame, kView), row.arm) << row.name;
-        EXPECT_TRUE(isAt(layOutHandles(row.frame, row.arm, kView).knob, row.knobX, row.knobY))
-            << row.name;
-    }
-}
-
 TEST(PlateFrame, BoxesOfAFrameBeyondTheViewArePulledIn)
 {
     const float inset = kPlateBoxSize / 2;
@@ -168,31 +120,6 @@ TEST(PlateFrame, MovingSnapsBoxesToEdgesAndCentreLines)
     }
 }
 
-TEST(PlateFrame, ScalingKeepsTheOppositeCornerOrTheCentre)
-{
-    const PlateFrame start = makeFrame(400, 300, 160, 120, 30);
-    for (std::size_t i = 0; i < kPlateCornerCount; ++i) {
-        const auto corner = static_cast<PlateCorner>(i);
-        const auto other = static_cast<PlateCorner>(kPlateCornerCount - 1 - i);
-        const osg::Pnt2f fixed = cornerOfFrame(start, other);
-        const osg::Vec2f diagonal = cornerOfFrame(start, corner) - fixed;
-        const osg::Vec2f across(diagonal.y(), -diagonal.x());
-
-        const PlateChange change =
-            scaleFrame(start, corner, false, diagonal * 0.5F + across * 0.1F, kView, nullptr);
-        const PlateFrame scaled = changedFrame(start, change);
-        EXPECT_NEAR(change.scaleFactor, 1.5F, 1e-5F);
-        EXPECT_TRUE(isAt(cornerOfFrame(scaled, other), fixed.x(), fixed.y()));
-        const osg::Pnt2f reached = fixed + diagonal * 1.5F;
-        EXPECT_TRUE(isAt(cornerOfFrame(scaled, corner), reached.x(), reached.y()));
-
-        const PlateChange central =
-            scaleFrame(start, corner, true, diagonal * 0.5F, kView, nullptr);
-        EXPECT_NEAR(central.scaleFactor, 2.0F, 1e-5F) << "half the diagonal from the centre";
-        EXPECT_EQ(central.offsetPx, osg::Vec2f(0, 0));
-    }
-}
-
 TEST(PlateFrame, ScalingNeverVanishesOrTurnsOver)
 {
     const PlateFrame start = makeFrame(400, 300, 160, 120);
@@ -208,48 +135,6 @@ TEST(PlateFrame, ScalingNeverVanishesOrTurnsOver)
     const PlateFrame empty = makeFrame(400, 300, 0, 0);
     EXPECT_EQ(scaleFrame(empty, PlateCorner::UpperRight, false, osg::Vec2f(9, 9), kView, nullptr),
               PlateChange());
-}
-
-TEST(PlateFrame, AScaledCornerSnapsAlongItsDiagonal)
-{
-    // The upper right corner starts at (500, 200) and goes up right along (1, -1).
-    const PlateFrame start = makeFrame(450, 250, 100, 100);
-    PlateGuides guides;
-    const PlateChange change =
-        scaleFrame(start, PlateCorner::UpperRight, false, osg::Vec2f(196, -196), kView, &guides);
-    EXPECT_NEAR(change.scaleFactor, 3.0F, 1e-5F) << "the upper edge is 200 pixels away";
-    EXPECT_TRUE(guides.hasHorizontal);
-    EXPECT_EQ(guides.y, 0.0F);
-    EXPECT_FALSE(guides.hasVertical);
-
-    PlateGuides none;
-    const osg::Vec2f far(190, -190);  // 14 pixels along the diagonal
-    EXPECT_NEAR(scaleFrame(start, PlateCorner::UpperRight, false, far, kView, &none).scaleFactor,
-                2.9F, 1e-5F);
-    EXPECT_FALSE(none.hasHorizontal);
-}
-
-TEST(PlateFrame, TurnsAreCounterClockwiseAndCountWholeOnes)
-{
-    const osg::Pnt2f centre(400, 300);
-    const osg::Pnt2f right(500, 300);
-    double angle = 0.0;
-    EXPECT_TRUE(turnBetween(centre, right, osg::Pnt2f(400, 200), angle));
-    EXPECT_NEAR(angle, 90.0, 1e-9) << "from right to up";
-    angle = 350.0;
-    EXPECT_TRUE(turnBetween(centre, right, osg::Pnt2f(500, 299), angle));
-    EXPECT_NEAR(angle, 360.0 + 0.573, 1e-3);
-    angle = 77.0;
-    EXPECT_FALSE(turnBetween(centre, right, osg::Pnt2f(400.3F, 300), angle));
-    EXPECT_EQ(angle, 77.0);
-}
-
-TEST(PlateFrame, SnappedTurnsEndOnMultiplesOfFifteenDegrees)
-{
-    const PlateFrame start = makeFrame(400, 300, 100, 100, 7);
-    EXPECT_FLOAT_EQ(turnFrame(start, 20, false).rotation, 20);
-    EXPECT_FLOAT_EQ(turnFrame(start, 20, true).rotation, 23) << "30 in all";
-    EXPECT_FLOAT_EQ(turnFrame(start, -16, true).rotation, -22) << "-15 in all";
 }
 
 }  // namespace

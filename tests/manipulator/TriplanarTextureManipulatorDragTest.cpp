@@ -367,17 +367,6 @@ TEST(TriplanarTextureManipulatorDrag, PausesThePreviewFromTheFirstStepToTheStop)
     EXPECT_TRUE(at.log.empty());
 }
 
-TEST(TriplanarTextureManipulatorDrag, InTheInitialSetTheHandlesComeBackToo)
-{
-    Gizmo gizmo;
-    AnchorScene at(gizmo, "::changedTriplanarManipulator",
-                   osg::ColorComponentSettings::TriplanarProjection);
-    ASSERT_TRUE(at.grab("xaShape", Vec3f(1.9F, 0, 0)));
-    EXPECT_FALSE(isShown(at.handle("yaShape")));
-    EXPECT_TRUE(at.drag.release());
-    EXPECT_TRUE(isShown(at.handle("yaShape")));
-}
-
 TEST(TriplanarTextureManipulatorDrag, WhatIsDeletedDuringADragEndsIt)
 {
     {

@@ -121,25 +121,6 @@ TEST_F(InteractionManagerTest, TakenDragBelongsToItsContextUntilItsEnd)
     EXPECT_THAT(log, ElementsAre("upper process tool/select"));
 }
 
-TEST_F(InteractionManagerTest, DragThatNobodyTookGoesDownTheOrder)
-{
-    RecordingContext upper(log, "upper", Manipulator);
-    RecordingContext lower(log, "lower", Tool, { "process" });
-    add(upper);
-    add(lower);
-
-    EXPECT_FALSE(send("start"));
-    EXPECT_TRUE(manager.isDragging());
-    EXPECT_EQ(nullptr, manager.getDragContext());
-    log.clear();
-    EXPECT_TRUE(send("process"));
-    EXPECT_FALSE(send("stop"));
-
-    EXPECT_THAT(log,
-                ElementsAre("upper process tool/select", "lower process tool/select",
-                            "upper stop tool/select", "lower stop tool/select"));
-}
-
 TEST_F(InteractionManagerTest, DragEndedFromHereIsStoppedOnceAndItsRestIsDropped)
 {
     struct Row
@@ -217,18 +198,6 @@ TEST_F(InteractionManagerTest, CancelTakesBackOnlyDragsThatMayHaveEdited)
     send("start");
     manager.cancelDrag();
     EXPECT_EQ(0, std::count(log.begin(), log.end(), "handler"));
-}
-
-TEST_F(InteractionManagerTest, SecondStartStopsTheFormerDrag)
-{
-    RecordingContext context(log, "a", Tool, { "start" });
-    add(context);
-
-    send("start", "tool", "add");
-    send("start", "camera", "pan");
-
-    EXPECT_THAT(log, ElementsAre("a start tool/add", "a stop tool/add", "a start camera/pan"));
-    EXPECT_TRUE(manager.isDragging());
 }
 
 TEST_F(InteractionManagerTest, HoverTakenFromALowerContextEndsThere)

@@ -48,21 +48,6 @@ TEST_F(PickerClipping, WhatIsCutAwayIsNotHitAndWhatLiesBehindItIs)
     EXPECT_EQ(pickAt(380.0f, 300.0f), cube);
 }
 
-TEST_F(PickerClipping, ThroughTheCutTheInsideIsSeen)
-{
-    const osg::NodePtr cube = box(4.0f);
-    hang(cut, cube);
-    {
-        const nbEdit edit(plane, osg::ClipPlane3D::EquationFieldMask);
-        plane->setEquation(osg::Vec4f(0.0f, 0.0f, -1.0f, 0.5f));
-    }
-
-    EXPECT_EQ(pickAt(400.0f, 300.0f), cube);
-
-    // The front half, z above 0.5, is gone: the ray meets the back wall from inside.
-    EXPECT_NEAR(picker.getHitPoint()[2], -2.0f, 1e-4f);
-}
-
 TEST_F(PickerClipping, SwitchedOffOrLiftedItCutsNothing)
 {
     const osg::NodePtr cube = box(4.0f);

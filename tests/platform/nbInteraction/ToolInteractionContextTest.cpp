@@ -12,7 +12,6 @@ namespace nbec::interaction {
 namespace {
 
 using nbtest::CallLog;
-using nbtest::RecordingContext;
 using nbtest::RecordingTool;
 using nbtest::takeLog;
 using testing::ElementsAre;
@@ -54,23 +53,6 @@ TEST_F(ToolInteractionContextTest, EventsOfTheToolNameReachTheToolWithTheirHint)
     EXPECT_FALSE(send("start"));
     EXPECT_TRUE(send("start", "measure", ""));
     EXPECT_THAT(log, ElementsAre("t start "));
-}
-
-TEST_F(ToolInteractionContextTest, EndOfHoverReachesTheToolAndTheOthers)
-{
-    ToolInteractionContext context;
-    context.setTool(&tool);
-    RecordingContext below(log, "below", Background);
-    manager.addContext(&context);
-    manager.addContext(&below);
-    log.clear();
-
-    EXPECT_FALSE(context.triggerEvent(&manager, InteractionEvent("stopHover", "tool", "select")));
-    send("stopHover");
-
-    EXPECT_THAT(
-        log,
-        ElementsAre("t stopHover select", "t stopHover select", "below stopHover tool/select"));
 }
 
 TEST_F(ToolInteractionContextTest, ToolIsActiveWhileItsContextIsAddedAndEnabled)

@@ -66,17 +66,6 @@ TEST(nbMesh, EveryKindOfPrimitiveIsResolved)
     }
 }
 
-TEST(nbMesh, MissingNormalsAreThoseOfTheTriangles)
-{
-    const osg::GeometryRefPtr geometry(parabola(GL_TRIANGLES, 3));
-
-    const Mesh mesh = buildMesh(geometry);
-
-    for (const nbrender::MeshVertex& vertex : mesh.vertices) {
-        EXPECT_EQ(vertex.normal[2], 1.f) << "counter-clockwise seen from +z";
-    }
-}
-
 TEST(nbMesh, CornersWithTheSameSourcesShareAVertex)
 {
     const osg::GeometryRefPtr box(osg::makeBoxGeo(1.f, 1.f, 1.f, 1, 1, 1));
