@@ -9,22 +9,17 @@
 #include <nbKernelServices/nbUndoService.h>
 #include <nbMagnifier/nbMagnifierRenderer.h>
 #include <nbOpenSGUberCamera/UberCamera.h>
-#include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <OpenSG/OSGChunkMaterial.h>
 #include <OpenSG/OSGContainerCensus.h>
-#include <OpenSG/OSGGeometry.h>
 
 #include <QtCore/QSignalBlocker>
 #include <QtWidgets/QUndoStack>
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <array>
-#include <map>
 #include <memory>
-#include <vector>
 
 namespace nbec::manipulator::test {
 
@@ -186,21 +181,6 @@ TEST_F(PerspectiveMatchManipulatorTest, ThePointerIsCountedFromTheLowestRow)
     scene.send("stop", osg::Pnt2f(100, 0));
 }
 
-TEST_F(PerspectiveMatchManipulatorTest, ACameraSizedByItsWidthCountsInWidths)
-{
-    const osg::UberCameraPtr camera = scene.widget.getUberCamera();
-    osg::beginEditCP(camera);
-    camera->setHorizontalSizing(true);
-    osg::endEditCP(camera);
-    gizmo.update(true);
-    scene.layLines();
-    const QLineF before = match().getZLine1();
-
-    scene.drag(before.center(), osg::Vec2f(16, 32));
-
-    expectLine(match().getZLine1(), before.translated(0.01, 0.02));
-}
-
 TEST_F(PerspectiveMatchManipulatorTest, AViewResizedDuringADragMeasuresInItsNewSize)
 {
     const QLineF before = match().getXLine2();
@@ -250,19 +230,6 @@ TEST_F(PerspectiveMatchManipulatorTest, ACameraThatIsDestroyedReadsAsNone)
     EXPECT_TRUE(drawnLine(gizmo, 1).isNull());
     EXPECT_TRUE(scene.send("stop", from));
     EXPECT_FALSE(scene.send("hover", from));
-}
-
-TEST_F(PerspectiveMatchManipulatorTest, AViewWithoutAreaKeepsItsUnit)
-{
-    const QLineF before = match().getXLine1();
-    ASSERT_TRUE(scene.grab(before.center()));
-    scene.widget.resize(0, 0);
-    EXPECT_TRUE(drawnLine(gizmo, 1).isNull());
-    scene.send("process", osg::Pnt2f(0, 0));
-    scene.send("process", osg::Pnt2f(3, 3));
-    EXPECT_TRUE(scene.send("stop", osg::Pnt2f(3, 3)));
-    expectLine(match().getXLine1(), before.translated(0.003, -0.003));
-    EXPECT_FALSE(scene.send("hover", osg::Pnt2f(3, 3)));
 }
 
 // == Hovering, grabbing and the magnifier
@@ -349,30 +316,6 @@ TEST_F(PerspectiveMatchManipulatorTest, ThePickerTellsTheSizeOfALogicalPixel)
 }
 
 // == What is drawn
-
-TEST_F(PerspectiveMatchManipulatorTest, TheColliderIsTheOverlayItself)
-{
-    const osg::NodePtr root = gizmo.getVisualisation();
-    EXPECT_EQ(gizmo.getCollider(), root);
-    EXPECT_TRUE(nbNodeUtils::isAuxiliaryNode(root));
-    EXPECT_TRUE(nbNodeUtils::isManipulatorNode(root));
-
-    std::map<osg::Int32, std::vector<osg::MaterialPtr>> materials;
-    scene.send("hover", scene.pixelOf(match().getXLine1().p1()));
-    for (osg::UInt32 i = 0; i < root->getNChildren(); ++i) {
-        osg::NodePtr node = root->getChild(i);
-        node = node->getNChildren() > 0 ? node->getChild(0) : node;
-        const auto material = osg::GeometryPtr::dcast(node->getCore())->getMaterial();
-        auto& known = materials[material->getSortKey()];
-        if (std::find(known.begin(), known.end(), material) == known.end()) {
-            known.push_back(material);
-        }
-        EXPECT_EQ(nbNodeUtils::getName(node), "") << "pickers find named geometry only";
-    }
-    ASSERT_EQ(materials.size(), 2U);
-    EXPECT_EQ(materials[64016].size(), 3U);
-    EXPECT_EQ(materials[64017].size(), 1U);
-}
 
 TEST_F(PerspectiveMatchManipulatorTest, ShowsWhileActiveAndForgetsTheCameraThen)
 {

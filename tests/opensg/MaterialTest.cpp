@@ -61,23 +61,6 @@ protected:
 
 }  // namespace
 
-TEST_F(Materials, SlotsOfAKindAreKeptApart)
-{
-    const RefPtr<ChunkMaterialPtr> material(ChunkMaterial::create());
-    const TextureChunkPtr base = TextureChunk::create();
-    const TextureChunkPtr detail = TextureChunk::create();
-    const TextureChunkPtr third = TextureChunk::create();
-
-    material->addChunk(detail, 1);
-    material->addChunk(base);
-    material->addChunk(third, State::AutoSlot);
-
-    const StatePtr state = material->getState();
-    EXPECT_TRUE(inForce<TextureChunk>(state, 0) == base);
-    EXPECT_TRUE(inForce<TextureChunk>(state, 1) == detail);
-    EXPECT_TRUE(inForce<TextureChunk>(state, 2) == third);
-}
-
 TEST_F(Materials, StateRefusesSlotsThatTheKindDoesNotHave)
 {
     const RefPtr<StatePtr> state(State::create());

@@ -76,24 +76,6 @@ TEST_F(ToolInteractionContextTest, ToolIsActiveWhileItsContextIsAddedAndEnabled)
                             "t mode precisionTool", "t mode tool", "t mode ", "t deactivate "));
 }
 
-TEST_F(ToolInteractionContextTest, ChangeOfToolStopsTheDragOfTheFormerOne)
-{
-    RecordingTool second(log, "s");
-    ToolInteractionContext context;
-    context.setTool(&tool);
-    manager.addContext(&context);
-    send("start");
-    log.clear();
-
-    context.setTool(&second);
-    send("process");
-    context.setTool(nullptr);
-
-    EXPECT_THAT(log,
-                ElementsAre("t stop select", "t mode ", "t deactivate ", "s activate ",
-                            "s mode tool", "s mode ", "s deactivate "));
-}
-
 TEST_F(ToolInteractionContextTest, DyingContextStopsAndDeactivatesItsTool)
 {
     auto context = std::make_unique<ToolInteractionContext>();

@@ -152,25 +152,6 @@ TEST(nbPerspectiveSolver, ParallelLinesKeepTheFieldOfViewUnlessTwoOthersMeet)
     }
 }
 
-TEST(nbPerspectiveSolver, AxesAtAnAcuteAngleKeepTheFieldOfView)
-{
-    // Both meet to the right of the middle, which perpendicular directions never do.
-    PerspectiveProblem problem;
-    problem.type = nbCameraTypes::XZLines;
-    problem.lines[0] = QLineF(0.0, 0.2, 0.5, 0.3);
-    problem.lines[1] = QLineF(0.0, 0.8, 0.5, 0.7);
-    problem.lines[4] = QLineF(0.0, 0.1, 0.5, 0.2);
-    problem.lines[5] = QLineF(0.0, 0.7, 0.5, 0.5);
-    problem.start.focalLength = 1.7;
-
-    const PerspectiveSolution solution = nbPerspectiveSolver::solve(problem);
-
-    EXPECT_EQ(solution.result, nbCameraTypes::SolvedWithKeptFov);
-    EXPECT_EQ(solution.aim.focalLength, 1.7);
-    EXPECT_NEAR(solution.aim.right.length(), 1.0, 1e-12);
-    EXPECT_NEAR(solution.aim.right.cross(solution.aim.up).dot(solution.aim.back), 1.0, 1e-12);
-}
-
 TEST(nbPerspectiveSolver, AnyLinesGiveACameraOrARefusal)
 {
     Studio studio(23);

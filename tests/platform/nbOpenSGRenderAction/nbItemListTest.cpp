@@ -11,7 +11,6 @@
 #include <OpenSG/OSGSimpleGeometry.h>
 #include <OpenSG/OSGSimpleMaterial.h>
 #include <OpenSG/OSGSwitch.h>
-#include <OpenSG/OSGTransform.h>
 
 #include <gtest/gtest.h>
 
@@ -156,33 +155,4 @@ TEST(nbItemList, HiddenPartsAreLeftOut)
     EXPECT_EQ(keysInOrder(list), (std::vector<osg::Int32> { 3, 5, 6 }));
     list.update(osg::NullFC);
     EXPECT_TRUE(list.getItems().empty());
-}
-
-TEST(nbItemList, IsMadeAnewOnlyAfterAnEdit)
-{
-    const osg::SimpleMaterialPtr look = material(1);
-    const osg::NodeRefPtr root(over<osg::Transform>({ box(look) }));
-    ItemList list;
-    EXPECT_TRUE(list.update(root));
-    EXPECT_FALSE(list.update(root));
-
-    {
-        const nbEdit edit(look, osg::Material::SortKeyFieldMask);
-        look->setSortKey(8);
-    }
-    EXPECT_TRUE(list.update(root));
-    EXPECT_EQ(list.getItems()[0].key, 8);
-
-    const auto transform = osg::TransformPtr::dcast(root->getCore());
-    {
-        const nbEdit edit(transform, osg::Transform::MatrixFieldMask);
-        transform->getMatrix().setTranslate(5.f, 0.f, 0.f);
-    }
-    EXPECT_TRUE(list.update(root));
-    EXPECT_FLOAT_EQ(list.getSceneBounds().getMax().x(), 5.5f);
-
-    nbNodeUtils::setIsManipulatorNode(root, true);
-    EXPECT_TRUE(list.update(root));
-    EXPECT_TRUE(list.getItems()[0].handle);
-    EXPECT_TRUE(list.getSceneBounds().isEmpty());
 }

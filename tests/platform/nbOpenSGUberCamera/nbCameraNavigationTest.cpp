@@ -129,42 +129,6 @@ TEST(nbCameraNavigation, OrbitNeverTurnsOverThePole)
     EXPECT_TRUE(Navigation::axes(spun).right.equals(Vec3f(0.f, 0.f, 1.f), kTolerance));
 }
 
-TEST(nbCameraNavigation, ZoomGoesTowardsTheTargetButNotPastThePivot)
-{
-    const Vec3f centre;
-
-    const struct
-    {
-        const char* name;
-        Vec3f target;
-        float factor;
-        Vec3f from, at;
-    } rows[] = {
-        { "pivot", centre, 0.5f, 5.f * kZ, centre },
-        { "beside the pivot", 2.f * kX, 0.5f, kX + 5.f * kZ, kX },
-        { "behind it on the same ray", 4.f * kX - 10.f * kZ, 0.5f, kX + 5.f * kZ, kX },
-        { "before it", 6.f * kZ, 0.5f, 8.f * kZ, 3.f * kZ },
-        { "behind the eye", 3.f * kX + 50.f * kZ, 0.5f, 5.f * kZ, centre },
-        { "away", centre, 2.f, 20.f * kZ, centre },
-    };
-
-    for (const auto& row : rows) {
-        const CameraPose moved = Navigation::zoom(frontPose(), row.factor, Pnt3f(row.target));
-        EXPECT_TRUE(isNear(moved.from, Pnt3f(row.from))) << row.name;
-        EXPECT_TRUE(isNear(moved.at, Pnt3f(row.at))) << row.name;
-    }
-
-    CameraPose inwards = frontPose();
-    CameraPose outwards = frontPose();
-    for (int step = 0; step < 500; ++step) {
-        inwards = Navigation::zoom(inwards, 0.8f, Pnt3f(0.3f, 0.2f, -4.f));
-        outwards = Navigation::zoom(outwards, 1.25f);
-        ASSERT_GT(Navigation::depth(inwards, inwards.pivot), 0.f) << "step " << step;
-    }
-    EXPECT_GE(inwards.from.dist(inwards.at), 0.5f * Navigation::kNearestDistance);
-    EXPECT_LE(outwards.from.dist(outwards.at), 1.001f * Navigation::kFarthestDistance);
-}
-
 TEST(nbCameraNavigation, ZoomLeavesTheTargetWhereItIsSeen)
 {
     for (int number = 0; number < kPoseCount; ++number) {
