@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <iterator>
 #include <ostream>
 #include <string>
@@ -223,6 +224,23 @@ TEST(PivotDrags, TurnThePivotAndLeaveTheObject)
 }
 
 // == Snapping
+
+TEST(SnappingDrags, RotationGathersSmallSteps)
+{
+    DragScene drags;
+    drags.activate(Mode::Rotate);
+    drags.gizmo.enableSnapping(true);
+    ASSERT_TRUE(drags.grab(Vec3f(kDiagonal, kDiagonal, 0)));
+    const float reached[] = { 0, 15, 15, 30, 15 };
+    const float pointerDeg[] = { 5, 10, 15, 20, 12 };
+    for (std::size_t i = 0; i < std::size(reached); ++i) {
+        // Far out on the ray through the ring's centre, where whole pixels are fine enough.
+        const float angle = (45.0F + pointerDeg[i]) * kRadiansPerDegree;
+        EXPECT_TRUE(drags.stepTo(
+            Vec2f(250.0F * std::cos(angle) - 51.0F, 51.0F - 250.0F * std::sin(angle))));
+        EXPECT_NEAR(drags.core()->getRotation().z(), reached[i], 1e-3F) << "step " << i;
+    }
+}
 
 TEST(SnappingDrags, TranslationsAndScalesEndOnMultiples)
 {

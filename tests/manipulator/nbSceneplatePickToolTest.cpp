@@ -145,6 +145,17 @@ TEST_F(SceneplatePickToolTest, HintsAreComparedExactly)
     EXPECT_EQ(selections, 0);
 }
 
+TEST_F(SceneplatePickToolTest, HoveringReportsThePlateAndAlsoNothing)
+{
+    EXPECT_TRUE(sendAt(kLeftPx, "hover"));
+    EXPECT_FALSE(sendAt(kNothingPx, "hover"));
+    EXPECT_THAT(preselected, ElementsAre(left, none));
+
+    EXPECT_TRUE(tool.stopHoverTool(&context, "select"));
+    EXPECT_TRUE(tool.stopHoverTool(&context, "select"));
+    EXPECT_THAT(preselected, ElementsAre(left, none, none)) << "one end per outstanding report";
+}
+
 TEST_F(SceneplatePickToolTest, HoveringHoldsBack)
 {
     nbScenegraph::setPreselectionEnabled(false);
@@ -201,6 +212,21 @@ TEST_F(SceneplatePickToolTest, OtherModesChangeNothing)
     }
     EXPECT_EQ(widget.getCursor(), Qt::WaitCursor);
     EXPECT_THAT(preselected, IsEmpty());
+}
+
+TEST_F(SceneplatePickToolTest, ClickSelectsThePlateUnderThePointer)
+{
+    EXPECT_TRUE(sendAt(kLeftPx, "start", "toggle"));
+    EXPECT_EQ(selections, 0) << "only the release selects";
+    EXPECT_TRUE(sendAt(kLeftPx, "stop", "toggle"));
+    EXPECT_THAT(selected, ElementsAre(left));
+    EXPECT_EQ(selectedHint, "toggle");
+
+    EXPECT_FALSE(sendAt(kNothingPx, "start"));
+    EXPECT_FALSE(sendAt(kNothingPx, "stop"));
+    EXPECT_THAT(selected, IsEmpty());
+    EXPECT_EQ(selectedHint, "select");
+    EXPECT_EQ(selections, 2) << "nothing is told as well";
 }
 
 TEST_F(SceneplatePickToolTest, DragsOfThreePixelsBothWaysSelectByRectangle)

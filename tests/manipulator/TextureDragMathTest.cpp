@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+// What drags of texture gizmos compute, with numbers worked out by hand.
+#include "manipulator/detail/TextureDragMath.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+namespace nbec::manipulator::detail::test {
+
+namespace {
+
+using osg::Vec3f;
+
+constexpr float kHalfPi = 1.57079633F;
+constexpr float kInfinity = std::numeric_limits<float>::infinity();
+
+}  // namespace
+
+TEST(TextureDragMath, FactorsNeverFallBelowAThousandthAndAreOtherwiseSentAsTheyAre)
+{
+    EXPECT_FLOAT_EQ(axisScaleFactor(3, 2), 1.5F);
+    EXPECT_FLOAT_EQ(axisScaleFactor(0, 2), 0.001F);
+    EXPECT_FLOAT_EQ(axisScaleFactor(-1, 2), 0.001F);
+    EXPECT_FLOAT_EQ(axisScaleFactor(-3, -2), 1.5F);
+    EXPECT_EQ(axisScaleFactor(1, 0), kInfinity);
+    EXPECT_TRUE(std::isnan(axisScaleFactor(0, 0)));
+
+    EXPECT_FLOAT_EQ(uniformScaleFactor(3, 1), 1.02F);
+    EXPECT_FLOAT_EQ(uniformScaleFactor(0, 1), 0.99F);
+    EXPECT_FLOAT_EQ(uniformScaleFactor(-200, 1), 0.001F);
+    EXPECT_EQ(uniformScaleFactor(1, 0), kInfinity);
+}
+
+TEST(TextureDragMath, TurnsAddAboutXAndZAndSubtractAboutY)
+{
+    const Vec3f start(0.1F, 0.2F, 0.3F);
+    const Vec3f previous(7, 8, 9);
+    const Vec3f x(1, 0, 0);
+    const Vec3f y(0, 2, 0);
+    const Vec3f z(0, 0, 3);
+
+    // A quarter turn by the right hand, and back.
+    EXPECT_TRUE(
+        turnedTriplanar(start, previous, y, z, 0).equals(Vec3f(0.1F + kHalfPi, 0.2F, 0.3F), 1e-6F));
+    EXPECT_TRUE(
+        turnedTriplanar(start, previous, z, y, 0).equals(Vec3f(0.1F - kHalfPi, 0.2F, 0.3F), 1e-6F));
+    EXPECT_TRUE(
+        turnedTriplanar(start, previous, z, x, 1).equals(Vec3f(0.1F, 0.2F - kHalfPi, 0.3F), 1e-6F));
+    EXPECT_TRUE(
+        turnedTriplanar(start, previous, x, z, 1).equals(Vec3f(0.1F, 0.2F + kHalfPi, 0.3F), 1e-6F));
+    EXPECT_TRUE(
+        turnedTriplanar(start, previous, x, y, 2).equals(Vec3f(0.1F, 0.2F, 0.3F + kHalfPi), 1e-6F));
+    // Where both directions are one, rounding must not make the angle undefined.
+    const Vec3f any(0.1F, 0.7F, 0.3F);
+    EXPECT_TRUE(turnedTriplanar(start, previous, any, any, 2).equals(start, 1e-6F));
+    EXPECT_EQ(turnedTriplanar(start, previous, any, Vec3f(kInfinity, 0, 0), 2), previous);
+}
+
+TEST(TextureDragMath, ThePictureOfATireGrowsAtBothEnds)
+{
+    EXPECT_FLOAT_EQ(grownCircumferencePart(0.25F, 0.5, 0.5 + 0.25 * 2 * kHalfPi), 0.5F);
+    // Across the half turn, where angles start again.
+    EXPECT_FLOAT_EQ(grownCircumferencePart(1, 3.0, 3.5 - 4 * static_cast<double>(kHalfPi)),
+                    1 + 0.5F / (2 * kHalfPi));
+    EXPECT_FLOAT_EQ(grownCircumferencePart(0.25F, 0, -2), 0.001F);
+}
+
+}  // namespace nbec::manipulator::detail::test
