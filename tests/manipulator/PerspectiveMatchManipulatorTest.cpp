@@ -234,6 +234,19 @@ TEST_F(PerspectiveMatchManipulatorTest, ACameraThatIsDestroyedReadsAsNone)
 
 // == Hovering, grabbing and the magnifier
 
+TEST_F(PerspectiveMatchManipulatorTest, AViewWithoutAreaKeepsItsUnit)
+{
+    const QLineF before = match().getXLine1();
+    ASSERT_TRUE(scene.grab(before.center()));
+    scene.widget.resize(0, 0);
+    EXPECT_TRUE(drawnLine(gizmo, 1).isNull());
+    scene.send("process", osg::Pnt2f(0, 0));
+    scene.send("process", osg::Pnt2f(3, 3));
+    EXPECT_TRUE(scene.send("stop", osg::Pnt2f(3, 3)));
+    expectLine(match().getXLine1(), before.translated(0.003, -0.003));
+    EXPECT_FALSE(scene.send("hover", osg::Pnt2f(3, 3)));
+}
+
 TEST_F(PerspectiveMatchManipulatorTest, HoverHighlightsAndStartNeedsIt)
 {
     const QLineF x1 = match().getXLine1();

@@ -336,10 +336,13 @@ TEST(PlanarTextureManipulator, CopiesKeepTheStateAndShareTheHandles)
     {
         Gizmo copy(planar.gizmo);
         EXPECT_TRUE(copy.isConnectedTo(planar.material.get(), "diffuse"));
+        EXPECT_TRUE(copy.isConnectedToMaterial(planar.material.get()));
+        EXPECT_FALSE(copy.isConnectedTo(planar.material.get(), "diffus"));
         EXPECT_EQ(copy.getNode(), planar.scene.node);
         EXPECT_EQ(copy.getMode(), Gizmo::ManipulatorMode::Scale);
         EXPECT_EQ(copy.getVisualisation(), planar.gizmo.getVisualisation());
         copy.setMaterialComponent(osg::MaterialPtr(), "mask", nullptr);
+        EXPECT_FALSE(copy.isConnectedToMaterial(osg::MaterialPtr()));
     }
     EXPECT_EQ(planar.gizmo.getComponentType(), "diffuse");
     EXPECT_TRUE(planar.grab("xsShape", Vec3f(2.5F, 0, 0)));

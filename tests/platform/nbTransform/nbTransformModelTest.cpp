@@ -157,6 +157,19 @@ const std::vector<Placement>& turnedPlacements()
 
 // == Values
 
+TEST_F(nbTransformModelTest, ParentsAmongTheTargetsAreReadAsTheyAreThen)
+{
+    const osg::NodePtr parent = add({});
+    const osg::NodePtr child = add({}, parent);
+    const std::vector<osg::NodePtr> nodes { child, parent, child };
+
+    model->setTranslation(3, true, [&](osg::UInt32 i) {
+        return nbTransformModel::Value({ nodes[i], -1 }, Vec3f(i == 1 ? 10.f : 1.f, 0.f, 0.f));
+    });
+
+    expectNear(coreOf(child)->getTranslation(), Vec3f(-9.f, 0.f, 0.f));
+}
+
 TEST_F(nbTransformModelTest, NodesOfOtherKindsAreConvertedWithinTheUndoStep)
 {
     const osg::NodePtr node = osg::makeNodeFor(osg::Group::create());
