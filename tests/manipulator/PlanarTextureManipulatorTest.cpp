@@ -25,7 +25,6 @@ using Gizmo = PlanarTextureManipulator;
 using Names = std::vector<std::string>;
 using osg::Pnt2f;
 using osg::Pnt3f;
-using osg::Vec2f;
 using osg::Vec3f;
 
 constexpr float kTolerance = 1e-4F;

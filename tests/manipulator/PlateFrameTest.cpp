@@ -120,6 +120,25 @@ TEST(PlateFrame, MovingSnapsBoxesToEdgesAndCentreLines)
     }
 }
 
+TEST(PlateFrame, AScaledCornerSnapsAlongItsDiagonal)
+{
+    // The upper right corner starts at (500, 200) and goes up right along (1, -1).
+    const PlateFrame start = makeFrame(450, 250, 100, 100);
+    PlateGuides guides;
+    const PlateChange change =
+        scaleFrame(start, PlateCorner::UpperRight, false, osg::Vec2f(196, -196), kView, &guides);
+    EXPECT_NEAR(change.scaleFactor, 3.0F, 1e-5F) << "the upper edge is 200 pixels away";
+    EXPECT_TRUE(guides.hasHorizontal);
+    EXPECT_EQ(guides.y, 0.0F);
+    EXPECT_FALSE(guides.hasVertical);
+
+    PlateGuides none;
+    const osg::Vec2f far(190, -190);  // 14 pixels along the diagonal
+    EXPECT_NEAR(scaleFrame(start, PlateCorner::UpperRight, false, far, kView, &none).scaleFactor,
+                2.9F, 1e-5F);
+    EXPECT_FALSE(none.hasHorizontal);
+}
+
 TEST(PlateFrame, ScalingNeverVanishesOrTurnsOver)
 {
     const PlateFrame start = makeFrame(400, 300, 160, 120);

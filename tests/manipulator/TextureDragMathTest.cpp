@@ -58,6 +58,13 @@ TEST(TextureDragMath, TurnsAddAboutXAndZAndSubtractAboutY)
     EXPECT_EQ(turnedTriplanar(start, previous, any, Vec3f(kInfinity, 0, 0), 2), previous);
 }
 
+TEST(TextureDragMath, AnAxisWithoutLengthStillGivesAFrame)
+{
+    osg::Matrix matrix;
+    matrix.setScale(Vec3f(1, 0, 1));
+    EXPECT_NEAR(unitFrame(matrix, osg::Pnt3f()).det3(), 1.0F, 1e-6F);
+}
+
 TEST(TextureDragMath, ThePictureOfATireGrowsAtBothEnds)
 {
     EXPECT_FLOAT_EQ(grownCircumferencePart(0.25F, 0.5, 0.5 + 0.25 * 2 * kHalfPi), 0.5F);
