@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <memory>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -243,6 +244,29 @@ TEST(TireProjectionManipulator, LengthsAreToldAndNeverFallBelowAThousandthOfThei
     EXPECT_FLOAT_EQ(attribute<float>(at.last(), "ScaleHeight"), 0.003F);
     EXPECT_TRUE(at.drag.release());
     EXPECT_EQ(manager->getTextCount(), 0U);
+}
+
+TEST(TireProjectionManipulator, ANewSizeReachesTheSharedInstanceAtOnceAndOthersLater)
+{
+    Tire tire;
+    tire.at.look(Camera::Front, false);
+    Gizmo::createInstance();
+    Gizmo::createInstance();
+    const std::unique_ptr<Gizmo> shared(Gizmo::getInstance());
+    shared->setAnchor(tire.at.scene.node, Pnt3f(0, 0, 0));
+    shared->setMaterialComponent(tire.at.material.get(), "diffuse", nullptr);
+    const auto sizeOf = [](Gizmo& gizmo) {
+        return findNode(gizmo.getVisualisation(), "xaShape")->getParent()->getToWorld()[0][0];
+    };
+    const float before = sizeOf(tire.gizmo);
+
+    Gizmo::setManipulatorSize(116.0F);  // half of the divisor that 32 gives
+
+    EXPECT_NEAR(sizeOf(*shared), 2 * before, kTolerance);
+    EXPECT_NEAR(sizeOf(tire.gizmo), before, kTolerance);
+    Gizmo::updateAllManipulators();
+    EXPECT_NEAR(sizeOf(tire.gizmo), 2 * before, kTolerance);
+    Gizmo::setManipulatorSize(32.0F);
 }
 
 }  // namespace nbec::manipulator::test
