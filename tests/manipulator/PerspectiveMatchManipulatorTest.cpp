@@ -168,6 +168,7 @@ TEST_F(PerspectiveMatchManipulatorTest, ThePointerIsCountedFromTheLowestRow)
     match().setZLine2(QLineF(100.5 / 601, 0.5 / 601, 300.5 / 601, 0.5 / 601));
     EXPECT_TRUE(scene.send("hover", osg::Pnt2f(100, 600)));
     EXPECT_TRUE(isHighlighted(gizmo, 6, 2));
+    EXPECT_TRUE(scene.send("hover", osg::Pnt2f(100, 590))) << "9.5 px above the end";
     EXPECT_FALSE(scene.send("hover", osg::Pnt2f(100, 589))) << "11 px above the end";
     EXPECT_FALSE(scene.send("hover", osg::Pnt2f(100, 0))) << "the top row is the other edge";
 
