@@ -182,6 +182,8 @@ TEST(TireProjectionManipulator, SetsShowTheirHandles)
 
 TEST(TireProjectionManipulator, WhatWasSetByHandIsNotFittedAgain)
 {
+    const Names changedAndResumed = { kChanged, "setMatRenderEnabled", "updateMatRender" };
+
     const struct
     {
         const char* handle;
@@ -190,17 +192,9 @@ TEST(TireProjectionManipulator, WhatWasSetByHandIsNotFittedAgain)
         Names stop;
         bool autoParameter;
     } rows[] = {
-        { "radiusShape",
-          true,
-          true,
-          { kChanged, "setMatRenderEnabled", "updateMatRender" },
-          false },
-        { "scaleUShape", true, true, { kChanged, "setMatRenderEnabled", "updateMatRender" }, true },
-        { "scaleUShape",
-          true,
-          false,
-          { kChanged, "setMatRenderEnabled", "updateMatRender" },
-          false },
+        { "radiusShape", true, true, changedAndResumed, false },
+        { "scaleUShape", true, true, changedAndResumed, true },
+        { "scaleUShape", true, false, changedAndResumed, false },
         { "radiusShape", false, true, { "setMatRenderEnabled", "updateMatRender" }, false },
     };
 
