@@ -151,6 +151,8 @@ TEST(PlanarTextureManipulator, PivotGoesToTheCentreOfTheProjection)
     EXPECT_EQ(planar.core()->getRotatePivot(), Vec3f(0.5F, -0.25F, 1));
     EXPECT_EQ(planar.core()->getScalePivot(), Vec3f(0.5F, -0.25F, 1));
     EXPECT_TRUE(planar.scene.node->getToWorld().equals(before, kTolerance));
+    planar.gizmo.setNode(osg::NodePtr());
+    EXPECT_FALSE(planar.gizmo.centerPivot());
 }
 
 }  // namespace nbec::manipulator::test
