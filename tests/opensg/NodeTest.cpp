@@ -113,32 +113,6 @@ TEST(ChangeCount, CountsEndedEditsOnly)
     EXPECT_EQ(getTreeChangeCount(NullFC), 0u);
 }
 
-TEST_F(TreeChangeCount, MovesForEditsOfNodesAndCoresBelowAndForNoOtherTree)
-{
-    struct Row
-    {
-        const char* what;
-        std::function<void()> action;
-    };
-
-    const NodePtr extra = makeCoredNode<Group>();
-    const Row rows[] = {
-        { "matrix", [&] { endEditCP(transform, Transform::MatrixFieldMask); } },
-        { "mask", [&] { endEditCP(leaf, Node::TravMaskFieldMask); } },
-        { "material of a group",
-          [&] { endEditCP(materialGroup, MaterialGroup::MaterialFieldMask); } },
-        { "child added", [&] { leaf->addChild(extra); } },
-        { "core replaced", [&] { extra->setCore(Transform::create()); } },
-        { "edit of a new core", [&] { endEditCP(extra->getCore()); } },
-        { "child taken off", [&] { leaf->subChild(extra); } },
-    };
-    for (const Row& row : rows) {
-        const Moves moves = after(row.action);
-        EXPECT_TRUE(moves.tree) << row.what;
-        EXPECT_FALSE(moves.otherTree) << row.what;
-    }
-}
-
 TEST_F(TreeChangeCount, MovesInBothTreesWhenANodeMovesOver)
 {
     const Moves moves = after([&] { other->addChild(leaf); });
