@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "tests/fuzz/Bytes.h"
+
+#include <nbInteraction/InteractionManager.h>
+#include <nbInteraction/Picker.h>
+#include <nbKernel/nbOSGWidget.h>
+#include <nbMaterialEditor/nbMaterialEditor.h>
+#include <nbMaterialEditor/nbMaterialPreview.h>
+#include <nbOpenSGSceneplate/Sceneplate.h>
+#include <nbOpenSGUberMaterial/UberMaterial.h>
+#include <nbOpenSGUberMaterial/nbStateChunkBase.h>
+#include <nbSceneplateModule/nbSceneplateModule.h>
+
+#include <OpenSG/OSGImage.h>
+#include <OpenSG/OSGNode.h>
+
+#include <array>
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace nbec::manipulator::test {
+
+/// An editor object of a host whose values are whatever the bytes say.
+class WildGui : public nbStateChunkBase
+{
+public:
+    void change(Bytes& bytes);
+
+    bool hasComponent(const std::string& component) const override;
+    osg::Vec3f getTriplanarRotation(const std::string& component) const override;
+    osg::Vec2f getTriplanarOffset(const std::string& component, osg::UInt32 axis) const override;
+    osg::Vec2f getTriplanarRepeat(const std::string& component, osg::UInt32 axis) const override;
+    osg::Real32 getRotate(const std::string& component) const override;
+    osg::Vec2f getOffset(const std::string& component) const override;
+    osg::Vec2f getRepeat(const std::string& component) const override;
+    osg::Vec3f getTireCenter(const std::string& component) const override;
+    osg::Real32 getTireScaleU(const std::string& component) const override;
+    osg::Real32 getTireScaleHeight(const std::string& component) const override;
+    osg::Real32 getTireScaleRadius(const std::string& component) const override;
+
+private:
+    bool hasAll = false;
+    osg::Vec3f value;
+};
+
+/// A host with views, cameras, a scene of nested nodes that wear materials, scene plates, an
+/// editor, a preview and undo: all that actors may meet, and all of which may go at any moment.
+class Stage
+{
+public:
+    Stage();
+    Stage(const Stage&) = delete;
+    Stage& operator=(const Stage&) = delete;
+    ~Stage();
+
+    /// Does something that hosts do beside driving manipulators.
+    void act(Bytes& bytes);
+
+    /// @return the first invariant of the scene that does not hold; empty if all do
+    std::string check() const;
+
+    // == What there is; null for what was deleted
+    osg::NodePtr node(Bytes& bytes) const;
+    osg::UberMaterialPtr material(Bytes& bytes) const;
+    osg::NodePtr plate(Bytes& bytes) const;
+    std::vector<osg::NodePtr> somePlates(Bytes& bytes) const;
+    osg::UberCameraPtr camera(Bytes& bytes) const;
+    /// A few pixels with or without alpha.
+    osg::ImagePtr image(Bytes& bytes) const;
+    /// Wild, an editor's, or null.
+    nbStateChunkBase* gui(Bytes& bytes);
+    /// What gizmos of pictures are given together.
+    struct Edited
+    {
+        osg::UberMaterialPtr material;
+        std::string component;
+        nbStateChunkBase* gui;
+    };
+
+    Edited edited(Bytes& bytes) { return { material(bytes), component(bytes), gui(bytes) }; }
+
+    /// Of the editor, of handlers that do harm, of nobody.
+    std::string receiver(Bytes& bytes) const;
+    std::string component(Bytes& bytes) const;
+    std::string hint(Bytes& bytes) const;
+    std::string mode(Bytes& bytes) const;
+
+    /// The value of a plate, a projection or a component, for comparing.
+    std::vector<float> values() const;
+
+    // == Input
+    /// A place on screen: one on what is shown below a node, as a rule, or any other.
+    osg::Pnt2f aimAt(const osg::NodePtr& tree, Bytes& bytes) const;
+    void point(const osg::Pnt2f& px);
+    /// Moves the pointer, as a rule to the target, and sends an event, as a rule a sensible one.
+    void send(const osg::Pnt2f& target, Bytes& bytes);
+    /// Presses on the target, goes a few steps, and releases, as a rule.
+    void drag(const osg::Pnt2f& target, Bytes& bytes);
+
+    std::unique_ptr<nbOSGWidget> view;
+    interaction::Picker picker;
+    interaction::InteractionManager manager;
+    std::unique_ptr<nbMaterialEditor> editor;
+    nbMaterialPreview preview;
+    std::unique_ptr<nbSceneplateModule> plateModule;
+    /// Whether hosts send only what the library itself would.
+    bool isPreviewOurs = true;
+
+private:
+    static constexpr std::size_t kNodes = 4;
+    static constexpr std::size_t kMaterials = 3;
+    static constexpr std::size_t kPlates = 3;
+    static constexpr std::size_t kCameras = 2;
+
+    enum class Reaction : std::size_t
+    {
+        None,
+        Throw,
+        ThrowNumber,
+        DropNode,
+        DropMaterial,
+        DropSettings,
+        DropPlate,
+        DropView,
+        DropCamera,
+        Undo,
+        ClearTexts,
+        Count
+    };
+
+    void listen(const std::string& name);
+    void react();
+    void resize(Bytes& bytes);
+    void editCamera(Bytes& bytes) const;
+    void editNode(Bytes& bytes) const;
+    void editMaterial(Bytes& bytes);
+    void editPlate(Bytes& bytes);
+    void editUndo(Bytes& bytes) const;
+    void deleteOrAdd(Bytes& bytes);
+    void addNode(std::size_t index);
+    void dropNode(std::size_t index);
+    void addMaterial(std::size_t index);
+    void addPlate(std::size_t index);
+    void dropPlate(std::size_t index);
+    void addView();
+
+    std::array<osg::RefPtr<osg::NodePtr>, kNodes> nodes;
+    std::array<osg::UberMaterialRefPtr, kMaterials> materials;
+    std::array<osg::RefPtr<osg::NodePtr>, kPlates> plates;
+    std::array<osg::UberCameraRefPtr, kCameras> cameras;
+    std::unique_ptr<nbOSGWidget> otherView;
+    WildGui wildGui;
+    Reaction reaction = Reaction::None;
+    std::size_t reactionIndex = 0;
+};
+
+}  // namespace nbec::manipulator::test
