@@ -268,7 +268,7 @@ private:
     void scale(const osg::Pnt3f& hit);
     void scaleEdge(osg::NodePtr node, const osg::Pnt3f& hit, int edge);
     void setTranslationIn(nbMessage& message, const osg::Vec3f& shift) const;
-    void finishStep(nbMessage& message, const osg::NodePtr& node);
+    void finishStep(nbMessage& message);
     void setDescription(const osg::NodePtr& node);
 
     static float m_ManipulatorSize;

@@ -21,9 +21,10 @@ osg::Pnt2f aimAt(Gizmo& gizmo, const Stage& stage, Bytes& bytes)
 }
 
 /// A manipulator with its context. What one has beside the common interface is called by an
-/// overload of
+/// overload of configure(), and what a new one needs to be of use by one of equip():
 ///
 ///     void configure(Gizmo& gizmo, Stage& stage, Bytes& bytes);
+///     void equip(Gizmo& gizmo, Stage& stage);
 ///
 /// @tparam kPauses  whether its stopped drags resume the preview
 template <class Gizmo, bool kPauses>
@@ -145,6 +146,8 @@ private:
             gizmo = std::make_unique<Watched>(stage.preview);
             gizmo->setVisualisationRoot(nbScenegraph::getInternalRoot());
             context.setManipulator(gizmo.get());
+            Gizmo& plain = *gizmo;
+            equip(plain, stage);
         }
         stage.manager.addContext(&context);
     }
@@ -155,7 +158,7 @@ private:
         case 0:
             return gizmo->setVisualisationRoot(osg::NodePtr());
         case 1:
-            return gizmo->setVisualisationRoot(stage.node(bytes));
+            return gizmo->setVisualisationRoot(stage.otherRoot.get());
         case 2:
             return context.setPicker(bytes.flag() ? nullptr : &stage.picker);
         default:
@@ -183,6 +186,10 @@ private:
             break;
         case 3:
             gizmo->hover(ctx, hint);
+            if (!gizmo->isActive()) {
+                // Deactivating gives preselection back, but only to who was active.
+                gizmo->reset(ctx, hint);
+            }
             break;
         case 4:
             gizmo->reset(ctx, hint);

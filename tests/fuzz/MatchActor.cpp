@@ -70,6 +70,13 @@ void configure(Gizmo& gizmo, Stage& stage, Bytes& bytes)
     }
 }
 
+void equip(Gizmo& gizmo, Stage& stage)
+{
+    if (stage.view != nullptr) {
+        gizmo.setCamera(stage.view->getUberCamera());
+    }
+}
+
 /// A place along one of the lines of the view's camera.
 osg::Pnt2f aimAt(Gizmo& /*gizmo*/, const Stage& stage, Bytes& bytes)
 {

@@ -26,6 +26,11 @@ static void configure(nbSceneplateManipulator& gizmo, Stage& stage, Bytes& bytes
     }
 }
 
+static void equip(nbSceneplateManipulator& gizmo, Stage& stage)
+{
+    gizmo.setNodes(stage.allPlates());
+}
+
 static void configure(nbSceneplatePickTool& tool, Stage& stage, Bytes& bytes)
 {
     tool.setMessageReceiver(stage.receiver(bytes));

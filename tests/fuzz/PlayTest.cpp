@@ -47,7 +47,7 @@ TEST_P(Plays, NoKeptSequenceBreaksAnInvariant)
 
 TEST_P(Plays, NoRandomSequenceBreaksAnInvariant)
 {
-    constexpr unsigned kPlays = 40;
+    constexpr unsigned kPlays = 300;
     constexpr std::size_t kBytes = 900;
     for (unsigned seed = 0; seed < kPlays; ++seed) {
         SCOPED_TRACE(seed);

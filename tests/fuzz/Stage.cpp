@@ -185,6 +185,8 @@ Stage::Stage()
         listen(name);
     }
     addView();
+    otherRoot = osg::NodePtr(osg::makeCoredNode<osg::Group>());
+    addChild(nbScenegraph::getInternalRoot(), otherRoot.get());
     editor = std::make_unique<nbMaterialEditor>("editor");
     plateModule = std::make_unique<nbSceneplateModule>();
     for (osg::UberCameraRefPtr& camera : cameras) {
@@ -461,6 +463,9 @@ void Stage::deleteOrAdd(Bytes& bytes)
             isAdded ? osg::UberCameraPtr(osg::UberCamera::create()) : osg::UberCameraPtr();
         return;
     default:
+        if (index % 4 == 0) {
+            return leaveParent(otherRoot.get());
+        }
         if (index % 2 == 0) {
             otherView = isAdded ? std::make_unique<nbOSGWidget>() : nullptr;
             return;
@@ -571,6 +576,24 @@ std::vector<osg::NodePtr> Stage::somePlates(Bytes& bytes) const
     return some;
 }
 
+Stage::Edited Stage::firstEdited(std::size_t index)
+{
+    editor->setMaterial(materials[index].get(), nodes[0].get(), "diffuse", &wildGui);
+    return { materials[index].get(), "diffuse", nullptr };
+}
+
+std::vector<osg::NodePtr> Stage::allPlates() const
+{
+    std::vector<osg::NodePtr> all;
+    for (const auto& one : plates) {
+        all.push_back(one.get());
+    }
+    if (plateModule != nullptr) {
+        plateModule->select(all, "select");
+    }
+    return all;
+}
+
 osg::UberCameraPtr Stage::camera(Bytes& bytes) const
 {
     const std::size_t index = bytes.next() % (2 * kCameras + 1);
@@ -580,15 +603,17 @@ osg::UberCameraPtr Stage::camera(Bytes& bytes) const
     return index == kCameras || view == nullptr ? osg::UberCameraPtr() : view->getUberCamera();
 }
 
-osg::ImagePtr Stage::image(Bytes& bytes) const
+osg::ImagePtr Stage::image(Bytes& bytes)
 {
-    const std::uint8_t width = bytes.next() % 5;
+    const std::uint8_t width = bytes.next() % 6;
     if (width == 0) {
         return osg::ImagePtr();
     }
-    const osg::ImagePtr made = osg::Image::create();
-    made->set(bytes.flag() ? osg::Image::OSG_RGB_PF : osg::Image::OSG_RGBA_PF, width, 2);
-    return made;
+    if (width < 5) {
+        picture = osg::Image::create();
+        picture->set(bytes.flag() ? osg::Image::OSG_RGB_PF : osg::Image::OSG_RGBA_PF, width, 2);
+    }
+    return picture.get();
 }
 
 nbStateChunkBase* Stage::gui(Bytes& bytes)

@@ -69,8 +69,8 @@ public:
     osg::NodePtr plate(Bytes& bytes) const;
     std::vector<osg::NodePtr> somePlates(Bytes& bytes) const;
     osg::UberCameraPtr camera(Bytes& bytes) const;
-    /// A few pixels with or without alpha.
-    osg::ImagePtr image(Bytes& bytes) const;
+    /// A few pixels with or without alpha, the last image again, or null.
+    osg::ImagePtr image(Bytes& bytes);
     /// Wild, an editor's, or null.
     nbStateChunkBase* gui(Bytes& bytes);
     /// What gizmos of pictures are given together.
@@ -82,6 +82,13 @@ public:
     };
 
     Edited edited(Bytes& bytes) { return { material(bytes), component(bytes), gui(bytes) }; }
+
+    // == What fits together, for beginning; null for what was deleted
+    osg::NodePtr firstNode() const { return nodes[0].get(); }
+
+    /// @param index  0 with a planar projection, 1 triplanar, 2 of a tire; becomes the editor's
+    Edited firstEdited(std::size_t index);
+    std::vector<osg::NodePtr> allPlates() const;
 
     /// Of the editor, of handlers that do harm, of nobody.
     std::string receiver(Bytes& bytes) const;
@@ -107,6 +114,8 @@ public:
     std::unique_ptr<nbMaterialEditor> editor;
     nbMaterialPreview preview;
     std::unique_ptr<nbSceneplateModule> plateModule;
+    /// A root of helpers beside the usual one, in the scene at first.
+    osg::RefPtr<osg::NodePtr> otherRoot;
     /// Whether hosts send only what the library itself would.
     bool isPreviewOurs = true;
 
@@ -154,6 +163,7 @@ private:
     std::array<osg::UberCameraRefPtr, kCameras> cameras;
     std::unique_ptr<nbOSGWidget> otherView;
     WildGui wildGui;
+    osg::RefPtr<osg::ImagePtr> picture;  ///< made last
     Reaction reaction = Reaction::None;
     std::size_t reactionIndex = 0;
 };

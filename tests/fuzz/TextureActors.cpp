@@ -157,6 +157,21 @@ void configure(Tire& gizmo, Stage& stage, Bytes& bytes)
     }
 }
 
+void equip(Planar& gizmo, Stage& stage)
+{
+    gizmo.setMessageReceiver("editor");
+    give(gizmo, stage.firstEdited(0));
+    gizmo.setNode(stage.firstNode());
+}
+
+void equip(AnchoredTextureManipulator& gizmo, Stage& stage)
+{
+    const bool isTire = dynamic_cast<Tire*>(&gizmo) != nullptr;
+    gizmo.setMessageReceiver("editor");
+    give(gizmo, stage.firstEdited(isTire ? 2 : 1));
+    gizmo.setAnchor(stage.firstNode(), osg::Pnt3f());
+}
+
 std::unique_ptr<Actor> makePlanarActor(Stage& stage)
 {
     return std::make_unique<ManipulatorActor<Planar, true>>(stage);

@@ -80,6 +80,11 @@ void configure(CameraManipulator& gizmo, Stage& stage, Bytes& bytes)
     }
 }
 
+void equip(NodeManipulator& gizmo, Stage& stage)
+{
+    gizmo.setNode(stage.firstNode());
+}
+
 std::unique_ptr<Actor> makeTransformActor(Stage& stage)
 {
     return std::make_unique<ManipulatorActor<Transform, false>>(stage);
