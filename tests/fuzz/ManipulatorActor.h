@@ -3,6 +3,7 @@
 
 #include "manipulator/ManipulatorInteractionContext.h"
 #include "tests/fuzz/Actor.h"
+#include "tests/fuzz/Equipment.h"
 
 #include <nbKernel/nbScenegraph.h>
 
@@ -12,19 +13,10 @@
 
 namespace nbec::manipulator::test {
 
-/// A place on a manipulator where there may be something to grab. Overloaded for those whose
-/// collider does not show it.
-template <class Gizmo>
-osg::Pnt2f aimAt(Gizmo& gizmo, const Stage& stage, Bytes& bytes)
-{
-    return stage.aimAt(gizmo.getCollider(), bytes);
-}
-
 /// A manipulator with its context. What one has beside the common interface is called by an
-/// overload of configure(), and what a new one needs to be of use by one of equip():
+/// overload of
 ///
 ///     void configure(Gizmo& gizmo, Stage& stage, Bytes& bytes);
-///     void equip(Gizmo& gizmo, Stage& stage);
 ///
 /// @tparam kPauses  whether its stopped drags resume the preview
 template <class Gizmo, bool kPauses>

@@ -85,12 +85,14 @@ osg::Pnt2f aimAt(Gizmo& /*gizmo*/, const Stage& stage, Bytes& bytes)
         return stage.aimAt(osg::NodePtr(), bytes);
     }
     const nbOSGWidget& view = *stage.view;
-    const QLineF line = cameraNodeOf(view.getUberCamera()).getPerspectiveMatch().getLine(someLine(bytes));
+    const QLineF line =
+        cameraNodeOf(view.getUberCamera()).getPerspectiveMatch().getLine(someLine(bytes));
     const bool isVertical =
         nbCameraUtils::getVerticalSizing(view.getCamera(), view.getWidth(), view.getHeight());
     const double unit = isVertical ? view.getHeight() : view.getWidth();
     const QPointF at = line.pointAt(part) * unit;
-    return osg::Pnt2f(static_cast<float>(at.x()), static_cast<float>(view.getHeight() - 1 - at.y()));
+    return osg::Pnt2f(static_cast<float>(at.x()),
+                      static_cast<float>(view.getHeight() - 1 - at.y()));
 }
 
 std::unique_ptr<Actor> makeMatchActor(Stage& stage)

@@ -46,43 +46,29 @@ struct Attribute
 };
 
 constexpr std::array<Attribute, 27> kAttributes = { {
-    { "enabled", Type::Bool },
-    { "clamping", Type::Bool },
-    { "autoParameter", Type::Bool },
-    { "rotate", Type::Float },
-    { "rotate", Type::Vec3 },
-    { "offset", Type::Vec2 },
-    { "offset", Type::QtVec2 },
-    { "scale", Type::Vec2 },
-    { "scale", Type::Vec3 },
-    { "transVec", Type::Vec3 },
-    { "XOffset", Type::Vec2 },
-    { "YOffset", Type::Vec2 },
-    { "ZOffset", Type::Vec2 },
-    { "XScale", Type::Vec2 },
-    { "YScale", Type::Vec2 },
-    { "ZScale", Type::Vec2 },
-    { "center", Type::Vec3 },
-    { "ScaleHeight", Type::Float },
-    { "ScaleRadius", Type::Float },
-    { "ScaleU", Type::Float },
-    { "hitNode", Type::Node },
-    { "hitPoint", Type::Point },
-    { "hitNormal", Type::Vec3 },
-    { "node", Type::Node },
-    { "nodes", Type::Nodes },
-    { "hint", Type::Text },
-    { "scaleFactor", Type::Float },
+    { "enabled", Type::Bool },      { "clamping", Type::Bool },  { "autoParameter", Type::Bool },
+    { "rotate", Type::Float },      { "rotate", Type::Vec3 },    { "offset", Type::Vec2 },
+    { "offset", Type::QtVec2 },     { "scale", Type::Vec2 },     { "scale", Type::Vec3 },
+    { "transVec", Type::Vec3 },     { "XOffset", Type::Vec2 },   { "YOffset", Type::Vec2 },
+    { "ZOffset", Type::Vec2 },      { "XScale", Type::Vec2 },    { "YScale", Type::Vec2 },
+    { "ZScale", Type::Vec2 },       { "center", Type::Vec3 },    { "ScaleHeight", Type::Float },
+    { "ScaleRadius", Type::Float }, { "ScaleU", Type::Float },   { "hitNode", Type::Node },
+    { "hitPoint", Type::Point },    { "hitNormal", Type::Vec3 }, { "node", Type::Node },
+    { "nodes", Type::Nodes },       { "hint", Type::Text },      { "scaleFactor", Type::Float },
 } };
 
-constexpr std::array<const char*, 12> kNames = {
-    "editor::changedPlanarManipulator",   "editor::getScaleValues",
-    "editor::placeTexture",               "editor::changedTireManipulator",
-    "editor::changedTriplanarManipulator", "editor::changedUVManipulator",
-    "setMatRenderEnabled",                "updateMatRender",
-    "sceneplateChanged",                  "sceneplatePreselected",
-    "sceneplateSelected",                 "editor::unknown"
-};
+constexpr std::array<const char*, 12> kNames = { "editor::changedPlanarManipulator",
+                                                 "editor::getScaleValues",
+                                                 "editor::placeTexture",
+                                                 "editor::changedTireManipulator",
+                                                 "editor::changedTriplanarManipulator",
+                                                 "editor::changedUVManipulator",
+                                                 "setMatRenderEnabled",
+                                                 "updateMatRender",
+                                                 "sceneplateChanged",
+                                                 "sceneplatePreselected",
+                                                 "sceneplateSelected",
+                                                 "editor::unknown" };
 
 boost::any valueOf(Type type, const Stage& stage, Bytes& bytes)
 {

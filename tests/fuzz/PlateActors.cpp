@@ -7,12 +7,11 @@
 
 #include <nbInteraction/ToolInteractionContext.h>
 
-using nbec::manipulator::test::Bytes;
-using nbec::manipulator::test::Stage;
-using nbec::modules::textureplacement::TexturePlacementPickTool;
+namespace nbec::manipulator::test {
 
-// Beside the classes, where calls that depend on them look for overloads.
-static void configure(nbSceneplateManipulator& gizmo, Stage& stage, Bytes& bytes)
+using modules::textureplacement::TexturePlacementPickTool;
+
+void configure(nbSceneplateManipulator& gizmo, Stage& stage, Bytes& bytes)
 {
     switch (bytes.next() % 6) {
     case 0:
@@ -26,12 +25,12 @@ static void configure(nbSceneplateManipulator& gizmo, Stage& stage, Bytes& bytes
     }
 }
 
-static void equip(nbSceneplateManipulator& gizmo, Stage& stage)
+void equip(nbSceneplateManipulator& gizmo, Stage& stage)
 {
     gizmo.setNodes(stage.allPlates());
 }
 
-static void configure(nbSceneplatePickTool& tool, Stage& stage, Bytes& bytes)
+void configure(nbSceneplatePickTool& tool, Stage& stage, Bytes& bytes)
 {
     tool.setMessageReceiver(stage.receiver(bytes));
     tool.setShowHitData(bytes.flag());
@@ -39,9 +38,7 @@ static void configure(nbSceneplatePickTool& tool, Stage& stage, Bytes& bytes)
     tool = copied;
 }
 
-namespace nbec::modules::textureplacement {
-
-static void configure(TexturePlacementPickTool& tool, Stage& stage, Bytes& bytes)
+void configure(TexturePlacementPickTool& tool, Stage& stage, Bytes& bytes)
 {
     const Stage::Edited edited = stage.edited(bytes);
     tool.setMaterialComponent(edited.material, edited.component, edited.gui);
@@ -51,10 +48,6 @@ static void configure(TexturePlacementPickTool& tool, Stage& stage, Bytes& bytes
     const TexturePlacementPickTool copied(tool);
     tool = copied;
 }
-
-}  // namespace nbec::modules::textureplacement
-
-namespace nbec::manipulator::test {
 
 namespace {
 
@@ -161,8 +154,8 @@ std::unique_ptr<Actor> makePlateActor(Stage& stage)
 
 std::unique_ptr<Actor> makePlatePickActor(Stage& stage)
 {
-    return std::make_unique<ToolActor<nbSceneplatePickTool>>(
-        stage, interaction::Picker::SceneplateFilter);
+    return std::make_unique<ToolActor<nbSceneplatePickTool>>(stage,
+                                                             interaction::Picker::SceneplateFilter);
 }
 
 std::unique_ptr<Actor> makePlacementActor(Stage& stage)

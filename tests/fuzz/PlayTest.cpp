@@ -33,8 +33,7 @@ INSTANTIATE_TEST_SUITE_P(Targets, Plays, testing::ValuesIn(playTargets()),
 
 TEST_P(Plays, NoKeptSequenceBreaksAnInvariant)
 {
-    const std::filesystem::path corpus =
-        std::filesystem::path(NB_FUZZ_CORPUS) / GetParam().name;
+    const std::filesystem::path corpus = std::filesystem::path(NB_FUZZ_CORPUS) / GetParam().name;
     std::size_t count = 0;
     for (const auto& entry : std::filesystem::directory_iterator(corpus)) {
         SCOPED_TRACE(entry.path());

@@ -85,9 +85,9 @@ private:
     void showProjection(Bytes& bytes)
     {
         const osg::UberMaterialPtr material = stage.material(bytes);
-        shown->updateProjectionTransform(material == osg::NullFC
-                                             ? osg::ColorComponentSettingsPtr()
-                                             : material->getComponentSettings(stage.component(bytes)));
+        shown->updateProjectionTransform(
+            material == osg::NullFC ? osg::ColorComponentSettingsPtr()
+                                    : material->getComponentSettings(stage.component(bytes)));
     }
 
     Stage& stage;

@@ -8,38 +8,28 @@
 #include <nbOpenSGExt/Transform3D.h>
 #include <nbOpenSGSceneplate/nbSceneplateList.h>
 #include <nbOpenSGUtils/nbEdit.h>
-#include <nbOpenSGUtils/nbTransformState.h>
 
 #include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGSimpleGeometry.h>
 
-#include <algorithm>
-#include <cmath>
 #include <stdexcept>
+#include <utility>
 
 namespace nbec::manipulator::test {
 
 namespace {
 
-using interaction::InteractionEvent;
-
 constexpr int kWidth = 640;
 constexpr int kHeight = 480;
 
-constexpr std::array<const char*, 6> kEvents = { "start", "process",   "stop",
-                                                 "hover", "stopHover", "trigger" };
-constexpr std::array<const char*, 4> kTools = { "tool", "mode", "camera", "precisionTool" };
-constexpr std::array<const char*, 8> kHints = { "select", "toggle", "selectThrough", "tool",
-                                                "add",    "sub",    "deselect",      "zoom" };
-constexpr std::array<const char*, 3> kModes = { "tool", "precisionTool", "" };
-constexpr std::array<const char*, 4> kComponents = { "diffuse", "diffuse", "transparency", "" };
-constexpr std::array<const char*, 4> kReceivers = { "editor", "harm", "nobody", "" };
-constexpr std::array<const char*, 8> kHarmed = {
-    "harm::changedPlanarManipulator",    "harm::getScaleValues",
-    "harm::placeTexture",                "harm::changedTireManipulator",
-    "harm::changedTriplanarManipulator", "harm::changedUVManipulator",
-    "nbTransform::changedTransformation", "nbTransform::updateTransformation"
-};
+constexpr std::array<const char*, 8> kHarmed = { "harm::changedPlanarManipulator",
+                                                 "harm::getScaleValues",
+                                                 "harm::placeTexture",
+                                                 "harm::changedTireManipulator",
+                                                 "harm::changedTriplanarManipulator",
+                                                 "harm::changedUVManipulator",
+                                                 "nbTransform::changedTransformation",
+                                                 "nbTransform::updateTransformation" };
 
 void addChild(const osg::NodePtr& above, const osg::NodePtr& child)
 {
@@ -56,126 +46,7 @@ void leaveParent(const osg::NodePtr& node)
     }
 }
 
-template <class Vector>
-void append(std::vector<float>& values, const Vector& vector)
-{
-    const auto* const first = vector.getValues();
-    values.insert(values.end(), first, first + sizeof(Vector) / sizeof(*first));
-}
-
-void append(std::vector<float>& values, const osg::Quaternion& turn)
-{
-    values.insert(values.end(), { turn.x(), turn.y(), turn.z(), turn.w() });
-}
-
-void appendTransform(std::vector<float>& values, const osg::Transform3D& core)
-{
-    const nbTransformState state = nbTransformState::of(core);
-    for (const osg::Vec3f& part :
-         { state.translation, state.rotatePivot, state.scalePivot, state.eulerRotation, state.scale }) {
-        append(values, part);
-    }
-    append(values, state.rotationQuaternion);
-    append(values, state.rotationOrientation);
-}
-
-void appendSettings(std::vector<float>& values, const osg::ColorComponentSettings& settings)
-{
-    const nbTextureValues texture = nbTextureValues::of(settings);
-    append(values, texture.offset);
-    append(values, texture.repeat);
-    for (const osg::Vec3f& part :
-         { texture.triplanarRotation, texture.triplanarOffsetU, texture.triplanarOffsetV,
-           texture.triplanarRepeatU, texture.triplanarRepeatV, texture.tireCenter }) {
-        append(values, part);
-    }
-    values.insert(values.end(),
-                  { texture.rotate, texture.tireScaleU, texture.tireScaleHeight,
-                    texture.tireScaleRadius, texture.tireAutoParameter ? 1.0F : 0.0F,
-                    static_cast<float>(settings.getPlanarProjectionFlags()) });
-    const osg::Transform3DPtr projection = settings.getPlanarProjection();
-    if (projection != osg::NullFC) {
-        appendTransform(values, *projection);
-    }
-}
-
-void collectGeometry(const osg::NodePtr& node, std::vector<osg::NodePtr>& found)
-{
-    if (!node->getActive()) {
-        return;
-    }
-    if (osg::GeometryPtr::dcast(node->getCore()) != osg::NullFC) {
-        found.push_back(node);
-    }
-    for (osg::UInt32 i = 0; i < node->getNChildren(); ++i) {
-        collectGeometry(node->getChild(i), found);
-    }
-}
-
 }  // namespace
-
-// == The editor object
-
-void WildGui::change(Bytes& bytes)
-{
-    hasAll = bytes.flag();
-    value = bytes.number3();
-}
-
-bool WildGui::hasComponent(const std::string& /*component*/) const
-{
-    return hasAll;
-}
-
-osg::Vec3f WildGui::getTriplanarRotation(const std::string& /*component*/) const
-{
-    return value;
-}
-
-osg::Vec2f WildGui::getTriplanarOffset(const std::string& /*component*/, osg::UInt32 axis) const
-{
-    return { value[axis % 3], value.y() };
-}
-
-osg::Vec2f WildGui::getTriplanarRepeat(const std::string& /*component*/, osg::UInt32 axis) const
-{
-    return { value.z(), value[axis % 3] };
-}
-
-osg::Real32 WildGui::getRotate(const std::string& /*component*/) const
-{
-    return value.x();
-}
-
-osg::Vec2f WildGui::getOffset(const std::string& /*component*/) const
-{
-    return { value.x(), value.y() };
-}
-
-osg::Vec2f WildGui::getRepeat(const std::string& /*component*/) const
-{
-    return { value.y(), value.z() };
-}
-
-osg::Vec3f WildGui::getTireCenter(const std::string& /*component*/) const
-{
-    return value;
-}
-
-osg::Real32 WildGui::getTireScaleU(const std::string& /*component*/) const
-{
-    return value.x();
-}
-
-osg::Real32 WildGui::getTireScaleHeight(const std::string& /*component*/) const
-{
-    return value.y();
-}
-
-osg::Real32 WildGui::getTireScaleRadius(const std::string& /*component*/) const
-{
-    return value.z();
-}
 
 // == The stage
 
@@ -187,8 +58,7 @@ Stage::Stage()
     addView();
     otherRoot = osg::NodePtr(osg::makeCoredNode<osg::Group>());
     addChild(nbScenegraph::getInternalRoot(), otherRoot.get());
-    editor = std::make_unique<nbMaterialEditor>("editor");
-    plateModule = std::make_unique<nbSceneplateModule>();
+    renewReceivers();
     for (osg::UberCameraRefPtr& camera : cameras) {
         camera = osg::UberCamera::create();
     }
@@ -219,49 +89,52 @@ Stage::~Stage()
 void Stage::listen(const std::string& name)
 {
     nbController::addReceiver(name, [this](nbMessage& message) {
-        if (reaction == Reaction::None) {
-            // What "::getScaleValues" is answered with.
-            message.set("initialTextureScale", osg::Vec3f(static_cast<float>(reactionIndex), 1, 1),
-                        true);
-            message.set("projectionSize", osg::Vec2f(2.0F, 0.0F), true);
-        }
-        react();
+        // What "::getScaleValues" is answered with.
+        message.set("initialTextureScale", osg::Vec3f(static_cast<float>(faultIndex), 1, 1), true);
+        message.set("projectionSize", osg::Vec2f(2.0F, 0.0F), true);
+        commit(std::exchange(nextFault, Fault::None), faultIndex);
     });
 }
 
-void Stage::react()
+void Stage::renewReceivers()
 {
-    const Reaction now = std::exchange(reaction, Reaction::None);
-    switch (now) {
-    case Reaction::Throw:
+    editor.reset();
+    editor = std::make_unique<nbMaterialEditor>("editor");
+    plateModule.reset();
+    plateModule = std::make_unique<nbSceneplateModule>();
+}
+
+void Stage::commit(Fault what, std::size_t index)
+{
+    switch (what) {
+    case Fault::Throw:
         throw std::runtime_error("a handler fails");
-    case Reaction::ThrowNumber:
+    case Fault::ThrowNumber:
         throw 1;
-    case Reaction::DropNode:
-        return dropNode(reactionIndex % kNodes);
-    case Reaction::DropMaterial:
-        materials[reactionIndex % kMaterials] = osg::NullFC;
-        return dropNode(reactionIndex % kNodes);
-    case Reaction::DropSettings:
-        if (materials[reactionIndex % kMaterials] != osg::NullFC) {
-            materials[reactionIndex % kMaterials]->setComponentSettings(
-                "diffuse", osg::ColorComponentSettingsPtr());
+    case Fault::DropNode:
+        return dropNode(index % kNodes);
+    case Fault::DropMaterial:
+        return dropMaterial(index % kMaterials);
+    case Fault::DropSettings:
+        if (materials[index % kMaterials] != osg::NullFC) {
+            materials[index % kMaterials]->setComponentSettings("diffuse",
+                                                                osg::ColorComponentSettingsPtr());
         }
         return;
-    case Reaction::DropPlate:
-        return dropPlate(reactionIndex % kPlates);
-    case Reaction::DropView:
+    case Fault::DropPlate:
+        return dropPlate(index % kPlates);
+    case Fault::DropView:
         return view.reset();
-    case Reaction::DropCamera:
-        cameras[reactionIndex % kCameras] = osg::NullFC;
+    case Fault::DropCamera:
+        cameras[index % kCameras] = osg::NullFC;
         return;
-    case Reaction::Undo:
+    case Fault::Undo:
         nbUndoService::the()->undo();
         return;
-    case Reaction::ClearTexts:
+    case Fault::ClearTexts:
         return notification::NotificationManager::getInstance()->clear();
-    case Reaction::None:
-    case Reaction::Count:
+    case Fault::None:
+    case Fault::Count:
         return;
     }
 }
@@ -290,8 +163,8 @@ void Stage::act(Bytes& bytes)
         manager.selectMode(mode(bytes));
         return;
     case 9:
-        reaction = static_cast<Reaction>(bytes.next() % static_cast<std::size_t>(Reaction::Count));
-        reactionIndex = bytes.next();
+        nextFault = static_cast<Fault>(bytes.next() % static_cast<std::size_t>(Fault::Count));
+        faultIndex = bytes.next();
         return;
     case 10:
         nbOSGWidget::setInteractionMode(bytes.next() % 3);
@@ -447,7 +320,7 @@ void Stage::deleteOrAdd(Bytes& bytes)
         }
         return;
     case 2:
-        materials[index % kMaterials] = osg::NullFC;
+        dropMaterial(index % kMaterials);
         if (isAdded) {
             addMaterial(index % kMaterials);
         }
@@ -519,6 +392,23 @@ void Stage::addMaterial(std::size_t index)
     made->setComponentSettings("diffuse", settings);
 }
 
+/// Takes it from all that wears it, too.
+void Stage::dropMaterial(std::size_t index)
+{
+    for (const auto& node : nodes) {
+        if (node == osg::NullFC) {
+            continue;
+        }
+        const osg::NodePtr box = node->getNChildren() > 0 ? node->getChild(0) : node.get();
+        const auto geometry = osg::GeometryPtr::dcast(box->getCore());
+        if (geometry != osg::NullFC && geometry->getMaterial() == materials[index].get()) {
+            const nbEdit edit(geometry, osg::Geometry::MaterialFieldMask);
+            geometry->setMaterial(osg::MaterialPtr());
+        }
+    }
+    materials[index] = osg::NullFC;
+}
+
 void Stage::addPlate(std::size_t index)
 {
     const osg::NodePtr node = osg::makeCoredNode<osg::Sceneplate>();
@@ -543,229 +433,6 @@ void Stage::addView()
     view->setMain();
     view->resize(kWidth, kHeight);
     view->getUberCamera()->setFromAtUp(osg::Pnt3f(1, 2, 8), osg::Pnt3f(), osg::Vec3f(0, 1, 0));
-}
-
-// == What there is
-
-osg::NodePtr Stage::node(Bytes& bytes) const
-{
-    const std::size_t index = bytes.next() % (kNodes + 2);
-    return index < kNodes ? nodes[index].get()
-        : index == kNodes ? osg::NodePtr()
-                          : nbScenegraph::getRootNode();
-}
-
-osg::UberMaterialPtr Stage::material(Bytes& bytes) const
-{
-    const std::size_t index = bytes.next() % (kMaterials + 1);
-    return index < kMaterials ? materials[index].get() : osg::UberMaterialPtr();
-}
-
-osg::NodePtr Stage::plate(Bytes& bytes) const
-{
-    const std::size_t index = bytes.next() % (kPlates + 1);
-    return index < kPlates ? plates[index].get() : nodes[0].get();
-}
-
-std::vector<osg::NodePtr> Stage::somePlates(Bytes& bytes) const
-{
-    std::vector<osg::NodePtr> some;
-    for (unsigned left = bytes.next() % 4; left > 0; --left) {
-        some.push_back(plate(bytes));
-    }
-    return some;
-}
-
-Stage::Edited Stage::firstEdited(std::size_t index)
-{
-    editor->setMaterial(materials[index].get(), nodes[0].get(), "diffuse", &wildGui);
-    return { materials[index].get(), "diffuse", nullptr };
-}
-
-std::vector<osg::NodePtr> Stage::allPlates() const
-{
-    std::vector<osg::NodePtr> all;
-    for (const auto& one : plates) {
-        all.push_back(one.get());
-    }
-    if (plateModule != nullptr) {
-        plateModule->select(all, "select");
-    }
-    return all;
-}
-
-osg::UberCameraPtr Stage::camera(Bytes& bytes) const
-{
-    const std::size_t index = bytes.next() % (2 * kCameras + 1);
-    if (index < kCameras) {
-        return cameras[index].get();
-    }
-    return index == kCameras || view == nullptr ? osg::UberCameraPtr() : view->getUberCamera();
-}
-
-osg::ImagePtr Stage::image(Bytes& bytes)
-{
-    const std::uint8_t width = bytes.next() % 6;
-    if (width == 0) {
-        return osg::ImagePtr();
-    }
-    if (width < 5) {
-        picture = osg::Image::create();
-        picture->set(bytes.flag() ? osg::Image::OSG_RGB_PF : osg::Image::OSG_RGBA_PF, width, 2);
-    }
-    return picture.get();
-}
-
-nbStateChunkBase* Stage::gui(Bytes& bytes)
-{
-    const std::uint8_t choice = bytes.next() % 3;
-    return choice == 0 ? &wildGui : choice == 1 ? editor->getStateChunk() : nullptr;
-}
-
-std::string Stage::receiver(Bytes& bytes) const
-{
-    return bytes.once(8) ? bytes.text() : bytes.oneOf(kReceivers);
-}
-
-std::string Stage::component(Bytes& bytes) const
-{
-    return bytes.once(8) ? bytes.text() : bytes.oneOf(kComponents);
-}
-
-std::string Stage::hint(Bytes& bytes) const
-{
-    return bytes.once(8) ? bytes.text() : bytes.oneOf(kHints);
-}
-
-std::string Stage::mode(Bytes& bytes) const
-{
-    return bytes.once(8) ? bytes.text() : bytes.oneOf(kModes);
-}
-
-// == Input
-
-osg::Pnt2f Stage::aimAt(const osg::NodePtr& tree, Bytes& bytes) const
-{
-    const std::uint8_t choice = bytes.next();
-    const std::uint8_t corner = bytes.next();
-    const osg::Pnt2f anywhere(static_cast<float>(choice) * 2.5F, static_cast<float>(corner) * 2.0F);
-    if (choice % 8 == 0 || tree == osg::NullFC || view == nullptr) {
-        return anywhere;
-    }
-    std::vector<osg::NodePtr> shown;
-    collectGeometry(tree, shown);
-    if (shown.empty()) {
-        return anywhere;
-    }
-    const osg::NodePtr target = shown[choice / 8U % shown.size()];
-    const auto positions = osg::GeometryPtr::dcast(target->getCore())->getPositions();
-    if (positions == osg::NullFC || positions->getSize() == 0) {
-        return anywhere;
-    }
-    osg::Pnt3f point = positions->getValue(corner % positions->getSize());
-    target->getToWorld().multMatrixPnt(point);
-    osg::Matrix clipFromWorld;
-    view->getCamera()->getWorldToScreen(clipFromWorld, *view->getViewport());
-    osg::Pnt3f device;
-    clipFromWorld.multFullMatrixPnt(point, device);
-    const osg::Pnt2f px((device.x() + 1.0F) * 0.5F * static_cast<float>(view->getWidth()),
-                        (1.0F - device.y()) * 0.5F * static_cast<float>(view->getHeight()));
-    return std::isfinite(px.x()) && std::isfinite(px.y()) ? px : anywhere;
-}
-
-void Stage::point(const osg::Pnt2f& px)
-{
-    if (view != nullptr) {
-        view->setMousePosition(px);
-    }
-    manager.pointerMoved(px);
-}
-
-void Stage::send(const osg::Pnt2f& target, Bytes& bytes)
-{
-    point(bytes.once(16) ? osg::Pnt2f(bytes.number2()) : target);
-    const std::string name = bytes.once(16) ? bytes.text() : bytes.oneOf(kEvents);
-    const bool isPlain = !bytes.once(4);
-    const std::string tool = isPlain ? "tool" : bytes.oneOf(kTools);
-    manager.triggerEvent(InteractionEvent(name, tool, isPlain ? "select" : hint(bytes)));
-}
-
-void Stage::drag(const osg::Pnt2f& target, Bytes& bytes)
-{
-    const auto say = [this](const char* name) {
-        manager.triggerEvent(InteractionEvent(name, "tool", "select"));
-    };
-    osg::Pnt2f pointer = target;
-    point(pointer);
-    say("hover");
-    if (view != nullptr && bytes.flag()) {
-        view->setPressPosition(pointer);
-    }
-    say("start");
-    for (unsigned left = bytes.next() % 4; left > 0; --left) {
-        say("process");
-        pointer += bytes.plain2() * (bytes.once(4) ? 500.0F : 10.0F);
-        point(pointer);
-    }
-    if (!bytes.once(4)) {
-        say("stop");
-        if (view != nullptr) {
-            view->clearPressPosition();
-        }
-    }
-}
-
-// == Invariants
-
-std::vector<float> Stage::values() const
-{
-    std::vector<float> result;
-    for (const auto& node : nodes) {
-        const auto core = node == osg::NullFC ? osg::Transform3DPtr()
-                                              : osg::Transform3DPtr::dcast(node->getCore());
-        if (core != osg::NullFC) {
-            appendTransform(result, *core);
-            append(result, core->getMatrix());
-        }
-    }
-    for (const auto& worn : materials) {
-        if (worn == osg::NullFC) {
-            continue;
-        }
-        for (const std::string& name : worn->getComponentNames()) {
-            const osg::ColorComponentSettingsPtr settings = worn->getComponentSettings(name);
-            if (settings != osg::NullFC) {
-                appendSettings(result, *settings);
-            }
-        }
-    }
-    for (const auto& node : plates) {
-        const osg::SceneplatePtr core = nbSceneplateList::plateOf(node.get());
-        if (core != osg::NullFC) {
-            append(result, core->getPosition());
-            append(result, core->getSize());
-            result.insert(result.end(), { core->getScale(), core->getRotation() });
-        }
-    }
-    return result;
-}
-
-std::string Stage::check() const
-{
-    if (picker.getFilter() != interaction::Picker::SceneFilter) {
-        return "the picker was left at another filter";
-    }
-    if (nbUndoService::the()->isRecording() != nbUndoService::the()->isGroupOpen()) {
-        return "a scope of undo was left open";
-    }
-    if (isPreviewOurs && !preview.isPaused() &&
-        preview.getRefreshCount() != preview.getResumeCount()) {
-        return "the preview was resumed and not refreshed";
-    }
-    const std::vector<float> all = values();
-    const bool isFinite =
-        std::all_of(all.begin(), all.end(), [](float value) { return std::isfinite(value); });
-    return isFinite ? "" : "the scene holds a number that is not finite";
 }
 
 }  // namespace nbec::manipulator::test

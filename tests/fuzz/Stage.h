@@ -2,6 +2,7 @@
 #pragma once
 
 #include "tests/fuzz/Bytes.h"
+#include "tests/fuzz/WildGui.h"
 
 #include <nbInteraction/InteractionManager.h>
 #include <nbInteraction/Picker.h>
@@ -10,7 +11,6 @@
 #include <nbMaterialEditor/nbMaterialPreview.h>
 #include <nbOpenSGSceneplate/Sceneplate.h>
 #include <nbOpenSGUberMaterial/UberMaterial.h>
-#include <nbOpenSGUberMaterial/nbStateChunkBase.h>
 #include <nbSceneplateModule/nbSceneplateModule.h>
 
 #include <OpenSG/OSGImage.h>
@@ -24,34 +24,28 @@
 
 namespace nbec::manipulator::test {
 
-/// An editor object of a host whose values are whatever the bytes say.
-class WildGui : public nbStateChunkBase
-{
-public:
-    void change(Bytes& bytes);
-
-    bool hasComponent(const std::string& component) const override;
-    osg::Vec3f getTriplanarRotation(const std::string& component) const override;
-    osg::Vec2f getTriplanarOffset(const std::string& component, osg::UInt32 axis) const override;
-    osg::Vec2f getTriplanarRepeat(const std::string& component, osg::UInt32 axis) const override;
-    osg::Real32 getRotate(const std::string& component) const override;
-    osg::Vec2f getOffset(const std::string& component) const override;
-    osg::Vec2f getRepeat(const std::string& component) const override;
-    osg::Vec3f getTireCenter(const std::string& component) const override;
-    osg::Real32 getTireScaleU(const std::string& component) const override;
-    osg::Real32 getTireScaleHeight(const std::string& component) const override;
-    osg::Real32 getTireScaleRadius(const std::string& component) const override;
-
-private:
-    bool hasAll = false;
-    osg::Vec3f value;
-};
-
 /// A host with views, cameras, a scene of nested nodes that wear materials, scene plates, an
 /// editor, a preview and undo: all that actors may meet, and all of which may go at any moment.
 class Stage
 {
 public:
+    /// What a message handler may do to who sends the message, and what may happen at any time.
+    enum class Fault : std::size_t
+    {
+        None,
+        Throw,
+        ThrowNumber,
+        DropNode,
+        DropMaterial,
+        DropSettings,
+        DropPlate,
+        DropView,
+        DropCamera,
+        Undo,
+        ClearTexts,
+        Count
+    };
+
     Stage();
     Stage(const Stage&) = delete;
     Stage& operator=(const Stage&) = delete;
@@ -59,6 +53,16 @@ public:
 
     /// Does something that hosts do beside driving manipulators.
     void act(Bytes& bytes);
+
+    /// Has something happen. @param index  of the node, material, plate or camera
+    void commit(Fault what, std::size_t index);
+    /// The platform's receivers in the place of any other.
+    void renewReceivers();
+    /// A view, in the place of the one that was dropped.
+    void addView();
+    void addNode(std::size_t index);
+    void addMaterial(std::size_t index);
+    void addPlate(std::size_t index);
 
     /// @return the first invariant of the scene that does not hold; empty if all do
     std::string check() const;
@@ -73,6 +77,7 @@ public:
     osg::ImagePtr image(Bytes& bytes);
     /// Wild, an editor's, or null.
     nbStateChunkBase* gui(Bytes& bytes);
+
     /// What gizmos of pictures are given together.
     struct Edited
     {
@@ -125,24 +130,7 @@ private:
     static constexpr std::size_t kPlates = 3;
     static constexpr std::size_t kCameras = 2;
 
-    enum class Reaction : std::size_t
-    {
-        None,
-        Throw,
-        ThrowNumber,
-        DropNode,
-        DropMaterial,
-        DropSettings,
-        DropPlate,
-        DropView,
-        DropCamera,
-        Undo,
-        ClearTexts,
-        Count
-    };
-
     void listen(const std::string& name);
-    void react();
     void resize(Bytes& bytes);
     void editCamera(Bytes& bytes) const;
     void editNode(Bytes& bytes) const;
@@ -150,12 +138,9 @@ private:
     void editPlate(Bytes& bytes);
     void editUndo(Bytes& bytes) const;
     void deleteOrAdd(Bytes& bytes);
-    void addNode(std::size_t index);
     void dropNode(std::size_t index);
-    void addMaterial(std::size_t index);
-    void addPlate(std::size_t index);
+    void dropMaterial(std::size_t index);
     void dropPlate(std::size_t index);
-    void addView();
 
     std::array<osg::RefPtr<osg::NodePtr>, kNodes> nodes;
     std::array<osg::UberMaterialRefPtr, kMaterials> materials;
@@ -164,8 +149,8 @@ private:
     std::unique_ptr<nbOSGWidget> otherView;
     WildGui wildGui;
     osg::RefPtr<osg::ImagePtr> picture;  ///< made last
-    Reaction reaction = Reaction::None;
-    std::size_t reactionIndex = 0;
+    Fault nextFault = Fault::None;  ///< of a handler that does harm
+    std::size_t faultIndex = 0;
 };
 
 }  // namespace nbec::manipulator::test

@@ -15,15 +15,19 @@ using Triplanar = TriplanarTextureManipulator;
 using UV = UVTextureManipulator;
 using Tire = TireProjectionManipulator;
 
-constexpr std::array<void (Planar::*)(), 13> kPlanarCalls = {
-    &Planar::activateTranslateManipulator, &Planar::activateRotateManipulator,
-    &Planar::activateScaleManipulator,     &Planar::activateUniversalManipulator,
-    &Planar::showActiveManipulator,        &Planar::hideManipulator,
-    &Planar::showAllElements,              &Planar::hideAllElements,
-    &Planar::setDefaultMaterials,          &Planar::highlightMode,
-    &Planar::highlightControlElement,      &Planar::updateManipulator,
-    &Planar::updateManipulatorPlane
-};
+constexpr std::array<void (Planar::*)(), 13> kPlanarCalls = { &Planar::activateTranslateManipulator,
+                                                              &Planar::activateRotateManipulator,
+                                                              &Planar::activateScaleManipulator,
+                                                              &Planar::activateUniversalManipulator,
+                                                              &Planar::showActiveManipulator,
+                                                              &Planar::hideManipulator,
+                                                              &Planar::showAllElements,
+                                                              &Planar::hideAllElements,
+                                                              &Planar::setDefaultMaterials,
+                                                              &Planar::highlightMode,
+                                                              &Planar::highlightControlElement,
+                                                              &Planar::updateManipulator,
+                                                              &Planar::updateManipulatorPlane };
 constexpr std::array<void (Planar::*)(bool), 7> kPlanarSwitches = {
     &Planar::setKeepAspectRatio,
     &Planar::setUseTextureScale,
@@ -37,11 +41,11 @@ constexpr std::array<void (Triplanar::*)(), 3> kTriplanarCalls = {
     &Triplanar::activateUniversalManipulator, &Triplanar::activateRotateManipulator,
     &Triplanar::activateRotateScaleManipulator
 };
-constexpr std::array<void (UV::*)(), 5> kUVCalls = {
-    &UV::activateUniversalManipulator, &UV::activateTranslateManipulator,
-    &UV::activateScaleManipulator, &UV::activateRotateManipulator,
-    &UV::activateRotateScaleManipulator
-};
+constexpr std::array<void (UV::*)(), 5> kUVCalls = { &UV::activateUniversalManipulator,
+                                                     &UV::activateTranslateManipulator,
+                                                     &UV::activateScaleManipulator,
+                                                     &UV::activateRotateManipulator,
+                                                     &UV::activateRotateScaleManipulator };
 constexpr std::array<void (Tire::*)(), 3> kTireCalls = { &Tire::activateUniversalManipulator,
                                                          &Tire::activateTranslateManipulator,
                                                          &Tire::activateScaleManipulator };
