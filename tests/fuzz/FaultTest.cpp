@@ -164,15 +164,15 @@ protected:
         }
     }
 
-    /// Makes good whatever was lost, as a host would.
+    /// Makes good whatever was lost, as a host would, with a scene as at first.
     void restore()
     {
         if (stage.view == nullptr) {
             stage.addView();
         }
-        if (stage.firstNode() == osg::NullFC) {
-            stage.addNode(0);
-        }
+        // Where it was at first, in case a drag has carried it far away.
+        stage.commit(Fault::DropNode, 0);
+        stage.addNode(0);
         stage.addMaterial(Traits<Gizmo>::kMaterial);
         for (std::size_t i = 0; i < 3; ++i) {
             stage.addPlate(i);
@@ -276,6 +276,27 @@ TYPED_TEST(Drags, AViewThatVanishesWithItsCameraInADragLosesNothing)
         this->say("stop");
         EXPECT_EQ(this->stage.check(), "");
         this->expectUsable();
+    }
+}
+
+using MatchDrags = Drags<PerspectiveMatchManipulator>;
+
+TEST_F(MatchDrags, WhoHearsOfALineMayDestroyItsCamera)
+{
+    // The view's own camera, and one that nobody looks through.
+    for (const Fault fault : { Fault::DropView, Fault::DropCamera }) {
+        if (fault == Fault::DropCamera) {
+            gizmo.setCamera(stage.firstCamera());
+        }
+        ASSERT_TRUE(press(0));
+        ASSERT_TRUE(step());
+        stage.arm(fault);
+        step();
+        EXPECT_FALSE(stage.isArmed());
+        step();
+        say("stop");
+        EXPECT_EQ(stage.check(), "");
+        expectUsable();
     }
 }
 

@@ -3,6 +3,8 @@
 
 #include <nbKernel/nbController.h>
 #include <nbKernel/nbScenegraph.h>
+#include <nbKernelServices/nbKernelServiceFactory.h>
+#include <nbKernelServices/nbObjectService.h>
 #include <nbKernelServices/nbUndoService.h>
 #include <nbNotification/NotificationManager.h>
 #include <nbOpenSGExt/Transform3D.h>
@@ -55,6 +57,7 @@ Stage::Stage()
     for (const char* const name : kHarmed) {
         listen(name);
     }
+    listenToObjects();
     addView();
     otherRoot = osg::NodePtr(osg::makeCoredNode<osg::Group>());
     addChild(nbScenegraph::getInternalRoot(), otherRoot.get());
@@ -94,6 +97,23 @@ void Stage::listen(const std::string& name)
         message.set("projectionSize", osg::Vec2f(2.0F, 0.0F), true);
         commit(std::exchange(nextFault, Fault::None), faultIndex);
     });
+}
+
+/// Qt lets no slot throw.
+void Stage::listenToObjects()
+{
+    const auto* const service = nbKernelServiceFactory::the().find<nbObjectService>();
+    QObject::connect(service, &nbObjectService::propertyChanged, &listener, [this] {
+        if (nextFault != Fault::Throw && nextFault != Fault::ThrowNumber) {
+            commit(std::exchange(nextFault, Fault::None), faultIndex);
+        }
+    });
+}
+
+void Stage::arm(Fault what, std::size_t index)
+{
+    nextFault = what;
+    faultIndex = index;
 }
 
 void Stage::renewReceivers()

@@ -16,6 +16,8 @@
 #include <OpenSG/OSGImage.h>
 #include <OpenSG/OSGNode.h>
 
+#include <QtCore/QObject>
+
 #include <array>
 #include <cstddef>
 #include <memory>
@@ -56,6 +58,12 @@ public:
 
     /// Has something happen. @param index  of the node, material, plate or camera
     void commit(Fault what, std::size_t index);
+    /// Leaves it to the next handler, of the receiver "harm" or of the object service.
+    /// @param index  as above
+    void arm(Fault what, std::size_t index = 0);
+
+    bool isArmed() const { return nextFault != Fault::None; }
+
     /// The platform's receivers in the place of any other.
     void renewReceivers();
     /// A view, in the place of the one that was dropped.
@@ -90,6 +98,8 @@ public:
 
     // == What fits together, for beginning; null for what was deleted
     osg::NodePtr firstNode() const { return nodes[0].get(); }
+
+    osg::UberCameraPtr firstCamera() const { return cameras[0].get(); }
 
     /// @param index  0 with a planar projection, 1 triplanar, 2 of a tire; becomes the editor's
     Edited firstEdited(std::size_t index);
@@ -131,6 +141,7 @@ private:
     static constexpr std::size_t kCameras = 2;
 
     void listen(const std::string& name);
+    void listenToObjects();
     void resize(Bytes& bytes);
     void editCamera(Bytes& bytes) const;
     void editNode(Bytes& bytes) const;
@@ -147,6 +158,7 @@ private:
     std::array<osg::RefPtr<osg::NodePtr>, kPlates> plates;
     std::array<osg::UberCameraRefPtr, kCameras> cameras;
     std::unique_ptr<nbOSGWidget> otherView;
+    QObject listener;  ///< to the object service
     WildGui wildGui;
     osg::RefPtr<osg::ImagePtr> picture;  ///< made last
     Fault nextFault = Fault::None;  ///< of a handler that does harm
