@@ -11,6 +11,7 @@
 #include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbUndoService.h>
 #include <nbKernelServices/nbdPerspectiveMatch.h>
+#include <nbNotification/NotificationManager.h>
 #include <nbUtils/nbLog.h>
 
 #include <gtest/gtest.h>
@@ -103,7 +104,15 @@ protected:
         stage.manager.removeContext(&context);
         gizmo.setVisualisationRoot(osg::NodePtr());
         nbLog::setSink(formerSink);
+        nbUndoService::the()->clear();
         EXPECT_TRUE(nbScenegraph::isPreselectionEnabled());
+    }
+
+    static void TearDownTestSuite()
+    {
+        notification::NotificationManager::getInstance()->clear();
+        nbController::clear();
+        nbScenegraph::clear();
     }
 
     bool say(const char* event)

@@ -137,7 +137,6 @@ void preparePlays()
 std::string play(const PlayTarget& target, const std::uint8_t* data, std::size_t size)
 {
     nbController::clear();
-    nbScenegraph::clear();
     const nbLog::Sink formerSink = nbLog::setSink([](nbLog::Level, const std::string&) {});
     const osg::ContainerCensus before = osg::ContainerCensus::take();
     Bytes bytes(data, size);

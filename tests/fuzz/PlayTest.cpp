@@ -7,9 +7,16 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <ostream>
 #include <random>
 
 namespace nbec::manipulator::test {
+
+/// How tests name a target.
+void PrintTo(const PlayTarget& target, std::ostream* out)
+{
+    *out << target.name;
+}
 
 namespace {
 
