@@ -236,7 +236,7 @@ private:
     void rotate(const osg::Pnt3f& hit);
     void scale(const osg::Pnt3f& hit);
     void scaleEdge(osg::NodePtr node, const osg::Pnt3f& hit, int edge);
-    void finishStep(nbMessage& message, const osg::NodePtr& node);
+    void finishStep(nbMessage& message);
     void setDescription(const osg::NodePtr& node);
 
     static float m_ManipulatorSize;

@@ -273,7 +273,7 @@ void PlanarTextureManipulator::translate(const osg::Pnt3f& hit)
     }
     nbMessage message;
     state->setTranslationIn(message, shift);
-    finishStep(message, getNode());
+    finishStep(message);
 }
 
 void PlanarTextureManipulator::State::setTranslationIn(nbMessage& message,
@@ -310,7 +310,7 @@ void PlanarTextureManipulator::rotate(const osg::Pnt3f& hit)
     nbMessage message;
     // Deliberate: the receiver's rotation runs opposite to the gizmo's.
     message.set("rotate", -drag.lastAngle, true);
-    finishStep(message, getNode());
+    finishStep(message);
 }
 
 void PlanarTextureManipulator::scale(const osg::Pnt3f& hit)
@@ -347,10 +347,10 @@ void PlanarTextureManipulator::scale(const osg::Pnt3f& hit)
     }
     }
     message.set("scale", scales, true);
-    finishStep(message, getNode());
+    finishStep(message);
 }
 
-void PlanarTextureManipulator::scaleEdge(osg::NodePtr node, const osg::Pnt3f& hit, int edge)
+void PlanarTextureManipulator::scaleEdge(osg::NodePtr /*node*/, const osg::Pnt3f& hit, int edge)
 {
     const ProjectionDrag& drag = state->drag;
     const bool isZPlane = state->activeMode == ActiveMode::ScaleZPlane;
@@ -390,13 +390,13 @@ void PlanarTextureManipulator::scaleEdge(osg::NodePtr node, const osg::Pnt3f& hi
     if (isZPlane) {
         showZScaleValue(true);
     }
-    finishStep(message, node);
+    finishStep(message);
 }
 
-void PlanarTextureManipulator::finishStep(nbMessage& message, const osg::NodePtr& node)
+void PlanarTextureManipulator::finishStep(nbMessage& message)
 {
     detail::sendToReceiver(state->messageReceiver, kChangedSuffix, message);
-    setDescription(node);
+    setDescription(getNode());  // looked up again: the receiver may have destroyed it
     updateManipulator();
 }
 

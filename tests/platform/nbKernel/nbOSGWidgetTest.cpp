@@ -151,6 +151,9 @@ TEST(nbOSGWidget, IgnoresPositionsThatAreNoNumbers)
     widget.setMousePosition(osg::Pnt2f(kNan, 4.f));
     widget.setMousePosition(osg::Pnt2f(1.f, std::numeric_limits<float>::infinity()));
     EXPECT_EQ(widget.getMousePosition(), osg::Pnt2f(3.f, 4.f));
+    // Still a whole number of pixels for rays and rectangles.
+    widget.setMousePosition(osg::Pnt2f(-1e30f, 2e6f));
+    EXPECT_EQ(widget.getMousePosition(), osg::Pnt2f(-1e6f, 1e6f));
 
     widget.setPressPosition(osg::Pnt2f(kNan, 0.f));
     EXPECT_TRUE(widget.getMouseRect().isNull());

@@ -1,25 +1,25 @@
 // SPDX-License-Identifier: MIT
-// Entry of libFuzzer for the transform gizmo: ./nb fuzz SECONDS.
-#include "manipulator/UniversalTransformManipulator2.h"
-#include "tests/fuzz/GizmoPlay.h"
+// Entry of libFuzzer for one target, which the build names in NB_FUZZ_TARGET.
+#include "tests/fuzz/Play.h"
 
 #include <OpenSG/OSGBaseFunctions.h>
-#include <OpenSG/OSGSimpleGeometry.h>
 
 #include <cstdio>
 #include <cstdlib>
 
+namespace test = nbec::manipulator::test;
+
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
 {
     osg::osgInit(*argc, *argv);
-    const nbec::manipulator::UniversalTransformManipulator2 first;
-    osg::getDefaultMaterial();
+    test::preparePlays();
     return 0;
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    const std::string fault = nbec::manipulator::test::playGizmo(data, size);
+    static const test::PlayTarget* const kTarget = test::findPlayTarget(NB_FUZZ_TARGET);
+    const std::string fault = test::play(*kTarget, data, size);
     if (!fault.empty()) {
         std::fprintf(stderr, "%s\n", fault.c_str());
         std::abort();
