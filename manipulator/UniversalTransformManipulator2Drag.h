@@ -19,9 +19,9 @@ struct TransformStart
     osg::Vec3f pivotLocal;  ///< rotate or scale pivot, as the mode moves; frame of the parent
     osg::Vec3f pivotWorld;
     osg::Quaternion rotation;  ///< without the rotation orientation
-    detail::TurningAngles accumulated;  ///< rotation built up by the drag's steps
-    osg::Vec3f ringAxis;  ///< axis of the grabbed ring in the frame of the parent, unit length
-    double ringSign = 1.0;  ///< -1 under a mirrored parent, which turns the sense of rotation
+    osg::Vec3f ringAxis;  ///< axis of the grabbed ring in the frame of the parent, unit length;
+                          ///< reversed under a mirrored parent, which turns the sense of rotation
+    detail::TurningAngles accumulated;  ///< angles of the rotation about the ring's axis
 };
 
 /// One of the further nodes that are transformed together with the dragged one.
@@ -30,25 +30,6 @@ struct NodeTransformationInfo
     osg::UInt32 index = 0;  ///< place in the selection, from 1; the dragged node is 0
     osg::UInt32 nodeId = 0;  ///< container id of the node, resolved on each use
     TransformStart start;
-};
-
-/// One step of a rotation; worked out once for targets that follow each other with the same axis.
-class RotationStep
-{
-public:
-    explicit RotationStep(double angle)
-        : angleRad(angle)
-    { }
-
-    /// @param newSign  1, or -1 for the other way
-    const nbQuaterniond& about(const osg::Vec3f& newAxis, double newSign);
-
-private:
-    double angleRad;
-    bool isKnown = false;
-    osg::Vec3f axis;
-    double sign = 1.0;
-    nbQuaterniond turn;
 };
 
 /// State of one drag.
@@ -60,6 +41,7 @@ struct TransformDrag
     osg::Pnt3f startWorld;
     osg::Pnt3f startLocal;  ///< in the drag frame
     osg::Pnt3f lastRotationPoint;  ///< in the drag frame
+    double turnedRad = 0.0;  ///< about the grabbed ring since the start
     osg::Vec3f scaleAnchor;  ///< start in the scale frame
     osg::Vec3f frameScale;  ///< scale that is part of the drag frame; 1 where the node's is too
                             ///< small to divide by

@@ -56,20 +56,6 @@ osg::Vec3f snappedLength(const osg::Vec3f& delta, double step)
     return delta * (scale * static_cast<float>(detail::snapped(length, step)));
 }
 
-/// Quaternion of an angle about an axis, in double. @param axis  one not longer than 1e-6 gives the
-/// identity
-osg::Quaterniond turnAbout(const osg::Vec3f& axis, double angleRad)
-{
-    osg::Quaterniond turn;
-    const double length = axis.length();
-    if (length > kShortest) {
-        const double sine = std::sin(angleRad / 2) / length;
-        turn.setValueAsQuat(axis.x() * sine, axis.y() * sine, axis.z() * sine,
-                            std::cos(angleRad / 2));
-    }
-    return turn;
-}
-
 osg::Vec3f toDegrees(const nbEulerAngles& anglesRad)
 {
     return nbEulerUtils::toVec3f(nbEulerUtils::toDegrees(anglesRad));
@@ -257,24 +243,14 @@ void UniversalTransformManipulator2::rotate(const osg::NodePtr& node, const osg:
         }
     }
     drag->lastRotationPoint = rotationPoint;
-    RotationStep step(angle);
+    drag->turnedRad += angle;
+    const detail::TurnAngle turned(drag->turnedRad);
     model->setRotation(static_cast<osg::UInt32>(resolvedTargets.size()), [&](osg::UInt32 index) {
         TransformStart& start = startOf(index);
-        start.accumulated.turn(step.about(start.ringAxis, start.ringSign));
+        start.accumulated.turnTo(turned);
         return valueFor(index, toDegrees(start.accumulated.getAngles()));
     });
     finishStep(node, true);
-}
-
-const nbQuaterniond& RotationStep::about(const osg::Vec3f& newAxis, double newSign)
-{
-    if (!isKnown || newAxis != axis || newSign != sign) {
-        isKnown = true;
-        axis = newAxis;
-        sign = newSign;
-        turn = turnAbout(axis, angleRad * sign);
-    }
-    return turn;
 }
 
 osg::Vec3f UniversalTransformManipulator2::scaleFactors(const osg::Pnt3f& point) const
@@ -307,13 +283,15 @@ void UniversalTransformManipulator2::scale(const osg::NodePtr& node, const osg::
     nbTransformModel* const model = nbTransformModel::the();
     const osg::Vec3f factors = scaleFactors(point);
     const bool isUniform = activeHandle == ActiveMode::ScaleUniform;
+    const osg::UInt32 first = isUniform ? 0 : axisOf(activeHandle);
+    const osg::UInt32 end = isUniform ? 3 : first + 1;
     const double step = snappingActive() ? model->getScalePrecision() : 0.0;
     model->setScale(static_cast<osg::UInt32>(resolvedTargets.size()), [&](osg::UInt32 index) {
         osg::Vec3f value = startOf(index).scale;
-        for (osg::UInt32 i = 0; i < 3; ++i) {
-            if (isUniform || i == axisOf(activeHandle)) {
-                value[i] = static_cast<float>(
-                    detail::snapped(static_cast<double>(value[i] * factors[i]), step));
+        for (osg::UInt32 i = first; i < end; ++i) {
+            value[i] *= factors[i];
+            if (step != 0.0) {
+                value[i] = static_cast<float>(detail::snapped(value[i], step));
             }
         }
         return valueFor(index, value);
@@ -350,11 +328,10 @@ void UniversalTransformManipulator2::rotatePivot(const osg::NodePtr& node, const
     nbTransformModel::the()->setRotationPivotOrientation(
         static_cast<osg::UInt32>(resolvedTargets.size()), [&](osg::UInt32 index) {
             const TransformStart& start = startOf(index);
-            osg::Quaterniond turned = turnAbout(start.ringAxis, angle * start.ringSign);
-            turned.mult(start.accumulated.getRotation());
-            turned.normalize();
-            const int order = start.accumulated.getAngles().order;
-            return valueFor(index, toDegrees(nbEulerUtils::EulFromQuat(turned, order)));
+            const nbEulerAngles from = start.accumulated.getAngles();
+            const nbQuaterniond turned = nbRotationMath::product(
+                detail::turnAbout(start.ringAxis, angle), nbEulerUtils::QuatFromEul(from));
+            return valueFor(index, toDegrees(nbEulerUtils::EulFromQuat(turned, from.order)));
         });
     // Deliberate: the description stays as it is.
     finishStep(node, false);

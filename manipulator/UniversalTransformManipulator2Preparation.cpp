@@ -111,9 +111,6 @@ TransformStart UniversalTransformManipulator2::captureStart(const osg::NodePtr& 
     start.pivotWorld = isScalePivot ? nbTransformModel::getScalePivot(node, true)
                                     : nbTransformModel::getRotationPivot(node, true);
     start.rotation = transform->getRotationAsQuaternion();
-    const int order = nbEulerUtils::getOrderFromString(transform->getEulerRotationOrder());
-    start.accumulated =
-        detail::TurningAngles(nbEulerUtils::fromDegrees(transform->getRotation(), order));
     if (isRing(activeHandle)) {
         // The axis that the parent's frame maps onto the drawn one; a mirrored parent turns the
         // other way.
@@ -121,7 +118,12 @@ TransformStart UniversalTransformManipulator2::captureStart(const osg::NodePtr& 
         start.ringAxis = column(gizmoFrame(), axisOf(activeHandle));
         inverted(worldFromParent).multMatrixVec(start.ringAxis);
         start.ringAxis.normalize();
-        start.ringSign = worldFromParent.det3() < 0.0F ? -1.0 : 1.0;
+        if (worldFromParent.det3() < 0.0F) {
+            start.ringAxis = -start.ringAxis;
+        }
+        const int order = nbEulerUtils::getOrderFromString(transform->getEulerRotationOrder());
+        start.accumulated = detail::TurningAngles(
+            nbEulerUtils::fromDegrees(transform->getRotation(), order), start.ringAxis);
     }
     return start;
 }

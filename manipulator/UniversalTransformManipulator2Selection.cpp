@@ -16,6 +16,7 @@
 
 #include <QtCore/QString>
 
+#include <array>
 #include <unordered_set>
 
 namespace nbec::manipulator {
@@ -30,18 +31,33 @@ using NodeIds = std::unordered_set<osg::UInt32>;
 constexpr float kMarkReach = 0.15F;
 constexpr osg::UInt32 kPointsPerMark = 6;
 
-/// Three lines along the axes. @param points  six  @param reach  half their length; 0 shows nothing
-void drawCross(osg::Pnt3f* points, const osg::Pnt3f& center, float reach)
+/// The points of a mark as seen from its pivot: three lines along the axes.
+/// @param reach  half their length; 0 shows nothing
+using MarkShape = std::array<osg::Vec3f, kPointsPerMark>;
+
+MarkShape markShape(float reach)
 {
-    const float x = center.x();
-    const float y = center.y();
-    const float z = center.z();
-    points++->setValues(x - reach, y, z);
-    points++->setValues(x + reach, y, z);
-    points++->setValues(x, y - reach, z);
-    points++->setValues(x, y + reach, z);
-    points++->setValues(x, y, z - reach);
-    points++->setValues(x, y, z + reach);
+    MarkShape shape;
+    for (osg::UInt32 axis = 0; axis < 3; ++axis) {
+        shape[2 * axis][axis] = -reach;
+        shape[2 * axis + 1][axis] = reach;
+    }
+    return shape;
+}
+
+bool isDrawnAt(const osg::Pnt3f* points, const MarkShape& shape, const osg::Pnt3f& pivot)
+{
+    const osg::Pnt3f& low = points[0];
+    const osg::Pnt3f& high = points[1];
+    return low.x() == pivot.x() + shape[0].x() && high.x() == pivot.x() + shape[1].x() &&
+        low.y() == pivot.y() && low.z() == pivot.z();
+}
+
+void drawAt(osg::Pnt3f* points, const MarkShape& shape, const osg::Pnt3f& pivot)
+{
+    for (std::size_t i = 0; i < shape.size(); ++i) {
+        points[i] = pivot + shape[i];
+    }
 }
 
 bool hasSelectedAncestor(const osg::NodePtr& node, const NodeIds& selected)
@@ -174,29 +190,43 @@ void UniversalTransformManipulator2::createMarks()
     multiselection->addChild(marks.get());
 }
 
+/// Turning and scaling leave the pivots, where the marks are, in place; there is nothing to edit
+/// then.
 void UniversalTransformManipulator2::updateMarks(float size)
 {
     const osg::GeometryPtr crosses = osg::GeometryPtr::dcast(marks->getCore());
     const auto positions = osg::GeoPositions3fPtr::dcast(crosses->getPositions());
-    const detail::EditBracket edit(positions, osg::GeoPositions3f::GeoPropDataFieldMask);
     auto& points = positions->getField();
+    const MarkShape shape = markShape(size * kMarkReach);
+    const MarkShape nothing = markShape(0.0F);
+    const std::size_t count = transformationInfos.size();
+    const bool areResolved = resolvedTargets.size() == count + 1;
     const bool atScalePivot = mode == ManipulatorMode::Scale || mode == ManipulatorMode::ScalePivot;
     detail::ParentMatrix parents;
-    const bool areResolved = resolvedTargets.size() == transformationInfos.size() + 1;
-    for (std::size_t i = 0; i < transformationInfos.size(); ++i) {
+    const auto handPlace = [&](std::size_t i, auto&& use) {
         const osg::NodePtr node = areResolved
             ? resolvedTargets[i + 1]
             : detail::resolveContainer<osg::NodePtr>(transformationInfos[i].nodeId);
-        osg::Pnt3f center;
-        float reach = 0.0F;
-        if (node != osg::NullFC) {
-            const auto transform = osg::Transform3DPtr::dcast(node->getCore());
-            center = transform == osg::NullFC
-                ? anchorWorld(node)
-                : parents.toWorld(node, detail::pivotInParent(transform, atScalePivot));
-            reach = size * kMarkReach;
+        osg::Pnt3f* const place = &points[i * kPointsPerMark];
+        if (node == osg::NullFC) {
+            return use(place, nothing, osg::Pnt3f());
         }
-        drawCross(&points[i * kPointsPerMark], center, reach);
+        const auto transform = osg::Transform3DPtr::dcast(node->getCore());
+        return transform == osg::NullFC
+            ? use(place, shape, anchorWorld(node))
+            : use(place, shape,
+                  parents.toWorld(node, detail::pivotInParent(transform, atScalePivot)));
+    };
+    std::size_t next = 0;
+    while (next < count && handPlace(next, isDrawnAt)) {
+        ++next;
+    }
+    if (next == count) {
+        return;
+    }
+    const detail::EditBracket edit(positions, osg::GeoPositions3f::GeoPropDataFieldMask);
+    for (; next < count; ++next) {
+        handPlace(next, drawAt);
     }
 }
 

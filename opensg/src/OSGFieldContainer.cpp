@@ -48,8 +48,6 @@ FieldContainer::FieldContainer(const FieldContainer&)
 
 FieldContainer::~FieldContainer() = default;
 
-void FieldContainer::changed(BitVector, UInt32) { }
-
 void FieldContainer::ownerAdded(FieldContainer&) { }
 
 void FieldContainer::ownerRemoved(FieldContainer&) { }
@@ -124,13 +122,6 @@ void clearRefCP(FieldContainerPtr& container)
 
 // == Edits
 
-void beginEditCP(const FieldContainerPtr&, BitVector, UInt32) { }
-
-void endEditCP(const FieldContainerPtr& container, BitVector whichField, UInt32 origin)
-{
-    changedCP(container, whichField, origin);
-}
-
 void changedCP(const FieldContainerPtr& container, BitVector whichField, UInt32 origin)
 {
     if (container == NullFC) {
@@ -141,8 +132,6 @@ void changedCP(const FieldContainerPtr& container, BitVector whichField, UInt32 
     container->noteEdit();
     container->changed(whichField, origin);
 }
-
-void endEditNotChangedCP(const FieldContainerPtr&, BitVector, UInt32) { }
 
 UInt32 getChangeCount(const FieldContainerPtr& container)
 {

@@ -13,6 +13,8 @@ namespace osg {
 
 OSG_CONTAINER_TYPE(Node, AttachmentContainer);
 
+UInt64 Node::presentStamp = 1;
+
 /// A transform node's place in the world and what it was worked out from.
 struct Node::WorldCache
 {
@@ -138,6 +140,7 @@ void Node::attach(UInt32 index, const NodePtr& child)
     beginEditCP(child, ParentFieldMask);
     child->sfParent.setValue(NodePtr(this));
     endEditCP(child, ParentFieldMask);
+    noteSubtreeChange();  // the child may have had the present stamp before
     invalidateVolume();
 }
 
@@ -303,16 +306,6 @@ void Node::getWorldVolume(DynamicVolume& result)
     }
 }
 
-void Node::invalidateVolume()
-{
-    volume.setValid(false);
-    // Above an invalid volume all are invalid, or do not depend on it because a node is inactive.
-    for (Node* node = getParent().getCPtr(); node != nullptr && node->volume.isValid();
-         node = node->getParent().getCPtr()) {
-        node->volume.setValid(false);
-    }
-}
-
 // == Changes
 
 void Node::changed(BitVector whichField, UInt32 origin)
@@ -326,13 +319,6 @@ void Node::changed(BitVector whichField, UInt32 origin)
 void Node::noteEdit()
 {
     noteSubtreeChange();
-}
-
-void Node::noteSubtreeChange()
-{
-    for (Node* node = this; node != nullptr; node = node->getParent().getCPtr()) {
-        ++node->subtreeChangeCount;
-    }
 }
 
 // == Copies
@@ -366,6 +352,7 @@ NodePtr Node::copyTree(ContainerCloner* cloner) const
             addRefCP(copy);
             copy->sfParent.setValue(NodePtr(target));
             target->mfChildren.push_back(copy);
+            target->noteSubtreeChange();
             open.emplace_back(child.getCPtr(), copy.getCPtr());
         }
     }
