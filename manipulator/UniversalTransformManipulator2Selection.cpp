@@ -3,20 +3,16 @@
 #include "manipulator/UniversalTransformManipulator2Drag.h"
 #include "manipulator/UniversalTransformManipulator2Handles.h"
 #include "manipulator/detail/ContainerReference.h"
-#include "manipulator/detail/EditBracket.h"
-#include "manipulator/detail/HandleNodes.h"
 #include "manipulator/detail/MessageSending.h"
-#include "manipulator/detail/NodeVisibility.h"
+#include "manipulator/detail/PivotMarks.h"
 #include "manipulator/detail/TargetFrame.h"
 #include "manipulator/detail/ValueText.h"
 
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
-#include <OpenSG/OSGGeometry.h>
-
 #include <QtCore/QString>
 
-#include <array>
+#include <algorithm>
 #include <unordered_set>
 
 namespace nbec::manipulator {
@@ -29,36 +25,6 @@ using NodeIds = std::unordered_set<osg::UInt32>;
 
 /// Half the length of a mark's lines, in gizmo units.
 constexpr float kMarkReach = 0.15F;
-constexpr osg::UInt32 kPointsPerMark = 6;
-
-/// The points of a mark as seen from its pivot: three lines along the axes.
-/// @param reach  half their length; 0 shows nothing
-using MarkShape = std::array<osg::Vec3f, kPointsPerMark>;
-
-MarkShape markShape(float reach)
-{
-    MarkShape shape;
-    for (osg::UInt32 axis = 0; axis < 3; ++axis) {
-        shape[2 * axis][axis] = -reach;
-        shape[2 * axis + 1][axis] = reach;
-    }
-    return shape;
-}
-
-bool isDrawnAt(const osg::Pnt3f* points, const MarkShape& shape, const osg::Pnt3f& pivot)
-{
-    const osg::Pnt3f& low = points[0];
-    const osg::Pnt3f& high = points[1];
-    return low.x() == pivot.x() + shape[0].x() && high.x() == pivot.x() + shape[1].x() &&
-        low.y() == pivot.y() && low.z() == pivot.z();
-}
-
-void drawAt(osg::Pnt3f* points, const MarkShape& shape, const osg::Pnt3f& pivot)
-{
-    for (std::size_t i = 0; i < shape.size(); ++i) {
-        points[i] = pivot + shape[i];
-    }
-}
 
 bool hasSelectedAncestor(const osg::NodePtr& node, const NodeIds& selected)
 {
@@ -111,10 +77,9 @@ void UniversalTransformManipulator2::setNode(const osg::NodePtr& node)
 {
     NodeManipulator::setNode(node);
     transformationInfos.clear();
+    isPlaced = false;
     prepared = false;  // a drag goes on from here with the new nodes
-    if (marks != osg::NullFC) {
-        detail::showNode(marks.get(), false);
-    }
+    marks->hide();
     if (isActive()) {
         showActiveManipulator();
     }
@@ -144,7 +109,8 @@ void UniversalTransformManipulator2::setNode(const osg::NodePtr& node,
         transformationInfos.push_back(info);
     }
     if (!transformationInfos.empty()) {
-        createMarks();
+        marks->make(multiselection.get(), transformationInfos.size(),
+                    handles->getLineMaterial(HandleColor::Yellow));
         updateManipulator();
     }
 }
@@ -165,69 +131,46 @@ bool UniversalTransformManipulator2::centerPivot()
 
 // == Marks of the further nodes
 
-void UniversalTransformManipulator2::createMarks()
+void UniversalTransformManipulator2::placeMarks()
 {
-    const osg::GeoPTypesPtr types = osg::GeoPTypesUI8::create();
-    const osg::GeoPLengthsPtr lengths = osg::GeoPLengthsUI32::create();
-    const osg::GeoPositionsPtr positions = osg::GeoPositions3f::create();
-    const auto count = static_cast<osg::UInt32>(transformationInfos.size()) * kPointsPerMark;
-    types->push_back(GL_LINES);
-    lengths->push_back(count);
-    positions->resize(count);
-    const osg::GeometryPtr crosses = osg::Geometry::create();
-    {
-        const detail::EditBracket edit(crosses, osg::FieldBits::AllFields);
-        crosses->setTypes(types);
-        crosses->setLengths(lengths);
-        crosses->setPositions(positions);
-        crosses->setMaterial(handles->getLineMaterial(HandleColor::Yellow));
-    }
-    const detail::EditBracket edit(multiselection.get(), osg::Node::ChildrenFieldMask);
-    if (marks != osg::NullFC) {
-        multiselection->subChild(marks.get());
-    }
-    marks = detail::makeNode(crosses);
-    multiselection->addChild(marks.get());
-}
-
-/// Turning and scaling leave the pivots, where the marks are, in place; there is nothing to edit
-/// then.
-void UniversalTransformManipulator2::updateMarks(float size)
-{
-    const osg::GeometryPtr crosses = osg::GeometryPtr::dcast(marks->getCore());
-    const auto positions = osg::GeoPositions3fPtr::dcast(crosses->getPositions());
-    auto& points = positions->getField();
-    const MarkShape shape = markShape(size * kMarkReach);
-    const MarkShape nothing = markShape(0.0F);
-    const std::size_t count = transformationInfos.size();
-    const bool areResolved = resolvedTargets.size() == count + 1;
     const bool atScalePivot = mode == ManipulatorMode::Scale || mode == ManipulatorMode::ScalePivot;
+    const bool areResolved = resolvedTargets.size() == marks->size() + 1;
     detail::ParentMatrix parents;
-    const auto handPlace = [&](std::size_t i, auto&& use) {
+    marks->startPlacing();
+    for (std::size_t i = 0; i < marks->size(); ++i) {
         const osg::NodePtr node = areResolved
             ? resolvedTargets[i + 1]
             : detail::resolveContainer<osg::NodePtr>(transformationInfos[i].nodeId);
-        osg::Pnt3f* const place = &points[i * kPointsPerMark];
         if (node == osg::NullFC) {
-            return use(place, nothing, osg::Pnt3f());
+            marks->hide(i);
+            continue;
         }
         const auto transform = osg::Transform3DPtr::dcast(node->getCore());
-        return transform == osg::NullFC
-            ? use(place, shape, anchorWorld(node))
-            : use(place, shape,
-                  parents.toWorld(node, detail::pivotInParent(transform, atScalePivot)));
-    };
-    std::size_t next = 0;
-    while (next < count && handPlace(next, isDrawnAt)) {
-        ++next;
+        marks->place(i,
+                     transform == osg::NullFC
+                         ? anchorWorld(node)
+                         : parents.toWorld(node, detail::pivotInParent(transform, atScalePivot)));
     }
-    if (next == count) {
-        return;
+}
+
+void UniversalTransformManipulator2::updateMarks(float size, bool arePlaced)
+{
+    if (!arePlaced) {
+        placeMarks();
     }
-    const detail::EditBracket edit(positions, osg::GeoPositions3f::GeoPropDataFieldMask);
-    for (; next < count; ++next) {
-        handPlace(next, drawAt);
+    marks->draw(size * kMarkReach);
+}
+
+bool areApart(const std::vector<osg::NodePtr>& targets)
+{
+    NodeIds ids;
+    for (const osg::NodePtr& node : targets) {
+        ids.insert(detail::containerId(node));
     }
+    return std::all_of(targets.begin(), targets.end(), [&ids](const osg::NodePtr& node) {
+        return node != osg::NullFC && node->getCore() != osg::NullFC &&
+            node->getCore()->getParents().size() == 1 && !hasSelectedAncestor(node, ids);
+    });
 }
 
 // == On-screen text

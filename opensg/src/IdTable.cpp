@@ -7,13 +7,6 @@
 
 namespace osg {
 
-namespace {
-
-/// 16 KiB: room for some gizmos, so that making and destroying one does not rebuild the table.
-constexpr std::size_t kFewestSlots = 1024;
-
-}  // namespace
-
 std::size_t IdTable::size() const
 {
     return std::accumulate(counts.begin(), counts.end(), std::size_t(0));
@@ -49,7 +42,7 @@ void IdTable::insert(UInt32 id, FieldContainer* container)
     assert(id != 0 && container != nullptr);
     std::size_t& count = counts[id % kLanes];
     if (4 * (count + 1) > 3 * (slots.size() / kLanes)) {
-        rehash(slots.empty() ? kFewestSlots : 2 * slots.size());
+        rehash(2 * slots.size());
     }
     place(id, container);
     ++count;

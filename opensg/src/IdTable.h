@@ -21,6 +21,8 @@ class FieldContainer;
 class IdTable
 {
 public:
+    IdTable() { rehash(kFewestSlots); }
+
     /// @param id  not 0, not in the table
     void insert(UInt32 id, FieldContainer* container);
 
@@ -30,9 +32,7 @@ public:
     /// Null if it is not there.
     FieldContainer* find(UInt32 id) const
     {
-        if (slots.empty() || id == 0) {
-            return nullptr;
-        }
+        // No container has the id 0, and no slot with one.
         std::size_t at = home(id);
         while (slots[at].container != nullptr && slots[at].id != id) {
             at = next(at);
@@ -62,6 +62,8 @@ private:
     };
 
     static constexpr UInt32 kLanes = 8;
+    /// 16 KiB: room for some gizmos, so that making and destroying one does not rebuild the table.
+    static constexpr std::size_t kFewestSlots = 1024;
     /// 2^32 divided by the golden ratio: spreads numbers that follow each other evenly.
     static constexpr UInt32 kSpread = 2654435769u;
 

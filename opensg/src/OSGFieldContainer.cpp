@@ -12,6 +12,7 @@ namespace osg {
 namespace detail {
 
 UInt64 editCount = 0;
+UInt64 sceneEditCount = 0;
 
 }  // namespace detail
 

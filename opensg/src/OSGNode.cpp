@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <OpenSG/OSGAttachment.h>
+#include <OpenSG/OSGChangeCount.h>
 #include <OpenSG/OSGLog.h>
 #include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGNodeCore.h>
@@ -57,6 +58,7 @@ Node::Node(const Node& source)
 
 Node::~Node()
 {
+    ++detail::sceneEditCount;
     for (const NodePtr& child : mfChildren) {
         child->sfParent.setValue(NullFC);
         subRefCP(static_cast<const FieldContainerPtr&>(child));
@@ -91,6 +93,7 @@ void Node::setCore(const NodeCorePtr& core)
         endEditCP(old, NodeCore::ParentsFieldMask);
         subRefCP(static_cast<const FieldContainerPtr&>(old));
     }
+    ++detail::sceneEditCount;
     noteSubtreeChange();
     invalidateVolume();
 }
@@ -152,6 +155,7 @@ void Node::removeAt(UInt32 index)
     child->sfParent.setValue(NullFC);
     endEditCP(child, ParentFieldMask);
     subRefCP(static_cast<const FieldContainerPtr&>(child));
+    ++detail::sceneEditCount;
     noteSubtreeChange();
     invalidateVolume();
 }
@@ -318,6 +322,9 @@ void Node::changed(BitVector whichField, UInt32 origin)
 
 void Node::noteEdit()
 {
+    if (getParent() != NullFC || getNChildren() > 0) {
+        ++detail::sceneEditCount;
+    }
     noteSubtreeChange();
 }
 
