@@ -215,7 +215,7 @@ void UniversalTransformManipulator2::translate(const osg::NodePtr& node, const o
     const bool worldSpace = !m_LocalSpaceManipulator;
     const TransformStart* const starts = drag->starts.data();
     const auto count = static_cast<osg::UInt32>(resolvedTargets.size());
-    const auto inWorld = [&](osg::UInt32 index) {
+    const auto inWorld = [this, starts, delta](osg::UInt32 index) {
         return valueFor(index, starts[index].translationWorld + delta);
     };
     const auto inParent = [&](osg::UInt32 index) {
