@@ -77,7 +77,7 @@ protected:
             sum += points->getValue(6 * index + i).subZero();
         }
         length = (points->getValue(6 * index + 1) - points->getValue(6 * index)).length();
-        return Pnt3f(sum / 6.0F);
+        return Pnt3f(sum * (1.0F / 6.0F));
     }
 
     void expectMarksAtPivots(bool scalePivot)

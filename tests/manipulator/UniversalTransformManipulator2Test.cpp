@@ -123,7 +123,6 @@ TEST_F(UniversalTransformManipulator2Test, KeepsItsSizeOnScreen)
 TEST_F(UniversalTransformManipulator2Test, IsPlacedWithAllOthersWhateverHappenedBetween)
 {
     const osg::NodePtr tree = root()->getChild(3)->getChild(0);
-    const auto core = osg::Transform3DPtr::dcast(tree->getCore());
     const osg::NodePtr elsewhere = osg::makeCoredNode<osg::Transform3D>();
     nbScenegraph::getRootNode()->addChild(elsewhere);
     const osg::NodeRefPtr alone(osg::makeCoredNode<osg::Transform3D>());
