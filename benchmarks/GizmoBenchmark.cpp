@@ -1,102 +1,81 @@
 // SPDX-License-Identifier: MIT
-// The transform gizmo: making and destroying it, its memory, hovering on and off its handles, an
-// update while nothing has changed. Hovering is the whole path of an event: pointer position,
-// context, manipulator, picker.
-#include "benchmarks/GizmoStage.h"
+// The transform gizmo and the mark of the camera's pivot: making them, their memory, hovering on
+// and off their handles, updates.
+#include "benchmarks/GizmoMeasures.h"
+#include "manipulator/CameraManipulator.h"
 #include "manipulator/UniversalTransformManipulator2.h"
-
-#include <nbKernel/nbScenegraph.h>
-#include <nbOpenSGUberCamera/UberCamera.h>
 
 #include <OpenSG/OSGSimpleGeometry.h>
 
-#include <benchmark/benchmark.h>
-
-#include <array>
-#include <cstddef>
-#include <memory>
-
-#include <malloc.h>
-
 namespace {
 
+using nbec::manipulator::CameraManipulator;
 using nbec::manipulator::UniversalTransformManipulator2;
 namespace bench = nbec::manipulator::bench;
-using bench::createAndDestroy;
 
-/// A box with the universal gizmo over it, seen from (5, 6, 7).
-struct Stage : bench::GizmoStage<UniversalTransformManipulator2>
+/// A box and a gizmo, seen from (5, 6, 7).
+template <class Gizmo>
+struct BoxStage : bench::GizmoStage<Gizmo>
 {
-    Stage()
+    BoxStage()
     {
-        look(osg::Pnt3f(5, 6, 7));
-        const osg::NodePtr box = osg::makeBox(1, 1, 1, 1, 1, 1);
+        this->look(osg::Pnt3f(5, 6, 7));
+        box = osg::makeBox(1, 1, 1, 1, 1, 1);
         nbScenegraph::getRootNode()->addChild(box);
-        gizmo.setNode(box);
+        this->gizmo.setNode(box);
+        this->begin();
+    }
+
+    osg::NodePtr box;
+};
+
+struct TransformStage : BoxStage<UniversalTransformManipulator2>
+{
+    TransformStage()
+    {
         gizmo.activateUniversalManipulator();
-        begin();
+        // The y arrow beyond the scale box.
+        hoverFromPx = pixelOfWorld(osg::Pnt3f(0, 1.17F, 0));
+        hoverToPx = pixelOfWorld(osg::Pnt3f(0, 1.35F, 0));
     }
 };
 
-void memoryOfOne(benchmark::State& state)
+struct CameraStage : BoxStage<CameraManipulator>
 {
-    constexpr std::size_t kCount = 64;
-    std::size_t bytes = 0;
+    CameraStage()
     {
-        const UniversalTransformManipulator2 first;
+        hoverFromPx = pixelOfWorld(osg::Pnt3f(0, 0, 0));
+        hoverToPx = pixelOfWorld(osg::Pnt3f(0, 0.1F, 0));
+        isHandleHit = false;  // the cross is looked at and never taken hold of
     }
-    for (auto _ : state) {
-        const std::size_t before = mallinfo2().uordblks;
-        const auto gizmos = std::make_unique<std::array<UniversalTransformManipulator2, kCount>>();
-        bytes = mallinfo2().uordblks - before;
-        benchmark::DoNotOptimize(gizmos.get());
-    }
-    state.counters["bytes_each"] = static_cast<double>(bytes / kCount);
-}
-
-/// Along the y arrow beyond the scale box, so that every step is a hit at another place of one
-/// handle.
-void hoverOnHandle(benchmark::State& state)
-{
-    Stage stage;
-    bench::hoverAlong(state, stage, stage.pixelOfWorld(osg::Pnt3f(0, 1.17F, 0)),
-                      stage.pixelOfWorld(osg::Pnt3f(0, 1.35F, 0)));
-}
-
-void hoverOffHandles(benchmark::State& state)
-{
-    Stage stage;
-    bench::hoverBeside(state, stage);
-}
+};
 
 /// Between the handles: inside the gizmo's bounds on screen, but on none of them.
 void hoverBetweenHandles(benchmark::State& state)
 {
-    Stage stage;
-    const osg::Pnt2f between = stage.pixelOfWorld(osg::Pnt3f(0.62F, 0.62F, 0.62F));
-    int hits = 0;
-    for (auto _ : state) {
-        hits += stage.hover(between) ? 1 : 0;
-    }
-    state.counters["hits"] = hits;
+    TransformStage stage;
+    const osg::Pnt2f between = stage.pixelOfWorld(osg::Pnt3f(0.5F, 0, 0.5F));
+    bench::hoverAlong(state, stage, bench::Way(between, between), false);
 }
 
-void updateUnchanged(benchmark::State& state)
+/// Placed again after a move of the camera.
+void updateAfterACameraMove(benchmark::State& state)
 {
-    Stage stage;
-    stage.gizmo.update(true);
+    CameraStage stage;
     for (auto _ : state) {
+        stage.view.getUberCamera()->setFromAtUp(osg::Pnt3f(5.F + stage.nextWay() * 0.01F, 6, 7),
+                                                osg::Pnt3f(0, 0, 0), osg::Vec3f(0, 1, 0));
         stage.gizmo.update(false);
     }
 }
 
+const bool isAdded = [] {
+    bench::addMeasures<TransformStage>("gizmo");
+    bench::addMeasures<CameraStage>("camera");
+    return true;
+}();
+
 }  // namespace
 
-BENCHMARK_TEMPLATE(createAndDestroy, UniversalTransformManipulator2)
-    ->Name("gizmo/create and destroy")
-    ->Unit(benchmark::kMicrosecond);
-BENCHMARK(memoryOfOne)->Name("gizmo/memory")->Iterations(1);
-BENCHMARK(hoverOnHandle)->Name("gizmo/hover on a handle");
-BENCHMARK(hoverOffHandles)->Name("gizmo/hover off the handles");
 BENCHMARK(hoverBetweenHandles)->Name("gizmo/hover between the handles");
-BENCHMARK(updateUnchanged)->Name("gizmo/update, nothing changed");
+BENCHMARK(updateAfterACameraMove)->Name("camera/update after a camera move");

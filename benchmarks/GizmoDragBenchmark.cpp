@@ -3,7 +3,7 @@
 // transform set within an open undo group, messages sent, gizmo placed. Beside the step for many
 // nodes stands a plain loop that makes the same edits. Gizmos are placed anew after the camera has
 // moved.
-#include "benchmarks/GizmoStage.h"
+#include "benchmarks/GizmoMeasures.h"
 #include "manipulator/UniversalTransformManipulator2.h"
 
 #include <nbKernel/nbScenegraph.h>

@@ -1,31 +1,35 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "manipulator/Manipulator.h"
 #include "manipulator/ManipulatorInteractionContext.h"
 
 #include <nbInteraction/InteractionManager.h>
 #include <nbInteraction/Picker.h>
+#include <nbInteraction/ToolInteractionContext.h>
 #include <nbKernel/nbOSGWidget.h>
 #include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbUndoService.h>
 #include <nbOpenSGUberCamera/UberCamera.h>
 
-#include <benchmark/benchmark.h>
-
-#include <cstdint>
+#include <type_traits>
 
 namespace nbec::manipulator::bench {
 
 constexpr int kWidthPx = 1280;
 constexpr int kHeightPx = 800;
 
-/// A manipulator in a view of 1280 x 800 pixels, driven by events that take the whole path: pointer
-/// position, context, manipulator. Nothing is drawn.
-/// @tparam Gizmo  the manipulator
+/// A manipulator or tool in a view of 1280 x 800 pixels, driven by events that take the whole path:
+/// pointer position, context, manipulator. Nothing is drawn.
+/// @tparam Gizmo  the manipulator or tool
 template <class Gizmo>
 class GizmoStage
 {
+    static constexpr bool kIsManipulator = std::is_base_of_v<Manipulator, Gizmo>;
+
 public:
+    using GizmoType = Gizmo;
+
     GizmoStage() { view.resize(kWidthPx, kHeightPx); }
 
     GizmoStage(const GizmoStage&) = delete;
@@ -54,19 +58,23 @@ public:
 
     bool hover(const osg::Pnt2f& positionPx) { return trigger(hoverEvent, positionPx); }
 
+    bool press(const osg::Pnt2f& positionPx) { return trigger(startEvent, positionPx); }
+
+    bool drag(const osg::Pnt2f& positionPx) { return trigger(processEvent, positionPx); }
+
     /// Takes hold of the handle at a pixel, within an open undo group.
     bool grabAt(const osg::Pnt2f& positionPx)
     {
         pressed = positionPx;
         nbUndoService::the()->beginGroup();
-        return hover(pressed) && trigger(startEvent, pressed) && trigger(processEvent, pressed);
+        return hover(pressed) && press(pressed) && drag(pressed);
     }
 
     /// The next step of a pointer that wanders to and fro; no step repeats the one before.
     bool step()
     {
         const float offset = nextWay();
-        return trigger(processEvent, pressed + osg::Vec2f(offset, -offset));
+        return drag(pressed + osg::Vec2f(offset, -offset));
     }
 
     /// Numbers from 1 up to the way's length and back, pixels.
@@ -76,9 +84,14 @@ public:
         return static_cast<float>(way <= wayPx ? way : 2 * wayPx - way);
     }
 
+    nbec::interaction::Picker& picker() { return contextPicker; }
+
     nbOSGWidget view;
     Gizmo gizmo;
     int wayPx = 64;
+    osg::Pnt2f hoverFromPx;  ///< a handle lies under all of the line from here
+    osg::Pnt2f hoverToPx;  ///< to here
+    bool isHandleHit = true;  ///< whether the gizmo says so
 
 protected:
     void look(const osg::Pnt3f& from)
@@ -89,9 +102,13 @@ protected:
     /// Hangs the gizmo into the scene and gives it the events.
     void begin()
     {
-        gizmo.setVisualisationRoot(nbScenegraph::getInternalRoot());
-        context.setPicker(&picker);
-        context.setManipulator(&gizmo);
+        context.setPicker(&contextPicker);
+        if constexpr (kIsManipulator) {
+            gizmo.setVisualisationRoot(nbScenegraph::getInternalRoot());
+            context.setManipulator(&gizmo);
+        } else {
+            context.setTool(&gizmo);
+        }
         manager.addContext(&context);
     }
 
@@ -120,8 +137,10 @@ private:
         return context.triggerEvent(&manager, event);
     }
 
-    nbec::interaction::Picker picker;
-    ManipulatorInteractionContext context;
+    nbec::interaction::Picker contextPicker;
+    std::conditional_t<kIsManipulator, ManipulatorInteractionContext,
+                       nbec::interaction::ToolInteractionContext>
+        context;
     nbec::interaction::InteractionManager manager;
     osg::Pnt2f pressed;
     int way = 0;
@@ -131,61 +150,5 @@ private:
     const Event processEvent { "process", "tool", "select" };
     const Event stopEvent { "stop", "tool", "select" };
 };
-
-// == What is measured of every gizmo
-
-template <class Gizmo>
-void createAndDestroy(benchmark::State& state)
-{
-    {
-        const Gizmo first;
-    }  // makes the geometry that all share
-    for (auto _ : state) {
-        Gizmo gizmo;
-        benchmark::DoNotOptimize(&gizmo);
-    }
-}
-
-/// Wanders along a line on screen; fails if not every step is answered alike.
-/// @param isHandle  whether a handle lies under all of it
-template <class Stage>
-void hoverAlong(benchmark::State& state, Stage& stage, const osg::Pnt2f& from, const osg::Pnt2f& to,
-                bool isHandle = true)
-{
-    constexpr int kSteps = 64;
-    int number = 0;
-    std::int64_t hits = 0;
-    for (auto _ : state) {
-        const float t = static_cast<float>(number) / kSteps;
-        hits += stage.hover(from + (to - from) * t) ? 1 : 0;
-        number = (number + 1) % kSteps;
-    }
-    if (hits != (isHandle ? static_cast<std::int64_t>(state.iterations()) : 0)) {
-        state.SkipWithError(isHandle ? "a step missed the handle" : "a step hit a handle");
-    }
-}
-
-/// Wanders where no handle is.
-template <class Stage>
-void hoverBeside(benchmark::State& state, Stage& stage)
-{
-    hoverAlong(state, stage, osg::Pnt2f(40.F, 50.F), osg::Pnt2f(104.F, 50.F), false);
-}
-
-template <class Stage>
-void dragSteps(benchmark::State& state, Stage& stage, const osg::Pnt2f& handlePx)
-{
-    if (!stage.grabAt(handlePx)) {
-        state.SkipWithError("the handle was missed");
-        return;
-    }
-    std::int64_t handled = 0;
-    for (auto _ : state) {
-        handled += stage.step() ? 1 : 0;
-    }
-    if (handled != static_cast<std::int64_t>(state.iterations())) {
-        state.SkipWithError("a step was refused");
-    }
-}
 
 }  // namespace nbec::manipulator::bench

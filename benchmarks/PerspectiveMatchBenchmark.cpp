@@ -1,24 +1,17 @@
 // SPDX-License-Identifier: MIT
-// The perspective match manipulator, nothing drawn: making and destroying it, hovering on and off
-// its lines, steps of a drag within an open undo group, updates. Events take the whole path:
-// pointer position, context, manipulator. Beside the step of a drag stands what the host does in
-// it: setting the line and solving the camera.
-#include "benchmarks/GizmoStage.h"
+// The perspective match manipulator, nothing drawn: making it, its memory, hovering on and off its
+// lines, steps of a drag within an open undo group, updates. Events take the whole path: pointer
+// position, context, manipulator. Beside the step of a drag stands what the host does in it:
+// setting the line and solving the camera.
+#include "benchmarks/GizmoMeasures.h"
 #include "manipulator/PerspectiveMatchManipulator.h"
 
-#include <nbKernel/nbScenegraph.h>
-#include <nbKernelServices/nbUndoService.h>
 #include <nbKernelServices/nbdCameraNode.h>
-#include <nbOpenSGUberCamera/UberCamera.h>
-
-#include <benchmark/benchmark.h>
 
 namespace {
 
 using nbec::manipulator::PerspectiveMatchManipulator;
 namespace bench = nbec::manipulator::bench;
-using bench::createAndDestroy;
-
 using bench::kHeightPx;
 using bench::kWidthPx;
 
@@ -36,31 +29,20 @@ struct Stage : bench::GizmoStage<PerspectiveMatchManipulator>
         cameraNode.layLinesAsSeen();
         begin();
         gizmo.setCamera(camera);
+        // The middle of X line 1.
         const QPointF centre = cameraNode.getPerspectiveMatch().getXLine1().center();
-        linePx = osg::Pnt2f(static_cast<float>(centre.x() * kHeightPx),
-                            static_cast<float>(kHeightPx - 1 - centre.y() * kHeightPx));
+        hoverFromPx = hoverToPx =
+            osg::Pnt2f(static_cast<float>(centre.x() * kHeightPx),
+                       static_cast<float>(kHeightPx - 1 - centre.y() * kHeightPx));
     }
 
     nbdCameraNode cameraNode;
-    osg::Pnt2f linePx;  ///< the middle of X line 1
 };
-
-void hoverOnLine(benchmark::State& state)
-{
-    Stage stage;
-    bench::hoverAlong(state, stage, stage.linePx, stage.linePx);
-}
-
-void hoverOffLines(benchmark::State& state)
-{
-    Stage stage;
-    bench::hoverAlong(state, stage, osg::Pnt2f(20, 20), osg::Pnt2f(20, 20), false);
-}
 
 void dragStep(benchmark::State& state)
 {
     Stage stage;
-    bench::dragSteps(state, stage, stage.linePx);
+    bench::dragSteps(state, stage, stage.hoverFromPx);
 }
 
 void hostStep(benchmark::State& state)
@@ -76,14 +58,6 @@ void hostStep(benchmark::State& state)
     }
 }
 
-void updateUnchanged(benchmark::State& state)
-{
-    Stage stage;
-    for (auto _ : state) {
-        stage.gizmo.update(true);
-    }
-}
-
 void updateAfterResize(benchmark::State& state)
 {
     Stage stage;
@@ -92,14 +66,13 @@ void updateAfterResize(benchmark::State& state)
     }
 }
 
+const bool isAdded = [] {
+    bench::addMeasures<Stage>("match");
+    return true;
+}();
+
 }  // namespace
 
-BENCHMARK_TEMPLATE(createAndDestroy, PerspectiveMatchManipulator)
-    ->Name("match/create and destroy")
-    ->Unit(benchmark::kMicrosecond);
-BENCHMARK(hoverOnLine)->Name("match/hover on a line");
-BENCHMARK(hoverOffLines)->Name("match/hover off the lines");
 BENCHMARK(dragStep)->Name("match/step of a drag")->Unit(benchmark::kMicrosecond);
 BENCHMARK(hostStep)->Name("match/the host's part of a step")->Unit(benchmark::kMicrosecond);
-BENCHMARK(updateUnchanged)->Name("match/update, nothing changed");
 BENCHMARK(updateAfterResize)->Name("match/update after a resize");

@@ -1,24 +1,16 @@
 // SPDX-License-Identifier: MIT
-// The scene-plate manipulator: making and destroying it, hovering its handles, an update while
-// nothing has changed, a step of a drag. A step is the whole way: pointer position, context,
-// manipulator, message, module with an open group of undo, plate, handles; nothing is drawn.
-#include "benchmarks/GizmoStage.h"
+// The scene-plate manipulator: making it, its memory, hovering its handles, updates, a step of a
+// drag. A step is the whole way: pointer position, context, manipulator, message, module with an
+// open group of undo, plate, handles; nothing is drawn.
+#include "benchmarks/GizmoMeasures.h"
 #include "manipulator/nbSceneplateManipulator.h"
 
-#include <nbKernel/nbScenegraph.h>
-#include <nbKernelServices/nbUndoService.h>
 #include <nbOpenSGUtils/nbEdit.h>
 #include <nbSceneplateModule/nbSceneplateModule.h>
-
-#include <benchmark/benchmark.h>
-
-#include <cstdint>
-#include <vector>
 
 namespace {
 
 namespace bench = nbec::manipulator::bench;
-using bench::createAndDestroy;
 
 const osg::Pnt2f kCentrePx(640, 400);
 
@@ -26,9 +18,10 @@ const osg::Pnt2f kCentrePx(640, 400);
 class Stage : public bench::GizmoStage<nbSceneplateManipulator>
 {
 public:
-    explicit Stage(std::int64_t count)
+    explicit Stage(std::int64_t count = 1)
     {
-        std::vector<osg::NodePtr> nodes;
+        hoverFromPx = kCentrePx + osg::Vec2f(0, 20.F);
+        hoverToPx = kCentrePx + osg::Vec2f(64.F, 20.F);
         for (std::int64_t i = 0; i < count; ++i) {
             osg::SceneplatePtr plate;
             nodes.push_back(osg::makeCoredNode<osg::Sceneplate>(&plate));
@@ -46,25 +39,11 @@ public:
 
     ~Stage() { finish(); }
 
+    std::vector<osg::NodePtr> nodes;
+
 private:
     nbSceneplateModule module;
 };
-
-void hoverOnBody(benchmark::State& state)
-{
-    Stage stage(1);
-    bench::hoverAlong(state, stage, kCentrePx + osg::Vec2f(0, 20.F),
-                      kCentrePx + osg::Vec2f(64.F, 20.F));
-}
-
-void updateUnchanged(benchmark::State& state)
-{
-    Stage stage(1);
-    stage.gizmo.update(true);
-    for (auto _ : state) {
-        stage.gizmo.update(false);
-    }
-}
 
 /// @param handle  where it is grabbed, from the centre of the frame, pixels
 void dragStep(benchmark::State& state, const osg::Vec2f& handle)
@@ -73,13 +52,26 @@ void dragStep(benchmark::State& state, const osg::Vec2f& handle)
     bench::dragSteps(state, stage, kCentrePx + handle);
 }
 
+void plainMove(benchmark::State& state)
+{
+    Stage stage(state.range(0));
+    bench::plainEdits(state, stage, [&stage](float way) {
+        for (const osg::NodePtr& node : stage.nodes) {
+            const auto plate = osg::SceneplatePtr::dcast(node->getCore());
+            const nbEdit edit(plate, osg::Sceneplate::PositionFieldMask);
+            plate->setPosition(osg::Vec2f(way / static_cast<float>(bench::kHeightPx), 0));
+        }
+    });
+}
+
+const bool isAdded = [] {
+    bench::addMeasures<Stage>("plates");
+    return true;
+}();
+
 }  // namespace
 
-BENCHMARK_TEMPLATE(createAndDestroy, nbSceneplateManipulator)
-    ->Name("plates/create and destroy")
-    ->Unit(benchmark::kMicrosecond);
-BENCHMARK(hoverOnBody)->Name("plates/hover on the body");
-BENCHMARK(updateUnchanged)->Name("plates/update, nothing changed");
 BENCHMARK_CAPTURE(dragStep, move, osg::Vec2f(0, 20))->Name("plates/move")->Arg(1)->Arg(100);
 BENCHMARK_CAPTURE(dragStep, turn, osg::Vec2f(0, -132))->Name("plates/turn")->Arg(1)->Arg(100);
 BENCHMARK_CAPTURE(dragStep, scale, osg::Vec2f(160, -100))->Name("plates/scale")->Arg(1)->Arg(100);
+BENCHMARK(plainMove)->Name("plates/move, plainly")->Arg(1)->Arg(100);

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
-// The gizmos of triplanar, UV and tire projections: making and destroying one, hovering on a
-// handle, an update while nothing has changed, and steps of a drag, nothing drawn: to a receiver
-// that does nothing, and through the embedded editor into the material and back into the gizmo.
+// The gizmos of triplanar, UV and tire projections: making one, its memory, hovering on a handle,
+// updates, and steps of a drag, nothing drawn: to a receiver that does nothing, and through the
+// embedded editor into the material and back into the gizmo.
 #include "benchmarks/TextureStage.h"
 #include "tests/manipulator/support/AnchoredTraits.h"
-
-#include <benchmark/benchmark.h>
 
 namespace {
 
@@ -13,6 +11,7 @@ using nbec::manipulator::TireProjectionManipulator;
 using nbec::manipulator::TriplanarTextureManipulator;
 using nbec::manipulator::UVTextureManipulator;
 using nbec::manipulator::test::AnchoredTraits;
+using osg::ColorComponentSettings;
 namespace bench = nbec::manipulator::bench;
 
 /// The gizmo at the box's origin, with all its handles.
@@ -27,50 +26,55 @@ struct Stage : bench::TextureStage<Gizmo>
                                      })
     {
         this->gizmo.update(true);
+        this->hoverFromPx = this->pixelOf(osg::Pnt3f(0, 1.2F, 0));  // along the y arrow
+        this->hoverToPx = this->pixelOf(osg::Pnt3f(0, 1.4F, 0));
     }
 };
 
-/// Along the y arrow, so that every step is a hit at another place of one handle.
+/// What a translation drag writes in the end.
 template <class Gizmo>
-void hoverOnHandle(benchmark::State& state)
+void setOffset(ColorComponentSettings& settings, float way);
+
+template <>
+void setOffset<TriplanarTextureManipulator>(ColorComponentSettings& settings, float way)
 {
-    Stage<Gizmo> stage;
-    bench::hoverAlong(state, stage, stage.pixelOf(osg::Pnt3f(0, 1.2F, 0)),
-                      stage.pixelOf(osg::Pnt3f(0, 1.4F, 0)));
+    settings.setTriplanarOffsetU(osg::Vec3f(way, 0, 0));
+    settings.setTriplanarOffsetV(osg::Vec3f(0, way, 0));
+}
+
+template <>
+void setOffset<UVTextureManipulator>(ColorComponentSettings& settings, float way)
+{
+    settings.setOffset(osg::Vec2f(way, 0));
+}
+
+template <>
+void setOffset<TireProjectionManipulator>(ColorComponentSettings& settings, float way)
+{
+    settings.setTireCenter(osg::Vec3f(way, 0, 0));
 }
 
 template <class Gizmo>
-void updateUnchanged(benchmark::State& state)
+void plainTranslation(benchmark::State& state)
 {
     Stage<Gizmo> stage;
-    for (auto _ : state) {
-        stage.gizmo.update(false);
-    }
+    bench::plainEdits(state, stage, [&stage](float way) {
+        const nbEdit edit(stage.settings, osg::FieldBits::AllFields);
+        setOffset<Gizmo>(*stage.settings, way);
+    });
 }
 
 template <class Gizmo>
-void dragSteps(benchmark::State& state, const char* receiver, const osg::Pnt3f& unit)
-{
-    Stage<Gizmo> stage;
-    stage.gizmo.setMessageReceiver(receiver);
-    bench::dragSteps(state, stage, stage.pixelOf(unit));
-}
-
-template <class Gizmo>
-void addAll(const char* name)
+void addAll(const std::string& name)
 {
     const osg::Pnt3f arrow(0.F, 1.9F, 0.F);
-    const std::string prefix(name);
-    benchmark::RegisterBenchmark((prefix + "/create and destroy").c_str(),
-                                 bench::createAndDestroy<Gizmo>)
-        ->Unit(benchmark::kMicrosecond);
-    benchmark::RegisterBenchmark((prefix + "/hover on a handle").c_str(), hoverOnHandle<Gizmo>);
-    benchmark::RegisterBenchmark((prefix + "/update, nothing changed").c_str(),
-                                 updateUnchanged<Gizmo>);
-    benchmark::RegisterBenchmark((prefix + "/drag, translate").c_str(), dragSteps<Gizmo>, "nobody",
+    const auto drag = bench::textureDrag<Stage<Gizmo>>;
+    bench::addMeasures<Stage<Gizmo>>(name);
+    benchmark::RegisterBenchmark((name + "/drag, translate").c_str(), drag, "nobody", arrow);
+    benchmark::RegisterBenchmark((name + "/drag, translate, edited").c_str(), drag, "editor",
                                  arrow);
-    benchmark::RegisterBenchmark((prefix + "/drag, translate, edited").c_str(), dragSteps<Gizmo>,
-                                 "editor", arrow);
+    benchmark::RegisterBenchmark((name + "/drag, translate, plainly").c_str(),
+                                 plainTranslation<Gizmo>);
 }
 
 const bool isAdded = [] {

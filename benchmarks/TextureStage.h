@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "benchmarks/GizmoStage.h"
+#include "benchmarks/GizmoMeasures.h"
 
 #include <nbKernel/nbController.h>
 #include <nbMaterialEditor/nbMaterialEditor.h>
 #include <nbOpenSGUberMaterial/UberMaterial.h>
+#include <nbOpenSGUtils/nbEdit.h>
 
 #include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGSimpleGeometry.h>
@@ -30,7 +31,7 @@ public:
     {
         this->look(osg::Pnt3f(2, 3, 7));
         const osg::NodePtr box = osg::makeBox(4, 4, 1, 1, 1, 1);
-        const auto settings = osg::ColorComponentSettings::create();
+        settings = osg::ColorComponentSettings::create();
         settings->setPlanarProjection(osg::Transform3D::create());
         settings->setTextureProjectionType(type);
         material->setComponentSettings(osg::UberMaterial::kDiffuseComponent, settings);
@@ -56,9 +57,21 @@ public:
         return this->pixelIn(this->gizmo.getVisualisation()->getChild(0), unit);
     }
 
+    osg::ColorComponentSettingsPtr settings;  ///< held by the material
+
 private:
     osg::UberMaterialRefPtr material { osg::UberMaterial::create() };
     nbMaterialEditor editor { "editor" };
 };
+
+/// Steps of a drag: to the receiver "nobody", which does nothing, or to "editor", through the
+/// material and back into the gizmo.
+template <class Stage>
+void textureDrag(benchmark::State& state, const char* receiver, const osg::Pnt3f& unit)
+{
+    Stage stage;
+    stage.gizmo.setMessageReceiver(receiver);
+    dragSteps(state, stage, stage.pixelOf(unit));
+}
 
 }  // namespace nbec::manipulator::bench

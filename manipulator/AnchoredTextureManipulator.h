@@ -31,7 +31,7 @@ class AnchoredGizmo;
 ///
 /// Decisions.
 /// - A drag ends when the handle's material or component is replaced, and a start makes good a stop
-///   that was lost; the preview is resumed then. Hovering is refused while a drag is under way.
+///   that was lost; the preview is resumed then. Hovering changes nothing during a drag.
 ///   Deliberate: deactivating ends no drag; hosts stop it before.
 /// - A drag whose pointer misses the drag plane at the first step starts where it meets it first.
 /// - What a drag has hidden is shown again when it stops, in every mode.

@@ -61,8 +61,8 @@ public:
     /// Stores the flag, which nothing reads.
     void setDescriptionEnabled(bool on) { descriptionEnabled = on; }
 
-    /// Size on screen of all crosses, default 32. Deliberate: a size of 200 makes the scale
-    /// infinite.
+    /// Size on screen of all crosses in perspective views, default 32; shows when the camera moves
+    /// the next time. Deliberate: a size of 200 makes the scale infinite.
     static void setManipulatorSize(float size);
 
     static float getManipulatorSize() { return m_ManipulatorSize; }
@@ -74,8 +74,8 @@ public:
     /// Re-places every registered cross, in the order of construction.
     static void updateAllManipulators();
     /// Creates a manipulator that lives in the list of live ones only. Deliberate: it does not
-    /// become the current instance, which nothing in this library sets, so that a new size shows at
-    /// the next update.
+    /// become the current instance, which nothing in this library sets, so that a new size waits
+    /// for the next movement of the camera.
     static void createInstance();
 
 private:

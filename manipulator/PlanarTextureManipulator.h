@@ -55,8 +55,8 @@ namespace nbec::manipulator {
 ///   plane is missed sends nothing; if that is so at the start, the first step that meets it starts
 ///   the drag. A pointer on the centre keeps the last angle; angles lie within -pi to pi.
 /// - The on-screen text goes by what the grabbed handle edits: translation, scale or rotation.
-/// - A drag is held by the handle that was under the pointer at its start; hovering is refused
-///   until it stops. Deactivating ends it, and a pause of the preview that is still owed.
+/// - A drag is held by the handle that was under the pointer at its start; hovering changes
+///   nothing until it stops. Deactivating ends it, and a pause of the preview that is still owed.
 /// - Copies share the handle tree with their original and are not registered; a pause of the
 ///   preview stays with the original.
 ///
@@ -235,8 +235,8 @@ public:
     /// The shared instance, or null.
     static PlanarTextureManipulator* getInstance() { return _the; }
 
-    /// Size on screen of all gizmos, 0 <= size < 200, default 32. The shared instance is re-placed
-    /// at once, others at their next update.
+    /// Size of all gizmos in perspective views, 0 <= size < 200, default 32. The shared instance is
+    /// re-placed at once, others at their next update.
     static void setManipulatorSize(float size);
 
     static float getManipulatorSize() { return m_ManipulatorSize; }

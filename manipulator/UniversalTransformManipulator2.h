@@ -37,12 +37,12 @@ class ScreenScale;
 ///   pivot); a node that is no Transform3D yet has its pivot at the centre of its volume, where it
 ///   will be once it is converted. Conversion and pivot belong to the first undo step of an edit;
 ///   a drag that ends where it began leaves no step, and the node stays converted.
-/// - Orientation: world axes, or the node's own axes with setLocalSpaceManipulator(true).
+/// - Orientation: world axes; the node's own in scale mode and in setLocalSpaceManipulator(true).
 /// - A ring's axis line shows only while that ring is grabbed. Sphere and purple cube are unnamed
 ///   markers, never hit.
 /// - Plane handles: a square patch of 0.4 with a bar (radius 0.02) along both outer edges.
-/// - A drag is held by the handle that was under the pointer at its start; hovering is refused
-///   until it stops.
+/// - A drag is held by the handle that was under the pointer at its start; hovering changes
+///   nothing until it stops.
 ///
 /// All instances share the size and the space setting. Belongs to the user-interface thread.
 class NB_MANIPULATOR_API UniversalTransformManipulator2 : public NodeManipulator
@@ -153,8 +153,8 @@ public:
 
     /// Creates a gizmo and makes it the shared instance; an earlier shared instance is destroyed.
     static void createInstance();
-    /// Size on screen of all gizmos, 0 <= size < 200, default 32. The shared instance is re-placed
-    /// at once, others at their next update.
+    /// Size of all gizmos in perspective views, 0 <= size < 200, default 32. The shared instance is
+    /// re-placed at once, others by updateAllManipulators() or update(true).
     static void setManipulatorSize(float size);
     static float getManipulatorSize();
     /// Aligns gizmos with the node's own axes or the world's; re-placed as by setManipulatorSize().

@@ -51,7 +51,7 @@ class nbOSGWidget;
 ///   multiples of 15 degrees.
 /// - A drag begins where the handle was pressed and sends nothing until something changes. It goes
 ///   on as long as the plates and the view's size stay what they were; otherwise its further steps
-///   answer false, and nothing more is sent. Hovering is refused until it stops.
+///   answer false, and nothing more is sent. Hovering changes nothing until it stops.
 ///
 /// Plates are held by the ids of their nodes; one that is deleted drops out. Without plates, widget
 /// or area nothing is shown and every event answers false. All instances share the size. Everything

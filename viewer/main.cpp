@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/core/CommandLine.h"
 #include "viewer/core/Session.h"
+#include "viewer/gui/AboutBox.h"
 #include "viewer/gui/MainWindow.h"
 #include "viewer/gui/StartUp.h"
 
@@ -21,8 +22,6 @@ namespace {
 
 using viewer::CommandLine;
 using viewer::StartUp;
-
-constexpr const char* kVersion = "0.1.0";
 
 /// OpenGL 3.3 core for every view; the render action has samples of its own.
 void requestGraphics()
@@ -56,7 +55,7 @@ std::optional<int> prepare(const QStringList& arguments, CommandLine& options,
     if (options.helpWanted || options.versionWanted) {
         std::fputs(options.helpWanted ? qPrintable(viewer::commandLineHelp()) : "nbviewer ",
                    stdout);
-        std::fputs(options.helpWanted ? "" : kVersion, stdout);
+        std::fputs(options.helpWanted ? "" : viewer::programVersion(), stdout);
         std::fputs(options.helpWanted ? "" : "\n", stdout);
         return 0;
     }
@@ -105,6 +104,10 @@ int main(int argc, char** argv)
     // Pictures have the size that was asked for, whatever the screen is like.
     QCoreApplication::setAttribute(options.isUnattended() ? Qt::AA_DisableHighDpiScaling
                                                           : Qt::AA_EnableHighDpiScaling);
+    // Icons are drawn in device pixels, and 1.5 device pixels for a logical one are not made 2.
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     // Qt's own options are none of this program's, so it gets the name only.
     int qtArgc = 1;
     QApplication application(qtArgc, argv);

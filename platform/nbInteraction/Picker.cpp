@@ -8,6 +8,7 @@
 
 #include <cmath>
 
+#include "detail/EmbreeDevice.h"
 #include "detail/HandlePicking.h"
 #include "detail/PickTreeCache.h"
 #include "detail/PlatePicking.h"
@@ -188,6 +189,11 @@ void Picker::buildTrees(const osg::NodePtr& root)
 {
     detail::PickTreeCache::the().dropDead();
     detail::PickTreeCache::the().buildBelow(root);
+}
+
+std::string Picker::getSearchLibrary()
+{
+    return detail::embreeVersion();
 }
 
 }  // namespace nbec::interaction

@@ -9,6 +9,7 @@
 #include <QRect>
 
 #include <memory>
+#include <string>
 #include <vector>
 
 namespace nbec::interaction {
@@ -116,6 +117,9 @@ public:
     /// (after loading). Trees are shared by all pickers and all nodes with the same core. Null:
     /// nothing.
     static void buildTrees(const osg::NodePtr& root);
+
+    /// Name and version of the library that searches the trees, such as "Embree 3.13.5".
+    static std::string getSearchLibrary();
 
 private:
     void rememberHit(const osg::NodePtr& node, const osg::Pnt3f& point, const osg::Vec3f& normal);

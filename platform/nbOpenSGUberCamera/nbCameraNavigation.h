@@ -73,8 +73,8 @@ public:
     /// standard view from above or below.
     static Axes axes(const CameraPose& pose);
 
-    /// Field of view that is used for one that is given: clamped to kSmallestFovDeg ..
-    /// kLargestFovDeg; 0, negative or not finite: kDefaultFovDeg.
+    /// Field of view that is used for one that is given: limited to what lies from kSmallestFovDeg
+    /// to kLargestFovDeg; 0, negative or not finite: kDefaultFovDeg.
     static osg::Real32 usableFovDeg(osg::Real32 fovDeg);
 
     /// Depth of a point: way along the view axis from the eye, negative behind it.

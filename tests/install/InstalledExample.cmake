@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 # Installs the build into a fresh prefix and uses it as a stranger would: builds examples/ with find_package(nbManipulator) and checks what
-# it prints, and that the README shows the program as it is; builds a program that drags a gizmo with pkg-config and runs it.
+# they print, and that the pages show them as they are; builds a program that drags a gizmo with pkg-config and runs it.
 
 function(run)
     execute_process(COMMAND ${ARGN} RESULT_VARIABLE status OUTPUT_VARIABLE output ERROR_VARIABLE errors)
@@ -14,7 +14,7 @@ endfunction()
 file(REMOVE_RECURSE ${SCRATCH}/prefix ${SCRATCH}/example)
 run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${SCRATCH}/prefix)
 
-# == The README's program, by its CMake project
+# == The programs of README and manual, by their CMake project
 run(${CMAKE_COMMAND} -G Ninja -S ${SOURCE}/examples -B ${SCRATCH}/example -DCMAKE_BUILD_TYPE=Release
     -DCMAKE_PREFIX_PATH=${SCRATCH}/prefix -DCMAKE_CXX_COMPILER=${COMPILER} -DCMAKE_CXX_FLAGS=${FLAGS})
 run(${CMAKE_COMMAND} --build ${SCRATCH}/example)
@@ -22,6 +22,9 @@ run(${SCRATCH}/example/first_gizmo)
 if(NOT output STREQUAL "xaShape\n")
     message(FATAL_ERROR "the example printed \"${output}\" instead of xaShape")
 endif()
+
+# It has a manipulator of its own, drags it and checks what came of it.
+run(${SCRATCH}/example/lift_gizmo)
 
 file(READ ${SOURCE}/examples/first_gizmo.cpp program)
 file(READ ${SOURCE}/README.md readme)

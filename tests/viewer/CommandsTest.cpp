@@ -17,7 +17,8 @@ TEST(Commands, RunTheirOperationAndTellTheListenerOnlyOfSuccess)
 {
     Commands commands;
     QStringList told;
-    commands.setListener([&](const QString& name, const QJsonValue&) { told.append(name); });
+    commands.setListener(
+        [&](const QString& name, const QJsonValue&, Commands::Moment) { told.append(name); });
     double size = 1.0;
     commands.add("box.size", [&size](const QJsonValue& value, QString& error) {
         if (!(value.toDouble() > 0.0)) {

@@ -11,6 +11,7 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDockWidget>
 #include <QDoubleSpinBox>
@@ -110,7 +111,7 @@ TEST_F(MaterialPanelTest, ADroppedPictureIsSeenWhereItFellAndTheObjectKeepsItsCo
     const QImage before = window.view().takePicture(error);
     QString recorded;
     stage().commands().setListener(
-        [&recorded](const QString& name, const QJsonValue&) { recorded = name; });
+        [&recorded](const QString& name, const QJsonValue&, Commands::Moment) { recorded = name; });
     drop(kLabel, "Vase");
     EXPECT_EQ(recorded, "texture.drop");
     EXPECT_EQ(find<QLabel>("textureFile")->text(), "label.png");
@@ -313,6 +314,47 @@ TEST_F(MaterialPanelTest, ButtonsShowHandlesAndThePreviewWaitsForTheEndOfADrag)
     find<QAbstractButton>("textureRemove")->click();
     EXPECT_EQ(find<QLabel>("textureFile")->text(), "No picture");
     EXPECT_EQ(problems, QStringList());
+}
+
+TEST_F(MaterialPanelTest, ADraggedSliderIsOneCommand)
+{
+    drop(kLabel, "Vase");
+    QStringList told;
+    stage().commands().setListener(
+        [&told](const QString& name, const QJsonValue& value, Commands::Moment moment) {
+            if (moment == Commands::Moment::Final) {
+                told.append(name + QLatin1Char(' ') + QString::number(value.toDouble()));
+            }
+        });
+    auto* slider = find<QSlider>("texture.planeTransparency");
+    slider->setValue(10);
+    told.clear();
+
+    slider->setSliderDown(true);
+    for (const int position : { 20, 40, 60 }) {
+        slider->setValue(position);
+        EXPECT_NEAR(value("texture.planeTransparency").toDouble(), position / 100.0, 1e-6);
+    }
+    EXPECT_EQ(told, QStringList());
+    slider->setSliderDown(false);
+
+    EXPECT_EQ(told, QStringList { "texture.planeTransparency 0.6" });
+}
+
+TEST_F(MaterialPanelTest, SwitchesOfAProjectionsHandlesReachThem)
+{
+    drop(kLabel, "Vase");
+    for (const auto& [projection, name] : { std::pair("uv", "texture.uvKeepAspect"),
+                                            std::pair("triplanar", "texture.ringsTilted") }) {
+        QString error;
+        ASSERT_TRUE(stage().commands().run("texture.projection", QLatin1String(projection), error));
+        auto* box = find<QCheckBox>(name);
+        EXPECT_TRUE(box->isVisibleTo(&window)) << name;
+        box->click();
+        EXPECT_EQ(value(name), QJsonValue(true));
+        box->click();
+        EXPECT_EQ(value(name), QJsonValue(false));
+    }
 }
 
 }  // namespace

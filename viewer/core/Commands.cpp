@@ -60,7 +60,7 @@ void Commands::remove(const QString& prefix)
     removeWithPrefix(values, prefix);
 }
 
-bool Commands::run(const QString& name, const QJsonValue& value, QString& error)
+bool Commands::run(const QString& name, const QJsonValue& value, QString& error, Moment moment)
 {
     const auto found = commands.find(name);
     if (found == commands.end()) {
@@ -73,7 +73,7 @@ bool Commands::run(const QString& name, const QJsonValue& value, QString& error)
         return false;
     }
     if (listener) {
-        listener(name, value);
+        listener(name, value, moment);
     }
     return true;
 }

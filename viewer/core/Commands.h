@@ -23,7 +23,16 @@ public:
     /// Does a command. @return false with one line in `error`, nothing changed
     using Run = std::function<bool(const QJsonValue& value, QString& error)>;
     using Read = std::function<QJsonValue()>;
-    using Listener = std::function<void(const QString& name, const QJsonValue& value)>;
+
+    /// What a value is to whoever gives it.
+    enum class Moment
+    {
+        Final,
+        Passing  ///< one of many on the way to the final one, as while a slider is dragged
+    };
+
+    using Listener =
+        std::function<void(const QString& name, const QJsonValue& value, Moment moment)>;
 
     /// Adds a command, or replaces that of the name.
     void add(const QString& name, Run run);
@@ -34,7 +43,8 @@ public:
 
     /// Runs a command, then tells the listener.
     /// @return false with one line in `error` for an unknown name or a command that refused
-    bool run(const QString& name, const QJsonValue& value, QString& error);
+    bool run(const QString& name, const QJsonValue& value, QString& error,
+             Moment moment = Moment::Final);
     /// @return nothing for an unknown name
     std::optional<QJsonValue> value(const QString& name) const;
     /// Names of all commands, sorted.

@@ -15,6 +15,7 @@
 #include <assimp/config.h>
 #include <assimp/postprocess.h>
 #include <assimp/scene.h>
+#include <assimp/version.h>
 
 namespace viewer {
 namespace {
@@ -219,6 +220,14 @@ QString modelFileFilter()
         patterns.append(QStringLiteral("*.") + QLatin1String(ending));
     }
     return QStringLiteral("Models and pictures (%1);;All files (*)").arg(patterns.join(' '));
+}
+
+QString modelLibraryVersion()
+{
+    return QStringLiteral("Assimp %1.%2.%3")
+        .arg(aiGetVersionMajor())
+        .arg(aiGetVersionMinor())
+        .arg(aiGetVersionPatch());
 }
 
 bool isModelFileName(const QString& path)

@@ -22,6 +22,9 @@ std::optional<ModelData> readModelFile(const QString& path, const ReadProgress& 
 /// Name filter for a file dialogue, such as "Models and pictures (*.obj *.ply ...)".
 QString modelFileFilter();
 
+/// Name and version of the library that reads model files, such as "Assimp 5.2.4".
+QString modelLibraryVersion();
+
 /// Whether the name's ending is that of a file that readModelFile() may be able to read.
 bool isModelFileName(const QString& path);
 

@@ -151,6 +151,11 @@ osg::NodePtr buildScene(const ModelData& model)
     return Builder(model).build(model.root);
 }
 
+BuiltModel buildModel(const ModelData& model)
+{
+    return { osg::RefPtr<osg::NodePtr>(buildScene(model)), model.triangleCount(), model.warnings };
+}
+
 osg::NodePtr objectOf(const osg::NodePtr& node)
 {
     const osg::NodePtr object = nbNodeUtils::resolveToTransformNode(node);

@@ -5,6 +5,7 @@
 
 #include <OpenSG/OSGConfig.h>
 #include <OpenSG/OSGNode.h>
+#include <OpenSG/OSGRefPtr.h>
 
 namespace viewer {
 
@@ -12,6 +13,17 @@ namespace viewer {
 /// below it a named node with a Geometry core for each mesh. Belongs to the user-interface thread.
 /// @return the root, reference count 0; never null
 osg::NodePtr buildScene(const ModelData& model);
+
+/// A model as nodes that are not in the scene yet. Belongs to the user-interface thread.
+struct BuiltModel
+{
+    osg::RefPtr<osg::NodePtr> root;  ///< never null
+    std::size_t triangles = 0;
+    QStringList warnings;  ///< those of the model
+};
+
+/// Makes the nodes of a model, as buildScene(), and keeps what else is to be known of it.
+BuiltModel buildModel(const ModelData& model);
 
 /// The object that a picked or selected node stands for: the nearest node with a Transform core
 /// from it upwards.

@@ -236,13 +236,18 @@ void Stage::clear()
 
 osg::NodePtr Stage::add(const ModelData& model)
 {
-    const osg::NodePtr node = buildScene(model);
+    return add(buildModel(model));
+}
+
+osg::NodePtr Stage::add(const BuiltModel& model)
+{
+    const osg::NodePtr node = model.root.get();
     const osg::NodePtr root = nbScenegraph::getRootNode();
     {
         const nbEdit edit(root, osg::Node::ChildrenFieldMask);
         root->addChild(node);
     }
-    triangles += model.triangleCount();
+    triangles += model.triangles;
     nbec::interaction::Picker::buildTrees(node);
     changed();
     return node;

@@ -21,6 +21,7 @@
 namespace viewer {
 
 class StageTool;
+struct BuiltModel;
 
 /// Everything that happens in the view without being a window: scene, selection, camera,
 /// manipulator and how input reaches them. Works without any widget, window or OpenGL; lives
@@ -89,6 +90,8 @@ public:
     void clear();
     /// Hangs a model into the scene. @return its root
     osg::NodePtr add(const ModelData& model);
+    /// The same for one whose nodes are there. Search trees that are still missing are built now.
+    osg::NodePtr add(const BuiltModel& model);
     /// Replaces everything by the start scene, seen as composed, with its main object selected and
     /// the universal gizmo on it.
     void showStartScene();

@@ -47,6 +47,10 @@ public:
 
     nbec::manipulator::PlanarTextureManipulator& planarGizmo() { return planar; }
 
+    nbec::manipulator::TriplanarTextureManipulator& triplanarGizmo() { return triplanar; }
+
+    nbec::manipulator::UVTextureManipulator& uvGizmo() { return uv; }
+
     /// Turns to the gizmo of the projection that the target has. @return whether it is another
     bool follow(const TextureTarget& target);
 

@@ -73,6 +73,9 @@ public:
     bool showGroup(const std::string& word);
 
     /// Of the handles in use.
+    /// For settings of single gizmos.
+    TextureGizmos& allGizmos() { return gizmos; }
+
     TextureGizmos::Size handleSize() const { return gizmos.size(); }
 
     void setHandleSize(float size);

@@ -186,6 +186,21 @@ void addHandlePlace(Stage& stage, TextureTool& tool)
                               [&tool] { return static_cast<double>(tool.handleSize().present); });
 }
 
+/// Adds what a person can set of a gizmo, true or false.
+template <class Write, class Read>
+void addGizmoSwitch(Stage& stage, const char* name, Write write, Read read)
+{
+    stage.commands().add(named(name), [name, write](const QJsonValue& value, QString& error) {
+        bool on = false;
+        const bool isRead = JsonReader(error).readBool(value, named(name), on);
+        if (isRead) {
+            write(on);
+        }
+        return isRead;
+    });
+    stage.commands().addValue(named(name), [read]() -> QJsonValue { return read(); });
+}
+
 }  // namespace
 
 void addTextureValueCommands(Stage& stage, TextureTool& tool)
@@ -193,6 +208,14 @@ void addTextureValueCommands(Stage& stage, TextureTool& tool)
     addProjection(stage, tool);
     addNumbers(stage, tool);
     addHandlePlace(stage, tool);
+    auto& uv = tool.allGizmos().uvGizmo();
+    addGizmoSwitch(
+        stage, "uvKeepAspect", [&uv](bool on) { uv.setKeepAspectRatio(on); },
+        [&uv] { return uv.getKeepAspectRatio(); });
+    auto& triplanar = tool.allGizmos().triplanarGizmo();
+    addGizmoSwitch(
+        stage, "ringsTilted", [&triplanar](bool on) { triplanar.setRingsTilted(on); },
+        [&triplanar] { return triplanar.areRingsTilted(); });
 }
 
 }  // namespace viewer

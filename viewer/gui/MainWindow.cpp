@@ -2,13 +2,18 @@
 #include "viewer/gui/MainWindow.h"
 
 #include "viewer/core/ModelReader.h"
+#include "viewer/core/SessionStart.h"
+#include "viewer/core/StageTool.h"
+#include "viewer/gui/LogPanel.h"
 #include "viewer/gui/MessageBar.h"
 #include "viewer/gui/PanelDocks.h"
 #include "viewer/gui/SessionPlayer.h"
 #include "viewer/gui/SessionRecorder.h"
 #include "viewer/gui/StatusLine.h"
+#include "viewer/gui/ToolBars.h"
 #include "viewer/gui/ViewWidget.h"
 #include "viewer/gui/WindowActions.h"
+#include "viewer/gui/WindowMemory.h"
 
 #include <nbKernelServices/nbUndoService.h>
 
@@ -17,7 +22,8 @@
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QImageReader>
-#include <QSettings>
+#include <QKeyEvent>
+#include <QScreen>
 #include <QStatusBar>
 #include <QTimer>
 #include <QUndoStack>
@@ -25,15 +31,15 @@
 namespace viewer {
 namespace {
 
-constexpr int kRecentCount = 8;
-
 /// A window that a window manager refuses the wanted size is waited for this often.
 constexpr int kMaxSizeChecks = 200;
 constexpr int kSizeCheckMs = 10;
 
-const char* const kRecentKey = "recentFiles";
-const char* const kLayoutKey = "windowLayout";
-const char* const kSessionFilter = "Sessions (*.json)";
+/// Size at the first start, logical pixels, and the part of the screen that it takes at most.
+constexpr QSize kFirstSize(1440, 900);
+constexpr double kMostOfScreen = 0.94;
+
+const char* const kSessionFilter = QT_TRANSLATE_NOOP("viewer::MainWindow", "Sessions (*.json)");
 
 bool isSession(const QString& file)
 {
@@ -46,24 +52,6 @@ bool isPicture(const QString& file)
     return QImageReader::supportedImageFormats().contains(suffix);
 }
 
-osg::Pnt3f pointOf(const std::array<double, 3>& p)
-{
-    return { static_cast<float>(p[0]), static_cast<float>(p[1]), static_cast<float>(p[2]) };
-}
-
-CameraPose poseOf(const SessionCamera& camera)
-{
-    CameraPose pose;
-    pose.from = pointOf(camera.from);
-    pose.at = pointOf(camera.at);
-    pose.up = pointOf(camera.up).subZero();
-    pose.pivot = pointOf(camera.pivot.value_or(camera.at));
-    pose.fovDeg = static_cast<float>(camera.fovDeg);
-    pose.orthographic = camera.orthographic;
-    pose.zUp = camera.zUp;
-    return pose;
-}
-
 }  // namespace
 
 MainWindow::MainWindow(Attendance attendance)
@@ -73,6 +61,7 @@ MainWindow::MainWindow(Attendance attendance)
     , sessionPlayer(new SessionPlayer(*viewWidget, *this, this))
     , sessionRecorder(new SessionRecorder(*viewWidget, this))
     , statusLine(new StatusLine(*statusBar()))
+    , fullScreen(*this)
 {
     setShownTitle({});
     auto* centre = new QWidget(this);
@@ -83,14 +72,21 @@ MainWindow::MainWindow(Attendance attendance)
     messageBar = new MessageBar(viewWidget);
     docks = new PanelDocks(*this, viewWidget->stage());
     if (mode == Attendance::Attended) {
+        shownTheme = memory::theme();
+        applyTheme(shownTheme);
         docks->arrange();
-        restoreState(QSettings().value(kLayoutKey).toByteArray());
     }
     actions = new WindowActions(*this, viewWidget->stage());
+    addToolBars(*this);
     if (mode == Attendance::Attended) {
-        actions->setRecentFiles(QSettings().value(kRecentKey).toStringList());
+        actions->setRecentFiles(memory::recentFiles());
         connect(this, &MainWindow::problem, messageBar, &MessageBar::showMessage);
+        if (!memory::restoreLayout(*this)) {
+            resize(kFirstSize.boundedTo(screen()->availableSize() * kMostOfScreen));
+        }
     }
+    connect(this, &MainWindow::problem, this,
+            [this](const QString& text) { docks->log().append(nbLog::Level::Warning, text); });
     connect(actions, &WindowActions::shortcutUsed, sessionRecorder, &SessionRecorder::addShortcut);
     connect(viewWidget, &ViewWidget::stateChanged, this, &MainWindow::updateStatus);
     connect(viewWidget, &ViewWidget::drawingFailed, this, &MainWindow::problem);
@@ -102,18 +98,16 @@ MainWindow::MainWindow(Attendance attendance)
         emit problem(reason);
     });
     connect(loader, &ModelLoader::progressed, statusLine, &StatusLine::setProgress);
-    connect(statusLine, &StatusLine::stopLoadingAsked, this, [this] {
-        loader->cancel();
-        pendingSession.reset();
-        updateStatus();
-    });
+    connect(statusLine, &StatusLine::stopLoadingAsked, this, &MainWindow::stopLoading);
     connect(docks, &PanelDocks::problem, this, &MainWindow::problem);
     connect(nbUndoService::the()->getStack(), &QUndoStack::cleanChanged, this,
             [this](bool clean) { setWindowModified(!clean); });
     connect(sessionPlayer, &SessionPlayer::finished, this, &MainWindow::concludeReplay);
     viewWidget->stage().commands().setListener(
-        [this](const QString& name, const QJsonValue& value) {
-            sessionRecorder->addCommand(name, value);
+        [this](const QString& name, const QJsonValue& value, Commands::Moment moment) {
+            if (moment == Commands::Moment::Final) {
+                sessionRecorder->addCommand(name, value);
+            }
             viewWidget->stage().edited();
         });
     viewWidget->stage().setChangedCallback([this] {
@@ -164,7 +158,7 @@ void MainWindow::openFiles(const QStringList& files, Opening opening)
 {
     openingFiles = files;
     openingMode = opening;
-    statusLine->setProgress({}, 0);
+    statusLine->setProgress(ModelLoader::Phase::Reading, files.value(0), 0);
     loader->start(files);
     updateStatus();
 }
@@ -179,7 +173,7 @@ void MainWindow::showLoadedModels()
     }
     QStringList warnings;
     osg::NodePtr last;
-    for (const ModelData& model : loader->takeModels()) {
+    for (const BuiltModel& model : loader->takeModels()) {
         last = stage.add(model);
         warnings.append(model.warnings);
     }
@@ -195,6 +189,9 @@ void MainWindow::showLoadedModels()
     actions->update();
     updateStatus();
     setShownTitle(QFileInfo(openingFiles.value(0)).fileName());
+    for (const QString& warning : warnings) {
+        docks->log().append(nbLog::Level::Warning, warning);
+    }
     if (!warnings.isEmpty() && mode == Attendance::Attended) {
         messageBar->showMessage(warnings.first());
     }
@@ -206,19 +203,16 @@ void MainWindow::showLoadedModels()
 
 void MainWindow::addRecentFiles(const QStringList& files)
 {
-    if (mode == Attendance::Unattended) {
-        return;
+    if (mode == Attendance::Attended) {
+        actions->setRecentFiles(memory::addRecentFiles(files));
     }
-    QSettings settings;
-    QStringList recent = settings.value(kRecentKey).toStringList();
-    for (const QString& file : files) {
-        const QString path = QFileInfo(file).absoluteFilePath();
-        recent.removeAll(path);
-        recent.prepend(path);
-    }
-    recent = recent.mid(0, kRecentCount);
-    settings.setValue(kRecentKey, recent);
-    actions->setRecentFiles(recent);
+}
+
+void MainWindow::stopLoading()
+{
+    loader->cancel();
+    pendingSession.reset();
+    updateStatus();
 }
 
 void MainWindow::askForFiles(Opening opening)
@@ -262,7 +256,9 @@ void MainWindow::handleDroppedFiles(const QStringList& files, const osg::Pnt2f& 
         replayFile(file);
     } else {
         QString error;
-        if (!viewWidget->stage().takePicture(file, px, error)) {
+        if (viewWidget->stage().takePicture(file, px, error)) {
+            showPanelOfTool();
+        } else {
             emit problem(error.isEmpty() ? tr("%1: drop pictures on an object").arg(file) : error);
         }
     }
@@ -286,12 +282,49 @@ void MainWindow::suggestViewSize(const QSize& sizePx)
     });
 }
 
+void MainWindow::setTheme(Theme theme)
+{
+    shownTheme = theme;
+    applyTheme(theme);
+    if (mode == Attendance::Attended) {
+        memory::keepTheme(theme);
+    }
+}
+
+void MainWindow::showPanelOfTool()
+{
+    const StageTool* tool = viewWidget->stage().activeTool();
+    if (tool != nullptr && mode == Attendance::Attended && !isReplaying()) {
+        docks->showPanelOf(QLatin1String(tool->name()));
+    }
+}
+
+void MainWindow::showWhole(bool on)
+{
+    if (fullScreen.set(on)) {
+        viewWidget->setFocus();
+        actions->update();
+    }
+}
+
+void MainWindow::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() != Qt::Key_Escape) {
+        QMainWindow::keyPressEvent(event);
+    } else if (loader->isRunning()) {
+        stopLoading();
+    } else {
+        showWhole(false);
+    }
+}
+
 void MainWindow::closeEvent(QCloseEvent* event)
 {
     loader->cancel();
     sessionPlayer->stop();
     if (mode == Attendance::Attended) {
-        QSettings().setValue(kLayoutKey, saveState());
+        showWhole(false);
+        memory::keepLayout(*this, memory::stateOf(*this));
     }
     QMainWindow::closeEvent(event);
 }
@@ -310,27 +343,6 @@ void MainWindow::replay(const Session& session, const std::optional<QDir>& pictu
     }
     showStartScene();
     beginReplay();
-}
-
-bool MainWindow::setStageFor(const Session& session, QString& error)
-{
-    Stage& stage = viewWidget->stage();
-    stage.gizmo().resetSettings();
-    if (session.camera) {
-        stage.setPose(poseOf(*session.camera));
-    }
-    if (session.selection && !stage.selectByName(session.selection->toStdString())) {
-        error = QStringLiteral("the session begins with \"%1\" selected, which is not there")
-                    .arg(*session.selection);
-        return false;
-    }
-    if (!session.manipulator.isEmpty()) {
-        if (!stage.showManipulator(session.manipulator.toStdString())) {
-            error = QStringLiteral("manipulator: unknown name \"%1\"").arg(session.manipulator);
-            return false;
-        }
-    }
-    return true;
 }
 
 void MainWindow::beginReplay()
@@ -354,7 +366,7 @@ void MainWindow::beginReplay()
     const Session session = *pendingSession;
     pendingSession.reset();
     QString error;
-    if (!setStageFor(session, error)) {
+    if (!beginSession(viewWidget->stage(), session, error)) {
         viewWidget->fixSize({});
         emit problem(error);
         return;

@@ -3,7 +3,9 @@
 
 #include "viewer/core/GizmoController.h"
 #include "viewer/core/Session.h"
+#include "viewer/gui/FullScreen.h"
 #include "viewer/gui/ModelLoader.h"
+#include "viewer/gui/Theme.h"
 
 #include <OpenSG/OSGConfig.h>
 #include <OpenSG/OSGVector.h>
@@ -66,6 +68,18 @@ public:
     // == View
 
     void showEffectBuffer(bool on);
+    /// Changes the colours of the program and, with a person there, remembers them.
+    void setTheme(Theme theme);
+
+    Theme theme() const { return shownTheme; }
+
+    /// Lets the view alone fill the screen, or shows the window as it was before.
+    void showWhole(bool on);
+
+    bool isWhole() const { return fullScreen.isOn(); }
+
+    /// Brings the panel of the active tool to the front, if a person uses the window.
+    void showPanelOfTool();
     /// Makes the window as large as a view of this size needs; a person may change it afterwards.
     void suggestViewSize(const QSize& sizePx);
 
@@ -93,16 +107,18 @@ signals:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    /// Escape, where nothing else wants it: stops loading, or leaves the full screen.
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void setShownTitle(const QString& name);
     void updateStatus();
     void showLoadedModels();
     void addRecentFiles(const QStringList& files);
+    void stopLoading();
     void handleDroppedFiles(const QStringList& files, const osg::Pnt2f& px);
     void replayFile(const QString& path);
     void beginReplay();
-    bool setStageFor(const Session& session, QString& error);
     void concludeReplay();
     void saveRecording();
 
@@ -115,8 +131,10 @@ private:
     WindowActions* actions = nullptr;
 
     StatusLine* statusLine = nullptr;
+    FullScreen fullScreen;
     PanelDocks* docks = nullptr;
 
+    Theme shownTheme = Theme::System;
     QStringList shownFiles;
     QStringList openingFiles;
     Opening openingMode = Opening::Replace;

@@ -4,6 +4,7 @@
 #include "viewer/core/PictureFile.h"
 #include "viewer/core/Stage.h"
 #include "viewer/gui/MaterialPicture.h"
+#include "viewer/gui/PanelScrollArea.h"
 #include "viewer/gui/VectorEdit.h"
 
 #include <QButtonGroup>
@@ -14,7 +15,6 @@
 #include <QJsonArray>
 #include <QLabel>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QSignalBlocker>
 #include <QSlider>
 #include <QToolButton>
@@ -113,12 +113,9 @@ MaterialPanel::MaterialPanel(Stage& targetStage, QWidget* parent)
 {
     auto* outer = new QVBoxLayout(this);
     outer->setContentsMargins(0, 0, 0, 0);
-    auto* area = new QScrollArea(this);
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
+    auto* all = new QWidget(this);
+    auto* area = new PanelScrollArea(all, this);
     outer->addWidget(area);
-    auto* all = new QWidget(area);
-    area->setWidget(all);
     auto* column = new QVBoxLayout(all);
     hint = new QLabel(all);
     hint->setObjectName(QStringLiteral("materialHint"));
@@ -148,6 +145,8 @@ MaterialPanel::MaterialPanel(Stage& targetStage, QWidget* parent)
     }
     addCoverageRow(*projectionRows);
     tool.preview().setRefreshCallback([this] { refreshPicture(); });
+    // While the rows of all projections still count.
+    area->measure();
     refresh();
 }
 
@@ -194,7 +193,7 @@ QAbstractButton* MaterialPanel::addHandleButton(QBoxLayout& row, const char* gro
     button->setCheckable(true);
     button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     // Keys are for the view, whatever was clicked last.
-    button->setFocusPolicy(Qt::NoFocus);
+    button->setFocusPolicy(Qt::TabFocus);
     handleButtons->addButton(button);
     row.addWidget(button);
     return button;
@@ -244,11 +243,10 @@ void MaterialPanel::addHandleRows(QBoxLayout& column)
     handleSize = new QSlider(Qt::Horizontal, this);
     handleSize->setObjectName(QStringLiteral("texture.handleSize"));
     handleSize->setRange(0, static_cast<int>(kPercent));
-    connect(handleSize, &QSlider::valueChanged, this, [this](int percent) {
+    connectSlider(*handleSize, QStringLiteral("texture.handleSize"), [this](int percent) {
         const TextureGizmos::Size size = tool.handleSize();
-        run(QStringLiteral("texture.handleSize"),
-            static_cast<double>(size.least) +
-                static_cast<double>(size.most - size.least) * percent / kPercent);
+        return static_cast<double>(size.least) +
+            static_cast<double>(size.most - size.least) * percent / kPercent;
     });
     form->addRow(tr("Handle size"), handleSize);
 }
@@ -288,6 +286,10 @@ void MaterialPanel::addValueRows(QBoxLayout& column, const char* word)
     if (QLatin1String(word) == QLatin1String("planar")) {
         addSwitches(*itsColumn);
         addSceneRows(*itsColumn);
+    } else if (QLatin1String(word) == QLatin1String("uv")) {
+        addSwitch(*itsColumn, "texture.uvKeepAspect", tr("Keep aspect"));
+    } else if (QLatin1String(word) == QLatin1String("triplanar")) {
+        addSwitch(*itsColumn, "texture.ringsTilted", tr("Turn rings seen edge-on"));
     } else if (QLatin1String(word) == QLatin1String("tire")) {
         addSwitch(*itsColumn, "texture.tireFit", tr("Fit to the object"));
     }
@@ -340,9 +342,8 @@ void MaterialPanel::addSceneRows(QBoxLayout& column)
     transparency->setObjectName(QStringLiteral("texture.planeTransparency"));
     transparency->setRange(0, static_cast<int>(kPercent));
     transparency->setToolTip(tr("How far one sees through the shown projection"));
-    connect(transparency, &QSlider::valueChanged, this, [this](int percent) {
-        run(QStringLiteral("texture.planeTransparency"), percent / kPercent);
-    });
+    connectSlider(*transparency, QStringLiteral("texture.planeTransparency"),
+                  [](int percent) { return percent / kPercent; });
     auto* form = new QFormLayout;
     form->addRow(tr("Transparency"), transparency);
     column.addLayout(form);

@@ -35,6 +35,8 @@ public:
 
     void refresh() override;
 
+    bool needsScrolling() const override { return false; }
+
 private:
     void addPictureRows(QFormLayout& form);
     void addProjectionRow(QBoxLayout& column);

@@ -3,15 +3,29 @@
 
 #include "viewer/core/ModelReader.h"
 
+#include <nbInteraction/PickTreeBuilder.h>
+
 #include <QThread>
+#include <QTimer>
 
 #include <algorithm>
 
 namespace viewer {
+namespace {
+
+constexpr double kPercent = 100.0;
+
+/// Of the whole time; reading and converting take longer than trees by far.
+constexpr double kReadingShare = 0.75;
+
+}  // namespace
 
 ModelLoader::ModelLoader(QObject* parent)
     : QObject(parent)
-{ }
+{
+    // Goes from thread to thread by value.
+    qRegisterMetaType<Phase>();
+}
 
 ModelLoader::~ModelLoader()
 {
@@ -25,17 +39,12 @@ ModelLoader::~ModelLoader()
 void ModelLoader::start(const QStringList& files)
 {
     cancel();
-    const auto reading = std::make_shared<Reading>();
-    reading->files = files;
-    current = reading;
-    QThread* thread = QThread::create([this, reading] { read(reading); });
-    threads.push_back(thread);
-    connect(thread, &QThread::finished, this, [this, thread, reading] {
-        threads.erase(std::remove(threads.begin(), threads.end(), thread), threads.end());
-        thread->deleteLater();
-        conclude(reading);
-    });
-    thread->start();
+    const auto loading = std::make_shared<Loading>();
+    loading->files = files;
+    current = loading;
+    // The thread's own count of the loading would end in the thread; then() keeps one here.
+    runThread(
+        loading, [this, raw = loading.get()] { read(*raw); }, [this, loading] { build(loading); });
 }
 
 void ModelLoader::cancel()
@@ -51,47 +60,98 @@ bool ModelLoader::isRunning() const
     return current != nullptr;
 }
 
-std::vector<ModelData> ModelLoader::takeModels()
+std::vector<BuiltModel> ModelLoader::takeModels()
 {
     return std::move(models);
 }
 
-/// Runs in the thread; touches nothing but the reading, and signals only through the event queue.
-void ModelLoader::read(const std::shared_ptr<Reading>& reading)
+void ModelLoader::runThread(const Shared& loading, std::function<void()> work,
+                            std::function<void()> then)
 {
-    constexpr double kPercent = 100.0;
-    const int count = reading->files.size();
-    for (int i = 0; i < count && !reading->cancelled; ++i) {
-        const QString& file = reading->files.at(i);
-        int lastPercent = -1;
-        const auto report = [&](double fraction) {
-            const int percent = qRound(kPercent * (i + fraction) / count);
-            if (percent != lastPercent && !reading->cancelled) {
-                lastPercent = percent;
-                emit progressed(file, percent);
-            }
-            return !reading->cancelled;
+    QThread* thread = QThread::create(std::move(work));
+    threads.push_back(thread);
+    connect(thread, &QThread::finished, this, [this, thread, loading, next = std::move(then)] {
+        threads.erase(std::remove(threads.begin(), threads.end(), thread), threads.end());
+        thread->deleteLater();
+        if (loading == current) {
+            next();
+        }
+    });
+    thread->start();
+}
+
+/// Any thread. @return whether to go on
+bool ModelLoader::report(Loading& loading, Phase phase, int file, double fraction)
+{
+    const int percent = qRound(kPercent * fraction);
+    if (percent > loading.lastPercent && !loading.cancelled) {
+        loading.lastPercent = percent;
+        emit progressed(phase, loading.files.value(file), percent);
+    }
+    return !loading.cancelled;
+}
+
+/// Runs in a thread; touches nothing but the loading, and signals only through the event queue.
+void ModelLoader::read(Loading& loading)
+{
+    const int count = loading.files.size();
+    for (int i = 0; i < count && !loading.cancelled; ++i) {
+        const auto progress = [&](double fraction) {
+            return report(loading, Phase::Reading, i, kReadingShare * (i + fraction) / count);
         };
-        report(0.0);
-        std::optional<ModelData> model = readModelFile(file, report, reading->error);
+        progress(0.0);
+        std::optional<ModelData> model =
+            readModelFile(loading.files.at(i), progress, loading.error);
         if (!model) {
             return;
         }
-        reading->models.push_back(std::move(*model));
+        loading.models.push_back(std::move(*model));
     }
 }
 
-void ModelLoader::conclude(const std::shared_ptr<Reading>& reading)
+void ModelLoader::build(const Shared& loading)
 {
-    if (reading != current) {
+    if (!loading->error.isEmpty()) {
+        current.reset();
+        emit failed(loading->error);
         return;
     }
+    const std::size_t done = loading->built.size();
+    report(*loading, Phase::Preparing, static_cast<int>(done), kReadingShare);
+    if (done < loading->models.size()) {
+        loading->built.push_back(buildModel(loading->models[done]));
+        loading->models[done] = ModelData();  // whose memory the next one may need
+        QTimer::singleShot(0, this, [this, loading] {
+            if (loading == current) {
+                build(loading);
+            }
+        });
+        return;
+    }
+    buildTrees(loading);
+}
+
+void ModelLoader::buildTrees(const Shared& loading)
+{
+    std::vector<osg::NodePtr> roots;
+    for (const BuiltModel& model : loading->built) {
+        roots.push_back(model.root.get());
+    }
+    loading->trees = std::make_unique<nbec::interaction::PickTreeBuilder>(roots);
+    const auto work = [this, raw = loading.get()] {
+        raw->trees->build([this, raw](double fraction) {
+            return report(*raw, Phase::Preparing, raw->files.size() - 1,
+                          kReadingShare + (1.0 - kReadingShare) * fraction);
+        });
+    };
+    runThread(loading, work, [this, loading] { conclude(loading); });
+}
+
+void ModelLoader::conclude(const Shared& loading)
+{
     current.reset();
-    if (!reading->error.isEmpty()) {
-        emit failed(reading->error);
-        return;
-    }
-    models = std::move(reading->models);
+    loading->trees->adopt();
+    models = std::move(loading->built);
     emit finished();
 }
 

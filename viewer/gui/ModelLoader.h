@@ -2,62 +2,92 @@
 #pragma once
 
 #include "viewer/core/ModelData.h"
+#include "viewer/core/SceneBuilder.h"
 
 #include <QObject>
 #include <QStringList>
 
 #include <atomic>
+#include <functional>
 #include <memory>
 #include <vector>
 
 class QThread;
 
+namespace nbec::interaction {
+class PickTreeBuilder;
+}  // namespace nbec::interaction
+
 namespace viewer {
 
-/// Reads model files in a thread of its own; one reading at a time.
+/// Makes models of files without keeping the window waiting; one loading at a time.
+///
+/// Files are read in a thread. Then the nodes are made, in the user-interface thread, to which the
+/// scene graph belongs; between two models it handles events. The search trees of the nodes, which
+/// the first click would otherwise wait for, are built in a thread again. Nothing hangs in the
+/// scene until the models are taken, so that a loading which is given up leaves no trace.
 class ModelLoader : public QObject
 {
     Q_OBJECT
 
 public:
+    /// What is being done.
+    enum class Phase
+    {
+        Reading,
+        Preparing  ///< nodes and search trees
+    };
+    Q_ENUM(Phase)
+
     explicit ModelLoader(QObject* parent = nullptr);
     ModelLoader(const ModelLoader&) = delete;
     ModelLoader& operator=(const ModelLoader&) = delete;
-    /// Stops a running reading and waits for its thread.
+    /// Stops a running loading and waits for its threads.
     ~ModelLoader() override;
 
-    /// Begins to read; a running reading is given up without a word. Answers with finished() or
+    /// Begins to load; a running loading is given up without a word. Answers with finished() or
     /// failed() later.
     void start(const QStringList& files);
-    /// Gives a running reading up; neither finished() nor failed() comes.
+    /// Gives a running loading up; neither finished() nor failed() comes.
     void cancel();
     bool isRunning() const;
-    /// Hands over what the last successful reading gave, one model for each file; empties the
-    /// store.
-    std::vector<ModelData> takeModels();
+    /// Hands over what the last successful loading gave, one model for each file, with search
+    /// trees; empties the store.
+    std::vector<BuiltModel> takeModels();
 
 signals:
-    /// @param percent  0 .. 100 of all files
-    void progressed(const QString& file, int percent);
+    /// @param file  that is being read or prepared
+    /// @param percent  0 .. 100 of everything, never falling
+    void progressed(viewer::ModelLoader::Phase phase, const QString& file, int percent);
     void finished();
     /// @param reason  one line that begins with the file
     void failed(const QString& reason);
 
 private:
-    /// What one reading shares with its thread.
-    struct Reading
+    /// What one loading shares with its threads.
+    struct Loading
     {
         QStringList files;
         std::vector<ModelData> models;
+        std::vector<BuiltModel> built;  ///< touched in the user-interface thread only
+        std::unique_ptr<nbec::interaction::PickTreeBuilder> trees;
         QString error;
         std::atomic<bool> cancelled { false };
+        std::atomic<int> lastPercent { -1 };
     };
 
-    void read(const std::shared_ptr<Reading>& reading);
-    void conclude(const std::shared_ptr<Reading>& reading);
+    using Shared = std::shared_ptr<Loading>;
 
-    std::shared_ptr<Reading> current;
-    std::vector<ModelData> models;
+    /// Does work in a thread, then the next step in this one unless the loading was given up.
+    void runThread(const Shared& loading, std::function<void()> work, std::function<void()> then);
+    bool report(Loading& loading, Phase phase, int file, double fraction);
+    void read(Loading& loading);
+    void build(const Shared& loading);
+    void buildTrees(const Shared& loading);
+    void conclude(const Shared& loading);
+
+    Shared current;
+    std::vector<BuiltModel> models;
     std::vector<QThread*> threads;
 };
 

@@ -1,8 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "viewer/core/Commands.h"
+
 #include <QJsonValue>
 #include <QWidget>
+
+#include <functional>
+
+class QSlider;
 
 namespace viewer {
 
@@ -25,6 +31,9 @@ public:
     /// a person would take for an edit.
     virtual void refresh() = 0;
 
+    /// Whether the panel is of a fixed height, so that a window with little room has to scroll it.
+    virtual bool needsScrolling() const { return true; }
+
 signals:
     /// What could not be done, one line.
     void problem(const QString& text);
@@ -34,7 +43,13 @@ protected:
 
     /// Runs a command of the stage; a refusal becomes a problem(), and the panel shows again what
     /// is. @return whether it was done
-    bool run(const QString& command, const QJsonValue& value = {});
+    bool run(const QString& command, const QJsonValue& value = {},
+             Commands::Moment moment = Commands::Moment::Final);
+
+    /// Lets a slider run a command with every value, of which only the last one of a drag is final.
+    /// @param valueOf  what the command is to get for a position of the slider
+    void connectSlider(const QSlider& slider, const QString& command,
+                       std::function<QJsonValue(int)> valueOf);
 
 private:
     Stage& shownStage;

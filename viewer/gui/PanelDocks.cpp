@@ -2,8 +2,10 @@
 #include "viewer/gui/PanelDocks.h"
 
 #include "viewer/core/Stage.h"
+#include "viewer/gui/LogPanel.h"
 #include "viewer/gui/MaterialPanel.h"
 #include "viewer/gui/ObjectPanel.h"
+#include "viewer/gui/PanelScrollArea.h"
 #include "viewer/gui/PerspectiveMatchPanel.h"
 #include "viewer/gui/PlatesPanel.h"
 #include "viewer/gui/ScenePanel.h"
@@ -24,6 +26,8 @@ constexpr int kShareOfObjects = 3;
 constexpr int kShareOfProperties = 4;
 constexpr int kShareOfSteps = 2;
 
+constexpr int kMessagesHeight = 150;  ///< logical pixels, at first
+
 }  // namespace
 
 PanelDocks::PanelDocks(QMainWindow& targetWindow, Stage& targetStage)
@@ -33,6 +37,7 @@ PanelDocks::PanelDocks(QMainWindow& targetWindow, Stage& targetStage)
 {
     addSteps();
     addPanels();
+    addLog();
 }
 
 PanelDocks::~PanelDocks()
@@ -47,7 +52,8 @@ void PanelDocks::addSteps()
     undoView->setObjectName(QStringLiteral("undoList"));
     undoView->setEmptyLabel(tr("As opened"));
     // Keys are for the view, whatever was clicked last.
-    undoView->setFocusPolicy(Qt::NoFocus);
+    undoView->setFocusPolicy(Qt::TabFocus);
+    undoView->setAccessibleName(tr("Steps"));
     stepsDock = addDock(undoView, tr("Steps"), QStringLiteral("undoDock"));
     connect(stack, &QUndoStack::indexChanged, this, [this] { stage.edited(); });
 }
@@ -56,10 +62,20 @@ void PanelDocks::addPanels()
 {
     sceneDock = addPanel(new ScenePanel(stage), tr("Objects"), QStringLiteral("sceneDock"));
     objectDock = addPanel(new ObjectPanel(stage), tr("Properties"), QStringLiteral("objectDock"));
-    addPanel(new MaterialPanel(stage), tr("Material"), QStringLiteral("materialDock"));
-    addPanel(new PerspectiveMatchPanel(stage), tr("Perspective match"),
-             QStringLiteral("matchDock"));
-    addPanel(new PlatesPanel(stage), tr("Scene plates"), QStringLiteral("platesDock"));
+    toolDocks[QStringLiteral("texture")] =
+        addPanel(new MaterialPanel(stage), tr("Material"), QStringLiteral("materialDock"));
+    toolDocks[QStringLiteral("match")] = addPanel(
+        new PerspectiveMatchPanel(stage), tr("Perspective match"), QStringLiteral("matchDock"));
+    toolDocks[QStringLiteral("plates")] =
+        addPanel(new PlatesPanel(stage), tr("Scene plates"), QStringLiteral("platesDock"));
+}
+
+void PanelDocks::addLog()
+{
+    logPanel = new LogPanel;
+    logDock = addDock(logPanel, tr("Messages"), QStringLiteral("logDock"));
+    window.addDockWidget(Qt::BottomDockWidgetArea, logDock);
+    logDock->hide();
 }
 
 QDockWidget* PanelDocks::addDock(QWidget* content, const QString& title, const QString& name)
@@ -75,7 +91,11 @@ QDockWidget* PanelDocks::addDock(QWidget* content, const QString& title, const Q
 
 QDockWidget* PanelDocks::addPanel(Panel* panel, const QString& title, const QString& name)
 {
-    QDockWidget* dock = addDock(panel, title, name);
+    QWidget* content = panel;
+    if (panel->needsScrolling()) {
+        content = new PanelScrollArea(panel);
+    }
+    QDockWidget* dock = addDock(content, title, name);
     panels.append(panel);
     connect(panel, &Panel::problem, this, &PanelDocks::problem);
     connect(dock, &QDockWidget::visibilityChanged, panel, [panel] { panel->refresh(); });
@@ -89,10 +109,13 @@ void PanelDocks::arrange()
     const QList<QDockWidget*> shown { sceneDock, objectDock, stepsDock };
     for (QDockWidget* dock : docks) {
         dock->setVisible(shown.contains(dock));
-        if (!shown.contains(dock)) {
+        if (!shown.contains(dock) && dock != logDock) {
             window.tabifyDockWidget(objectDock, dock);
         }
     }
+    // The panels have the whole height, messages only the width of the view.
+    window.setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+    window.resizeDocks({ logDock }, { kMessagesHeight }, Qt::Vertical);
     window.resizeDocks(shown, { kShareOfObjects, kShareOfProperties, kShareOfSteps }, Qt::Vertical);
 }
 
@@ -103,6 +126,41 @@ QList<QAction*> PanelDocks::actions() const
         all.append(dock->toggleViewAction());
     }
     return all;
+}
+
+void PanelDocks::showPanelOf(const QString& tool)
+{
+    if (QDockWidget* dock = toolDocks.value(tool)) {
+        dock->show();
+        dock->raise();
+    }
+}
+
+void PanelDocks::focusNext(QWidget* view)
+{
+    QList<QWidget*> places { view };
+    int present = 0;
+    for (QDockWidget* dock : docks) {
+        // Of docks that lie on each other one is seen.
+        if (dock->isVisible() && !dock->visibleRegion().isEmpty()) {
+            if (dock->isAncestorOf(window.focusWidget())) {
+                present = places.size();
+            }
+            places.append(dock->widget());
+        }
+    }
+    QWidget* place = places.at((present + 1) % places.size());
+    // A panel itself takes no keys, but the first thing in it.
+    for (QWidget* next = place; next != nullptr;) {
+        if (next->isVisible() && next->isEnabled() && (next->focusPolicy() & Qt::TabFocus) != 0) {
+            next->setFocus(Qt::TabFocusReason);
+            return;
+        }
+        next = next->nextInFocusChain();
+        if (next == place) {
+            return;
+        }
+    }
 }
 
 void PanelDocks::refresh()

@@ -2,19 +2,23 @@
 #pragma once
 
 #include <QList>
+#include <QMap>
 #include <QObject>
+#include <QString>
 
 class QAction;
 class QDockWidget;
 class QMainWindow;
 class QUndoView;
+class QWidget;
 
 namespace viewer {
 
+class LogPanel;
 class Panel;
 class Stage;
 
-/// The docks at the side of the window: the list of steps and the panels.
+/// The docks of the window: panels and the list of steps at its side, messages below the view.
 class PanelDocks : public QObject
 {
     Q_OBJECT
@@ -36,6 +40,15 @@ public:
     /// Brings the panels that are seen up to date.
     void refresh();
 
+    /// Shows the panel that belongs to a tool of the stage, in front of others.
+    /// @param tool  name of the tool; one without panel does nothing
+    void showPanelOf(const QString& tool);
+
+    /// Gives the keys to the next panel that is seen, after the last one to the view.
+    void focusNext(QWidget* view);
+
+    LogPanel& log() { return *logPanel; }
+
 signals:
     /// What a panel could not do, one line.
     void problem(const QString& text);
@@ -43,6 +56,7 @@ signals:
 private:
     void addSteps();
     void addPanels();
+    void addLog();
     QDockWidget* addDock(QWidget* content, const QString& title, const QString& name);
     QDockWidget* addPanel(Panel* panel, const QString& title, const QString& name);
 
@@ -52,6 +66,9 @@ private:
     QDockWidget* stepsDock = nullptr;
     QDockWidget* sceneDock = nullptr;
     QDockWidget* objectDock = nullptr;
+    QDockWidget* logDock = nullptr;
+    LogPanel* logPanel = nullptr;
+    QMap<QString, QDockWidget*> toolDocks;  ///< by the names of the tools
     QList<QDockWidget*> docks;
     QList<Panel*> panels;
 };

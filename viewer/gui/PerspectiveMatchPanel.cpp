@@ -123,7 +123,7 @@ void PerspectiveMatchPanel::addPhotograph(QFormLayout& form)
     auto* open = new QPushButton(tr("Open…"), this);
     remove = new QPushButton(tr("Remove"), this);
     for (QPushButton* button : { open, remove }) {
-        button->setFocusPolicy(Qt::NoFocus);
+        button->setFocusPolicy(Qt::TabFocus);
     }
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(open);
@@ -134,12 +134,11 @@ void PerspectiveMatchPanel::addPhotograph(QFormLayout& form)
             [this] { run(QStringLiteral("match.setPhotograph"), QString()); });
     veil = new QSlider(Qt::Horizontal, this);
     veil->setObjectName(QStringLiteral("matchVeil"));
-    veil->setFocusPolicy(Qt::NoFocus);
+    veil->setFocusPolicy(Qt::TabFocus);
     veil->setRange(0, kPercent);
     form.addRow(tr("Over the models"), veil);
-    connect(veil, &QSlider::valueChanged, this, [this](int value) {
-        run(QStringLiteral("match.setVeil"), static_cast<double>(value) / kPercent);
-    });
+    connectSlider(*veil, QStringLiteral("match.setVeil"),
+                  [](int value) { return static_cast<double>(value) / kPercent; });
 }
 
 QCheckBox* PerspectiveMatchPanel::addSwitch(QFormLayout& form, const char* name,
@@ -148,7 +147,7 @@ QCheckBox* PerspectiveMatchPanel::addSwitch(QFormLayout& form, const char* name,
     auto* box = new QCheckBox(this);
     box->setObjectName(QLatin1String(name));
     // Keys are for the view.
-    box->setFocusPolicy(Qt::NoFocus);
+    box->setFocusPolicy(Qt::TabFocus);
     form.addRow(label, box);
     connect(box, &QCheckBox::toggled, this, [this, command](bool on) { run(command, on); });
     return box;
@@ -160,7 +159,7 @@ QComboBox* PerspectiveMatchPanel::addChoice(QFormLayout& form, const char* name,
 {
     auto* box = new QComboBox(this);
     box->setObjectName(QLatin1String(name));
-    box->setFocusPolicy(Qt::NoFocus);
+    box->setFocusPolicy(Qt::TabFocus);
     box->addItems(texts);
     form.addRow(label, box);
     connect(box, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
@@ -184,12 +183,16 @@ void PerspectiveMatchPanel::addMagnifier(QFormLayout& form)
 
 void PerspectiveMatchPanel::addLines(QGridLayout& grid)
 {
+    const QString names[kNumbersPerLine] = { tr("Line %1, start, across"), tr("Line %1, start, up"),
+                                             tr("Line %1, end, across"), tr("Line %1, end, up") };
     for (int line = 0; line < PerspectiveMatchTool::kLineCount; ++line) {
         const QString word = QLatin1String(PerspectiveMatchTool::lineName(line));
         grid.addWidget(new QLabel(word.toUpper(), this), line, 0);
         for (int i = 0; i < kNumbersPerLine; ++i) {
             auto* box = new QDoubleSpinBox(this);
             box->setObjectName(QStringLiteral("matchLine_%1_%2").arg(word).arg(i));
+            box->setAccessibleName(names[i].arg(word.toUpper()));
+            box->setToolTip(box->accessibleName());
             box->setLocale(QLocale::c());
             box->setDecimals(kDecimals);
             box->setSingleStep(kStep);
@@ -210,7 +213,7 @@ QPushButton* PerspectiveMatchPanel::addButton(const char* name, const QString& t
 {
     auto* button = new QPushButton(text, this);
     button->setObjectName(QLatin1String(name));
-    button->setFocusPolicy(Qt::NoFocus);
+    button->setFocusPolicy(Qt::TabFocus);
     connect(button, &QPushButton::clicked, this, [this, command] { run(command); });
     return button;
 }
@@ -270,10 +273,10 @@ void PerspectiveMatchPanel::refresh()
             box->setEnabled(canEdit);
         }
     }
-    display(
-        result,
-        tool.resultText() +
-            tr(" Field of view %1°.").arg(static_cast<double>(stage().pose().fovDeg), 0, 'f', 2));
+    const auto fovDeg = static_cast<double>(stage().pose().fovDeg);
+    display(result,
+            tr("%1 Field of view %2°.", "sentence, number")
+                .arg(tool.resultText(), QString::number(fovDeg, 'f', 2)));
 }
 
 }  // namespace viewer

@@ -5,6 +5,7 @@
 #include "viewer/core/PlateFields.h"
 #include "viewer/core/PlateText.h"
 #include "viewer/core/Stage.h"
+#include "viewer/gui/ThemeIcon.h"
 #include "viewer/gui/VectorEdit.h"
 
 #include <nbOpenSGSceneplate/nbSceneplateList.h>
@@ -106,16 +107,17 @@ QBoxLayout* PlatesPanel::createButtons()
     const struct
     {
         const char* command;
-        QString text;
+        const char* icon;
         QString tip;
     } rows[] = {
-        { "plates.forward", QStringLiteral("▲"), tr("Bring forward") },
-        { "plates.backward", QStringLiteral("▼"), tr("Send backward") },
-        { "plates.remove", QStringLiteral("✕"), tr("Delete") },
+        { "plates.forward", "forward", tr("Bring forward") },
+        { "plates.backward", "backward", tr("Send backward") },
+        { "plates.remove", "delete", tr("Delete") },
     };
 
     for (const auto& entry : rows) {
-        QToolButton* button = addButton(row, entry.command, entry.text, entry.tip);
+        QToolButton* button = addButton(row, entry.command, {}, entry.tip);
+        button->setIcon(themeIcon(QLatin1String(entry.icon)));
         button->setAccessibleName(entry.tip);
         connect(button, &QToolButton::clicked, this,
                 [this, command = entry.command] { run(QLatin1String(command)); });

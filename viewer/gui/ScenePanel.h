@@ -23,6 +23,8 @@ public:
 
     void refresh() override;
 
+    bool needsScrolling() const override { return false; }
+
 private:
     void rebuild();
     void addObjects(const osg::NodePtr& parent, const QString& parentPath, QTreeWidgetItem* item);

@@ -3,6 +3,7 @@
 
 #include "viewer/core/Stage.h"
 #include "viewer/core/StageTool.h"
+#include "viewer/gui/ThemeIcon.h"
 
 #include <QFileInfo>
 #include <QLabel>
@@ -13,7 +14,7 @@
 namespace viewer {
 namespace {
 
-constexpr int kProgressWidth = 180;
+constexpr int kNameWidth = 160;  ///< of a file, logical pixels
 constexpr int kPercent = 100;
 
 void setTextOf(QLabel* label, const QString& text)
@@ -27,12 +28,11 @@ QString selectionText(const Stage& stage)
 {
     const QString selected = QString::fromStdString(stage.selectedName());
     const auto further = static_cast<int>(stage.selectedObjects().size()) - 1;
-    QString text = selected.isEmpty() ? StatusLine::tr("Nothing selected")
-                                      : StatusLine::tr("Selected: %1").arg(selected);
-    if (further > 0) {
-        text += StatusLine::tr(" and %n more", nullptr, further);
+    if (selected.isEmpty()) {
+        return StatusLine::tr("Nothing selected");
     }
-    return text;
+    return further > 0 ? StatusLine::tr("Selected: %1 and %n more", nullptr, further).arg(selected)
+                       : StatusLine::tr("Selected: %1").arg(selected);
 }
 
 QString pointerText(Stage& stage)
@@ -58,8 +58,15 @@ StatusLine::StatusLine(QStatusBar& bar)
 {
     valuesLabel->setObjectName(QStringLiteral("values"));
     progress->setRange(0, kPercent);
-    progress->setFixedWidth(kProgressWidth);
-    cancelButton->setText(tr("Stop loading"));
+    progress->setObjectName(QStringLiteral("progress"));
+    progress->setAccessibleName(tr("Progress of loading"));
+    progress->setAlignment(Qt::AlignCenter);
+    cancelButton->setObjectName(QStringLiteral("stopLoading"));
+    cancelButton->setText(tr("Stop"));
+    cancelButton->setIcon(themeIcon(QStringLiteral("cancel")));
+    cancelButton->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    cancelButton->setAccessibleName(tr("Stop loading"));
+    cancelButton->setToolTip(tr("Stop loading (Esc); the scene stays as it is"));
     connect(cancelButton, &QToolButton::clicked, this, &StatusLine::stopLoadingAsked);
     bar.addWidget(selectionLabel);
     bar.addWidget(handleLabel);
@@ -83,11 +90,20 @@ void StatusLine::update(Stage& stage, bool isLoading)
     cancelButton->setVisible(isLoading);
 }
 
-void StatusLine::setProgress(const QString& file, int percent)
+void StatusLine::setProgress(ModelLoader::Phase phase, const QString& file, int percent)
 {
+    const QString name =
+        progress->fontMetrics().elidedText(QFileInfo(file).fileName(), Qt::ElideMiddle, kNameWidth);
+    // A percent sign of a name is not one of the format.
+    const QString shown = QString(name).replace(QLatin1Char('%'), QStringLiteral("％"));
+    const QString format = phase == ModelLoader::Phase::Reading
+        ? tr("Reading %1: %p%", "%p is the number").arg(shown)
+        : tr("Preparing %1: %p%", "%p is the number").arg(shown);
+    progress->setFormat(format);
     progress->setValue(percent);
-    progress->setFormat(file.isEmpty() ? QStringLiteral("%p%")
-                                       : QFileInfo(file).fileName() + QStringLiteral(" %p%"));
+    const int margin = progress->fontMetrics().height();
+    progress->setMinimumWidth(progress->fontMetrics().horizontalAdvance(progress->text()) +
+                              2 * margin);
 }
 
 }  // namespace viewer

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "viewer/gui/ModelLoader.h"
+
 #include <QObject>
 
 class QLabel;
@@ -24,7 +26,8 @@ public:
 
     /// Shows how it stands now.
     void update(Stage& stage, bool isLoading);
-    void setProgress(const QString& file, int percent);
+    /// @param percent  0 .. 100
+    void setProgress(ModelLoader::Phase phase, const QString& file, int percent);
 
 signals:
     void stopLoadingAsked();

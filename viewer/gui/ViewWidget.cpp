@@ -9,6 +9,7 @@
 #include <QDropEvent>
 #include <QMimeData>
 #include <QOpenGLContext>
+#include <QOpenGLFunctions>
 #include <QPainter>
 #include <QUrl>
 
@@ -33,6 +34,14 @@ bool isHuge(const QSize& sizePx)
 constexpr QSize kPreferredSize(1200, 800);
 constexpr QSize kSmallestSize(16, 16);
 
+QString graphicsText(QOpenGLFunctions& gl)
+{
+    const auto textOf = [&gl](GLenum name) {
+        return QString::fromLatin1(reinterpret_cast<const char*>(gl.glGetString(name)));
+    };
+    return QStringLiteral("%1, %2").arg(textOf(GL_VERSION), textOf(GL_RENDERER));
+}
+
 QStringList localFiles(const QMimeData* data)
 {
     QStringList files;
@@ -52,6 +61,7 @@ ViewWidget::ViewWidget(QWidget* parent)
     , translator(viewStage.interaction(), &renderWidget)
 {
     setObjectName(QStringLiteral("view"));
+    setAccessibleName(tr("View of the scene"));
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setAcceptDrops(true);
@@ -195,6 +205,7 @@ bool ViewWidget::event(QEvent* event)
 void ViewWidget::initializeGL()
 {
     connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, &ViewWidget::releaseGraphics);
+    graphicsName = graphicsText(*context()->functions());
     std::string reason;
     failed = !renderAction.initialise(&reason);
     if (failed) {

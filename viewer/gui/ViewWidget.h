@@ -46,6 +46,10 @@ public:
     /// Shows the effect buffer instead of the colours.
     void showEffectBuffer(bool on);
 
+    /// Version of OpenGL and name of the renderer, such as "4.5, llvmpipe"; empty before the first
+    /// picture.
+    const QString& graphics() const { return graphicsName; }
+
     QSize sizeHint() const override;
 
 signals:
@@ -86,6 +90,7 @@ private:
     QSize fixedSizePx;
     HandleCursor shownCursor;
     Qt::CursorShape hostCursor = Qt::ArrowCursor;
+    QString graphicsName;
     bool failed = false;
 };
 

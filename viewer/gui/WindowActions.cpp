@@ -2,10 +2,12 @@
 #include "viewer/gui/WindowActions.h"
 
 #include "viewer/core/Stage.h"
+#include "viewer/gui/AboutBox.h"
 #include "viewer/gui/MainWindow.h"
 #include "viewer/gui/PanelDocks.h"
 #include "viewer/gui/StepsPanel.h"
-#include "viewer/gui/ToolIcons.h"
+#include "viewer/gui/ThemeIcon.h"
+#include "viewer/gui/ViewWidget.h"
 
 #include <nbKernelServices/nbUndoService.h>
 
@@ -14,8 +16,6 @@
 #include <QFileInfo>
 #include <QMenu>
 #include <QMenuBar>
-#include <QToolBar>
-#include <QToolButton>
 #include <QUndoStack>
 #include <QWidgetAction>
 
@@ -33,13 +33,14 @@ struct ViewRow
 };
 
 constexpr ViewRow kViews[] = {
-    { "viewFront", "&Front", "1", View::Front },
-    { "viewBack", "&Back", "Ctrl+1", View::Back },
-    { "viewRight", "&Right", "3", View::Right },
-    { "viewLeft", "&Left", "Ctrl+3", View::Left },
-    { "viewTop", "&Top", "7", View::Top },
-    { "viewBottom", "B&ottom", "Ctrl+7", View::Bottom },
-    { "viewThreeQuarter", "Three-&quarter", "0", View::ThreeQuarter },
+    { "viewFront", QT_TRANSLATE_NOOP("viewer::WindowActions", "&Front"), "1", View::Front },
+    { "viewBack", QT_TRANSLATE_NOOP("viewer::WindowActions", "&Back"), "Ctrl+1", View::Back },
+    { "viewRight", QT_TRANSLATE_NOOP("viewer::WindowActions", "&Right"), "3", View::Right },
+    { "viewLeft", QT_TRANSLATE_NOOP("viewer::WindowActions", "&Left"), "Ctrl+3", View::Left },
+    { "viewTop", QT_TRANSLATE_NOOP("viewer::WindowActions", "&Top"), "7", View::Top },
+    { "viewBottom", QT_TRANSLATE_NOOP("viewer::WindowActions", "B&ottom"), "Ctrl+7", View::Bottom },
+    { "viewThreeQuarter", QT_TRANSLATE_NOOP("viewer::WindowActions", "Three-&quarter"), "0",
+      View::ThreeQuarter },
 };
 
 struct GizmoRow
@@ -50,20 +51,50 @@ struct GizmoRow
     Gizmo gizmo;
 };
 
-constexpr GizmoRow kGizmos[] = {
-    { "gizmoNone", "&None", "Q", Gizmo::None },
-    { "gizmoTranslate", "&Translate", "W", Gizmo::Translate },
-    { "gizmoRotate", "&Rotate", "E", Gizmo::Rotate },
-    { "gizmoScale", "&Scale", "R", Gizmo::Scale },
-    { "gizmoUniversal", "&Universal", "T", Gizmo::Universal },
-    { "gizmoTranslateRotate", "Translate, r&otate", "", Gizmo::TranslateRotate },
-    { "gizmoTranslateRotateScale", "Translate, rotate, s&cale", "", Gizmo::TranslateRotateScale },
-    { "gizmoTranslateRotateYZ", "Translate, rotate about &y and z", "", Gizmo::TranslateRotateYZ },
-    { "gizmoRotatePivot", "Rotate &pivot", "Shift+E", Gizmo::RotatePivot },
-    { "gizmoScalePivot", "Sca&le pivot", "Shift+R", Gizmo::ScalePivot },
-    { "gizmoClipping", "Clip plan&e", "", Gizmo::Clipping },
-    { "gizmoCamera", "Ca&mera pivot", "C", Gizmo::CameraPivot },
+struct ThemeRow
+{
+    const char* name;
+    const char* text;
+    Theme theme;
 };
+
+constexpr ThemeRow kThemes[] = {
+    { "themeSystem", QT_TRANSLATE_NOOP("viewer::WindowActions", "As the &desktop"), Theme::System },
+    { "themeLight", QT_TRANSLATE_NOOP("viewer::WindowActions", "&Light"), Theme::Light },
+    { "themeDark", QT_TRANSLATE_NOOP("viewer::WindowActions", "Dar&k"), Theme::Dark },
+};
+
+constexpr GizmoRow kGizmos[] = {
+    { "gizmoNone", QT_TRANSLATE_NOOP("viewer::WindowActions", "&None"), "Q", Gizmo::None },
+    { "gizmoTranslate", QT_TRANSLATE_NOOP("viewer::WindowActions", "&Translate"), "W",
+      Gizmo::Translate },
+    { "gizmoRotate", QT_TRANSLATE_NOOP("viewer::WindowActions", "&Rotate"), "E", Gizmo::Rotate },
+    { "gizmoScale", QT_TRANSLATE_NOOP("viewer::WindowActions", "&Scale"), "R", Gizmo::Scale },
+    { "gizmoUniversal", QT_TRANSLATE_NOOP("viewer::WindowActions", "&Universal"), "T",
+      Gizmo::Universal },
+    { "gizmoTranslateRotate", QT_TRANSLATE_NOOP("viewer::WindowActions", "Translate, r&otate"),
+      "Shift+W", Gizmo::TranslateRotate },
+    { "gizmoTranslateRotateScale",
+      QT_TRANSLATE_NOOP("viewer::WindowActions", "Translate, rotate, s&cale"), "Shift+Q",
+      Gizmo::TranslateRotateScale },
+    { "gizmoTranslateRotateYZ",
+      QT_TRANSLATE_NOOP("viewer::WindowActions", "Translate, rotate about &y and z"), "Shift+Y",
+      Gizmo::TranslateRotateYZ },
+    { "gizmoRotatePivot", QT_TRANSLATE_NOOP("viewer::WindowActions", "Rotate &pivot"), "Shift+E",
+      Gizmo::RotatePivot },
+    { "gizmoScalePivot", QT_TRANSLATE_NOOP("viewer::WindowActions", "Sca&le pivot"), "Shift+R",
+      Gizmo::ScalePivot },
+    { "gizmoClipping", QT_TRANSLATE_NOOP("viewer::WindowActions", "Clip plan&e"), "V",
+      Gizmo::Clipping },
+    { "gizmoCamera", QT_TRANSLATE_NOOP("viewer::WindowActions", "Ca&mera pivot"), "C",
+      Gizmo::CameraPivot },
+};
+
+QString withoutMnemonic(const QString& text)
+{
+    QString plain = text;
+    return plain.remove(QLatin1Char('&'));
+}
 
 }  // namespace
 
@@ -77,68 +108,85 @@ WindowActions::WindowActions(MainWindow& targetWindow, Stage& targetStage)
     addViewMenu();
     addManipulatorMenu();
     addSessionMenu();
-    addToolBar();
+    addHelpMenu();
     update();
 }
 
-QAction* WindowActions::add(QMenu* menu, const char* name, const QString& text, const QString& keys,
-                            std::function<void()> run)
+QAction* WindowActions::make(QMenu* menu, const char* name, const QString& text,
+                             const QString& keys)
 {
-    QAction* action = menu->addAction(text);
+    QAction* action = menu->addAction(themeIcon(QLatin1String(name)), text);
     action->setObjectName(QLatin1String(name));
     action->setShortcut(QKeySequence(keys, QKeySequence::PortableText));
-    connect(action, &QAction::triggered, this, [this, keys, run = std::move(run)] {
-        emit shortcutUsed(keys);
-        run();
-        update();
-    });
+    // So that shortcuts work while the menu bar is hidden.
+    window.addAction(action);
+    describe(action, withoutMnemonic(text));
     return action;
 }
 
-QAction* WindowActions::addSwitch(QMenu* menu, const char* name, const QString& text,
-                                  const QString& keys, std::function<void(bool)> run)
+void WindowActions::describe(QAction* action, const QString& tip)
 {
-    QAction* action = menu->addAction(text);
-    action->setObjectName(QLatin1String(name));
-    action->setShortcut(QKeySequence(keys, QKeySequence::PortableText));
-    action->setCheckable(true);
-    connect(action, &QAction::triggered, this, [this, keys, run = std::move(run)](bool on) {
-        emit shortcutUsed(keys);
+    const QString keys = action->shortcut().toString(QKeySequence::NativeText);
+    action->setToolTip(keys.isEmpty() ? tip : tr("%1 (%2)", "tip, shortcut").arg(tip, keys));
+}
+
+QAction* WindowActions::addPlain(QMenu* menu, const char* name, const QString& text,
+                                 const QString& keys, std::function<void(bool)> run)
+{
+    QAction* action = make(menu, name, text, keys);
+    connect(action, &QAction::triggered, this, [this, run = std::move(run)](bool on) {
         run(on);
         update();
     });
     return action;
 }
 
+QAction* WindowActions::add(QMenu* menu, const char* name, const QString& text, const QString& keys,
+                            std::function<void()> run)
+{
+    return addPlain(menu, name, text, keys, [this, keys, run = std::move(run)](bool) {
+        emit shortcutUsed(keys);
+        run();
+    });
+}
+
+QAction* WindowActions::addSwitch(QMenu* menu, const char* name, const QString& text,
+                                  const QString& keys, std::function<void(bool)> run)
+{
+    QAction* action = addPlain(menu, name, text, keys, [this, keys, run = std::move(run)](bool on) {
+        emit shortcutUsed(keys);
+        run(on);
+    });
+    action->setCheckable(true);
+    return action;
+}
+
 QAction* WindowActions::addCommand(QMenu* menu, const char* command, const QString& text,
                                    const QString& keys)
 {
-    QAction* action = menu->addAction(text);
-    action->setObjectName(QLatin1String(command));
-    action->setShortcut(QKeySequence(keys, QKeySequence::PortableText));
     // A recording gets the command itself, so the shortcut is not told.
-    connect(action, &QAction::triggered, this, [this, command] {
+    return addPlain(menu, command, text, keys, [this, command](bool) {
         QString error;
         if (!stage.commands().run(QLatin1String(command), {}, error)) {
             emit window.problem(error);
         }
-        update();
+        window.showPanelOfTool();
     });
-    return action;
 }
 
 void WindowActions::addFileMenu()
 {
     QMenu* menu = window.menuBar()->addMenu(tr("&File"));
-    open = add(menu, "fileOpen", tr("&Open…"), "Ctrl+O",
-               [this] { window.askForFiles(MainWindow::Opening::Replace); });
+    add(menu, "fileOpen", tr("&Open…"), "Ctrl+O",
+        [this] { window.askForFiles(MainWindow::Opening::Replace); });
     add(menu, "fileAdd", tr("&Add…"), "Ctrl+Shift+O",
         [this] { window.askForFiles(MainWindow::Opening::Add); });
     recentMenu = menu->addMenu(tr("Open &recent"));
+    recentMenu->setToolTipsVisible(true);
+    setRecentFiles({});
     add(menu, "fileStartScene", tr("S&tart scene"), "Ctrl+N", [this] { window.showStartScene(); });
     menu->addSeparator();
-    picture = add(menu, "filePicture", tr("Save &picture…"), "Ctrl+S",
-                  [this] { window.askForPicture(); });
+    add(menu, "filePicture", tr("Save &picture…"), "Ctrl+S", [this] { window.askForPicture(); });
     menu->addSeparator();
     add(menu, "fileQuit", tr("&Quit"), "Ctrl+Q", [this] { window.close(); });
 }
@@ -148,8 +196,6 @@ void WindowActions::addEditMenu()
     QMenu* menu = window.menuBar()->addMenu(tr("&Edit"));
     undo = add(menu, "undo", tr("&Undo"), "Ctrl+Z", [this] { stage.undo(); });
     redo = add(menu, "redo", tr("&Redo"), "Ctrl+Shift+Z", [this] { stage.redo(); });
-    undo->setIcon(undoIcon());
-    redo->setIcon(redoIcon());
     menu->addSeparator();
     add(menu, "selectAll", tr("Select &all"), "Ctrl+A", [this] { stage.selectAll(); });
     add(menu, "selectNone", tr("Select &nothing"), "D", [this] { stage.select(osg::NullFC); });
@@ -158,12 +204,14 @@ void WindowActions::addEditMenu()
 void WindowActions::addViewMenu()
 {
     QMenu* menu = window.menuBar()->addMenu(tr("&View"));
-    frameAll = add(menu, "frameAll", tr("Frame &all"), "A", [this] { stage.frameAll(); });
-    frameSelection = add(menu, "frameSelection", tr("Frame &selection"), "F",
-                         [this] { stage.frameSelection(); });
+    add(menu, "frameAll", tr("Frame &all"), "A", [this] { stage.frameAll(); });
+    add(menu, "frameSelection", tr("Frame &selection"), "F", [this] { stage.frameSelection(); });
     menu->addSeparator();
+    QMenu* views = menu->addMenu(themeIcon(QStringLiteral("views")), tr("Look &from"));
+    views->menuAction()->setObjectName(QStringLiteral("views"));
+    views->menuAction()->setToolTip(tr("Look from a side"));
     for (const ViewRow& row : kViews) {
-        add(menu, row.name, tr(row.text), row.keys,
+        add(views, row.name, tr(row.text), row.keys,
             [this, view = row.view] { stage.setStandardView(view); });
     }
     menu->addSeparator();
@@ -175,6 +223,25 @@ void WindowActions::addViewMenu()
     panels->addActions(window.panels().actions());
     addSwitch(menu, "effectBuffer", tr("Show &effect buffer"), "B",
               [this](bool on) { window.showEffectBuffer(on); });
+    menu->addSeparator();
+    addThemes(menu->addMenu(tr("&Theme")));
+    addPlain(menu, "nextPanel", tr("Ne&xt panel"), "F6",
+             [this](bool) { window.panels().focusNext(&window.view()); });
+    fullScreen = addPlain(menu, "fullScreen", tr("F&ull screen"), "F11",
+                          [this](bool on) { window.showWhole(on); });
+    fullScreen->setCheckable(true);
+}
+
+void WindowActions::addThemes(QMenu* menu)
+{
+    auto* group = new QActionGroup(this);
+    for (const ThemeRow& row : kThemes) {
+        QAction* action = addPlain(menu, row.name, tr(row.text), {},
+                                   [this, theme = row.theme](bool) { window.setTheme(theme); });
+        action->setCheckable(true);
+        group->addAction(action);
+        themeActions[row.theme] = action;
+    }
 }
 
 void WindowActions::addManipulatorMenu()
@@ -184,7 +251,6 @@ void WindowActions::addManipulatorMenu()
     for (const GizmoRow& row : kGizmos) {
         QAction* action = addSwitch(menu, row.name, tr(row.text), row.keys,
                                     [this, gizmo = row.gizmo](bool) { stage.showGizmo(gizmo); });
-        action->setIcon(gizmoIcon(row.gizmo));
         gizmoGroup->addAction(action);
         gizmoActions[row.gizmo] = action;
     }
@@ -192,12 +258,12 @@ void WindowActions::addManipulatorMenu()
     addCommand(menu, "scene.addClipPlane", tr("Add cl&ip plane"), "Shift+X");
     removeClipPlane = addCommand(menu, "scene.removeClipPlane", tr("Remo&ve clip plane"), "");
     menu->addSeparator();
-    matchCamera = addCommand(menu, "match.setActive", tr("&Match a photograph"), "Shift+M");
+    matchCamera = addCommand(menu, "match.setActive", tr("Match a p&hotograph"), "Shift+M");
     matchCamera->setCheckable(true);
-    editPlates = addCommand(menu, "plates.edit", tr("&Edit scene plates"), "Shift+P");
+    editPlates = addCommand(menu, "plates.edit", tr("Edit scene pl&ates"), "Shift+P");
     editPlates->setCheckable(true);
     removePlates = addCommand(menu, "plates.remove", tr("&Delete scene plates"), "Del");
-    editPictures = addCommand(menu, "texture.edit", tr("Edit pict&ures on objects"), "Shift+T");
+    editPictures = addCommand(menu, "texture.edit", tr("Edit pictures on o&bjects"), "Shift+T");
     editPictures->setCheckable(true);
     menu->addSeparator();
     addTransformSettings(menu);
@@ -205,21 +271,21 @@ void WindowActions::addManipulatorMenu()
 
 void WindowActions::addTransformSettings(QMenu* menu)
 {
-    localSpace = addSwitch(menu, "localSpace", tr("&Axes of the object"), "L", [this](bool on) {
+    localSpace = addSwitch(menu, "localSpace", tr("Axes o&f the object"), "L", [this](bool on) {
         stage.gizmo().setLocalSpace(on);
         stage.edited();
     });
-    snapping = addSwitch(menu, "snapping", tr("Snapp&ing"), "X",
+    snapping = addSwitch(menu, "snapping", tr("Snappin&g"), "X",
                          [this](bool on) { stage.gizmo().setSnapping(on); });
-    centerPivots = add(menu, "centerPivots", tr("Centre p&ivot"), "Shift+C", [this] {
+    centerPivots = add(menu, "centerPivots", tr("Pivot bac&k to the centre"), "Shift+C", [this] {
         stage.gizmo().centerPivots();
         stage.edited();
     });
-    localSpace->setIconText(tr("Local"));
-    localSpace->setToolTip(tr("Axes of the object instead of the world's (L)"));
-    snapping->setIconText(tr("Snap"));
-    snapping->setToolTip(tr("Advance in steps (X); hold Ctrl for a while"));
-    stepsMenu = menu->addMenu(tr("Steps an&d size"));
+    describe(localSpace, tr("Axes of the object instead of the world's"));
+    describe(snapping, tr("Advance in steps; hold Ctrl for a while"));
+    QMenu* stepsMenu = menu->addMenu(themeIcon(QStringLiteral("steps")), tr("Steps and si&ze"));
+    stepsMenu->menuAction()->setObjectName(QStringLiteral("steps"));
+    stepsMenu->menuAction()->setToolTip(tr("Steps of snapping, size of the gizmo"));
     stepsPanel = new StepsPanel(stage.gizmo());
     auto* panelAction = new QWidgetAction(stepsMenu);
     panelAction->setDefaultWidget(stepsPanel);
@@ -232,58 +298,25 @@ void WindowActions::addSessionMenu()
 {
     QMenu* menu = window.menuBar()->addMenu(tr("&Session"));
     // Recording and replaying are no steps of a session, so their shortcuts are not told.
-    const auto command = [&](const char* name, const QString& text, const QString& keys, auto run) {
-        QAction* action = menu->addAction(text);
-        action->setObjectName(QLatin1String(name));
-        action->setShortcut(QKeySequence(keys, QKeySequence::PortableText));
-        connect(action, &QAction::triggered, this, [this, run](bool on) {
-            run(on);
-            update();
-        });
-        return action;
-    };
-    record = command("record", tr("&Record"), "Ctrl+R", [this](bool on) { window.record(on); });
+    record =
+        addPlain(menu, "record", tr("&Record"), "Ctrl+R", [this](bool on) { window.record(on); });
     record->setCheckable(true);
-    checkpoint = command("checkpoint", tr("Add &checkpoint"), "Ctrl+K",
-                         [this](bool) { window.addCheckpoint(); });
+    checkpoint = addPlain(menu, "checkpoint", tr("Add &checkpoint"), "Ctrl+K",
+                          [this](bool) { window.addCheckpoint(); });
     menu->addSeparator();
-    command("replay", tr("Re&play…"), "Ctrl+P", [this](bool) { window.askForSession(); });
-    stopReplay =
-        command("stopReplay", tr("&Stop replay"), "Ctrl+.", [this](bool) { window.stopReplay(); });
+    addPlain(menu, "replay", tr("Re&play…"), "Ctrl+P", [this](bool) { window.askForSession(); });
+    stopReplay = addPlain(menu, "stopReplay", tr("&Stop replay"), "Ctrl+.",
+                          [this](bool) { window.stopReplay(); });
 }
 
-void WindowActions::addToolBar()
+void WindowActions::addHelpMenu()
 {
-    QToolBar* bar = window.addToolBar(tr("Tools"));
-    bar->setObjectName(QStringLiteral("tools"));
-    bar->setMovable(false);
-    bar->addAction(open);
-    bar->addAction(picture);
-    bar->addSeparator();
-    bar->addAction(undo);
-    bar->addAction(redo);
-    bar->addSeparator();
-    for (const GizmoRow& row : kGizmos) {
-        if (!gizmoActions[row.gizmo]->icon().isNull()) {
-            bar->addAction(gizmoActions[row.gizmo]);
-        }
-    }
-    bar->addSeparator();
-    bar->addAction(localSpace);
-    bar->addAction(snapping);
-    auto* steps = new QToolButton(bar);
-    steps->setText(tr("Steps"));
-    steps->setToolTip(tr("Steps of snapping, size of the gizmo"));
-    steps->setMenu(stepsMenu);
-    steps->setPopupMode(QToolButton::InstantPopup);
-    bar->addWidget(steps);
-    bar->addSeparator();
-    bar->addAction(frameAll);
-    bar->addAction(frameSelection);
-    bar->addAction(orthographic);
-    bar->addAction(zUp);
-    bar->addSeparator();
-    bar->addAction(record);
+    QMenu* menu = window.menuBar()->addMenu(tr("&Help"));
+    addPlain(menu, "about", tr("&About nbviewer…"), {}, [this](bool) {
+        auto* box = new AboutBox(window.view().graphics(), &window);
+        box->setAttribute(Qt::WA_DeleteOnClose);
+        box->open();
+    });
 }
 
 void WindowActions::update()
@@ -297,6 +330,8 @@ void WindowActions::update()
     record->setEnabled(!window.isReplaying());
     checkpoint->setEnabled(window.isRecording());
     stopReplay->setEnabled(window.isReplaying());
+    fullScreen->setChecked(window.isWhole());
+    themeActions[window.theme()]->setChecked(true);
 }
 
 void WindowActions::updateGizmos()
@@ -321,14 +356,15 @@ void WindowActions::updateGizmos()
 
 void WindowActions::updateEditing()
 {
-    const auto titled = [](const QString& verb, const QString& step) {
-        return step.isEmpty() ? verb : verb + QLatin1Char(' ') + step;
-    };
     const QUndoStack* stack = nbUndoService::the()->getStack();
     undo->setEnabled(stage.canUndo());
     redo->setEnabled(stage.canRedo());
-    undo->setText(titled(tr("&Undo"), stack->undoText()));
-    redo->setText(titled(tr("&Redo"), stack->redoText()));
+    const QString undoText = stack->undoText();
+    const QString redoText = stack->redoText();
+    undo->setText(undoText.isEmpty() ? tr("&Undo") : tr("&Undo %1").arg(undoText));
+    redo->setText(redoText.isEmpty() ? tr("&Redo") : tr("&Redo %1").arg(redoText));
+    describe(undo, withoutMnemonic(undo->text()));
+    describe(redo, withoutMnemonic(redo->text()));
     const auto arePicturesEdited = stage.commands().value(QStringLiteral("texture.edit"));
     editPictures->setChecked(arePicturesEdited && arePicturesEdited->toBool());
     const bool isSelected = stage.selectedObject() != osg::NullFC;
@@ -344,7 +380,10 @@ void WindowActions::setRecentFiles(const QStringList& files)
     recentMenu->clear();
     recentMenu->setEnabled(!files.isEmpty());
     for (const QString& file : files) {
-        QAction* action = recentMenu->addAction(QFileInfo(file).fileName());
+        // In a name an ampersand is one.
+        const QString name =
+            QFileInfo(file).fileName().replace(QLatin1Char('&'), QLatin1String("&&"));
+        QAction* action = recentMenu->addAction(name);
         action->setToolTip(file);
         connect(action, &QAction::triggered, this,
                 [this, file] { window.openFiles({ file }, MainWindow::Opening::Replace); });

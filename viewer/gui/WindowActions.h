@@ -2,6 +2,7 @@
 #pragma once
 
 #include "viewer/core/GizmoController.h"
+#include "viewer/gui/Theme.h"
 
 #include <QObject>
 #include <QStringList>
@@ -13,7 +14,6 @@ class QAction;
 class QActionGroup;
 class QMainWindow;
 class QMenu;
-class QToolBar;
 
 namespace viewer {
 
@@ -21,7 +21,8 @@ class MainWindow;
 class Stage;
 class StepsPanel;
 
-/// Menus, toolbar and shortcuts of the window.
+/// Menus and shortcuts of the window. An action is found by its object name, which is that of its
+/// icon.
 class WindowActions : public QObject
 {
     Q_OBJECT
@@ -40,6 +41,13 @@ signals:
     void shortcutUsed(const QString& keys);
 
 private:
+    QAction* make(QMenu* menu, const char* name, const QString& text, const QString& keys);
+    /// Sets the tip, with the shortcut if there is one.
+    void describe(QAction* action, const QString& tip);
+    /// An action that is no step of a session.
+    QAction* addPlain(QMenu* menu, const char* name, const QString& text, const QString& keys,
+                      std::function<void(bool)> run);
+    /// An action whose shortcut is a step of a session.
     QAction* add(QMenu* menu, const char* name, const QString& text, const QString& keys,
                  std::function<void()> run);
     QAction* addSwitch(QMenu* menu, const char* name, const QString& text, const QString& keys,
@@ -52,7 +60,8 @@ private:
     void addManipulatorMenu();
     void addSessionMenu();
     void addTransformSettings(QMenu* menu);
-    void addToolBar();
+    void addHelpMenu();
+    void addThemes(QMenu* menu);
     void updateGizmos();
     void updateEditing();
 
@@ -71,17 +80,14 @@ private:
     QAction* editPlates = nullptr;
     QAction* removePlates = nullptr;
     QAction* editPictures = nullptr;
-    QMenu* stepsMenu = nullptr;
     StepsPanel* stepsPanel = nullptr;
     QAction* orthographic = nullptr;
     QAction* zUp = nullptr;
     QAction* record = nullptr;
     QAction* checkpoint = nullptr;
     QAction* stopReplay = nullptr;
-    QAction* open = nullptr;
-    QAction* picture = nullptr;
-    QAction* frameAll = nullptr;
-    QAction* frameSelection = nullptr;
+    QAction* fullScreen = nullptr;
+    std::map<Theme, QAction*> themeActions;
 };
 
 }  // namespace viewer

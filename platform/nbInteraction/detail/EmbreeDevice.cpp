@@ -7,6 +7,16 @@
 
 namespace nbec::interaction::detail {
 
+namespace {
+
+/// Embree's way of telling a monitor.
+bool tellMonitor(void* monitor, double fraction)
+{
+    return (*static_cast<const BuildMonitor*>(monitor))(fraction);
+}
+
+}  // namespace
+
 RTCDevice embreeDevice()
 {
     // Never released: trees may be given up as late as in destructors of static objects.
@@ -22,12 +32,29 @@ RTCDevice embreeDevice()
     return device;
 }
 
-bool commitScene(RTCScene scene)
+std::string embreeVersion()
 {
-    rtcGetDeviceError(embreeDevice());  // forgets an older error
+    const auto part = [](RTCDeviceProperty which) {
+        const RTCDevice device = embreeDevice();
+        return device == nullptr ? std::string("?")
+                                 : std::to_string(rtcGetDeviceProperty(device, which));
+    };
+    return "Embree " + part(RTC_DEVICE_PROPERTY_VERSION_MAJOR) + '.' +
+        part(RTC_DEVICE_PROPERTY_VERSION_MINOR) + '.' + part(RTC_DEVICE_PROPERTY_VERSION_PATCH);
+}
+
+bool commitScene(RTCScene scene, const BuildMonitor& monitor)
+{
+    rtcGetDeviceError(embreeDevice());  // forgets an older error of this thread
+    if (monitor) {
+        rtcSetSceneProgressMonitorFunction(scene, &tellMonitor,
+                                           const_cast<BuildMonitor*>(&monitor));
+    }
     rtcCommitScene(scene);
     const RTCError error = rtcGetDeviceError(embreeDevice());
-    if (error != RTC_ERROR_NONE) {
+    if (monitor) {
+        rtcSetSceneProgressMonitorFunction(scene, nullptr, nullptr);
+    } else if (error != RTC_ERROR_NONE) {
         nbLog::warning("Picker: Embree cannot build a tree (error " +
                        std::to_string(static_cast<int>(error)) + ")");
     }

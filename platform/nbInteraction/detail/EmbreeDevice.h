@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
+#include <string>
+
 #include "PickView.h"
 #include <embree3/rtcore.h>
 
@@ -10,9 +13,18 @@ namespace nbec::interaction::detail {
 /// cannot be made.
 RTCDevice embreeDevice();
 
+/// Name and version of the library, as it is at run time.
+std::string embreeVersion();
+
+/// Told how far the building of one tree is, 0 .. 1; answers whether to go on. Called in any
+/// thread, also in several at once.
+using BuildMonitor = std::function<bool(double)>;
+
 /// Commits a scene.
-/// @return false (with a line in the log) if Embree reports an error, such as lack of memory
-bool commitScene(RTCScene scene);
+/// @param monitor  if there is one, nothing is logged, so that any thread may do it
+/// @return false (without monitor with a line in the log) if Embree reports an error, such as lack
+/// of memory, or the monitor has answered no
+bool commitScene(RTCScene scene, const BuildMonitor& monitor = {});
 
 /// A query for the nearest hit of a ray from its origin to tFar.
 inline RTCRayHit toEmbree(const PickRay& ray)

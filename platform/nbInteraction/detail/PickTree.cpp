@@ -70,26 +70,28 @@ PickTree::~PickTree()
     dropTree();
 }
 
-void PickTree::assign(GeometrySoup newSoup)
+bool PickTree::assign(GeometrySoup newSoup, const BuildMonitor& monitor)
 {
     const bool sameTopology =
         newSoup.positions.size() == soup.positions.size() && newSoup.triangles == soup.triangles;
     if (sameTopology && haveSameValues(newSoup.positions, soup.positions)) {
-        return;  // geometry is also edited for its material alone
+        return true;  // geometry is also edited for its material alone
     }
+    bool isBuilt = true;
     const bool hadTree = scene != nullptr;
     soup = std::move(newSoup);
     if (getTriangleCount() <= kDirectTriangles || embreeDevice() == nullptr) {
         dropTree();
     } else if (sameTopology && isRefittable && refitsSinceBuild < kRefitsBeforeRebuild) {
-        refitTree();
+        isBuilt = refitTree();
     } else {
         // Whose positions changed once will change again: from now on built so that it can be
         // refitted, which costs a little at each pick.
         dropTree();
-        buildTree(hadTree && sameTopology);
+        isBuilt = buildTree(hadTree && sameTopology, monitor);
     }
     measure();
+    return isBuilt;
 }
 
 void PickTree::makeRoom()
@@ -98,7 +100,7 @@ void PickTree::makeRoom()
     soup.positions.reserve(soup.positions.size() + 1);
 }
 
-void PickTree::buildTree(bool expectsRefits)
+bool PickTree::buildTree(bool expectsRefits, const BuildMonitor& monitor)
 {
     makeRoom();
     isRefittable = expectsRefits;
@@ -117,12 +119,14 @@ void PickTree::buildTree(bool expectsRefits)
     rtcCommitGeometry(mesh);
     rtcAttachGeometry(scene, mesh);
     rtcReleaseGeometry(mesh);
-    if (!commitScene(scene)) {
+    const bool isBuilt = commitScene(scene, monitor);
+    if (!isBuilt) {
         dropTree();
     }
+    return isBuilt;
 }
 
-void PickTree::refitTree()
+bool PickTree::refitTree()
 {
     makeRoom();
     rtcSetSharedGeometryBuffer(mesh, RTC_BUFFER_TYPE_VERTEX, 0, RTC_FORMAT_FLOAT3,
@@ -134,9 +138,10 @@ void PickTree::refitTree()
     rtcCommitGeometry(mesh);
     if (!commitScene(scene)) {
         dropTree();
-        return;
+        return false;
     }
     ++refitsSinceBuild;
+    return true;
 }
 
 void PickTree::dropTree()

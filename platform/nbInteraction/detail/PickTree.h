@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 
 #include "GeometrySoup.h"
 #include "PickView.h"
@@ -10,6 +11,9 @@ typedef struct RTCGeometryTy* RTCGeometry;
 typedef struct RTCSceneTy* RTCScene;
 
 namespace nbec::interaction::detail {
+
+/// See EmbreeDevice.h.
+using BuildMonitor = std::function<bool(double)>;
 
 /// Nearest triangle that a ray met in a PickTree, in the tree's frame.
 struct TreeHit
@@ -45,7 +49,10 @@ public:
     /// Takes the triangles of a geometry; also when they have changed. If only positions differ
     /// from the last call, the tree keeps its shape and only its boxes are refitted (from the
     /// second such call on; now and then it is rebuilt).
-    void assign(GeometrySoup soup);
+    /// @param monitor  watches the building and lets any thread do it, see commitScene()
+    /// @return false if no tree could be built, or the monitor has answered no; triangles are
+    /// tested one by one then
+    bool assign(GeometrySoup soup, const BuildMonitor& monitor = {});
 
     /// Finds the nearest triangle with 0 <= t <= ray.tFar, both faces.
     /// @param ray  in the tree's frame; tFar becomes the t of the hit
@@ -62,8 +69,8 @@ public:
 
 private:
     void makeRoom();
-    void buildTree(bool expectsRefits);
-    void refitTree();
+    bool buildTree(bool expectsRefits, const BuildMonitor& monitor);
+    bool refitTree();
     void dropTree();
     void measure();
     bool intersectDirectly(PickRay& ray, TreeHit& hit) const;

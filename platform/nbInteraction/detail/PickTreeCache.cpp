@@ -3,6 +3,8 @@
 
 #include <OpenSG/OSGFieldContainerFactory.h>
 
+#include <utility>
+
 #include "GeometryExtraction.h"
 
 namespace nbec::interaction::detail {
@@ -27,6 +29,19 @@ std::shared_ptr<const PickTree> PickTreeCache::treeOf(const osg::GeometryPtr& ge
         entry.changeCount = changeCount;
     }
     return entry.tree;
+}
+
+void PickTreeCache::adopt(osg::UInt32 geometryId, std::shared_ptr<PickTree> tree,
+                          osg::UInt32 changeCount)
+{
+    entries[geometryId] = { std::move(tree), changeCount };
+}
+
+bool PickTreeCache::isCurrent(const osg::GeometryPtr& geometry) const
+{
+    const auto entry = entries.find(geometry.getFieldContainerId());
+    return entry != entries.end() && entry->second.tree != nullptr &&
+        entry->second.changeCount == geometry->getChangeCount();
 }
 
 void PickTreeCache::buildBelow(const osg::NodePtr& node)

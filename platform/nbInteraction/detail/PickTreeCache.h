@@ -22,6 +22,13 @@ public:
     /// @param geometry  not null
     std::shared_ptr<const PickTree> treeOf(const osg::GeometryPtr& geometry);
 
+    /// Takes over a tree that was built elsewhere.
+    /// @param changeCount  that of the geometry when its triangles were read
+    void adopt(osg::UInt32 geometryId, std::shared_ptr<PickTree> tree, osg::UInt32 changeCount);
+
+    /// Whether the tree of a geometry is there and up to date. @param geometry  not null
+    bool isCurrent(const osg::GeometryPtr& geometry) const;
+
     /// As treeOf, for all geometry of a subtree. Null: nothing.
     void buildBelow(const osg::NodePtr& node);
 

@@ -22,6 +22,8 @@ int main(int argc, char** argv)
         format.setVersion(3, 3);
         format.setProfile(QSurfaceFormat::CoreProfile);
         QSurfaceFormat::setDefaultFormat(format);
+        // As the program has it, see main.cpp.
+        QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
         application.emplace(argc, argv);
     }
     osg::osgInit(argc, argv);

@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+// Search trees that another thread builds.
+#include <nbInteraction/PickTreeBuilder.h>
+
+#include <atomic>
+#include <memory>
+#include <thread>
+#include <vector>
+
+#include "PickerTestSupport.h"
+
+namespace {
+
+using nbec::interaction::PickTreeBuilder;
+
+class PickTreeBuilding : public PickerTest
+{
+protected:
+    /// A ball large enough for Embree to report often.
+    osg::NodePtr hangBall(int depth = 7)
+    {
+        const osg::NodePtr ball = osg::makeSphere(depth, 1.0f);
+        hang(nbScenegraph::getRootNode(), ball);
+        return ball;
+    }
+};
+
+TEST_F(PickTreeBuilding, TreesOfAnotherThreadAreThoseThatPicksUse)
+{
+    const osg::NodePtr ball = hangBall();
+    PickTreeBuilder builder({ ball, osg::NodePtr() });
+    std::vector<double> told;
+    bool isBuilt = false;
+
+    std::thread([&] {
+        isBuilt = builder.build([&told](double fraction) {
+            told.push_back(fraction);
+            return true;
+        });
+    }).join();
+    builder.adopt();
+
+    EXPECT_TRUE(isBuilt);
+    ASSERT_FALSE(told.empty());
+    EXPECT_TRUE(std::is_sorted(told.begin(), told.end()));
+    EXPECT_DOUBLE_EQ(told.back(), 1.0);
+    EXPECT_EQ(pickAt(400.0f, 300.0f), ball);
+    EXPECT_NEAR(picker.getHitPoint()[2], 1.0f, 1e-3f);
+    // What has its tree is not built again.
+    PickTreeBuilder again({ ball });
+    bool isTold = false;
+    EXPECT_TRUE(again.build([&isTold](double) { return isTold = true; }));
+    EXPECT_FALSE(isTold);
+}
+
+TEST_F(PickTreeBuilding, ANoEndsBuildingAndLeavesNoTree)
+{
+    const osg::NodePtr ball = hangBall();
+    PickTreeBuilder builder({ ball });
+    int calls = 0;
+
+    EXPECT_FALSE(builder.build([&calls](double) { return ++calls < 2; }));
+    builder.adopt();
+
+    EXPECT_EQ(calls, 2) << "asked again after a no";
+    EXPECT_EQ(pickAt(400.0f, 300.0f), ball) << "the pick builds its own";
+}
+
+TEST_F(PickTreeBuilding, ATreeOfWhatHasChangedSinceIsNotTaken)
+{
+    const osg::NodePtr ball = hangBall(3);
+    PickTreeBuilder builder({ ball });
+    const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(ball->getCore());
+    {
+        const nbEdit edit(geometry->getPositions(), osg::FieldBits::AllFields);
+        for (osg::UInt32 i = 0; i < geometry->getPositions()->getSize(); ++i) {
+            geometry->getPositions()->setValue(
+                geometry->getPositions()->getValue(i) + osg::Vec3f(3.0f, 0.0f, 0.0f), i);
+        }
+    }
+
+    EXPECT_TRUE(builder.build({}));
+    builder.adopt();
+
+    EXPECT_EQ(pickAt(400.0f, 300.0f), osg::NullFC);
+    EXPECT_EQ(pickAt(490.0f, 300.0f), ball);
+}
+
+TEST_F(PickTreeBuilding, WhatIsGoneMeanwhileDoesNoHarm)
+{
+    const osg::NodePtr root = nbScenegraph::getRootNode();
+    const osg::NodePtr ball = hangBall(3);
+    PickTreeBuilder builder({ ball });
+    {
+        const nbEdit edit(root, osg::Node::ChildrenFieldMask);
+        root->subChild(ball);
+    }
+
+    EXPECT_TRUE(builder.build({}));
+    builder.adopt();
+
+    EXPECT_EQ(pickAt(400.0f, 300.0f), osg::NullFC);
+}
+
+}  // namespace

@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: MIT
+// Loading in the background: what it tells, that it can be given up, and that nothing waits for a
+// tree afterwards.
+#include "viewer/gui/ModelLoader.h"
+
+#include "tests/viewer/support/GuiTest.h"
+#include "viewer/gui/MainWindow.h"
+#include "viewer/gui/ViewWidget.h"
+
+#include <nbInteraction/PickTreeBuilder.h>
+
+#include <QFile>
+#include <QKeyEvent>
+#include <QProgressBar>
+#include <QTemporaryDir>
+#include <QToolButton>
+
+namespace viewer {
+namespace {
+
+/// A square grid of 2 n n triangles as an OBJ file.
+void writeGrid(const QString& path, int n)
+{
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    QByteArray text;
+    for (int y = 0; y <= n; ++y) {
+        for (int x = 0; x <= n; ++x) {
+            text += "v " + QByteArray::number(x) + ' ' + QByteArray::number(y) + " 0\n";
+        }
+    }
+    for (int y = 0; y < n; ++y) {
+        for (int x = 0; x < n; ++x) {
+            const int corner = y * (n + 1) + x + 1;
+            const QByteArray a = QByteArray::number(corner);
+            const QByteArray b = QByteArray::number(corner + n + 2);
+            text += "f " + a + ' ' + QByteArray::number(corner + 1) + ' ' + b + "\nf " + a + ' ' +
+                b + ' ' + QByteArray::number(corner + n + 1) + '\n';
+        }
+    }
+    file.write(text);
+}
+
+class ModelLoaderTest : public GuiTest
+{
+protected:
+    ModelLoaderTest()
+        : path(folder.filePath("grid.obj"))
+    {
+        writeGrid(path, 60);
+        QObject::connect(&loader, &ModelLoader::finished, [this] { isFinished = true; });
+        QObject::connect(&loader, &ModelLoader::failed, [this] { isFailed = true; });
+    }
+
+    QTemporaryDir folder;
+    QString path;
+    ModelLoader loader;
+    bool isFinished = false;
+    bool isFailed = false;
+};
+
+TEST_F(ModelLoaderTest, TellsBothPhasesInOrderAndBringsModelsWithTheirTrees)
+{
+    QList<int> percents;
+    QList<ModelLoader::Phase> phases;
+    QObject::connect(&loader, &ModelLoader::progressed, &loader,
+                     [&](ModelLoader::Phase phase, const QString& file, int percent) {
+                         EXPECT_EQ(file, path);
+                         percents.append(percent);
+                         phases.append(phase);
+                     });
+
+    loader.start({ path, path });
+    waitUntil([this] { return isFinished; });
+
+    ASSERT_FALSE(percents.isEmpty());
+    EXPECT_TRUE(std::is_sorted(percents.begin(), percents.end()));
+    EXPECT_EQ(percents.first(), 0);
+    EXPECT_EQ(percents.last(), 100);
+    EXPECT_TRUE(std::is_sorted(phases.begin(), phases.end()));
+    EXPECT_EQ(phases.last(), ModelLoader::Phase::Preparing);
+    const std::vector<BuiltModel> models = loader.takeModels();
+    ASSERT_EQ(models.size(), 2U);
+    EXPECT_EQ(models[1].triangles, 7200U);
+    // A builder over what has trees already finds nothing to tell of.
+    int reports = 0;
+    nbec::interaction::PickTreeBuilder again({ models[0].root.get(), models[1].root.get() });
+    EXPECT_TRUE(again.build([&reports](double) { return ++reports > 0; }));
+    EXPECT_EQ(reports, 0);
+}
+
+TEST_F(ModelLoaderTest, GivenUpInEitherPhaseItStaysSilent)
+{
+    for (const auto wanted : { ModelLoader::Phase::Reading, ModelLoader::Phase::Preparing }) {
+        bool isCancelled = false;
+        const auto connection =
+            QObject::connect(&loader, &ModelLoader::progressed, &loader,
+                             [&](ModelLoader::Phase phase, const QString&, int) {
+                                 if (phase == wanted && !isCancelled) {
+                                     isCancelled = true;
+                                     loader.cancel();
+                                 }
+                             });
+        loader.start({ path });
+        waitUntil([&] { return isCancelled; });
+        waitForQuiet();
+        QObject::disconnect(connection);
+
+        EXPECT_FALSE(loader.isRunning());
+        EXPECT_FALSE(isFinished);
+        EXPECT_FALSE(isFailed);
+        EXPECT_TRUE(loader.takeModels().empty());
+    }
+    loader.start({ path });
+    waitUntil([this] { return isFinished; });
+    EXPECT_EQ(loader.takeModels().size(), 1U) << "it cannot be used any more";
+}
+
+TEST_F(ModelLoaderTest, EscapeOrTheButtonStopLoadingAndTheSceneStaysAsItWas)
+{
+    MainWindow window(MainWindow::Attendance::Unattended);
+    window.show();
+    window.showStartScene();
+    Stage& stage = window.view().stage();
+    const std::size_t before = stage.triangleCount();
+    auto* bar = window.findChild<QProgressBar*>(QStringLiteral("progress"));
+    auto* stop = window.findChild<QToolButton*>(QStringLiteral("stopLoading"));
+    ASSERT_TRUE(bar != nullptr && stop != nullptr);
+    bool isShown = false;
+    QObject::connect(&window, &MainWindow::filesShown, [&isShown] { isShown = true; });
+
+    for (const bool byKey : { true, false }) {
+        window.openFiles({ path }, MainWindow::Opening::Replace);
+        EXPECT_TRUE(bar->isVisibleTo(&window));
+        EXPECT_TRUE(bar->text().contains("grid.obj")) << bar->text().toStdString();
+        if (byKey) {
+            QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+            QCoreApplication::sendEvent(&window.view(), &escape);
+        } else {
+            stop->click();
+        }
+        waitForQuiet();
+
+        EXPECT_FALSE(bar->isVisibleTo(&window));
+        EXPECT_FALSE(isShown);
+        EXPECT_EQ(stage.triangleCount(), before);
+        EXPECT_FALSE(stage.selectedName().empty());
+    }
+}
+
+}  // namespace
+}  // namespace viewer

@@ -1,0 +1,321 @@
+// SPDX-License-Identifier: MIT
+// The window as a whole: that everything in it can be found, read, reached by
+// keys and seen in every theme.
+#include "tests/viewer/support/GuiTest.h"
+#include "viewer/gui/AboutBox.h"
+#include "viewer/gui/LogPanel.h"
+#include "viewer/gui/MainWindow.h"
+#include "viewer/gui/PanelDocks.h"
+#include "viewer/gui/Theme.h"
+#include "viewer/gui/ThemeIcon.h"
+#include "viewer/gui/ViewWidget.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAbstractSlider>
+#include <QAbstractSpinBox>
+#include <QAccessible>
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QDockWidget>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QProgressBar>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QToolButton>
+#include <QTreeWidget>
+
+#include <set>
+
+namespace viewer {
+namespace {
+
+class WindowTest : public GuiTest
+{
+protected:
+    WindowTest()
+        : window(MainWindow::Attendance::Unattended)
+    {
+        window.show();
+        window.showStartScene();
+    }
+
+    ~WindowTest() override { applyTheme(Theme::System); }
+
+    QAction* action(const char* name)
+    {
+        auto* found = window.findChild<QAction*>(QLatin1String(name));
+        EXPECT_NE(found, nullptr) << name;
+        return found;
+    }
+
+    static void pressKey(QWidget& receiver, int key)
+    {
+        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+        QCoreApplication::sendEvent(&receiver, &press);
+    }
+
+    MainWindow window;
+};
+
+/// Parts that Qt makes inside its widgets have names of Qt, or none.
+bool isOwnControl(const QWidget* widget)
+{
+    if (widget->objectName().startsWith(QLatin1String("qt_")) ||
+        qobject_cast<const QAbstractSpinBox*>(widget->parent()) != nullptr ||
+        qobject_cast<const QComboBox*>(widget->parent()) != nullptr ||
+        widget->inherits("QDockWidgetTitleButton") || widget->inherits("QToolBarExtension") ||
+        widget->inherits("QScrollBar") || widget->inherits("QHeaderView") ||
+        widget->inherits("QComboBoxListView")) {
+        return false;
+    }
+    return qobject_cast<const QAbstractButton*>(widget) != nullptr ||
+        qobject_cast<const QAbstractSpinBox*>(widget) != nullptr ||
+        qobject_cast<const QComboBox*>(widget) != nullptr ||
+        qobject_cast<const QLineEdit*>(widget) != nullptr ||
+        qobject_cast<const QAbstractSlider*>(widget) != nullptr ||
+        qobject_cast<const QAbstractItemView*>(widget) != nullptr ||
+        qobject_cast<const QProgressBar*>(widget) != nullptr ||
+        qobject_cast<const ViewWidget*>(widget) != nullptr;
+}
+
+TEST_F(WindowTest, EveryControlHasANameForThoseWhoDoNotSeeIt)
+{
+    int controls = 0;
+    for (QWidget* widget : window.findChildren<QWidget*>()) {
+        if (!isOwnControl(widget)) {
+            continue;
+        }
+        ++controls;
+        QAccessibleInterface* face = QAccessible::queryAccessibleInterface(widget);
+        ASSERT_NE(face, nullptr);
+        EXPECT_FALSE(face->text(QAccessible::Name).trimmed().isEmpty())
+            << widget->metaObject()->className() << " \"" << widget->objectName().toStdString()
+            << "\" in \"" << widget->parent()->objectName().toStdString() << '"';
+    }
+    EXPECT_GT(controls, 100);
+}
+
+TEST_F(WindowTest, EveryPanelControlIsReachedByTab)
+{
+    for (QDockWidget* dock : window.findChildren<QDockWidget*>()) {
+        for (QWidget* widget : dock->widget()->findChildren<QWidget*>()) {
+            if (isOwnControl(widget)) {
+                EXPECT_TRUE((widget->focusPolicy() & Qt::TabFocus) != 0)
+                    << dock->objectName().toStdString() << ' '
+                    << widget->objectName().toStdString();
+            }
+        }
+    }
+}
+
+TEST_F(WindowTest, EveryActionHasATextATipAndAShortcutOfItsOwn)
+{
+    std::set<QString> shortcuts;
+    int actions = 0;
+    for (QAction* each : window.findChildren<QAction*>()) {
+        if (each->isSeparator() || each->objectName().isEmpty() ||
+            each->objectName().startsWith(QLatin1Char('_'))) {
+            continue;
+        }
+        ++actions;
+        const std::string name = each->objectName().toStdString();
+        EXPECT_FALSE(each->text().isEmpty()) << name;
+        EXPECT_FALSE(each->toolTip().isEmpty()) << name;
+        EXPECT_FALSE(each->toolTip().contains(QLatin1Char('&'))) << name;
+        for (const QKeySequence& keys : each->shortcuts()) {
+            const QString text = keys.toString(QKeySequence::NativeText);
+            EXPECT_TRUE(shortcuts.insert(text).second) << name << ": " << text.toStdString();
+            EXPECT_TRUE(each->toolTip().contains(text)) << name;
+        }
+    }
+    EXPECT_GT(actions, 40);
+}
+
+TEST_F(WindowTest, EveryMenuEntryHasAMnemonicOfItsOwn)
+{
+    for (QMenu* menu : window.menuBar()->findChildren<QMenu*>()) {
+        std::set<QChar> letters;
+        for (QAction* entry : menu->actions()) {
+            const int mark = entry->text().indexOf(QLatin1Char('&'));
+            // Panels name their own switches; there may be any number of recent
+            // files.
+            if (entry->isSeparator() || (mark < 0 && entry->objectName().isEmpty())) {
+                continue;
+            }
+            ASSERT_GE(mark, 0) << entry->text().toStdString();
+            EXPECT_TRUE(letters.insert(entry->text().at(mark + 1).toLower()).second)
+                << menu->title().toStdString() << ": " << entry->text().toStdString();
+        }
+    }
+}
+
+/// How far the drawn pixels of an icon are from a colour, 0 .. 255 of
+/// lightness, on average.
+double contrastOf(const QIcon& icon, const QColor& ground, int size)
+{
+    const QImage image = icon.pixmap(size, size).toImage().convertToFormat(QImage::Format_ARGB32);
+    double sum = 0.0;
+    int drawn = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QColor color = image.pixelColor(x, y);
+            if (color.alpha() > 200) {
+                sum += std::abs(qGray(color.rgb()) - qGray(ground.rgb()));
+                ++drawn;
+            }
+        }
+    }
+    return drawn < size ? 0.0 : sum / drawn;
+}
+
+TEST_F(WindowTest, EveryToolHasAnIconThatIsSeenInEveryTheme)
+{
+    constexpr double kLeastContrast = 70.0;
+    constexpr int kSize = 40;
+    const QList<QToolBar*> bars = window.findChildren<QToolBar*>();
+    for (const Theme theme : { Theme::Light, Theme::Dark }) {
+        window.setTheme(theme);
+        EXPECT_EQ(isDarkPalette(), theme == Theme::Dark);
+        const QColor ground = QApplication::palette().color(QPalette::Window);
+        int icons = 0;
+        for (const QToolBar* bar : bars) {
+            for (const QAction* each : bar->actions()) {
+                if (!each->isSeparator()) {
+                    ++icons;
+                    EXPECT_GT(contrastOf(each->icon(), ground, kSize), kLeastContrast)
+                        << themeName(theme).toStdString() << ' '
+                        << each->objectName().toStdString();
+                }
+            }
+        }
+        EXPECT_GT(icons, 35);
+    }
+    window.setTheme(Theme::System);
+    EXPECT_TRUE(action("themeSystem")->isCheckable());
+    EXPECT_TRUE(themeIcon(QStringLiteral("no such")).isNull());
+}
+
+TEST_F(WindowTest, AnIconIsDrawnInDevicePixels)
+{
+    const QIcon icon = themeIcon(QStringLiteral("gizmoTranslate"));
+
+    EXPECT_EQ(icon.pixmap(20, 20).size() / icon.pixmap(20, 20).devicePixelRatio(), QSize(20, 20));
+    EXPECT_EQ(icon.pixmap(&*window.windowHandle(), QSize(20, 20)).width(),
+              qRound(20 * window.devicePixelRatioF()));
+}
+
+TEST_F(WindowTest, FullScreenShowsTheViewAloneAndEscapeLeadsBack)
+{
+    auto* dock = window.findChild<QDockWidget*>(QStringLiteral("sceneDock"));
+    dock->show();
+    QToolBar* bar = window.findChild<QToolBar*>(QStringLiteral("tools"));
+    ASSERT_TRUE(bar->isVisible());
+
+    action("fullScreen")->trigger();
+    EXPECT_TRUE(window.isWhole());
+    EXPECT_TRUE((window.windowState() & Qt::WindowFullScreen) != 0);
+    for (const QWidget* other :
+         std::initializer_list<QWidget*> { dock, bar, window.menuBar(), window.statusBar() }) {
+        EXPECT_FALSE(other->isVisible());
+    }
+
+    pressKey(window.view(), Qt::Key_Escape);
+    EXPECT_FALSE(window.isWhole());
+    EXPECT_FALSE((window.windowState() & Qt::WindowFullScreen) != 0);
+    EXPECT_TRUE(dock->isVisible());
+    EXPECT_TRUE(bar->isVisible());
+    EXPECT_TRUE(window.menuBar()->isVisible());
+    EXPECT_FALSE(action("fullScreen")->isChecked());
+    pressKey(window.view(), Qt::Key_Escape);
+    EXPECT_FALSE(window.isWhole());
+}
+
+TEST_F(WindowTest, MessagesAreKeptWithTheirLevelAndCanBeChosenCopiedAndCleared)
+{
+    LogPanel& log = window.panels().log();
+    auto* list = log.findChild<QTreeWidget*>(QStringLiteral("logList"));
+    auto* level = log.findChild<QComboBox*>(QStringLiteral("logLevel"));
+    log.findChild<QToolButton*>(QStringLiteral("log.clear"))->click();
+    EXPECT_EQ(log.text(), QString());
+
+    nbLog::info("a note");
+    nbLog::error("a fault");
+    emit window.problem(QStringLiteral("a problem"));
+    ASSERT_EQ(list->topLevelItemCount(), 3);
+    EXPECT_TRUE(log.text().contains("Note\ta note\n"));
+    EXPECT_TRUE(log.text().endsWith("Warning\ta problem"));
+
+    level->setCurrentIndex(level->findData(static_cast<int>(nbLog::Level::Error)));
+    EXPECT_FALSE(log.text().contains('\n'));
+    log.findChild<QToolButton*>(QStringLiteral("log.copy"))->click();
+    EXPECT_TRUE(QApplication::clipboard()->text().endsWith("Error\ta fault"));
+
+    for (int i = 0; i < LogPanel::kMostEntries; ++i) {
+        log.append(nbLog::Level::Error, QString::number(i));
+    }
+    EXPECT_EQ(list->topLevelItemCount(), LogPanel::kMostEntries);
+    EXPECT_TRUE(log.text().endsWith(QString::number(LogPanel::kMostEntries - 1)));
+}
+
+TEST_F(WindowTest, AboutNamesEveryPartWithItsVersion)
+{
+    QString error;
+    ASSERT_FALSE(window.view().takePicture(error).isNull());
+    waitUntil([this] { return !window.view().graphics().isEmpty(); });
+    action("about")->trigger();
+    auto* box = window.findChild<AboutBox*>();
+    ASSERT_NE(box, nullptr);
+    EXPECT_TRUE(box->isVisible());
+    box->close();
+
+    const QString text = AboutBox::versions(window.view().graphics());
+    for (const char* part :
+         { "nbManipulator 0.", "Qt 5.", "OpenGL: ", "bundled", "Embree 3.", "Assimp 5." }) {
+        EXPECT_TRUE(text.contains(QLatin1String(part))) << part << '\n' << text.toStdString();
+    }
+    EXPECT_TRUE(text.contains(window.view().graphics()));
+}
+
+TEST_F(WindowTest, KeysGoFromPanelToPanelAndBackToTheView)
+{
+    for (const char* name : { "sceneDock", "objectDock" }) {
+        window.findChild<QDockWidget*>(QLatin1String(name))->show();
+    }
+    window.activateWindow();
+    window.view().setFocus();
+    waitForQuiet();
+    QList<QWidget*> visited;
+
+    for (int i = 0; i < 3; ++i) {
+        window.panels().focusNext(&window.view());
+        visited.append(window.focusWidget());
+    }
+
+    const auto isIn = [this](const QWidget* widget, const char* dock) {
+        return window.findChild<QDockWidget*>(QLatin1String(dock))->isAncestorOf(widget);
+    };
+    EXPECT_TRUE(isIn(visited[0], "sceneDock"));
+    EXPECT_TRUE(isIn(visited[1], "objectDock"));
+    EXPECT_EQ(visited[2], &window.view());
+}
+
+TEST_F(WindowTest, ASmallWindowStaysSmallWithEveryPanelShown)
+{
+    for (QDockWidget* dock : window.findChildren<QDockWidget*>()) {
+        dock->show();
+        dock->raise();
+        waitForQuiet();
+        EXPECT_LE(window.minimumSizeHint().width(), 760) << dock->objectName().toStdString();
+        EXPECT_LE(window.minimumSizeHint().height(), 560) << dock->objectName().toStdString();
+        dock->hide();
+    }
+}
+
+}  // namespace
+}  // namespace viewer

@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/gui/WindowMemory.h"
+
+#include <QFileInfo>
+#include <QMainWindow>
+#include <QSettings>
+
+namespace viewer::memory {
+namespace {
+
+constexpr int kRecentCount = 8;
+
+/// Of the arrangement of toolbars and docks; a layout of another one does not fit.
+constexpr int kLayoutVersion = 2;
+
+const char* const kRecentKey = "recentFiles";
+const char* const kLayoutKey = "windowLayout";
+const char* const kGeometryKey = "windowGeometry";
+const char* const kThemeKey = "theme";
+
+}  // namespace
+
+bool restoreLayout(QMainWindow& window)
+{
+    const QSettings settings;
+    restoreState(window, settings.value(kLayoutKey).toByteArray());
+    return window.restoreGeometry(settings.value(kGeometryKey).toByteArray());
+}
+
+void keepLayout(const QMainWindow& window, const QByteArray& state)
+{
+    QSettings settings;
+    settings.setValue(kLayoutKey, state);
+    settings.setValue(kGeometryKey, window.saveGeometry());
+}
+
+QByteArray stateOf(const QMainWindow& window)
+{
+    return window.saveState(kLayoutVersion);
+}
+
+bool restoreState(QMainWindow& window, const QByteArray& state)
+{
+    return window.restoreState(state, kLayoutVersion);
+}
+
+Theme theme()
+{
+    return themeFromName(QSettings().value(kThemeKey).toString());
+}
+
+void keepTheme(Theme theme)
+{
+    QSettings().setValue(kThemeKey, themeName(theme));
+}
+
+QStringList recentFiles()
+{
+    return QSettings().value(kRecentKey).toStringList();
+}
+
+QStringList addRecentFiles(const QStringList& files)
+{
+    QStringList recent = recentFiles();
+    for (const QString& file : files) {
+        const QString path = QFileInfo(file).absoluteFilePath();
+        recent.removeAll(path);
+        recent.prepend(path);
+    }
+    recent = recent.mid(0, kRecentCount);
+    QSettings().setValue(kRecentKey, recent);
+    return recent;
+}
+
+}  // namespace viewer::memory
