@@ -50,12 +50,16 @@ bool isSamePlacement(const osg::Matrix& left, const osg::Matrix& right)
 /// Looks at what placing a gizmo will touch. Nothing of it is near by when there are many gizmos;
 /// looked at one after the other, the waiting times for memory overlap, which the work on each
 /// would not let them.
-void readAhead(const osg::Transform3D& placement)
+/// @param target  node that the gizmo is to be placed at, or null
+void readAhead(const osg::Transform3D& placement, const osg::NodePtr& target)
 {
     osg::UInt32 sum =
         placement.getChangeCount() + static_cast<osg::UInt32>(placement.getRotationMode());
     for (const osg::NodePtr& pass : placement.getParents()) {
         sum += pass->getTravMask();
+    }
+    if (target != osg::NullFC && target->getCore() != osg::NullFC) {
+        sum += target->getCore()->getFieldContainerId();
     }
     seen.store(sum, std::memory_order_relaxed);
 }
@@ -424,7 +428,8 @@ void UniversalTransformManipulator2::updateAllManipulators()
         if (next % kReadAhead == 0) {
             const std::size_t end = std::min(next + kReadAhead, _allManipulators.size());
             for (std::size_t i = next; i < end; ++i) {
-                readAhead(*_allManipulators[i]->placement);
+                const UniversalTransformManipulator2& other = *_allManipulators[i];
+                readAhead(*other.placement, areAllInPlace ? osg::NodePtr() : other.getNode());
             }
         }
         ++next;
