@@ -43,7 +43,8 @@ const char* const kPairExpected = "expected an array of two numbers";
 const char* const kSwitchExpected = "expected true or false";
 
 const std::vector<PlateField> kFields {
-    { "front", "Scene plates to the front or back", kSwitchExpected,
+    { "front", QT_TRANSLATE_NOOP("Manipulator", "Scene plates to the front or back"),
+      kSwitchExpected,
       [](const QJsonValue& value, Sceneplate* plate) {
           if (plate != nullptr) {
               plate->setFront(value.toBool());
@@ -51,7 +52,7 @@ const std::vector<PlateField> kFields {
           return value.isBool();
       },
       [](const Sceneplate& plate) { return QJsonValue(plate.getFront()); } },
-    { "visible", "Show or hide scene plates", kSwitchExpected,
+    { "visible", QT_TRANSLATE_NOOP("Manipulator", "Show or hide scene plates"), kSwitchExpected,
       [](const QJsonValue& value, Sceneplate* plate) {
           if (plate != nullptr) {
               plate->setVisible(value.toBool());
@@ -59,7 +60,8 @@ const std::vector<PlateField> kFields {
           return value.isBool();
       },
       [](const Sceneplate& plate) { return QJsonValue(plate.getVisible()); } },
-    { "opacity", "Opacity of scene plates", "expected a number from 0 to 1",
+    { "opacity", QT_TRANSLATE_NOOP("Manipulator", "Opacity of scene plates"),
+      "expected a number from 0 to 1",
       [](const QJsonValue& value, Sceneplate* plate) {
           if (plate != nullptr) {
               plate->setOpacity(static_cast<float>(value.toDouble()));
@@ -67,7 +69,7 @@ const std::vector<PlateField> kFields {
           return isNumber(value, 0.0) && value.toDouble() <= 1.0;
       },
       [](const Sceneplate& plate) { return QJsonValue(static_cast<double>(plate.getOpacity())); } },
-    { "position", "Move scene plates", kPairExpected,
+    { "position", QT_TRANSLATE_NOOP("Manipulator", "Move scene plates"), kPairExpected,
       [](const QJsonValue& value, Sceneplate* plate) {
           osg::Vec2f pair;
           const bool isPair = acceptPair(value, -kMost, pair);
@@ -77,7 +79,8 @@ const std::vector<PlateField> kFields {
           return isPair;
       },
       [](const Sceneplate& plate) { return QJsonValue(pairOf(plate.getPosition())); } },
-    { "size", "Size of scene plates", "expected an array of two numbers, at least 0.001",
+    { "size", QT_TRANSLATE_NOOP("Manipulator", "Size of scene plates"),
+      "expected an array of two numbers, at least 0.001",
       [](const QJsonValue& value, Sceneplate* plate) {
           osg::Vec2f pair;
           const bool isPair = acceptPair(value, kLeastSize, pair);
@@ -87,7 +90,8 @@ const std::vector<PlateField> kFields {
           return isPair;
       },
       [](const Sceneplate& plate) { return QJsonValue(pairOf(plate.getSize())); } },
-    { "scale", "Scale scene plates", "expected a number of at least 0.001",
+    { "scale", QT_TRANSLATE_NOOP("Manipulator", "Scale scene plates"),
+      "expected a number of at least 0.001",
       [](const QJsonValue& value, Sceneplate* plate) {
           if (plate != nullptr) {
               plate->setScale(static_cast<float>(value.toDouble()));
@@ -95,7 +99,8 @@ const std::vector<PlateField> kFields {
           return isNumber(value, kLeastSize);
       },
       [](const Sceneplate& plate) { return QJsonValue(static_cast<double>(plate.getScale())); } },
-    { "rotation", "Turn scene plates", "expected a number of degrees",
+    { "rotation", QT_TRANSLATE_NOOP("Manipulator", "Turn scene plates"),
+      "expected a number of degrees",
       [](const QJsonValue& value, Sceneplate* plate) {
           if (plate != nullptr) {
               plate->setRotation(static_cast<float>(value.toDouble()));
@@ -105,7 +110,8 @@ const std::vector<PlateField> kFields {
       [](const Sceneplate& plate) {
           return QJsonValue(static_cast<double>(plate.getRotation()));
       } },
-    { "color", "Colour of scene plates", "expected a colour such as \"#ff8000\"",
+    { "color", QT_TRANSLATE_NOOP("Manipulator", "Colour of scene plates"),
+      "expected a colour such as \"#ff8000\"",
       [](const QJsonValue& value, Sceneplate* plate) {
           const std::optional<osg::Color4f> color = readPlateColor(value);
           if (plate != nullptr && color) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "viewer/core/GizmoController.h"
+#include "viewer/core/Language.h"
 #include "viewer/core/Session.h"
 #include "viewer/gui/FullScreen.h"
 #include "viewer/gui/ModelLoader.h"
@@ -13,6 +14,7 @@
 #include <QDir>
 #include <QMainWindow>
 
+#include <memory>
 #include <optional>
 
 namespace viewer {
@@ -23,6 +25,7 @@ class SessionPlayer;
 class SessionRecorder;
 class StatusLine;
 class ViewWidget;
+struct StageTools;
 class WindowActions;
 
 /// The viewer's window: view, menus, status line, opening of files, recording and replaying.
@@ -73,6 +76,10 @@ public:
 
     Theme theme() const { return shownTheme; }
 
+    /// Lets the program speak a language and, with a person there, remembers it. The window follows
+    /// with the next events: everything around the view is made anew.
+    void setLanguage(Language language);
+
     /// Lets the view alone fill the screen, or shows the window as it was before.
     void showWhole(bool on);
 
@@ -106,11 +113,17 @@ signals:
     void replayFinished();
 
 protected:
+    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     /// Escape, where nothing else wants it: stops loading, or leaves the full screen.
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    /// Makes docks, menus, toolbars and the status line.
+    void addSurroundings();
+    /// Makes them anew in the present language, arranged as they are.
+    void renewSurroundings();
+    void showRecording();
     void setShownTitle(const QString& name);
     void updateStatus();
     void showLoadedModels();
@@ -132,6 +145,7 @@ private:
 
     StatusLine* statusLine = nullptr;
     FullScreen fullScreen;
+    std::unique_ptr<StageTools> tools;
     PanelDocks* docks = nullptr;
 
     Theme shownTheme = Theme::System;

@@ -61,7 +61,6 @@ ViewWidget::ViewWidget(QWidget* parent)
     , translator(viewStage.interaction(), &renderWidget)
 {
     setObjectName(QStringLiteral("view"));
-    setAccessibleName(tr("View of the scene"));
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setAcceptDrops(true);
@@ -126,8 +125,8 @@ QImage ViewWidget::takePicture(QString& error)
     QImage picture =
         pictureView.render(renderWidget.getViewport(), size.width(), size.height(), passes);
     if (picture.isNull()) {
-        error = QStringLiteral("the view cannot be drawn: %1")
-                    .arg(QString::fromStdString(pictureView.getError()));
+        error =
+            tr("the view cannot be drawn: %1").arg(QString::fromStdString(pictureView.getError()));
         return picture;
     }
     paintOverlayOver(picture);
@@ -209,8 +208,7 @@ void ViewWidget::initializeGL()
     std::string reason;
     failed = !renderAction.initialise(&reason);
     if (failed) {
-        emit drawingFailed(
-            QStringLiteral("the view cannot be drawn: %1").arg(QString::fromStdString(reason)));
+        emit drawingFailed(tr("the view cannot be drawn: %1").arg(QString::fromStdString(reason)));
     }
 }
 

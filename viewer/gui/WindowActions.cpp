@@ -225,6 +225,7 @@ void WindowActions::addViewMenu()
               [this](bool on) { window.showEffectBuffer(on); });
     menu->addSeparator();
     addThemes(menu->addMenu(tr("&Theme")));
+    addLanguages(menu->addMenu(tr("Lan&guage")));
     addPlain(menu, "nextPanel", tr("Ne&xt panel"), "F6",
              [this](bool) { window.panels().focusNext(&window.view()); });
     fullScreen = addPlain(menu, "fullScreen", tr("F&ull screen"), "F11",
@@ -241,6 +242,19 @@ void WindowActions::addThemes(QMenu* menu)
         action->setCheckable(true);
         group->addAction(action);
         themeActions[row.theme] = action;
+    }
+}
+
+void WindowActions::addLanguages(QMenu* menu)
+{
+    auto* group = new QActionGroup(this);
+    for (const Language language : kLanguages) {
+        const QByteArray name = "language." + languageName(language).toLatin1();
+        QAction* action = addPlain(menu, name.constData(), languageTitle(language), {},
+                                   [this, language](bool) { window.setLanguage(language); });
+        action->setCheckable(true);
+        group->addAction(action);
+        languageActions[language] = action;
     }
 }
 
@@ -332,6 +346,7 @@ void WindowActions::update()
     stopReplay->setEnabled(window.isReplaying());
     fullScreen->setChecked(window.isWhole());
     themeActions[window.theme()]->setChecked(true);
+    languageActions[appliedLanguage()]->setChecked(true);
 }
 
 void WindowActions::updateGizmos()
