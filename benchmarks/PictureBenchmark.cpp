@@ -52,6 +52,8 @@ public:
                             osg::Vec3f(0.f, 1.f, 0.f));
         viewport->setCamera(camera.get());
         viewport->setRoot(root.get());
+        // What is measured is drawing.
+        view.getAction().setSceneKept(false);
     }
 
     void moveOneProjection()

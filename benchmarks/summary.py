@@ -16,7 +16,8 @@ class Figure:
     """What one benchmark measured: nanoseconds a run, and for one of its items, or bytes."""
 
     def __init__(self, run):
-        time = run["real_time"] if "/real_time" in run["run_name"] else run["cpu_time"]
+        own_clock = re.search("/(real|manual)_time", run["run_name"])
+        time = run["real_time"] if own_clock else run["cpu_time"]
         self.run = time * NANOSECONDS[run["time_unit"]]
         self.each = 1e9 / run["items_per_second"] if "items_per_second" in run else None
         self.bytes = run.get("bytes_each")

@@ -59,6 +59,16 @@ Gradient gradientOf(const osg::ViewportPtr& viewport)
     return result;
 }
 
+/// Where a viewport's photograph lies.
+nbPhotographFit fitOf(const osg::ViewportPtr& viewport, const Frame& frame)
+{
+    const osg::ImagePtr image = osg::UberViewportPtr::dcast(viewport)->getPhotograph();
+    const bool verticalSizing =
+        nbCameraUtils::getVerticalSizing(viewport->getCamera(), frame.widthPx, frame.heightPx);
+    return nbPhotographFit::of(image->getWidth(), image->getHeight(), frame.widthPx, frame.heightPx,
+                               verticalSizing);
+}
+
 void prepareState(Gl& gl)
 {
     gl.glDisable(GL_SCISSOR_TEST);
@@ -73,7 +83,7 @@ void prepareState(Gl& gl)
 
 }  // namespace
 
-void BackgroundPainter::draw(Gl& gl, const osg::ViewportPtr& viewport, const BackgroundFrame& frame,
+void BackgroundPainter::draw(Gl& gl, const osg::ViewportPtr& viewport, const Frame& frame,
                              ShaderPrograms& programs, GpuTextures& textures)
 {
     prepareState(gl);
@@ -87,14 +97,15 @@ void BackgroundPainter::draw(Gl& gl, const osg::ViewportPtr& viewport, const Bac
     gl.glColorMaski(1, GL_FALSE, GL_FALSE, GL_FALSE, GL_FALSE);
     gl.glBindVertexArray(frame.emptyArray);
     gl.glDrawArrays(GL_TRIANGLES, 0, 3);
+    frame.count->add(1);
     if (hasPhotograph(viewport)) {
         drawPhotograph(gl, viewport, 1.f, frame, textures);
     }
     gl.glColorMaski(1, GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
 }
 
-void BackgroundPainter::drawVeil(Gl& gl, const osg::ViewportPtr& viewport,
-                                 const BackgroundFrame& frame, GpuTextures& textures)
+void BackgroundPainter::drawVeil(Gl& gl, const osg::ViewportPtr& viewport, const Frame& frame,
+                                 GpuTextures& textures)
 {
     if (!hasVeil(viewport)) {
         return;
@@ -105,6 +116,27 @@ void BackgroundPainter::drawVeil(Gl& gl, const osg::ViewportPtr& viewport,
     gl.glBindVertexArray(frame.emptyArray);
     drawPhotograph(gl, viewport, std::min(veil, 1.f), frame, textures);
     gl.glColorMaski(1, GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
+}
+
+void BackgroundPainter::addTo(osg::ContentStamp& stamp, const osg::ViewportPtr& viewport,
+                              const Frame& frame)
+{
+    const Gradient gradient = gradientOf(viewport);
+    stamp.add(gradient.top.getValuesRGBA(), 4);
+    stamp.add(gradient.bottom.getValuesRGBA(), 4);
+    if (hasPhotograph(viewport)) {
+        stamp.add(osg::UberViewportPtr::dcast(viewport)->getPhotograph());
+        const nbPhotographFit fit = fitOf(viewport, frame);
+        for (const float number :
+             { fit.left, fit.bottom, fit.width, fit.height, frame.shiftXPx, frame.shiftYPx }) {
+            stamp.add(number);
+        }
+    }
+}
+
+void BackgroundPainter::addVeilTo(osg::ContentStamp& stamp, const osg::ViewportPtr& viewport)
+{
+    stamp.add(hasVeil(viewport) ? osg::UberViewportPtr::dcast(viewport)->getPhotographVeil() : 0.f);
 }
 
 bool BackgroundPainter::hasPhotograph(const osg::ViewportPtr& viewport)
@@ -120,7 +152,7 @@ bool BackgroundPainter::hasVeil(const osg::ViewportPtr& viewport)
 }
 
 void BackgroundPainter::drawPhotograph(Gl& gl, const osg::ViewportPtr& viewport, float opacity,
-                                       const BackgroundFrame& frame, GpuTextures& textures)
+                                       const Frame& frame, GpuTextures& textures)
 {
     if (!isTried) {
         isTried = true;
@@ -137,13 +169,10 @@ void BackgroundPainter::drawPhotograph(Gl& gl, const osg::ViewportPtr& viewport,
     if (!photograph.isUsable() || texture == 0) {
         return;
     }
-    const bool verticalSizing =
-        nbCameraUtils::getVerticalSizing(viewport->getCamera(), frame.widthPx, frame.heightPx);
-    const nbPhotographFit fit = nbPhotographFit::of(image->getWidth(), image->getHeight(),
-                                                    frame.widthPx, frame.heightPx, verticalSizing);
+    const nbPhotographFit fit = fitOf(viewport, frame);
     photograph.use(gl);
     photograph.set(gl, "picture", GLint(0));
-    photograph.set(gl, "area", fit.left + frame.shiftX, fit.bottom + frame.shiftY, fit.width,
+    photograph.set(gl, "area", fit.left + frame.shiftXPx, fit.bottom + frame.shiftYPx, fit.width,
                    fit.height);
     photograph.set(gl, "viewSize", static_cast<float>(frame.widthPx),
                    static_cast<float>(frame.heightPx));
@@ -154,6 +183,7 @@ void BackgroundPainter::drawPhotograph(Gl& gl, const osg::ViewportPtr& viewport,
     gl.glEnable(GL_BLEND);
     gl.glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ZERO, GL_ONE);
     gl.glDrawArrays(GL_TRIANGLES, 0, 3);
+    frame.count->add(1);
     gl.glDisable(GL_BLEND);
     gl.glBindSampler(0, 0);
     gl.glBindTexture(GL_TEXTURE_2D, 0);

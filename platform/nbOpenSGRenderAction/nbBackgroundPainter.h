@@ -1,23 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <nbOpenSGRenderAction/nbFrame.h>
 #include <nbOpenSGRenderAction/nbGpuTextures.h>
 #include <nbOpenSGRenderAction/nbShaderPrograms.h>
 
+#include <OpenSG/OSGContentStamp.h>
 #include <OpenSG/OSGViewport.h>
 
 namespace nbrender {
-
-/// What the background is drawn into.
-struct BackgroundFrame
-{
-    int widthPx = 0;
-    int heightPx = 0;
-    /// Shift of the scene, device pixels, x to the right and y up.
-    float shiftX = 0.f;
-    float shiftY = 0.f;
-    GLuint emptyArray = 0;  ///< vertex array of programs that have no attributes
-};
 
 /// Draws what lies behind the scene: the gradient or colour of a viewport, and over it the
 /// photograph of an UberViewport, where nbPhotographFit places it. Touches the colours alone.
@@ -26,12 +17,18 @@ class BackgroundPainter
 {
 public:
     /// @param viewport  null: black
-    void draw(Gl& gl, const osg::ViewportPtr& viewport, const BackgroundFrame& frame,
+    void draw(Gl& gl, const osg::ViewportPtr& viewport, const Frame& frame,
               ShaderPrograms& programs, GpuTextures& textures);
 
     /// Draws the photograph once more, over the scene, as far as the viewport's veil says.
-    void drawVeil(Gl& gl, const osg::ViewportPtr& viewport, const BackgroundFrame& frame,
+    void drawVeil(Gl& gl, const osg::ViewportPtr& viewport, const Frame& frame,
                   GpuTextures& textures);
+
+    /// Adds what draw() depends on, the frame left out.
+    static void addTo(osg::ContentStamp& stamp, const osg::ViewportPtr& viewport,
+                      const Frame& frame);
+    /// Adds what drawVeil() depends on beyond that.
+    static void addVeilTo(osg::ContentStamp& stamp, const osg::ViewportPtr& viewport);
 
     /// Whether a viewport has a photograph, and one that covers the scene.
     static bool hasPhotograph(const osg::ViewportPtr& viewport);
@@ -43,8 +40,8 @@ public:
 
 private:
     /// @param opacity  0 .. 1
-    void drawPhotograph(Gl& gl, const osg::ViewportPtr& viewport, float opacity,
-                        const BackgroundFrame& frame, GpuTextures& textures);
+    void drawPhotograph(Gl& gl, const osg::ViewportPtr& viewport, float opacity, const Frame& frame,
+                        GpuTextures& textures);
 
     GlProgram photograph;
     bool isTried = false;

@@ -4,7 +4,9 @@
 #include <nbOpenSGExt/DepthTestChunk.h>
 
 #include <OpenSG/OSGBlendChunk.h>
+#include <OpenSG/OSGContentStamp.h>
 #include <OpenSG/OSGDepthChunk.h>
+#include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGLineChunk.h>
 #include <OpenSG/OSGMaterialChunk.h>
 #include <OpenSG/OSGPolygonChunk.h>
@@ -138,7 +140,52 @@ void applyList(DrawState& state, const osg::ChunkMaterialPtr& material, bool wit
     }
 }
 
+/// Adds a texture or shader chunk by its container id.
+void addChunk(osg::ContentStamp& stamp, osg::UInt32 id)
+{
+    const auto chunk =
+        osg::StateChunkPtr::dcast(osg::FieldContainerFactory::the()->getContainer(id));
+    stamp.add(chunk == osg::NullFC ? osg::UInt64(0) : chunk->getContentStamp());
+}
+
+void addColors(osg::ContentStamp& stamp, const DrawState& state)
+{
+    for (const osg::Color3f& color :
+         { state.ambient, state.diffuse, state.specular, state.emission }) {
+        stamp.add(color.getValuesRGB(), 3);
+    }
+    stamp.add(state.blendColor.getValuesRGBA(), 4);
+    for (const float number :
+         { state.shininess, state.alpha, state.alphaValue, state.depthNear, state.depthFar,
+           state.lineWidth, state.offsetFactor, state.offsetBias }) {
+        stamp.add(number);
+    }
+}
+
 }  // namespace
+
+osg::UInt64 stampOf(const DrawState& state)
+{
+    osg::ContentStamp stamp;
+    addColors(stamp, state);
+    for (const bool flag : { state.lit, state.usesVertexColors, state.transparent, state.depthTest,
+                             state.depthWrite }) {
+        stamp.add(osg::UInt64(flag ? 1 : 0));
+    }
+    for (const GLenum value :
+         { state.blendSource, state.blendDestination, state.blendSourceAlpha,
+           state.blendDestinationAlpha, state.blendEquation, state.alphaFunc, state.depthFunc,
+           state.cullFace, state.frontFace, state.polygonMode, GLenum(state.stipplePattern),
+           static_cast<GLenum>(state.stippleRepeat) }) {
+        stamp.add(osg::UInt64(value));
+    }
+    addChunk(stamp, state.textureId);
+    addChunk(stamp, state.shaderId);
+    if (state.uber != nullptr) {
+        addTo(stamp, *state.uber);
+    }
+    return stamp.get();
+}
 
 DrawState resolveMaterial(const osg::MaterialPtr& material)
 {

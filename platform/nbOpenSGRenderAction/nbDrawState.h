@@ -66,6 +66,10 @@ struct DrawState
     std::shared_ptr<const UberMaterialState> uber;  ///< null without projected pictures
 };
 
+/// A number that differs when anything that is drawn with a state may, the contents of its texture,
+/// pictures and shader chunk included.
+osg::UInt64 stampOf(const DrawState& state);
+
 /// State of a material; of null that of a grey lit surface.
 DrawState resolveMaterial(const osg::MaterialPtr& material);
 

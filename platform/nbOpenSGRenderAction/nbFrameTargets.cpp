@@ -30,18 +30,19 @@ bool FrameTargets::bind(Gl& gl, int width, int height, int samples, GLenum depth
         release(gl);
         madeWidth = width;
         madeHeight = height;
-        if (!make(gl, samples, depthFormat, error)) {
+        madeDepthFormat = depthFormat;
+        if (!make(gl, samples, error)) {
             release(gl);
             return false;
         }
         wantedSamples = samples;
     }
-    gl.glBindFramebuffer(GL_FRAMEBUFFER, drawFramebuffer);
+    gl.glBindFramebuffer(GL_FRAMEBUFFER, drawn.framebuffer);
     gl.glDrawBuffers(2, kOutputs);
     return true;
 }
 
-bool FrameTargets::make(Gl& gl, int samples, GLenum depthFormat, std::string& error)
+bool FrameTargets::make(Gl& gl, int samples, std::string& error)
 {
     GLint largest = 0;
     gl.glGetIntegerv(GL_MAX_RENDERBUFFER_SIZE, &largest);
@@ -51,20 +52,8 @@ bool FrameTargets::make(Gl& gl, int samples, GLenum depthFormat, std::string& er
         return false;
     }
     madeSamples = clampSamples(gl, samples);
-    gl.glGenFramebuffers(1, &drawFramebuffer);
-    gl.glBindFramebuffer(GL_FRAMEBUFFER, drawFramebuffer);
-    gl.glGenRenderbuffers(3, renderbuffers);
-    const GLenum formats[] = { GL_RGBA8, GL_RGBA8, depthFormat };
-    constexpr GLenum kAttachments[] = { GL_COLOR_ATTACHMENT0, GL_COLOR_ATTACHMENT1,
-                                        GL_DEPTH_ATTACHMENT };
-    for (int i = 0; i < 3; ++i) {
-        gl.glBindRenderbuffer(GL_RENDERBUFFER, renderbuffers[i]);
-        gl.glRenderbufferStorageMultisample(GL_RENDERBUFFER, madeSamples > 1 ? madeSamples : 0,
-                                            formats[i], madeWidth, madeHeight);
-        gl.glFramebufferRenderbuffer(GL_FRAMEBUFFER, kAttachments[i], GL_RENDERBUFFER,
-                                     renderbuffers[i]);
-    }
-    const bool canDraw = gl.glCheckFramebufferStatus(GL_FRAMEBUFFER) == GL_FRAMEBUFFER_COMPLETE;
+    const bool canDraw = makeLayers(gl, drawn);
+    markDrawn({ 0, 0, madeWidth, madeHeight });
 
     gl.glGenFramebuffers(1, &resolveFramebuffer);
     gl.glBindFramebuffer(GL_FRAMEBUFFER, resolveFramebuffer);
@@ -86,15 +75,90 @@ bool FrameTargets::make(Gl& gl, int samples, GLenum depthFormat, std::string& er
     return canDraw && canResolve;
 }
 
+bool FrameTargets::makeLayers(Gl& gl, Layers& layers) const
+{
+    gl.glGenFramebuffers(1, &layers.framebuffer);
+    gl.glBindFramebuffer(GL_FRAMEBUFFER, layers.framebuffer);
+    gl.glGenRenderbuffers(3, layers.renderbuffers);
+    const GLenum formats[] = { GL_RGBA8, GL_RGBA8, madeDepthFormat };
+    constexpr GLenum kAttachments[] = { GL_COLOR_ATTACHMENT0, GL_COLOR_ATTACHMENT1,
+                                        GL_DEPTH_ATTACHMENT };
+    for (int i = 0; i < 3; ++i) {
+        gl.glBindRenderbuffer(GL_RENDERBUFFER, layers.renderbuffers[i]);
+        gl.glRenderbufferStorageMultisample(GL_RENDERBUFFER, madeSamples > 1 ? madeSamples : 0,
+                                            formats[i], madeWidth, madeHeight);
+        gl.glFramebufferRenderbuffer(GL_FRAMEBUFFER, kAttachments[i], GL_RENDERBUFFER,
+                                     layers.renderbuffers[i]);
+    }
+    return gl.glCheckFramebufferStatus(GL_FRAMEBUFFER) == GL_FRAMEBUFFER_COMPLETE;
+}
+
+void FrameTargets::markDrawn(const PixelBox& box)
+{
+    difference.unite(box);
+    for (PixelBox& waiting : unresolved) {
+        waiting.unite(box);
+    }
+}
+
+void FrameTargets::copy(Gl& gl, const Layers& from, const Layers& to, const PixelBox& box)
+{
+    gl.glBindFramebuffer(GL_READ_FRAMEBUFFER, from.framebuffer);
+    gl.glBindFramebuffer(GL_DRAW_FRAMEBUFFER, to.framebuffer);
+    const auto blit = [&gl, &box](GLbitfield mask) {
+        gl.glBlitFramebuffer(box.left, box.bottom, box.right, box.top, box.left, box.bottom,
+                             box.right, box.top, mask, GL_NEAREST);
+    };
+    for (const GLenum output : kOutputs) {
+        gl.glReadBuffer(output);
+        // The buffer of an attachment can only stand in its own place of the list.
+        const GLenum outputs[] = { output == kOutputs[0] ? output : GLenum(GL_NONE),
+                                   output == kOutputs[1] ? output : GLenum(GL_NONE) };
+        gl.glDrawBuffers(2, outputs);
+        blit(GL_COLOR_BUFFER_BIT);
+    }
+    blit(GL_DEPTH_BUFFER_BIT);
+}
+
+bool FrameTargets::keep(Gl& gl)
+{
+    isKept = kept.framebuffer != 0 || makeLayers(gl, kept);
+    if (isKept) {
+        copy(gl, drawn, kept, { 0, 0, madeWidth, madeHeight });
+        difference = PixelBox();
+    } else {
+        release(gl, kept);
+    }
+    gl.glBindFramebuffer(GL_FRAMEBUFFER, drawn.framebuffer);
+    gl.glDrawBuffers(2, kOutputs);
+    return isKept;
+}
+
+void FrameTargets::restore(Gl& gl)
+{
+    if (isKept && !difference.isEmpty()) {
+        copy(gl, kept, drawn, difference);
+        markDrawn(difference);
+        difference = PixelBox();
+    }
+    gl.glBindFramebuffer(GL_FRAMEBUFFER, drawn.framebuffer);
+    gl.glDrawBuffers(2, kOutputs);
+}
+
 void FrameTargets::resolve(Gl& gl, Buffer buffer)
 {
-    const GLenum output = kOutputs[buffer == Buffer::Color ? 0 : 1];
-    gl.glBindFramebuffer(GL_READ_FRAMEBUFFER, drawFramebuffer);
+    const int index = buffer == Buffer::Color ? 0 : 1;
+    PixelBox& box = unresolved[index];
+    if (box.isEmpty()) {
+        return;
+    }
+    gl.glBindFramebuffer(GL_READ_FRAMEBUFFER, drawn.framebuffer);
     gl.glBindFramebuffer(GL_DRAW_FRAMEBUFFER, resolveFramebuffer);
-    gl.glReadBuffer(output);
-    gl.glDrawBuffer(output);
-    gl.glBlitFramebuffer(0, 0, madeWidth, madeHeight, 0, 0, madeWidth, madeHeight,
-                         GL_COLOR_BUFFER_BIT, GL_NEAREST);
+    gl.glReadBuffer(kOutputs[index]);
+    gl.glDrawBuffer(kOutputs[index]);
+    gl.glBlitFramebuffer(box.left, box.bottom, box.right, box.top, box.left, box.bottom, box.right,
+                         box.top, GL_COLOR_BUFFER_BIT, GL_NEAREST);
+    box = PixelBox();
 }
 
 QImage FrameTargets::read(Gl& gl, Buffer buffer)
@@ -129,11 +193,18 @@ QImage FrameTargets::read(Gl& gl, Buffer buffer)
     return opaque;
 }
 
+void FrameTargets::release(Gl& gl, Layers& layers)
+{
+    gl.glDeleteFramebuffers(1, &layers.framebuffer);
+    gl.glDeleteRenderbuffers(3, layers.renderbuffers);
+    layers = Layers();
+}
+
 void FrameTargets::release(Gl& gl)
 {
-    gl.glDeleteFramebuffers(1, &drawFramebuffer);
+    release(gl, drawn);
+    release(gl, kept);
     gl.glDeleteFramebuffers(1, &resolveFramebuffer);
-    gl.glDeleteRenderbuffers(3, renderbuffers);
     gl.glDeleteTextures(2, textures);
     forget();
 }

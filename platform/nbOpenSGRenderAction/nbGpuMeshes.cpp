@@ -123,6 +123,14 @@ void GpuMeshes::destroy(Gl& gl, Entry& entry)
     entry = Entry();
 }
 
+std::size_t GpuMeshes::getTriangles(osg::UInt32 geometryId) const
+{
+    const auto known = entries.find(geometryId);
+    return known == entries.end()
+        ? 0
+        : static_cast<std::size_t>(known->second.mesh.triangleIndexCount) / 3;
+}
+
 void GpuMeshes::collect(Gl& gl)
 {
     for (auto it = entries.begin(); it != entries.end();) {

@@ -34,6 +34,9 @@ public:
     /// Buffers of a geometry; valid until the next call of a non-const function.
     const GpuMesh& get(Gl& gl, const osg::GeometryPtr& geometry);
 
+    /// Triangles of a geometry as it was last drawn, by its container id; 0 before.
+    std::size_t getTriangles(osg::UInt32 geometryId) const;
+
     /// Drops the buffers of geometries that no longer exist.
     void collect(Gl& gl);
 

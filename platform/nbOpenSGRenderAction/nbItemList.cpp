@@ -7,6 +7,7 @@
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <OpenSG/OSGChangeCount.h>
+#include <OpenSG/OSGContentStamp.h>
 #include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGMaterialGroup.h>
 #include <OpenSG/OSGSwitch.h>
@@ -32,7 +33,6 @@ osg::UInt32 idOf(const osg::FieldContainerPtr& container)
     return container == osg::NullFC ? 0 : container.getFieldContainerId();
 }
 
-constexpr std::size_t kMatrixSize = 16;
 using MatrixValues = std::array<float, kMatrixSize>;
 
 /// What two copies of one handle have in common.
@@ -71,6 +71,7 @@ bool ItemList::update(const osg::NodePtr& root)
     treeCount = count;
     items.clear();
     states.clear();
+    stateStamps.clear();
     stateIndices.clear();
     clipSets.clear();
     surfaceSpaces.clear();
@@ -133,8 +134,8 @@ void ItemList::visitChildren(const osg::NodePtr& node, const Place& place)
 
 void ItemList::addItem(const osg::GeometryPtr& geometry, const Place& place)
 {
-    const osg::BoxVolume& local = localBounds(geometry);
-    if (local.isEmpty()) {
+    const LocalBounds& local = localBounds(geometry);
+    if (local.box.isEmpty()) {
         return;
     }
     RenderItem item;
@@ -144,7 +145,7 @@ void ItemList::addItem(const osg::GeometryPtr& geometry, const Place& place)
     item.auxiliary = place.auxiliary;
     item.clipSet = item.handle ? 0 : place.clipSet;
     item.worldFromObject = place.worldFromParent;
-    item.bounds = local;
+    item.bounds = local.box;
     item.bounds.transform(place.worldFromParent);
     item.stateIndex = stateFor(geometry->getMaterial(), place.group, item.handle);
     const DrawState& state = states[item.stateIndex];
@@ -155,7 +156,24 @@ void ItemList::addItem(const osg::GeometryPtr& geometry, const Place& place)
     }
     item.blended = state.transparent;
     placePictures(item, place);
+    item.stamp = stampOf(item, local.stamp);
     items.push_back(item);
+}
+
+osg::UInt64 ItemList::stampOf(const RenderItem& item, osg::UInt64 geometry) const
+{
+    osg::ContentStamp stamp;
+    stamp.add(osg::UInt64(item.geometryId));
+    stamp.add(geometry);
+    stamp.add(stateStamps[item.stateIndex]);
+    stamp.add(osg::UInt64(item.blended ? 1 : 0));
+    stamp.add(item.worldFromObject.getValues(), kMatrixSize);
+    if (item.surfaceSpace != 0) {
+        const SurfaceSpace& space = getSurfaceSpace(item.surfaceSpace);
+        stamp.add(space.surfaceFromItem.getValues(), kMatrixSize);
+        stamp.add(space.worldFromSurface.getValues(), kMatrixSize);
+    }
+    return stamp.get();
 }
 
 void ItemList::placePictures(RenderItem& item, const Place& place)
@@ -193,12 +211,13 @@ osg::UInt32 ItemList::stateFor(const osg::MaterialPtr& material, const osg::Mate
         state.depthWrite = false;
     }
     const auto index = static_cast<osg::UInt32>(states.size());
+    stateStamps.push_back(nbrender::stampOf(state));
     states.push_back(state);
     stateIndices.emplace(key, index);
     return index;
 }
 
-const osg::BoxVolume& ItemList::localBounds(const osg::GeometryPtr& geometry)
+const ItemList::LocalBounds& ItemList::localBounds(const osg::GeometryPtr& geometry)
 {
     LocalBounds& known = boundsById[geometry.getFieldContainerId()];
     const osg::UInt64 stamp = geometryStamp(geometry);
@@ -208,7 +227,7 @@ const osg::BoxVolume& ItemList::localBounds(const osg::GeometryPtr& geometry)
         known.box.setEmpty();
         geometry->adjustVolume(known.box);
     }
-    return known.box;
+    return known;
 }
 
 void ItemList::assignDepthSteps()

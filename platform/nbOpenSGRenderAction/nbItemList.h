@@ -11,10 +11,13 @@
 #include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGVector.h>
 
+#include <cstddef>
 #include <unordered_map>
 #include <vector>
 
 namespace nbrender {
+
+constexpr std::size_t kMatrixSize = 16;  ///< numbers in a matrix
 
 /// One geometry of a tree with all that drawing it depends on.
 struct RenderItem
@@ -35,6 +38,9 @@ struct RenderItem
     osg::UInt32 manipulator = 0;  ///< number of the manipulator node that the item is below, from 1
     osg::UInt32 clipSet = 0;  ///< into ItemList::getClipPlanes; 0 for an item that nothing cuts
     osg::UInt32 surfaceSpace = 0;  ///< into ItemList::getSurfaceSpace; 0: the item's own space
+    /// Differs when anything that the item is drawn with may, but for the view and its clip planes:
+    /// geometry, material with everything in it, place.
+    osg::UInt64 stamp = 0;
 };
 
 /// The space of the node that carries an item's material. Matrices are 4x4 for column vectors.
@@ -124,9 +130,10 @@ private:
     void visitChildren(const osg::NodePtr& node, const Place& place);
     void addItem(const osg::GeometryPtr& geometry, const Place& place);
     void placePictures(RenderItem& item, const Place& place);
+    osg::UInt64 stampOf(const RenderItem& item, osg::UInt64 geometry) const;
     osg::UInt32 stateFor(const osg::MaterialPtr& material, const osg::MaterialPtr& group,
                          bool handle);
-    const osg::BoxVolume& localBounds(const osg::GeometryPtr& geometry);
+    const LocalBounds& localBounds(const osg::GeometryPtr& geometry);
     void assignDepthSteps();
     void sortItems();
     void dropCopies();
@@ -135,6 +142,7 @@ private:
 
     std::vector<RenderItem> items;
     std::vector<DrawState> states;
+    std::vector<osg::UInt64> stateStamps;  ///< by state
     std::vector<osg::UInt32> order;
     nbClipSets clipSets;
     std::vector<SurfaceSpace> surfaceSpaces;

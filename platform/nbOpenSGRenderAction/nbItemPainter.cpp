@@ -68,44 +68,14 @@ osg::Vec4f inView(const osg::Vec4f& plane, const osg::Matrix& viewFromWorld)
 
 }  // namespace
 
-bool isInView(const osg::BoxVolume& bounds, const osg::Matrix& clipFromWorld, bool handle)
-{
-    const osg::Pnt3f& low = bounds.getMin();
-    const osg::Pnt3f& high = bounds.getMax();
-    constexpr int kCorners = 8;
-    constexpr std::size_t kPlanes = 6;
-    constexpr std::size_t kSidePlanes = 4;
-    std::array<int, kPlanes> outside {};
-    for (int corner = 0; corner < kCorners; ++corner) {
-        const osg::Vec4f point((corner & 1) != 0 ? high.x() : low.x(),
-                               (corner & 2) != 0 ? high.y() : low.y(),
-                               (corner & 4) != 0 ? high.z() : low.z(), 1.f);
-        osg::Vec4f clip;
-        clipFromWorld.multMatrixVec(point, clip);
-        // Wide lines reach a little beyond their bounds.
-        constexpr float kMargin = 1.05f;
-        const float w = clip.w() * (clip.w() > 0.f ? kMargin : 1.f);
-        const std::array<bool, kPlanes> beyond { clip.x() < -w, clip.x() > w,  clip.y() < -w,
-                                                 clip.y() > w,  clip.z() < -w, clip.z() > w };
-        for (std::size_t plane = 0; plane < beyond.size(); ++plane) {
-            outside[plane] += beyond[plane] ? 1 : 0;
-        }
-    }
-    for (std::size_t plane = 0; plane < (handle ? kSidePlanes : kPlanes); ++plane) {
-        if (outside[plane] == kCorners) {
-            return false;
-        }
-    }
-    return true;
-}
-
 ItemPainter::ItemPainter(Gl& functions, GpuMeshes& meshCache, GpuTextures& textureCache,
-                         ShaderPrograms& programCache, const FrameView& frameView)
+                         ShaderPrograms& programCache, const FrameView& frameView, DrawCount& drawn)
     : gl(functions)
     , meshes(meshCache)
     , textures(textureCache)
     , programs(programCache)
     , view(frameView)
+    , drawCount(drawn)
 {
     gl.glEnable(GL_DEPTH_TEST);
     gl.glEnable(GL_PROGRAM_POINT_SIZE);
@@ -417,6 +387,7 @@ void ItemPainter::drawSurfaces(const RenderItem& item, const DrawState& state, c
     }
     gl.glBindVertexArray(mesh.surfaces);
     gl.glDrawElements(GL_TRIANGLES, mesh.triangleIndexCount, GL_UNSIGNED_INT, nullptr);
+    drawCount.add(static_cast<std::size_t>(mesh.triangleIndexCount) / 3);
 }
 
 void ItemPainter::drawLines(const RenderItem& item, const DrawState& state, const GpuMesh& mesh)
@@ -427,6 +398,7 @@ void ItemPainter::drawLines(const RenderItem& item, const DrawState& state, cons
     if (prepareShaderChunk(item, state, true) != nullptr) {
         gl.glBindVertexArray(mesh.plainLines);
         gl.glDrawArrays(GL_LINES, 0, 2 * mesh.lineCount);
+        drawCount.add(0);
         return;
     }
     constexpr auto kShape = ShaderPrograms::Shape::Line;
@@ -434,6 +406,8 @@ void ItemPainter::drawLines(const RenderItem& item, const DrawState& state, cons
         gl.glBindVertexArray(mesh.lines);
         gl.glDrawArraysInstanced(GL_TRIANGLE_STRIP, 0, shaders::kLinePolygonVertices,
                                  mesh.lineCount);
+        constexpr std::size_t kTriangles = shaders::kLinePolygonVertices - 2;
+        drawCount.add(kTriangles * static_cast<std::size_t>(mesh.lineCount));
     }
 }
 
@@ -446,6 +420,7 @@ void ItemPainter::drawPoints(const RenderItem& item, const DrawState& state, con
     }
     gl.glBindVertexArray(mesh.points);
     gl.glDrawArrays(GL_POINTS, 0, mesh.pointCount);
+    drawCount.add(0);
 }
 
 }  // namespace nbrender

@@ -1,37 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <nbOpenSGRenderAction/nbDepthLayout.h>
+#include <nbOpenSGRenderAction/nbFrameView.h>
 #include <nbOpenSGRenderAction/nbGpuMeshes.h>
 #include <nbOpenSGRenderAction/nbGpuTextures.h>
 #include <nbOpenSGRenderAction/nbItemList.h>
 #include <nbOpenSGRenderAction/nbShaderPrograms.h>
 
-#include <OpenSG/OSGMatrix.h>
-#include <OpenSG/OSGVector.h>
-
 namespace nbrender {
-
-/// How one frame sees the world. Matrices are 4x4 with column vectors. The projections that are
-/// drawn with are in the terms of the depth layout; handles have their own, with planes that
-/// enclose them tightly.
-struct FrameView
-{
-    osg::Matrix viewFromWorld;
-    osg::Matrix clipFromView;  ///< as drawn
-    osg::Matrix handleClipFromView;  ///< as drawn, of handles
-    osg::Matrix usualClipFromWorld;  ///< with usual depths, for culling
-    DepthLayout depth;
-    float widthPx = 1.f;  ///< device pixels
-    float heightPx = 1.f;
-    float pixelRatio = 1.f;  ///< device pixels per logical pixel
-    bool orthographic = false;
-    osg::Vec3f viewUp { 0.f, 1.f, 0.f };  ///< the world's up in view space, unit length
-};
-
-/// Whether something of a world box may be seen. Handles are not cut at the near and far plane.
-NB_PLATFORM_API bool isInView(const osg::BoxVolume& bounds, const osg::Matrix& clipFromWorld,
-                              bool handle);
 
 /// Draws items one after the other; keeps track of the OpenGL state that they share.
 ///
@@ -41,8 +17,9 @@ NB_PLATFORM_API bool isInView(const osg::BoxVolume& bounds, const osg::Matrix& c
 class ItemPainter
 {
 public:
+    /// @param drawn  receives what is drawn
     ItemPainter(Gl& functions, GpuMeshes& meshCache, GpuTextures& textureCache,
-                ShaderPrograms& programCache, const FrameView& frameView);
+                ShaderPrograms& programCache, const FrameView& frameView, DrawCount& drawn);
 
     /// Puts back the OpenGL state that a fresh context has.
     ~ItemPainter();
@@ -87,6 +64,7 @@ private:
     GpuTextures& textures;
     ShaderPrograms& programs;
     const FrameView& view;
+    DrawCount& drawCount;
     nbClipSets::Planes viewClipPlanes;  ///< of the item that is being drawn, in view space
     SurfaceSpace surfaceSpace;  ///< of the same item
     bool boundPictures = false;

@@ -64,18 +64,26 @@ nbOffscreenView::nbOffscreenView() = default;
 
 nbOffscreenView::~nbOffscreenView()
 {
+    close();
+}
+
+void nbOffscreenView::close()
+{
     if (context != nullptr && surface != nullptr) {
         const CurrentContext current(*context, *surface);
         action.release();
     }
+    context.reset();
+    surface.reset();
 }
 
 bool nbOffscreenView::open()
 {
     error.clear();
-    if (context != nullptr) {
+    if (context != nullptr && context->isValid()) {
         return true;
     }
+    close();
     if (qGuiApp == nullptr) {
         error = "rendering without a window needs a running QGuiApplication";
         return false;

@@ -30,6 +30,11 @@ public:
     /// @return false, with one line in getError(), if this machine cannot
     bool open();
 
+    /// Gives surface and context back, with everything that was made in them; the next operation
+    /// makes new ones, and the same pictures. open() does this by itself where the driver has lost
+    /// the context.
+    void close();
+
     /// Why the last operation failed; empty if it did not.
     const std::string& getError() const { return error; }
 

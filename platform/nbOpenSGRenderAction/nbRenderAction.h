@@ -49,6 +49,14 @@
 /// shown; the buffers that can be read do not have it. It enlarges the picture or, if there is a
 /// photograph, that and the handles without the scene, which could hide what is to be seen.
 ///
+/// What was drawn before the first handle is kept, colours, effect buffer and depth of all samples,
+/// from the second frame on in which it is the same: a frame in which only handles, or things drawn
+/// with them, have changed takes that image, where they were, and draws them anew; see
+/// nbrender::SceneImage. Everything that a frame depends on is compared: view, size, background and
+/// photograph, plates, and of each item its place, geometry, material and clip planes. Scene items
+/// that come after a handle in drawing order are drawn each time, and while the magnifier is shown
+/// over a photograph everything is.
+///
 /// Scene plates (see osg::Sceneplate) lie over the background before the scene, or over the scene
 /// below the handles; where there are plates of the latter kind, all handles are drawn after all of
 /// the scene. The effect buffer does not know them.
@@ -58,10 +66,16 @@ public:
     /// What the last frame took.
     struct Statistics
     {
+        std::size_t frames = 0;  ///< drawn since construction
         std::size_t items = 0;  ///< in the list
-        std::size_t drawn = 0;  ///< of these drawn, the others were out of view
+        std::size_t drawn = 0;  ///< of these in view
+        std::size_t reused = 0;  ///< of these not drawn but taken from the kept scene image
         std::size_t listBuilds = 0;  ///< how often the item list was made since construction
         std::size_t meshes = 0;  ///< geometries that have buffers
+        std::size_t drawCalls = 0;  ///< items, plates, background and the copy to the target
+        std::size_t triangles = 0;  ///< in these, those that lines are widened to included
+        /// Time of render(): until the driver had all commands or, when timed, had done them.
+        double milliseconds = 0.0;
     };
 
     nbRenderAction();
@@ -99,6 +113,14 @@ public:
 
     /// Shows the effect buffer instead of the colours.
     void showEffectBuffer(bool on);
+
+    /// Whether the finished image of the scene is kept and used again; it is at the start. Pictures
+    /// are the same either way.
+    void setSceneKept(bool on);
+
+    /// Whether render() waits until the driver has done everything, so that its time is told
+    /// wholly; it does not at the start.
+    void setTimed(bool on);
 
     /// The last frame's colours, without alpha, rows from the top; null before the first frame.
     QImage readColour();

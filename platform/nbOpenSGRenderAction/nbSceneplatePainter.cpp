@@ -80,8 +80,17 @@ struct SceneplatePainter::Quad
     osg::Pnt2f origin;
     osg::Vec2f x;
     osg::Vec2f y;
-    GLuint texture = 0;  ///< 0: the colour alone
+    osg::ImagePtr image;  ///< null: the colour alone
     osg::Color4f color;  ///< factor, multiplied by its alpha
+
+    void addTo(osg::ContentStamp& stamp) const
+    {
+        stamp.add(origin.getValues(), 2);
+        stamp.add(x.getValues(), 2);
+        stamp.add(y.getValues(), 2);
+        stamp.add(image);
+        stamp.add(color.getValuesRGBA(), 4);
+    }
 };
 
 void SceneplatePainter::update(const osg::NodePtr& root)
@@ -102,29 +111,83 @@ void SceneplatePainter::update(const osg::NodePtr& root)
     });
 }
 
-void SceneplatePainter::drawBack(Gl& gl, const PlateFrame& frame, GLuint emptyArray)
+void SceneplatePainter::drawBack(Gl& gl, const Frame& frame)
 {
-    if (frontBegin > 0 && begin(gl, frame, emptyArray)) {
-        drawPlates(gl, frame, 0, frontBegin);
-        end(gl);
+    draw(gl, frame, backQuads(frame));
+}
+
+void SceneplatePainter::drawFront(Gl& gl, const Frame& frame)
+{
+    draw(gl, frame, frontQuads(frame));
+}
+
+void SceneplatePainter::addBackTo(osg::ContentStamp& stamp, const Frame& frame) const
+{
+    for (const Quad& quad : backQuads(frame)) {
+        quad.addTo(stamp);
     }
 }
 
-void SceneplatePainter::drawFront(Gl& gl, const PlateFrame& frame, GLuint emptyArray)
+void SceneplatePainter::addFrontTo(osg::ContentStamp& stamp, const Frame& frame) const
 {
-    if (!hasFront() || !begin(gl, frame, emptyArray)) {
-        return;
+    for (const Quad& quad : frontQuads(frame)) {
+        quad.addTo(stamp);
     }
-    drawPlates(gl, frame, frontBegin, plates.size());
+}
+
+PixelBox SceneplatePainter::frontPixels(const Frame& frame) const
+{
+    constexpr float kMarginPx = 2.f;
+    PixelBox box;
+    for (const Quad& quad : frontQuads(frame)) {
+        const osg::Pnt2f far = quad.origin + quad.x + quad.y;
+        const osg::Pnt2f sideX = quad.origin + quad.x;
+        const osg::Pnt2f sideY = quad.origin + quad.y;
+        const auto [left, right] = std::minmax({ quad.origin.x(), far.x(), sideX.x(), sideY.x() });
+        const auto [upper, lower] = std::minmax({ quad.origin.y(), far.y(), sideX.y(), sideY.y() });
+        const auto height = static_cast<float>(frame.heightPx);
+        box.unite(pixelsAround(frame, osg::Pnt2f(left, height - lower),
+                               osg::Pnt2f(right, height - upper), kMarginPx));
+    }
+    return box;
+}
+
+SceneplatePainter::Quads SceneplatePainter::backQuads(const Frame& frame) const
+{
+    Quads quads;
+    for (std::size_t i = 0; i < frontBegin; ++i) {
+        quads.push_back(plateQuad(frame, plates[i].plate));
+    }
+    return quads;
+}
+
+SceneplatePainter::Quads SceneplatePainter::frontQuads(const Frame& frame) const
+{
+    Quads quads;
+    for (std::size_t i = frontBegin; i < plates.size(); ++i) {
+        quads.push_back(plateQuad(frame, plates[i].plate));
+    }
     for (const nbSceneplateList::Entry& entry : plates) {
         if (entry.plate->getMarker() != osg::Sceneplate::NoMarker) {
-            drawMarker(gl, frame, entry.plate);
+            addMarker(quads, frame, entry.plate);
         }
+    }
+    return quads;
+}
+
+void SceneplatePainter::draw(Gl& gl, const Frame& frame, const Quads& quads)
+{
+    if (quads.empty() || !begin(gl, frame)) {
+        return;
+    }
+    for (const Quad& quad : quads) {
+        drawQuad(gl, quad);
+        frame.count->add(2);
     }
     end(gl);
 }
 
-bool SceneplatePainter::begin(Gl& gl, const PlateFrame& frame, GLuint emptyArray)
+bool SceneplatePainter::begin(Gl& gl, const Frame& frame)
 {
     if (!programTried) {
         programTried = true;
@@ -154,7 +217,7 @@ bool SceneplatePainter::begin(Gl& gl, const PlateFrame& frame, GLuint emptyArray
     gl.glBlendEquation(GL_FUNC_ADD);
     gl.glBlendFunc(GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
     gl.glActiveTexture(GL_TEXTURE0);
-    gl.glBindVertexArray(emptyArray);
+    gl.glBindVertexArray(frame.emptyArray);
     return true;
 }
 
@@ -169,15 +232,8 @@ void SceneplatePainter::end(Gl& gl)
     gl.glColorMaski(kEffectBuffer, GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
 }
 
-void SceneplatePainter::drawPlates(Gl& gl, const PlateFrame& frame, std::size_t first,
-                                   std::size_t last)
-{
-    for (std::size_t i = first; i < last; ++i) {
-        drawPlate(gl, frame, plates[i].plate);
-    }
-}
-
-void SceneplatePainter::drawPlate(Gl& gl, const PlateFrame& frame, const osg::SceneplatePtr& plate)
+SceneplatePainter::Quad SceneplatePainter::plateQuad(const Frame& frame,
+                                                     const osg::SceneplatePtr& plate)
 {
     const nbSceneplateLayout::Corners corners =
         nbSceneplateLayout::corners(plate, frame.widthPx, frame.heightPx);
@@ -188,17 +244,14 @@ void SceneplatePainter::drawPlate(Gl& gl, const PlateFrame& frame, const osg::Sc
     if (!nbSceneplateLayout::isOnPixels(plate)) {
         quad.origin += osg::Vec2f(frame.shiftXPx, -frame.shiftYPx);
     }
-    const osg::ImagePtr image = nbSceneplatePicture::imageOf(plate);
-    if (image != osg::NullFC) {
-        quad.texture = textures.get(gl, image);
-        quad.color = premultiplied(osg::Color4f(1.f, 1.f, 1.f, 1.f), plate->getOpacity());
-    } else {
-        quad.color = premultiplied(plate->getColor(), plate->getOpacity());
-    }
-    drawQuad(gl, quad);
+    quad.image = nbSceneplatePicture::imageOf(plate);
+    const osg::Color4f color =
+        quad.image != osg::NullFC ? osg::Color4f(1.f, 1.f, 1.f, 1.f) : plate->getColor();
+    quad.color = premultiplied(color, plate->getOpacity());
+    return quad;
 }
 
-void SceneplatePainter::drawMarker(Gl& gl, const PlateFrame& frame, const osg::SceneplatePtr& plate)
+void SceneplatePainter::addMarker(Quads& quads, const Frame& frame, const osg::SceneplatePtr& plate)
 {
     const OutlineStyle& style =
         plate->getMarker() == osg::Sceneplate::SelectedMarker ? kSelectedStyle : kPreselectedStyle;
@@ -213,16 +266,16 @@ void SceneplatePainter::drawMarker(Gl& gl, const PlateFrame& frame, const osg::S
         unit.normalize();
         // The corners run counter-clockwise on screen.
         const osg::Vec2f outwards(-unit.y(), unit.x());
-        const auto drawLine = [&](float inner, float outer, const osg::Color4f& color) {
+        const auto addLine = [&](float inner, float outer, const osg::Color4f& color) {
             Quad quad;
             quad.origin = begin + outwards * inner - unit * inner;
             quad.x = along + unit * (inner + outer);
             quad.y = outwards * (outer - inner);
             quad.color = premultiplied(color, 1.f);
-            drawQuad(gl, quad);
+            quads.push_back(quad);
         };
-        drawLine(0.f, bright, style.color);
-        drawLine(bright, bright + dark, kDarkLine);
+        addLine(0.f, bright, style.color);
+        addLine(bright, bright + dark, kDarkLine);
     }
 }
 
@@ -233,8 +286,9 @@ void SceneplatePainter::drawQuad(Gl& gl, const Quad& quad)
     program.set(gl, "sideX", quad.x.x(), quad.x.y());
     program.set(gl, "sideY", quad.y.x(), quad.y.y());
     program.set(gl, "color", color.red(), color.green(), color.blue(), color.alpha());
-    program.set(gl, "textured", GLint(quad.texture != 0 ? 1 : 0));
-    gl.glBindTexture(GL_TEXTURE_2D, quad.texture);
+    const GLuint texture = quad.image != osg::NullFC ? textures.get(gl, quad.image) : 0;
+    program.set(gl, "textured", GLint(texture != 0 ? 1 : 0));
+    gl.glBindTexture(GL_TEXTURE_2D, texture);
     gl.glDrawArrays(GL_TRIANGLE_STRIP, 0, kCorners);
 }
 

@@ -1,24 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <nbOpenSGRenderAction/nbGlProgram.h>
+#include <nbOpenSGRenderAction/nbFrame.h>
 #include <nbOpenSGRenderAction/nbSceneplateTextures.h>
 #include <nbOpenSGSceneplate/nbSceneplateList.h>
 
-#include <string>
+#include <OpenSG/OSGContentStamp.h>
+
 #include <vector>
 
 namespace nbrender {
-
-/// The view in which plates are drawn, device pixels.
-struct PlateFrame
-{
-    int widthPx = 0;
-    int heightPx = 0;
-    float pixelRatio = 1.f;  ///< device pixels per logical pixel
-    float shiftXPx = 0.f;  ///< of the picture, to the right
-    float shiftYPx = 0.f;  ///< of the picture, up
-};
 
 /// Draws scene plates and the outlines of those that are marked.
 ///
@@ -37,11 +28,18 @@ public:
     bool hasFront() const { return frontBegin < plates.size() || hasMarkers; }
 
     /// Draws the plates behind the scene.
-    /// @param emptyArray  vertex array without attributes
-    void drawBack(Gl& gl, const PlateFrame& frame, GLuint emptyArray);
+    void drawBack(Gl& gl, const Frame& frame);
 
     /// Draws the plates in front of the scene, then the outlines of all marked ones.
-    void drawFront(Gl& gl, const PlateFrame& frame, GLuint emptyArray);
+    void drawFront(Gl& gl, const Frame& frame);
+
+    // Each adds what the operation above depends on.
+
+    void addBackTo(osg::ContentStamp& stamp, const Frame& frame) const;
+    void addFrontTo(osg::ContentStamp& stamp, const Frame& frame) const;
+
+    /// Pixels outside of which drawFront() draws nothing.
+    PixelBox frontPixels(const Frame& frame) const;
 
     void collect(Gl& gl) { textures.collect(gl); }
 
@@ -51,11 +49,15 @@ public:
 private:
     struct Quad;
 
-    bool begin(Gl& gl, const PlateFrame& frame, GLuint emptyArray);
+    using Quads = std::vector<Quad>;
+
+    Quads backQuads(const Frame& frame) const;
+    Quads frontQuads(const Frame& frame) const;
+    static Quad plateQuad(const Frame& frame, const osg::SceneplatePtr& plate);
+    static void addMarker(Quads& quads, const Frame& frame, const osg::SceneplatePtr& plate);
+    void draw(Gl& gl, const Frame& frame, const Quads& quads);
+    bool begin(Gl& gl, const Frame& frame);
     static void end(Gl& gl);
-    void drawPlates(Gl& gl, const PlateFrame& frame, std::size_t first, std::size_t last);
-    void drawPlate(Gl& gl, const PlateFrame& frame, const osg::SceneplatePtr& plate);
-    void drawMarker(Gl& gl, const PlateFrame& frame, const osg::SceneplatePtr& plate);
     void drawQuad(Gl& gl, const Quad& quad);
 
     std::vector<nbSceneplateList::Entry> plates;  ///< in drawing order

@@ -5,6 +5,8 @@
 #include <nbOpenSGExt/nbRotationMath.h>
 #include <nbOpenSGUberMaterial/UberMaterial.h>
 
+#include <OpenSG/OSGFieldContainerFactory.h>
+
 #include <algorithm>
 #include <cmath>
 
@@ -172,7 +174,29 @@ ProjectedPicture resolvePicture(const osg::UberMaterialPtr& material, const char
     return picture;
 }
 
+void addTo(osg::ContentStamp& stamp, const ProjectedPicture& picture)
+{
+    stamp.add(osg::FieldContainerFactory::the()->getContainer(picture.imageId));
+    stamp.add(static_cast<osg::UInt64>(picture.kind));
+    stamp.add(picture.pictureFromSurface.getValues(), kMatrixSize);
+    for (const osg::Vec4f& tile : picture.tiles) {
+        stamp.add(tile.getValues(), 4);
+    }
+    for (const bool flag :
+         { picture.repeatU, picture.repeatV, picture.clampZ, picture.asMask, picture.invert }) {
+        stamp.add(osg::UInt64(flag ? 1 : 0));
+    }
+}
+
 }  // namespace
+
+void addTo(osg::ContentStamp& stamp, const UberMaterialState& state)
+{
+    for (const ProjectedPicture& picture : state.pictures) {
+        addTo(stamp, picture);
+    }
+    stamp.add(osg::UInt64(state.hasCutouts ? 1 : 0));
+}
 
 std::shared_ptr<const UberMaterialState> resolveUberMaterial(const osg::MaterialPtr& material)
 {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <OpenSG/OSGBaseTypes.h>
+#include <OpenSG/OSGContentStamp.h>
 #include <OpenSG/OSGMaterial.h>
 #include <OpenSG/OSGMatrix.h>
 #include <OpenSG/OSGVector.h>
@@ -51,6 +52,9 @@ struct UberMaterialState
     /// Whether parts of an otherwise opaque surface are transparent.
     bool hasCutouts = false;
 };
+
+/// Adds everything that is drawn with a state, the contents of its pictures included.
+void addTo(osg::ContentStamp& stamp, const UberMaterialState& state);
 
 /// State of an UberMaterial that has a picture to show; null for any other material.
 std::shared_ptr<const UberMaterialState> resolveUberMaterial(const osg::MaterialPtr& material);

@@ -2,6 +2,9 @@
 #include "viewer/core/Session.h"
 #include "viewer/gui/MainWindow.h"
 #include "viewer/gui/SessionPlayer.h"
+#include "viewer/gui/ViewWidget.h"
+
+#include <nbOpenSGRenderAction/nbOffscreenView.h>
 
 #include <QDir>
 
@@ -21,6 +24,43 @@ std::vector<std::string> sessionNames()
     return names;
 }
 
+/// Draws what a view shows twice, once with the kept image of the scene, and counts the pictures
+/// that differ; small ones of every fourth frame, so that a replay takes little longer.
+class KeptImageCheck
+{
+public:
+    explicit KeptImageCheck(ViewWidget& checkedView)
+        : view(checkedView)
+    {
+        full.getAction().setSceneKept(false);
+    }
+
+    void compare()
+    {
+        constexpr std::size_t kEvery = 4;
+        const std::size_t frame = view.frameStatistics().frames;
+        const nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1);
+        if (frame < lastFrame + kEvery || widget == nullptr) {
+            return;
+        }
+        lastFrame = frame;
+        constexpr int kWidth = 150;
+        constexpr int kHeight = 100;
+        const QImage picture = kept.render(widget->getViewport(), kWidth, kHeight);
+        differences += picture == full.render(widget->getViewport(), kWidth, kHeight) ? 0 : 1;
+        ++frames;
+    }
+
+    int frames = 0;
+    int differences = 0;
+
+private:
+    ViewWidget& view;
+    nbOffscreenView kept;
+    nbOffscreenView full;
+    std::size_t lastFrame = 0;
+};
+
 class ShippedSessions : public GuiTest, public testing::WithParamInterface<std::string>
 { };
 
@@ -38,6 +78,8 @@ TEST_P(ShippedSessions, MeetTheirCheckpoints)
         problems.append(text);
         done = true;
     });
+    KeptImageCheck check(window.view());
+    QObject::connect(&window.view(), &ViewWidget::stateChanged, [&check] { check.compare(); });
     window.show();
 
     window.replay(*session, std::nullopt);
@@ -45,6 +87,9 @@ TEST_P(ShippedSessions, MeetTheirCheckpoints)
 
     EXPECT_EQ(problems, QStringList());
     EXPECT_EQ(window.player().getFailures(), QStringList());
+    EXPECT_EQ(check.differences, 0) << "of " << check.frames << " frames";
+    EXPECT_GT(check.frames, 0);
+    window.view().disconnect();
 }
 
 std::string testName(const testing::TestParamInfo<std::string>& info)

@@ -188,6 +188,7 @@ void MainWindow::updateStatus()
 {
     Stage& stage = viewWidget->stage();
     statusLine->update(stage, loader->isRunning());
+    statusLine->showFrame(viewWidget->frameText());
     docks->refresh();
 }
 

@@ -52,11 +52,13 @@ StatusLine::StatusLine(QStatusBar& bar)
     , handleLabel(new QLabel(&bar))
     , valuesLabel(new QLabel(&bar))
     , selectionLabel(new QLabel(&bar))
+    , frameLabel(new QLabel(&bar))
     , sceneLabel(new QLabel(&bar))
     , progress(new QProgressBar(&bar))
     , cancelButton(new QToolButton(&bar))
 {
     valuesLabel->setObjectName(QStringLiteral("values"));
+    frameLabel->setObjectName(QStringLiteral("frame"));
     progress->setRange(0, kPercent);
     progress->setObjectName(QStringLiteral("progress"));
     progress->setAccessibleName(tr("Progress of loading"));
@@ -73,6 +75,7 @@ StatusLine::StatusLine(QStatusBar& bar)
     bar.addWidget(valuesLabel);
     bar.addPermanentWidget(progress);
     bar.addPermanentWidget(cancelButton);
+    bar.addPermanentWidget(frameLabel);
     bar.addPermanentWidget(sceneLabel);
     progress->hide();
     cancelButton->hide();
@@ -88,6 +91,11 @@ void StatusLine::update(Stage& stage, bool isLoading)
     setTextOf(sceneLabel, tr("%Ln triangles", nullptr, static_cast<int>(stage.triangleCount())));
     progress->setVisible(isLoading);
     cancelButton->setVisible(isLoading);
+}
+
+void StatusLine::showFrame(const QString& text)
+{
+    setTextOf(frameLabel, text);
 }
 
 void StatusLine::setProgress(ModelLoader::Phase phase, const QString& file, int percent)

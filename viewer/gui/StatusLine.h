@@ -26,6 +26,8 @@ public:
 
     /// Shows how it stands now.
     void update(Stage& stage, bool isLoading);
+    /// Shows a line about the last frame; nothing for an empty one.
+    void showFrame(const QString& text);
     /// @param percent  0 .. 100
     void setProgress(ModelLoader::Phase phase, const QString& file, int percent);
 
@@ -36,6 +38,7 @@ private:
     QLabel* handleLabel;
     QLabel* valuesLabel;
     QLabel* selectionLabel;
+    QLabel* frameLabel;
     QLabel* sceneLabel;
     QProgressBar* progress;
     QToolButton* cancelButton;

@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/gui/ViewWidget.h"
 
+#include "viewer/core/Commands.h"
 #include "viewer/gui/CursorShapes.h"
 #include "viewer/gui/SelectionRectangle.h"
 #include "viewer/gui/TextPainter.h"
 
+#include <QCoreApplication>
 #include <QDragEnterEvent>
 #include <QDropEvent>
+#include <QJsonObject>
 #include <QMimeData>
 #include <QOpenGLContext>
 #include <QOpenGLFunctions>
@@ -66,6 +69,7 @@ ViewWidget::ViewWidget(QWidget* parent)
     setAcceptDrops(true);
     setMinimumSize(kSmallestSize);
     renderWidget.setObserver(this);
+    addCommands();
 }
 
 ViewWidget::~ViewWidget()
@@ -171,11 +175,66 @@ void ViewWidget::updateCursor()
     }
 }
 
+void ViewWidget::renewContext()
+{
+    // What a move to another window tells a view.
+    QEvent moved(QEvent::WindowChangeInternal);
+    QCoreApplication::sendEvent(this, &moved);
+    update();
+}
+
 void ViewWidget::showEffectBuffer(bool on)
 {
     renderAction.showEffectBuffer(on);
     pictureView.getAction().showEffectBuffer(on);
     renderWidget.update();
+}
+
+void ViewWidget::showFrameStatistics(bool on)
+{
+    frameStatisticsShown = on;
+    renderAction.setTimed(on);
+    emit stateChanged();
+}
+
+QString ViewWidget::frameText() const
+{
+    if (!frameStatisticsShown) {
+        return {};
+    }
+    constexpr int kDecimals = 1;
+    const nbRenderAction::Statistics frame = frameStatistics();
+    QString text = tr("%1 ms, %2 draw calls, %L3 triangles")
+                       .arg(frame.milliseconds, 0, 'f', kDecimals)
+                       .arg(frame.drawCalls)
+                       .arg(frame.triangles);
+    if (frame.reused > 0) {
+        text += tr(", scene image reused");
+    }
+    return text;
+}
+
+void ViewWidget::addCommands()
+{
+    Commands& commands = viewStage.commands();
+    commands.add(QStringLiteral("view.setFrameStatistics"),
+                 [this](const QJsonValue& value, QString& error) {
+                     if (!value.isBool() && !value.isNull()) {
+                         error = QStringLiteral("expected true or false");
+                         return false;
+                     }
+                     showFrameStatistics(value.toBool(!frameStatisticsShown));
+                     return true;
+                 });
+    commands.addValue(QStringLiteral("view.frameStatistics"), [this]() -> QJsonValue {
+        const nbRenderAction::Statistics frame = frameStatistics();
+        return QJsonObject { { "shown", frameStatisticsShown },
+                             { "frames", static_cast<double>(frame.frames) },
+                             { "milliseconds", frame.milliseconds },
+                             { "drawCalls", static_cast<double>(frame.drawCalls) },
+                             { "triangles", static_cast<double>(frame.triangles) },
+                             { "sceneReused", frame.reused > 0 } };
+    });
 }
 
 QSize ViewWidget::sizeHint() const
@@ -257,6 +316,9 @@ void ViewWidget::dropEvent(QDropEvent* event)
 
 void ViewWidget::redrawRequested()
 {
+    if (context() != nullptr && !context()->isValid()) {
+        renewContext();
+    }
     update();
 }
 

@@ -15,8 +15,9 @@
 namespace viewer {
 
 /// The 3D view of the window: draws the stage with OpenGL and hands it the person's input.
-/// Draws only when the render widget asked for it. Pixel ratios are converted here and in the input
-/// translator only.
+/// Draws only when the render widget asked for it. Nothing is lost with an OpenGL context, as when
+/// the view moves to another window: the next picture is the same. Pixel ratios are converted here
+/// and in the input translator only.
 class ViewWidget : public QOpenGLWidget, private nbOSGWidget::Observer
 {
     Q_OBJECT
@@ -43,12 +44,25 @@ public:
     /// @return null with one line in `error`
     QImage takePicture(QString& error);
 
+    /// Gives the view a new OpenGL context, in which everything is made anew from the scene. The
+    /// view does it by itself where the driver has lost the old one.
+    void renewContext();
+
     /// Shows the effect buffer instead of the colours.
     void showEffectBuffer(bool on);
 
     /// Version of OpenGL and name of the renderer, such as "4.5, llvmpipe"; empty before the first
     /// picture.
     const QString& graphics() const { return graphicsName; }
+
+    /// Whether each frame is timed until the driver is done, for frameText().
+    void showFrameStatistics(bool on);
+
+    /// What the last frame took; what it says of the time is whole only while that is shown.
+    nbRenderAction::Statistics frameStatistics() const { return renderAction.getStatistics(); }
+
+    /// The same as a line of text; empty while it is not shown.
+    QString frameText() const;
 
     QSize sizeHint() const override;
 
@@ -70,6 +84,7 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
+    void addCommands();
     void redrawRequested() override;
     void cursorChanged(Qt::CursorShape shape) override;
     void adoptSize();
@@ -92,6 +107,7 @@ private:
     Qt::CursorShape hostCursor = Qt::ArrowCursor;
     QString graphicsName;
     bool failed = false;
+    bool frameStatisticsShown = false;
 };
 
 }  // namespace viewer

@@ -223,6 +223,7 @@ void WindowActions::addViewMenu()
     panels->addActions(window.panels().actions());
     addSwitch(menu, "effectBuffer", tr("Show &effect buffer"), "B",
               [this](bool on) { window.showEffectBuffer(on); });
+    addCommand(menu, "view.setFrameStatistics", tr("Frame stat&istics"), "")->setCheckable(true);
     menu->addSeparator();
     addThemes(menu->addMenu(tr("&Theme")));
     addLanguages(menu->addMenu(tr("Lan&guage")));

@@ -5,6 +5,9 @@
 #include <OpenSG/OSGFieldContainer.h>
 #include <OpenSG/OSGFieldContainerPtr.h>
 
+#include <cstddef>
+#include <cstring>
+
 namespace osg {
 
 /// Tells whether anything about a container and its parts changed since somebody looked: a number
@@ -19,6 +22,9 @@ namespace osg {
 class ContentStamp
 {
 public:
+    /// Of nothing yet.
+    ContentStamp() = default;
+
     explicit ContentStamp(const FieldContainer& container) { add(container); }
 
     void add(UInt64 number)
@@ -28,6 +34,22 @@ public:
         constexpr UInt32 kHalf = 32;
         value = (value ^ number) * kOdd;
         value ^= value >> kHalf;
+    }
+
+    /// The bits count: zeros of both signs differ.
+    void add(Real32 number)
+    {
+        UInt32 bits = 0;
+        std::memcpy(&bits, &number, sizeof(bits));
+        add(UInt64(bits));
+    }
+
+    /// @param numbers  as many as count
+    void add(const Real32* numbers, std::size_t count)
+    {
+        for (std::size_t i = 0; i < count; ++i) {
+            add(numbers[i]);
+        }
     }
 
     void add(const FieldContainer& container)

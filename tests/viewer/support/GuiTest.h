@@ -18,7 +18,7 @@ protected:
     template <class Condition>
     static void waitUntil(Condition condition)
     {
-        constexpr qint64 kPatienceMs = 30000;
+        constexpr qint64 kPatienceMs = 60000;
         QElapsedTimer clock;
         clock.start();
         while (!condition()) {

@@ -1,0 +1,526 @@
+// SPDX-License-Identifier: MIT
+// Frames that begin with the kept image of the scene are those that are drawn in full, to the last
+// bit, whatever was changed before.
+#include "tests/platform/support/PictureTest.h"
+#include "tests/platform/support/Plates.h"
+
+#include <nbKernel/nbOSGWidget.h>
+#include <nbMagnifier/nbMagnifierRenderer.h>
+#include <nbOpenSGExt/ClipPlane3D.h>
+
+#include <functional>
+#include <random>
+
+namespace {
+
+using namespace rendertest;
+
+void setDiffuse(const osg::MaterialPtr& material, const QColor& c)
+{
+    const auto simple = osg::SimpleMaterialPtr::dcast(material);
+    const nbEdit edit(simple, osg::SimpleMaterial::DiffuseFieldMask);
+    simple->setDiffuse(color(c));
+}
+
+osg::MaterialPtr materialOf(const osg::NodePtr& placedGeometry)
+{
+    return osg::GeometryPtr::dcast(placedGeometry->getChild(0)->getCore())->getMaterial();
+}
+
+osg::SimpleMaterialPtr lit(const QColor& c, float transparency = 0.f)
+{
+    const osg::SimpleMaterialPtr material = unlit(c, 0, transparency);
+    const nbEdit edit(material, osg::SimpleMaterial::LitFieldMask);
+    material->setLit(true);
+    return material;
+}
+
+osg::SHLChunkPtr shaderChunk()
+{
+    const osg::SHLChunkPtr chunk = osg::SHLChunk::create();
+    {
+        const nbEdit edit(chunk, osg::FieldBits::AllFields);
+        chunk->setFragmentProgram("#version 330 core\n"
+                                  "uniform vec4 tint;\n"
+                                  "layout (location = 0) out vec4 color;\n"
+                                  "layout (location = 1) out vec4 effect;\n"
+                                  "void main() { color = tint; effect = vec4(1.0); }\n");
+    }
+    chunk->setUniformParameter("tint", osg::Vec4f(0.5f, 0.f, 0.5f, 1.f));
+    return chunk;
+}
+
+osg::TextureChunkPtr textureChunk()
+{
+    const osg::TextureChunkPtr chunk = osg::TextureChunk::create();
+    const osg::ImagePtr image = nbImageConvert::toImage(colorQuarters());
+    const nbEdit edit(chunk, osg::FieldBits::AllFields);
+    chunk->setImage(image);
+    chunk->setEnvMode(GL_MODULATE);
+    return chunk;
+}
+
+void turn(const osg::NodePtr& node, float z)
+{
+    const auto core = osg::ComponentTransformPtr::dcast(node->getCore());
+    const nbEdit edit(core, osg::FieldBits::AllFields);
+    core->setTranslation(core->getTranslation() + osg::Vec3f(0.f, 0.f, z));
+}
+
+/// One of each thing that a picture depends on, in a perspective view.
+struct Showcase
+{
+    Showcase()
+    {
+        pictured.setPicture(colorQuarters());
+        {
+            const nbEdit edit(clip, osg::FieldBits::AllFields);
+            clip->setEquation(osg::Vec4f(1.f, 0.f, 0.f, 0.f));
+            clip->setTransformNode(clipPlace.get());
+        }
+        const osg::NodePtr cut = osg::makeNodeFor(osg::NodeCorePtr(clip.get()));
+        cut->addChild(ball);
+        const osg::NodePtr helper = colored(nbGeoFactory::makeLine(2.f), unlit(kYellow));
+        nbNodeUtils::setIsAuxiliaryNode(helper, true);
+        root = group({ cut, glass, card, shaded, textured, helper, late, backPlate, frontPlate,
+                       manipulator({ handle, veilHandle, lineHandle }) });
+    }
+
+    osg::RefPtr<osg::SHLChunkPtr> shader { shaderChunk() };
+    osg::RefPtr<osg::TextureChunkPtr> texture { textureChunk() };
+    osg::RefPtr<osg::ClipPlane3DPtr> clip { osg::ClipPlane3D::create() };
+    PictureMaterial pictured;
+    osg::NodeRefPtr clipPlace { placed(group({}), osg::Vec3f(-0.2f, 0.f, 0.f)) };
+    osg::NodeRefPtr ball { placed(colored(osg::makeLatLongSphere(40, 40, 1.f), lit(kRed)),
+                                  osg::Vec3f(0.f, 0.f, 0.f)) };
+    osg::NodeRefPtr glass { placed(colored(osg::makeLatLongSphere(20, 20, 0.6f), lit(kBlue, 0.5f)),
+                                   osg::Vec3f(0.5f, 0.5f, 1.f)) };
+    osg::NodeRefPtr card { square(1.5f, pictured.material.get(), -1.f, -1.f) };
+    osg::NodeRefPtr shaded { square(0.5f, with(unlit(kWhite), osg::StateChunkPtr(shader.get())),
+                                    0.f, 1.4f) };
+    osg::NodeRefPtr textured { square(0.8f, with(unlit(kWhite), osg::StateChunkPtr(texture.get())),
+                                      1.f, -1.4f) };
+    /// Drawn after the handles unless a plate is before the scene.
+    osg::NodeRefPtr late { square(0.6f, unlit(kGreen, 70000, 0.5f), 1.5f, 0.3f) };
+    osg::NodeRefPtr handle { square(0.4f, unlit(kYellow, 64016), 0.f, 0.5f) };
+    osg::NodeRefPtr veilHandle { square(0.4f, unlit(kGreen, 64015, 0.5f), 0.3f, 0.6f) };
+    osg::NodeRefPtr lineHandle { placed(
+        colored(nbGeoFactory::makeLine(1.f), with(unlit(kBlue, 64016), lineChunk(5.f))),
+        osg::Vec3f(0.3f, 0.3f, 0.f)) };
+    osg::NodeRefPtr backPlate { platetest::makePlate({ 40.f, 30.f, 50.f, 30.f, 0.f }, kSize,
+                                                     osg::Color4f(0.f, 1.f, 1.f, 1.f)) };
+    osg::NodeRefPtr frontPlate { platetest::makePlate({ 160.f, 160.f, 40.f, 30.f, 20.f }, kSize,
+                                                      osg::Color4f(1.f, 0.f, 1.f, 0.7f)) };
+    osg::NodeRefPtr root;
+};
+
+/// A view that keeps the image of the scene, and one that does not to compare with.
+class KeptPictureTest : public RenderTest
+{
+protected:
+    struct Change
+    {
+        const char* name;
+        std::function<void()> make;
+    };
+
+    static void SetUpTestSuite()
+    {
+        RenderTest::SetUpTestSuite();
+        plainView = std::make_unique<nbOffscreenView>();
+    }
+
+    static void TearDownTestSuite()
+    {
+        plainView.reset();
+        RenderTest::TearDownTestSuite();
+    }
+
+    void SetUp() override
+    {
+        RenderTest::SetUp();
+        ASSERT_TRUE(plainView->open()) << plainView->getError();
+        plainView->getAction().setSceneKept(false);
+        camera->setOrthographic(false);
+        lookFrom(osg::Pnt3f(2.f, 3.f, 6.f));
+        viewport->setRoot(show.root.get());
+    }
+
+    void TearDown() override
+    {
+        forBoth([](nbRenderAction& action) {
+            action.setPixelRatio(1.f);
+            action.setSubpixelShift(0.f, 0.f);
+            action.showEffectBuffer(false);
+            action.setSamples(8);
+        });
+    }
+
+    static void forBoth(const std::function<void(nbRenderAction&)>& set)
+    {
+        set(view->getAction());
+        set(plainView->getAction());
+    }
+
+    /// Where two pictures differ; empty if they do not.
+    static std::string difference(const QImage& found, const QImage& expected)
+    {
+        if (found == expected && !found.isNull()) {
+            return {};
+        }
+        if (found.isNull() || found.size() != expected.size()) {
+            return "no picture";
+        }
+        int count = 0;
+        QRect box;
+        for (int y = 0; y < found.height(); ++y) {
+            for (int x = 0; x < found.width(); ++x) {
+                if (found.pixel(x, y) != expected.pixel(x, y)) {
+                    ++count;
+                    box |= QRect(x, y, 1, 1);
+                }
+            }
+        }
+        return std::to_string(count) + " pixels from " + std::to_string(box.left()) + ", " +
+            std::to_string(box.top()) + " to " + std::to_string(box.right()) + ", " +
+            std::to_string(box.bottom());
+    }
+
+    /// Draws in both views, which must be alike in colours and effects.
+    QImage compare(const std::string& after)
+    {
+        const QImage kept = view->render(viewport.get(), widthPx, kSize);
+        const QImage full = plainView->render(viewport.get(), widthPx, kSize);
+        EXPECT_EQ(difference(kept, full), "") << after;
+        EXPECT_EQ(difference(view->readEffect(), plainView->readEffect()), "") << after;
+        EXPECT_EQ(plainView->getAction().getStatistics().reused, 0U);
+        return kept;
+    }
+
+    /// Draws until the image of the scene stands.
+    QImage settle()
+    {
+        compare("settling");
+        compare("settling");
+        return compare("settling");
+    }
+
+    static std::size_t reused() { return view->getAction().getStatistics().reused; }
+
+    void setViewport(const std::function<void(const osg::UberViewportPtr&)>& set)
+    {
+        const nbEdit edit(viewport, osg::FieldBits::AllFields);
+        set(viewport.get());
+    }
+
+    static void setPlate(const osg::NodePtr& node,
+                         const std::function<void(const osg::SceneplatePtr&)>& set)
+    {
+        const nbEdit edit(platetest::plateOf(node), osg::FieldBits::AllFields);
+        set(platetest::plateOf(node));
+    }
+
+    /// Those that leave the scene as it is.
+    std::vector<Change> handleChanges();
+    std::vector<Change> materialChanges();
+    std::vector<Change> placeChanges();
+    std::vector<Change> viewChanges();
+
+    std::vector<Change> allChanges()
+    {
+        std::vector<Change> all = handleChanges();
+        for (const auto& more : { materialChanges(), placeChanges(), viewChanges() }) {
+            all.insert(all.end(), more.begin(), more.end());
+        }
+        return all;
+    }
+
+    QColor nextColor()
+    {
+        constexpr int kTurn = 97;
+        hue = (hue + kTurn) % 360;
+        return QColor::fromHsv(hue, 200, 200);
+    }
+
+    Showcase show;
+    int widthPx = kSize;
+    float pixelRatio = 1.f;
+    int hue = 0;
+    static inline std::unique_ptr<nbOffscreenView> plainView;
+};
+
+std::vector<KeptPictureTest::Change> KeptPictureTest::handleChanges()
+{
+    return {
+        { "highlight", [this] { setDiffuse(materialOf(show.handle), nextColor()); } },
+        { "highlight of a blended handle",
+          [this] { setDiffuse(materialOf(show.veilHandle), nextColor()); } },
+        { "handle moved", [this] { turn(show.handle, 0.1f); } },
+        { "line moved", [this] { turn(show.lineHandle, -0.1f); } },
+        { "handle hidden or shown",
+          [this] {
+              const nbEdit edit(show.lineHandle, osg::Node::TravMaskFieldMask);
+              show.lineHandle->setActive(!show.lineHandle->getActive());
+          } },
+        { "plate before the scene marked",
+          [this] {
+              setPlate(show.frontPlate, [](const osg::SceneplatePtr& plate) {
+                  plate->setMarker((plate->getMarker() + 1) % 3);
+              });
+          } },
+        { "plate before the scene moved",
+          [this] {
+              setPlate(show.frontPlate, [](const osg::SceneplatePtr& plate) {
+                  plate->setPosition(plate->getPosition() - osg::Vec2f(0.02f, 0.01f));
+              });
+          } },
+    };
+}
+
+std::vector<KeptPictureTest::Change> KeptPictureTest::materialChanges()
+{
+    return {
+        { "colour of an object", [this] { setDiffuse(materialOf(show.ball), nextColor()); } },
+        { "colour of glass", [this] { setDiffuse(materialOf(show.glass), nextColor()); } },
+        { "item that is drawn late", [this] { setDiffuse(materialOf(show.late), nextColor()); } },
+        { "image of a texture",
+          [this] {
+              const osg::ImagePtr image = nbImageConvert::toImage(
+                  quarters(nextColor(), nextColor(), nextColor(), nextColor()));
+              const nbEdit edit(show.texture, osg::FieldBits::AllFields);
+              show.texture->setImage(image);
+          } },
+        { "pixels of a texture's image",
+          [this] {
+              const osg::ImagePtr image = show.texture->getImage();
+              const nbEdit edit(image, osg::FieldBits::AllFields);
+              std::fill_n(image->getData(), 3 * 64 * 16, static_cast<osg::UInt8>(hue = hue + 9));
+          } },
+        { "parameter of a shader",
+          [this] {
+              const osg::Color3f tint = color(nextColor());
+              show.shader->setUniformParameter(
+                  "tint", osg::Vec4f(tint.red(), tint.green(), tint.blue(), 1.f));
+          } },
+        { "projected picture",
+          [this] {
+              show.pictured.setPicture(
+                  quarters(nextColor(), nextColor(), nextColor(), nextColor()));
+          } },
+        { "place of a projection",
+          [this] {
+              hue += 7;
+              show.pictured.place(osg::Vec3f(0.001f * static_cast<float>(hue), 0.f, 0.f),
+                                  osg::Vec3f(0.5f, 0.5f, 1.f));
+          } },
+        { "plate behind the scene",
+          [this] {
+              const osg::Color3f c = color(nextColor());
+              setPlate(show.backPlate, [c](const osg::SceneplatePtr& plate) {
+                  plate->setColor(osg::Color4f(c.red(), c.green(), c.blue(), 1.f));
+              });
+          } },
+    };
+}
+
+std::vector<KeptPictureTest::Change> KeptPictureTest::placeChanges()
+{
+    return {
+        { "object moved", [this] { turn(show.ball, 0.05f); } },
+        { "glass moved", [this] { turn(show.glass, 0.05f); } },
+        { "object within the others' bounds moved", [this] { turn(show.shaded, 0.05f); } },
+        { "clip plane's place, which is not in the tree",
+          [this] {
+              const auto core = osg::ComponentTransformPtr::dcast(show.clipPlace->getCore());
+              const nbEdit edit(core, osg::FieldBits::AllFields);
+              core->setTranslation(core->getTranslation() + osg::Vec3f(0.05f, 0.f, 0.f));
+          } },
+        { "corner of a geometry",
+          [this] {
+              const auto geometry = osg::GeometryPtr::dcast(show.card->getChild(0)->getCore());
+              const osg::GeoPositionsPtr positions = geometry->getPositions();
+              const nbEdit edit(positions, osg::FieldBits::AllFields);
+              positions->setValue(positions->getValue(0) - osg::Vec3f(0.05f, 0.f, 0.f), 0);
+          } },
+        { "object hidden or shown",
+          [this] {
+              const nbEdit edit(show.textured, osg::Node::TravMaskFieldMask);
+              show.textured->setActive(!show.textured->getActive());
+          } },
+    };
+}
+
+std::vector<KeptPictureTest::Change> KeptPictureTest::viewChanges()
+{
+    return {
+        { "camera",
+          [this] { lookFrom(osg::Pnt3f(2.f + 0.001f * static_cast<float>(++hue), 3.f, 6.f)); } },
+        { "width", [this] { widthPx = widthPx == kSize ? kSize + 60 : kSize; } },
+        { "plate before the scene hidden or shown",
+          [this] {
+              setPlate(show.frontPlate, [](const osg::SceneplatePtr& plate) {
+                  plate->setVisible(!plate->getVisible());
+              });
+          } },
+        { "background",
+          [this] {
+              const osg::Color3f c = color(nextColor());
+              setViewport([c](const osg::UberViewportPtr& port) {
+                  port->setBackgroundColor(osg::Color4f(c.red(), c.green(), c.blue(), 1.f));
+              });
+          } },
+        { "photograph",
+          [this] {
+              const QImage picture = quarters(nextColor(), kWhite, kYellow, nextColor());
+              setViewport([&picture](const osg::UberViewportPtr& port) {
+                  port->setPhotograph(nbImageConvert::toImage(picture));
+              });
+          } },
+        { "veil",
+          [this] {
+              const QImage picture = colorQuarters();
+              setViewport([&picture](const osg::UberViewportPtr& port) {
+                  port->setPhotograph(nbImageConvert::toImage(picture));
+                  port->setPhotographVeil(port->getPhotographVeil() > 0.4f ? 0.2f : 0.5f);
+              });
+          } },
+        { "pixel ratio",
+          [this] {
+              pixelRatio = pixelRatio > 1.f ? 1.f : 1.6f;
+              forBoth([this](nbRenderAction& action) { action.setPixelRatio(pixelRatio); });
+          } },
+        { "shift by part of a pixel",
+          [this] {
+              hue += 1;
+              forBoth([this](nbRenderAction& action) {
+                  action.setSubpixelShift(0.1f * static_cast<float>(hue % 5), 0.25f);
+              });
+          } },
+    };
+}
+
+TEST_F(KeptPictureTest, ChangesOfHandlesAndPlatesUseTheImageOfTheScene)
+{
+    for (const Change& change : handleChanges()) {
+        const QImage before = settle();
+        change.make();
+        const QImage after = compare(change.name);
+        EXPECT_NE(before, after) << change.name << " is not seen";
+        EXPECT_GE(reused(), 4U) << change.name;
+    }
+}
+
+TEST_F(KeptPictureTest, EveryOtherChangeIsSeenInTheNextPicture)
+{
+    for (const auto& changes : { materialChanges(), placeChanges(), viewChanges() }) {
+        for (const Change& change : changes) {
+            const QImage before = settle();
+            EXPECT_GE(reused(), 1U) << "before " << change.name;
+            change.make();
+            EXPECT_NE(before, compare(change.name)) << change.name << " is not seen";
+            setDiffuse(materialOf(show.handle), nextColor());
+            compare(std::string("highlight after ") + change.name);
+        }
+    }
+}
+
+TEST_F(KeptPictureTest, PicturesAreTheSameAfterAnyOrderOfChanges)
+{
+    constexpr int kChanges = 300;
+    const std::vector<Change> all = allChanges();
+    const std::vector<Change> handles = handleChanges();
+    std::mt19937 random(7);
+    std::string history;
+    std::size_t used = 0;
+    for (int i = 0; i < kChanges && !HasFailure(); ++i) {
+        const std::vector<Change>& choice = random() % 4 == 0 ? all : handles;
+        const Change& change = choice[random() % choice.size()];
+        change.make();
+        history += std::string(", ") + change.name;
+        compare(history);
+        used += reused() > 0 ? 1 : 0;
+    }
+    EXPECT_GT(used, static_cast<std::size_t>(kChanges / 3));
+}
+
+TEST_F(KeptPictureTest, EffectBufferSamplesAndOtherViewportsChangeNothing)
+{
+    const osg::RefPtr<osg::UberViewportPtr> main = viewport;
+    settle();
+    for (const bool isEffect : { true, false, true }) {
+        forBoth([isEffect](nbRenderAction& action) { action.showEffectBuffer(isEffect); });
+        compare("effect buffer on or off");
+        setDiffuse(materialOf(show.handle), nextColor());
+        compare("highlight after that");
+    }
+    for (const int samples : { 1, 2, 8 }) {
+        forBoth([samples](nbRenderAction& action) { action.setSamples(samples); });
+        settle();
+        setDiffuse(materialOf(show.handle), nextColor());
+        compare("highlight with other samples");
+        EXPECT_GE(reused(), 4U);
+    }
+    for (int i = 0; i < 3; ++i) {
+        viewport = osg::UberViewport::create();
+        compare("a viewport without a camera");
+        viewport = main;
+        setDiffuse(materialOf(show.handle), nextColor());
+        compare("back again");
+    }
+}
+
+TEST_F(KeptPictureTest, MagnifierShowsTheFinishedPicture)
+{
+    const nbOSGWidget widget;
+    viewport = widget.getUberViewport();
+    setViewport([this](const osg::UberViewportPtr& port) { port->setRoot(show.root.get()); });
+    widget.getUberCamera()->setFromAtUp(osg::Pnt3f(2.f, 3.f, 6.f), osg::Pnt3f(0.f, 0.f, 0.f),
+                                        osg::Vec3f(0.f, 1.f, 0.f));
+    nbMagnifierRenderer::setCursorPosition(100, 90);
+    for (const bool hasPhotograph : { false, true }) {
+        settle();
+        nbMagnifierRenderer::setVisible(true);
+        for (int i = 0; i < 3; ++i) {
+            setDiffuse(materialOf(show.handle), nextColor());
+            compare("highlight below the magnifier");
+        }
+        nbMagnifierRenderer::setVisible(false);
+        compare("without the magnifier");
+        setDiffuse(materialOf(show.handle), nextColor());
+        compare("highlight");
+        if (!hasPhotograph) {
+            setViewport([](const osg::UberViewportPtr& port) {
+                port->setPhotograph(nbImageConvert::toImage(colorQuarters()));
+            });
+        }
+    }
+}
+
+TEST_F(KeptPictureTest, EverythingIsMadeAnewInANewContext)
+{
+    const QImage before = settle();
+    view->close();
+    EXPECT_EQ(difference(compare("a new context"), before), "");
+    setDiffuse(materialOf(show.handle), nextColor());
+    compare("highlight in the new context");
+    settle();
+    EXPECT_GE(reused(), 4U);
+}
+
+TEST_F(KeptPictureTest, ARedrawOfTheSameIsCheapAndCounted)
+{
+    settle();
+    nbRenderAction& action = view->getAction();
+    const nbRenderAction::Statistics before = action.getStatistics();
+    compare("nothing");
+    const nbRenderAction::Statistics after = action.getStatistics();
+    const nbRenderAction::Statistics full = plainView->getAction().getStatistics();
+
+    EXPECT_EQ(after.frames, before.frames + 1);
+    EXPECT_EQ(after.drawn, full.drawn);
+    EXPECT_LT(after.triangles, full.triangles / 10);
+    EXPECT_LT(after.drawCalls, full.drawCalls);
+    EXPECT_GT(after.milliseconds, 0.0);
+}
+
+}  // namespace

@@ -1,0 +1,170 @@
+// SPDX-License-Identifier: MIT
+// When the view draws, what of it, and that it stands after its OpenGL context was lost.
+#include "tests/viewer/support/GuiTest.h"
+#include "viewer/core/SessionTargets.h"
+#include "viewer/core/StartScene.h"
+#include "viewer/gui/MainWindow.h"
+#include "viewer/gui/ViewWidget.h"
+
+#include <QAction>
+#include <QHBoxLayout>
+#include <QJsonObject>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QOpenGLContext>
+#include <QPointer>
+
+#include <gtest/gtest.h>
+
+namespace viewer {
+namespace {
+
+class RedrawTest : public GuiTest
+{
+protected:
+    RedrawTest()
+        : window(MainWindow::Attendance::Unattended)
+    {
+        window.show();
+        window.showStartScene();
+        waitForQuiet();
+    }
+
+    ViewWidget& view() { return window.view(); }
+
+    nbRenderAction::Statistics frame() { return view().frameStatistics(); }
+
+    void moveTo(const QPointF& position)
+    {
+        QMouseEvent event(QEvent::MouseMove, position, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&view(), &event);
+        waitForQuiet();
+    }
+
+    QPointF placeOf(SessionTarget::Kind kind, const char* name)
+    {
+        SessionTarget target;
+        target.kind = kind;
+        target.name = QLatin1String(name);
+        osg::Pnt2f px;
+        QString error;
+        EXPECT_TRUE(resolveTarget(target, view().stage(), px, error)) << error.toStdString();
+        return view().toLogical(px);
+    }
+
+    MainWindow window;
+};
+
+TEST_F(RedrawTest, NothingIsDrawnWhileNothingChanges)
+{
+    const std::size_t before = frame().frames;
+    EXPECT_GT(before, 0U);
+
+    waitForQuiet();
+    EXPECT_EQ(frame().frames, before) << "nobody did anything";
+
+    moveTo({ 3, 3 });
+    const std::size_t beside = frame().frames;
+    for (int x = 4; x < 12; ++x) {
+        moveTo({ static_cast<qreal>(x), 4 });
+    }
+    EXPECT_EQ(frame().frames, beside) << "the pointer is where nothing is";
+
+    const QPointF handle = placeOf(SessionTarget::Kind::Handle, "yaShape");
+    moveTo(handle);
+    const std::size_t highlighted = frame().frames;
+    EXPECT_GT(highlighted, beside);
+    for (int i = 0; i < 4; ++i) {
+        moveTo(handle + QPointF(0, 0.01 * i));
+    }
+    EXPECT_EQ(frame().frames, highlighted) << "the same handle is highlighted";
+}
+
+TEST_F(RedrawTest, AHighlightDrawsHandlesAlone)
+{
+    view().stage().select(osg::NullFC);
+    view().stage().selectByName(kStartSceneMainObject);
+    waitForQuiet();
+    moveTo({ 3, 3 });
+    const std::size_t whole = view().stage().triangleCount();
+    for (int i = 0; i < 2; ++i) {
+        moveTo(placeOf(SessionTarget::Kind::Handle, "yaShape"));
+        moveTo({ 3, 3 });
+    }
+
+    EXPECT_GT(frame().reused, 0U);
+    EXPECT_LT(frame().triangles, whole);
+}
+
+TEST_F(RedrawTest, FrameStatisticsAreShownOnDemand)
+{
+    const auto* label = window.findChild<QLabel*>(QStringLiteral("frame"));
+    auto* action = window.findChild<QAction*>(QStringLiteral("view.setFrameStatistics"));
+    ASSERT_NE(label, nullptr);
+    ASSERT_NE(action, nullptr);
+    EXPECT_EQ(label->text(), QString());
+
+    action->trigger();
+    waitForQuiet();
+    moveTo(placeOf(SessionTarget::Kind::Handle, "yaShape"));
+
+    EXPECT_TRUE(label->text().contains(QStringLiteral("draw calls"))) << qPrintable(label->text());
+    const QJsonObject told = view()
+                                 .stage()
+                                 .commands()
+                                 .value(QStringLiteral("view.frameStatistics"))
+                                 .value_or(QJsonValue())
+                                 .toObject();
+    EXPECT_GT(told[QStringLiteral("milliseconds")].toDouble(), 0.0);
+    EXPECT_GT(told[QStringLiteral("drawCalls")].toDouble(), 0.0);
+    EXPECT_TRUE(told[QStringLiteral("shown")].toBool());
+
+    action->trigger();
+    EXPECT_EQ(label->text(), QString());
+    QString error;
+    EXPECT_FALSE(view().stage().commands().run(QStringLiteral("view.setFrameStatistics"),
+                                               QStringLiteral("on"), error));
+    EXPECT_EQ(error, QStringLiteral("expected true or false"));
+}
+
+TEST_F(RedrawTest, ALostContextLosesNothing)
+{
+    moveTo({ 3, 3 });
+    const QSize size = view().size();
+    const QImage before = view().grabFramebuffer();
+    const int triangles = static_cast<int>(view().stage().triangleCount());
+    QWidget* const home = view().parentWidget();
+
+    // A view that changes its window gets another context.
+    for (int i = 0; i < 2; ++i) {
+        const QPointer<QOpenGLContext> lost = view().context();
+        ASSERT_FALSE(lost.isNull());
+        const std::size_t drawn = frame().frames;
+        const bool leaves = i == 0;
+        view().setParent(leaves ? nullptr : home);
+        if (leaves) {
+            view().setFixedSize(size);
+        } else {
+            home->layout()->addWidget(&view());
+        }
+        view().show();
+        waitUntil([&] { return frame().frames > drawn; });
+        waitForQuiet();
+
+        EXPECT_TRUE(lost.isNull()) << "the context did not end";
+        EXPECT_EQ(view().grabFramebuffer(), before);
+        EXPECT_EQ(static_cast<int>(view().stage().triangleCount()), triangles);
+    }
+
+    const QPointer<QOpenGLContext> lost = view().context();
+    view().renewContext();
+    waitForQuiet();
+    EXPECT_TRUE(lost.isNull());
+    EXPECT_EQ(view().grabFramebuffer(), before);
+
+    moveTo(placeOf(SessionTarget::Kind::Handle, "yaShape"));
+    EXPECT_NE(view().grabFramebuffer(), before) << "the view still answers";
+}
+
+}  // namespace
+}  // namespace viewer
