@@ -10,16 +10,12 @@
 #include <memory>
 #include <vector>
 
-namespace {
-
 /// Resources of a static library are taken into the program only when asked for, and that in no
 /// namespace.
-void initialiseTranslations()
+static void initialiseTranslations()
 {
     Q_INIT_RESOURCE(translations);
 }
-
-}  // namespace
 
 namespace viewer {
 namespace {

@@ -3,6 +3,8 @@
 
 #include "viewer/core/ValueLine.h"
 
+#include <QtGlobal>
+
 namespace viewer {
 namespace {
 

@@ -204,14 +204,12 @@ QString ViewWidget::frameText() const
     }
     constexpr int kDecimals = 1;
     const nbRenderAction::Statistics frame = frameStatistics();
-    QString text = tr("%1 ms, %2 draw calls, %L3 triangles")
-                       .arg(frame.milliseconds, 0, 'f', kDecimals)
-                       .arg(frame.drawCalls)
-                       .arg(frame.triangles);
-    if (frame.reused > 0) {
-        text += tr(", scene image reused");
-    }
-    return text;
+    const QString text = frame.reused > 0
+        ? tr("%1 ms, %2 draw calls, %L3 triangles, scene image reused")
+        : tr("%1 ms, %2 draw calls, %L3 triangles");
+    return text.arg(frame.milliseconds, 0, 'f', kDecimals)
+        .arg(frame.drawCalls)
+        .arg(frame.triangles);
 }
 
 void ViewWidget::addCommands()

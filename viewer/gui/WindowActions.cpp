@@ -16,6 +16,7 @@
 #include <QFileInfo>
 #include <QMenu>
 #include <QMenuBar>
+#include <QRegularExpression>
 #include <QUndoStack>
 #include <QWidgetAction>
 
@@ -90,10 +91,12 @@ constexpr GizmoRow kGizmos[] = {
       Gizmo::CameraPivot },
 };
 
+/// Chinese has the letter behind the text, as in "(&F)".
 QString withoutMnemonic(const QString& text)
 {
+    static const QRegularExpression kBehind(QStringLiteral("\\(&.\\)"));
     QString plain = text;
-    return plain.remove(QLatin1Char('&'));
+    return plain.remove(kBehind).remove(QLatin1Char('&'));
 }
 
 }  // namespace

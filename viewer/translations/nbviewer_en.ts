@@ -5,16 +5,16 @@
     <name>viewer</name>
     <message numerus="yes">
         <source>%1: %n triangles without a finite place were left out</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1: %n triangle without a finite place was left out</numerusform>
+            <numerusform>%1: %n triangles without a finite place were left out</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n scene plates</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n scene plate</numerusform>
+            <numerusform>%n scene plates</numerusform>
         </translation>
     </message>
 </context>
@@ -22,16 +22,16 @@
     <name>viewer::StatusLine</name>
     <message numerus="yes">
         <source>Selected: %1 and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Selected: %1 and %n more</numerusform>
+            <numerusform>Selected: %1 and %n more</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln triangles</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln triangle</numerusform>
+            <numerusform>%Ln triangles</numerusform>
         </translation>
     </message>
 </context>
