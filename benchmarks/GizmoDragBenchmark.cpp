@@ -11,6 +11,7 @@
 #include <nbOpenSGExt/Transform3D.h>
 #include <nbOpenSGUberCamera/UberCamera.h>
 
+#include <OpenSG/OSGChangeCount.h>
 #include <OpenSG/OSGSimpleGeometry.h>
 
 #include <benchmark/benchmark.h>
@@ -113,7 +114,9 @@ void plainLoop(benchmark::State& state, Setter set, osg::BitVector mask)
 }
 
 /// All gizmos placed again after a move of the camera.
-void placeMany(benchmark::State& state)
+/// @param isDrawn  the change counts are looked at in between, as a renderer does
+/// @param isMoved  a node has been moved, too
+void placeMany(benchmark::State& state, bool isDrawn, bool isMoved)
 {
     Stage stage(0);
     std::vector<std::unique_ptr<UniversalTransformManipulator2>> gizmos;
@@ -128,7 +131,13 @@ void placeMany(benchmark::State& state)
         turn = turn < 3.F ? turn + 0.01F : 0.F;
         stage.view.getUberCamera()->setFromAtUp(osg::Pnt3f(5.F + turn, 6, 7), osg::Pnt3f(0, 0, 0),
                                                 osg::Vec3f(0, 1, 0));
+        if (isMoved) {
+            osg::endEditCP(stage.node->getCore(), osg::Transform3D::TranslationFieldMask);
+        }
         UniversalTransformManipulator2::updateAllManipulators();
+        if (isDrawn) {
+            benchmark::DoNotOptimize(osg::getTreeChangeCount(nbScenegraph::getInternalRoot()));
+        }
     }
     state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(kManyGizmos));
 }
@@ -156,4 +165,8 @@ BENCHMARK_CAPTURE(manyNodes, scale, kScale)->Name("drag/many, scale")->Arg(kMany
 BENCHMARK_CAPTURE(plainLoop, scale, &osg::Transform3D::setScale, osg::Transform3D::ScaleFieldMask)
     ->Name("plain/many, scale")
     ->Arg(kManyNodes);
-BENCHMARK(placeMany)->Name("gizmos/1000 placed after a camera move");
+BENCHMARK_CAPTURE(placeMany, camera, false, false)->Name("gizmos/1000 placed after a camera move");
+BENCHMARK_CAPTURE(placeMany, drawn, true, false)
+    ->Name("gizmos/1000 placed after a camera move and a frame");
+BENCHMARK_CAPTURE(placeMany, node, true, true)
+    ->Name("gizmos/1000 placed after moves of the camera and a node, and a frame");

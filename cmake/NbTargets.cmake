@@ -26,6 +26,7 @@ function(nb_test name)
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
     target_link_libraries(${name} PRIVATE ${NB_LIBRARIES} GTest::gtest GTest::gmock)
     gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST)
+    set_property(GLOBAL APPEND PROPERTY NB_TESTS_WITHOUT_WINDOW ${name})
 endfunction()
 
 # One test program that needs OpenGL or a window, as one ctest test: nb_gl_test(name SOURCES ... LIBRARIES ...).

@@ -15,6 +15,21 @@ class ManipulatorInteractionContext;
 ///
 /// The order of the virtual operations is part of the design and never changes; subclasses append
 /// theirs. The virtual destructor stands after all of them, so that it takes no operation's place.
+///
+/// What hosts may do in the middle of a drag:
+/// - Who receives a message of a manipulator, or hears of what it edits, may throw where the kernel
+///   delivers (it is logged and the drag goes on), and may destroy nodes, materials, settings,
+///   scene plates, views and cameras, those that are edited included. Everything is looked up again
+///   after each message.
+/// - What is destroyed, then or between two events, is not missed: without what a manipulator edits
+///   its operations answer false, without a view a step changes nothing. "stop" ends the drag in
+///   any case, and a paused preview is resumed as soon as there is something to edit again, at the
+///   latest with the manipulator's end.
+/// - A group of undo that is left open is closed by the next one (see nbUndoService::beginGroup);
+///   manipulators open and close scopes only within one call.
+/// - Receivers may neither call the manipulator that is sending nor deactivate or destroy it or its
+///   context: that waits until the event has been answered. A drag is stopped before its
+///   manipulator is deactivated, and a manipulator is deactivated before it dies.
 class NB_MANIPULATOR_API Manipulator
 {
 public:

@@ -73,7 +73,7 @@ PlanarTextureManipulator::PlanarTextureManipulator(bool withDepthPass)
 {
     createManipulatorGeo(withDepthPass);
     setDefaultMaterials();
-    detail::showNode(state->handleTree.get(), false);
+    state->handles.showRoot(false);
     _allManipulators.push_back(this);
 }
 
@@ -139,10 +139,10 @@ bool PlanarTextureManipulator::startManipulator(ManipulatorInteractionContext* c
     if (state->dragging) {
         // The host has lost a stop; what the last drag hid and paused comes back.
         endDrag();
-        showElements();
+        state->showElements();
         state->previewPause.end();
     }
-    endHover();
+    state->endHover();
     const ActiveMode detected = detectMode(ctx);
     if (detected == ActiveMode::None) {
         return false;
@@ -151,7 +151,7 @@ bool PlanarTextureManipulator::startManipulator(ManipulatorInteractionContext* c
     state->dragging = true;
     prepareManipulator(getNode());
     highlightControlElement();
-    beginDrag();
+    state->beginDrag();
     return true;
 }
 
@@ -173,16 +173,17 @@ bool PlanarTextureManipulator::resetManipulator(ManipulatorInteractionContext* /
                                                 const std::string& /*tool*/)
 {
     if (!state->dragging) {
-        endHover();
+        state->endHover();
     }
     return true;
 }
 
-void PlanarTextureManipulator::endHover()
+void PlanarTextureManipulator::State::endHover()
 {
-    state->activeMode = ActiveMode::None;
-    if (state->highlighted != ActiveMode::None) {
-        setDefaultMaterials();
+    activeMode = ActiveMode::None;
+    if (highlighted != ActiveMode::None) {
+        handles.setDefaultMaterials(static_cast<int>(mode));
+        highlighted = ActiveMode::None;
     }
 }
 
@@ -192,7 +193,7 @@ void PlanarTextureManipulator::endDrag()
         state->dragging = false;
         setDescription(osg::NodePtr());
     }
-    endHover();
+    state->endHover();
 }
 
 PlanarTextureManipulator::ActiveMode
@@ -201,9 +202,8 @@ PlanarTextureManipulator::detectMode(ManipulatorInteractionContext* ctx) const
     if (getNode() == osg::NullFC) {
         return ActiveMode::None;
     }
-    const PlanarHandleRow* const row =
-        detail::findHandleRow(kPlanarHandles, detail::pickHandle(ctx));
-    return row != nullptr ? row->activeMode : ActiveMode::None;
+    return static_cast<ActiveMode>(
+        state->handles.detect(detail::pickHandle(ctx), state->root.get()));
 }
 
 // == Object and projection
@@ -217,7 +217,7 @@ void PlanarTextureManipulator::setNode(const osg::NodePtr& node)
     } else {
         prepareManipulator(node);
         if (state->dragging) {
-            beginDrag();
+            state->beginDrag();
         }
     }
     if (isActive()) {
@@ -230,7 +230,7 @@ void PlanarTextureManipulator::prepareManipulator(const osg::NodePtr& node)
     if (node == osg::NullFC) {
         return;
     }
-    readProjection(node);
+    state->readProjection(node);
     const osg::ColorComponentSettingsPtr settings = state->component.getSettings();
     if (settings != osg::NullFC && settings->getPlanarProjection() != osg::NullFC) {
         state->keepAspectRatio =
@@ -241,33 +241,32 @@ void PlanarTextureManipulator::prepareManipulator(const osg::NodePtr& node)
             state->aspectRatio =
                 static_cast<float>(image->getWidth()) / static_cast<float>(image->getHeight());
         }
-        askScaleValues();
+        state->askScaleValues();
     }
     state->previewPause.begin();
 }
 
-void PlanarTextureManipulator::readProjection(const osg::NodePtr& node)
+void PlanarTextureManipulator::State::readProjection(const osg::NodePtr& node)
 {
-    ProjectionFrame& frame = state->frame;
     frame.worldFromObject = node->getToWorld();
-    if (state->useObjectTranslation) {
-        frame.translation = objectPivot(node, isScaleMode(state->activeMode));
+    if (useObjectTranslation) {
+        frame.translation = objectPivot(node, isScaleMode(activeMode));
     }
-    if (state->useObjectScale) {
+    if (useObjectScale) {
         frame.scale = nbNodeUtils::getTransformNodeScale(node);
     }
-    const osg::ColorComponentSettingsPtr settings = state->component.getSettings();
+    const osg::ColorComponentSettingsPtr settings = component.getSettings();
     const osg::Transform3DPtr projection =
         settings != osg::NullFC ? settings->getPlanarProjection() : osg::Transform3DPtr();
     if (projection == osg::NullFC || !isFinite(projection->getMatrix())) {
         return;
     }
     frame.projectionScale = projection->getScale();
-    if (!state->useObjectTranslation) {
+    if (!useObjectTranslation) {
         // The image of the origin: the translation, where no pivot of the projection moves it.
         frame.translation = detail::column(projection->getMatrix(), 3);
     }
-    if (!state->useObjectScale) {
+    if (!useObjectScale) {
         frame.scale = frame.projectionScale;
     }
     frame.rotation = projection->getRotationAsQuaternion();
@@ -275,20 +274,20 @@ void PlanarTextureManipulator::readProjection(const osg::NodePtr& node)
     frame.rotation = normalisedRotation(frame.rotation);
 }
 
-void PlanarTextureManipulator::askScaleValues()
+void PlanarTextureManipulator::State::askScaleValues()
 {
-    state->frame.extentPerScale = osg::Vec3f(1.0F, 1.0F, 1.0F);
-    if (!state->useTextureScale) {
+    frame.extentPerScale = osg::Vec3f(1.0F, 1.0F, 1.0F);
+    if (!useTextureScale) {
         return;
     }
     nbMessage message;
-    detail::sendToReceiver(state->messageReceiver, "::getScaleValues", message);
-    nbMessage::get(message, "initialTextureScale", state->initialTextureScale);
-    nbMessage::get(message, "projectionSize", state->projectionSize);
+    detail::sendToReceiver(messageReceiver, "::getScaleValues", message);
+    nbMessage::get(message, "initialTextureScale", initialTextureScale);
+    nbMessage::get(message, "projectionSize", projectionSize);
     for (osg::UInt32 i = 0; i < 2; ++i) {
-        const float perScale = 0.5F * state->projectionSize[i] / state->frame.scale[i];
+        const float perScale = 0.5F * projectionSize[i] / frame.scale[i];
         if (std::isfinite(perScale) && perScale > 0.0F) {
-            state->frame.extentPerScale[i] = perScale;
+            frame.extentPerScale[i] = perScale;
         }
     }
 }
@@ -343,7 +342,7 @@ bool PlanarTextureManipulator::centerPivot()
     if (node == osg::NullFC || nbNodeUtils::convertToTransform3DNode(node) == osg::NullFC) {
         return false;
     }
-    readProjection(node);
+    state->readProjection(node);
     detail::setBothPivots(node, osg::Pnt3f(state->frame.translation));
     updateManipulator();
     nbController::setModified(1);
@@ -360,8 +359,8 @@ void PlanarTextureManipulator::updateManipulator()
 {
     const osg::NodePtr node = getNode();
     if (node != osg::NullFC) {
-        readProjection(node);
-        placeHandles();
+        state->readProjection(node);
+        state->placeHandles();
     }
 }
 
@@ -420,13 +419,13 @@ void PlanarTextureManipulator::setApplyProjectionRotationToTranslation(bool on)
 void PlanarTextureManipulator::setZScaleVisible(bool on)
 {
     state->zScaleVisible = on;
-    showElements();
+    state->showElements();
 }
 
 void PlanarTextureManipulator::showZScaleValue(bool on)
 {
     state->zScaleValueShown = on;
-    showElements();
+    state->showElements();
 }
 
 // == All instances

@@ -21,22 +21,11 @@ namespace nbec::manipulator {
 /// message to the receiver that the host named, whose answer shows once the projection is read
 /// again.
 ///
-/// Tree. Under the root "Manipulatorgroup" one Transform3D places and sizes the handles, which are
-/// built once: arrows, plane handle, ring, scale axes and cube around the projection's centre, tabs
-/// at the middles of its edges, at its corners and at the end of its Z extent.
-///
 /// Decisions.
-/// - Frame. The handle frame has its origin at the projection's centre and its axes turned by
-///   rotation * rotation orientation, in world space through the node. Handle space is that frame
-///   in units of the projection's scale, so that the picture covers -1 to 1; an axis whose scale is
-///   below 1e-12 counts as 1. Below a mirrored node the handles are mirrored too.
-/// - Size. Handles keep their size on screen; tabs go to x, y = +-scale and z = -scale of the
-///   projection. With setUseTextureScale() the half of "projectionSize" takes the place of the
-///   scale in x and y and follows it from there. An orthographic view is measured by the
-///   near-plane diagonal.
-/// - Groups: translate shows arrows and plane handle, rotate the ring, scale the scale axes, the
-///   cube and all tabs, universal (at the start) everything. Ring blue with a grip in the accent
-///   colour; plane handle blue with a red and a green edge.
+/// - Place. The handles stand at the projection's centre, turned as it is, in a constant size on
+///   screen; tabs go to x, y = +-scale and z = -scale of the projection. With setUseTextureScale()
+///   the half of "projectionSize" takes the place of the scale in x and y and follows it from
+///   there. An orthographic view is measured by the near-plane diagonal.
 /// - Z handles: "zsShape" and "scaleZPlaneShape" are visible unless setZScaleVisible(false); the
 ///   latter shows the Z extent and can be hidden alone with showZScaleValue(false), for a
 ///   projection that is not clamped. Scaling Z shows it again.
@@ -45,16 +34,13 @@ namespace nbec::manipulator {
 /// - "transVec" is the motion of the projection's centre in the object's space. "offset" is its
 ///   part in the handle frame's x and y; with setApplyProjectionRotationToTranslation() it is x and
 ///   y of the turned "transVec".
-/// - Edges and corners. The tab keeps its distance from the pointer; the opposite edge or corner
-///   stays where it is, and the centre moves by half. No side shrinks below 0.01 of its start. With
-///   keep-aspect-ratio a corner goes along the diagonal and an edge scales the other side equally
-///   about its middle; a side of length 0 has no proportion and is left out. "clamping" is true for
-///   the Z plane, which scales the Z extent from the projection plane without moving the centre,
-///   and false, which says nothing, for the others.
-/// - A scale handle grabbed within 1e-6 of the centre has the factor 1. A step for which the drag
-///   plane is missed sends nothing; if that is so at the start, the first step that meets it starts
-///   the drag. A pointer on the centre keeps the last angle; angles lie within -pi to pi.
-/// - The on-screen text goes by what the grabbed handle edits: translation, scale or rotation.
+/// - Edges and corners. The opposite edge or corner stays where it is, and the centre moves by
+///   half. With keep-aspect-ratio a corner goes along the diagonal and an edge scales the other
+///   side equally about its middle. "clamping" is true for the Z plane, which scales the Z extent
+///   from the projection plane without moving the centre, and false, which says nothing, for the
+///   others.
+/// - A step for which the drag plane is missed sends nothing; if that is so at the start, the first
+///   step that meets it starts the drag.
 /// - A drag is held by the handle that was under the pointer at its start; hovering changes
 ///   nothing until it stops. Deactivating ends it, and a pause of the preview that is still owed.
 /// - Copies share the handle tree with their original and are not registered; a pause of the
@@ -88,7 +74,7 @@ public:
         ScaleZPlane = 18
     };
 
-    /// Groups of handles shown.
+    /// Groups of handles shown: arrows and plane handle; scale axes, cube and all tabs; the ring.
     enum class ManipulatorMode : osg::UInt32
     {
         Universal = 0,
@@ -144,16 +130,14 @@ public:
 
     // == What is edited
 
-    /// @param material       held by its id; null for none
-    /// @param componentType  name of the component within the material
-    /// @param gui            editor object of the host, not owned, may be null
+    /// @param material  held by its id; null for none
+    /// @param gui       editor object of the host, not owned, may be null
     void setMaterialComponent(osg::MaterialPtr material, const std::string& componentType,
                               nbStateChunkBase* gui);
     /// The material; null if there is none or it no longer exists.
     osg::MaterialPtr getMaterial() const;
-    /// Whether the material is the edited one; false for null.
+    // Whether these are the edited ones; false for a null material.
     bool isConnectedToMaterial(osg::MaterialPtr material) const;
-    /// Whether material and component are the edited ones.
     bool isConnectedTo(osg::MaterialPtr material, const std::string& componentType) const;
     std::string getComponentType() const;
     void setGUI(nbStateChunkBase* gui);
@@ -161,7 +145,7 @@ public:
     /// Prefix of the names of all messages to the editor; empty at the start.
     void setMessageReceiver(const std::string& receiver);
 
-    // == Settings; all off at the start unless noted
+    // == Settings; all off at the start but the two about Z
 
     /// Overridden by the material's flag whenever the gizmo prepares.
     void setKeepAspectRatio(bool on);
@@ -176,27 +160,22 @@ public:
     void setUseObjectScale(bool on);
     void setUseObjectTranslation(bool on);
     void setApplyProjectionRotationToTranslation(bool on);
-    /// On at the start.
     void setZScaleVisible(bool on);
-    /// On at the start.
     void showZScaleValue(bool on);
 
     // == Handles shown
 
-    // Each shows the groups of its mode in their idle colours.
+    // Each shows the groups of its mode in their idle colours; universal at the start.
     void activateTranslateManipulator();
     void activateRotateManipulator();
     void activateScaleManipulator();
     void activateUniversalManipulator();
 
-    /// The groups shown; Universal after construction.
     ManipulatorMode getMode() const;
-    /// The handle that is hovered or grabbed.
     ActiveMode getActiveMode() const;
 
     /// Shows the handles of the current mode and re-places them; hides them without a node.
     void showActiveManipulator();
-    /// Hides all handles.
     void hideManipulator();
     /// Shows the handles of all groups.
     void showAllElements();
@@ -249,26 +228,15 @@ private:
     struct State;
 
     void createManipulatorGeo(bool withDepthPass);
-    void createMaterials();
     void activateMode(ManipulatorMode newMode);
-    void showElements();
-    void readProjection(const osg::NodePtr& node);
-    void askScaleValues();
-    void placeHandles();
     ActiveMode detectMode(ManipulatorInteractionContext* ctx) const;
-    void endHover();
     void endDrag();
-
-    void makeTransform(const osg::NodePtr& node);
-    void beginDrag();
-    void beginAt(const osg::Pnt3f& hit);
     void dragTo(const osg::NodePtr& node);
     void translate(const osg::Pnt3f& hit);
     void rotate(const osg::Pnt3f& hit);
     void scale(const osg::Pnt3f& hit);
     void scaleEdge(osg::NodePtr node, const osg::Pnt3f& hit, int edge);
-    void setTranslationIn(nbMessage& message, const osg::Vec3f& shift) const;
-    void finishStep(nbMessage& message, const osg::NodePtr& node);
+    void finishStep(nbMessage& message);
     void setDescription(const osg::NodePtr& node);
 
     static float m_ManipulatorSize;

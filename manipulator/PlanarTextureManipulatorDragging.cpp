@@ -11,8 +11,6 @@
 #include <nbOpenSGUtils/nbNodeUtils.h>
 #include <nbUtils/nbMessage.h>
 
-#include <OpenSG/OSGLine.h>
-
 #include <QtCore/QString>
 
 #include <algorithm>
@@ -121,9 +119,14 @@ QString describe(const osg::NodePtr& node, Active mode)
 
 }  // namespace
 
+osg::Vec3f ProjectionDrag::start() const
+{
+    return mapped(handleFromWorld, plane.getStart()).subZero();
+}
+
 osg::Vec3f ProjectionDrag::motionTo(const osg::Pnt3f& hit) const
 {
-    osg::Vec3f motion = mapped(handleFromWorld, hit).subZero() - start;
+    osg::Vec3f motion = mapped(handleFromWorld, hit).subZero() - start();
     for (osg::UInt32 i = 0; i < 3; ++i) {
         motion[i] *= unit[i];
     }
@@ -142,7 +145,7 @@ bool PlanarTextureManipulator::processManipulator(ManipulatorInteractionContext*
     if (node == osg::NullFC || node->getParent() == osg::NullFC) {
         return false;
     }
-    makeTransform(node);
+    state->makeTransform(node);
     if (state->dragging) {
         dragTo(node);
     }
@@ -164,29 +167,34 @@ bool PlanarTextureManipulator::stopManipulator(ManipulatorInteractionContext* /*
     return true;
 }
 
-void PlanarTextureManipulator::makeTransform(const osg::NodePtr& node)
+void PlanarTextureManipulator::State::makeTransform(const osg::NodePtr& node)
 {
-    if (state->drag.isTargetReady || node == nbScenegraph::getRootNode()) {
+    if (drag.isTargetReady || node == nbScenegraph::getRootNode()) {
         return;
     }
     nbNodeUtils::convertToTransform3DNode(node);
     if (!detail::hasPivots(node)) {
-        detail::setBothPivots(node, calculateObjectCenter(node, false));
+        detail::setBothPivots(node, detail::objectCenter(node, false));
     }
-    state->drag.isTargetReady = true;
+    drag.isTargetReady = true;
 }
 
 // == Start of a drag
 
 void PlanarTextureManipulator::updateManipulatorPlane()
 {
-    const osg::Matrix worldFromAxes = state->frame.worldFromAxes();
+    state->updatePlane();
+}
+
+void PlanarTextureManipulator::State::updatePlane()
+{
+    const osg::Matrix worldFromAxes = frame.worldFromAxes();
     const osg::Vec3f view = detail::cameraDirection();
     const auto facing = [&](osg::UInt32 axis) {
         return detail::axisPlaneNormal(unitVector(detail::column(worldFromAxes, axis)), view);
     };
     osg::Vec3f normal = view;
-    switch (state->activeMode) {
+    switch (activeMode) {
     case ActiveMode::TranslateX:
     case ActiveMode::ScaleX:
         normal = facing(0);
@@ -208,37 +216,26 @@ void PlanarTextureManipulator::updateManipulatorPlane()
                                 .cross(unitVector(detail::column(worldFromAxes, 1))));
         break;
     }
-    state->drag.plane = osg::Plane(normal, osg::Pnt3f(detail::column(worldFromAxes, 3)));
+    drag.plane.set(normal, osg::Pnt3f(detail::column(worldFromAxes, 3)));
 }
 
-void PlanarTextureManipulator::beginDrag()
+void PlanarTextureManipulator::State::beginDrag()
 {
-    ProjectionDrag& drag = state->drag;
     drag = ProjectionDrag();
-    drag.frame = state->frame;
+    drag.frame = frame;
     for (osg::UInt32 i = 0; i < 3; ++i) {
-        drag.unit[i] = usableLength(drag.frame.scale[i]);
+        drag.unit[i] = usableLength(frame.scale[i]);
     }
     osg::Matrix units;
     units.setScale(drag.unit);
-    osg::Matrix worldFromHandle = drag.frame.worldFromAxes();
+    osg::Matrix worldFromHandle = frame.worldFromAxes();
     worldFromHandle.mult(units);
     drag.handleFromWorld = detail::inverted(worldFromHandle);
-    updateManipulatorPlane();
-    osg::Line ray;
+    updatePlane();
     osg::Pnt3f hit;
-    const nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1);
-    if (widget != nullptr && detail::pointerRay(*widget, ray) &&
-        detail::intersectPlane(drag.plane, ray, hit)) {
-        beginAt(hit);
+    if (const nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1)) {
+        drag.plane.follow(*widget, hit);
     }
-}
-
-void PlanarTextureManipulator::beginAt(const osg::Pnt3f& hit)
-{
-    state->drag.startWorld = hit;
-    state->drag.start = mapped(state->drag.handleFromWorld, hit).subZero();
-    state->drag.hasStart = true;
 }
 
 // == Steps
@@ -246,14 +243,9 @@ void PlanarTextureManipulator::beginAt(const osg::Pnt3f& hit)
 void PlanarTextureManipulator::dragTo(const osg::NodePtr& node)
 {
     const nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1);
-    osg::Line ray;
     osg::Pnt3f hit;
-    if (widget == nullptr || !detail::pointerRay(*widget, ray) ||
-        !detail::intersectPlane(state->drag.plane, ray, hit)) {
+    if (widget == nullptr || !state->drag.plane.follow(*widget, hit)) {
         return;
-    }
-    if (!state->drag.hasStart) {
-        beginAt(hit);
     }
     const int edge = static_cast<int>(state->activeMode) - kEdgeModeOffset;
     if (state->activeMode == ActiveMode::Rotate) {
@@ -282,14 +274,15 @@ void PlanarTextureManipulator::translate(const osg::Pnt3f& hit)
         shift[2] = motion.z();
     }
     nbMessage message;
-    setTranslationIn(message, shift);
-    finishStep(message, getNode());
+    state->setTranslationIn(message, shift);
+    finishStep(message);
 }
 
-void PlanarTextureManipulator::setTranslationIn(nbMessage& message, const osg::Vec3f& shift) const
+void PlanarTextureManipulator::State::setTranslationIn(nbMessage& message,
+                                                       const osg::Vec3f& shift) const
 {
-    const osg::Vec3f turned = detail::rotated(state->drag.frame.rotation, shift);
-    const osg::Vec3f& inPlane = state->applyRotationToTranslation ? turned : shift;
+    const osg::Vec3f turned = detail::rotated(drag.frame.rotation, shift);
+    const osg::Vec3f& inPlane = applyRotationToTranslation ? turned : shift;
     message.set("offset", osg::Vec2f(inPlane.x(), inPlane.y()), true);
     message.set("transVec", turned, true);
 }
@@ -307,9 +300,10 @@ void PlanarTextureManipulator::rotate(const osg::Pnt3f& hit)
 {
     // The angle is one of the object's space; the units of handle space would skew it.
     ProjectionDrag& drag = state->drag;
+    const osg::Vec3f start = drag.start();
     osg::Pnt3f from;
     for (osg::UInt32 i = 0; i < 3; ++i) {
-        from[i] = drag.start[i] * drag.unit[i];
+        from[i] = start[i] * drag.unit[i];
     }
     const osg::Pnt3f to = from + drag.motionTo(hit);
     if (std::hypot(from.x(), from.y()) > 0.0F && std::hypot(to.x(), to.y()) > 0.0F) {
@@ -318,7 +312,7 @@ void PlanarTextureManipulator::rotate(const osg::Pnt3f& hit)
     nbMessage message;
     // Deliberate: the receiver's rotation runs opposite to the gizmo's.
     message.set("rotate", -drag.lastAngle, true);
-    finishStep(message, getNode());
+    finishStep(message);
 }
 
 void PlanarTextureManipulator::scale(const osg::Pnt3f& hit)
@@ -331,7 +325,7 @@ void PlanarTextureManipulator::scale(const osg::Pnt3f& hit)
     case ActiveMode::ScaleX:
     case ActiveMode::ScaleY: {
         const osg::UInt32 axis = state->activeMode == ActiveMode::ScaleX ? 0 : 1;
-        const float factor = planeFactor(place[axis], drag.start[axis]);
+        const float factor = planeFactor(place[axis], drag.start()[axis]);
         scales[axis] *= factor;
         if (state->keepAspectRatio) {
             scales[1 - axis] *= factor;
@@ -339,7 +333,7 @@ void PlanarTextureManipulator::scale(const osg::Pnt3f& hit)
         break;
     }
     case ActiveMode::ScaleZ:
-        scales[2] *= depthFactor(place.z(), drag.start.z());
+        scales[2] *= depthFactor(place.z(), drag.start().z());
         showZScaleValue(true);
         message.set("clamping", true, true);
         break;
@@ -355,10 +349,10 @@ void PlanarTextureManipulator::scale(const osg::Pnt3f& hit)
     }
     }
     message.set("scale", scales, true);
-    finishStep(message, getNode());
+    finishStep(message);
 }
 
-void PlanarTextureManipulator::scaleEdge(osg::NodePtr node, const osg::Pnt3f& hit, int edge)
+void PlanarTextureManipulator::scaleEdge(osg::NodePtr /*node*/, const osg::Pnt3f& hit, int edge)
 {
     const ProjectionDrag& drag = state->drag;
     const bool isZPlane = state->activeMode == ActiveMode::ScaleZPlane;
@@ -368,7 +362,7 @@ void PlanarTextureManipulator::scaleEdge(osg::NodePtr node, const osg::Pnt3f& hi
     if (isZPlane) {
         const osg::Matrix worldFromAxes = drag.frame.worldFromAxes();
         motion = drag.motionTo(onDepthAxis(worldFromAxes, hit)) -
-            drag.motionTo(onDepthAxis(worldFromAxes, drag.startWorld));
+            drag.motionTo(onDepthAxis(worldFromAxes, drag.plane.getStart()));
     }
     const osg::Vec3f from = drag.frame.halfExtents();
     osg::Vec3f to = from;
@@ -394,17 +388,17 @@ void PlanarTextureManipulator::scaleEdge(osg::NodePtr node, const osg::Pnt3f& hi
     nbMessage message;
     message.set("clamping", isZPlane, true);
     message.set("scale", scales, true);
-    setTranslationIn(message, shift);
+    state->setTranslationIn(message, shift);
     if (isZPlane) {
         showZScaleValue(true);
     }
-    finishStep(message, node);
+    finishStep(message);
 }
 
-void PlanarTextureManipulator::finishStep(nbMessage& message, const osg::NodePtr& node)
+void PlanarTextureManipulator::finishStep(nbMessage& message)
 {
     detail::sendToReceiver(state->messageReceiver, kChangedSuffix, message);
-    setDescription(node);
+    setDescription(getNode());  // looked up again: the receiver may have destroyed it
     updateManipulator();
 }
 

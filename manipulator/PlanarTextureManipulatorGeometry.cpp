@@ -2,7 +2,6 @@
 #include "manipulator/PlanarTextureManipulator.h"
 #include "manipulator/PlanarTextureManipulatorState.h"
 #include "manipulator/detail/DragGeometry.h"
-#include "manipulator/detail/EditBracket.h"
 #include "manipulator/detail/HandleGroup.h"
 #include "manipulator/detail/HandleMaterials.h"
 #include "manipulator/detail/HandleNodes.h"
@@ -11,9 +10,8 @@
 
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
-#include <OpenSG/OSGComponentTransform.h>
-
 #include <cmath>
+#include <initializer_list>
 
 namespace nbec::manipulator {
 
@@ -34,51 +32,57 @@ constexpr int kLightSortKey = 64015;
 constexpr float kTrace = 0.001F;
 
 /// In the order of PlanarMaterial.
-constexpr std::array<detail::HandleMaterialRow, kPlanarMaterialCount> kMaterials = {
-    { { 1.0F, 0.0F, 0.0F, kTrace, kAxisSortKey },
-      { 0.0F, 1.0F, 0.0F, kTrace, kAxisSortKey },
-      { 1.0F, 0.5F, 0.5F, kTrace, kLightSortKey },
-      { 0.5F, 1.0F, 0.5F, kTrace, kLightSortKey },
-      { 0.5F, 0.5F, 1.0F, kTrace, kLightSortKey },
-      { 0.0F, 0.0F, 1.0F, kTrace, kAxisSortKey },
-      { 0.953F, 0.525F, 0.184F, 0.0F, kAxisSortKey },
-      { 1.0F, 0.5F, 0.0F, 0.0F, kAxisSortKey },
-      { 1.0F, 1.0F, 0.0F, kTrace, kAxisSortKey } }
-};
+constexpr std::array<detail::HandleMaterialRow, static_cast<std::size_t>(Color::Yellow) + 1>
+    kMaterials = { { { 1.0F, 0.0F, 0.0F, kTrace, kAxisSortKey },
+                     { 0.0F, 1.0F, 0.0F, kTrace, kAxisSortKey },
+                     { 1.0F, 0.5F, 0.5F, kTrace, kLightSortKey },
+                     { 0.5F, 1.0F, 0.5F, kTrace, kLightSortKey },
+                     { 0.5F, 0.5F, 1.0F, kTrace, kLightSortKey },
+                     { 0.0F, 0.0F, 1.0F, kTrace, kAxisSortKey },
+                     { 0.953F, 0.525F, 0.184F, 0.0F, kAxisSortKey },
+                     { 1.0F, 0.5F, 0.0F, 0.0F, kAxisSortKey },
+                     { 1.0F, 1.0F, 0.0F, kTrace, kAxisSortKey } } };
 
-constexpr std::array<float, 3> kCentre = { 0.0F, 0.0F, 0.0F };
 constexpr std::array<int, 3> kNoSide = { 0, 0, 0 };
 /// Below this size on screen nothing can be placed relative to the gizmo.
 constexpr float kLeastSize = 1e-20F;
 
+detail::HandlePart part(HandleShape shape, Color color)
+{
+    const auto material = static_cast<std::size_t>(color);
+    return { shape, material, material };
+}
+
+PlanarHandleRow handle(const char* name, Active mode, Group group,
+                       std::initializer_list<detail::HandlePart> parts,
+                       const std::array<float, 3>& place = {}, Turn turn = Turn::None,
+                       const std::array<int, 3>& side = kNoSide)
+{
+    constexpr int kNoGroupNode = -1;
+    return { detail::makeHandleRow(name, static_cast<int>(mode), kNoGroupNode, parts, place, turn),
+             mode, group, side };
+}
+
 /// A tab of the given shape and colour at an edge, a corner or the end of the Z extent.
-constexpr PlanarHandleRow tab(const char* name, Active mode, HandleShape shape, Color color, int x,
-                              int y, int z)
+PlanarHandleRow tab(const char* name, Active mode, HandleShape shape, Color color, int x, int y,
+                    int z)
 {
-    return {
-        name, mode, Group::Scale, 1, { { { shape, color } } }, kCentre, Turn::None, { x, y, z }
-    };
+    return handle(name, mode, Group::Scale, { part(shape, color) }, {}, Turn::None, { x, y, z });
 }
 
-constexpr PlanarHandleRow arrow(const char* name, Active mode, Color color,
-                                const std::array<float, 3>& place, Turn turn)
+PlanarHandleRow arrow(const char* name, Active mode, Color color, const std::array<float, 3>& place,
+                      Turn turn)
 {
-    return { name,
-             mode,
-             Group::Translate,
-             2,
-             { { { HandleShape::SolidArrowShaft, color },
-                 { HandleShape::SolidArrowHead, color } } },
-             place,
-             turn,
-             kNoSide };
+    return handle(
+        name, mode, Group::Translate,
+        { part(HandleShape::SolidArrowShaft, color), part(HandleShape::SolidArrowHead, color) },
+        place, turn);
 }
 
-constexpr PlanarHandleRow scaleAxis(const char* name, Active mode, Color color, HandleShape shaft,
-                                    HandleShape box)
+PlanarHandleRow scaleAxis(const char* name, Active mode, Color color, HandleShape shaft,
+                          HandleShape box)
 {
-    return { name,    mode,       Group::Scale, 2, { { { shaft, color }, { box, color } } },
-             kCentre, Turn::None, kNoSide };
+    return handle(name, mode, Group::Scale, { part(shaft, color), part(box, color) });
 }
 
 /// Whether a group is among those that a mode shows.
@@ -97,53 +101,63 @@ bool isInMode(Group group, Mode mode)
     return false;
 }
 
+const detail::HandleTable& handleTable()
+{
+    static const detail::HandleTable table = [] {
+        detail::HandleTable handles = { {}, {}, static_cast<std::size_t>(Color::Highlight), 0 };
+        for (const PlanarHandleRow& row : planarHandles()) {
+            handles.rows.push_back(row.handle);
+        }
+        return handles;
+    }();
+    return table;
+}
+
 }  // namespace
 
 // Deliberate: the arrow and the scale axis of z point to -z, where the projection looks, unlike
 // those of x and y.
-const std::array<PlanarHandleRow, kPlanarHandleCount> kPlanarHandles = { {
-    arrow("yaShape", Active::TranslateY, Color::YAxis, { 0.0F, 1.0F, 0.0F }, Turn::None),
-    arrow("xaShape", Active::TranslateX, Color::XAxis, { 1.0F, 0.0F, 0.0F }, Turn::OntoX),
-    arrow("zaShape", Active::TranslateZ, Color::ZAxis, { 0.0F, 0.0F, -1.0F }, Turn::OntoMinusZ),
-    { "xyaShape",
-      Active::TranslateXY,
-      Group::Translate,
-      3,
-      { { { HandleShape::SolidPatch, Color::ZAxis },
-          { HandleShape::SolidBarX, Color::XAxis },
-          { HandleShape::SolidBarY, Color::YAxis } } },
-      kCentre,
-      Turn::None,
-      kNoSide },
-    scaleAxis("zsShape", Active::ScaleZ, Color::ZLight, HandleShape::SolidScaleShaftMinusZ,
-              HandleShape::ScaleTabMinusZ),
-    scaleAxis("ysShape", Active::ScaleY, Color::YLight, HandleShape::SolidScaleShaftY,
-              HandleShape::ScaleTabY),
-    scaleAxis("xsShape", Active::ScaleX, Color::XLight, HandleShape::SolidScaleShaftX,
-              HandleShape::ScaleTabX),
-    tab("grid", Active::ScaleUniform, HandleShape::BigCube, Color::Yellow, 0, 0, 0),
-    { "rotateShape",
-      Active::Rotate,
-      Group::Rotate,
-      2,
-      { { { HandleShape::SolidRing, Color::ZAxis }, { HandleShape::RingGrip, Color::Accent } } },
-      kCentre,
-      Turn::None,
-      kNoSide },
-    tab("scaleXYLLShape", Active::ScaleLowerLeft, HandleShape::SquareTab, Color::Yellow, -1, -1, 0),
-    tab("scaleXYULShape", Active::ScaleUpperLeft, HandleShape::SquareTab, Color::Yellow, -1, 1, 0),
-    tab("scaleXYLRShape", Active::ScaleLowerRight, HandleShape::SquareTab, Color::Yellow, 1, -1, 0),
-    tab("scaleXYURShape", Active::ScaleUpperRight, HandleShape::SquareTab, Color::Yellow, 1, 1, 0),
-    tab("scaleXLShape", Active::ScaleLeft, HandleShape::UprightTab, Color::XLight, -1, 0, 0),
-    tab("scaleXRShape", Active::ScaleRight, HandleShape::UprightTab, Color::XLight, 1, 0, 0),
-    tab("scaleYLShape", Active::ScaleLower, HandleShape::LyingTab, Color::YLight, 0, -1, 0),
-    tab("scaleYUShape", Active::ScaleUpper, HandleShape::LyingTab, Color::YLight, 0, 1, 0),
-    tab("scaleZPlaneShape", Active::ScaleZPlane, HandleShape::SquareTab, Color::ZLight, 0, 0, -1),
-} };
+const std::vector<PlanarHandleRow>& planarHandles()
+{
+    static const std::vector<PlanarHandleRow> rows = {
+        arrow("yaShape", Active::TranslateY, Color::YAxis, { 0.0F, 1.0F, 0.0F }, Turn::None),
+        arrow("xaShape", Active::TranslateX, Color::XAxis, { 1.0F, 0.0F, 0.0F }, Turn::OntoX),
+        arrow("zaShape", Active::TranslateZ, Color::ZAxis, { 0.0F, 0.0F, -1.0F }, Turn::OntoMinusZ),
+        handle("xyaShape", Active::TranslateXY, Group::Translate,
+               { part(HandleShape::SolidPatch, Color::ZAxis),
+                 part(HandleShape::SolidBarX, Color::XAxis),
+                 part(HandleShape::SolidBarY, Color::YAxis) }),
+        scaleAxis("zsShape", Active::ScaleZ, Color::ZLight, HandleShape::SolidScaleShaftMinusZ,
+                  HandleShape::ScaleTabMinusZ),
+        scaleAxis("ysShape", Active::ScaleY, Color::YLight, HandleShape::SolidScaleShaftY,
+                  HandleShape::ScaleTabY),
+        scaleAxis("xsShape", Active::ScaleX, Color::XLight, HandleShape::SolidScaleShaftX,
+                  HandleShape::ScaleTabX),
+        tab("grid", Active::ScaleUniform, HandleShape::BigCube, Color::Yellow, 0, 0, 0),
+        handle("rotateShape", Active::Rotate, Group::Rotate,
+               { part(HandleShape::SolidRing, Color::ZAxis),
+                 part(HandleShape::RingGrip, Color::Accent) }),
+        tab("scaleXYLLShape", Active::ScaleLowerLeft, HandleShape::SquareTab, Color::Yellow, -1, -1,
+            0),
+        tab("scaleXYULShape", Active::ScaleUpperLeft, HandleShape::SquareTab, Color::Yellow, -1, 1,
+            0),
+        tab("scaleXYLRShape", Active::ScaleLowerRight, HandleShape::SquareTab, Color::Yellow, 1, -1,
+            0),
+        tab("scaleXYURShape", Active::ScaleUpperRight, HandleShape::SquareTab, Color::Yellow, 1, 1,
+            0),
+        tab("scaleXLShape", Active::ScaleLeft, HandleShape::UprightTab, Color::XLight, -1, 0, 0),
+        tab("scaleXRShape", Active::ScaleRight, HandleShape::UprightTab, Color::XLight, 1, 0, 0),
+        tab("scaleYLShape", Active::ScaleLower, HandleShape::LyingTab, Color::YLight, 0, -1, 0),
+        tab("scaleYUShape", Active::ScaleUpper, HandleShape::LyingTab, Color::YLight, 0, 1, 0),
+        tab("scaleZPlaneShape", Active::ScaleZPlane, HandleShape::SquareTab, Color::ZLight, 0, 0,
+            -1),
+    };
+    return rows;
+}
 
 const PlanarHandleRow* planarHandleOf(Active mode)
 {
-    for (const PlanarHandleRow& row : kPlanarHandles) {
+    for (const PlanarHandleRow& row : planarHandles()) {
         if (row.activeMode == mode) {
             return &row;
         }
@@ -153,33 +167,14 @@ const PlanarHandleRow* planarHandleOf(Active mode)
 
 // == Building
 
-void PlanarTextureManipulator::createMaterials()
-{
-    for (std::size_t i = 0; i < kMaterials.size(); ++i) {
-        state->materials[i] = detail::makeHandleMaterial(kMaterials[i]);
-    }
-}
+PlanarTextureManipulator::State::State()
+    : handles(handleTable(), detail::makeHandleMaterials(kMaterials))
+{ }
 
 void PlanarTextureManipulator::createManipulatorGeo(bool withDepthPass)
 {
-    createMaterials();
-    const osg::NodePtr tree = detail::makeTransform3DNode(osg::Vec3f());
-    for (std::size_t i = 0; i < kPlanarHandles.size(); ++i) {
-        const PlanarHandleRow& row = kPlanarHandles[i];
-        State::HandleNodes& nodes = state->handles[i];
-        nodes.top = detail::makePlacedNode(osg::Vec3f(row.place[0], row.place[1], row.place[2]),
-                                           detail::quaternionOf(row.turn));
-        for (std::size_t part = 0; part < row.partCount; ++part) {
-            nodes.parts[part] = detail::makeShapeNode(row.parts[part].shape);
-            detail::addChild(nodes.top, nodes.parts[part]);
-        }
-        nbNodeUtils::setName(nodes.top, row.name, true);
-        nbNodeUtils::setIsAuxiliaryNode(nodes.top, true);
-        detail::addChild(tree, nodes.top);
-    }
+    const osg::NodePtr tree = state->handles.getRoot();
     nbNodeUtils::setIsAuxiliaryNode(tree, true);
-    state->handleTree = tree;
-    state->placement = osg::Transform3DPtr::dcast(tree->getCore());
     state->root = detail::makeHandleRoot();
     if (withDepthPass) {
         const detail::HandlePasses passes = detail::makeHandlePasses(tree);
@@ -194,30 +189,13 @@ void PlanarTextureManipulator::createManipulatorGeo(bool withDepthPass)
 
 void PlanarTextureManipulator::setDefaultMaterials()
 {
-    for (std::size_t i = 0; i < kPlanarHandles.size(); ++i) {
-        const PlanarHandleRow& row = kPlanarHandles[i];
-        for (std::size_t part = 0; part < row.partCount; ++part) {
-            const auto color = static_cast<std::size_t>(row.parts[part].idle);
-            detail::setGeometryMaterial(state->handles[i].parts[part],
-                                        state->materials[color].get());
-        }
-    }
+    state->handles.setDefaultMaterials(static_cast<int>(state->mode));
     state->highlighted = ActiveMode::None;
 }
 
 void PlanarTextureManipulator::highlightMode()
 {
-    const auto highlight = static_cast<std::size_t>(PlanarMaterial::Highlight);
-    for (std::size_t i = 0; i < kPlanarHandles.size(); ++i) {
-        if (kPlanarHandles[i].activeMode != state->activeMode) {
-            continue;
-        }
-        for (const osg::NodePtr& part : state->handles[i].parts) {
-            if (part != osg::NullFC) {
-                detail::setGeometryMaterial(part, state->materials[highlight].get());
-            }
-        }
-    }
+    state->handles.highlight(static_cast<int>(state->activeMode));
     state->highlighted = state->activeMode;
 }
 
@@ -225,7 +203,7 @@ void PlanarTextureManipulator::highlightControlElement()
 {
     setDefaultMaterials();
     highlightMode();
-    showElements();
+    state->showElements();
 }
 
 // == Visibility
@@ -253,7 +231,7 @@ void PlanarTextureManipulator::activateUniversalManipulator()
 void PlanarTextureManipulator::activateMode(ManipulatorMode newMode)
 {
     state->mode = newMode;
-    showElements();
+    state->showElements();
     setDefaultMaterials();
     updateManipulator();
 }
@@ -274,48 +252,43 @@ void PlanarTextureManipulator::showActiveManipulator()
         hideManipulator();
         return;
     }
-    showElements();
-    detail::showNode(state->handleTree.get(), true);
+    state->showElements();
+    state->handles.showRoot(true);
     updateManipulator();
 }
 
 void PlanarTextureManipulator::hideManipulator()
 {
-    detail::showNode(state->handleTree.get(), false);
+    state->handles.showRoot(false);
 }
 
-void PlanarTextureManipulator::showElements()
+void PlanarTextureManipulator::State::showElements()
 {
-    const PlanarHandleRow* const grabbed =
-        state->dragging ? planarHandleOf(state->activeMode) : nullptr;
+    const PlanarHandleRow* const grabbed = dragging ? planarHandleOf(activeMode) : nullptr;
     // Deliberate: a drag of the x arrow or the plane handle hides no group.
     const bool othersHidden = grabbed != nullptr && grabbed->activeMode != ActiveMode::TranslateX &&
         grabbed->activeMode != ActiveMode::TranslateXY;
-    for (std::size_t i = 0; i < kPlanarHandles.size(); ++i) {
-        const PlanarHandleRow& row = kPlanarHandles[i];
+    for (std::size_t i = 0; i < planarHandles().size(); ++i) {
+        const PlanarHandleRow& row = planarHandles()[i];
         const bool isPlane = row.activeMode == ActiveMode::ScaleZPlane;
         const bool isZScale = isPlane || row.activeMode == ActiveMode::ScaleZ;
-        const bool isWanted = (!isZScale || state->zScaleVisible) &&
-            (!isPlane || state->zScaleValueShown) && isInMode(row.group, state->mode);
-        detail::showNode(state->handles[i].top,
+        const bool isWanted = (!isZScale || zScaleVisible) && (!isPlane || zScaleValueShown) &&
+            isInMode(row.group, mode);
+        detail::showNode(handles.getNode(i),
                          isWanted && (!othersHidden || row.group == grabbed->group));
     }
 }
 
 void PlanarTextureManipulator::showAllElements()
 {
-    for (const State::HandleNodes& nodes : state->handles) {
-        detail::showNode(nodes.top, true);
-    }
-    detail::showNode(state->handleTree.get(), true);
+    state->handles.showAll();
+    state->handles.showRoot(true);
 }
 
 void PlanarTextureManipulator::hideAllElements()
 {
-    for (const State::HandleNodes& nodes : state->handles) {
-        detail::showNode(nodes.top, false);
-    }
-    detail::showNode(state->handleTree.get(), false);
+    state->handles.hideAll();
+    state->handles.showRoot(false);
 }
 
 // == Placement
@@ -346,21 +319,22 @@ osg::Vec3f ProjectionFrame::halfExtents() const
                       scale.z() * extentPerScale.z());
 }
 
-void PlanarTextureManipulator::placeHandles()
+void PlanarTextureManipulator::State::placeHandles()
 {
-    const osg::Matrix worldFromAxes = state->frame.worldFromAxes();
+    const osg::Matrix worldFromAxes = frame.worldFromAxes();
     const osg::Pnt3f center(detail::column(worldFromAxes, 3));
     const osg::Matrix axes = detail::orthonormalised(worldFromAxes);
     const float size =
         detail::ScreenScale(m_ManipulatorSize, detail::ViewDiagonal::NearPlane).at(center);
-    state->placedSize = m_ManipulatorSize;
+    placedSize = m_ManipulatorSize;
     // A mirrored object has mirrored handles: -z stays where the projection looks.
     const osg::Vec3f scales(size, size, worldFromAxes.det3() < 0.0F ? -size : size);
-    detail::placeTransform(state->placement, center.subZero(), osg::Quaternion(axes), scales);
+    detail::placeTransform(handles.getRootTransform(), center.subZero(), osg::Quaternion(axes),
+                           scales);
     if (!(size > kLeastSize) || !std::isfinite(size)) {
         return;
     }
-    const osg::Vec3f extents = state->frame.halfExtents();
+    const osg::Vec3f extents = frame.halfExtents();
     std::array<osg::Vec3f, 3> ends;  // of the extents, in the unit frame
     for (osg::UInt32 end = 0; end < 3; ++end) {
         const osg::Vec3f world = detail::column(worldFromAxes, end) * extents[end];
@@ -368,10 +342,10 @@ void PlanarTextureManipulator::placeHandles()
             ends[end][axis] = world.dot(detail::column(axes, axis)) / scales[axis];
         }
     }
-    for (std::size_t i = 0; i < kPlanarHandles.size(); ++i) {
-        const std::array<int, 3>& side = kPlanarHandles[i].side;
+    for (std::size_t i = 0; i < planarHandles().size(); ++i) {
+        const std::array<int, 3>& side = planarHandles()[i].side;
         if (side != kNoSide) {
-            detail::moveNode(state->handles[i].top,
+            detail::moveNode(handles.getNode(i),
                              ends[0] * static_cast<float>(side[0]) +
                                  ends[1] * static_cast<float>(side[1]) +
                                  ends[2] * static_cast<float>(side[2]));

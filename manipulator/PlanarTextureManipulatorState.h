@@ -2,22 +2,20 @@
 #pragma once
 
 #include "manipulator/PlanarTextureManipulator.h"
-#include "manipulator/detail/HandleShapes.h"
+#include "manipulator/detail/DragPlane.h"
+#include "manipulator/detail/HandleSet.h"
 #include "manipulator/detail/MaterialComponent.h"
 #include "manipulator/detail/PreviewPause.h"
 
-#include <nbOpenSGExt/Transform3D.h>
-
 #include <OpenSG/OSGMatrix.h>
-#include <OpenSG/OSGPlane.h>
 #include <OpenSG/OSGQuaternion.h>
 #include <OpenSG/OSGRefPtr.h>
-#include <OpenSG/OSGSimpleMaterial.h>
 #include <OpenSG/OSGVector.h>
 
 #include <array>
 #include <cstddef>
 #include <string>
+#include <vector>
 
 namespace nbec::manipulator {
 
@@ -43,32 +41,17 @@ enum class PlanarGroup
     Scale
 };
 
-/// One drawn piece of a handle with its idle colour.
-struct PlanarPart
-{
-    detail::HandleShape shape;
-    PlanarMaterial idle;
-};
-
 /// One row of the handle table. The order of rows is that of the tree and of the comparison of
 /// names.
 struct PlanarHandleRow
 {
-    static constexpr std::size_t kMostParts = 3;
-
-    const char* name;
+    detail::HandleRow handle;
     PlanarTextureManipulator::ActiveMode activeMode;
     PlanarGroup group;
-    std::size_t partCount;
-    std::array<PlanarPart, kMostParts> parts;
-    std::array<float, 3> place;  ///< in the unit frame
-    detail::Turn turn;
     std::array<int, 3> side;  ///< of a tab: which end of each extent it stands at; 0 the centre
 };
 
-inline constexpr std::size_t kPlanarHandleCount = 18;
-inline constexpr std::size_t kPlanarMaterialCount = 9;
-extern const std::array<PlanarHandleRow, kPlanarHandleCount> kPlanarHandles;
+const std::vector<PlanarHandleRow>& planarHandles();
 
 /// The row of a handle; null for None.
 const PlanarHandleRow* planarHandleOf(PlanarTextureManipulator::ActiveMode mode);
@@ -97,30 +80,57 @@ struct ProjectionFrame
 };
 
 /// State of one drag, captured at its start.
+///
+/// A tab keeps its distance from the pointer; no side shrinks below 0.01 of its start, and a side
+/// of length 0 has no proportion to keep. A scale handle grabbed within 1e-6 of the centre has the
+/// factor 1. A pointer on the centre keeps the last angle; angles lie within -pi to pi.
 struct ProjectionDrag
 {
-    osg::Plane plane;  ///< in which the pointer's ray is intersected, world
+    detail::DragPlane plane;
     ProjectionFrame frame;
     osg::Vec3f unit;  ///< object units of each axis of handle space
     osg::Matrix handleFromWorld;
-    osg::Pnt3f startWorld;
-    osg::Vec3f start;  ///< handle space
     float lastAngle = 0.0F;  ///< radians
-    bool hasStart = false;  ///< whether a ray has met the plane yet
     bool isTargetReady = false;  ///< whether the node has been made a transform
 
+    /// Where the drag started, handle space.
+    osg::Vec3f start() const;
     /// From the start to a point, object units along the axes of the handle frame.
     osg::Vec3f motionTo(const osg::Pnt3f& hit) const;
 };
 
+/// The fields of a planar gizmo and what needs nothing else.
+///
+/// The tree: the root of the handle set places and sizes all handles, which stand below it without
+/// groups; the tabs are moved to where the projection ends. The handle frame has its origin at the
+/// projection's centre and its axes turned by rotation * rotation orientation, in world space
+/// through the node. Handle space is that frame in units of the projection's scale, so that the
+/// picture covers -1 to 1; an axis whose scale is below 1e-12 counts as 1. Below a mirrored node
+/// the handles are mirrored too.
 struct PlanarTextureManipulator::State
 {
-    /// The nodes of one row of the handle table; the handle tree keeps them alive.
-    struct HandleNodes
-    {
-        osg::NodePtr top;
-        std::array<osg::NodePtr, PlanarHandleRow::kMostParts> parts;
-    };
+    State();
+
+    // == Projection
+
+    void readProjection(const osg::NodePtr& node);
+    void askScaleValues();
+
+    // == Handles
+
+    /// Shows those of the mode, while one is dragged only those of its group.
+    void showElements();
+    void placeHandles();
+    void endHover();
+
+    // == Drag
+
+    /// Makes the node a transform with pivots, once in a drag.
+    void makeTransform(const osg::NodePtr& node);
+    void beginDrag();
+    /// Turns the plane of the drag for the active handle.
+    void updatePlane();
+    void setTranslationIn(nbMessage& message, const osg::Vec3f& shift) const;
 
     detail::MaterialComponent component;
     std::string messageReceiver;
@@ -145,10 +155,7 @@ struct PlanarTextureManipulator::State
     ProjectionDrag drag;
 
     osg::RefPtr<osg::NodePtr> root;
-    osg::RefPtr<osg::NodePtr> handleTree;
-    osg::Transform3DPtr placement;  ///< core of the handle tree, which never gets another
-    std::array<HandleNodes, kPlanarHandleCount> handles;
-    std::array<osg::SimpleMaterialRefPtr, kPlanarMaterialCount> materials;
+    detail::HandleSet handles;
 
     osg::UInt64 comparedStamp = 0;  ///< edits seen by the last update, see EditStamp.h
     float placedSize = 0.0F;  ///< class-wide size at the last placement

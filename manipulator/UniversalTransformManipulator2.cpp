@@ -10,6 +10,7 @@
 #include "manipulator/detail/HandlePick.h"
 #include "manipulator/detail/InstanceRegistry.h"
 #include "manipulator/detail/NodeVisibility.h"
+#include "manipulator/detail/PivotMarks.h"
 #include "manipulator/detail/ScreenScale.h"
 #include "manipulator/detail/TargetFrame.h"
 
@@ -29,10 +30,12 @@ namespace {
 
 using Mode = UniversalTransformManipulator2::ManipulatorMode;
 
-/// Takes what was only read, so that it is read.
-std::atomic<osg::UInt32> seen { 0 };
+/// Of the scene when all gizmos were placed together.
+osg::UInt64 allPlacedStamp = 0;
 /// Gizmos that are looked at together before they are placed.
 constexpr std::size_t kReadAhead = 16;
+/// Takes what was only read, so that it is read.
+std::atomic<osg::UInt32> seen { 0 };
 /// Elements of two to-world matrices that differ by no more are the same placement.
 constexpr float kPlacementTolerance = 1e-6F;
 constexpr std::size_t kElements = 16;
@@ -42,6 +45,23 @@ bool isSamePlacement(const osg::Matrix& left, const osg::Matrix& right)
 {
     return std::memcmp(left.getValues(), right.getValues(), sizeof(osg::Real32) * kElements) == 0 ||
         left.equals(right, kPlacementTolerance);
+}
+
+/// Looks at what placing a gizmo will touch. Nothing of it is near by when there are many gizmos;
+/// looked at one after the other, the waiting times for memory overlap, which the work on each
+/// would not let them.
+/// @param target  node that the gizmo is to be placed at, or null
+void readAhead(const osg::Transform3D& placement, const osg::NodePtr& target)
+{
+    osg::UInt32 sum =
+        placement.getChangeCount() + static_cast<osg::UInt32>(placement.getRotationMode());
+    for (const osg::NodePtr& pass : placement.getParents()) {
+        sum += pass->getTravMask();
+    }
+    if (target != osg::NullFC && target->getCore() != osg::NullFC) {
+        sum += target->getCore()->getFieldContainerId();
+    }
+    seen.store(sum, std::memory_order_relaxed);
 }
 
 constexpr DefaultFamilies kAllFamilies { true, true, true };
@@ -67,7 +87,8 @@ UniversalTransformManipulator2* UniversalTransformManipulator2::_the = nullptr;
 bool UniversalTransformManipulator2::_temporary_snapping_active = false;
 
 UniversalTransformManipulator2::UniversalTransformManipulator2()
-    : handles(std::make_unique<TransformHandles>())
+    : marks(std::make_unique<detail::PivotMarks>())
+    , handles(std::make_unique<TransformHandles>())
     , drag(std::make_unique<TransformDrag>())
 {
     placement = osg::Transform3DPtr::dcast(handles->getTree()->getCore());
@@ -287,18 +308,22 @@ UniversalTransformManipulator2::detectMode(ManipulatorInteractionContext* ctx) c
 
 // == Placement
 
-void UniversalTransformManipulator2::updateManipulator()
+void UniversalTransformManipulator2::updateManipulator(bool areMarksPlaced)
 {
-    updateManipulator(detail::ScreenScale(m_ManipulatorSize, detail::ViewDiagonal::FrustumSides));
+    updateManipulator(detail::ScreenScale(m_ManipulatorSize, detail::ViewDiagonal::FrustumSides),
+                      areMarksPlaced);
 }
 
-void UniversalTransformManipulator2::updateManipulator(const detail::ScreenScale& scale)
+void UniversalTransformManipulator2::updateManipulator(const detail::ScreenScale& scale,
+                                                       bool areMarksPlaced)
 {
     const osg::NodePtr selected = getNode();
+    isPlaced = false;
     if (selected == osg::NullFC) {
         return;
     }
     const osg::NodePtr node = detail::editedNode(selected);
+    isPlaced = node->getParent() != osg::NullFC;
     const osg::Pnt3f anchor = anchorWorld(node);
     const float size = scale.at(anchor);
     cachedTargetToWorld = node->getToWorld();
@@ -312,7 +337,19 @@ void UniversalTransformManipulator2::updateManipulator(const detail::ScreenScale
         placement->setRotation(orientationWorld(node));
     }
     if (!transformationInfos.empty()) {
-        updateMarks(size);
+        updateMarks(size, areMarksPlaced);
+    }
+}
+
+void UniversalTransformManipulator2::updateSize(const detail::ScreenScale& scale)
+{
+    const float size = scale.at(osg::Pnt3f(placement->getTranslation()));
+    {
+        const detail::EditBracket edit(placement, osg::Transform3D::ScaleFieldMask);
+        placement->setScale(osg::Vec3f(size, size, size));
+    }
+    if (!transformationInfos.empty()) {
+        updateMarks(size, true);
     }
 }
 
@@ -374,44 +411,35 @@ bool UniversalTransformManipulator2::isLocalSpaceManipulator()
 void UniversalTransformManipulator2::setLocalSpaceManipulator(bool local)
 {
     m_LocalSpaceManipulator = local;
+    allPlacedStamp = 0;
     if (_the != nullptr) {
         _the->updateManipulator();
     }
 }
 
+/// The usual case is that the camera has moved and nothing else. Then gizmos stay where they are
+/// and change their size, and there is no need to look at their nodes.
 void UniversalTransformManipulator2::updateAllManipulators()
 {
     const detail::ScreenScale scale(m_ManipulatorSize, detail::ViewDiagonal::FrustumSides);
+    const bool areAllInPlace = osg::glue::sceneStamp() == allPlacedStamp;
     std::size_t next = 0;
-    detail::forEachInstance(_allManipulators,
-                            [&scale, &next](UniversalTransformManipulator2& manipulator) {
-                                if (next++ % kReadAhead == 0) {
-                                    readAhead(next - 1);
-                                }
-                                manipulator.updateManipulator(scale);
-                            });
-}
-
-/// Looks at what placing the next gizmos will touch. Nothing of it is near by when there are many
-/// gizmos; looked at one after the other, the waiting times for memory overlap, which the work on
-/// each would not let them.
-void UniversalTransformManipulator2::readAhead(std::size_t first)
-{
-    osg::UInt32 sum = 0;
-    const std::size_t end = std::min(first + kReadAhead, _allManipulators.size());
-    for (std::size_t i = first; i < end; ++i) {
-        const UniversalTransformManipulator2& manipulator = *_allManipulators[i];
-        const osg::NodePtr target = manipulator.getNode();
-        if (target != osg::NullFC && target->getCore() != osg::NullFC) {
-            sum += target->getCore()->getFieldContainerId();
-        }
-        for (const osg::NodePtr& pass : manipulator.placement->getParents()) {
-            for (osg::NodePtr above = pass; above != osg::NullFC; above = above->getParent()) {
-                sum += above->getTravMask();
+    detail::forEachInstance(_allManipulators, [&](UniversalTransformManipulator2& manipulator) {
+        if (next % kReadAhead == 0) {
+            const std::size_t end = std::min(next + kReadAhead, _allManipulators.size());
+            for (std::size_t i = next; i < end; ++i) {
+                const UniversalTransformManipulator2& other = *_allManipulators[i];
+                readAhead(*other.placement, areAllInPlace ? osg::NodePtr() : other.getNode());
             }
         }
-    }
-    seen.store(sum, std::memory_order_relaxed);
+        ++next;
+        if (areAllInPlace && manipulator.isPlaced) {
+            manipulator.updateSize(scale);
+        } else {
+            manipulator.updateManipulator(scale, false);
+        }
+    });
+    allPlacedStamp = osg::glue::sceneStamp();
 }
 
 }  // namespace nbec::manipulator

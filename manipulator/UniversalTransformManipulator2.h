@@ -17,9 +17,9 @@ namespace nbec::manipulator {
 class TransformHandles;
 struct NodeTransformationInfo;
 struct TransformDrag;
-struct TransformStart;
 
 namespace detail {
+class PivotMarks;
 class ScreenScale;
 }  // namespace detail
 
@@ -178,9 +178,9 @@ private:
     void endHover();
     ActiveMode detectMode(ManipulatorInteractionContext* ctx) const;
 
-    void updateManipulator();
-    void updateManipulator(const detail::ScreenScale& scale);
-    static void readAhead(std::size_t first);
+    void updateManipulator(bool areMarksPlaced = false);
+    void updateManipulator(const detail::ScreenScale& scale, bool areMarksPlaced);
+    void updateSize(const detail::ScreenScale& scale);
     osg::Pnt3f anchorWorld(const osg::NodePtr& node) const;
     osg::Quaternion orientationWorld(const osg::NodePtr& node) const;
     /// Centre of an object's volume, in its own frame or in the world's.
@@ -189,15 +189,15 @@ private:
     /// Shows the values that the grabbed handle edits as on-screen text; null takes the text away.
     /// @return whether there is a text
     bool setDescription(const osg::NodePtr& node);
-    void createMarks();
-    void updateMarks(float size);
+    void placeMarks();
+    void updateMarks(float size, bool arePlaced);
 
     osg::NodePtr makeTransform(const osg::NodePtr& node);
     osg::NodePtr getTransform(osg::UInt32 index);
     void prepareAll(const osg::NodePtr& node);
     void prepareManipulator(const osg::NodePtr& node);
-    void prepareManipulator(const osg::NodePtr& node, NodeTransformationInfo& info);
-    TransformStart captureStart(const osg::NodePtr& node) const;
+    void captureStart(const osg::NodePtr& node);
+    osg::Vec3f ringAxisAbove(const osg::NodePtr& node) const;
     void updateManipulatorPlane(const osg::NodePtr& node);
     /// World direction in which an axis of the active handle goes, unit length.
     osg::Vec3f movementAxis(const osg::NodePtr& node, osg::UInt32 axis) const;
@@ -214,11 +214,10 @@ private:
     static double computeRotation(const osg::Pnt3f& from, const osg::Pnt3f& to, osg::UInt32 axis);
     osg::Vec3f handleDelta(const osg::Pnt3f& point) const;
     osg::Vec3f scaleFactors(const osg::Pnt3f& point) const;
-    TransformStart& startOf(osg::UInt32 index);
-    /// Looks up the containers of all targets, for one step.
     void resolveTargets(const osg::NodePtr& node);
     nbTransformModel::Value valueFor(osg::UInt32 index, const osg::Vec3f& value) const;
-    void finishStep(const osg::NodePtr& node, bool describe);
+    bool areAllEdited(osg::UInt32 edited);
+    void finishStep(const osg::NodePtr& node, bool describe, bool areMarksPlaced);
     bool snappingActive() const;
 
     static float m_ManipulatorSize;
@@ -227,19 +226,20 @@ private:
     static UniversalTransformManipulator2* _the;
     static bool _temporary_snapping_active;
 
+    bool isPlaced = false;  ///< at the node, until the scene is edited; see sceneStamp()
+    osg::Transform3DPtr placement;  ///< core of the handle tree, which never gets another
+    std::vector<NodeTransformationInfo> transformationInfos;
     ManipulatorMode mode = ManipulatorMode::Translate;
     ActiveMode activeHandle = ActiveMode::None;
     bool grabbing = false;
     bool snappingEnabled = false;
     bool descriptionEnabled = true;
     osg::RefPtr<osg::NodePtr> root;
-    osg::Transform3DPtr placement;  ///< core of the handle tree, which never gets another
     osg::RefPtr<osg::NodePtr> multiselection;
-    osg::RefPtr<osg::NodePtr> marks;  ///< crosses of the further nodes, made when there are some
+    std::unique_ptr<detail::PivotMarks> marks;  ///< of the further nodes
     osg::RefPtr<osg::NodePtr> additionalGeometry;
     std::unique_ptr<TransformHandles> handles;
-    std::vector<NodeTransformationInfo> transformationInfos;
-    std::vector<osg::NodePtr> resolvedTargets;  ///< within a step of a drag, otherwise empty
+    std::vector<osg::NodePtr> resolvedTargets;  ///< looked up for one step, otherwise empty
     std::unique_ptr<TransformDrag> drag;
     osg::Pnt3f grabbedPoint;  ///< where the grabbed handle was hit, world
     bool prepared = false;

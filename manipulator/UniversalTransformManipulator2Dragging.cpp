@@ -2,9 +2,9 @@
 #include "manipulator/UniversalTransformManipulator2.h"
 #include "manipulator/UniversalTransformManipulator2Drag.h"
 #include "manipulator/UniversalTransformManipulator2Handles.h"
-#include "manipulator/detail/ContainerReference.h"
 #include "manipulator/detail/DragGeometry.h"
 #include "manipulator/detail/MessageSending.h"
+#include "manipulator/detail/PivotMarks.h"
 #include "manipulator/detail/TargetFrame.h"
 
 #include <nbKernel/nbOSGWidget.h>
@@ -15,6 +15,8 @@
 #include <nbOpenSGUtils/nbNodeUtils.h>
 #include <nbTransform/nbTransformModel.h>
 #include <nbUtils/nbLog.h>
+
+#include <OpenSG/OSGFieldContainerFactory.h>
 
 #include <algorithm>
 #include <cmath>
@@ -54,20 +56,6 @@ osg::Vec3f snappedLength(const osg::Vec3f& delta, double step)
     const float length = delta.length();
     const float scale = length < kShortest ? 1.0F : 1.0F / length;
     return delta * (scale * static_cast<float>(detail::snapped(length, step)));
-}
-
-/// Quaternion of an angle about an axis, in double. @param axis  one not longer than 1e-6 gives the
-/// identity
-osg::Quaterniond turnAbout(const osg::Vec3f& axis, double angleRad)
-{
-    osg::Quaterniond turn;
-    const double length = axis.length();
-    if (length > kShortest) {
-        const double sine = std::sin(angleRad / 2) / length;
-        turn.setValueAsQuat(axis.x() * sine, axis.y() * sine, axis.z() * sine,
-                            std::cos(angleRad / 2));
-    }
-    return turn;
 }
 
 osg::Vec3f toDegrees(const nbEulerAngles& anglesRad)
@@ -148,6 +136,7 @@ osg::NodePtr UniversalTransformManipulator2::makeTransform(const osg::NodePtr& n
 void UniversalTransformManipulator2::dragTo(const osg::NodePtr& node, const osg::Pnt3f& point)
 {
     resolveTargets(node);
+    drag->ownEdits.allow(0);
     if (mode == ManipulatorMode::RotatePivot || mode == ManipulatorMode::ScalePivot) {
         if (isRing(activeHandle)) {
             rotatePivot(node, point);
@@ -166,18 +155,14 @@ void UniversalTransformManipulator2::dragTo(const osg::NodePtr& node, const osg:
 
 // == The five transformations
 
-TransformStart& UniversalTransformManipulator2::startOf(osg::UInt32 index)
-{
-    return index == 0 ? drag->start : transformationInfos[index - 1].start;
-}
-
 void UniversalTransformManipulator2::resolveTargets(const osg::NodePtr& node)
 {
+    const osg::FieldContainerFactory& containers = *osg::FieldContainerFactory::the();
     resolvedTargets.resize(transformationInfos.size() + 1);
     resolvedTargets[0] = node;
     for (std::size_t i = 0; i < transformationInfos.size(); ++i) {
         resolvedTargets[i + 1] =
-            detail::resolveContainer<osg::NodePtr>(transformationInfos[i].nodeId);
+            osg::NodePtr::dcast(containers.getContainer(transformationInfos[i].nodeId));
     }
 }
 
@@ -199,12 +184,21 @@ osg::Vec3f UniversalTransformManipulator2::handleDelta(const osg::Pnt3f& point) 
     return maskedByHandle(delta, activeHandle);
 }
 
-void UniversalTransformManipulator2::finishStep(const osg::NodePtr& node, bool describe)
+/// Whether a step's edits are of all targets, and the only ones since the drag began.
+bool UniversalTransformManipulator2::areAllEdited(osg::UInt32 edited)
+{
+    return drag->ownEdits.allow(edited) && edited == resolvedTargets.size();
+}
+
+void UniversalTransformManipulator2::finishStep(const osg::NodePtr& node, bool describe,
+                                                bool areMarksPlaced)
 {
     if (describe && setDescription(node)) {
         resolvedTargets.clear();  // who listens to texts may have destroyed some
     }
-    updateManipulator();
+    const bool isKnown = areMarksPlaced && drag->ownEdits.allow(0);
+    updateManipulator(isKnown);
+    drag->ownEdits.goOn(isKnown);
     detail::sendTransformationChanged();
 }
 
@@ -219,14 +213,22 @@ void UniversalTransformManipulator2::translate(const osg::NodePtr& node, const o
         delta = snappedLength(delta, model->getTranslationPrecision());
     }
     const bool worldSpace = !m_LocalSpaceManipulator;
-    model->setTranslation(
-        static_cast<osg::UInt32>(resolvedTargets.size()), worldSpace, [&](osg::UInt32 index) {
-            const TransformStart& start = startOf(index);
-            return valueFor(index,
-                            worldSpace ? start.translationWorld + delta
-                                       : start.translationLocal + rotated(start.rotation, delta));
-        });
-    finishStep(node, true);
+    const TransformStart* const starts = drag->starts.data();
+    const auto count = static_cast<osg::UInt32>(resolvedTargets.size());
+    const auto inWorld = [this, starts, delta](osg::UInt32 index) {
+        return valueFor(index, starts[index].translationWorld + delta);
+    };
+    const auto inParent = [&](osg::UInt32 index) {
+        const TransformStart& start = starts[index];
+        return valueFor(index, start.translationLocal + rotated(start.rotation, delta));
+    };
+    const osg::UInt32 edited = worldSpace ? model->setTranslation(count, true, inWorld)
+                                          : model->setTranslation(count, false, inParent);
+    const bool isKnown = worldSpace && areAllEdited(edited);
+    if (isKnown) {
+        marks->moveTo(delta);
+    }
+    finishStep(node, true, isKnown);
 }
 
 double UniversalTransformManipulator2::computeRotation(const osg::Pnt3f& from, const osg::Pnt3f& to,
@@ -257,24 +259,16 @@ void UniversalTransformManipulator2::rotate(const osg::NodePtr& node, const osg:
         }
     }
     drag->lastRotationPoint = rotationPoint;
-    RotationStep step(angle);
-    model->setRotation(static_cast<osg::UInt32>(resolvedTargets.size()), [&](osg::UInt32 index) {
-        TransformStart& start = startOf(index);
-        start.accumulated.turn(step.about(start.ringAxis, start.ringSign));
-        return valueFor(index, toDegrees(start.accumulated.getAngles()));
-    });
-    finishStep(node, true);
-}
-
-const nbQuaterniond& RotationStep::about(const osg::Vec3f& newAxis, double newSign)
-{
-    if (!isKnown || newAxis != axis || newSign != sign) {
-        isKnown = true;
-        axis = newAxis;
-        sign = newSign;
-        turn = turnAbout(axis, angleRad * sign);
-    }
-    return turn;
+    drag->turnedRad += angle;
+    const detail::TurnAngle turned(drag->turnedRad);
+    const auto angles = [&](osg::UInt32 index) {
+        detail::TurningAngles& turning = drag->turns[index];
+        turning.turnTo(turned);
+        return valueFor(index, toDegrees(turning.getAngles()));
+    };
+    const osg::UInt32 edited =
+        model->setRotation(static_cast<osg::UInt32>(resolvedTargets.size()), angles);
+    finishStep(node, true, areAllEdited(edited));  // the pivots have stayed
 }
 
 osg::Vec3f UniversalTransformManipulator2::scaleFactors(const osg::Pnt3f& point) const
@@ -307,18 +301,23 @@ void UniversalTransformManipulator2::scale(const osg::NodePtr& node, const osg::
     nbTransformModel* const model = nbTransformModel::the();
     const osg::Vec3f factors = scaleFactors(point);
     const bool isUniform = activeHandle == ActiveMode::ScaleUniform;
+    const osg::UInt32 only = isUniform ? 3 : axisOf(activeHandle);
     const double step = snappingActive() ? model->getScalePrecision() : 0.0;
-    model->setScale(static_cast<osg::UInt32>(resolvedTargets.size()), [&](osg::UInt32 index) {
-        osg::Vec3f value = startOf(index).scale;
-        for (osg::UInt32 i = 0; i < 3; ++i) {
-            if (isUniform || i == axisOf(activeHandle)) {
-                value[i] = static_cast<float>(
-                    detail::snapped(static_cast<double>(value[i] * factors[i]), step));
+    const TransformStart* const starts = drag->starts.data();
+    const auto values = [&](osg::UInt32 index) {
+        // The other axes have the factor 1.
+        osg::Vec3f value = starts[index].scale;
+        value.setValues(value.x() * factors.x(), value.y() * factors.y(), value.z() * factors.z());
+        for (osg::UInt32 i = 0; i < 3 && step != 0.0; ++i) {
+            if (isUniform || i == only) {
+                value[i] = static_cast<float>(detail::snapped(value[i], step));
             }
         }
         return valueFor(index, value);
-    });
-    finishStep(node, true);
+    };
+    const osg::UInt32 edited =
+        model->setScale(static_cast<osg::UInt32>(resolvedTargets.size()), values);
+    finishStep(node, true, areAllEdited(edited));  // the pivots have stayed
 }
 
 void UniversalTransformManipulator2::translatePivot(const osg::NodePtr& node,
@@ -328,7 +327,7 @@ void UniversalTransformManipulator2::translatePivot(const osg::NodePtr& node,
     const osg::Vec3f delta = handleDelta(point);
     const bool worldSpace = !m_LocalSpaceManipulator;
     const auto place = [&](osg::UInt32 index) {
-        const TransformStart& start = startOf(index);
+        const TransformStart& start = drag->starts[index];
         return valueFor(index,
                         worldSpace ? start.pivotWorld + delta
                                    : start.pivotLocal + rotated(start.rotation, delta));
@@ -340,7 +339,7 @@ void UniversalTransformManipulator2::translatePivot(const osg::NodePtr& node,
         nbTransformModel::the()->setScalePivot(static_cast<osg::UInt32>(resolvedTargets.size()),
                                                worldSpace, place);
     }
-    finishStep(node, true);
+    finishStep(node, true, false);
 }
 
 void UniversalTransformManipulator2::rotatePivot(const osg::NodePtr& node, const osg::Pnt3f& point)
@@ -349,15 +348,14 @@ void UniversalTransformManipulator2::rotatePivot(const osg::NodePtr& node, const
                                          axisOf(activeHandle));
     nbTransformModel::the()->setRotationPivotOrientation(
         static_cast<osg::UInt32>(resolvedTargets.size()), [&](osg::UInt32 index) {
-            const TransformStart& start = startOf(index);
-            osg::Quaterniond turned = turnAbout(start.ringAxis, angle * start.ringSign);
-            turned.mult(start.accumulated.getRotation());
-            turned.normalize();
-            const int order = start.accumulated.getAngles().order;
-            return valueFor(index, toDegrees(nbEulerUtils::EulFromQuat(turned, order)));
+            const nbEulerAngles from = drag->turns[index].getAngles();
+            const nbQuaterniond turned =
+                nbRotationMath::product(detail::turnAbout(drag->starts[index].ringAxis, angle),
+                                        nbEulerUtils::QuatFromEul(from));
+            return valueFor(index, toDegrees(nbEulerUtils::EulFromQuat(turned, from.order)));
         });
     // Deliberate: the description stays as it is.
-    finishStep(node, false);
+    finishStep(node, false, false);
 }
 
 }  // namespace nbec::manipulator

@@ -4,6 +4,7 @@
 #include "manipulator/UniversalTransformManipulator2Handles.h"
 #include "manipulator/detail/ContainerReference.h"
 #include "manipulator/detail/DragGeometry.h"
+#include "manipulator/detail/PivotMarks.h"
 #include "manipulator/detail/TargetFrame.h"
 
 #include <nbKernel/nbOSGWidget.h>
@@ -47,12 +48,13 @@ void straighten(osg::Matrix& frame, osg::UInt32 axis)
 void UniversalTransformManipulator2::prepareAll(const osg::NodePtr& node)
 {
     prepareManipulator(node);
-    for (NodeTransformationInfo& info : transformationInfos) {
-        const osg::NodePtr further = getTransform(info.index);
-        if (further != osg::NullFC) {
-            prepareManipulator(further, info);
-        }
+    for (const NodeTransformationInfo& info : transformationInfos) {
+        captureStart(getTransform(info.index));
     }
+    resolveTargets(node);
+    placeMarks();
+    drag->ownEdits.start(areApart(resolvedTargets));
+    resolvedTargets.clear();
     prepared = true;
 }
 
@@ -72,7 +74,7 @@ void UniversalTransformManipulator2::prepareManipulator(const osg::NodePtr& node
     const osg::Transform3DPtr transform = osg::Transform3DPtr::dcast(node->getCore());
     *drag = TransformDrag();
     updateManipulatorPlane(node);
-    drag->start = captureStart(node);
+    captureStart(node);
 
     const nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1);
     osg::Line ray;
@@ -92,16 +94,17 @@ void UniversalTransformManipulator2::prepareManipulator(const osg::NodePtr& node
     drag->scaleAnchor = mapped(drag->inverseScaleFrame, drag->startWorld).subZero();
 }
 
-void UniversalTransformManipulator2::prepareManipulator(const osg::NodePtr& node,
-                                                        NodeTransformationInfo& info)
+/// @param node  null leaves a gap
+void UniversalTransformManipulator2::captureStart(const osg::NodePtr& node)
 {
-    info.start = captureStart(node);
-}
-
-TransformStart UniversalTransformManipulator2::captureStart(const osg::NodePtr& node) const
-{
+    TransformStart& start = drag->starts.emplace_back();
+    if (isRing(activeHandle)) {
+        drag->turns.emplace_back();
+    }
+    if (node == osg::NullFC) {
+        return;
+    }
     const osg::Transform3DPtr transform = osg::Transform3DPtr::dcast(node->getCore());
-    TransformStart start;
     start.translationLocal = nbTransformModel::getTranslation(node, false);
     start.translationWorld = nbTransformModel::getTranslation(node, true);
     start.scale = transform->getScale();
@@ -111,19 +114,23 @@ TransformStart UniversalTransformManipulator2::captureStart(const osg::NodePtr& 
     start.pivotWorld = isScalePivot ? nbTransformModel::getScalePivot(node, true)
                                     : nbTransformModel::getRotationPivot(node, true);
     start.rotation = transform->getRotationAsQuaternion();
-    const int order = nbEulerUtils::getOrderFromString(transform->getEulerRotationOrder());
-    start.accumulated =
-        detail::TurningAngles(nbEulerUtils::fromDegrees(transform->getRotation(), order));
     if (isRing(activeHandle)) {
-        // The axis that the parent's frame maps onto the drawn one; a mirrored parent turns the
-        // other way.
-        const osg::Matrix worldFromParent = detail::parentToWorld(node);
-        start.ringAxis = column(gizmoFrame(), axisOf(activeHandle));
-        inverted(worldFromParent).multMatrixVec(start.ringAxis);
-        start.ringAxis.normalize();
-        start.ringSign = worldFromParent.det3() < 0.0F ? -1.0 : 1.0;
+        start.ringAxis = ringAxisAbove(node);
+        const int order = nbEulerUtils::getOrderFromString(transform->getEulerRotationOrder());
+        drag->turns.back() = detail::TurningAngles(
+            nbEulerUtils::fromDegrees(transform->getRotation(), order), start.ringAxis);
     }
-    return start;
+}
+
+/// The axis that the frame of a node's parent maps onto that of the grabbed ring; a mirrored parent
+/// turns the other way.
+osg::Vec3f UniversalTransformManipulator2::ringAxisAbove(const osg::NodePtr& node) const
+{
+    const osg::Matrix worldFromParent = detail::parentToWorld(node);
+    osg::Vec3f ringAxis = column(gizmoFrame(), axisOf(activeHandle));
+    inverted(worldFromParent).multMatrixVec(ringAxis);
+    ringAxis.normalize();
+    return worldFromParent.det3() < 0.0F ? -ringAxis : ringAxis;
 }
 
 void UniversalTransformManipulator2::updateManipulatorPlane(const osg::NodePtr& node)
@@ -180,11 +187,11 @@ osg::Matrix UniversalTransformManipulator2::translationFrame(const osg::NodePtr&
                                                              const osg::Transform3DPtr& transform)
 {
     for (osg::UInt32 i = 0; i < 3; ++i) {
-        const float factor = drag->start.scale[i];
+        const float factor = drag->starts[0].scale[i];
         drag->frameScale[i] = std::abs(factor) < kShortest ? 1.0F : factor;
     }
     osg::Matrix own;
-    own.setTransform(transform->getTranslation(), drag->start.rotation, drag->frameScale);
+    own.setTransform(transform->getTranslation(), drag->starts[0].rotation, drag->frameScale);
     osg::Matrix frame = detail::parentToWorld(node);
     frame.mult(own);
     if (const osg::UInt32 axis = axisOf(activeHandle); isTranslation(activeHandle) && axis < 3) {

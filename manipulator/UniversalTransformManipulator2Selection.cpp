@@ -3,19 +3,16 @@
 #include "manipulator/UniversalTransformManipulator2Drag.h"
 #include "manipulator/UniversalTransformManipulator2Handles.h"
 #include "manipulator/detail/ContainerReference.h"
-#include "manipulator/detail/EditBracket.h"
-#include "manipulator/detail/HandleNodes.h"
 #include "manipulator/detail/MessageSending.h"
-#include "manipulator/detail/NodeVisibility.h"
+#include "manipulator/detail/PivotMarks.h"
 #include "manipulator/detail/TargetFrame.h"
 #include "manipulator/detail/ValueText.h"
 
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
-#include <OpenSG/OSGGeometry.h>
-
 #include <QtCore/QString>
 
+#include <algorithm>
 #include <unordered_set>
 
 namespace nbec::manipulator {
@@ -28,21 +25,6 @@ using NodeIds = std::unordered_set<osg::UInt32>;
 
 /// Half the length of a mark's lines, in gizmo units.
 constexpr float kMarkReach = 0.15F;
-constexpr osg::UInt32 kPointsPerMark = 6;
-
-/// Three lines along the axes. @param points  six  @param reach  half their length; 0 shows nothing
-void drawCross(osg::Pnt3f* points, const osg::Pnt3f& center, float reach)
-{
-    const float x = center.x();
-    const float y = center.y();
-    const float z = center.z();
-    points++->setValues(x - reach, y, z);
-    points++->setValues(x + reach, y, z);
-    points++->setValues(x, y - reach, z);
-    points++->setValues(x, y + reach, z);
-    points++->setValues(x, y, z - reach);
-    points++->setValues(x, y, z + reach);
-}
 
 bool hasSelectedAncestor(const osg::NodePtr& node, const NodeIds& selected)
 {
@@ -98,10 +80,9 @@ void UniversalTransformManipulator2::setNode(const osg::NodePtr& node)
 {
     NodeManipulator::setNode(node);
     transformationInfos.clear();
+    isPlaced = false;
     prepared = false;  // a drag goes on from here with the new nodes
-    if (marks != osg::NullFC) {
-        detail::showNode(marks.get(), false);
-    }
+    marks->hide();
     if (isActive()) {
         showActiveManipulator();
     }
@@ -131,7 +112,8 @@ void UniversalTransformManipulator2::setNode(const osg::NodePtr& node,
         transformationInfos.push_back(info);
     }
     if (!transformationInfos.empty()) {
-        createMarks();
+        marks->make(multiselection.get(), transformationInfos.size(),
+                    handles->getLineMaterial(HandleColor::Yellow));
         updateManipulator();
     }
 }
@@ -152,55 +134,46 @@ bool UniversalTransformManipulator2::centerPivot()
 
 // == Marks of the further nodes
 
-void UniversalTransformManipulator2::createMarks()
+void UniversalTransformManipulator2::placeMarks()
 {
-    const osg::GeoPTypesPtr types = osg::GeoPTypesUI8::create();
-    const osg::GeoPLengthsPtr lengths = osg::GeoPLengthsUI32::create();
-    const osg::GeoPositionsPtr positions = osg::GeoPositions3f::create();
-    const auto count = static_cast<osg::UInt32>(transformationInfos.size()) * kPointsPerMark;
-    types->push_back(GL_LINES);
-    lengths->push_back(count);
-    positions->resize(count);
-    const osg::GeometryPtr crosses = osg::Geometry::create();
-    {
-        const detail::EditBracket edit(crosses, osg::FieldBits::AllFields);
-        crosses->setTypes(types);
-        crosses->setLengths(lengths);
-        crosses->setPositions(positions);
-        crosses->setMaterial(handles->getLineMaterial(HandleColor::Yellow));
-    }
-    const detail::EditBracket edit(multiselection.get(), osg::Node::ChildrenFieldMask);
-    if (marks != osg::NullFC) {
-        multiselection->subChild(marks.get());
-    }
-    marks = detail::makeNode(crosses);
-    multiselection->addChild(marks.get());
-}
-
-void UniversalTransformManipulator2::updateMarks(float size)
-{
-    const osg::GeometryPtr crosses = osg::GeometryPtr::dcast(marks->getCore());
-    const auto positions = osg::GeoPositions3fPtr::dcast(crosses->getPositions());
-    const detail::EditBracket edit(positions, osg::GeoPositions3f::GeoPropDataFieldMask);
-    auto& points = positions->getField();
     const bool atScalePivot = mode == ManipulatorMode::Scale || mode == ManipulatorMode::ScalePivot;
+    const bool areResolved = resolvedTargets.size() == marks->size() + 1;
     detail::ParentMatrix parents;
-    const bool areResolved = resolvedTargets.size() == transformationInfos.size() + 1;
-    for (std::size_t i = 0; i < transformationInfos.size(); ++i) {
+    marks->startPlacing();
+    for (std::size_t i = 0; i < marks->size(); ++i) {
         const osg::NodePtr node = areResolved
             ? resolvedTargets[i + 1]
             : detail::resolveContainer<osg::NodePtr>(transformationInfos[i].nodeId);
-        osg::Pnt3f center;
-        float reach = 0.0F;
-        if (node != osg::NullFC) {
-            const auto transform = osg::Transform3DPtr::dcast(node->getCore());
-            center = transform == osg::NullFC
-                ? anchorWorld(node)
-                : parents.toWorld(node, detail::pivotInParent(transform, atScalePivot));
-            reach = size * kMarkReach;
+        if (node == osg::NullFC) {
+            marks->hide(i);
+            continue;
         }
-        drawCross(&points[i * kPointsPerMark], center, reach);
+        const auto transform = osg::Transform3DPtr::dcast(node->getCore());
+        marks->place(i,
+                     transform == osg::NullFC
+                         ? anchorWorld(node)
+                         : parents.toWorld(node, detail::pivotInParent(transform, atScalePivot)));
     }
+}
+
+void UniversalTransformManipulator2::updateMarks(float size, bool arePlaced)
+{
+    if (!arePlaced) {
+        placeMarks();
+    }
+    marks->draw(size * kMarkReach);
+}
+
+bool areApart(const std::vector<osg::NodePtr>& targets)
+{
+    NodeIds ids;
+    for (const osg::NodePtr& node : targets) {
+        ids.insert(detail::containerId(node));
+    }
+    return std::all_of(targets.begin(), targets.end(), [&ids](const osg::NodePtr& node) {
+        return node != osg::NullFC && node->getCore() != osg::NullFC &&
+            node->getCore()->getParents().size() == 1 && !hasSelectedAncestor(node, ids);
+    });
 }
 
 // == On-screen text

@@ -5,9 +5,14 @@
 
 namespace nbec::manipulator::detail {
 
-void DragPlane::begin(const osg::Vec3f& normal, const osg::Pnt3f& point, const nbOSGWidget& widget)
+void DragPlane::set(const osg::Vec3f& normal, const osg::Pnt3f& point)
 {
     plane = osg::Plane(normal, point);
+}
+
+void DragPlane::begin(const osg::Vec3f& normal, const osg::Pnt3f& point, const nbOSGWidget& widget)
+{
+    set(normal, point);
     hasStart = false;
     osg::Pnt3f hit;
     follow(widget, hit);

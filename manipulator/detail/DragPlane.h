@@ -13,8 +13,11 @@ namespace nbec::manipulator::detail {
 class DragPlane
 {
 public:
-    /// Begins a drag, at the pointer if it meets the plane.
+    /// Takes another plane; a drag that has started keeps its start.
     /// @param normal  shorter than 1e-6: nothing meets the plane
+    void set(const osg::Vec3f& normal, const osg::Pnt3f& point);
+
+    /// Begins a drag in a plane, at the pointer if it meets it.
     void begin(const osg::Vec3f& normal, const osg::Pnt3f& point, const nbOSGWidget& widget);
 
     /// Where the pointer's ray meets the plane. @return false, and the hit untouched, if it does

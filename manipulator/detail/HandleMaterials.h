@@ -55,6 +55,17 @@ struct HandleMaterialRow
 /// The solid handle material of a row.
 osg::SimpleMaterialRefPtr makeHandleMaterial(const HandleMaterialRow& row);
 
+/// Those of all rows of a table, in their order.
+template <class Rows>
+std::vector<osg::SimpleMaterialRefPtr> makeHandleMaterials(const Rows& rows)
+{
+    std::vector<osg::SimpleMaterialRefPtr> materials;
+    for (const HandleMaterialRow& row : rows) {
+        materials.push_back(makeHandleMaterial(row));
+    }
+    return materials;
+}
+
 /// Unlit material of a handle pass: the depth-test chunk and the sort key are all that matters of
 /// it.
 osg::SimpleMaterialRefPtr makePassMaterial(const osg::DepthTestChunkPtr& depth, int sortKey);

@@ -29,13 +29,24 @@ osg::NodePtr makeHolder(Holder holder, const std::array<float, 3>& place, Turn t
 
 }  // namespace
 
+HandleRow makeHandleRow(const char* name, int activeMode, int group,
+                        std::initializer_list<HandlePart> parts, const std::array<float, 3>& place,
+                        Turn turn)
+{
+    HandleRow row = { name, activeMode, group, 0, Holder::Component, place, turn, 0, {} };
+    for (const HandlePart& each : parts) {
+        row.parts[row.partCount++] = each;
+    }
+    return row;
+}
+
 HandleSet::HandleSet(const HandleTable& handleTable, Materials handleMaterials)
     : table(&handleTable)
     , materials(std::move(handleMaterials))
     , root(makeTransform3DNode(osg::Vec3f()))
 {
-    for (osg::NodePtr& group : groups) {
-        group = makeTransform3DNode(osg::Vec3f());
+    for (std::size_t i = 0; i < table->groupCount; ++i) {
+        groups.push_back(makeTransform3DNode(osg::Vec3f()));
     }
     for (const HandleRow& row : table->rows) {
         handles.push_back(buildHandle(row));
@@ -115,7 +126,8 @@ void HandleSet::highlight(int activeMode)
 {
     for (std::size_t i = 0; i < handles.size(); ++i) {
         const HandleRow& row = table->rows[i];
-        if (row.activeMode != activeMode && row.highlightedWith != activeMode) {
+        if (activeMode == 0 ||
+            (row.activeMode != activeMode && row.highlightedWith != activeMode)) {
             continue;
         }
         for (std::size_t part = 0; part < row.partCount; ++part) {

@@ -11,6 +11,7 @@
 
 #include <array>
 #include <cstddef>
+#include <initializer_list>
 #include <vector>
 
 namespace nbec::manipulator::detail {
@@ -50,6 +51,11 @@ struct HandleRow
     std::array<HandlePart, kMostParts> parts;
 };
 
+/// A row whose parts lie where their shapes do, below a ComponentTransform.
+HandleRow makeHandleRow(const char* name, int activeMode, int group,
+                        std::initializer_list<HandlePart> parts,
+                        const std::array<float, 3>& place = {}, Turn turn = Turn::None);
+
 /// Number of groups of a set: handles that translate, rotate and scale.
 constexpr std::size_t kHandleGroupCount = 3;
 
@@ -68,14 +74,15 @@ struct HandleTable
     std::vector<HandleRow> rows;
     std::vector<HandleModeRow> modes;
     std::size_t highlight;  ///< material of a highlighted handle
+    std::size_t groupCount = kHandleGroupCount;  ///< 0 if no row is in a group
 };
 
 /// The handles of one gizmo: a tree of nodes built from a table, its colours and visibility.
 ///
 /// The root has a Transform3D core, and below it the handles without a group and then one node with
-/// a Transform3D core for each group, in their order. Every node of a handle bears the handle's
-/// name. All showing and hiding acts on the nodes that share a core, so that a depth-pass copy
-/// follows. A copy of the set shares the tree.
+/// a Transform3D core for each group, if there are any, in their order. Every node of a handle
+/// bears the handle's name. All showing and hiding acts on the nodes that share a core, so that a
+/// depth-pass copy follows. A copy of the set shares the tree.
 class HandleSet
 {
 public:
@@ -102,6 +109,7 @@ public:
 
     /// Gives each part its material. @param mode  says which colours
     void setDefaultMaterials(int mode);
+    /// @param activeMode  of the handle; 0 for none
     void highlight(int activeMode);
 
     void showRoot(bool isVisible);
@@ -128,7 +136,7 @@ private:
     const HandleTable* table;
     Materials materials;
     osg::RefPtr<osg::NodePtr> root;
-    std::array<osg::NodePtr, kHandleGroupCount> groups;
+    std::vector<osg::NodePtr> groups;
     std::vector<Nodes> handles;
 };
 

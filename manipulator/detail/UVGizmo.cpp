@@ -59,15 +59,6 @@ constexpr std::array<HandleMaterialRow, Yellow + 1> kMaterials = {
       { 1.0F, 1.0F, 0.0F, kTrace, kLightSortKey } }
 };
 
-HandleSet::Materials makeMaterials()
-{
-    HandleSet::Materials materials;
-    for (const HandleMaterialRow& row : kMaterials) {
-        materials.push_back(makeHandleMaterial(row));
-    }
-    return materials;
-}
-
 constexpr int number(Active active)
 {
     return static_cast<int>(active);
@@ -88,11 +79,7 @@ HandleRow handle(const char* name, Active active, int group,
                  std::initializer_list<HandlePart> parts, const std::array<float, 3>& place = {},
                  Turn turn = Turn::None)
 {
-    HandleRow row = { name, number(active), group, 0, Holder::Component, place, turn, 0, {} };
-    for (const HandlePart& each : parts) {
-        row.parts[row.partCount++] = each;
-    }
-    return row;
+    return makeHandleRow(name, number(active), group, parts, place, turn);
 }
 
 std::vector<HandleRow> makeRows()
@@ -174,7 +161,8 @@ osg::Vec2f projectedPx(const nbOSGWidget& widget, const osg::Pnt3f& world)
 }  // namespace
 
 UVGizmo::UVGizmo()
-    : AnchoredGizmo(handleTable(), makeMaterials(), static_cast<int>(Mode::Universal))
+    : AnchoredGizmo(handleTable(), makeHandleMaterials(kMaterials),
+                    static_cast<int>(Mode::Universal))
 {
     root = makeTransform3DNode(osg::Vec3f());
     nbNodeUtils::setName(root.get(), kHandleGroupName);

@@ -25,5 +25,16 @@ inline UInt64 editStamp()
 #endif
 }
 
+/// Equal stamps mean that between them every node that has a parent stayed where it was, and all
+/// that is below it. New every time on a real OpenSG.
+inline UInt64 sceneStamp()
+{
+#if defined(NBMANIPULATOR_SYSTEM_OPENSG)
+    return editStamp();
+#else
+    return getSceneEditCount();
+#endif
+}
+
 }  // namespace glue
 }  // namespace osg

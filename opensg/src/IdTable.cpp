@@ -1,30 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "IdTable.h"
 
+#include <algorithm>
 #include <cassert>
+#include <numeric>
 
 namespace osg {
 
-namespace {
-
-/// 16 KiB: room for some gizmos, so that making and destroying one does not rebuild the table.
-constexpr std::size_t kFewestSlots = 1024;
-/// 2^32 divided by the golden ratio: spreads ids that follow each other evenly.
-constexpr UInt32 kSpread = 2654435769u;
-
-}  // namespace
-
-std::size_t IdTable::home(UInt32 id) const
+std::size_t IdTable::size() const
 {
-    return static_cast<UInt32>(id * kSpread) >> shift;
+    return std::accumulate(counts.begin(), counts.end(), std::size_t(0));
 }
 
 void IdTable::place(UInt32 id, FieldContainer* container)
 {
-    const std::size_t mask = slots.size() - 1;
     std::size_t at = home(id);
     while (slots[at].container != nullptr) {
-        at = (at + 1) & mask;
+        at = next(at);
     }
     slots[at].container = container;
     slots[at].id = id;
@@ -35,7 +27,7 @@ void IdTable::rehash(std::size_t slotCount)
     std::vector<Slot> old(slotCount);
     old.swap(slots);
     shift = 32;
-    for (std::size_t n = slotCount; n > 1; n /= 2) {
+    for (std::size_t n = slotCount / kLanes; n > 1; n /= 2) {
         --shift;
     }
     for (const Slot& slot : old) {
@@ -48,8 +40,9 @@ void IdTable::rehash(std::size_t slotCount)
 void IdTable::insert(UInt32 id, FieldContainer* container)
 {
     assert(id != 0 && container != nullptr);
-    if (4 * (count + 1) > 3 * slots.size()) {
-        rehash(slots.empty() ? kFewestSlots : 2 * slots.size());
+    std::size_t& count = counts[id % kLanes];
+    if (4 * (count + 1) > 3 * (slots.size() / kLanes)) {
+        rehash(2 * slots.size());
     }
     place(id, container);
     ++count;
@@ -61,9 +54,9 @@ void IdTable::erase(UInt32 id)
     std::size_t hole = home(id);
     while (slots[hole].id != id) {
         assert(slots[hole].container != nullptr);
-        hole = (hole + 1) & mask;
+        hole = next(hole);
     }
-    for (std::size_t at = (hole + 1) & mask; slots[at].container != nullptr; at = (at + 1) & mask) {
+    for (std::size_t at = next(hole); slots[at].container != nullptr; at = next(at)) {
         const std::size_t wanted = home(slots[at].id);
         const bool reachableFromHole = ((at - wanted) & mask) >= ((at - hole) & mask);
         if (reachableFromHole) {
@@ -72,23 +65,11 @@ void IdTable::erase(UInt32 id)
         }
     }
     slots[hole] = Slot();
-    --count;
-    if (slots.size() > kFewestSlots && 8 * count < slots.size()) {
-        rehash(slots.size() / 4 < kFewestSlots ? kFewestSlots : slots.size() / 4);
+    --counts[id % kLanes];
+    if (slots.size() > kFewestSlots &&
+        8 * *std::max_element(counts.begin(), counts.end()) < slots.size() / kLanes) {
+        rehash(std::max(slots.size() / 4, kFewestSlots));
     }
-}
-
-FieldContainer* IdTable::find(UInt32 id) const
-{
-    if (slots.empty() || id == 0) {
-        return nullptr;
-    }
-    const std::size_t mask = slots.size() - 1;
-    std::size_t at = home(id);
-    while (slots[at].container != nullptr && slots[at].id != id) {
-        at = (at + 1) & mask;
-    }
-    return slots[at].container;
 }
 
 }  // namespace osg

@@ -12,6 +12,7 @@ namespace osg {
 namespace detail {
 
 UInt64 editCount = 0;
+UInt64 sceneEditCount = 0;
 
 }  // namespace detail
 
@@ -47,8 +48,6 @@ FieldContainer::FieldContainer(const FieldContainer&)
 { }
 
 FieldContainer::~FieldContainer() = default;
-
-void FieldContainer::changed(BitVector, UInt32) { }
 
 void FieldContainer::ownerAdded(FieldContainer&) { }
 
@@ -124,13 +123,6 @@ void clearRefCP(FieldContainerPtr& container)
 
 // == Edits
 
-void beginEditCP(const FieldContainerPtr&, BitVector, UInt32) { }
-
-void endEditCP(const FieldContainerPtr& container, BitVector whichField, UInt32 origin)
-{
-    changedCP(container, whichField, origin);
-}
-
 void changedCP(const FieldContainerPtr& container, BitVector whichField, UInt32 origin)
 {
     if (container == NullFC) {
@@ -141,8 +133,6 @@ void changedCP(const FieldContainerPtr& container, BitVector whichField, UInt32 
     container->noteEdit();
     container->changed(whichField, origin);
 }
-
-void endEditNotChangedCP(const FieldContainerPtr&, BitVector, UInt32) { }
 
 UInt32 getChangeCount(const FieldContainerPtr& container)
 {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <OpenSG/OSGAttachment.h>
+#include <OpenSG/OSGChangeCount.h>
 #include <OpenSG/OSGLog.h>
 #include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGNodeCore.h>
@@ -12,6 +13,8 @@
 namespace osg {
 
 OSG_CONTAINER_TYPE(Node, AttachmentContainer);
+
+UInt64 Node::presentStamp = 1;
 
 /// A transform node's place in the world and what it was worked out from.
 struct Node::WorldCache
@@ -55,6 +58,7 @@ Node::Node(const Node& source)
 
 Node::~Node()
 {
+    ++detail::sceneEditCount;
     for (const NodePtr& child : mfChildren) {
         child->sfParent.setValue(NullFC);
         subRefCP(static_cast<const FieldContainerPtr&>(child));
@@ -89,6 +93,7 @@ void Node::setCore(const NodeCorePtr& core)
         endEditCP(old, NodeCore::ParentsFieldMask);
         subRefCP(static_cast<const FieldContainerPtr&>(old));
     }
+    ++detail::sceneEditCount;
     noteSubtreeChange();
     invalidateVolume();
 }
@@ -138,6 +143,7 @@ void Node::attach(UInt32 index, const NodePtr& child)
     beginEditCP(child, ParentFieldMask);
     child->sfParent.setValue(NodePtr(this));
     endEditCP(child, ParentFieldMask);
+    noteSubtreeChange();  // the child may have had the present stamp before
     invalidateVolume();
 }
 
@@ -149,6 +155,7 @@ void Node::removeAt(UInt32 index)
     child->sfParent.setValue(NullFC);
     endEditCP(child, ParentFieldMask);
     subRefCP(static_cast<const FieldContainerPtr&>(child));
+    ++detail::sceneEditCount;
     noteSubtreeChange();
     invalidateVolume();
 }
@@ -303,16 +310,6 @@ void Node::getWorldVolume(DynamicVolume& result)
     }
 }
 
-void Node::invalidateVolume()
-{
-    volume.setValid(false);
-    // Above an invalid volume all are invalid, or do not depend on it because a node is inactive.
-    for (Node* node = getParent().getCPtr(); node != nullptr && node->volume.isValid();
-         node = node->getParent().getCPtr()) {
-        node->volume.setValid(false);
-    }
-}
-
 // == Changes
 
 void Node::changed(BitVector whichField, UInt32 origin)
@@ -325,14 +322,10 @@ void Node::changed(BitVector whichField, UInt32 origin)
 
 void Node::noteEdit()
 {
-    noteSubtreeChange();
-}
-
-void Node::noteSubtreeChange()
-{
-    for (Node* node = this; node != nullptr; node = node->getParent().getCPtr()) {
-        ++node->subtreeChangeCount;
+    if (getParent() != NullFC || getNChildren() > 0) {
+        ++detail::sceneEditCount;
     }
+    noteSubtreeChange();
 }
 
 // == Copies
@@ -366,6 +359,7 @@ NodePtr Node::copyTree(ContainerCloner* cloner) const
             addRefCP(copy);
             copy->sfParent.setValue(NodePtr(target));
             target->mfChildren.push_back(copy);
+            target->noteSubtreeChange();
             open.emplace_back(child.getCPtr(), copy.getCPtr());
         }
     }

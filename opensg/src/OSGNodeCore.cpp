@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <OpenSG/OSGChangeCount.h>
 #include <OpenSG/OSGCoredNodePtr.h>
 #include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGNodeCore.h>
@@ -36,6 +37,9 @@ void NodeCore::noteEdit()
         Inherited::noteEdit();
     }
     for (const NodePtr& node : mfParents) {
+        if (node->getParent() != NullFC || node->getNChildren() > 0) {
+            ++detail::sceneEditCount;
+        }
         node->noteSubtreeChange();
     }
 }

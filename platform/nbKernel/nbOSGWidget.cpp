@@ -52,11 +52,18 @@ bool isFinitePosition(const osg::Pnt2f& position)
     return std::isfinite(position.x()) && std::isfinite(position.y());
 }
 
-/// Whole pixel that a position lies in, limited to what a rectangle's arithmetic can take.
-int toPixel(float position)
+/// A position limited to what the arithmetic of rectangles and rays can take in whole pixels.
+osg::Pnt2f nearPosition(const osg::Pnt2f& position)
 {
     constexpr float kLimit = 1e6f;
-    return static_cast<int>(std::floor(std::clamp(position, -kLimit, kLimit)));
+    return { std::clamp(position.x(), -kLimit, kLimit),
+             std::clamp(position.y(), -kLimit, kLimit) };
+}
+
+/// Whole pixel that a position lies in.
+int toPixel(float position)
+{
+    return static_cast<int>(std::floor(position));
 }
 
 }  // namespace
@@ -224,14 +231,14 @@ void nbOSGWidget::resize(int width, int height)
 void nbOSGWidget::setMousePosition(const osg::Pnt2f& position)
 {
     if (isFinitePosition(position)) {
-        mousePositionPx = position;
+        mousePositionPx = nearPosition(position);
     }
 }
 
 void nbOSGWidget::setPressPosition(const osg::Pnt2f& position)
 {
     if (isFinitePosition(position)) {
-        pressPositionPx = position;
+        pressPositionPx = nearPosition(position);
         pressed = true;
     }
 }

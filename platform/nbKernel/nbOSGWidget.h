@@ -112,7 +112,8 @@ public:
 
     osg::Pnt2f getMousePosition() const { return mousePositionPx; }
 
-    /// A position that is not finite is ignored. May lie outside the view.
+    /// A position that is not finite is ignored. May lie outside the view, but is pulled in to a
+    /// million pixels, here and below.
     void setMousePosition(const osg::Pnt2f& position);
 
     /// Where the button went down; opens the rectangle. A position that is not finite is ignored.

@@ -9,7 +9,6 @@
 namespace {
 
 constexpr double kPi = 3.14159265358979323846;
-constexpr double kDegPerRad = 180.0 / kPi;
 /// Cosine of the middle angle below which only a sum of first and last angle means something.
 constexpr double kLockedCosine = 1e-9;
 
@@ -59,11 +58,6 @@ Angles nearestLocked(Angles angles, const Angles& reference, const nbEulerRotati
     angles[k] = reference[k] - 0.5 * sense * missing;
     angles[j] = unwound(angles[j], reference[j]);
     return angles;
-}
-
-nbEulerAngles scaled(const nbEulerAngles& angles, double factor)
-{
-    return { angles.x * factor, angles.y * factor, angles.z * factor, angles.order };
 }
 
 }  // namespace
@@ -124,22 +118,6 @@ nbEulerAngles nbEulerUtils::nearest(const nbEulerAngles& angles, const nbEulerAn
     return makeAngles(squaredDistance(turned, wanted) < squaredDistance(same, wanted) ? turned
                                                                                       : same,
                       angles.order);
-}
-
-nbEulerAngles nbEulerUtils::toDegrees(const nbEulerAngles& anglesRad)
-{
-    return scaled(anglesRad, kDegPerRad);
-}
-
-nbEulerAngles nbEulerUtils::toRadians(const nbEulerAngles& anglesDeg)
-{
-    return scaled(anglesDeg, 1.0 / kDegPerRad);
-}
-
-osg::Vec3f nbEulerUtils::toVec3f(const nbEulerAngles& angles)
-{
-    return { static_cast<osg::Real32>(angles.x), static_cast<osg::Real32>(angles.y),
-             static_cast<osg::Real32>(angles.z) };
 }
 
 nbEulerAngles nbEulerUtils::fromDegrees(const osg::Vec3f& anglesDeg, int order)

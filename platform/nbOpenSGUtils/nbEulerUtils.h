@@ -58,12 +58,31 @@ public:
     /// Of all angles that give the same rotation in the same order, those nearest to the others.
     static nbEulerAngles nearest(const nbEulerAngles& angles, const nbEulerAngles& reference);
 
-    static nbEulerAngles toDegrees(const nbEulerAngles& anglesRad);
-    static nbEulerAngles toRadians(const nbEulerAngles& anglesDeg);
+    static nbEulerAngles toDegrees(const nbEulerAngles& anglesRad)
+    {
+        return scaled(anglesRad, kDegPerRad);
+    }
+
+    static nbEulerAngles toRadians(const nbEulerAngles& anglesDeg)
+    {
+        return scaled(anglesDeg, 1.0 / kDegPerRad);
+    }
 
     /// The three angles as floats, in the unit they have.
-    static osg::Vec3f toVec3f(const nbEulerAngles& angles);
+    static osg::Vec3f toVec3f(const nbEulerAngles& angles)
+    {
+        return { static_cast<osg::Real32>(angles.x), static_cast<osg::Real32>(angles.y),
+                 static_cast<osg::Real32>(angles.z) };
+    }
 
     /// Angles from degrees as nodes have them.
     static nbEulerAngles fromDegrees(const osg::Vec3f& anglesDeg, int order);
+
+private:
+    static constexpr double kDegPerRad = 180.0 / 3.14159265358979323846;
+
+    static nbEulerAngles scaled(const nbEulerAngles& angles, double factor)
+    {
+        return { angles.x * factor, angles.y * factor, angles.z * factor, angles.order };
+    }
 };

@@ -123,6 +123,13 @@ inline Transform3DPtr transformOf(const osg::NodePtr& node)
     return core != osg::NullFC ? core : convertedCore(node);
 }
 
+inline bool mayTransform(const osg::NodePtr& node)
+{
+    // Most nodes have no attachments, and so nothing that could forbid it.
+    return node->getSFAttachments()->getValue().empty() ||
+        nbNodePermission::allows(node, nbNodePermission::Transform);
+}
+
 /// Hands each target with a value to edit(subject, value, faults), which answers whether it took
 /// it.
 template <class Edit>
@@ -136,7 +143,7 @@ osg::UInt32 editAll(const char* title, osg::UInt32 count, nbTransformModel::Valu
     for (osg::UInt32 i = 0; i < count; ++i) {
         const nbTransformModel::Value value = values(i);
         const osg::NodePtr& node = value.first.first;
-        if (node == osg::NullFC || !nbNodePermission::allows(node, nbNodePermission::Transform)) {
+        if (node == osg::NullFC || !mayTransform(node)) {
             continue;
         }
         if (!isFinite(value.second)) {

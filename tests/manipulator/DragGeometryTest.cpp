@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <limits>
 
 namespace nbec::manipulator::test {
 
@@ -93,34 +92,6 @@ TEST(IntersectPlane, RefusesWhatHasNoCrossingAndLeavesThePoint)
     EXPECT_EQ(point, untouched);
     EXPECT_TRUE(detail::intersectPlane(plane, osg::Line(Pnt3f(1, 2, 5), ahead), point));
     EXPECT_LT((point - Pnt3f(1, 2, 0)).length(), 1e-6F);
-}
-
-TEST(AxisPlaneNormal, FacesTheViewerAndContainsTheAxis)
-{
-    Vec3f sight(1, -2, -5);
-    sight.normalize();
-    const Vec3f normal = detail::axisPlaneNormal(Vec3f(1, 0, 0), sight);
-    EXPECT_NEAR(normal.x(), 0.0F, 1e-6F);
-    EXPECT_NEAR(normal.y() / normal.z(), 2.0F / 5.0F, 1e-5F);
-    EXPECT_NEAR(normal.length(), 1.0F, 1e-6F);
-    EXPECT_EQ(detail::axisPlaneNormal(Vec3f(1, 0, 0), Vec3f(-1, 0, 0)), Vec3f(0, 0, 0));
-}
-
-TEST(Orthonormalised, DropsScaleShearAndMirroring)
-{
-    osg::Matrix mirrored;
-    mirrored.setValue(Vec3f(0, 2, 0), Vec3f(3, 1, 0), Vec3f(0, 0, 5));
-    const osg::Matrix result = detail::orthonormalised(mirrored);
-    EXPECT_EQ(Vec3f(result[0][0], result[0][1], result[0][2]), Vec3f(0, 1, 0));
-    EXPECT_EQ(Vec3f(result[1][0], result[1][1], result[1][2]), Vec3f(1, 0, 0));
-    EXPECT_EQ(Vec3f(result[2][0], result[2][1], result[2][2]), Vec3f(0, 0, -1));
-
-    osg::Matrix flat;
-    flat.setValue(Vec3f(1, 0, 0), Vec3f(1, 0, 0), Vec3f(0, 0, 1));
-    EXPECT_EQ(detail::orthonormalised(flat), osg::Matrix::identity());
-    flat.setValue(Vec3f(std::numeric_limits<float>::quiet_NaN(), 0, 0), Vec3f(0, 1, 0),
-                  Vec3f(0, 0, 1));
-    EXPECT_EQ(detail::orthonormalised(flat), osg::Matrix::identity());
 }
 
 TEST(Snapped, RoundsHalfAwayFromZero)

@@ -3,8 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cmath>
 #include <limits>
 #include <utility>
 
@@ -13,10 +11,6 @@ namespace nbec::manipulator::detail {
 namespace {
 
 using Kind = VanishingPoint::Kind;
-
-constexpr float kTolerance = 1e-5F;
-/// Closed ends of dashes are rounded to floats.
-constexpr float kOnLine = 1e-5F;
 
 osg::Line2D line(float x1, float y1, float x2, float y2)
 {
@@ -43,28 +37,7 @@ MatchLines linesWith(std::initializer_list<std::pair<PerspectiveMatchLine, osg::
     return lines;
 }
 
-float distanceToLine(const osg::Pnt3f& point, const osg::Line2D& onLine)
-{
-    const osg::Vec2f along = onLine.getDirection();
-    const osg::Vec2f from = osg::Pnt2f(point.x(), point.y()) - onLine.getFirst();
-    return std::fabs(along.x() * from.y() - along.y() * from.x()) / along.length();
-}
-
 }  // namespace
-
-TEST(PerspectiveMatchLayout, LineUnitsFillTheViewFromItsLowerLeftCorner)
-{
-    for (const MatchView& view : { viewOf(1600, 1000, 1000), viewOf(601, 907, 601) }) {
-        const osg::Matrix matrix = clipFromLineUnits(view);
-        osg::Pnt3f low(0, 0, 0);
-        osg::Pnt3f high(static_cast<float>(view.widthPx) / view.referencePx,
-                        static_cast<float>(view.heightPx) / view.referencePx, 0);
-        matrix.multFullMatrixPnt(low);
-        matrix.multFullMatrixPnt(high);
-        EXPECT_TRUE(low.equals(osg::Pnt3f(-1, -1, 0), kTolerance));
-        EXPECT_TRUE(high.equals(osg::Pnt3f(1, 1, 0), kTolerance));
-    }
-}
 
 TEST(PerspectiveMatchLayout, EndsComeBeforeLinesAndTheNearestWins)
 {
@@ -175,35 +148,6 @@ TEST(PerspectiveMatchLayout, VanishingPoints)
     }
 }
 
-TEST(PerspectiveMatchLayout, DashesGoFromTheNearerEndToTheVanishingPoint)
-{
-    using Line = PerspectiveMatchLine;
-    // They meet at (0.9, 0.5), in the view; the second is drawn from right to left.
-    const osg::Line2D first = line(0.1F, 0.1F, 0.5F, 0.3F);
-    const osg::Line2D second = line(0.5F, 0.7F, 0.1F, 0.9F);
-    const MatchLines lines = linesWith({ { Line::YLine1, first }, { Line::YLine2, second } });
-
-    const MatchGuides guides = makeMatchGuides(lines, viewOf(1000, 1000, 1000), 1);
-
-    const MatchGuides::Segments& dashes = guides.axes[1];
-    ASSERT_GT(dashes.size(), 8U);
-    EXPECT_TRUE(dashes.front().equals(osg::Pnt3f(0.5F, 0.3F, 0), kTolerance));
-    const std::size_t crossEnds = 4;
-    for (std::size_t i = 0; i + crossEnds < dashes.size(); ++i) {
-        EXPECT_LT(std::min(distanceToLine(dashes[i], first), distanceToLine(dashes[i], second)),
-                  kOnLine);
-        EXPECT_GE(dashes[i].x(), 0.5F - kTolerance);
-        EXPECT_LE(dashes[i].x(), 0.9F + kTolerance);
-    }
-    osg::Vec3f middle;
-    for (std::size_t i = dashes.size() - crossEnds; i < dashes.size(); ++i) {
-        middle += dashes[i].subZero() * 0.25F;
-    }
-    EXPECT_TRUE(middle.equals(osg::Vec3f(0.9F, 0.5F, 0), kTolerance)) << "the cross";
-    EXPECT_TRUE(guides.axes[0].empty());
-    EXPECT_TRUE(guides.horizon.empty()) << "y is not horizontal";
-}
-
 TEST(PerspectiveMatchLayout, GuidesStayInTheViewHoweverFarTheLinesReach)
 {
     using Line = PerspectiveMatchLine;
@@ -236,41 +180,6 @@ TEST(PerspectiveMatchLayout, GuidesStayInTheViewHoweverFarTheLinesReach)
             EXPECT_LE(point.y(), 1.02F) << row.name;
         }
     }
-}
-
-TEST(PerspectiveMatchLayout, TheHorizonJoinsTheHorizontalAxes)
-{
-    using Line = PerspectiveMatchLine;
-    // x vanishes at (2, 0.5), z at (-1, 0.5), y at (0.5, 3).
-    MatchLines lines = linesWith({ { Line::XLine1, line(0, 0, 1, 0.25F) },
-                                   { Line::XLine2, line(0, 1, 1, 0.75F) },
-                                   { Line::YLine1, line(0, 0, 0.25F, 1.5F) },
-                                   { Line::YLine2, line(1, 0, 0.75F, 1.5F) },
-                                   { Line::ZLine1, line(1, 0, 0.5F, 0.125F) },
-                                   { Line::ZLine2, line(1, 1, 0.5F, 0.875F) } });
-    const MatchView view = viewOf(1000, 1000, 1000);
-
-    const MatchGuides yUp = makeMatchGuides(lines, view, 1);
-    ASSERT_FALSE(yUp.horizon.empty());
-    for (const osg::Pnt3f& point : yUp.horizon) {
-        EXPECT_NEAR(point.y(), 0.5F, kTolerance);
-    }
-    const float ends[] = { yUp.horizon.front().x(), yUp.horizon.back().x() };
-    EXPECT_LT(std::min(ends[0], ends[1]), 0.03F) << "across the whole view";
-    EXPECT_GT(std::max(ends[0], ends[1]), 0.97F);
-
-    for (const osg::Pnt3f& point : makeMatchGuides(lines, view, 2).horizon) {
-        EXPECT_LT(distanceToLine(point, line(2, 0.5F, 0.5F, 3)), kOnLine) << "z up";
-    }
-    lines.lines[matchLineIndex(Line::XLine2)] = line(0, 1, 1, 1.25F);
-    for (const osg::Pnt3f& point : makeMatchGuides(lines, view, 1).horizon) {
-        EXPECT_LT(distanceToLine(point, line(-1, 0.5F, 3, 1.5F)), kOnLine) << "x parallel";
-    }
-    lines.isAxisUsed = { false, true, true };
-    const MatchGuides partly = makeMatchGuides(lines, view, 1);
-    EXPECT_TRUE(partly.horizon.empty()) << "without x";
-    EXPECT_TRUE(partly.axes[0].empty());
-    EXPECT_FALSE(partly.axes[2].empty());
 }
 
 }  // namespace nbec::manipulator::detail

@@ -23,7 +23,6 @@ const QColor kRed = QColor::fromRgbF(1.0, 0.2, 0.2);
 const QColor kGreen = QColor::fromRgbF(0.1, 0.75, 0.15);
 const QColor kBlue = QColor::fromRgbF(0.25, 0.5, 1.0);
 const QColor kOrange = QColor::fromRgbF(1.0, 0.6, 0.0);
-const QColor kFaintGreen = QColor::fromRgbF(0.35, 0.675, 0.375);
 const QColor kBlack(0, 0, 0);
 
 ::testing::AssertionResult isColor(const QColor& actual, const QColor& expected)
@@ -129,37 +128,6 @@ TEST_F(PerspectiveMatchPictureTest, TheOverlayLeavesNoTraceInTheEffectBuffer)
     const QImage effect = view->readEffect();
     EXPECT_EQ(effect.pixelColor(320, 239).alpha(), 0);
     EXPECT_EQ(effect.pixelColor(320, 220).alpha(), 255) << "of the box below the line";
-}
-
-TEST_F(PerspectiveMatchPictureTest, WhatIsUnderThePointerIsOrange)
-{
-    scene.match().setXLine1(pixelLine(100, 100, 200, 100));
-    const QPointF end((100.5) / 480, (100.5) / 480);
-    scene.send("hover", scene.pixelOf(end));
-    const QImage endPicture = draw();
-    EXPECT_TRUE(isColor(at(endPicture, 94, 100), kOrange));
-    EXPECT_TRUE(isColor(at(endPicture, 150, 100), kRed));
-    EXPECT_TRUE(isColor(at(endPicture, 206, 100), kRed));
-
-    scene.send("hover", scene.pixelOf(scene.match().getXLine1().center()));
-    const QImage linePicture = draw();
-    EXPECT_TRUE(isColor(at(linePicture, 94, 100), kOrange));
-    EXPECT_TRUE(isColor(at(linePicture, 150, 100), kOrange));
-    EXPECT_TRUE(isColor(at(linePicture, 150, 101), kOrange)) << "wider than the others";
-    gizmo.resetManipulator(nullptr, "select");
-    EXPECT_TRUE(isColor(at(draw(), 150, 100), kRed));
-}
-
-TEST_F(PerspectiveMatchPictureTest, AxesThatAreNotUsedAreFaint)
-{
-    scene.match().setYLine2(pixelLine(500, 100, 500, 300));
-    EXPECT_TRUE(isColor(at(draw(), 500, 200), kGreen));
-    scene.match().setVanishingLinesType(nbCameraTypes::XZLines);
-    const QImage picture = draw();
-    EXPECT_TRUE(isColor(at(picture, 500, 200), kFaintGreen));
-    EXPECT_TRUE(isColor(at(picture, 501, 200), kBlack)) << "thin";
-    scene.match().setVanishingLinesType(nbCameraTypes::YZLines);
-    EXPECT_TRUE(isColor(at(draw(), 500, 200), kGreen));
 }
 
 TEST_F(PerspectiveMatchPictureTest, GuidesShowDuringADrag)

@@ -1,17 +1,14 @@
 // SPDX-License-Identifier: MIT
-// Handles, groups, placement and the messages around a drag. The eye is 10 units away under 45
+// Handles, groups and placement. The eye is 10 units away under 45
 // degrees and 600 pixels high: a world unit at the origin is 72.4264 pixels, a unit of the gizmo
 // 10 * 45 / 672 world units.
 #include "tests/manipulator/support/PlanarScene.h"
 
 #include <nbKernel/nbController.h>
-#include <nbKernel/nbScenegraph.h>
-#include <nbMaterialEditor/nbMaterialPreview.h>
 #include <nbOpenSGUberCamera/UberCamera.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <OpenSG/OSGGeometry.h>
-#include <OpenSG/OSGImage.h>
 #include <OpenSG/OSGSimpleGeometry.h>
 
 #include <gtest/gtest.h>
@@ -28,12 +25,10 @@ using Gizmo = PlanarTextureManipulator;
 using Names = std::vector<std::string>;
 using osg::Pnt2f;
 using osg::Pnt3f;
-using osg::Vec2f;
 using osg::Vec3f;
 
 constexpr float kTolerance = 1e-4F;
 const std::string kHighlight = "1 0.5 0";
-const Names kPause = { "setMatRenderEnabled" };
 const Names kResume = { "setMatRenderEnabled", "updateMatRender" };
 
 /// A handle, where it is grabbed, and the idle colours of its parts.
@@ -223,6 +218,8 @@ TEST(PlanarTextureManipulator, ModesShowTheirGroups)
               without(handlesOf("rotate translate scale"), "scaleZPlaneShape"));
     gizmo.setNode(osg::NodePtr());
     EXPECT_EQ(shownHandles(planar), Names());
+    gizmo.showAllElements();
+    EXPECT_EQ(shownHandles(planar), handlesOf("rotate translate scale"));
 }
 
 TEST(PlanarTextureManipulator, TabsStandAtEdgesCornersAndDepthInAnySpace)
@@ -322,151 +319,17 @@ TEST(PlanarTextureManipulator, UpdateFollowsMaterialCameraAndSize)
     EXPECT_NEAR(sizeOf(planar.gizmo), before, kTolerance);
 }
 
-TEST(PlanarTextureManipulator, PausesThePreviewAndResumesIt)
-{
-    PlanarScene planar;
-    const auto isEnabled = [&planar] { return attribute<bool>(planar.log.front(), "enabled"); };
-    const osg::Pnt2f pixel = planar.drag.rayPixelOf(planar.onHandle("xaShape", Vec3f(1.9F, 0, 0)));
-
-    EXPECT_FALSE(planar.scene.send("stop", pixel));
-    planar.scene.send("hover", pixel);
-    EXPECT_FALSE(planar.scene.send("stop", pixel)) << "hovering is no start";
-    EXPECT_EQ(planar.takeNames(), Names());
-
-    EXPECT_TRUE(planar.scene.send("start", pixel));
-    ASSERT_EQ(planar.log.size(), 1U);
-    EXPECT_FALSE(isEnabled());
-    EXPECT_EQ(planar.takeNames(), kPause);
-    EXPECT_TRUE(planar.scene.send("stop", pixel));
-    EXPECT_TRUE(isEnabled());
-    EXPECT_EQ(planar.takeNames(), kResume);
-    EXPECT_FALSE(planar.scene.send("stop", pixel));
-    planar.gizmo.setNode(osg::NodePtr());
-    EXPECT_EQ(planar.takeNames(), Names()) << "nothing owed";
-}
-
-TEST(PlanarTextureManipulator, EndsAPauseThatIsOwed)
-{
-    PlanarScene planar;
-    planar.gizmo.setNode(planar.scene.node);
-    EXPECT_EQ(planar.takeNames(), kPause);
-    planar.gizmo.setNode(osg::NodePtr());
-    EXPECT_EQ(planar.takeNames(), kResume);
-    {
-        Gizmo other;
-        other.setNode(planar.scene.node);
-        const Gizmo copy(other);
-        planar.log.clear();
-    }
-    EXPECT_EQ(planar.takeNames(), kResume) << "once, not for the copy too";
-
-    planar.gizmo.setNode(planar.scene.node);
-    ASSERT_TRUE(planar.grab("xaShape", Vec3f(1.9F, 0, 0)));
-    planar.log.clear();
-    planar.gizmo.setNode(osg::NodePtr());
-    EXPECT_EQ(planar.takeNames(), kResume);
-    EXPECT_FALSE(planar.drag.stepTo(Vec2f(5, 0)));
-    EXPECT_FALSE(planar.drag.release());
-    EXPECT_EQ(planar.takeNames(), Names());
-
-    planar.gizmo.setNode(planar.scene.node);
-    ASSERT_TRUE(planar.grab("xaShape", Vec3f(1.9F, 0, 0)));
-    planar.log.clear();
-    planar.gizmo.deactivate(nullptr);
-    EXPECT_EQ(planar.takeNames(), kResume);
-    EXPECT_EQ(planar.gizmo.getActiveMode(), Gizmo::ActiveMode::None);
-}
-
 TEST(PlanarTextureManipulator, AStopThatIsLostLeavesNothingBehind)
 {
     PlanarScene planar;
     ASSERT_TRUE(planar.grab("rotateShape", Vec3f(0.6F, -0.8F, 0)));
     planar.log.clear();
-    EXPECT_FALSE(planar.scene.send("start", Pnt2f(20, 20)));
+    // Past the manager, which would stop the former drag first.
+    planar.scene.widget.setMousePosition(Pnt2f(20, 20));
+    EXPECT_FALSE(planar.gizmo.startManipulator(&planar.scene.context, "select"));
     EXPECT_EQ(planar.takeNames(), kResume);
     EXPECT_EQ(shownHandles(planar), handlesOf("rotate translate scale"));
     EXPECT_FALSE(planar.scene.send("hover", Pnt2f(20, 20)));
-}
-
-TEST(PlanarTextureManipulator, PreviewOfTheHostIsNotLeftPaused)
-{
-    PlanarScene planar(PlanarScene::Receiver::Editor);
-    nbMaterialPreview preview;
-    planar.gizmo.setNode(planar.scene.node);
-    EXPECT_TRUE(preview.isPaused());
-    ASSERT_TRUE(planar.grab("xaShape", Vec3f(1.9F, 0, 0)));
-    EXPECT_TRUE(planar.drag.dragBy(Vec2f(20, 0)));
-    EXPECT_TRUE(preview.isPaused());
-    EXPECT_TRUE(planar.drag.release());
-    EXPECT_FALSE(preview.isPaused());
-    EXPECT_EQ(preview.getRefreshCount(), 1U);
-}
-
-TEST(PlanarTextureManipulator, AsksForScaleValuesOnlyIfTheyAreUsed)
-{
-    PlanarScene planar;
-    planar.gizmo.prepareManipulator(planar.scene.node);
-    EXPECT_EQ(planar.takeNames(), kPause);
-    planar.gizmo.setUseTextureScale(true);
-    planar.scaleReply = [](nbMessage& reply) {
-        reply.set("initialTextureScale", Vec3f(1.5F, 1, 1), true);
-        reply.set("projectionSize", Vec2f(4, 3), true);
-    };
-    planar.gizmo.prepareManipulator(planar.scene.node);
-    EXPECT_EQ(planar.takeNames(), (Names { "label::getScaleValues", "setMatRenderEnabled" }));
-    planar.gizmo.updateManipulator();
-    expectNear(planar.onHandle("scaleXYURShape", Vec3f()), Pnt3f(2, 1.5F, 0), "corner");
-
-    // A reply of the wrong type, or none, leaves the size as it was.
-    for (const bool replies : { true, false }) {
-        planar.scaleReply = [replies](nbMessage& reply) {
-            if (replies) {
-                reply.set("projectionSize", Vec3f(8, 8, 8), true);
-                reply.set("initialTextureScale", Vec3f(2, 2, 2), true);
-            }
-        };
-        testing::internal::CaptureStderr();
-        planar.gizmo.prepareManipulator(planar.scene.node);
-        EXPECT_EQ(testing::internal::GetCapturedStderr().empty(), !replies);
-        EXPECT_EQ(planar.gizmo.getProjectionSize(), Vec2f(4, 3));
-        EXPECT_EQ(planar.gizmo.getInitialTextureScale(), Vec3f(2, 2, 2));
-        planar.gizmo.updateManipulator();
-        expectNear(planar.onHandle("scaleXYURShape", Vec3f()), Pnt3f(2, 1.5F, 0), "corner");
-    }
-}
-
-TEST(PlanarTextureManipulator, ReadsFlagAndPictureOfTheComponent)
-{
-    PlanarScene planar;
-    planar.gizmo.setKeepAspectRatio(true);
-    planar.gizmo.prepareManipulator(planar.scene.node);
-    EXPECT_FALSE(planar.gizmo.getKeepAspectRatio());
-    osg::beginEditCP(planar.settings);
-    planar.settings->setPlanarProjectionFlags(1);
-    osg::endEditCP(planar.settings);
-    const osg::ImagePtr image = osg::Image::create();
-    image->set(osg::Image::OSG_RGB_PF, 6, 4);
-    planar.material->setImage("diffuse", image);
-    planar.gizmo.setAspectRatio(7.0F);
-
-    planar.gizmo.prepareManipulator(planar.scene.node);
-    EXPECT_TRUE(planar.gizmo.getKeepAspectRatio());
-    EXPECT_FLOAT_EQ(planar.gizmo.getAspectRatio(), 1.5F);
-}
-
-TEST(PlanarTextureManipulator, IsConnectedToItsMaterialAndComponentOnly)
-{
-    PlanarScene planar;
-    Gizmo& gizmo = planar.gizmo;
-    const osg::RefPtr<osg::UberMaterialPtr> other(osg::UberMaterial::create());
-    EXPECT_TRUE(gizmo.isConnectedToMaterial(planar.material.get()));
-    EXPECT_TRUE(gizmo.isConnectedTo(planar.material.get(), "diffuse"));
-    EXPECT_FALSE(gizmo.isConnectedTo(planar.material.get(), "diffus"));
-    EXPECT_FALSE(gizmo.isConnectedToMaterial(other.get()));
-    EXPECT_EQ(gizmo.getComponentType(), "diffuse");
-    gizmo.setMaterialComponent(osg::MaterialPtr(), "mask", nullptr);
-    EXPECT_FALSE(gizmo.isConnectedToMaterial(osg::MaterialPtr()));
-    EXPECT_FALSE(gizmo.isConnectedToMaterial(planar.material.get()));
 }
 
 TEST(PlanarTextureManipulator, CopiesKeepTheStateAndShareTheHandles)
@@ -476,10 +339,13 @@ TEST(PlanarTextureManipulator, CopiesKeepTheStateAndShareTheHandles)
     {
         Gizmo copy(planar.gizmo);
         EXPECT_TRUE(copy.isConnectedTo(planar.material.get(), "diffuse"));
+        EXPECT_TRUE(copy.isConnectedToMaterial(planar.material.get()));
+        EXPECT_FALSE(copy.isConnectedTo(planar.material.get(), "diffus"));
         EXPECT_EQ(copy.getNode(), planar.scene.node);
         EXPECT_EQ(copy.getMode(), Gizmo::ManipulatorMode::Scale);
         EXPECT_EQ(copy.getVisualisation(), planar.gizmo.getVisualisation());
         copy.setMaterialComponent(osg::MaterialPtr(), "mask", nullptr);
+        EXPECT_FALSE(copy.isConnectedToMaterial(osg::MaterialPtr()));
     }
     EXPECT_EQ(planar.gizmo.getComponentType(), "diffuse");
     EXPECT_TRUE(planar.grab("xsShape", Vec3f(2.5F, 0, 0)));
@@ -507,24 +373,6 @@ TEST(PlanarTextureManipulator, DepthPassSharesCoresAndIsNotHit)
     EXPECT_EQ(gizmo.getActiveMode(), Gizmo::ActiveMode::Rotate);
     planar.scene.manager.removeContext(&planar.scene.context);
     planar.scene.install(planar.gizmo);
-}
-
-TEST(PlanarTextureManipulator, PivotGoesToTheCentreOfTheProjection)
-{
-    PlanarScene planar;
-    planar.edit(planar.core(), [](const osg::Transform3DPtr& node) {
-        node->setRotation(Vec3f(0, 0, 30));
-        node->setScale(Vec3f(2, 1, 1));
-    });
-    planar.edit(planar.projection, [](const osg::Transform3DPtr& projection) {
-        projection->setTranslation(Vec3f(0.5F, -0.25F, 1));
-    });
-    const osg::Matrix before = planar.scene.node->getToWorld();
-
-    EXPECT_TRUE(planar.gizmo.centerPivot());
-    EXPECT_EQ(planar.core()->getRotatePivot(), Vec3f(0.5F, -0.25F, 1));
-    EXPECT_EQ(planar.core()->getScalePivot(), Vec3f(0.5F, -0.25F, 1));
-    EXPECT_TRUE(planar.scene.node->getToWorld().equals(before, kTolerance));
 }
 
 }  // namespace nbec::manipulator::test

@@ -29,54 +29,6 @@ PlateFrame makeFrame(float x, float y, float width, float height, float rotation
         << "(" << point.x() << ", " << point.y() << ") is not (" << x << ", " << y << ")";
 }
 
-TEST(PlateFrame, CornersBelongToTheFramesOwnAxes)
-{
-    const PlateFrame upright = makeFrame(400, 300, 200, 100);
-    EXPECT_TRUE(isAt(cornerOfFrame(upright, PlateCorner::LowerLeft), 300, 350));
-    EXPECT_TRUE(isAt(cornerOfFrame(upright, PlateCorner::UpperRight), 500, 250));
-    // A quarter turn counter-clockwise takes the lower left corner to the lower right of the
-    // screen.
-    const PlateFrame turned = makeFrame(400, 300, 200, 100, 90);
-    EXPECT_TRUE(isAt(cornerOfFrame(turned, PlateCorner::LowerLeft), 450, 400));
-    EXPECT_TRUE(isAt(cornerOfFrame(turned, PlateCorner::UpperLeft), 350, 400));
-}
-
-TEST(PlateFrame, SmallFramesAreDrawnLargeEnoughToGrab)
-{
-    const PlateView dense { 800, 600, 2.0F };
-    const PlateHandles handles = layOutHandles(makeFrame(400, 300, 4, 200), PlateArm::Above, dense);
-    EXPECT_FLOAT_EQ(handles.frame.size.x(), 2 * kPlateLeastSide);
-    EXPECT_FLOAT_EQ(handles.frame.size.y(), 200);
-    EXPECT_TRUE(isAt(handles.knob, 400, 300 - 100 - 2 * kPlateArmLength));
-}
-
-TEST(PlateFrame, TheArmStandsWhereItsKnobIsSeen)
-{
-    struct Row
-    {
-        const char* name;
-        PlateFrame frame;
-        PlateArm arm;
-        float knobX, knobY;
-    };
-
-    const Row rows[] = {
-        { "room above", makeFrame(400, 300, 100, 100), PlateArm::Above, 400,
-          250 - kPlateArmLength },
-        { "at the top", makeFrame(400, 50, 100, 100), PlateArm::Below, 400, 100 + kPlateArmLength },
-        { "fills the view", makeFrame(400, 300, 800, 600), PlateArm::Inside, 400, kPlateArmLength },
-        { "turned at the left", makeFrame(50, 300, 100, 100, 90), PlateArm::Below,
-          100 + kPlateArmLength, 300 },
-        { "out of view", makeFrame(-400, 300, 100, 100), PlateArm::Above, -400,
-          250 - kPlateArmLength },
-    };
-    for (const Row& row : rows) {
-        EXPECT_EQ(chooseArm(row.frame, kView), row.arm) << row.name;
-        EXPECT_TRUE(isAt(layOutHandles(row.frame, row.arm, kView).knob, row.knobX, row.knobY))
-            << row.name;
-    }
-}
-
 TEST(PlateFrame, BoxesOfAFrameBeyondTheViewArePulledIn)
 {
     const float inset = kPlateBoxSize / 2;
@@ -101,57 +53,17 @@ TEST(PlateFrame, MovingSnapsBoxesToEdgesAndCentreLines)
         float x, y;
     };
 
+    const PlateFrame flat = makeFrame(200, 200, 100, 60);
+    const PlateFrame turned = makeFrame(200, 200, 100, 100, 45);
     const float diagonal = 50.0F * std::sqrt(2.0F);
     const Row rows[] = {
-        { "nothing near",
-          makeFrame(200, 200, 100, 60),
-          { 30, 40 },
-          { 30, 40 },
-          false,
-          false,
-          0,
-          0 },
-        { "centre to centre",
-          makeFrame(200, 200, 100, 60),
-          { 193, 107 },
-          { 200, 100 },
-          true,
-          true,
-          400,
-          300 },
-        { "left edge", makeFrame(200, 200, 100, 60), { -142, 0 }, { -150, 0 }, true, false, 0, 0 },
-        { "beyond the reach",
-          makeFrame(200, 200, 100, 60),
-          { -141, 0 },
-          { -141, 0 },
-          false,
-          false,
-          0,
-          0 },
-        { "right and bottom",
-          makeFrame(200, 200, 100, 60),
-          { 551, 374 },
-          { 550, 370 },
-          true,
-          true,
-          800,
-          600 },
-        { "edge to centre line",
-          makeFrame(200, 200, 100, 60),
-          { 147, 0 },
-          { 150, 0 },
-          true,
-          false,
-          400,
-          0 },
-        { "corner of a turned one",
-          makeFrame(200, 200, 100, 100, 45),
-          { -125, 0 },
-          { diagonal - 200, 0 },
-          true,
-          false,
-          0,
-          0 },
+        { "nothing near", flat, { 30, 40 }, { 30, 40 }, false, false, 0, 0 },
+        { "centre to centre", flat, { 193, 107 }, { 200, 100 }, true, true, 400, 300 },
+        { "left edge", flat, { -142, 0 }, { -150, 0 }, true, false, 0, 0 },
+        { "beyond the reach", flat, { -141, 0 }, { -141, 0 }, false, false, 0, 0 },
+        { "right and bottom", flat, { 551, 374 }, { 550, 370 }, true, true, 800, 600 },
+        { "edge to centre line", flat, { 147, 0 }, { 150, 0 }, true, false, 400, 0 },
+        { "corner", turned, { -125, 0 }, { diagonal - 200, 0 }, true, false, 0, 0 },
     };
     for (const Row& row : rows) {
         PlateGuides guides;
@@ -166,48 +78,6 @@ TEST(PlateFrame, MovingSnapsBoxesToEdgesAndCentreLines)
         EXPECT_EQ(change.scaleFactor, 1.0F);
         EXPECT_EQ(change.rotation, 0.0F);
     }
-}
-
-TEST(PlateFrame, ScalingKeepsTheOppositeCornerOrTheCentre)
-{
-    const PlateFrame start = makeFrame(400, 300, 160, 120, 30);
-    for (std::size_t i = 0; i < kPlateCornerCount; ++i) {
-        const auto corner = static_cast<PlateCorner>(i);
-        const auto other = static_cast<PlateCorner>(kPlateCornerCount - 1 - i);
-        const osg::Pnt2f fixed = cornerOfFrame(start, other);
-        const osg::Vec2f diagonal = cornerOfFrame(start, corner) - fixed;
-        const osg::Vec2f across(diagonal.y(), -diagonal.x());
-
-        const PlateChange change =
-            scaleFrame(start, corner, false, diagonal * 0.5F + across * 0.1F, kView, nullptr);
-        const PlateFrame scaled = changedFrame(start, change);
-        EXPECT_NEAR(change.scaleFactor, 1.5F, 1e-5F);
-        EXPECT_TRUE(isAt(cornerOfFrame(scaled, other), fixed.x(), fixed.y()));
-        const osg::Pnt2f reached = fixed + diagonal * 1.5F;
-        EXPECT_TRUE(isAt(cornerOfFrame(scaled, corner), reached.x(), reached.y()));
-
-        const PlateChange central =
-            scaleFrame(start, corner, true, diagonal * 0.5F, kView, nullptr);
-        EXPECT_NEAR(central.scaleFactor, 2.0F, 1e-5F) << "half the diagonal from the centre";
-        EXPECT_EQ(central.offsetPx, osg::Vec2f(0, 0));
-    }
-}
-
-TEST(PlateFrame, ScalingNeverVanishesOrTurnsOver)
-{
-    const PlateFrame start = makeFrame(400, 300, 160, 120);
-    const PlateChange least =
-        scaleFrame(start, PlateCorner::UpperRight, false, osg::Vec2f(-900, 900), kView, nullptr);
-    EXPECT_FLOAT_EQ(least.scaleFactor * 160, 4);
-    const PlateFrame tiny = makeFrame(400, 300, 2, 1);
-    EXPECT_FLOAT_EQ(
-        scaleFrame(tiny, PlateCorner::UpperRight, false, osg::Vec2f(-9, 9), kView, nullptr)
-            .scaleFactor,
-        1)
-        << "what is smaller yet does not jump";
-    const PlateFrame empty = makeFrame(400, 300, 0, 0);
-    EXPECT_EQ(scaleFrame(empty, PlateCorner::UpperRight, false, osg::Vec2f(9, 9), kView, nullptr),
-              PlateChange());
 }
 
 TEST(PlateFrame, AScaledCornerSnapsAlongItsDiagonal)
@@ -229,27 +99,21 @@ TEST(PlateFrame, AScaledCornerSnapsAlongItsDiagonal)
     EXPECT_FALSE(none.hasHorizontal);
 }
 
-TEST(PlateFrame, TurnsAreCounterClockwiseAndCountWholeOnes)
+TEST(PlateFrame, ScalingNeverVanishesOrTurnsOver)
 {
-    const osg::Pnt2f centre(400, 300);
-    const osg::Pnt2f right(500, 300);
-    double angle = 0.0;
-    EXPECT_TRUE(turnBetween(centre, right, osg::Pnt2f(400, 200), angle));
-    EXPECT_NEAR(angle, 90.0, 1e-9) << "from right to up";
-    angle = 350.0;
-    EXPECT_TRUE(turnBetween(centre, right, osg::Pnt2f(500, 299), angle));
-    EXPECT_NEAR(angle, 360.0 + 0.573, 1e-3);
-    angle = 77.0;
-    EXPECT_FALSE(turnBetween(centre, right, osg::Pnt2f(400.3F, 300), angle));
-    EXPECT_EQ(angle, 77.0);
-}
-
-TEST(PlateFrame, SnappedTurnsEndOnMultiplesOfFifteenDegrees)
-{
-    const PlateFrame start = makeFrame(400, 300, 100, 100, 7);
-    EXPECT_FLOAT_EQ(turnFrame(start, 20, false).rotation, 20);
-    EXPECT_FLOAT_EQ(turnFrame(start, 20, true).rotation, 23) << "30 in all";
-    EXPECT_FLOAT_EQ(turnFrame(start, -16, true).rotation, -22) << "-15 in all";
+    const PlateFrame start = makeFrame(400, 300, 160, 120);
+    const PlateChange least =
+        scaleFrame(start, PlateCorner::UpperRight, false, osg::Vec2f(-900, 900), kView, nullptr);
+    EXPECT_FLOAT_EQ(least.scaleFactor * 160, 4);
+    const PlateFrame tiny = makeFrame(400, 300, 2, 1);
+    EXPECT_FLOAT_EQ(
+        scaleFrame(tiny, PlateCorner::UpperRight, false, osg::Vec2f(-9, 9), kView, nullptr)
+            .scaleFactor,
+        1)
+        << "what is smaller yet does not jump";
+    const PlateFrame empty = makeFrame(400, 300, 0, 0);
+    EXPECT_EQ(scaleFrame(empty, PlateCorner::UpperRight, false, osg::Vec2f(9, 9), kView, nullptr),
+              PlateChange());
 }
 
 }  // namespace

@@ -141,23 +141,6 @@ TEST_P(SceneplateDragTest, CornersFollowAndTheOppositeOneStays)
     }
 }
 
-TEST_P(SceneplateDragTest, TheArmFollowsThePointerAboutTheCentre)
-{
-    const osg::NodePtr node = addPlate({ 200, 170, 120, 80, 10 });
-    select({ node });
-    const osg::Pnt2f knob = scene.handlePx("rotateShape");
-    const osg::Vec2f arm = knob - osg::Pnt2f(200, 170);
-    const osg::Vec2f turned(-arm.y(), arm.x());  // a quarter turn clockwise on screen
-    begin();
-    EXPECT_TRUE(scene.drag("rotateShape", turned - arm, false));
-
-    expectNear(scene.handlePx("rotateShape"), osg::Pnt2f(200, 170) + turned, "knob");
-    EXPECT_NEAR(platetest::plateOf(node)->getRotation(), -80.0F, 0.1F);
-    expectNear(exactCorner(node, scene.widget, 0, 0), osg::Pnt2f(200, 170), "centre");
-    release();
-    expectNear(scene.handlePx("rotateShape"), osg::Pnt2f(200, 170) + turned, "knob");
-}
-
 TEST_P(SceneplateDragTest, SeveralPlatesAreOneBodyDuringTheDrag)
 {
     const osg::NodePtr left = addPlate({ 120, 150, 60, 60 });
@@ -183,38 +166,6 @@ TEST_P(SceneplateDragTest, SeveralPlatesAreOneBodyDuringTheDrag)
     expectNear(scene.handlePx("grid"), frame.centre, "upright again");
     expectNear(scene.handlePx("scaleXYURShape"),
                frame.centre + osg::Vec2f(frame.size.x() / 2, -frame.size.y() / 2), "upright again");
-}
-
-TEST_P(SceneplateDragTest, ADragIsOneStepAndCanBeTakenBack)
-{
-    const osg::NodePtr node = addPlate({ 200, 150, 120, 80, 10 });
-    select({ node });
-    const osg::SceneplatePtr plate = platetest::plateOf(node);
-    const osg::Vec2f position = plate->getPosition();
-    begin();
-    EXPECT_TRUE(scene.drag("scaleXYLRShape", osg::Vec2f(40, 20), false));
-    const osg::Vec2f moved = plate->getPosition();
-    EXPECT_NE(moved, position);
-    release();
-
-    EXPECT_TRUE(nbUndoService::the()->undo());
-    EXPECT_FALSE(nbUndoService::the()->undo()) << "one step";
-    EXPECT_EQ(plate->getPosition(), position);
-    EXPECT_EQ(plate->getScale(), 1.0F);
-    scene.manipulator.update(false);
-    expectNear(scene.handlePx("grid"), osg::Pnt2f(200, 150), "frame");
-    EXPECT_TRUE(nbUndoService::the()->redo());
-    EXPECT_EQ(plate->getPosition(), moved);
-    EXPECT_TRUE(nbUndoService::the()->undo());
-
-    begin();
-    EXPECT_TRUE(scene.drag(osg::Pnt2f(200, 150), osg::Vec2f(30, 30), false));
-    scene.manager.cancelDrag();
-    EXPECT_EQ(plate->getPosition(), position);
-    scene.manipulator.update(false);
-    expectNear(scene.handlePx("grid"), osg::Pnt2f(200, 150), "frame");
-    EXPECT_FALSE(scene.send("process", osg::Pnt2f(250, 250)));
-    EXPECT_EQ(plate->getPosition(), position);
 }
 
 TEST_P(SceneplateDragTest, HandlesWinOverThePickToolWhichSelectsBesideThem)

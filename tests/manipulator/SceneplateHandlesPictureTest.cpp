@@ -124,26 +124,6 @@ TEST_F(SceneplateHandlesPictureTest, HandlesHaveOneSizeInEveryWindow)
     }
 }
 
-TEST_F(SceneplateHandlesPictureTest, HandlesOfATurnedPlateLieOverEverything)
-{
-    open(800, 600);
-    const osg::NodePtr node = scene->addPlate({ 400, 300, 300, 160, 30 });
-    scene->manipulator.setNodes({ node });
-    for (const bool isFront : { true, false }) {
-        const osg::SceneplatePtr plate = platetest::plateOf(node);
-        {
-            const nbEdit edit(plate, osg::FieldBits::AllFields);
-            plate->setFront(isFront);
-        }
-        const QImage picture = draw();
-        for (const osg::Pnt2f& corner : scene->corners(node)) {
-            expectColor(picture, corner.x(), corner.y(), kYellow);
-        }
-        const osg::Pnt2f knob = scene->handlePx("rotateShape");
-        expectColor(picture, knob.x(), knob.y(), kBlue);
-    }
-}
-
 TEST_F(SceneplateHandlesPictureTest, GrabbedHandleAndGuidesAreSeen)
 {
     open(800, 600);
@@ -161,19 +141,6 @@ TEST_F(SceneplateHandlesPictureTest, GrabbedHandleAndGuidesAreSeen)
     const osg::Pnt2f knob = scene->handlePx("rotateShape");
     expectColor(picture, knob.x(), knob.y(), kOrange);
     EXPECT_GT(knob.x(), 450) << "turned along";
-}
-
-TEST_F(SceneplateHandlesPictureTest, HandlesOfAPlateThatFillsTheWindowAreInside)
-{
-    open(640, 480);
-    scene->manipulator.setNodes({ scene->addPlate({ 320, 240, 640, 480 }) });
-    const QImage picture = draw();
-    for (const float x : { 0.5F, 9.5F, 630.5F, 639.5F }) {
-        for (const float y : { 0.5F, 9.5F, 470.5F, 479.5F }) {
-            expectColor(picture, x, y, kYellow);
-        }
-    }
-    expectColor(picture, 320, 32, kBlue);
 }
 
 }  // namespace

@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <memory>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -181,6 +182,8 @@ TEST(TireProjectionManipulator, SetsShowTheirHandles)
 
 TEST(TireProjectionManipulator, WhatWasSetByHandIsNotFittedAgain)
 {
+    const Names changedAndResumed = { kChanged, "setMatRenderEnabled", "updateMatRender" };
+
     const struct
     {
         const char* handle;
@@ -189,17 +192,9 @@ TEST(TireProjectionManipulator, WhatWasSetByHandIsNotFittedAgain)
         Names stop;
         bool autoParameter;
     } rows[] = {
-        { "radiusShape",
-          true,
-          true,
-          { kChanged, "setMatRenderEnabled", "updateMatRender" },
-          false },
-        { "scaleUShape", true, true, { kChanged, "setMatRenderEnabled", "updateMatRender" }, true },
-        { "scaleUShape",
-          true,
-          false,
-          { kChanged, "setMatRenderEnabled", "updateMatRender" },
-          false },
+        { "radiusShape", true, true, changedAndResumed, false },
+        { "scaleUShape", true, true, changedAndResumed, true },
+        { "scaleUShape", true, false, changedAndResumed, false },
         { "radiusShape", false, true, { "setMatRenderEnabled", "updateMatRender" }, false },
     };
 
@@ -243,6 +238,29 @@ TEST(TireProjectionManipulator, LengthsAreToldAndNeverFallBelowAThousandthOfThei
     EXPECT_FLOAT_EQ(attribute<float>(at.last(), "ScaleHeight"), 0.003F);
     EXPECT_TRUE(at.drag.release());
     EXPECT_EQ(manager->getTextCount(), 0U);
+}
+
+TEST(TireProjectionManipulator, ANewSizeReachesTheSharedInstanceAtOnceAndOthersLater)
+{
+    Tire tire;
+    tire.at.look(Camera::Front, false);
+    Gizmo::createInstance();
+    Gizmo::createInstance();
+    const std::unique_ptr<Gizmo> shared(Gizmo::getInstance());
+    shared->setAnchor(tire.at.scene.node, Pnt3f(0, 0, 0));
+    shared->setMaterialComponent(tire.at.material.get(), "diffuse", nullptr);
+    const auto sizeOf = [](Gizmo& gizmo) {
+        return findNode(gizmo.getVisualisation(), "xaShape")->getParent()->getToWorld()[0][0];
+    };
+    const float before = sizeOf(tire.gizmo);
+
+    Gizmo::setManipulatorSize(116.0F);  // half of the divisor that 32 gives
+
+    EXPECT_NEAR(sizeOf(*shared), 2 * before, kTolerance);
+    EXPECT_NEAR(sizeOf(tire.gizmo), before, kTolerance);
+    Gizmo::updateAllManipulators();
+    EXPECT_NEAR(sizeOf(tire.gizmo), 2 * before, kTolerance);
+    Gizmo::setManipulatorSize(32.0F);
 }
 
 }  // namespace nbec::manipulator::test

@@ -281,25 +281,6 @@ TEST(TriplanarTextureManipulatorDrag, TheBoxInTheMiddleScalesAllAHundredTimesMor
     }
 }
 
-TEST(TriplanarTextureManipulatorDrag, TheFrameIsThatOfTheNodeInWorldUnits)
-{
-    for (const bool isMirrored : { false, true }) {
-        Triplanar triplanar;
-        AnchorScene& at = triplanar.at;
-        at.edit(at.parentCore(), [](const auto& parent) { parent->setScale(Vec3f(3, 3, 3)); });
-        at.edit(at.core(), [isMirrored](const auto& node) {
-            node->setRotation(Vec3f(0, 0, 90));
-            node->setScale(Vec3f(isMirrored ? -1.0F : 1.0F, 2, 0.5F));
-        });
-        // The node's x axis points up, or down if mirrored, and so does the arrow.
-        ASSERT_TRUE(at.grab("xaShape", Vec3f(1.9F, 0, 0)));
-        EXPECT_TRUE(at.drag.dragBy(Vec2f(10, -36)));
-        const float shift = (isMirrored ? -36.0F : 36.0F) / kPxPerUnit / 100.0F;
-        expectPair(at.last(), "YOffset", Vec2f(0.2F - shift, 0.5F), 1e-5F);
-        expectPair(at.last(), "ZOffset", Vec2f(0.3F - shift, 0.6F), 1e-5F);
-    }
-}
-
 TEST(TriplanarTextureManipulatorDrag, ValuesComeFromTheEditorObjectBeforeTheMaterial)
 {
     Triplanar triplanar;
@@ -365,17 +346,6 @@ TEST(TriplanarTextureManipulatorDrag, PausesThePreviewFromTheFirstStepToTheStop)
     EXPECT_EQ(at.takeNames(), (Names { "setMatRenderEnabled", "updateMatRender" }));
     EXPECT_FALSE(at.drag.release());
     EXPECT_TRUE(at.log.empty());
-}
-
-TEST(TriplanarTextureManipulatorDrag, InTheInitialSetTheHandlesComeBackToo)
-{
-    Gizmo gizmo;
-    AnchorScene at(gizmo, "::changedTriplanarManipulator",
-                   osg::ColorComponentSettings::TriplanarProjection);
-    ASSERT_TRUE(at.grab("xaShape", Vec3f(1.9F, 0, 0)));
-    EXPECT_FALSE(isShown(at.handle("yaShape")));
-    EXPECT_TRUE(at.drag.release());
-    EXPECT_TRUE(isShown(at.handle("yaShape")));
 }
 
 TEST(TriplanarTextureManipulatorDrag, WhatIsDeletedDuringADragEndsIt)

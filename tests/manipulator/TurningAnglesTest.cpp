@@ -13,14 +13,6 @@ namespace nbec::manipulator::detail {
 
 namespace {
 
-nbQuaterniond turnAbout(double x, double y, double z, double angleRad)
-{
-    const double scale = std::sin(angleRad / 2) / std::sqrt(x * x + y * y + z * z);
-    nbQuaterniond result;
-    result.setValueAsQuat(x * scale, y * scale, z * scale, std::cos(angleRad / 2));
-    return result;
-}
-
 double greatestDifference(const nbEulerAngles& a, const nbEulerAngles& b)
 {
     return std::max({ std::abs(a.x - b.x), std::abs(a.y - b.y), std::abs(a.z - b.z) });
@@ -47,21 +39,25 @@ TEST(TurningAngles, FollowTheRotationAsTheLongWayDoes)
     for (int order = 0; order < nbEulerUtils::kOrderCount; ++order) {
         SCOPED_TRACE(nbEulerUtils::getStringFromOrder(order));
         for (int way = 0; way < 50; ++way) {
+            const osg::Vec3f axis(static_cast<float>(number(random)),
+                                  static_cast<float>(number(random)),
+                                  static_cast<float>(number(random)));
             nbEulerAngles expected { 3.0, -2.0, 7.0, order };
-            TurningAngles angles(expected);
-            const double x = number(random);
-            const double y = number(random);
-            const double z = number(random);
+            nbQuaterniond rotation = nbEulerUtils::QuatFromEul(expected);
+            TurningAngles angles(expected, axis);
+            double whole = 0.0;
             for (int i = 0; i < 200; ++i) {
                 // Mostly small turns, some that are not.
                 const double angle = number(random) * (i % 10 == 0 ? 1.0 : 0.05) + 0.03;
-                const nbQuaterniond step = turnAbout(x, y, z, angle);
+                whole += angle;
+                const nbQuaterniond step = turnAbout(axis, angle);
                 expected = nbEulerUtils::multiply(nbEulerUtils::EulFromQuat(step, order), expected);
-                angles.turn(step);
+                rotation = nbRotationMath::product(step, rotation);
+                angles.turnTo(TurnAngle(whole));
                 ASSERT_LT(greatestDifference(angles.getAngles(), expected), 1e-8);
-                ASSERT_LT(greatestDifference(nbEulerUtils::QuatFromEul(angles.getAngles()),
-                                             angles.getRotation()),
-                          1e-12);
+                ASSERT_LT(
+                    greatestDifference(nbEulerUtils::QuatFromEul(angles.getAngles()), rotation),
+                    1e-12);
             }
         }
     }
@@ -69,10 +65,10 @@ TEST(TurningAngles, FollowTheRotationAsTheLongWayDoes)
 
 TEST(TurningAngles, GoSmoothlyThroughTheEndsOfTheMiddleAngle)
 {
-    TurningAngles angles(nbEulerAngles { 0.0, 0.0, 0.0, 0 });
+    TurningAngles angles(nbEulerAngles { 0.0, 0.0, 0.0, 0 }, osg::Vec3f(0.F, 1.F, 0.F));
     const double step = 0.01;
     for (int i = 1; i <= 1000; ++i) {
-        angles.turn(turnAbout(0, 1, 0, step));
+        angles.turnTo(TurnAngle(i * step));
         ASSERT_NEAR(angles.getAngles().y, i * step, 1e-9) << "whole turns are counted";
         ASSERT_NEAR(angles.getAngles().x, 0.0, 1e-6);
         ASSERT_NEAR(angles.getAngles().z, 0.0, 1e-6);
@@ -81,11 +77,20 @@ TEST(TurningAngles, GoSmoothlyThroughTheEndsOfTheMiddleAngle)
 
 TEST(TurningAngles, StayExactOverManySteps)
 {
-    TurningAngles angles(nbEulerAngles { 0.3, 0.4, 0.5, 2 });
+    const nbEulerAngles start { 0.3, 0.4, 0.5, 2 };
+    TurningAngles angles(start, osg::Vec3f(1.F, 2.F, 3.F));
     for (int i = 0; i < 100000; ++i) {
-        angles.turn(turnAbout(1, 2, 3, i % 2 == 0 ? 0.05 : -0.05));
+        angles.turnTo(TurnAngle(i % 2 == 0 ? 0.05 : 0.0));
     }
-    EXPECT_LT(greatestDifference(angles.getAngles(), nbEulerAngles { 0.3, 0.4, 0.5, 2 }), 1e-10);
+    EXPECT_LT(greatestDifference(angles.getAngles(), start), 1e-10);
+}
+
+TEST(TurningAngles, StayAboutAnAxisWithoutLength)
+{
+    const nbEulerAngles start { 0.3, 0.4, 0.5, 2 };
+    TurningAngles angles(start, osg::Vec3f());
+    angles.turnTo(TurnAngle(1.0));
+    EXPECT_LT(greatestDifference(angles.getAngles(), start), 1e-15);
 }
 
 }  // namespace nbec::manipulator::detail

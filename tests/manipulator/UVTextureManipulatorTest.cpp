@@ -9,9 +9,6 @@
 #include <nbKernel/nbController.h>
 #include <nbOpenSGUberMaterial/nbStateChunkBase.h>
 #include <nbOpenSGUtils/nbEdit.h>
-#include <nbOpenSGUtils/nbNodeUtils.h>
-
-#include <OpenSG/OSGGeometry.h>
 
 #include <gtest/gtest.h>
 
@@ -163,32 +160,6 @@ TEST_P(UVHandles, HaveTheirModeColoursHighlightAndSets)
 }
 
 INSTANTIATE_TEST_SUITE_P(UVTextureManipulator, UVHandles, testing::ValuesIn(kHandles));
-
-TEST(UVTextureManipulator, MaterialsAreThoseOfTheHandles)
-{
-    UV uv;
-
-    const struct
-    {
-        const char* handle;
-        int sortKey;
-    } rows[] = {
-        { "xaShape", 64016 }, { "xsShape", 64015 }, { "rotateShape", 64016 }, { "grid", 64015 }
-    };
-
-    for (const auto& row : rows) {
-        const auto geometry =
-            osg::GeometryPtr::dcast(uv.at.handle(row.handle)->getChild(0)->getCore());
-        const auto material = osg::SimpleMaterialPtr::dcast(geometry->getMaterial());
-        EXPECT_FLOAT_EQ(material->getTransparency(), 0.001F) << row.handle;
-        EXPECT_EQ(material->getSortKey(), row.sortKey) << row.handle;
-        EXPECT_FALSE(material->getLit()) << row.handle;
-    }
-    const osg::NodePtr root = uv.gizmo.getVisualisation();
-    EXPECT_TRUE(nbNodeUtils::isAuxiliaryNode(root));
-    EXPECT_TRUE(nbNodeUtils::isSelectableAuxiliaryNode(root));
-    EXPECT_TRUE(nbNodeUtils::isManipulatorNode(root));
-}
 
 TEST(UVTextureManipulator, TheHandlesFaceTheViewerAndKeepTheirSizeOnScreen)
 {

@@ -4,7 +4,6 @@
 
 #include <nbKernel/nbController.h>
 #include <nbKernel/nbScenegraph.h>
-#include <nbKernelServices/nbUndoService.h>
 #include <nbNotification/NotificationManager.h>
 #include <nbOpenSGUberCamera/UberCamera.h>
 #include <nbOpenSGUtils/nbNodePermission.h>
@@ -253,22 +252,6 @@ TEST(SeveralNodes, ADestroyedOneIsPassedOverAndTheRestGoesOn)
     EXPECT_NEAR(drags.core()->getTranslation().x(), kStep, 2e-4F);
 }
 
-TEST(SeveralNodes, AreOneUndoStep)
-{
-    DragScene drags;
-    const osg::NodePtr further = drags.addFurther(Vec3f(3, 0, 0));
-    drags.gizmo.setNode(drags.scene.node, { further });
-    nbUndoService::the()->beginGroup();
-    ASSERT_TRUE(drags.grab(kArrow));
-    EXPECT_TRUE(drags.dragBy(Vec2f(72, 0)));
-    EXPECT_TRUE(drags.release());
-    nbUndoService::the()->endGroup();
-    EXPECT_TRUE(nbUndoService::the()->undo());
-    EXPECT_FALSE(nbUndoService::the()->undo());
-    EXPECT_EQ(drags.core()->getTranslation(), Vec3f(0, 0, 0));
-    EXPECT_EQ(translationOf(further), Vec3f(3, 0, 0));
-}
-
 // == On-screen text
 
 TEST(DragText, ShowsTheEditedValuesAndGoesWithTheDrag)
@@ -369,23 +352,6 @@ TEST(BrokenDrags, ANodeTakenOutOfTheSceneStays)
     EXPECT_FALSE(drags.dragBy(Vec2f(20, 0)));
     EXPECT_EQ(drags.core()->getTranslation(), before);
     EXPECT_TRUE(drags.release());
-}
-
-TEST(BrokenDrags, AViewWithoutSizeMovesNothing)
-{
-    DragScene drags;
-    for (const Vec3f& handle : { kArrow, Vec3f(0.25F, 0.25F, 0) }) {
-        ASSERT_TRUE(drags.grab(handle));
-        EXPECT_TRUE(drags.dragBy(Vec2f(10, 0)));
-        const Vec3f before = drags.core()->getTranslation();
-        drags.scene.widget.resize(0, 0);
-        EXPECT_TRUE(drags.dragBy(Vec2f(20, 0)));
-        EXPECT_EQ(drags.core()->getTranslation(), before);
-        drags.scene.widget.resize(800, 600);
-        EXPECT_TRUE(drags.dragBy(Vec2f(10, 0)));
-        EXPECT_LT((drags.core()->getTranslation() - before).length(), 1e-5F);
-        EXPECT_TRUE(drags.release());
-    }
 }
 
 TEST(BrokenDrags, WithoutAMainViewNothingMoves)

@@ -120,6 +120,49 @@ TEST_F(UniversalTransformManipulator2Test, KeepsItsSizeOnScreen)
     EXPECT_NEAR(scaleOf().y(), std::sqrt(width * width + height * height) / 20, 1e-4);
 }
 
+TEST_F(UniversalTransformManipulator2Test, IsPlacedWithAllOthersWhateverHappenedBetween)
+{
+    const osg::NodePtr tree = root()->getChild(3)->getChild(0);
+    const osg::NodePtr elsewhere = osg::makeCoredNode<osg::Transform3D>();
+    nbScenegraph::getRootNode()->addChild(elsewhere);
+    const osg::NodeRefPtr alone(osg::makeCoredNode<osg::Transform3D>());
+    const auto moveOf = [](const osg::NodePtr& node, float x) {
+        return [node, x] {
+            const auto transform = osg::Transform3DPtr::dcast(node->getCore());
+            osg::beginEditCP(transform, osg::Transform3D::TranslationFieldMask);
+            transform->setTranslation(osg::Vec3f(x, 0, 0));
+            osg::endEditCP(transform, osg::Transform3D::TranslationFieldMask);
+        };
+    };
+    const std::vector<std::function<void()>> between {
+        [] {},
+        [] {},
+        moveOf(elsewhere, 1.F),
+        [&] { gizmo.setNode(elsewhere); },
+        [] {},
+        moveOf(elsewhere, 2.F),
+        [] { Gizmo::setLocalSpaceManipulator(true); },
+        [&] { gizmo.setNode(alone.get()); },
+        moveOf(alone.get(), 3.F),
+        [] { Gizmo::setManipulatorSize(64.F); },
+    };
+    float distance = 10.F;
+    for (std::size_t i = 0; i < between.size(); ++i) {
+        SCOPED_TRACE(i);
+        between[i]();
+        distance += 1.F;
+        scene.widget.getUberCamera()->setFromAtUp(osg::Pnt3f(0, 0, distance), osg::Pnt3f(0, 0, 0),
+                                                  osg::Vec3f(0, 1, 0));
+        Gizmo::updateAllManipulators();
+        const osg::Matrix placed = tree->getToWorld();
+        gizmo.update(true);
+        EXPECT_TRUE(placed == tree->getToWorld());
+    }
+    Gizmo::setLocalSpaceManipulator(false);
+    Gizmo::setManipulatorSize(32.F);
+    gizmo.setNode(scene.node);
+}
+
 TEST_F(UniversalTransformManipulator2Test, FollowsTheNodeAndCostsNothingWhileItRests)
 {
     gizmo.activateUniversalManipulator();

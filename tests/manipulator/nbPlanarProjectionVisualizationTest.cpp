@@ -358,24 +358,6 @@ TEST_F(PlanarProjectionPictureTest, ThePictureShowsThroughTheObjectWithItsRightW
     expectColor(rendertest::kRed, at(picture, 1.5f, 0.f));
 }
 
-TEST_F(PlanarProjectionPictureTest, AMaskCoversWhereItIsBrightOrInvertedWhereItIsDark)
-{
-    const osg::RefPtr<osg::ImagePtr> image(makeImage(osg::Image::OSG_RGB_PF, { 0, 0, 0 }));
-    for (int i = 0; i < 16; ++i) {
-        if (i % 4 >= 2) {
-            std::fill_n(image->getData() + 3 * i, 3, osg::UInt8(255));
-        }
-    }
-
-    const QImage plain = drawOverWall(image.get(), true, false);
-    expectColor(rendertest::kRed, at(plain, -0.75f, 0.f));
-    EXPECT_LT(at(plain, 0.75f, 0.f).red(), 100);
-
-    const QImage inverted = drawOverWall(image.get(), true, true);
-    expectColor(rendertest::kRed, at(inverted, 0.75f, 0.f));
-    EXPECT_LT(at(inverted, -0.75f, 0.f).red(), 100);
-}
-
 TEST_F(PlanarProjectionPictureTest, OutlineAndZExtentAreLinesThatCanBeSeenFromTheSide)
 {
     camera->setFromAtUp({ 10.f, 0.f, 0.f }, { 0.f, 0.f, 0.f }, { 0.f, 1.f, 0.f });

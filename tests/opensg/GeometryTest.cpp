@@ -173,20 +173,6 @@ TEST(Geometry, CloneHasItsOwnPropertiesAndTheSameMaterial)
     EXPECT_EQ(ContainerCensus::take().count("Geometry"), before.count("Geometry"));
 }
 
-TEST(GeoProperty, GenericValuesAreConvertedToWhatIsStored)
-{
-    const RefPtr<GeoColors4ubPtr> bytes(GeoColors4ub::create());
-    bytes->addValue(Color3f(1.f, 0.5f, 2.f));
-    EXPECT_EQ(bytes->getField()[0][1], 128);
-    EXPECT_EQ(bytes->getField()[0][2], 255);
-    EXPECT_EQ(bytes->getField()[0][3], 255) << "opaque";
-    EXPECT_NEAR(bytes->getValue(0).green(), 128.f / 255.f, kTolerance);
-
-    const RefPtr<GeoPositions4fPtr> points(GeoPositions4f::create());
-    points->addValue(Pnt3f(1.f, 2.f, 3.f));
-    EXPECT_EQ(points->getField()[0], Pnt4f(1.f, 2.f, 3.f, 1.f));
-}
-
 TEST(Iterators, SplitEveryKindOfPrimitive)
 {
     const std::vector<Pnt3f> points(6);
@@ -221,23 +207,6 @@ TEST(Iterators, SplitEveryKindOfPrimitive)
         EXPECT_EQ(cornersFrom(geometry->beginFaces()), row.faces) << row.name;
         EXPECT_EQ(cornersFrom(geometry->beginLines()), row.lines) << row.name;
     }
-}
-
-TEST(Iterators, SeekingGoesWhereCountingGoes)
-{
-    const RefPtr<GeometryPtr> box(makeBoxGeo(1.f, 1.f, 1.f, 2, 2, 2));
-    TriangleIterator sought((GeometryPtr(box)));
-    EXPECT_TRUE(sought.isAtEnd()) << "not at the first element yet";
-
-    Int32 number = 0;
-    for (TriangleIterator it = box->beginTriangles(); it != box->endTriangles(); ++it, ++number) {
-        sought.seek(number);
-        EXPECT_TRUE(sought == it) << number;
-        EXPECT_EQ(sought.getPositionIndex(2), it.getPositionIndex(2));
-    }
-    EXPECT_EQ(number, 48);
-    sought.seek(number);
-    EXPECT_TRUE(sought == box->endTriangles());
 }
 
 TEST(SimpleGeometry, SolidsAreClosedAndEncloseTheirVolume)

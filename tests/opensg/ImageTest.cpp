@@ -101,17 +101,6 @@ TEST(Image, ScalesInPlaceByCoverage)
     EXPECT_EQ(image->getData()[0], 2);
 }
 
-TEST(Image, TakesItsOwnDataAndItself)
-{
-    const RefPtr<ImagePtr> image = ramp(Image::OSG_L_PF, 4, 2);
-
-    EXPECT_TRUE(image->set(Image::OSG_LA_PF, 2, 2, 1, 1, 1, 0.0, image->getData()));
-    EXPECT_TRUE(image->set(image));
-
-    EXPECT_EQ(image->getComponents(), 2);
-    EXPECT_EQ(image->getData()[7], 7);
-}
-
 TEST(Image, OtherComponentTypesAreStoredButNotConverted)
 {
     const RefPtr<ImagePtr> image(Image::create());

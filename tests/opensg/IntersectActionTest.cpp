@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <OpenSG/OSGGroup.h>
 #include <OpenSG/OSGIntersectAction.h>
 #include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGQuaternion.h>
@@ -130,28 +129,6 @@ TEST(IntersectAction, SwitchShowsOnlyItsChoice)
         action->apply(root);
         EXPECT_FLOAT_EQ(action->getHitT(), row.t) << row.choice;
     }
-}
-
-TEST(IntersectAction, SharedCoresTellTheNodesApart)
-{
-    const RefPtr<NodePtr> root(makeCoredNode<Group>());
-    TransformPtr transform;
-    const NodePtr moved = makeCoredNode<Transform>(&transform);
-    const NodePtr box = makeBox(1.f, 1.f, 1.f, 1, 1, 1);
-    const NodePtr twin = makeNodeFor(box->getCore());
-    Matrix m;
-    m.setTranslate(5.f, 0.f, 0.f);
-    transform->setMatrix(m);
-    root->addChild(box);
-    root->addChild(moved);
-    moved->addChild(twin);
-    const std::unique_ptr<IntersectAction> action(
-        IntersectAction::create(Line(Pnt3f(5.1f, 0.2f, 10.f), Vec3f(0.f, 0.f, -1.f))));
-
-    action->apply(root);
-
-    EXPECT_EQ(action->getHitObject(), twin);
-    EXPECT_EQ(action->getHitPoint(), Pnt3f(5.1f, 0.2f, 0.5f));
 }
 
 TEST(IntersectAction, FlatSubtreesAndZeroDirectionsAreMissed)

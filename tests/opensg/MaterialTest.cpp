@@ -4,11 +4,9 @@
 #include <OpenSG/OSGChunkMaterial.h>
 #include <OpenSG/OSGContainerCensus.h>
 #include <OpenSG/OSGDefaultMaterials.h>
-#include <OpenSG/OSGDepthChunk.h>
 #include <OpenSG/OSGImage.h>
 #include <OpenSG/OSGLineChunk.h>
 #include <OpenSG/OSGMaterialChunk.h>
-#include <OpenSG/OSGPolygonChunk.h>
 #include <OpenSG/OSGRefPtr.h>
 #include <OpenSG/OSGSHLChunk.h>
 #include <OpenSG/OSGSimpleMaterial.h>
@@ -63,43 +61,6 @@ protected:
 
 }  // namespace
 
-TEST_F(Materials, LaterChunkOfAKindReplacesTheEarlierOneInTheState)
-{
-    const RefPtr<ChunkMaterialPtr> material(ChunkMaterial::create());
-    const LineChunkPtr thin = LineChunk::create();
-    const LineChunkPtr thick = LineChunk::create();
-    const DepthChunkPtr depth = DepthChunk::create();
-
-    material->addChunk(thin);
-    material->addChunk(depth);
-    material->addChunk(thick);
-
-    const StatePtr state = material->getState();
-    EXPECT_TRUE(inForce<LineChunk>(state) == thick);
-    EXPECT_TRUE(inForce<DepthChunk>(state) == depth);
-    EXPECT_FALSE(state->chunkPresent(PolygonChunk::getStaticClassId()));
-
-    material->subChunk(thick);
-    EXPECT_TRUE(inForce<LineChunk>(material->getState()) == thin);
-}
-
-TEST_F(Materials, SlotsOfAKindAreKeptApart)
-{
-    const RefPtr<ChunkMaterialPtr> material(ChunkMaterial::create());
-    const TextureChunkPtr base = TextureChunk::create();
-    const TextureChunkPtr detail = TextureChunk::create();
-    const TextureChunkPtr third = TextureChunk::create();
-
-    material->addChunk(detail, 1);
-    material->addChunk(base);
-    material->addChunk(third, State::AutoSlot);
-
-    const StatePtr state = material->getState();
-    EXPECT_TRUE(inForce<TextureChunk>(state, 0) == base);
-    EXPECT_TRUE(inForce<TextureChunk>(state, 1) == detail);
-    EXPECT_TRUE(inForce<TextureChunk>(state, 2) == third);
-}
-
 TEST_F(Materials, StateRefusesSlotsThatTheKindDoesNotHave)
 {
     const RefPtr<StatePtr> state(State::create());
@@ -115,27 +76,6 @@ TEST_F(Materials, StateRefusesSlotsThatTheKindDoesNotHave)
     EXPECT_FALSE(state->subChunk(second));
     EXPECT_TRUE(state->subChunk(first));
     EXPECT_FALSE(state->chunkPresent(LineChunk::getStaticClassId()));
-}
-
-TEST_F(Materials, SimpleMaterialHasItsColoursAsAChunkAndBlendsOnlyWhenTransparent)
-{
-    const RefPtr<SimpleMaterialPtr> material(SimpleMaterial::create());
-    material->setDiffuse(Color3f(1.f, 0.5f, 0.25f));
-    material->setLit(false);
-
-    EXPECT_TRUE(inForce<MaterialChunk>(material->getState())->getDiffuse() ==
-                Color4f(1.f, 0.5f, 0.25f, 1.f));
-    EXPECT_FALSE(inForce<MaterialChunk>(material->getState())->getLit());
-    EXPECT_TRUE(inForce<BlendChunk>(material->getState()) == NullFC);
-
-    beginEditCP(material, SimpleMaterial::TransparencyFieldMask);
-    material->setTransparency(0.75f);
-    endEditCP(material, SimpleMaterial::TransparencyFieldMask);
-
-    EXPECT_FLOAT_EQ(inForce<MaterialChunk>(material->getState())->getDiffuse().alpha(), 0.25f);
-    ASSERT_TRUE(inForce<BlendChunk>(material->getState()) != NullFC);
-    EXPECT_EQ(inForce<BlendChunk>(material->getState())->getDestFactor(),
-              GLenum(GL_ONE_MINUS_SRC_ALPHA));
 }
 
 TEST_F(Materials, AddedChunksReplaceTheBuiltInOnes)

@@ -113,32 +113,6 @@ TEST(ChangeCount, CountsEndedEditsOnly)
     EXPECT_EQ(getTreeChangeCount(NullFC), 0u);
 }
 
-TEST_F(TreeChangeCount, MovesForEditsOfNodesAndCoresBelowAndForNoOtherTree)
-{
-    struct Row
-    {
-        const char* what;
-        std::function<void()> action;
-    };
-
-    const NodePtr extra = makeCoredNode<Group>();
-    const Row rows[] = {
-        { "matrix", [&] { endEditCP(transform, Transform::MatrixFieldMask); } },
-        { "mask", [&] { endEditCP(leaf, Node::TravMaskFieldMask); } },
-        { "material of a group",
-          [&] { endEditCP(materialGroup, MaterialGroup::MaterialFieldMask); } },
-        { "child added", [&] { leaf->addChild(extra); } },
-        { "core replaced", [&] { extra->setCore(Transform::create()); } },
-        { "edit of a new core", [&] { endEditCP(extra->getCore()); } },
-        { "child taken off", [&] { leaf->subChild(extra); } },
-    };
-    for (const Row& row : rows) {
-        const Moves moves = after(row.action);
-        EXPECT_TRUE(moves.tree) << row.what;
-        EXPECT_FALSE(moves.otherTree) << row.what;
-    }
-}
-
 TEST_F(TreeChangeCount, MovesInBothTreesWhenANodeMovesOver)
 {
     const Moves moves = after([&] { other->addChild(leaf); });
@@ -146,6 +120,74 @@ TEST_F(TreeChangeCount, MovesInBothTreesWhenANodeMovesOver)
     EXPECT_TRUE(moves.tree);
     EXPECT_TRUE(moves.otherTree);
     EXPECT_FALSE(after([&] { endEditCP(leaf); }).tree);
+}
+
+TEST_F(TreeChangeCount, MovesForWhatIsAboveTheEditHoweverSeldomAnyoneLooks)
+{
+    std::mt19937 random(5);
+    std::vector<NodeRefPtr> nodes { root };
+    for (int i = 1; i < 60; ++i) {
+        const bool sharesCore = i % 5 == 0;
+        nodes.emplace_back(sharesCore ? makeNodeFor(nodes[random() % nodes.size()]->getCore())
+                                      : makeCoredNode<Group>());
+        nodes[random() % (nodes.size() - 1)]->addChild(nodes.back());
+    }
+    std::vector<UInt64> seen(nodes.size(), 0);
+    std::vector<bool> isEdited(nodes.size(), true);
+    const auto noteEdit = [&](const NodePtr& at) {
+        for (std::size_t i = 0; i < nodes.size(); ++i) {
+            isEdited[i] = isEdited[i] || isBelow(at, nodes[i]);
+        }
+    };
+    for (int step = 0; step < 20000; ++step) {
+        const std::size_t index = random() % nodes.size();
+        const NodePtr node = nodes[index];
+        const NodePtr target = nodes[random() % nodes.size()];
+        switch (random() % 6) {
+        case 0:
+            for (const NodePtr& user : node->getCore()->getParents()) {
+                noteEdit(user);
+            }
+            endEditCP(node->getCore());
+            break;
+        case 1:
+            noteEdit(node);
+            endEditCP(node);
+            break;
+        case 2:
+            if (node != root && !isBelow(target, node)) {
+                noteEdit(node);
+                target->addChild(node);
+                noteEdit(node);
+            }
+            break;
+        default:
+            ASSERT_EQ(node->getSubtreeChangeCount() != seen[index], isEdited[index]) << step;
+            seen[index] = node->getSubtreeChangeCount();
+            isEdited[index] = false;
+        }
+    }
+}
+
+TEST_F(TreeChangeCount, OfTheSceneMovesForAllThatHangsInATreeAndForNothingThatStandsAlone)
+{
+    const auto moves = [](const std::function<void()>& action) {
+        const UInt64 before = getSceneEditCount();
+        action();
+        return getSceneEditCount() != before;
+    };
+    const TransformPtr beacon = Transform::create();
+    const NodeRefPtr alone(makeNodeFor(beacon));
+    NodeRefPtr extra(makeCoredNode<Group>());
+
+    EXPECT_FALSE(moves([&] { endEditCP(beacon, Transform::MatrixFieldMask); }));
+    EXPECT_FALSE(moves([&] { endEditCP(materialGroup->getMaterial()); }));
+    EXPECT_TRUE(moves([&] { endEditCP(transform, Transform::MatrixFieldMask); }));
+    EXPECT_TRUE(moves([&] { alone->addChild(extra); }));
+    EXPECT_TRUE(moves([&] { endEditCP(beacon, Transform::MatrixFieldMask); })) << "moves its child";
+    EXPECT_TRUE(moves([&] { alone->subChild(extra); }));
+    EXPECT_TRUE(moves([&] { extra = NullFC; }));
+    EXPECT_TRUE(moves([&] { leaf->setCore(NullFC); }));
 }
 
 TEST_F(TreeChangeCount, MovesForMaterialsButNeitherForCamerasNorForReading)

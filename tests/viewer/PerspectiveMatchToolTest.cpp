@@ -214,23 +214,6 @@ TEST_F(PerspectiveMatchToolTest, ALockedCameraStaysAndHiddenLinesCannotBeGrabbed
     EXPECT_EQ(steps(), 1);
 }
 
-TEST_F(PerspectiveMatchToolTest, LinesStayOnThePhotographInViewsOfAnyShape)
-{
-    ASSERT_TRUE(run("setActive", true));
-    ASSERT_TRUE(run("setLinesType", "xz"));
-    const CameraPose before = stage.pose();
-    for (const auto& [width, height] : { std::pair(501, 333), std::pair(333, 777) }) {
-        stage.resize(width, height, 1.0F);
-
-        ASSERT_TRUE(run("solve"));
-
-        EXPECT_LT(stage.pose().from.dist(before.from), 2e-3F) << width;
-        EXPECT_NEAR(stage.pose().fovDeg, before.fovDeg, 1e-2F) << width;
-        send(names::kStop, dragOut("z1b", 7.0F, 0.0F));
-        EXPECT_TRUE(stage.undo());
-    }
-}
-
 TEST_F(PerspectiveMatchToolTest, APhotographIsTakenWhenItIsDroppedAndGoesWithTheScene)
 {
     QTemporaryDir folder;

@@ -174,26 +174,6 @@ TEST_F(Plates, ClicksSelectByTheirModifiers)
     EXPECT_EQ(stepCount(), 3) << "only the plates added";
 }
 
-TEST_F(Plates, RectanglesSelectWhatLiesInsideWhicheverWayTheyAreDrawn)
-{
-    drag({ 470, 350 }, { 90, 90 });
-    EXPECT_EQ(selected(), QStringList({ "red", "blue" }));
-    click({ 700, 500 });
-    run("plates.select", QJsonArray());
-    drag({ 300, 230 }, { 460, 360 });
-    EXPECT_EQ(selected(), QStringList { "blue" });
-
-    run("plates.select", QJsonArray());
-    press({ 300, 230 });
-    move({ 380, 300 });
-    move({ 460, 360 });
-    EXPECT_TRUE(stage().view().getRectSelection());
-    key(Qt::Key_Escape);
-    EXPECT_FALSE(stage().view().getRectSelection());
-    release({ 460, 360 });
-    EXPECT_EQ(selected(), QStringList()) << "cancelled";
-}
-
 TEST_F(Plates, BodyMovesTheSelectionInOneStepAndEscTakesItBack)
 {
     drag({ 470, 350 }, { 90, 90 });

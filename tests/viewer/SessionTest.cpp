@@ -96,6 +96,7 @@ TEST(Session, SaysWhatIsWrongAndWhere)
         { R"({"session": 1, "size": [640, 480], "camera": {"from": [0,0,0], "at": [0,0,0], "up": [0,1,0]}, "steps": []})",
           "camera: from and at are the same point" },
         { withSteps(R"({"type": "jump"})"), "steps[0].type: unknown type \"jump\"" },
+        { withSteps(R"({"type": "two\nlines"})"), "steps[0].type: unknown type \"two lines\"" },
         { withSteps(R"({"type": "move"})"), "steps[0]: \"at\" is missing" },
         { withSteps(R"({"type": "move", "at": [1, "2"]})"),
           "steps[0].at: expected an array of 2 numbers" },

@@ -32,44 +32,6 @@ double enclosedVolume(const MeshData& mesh)
     return sum / 6.0;
 }
 
-TEST(Shapes, BallHasItsVolumeAndNormalsOutwards)
-{
-    constexpr float kRadius = 2.0F;
-
-    const MeshData ball = makeBall(kRadius);
-
-    EXPECT_NEAR(enclosedVolume(ball), 4.0 / 3.0 * M_PI * 8.0, 0.3);
-    for (std::size_t i = 0; i < ball.positions.size(); ++i) {
-        const Vec3& p = ball.positions[i];
-        const Vec3& n = ball.normals[i];
-        ASSERT_NEAR((p[0] * n[0] + p[1] * n[1] + p[2] * n[2]) / kRadius, 1.0, 1e-2) << i;
-    }
-}
-
-TEST(Shapes, LatheOfARectangleIsACylinder)
-{
-    // Corners given twice stay edges: bottom, wall and top are three smooth parts.
-    const MeshData cylinder =
-        makeLathe({ { 0, 0 }, { 1, 0 }, { 1, 0 }, { 1, 3 }, { 1, 3 }, { 0, 3 } }, 64);
-
-    EXPECT_NEAR(enclosedVolume(cylinder), 3.0 * M_PI, 0.03);
-    for (std::size_t i = 0; i < cylinder.normals.size(); ++i) {
-        const Vec3& n = cylinder.normals[i];
-        ASSERT_TRUE(std::abs(std::abs(n[1]) - 1.0F) < 1e-3F || std::abs(n[1]) < 1e-3F) << i;
-    }
-}
-
-TEST(Shapes, KnotIsClosedAndTurnsOutwards)
-{
-    constexpr float kTube = 0.2F;
-
-    const MeshData knot = makeTorusKnot(1.0F, kTube);
-
-    // A tube's volume is its section times its length, and the spine is longer than two turns.
-    EXPECT_GT(enclosedVolume(knot), M_PI * kTube * kTube * 4.0 * M_PI);
-    EXPECT_LT(enclosedVolume(knot), M_PI * kTube * kTube * 8.0 * M_PI);
-}
-
 TEST(Shapes, StartSceneStandsOnItsTableWithUnitNormals)
 {
     const ModelData scene = makeStartScene();

@@ -7,6 +7,8 @@
 #include <nbOpenSGRenderAction/nbOffscreenView.h>
 
 #include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
 
 #include "support/GuiTest.h"
 
@@ -61,6 +63,37 @@ private:
     std::size_t lastFrame = 0;
 };
 
+QByteArray textOf(const QString& path)
+{
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+    return file.readAll();
+}
+
+/// What a session made looks the same, and is the same, after saving and opening.
+void checkThatTheSceneSurvivesSaving(MainWindow& window)
+{
+    QString error;
+    Stage& stage = window.view().stage();
+    const auto plainPicture = [&] {
+        stage.setActiveTool(nullptr);
+        stage.showGizmo(Gizmo::None);
+        stage.select(osg::NullFC);
+        return window.view().takePicture(error);
+    };
+    const QTemporaryDir folder;
+    const QString first = folder.filePath("first.nbscene");
+    const QString second = folder.filePath("second.nbscene");
+    const QImage before = plainPicture();
+
+    ASSERT_TRUE(stage.commands().run("scene.save", first, error)) << error.toStdString();
+    ASSERT_TRUE(stage.commands().run("scene.open", first, error)) << error.toStdString();
+
+    EXPECT_EQ(plainPicture(), before);
+    ASSERT_TRUE(stage.commands().run("scene.save", second, error)) << error.toStdString();
+    EXPECT_EQ(textOf(second), textOf(first));
+}
+
 class ShippedSessions : public GuiTest, public testing::WithParamInterface<std::string>
 { };
 
@@ -90,6 +123,7 @@ TEST_P(ShippedSessions, MeetTheirCheckpoints)
     EXPECT_EQ(check.differences, 0) << "of " << check.frames << " frames";
     EXPECT_GT(check.frames, 0);
     window.view().disconnect();
+    checkThatTheSceneSurvivesSaving(window);
 }
 
 std::string testName(const testing::TestParamInfo<std::string>& info)

@@ -70,13 +70,6 @@ protected:
     Stage stage;
 };
 
-TEST_F(StageWithStartScene, ShowsTheGizmoOnItsMainObject)
-{
-    EXPECT_EQ(stage.selectedName(), kStartSceneMainObject);
-    EXPECT_EQ(stage.gizmo().shown(), Gizmo::Universal);
-    ASSERT_NE(stage.gizmo().handles(), osg::NodePtr());
-}
-
 TEST_F(StageWithStartScene, EveryNamedHandleCanBeAimedAtAndIsHovered)
 {
     for (const char* handle :

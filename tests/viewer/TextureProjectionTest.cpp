@@ -144,38 +144,6 @@ TEST_F(TextureProjectionTest, DragsOfTheOtherGizmosArriveAndAreTold)
     EXPECT_EQ(value("texture.tireFit"), QJsonValue(true)) << "the whole drag is one step";
 }
 
-TEST_F(TextureProjectionTest, AClickPlacesTheHandlesOnTheSurfaceAlone)
-{
-    ASSERT_TRUE(run("texture.projection", "triplanar"));
-    ASSERT_TRUE(run("texture.place", true));
-    const QJsonValue before = value("texture.anchor");
-    const int stepsBefore = steps();
-    const osg::Pnt2f px = placeOf(SessionTarget::Kind::Node, "Column") + osg::Vec2f(8, 60);
-
-    EXPECT_EQ(stage.handles(), osg::NullFC);
-    EXPECT_EQ(view.getCursor(), Qt::CrossCursor);
-    EXPECT_TRUE(send("start", { 3.F, 3.F }));
-    send("stop", { 3.F, 3.F });
-    EXPECT_EQ(stage.selectedName(), "Column") << "a click beside it";
-    EXPECT_TRUE(tool.isPlacing());
-    EXPECT_EQ(value("texture.anchor"), before);
-    EXPECT_TRUE(send("start", px));
-    send("stop", px);
-
-    nbec::interaction::Picker picker;
-    picker.pickAt(px);
-    EXPECT_TRUE(tool.anchor()->equals(picker.getHitPoint(), kTolerance));
-    EXPECT_FALSE(tool.isPlacing());
-    EXPECT_EQ(view.getCursor(), Qt::ArrowCursor);
-    EXPECT_NE(stage.handles(), osg::NullFC);
-    EXPECT_EQ(steps(), stepsBefore);
-    stage.update();
-    EXPECT_EQ(stage.handleAt(px), "grid") << "the handles are not there";
-    EXPECT_FALSE(run("texture.anchor", QJsonArray { 3, 3 }));
-    stage.selectByName("Vase");
-    EXPECT_TRUE(value("texture.anchor").isNull());
-}
-
 TEST_F(TextureProjectionTest, ValuesAreWhatWasTypedAndEachEditIsAStep)
 {
     const struct
@@ -220,31 +188,6 @@ TEST_F(TextureProjectionTest, ValuesAreWhatWasTypedAndEachEditIsAStep)
     EXPECT_NE(stage.handleAt(fitted), "radiusShape") << "the handles stayed behind";
     ASSERT_TRUE(run("texture.tireFit", true));
     EXPECT_EQ(value("texture.tireRadius"), fittedRadius);
-}
-
-TEST_F(TextureProjectionTest, SizesOfHandlesGoByTheGizmo)
-{
-    const auto widthOf = [this](const char* handle, const char* other) {
-        stage.update();
-        return (placeOf(SessionTarget::Kind::Handle, handle) -
-                placeOf(SessionTarget::Kind::Handle, other))
-            .length();
-    };
-    ASSERT_TRUE(run("texture.projection", "uv"));
-    ASSERT_TRUE(run("texture.handles", "universal"));
-    const double present = value("texture.handleSize").toDouble();
-    const float before = widthOf("grid", "xyaShape");
-    ASSERT_TRUE(run("texture.handleSize", 1.5 * present));
-    EXPECT_NEAR(widthOf("grid", "xyaShape") / before, 1.5F, 0.1F);
-    ASSERT_TRUE(run("texture.handleSize", present));
-    EXPECT_FALSE(run("texture.handleSize", 32)) << "a size of another gizmo";
-
-    ASSERT_TRUE(run("texture.projection", "triplanar"));
-    EXPECT_EQ(value("texture.handleSize"), QJsonValue(32));
-    EXPECT_FALSE(run("texture.handleSize", 200)) << "infinite";
-    EXPECT_FALSE(run("texture.handleSize", -1));
-    EXPECT_FALSE(run("texture.handleSize", "large"));
-    EXPECT_EQ(value("texture.handleSize"), QJsonValue(32));
 }
 
 TEST_F(TextureProjectionTest, BadInputIsOneLineAndChangesNothing)

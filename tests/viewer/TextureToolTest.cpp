@@ -97,28 +97,6 @@ TEST_F(TextureToolTest, ClicksPlaceThePictureAndOneTakesBackTheWholeDrag)
     EXPECT_EQ(view.getCursor(), Qt::ArrowCursor);
 }
 
-TEST_F(TextureToolTest, ADragOfAHandleIsOneStepAndMovesThePictureWithThePointer)
-{
-    ASSERT_TRUE(drop("Vase"));
-    ASSERT_TRUE(run("texture.handles", "translate"));
-    stage.update();
-    const osg::Pnt2f handle = placeOf(SessionTarget::Kind::Handle, "xyaShape");
-    const osg::Vec3f before = tool.target().projection()->getTranslation();
-    EXPECT_EQ(stage.handleAt(handle), "xyaShape");
-
-    ASSERT_TRUE(send("start", handle));
-    send("process", handle + osg::Vec2f(12, -8));
-    EXPECT_EQ(stage.draggedValues().rfind("Picture at (", 0), 0U) << stage.draggedValues();
-    send("stop", handle + osg::Vec2f(12, -8));
-
-    EXPECT_EQ(steps(), 2);
-    EXPECT_FALSE(tool.target().projection()->getTranslation().equals(before, 0.01F));
-    stage.update();
-    EXPECT_EQ(stage.handleAt(handle + osg::Vec2f(12, -8)), "xyaShape") << "it stayed behind";
-    ASSERT_TRUE(stage.undo());
-    EXPECT_TRUE(tool.target().projection()->getTranslation().equals(before, kTolerance));
-}
-
 TEST_F(TextureToolTest, ASharedGeometryGetsThePictureOnOneOfItsObjectsAlone)
 {
     ModelData model;

@@ -197,24 +197,6 @@ TEST_F(TransformTools, AnInterruptedDragKeepsWhatItDidAsAStep)
     release();
 }
 
-TEST_F(TransformTools, ADragBackToItsStartLeavesNoStep)
-{
-    // The first drag of all makes the object a transform with its pivot in the middle.
-    drag("yaShape", 0.0, -10.0);
-    release();
-    auto* list = window.findChild<QUndoView*>(QStringLiteral("undoList"));
-    ASSERT_EQ(list->model()->rowCount(), 2);
-
-    const osg::Vec3f before = placeOf("Knot");
-    drag("xaShape", 8.0, 2.0);
-    moveBy(-16.0, -4.0);
-    moveBy(-16.0, -4.0);
-    release();
-
-    EXPECT_EQ(placeOf("Knot"), before);
-    EXPECT_EQ(list->model()->rowCount(), 2);
-}
-
 TEST_F(TransformTools, ValuesAreShownOverTheViewAndInTheStatusLine)
 {
     action("gizmoTranslate")->trigger();

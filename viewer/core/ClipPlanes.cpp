@@ -86,25 +86,18 @@ osg::NodePtr makeOutline(float edge)
 
 osg::NodePtr makeFrame(const osg::Pnt3f& centre, const osg::Vec3f& keep, float outlineEdge)
 {
-    osg::Transform3DPtr core = osg::Transform3D::create();
-    {
-        const nbEdit edit(core, osg::FieldBits::AllFields);
-        core->setTranslation(centre.subZero());
-        osg::Quaternion turn(osg::Vec3f(0.F, 1.F, 0.F), keep);
-        if (keep[1] < 0.F) {
-            // Half a turn: two opposite directions do not say about what.
-            turn.setValueAsAxisDeg(osg::Vec3f(1.F, 0.F, 0.F), 180.F);
-        }
-        core->setRotation(turn);
-        // Angles are what a person reads and types.
-        core->setRotation(core->getRotation());
+    const osg::NodePtr frame = makeClipFrame(outlineEdge);
+    const auto core = osg::Transform3DPtr::dcast(frame->getCore());
+    const nbEdit edit(core, osg::FieldBits::AllFields);
+    core->setTranslation(centre.subZero());
+    osg::Quaternion turn(osg::Vec3f(0.F, 1.F, 0.F), keep);
+    if (keep[1] < 0.F) {
+        // Half a turn: two opposite directions do not say about what.
+        turn.setValueAsAxisDeg(osg::Vec3f(1.F, 0.F, 0.F), 180.F);
     }
-    osg::NodePtr frame = osg::makeNodeFor(core);
-    nbNodeUtils::setName(frame, kName);
-    const osg::NodePtr outline = makeOutline(outlineEdge);
-    nbNodeUtils::setIsAuxiliaryNode(outline, true);
-    const nbEdit edit(frame, osg::Node::ChildrenFieldMask);
-    frame->addChild(outline);
+    core->setRotation(turn);
+    // Angles are what a person reads and types.
+    core->setRotation(core->getRotation());
     return frame;
 }
 
@@ -157,12 +150,7 @@ osg::NodePtr addClipPlane(const osg::Vec3f& away)
     const osg::Vec3f size = bounds.getMax() - bounds.getMin();
     const osg::NodePtr frame =
         makeFrame(bounds.getMin() + size * 0.5F, -nearestAxis(away), size.length() * kOutlineSize);
-    osg::ClipPlane3DPtr core;
-    const osg::NodePtr plane = osg::makeCoredNode<osg::ClipPlane3D>(&core);
-    {
-        const nbEdit edit(core, osg::FieldBits::AllFields);
-        core->setTransformNode(frame);
-    }
+    const osg::NodePtr plane = makeClipPlane(frame);
     const nbScopedUndo scope(Text::tr("Add clip plane"));
     nbUndoService::the()->record(
         std::make_unique<nbChildrenRecord>(std::vector<osg::NodePtr> { root, plane }));
@@ -191,6 +179,36 @@ bool removeClipPlane(const osg::NodePtr& frame)
     const nbEdit frameEdit(frameParent, osg::Node::ChildrenFieldMask);
     frameParent->subChild(frame);
     return true;
+}
+
+osg::NodePtr makeClipFrame(float outlineEdge)
+{
+    const osg::NodePtr frame = osg::makeNodeFor(osg::Transform3D::create());
+    nbNodeUtils::setName(frame, kName);
+    const osg::NodePtr outline = makeOutline(outlineEdge);
+    nbNodeUtils::setIsAuxiliaryNode(outline, true);
+    const nbEdit edit(frame, osg::Node::ChildrenFieldMask);
+    frame->addChild(outline);
+    return frame;
+}
+
+float clipOutlineEdge(const osg::NodePtr& frame)
+{
+    const bool hasOutline = frame->getNChildren() > 0;
+    const auto outline =
+        hasOutline ? osg::GeometryPtr::dcast(frame->getChild(0)->getCore()) : osg::GeometryPtr();
+    const bool hasCorners = outline != osg::NullFC && outline->getPositions() != osg::NullFC &&
+        outline->getPositions()->getSize() > 0;
+    return hasCorners ? 2.F * std::abs(outline->getPositions()->getValue(0)[0]) : 0.F;
+}
+
+osg::NodePtr makeClipPlane(const osg::NodePtr& frame)
+{
+    osg::ClipPlane3DPtr core;
+    const osg::NodePtr plane = osg::makeCoredNode<osg::ClipPlane3D>(&core);
+    const nbEdit edit(core, osg::FieldBits::AllFields);
+    core->setTransformNode(frame);
+    return plane;
 }
 
 bool isClipPlaneOrFrame(const osg::NodePtr& node)

@@ -24,6 +24,16 @@ osg::NodePtr addClipPlane(const osg::Vec3f& away);
 /// @return false if it is no frame of a plane
 bool removeClipPlane(const osg::NodePtr& frame);
 
+// == Parts, for scenes that are read
+
+/// The frame of a plane, at the origin, not in the scene.
+/// @param outlineEdge  of the square that shows the plane, > 0
+osg::NodePtr makeClipFrame(float outlineEdge);
+/// Edge of the square in a frame; 0 for another node.
+float clipOutlineEdge(const osg::NodePtr& frame);
+/// A plane with a frame, not in the scene; cuts what is hung below it.
+osg::NodePtr makeClipPlane(const osg::NodePtr& frame);
+
 /// Whether a node has a clip plane as its core or is the frame of one.
 bool isClipPlaneOrFrame(const osg::NodePtr& node);
 

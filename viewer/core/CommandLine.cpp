@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/core/CommandLine.h"
 
+#include "viewer/core/SceneFile.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QImageWriter>
 #include <QRegularExpression>
+
+#include <algorithm>
 
 namespace viewer {
 namespace {
@@ -86,6 +90,10 @@ bool parseFlag(const QString& argument, CommandLine& options)
 {
     if (argument == QLatin1String("--help") || argument == QLatin1String("-h")) {
         options.helpWanted = true;
+        return true;
+    }
+    if (argument == QLatin1String("--tour")) {
+        options.tourWanted = true;
         return true;
     }
     if (argument == QLatin1String("--version")) {
@@ -185,6 +193,12 @@ bool parseCommandLine(const QStringList& arguments, CommandLine& options, QStrin
 
 bool checkCommandLine(const CommandLine& options, QString& error)
 {
+    const bool isScene = std::any_of(options.files.begin(), options.files.end(), &isSceneFileName);
+    if (isScene && options.files.size() > 1) {
+        error =
+            QStringLiteral("%1: a scene can only be opened by itself").arg(options.files.first());
+        return false;
+    }
     for (const QString& file : options.files) {
         if (!isReadableFile(file, error)) {
             return false;
@@ -205,8 +219,13 @@ QString commandLineHelp()
     return QStringLiteral(
                "usage: nbviewer [files] [options]\n"
                "  files                    models (OBJ, PLY, STL, glTF, GLB, 3DS, ...) and images "
-               "to open\n"
+               "to open,\n"
+               "                           or one scene (.nbscene)\n"
                "  --session file.json      replay a session, then quit\n"
+               "  --tour                   replay all shipped sessions with captions, then quit;\n"
+               "                           Space pauses, Right goes on to the next, Esc quits; "
+               "with\n"
+               "                           --output without a person, as pictures\n"
                "  --screenshot out.png     write a picture of the 3D view, then quit\n"
                "  --output folder          where the pictures of a session go (default: here)\n"
                "  --size WxH               size of the 3D view in pixels, each edge from %1 to %2\n"

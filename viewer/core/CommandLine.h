@@ -25,11 +25,16 @@ struct CommandLine
         outputFolder;  ///< where the pictures of a session's checkpoints go; empty: working folder
     std::optional<Language> language;  ///< none: that of the settings; English if nobody is there
     QSize sizePx;  ///< size of the 3D view, device pixels; invalid: the window decides
+    bool tourWanted = false;  ///< replay all shipped sessions
     bool helpWanted = false;
     bool versionWanted = false;
 
     /// Whether the program runs by itself and ends by itself: nobody is there to answer a question.
-    bool isUnattended() const { return !session.isEmpty() || !screenshot.isEmpty(); }
+    bool isUnattended() const
+    {
+        return !session.isEmpty() || !screenshot.isEmpty() ||
+            (tourWanted && !outputFolder.isEmpty());
+    }
 };
 
 /// Reads the arguments after the program's name.

@@ -5,6 +5,7 @@
 #include <QJsonDocument>
 
 #include <cmath>
+#include <limits>
 
 namespace viewer {
 namespace {
@@ -20,11 +21,47 @@ QString placeInText(const QByteArray& text, int offset)
     return QStringLiteral("line %1, column %2").arg(line).arg(column);
 }
 
+/// A number as exactJson() writes it; not finite if it is none of the type.
+template <class Number>
+Number exactNumber(const QJsonValue& value)
+{
+    if (value == QJsonValue(QStringLiteral("-0"))) {
+        return Number(-0.0);
+    }
+    const double read = value.isDouble() ? value.toDouble() : NAN;
+    const bool isInRange = std::abs(read) <= double(std::numeric_limits<Number>::max());
+    return isInRange ? static_cast<Number>(read) : std::numeric_limits<Number>::quiet_NaN();
+}
+
+template <class Number>
+bool readExactArray(const QJsonValue& value, Number* numbers, int count)
+{
+    const QJsonArray array = value.toArray();
+    bool areNumbers = value.isArray() && array.size() == count;
+    for (int i = 0; areNumbers && i < count; ++i) {
+        numbers[i] = exactNumber<Number>(array.at(i));
+        areNumbers = std::isfinite(numbers[i]);
+    }
+    return areNumbers;
+}
+
+/// What is quoted from a file may have several lines, or be very long.
+QString oneLine(QString text)
+{
+    constexpr int kLongest = 400;
+    for (QChar& letter : text) {
+        if (!letter.isPrint() && !letter.isSurrogate()) {
+            letter = QLatin1Char(' ');
+        }
+    }
+    return text.size() > kLongest ? text.left(kLongest) + QStringLiteral("...") : text;
+}
+
 }  // namespace
 
 bool JsonReader::fail(const QString& path, const QString& what)
 {
-    error = path.isEmpty() ? what : path + QStringLiteral(": ") + what;
+    error = oneLine(path.isEmpty() ? what : path + QStringLiteral(": ") + what);
     return false;
 }
 
@@ -52,6 +89,24 @@ bool JsonReader::readNumbers(const QJsonValue& value, const QString& path, doubl
         }
     }
     return true;
+}
+
+bool JsonReader::readExact(const QJsonValue& value, const QString& path, float* numbers, int count)
+{
+    return readExactArray(value, numbers, count) ||
+        fail(path, QStringLiteral("expected an array of %1 numbers").arg(count));
+}
+
+bool JsonReader::readExact(const QJsonValue& value, const QString& path, double* numbers, int count)
+{
+    return readExactArray(value, numbers, count) ||
+        fail(path, QStringLiteral("expected an array of %1 numbers").arg(count));
+}
+
+bool JsonReader::readExact(const QJsonValue& value, const QString& path, float& number)
+{
+    number = exactNumber<float>(value);
+    return std::isfinite(number) || fail(path, QStringLiteral("expected a number"));
 }
 
 bool JsonReader::readString(const QJsonValue& value, const QString& path, QString& text)

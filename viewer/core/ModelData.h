@@ -60,6 +60,8 @@ struct NodeData
 /// A model as read from a file or made by code: values only, so that any thread may make one.
 struct ModelData
 {
+    QString file;  ///< absolute, that it was read from; empty for one made by code
+    QString builtIn;  ///< name of one that the program brings along; else empty
     std::vector<MaterialData> materials;
     std::vector<MeshData> meshes;
     NodeData root;

@@ -197,6 +197,7 @@ std::optional<ModelData> readModelFile(const QString& path, const ReadProgress& 
             : readWithImporter(path, progress, error);
         if (model) {
             model->root.name = info.completeBaseName();
+            model->file = info.absoluteFilePath();
         }
         return model;
     } catch (const std::exception& problem) {

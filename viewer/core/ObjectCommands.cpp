@@ -34,7 +34,7 @@ void collectChildObjects(const osg::NodePtr& node, std::vector<osg::NodePtr>& ob
         if (nbNodeUtils::isAuxiliaryNode(child)) {
             continue;
         }
-        if (objectOf(child) == child) {
+        if (nbNodeUtils::resolveToTransformNode(child) == child) {
             objects.push_back(child);
         } else {
             collectChildObjects(child, objects);

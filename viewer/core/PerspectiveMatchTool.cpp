@@ -106,13 +106,18 @@ bool PerspectiveMatchTool::setPhotograph(const QString& file, QString& error)
             return false;
         }
     }
+    setPhotograph(image.get());
+    return true;
+}
+
+void PerspectiveMatchTool::setPhotograph(const osg::ImagePtr& image)
+{
     const osg::UberViewportPtr viewport = stage.view().getUberViewport();
     {
         const nbEdit edit(viewport, osg::UberViewport::PhotographFieldMask);
-        viewport->setPhotograph(image.get());
+        viewport->setPhotograph(image);
     }
     stage.view().update();
-    return true;
 }
 
 QString PerspectiveMatchTool::photograph() const
@@ -279,8 +284,7 @@ void PerspectiveMatchTool::leavePointer()
 
 void PerspectiveMatchTool::sceneCleared()
 {
-    QString none;
-    setPhotograph({}, none);
+    setPhotograph(osg::ImagePtr());
     setVeil(kUsualVeil);
     showLines(true);
     const nbScopedUndo muted(false);
@@ -360,7 +364,8 @@ std::string PerspectiveMatchTool::draggedValues() const
 bool PerspectiveMatchTool::takePicture(const QString& file, const osg::Pnt2f& /*px*/,
                                        QString& error)
 {
-    return active && setPhotograph(file, error);
+    // As a command, so that it becomes part of a recording.
+    return active && stage.commands().run(QStringLiteral("match.setPhotograph"), file, error);
 }
 
 }  // namespace viewer

@@ -7,6 +7,8 @@
 #include <nbInteraction/Picker.h>
 #include <nbKernelServices/nbdCameraNode.h>
 
+#include <OpenSG/OSGImage.h>
+
 #include <QObject>
 
 #include <functional>
@@ -44,6 +46,8 @@ public:
     /// Shows a picture file behind the scene; "" shows none.
     /// @return false with one line in `error`, nothing changed
     bool setPhotograph(const QString& file, QString& error);
+    /// Shows an image; null shows none.
+    void setPhotograph(const osg::ImagePtr& image);
     /// Its name without folder, "" for none.
     QString photograph() const;
 
@@ -61,6 +65,11 @@ public:
     bool areLinesShown() const { return linesShown; }
 
     void showLines(bool on);
+
+    /// Whether the lines have been laid in this scene.
+    bool areLinesLaid() const { return linesLaid; }
+
+    void setLinesLaid(bool laid) { linesLaid = laid; }
 
     /// Lays the lines as the camera sees a box at its pivot, as one step.
     /// @return false with one line in `error` if the camera is locked

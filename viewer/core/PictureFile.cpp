@@ -32,14 +32,19 @@ osg::RefPtr<osg::ImagePtr> readPicture(const QString& file, QString& error)
                                  Qt::SmoothTransformation);
     }
     osg::RefPtr<osg::ImagePtr> image(nbImageConvert::toImage(picture));
-    osg::setName(image.get(), QFileInfo(file).fileName().toStdString());
+    osg::setName(image.get(), QFileInfo(file).absoluteFilePath().toStdString());
     return image;
+}
+
+QString pictureFile(const osg::ImagePtr& image)
+{
+    const char* name = image == osg::NullFC ? nullptr : osg::getName(image);
+    return QString::fromUtf8(name);
 }
 
 QString pictureName(const osg::ImagePtr& image)
 {
-    const char* name = image == osg::NullFC ? nullptr : osg::getName(image);
-    return QString::fromUtf8(name);
+    return QFileInfo(pictureFile(image)).fileName();
 }
 
 QString pictureFileFilter()

@@ -10,9 +10,12 @@
 namespace viewer {
 
 /// Reads a picture file in any format that Qt knows, upright, for use on a surface. Very large ones
-/// are scaled down to what any graphics card takes. The image is named after the file.
+/// are scaled down to what any graphics card takes. The image is named with the whole path.
 /// @return null with one line in `error`
 osg::RefPtr<osg::ImagePtr> readPicture(const QString& file, QString& error);
+
+/// Absolute path of the file that an image was read from; "" for null and other images.
+QString pictureFile(const osg::ImagePtr& image);
 
 /// Name of the file that an image was read from, without folder; "" for null and other images.
 QString pictureName(const osg::ImagePtr& image);

@@ -3,18 +3,12 @@
 
 #include <QJsonArray>
 
-#include <array>
 #include <cmath>
 
 namespace viewer {
 namespace {
 
 using osg::Sceneplate;
-
-/// By Sceneplate::AnchorPlace.
-constexpr std::array<const char*, 9> kAnchors { "bottomLeft", "bottom", "bottomRight",
-                                                "left",       "centre", "right",
-                                                "topLeft",    "top",    "topRight" };
 
 /// Larger numbers are no plates that a person could see.
 constexpr double kMost = 1000.0;
@@ -133,15 +127,15 @@ const std::vector<PlateField>& plateFields()
 
 QString anchorName(osg::Int32 anchor)
 {
-    const bool isKnown = anchor >= 0 && anchor < static_cast<osg::Int32>(kAnchors.size());
+    const bool isKnown = anchor >= 0 && anchor < static_cast<osg::Int32>(kAnchorNames.size());
     const osg::Int32 place = isKnown ? anchor : osg::Int32(Sceneplate::Centre);
-    return QLatin1String(kAnchors.at(static_cast<std::size_t>(place)));
+    return QLatin1String(kAnchorNames.at(static_cast<std::size_t>(place)));
 }
 
 std::optional<osg::Int32> anchorFromName(const QString& name)
 {
-    for (std::size_t i = 0; i < kAnchors.size(); ++i) {
-        if (name == QLatin1String(kAnchors.at(i))) {
+    for (std::size_t i = 0; i < kAnchorNames.size(); ++i) {
+        if (name == QLatin1String(kAnchorNames.at(i))) {
             return static_cast<osg::Int32>(i);
         }
     }

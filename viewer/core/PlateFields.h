@@ -7,6 +7,7 @@
 #include <QJsonValue>
 #include <QString>
 
+#include <array>
 #include <optional>
 #include <vector>
 
@@ -25,6 +26,11 @@ struct PlateField
 
 /// All that are set by themselves, in the order of a panel; name and anchor are not among them.
 const std::vector<PlateField>& plateFields();
+
+/// Words for the places of the view, by Sceneplate::AnchorPlace.
+constexpr std::array<const char*, 9> kAnchorNames { "bottomLeft", "bottom", "bottomRight",
+                                                    "left",       "centre", "right",
+                                                    "topLeft",    "top",    "topRight" };
 
 /// Word for a place of the view, such as "topLeft"; "centre" for an unknown one.
 QString anchorName(osg::Int32 anchor);

@@ -153,7 +153,8 @@ osg::NodePtr buildScene(const ModelData& model)
 
 BuiltModel buildModel(const ModelData& model)
 {
-    return { osg::RefPtr<osg::NodePtr>(buildScene(model)), model.triangleCount(), model.warnings };
+    return { osg::RefPtr<osg::NodePtr>(buildScene(model)), model.triangleCount(), model.warnings,
+             model.file, model.builtIn };
 }
 
 osg::NodePtr objectOf(const osg::NodePtr& node)

@@ -20,6 +20,8 @@ struct BuiltModel
     osg::RefPtr<osg::NodePtr> root;  ///< never null
     std::size_t triangles = 0;
     QStringList warnings;  ///< those of the model
+    QString file;  ///< as ModelData::file
+    QString builtIn;  ///< as ModelData::builtIn
 };
 
 /// Makes the nodes of a model, as buildScene(), and keeps what else is to be known of it.

@@ -73,6 +73,7 @@ struct SessionStep
         KeyPress,
         KeyRelease,
         Command,  ///< one of Commands
+        Caption,  ///< a text over the view from now on; without a title none
         Checkpoint,
     };
 
@@ -83,7 +84,8 @@ struct SessionStep
     int wheelDelta = 0;  ///< eighths of a degree, positive away from the person
     QString key;  ///< portable name such as "5", "Esc" or "F"
     int afterMs = 0;  ///< pause before the step when a session is shown to a person
-    QString name;  ///< of a checkpoint or a command
+    QString name;  ///< of a checkpoint or a command; title of a caption
+    QString text;  ///< of a caption: what is being shown
     QJsonValue value;  ///< for a command
     bool screenshot = false;
     SessionExpectation expectation;
@@ -136,10 +138,14 @@ bool readSessionTarget(const QJsonValue& value, const QString& path, SessionTarg
 /// @param error  one line that begins with the file's name
 std::optional<Session> readSessionFile(const QString& path, QString& error);
 
-/// Text of a session as parseSession() reads it; ends with a newline.
+/// Text of a session as parseSession() reads it; ends with a newline. Each step is one line, and
+/// numbers have as few digits as give them back, so that the same session gives the same bytes and
+/// an edit of it changes its own lines alone.
 QByteArray sessionText(const Session& session);
 
-/// Writes a session file; an existing one is replaced only when everything was written.
+/// Writes a session file; an existing one is replaced only when everything was written. Models, and
+/// files that are named in commands, are named from its folder, so that the session can be handed
+/// on with them.
 /// @return false with one line in `error`
 bool writeSessionFile(const QString& path, const Session& session, QString& error);
 

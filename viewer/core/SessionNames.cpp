@@ -25,6 +25,7 @@ constexpr Word<Type> kTypes[] = {
     { "keyPress", Type::KeyPress },
     { "keyRelease", Type::KeyRelease },
     { "command", Type::Command },
+    { "caption", Type::Caption },
     { "checkpoint", Type::Checkpoint },
 };
 

@@ -3,9 +3,9 @@
 #include "viewer/core/JsonReader.h"
 #include "viewer/core/Session.h"
 #include "viewer/core/SessionNames.h"
+#include "viewer/core/TextFile.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonObject>
@@ -275,6 +275,9 @@ bool Reader::checkStep(const QJsonObject& object, const QString& path, const Ses
         return (!step.name.isEmpty() || fail(path, QStringLiteral("\"name\" is missing"))) &&
             (!isPath || fail(path + ".name", QStringLiteral("may not be a path")));
     }
+    case Type::Caption:
+        return !step.name.isEmpty() || step.text.isEmpty() ||
+            fail(path, QStringLiteral("\"title\" is missing"));
     case Type::Command:
         return object.contains("command") || fail(path, QStringLiteral("\"command\" is missing"));
     case Type::Leave:
@@ -291,7 +294,7 @@ bool Reader::readStep(const QJsonValue& value, const QString& path, SessionStep&
     const QJsonObject object = value.toObject();
     if (!checkKeys(object, path,
                    { "type", "at", "button", "modifiers", "delta", "key", "after", "name",
-                     "screenshot", "expect", "command", "value" })) {
+                     "screenshot", "expect", "command", "value", "title", "text" })) {
         return false;
     }
     const auto type = stepTypeFromName(object.value("type").toString());
@@ -325,6 +328,8 @@ bool Reader::readStep(const QJsonValue& value, const QString& path, SessionStep&
         (!has("key") || readString(object.value("key"), path + ".key", step.key)) &&
         (!has("name") || readString(object.value("name"), path + ".name", step.name)) &&
         (!has("command") || readString(object.value("command"), path + ".command", step.name)) &&
+        (!has("title") || readString(object.value("title"), path + ".title", step.name)) &&
+        (!has("text") || readString(object.value("text"), path + ".text", step.text)) &&
         (!has("screenshot") ||
          readBool(object.value("screenshot"), path + ".screenshot", step.screenshot)) &&
         (!has("expect") ||
@@ -405,17 +410,12 @@ std::optional<Session> parseSession(const QByteArray& text, QString& error)
 
 std::optional<Session> readSessionFile(const QString& path, QString& error)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        error = QStringLiteral("%1: %2").arg(path, file.errorString());
-        return std::nullopt;
-    }
-    if (file.size() > kMaxSessionBytes) {
-        error = QStringLiteral("%1: too large for a session").arg(path);
+    QByteArray text;
+    if (!readWhole(path, kMaxSessionBytes, text, error)) {
         return std::nullopt;
     }
     QString problem;
-    std::optional<Session> session = parseSession(file.readAll(), problem);
+    std::optional<Session> session = parseSession(text, problem);
     if (!session) {
         error = QStringLiteral("%1: %2").arg(path, problem);
         return std::nullopt;

@@ -1,18 +1,19 @@
 // SPDX-License-Identifier: MIT
+#include "viewer/core/JsonWriter.h"
 #include "viewer/core/Session.h"
 #include "viewer/core/SessionNames.h"
+#include "viewer/core/TextFile.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
-#include <QSaveFile>
 
 namespace viewer {
 namespace {
 
 using Type = SessionStep::Type;
+using Layout = JsonWriter::Layout;
 
 QJsonArray jsonOf(const std::array<double, 3>& point)
 {
@@ -61,7 +62,9 @@ QJsonObject jsonOf(const SessionNodeExpectation& node)
     if (node.scale) {
         object["scale"] = jsonOf(*node.scale);
     }
-    object["tolerance"] = node.tolerance;
+    if (node.tolerance != SessionNodeExpectation::kDefaultTolerance) {
+        object["tolerance"] = node.tolerance;
+    }
     return object;
 }
 
@@ -89,6 +92,8 @@ QJsonObject jsonOf(const SessionExpectation& expectation)
     }
     if (!expectation.values.isEmpty()) {
         object["values"] = expectation.values;
+    }
+    if (expectation.tolerance != SessionExpectation().tolerance) {
         object["tolerance"] = expectation.tolerance;
     }
     return object;
@@ -106,92 +111,107 @@ bool hasButton(Type type)
         type == Type::DoubleClick;
 }
 
-void addCheckpoint(const SessionStep& step, QJsonObject& object)
+/// Writes a session as one object, the entries in the order in which a person reads them.
+class Output
 {
-    object["name"] = step.name;
-    if (step.screenshot) {
-        object["screenshot"] = true;
+public:
+    QByteArray textOf(const Session& session)
+    {
+        writer.beginObject(Layout::Lines);
+        put("session", 1);
+        put("size", QJsonArray { session.sizePx.width(), session.sizePx.height() });
+        put("files", QJsonArray::fromStringList(session.files), !session.files.isEmpty());
+        if (session.camera) {
+            putCamera(*session.camera);
+        }
+        put("selection", session.selection.value_or(QString()), session.selection.has_value());
+        put("manipulator", session.manipulator, !session.manipulator.isEmpty());
+        writer.key(QStringLiteral("steps"));
+        writer.beginArray(Layout::Lines);
+        for (const SessionStep& step : session.steps) {
+            putStep(step);
+        }
+        writer.endArray();
+        writer.endObject();
+        return writer.take();
     }
-    const QJsonObject expectation = jsonOf(step.expectation);
-    if (!expectation.isEmpty()) {
-        object["expect"] = expectation;
-    }
-}
 
-QJsonObject jsonOf(const SessionStep& step)
-{
-    QJsonObject object;
-    object["type"] = stepTypeName(step.type);
-    if (hasPlace(step.type)) {
-        object["at"] = jsonOf(step.at);
-    }
-    if (hasButton(step.type) && step.button != Qt::LeftButton) {
-        object["button"] = buttonName(step.button);
-    }
-    if (step.modifiers != Qt::NoModifier) {
-        object["modifiers"] = QJsonArray::fromStringList(modifierNames(step.modifiers));
-    }
-    if (step.type == Type::Wheel) {
-        object["delta"] = step.wheelDelta;
-    }
-    if (!step.key.isEmpty()) {
-        object["key"] = step.key;
-    }
-    if (step.afterMs != 0) {
-        object["after"] = step.afterMs;
-    }
-    if (step.type == Type::Command) {
-        object["command"] = step.name;
-        if (!step.value.isNull()) {
-            object["value"] = step.value;
+private:
+    void put(const char* key, const QJsonValue& value, bool isWanted = true)
+    {
+        if (isWanted) {
+            writer.key(QLatin1String(key));
+            writer.value(value);
         }
     }
-    if (step.type == Type::Checkpoint) {
-        addCheckpoint(step, object);
-    }
-    return object;
-}
 
-QJsonObject jsonOf(const SessionCamera& camera)
-{
-    QJsonObject object;
-    object["from"] = jsonOf(camera.from);
-    object["at"] = jsonOf(camera.at);
-    object["up"] = jsonOf(camera.up);
-    if (camera.pivot) {
-        object["pivot"] = jsonOf(*camera.pivot);
+    void putCamera(const SessionCamera& camera)
+    {
+        writer.key(QStringLiteral("camera"));
+        writer.beginObject(Layout::Inline);
+        put("from", jsonOf(camera.from));
+        put("at", jsonOf(camera.at));
+        put("up", jsonOf(camera.up));
+        if (camera.pivot) {
+            put("pivot", jsonOf(*camera.pivot), camera.pivot != camera.at);
+        }
+        put("fov", camera.fovDeg);
+        put("orthographic", true, camera.orthographic);
+        put("zUp", true, camera.zUp);
+        writer.endObject();
     }
-    object["fov"] = camera.fovDeg;
-    object["orthographic"] = camera.orthographic;
-    object["zUp"] = camera.zUp;
-    return object;
+
+    void putStep(const SessionStep& step)
+    {
+        writer.beginObject(Layout::Inline);
+        put("type", stepTypeName(step.type));
+        put("title", step.name, step.type == Type::Caption);
+        put("text", step.text, step.type == Type::Caption && !step.text.isEmpty());
+        put("command", step.name, step.type == Type::Command);
+        put("value", step.value, step.type == Type::Command && !step.value.isNull());
+        put("name", step.name, step.type == Type::Checkpoint);
+        put("at", jsonOf(step.at), hasPlace(step.type));
+        put("button", buttonName(step.button),
+            hasButton(step.type) && step.button != Qt::LeftButton);
+        put("delta", step.wheelDelta, step.type == Type::Wheel);
+        put("key", step.key, !step.key.isEmpty());
+        put("modifiers", QJsonArray::fromStringList(modifierNames(step.modifiers)),
+            step.modifiers != Qt::NoModifier);
+        put("after", step.afterMs, step.afterMs != 0);
+        if (step.type == Type::Checkpoint) {
+            put("screenshot", true, step.screenshot);
+            const QJsonObject expectation = jsonOf(step.expectation);
+            put("expect", expectation, !expectation.isEmpty());
+        }
+        writer.endObject();
+    }
+
+    JsonWriter writer;
+};
+
+/// A value of a command in which files that are there are named from a folder.
+QJsonValue fromFolder(const QJsonValue& value, const QDir& folder)
+{
+    if (value.isString()) {
+        const QString file = value.toString();
+        const bool isFile = QDir::isAbsolutePath(file) && QFileInfo(file).isFile();
+        return isFile ? folder.relativeFilePath(file) : file;
+    }
+    if (value.isObject()) {
+        QJsonObject object = value.toObject();
+        for (const QString& key : object.keys()) {
+            object[key] = fromFolder(object[key], folder);
+        }
+        return object;
+    }
+    return value;
 }
 
 }  // namespace
 
 QByteArray sessionText(const Session& session)
 {
-    QJsonObject object;
-    object["session"] = 1;
-    object["size"] = QJsonArray { session.sizePx.width(), session.sizePx.height() };
-    if (!session.files.isEmpty()) {
-        object["files"] = QJsonArray::fromStringList(session.files);
-    }
-    if (session.camera) {
-        object["camera"] = jsonOf(*session.camera);
-    }
-    if (session.selection) {
-        object["selection"] = *session.selection;
-    }
-    if (!session.manipulator.isEmpty()) {
-        object["manipulator"] = session.manipulator;
-    }
-    QJsonArray steps;
-    for (const SessionStep& step : session.steps) {
-        steps.append(jsonOf(step));
-    }
-    object["steps"] = steps;
-    return QJsonDocument(object).toJson(QJsonDocument::Indented);
+    return Output().textOf(session);
 }
 
 bool writeSessionFile(const QString& path, const Session& session, QString& error)
@@ -201,14 +221,10 @@ bool writeSessionFile(const QString& path, const Session& session, QString& erro
     for (QString& file : relative.files) {
         file = folder.relativeFilePath(file);
     }
-    QSaveFile output(path);
-    const QByteArray text = sessionText(relative);
-    if (!output.open(QIODevice::WriteOnly) || output.write(text) != text.size() ||
-        !output.commit()) {
-        error = QStringLiteral("%1: %2").arg(path, output.errorString());
-        return false;
+    for (SessionStep& step : relative.steps) {
+        step.value = fromFolder(step.value, folder);
     }
-    return true;
+    return writeWhole(path, sessionText(relative), error);
 }
 
 }  // namespace viewer

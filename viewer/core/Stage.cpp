@@ -20,6 +20,7 @@
 #include <QtWidgets/QUndoStack>
 
 #include <algorithm>
+#include <utility>
 
 namespace viewer {
 namespace {
@@ -229,7 +230,7 @@ void Stage::clear()
     while (root->getNChildren() > 0) {
         root->subChild(root->getNChildren() - 1);
     }
-    triangles = 0;
+    modelSources = {};
     nbUndoService::the()->clear();
     changed();
 }
@@ -247,10 +248,25 @@ osg::NodePtr Stage::add(const BuiltModel& model)
         const nbEdit edit(root, osg::Node::ChildrenFieldMask);
         root->addChild(node);
     }
-    triangles += model.triangles;
+    modelSources.add(model);
     nbec::interaction::Picker::buildTrees(node);
     changed();
     return node;
+}
+
+void Stage::replace(const std::vector<osg::RefPtr<osg::NodePtr>>& top, ModelSources sources)
+{
+    clear();
+    const osg::NodePtr root = nbScenegraph::getRootNode();
+    {
+        const nbEdit edit(root, osg::Node::ChildrenFieldMask);
+        for (const osg::RefPtr<osg::NodePtr>& node : top) {
+            root->addChild(node.get());
+        }
+    }
+    modelSources = std::move(sources);
+    nbec::interaction::Picker::buildTrees(root);
+    changed();
 }
 
 void Stage::showStartScene()

@@ -5,6 +5,7 @@
 #include "viewer/core/Commands.h"
 #include "viewer/core/GizmoController.h"
 #include "viewer/core/ModelData.h"
+#include "viewer/core/ModelSources.h"
 #include "viewer/core/PreselectionTool.h"
 
 #include <nbInteraction/CameraInteractionContext.h>
@@ -92,12 +93,20 @@ public:
     osg::NodePtr add(const ModelData& model);
     /// The same for one whose nodes are there. Search trees that are still missing are built now.
     osg::NodePtr add(const BuiltModel& model);
+    /// Replaces all models by what was built before.
+    /// @param top      what comes right below the scene's root, without parents
+    /// @param sources  of the models among and below it
+    void replace(const std::vector<osg::RefPtr<osg::NodePtr>>& top, ModelSources sources);
+
+    /// Where the models in the scene came from.
+    const ModelSources& sources() const { return modelSources; }
+
     /// Replaces everything by the start scene, seen as composed, with its main object selected and
     /// the universal gizmo on it.
     void showStartScene();
     bool isEmpty() const;
 
-    std::size_t triangleCount() const { return triangles; }
+    std::size_t triangleCount() const { return modelSources.triangleCount(); }
 
     // == Selection
 
@@ -185,7 +194,7 @@ private:
     StageTool* toolInUse = nullptr;
     Gizmo gizmoBefore = Gizmo::None;  ///< the first tool
     int selectionCallback = 0;
-    std::size_t triangles = 0;
+    ModelSources modelSources;
 };
 
 }  // namespace viewer

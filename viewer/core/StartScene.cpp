@@ -145,7 +145,9 @@ ModelData makeStartScene()
     Composition scene;
     placeTable(scene);
     placeObjects(scene);
-    return scene.take();
+    ModelData model = scene.take();
+    model.builtIn = QLatin1String(kStartSceneName);
+    return model;
 }
 
 }  // namespace viewer

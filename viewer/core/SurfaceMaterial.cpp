@@ -135,13 +135,20 @@ osg::NodePtr surfaceOf(const osg::NodePtr& object, const osg::NodePtr& preferred
         geometryOf(preferred) != osg::NullFC) {
         return preferred;
     }
-    for (osg::UInt32 i = 0; i < object->getNChildren(); ++i) {
+    const std::vector<osg::NodePtr> surfaces = ownSurfaces(object);
+    return surfaces.empty() ? osg::NodePtr() : surfaces.front();
+}
+
+std::vector<osg::NodePtr> ownSurfaces(const osg::NodePtr& object)
+{
+    std::vector<osg::NodePtr> surfaces;
+    for (osg::UInt32 i = 0; object != osg::NullFC && i < object->getNChildren(); ++i) {
         const osg::NodePtr child = object->getChild(i);
         if (geometryOf(child) != osg::NullFC && !nbNodeUtils::isAuxiliaryNode(child)) {
-            return child;
+            surfaces.push_back(child);
         }
     }
-    return {};
+    return surfaces;
 }
 
 osg::UberMaterialPtr uberMaterialOf(const osg::NodePtr& surface)

@@ -5,6 +5,8 @@
 
 #include <OpenSG/OSGNode.h>
 
+#include <vector>
+
 namespace viewer {
 
 /// The surface of an object that pictures are put on: a geometry node right at the object.
@@ -12,6 +14,9 @@ namespace viewer {
 /// @param preferred  the part that was clicked, taken if it is such a node; may be null
 /// @return null if the object has no surface of its own, as the head of a group of objects
 osg::NodePtr surfaceOf(const osg::NodePtr& object, const osg::NodePtr& preferred);
+
+/// All such surfaces of an object, in tree order; none for null.
+std::vector<osg::NodePtr> ownSurfaces(const osg::NodePtr& object);
 
 /// Material of a surface that can carry pictures; null if it has another one or none.
 osg::UberMaterialPtr uberMaterialOf(const osg::NodePtr& surface);

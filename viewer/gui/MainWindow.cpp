@@ -2,12 +2,13 @@
 #include "viewer/gui/MainWindow.h"
 
 #include "viewer/core/ModelReader.h"
-#include "viewer/core/SessionStart.h"
 #include "viewer/core/StageTool.h"
 #include "viewer/core/StageTools.h"
+#include "viewer/gui/CaptionBar.h"
 #include "viewer/gui/LogPanel.h"
 #include "viewer/gui/MessageBar.h"
 #include "viewer/gui/PanelDocks.h"
+#include "viewer/gui/SceneFileActions.h"
 #include "viewer/gui/SessionPlayer.h"
 #include "viewer/gui/SessionRecorder.h"
 #include "viewer/gui/StatusLine.h"
@@ -15,8 +16,6 @@
 #include "viewer/gui/ViewWidget.h"
 #include "viewer/gui/WindowActions.h"
 #include "viewer/gui/WindowMemory.h"
-
-#include <nbKernelServices/nbUndoService.h>
 
 #include <QCloseEvent>
 #include <QFileDialog>
@@ -27,22 +26,17 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QStatusBar>
-#include <QTimer>
 #include <QToolBar>
 #include <QUndoStack>
+
+#include <algorithm>
 
 namespace viewer {
 namespace {
 
-/// A window that a window manager refuses the wanted size is waited for this often.
-constexpr int kMaxSizeChecks = 200;
-constexpr int kSizeCheckMs = 10;
-
 /// Size at the first start, logical pixels, and the part of the screen that it takes at most.
 constexpr QSize kFirstSize(1440, 900);
 constexpr double kMostOfScreen = 0.94;
-
-const char* const kSessionFilter = QT_TRANSLATE_NOOP("viewer::MainWindow", "Sessions (*.json)");
 
 bool isSession(const QString& file)
 {
@@ -77,9 +71,13 @@ MainWindow::MainWindow(Attendance attendance)
         shownTheme = memory::theme();
         applyTheme(shownTheme);
     }
+    sceneFiles = new SceneFileActions(*this, viewWidget->stage(), *loader);
     addSurroundings();
     if (mode == Attendance::Attended) {
         connect(this, &MainWindow::problem, messageBar, &MessageBar::showMessage);
+        sceneFiles->setQuestion(sceneFiles->dialog());
+        connect(sessionPlayer, &SessionPlayer::captionChanged, new CaptionBar(viewWidget),
+                &CaptionBar::showCaption);
         if (!memory::restoreLayout(*this)) {
             resize(kFirstSize.boundedTo(screen()->availableSize() * kMostOfScreen));
         }
@@ -93,16 +91,28 @@ MainWindow::MainWindow(Attendance attendance)
     connect(loader, &ModelLoader::failed, this, [this](const QString& reason) {
         updateStatus();
         pendingSession.reset();
+        sceneFiles->forget();
         emit problem(reason);
     });
-    connect(nbUndoService::the()->getStack(), &QUndoStack::cleanChanged, this,
-            [this](bool clean) { setWindowModified(!clean); });
+    connect(sceneFiles, &SceneFileActions::modifiedChanged, this, &QWidget::setWindowModified);
+    connect(sceneFiles, &SceneFileActions::problem, this, [this](const QString& text) {
+        pendingSession.reset();
+        updateStatus();
+        emit problem(text);
+    });
+    connect(sceneFiles, &SceneFileActions::opened, this, &MainWindow::sceneOpened);
+    connect(sceneFiles, &SceneFileActions::saved, this, [this](const QString& path) {
+        shownFiles = QStringList { path };
+        setShownTitle(QFileInfo(path).fileName());
+        addRecentFiles(shownFiles);
+    });
     connect(sessionPlayer, &SessionPlayer::finished, this, &MainWindow::concludeReplay);
     viewWidget->stage().commands().setListener(
         [this](const QString& name, const QJsonValue& value, Commands::Moment moment) {
             if (moment == Commands::Moment::Final) {
                 sessionRecorder->addCommand(name, value);
             }
+            sceneFiles->noteCommand(name);
             viewWidget->stage().edited();
         });
     viewWidget->stage().setChangedCallback([this] {
@@ -116,10 +126,9 @@ MainWindow::~MainWindow()
 {
     viewWidget->stage().setChangedCallback(nullptr);
     viewWidget->stage().commands().setListener(nullptr);
+    delete sceneFiles;
     // Panels show tools, which end before the stage.
     delete docks;
-    // The service outlives the window, and the end of the stage empties the stack.
-    nbUndoService::the()->getStack()->disconnect(this);
     // The view is needed by what the window owns besides it.
     delete sessionPlayer;
     delete sessionRecorder;
@@ -196,24 +205,61 @@ void MainWindow::updateStatus()
 
 void MainWindow::showStartScene()
 {
+    if (!pendingSession && !sceneFiles->mayReplace()) {
+        return;
+    }
     loader->cancel();
     shownFiles.clear();
     viewWidget->stage().showStartScene();
+    sceneFiles->replaced();
     setShownTitle({});
     updateStatus();
 }
 
 void MainWindow::openFiles(const QStringList& files, Opening opening)
 {
+    const bool isScene = std::any_of(files.begin(), files.end(), &isSceneFileName);
+    if (isScene && (files.size() > 1 || opening == Opening::Add)) {
+        emit problem(tr("%1: a scene can only be opened by itself").arg(files.first()));
+        return;
+    }
+    if (opening == Opening::Replace && !pendingSession && !sceneFiles->mayReplace()) {
+        return;
+    }
     openingFiles = files;
     openingMode = opening;
     statusLine->setProgress(ModelLoader::Phase::Reading, files.value(0), 0);
-    loader->start(files);
+    sceneFiles->forget();
+    if (isScene) {
+        sceneFiles->open(files.first());
+    } else {
+        loader->start(files);
+    }
     updateStatus();
+}
+
+void MainWindow::sceneOpened(const QString& path, bool byCommand)
+{
+    shownFiles = QStringList { path };
+    addRecentFiles(shownFiles);
+    setShownTitle(QFileInfo(path).fileName());
+    if (!byCommand) {
+        sessionRecorder->addCommand(QStringLiteral("scene.open"), path);
+    }
+    actions->update();
+    updateStatus();
+    if (pendingSession) {
+        beginReplay();
+    }
+    emit filesShown();
 }
 
 void MainWindow::showLoadedModels()
 {
+    if (sceneFiles->isOpening()) {
+        sceneFiles->conclude();
+        return;
+    }
     Stage& stage = viewWidget->stage();
     const bool replaced = openingMode == Opening::Replace || stage.isEmpty();
     if (openingMode == Opening::Replace) {
@@ -230,6 +276,11 @@ void MainWindow::showLoadedModels()
         shownFiles.append(QFileInfo(file).absoluteFilePath());
     }
     addRecentFiles(openingFiles);
+    if (openingMode == Opening::Replace) {
+        sceneFiles->replaced();
+    } else {
+        sceneFiles->touch();
+    }
     stage.frameAll(replaced);
     stage.select(last);
     if (stage.gizmo().shown() == Gizmo::None) {
@@ -260,6 +311,7 @@ void MainWindow::addRecentFiles(const QStringList& files)
 void MainWindow::stopLoading()
 {
     loader->cancel();
+    sceneFiles->forget();
     pendingSession.reset();
     updateStatus();
 }
@@ -377,6 +429,10 @@ void MainWindow::keyPressEvent(QKeyEvent* event)
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
+    if (!isReplaying() && !sceneFiles->mayReplace()) {
+        event->ignore();
+        return;
+    }
     loader->cancel();
     sessionPlayer->stop();
     if (mode == Attendance::Attended) {
@@ -384,135 +440,6 @@ void MainWindow::closeEvent(QCloseEvent* event)
         memory::keepLayout(*this, memory::stateOf(*this));
     }
     QMainWindow::closeEvent(event);
-}
-
-// == Sessions
-
-void MainWindow::replay(const Session& session, const std::optional<QDir>& pictures)
-{
-    sessionPlayer->stop();
-    pendingSession = session;
-    pendingPictures = pictures;
-    sizeChecks = 0;
-    if (!session.files.isEmpty()) {
-        openFiles(session.files, Opening::Replace);
-        return;
-    }
-    showStartScene();
-    beginReplay();
-}
-
-void MainWindow::beginReplay()
-{
-    viewWidget->fixSize(pendingSession->sizePx);
-    if (sizeChecks == 0) {
-        adjustSize();
-    }
-    // The layout gives the view its size only when the window has got its own.
-    const nbOSGWidget& renderWidget = viewWidget->stage().view();
-    const QSize size(renderWidget.getWidth(), renderWidget.getHeight());
-    if ((size != pendingSession->sizePx || !viewWidget->isVisible()) &&
-        ++sizeChecks < kMaxSizeChecks) {
-        QTimer::singleShot(kSizeCheckMs, this, [this] {
-            if (pendingSession) {
-                beginReplay();
-            }
-        });
-        return;
-    }
-    const Session session = *pendingSession;
-    pendingSession.reset();
-    QString error;
-    if (!beginSession(viewWidget->stage(), session, error)) {
-        viewWidget->fixSize({});
-        emit problem(error);
-        return;
-    }
-    const auto pace = mode == Attendance::Attended ? SessionPlayer::Pace::AsRecorded
-                                                   : SessionPlayer::Pace::AsFastAsPossible;
-    sessionPlayer->start(session, pace, pendingPictures);
-    actions->update();
-}
-
-void MainWindow::stopReplay()
-{
-    sessionPlayer->stop();
-}
-
-bool MainWindow::isReplaying() const
-{
-    return sessionPlayer->isPlaying();
-}
-
-void MainWindow::concludeReplay()
-{
-    if (mode == Attendance::Attended) {
-        viewWidget->fixSize({});
-    }
-    actions->update();
-    if (!sessionPlayer->getFailures().isEmpty() && mode == Attendance::Attended) {
-        emit problem(sessionPlayer->getFailures().first());
-    }
-    emit replayFinished();
-}
-
-void MainWindow::record(bool on)
-{
-    if (on && !sessionRecorder->isRecording()) {
-        sessionRecorder->start(shownFiles);
-        showRecording();
-    } else if (!on && sessionRecorder->isRecording()) {
-        statusBar()->clearMessage();
-        saveRecording();
-    }
-}
-
-void MainWindow::showRecording()
-{
-    if (isRecording()) {
-        statusBar()->showMessage(tr("Recording"));
-    }
-}
-
-bool MainWindow::isRecording() const
-{
-    return sessionRecorder->isRecording();
-}
-
-void MainWindow::addCheckpoint()
-{
-    sessionRecorder->addCheckpoint();
-}
-
-void MainWindow::saveRecording()
-{
-    const Session session = sessionRecorder->stop();
-    const QString path = QFileDialog::getSaveFileName(
-        this, tr("Save session"), QStringLiteral("session.json"), tr(kSessionFilter));
-    QString error;
-    if (!path.isEmpty() && !writeSessionFile(path, session, error)) {
-        emit problem(error);
-    }
-}
-
-void MainWindow::askForSession()
-{
-    const QString path =
-        QFileDialog::getOpenFileName(this, tr("Replay session"), {}, tr(kSessionFilter));
-    if (!path.isEmpty()) {
-        replayFile(path);
-    }
-}
-
-void MainWindow::replayFile(const QString& path)
-{
-    QString error;
-    const std::optional<Session> session = readSessionFile(path, error);
-    if (session) {
-        replay(*session, std::nullopt);
-    } else {
-        emit problem(error);
-    }
 }
 
 }  // namespace viewer

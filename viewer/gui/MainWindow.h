@@ -3,6 +3,7 @@
 
 #include "viewer/core/GizmoController.h"
 #include "viewer/core/Language.h"
+#include "viewer/core/SceneFile.h"
 #include "viewer/core/Session.h"
 #include "viewer/gui/FullScreen.h"
 #include "viewer/gui/ModelLoader.h"
@@ -21,6 +22,7 @@ namespace viewer {
 
 class MessageBar;
 class PanelDocks;
+class SceneFileActions;
 class SessionPlayer;
 class SessionRecorder;
 class StatusLine;
@@ -58,10 +60,14 @@ public:
 
     PanelDocks& panels() { return *docks; }
 
+    SceneFileActions& scenes() { return *sceneFiles; }
+
     // == Files
 
+    /// Everything that replaces the scene first lets a person save it.
     void showStartScene();
-    /// Reads files in the background and shows them; answers with filesShown() or problem().
+    /// Reads files, models or one scene, in the background and shows them; answers with
+    /// filesShown() or problem().
     void openFiles(const QStringList& files, Opening opening);
     void askForFiles(Opening opening);
     void askForPicture();
@@ -127,6 +133,7 @@ private:
     void setShownTitle(const QString& name);
     void updateStatus();
     void showLoadedModels();
+    void sceneOpened(const QString& path, bool byCommand);
     void addRecentFiles(const QStringList& files);
     void stopLoading();
     void handleDroppedFiles(const QStringList& files, const osg::Pnt2f& px);
@@ -134,6 +141,7 @@ private:
     void beginReplay();
     void concludeReplay();
     void saveRecording();
+    bool writeRecording(const QString& path, Session& session, QString& error);
 
     Attendance mode;
     ViewWidget* viewWidget = nullptr;
@@ -147,11 +155,13 @@ private:
     FullScreen fullScreen;
     std::unique_ptr<StageTools> tools;
     PanelDocks* docks = nullptr;
+    SceneFileActions* sceneFiles = nullptr;
 
     Theme shownTheme = Theme::System;
     QStringList shownFiles;
     QStringList openingFiles;
     Opening openingMode = Opening::Replace;
+    std::optional<SceneDocument> recordedScene;  ///< in which a recording began, if it was edited
     std::optional<Session> pendingSession;
     std::optional<QDir> pendingPictures;
     int sizeChecks = 0;

@@ -3,6 +3,7 @@
 
 #include "viewer/core/SessionChecks.h"
 #include "viewer/core/SessionTargets.h"
+#include "viewer/gui/CaptionBar.h"
 #include "viewer/gui/ViewWidget.h"
 
 #include <QAction>
@@ -10,6 +11,7 @@
 #include <QKeyEvent>
 #include <QKeySequence>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QTimer>
 #include <QWheelEvent>
 
@@ -17,6 +19,10 @@ namespace viewer {
 namespace {
 
 using Type = SessionStep::Type;
+
+/// A person gets at least this long to read a caption.
+constexpr int kReadingMs = 900;
+constexpr int kReadingMsPerLetter = 25;
 
 /// Qt key and modifiers of a portable key name.
 int keyOf(const QString& name, Qt::KeyboardModifiers& modifiers)
@@ -70,6 +76,9 @@ void SessionPlayer::start(const Session& newSession, Pace newPace,
     heldButtons = Qt::NoButton;
     heldModifiers = Qt::NoModifier;
     playing = true;
+    paused = false;
+    isStepHeld = false;
+    setCaption({}, {});
     ++generation;
     scheduleNext();
 }
@@ -80,7 +89,9 @@ void SessionPlayer::stop()
         return;
     }
     playing = false;
+    paused = false;
     ++generation;
+    setCaption({}, {});
     for (const Qt::MouseButton button : { Qt::LeftButton, Qt::MiddleButton, Qt::RightButton }) {
         if (heldButtons.testFlag(button)) {
             heldButtons.setFlag(button, false);
@@ -90,10 +101,31 @@ void SessionPlayer::stop()
     emit finished();
 }
 
+void SessionPlayer::setPaused(bool on)
+{
+    paused = on && playing;
+    if (!paused && isStepHeld) {
+        isStepHeld = false;
+        playNext();
+    }
+}
+
+void SessionPlayer::setCaption(const QString& title, const QString& text)
+{
+    if (title != captionTitle || text != captionText) {
+        captionTitle = title;
+        captionText = text;
+        emit captionChanged(title, text);
+    }
+}
+
 void SessionPlayer::scheduleNext()
 {
-    const bool paused = pace == Pace::AsRecorded && nextStep < session.steps.size();
-    const int pauseMs = paused ? session.steps[nextStep].afterMs : 0;
+    const bool isTimed = pace == Pace::AsRecorded && nextStep < session.steps.size();
+    const bool isToBeRead = isTimed && nextStep > 0 &&
+        session.steps[nextStep - 1].type == Type::Caption && !captionTitle.isEmpty();
+    const int readingMs = isToBeRead ? kReadingMs + kReadingMsPerLetter * captionText.size() : 0;
+    const int pauseMs = isTimed ? qMax(session.steps[nextStep].afterMs, readingMs) : 0;
     QTimer::singleShot(pauseMs, this, [this, scheduled = generation] {
         if (scheduled == generation) {
             playNext();
@@ -103,6 +135,10 @@ void SessionPlayer::scheduleNext()
 
 void SessionPlayer::playNext()
 {
+    if (paused) {
+        isStepHeld = true;
+        return;
+    }
     if (nextStep >= session.steps.size()) {
         stop();
         return;
@@ -128,6 +164,9 @@ bool SessionPlayer::play(const SessionStep& step, QString& error)
         return true;
     case Type::Command:
         return view.stage().commands().run(step.name, step.value, error);
+    case Type::Caption:
+        setCaption(step.name, step.text);
+        return true;
     case Type::Checkpoint:
         return playCheckpoint(step, error);
     case Type::Leave: {
@@ -243,9 +282,13 @@ bool SessionPlayer::playCheckpoint(const SessionStep& step, QString& error)
     if (!step.screenshot || !pictureFolder) {
         return true;
     }
-    const QImage picture = view.takePicture(error);
+    QImage picture = view.takePicture(error);
     if (picture.isNull()) {
         return false;
+    }
+    if (captionsInPictures && !captionTitle.isEmpty()) {
+        QPainter painter(&picture);
+        paintCaption(painter, picture.rect(), captionTitle, captionText);
     }
     const QString path = pictureFolder->filePath(step.name + QStringLiteral(".png"));
     if (!picture.save(path)) {

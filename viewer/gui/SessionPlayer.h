@@ -42,6 +42,14 @@ public:
 
     bool isPlaying() const { return playing; }
 
+    /// Holds the replay before its next step, or lets it go on.
+    void setPaused(bool on);
+
+    bool isPaused() const { return paused; }
+
+    /// Lets pictures carry the caption that is shown at their time; not at the start.
+    void setCaptionsInPictures(bool on) { captionsInPictures = on; }
+
     /// Checkpoints that were not met, one line each.
     const QStringList& getFailures() const { return failures; }
 
@@ -49,6 +57,8 @@ public:
     const QStringList& getPictures() const { return pictures; }
 
 signals:
+    /// Another caption is to be shown; both "" for none.
+    void captionChanged(const QString& title, const QString& text);
     void pictureWritten(const QString& path);
     /// The last step was played, or a step could not be.
     void finished();
@@ -63,6 +73,7 @@ private:
     void playKey(const SessionStep& step);
     void sendKey(QEvent::Type type, int key);
     bool triggerShortcut(int key, Qt::KeyboardModifiers modifiers);
+    void setCaption(const QString& title, const QString& text);
     bool playCheckpoint(const SessionStep& step, QString& error);
 
     Qt::KeyboardModifiers modifiersOf(const SessionStep& step) const
@@ -77,6 +88,11 @@ private:
     std::optional<QDir> pictureFolder;
     std::size_t nextStep = 0;
     bool playing = false;
+    bool paused = false;
+    bool isStepHeld = false;  ///< a step came due while paused
+    bool captionsInPictures = false;
+    QString captionTitle;
+    QString captionText;
     unsigned generation =
         0;  ///< counts starts and stops, so that a step scheduled before is dropped
     QPointF position;  ///< of the pointer, logical pixels in the view

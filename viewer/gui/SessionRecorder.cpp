@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/gui/SessionRecorder.h"
 
+#include "viewer/core/JsonWriter.h"
 #include "viewer/gui/ViewWidget.h"
 
 #include <QKeyEvent>
@@ -9,6 +10,7 @@
 #include <QWheelEvent>
 
 #include <algorithm>
+#include <cmath>
 
 namespace viewer {
 namespace {
@@ -16,11 +18,19 @@ namespace {
 using Type = SessionStep::Type;
 
 constexpr qint64 kLongestPauseMs = 2000;
+/// Moves that come faster than this are one.
+constexpr int kFinestMovesMs = 40;
+constexpr double kPlacesPerPx = 100.0;
+
+double rounded(double px)
+{
+    return std::round(px * kPlacesPerPx) / kPlacesPerPx;
+}
 
 template <class Point>
 std::array<double, 3> arrayOf(const Point& p)
 {
-    return { p[0], p[1], p[2] };
+    return { shortDouble(p[0]), shortDouble(p[1]), shortDouble(p[2]) };
 }
 
 SessionCamera cameraOf(const CameraPose& pose)
@@ -30,7 +40,7 @@ SessionCamera cameraOf(const CameraPose& pose)
     camera.at = arrayOf(pose.at);
     camera.up = arrayOf(pose.up);
     camera.pivot = arrayOf(pose.pivot);
-    camera.fovDeg = pose.fovDeg;
+    camera.fovDeg = shortDouble(pose.fovDeg);
     camera.orthographic = pose.orthographic;
     camera.zUp = pose.zUp;
     return camera;
@@ -155,13 +165,29 @@ bool SessionRecorder::eventFilter(QObject* watched, QEvent* event)
 void SessionRecorder::add(SessionStep step)
 {
     step.afterMs = static_cast<int>(std::min(clock.restart(), kLongestPauseMs));
+    if (isMergedMove(step)) {
+        step.afterMs += session.steps.back().afterMs;
+        session.steps.back() = std::move(step);
+        return;
+    }
     session.steps.push_back(std::move(step));
+}
+
+bool SessionRecorder::isMergedMove(const SessionStep& step) const
+{
+    const std::vector<SessionStep>& steps = session.steps;
+    // The first move after anything else stays: with it a drag chooses what it measures on.
+    const bool followsMoves = steps.size() > 1 && step.type == Type::Move &&
+        steps.back().type == Type::Move && steps[steps.size() - 2].type == Type::Move;
+    return followsMoves && steps.back().modifiers == step.modifiers &&
+        steps.back().afterMs + step.afterMs < kFinestMovesMs;
 }
 
 SessionTarget SessionRecorder::pixelAt(const QPointF& logical) const
 {
     SessionTarget target;
-    target.offsetPx = logical * view.devicePixelRatioF();
+    const QPointF px = logical * view.devicePixelRatioF();
+    target.offsetPx = QPointF(rounded(px.x()), rounded(px.y()));
     return target;
 }
 

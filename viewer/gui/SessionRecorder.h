@@ -15,6 +15,11 @@ namespace viewer {
 class ViewWidget;
 
 /// Writes down the pointer and key events that reach the view, with what was shown at the start.
+///
+/// A recording stays small and readable: pixels have at most two places behind the point, moves
+/// that follow each other within 40 ms are one (all but the first, on which a drag builds), pauses
+/// are at most two seconds, and what panels and menus do is the command itself. Opening and saving
+/// with a dialog leaves no step but the scene that was opened.
 class SessionRecorder : public QObject
 {
     Q_OBJECT
@@ -42,6 +47,7 @@ protected:
 
 private:
     void add(SessionStep step);
+    bool isMergedMove(const SessionStep& step) const;
     void addMouse(SessionStep::Type type, const QMouseEvent& event);
     void addWheel(const QWheelEvent& event);
     void addKey(SessionStep::Type type, const QKeyEvent& event);

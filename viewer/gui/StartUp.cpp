@@ -3,6 +3,7 @@
 
 #include "viewer/gui/MainWindow.h"
 #include "viewer/gui/SessionPlayer.h"
+#include "viewer/gui/SessionTour.h"
 #include "viewer/gui/ViewWidget.h"
 
 #include <QCoreApplication>
@@ -37,6 +38,11 @@ void StartUp::complain(const QString& text)
 
 void StartUp::run()
 {
+    if (options.tourWanted) {
+        window.show();
+        goOnTour();
+        return;
+    }
     connect(&window, &MainWindow::problem, this, &StartUp::giveUp);
     if (session) {
         // The command line's files and size stand in for the session's own.
@@ -77,6 +83,29 @@ void StartUp::playSession()
     window.replay(
         *session,
         QDir(options.outputFolder.isEmpty() ? QStringLiteral(".") : options.outputFolder));
+}
+
+void StartUp::goOnTour()
+{
+    QString error;
+    const QStringList sessions = SessionTour::readList(SessionTour::shippedSessions(), error);
+    if (sessions.isEmpty()) {
+        giveUp(error);
+        return;
+    }
+    std::optional<QDir> pictures;
+    if (options.isUnattended()) {
+        pictures = QDir(options.outputFolder);
+        connect(&window.player(), &SessionPlayer::pictureWritten, this, &announce);
+    }
+    auto* tour = new SessionTour(window, sessions, pictures);
+    connect(tour, &SessionTour::finished, this, [tour] {
+        for (const QString& failure : tour->getFailures()) {
+            complain(failure);
+        }
+        QCoreApplication::exit(tour->getFailures().isEmpty() ? 0 : kCheckpointStatus);
+    });
+    tour->start();
 }
 
 void StartUp::concludeSession()

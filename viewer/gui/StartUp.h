@@ -36,6 +36,7 @@ public:
 private:
     void showFiles();
     void playSession();
+    void goOnTour();
     void concludeSession();
     void conclude();
     void giveUp(const QString& text);

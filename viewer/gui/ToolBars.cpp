@@ -32,7 +32,7 @@ const std::vector<ToolBarRow>& toolBars()
         { "fileTools",
           QT_TRANSLATE_NOOP("viewer::ToolBars", "Files and steps"),
           Qt::TopToolBarArea,
-          { "fileOpen", "fileAdd", "filePicture", kGap, "undo", "redo" } },
+          { "fileOpen", "fileAdd", "sceneSave", "filePicture", kGap, "undo", "redo" } },
         { "settingTools",
           QT_TRANSLATE_NOOP("viewer::ToolBars", "Handles"),
           Qt::TopToolBarArea,

@@ -5,6 +5,7 @@
 #include "viewer/gui/AboutBox.h"
 #include "viewer/gui/MainWindow.h"
 #include "viewer/gui/PanelDocks.h"
+#include "viewer/gui/SceneFileActions.h"
 #include "viewer/gui/StepsPanel.h"
 #include "viewer/gui/ThemeIcon.h"
 #include "viewer/gui/ViewWidget.h"
@@ -180,16 +181,24 @@ QAction* WindowActions::addCommand(QMenu* menu, const char* command, const QStri
 void WindowActions::addFileMenu()
 {
     QMenu* menu = window.menuBar()->addMenu(tr("&File"));
-    add(menu, "fileOpen", tr("&Open…"), "Ctrl+O",
-        [this] { window.askForFiles(MainWindow::Opening::Replace); });
-    add(menu, "fileAdd", tr("&Add…"), "Ctrl+Shift+O",
-        [this] { window.askForFiles(MainWindow::Opening::Add); });
+    // A replay opens no dialogs, so shortcuts that do are not told.
+    addPlain(menu, "fileOpen", tr("&Open…"), "Ctrl+O",
+             [this](bool) { window.askForFiles(MainWindow::Opening::Replace); });
+    addPlain(menu, "fileAdd", tr("&Add…"), "Ctrl+Shift+O",
+             [this](bool) { window.askForFiles(MainWindow::Opening::Add); });
+    addPlain(menu, "sceneOpen", tr("Open s&cene…"), "Ctrl+Alt+O",
+             [this](bool) { window.scenes().askForScene(); });
     recentMenu = menu->addMenu(tr("Open &recent"));
     recentMenu->setToolTipsVisible(true);
     setRecentFiles({});
     add(menu, "fileStartScene", tr("S&tart scene"), "Ctrl+N", [this] { window.showStartScene(); });
     menu->addSeparator();
-    add(menu, "filePicture", tr("Save &picture…"), "Ctrl+S", [this] { window.askForPicture(); });
+    addPlain(menu, "sceneSave", tr("&Save scene"), "Ctrl+S",
+             [this](bool) { window.scenes().save(); });
+    addPlain(menu, "sceneSaveAs", tr("Save sc&ene as…"), "Ctrl+Shift+S",
+             [this](bool) { window.scenes().saveAs(); });
+    addPlain(menu, "filePicture", tr("Sa&ve picture…"), "Ctrl+E",
+             [this](bool) { window.askForPicture(); });
     menu->addSeparator();
     add(menu, "fileQuit", tr("&Quit"), "Ctrl+Q", [this] { window.close(); });
 }

@@ -12,6 +12,7 @@ namespace osg {
 namespace detail {
 
 extern UInt64 editCount;
+extern UInt64 sceneEditCount;
 
 }  // namespace detail
 
@@ -20,6 +21,14 @@ extern UInt64 editCount;
 inline UInt64 getEditCount()
 {
     return detail::editCount;
+}
+
+/// Moves with every edit of a node that has a parent or children, or of such a node's core, and
+/// when a node ends. While it stands still, all these are where they were, whatever cameras (with
+/// their beacons, which stand alone) and materials have gone through.
+inline UInt64 getSceneEditCount()
+{
+    return detail::sceneEditCount;
 }
 
 /// How often edits of the container ended with endEditCP or changedCP. 0 for null. Wraps after

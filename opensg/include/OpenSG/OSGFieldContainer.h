@@ -39,7 +39,7 @@ public:
 
     /// Called when an edit ends. Overrides end with Inherited::changed.
     /// @param whichField  mask of the fields that the edit names
-    virtual void changed(BitVector whichField, UInt32 origin);
+    virtual void changed(BitVector /*whichField*/, UInt32 /*origin*/) { }
 
     /// See FieldContainerPtr.
     Int32 getRefCount() const { return refCount; }

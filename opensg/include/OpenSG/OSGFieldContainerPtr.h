@@ -210,21 +210,28 @@ void setRefdCP(Pointer& variable, const Pointer& value)
 // == Edits
 
 /// Announces an edit. Setters write at once and need no announcement; null is accepted.
-void beginEditCP(const FieldContainerPtr& container, BitVector whichField = FieldBits::AllFields,
-                 UInt32 origin = ChangedOrigin::External);
-
-/// Ends an edit: counts the change (see OSGChangeCount.h) and calls `changed`. Null is accepted.
-void endEditCP(const FieldContainerPtr& container, BitVector whichField = FieldBits::AllFields,
-               UInt32 origin = ChangedOrigin::External);
+inline void beginEditCP(const FieldContainerPtr& /*container*/,
+                        BitVector /*whichField*/ = FieldBits::AllFields,
+                        UInt32 /*origin*/ = ChangedOrigin::External)
+{ }
 
 /// Reports a change without an edit around it.
 void changedCP(const FieldContainerPtr& container, BitVector whichField = FieldBits::AllFields,
                UInt32 origin = ChangedOrigin::External);
 
+/// Ends an edit: counts the change (see OSGChangeCount.h) and calls `changed`. Null is accepted.
+inline void endEditCP(const FieldContainerPtr& container,
+                      BitVector whichField = FieldBits::AllFields,
+                      UInt32 origin = ChangedOrigin::External)
+{
+    changedCP(container, whichField, origin);
+}
+
 /// Ends an edit without any reaction: nothing is counted, `changed` is not called.
-void endEditNotChangedCP(const FieldContainerPtr& container,
-                         BitVector whichField = FieldBits::AllFields,
-                         UInt32 origin = ChangedOrigin::External);
+inline void endEditNotChangedCP(const FieldContainerPtr& /*container*/,
+                                BitVector /*whichField*/ = FieldBits::AllFields,
+                                UInt32 /*origin*/ = ChangedOrigin::External)
+{ }
 
 /// An edit that lasts to the end of the scope; made by CPEdit and CPEditAll.
 class CPEditor

@@ -20,6 +20,10 @@ namespace osg {
 /// To-world matrices are kept per transform node and checked on use: a query walks up the ancestors
 /// comparing matrices and multiplies only below a place where one differs. So it is right also
 /// after a matrix was written without an edit, and equals the product from the root down.
+///
+/// An edit stamps the node and its ancestors; who reads a stamp gives the next edit a new one. So
+/// every edit shows to all who looked before it, and a thousand edits that nobody looks at in
+/// between walk up the tree once: above a node with the present stamp all have it.
 class Node : public AttachmentContainer
 {
     OSG_TYPE_ACCESS_(Node, AttachmentContainer);
@@ -114,7 +118,15 @@ public:
     void getWorldVolume(DynamicVolume& result);
 
     /// Marks the volumes of this node and of all ancestors as out of date.
-    void invalidateVolume();
+    void invalidateVolume()
+    {
+        volume.setValid(false);
+        // Above an invalid one all are invalid, or do not depend on it because a node is inactive.
+        for (Node* node = getParent().getCPtr(); node != nullptr && node->volume.isValid();
+             node = node->getParent().getCPtr()) {
+            node->volume.setValid(false);
+        }
+    }
 
     // == Copies and fields
 
@@ -134,8 +146,15 @@ public:
     /// An edit of children, core or mask invalidates the volumes from here up.
     void changed(BitVector whichField, UInt32 origin) override;
 
-    /// Counts edits in this node's subtree; see getTreeChangeCount in OSGChangeCount.h.
-    UInt64 getSubtreeChangeCount() const { return subtreeChangeCount; }
+    /// A number that grows between two calls if something in this node's subtree was edited; see
+    /// getTreeChangeCount in OSGChangeCount.h.
+    UInt64 getSubtreeChangeCount() const
+    {
+        if (lastChange == presentStamp) {
+            ++presentStamp;
+        }
+        return lastChange;
+    }
 
 protected:
     Node();
@@ -152,7 +171,14 @@ private:
     friend class ContainerCloner;
     struct WorldCache;
 
-    void noteSubtreeChange();
+    void noteSubtreeChange()
+    {
+        for (Node* node = this; node != nullptr && node->lastChange != presentStamp;
+             node = node->getParent().getCPtr()) {
+            node->lastChange = presentStamp;
+        }
+    }
+
     void attach(UInt32 index, const NodePtr& child);
     void removeAt(UInt32 index);
     void extendVolume();
@@ -162,11 +188,13 @@ private:
     NodePtr copyAlone(ContainerCloner* cloner) const;
     NodePtr copyTree(ContainerCloner* cloner) const;
 
+    static UInt64 presentStamp;  ///< of edits that nobody has seen yet
+
     // In this order what an edit below touches lies close together.
     SField<UInt32> sfTravMask { 0xffffffffu };
     SFNodePtr sfParent;
     SField<NodeCorePtr> sfCore;
-    UInt64 subtreeChangeCount = 0;
+    UInt64 lastChange = 0;  ///< stamp of the latest edit in the subtree
     DynamicVolume volume;
     std::unique_ptr<WorldCache> world;
     MFNodePtr mfChildren;

@@ -51,7 +51,8 @@ inline osg::Vec3f toFloat(const Vec3d& v)
 
 inline bool isFinite(const osg::Vec3f& v)
 {
-    return std::isfinite(v[0]) && std::isfinite(v[1]) && std::isfinite(v[2]);
+    // Only what is finite is nothing when taken from itself.
+    return (v[0] - v[0]) + (v[1] - v[1]) + (v[2] - v[2]) == 0.F;
 }
 
 /// The three floats have the same values.

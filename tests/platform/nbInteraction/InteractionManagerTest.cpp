@@ -101,45 +101,6 @@ TEST_F(InteractionManagerTest, TakerEndsTheDeliveryAndDisabledContextsAreLeftOut
     EXPECT_THAT(takeLog(log), ElementsAre("upper enabled", "upper mode precisionTool"));
 }
 
-TEST_F(InteractionManagerTest, TakenDragBelongsToItsContextUntilItsEnd)
-{
-    RecordingContext upper(log, "upper", Manipulator, { "process", "stop" });
-    RecordingContext lower(log, "lower", Tool, { "start" });
-    add(upper);
-    add(lower);
-
-    EXPECT_TRUE(send("start"));
-    EXPECT_EQ(&lower, manager.getDragContext());
-    send("process");
-    send("stop");
-
-    EXPECT_THAT(takeLog(log),
-                ElementsAre("upper start tool/select", "lower start tool/select",
-                            "lower process tool/select", "lower stop tool/select"));
-    EXPECT_FALSE(manager.isDragging());
-    send("process");
-    EXPECT_THAT(log, ElementsAre("upper process tool/select"));
-}
-
-TEST_F(InteractionManagerTest, DragThatNobodyTookGoesDownTheOrder)
-{
-    RecordingContext upper(log, "upper", Manipulator);
-    RecordingContext lower(log, "lower", Tool, { "process" });
-    add(upper);
-    add(lower);
-
-    EXPECT_FALSE(send("start"));
-    EXPECT_TRUE(manager.isDragging());
-    EXPECT_EQ(nullptr, manager.getDragContext());
-    log.clear();
-    EXPECT_TRUE(send("process"));
-    EXPECT_FALSE(send("stop"));
-
-    EXPECT_THAT(log,
-                ElementsAre("upper process tool/select", "lower process tool/select",
-                            "upper stop tool/select", "lower stop tool/select"));
-}
-
 TEST_F(InteractionManagerTest, DragEndedFromHereIsStoppedOnceAndItsRestIsDropped)
 {
     struct Row
@@ -181,54 +142,6 @@ TEST_F(InteractionManagerTest, DragEndedFromHereIsStoppedOnceAndItsRestIsDropped
         send("process");
         EXPECT_FALSE(log.empty());
     }
-}
-
-TEST_F(InteractionManagerTest, CancelTakesBackOnlyDragsThatMayHaveEdited)
-{
-    RecordingContext context(log, "a", Tool, { "start" });
-    add(context);
-    std::vector<DragEnd> ends;
-    context.onEvent = [&](const InteractionEvent& event) {
-        if (event.getEvent() == "stop") {
-            ends.push_back(manager.getDragEnd());
-        }
-    };
-    manager.setCancelHandler([this] { log.push_back("handler"); });
-
-    manager.cancelDrag();
-    send("start");
-    send("stop");
-    send("start");
-    manager.endDrag();
-    EXPECT_EQ(0, std::count(log.begin(), log.end(), "handler"));
-
-    send("start");
-    log.clear();
-    manager.cancelDrag();
-    manager.cancelDrag();
-    EXPECT_THAT(log, ElementsAre("a stop tool/select", "handler"));
-    EXPECT_THAT(ends, ElementsAre(DragEnd::Released, DragEnd::Interrupted, DragEnd::Cancelled));
-    EXPECT_EQ(DragEnd::Released, manager.getDragEnd());
-
-    log.clear();
-    send("start", "camera", "orbit");
-    manager.cancelDrag();
-    context.taken.clear();
-    send("start");
-    manager.cancelDrag();
-    EXPECT_EQ(0, std::count(log.begin(), log.end(), "handler"));
-}
-
-TEST_F(InteractionManagerTest, SecondStartStopsTheFormerDrag)
-{
-    RecordingContext context(log, "a", Tool, { "start" });
-    add(context);
-
-    send("start", "tool", "add");
-    send("start", "camera", "pan");
-
-    EXPECT_THAT(log, ElementsAre("a start tool/add", "a stop tool/add", "a start camera/pan"));
-    EXPECT_TRUE(manager.isDragging());
 }
 
 TEST_F(InteractionManagerTest, HoverTakenFromALowerContextEndsThere)

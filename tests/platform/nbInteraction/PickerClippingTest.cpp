@@ -21,47 +21,10 @@ protected:
         plane->setTransformNode(frame);
     }
 
-    void moveFrame(float x)
-    {
-        const osg::TransformPtr core = osg::TransformPtr::dcast(frame->getCore());
-        const nbEdit edit(core, osg::Transform::MatrixFieldMask);
-        osg::Matrix matrix;
-        matrix.setTranslate(x, 0.0f, 0.0f);
-        core->setMatrix(matrix);
-    }
-
     osg::NodePtr frame;
     osg::ClipPlane3DPtr plane;
     osg::NodePtr cut;
 };
-
-TEST_F(PickerClipping, WhatIsCutAwayIsNotHitAndWhatLiesBehindItIs)
-{
-    const osg::NodePtr cube = box(4.0f);
-    const osg::NodePtr wall = box(8.0f);
-    hang(cut, cube);
-    hang(nbScenegraph::getRootNode(), placed(0.0f, 0.0f, -10.0f, wall));
-
-    EXPECT_EQ(pickAt(420.0f, 300.0f), cube);
-    EXPECT_EQ(pickAt(380.0f, 300.0f), wall);
-    moveFrame(-1.5f);
-    EXPECT_EQ(pickAt(380.0f, 300.0f), cube);
-}
-
-TEST_F(PickerClipping, ThroughTheCutTheInsideIsSeen)
-{
-    const osg::NodePtr cube = box(4.0f);
-    hang(cut, cube);
-    {
-        const nbEdit edit(plane, osg::ClipPlane3D::EquationFieldMask);
-        plane->setEquation(osg::Vec4f(0.0f, 0.0f, -1.0f, 0.5f));
-    }
-
-    EXPECT_EQ(pickAt(400.0f, 300.0f), cube);
-
-    // The front half, z above 0.5, is gone: the ray meets the back wall from inside.
-    EXPECT_NEAR(picker.getHitPoint()[2], -2.0f, 1e-4f);
-}
 
 TEST_F(PickerClipping, SwitchedOffOrLiftedItCutsNothing)
 {

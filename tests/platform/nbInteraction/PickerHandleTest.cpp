@@ -6,8 +6,6 @@
 #include <OpenSG/OSGQuaternion.h>
 #include <OpenSG/OSGSimpleMaterial.h>
 
-#include <cmath>
-
 #include "PickerTestSupport.h"
 
 namespace {
@@ -65,19 +63,6 @@ TEST_F(PickerHandles, LineIsHitWithinTheToleranceBeyondItsDrawnHalfWidth)
     EXPECT_EQ(nameAt(401.0f, 300.0f), "");
 }
 
-TEST_F(PickerHandles, HitOfALineIsItsNearestPointAndFacesTheEye)
-{
-    hang(collider, line("line", 2.0f));
-    ASSERT_EQ(nameAt(403.0f, 284.0f), "line");
-
-    // Pixel centre y = 284.5 is 15.5 pixels above the middle.
-    EXPECT_NEAR((picker.getHitPoint() - osg::Pnt3f(0.0f, 15.5f / 30.0f, 0.0f)).length(), 0.0f,
-                1e-4f);
-    osg::Vec3f towardsEye = osg::Pnt3f(0.0f, 0.0f, 10.0f) - picker.getHitPoint();
-    towardsEye.normalize();
-    EXPECT_NEAR((picker.getHitNormal() - towardsEye).length(), 0.0f, 1e-4f);
-}
-
 TEST_F(PickerHandles, LeastDistanceOnScreenWinsOverDepth)
 {
     hang(collider, line("far", 1.0f));
@@ -118,21 +103,6 @@ TEST_F(PickerHandles, AtEqualDistanceTheNearerHandleWinsAndThenTheFirstInTheTree
     EXPECT_EQ(nameAt(400.0f, 300.0f), "second");
 }
 
-TEST_F(PickerHandles, UnnamedCopyAndMarkersAreNeverHit)
-{
-    const osg::NodePtr original = named("handle", box(1.0f));
-    const osg::NodePtr handles = placed(0.0f, 0.0f, 0.0f, original);
-    const osg::NodePtr copy = osg::cloneTree(handles);
-    hang(collider, copy);
-    hang(collider, handles);
-    hang(collider, placed(2.0f, 0.0f, 0.0f, box(1.0f)));
-
-    EXPECT_EQ(pickAt(400.0f, 300.0f), original);
-    EXPECT_EQ(pickAt(460.0f, 300.0f), osg::NullFC);
-    nbNodeUtils::setName(original, "");
-    EXPECT_EQ(pickAt(400.0f, 300.0f), osg::NullFC);
-}
-
 TEST_F(PickerHandles, SceneInFrontDoesNotHideAHandle)
 {
     hang(collider, named("handle", box(1.0f)));
@@ -154,30 +124,6 @@ TEST_F(PickerHandles, InactiveHandlesAreNotHit)
     }
 }
 
-TEST_F(PickerHandles, HandlesFollowTransformsAboveAndBelowThePickNodeAndTheCamera)
-{
-    const osg::NodePtr inner = placed(1.0f, 0.0f, 0.0f, named("handle", box(0.5f)));
-    const osg::NodePtr outer = placed(1.0f, 0.0f, 0.0f, inner);
-    hang(collider, outer);
-    picker.setPickNode(inner);
-    EXPECT_EQ(nameAt(460.0f, 300.0f), "handle");
-
-    osg::Matrix matrix;
-    matrix.setTranslate(-1.0f, 2.0f, 0.0f);
-    setMatrix(outer, matrix);
-    EXPECT_EQ(nameAt(460.0f, 300.0f), "");
-    EXPECT_EQ(nameAt(400.0f, 240.0f), "handle");
-    setMatrix(inner, matrix);
-    EXPECT_EQ(nameAt(340.0f, 180.0f), "handle");
-
-    widget.getUberCamera()->setFromAtUp({ -2.0f, 4.0f, 10.0f }, { -2.0f, 4.0f, 0.0f },
-                                        { 0.0f, 1.0f, 0.0f });
-    EXPECT_EQ(nameAt(340.0f, 180.0f), "");
-    EXPECT_EQ(nameAt(400.0f, 300.0f), "handle");
-    widget.resize(400, 300);
-    EXPECT_EQ(nameAt(200.0f, 150.0f), "handle");
-}
-
 TEST_F(PickerHandles, WithoutPickNodeMarkedSubtreesAreTested)
 {
     const osg::NodePtr manipulator = placed(-2.0f, 0.0f, 0.0f, named("manipulator", box(1.0f)));
@@ -193,23 +139,6 @@ TEST_F(PickerHandles, WithoutPickNodeMarkedSubtreesAreTested)
     EXPECT_EQ(nameAt(340.0f, 300.0f), "manipulator");
     EXPECT_EQ(nameAt(400.0f, 300.0f), "");
     EXPECT_EQ(nameAt(460.0f, 300.0f), "auxiliary");
-}
-
-TEST_F(PickerHandles, RingIsHitOnItsLineOnly)
-{
-    osg::Quaternion turn;
-    turn.setValueAsAxisDeg(1.0f, 0.0f, 0.0f, 90.0f);
-    osg::Matrix matrix;
-    matrix.setTransform(turn);
-    hang(collider, placed(matrix, named("ring", nbGeoFactory::makeLineTorus(2.0f, 72, false))));
-
-    // Radius 2: 60 pixels.
-    EXPECT_EQ(nameAt(460.0f, 300.0f), "ring");
-    EXPECT_EQ(nameAt(457.0f, 300.0f), "ring");
-    EXPECT_EQ(nameAt(400.0f, 240.0f), "ring");
-    EXPECT_EQ(nameAt(400.0f, 300.0f), "");
-    EXPECT_EQ(nameAt(400.0f + 60.0f * std::sqrt(0.5f), 300.0f + 60.0f * std::sqrt(0.5f)), "ring");
-    EXPECT_EQ(nameAt(450.0f, 300.0f), "");
 }
 
 TEST_F(PickerHandles, PartsBehindTheEyeAreCutOff)
@@ -252,37 +181,6 @@ TEST_F(PickerHandles, LineWidthIsThatOfTheMaterialInForce)
     setGroupMaterial(lineMaterial(4.0f));
     EXPECT_EQ(nameAt(404.0f, 300.0f), "");
     EXPECT_EQ(nameAt(401.0f, 300.0f), "line");
-}
-
-TEST_F(PickerHandles, HandlesAreHitInAnOrthographicView)
-{
-    const osg::UberCameraPtr camera = widget.getUberCamera();
-    {
-        const nbEdit edit(camera, osg::UberCamera::OrthographicFieldMask);
-        camera->setOrthographic(true);
-    }
-    hang(collider, placed(2.0f, 0.0f, 5.0f, named("handle", box(1.0f))));
-    hang(collider, placed(2.0f, 0.0f, 6.0f, named("nearer", box(0.2f))));
-
-    // 30 pixels per unit at every depth.
-    EXPECT_EQ(nameAt(472.0f, 300.0f), "handle");
-    EXPECT_NEAR((picker.getHitPoint() - osg::Pnt3f(72.5f / 30.0f, -0.5f / 30.0f, 5.5f)).length(),
-                0.0f, 1e-4f);
-    EXPECT_NEAR((picker.getHitNormal() - osg::Vec3f(0.0f, 0.0f, 1.0f)).length(), 0.0f, 1e-5f);
-    EXPECT_EQ(nameAt(460.0f, 300.0f), "nearer");
-}
-
-TEST_F(PickerHandles, DestroyedPickNodeIsNoPickNode)
-{
-    const osg::NodePtr handle = named("handle", box(1.0f));
-    hang(collider, handle);
-    picker.setPickNode(handle);
-    ASSERT_EQ(pickAt(400.0f, 300.0f), handle);
-
-    collider->subChild(handle);
-
-    EXPECT_EQ(picker.getPickNode(), osg::NullFC);
-    EXPECT_EQ(pickAt(400.0f, 300.0f), osg::NullFC);
 }
 
 }  // namespace

@@ -8,7 +8,6 @@
 
 #include <gmock/gmock.h>
 
-#include <cmath>
 #include <limits>
 
 using nbec::interaction::Picker;
@@ -45,29 +44,6 @@ protected:
         return names;
     }
 };
-
-TEST_F(PickerPlateTest, TurnedPlateIsHitExactlyWherePixelCentresLieOnIt)
-{
-    add("plate", { 300.f, 200.f, 90.f, 37.f, 33.f });
-    const double angle = 33.0 * 3.14159265358979 / 180.0;
-
-    int hits = 0;
-    for (int y = 120; y < 280; ++y) {
-        for (int x = 220; x < 380; ++x) {
-            const double right = x + 0.5 - 300.0;
-            const double up = 200.0 - (y + 0.5);
-            const bool isInside =
-                std::fabs(right * std::cos(angle) + up * std::sin(angle)) < 45.0 &&
-                std::fabs(up * std::cos(angle) - right * std::sin(angle)) < 18.5;
-            hits += isInside ? 1 : 0;
-            // Anywhere within the pixel.
-            ASSERT_EQ(pickAt(static_cast<float>(x) + 0.9f, static_cast<float>(y)) != osg::NullFC,
-                      isInside)
-                << x << ", " << y;
-        }
-    }
-    EXPECT_NEAR(hits, 90 * 37, 40);
-}
 
 TEST_F(PickerPlateTest, ForemostPlateIsHitWhateverTheSceneHides)
 {

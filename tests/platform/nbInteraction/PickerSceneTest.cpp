@@ -37,21 +37,6 @@ osg::Matrix turnedAndScaled(const osg::Vec3f& axis, float deg, const osg::Vec3f&
     return matrix;
 }
 
-TEST_F(PickerScene, NearestFaceIsHitToThePixel)
-{
-    const osg::NodePtr near = box(2.0f);
-    hang(scene, placed(0.0f, 0.0f, -5.0f, box(8.0f)));
-    hang(scene, near);
-
-    // The front face z = 1 lies at depth 9: its edge x = 1 is at 400 + 300 / 9 = 433.33.
-    EXPECT_EQ(pickAt(432.0f, 300.0f), near);
-    expectNear(picker.getHitPoint().subZero(),
-               { 32.5f / 300.0f * 9.0f, -0.5f / 300.0f * 9.0f, 1.0f });
-    expectNear(picker.getHitNormal(), { 0.0f, 0.0f, 1.0f });
-    EXPECT_EQ(pickAt(432.9f, 300.0f), near);
-    EXPECT_NE(pickAt(433.0f, 300.0f), near);
-}
-
 TEST_F(PickerScene, OrthographicViewHasParallelRays)
 {
     const osg::UberCameraPtr camera = widget.getUberCamera();

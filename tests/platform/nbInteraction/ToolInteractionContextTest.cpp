@@ -12,7 +12,6 @@ namespace nbec::interaction {
 namespace {
 
 using nbtest::CallLog;
-using nbtest::RecordingContext;
 using nbtest::RecordingTool;
 using nbtest::takeLog;
 using testing::ElementsAre;
@@ -56,23 +55,6 @@ TEST_F(ToolInteractionContextTest, EventsOfTheToolNameReachTheToolWithTheirHint)
     EXPECT_THAT(log, ElementsAre("t start "));
 }
 
-TEST_F(ToolInteractionContextTest, EndOfHoverReachesTheToolAndTheOthers)
-{
-    ToolInteractionContext context;
-    context.setTool(&tool);
-    RecordingContext below(log, "below", Background);
-    manager.addContext(&context);
-    manager.addContext(&below);
-    log.clear();
-
-    EXPECT_FALSE(context.triggerEvent(&manager, InteractionEvent("stopHover", "tool", "select")));
-    send("stopHover");
-
-    EXPECT_THAT(
-        log,
-        ElementsAre("t stopHover select", "t stopHover select", "below stopHover tool/select"));
-}
-
 TEST_F(ToolInteractionContextTest, ToolIsActiveWhileItsContextIsAddedAndEnabled)
 {
     ToolInteractionContext context;
@@ -92,24 +74,6 @@ TEST_F(ToolInteractionContextTest, ToolIsActiveWhileItsContextIsAddedAndEnabled)
     EXPECT_THAT(log,
                 ElementsAre("t activate ", "t mode tool", "t mode ", "t deactivate ", "t activate ",
                             "t mode precisionTool", "t mode tool", "t mode ", "t deactivate "));
-}
-
-TEST_F(ToolInteractionContextTest, ChangeOfToolStopsTheDragOfTheFormerOne)
-{
-    RecordingTool second(log, "s");
-    ToolInteractionContext context;
-    context.setTool(&tool);
-    manager.addContext(&context);
-    send("start");
-    log.clear();
-
-    context.setTool(&second);
-    send("process");
-    context.setTool(nullptr);
-
-    EXPECT_THAT(log,
-                ElementsAre("t stop select", "t mode ", "t deactivate ", "s activate ",
-                            "s mode tool", "s mode ", "s deactivate "));
 }
 
 TEST_F(ToolInteractionContextTest, DyingContextStopsAndDeactivatesItsTool)

@@ -25,20 +25,6 @@ protected:
 
 }  // namespace
 
-TEST_F(nbControllerTest, ReceiverRepliesIntoTheMessage)
-{
-    nbController::addReceiver("editor::getScaleValues", [](nbMessage& msg) {
-        msg.set("projectionSize", osg::Vec2f(2.f, 3.f), true);
-    });
-    nbMessage msg;
-
-    EXPECT_TRUE(nbController::call("editor::getScaleValues", msg, 0));
-
-    osg::Vec2f size;
-    EXPECT_TRUE(nbMessage::get(msg, "projectionSize", size));
-    EXPECT_EQ(size, osg::Vec2f(2.f, 3.f));
-}
-
 TEST_F(nbControllerTest, UnknownNamesAreSilentAndCounted)
 {
     nbController::addReceiver("updateMatRender", [](nbMessage&) {});

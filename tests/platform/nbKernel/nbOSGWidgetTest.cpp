@@ -19,7 +19,6 @@ using testing::ElementsAre;
 namespace {
 
 constexpr float kNan = std::numeric_limits<float>::quiet_NaN();
-constexpr float kTolerance = 1e-5f;
 
 int firstCalls = 0;
 int secondCalls = 0;
@@ -98,22 +97,6 @@ TEST(nbOSGWidget, ReportsExactlyTheCamerasFieldOfView)
     }
 }
 
-TEST(nbOSGWidget, ViewRayOfAWidgetWithoutAWindow)
-{
-    nbOSGWidget widget;
-    widget.resize(800, 600);
-    widget.getUberCamera()->setFov(90.f);
-    widget.getUberCamera()->setNear(1.f);
-    osg::Line ray;
-
-    ASSERT_TRUE(widget.getCamera()->calcViewRay(ray, 400, 301, *widget.getViewport()));
-
-    // The eye is at (0, 0, 10); y = 301 is the exact middle of 600 rows.
-    EXPECT_TRUE(ray.getPosition().equals(osg::Pnt3f(0.f, 0.f, 9.f), kTolerance));
-    EXPECT_TRUE(ray.getDirection().equals(osg::Vec3f(0.f, 0.f, -1.f), kTolerance));
-    EXPECT_FLOAT_EQ(widget.getUberCamera()->getRight(), 4.f / 3.f);
-}
-
 TEST(nbOSGWidget, SizeZeroIsAViewWithoutArea)
 {
     nbOSGWidget widget;
@@ -168,37 +151,12 @@ TEST(nbOSGWidget, IgnoresPositionsThatAreNoNumbers)
     widget.setMousePosition(osg::Pnt2f(kNan, 4.f));
     widget.setMousePosition(osg::Pnt2f(1.f, std::numeric_limits<float>::infinity()));
     EXPECT_EQ(widget.getMousePosition(), osg::Pnt2f(3.f, 4.f));
+    // Still a whole number of pixels for rays and rectangles.
+    widget.setMousePosition(osg::Pnt2f(-1e30f, 2e6f));
+    EXPECT_EQ(widget.getMousePosition(), osg::Pnt2f(-1e6f, 1e6f));
 
     widget.setPressPosition(osg::Pnt2f(kNan, 0.f));
     EXPECT_TRUE(widget.getMouseRect().isNull());
-}
-
-TEST(nbOSGWidget, MouseRectangleIsTheSameWhicheverWayItIsDrawn)
-{
-    nbOSGWidget widget;
-
-    const struct
-    {
-        const char* name;
-        osg::Pnt2f press;
-        osg::Pnt2f pointer;
-        QRect expected;
-    } rows[] = {
-        { "down right", { 10.f, 20.f }, { 12.f, 25.f }, QRect(10, 20, 3, 6) },
-        { "up left", { 12.f, 25.f }, { 10.f, 20.f }, QRect(10, 20, 3, 6) },
-        { "down left", { 12.f, 20.f }, { 10.f, 25.f }, QRect(10, 20, 3, 6) },
-        { "one pixel back", { 11.f, 20.f }, { 10.f, 20.f }, QRect(10, 20, 2, 1) },
-        { "a point", { 10.9f, 20.1f }, { 10.2f, 20.8f }, QRect(10, 20, 1, 1) },
-        { "past the edge", { 5.f, 5.f }, { -0.5f, -3.f }, QRect(-1, -3, 7, 9) },
-    };
-
-    for (const auto& row : rows) {
-        widget.setPressPosition(row.press);
-        widget.setMousePosition(row.pointer);
-        EXPECT_EQ(widget.getMouseRect(), row.expected) << row.name;
-    }
-    widget.clearPressPosition();
-    EXPECT_EQ(widget.getMouseRect().width(), 0);
 }
 
 TEST(nbOSGWidget, TellsItsObserverNoMoreThanNeeded)

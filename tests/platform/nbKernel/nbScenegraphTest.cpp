@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <nbKernel/nbOSGWidget.h>
 #include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
@@ -48,16 +47,4 @@ TEST(nbScenegraph, ClearFreesAllButWhatOthersHold)
     EXPECT_EQ(held->getParent(), osg::NullFC);
     EXPECT_TRUE(nbScenegraph::isPreselectionEnabled());
     EXPECT_EQ(nbScenegraph::getRootNode()->getNChildren(), 0u);
-}
-
-TEST(nbScenegraph, LiveViewportsFollowTheRoot)
-{
-    const nbOSGWidget widget;
-    const osg::NodePtr first = nbScenegraph::getWorldRoot();
-    EXPECT_EQ(widget.getViewport()->getRoot(), first);
-
-    nbScenegraph::clear();
-    EXPECT_EQ(widget.getViewport()->getRoot(), osg::NullFC);
-
-    EXPECT_EQ(nbScenegraph::getInternalRoot()->getParent(), widget.getViewport()->getRoot());
 }

@@ -69,110 +69,11 @@ TEST(nbPerspectiveSolver, GivesTheCameraOfExactLinesBack)
     }
 }
 
-TEST(nbPerspectiveSolver, LinesInSinglePrecisionAreExactEnough)
-{
-    const auto rounded = [](double value) {
-        return static_cast<double>(static_cast<float>(value));
-    };
-    for (const TypeRow& row : kTypeRows) {
-        SCOPED_TRACE(row.name);
-        forRandomCameras(row, 300, [&](PerspectiveProblem problem, const auto& aim, Studio&) {
-            for (QLineF& line : problem.lines) {
-                line = QLineF(rounded(line.x1()), rounded(line.y1()), rounded(line.x2()),
-                              rounded(line.y2()));
-            }
-            const PerspectiveSolution solution = nbPerspectiveSolver::solve(problem);
-            ASSERT_EQ(solution.result, nbCameraTypes::Solved);
-            EXPECT_LT(angleDeg(solution.aim, aim), kExactDeg);
-            EXPECT_NEAR(fovDeg(solution.aim, problem.height), fovDeg(aim, problem.height),
-                        kExactDeg);
-        });
-    }
-}
-
-TEST(nbPerspectiveSolver, AFixedFieldOfViewIsKept)
-{
-    for (const TypeRow& row : kTypeRows) {
-        SCOPED_TRACE(row.name);
-        forRandomCameras(row, 200, [&](PerspectiveProblem problem, const auto& aim, Studio&) {
-            problem.fovMode = nbCameraTypes::FixedFov;
-            problem.start.focalLength = aim.focalLength;
-            const PerspectiveSolution solution = nbPerspectiveSolver::solve(problem);
-            ASSERT_EQ(solution.result, nbCameraTypes::SolvedWithKeptFov);
-            EXPECT_EQ(solution.aim.focalLength, aim.focalLength);
-            EXPECT_LT(angleDeg(solution.aim, aim), 1e-6);
-        });
-    }
-}
-
-/// Errors that noise of the lines' ends makes at most: the sum of the absolute slopes of the
-/// solution, by central differences, times the noise. That is the first order; the second is
-/// allowed for by a tenth, and cameras where it is more than that are no cases for a linear bound.
-struct NoiseBound
-{
-    double angleDeg = 0.0;
-    double fovDeg = 0.0;
-};
-
 QLineF moved(const QLineF& line, int coordinate, double way)
 {
     double values[] = { line.x1(), line.y1(), line.x2(), line.y2() };
     values[coordinate] += way;
     return QLineF(values[0], values[1], values[2], values[3]);
-}
-
-NoiseBound predictNoise(const PerspectiveProblem& problem)
-{
-    constexpr double kStep = 1e-7;
-    NoiseBound bound;
-    for (int end = 0; end < 24; ++end) {
-        PerspectiveAim aims[2];
-        for (int side = 0; side < 2; ++side) {
-            PerspectiveProblem changed = problem;
-            QLineF& line = changed.lines[end / 4];
-            line = moved(line, end % 4, side == 0 ? -kStep : kStep);
-            aims[side] = nbPerspectiveSolver::solve(changed).aim;
-        }
-        bound.angleDeg += angleDeg(aims[0], aims[1]) / (2.0 * kStep) * kHalfPixel;
-        bound.fovDeg +=
-            std::abs(fovDeg(aims[1], problem.height) - fovDeg(aims[0], problem.height)) /
-            (2.0 * kStep) * kHalfPixel;
-    }
-    return bound;
-}
-
-TEST(nbPerspectiveSolver, HalfAPixelOfNoiseCostsWhatTheGeometryPredicts)
-{
-    // Bounds above this are too far from linear to be compared.
-    constexpr double kMostBoundDeg = 3.0;
-    constexpr double kSecondOrder = 1.1;
-    for (const TypeRow& row : kTypeRows) {
-        SCOPED_TRACE(row.name);
-        int compared = 0;
-        double worstPart = 0.0;
-        forRandomCameras(
-            row, 150, [&](PerspectiveProblem problem, const auto& aim, Studio& studio) {
-                const NoiseBound bound = predictNoise(problem);
-                if (bound.angleDeg > kMostBoundDeg || bound.fovDeg > kMostBoundDeg) {
-                    return;
-                }
-                ++compared;
-                for (QLineF& line : problem.lines) {
-                    for (int coordinate = 0; coordinate < 4; ++coordinate) {
-                        line = moved(line, coordinate, studio.between(-kHalfPixel, kHalfPixel));
-                    }
-                }
-                const PerspectiveSolution solution = nbPerspectiveSolver::solve(problem);
-                ASSERT_EQ(solution.result, nbCameraTypes::Solved);
-                EXPECT_LT(angleDeg(solution.aim, aim), kSecondOrder * bound.angleDeg);
-                EXPECT_LT(
-                    std::abs(fovDeg(solution.aim, problem.height) - fovDeg(aim, problem.height)),
-                    kSecondOrder * bound.fovDeg);
-                worstPart = std::max(worstPart, angleDeg(solution.aim, aim) / bound.angleDeg);
-            });
-        EXPECT_GT(compared, 50);
-        EXPECT_GT(worstPart, 0.2) << "the bound says nothing";
-    }
 }
 
 TEST(nbPerspectiveSolver, ThreeAxesAreFittedTogetherAndAverageNoise)
@@ -249,25 +150,6 @@ TEST(nbPerspectiveSolver, ParallelLinesKeepTheFieldOfViewUnlessTwoOthersMeet)
             EXPECT_NEAR(fovDeg(solution.aim, 1.0), fovDeg(aim, 1.0), kExactDeg);
         }
     }
-}
-
-TEST(nbPerspectiveSolver, AxesAtAnAcuteAngleKeepTheFieldOfView)
-{
-    // Both meet to the right of the middle, which perpendicular directions never do.
-    PerspectiveProblem problem;
-    problem.type = nbCameraTypes::XZLines;
-    problem.lines[0] = QLineF(0.0, 0.2, 0.5, 0.3);
-    problem.lines[1] = QLineF(0.0, 0.8, 0.5, 0.7);
-    problem.lines[4] = QLineF(0.0, 0.1, 0.5, 0.2);
-    problem.lines[5] = QLineF(0.0, 0.7, 0.5, 0.5);
-    problem.start.focalLength = 1.7;
-
-    const PerspectiveSolution solution = nbPerspectiveSolver::solve(problem);
-
-    EXPECT_EQ(solution.result, nbCameraTypes::SolvedWithKeptFov);
-    EXPECT_EQ(solution.aim.focalLength, 1.7);
-    EXPECT_NEAR(solution.aim.right.length(), 1.0, 1e-12);
-    EXPECT_NEAR(solution.aim.right.cross(solution.aim.up).dot(solution.aim.back), 1.0, 1e-12);
 }
 
 TEST(nbPerspectiveSolver, AnyLinesGiveACameraOrARefusal)
@@ -366,59 +248,6 @@ TEST(nbPerspectiveSolver, TakesTheSignsNearestToTheCameraAsItStands)
             EXPECT_LT(angleDeg(solution.aim, equal), 1e-4) << "type " << type;
         }
     }
-}
-
-TEST(nbPerspectiveSolver, LinesLaidAsSeenGiveThePoseBack)
-{
-    Studio studio(11);
-    for (int i = 0; i < 200; ++i) {
-        CameraPose pose;
-        const PerspectiveAim aim = studio.camera();
-        pose.from = osg::Pnt3f(osg::Vec3f(aim.back * 6.0 + Vec3d(20.0, -3.0, 1.0)));
-        pose.at = osg::Pnt3f(20.f, -3.f, 1.f);
-        pose.up = osg::Vec3f(aim.up);
-        pose.pivot = osg::Pnt3f(20.3f, -3.2f, 1.1f);
-        pose.fovDeg = static_cast<float>(studio.between(15.0, 90.0));
-        PerspectiveProblem problem;
-        problem.width = studio.between(0.5, 2.0);
-        problem.lines = nbPerspectiveSolver::linesOf(pose, problem.width, problem.height);
-        problem.start = nbPerspectiveSolver::aimOf(pose, problem.height);
-
-        const PerspectiveSolution solution = nbPerspectiveSolver::solve(problem);
-        const CameraPose result = nbPerspectiveSolver::turned(pose, solution.aim, problem.height);
-
-        ASSERT_TRUE(nbCameraTypes::isSolved(solution.result)) << i;
-        EXPECT_LT(result.from.dist(pose.from), 1e-4) << i;
-        EXPECT_LT(result.at.dist(pose.at), 1e-4) << i;
-        EXPECT_NEAR(result.fovDeg, pose.fovDeg, 1e-3) << i;
-    }
-}
-
-TEST(nbPerspectiveSolver, ATurnedPoseKeepsItsPivotInPlace)
-{
-    CameraPose pose;
-    pose.from = osg::Pnt3f(1.f, 2.f, 9.f);
-    pose.at = osg::Pnt3f(1.f, 2.f, 4.f);
-    pose.pivot = osg::Pnt3f(2.f, 1.5f, 3.f);
-    const PerspectiveAim aim = threeQuarterAim();
-
-    const CameraPose result = nbPerspectiveSolver::turned(pose, aim, 1.0);
-
-    const osg::Vec3f before = pose.pivot - pose.from;
-    const osg::Vec3f after = result.pivot - result.from;
-    const nbCameraNavigation::Axes axes = nbCameraNavigation::axes(result);
-    EXPECT_EQ(result.pivot, pose.pivot);
-    EXPECT_NEAR(axes.right.dot(after), before.x(), 1e-5);
-    EXPECT_NEAR(axes.up.dot(after), before.y(), 1e-5);
-    EXPECT_NEAR(axes.back.dot(after), before.z(), 1e-5);
-    EXPECT_NEAR(result.from.dist(result.at), 5.f, 1e-5);
-    EXPECT_NEAR(result.fovDeg, fovDeg(aim, 1.0), 1e-4);
-    EXPECT_LT(angleDeg(nbPerspectiveSolver::aimOf(result, 1.0), aim), 1e-4);
-
-    pose.pivot = osg::Pnt3f(0.f, 0.f, 20.f);  // behind the eye: turns about at
-    const CameraPose aboutAt = nbPerspectiveSolver::turned(pose, aim, 1.0);
-    EXPECT_LT(aboutAt.at.dist(pose.at), 1e-5);
-    EXPECT_NEAR(aboutAt.from.dist(pose.at), 5.f, 1e-5);
 }
 
 }  // namespace

@@ -4,12 +4,9 @@
 #include <nbKernelServices/nbUndoRecord.h>
 #include <nbKernelServices/nbUndoService.h>
 #include <nbOpenSGExt/Transform3D.h>
-#include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
-#include <nbOpenSGUtils/nbTransformState.h>
 #include <nbTransform/nbTransformModel.h>
 
-#include <OpenSG/OSGComponentTransform.h>
 #include <OpenSG/OSGGroup.h>
 #include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGRefPtr.h>
@@ -19,10 +16,8 @@
 #include <gtest/gtest.h>
 
 #include <memory>
-#include <vector>
 
 using osg::Transform3D;
-using osg::Transform3DPtr;
 using osg::Vec3f;
 
 namespace {
@@ -85,24 +80,6 @@ protected:
 
 // == Scopes
 
-TEST_F(nbUndoServiceTest, EachScopeIsAStepWithATitle)
-{
-    moveTo(1.f);
-    moveTo(2.f);
-
-    EXPECT_EQ(2, undo->getStack()->count());
-    EXPECT_EQ("Move", undo->getStack()->undoText());
-    EXPECT_TRUE(undo->undo());
-    EXPECT_EQ(1.f, place());
-    EXPECT_TRUE(undo->undo());
-    EXPECT_EQ(0.f, place());
-    EXPECT_FALSE(undo->undo());
-    EXPECT_TRUE(undo->redo());
-    EXPECT_TRUE(undo->redo());
-    EXPECT_FALSE(undo->redo());
-    EXPECT_EQ(2.f, place());
-}
-
 TEST_F(nbUndoServiceTest, NestedScopesJoinTheOuterOneAndTheFirstTitleHolds)
 {
     {
@@ -158,72 +135,7 @@ TEST_F(nbUndoServiceTest, RecordsOfOthersAreTakenBackTogetherWithTransforms)
     EXPECT_EQ(1, undo->getStack()->count());
 }
 
-TEST_F(nbUndoServiceTest, AllPartsComeBackBitForBit)
-{
-    const auto core = Transform3DPtr::dcast(node->getCore());
-    {
-        const nbEdit edit(core, Transform3D::PartsFieldMask);
-        core->setTranslation(Vec3f(0.1f, 0.2f, 0.3f));
-        core->setRotation(Vec3f(11.f, 22.f, 33.f));
-        core->setScale(Vec3f(1.1f, 0.7f, 3.f));
-    }
-    const nbTransformState before = nbTransformState::of(*core);
-    const osg::Matrix matrix = core->getMatrix();
-    nbTransformModel* const model = nbTransformModel::the();
-    const auto value = [&](osg::UInt32) {
-        return nbTransformModel::Value({ node, -1 }, Vec3f(3.f, -4.f, 5.f));
-    };
-
-    undo->beginGroup();
-    model->setTranslation(1, true, value);
-    model->setRotation(1, value);
-    model->setScale(1, value);
-    model->setRotationPivot(1, true, value);
-    model->setScalePivot(1, true, value);
-    model->setRotationPivotOrientation(1, value);
-    undo->endGroup();
-    const nbTransformState after = nbTransformState::of(*core);
-    ASSERT_FALSE(before.isSame(after));
-
-    ASSERT_TRUE(undo->undo());
-    EXPECT_TRUE(before.isSame(*core));
-    for (osg::UInt32 i = 0; i < 16; ++i) {
-        EXPECT_EQ(matrix.getValues()[i], core->getMatrix().getValues()[i]);
-    }
-    ASSERT_TRUE(undo->redo());
-    EXPECT_TRUE(after.isSame(*core));
-}
-
 // == Groups
-
-TEST_F(nbUndoServiceTest, AGroupIsOneStepOverItsScopes)
-{
-    undo->beginGroup(QStringLiteral("Drag"));
-    moveTo(1.f);
-    moveTo(2.f);
-    EXPECT_EQ(0, undo->getStack()->count());
-    undo->endGroup();
-
-    EXPECT_EQ(1, undo->getStack()->count());
-    EXPECT_EQ("Drag", undo->getStack()->undoText());
-    undo->undo();
-    EXPECT_EQ(0.f, place());
-}
-
-TEST_F(nbUndoServiceTest, AGroupThatEndsWhereItBeganLeavesNoneAndKeepsRedo)
-{
-    moveTo(1.f);
-    undo->undo();
-
-    undo->beginGroup();
-    moveTo(2.f);
-    moveTo(0.f);
-    undo->endGroup();
-
-    EXPECT_EQ(0, undo->getStack()->index());
-    EXPECT_TRUE(undo->redo());
-    EXPECT_EQ(1.f, place());
-}
 
 TEST_F(nbUndoServiceTest, CancellingTakesBackWithoutRedo)
 {
@@ -289,31 +201,6 @@ TEST_F(nbUndoServiceTest, EndsWithinAScopeWaitForTheScope)
     EXPECT_EQ(0.f, place());
 }
 
-TEST_F(nbUndoServiceTest, TargetsInAnyOrderAndSharedCoresAreFoundAgain)
-{
-    const osg::NodePtr other = osg::makeNodeFor(Transform3D::create());
-    const osg::NodePtr twin = osg::makeNodeFor(node->getCore());
-    root->addChild(other);
-    root->addChild(twin);
-    const std::vector<std::vector<osg::NodePtr>> passes { { node, other, twin },
-                                                          { twin, other },
-                                                          { other, node } };
-    undo->beginGroup();
-    float x = 1.f;
-    for (const auto& pass : passes) {
-        nbTransformModel::the()->setTranslation(
-            static_cast<osg::UInt32>(pass.size()), false, [&](osg::UInt32 i) {
-                return nbTransformModel::Value({ pass[i], -1 }, Vec3f(x++, 0.f, 0.f));
-            });
-    }
-    undo->endGroup();
-
-    undo->undo();
-
-    EXPECT_EQ(0.f, place());
-    EXPECT_EQ(0.f, nbNodeUtils::getTransformNodeTranslation(other)[0]);
-}
-
 TEST_F(nbUndoServiceTest, WhatWasDestroyedIsPassedOver)
 {
     const osg::NodePtr other = osg::makeNodeFor(Transform3D::create());
@@ -360,25 +247,4 @@ TEST_F(nbUndoServiceTest, ConversionsBeforeTheFirstScopeBelongToItsStep)
     ASSERT_EQ(1u, plain->getNChildren());
     EXPECT_EQ(group, plain->getChild(0)->getCore());
     EXPECT_EQ(plain, child->getParent()->getParent());
-}
-
-TEST_F(nbUndoServiceTest, AConversionAloneIsNoStepAndACancelledOneIsTakenBack)
-{
-    const osg::ComponentTransformPtr core = osg::ComponentTransform::create();
-    const osg::NodePtr plain = osg::makeNodeFor(core);
-    root->addChild(plain);
-
-    undo->beginGroup();
-    nbNodeUtils::convertToTransform3DNode(plain);
-    moveTo(plain, 1.f);
-    undo->cancelGroup();
-    EXPECT_EQ(osg::NodeCorePtr(core), plain->getCore());
-
-    undo->beginGroup();
-    nbNodeUtils::convertToTransform3DNode(plain);
-    undo->endGroup();
-    EXPECT_EQ(0, undo->getStack()->count());
-    moveTo(plain, 1.f);
-    undo->undo();
-    EXPECT_EQ(osg::NodeCorePtr(core), plain->getCore());
 }

@@ -196,28 +196,6 @@ TEST_F(nbdPerspectiveMatchTest, RefusalsLeaveTheCameraUntouched)
     EXPECT_TRUE(isSamePlace(camera->getPose(), before));
 }
 
-TEST_F(nbdPerspectiveMatchTest, EachScopeIsAStepAndUndoRestoresBitForBit)
-{
-    stepAside();
-    const CameraPose startPose = camera->getPose();
-    const QLineF startLine = match.getXLine1();
-
-    dragLine(0.02);
-    dragLine(0.0);
-    const CameraPose endPose = camera->getPose();
-    const QLineF endLine = match.getXLine1();
-    EXPECT_EQ(undo->getStack()->count(), 2);
-
-    changes.clear();
-    EXPECT_TRUE(undo->undo() && undo->undo());
-    EXPECT_TRUE(isSamePlace(camera->getPose(), startPose));
-    EXPECT_TRUE(isSameLine(match.getXLine1(), startLine));
-    EXPECT_THAT(changes, testing::Contains("match xLine1"));
-    EXPECT_TRUE(undo->redo() && undo->redo());
-    EXPECT_TRUE(isSamePlace(camera->getPose(), endPose));
-    EXPECT_TRUE(isSameLine(match.getXLine1(), endLine));
-}
-
 TEST_F(nbdPerspectiveMatchTest, AGroupIsOneStepOrNoneAndCanBeTakenBack)
 {
     stepAside();
@@ -251,21 +229,6 @@ TEST_F(nbdPerspectiveMatchTest, AGroupIsOneStepOrNoneAndCanBeTakenBack)
     undo->cancelGroup();
     EXPECT_TRUE(isSamePlace(camera->getPose(), startPose));
     EXPECT_TRUE(isSameLine(match.getXLine1(), startLine));
-}
-
-TEST_F(nbdPerspectiveMatchTest, UndoOfASettingLeavesTheCameraThatWasTurnedSince)
-{
-    {
-        const nbScopedUndo scope(true);
-        match.setMagnifyFactor(9.f);
-    }
-    stepAside();
-    const CameraPose pose = camera->getPose();
-
-    EXPECT_TRUE(undo->undo());
-
-    EXPECT_EQ(match.getMagnifyFactor(), nbdPerspectiveMatch::kDefaultMagnifyFactor);
-    EXPECT_TRUE(isSamePlace(camera->getPose(), pose));
 }
 
 TEST_F(nbdPerspectiveMatchTest, LinesStayInPlaceOrWithTheMiddleWhenTheViewChangesItsShape)

@@ -28,31 +28,6 @@ protected:
 
 // == Messages
 
-TEST_F(TextureValuesTest, TriplanarValuesAreTakenAsTheyComeAndScalesAreReciprocals)
-{
-    send(kTriplanar,
-         { { "YOffset", osg::Vec2f(-0.5f, 0.25f) }, { "ZOffset", osg::Vec2f(1.f, 2.f) } });
-    send(kTriplanar,
-         { { "XScale", osg::Vec2f(0.5f, 4.f) },
-           { "ZScale", osg::Vec2f(-2.f, 0.25f) },
-           { "somethingElse", 1 } });
-    send(kTriplanar, { { "rotate", osg::Vec3f(0.1f, 0.2f, 0.3f) } });
-    send(kTriplanar, { { "rotate", osg::Vec3f(0.4f, 0.5f, 0.6f) } });
-
-    expectNear(values().triplanarOffsetU, { 0.f, -0.5f, 1.f }, "offset u");
-    expectNear(values().triplanarOffsetV, { 0.f, 0.25f, 2.f }, "offset v");
-    expectNear(values().triplanarRepeatU, { 2.f, 1.f, -0.5f }, "repeat u");
-    expectNear(values().triplanarRepeatV, { 0.25f, 1.f, 4.f }, "repeat v");
-    expectNear(values().triplanarRotation, { 0.4f, 0.5f, 0.6f }, "not summed up");
-    EXPECT_EQ(settings->getTextureProjectionType(), Settings::PlanarProjection) << "not switched";
-    EXPECT_EQ(nbController::getModified(), 1);
-    EXPECT_EQ(gui.told, std::vector<std::string>(4, kDiffuse));
-    EXPECT_EQ(steps(), 4);
-    EXPECT_TRUE(log.empty());
-    while (undo->undo()) { }
-    EXPECT_EQ(values(), nbTextureValues());
-}
-
 TEST_F(TextureValuesTest, UvAndTireValuesAreTakenAsTheyCome)
 {
     send(kUv, { { "offset", osg::Vec2f(0.5f, -3.f) } });

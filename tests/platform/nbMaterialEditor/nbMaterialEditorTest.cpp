@@ -32,14 +32,6 @@ protected:
              { { "hitNode", node }, { "hitPoint", point }, { "hitNormal", normal } });
     }
 
-    static void endDrag()
-    {
-        nbMessage message;
-        message.set("enabled", true, true);
-        nbController::call("setMatRenderEnabled", message, 0);
-        nbController::call("updateMatRender", 0);
-    }
-
     /// A direction of the projection's frame, in the object's space.
     osg::Vec3f direction(float x, float y, float z) const
     {
@@ -52,34 +44,6 @@ protected:
 }  // namespace
 
 // == Changes by manipulators
-
-TEST_F(nbMaterialEditorTest, TotalsAddToTheProjectionAsItWasWhenTheDragBegan)
-{
-    projection()->setTranslation(osg::Vec3f(10.f, 0.f, 0.f));
-    change({ { "offset", osg::Vec2f(9.f, 9.f) }, { "transVec", osg::Vec3f(1.f, 0.f, 0.f) } });
-    change({ { "offset", osg::Vec2f(9.f, 9.f) }, { "transVec", osg::Vec3f(3.f, 2.f, 0.f) } });
-    expectNear(projection()->getTranslation(), { 13.f, 2.f, 0.f }, "not summed up");
-    expectNear(osg::Vec3f(projection()->getMatrix()[3][0], projection()->getMatrix()[3][1], 0.f),
-               { 13.f, 2.f, 0.f }, "the matrix follows");
-
-    endDrag();
-    change({ { "transVec", osg::Vec3f(1.f, 0.f, 0.f) } });
-    expectNear(projection()->getTranslation(), { 14.f, 2.f, 0.f }, "after a drag's end");
-    undo->beginGroup();
-    change({ { "transVec", osg::Vec3f(1.f, 0.f, 0.f) } });
-    expectNear(projection()->getTranslation(), { 15.f, 2.f, 0.f }, "in a group");
-    undo->beginGroup();
-    change({ { "transVec", osg::Vec3f(1.f, 0.f, 0.f) } });
-    expectNear(projection()->getTranslation(), { 16.f, 2.f, 0.f }, "in the next group");
-    undo->endGroup();
-    editor->setMaterial(material.get(), object, kDiffuse);
-    change({ { "transVec", osg::Vec3f(1.f, 0.f, 0.f) } });
-    expectNear(projection()->getTranslation(), { 17.f, 2.f, 0.f }, "after setMaterial");
-    ASSERT_TRUE(undo->undo());
-    change({ { "transVec", osg::Vec3f(2.f, 0.f, 0.f) } });
-    expectNear(projection()->getTranslation(), { 18.f, 2.f, 0.f }, "after undo");
-    EXPECT_TRUE(log.empty());
-}
 
 TEST_F(nbMaterialEditorTest, OffsetAloneMovesWithinThePlaneAndRotateTurnsBackwardsAboutOwnZ)
 {
@@ -167,45 +131,6 @@ TEST_F(nbMaterialEditorTest, WrongMessagesLeaveEverythingAndCostOneLine)
     EXPECT_TRUE(gui.told.empty());
 }
 
-TEST_F(nbMaterialEditorTest, ADragIsOneStepByGroupingAndUndoneBitForBit)
-{
-    projection()->setTranslation(osg::Vec3f(0.1f, 0.2f, 0.3f));
-    projection()->setEulerRotation(osg::Vec3f(10.f, 20.f, 30.f));
-    const nbTransformState before = nbTransformState::of(*projection());
-
-    undo->beginGroup();
-    for (int i = 1; i <= 10; ++i) {
-        change({ { "clamping", true },
-                 { "rotate", 0.1f * static_cast<float>(i) },
-                 { "transVec", osg::Vec3f(0.3f * static_cast<float>(i), 0.f, 0.f) } });
-    }
-    undo->endGroup();
-    EXPECT_EQ(steps(), 1);
-    EXPECT_EQ(nbController::getModified(), 1);
-    EXPECT_EQ(gui.told, std::vector<std::string>(10, kDiffuse));
-    const nbTransformState after = nbTransformState::of(*projection());
-
-    ASSERT_TRUE(undo->undo());
-    EXPECT_TRUE(before.isSame(*projection()));
-    EXPECT_FALSE(settings->hasPlanarProjectionFlag(Settings::ClampZ));
-    ASSERT_TRUE(undo->redo());
-    EXPECT_TRUE(after.isSame(*projection()));
-    EXPECT_TRUE(settings->hasPlanarProjectionFlag(Settings::ClampZ));
-
-    undo->beginGroup();
-    change({ { "rotate", 0.4f }, { "transVec", osg::Vec3f(1.f, 0.f, 0.f) } });
-    change({ { "rotate", 0.f }, { "transVec", osg::Vec3f(0.f, 0.f, 0.f) } });
-    undo->endGroup();
-    EXPECT_EQ(steps(), 1) << "a drag that ends where it began";
-
-    nbController::setModified(0);
-    gui.told.clear();
-    change({ { "scale", projection()->getScale() } });
-    EXPECT_EQ(nbController::getModified(), 0) << "nothing changed";
-    EXPECT_TRUE(gui.told.empty());
-    EXPECT_EQ(steps(), 1);
-}
-
 TEST_F(nbMaterialEditorTest, ScaleValuesTellTheSizeAndWhatThePictureNeeds)
 {
     projection()->setScale(osg::Vec3f(2.f, 3.f, 4.f));
@@ -233,30 +158,6 @@ TEST_F(nbMaterialEditorTest, ScaleValuesTellTheSizeAndWhatThePictureNeeds)
 }
 
 // == Placing
-
-TEST_F(nbMaterialEditorTest, PlacingPutsTheCentreOnThePointAndZOnTheNormal)
-{
-    {
-        const nbEdit edit(place, osg::Transform3D::PartsFieldMask);
-        place->setTranslation(osg::Vec3f(5.f, 0.f, 0.f));
-        place->setRotation(osg::Vec3f(0.f, 90.f, 0.f));
-        place->setScale(osg::Vec3f(2.f, 1.f, 1.f));
-    }
-    projection()->setScale(osg::Vec3f(0.5f, 0.5f, 0.5f));
-    // The object's X looks to the world's -Z and is twice as long.
-    placeTexture(object, osg::Pnt3f(5.f, 0.5f, -2.f), osg::Vec3f(0.f, 0.f, -1.f));
-    expectNear(projection()->getTranslation(), { 1.f, 0.5f, 0.f }, "point");
-    expectNear(direction(0.f, 0.f, 1.f), { 0.5f, 0.f, 0.f }, "z on the normal");
-    expectNear(direction(0.f, 1.f, 0.f), { 0.f, 0.5f, 0.f }, "up stays up");
-
-    // A normal across the uneven scale: the surface x + z = c of the object.
-    endDrag();
-    placeTexture(object, osg::Pnt3f(5.f, 0.f, 0.f), osg::Vec3f(2.f, 0.f, -1.f));
-    const float half = 0.5f * std::sqrt(0.5f);
-    expectNear(direction(0.f, 0.f, 1.f), { half, 0.f, half }, "by the transposed matrix");
-    EXPECT_EQ(nbController::getModified(), 1);
-    EXPECT_EQ(steps(), 2) << "without a group each is a step";
-}
 
 TEST_F(nbMaterialEditorTest, PlacingAlongAWayKeepsTheTurnWhateverTheWay)
 {

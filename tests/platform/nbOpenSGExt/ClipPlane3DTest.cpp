@@ -52,33 +52,6 @@ protected:
 
 }  // namespace
 
-TEST_F(ClipPlane3DTest, IsInTheFrameOfItsOwnNodeWithoutATransformNode)
-{
-    // The plane y = 0 turned by 90 degrees about z looks to -x; it goes through (4, 0, 0).
-    place(transform, osg::Vec3f(4.f, 0.f, 0.f), osg::Vec3f(0.f, 0.f, 90.f),
-          osg::Vec3f(2.f, 3.f, 4.f));
-
-    expectEquation(-1.f, 0.f, 0.f, 4.f);
-}
-
-TEST_F(ClipPlane3DTest, FollowsItsTransformNodeUntilThatIsDestroyed)
-{
-    const osg::Transform3DPtr mover = osg::Transform3D::create();
-    {
-        const osg::NodeRefPtr moverNode(osg::makeNodeFor(mover));
-        core->setTransformNode(moverNode);
-        core->setEquation(osg::Vec4f(0.f, 0.f, 2.f, -4.f));
-        place(mover, osg::Vec3f(1.f, 1.f, 1.f), osg::Vec3f(0.f, 90.f, 0.f),
-              osg::Vec3f(1.f, 1.f, 3.f));
-
-        // z = 2, three times as far, turned to x: x = 6 from (1,1,1).
-        expectEquation(1.f, 0.f, 0.f, -7.f);
-    }
-
-    EXPECT_TRUE(core->getTransformNode() == osg::NullFC);
-    expectEquation(0.f, 0.f, 1.f, -2.f);
-}
-
 TEST_F(ClipPlane3DTest, KeepsTheSameSideUnderMirrorsAndUnevenScales)
 {
     core->setEquation(osg::Vec4f(1.f, 1.f, 0.f, -1.f));

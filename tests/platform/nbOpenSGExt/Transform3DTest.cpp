@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include <nbOpenSGExt/Transform3D.h>
-#include <nbOpenSGExt/nbEulerRotation.h>
 #include <nbOpenSGUtils/nbEdit.h>
 
 #include <OpenSG/OSGRefPtr.h>
@@ -97,61 +96,4 @@ TEST(Transform3D, RotationMaskRebuildsTheMatrix)
     }
 
     expectImage(transform->getMatrix(), osg::Pnt3f(1.f, 0.f, 0.f), osg::Pnt3f(0.f, 1.f, 0.f));
-}
-
-TEST(nbEulerRotation, OrderSaysWhichAxisTurnsFirst)
-{
-    const osg::Vec3f angles(90.f, 90.f, 0.f);
-
-    struct Row
-    {
-        const char* order;
-        osg::Vec3f imageOfY;
-    };
-
-    // x takes y to z, y takes z to x.
-    const Row rows[] = { { "xyz", osg::Vec3f(1.f, 0.f, 0.f) },
-                         { "yxz", osg::Vec3f(0.f, 0.f, 1.f) },
-                         { "YXZ", osg::Vec3f(0.f, 0.f, 1.f) },
-                         { "nonsense", osg::Vec3f(1.f, 0.f, 0.f) },
-                         { "xxz", osg::Vec3f(1.f, 0.f, 0.f) } };
-    for (const Row& row : rows) {
-        osg::Vec3f image;
-        nbEulerRotation::toQuaternion(angles, row.order).multVec(osg::Vec3f(0.f, 1.f, 0.f), image);
-        EXPECT_TRUE(image.equals(row.imageOfY, kTolerance)) << row.order;
-    }
-}
-
-TEST(nbEulerRotation, AnglesComeBackInEveryOrder)
-{
-    for (const char* order : { "xyz", "yzx", "zxy", "xzy", "zyx", "yxz" }) {
-        // The middle angle is the one of the second letter; it must stay below a quarter turn.
-        osg::Vec3f angles(100.f, 100.f, 100.f);
-        angles[static_cast<osg::UInt32>(order[0] - 'x')] = 20.f;
-        angles[static_cast<osg::UInt32>(order[1] - 'x')] = -50.f;
-
-        const osg::Vec3f back =
-            nbEulerRotation::fromQuaternion(nbEulerRotation::toQuaternion(angles, order), order);
-
-        EXPECT_TRUE(back.equals(angles, kAngleToleranceDeg)) << order;
-    }
-}
-
-TEST(nbEulerRotation, GimbalLockKeepsTheRotation)
-{
-    for (const char* order : { "xyz", "yzx", "zxy", "xzy", "zyx", "yxz" }) {
-        for (const float middle : { 90.f, -90.f }) {
-            osg::Vec3f angles(35.f, 35.f, 35.f);
-            angles[static_cast<osg::UInt32>(order[1] - 'x')] = middle;
-            const osg::Quaternion rotation = nbEulerRotation::toQuaternion(angles, order);
-
-            const osg::Vec3f back = nbEulerRotation::fromQuaternion(rotation, order);
-
-            const osg::Quaternion again = nbEulerRotation::toQuaternion(back, order);
-            const float cosine = rotation.x() * again.x() + rotation.y() * again.y() +
-                rotation.z() * again.z() + rotation.w() * again.w();
-            EXPECT_NEAR(std::fabs(cosine), 1.f, 1e-5f) << order << " " << middle;
-            EXPECT_EQ(back[static_cast<osg::UInt32>(order[2] - 'x')], 0.f);
-        }
-    }
 }

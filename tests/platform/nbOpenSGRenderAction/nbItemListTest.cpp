@@ -5,21 +5,17 @@
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <OpenSG/OSGBlendChunk.h>
-#include <OpenSG/OSGContainerCensus.h>
 #include <OpenSG/OSGDepthChunk.h>
 #include <OpenSG/OSGGroup.h>
-#include <OpenSG/OSGLineChunk.h>
 #include <OpenSG/OSGMaterialGroup.h>
 #include <OpenSG/OSGSimpleGeometry.h>
 #include <OpenSG/OSGSimpleMaterial.h>
 #include <OpenSG/OSGSwitch.h>
-#include <OpenSG/OSGTransform.h>
 
 #include <gtest/gtest.h>
 
 #include <vector>
 
-using nbrender::DrawState;
 using nbrender::ItemList;
 using nbrender::RenderItem;
 
@@ -95,19 +91,6 @@ std::vector<osg::Int32> keysInOrder(ItemList& list)
 
 }  // namespace
 
-TEST(nbItemList, KeysAscendAndOpaqueItemsOfAKeyComeFirst)
-{
-    const osg::NodeRefPtr root(over<osg::Group>(
-        { box(material(3)), box(material(1, 0.5f)), box(material(1)), box(material(-2)) }));
-    ItemList list;
-    list.update(root);
-
-    EXPECT_EQ(keysInOrder(list), (std::vector<osg::Int32> { -2, 1, 1, 3 }));
-    EXPECT_FALSE(list.getItems()[1].blended);
-    EXPECT_TRUE(list.getItems()[2].blended);
-    EXPECT_FALSE(list.getStates()[list.getItems()[2].stateIndex].depthWrite);
-}
-
 TEST(nbItemList, ItemsOfOneMaterialStandTogether)
 {
     const osg::SimpleMaterialPtr first = material(0);
@@ -122,30 +105,6 @@ TEST(nbItemList, ItemsOfOneMaterialStandTogether)
         states.push_back(item.stateIndex);
     }
     EXPECT_EQ(states, (std::vector<osg::UInt32> { 0, 0, 1, 1 }));
-}
-
-TEST(nbItemList, GroupsBelowAManipulatorReplaceChunksOnly)
-{
-    const auto own = withChunk<osg::DepthChunk>(
-        withChunk<osg::LineChunk>(material(7, 0.005f), [](const auto& c) { c->setWidth(3.f); }),
-        [](const auto& c) { c->setFunc(GL_NEVER); });
-    const auto group =
-        withChunk<osg::LineChunk>(material(9, 0.7f), [](const auto& c) { c->setWidth(5.f); });
-    const osg::NodeRefPtr root(materialGroup(
-        material(1), manipulator({ materialGroup(group, materialGroup(material(2), box(own))) })));
-    ItemList list;
-    list.update(root);
-
-    ASSERT_EQ(list.getItems().size(), 1u);
-    const RenderItem& item = list.getItems()[0];
-    const DrawState& state = list.getStates()[item.stateIndex];
-    EXPECT_EQ(item.key, 9) << "of the outermost group below the manipulator";
-    EXPECT_EQ(item.secondKey, 7);
-    EXPECT_FALSE(item.blended) << "a transparency up to 0.01 counts as opaque";
-    EXPECT_EQ(state.lineWidth, 5.f);
-    EXPECT_EQ(state.depthFunc, GLenum(GL_LEQUAL)) << "whatever the chunks say";
-    EXPECT_TRUE(state.depthWrite);
-    EXPECT_EQ(state.diffuse, osg::Color3f(1.f, 0.f, 0.f));
 }
 
 TEST(nbItemList, DepthChunksOfBothClassesAreOneKind)
@@ -163,22 +122,6 @@ TEST(nbItemList, DepthChunksOfBothClassesAreOneKind)
     EXPECT_EQ(list.getStates()[0].depthFunc, GLenum(GL_GREATER));
     EXPECT_EQ(list.getStates()[1].depthFunc, GLenum(GL_ALWAYS));
     EXPECT_TRUE(list.getStates()[1].depthWrite);
-}
-
-TEST(nbItemList, HigherKeysAmongHandlesAreSomeStepsNearer)
-{
-    const osg::NodeRefPtr root(
-        over<osg::Group>({ manipulator({ box(material(64015)), box(material(64016)) }),
-                           manipulator({ box(material(64016)), box(material(99999)) }) }));
-    ItemList list;
-    list.update(root);
-
-    std::vector<osg::Int32> steps;
-    for (const RenderItem& item : list.getItems()) {
-        steps.push_back(item.depthSteps);
-    }
-    EXPECT_EQ(steps, (std::vector<osg::Int32> { 0, 1, 0, nbrender::kMostDepthSteps }))
-        << "counted below each manipulator node by itself";
 }
 
 TEST(nbItemList, CopyOfAHandleForADepthPassIsLeftOut)
@@ -212,45 +155,4 @@ TEST(nbItemList, HiddenPartsAreLeftOut)
     EXPECT_EQ(keysInOrder(list), (std::vector<osg::Int32> { 3, 5, 6 }));
     list.update(osg::NullFC);
     EXPECT_TRUE(list.getItems().empty());
-}
-
-TEST(nbItemList, IsMadeAnewOnlyAfterAnEdit)
-{
-    const osg::SimpleMaterialPtr look = material(1);
-    const osg::NodeRefPtr root(over<osg::Transform>({ box(look) }));
-    ItemList list;
-    EXPECT_TRUE(list.update(root));
-    EXPECT_FALSE(list.update(root));
-
-    {
-        const nbEdit edit(look, osg::Material::SortKeyFieldMask);
-        look->setSortKey(8);
-    }
-    EXPECT_TRUE(list.update(root));
-    EXPECT_EQ(list.getItems()[0].key, 8);
-
-    const auto transform = osg::TransformPtr::dcast(root->getCore());
-    {
-        const nbEdit edit(transform, osg::Transform::MatrixFieldMask);
-        transform->getMatrix().setTranslate(5.f, 0.f, 0.f);
-    }
-    EXPECT_TRUE(list.update(root));
-    EXPECT_FLOAT_EQ(list.getSceneBounds().getMax().x(), 5.5f);
-
-    nbNodeUtils::setIsManipulatorNode(root, true);
-    EXPECT_TRUE(list.update(root));
-    EXPECT_TRUE(list.getItems()[0].handle);
-    EXPECT_TRUE(list.getSceneBounds().isEmpty());
-}
-
-TEST(nbItemList, HoldsNoContainers)
-{
-    osg::getDefaultMaterial();  // made on first use and kept
-    const osg::ContainerCensus before = osg::ContainerCensus::take();
-    ItemList list;
-    {
-        const osg::NodeRefPtr root(over<osg::Group>({ box(material(1)) }));
-        list.update(root);
-    }
-    EXPECT_EQ(osg::ContainerCensus::take().differenceTo(before), "");
 }

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include <nbOpenSGRenderAction/nbMesh.h>
-#include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbGeoFactory.h>
 
 #include <OpenSG/OSGRefPtr.h>
@@ -11,7 +10,6 @@
 #include <vector>
 
 using nbrender::buildMesh;
-using nbrender::geometryStamp;
 using nbrender::Mesh;
 
 namespace {
@@ -66,17 +64,6 @@ TEST(nbMesh, EveryKindOfPrimitiveIsResolved)
     }
 }
 
-TEST(nbMesh, MissingNormalsAreThoseOfTheTriangles)
-{
-    const osg::GeometryRefPtr geometry(parabola(GL_TRIANGLES, 3));
-
-    const Mesh mesh = buildMesh(geometry);
-
-    for (const nbrender::MeshVertex& vertex : mesh.vertices) {
-        EXPECT_EQ(vertex.normal[2], 1.f) << "counter-clockwise seen from +z";
-    }
-}
-
 TEST(nbMesh, CornersWithTheSameSourcesShareAVertex)
 {
     const osg::GeometryRefPtr box(osg::makeBoxGeo(1.f, 1.f, 1.f, 1, 1, 1));
@@ -116,22 +103,4 @@ TEST(nbMesh, BadGeometryGivesAnEmptyMesh)
     const osg::GeometryRefPtr astray(nbGeoFactory::makeLineGeo(1.f));
     astray->getIndices()->setValue(99, 1);
     EXPECT_EQ(buildMesh(astray).lines.size(), 2u) << "an index that points nowhere reads as zeros";
-}
-
-TEST(nbMesh, StampMovesWithPropertiesAndNotWithTheMaterial)
-{
-    const osg::GeometryRefPtr geometry(osg::makeBoxGeo(1.f, 1.f, 1.f, 1, 1, 1));
-    const osg::UInt64 before = geometryStamp(geometry);
-    {
-        const nbEdit edit(geometry.get(), osg::Geometry::MaterialFieldMask);
-        geometry->setMaterial(osg::getDefaultUnlitMaterial());
-    }
-    EXPECT_EQ(geometryStamp(geometry), before);
-
-    const osg::GeoPositionsPtr positions = geometry->getPositions();
-    {
-        const nbEdit edit(positions, osg::FieldBits::AllFields);
-        positions->setValue(osg::Pnt3f(9.f, 9.f, 9.f), 0);
-    }
-    EXPECT_NE(geometryStamp(geometry), before);
 }

@@ -21,21 +21,6 @@ TEST_F(nbRenderActionTest, UnlitBoxHasExactlyItsColorAndTheBackgroundItsGradient
     EXPECT_NEAR(picture.pixelColor(100, 199).blue(), 1, 2);
 }
 
-TEST_F(nbRenderActionTest, TwoRunsGiveTheSamePicture)
-{
-    const osg::NodePtr root =
-        group({ osg::makeTorus(0.3f, 1.f, 16, 32), osg::makeSphere(3, 0.5f) });
-    const QImage first = draw(root);
-
-    nbOffscreenView other;
-    viewport->setRoot(scene.get());
-    EXPECT_EQ(other.render(viewport.get(), kSize, kSize), first);
-    view->getAction().showEffectBuffer(true);
-    EXPECT_NE(redraw(), first);
-    view->getAction().showEffectBuffer(false);
-    EXPECT_EQ(redraw(), first);
-}
-
 TEST_F(nbRenderActionTest, SortKeysOrderBlendedItemsWhateverTheirDepth)
 {
     // Nearly opaque, so that the later one is what is seen; blended items write no depth.
@@ -177,23 +162,6 @@ TEST_F(nbRenderActionTest, LineWidthIsInLogicalPixels)
     EXPECT_NEAR(measured(2.f, 1.f), 2.f, kSampling);
     EXPECT_NEAR(measured(5.f, 1.f), 5.f, kSampling);
     EXPECT_NEAR(measured(3.f, 2.f), 6.f, kSampling);
-}
-
-TEST_F(nbRenderActionTest, RingOfSegmentsHasNoGaps)
-{
-    const QImage picture = draw(group({ placed(
-        colored(nbGeoFactory::makeLineTorus(1.5f, 36, false), with(unlit(kRed), lineChunk(6.f))),
-        osg::Vec3f(0.f, 0.f, 0.f), osg::Quaternion(osg::Vec3f(1.f, 0.f, 0.f), osg::Pi / 2)) }));
-
-    for (int i = 0; i < 360; ++i) {
-        const float angle = static_cast<float>(i) * osg::Pi / 180.f;
-        // The outer rim at the joints is where plain quads would leave notches.
-        EXPECT_EQ(at(picture, 1.5f * std::cos(angle), 1.5f * std::sin(angle)), kRed) << i;
-        if (i % 10 == 0) {
-            EXPECT_GT(at(picture, 1.54f * std::cos(angle), 1.54f * std::sin(angle)).red(), 200)
-                << i;
-        }
-    }
 }
 
 TEST_F(nbRenderActionTest, TransparentHandleIsDrawnOnceThoughItIsThereTwice)

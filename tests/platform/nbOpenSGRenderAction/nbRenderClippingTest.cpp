@@ -49,16 +49,6 @@ TEST_F(nbRenderClippingTest, PlanesCutWhatIsBelowThemAndNothingElse)
     EXPECT_EQ(at(picture, -1.5f, -1.5f), kBlue);
 }
 
-TEST_F(nbRenderClippingTest, PlanesAboveEachOtherAllCut)
-{
-    const QImage picture =
-        draw(group({ cutBy(kRightHalf, cutBy(kUpperHalf, square(2.f, unlit(kRed)))) }));
-
-    EXPECT_EQ(at(picture, 0.5f, 0.5f), kRed);
-    EXPECT_NE(at(picture, -0.5f, 0.5f), kRed);
-    EXPECT_NE(at(picture, 0.5f, -0.5f), kRed);
-}
-
 TEST_F(nbRenderClippingTest, LinesAreCutAsSurfacesAreAndHandlesNever)
 {
     const QImage line = draw(group({ cutBy(kRightHalf, horizontalLine(8.f)) }));

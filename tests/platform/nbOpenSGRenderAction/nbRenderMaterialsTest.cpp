@@ -177,21 +177,6 @@ TEST_F(nbRenderMaterialsTest, WhatIsOutOfViewIsNotDrawn)
     EXPECT_EQ(view->getAction().getStatistics().drawn, 1u);
 }
 
-TEST_F(nbRenderMaterialsTest, ReleaseAndAnotherContextRebuildFromTheContainers)
-{
-    draw(group({ square(1.f, unlit(kRed)) }));
-    {
-        nbOffscreenView other;
-        EXPECT_EQ(at(other.render(viewport.get(), kSize, kSize), 0.f, 0.f), kRed);
-    }
-    EXPECT_EQ(at(redraw(), 0.f, 0.f), kRed);
-
-    view = std::make_unique<nbOffscreenView>();
-    EXPECT_EQ(at(redraw(), 0.f, 0.f), kRed);
-    EXPECT_TRUE(view->render(viewport.get(), 0, 10).isNull());
-    EXPECT_NE(view->getError(), "");
-}
-
 TEST_F(nbRenderMaterialsTest, SeveralPassesSmoothEdgesAndKeepSurfaces)
 {
     const QColor odd(200, 77, 31);

@@ -129,21 +129,6 @@ TEST_F(nbRenderPhotographTest, APhotographOfTheViewsHeightIsShownPixelByPixel)
     EXPECT_EQ(draw(100, 40).pixelColor(50, 20), kBlack);
 }
 
-TEST_F(nbRenderPhotographTest, APictureTakenThroughTheCameraLiesOverWhatItShows)
-{
-    const osg::NodePtr square = rendertest::square(4.f, unlit(kRed));
-    nbScenegraph::getRootNode()->addChild(square);
-    const QImage taken = draw(300, 200);
-    nbScenegraph::getRootNode()->subChild(square);
-    show(taken);
-
-    const QImage seen = draw(250, 200);
-
-    for (int x = 0; x < 250; ++x) {
-        ASSERT_LE(difference(seen.pixelColor(x, 100), taken.pixelColor(x + 25, 100)), 3) << x;
-    }
-}
-
 TEST_F(nbRenderPhotographTest, AVeilCoversTheSceneButNoHandles)
 {
     nbScenegraph::getRootNode()->addChild(square(4.f, unlit(kRed)));

@@ -314,21 +314,6 @@ TEST_F(nbRenderPicturesTest, OpaquePartsOfACutOutBodyHideWhatIsBehindThem)
     expectColors(redraw(), { { 0.25f, 0.25f, kGrey }, { -0.25f, 0.25f, kBlack } }, "back");
 }
 
-TEST_F(nbRenderPicturesTest, LightFallsOnThePictureAsOnTheColor)
-{
-    PictureMaterial white;
-    white.setPicture(quarters(kWhite, kWhite, kWhite, kWhite));
-    {
-        const nbEdit edit(white.material, osg::FieldBits::AllFields);
-        white.material->setLit(true);
-        white.material->setDiffuse(osg::Color3f(1.f, 1.f, 1.f));
-    }
-    const QImage picture = draw(wall(white));
-
-    EXPECT_EQ(at(picture, 0.f, 0.f), at(picture, 1.5f, 0.f));
-    EXPECT_LT(at(picture, 0.f, 0.f).green(), 255);
-}
-
 // == What cannot be shown
 
 TEST_F(nbRenderPicturesTest, PlainColorStaysWhereThereIsNoPictureToShow)
@@ -391,43 +376,6 @@ TEST_F(nbRenderPicturesTest, ShowsPicturesOfEveryFormat)
         image->set(row.format, 1, 1, 1, 1, 1, 0.0, row.pixel.data());
         picture.material->setImage(picture.component, image);
         expectColors(draw(wall(picture)), { { 0.f, 0.f, row.shown } }, "format");
-    }
-}
-
-TEST_F(nbRenderPicturesTest, BlendEnvironmentMixesTowardsItsColorByFormat)
-{
-    // Own colour (200, 100, 50), environment white, over black, so that alpha darkens.
-    struct Row
-    {
-        osg::Image::PixelFormat format;
-        std::vector<osg::UInt8> pixel;
-        QColor shown;
-    };
-
-    const Row rows[] = {
-        { osg::Image::OSG_A_PF, { 51 }, QColor(40, 20, 10) },
-        { osg::Image::OSG_L_PF, { 51 }, QColor(211, 131, 91) },
-        { osg::Image::OSG_LA_PF, { 51, 0 }, kBlack },
-        { osg::Image::OSG_I_PF, { 51 }, QColor(211, 131, 91) },
-        { osg::Image::OSG_RGB_PF, { 255, 0, 51 }, QColor(255, 100, 91) },
-        { osg::Image::OSG_RGBA_PF, { 255, 0, 51, 51 }, QColor(51, 20, 18) },
-    };
-    for (const Row& row : rows) {
-        osg::ImagePtr image = osg::Image::create();
-        image->set(row.format, 1, 1, 1, 1, 1, 0.0, row.pixel.data());
-        const osg::TextureChunkPtr chunk = osg::TextureChunk::create();
-        {
-            const nbEdit edit(chunk, osg::FieldBits::AllFields);
-            chunk->setImage(image);
-            chunk->setEnvMode(GL_BLEND);
-            chunk->setEnvColor(osg::Color4f(1.f, 1.f, 1.f, 1.f));
-        }
-        const QImage picture = draw(square(
-            2.f, with(with(unlit(QColor(200, 100, 50)), blendChunk()), osg::StateChunkPtr(chunk))));
-        const QColor shown = at(picture, 0.f, 0.f);
-        EXPECT_NEAR(shown.red(), row.shown.red(), 1) << row.format;
-        EXPECT_NEAR(shown.green(), row.shown.green(), 1) << row.format;
-        EXPECT_NEAR(shown.blue(), row.shown.blue(), 1) << row.format;
     }
 }
 

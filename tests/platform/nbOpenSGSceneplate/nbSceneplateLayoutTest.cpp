@@ -66,35 +66,6 @@ TEST(nbSceneplateLayout, AnchorsAreTheNinePlacesOfTheView)
     expectAt(Layout::anchorPosition(9, 800, 600), 400.f, 300.f);
 }
 
-TEST(nbSceneplateLayout, PlatesKeepTheirPlaceRelativeToTheWindow)
-{
-    // 60 pixels left of and below the upper right corner of a view of 600 pixels.
-    const Plate logo = anchored(Sceneplate::TopRight, Vec2f(-0.1f, -0.1f), Vec2f(0.1f, 0.05f));
-
-    expectAt(Layout::centre(logo, 800, 600), 740.f, 60.f);
-    expectAt(Layout::centre(logo, 1000, 600), 940.f, 60.f);
-    expectAt(Layout::centre(logo, 1600, 1200), 1480.f, 120.f);
-    expectAt(Layout::corners(logo, 1600, 1200)[0], 1420.f, 150.f);
-    expectAt(Layout::corners(logo, 1600, 1200)[2], 1540.f, 90.f);
-}
-
-TEST(nbSceneplateLayout, UnturnedPlatesLieOnWholePixelsAndKeepTheirSize)
-{
-    for (int step = 0; step < 20; ++step) {
-        const float shift = 0.1f * static_cast<float>(step) / 600.f;
-        const Plate plate = anchored(Sceneplate::Centre, Vec2f(shift, 0.3f * shift),
-                                     Vec2f(33.f / 600.f, 20.f / 600.f));
-        const Layout::Corners corners = Layout::corners(plate, 801, 600);
-
-        EXPECT_EQ(corners[0].x(), std::floor(corners[0].x()));
-        EXPECT_EQ(corners[0].y(), std::floor(corners[0].y()));
-        EXPECT_EQ(corners[2].x() - corners[0].x(), 33.f);
-        EXPECT_EQ(corners[0].y() - corners[2].y(), 20.f);
-        EXPECT_NEAR(corners[0].x(), Layout::centre(plate, 801, 600).x() - 16.5f,
-                    0.5f + kTolerancePx);
-    }
-}
-
 TEST(nbSceneplateLayout, TurnedPlatesTurnCounterClockwiseOnScreen)
 {
     const Plate plate = anchored(Sceneplate::Centre, Vec2f(0.f, 0.f), Vec2f(0.4f, 0.2f), 30.f);
@@ -105,19 +76,6 @@ TEST(nbSceneplateLayout, TurnedPlatesTurnCounterClockwiseOnScreen)
     expectAt(corners[1], 500.f + 200.f * c + 100.f * s, 500.f - (200.f * s - 100.f * c));
     expectAt(corners[3], 500.f - 200.f * c - 100.f * s, 500.f - (-200.f * s + 100.f * c));
     EXPECT_FALSE(Layout::isOnPixels(plate));
-}
-
-TEST(nbSceneplateLayout, PositionsOnAPlateCountFromItsLowerLeftCorner)
-{
-    const Plate plate = anchored(Sceneplate::Centre, Vec2f(0.f, 0.f), Vec2f(0.4f, 0.2f), 90.f);
-    Pnt2f position;
-
-    ASSERT_TRUE(Layout::contains(plate, Pnt2f(550.f, 500.f), 1000, 1000, &position));
-    EXPECT_NEAR(position.x(), 0.5f, 1e-6f);
-    EXPECT_NEAR(position.y(), 0.25f, 1e-6f) << "its lower side is on the right now";
-    EXPECT_FALSE(Layout::contains(plate, Pnt2f(601.f, 500.f), 1000, 1000));
-    EXPECT_FALSE(Layout::contains(plate, Pnt2f(550.f, 500.f), 0, 1000));
-    EXPECT_FALSE(Layout::contains(plate, Pnt2f(NAN, 500.f), 1000, 1000));
 }
 
 TEST(nbSceneplateLayout, FramesAreTurnedForOnePlateAndUprightForSeveral)

@@ -78,36 +78,6 @@ TEST_F(nbSceneplatePainterTest, UnturnedPlateCoversExactlyItsPixels)
     EXPECT_EQ(picture.pixelColor(119, 70), kBlack);
 }
 
-TEST_F(nbSceneplatePainterTest, PictureOfAsManyPixelsIsShownUnchangedWhereverThePlateLies)
-{
-    const QImage logo = speckled(41, 30);
-    // Of an odd width, so that the centre cannot lie between pixels on both sides.
-    for (const float shift : { 0.f, 0.25f, 0.5f, 0.8f }) {
-        SCOPED_TRACE(shift);
-        const QImage picture =
-            draw(group({ makePlate({ 100.f + shift, 80.f, 41.f, 30.f }, kSize, kRed4,
-                                   [&](const auto& plate) { setImage(plate, logo); }) }));
-
-        const int left = shift < 0.5f ? 80 : 80 + 0;
-        int first = -1;
-        for (int x = 0; x < kSize && first < 0; ++x) {
-            first = picture.pixelColor(x, 66) == QColor(kBlack) ? -1 : x;
-        }
-        EXPECT_NEAR(first, left, 1);
-        EXPECT_EQ(picture.copy(first, 65, 41, 30).convertToFormat(QImage::Format_RGB32), logo);
-    }
-}
-
-TEST_F(nbSceneplatePainterTest, SubpixelShiftsLeavePlatesOnPixelsAlone)
-{
-    const QImage logo = speckled(40, 30);
-    const QImage once =
-        draw(group({ makePlate({ 100.f, 80.f, 40.f, 30.f }, kSize, kRed4,
-                               [&](const auto& plate) { setImage(plate, logo); }) }));
-
-    EXPECT_EQ(view->render(viewport.get(), kSize, kSize, 4), once);
-}
-
 TEST_F(nbSceneplatePainterTest, LiesBeforeOrBehindTheSceneAndBelowHandles)
 {
     const PlatePx all { 100.f, 100.f, 200.f, 200.f };
@@ -135,20 +105,6 @@ TEST_F(nbSceneplatePainterTest, HigherOrderLiesInFrontThenTheLaterInTheTree)
               kGreen);
     EXPECT_EQ(at(draw(group({ front(place, kRed4, -5), back(place, kGreen4) })), 0.f, 0.f), kRed)
         << "in front of the scene, whatever the order of one behind";
-}
-
-TEST_F(nbSceneplatePainterTest, TurnsCounterClockwise)
-{
-    const QImage picture = draw(group({ front({ 100.f, 100.f, 120.f, 10.f, 45.f }, kRed4) }));
-
-    EXPECT_EQ(picture.pixelColor(130, 69), kRed) << "up to the right";
-    EXPECT_EQ(picture.pixelColor(69, 130), kRed);
-    EXPECT_EQ(picture.pixelColor(130, 130), kBlack);
-    EXPECT_NEAR(count(picture, kRed), 1200, 150);
-
-    const QImage upright = draw(group({ front({ 100.f, 100.f, 120.f, 10.f, 90.f }, kRed4) }));
-    EXPECT_EQ(count(upright, kRed), 1200) << "a quarter turn lies on pixels as well";
-    EXPECT_EQ(upright.pixelColor(95, 40), kRed);
 }
 
 TEST_F(nbSceneplatePainterTest, AlphaAndOpacityMixWithWhatIsBehind)

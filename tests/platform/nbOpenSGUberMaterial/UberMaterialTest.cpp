@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <nbOpenSGUberMaterial/UberMaterial.h>
-#include <nbOpenSGUtils/nbEdit.h>
 
 #include <OpenSG/OSGChangeCount.h>
 #include <OpenSG/OSGContainerCloner.h>
 #include <OpenSG/OSGFieldContainerFactory.h>
-#include <OpenSG/OSGGroup.h>
-#include <OpenSG/OSGNode.h>
 
 #include <gtest/gtest.h>
 
@@ -106,40 +103,4 @@ TEST_F(UberMaterialTest, IsTransparentWithAPictureThatCanMakeItSo)
     EXPECT_TRUE(material->isTransparent());
     material->setImage("transparency", osg::Image::create());
     EXPECT_FALSE(material->isTransparent());
-}
-
-TEST_F(UberMaterialTest, EditsOfAHeldProjectionMoveTheCountsOfTrees)
-{
-    const osg::NodeRefPtr root(osg::makeCoredNode<osg::Group>());
-    const osg::RefPtr<osg::Transform3DPtr> projection(osg::Transform3D::create());
-    const osg::ColorComponentSettingsRefPtr settings(osg::ColorComponentSettings::create());
-    const auto editMoves = [&] {
-        const osg::UInt64 before = osg::getTreeChangeCount(root.get());
-        {
-            const nbEdit edit(projection.get(), osg::Transform3D::TranslationFieldMask);
-        }
-        return osg::getTreeChangeCount(root.get()) != before;
-    };
-
-    EXPECT_FALSE(editMoves());
-    settings->setPlanarProjection(projection.get());
-    EXPECT_TRUE(editMoves());
-    settings->setPlanarProjection(osg::NullFC);
-    EXPECT_FALSE(editMoves());
-}
-
-TEST(ColorComponentSettings, FlagsAreSwitchedOneByOne)
-{
-    using Settings = osg::ColorComponentSettings;
-    const osg::ColorComponentSettingsRefPtr settings(Settings::create());
-    EXPECT_EQ(settings->getPlanarProjectionFlags(), 0u);
-    EXPECT_EQ(settings->getTextureProjectionType(), Settings::PlanarProjection);
-
-    settings->setPlanarProjectionFlag(Settings::KeepAspectRatio, true);
-    settings->setPlanarProjectionFlag(Settings::ClampZ, true);
-    EXPECT_EQ(settings->getPlanarProjectionFlags() & 1u, 1u) << "bit 0 keeps the aspect ratio";
-    settings->setPlanarProjectionFlag(Settings::KeepAspectRatio, false);
-
-    EXPECT_FALSE(settings->hasPlanarProjectionFlag(Settings::KeepAspectRatio));
-    EXPECT_TRUE(settings->hasPlanarProjectionFlag(Settings::ClampZ));
 }

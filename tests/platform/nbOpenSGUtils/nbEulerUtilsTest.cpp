@@ -150,16 +150,6 @@ TEST(nbEulerUtils, TheMiddleAngleAtItsEndsLosesNothing)
     }
 }
 
-TEST(nbEulerUtils, ProductTurnsTheAccumulatedFirst)
-{
-    // Rz(90) Rx(90): about x first.
-    const nbEulerAngles result =
-        nbEulerUtils::multiply(anglesDeg(0.0, 0.0, 90.0), anglesDeg(90.0, 0.0, 0.0));
-
-    expectDegrees(result, 90.0, 0.0, 90.0);
-    expectNear(matrixOf(result), product(axisTurn(2, kPi / 2), axisTurn(0, kPi / 2)));
-}
-
 TEST(nbEulerUtils, SmallStepsGoOnPastTheEndsAndPastWholeTurns)
 {
     for (int order = 0; order < nbEulerUtils::kOrderCount; ++order) {

@@ -5,16 +5,12 @@
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <OpenSG/OSGComponentTransform.h>
-#include <OpenSG/OSGContainerCensus.h>
 #include <OpenSG/OSGGroup.h>
-#include <OpenSG/OSGLineIterator.h>
 #include <OpenSG/OSGNodePtr.h>
 #include <OpenSG/OSGSimpleGeometry.h>
 #include <OpenSG/OSGTransform.h>
 
 #include <gtest/gtest.h>
-
-#include <cmath>
 
 namespace {
 
@@ -133,34 +129,6 @@ TEST_F(ConversionTest, ComponentTransformKeepsItsCentreAsPivots)
     }
 }
 
-TEST_F(ConversionTest, OtherCoresMoveToAnOnlyChild)
-{
-    const osg::GeometryPtr geometry = osg::makeBoxGeo(1.f, 1.f, 1.f, 1, 1, 1);
-    node->setCore(geometry);
-
-    convertAndCompare();
-
-    ASSERT_EQ(node->getNChildren(), 1u);
-    EXPECT_TRUE(node->getChild(0)->getCore() == geometry);
-    EXPECT_TRUE(leaf->getParent() == node->getChild(0));
-
-    nbNodeUtils::convertToTransform3DNode(node);
-    EXPECT_TRUE(leaf->getParent()->getParent() == node) << "a second conversion changes nothing";
-}
-
-TEST_F(ConversionTest, LeavesNothingBehind)
-{
-    root = osg::NullFC;
-    const osg::ContainerCensus before = osg::ContainerCensus::take();
-    SetUp();
-    setMatrix(osg::Matrix(1, .5, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1));
-
-    nbNodeUtils::convertToTransform3DNode(node);
-    root = osg::NullFC;
-
-    EXPECT_EQ(osg::ContainerCensus::take().differenceTo(before), "");
-}
-
 TEST(nbNodeUtils, NullIsTakenEverywhere)
 {
     const osg::NodePtr none;
@@ -228,31 +196,6 @@ TEST(nbNodeUtils, WorldBoundsLeaveAuxiliaryAndInactiveOut)
     EXPECT_TRUE(bounds.getMax().equals(osg::Pnt3f(11.f, 1.f, 1.f), kTolerance));
     const osg::BoxVolume part = nbNodeUtils::getWorldBounds(moved->getChild(0));
     EXPECT_TRUE(part.getMax().equals(osg::Pnt3f(11.f, 1.f, 1.f), kTolerance));
-}
-
-TEST(nbGeoFactory, LineLiesAlongYAndRingInXz)
-{
-    const osg::NodeRefPtr line(nbGeoFactory::makeLine(2.f));
-    osg::LineIterator it(osg::GeometryPtr::dcast(line->getCore()));
-    it.seek(0);
-    EXPECT_EQ(it.getPosition(0), osg::Pnt3f(0.f, -1.f, 0.f));
-    EXPECT_EQ(it.getPosition(1), osg::Pnt3f(0.f, 1.f, 0.f));
-
-    const osg::GeometryRefPtr ring(nbGeoFactory::makeLineTorusGeo(1.5f, 36, false));
-    int pieces = 0;
-    osg::Pnt3f last;
-    for (osg::LineIterator piece = ring->beginLines(); piece != ring->endLines(); ++piece) {
-        EXPECT_NEAR(std::hypot(piece.getPosition(0).x(), piece.getPosition(0).z()), 1.5f,
-                    kTolerance);
-        EXPECT_EQ(piece.getPosition(0).y(), 0.f);
-        if (pieces > 0) {
-            EXPECT_EQ(piece.getPosition(0), last) << "the pieces are joined";
-        }
-        last = piece.getPosition(1);
-        ++pieces;
-    }
-    EXPECT_EQ(pieces, 36);
-    EXPECT_EQ(last, osg::Pnt3f(1.5f, 0.f, 0.f)) << "the ring is closed";
 }
 
 TEST(nbGeoFactory, DashedRingHasEverySecondPieceAndBadArgumentsNone)

@@ -17,7 +17,6 @@
 #include <cmath>
 #include <cstring>
 #include <limits>
-#include <random>
 #include <string>
 #include <vector>
 
@@ -158,45 +157,6 @@ const std::vector<Placement>& turnedPlacements()
 
 // == Values
 
-TEST_F(nbTransformModelTest, LocalTranslationIsStoredAsGiven)
-{
-    const osg::NodePtr node = addBelowTurnedParent({});
-    const Vec3f odd(0.1f, -0.f, 1e-30f);
-
-    EXPECT_EQ(1u, model->setTranslation(1, false, giving(node, odd)));
-
-    expectSameBits(coreOf(node)->getTranslation(), odd);
-    expectSameBits(nbTransformModel::getTranslation(node, false), odd);
-}
-
-TEST_F(nbTransformModelTest, WorldTranslationGoesThroughTheParent)
-{
-    const osg::NodePtr node = addBelowTurnedParent({});
-
-    model->setTranslation(1, true, giving(node, Vec3f(5.f, 8.f, 4.f)));
-
-    // (1 - 2y, 2 + 2x, 3 + 2z) = (5, 8, 4)
-    expectNear(coreOf(node)->getTranslation(), Vec3f(3.f, -2.f, 0.5f));
-    expectNear(nbTransformModel::getTranslation(node, true), Vec3f(5.f, 8.f, 4.f));
-}
-
-TEST_F(nbTransformModelTest, EachTargetGetsItsValueInItsOwnParent)
-{
-    const osg::NodePtr first = addBelowTurnedParent({});
-    const osg::NodePtr second = add({});
-    const std::vector<osg::NodePtr> nodes { first, second, first->getParent() };
-
-    const osg::UInt32 edited = model->setTranslation(3, true, [&](osg::UInt32 i) {
-        return nbTransformModel::Value({ nodes[i], static_cast<osg::Int32>(i) },
-                                       Vec3f(5.f, 8.f, 4.f + static_cast<float>(i)));
-    });
-
-    EXPECT_EQ(3u, edited);
-    expectNear(coreOf(first)->getTranslation(), Vec3f(3.f, -2.f, 0.5f));
-    expectNear(coreOf(second)->getTranslation(), Vec3f(5.f, 8.f, 5.f));
-    expectNear(coreOf(nodes[2])->getTranslation(), Vec3f(5.f, 8.f, 6.f));
-}
-
 TEST_F(nbTransformModelTest, ParentsAmongTheTargetsAreReadAsTheyAreThen)
 {
     const osg::NodePtr parent = add({});
@@ -208,35 +168,6 @@ TEST_F(nbTransformModelTest, ParentsAmongTheTargetsAreReadAsTheyAreThen)
     });
 
     expectNear(coreOf(child)->getTranslation(), Vec3f(-9.f, 0.f, 0.f));
-}
-
-TEST_F(nbTransformModelTest, RotationKeepsModeAndOrder)
-{
-    for (const Placement& placement : turnedPlacements()) {
-        SCOPED_TRACE(placement.order + " in mode " + std::to_string(placement.mode));
-        const osg::NodePtr node = add(placement);
-        const Vec3f angles(-30.f, 40.f, 75.f);
-
-        model->setRotation(1, giving(node, angles));
-
-        EXPECT_EQ(placement.mode, coreOf(node)->getRotationMode());
-        EXPECT_EQ(placement.order, coreOf(node)->getEulerRotationOrder());
-        expectNear(coreOf(node)->getRotation(), angles, 1e-4f);
-        const osg::Matrix before = node->getToWorld();
-        Placement asked = placement;
-        asked.rotationDeg = angles;
-        expectNear(before, add(asked)->getToWorld(), kTolerance);
-    }
-}
-
-TEST_F(nbTransformModelTest, ScaleMayBeZeroOrNegative)
-{
-    const osg::NodePtr node = add({});
-
-    model->setScale(1, giving(node, Vec3f(0.f, -2.f, 3.f)));
-
-    expectSameBits(coreOf(node)->getScale(), Vec3f(0.f, -2.f, 3.f));
-    EXPECT_TRUE(logged.empty());
 }
 
 TEST_F(nbTransformModelTest, NodesOfOtherKindsAreConvertedWithinTheUndoStep)
@@ -314,23 +245,6 @@ TEST_F(nbTransformModelTest, StepsOfSnappingAreZeroOrGreater)
 
 // == Pivots
 
-TEST_F(nbTransformModelTest, RotatePivotMovesInTheParentsFrame)
-{
-    Placement placement;
-    placement.translation = Vec3f(1.f, 0.f, 0.f);
-    placement.rotationDeg = Vec3f(0.f, 0.f, 90.f);
-    const osg::NodePtr node = addBelowTurnedParent(placement);
-
-    // From (1,0,0) in the parent's frame by (0,2,0): turned back, the pivot gains (2,0,0).
-    model->setRotationPivot(1, false, giving(node, Vec3f(1.f, 2.f, 0.f)));
-
-    expectNear(coreOf(node)->getRotatePivot(), Vec3f(2.f, 0.f, 0.f));
-    expectNear(coreOf(node)->getTranslation(), Vec3f(-1.f, 2.f, 0.f));
-    expectNear(nbTransformModel::getRotationPivot(node, false), Vec3f(1.f, 2.f, 0.f));
-    // (1 - 2y, 2 + 2x, 3 + 2z)
-    expectNear(nbTransformModel::getRotationPivot(node, true), Vec3f(-3.f, 4.f, 3.f));
-}
-
 TEST_F(nbTransformModelTest, ScalePivotIsThePointThatScalingLeavesAlone)
 {
     Placement placement;
@@ -349,35 +263,6 @@ TEST_F(nbTransformModelTest, ScalePivotIsThePointThatScalingLeavesAlone)
     expectNear(Vec3f(fixed), Vec3f(4.f, 0.f, 0.f));
 }
 
-TEST_F(nbTransformModelTest, MovedPivotsLeaveTheObjectInPlace)
-{
-    for (const Placement& placement : turnedPlacements()) {
-        for (const bool worldSpace : { false, true }) {
-            SCOPED_TRACE(placement.order + " in mode " + std::to_string(placement.mode) +
-                         (worldSpace ? ", world" : ", local"));
-            const osg::NodePtr node = addBelowTurnedParent(placement);
-            const osg::Matrix before = node->getToWorld();
-            const Vec3f place(3.f, -4.f, 2.5f);
-
-            const Vec3f scalePivot = nbTransformModel::getScalePivot(node, worldSpace);
-            EXPECT_EQ(1u, model->setRotationPivot(1, worldSpace, giving(node, place)));
-            expectNear(nbTransformModel::getRotationPivot(node, worldSpace), place);
-            expectNear(nbTransformModel::getScalePivot(node, worldSpace), scalePivot);
-            expectNear(node->getToWorld(), before, kTolerance);
-
-            const Vec3f further = place * 2.f;
-            EXPECT_EQ(1u, model->setScalePivot(1, worldSpace, giving(node, further)));
-            expectNear(nbTransformModel::getScalePivot(node, worldSpace), further);
-            expectNear(nbTransformModel::getRotationPivot(node, worldSpace), place);
-            expectNear(node->getToWorld(), before, kTolerance);
-
-            EXPECT_EQ(1u, model->setRotationPivotOrientation(1, giving(node, place * 30.f)));
-            expectNear(node->getToWorld(), before, kTolerance);
-            expectNear(coreOf(node)->getMatrix(), coreOf(node)->computeMatrix(), 0.f);
-        }
-    }
-}
-
 TEST_F(nbTransformModelTest, ScalePivotOfAFlatObjectStaysInItsPlane)
 {
     Placement placement;
@@ -391,59 +276,7 @@ TEST_F(nbTransformModelTest, ScalePivotOfAFlatObjectStaysInItsPlane)
     expectNear(node->getToWorld(), before, kTolerance);
 }
 
-TEST_F(nbTransformModelTest, OrientationTurnsTheAxesAndNotTheObject)
-{
-    Placement placement;
-    placement.rotationDeg = Vec3f(90.f, 0.f, 0.f);
-    const osg::NodePtr node = add(placement);
-
-    model->setRotationPivotOrientation(1, giving(node, Vec3f(0.f, 90.f, 0.f)));
-
-    expectNear(coreOf(node)->getRotation(), Vec3f(0.f, 90.f, 0.f), 1e-4f);
-    // The object's z lay along -y (90 degrees about x). The pivot's axes are now turned about y.
-    osg::Vec3f axis(0.f, 0.f, 1.f);
-    node->getToWorld().multMatrixVec(axis);
-    expectNear(axis, Vec3f(0.f, -1.f, 0.f));
-}
-
 // == Groups of steps
-
-TEST_F(nbTransformModelTest, ResultsDoNotDependOnTheStepsBetween)
-{
-    std::mt19937 random(7);
-    std::uniform_real_distribution<float> anywhere(-10.f, 10.f);
-    using Setter = void (*)(nbTransformModel&, nbTransformModel::ValueFunction);
-    const Setter translate = [](nbTransformModel& edited, nbTransformModel::ValueFunction value) {
-        edited.setTranslation(1, true, value);
-    };
-    const Setter moveRotatePivot = [](nbTransformModel& edited,
-                                      nbTransformModel::ValueFunction value) {
-        edited.setRotationPivot(1, true, value);
-    };
-    const Setter moveScalePivot = [](nbTransformModel& edited,
-                                     nbTransformModel::ValueFunction value) {
-        edited.setScalePivot(1, true, value);
-    };
-    for (const Placement& placement : turnedPlacements()) {
-        for (const Setter setter : { translate, moveRotatePivot, moveScalePivot }) {
-            const osg::NodePtr direct = addBelowTurnedParent(placement);
-            const osg::NodePtr wandering = addBelowTurnedParent(placement);
-            const Vec3f goal(1.f, 2.f, 3.f);
-            nbUndoService::the()->beginGroup();
-            for (int step = 0; step < 500; ++step) {
-                const Vec3f value(anywhere(random), anywhere(random), anywhere(random));
-                setter(*model, giving(wandering, value));
-            }
-            setter(*model, giving(wandering, goal));
-            setter(*model, giving(direct, goal));
-            nbUndoService::the()->endGroup();
-
-            expectSameBits(coreOf(wandering)->getTranslation(), coreOf(direct)->getTranslation());
-            expectSameBits(coreOf(wandering)->getRotatePivot(), coreOf(direct)->getRotatePivot());
-            expectSameBits(coreOf(wandering)->getScalePivot(), coreOf(direct)->getScalePivot());
-        }
-    }
-}
 
 TEST_F(nbTransformModelTest, AGroupThatGoesBackToItsStartLeavesNoStep)
 {

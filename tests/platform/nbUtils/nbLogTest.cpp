@@ -51,17 +51,6 @@ TEST_F(nbLogTest, DropsWhatIsBelowTheLevel)
                             "error: "));
 }
 
-TEST_F(nbLogTest, WritesToStandardErrorWithoutASink)
-{
-    nbLog::setSink(nbLog::Sink());
-
-    testing::internal::CaptureStderr();
-    nbLog::warning("Selected node cannot be transformed.");
-
-    EXPECT_EQ(testing::internal::GetCapturedStderr(),
-              "warning: Selected node cannot be transformed.\n");
-}
-
 TEST_F(nbLogTest, SinkThatThrowsLosesNothingAndReachesNobody)
 {
     nbLog::setSink([](nbLog::Level, const std::string&) { throw std::runtime_error("full"); });

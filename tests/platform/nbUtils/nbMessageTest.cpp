@@ -10,7 +10,6 @@
 #include <typeinfo>
 
 using testing::ElementsAre;
-using testing::HasSubstr;
 using testing::StartsWith;
 
 TEST(nbMessage, KeepsTheOrderInWhichAttributesWereFirstSet)
@@ -69,18 +68,4 @@ TEST(nbMessage, WrongTypeNamesBothTypesAndLeavesTheValue)
         std::string(typeid(osg::Vec3f).name()) + "' != req:'" + typeid(osg::Vec2f).name() + "')!\n";
     EXPECT_THAT(printed, StartsWith(line));
     EXPECT_GT(printed.size(), line.size()) << "the backtrace is missing";
-}
-
-TEST(nbMessage, PointIsNoVector)
-{
-    nbMessage msg;
-    msg.set("hitPoint", osg::Pnt3f(1.f, 2.f, 3.f), true);
-    osg::Vec3f vector;
-    osg::Pnt3f point;
-
-    testing::internal::CaptureStderr();
-    EXPECT_FALSE(nbMessage::get(msg, "hitPoint", vector));
-    EXPECT_THAT(testing::internal::GetCapturedStderr(), HasSubstr("hitPoint"));
-    EXPECT_TRUE(nbMessage::get(msg, "hitPoint", point));
-    EXPECT_EQ(point, osg::Pnt3f(1.f, 2.f, 3.f));
 }

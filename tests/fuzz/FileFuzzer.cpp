@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+// Entry of libFuzzer for session and scene files.
+#include "tests/fuzz/FilePlay.h"
+
+#include <OpenSG/OSGBaseFunctions.h>
+#include <OpenSG/OSGSimpleGeometry.h>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+/// Makes what is made once per process and kept.
+void warmUp()
+{
+    const char* const scene =
+        R"({"scene": 1, "camera": {"from": [0,0,9], "at": [0,0,0], "up": [0,1,0], "pivot": [0,0,0],
+        "fov": 40}, "models": [{"file": "a"}]})";
+    viewer::test::playFile(reinterpret_cast<const std::uint8_t*>(scene), std::string(scene).size());
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
+{
+    osg::osgInit(*argc, *argv);
+    osg::getDefaultMaterial();
+    warmUp();
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    const std::string fault = viewer::test::playFile(data, size);
+    if (!fault.empty()) {
+        std::fprintf(stderr, "%s\n", fault.c_str());
+        std::abort();
+    }
+    return 0;
+}

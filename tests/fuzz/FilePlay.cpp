@@ -1,0 +1,154 @@
+// SPDX-License-Identifier: MIT
+#include "tests/fuzz/FilePlay.h"
+
+#include "viewer/core/PerspectiveMatchTool.h"
+#include "viewer/core/PlatesTool.h"
+#include "viewer/core/SceneCapture.h"
+#include "viewer/core/SceneRestore.h"
+#include "viewer/core/Session.h"
+#include "viewer/core/Shapes.h"
+#include "viewer/core/Stage.h"
+
+#include <nbKernel/nbScenegraph.h>
+#include <nbKernelServices/nbUndoService.h>
+
+#include <OpenSG/OSGContainerCensus.h>
+#include <OpenSG/OSGSimpleAttachments.h>
+
+/// What Qt's reader of JSON has begun when a broken text stops it. Our own containers are counted.
+extern "C" const char* __lsan_default_suppressions()
+{
+    return "leak:libQt5Core\n";
+}
+
+namespace viewer::test {
+namespace {
+
+/// Any model is this one: a sheared object with a surface, and a part of it.
+ModelData standIn(const QString& file)
+{
+    ModelData model;
+    model.file = file;
+    model.materials.resize(1);
+    model.meshes.push_back(makeBall(1.0F));
+    model.meshes.back().name = QStringLiteral("Ball");
+    model.root.name = QStringLiteral("Model");
+    NodeData part;
+    part.name = QStringLiteral("Part");
+    part.matrix[4] = 0.5F;
+    part.meshes = { 0 };
+    NodeData inner;
+    inner.name = QStringLiteral("Inner");
+    part.children = { inner };
+    model.root.children = { part };
+    return model;
+}
+
+SceneAssets standIns()
+{
+    return { [](const QString& file, QString& error) -> std::optional<BuiltModel> {
+                if (file.contains(QLatin1String("gone"))) {
+                    error = QStringLiteral("gone");
+                    return std::nullopt;
+                }
+                return buildModel(standIn(file));
+            },
+             [](const QString& file, QString&) {
+                 osg::RefPtr<osg::ImagePtr> image(osg::Image::create());
+                 image->set(osg::Image::OSG_RGB_PF, 2, 2);
+                 osg::setName(image.get(), file.toStdString());
+                 return image;
+             } };
+}
+
+std::string refusal(const char* reader, const QString& error)
+{
+    const bool isOneLine = !error.isEmpty() && !error.contains(QLatin1Char('\n'));
+    return isOneLine ? std::string() : std::string(reader) + " refuses without one line";
+}
+
+std::string playSession(const QByteArray& text)
+{
+    QString error;
+    const std::optional<Session> session = parseSession(text, error);
+    if (!session) {
+        return refusal("the session reader", error);
+    }
+    const QByteArray written = sessionText(*session);
+    const std::optional<Session> again = parseSession(written, error);
+    if (!again) {
+        return "a written session is refused: " + error.toStdString();
+    }
+    return sessionText(*again) == written ? std::string() : "a session is written in two ways";
+}
+
+std::string showAndSave(Stage& stage, const SceneDocument& document, QByteArray& text)
+{
+    QString error;
+    const std::unique_ptr<PreparedScene> scene =
+        PreparedScene::prepare(document, standIns(), error);
+    if (!scene) {
+        return refusal("the scene builder", error);
+    }
+    scene->show(stage);
+    stage.update();
+    const std::optional<SceneDocument> captured = captureScene(stage, error);
+    if (!captured) {
+        return "an opened scene cannot be saved: " + error.toStdString();
+    }
+    text = sceneText(*captured, QDir(QStringLiteral("/scenes")));
+    return std::string();
+}
+
+std::string playScene(const QByteArray& text)
+{
+    const QDir folder(QStringLiteral("/scenes"));
+    QString error;
+    const std::optional<SceneDocument> document = parseScene(text, folder, error);
+    if (!document) {
+        return refusal("the scene reader", error);
+    }
+    const QByteArray written = sceneText(*document, folder);
+    const std::optional<SceneDocument> again = parseScene(written, folder, error);
+    if (!again) {
+        return "a written scene is refused: " + error.toStdString();
+    }
+    if (sceneText(*again, folder) != written) {
+        return "a scene is written in two ways";
+    }
+    nbOSGWidget view;
+    Stage stage(view);
+    const PerspectiveMatchTool match(stage);
+    const PlatesTool plates(stage);
+    stage.resize(640, 480, 1.0F);
+    QByteArray first;
+    std::string fault = showAndSave(stage, *document, first);
+    if (!fault.empty() || first.isEmpty()) {
+        return fault;
+    }
+    const std::optional<SceneDocument> saved = parseScene(first, folder, error);
+    if (!saved) {
+        return "a saved scene is refused: " + error.toStdString();
+    }
+    QByteArray second;
+    fault = showAndSave(stage, *saved, second);
+    return fault.empty() && second != first ? "a scene changes when it is saved and opened" : fault;
+}
+
+}  // namespace
+
+std::string playFile(const std::uint8_t* data, std::size_t size)
+{
+    const osg::ContainerCensus before = osg::ContainerCensus::take();
+    const QByteArray text(reinterpret_cast<const char*>(data), static_cast<int>(size));
+    std::string fault = playSession(text);
+    if (fault.empty()) {
+        fault = playScene(text);
+    }
+    nbUndoService::the()->clear();
+    nbScenegraph::clear();
+    const std::string leaked = osg::ContainerCensus::take().differenceTo(before);
+    return fault.empty() && !leaked.empty() ? "left behind: " + leaked : fault;
+}
+
+}  // namespace viewer::test

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+
+namespace viewer::test {
+
+/// Plays bytes as the text of a session and of a scene file. What the readers accept must come out
+/// of their writers as a text that they accept and write again, byte for byte; a scene is opened
+/// beside the one that is shown, without reading any file, and what it then shows must be the same
+/// again after saving and opening. What they refuse must give one line. Nothing may be left behind.
+/// @return the first of these that did not hold; empty if all did
+std::string playFile(const std::uint8_t* data, std::size_t size);
+
+}  // namespace viewer::test

@@ -1,0 +1,229 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "manipulator/ManipulatorInteractionContext.h"
+#include "tests/fuzz/Actor.h"
+#include "tests/fuzz/Equipment.h"
+
+#include <nbKernel/nbScenegraph.h>
+
+#include <memory>
+#include <string>
+#include <type_traits>
+
+namespace nbec::manipulator::test {
+
+/// A manipulator with its context. What one has beside the common interface is called by an
+/// overload of
+///
+///     void configure(Gizmo& gizmo, Stage& stage, Bytes& bytes);
+///
+/// @tparam kPauses  whether its stopped drags resume the preview
+template <class Gizmo, bool kPauses>
+class ManipulatorActor : public Actor
+{
+public:
+    explicit ManipulatorActor(Stage& joined)
+        : stage(joined)
+    {
+        context.setPicker(&stage.picker);
+        replace(true);
+    }
+
+    ManipulatorActor(const ManipulatorActor&) = delete;
+    ManipulatorActor& operator=(const ManipulatorActor&) = delete;
+
+    ~ManipulatorActor() override
+    {
+        replace(false);
+        stage.manager.removeContext(&context);
+    }
+
+    void act(Bytes& bytes) override
+    {
+        const std::uint8_t choice = bytes.next() % 16;
+        if (choice == 0) {
+            replace(!bytes.once(4));
+        } else if (choice == 1) {
+            release();
+            stage.manager.setEnabled(&context, bytes.flag());
+        } else if (gizmo == nullptr) {
+            stage.send(stage.aimAt(osg::NodePtr(), bytes), bytes);
+        } else if (choice == 2) {
+            rehang(bytes);
+        } else if (choice <= 5) {
+            Gizmo& plain = *gizmo;
+            configure(plain, stage, bytes);
+        } else if (choice <= 7) {
+            callDirectly(bytes);
+        } else {
+            Gizmo& plain = *gizmo;
+            const osg::Pnt2f target = aimAt(plain, stage, bytes);
+            choice <= 11 ? stage.send(target, bytes) : stage.drag(target, bytes);
+        }
+    }
+
+    std::string check() override
+    {
+        if (gizmo == nullptr) {
+            return "";
+        }
+        const osg::NodePtr root = gizmo->getVisualisationRoot();
+        const osg::NodePtr above = gizmo->getVisualisation()->getParent();
+        if (above != (gizmo->isActive() ? root : osg::NodePtr())) {
+            return gizmo->isActive() ? "an active manipulator does not hang under its root"
+                                     : "an inactive manipulator hangs in the scene";
+        }
+        return gizmo->fault;
+    }
+
+    bool isActive() const override { return gizmo != nullptr && gizmo->isActive(); }
+
+private:
+    /// Watches how a manipulator is called.
+    class Watched : public Gizmo
+    {
+    public:
+        explicit Watched(const nbMaterialPreview& watchedPreview)
+            : preview(watchedPreview)
+        { }
+
+        bool startManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override
+        {
+            isHeld = Gizmo::startManipulator(ctx, hint);
+            return isHeld;
+        }
+
+        bool stopManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override
+        {
+            isHeld = false;
+            const bool isHandled = Gizmo::stopManipulator(ctx, hint);
+            if (kPauses && isHandled && preview.isPaused()) {
+                fault = "a stopped drag did not resume the preview";
+            }
+            return isHandled;
+        }
+
+        void deactivate(ManipulatorInteractionContext* ctx) override
+        {
+            if (isHeld) {
+                fault = "a manipulator was deactivated in its drag";
+            }
+            Gizmo::deactivate(ctx);
+        }
+
+        bool isHeld = false;
+        std::string fault;
+
+    private:
+        const nbMaterialPreview& preview;
+    };
+
+    /// Ends a drag, as hosts do before they deactivate a manipulator.
+    void release()
+    {
+        if (gizmo != nullptr && gizmo->isHeld) {
+            gizmo->stopManipulator(&context, "select");
+        }
+    }
+
+    void replace(bool makeNew)
+    {
+        release();
+        stage.manager.removeContext(&context);
+        context.setManipulator(nullptr);
+        stage.picker.setPickNode(osg::NodePtr());
+        gizmo.reset();
+        if (makeNew) {
+            gizmo = std::make_unique<Watched>(stage.preview);
+            gizmo->setVisualisationRoot(nbScenegraph::getInternalRoot());
+            context.setManipulator(gizmo.get());
+            Gizmo& plain = *gizmo;
+            equip(plain, stage);
+        }
+        stage.manager.addContext(&context);
+    }
+
+    void rehang(Bytes& bytes)
+    {
+        switch (bytes.next() % 4) {
+        case 0:
+            return gizmo->setVisualisationRoot(osg::NodePtr());
+        case 1:
+            return gizmo->setVisualisationRoot(stage.otherRoot.get());
+        case 2:
+            return context.setPicker(bytes.flag() ? nullptr : &stage.picker);
+        default:
+            context.setPicker(&stage.picker);
+            return gizmo->setVisualisationRoot(nbScenegraph::getInternalRoot());
+        }
+    }
+
+    /// Calls the interface without context or manager in between.
+    void callDirectly(Bytes& bytes)
+    {
+        ManipulatorInteractionContext* const ctx = bytes.once(6) ? nullptr : &context;
+        const std::string hint = stage.hint(bytes);
+        const osg::Pnt2f target = stage.aimAt(gizmo->getCollider(), bytes);
+        stage.point(target);
+        switch (bytes.next() % 9) {
+        case 0:
+            gizmo->startManipulator(ctx, hint);
+            break;
+        case 1:
+            gizmo->processManipulator(ctx, hint);
+            break;
+        case 2:
+            gizmo->stopManipulator(ctx, hint);
+            break;
+        case 3:
+            gizmo->hover(ctx, hint);
+            if (!gizmo->isActive()) {
+                // Deactivating gives preselection back, but only to who was active.
+                gizmo->reset(ctx, hint);
+            }
+            break;
+        case 4:
+            gizmo->reset(ctx, hint);
+            break;
+        case 5:
+            gizmo->setManipulatorMode(stage.mode(bytes));
+            break;
+        case 6:
+            gizmo->setMousePosition(osg::Pnt2f(bytes.number2()));
+            break;
+        case 7:
+            copy();
+            break;
+        default:
+            gizmo->update(bytes.flag());
+        }
+    }
+
+    /// A copy shares handles and root, so it lives only while neither is active.
+    void copy()
+    {
+        if constexpr (std::is_copy_constructible_v<Gizmo> && std::is_copy_assignable_v<Gizmo>) {
+            if (!gizmo->isActive()) {
+                const Gizmo& plain = *gizmo;
+                Gizmo copied(plain);
+                copied.update(true);
+                copied = plain;
+                copied.hoverManipulator(&context, "select");
+            }
+        }
+    }
+
+    Stage& stage;
+    std::unique_ptr<Watched> gizmo;
+    ManipulatorInteractionContext context;
+};
+
+/// Calls an operation without arguments that the bytes choose from a table.
+template <class Gizmo, class Table>
+void callOneOf(Gizmo& gizmo, const Table& table, Bytes& bytes)
+{
+    (gizmo.*bytes.oneOf(table))();
+}
+
+}  // namespace nbec::manipulator::test

@@ -1,0 +1,154 @@
+// SPDX-License-Identifier: MIT
+#include "tests/fuzz/Play.h"
+
+#include "manipulator/CameraManipulator.h"
+#include "manipulator/PerspectiveMatchManipulator.h"
+#include "manipulator/PlanarTextureManipulator.h"
+#include "manipulator/TireProjectionManipulator.h"
+#include "manipulator/TriplanarTextureManipulator.h"
+#include "manipulator/UVTextureManipulator.h"
+#include "manipulator/UniversalTransformManipulator2.h"
+#include "manipulator/nbPlanarProjectionVisualization.h"
+#include "manipulator/nbSceneplateManipulator.h"
+
+#include <nbKernel/nbController.h>
+#include <nbKernel/nbScenegraph.h>
+#include <nbKernelServices/nbUndoService.h>
+#include <nbNotification/NotificationManager.h>
+#include <nbUtils/nbLog.h>
+
+#include <OpenSG/OSGContainerCensus.h>
+#include <OpenSG/OSGSimpleGeometry.h>
+
+#include <algorithm>
+
+namespace nbec::manipulator::test {
+
+namespace {
+
+/// Puts back what all instances of the classes share.
+void resetClasses()
+{
+    UniversalTransformManipulator2::setLocalSpaceManipulator(false);
+    UniversalTransformManipulator2::setManipulatorSize(32.0F);
+    CameraManipulator::setLocalSpaceManipulator(false);
+    CameraManipulator::setManipulatorSize(32.0F);
+    PlanarTextureManipulator::createInstance(true);
+    PlanarTextureManipulator::setManipulatorSize(32.0F);
+    delete TriplanarTextureManipulator::getInstance();
+    TriplanarTextureManipulator::setManipulatorSize(32.0F);
+    delete TireProjectionManipulator::getInstance();
+    TireProjectionManipulator::setManipulatorSize(32.0F);
+    UVTextureManipulator::setManipulatorSize(0.03F);
+    nbSceneplateManipulator::setManipulatorSize(32.0F);
+}
+
+std::string runSteps(const PlayTarget& target, Stage& stage, Bytes& bytes)
+{
+    std::vector<std::unique_ptr<Actor>> actors;
+    for (const auto& make : target.actors) {
+        actors.push_back(make(stage));
+    }
+    for (int step = 0; !bytes.atEnd(); ++step) {
+        const std::uint8_t who = bytes.next();
+        if (who % 4 == 0) {
+            stage.act(bytes);
+        } else {
+            actors[who / 4U % actors.size()]->act(bytes);
+        }
+        std::string fault = stage.check();
+        for (const auto& actor : actors) {
+            fault = fault.empty() ? actor->check() : fault;
+        }
+        const bool isAnyActive = std::any_of(actors.begin(), actors.end(),
+                                             [](const auto& actor) { return actor->isActive(); });
+        if (fault.empty() && !isAnyActive && !nbScenegraph::isPreselectionEnabled()) {
+            fault = "preselection was left off";
+        }
+        if (!fault.empty()) {
+            return "step " + std::to_string(step) + ": " + fault;
+        }
+    }
+    return "";
+}
+
+std::string runOn(const PlayTarget& target, Bytes& bytes)
+{
+    Stage stage;
+    const std::string fault = runSteps(target, stage, bytes);
+    if (!fault.empty()) {
+        return fault;
+    }
+    if (stage.preview.isPaused()) {
+        return "the preview was left paused";
+    }
+    return nbScenegraph::isPreselectionEnabled() ? "" : "preselection was left off";
+}
+
+}  // namespace
+
+const std::vector<PlayTarget>& playTargets()
+{
+    static const std::vector<PlayTarget> kTargets = {
+        { "transform", { &makeTransformActor } },
+        { "camera", { &makeCameraActor } },
+        { "planar", { &makePlanarActor } },
+        { "triplanar", { &makeTriplanarActor } },
+        { "uv", { &makeUVActor } },
+        { "tire", { &makeTireActor } },
+        { "match", { &makeMatchActor } },
+        { "plate", { &makePlateActor } },
+        { "platepick", { &makePlatePickActor } },
+        { "placement", { &makePlacementActor } },
+        { "projection", { &makeProjectionActor } },
+        { "messages", { &makeMessageActor } },
+        { "together",
+          { &makeTransformActor, &makeCameraActor, &makePlanarActor, &makeTriplanarActor,
+            &makeUVActor, &makeTireActor, &makeMatchActor, &makePlateActor, &makePlatePickActor,
+            &makePlacementActor, &makeProjectionActor } },
+    };
+    return kTargets;
+}
+
+const PlayTarget* findPlayTarget(const std::string& name)
+{
+    const std::vector<PlayTarget>& targets = playTargets();
+    const auto found = std::find_if(targets.begin(), targets.end(),
+                                    [&](const PlayTarget& target) { return target.name == name; });
+    return found == targets.end() ? nullptr : &*found;
+}
+
+void preparePlays()
+{
+    {
+        const UniversalTransformManipulator2 transform;
+        const CameraManipulator camera;
+        const PlanarTextureManipulator planar;
+        const TriplanarTextureManipulator triplanar;
+        const UVTextureManipulator uv;
+        const TireProjectionManipulator tire;
+        const PerspectiveMatchManipulator match;
+        const nbSceneplateManipulator plate;
+        const nbPlanarProjectionVisualization projection;
+    }
+    osg::getDefaultMaterial();
+}
+
+std::string play(const PlayTarget& target, const std::uint8_t* data, std::size_t size)
+{
+    nbController::clear();
+    const nbLog::Sink formerSink = nbLog::setSink([](nbLog::Level, const std::string&) {});
+    const osg::ContainerCensus before = osg::ContainerCensus::take();
+    Bytes bytes(data, size);
+    std::string fault = runOn(target, bytes);
+    resetClasses();
+    nbUndoService::the()->clear();
+    notification::NotificationManager::getInstance()->clear();
+    nbController::clear();
+    nbScenegraph::clear();
+    nbLog::setSink(formerSink);
+    const std::string leaked = osg::ContainerCensus::take().differenceTo(before);
+    return fault.empty() && !leaked.empty() ? "left behind: " + leaked : fault;
+}
+
+}  // namespace nbec::manipulator::test

@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+// The visualisation of a planar projection.
+#include "manipulator/nbPlanarProjectionVisualization.h"
+#include "tests/fuzz/Actor.h"
+
+#include <nbKernel/nbScenegraph.h>
+#include <nbOpenSGUtils/nbEdit.h>
+
+namespace nbec::manipulator::test {
+
+namespace {
+
+class ProjectionActor : public Actor
+{
+public:
+    explicit ProjectionActor(Stage& joined)
+        : stage(joined)
+        , shown(std::make_unique<nbPlanarProjectionVisualization>())
+    { }
+
+    ProjectionActor(const ProjectionActor&) = delete;
+    ProjectionActor& operator=(const ProjectionActor&) = delete;
+
+    ~ProjectionActor() override { hang(false); }
+
+    void act(Bytes& bytes) override
+    {
+        switch (bytes.next() % 10) {
+        case 0:
+            hang(false);
+            shown = std::make_unique<nbPlanarProjectionVisualization>();
+            return;
+        case 1:
+            return hang(bytes.flag());
+        case 2: {
+            const nbPlanarProjectionVisualization copied(*shown);
+            *shown = copied;
+            return;
+        }
+        case 3:
+            return shown->attachToNode(stage.node(bytes));
+        case 4:
+        case 5:
+            return showProjection(bytes);
+        case 6:
+            shown->setRotate(bytes.number());
+            return scale(bytes.number2());
+        case 7:
+            shown->setVisible(bytes.flag());
+            shown->setZScaleVisible(bytes.flag());
+            return shown->setPlaneTransparency(bytes.number());
+        default:
+            return showPicture(stage.image(bytes), bytes.next());
+        }
+    }
+
+    std::string check() override
+    {
+        return shown->getVisualizationNode()->getParent() == shown->getRootNode()
+            ? ""
+            : "the visualisation does not hang below its root";
+    }
+
+    bool isActive() const override { return false; }
+
+private:
+    void hang(bool on)
+    {
+        const osg::NodePtr above = nbScenegraph::getInternalRoot();
+        const osg::NodePtr root = shown->getRootNode();
+        if (on == (root->getParent() != osg::NullFC)) {
+            return;
+        }
+        const nbEdit edit(above, osg::Node::ChildrenFieldMask);
+        on ? above->addChild(root) : above->subChild(root);
+    }
+
+    void scale(const osg::Vec2f& sides) { shown->setScale(sides.x(), sides.y()); }
+
+    void showPicture(const osg::ImagePtr& image, unsigned flags)
+    {
+        shown->setTexture(image, flags % 2 != 0, flags % 4 >= 2);
+    }
+
+    void showProjection(Bytes& bytes)
+    {
+        const osg::UberMaterialPtr material = stage.material(bytes);
+        shown->updateProjectionTransform(
+            material == osg::NullFC ? osg::ColorComponentSettingsPtr()
+                                    : material->getComponentSettings(stage.component(bytes)));
+    }
+
+    Stage& stage;
+    std::unique_ptr<nbPlanarProjectionVisualization> shown;
+};
+
+}  // namespace
+
+std::unique_ptr<Actor> makeProjectionActor(Stage& stage)
+{
+    return std::make_unique<ProjectionActor>(stage);
+}
+
+}  // namespace nbec::manipulator::test

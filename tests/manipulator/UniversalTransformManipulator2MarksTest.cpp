@@ -1,0 +1,196 @@
+// SPDX-License-Identifier: MIT
+// The marks of further nodes stand at their pivots after every step, however the step knows where.
+#include "tests/manipulator/support/DragScene.h"
+
+#include <nbKernel/nbScenegraph.h>
+#include <nbOpenSGUberCamera/UberCamera.h>
+#include <nbOpenSGUtils/nbNodePermission.h>
+
+#include <OpenSG/OSGGeometry.h>
+#include <OpenSG/OSGGroup.h>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <vector>
+
+namespace nbec::manipulator::test {
+
+namespace {
+
+using Gizmo = UniversalTransformManipulator2;
+using Mode = Gizmo::ManipulatorMode;
+using osg::Pnt3f;
+using osg::Vec2f;
+using osg::Vec3f;
+
+const Vec3f kArrow(1.9F, 0, 0);
+const Vec3f kScaleHandle(1.5F, 0, 0);
+const Vec3f kRing(1.5F * 0.70710678F, 1.5F * 0.70710678F, 0);
+
+/// A gizmo on one node, with two further ones: one turned, with pivots apart, and one below a
+/// turned and scaled parent.
+class Marks : public testing::Test
+{
+protected:
+    Marks()
+    {
+        turned = drags.addFurther(Vec3f(3, 0, 0));
+        below = drags.addFurther(Vec3f(0, 3, 0));
+        const osg::NodePtr holder = osg::makeCoredNode<osg::Transform3D>();
+        nbScenegraph::getRootNode()->addChild(holder);
+        holder->addChild(below);
+        const auto change = [](const osg::NodePtr& node, const Vec3f& scale) {
+            const auto core = osg::Transform3DPtr::dcast(node->getCore());
+            osg::beginEditCP(core);
+            core->setRotation(Vec3f(10, 20, 30));
+            core->setScale(scale);
+            core->setRotatePivot(Vec3f(0.5F, 0.25F, 0));
+            core->setScalePivot(Vec3f(-0.5F, 0, 0.75F));
+            osg::endEditCP(core);
+        };
+        change(turned, Vec3f(1, 2, 1));
+        change(holder, Vec3f(2, 1, 1));
+        drags.gizmo.setNode(drags.scene.node, { turned, below });
+    }
+
+    Pnt3f pivotOf(const osg::NodePtr& node, bool scalePivot) const
+    {
+        const auto core = osg::Transform3DPtr::dcast(node->getCore());
+        Pnt3f pivot(core->getTranslation() + core->getRotatePivot());
+        if (scalePivot) {
+            pivot = Pnt3f(core->getScalePivot());
+            core->computeMatrix().multMatrixPnt(pivot);
+        }
+        node->getParent()->getToWorld().multMatrixPnt(pivot);
+        return pivot;
+    }
+
+    /// The middle of a mark's lines. @param length  receives that of its first line
+    Pnt3f markAt(osg::UInt32 index, float& length)
+    {
+        const osg::NodePtr marks = drags.gizmo.getVisualisation()->getChild(0)->getChild(0);
+        const auto geometry = osg::GeometryPtr::dcast(marks->getCore());
+        const osg::GeoPositionsPtr points = geometry->getPositions();
+        Vec3f sum;
+        for (osg::UInt32 i = 0; i < 6; ++i) {
+            sum += points->getValue(6 * index + i).subZero();
+        }
+        length = (points->getValue(6 * index + 1) - points->getValue(6 * index)).length();
+        return Pnt3f(sum * (1.0F / 6.0F));
+    }
+
+    void expectMarksAtPivots(bool scalePivot)
+    {
+        const osg::NodePtr frame = drags.gizmo.getVisualisation()->getChild(3)->getChild(0);
+        const float size = osg::Transform3DPtr::dcast(frame->getCore())->getScale().x();
+        osg::UInt32 index = 0;
+        for (const osg::NodePtr& node : { turned, below }) {
+            float length = 0.0F;
+            const Pnt3f mark = markAt(index++, length);
+            EXPECT_LT((mark - pivotOf(node, scalePivot)).length(), 1e-4F);
+            EXPECT_NEAR(length, 0.3F * size, 1e-5F);
+        }
+    }
+
+    void moveCore(const osg::NodePtr& node)
+    {
+        const auto core = osg::Transform3DPtr::dcast(node->getCore());
+        osg::beginEditCP(core, osg::Transform3D::TranslationFieldMask);
+        core->setTranslation(core->getTranslation() + Vec3f(0, 0, 1));
+        osg::endEditCP(core, osg::Transform3D::TranslationFieldMask);
+    }
+
+    DragScene drags;
+    osg::NodePtr turned;
+    osg::NodePtr below;
+};
+
+}  // namespace
+
+TEST_F(Marks, StandAtThePivotsAfterEveryStepWhateverHappensBetween)
+{
+    struct Row
+    {
+        const char* what;
+        Mode mode;
+        Vec3f handle;
+        bool local;
+    };
+
+    const Row rows[] = {
+        { "along the world", Mode::Translate, kArrow, false },
+        { "along the nodes", Mode::Translate, kArrow, true },
+        { "turned", Mode::Rotate, kRing, false },
+        { "scaled", Mode::Scale, kScaleHandle, false },
+        { "rotate pivot", Mode::RotatePivot, kArrow, false },
+        { "scale pivot", Mode::ScalePivot, kArrow, false },
+    };
+    const auto nothing = [] {};
+    const auto move = [this] { moveCore(turned); };
+    const auto changeSpace = [] {
+        Gizmo::setLocalSpaceManipulator(!Gizmo::isLocalSpaceManipulator());
+    };
+    const auto lookFromElsewhere = [this] {
+        drags.look(Camera::Oblique, false);
+        Gizmo::updateAllManipulators();
+    };
+    const auto lock = [this] { nbNodePermission::setAllowed(below, 19, false); };
+    const auto unlock = [this] { nbNodePermission::setAllowed(below, 19, true); };
+    const std::vector<std::function<void()>> between {
+        nothing,     nothing, move,        nothing,          lock, unlock, nothing,
+        changeSpace, nothing, changeSpace, lookFromElsewhere
+    };
+    for (const Row& row : rows) {
+        for (const bool disturbed : { false, true }) {
+            SCOPED_TRACE(std::string(row.what) + (disturbed ? ", disturbed" : ""));
+            Gizmo::setLocalSpaceManipulator(row.local);
+            drags.look(Camera::Front, false);
+            drags.activate(row.mode);
+            drags.gizmo.setDescriptionEnabled(disturbed);
+            const bool scalePivot = row.mode == Mode::Scale || row.mode == Mode::ScalePivot;
+            expectMarksAtPivots(scalePivot);
+            ASSERT_TRUE(drags.grab(row.handle));
+            float offset = 0.0F;
+            for (const auto& event : between) {
+                if (disturbed) {
+                    event();
+                }
+                offset += 3.0F;
+                EXPECT_TRUE(drags.stepTo(Vec2f(offset, -offset)));
+                expectMarksAtPivots(scalePivot);
+            }
+            EXPECT_TRUE(drags.release());
+            expectMarksAtPivots(scalePivot);
+        }
+    }
+    Gizmo::setLocalSpaceManipulator(false);
+}
+
+TEST_F(Marks, OfNodesThatShareACoreStandAtBoth)
+{
+    osg::beginEditCP(below, osg::Node::CoreFieldMask);
+    below->setCore(turned->getCore());
+    osg::endEditCP(below, osg::Node::CoreFieldMask);
+    ASSERT_TRUE(drags.grab(kArrow));
+    for (float offset = 10.0F; offset < 50.0F; offset += 10.0F) {
+        EXPECT_TRUE(drags.stepTo(Vec2f(offset, 0)));
+        expectMarksAtPivots(false);
+    }
+}
+
+TEST_F(Marks, GrowWithTheCamerasDistanceAndFollowANodeThatMovesMeanwhile)
+{
+    const osg::UberCameraPtr camera = drags.scene.widget.getUberCamera();
+    for (int i = 1; i < 6; ++i) {
+        camera->setFromAtUp(Pnt3f(0, 0, 10.0F + static_cast<float>(i)), Pnt3f(0, 0, 0),
+                            Vec3f(0, 1, 0));
+        if (i == 3) {
+            moveCore(turned);
+        }
+        Gizmo::updateAllManipulators();
+        expectMarksAtPivots(false);
+    }
+}
+
+}  // namespace nbec::manipulator::test

@@ -1,0 +1,252 @@
+// SPDX-License-Identifier: MIT
+// Scene files in the window: opening, saving, and what has not been saved.
+#include "viewer/gui/SceneFileActions.h"
+
+#include "tests/viewer/support/GuiTest.h"
+#include "viewer/core/SceneCapture.h"
+#include "viewer/gui/MainWindow.h"
+#include "viewer/gui/SessionPlayer.h"
+#include "viewer/gui/ViewWidget.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QFile>
+#include <QJsonArray>
+#include <QTemporaryDir>
+#include <QTimer>
+
+namespace viewer {
+namespace {
+
+class SceneFileActionsTest : public GuiTest
+{
+protected:
+    SceneFileActionsTest()
+        : window(MainWindow::Attendance::Unattended)
+    {
+        QObject::connect(&window, &MainWindow::problem,
+                         [this](const QString& text) { problems.append(text); });
+        QObject::connect(&window, &MainWindow::filesShown, [this] { ++shown; });
+        window.show();
+        window.showStartScene();
+    }
+
+    Stage& stage() { return window.view().stage(); }
+
+    bool run(const char* name, const QJsonValue& value = {})
+    {
+        QString error;
+        const bool isDone = stage().commands().run(QLatin1String(name), value, error);
+        EXPECT_EQ(isDone, error.isEmpty()) << error.toStdString();
+        return isDone;
+    }
+
+    void moveVase()
+    {
+        ASSERT_TRUE(stage().selectByName("Vase"));
+        ASSERT_TRUE(run("object.translation", QJsonArray { 1, 2, 3 }));
+    }
+
+    QByteArray text()
+    {
+        QString error;
+        return sceneText(*captureScene(stage(), error), QDir(folder.path()));
+    }
+
+    void trigger(const char* action)
+    {
+        window.findChild<QAction*>(QLatin1String(action))->trigger();
+    }
+
+    QTemporaryDir folder;
+    QString scene = folder.filePath("table.nbscene");
+    QStringList problems;
+    int shown = 0;
+    MainWindow window;
+};
+
+TEST_F(SceneFileActionsTest, TheTitleTellsWhatIsNotSaved)
+{
+    EXPECT_FALSE(window.isWindowModified());
+    moveVase();
+    EXPECT_TRUE(window.isWindowModified());
+    stage().undo();
+    EXPECT_FALSE(window.isWindowModified()) << "as opened";
+    stage().redo();
+
+    ASSERT_TRUE(run("scene.save", scene));
+
+    EXPECT_FALSE(window.isWindowModified());
+    EXPECT_EQ(window.windowTitle(), "table.nbscene[*] - nbviewer");
+    EXPECT_EQ(stage().commands().value("scene.file"), QJsonValue("table.nbscene"));
+    stage().undo();
+    EXPECT_TRUE(window.isWindowModified()) << "no longer as saved";
+    trigger("sceneSave");
+    EXPECT_FALSE(window.isWindowModified());
+    ASSERT_TRUE(run("match.setVeil", 0.75));
+    EXPECT_TRUE(window.isWindowModified()) << "an edit that is no step";
+    EXPECT_EQ(problems, QStringList());
+}
+
+TEST_F(SceneFileActionsTest, ASceneIsOpenedLikeAnyFile)
+{
+    moveVase();
+    ASSERT_TRUE(run("scene.save", scene));
+    const QByteArray saved = text();
+    window.showStartScene();
+    ASSERT_NE(text(), saved);
+
+    window.openFiles({ scene }, MainWindow::Opening::Replace);
+    waitUntil([this] { return shown == 1 || !problems.isEmpty(); });
+
+    EXPECT_EQ(problems, QStringList());
+    EXPECT_EQ(text(), saved);
+    EXPECT_FALSE(window.isWindowModified());
+    EXPECT_FALSE(stage().canUndo());
+    EXPECT_EQ(window.windowTitle(), "table.nbscene[*] - nbviewer");
+}
+
+TEST_F(SceneFileActionsTest, ASceneWithModelsIsReadInTheBackground)
+{
+    window.openFiles({ NB_VIEWER_FOLDER "/models/tire.obj", NB_VIEWER_FOLDER "/models/boxes.obj" },
+                     MainWindow::Opening::Replace);
+    waitUntil([this] { return shown == 1; });
+    stage().selectAll();
+    ASSERT_TRUE(run("object.translation", QJsonArray { 1, 2, 3 }));
+    ASSERT_TRUE(run("scene.save", scene));
+    const QByteArray saved = text();
+    window.showStartScene();
+
+    window.openFiles({ scene }, MainWindow::Opening::Replace);
+    EXPECT_NE(text(), saved) << "not before everything is there";
+    waitUntil([this] { return shown == 2 || !problems.isEmpty(); });
+
+    EXPECT_EQ(text(), saved);
+    EXPECT_EQ(problems, QStringList());
+}
+
+TEST_F(SceneFileActionsTest, WhatCannotBeOpenedLeavesEverything)
+{
+    moveVase();
+    const QByteArray before = text();
+    QFile file(scene);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("{\"scene\": 1,\n \"camera\": }");
+    file.close();
+
+    window.openFiles({ scene }, MainWindow::Opening::Replace);
+    window.openFiles({ scene }, MainWindow::Opening::Add);
+    window.openFiles({ scene, scene }, MainWindow::Opening::Replace);
+    waitForQuiet();
+
+    ASSERT_EQ(problems.size(), 3);
+    EXPECT_TRUE(problems[0].startsWith(scene + ": line 2, column")) << problems[0].toStdString();
+    EXPECT_TRUE(problems[1].endsWith("a scene can only be opened by itself"));
+    EXPECT_EQ(text(), before);
+    EXPECT_TRUE(stage().canUndo());
+    EXPECT_TRUE(window.isWindowModified());
+}
+
+TEST_F(SceneFileActionsTest, EditsAreNotLostWithoutAQuestion)
+{
+    int asked = 0;
+    QMessageBox::StandardButton answer = QMessageBox::Cancel;
+    window.scenes().setQuestion([&](const QString& question) {
+        EXPECT_TRUE(question.contains("has been edited"));
+        ++asked;
+        return answer;
+    });
+    window.showStartScene();
+    EXPECT_EQ(asked, 0) << "nothing to lose";
+    ASSERT_TRUE(run("scene.save", scene));
+    moveVase();
+    const QByteArray edited = text();
+
+    window.showStartScene();
+    window.openFiles({ scene }, MainWindow::Opening::Replace);
+    EXPECT_FALSE(window.close());
+    waitForQuiet();
+    EXPECT_EQ(asked, 3);
+    EXPECT_EQ(text(), edited);
+
+    answer = QMessageBox::Save;
+    window.showStartScene();
+    EXPECT_EQ(asked, 4);
+    EXPECT_NE(text(), edited);
+    ASSERT_TRUE(run("scene.open", scene));
+    EXPECT_EQ(text(), edited) << "it was saved";
+
+    moveVase();
+    answer = QMessageBox::Discard;
+    EXPECT_TRUE(window.close());
+}
+
+TEST_F(SceneFileActionsTest, TheQuestionOffersToSaveToDiscardAndToCancel)
+{
+    QList<QMessageBox::StandardButton> offered;
+    QTimer::singleShot(0, &window, [&offered] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        for (QAbstractButton* button : box->buttons()) {
+            offered.append(box->standardButton(button));
+        }
+        box->button(QMessageBox::Discard)->click();
+    });
+
+    EXPECT_EQ(window.scenes().dialog()("table.nbscene has been edited. Save it?"),
+              QMessageBox::Discard);
+
+    EXPECT_EQ(offered.size(), 3);
+    EXPECT_TRUE(offered.contains(QMessageBox::Save) && offered.contains(QMessageBox::Cancel));
+}
+
+TEST_F(SceneFileActionsTest, AFailedSaveKeepsTheScene)
+{
+    window.scenes().setQuestion([](const QString&) { return QMessageBox::Save; });
+    const QDir base(folder.path());
+    ASSERT_TRUE(base.mkdir("gone"));
+    ASSERT_TRUE(run("scene.save", base.filePath("gone/table.nbscene")));
+    ASSERT_TRUE(QDir(base.filePath("gone")).removeRecursively());
+    moveVase();
+    const QByteArray edited = text();
+
+    window.showStartScene();
+
+    EXPECT_EQ(text(), edited);
+    ASSERT_EQ(problems.size(), 1);
+    EXPECT_TRUE(problems[0].contains("gone/table.nbscene: "));
+    EXPECT_TRUE(window.isWindowModified());
+}
+
+TEST_F(SceneFileActionsTest, ASessionSavesAndOpens)
+{
+    Session session;
+    session.sizePx = { 640, 480 };
+    SessionStep save;
+    save.type = SessionStep::Type::Command;
+    save.name = "scene.save";
+    save.value = scene;
+    SessionStep move = save;
+    move.name = "object.translation";
+    move.value = QJsonArray { 4, 5, 6 };
+    SessionStep open = save;
+    open.name = "scene.open";
+    SessionStep check;
+    check.type = SessionStep::Type::Checkpoint;
+    check.name = "opened";
+    check.expectation.undoSteps = 0;
+    check.expectation.nodes.resize(1);
+    check.expectation.nodes[0].node = "Knot";
+    check.expectation.nodes[0].translation = std::array<double, 3> { 0.0, 1.16, 0.0 };
+    session.steps = { save, move, open, check };
+    bool done = false;
+    QObject::connect(&window, &MainWindow::replayFinished, [&done] { done = true; });
+
+    window.replay(session, std::nullopt);
+    waitUntil([&] { return done; });
+
+    EXPECT_EQ(window.player().getFailures(), QStringList());
+}
+
+}  // namespace
+}  // namespace viewer

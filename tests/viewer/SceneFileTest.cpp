@@ -1,0 +1,506 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/core/SceneFile.h"
+
+#include "tests/viewer/support/SceneTest.h"
+#include "viewer/core/ClipPlanes.h"
+#include "viewer/core/JsonReader.h"
+#include "viewer/core/JsonWriter.h"
+#include "viewer/core/ObjectCommands.h"
+#include "viewer/core/SceneBuilder.h"
+
+#include <nbKernel/nbScenegraph.h>
+#include <nbKernelServices/nbScopedUndo.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
+
+#include <QDir>
+#include <QJsonDocument>
+
+#include <csignal>
+#include <cstring>
+#include <limits>
+#include <random>
+
+#include <sys/resource.h>
+
+namespace viewer {
+namespace {
+
+float floatOf(std::uint32_t bits)
+{
+    float number = 0.0F;
+    std::memcpy(&number, &bits, sizeof(number));
+    return number;
+}
+
+template <class Number>
+Number readBack(Number number)
+{
+    QString error;
+    Number found[1] = {};
+    const QByteArray text = "[" + exactJson(number) + "]";
+    const QJsonArray array = QJsonDocument::fromJson(text).array();
+    EXPECT_TRUE(JsonReader(error).readExact(array, {}, found, 1)) << text.toStdString();
+    return found[0];
+}
+
+TEST(ExactJson, GivesEveryFiniteNumberBackBitForBit)
+{
+    std::mt19937_64 random(11);
+    std::vector<float> floats {
+        0.0F, -0.0F, 0.1F, 16777216.0F, 1e-45F, -1e22F, std::numeric_limits<float>::max()
+    };
+    std::vector<double> doubles { -0.0, 0.1, 9007199254740993.0, 5e-324, 1e22, -1.5 };
+    for (int i = 0; i < 20000; ++i) {
+        const float single = floatOf(static_cast<std::uint32_t>(random()));
+        floats.push_back(std::isfinite(single) ? single : 1.0F);
+        doubles.push_back(std::ldexp(static_cast<double>(random()) * 0x1p-64,
+                                     static_cast<int>(random() % 200) - 100));
+    }
+
+    for (const float number : floats) {
+        const float found = readBack(number);
+        ASSERT_EQ(std::memcmp(&found, &number, sizeof(number)), 0) << number;
+    }
+    for (const double number : doubles) {
+        const double found = readBack(number);
+        ASSERT_EQ(std::memcmp(&found, &number, sizeof(number)), 0) << number;
+    }
+    EXPECT_EQ(exactJson(0.1F), QByteArray("0.1"));
+}
+
+// == Random edits
+
+/// Edits a stage as people do, in ways that a number decides.
+class Edits
+{
+public:
+    Edits(Stage& editedStage, unsigned seed)
+        : stage(editedStage)
+        , random(seed)
+    { }
+
+    /// Makes one edit; whether it was possible does not matter.
+    void make()
+    {
+        switch (random() % 12) {
+        case 0:
+        case 1:
+        case 2:
+            run(oneOf({ "object.translation", "object.rotation", "object.scale",
+                        "object.rotatePivot", "object.scalePivot" }),
+                vector());
+            break;
+        case 3:
+            run(oneOf({ "object.visible", "object.locked" }), random() % 2 == 0);
+            break;
+        case 4:
+            run("texture.picture",
+                oneOf({ NB_VIEWER_FOLDER "/models/label.png",
+                        NB_VIEWER_FOLDER "/models/tiles.png" }));
+            run("texture.projection", oneOf({ "uv", "planar", "triplanar", "tire" }));
+            break;
+        case 5:
+            editPicture();
+            break;
+        case 6:
+            addPlate();
+            break;
+        case 7:
+            editMatch();
+            break;
+        case 8:
+            run(oneOf({ "scene.addClipPlane", "scene.removeClipPlane" }), {});
+            break;
+        case 9:
+            editState();
+            break;
+        case 10:
+            stage.undo();
+            break;
+        default:
+            moveCamera();
+            break;
+        }
+        select();
+    }
+
+private:
+    float number() { return static_cast<float>(static_cast<int>(random() % 2001) - 1000) / 37.0F; }
+
+    QJsonArray vector()
+    {
+        return { double(number()) + 0.01, double(number()) + 0.01, double(number()) + 0.01 };
+    }
+
+    const char* oneOf(std::initializer_list<const char*> words)
+    {
+        return words.begin()[random() % words.size()];
+    }
+
+    void run(const char* name, const QJsonValue& value)
+    {
+        QString error;
+        stage.commands().run(QLatin1String(name), value, error);
+    }
+
+    void select()
+    {
+        std::vector<osg::NodePtr> objects = childObjects(osg::NodePtr());
+        for (std::size_t i = 0; i < objects.size(); ++i) {
+            const std::vector<osg::NodePtr> children = childObjects(objects[i]);
+            objects.insert(objects.end(), children.begin(), children.end());
+        }
+        if (!objects.empty()) {
+            stage.select(objects[random() % objects.size()]);
+        }
+    }
+
+    void editPicture()
+    {
+        run(oneOf({ "texture.translation", "texture.rotation", "texture.scale",
+                    "texture.triplanarRotation", "texture.tireCenter" }),
+            vector());
+        run(oneOf({ "texture.keepAspect", "texture.repeatU", "texture.repeatV",
+                    "texture.endInDepth", "texture.mask", "texture.invert", "texture.tireFit" }),
+            random() % 2 == 0);
+        run("texture.component", oneOf({ "diffuse", "transparency" }));
+    }
+
+    void addPlate()
+    {
+        if (random() % 2 == 0) {
+            run("plates.addColor",
+                QJsonObject { { "color", "#80ff4020" }, { "name", oneOf({ "Veil", "Bar" }) } });
+        } else {
+            run("plates.addPicture",
+                QJsonObject { { "file", NB_VIEWER_FOLDER "/sessions/logo.png" },
+                              { "anchor", oneOf({ "top", "left", "bottomRight" }) } });
+        }
+        run("plates.rotation", double(number()));
+        run("plates.position", QJsonArray { double(number()), double(number()) });
+        run("plates.opacity", static_cast<double>(random() % 100) / 99.0);
+        run(oneOf({ "plates.backward", "plates.remove" }), {});
+        run(oneOf({ "plates.front", "plates.visible" }), random() % 2 == 0);
+    }
+
+    void editMatch()
+    {
+        run("match.setPhotograph", oneOf({ "", NB_VIEWER_FOLDER "/models/boxes-photograph.png" }));
+        run("match.setActive", true);
+        run("match.setLine",
+            QJsonObject { { "line", oneOf({ "x1", "y2", "z1" }) },
+                          { "ends",
+                            QJsonArray { 0.1 + 1e-9 * double(number()), 0.2, 0.7,
+                                         0.01 * double(number()) } } });
+        run("match.setLinesType", oneOf({ "xyz", "xy", "yz" }));
+        run("match.setVeil", static_cast<double>(random() % 100) / 100.0);
+        run(oneOf({ "match.setLocked", "match.showLines" }), random() % 2 == 0);
+        run("match.setActive", false);
+    }
+
+    /// Values that no panel gives, down to the sign of zeros.
+    void editState()
+    {
+        const osg::NodePtr node = stage.selectedObject();
+        if (node == osg::NullFC) {
+            return;
+        }
+        const nbScopedUndo step(QStringLiteral("State"));
+        nbNodeUtils::convertToTransform3DNode(node);
+        const auto core = osg::Transform3DPtr::dcast(node->getCore());
+        nbUndoService::the()->noteTransform(core);
+        nbTransformState state = nbTransformState::of(*core);
+        state.translation = osg::Vec3f(-0.0F, 1e-42F, number());
+        state.rotationQuaternion.setValueAsAxisDeg(osg::Vec3f(number(), 1.0F, 0.3F), number());
+        state.rotationMode = static_cast<osg::Int32>(random() % 3);
+        state.eulerRotationOrder = oneOf({ "xyz", "zyx", "yzx" });
+        state.applyTo(core);
+    }
+
+    void moveCamera()
+    {
+        CameraPose pose = stage.pose();
+        pose.from = osg::Pnt3f(number(), number(), number());
+        pose.fovDeg = 20.0F + static_cast<float>(random() % 50) / 3.0F;
+        pose.orthographic = random() % 2 == 0;
+        stage.setPose(pose);
+    }
+
+    Stage& stage;
+    std::mt19937 random;
+};
+
+class SceneFile : public SceneTest
+{ };
+
+TEST_F(SceneFile, SavedOpenedAndSavedAgainIsTheSameWhateverWasEdited)
+{
+    constexpr unsigned kScenes = 20;
+    constexpr int kEdits = 25;
+    const QString first = fileIn("first.nbscene");
+    const QString second = fileIn("second.nbscene");
+    for (unsigned seed = 0; seed < kScenes; ++seed) {
+        stage.showStartScene();
+        if (seed % 2 == 0) {
+            addModel(model("lighthouse.glb"));
+            addModel(model("tire.obj"));
+        }
+        Edits edits(stage, seed);
+        for (int i = 0; i < kEdits; ++i) {
+            edits.make();
+        }
+
+        ASSERT_TRUE(saveScene(stage, first, error)) << error.toStdString();
+        ASSERT_TRUE(openScene(stage, first, error)) << "seed " << seed << error.toStdString();
+        ASSERT_TRUE(saveScene(stage, second, error)) << error.toStdString();
+
+        ASSERT_EQ(read(second), read(first)) << "seed " << seed;
+        EXPECT_EQ(steps(), 0);
+    }
+}
+
+TEST_F(SceneFile, KeepsTheWorldMatricesOfAShearedModel)
+{
+    // The upper node is sheared, so that an edit of it puts another node below it.
+    write(fileIn("sheared.gltf"),
+          R"({"asset": {"version": "2.0"}, "scene": 0, "scenes": [{"nodes": [0]}],
+  "nodes": [{"name": "Top", "matrix": [1,0,0,0, 0.5,2,0,0, 0,0.25,1,0, 3,4,5,1], "children": [1]},
+            {"name": "Leaf", "translation": [1, 0, 2], "mesh": 0}],
+  "meshes": [{"primitives": [{"attributes": {"POSITION": 0}}]}],
+  "accessors": [{"bufferView": 0, "componentType": 5126, "count": 3, "type": "VEC3",
+                 "min": [0,0,0], "max": [1,1,0]}],
+  "bufferViews": [{"buffer": 0, "byteLength": 36}],
+  "buffers": [{"byteLength": 36,
+               "uri": "data:application/octet-stream;base64,AAAAAAAAAAAAAAAAAACAPwAAAAAAAAAAAAAAAAAAgD8AAAAA"}]})");
+    stage.clear();
+    addModel(fileIn("sheared.gltf"));
+    ASSERT_TRUE(stage.selectByName("sheared"));
+    ASSERT_TRUE(run("object.rotation", QJsonArray { 10, 20, 30 })) << error.toStdString();
+    ASSERT_TRUE(stage.selectByName("Leaf"));
+    ASSERT_TRUE(run("object.translation", QJsonArray { 1, 2, 3 })) << error.toStdString();
+    const osg::Matrix before = stage.selectedObject()->getToWorld();
+    ASSERT_TRUE(saveScene(stage, fileIn("sheared.nbscene"), error)) << error.toStdString();
+    const QByteArray saved = text();
+    stage.showStartScene();
+
+    ASSERT_TRUE(openScene(stage, fileIn("sheared.nbscene"), error)) << error.toStdString();
+
+    ASSERT_TRUE(stage.selectByName("Leaf"));
+    EXPECT_EQ(stage.selectedObject()->getToWorld(), before);
+    EXPECT_EQ(text(), saved);
+}
+
+TEST_F(SceneFile, KeepsAPictureThatCameFromNoFile)
+{
+    stage.showStartScene();
+    ASSERT_TRUE(stage.selectByName("Vase"));
+    const osg::RefPtr<osg::ImagePtr> image(osg::Image::create());
+    const std::vector<osg::UInt8> pixels { 1, 2, 3, 0, 250, 128, 7, 9, 4, 5, 6, 255, 0, 0, 0, 77 };
+    image->set(osg::Image::OSG_RGBA_PF, 2, 2, 1, 1, 1, 0.0, pixels.data());
+    textures.target().setImage(image.get(), ProjectionPose());
+    ASSERT_TRUE(saveScene(stage, fileIn("painted.nbscene"), error)) << error.toStdString();
+
+    ASSERT_TRUE(openScene(stage, fileIn("painted.nbscene"), error)) << error.toStdString();
+
+    ASSERT_TRUE(stage.selectByName("Vase"));
+    const osg::ImagePtr found = textures.target().image();
+    ASSERT_NE(found, osg::NullFC);
+    EXPECT_EQ(std::memcmp(found->getData(), pixels.data(), pixels.size()), 0);
+}
+
+TEST_F(SceneFile, FindsItsFilesAfterTheFolderMoved)
+{
+    const QDir base(folder.path());
+    ASSERT_TRUE(base.mkpath("here/parts"));
+    for (const char* name : { "boxes.obj", "boxes.mtl" }) {
+        ASSERT_TRUE(QFile::copy(model(name), base.filePath("here/parts/") + name));
+    }
+    ASSERT_TRUE(QFile::copy(model("label.png"), base.filePath("here/label.png")));
+    stage.clear();
+    addModel(base.filePath("here/parts/boxes.obj"));
+    stage.selectAll();
+    ASSERT_TRUE(run("texture.picture", base.filePath("here/label.png"))) << error.toStdString();
+    ASSERT_TRUE(saveScene(stage, base.filePath("here/scene.nbscene"), error));
+    EXPECT_TRUE(read(base.filePath("here/scene.nbscene")).contains("\"parts/boxes.obj\""));
+    ASSERT_TRUE(QDir(folder.path()).rename("here", "there"));
+
+    EXPECT_TRUE(openScene(stage, base.filePath("there/scene.nbscene"), error))
+        << error.toStdString();
+    EXPECT_GT(stage.triangleCount(), 0U);
+}
+
+// == What cannot be opened
+
+/// A scene with every kind of entry, as its JSON.
+QByteArray richScene()
+{
+    return R"({"scene": 1,
+ "camera": {"from": [1,2,3], "at": [0,0,0], "up": [0,1,0], "pivot": [0,0,0], "fov": 40},
+ "models": [{"builtIn": "start scene",
+   "nodes": [{"path": "4", "name": "Knot", "transform": {"translation": [1,"-0",2]}}],
+   "surfaces": [{"object": "5", "name": "Vase", "ambient": [0,0,0], "diffuse": [1,1,1],
+     "specular": [0,0,0], "emission": [0,0,0], "shininess": 20,
+     "components": [{"name": "diffuse", "settings": {"flags": ["repeatU"]}}]}]}],
+ "clipPlanes": [{"outline": 2, "frame": {"name": "Cut", "transform": {}}}],
+ "tree": [{"kind": "plane", "number": 0, "children": [{"kind": "model", "number": 0}]},
+          {"kind": "frame", "number": 0}],
+ "plates": [{"name": "Bar", "anchor": "top", "position": [0,0], "size": [1,0.1], "order": 3}],
+ "match": {"lines": [[0,0,1,1],[0,0,1,1],[0,0,1,1],[0,0,1,1],[0,0,1,1],[0,0,1,1]]}})";
+}
+
+TEST_F(SceneFile, ARefusedFileNamesThePlaceAndLeavesTheSceneAsItIs)
+{
+    struct Row
+    {
+        const char* part;  ///< of the sound scene
+        const char* instead;
+        const char* message;
+    };
+
+    const Row rows[] = {
+        { "\"camera\"", "\"camera", "line 2, column" },
+        { "\"scene\": 1", "\"scene\": 2", "scene: expected 1, the version of the format" },
+        { "\"fov\": 40", "\"fov\": \"40\"", "camera.fov: expected a number" },
+        { "\"fov\": 40", "\"fov\": 1e39", "camera.fov: expected a number" },
+        { "\"fov\": 40", "\"fov\": 40, \"roll\": 0", "camera: unknown entry \"roll\"" },
+        { "[1,2,3]", "[1,2]", "camera.from: expected an array of 3 numbers" },
+        { "start scene", "end scene", "models[0]: there is no model \"end scene\"" },
+        { "\"builtIn\": \"start scene\"", "\"file\": \"gone.obj\"", "gone.obj: no such file" },
+        { "\"builtIn\": \"start scene\",", "", "models[0]: expected either" },
+        { "\"path\": \"4\"", "\"path\": \"4/0/7\"", "models[0].nodes[0]: the model has no object" },
+        { "\"path\": \"4\"", "\"path\": \"-4\"", "models[0].nodes[0].path: expected numbers" },
+        { "\"name\": \"Knot\"", "\"name\": \"Not\"",
+          "models[0].nodes[0]: expected \"Not\" in the model, which has \"Knot\" there" },
+        { "[1,\"-0\",2]", "[1,\"-1\",2]", "models[0].nodes[0].transform.translation: expected" },
+        { "{\"translation\": [1,\"-0\",2]}", "{\"scale\": [3e38,1,1], \"scalePivot\": [3e38,0,0]}",
+          "models[0].nodes[0].transform: the numbers" },
+        { "{\"translation\": [1,\"-0\",2]}", "{\"order\": \"xyy\"}",
+          "models[0].nodes[0].transform.order: expected the letters" },
+        { "{\"translation\": [1,\"-0\",2]}", "{\"mode\": \"spin\"}",
+          "models[0].nodes[0].transform.mode: expected one of: euler" },
+        { "\"object\": \"5\"", "\"object\": \"5\", \"part\": 1",
+          "models[0].surfaces[0]: the model has no surface" },
+        { "\"object\": \"5\"", "\"object\": \"5\", \"part\": -1", "models[0].surfaces[0].part" },
+        { "\"name\": \"diffuse\"", "\"name\": \"diffuse\", \"picture\": \"gone.png\"",
+          "models[0].surfaces[0].components[0].picture: " },
+        { "\"name\": \"diffuse\"", "\"name\": \"diffuse\", \"picture\": {\"png\": \"AAAA\"}",
+          "models[0].surfaces[0].components[0].picture: is no picture" },
+        { "\"name\": \"diffuse\"", "\"name\": \"diffuse\", \"picture\": {\"png\": \"?\"}",
+          "components[0].picture.png: expected a picture in base 64" },
+        { "\"repeatU\"", "\"repeatW\"", "components[0].settings.flags: expected one of" },
+        { "\"outline\": 2", "\"outline\": 0", "clipPlanes[0].outline: expected" },
+        { ", \"transform\": {}}}]", "}}]", "clipPlanes[0].frame: \"transform\" is missing" },
+        { "{\"kind\": \"frame\", \"number\": 0}", "{\"kind\": \"plane\", \"number\": 0}",
+          "tree[1]: there is none of this number" },
+        { "{\"kind\": \"model\", \"number\": 0}", "", "tree: a model, frame or plane is missing" },
+        { "\"order\": 3", "\"order\": 3.5", "plates[0].order: expected a whole number" },
+        { "\"order\": 3", "\"opacity\": 2", "plates[0].opacity: expected a number from 0 to 1" },
+        { "\"anchor\": \"top\"", "\"anchor\": \"middle\"", "plates[0].anchor: expected one of" },
+        { "\"lines\": [[0,0,1,1],", "\"lines\": [", "match.lines: expected an array of 6 lines" },
+        { "\"lines\": [[0,0,1,1],", "\"lines\": [[0,0,1],",
+          "match.lines[0]: expected an array of 4 numbers" },
+        { "\"match\": {", "\"match\": {\"photograph\": \"gone.png\", ", "match.photograph: " },
+    };
+    ASSERT_TRUE(stage.selectByName("Vase"));
+    ASSERT_TRUE(run("object.translation", QJsonArray { 1, 2, 3 }));
+    const osg::NodePtr vase = stage.selectedObject();
+    const QByteArray before = text();
+    const QString path = fileIn("broken.nbscene");
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.message);
+        QByteArray broken = richScene();
+        const int at = broken.indexOf(row.part);
+        ASSERT_GE(at, 0);
+        write(path, broken.replace(at, static_cast<int>(std::strlen(row.part)), row.instead));
+
+        EXPECT_FALSE(openScene(stage, path, error));
+
+        EXPECT_TRUE(error.startsWith(path + ": ")) << error.toStdString();
+        EXPECT_TRUE(error.contains(row.message)) << error.toStdString();
+        EXPECT_FALSE(error.contains('\n'));
+        EXPECT_EQ(text(), before);
+        EXPECT_EQ(stage.selectedObject(), vase);
+        EXPECT_EQ(steps(), 1);
+    }
+    write(path, richScene());
+    EXPECT_TRUE(openScene(stage, path, error)) << error.toStdString();
+    EXPECT_EQ(steps(), 0);
+    EXPECT_FALSE(openScene(stage, fileIn("absent.nbscene"), error));
+    EXPECT_FALSE(openScene(stage, folder.path(), error)) << "a folder";
+}
+
+TEST_F(SceneFile, WhatCannotBeFoundAgainIsNotSaved)
+{
+    ModelData nowhere;
+    nowhere.root.name = "Nowhere";
+    stage.add(nowhere);
+
+    EXPECT_FALSE(saveScene(stage, fileIn("scene.nbscene"), error));
+
+    EXPECT_EQ(error, "\"Nowhere\" came from no file and cannot be saved");
+    EXPECT_FALSE(QFile::exists(fileIn("scene.nbscene")));
+}
+
+// == Saving
+
+/// Files of this process stay below a size, as on a full disk.
+class SmallDisk
+{
+public:
+    explicit SmallDisk(rlim_t bytes)
+    {
+        formerHandler = std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &former);
+        rlimit small = former;
+        small.rlim_cur = bytes;
+        setrlimit(RLIMIT_FSIZE, &small);
+    }
+
+    SmallDisk(const SmallDisk&) = delete;
+    SmallDisk& operator=(const SmallDisk&) = delete;
+
+    ~SmallDisk()
+    {
+        setrlimit(RLIMIT_FSIZE, &former);
+        std::signal(SIGXFSZ, formerHandler);
+    }
+
+private:
+    rlimit former {};
+    void (*formerHandler)(int) = nullptr;
+};
+
+TEST_F(SceneFile, AFullDiskLeavesTheOldFileAndNoOther)
+{
+    const QString path = fileIn("scene.nbscene");
+    ASSERT_TRUE(saveScene(stage, path, error));
+    const QByteArray before = read(path);
+    ASSERT_TRUE(stage.selectByName("Vase"));
+    ASSERT_TRUE(run("object.translation", QJsonArray { 1, 2, 3 }));
+    bool isSaved = true;
+    {
+        const SmallDisk disk(100);
+        isSaved = saveScene(stage, path, error);
+    }
+
+    EXPECT_FALSE(isSaved);
+    EXPECT_TRUE(error.startsWith(path + ": ")) << error.toStdString();
+    EXPECT_FALSE(error.contains('\n'));
+    EXPECT_EQ(read(path), before);
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList({ "scene.nbscene" }));
+    EXPECT_TRUE(saveScene(stage, path, error)) << "there is room again";
+    EXPECT_NE(read(path), before);
+}
+
+TEST_F(SceneFile, AFolderThatCannotBeWrittenGivesOneLine)
+{
+    for (const QString& path :
+         { fileIn("absent/scene.nbscene"), folder.path(), QStringLiteral("/proc/scene.nbscene") }) {
+        EXPECT_FALSE(saveScene(stage, path, error)) << path.toStdString();
+        EXPECT_TRUE(error.startsWith(path + ": ")) << error.toStdString();
+        EXPECT_FALSE(error.contains('\n'));
+    }
+}
+
+}  // namespace
+}  // namespace viewer

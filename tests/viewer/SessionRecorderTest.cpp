@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: MIT
+// A recording as a bug report: small, readable, the same again, and at home beside its models.
+#include "viewer/gui/SessionRecorder.h"
+
+#include "tests/viewer/support/GuiTest.h"
+#include "viewer/gui/MainWindow.h"
+#include "viewer/gui/SessionPlayer.h"
+#include "viewer/gui/ViewWidget.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QMouseEvent>
+#include <QTemporaryDir>
+
+namespace viewer {
+namespace {
+
+class SessionRecorderTest : public GuiTest
+{
+protected:
+    SessionRecorderTest()
+        : window(MainWindow::Attendance::Unattended)
+        , recorder(window.view())
+    {
+        window.show();
+        window.showStartScene();
+        window.view().fixSize({ 800, 600 });
+        window.adjustSize();
+    }
+
+    void send(QEvent::Type type, const QPointF& place, Qt::MouseButton button,
+              Qt::MouseButtons held)
+    {
+        QMouseEvent event(type, place, button, held, Qt::NoModifier);
+        QCoreApplication::sendEvent(&window.view(), &event);
+    }
+
+    /// A drag in as many events as a fast mouse sends.
+    void drag()
+    {
+        send(QEvent::MouseMove, { 100.0, 500.0 }, Qt::NoButton, Qt::NoButton);
+        send(QEvent::MouseButtonPress, { 100.0, 500.0 }, Qt::RightButton, Qt::RightButton);
+        for (int i = 1; i <= 200; ++i) {
+            send(QEvent::MouseMove, { 100.0 + i / 3.0, 500.0 - i / 7.0 }, Qt::NoButton,
+                 Qt::RightButton);
+        }
+        send(QEvent::MouseButtonRelease, { 100.0 + 200 / 3.0, 500.0 - 200 / 7.0 }, Qt::RightButton,
+             Qt::NoButton);
+    }
+
+    MainWindow window;
+    SessionRecorder recorder;
+};
+
+TEST_F(SessionRecorderTest, AFastDragIsAFewLinesAndReplaysToTheSamePose)
+{
+    recorder.start({});
+    drag();
+    const Session session = recorder.stop();
+    const CameraPose pose = window.view().stage().pose();
+    const QByteArray text = sessionText(session);
+
+    EXPECT_LT(text.size(), 2500) << text.toStdString();
+    EXPECT_LT(session.steps.size(), 20U);
+    ASSERT_GT(session.steps.size(), 4U);
+    EXPECT_EQ(session.steps[2].at.offsetPx, QPointF(100.33, 499.86)) << "rounded, and the first";
+    EXPECT_TRUE(text.contains("\"fov\": 32}")) << text.toStdString();
+    QString error;
+    const std::optional<Session> read = parseSession(text, error);
+    ASSERT_TRUE(read) << error.toStdString();
+    EXPECT_EQ(sessionText(*read), text);
+
+    bool done = false;
+    QObject::connect(&window, &MainWindow::replayFinished, [&done] { done = true; });
+    window.replay(*read, std::nullopt);
+    waitUntil([&done] { return done; });
+    const CameraPose again = window.view().stage().pose();
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        EXPECT_NEAR(again.from[i], pose.from[i], 2e-3F);
+    }
+}
+
+TEST_F(SessionRecorderTest, FilesAreNamedFromTheSessionsFolder)
+{
+    const QTemporaryDir folder;
+    const QDir base(folder.path());
+    ASSERT_TRUE(base.mkpath("models") && base.mkpath("sessions"));
+    for (const char* name : { "boxes.obj", "boxes.mtl", "label.png" }) {
+        ASSERT_TRUE(QFile::copy(QStringLiteral(NB_VIEWER_FOLDER "/models/") + name,
+                                base.filePath("models/") + name));
+    }
+    recorder.start({ base.filePath("models/boxes.obj") });
+    recorder.addCommand("texture.drop",
+                        QJsonObject { { "file", base.filePath("models/label.png") },
+                                      { "at", QJsonArray { 1, 2 } } });
+    recorder.addCommand("texture.picture", base.filePath("models/label.png"));
+    recorder.addCommand("plates.addText", QJsonObject { { "text", "/not/a/file" } });
+    const QString path = base.filePath("sessions/bug.json");
+    QString error;
+
+    ASSERT_TRUE(writeSessionFile(path, recorder.stop(), error)) << error.toStdString();
+
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray text = file.readAll();
+    EXPECT_FALSE(text.contains(folder.path().toUtf8())) << text.toStdString();
+    EXPECT_TRUE(text.contains("\"files\": [\"../models/boxes.obj\"]"));
+    EXPECT_TRUE(text.contains(R"("value": {"at": [1, 2], "file": "../models/label.png"})"));
+    EXPECT_TRUE(text.contains("\"value\": \"../models/label.png\""));
+    EXPECT_TRUE(text.contains("/not/a/file"));
+    ASSERT_TRUE(QDir(folder.path()).rename("models", "moved") &&
+                QDir(folder.path()).mkpath("elsewhere"));
+    ASSERT_TRUE(QDir(folder.path()).rename("sessions", "elsewhere/sessions") &&
+                QDir(folder.path()).rename("moved", "elsewhere/models"));
+    const std::optional<Session> read =
+        readSessionFile(base.filePath("elsewhere/sessions/bug.json"), error);
+    ASSERT_TRUE(read) << error.toStdString();
+    EXPECT_TRUE(QFile::exists(read->files.value(0)));
+}
+
+}  // namespace
+}  // namespace viewer

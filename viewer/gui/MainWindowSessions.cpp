@@ -1,0 +1,180 @@
+// SPDX-License-Identifier: MIT
+// Replaying and recording, the part of the window that has to do with sessions.
+#include "viewer/core/SceneCapture.h"
+#include "viewer/core/SessionStart.h"
+#include "viewer/gui/MainWindow.h"
+#include "viewer/gui/SceneFileActions.h"
+#include "viewer/gui/SessionPlayer.h"
+#include "viewer/gui/SessionRecorder.h"
+#include "viewer/gui/ViewWidget.h"
+#include "viewer/gui/WindowActions.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QStatusBar>
+#include <QTimer>
+
+namespace viewer {
+namespace {
+
+/// A window that a window manager refuses the wanted size is waited for this often.
+constexpr int kMaxSizeChecks = 200;
+constexpr int kSizeCheckMs = 10;
+
+const char* const kSessionFilter = QT_TRANSLATE_NOOP("viewer::MainWindow", "Sessions (*.json)");
+
+}  // namespace
+
+// == Sessions
+
+void MainWindow::replay(const Session& session, const std::optional<QDir>& pictures)
+{
+    sessionPlayer->stop();
+    pendingSession = session;
+    pendingPictures = pictures;
+    sizeChecks = 0;
+    if (!session.files.isEmpty()) {
+        openFiles(session.files, Opening::Replace);
+        return;
+    }
+    showStartScene();
+    beginReplay();
+}
+
+void MainWindow::beginReplay()
+{
+    viewWidget->fixSize(pendingSession->sizePx);
+    if (sizeChecks == 0) {
+        adjustSize();
+    }
+    // The layout gives the view its size only when the window has got its own.
+    const nbOSGWidget& renderWidget = viewWidget->stage().view();
+    const QSize size(renderWidget.getWidth(), renderWidget.getHeight());
+    if ((size != pendingSession->sizePx || !viewWidget->isVisible()) &&
+        ++sizeChecks < kMaxSizeChecks) {
+        QTimer::singleShot(kSizeCheckMs, this, [this] {
+            if (pendingSession) {
+                beginReplay();
+            }
+        });
+        return;
+    }
+    const Session session = *pendingSession;
+    pendingSession.reset();
+    QString error;
+    if (!beginSession(viewWidget->stage(), session, error)) {
+        viewWidget->fixSize({});
+        emit problem(error);
+        return;
+    }
+    const auto pace = mode == Attendance::Attended ? SessionPlayer::Pace::AsRecorded
+                                                   : SessionPlayer::Pace::AsFastAsPossible;
+    sessionPlayer->start(session, pace, pendingPictures);
+    actions->update();
+}
+
+void MainWindow::stopReplay()
+{
+    sessionPlayer->stop();
+}
+
+bool MainWindow::isReplaying() const
+{
+    return sessionPlayer->isPlaying();
+}
+
+void MainWindow::concludeReplay()
+{
+    if (mode == Attendance::Attended) {
+        viewWidget->fixSize({});
+    }
+    actions->update();
+    emit replayFinished();
+    if (!sessionPlayer->getFailures().isEmpty() && mode == Attendance::Attended) {
+        emit problem(sessionPlayer->getFailures().first());
+    }
+}
+
+void MainWindow::record(bool on)
+{
+    if (on && !sessionRecorder->isRecording()) {
+        recordedScene.reset();
+        QString error;
+        if (sceneFiles->isModified()) {
+            recordedScene = captureScene(viewWidget->stage(), error);
+        }
+        if (!error.isEmpty()) {
+            emit problem(error);
+        }
+        sessionRecorder->start(shownFiles);
+        showRecording();
+    } else if (!on && sessionRecorder->isRecording()) {
+        statusBar()->clearMessage();
+        saveRecording();
+    }
+}
+
+void MainWindow::showRecording()
+{
+    if (isRecording()) {
+        statusBar()->showMessage(tr("Recording"));
+    }
+}
+
+bool MainWindow::isRecording() const
+{
+    return sessionRecorder->isRecording();
+}
+
+void MainWindow::addCheckpoint()
+{
+    sessionRecorder->addCheckpoint();
+}
+
+void MainWindow::saveRecording()
+{
+    Session session = sessionRecorder->stop();
+    const QString path = QFileDialog::getSaveFileName(
+        this, tr("Save session"), QStringLiteral("session.json"), tr(kSessionFilter));
+    QString error;
+    if (!path.isEmpty() && !writeRecording(path, session, error)) {
+        emit problem(error);
+    }
+}
+
+/// Writes a recording and, where the scene had been edited before it began, that scene beside it.
+bool MainWindow::writeRecording(const QString& path, Session& session, QString& error)
+{
+    if (recordedScene) {
+        const QFileInfo info(path);
+        const QString scene = info.absoluteDir().filePath(
+            info.completeBaseName() + QLatin1Char('.') + QLatin1String(kSceneSuffix));
+        session.files = QStringList { scene };
+        if (!writeSceneFile(scene, *recordedScene, error)) {
+            return false;
+        }
+    }
+    return writeSessionFile(path, session, error);
+}
+
+void MainWindow::askForSession()
+{
+    const QString path =
+        QFileDialog::getOpenFileName(this, tr("Replay session"), {}, tr(kSessionFilter));
+    if (!path.isEmpty()) {
+        replayFile(path);
+    }
+}
+
+void MainWindow::replayFile(const QString& path)
+{
+    QString error;
+    const std::optional<Session> session = readSessionFile(path, error);
+    if (!session) {
+        emit problem(error);
+    } else if (sceneFiles->mayReplace()) {
+        replay(*session, std::nullopt);
+    }
+}
+
+}  // namespace viewer

@@ -1,0 +1,257 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/gui/SceneFileActions.h"
+
+#include "viewer/core/JsonReader.h"
+#include "viewer/core/SceneCapture.h"
+#include "viewer/core/SceneRestore.h"
+#include "viewer/core/Stage.h"
+#include "viewer/gui/ModelLoader.h"
+
+#include <nbKernelServices/nbUndoService.h>
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QUndoStack>
+
+#include <array>
+#include <utility>
+
+namespace viewer {
+namespace {
+
+const char* const kSceneFilter =
+    QT_TRANSLATE_NOOP("viewer::SceneFileActions", "Scenes (*.nbscene)");
+
+/// Commands whose edits are kept in the file but are no steps of undo.
+constexpr std::array<const char*, 4> kUnrecorded { "match.setPhotograph", "match.setVeil",
+                                                   "match.showLines", "match.setLocked" };
+
+QUndoStack& steps()
+{
+    return *nbUndoService::the()->getStack();
+}
+
+QStringList modelFilesOf(const SceneDocument& document)
+{
+    QStringList files;
+    for (const SceneModel& model : document.models) {
+        if (!model.file.isEmpty()) {
+            files.append(model.file);
+        }
+    }
+    return files;
+}
+
+/// Hands out models that were read before, in the order of the document.
+SceneAssets assetsOf(std::vector<BuiltModel> models)
+{
+    SceneAssets assets = SceneAssets::fromDisk();
+    const auto source = std::make_shared<std::vector<BuiltModel>>(std::move(models));
+    assets.model = [source, next = std::size_t(0)](const QString&, QString&) mutable {
+        return std::make_optional(std::move((*source)[next++]));
+    };
+    return assets;
+}
+
+}  // namespace
+
+SceneFileActions::SceneFileActions(QWidget& targetWindow, Stage& targetStage,
+                                   ModelLoader& modelLoader)
+    : QObject(&targetWindow)
+    , window(targetWindow)
+    , stage(targetStage)
+    , loader(modelLoader)
+{
+    addCommands();
+    connect(&steps(), &QUndoStack::cleanChanged, this,
+            [this] { emit modifiedChanged(isModified()); });
+}
+
+SceneFileActions::~SceneFileActions()
+{
+    for (const char* name : { "scene.open", "scene.save", "scene.file", "scene.modified" }) {
+        stage.commands().remove(QLatin1String(name));
+    }
+}
+
+void SceneFileActions::addCommands()
+{
+    Commands& commands = stage.commands();
+    commands.add(QStringLiteral("scene.open"), [this](const QJsonValue& value, QString& error) {
+        QString name;
+        if (!JsonReader(error).readString(value, QStringLiteral("scene.open"), name)) {
+            return false;
+        }
+        const QString path = stage.commands().filePath(name);
+        if (!openScene(stage, path, error)) {
+            return false;
+        }
+        adopt(path);
+        emit opened(path, true);
+        return true;
+    });
+    commands.add(QStringLiteral("scene.save"), [this](const QJsonValue& value, QString& error) {
+        if (value.isNull() && !sceneFile.isEmpty()) {
+            return saveTo(sceneFile, error);
+        }
+        QString name;
+        return JsonReader(error).readString(value, QStringLiteral("scene.save"), name) &&
+            saveTo(stage.commands().filePath(name), error);
+    });
+    commands.addValue(QStringLiteral("scene.file"),
+                      [this] { return QFileInfo(sceneFile).fileName(); });
+    commands.addValue(QStringLiteral("scene.modified"), [this] { return isModified(); });
+}
+
+// == Opening
+
+void SceneFileActions::askForScene()
+{
+    const QString path = QFileDialog::getOpenFileName(
+        &window, tr("Open scene"), QFileInfo(sceneFile).path(), tr(kSceneFilter));
+    if (!path.isEmpty() && mayReplace()) {
+        open(path);
+    }
+}
+
+void SceneFileActions::open(const QString& path)
+{
+    QString error;
+    loader.cancel();
+    document = readSceneFile(path, error);
+    documentFile = QFileInfo(path).absoluteFilePath();
+    if (!document) {
+        emit problem(error);
+        return;
+    }
+    const QStringList files = modelFilesOf(*document);
+    if (files.isEmpty()) {
+        conclude();
+    } else {
+        loader.start(files);
+    }
+}
+
+void SceneFileActions::conclude()
+{
+    const SceneDocument opening = *std::exchange(document, std::nullopt);
+    QString error;
+    // What is dragged now belongs to the scene that goes.
+    stage.interaction().endDrag();
+    const std::unique_ptr<PreparedScene> scene =
+        PreparedScene::prepare(opening, assetsOf(loader.takeModels()), error);
+    if (!scene) {
+        emit problem(QStringLiteral("%1: %2").arg(documentFile, error));
+        return;
+    }
+    scene->show(stage);
+    adopt(documentFile);
+    emit opened(documentFile, false);
+}
+
+// == Saving
+
+bool SceneFileActions::save()
+{
+    QString error;
+    if (sceneFile.isEmpty()) {
+        return saveAs();
+    }
+    if (!saveTo(sceneFile, error)) {
+        emit problem(error);
+        return false;
+    }
+    return true;
+}
+
+bool SceneFileActions::saveAs()
+{
+    const QString suggested =
+        sceneFile.isEmpty() ? QStringLiteral("scene.") + QLatin1String(kSceneSuffix) : sceneFile;
+    QString path =
+        QFileDialog::getSaveFileName(&window, tr("Save scene"), suggested, tr(kSceneFilter));
+    if (path.isEmpty()) {
+        return false;
+    }
+    if (!isSceneFileName(path)) {
+        path += QLatin1Char('.') + QLatin1String(kSceneSuffix);
+    }
+    QString error;
+    if (!saveTo(path, error)) {
+        emit problem(error);
+        return false;
+    }
+    return true;
+}
+
+bool SceneFileActions::saveTo(const QString& path, QString& error)
+{
+    if (!saveScene(stage, path, error)) {
+        return false;
+    }
+    sceneFile = QFileInfo(path).absoluteFilePath();
+    touched = false;
+    steps().setClean();
+    emit modifiedChanged(false);
+    emit saved(sceneFile);
+    return true;
+}
+
+// == What has not been saved
+
+bool SceneFileActions::isModified() const
+{
+    return touched || !steps().isClean();
+}
+
+bool SceneFileActions::mayReplace()
+{
+    if (!isModified() || !question) {
+        return true;
+    }
+    const QString name = sceneFile.isEmpty() ? tr("The scene") : QFileInfo(sceneFile).fileName();
+    switch (question(tr("%1 has been edited. Save it?").arg(name))) {
+    case QMessageBox::Save:
+        return save();
+    case QMessageBox::Discard:
+        return true;
+    default:
+        return false;
+    }
+}
+
+SceneFileActions::Question SceneFileActions::dialog()
+{
+    return [this](const QString& text) {
+        QMessageBox box(QMessageBox::Warning, tr("Save scene"), text,
+                        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, &window);
+        box.setInformativeText(tr("Edits that are not saved will be lost."));
+        box.setDefaultButton(QMessageBox::Save);
+        return static_cast<QMessageBox::StandardButton>(box.exec());
+    };
+}
+
+void SceneFileActions::touch()
+{
+    touched = true;
+    emit modifiedChanged(true);
+}
+
+void SceneFileActions::noteCommand(const QString& name)
+{
+    for (const char* unrecorded : kUnrecorded) {
+        if (name == QLatin1String(unrecorded)) {
+            touch();
+        }
+    }
+}
+
+void SceneFileActions::adopt(const QString& path)
+{
+    document.reset();
+    sceneFile = path;
+    touched = false;
+    emit modifiedChanged(isModified());
+}
+
+}  // namespace viewer

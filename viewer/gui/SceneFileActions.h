@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "viewer/core/SceneFile.h"
+
+#include <QMessageBox>
+#include <QObject>
+
+#include <functional>
+#include <optional>
+
+namespace viewer {
+
+class ModelLoader;
+class Stage;
+
+/// Opening and saving of scene files in the window, and what has not been saved.
+///
+/// A scene counts as modified after every step of undo that was not taken back, and after edits
+/// that are no steps: another photograph, models that were added. Moving the camera is no edit,
+/// though the file keeps it.
+///
+/// Gives the stage the commands "scene.open" (a file) and "scene.save" (a file, null: that of the
+/// scene), which do everything at once, and the values "scene.file" (without folder, "" for none)
+/// and "scene.modified".
+class SceneFileActions : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Asks a person what is to become of edits: Save, Discard or Cancel.
+    using Question = std::function<QMessageBox::StandardButton(const QString& text)>;
+
+    /// @param targetWindow  the dialogs' parent; owns this
+    /// @param modelLoader   reads the models of a scene; outlives this
+    SceneFileActions(QWidget& targetWindow, Stage& targetStage, ModelLoader& modelLoader);
+    SceneFileActions(const SceneFileActions&) = delete;
+    SceneFileActions& operator=(const SceneFileActions&) = delete;
+    ~SceneFileActions() override;
+
+    // == Opening
+
+    void askForScene();
+    /// Begins to open a scene file: its models are read in the background, and nothing changes
+    /// before all is there. Answers with opened() or problem().
+    void open(const QString& path);
+
+    /// Whether what the loader reads belongs to a scene that is being opened.
+    bool isOpening() const { return document.has_value(); }
+
+    /// Shows the scene whose models the loader has read.
+    void conclude();
+
+    /// Gives the scene that is being opened up.
+    void forget() { document.reset(); }
+
+    // == Saving
+
+    /// Saves to the scene's file, or asks for one. @return whether it is saved
+    bool save();
+    bool saveAs();
+    /// @return false with one line in `error`; the file is as it was
+    bool saveTo(const QString& path, QString& error);
+
+    // == What has not been saved
+
+    bool isModified() const;
+
+    /// Whether the scene may go: it is as saved, or the person saves it now or lets it go.
+    bool mayReplace();
+
+    /// Tells that the scene was replaced by something without a scene file.
+    void replaced() { adopt(QString()); }
+
+    /// Tells of an edit that is no step of undo.
+    void touch();
+
+    /// Tells of a command that was done.
+    void noteCommand(const QString& name);
+
+    /// Sets who is asked; empty: nobody, edits are let go.
+    void setQuestion(Question newQuestion) { question = std::move(newQuestion); }
+
+    /// Asks in a dialog of the window.
+    Question dialog();
+
+    /// Absolute path of the scene's file; "" for none.
+    const QString& file() const { return sceneFile; }
+
+signals:
+    /// A scene is shown that came from this file.
+    void opened(const QString& path, bool byCommand);
+    void saved(const QString& path);
+    void modifiedChanged(bool modified);
+    /// What could not be done, one line; everything is as it was.
+    void problem(const QString& text);
+
+private:
+    void addCommands();
+    void adopt(const QString& path);
+
+    QWidget& window;
+    Stage& stage;
+    ModelLoader& loader;
+    Question question;
+    QString sceneFile;
+    bool touched = false;
+    std::optional<SceneDocument> document;  ///< that is being opened
+    QString documentFile;
+};
+
+}  // namespace viewer
