@@ -28,11 +28,11 @@ struct LanguageRow
 
 /// In the order of the enumeration.
 constexpr std::array<LanguageRow, kLanguages.size()> kRows { {
-    { "system", QT_TRANSLATE_NOOP("viewer::Language", "As the desktop") },
-    { "en", "English" },
-    { "de", "Deutsch" },
-    { "fr", "Français" },
-    { "zh_CN", "简体中文" },
+    { "system", QT_TRANSLATE_NOOP("viewer::Language", "&As the desktop") },
+    { "en", "&English" },
+    { "de", "&Deutsch" },
+    { "fr", "&Français" },
+    { "zh_CN", "简体中文(&Z)" },
 } };
 
 const LanguageRow& rowOf(Language language)
@@ -108,8 +108,10 @@ void applyLanguage(Language language)
     initialiseTranslations();
     applied = language;
     installed().clear();
-    const QString name = languageName(
-        language == Language::System ? languageOf(QLocale::system().uiLanguages()) : language);
+    const QLocale desktop = QLocale::system();
+    const QString name =
+        languageName(language == Language::System ? languageOf(desktop.uiLanguages()) : language);
+    QLocale::setDefault(language == Language::System ? desktop : QLocale(name));
     // The one installed last is asked first.
     install(QStringLiteral("qtbase_") + name,
             QLibraryInfo::location(QLibraryInfo::TranslationsPath));

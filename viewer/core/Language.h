@@ -27,8 +27,8 @@ constexpr std::array<Language, 5> kLanguages { Language::System, Language::Engli
 /// "de" or "zh_CN".
 QString languageName(Language language);
 
-/// What a person is offered: the name of a language in itself, a text in the program's present one
-/// for Language::System.
+/// What a menu offers, with a mnemonic: the name of a language in itself, for Language::System a
+/// text in the program's present one.
 QString languageTitle(Language language);
 
 /// @return nothing for an unknown word
@@ -39,8 +39,8 @@ std::optional<Language> languageFromName(const QString& name);
 Language languageOf(const QStringList& desktopLanguages);
 
 /// Lets the application, which must exist, speak a language, with Qt's own dialogs as far as Qt's
-/// translations are installed. Every window is told by an event of its own (LanguageChange).
-/// Without a call the program speaks English.
+/// translations are installed, and write numbers as it is usual there. Every window is told by an
+/// event of its own (LanguageChange). Without a call the program speaks English.
 void applyLanguage(Language language);
 
 /// What applyLanguage() was called with last.

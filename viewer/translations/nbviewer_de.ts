@@ -423,6 +423,46 @@
         <source>Tire height, radius, part around</source>
         <translation>Reifenhöhe, Radius, Anteil am Umfang</translation>
     </message>
+    <message>
+        <source>a clip plane has lost its frame</source>
+        <translation>eine Schnittebene hat ihren Rahmen verloren</translation>
+    </message>
+    <message>
+        <source>%1: cannot be saved: %2</source>
+        <translation>%1: kann nicht gespeichert werden: %2</translation>
+    </message>
+    <message>
+        <source>a picture that came from no file cannot be saved</source>
+        <translation>ein Bild, das aus keiner Datei kam, kann nicht gespeichert werden</translation>
+    </message>
+    <message>
+        <source>is no picture</source>
+        <translation>ist kein Bild</translation>
+    </message>
+    <message>
+        <source>there is no model &quot;%1&quot;</source>
+        <translation>es gibt kein Modell „%1“</translation>
+    </message>
+    <message>
+        <source>expected &quot;%1&quot; in the model, which has &quot;%2&quot; there</source>
+        <translation>„%1“ wird im Modell erwartet, das dort „%2“ hat</translation>
+    </message>
+    <message>
+        <source>the model has no object &quot;%1&quot; at &quot;%2&quot;</source>
+        <translation>das Modell hat kein Objekt „%1“ bei „%2“</translation>
+    </message>
+    <message>
+        <source>the numbers are too large</source>
+        <translation>die Zahlen sind zu groß</translation>
+    </message>
+    <message>
+        <source>the model has no surface &quot;%1&quot; there</source>
+        <translation>das Modell hat dort keine Fläche „%1“</translation>
+    </message>
+    <message>
+        <source>%1: too large</source>
+        <translation>%1: zu groß</translation>
+    </message>
 </context>
 <context>
     <name>viewer::AboutBox</name>
@@ -474,8 +514,8 @@
 <context>
     <name>viewer::Language</name>
     <message>
-        <source>As the desktop</source>
-        <translation>Wie die Arbeitsumgebung</translation>
+        <source>&amp;As the desktop</source>
+        <translation>&amp;Wie die Arbeitsumgebung</translation>
     </message>
 </context>
 <context>
@@ -582,6 +622,10 @@
     <message>
         <source>Replay session</source>
         <translation>Sitzung wiedergeben</translation>
+    </message>
+    <message>
+        <source>%1: a scene can only be opened by itself</source>
+        <translation>%1: eine Szene kann nur allein geöffnet werden</translation>
     </message>
 </context>
 <context>
@@ -1133,6 +1177,33 @@
     </message>
 </context>
 <context>
+    <name>viewer::SceneFileActions</name>
+    <message>
+        <source>Scenes (*.nbscene)</source>
+        <translation>Szenen (*.nbscene)</translation>
+    </message>
+    <message>
+        <source>Open scene</source>
+        <translation>Szene öffnen</translation>
+    </message>
+    <message>
+        <source>Save scene</source>
+        <translation>Szene speichern</translation>
+    </message>
+    <message>
+        <source>The scene</source>
+        <translation>Die Szene</translation>
+    </message>
+    <message>
+        <source>%1 has been edited. Save it?</source>
+        <translation>%1 wurde bearbeitet. Speichern?</translation>
+    </message>
+    <message>
+        <source>Edits that are not saved will be lost.</source>
+        <translation>Nicht gespeicherte Änderungen gehen verloren.</translation>
+    </message>
+</context>
+<context>
     <name>viewer::ScenePanel</name>
     <message>
         <source>Objects of the scene</source>
@@ -1255,8 +1326,8 @@
         <translation>%1 ms, %2 Zeichenaufrufe, %L3 Dreiecke</translation>
     </message>
     <message>
-        <source>, scene image reused</source>
-        <translation type="unfinished"></translation>
+        <source>%1 ms, %2 draw calls, %L3 triangles, scene image reused</source>
+        <translation>%1 ms, %2 Zeichenaufrufe, %L3 Dreiecke, Szenenbild wiederverwendet</translation>
     </message>
 </context>
 <context>
@@ -1373,10 +1444,6 @@
     <message>
         <source>S&amp;tart scene</source>
         <translation>Sta&amp;rtszene</translation>
-    </message>
-    <message>
-        <source>Save &amp;picture…</source>
-        <translation>&amp;Bild speichern…</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
@@ -1549,6 +1616,22 @@
     <message>
         <source>Frame stat&amp;istics</source>
         <translation>Bild&amp;statistik</translation>
+    </message>
+    <message>
+        <source>Open s&amp;cene…</source>
+        <translation>S&amp;zene öffnen…</translation>
+    </message>
+    <message>
+        <source>&amp;Save scene</source>
+        <translation>Szene &amp;speichern</translation>
+    </message>
+    <message>
+        <source>Save sc&amp;ene as…</source>
+        <translation>Szene speichern &amp;unter…</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve picture…</source>
+        <translation>&amp;Bild speichern…</translation>
     </message>
 </context>
 </TS>

@@ -423,6 +423,46 @@
         <source>Tire height, radius, part around</source>
         <translation>Hauteur, rayon et part du tour du pneu</translation>
     </message>
+    <message>
+        <source>a clip plane has lost its frame</source>
+        <translation>un plan de coupe a perdu son cadre</translation>
+    </message>
+    <message>
+        <source>%1: cannot be saved: %2</source>
+        <translation>%1&#xa0;: ne peut pas être enregistré&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>a picture that came from no file cannot be saved</source>
+        <translation>une image qui ne vient d’aucun fichier ne peut pas être enregistrée</translation>
+    </message>
+    <message>
+        <source>is no picture</source>
+        <translation>n’est pas une image</translation>
+    </message>
+    <message>
+        <source>there is no model &quot;%1&quot;</source>
+        <translation>il n’y a pas de modèle «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>expected &quot;%1&quot; in the model, which has &quot;%2&quot; there</source>
+        <translation>«&#xa0;%1&#xa0;» est attendu dans le modèle, qui contient là «&#xa0;%2&#xa0;»</translation>
+    </message>
+    <message>
+        <source>the model has no object &quot;%1&quot; at &quot;%2&quot;</source>
+        <translation>le modèle n’a pas d’objet «&#xa0;%1&#xa0;» en «&#xa0;%2&#xa0;»</translation>
+    </message>
+    <message>
+        <source>the numbers are too large</source>
+        <translation>les nombres sont trop grands</translation>
+    </message>
+    <message>
+        <source>the model has no surface &quot;%1&quot; there</source>
+        <translation>le modèle n’a pas là de surface «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>%1: too large</source>
+        <translation>%1&#xa0;: trop grand</translation>
+    </message>
 </context>
 <context>
     <name>viewer::AboutBox</name>
@@ -474,8 +514,8 @@
 <context>
     <name>viewer::Language</name>
     <message>
-        <source>As the desktop</source>
-        <translation>Comme le bureau</translation>
+        <source>&amp;As the desktop</source>
+        <translation>&amp;Comme le bureau</translation>
     </message>
 </context>
 <context>
@@ -582,6 +622,10 @@
     <message>
         <source>Replay session</source>
         <translation>Rejouer une session</translation>
+    </message>
+    <message>
+        <source>%1: a scene can only be opened by itself</source>
+        <translation>%1&#xa0;: une scène ne peut être ouverte que seule</translation>
     </message>
 </context>
 <context>
@@ -1133,6 +1177,33 @@
     </message>
 </context>
 <context>
+    <name>viewer::SceneFileActions</name>
+    <message>
+        <source>Scenes (*.nbscene)</source>
+        <translation>Scènes (*.nbscene)</translation>
+    </message>
+    <message>
+        <source>Open scene</source>
+        <translation>Ouvrir une scène</translation>
+    </message>
+    <message>
+        <source>Save scene</source>
+        <translation>Enregistrer la scène</translation>
+    </message>
+    <message>
+        <source>The scene</source>
+        <translation>La scène</translation>
+    </message>
+    <message>
+        <source>%1 has been edited. Save it?</source>
+        <translation>%1 a été modifié. L’enregistrer&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Edits that are not saved will be lost.</source>
+        <translation>Les modifications non enregistrées seront perdues.</translation>
+    </message>
+</context>
+<context>
     <name>viewer::ScenePanel</name>
     <message>
         <source>Objects of the scene</source>
@@ -1255,8 +1326,8 @@
         <translation>%1 ms, %2 appels de dessin, %L3 triangles</translation>
     </message>
     <message>
-        <source>, scene image reused</source>
-        <translation type="unfinished"></translation>
+        <source>%1 ms, %2 draw calls, %L3 triangles, scene image reused</source>
+        <translation>%1 ms, %2 appels de dessin, %L3 triangles, image de la scène réutilisée</translation>
     </message>
 </context>
 <context>
@@ -1373,10 +1444,6 @@
     <message>
         <source>S&amp;tart scene</source>
         <translation>Scène de &amp;départ</translation>
-    </message>
-    <message>
-        <source>Save &amp;picture…</source>
-        <translation>Enregistrer l’&amp;image…</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
@@ -1549,6 +1616,22 @@
     <message>
         <source>Frame stat&amp;istics</source>
         <translation>Statist&amp;iques d’image</translation>
+    </message>
+    <message>
+        <source>Open s&amp;cene…</source>
+        <translation>Ouvrir une s&amp;cène…</translation>
+    </message>
+    <message>
+        <source>&amp;Save scene</source>
+        <translation>&amp;Enregistrer la scène</translation>
+    </message>
+    <message>
+        <source>Save sc&amp;ene as…</source>
+        <translation>Enregistrer la scène &amp;sous…</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve picture…</source>
+        <translation>Enregistrer l’&amp;image…</translation>
     </message>
 </context>
 </TS>

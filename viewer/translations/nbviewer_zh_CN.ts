@@ -421,6 +421,46 @@
         <source>Tire height, radius, part around</source>
         <translation>轮胎高度、半径、周向比例</translation>
     </message>
+    <message>
+        <source>a clip plane has lost its frame</source>
+        <translation>裁剪平面失去了其框架</translation>
+    </message>
+    <message>
+        <source>%1: cannot be saved: %2</source>
+        <translation>%1：无法保存：%2</translation>
+    </message>
+    <message>
+        <source>a picture that came from no file cannot be saved</source>
+        <translation>并非来自文件的图片无法保存</translation>
+    </message>
+    <message>
+        <source>is no picture</source>
+        <translation>不是图片</translation>
+    </message>
+    <message>
+        <source>there is no model &quot;%1&quot;</source>
+        <translation>没有模型“%1”</translation>
+    </message>
+    <message>
+        <source>expected &quot;%1&quot; in the model, which has &quot;%2&quot; there</source>
+        <translation>模型中此处应为“%1”，而实际为“%2”</translation>
+    </message>
+    <message>
+        <source>the model has no object &quot;%1&quot; at &quot;%2&quot;</source>
+        <translation>模型在“%2”处没有对象“%1”</translation>
+    </message>
+    <message>
+        <source>the numbers are too large</source>
+        <translation>数值过大</translation>
+    </message>
+    <message>
+        <source>the model has no surface &quot;%1&quot; there</source>
+        <translation>模型在此处没有表面“%1”</translation>
+    </message>
+    <message>
+        <source>%1: too large</source>
+        <translation>%1：过大</translation>
+    </message>
 </context>
 <context>
     <name>viewer::AboutBox</name>
@@ -472,8 +512,8 @@
 <context>
     <name>viewer::Language</name>
     <message>
-        <source>As the desktop</source>
-        <translation>跟随桌面</translation>
+        <source>&amp;As the desktop</source>
+        <translation>跟随桌面(&amp;A)</translation>
     </message>
 </context>
 <context>
@@ -580,6 +620,10 @@
     <message>
         <source>Replay session</source>
         <translation>回放会话</translation>
+    </message>
+    <message>
+        <source>%1: a scene can only be opened by itself</source>
+        <translation>%1：场景只能单独打开</translation>
     </message>
 </context>
 <context>
@@ -1131,6 +1175,33 @@
     </message>
 </context>
 <context>
+    <name>viewer::SceneFileActions</name>
+    <message>
+        <source>Scenes (*.nbscene)</source>
+        <translation>场景 (*.nbscene)</translation>
+    </message>
+    <message>
+        <source>Open scene</source>
+        <translation>打开场景</translation>
+    </message>
+    <message>
+        <source>Save scene</source>
+        <translation>保存场景</translation>
+    </message>
+    <message>
+        <source>The scene</source>
+        <translation>场景</translation>
+    </message>
+    <message>
+        <source>%1 has been edited. Save it?</source>
+        <translation>%1已被编辑。要保存吗？</translation>
+    </message>
+    <message>
+        <source>Edits that are not saved will be lost.</source>
+        <translation>未保存的编辑将会丢失。</translation>
+    </message>
+</context>
+<context>
     <name>viewer::ScenePanel</name>
     <message>
         <source>Objects of the scene</source>
@@ -1251,8 +1322,8 @@
         <translation>%1 毫秒，%2 次绘制调用，%L3 个三角形</translation>
     </message>
     <message>
-        <source>, scene image reused</source>
-        <translation type="unfinished"></translation>
+        <source>%1 ms, %2 draw calls, %L3 triangles, scene image reused</source>
+        <translation>%1 毫秒，%2 次绘制调用，%L3 个三角形，复用场景图像</translation>
     </message>
 </context>
 <context>
@@ -1369,10 +1440,6 @@
     <message>
         <source>S&amp;tart scene</source>
         <translation>起始场景(&amp;T)</translation>
-    </message>
-    <message>
-        <source>Save &amp;picture…</source>
-        <translation>保存图片(&amp;P)…</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
@@ -1545,6 +1612,22 @@
     <message>
         <source>Frame stat&amp;istics</source>
         <translation>帧统计(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Open s&amp;cene…</source>
+        <translation>打开场景(&amp;C)…</translation>
+    </message>
+    <message>
+        <source>&amp;Save scene</source>
+        <translation>保存场景(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Save sc&amp;ene as…</source>
+        <translation>场景另存为(&amp;E)…</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve picture…</source>
+        <translation>保存图片(&amp;P)…</translation>
     </message>
 </context>
 </TS>
