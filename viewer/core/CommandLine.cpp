@@ -230,8 +230,9 @@ QString commandLineHelp()
                "  --output folder          where the pictures of a session go (default: here)\n"
                "  --size WxH               size of the 3D view in pixels, each edge from %1 to %2\n"
                "  --language name          language of the window: %3\n"
-               "                           (default: that chosen last; English with --session or\n"
-               "                           --screenshot)\n"
+               "                           (default: that chosen last; English when the program "
+               "runs "
+               "by itself)\n"
                "  --help, --version\n")
         .arg(kMinViewEdgePx)
         .arg(kMaxViewEdgePx)

@@ -74,7 +74,7 @@ QString languageTitle(Language language)
 
 std::optional<Language> languageFromName(const QString& name)
 {
-    const auto found =
+    const auto* const found =
         std::find_if(kLanguages.begin(), kLanguages.end(), [&name](Language language) {
             return name.compare(languageName(language), Qt::CaseInsensitive) == 0;
         });
