@@ -102,14 +102,16 @@ QString describe(const osg::NodePtr& node, Active mode)
     case Active::TranslateX:
     case Active::TranslateY:
     case Active::TranslateXY:
-        return detail::describeValues("Translation (",
+        return detail::describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Translation ("),
                                       nbNodeUtils::getTransformNodeTranslation(node));
     case Active::ScaleX:
     case Active::ScaleY:
     case Active::ScaleUniform:
-        return detail::describeValues("Scale (", nbNodeUtils::getTransformNodeScale(node));
+        return detail::describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Scale ("),
+                                      nbNodeUtils::getTransformNodeScale(node));
     case Active::Rotate:
-        return detail::describeValues("Rotation (", nbNodeUtils::getTransformNodeRotation(node));
+        return detail::describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Rotation ("),
+                                      nbNodeUtils::getTransformNodeRotation(node));
     default:
         return QString();
     }

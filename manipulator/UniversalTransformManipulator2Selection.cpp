@@ -42,12 +42,14 @@ QString describe(const osg::NodePtr& node, Active handle, Mode mode, bool worldS
 {
     if (handle >= Active::RotateX && handle <= Active::RotateZ) {
         return mode == Mode::Rotate
-            ? detail::describeValues("Rotation (", nbNodeUtils::getTransformNodeRotation(node))
+            ? detail::describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Rotation ("),
+                                     nbNodeUtils::getTransformNodeRotation(node))
             : QString();
     }
     if (handle >= Active::ScaleX) {
         return mode == Mode::Scale
-            ? detail::describeValues("Scale (", nbNodeUtils::getTransformNodeScale(node))
+            ? detail::describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Scale ("),
+                                     nbNodeUtils::getTransformNodeScale(node))
             : QString();
     }
     switch (mode) {
@@ -56,13 +58,14 @@ QString describe(const osg::NodePtr& node, Active handle, Mode mode, bool worldS
     case Mode::TranslateRotate:
     case Mode::TranslateRotateYZ:
     case Mode::TranslateRotateScale:
-        return detail::describeValues("Translation (",
+        return detail::describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Translation ("),
                                       nbTransformModel::getTranslation(node, worldSpace));
     case Mode::RotatePivot:
-        return detail::describeValues("Rotate Pivot (",
-                                      nbTransformModel::getRotationPivot(node, worldSpace));
+        return detail::describeValues(
+            QT_TRANSLATE_NOOP("nbForegroundTextContext", "Rotate Pivot ("),
+            nbTransformModel::getRotationPivot(node, worldSpace));
     case Mode::ScalePivot:
-        return detail::describeValues("Scale Pivot (",
+        return detail::describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Scale Pivot ("),
                                       nbTransformModel::getScalePivot(node, worldSpace));
     default:
         return QString();

@@ -341,12 +341,15 @@ void nbSceneplateManipulator::setDescription() const
         text.show(QString());
     } else if (activeMode == ActiveMode::Move) {
         const osg::Vec2f& offsetPx = drag->change.offsetPx;
-        text.show(detail::describeValues("Translation (", { offsetPx.x(), -offsetPx.y() }));
-    } else if (activeMode == ActiveMode::Rotate) {
         text.show(
-            detail::describeValues("Rotation (", { drag->start.rotation + drag->change.rotation }));
+            detail::describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Translation ("),
+                                   { offsetPx.x(), -offsetPx.y() }));
+    } else if (activeMode == ActiveMode::Rotate) {
+        text.show(detail::describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Rotation ("),
+                                         { drag->start.rotation + drag->change.rotation }));
     } else {
-        text.show(detail::describeValues("Scale (", { drag->change.scaleFactor }));
+        text.show(detail::describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Scale ("),
+                                         { drag->change.scaleFactor }));
     }
 }
 

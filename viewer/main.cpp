@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/core/CommandLine.h"
+#include "viewer/core/Language.h"
 #include "viewer/core/Session.h"
 #include "viewer/gui/AboutBox.h"
 #include "viewer/gui/MainWindow.h"
 #include "viewer/gui/StartUp.h"
+#include "viewer/gui/WindowMemory.h"
 
 #include <nbKernel/nbController.h>
 #include <nbKernel/nbScenegraph.h>
@@ -78,6 +80,15 @@ std::optional<int> prepare(const QStringList& arguments, CommandLine& options,
     return std::nullopt;
 }
 
+/// Pictures and sessions are the same on every desktop.
+viewer::Language languageFor(const CommandLine& options)
+{
+    if (options.language) {
+        return *options.language;
+    }
+    return options.isUnattended() ? viewer::Language::English : viewer::memory::language();
+}
+
 int runWindow(QApplication& application, const CommandLine& options,
               const std::optional<viewer::Session>& session)
 {
@@ -115,6 +126,7 @@ int main(int argc, char** argv)
     QCoreApplication::setOrganizationName(QStringLiteral("nbviewer"));
     // Numbers have a point, whatever the language of the desktop.
     std::setlocale(LC_NUMERIC, "C");
+    viewer::applyLanguage(languageFor(options));
     osg::osgInit(argc, argv);
     const int status = runWindow(application, options, session);
     nbController::clear();

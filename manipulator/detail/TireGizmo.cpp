@@ -242,20 +242,24 @@ void TireGizmo::changeTo(const osg::Pnt3f& hit)
     if (activeMode <= number(Active::TranslateZ)) {
         const osg::Vec3f center = start.center + direction * way;
         message.set("center", center, true);
-        text().show(describeValues("Center (", center));
+        text().show(
+            describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Center ("), center));
     } else if (activeMode == number(Active::ScaleHeight)) {
         const float height = atLeastPart(start.height + 2.0F * way, start.height);
         message.set("ScaleHeight", height, true);
-        text().show(describeValues("Height (", { height }));
+        text().show(
+            describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Height ("), { height }));
     } else if (activeMode == number(Active::ScaleRadius)) {
         const float radius = atLeastPart(start.radius + way, start.radius);
         message.set("ScaleRadius", radius, true);
-        text().show(describeValues("Radius (", { radius }));
+        text().show(
+            describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Radius ("), { radius }));
     } else {
         const float part = grownCircumferencePart(start.scaleU, ring.angleOf(dragPlane.getStart()),
                                                   ring.angleOf(hit));
         message.set("ScaleU", part, true);
-        text().show(describeValues("Scale (", { part }));
+        text().show(
+            describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Scale ("), { part }));
     }
     hasSent = true;
     sendChange(kChangedSuffix, message);

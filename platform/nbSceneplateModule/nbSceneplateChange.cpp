@@ -84,9 +84,10 @@ bool nbSceneplateChange::isNone() const
 const char* nbSceneplateChange::getTitle() const
 {
     if (rotation != 0.f) {
-        return "Turn scene plates";
+        return QT_TRANSLATE_NOOP("Manipulator", "Turn scene plates");
     }
-    return scaleFactor != 1.f ? "Scale scene plates" : "Move scene plates";
+    return scaleFactor != 1.f ? QT_TRANSLATE_NOOP("Manipulator", "Scale scene plates")
+                              : QT_TRANSLATE_NOOP("Manipulator", "Move scene plates");
 }
 
 nbSceneplateStart::nbSceneplateStart(const std::vector<osg::NodePtr>& plates, int widthPx,

@@ -100,7 +100,7 @@ bool nbSceneplateEditing::add(const osg::NodePtr& node)
     if (plate == osg::NullFC) {
         return false;
     }
-    const nbScopedUndo undo("Add scene plate");
+    const nbScopedUndo undo(QT_TRANSLATE_NOOP("Manipulator", "Add scene plate"));
     const std::vector<Entry> side = collectSide(plate->getFront());
     if (!side.empty()) {
         constexpr osg::Int32 kHighest = std::numeric_limits<osg::Int32>::max();
@@ -117,7 +117,7 @@ bool nbSceneplateEditing::add(const osg::NodePtr& node)
 
 std::size_t nbSceneplateEditing::remove(const std::vector<osg::NodePtr>& nodes)
 {
-    const nbScopedUndo undo("Delete scene plates");
+    const nbScopedUndo undo(QT_TRANSLATE_NOOP("Manipulator", "Delete scene plates"));
     const osg::NodePtr root = nbScenegraph::getSceneplateRoot();
     nbSceneplateUndo::noteChildren(root);
     std::size_t removed = 0;
@@ -154,7 +154,7 @@ void nbSceneplateEditing::rename(const osg::NodePtr& node, const std::string& na
     if (nbSceneplateList::plateOf(node) == osg::NullFC || nbNodeUtils::getName(node) == name) {
         return;
     }
-    const nbScopedUndo undo("Rename scene plate");
+    const nbScopedUndo undo(QT_TRANSLATE_NOOP("Manipulator", "Rename scene plate"));
     nbSceneplateUndo::notePlates({ node });
     nbNodeUtils::setName(node, name);
     nbController::setModified(1);
@@ -163,19 +163,21 @@ void nbSceneplateEditing::rename(const osg::NodePtr& node, const std::string& na
 void nbSceneplateEditing::setAnchor(const std::vector<osg::NodePtr>& nodes, osg::Int32 anchor,
                                     int widthPx, int heightPx)
 {
-    edit(nodes, "Anchor scene plates", [=](osg::Sceneplate& plate) {
-        const osg::Pnt2f centre =
-            nbSceneplateLayout::centre(osg::SceneplatePtr(plate), widthPx, heightPx);
-        if (anchor != plate.getAnchor()) {
-            plate.setAnchor(anchor);
-            plate.setPosition(nbSceneplateLayout::positionAt(anchor, centre, widthPx, heightPx));
-        }
-    });
+    edit(nodes, QT_TRANSLATE_NOOP("Manipulator", "Anchor scene plates"),
+         [=](osg::Sceneplate& plate) {
+             const osg::Pnt2f centre =
+                 nbSceneplateLayout::centre(osg::SceneplatePtr(plate), widthPx, heightPx);
+             if (anchor != plate.getAnchor()) {
+                 plate.setAnchor(anchor);
+                 plate.setPosition(
+                     nbSceneplateLayout::positionAt(anchor, centre, widthPx, heightPx));
+             }
+         });
 }
 
 bool nbSceneplateEditing::restack(const std::vector<osg::NodePtr>& nodes, int steps)
 {
-    const nbScopedUndo undo("Restack scene plates");
+    const nbScopedUndo undo(QT_TRANSLATE_NOOP("Manipulator", "Restack scene plates"));
     const bool isFrontMoved = restackSide(nodes, steps, true);
     const bool isMoved = restackSide(nodes, steps, false) || isFrontMoved;
     if (isMoved) {

@@ -38,6 +38,7 @@ TEST(CommandLine, SaysInOneLineWhichArgumentIsWrong)
         { { "-x" }, "unknown option -x" },
         { { "--session" }, "option --session needs a value" },
         { { "--screenshot=" }, "option --screenshot needs a value" },
+        { { "--language", "Elvish" }, "--language Elvish: expected system, en, de, fr, zh_CN" },
         { { "--size", "15x100" }, "--size 15x100" },
         { { "--size", "100x8193" }, "from 16 to 8192" },
         { { "--size", "100" }, "--size 100" },

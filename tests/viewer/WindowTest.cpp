@@ -45,7 +45,11 @@ protected:
         window.showStartScene();
     }
 
-    ~WindowTest() override { applyTheme(Theme::System); }
+    ~WindowTest() override
+    {
+        applyTheme(Theme::System);
+        applyLanguage(Language::English);
+    }
 
     QAction* action(const char* name)
     {
@@ -137,21 +141,37 @@ TEST_F(WindowTest, EveryActionHasATextATipAndAShortcutOfItsOwn)
     EXPECT_GT(actions, 40);
 }
 
-TEST_F(WindowTest, EveryMenuEntryHasAMnemonicOfItsOwn)
+void expectMnemonics(const QMenu& menu)
 {
-    for (QMenu* menu : window.menuBar()->findChildren<QMenu*>()) {
-        std::set<QChar> letters;
-        for (QAction* entry : menu->actions()) {
-            const int mark = entry->text().indexOf(QLatin1Char('&'));
-            // Panels name their own switches; there may be any number of recent
-            // files.
-            if (entry->isSeparator() || (mark < 0 && entry->objectName().isEmpty())) {
-                continue;
-            }
-            ASSERT_GE(mark, 0) << entry->text().toStdString();
-            EXPECT_TRUE(letters.insert(entry->text().at(mark + 1).toLower()).second)
-                << menu->title().toStdString() << ": " << entry->text().toStdString();
+    std::set<QChar> letters;
+    for (QAction* entry : menu.actions()) {
+        const int mark = entry->text().indexOf(QLatin1Char('&'));
+        // Panels name their own switches; there may be any number of recent
+        // files.
+        if (entry->isSeparator() || (mark < 0 && entry->objectName().isEmpty())) {
+            continue;
         }
+        ASSERT_GE(mark, 0) << entry->text().toStdString();
+        EXPECT_TRUE(letters.insert(entry->text().at(mark + 1).toLower()).second)
+            << menu.title().toStdString() << ": " << entry->text().toStdString();
+    }
+}
+
+TEST_F(WindowTest, EveryMenuEntryHasAMnemonicOfItsOwnInEveryLanguage)
+{
+    for (const Language language : kLanguages) {
+        window.setLanguage(language);
+        waitForQuiet();
+        const QList<QMenu*> menus = window.menuBar()->findChildren<QMenu*>();
+        EXPECT_GT(menus.size(), 8);
+        for (const QMenu* menu : menus) {
+            expectMnemonics(*menu);
+        }
+        std::set<QChar> letters;
+        for (const QAction* entry : window.menuBar()->actions()) {
+            letters.insert(entry->text().at(entry->text().indexOf(QLatin1Char('&')) + 1));
+        }
+        EXPECT_EQ(static_cast<int>(letters.size()), window.menuBar()->actions().size());
     }
 }
 

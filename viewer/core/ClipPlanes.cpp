@@ -2,6 +2,7 @@
 #include "viewer/core/ClipPlanes.h"
 
 #include "viewer/core/Stage.h"
+#include "viewer/core/Text.h"
 
 #include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbChildrenRecord.h>
@@ -150,7 +151,7 @@ osg::NodePtr addClipPlane(const osg::Vec3f& away)
     const osg::NodePtr frame =
         makeFrame(bounds.getMin() + size * 0.5F, -nearestAxis(away), size.length() * kOutlineSize);
     const osg::NodePtr plane = makeClipPlane(frame);
-    const nbScopedUndo scope(QStringLiteral("Add clip plane"));
+    const nbScopedUndo scope(Text::tr("Add clip plane"));
     nbUndoService::the()->record(
         std::make_unique<nbChildrenRecord>(std::vector<osg::NodePtr> { root, plane }));
     moveChildren(root, plane);
@@ -169,7 +170,7 @@ bool removeClipPlane(const osg::NodePtr& frame)
     }
     const osg::NodePtr parent = plane->getParent();
     const osg::NodePtr frameParent = frame->getParent();
-    const nbScopedUndo scope(QStringLiteral("Remove clip plane"));
+    const nbScopedUndo scope(Text::tr("Remove clip plane"));
     nbUndoService::the()->record(std::make_unique<nbChildrenRecord>(
         std::vector<osg::NodePtr> { parent, plane, frameParent }));
     moveChildren(plane, parent);
@@ -222,7 +223,7 @@ void addClipPlaneCommands(Stage& stage)
     commands.add(QStringLiteral("scene.addClipPlane"), [&stage](const QJsonValue&, QString& error) {
         const osg::NodePtr frame = addClipPlane(stage.pose().from - stage.pose().at);
         if (frame == osg::NullFC) {
-            error = QStringLiteral("there is nothing to be cut");
+            error = Text::tr("there is nothing to be cut");
             return false;
         }
         stage.select(frame);
@@ -235,7 +236,7 @@ void addClipPlaneCommands(Stage& stage)
                      stage.select(osg::NullFC);
                      if (!removeClipPlane(frame)) {
                          stage.select(frame);
-                         error = QStringLiteral("select a clip plane first");
+                         error = Text::tr("select a clip plane first");
                          return false;
                      }
                      stage.showGizmo(Gizmo::Universal);

@@ -13,19 +13,57 @@
 namespace viewer {
 namespace {
 
-/// An option that takes a value, and where the value goes.
+QString languageNames()
+{
+    QStringList names;
+    for (const Language language : kLanguages) {
+        names.append(languageName(language));
+    }
+    return names.join(QStringLiteral(", "));
+}
+
+/// An option that takes a value, and what becomes of the value.
 struct ValueOption
 {
     const char* name;
     const char* valueName;
-    QString CommandLine::*target;
+    bool (*store)(const QString& value, CommandLine& options, QString& error);
 };
 
+template <QString CommandLine::*target>
+bool storeText(const QString& value, CommandLine& options, QString&)
+{
+    options.*target = value;
+    return true;
+}
+
+bool storeSize(const QString& value, CommandLine& options, QString& error)
+{
+    if (!parseSize(value, options.sizePx)) {
+        error = QStringLiteral("--size %1: expected WIDTHxHEIGHT, each from %2 to %3 pixels")
+                    .arg(value)
+                    .arg(kMinViewEdgePx)
+                    .arg(kMaxViewEdgePx);
+        return false;
+    }
+    return true;
+}
+
+bool storeLanguage(const QString& value, CommandLine& options, QString& error)
+{
+    options.language = languageFromName(value);
+    if (!options.language) {
+        error = QStringLiteral("--language %1: expected %2").arg(value, languageNames());
+    }
+    return options.language.has_value();
+}
+
 constexpr ValueOption kValueOptions[] = {
-    { "--session", "file.json", &CommandLine::session },
-    { "--screenshot", "out.png", &CommandLine::screenshot },
-    { "--output", "folder", &CommandLine::outputFolder },
-    { "--size", "WxH", nullptr },
+    { "--session", "file.json", &storeText<&CommandLine::session> },
+    { "--screenshot", "out.png", &storeText<&CommandLine::screenshot> },
+    { "--output", "folder", &storeText<&CommandLine::outputFolder> },
+    { "--language", "name", &storeLanguage },
+    { "--size", "WxH", &storeSize },
 };
 
 const ValueOption* findValueOption(const QString& name)
@@ -45,18 +83,7 @@ bool store(const ValueOption& option, const QString& value, CommandLine& options
                     .arg(QLatin1String(option.name), QLatin1String(option.valueName));
         return false;
     }
-    if (option.target != nullptr) {
-        options.*option.target = value;
-        return true;
-    }
-    if (!parseSize(value, options.sizePx)) {
-        error = QStringLiteral("--size %1: expected WIDTHxHEIGHT, each from %2 to %3 pixels")
-                    .arg(value)
-                    .arg(kMinViewEdgePx)
-                    .arg(kMaxViewEdgePx);
-        return false;
-    }
-    return true;
+    return option.store(value, options, error);
 }
 
 bool parseFlag(const QString& argument, CommandLine& options)
@@ -202,9 +229,14 @@ QString commandLineHelp()
                "  --screenshot out.png     write a picture of the 3D view, then quit\n"
                "  --output folder          where the pictures of a session go (default: here)\n"
                "  --size WxH               size of the 3D view in pixels, each edge from %1 to %2\n"
+               "  --language name          language of the window: %3\n"
+               "                           (default: that chosen last; English when the program "
+               "runs "
+               "by itself)\n"
                "  --help, --version\n")
         .arg(kMinViewEdgePx)
-        .arg(kMaxViewEdgePx);
+        .arg(kMaxViewEdgePx)
+        .arg(languageNames());
 }
 
 }  // namespace viewer

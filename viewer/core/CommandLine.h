@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "viewer/core/Language.h"
+
 #include <QSize>
 #include <QString>
 #include <QStringList>
+
+#include <optional>
 
 namespace viewer {
 
@@ -19,6 +23,7 @@ struct CommandLine
     QString screenshot;  ///< picture to write; empty: none
     QString
         outputFolder;  ///< where the pictures of a session's checkpoints go; empty: working folder
+    std::optional<Language> language;  ///< none: that of the settings; English if nobody is there
     QSize sizePx;  ///< size of the 3D view, device pixels; invalid: the window decides
     bool tourWanted = false;  ///< replay all shipped sessions
     bool helpWanted = false;

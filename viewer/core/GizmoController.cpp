@@ -2,6 +2,7 @@
 #include "viewer/core/GizmoController.h"
 
 #include "viewer/core/HandleCursor.h"
+#include "viewer/core/Text.h"
 #include "viewer/core/ValueLine.h"
 
 #include <nbInteraction/InteractionManager.h>
@@ -197,7 +198,7 @@ bool GizmoController::centerPivots()
 {
     manager.endDrag();
     nbUndoService* undo = nbUndoService::the();
-    undo->beginGroup(QStringLiteral("Centre pivot"));
+    undo->beginGroup(Text::tr("Centre pivot"));
     bool isDone = false;
     const std::vector<osg::NodePtr> all = targets;
     for (const osg::NodePtr& target : all) {
@@ -254,18 +255,22 @@ std::string GizmoController::draggedValues() const
     case HandleAction::MoveAlong:
     case HandleAction::MoveInPlane:
         if (current == Gizmo::RotatePivot) {
-            return valueLine("Rotate pivot",
+            return valueLine(QT_TRANSLATE_NOOP("viewer", "Rotate pivot"),
                              nbTransformModel::getRotationPivot(node, !isLocalSpace()));
         }
         if (current == Gizmo::ScalePivot) {
-            return valueLine("Scale pivot", nbTransformModel::getScalePivot(node, !isLocalSpace()));
+            return valueLine(QT_TRANSLATE_NOOP("viewer", "Scale pivot"),
+                             nbTransformModel::getScalePivot(node, !isLocalSpace()));
         }
-        return valueLine("Translation", nbTransformModel::getTranslation(node, !isLocalSpace()));
+        return valueLine(QT_TRANSLATE_NOOP("viewer", "Translation"),
+                         nbTransformModel::getTranslation(node, !isLocalSpace()));
     case HandleAction::Turn:
-        return valueLine("Rotation", nbNodeUtils::getTransformNodeRotation(node));
+        return valueLine(QT_TRANSLATE_NOOP("viewer", "Rotation"),
+                         nbNodeUtils::getTransformNodeRotation(node));
     case HandleAction::ScaleAlong:
     case HandleAction::ScaleAll:
-        return valueLine("Scale", nbNodeUtils::getTransformNodeScale(node));
+        return valueLine(QT_TRANSLATE_NOOP("viewer", "Scale"),
+                         nbNodeUtils::getTransformNodeScale(node));
     case HandleAction::None:
         break;
     }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/core/ModelConversion.h"
 
+#include "viewer/core/Text.h"
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -69,10 +71,9 @@ public:
         }
         model.root = convert(*scene.mRootNode);
         if (brokenTriangles > 0) {
-            model.warnings.append(
-                QStringLiteral("%1: %2 triangles without a finite place were left out")
-                    .arg(path)
-                    .arg(brokenTriangles));
+            model.warnings.append(Text::tr("%1: %n triangles without a finite place were left out",
+                                           nullptr, static_cast<int>(brokenTriangles))
+                                      .arg(path));
         }
         return std::move(model);
     }
@@ -130,8 +131,7 @@ QImage Conversion::texture(const aiMaterial& source)
         picture.load(QFileInfo(path).absoluteDir().absoluteFilePath(relative));
     }
     if (picture.isNull()) {
-        model.warnings.append(
-            QStringLiteral("%1: picture %2 cannot be read").arg(path, text(name)));
+        model.warnings.append(Text::tr("%1: picture %2 cannot be read").arg(path, text(name)));
     }
     return picture;
 }

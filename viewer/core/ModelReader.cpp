@@ -2,6 +2,7 @@
 #include "viewer/core/ModelReader.h"
 
 #include "viewer/core/ModelConversion.h"
+#include "viewer/core/Text.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -122,8 +123,7 @@ std::optional<ModelData> readWithImporter(const QString& path, const ReadProgres
                                           QString& error)
 {
     if (hasEnding(path, "ply") && !isPlyHeaderWhole(path)) {
-        return fail(path, QStringLiteral("cannot be read as a model: its header has no end"),
-                    error);
+        return fail(path, Text::tr("cannot be read as a model: its header has no end"), error);
     }
     Assimp::Importer importer;
     auto* progress = new Progress(report);
@@ -132,22 +132,22 @@ std::optional<ModelData> readWithImporter(const QString& path, const ReadProgres
     const aiScene* scene =
         importer.ReadFile(QFile::encodeName(path).constData(), aiProcess_ValidateDataStructure);
     if (scene != nullptr && hasEmptyFaces(*scene)) {
-        return fail(path, QStringLiteral("cannot be read as a model: it has faces without corners"),
+        return fail(path, Text::tr("cannot be read as a model: it has faces without corners"),
                     error);
     }
     if (scene != nullptr) {
         scene = importer.ApplyPostProcessing(flags);
     }
     if (progress->isCancelled()) {
-        return fail(path, QStringLiteral("reading was stopped"), error);
+        return fail(path, Text::tr("reading was stopped"), error);
     }
     if (scene == nullptr || scene->mRootNode == nullptr) {
         const QString reason = QString::fromUtf8(importer.GetErrorString()).section('\n', 0, 0);
-        return fail(path, QStringLiteral("cannot be read as a model: %1").arg(reason), error);
+        return fail(path, Text::tr("cannot be read as a model: %1").arg(reason), error);
     }
     ModelData model = convertScene(*scene, path);
     if (model.triangleCount() == 0) {
-        return fail(path, QStringLiteral("holds no surface"), error);
+        return fail(path, Text::tr("holds no surface"), error);
     }
     return model;
 }
@@ -158,8 +158,7 @@ std::optional<ModelData> readPicture(const QString& path, QString& error)
     reader.setAutoTransform(true);
     const QImage picture = reader.read();
     if (picture.isNull()) {
-        return fail(path,
-                    QStringLiteral("cannot be read as a picture: %1").arg(reader.errorString()),
+        return fail(path, Text::tr("cannot be read as a picture: %1").arg(reader.errorString()),
                     error);
     }
     const float halfHeight = kPictureHeight / 2.0F;
@@ -190,9 +189,7 @@ std::optional<ModelData> readModelFile(const QString& path, const ReadProgress& 
 {
     const QFileInfo info(path);
     if (!info.isFile()) {
-        return fail(path,
-                    info.exists() ? QStringLiteral("not a file") : QStringLiteral("no such file"),
-                    error);
+        return fail(path, info.exists() ? Text::tr("not a file") : Text::tr("no such file"), error);
     }
     try {
         std::optional<ModelData> model = isPictureName(path)
@@ -205,8 +202,7 @@ std::optional<ModelData> readModelFile(const QString& path, const ReadProgress& 
         return model;
     } catch (const std::exception& problem) {
         // A damaged file may state sizes that no memory can hold.
-        return fail(path,
-                    QStringLiteral("cannot be read: %1").arg(QString::fromUtf8(problem.what())),
+        return fail(path, Text::tr("cannot be read: %1").arg(QString::fromUtf8(problem.what())),
                     error);
     }
 }
@@ -220,7 +216,7 @@ QString modelFileFilter()
     for (const char* ending : kPictureEndings) {
         patterns.append(QStringLiteral("*.") + QLatin1String(ending));
     }
-    return QStringLiteral("Models and pictures (%1);;All files (*)").arg(patterns.join(' '));
+    return Text::tr("Models and pictures (%1);;All files (*)").arg(patterns.join(' '));
 }
 
 QString modelLibraryVersion()

@@ -3,6 +3,7 @@
 
 #include "viewer/core/SceneBuilder.h"
 #include "viewer/core/Stage.h"
+#include "viewer/core/Text.h"
 
 #include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbScopedUndo.h>
@@ -90,12 +91,13 @@ struct ObjectSwitch
 };
 
 const ObjectSwitch kSwitches[] = {
-    { "object.visible", "Show or hide", [](const osg::NodePtr& node) { return node->getActive(); },
+    { "object.visible", QT_TRANSLATE_NOOP("Manipulator", "Show or hide"),
+      [](const osg::NodePtr& node) { return node->getActive(); },
       [](const osg::NodePtr& node, bool on) {
           const nbEdit edit(node, osg::Node::TravMaskFieldMask);
           node->setActive(on);
       } },
-    { "object.locked", "Lock or unlock",
+    { "object.locked", QT_TRANSLATE_NOOP("Manipulator", "Lock or unlock"),
       [](const osg::NodePtr& node) {
           return !nbNodePermission::allows(node, nbNodePermission::Transform);
       },
@@ -140,8 +142,6 @@ const ObjectVector kVectors[] = {
       [](const osg::NodePtr& node) { return nbTransformModel::getScalePivot(node, false); } },
 };
 
-const char* const kNothingSelected = "nothing is selected";
-
 bool readVector(const QJsonValue& value, osg::Vec3f& vector)
 {
     const QJsonArray array = value.toArray();
@@ -157,7 +157,7 @@ bool setVector(Stage& stage, const ObjectVector& row, const QJsonValue& value, Q
     const std::vector<osg::NodePtr> objects = stage.selectedObjects();
     osg::Vec3f vector;
     if (objects.empty()) {
-        error = QLatin1String(kNothingSelected);
+        error = Text::tr("nothing is selected");
         return false;
     }
     if (!readVector(value, vector)) {
@@ -169,7 +169,7 @@ bool setVector(Stage& stage, const ObjectVector& row, const QJsonValue& value, Q
             return nbTransformModel::Value { { objects[i], -1 }, vector };
         });
     if (count == 0) {
-        error = QStringLiteral("the selected object is locked or cannot take this value");
+        error = Text::tr("the selected object is locked or cannot take this value");
     }
     return count > 0;
 }
@@ -179,11 +179,11 @@ bool setSwitch(Stage& stage, const ObjectSwitch& row, const QJsonValue& value, Q
     const std::vector<osg::NodePtr> objects = stage.selectedObjects();
     if (objects.empty() || !value.isBool()) {
         error = objects.empty()
-            ? QLatin1String(kNothingSelected)
-            : QLatin1String(row.name) + QLatin1String(": expected true or false");
+            ? Text::tr("nothing is selected")
+            : QStringLiteral("%1: expected true or false").arg(QLatin1String(row.name));
         return false;
     }
-    const nbScopedUndo scope(QLatin1String(row.title) + QString());
+    const nbScopedUndo scope(row.title);
     for (const osg::NodePtr& object : objects) {
         nbUndoService::the()->record(std::make_unique<SwitchRecord>(object, row.get, row.set));
         row.set(object, value.toBool());

@@ -3,6 +3,7 @@
 
 #include "viewer/core/PerspectiveMatchTool.h"
 #include "viewer/core/Stage.h"
+#include "viewer/core/Text.h"
 
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
@@ -158,7 +159,7 @@ void addModes(CommandTable& table, PerspectiveMatchTool& tool, Stage& stage)
         }
         const bool on = value.toBool(!tool.isActive());
         if (on && stage.pose().orthographic) {
-            error = QStringLiteral("an orthographic view cannot be matched: switch to perspective");
+            error = Text::tr("an orthographic view cannot be matched: switch to perspective");
             return false;
         }
         if (on != tool.isActive()) {

@@ -4,6 +4,7 @@
 #include "viewer/core/PerspectiveMatchCommands.h"
 #include "viewer/core/PictureFile.h"
 #include "viewer/core/Stage.h"
+#include "viewer/core/Text.h"
 
 #include <nbInteraction/InteractionManager.h>
 #include <nbKernel/nbScenegraph.h>
@@ -14,8 +15,6 @@
 #include <nbKernelServices/nbScopedUndo.h>
 #include <nbOpenSGUberCamera/nbCameraUtils.h>
 #include <nbOpenSGUtils/nbEdit.h>
-
-#include <QCoreApplication>
 
 #include <array>
 
@@ -56,11 +55,6 @@ HandleName read(const std::string& handle)
         }
     }
     return {};
-}
-
-QString translated(const char* text)
-{
-    return QCoreApplication::translate("viewer", text);
 }
 
 nbdPerspectiveMatch::Line lineOf(int index)
@@ -170,7 +164,7 @@ void PerspectiveMatchTool::showLines(bool on)
 bool PerspectiveMatchTool::isRefused(QString& error) const
 {
     if (camera().isLocked()) {
-        error = QStringLiteral("the camera is locked");
+        error = Text::tr("the camera is locked");
         return true;
     }
     return false;
@@ -181,7 +175,7 @@ bool PerspectiveMatchTool::layLines(QString& error)
     if (isRefused(error)) {
         return false;
     }
-    const nbScopedMultiCommand step(translated("Lay lines as seen"));
+    const nbScopedMultiCommand step(Text::tr("Lay lines as seen"));
     camera().layLinesAsSeen();
     linesLaid = true;
     return true;
@@ -193,7 +187,7 @@ bool PerspectiveMatchTool::edit(const std::function<void(const nbdPerspectiveMat
     if (isRefused(error)) {
         return false;
     }
-    const nbScopedMultiCommand step(translated("Change perspective match"));
+    const nbScopedMultiCommand step(Text::tr("Change perspective match"));
     change(camera().getPerspectiveMatch());
     camera().updateFromPerspectiveMatch();
     linesLaid = true;
@@ -205,7 +199,7 @@ bool PerspectiveMatchTool::setMagnifyFactor(float factor, QString& error)
     if (isRefused(error)) {
         return false;
     }
-    const nbScopedMultiCommand step(translated("Change magnifier"));
+    const nbScopedMultiCommand step(Text::tr("Change magnifier"));
     camera().getPerspectiveMatch().setMagnifyFactor(factor);
     return true;
 }
@@ -234,21 +228,21 @@ QString PerspectiveMatchTool::resultText() const
 {
     switch (camera().checkPerspectiveMatch()) {
     case nbCameraTypes::Solved:
-        return translated("Orientation and field of view follow the lines.");
+        return Text::tr("Orientation and field of view follow the lines.");
     case nbCameraTypes::SolvedWithKeptFov:
-        return translated("The orientation follows the lines; the field of view is kept.");
+        return Text::tr("The orientation follows the lines; the field of view is kept.");
     case nbCameraTypes::OrthographicCamera:
-        return translated("An orthographic view cannot be matched: switch to perspective.");
+        return Text::tr("An orthographic view cannot be matched: switch to perspective.");
     case nbCameraTypes::UnusableLine:
-        return translated("A line is too short: the camera stays.");
+        return Text::tr("A line is too short: the camera stays.");
     case nbCameraTypes::IdenticalLines:
-        return translated("Two lines of an axis lie on each other: the camera stays.");
+        return Text::tr("Two lines of an axis lie on each other: the camera stays.");
     case nbCameraTypes::ContradictingLines:
-        return translated("The lines contradict each other: the camera stays.");
+        return Text::tr("The lines contradict each other: the camera stays.");
     case nbCameraTypes::NoCamera:
         break;
     }
-    return translated("There is no camera to be matched.");
+    return Text::tr("There is no camera to be matched.");
 }
 
 // == As a tool of the stage
@@ -362,7 +356,7 @@ std::string PerspectiveMatchTool::draggedValues() const
         return {};
     }
     constexpr int kDigits = 2;
-    return translated("Field of view %1°")
+    return Text::tr("Field of view %1°")
         .arg(static_cast<double>(stage.pose().fovDeg), 0, 'f', kDigits)
         .toStdString();
 }

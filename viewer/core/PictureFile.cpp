@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/core/PictureFile.h"
 
+#include "viewer/core/Text.h"
+
 #include <nbOpenSGRenderAction/nbImageConvert.h>
 
 #include <OpenSG/OSGSimpleAttachments.h>
 
-#include <QCoreApplication>
 #include <QFileInfo>
 #include <QImageReader>
 
@@ -52,8 +53,7 @@ QString pictureFileFilter()
     for (const QByteArray& format : QImageReader::supportedImageFormats()) {
         patterns.append(QStringLiteral("*.") + QString::fromLatin1(format));
     }
-    return QCoreApplication::translate("viewer", "Pictures (%1)")
-        .arg(patterns.join(QLatin1Char(' ')));
+    return Text::tr("Pictures (%1)").arg(patterns.join(QLatin1Char(' ')));
 }
 
 }  // namespace viewer

@@ -7,6 +7,7 @@
 #include "viewer/core/PlateText.h"
 #include "viewer/core/PlatesTool.h"
 #include "viewer/core/Stage.h"
+#include "viewer/core/Text.h"
 
 #include <nbOpenSGRenderAction/nbImageConvert.h>
 #include <nbOpenSGSceneplate/nbSceneplateLayout.h>
@@ -46,7 +47,7 @@ QJsonArray namesOf(const std::vector<osg::NodePtr>& nodes)
 bool hasSelection(const PlatesTool& tool, const char* command, QString& error)
 {
     return !tool.selected().empty() ||
-        refuse(command, QStringLiteral("no scene plate is selected"), error);
+        refuse(command, Text::tr("no scene plate is selected"), error);
 }
 
 // == Adding
@@ -159,7 +160,7 @@ bool addText(Stage& stage, PlatesTool& tool, const QJsonValue& value, QString& e
     const QImage picture = paintPlateText(text, stage.view().getHeight());
     if (picture.isNull()) {
         return reader.fail(path + QStringLiteral(".text"),
-                           QStringLiteral("expected a text that fits into a picture"));
+                           Text::tr("expected a text that fits into a picture"));
     }
     plate.image = osg::RefPtr<osg::ImagePtr>(nbImageConvert::toImage(picture));
     plate.sizePx = osg::Vec2f(static_cast<float>(picture.width()) / kTextOversampling,
@@ -277,7 +278,7 @@ bool rename(const PlatesTool& tool, const QJsonValue& value, QString& error)
     const osg::NodePtr node = tool.selected().back();
     const osg::NodePtr former = PlatesTool::plateByName(name);
     if (name.empty() || (former != osg::NullFC && former != node)) {
-        return refuse("name", QStringLiteral("expected a name that no other plate has"), error);
+        return refuse("name", Text::tr("expected a name that no other plate has"), error);
     }
     nbSceneplateEditing::rename(node, name);
     return true;
@@ -288,7 +289,7 @@ void addRestacking(Stage& stage, PlatesTool& tool, const char* name, int steps)
     stage.commands().add(prefixed(name), [&tool, name, steps](const QJsonValue&, QString& error) {
         return hasSelection(tool, name, error) &&
             (nbSceneplateEditing::restack(tool.selected(), steps) ||
-             refuse(name, QStringLiteral("there is no further plate on this side"), error));
+             refuse(name, Text::tr("there is no further plate on this side"), error));
     });
 }
 

@@ -37,7 +37,8 @@ const char* const kPairExpected = "expected an array of two numbers";
 const char* const kSwitchExpected = "expected true or false";
 
 const std::vector<PlateField> kFields {
-    { "front", "Scene plates to the front or back", kSwitchExpected,
+    { "front", QT_TRANSLATE_NOOP("Manipulator", "Scene plates to the front or back"),
+      kSwitchExpected,
       [](const QJsonValue& value, Sceneplate* plate) {
           if (plate != nullptr) {
               plate->setFront(value.toBool());
@@ -45,7 +46,7 @@ const std::vector<PlateField> kFields {
           return value.isBool();
       },
       [](const Sceneplate& plate) { return QJsonValue(plate.getFront()); } },
-    { "visible", "Show or hide scene plates", kSwitchExpected,
+    { "visible", QT_TRANSLATE_NOOP("Manipulator", "Show or hide scene plates"), kSwitchExpected,
       [](const QJsonValue& value, Sceneplate* plate) {
           if (plate != nullptr) {
               plate->setVisible(value.toBool());
@@ -53,7 +54,8 @@ const std::vector<PlateField> kFields {
           return value.isBool();
       },
       [](const Sceneplate& plate) { return QJsonValue(plate.getVisible()); } },
-    { "opacity", "Opacity of scene plates", "expected a number from 0 to 1",
+    { "opacity", QT_TRANSLATE_NOOP("Manipulator", "Opacity of scene plates"),
+      "expected a number from 0 to 1",
       [](const QJsonValue& value, Sceneplate* plate) {
           if (plate != nullptr) {
               plate->setOpacity(static_cast<float>(value.toDouble()));
@@ -61,7 +63,7 @@ const std::vector<PlateField> kFields {
           return isNumber(value, 0.0) && value.toDouble() <= 1.0;
       },
       [](const Sceneplate& plate) { return QJsonValue(static_cast<double>(plate.getOpacity())); } },
-    { "position", "Move scene plates", kPairExpected,
+    { "position", QT_TRANSLATE_NOOP("Manipulator", "Move scene plates"), kPairExpected,
       [](const QJsonValue& value, Sceneplate* plate) {
           osg::Vec2f pair;
           const bool isPair = acceptPair(value, -kMost, pair);
@@ -71,7 +73,8 @@ const std::vector<PlateField> kFields {
           return isPair;
       },
       [](const Sceneplate& plate) { return QJsonValue(pairOf(plate.getPosition())); } },
-    { "size", "Size of scene plates", "expected an array of two numbers, at least 0.001",
+    { "size", QT_TRANSLATE_NOOP("Manipulator", "Size of scene plates"),
+      "expected an array of two numbers, at least 0.001",
       [](const QJsonValue& value, Sceneplate* plate) {
           osg::Vec2f pair;
           const bool isPair = acceptPair(value, kLeastSize, pair);
@@ -81,7 +84,8 @@ const std::vector<PlateField> kFields {
           return isPair;
       },
       [](const Sceneplate& plate) { return QJsonValue(pairOf(plate.getSize())); } },
-    { "scale", "Scale scene plates", "expected a number of at least 0.001",
+    { "scale", QT_TRANSLATE_NOOP("Manipulator", "Scale scene plates"),
+      "expected a number of at least 0.001",
       [](const QJsonValue& value, Sceneplate* plate) {
           if (plate != nullptr) {
               plate->setScale(static_cast<float>(value.toDouble()));
@@ -89,7 +93,8 @@ const std::vector<PlateField> kFields {
           return isNumber(value, kLeastSize);
       },
       [](const Sceneplate& plate) { return QJsonValue(static_cast<double>(plate.getScale())); } },
-    { "rotation", "Turn scene plates", "expected a number of degrees",
+    { "rotation", QT_TRANSLATE_NOOP("Manipulator", "Turn scene plates"),
+      "expected a number of degrees",
       [](const QJsonValue& value, Sceneplate* plate) {
           if (plate != nullptr) {
               plate->setRotation(static_cast<float>(value.toDouble()));
@@ -99,7 +104,8 @@ const std::vector<PlateField> kFields {
       [](const Sceneplate& plate) {
           return QJsonValue(static_cast<double>(plate.getRotation()));
       } },
-    { "color", "Colour of scene plates", "expected a colour such as \"#ff8000\"",
+    { "color", QT_TRANSLATE_NOOP("Manipulator", "Colour of scene plates"),
+      "expected a colour such as \"#ff8000\"",
       [](const QJsonValue& value, Sceneplate* plate) {
           const std::optional<osg::Color4f> color = readPlateColor(value);
           if (plate != nullptr && color) {

@@ -4,6 +4,7 @@
 #include "viewer/core/PlateCommands.h"
 #include "viewer/core/PlateFields.h"
 #include "viewer/core/Stage.h"
+#include "viewer/core/Text.h"
 
 #include <nbInteraction/EventNames.h>
 #include <nbKernel/nbScenegraph.h>
@@ -15,7 +16,6 @@
 
 #include <OpenSG/OSGCoredNodePtr.h>
 
-#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonObject>
 
@@ -239,11 +239,11 @@ std::string PlatesTool::draggedValues() const
     };
     switch (actionOf(handle)) {
     case HandleAction::Turn:
-        return QStringLiteral("Rotation %1").arg(number(plate->getRotation())).toStdString();
+        return Text::tr("Rotation %1").arg(number(plate->getRotation())).toStdString();
     case HandleAction::ScaleAll:
-        return QStringLiteral("Scale %1").arg(number(plate->getScale())).toStdString();
+        return Text::tr("Scale %1").arg(number(plate->getScale())).toStdString();
     default:
-        return QStringLiteral("Position (%1, %2)")
+        return Text::tr("Position (%1, %2)")
             .arg(number(plate->getPosition().x()), number(plate->getPosition().y()))
             .toStdString();
     }
@@ -253,10 +253,10 @@ QString PlatesTool::selectionText() const
 {
     const std::vector<osg::NodePtr> nodes = selected();
     if (nodes.size() > 1) {
-        return QCoreApplication::translate("viewer", "%1 scene plates").arg(nodes.size());
+        return Text::tr("%n scene plates", nullptr, static_cast<int>(nodes.size()));
     }
-    return nodes.empty() ? QCoreApplication::translate("viewer", "No scene plate selected")
-                         : QCoreApplication::translate("viewer", "Scene plate: %1")
+    return nodes.empty() ? Text::tr("No scene plate selected")
+                         : Text::tr("Scene plate: %1")
                                .arg(QString::fromStdString(nbNodeUtils::getName(nodes.front())));
 }
 

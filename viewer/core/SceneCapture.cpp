@@ -7,6 +7,7 @@
 #include "viewer/core/ScenePictures.h"
 #include "viewer/core/Stage.h"
 #include "viewer/core/SurfaceMaterial.h"
+#include "viewer/core/Text.h"
 
 #include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGExt/ClipPlane3D.h>
@@ -95,7 +96,7 @@ private:
             const osg::NodePtr frame = core->getTransformNode();
             if (frame == osg::NullFC ||
                 osg::Transform3DPtr::dcast(frame->getCore()) == osg::NullFC) {
-                error = QStringLiteral("a clip plane has lost its frame");
+                error = Text::tr("a clip plane has lost its frame");
                 return false;
             }
             SceneClipPlane plane;

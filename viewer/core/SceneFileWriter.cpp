@@ -3,6 +3,7 @@
 #include "viewer/core/SceneFields.h"
 #include "viewer/core/SceneFile.h"
 #include "viewer/core/SceneNumbers.h"
+#include "viewer/core/Text.h"
 #include "viewer/core/TextFile.h"
 
 #include <QFileInfo>
@@ -221,7 +222,7 @@ bool writeSceneFile(const QString& path, const SceneDocument& document, QString&
     const QByteArray text = sceneText(document, folder);
     // Nothing is saved that could not be opened.
     if (!parseScene(text, folder, error)) {
-        error = QStringLiteral("%1: cannot be saved: %2").arg(path, error);
+        error = Text::tr("%1: cannot be saved: %2").arg(path, error);
         return false;
     }
     return writeWhole(path, text, error);

@@ -2,6 +2,7 @@
 #include "viewer/core/ScenePictures.h"
 
 #include "viewer/core/PictureFile.h"
+#include "viewer/core/Text.h"
 
 #include <nbOpenSGRenderAction/nbImageConvert.h>
 
@@ -21,7 +22,7 @@ bool capturePicture(const osg::ImagePtr& image, ScenePicture& picture, QString& 
     QBuffer buffer(&picture.png);
     const QImage pixels = nbImageConvert::toPicture(image);
     if (pixels.isNull() || !buffer.open(QIODevice::WriteOnly) || !pixels.save(&buffer, "PNG")) {
-        error = QStringLiteral("a picture that came from no file cannot be saved");
+        error = Text::tr("a picture that came from no file cannot be saved");
         return false;
     }
     return true;

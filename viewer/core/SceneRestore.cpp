@@ -11,6 +11,7 @@
 #include "viewer/core/Stage.h"
 #include "viewer/core/StartScene.h"
 #include "viewer/core/SurfaceMaterial.h"
+#include "viewer/core/Text.h"
 
 #include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbScopedUndo.h>
@@ -95,7 +96,7 @@ private:
         if (picture.isNull()) {
             return true;
         }
-        QString reason = QStringLiteral("is no picture");
+        QString reason = Text::tr("is no picture");
         if (!picture.png.isEmpty()) {
             image = osg::RefPtr<osg::ImagePtr>(imageOf(picture.png));
         } else {
@@ -130,7 +131,7 @@ private:
         } else if (wanted.builtIn == QLatin1String(kStartSceneName)) {
             model = viewer::buildModel(makeStartScene());
         } else {
-            reason = QStringLiteral("there is no model \"%1\"").arg(wanted.builtIn);
+            reason = Text::tr("there is no model \"%1\"").arg(wanted.builtIn);
         }
         if (!model) {
             return fail(place, reason);
@@ -157,17 +158,16 @@ private:
         const QString found = QString::fromStdString(scene.sources.nameOf(node));
         return found == name ||
             fail(place,
-                 QStringLiteral("expected \"%1\" in the model, which has \"%2\" there")
-                     .arg(name, found));
+                 Text::tr("expected \"%1\" in the model, which has \"%2\" there").arg(name, found));
     }
 
     bool editObject(const osg::NodePtr& root, const SceneNode& wanted, const QString& place)
     {
         const osg::NodePtr node = objectBelow(root, wanted.path);
         if (node == osg::NullFC) {
-            return fail(place,
-                        QStringLiteral("the model has no object \"%1\" at \"%2\"")
-                            .arg(wanted.name, wanted.path));
+            return fail(
+                place,
+                Text::tr("the model has no object \"%1\" at \"%2\"").arg(wanted.name, wanted.path));
         }
         return isNamed(node, wanted.name, place) && editNode(node, wanted, place);
     }
@@ -180,7 +180,7 @@ private:
             wanted.transform->applyTo(core);
             if (!isFinite(core->getMatrix())) {
                 return fail(place + QStringLiteral(".transform"),
-                            QStringLiteral("the numbers are too large"));
+                            Text::tr("the numbers are too large"));
             }
         }
         if (!wanted.visible) {
@@ -204,8 +204,7 @@ private:
         const osg::NodePtr object = objectBelow(root, wanted.object);
         const std::vector<osg::NodePtr> surfaces = ownSurfaces(object);
         if (static_cast<std::size_t>(wanted.part) >= surfaces.size()) {
-            return fail(place,
-                        QStringLiteral("the model has no surface \"%1\" there").arg(wanted.name));
+            return fail(place, Text::tr("the model has no surface \"%1\" there").arg(wanted.name));
         }
         const osg::NodePtr node = surfaces[static_cast<std::size_t>(wanted.part)];
         if (!isNamed(node, wanted.name, place)) {

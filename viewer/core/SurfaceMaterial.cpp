@@ -164,7 +164,7 @@ osg::UberMaterialPtr makeUberMaterial(const osg::NodePtr& surface)
     if (present != osg::NullFC) {
         return present;
     }
-    const nbScopedUndo undo("Material for pictures");
+    const nbScopedUndo undo(QT_TRANSLATE_NOOP("Manipulator", "Material for pictures"));
     nbUndoService::the()->record(std::make_unique<SurfaceRecord>(surface));
     osg::GeometryPtr geometry = geometryOf(surface);
     const osg::UberMaterialPtr material = makeLikeness(geometry->getMaterial());

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/core/TextFile.h"
 
+#include "viewer/core/Text.h"
+
 #include <QFile>
 #include <QSaveFile>
 
@@ -20,7 +22,7 @@ bool readWhole(const QString& path, qint64 mostBytes, QByteArray& text, QString&
         return false;
     }
     if (text.size() > mostBytes) {
-        error = QStringLiteral("%1: too large").arg(path);
+        error = Text::tr("%1: too large").arg(path);
         return false;
     }
     return true;

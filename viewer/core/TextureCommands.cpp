@@ -5,6 +5,7 @@
 #include "viewer/core/PictureFile.h"
 #include "viewer/core/SessionTargets.h"
 #include "viewer/core/Stage.h"
+#include "viewer/core/Text.h"
 #include "viewer/core/TextureTool.h"
 #include "viewer/core/TextureValueCommands.h"
 
@@ -74,7 +75,7 @@ QJsonValue jsonOf(const osg::Vec3f& vector)
 bool orNoPicture(bool isDone, QString& error)
 {
     if (!isDone) {
-        error = QStringLiteral("there is no picture on the selected object");
+        error = Text::tr("there is no picture on the selected object");
     }
     return isDone;
 }

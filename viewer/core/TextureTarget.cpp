@@ -118,7 +118,7 @@ bool TextureTarget::setImage(const osg::ImagePtr& image, const ProjectionPose& p
     if (surface() == osg::NullFC) {
         return false;
     }
-    const nbScopedUndo undo("Picture");
+    const nbScopedUndo undo(QT_TRANSLATE_NOOP("Manipulator", "Picture"));
     const bool isFirst = projection() == osg::NullFC;
     makeUberMaterial(surface());
     connect();

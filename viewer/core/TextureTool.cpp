@@ -5,6 +5,7 @@
 #include "viewer/core/PictureFile.h"
 #include "viewer/core/SceneBuilder.h"
 #include "viewer/core/Stage.h"
+#include "viewer/core/Text.h"
 #include "viewer/core/TextureValueText.h"
 
 #include <nbKernel/nbController.h>
@@ -120,10 +121,10 @@ QString TextureTool::hindrance() const
 {
     const osg::NodePtr object = textureTarget.object();
     if (object == osg::NullFC) {
-        return QStringLiteral("Select an object to put a picture on it.");
+        return Text::tr("Select an object to put a picture on it.");
     }
     if (textureTarget.surface() == osg::NullFC) {
-        return QStringLiteral("\"%1\" has no surface of its own: select a part of it.")
+        return Text::tr("\"%1\" has no surface of its own: select a part of it.")
             .arg(QString::fromStdString(nbNodeUtils::getName(object)));
     }
     return {};
@@ -183,7 +184,7 @@ bool TextureTool::dropPicture(const QString& file, const osg::Pnt2f& px, QString
 {
     const osg::NodePtr part = scenePicker.pickAt(px);
     if (objectOf(part) == osg::NullFC) {
-        error = QStringLiteral("%1: there is no object to drop it on").arg(file);
+        error = Text::tr("%1: there is no object to drop it on").arg(file);
         return false;
     }
     const osg::RefPtr<osg::ImagePtr> image = readPicture(file, error);
@@ -192,7 +193,7 @@ bool TextureTool::dropPicture(const QString& file, const osg::Pnt2f& px, QString
     }
     stage.select(part);
     nbUndoService* const undo = nbUndoService::the();
-    undo->beginGroup(QStringLiteral("Place picture"));
+    undo->beginGroup(Text::tr("Place picture"));
     ProjectionPose pose = poseFacingTheEye(aspectOf(image.get()), kDroppedShare);
     pose.rotation = uprightOn(scenePicker.getHitNormal());
     textureTarget.setImage(image.get(), pose);

@@ -4,6 +4,7 @@
 #include "viewer/core/JsonReader.h"
 #include "viewer/core/SessionTargets.h"
 #include "viewer/core/Stage.h"
+#include "viewer/core/Text.h"
 #include "viewer/core/TextureTool.h"
 
 #include <QJsonArray>
@@ -72,7 +73,7 @@ constexpr std::array<NumbersRow, 12> kNumbers { {
 bool orNoPicture(bool isDone, QString& error)
 {
     if (!isDone) {
-        error = QStringLiteral("there is no picture on the selected object");
+        error = Text::tr("there is no picture on the selected object");
     }
     return isDone;
 }
@@ -162,7 +163,7 @@ void addHandlePlace(Stage& stage, TextureTool& tool)
         }
         const bool isSet = tool.setAnchor(px);
         if (!isSet) {
-            error = QStringLiteral("the surface with the picture is not there");
+            error = Text::tr("the surface with the picture is not there");
         }
         return isSet;
     });

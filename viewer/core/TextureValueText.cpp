@@ -3,6 +3,8 @@
 
 #include "viewer/core/ValueLine.h"
 
+#include <QtGlobal>
+
 namespace viewer {
 namespace {
 
@@ -38,11 +40,11 @@ std::string planarText(Edited edited, const osg::Transform3DPtr& projection)
     }
     switch (edited) {
     case Edited::Place:
-        return valueLine("Picture at", projection->getTranslation());
+        return valueLine(QT_TRANSLATE_NOOP("viewer", "Picture at"), projection->getTranslation());
     case Edited::Turn:
-        return valueLine("Picture turned", projection->getRotation());
+        return valueLine(QT_TRANSLATE_NOOP("viewer", "Picture turned"), projection->getRotation());
     default:
-        return valueLine("Picture scale", projection->getScale());
+        return valueLine(QT_TRANSLATE_NOOP("viewer", "Picture scale"), projection->getScale());
     }
 }
 
@@ -50,12 +52,15 @@ std::string triplanarText(Edited edited, const nbTextureValues& values)
 {
     switch (edited) {
     case Edited::Place:
-        return valueLine("Offsets of x, y, z: u", values.triplanarOffsetU) +
+        return valueLine(QT_TRANSLATE_NOOP("viewer", "Offsets of x, y, z: u"),
+                         values.triplanarOffsetU) +
             valueLine(", v", values.triplanarOffsetV);
     case Edited::Turn:
-        return valueLine("Picture turned", values.triplanarRotation * kDegPerRad);
+        return valueLine(QT_TRANSLATE_NOOP("viewer", "Picture turned"),
+                         values.triplanarRotation * kDegPerRad);
     default:
-        return valueLine("Repeats of x, y, z: u", values.triplanarRepeatU) +
+        return valueLine(QT_TRANSLATE_NOOP("viewer", "Repeats of x, y, z: u"),
+                         values.triplanarRepeatU) +
             valueLine(", v", values.triplanarRepeatV);
     }
 }
@@ -64,19 +69,19 @@ std::string uvText(Edited edited, const nbTextureValues& values)
 {
     switch (edited) {
     case Edited::Place:
-        return valueLine("Picture offset", values.offset);
+        return valueLine(QT_TRANSLATE_NOOP("viewer", "Picture offset"), values.offset);
     case Edited::Turn:
-        return valueLine("Picture turned", values.rotate);
+        return valueLine(QT_TRANSLATE_NOOP("viewer", "Picture turned"), values.rotate);
     default:
-        return valueLine("Picture repeats", values.repeat);
+        return valueLine(QT_TRANSLATE_NOOP("viewer", "Picture repeats"), values.repeat);
     }
 }
 
 std::string tireText(Edited edited, const nbTextureValues& values)
 {
     return edited == Edited::Place
-        ? valueLine("Tire centre", values.tireCenter)
-        : valueLine("Tire height, radius, part around",
+        ? valueLine(QT_TRANSLATE_NOOP("viewer", "Tire centre"), values.tireCenter)
+        : valueLine(QT_TRANSLATE_NOOP("viewer", "Tire height, radius, part around"),
                     osg::Vec3f(values.tireScaleHeight, values.tireScaleRadius, values.tireScaleU));
 }
 

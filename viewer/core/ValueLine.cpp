@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/core/ValueLine.h"
 
+#include "viewer/core/Text.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -15,8 +17,8 @@ std::string lineOf(const char* what, const float* values, int count)
         // A negative zero would flicker.
         texts.append(QString::number(static_cast<double>(values[i]) + 0.0, 'f', kDigits));
     }
-    return (QLatin1String(what) + QStringLiteral(" (") + texts.join(QStringLiteral(", ")) +
-            QStringLiteral(")"))
+    return QStringLiteral("%1 (%2)")
+        .arg(Text::tr(what), texts.join(QStringLiteral(", ")))
         .toStdString();
 }
 

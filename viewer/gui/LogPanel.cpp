@@ -131,12 +131,16 @@ QToolButton* LogPanel::addButton(QHBoxLayout& row, const char* name, const QStri
 
 void LogPanel::append(Level level, const QString& text)
 {
-    const LevelRow& row = kLevels[static_cast<std::size_t>(level)];
-    auto* item = new QTreeWidgetItem(
-        { QTime::currentTime().toString(QStringLiteral("HH:mm:ss")), tr(row.text), text });
+    append({ level, QTime::currentTime().toString(QStringLiteral("HH:mm:ss")), text });
+}
+
+void LogPanel::append(const Entry& entry)
+{
+    const LevelRow& row = kLevels[static_cast<std::size_t>(entry.level)];
+    auto* item = new QTreeWidgetItem({ entry.time, tr(row.text), entry.text });
     item->setIcon(LevelColumn, themeIcon(QLatin1String(row.icon)));
-    item->setData(LevelColumn, kLevelRole, static_cast<int>(level));
-    item->setToolTip(TextColumn, text);
+    item->setData(LevelColumn, kLevelRole, static_cast<int>(entry.level));
+    item->setToolTip(TextColumn, entry.text);
     const QScrollBar* bar = list->verticalScrollBar();
     // Whoever reads further up is left there.
     scrollsToEnd = scrollsToEnd || bar->value() == bar->maximum();
@@ -152,6 +156,17 @@ void LogPanel::append(Level level, const QString& text)
     if (!scrollTimer.isActive()) {
         scrollTimer.start(0);
     }
+}
+
+QVector<LogPanel::Entry> LogPanel::entries() const
+{
+    QVector<Entry> all;
+    for (int i = 0; i < list->topLevelItemCount(); ++i) {
+        const QTreeWidgetItem* item = list->topLevelItem(i);
+        all.append({ static_cast<Level>(item->data(LevelColumn, kLevelRole).toInt()),
+                     item->text(TimeColumn), item->text(TextColumn) });
+    }
+    return all;
 }
 
 QString LogPanel::text() const

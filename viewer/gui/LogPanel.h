@@ -4,6 +4,7 @@
 #include <nbUtils/nbLog.h>
 
 #include <QTimer>
+#include <QVector>
 #include <QWidget>
 
 class QComboBox;
@@ -21,6 +22,13 @@ class LogPanel : public QWidget
     Q_OBJECT
 
 public:
+    struct Entry
+    {
+        nbLog::Level level;
+        QString time;
+        QString text;
+    };
+
     /// The oldest messages go when there are more than this.
     static constexpr int kMostEntries = 2000;
 
@@ -29,8 +37,12 @@ public:
     LogPanel& operator=(const LogPanel&) = delete;
     ~LogPanel() override;
 
-    /// Adds a message of one line.
+    /// Adds a message of one line, with the time that it is.
     void append(nbLog::Level level, const QString& text);
+    void append(const Entry& entry);
+
+    /// All messages, shown or not, the oldest first.
+    QVector<Entry> entries() const;
 
     /// The messages shown, one line each: those selected, or all if none is.
     QString text() const;

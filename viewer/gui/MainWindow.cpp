@@ -3,6 +3,7 @@
 
 #include "viewer/core/ModelReader.h"
 #include "viewer/core/StageTool.h"
+#include "viewer/core/StageTools.h"
 #include "viewer/gui/CaptionBar.h"
 #include "viewer/gui/LogPanel.h"
 #include "viewer/gui/MessageBar.h"
@@ -22,8 +23,10 @@
 #include <QGridLayout>
 #include <QImageReader>
 #include <QKeyEvent>
+#include <QMenuBar>
 #include <QScreen>
 #include <QStatusBar>
+#include <QToolBar>
 #include <QUndoStack>
 
 #include <algorithm>
@@ -54,8 +57,8 @@ MainWindow::MainWindow(Attendance attendance)
     , loader(new ModelLoader(this))
     , sessionPlayer(new SessionPlayer(*viewWidget, *this, this))
     , sessionRecorder(new SessionRecorder(*viewWidget, this))
-    , statusLine(new StatusLine(*statusBar()))
     , fullScreen(*this)
+    , tools(std::make_unique<StageTools>(viewWidget->stage()))
 {
     setShownTitle({});
     auto* centre = new QWidget(this);
@@ -64,17 +67,13 @@ MainWindow::MainWindow(Attendance attendance)
     layout->addWidget(viewWidget, 0, 0);
     setCentralWidget(centre);
     messageBar = new MessageBar(viewWidget);
-    docks = new PanelDocks(*this, viewWidget->stage());
     if (mode == Attendance::Attended) {
         shownTheme = memory::theme();
         applyTheme(shownTheme);
-        docks->arrange();
     }
     sceneFiles = new SceneFileActions(*this, viewWidget->stage(), *loader);
-    actions = new WindowActions(*this, viewWidget->stage());
-    addToolBars(*this);
+    addSurroundings();
     if (mode == Attendance::Attended) {
-        actions->setRecentFiles(memory::recentFiles());
         connect(this, &MainWindow::problem, messageBar, &MessageBar::showMessage);
         sceneFiles->setQuestion(sceneFiles->dialog());
         connect(sessionPlayer, &SessionPlayer::captionChanged, new CaptionBar(viewWidget),
@@ -85,7 +84,6 @@ MainWindow::MainWindow(Attendance attendance)
     }
     connect(this, &MainWindow::problem, this,
             [this](const QString& text) { docks->log().append(nbLog::Level::Warning, text); });
-    connect(actions, &WindowActions::shortcutUsed, sessionRecorder, &SessionRecorder::addShortcut);
     connect(viewWidget, &ViewWidget::stateChanged, this, &MainWindow::updateStatus);
     connect(viewWidget, &ViewWidget::drawingFailed, this, &MainWindow::problem);
     connect(viewWidget, &ViewWidget::filesDropped, this, &MainWindow::handleDroppedFiles);
@@ -96,9 +94,6 @@ MainWindow::MainWindow(Attendance attendance)
         sceneFiles->forget();
         emit problem(reason);
     });
-    connect(loader, &ModelLoader::progressed, statusLine, &StatusLine::setProgress);
-    connect(statusLine, &StatusLine::stopLoadingAsked, this, &MainWindow::stopLoading);
-    connect(docks, &PanelDocks::problem, this, &MainWindow::problem);
     connect(sceneFiles, &SceneFileActions::modifiedChanged, this, &QWidget::setWindowModified);
     connect(sceneFiles, &SceneFileActions::problem, this, [this](const QString& text) {
         pendingSession.reset();
@@ -132,11 +127,64 @@ MainWindow::~MainWindow()
     viewWidget->stage().setChangedCallback(nullptr);
     viewWidget->stage().commands().setListener(nullptr);
     delete sceneFiles;
-    // Panels may own tools of the stage, which ends with the view.
+    // Panels show tools, which end before the stage.
     delete docks;
     // The view is needed by what the window owns besides it.
     delete sessionPlayer;
     delete sessionRecorder;
+}
+
+// == Around the view
+
+void MainWindow::addSurroundings()
+{
+    viewWidget->setAccessibleName(tr("View of the scene"));
+    statusLine = new StatusLine(*statusBar());
+    docks = new PanelDocks(*this, viewWidget->stage(), *tools);
+    if (mode == Attendance::Attended) {
+        docks->arrange();
+    }
+    actions = new WindowActions(*this, viewWidget->stage());
+    addToolBars(*this);
+    if (mode == Attendance::Attended) {
+        actions->setRecentFiles(memory::recentFiles());
+    }
+    connect(actions, &WindowActions::shortcutUsed, sessionRecorder, &SessionRecorder::addShortcut);
+    connect(loader, &ModelLoader::progressed, statusLine, &StatusLine::setProgress);
+    connect(statusLine, &StatusLine::stopLoadingAsked, this, &MainWindow::stopLoading);
+    connect(docks, &PanelDocks::problem, this, &MainWindow::problem);
+}
+
+void MainWindow::renewSurroundings()
+{
+    const QByteArray layout = memory::stateOf(*this);
+    const QVector<LogPanel::Entry> messages = docks->log().entries();
+    delete docks;
+    delete actions;
+    for (QToolBar* bar : findChildren<QToolBar*>(QString(), Qt::FindDirectChildrenOnly)) {
+        delete bar;
+    }
+    delete menuBar();
+    delete statusBar();
+    addSurroundings();
+    for (const LogPanel::Entry& message : messages) {
+        docks->log().append(message);
+    }
+    memory::restoreState(*this, layout);
+    menuBar()->setVisible(!isWhole());
+    statusBar()->setVisible(!isWhole());
+    showRecording();
+    updateStatus();
+    viewWidget->setFocus();
+}
+
+void MainWindow::changeEvent(QEvent* event)
+{
+    // Not before the window is complete.
+    if (event->type() == QEvent::LanguageChange && actions != nullptr) {
+        renewSurroundings();
+    }
+    QMainWindow::changeEvent(event);
 }
 
 void MainWindow::setShownTitle(const QString& name)
@@ -294,7 +342,7 @@ bool MainWindow::savePicture(const QString& path, QString& error)
         return false;
     }
     if (!picture.save(path)) {
-        error = QStringLiteral("%1: cannot be written").arg(path);
+        error = tr("%1: cannot be written").arg(path);
         return false;
     }
     return true;
@@ -341,6 +389,14 @@ void MainWindow::setTheme(Theme theme)
     applyTheme(theme);
     if (mode == Attendance::Attended) {
         memory::keepTheme(theme);
+    }
+}
+
+void MainWindow::setLanguage(Language language)
+{
+    applyLanguage(language);
+    if (mode == Attendance::Attended) {
+        memory::keepLanguage(language);
     }
 }
 

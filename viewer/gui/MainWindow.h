@@ -2,6 +2,7 @@
 #pragma once
 
 #include "viewer/core/GizmoController.h"
+#include "viewer/core/Language.h"
 #include "viewer/core/SceneFile.h"
 #include "viewer/core/Session.h"
 #include "viewer/gui/FullScreen.h"
@@ -14,6 +15,7 @@
 #include <QDir>
 #include <QMainWindow>
 
+#include <memory>
 #include <optional>
 
 namespace viewer {
@@ -25,6 +27,7 @@ class SessionPlayer;
 class SessionRecorder;
 class StatusLine;
 class ViewWidget;
+struct StageTools;
 class WindowActions;
 
 /// The viewer's window: view, menus, status line, opening of files, recording and replaying.
@@ -79,6 +82,10 @@ public:
 
     Theme theme() const { return shownTheme; }
 
+    /// Lets the program speak a language and, with a person there, remembers it. The window follows
+    /// with the next events: everything around the view is made anew.
+    void setLanguage(Language language);
+
     /// Lets the view alone fill the screen, or shows the window as it was before.
     void showWhole(bool on);
 
@@ -112,11 +119,17 @@ signals:
     void replayFinished();
 
 protected:
+    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     /// Escape, where nothing else wants it: stops loading, or leaves the full screen.
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    /// Makes docks, menus, toolbars and the status line.
+    void addSurroundings();
+    /// Makes them anew in the present language, arranged as they are.
+    void renewSurroundings();
+    void showRecording();
     void setShownTitle(const QString& name);
     void updateStatus();
     void showLoadedModels();
@@ -140,6 +153,7 @@ private:
 
     StatusLine* statusLine = nullptr;
     FullScreen fullScreen;
+    std::unique_ptr<StageTools> tools;
     PanelDocks* docks = nullptr;
     SceneFileActions* sceneFiles = nullptr;
 

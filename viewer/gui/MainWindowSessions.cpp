@@ -107,10 +107,17 @@ void MainWindow::record(bool on)
             emit problem(error);
         }
         sessionRecorder->start(shownFiles);
-        statusBar()->showMessage(tr("Recording"));
+        showRecording();
     } else if (!on && sessionRecorder->isRecording()) {
         statusBar()->clearMessage();
         saveRecording();
+    }
+}
+
+void MainWindow::showRecording()
+{
+    if (isRecording()) {
+        statusBar()->showMessage(tr("Recording"));
     }
 }
 

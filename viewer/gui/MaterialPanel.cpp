@@ -106,10 +106,9 @@ void displayText(QLabel* label, const QString& text)
 
 }  // namespace
 
-MaterialPanel::MaterialPanel(Stage& targetStage, QWidget* parent)
+MaterialPanel::MaterialPanel(Stage& targetStage, TextureTool& targetTool, QWidget* parent)
     : Panel(targetStage, parent)
-    , tool(targetStage)
-    , commands(targetStage, tool)
+    , tool(targetTool)
 {
     auto* outer = new QVBoxLayout(this);
     outer->setContentsMargins(0, 0, 0, 0);

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "viewer/core/TextureCommands.h"
 #include "viewer/core/TextureTool.h"
 #include "viewer/gui/Panel.h"
 
@@ -23,14 +22,13 @@ class MaterialPicture;
 class VectorEdit;
 
 /// The picture on the selected object: its file, how it is projected, the handles, and a preview.
-/// Owns the texture tool of the stage and its commands.
 class MaterialPanel final : public Panel
 {
     Q_OBJECT
 
 public:
-    /// @param targetStage  outlives this
-    explicit MaterialPanel(Stage& targetStage, QWidget* parent = nullptr);
+    /// @param targetStage, targetTool  outlive this
+    MaterialPanel(Stage& targetStage, TextureTool& targetTool, QWidget* parent = nullptr);
     ~MaterialPanel() override;
 
     void refresh() override;
@@ -56,8 +54,7 @@ private:
     void refreshProjection();
     void refreshPicture();
 
-    TextureTool tool;
-    TextureCommands commands;
+    TextureTool& tool;
 
     QLabel* hint = nullptr;
     MaterialPicture* picture = nullptr;

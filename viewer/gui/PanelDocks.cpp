@@ -2,6 +2,7 @@
 #include "viewer/gui/PanelDocks.h"
 
 #include "viewer/core/Stage.h"
+#include "viewer/core/StageTools.h"
 #include "viewer/gui/LogPanel.h"
 #include "viewer/gui/MaterialPanel.h"
 #include "viewer/gui/ObjectPanel.h"
@@ -30,10 +31,11 @@ constexpr int kMessagesHeight = 150;  ///< logical pixels, at first
 
 }  // namespace
 
-PanelDocks::PanelDocks(QMainWindow& targetWindow, Stage& targetStage)
+PanelDocks::PanelDocks(QMainWindow& targetWindow, Stage& targetStage, StageTools& stageTools)
     : QObject(&targetWindow)
     , window(targetWindow)
     , stage(targetStage)
+    , tools(stageTools)
 {
     addSteps();
     addPanels();
@@ -62,12 +64,13 @@ void PanelDocks::addPanels()
 {
     sceneDock = addPanel(new ScenePanel(stage), tr("Objects"), QStringLiteral("sceneDock"));
     objectDock = addPanel(new ObjectPanel(stage), tr("Properties"), QStringLiteral("objectDock"));
-    toolDocks[QStringLiteral("texture")] =
-        addPanel(new MaterialPanel(stage), tr("Material"), QStringLiteral("materialDock"));
-    toolDocks[QStringLiteral("match")] = addPanel(
-        new PerspectiveMatchPanel(stage), tr("Perspective match"), QStringLiteral("matchDock"));
-    toolDocks[QStringLiteral("plates")] =
-        addPanel(new PlatesPanel(stage), tr("Scene plates"), QStringLiteral("platesDock"));
+    toolDocks[QStringLiteral("texture")] = addPanel(new MaterialPanel(stage, tools.texture),
+                                                    tr("Material"), QStringLiteral("materialDock"));
+    toolDocks[QStringLiteral("match")] =
+        addPanel(new PerspectiveMatchPanel(stage, tools.match), tr("Perspective match"),
+                 QStringLiteral("matchDock"));
+    toolDocks[QStringLiteral("plates")] = addPanel(
+        new PlatesPanel(stage, tools.plates), tr("Scene plates"), QStringLiteral("platesDock"));
 }
 
 void PanelDocks::addLog()

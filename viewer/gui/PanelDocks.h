@@ -17,6 +17,7 @@ namespace viewer {
 class LogPanel;
 class Panel;
 class Stage;
+struct StageTools;
 
 /// The docks of the window: panels and the list of steps at its side, messages below the view.
 class PanelDocks : public QObject
@@ -25,10 +26,10 @@ class PanelDocks : public QObject
 
 public:
     /// @param targetWindow  gets the docks; outlives this
-    PanelDocks(QMainWindow& targetWindow, Stage& targetStage);
+    /// @param stageTools    outlive this
+    PanelDocks(QMainWindow& targetWindow, Stage& targetStage, StageTools& stageTools);
     PanelDocks(const PanelDocks&) = delete;
     PanelDocks& operator=(const PanelDocks&) = delete;
-    /// Ends the panels and with them the tools of the stage that they own.
     ~PanelDocks() override;
 
     /// Shows objects, properties and steps below each other, further panels as tabs when asked for.
@@ -62,6 +63,7 @@ private:
 
     QMainWindow& window;
     Stage& stage;
+    StageTools& tools;
     QUndoView* undoView = nullptr;
     QDockWidget* stepsDock = nullptr;
     QDockWidget* sceneDock = nullptr;

@@ -80,9 +80,10 @@ void display(QLabel* label, const QString& text)
 
 }  // namespace
 
-PerspectiveMatchPanel::PerspectiveMatchPanel(Stage& targetStage, QWidget* parent)
+PerspectiveMatchPanel::PerspectiveMatchPanel(Stage& targetStage, PerspectiveMatchTool& targetTool,
+                                             QWidget* parent)
     : Panel(targetStage, parent)
-    , tool(targetStage)
+    , tool(targetTool)
 {
     auto* form = new QFormLayout(this);
     addPhotograph(*form);

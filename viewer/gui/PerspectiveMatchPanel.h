@@ -17,15 +17,16 @@ class QSlider;
 
 namespace viewer {
 
-/// The panel of the perspective match, whose tool it owns: photograph, match mode, settings and the
-/// coordinates of the lines.
+/// The panel of the perspective match: photograph, match mode, settings and the coordinates of the
+/// lines.
 class PerspectiveMatchPanel : public Panel
 {
     Q_OBJECT
 
 public:
-    /// @param targetStage  outlives this
-    explicit PerspectiveMatchPanel(Stage& targetStage, QWidget* parent = nullptr);
+    /// @param targetStage, targetTool  outlive this
+    PerspectiveMatchPanel(Stage& targetStage, PerspectiveMatchTool& targetTool,
+                          QWidget* parent = nullptr);
 
     void refresh() override;
 
@@ -45,7 +46,7 @@ private:
     void askForPhotograph();
     void sendLine(int line);
 
-    PerspectiveMatchTool tool;
+    PerspectiveMatchTool& tool;
     QLabel* photograph = nullptr;
     QPushButton* remove = nullptr;
     QSlider* veil = nullptr;

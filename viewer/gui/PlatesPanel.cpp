@@ -63,9 +63,9 @@ void showValue(QComboBox* box, const QJsonValue& value)
 
 }  // namespace
 
-PlatesPanel::PlatesPanel(Stage& targetStage, QWidget* parent)
+PlatesPanel::PlatesPanel(Stage& targetStage, PlatesTool& targetTool, QWidget* parent)
     : Panel(targetStage, parent)
-    , platesTool(targetStage)
+    , tool(targetTool)
 {
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(createButtons());
@@ -354,7 +354,7 @@ void PlatesPanel::refreshProperties()
 {
     {
         const QSignalBlocker blocker(edit);
-        edit->setChecked(platesTool.isActive());
+        edit->setChecked(tool.isActive());
     }
     showValue(side, valueOf("plates.front"));
     showValue(anchor, valueOf("plates.anchor"));
@@ -374,7 +374,7 @@ void PlatesPanel::refreshProperties()
     const QSignalBlocker blocker(snapping);
     snapping->setChecked(valueOf("plates.snapping").toBool());
     for (QToolButton* button : selectionButtons) {
-        button->setEnabled(!platesTool.selected().empty());
+        button->setEnabled(!tool.selected().empty());
     }
 }
 

@@ -25,17 +25,16 @@ namespace viewer {
 class VectorEdit;
 
 /// Scene plates: adding them from pictures, texts and colours, their list from the foremost to the
-/// rearmost, and the properties of the selected ones. Owns the tool that edits them in the view.
+/// rearmost, and the properties of the selected ones.
 class PlatesPanel : public Panel
 {
     Q_OBJECT
 
 public:
-    explicit PlatesPanel(Stage& targetStage, QWidget* parent = nullptr);
+    /// @param targetStage, targetTool  outlive this
+    PlatesPanel(Stage& targetStage, PlatesTool& targetTool, QWidget* parent = nullptr);
 
     void refresh() override;
-
-    PlatesTool& tool() { return platesTool; }
 
 private:
     /// Boxes for the numbers of one command.
@@ -65,7 +64,7 @@ private:
     void refreshList();
     void refreshProperties();
 
-    PlatesTool platesTool;
+    PlatesTool& tool;
     QToolButton* edit = nullptr;
     std::vector<QToolButton*> selectionButtons;
     QListWidget* list = nullptr;

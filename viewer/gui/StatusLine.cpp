@@ -88,7 +88,7 @@ void StatusLine::update(Stage& stage, bool isLoading)
     setTextOf(selectionLabel, ofTool.isEmpty() ? selectionText(stage) : ofTool);
     setTextOf(handleLabel, pointerText(stage));
     setTextOf(valuesLabel, QString::fromStdString(stage.draggedValues()));
-    setTextOf(sceneLabel, tr("%L1 triangles").arg(stage.triangleCount()));
+    setTextOf(sceneLabel, tr("%Ln triangles", nullptr, static_cast<int>(stage.triangleCount())));
     progress->setVisible(isLoading);
     cancelButton->setVisible(isLoading);
 }

@@ -64,7 +64,6 @@ ViewWidget::ViewWidget(QWidget* parent)
     , translator(viewStage.interaction(), &renderWidget)
 {
     setObjectName(QStringLiteral("view"));
-    setAccessibleName(tr("View of the scene"));
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setAcceptDrops(true);
@@ -130,8 +129,8 @@ QImage ViewWidget::takePicture(QString& error)
     QImage picture =
         pictureView.render(renderWidget.getViewport(), size.width(), size.height(), passes);
     if (picture.isNull()) {
-        error = QStringLiteral("the view cannot be drawn: %1")
-                    .arg(QString::fromStdString(pictureView.getError()));
+        error =
+            tr("the view cannot be drawn: %1").arg(QString::fromStdString(pictureView.getError()));
         return picture;
     }
     paintOverlayOver(picture);
@@ -205,14 +204,12 @@ QString ViewWidget::frameText() const
     }
     constexpr int kDecimals = 1;
     const nbRenderAction::Statistics frame = frameStatistics();
-    QString text = tr("%1 ms, %2 draw calls, %L3 triangles")
-                       .arg(frame.milliseconds, 0, 'f', kDecimals)
-                       .arg(frame.drawCalls)
-                       .arg(frame.triangles);
-    if (frame.reused > 0) {
-        text += tr(", scene image reused");
-    }
-    return text;
+    const QString text = frame.reused > 0
+        ? tr("%1 ms, %2 draw calls, %L3 triangles, scene image reused")
+        : tr("%1 ms, %2 draw calls, %L3 triangles");
+    return text.arg(frame.milliseconds, 0, 'f', kDecimals)
+        .arg(frame.drawCalls)
+        .arg(frame.triangles);
 }
 
 void ViewWidget::addCommands()
@@ -268,8 +265,7 @@ void ViewWidget::initializeGL()
     std::string reason;
     failed = !renderAction.initialise(&reason);
     if (failed) {
-        emit drawingFailed(
-            QStringLiteral("the view cannot be drawn: %1").arg(QString::fromStdString(reason)));
+        emit drawingFailed(tr("the view cannot be drawn: %1").arg(QString::fromStdString(reason)));
     }
 }
 

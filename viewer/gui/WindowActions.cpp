@@ -17,6 +17,7 @@
 #include <QFileInfo>
 #include <QMenu>
 #include <QMenuBar>
+#include <QRegularExpression>
 #include <QUndoStack>
 #include <QWidgetAction>
 
@@ -91,10 +92,12 @@ constexpr GizmoRow kGizmos[] = {
       Gizmo::CameraPivot },
 };
 
+/// Chinese has the letter behind the text, as in "(&F)".
 QString withoutMnemonic(const QString& text)
 {
+    static const QRegularExpression kBehind(QStringLiteral("\\(&.\\)"));
     QString plain = text;
-    return plain.remove(QLatin1Char('&'));
+    return plain.remove(kBehind).remove(QLatin1Char('&'));
 }
 
 }  // namespace
@@ -192,7 +195,7 @@ void WindowActions::addFileMenu()
     menu->addSeparator();
     addPlain(menu, "sceneSave", tr("&Save scene"), "Ctrl+S",
              [this](bool) { window.scenes().save(); });
-    addPlain(menu, "sceneSaveAs", tr("Save scene &as…"), "Ctrl+Shift+S",
+    addPlain(menu, "sceneSaveAs", tr("Save sc&ene as…"), "Ctrl+Shift+S",
              [this](bool) { window.scenes().saveAs(); });
     addPlain(menu, "filePicture", tr("Sa&ve picture…"), "Ctrl+E",
              [this](bool) { window.askForPicture(); });
@@ -235,6 +238,7 @@ void WindowActions::addViewMenu()
     addCommand(menu, "view.setFrameStatistics", tr("Frame stat&istics"), "")->setCheckable(true);
     menu->addSeparator();
     addThemes(menu->addMenu(tr("&Theme")));
+    addLanguages(menu->addMenu(tr("Lan&guage")));
     addPlain(menu, "nextPanel", tr("Ne&xt panel"), "F6",
              [this](bool) { window.panels().focusNext(&window.view()); });
     fullScreen = addPlain(menu, "fullScreen", tr("F&ull screen"), "F11",
@@ -251,6 +255,19 @@ void WindowActions::addThemes(QMenu* menu)
         action->setCheckable(true);
         group->addAction(action);
         themeActions[row.theme] = action;
+    }
+}
+
+void WindowActions::addLanguages(QMenu* menu)
+{
+    auto* group = new QActionGroup(this);
+    for (const Language language : kLanguages) {
+        const QByteArray name = "language." + languageName(language).toLatin1();
+        QAction* action = addPlain(menu, name.constData(), languageTitle(language), {},
+                                   [this, language](bool) { window.setLanguage(language); });
+        action->setCheckable(true);
+        group->addAction(action);
+        languageActions[language] = action;
     }
 }
 
@@ -342,6 +359,7 @@ void WindowActions::update()
     stopReplay->setEnabled(window.isReplaying());
     fullScreen->setChecked(window.isWhole());
     themeActions[window.theme()]->setChecked(true);
+    languageActions[appliedLanguage()]->setChecked(true);
 }
 
 void WindowActions::updateGizmos()

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "viewer/core/GizmoController.h"
+#include "viewer/core/Language.h"
 #include "viewer/gui/Theme.h"
 
 #include <QObject>
@@ -62,6 +63,7 @@ private:
     void addTransformSettings(QMenu* menu);
     void addHelpMenu();
     void addThemes(QMenu* menu);
+    void addLanguages(QMenu* menu);
     void updateGizmos();
     void updateEditing();
 
@@ -88,6 +90,7 @@ private:
     QAction* stopReplay = nullptr;
     QAction* fullScreen = nullptr;
     std::map<Theme, QAction*> themeActions;
+    std::map<Language, QAction*> languageActions;
 };
 
 }  // namespace viewer

@@ -17,6 +17,7 @@ const char* const kRecentKey = "recentFiles";
 const char* const kLayoutKey = "windowLayout";
 const char* const kGeometryKey = "windowGeometry";
 const char* const kThemeKey = "theme";
+const char* const kLanguageKey = "language";
 
 }  // namespace
 
@@ -52,6 +53,16 @@ Theme theme()
 void keepTheme(Theme theme)
 {
     QSettings().setValue(kThemeKey, themeName(theme));
+}
+
+Language language()
+{
+    return languageFromName(QSettings().value(kLanguageKey).toString()).value_or(Language::System);
+}
+
+void keepLanguage(Language language)
+{
+    QSettings().setValue(kLanguageKey, languageName(language));
 }
 
 QStringList recentFiles()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "viewer/core/Language.h"
 #include "viewer/gui/Theme.h"
 
 #include <QByteArray>
@@ -9,7 +10,7 @@
 class QMainWindow;
 
 /// What the program remembers from one start to the next: place and layout of the window, the
-/// theme and the files opened last.
+/// theme, the language and the files opened last.
 namespace viewer::memory {
 
 /// Gives a window the place and layout that it had, as far as the screen is still there.
@@ -24,6 +25,9 @@ bool restoreState(QMainWindow& window, const QByteArray& state);
 
 Theme theme();
 void keepTheme(Theme theme);
+
+Language language();
+void keepLanguage(Language language);
 
 /// Absolute paths, the newest first.
 QStringList recentFiles();

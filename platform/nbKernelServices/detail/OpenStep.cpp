@@ -9,6 +9,9 @@ namespace {
 
 constexpr char kContext[] = "Manipulator";
 
+/// Title of a step that nobody named.
+constexpr char kUnnamed[] = QT_TRANSLATE_NOOP("Manipulator", "Edit");
+
 }  // namespace
 
 void OpenStep::offerTitle(const QString& text)
@@ -30,7 +33,7 @@ QString OpenStep::getTitle() const
     if (!title.isEmpty()) {
         return title;
     }
-    return QCoreApplication::translate(kContext, literalTitle != nullptr ? literalTitle : "Edit");
+    return QCoreApplication::translate(kContext, literalTitle != nullptr ? literalTitle : kUnnamed);
 }
 
 StepRecords OpenStep::close()

@@ -1,0 +1,263 @@
+// SPDX-License-Identifier: MIT
+// The program in other languages than its own.
+#include "viewer/core/Language.h"
+
+#include "tests/viewer/support/GuiTest.h"
+#include "viewer/core/SessionTargets.h"
+#include "viewer/core/Text.h"
+#include "viewer/gui/LogPanel.h"
+#include "viewer/gui/MainWindow.h"
+#include "viewer/gui/PanelDocks.h"
+#include "viewer/gui/ViewWidget.h"
+
+#include <nbKernelServices/nbUndoService.h>
+#include <nbNotification/NotificationManager.h>
+
+#include <QAction>
+#include <QDockWidget>
+#include <QFile>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMouseEvent>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QUndoStack>
+#include <QXmlStreamReader>
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <set>
+
+namespace viewer {
+namespace {
+
+constexpr std::array<Language, 3> kTranslations { Language::German, Language::French,
+                                                  Language::Chinese };
+
+/// A text as a file of translations has it.
+struct Message
+{
+    QString context;
+    QString source;
+    QString comment;
+    QStringList forms;  ///< one, or those of its plural
+    bool isCounted = false;
+};
+
+std::vector<Message> readMessages(Language language)
+{
+    QFile file(QStringLiteral(NB_VIEWER_FOLDER "/translations/nbviewer_%1.ts")
+                   .arg(languageName(language)));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    std::vector<Message> messages;
+    QString context;
+    for (QXmlStreamReader xml(&file); !xml.atEnd(); xml.readNext()) {
+        if (!xml.isStartElement()) {
+            continue;
+        }
+        if (xml.name() == QLatin1String("name")) {
+            context = xml.readElementText();
+        } else if (xml.name() == QLatin1String("message")) {
+            messages.push_back({ context, {}, {}, {}, xml.attributes().hasAttribute("numerus") });
+        } else if (xml.name() == QLatin1String("source")) {
+            messages.back().source = xml.readElementText();
+        } else if (xml.name() == QLatin1String("comment")) {
+            messages.back().comment = xml.readElementText();
+        } else if (xml.name() == QLatin1String("numerusform") ||
+                   (xml.name() == QLatin1String("translation") && !messages.back().isCounted)) {
+            messages.back().forms.append(xml.readElementText());
+        }
+    }
+    return messages;
+}
+
+/// Everything that the window says: menus, tips, labels, titles, names for those who do not see.
+std::set<QString> textsOf(const MainWindow& window)
+{
+    std::set<QString> texts;
+    for (const QObject* object : window.findChildren<QObject*>()) {
+        for (const char* property : { "text", "title", "toolTip", "windowTitle", "accessibleName",
+                                      "placeholderText", "iconText" }) {
+            texts.insert(object->property(property).toString());
+        }
+    }
+    return texts;
+}
+
+class LanguageTest : public GuiTest
+{
+protected:
+    LanguageTest()
+        : window(MainWindow::Attendance::Unattended)
+    {
+        window.resize(900, 700);
+        window.show();
+        window.showStartScene();
+        waitForQuiet();
+    }
+
+    ~LanguageTest() override { applyLanguage(Language::English); }
+
+    void speak(Language language)
+    {
+        window.setLanguage(language);
+        waitForQuiet();
+    }
+
+    QAction* action(const char* name) { return window.findChild<QAction*>(QLatin1String(name)); }
+
+    Stage& stage() { return window.view().stage(); }
+
+    void send(QEvent::Type type, QPointF at, Qt::MouseButton button, Qt::MouseButtons held)
+    {
+        QMouseEvent event(type, at, button, held, Qt::NoModifier);
+        QCoreApplication::sendEvent(&window.view(), &event);
+    }
+
+    void drag(QPointF from, double y)
+    {
+        constexpr int kSteps = 4;
+        for (int i = 1; i <= kSteps; ++i) {
+            send(QEvent::MouseMove, from + QPointF(0, y * i / kSteps), Qt::NoButton,
+                 Qt::LeftButton);
+        }
+        EXPECT_NE(stage().gizmo().draggedValues(), "") << "nothing is dragged";
+    }
+
+    QString textOverTheView()
+    {
+        const auto texts =
+            nbec::notification::NotificationManager::getInstance()->getVisibleTexts(900, 700);
+        return texts.empty() ? QString() : texts.back().text;
+    }
+
+    MainWindow window;
+};
+
+TEST_F(LanguageTest, TheProgramFindsEveryTranslation)
+{
+    for (const Language language : kTranslations) {
+        applyLanguage(language);
+        const std::vector<Message> messages = readMessages(language);
+        EXPECT_GT(messages.size(), 350U);
+        for (const Message& message : messages) {
+            // Every language here has its last form for five.
+            QString wanted = message.forms.last();
+            wanted.replace(QLatin1String("%Ln"), QLatin1String("5"));
+            EXPECT_EQ(QCoreApplication::translate(message.context.toUtf8(), message.source.toUtf8(),
+                                                  message.comment.toUtf8(),
+                                                  message.isCounted ? 5 : -1),
+                      wanted.replace(QLatin1String("%n"), QLatin1String("5")));
+        }
+    }
+}
+
+TEST_F(LanguageTest, NothingInTheWindowStaysEnglish)
+{
+    for (const Language language : kTranslations) {
+        std::set<QString> english;
+        std::set<QString> translated;
+        for (const Message& message : readMessages(language)) {
+            english.insert(message.source);
+            translated.insert(message.forms.begin(), message.forms.end());
+        }
+        speak(language);
+
+        const std::set<QString> shown = textsOf(window);
+
+        int translations = 0;
+        for (const QString& text : shown) {
+            translations += translated.count(text) > 0 ? 1 : 0;
+            EXPECT_FALSE(english.count(text) > 0 && translated.count(text) == 0)
+                << languageName(language).toStdString() << ": " << text.toStdString();
+        }
+        EXPECT_GT(translations, 150);
+    }
+}
+
+TEST_F(LanguageTest, MenusAndTextsOverTheViewFollowAtOnce)
+{
+    speak(Language::German);
+    EXPECT_EQ(window.menuBar()->actions().first()->text(), "&Datei");
+    // How the keys are called is Qt's to translate.
+    EXPECT_TRUE(action("fileOpen")->toolTip().startsWith(QString("Öffnen… (")));
+    ASSERT_TRUE(stage().selectByName("Knot"));
+    stage().showGizmo(Gizmo::Translate);
+    waitForQuiet();
+    SessionTarget target;
+    target.kind = SessionTarget::Kind::Handle;
+    target.name = QStringLiteral("yaShape");
+    osg::Pnt2f px;
+    QString error;
+    ASSERT_TRUE(resolveTarget(target, stage(), px, error)) << error.toStdString();
+    const QPointF start = window.view().toLogical(px);
+    send(QEvent::MouseMove, start, Qt::NoButton, Qt::NoButton);
+    send(QEvent::MouseButtonPress, start, Qt::LeftButton, Qt::LeftButton);
+
+    drag(start, -20);
+    EXPECT_TRUE(textOverTheView().startsWith(QLatin1String("Verschiebung (0.00, ")))
+        << textOverTheView().toStdString();
+    window.setLanguage(Language::French);
+    drag(start, -40);
+    EXPECT_TRUE(textOverTheView().startsWith(QLatin1String("Translation (0.00, ")))
+        << textOverTheView().toStdString();
+    window.setLanguage(Language::German);
+    send(QEvent::MouseButtonRelease, start + QPointF(0, -40), Qt::LeftButton, Qt::NoButton);
+    waitForQuiet();
+
+    // A step keeps the language in which it was done.
+    EXPECT_EQ(nbUndoService::the()->getStack()->undoText(), "Verschieben");
+    EXPECT_EQ(action("undo")->text(), "&Rückgängig: Verschieben");
+    speak(Language::Chinese);
+    EXPECT_TRUE(action("undo")->toolTip().startsWith(QString("撤销 Verschieben (")));
+    speak(Language::English);
+    EXPECT_EQ(window.menuBar()->actions().first()->text(), "&File");
+}
+
+TEST_F(LanguageTest, TheWindowStaysAsItIsApartFromItsTexts)
+{
+    LogPanel::Entry entry { nbLog::Level::Warning, QStringLiteral("12:34:56"),
+                            QStringLiteral("hold fast") };
+    window.panels().log().append(entry);
+    window.findChild<QDockWidget*>(QStringLiteral("platesDock"))->show();
+    window.findChild<QToolBar*>(QStringLiteral("sessionTools"))->hide();
+    QString error;
+    ASSERT_TRUE(stage().commands().run(QStringLiteral("plates.edit"), true, error));
+    window.record(true);
+    const int actions = window.findChildren<QAction*>().size();
+
+    speak(Language::French);
+
+    EXPECT_EQ(window.findChildren<QAction*>().size(), actions);
+    EXPECT_EQ(window.panels().log().text(), "12:34:56\tAvertissement\thold fast");
+    EXPECT_TRUE(window.findChild<QDockWidget*>(QStringLiteral("platesDock"))->isVisible());
+    EXPECT_FALSE(window.findChild<QDockWidget*>(QStringLiteral("sceneDock"))->isVisible());
+    EXPECT_TRUE(window.findChild<QToolBar*>(QStringLiteral("sessionTools"))->isHidden());
+    EXPECT_TRUE(action("plates.edit")->isChecked());
+    EXPECT_TRUE(window.isRecording());
+    EXPECT_EQ(window.statusBar()->currentMessage(), "Enregistrement en cours");
+    EXPECT_TRUE(action("language.fr")->isChecked());
+}
+
+TEST(Language, TheDesktopsFirstLanguageThatThereIsCounts)
+{
+    const std::pair<QStringList, Language> rows[] = {
+        { { "de-AT", "en-US" }, Language::German },
+        { { "fr_CA" }, Language::French },
+        { { "zh-Hans-CN" }, Language::Chinese },
+        { { "zh_CN" }, Language::Chinese },
+        { { "zh-Hant-TW", "de" }, Language::German },
+        { { "ja-JP", "en", "de" }, Language::English },
+        { { "C" }, Language::English },
+        { {}, Language::English },
+    };
+    for (const auto& [desktop, language] : rows) {
+        EXPECT_EQ(languageOf(desktop), language) << desktop.join(' ').toStdString();
+    }
+    EXPECT_EQ(languageFromName(QStringLiteral("ZH_cn")), Language::Chinese);
+    EXPECT_EQ(languageFromName(QStringLiteral("xx")), std::nullopt);
+}
+
+}  // namespace
+}  // namespace viewer

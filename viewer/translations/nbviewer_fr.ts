@@ -1,0 +1,1637 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>Manipulator</name>
+    <message>
+        <source>Change Perspective Match lines of camera %1</source>
+        <translation>Modifier les lignes de calage de perspective de la caméra %1</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Modifier</translation>
+    </message>
+    <message>
+        <source>Edit Texture Projection</source>
+        <translation>Modifier la projection de texture</translation>
+    </message>
+    <message>
+        <source>Place Texture</source>
+        <translation>Placer la texture</translation>
+    </message>
+    <message>
+        <source>Set Texture</source>
+        <translation>Définir la texture</translation>
+    </message>
+    <message>
+        <source>Edit Texture Settings</source>
+        <translation>Modifier les réglages de texture</translation>
+    </message>
+    <message>
+        <source>Switch Texture Projection</source>
+        <translation>Changer de projection de texture</translation>
+    </message>
+    <message>
+        <source>Turn scene plates</source>
+        <translation>Tourner les plaques de scène</translation>
+    </message>
+    <message>
+        <source>Scale scene plates</source>
+        <translation>Mettre à l’échelle les plaques de scène</translation>
+    </message>
+    <message>
+        <source>Move scene plates</source>
+        <translation>Déplacer les plaques de scène</translation>
+    </message>
+    <message>
+        <source>Add scene plate</source>
+        <translation>Ajouter une plaque de scène</translation>
+    </message>
+    <message>
+        <source>Delete scene plates</source>
+        <translation>Supprimer les plaques de scène</translation>
+    </message>
+    <message>
+        <source>Rename scene plate</source>
+        <translation>Renommer la plaque de scène</translation>
+    </message>
+    <message>
+        <source>Anchor scene plates</source>
+        <translation>Ancrer les plaques de scène</translation>
+    </message>
+    <message>
+        <source>Restack scene plates</source>
+        <translation>Réordonner les plaques de scène</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Déplacer</translation>
+    </message>
+    <message>
+        <source>Rotate</source>
+        <translation>Tourner</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Mettre à l’échelle</translation>
+    </message>
+    <message>
+        <source>Move Rotate Pivot</source>
+        <translation>Déplacer le pivot de rotation</translation>
+    </message>
+    <message>
+        <source>Move Scale Pivot</source>
+        <translation>Déplacer le pivot d’échelle</translation>
+    </message>
+    <message>
+        <source>Turn Rotate Pivot</source>
+        <translation>Tourner le pivot de rotation</translation>
+    </message>
+    <message>
+        <source>Show or hide</source>
+        <translation>Afficher ou masquer</translation>
+    </message>
+    <message>
+        <source>Lock or unlock</source>
+        <translation>Verrouiller ou déverrouiller</translation>
+    </message>
+    <message>
+        <source>Scene plates to the front or back</source>
+        <translation>Plaques de scène à l’avant ou à l’arrière</translation>
+    </message>
+    <message>
+        <source>Show or hide scene plates</source>
+        <translation>Afficher ou masquer les plaques de scène</translation>
+    </message>
+    <message>
+        <source>Opacity of scene plates</source>
+        <translation>Opacité des plaques de scène</translation>
+    </message>
+    <message>
+        <source>Size of scene plates</source>
+        <translation>Taille des plaques de scène</translation>
+    </message>
+    <message>
+        <source>Colour of scene plates</source>
+        <translation>Couleur des plaques de scène</translation>
+    </message>
+    <message>
+        <source>Material for pictures</source>
+        <translation>Matériau pour images</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Image</translation>
+    </message>
+</context>
+<context>
+    <name>nbForegroundTextContext</name>
+    <message>
+        <source>Center (</source>
+        <translation>Centre (</translation>
+    </message>
+    <message>
+        <source>Height (</source>
+        <translation>Hauteur (</translation>
+    </message>
+    <message>
+        <source>Radius (</source>
+        <translation>Rayon (</translation>
+    </message>
+    <message>
+        <source>Scale (</source>
+        <translation>Échelle (</translation>
+    </message>
+    <message>
+        <source>Translation (</source>
+        <translation>Translation (</translation>
+    </message>
+    <message>
+        <source>Rotation (</source>
+        <translation>Rotation (</translation>
+    </message>
+    <message>
+        <source>Rotate Pivot (</source>
+        <translation>Pivot de rotation (</translation>
+    </message>
+    <message>
+        <source>Scale Pivot (</source>
+        <translation>Pivot d’échelle (</translation>
+    </message>
+    <message>
+        <source>Set Texture Center Position</source>
+        <translation>Définir la position du centre de la texture</translation>
+    </message>
+</context>
+<context>
+    <name>viewer</name>
+    <message>
+        <source>Add clip plane</source>
+        <translation>Ajouter un plan de coupe</translation>
+    </message>
+    <message>
+        <source>Remove clip plane</source>
+        <translation>Supprimer le plan de coupe</translation>
+    </message>
+    <message>
+        <source>there is nothing to be cut</source>
+        <translation>il n’y a rien à couper</translation>
+    </message>
+    <message>
+        <source>select a clip plane first</source>
+        <translation>sélectionner d’abord un plan de coupe</translation>
+    </message>
+    <message>
+        <source>Centre pivot</source>
+        <translation>Centrer le pivot</translation>
+    </message>
+    <message>
+        <source>Rotate pivot</source>
+        <translation>Pivot de rotation</translation>
+    </message>
+    <message>
+        <source>Scale pivot</source>
+        <translation>Pivot d’échelle</translation>
+    </message>
+    <message>
+        <source>Translation</source>
+        <translation>Translation</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>Rotation</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Échelle</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n triangles without a finite place were left out</source>
+        <translation>
+            <numerusform>%1&#xa0;: %n triangle sans position finie a été omis</numerusform>
+            <numerusform>%1&#xa0;: %n triangles sans position finie ont été omis</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: picture %2 cannot be read</source>
+        <translation>%1&#xa0;: l’image %2 ne peut pas être lue</translation>
+    </message>
+    <message>
+        <source>cannot be read as a model: its header has no end</source>
+        <translation>ne peut pas être lu comme modèle&#xa0;: l’en-tête n’a pas de fin</translation>
+    </message>
+    <message>
+        <source>cannot be read as a model: it has faces without corners</source>
+        <translation>ne peut pas être lu comme modèle&#xa0;: des faces n’ont pas de sommets</translation>
+    </message>
+    <message>
+        <source>reading was stopped</source>
+        <translation>la lecture a été interrompue</translation>
+    </message>
+    <message>
+        <source>cannot be read as a model: %1</source>
+        <translation>ne peut pas être lu comme modèle&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>holds no surface</source>
+        <translation>ne contient aucune surface</translation>
+    </message>
+    <message>
+        <source>cannot be read as a picture: %1</source>
+        <translation>ne peut pas être lu comme image&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>not a file</source>
+        <translation>n’est pas un fichier</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <translation>fichier introuvable</translation>
+    </message>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation>ne peut pas être lu&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Models and pictures (%1);;All files (*)</source>
+        <translation>Modèles et images (%1);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>nothing is selected</source>
+        <translation>rien n’est sélectionné</translation>
+    </message>
+    <message>
+        <source>the selected object is locked or cannot take this value</source>
+        <translation>l’objet sélectionné est verrouillé ou n’accepte pas cette valeur</translation>
+    </message>
+    <message>
+        <source>an orthographic view cannot be matched: switch to perspective</source>
+        <translation>une vue orthographique ne peut pas être calée&#xa0;: passer en perspective</translation>
+    </message>
+    <message>
+        <source>the camera is locked</source>
+        <translation>la caméra est verrouillée</translation>
+    </message>
+    <message>
+        <source>Lay lines as seen</source>
+        <translation>Poser les lignes selon la vue</translation>
+    </message>
+    <message>
+        <source>Change perspective match</source>
+        <translation>Modifier le calage de perspective</translation>
+    </message>
+    <message>
+        <source>Change magnifier</source>
+        <translation>Modifier la loupe</translation>
+    </message>
+    <message>
+        <source>Orientation and field of view follow the lines.</source>
+        <translation>L’orientation et le champ de vision suivent les lignes.</translation>
+    </message>
+    <message>
+        <source>The orientation follows the lines; the field of view is kept.</source>
+        <translation>L’orientation suit les lignes&#xa0;; le champ de vision est conservé.</translation>
+    </message>
+    <message>
+        <source>An orthographic view cannot be matched: switch to perspective.</source>
+        <translation>Une vue orthographique ne peut pas être calée&#xa0;: passer en perspective.</translation>
+    </message>
+    <message>
+        <source>A line is too short: the camera stays.</source>
+        <translation>Une ligne est trop courte&#xa0;: la caméra reste en place.</translation>
+    </message>
+    <message>
+        <source>Two lines of an axis lie on each other: the camera stays.</source>
+        <translation>Deux lignes d’un axe se superposent&#xa0;: la caméra reste en place.</translation>
+    </message>
+    <message>
+        <source>The lines contradict each other: the camera stays.</source>
+        <translation>Les lignes se contredisent&#xa0;: la caméra reste en place.</translation>
+    </message>
+    <message>
+        <source>There is no camera to be matched.</source>
+        <translation>Il n’y a pas de caméra à caler.</translation>
+    </message>
+    <message>
+        <source>Field of view %1°</source>
+        <translation>Champ de vision %1°</translation>
+    </message>
+    <message>
+        <source>Pictures (%1)</source>
+        <translation>Images (%1)</translation>
+    </message>
+    <message>
+        <source>no scene plate is selected</source>
+        <translation>aucune plaque de scène n’est sélectionnée</translation>
+    </message>
+    <message>
+        <source>expected a text that fits into a picture</source>
+        <translation>un texte qui tient dans une image est attendu</translation>
+    </message>
+    <message>
+        <source>expected a name that no other plate has</source>
+        <translation>un nom qu’aucune autre plaque ne porte est attendu</translation>
+    </message>
+    <message>
+        <source>there is no further plate on this side</source>
+        <translation>il n’y a pas d’autre plaque de ce côté</translation>
+    </message>
+    <message>
+        <source>Rotation %1</source>
+        <translation>Rotation %1</translation>
+    </message>
+    <message>
+        <source>Scale %1</source>
+        <translation>Échelle %1</translation>
+    </message>
+    <message>
+        <source>Position (%1, %2)</source>
+        <translation>Position (%1, %2)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n scene plates</source>
+        <translation>
+            <numerusform>%n plaque de scène</numerusform>
+            <numerusform>%n plaques de scène</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No scene plate selected</source>
+        <translation>Aucune plaque de scène sélectionnée</translation>
+    </message>
+    <message>
+        <source>Scene plate: %1</source>
+        <translation>Plaque de scène&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>there is no picture on the selected object</source>
+        <translation>il n’y a pas d’image sur l’objet sélectionné</translation>
+    </message>
+    <message>
+        <source>Select an object to put a picture on it.</source>
+        <translation>Sélectionner un objet pour y placer une image.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no surface of its own: select a part of it.</source>
+        <translation>«&#xa0;%1&#xa0;» n’a pas de surface propre&#xa0;: en sélectionner une partie.</translation>
+    </message>
+    <message>
+        <source>%1: there is no object to drop it on</source>
+        <translation>%1&#xa0;: il n’y a pas d’objet où le déposer</translation>
+    </message>
+    <message>
+        <source>Place picture</source>
+        <translation>Placer l’image</translation>
+    </message>
+    <message>
+        <source>the surface with the picture is not there</source>
+        <translation>la surface portant l’image n’est pas là</translation>
+    </message>
+    <message>
+        <source>Picture at</source>
+        <translation>Image en</translation>
+    </message>
+    <message>
+        <source>Picture turned</source>
+        <translation>Image tournée</translation>
+    </message>
+    <message>
+        <source>Picture scale</source>
+        <translation>Échelle de l’image</translation>
+    </message>
+    <message>
+        <source>Offsets of x, y, z: u</source>
+        <translation>Décalages en x, y, z&#xa0;: u</translation>
+    </message>
+    <message>
+        <source>Repeats of x, y, z: u</source>
+        <translation>Répétitions en x, y, z&#xa0;: u</translation>
+    </message>
+    <message>
+        <source>Picture offset</source>
+        <translation>Décalage de l’image</translation>
+    </message>
+    <message>
+        <source>Picture repeats</source>
+        <translation>Répétitions de l’image</translation>
+    </message>
+    <message>
+        <source>Tire centre</source>
+        <translation>Centre du pneu</translation>
+    </message>
+    <message>
+        <source>Tire height, radius, part around</source>
+        <translation>Hauteur, rayon et part du tour du pneu</translation>
+    </message>
+    <message>
+        <source>a clip plane has lost its frame</source>
+        <translation>un plan de coupe a perdu son cadre</translation>
+    </message>
+    <message>
+        <source>%1: cannot be saved: %2</source>
+        <translation>%1&#xa0;: ne peut pas être enregistré&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>a picture that came from no file cannot be saved</source>
+        <translation>une image qui ne vient d’aucun fichier ne peut pas être enregistrée</translation>
+    </message>
+    <message>
+        <source>is no picture</source>
+        <translation>n’est pas une image</translation>
+    </message>
+    <message>
+        <source>there is no model &quot;%1&quot;</source>
+        <translation>il n’y a pas de modèle «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>expected &quot;%1&quot; in the model, which has &quot;%2&quot; there</source>
+        <translation>«&#xa0;%1&#xa0;» est attendu dans le modèle, qui contient là «&#xa0;%2&#xa0;»</translation>
+    </message>
+    <message>
+        <source>the model has no object &quot;%1&quot; at &quot;%2&quot;</source>
+        <translation>le modèle n’a pas d’objet «&#xa0;%1&#xa0;» en «&#xa0;%2&#xa0;»</translation>
+    </message>
+    <message>
+        <source>the numbers are too large</source>
+        <translation>les nombres sont trop grands</translation>
+    </message>
+    <message>
+        <source>the model has no surface &quot;%1&quot; there</source>
+        <translation>le modèle n’a pas là de surface «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>%1: too large</source>
+        <translation>%1&#xa0;: trop grand</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::AboutBox</name>
+    <message>
+        <source>nbManipulator %1</source>
+        <translation>nbManipulator %1</translation>
+    </message>
+    <message>
+        <source>Qt %1 (built with %2)</source>
+        <translation>Qt %1 (compilé avec %2)</translation>
+    </message>
+    <message>
+        <source>OpenGL: %1</source>
+        <translation>OpenGL&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>not started</source>
+        <translation>non démarré</translation>
+    </message>
+    <message>
+        <source>Scene graph: bundled, interface of version %1.%2</source>
+        <translation>Graphe de scène&#xa0;: intégré, interface de la version %1.%2</translation>
+    </message>
+    <message>
+        <source>Picking: %1</source>
+        <translation>Sélection au pointeur&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Model files: %1</source>
+        <translation>Fichiers de modèles&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>System: %1, %2</source>
+        <translation>Système&#xa0;: %1, %2</translation>
+    </message>
+    <message>
+        <source>About nbviewer</source>
+        <translation>À propos de nbviewer</translation>
+    </message>
+    <message>
+        <source>Interactive manipulators for 3D scenes</source>
+        <translation>Manipulateurs interactifs pour scènes 3D</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>C&amp;opier</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::Language</name>
+    <message>
+        <source>&amp;As the desktop</source>
+        <translation>&amp;Comme le bureau</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::LogPanel</name>
+    <message>
+        <source>Detail</source>
+        <translation>Détail</translation>
+    </message>
+    <message>
+        <source>Everything</source>
+        <translation>Tout</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Note</translation>
+    </message>
+    <message>
+        <source>From notes on</source>
+        <translation>À partir des notes</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avertissement</translation>
+    </message>
+    <message>
+        <source>Warnings and errors</source>
+        <translation>Avertissements et erreurs</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Erreur</translation>
+    </message>
+    <message>
+        <source>Errors only</source>
+        <translation>Erreurs seulement</translation>
+    </message>
+    <message>
+        <source>Messages shown</source>
+        <translation>Messages affichés</translation>
+    </message>
+    <message>
+        <source>Copy the messages selected, or all</source>
+        <translation>Copier les messages sélectionnés, ou tous</translation>
+    </message>
+    <message>
+        <source>Clear the messages</source>
+        <translation>Effacer les messages</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>Messages</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Heure</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Niveau</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Message</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::MainWindow</name>
+    <message>
+        <source>Sessions (*.json)</source>
+        <translation>Sessions (*.json)</translation>
+    </message>
+    <message>
+        <source>View of the scene</source>
+        <translation>Vue de la scène</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Save picture</source>
+        <translation>Enregistrer l’image</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.jpg *.bmp)</source>
+        <translation>Images (*.png *.jpg *.bmp)</translation>
+    </message>
+    <message>
+        <source>%1: cannot be written</source>
+        <translation>%1&#xa0;: ne peut pas être écrit</translation>
+    </message>
+    <message>
+        <source>%1: drop pictures on an object</source>
+        <translation>%1&#xa0;: déposer les images sur un objet</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Enregistrement en cours</translation>
+    </message>
+    <message>
+        <source>Save session</source>
+        <translation>Enregistrer la session</translation>
+    </message>
+    <message>
+        <source>Replay session</source>
+        <translation>Rejouer une session</translation>
+    </message>
+    <message>
+        <source>%1: a scene can only be opened by itself</source>
+        <translation>%1&#xa0;: une scène ne peut être ouverte que seule</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::MaterialPanel</name>
+    <message>
+        <source>Place</source>
+        <translation>Place</translation>
+    </message>
+    <message>
+        <source>Turn, °</source>
+        <translation>Rotation, °</translation>
+    </message>
+    <message>
+        <source>Half size</source>
+        <translation>Demi-taille</translation>
+    </message>
+    <message>
+        <source>Offset</source>
+        <translation>Décalage</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Répétition</translation>
+    </message>
+    <message>
+        <source>Offset across</source>
+        <translation>Décalage en largeur</translation>
+    </message>
+    <message>
+        <source>Offset upwards</source>
+        <translation>Décalage en hauteur</translation>
+    </message>
+    <message>
+        <source>Repeat across</source>
+        <translation>Répéter en largeur</translation>
+    </message>
+    <message>
+        <source>Repeat upwards</source>
+        <translation>Répéter en hauteur</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>Centre</translation>
+    </message>
+    <message>
+        <source>Width of tread</source>
+        <translation>Largeur de bande</translation>
+    </message>
+    <message>
+        <source>Radius</source>
+        <translation>Rayon</translation>
+    </message>
+    <message>
+        <source>Part around</source>
+        <translation>Part du tour</translation>
+    </message>
+    <message>
+        <source>No picture</source>
+        <translation>Pas d’image</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Couleur</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Opacité</translation>
+    </message>
+    <message>
+        <source>Component</source>
+        <translation>Composante</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Choisir…</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Retirer</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>From one side</source>
+        <translation>D’un côté</translation>
+    </message>
+    <message>
+        <source>Texture coordinates</source>
+        <translation>Coordonnées de texture</translation>
+    </message>
+    <message>
+        <source>From three sides</source>
+        <translation>De trois côtés</translation>
+    </message>
+    <message>
+        <source>Around a tire</source>
+        <translation>Autour d’un pneu</translation>
+    </message>
+    <message>
+        <source>Projection</source>
+        <translation>Projection</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Déplacer</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>Tourner</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Échelle</translation>
+    </message>
+    <message>
+        <source>Turn + scale</source>
+        <translation>Tourner + échelle</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Tout</translation>
+    </message>
+    <message>
+        <source>By click</source>
+        <translation>Par clic</translation>
+    </message>
+    <message>
+        <source>Clicks on the object place the picture, or its handles</source>
+        <translation>Les clics sur l’objet placent l’image, ou ses poignées</translation>
+    </message>
+    <message>
+        <source>Placing</source>
+        <translation>Placement</translation>
+    </message>
+    <message>
+        <source>Handle size</source>
+        <translation>Taille des poignées</translation>
+    </message>
+    <message>
+        <source>Keep aspect</source>
+        <translation>Garder les proportions</translation>
+    </message>
+    <message>
+        <source>Turn rings seen edge-on</source>
+        <translation>Anneaux vus de profil</translation>
+    </message>
+    <message>
+        <source>Fit to the object</source>
+        <translation>Ajuster à l’objet</translation>
+    </message>
+    <message>
+        <source>End in depth</source>
+        <translation>Fin en profondeur</translation>
+    </message>
+    <message>
+        <source>Picture is a mask</source>
+        <translation>L’image est un masque</translation>
+    </message>
+    <message>
+        <source>Invert</source>
+        <translation>Inverser</translation>
+    </message>
+    <message>
+        <source>Show projection</source>
+        <translation>Afficher la projection</translation>
+    </message>
+    <message>
+        <source>Show its depth</source>
+        <translation>Afficher sa profondeur</translation>
+    </message>
+    <message>
+        <source>How far one sees through the shown projection</source>
+        <translation>Transparence de la projection affichée</translation>
+    </message>
+    <message>
+        <source>Transparency</source>
+        <translation>Transparence</translation>
+    </message>
+    <message>
+        <source>Choose picture</source>
+        <translation>Choisir une image</translation>
+    </message>
+    <message>
+        <source>On &quot;%1&quot;</source>
+        <translation>Sur «&#xa0;%1&#xa0;»</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::ObjectPanel</name>
+    <message>
+        <source>Translation</source>
+        <translation>Translation</translation>
+    </message>
+    <message>
+        <source>Rotation, °</source>
+        <translation>Rotation, °</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Échelle</translation>
+    </message>
+    <message>
+        <source>Rotate pivot</source>
+        <translation>Pivot de rotation</translation>
+    </message>
+    <message>
+        <source>Scale pivot</source>
+        <translation>Pivot d’échelle</translation>
+    </message>
+    <message>
+        <source>Visible</source>
+        <translation>Visible</translation>
+    </message>
+    <message>
+        <source>Locked</source>
+        <translation>Verrouillé</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Z</source>
+        <translation>Z</translation>
+    </message>
+    <message>
+        <source>Nothing selected</source>
+        <translation>Rien de sélectionné</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::PanelDocks</name>
+    <message>
+        <source>As opened</source>
+        <translation>À l’ouverture</translation>
+    </message>
+    <message>
+        <source>Steps</source>
+        <translation>Étapes</translation>
+    </message>
+    <message>
+        <source>Objects</source>
+        <translation>Objets</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Propriétés</translation>
+    </message>
+    <message>
+        <source>Material</source>
+        <translation>Matériau</translation>
+    </message>
+    <message>
+        <source>Perspective match</source>
+        <translation>Calage de perspective</translation>
+    </message>
+    <message>
+        <source>Scene plates</source>
+        <translation>Plaques de scène</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>Messages</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::PerspectiveMatchPanel</name>
+    <message>
+        <source>Match mode</source>
+        <translation>Mode calage</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Lignes</translation>
+    </message>
+    <message>
+        <source>Camera locked</source>
+        <translation>Caméra verrouillée</translation>
+    </message>
+    <message>
+        <source>Lines used</source>
+        <translation>Lignes utilisées</translation>
+    </message>
+    <message>
+        <source>X, Y and Z</source>
+        <translation>X, Y et Z</translation>
+    </message>
+    <message>
+        <source>X and Y</source>
+        <translation>X et Y</translation>
+    </message>
+    <message>
+        <source>X and Z</source>
+        <translation>X et Z</translation>
+    </message>
+    <message>
+        <source>Y and Z</source>
+        <translation>Y et Z</translation>
+    </message>
+    <message>
+        <source>Field of view</source>
+        <translation>Champ de vision</translation>
+    </message>
+    <message>
+        <source>From the lines</source>
+        <translation>D’après les lignes</translation>
+    </message>
+    <message>
+        <source>Fixed</source>
+        <translation>Fixe</translation>
+    </message>
+    <message>
+        <source>Lay lines as seen</source>
+        <translation>Poser les lignes</translation>
+    </message>
+    <message>
+        <source>Turn camera</source>
+        <translation>Tourner la caméra</translation>
+    </message>
+    <message>
+        <source>Photograph</source>
+        <translation>Photographie</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>Ouvrir…</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Retirer</translation>
+    </message>
+    <message>
+        <source>Over the models</source>
+        <translation>Sur les modèles</translation>
+    </message>
+    <message>
+        <source>Magnifier</source>
+        <translation>Loupe</translation>
+    </message>
+    <message>
+        <source>Line %1, start, across</source>
+        <translation>Ligne %1, début, horizontal</translation>
+    </message>
+    <message>
+        <source>Line %1, start, up</source>
+        <translation>Ligne %1, début, vertical</translation>
+    </message>
+    <message>
+        <source>Line %1, end, across</source>
+        <translation>Ligne %1, fin, horizontal</translation>
+    </message>
+    <message>
+        <source>Line %1, end, up</source>
+        <translation>Ligne %1, fin, vertical</translation>
+    </message>
+    <message>
+        <source>Open photograph</source>
+        <translation>Ouvrir une photographie</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>aucune</translation>
+    </message>
+    <message>
+        <source>%1 Field of view %2°.</source>
+        <comment>sentence, number</comment>
+        <translation>%1 Champ de vision %2°.</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::PlatesPanel</name>
+    <message>
+        <source>Top left</source>
+        <translation>En haut à gauche</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>En haut</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>En haut à droite</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>À gauche</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>Au centre</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>À droite</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>En bas à gauche</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>En bas</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>En bas à droite</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Modifier</translation>
+    </message>
+    <message>
+        <source>Select and edit plates in the view</source>
+        <translation>Sélectionner et modifier les plaques dans la vue</translation>
+    </message>
+    <message>
+        <source>Picture…</source>
+        <translation>Image…</translation>
+    </message>
+    <message>
+        <source>Add a picture from a file</source>
+        <translation>Ajouter une image depuis un fichier</translation>
+    </message>
+    <message>
+        <source>Colour…</source>
+        <translation>Couleur…</translation>
+    </message>
+    <message>
+        <source>Add a plate of plain colour</source>
+        <translation>Ajouter une plaque de couleur unie</translation>
+    </message>
+    <message>
+        <source>Bring forward</source>
+        <translation>Avancer</translation>
+    </message>
+    <message>
+        <source>Send backward</source>
+        <translation>Reculer</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Scene plates, the foremost first</source>
+        <translation>Plaques de scène, la plus en avant d’abord</translation>
+    </message>
+    <message>
+        <source>In front of the scene</source>
+        <translation>Devant la scène</translation>
+    </message>
+    <message>
+        <source>Behind the scene</source>
+        <translation>Derrière la scène</translation>
+    </message>
+    <message>
+        <source>Lies</source>
+        <translation>Située</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Opacité</translation>
+    </message>
+    <message>
+        <source>The place of the window that the plate follows</source>
+        <translation>L’endroit de la fenêtre que suit la plaque</translation>
+    </message>
+    <message>
+        <source>Anchor</source>
+        <translation>Ancrage</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Taille</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Largeur</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Hauteur</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Échelle</translation>
+    </message>
+    <message>
+        <source>Rotation, °</source>
+        <translation>Rotation, °</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>Rotation</translation>
+    </message>
+    <message>
+        <source>Snap to edges and centre</source>
+        <translation>Magnétisme aux bords et au centre</translation>
+    </message>
+    <message>
+        <source>New text</source>
+        <translation>Nouveau texte</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titre</translation>
+    </message>
+    <message>
+        <source>Height of a line, of the view&apos;s</source>
+        <translation>Hauteur d’une ligne, par rapport à la vue</translation>
+    </message>
+    <message>
+        <source>Bold</source>
+        <translation>Gras</translation>
+    </message>
+    <message>
+        <source>Colour of the text</source>
+        <translation>Couleur du texte</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Ajouter</translation>
+    </message>
+    <message>
+        <source>Add the text as a plate</source>
+        <translation>Ajouter le texte comme plaque</translation>
+    </message>
+    <message>
+        <source>Add picture</source>
+        <translation>Ajouter une image</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::SceneFileActions</name>
+    <message>
+        <source>Scenes (*.nbscene)</source>
+        <translation>Scènes (*.nbscene)</translation>
+    </message>
+    <message>
+        <source>Open scene</source>
+        <translation>Ouvrir une scène</translation>
+    </message>
+    <message>
+        <source>Save scene</source>
+        <translation>Enregistrer la scène</translation>
+    </message>
+    <message>
+        <source>The scene</source>
+        <translation>La scène</translation>
+    </message>
+    <message>
+        <source>%1 has been edited. Save it?</source>
+        <translation>%1 a été modifié. L’enregistrer&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Edits that are not saved will be lost.</source>
+        <translation>Les modifications non enregistrées seront perdues.</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::ScenePanel</name>
+    <message>
+        <source>Objects of the scene</source>
+        <translation>Objets de la scène</translation>
+    </message>
+    <message>
+        <source>(no name)</source>
+        <translation>(sans nom)</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::StatusLine</name>
+    <message>
+        <source>Nothing selected</source>
+        <translation>Rien de sélectionné</translation>
+    </message>
+    <message numerus="yes">
+        <source>Selected: %1 and %n more</source>
+        <translation>
+            <numerusform>Sélection&#xa0;: %1 et %n autre</numerusform>
+            <numerusform>Sélection&#xa0;: %1 et %n autres</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Selected: %1</source>
+        <translation>Sélection&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Handle: %1</source>
+        <translation>Poignée&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Under the pointer: %1</source>
+        <translation>Sous le pointeur&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Progress of loading</source>
+        <translation>Progression du chargement</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>Stop loading</source>
+        <translation>Arrêter le chargement</translation>
+    </message>
+    <message>
+        <source>Stop loading (Esc); the scene stays as it is</source>
+        <translation>Arrêter le chargement (Échap)&#xa0;; la scène reste telle quelle</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln triangles</source>
+        <translation>
+            <numerusform>%Ln triangle</numerusform>
+            <numerusform>%Ln triangles</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Reading %1: %p%</source>
+        <comment>%p is the number</comment>
+        <translation>Lecture de %1&#xa0;: %p&#xa0;%</translation>
+    </message>
+    <message>
+        <source>Preparing %1: %p%</source>
+        <comment>%p is the number</comment>
+        <translation>Préparation de %1&#xa0;: %p&#xa0;%</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::StepsPanel</name>
+    <message>
+        <source>Step of translation</source>
+        <translation>Pas de translation</translation>
+    </message>
+    <message>
+        <source>Step of rotation, °</source>
+        <translation>Pas de rotation, °</translation>
+    </message>
+    <message>
+        <source>Step of scale</source>
+        <translation>Pas d’échelle</translation>
+    </message>
+    <message>
+        <source>Size of the gizmo</source>
+        <translation>Taille du gizmo</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::ToolBars</name>
+    <message>
+        <source>Files and steps</source>
+        <translation>Fichiers et étapes</translation>
+    </message>
+    <message>
+        <source>Handles</source>
+        <translation>Poignées</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Caméra</translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <translation>Session</translation>
+    </message>
+    <message>
+        <source>Manipulators</source>
+        <translation>Manipulateurs</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::ViewWidget</name>
+    <message>
+        <source>the view cannot be drawn: %1</source>
+        <translation>la vue ne peut pas être dessinée&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>%1 ms, %2 draw calls, %L3 triangles</source>
+        <translation>%1 ms, %2 appels de dessin, %L3 triangles</translation>
+    </message>
+    <message>
+        <source>%1 ms, %2 draw calls, %L3 triangles, scene image reused</source>
+        <translation>%1 ms, %2 appels de dessin, %L3 triangles, image de la scène réutilisée</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::WindowActions</name>
+    <message>
+        <source>&amp;Front</source>
+        <translation>&amp;Face</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Arrière</translation>
+    </message>
+    <message>
+        <source>&amp;Right</source>
+        <translation>&amp;Droite</translation>
+    </message>
+    <message>
+        <source>&amp;Left</source>
+        <translation>&amp;Gauche</translation>
+    </message>
+    <message>
+        <source>&amp;Top</source>
+        <translation>De&amp;ssus</translation>
+    </message>
+    <message>
+        <source>B&amp;ottom</source>
+        <translation>Desso&amp;us</translation>
+    </message>
+    <message>
+        <source>Three-&amp;quarter</source>
+        <translation>&amp;Trois quarts</translation>
+    </message>
+    <message>
+        <source>As the &amp;desktop</source>
+        <translation>Comme le &amp;bureau</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Clair</translation>
+    </message>
+    <message>
+        <source>Dar&amp;k</source>
+        <translation>&amp;Sombre</translation>
+    </message>
+    <message>
+        <source>&amp;None</source>
+        <translation>&amp;Aucun</translation>
+    </message>
+    <message>
+        <source>&amp;Translate</source>
+        <translation>&amp;Déplacer</translation>
+    </message>
+    <message>
+        <source>&amp;Rotate</source>
+        <translation>&amp;Tourner</translation>
+    </message>
+    <message>
+        <source>&amp;Scale</source>
+        <translation>&amp;Mettre à l’échelle</translation>
+    </message>
+    <message>
+        <source>&amp;Universal</source>
+        <translation>&amp;Universel</translation>
+    </message>
+    <message>
+        <source>Translate, r&amp;otate</source>
+        <translation>Dépla&amp;cer, tourner</translation>
+    </message>
+    <message>
+        <source>Translate, rotate, s&amp;cale</source>
+        <translation>Déplacer, tourner, mettre à l’éche&amp;lle</translation>
+    </message>
+    <message>
+        <source>Translate, rotate about &amp;y and z</source>
+        <translation>Déplacer, tourner autour de &amp;Y et Z</translation>
+    </message>
+    <message>
+        <source>Rotate &amp;pivot</source>
+        <translation>&amp;Pivot de rotation</translation>
+    </message>
+    <message>
+        <source>Sca&amp;le pivot</source>
+        <translation>Pivot d’éc&amp;helle</translation>
+    </message>
+    <message>
+        <source>Clip plan&amp;e</source>
+        <translation>Pla&amp;n de coupe</translation>
+    </message>
+    <message>
+        <source>Ca&amp;mera pivot</source>
+        <translation>Pi&amp;vot de la caméra</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>tip, shortcut</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>&amp;Ouvrir…</translation>
+    </message>
+    <message>
+        <source>&amp;Add…</source>
+        <translation>&amp;Ajouter…</translation>
+    </message>
+    <message>
+        <source>Open &amp;recent</source>
+        <translation>Fichiers &amp;récents</translation>
+    </message>
+    <message>
+        <source>S&amp;tart scene</source>
+        <translation>Scène de &amp;départ</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Édition</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>Select &amp;all</source>
+        <translation>&amp;Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>Select &amp;nothing</source>
+        <translation>&amp;Ne rien sélectionner</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Affichage</translation>
+    </message>
+    <message>
+        <source>Frame &amp;all</source>
+        <translation>Cadrer &amp;tout</translation>
+    </message>
+    <message>
+        <source>Frame &amp;selection</source>
+        <translation>Cadrer la &amp;sélection</translation>
+    </message>
+    <message>
+        <source>Look &amp;from</source>
+        <translation>Regarder &amp;depuis</translation>
+    </message>
+    <message>
+        <source>Look from a side</source>
+        <translation>Regarder d’un côté</translation>
+    </message>
+    <message>
+        <source>Ort&amp;hographic</source>
+        <translation>&amp;Orthographique</translation>
+    </message>
+    <message>
+        <source>&amp;Z is up</source>
+        <translation>&amp;Z vers le haut</translation>
+    </message>
+    <message>
+        <source>&amp;Panels</source>
+        <translation>&amp;Panneaux</translation>
+    </message>
+    <message>
+        <source>Show &amp;effect buffer</source>
+        <translation>Afficher le tampon d’&amp;effet</translation>
+    </message>
+    <message>
+        <source>&amp;Theme</source>
+        <translation>T&amp;hème</translation>
+    </message>
+    <message>
+        <source>Lan&amp;guage</source>
+        <translation>Lan&amp;gue (Language)</translation>
+    </message>
+    <message>
+        <source>Ne&amp;xt panel</source>
+        <translation>Panneau sui&amp;vant</translation>
+    </message>
+    <message>
+        <source>F&amp;ull screen</source>
+        <translation>Plei&amp;n écran</translation>
+    </message>
+    <message>
+        <source>&amp;Manipulator</source>
+        <translation>&amp;Manipulateur</translation>
+    </message>
+    <message>
+        <source>Add cl&amp;ip plane</source>
+        <translation>A&amp;jouter un plan de coupe</translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve clip plane</source>
+        <translation>Supp&amp;rimer le plan de coupe</translation>
+    </message>
+    <message>
+        <source>Match a p&amp;hotograph</source>
+        <translation>Caler sur une ph&amp;otographie</translation>
+    </message>
+    <message>
+        <source>Edit scene pl&amp;ates</source>
+        <translation>Modi&amp;fier les plaques de scène</translation>
+    </message>
+    <message>
+        <source>&amp;Delete scene plates</source>
+        <translation>&amp;Supprimer les plaques de scène</translation>
+    </message>
+    <message>
+        <source>Edit pictures on o&amp;bjects</source>
+        <translation>Modifier les images sur les o&amp;bjets</translation>
+    </message>
+    <message>
+        <source>Axes o&amp;f the object</source>
+        <translation>A&amp;xes de l’objet</translation>
+    </message>
+    <message>
+        <source>Snappin&amp;g</source>
+        <translation>Magnét&amp;isme</translation>
+    </message>
+    <message>
+        <source>Pivot bac&amp;k to the centre</source>
+        <translation>Ramener le pivot au c&amp;entre</translation>
+    </message>
+    <message>
+        <source>Axes of the object instead of the world&apos;s</source>
+        <translation>Axes de l’objet au lieu de ceux du monde</translation>
+    </message>
+    <message>
+        <source>Advance in steps; hold Ctrl for a while</source>
+        <translation>Avancer par pas&#xa0;; maintenir Ctrl pour un moment</translation>
+    </message>
+    <message>
+        <source>Steps and si&amp;ze</source>
+        <translation>Pas et taille du &amp;gizmo</translation>
+    </message>
+    <message>
+        <source>Steps of snapping, size of the gizmo</source>
+        <translation>Pas du magnétisme, taille du gizmo</translation>
+    </message>
+    <message>
+        <source>&amp;Session</source>
+        <translation>&amp;Session</translation>
+    </message>
+    <message>
+        <source>&amp;Record</source>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+    <message>
+        <source>Add &amp;checkpoint</source>
+        <translation>Ajouter un &amp;point de contrôle</translation>
+    </message>
+    <message>
+        <source>Re&amp;play…</source>
+        <translation>&amp;Rejouer…</translation>
+    </message>
+    <message>
+        <source>&amp;Stop replay</source>
+        <translation>&amp;Arrêter la lecture</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Ai&amp;de</translation>
+    </message>
+    <message>
+        <source>&amp;About nbviewer…</source>
+        <translation>À &amp;propos de nbviewer…</translation>
+    </message>
+    <message>
+        <source>&amp;Undo %1</source>
+        <translation>&amp;Annuler&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Redo %1</source>
+        <translation>&amp;Rétablir&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Frame stat&amp;istics</source>
+        <translation>Statist&amp;iques d’image</translation>
+    </message>
+    <message>
+        <source>Open s&amp;cene…</source>
+        <translation>Ouvrir une s&amp;cène…</translation>
+    </message>
+    <message>
+        <source>&amp;Save scene</source>
+        <translation>&amp;Enregistrer la scène</translation>
+    </message>
+    <message>
+        <source>Save sc&amp;ene as…</source>
+        <translation>Enregistrer la scène &amp;sous…</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve picture…</source>
+        <translation>Enregistrer l’&amp;image…</translation>
+    </message>
+</context>
+</TS>

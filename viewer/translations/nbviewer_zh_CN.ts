@@ -1,0 +1,1633 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>Manipulator</name>
+    <message>
+        <source>Change Perspective Match lines of camera %1</source>
+        <translation>修改相机 %1 的透视匹配线</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>编辑</translation>
+    </message>
+    <message>
+        <source>Edit Texture Projection</source>
+        <translation>编辑纹理投影</translation>
+    </message>
+    <message>
+        <source>Place Texture</source>
+        <translation>放置纹理</translation>
+    </message>
+    <message>
+        <source>Set Texture</source>
+        <translation>设置纹理</translation>
+    </message>
+    <message>
+        <source>Edit Texture Settings</source>
+        <translation>编辑纹理设置</translation>
+    </message>
+    <message>
+        <source>Switch Texture Projection</source>
+        <translation>切换纹理投影</translation>
+    </message>
+    <message>
+        <source>Turn scene plates</source>
+        <translation>旋转场景板</translation>
+    </message>
+    <message>
+        <source>Scale scene plates</source>
+        <translation>缩放场景板</translation>
+    </message>
+    <message>
+        <source>Move scene plates</source>
+        <translation>移动场景板</translation>
+    </message>
+    <message>
+        <source>Add scene plate</source>
+        <translation>添加场景板</translation>
+    </message>
+    <message>
+        <source>Delete scene plates</source>
+        <translation>删除场景板</translation>
+    </message>
+    <message>
+        <source>Rename scene plate</source>
+        <translation>重命名场景板</translation>
+    </message>
+    <message>
+        <source>Anchor scene plates</source>
+        <translation>锚定场景板</translation>
+    </message>
+    <message>
+        <source>Restack scene plates</source>
+        <translation>调整场景板次序</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>移动</translation>
+    </message>
+    <message>
+        <source>Rotate</source>
+        <translation>旋转</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>缩放</translation>
+    </message>
+    <message>
+        <source>Move Rotate Pivot</source>
+        <translation>移动旋转枢轴</translation>
+    </message>
+    <message>
+        <source>Move Scale Pivot</source>
+        <translation>移动缩放枢轴</translation>
+    </message>
+    <message>
+        <source>Turn Rotate Pivot</source>
+        <translation>转动旋转枢轴</translation>
+    </message>
+    <message>
+        <source>Show or hide</source>
+        <translation>显示或隐藏</translation>
+    </message>
+    <message>
+        <source>Lock or unlock</source>
+        <translation>锁定或解锁</translation>
+    </message>
+    <message>
+        <source>Scene plates to the front or back</source>
+        <translation>场景板置前或置后</translation>
+    </message>
+    <message>
+        <source>Show or hide scene plates</source>
+        <translation>显示或隐藏场景板</translation>
+    </message>
+    <message>
+        <source>Opacity of scene plates</source>
+        <translation>场景板不透明度</translation>
+    </message>
+    <message>
+        <source>Size of scene plates</source>
+        <translation>场景板大小</translation>
+    </message>
+    <message>
+        <source>Colour of scene plates</source>
+        <translation>场景板颜色</translation>
+    </message>
+    <message>
+        <source>Material for pictures</source>
+        <translation>图片材质</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>图片</translation>
+    </message>
+</context>
+<context>
+    <name>nbForegroundTextContext</name>
+    <message>
+        <source>Center (</source>
+        <translation>中心 (</translation>
+    </message>
+    <message>
+        <source>Height (</source>
+        <translation>高度 (</translation>
+    </message>
+    <message>
+        <source>Radius (</source>
+        <translation>半径 (</translation>
+    </message>
+    <message>
+        <source>Scale (</source>
+        <translation>缩放 (</translation>
+    </message>
+    <message>
+        <source>Translation (</source>
+        <translation>平移 (</translation>
+    </message>
+    <message>
+        <source>Rotation (</source>
+        <translation>旋转 (</translation>
+    </message>
+    <message>
+        <source>Rotate Pivot (</source>
+        <translation>旋转枢轴 (</translation>
+    </message>
+    <message>
+        <source>Scale Pivot (</source>
+        <translation>缩放枢轴 (</translation>
+    </message>
+    <message>
+        <source>Set Texture Center Position</source>
+        <translation>设置纹理中心位置</translation>
+    </message>
+</context>
+<context>
+    <name>viewer</name>
+    <message>
+        <source>Add clip plane</source>
+        <translation>添加裁剪平面</translation>
+    </message>
+    <message>
+        <source>Remove clip plane</source>
+        <translation>移除裁剪平面</translation>
+    </message>
+    <message>
+        <source>there is nothing to be cut</source>
+        <translation>没有可裁剪的内容</translation>
+    </message>
+    <message>
+        <source>select a clip plane first</source>
+        <translation>请先选择一个裁剪平面</translation>
+    </message>
+    <message>
+        <source>Centre pivot</source>
+        <translation>枢轴居中</translation>
+    </message>
+    <message>
+        <source>Rotate pivot</source>
+        <translation>旋转枢轴</translation>
+    </message>
+    <message>
+        <source>Scale pivot</source>
+        <translation>缩放枢轴</translation>
+    </message>
+    <message>
+        <source>Translation</source>
+        <translation>平移</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>旋转</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>缩放</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n triangles without a finite place were left out</source>
+        <translation>
+            <numerusform>%1：已略去 %n 个位置非有限的三角形</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: picture %2 cannot be read</source>
+        <translation>%1：无法读取图片 %2</translation>
+    </message>
+    <message>
+        <source>cannot be read as a model: its header has no end</source>
+        <translation>无法作为模型读取：文件头没有结尾</translation>
+    </message>
+    <message>
+        <source>cannot be read as a model: it has faces without corners</source>
+        <translation>无法作为模型读取：存在没有顶点的面</translation>
+    </message>
+    <message>
+        <source>reading was stopped</source>
+        <translation>读取已停止</translation>
+    </message>
+    <message>
+        <source>cannot be read as a model: %1</source>
+        <translation>无法作为模型读取：%1</translation>
+    </message>
+    <message>
+        <source>holds no surface</source>
+        <translation>不含任何表面</translation>
+    </message>
+    <message>
+        <source>cannot be read as a picture: %1</source>
+        <translation>无法作为图片读取：%1</translation>
+    </message>
+    <message>
+        <source>not a file</source>
+        <translation>不是文件</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <translation>没有此文件</translation>
+    </message>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation>无法读取：%1</translation>
+    </message>
+    <message>
+        <source>Models and pictures (%1);;All files (*)</source>
+        <translation>模型和图片 (%1);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>nothing is selected</source>
+        <translation>没有选择任何对象</translation>
+    </message>
+    <message>
+        <source>the selected object is locked or cannot take this value</source>
+        <translation>所选对象已锁定或不能接受此值</translation>
+    </message>
+    <message>
+        <source>an orthographic view cannot be matched: switch to perspective</source>
+        <translation>正交视图无法匹配：请切换到透视</translation>
+    </message>
+    <message>
+        <source>the camera is locked</source>
+        <translation>相机已锁定</translation>
+    </message>
+    <message>
+        <source>Lay lines as seen</source>
+        <translation>按所见放置线</translation>
+    </message>
+    <message>
+        <source>Change perspective match</source>
+        <translation>修改透视匹配</translation>
+    </message>
+    <message>
+        <source>Change magnifier</source>
+        <translation>修改放大镜</translation>
+    </message>
+    <message>
+        <source>Orientation and field of view follow the lines.</source>
+        <translation>方向和视场随匹配线变化。</translation>
+    </message>
+    <message>
+        <source>The orientation follows the lines; the field of view is kept.</source>
+        <translation>方向随匹配线变化；视场保持不变。</translation>
+    </message>
+    <message>
+        <source>An orthographic view cannot be matched: switch to perspective.</source>
+        <translation>正交视图无法匹配：请切换到透视。</translation>
+    </message>
+    <message>
+        <source>A line is too short: the camera stays.</source>
+        <translation>有一条线太短：相机保持不动。</translation>
+    </message>
+    <message>
+        <source>Two lines of an axis lie on each other: the camera stays.</source>
+        <translation>同一轴的两条线重合：相机保持不动。</translation>
+    </message>
+    <message>
+        <source>The lines contradict each other: the camera stays.</source>
+        <translation>各线相互矛盾：相机保持不动。</translation>
+    </message>
+    <message>
+        <source>There is no camera to be matched.</source>
+        <translation>没有可匹配的相机。</translation>
+    </message>
+    <message>
+        <source>Field of view %1°</source>
+        <translation>视场 %1°</translation>
+    </message>
+    <message>
+        <source>Pictures (%1)</source>
+        <translation>图片 (%1)</translation>
+    </message>
+    <message>
+        <source>no scene plate is selected</source>
+        <translation>没有选择场景板</translation>
+    </message>
+    <message>
+        <source>expected a text that fits into a picture</source>
+        <translation>需要能放入图片的文字</translation>
+    </message>
+    <message>
+        <source>expected a name that no other plate has</source>
+        <translation>需要与其他场景板不同的名称</translation>
+    </message>
+    <message>
+        <source>there is no further plate on this side</source>
+        <translation>这一侧没有更多场景板</translation>
+    </message>
+    <message>
+        <source>Rotation %1</source>
+        <translation>旋转 %1</translation>
+    </message>
+    <message>
+        <source>Scale %1</source>
+        <translation>缩放 %1</translation>
+    </message>
+    <message>
+        <source>Position (%1, %2)</source>
+        <translation>位置 (%1, %2)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n scene plates</source>
+        <translation>
+            <numerusform>%n 块场景板</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No scene plate selected</source>
+        <translation>未选择场景板</translation>
+    </message>
+    <message>
+        <source>Scene plate: %1</source>
+        <translation>场景板：%1</translation>
+    </message>
+    <message>
+        <source>there is no picture on the selected object</source>
+        <translation>所选对象上没有图片</translation>
+    </message>
+    <message>
+        <source>Select an object to put a picture on it.</source>
+        <translation>选择一个对象以在其上放置图片。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no surface of its own: select a part of it.</source>
+        <translation>“%1”没有自己的表面：请选择它的一部分。</translation>
+    </message>
+    <message>
+        <source>%1: there is no object to drop it on</source>
+        <translation>%1：此处没有可放置的对象</translation>
+    </message>
+    <message>
+        <source>Place picture</source>
+        <translation>放置图片</translation>
+    </message>
+    <message>
+        <source>the surface with the picture is not there</source>
+        <translation>此处没有带图片的表面</translation>
+    </message>
+    <message>
+        <source>Picture at</source>
+        <translation>图片位置</translation>
+    </message>
+    <message>
+        <source>Picture turned</source>
+        <translation>图片旋转</translation>
+    </message>
+    <message>
+        <source>Picture scale</source>
+        <translation>图片缩放</translation>
+    </message>
+    <message>
+        <source>Offsets of x, y, z: u</source>
+        <translation>x、y、z 偏移：u</translation>
+    </message>
+    <message>
+        <source>Repeats of x, y, z: u</source>
+        <translation>x、y、z 重复：u</translation>
+    </message>
+    <message>
+        <source>Picture offset</source>
+        <translation>图片偏移</translation>
+    </message>
+    <message>
+        <source>Picture repeats</source>
+        <translation>图片重复</translation>
+    </message>
+    <message>
+        <source>Tire centre</source>
+        <translation>轮胎中心</translation>
+    </message>
+    <message>
+        <source>Tire height, radius, part around</source>
+        <translation>轮胎高度、半径、周向比例</translation>
+    </message>
+    <message>
+        <source>a clip plane has lost its frame</source>
+        <translation>裁剪平面失去了其框架</translation>
+    </message>
+    <message>
+        <source>%1: cannot be saved: %2</source>
+        <translation>%1：无法保存：%2</translation>
+    </message>
+    <message>
+        <source>a picture that came from no file cannot be saved</source>
+        <translation>并非来自文件的图片无法保存</translation>
+    </message>
+    <message>
+        <source>is no picture</source>
+        <translation>不是图片</translation>
+    </message>
+    <message>
+        <source>there is no model &quot;%1&quot;</source>
+        <translation>没有模型“%1”</translation>
+    </message>
+    <message>
+        <source>expected &quot;%1&quot; in the model, which has &quot;%2&quot; there</source>
+        <translation>模型中此处应为“%1”，而实际为“%2”</translation>
+    </message>
+    <message>
+        <source>the model has no object &quot;%1&quot; at &quot;%2&quot;</source>
+        <translation>模型在“%2”处没有对象“%1”</translation>
+    </message>
+    <message>
+        <source>the numbers are too large</source>
+        <translation>数值过大</translation>
+    </message>
+    <message>
+        <source>the model has no surface &quot;%1&quot; there</source>
+        <translation>模型在此处没有表面“%1”</translation>
+    </message>
+    <message>
+        <source>%1: too large</source>
+        <translation>%1：过大</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::AboutBox</name>
+    <message>
+        <source>nbManipulator %1</source>
+        <translation>nbManipulator %1</translation>
+    </message>
+    <message>
+        <source>Qt %1 (built with %2)</source>
+        <translation>Qt %1（构建时为 %2）</translation>
+    </message>
+    <message>
+        <source>OpenGL: %1</source>
+        <translation>OpenGL：%1</translation>
+    </message>
+    <message>
+        <source>not started</source>
+        <translation>未启动</translation>
+    </message>
+    <message>
+        <source>Scene graph: bundled, interface of version %1.%2</source>
+        <translation>场景图：内置，接口版本 %1.%2</translation>
+    </message>
+    <message>
+        <source>Picking: %1</source>
+        <translation>拾取：%1</translation>
+    </message>
+    <message>
+        <source>Model files: %1</source>
+        <translation>模型文件：%1</translation>
+    </message>
+    <message>
+        <source>System: %1, %2</source>
+        <translation>系统：%1，%2</translation>
+    </message>
+    <message>
+        <source>About nbviewer</source>
+        <translation>关于 nbviewer</translation>
+    </message>
+    <message>
+        <source>Interactive manipulators for 3D scenes</source>
+        <translation>三维场景的交互式操纵器</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>复制(&amp;O)</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::Language</name>
+    <message>
+        <source>&amp;As the desktop</source>
+        <translation>跟随桌面(&amp;A)</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::LogPanel</name>
+    <message>
+        <source>Detail</source>
+        <translation>细节</translation>
+    </message>
+    <message>
+        <source>Everything</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>From notes on</source>
+        <translation>提示及以上</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Warnings and errors</source>
+        <translation>警告和错误</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Errors only</source>
+        <translation>仅错误</translation>
+    </message>
+    <message>
+        <source>Messages shown</source>
+        <translation>显示的消息</translation>
+    </message>
+    <message>
+        <source>Copy the messages selected, or all</source>
+        <translation>复制所选消息或全部消息</translation>
+    </message>
+    <message>
+        <source>Clear the messages</source>
+        <translation>清空消息</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>消息</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>级别</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>消息</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::MainWindow</name>
+    <message>
+        <source>Sessions (*.json)</source>
+        <translation>会话 (*.json)</translation>
+    </message>
+    <message>
+        <source>View of the scene</source>
+        <translation>场景视图</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>Save picture</source>
+        <translation>保存图片</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.jpg *.bmp)</source>
+        <translation>图片 (*.png *.jpg *.bmp)</translation>
+    </message>
+    <message>
+        <source>%1: cannot be written</source>
+        <translation>%1：无法写入</translation>
+    </message>
+    <message>
+        <source>%1: drop pictures on an object</source>
+        <translation>%1：请将图片拖放到对象上</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>正在录制</translation>
+    </message>
+    <message>
+        <source>Save session</source>
+        <translation>保存会话</translation>
+    </message>
+    <message>
+        <source>Replay session</source>
+        <translation>回放会话</translation>
+    </message>
+    <message>
+        <source>%1: a scene can only be opened by itself</source>
+        <translation>%1：场景只能单独打开</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::MaterialPanel</name>
+    <message>
+        <source>Place</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Turn, °</source>
+        <translation>旋转，°</translation>
+    </message>
+    <message>
+        <source>Half size</source>
+        <translation>半尺寸</translation>
+    </message>
+    <message>
+        <source>Offset</source>
+        <translation>偏移</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>重复</translation>
+    </message>
+    <message>
+        <source>Offset across</source>
+        <translation>横向偏移</translation>
+    </message>
+    <message>
+        <source>Offset upwards</source>
+        <translation>纵向偏移</translation>
+    </message>
+    <message>
+        <source>Repeat across</source>
+        <translation>横向重复</translation>
+    </message>
+    <message>
+        <source>Repeat upwards</source>
+        <translation>纵向重复</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>中心</translation>
+    </message>
+    <message>
+        <source>Width of tread</source>
+        <translation>胎面宽度</translation>
+    </message>
+    <message>
+        <source>Radius</source>
+        <translation>半径</translation>
+    </message>
+    <message>
+        <source>Part around</source>
+        <translation>周向比例</translation>
+    </message>
+    <message>
+        <source>No picture</source>
+        <translation>无图片</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>颜色</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>不透明度</translation>
+    </message>
+    <message>
+        <source>Component</source>
+        <translation>分量</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>选择…</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>图片</translation>
+    </message>
+    <message>
+        <source>From one side</source>
+        <translation>从一面</translation>
+    </message>
+    <message>
+        <source>Texture coordinates</source>
+        <translation>纹理坐标</translation>
+    </message>
+    <message>
+        <source>From three sides</source>
+        <translation>从三面</translation>
+    </message>
+    <message>
+        <source>Around a tire</source>
+        <translation>环绕轮胎</translation>
+    </message>
+    <message>
+        <source>Projection</source>
+        <translation>投影</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>移动</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>转动</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>缩放</translation>
+    </message>
+    <message>
+        <source>Turn + scale</source>
+        <translation>转动 + 缩放</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>By click</source>
+        <translation>点击</translation>
+    </message>
+    <message>
+        <source>Clicks on the object place the picture, or its handles</source>
+        <translation>点击对象可放置图片或其手柄</translation>
+    </message>
+    <message>
+        <source>Placing</source>
+        <translation>放置</translation>
+    </message>
+    <message>
+        <source>Handle size</source>
+        <translation>手柄大小</translation>
+    </message>
+    <message>
+        <source>Keep aspect</source>
+        <translation>保持宽高比</translation>
+    </message>
+    <message>
+        <source>Turn rings seen edge-on</source>
+        <translation>可转动侧视圆环</translation>
+    </message>
+    <message>
+        <source>Fit to the object</source>
+        <translation>适合对象</translation>
+    </message>
+    <message>
+        <source>End in depth</source>
+        <translation>限制深度</translation>
+    </message>
+    <message>
+        <source>Picture is a mask</source>
+        <translation>图片作为遮罩</translation>
+    </message>
+    <message>
+        <source>Invert</source>
+        <translation>反转</translation>
+    </message>
+    <message>
+        <source>Show projection</source>
+        <translation>显示投影</translation>
+    </message>
+    <message>
+        <source>Show its depth</source>
+        <translation>显示其深度</translation>
+    </message>
+    <message>
+        <source>How far one sees through the shown projection</source>
+        <translation>所示投影的透明程度</translation>
+    </message>
+    <message>
+        <source>Transparency</source>
+        <translation>透明度</translation>
+    </message>
+    <message>
+        <source>Choose picture</source>
+        <translation>选择图片</translation>
+    </message>
+    <message>
+        <source>On &quot;%1&quot;</source>
+        <translation>位于“%1”</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::ObjectPanel</name>
+    <message>
+        <source>Translation</source>
+        <translation>平移</translation>
+    </message>
+    <message>
+        <source>Rotation, °</source>
+        <translation>旋转，°</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>缩放</translation>
+    </message>
+    <message>
+        <source>Rotate pivot</source>
+        <translation>旋转枢轴</translation>
+    </message>
+    <message>
+        <source>Scale pivot</source>
+        <translation>缩放枢轴</translation>
+    </message>
+    <message>
+        <source>Visible</source>
+        <translation>可见</translation>
+    </message>
+    <message>
+        <source>Locked</source>
+        <translation>锁定</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Z</source>
+        <translation>Z</translation>
+    </message>
+    <message>
+        <source>Nothing selected</source>
+        <translation>未选择</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::PanelDocks</name>
+    <message>
+        <source>As opened</source>
+        <translation>打开时</translation>
+    </message>
+    <message>
+        <source>Steps</source>
+        <translation>步骤</translation>
+    </message>
+    <message>
+        <source>Objects</source>
+        <translation>对象</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>Material</source>
+        <translation>材质</translation>
+    </message>
+    <message>
+        <source>Perspective match</source>
+        <translation>透视匹配</translation>
+    </message>
+    <message>
+        <source>Scene plates</source>
+        <translation>场景板</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>消息</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::PerspectiveMatchPanel</name>
+    <message>
+        <source>Match mode</source>
+        <translation>匹配模式</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>线</translation>
+    </message>
+    <message>
+        <source>Camera locked</source>
+        <translation>相机锁定</translation>
+    </message>
+    <message>
+        <source>Lines used</source>
+        <translation>使用的线</translation>
+    </message>
+    <message>
+        <source>X, Y and Z</source>
+        <translation>X、Y 和 Z</translation>
+    </message>
+    <message>
+        <source>X and Y</source>
+        <translation>X 和 Y</translation>
+    </message>
+    <message>
+        <source>X and Z</source>
+        <translation>X 和 Z</translation>
+    </message>
+    <message>
+        <source>Y and Z</source>
+        <translation>Y 和 Z</translation>
+    </message>
+    <message>
+        <source>Field of view</source>
+        <translation>视场</translation>
+    </message>
+    <message>
+        <source>From the lines</source>
+        <translation>由线确定</translation>
+    </message>
+    <message>
+        <source>Fixed</source>
+        <translation>固定</translation>
+    </message>
+    <message>
+        <source>Lay lines as seen</source>
+        <translation>按所见放置线</translation>
+    </message>
+    <message>
+        <source>Turn camera</source>
+        <translation>转动相机</translation>
+    </message>
+    <message>
+        <source>Photograph</source>
+        <translation>照片</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>打开…</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+    <message>
+        <source>Over the models</source>
+        <translation>覆盖模型</translation>
+    </message>
+    <message>
+        <source>Magnifier</source>
+        <translation>放大镜</translation>
+    </message>
+    <message>
+        <source>Line %1, start, across</source>
+        <translation>线 %1，起点，横向</translation>
+    </message>
+    <message>
+        <source>Line %1, start, up</source>
+        <translation>线 %1，起点，纵向</translation>
+    </message>
+    <message>
+        <source>Line %1, end, across</source>
+        <translation>线 %1，终点，横向</translation>
+    </message>
+    <message>
+        <source>Line %1, end, up</source>
+        <translation>线 %1，终点，纵向</translation>
+    </message>
+    <message>
+        <source>Open photograph</source>
+        <translation>打开照片</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>%1 Field of view %2°.</source>
+        <comment>sentence, number</comment>
+        <translation>%1视场 %2°。</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::PlatesPanel</name>
+    <message>
+        <source>Top left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>中</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>下</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>右下</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>编辑</translation>
+    </message>
+    <message>
+        <source>Select and edit plates in the view</source>
+        <translation>在视图中选择和编辑场景板</translation>
+    </message>
+    <message>
+        <source>Picture…</source>
+        <translation>图片…</translation>
+    </message>
+    <message>
+        <source>Add a picture from a file</source>
+        <translation>从文件添加图片</translation>
+    </message>
+    <message>
+        <source>Colour…</source>
+        <translation>颜色…</translation>
+    </message>
+    <message>
+        <source>Add a plate of plain colour</source>
+        <translation>添加纯色场景板</translation>
+    </message>
+    <message>
+        <source>Bring forward</source>
+        <translation>前移一层</translation>
+    </message>
+    <message>
+        <source>Send backward</source>
+        <translation>后移一层</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Scene plates, the foremost first</source>
+        <translation>场景板，最前面的在先</translation>
+    </message>
+    <message>
+        <source>In front of the scene</source>
+        <translation>场景之前</translation>
+    </message>
+    <message>
+        <source>Behind the scene</source>
+        <translation>场景之后</translation>
+    </message>
+    <message>
+        <source>Lies</source>
+        <translation>所在</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>不透明度</translation>
+    </message>
+    <message>
+        <source>The place of the window that the plate follows</source>
+        <translation>场景板跟随的窗口位置</translation>
+    </message>
+    <message>
+        <source>Anchor</source>
+        <translation>锚点</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>宽度</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>高度</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>缩放</translation>
+    </message>
+    <message>
+        <source>Rotation, °</source>
+        <translation>旋转，°</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>旋转</translation>
+    </message>
+    <message>
+        <source>Snap to edges and centre</source>
+        <translation>吸附到边缘和中心</translation>
+    </message>
+    <message>
+        <source>New text</source>
+        <translation>新文字</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>标题</translation>
+    </message>
+    <message>
+        <source>Height of a line, of the view&apos;s</source>
+        <translation>行高占视图高度的比例</translation>
+    </message>
+    <message>
+        <source>Bold</source>
+        <translation>粗体</translation>
+    </message>
+    <message>
+        <source>Colour of the text</source>
+        <translation>文字颜色</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>添加</translation>
+    </message>
+    <message>
+        <source>Add the text as a plate</source>
+        <translation>将文字添加为场景板</translation>
+    </message>
+    <message>
+        <source>Add picture</source>
+        <translation>添加图片</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::SceneFileActions</name>
+    <message>
+        <source>Scenes (*.nbscene)</source>
+        <translation>场景 (*.nbscene)</translation>
+    </message>
+    <message>
+        <source>Open scene</source>
+        <translation>打开场景</translation>
+    </message>
+    <message>
+        <source>Save scene</source>
+        <translation>保存场景</translation>
+    </message>
+    <message>
+        <source>The scene</source>
+        <translation>场景</translation>
+    </message>
+    <message>
+        <source>%1 has been edited. Save it?</source>
+        <translation>%1已被编辑。要保存吗？</translation>
+    </message>
+    <message>
+        <source>Edits that are not saved will be lost.</source>
+        <translation>未保存的编辑将会丢失。</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::ScenePanel</name>
+    <message>
+        <source>Objects of the scene</source>
+        <translation>场景中的对象</translation>
+    </message>
+    <message>
+        <source>(no name)</source>
+        <translation>（无名称）</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::StatusLine</name>
+    <message>
+        <source>Nothing selected</source>
+        <translation>未选择</translation>
+    </message>
+    <message numerus="yes">
+        <source>Selected: %1 and %n more</source>
+        <translation>
+            <numerusform>已选：%1 及另外 %n 个</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Selected: %1</source>
+        <translation>已选：%1</translation>
+    </message>
+    <message>
+        <source>Handle: %1</source>
+        <translation>手柄：%1</translation>
+    </message>
+    <message>
+        <source>Under the pointer: %1</source>
+        <translation>指针所指：%1</translation>
+    </message>
+    <message>
+        <source>Progress of loading</source>
+        <translation>加载进度</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Stop loading</source>
+        <translation>停止加载</translation>
+    </message>
+    <message>
+        <source>Stop loading (Esc); the scene stays as it is</source>
+        <translation>停止加载 (Esc)；场景保持不变</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln triangles</source>
+        <translation>
+            <numerusform>%Ln 个三角形</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Reading %1: %p%</source>
+        <comment>%p is the number</comment>
+        <translation>正在读取 %1：%p%</translation>
+    </message>
+    <message>
+        <source>Preparing %1: %p%</source>
+        <comment>%p is the number</comment>
+        <translation>正在准备 %1：%p%</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::StepsPanel</name>
+    <message>
+        <source>Step of translation</source>
+        <translation>平移步长</translation>
+    </message>
+    <message>
+        <source>Step of rotation, °</source>
+        <translation>旋转步长，°</translation>
+    </message>
+    <message>
+        <source>Step of scale</source>
+        <translation>缩放步长</translation>
+    </message>
+    <message>
+        <source>Size of the gizmo</source>
+        <translation>操纵器大小</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::ToolBars</name>
+    <message>
+        <source>Files and steps</source>
+        <translation>文件和步骤</translation>
+    </message>
+    <message>
+        <source>Handles</source>
+        <translation>手柄</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>相机</translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <translation>会话</translation>
+    </message>
+    <message>
+        <source>Manipulators</source>
+        <translation>操纵器</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::ViewWidget</name>
+    <message>
+        <source>the view cannot be drawn: %1</source>
+        <translation>无法绘制视图：%1</translation>
+    </message>
+    <message>
+        <source>%1 ms, %2 draw calls, %L3 triangles</source>
+        <translation>%1 毫秒，%2 次绘制调用，%L3 个三角形</translation>
+    </message>
+    <message>
+        <source>%1 ms, %2 draw calls, %L3 triangles, scene image reused</source>
+        <translation>%1 毫秒，%2 次绘制调用，%L3 个三角形，复用场景图像</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::WindowActions</name>
+    <message>
+        <source>&amp;Front</source>
+        <translation>前(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>后(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Right</source>
+        <translation>右(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Left</source>
+        <translation>左(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Top</source>
+        <translation>上(&amp;T)</translation>
+    </message>
+    <message>
+        <source>B&amp;ottom</source>
+        <translation>下(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Three-&amp;quarter</source>
+        <translation>四分之三(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>As the &amp;desktop</source>
+        <translation>跟随桌面(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>浅色(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Dar&amp;k</source>
+        <translation>深色(&amp;K)</translation>
+    </message>
+    <message>
+        <source>&amp;None</source>
+        <translation>无(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Translate</source>
+        <translation>平移(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Rotate</source>
+        <translation>旋转(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Scale</source>
+        <translation>缩放(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Universal</source>
+        <translation>通用(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Translate, r&amp;otate</source>
+        <translation>平移、旋转(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Translate, rotate, s&amp;cale</source>
+        <translation>平移、旋转、缩放(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Translate, rotate about &amp;y and z</source>
+        <translation>平移、绕 Y 和 Z 旋转(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Rotate &amp;pivot</source>
+        <translation>旋转枢轴(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Sca&amp;le pivot</source>
+        <translation>缩放枢轴(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Clip plan&amp;e</source>
+        <translation>裁剪平面(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Ca&amp;mera pivot</source>
+        <translation>相机枢轴(&amp;M)</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>tip, shortcut</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>文件(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>打开(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>&amp;Add…</source>
+        <translation>添加(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>Open &amp;recent</source>
+        <translation>最近打开的文件(&amp;R)</translation>
+    </message>
+    <message>
+        <source>S&amp;tart scene</source>
+        <translation>起始场景(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>退出(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>编辑(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>撤销(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>重做(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Select &amp;all</source>
+        <translation>全选(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Select &amp;nothing</source>
+        <translation>取消选择(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>视图(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Frame &amp;all</source>
+        <translation>显示全部(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Frame &amp;selection</source>
+        <translation>显示所选(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Look &amp;from</source>
+        <translation>视角(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Look from a side</source>
+        <translation>从某一侧观察</translation>
+    </message>
+    <message>
+        <source>Ort&amp;hographic</source>
+        <translation>正交投影(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Z is up</source>
+        <translation>Z 轴向上(&amp;Z)</translation>
+    </message>
+    <message>
+        <source>&amp;Panels</source>
+        <translation>面板(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Show &amp;effect buffer</source>
+        <translation>显示效果缓冲(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Theme</source>
+        <translation>主题(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Lan&amp;guage</source>
+        <translation>语言 Language(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Ne&amp;xt panel</source>
+        <translation>下一个面板(&amp;X)</translation>
+    </message>
+    <message>
+        <source>F&amp;ull screen</source>
+        <translation>全屏(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Manipulator</source>
+        <translation>操纵器(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Add cl&amp;ip plane</source>
+        <translation>添加裁剪平面(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve clip plane</source>
+        <translation>移除裁剪平面(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Match a p&amp;hotograph</source>
+        <translation>匹配照片(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Edit scene pl&amp;ates</source>
+        <translation>编辑场景板(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete scene plates</source>
+        <translation>删除场景板(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Edit pictures on o&amp;bjects</source>
+        <translation>编辑对象上的图片(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Axes o&amp;f the object</source>
+        <translation>对象坐标轴(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Snappin&amp;g</source>
+        <translation>吸附(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Pivot bac&amp;k to the centre</source>
+        <translation>枢轴回到中心(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Axes of the object instead of the world&apos;s</source>
+        <translation>使用对象坐标轴而非世界坐标轴</translation>
+    </message>
+    <message>
+        <source>Advance in steps; hold Ctrl for a while</source>
+        <translation>按步长移动；按住 Ctrl 可临时切换</translation>
+    </message>
+    <message>
+        <source>Steps and si&amp;ze</source>
+        <translation>步长和大小(&amp;Z)</translation>
+    </message>
+    <message>
+        <source>Steps of snapping, size of the gizmo</source>
+        <translation>吸附步长、操纵器大小</translation>
+    </message>
+    <message>
+        <source>&amp;Session</source>
+        <translation>会话(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Record</source>
+        <translation>录制(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Add &amp;checkpoint</source>
+        <translation>添加检查点(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Re&amp;play…</source>
+        <translation>回放(&amp;P)…</translation>
+    </message>
+    <message>
+        <source>&amp;Stop replay</source>
+        <translation>停止回放(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;About nbviewer…</source>
+        <translation>关于 nbviewer(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>&amp;Undo %1</source>
+        <translation>撤销 %1(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo %1</source>
+        <translation>重做 %1(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Frame stat&amp;istics</source>
+        <translation>帧统计(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Open s&amp;cene…</source>
+        <translation>打开场景(&amp;C)…</translation>
+    </message>
+    <message>
+        <source>&amp;Save scene</source>
+        <translation>保存场景(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Save sc&amp;ene as…</source>
+        <translation>场景另存为(&amp;E)…</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve picture…</source>
+        <translation>保存图片(&amp;P)…</translation>
+    </message>
+</context>
+</TS>
