@@ -2,35 +2,44 @@
 # SPDX-License-Identifier: MIT
 """Prints one table of what the benchmarks measured, beside aims and the plain ways to the same ends.
 
+Of repeated runs it shows the least and the median. Aims and ratios go by the least: what else a
+machine does only adds.
+
 usage: summary.py AIMS RESULT.json...   RESULT: what --benchmark_out wrote
 """
 
 import json
 import re
+import statistics
 import sys
 
 NANOSECONDS = {"ns": 1.0, "us": 1e3, "ms": 1e6, "s": 1e9}
 
 
 class Figure:
-    """What one benchmark measured: nanoseconds a run, and for one of its items, or bytes."""
+    """What one benchmark measured: nanoseconds of each run, for one of its items too, and bytes."""
 
-    def __init__(self, run):
-        own_clock = re.search("/(real|manual)_time", run["run_name"])
-        time = run["real_time"] if own_clock else run["cpu_time"]
-        self.run = time * NANOSECONDS[run["time_unit"]]
-        self.each = 1e9 / run["items_per_second"] if "items_per_second" in run else None
+    def __init__(self):
+        self.runs = []
+        self.each = []
+        self.bytes = None
+
+    def add(self, run):
+        wall = "/real_time" in run["run_name"] or "/manual_time" in run["run_name"]
+        self.runs.append(run["real_time" if wall else "cpu_time"] * NANOSECONDS[run["time_unit"]])
+        if "items_per_second" in run:
+            self.each.append(1e9 / run["items_per_second"])
         self.bytes = run.get("bytes_each")
 
-    def of_kind(self, kind):
+    def of_kind(self, kind, choose=min):
         """The value that an aim of a kind is for."""
         if self.bytes is not None:
             return self.bytes
-        return self.each if kind == "each" and self.each is not None else self.run
+        return choose(self.each if kind == "each" and self.each else self.runs)
 
 
 def read_figures(paths):
-    """Figures by benchmark: the median where a run was repeated."""
+    """Figures by benchmark."""
     figures = {}
     for path in paths:
         with open(path, encoding="utf-8") as file:
@@ -39,8 +48,8 @@ def read_figures(paths):
             name = re.sub(r"/(iterations|repeats|min_time):[^/]*", "", run["run_name"])
             if run.get("error_occurred"):
                 sys.exit(f"{name}: {run['error_message']}")
-            if run.get("aggregate_name") == "median" or name not in figures:
-                figures[name] = Figure(run)
+            if run["run_type"] == "iteration":
+                figures.setdefault(name, Figure()).add(run)
     return figures
 
 
@@ -87,6 +96,7 @@ def row_of(figures, name, aim, plain, ratio_aim):
         ratio is not None and ratio_aim is not None and ratio > ratio_aim)
     return [name + (" (each)" if kind == "each" else ""),
             shown(value, is_bytes),
+            "" if is_bytes else shown(figure.of_kind(kind, statistics.median), False),
             shown(aim[0], is_bytes) if aim else "",
             shown(beside, is_bytes) if beside else "",
             f"{ratio:.2f}" if ratio else "",
@@ -98,7 +108,7 @@ def main():
     if len(sys.argv) < 3:
         sys.exit(__doc__.strip())
     figures = read_figures(sys.argv[2:])
-    table = [["benchmark", "value", "aim", "plainly", "ratio", "aim", ""]]
+    table = [["benchmark", "least", "median", "aim", "plainly", "ratio", "aim", ""]]
     table += [row_of(figures, *row) for row in read_aims(sys.argv[1]) if row[0] in figures]
     widths = [max(len(row[i]) for row in table) for i in range(len(table[0]))]
     for row in table:
