@@ -56,8 +56,7 @@ bool isFinitePosition(const osg::Pnt2f& position)
 osg::Pnt2f nearPosition(const osg::Pnt2f& position)
 {
     constexpr float kLimit = 1e6f;
-    return { std::clamp(position.x(), -kLimit, kLimit),
-             std::clamp(position.y(), -kLimit, kLimit) };
+    return { std::clamp(position.x(), -kLimit, kLimit), std::clamp(position.y(), -kLimit, kLimit) };
 }
 
 /// Whole pixel that a position lies in.

@@ -37,8 +37,8 @@ public:
     /// more. Count 0.
     virtual FieldContainerPtr shallowCopy() const = 0;
 
-    /// Called when an edit ends, with the mask of the fields that the edit names. Overrides end with
-    /// Inherited::changed.
+    /// Called when an edit ends, with the mask of the fields that the edit names. Overrides end
+    /// with Inherited::changed.
     virtual void changed(BitVector /*whichField*/, UInt32 /*origin*/) { }
 
     /// See FieldContainerPtr.
