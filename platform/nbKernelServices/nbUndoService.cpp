@@ -13,14 +13,15 @@
 
 namespace {
 
-/// Whether edits are being made to restore a state, and how often that has been done.
+/// Whether the service itself is editing, and how often it has restored a state.
 struct RestoreState
 {
     bool isActive = false;
     osg::UInt64 count = 0;
 };
 
-/// Time in which edits restore a state.
+/// Time in which edits are the service's own. Those who are told of them may edit in turn: that is
+/// not recorded and ends no step.
 class Restoring
 {
 public:
@@ -28,7 +29,6 @@ public:
         : state(wanted)
     {
         state.isActive = true;
-        ++state.count;
     }
 
     ~Restoring() { state.isActive = false; }
@@ -53,6 +53,7 @@ public:
     void undo() override
     {
         const Restoring restoring(restoreState);
+        ++restoreState.count;
         undoAll(records);
         isDone = false;
     }
@@ -63,6 +64,7 @@ public:
             return;
         }
         const Restoring restoring(restoreState);
+        ++restoreState.count;
         redoAll(records);
         isDone = true;
     }
@@ -97,6 +99,8 @@ struct nbUndoService::Internals final : public nbEditRecorder
     osg::UInt64 groupChanges = 0;
     /// Asked for while a scope is open.
     GroupEnd pendingEnd = GroupEnd::None;
+    /// Asked for while the service itself was editing.
+    bool isClearPending = false;
 
     bool isIdle() const { return openScopes == 0 && !isGroupOpen && !restoreState.isActive; }
 
@@ -127,11 +131,18 @@ struct nbUndoService::Internals final : public nbEditRecorder
 
     void finishStep();
     void finishGroup(GroupEnd end);
+    void clear();
+    void clearIfPending();
 };
 
 void nbUndoService::Internals::finishStep()
 {
-    StepRecords records = step.close();
+    StepRecords records;
+    {
+        // What was led back but for rounding is put right now.
+        const Restoring restoring(restoreState);
+        records = step.close();
+    }
     const bool isStep = std::any_of(records.begin(), records.end(),
                                     [](const auto& record) { return record->isStepAlone(); });
     std::move(records.begin(), records.end(), std::back_inserter(waiting));
@@ -139,11 +150,12 @@ void nbUndoService::Internals::finishStep()
         stack.push(new StepCommand(step.getTitle(), std::exchange(waiting, {}), restoreState));
     }
     step.clear();
+    clearIfPending();
 }
 
 void nbUndoService::Internals::finishGroup(GroupEnd end)
 {
-    if (!isGroupOpen) {
+    if (!isGroupOpen || restoreState.isActive) {
         return;
     }
     if (openScopes > 0) {
@@ -159,9 +171,29 @@ void nbUndoService::Internals::finishGroup(GroupEnd end)
     }
     if (!step.isEmpty()) {
         const Restoring restoring(restoreState);
+        ++restoreState.count;
         step.cancel();
     }
     step.clear();
+    clearIfPending();
+}
+
+void nbUndoService::Internals::clear()
+{
+    isClearPending = false;
+    isGroupOpen = false;
+    ++groupChanges;
+    pendingEnd = GroupEnd::None;
+    step.clear();
+    waiting.clear();
+    stack.clear();
+}
+
+void nbUndoService::Internals::clearIfPending()
+{
+    if (isClearPending) {
+        clear();
+    }
 }
 
 nbUndoService* nbUndoService::the()
@@ -194,6 +226,7 @@ bool nbUndoService::undo()
         return false;
     }
     internals->stack.undo();
+    internals->clearIfPending();
     return true;
 }
 
@@ -203,17 +236,17 @@ bool nbUndoService::redo()
         return false;
     }
     internals->stack.redo();
+    internals->clearIfPending();
     return true;
 }
 
 void nbUndoService::clear()
 {
-    internals->isGroupOpen = false;
-    ++internals->groupChanges;
-    internals->pendingEnd = GroupEnd::None;
-    internals->step.clear();
-    internals->waiting.clear();
-    internals->stack.clear();
+    if (internals->restoreState.isActive) {
+        internals->isClearPending = true;
+    } else {
+        internals->clear();
+    }
 }
 
 osg::UInt64 nbUndoService::getRestoreCount() const
@@ -225,6 +258,9 @@ osg::UInt64 nbUndoService::getRestoreCount() const
 
 void nbUndoService::beginGroup(const QString& title)
 {
+    if (internals->restoreState.isActive) {
+        return;
+    }
     internals->finishGroup(GroupEnd::Keep);
     internals->isGroupOpen = true;
     ++internals->groupChanges;
@@ -306,7 +342,7 @@ void nbUndoService::closeScope(bool wasRecorded)
         --internals->mutedScopes;
     }
     --internals->openScopes;
-    if (internals->openScopes > 0) {
+    if (internals->openScopes > 0 || internals->restoreState.isActive) {
         return;
     }
     if (!internals->isGroupOpen) {

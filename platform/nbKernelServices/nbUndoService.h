@@ -25,6 +25,9 @@ class TransformTable;
 /// no copies. Undo restores the fields bit for bit. What was destroyed in the meantime is passed
 /// over. Conversions of nodes by nbNodeUtils outside of every scope join the next step.
 ///
+/// Those who are told of a change while a state is being restored may edit, open scopes and destroy
+/// things: their edits are not recorded, a group cannot be opened then, and clear waits.
+///
 /// Belongs to the user-interface thread. Never throws.
 class NB_PLATFORM_API nbUndoService
 {

@@ -72,7 +72,8 @@ nbdCameraNode cameraNode(const osg::UberCameraPtr& camera)
     return nbdCameraNode(camera->getInternalParentNode().getFieldContainerId());
 }
 
-/// Sets eye, centre, up and field of view, and nothing else.
+/// Sets eye, centre, up and field of view, and nothing else. The camera may be gone afterwards:
+/// those who are told may have destroyed it.
 void place(const osg::UberCameraPtr& camera, const CameraPose& pose)
 {
     const CameraPose before = camera->getPose();
@@ -87,11 +88,13 @@ void place(const osg::UberCameraPtr& camera, const CameraPose& pose)
     if (!camera->setPose(after)) {
         return;
     }
+    // Whoever is told may destroy the camera.
+    const nbdCameraNode node = cameraNode(camera);
     if (!isOrientationSame(before, after)) {
-        nbObjectService::notify(cameraNode(camera), "orientation");
+        nbObjectService::notify(node, "orientation");
     }
-    if (before.fovDeg != after.fovDeg) {
-        nbObjectService::notify(cameraNode(camera), "fov");
+    if (before.fovDeg != after.fovDeg && !node.isNull()) {
+        nbObjectService::notify(node, "fov");
     }
 }
 
@@ -111,15 +114,14 @@ public:
     /// edit of a line makes exactly one. A group leaves none then.
     bool close() override
     {
+        if (isGrouped) {
+            takeRoundingBack();
+        }
         const osg::UberCameraPtr camera = nbUberCameraPool::get(cameraId);
         if (camera == osg::NullFC) {
             return false;
         }
-        MatchState& state = MatchTable::of(camera);
-        if (isGrouped && stateBefore.isSameInSinglePrecision(state)) {
-            takeRoundingBack(camera, state);
-        }
-        stateAfter = state;
+        stateAfter = MatchTable::of(camera);
         isStateChanged = !stateBefore.isSame(stateAfter);
         poseAfter = camera->getPose();
         isPlaceChanged = !isPlaceSame(poseBefore, poseAfter);
@@ -132,8 +134,16 @@ public:
 
 private:
     /// After a drag that led the lines back to where they were.
-    void takeRoundingBack(const osg::UberCameraPtr& camera, MatchState& state) const
+    void takeRoundingBack() const
     {
+        const osg::UberCameraPtr camera = nbUberCameraPool::get(cameraId);
+        if (camera == osg::NullFC) {
+            return;
+        }
+        MatchState& state = MatchTable::of(camera);
+        if (!stateBefore.isSameInSinglePrecision(state)) {
+            return;
+        }
         state.lines = stateBefore.lines;
         if (isPlaceNearlySame(poseBefore, camera->getPose())) {
             place(camera, poseBefore);
@@ -142,21 +152,34 @@ private:
 
     void restore(const MatchState& state, const CameraPose& pose) const
     {
+        if (isPlaceChanged) {
+            restorePlace(pose);
+        }
+        if (isStateChanged) {
+            restoreState(state);
+        }
+    }
+
+    void restorePlace(const CameraPose& pose) const
+    {
+        const osg::UberCameraPtr camera = nbUberCameraPool::get(cameraId);
+        if (camera != osg::NullFC) {
+            place(camera, pose);
+        }
+    }
+
+    void restoreState(const MatchState& state) const
+    {
         const osg::UberCameraPtr camera = nbUberCameraPool::get(cameraId);
         if (camera == osg::NullFC) {
             return;
         }
-        if (isPlaceChanged) {
-            place(camera, pose);
-        }
-        if (isStateChanged) {
-            MatchState& current = MatchTable::of(camera);
-            const MatchState replaced = current;
-            current = state;
-            // The view may have got another shape since.
-            const MatchState restored = MatchTable::of(camera);
-            announce(cameraNode(camera), replaced, restored);
-        }
+        MatchState& current = MatchTable::of(camera);
+        const MatchState replaced = current;
+        current = state;
+        // The view may have got another shape since.
+        const MatchState restored = MatchTable::of(camera);
+        announce(cameraNode(camera), replaced, restored);
     }
 
     osg::UInt32 cameraId;

@@ -23,9 +23,11 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <functional>
 #include <limits>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 using testing::ElementsAre;
@@ -70,6 +72,9 @@ protected:
                          [this](const nbdObject& object, const QByteArray& property) {
                              changes.push_back((nbdCameraNode(object) ? "camera " : "match ") +
                                                property.toStdString());
+                             if (answer) {
+                                 std::exchange(answer, nullptr)();
+                             }
                          });
     }
 
@@ -107,6 +112,8 @@ protected:
     CameraPose photographed;
     QObject listener;
     std::vector<std::string> changes;
+    /// What is done when the next change is told.
+    std::function<void()> answer;
 };
 
 TEST_F(nbdPerspectiveMatchTest, HandlesReferToLivingThings)
@@ -229,6 +236,44 @@ TEST_F(nbdPerspectiveMatchTest, AGroupIsOneStepOrNoneAndCanBeTakenBack)
     undo->cancelGroup();
     EXPECT_TRUE(isSamePlace(camera->getPose(), startPose));
     EXPECT_TRUE(isSameLine(match.getXLine1(), startLine));
+}
+
+// Found by fuzzing: a camera that a listener destroys is told of no more.
+TEST_F(nbdPerspectiveMatchTest, AListenerMayDestroyTheCamera)
+{
+    stepAside();
+    dragLine(0.001);
+    ASSERT_EQ(changes.back(), "camera fov");
+    changes.clear();
+    answer = [this] { widget.reset(); };
+
+    EXPECT_TRUE(undo->undo());
+    EXPECT_EQ(changes, std::vector<std::string> { "camera orientation" });
+    EXPECT_TRUE(node.isNull());
+    EXPECT_TRUE(undo->redo());
+}
+
+// Such answers must not end the step that is being taken back, nor destroy it.
+TEST_F(nbdPerspectiveMatchTest, AListenerMayEditAndClearWhileAStepIsTakenBack)
+{
+    stepAside();
+    const QLineF line = match.getXLine1();
+    dragLine(0.01);
+    undo->beginGroup();
+    dragLine(0.05);
+    answer = [this] {
+        const nbScopedUndo scope(true);
+        match.setMagnifyFactor(match.getMagnifyFactor() + 1.f);
+        undo->beginGroup("Answer");
+    };
+    undo->cancelGroup();
+    EXPECT_FALSE(undo->isGroupOpen());
+    EXPECT_EQ(undo->getStack()->count(), 1);
+
+    answer = [this] { undo->clear(); };
+    EXPECT_TRUE(undo->undo());
+    EXPECT_TRUE(isSameLine(match.getXLine1(), line));
+    EXPECT_EQ(undo->getStack()->count(), 0);
 }
 
 TEST_F(nbdPerspectiveMatchTest, LinesStayInPlaceOrWithTheMiddleWhenTheViewChangesItsShape)
