@@ -10,7 +10,7 @@ namespace {
 using nbec::manipulator::TireProjectionManipulator;
 using nbec::manipulator::TriplanarTextureManipulator;
 using nbec::manipulator::UVTextureManipulator;
-using nbec::manipulator::test::AnchoredTraits;
+using nbec::manipulator::test::kAnchoredTraits;
 using osg::ColorComponentSettings;
 namespace bench = nbec::manipulator::bench;
 
@@ -19,7 +19,7 @@ template <class Gizmo>
 struct Stage : bench::TextureStage<Gizmo>
 {
     Stage()
-        : bench::TextureStage<Gizmo>(AnchoredTraits<Gizmo>::kChanged, AnchoredTraits<Gizmo>::kType,
+        : bench::TextureStage<Gizmo>(kAnchoredTraits<Gizmo>.changed, kAnchoredTraits<Gizmo>.type,
                                      [](Gizmo& bound, const osg::NodePtr& box) {
                                          bound.setAnchor(box, osg::Pnt3f(0, 0, 0));
                                          bound.activateUniversalManipulator();

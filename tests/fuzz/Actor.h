@@ -26,18 +26,12 @@ public:
     virtual bool isActive() const = 0;
 };
 
-// The makers of actors; each joins the stage, which outlives it.
-std::unique_ptr<Actor> makeTransformActor(Stage& stage);
-std::unique_ptr<Actor> makeCameraActor(Stage& stage);
-std::unique_ptr<Actor> makePlanarActor(Stage& stage);
-std::unique_ptr<Actor> makeTriplanarActor(Stage& stage);
-std::unique_ptr<Actor> makeUVActor(Stage& stage);
-std::unique_ptr<Actor> makeTireActor(Stage& stage);
-std::unique_ptr<Actor> makeMatchActor(Stage& stage);
-std::unique_ptr<Actor> makePlateActor(Stage& stage);
-std::unique_ptr<Actor> makePlatePickActor(Stage& stage);
-std::unique_ptr<Actor> makePlacementActor(Stage& stage);
-std::unique_ptr<Actor> makeProjectionActor(Stage& stage);
-std::unique_ptr<Actor> makeMessageActor(Stage& stage);
+/// Makes an actor that joins the stage, which outlives it.
+using ActorMaker = std::unique_ptr<Actor>(Stage& stage);
+
+ActorMaker makeTransformActor, makeCameraActor;
+ActorMaker makePlanarActor, makeTriplanarActor, makeUVActor, makeTireActor;
+ActorMaker makeMatchActor, makePlateActor, makePlatePickActor, makePlacementActor;
+ActorMaker makeProjectionActor, makeMessageActor;
 
 }  // namespace nbec::manipulator::test

@@ -28,61 +28,25 @@ using UV = UVTextureManipulator;
 using Tire = TireProjectionManipulator;
 
 /// What the manipulators differ in here.
-/// @tparam Edited  the loss of what a drag cannot go on without
-template <Fault Edited>
-struct Needs
+struct Traits
 {
-    static constexpr Fault kEdited = Edited;
-    static constexpr std::size_t kMaterial = 0;
-    static constexpr const char* kMessage = "";
+    Fault edited;  ///< the loss of what a drag cannot go on without
+    const char* message;  ///< of a step; empty if there is none
+    std::size_t material = 0;
 };
 
-template <class Gizmo>
-struct Traits;
+// clang-format off
+template <class Gizmo> constexpr Traits kTraits {};
+template <> constexpr Traits kTraits<Transform> { Fault::DropNode, "nbTransform::changedTransformation" };
+template <> constexpr Traits kTraits<Planar> { Fault::DropNode, "editor::changedPlanarManipulator" };
+template <> constexpr Traits kTraits<Triplanar> { Fault::DropMaterial, "editor::changedTriplanarManipulator", 1 };
+template <> constexpr Traits kTraits<UV> { Fault::DropMaterial, "editor::changedUVManipulator", 1 };
+template <> constexpr Traits kTraits<Tire> { Fault::DropMaterial, "editor::changedTireManipulator", 2 };
+template <> constexpr Traits kTraits<nbSceneplateManipulator> { Fault::DropPlate, "sceneplateChanged" };
+// Edits its camera's match without a message.
+template <> constexpr Traits kTraits<PerspectiveMatchManipulator> { Fault::DropView, "" };
 
-template <>
-struct Traits<Transform> : Needs<Fault::DropNode>
-{
-    static constexpr const char* kMessage = "nbTransform::changedTransformation";
-};
-
-template <>
-struct Traits<Planar> : Needs<Fault::DropNode>
-{
-    static constexpr const char* kMessage = "editor::changedPlanarManipulator";
-};
-
-template <>
-struct Traits<Triplanar> : Needs<Fault::DropMaterial>
-{
-    static constexpr std::size_t kMaterial = 1;
-    static constexpr const char* kMessage = "editor::changedTriplanarManipulator";
-};
-
-template <>
-struct Traits<UV> : Needs<Fault::DropMaterial>
-{
-    static constexpr std::size_t kMaterial = 1;
-    static constexpr const char* kMessage = "editor::changedUVManipulator";
-};
-
-template <>
-struct Traits<Tire> : Needs<Fault::DropMaterial>
-{
-    static constexpr std::size_t kMaterial = 2;
-    static constexpr const char* kMessage = "editor::changedTireManipulator";
-};
-
-template <>
-struct Traits<nbSceneplateManipulator> : Needs<Fault::DropPlate>
-{
-    static constexpr const char* kMessage = "sceneplateChanged";
-};
-
-/// Edits its camera's match without a message.
-template <>
-struct Traits<PerspectiveMatchManipulator> : Needs<Fault::DropView>
-{ };
+// clang-format on
 
 template <class Gizmo>
 class Drags : public testing::Test
@@ -166,7 +130,7 @@ protected:
     /// Loses what is edited, all plates where they are.
     void destroy(Fault fault)
     {
-        stage.commit(fault, fault == Fault::DropMaterial ? Traits<Gizmo>::kMaterial : 0);
+        stage.commit(fault, fault == Fault::DropMaterial ? kTraits<Gizmo>.material : 0);
         if (fault == Fault::DropPlate) {
             stage.commit(fault, 1);
             stage.commit(fault, 2);
@@ -182,7 +146,7 @@ protected:
         // Where it was at first, in case a drag has carried it far away.
         stage.commit(Fault::DropNode, 0);
         stage.addNode(0);
-        stage.addMaterial(Traits<Gizmo>::kMaterial);
+        stage.addMaterial(kTraits<Gizmo>.material);
         for (std::size_t i = 0; i < 3; ++i) {
             stage.addPlate(i);
         }
@@ -202,8 +166,6 @@ protected:
         EXPECT_FALSE(stage.preview.isPaused());
         EXPECT_EQ(stage.check(), "");
     }
-
-    static constexpr Fault kEdited = Traits<Gizmo>::kEdited;
 
     Stage stage;
     Gizmo gizmo;
@@ -229,7 +191,7 @@ TYPED_TEST(Senders, AHandlerThatFailsInEachStepStopsNoDrag)
 {
     for (const Fault fault : { Fault::Throw, Fault::ThrowNumber }) {
         int received = 0;
-        nbController::addReceiver(Traits<TypeParam>::kMessage, [&](nbMessage&) {
+        nbController::addReceiver(kTraits<TypeParam>.message, [&](nbMessage&) {
             ++received;
             this->stage.commit(fault, 0);
         });
@@ -251,7 +213,7 @@ TYPED_TEST(Senders, AHandlerMayDestroyWhatIsEditedWithinTheMessage)
                                Fault::DropPlate, Fault::DropView, Fault::ClearTexts }) {
         SCOPED_TRACE(static_cast<int>(fault));
         int received = 0;
-        nbController::addReceiver(Traits<TypeParam>::kMessage, [&](nbMessage&) {
+        nbController::addReceiver(kTraits<TypeParam>.message, [&](nbMessage&) {
             this->destroy(fault);
             ++received;
         });
@@ -261,9 +223,9 @@ TYPED_TEST(Senders, AHandlerMayDestroyWhatIsEditedWithinTheMessage)
         ASSERT_GE(received, 1);
         this->step();
         // The answer tells whether there is still what the manipulator edits.
-        EXPECT_EQ(this->say("stop"), fault != this->kEdited);
+        EXPECT_EQ(this->say("stop"), fault != kTraits<TypeParam>.edited);
         EXPECT_EQ(this->stage.check(), "");
-        nbController::removeReceiver(Traits<TypeParam>::kMessage);
+        nbController::removeReceiver(kTraits<TypeParam>.message);
         this->stage.renewReceivers();
         this->expectUsable();
     }

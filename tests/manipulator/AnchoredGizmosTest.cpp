@@ -1,26 +1,15 @@
 // SPDX-License-Identifier: MIT
 // What the gizmos at an anchor point do where the host lacks something.
 #include "tests/manipulator/support/AnchorScene.h"
-#include "tests/manipulator/support/AnchoredTraits.h"
 
 #include <nbKernel/nbController.h>
 #include <nbOpenSGExt/Transform3D.h>
 
-#include <gtest/gtest.h>
-
 #include <memory>
-#include <string>
-#include <vector>
 
 namespace nbec::manipulator::test {
 
 namespace {
-
-using osg::Pnt2f;
-using osg::Pnt3f;
-using osg::Vec2f;
-using osg::Vec3f;
-using Settings = osg::ColorComponentSettings;
 
 template <class Gizmo>
 class AnchoredGizmos : public testing::Test
@@ -60,7 +49,7 @@ TYPED_TEST(AnchoredGizmos, WithoutAViewNothingIsFoundAndNothingIsSent)
 TYPED_TEST(AnchoredGizmos, AViewThatIsLostDuringADragLosesNothing)
 {
     TypeParam gizmo;
-    AnchorScene at(gizmo, AnchoredTraits<TypeParam>::kChanged, AnchoredTraits<TypeParam>::kType);
+    AnchorScene at(gizmo);
     gizmo.activateUniversalManipulator();
     at.look(Camera::Oblique, false);
     ASSERT_TRUE(at.grab("yaShape", kArrowHead));
@@ -73,7 +62,7 @@ TYPED_TEST(AnchoredGizmos, AViewThatIsLostDuringADragLosesNothing)
     at.scene.widget.setMain();
     gizmo.update(true);
     EXPECT_TRUE(at.drag.stepTo(Vec2f(5, -5)));
-    EXPECT_EQ(at.last().name, std::string("label") + AnchoredTraits<TypeParam>::kChanged);
+    EXPECT_EQ(at.last().name, std::string("label") + kAnchoredTraits<TypeParam>.changed);
     EXPECT_TRUE(at.drag.release());
     EXPECT_TRUE(at.scene.hover(at.onHandle("yaShape", kArrowHead)));
 }
@@ -81,7 +70,7 @@ TYPED_TEST(AnchoredGizmos, AViewThatIsLostDuringADragLosesNothing)
 TYPED_TEST(AnchoredGizmos, AnAnchorThatIsDeletedDuringADragLeavesTheHandlesWhereTheyAre)
 {
     TypeParam gizmo;
-    AnchorScene at(gizmo, AnchoredTraits<TypeParam>::kChanged, AnchoredTraits<TypeParam>::kType);
+    AnchorScene at(gizmo);
     gizmo.activateUniversalManipulator();
     osg::RefPtr<osg::NodePtr> passing(osg::makeCoredNode<osg::Transform3D>());
     gizmo.setAnchor(passing.get(), Pnt3f(0.5F, 0, 0));
@@ -91,7 +80,7 @@ TYPED_TEST(AnchoredGizmos, AnAnchorThatIsDeletedDuringADragLeavesTheHandlesWhere
     passing = osg::NullFC;
     EXPECT_EQ(gizmo.getAnchorNode(), osg::NullFC);
     EXPECT_TRUE(at.drag.stepTo(Vec2f(0, -9)));
-    EXPECT_EQ(at.last().name, std::string("label") + AnchoredTraits<TypeParam>::kChanged);
+    EXPECT_EQ(at.last().name, std::string("label") + kAnchoredTraits<TypeParam>.changed);
     gizmo.update(true);
     EXPECT_EQ(at.onHandle("yaShape", Vec3f()), place);
     EXPECT_TRUE(at.drag.release());
@@ -100,7 +89,7 @@ TYPED_TEST(AnchoredGizmos, AnAnchorThatIsDeletedDuringADragLeavesTheHandlesWhere
 TYPED_TEST(AnchoredGizmos, DeactivatingOnlyTakesTheHandlesAway)
 {
     TypeParam gizmo;
-    AnchorScene at(gizmo, AnchoredTraits<TypeParam>::kChanged, AnchoredTraits<TypeParam>::kType);
+    AnchorScene at(gizmo);
     gizmo.activateUniversalManipulator();
     at.look(Camera::Oblique, false);
     ASSERT_TRUE(at.grab("yaShape", kArrowHead));
@@ -117,7 +106,7 @@ TYPED_TEST(AnchoredGizmos, DeactivatingOnlyTakesTheHandlesAway)
 TYPED_TEST(AnchoredGizmos, AGizmoThatDiesDuringADragResumesThePreview)
 {
     auto gizmo = std::make_unique<TypeParam>();
-    AnchorScene at(*gizmo, AnchoredTraits<TypeParam>::kChanged, AnchoredTraits<TypeParam>::kType);
+    AnchorScene at(*gizmo);
     gizmo->activateUniversalManipulator();
     at.look(Camera::Oblique, false);
     ASSERT_TRUE(at.grab("yaShape", kArrowHead));
@@ -126,8 +115,38 @@ TYPED_TEST(AnchoredGizmos, AGizmoThatDiesDuringADragResumesThePreview)
     at.scene.context.setManipulator(nullptr);
     gizmo.reset();
     TypeParam::updateAllManipulators();
-    EXPECT_EQ(at.takeNames(),
-              (std::vector<std::string> { "setMatRenderEnabled", "updateMatRender" }));
+    EXPECT_EQ(at.takeNames(), kResume);
+}
+
+template <class Gizmo>
+class SharedGizmos : public testing::Test
+{ };
+
+using GizmosWithAnInstance = testing::Types<TriplanarTextureManipulator, TireProjectionManipulator>;
+TYPED_TEST_SUITE(SharedGizmos, GizmosWithAnInstance, );
+
+TYPED_TEST(SharedGizmos, ANewSizeReachesTheSharedInstanceAtOnceAndOthersLater)
+{
+    Anchored<TypeParam> other;
+    other.at.look(Camera::Front, false);
+    TypeParam::createInstance();
+    TypeParam::createInstance();
+    const std::unique_ptr<TypeParam> shared(TypeParam::getInstance());
+    shared->setAnchor(other.at.scene.node, Pnt3f(0, 0, 0));
+    shared->setMaterialComponent(other.at.material.get(), "diffuse", nullptr);
+    const auto sizeOf = [](TypeParam& gizmo) {
+        return findNode(gizmo.getVisualisation(), "xaShape")->getParent()->getToWorld()[0][0];
+    };
+    const float before = sizeOf(other.gizmo);
+
+    TypeParam::setManipulatorSize(116);  // half of the divisor that 32 gives
+
+    EXPECT_NEAR(sizeOf(*shared), 2 * before, 1e-4F);
+    EXPECT_EQ(sizeOf(other.gizmo), before);
+    TypeParam::updateAllManipulators();
+    EXPECT_NEAR(sizeOf(other.gizmo), 2 * before, 1e-4F);
+    TypeParam::setManipulatorSize(32);
+    EXPECT_EQ(TypeParam::getManipulatorSize(), 32.0F);
 }
 
 }  // namespace nbec::manipulator::test

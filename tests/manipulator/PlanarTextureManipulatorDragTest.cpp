@@ -6,38 +6,16 @@
 
 #include <nbKernel/nbController.h>
 
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <ostream>
-#include <string>
-#include <vector>
-
 namespace nbec::manipulator::test {
 
 namespace {
 
 using Gizmo = PlanarTextureManipulator;
-using Names = std::vector<std::string>;
-using osg::Pnt2f;
-using osg::Pnt3f;
-using osg::Vec2f;
-using osg::Vec3f;
 
-constexpr float kPxPerUnit = 72.4264069F;
-/// World units of a drag by 72 pixels.
-constexpr float kStep = 72.0F / kPxPerUnit;
 constexpr float kTolerance = 2e-4F;
 constexpr float kHalfPi = 1.57079633F;
 const char* const kChanged = "label::changedPlanarManipulator";
 const Vec3f kTab(2.5F, 0, 0);
-
-void expectNear(const Vec3f& found, const Vec3f& expected, const std::string& what)
-{
-    for (osg::UInt32 i = 0; i < 3; ++i) {
-        EXPECT_NEAR(found[i], expected[i], kTolerance) << what << ' ' << i;
-    }
-}
 
 /// How projection and object stand.
 enum class Setting

@@ -6,24 +6,14 @@
 
 #include <nbKernel/nbController.h>
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
-#include <cmath>
-#include <ostream>
 #include <random>
-#include <string>
-#include <vector>
 
 namespace nbec::manipulator::test {
 
 namespace {
 
 using osg::Matrix;
-using osg::Pnt2f;
-using osg::Pnt3f;
-using osg::Vec2f;
-using osg::Vec3f;
 
 constexpr float kUnderPointerPx = 0.6F;
 /// Of the size of the projection.

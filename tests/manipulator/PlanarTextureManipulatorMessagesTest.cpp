@@ -6,24 +6,13 @@
 
 #include <OpenSG/OSGImage.h>
 
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
-
 namespace nbec::manipulator::test {
 
 namespace {
 
 using Gizmo = PlanarTextureManipulator;
-using Names = std::vector<std::string>;
-using osg::Pnt3f;
-using osg::Vec2f;
-using osg::Vec3f;
 
 constexpr float kTolerance = 1e-4F;
-const Names kPause = { "setMatRenderEnabled" };
-const Names kResume = { "setMatRenderEnabled", "updateMatRender" };
 
 }  // namespace
 
@@ -31,7 +20,7 @@ TEST(PlanarTextureManipulator, PausesThePreviewAndResumesIt)
 {
     PlanarScene planar;
     const auto isEnabled = [&planar] { return attribute<bool>(planar.log.front(), "enabled"); };
-    const osg::Pnt2f pixel = planar.drag.rayPixelOf(planar.onHandle("xaShape", Vec3f(1.9F, 0, 0)));
+    const Pnt2f pixel = planar.drag.rayPixelOf(planar.onHandle("xaShape", Vec3f(1.9F, 0, 0)));
 
     EXPECT_FALSE(planar.scene.send("stop", pixel));
     planar.scene.send("hover", pixel);

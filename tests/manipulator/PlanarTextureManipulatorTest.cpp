@@ -11,25 +11,13 @@
 #include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGSimpleGeometry.h>
 
-#include <gtest/gtest.h>
-
-#include <ostream>
-#include <string>
-#include <vector>
-
 namespace nbec::manipulator::test {
 
 namespace {
 
 using Gizmo = PlanarTextureManipulator;
-using Names = std::vector<std::string>;
-using osg::Pnt2f;
-using osg::Pnt3f;
-using osg::Vec3f;
 
 constexpr float kTolerance = 1e-4F;
-const std::string kHighlight = "1 0.5 0";
-const Names kResume = { "setMatRenderEnabled", "updateMatRender" };
 
 /// A handle, where it is grabbed, and the idle colours of its parts.
 struct HandleCase
@@ -71,15 +59,6 @@ const std::vector<HandleCase> kHandles = {
 
 // clang-format on
 
-Names partColors(const osg::NodePtr& handle)
-{
-    Names colors;
-    for (osg::UInt32 i = 0; i < handle->getNChildren(); ++i) {
-        colors.push_back(colorOf(handle->getChild(i)));
-    }
-    return colors;
-}
-
 Names shownHandles(PlanarScene& planar)
 {
     Names shown;
@@ -113,13 +92,6 @@ Names without(Names names, const std::string& removed)
     return kept;
 }
 
-void expectNear(const Pnt3f& found, const Pnt3f& expected, const std::string& what)
-{
-    for (osg::UInt32 i = 0; i < 3; ++i) {
-        EXPECT_NEAR(found[i], expected[i], kTolerance) << what << ' ' << i;
-    }
-}
-
 class Handles : public testing::TestWithParam<HandleCase>
 { };
 
@@ -133,7 +105,7 @@ TEST_P(Handles, HaveTheirModeColoursAndHighlight)
     const osg::NodePtr handle = planar.handle(row.name);
     EXPECT_EQ(partColors(handle), row.idle);
 
-    const osg::Pnt2f pixel = planar.drag.rayPixelOf(planar.onHandle(row.name, row.unit));
+    const Pnt2f pixel = planar.drag.rayPixelOf(planar.onHandle(row.name, row.unit));
     EXPECT_TRUE(planar.scene.send("hover", pixel));
     EXPECT_EQ(static_cast<unsigned>(planar.gizmo.getActiveMode()), row.mode);
     EXPECT_EQ(partColors(handle), Names(row.idle.size(), kHighlight));
@@ -181,7 +153,7 @@ TEST(PlanarTextureManipulator, NodesOfOtherNamesAreNoHandles)
 {
     PlanarScene planar;
     const osg::NodePtr arrow = planar.handle("xaShape");
-    const osg::Pnt2f pixel = planar.drag.rayPixelOf(planar.onHandle("xaShape", Vec3f(1.9F, 0, 0)));
+    const Pnt2f pixel = planar.drag.rayPixelOf(planar.onHandle("xaShape", Vec3f(1.9F, 0, 0)));
     nbNodeUtils::setName(arrow, "xaShapes", true);
 
     EXPECT_FALSE(planar.scene.send("hover", pixel));
@@ -246,15 +218,15 @@ TEST(PlanarTextureManipulator, TabsStandAtEdgesCornersAndDepthInAnySpace)
     planar.edit(planar.projection, [](const osg::Transform3DPtr& projection) {
         projection->setTranslation(Vec3f(0.1F, -0.2F, 1));
         projection->setRotation(Vec3f(0, 0, 40));
-        projection->setRotationOrientation(osg::Quaternion(osg::Vec3f(1, 0, 0), 0.3F));
+        projection->setRotationOrientation(osg::Quaternion(Vec3f(1, 0, 0), 0.3F));
         projection->setScale(Vec3f(2, 0.5F, 3));
     });
 
     for (const bool orthographic : { false, true }) {
         planar.look(Camera::Oblique, orthographic);
         for (const auto& tab : tabs) {
-            expectNear(planar.onHandle(tab.name, Vec3f()), planar.inWorld(tab.inProjection),
-                       tab.name);
+            expectNear(planar.onHandle(tab.name, Vec3f()).subZero(),
+                       planar.inWorld(tab.inProjection).subZero(), tab.name);
         }
         // The z arrow points to where the projection looks, below a mirrored node too.
         const Vec3f arrow = planar.onHandle("zaShape", Vec3f(0, 0, -1)) - planar.inWorld(Vec3f());
@@ -271,12 +243,12 @@ TEST(PlanarTextureManipulator, HandlesKeepTheirSizeOnScreen)
             .length();
     };
     planar.look(Camera::Front, false);
-    EXPECT_NEAR(length(), 10.0F * 45.0F / 672.0F, kTolerance);
+    EXPECT_NEAR(length(), kUnit, kTolerance);
     planar.edit(planar.core(), [](const osg::Transform3DPtr& node) {
         node->setTranslation(Vec3f(0, 0, -10));
         node->setScale(Vec3f(3, 3, 3));
     });
-    EXPECT_NEAR(length(), 20.0F * 45.0F / 672.0F, kTolerance);
+    EXPECT_NEAR(length(), 2 * kUnit, kTolerance);
     planar.look(Camera::Front, true);
     EXPECT_NEAR(length(), planar.scene.widget.getUberCamera()->getNearPlaneDiagonal() / 20.0F,
                 kTolerance);
@@ -296,7 +268,7 @@ TEST(PlanarTextureManipulator, UpdateFollowsMaterialCameraAndSize)
     planar.projection->setTranslation(Vec3f(0.5F, 0, 0));
     osg::endEditCP(planar.projection);
     planar.gizmo.update(false);
-    expectNear(planar.onHandle("grid", Vec3f()), Pnt3f(0.5F, 0, 0), "centre");
+    expectNear(planar.onHandle("grid", Vec3f()).subZero(), Vec3f(0.5F, 0, 0), "centre");
     const float before = sizeOf(planar.gizmo);
     planar.drag.look(Camera::Front, true);
     planar.gizmo.update(false);
@@ -307,7 +279,7 @@ TEST(PlanarTextureManipulator, UpdateFollowsMaterialCameraAndSize)
 
     shared->updateManipulator();
     Gizmo::setManipulatorSize(116.0F);  // half of the divisor that 32 gives
-    EXPECT_NEAR(sizeOf(*shared), 20.0F * 45.0F / 672.0F, kTolerance);
+    EXPECT_NEAR(sizeOf(*shared), 2 * kUnit, kTolerance);
     EXPECT_EQ(sizeOf(planar.gizmo), before);
     planar.gizmo.update(false);
     EXPECT_NEAR(sizeOf(planar.gizmo), before * 2.0F, kTolerance);

@@ -10,22 +10,10 @@
 #include <nbKernelServices/nbUndoService.h>
 #include <nbMaterialEditor/nbMaterialPreview.h>
 
-#include <gtest/gtest.h>
-
-#include <cmath>
-
 namespace nbec::manipulator::test {
 
 namespace {
 
-using Settings = osg::ColorComponentSettings;
-using Receiver = AnchorScene::Receiver;
-using osg::Pnt2f;
-using osg::Pnt3f;
-using osg::Vec2f;
-using osg::Vec3f;
-
-constexpr float kPxPerUnit = 72.4264069F;
 constexpr float kTolerance = 2e-4F;
 
 /// A drag of a handle from its grab to the release, as one step of undo.
@@ -51,8 +39,7 @@ TEST(TextureGizmoLoop, TriplanarDragsGoOnFromWhatTheLastOneLeft)
 {
     for (const bool orthographic : { false, true }) {
         TriplanarTextureManipulator gizmo;
-        AnchorScene at(gizmo, "::changedTriplanarManipulator", Settings::TriplanarProjection,
-                       Receiver::Editor);
+        AnchorScene at(gizmo, AnchorScene::Receiver::Editor);
         nbMaterialPreview preview;
         at.edit(at.parentCore(), [](const auto& parent) { parent->setScale(Vec3f(2, 2, 2)); });
         gizmo.activateUniversalManipulator();
@@ -95,7 +82,7 @@ TEST(TextureGizmoLoop, UVDragsGoOnFromWhatTheLastOneLeft)
 {
     for (const bool orthographic : { false, true }) {
         UVTextureManipulator gizmo;
-        AnchorScene at(gizmo, "::changedUVManipulator", Settings::UVProjection, Receiver::Editor);
+        AnchorScene at(gizmo, AnchorScene::Receiver::Editor);
         nbMaterialPreview preview;
         at.edit(at.core(), [](const auto& node) {
             node->setRotation(Vec3f(10, 20, 30));
@@ -125,7 +112,7 @@ TEST(TextureGizmoLoop, UVDragsGoOnFromWhatTheLastOneLeft)
 TEST(TextureGizmoLoop, FactorsThatAreNoneAreRefusedWithoutLoss)
 {
     UVTextureManipulator gizmo;
-    AnchorScene at(gizmo, "::changedUVManipulator", Settings::UVProjection, Receiver::Editor);
+    AnchorScene at(gizmo, AnchorScene::Receiver::Editor);
     at.editSettings([](const auto& settings) { settings->setRepeat(Vec2f(2, 4)); });
     gizmo.activateScaleManipulator();
     ASSERT_TRUE(at.scene.send("start", Pnt2f(402, 299)));
@@ -143,8 +130,7 @@ TEST(TextureGizmoLoop, TheTireGizmoStaysUnderThePointer)
 {
     for (const bool orthographic : { false, true }) {
         TireProjectionManipulator gizmo;
-        AnchorScene at(gizmo, "::changedTireManipulator", Settings::TireProjection,
-                       Receiver::Editor);
+        AnchorScene at(gizmo, AnchorScene::Receiver::Editor);
         nbMaterialPreview preview;
         at.edit(at.parentCore(), [](const auto& parent) { parent->setScale(Vec3f(2, 2, 2)); });
         at.edit(at.core(), [](const auto& node) { node->setRotation(Vec3f(0, 20, 10)); });

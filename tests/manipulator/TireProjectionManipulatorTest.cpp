@@ -8,31 +8,17 @@
 #include <nbKernel/nbController.h>
 #include <nbNotification/NotificationManager.h>
 
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <memory>
-#include <ostream>
-#include <string>
-#include <vector>
-
 namespace nbec::manipulator::test {
 
 namespace {
 
 using Gizmo = TireProjectionManipulator;
 using Active = Gizmo::ActiveMode;
-using Names = std::vector<std::string>;
-using osg::Pnt3f;
-using osg::Vec2f;
-using osg::Vec3f;
 
-constexpr float kPxPerUnit = 72.4264069F;
 constexpr float kTolerance = 2e-3F;
-constexpr float kStep = 72.0F / kPxPerUnit;
 const char* const kChanged = "label::changedTireManipulator";
 
-struct Tire
+struct Tire : Anchored<Gizmo>
 {
     Tire()
     {
@@ -43,10 +29,6 @@ struct Tire
             settings->setTireScaleU(0.25F);
         });
     }
-
-    Gizmo gizmo;
-    AnchorScene at { gizmo, "::changedTireManipulator",
-                     osg::ColorComponentSettings::TireProjection };
 };
 
 struct DragRow
@@ -107,7 +89,7 @@ TEST_P(TireDrags, SendTheNewValue)
         }
         ASSERT_TRUE(at.grabAt(row.handle, from));
         EXPECT_EQ(tire.gizmo.getActiveMode(), row.active);
-        EXPECT_EQ(at.takeNames(), Names { "setMatRenderEnabled" });
+        EXPECT_EQ(at.takeNames(), kPause);
         EXPECT_TRUE(at.drag.dragBy(row.offsetPx));
 
         EXPECT_EQ(at.last().name, kChanged);
@@ -238,29 +220,6 @@ TEST(TireProjectionManipulator, LengthsAreToldAndNeverFallBelowAThousandthOfThei
     EXPECT_FLOAT_EQ(attribute<float>(at.last(), "ScaleHeight"), 0.003F);
     EXPECT_TRUE(at.drag.release());
     EXPECT_EQ(manager->getTextCount(), 0U);
-}
-
-TEST(TireProjectionManipulator, ANewSizeReachesTheSharedInstanceAtOnceAndOthersLater)
-{
-    Tire tire;
-    tire.at.look(Camera::Front, false);
-    Gizmo::createInstance();
-    Gizmo::createInstance();
-    const std::unique_ptr<Gizmo> shared(Gizmo::getInstance());
-    shared->setAnchor(tire.at.scene.node, Pnt3f(0, 0, 0));
-    shared->setMaterialComponent(tire.at.material.get(), "diffuse", nullptr);
-    const auto sizeOf = [](Gizmo& gizmo) {
-        return findNode(gizmo.getVisualisation(), "xaShape")->getParent()->getToWorld()[0][0];
-    };
-    const float before = sizeOf(tire.gizmo);
-
-    Gizmo::setManipulatorSize(116.0F);  // half of the divisor that 32 gives
-
-    EXPECT_NEAR(sizeOf(*shared), 2 * before, kTolerance);
-    EXPECT_NEAR(sizeOf(tire.gizmo), before, kTolerance);
-    Gizmo::updateAllManipulators();
-    EXPECT_NEAR(sizeOf(tire.gizmo), 2 * before, kTolerance);
-    Gizmo::setManipulatorSize(32.0F);
 }
 
 }  // namespace nbec::manipulator::test

@@ -10,25 +10,12 @@
 #include <nbOpenSGUberMaterial/nbStateChunkBase.h>
 #include <nbOpenSGUtils/nbEdit.h>
 
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <ostream>
-#include <string>
-#include <vector>
-
 namespace nbec::manipulator::test {
 
 namespace {
 
 using Gizmo = TriplanarTextureManipulator;
-using Names = std::vector<std::string>;
-using osg::Pnt2f;
-using osg::Pnt3f;
-using osg::Vec2f;
-using osg::Vec3f;
 
-constexpr float kPxPerUnit = 72.4264069F;
 constexpr float kTolerance = 2e-4F;
 const char* const kChanged = "label::changedTriplanarManipulator";
 const Vec3f kOffsetsU(0.1F, 0.2F, 0.3F);
@@ -46,17 +33,13 @@ void setValues(const osg::ColorComponentSettingsPtr& settings)
     settings->setTriplanarRepeatV(kRepeatsV);
 }
 
-struct Triplanar
+struct Triplanar : Anchored<Gizmo>
 {
     Triplanar()
     {
         at.editSettings(setValues);
         gizmo.activateUniversalManipulator();
     }
-
-    Gizmo gizmo;
-    AnchorScene at { gizmo, "::changedTriplanarManipulator",
-                     osg::ColorComponentSettings::TriplanarProjection };
 };
 
 void expectPair(const SentMessage& sent, const std::string& name, const Vec2f& expected,
@@ -130,7 +113,7 @@ TEST_P(TriplanarTranslations, LowerTwoOffsetsByAHundredthOfTheWay)
         AnchorScene& at = triplanar.at;
         at.look(row.camera, orthographic);
         ASSERT_TRUE(at.grab(row.handle, row.grab));
-        EXPECT_EQ(at.takeNames(), Names { "setMatRenderEnabled" }) << "the first step prepares";
+        EXPECT_EQ(at.takeNames(), kPause) << "the first step prepares";
         EXPECT_EQ(nbController::getModified(), 0);
 
         EXPECT_TRUE(at.drag.dragBy(row.offsetPx));
@@ -338,12 +321,12 @@ TEST(TriplanarTextureManipulatorDrag, PausesThePreviewFromTheFirstStepToTheStop)
     EXPECT_TRUE(at.log.empty());
     EXPECT_TRUE(at.drag.stepTo(Vec2f(1, 0)));
     EXPECT_FALSE(attribute<bool>(at.last(), "enabled"));
-    EXPECT_EQ(at.takeNames(), Names { "setMatRenderEnabled" });
+    EXPECT_EQ(at.takeNames(), kPause);
     EXPECT_TRUE(at.drag.stepTo(Vec2f(2, 0)));
     EXPECT_EQ(at.takeNames(), Names { kChanged });
     EXPECT_TRUE(at.drag.release());
     EXPECT_TRUE(attribute<bool>(at.log.front(), "enabled"));
-    EXPECT_EQ(at.takeNames(), (Names { "setMatRenderEnabled", "updateMatRender" }));
+    EXPECT_EQ(at.takeNames(), kResume);
     EXPECT_FALSE(at.drag.release());
     EXPECT_TRUE(at.log.empty());
 }
@@ -367,7 +350,7 @@ TEST(TriplanarTextureManipulatorDrag, WhatIsDeletedDuringADragEndsIt)
         ASSERT_TRUE(at.grab("xaShape", Vec3f(1.9F, 0, 0)));
         at.takeNames();
         triplanar.gizmo.setMaterialComponent(osg::NullFC, "", nullptr);
-        EXPECT_EQ(at.takeNames(), (Names { "setMatRenderEnabled", "updateMatRender" }));
+        EXPECT_EQ(at.takeNames(), kResume);
         EXPECT_FALSE(at.drag.stepTo(Vec2f(9, 0)));
         EXPECT_FALSE(at.drag.release());
         EXPECT_TRUE(at.log.empty());
@@ -394,11 +377,11 @@ TEST(TriplanarTextureManipulatorDrag, ALostStopIsMadeGoodByTheNextStart)
     AnchorScene& at = triplanar.at;
     ASSERT_TRUE(at.grab("xaShape", Vec3f(1.9F, 0, 0)));
     EXPECT_TRUE(at.drag.stepTo(Vec2f(50, 0)));
-    EXPECT_TRUE(at.scene.send("hover", osg::Pnt2f(5, 5))) << "a drag is not hovered away";
+    EXPECT_TRUE(at.scene.send("hover", Pnt2f(5, 5))) << "a drag is not hovered away";
     EXPECT_EQ(triplanar.gizmo.getActiveMode(), Gizmo::ActiveMode::TranslateX);
     at.takeNames();
     ASSERT_TRUE(at.drag.press(at.onHandle("xaShape", Vec3f(1.9F, 0, 0))));
-    EXPECT_EQ(at.takeNames(), (Names { "setMatRenderEnabled", "updateMatRender" }));
+    EXPECT_EQ(at.takeNames(), kResume);
     EXPECT_TRUE(at.drag.stepTo(Vec2f()));
     EXPECT_TRUE(at.drag.stepTo(Vec2f()));
     expectPair(at.last(), "YOffset", Vec2f(0.2F, 0.5F), 1e-6F);

@@ -16,12 +16,7 @@
 #include <OpenSG/OSGMaterialGroup.h>
 #include <OpenSG/OSGSimpleMaterial.h>
 
-#include <gtest/gtest.h>
-
 #include <memory>
-#include <ostream>
-#include <string>
-#include <vector>
 
 namespace nbec::manipulator::test {
 
@@ -29,13 +24,8 @@ namespace {
 
 using Gizmo = TriplanarTextureManipulator;
 using Mode = Gizmo::ManipulatorMode;
-using Names = std::vector<std::string>;
-using osg::Pnt3f;
-using osg::Vec3f;
 
 constexpr float kTolerance = 1e-4F;
-constexpr float kUnit = 10.0F * 45.0F / 672.0F;
-const std::string kHighlight = "1 0.5 0";
 
 struct HandleCase
 {
@@ -67,22 +57,8 @@ const std::vector<HandleCase> kHandles = {
 
 // clang-format on
 
-Names partColors(const osg::NodePtr& handle)
+struct Triplanar : Anchored<Gizmo>
 {
-    Names colors;
-    for (osg::UInt32 i = 0; i < handle->getNChildren(); ++i) {
-        colors.push_back(partColor(handle, i));
-    }
-    return colors;
-}
-
-/// A scene whose gizmo outlives it.
-struct Triplanar
-{
-    Gizmo gizmo;
-    AnchorScene at { gizmo, "::changedTriplanarManipulator",
-                     osg::ColorComponentSettings::TriplanarProjection };
-
     Names shown() const
     {
         Names names;
@@ -123,7 +99,7 @@ TEST_P(TriplanarHandles, HaveTheirModeColoursHighlightAndHideTheOthers)
     const osg::NodePtr handle = at.handle(row.name);
     EXPECT_EQ(partColors(handle), row.idle);
 
-    const osg::Pnt2f pixel = at.drag.rayPixelOf(at.onHandle(row.name, row.unit));
+    const Pnt2f pixel = at.drag.rayPixelOf(at.onHandle(row.name, row.unit));
     EXPECT_TRUE(at.scene.send("hover", pixel));
     EXPECT_EQ(static_cast<unsigned>(triplanar.gizmo.getActiveMode()), row.mode);
     for (const HandleCase& other : kHandles) {
@@ -336,32 +312,15 @@ TEST(TriplanarTextureManipulator, UpdatesForWhatHasMovedBeyondTheTolerance)
     EXPECT_NEAR(triplanar.size(), kUnit, kTolerance) << "inactive";
 }
 
-TEST(TriplanarTextureManipulator, TheSizeOfAllIsTheirClassesButPlacedAtOnceOnlyForTheSharedOne)
+TEST(TriplanarTextureManipulator, SizeOfTwoHundredIsNotGuarded)
 {
     Triplanar triplanar;
-    triplanar.gizmo.update(true);
-    Gizmo::createInstance();
-    const std::unique_ptr<Gizmo> shared(Gizmo::getInstance());
-    shared->setAnchor(triplanar.at.scene.node, Pnt3f(0, 0, 0));
-    shared->setMaterialComponent(triplanar.at.material.get(), "diffuse", nullptr);
-    const auto sizeOfShared = [&shared] {
-        return findNode(shared->getVisualisation(), "grid")->getToWorld()[0][0];
-    };
-
-    Gizmo::setManipulatorSize(116);  // half of the divisor that 32 gives
-    EXPECT_NEAR(sizeOfShared(), 2 * kUnit, kTolerance);
-    EXPECT_NEAR(triplanar.size(), kUnit, kTolerance);
-    Gizmo::updateAllManipulators();
-    EXPECT_NEAR(triplanar.size(), 2 * kUnit, kTolerance);
-    // Deliberate: not guarded.
     Gizmo::setManipulatorSize(200);
-    EXPECT_TRUE(
-        std::isinf(osg::Transform3DPtr::dcast(shared->getVisualisation()->getChild(0)->getCore())
-                       ->getScale()
-                       .x()));
+    triplanar.gizmo.update(true);
     Gizmo::setManipulatorSize(32);
-    EXPECT_EQ(Gizmo::getManipulatorSize(), 32.0F);
-    Gizmo::updateAllManipulators();
+
+    const auto frame = triplanar.gizmo.getVisualisation()->getChild(0)->getCore();
+    EXPECT_TRUE(std::isinf(osg::Transform3DPtr::dcast(frame)->getScale().x()));
 }
 
 TEST(TriplanarTextureManipulator, OnlyItsOwnHandlesAreHandles)
@@ -369,9 +328,9 @@ TEST(TriplanarTextureManipulator, OnlyItsOwnHandlesAreHandles)
     Triplanar triplanar;
     AnchorScene& at = triplanar.at;
     triplanar.gizmo.activateUniversalManipulator();
-    const osg::Pnt2f pixel = at.drag.rayPixelOf(at.onHandle("xaShape", Vec3f(1.9F, 0, 0)));
+    const Pnt2f pixel = at.drag.rayPixelOf(at.onHandle("xaShape", Vec3f(1.9F, 0, 0)));
     EXPECT_TRUE(at.scene.send("hover", pixel));
-    at.scene.send("hover", osg::Pnt2f(5, 5));
+    at.scene.send("hover", Pnt2f(5, 5));
     EXPECT_EQ(partColor(at.handle("xaShape"), 0), "1 0 0");
 
     // A box of the scene that bears a handle's name, in front of everything.
@@ -379,8 +338,8 @@ TEST(TriplanarTextureManipulator, OnlyItsOwnHandlesAreHandles)
     nbNodeUtils::setName(stranger, "xaShape");
     triplanar.gizmo.hideManipulator();
     at.scene.picker.setPickNode(at.scene.node);
-    EXPECT_FALSE(at.scene.send("hover", osg::Pnt2f(400, 300)));
-    EXPECT_FALSE(at.scene.send("start", osg::Pnt2f(400, 300)));
+    EXPECT_FALSE(at.scene.send("hover", Pnt2f(400, 300)));
+    EXPECT_FALSE(at.scene.send("start", Pnt2f(400, 300)));
     EXPECT_EQ(triplanar.gizmo.getActiveMode(), Gizmo::ActiveMode::None);
 
     EXPECT_FALSE(triplanar.gizmo.hoverManipulator(nullptr, "select"));

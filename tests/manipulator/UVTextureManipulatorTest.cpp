@@ -10,32 +10,19 @@
 #include <nbOpenSGUberMaterial/nbStateChunkBase.h>
 #include <nbOpenSGUtils/nbEdit.h>
 
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <ostream>
-#include <string>
-#include <vector>
-
 namespace nbec::manipulator::test {
 
 namespace {
 
 using Gizmo = UVTextureManipulator;
 using Mode = Gizmo::ManipulatorMode;
-using Names = std::vector<std::string>;
-using osg::Pnt2f;
-using osg::Pnt3f;
-using osg::Vec2f;
-using osg::Vec3f;
 
 constexpr float kTolerance = 1e-4F;
-constexpr float kUnit = 10.0F * 45.0F / 672.0F;
 const char* const kChanged = "label::changedUVManipulator";
 /// Where the anchor is in the view, y from the bottom.
 const Vec2f kAnchorPx(400, 300);
 
-struct UV
+struct UV : Anchored<Gizmo>
 {
     UV()
     {
@@ -55,9 +42,6 @@ struct UV
     bool stepPixel(const Vec2f& px) { return at.scene.send("process", fromBottom(px)); }
 
     static Pnt2f fromBottom(const Vec2f& px) { return Pnt2f(px.x(), 599 - px.y()); }
-
-    Gizmo gizmo;
-    AnchorScene at { gizmo, "::changedUVManipulator", osg::ColorComponentSettings::UVProjection };
 };
 
 struct HandleCase
@@ -87,15 +71,6 @@ const std::vector<HandleCase> kHandles = {
 };
 
 // clang-format on
-
-Names partColors(const osg::NodePtr& handle)
-{
-    Names colors;
-    for (osg::UInt32 i = 0; i < handle->getNChildren(); ++i) {
-        colors.push_back(colorOf(handle->getChild(i)));
-    }
-    return colors;
-}
 
 void expectPair(const SentMessage& sent, const std::string& name, const Vec2f& expected)
 {
@@ -244,7 +219,7 @@ TEST(UVTextureManipulator, ArrowsMoveByPixels)
             UV uv;
             uv.at.look(Camera::Oblique, orthographic);
             ASSERT_TRUE(uv.at.grab(row.handle, row.unit)) << row.handle;
-            EXPECT_EQ(uv.at.takeNames(), Names { "setMatRenderEnabled" });
+            EXPECT_EQ(uv.at.takeNames(), kPause);
             EXPECT_TRUE(uv.at.drag.stepTo(Vec2f(512, -256)));
             EXPECT_EQ(uv.at.last().name, kChanged);
             EXPECT_EQ(uv.at.last().message.names(), Names { "offset" });

@@ -15,11 +15,8 @@
 #include <OpenSG/OSGSimpleGeometry.h>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <memory>
-#include <string>
-#include <vector>
 
 namespace nbec::manipulator::test {
 
@@ -28,16 +25,10 @@ namespace {
 using Gizmo = UniversalTransformManipulator2;
 using Mode = Gizmo::ManipulatorMode;
 using notification::NotificationManager;
-using osg::Vec2f;
-using osg::Vec3f;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr float kStep = 72.0F / 72.4264069F;
-constexpr float kDiagonal = 1.5F * 0.70710678F;
 constexpr osg::Int32 kTransformPermission = 19;
-const Vec3f kArrow(1.9F, 0, 0);
-const Vec3f kRing(kDiagonal, kDiagonal, 0);
 
 /// Collects log lines while it lives.
 class LogLines
@@ -135,7 +126,7 @@ TEST(DragSteps, AnArrowThatPointsAtTheEyeMovesNothing)
 {
     DragScene drags;
     drags.look(Camera::Side, true);
-    const osg::Pnt2f pixel = drags.rayPixelOf(drags.onGizmo(kArrow));
+    const Pnt2f pixel = drags.rayPixelOf(drags.onGizmo(kArrow));
     ASSERT_TRUE(drags.scene.send("start", pixel));
     for (int i = 0; i < 5; ++i) {
         EXPECT_TRUE(drags.scene.send("process", pixel + Vec2f(10.0F * static_cast<float>(i), 7)));
@@ -152,7 +143,7 @@ TEST(DragRefusals, ALockedNodeIsNeitherConvertedNorMovedAndEveryStepIsLogged)
     drags.gizmo.update(true);
     nbNodePermission::setAllowed(drags.scene.node, kTransformPermission, false);
     const LogLines log;
-    const osg::Pnt2f pixel = drags.rayPixelOf(drags.onGizmo(kArrow));
+    const Pnt2f pixel = drags.rayPixelOf(drags.onGizmo(kArrow));
     ASSERT_TRUE(drags.scene.send("start", pixel));
     EXPECT_FALSE(drags.scene.send("process", pixel));
     EXPECT_FALSE(drags.scene.send("process", pixel + Vec2f(9, 0)));
@@ -195,7 +186,7 @@ TEST(DragConversion, AGroupBecomesATransformWithItsPivotsAtTheObjectsCentre)
     osg::endEditCP(node, osg::Node::ChildrenFieldMask);
     holder->addChild(box.get());
     drags.activate(Mode::Rotate);
-    EXPECT_LT((drags.onGizmo(Vec3f(0, 0, 0)) - osg::Pnt3f(1, 0.5F, 0)).length(), 1e-5F);
+    EXPECT_LT((drags.onGizmo(Vec3f(0, 0, 0)) - Pnt3f(1, 0.5F, 0)).length(), 1e-5F);
 
     ASSERT_TRUE(drags.grab(kRing));
     ASSERT_NE(drags.core(), osg::NullFC);
@@ -203,9 +194,9 @@ TEST(DragConversion, AGroupBecomesATransformWithItsPivotsAtTheObjectsCentre)
     EXPECT_LT((drags.core()->getScalePivot() - Vec3f(1, 0.5F, 0)).length(), 1e-5F);
     EXPECT_TRUE(drags.dragBy(Vec2f(-40, -20)));
     EXPECT_TRUE(drags.release());
-    osg::Pnt3f center(0, 0, 0);
+    Pnt3f center(0, 0, 0);
     box->getToWorld().multMatrixPnt(center);
-    EXPECT_LT((center - osg::Pnt3f(1, 0.5F, 0)).length(), 1e-5F) << "it turns about its centre";
+    EXPECT_LT((center - Pnt3f(1, 0.5F, 0)).length(), 1e-5F) << "it turns about its centre";
     EXPECT_GT(drags.core()->getRotation().z(), 20.0F);
 }
 

@@ -7,13 +7,8 @@
 #include <nbOpenSGUberCamera/UberCamera.h>
 #include <nbOpenSGUtils/nbTransformState.h>
 
-#include <gtest/gtest.h>
-
-#include <cmath>
 #include <iterator>
 #include <random>
-#include <string>
-#include <vector>
 
 namespace nbec::manipulator::test {
 
@@ -21,15 +16,10 @@ namespace {
 
 using Gizmo = UniversalTransformManipulator2;
 using Mode = Gizmo::ManipulatorMode;
-using osg::Pnt2f;
-using osg::Pnt3f;
-using osg::Vec2f;
-using osg::Vec3f;
 
 constexpr float kPi = 3.14159265F;
 constexpr float kRadiansPerDegree = kPi / 180.0F;
 constexpr int kRuns = 300;
-constexpr float kDiagonal = 1.5F * 0.70710678F;
 const char* const kOrders[] = { "xyz", "yzx", "zxy", "xzy", "yxz", "zyx" };
 
 enum class Kind

@@ -8,26 +8,15 @@
 
 #include <OpenSG/OSGNode.h>
 
-#include <gtest/gtest.h>
-
-#include <cmath>
 #include <iterator>
-#include <ostream>
-#include <string>
 
 namespace nbec::manipulator::test {
 
 namespace {
 
 using Mode = UniversalTransformManipulator2::ManipulatorMode;
-using osg::Vec2f;
-using osg::Vec3f;
 
-/// World units of a drag by 72 pixels.
-constexpr float kStep = 72.0F / 72.4264069F;
 constexpr float kTolerance = 2e-4F;
-/// Both coordinates of a ring's point at 45 degrees, gizmo units.
-constexpr float kDiagonal = 1.5F * 0.70710678F;
 constexpr float kRadiansPerDegree = 0.0174532925F;
 constexpr bool kWorld = false;
 constexpr bool kLocal = true;
@@ -65,13 +54,6 @@ void PrintTo(const DragRow& row, std::ostream* out)
 class DragRows : public testing::TestWithParam<DragRow>
 { };
 
-void expectNear(const Vec3f& actual, const Vec3f& expected, float tolerance, const char* what)
-{
-    for (osg::UInt32 i = 0; i < 3; ++i) {
-        EXPECT_NEAR(actual[i], expected[i], tolerance) << what << ' ' << i;
-    }
-}
-
 const Vec3f kNone(0, 0, 0);
 const Vec3f kOne(1, 1, 1);
 const Vec3f kTwo(2, 2, 2);
@@ -99,9 +81,9 @@ TEST_P(DragRows, EndsWhereItWasWorkedOut)
     ASSERT_TRUE(drags.grab(row.grab));
     EXPECT_TRUE(drags.dragBy(row.offsetPx));
     EXPECT_TRUE(drags.release());
-    expectNear(drags.core()->getTranslation(), row.translation, kTolerance, "translation");
-    expectNear(drags.core()->getRotation(), row.rotation, 0.01F, "rotation");
-    expectNear(drags.core()->getScale(), row.scale, 2e-3F, "scale");
+    expectNear(drags.core()->getTranslation(), row.translation, "translation");
+    expectNear(drags.core()->getRotation(), row.rotation, "rotation", 0.01F);
+    expectNear(drags.core()->getScale(), row.scale, "scale", 2e-3F);
 }
 
 // clang-format off
@@ -159,11 +141,11 @@ TEST(Drags, UniformFactorGrowsUpTheScreenWhereZIsUp)
     osg::beginEditCP(camera);
     camera->setZUp(true);
     osg::endEditCP(camera);
-    camera->setFromAtUp(osg::Pnt3f(0, -10, 0), osg::Pnt3f(0, 0, 0), Vec3f(0, 0, 1));
+    camera->setFromAtUp(Pnt3f(0, -10, 0), Pnt3f(0, 0, 0), Vec3f(0, 0, 1));
     UniversalTransformManipulator2::updateAllManipulators();
     ASSERT_TRUE(drags.grab(kNone));
     EXPECT_TRUE(drags.dragBy(Vec2f(0, -97)));
-    expectNear(drags.core()->getScale(), Vec3f(1.2F, 1.2F, 1.2F), 2e-3F, "scale");
+    expectNear(drags.core()->getScale(), Vec3f(1.2F, 1.2F, 1.2F), "scale", 2e-3F);
 }
 
 // == Pivots
@@ -190,8 +172,7 @@ TEST(PivotDrags, MoveThePivotAndLeaveTheObject)
             EXPECT_TRUE(drags.dragBy(local ? Vec2f(0, -36) : Vec2f(36, 0)));
             EXPECT_TRUE(drags.release());
             EXPECT_LT(greatestDifference(before, drags.scene.node->getToWorld()), 1e-5F);
-            const osg::Pnt3f expected =
-                local ? osg::Pnt3f(0, kStep / 2, 0) : osg::Pnt3f(kStep / 2, 0, 0);
+            const Pnt3f expected = local ? Pnt3f(0, kStep / 2, 0) : Pnt3f(kStep / 2, 0, 0);
             EXPECT_LT((drags.onGizmo(kNone) - expected).length(), kTolerance)
                 << "local " << local << " mode " << static_cast<int>(mode);
         }
@@ -219,7 +200,7 @@ TEST(PivotDrags, TurnThePivotAndLeaveTheObject)
         EXPECT_TRUE(drags.dragBy(Vec2f(-51, -22)));
         EXPECT_TRUE(drags.release());
         EXPECT_LT(greatestDifference(before, drags.scene.node->getToWorld()), 1e-5F);
-        expectNear(drags.core()->getRotation(), Vec3f(0, 0, 65), 0.01F, "pivot");
+        expectNear(drags.core()->getRotation(), Vec3f(0, 0, 65), "pivot", 0.01F);
     }
 }
 
@@ -251,9 +232,9 @@ TEST(SnappingDrags, TranslationsAndScalesEndOnMultiples)
     EXPECT_TRUE(drags.dragBy(Vec2f(36, 0)));
     EXPECT_EQ(drags.core()->getTranslation(), kNone);  // 0.497 units
     EXPECT_TRUE(drags.dragBy(Vec2f(37, 0)));
-    expectNear(drags.core()->getTranslation(), Vec3f(1, 0, 0), 1e-6F, "just past the half");
+    expectNear(drags.core()->getTranslation(), Vec3f(1, 0, 0), "just past the half", 1e-6F);
     EXPECT_TRUE(drags.dragBy(Vec2f(-110, 0)));
-    expectNear(drags.core()->getTranslation(), Vec3f(-2, 0, 0), 1e-6F, "back past -1.5");
+    expectNear(drags.core()->getTranslation(), Vec3f(-2, 0, 0), "back past -1.5", 1e-6F);
     EXPECT_TRUE(drags.dragBy(Vec2f(0, 0)));
     EXPECT_TRUE(drags.release());
 
@@ -261,9 +242,9 @@ TEST(SnappingDrags, TranslationsAndScalesEndOnMultiples)
     drags.gizmo.enableSnapping(true);
     ASSERT_TRUE(drags.grab(Vec3f(1.5F, 0, 0)));
     EXPECT_TRUE(drags.dragBy(Vec2f(20, 0)));  // factor 93 / 73 = 1.274
-    expectNear(drags.core()->getScale(), Vec3f(1.3F, 1, 1), 1e-6F, "scale");
+    expectNear(drags.core()->getScale(), Vec3f(1.3F, 1, 1), "scale", 1e-6F);
     EXPECT_TRUE(drags.dragBy(Vec2f(-71, 0)));  // 2 / 73 = 0.027
-    expectNear(drags.core()->getScale(), Vec3f(0, 1, 1), 1e-6F, "scale");
+    expectNear(drags.core()->getScale(), Vec3f(0, 1, 1), "scale", 1e-6F);
 }
 
 }  // namespace nbec::manipulator::test

@@ -9,10 +9,7 @@
 #include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGGroup.h>
 
-#include <gtest/gtest.h>
-
 #include <functional>
-#include <vector>
 
 namespace nbec::manipulator::test {
 
@@ -20,13 +17,6 @@ namespace {
 
 using Gizmo = UniversalTransformManipulator2;
 using Mode = Gizmo::ManipulatorMode;
-using osg::Pnt3f;
-using osg::Vec2f;
-using osg::Vec3f;
-
-const Vec3f kArrow(1.9F, 0, 0);
-const Vec3f kScaleHandle(1.5F, 0, 0);
-const Vec3f kRing(1.5F * 0.70710678F, 1.5F * 0.70710678F, 0);
 
 /// A gizmo on one node, with two further ones: one turned, with pivots apart, and one below a
 /// turned and scaled parent.

@@ -9,19 +9,11 @@
 
 #include <QMouseEvent>
 
-#include <gtest/gtest.h>
-
-#include <cmath>
-
 namespace nbec::manipulator::test {
 
 namespace {
 
 using Mode = UniversalTransformManipulator2::ManipulatorMode;
-using osg::Vec2f;
-using osg::Vec3f;
-
-const Vec3f kArrow(1.9F, 0, 0);
 
 /// The scene's node with a core that is no transform yet.
 void makeGroup(const osg::NodePtr& node)
@@ -46,7 +38,7 @@ public:
     /// the press
     bool drag(const Vec3f& unit, const Vec2f& wayPx)
     {
-        const osg::Pnt2f start = drags.rayPixelOf(drags.onGizmo(unit));
+        const Pnt2f start = drags.rayPixelOf(drags.onGizmo(unit));
         pointer = QPointF(std::round(start.x()), std::round(start.y()));
         nbUndoService::the()->beginGroup();
         const bool isGrabbed = send(QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
@@ -131,7 +123,7 @@ TEST(DragUndo, AfterACancelTheHandleIsGrabbedAgainAtOnce)
         drags.activate(Mode::Translate);
         MouseDrags mouse(drags);
         const osg::Matrix before = drags.scene.node->getToWorld();
-        const osg::Pnt3f place = drags.onGizmo(kArrow);
+        const Pnt3f place = drags.onGizmo(kArrow);
         for (int i = 0; i < 4; ++i) {
             ASSERT_TRUE(mouse.drag(kArrow, Vec2f(60, 0))) << "drag " << i;
             EXPECT_GT(greatestDifference(drags.scene.node->getToWorld(), before), 0.1F);

@@ -1,37 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/core/ClipPlanes.h"
 
+#include "tests/viewer/support/StageTest.h"
 #include "viewer/core/SceneBuilder.h"
-#include "viewer/core/Stage.h"
 #include "viewer/core/StartScene.h"
 
 #include <nbKernel/nbScenegraph.h>
-#include <nbKernelServices/nbUndoService.h>
-
-#include <QtWidgets/QUndoStack>
-
-#include <gtest/gtest.h>
 
 namespace viewer {
 namespace {
 
-class ClipPlanes : public testing::Test
+class ClipPlanes : public StageTest
 {
 protected:
     ClipPlanes()
-        : stage(view)
+        : StageTest(800, 600)
     {
-        stage.resize(800, 600, 1.0F);
-        stage.showStartScene();
         picker.setFilter(nbec::interaction::Picker::SceneFilter);
-    }
-
-    bool run(const char* command)
-    {
-        QString error;
-        const bool isDone = stage.commands().run(command, {}, error);
-        EXPECT_EQ(isDone, error.isEmpty());
-        return isDone;
     }
 
     /// Distance from the eye of what is seen in the middle of the view; 0 for nothing.
@@ -42,7 +27,7 @@ protected:
             : (picker.getHitPoint() - stage.pose().from).length();
     }
 
-    osg::Vec3f placeOf(const std::string& name)
+    osg::Vec3f originOf(const std::string& name)
     {
         osg::Vec3f translation;
         const osg::NodePtr node = findObject(nbScenegraph::getRootNode(), name);
@@ -54,14 +39,12 @@ protected:
         return translation;
     }
 
-    nbOSGWidget view;
-    Stage stage;
     nbec::interaction::Picker picker;
 };
 
 TEST_F(ClipPlanes, TheHalfTowardsTheEyeGoesAndEverythingStaysInItsPlace)
 {
-    const osg::Vec3f place = placeOf(kStartSceneMainObject);
+    const osg::Vec3f place = originOf(kStartSceneMainObject);
     const float depth = depthInTheMiddle();
     ASSERT_GT(depth, 0.F);
 
@@ -70,7 +53,7 @@ TEST_F(ClipPlanes, TheHalfTowardsTheEyeGoesAndEverythingStaysInItsPlace)
     EXPECT_EQ(stage.selectedName(), "Clip plane");
     EXPECT_EQ(stage.gizmo().shown(), Gizmo::Clipping);
     EXPECT_GT(depthInTheMiddle(), depth + 0.1F);
-    EXPECT_EQ(placeOf(kStartSceneMainObject), place);
+    EXPECT_EQ(originOf(kStartSceneMainObject), place);
 }
 
 TEST_F(ClipPlanes, AddingAndRemovingAreOneStepEachThatCanBeTakenBack)
@@ -90,7 +73,7 @@ TEST_F(ClipPlanes, AddingAndRemovingAreOneStepEachThatCanBeTakenBack)
     EXPECT_EQ(depthInTheMiddle(), whole);
     EXPECT_TRUE(stage.undo());
     EXPECT_EQ(depthInTheMiddle(), cut);
-    EXPECT_EQ(nbUndoService::the()->getStack()->count(), 2);
+    EXPECT_EQ(steps(), 2);
 }
 
 TEST_F(ClipPlanes, PlanesCutTogetherAndGoOneByOne)
@@ -112,12 +95,11 @@ TEST_F(ClipPlanes, PlanesCutTogetherAndGoOneByOne)
 
 TEST_F(ClipPlanes, WithoutASceneOrASelectedPlaneOneLineSaysSo)
 {
-    QString error;
-    EXPECT_FALSE(stage.commands().run("scene.removeClipPlane", {}, error));
+    EXPECT_FALSE(run("scene.removeClipPlane"));
     EXPECT_EQ(error, "select a clip plane first");
     EXPECT_EQ(stage.selectedName(), kStartSceneMainObject);
     stage.clear();
-    EXPECT_FALSE(stage.commands().run("scene.addClipPlane", {}, error));
+    EXPECT_FALSE(run("scene.addClipPlane"));
     EXPECT_EQ(error, "there is nothing to be cut");
 }
 

@@ -1,14 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/core/Commands.h"
 
+#include "tests/viewer/support/StageTest.h"
 #include "viewer/core/SessionChecks.h"
-#include "viewer/core/Stage.h"
 #include "viewer/core/StageTool.h"
-
-#include <QJsonArray>
-#include <QJsonObject>
-
-#include <gtest/gtest.h>
 
 namespace viewer {
 namespace {
@@ -94,14 +89,11 @@ public:
     QStringList log;
 };
 
-class StageToolTest : public testing::Test
+class StageToolTest : public StageTest
 {
 protected:
     StageToolTest()
-        : stage(view)
     {
-        stage.resize(640, 480, 1.0F);
-        stage.showStartScene();
         stage.addTool(tool);
         tool.log.clear();
     }
@@ -109,8 +101,6 @@ protected:
     ~StageToolTest() override { stage.removeTool(tool); }
 
     RecordingTool tool;
-    nbOSGWidget view;
-    Stage stage;
 };
 
 TEST_F(StageToolTest, AToolTakesThePlaceOfTheGizmoAndGivesItBack)
@@ -145,8 +135,6 @@ TEST_F(StageToolTest, AToolHearsOfSelectionViewAndEndOfTheScene)
 
 TEST_F(StageToolTest, PicturesAreOfferedAndARefusalIsToldInOneLine)
 {
-    QString error;
-
     EXPECT_TRUE(stage.takePicture("label.png", { 1.F, 1.F }, error));
     EXPECT_FALSE(stage.takePicture("broken.png", { 1.F, 1.F }, error));
     EXPECT_EQ(error, "broken.png: no picture");

@@ -1,15 +1,10 @@
 // SPDX-License-Identifier: MIT
 // From a model file and a session to the pixels of the picture, with real events.
-#include "tests/viewer/support/GuiTest.h"
+#include "tests/viewer/support/ShownWindow.h"
 #include "viewer/core/SceneBuilder.h"
-#include "viewer/gui/MainWindow.h"
-#include "viewer/gui/SessionPlayer.h"
-#include "viewer/gui/ViewWidget.h"
 
 #include <QFile>
 #include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 namespace viewer {
 namespace {
@@ -29,57 +24,19 @@ bool isRed(QRgb pixel)
     return qRed(pixel) > 200 && qGreen(pixel) < 60 && qBlue(pixel) < 60;
 }
 
-/// A window with the shipped model loaded and selected, in a view of 900 x 700.
-class FirstLight : public GuiTest
+class FirstLight : public ShownWindow
 {
 protected:
-    FirstLight()
-        : window(MainWindow::Attendance::Unattended)
-    {
-        QObject::connect(&window, &MainWindow::problem,
-                         [this](const QString& text) { problems.append(text); });
-        window.show();
-    }
-
     /// Replays steps on the loaded model.
-    void replay(const std::vector<SessionStep>& steps)
+    void replaySteps(const std::vector<SessionStep>& steps)
     {
         Session session;
         session.sizePx = { 900, 700 };
         session.files.append(kModel);
         session.steps = steps;
-        replay(session, std::nullopt);
-    }
-
-    void replay(const Session& session, const std::optional<QDir>& pictures)
-    {
-        bool done = false;
-        const auto connection =
-            QObject::connect(&window, &MainWindow::replayFinished, [&done] { done = true; });
-        window.replay(session, pictures);
-        waitUntil([&] { return done || !problems.isEmpty(); });
-        QObject::disconnect(connection);
+        replay(session);
         EXPECT_EQ(problems, QStringList());
         EXPECT_EQ(window.player().getFailures(), QStringList());
-    }
-
-    static SessionStep moveTo(const char* handle)
-    {
-        SessionStep step;
-        step.type = SessionStep::Type::Move;
-        step.at.kind = SessionTarget::Kind::Handle;
-        step.at.name = QLatin1String(handle);
-        return step;
-    }
-
-    Stage& stage() { return window.view().stage(); }
-
-    QImage picture()
-    {
-        QString error;
-        const QImage image = window.view().takePicture(error);
-        EXPECT_FALSE(image.isNull()) << error.toStdString();
-        return image;
     }
 
     /// How many pixels around a place pass a test.
@@ -97,23 +54,20 @@ protected:
         }
         return count;
     }
-
-    QStringList problems;
-    MainWindow window;
 };
 
 TEST_F(FirstLight, TheHandleUnderThePointerTurnsOrangeAndBackAgain)
 {
-    replay({});
-    SessionStep step = moveTo("xaShape");
-    replay({ step });
+    replaySteps({});
+    SessionStep step = stepAt(SessionStep::Type::Move, SessionTarget::Kind::Handle, "xaShape");
+    replaySteps({ step });
     const osg::Pnt2f pointer = stage().view().getMousePosition();
 
     EXPECT_GT(countAround(picture(), pointer, isOrange), 3);
 
     SessionStep leave;
     leave.type = SessionStep::Type::Leave;
-    replay({ step, leave });
+    replaySteps({ step, leave });
     EXPECT_EQ(countAround(picture(), pointer, isOrange), 0);
     EXPECT_GT(countAround(picture(), pointer, isRed), 3);
 }
@@ -126,7 +80,8 @@ TEST_F(FirstLight, TwoReplaysGiveTheSamePicture)
     shot.type = SessionStep::Type::Checkpoint;
     shot.name = QStringLiteral("shot");
     shot.screenshot = true;
-    session.steps = { moveTo("ryShape"), shot };
+    session.steps = { stepAt(SessionStep::Type::Move, SessionTarget::Kind::Handle, "ryShape"),
+                      shot };
     QByteArray bytes[2];
 
     for (QByteArray& picture : bytes) {

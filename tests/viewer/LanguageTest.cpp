@@ -2,29 +2,20 @@
 // The program in other languages than its own.
 #include "viewer/core/Language.h"
 
-#include "tests/viewer/support/GuiTest.h"
-#include "viewer/core/SessionTargets.h"
+#include "tests/viewer/support/ShownWindow.h"
 #include "viewer/core/Text.h"
 #include "viewer/gui/LogPanel.h"
-#include "viewer/gui/MainWindow.h"
 #include "viewer/gui/PanelDocks.h"
-#include "viewer/gui/ViewWidget.h"
 
-#include <nbKernelServices/nbUndoService.h>
 #include <nbNotification/NotificationManager.h>
 
 #include <QAction>
-#include <QDockWidget>
 #include <QFile>
 #include <QLabel>
 #include <QMenuBar>
-#include <QMouseEvent>
 #include <QStatusBar>
 #include <QToolBar>
-#include <QUndoStack>
 #include <QXmlStreamReader>
-
-#include <gtest/gtest.h>
 
 #include <map>
 #include <set>
@@ -85,15 +76,12 @@ std::set<QString> textsOf(const MainWindow& window)
     return texts;
 }
 
-class LanguageTest : public GuiTest
+class LanguageTest : public ShownWindow
 {
 protected:
     LanguageTest()
-        : window(MainWindow::Attendance::Unattended)
     {
         window.resize(900, 700);
-        window.show();
-        window.showStartScene();
         waitForQuiet();
     }
 
@@ -105,22 +93,13 @@ protected:
         waitForQuiet();
     }
 
-    QAction* action(const char* name) { return window.findChild<QAction*>(QLatin1String(name)); }
+    QAction* action(const char* name) { return find<QAction>(name); }
 
-    Stage& stage() { return window.view().stage(); }
-
-    void send(QEvent::Type type, QPointF at, Qt::MouseButton button, Qt::MouseButtons held)
-    {
-        QMouseEvent event(type, at, button, held, Qt::NoModifier);
-        QCoreApplication::sendEvent(&window.view(), &event);
-    }
-
-    void drag(QPointF from, double y)
+    void dragDown(QPointF from, double y)
     {
         constexpr int kSteps = 4;
         for (int i = 1; i <= kSteps; ++i) {
-            send(QEvent::MouseMove, from + QPointF(0, y * i / kSteps), Qt::NoButton,
-                 Qt::LeftButton);
+            move(from + QPointF(0, y * i / kSteps));
         }
         EXPECT_NE(stage().gizmo().draggedValues(), "") << "nothing is dragged";
     }
@@ -131,8 +110,6 @@ protected:
             nbec::notification::NotificationManager::getInstance()->getVisibleTexts(900, 700);
         return texts.empty() ? QString() : texts.back().text;
     }
-
-    MainWindow window;
 };
 
 TEST_F(LanguageTest, TheProgramFindsEveryTranslation)
@@ -185,25 +162,18 @@ TEST_F(LanguageTest, MenusAndTextsOverTheViewFollowAtOnce)
     ASSERT_TRUE(stage().selectByName("Knot"));
     stage().showGizmo(Gizmo::Translate);
     waitForQuiet();
-    SessionTarget target;
-    target.kind = SessionTarget::Kind::Handle;
-    target.name = QStringLiteral("yaShape");
-    osg::Pnt2f px;
-    QString error;
-    ASSERT_TRUE(resolveTarget(target, stage(), px, error)) << error.toStdString();
-    const QPointF start = window.view().toLogical(px);
-    send(QEvent::MouseMove, start, Qt::NoButton, Qt::NoButton);
-    send(QEvent::MouseButtonPress, start, Qt::LeftButton, Qt::LeftButton);
+    const QPointF start = placeOf(SessionTarget::Kind::Handle, "yaShape");
+    press(start);
 
-    drag(start, -20);
+    dragDown(start, -20);
     EXPECT_TRUE(textOverTheView().startsWith(QLatin1String("Verschiebung (0.00, ")))
         << textOverTheView().toStdString();
     window.setLanguage(Language::French);
-    drag(start, -40);
+    dragDown(start, -40);
     EXPECT_TRUE(textOverTheView().startsWith(QLatin1String("Translation (0.00, ")))
         << textOverTheView().toStdString();
     window.setLanguage(Language::German);
-    send(QEvent::MouseButtonRelease, start + QPointF(0, -40), Qt::LeftButton, Qt::NoButton);
+    release(start + QPointF(0, -40));
     waitForQuiet();
 
     // A step keeps the language in which it was done.
@@ -220,10 +190,9 @@ TEST_F(LanguageTest, TheWindowStaysAsItIsApartFromItsTexts)
     LogPanel::Entry entry { nbLog::Level::Warning, QStringLiteral("12:34:56"),
                             QStringLiteral("hold fast") };
     window.panels().log().append(entry);
-    window.findChild<QDockWidget*>(QStringLiteral("platesDock"))->show();
-    window.findChild<QToolBar*>(QStringLiteral("sessionTools"))->hide();
-    QString error;
-    ASSERT_TRUE(stage().commands().run(QStringLiteral("plates.edit"), true, error));
+    find<QDockWidget>("platesDock")->show();
+    find<QToolBar>("sessionTools")->hide();
+    ASSERT_TRUE(run("plates.edit", true));
     window.record(true);
     const int actions = window.findChildren<QAction*>().size();
 
@@ -231,9 +200,9 @@ TEST_F(LanguageTest, TheWindowStaysAsItIsApartFromItsTexts)
 
     EXPECT_EQ(window.findChildren<QAction*>().size(), actions);
     EXPECT_EQ(window.panels().log().text(), "12:34:56\tAvertissement\thold fast");
-    EXPECT_TRUE(window.findChild<QDockWidget*>(QStringLiteral("platesDock"))->isVisible());
-    EXPECT_FALSE(window.findChild<QDockWidget*>(QStringLiteral("sceneDock"))->isVisible());
-    EXPECT_TRUE(window.findChild<QToolBar*>(QStringLiteral("sessionTools"))->isHidden());
+    EXPECT_TRUE(find<QDockWidget>("platesDock")->isVisible());
+    EXPECT_FALSE(find<QDockWidget>("sceneDock")->isVisible());
+    EXPECT_TRUE(find<QToolBar>("sessionTools")->isHidden());
     EXPECT_TRUE(action("plates.edit")->isChecked());
     EXPECT_TRUE(window.isRecording());
     EXPECT_EQ(window.statusBar()->currentMessage(), "Enregistrement en cours");

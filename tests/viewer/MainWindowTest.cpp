@@ -1,42 +1,19 @@
 // SPDX-License-Identifier: MIT
 // The window as a person uses it, on whatever display the tests have.
-#include "viewer/gui/MainWindow.h"
-
-#include "tests/viewer/support/GuiTest.h"
+#include "tests/viewer/support/ShownWindow.h"
 #include "viewer/core/StartScene.h"
-#include "viewer/gui/SessionPlayer.h"
 #include "viewer/gui/SessionRecorder.h"
-#include "viewer/gui/ViewWidget.h"
 
 #include <QAction>
 #include <QFile>
 #include <QLabel>
-#include <QMouseEvent>
 #include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 namespace viewer {
 namespace {
 
-using Target = SessionTarget;
-
-SessionTarget named(Target::Kind kind, const char* name, QPointF offset = {})
-{
-    SessionTarget target;
-    target.kind = kind;
-    target.name = QLatin1String(name);
-    target.offsetPx = offset;
-    return target;
-}
-
-SessionStep pointerStep(SessionStep::Type type, const SessionTarget& at)
-{
-    SessionStep step;
-    step.type = type;
-    step.at = at;
-    return step;
-}
+using Kind = SessionTarget::Kind;
+using Type = SessionStep::Type;
 
 SessionStep checkpoint(const char* hover, const char* selection)
 {
@@ -48,34 +25,8 @@ SessionStep checkpoint(const char* hover, const char* selection)
     return step;
 }
 
-/// A shown window on the start scene, nobody at it.
-class MainWindowTest : public GuiTest
-{
-protected:
-    MainWindowTest()
-        : window(MainWindow::Attendance::Unattended)
-    {
-        QObject::connect(&window, &MainWindow::problem,
-                         [this](const QString& text) { problems.append(text); });
-        window.show();
-        window.showStartScene();
-    }
-
-    void play(const Session& session)
-    {
-        bool done = false;
-        const auto connection =
-            QObject::connect(&window, &MainWindow::replayFinished, [&done] { done = true; });
-        window.replay(session, std::nullopt);
-        waitUntil([&] { return done || !problems.isEmpty(); });
-        QObject::disconnect(connection);
-    }
-
-    Stage& stage() { return window.view().stage(); }
-
-    QStringList problems;
-    MainWindow window;
-};
+class MainWindowTest : public ShownWindow
+{ };
 
 TEST_F(MainWindowTest, ReplayedEventsTakeAPersonsWay)
 {
@@ -86,15 +37,15 @@ TEST_F(MainWindowTest, ReplayedEventsTakeAPersonsWay)
     orthographic.type = SessionStep::Type::Key;
     orthographic.key = "5";
     session.steps = {
-        pointerStep(SessionStep::Type::Click, named(Target::Kind::Node, "Vase")),
-        pointerStep(SessionStep::Type::Move, named(Target::Kind::Handle, "yaShape")),
+        stepAt(Type::Click, Kind::Node, "Vase"),
+        stepAt(Type::Move, Kind::Handle, "yaShape"),
         checkpoint("yaShape", "Vase"),
         orthographic,
-        pointerStep(SessionStep::Type::Move, named(Target::Kind::Handle, "rzShape")),
+        stepAt(Type::Move, Kind::Handle, "rzShape"),
         checkpoint("rzShape", "Vase"),
     };
 
-    play(session);
+    replay(session);
 
     EXPECT_EQ(problems, QStringList());
     EXPECT_EQ(window.player().getFailures(), QStringList());
@@ -106,10 +57,10 @@ TEST_F(MainWindowTest, ACheckpointThatIsNotMetIsReported)
 {
     Session session;
     session.sizePx = { 800, 600 };
-    session.steps = { pointerStep(SessionStep::Type::Move, named(Target::Kind::Handle, "xaShape")),
+    session.steps = { stepAt(Type::Move, Kind::Handle, "xaShape"),
                       checkpoint("yaShape", kStartSceneMainObject) };
 
-    play(session);
+    replay(session);
 
     ASSERT_EQ(window.player().getFailures().size(), 1);
     EXPECT_TRUE(
@@ -121,7 +72,7 @@ TEST_F(MainWindowTest, AWrongSessionLeavesEverythingAsItIs)
     Session session;
     session.selection = "Nobody";
 
-    play(session);
+    replay(session);
 
     ASSERT_EQ(problems.size(), 1);
     EXPECT_TRUE(problems[0].contains("\"Nobody\""));
@@ -134,29 +85,26 @@ TEST_F(MainWindowTest, ARecordingReplaysToTheSameState)
     Session wanted;
     wanted.sizePx = { 800, 600 };
     wanted.selection = "";
-    SessionStep orbit = pointerStep(SessionStep::Type::Press, {});
-    orbit.at.offsetPx = { 100, 500 };
+    SessionStep orbit = stepAt(Type::Press, Kind::Pixel, "", { 100, 500 });
     orbit.button = Qt::RightButton;
-    SessionStep away = pointerStep(SessionStep::Type::Move, {});
-    away.at.offsetPx = { 260, 470 };
+    const SessionStep away = stepAt(Type::Move, Kind::Pixel, "", { 260, 470 });
     SessionStep end = orbit;
     end.type = SessionStep::Type::Release;
     end.at = away.at;
-    wanted.steps = { pointerStep(SessionStep::Type::Click, named(Target::Kind::Node, "Vase")),
-                     orbit, away, end };
+    wanted.steps = { stepAt(Type::Click, Kind::Node, "Vase"), orbit, away, end };
     SessionRecorder recorder(window.view());
     window.view().fixSize(wanted.sizePx);
     window.adjustSize();
     waitUntil([&] { return window.view().stage().view().getWidth() == 800; });
     stage().select(osg::NullFC);
     recorder.start({});
-    play(wanted);
+    replay(wanted);
     const Session recorded = recorder.stop();
     const CameraPose pose = stage().pose();
     ASSERT_GT(recorded.steps.size(), wanted.steps.size());
 
     window.showStartScene();
-    play(recorded);
+    replay(recorded);
 
     EXPECT_EQ(window.player().getFailures(), QStringList());
     EXPECT_EQ(stage().selectedName(), "Vase");
@@ -223,11 +171,7 @@ TEST_F(MainWindowTest, NothingIsDrawnWhileNothingChanges)
 
 TEST_F(MainWindowTest, CommandsOfTheWindowReachTheStage)
 {
-    const auto trigger = [this](const char* name) {
-        auto* action = window.findChild<QAction*>(QLatin1String(name));
-        ASSERT_NE(action, nullptr) << name;
-        action->trigger();
-    };
+    const auto trigger = [this](const char* name) { find<QAction>(name)->trigger(); };
 
     trigger("gizmoCamera");
     EXPECT_EQ(stage().gizmo().shown(), Gizmo::CameraPivot);

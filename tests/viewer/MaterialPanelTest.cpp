@@ -1,70 +1,35 @@
 // SPDX-License-Identifier: MIT
 // Putting pictures on objects in the window, as a person does it.
-#include "viewer/core/SessionTargets.h"
-#include "viewer/core/Stage.h"
-#include "viewer/gui/MainWindow.h"
+#include "tests/viewer/support/ShownWindow.h"
 #include "viewer/gui/MaterialPicture.h"
 #include "viewer/gui/VectorEdit.h"
-#include "viewer/gui/ViewWidget.h"
-
-#include <nbKernelServices/nbUndoService.h>
 
 #include <QAbstractButton>
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDockWidget>
 #include <QDoubleSpinBox>
 #include <QDropEvent>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QMimeData>
-#include <QMouseEvent>
 #include <QSlider>
-#include <QUndoStack>
 #include <QUrl>
-
-#include "support/GuiTest.h"
 
 namespace viewer {
 namespace {
 
 const QString kLabel = QStringLiteral(NB_VIEWER_FOLDER "/models/label.png");
 
-/// A shown window on the start scene with the material panel.
-class MaterialPanelTest : public GuiTest
+class MaterialPanelTest : public ShownWindow
 {
 protected:
-    MaterialPanelTest()
-        : window(MainWindow::Attendance::Unattended)
-    {
-        QObject::connect(&window, &MainWindow::problem,
-                         [this](const QString& text) { problems.append(text); });
-        window.show();
-        window.showStartScene();
-        find<QDockWidget>("materialDock")->show();
-        waitForQuiet();
-    }
-
-    template <class Widget>
-    Widget* find(const char* name)
-    {
-        auto* found = window.findChild<Widget*>(QLatin1String(name));
-        EXPECT_NE(found, nullptr) << name;
-        return found;
-    }
-
-    Stage& stage() { return window.view().stage(); }
+    MaterialPanelTest() { showPanel("materialDock"); }
 
     /// Drops a file on the middle of an object, with the events of the window system.
     void drop(const QString& file, const char* node)
     {
         stage().selectByName(node);
-        QString error;
-        SessionTarget target;
-        target.kind = SessionTarget::Kind::Node;
-        target.name = QLatin1String(node);
-        ASSERT_TRUE(resolveTarget(target, stage(), px, error)) << error.toStdString();
+        px = placeIn(stage(), SessionTarget::Kind::Node, node);
         stage().select(osg::NullFC);
         QMimeData data;
         data.setUrls({ QUrl::fromLocalFile(file) });
@@ -84,31 +49,15 @@ protected:
             QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, letter);
             QCoreApplication::sendEvent(widget, &press);
         }
-        QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
-        QCoreApplication::sendEvent(widget, &enter);
+        pressKey(*widget, Qt::Key_Return);
     }
 
-    void mouse(QEvent::Type type, const osg::Pnt2f& at, Qt::MouseButton button,
-               Qt::MouseButtons held)
-    {
-        QMouseEvent event(type, window.view().toLogical(at), button, held, Qt::NoModifier);
-        QCoreApplication::sendEvent(&window.view(), &event);
-    }
-
-    QJsonValue value(const char* name)
-    {
-        return stage().commands().value(QLatin1String(name)).value_or(QJsonValue());
-    }
-
-    MainWindow window;
-    QStringList problems;
     osg::Pnt2f px;  ///< where the last file was dropped
 };
 
 TEST_F(MaterialPanelTest, ADroppedPictureIsSeenWhereItFellAndTheObjectKeepsItsColour)
 {
-    QString error;
-    const QImage before = window.view().takePicture(error);
+    const QImage before = picture();
     QString recorded;
     stage().commands().setListener(
         [&recorded](const QString& name, const QJsonValue&, Commands::Moment) { recorded = name; });
@@ -123,7 +72,7 @@ TEST_F(MaterialPanelTest, ADroppedPictureIsSeenWhereItFellAndTheObjectKeepsItsCo
     // Without handles and without the display of the projection.
     stage().showGizmo(Gizmo::None);
     stage().select(osg::NullFC);
-    const QImage after = window.view().takePicture(error);
+    const QImage after = picture();
 
     // The paper of the label is near white, the vase is not; far from the label nothing changes.
     const QPoint middle(static_cast<int>(px[0]), static_cast<int>(px[1]));
@@ -169,8 +118,7 @@ TEST_F(MaterialPanelTest, APictureOnATexturedModelKeepsItsOwnColours)
     stage().showGizmo(Gizmo::None);
     stage().select(osg::NullFC);
 
-    QString error;
-    const QImage after = window.view().takePicture(error);
+    const QImage after = picture();
     const QPoint middle(after.width() / 2, after.height() / 2);
     int red = 0;
     for (int y = -10; y <= 10; ++y) {
@@ -209,7 +157,7 @@ TEST_F(MaterialPanelTest, TypedNumbersMoveThePictureAloneAndAreOneStepEach)
     const QList<QDoubleSpinBox*> boxes = edit->findChildren<QDoubleSpinBox*>();
     ASSERT_EQ(boxes.size(), 3);
     const double aspect = boxes[0]->value() / boxes[1]->value();
-    const int steps = nbUndoService::the()->getStack()->index();
+    const int stepsBefore = steps();
 
     boxes[0]->setFocus();
     boxes[0]->selectAll();
@@ -217,7 +165,7 @@ TEST_F(MaterialPanelTest, TypedNumbersMoveThePictureAloneAndAreOneStepEach)
 
     EXPECT_EQ(boxes[0]->value(), 0.25);
     EXPECT_NEAR(boxes[0]->value() / boxes[1]->value(), aspect, 0.02) << "the aspect is kept";
-    EXPECT_EQ(nbUndoService::the()->getStack()->index(), steps + 1);
+    EXPECT_EQ(steps(), stepsBefore + 1);
     EXPECT_TRUE(stage().undo());
     EXPECT_NE(boxes[0]->value(), 0.25);
     EXPECT_EQ(problems, QStringList());
@@ -234,8 +182,7 @@ TEST_F(MaterialPanelTest, TheProjectionIsSwitchedTypedAndDraggedAroundAClickedPl
 
     projection->setFocus();
     for (int i = 0; i < 2; ++i) {
-        QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
-        QCoreApplication::sendEvent(projection, &down);
+        pressKey(*projection, Qt::Key_Down);
     }
     waitForQuiet();
     EXPECT_EQ(value("texture.projection"), QJsonValue("triplanar"));
@@ -246,26 +193,19 @@ TEST_F(MaterialPanelTest, TheProjectionIsSwitchedTypedAndDraggedAroundAClickedPl
 
     find<QAbstractButton>("texture-place")->click();
     const osg::Pnt2f place = px + osg::Vec2f(5, 40);
-    mouse(QEvent::MouseButtonPress, place, Qt::LeftButton, Qt::LeftButton);
-    mouse(QEvent::MouseButtonRelease, place, Qt::LeftButton, Qt::NoButton);
+    click(window.view().toLogical(place));
     waitForQuiet();
     EXPECT_EQ(stage().handleAt(place), "grid");
     EXPECT_TRUE(find<QAbstractButton>("texture-universal")->isChecked());
 
     const QList<QDoubleSpinBox*> boxes =
         find<VectorEdit>("texture.triplanarOffsetV")->findChildren<QDoubleSpinBox*>();
-    SessionTarget target;
-    target.kind = SessionTarget::Kind::Handle;
-    target.name = QStringLiteral("yaShape");
-    QString error;
-    osg::Pnt2f at;
-    ASSERT_TRUE(resolveTarget(target, stage(), at, error)) << error.toStdString();
-    mouse(QEvent::MouseMove, at, Qt::NoButton, Qt::NoButton);
-    mouse(QEvent::MouseButtonPress, at, Qt::LeftButton, Qt::LeftButton);
-    mouse(QEvent::MouseMove, at + osg::Vec2f(0, -20), Qt::NoButton, Qt::LeftButton);
-    mouse(QEvent::MouseMove, at + osg::Vec2f(0, -40), Qt::NoButton, Qt::LeftButton);
+    const QPointF at = placeOf(SessionTarget::Kind::Handle, "yaShape");
+    press(at);
+    move(at + QPointF(0, -20));
+    move(at + QPointF(0, -40));
     EXPECT_EQ(value("texture.preview"), QJsonValue(false));
-    mouse(QEvent::MouseButtonRelease, at + osg::Vec2f(0, -40), Qt::LeftButton, Qt::NoButton);
+    release(at + QPointF(0, -40));
     waitForQuiet();
     EXPECT_LT(boxes[2]->value(), -0.001) << "the picture went up along z";
     EXPECT_EQ(boxes[0]->value(), 0.0);
@@ -288,25 +228,19 @@ TEST_F(MaterialPanelTest, ButtonsShowHandlesAndThePreviewWaitsForTheEndOfADrag)
     find<QAbstractButton>("texture-translate")->click();
     EXPECT_EQ(value("texture.handles"), QJsonValue("translate"));
     EXPECT_TRUE(find<QAbstractButton>("texture-translate")->isChecked());
-    auto* const picture = find<MaterialPicture>("materialPicture");
-    const QImage before = picture->picture();
+    auto* const shown = find<MaterialPicture>("materialPicture");
+    const QImage before = shown->picture();
     ASSERT_FALSE(before.isNull());
 
-    SessionTarget target;
-    target.kind = SessionTarget::Kind::Handle;
-    target.name = QStringLiteral("xyaShape");
-    QString error;
-    osg::Pnt2f at;
-    ASSERT_TRUE(resolveTarget(target, stage(), at, error)) << error.toStdString();
-    mouse(QEvent::MouseMove, at, Qt::NoButton, Qt::NoButton);
-    mouse(QEvent::MouseButtonPress, at, Qt::LeftButton, Qt::LeftButton);
-    mouse(QEvent::MouseMove, at + osg::Vec2f(15, 10), Qt::NoButton, Qt::LeftButton);
+    const QPointF at = placeOf(SessionTarget::Kind::Handle, "xyaShape");
+    press(at);
+    move(at + QPointF(15, 10));
     EXPECT_EQ(value("texture.preview"), QJsonValue(false));
-    EXPECT_EQ(picture->picture(), before);
-    mouse(QEvent::MouseButtonRelease, at + osg::Vec2f(15, 10), Qt::LeftButton, Qt::NoButton);
+    EXPECT_EQ(shown->picture(), before);
+    release(at + QPointF(15, 10));
 
     EXPECT_EQ(value("texture.preview"), QJsonValue(true));
-    EXPECT_NE(picture->picture(), before);
+    EXPECT_NE(shown->picture(), before);
     find<QAbstractButton>("texture-place")->click();
     EXPECT_EQ(value("texture.place"), QJsonValue(true));
     find<QAbstractButton>("texture.mask")->click();
@@ -346,8 +280,7 @@ TEST_F(MaterialPanelTest, SwitchesOfAProjectionsHandlesReachThem)
     drop(kLabel, "Vase");
     for (const auto& [projection, name] : { std::pair("uv", "texture.uvKeepAspect"),
                                             std::pair("triplanar", "texture.ringsTilted") }) {
-        QString error;
-        ASSERT_TRUE(stage().commands().run("texture.projection", QLatin1String(projection), error));
+        ASSERT_TRUE(run("texture.projection", QLatin1String(projection)));
         auto* box = find<QCheckBox>(name);
         EXPECT_TRUE(box->isVisibleTo(&window)) << name;
         box->click();

@@ -3,14 +3,11 @@
 // tree afterwards.
 #include "viewer/gui/ModelLoader.h"
 
-#include "tests/viewer/support/GuiTest.h"
-#include "viewer/gui/MainWindow.h"
-#include "viewer/gui/ViewWidget.h"
+#include "tests/viewer/support/ShownWindow.h"
 
 #include <nbInteraction/PickTreeBuilder.h>
 
 #include <QFile>
-#include <QKeyEvent>
 #include <QProgressBar>
 #include <QTemporaryDir>
 #include <QToolButton>
@@ -41,7 +38,7 @@ void writeGrid(const QString& path, int n)
     file.write(text);
 }
 
-class ModelLoaderTest : public GuiTest
+class ModelLoaderTest : public ShownWindow
 {
 protected:
     ModelLoaderTest()
@@ -118,14 +115,9 @@ TEST_F(ModelLoaderTest, GivenUpInEitherPhaseItStaysSilent)
 
 TEST_F(ModelLoaderTest, EscapeOrTheButtonStopLoadingAndTheSceneStaysAsItWas)
 {
-    MainWindow window(MainWindow::Attendance::Unattended);
-    window.show();
-    window.showStartScene();
-    Stage& stage = window.view().stage();
-    const std::size_t before = stage.triangleCount();
-    auto* bar = window.findChild<QProgressBar*>(QStringLiteral("progress"));
-    auto* stop = window.findChild<QToolButton*>(QStringLiteral("stopLoading"));
-    ASSERT_TRUE(bar != nullptr && stop != nullptr);
+    const std::size_t before = stage().triangleCount();
+    auto* bar = find<QProgressBar>("progress");
+    auto* stop = find<QToolButton>("stopLoading");
     bool isShown = false;
     QObject::connect(&window, &MainWindow::filesShown, [&isShown] { isShown = true; });
 
@@ -134,8 +126,7 @@ TEST_F(ModelLoaderTest, EscapeOrTheButtonStopLoadingAndTheSceneStaysAsItWas)
         EXPECT_TRUE(bar->isVisibleTo(&window));
         EXPECT_TRUE(bar->text().contains("grid.obj")) << bar->text().toStdString();
         if (byKey) {
-            QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
-            QCoreApplication::sendEvent(&window.view(), &escape);
+            pressKey(window.view(), Qt::Key_Escape);
         } else {
             stop->click();
         }
@@ -143,8 +134,8 @@ TEST_F(ModelLoaderTest, EscapeOrTheButtonStopLoadingAndTheSceneStaysAsItWas)
 
         EXPECT_FALSE(bar->isVisibleTo(&window));
         EXPECT_FALSE(isShown);
-        EXPECT_EQ(stage.triangleCount(), before);
-        EXPECT_FALSE(stage.selectedName().empty());
+        EXPECT_EQ(stage().triangleCount(), before);
+        EXPECT_FALSE(stage().selectedName().empty());
     }
 }
 

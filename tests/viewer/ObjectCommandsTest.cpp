@@ -1,49 +1,24 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/core/ObjectCommands.h"
 
+#include "tests/viewer/support/StageTest.h"
 #include "viewer/core/SceneBuilder.h"
-#include "viewer/core/Stage.h"
 #include "viewer/core/StartScene.h"
 
 #include <nbKernel/nbScenegraph.h>
-#include <nbKernelServices/nbUndoService.h>
-
-#include <QJsonArray>
-#include <QtWidgets/QUndoStack>
-
-#include <gtest/gtest.h>
 
 namespace viewer {
 namespace {
 
-class ObjectCommands : public testing::Test
+class ObjectCommands : public StageTest
 {
 protected:
-    ObjectCommands()
-        : stage(view)
-    {
-        stage.resize(640, 480, 1.0F);
-        stage.showStartScene();
-    }
-
     /// @return the reason of a refusal, "" if it was done
-    QString run(const char* command, const QJsonValue& value)
+    QString refusal(const char* command, const QJsonValue& argument)
     {
-        QString error;
-        const bool isDone = stage.commands().run(command, value, error);
-        EXPECT_EQ(isDone, error.isEmpty());
+        run(command, argument);
         return error;
     }
-
-    QJsonValue valueOf(const char* name)
-    {
-        return stage.commands().value(name).value_or(QJsonValue::Undefined);
-    }
-
-    static int stepCount() { return nbUndoService::the()->getStack()->index(); }
-
-    nbOSGWidget view;
-    Stage stage;
 };
 
 TEST_F(ObjectCommands, PathsLeadToObjectsAndBack)
@@ -58,9 +33,9 @@ TEST_F(ObjectCommands, PathsLeadToObjectsAndBack)
         EXPECT_EQ(objectAt(nowhere), osg::NodePtr()) << nowhere;
     }
     stage.select(osg::NullFC);
-    EXPECT_EQ(run("scene.select", QJsonArray { path }), "");
+    EXPECT_EQ(refusal("scene.select", QJsonArray { path }), "");
     EXPECT_EQ(stage.selectedName(), kStartSceneMainObject);
-    EXPECT_NE(run("scene.select", QJsonArray { path, "99" }), "");
+    EXPECT_NE(refusal("scene.select", QJsonArray { path, "99" }), "");
     EXPECT_EQ(stage.selectedName(), kStartSceneMainObject) << "a refusal changes nothing";
 }
 
@@ -68,15 +43,15 @@ TEST_F(ObjectCommands, EveryVectorIsSetAsOneStepAndReadBack)
 {
     for (const char* name : { "object.translation", "object.rotation", "object.scale",
                               "object.rotatePivot", "object.scalePivot" }) {
-        const QJsonValue before = valueOf(name);
-        const int steps = stepCount();
+        const QJsonValue before = value(name);
+        const int stepsBefore = steps();
 
-        EXPECT_EQ(run(name, QJsonArray { 1.5, 20.0, 3.25 }), "") << name;
+        EXPECT_EQ(refusal(name, QJsonArray { 1.5, 20.0, 3.25 }), "") << name;
 
-        EXPECT_TRUE(isNear(valueOf(name), QJsonArray { 1.5, 20.0, 3.25 }, 1e-4)) << name;
-        EXPECT_EQ(stepCount(), steps + 1) << name;
+        EXPECT_TRUE(isNear(value(name), QJsonArray { 1.5, 20.0, 3.25 }, 1e-4)) << name;
+        EXPECT_EQ(steps(), stepsBefore + 1) << name;
         EXPECT_TRUE(stage.undo());
-        EXPECT_TRUE(isNear(valueOf(name), before, 1e-6)) << name;
+        EXPECT_TRUE(isNear(value(name), before, 1e-6)) << name;
     }
 }
 
@@ -86,12 +61,12 @@ TEST_F(ObjectCommands, ASwitchActsOnAllSelectedObjectsAndIsTakenBack)
     const std::vector<osg::NodePtr> objects = stage.selectedObjects();
     ASSERT_GT(objects.size(), 2U);
 
-    EXPECT_EQ(run("object.visible", false), "");
+    EXPECT_EQ(refusal("object.visible", false), "");
     for (const osg::NodePtr& object : objects) {
         EXPECT_FALSE(object->getActive());
     }
-    EXPECT_EQ(run("object.visible", false), "");
-    EXPECT_EQ(stepCount(), 1) << "the second time changed nothing";
+    EXPECT_EQ(refusal("object.visible", false), "");
+    EXPECT_EQ(steps(), 1) << "the second time changed nothing";
     EXPECT_TRUE(stage.undo());
     for (const osg::NodePtr& object : objects) {
         EXPECT_TRUE(object->getActive());
@@ -100,19 +75,19 @@ TEST_F(ObjectCommands, ASwitchActsOnAllSelectedObjectsAndIsTakenBack)
 
 TEST_F(ObjectCommands, RefusalsSayWhyAndChangeNothing)
 {
-    EXPECT_EQ(run("object.translation", QJsonArray { 1, 2 }),
+    EXPECT_EQ(refusal("object.translation", QJsonArray { 1, 2 }),
               "object.translation: expected an array of 3 numbers");
-    EXPECT_NE(run("object.translation", QJsonArray { 1, 2, "3" }), "");
-    EXPECT_NE(run("object.translation", QJsonArray { 1e300, 0, 0 }), "");
-    EXPECT_NE(run("object.visible", 1), "");
-    const QJsonValue before = valueOf("object.translation");
-    EXPECT_EQ(run("object.locked", true), "");
-    EXPECT_EQ(run("object.translation", QJsonArray { 1, 2, 3 }),
+    EXPECT_NE(refusal("object.translation", QJsonArray { 1, 2, "3" }), "");
+    EXPECT_NE(refusal("object.translation", QJsonArray { 1e300, 0, 0 }), "");
+    EXPECT_NE(refusal("object.visible", 1), "");
+    const QJsonValue before = value("object.translation");
+    EXPECT_EQ(refusal("object.locked", true), "");
+    EXPECT_EQ(refusal("object.translation", QJsonArray { 1, 2, 3 }),
               "the selected object is locked or cannot take this value");
-    EXPECT_EQ(valueOf("object.translation"), before);
+    EXPECT_EQ(value("object.translation"), before);
     stage.select(osg::NullFC);
-    EXPECT_EQ(run("object.scale", QJsonArray { 1, 2, 3 }), "nothing is selected");
-    EXPECT_TRUE(valueOf("object.name").isNull());
+    EXPECT_EQ(refusal("object.scale", QJsonArray { 1, 2, 3 }), "nothing is selected");
+    EXPECT_TRUE(value("object.name").isNull());
 }
 
 }  // namespace

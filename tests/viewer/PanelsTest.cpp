@@ -1,51 +1,23 @@
 // SPDX-License-Identifier: MIT
+#include "tests/viewer/support/ShownWindow.h"
 #include "viewer/core/StartScene.h"
-#include "viewer/gui/MainWindow.h"
-#include "viewer/gui/ViewWidget.h"
 
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
-#include <QDockWidget>
 #include <QDoubleSpinBox>
 #include <QTreeWidget>
-
-#include "support/GuiTest.h"
 
 namespace viewer {
 namespace {
 
-class Panels : public GuiTest
-{
-protected:
-    Panels()
-        : window(MainWindow::Attendance::Unattended)
-    {
-        QObject::connect(&window, &MainWindow::problem,
-                         [this](const QString& text) { problems.append(text); });
-        window.show();
-        window.showStartScene();
-    }
-
-    void showPanel(const char* name)
-    {
-        auto* dock = window.findChild<QDockWidget*>(QLatin1String(name));
-        ASSERT_NE(dock, nullptr);
-        dock->show();
-        waitForQuiet();
-    }
-
-    Stage& stage() { return window.view().stage(); }
-
-    MainWindow window;
-    QStringList problems;
-};
+class Panels : public ShownWindow
+{ };
 
 TEST_F(Panels, NumbersTypedMoveTheObjectAndFollowIt)
 {
     showPanel("objectDock");
-    auto* edit = window.findChild<QWidget*>(QStringLiteral("object.translation"));
-    ASSERT_NE(edit, nullptr);
-    const QList<QDoubleSpinBox*> boxes = edit->findChildren<QDoubleSpinBox*>();
+    const QList<QDoubleSpinBox*> boxes =
+        find<QWidget>("object.translation")->findChildren<QDoubleSpinBox*>();
     ASSERT_EQ(boxes.size(), 3);
 
     boxes[0]->setValue(2.5);
@@ -61,8 +33,7 @@ TEST_F(Panels, NumbersTypedMoveTheObjectAndFollowIt)
 TEST_F(Panels, TheTreeSelectsAndShowsWhatIsSelected)
 {
     showPanel("sceneDock");
-    auto* tree = window.findChild<QTreeWidget*>(QStringLiteral("sceneTree"));
-    ASSERT_NE(tree, nullptr);
+    auto* tree = find<QTreeWidget>("sceneTree");
     ASSERT_EQ(tree->selectedItems().size(), 1);
     EXPECT_EQ(tree->selectedItems().first()->text(0), kStartSceneMainObject);
 

@@ -1,41 +1,25 @@
 // SPDX-License-Identifier: MIT
+#include "tests/viewer/support/ShownWindow.h"
 #include "viewer/core/PlatesTool.h"
-#include "viewer/core/Stage.h"
-#include "viewer/gui/MainWindow.h"
-#include "viewer/gui/ViewWidget.h"
-
-#include <nbKernelServices/nbUndoService.h>
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDockWidget>
 #include <QDoubleSpinBox>
-#include <QJsonArray>
-#include <QJsonObject>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMouseEvent>
 #include <QSpinBox>
 #include <QTemporaryDir>
 #include <QToolButton>
-#include <QUndoStack>
-
-#include "support/GuiTest.h"
 
 namespace viewer {
 namespace {
 
-/// A window without models, its view 800 x 600, with two plates of 100 x 80 pixels: "red" around
-/// (150, 140), "blue" around (400, 300) over the large "ground" behind the scene.
-class Plates : public GuiTest
+class Plates : public ShownWindow
 {
 protected:
     Plates()
-        : window(MainWindow::Attendance::Unattended)
     {
-        QObject::connect(&window, &MainWindow::problem,
-                         [this](const QString& text) { problems.append(text); });
-        window.show();
+        stage().clear();
         window.view().fixSize({ 800, 600 });
         waitForQuiet();
         addColor("ground", "#404040", 400, 300, 800, 600, false);
@@ -56,16 +40,6 @@ protected:
                           { "size", QJsonArray { width / 600, height / 600 } } });
     }
 
-    bool run(const char* command, const QJsonValue& value = {})
-    {
-        return stage().commands().run(command, value, lastError);
-    }
-
-    QJsonValue value(const char* name)
-    {
-        return stage().commands().value(name).value_or(QJsonValue());
-    }
-
     QStringList selected()
     {
         QStringList names;
@@ -75,85 +49,19 @@ protected:
         return names;
     }
 
-    void send(QEvent::Type type, const QPointF& place, Qt::MouseButton button,
-              Qt::MouseButtons held)
-    {
-        QMouseEvent event(type, place, button, held, modifiers);
-        QCoreApplication::sendEvent(&window.view(), &event);
-    }
-
-    void press(const QPointF& place)
-    {
-        send(QEvent::MouseMove, place, Qt::NoButton, Qt::NoButton);
-        send(QEvent::MouseButtonPress, place, Qt::LeftButton, Qt::LeftButton);
-    }
-
-    void move(const QPointF& place)
-    {
-        send(QEvent::MouseMove, place, Qt::NoButton, Qt::LeftButton);
-    }
-
-    void release(const QPointF& place)
-    {
-        send(QEvent::MouseButtonRelease, place, Qt::LeftButton, Qt::NoButton);
-    }
-
-    void click(const QPointF& place)
-    {
-        press(place);
-        release(place);
-    }
-
-    void drag(const QPointF& from, const QPointF& to)
-    {
-        press(from);
-        move(from + 0.3 * (to - from));
-        move(to);
-        release(to);
-    }
-
-    void key(int code)
-    {
-        QKeyEvent down(QEvent::KeyPress, code, Qt::NoModifier);
-        QCoreApplication::sendEvent(&window.view(), &down);
-    }
-
     QPointF centre()
     {
         const QJsonArray place = value("plates.centre").toArray();
         return { place.at(0).toDouble(), place.at(1).toDouble() };
     }
 
-    QColor colorAt(int x, int y)
-    {
-        QString error;
-        const QImage picture = window.view().takePicture(error);
-        EXPECT_EQ(error, QString());
-        return picture.pixelColor(x, y);
-    }
+    QColor colorAt(int x, int y) { return picture().pixelColor(x, y); }
 
     void expectCentre(double x, double y)
     {
         EXPECT_NEAR(centre().x(), x, 1e-3);
         EXPECT_NEAR(centre().y(), y, 1e-3);
     }
-
-    static int stepCount() { return nbUndoService::the()->getStack()->index(); }
-
-    template <class Widget>
-    Widget* child(const char* name)
-    {
-        auto* found = window.findChild<Widget*>(QLatin1String(name));
-        EXPECT_NE(found, nullptr) << name;
-        return found;
-    }
-
-    Stage& stage() { return window.view().stage(); }
-
-    MainWindow window;
-    Qt::KeyboardModifiers modifiers = Qt::NoModifier;
-    QStringList problems;
-    QString lastError;
 };
 
 TEST_F(Plates, ClicksSelectByTheirModifiers)
@@ -171,7 +79,7 @@ TEST_F(Plates, ClicksSelectByTheirModifiers)
     EXPECT_EQ(selected(), QStringList { "ground" });
     click({ 150, 140 });
     EXPECT_EQ(selected(), QStringList { "red" }) << "within the frame of the ground";
-    EXPECT_EQ(stepCount(), 3) << "only the plates added";
+    EXPECT_EQ(steps(), 3) << "only the plates added";
 }
 
 TEST_F(Plates, BodyMovesTheSelectionInOneStepAndEscTakesItBack)
@@ -180,15 +88,15 @@ TEST_F(Plates, BodyMovesTheSelectionInOneStepAndEscTakesItBack)
     drag({ 280, 200 }, { 310, 220 });
 
     expectCentre(430, 320);
-    EXPECT_EQ(stepCount(), 4);
+    EXPECT_EQ(steps(), 4);
     press({ 280, 200 });
     move({ 250, 200 });
     move({ 200, 200 });
     expectCentre(350, 320);
-    key(Qt::Key_Escape);
+    pressKey(window.view(), Qt::Key_Escape);
     release({ 200, 200 });
     expectCentre(430, 320);
-    EXPECT_EQ(stepCount(), 4);
+    EXPECT_EQ(steps(), 4);
     EXPECT_TRUE(stage().undo());
     expectCentre(400, 300);
     EXPECT_EQ(selected(), QStringList({ "red", "blue" }));
@@ -269,8 +177,8 @@ TEST_F(Plates, ADroppedPictureBecomesAPlateThere)
 
 TEST_F(Plates, ThePanelListsStacksHidesAndRenames)
 {
-    child<QDockWidget>("platesDock")->show();
-    auto* list = child<QListWidget>("plateList");
+    showPanel("platesDock");
+    auto* list = find<QListWidget>("plateList");
     const auto rows = [list] {
         QStringList texts;
         for (int i = 0; i < list->count(); ++i) {
@@ -282,7 +190,7 @@ TEST_F(Plates, ThePanelListsStacksHidesAndRenames)
 
     list->item(1)->setSelected(true);
     EXPECT_EQ(selected(), QStringList { "red" });
-    child<QToolButton>("plates.forward")->click();
+    find<QToolButton>("plates.forward")->click();
     EXPECT_EQ(rows(), QStringList({ "red", "blue", "ground" }));
     EXPECT_TRUE(list->item(0)->isSelected());
     list->item(0)->setCheckState(Qt::Unchecked);
@@ -298,23 +206,23 @@ TEST_F(Plates, ThePanelListsStacksHidesAndRenames)
 
 TEST_F(Plates, ThePanelEditsPropertiesWithUndo)
 {
-    child<QDockWidget>("platesDock")->show();
-    auto* opacity = child<QSpinBox>("plates.opacity");
+    showPanel("platesDock");
+    auto* opacity = find<QSpinBox>("plates.opacity");
     EXPECT_FALSE(opacity->isEnabled());
     click({ 150, 140 });
     EXPECT_TRUE(opacity->isEnabled());
 
     opacity->setValue(50);
     EXPECT_EQ(value("plates.opacity"), 0.5);
-    auto* side = child<QComboBox>("plates.front");
+    auto* side = find<QComboBox>("plates.front");
     side->setCurrentIndex(1);
     emit side->activated(1);
     EXPECT_EQ(value("plates.front"), false);
-    child<QWidget>("plates.rotation")->findChild<QDoubleSpinBox*>()->setValue(30.0);
+    find<QWidget>("plates.rotation")->findChild<QDoubleSpinBox*>()->setValue(30.0);
     EXPECT_EQ(value("plates.rotation"), 30.0);
-    child<QCheckBox>("plates.snapping")->click();
+    find<QCheckBox>("plates.snapping")->click();
     EXPECT_TRUE(stage().gizmo().isSnapping());
-    EXPECT_EQ(stepCount(), 6);
+    EXPECT_EQ(steps(), 6);
     EXPECT_TRUE(stage().undo() && stage().undo() && stage().undo());
     EXPECT_EQ(opacity->value(), 100);
     EXPECT_EQ(side->currentIndex(), 0);
@@ -323,24 +231,23 @@ TEST_F(Plates, ThePanelEditsPropertiesWithUndo)
 
 TEST_F(Plates, TextsBecomePicturesOfTheirColor)
 {
-    child<QDockWidget>("platesDock")->show();
-    child<QLineEdit>("plateText")->setText("A title");
-    child<QDoubleSpinBox>("plateTextHeight")->setValue(20.0);
-    child<QToolButton>("plates.addText")->click();
+    showPanel("platesDock");
+    find<QLineEdit>("plateText")->setText("A title");
+    find<QDoubleSpinBox>("plateTextHeight")->setValue(20.0);
+    find<QToolButton>("plates.addText")->click();
 
     EXPECT_EQ(selected(), QStringList { "A title" });
-    EXPECT_EQ(child<QLineEdit>("plateText")->text(), "");
+    EXPECT_EQ(find<QLineEdit>("plateText")->text(), "");
     run("plates.edit", false);
-    QString error;
-    const QImage picture = window.view().takePicture(error);
+    const QImage shown = picture();
     int white = 0;
     for (int y = 230; y < 370; ++y) {
         for (int x = 0; x < 800; ++x) {
-            white += picture.pixelColor(x, y) == QColor(255, 255, 255) ? 1 : 0;
+            white += shown.pixelColor(x, y) == QColor(255, 255, 255) ? 1 : 0;
         }
     }
     EXPECT_GT(white, 3000);
-    child<QToolButton>("plates.addText")->click();
+    find<QToolButton>("plates.addText")->click();
     EXPECT_EQ(problems.size(), 1) << "an empty text is no plate";
 }
 
@@ -375,13 +282,11 @@ TEST_F(Plates, CommandsRefuseWhatMakesNoSenseAndChangeNothing)
     };
 
     run("plates.forward");
-    const int steps = stepCount();
+    const int stepsBefore = steps();
     for (const auto& row : rows) {
-        lastError.clear();
         EXPECT_FALSE(run(row.command, row.value)) << row.command;
-        EXPECT_NE(lastError, QString()) << row.command;
     }
-    EXPECT_EQ(stepCount(), steps);
+    EXPECT_EQ(steps(), stepsBefore);
     EXPECT_EQ(selected(), QStringList { "red" });
     run("plates.select", QJsonArray());
     EXPECT_FALSE(run("plates.remove"));

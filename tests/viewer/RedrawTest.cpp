@@ -1,34 +1,21 @@
 // SPDX-License-Identifier: MIT
 // When the view draws, what of it, and that it stands after its OpenGL context was lost.
-#include "tests/viewer/support/GuiTest.h"
-#include "viewer/core/SessionTargets.h"
+#include "tests/viewer/support/ShownWindow.h"
 #include "viewer/core/StartScene.h"
-#include "viewer/gui/MainWindow.h"
-#include "viewer/gui/ViewWidget.h"
 
 #include <QAction>
 #include <QHBoxLayout>
-#include <QJsonObject>
 #include <QLabel>
-#include <QMouseEvent>
 #include <QOpenGLContext>
 #include <QPointer>
-
-#include <gtest/gtest.h>
 
 namespace viewer {
 namespace {
 
-class RedrawTest : public GuiTest
+class RedrawTest : public ShownWindow
 {
 protected:
-    RedrawTest()
-        : window(MainWindow::Attendance::Unattended)
-    {
-        window.show();
-        window.showStartScene();
-        waitForQuiet();
-    }
+    RedrawTest() { waitForQuiet(); }
 
     ViewWidget& view() { return window.view(); }
 
@@ -36,23 +23,9 @@ protected:
 
     void moveTo(const QPointF& position)
     {
-        QMouseEvent event(QEvent::MouseMove, position, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(&view(), &event);
+        hover(position);
         waitForQuiet();
     }
-
-    QPointF placeOf(SessionTarget::Kind kind, const char* name)
-    {
-        SessionTarget target;
-        target.kind = kind;
-        target.name = QLatin1String(name);
-        osg::Pnt2f px;
-        QString error;
-        EXPECT_TRUE(resolveTarget(target, view().stage(), px, error)) << error.toStdString();
-        return view().toLogical(px);
-    }
-
-    MainWindow window;
 };
 
 TEST_F(RedrawTest, NothingIsDrawnWhileNothingChanges)
@@ -82,11 +55,11 @@ TEST_F(RedrawTest, NothingIsDrawnWhileNothingChanges)
 
 TEST_F(RedrawTest, AHighlightDrawsHandlesAlone)
 {
-    view().stage().select(osg::NullFC);
-    view().stage().selectByName(kStartSceneMainObject);
+    stage().select(osg::NullFC);
+    stage().selectByName(kStartSceneMainObject);
     waitForQuiet();
     moveTo({ 3, 3 });
-    const std::size_t whole = view().stage().triangleCount();
+    const std::size_t whole = stage().triangleCount();
     for (int i = 0; i < 2; ++i) {
         moveTo(placeOf(SessionTarget::Kind::Handle, "yaShape"));
         moveTo({ 3, 3 });
@@ -98,10 +71,8 @@ TEST_F(RedrawTest, AHighlightDrawsHandlesAlone)
 
 TEST_F(RedrawTest, FrameStatisticsAreShownOnDemand)
 {
-    const auto* label = window.findChild<QLabel*>(QStringLiteral("frame"));
-    auto* action = window.findChild<QAction*>(QStringLiteral("view.setFrameStatistics"));
-    ASSERT_NE(label, nullptr);
-    ASSERT_NE(action, nullptr);
+    const auto* label = find<QLabel>("frame");
+    auto* action = find<QAction>("view.setFrameStatistics");
     EXPECT_EQ(label->text(), QString());
 
     action->trigger();
@@ -109,21 +80,14 @@ TEST_F(RedrawTest, FrameStatisticsAreShownOnDemand)
     moveTo(placeOf(SessionTarget::Kind::Handle, "yaShape"));
 
     EXPECT_TRUE(label->text().contains(QStringLiteral("draw calls"))) << qPrintable(label->text());
-    const QJsonObject told = view()
-                                 .stage()
-                                 .commands()
-                                 .value(QStringLiteral("view.frameStatistics"))
-                                 .value_or(QJsonValue())
-                                 .toObject();
+    const QJsonObject told = value("view.frameStatistics").toObject();
     EXPECT_GT(told[QStringLiteral("milliseconds")].toDouble(), 0.0);
     EXPECT_GT(told[QStringLiteral("drawCalls")].toDouble(), 0.0);
     EXPECT_TRUE(told[QStringLiteral("shown")].toBool());
 
     action->trigger();
     EXPECT_EQ(label->text(), QString());
-    QString error;
-    EXPECT_FALSE(view().stage().commands().run(QStringLiteral("view.setFrameStatistics"),
-                                               QStringLiteral("on"), error));
+    EXPECT_FALSE(run("view.setFrameStatistics", "on"));
     EXPECT_EQ(error, QStringLiteral("expected true or false"));
 }
 
@@ -132,7 +96,7 @@ TEST_F(RedrawTest, ALostContextLosesNothing)
     moveTo({ 3, 3 });
     const QSize size = view().size();
     const QImage before = view().grabFramebuffer();
-    const int triangles = static_cast<int>(view().stage().triangleCount());
+    const int triangles = static_cast<int>(stage().triangleCount());
     QWidget* const home = view().parentWidget();
 
     // A view that changes its window gets another context.
@@ -153,7 +117,7 @@ TEST_F(RedrawTest, ALostContextLosesNothing)
 
         EXPECT_TRUE(lost.isNull()) << "the context did not end";
         EXPECT_EQ(view().grabFramebuffer(), before);
-        EXPECT_EQ(static_cast<int>(view().stage().triangleCount()), triangles);
+        EXPECT_EQ(static_cast<int>(stage().triangleCount()), triangles);
     }
 
     const QPointer<QOpenGLContext> lost = view().context();

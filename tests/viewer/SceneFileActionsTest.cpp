@@ -2,44 +2,25 @@
 // Scene files in the window: opening, saving, and what has not been saved.
 #include "viewer/gui/SceneFileActions.h"
 
-#include "tests/viewer/support/GuiTest.h"
+#include "tests/viewer/support/ShownWindow.h"
 #include "viewer/core/SceneCapture.h"
-#include "viewer/gui/MainWindow.h"
-#include "viewer/gui/SessionPlayer.h"
-#include "viewer/gui/ViewWidget.h"
 
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QFile>
-#include <QJsonArray>
 #include <QTemporaryDir>
 #include <QTimer>
 
 namespace viewer {
 namespace {
 
-class SceneFileActionsTest : public GuiTest
+class SceneFileActionsTest : public ShownWindow
 {
 protected:
     SceneFileActionsTest()
-        : window(MainWindow::Attendance::Unattended)
     {
-        QObject::connect(&window, &MainWindow::problem,
-                         [this](const QString& text) { problems.append(text); });
         QObject::connect(&window, &MainWindow::filesShown, [this] { ++shown; });
-        window.show();
-        window.showStartScene();
-    }
-
-    Stage& stage() { return window.view().stage(); }
-
-    bool run(const char* name, const QJsonValue& value = {})
-    {
-        QString error;
-        const bool isDone = stage().commands().run(QLatin1String(name), value, error);
-        EXPECT_EQ(isDone, error.isEmpty()) << error.toStdString();
-        return isDone;
     }
 
     void moveVase()
@@ -48,22 +29,11 @@ protected:
         ASSERT_TRUE(run("object.translation", QJsonArray { 1, 2, 3 }));
     }
 
-    QByteArray text()
-    {
-        QString error;
-        return sceneText(*captureScene(stage(), error), QDir(folder.path()));
-    }
-
-    void trigger(const char* action)
-    {
-        window.findChild<QAction*>(QLatin1String(action))->trigger();
-    }
+    QByteArray text() { return sceneText(*captureScene(stage(), error), QDir(folder.path())); }
 
     QTemporaryDir folder;
     QString scene = folder.filePath("table.nbscene");
-    QStringList problems;
     int shown = 0;
-    MainWindow window;
 };
 
 TEST_F(SceneFileActionsTest, TheTitleTellsWhatIsNotSaved)
@@ -82,7 +52,7 @@ TEST_F(SceneFileActionsTest, TheTitleTellsWhatIsNotSaved)
     EXPECT_EQ(stage().commands().value("scene.file"), QJsonValue("table.nbscene"));
     stage().undo();
     EXPECT_TRUE(window.isWindowModified()) << "no longer as saved";
-    trigger("sceneSave");
+    find<QAction>("sceneSave")->trigger();
     EXPECT_FALSE(window.isWindowModified());
     ASSERT_TRUE(run("match.setVeil", 0.75));
     EXPECT_TRUE(window.isWindowModified()) << "an edit that is no step";
@@ -239,11 +209,8 @@ TEST_F(SceneFileActionsTest, ASessionSavesAndOpens)
     check.expectation.nodes[0].node = "Knot";
     check.expectation.nodes[0].translation = std::array<double, 3> { 0.0, 1.16, 0.0 };
     session.steps = { save, move, open, check };
-    bool done = false;
-    QObject::connect(&window, &MainWindow::replayFinished, [&done] { done = true; });
 
-    window.replay(session, std::nullopt);
-    waitUntil([&] { return done; });
+    replay(session);
 
     EXPECT_EQ(window.player().getFailures(), QStringList());
 }

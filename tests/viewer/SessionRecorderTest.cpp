@@ -2,44 +2,29 @@
 // A recording as a bug report: small, readable, the same again, and at home beside its models.
 #include "viewer/gui/SessionRecorder.h"
 
-#include "tests/viewer/support/GuiTest.h"
-#include "viewer/gui/MainWindow.h"
-#include "viewer/gui/SessionPlayer.h"
-#include "viewer/gui/ViewWidget.h"
+#include "tests/viewer/support/ShownWindow.h"
 
 #include <QDir>
 #include <QFile>
-#include <QJsonArray>
-#include <QMouseEvent>
 #include <QTemporaryDir>
 
 namespace viewer {
 namespace {
 
-class SessionRecorderTest : public GuiTest
+class SessionRecorderTest : public ShownWindow
 {
 protected:
     SessionRecorderTest()
-        : window(MainWindow::Attendance::Unattended)
-        , recorder(window.view())
+        : recorder(window.view())
     {
-        window.show();
-        window.showStartScene();
         window.view().fixSize({ 800, 600 });
         window.adjustSize();
     }
 
-    void send(QEvent::Type type, const QPointF& place, Qt::MouseButton button,
-              Qt::MouseButtons held)
-    {
-        QMouseEvent event(type, place, button, held, Qt::NoModifier);
-        QCoreApplication::sendEvent(&window.view(), &event);
-    }
-
     /// A drag in as many events as a fast mouse sends.
-    void drag()
+    void fastDrag()
     {
-        send(QEvent::MouseMove, { 100.0, 500.0 }, Qt::NoButton, Qt::NoButton);
+        hover({ 100.0, 500.0 });
         send(QEvent::MouseButtonPress, { 100.0, 500.0 }, Qt::RightButton, Qt::RightButton);
         for (int i = 1; i <= 200; ++i) {
             send(QEvent::MouseMove, { 100.0 + i / 3.0, 500.0 - i / 7.0 }, Qt::NoButton,
@@ -49,16 +34,15 @@ protected:
              Qt::NoButton);
     }
 
-    MainWindow window;
     SessionRecorder recorder;
 };
 
 TEST_F(SessionRecorderTest, AFastDragIsAFewLinesAndReplaysToTheSamePose)
 {
     recorder.start({});
-    drag();
+    fastDrag();
     const Session session = recorder.stop();
-    const CameraPose pose = window.view().stage().pose();
+    const CameraPose pose = stage().pose();
     const QByteArray text = sessionText(session);
 
     EXPECT_LT(text.size(), 2500) << text.toStdString();
@@ -66,16 +50,12 @@ TEST_F(SessionRecorderTest, AFastDragIsAFewLinesAndReplaysToTheSamePose)
     ASSERT_GT(session.steps.size(), 4U);
     EXPECT_EQ(session.steps[2].at.offsetPx, QPointF(100.33, 499.86)) << "rounded, and the first";
     EXPECT_TRUE(text.contains("\"fov\": 32}")) << text.toStdString();
-    QString error;
     const std::optional<Session> read = parseSession(text, error);
     ASSERT_TRUE(read) << error.toStdString();
     EXPECT_EQ(sessionText(*read), text);
 
-    bool done = false;
-    QObject::connect(&window, &MainWindow::replayFinished, [&done] { done = true; });
-    window.replay(*read, std::nullopt);
-    waitUntil([&done] { return done; });
-    const CameraPose again = window.view().stage().pose();
+    replay(*read);
+    const CameraPose again = stage().pose();
     for (osg::UInt32 i = 0; i < 3; ++i) {
         EXPECT_NEAR(again.from[i], pose.from[i], 2e-3F);
     }
@@ -97,7 +77,6 @@ TEST_F(SessionRecorderTest, FilesAreNamedFromTheSessionsFolder)
     recorder.addCommand("texture.picture", base.filePath("models/label.png"));
     recorder.addCommand("plates.addText", QJsonObject { { "text", "/not/a/file" } });
     const QString path = base.filePath("sessions/bug.json");
-    QString error;
 
     ASSERT_TRUE(writeSessionFile(path, recorder.stop(), error)) << error.toStdString();
 

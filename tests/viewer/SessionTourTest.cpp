@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/gui/SessionTour.h"
 
-#include "tests/viewer/support/GuiTest.h"
+#include "tests/viewer/support/ShownWindow.h"
 #include "viewer/gui/CaptionBar.h"
-#include "viewer/gui/MainWindow.h"
-#include "viewer/gui/SessionPlayer.h"
-#include "viewer/gui/ViewWidget.h"
 
 #include <QFile>
 #include <QImage>
@@ -17,15 +14,9 @@ namespace {
 
 const QDir kSessions(QStringLiteral(NB_VIEWER_FOLDER "/sessions"));
 
-class SessionTourTest : public GuiTest
+class SessionTourTest : public ShownWindow
 {
 protected:
-    SessionTourTest()
-        : window(MainWindow::Attendance::Unattended)
-    {
-        window.show();
-    }
-
     QString write(const char* name, const char* steps)
     {
         const QString path = folder.filePath(QLatin1String(name));
@@ -46,12 +37,10 @@ protected:
     }
 
     QTemporaryDir folder;
-    MainWindow window;
 };
 
 TEST_F(SessionTourTest, EverySessionThatIsShippedIsInTheListOnce)
 {
-    QString error;
     QStringList listed = SessionTour::readList(kSessions, error);
     QStringList there;
     for (const QString& name : kSessions.entryList({ "*.json" }, QDir::Files)) {
@@ -116,9 +105,7 @@ TEST_F(SessionTourTest, CanBePausedSkippedAndEnded)
         write("first.json", R"({"type": "key", "key": "W"}, {"type": "key", "key": "E"})");
     SessionTour tour(window, { first, first, first }, std::nullopt);
     int finished = 0;
-    int replays = 0;
     QObject::connect(&tour, &SessionTour::finished, [&finished] { ++finished; });
-    QObject::connect(&window, &MainWindow::replayFinished, [&replays] { ++replays; });
     tour.start();
     waitUntil([this] { return window.isReplaying(); });
     tour.pause(true);

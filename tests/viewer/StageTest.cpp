@@ -1,73 +1,32 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/core/Stage.h"
 
+#include "tests/viewer/support/StageTest.h"
 #include "viewer/core/HandleCursor.h"
 #include "viewer/core/SceneBuilder.h"
-#include "viewer/core/SessionTargets.h"
 #include "viewer/core/StartScene.h"
 
-#include <nbInteraction/EventNames.h>
-#include <nbInteraction/InteractionEvent.h>
 #include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <OpenSG/OSGTransform.h>
-
-#include <gtest/gtest.h>
 
 namespace viewer {
 namespace {
 
 namespace names = nbec::interaction::names;
 
-constexpr int kWidthPx = 1200;
-constexpr int kHeightPx = 800;
-
-/// A view without a window, showing the start scene.
-class StageWithStartScene : public testing::Test
+class StageWithStartScene : public StageTest
 {
 protected:
-    StageWithStartScene()
-        : stage(view)
-    {
-        stage.resize(kWidthPx, kHeightPx, 1.0F);
-        stage.showStartScene();
-        stage.update();
-    }
-
-    void hover(const osg::Pnt2f& px)
-    {
-        view.setMousePosition(px);
-        stage.interaction().pointerMoved(px);
-        send(names::kHover);
-    }
-
-    void send(const char* event)
-    {
-        stage.interaction().triggerEvent(
-            nbec::interaction::InteractionEvent(event, names::kTool, names::kSelect));
-    }
+    void hover(const osg::Pnt2f& px) { send(names::kHover, px); }
 
     void click(const osg::Pnt2f& px)
     {
         hover(px);
-        send(names::kStart);
-        send(names::kStop);
+        send(names::kStart, px);
+        send(names::kStop, px);
     }
-
-    osg::Pnt2f placeOf(SessionTarget::Kind kind, const char* name)
-    {
-        SessionTarget target;
-        target.kind = kind;
-        target.name = name;
-        osg::Pnt2f px(-1.F, -1.F);
-        QString error;
-        EXPECT_TRUE(resolveTarget(target, stage, px, error)) << error.toStdString();
-        return px;
-    }
-
-    nbOSGWidget view;
-    Stage stage;
 };
 
 TEST_F(StageWithStartScene, EveryNamedHandleCanBeAimedAtAndIsHovered)
@@ -128,7 +87,6 @@ TEST_F(StageWithStartScene, ChangingTheManipulatorLeavesOneOfThem)
     ring.kind = SessionTarget::Kind::Handle;
     ring.name = "rxShape";
     osg::Pnt2f px;
-    QString error;
     EXPECT_FALSE(resolveTarget(ring, stage, px, error)) << "the translate gizmo has no rings";
     EXPECT_TRUE(error.contains("rxShape"));
 
@@ -141,7 +99,7 @@ TEST_F(StageWithStartScene, CameraCommandsKeepTheSceneInView)
 {
     const auto isKnotInView = [this] {
         const osg::Pnt2f px = placeOf(SessionTarget::Kind::Node, kStartSceneMainObject);
-        return px[0] > 0.F && px[0] < kWidthPx && px[1] > 0.F && px[1] < kHeightPx;
+        return px[0] > 0.F && px[0] < 1200.F && px[1] > 0.F && px[1] < 800.F;
     };
 
     stage.setOrthographic(true);
@@ -151,8 +109,8 @@ TEST_F(StageWithStartScene, CameraCommandsKeepTheSceneInView)
     EXPECT_TRUE(isKnotInView());
     stage.frameSelection();
     const osg::Pnt2f px = placeOf(SessionTarget::Kind::Node, kStartSceneMainObject);
-    EXPECT_NEAR(px[0], kWidthPx / 2.0, 2.0);
-    EXPECT_NEAR(px[1], kHeightPx / 2.0, 2.0);
+    EXPECT_NEAR(px[0], 600.0, 2.0);
+    EXPECT_NEAR(px[1], 400.0, 2.0);
     stage.setZUp(true);
     EXPECT_TRUE(stage.pose().zUp);
     stage.frameAll(true);

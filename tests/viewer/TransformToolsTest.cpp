@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Dragging and undoing in the window, as a person does it.
-#include "tests/viewer/support/GuiTest.h"
+#include "tests/viewer/support/ShownWindow.h"
 #include "viewer/core/SceneBuilder.h"
 #include "viewer/core/StartScene.h"
-#include "viewer/gui/MainWindow.h"
-#include "viewer/gui/SessionPlayer.h"
-#include "viewer/gui/ViewWidget.h"
 
 #include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
@@ -14,10 +11,7 @@
 #include <QAction>
 #include <QDoubleSpinBox>
 #include <QLabel>
-#include <QMouseEvent>
 #include <QUndoView>
-
-#include <gtest/gtest.h>
 
 #include <cmath>
 
@@ -25,16 +19,6 @@ namespace viewer {
 namespace {
 
 using Type = SessionStep::Type;
-
-SessionStep step(Type type, SessionTarget::Kind kind, const char* name, QPointF offset = {})
-{
-    SessionStep made;
-    made.type = type;
-    made.at.kind = kind;
-    made.at.name = QLatin1String(name);
-    made.at.offsetPx = offset;
-    return made;
-}
 
 SessionStep key(const char* name)
 {
@@ -44,22 +28,14 @@ SessionStep key(const char* name)
     return made;
 }
 
-/// A shown window on the start scene, its knot selected, nobody at it.
-class TransformTools : public GuiTest
+class TransformTools : public ShownWindow
 {
 protected:
     TransformTools()
-        : window(MainWindow::Attendance::Unattended)
     {
-        window.show();
         Session session;
         session.sizePx = { 900, 600 };
-        bool done = false;
-        const auto connection =
-            QObject::connect(&window, &MainWindow::replayFinished, [&done] { done = true; });
-        window.replay(session, std::nullopt);
-        waitUntil([&done] { return done; });
-        QObject::disconnect(connection);
+        replay(session);
     }
 
     /// Plays steps on what there is, without setting the stage again.
@@ -78,9 +54,9 @@ protected:
     /// Grabs a handle and drags it in four steps, without letting go.
     void drag(const char* handle, double x, double y)
     {
-        play({ step(Type::Move, SessionTarget::Kind::Handle, handle) });
+        play({ stepAt(Type::Move, SessionTarget::Kind::Handle, handle) });
         position = window.view().toLogical(stage().view().getMousePosition());
-        send(QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
+        send(QEvent::MouseButtonPress, position, Qt::LeftButton, Qt::LeftButton);
         for (int i = 0; i < 4; ++i) {
             moveBy(x, y);
         }
@@ -90,27 +66,19 @@ protected:
     void moveBy(double x, double y)
     {
         position += QPointF(x, y);
-        send(QEvent::MouseMove, Qt::NoButton, Qt::LeftButton);
+        move(position);
     }
 
-    void release() { send(QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton); }
+    void letGo() { release(position); }
 
-    void send(QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons held)
-    {
-        QMouseEvent event(type, position, button, held, Qt::NoModifier);
-        QCoreApplication::sendEvent(&window.view(), &event);
-    }
-
-    QAction* action(const char* name) { return window.findChild<QAction*>(QLatin1String(name)); }
-
-    Stage& stage() { return window.view().stage(); }
+    QAction* action(const char* name) { return find<QAction>(name); }
 
     static osg::NodePtr object(const char* name)
     {
         return findObject(nbScenegraph::getRootNode(), name);
     }
 
-    static osg::Vec3f placeOf(const char* name)
+    static osg::Vec3f translationOf(const char* name)
     {
         return nbNodeUtils::getTransformNodeTranslation(object(name));
     }
@@ -122,33 +90,31 @@ protected:
     }
 
     QPointF position;  ///< of the pointer in the view
-    MainWindow window;
 };
 
 TEST_F(TransformTools, ADragIsOneStepThatCanBeTakenBackOnceItIsOver)
 {
-    const osg::Vec3f before = placeOf("Knot");
+    const osg::Vec3f before = translationOf("Knot");
     drag("yaShape", 0.0, -10.0);
-    auto* list = window.findChild<QUndoView*>(QStringLiteral("undoList"));
-    ASSERT_NE(list, nullptr);
+    auto* list = find<QUndoView>("undoList");
 
     EXPECT_FALSE(action("undo")->isEnabled());
     EXPECT_FALSE(list->isEnabled()) << "a click into the list would take a step back";
     EXPECT_FALSE(stage().undo());
-    release();
-    const osg::Vec3f after = placeOf("Knot");
+    letGo();
+    const osg::Vec3f after = translationOf("Knot");
     EXPECT_GT(after[1], before[1] + 0.1F);
     EXPECT_TRUE(window.isWindowModified());
     EXPECT_TRUE(list->isEnabled());
     EXPECT_EQ(list->model()->rowCount(), 2);
 
     play({ key("Ctrl+Z") });
-    EXPECT_EQ(placeOf("Knot"), before);
+    EXPECT_EQ(translationOf("Knot"), before);
     EXPECT_FALSE(window.isWindowModified());
     play({ key("Ctrl+Shift+Z") });
-    EXPECT_EQ(placeOf("Knot"), after);
+    EXPECT_EQ(translationOf("Knot"), after);
 
-    play({ step(Type::Move, SessionTarget::Kind::Handle, "yaShape") });
+    play({ stepAt(Type::Move, SessionTarget::Kind::Handle, "yaShape") });
     EXPECT_EQ(stage().gizmo().hoveredHandle(), "yaShape") << "the gizmo has not followed";
     window.showStartScene();
     EXPECT_FALSE(action("undo")->isEnabled()) << "steps of a scene that is gone";
@@ -156,32 +122,32 @@ TEST_F(TransformTools, ADragIsOneStepThatCanBeTakenBackOnceItIsOver)
 
 TEST_F(TransformTools, EscAndTheRightButtonTakeADragBack)
 {
-    const osg::Vec3f before = placeOf("Knot");
+    const osg::Vec3f before = translationOf("Knot");
     drag("yaShape", 0.0, -10.0);
     play({ key("Esc") });
     moveBy(0.0, -10.0);
-    release();
-    EXPECT_EQ(placeOf("Knot"), before);
+    letGo();
+    EXPECT_EQ(translationOf("Knot"), before);
     EXPECT_FALSE(action("undo")->isEnabled());
     EXPECT_FALSE(action("redo")->isEnabled());
 
     drag("yaShape", 0.0, -10.0);
-    send(QEvent::MouseButtonPress, Qt::RightButton, Qt::LeftButton | Qt::RightButton);
-    send(QEvent::MouseButtonRelease, Qt::RightButton, Qt::LeftButton);
-    release();
-    EXPECT_EQ(placeOf("Knot"), before);
+    send(QEvent::MouseButtonPress, position, Qt::RightButton, Qt::LeftButton | Qt::RightButton);
+    send(QEvent::MouseButtonRelease, position, Qt::RightButton, Qt::LeftButton);
+    letGo();
+    EXPECT_EQ(translationOf("Knot"), before);
 
     // At once again, before a picture was drawn.
     drag("yaShape", 0.0, -10.0);
-    EXPECT_NE(placeOf("Knot"), before);
-    release();
+    EXPECT_NE(translationOf("Knot"), before);
+    letGo();
 }
 
 TEST_F(TransformTools, TheGizmoGoesBackWithAPivot)
 {
     action("gizmoRotatePivot")->trigger();
     drag("yaShape", 0.0, -10.0);
-    release();
+    letGo();
     const float moved = heightOfGizmo();
     play({ key("Ctrl+Z") });
     EXPECT_LT(heightOfGizmo(), moved - 0.1F);
@@ -189,18 +155,18 @@ TEST_F(TransformTools, TheGizmoGoesBackWithAPivot)
 
 TEST_F(TransformTools, AnInterruptedDragKeepsWhatItDidAsAStep)
 {
-    const osg::Vec3f before = placeOf("Knot");
+    const osg::Vec3f before = translationOf("Knot");
     drag("yaShape", 0.0, -10.0);
     stage().showGizmo(Gizmo::Rotate);
-    EXPECT_GT(placeOf("Knot")[1], before[1] + 0.1F);
+    EXPECT_GT(translationOf("Knot")[1], before[1] + 0.1F);
     EXPECT_TRUE(action("undo")->isEnabled());
-    release();
+    letGo();
 }
 
 TEST_F(TransformTools, ValuesAreShownOverTheViewAndInTheStatusLine)
 {
     action("gizmoTranslate")->trigger();
-    auto* values = window.findChild<QLabel*>(QStringLiteral("values"));
+    auto* values = find<QLabel>("values");
     const QRect corner(30, 40, 150, 80);
     const QImage empty = window.view().grabFramebuffer().copy(corner);
     drag("xaShape", 8.0, 2.0);
@@ -214,43 +180,42 @@ TEST_F(TransformTools, ValuesAreShownOverTheViewAndInTheStatusLine)
         }
     }
     EXPECT_GT(bright, 50);
-    QString error;
-    EXPECT_NE(window.view().takePicture(error).copy(corner).convertToFormat(empty.format()), empty);
+    EXPECT_NE(picture().copy(corner).convertToFormat(empty.format()), empty);
 
-    release();
+    letGo();
     EXPECT_EQ(values->text(), "");
     EXPECT_EQ(window.view().grabFramebuffer().copy(corner), empty);
 }
 
 TEST_F(TransformTools, TheCursorTellsWhatAHandleDoes)
 {
-    play({ step(Type::Move, SessionTarget::Kind::Handle, "xaShape") });
+    play({ stepAt(Type::Move, SessionTarget::Kind::Handle, "xaShape") });
     EXPECT_EQ(window.view().cursor().shape(), Qt::BitmapCursor);
-    play({ step(Type::Move, SessionTarget::Kind::Pixel, "", { 5.0, 5.0 }) });
+    play({ stepAt(Type::Move, SessionTarget::Kind::Pixel, "", { 5.0, 5.0 }) });
     EXPECT_EQ(window.view().cursor().shape(), Qt::ArrowCursor);
 }
 
 TEST_F(TransformTools, AllSelectedObjectsGoAlongInOneStep)
 {
-    SessionStep vase = step(Type::Click, SessionTarget::Kind::Node, "Vase");
+    SessionStep vase = stepAt(Type::Click, SessionTarget::Kind::Node, "Vase");
     vase.modifiers = Qt::ControlModifier;
-    SessionStep pawn = step(Type::Click, SessionTarget::Kind::Node, "Pawn");
+    SessionStep pawn = stepAt(Type::Click, SessionTarget::Kind::Node, "Pawn");
     pawn.modifiers = Qt::ShiftModifier;
     play({ vase, pawn });
     ASSERT_EQ(stage().selectedObjects().size(), 3U);
     play({ pawn, vase });
     ASSERT_EQ(stage().selectedObjects().size(), 2U) << "one toggles, the other only adds";
-    const osg::Vec3f knot = placeOf("Knot");
-    const osg::Vec3f pawnPlace = placeOf("Pawn");
+    const osg::Vec3f knot = translationOf("Knot");
+    const osg::Vec3f pawnPlace = translationOf("Pawn");
 
     drag("yaShape", 0.0, -10.0);
-    release();
-    const osg::Vec3f way = placeOf("Pawn") - pawnPlace;
+    letGo();
+    const osg::Vec3f way = translationOf("Pawn") - pawnPlace;
     EXPECT_GT(way[1], 0.1F);
-    EXPECT_LT((placeOf("Knot") - knot - way).length(), 1e-4F);
+    EXPECT_LT((translationOf("Knot") - knot - way).length(), 1e-4F);
     play({ key("Ctrl+Z") });
-    EXPECT_EQ(placeOf("Knot"), knot);
-    EXPECT_EQ(placeOf("Pawn"), pawnPlace);
+    EXPECT_EQ(translationOf("Knot"), knot);
+    EXPECT_EQ(translationOf("Pawn"), pawnPlace);
 
     play({ key("Ctrl+A") });
     EXPECT_GT(stage().selectedObjects().size(), 8U);
@@ -275,17 +240,17 @@ TEST_F(TransformTools, SettingsReachTheGizmo)
     }
     EXPECT_FALSE(action("gizmoClipping")->isEnabled()) << "no clip plane is selected";
 
-    window.findChild<QDoubleSpinBox*>(QStringLiteral("translationStep"))->setValue(0.25);
+    find<QDoubleSpinBox>("translationStep")->setValue(0.25);
     EXPECT_EQ(nbTransformModel::the()->getTranslationPrecision(), 0.25);
-    const osg::Vec3f before = placeOf("Knot");
+    const osg::Vec3f before = translationOf("Knot");
     play({ key("X"), key("W") });
     drag("yaShape", 0.0, -13.0);
-    release();
-    const double steps = static_cast<double>(placeOf("Knot")[1] - before[1]) / 0.25;
+    letGo();
+    const double steps = static_cast<double>(translationOf("Knot")[1] - before[1]) / 0.25;
     EXPECT_GE(steps, 1.0);
     EXPECT_NEAR(steps, std::round(steps), 1e-4);
 
-    window.findChild<QDoubleSpinBox*>(QStringLiteral("gizmoSize"))->setValue(60.0);
+    find<QDoubleSpinBox>("gizmoSize")->setValue(60.0);
     EXPECT_EQ(stage().gizmo().size(), 60.0F);
     play({ key("L") });
     EXPECT_TRUE(stage().gizmo().isLocalSpace());

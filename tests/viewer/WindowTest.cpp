@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: MIT
 // The window as a whole: that everything in it can be found, read, reached by
 // keys and seen in every theme.
-#include "tests/viewer/support/GuiTest.h"
+#include "tests/viewer/support/ShownWindow.h"
 #include "viewer/gui/AboutBox.h"
 #include "viewer/gui/LogPanel.h"
-#include "viewer/gui/MainWindow.h"
 #include "viewer/gui/PanelDocks.h"
 #include "viewer/gui/Theme.h"
 #include "viewer/gui/ThemeIcon.h"
-#include "viewer/gui/ViewWidget.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -19,8 +17,6 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
-#include <QDockWidget>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
@@ -35,36 +31,16 @@
 namespace viewer {
 namespace {
 
-class WindowTest : public GuiTest
+class WindowTest : public ShownWindow
 {
 protected:
-    WindowTest()
-        : window(MainWindow::Attendance::Unattended)
-    {
-        window.show();
-        window.showStartScene();
-    }
-
     ~WindowTest() override
     {
         applyTheme(Theme::System);
         applyLanguage(Language::English);
     }
 
-    QAction* action(const char* name)
-    {
-        auto* found = window.findChild<QAction*>(QLatin1String(name));
-        EXPECT_NE(found, nullptr) << name;
-        return found;
-    }
-
-    static void pressKey(QWidget& receiver, int key)
-    {
-        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
-        QCoreApplication::sendEvent(&receiver, &press);
-    }
-
-    MainWindow window;
+    QAction* action(const char* name) { return find<QAction>(name); }
 };
 
 /// Parts that Qt makes inside its widgets have names of Qt, or none.
@@ -232,9 +208,9 @@ TEST_F(WindowTest, AnIconIsDrawnInDevicePixels)
 
 TEST_F(WindowTest, FullScreenShowsTheViewAloneAndEscapeLeadsBack)
 {
-    auto* dock = window.findChild<QDockWidget*>(QStringLiteral("sceneDock"));
+    auto* dock = find<QDockWidget>("sceneDock");
     dock->show();
-    QToolBar* bar = window.findChild<QToolBar*>(QStringLiteral("tools"));
+    QToolBar* bar = find<QToolBar>("tools");
     ASSERT_TRUE(bar->isVisible());
 
     action("fullScreen")->trigger();
@@ -285,8 +261,7 @@ TEST_F(WindowTest, MessagesAreKeptWithTheirLevelAndCanBeChosenCopiedAndCleared)
 
 TEST_F(WindowTest, AboutNamesEveryPartWithItsVersion)
 {
-    QString error;
-    ASSERT_FALSE(window.view().takePicture(error).isNull());
+    picture();
     waitUntil([this] { return !window.view().graphics().isEmpty(); });
     action("about")->trigger();
     auto* box = window.findChild<AboutBox*>();
@@ -305,7 +280,7 @@ TEST_F(WindowTest, AboutNamesEveryPartWithItsVersion)
 TEST_F(WindowTest, KeysGoFromPanelToPanelAndBackToTheView)
 {
     for (const char* name : { "sceneDock", "objectDock" }) {
-        window.findChild<QDockWidget*>(QLatin1String(name))->show();
+        find<QDockWidget>(name)->show();
     }
     window.activateWindow();
     window.view().setFocus();
@@ -318,7 +293,7 @@ TEST_F(WindowTest, KeysGoFromPanelToPanelAndBackToTheView)
     }
 
     const auto isIn = [this](const QWidget* widget, const char* dock) {
-        return window.findChild<QDockWidget*>(QLatin1String(dock))->isAncestorOf(widget);
+        return find<QDockWidget>(dock)->isAncestorOf(widget);
     };
     EXPECT_TRUE(isIn(visited[0], "sceneDock"));
     EXPECT_TRUE(isIn(visited[1], "objectDock"));

@@ -12,8 +12,8 @@
 
 namespace nbec::manipulator::test {
 
-AnchorScene::AnchorScene(AnchoredTextureManipulator& anchored, const std::string& changed,
-                         osg::ColorComponentSettings::TextureProjection type, Receiver receiver)
+AnchorScene::AnchorScene(AnchoredTextureManipulator& anchored, const AnchoredTraits& traits,
+                         Receiver receiver)
     : gizmo(anchored)
     , parent(osg::makeCoredNode<osg::Transform3D>())
     , material(osg::UberMaterial::create())
@@ -30,7 +30,7 @@ AnchorScene::AnchorScene(AnchoredTextureManipulator& anchored, const std::string
         const nbEdit edit(parent, osg::Node::ChildrenFieldMask);
         parent->addChild(scene.node);
     }
-    settings->setTextureProjectionType(type);
+    settings->setTextureProjectionType(traits.type);
     material->setComponentSettings(osg::UberMaterial::kDiffuseComponent, settings);
     {
         const auto geometry = osg::GeometryPtr::dcast(scene.node->getChild(0)->getCore());
@@ -41,7 +41,7 @@ AnchorScene::AnchorScene(AnchoredTextureManipulator& anchored, const std::string
         editor = std::make_unique<nbMaterialEditor>("label");
         editor->setMaterial(material.get(), scene.node, osg::UberMaterial::kDiffuseComponent);
     } else {
-        listen("label" + changed);
+        listen(std::string("label") + traits.changed);
         listen("setMatRenderEnabled");
         listen("updateMatRender");
     }
@@ -124,12 +124,6 @@ bool AnchorScene::grabAt(const std::string& name, const osg::Pnt3f& world)
 bool AnchorScene::grab(const std::string& name, const osg::Vec3f& unit)
 {
     return grabAt(name, onHandle(name, unit));
-}
-
-std::string partColor(const osg::NodePtr& handle, osg::UInt32 part)
-{
-    const osg::NodePtr child = handle->getChild(part);
-    return colorOf(child->getNChildren() > 0 ? child->getChild(0) : child);
 }
 
 }  // namespace nbec::manipulator::test

@@ -2,7 +2,8 @@
 #pragma once
 
 #include "manipulator/AnchoredTextureManipulator.h"
-#include "tests/manipulator/support/HandleDrag.h"
+#include "tests/manipulator/support/AnchoredTraits.h"
+#include "tests/manipulator/support/DragTest.h"
 #include "tests/manipulator/support/MessageLog.h"
 
 #include <nbMaterialEditor/nbMaterialEditor.h>
@@ -27,10 +28,13 @@ public:
     };
 
     /// @param anchored  installed without a call that shows a set of handles; outlives the scene
-    /// @param changed   suffix of its message, such as "::changedUVManipulator"
-    AnchorScene(AnchoredTextureManipulator& anchored, const std::string& changed,
-                osg::ColorComponentSettings::TextureProjection type,
-                Receiver receiver = Receiver::Log);
+    template <class Gizmo>
+    explicit AnchorScene(Gizmo& anchored, Receiver receiver = Receiver::Log)
+        : AnchorScene(anchored, kAnchoredTraits<Gizmo>, receiver)
+    { }
+
+    AnchorScene(AnchoredTextureManipulator& anchored, const AnchoredTraits& traits,
+                Receiver receiver);
     ~AnchorScene();
 
     void look(Camera from, bool orthographic);
@@ -61,7 +65,12 @@ public:
     std::unique_ptr<nbMaterialEditor> editor;
 };
 
-/// The colour of a handle's part: that of the geometry below a child of its node.
-std::string partColor(const osg::NodePtr& handle, osg::UInt32 part);
+/// A gizmo that outlives its scene.
+template <class Gizmo>
+struct Anchored
+{
+    Gizmo gizmo;
+    AnchorScene at { gizmo };
+};
 
 }  // namespace nbec::manipulator::test

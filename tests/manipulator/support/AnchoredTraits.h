@@ -9,29 +9,26 @@
 
 namespace nbec::manipulator::test {
 
-/// What the gizmos at an anchor differ in: the suffix of the message, and the projection edited.
+/// What the gizmos at an anchor differ in.
+struct AnchoredTraits
+{
+    const char* changed;  ///< suffix of the message
+    osg::ColorComponentSettings::TextureProjection type;  ///< the projection edited
+};
+
 template <class Gizmo>
-struct AnchoredTraits;
-
+inline constexpr AnchoredTraits kAnchoredTraits {};
 template <>
-struct AnchoredTraits<TriplanarTextureManipulator>
-{
-    static constexpr const char* kChanged = "::changedTriplanarManipulator";
-    static constexpr auto kType = osg::ColorComponentSettings::TriplanarProjection;
+inline constexpr AnchoredTraits kAnchoredTraits<TriplanarTextureManipulator> {
+    "::changedTriplanarManipulator", osg::ColorComponentSettings::TriplanarProjection
 };
-
 template <>
-struct AnchoredTraits<UVTextureManipulator>
-{
-    static constexpr const char* kChanged = "::changedUVManipulator";
-    static constexpr auto kType = osg::ColorComponentSettings::UVProjection;
+inline constexpr AnchoredTraits kAnchoredTraits<UVTextureManipulator> {
+    "::changedUVManipulator", osg::ColorComponentSettings::UVProjection
 };
-
 template <>
-struct AnchoredTraits<TireProjectionManipulator>
-{
-    static constexpr const char* kChanged = "::changedTireManipulator";
-    static constexpr auto kType = osg::ColorComponentSettings::TireProjection;
+inline constexpr AnchoredTraits kAnchoredTraits<TireProjectionManipulator> {
+    "::changedTireManipulator", osg::ColorComponentSettings::TireProjection
 };
 
 }  // namespace nbec::manipulator::test

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "manipulator/UniversalTransformManipulator2.h"
-#include "tests/manipulator/support/HandleDrag.h"
+#include "tests/manipulator/support/DragTest.h"
 
 #include <nbOpenSGExt/Transform3D.h>
 
@@ -10,6 +10,12 @@
 #include <string>
 
 namespace nbec::manipulator::test {
+
+// Where handles are grabbed, in the gizmo's units.
+inline constexpr float kDiagonal = 1.5F * 0.70710678F;  ///< both coordinates of a ring's point
+inline const Vec3f kArrow(1.9F, 0, 0);
+inline const Vec3f kScaleHandle(1.5F, 0, 0);
+inline const Vec3f kRing(kDiagonal, kDiagonal, 0);
 
 /// A scene with a transform gizmo that is dragged by its handles as by HandleDrag. The node of the
 /// GizmoScene stands below a parent with a Transform3D.

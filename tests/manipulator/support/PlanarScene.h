@@ -2,7 +2,7 @@
 #pragma once
 
 #include "manipulator/PlanarTextureManipulator.h"
-#include "tests/manipulator/support/HandleDrag.h"
+#include "tests/manipulator/support/DragTest.h"
 #include "tests/manipulator/support/MessageLog.h"
 
 #include <nbMaterialEditor/nbMaterialEditor.h>

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <cstddef>
 #include <cstring>
 #include <type_traits>
@@ -27,6 +29,15 @@ std::ptrdiff_t virtualSlot(Member member)
     const std::ptrdiff_t offset = words[0] - 1;
 #endif
     return isVirtual ? offset / static_cast<std::ptrdiff_t>(sizeof(void*)) : -1;
+}
+
+/// Operations that stand one behind the other in their table.
+template <class... Members>
+void expectSlotsFrom(std::ptrdiff_t first, Members... members)
+{
+    for (const std::ptrdiff_t slot : { virtualSlot(members)... }) {
+        EXPECT_EQ(slot, first++);
+    }
 }
 
 }  // namespace nbtest

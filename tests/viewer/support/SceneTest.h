@@ -1,43 +1,30 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tests/viewer/support/StageTest.h"
 #include "viewer/core/ModelReader.h"
 #include "viewer/core/PerspectiveMatchTool.h"
 #include "viewer/core/PlatesTool.h"
 #include "viewer/core/SceneCapture.h"
 #include "viewer/core/SceneRestore.h"
-#include "viewer/core/Stage.h"
 #include "viewer/core/TextureCommands.h"
 #include "viewer/core/TextureTool.h"
 
-#include <nbKernelServices/nbUndoService.h>
-
 #include <QFile>
-#include <QJsonArray>
-#include <QJsonObject>
 #include <QTemporaryDir>
-#include <QtWidgets/QUndoStack>
-
-#include <gtest/gtest.h>
 
 namespace viewer {
 
-/// A stage without a window, with all tools of the viewer, and a folder for files.
-class SceneTest : public testing::Test
+/// A stage with all tools of the viewer, and a folder for files.
+class SceneTest : public StageTest
 {
 protected:
     SceneTest()
-        : stage(view)
-        , textures(stage)
+        : textures(stage)
         , textureCommands(stage, textures)
         , match(stage)
         , plates(stage)
-    {
-        stage.resize(1200, 800, 1.0F);
-        stage.showStartScene();
-    }
-
-    ~SceneTest() override { stage.clear(); }
+    { }
 
     QString fileIn(const char* name) const { return folder.filePath(QLatin1String(name)); }
 
@@ -66,12 +53,6 @@ protected:
         return file.readAll();
     }
 
-    bool run(const char* name, const QJsonValue& value = {})
-    {
-        error.clear();
-        return stage.commands().run(QLatin1String(name), value, error);
-    }
-
     /// What would be saved into the folder now.
     QByteArray text()
     {
@@ -80,16 +61,11 @@ protected:
         return document ? sceneText(*document, QDir(folder.path())) : QByteArray();
     }
 
-    static int steps() { return nbUndoService::the()->getStack()->count(); }
-
     QTemporaryDir folder;
-    nbOSGWidget view;
-    Stage stage;
     TextureTool textures;
     TextureCommands textureCommands;
     PerspectiveMatchTool match;
     PlatesTool plates;
-    QString error;
 };
 
 }  // namespace viewer

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "viewer/core/SessionTargets.h"
+#include "viewer/core/Stage.h"
+
+#include <nbInteraction/EventNames.h>
+#include <nbInteraction/InteractionEvent.h>
+#include <nbKernelServices/nbUndoService.h>
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QtWidgets/QUndoStack>
+
+#include <gtest/gtest.h>
+
+namespace viewer {
+
+/// Pixel of what is named in a stage; fails the test where there is none.
+inline osg::Pnt2f placeIn(Stage& stage, SessionTarget::Kind kind, const char* name)
+{
+    SessionTarget target;
+    target.kind = kind;
+    target.name = QLatin1String(name);
+    osg::Pnt2f px(-1.F, -1.F);
+    QString error;
+    EXPECT_TRUE(resolveTarget(target, stage, px, error)) << error.toStdString();
+    return px;
+}
+
+/// The start scene in a view without a window, worked by commands and pointer events.
+class StageTest : public testing::Test
+{
+protected:
+    explicit StageTest(int width = 1200, int height = 800)
+        : stage(view)
+    {
+        stage.resize(width, height, 1.0F);
+        stage.showStartScene();
+        stage.update();
+    }
+
+    /// Runs a command, which is done or says in one line why it is not.
+    bool run(const char* name, const QJsonValue& value = {})
+    {
+        error.clear();
+        const bool isDone = stage.commands().run(QLatin1String(name), value, error);
+        EXPECT_EQ(isDone, error.isEmpty()) << name << ": " << error.toStdString();
+        EXPECT_FALSE(error.contains(QLatin1Char('\n')));
+        return isDone;
+    }
+
+    QJsonValue value(const char* name)
+    {
+        return stage.commands().value(QLatin1String(name)).value_or(QJsonValue("no value"));
+    }
+
+    osg::Pnt2f placeOf(SessionTarget::Kind kind, const char* name)
+    {
+        return placeIn(stage, kind, name);
+    }
+
+    /// An event with the pointer at a pixel, as the window delivers it.
+    bool send(const char* event, const osg::Pnt2f& px)
+    {
+        view.setMousePosition(px);
+        stage.interaction().pointerMoved(px);
+        return stage.interaction().triggerEvent(nbec::interaction::InteractionEvent(
+            event, nbec::interaction::names::kTool, nbec::interaction::names::kSelect));
+    }
+
+    /// Steps that can be taken back.
+    static int steps() { return nbUndoService::the()->getStack()->index(); }
+
+    nbOSGWidget view;
+    Stage stage;
+    QString error;
+};
+
+}  // namespace viewer
