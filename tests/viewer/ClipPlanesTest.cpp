@@ -73,7 +73,7 @@ TEST_F(ClipPlanes, AddingAndRemovingAreOneStepEachThatCanBeTakenBack)
     EXPECT_EQ(depthInTheMiddle(), whole);
     EXPECT_TRUE(stage.undo());
     EXPECT_EQ(depthInTheMiddle(), cut);
-    EXPECT_EQ(steps(), 2);
+    EXPECT_EQ(nbUndoService::the()->getStack()->count(), 2);
 }
 
 TEST_F(ClipPlanes, PlanesCutTogetherAndGoOneByOne)

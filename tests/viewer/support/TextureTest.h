@@ -21,7 +21,10 @@ protected:
     TextureTest()
         : tool(stage)
         , commands(stage, tool)
-    { }
+    {
+        stage.showStartScene();  // what is selected in it is told to the tool
+        stage.update();
+    }
 
     bool drop(const char* node)
     {
