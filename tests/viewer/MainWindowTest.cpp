@@ -2,11 +2,8 @@
 // The window as a person uses it, on whatever display the tests have.
 #include "tests/viewer/support/ShownWindow.h"
 #include "viewer/core/StartScene.h"
-#include "viewer/gui/SessionRecorder.h"
 
-#include <QAction>
 #include <QFile>
-#include <QLabel>
 #include <QTemporaryDir>
 
 namespace viewer {
@@ -80,41 +77,6 @@ TEST_F(MainWindowTest, AWrongSessionLeavesEverythingAsItIs)
     EXPECT_FALSE(window.isReplaying());
 }
 
-TEST_F(MainWindowTest, ARecordingReplaysToTheSameState)
-{
-    Session wanted;
-    wanted.sizePx = { 800, 600 };
-    wanted.selection = "";
-    SessionStep orbit = stepAt(Type::Press, Kind::Pixel, "", { 100, 500 });
-    orbit.button = Qt::RightButton;
-    const SessionStep away = stepAt(Type::Move, Kind::Pixel, "", { 260, 470 });
-    SessionStep end = orbit;
-    end.type = SessionStep::Type::Release;
-    end.at = away.at;
-    wanted.steps = { stepAt(Type::Click, Kind::Node, "Vase"), orbit, away, end };
-    SessionRecorder recorder(window.view());
-    window.view().fixSize(wanted.sizePx);
-    window.adjustSize();
-    waitUntil([&] { return window.view().stage().view().getWidth() == 800; });
-    stage().select(osg::NullFC);
-    recorder.start({});
-    replay(wanted);
-    const Session recorded = recorder.stop();
-    const CameraPose pose = stage().pose();
-    ASSERT_GT(recorded.steps.size(), wanted.steps.size());
-
-    window.showStartScene();
-    replay(recorded);
-
-    EXPECT_EQ(window.player().getFailures(), QStringList());
-    EXPECT_EQ(stage().selectedName(), "Vase");
-    EXPECT_LT(stage().pose().from.dist(pose.from), 1e-4F);
-    EXPECT_GT(
-        pose.from.dist(osg::Pnt3f(kStartSceneFrom[0], kStartSceneFrom[1], kStartSceneFrom[2])),
-        0.5F)
-        << "the drag has not turned the view";
-}
-
 TEST_F(MainWindowTest, ABrokenModelGivesAMessageAndLosesNothing)
 {
     const QTemporaryDir folder;
@@ -152,37 +114,6 @@ TEST_F(MainWindowTest, AModelReplacesTheSceneAndIsSelectedAndInView)
                                             stage().view().getWidth(), stage().view().getHeight(),
                                             px));
     EXPECT_TRUE(QRect({ 0, 0 }, window.view().sizePx()).contains(int(px[0]), int(px[1])));
-}
-
-TEST_F(MainWindowTest, NothingIsDrawnWhileNothingChanges)
-{
-    waitForQuiet();
-    int pictures = 0;
-    QObject::connect(&window.view(), &QOpenGLWidget::frameSwapped, [&pictures] { ++pictures; });
-
-    waitForQuiet();
-    EXPECT_EQ(pictures, 0);
-
-    stage().setOrthographic(true);
-    waitUntil([&pictures] { return pictures > 0; });
-    waitForQuiet();
-    EXPECT_EQ(pictures, 1);
-}
-
-TEST_F(MainWindowTest, CommandsOfTheWindowReachTheStage)
-{
-    const auto trigger = [this](const char* name) { find<QAction>(name)->trigger(); };
-
-    trigger("gizmoCamera");
-    EXPECT_EQ(stage().gizmo().shown(), Gizmo::CameraPivot);
-    trigger("gizmoUniversal");
-    EXPECT_EQ(stage().gizmo().shown(), Gizmo::Universal);
-    trigger("zUp");
-    EXPECT_TRUE(stage().pose().zUp);
-    trigger("selectNone");
-    EXPECT_EQ(stage().selectedName(), "");
-    trigger("fileStartScene");
-    EXPECT_EQ(stage().selectedName(), kStartSceneMainObject);
 }
 
 }  // namespace

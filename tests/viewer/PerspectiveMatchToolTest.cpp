@@ -1,7 +1,4 @@
 // SPDX-License-Identifier: MIT
-// Cases: commands and what they refuse; one undo step for each drag and each edit; the camera's
-// followers are told; lines stay on the photograph in views of other shapes; lock, hidden lines,
-// orthographic views; another scene.
 #include "viewer/core/PerspectiveMatchTool.h"
 
 #include "tests/viewer/support/StageTest.h"
@@ -126,7 +123,7 @@ TEST_F(PerspectiveMatchToolTest, RefusesWhatItCannotDoInOneLine)
 {
     const QJsonObject threeNumbers { { "line", "x1" }, { "ends", QJsonArray { 1, 2, 3 } } };
     const QJsonObject unknownLine { { "line", "w1" }, { "ends", QJsonArray { 1, 2, 3, 4 } } };
-    const std::pair<const char*, QJsonValue> rows[] = {
+    expectRefusals({
         { "match.setPhotograph", "missing.png" },
         { "match.setPhotograph", 3 },
         { "match.setVeil", 1.5 },
@@ -137,11 +134,7 @@ TEST_F(PerspectiveMatchToolTest, RefusesWhatItCannotDoInOneLine)
         { "match.setMagnifyFactor", "4" },
         { "match.setLine", threeNumbers },
         { "match.setLine", unknownLine },
-    };
-    for (const auto& [command, argument] : rows) {
-        EXPECT_FALSE(run(command, argument)) << command;
-    }
-    EXPECT_EQ(steps(), 0);
+    });
 
     stage.setOrthographic(true);
     EXPECT_FALSE(run("match.setActive", true));

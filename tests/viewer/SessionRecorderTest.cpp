@@ -41,6 +41,7 @@ TEST_F(SessionRecorderTest, AFastDragIsAFewLinesAndReplaysToTheSamePose)
 {
     recorder.start({});
     fastDrag();
+    click(placeOf(SessionTarget::Kind::Node, "Vase"));
     const Session session = recorder.stop();
     const CameraPose pose = stage().pose();
     const QByteArray text = sessionText(session);
@@ -54,7 +55,9 @@ TEST_F(SessionRecorderTest, AFastDragIsAFewLinesAndReplaysToTheSamePose)
     ASSERT_TRUE(read) << error.toStdString();
     EXPECT_EQ(sessionText(*read), text);
 
+    window.showStartScene();
     replay(*read);
+    EXPECT_EQ(stage().selectedName(), "Vase");
     const CameraPose again = stage().pose();
     for (osg::UInt32 i = 0; i < 3; ++i) {
         EXPECT_NEAR(again.from[i], pose.from[i], 2e-3F);

@@ -117,16 +117,6 @@ TEST_F(StageWithStartScene, CameraCommandsKeepTheSceneInView)
     EXPECT_TRUE(isKnotInView());
 }
 
-TEST_F(StageWithStartScene, ClearingTakesSelectionAndGizmoAlong)
-{
-    stage.clear();
-    stage.update();
-
-    EXPECT_TRUE(stage.isEmpty());
-    EXPECT_EQ(stage.selectedName(), "");
-    EXPECT_EQ(stage.triangleCount(), 0U);
-}
-
 TEST_F(StageWithStartScene, CursorsPointAlongTheAxesOnTheScreen)
 {
     stage.setOrthographic(true);

@@ -146,35 +146,23 @@ TEST_F(TextureProjectionTest, DragsOfTheOtherGizmosArriveAndAreTold)
 
 TEST_F(TextureProjectionTest, ValuesAreWhatWasTypedAndEachEditIsAStep)
 {
-    const struct
-    {
-        const char* name;
-        QJsonValue value;
-    } rows[] = {
-        { "texture.uvOffset", QJsonArray { 0.5, -1 } },
-        { "texture.uvRepeat", QJsonArray { 2, -3 } },
-        { "texture.uvRotate", 30 },
-        { "texture.triplanarRotation", QJsonArray { 10, 20, 30 } },
-        { "texture.triplanarOffsetU", QJsonArray { 1, 2, 3 } },
-        { "texture.triplanarOffsetV", QJsonArray { 4, 5, 6 } },
-        { "texture.triplanarRepeatU", QJsonArray { 7, 8, 9 } },
-        { "texture.triplanarRepeatV", QJsonArray { 10, 11, 12 } },
-        { "texture.tireCenter", QJsonArray { 1, 2, 3 } },
-        { "texture.tireHeight", 3 },
-        { "texture.tireRadius", 4 },
-        { "texture.tireScaleU", 0.25 },
-        { "texture.tireFit", false },
-    };
-
-    for (const auto& row : rows) {
-        const QJsonValue before = value(row.name);
-        const int stepsBefore = steps();
-        EXPECT_TRUE(run(row.name, row.value)) << row.name;
-        EXPECT_TRUE(isNear(value(row.name), row.value, 1e-5)) << row.name;
-        EXPECT_EQ(steps(), stepsBefore + 1) << row.name;
-        ASSERT_TRUE(stage.undo()) << row.name;
-        EXPECT_TRUE(isNear(value(row.name), before, 1e-5)) << row.name;
-    }
+    expectSteps(
+        {
+            { "texture.uvOffset", QJsonArray { 0.5, -1 } },
+            { "texture.uvRepeat", QJsonArray { 2, -3 } },
+            { "texture.uvRotate", 30 },
+            { "texture.triplanarRotation", QJsonArray { 10, 20, 30 } },
+            { "texture.triplanarOffsetU", QJsonArray { 1, 2, 3 } },
+            { "texture.triplanarOffsetV", QJsonArray { 4, 5, 6 } },
+            { "texture.triplanarRepeatU", QJsonArray { 7, 8, 9 } },
+            { "texture.triplanarRepeatV", QJsonArray { 10, 11, 12 } },
+            { "texture.tireCenter", QJsonArray { 1, 2, 3 } },
+            { "texture.tireHeight", 3 },
+            { "texture.tireRadius", 4 },
+            { "texture.tireScaleU", 0.25 },
+            { "texture.tireFit", false },
+        },
+        1e-5);
     ASSERT_TRUE(run("texture.projection", "tire"));
     ASSERT_TRUE(run("texture.tireScaleU", 0.5));
     EXPECT_EQ(value("texture.tireFit"), QJsonValue(true)) << "it is never fitted";
@@ -194,11 +182,7 @@ TEST_F(TextureProjectionTest, BadInputIsOneLineAndChangesNothing)
 {
     const nbTextureValues before = tool.target().values();
 
-    const struct
-    {
-        const char* name;
-        QJsonValue value;
-    } rows[] = {
+    expectRefusals({
         { "texture.projection", "round" },
         { "texture.projection", 2 },
         { "texture.uvOffset", QJsonArray { 1 } },
@@ -211,15 +195,8 @@ TEST_F(TextureProjectionTest, BadInputIsOneLineAndChangesNothing)
         { "texture.tireRadius", 0 },
         { "texture.tireFit", 1 },
         { "texture.anchor", "here" },
-    };
-
-    const int stepsBefore = steps();
-    for (const auto& row : rows) {
-        EXPECT_FALSE(run(row.name, row.value)) << row.name << textOf(row.value).toStdString();
-        EXPECT_NE(error, "");
-    }
+    });
     EXPECT_EQ(tool.target().values(), before);
-    EXPECT_EQ(steps(), stepsBefore);
     stage.selectByName("Vase");
     EXPECT_FALSE(run("texture.projection", "uv")) << "no picture";
     EXPECT_FALSE(run("texture.uvRotate", 3));

@@ -132,29 +132,16 @@ TEST_F(TextureToolTest, ValuesAreWhatWasTypedAndEachEditIsAStep)
 {
     ASSERT_TRUE(run("texture.picture", kLabel));
 
-    const struct
-    {
-        const char* name;
-        QJsonValue value;
-    } rows[] = { { "texture.translation", QJsonArray { 0.5, -1, 2 } },
-                 { "texture.rotation", QJsonArray { 10, 20, 30 } },
-                 { "texture.scale", QJsonArray { 2, 3, 4 } },
-                 { "texture.keepAspect", false },
-                 { "texture.repeatU", true },
-                 { "texture.repeatV", true },
-                 { "texture.endInDepth", false },
-                 { "texture.mask", true },
-                 { "texture.invert", true } };
-
-    for (const auto& row : rows) {
-        const QJsonValue before = value(row.name);
-        const int stepsBefore = steps();
-        EXPECT_TRUE(run(row.name, row.value)) << row.name;
-        EXPECT_TRUE(isNear(value(row.name), row.value, 1e-3)) << row.name;
-        EXPECT_EQ(steps(), stepsBefore + 1) << row.name;
-        ASSERT_TRUE(stage.undo()) << row.name;
-        EXPECT_TRUE(isNear(value(row.name), before, 1e-3)) << row.name;
-    }
+    expectSteps({ { "texture.translation", QJsonArray { 0.5, -1, 2 } },
+                  { "texture.rotation", QJsonArray { 10, 20, 30 } },
+                  { "texture.scale", QJsonArray { 2, 3, 4 } },
+                  { "texture.keepAspect", false },
+                  { "texture.repeatU", true },
+                  { "texture.repeatV", true },
+                  { "texture.endInDepth", false },
+                  { "texture.mask", true },
+                  { "texture.invert", true } },
+                1e-3);
 
     const QJsonArray scale = value("texture.scale").toArray();
     ASSERT_TRUE(
@@ -187,11 +174,7 @@ TEST_F(TextureToolTest, BadInputIsOneLineAndChangesNothing)
     broken.write("\x89PNG\r\n\x1a\nand no more");
     broken.close();
 
-    const struct
-    {
-        const char* name;
-        QJsonValue value;
-    } rows[] = {
+    expectRefusals({
         { "texture.picture", "missing.png" },
         { "texture.picture", "broken.png" },
         { "texture.picture", 7 },
@@ -209,12 +192,7 @@ TEST_F(TextureToolTest, BadInputIsOneLineAndChangesNothing)
         { "texture.planeTransparency", 1.5 },
         { "texture.planeTransparency", "half" },
         { "texture.showDepth", 1 },
-    };
-
-    for (const auto& row : rows) {
-        EXPECT_FALSE(run(row.name, row.value)) << row.name << textOf(row.value).toStdString();
-        EXPECT_NE(error, "");
-    }
+    });
     EXPECT_EQ(steps(), 0);
     EXPECT_EQ(tool.target().material(), osg::NullFC);
 

@@ -1,17 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include <nbInteraction/InteractionManager.h>
-#include <nbInteraction/Picker.h>
 #include <nbInteraction/SelectionTool.h>
 #include <nbInteraction/ToolInteractionContext.h>
-#include <nbKernel/nbOSGWidget.h>
-#include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGSelection/nbSelection.h>
 
-#include <OpenSG/OSGSimpleGeometry.h>
-#include <OpenSG/OSGTransform.h>
-
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
+
+#include "PickerTestSupport.h"
 
 namespace nbec::interaction {
 namespace {
@@ -19,53 +14,24 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/// Pixels of the 400 x 300 view at which the two boxes and nothing are seen.
-const osg::Pnt2f kLeftPx(100, 150);
-const osg::Pnt2f kRightPx(300, 150);
-const osg::Pnt2f kNothingPx(200, 10);
+/// Pixels at which the two boxes and nothing are seen.
+const osg::Pnt2f kLeftPx(310, 300);
+const osg::Pnt2f kRightPx(490, 300);
+const osg::Pnt2f kNothingPx(400, 20);
 
-class SelectionToolTest : public testing::Test
+class SelectionToolTest : public PickerTest
 {
 protected:
     SelectionToolTest()
     {
-        widget.resize(400, 300);
-        // At 10 units the view is 2 * 10 * tan(22.5 deg) = 8.28 high, so 100 px are 2.76 units.
-        widget.getUberCamera()->setFromAtUp(osg::Pnt3f(0, 0, 10), osg::Pnt3f(0, 0, 0),
-                                            osg::Vec3f(0, 1, 0));
-        left = addBox(-2.76f);
-        right = addBox(2.76f);
+        hang(nbScenegraph::getRootNode(), placed(-3.0f, 0.0f, 0.0f, left));
+        hang(nbScenegraph::getRootNode(), placed(3.0f, 0.0f, 0.0f, right));
         context.setTool(&tool);
         context.setPicker(&picker);
         manager.addContext(&context);
     }
 
-    ~SelectionToolTest() override
-    {
-        nbSelection::clear();
-        nbScenegraph::clear();
-    }
-
-    static osg::NodePtr addBox(float x)
-    {
-        const osg::NodePtr box = osg::makeBox(1, 1, 1, 1, 1, 1);
-        const osg::TransformPtr placement = osg::Transform::create();
-        osg::Matrix matrix;
-        matrix.setTranslate(x, 0, 0);
-        osg::beginEditCP(placement);
-        placement->setMatrix(matrix);
-        osg::endEditCP(placement);
-        const osg::NodePtr node = osg::Node::create();
-        osg::beginEditCP(node);
-        node->setCore(placement);
-        node->addChild(box);
-        osg::endEditCP(node);
-        const osg::NodePtr root = nbScenegraph::getRootNode();
-        osg::beginEditCP(root);
-        root->addChild(node);
-        osg::endEditCP(root);
-        return box;
-    }
+    ~SelectionToolTest() override { nbSelection::clear(); }
 
     bool sendAt(const osg::Pnt2f& px, const std::string& event, const std::string& hint)
     {
@@ -80,10 +46,8 @@ protected:
         sendAt(px, "stop", hint);
     }
 
-    nbOSGWidget widget;
-    osg::NodePtr left;
-    osg::NodePtr right;
-    Picker picker;
+    osg::NodePtr left = box(1.0f);
+    osg::NodePtr right = box(1.0f);
     SelectionTool tool;
     ToolInteractionContext context { Selection };
     InteractionManager manager;

@@ -1,7 +1,4 @@
 // SPDX-License-Identifier: MIT
-// Cases: handles and what they refer to; signals; solving a widget's camera; refusals; the lock;
-// undo with and without a group; lines in a view that changes its shape; sizing by the width;
-// services that are missing.
 #include <nbKernel/nbOSGWidget.h>
 #include <nbKernelServices/nbKernelServiceFactory.h>
 #include <nbKernelServices/nbObjectService.h>

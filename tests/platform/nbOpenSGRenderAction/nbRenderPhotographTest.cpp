@@ -1,8 +1,4 @@
 // SPDX-License-Identifier: MIT
-// Cases: where a photograph lies in views of several shapes; a photograph of what the camera shows
-// lies exactly over it; transparent parts; edits; a veil over the scene, below handles; the
-// magnifier shows pixels as squares about the cursor, at the edges, and only in the main view; it
-// looks through the scene at a photograph.
 #include <nbKernel/nbOSGWidget.h>
 #include <nbKernel/nbScenegraph.h>
 #include <nbMagnifier/nbMagnifierRenderer.h>

@@ -167,17 +167,3 @@ TEST(nbEulerUtils, SmallStepsGoOnPastTheEndsAndPastWholeTurns)
         }
     }
 }
-
-TEST(nbEulerUtils, FloatsOfNodesComeBackFromRadians)
-{
-    const osg::Vec3f degrees(12.5f, -179.25f, 360.f);
-
-    const nbEulerAngles angles = nbEulerUtils::fromDegrees(degrees, 3);
-
-    EXPECT_EQ(3, angles.order);
-    EXPECT_NEAR(angles.z, 2.0 * kPi, kTolerance);
-    const osg::Vec3f back = nbEulerUtils::toVec3f(nbEulerUtils::toDegrees(angles));
-    for (osg::UInt32 i = 0; i < 3; ++i) {
-        EXPECT_EQ(degrees[i], back[i]);
-    }
-}

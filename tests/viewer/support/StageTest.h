@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "viewer/core/SessionChecks.h"
 #include "viewer/core/SessionTargets.h"
 #include "viewer/core/Stage.h"
 
@@ -13,6 +14,9 @@
 #include <QtWidgets/QUndoStack>
 
 #include <gtest/gtest.h>
+
+#include <utility>
+#include <vector>
 
 namespace viewer {
 
@@ -67,6 +71,32 @@ protected:
         stage.interaction().pointerMoved(px);
         return stage.interaction().triggerEvent(nbec::interaction::InteractionEvent(
             event, nbec::interaction::names::kTool, nbec::interaction::names::kSelect));
+    }
+
+    /// Commands with what they are given.
+    using Rows = std::vector<std::pair<const char*, QJsonValue>>;
+
+    /// That each edit is read back as it was typed and is one step.
+    void expectSteps(const Rows& rows, double tolerance)
+    {
+        for (const auto& [name, typed] : rows) {
+            const QJsonValue before = value(name);
+            const int stepsBefore = steps();
+            EXPECT_TRUE(run(name, typed)) << name;
+            EXPECT_TRUE(isNear(value(name), typed, tolerance)) << name;
+            EXPECT_EQ(steps(), stepsBefore + 1) << name;
+            ASSERT_TRUE(stage.undo()) << name;
+            EXPECT_TRUE(isNear(value(name), before, tolerance)) << name;
+        }
+    }
+
+    void expectRefusals(const Rows& rows)
+    {
+        const int stepsBefore = steps();
+        for (const auto& [name, typed] : rows) {
+            EXPECT_FALSE(run(name, typed)) << name << textOf(typed).toStdString();
+        }
+        EXPECT_EQ(steps(), stepsBefore);
     }
 
     /// Steps that can be taken back.
