@@ -11,7 +11,6 @@
 #include <nbOpenSGUberCamera/UberCamera.h>
 
 #include <OpenSG/OSGChunkMaterial.h>
-#include <OpenSG/OSGContainerCensus.h>
 
 #include <QtCore/QSignalBlocker>
 #include <QtWidgets/QUndoStack>
@@ -468,16 +467,6 @@ TEST(PerspectiveMatchManipulator, MissingServicesAreReportedOnceAndDoNoHarm)
         expectLine(scene.match().getXLine1(), before.translated(0.01, 0));
     }
     nbKernelServiceFactory::the().registerService(service);
-}
-
-TEST(PerspectiveMatchManipulator, ConstructionAndDestructionLeaveNothing)
-{
-    const osg::ContainerCensus before = osg::ContainerCensus::take();
-    {
-        const PerspectiveMatchManipulator first;
-        const PerspectiveMatchManipulator second;
-    }
-    EXPECT_EQ(osg::ContainerCensus::take().differenceTo(before), "");
 }
 
 }  // namespace nbec::manipulator::test

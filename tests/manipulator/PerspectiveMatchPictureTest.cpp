@@ -121,8 +121,7 @@ TEST_F(PerspectiveMatchPictureTest, LinesStandInTheirPixelsWhateverTheViewAndThe
 
 TEST_F(PerspectiveMatchPictureTest, TheOverlayLeavesNoTraceInTheEffectBuffer)
 {
-    scene.widget.getUberCamera()->setFromAtUp(osg::Pnt3f(0, 0, 6), osg::Pnt3f(0, 0, 0),
-                                              osg::Vec3f(0, 1, 0));
+    scene.lookFrom(osg::Pnt3f(0, 0, 6));
     scene.match().setZLine1(pixelLine(260, 240, 380, 240));
     EXPECT_TRUE(isColor(at(draw(), 320, 240), kBlue));
     const QImage effect = view->readEffect();

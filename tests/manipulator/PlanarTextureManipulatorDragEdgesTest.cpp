@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Drags of the planar gizmo where something is missing or degenerate, and what they do to the
-// object. A world unit at the origin is 72.4264 pixels, see PlanarTextureManipulatorDragTest.cpp.
+// Drags where something is missing or degenerate, and what they do to the object.
 #include "tests/manipulator/support/PlanarScene.h"
 
 #include <nbKernel/nbScenegraph.h>
@@ -145,23 +144,17 @@ TEST(PlanarTextureManipulatorDrag, MakesTheObjectATransformWithPivots)
     PlanarScene planar;
     const osg::NodePtr box = osg::makeBox(1, 1, 1, 1, 1, 1);
     const osg::NodePtr group = osg::makeCoredNode<osg::Transform3D>();
-    const auto place = osg::Transform3DPtr::dcast(group->getCore());
+    const auto place = transformOf(group);
     planar.edit(place, [](const auto& transform) { transform->setTranslation(Vec3f(0, 1, 0)); });
-    osg::beginEditCP(group, osg::Node::ChildrenFieldMask);
-    group->addChild(box);
-    osg::endEditCP(group, osg::Node::ChildrenFieldMask);
+    addChild(group, box);
     const osg::NodePtr object = osg::makeCoredNode<osg::Group>();
-    osg::beginEditCP(object, osg::Node::ChildrenFieldMask);
-    object->addChild(group);
-    osg::endEditCP(object, osg::Node::ChildrenFieldMask);
-    osg::beginEditCP(planar.parent, osg::Node::ChildrenFieldMask);
-    planar.parent->addChild(object);
-    osg::endEditCP(planar.parent, osg::Node::ChildrenFieldMask);
+    addChild(object, group);
+    addChild(planar.parent, object);
     planar.gizmo.setNode(object);
 
     ASSERT_TRUE(planar.grab("xaShape", Vec3f(1.9F, 0, 0)));
     EXPECT_TRUE(planar.drag.stepTo(Vec2f(72, 0)));
-    const auto core = osg::Transform3DPtr::dcast(object->getCore());
+    const auto core = transformOf(object);
     ASSERT_NE(core, osg::NullFC);
     expectNear(core->getRotatePivot(), Vec3f(0, 1, 0), "rotate pivot");
     expectNear(core->getScalePivot(), Vec3f(0, 1, 0), "scale pivot");

@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What drags send, with numbers worked out by hand. The eye is 10 units away under 45 degrees and
-// 600 pixels high, so a world unit at the origin is 300 / (10 tan 22.5) = 72.4264 pixels in both
-// projections.
+// What drags send, with numbers worked out by hand.
 #include "tests/manipulator/support/PlanarScene.h"
 
 #include <nbKernel/nbController.h>

@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Handles, groups and placement. The eye is 10 units away under 45
-// degrees and 600 pixels high: a world unit at the origin is 72.4264 pixels, a unit of the gizmo
-// 10 * 45 / 672 world units.
+// Handles, groups and placement.
 #include "tests/manipulator/support/PlanarScene.h"
 
 #include <nbKernel/nbController.h>

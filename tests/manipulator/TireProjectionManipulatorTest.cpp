@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Handles and drags of the tire gizmo, in an orthographic view 600 pixels high: a world unit is
-// 300 / (10 tan 22.5) = 72.4264 pixels.
+// Handles and drags in an orthographic view.
 #include "manipulator/TireProjectionManipulator.h"
 
 #include "tests/manipulator/support/AnchorScene.h"

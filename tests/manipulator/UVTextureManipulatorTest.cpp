@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Handles and drags of the UV gizmo. The eye is 10 units away under 45 degrees and 600 pixels high,
-// so the anchor at the origin is at pixel (400, 300) from the bottom and a unit of the gizmo is
-// 10 * 45 / 672 world units, 48.5 pixels.
+// Handles and drags; a unit of the gizmo is 48.5 pixels.
 #include "manipulator/UVTextureManipulator.h"
 
 #include "tests/manipulator/support/AnchorScene.h"
@@ -146,9 +144,7 @@ TEST(UVTextureManipulator, TheHandlesFaceTheViewerAndKeepTheirSizeOnScreen)
         node->setScale(Vec3f(2, 1, 3));
     });
     const auto rootScale = [&at] {
-        return osg::Transform3DPtr::dcast(at.gizmo.getVisualisation()->getChild(0)->getCore())
-            ->getScale()
-            .x();
+        return transformOf(at.gizmo.getVisualisation()->getChild(0))->getScale().x();
     };
     for (const Camera camera : { Camera::Front, Camera::Oblique, Camera::Top }) {
         for (const bool orthographic : { false, true }) {

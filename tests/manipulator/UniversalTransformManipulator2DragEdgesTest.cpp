@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What drags send, show and refuse, and what may go wrong in the middle of one.
 #include "tests/manipulator/support/DragScene.h"
+#include "tests/platform/support/LogLines.h"
 
 #include <nbKernel/nbController.h>
 #include <nbKernel/nbScenegraph.h>
@@ -9,7 +10,6 @@
 #include <nbOpenSGUtils/nbNodePermission.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 #include <nbTransform/nbTransformModel.h>
-#include <nbUtils/nbLog.h>
 
 #include <OpenSG/OSGGroup.h>
 #include <OpenSG/OSGSimpleGeometry.h>
@@ -29,26 +29,6 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 constexpr osg::Int32 kTransformPermission = 19;
-
-/// Collects log lines while it lives.
-class LogLines
-{
-public:
-    LogLines()
-        : before(nbLog::setSink(
-              [this](nbLog::Level, const std::string& text) { lines.push_back(text); }))
-    { }
-
-    LogLines(const LogLines&) = delete;
-    LogLines& operator=(const LogLines&) = delete;
-
-    ~LogLines() { nbLog::setSink(before); }
-
-    std::vector<std::string> lines;
-
-private:
-    nbLog::Sink before;
-};
 
 std::vector<std::string> visibleTexts()
 {
@@ -77,7 +57,7 @@ void setCore(const osg::NodePtr& node, const osg::NodeCorePtr& core)
 
 Vec3f translationOf(const osg::NodePtr& node)
 {
-    return osg::Transform3DPtr::dcast(node->getCore())->getTranslation();
+    return transformOf(node)->getTranslation();
 }
 
 }  // namespace
@@ -142,7 +122,7 @@ TEST(DragRefusals, ALockedNodeIsNeitherConvertedNorMovedAndEveryStepIsLogged)
     setCore(drags.scene.node, osg::Group::create());
     drags.gizmo.update(true);
     nbNodePermission::setAllowed(drags.scene.node, kTransformPermission, false);
-    const LogLines log;
+    const nbtest::LogLines log;
     const Pnt2f pixel = drags.rayPixelOf(drags.onGizmo(kArrow));
     ASSERT_TRUE(drags.scene.send("start", pixel));
     EXPECT_FALSE(drags.scene.send("process", pixel));
@@ -150,7 +130,7 @@ TEST(DragRefusals, ALockedNodeIsNeitherConvertedNorMovedAndEveryStepIsLogged)
     EXPECT_THAT(log.lines,
                 ElementsAre("Selected node cannot be transformed.",
                             "Selected node cannot be transformed."));
-    EXPECT_EQ(osg::Transform3DPtr::dcast(drags.scene.node->getCore()), osg::NullFC);
+    EXPECT_EQ(transformOf(drags.scene.node), osg::NullFC);
 }
 
 TEST(DragRefusals, OfSeveralNodesOnlyTheLockedOnesStay)
@@ -159,7 +139,7 @@ TEST(DragRefusals, OfSeveralNodesOnlyTheLockedOnesStay)
     const osg::NodePtr further = drags.addFurther(Vec3f(3, 0, 0));
     drags.gizmo.setNode(drags.scene.node, { further });
     nbNodePermission::setAllowed(drags.scene.node, kTransformPermission, false);
-    const LogLines log;
+    const nbtest::LogLines log;
     ASSERT_TRUE(drags.grab(kArrow));
     EXPECT_TRUE(drags.dragBy(Vec2f(72, 0)));
     EXPECT_EQ(drags.core()->getTranslation(), Vec3f(0, 0, 0));
@@ -175,7 +155,7 @@ TEST(DragConversion, AGroupBecomesATransformWithItsPivotsAtTheObjectsCentre)
     const osg::NodePtr node = drags.scene.node;
     setCore(node, osg::Group::create());
     const osg::NodePtr holder = osg::makeCoredNode<osg::Transform3D>();
-    const auto place = osg::Transform3DPtr::dcast(holder->getCore());
+    const auto place = transformOf(holder);
     osg::beginEditCP(place);
     place->setTranslation(Vec3f(1, 0.5F, 0));
     osg::endEditCP(place);
@@ -207,8 +187,8 @@ TEST(SeveralNodes, EachTurnsAndScalesAboutItsOwnPivots)
     DragScene drags;
     const osg::NodePtr right = drags.addFurther(Vec3f(3, 0, 0));
     const osg::NodePtr above = drags.addFurther(Vec3f(0, 3, 0));
-    const auto rightCore = osg::Transform3DPtr::dcast(right->getCore());
-    const auto aboveCore = osg::Transform3DPtr::dcast(above->getCore());
+    const auto rightCore = transformOf(right);
+    const auto aboveCore = transformOf(above);
     drags.edit(aboveCore,
                [](const osg::Transform3DPtr& core) { core->setRotation(Vec3f(0, 0, 30)); });
     drags.gizmo.setNode(drags.scene.node, { right, above });
@@ -375,7 +355,7 @@ TEST(BrokenDrags, FlattenedAndMirroredNodesAndParentsStayFinite)
             for (const Vec3f& factor : { Vec3f(0, 0, 0), Vec3f(0, 1, 1), Vec3f(-1, 2, 1) }) {
                 for (const auto& [mode, grab] : handles) {
                     DragScene drags;
-                    const LogLines log;  // the model says what it leaves alone
+                    const nbtest::LogLines log;  // the model says what it leaves alone
                     Gizmo::setLocalSpaceManipulator(local);
                     drags.activate(mode);
                     ASSERT_TRUE(drags.grab(grab));

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Drags of every handle with numbers worked out by hand. The eye is 10 units away under 45 degrees
-// and 600 pixels high, so a world unit at the gizmo is 300 / (10 tan 22.5) = 72.4264 pixels in both
-// projections, and a unit of the gizmo 48.5 (perspective) or 50 pixels (orthographic).
+// Drags of every handle with numbers worked out by hand; a unit of the gizmo is 48.5 (perspective)
+// or 50 pixels (orthographic).
 #include "tests/manipulator/support/DragScene.h"
 
 #include <nbOpenSGUberCamera/UberCamera.h>

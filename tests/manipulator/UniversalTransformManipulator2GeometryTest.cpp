@@ -33,11 +33,8 @@ class GizmoGeometry : public UniversalTransformManipulator2Test
 
 TEST_F(GizmoGeometry, RootHoldsMarksCopyExtrasAndHandlesInThisOrder)
 {
-    ASSERT_EQ(nbNodeUtils::getName(root()), "Manipulatorgroup");
+    expectManipulatorRoot(root());
     ASSERT_EQ(root()->getNChildren(), 4U);
-    EXPECT_TRUE(nbNodeUtils::isAuxiliaryNode(root()));
-    EXPECT_TRUE(nbNodeUtils::isSelectableAuxiliaryNode(root()));
-    EXPECT_TRUE(nbNodeUtils::isManipulatorNode(root()));
     EXPECT_EQ(gizmo.getCollider(), root());
 
     const osg::Int32 sortKeys[] = { 0, 64015, 0, 64017 };

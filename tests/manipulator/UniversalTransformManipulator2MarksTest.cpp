@@ -31,7 +31,7 @@ protected:
         nbScenegraph::getRootNode()->addChild(holder);
         holder->addChild(below);
         const auto change = [](const osg::NodePtr& node, const Vec3f& scale) {
-            const auto core = osg::Transform3DPtr::dcast(node->getCore());
+            const auto core = transformOf(node);
             osg::beginEditCP(core);
             core->setRotation(Vec3f(10, 20, 30));
             core->setScale(scale);
@@ -46,7 +46,7 @@ protected:
 
     Pnt3f pivotOf(const osg::NodePtr& node, bool scalePivot) const
     {
-        const auto core = osg::Transform3DPtr::dcast(node->getCore());
+        const auto core = transformOf(node);
         Pnt3f pivot(core->getTranslation() + core->getRotatePivot());
         if (scalePivot) {
             pivot = Pnt3f(core->getScalePivot());
@@ -73,7 +73,7 @@ protected:
     void expectMarksAtPivots(bool scalePivot)
     {
         const osg::NodePtr frame = drags.gizmo.getVisualisation()->getChild(3)->getChild(0);
-        const float size = osg::Transform3DPtr::dcast(frame->getCore())->getScale().x();
+        const float size = transformOf(frame)->getScale().x();
         osg::UInt32 index = 0;
         for (const osg::NodePtr& node : { turned, below }) {
             float length = 0.0F;
@@ -85,7 +85,7 @@ protected:
 
     void moveCore(const osg::NodePtr& node)
     {
-        const auto core = osg::Transform3DPtr::dcast(node->getCore());
+        const auto core = transformOf(node);
         osg::beginEditCP(core, osg::Transform3D::TranslationFieldMask);
         core->setTranslation(core->getTranslation() + Vec3f(0, 0, 1));
         osg::endEditCP(core, osg::Transform3D::TranslationFieldMask);

@@ -80,9 +80,7 @@ TEST(DragUndo, ConversionAloneIsNoStepAndJoinsTheNextOne)
     const osg::RefPtr<osg::NodeCorePtr> held(group);
     // The object's centre, where the new pivots will be, is not the node's origin.
     const osg::NodePtr beside = drags.addFurther(Vec3f(2, 0, 0));
-    osg::beginEditCP(drags.scene.node, osg::Node::ChildrenFieldMask);
-    drags.scene.node->addChild(beside);
-    osg::endEditCP(drags.scene.node, osg::Node::ChildrenFieldMask);
+    addChild(drags.scene.node, beside);
     drags.gizmo.update(true);
     const osg::Matrix before = drags.scene.node->getToWorld();
     nbUndoService* const undo = nbUndoService::the();

@@ -41,19 +41,33 @@ bool describe(Archive& archive, CameraPose& pose)
         archive.field("zUp", pose.zUp, false);
 }
 
+/// Fields of an object that are left out where they have their usual value.
+template <class Archive, class Object>
+struct UsualFields
+{
+    Archive& archive;
+    Object& object;
+    const Object& usual;
+
+    template <class Member>
+    bool operator()(const char* name, Member Object::*member) const
+    {
+        return archive.field(name, object.*member, usual.*member);
+    }
+};
+
 template <class Archive>
 bool describe(Archive& archive, nbTransformState& state)
 {
-    static const nbTransformState kUsual = usualTransform();
-    return archive.field("translation", state.translation, kUsual.translation) &&
-        archive.field("rotatePivot", state.rotatePivot, kUsual.rotatePivot) &&
-        archive.field("scalePivot", state.scalePivot, kUsual.scalePivot) &&
+    using State = nbTransformState;
+    static const State kUsual = usualTransform();
+    const UsualFields<Archive, State> field { archive, state, kUsual };
+    return field("translation", &State::translation) && field("rotatePivot", &State::rotatePivot) &&
+        field("scalePivot", &State::scalePivot) &&
         archive.words("mode", state.rotationMode, kRotationModes, 0) &&
-        archive.field("angles", state.eulerRotation, kUsual.eulerRotation) &&
-        archive.field("order", state.eulerRotationOrder, kUsual.eulerRotationOrder) &&
-        archive.field("quaternion", state.rotationQuaternion, kUsual.rotationQuaternion) &&
-        archive.field("orientation", state.rotationOrientation, kUsual.rotationOrientation) &&
-        archive.field("scale", state.scale, kUsual.scale);
+        field("angles", &State::eulerRotation) && field("order", &State::eulerRotationOrder) &&
+        field("quaternion", &State::rotationQuaternion) &&
+        field("orientation", &State::rotationOrientation) && field("scale", &State::scale);
 }
 
 template <class Archive>
@@ -67,20 +81,20 @@ bool describe(Archive& archive, SceneNode& node)
 template <class Archive>
 bool describe(Archive& archive, nbTextureValues& values)
 {
-    static const nbTextureValues kUsual;
-    return archive.field("uvOffset", values.offset, kUsual.offset) &&
-        archive.field("uvRepeat", values.repeat, kUsual.repeat) &&
-        archive.field("uvRotate", values.rotate, kUsual.rotate) &&
-        archive.field("triplanarRotation", values.triplanarRotation, kUsual.triplanarRotation) &&
-        archive.field("triplanarOffsetU", values.triplanarOffsetU, kUsual.triplanarOffsetU) &&
-        archive.field("triplanarOffsetV", values.triplanarOffsetV, kUsual.triplanarOffsetV) &&
-        archive.field("triplanarRepeatU", values.triplanarRepeatU, kUsual.triplanarRepeatU) &&
-        archive.field("triplanarRepeatV", values.triplanarRepeatV, kUsual.triplanarRepeatV) &&
-        archive.field("tireCenter", values.tireCenter, kUsual.tireCenter) &&
-        archive.field("tireScaleU", values.tireScaleU, kUsual.tireScaleU) &&
-        archive.field("tireHeight", values.tireScaleHeight, kUsual.tireScaleHeight) &&
-        archive.field("tireRadius", values.tireScaleRadius, kUsual.tireScaleRadius) &&
-        archive.field("tireFit", values.tireAutoParameter, kUsual.tireAutoParameter);
+    using Values = nbTextureValues;
+    static const Values kUsual;
+    const UsualFields<Archive, Values> field { archive, values, kUsual };
+    return field("uvOffset", &Values::offset) && field("uvRepeat", &Values::repeat) &&
+        field("uvRotate", &Values::rotate) &&
+        field("triplanarRotation", &Values::triplanarRotation) &&
+        field("triplanarOffsetU", &Values::triplanarOffsetU) &&
+        field("triplanarOffsetV", &Values::triplanarOffsetV) &&
+        field("triplanarRepeatU", &Values::triplanarRepeatU) &&
+        field("triplanarRepeatV", &Values::triplanarRepeatV) &&
+        field("tireCenter", &Values::tireCenter) && field("tireScaleU", &Values::tireScaleU) &&
+        field("tireHeight", &Values::tireScaleHeight) &&
+        field("tireRadius", &Values::tireScaleRadius) &&
+        field("tireFit", &Values::tireAutoParameter);
 }
 
 template <class Archive>

@@ -21,15 +21,8 @@ AnchorScene::AnchorScene(AnchoredTextureManipulator& anchored, const AnchoredTra
 {
     nbController::clear();
     nbUndoService::the()->clear();
-    {
-        const osg::NodePtr world = nbScenegraph::getRootNode();
-        const nbEdit edit(world, osg::Node::ChildrenFieldMask);
-        world->addChild(parent);
-    }
-    {
-        const nbEdit edit(parent, osg::Node::ChildrenFieldMask);
-        parent->addChild(scene.node);
-    }
+    addChild(nbScenegraph::getRootNode(), parent);
+    addChild(parent, scene.node);
     settings->setTextureProjectionType(traits.type);
     material->setComponentSettings(osg::UberMaterial::kDiffuseComponent, settings);
     {
@@ -88,12 +81,12 @@ void AnchorScene::editSettings(
 
 osg::Transform3DPtr AnchorScene::core() const
 {
-    return osg::Transform3DPtr::dcast(scene.node->getCore());
+    return transformOf(scene.node);
 }
 
 osg::Transform3DPtr AnchorScene::parentCore() const
 {
-    return osg::Transform3DPtr::dcast(parent->getCore());
+    return transformOf(parent);
 }
 
 osg::NodePtr AnchorScene::handle(const std::string& name) const

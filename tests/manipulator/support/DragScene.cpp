@@ -18,13 +18,6 @@ namespace {
 
 using Gizmo = UniversalTransformManipulator2;
 
-void addChild(const osg::NodePtr& above, const osg::NodePtr& child)
-{
-    osg::beginEditCP(above, osg::Node::ChildrenFieldMask);
-    above->addChild(child);
-    osg::endEditCP(above, osg::Node::ChildrenFieldMask);
-}
-
 void useDefaultSettings()
 {
     Gizmo::setLocalSpaceManipulator(false);
@@ -103,12 +96,12 @@ bool DragScene::grab(const osg::Vec3f& unit)
 
 osg::Transform3DPtr DragScene::core() const
 {
-    return osg::Transform3DPtr::dcast(scene.node->getCore());
+    return transformOf(scene.node);
 }
 
 osg::Transform3DPtr DragScene::parentCore() const
 {
-    return osg::Transform3DPtr::dcast(parent->getCore());
+    return transformOf(parent);
 }
 
 void DragScene::edit(const osg::Transform3DPtr& transform,
@@ -123,7 +116,7 @@ void DragScene::edit(const osg::Transform3DPtr& transform,
 osg::NodePtr DragScene::addFurther(const osg::Vec3f& translation)
 {
     const osg::NodePtr further = osg::makeCoredNode<osg::Transform3D>();
-    const auto transform = osg::Transform3DPtr::dcast(further->getCore());
+    const auto transform = transformOf(further);
     osg::beginEditCP(transform);
     transform->setTranslation(translation);
     osg::endEditCP(transform);

@@ -2,13 +2,16 @@
 #include "tests/manipulator/support/GizmoScene.h"
 
 #include <nbKernel/nbScenegraph.h>
-#include <nbOpenSGExt/Transform3D.h>
 #include <nbOpenSGUberCamera/UberCamera.h>
+#include <nbOpenSGUtils/nbEdit.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGSimpleAttachments.h>
 #include <OpenSG/OSGSimpleGeometry.h>
 #include <OpenSG/OSGSimpleMaterial.h>
+
+#include <gtest/gtest.h>
 
 #include <cstdio>
 
@@ -25,16 +28,10 @@ GizmoScene::GizmoScene()
 {
     widget.setMain();
     widget.resize(kWidth, kHeight);
-    widget.getUberCamera()->setFromAtUp(osg::Pnt3f(0, 0, 10), osg::Pnt3f(0, 0, 0),
-                                        osg::Vec3f(0, 1, 0));
+    lookFrom(osg::Pnt3f(0, 0, 10));
     node = osg::makeCoredNode<osg::Transform3D>();
-    osg::beginEditCP(node, osg::Node::ChildrenFieldMask);
-    node->addChild(osg::makeBox(2, 2, 2, 1, 1, 1));
-    osg::endEditCP(node, osg::Node::ChildrenFieldMask);
-    const osg::NodePtr scene = nbScenegraph::getRootNode();
-    osg::beginEditCP(scene, osg::Node::ChildrenFieldMask);
-    scene->addChild(node);
-    osg::endEditCP(scene, osg::Node::ChildrenFieldMask);
+    addChild(node, osg::makeBox(2, 2, 2, 1, 1, 1));
+    addChild(nbScenegraph::getRootNode(), node);
     context.setPicker(&picker);
 }
 
@@ -63,12 +60,42 @@ bool GizmoScene::send(const std::string& event, const osg::Pnt2f& positionPx,
     return manager.triggerEvent(interaction::InteractionEvent(event, "tool", hint));
 }
 
+void GizmoScene::lookFrom(const osg::Pnt3f& eye)
+{
+    widget.getUberCamera()->setFromAtUp(eye, osg::Pnt3f(0, 0, 0), osg::Vec3f(0, 1, 0));
+}
+
+void GizmoScene::setOrthographic(bool on)
+{
+    const nbEdit edit(widget.getUberCamera(), osg::UberCamera::OrthographicFieldMask);
+    widget.getUberCamera()->setOrthographic(on);
+}
+
 void GizmoScene::install(AbstractManipulator& manipulator)
 {
     manager.removeContext(&context);
     manipulator.setVisualisationRoot(nbScenegraph::getInternalRoot());
     context.setManipulator(&manipulator);
     manager.addContext(&context);
+}
+
+void addChild(const osg::NodePtr& above, const osg::NodePtr& child)
+{
+    const nbEdit edit(above, osg::Node::ChildrenFieldMask);
+    above->addChild(child);
+}
+
+osg::Transform3DPtr transformOf(const osg::NodePtr& node)
+{
+    return osg::Transform3DPtr::dcast(node->getCore());
+}
+
+void expectManipulatorRoot(const osg::NodePtr& root)
+{
+    EXPECT_EQ(nbNodeUtils::getName(root), "Manipulatorgroup");
+    EXPECT_TRUE(nbNodeUtils::isAuxiliaryNode(root));
+    EXPECT_TRUE(nbNodeUtils::isSelectableAuxiliaryNode(root));
+    EXPECT_TRUE(nbNodeUtils::isManipulatorNode(root));
 }
 
 osg::NodePtr findNode(const osg::NodePtr& tree, const std::string& name)

@@ -7,6 +7,7 @@
 #include <nbInteraction/InteractionManager.h>
 #include <nbInteraction/Picker.h>
 #include <nbKernel/nbOSGWidget.h>
+#include <nbOpenSGExt/Transform3D.h>
 
 #include <OpenSG/OSGMatrix.h>
 #include <OpenSG/OSGNode.h>
@@ -36,6 +37,10 @@ public:
 
     bool hover(const osg::Pnt3f& world) { return send("hover", pixelOf(world)); }
 
+    /// Places the eye; it looks at the origin, y up.
+    void lookFrom(const osg::Pnt3f& eye);
+    void setOrthographic(bool on);
+
     /// Installs a manipulator under the internal root and adds the context.
     void install(AbstractManipulator& manipulator);
 
@@ -45,6 +50,14 @@ public:
     ManipulatorInteractionContext context;
     osg::NodePtr node;  ///< a 2 x 2 x 2 box with a Transform3D above it, at the origin
 };
+
+void addChild(const osg::NodePtr& above, const osg::NodePtr& child);
+
+/// The Transform3D of a node; null if it has none.
+osg::Transform3DPtr transformOf(const osg::NodePtr& node);
+
+/// That a manipulator's root is named and marked as one.
+void expectManipulatorRoot(const osg::NodePtr& root);
 
 /// The first node of a name in a tree, depth first; null if there is none.
 osg::NodePtr findNode(const osg::NodePtr& tree, const std::string& name);

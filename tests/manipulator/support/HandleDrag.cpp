@@ -10,16 +10,13 @@ namespace nbec::manipulator::test {
 
 void HandleDrag::look(Camera from, bool orthographic)
 {
-    const osg::UberCameraPtr camera = scene.widget.getUberCamera();
-    osg::beginEditCP(camera);
-    camera->setOrthographic(orthographic);
-    osg::endEditCP(camera);
+    scene.setOrthographic(orthographic);
     static const osg::Pnt3f kEyes[] = {
         { 0, 0, 10 }, { 10, 0, 0 }, { 0, 10, 0 }, { 20.0F / 7, 30.0F / 7, 60.0F / 7 }
     };
     const osg::Pnt3f& eye = kEyes[static_cast<std::size_t>(from)];
     const osg::Vec3f up = from == Camera::Top ? osg::Vec3f(0, 0, -1) : osg::Vec3f(0, 1, 0);
-    camera->setFromAtUp(eye, osg::Pnt3f(0, 0, 0), up);
+    scene.widget.getUberCamera()->setFromAtUp(eye, osg::Pnt3f(0, 0, 0), up);
 }
 
 osg::Pnt2f HandleDrag::rayPixelOf(const osg::Pnt3f& world) const

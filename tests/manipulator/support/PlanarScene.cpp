@@ -13,18 +13,7 @@
 
 namespace nbec::manipulator::test {
 
-namespace {
-
 using Gizmo = PlanarTextureManipulator;
-
-void addChild(const osg::NodePtr& above, const osg::NodePtr& child)
-{
-    osg::beginEditCP(above, osg::Node::ChildrenFieldMask);
-    above->addChild(child);
-    osg::endEditCP(above, osg::Node::ChildrenFieldMask);
-}
-
-}  // namespace
 
 PlanarScene::PlanarScene(Receiver receiver)
     : parent(osg::makeCoredNode<osg::Transform3D>())
@@ -95,12 +84,12 @@ void PlanarScene::edit(const osg::Transform3DPtr& transform,
 
 osg::Transform3DPtr PlanarScene::core() const
 {
-    return osg::Transform3DPtr::dcast(scene.node->getCore());
+    return transformOf(scene.node);
 }
 
 osg::Transform3DPtr PlanarScene::parentCore() const
 {
-    return osg::Transform3DPtr::dcast(parent->getCore());
+    return transformOf(parent);
 }
 
 osg::Matrix PlanarScene::worldFromProjection() const

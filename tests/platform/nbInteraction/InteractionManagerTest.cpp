@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/platform/nbInteraction/Recording.h"
-
-#include <nbUtils/nbLog.h>
+#include "tests/platform/support/LogLines.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -242,9 +241,7 @@ TEST_F(InteractionManagerTest, ContextThatLeavesWithinItsStartLeavesNoDragBehind
 
 TEST_F(InteractionManagerTest, WhatAContextThrowsIsLoggedAndCountsAsRefusal)
 {
-    std::vector<std::string> errors;
-    const nbLog::Sink former = nbLog::setSink(
-        [&errors](nbLog::Level, const std::string& text) { errors.push_back(text); });
+    const nbtest::LogLines errors;
     RecordingContext upper(log, "upper", Manipulator, { "start" });
     RecordingContext lower(log, "lower", Tool, { "start" });
     add(upper);
@@ -253,9 +250,8 @@ TEST_F(InteractionManagerTest, WhatAContextThrowsIsLoggedAndCountsAsRefusal)
 
     EXPECT_TRUE(send("start"));
 
-    nbLog::setSink(former);
     EXPECT_EQ(&lower, manager.getDragContext());
-    EXPECT_THAT(errors, ElementsAre("InteractionManager: a context threw: no luck"));
+    EXPECT_THAT(errors.lines, ElementsAre("InteractionManager: a context threw: no luck"));
 }
 
 TEST_F(InteractionManagerTest, EitherSideMayDieFirst)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "tests/platform/support/LogLines.h"
+
 #include <nbKernel/nbController.h>
-#include <nbUtils/nbLog.h>
 
 #include <OpenSG/OSGVector.h>
 
@@ -46,19 +47,17 @@ TEST_F(nbControllerTest, UnknownNamesAreSilentAndCounted)
 
 TEST_F(nbControllerTest, ReceiverThatThrowsIsLoggedAndHarmsNobody)
 {
-    std::vector<std::string> entries;
-    nbLog::setSink([&entries](nbLog::Level, const std::string& text) { entries.push_back(text); });
+    const nbtest::LogLines log;
     nbController::addReceiver("broken",
                               [](nbMessage&) { throw std::runtime_error("no material"); });
     nbController::addReceiver("odd", [](nbMessage&) { throw 42; });
 
     EXPECT_FALSE(nbController::call("broken", 0));
     EXPECT_FALSE(nbController::call("odd", 0));
-    nbLog::setSink(nbLog::Sink());
 
-    ASSERT_EQ(entries.size(), 2u);
-    EXPECT_THAT(entries[0], HasSubstr("'broken' failed: no material"));
-    EXPECT_THAT(entries[1], HasSubstr("'odd'"));
+    ASSERT_EQ(log.lines.size(), 2u);
+    EXPECT_THAT(log.lines[0], HasSubstr("'broken' failed: no material"));
+    EXPECT_THAT(log.lines[1], HasSubstr("'odd'"));
     EXPECT_EQ(nbController::getLostCallCount(), 0u);
 }
 

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tests/platform/support/LogLines.h"
+
 #include <nbKernel/nbController.h>
 #include <nbKernelServices/nbUndoService.h>
 #include <nbMaterialEditor/nbMaterialEditor.h>
-#include <nbUtils/nbLog.h>
 
 #include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGSimpleGeometry.h>
@@ -61,13 +62,10 @@ protected:
         root->addChild(object);
         editor = std::make_unique<nbMaterialEditor>("label");
         editor->setMaterial(material.get(), object, kDiffuse, &gui);
-        formerSink =
-            nbLog::setSink([this](nbLog::Level, const std::string& text) { log.push_back(text); });
     }
 
     void TearDown() override
     {
-        nbLog::setSink(formerSink);
         editor.reset();
         undo->clear();
         nbController::clear();
@@ -92,8 +90,8 @@ protected:
     osg::NodePtr object;
     Gui gui;
     std::unique_ptr<nbMaterialEditor> editor;
-    std::vector<std::string> log;
-    nbLog::Sink formerSink;
+    nbtest::LogLines logLines;
+    std::vector<std::string>& log = logLines.lines;
 };
 
 }  // namespace editortest

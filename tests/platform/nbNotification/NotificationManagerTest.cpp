@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "tests/platform/support/LogLines.h"
+
 #include <nbNotification/CameraNotifier.h>
 #include <nbNotification/NotificationManager.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
-#include <nbUtils/nbLog.h>
 
 #include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGRefPtr.h>
@@ -90,7 +91,7 @@ TEST_F(NotificationManagerTest, TheNodeOfACameraNotifierGoesWithIt)
 
 TEST_F(NotificationManagerTest, ListenersHearOfChangesAndMayThrow)
 {
-    const nbLog::Sink former = nbLog::setSink([](nbLog::Level, const std::string&) {});
+    const nbtest::LogLines log;
     int heard = 0;
     manager->setChangeListener([&heard] {
         ++heard;
@@ -107,7 +108,6 @@ TEST_F(NotificationManagerTest, ListenersHearOfChangesAndMayThrow)
     manager->setText(nullptr, QStringLiteral("3"));
 
     EXPECT_EQ(3, heard);
-    nbLog::setSink(former);
 }
 
 TEST_F(NotificationManagerTest, SettingsThatAreNotFiniteChangeNothing)

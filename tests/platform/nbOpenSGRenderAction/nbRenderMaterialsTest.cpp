@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "tests/platform/support/LogLines.h"
 #include "tests/platform/support/RenderTest.h"
 
 #include <nbOpenSGRenderAction/nbImageConvert.h>
 #include <nbOpenSGUtils/nbShaderHeader.h>
-#include <nbUtils/nbLog.h>
 
 #include <QtGui/QOffscreenSurface>
 #include <QtGui/QOpenGLContext>
@@ -115,9 +115,7 @@ TEST_F(nbRenderMaterialsTest, ShaderChunkDrawsWithItsParameters)
 
 TEST_F(nbRenderMaterialsTest, BrokenShaderCostsOneLineAndIsDrawnInPlainColor)
 {
-    std::vector<std::string> lines;
-    const nbLog::Sink former =
-        nbLog::setSink([&lines](nbLog::Level, const std::string& text) { lines.push_back(text); });
+    const nbtest::LogLines log;
     const osg::SHLChunkPtr chunk = osg::SHLChunk::create();
     {
         const nbEdit edit(chunk, osg::FieldBits::AllFields);
@@ -127,11 +125,10 @@ TEST_F(nbRenderMaterialsTest, BrokenShaderCostsOneLineAndIsDrawnInPlainColor)
 
     draw(group({ square(1.f, with(unlit(kGreen), osg::StateChunkPtr(chunk))) }));
     const QImage picture = redraw();
-    nbLog::setSink(former);
 
     EXPECT_EQ(at(picture, 0.f, 0.f), kBlue) << "the parameter color is what is left";
-    ASSERT_EQ(lines.size(), 1u) << "once, not per frame";
-    EXPECT_EQ(lines[0].find('\n'), std::string::npos);
+    ASSERT_EQ(log.lines.size(), 1u) << "once, not per frame";
+    EXPECT_EQ(log.lines[0].find('\n'), std::string::npos);
 }
 
 TEST_F(nbRenderMaterialsTest, EditsShowInTheNextFrameAndStillScenesCostNoRebuild)

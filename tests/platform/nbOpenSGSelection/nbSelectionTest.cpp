@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "tests/platform/support/LogLines.h"
+
 #include <nbOpenSGSelection/nbSelection.h>
-#include <nbUtils/nbLog.h>
 
 #include <OpenSG/OSGRefPtr.h>
 
@@ -80,9 +81,7 @@ TEST_F(nbSelectionTest, DestroyedNodeReadsAsGoneAndIsNotKeptAlive)
 
 TEST_F(nbSelectionTest, CallbacksMayChangeSelectionAndCallbacksAndThrow)
 {
-    std::string logged;
-    const nbLog::Sink former =
-        nbLog::setSink([&logged](nbLog::Level, const std::string& text) { logged = text; });
+    const nbtest::LogLines log;
     int removed = 0;
     int throwing = 0;
     int calls = 0;
@@ -96,11 +95,10 @@ TEST_F(nbSelectionTest, CallbacksMayChangeSelectionAndCallbacksAndThrow)
 
     nbSelection::set(a.get());
 
-    nbLog::setSink(former);
     EXPECT_THAT(nbSelection::getNodes(), ElementsAre(a.get(), b.get()));
     EXPECT_EQ(0, calls);
     EXPECT_EQ(2, changes);
-    EXPECT_EQ("nbSelection: a changed callback threw: no luck", logged);
+    EXPECT_THAT(log.lines, ElementsAre("nbSelection: a changed callback threw: no luck"));
     EXPECT_EQ(0, nbSelection::addChangedCallback(nullptr));
 }
 

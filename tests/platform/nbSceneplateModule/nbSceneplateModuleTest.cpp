@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "tests/platform/support/LogLines.h"
 #include "tests/platform/support/Plates.h"
 
 #include <nbKernel/nbController.h>
@@ -10,7 +11,6 @@
 #include <nbOpenSGUtils/nbNodeUtils.h>
 #include <nbSceneplateModule/nbSceneplateEditing.h>
 #include <nbSceneplateModule/nbSceneplateModule.h>
-#include <nbUtils/nbLog.h>
 
 #include <OpenSG/OSGGroup.h>
 
@@ -47,13 +47,11 @@ protected:
         widget.resize(800, 600);
         undo->clear();
         nbController::setModified(0);
-        nbLog::setSink([this](nbLog::Level, const std::string& text) { log.push_back(text); });
         module.addChangedCallback([this] { ++changes; });
     }
 
     ~nbSceneplateModuleTest() override
     {
-        nbLog::setSink(nbLog::Sink());
         undo->clear();
         nbScenegraph::clear();
     }
@@ -116,7 +114,8 @@ protected:
     nbOSGWidget widget;
     nbUndoService* const undo = nbUndoService::the();
     nbSceneplateModule module;
-    std::vector<std::string> log;
+    nbtest::LogLines logLines;
+    std::vector<std::string>& log = logLines.lines;
     int changes = 0;
 };
 

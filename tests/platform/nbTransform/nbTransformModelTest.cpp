@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "tests/platform/support/LogLines.h"
+
 #include <nbKernelServices/nbUndoService.h>
 #include <nbOpenSGExt/Transform3D.h>
 #include <nbOpenSGExt/nbEulerRotation.h>
@@ -6,7 +8,6 @@
 #include <nbOpenSGUtils/nbNodePermission.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 #include <nbTransform/nbTransformModel.h>
-#include <nbUtils/nbLog.h>
 
 #include <OpenSG/OSGGroup.h>
 #include <OpenSG/OSGNode.h>
@@ -61,17 +62,11 @@ class nbTransformModelTest : public testing::Test
 protected:
     nbTransformModelTest()
         : root(osg::makeNodeFor(osg::Group::create()))
-        , formerSink(nbLog::setSink(
-              [this](nbLog::Level, const std::string& text) { logged.push_back(text); }))
     {
         nbUndoService::the()->clear();
     }
 
-    ~nbTransformModelTest() override
-    {
-        nbLog::setSink(formerSink);
-        nbUndoService::the()->clear();
-    }
+    ~nbTransformModelTest() override { nbUndoService::the()->clear(); }
 
     osg::NodePtr add(const Placement& placement, const osg::NodePtr& parent = osg::NullFC)
     {
@@ -99,11 +94,9 @@ protected:
     }
 
     osg::NodeRefPtr root;
-    std::vector<std::string> logged;
+    nbtest::LogLines logLines;
+    std::vector<std::string>& logged = logLines.lines;
     nbTransformModel* const model = nbTransformModel::the();
-
-private:
-    nbLog::Sink formerSink;
 };
 
 void expectNear(const Vec3f& actual, const Vec3f& expected, float tolerance = kTolerance)

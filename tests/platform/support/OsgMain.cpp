@@ -1,19 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The main function of test programs that use the scene graph.
-#include <nbKernel/nbController.h>
-#include <nbKernel/nbScenegraph.h>
-
-#include <OpenSG/OSGBaseFunctions.h>
-
-#include <gmock/gmock.h>
+#include "tests/platform/support/RunTests.h"
 
 int main(int argc, char** argv)
 {
     testing::InitGoogleMock(&argc, argv);
-    osg::osgInit(argc, argv);
-    const int result = RUN_ALL_TESTS();
-    nbController::clear();
-    nbScenegraph::clear();
-    osg::osgExit();
-    return result;
+    return nbtest::runTests(argc, argv);
 }

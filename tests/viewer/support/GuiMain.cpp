@@ -1,14 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The main function of test programs that open windows.
-#include <nbKernel/nbController.h>
-#include <nbKernel/nbScenegraph.h>
-
-#include <OpenSG/OSGBaseFunctions.h>
+#include "tests/platform/support/RunTests.h"
 
 #include <QApplication>
 #include <QSurfaceFormat>
-
-#include <gmock/gmock.h>
 
 #include <optional>
 
@@ -26,10 +21,5 @@ int main(int argc, char** argv)
         QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
         application.emplace(argc, argv);
     }
-    osg::osgInit(argc, argv);
-    const int result = RUN_ALL_TESTS();
-    nbController::clear();
-    nbScenegraph::clear();
-    osg::osgExit();
-    return result;
+    return nbtest::runTests(argc, argv);
 }
