@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/fuzz/Stage.h"
 
+#include "tests/platform/support/Edited.h"
+
 #include <nbKernel/nbController.h>
 #include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbKernelServiceFactory.h>
@@ -35,8 +37,7 @@ constexpr std::array<const char*, 8> kHarmed = { "harm::changedPlanarManipulator
 
 void addChild(const osg::NodePtr& above, const osg::NodePtr& child)
 {
-    const nbEdit edit(above, osg::Node::ChildrenFieldMask);
-    above->addChild(child);
+    nbtest::edited(above, osg::Node::ChildrenFieldMask)->addChild(child);
 }
 
 void leaveParent(const osg::NodePtr& node)
@@ -433,10 +434,7 @@ void Stage::addPlate(std::size_t index)
 {
     const osg::NodePtr node = osg::makeCoredNode<osg::Sceneplate>();
     const osg::SceneplatePtr core = nbSceneplateList::plateOf(node);
-    {
-        const nbEdit edit(core, osg::FieldBits::AllFields);
-        core->setPosition(osg::Vec2f(0.2F * static_cast<float>(index), 0.1F));
-    }
+    nbtest::edited(core)->setPosition(osg::Vec2f(0.2F * static_cast<float>(index), 0.1F));
     plates[index] = node;
     addChild(nbScenegraph::getSceneplateRoot(), node);
 }

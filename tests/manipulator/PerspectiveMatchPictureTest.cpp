@@ -2,6 +2,7 @@
 // The perspective match overlay as it is drawn, at named pixels.
 #include "manipulator/PerspectiveMatchManipulator.h"
 #include "tests/manipulator/support/MatchScene.h"
+#include "tests/platform/support/Edited.h"
 
 #include <nbOpenSGRenderAction/nbImageConvert.h>
 #include <nbOpenSGRenderAction/nbOffscreenView.h>
@@ -48,9 +49,7 @@ protected:
     {
         ASSERT_TRUE(view->open()) << view->getError();
         const osg::UberViewportPtr viewport = scene.widget.getUberViewport();
-        osg::beginEditCP(viewport);
-        viewport->setBackgroundColor(osg::Color4f(0, 0, 0, 1));
-        osg::endEditCP(viewport);
+        nbtest::edited(viewport)->setBackgroundColor(osg::Color4f(0, 0, 0, 1));
         scene.installFor(gizmo);
         scene.widget.resize(640, 480);
     }
@@ -95,9 +94,7 @@ TEST_F(PerspectiveMatchPictureTest, LinesStandInTheirPixelsWhateverTheViewAndThe
     const osg::UberCameraPtr camera = scene.widget.getUberCamera();
     for (const QSize size : { QSize(640, 480), QSize(360, 640), QSize(301, 203) }) {
         for (const bool isHorizontal : { false, true }) {
-            osg::beginEditCP(camera);
-            camera->setHorizontalSizing(isHorizontal);
-            osg::endEditCP(camera);
+            nbtest::edited(camera)->setHorizontalSizing(isHorizontal);
             scene.widget.resize(size.width(), size.height());
             scene.layLines();
             // Across the middle, over the box; and up along the right edge.
@@ -165,9 +162,7 @@ TEST_F(PerspectiveMatchPictureTest, TheMagnifierShowsPhotographAndLineUnderAHeld
         }
     }
     const osg::UberViewportPtr viewport = scene.widget.getUberViewport();
-    osg::beginEditCP(viewport);
-    viewport->setPhotograph(nbImageConvert::toImage(photograph));
-    osg::endEditCP(viewport);
+    nbtest::edited(viewport)->setPhotograph(nbImageConvert::toImage(photograph));
     scene.match().setXLine1(pixelLine(316, 60, 200, 60));
     scene.match().setMagnifyFactor(4.0F);
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Drags where something is missing or degenerate, and what they do to the object.
 #include "tests/manipulator/support/PlanarScene.h"
+#include "tests/platform/support/Edited.h"
 
 #include <nbKernel/nbScenegraph.h>
 #include <nbNotification/NotificationManager.h>
@@ -46,9 +47,7 @@ TEST(PlanarTextureManipulatorDrag, NodeMaterialAndViewMayGoInMidDrag)
     {
         PlanarScene planar;
         ASSERT_TRUE(planar.grab("xaShape", tip));
-        osg::beginEditCP(planar.parent, osg::Node::ChildrenFieldMask);
-        planar.parent->subChild(planar.scene.node);
-        osg::endEditCP(planar.parent, osg::Node::ChildrenFieldMask);
+        nbtest::edited(planar.parent, osg::Node::ChildrenFieldMask)->subChild(planar.scene.node);
         planar.log.clear();
         EXPECT_FALSE(planar.drag.stepTo(Vec2f(9, 0)));
         EXPECT_FALSE(planar.drag.release());
@@ -61,9 +60,7 @@ TEST(PlanarTextureManipulatorDrag, NodeMaterialAndViewMayGoInMidDrag)
         PlanarScene planar;
         ASSERT_TRUE(planar.grab("xaShape", tip));
         const auto geometry = osg::GeometryPtr::dcast(planar.scene.node->getChild(0)->getCore());
-        osg::beginEditCP(geometry, osg::Geometry::MaterialFieldMask);
-        geometry->setMaterial(osg::MaterialPtr());
-        osg::endEditCP(geometry, osg::Geometry::MaterialFieldMask);
+        nbtest::edited(geometry, osg::Geometry::MaterialFieldMask)->setMaterial(osg::MaterialPtr());
         planar.material = osg::UberMaterialPtr();
         EXPECT_EQ(planar.gizmo.getMaterial(), osg::NullFC);
         EXPECT_TRUE(planar.drag.stepTo(Vec2f(72, 0)));
@@ -99,9 +96,7 @@ TEST(PlanarTextureManipulatorDrag, DegenerateProjectionsGiveFiniteValues)
     for (const Vec3f& scale : scales) {
         for (const bool keepAspect : { false, true }) {
             PlanarScene planar;
-            osg::beginEditCP(planar.settings);
-            planar.settings->setPlanarProjectionFlags(keepAspect ? 1 : 0);
-            osg::endEditCP(planar.settings);
+            nbtest::edited(planar.settings)->setPlanarProjectionFlags(keepAspect ? 1 : 0);
             planar.edit(planar.projection,
                         [&scale](const auto& projection) { projection->setScale(scale); });
             for (const auto& handle : handles) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What drags send, with numbers worked out by hand.
 #include "tests/manipulator/support/PlanarScene.h"
+#include "tests/platform/support/Edited.h"
 
 #include <nbKernel/nbController.h>
 
@@ -181,9 +182,7 @@ TEST_P(Scales, SendTheNewScale)
     for (const bool orthographic : { false, true }) {
         PlanarScene planar;
         arrange(planar, Setting::Scaled);
-        osg::beginEditCP(planar.settings);
-        planar.settings->setPlanarProjectionFlags(row.keepAspect ? 1 : 0);
-        osg::endEditCP(planar.settings);
+        nbtest::edited(planar.settings)->setPlanarProjectionFlags(row.keepAspect ? 1 : 0);
         planar.gizmo.activateScaleManipulator();
         planar.look(row.camera, orthographic);
         ASSERT_TRUE(planar.grab(row.handle, row.grab));

@@ -3,6 +3,7 @@
 // What was grabbed stays under the pointer, and the opposite edge or corner stays in the world.
 #include "manipulator/detail/DragGeometry.h"
 #include "tests/manipulator/support/PlanarScene.h"
+#include "tests/platform/support/Edited.h"
 
 #include <nbKernel/nbController.h>
 
@@ -261,9 +262,8 @@ TEST(PlanarTextureManipulatorLoop, CornersKeepTheRatioIfTheMaterialSaysSo)
         PlanarScene planar(PlanarScene::Receiver::Editor);
         planar.edit(planar.projection,
                     [](const auto& projection) { projection->setScale(Vec3f(2, 1, 1)); });
-        osg::beginEditCP(planar.settings);
-        planar.settings->setPlanarProjectionFlags(osg::ColorComponentSettings::KeepAspectRatio);
-        osg::endEditCP(planar.settings);
+        nbtest::edited(planar.settings)
+            ->setPlanarProjectionFlags(osg::ColorComponentSettings::KeepAspectRatio);
         const std::string name = handle;
         const float x = name.find("LL") != std::string::npos ? 1.0F
             : name.find('X') != std::string::npos            ? -1.0F

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What the planar gizmo asks for, reads and tells around a drag.
 #include "tests/manipulator/support/PlanarScene.h"
+#include "tests/platform/support/Edited.h"
 
 #include <nbKernel/nbController.h>
 
@@ -111,9 +112,7 @@ TEST(PlanarTextureManipulator, ReadsFlagAndPictureOfTheComponent)
     planar.gizmo.setKeepAspectRatio(true);
     planar.gizmo.prepareManipulator(planar.scene.node);
     EXPECT_FALSE(planar.gizmo.getKeepAspectRatio());
-    osg::beginEditCP(planar.settings);
-    planar.settings->setPlanarProjectionFlags(1);
-    osg::endEditCP(planar.settings);
+    nbtest::edited(planar.settings)->setPlanarProjectionFlags(1);
     const osg::ImagePtr image = osg::Image::create();
     image->set(osg::Image::OSG_RGB_PF, 6, 4);
     planar.material->setImage("diffuse", image);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Handles, groups and placement.
 #include "tests/manipulator/support/PlanarScene.h"
+#include "tests/platform/support/Edited.h"
 
 #include <nbKernel/nbController.h>
 #include <nbOpenSGUberCamera/UberCamera.h>
@@ -262,9 +263,7 @@ TEST(PlanarTextureManipulator, UpdateFollowsMaterialCameraAndSize)
         return gizmo.getVisualisation()->getChild(0)->getToWorld()[0][0];
     };
 
-    osg::beginEditCP(planar.projection);
-    planar.projection->setTranslation(Vec3f(0.5F, 0, 0));
-    osg::endEditCP(planar.projection);
+    nbtest::edited(planar.projection)->setTranslation(Vec3f(0.5F, 0, 0));
     planar.gizmo.update(false);
     expectNear(planar.onHandle("grid", Vec3f()).subZero(), Vec3f(0.5F, 0, 0), "centre");
     const float before = sizeOf(planar.gizmo);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What drags send, show and refuse, and what may go wrong in the middle of one.
 #include "tests/manipulator/support/DragScene.h"
+#include "tests/platform/support/Edited.h"
 #include "tests/platform/support/LogLines.h"
 
 #include <nbKernel/nbController.h>
@@ -43,16 +44,12 @@ std::vector<std::string> visibleTexts()
 void destroy(const osg::NodePtr& node)
 {
     const osg::NodePtr above = node->getParent();
-    osg::beginEditCP(above, osg::Node::ChildrenFieldMask);
-    above->subChild(node);
-    osg::endEditCP(above, osg::Node::ChildrenFieldMask);
+    nbtest::edited(above, osg::Node::ChildrenFieldMask)->subChild(node);
 }
 
 void setCore(const osg::NodePtr& node, const osg::NodeCorePtr& core)
 {
-    osg::beginEditCP(node, osg::Node::CoreFieldMask);
-    node->setCore(core);
-    osg::endEditCP(node, osg::Node::CoreFieldMask);
+    nbtest::edited(node, osg::Node::CoreFieldMask)->setCore(core);
 }
 
 Vec3f translationOf(const osg::NodePtr& node)
@@ -156,9 +153,7 @@ TEST(DragConversion, AGroupBecomesATransformWithItsPivotsAtTheObjectsCentre)
     setCore(node, osg::Group::create());
     const osg::NodePtr holder = osg::makeCoredNode<osg::Transform3D>();
     const auto place = transformOf(holder);
-    osg::beginEditCP(place);
-    place->setTranslation(Vec3f(1, 0.5F, 0));
-    osg::endEditCP(place);
+    nbtest::edited(place)->setTranslation(Vec3f(1, 0.5F, 0));
     const osg::RefPtr<osg::NodePtr> box(node->getChild(0));
     osg::beginEditCP(node, osg::Node::ChildrenFieldMask);
     node->subChild(box.get());

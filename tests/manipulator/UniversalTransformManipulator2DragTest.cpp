@@ -2,6 +2,7 @@
 // Drags of every handle with numbers worked out by hand; a unit of the gizmo is 48.5 (perspective)
 // or 50 pixels (orthographic).
 #include "tests/manipulator/support/DragScene.h"
+#include "tests/platform/support/Edited.h"
 
 #include <nbOpenSGUberCamera/UberCamera.h>
 
@@ -137,9 +138,7 @@ TEST(Drags, UniformFactorGrowsUpTheScreenWhereZIsUp)
     DragScene drags;
     drags.activate(Mode::Scale);
     const osg::UberCameraPtr camera = drags.scene.widget.getUberCamera();
-    osg::beginEditCP(camera);
-    camera->setZUp(true);
-    osg::endEditCP(camera);
+    nbtest::edited(camera)->setZUp(true);
     camera->setFromAtUp(Pnt3f(0, -10, 0), Pnt3f(0, 0, 0), Vec3f(0, 0, 1));
     UniversalTransformManipulator2::updateAllManipulators();
     ASSERT_TRUE(drags.grab(kNone));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The marks of further nodes stand at their pivots after every step, however the step knows where.
 #include "tests/manipulator/support/DragScene.h"
+#include "tests/platform/support/Edited.h"
 
 #include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGUberCamera/UberCamera.h>
@@ -86,9 +87,8 @@ protected:
     void moveCore(const osg::NodePtr& node)
     {
         const auto core = transformOf(node);
-        osg::beginEditCP(core, osg::Transform3D::TranslationFieldMask);
-        core->setTranslation(core->getTranslation() + Vec3f(0, 0, 1));
-        osg::endEditCP(core, osg::Transform3D::TranslationFieldMask);
+        nbtest::edited(core, osg::Transform3D::TranslationFieldMask)
+            ->setTranslation(core->getTranslation() + Vec3f(0, 0, 1));
     }
 
     DragScene drags;
@@ -159,9 +159,7 @@ TEST_F(Marks, StandAtThePivotsAfterEveryStepWhateverHappensBetween)
 
 TEST_F(Marks, OfNodesThatShareACoreStandAtBoth)
 {
-    osg::beginEditCP(below, osg::Node::CoreFieldMask);
-    below->setCore(turned->getCore());
-    osg::endEditCP(below, osg::Node::CoreFieldMask);
+    nbtest::edited(below, osg::Node::CoreFieldMask)->setCore(turned->getCore());
     ASSERT_TRUE(drags.grab(kArrow));
     for (float offset = 10.0F; offset < 50.0F; offset += 10.0F) {
         EXPECT_TRUE(drags.stepTo(Vec2f(offset, 0)));

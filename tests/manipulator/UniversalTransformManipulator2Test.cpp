@@ -2,6 +2,7 @@
 #include "manipulator/UniversalTransformManipulator2.h"
 
 #include "tests/manipulator/support/GizmoFixture.h"
+#include "tests/platform/support/Edited.h"
 
 #include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGExt/Transform3D.h>
@@ -125,9 +126,8 @@ TEST_F(UniversalTransformManipulator2Test, IsPlacedWithAllOthersWhateverHappened
     const auto moveOf = [](const osg::NodePtr& node, float x) {
         return [node, x] {
             const auto transform = transformOf(node);
-            osg::beginEditCP(transform, osg::Transform3D::TranslationFieldMask);
-            transform->setTranslation(osg::Vec3f(x, 0, 0));
-            osg::endEditCP(transform, osg::Transform3D::TranslationFieldMask);
+            nbtest::edited(transform, osg::Transform3D::TranslationFieldMask)
+                ->setTranslation(osg::Vec3f(x, 0, 0));
         };
     };
     const std::vector<std::function<void()>> between {
@@ -189,9 +189,7 @@ TEST_F(UniversalTransformManipulator2Test, StandsAtTheCentreOfWhatIsNoTransformY
 {
     const osg::NodePtr box = scene.node->getChild(0);
     const osg::Transform3DPtr transform = transformOf(scene.node);
-    osg::beginEditCP(transform);
-    transform->setTranslation(osg::Vec3f(0, -3, 0));
-    osg::endEditCP(transform);
+    nbtest::edited(transform)->setTranslation(osg::Vec3f(0, -3, 0));
 
     gizmo.setNode(box);
 

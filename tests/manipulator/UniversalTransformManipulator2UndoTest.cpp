@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What is left of drags that end where they began, and of drags that are taken back.
 #include "tests/manipulator/support/DragScene.h"
+#include "tests/platform/support/Edited.h"
 
 #include <nbInteraction/InputTranslator.h>
 #include <nbKernelServices/nbUndoService.h>
@@ -18,9 +19,7 @@ using Mode = UniversalTransformManipulator2::ManipulatorMode;
 /// The scene's node with a core that is no transform yet.
 void makeGroup(const osg::NodePtr& node)
 {
-    osg::beginEditCP(node, osg::Node::CoreFieldMask);
-    node->setCore(osg::Group::create());
-    osg::endEditCP(node, osg::Node::CoreFieldMask);
+    nbtest::edited(node, osg::Node::CoreFieldMask)->setCore(osg::Group::create());
 }
 
 /// Mouse input of a view, whose drags are groups of the undo service.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/nbPlanarProjectionVisualization.h"
 
+#include "tests/platform/support/Edited.h"
 #include "tests/platform/support/RenderTest.h"
 
 #include <nbOpenSGExt/Transform3D.h>
@@ -213,10 +214,7 @@ TEST(nbPlanarProjectionVisualization, TheRotationOrientationIsPartOfTheProjectio
     const auto settings = makeSettings(
         osg::Vec3f(1, 2, 3), osg::Quaternion(osg::Vec3f(0, 1, 0), 0.4f), osg::Vec3f(1, 1, 1));
     const osg::Transform3DPtr projection = settings->getPlanarProjection();
-    {
-        const nbEdit edit(projection, osg::FieldBits::AllFields);
-        projection->setRotationOrientation(osg::Quaternion(osg::Vec3f(0, 0, 1), 0.7f));
-    }
+    nbtest::edited(projection)->setRotationOrientation(osg::Quaternion(osg::Vec3f(0, 0, 1), 0.7f));
 
     visualization.updateProjectionTransform(settings.get());
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/manipulator/support/DragScene.h"
 
+#include "tests/platform/support/Edited.h"
+
 #include <nbKernel/nbController.h>
 #include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbUndoService.h>
@@ -117,9 +119,7 @@ osg::NodePtr DragScene::addFurther(const osg::Vec3f& translation)
 {
     const osg::NodePtr further = osg::makeCoredNode<osg::Transform3D>();
     const auto transform = transformOf(further);
-    osg::beginEditCP(transform);
-    transform->setTranslation(translation);
-    osg::endEditCP(transform);
+    nbtest::edited(transform)->setTranslation(translation);
     addChild(further, osg::makeBox(2, 2, 2, 1, 1, 1));
     addChild(nbScenegraph::getRootNode(), further);
     return further;

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "tests/manipulator/support/GizmoScene.h"
 
+#include "tests/platform/support/Edited.h"
+
 #include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGUberCamera/UberCamera.h>
-#include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <OpenSG/OSGGeometry.h>
@@ -67,8 +68,8 @@ void GizmoScene::lookFrom(const osg::Pnt3f& eye)
 
 void GizmoScene::setOrthographic(bool on)
 {
-    const nbEdit edit(widget.getUberCamera(), osg::UberCamera::OrthographicFieldMask);
-    widget.getUberCamera()->setOrthographic(on);
+    nbtest::edited(widget.getUberCamera(), osg::UberCamera::OrthographicFieldMask)
+        ->setOrthographic(on);
 }
 
 void GizmoScene::install(AbstractManipulator& manipulator)
@@ -81,8 +82,7 @@ void GizmoScene::install(AbstractManipulator& manipulator)
 
 void addChild(const osg::NodePtr& above, const osg::NodePtr& child)
 {
-    const nbEdit edit(above, osg::Node::ChildrenFieldMask);
-    above->addChild(child);
+    nbtest::edited(above, osg::Node::ChildrenFieldMask)->addChild(child);
 }
 
 osg::Transform3DPtr transformOf(const osg::NodePtr& node)

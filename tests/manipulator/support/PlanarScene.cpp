@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/manipulator/support/PlanarScene.h"
 
+#include "tests/platform/support/Edited.h"
+
 #include <nbKernel/nbController.h>
 #include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbUndoService.h>
@@ -57,14 +59,10 @@ PlanarScene::~PlanarScene()
 
 void PlanarScene::makeMaterial()
 {
-    osg::beginEditCP(settings);
-    settings->setPlanarProjection(projection);
-    osg::endEditCP(settings);
+    nbtest::edited(settings)->setPlanarProjection(projection);
     material->setComponentSettings(osg::UberMaterial::kDiffuseComponent, settings);
     const auto geometry = osg::GeometryPtr::dcast(scene.node->getChild(0)->getCore());
-    osg::beginEditCP(geometry, osg::Geometry::MaterialFieldMask);
-    geometry->setMaterial(material.get());
-    osg::endEditCP(geometry, osg::Geometry::MaterialFieldMask);
+    nbtest::edited(geometry, osg::Geometry::MaterialFieldMask)->setMaterial(material.get());
 }
 
 void PlanarScene::look(Camera from, bool orthographic)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/platform/nbInteraction/Recording.h"
+#include "tests/platform/support/Edited.h"
 
 #include <nbInteraction/InputTranslator.h>
 #include <nbKernel/nbOSGWidget.h>
@@ -343,9 +344,7 @@ TEST_F(InputTranslatorTest, OnlyWhatChangesTheWorldAsksForARedraw)
 
     context.onEvent = [](const InteractionEvent&) {
         const osg::NodePtr root = nbScenegraph::getRootNode();
-        osg::beginEditCP(root, osg::Node::TravMaskFieldMask);
-        root->setTravMask(root->getTravMask());
-        osg::endEditCP(root, osg::Node::TravMaskFieldMask);
+        nbtest::edited(root, osg::Node::TravMaskFieldMask)->setTravMask(root->getTravMask());
     };
     move(11, 10);
     EXPECT_TRUE(widget.isRedrawPending());

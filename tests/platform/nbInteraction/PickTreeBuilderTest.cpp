@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Search trees that another thread builds.
+#include "tests/platform/support/Edited.h"
+
 #include <nbInteraction/PickTreeBuilder.h>
 
 #include <atomic>
@@ -91,10 +93,7 @@ TEST_F(PickTreeBuilding, WhatIsGoneMeanwhileDoesNoHarm)
     const osg::NodePtr root = nbScenegraph::getRootNode();
     const osg::NodePtr ball = hangBall(3);
     PickTreeBuilder builder({ ball });
-    {
-        const nbEdit edit(root, osg::Node::ChildrenFieldMask);
-        root->subChild(ball);
-    }
+    nbtest::edited(root, osg::Node::ChildrenFieldMask)->subChild(ball);
 
     EXPECT_TRUE(builder.build({}));
     builder.adopt();

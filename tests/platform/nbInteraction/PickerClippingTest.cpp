@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "tests/platform/support/Edited.h"
+
 #include <nbOpenSGExt/ClipPlane3D.h>
 
 #include "PickerTestSupport.h"
@@ -32,15 +34,9 @@ TEST_F(PickerClipping, SwitchedOffOrLiftedItCutsNothing)
     hang(cut, cube);
     ASSERT_EQ(pickAt(380.0f, 300.0f), osg::NullFC);
 
-    {
-        const nbEdit edit(plane, osg::ClipPlane3D::EnableFieldMask);
-        plane->setEnable(false);
-    }
+    nbtest::edited(plane, osg::ClipPlane3D::EnableFieldMask)->setEnable(false);
     EXPECT_EQ(pickAt(380.0f, 300.0f), cube);
-    {
-        const nbEdit edit(plane, osg::ClipPlane3D::EnableFieldMask);
-        plane->setEnable(true);
-    }
+    nbtest::edited(plane, osg::ClipPlane3D::EnableFieldMask)->setEnable(true);
     EXPECT_EQ(pickAt(380.0f, 300.0f), osg::NullFC);
     hang(nbScenegraph::getRootNode(), cube);
     EXPECT_EQ(pickAt(380.0f, 300.0f), cube);

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "tests/platform/support/Edited.h"
+
 #include <OpenSG/OSGIntersectAction.h>
 #include <OpenSG/OSGLine.h>
 #include <OpenSG/OSGQuaternion.h>
@@ -40,10 +42,7 @@ osg::Matrix turnedAndScaled(const osg::Vec3f& axis, float deg, const osg::Vec3f&
 TEST_F(PickerScene, OrthographicViewHasParallelRays)
 {
     const osg::UberCameraPtr camera = widget.getUberCamera();
-    {
-        const nbEdit edit(camera, osg::UberCamera::OrthographicFieldMask);
-        camera->setOrthographic(true);
-    }
+    nbtest::edited(camera, osg::UberCamera::OrthographicFieldMask)->setOrthographic(true);
     const osg::NodePtr cube = box(2.0f);
     hang(scene, cube);
 
@@ -88,10 +87,7 @@ TEST_F(PickerScene, SwitchedOffChildrenAreNotHit)
     hang(group, large);
     hang(scene, group);
     EXPECT_EQ(pickAt(400.0f, 300.0f), small);
-    {
-        const nbEdit edit(chooser, osg::Switch::ChoiceFieldMask);
-        chooser->setChoice(1);
-    }
+    nbtest::edited(chooser, osg::Switch::ChoiceFieldMask)->setChoice(1);
     EXPECT_EQ(pickAt(400.0f, 300.0f), large);
 }
 
@@ -126,10 +122,7 @@ TEST_F(PickerScene, EditsShowAtTheNextPick)
 
     // Fewer triangles: only the first one is left.
     const osg::GeoPLengthsPtr lengths = geometry->getLengths();
-    {
-        const nbEdit edit(lengths, osg::FieldBits::AllFields);
-        lengths->setValue(3, 0);
-    }
+    nbtest::edited(lengths)->setValue(3, 0);
     EXPECT_EQ(pickAt(490.0f, 75.0f), osg::NullFC);
 }
 
@@ -214,15 +207,9 @@ TEST_F(PickerScene, BrokenGeometryIsPassedThrough)
         }
     }
     EXPECT_EQ(pickAt(400.0f, 300.0f), behind->getChild(0));
-    {
-        const nbEdit edit(geometry->getPositions(), osg::FieldBits::AllFields);
-        geometry->getPositions()->resize(2);
-    }
+    nbtest::edited(geometry->getPositions())->resize(2);
     EXPECT_EQ(pickAt(400.0f, 300.0f), behind->getChild(0));
-    {
-        const nbEdit edit(geometry, osg::Geometry::PositionsFieldMask);
-        geometry->setPositions(osg::NullFC);
-    }
+    nbtest::edited(geometry, osg::Geometry::PositionsFieldMask)->setPositions(osg::NullFC);
     EXPECT_EQ(pickAt(400.0f, 300.0f), behind->getChild(0));
 
     // A matrix that flattens everything to nothing.

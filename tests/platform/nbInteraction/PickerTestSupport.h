@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tests/platform/support/Edited.h"
+
 #include <nbInteraction/Picker.h>
 #include <nbKernel/nbOSGWidget.h>
 #include <nbKernel/nbScenegraph.h>
@@ -42,8 +44,7 @@ protected:
 
     static void hang(const osg::NodePtr& parent, const osg::NodePtr& child)
     {
-        const nbEdit edit(parent, osg::Node::ChildrenFieldMask);
-        parent->addChild(child);
+        nbtest::edited(parent, osg::Node::ChildrenFieldMask)->addChild(child);
     }
 
     /// A transform node with the given children.
@@ -72,8 +73,7 @@ protected:
 
     static void setActive(const osg::NodePtr& node, bool on)
     {
-        const nbEdit edit(node, osg::Node::TravMaskFieldMask);
-        node->setActive(on);
+        nbtest::edited(node, osg::Node::TravMaskFieldMask)->setActive(on);
     }
 
     static osg::NodePtr box(float size) { return osg::makeBox(size, size, size, 1, 1, 1); }

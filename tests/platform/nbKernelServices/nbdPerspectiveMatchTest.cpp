@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "tests/platform/support/Edited.h"
+
 #include <nbKernel/nbOSGWidget.h>
 #include <nbKernelServices/nbKernelServiceFactory.h>
 #include <nbKernelServices/nbObjectService.h>
@@ -9,7 +11,6 @@
 #include <nbKernelServices/nbdCameraNode.h>
 #include <nbOpenSGUberCamera/nbCameraUtils.h>
 #include <nbOpenSGUberCamera/nbUberCameraPool.h>
-#include <nbOpenSGUtils/nbEdit.h>
 
 #include <OpenSG/OSGGroup.h>
 #include <OpenSG/OSGNodePtr.h>
@@ -192,10 +193,7 @@ TEST_F(nbdPerspectiveMatchTest, RefusalsLeaveTheCameraUntouched)
     EXPECT_TRUE(isSamePlace(camera->getPose(), before));
 
     match.setZLine1(good);
-    {
-        const nbEdit edit(camera, osg::UberCamera::OrthographicFieldMask);
-        camera->setOrthographic(true);
-    }
+    nbtest::edited(camera, osg::UberCamera::OrthographicFieldMask)->setOrthographic(true);
     EXPECT_EQ(node.updateFromPerspectiveMatch(), nbCameraTypes::OrthographicCamera);
     EXPECT_TRUE(isSamePlace(camera->getPose(), before));
 }
@@ -302,10 +300,7 @@ TEST_F(nbdPerspectiveMatchTest, SizingByTheWidthKeepsWhatIsSeenAcrossIt)
 {
     EXPECT_TRUE(nbCameraUtils::getVerticalSizing(camera, 1600, 1000));
     EXPECT_TRUE(nbCameraUtils::getVerticalSizing(osg::NullFC, 1, 1));
-    {
-        const nbEdit edit(camera, osg::UberCamera::HorizontalSizingFieldMask);
-        camera->setHorizontalSizing(true);
-    }
+    nbtest::edited(camera, osg::UberCamera::HorizontalSizingFieldMask)->setHorizontalSizing(true);
     EXPECT_FALSE(nbCameraUtils::getVerticalSizing(camera, 1600, 1000));
     const float right = camera->getRight() / camera->getNear();
     widget->resize(1600, 400);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/platform/nbMaterialEditor/EditorTest.h"
+#include "tests/platform/support/Edited.h"
 
 #include <nbOpenSGUtils/nbEdit.h>
 
@@ -49,10 +50,8 @@ TEST_F(TextureValuesTest, UvAndTireValuesAreTakenAsTheyCome)
     EXPECT_EQ(values().tireScaleRadius, 3.f) << "it was automatic before";
     send(kTire, { { "autoParameter", false } });
     EXPECT_FALSE(values().tireAutoParameter);
-    {
-        const nbEdit edit(place, osg::Transform3D::PartsFieldMask);
-        place->setRotation(osg::Vec3f(30.f, 30.f, 30.f));
-    }
+    nbtest::edited(place, osg::Transform3D::PartsFieldMask)
+        ->setRotation(osg::Vec3f(30.f, 30.f, 30.f));
     send(kTire, { { "autoParameter", true } });
     expectNear(values().tireCenter, { 0.f, 0.f, 0.f }, "the box's middle");
     EXPECT_NEAR(values().tireScaleHeight, 2.f, kTolerance) << "however the box is turned";

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/platform/nbMaterialEditor/EditorTest.h"
+#include "tests/platform/support/Edited.h"
 
 #include <nbMaterialEditor/nbMaterialPreview.h>
 #include <nbOpenSGUtils/nbEdit.h>
@@ -193,10 +194,7 @@ TEST_F(nbMaterialEditorTest, PlacingNeedsAHitOnWhatIsEdited)
     placeTexture(object, osg::Pnt3f(1.f, 1.f, 1.f), osg::Vec3f(1.f, kNaN, 0.f));
     send("::placeTexture", { { "hitNode", object }, { "hitPoint", osg::Vec3f() } });
     EXPECT_EQ(log.size(), 3u);
-    {
-        const nbEdit edit(place, osg::Transform3D::PartsFieldMask);
-        place->setScale(osg::Vec3f(1.f, 0.f, 1.f));
-    }
+    nbtest::edited(place, osg::Transform3D::PartsFieldMask)->setScale(osg::Vec3f(1.f, 0.f, 1.f));
     placeTexture(object, osg::Pnt3f(1.f, 0.f, 1.f), osg::Vec3f(0.f, 1.f, 0.f));
     EXPECT_EQ(log.size(), 4u) << "a flat object";
     EXPECT_TRUE(before.isSame(*projection()));
@@ -217,10 +215,8 @@ TEST_F(nbMaterialEditorTest, APictureForAPlainComponentGetsAFittingProjection)
     EXPECT_FALSE(editor->setProjection(nbTransformState()));
     EXPECT_FALSE(editor->setFlags(0));
     EXPECT_FALSE(editor->setCoverage(true, true));
-    {
-        const nbEdit edit(place, osg::Transform3D::PartsFieldMask);
-        place->setTranslation(osg::Vec3f(5.f, 0.f, 0.f));
-    }
+    nbtest::edited(place, osg::Transform3D::PartsFieldMask)
+        ->setTranslation(osg::Vec3f(5.f, 0.f, 0.f));
 
     ASSERT_TRUE(editor->setImage(image.get()));
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "tests/platform/support/Edited.h"
 #include "tests/platform/support/RenderTest.h"
 
 #include <nbOpenSGExt/ClipPlane3D.h>
@@ -87,10 +88,7 @@ TEST_F(nbRenderClippingTest, WithoutAPlaneThatCutsTheWholeIsSeen)
     const auto core = osg::ClipPlane3DPtr::dcast(off->getCore());
     EXPECT_NE(at(draw(group({ off })), -0.5f, 0.f), kRed);
 
-    {
-        const nbEdit edit(core, osg::ClipPlane3D::EnableFieldMask);
-        core->setEnable(false);
-    }
+    nbtest::edited(core, osg::ClipPlane3D::EnableFieldMask)->setEnable(false);
 
     EXPECT_EQ(at(redraw(), -0.5f, 0.f), kRed);
 }

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "tests/platform/support/Edited.h"
 #include "tests/platform/support/LogLines.h"
 #include "tests/platform/support/RenderTest.h"
 
@@ -142,10 +143,7 @@ TEST_F(nbRenderMaterialsTest, EditsShowInTheNextFrameAndStillScenesCostNoRebuild
     redraw();
     EXPECT_EQ(view->getAction().getStatistics().listBuilds, builds);
 
-    {
-        const nbEdit edit(material, osg::SimpleMaterial::DiffuseFieldMask);
-        material->setDiffuse(color(kBlue));
-    }
+    nbtest::edited(material, osg::SimpleMaterial::DiffuseFieldMask)->setDiffuse(color(kBlue));
     EXPECT_EQ(at(redraw(), 0.f, 0.f), kBlue);
 
     const osg::GeoPositionsPtr positions = geometry->getPositions();

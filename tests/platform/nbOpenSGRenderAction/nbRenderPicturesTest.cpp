@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "tests/platform/support/Edited.h"
 #include "tests/platform/support/PictureTest.h"
 
 #include <cstring>
@@ -15,11 +16,7 @@ constexpr float kPi = 3.14159265f;
 class nbRenderPicturesTest : public RenderTest
 {
 protected:
-    void setOrthographic(bool on)
-    {
-        const nbEdit edit(camera, osg::FieldBits::AllFields);
-        camera->setOrthographic(on);
-    }
+    void setOrthographic(bool on) { nbtest::edited(camera)->setOrthographic(on); }
 
     static osg::NodePtr wall(const PictureMaterial& picture, float size = 4.f, float z = 0.f,
                              float x = 0.f)
@@ -252,10 +249,7 @@ TEST_F(nbRenderPicturesTest, ColorsOfTransparentPixelsDoNotShowAtTheBordersOfOpa
     }
     PictureMaterial decal;
     decal.setPicture(columns);
-    {
-        const nbEdit edit(decal.material, osg::FieldBits::AllFields);
-        decal.material->setDiffuse(color(kWhite));
-    }
+    nbtest::edited(decal.material)->setDiffuse(color(kWhite));
     for (const float scale : { 1.9f, 0.05f }) {
         decal.place({ 0.f, 0.f, 0.f }, { scale, scale, 1.f });
         const QImage picture = draw(wall(decal));
@@ -300,10 +294,7 @@ TEST_F(nbRenderPicturesTest, OpaquePartsOfACutOutBodyHideWhatIsBehindThem)
     picture.place({ 0.f, 0.f, 0.6f }, { 1.f, 1.f, 0.2f });
     picture.setFlags(Settings::ClampZ);
     PictureMaterial mask(osg::UberMaterial::kTransparencyComponent);
-    {
-        const nbEdit edit(mask.settings, osg::FieldBits::AllFields);
-        mask.settings->setAsMask(true);
-    }
+    nbtest::edited(mask.settings)->setAsMask(true);
     picture.material->setComponentSettings(mask.component, mask.settings.get());
     picture.material->setImage(mask.component,
                                nbImageConvert::toImage(quarters(kWhite, kBlack, kWhite, kWhite)));
@@ -340,10 +331,7 @@ TEST_F(nbRenderPicturesTest, PlainColorStaysWhereThereIsNoPictureToShow)
         expectPlain(picture, "a flat or endless projection");
     }
     picture.place({ 0.f, 0.f, 0.f }, { 1.f, 1.f, 1.f });
-    {
-        const nbEdit edit(picture.settings, osg::FieldBits::AllFields);
-        picture.settings->setPlanarProjection(osg::NullFC);
-    }
+    nbtest::edited(picture.settings)->setPlanarProjection(osg::NullFC);
     expectPlain(picture, "no projection");
     picture.material->setComponentSettings(picture.component, osg::NullFC);
     expectPlain(picture, "no settings");

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "tests/platform/support/Edited.h"
 #include "tests/platform/support/PictureTest.h"
 
 #include <limits>
@@ -259,10 +260,7 @@ TEST_F(nbRenderProjectionsTest, UvPictureNeedsTextureCoordinates)
     expectColors(
         draw(transformed(plane, { 0.5f, 0.f, 0.f }, { 0.f, 0.f, 90.f }, { 1.5f, 1.f, 1.f })),
         { { 0.f, 0.7f, kYellow }, { 1.f, -0.7f, kRed } }, "goes with the object");
-    {
-        const nbEdit edit(geometry, osg::FieldBits::AllFields);
-        geometry->setTexCoords(osg::NullFC);
-    }
+    nbtest::edited(geometry)->setTexCoords(osg::NullFC);
     expectColors(redraw(), { { 0.f, 0.7f, kGrey }, { 1.f, -0.7f, kGrey } }, "without");
     edit([](Settings& s) { s.setTextureProjectionType(Settings::TriplanarProjection); });
     setTriplanarSize(2.f);

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "tests/platform/support/Edited.h"
+
 #include <nbOpenSGExt/Transform3D.h>
 #include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbGeoFactory.h>
@@ -46,10 +48,7 @@ protected:
     void setMatrix(const osg::Matrix& matrix)
     {
         const osg::TransformPtr core = osg::Transform::create();
-        {
-            const nbEdit edit(core, osg::Transform::MatrixFieldMask);
-            core->setMatrix(matrix);
-        }
+        nbtest::edited(core, osg::Transform::MatrixFieldMask)->setMatrix(matrix);
         node->setCore(core);
     }
 

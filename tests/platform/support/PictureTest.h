@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tests/platform/support/Edited.h"
 #include "tests/platform/support/RenderTest.h"
 
 #include <nbOpenSGRenderAction/nbImageConvert.h>
@@ -69,10 +70,7 @@ struct PictureMaterial
     void addComponent(const std::string& name, const osg::ColorComponentSettingsPtr& added,
                       const osg::Transform3DPtr& itsProjection)
     {
-        {
-            const nbEdit edit(added, osg::FieldBits::AllFields);
-            added->setPlanarProjection(itsProjection);
-        }
+        nbtest::edited(added)->setPlanarProjection(itsProjection);
         material->setComponentSettings(name, added);
     }
 
@@ -92,15 +90,11 @@ struct PictureMaterial
 
     void setOrientation(float radians)
     {
-        const nbEdit edit(projection, osg::Transform3D::PartsFieldMask);
-        projection->setRotationOrientation(osg::Quaternion(osg::Vec3f(0.f, 0.f, 1.f), radians));
+        nbtest::edited(projection, osg::Transform3D::PartsFieldMask)
+            ->setRotationOrientation(osg::Quaternion(osg::Vec3f(0.f, 0.f, 1.f), radians));
     }
 
-    void setFlags(osg::UInt32 flags)
-    {
-        const nbEdit edit(settings, osg::FieldBits::AllFields);
-        settings->setPlanarProjectionFlags(flags);
-    }
+    void setFlags(osg::UInt32 flags) { nbtest::edited(settings)->setPlanarProjectionFlags(flags); }
 
     void setMask(bool asMask, bool invert)
     {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tests/platform/support/Edited.h"
+
 #include <nbOpenSGExt/DepthTestChunk.h>
 #include <nbOpenSGRenderAction/nbOffscreenView.h>
 #include <nbOpenSGUberCamera/UberCamera.h>
@@ -116,10 +118,7 @@ inline osg::NodePtr materialGroup(const osg::MaterialPtr& material, const osg::N
 {
     osg::MaterialGroupPtr core;
     const osg::NodePtr node = osg::makeCoredNode<osg::MaterialGroup>(&core);
-    {
-        const nbEdit edit(core, osg::MaterialGroup::MaterialFieldMask);
-        core->setMaterial(material);
-    }
+    nbtest::edited(core, osg::MaterialGroup::MaterialFieldMask)->setMaterial(material);
     const nbEdit edit(node, osg::Node::ChildrenFieldMask);
     node->addChild(child);
     return node;
