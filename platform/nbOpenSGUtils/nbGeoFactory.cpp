@@ -11,38 +11,6 @@
 
 namespace {
 
-/// GL_LINES over shared points; two indices per piece.
-osg::GeometryPtr lineSet(const std::vector<osg::Pnt3f>& points,
-                         const std::vector<osg::UInt32>& pointIndices)
-{
-    const osg::GeoPositions3fPtr positions = osg::GeoPositions3f::create();
-    const osg::GeoIndicesUI32Ptr indices = osg::GeoIndicesUI32::create();
-    const osg::GeoPTypesUI8Ptr types = osg::GeoPTypesUI8::create();
-    const osg::GeoPLengthsUI32Ptr lengths = osg::GeoPLengthsUI32::create();
-    {
-        const nbEdit positionEdit(positions, osg::FieldBits::AllFields);
-        const nbEdit indexEdit(indices, osg::FieldBits::AllFields);
-        const nbEdit typeEdit(types, osg::FieldBits::AllFields);
-        const nbEdit lengthEdit(lengths, osg::FieldBits::AllFields);
-        for (const osg::Pnt3f& point : points) {
-            positions->addValue(point);
-        }
-        for (const osg::UInt32 index : pointIndices) {
-            indices->addValue(index);
-        }
-        types->addValue(GL_LINES);
-        lengths->addValue(static_cast<osg::UInt32>(pointIndices.size()));
-    }
-
-    const osg::GeometryPtr geometry = osg::Geometry::create();
-    const nbEdit edit(geometry, osg::FieldBits::AllFields);
-    geometry->setTypes(types);
-    geometry->setLengths(lengths);
-    geometry->setPositions(positions);
-    geometry->setIndices(indices);
-    return geometry;
-}
-
 osg::NodePtr nodeFor(const osg::GeometryPtr& geometry)
 {
     return geometry == osg::NullFC ? osg::NodePtr() : osg::makeNodeFor(geometry);
@@ -60,7 +28,8 @@ osg::GeometryPtr nbGeoFactory::makeLineGeo(float length)
     if (!(length > 0.f)) {
         return osg::NullFC;
     }
-    return lineSet({ osg::Pnt3f(0.f, -0.5f * length, 0.f), osg::Pnt3f(0.f, 0.5f * length, 0.f) },
+    return makeGeo(GL_LINES,
+                   { osg::Pnt3f(0.f, -0.5f * length, 0.f), osg::Pnt3f(0.f, 0.5f * length, 0.f) },
                    { 0, 1 });
 }
 
@@ -86,5 +55,36 @@ osg::GeometryPtr nbGeoFactory::makeLineTorusGeo(float radius, osg::UInt16 segmen
             pointIndices.push_back((i + 1) % segments);
         }
     }
-    return lineSet(points, pointIndices);
+    return makeGeo(GL_LINES, points, pointIndices);
+}
+
+osg::GeometryPtr nbGeoFactory::makeGeo(GLenum type, const std::vector<osg::Pnt3f>& points,
+                                       const std::vector<osg::UInt32>& pointIndices)
+{
+    const osg::GeoPositions3fPtr positions = osg::GeoPositions3f::create();
+    const osg::GeoIndicesUI32Ptr indices = osg::GeoIndicesUI32::create();
+    const osg::GeoPTypesUI8Ptr types = osg::GeoPTypesUI8::create();
+    const osg::GeoPLengthsUI32Ptr lengths = osg::GeoPLengthsUI32::create();
+    {
+        const nbEdit positionEdit(positions, osg::FieldBits::AllFields);
+        const nbEdit indexEdit(indices, osg::FieldBits::AllFields);
+        const nbEdit typeEdit(types, osg::FieldBits::AllFields);
+        const nbEdit lengthEdit(lengths, osg::FieldBits::AllFields);
+        for (const osg::Pnt3f& point : points) {
+            positions->addValue(point);
+        }
+        for (const osg::UInt32 index : pointIndices) {
+            indices->addValue(index);
+        }
+        types->addValue(type);
+        lengths->addValue(static_cast<osg::UInt32>(pointIndices.size()));
+    }
+
+    const osg::GeometryPtr geometry = osg::Geometry::create();
+    const nbEdit edit(geometry, osg::FieldBits::AllFields);
+    geometry->setTypes(types);
+    geometry->setLengths(lengths);
+    geometry->setPositions(positions);
+    geometry->setIndices(indices);
+    return geometry;
 }

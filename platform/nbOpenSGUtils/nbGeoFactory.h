@@ -6,7 +6,9 @@
 #include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGNode.h>
 
-/// Makes line geometry: GL_LINES with indices, no normals, material null.
+#include <vector>
+
+/// Makes geometry, most of it of lines, with indices, no normals, material null.
 /// Results have reference count 0 and belong to the caller. Arguments that make no shape give null.
 class NB_PLATFORM_API nbGeoFactory
 {
@@ -26,4 +28,10 @@ public:
 
     /// The geometry of makeLineTorus.
     static osg::GeometryPtr makeLineTorusGeo(float radius, osg::UInt16 segments, bool dashed);
+
+    /// A geometry of one primitive over shared points.
+    /// @param type          such as GL_LINES or GL_TRIANGLES
+    /// @param pointIndices  of the primitive's corners
+    static osg::GeometryPtr makeGeo(GLenum type, const std::vector<osg::Pnt3f>& points,
+                                    const std::vector<osg::UInt32>& pointIndices);
 };
