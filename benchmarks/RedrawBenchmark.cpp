@@ -11,6 +11,7 @@
 #include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGExt/Transform3D.h>
 #include <nbOpenSGRenderAction/nbRenderAction.h>
+#include <nbOpenSGUtils/nbEdit.h>
 
 #include <OpenSG/OSGGeoFunctions.h>
 #include <OpenSG/OSGSimpleGeometry.h>
