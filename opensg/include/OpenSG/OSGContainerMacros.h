@@ -47,10 +47,11 @@
 ///         Real32& getWidth(), const Real32& getWidth() const, setWidth(const Real32&),
 ///         SField<Real32>* getSFWidth(); member sfWidth
 ///     OWNED(Image, image, ImagePtr)         +1 while held, -1 when replaced and with the
-///         the same without the                  container's end; copied by deepClone
-///         non-const reference
+///         the same; what is written             container's end; copied by deepClone
+///         through the reference is
+///         not counted
 ///     LINK(Beacon, beacon, NodePtr)         neither counted nor followed; null in a deepClone
-///         the same as OWNED
+///         the same
 ///
 /// A class with multi fields writes a list of six and says OSG_MULTI_CONTAINER,
 /// OSG_MULTI_STATE_CHUNK or OSG_ABSTRACT_MULTI_CONTAINER (the ..._TYPE macros are the same):
@@ -210,10 +211,10 @@ private:                                                                        
 #define OSG_SF_ACCESS_(Name, Type)                                                                 \
     osg::SField<Type>* getSF##Name() { return &sf##Name; }                                         \
     const osg::SField<Type>* getSF##Name() const { return &sf##Name; }                             \
+    Type& get##Name() { return sf##Name.getValue(); }                                              \
     const Type& get##Name() const { return sf##Name.getValue(); }
 #define OSG_VALUE_ACCESS_(Name, name, Type, Start)                                                 \
     OSG_SF_ACCESS_(Name, Type)                                                                     \
-    Type& get##Name() { return sf##Name.getValue(); }                                              \
     void set##Name(const Type& value) { sf##Name.setValue(value); }
 #define OSG_OWNED_ACCESS_(Name, name, Type)                                                        \
     OSG_SF_ACCESS_(Name, Type)                                                                     \
