@@ -45,11 +45,10 @@
 ///
 ///     VALUE(Width, width, Real32, 1.f)      a value with its start value
 ///         Real32& getWidth(), const Real32& getWidth() const, setWidth(const Real32&),
-///         SField<Real32>* getSFWidth(); member sfWidth
+///         SFReal32* getSFWidth(); member sfWidth
 ///     OWNED(Image, image, ImagePtr)         +1 while held, -1 when replaced and with the
-///         the same; what is written             container's end; copied by deepClone
-///         through the reference is
-///         not counted
+///         the same; no counting through         container's end; copied by deepClone
+///         the reference
 ///     LINK(Beacon, beacon, NodePtr)         neither counted nor followed; null in a deepClone
 ///         the same
 ///
@@ -73,16 +72,16 @@
 /// OWNED or OWNEDS entry points to is told by ownerAdded and ownerRemoved (see FieldContainer). A
 /// class that nothing drawn depends on (cameras, viewports) overrides noteEdit with an empty body.
 /// Further data members need start values where they are declared; a copy starts with those.
+/// The names of the field types (SFReal32, MFPnt3f ...) come with the header of every class.
 #pragma once
 
 #include <OpenSG/OSGContainerCloner.h>
 #include <OpenSG/OSGFieldContainer.h>
 #include <OpenSG/OSGFieldContainerPtr.h>
 #include <OpenSG/OSGFieldContainerType.h>
-#include <OpenSG/OSGMField.h>
+#include <OpenSG/OSGFieldTypes.h>
 #include <OpenSG/OSGOwnedFields.h>
 #include <OpenSG/OSGRefPtr.h>
-#include <OpenSG/OSGSField.h>
 
 #define OSG_NO_FIELDS(VALUE, OWNED, LINK)
 

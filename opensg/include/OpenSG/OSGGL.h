@@ -4,9 +4,9 @@
 #include <OpenSG/OSGConfig.h>
 
 /// @file
-/// Types and constants of OpenGL that fields of containers hold. No functions: nothing in here
-/// draws. Each constant is spelled as in the usual GL headers, so that these may come
-/// before or after this one.
+/// Types and constants of OpenGL that fields of containers hold; every container class brings them
+/// along. No functions: nothing in here draws. Each constant is spelled as in the usual GL headers,
+/// so that these may come before or after this one.
 
 typedef unsigned int GLenum;
 typedef unsigned char GLboolean;

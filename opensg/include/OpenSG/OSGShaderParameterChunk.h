@@ -54,8 +54,7 @@ public:
     bool setUniformParameter(const Char8* name, const Vec4f& value);
     bool setUniformParameter(const Char8* name, const Matrix& value);
 
-    /// Sets an array, for the types of value above. A template, so that a braced list still is a
-    /// vector.
+    /// Sets an array, whose values are of one of the types above.
     template <class Value>
     bool setUniformParameter(const Char8* name, const MField<Value>& values);
 
