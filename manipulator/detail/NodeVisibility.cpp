@@ -13,7 +13,9 @@ void showNode(const osg::NodePtr& node, bool visible)
         return;
     }
     for (const osg::NodePtr& sharer : node->getCore()->getParents()) {
-        if (sharer->getActive() != visible) {
+        // A host's own mask is neither active nor hidden.
+        const bool isDone = visible ? sharer->getActive() : sharer->getTravMask() == 0;
+        if (!isDone) {
             const EditBracket edit(sharer, osg::Node::TravMaskFieldMask);
             sharer->setActive(visible);
         }

@@ -163,6 +163,11 @@ TEST(nbPlanarProjectionVisualization, ShowsAndHidesAsAWholeAndTheZExtentAlone)
     visualization.setVisible(false);
     EXPECT_TRUE(extent->getActive() && extent->getChild(0)->getActive());
     EXPECT_FALSE(visualization.getRootNode()->getActive());
+
+    // A mask that shows it in some passes only is no reason to leave it there.
+    visualization.getRootNode()->setTravMask(1);
+    visualization.setVisible(false);
+    EXPECT_EQ(0U, visualization.getRootNode()->getTravMask());
 }
 
 TEST(nbPlanarProjectionVisualization, NothingIsLeftBehind)
