@@ -12,6 +12,7 @@
 
 #include <QFile>
 #include <QJsonArray>
+#include <QJsonObject>
 #include <QRegularExpression>
 #include <QSet>
 #include <QTemporaryDir>
@@ -124,6 +125,34 @@ TEST_F(ViewerPages, NameTheCommandsAndValuesOfTheWindow)
                 << page << ": " << name.toStdString();
         }
     }
+}
+
+TEST_F(ViewerPages, SayWhichValuesTheirCommandsTake)
+{
+    QString error;
+    const QJsonObject drop { { "file", NB_VIEWER_FOLDER "/models/label.png" },
+                             { "at", QJsonObject { { "node", "Vase" } } } };
+    ASSERT_TRUE(commands().run("texture.drop", drop, error)) << error.toStdString();
+    ASSERT_TRUE(commands().run("plates.addColor", QJsonObject { { "color", "red" } }, error))
+        << error.toStdString();
+    int count = 0;
+
+    for (const QStringList& cells : rowsOf(textOf("commands.md"))) {
+        const bool isTheSame =
+            cells.value(2) == QStringLiteral("the same") || cells.value(1) == cells.value(2);
+        const QStringList names = isTheSame ? codesIn(cells.value(0)) : QStringList();
+        for (const QString& name : names.filter(QRegularExpression("^(?!texture.handles$)"))) {
+            // Those of the texture tool may end that of the plates, and with it their selection.
+            commands().run("plates.select", QJsonArray { "Colour" }, error);
+            const QJsonValue value = commands().value(name).value_or(QJsonValue());
+            EXPECT_FALSE(value.isNull()) << name.toStdString();
+            EXPECT_TRUE(commands().run(name, value, error))
+                << name.toStdString() << ": " << error.toStdString();
+            EXPECT_TRUE(isNear(*commands().value(name), value, 1e-5)) << name.toStdString();
+            ++count;
+        }
+    }
+    EXPECT_GT(count, 40);
 }
 
 TEST(ViewerPage, NamesTheKeysOfSessions)

@@ -229,9 +229,9 @@ bool SessionPlayer::playKey(const SessionStep& step, QString& error)
     Qt::KeyboardModifiers modifiers = modifiersOf(step);
     const int key = keyOf(step.key, modifiers);
     QAction* const action = step.type != Type::KeyRelease ? findShortcut(key, modifiers) : nullptr;
-    if (action != nullptr && action->property(kAsksProperty).toBool()) {
-        // Nobody may be there to answer, and the replay would wait for ever.
-        error = QStringLiteral("the key \"%1\" asks a person").arg(step.key);
+    if (action != nullptr && action->property(kUnplayedProperty).toBool()) {
+        // It would wait for ever where nobody answers, or leave out the checkpoints to come.
+        error = QStringLiteral("the key \"%1\" cannot be played").arg(step.key);
         return false;
     }
     const Qt::KeyboardModifiers before = heldModifiers;

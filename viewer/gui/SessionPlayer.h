@@ -25,9 +25,9 @@ class SessionPlayer : public QObject
     Q_OBJECT
 
 public:
-    /// Property of an action that is true where the action asks a person, which ends a replay of
-    /// its shortcut.
-    static constexpr const char* kAsksProperty = "asks";
+    /// Property of an action that is true where its shortcut cannot be played, as it would ask a
+    /// person or end the replay.
+    static constexpr const char* kUnplayedProperty = "unplayed";
 
     /// How fast the steps follow each other.
     enum class Pace

@@ -155,12 +155,12 @@ QAction* WindowActions::add(QMenu* menu, const char* name, const QString& text, 
     });
 }
 
-void WindowActions::addAsking(QMenu* menu, const char* name, const QString& text,
-                              const QString& keys, std::function<void()> run)
+QAction* WindowActions::addUnplayed(QMenu* menu, const char* name, const QString& text,
+                                    const QString& keys, std::function<void()> run)
 {
-    addPlain(menu, name, text, keys, [run = std::move(run)](bool) {
-        run();
-    })->setProperty(SessionPlayer::kAsksProperty, true);
+    QAction* action = addPlain(menu, name, text, keys, [run = std::move(run)](bool) { run(); });
+    action->setProperty(SessionPlayer::kUnplayedProperty, true);
+    return action;
 }
 
 QAction* WindowActions::addSwitch(QMenu* menu, const char* name, const QString& text,
@@ -190,12 +190,12 @@ QAction* WindowActions::addCommand(QMenu* menu, const char* command, const QStri
 void WindowActions::addFileMenu()
 {
     QMenu* menu = window.menuBar()->addMenu(tr("&File"));
-    addAsking(menu, "fileOpen", tr("&Open…"), "Ctrl+O",
-              [this] { window.askForFiles(MainWindow::Opening::Replace); });
-    addAsking(menu, "fileAdd", tr("&Add…"), "Ctrl+Shift+O",
-              [this] { window.askForFiles(MainWindow::Opening::Add); });
-    addAsking(menu, "sceneOpen", tr("Open s&cene…"), "Ctrl+Alt+O",
-              [this] { window.scenes().askForScene(); });
+    addUnplayed(menu, "fileOpen", tr("&Open…"), "Ctrl+O",
+                [this] { window.askForFiles(MainWindow::Opening::Replace); });
+    addUnplayed(menu, "fileAdd", tr("&Add…"), "Ctrl+Shift+O",
+                [this] { window.askForFiles(MainWindow::Opening::Add); });
+    addUnplayed(menu, "sceneOpen", tr("Open s&cene…"), "Ctrl+Alt+O",
+                [this] { window.scenes().askForScene(); });
     recentMenu = menu->addMenu(tr("Open &recent"));
     recentMenu->setToolTipsVisible(true);
     setRecentFiles({});
@@ -203,12 +203,12 @@ void WindowActions::addFileMenu()
     menu->addSeparator();
     addPlain(menu, "sceneSave", tr("&Save scene"), "Ctrl+S",
              [this](bool) { window.scenes().save(); });
-    addAsking(menu, "sceneSaveAs", tr("Save sc&ene as…"), "Ctrl+Shift+S",
-              [this] { window.scenes().saveAs(); });
-    addAsking(menu, "filePicture", tr("Sa&ve picture…"), "Ctrl+E",
-              [this] { window.askForPicture(); });
+    addUnplayed(menu, "sceneSaveAs", tr("Save sc&ene as…"), "Ctrl+Shift+S",
+                [this] { window.scenes().saveAs(); });
+    addUnplayed(menu, "filePicture", tr("Sa&ve picture…"), "Ctrl+E",
+                [this] { window.askForPicture(); });
     menu->addSeparator();
-    add(menu, "fileQuit", tr("&Quit"), "Ctrl+Q", [this] { window.close(); });
+    addUnplayed(menu, "fileQuit", tr("&Quit"), "Ctrl+Q", [this] { window.close(); });
 }
 
 void WindowActions::addEditMenu()
@@ -332,16 +332,16 @@ void WindowActions::addTransformSettings(QMenu* menu)
 void WindowActions::addSessionMenu()
 {
     QMenu* menu = window.menuBar()->addMenu(tr("&Session"));
-    // Recording and replaying are no steps of a session, so their shortcuts are not told.
+    // Recording and replaying are no steps of a session.
     record =
         addPlain(menu, "record", tr("&Record"), "Ctrl+R", [this](bool on) { window.record(on); });
     record->setCheckable(true);
     checkpoint = addPlain(menu, "checkpoint", tr("Add &checkpoint"), "Ctrl+K",
                           [this](bool) { window.addCheckpoint(); });
     menu->addSeparator();
-    addAsking(menu, "replay", tr("Re&play…"), "Ctrl+P", [this] { window.askForSession(); });
-    stopReplay = addPlain(menu, "stopReplay", tr("&Stop replay"), "Ctrl+.",
-                          [this](bool) { window.stopReplay(); });
+    addUnplayed(menu, "replay", tr("Re&play…"), "Ctrl+P", [this] { window.askForSession(); });
+    stopReplay = addUnplayed(menu, "stopReplay", tr("&Stop replay"), "Ctrl+.",
+                             [this] { window.stopReplay(); });
 }
 
 void WindowActions::addHelpMenu()
