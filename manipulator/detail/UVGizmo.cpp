@@ -82,25 +82,33 @@ HandleRow handle(const char* name, Active active, int group,
     return makeHandleRow(name, number(active), group, parts, place, turn);
 }
 
+/// A handle that scales one component; the box that scales both takes its highlight along.
+HandleRow scaleHandle(const char* name, Active active, std::initializer_list<HandlePart> parts)
+{
+    HandleRow row = handle(name, active, kScaleGroup, parts);
+    row.highlightedWith = number(Active::ScaleUniform);
+    return row;
+}
+
 std::vector<HandleRow> makeRows()
 {
     return {
+        handle("xaShape", Active::TranslateU, kTranslateGroup,
+               { part(HandleShape::SolidArrowShaft, Red), part(HandleShape::SolidArrowHead, Red) },
+               { 1.0F, 0.0F, 0.0F }, Turn::OntoX),
         handle(
             "yaShape", Active::TranslateV, kTranslateGroup,
             { part(HandleShape::SolidArrowShaft, Green), part(HandleShape::SolidArrowHead, Green) },
             { 0.0F, 1.0F, 0.0F }),
-        handle("xaShape", Active::TranslateU, kTranslateGroup,
-               { part(HandleShape::SolidArrowShaft, Red), part(HandleShape::SolidArrowHead, Red) },
-               { 1.0F, 0.0F, 0.0F }, Turn::OntoX),
         handle("xyaShape", Active::TranslateUV, kTranslateGroup,
                { part(HandleShape::SolidPatch, Yellow), part(HandleShape::SolidBarX, Red),
                  part(HandleShape::SolidBarY, Green) }),
-        handle("ysShape", Active::ScaleV, kScaleGroup,
-               { part(HandleShape::SolidScaleShaftY, LightGreen, Green),
-                 part(HandleShape::ScaleTabY, LightGreen, Green) }),
-        handle("xsShape", Active::ScaleU, kScaleGroup,
-               { part(HandleShape::SolidScaleShaftX, LightRed, Red),
-                 part(HandleShape::ScaleTabX, LightRed, Red) }),
+        scaleHandle("xsShape", Active::ScaleU,
+                    { part(HandleShape::SolidScaleShaftX, LightRed, Red),
+                      part(HandleShape::ScaleTabX, LightRed, Red) }),
+        scaleHandle("ysShape", Active::ScaleV,
+                    { part(HandleShape::SolidScaleShaftY, LightGreen, Green),
+                      part(HandleShape::ScaleTabY, LightGreen, Green) }),
         handle("grid", Active::ScaleUniform, kScaleGroup,
                { part(HandleShape::ScaleTabXY, LightYellow, Yellow) }),
         handle("rotateShape", Active::Rotate, kRotateGroup, { part(HandleShape::SolidRing, Blue) }),

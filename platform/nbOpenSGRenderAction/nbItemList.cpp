@@ -91,7 +91,7 @@ bool ItemList::update(const osg::NodePtr& root)
 void ItemList::visit(const osg::NodePtr& node, const Place& above)
 {
     // A scene plate has no place in 3D.
-    if (!node->getActive() || nbSceneplateList::plateOf(node) != osg::NullFC) {
+    if (node->getTravMask() == 0 || nbSceneplateList::plateOf(node) != osg::NullFC) {
         return;
     }
     Place place = above;

@@ -115,7 +115,7 @@ osg::BoxVolume ownBounds(const osg::NodePtr& node, const osg::GeometryPtr& geome
 void extendBySubtree(osg::BoxVolume& bounds, const osg::NodePtr& node,
                      const osg::Matrix& parentToWorld)
 {
-    if (!node->getActive() || nbNodeUtils::isAuxiliaryNode(node)) {
+    if (node->getTravMask() == 0 || nbNodeUtils::isAuxiliaryNode(node)) {
         return;
     }
     osg::Matrix toWorld = parentToWorld;

@@ -9,10 +9,12 @@
 #include <nbKernel/nbController.h>
 #include <nbOpenSGUberMaterial/nbStateChunkBase.h>
 #include <nbOpenSGUtils/nbEdit.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <iterator>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -134,7 +136,13 @@ TEST_P(UVHandles, HaveTheirModeColoursHighlightAndSets)
         const Pnt2f pixel = at.drag.rayPixelOf(at.onHandle(row.name, row.unit));
         EXPECT_TRUE(at.scene.send("hover", pixel));
         EXPECT_EQ(static_cast<unsigned>(uv.gizmo.getActiveMode()), row.mode);
-        EXPECT_EQ(partColors(handle), Names(row.idle.size(), "1 0.5 0"));
+        for (const HandleCase& other : kHandles) {
+            // The box at the corner takes the scale handles along.
+            const bool isHighlighted = other.mode == row.mode || (row.mode == 7 && other.mode >= 5);
+            EXPECT_EQ(partColors(at.handle(other.name)),
+                      isHighlighted ? Names(other.idle.size(), "1 0.5 0") : other.idle)
+                << other.name;
+        }
         EXPECT_TRUE(at.scene.send("start", pixel));
         for (const HandleCase& other : kHandles) {
             EXPECT_EQ(isShown(at.handle(other.name)), other.mode == row.mode) << other.name;
@@ -160,6 +168,23 @@ TEST_P(UVHandles, HaveTheirModeColoursHighlightAndSets)
 }
 
 INSTANTIATE_TEST_SUITE_P(UVTextureManipulator, UVHandles, testing::ValuesIn(kHandles));
+
+TEST(UVTextureManipulator, TheGroupsHoldTheirHandlesInTheOrderOfTheAxes)
+{
+    const UV uv;
+    const osg::NodePtr tree = uv.at.gizmo.getVisualisation()->getChild(0);
+    const Names groups[] = { { "xaShape", "yaShape", "xyaShape" },
+                             { "rotateShape" },
+                             { "xsShape", "ysShape", "grid" } };
+    ASSERT_EQ(tree->getNChildren(), std::size(groups));
+    for (osg::UInt32 i = 0; i < tree->getNChildren(); ++i) {
+        Names names;
+        for (osg::UInt32 k = 0; k < tree->getChild(i)->getNChildren(); ++k) {
+            names.push_back(nbNodeUtils::getName(tree->getChild(i)->getChild(k)));
+        }
+        EXPECT_EQ(names, groups[i]);
+    }
+}
 
 TEST(UVTextureManipulator, TheHandlesFaceTheViewerAndKeepTheirSizeOnScreen)
 {

@@ -143,16 +143,19 @@ TEST(nbItemList, HiddenPartsAreLeftOut)
 {
     const osg::NodePtr hidden = box(material(1));
     hidden->setActive(false);
+    const osg::NodePtr masked = box(material(7));
+    masked->setTravMask(4);
     const osg::NodePtr choice = over<osg::Switch>({ box(material(2)), box(material(3)) });
     osg::SwitchPtr::dcast(choice->getCore())->setChoice(1);
     const osg::NodePtr none = over<osg::Switch>({ box(material(4)) });
     const osg::NodePtr all = over<osg::Switch>({ box(material(5)), box(material(6)) });
     osg::SwitchPtr::dcast(all->getCore())->setChoice(osg::Switch::ALL);
-    const osg::NodeRefPtr root(over<osg::Group>({ hidden, choice, none, all }));
+    const osg::NodeRefPtr root(over<osg::Group>({ hidden, masked, choice, none, all }));
     ItemList list;
     list.update(root);
 
-    EXPECT_EQ(keysInOrder(list), (std::vector<osg::Int32> { 3, 5, 6 }));
+    EXPECT_EQ(keysInOrder(list), (std::vector<osg::Int32> { 3, 5, 6, 7 }))
+        << "a mask of the host's own hides no more than it does from the picker";
     list.update(osg::NullFC);
     EXPECT_TRUE(list.getItems().empty());
 }
