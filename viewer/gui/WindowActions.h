@@ -50,7 +50,7 @@ private:
                       std::function<void(bool)> run);
     /// One whose shortcut cannot be played either: it opens a dialog or ends the replay.
     QAction* addUnplayed(QMenu* menu, const char* name, const QString& text, const QString& keys,
-                   std::function<void()> run);
+                         std::function<void()> run);
     /// An action whose shortcut is a step of a session.
     QAction* add(QMenu* menu, const char* name, const QString& text, const QString& keys,
                  std::function<void()> run);
