@@ -4,6 +4,7 @@
 
 #include "tests/viewer/support/GuiTest.h"
 #include "viewer/core/StartScene.h"
+#include "viewer/gui/SceneFileActions.h"
 #include "viewer/gui/SessionPlayer.h"
 #include "viewer/gui/SessionRecorder.h"
 #include "viewer/gui/ViewWidget.h"
@@ -114,6 +115,27 @@ TEST_F(MainWindowTest, ACheckpointThatIsNotMetIsReported)
     ASSERT_EQ(window.player().getFailures().size(), 1);
     EXPECT_TRUE(
         window.player().getFailures()[0].contains("hover is \"xaShape\" instead of \"yaShape\""));
+}
+
+TEST_F(MainWindowTest, AKeyThatWouldAskOrEndTheReplayIsAFailure)
+{
+    for (const char* key : { "Ctrl+O", "Ctrl+Shift+O", "Ctrl+Alt+O", "Ctrl+Shift+S", "Ctrl+E",
+                             "Ctrl+P", "Ctrl+Q", "Ctrl+." }) {
+        Session session;
+        SessionStep step;
+        step.type = SessionStep::Type::Key;
+        step.key = QLatin1String(key);
+        session.steps = { step };
+
+        play(session);
+
+        EXPECT_EQ(
+            window.player().getFailures(),
+            QStringList { QStringLiteral("steps[0]: the key \"%1\" cannot be played").arg(key) });
+    }
+    EXPECT_EQ(problems, QStringList());
+    EXPECT_FALSE(window.scenes().save());
+    EXPECT_EQ(problems, QStringList { "the scene has no file to be saved to" });
 }
 
 TEST_F(MainWindowTest, AWrongSessionLeavesEverythingAsItIs)

@@ -61,6 +61,7 @@ TEST_F(ObjectCommands, PathsLeadToObjectsAndBack)
     EXPECT_EQ(run("scene.select", QJsonArray { path }), "");
     EXPECT_EQ(stage.selectedName(), kStartSceneMainObject);
     EXPECT_NE(run("scene.select", QJsonArray { path, "99" }), "");
+    EXPECT_NE(run("scene.select", path), "");
     EXPECT_EQ(stage.selectedName(), kStartSceneMainObject) << "a refusal changes nothing";
 }
 
