@@ -255,10 +255,12 @@ private:                                                                        
     void set##Name(const Type& value) { _sf##Name.setValue(value); }
 #define NB_OWNED_ACCESS_(Name, name, Type)                                                         \
     NB_SF_ACCESS_(Name, Type)                                                                      \
+    Type& get##Name() { return _sf##Name.getValue(); }                                             \
     const Type& get##Name() const { return _sf##Name.getValue(); }                                 \
     void set##Name(const Type& value) { osg::glue::setOwned(_sf##Name, value); }
 #define NB_LINK_ACCESS_(Name, name, Type)                                                          \
     NB_SF_ACCESS_(Name, Type)                                                                      \
+    Type& get##Name() { return _sf##Name.getValue(); }                                             \
     const Type& get##Name() const { return _sf##Name.getValue(); }                                 \
     void set##Name(const Type& value) { _sf##Name.setValue(value); }
 #define NB_OWNED_COUNT_(Name, ...) osg::addRefCP(_sf##Name.getValue());

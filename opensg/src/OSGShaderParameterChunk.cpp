@@ -6,6 +6,13 @@
 #include <OpenSG/OSGShaderParameterBool.h>
 #include <OpenSG/OSGShaderParameterChunk.h>
 #include <OpenSG/OSGShaderParameterInt.h>
+#include <OpenSG/OSGShaderParameterMBool.h>
+#include <OpenSG/OSGShaderParameterMInt.h>
+#include <OpenSG/OSGShaderParameterMMatrix.h>
+#include <OpenSG/OSGShaderParameterMReal.h>
+#include <OpenSG/OSGShaderParameterMVec2f.h>
+#include <OpenSG/OSGShaderParameterMVec3f.h>
+#include <OpenSG/OSGShaderParameterMVec4f.h>
 #include <OpenSG/OSGShaderParameterMatrix.h>
 #include <OpenSG/OSGShaderParameterReal.h>
 #include <OpenSG/OSGShaderParameterVec2f.h>
@@ -24,12 +31,34 @@ OSG_CONTAINER_TYPE(ShaderParameterVec2f, ShaderParameter);
 OSG_CONTAINER_TYPE(ShaderParameterVec3f, ShaderParameter);
 OSG_CONTAINER_TYPE(ShaderParameterVec4f, ShaderParameter);
 OSG_CONTAINER_TYPE(ShaderParameterMatrix, ShaderParameter);
+OSG_CONTAINER_TYPE(ShaderParameterMBool, ShaderParameter);
+OSG_CONTAINER_TYPE(ShaderParameterMInt, ShaderParameter);
+OSG_CONTAINER_TYPE(ShaderParameterMReal, ShaderParameter);
+OSG_CONTAINER_TYPE(ShaderParameterMVec2f, ShaderParameter);
+OSG_CONTAINER_TYPE(ShaderParameterMVec3f, ShaderParameter);
+OSG_CONTAINER_TYPE(ShaderParameterMVec4f, ShaderParameter);
+OSG_CONTAINER_TYPE(ShaderParameterMMatrix, ShaderParameter);
 
 OSG_ABSTRACT_CONTAINER_TYPE(ShaderParameterChunk, StateChunk);
 OSG_ABSTRACT_CONTAINER_TYPE(ShaderChunk, ShaderParameterChunk);
 OSG_STATE_CHUNK_TYPE(SHLChunk, ShaderChunk);
 
 namespace {
+
+/// The class of parameters that are arrays of a type.
+template <class Value>
+struct ArrayParameter;
+
+// clang-format off
+template <> struct ArrayParameter<bool> { using Type = ShaderParameterMBool; };
+template <> struct ArrayParameter<Int32> { using Type = ShaderParameterMInt; };
+template <> struct ArrayParameter<Real32> { using Type = ShaderParameterMReal; };
+template <> struct ArrayParameter<Vec2f> { using Type = ShaderParameterMVec2f; };
+template <> struct ArrayParameter<Vec3f> { using Type = ShaderParameterMVec3f; };
+template <> struct ArrayParameter<Vec4f> { using Type = ShaderParameterMVec4f; };
+template <> struct ArrayParameter<Matrix> { using Type = ShaderParameterMMatrix; };
+
+// clang-format on
 
 /// Reads the value of a parameter, if it is of this class.
 template <class Parameter, class Value>
@@ -76,7 +105,7 @@ bool ShaderParameterChunk::setParameter(const Char8* name, const Value& value)
         mfParameters.push_back(parameter);
     }
     beginEditCP(parameter, Parameter::ValueFieldMask);
-    parameter->setValue(value);
+    parameter->getValue() = value;
     endEditCP(parameter, Parameter::ValueFieldMask);
     return true;
 }
@@ -150,6 +179,30 @@ bool ShaderParameterChunk::getUniformParameter(const Char8* name, Matrix& value)
 {
     return readParameter<ShaderParameterMatrix>(findParameter(name), value);
 }
+
+template <class Value>
+bool ShaderParameterChunk::setUniformParameter(const Char8* name, const MField<Value>& values)
+{
+    return setParameter<typename ArrayParameter<Value>::Type>(name, values);
+}
+
+template <class Value>
+bool ShaderParameterChunk::getUniformParameter(const Char8* name, MField<Value>& values) const
+{
+    return readParameter<typename ArrayParameter<Value>::Type>(findParameter(name), values);
+}
+
+#define OSG_INSTANTIATE_ARRAYS_(Value)                                                             \
+    template bool ShaderParameterChunk::setUniformParameter(const Char8*, const MField<Value>&);   \
+    template bool ShaderParameterChunk::getUniformParameter(const Char8*, MField<Value>&) const
+
+OSG_INSTANTIATE_ARRAYS_(bool);
+OSG_INSTANTIATE_ARRAYS_(Int32);
+OSG_INSTANTIATE_ARRAYS_(Real32);
+OSG_INSTANTIATE_ARRAYS_(Vec2f);
+OSG_INSTANTIATE_ARRAYS_(Vec3f);
+OSG_INSTANTIATE_ARRAYS_(Vec4f);
+OSG_INSTANTIATE_ARRAYS_(Matrix);
 
 bool ShaderParameterChunk::subUniformParameter(const Char8* name)
 {

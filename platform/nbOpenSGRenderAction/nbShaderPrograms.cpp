@@ -7,11 +7,20 @@
 #include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGShaderParameterBool.h>
 #include <OpenSG/OSGShaderParameterInt.h>
+#include <OpenSG/OSGShaderParameterMBool.h>
+#include <OpenSG/OSGShaderParameterMInt.h>
+#include <OpenSG/OSGShaderParameterMMatrix.h>
+#include <OpenSG/OSGShaderParameterMReal.h>
+#include <OpenSG/OSGShaderParameterMVec2f.h>
+#include <OpenSG/OSGShaderParameterMVec3f.h>
+#include <OpenSG/OSGShaderParameterMVec4f.h>
 #include <OpenSG/OSGShaderParameterMatrix.h>
 #include <OpenSG/OSGShaderParameterReal.h>
 #include <OpenSG/OSGShaderParameterVec2f.h>
 #include <OpenSG/OSGShaderParameterVec3f.h>
 #include <OpenSG/OSGShaderParameterVec4f.h>
+
+#include <vector>
 
 namespace nbrender {
 
@@ -34,11 +43,12 @@ bool setAs(const osg::ShaderParameterPtr& parameter, const Setter& setter)
     return true;
 }
 
-void setParameter(Gl& gl, const osg::ShaderParameterPtr& parameter, GLint location)
+bool setValue(Gl& gl, const osg::ShaderParameterPtr& parameter, GLint location)
 {
     using namespace osg;  // NOLINT: the long list of classes below
-    setAs<ShaderParameterVec4fPtr>(
-        parameter, [&](const Vec4f& v) { gl.glUniform4f(location, v.x(), v.y(), v.z(), v.w()); }) ||
+    return setAs<ShaderParameterVec4fPtr>(
+               parameter,
+               [&](const Vec4f& v) { gl.glUniform4f(location, v.x(), v.y(), v.z(), v.w()); }) ||
         setAs<ShaderParameterMatrixPtr>(parameter,
                                         [&](const Matrix& m) {
                                             gl.glUniformMatrix4fv(location, 1, GL_FALSE,
@@ -49,9 +59,45 @@ void setParameter(Gl& gl, const osg::ShaderParameterPtr& parameter, GLint locati
         setAs<ShaderParameterBoolPtr>(parameter,
                                       [&](bool v) { gl.glUniform1i(location, v ? 1 : 0); }) ||
         setAs<ShaderParameterVec3fPtr>(
-            parameter, [&](const Vec3f& v) { gl.glUniform3f(location, v.x(), v.y(), v.z()); }) ||
+               parameter, [&](const Vec3f& v) { gl.glUniform3f(location, v.x(), v.y(), v.z()); }) ||
         setAs<ShaderParameterVec2fPtr>(
-            parameter, [&](const Vec2f& v) { gl.glUniform2f(location, v.x(), v.y()); });
+               parameter, [&](const Vec2f& v) { gl.glUniform2f(location, v.x(), v.y()); });
+}
+
+/// The numbers of an array of numbers, vectors or matrices, one after the other.
+template <class Value>
+const GLfloat* numbersOf(const osg::MField<Value>& values)
+{
+    static_assert(sizeof(Value) % sizeof(GLfloat) == 0);
+    return reinterpret_cast<const GLfloat*>(values.data());
+}
+
+void setArray(Gl& gl, const osg::ShaderParameterPtr& parameter, GLint location)
+{
+    using namespace osg;  // NOLINT: the long list of classes below
+    const auto count = [](const auto& v) { return static_cast<GLsizei>(v.size()); };
+    setAs<ShaderParameterMVec4fPtr>(
+        parameter, [&](const MFVec4f& v) { gl.glUniform4fv(location, count(v), numbersOf(v)); }) ||
+        setAs<ShaderParameterMMatrixPtr>(parameter,
+                                         [&](const MFMatrix& v) {
+                                             gl.glUniformMatrix4fv(location, count(v), GL_FALSE,
+                                                                   numbersOf(v));
+                                         }) ||
+        setAs<ShaderParameterMRealPtr>(
+            parameter, [&](const MFReal32& v) { gl.glUniform1fv(location, count(v), v.data()); }) ||
+        setAs<ShaderParameterMIntPtr>(
+            parameter, [&](const MFInt32& v) { gl.glUniform1iv(location, count(v), v.data()); }) ||
+        setAs<ShaderParameterMBoolPtr>(parameter,
+                                       [&](const MFBool& v) {
+                                           const std::vector<GLint> numbers(v.begin(), v.end());
+                                           gl.glUniform1iv(location, count(v), numbers.data());
+                                       }) ||
+        setAs<ShaderParameterMVec3fPtr>(
+            parameter,
+            [&](const MFVec3f& v) { gl.glUniform3fv(location, count(v), numbersOf(v)); }) ||
+        setAs<ShaderParameterMVec2fPtr>(parameter, [&](const MFVec2f& v) {
+            gl.glUniform2fv(location, count(v), numbersOf(v));
+        });
 }
 
 }  // namespace
@@ -134,7 +180,10 @@ void ShaderPrograms::setParameters(Gl& gl, const osg::SHLChunkPtr& chunk, GlProg
 {
     for (const osg::ShaderParameterPtr& parameter : chunk->getParameters()) {
         if (parameter != osg::NullFC) {
-            setParameter(gl, parameter, program.locate(gl, parameter->getName()));
+            const GLint location = program.locate(gl, parameter->getName());
+            if (!setValue(gl, parameter, location)) {
+                setArray(gl, parameter, location);
+            }
         }
     }
 }

@@ -55,7 +55,7 @@ def missing_excerpts(root):
 def unknown_names(root):
     """Page, and each identifier in it that no source knows."""
     known = set()
-    for folder in ("manipulator", "modules", "platform", "opensg", "examples", "docs"):
+    for folder in ("manipulator", "modules", "platform", "opensg", "viewer", "examples", "docs"):
         for path in (root / folder).rglob("*"):
             if path.suffix in (".h", ".cpp", ".txt"):
                 known.update(re.findall(r"\w+", path.read_text(encoding="utf-8")))

@@ -37,6 +37,7 @@ TEST(Commands, RunTheirOperationAndTellTheListenerOnlyOfSuccess)
     commands.remove("box.");
     EXPECT_FALSE(commands.value("box.size"));
     EXPECT_TRUE(commands.names().isEmpty());
+    EXPECT_TRUE(commands.valueNames().isEmpty());
 }
 
 TEST(Commands, FileNamesAreFoundFromTheFolderOfTheSession)

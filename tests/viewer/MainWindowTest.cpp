@@ -2,6 +2,7 @@
 // The window as a person uses it, on whatever display the tests have.
 #include "tests/viewer/support/ShownWindow.h"
 #include "viewer/core/StartScene.h"
+#include "viewer/gui/SceneFileActions.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -62,6 +63,26 @@ TEST_F(MainWindowTest, ACheckpointThatIsNotMetIsReported)
     ASSERT_EQ(window.player().getFailures().size(), 1);
     EXPECT_TRUE(
         window.player().getFailures()[0].contains("hover is \"xaShape\" instead of \"yaShape\""));
+}
+
+TEST_F(MainWindowTest, AKeyThatWouldAskOrEndTheReplayIsAFailure)
+{
+    for (const char* key : { "Ctrl+O", "Ctrl+Shift+O", "Ctrl+Alt+O", "Ctrl+Shift+S", "Ctrl+E",
+                             "Ctrl+P", "Ctrl+Q", "Ctrl+." }) {
+        Session session;
+        session.steps = { SessionStep() };
+        session.steps[0].type = Type::Key;
+        session.steps[0].key = QLatin1String(key);
+
+        replay(session);
+
+        EXPECT_EQ(
+            window.player().getFailures(),
+            QStringList { QStringLiteral("steps[0]: the key \"%1\" cannot be played").arg(key) });
+    }
+    EXPECT_EQ(problems, QStringList());
+    EXPECT_FALSE(window.scenes().save());
+    EXPECT_EQ(problems, QStringList { "the scene has no file to be saved to" });
 }
 
 TEST_F(MainWindowTest, AWrongSessionLeavesEverythingAsItIs)

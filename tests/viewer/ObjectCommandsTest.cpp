@@ -36,6 +36,7 @@ TEST_F(ObjectCommands, PathsLeadToObjectsAndBack)
     EXPECT_EQ(refusal("scene.select", QJsonArray { path }), "");
     EXPECT_EQ(stage.selectedName(), kStartSceneMainObject);
     EXPECT_NE(refusal("scene.select", QJsonArray { path, "99" }), "");
+    EXPECT_NE(refusal("scene.select", path), "");
     EXPECT_EQ(stage.selectedName(), kStartSceneMainObject) << "a refusal changes nothing";
 }
 

@@ -120,6 +120,18 @@ TEST(Session, SaysWhatIsWrongAndWhere)
           "steps[0].expect.nodes.Knot.scale: expected an array of 3 numbers" },
         { withSteps(R"({"type": "checkpoint", "name": "a", "expect": {"nodes": {"Knot": {}}}})"),
           "expected \"translation\", \"rotation\" or \"scale\"" },
+        { R"({"session": 1, "size": [640, 480], "files": "a.obj", "steps": []})",
+          "files: expected an array of names" },
+        { R"({"session": 1, "size": [640, 480], "camera": {"from": [0,0,1], "at": [0,0,0], "up": [0,1,0], "fov": "wide"}, "steps": []})",
+          "camera.fov: expected a number from 1 to 179" },
+        { withSteps(R"({"type": "move", "at": {"handle": "xaShape", "world": [0,0,0]}})"),
+          "steps[0].at: names more than one place" },
+        { withSteps(R"({"type": "checkpoint", "name": "a", "expect": {"tolerance": "0.1"}})"),
+          "steps[0].expect.tolerance: expected a number from 0" },
+        { withSteps(
+              R"({"type": "checkpoint", "name": "a", "expect": {"nodes": {"Knot": {"scale": [1,1,1], "tolerance": -1}}}})"),
+          "steps[0].expect.nodes.Knot.tolerance: expected a number from 0" },
+        { withSteps(R"({"type": "checkpoint", "title": "a"})"), "\"name\" is missing" },
     };
     for (const Row& row : rows) {
         QString error;

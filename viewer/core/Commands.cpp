@@ -19,6 +19,16 @@ void removeWithPrefix(Map& map, const QString& prefix)
     }
 }
 
+template <class Map>
+QStringList namesIn(const Map& map)
+{
+    QStringList all;
+    for (const auto& entry : map) {
+        all.append(entry.first);
+    }
+    return all;
+}
+
 bool areNear(const QJsonArray& found, const QJsonArray& expected, double tolerance)
 {
     if (found.size() != expected.size()) {
@@ -86,11 +96,12 @@ std::optional<QJsonValue> Commands::value(const QString& name) const
 
 QStringList Commands::names() const
 {
-    QStringList all;
-    for (const auto& [name, run] : commands) {
-        all.append(name);
-    }
-    return all;
+    return namesIn(commands);
+}
+
+QStringList Commands::valueNames() const
+{
+    return namesIn(values);
 }
 
 void Commands::setListener(Listener newListener)

@@ -49,6 +49,8 @@ public:
     std::optional<QJsonValue> value(const QString& name) const;
     /// Names of all commands, sorted.
     QStringList names() const;
+    /// Names of all values, sorted.
+    QStringList valueNames() const;
 
     /// Sets who is told of every command that was done, such as a recorder; empty for nobody.
     void setListener(Listener newListener);

@@ -193,6 +193,10 @@ bool setSwitch(Stage& stage, const ObjectSwitch& row, const QJsonValue& value, Q
 
 bool selectPaths(const QJsonValue& value, QString& error)
 {
+    if (!value.isArray()) {
+        error = QStringLiteral("scene.select: expected an array of paths");
+        return false;
+    }
     std::vector<osg::NodePtr> objects;
     const QJsonArray paths = value.toArray();
     for (const QJsonValue& path : paths) {

@@ -58,12 +58,11 @@ const QStringList kPlacing { QStringLiteral("name"), QStringLiteral("front"),
 bool readHeight(const QJsonObject& object, JsonReader& reader, const QString& path, double& height)
 {
     constexpr double kMost = 10.0;
-    if (!object.contains(QLatin1String("height"))) {
-        return true;
-    }
-    return reader.readNumbers(QJsonArray { object[QLatin1String("height")] }, path, &height, 1) &&
-        ((height > 0.0 && height <= kMost) ||
-         reader.fail(path + QStringLiteral(".height"), QStringLiteral("expected 0 to 10")));
+    const QJsonValue value = object[QLatin1String("height")];
+    height = value.toDouble(height);
+    return value.isUndefined() || (value.isDouble() && height > 0.0 && height <= kMost) ||
+        reader.fail(path + QStringLiteral(".height"),
+                    QStringLiteral("expected a number above 0, at most 10"));
 }
 
 /// The part of a value that all kinds of plates share.
@@ -131,22 +130,35 @@ bool addPicture(Stage& stage, PlatesTool& tool, const QJsonValue& value, QString
     return true;
 }
 
+bool readLetters(const QJsonObject& object, const QString& path, JsonReader& reader,
+                 PlateText& text)
+{
+    const auto has = [&object](const char* key) { return object.contains(QLatin1String(key)); };
+    return reader.readString(object[QLatin1String("text")], path + QStringLiteral(".text"),
+                             text.text) &&
+        (!has("font") ||
+         reader.readString(object[QLatin1String("font")], path + QStringLiteral(".font"),
+                           text.font)) &&
+        (!has("bold") ||
+         reader.readBool(object[QLatin1String("bold")], path + QStringLiteral(".bold"), text.bold));
+}
+
 bool addText(Stage& stage, PlatesTool& tool, const QJsonValue& value, QString& error)
 {
     JsonReader reader(error);
     const QString path = QStringLiteral("plates.addText");
     const QJsonObject object = value.toObject();
     PlateText text;
-    text.text = object[QLatin1String("text")].toString();
-    text.font = object[QLatin1String("font")].toString();
-    text.bold = object[QLatin1String("bold")].toBool();
     NewPlate plate;
-    plate.name = text.text.simplified().toStdString();
     const QStringList known { QStringLiteral("text"), QStringLiteral("font"),
                               QStringLiteral("color"), QStringLiteral("bold"),
                               QStringLiteral("height") };
     if (!reader.checkKeys(object, path, kPlacing + known) ||
-        !readPlacing(object, path, reader, plate) ||
+        !readLetters(object, path, reader, text)) {
+        return false;
+    }
+    plate.name = text.text.simplified().toStdString();
+    if (!readPlacing(object, path, reader, plate) ||
         !readHeight(object, reader, path, text.height)) {
         return false;
     }
@@ -202,6 +214,9 @@ bool addColor(Stage& stage, PlatesTool& tool, const QJsonValue& value, QString& 
 
 bool select(PlatesTool& tool, const QJsonValue& value, QString& error)
 {
+    if (!value.isArray()) {
+        return refuse("select", QStringLiteral("expected an array of names"), error);
+    }
     std::vector<osg::NodePtr> nodes;
     for (const QJsonValue& name : value.toArray()) {
         nodes.push_back(PlatesTool::plateByName(name.toString().toStdString()));

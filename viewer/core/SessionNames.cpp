@@ -65,6 +65,37 @@ QString find(const Word<Value> (&words)[Count], Value value)
 
 }  // namespace
 
+QStringList sessionKeys(SessionPart part)
+{
+    switch (part) {
+    case SessionPart::Session:
+        return { "session", "size", "files", "camera", "selection", "manipulator", "steps" };
+    case SessionPart::Camera:
+        return { "from", "at", "up", "pivot", "fov", "orthographic", "zUp" };
+    case SessionPart::Step:
+        return { "type", "at",         "button", "modifiers", "delta", "key",   "after",
+                 "name", "screenshot", "expect", "command",   "value", "title", "text" };
+    case SessionPart::Target:
+        return { "handle", "node", "world", "offset", "by" };
+    case SessionPart::Expectation:
+        return {
+            "hover", "selection", "orthographic", "undoSteps", "nodes", "values", "tolerance"
+        };
+    case SessionPart::NodeExpectation:
+        return { "translation", "rotation", "scale", "tolerance" };
+    }
+    return {};
+}
+
+QStringList stepTypeNames()
+{
+    QStringList names;
+    for (const Word<Type>& word : kTypes) {
+        names.append(QLatin1String(word.name));
+    }
+    return names;
+}
+
 QString stepTypeName(SessionStep::Type type)
 {
     return find(kTypes, type);

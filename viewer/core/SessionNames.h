@@ -5,6 +5,23 @@
 
 namespace viewer {
 
+/// The objects that a session file consists of.
+enum class SessionPart
+{
+    Session,
+    Camera,
+    Step,
+    Target,
+    Expectation,
+    NodeExpectation
+};
+
+/// Keys that such an object may have.
+QStringList sessionKeys(SessionPart part);
+
+/// Words of a session file for the types of steps.
+QStringList stepTypeNames();
+
 /// Word of a session file for a step's type, such as "press".
 QString stepTypeName(SessionStep::Type type);
 

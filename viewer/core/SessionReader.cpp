@@ -16,6 +16,7 @@
 namespace viewer {
 namespace {
 
+constexpr double kMostTolerance = 1e9;
 constexpr qint64 kMaxSessionBytes = 64LL * 1024 * 1024;
 
 /// Walks the JSON document of a session.
@@ -32,6 +33,9 @@ private:
     bool readCamera(const QJsonValue& value, SessionCamera& camera);
     bool readStep(const QJsonValue& value, const QString& path, SessionStep& step);
     bool readNamedTarget(const QJsonObject& object, const QString& path, SessionTarget& target);
+    /// Reads a number; one that is not there keeps its value.
+    bool readInRange(const QJsonObject& object, const QString& path, const char* key, double least,
+                     double most, double& number);
     bool readModifiers(const QJsonValue& value, const QString& path, SessionStep& step);
     bool readExpectation(const QJsonValue& value, const QString& path,
                          SessionExpectation& expectation);
@@ -39,6 +43,7 @@ private:
                               std::vector<SessionNodeExpectation>& nodes);
     bool readValues(const QJsonObject& object, const QString& path, const char* key,
                     std::optional<std::array<double, 3>>& values);
+    bool readNameOf(const QJsonObject& object, const QString& path, SessionStep& step);
     bool checkStep(const QJsonObject& object, const QString& path, const SessionStep& step);
 };
 
@@ -68,7 +73,7 @@ bool Reader::readCamera(const QJsonValue& value, SessionCamera& camera)
         return fail(path, QStringLiteral("expected an object"));
     }
     constexpr double kMaxFovDeg = 179.0;
-    if (!checkKeys(object, path, { "from", "at", "up", "pivot", "fov", "orthographic", "zUp" }) ||
+    if (!checkKeys(object, path, sessionKeys(SessionPart::Camera)) ||
         !readNumbers(object.value("from"), path + ".from", camera.from.data(), 3) ||
         !readNumbers(object.value("at"), path + ".at", camera.at.data(), 3) ||
         !readNumbers(object.value("up"), path + ".up", camera.up.data(), 3)) {
@@ -80,9 +85,8 @@ bool Reader::readCamera(const QJsonValue& value, SessionCamera& camera)
             return false;
         }
     }
-    camera.fovDeg = object.value("fov").toDouble(camera.fovDeg);
-    if (!(camera.fovDeg >= 1.0 && camera.fovDeg <= kMaxFovDeg)) {
-        return fail(path + ".fov", QStringLiteral("expected degrees from 1 to 179"));
+    if (!readInRange(object, path, "fov", 1.0, kMaxFovDeg, camera.fovDeg)) {
+        return false;
     }
     if (camera.from == camera.at) {
         return fail(path, QStringLiteral("from and at are the same point"));
@@ -92,9 +96,20 @@ bool Reader::readCamera(const QJsonValue& value, SessionCamera& camera)
         (!object.contains("zUp") || readBool(object.value("zUp"), path + ".zUp", camera.zUp));
 }
 
+bool Reader::readInRange(const QJsonObject& object, const QString& path, const char* key,
+                         double least, double most, double& number)
+{
+    const QJsonValue value = object.value(QLatin1String(key));
+    number = value.toDouble(number);
+    const bool isMeant = value.isDouble() || value.isUndefined();
+    return (isMeant && number >= least && number <= most) ||
+        fail(path + '.' + key,
+             QStringLiteral("expected a number from %1 to %2").arg(least).arg(most));
+}
+
 bool Reader::readNamedTarget(const QJsonObject& object, const QString& path, SessionTarget& target)
 {
-    if (!checkKeys(object, path, { "handle", "node", "world", "offset", "by" })) {
+    if (!checkKeys(object, path, sessionKeys(SessionPart::Target))) {
         return false;
     }
     const QString key = object.contains("by") ? QStringLiteral("by") : QStringLiteral("offset");
@@ -104,6 +119,9 @@ bool Reader::readNamedTarget(const QJsonObject& object, const QString& path, Ses
             return false;
         }
         target.offsetPx = QPointF(offset[0], offset[1]);
+    }
+    if (object.size() > (object.contains("offset") ? 2 : 1)) {
+        return fail(path, QStringLiteral("names more than one place"));
     }
     if (object.contains("by")) {
         target.kind = SessionTarget::Kind::Pointer;
@@ -177,13 +195,13 @@ bool Reader::readNodeExpectations(const QJsonValue& value, const QString& path,
         const QJsonObject object = all.value(name).toObject();
         SessionNodeExpectation node;
         node.node = name;
-        if (!checkKeys(object, nodePath, { "translation", "rotation", "scale", "tolerance" }) ||
+        if (!checkKeys(object, nodePath, sessionKeys(SessionPart::NodeExpectation)) ||
             !readValues(object, nodePath, "translation", node.translation) ||
             !readValues(object, nodePath, "rotation", node.rotationDeg) ||
-            !readValues(object, nodePath, "scale", node.scale)) {
+            !readValues(object, nodePath, "scale", node.scale) ||
+            !readInRange(object, nodePath, "tolerance", 0.0, kMostTolerance, node.tolerance)) {
             return false;
         }
-        node.tolerance = object.value("tolerance").toDouble(node.tolerance);
         if (!node.translation && !node.rotationDeg && !node.scale) {
             return fail(nodePath,
                         QStringLiteral("expected \"translation\", \"rotation\" or "
@@ -201,9 +219,8 @@ bool Reader::readExpectation(const QJsonValue& value, const QString& path,
         return fail(path, QStringLiteral("expected an object"));
     }
     const QJsonObject object = value.toObject();
-    if (!checkKeys(object, path,
-                   { "hover", "selection", "orthographic", "undoSteps", "nodes", "values",
-                     "tolerance" })) {
+    if (!checkKeys(object, path, sessionKeys(SessionPart::Expectation)) ||
+        !readInRange(object, path, "tolerance", 0.0, kMostTolerance, expectation.tolerance)) {
         return false;
     }
     QString text;
@@ -240,9 +257,17 @@ bool Reader::readExpectation(const QJsonValue& value, const QString& path,
         }
         expectation.values = object.value("values").toObject();
     }
-    expectation.tolerance = object.value("tolerance").toDouble(expectation.tolerance);
     return !object.contains("nodes") ||
         readNodeExpectations(object.value("nodes"), path + ".nodes", expectation.nodes);
+}
+
+/// Reads what a step of its type is called, by the key that this type has for it.
+bool Reader::readNameOf(const QJsonObject& object, const QString& path, SessionStep& step)
+{
+    const QString key = step.type == SessionStep::Type::Command ? QStringLiteral("command")
+        : step.type == SessionStep::Type::Caption               ? QStringLiteral("title")
+                                                                : QStringLiteral("name");
+    return !object.contains(key) || readString(object.value(key), path + '.' + key, step.name);
 }
 
 /// Demands what a step of its type cannot do without.
@@ -292,9 +317,7 @@ bool Reader::readStep(const QJsonValue& value, const QString& path, SessionStep&
         return fail(path, QStringLiteral("expected an object"));
     }
     const QJsonObject object = value.toObject();
-    if (!checkKeys(object, path,
-                   { "type", "at", "button", "modifiers", "delta", "key", "after", "name",
-                     "screenshot", "expect", "command", "value", "title", "text" })) {
+    if (!checkKeys(object, path, sessionKeys(SessionPart::Step))) {
         return false;
     }
     const auto type = stepTypeFromName(object.value("type").toString());
@@ -326,9 +349,7 @@ bool Reader::readStep(const QJsonValue& value, const QString& path, SessionStep&
         (!has("after") ||
          readInt(object.value("after"), path + ".after", kMaxPauseMs, step.afterMs)) &&
         (!has("key") || readString(object.value("key"), path + ".key", step.key)) &&
-        (!has("name") || readString(object.value("name"), path + ".name", step.name)) &&
-        (!has("command") || readString(object.value("command"), path + ".command", step.name)) &&
-        (!has("title") || readString(object.value("title"), path + ".title", step.name)) &&
+        readNameOf(object, path, step) &&
         (!has("text") || readString(object.value("text"), path + ".text", step.text)) &&
         (!has("screenshot") ||
          readBool(object.value("screenshot"), path + ".screenshot", step.screenshot)) &&
@@ -339,8 +360,7 @@ bool Reader::readStep(const QJsonValue& value, const QString& path, SessionStep&
 
 bool Reader::readSession(const QJsonObject& object, Session& session)
 {
-    if (!checkKeys(object, {},
-                   { "session", "size", "files", "camera", "selection", "manipulator", "steps" })) {
+    if (!checkKeys(object, {}, sessionKeys(SessionPart::Session))) {
         return false;
     }
     if (object.value("session").toInt() != 1) {
@@ -349,6 +369,9 @@ bool Reader::readSession(const QJsonObject& object, Session& session)
     }
     if (!readSize(object.value("size"), session.sizePx)) {
         return false;
+    }
+    if (object.contains("files") && !object.value("files").isArray()) {
+        return fail(QStringLiteral("files"), QStringLiteral("expected an array of names"));
     }
     const QJsonArray files = object.value("files").toArray();
     for (int i = 0; i < files.size(); ++i) {

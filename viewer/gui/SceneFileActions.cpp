@@ -166,6 +166,10 @@ bool SceneFileActions::save()
 
 bool SceneFileActions::saveAs()
 {
+    if (!question) {
+        emit problem(QStringLiteral("the scene has no file to be saved to"));
+        return false;
+    }
     const QString suggested =
         sceneFile.isEmpty() ? QStringLiteral("scene.") + QLatin1String(kSceneSuffix) : sceneFile;
     QString path =

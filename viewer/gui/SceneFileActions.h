@@ -58,6 +58,7 @@ public:
 
     /// Saves to the scene's file, or asks for one. @return whether it is saved
     bool save();
+    /// The same in another file. With nobody to ask this is a problem.
     bool saveAs();
     /// @return false with one line in `error`; the file is as it was
     bool saveTo(const QString& path, QString& error);

@@ -160,8 +160,7 @@ bool SessionPlayer::play(const SessionStep& step, QString& error)
     case Type::Key:
     case Type::KeyPress:
     case Type::KeyRelease:
-        playKey(step);
-        return true;
+        return playKey(step, error);
     case Type::Command:
         return view.stage().commands().run(step.name, step.value, error);
     case Type::Caption:
@@ -225,13 +224,21 @@ void SessionPlayer::sendWheel(int delta, Qt::KeyboardModifiers modifiers)
     QCoreApplication::sendEvent(&view, &event);
 }
 
-void SessionPlayer::playKey(const SessionStep& step)
+bool SessionPlayer::playKey(const SessionStep& step, QString& error)
 {
     Qt::KeyboardModifiers modifiers = modifiersOf(step);
     const int key = keyOf(step.key, modifiers);
+    QAction* const action = step.type != Type::KeyRelease ? findShortcut(key, modifiers) : nullptr;
+    if (action != nullptr && action->property(kUnplayedProperty).toBool()) {
+        // It would wait for ever where nobody answers, or leave out the checkpoints to come.
+        error = QStringLiteral("the key \"%1\" cannot be played").arg(step.key);
+        return false;
+    }
     const Qt::KeyboardModifiers before = heldModifiers;
     heldModifiers = modifiers;
-    if (step.type != Type::KeyRelease && !triggerShortcut(key, modifiers)) {
+    if (action != nullptr) {
+        action->trigger();
+    } else if (step.type != Type::KeyRelease) {
         sendKey(QEvent::KeyPress, key);
     }
     if (step.type != Type::KeyPress) {
@@ -245,6 +252,7 @@ void SessionPlayer::playKey(const SessionStep& step)
     } else if (step.type == Type::KeyRelease) {
         heldModifiers &= ~own;
     }
+    return true;
 }
 
 void SessionPlayer::sendKey(QEvent::Type type, int key)
@@ -258,22 +266,22 @@ void SessionPlayer::sendKey(QEvent::Type type, int key)
 }
 
 /// Does what the window system's way of a key does first: asks the view, then looks for a shortcut.
-bool SessionPlayer::triggerShortcut(int key, Qt::KeyboardModifiers modifiers)
+/// @return null if the view wants the key itself, or no action has it
+QAction* SessionPlayer::findShortcut(int key, Qt::KeyboardModifiers modifiers)
 {
     QKeyEvent ask(QEvent::ShortcutOverride, key, modifiers);
     ask.ignore();
     QCoreApplication::sendEvent(&view, &ask);
     if (ask.isAccepted()) {
-        return false;
+        return nullptr;
     }
     const QKeySequence pressed(key | static_cast<int>(modifiers));
     for (QAction* action : window.findChildren<QAction*>()) {
         if (action->isEnabled() && action->shortcuts().contains(pressed)) {
-            action->trigger();
-            return true;
+            return action;
         }
     }
-    return false;
+    return nullptr;
 }
 
 bool SessionPlayer::playCheckpoint(const SessionStep& step, QString& error)

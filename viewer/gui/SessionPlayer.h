@@ -10,6 +10,7 @@
 
 #include <optional>
 
+class QAction;
 class QWidget;
 
 namespace viewer {
@@ -24,6 +25,10 @@ class SessionPlayer : public QObject
     Q_OBJECT
 
 public:
+    /// Property of an action that is true where its shortcut cannot be played, as it would ask a
+    /// person or end the replay.
+    static constexpr const char* kUnplayedProperty = "unplayed";
+
     /// How fast the steps follow each other.
     enum class Pace
     {
@@ -70,9 +75,9 @@ private:
     bool playPointer(const SessionStep& step, QString& error);
     void sendMouse(QEvent::Type type, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
     void sendWheel(int delta, Qt::KeyboardModifiers modifiers);
-    void playKey(const SessionStep& step);
+    bool playKey(const SessionStep& step, QString& error);
     void sendKey(QEvent::Type type, int key);
-    bool triggerShortcut(int key, Qt::KeyboardModifiers modifiers);
+    QAction* findShortcut(int key, Qt::KeyboardModifiers modifiers);
     void setCaption(const QString& title, const QString& text);
     bool playCheckpoint(const SessionStep& step, QString& error);
 

@@ -6,6 +6,7 @@
 #include "viewer/gui/MainWindow.h"
 #include "viewer/gui/PanelDocks.h"
 #include "viewer/gui/SceneFileActions.h"
+#include "viewer/gui/SessionPlayer.h"
 #include "viewer/gui/StepsPanel.h"
 #include "viewer/gui/ThemeIcon.h"
 #include "viewer/gui/ViewWidget.h"
@@ -154,6 +155,14 @@ QAction* WindowActions::add(QMenu* menu, const char* name, const QString& text, 
     });
 }
 
+QAction* WindowActions::addUnplayed(QMenu* menu, const char* name, const QString& text,
+                                    const QString& keys, std::function<void()> run)
+{
+    QAction* action = addPlain(menu, name, text, keys, [run = std::move(run)](bool) { run(); });
+    action->setProperty(SessionPlayer::kUnplayedProperty, true);
+    return action;
+}
+
 QAction* WindowActions::addSwitch(QMenu* menu, const char* name, const QString& text,
                                   const QString& keys, std::function<void(bool)> run)
 {
@@ -181,13 +190,12 @@ QAction* WindowActions::addCommand(QMenu* menu, const char* command, const QStri
 void WindowActions::addFileMenu()
 {
     QMenu* menu = window.menuBar()->addMenu(tr("&File"));
-    // A replay opens no dialogs, so shortcuts that do are not told.
-    addPlain(menu, "fileOpen", tr("&Open…"), "Ctrl+O",
-             [this](bool) { window.askForFiles(MainWindow::Opening::Replace); });
-    addPlain(menu, "fileAdd", tr("&Add…"), "Ctrl+Shift+O",
-             [this](bool) { window.askForFiles(MainWindow::Opening::Add); });
-    addPlain(menu, "sceneOpen", tr("Open s&cene…"), "Ctrl+Alt+O",
-             [this](bool) { window.scenes().askForScene(); });
+    addUnplayed(menu, "fileOpen", tr("&Open…"), "Ctrl+O",
+                [this] { window.askForFiles(MainWindow::Opening::Replace); });
+    addUnplayed(menu, "fileAdd", tr("&Add…"), "Ctrl+Shift+O",
+                [this] { window.askForFiles(MainWindow::Opening::Add); });
+    addUnplayed(menu, "sceneOpen", tr("Open s&cene…"), "Ctrl+Alt+O",
+                [this] { window.scenes().askForScene(); });
     recentMenu = menu->addMenu(tr("Open &recent"));
     recentMenu->setToolTipsVisible(true);
     setRecentFiles({});
@@ -195,12 +203,12 @@ void WindowActions::addFileMenu()
     menu->addSeparator();
     addPlain(menu, "sceneSave", tr("&Save scene"), "Ctrl+S",
              [this](bool) { window.scenes().save(); });
-    addPlain(menu, "sceneSaveAs", tr("Save sc&ene as…"), "Ctrl+Shift+S",
-             [this](bool) { window.scenes().saveAs(); });
-    addPlain(menu, "filePicture", tr("Sa&ve picture…"), "Ctrl+E",
-             [this](bool) { window.askForPicture(); });
+    addUnplayed(menu, "sceneSaveAs", tr("Save sc&ene as…"), "Ctrl+Shift+S",
+                [this] { window.scenes().saveAs(); });
+    addUnplayed(menu, "filePicture", tr("Sa&ve picture…"), "Ctrl+E",
+                [this] { window.askForPicture(); });
     menu->addSeparator();
-    add(menu, "fileQuit", tr("&Quit"), "Ctrl+Q", [this] { window.close(); });
+    addUnplayed(menu, "fileQuit", tr("&Quit"), "Ctrl+Q", [this] { window.close(); });
 }
 
 void WindowActions::addEditMenu()
@@ -324,16 +332,16 @@ void WindowActions::addTransformSettings(QMenu* menu)
 void WindowActions::addSessionMenu()
 {
     QMenu* menu = window.menuBar()->addMenu(tr("&Session"));
-    // Recording and replaying are no steps of a session, so their shortcuts are not told.
+    // Recording and replaying are no steps of a session.
     record =
         addPlain(menu, "record", tr("&Record"), "Ctrl+R", [this](bool on) { window.record(on); });
     record->setCheckable(true);
     checkpoint = addPlain(menu, "checkpoint", tr("Add &checkpoint"), "Ctrl+K",
                           [this](bool) { window.addCheckpoint(); });
     menu->addSeparator();
-    addPlain(menu, "replay", tr("Re&play…"), "Ctrl+P", [this](bool) { window.askForSession(); });
-    stopReplay = addPlain(menu, "stopReplay", tr("&Stop replay"), "Ctrl+.",
-                          [this](bool) { window.stopReplay(); });
+    addUnplayed(menu, "replay", tr("Re&play…"), "Ctrl+P", [this] { window.askForSession(); });
+    stopReplay = addUnplayed(menu, "stopReplay", tr("&Stop replay"), "Ctrl+.",
+                             [this] { window.stopReplay(); });
 }
 
 void WindowActions::addHelpMenu()

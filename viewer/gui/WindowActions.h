@@ -48,6 +48,9 @@ private:
     /// An action that is no step of a session.
     QAction* addPlain(QMenu* menu, const char* name, const QString& text, const QString& keys,
                       std::function<void(bool)> run);
+    /// One whose shortcut cannot be played either: it opens a dialog or ends the replay.
+    QAction* addUnplayed(QMenu* menu, const char* name, const QString& text, const QString& keys,
+                         std::function<void()> run);
     /// An action whose shortcut is a step of a session.
     QAction* add(QMenu* menu, const char* name, const QString& text, const QString& keys,
                  std::function<void()> run);

@@ -27,7 +27,13 @@ public:
 
     const MFFieldContainerPtr& getParents() const { return mfParents; }
 
+    FieldContainerPtr& getParents(UInt32 index) { return mfParents[index]; }
+
+    const FieldContainerPtr& getParents(UInt32 index) const { return mfParents[index]; }
+
     MFFieldContainerPtr* getMFParents() { return &mfParents; }
+
+    const MFFieldContainerPtr* getMFParents() const { return &mfParents; }
 
     /// Key among the attachments of a container: one per class.
     UInt32 getGroupId() const { return getType().getGroupId(); }

@@ -11,6 +11,7 @@
 
 namespace osg {
 
+class FrustumVolume;
 class Viewport;
 
 #define OSG_CAMERA_FIELDS(VALUE, OWNED, LINK)                                                      \
@@ -21,7 +22,7 @@ class Viewport;
 /// Where from and how the world is seen. The camera sits at its beacon (not counted, may be null),
 /// looks along the beacon's -z with +y up; Near and Far are distances along that axis in the
 /// beacon's units. Sizes handed in are those of the picture in pixels.
-/// Left out of OpenSG's class: drawing set-up, decorators, frustum volumes.
+/// Left out of OpenSG's class: drawing set-up, decorators.
 class Camera : public AttachmentContainer
 {
     OSG_ABSTRACT_CONTAINER(Camera, AttachmentContainer, OSG_CAMERA_FIELDS);
@@ -39,6 +40,9 @@ public:
 
     /// World to normalised device coordinates, -1 .. 1 each: projection * translation * viewing.
     virtual void getWorldToScreen(Matrix& result, const Viewport& port);
+
+    /// The part of the world that shows in the viewport.
+    void getFrustum(FrustumVolume& result, const Viewport& port);
 
     /// The ray under a pixel: it starts on the near plane, its direction has length 1.
     ///

@@ -45,12 +45,12 @@
 ///
 ///     VALUE(Width, width, Real32, 1.f)      a value with its start value
 ///         Real32& getWidth(), const Real32& getWidth() const, setWidth(const Real32&),
-///         SField<Real32>* getSFWidth(); member sfWidth
+///         SFReal32* getSFWidth(); member sfWidth
 ///     OWNED(Image, image, ImagePtr)         +1 while held, -1 when replaced and with the
-///         the same without the                  container's end; copied by deepClone
-///         non-const reference
+///         the same; no counting through         container's end; copied by deepClone
+///         the reference
 ///     LINK(Beacon, beacon, NodePtr)         neither counted nor followed; null in a deepClone
-///         the same as OWNED
+///         the same
 ///
 /// A class with multi fields writes a list of six and says OSG_MULTI_CONTAINER,
 /// OSG_MULTI_STATE_CHUNK or OSG_ABSTRACT_MULTI_CONTAINER (the ..._TYPE macros are the same):
@@ -72,16 +72,16 @@
 /// OWNED or OWNEDS entry points to is told by ownerAdded and ownerRemoved (see FieldContainer). A
 /// class that nothing drawn depends on (cameras, viewports) overrides noteEdit with an empty body.
 /// Further data members need start values where they are declared; a copy starts with those.
+/// The names of the field types (SFReal32, MFPnt3f ...) come with the header of every class.
 #pragma once
 
 #include <OpenSG/OSGContainerCloner.h>
 #include <OpenSG/OSGFieldContainer.h>
 #include <OpenSG/OSGFieldContainerPtr.h>
 #include <OpenSG/OSGFieldContainerType.h>
-#include <OpenSG/OSGMField.h>
+#include <OpenSG/OSGFieldTypes.h>
 #include <OpenSG/OSGOwnedFields.h>
 #include <OpenSG/OSGRefPtr.h>
-#include <OpenSG/OSGSField.h>
 
 #define OSG_NO_FIELDS(VALUE, OWNED, LINK)
 
@@ -210,10 +210,10 @@ private:                                                                        
 #define OSG_SF_ACCESS_(Name, Type)                                                                 \
     osg::SField<Type>* getSF##Name() { return &sf##Name; }                                         \
     const osg::SField<Type>* getSF##Name() const { return &sf##Name; }                             \
+    Type& get##Name() { return sf##Name.getValue(); }                                              \
     const Type& get##Name() const { return sf##Name.getValue(); }
 #define OSG_VALUE_ACCESS_(Name, name, Type, Start)                                                 \
     OSG_SF_ACCESS_(Name, Type)                                                                     \
-    Type& get##Name() { return sf##Name.getValue(); }                                              \
     void set##Name(const Type& value) { sf##Name.setValue(value); }
 #define OSG_OWNED_ACCESS_(Name, name, Type)                                                        \
     OSG_SF_ACCESS_(Name, Type)                                                                     \

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <OpenSG/OSGFieldContainerPtr.h>
+#include <OpenSG/OSGGL.h>
 
 namespace osg {
 

@@ -194,16 +194,18 @@ void subRefCP(FieldContainerPtr& container);
 /// Gives one count back and sets the variable to null.
 void clearRefCP(FieldContainerPtr& container);
 
-/// Has the variable hold another container: counts the new one, then gives the old one back.
-template <class Pointer>
-void setRefdCP(Pointer& variable, const Pointer& value)
+/// Has the variable hold another container, which may be of a derived class or NullFC: counts the
+/// new one, then gives the old one back.
+template <class Pointer, class Value>
+void setRefdCP(Pointer& variable, const Value& value)
 {
-    if (variable == value) {
+    const Pointer wanted(value);
+    if (variable == wanted) {
         return;
     }
     const Pointer old = variable;
-    addRefCP(value);
-    variable = value;
+    addRefCP(wanted);
+    variable = wanted;
     subRefCP(old);
 }
 

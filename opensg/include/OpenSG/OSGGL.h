@@ -1,20 +1,35 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <OpenSG/OSGConfig.h>
+
 /// @file
-/// Types and constants of OpenGL that fields of containers hold. No functions: nothing in here
-/// draws. Each constant is spelled as in the usual GL headers, so that these may come
-/// before or after this one.
+/// Types and constants of OpenGL that fields of containers hold; every container class brings them
+/// along. No functions: nothing in here draws. Each constant is spelled as in the usual GL headers,
+/// so that these may come before or after this one.
 
 typedef unsigned int GLenum;
-typedef unsigned int GLuint;
+typedef unsigned char GLboolean;
+typedef unsigned int GLbitfield;
+typedef signed char GLbyte;
+typedef short GLshort;
 typedef int GLint;
+typedef int GLsizei;
+typedef unsigned char GLubyte;
+typedef unsigned short GLushort;
+typedef unsigned int GLuint;
 typedef float GLfloat;
+typedef float GLclampf;
+typedef double GLdouble;
+typedef double GLclampd;
+typedef void GLvoid;
 
 // == Nothing, truth
 #define GL_NONE 0
 #define GL_ZERO 0
 #define GL_ONE 1
+#define GL_FALSE 0
+#define GL_TRUE 1
 
 // == Primitives
 #define GL_POINTS 0x0000
@@ -67,6 +82,8 @@ typedef float GLfloat;
 #define GL_POINT 0x1B00
 #define GL_LINE 0x1B01
 #define GL_FILL 0x1B02
+#define GL_FLAT 0x1D00
+#define GL_SMOOTH 0x1D01
 
 // == Material colours
 #define GL_AMBIENT 0x1200
@@ -85,6 +102,7 @@ typedef float GLfloat;
 #define GL_FLOAT 0x1406
 #define GL_DOUBLE 0x140A
 #define GL_HALF_FLOAT 0x140B
+#define GL_UNSIGNED_INT_24_8 0x84FA
 
 // == Pixel formats
 #define GL_RED 0x1903
@@ -96,6 +114,12 @@ typedef float GLfloat;
 #define GL_INTENSITY 0x8049
 #define GL_BGR 0x80E0
 #define GL_BGRA 0x80E1
+#define GL_GREEN 0x1904
+#define GL_BLUE 0x1905
+#define GL_DEPTH_COMPONENT 0x1902
+#define GL_DEPTH_STENCIL 0x84F9
+#define GL_STENCIL_INDEX 0x1901
+#define GL_COLOR_INDEX 0x1900
 
 // == Textures
 #define GL_TEXTURE_1D 0x0DE0
@@ -118,6 +142,106 @@ typedef float GLfloat;
 #define GL_ADD 0x0104
 #define GL_REPLACE 0x1E01
 #define GL_COMBINE 0x8570
+#define GL_TEXTURE 0x1702
+#define GL_TEXTURE_RECTANGLE 0x84F5
+#define GL_TEXTURE_CUBE_MAP 0x8513
+#define GL_S 0x2000
+#define GL_T 0x2001
+#define GL_R 0x2002
+#define GL_Q 0x2003
+#define GL_OBJECT_LINEAR 0x2401
+#define GL_EYE_LINEAR 0x2400
+#define GL_SPHERE_MAP 0x2402
+#define GL_NORMAL_MAP 0x8511
+#define GL_REFLECTION_MAP 0x8512
+#define GL_ADD_SIGNED 0x8574
+#define GL_INTERPOLATE 0x8575
+#define GL_SUBTRACT 0x84E7
+#define GL_DOT3_RGB 0x86AE
+#define GL_DOT3_RGBA 0x86AF
+#define GL_CONSTANT 0x8576
+#define GL_PRIMARY_COLOR 0x8577
+#define GL_PREVIOUS 0x8578
+
+// == Logical operations
+#define GL_CLEAR 0x1500
+#define GL_AND 0x1501
+#define GL_AND_REVERSE 0x1502
+#define GL_COPY 0x1503
+#define GL_AND_INVERTED 0x1504
+#define GL_NOOP 0x1505
+#define GL_XOR 0x1506
+#define GL_OR 0x1507
+#define GL_NOR 0x1508
+#define GL_EQUIV 0x1509
+#define GL_INVERT 0x150A
+#define GL_OR_REVERSE 0x150B
+#define GL_COPY_INVERTED 0x150C
+#define GL_OR_INVERTED 0x150D
+#define GL_NAND 0x150E
+#define GL_SET 0x150F
+
+// == Stencil operations
+#define GL_KEEP 0x1E00
+#define GL_INCR 0x1E02
+#define GL_DECR 0x1E03
+#define GL_INCR_WRAP 0x8507
+#define GL_DECR_WRAP 0x8508
+
+// == Internal formats
+#define GL_ALPHA8 0x803C
+#define GL_ALPHA16 0x803E
+#define GL_LUMINANCE8 0x8040
+#define GL_LUMINANCE16 0x8042
+#define GL_LUMINANCE8_ALPHA8 0x8045
+#define GL_LUMINANCE16_ALPHA16 0x8048
+#define GL_INTENSITY8 0x804B
+#define GL_INTENSITY16 0x804D
+#define GL_RGB4 0x804F
+#define GL_RGB5 0x8050
+#define GL_RGB8 0x8051
+#define GL_RGB16 0x8054
+#define GL_RGBA4 0x8056
+#define GL_RGB5_A1 0x8057
+#define GL_RGBA8 0x8058
+#define GL_RGB10_A2 0x8059
+#define GL_RGBA16 0x805B
+#define GL_RGBA16F 0x881A
+#define GL_RGB16F 0x881B
+#define GL_RGBA32F 0x8814
+#define GL_RGB32F 0x8815
+#define GL_SRGB 0x8C40
+#define GL_SRGB8 0x8C41
+#define GL_SRGB_ALPHA 0x8C42
+#define GL_SRGB8_ALPHA8 0x8C43
+#define GL_DEPTH_COMPONENT16 0x81A5
+#define GL_DEPTH_COMPONENT24 0x81A6
+#define GL_DEPTH_COMPONENT32 0x81A7
+#define GL_DEPTH24_STENCIL8 0x88F0
+#define GL_COMPRESSED_RGB 0x84ED
+#define GL_COMPRESSED_RGBA 0x84EE
+
+// == Switches
+#define GL_POINT_SMOOTH 0x0B10
+#define GL_LINE_SMOOTH 0x0B20
+#define GL_LINE_STIPPLE 0x0B24
+#define GL_POLYGON_SMOOTH 0x0B41
+#define GL_CULL_FACE 0x0B44
+#define GL_LIGHTING 0x0B50
+#define GL_COLOR_MATERIAL 0x0B57
+#define GL_FOG 0x0B60
+#define GL_DEPTH_TEST 0x0B71
+#define GL_STENCIL_TEST 0x0B90
+#define GL_NORMALIZE 0x0BA1
+#define GL_ALPHA_TEST 0x0BC0
+#define GL_DITHER 0x0BD0
+#define GL_SCISSOR_TEST 0x0C11
+#define GL_POLYGON_OFFSET_POINT 0x2A01
+#define GL_POLYGON_OFFSET_LINE 0x2A02
+#define GL_POLYGON_OFFSET_FILL 0x8037
+#define GL_MULTISAMPLE 0x809D
+#define GL_CLIP_PLANE0 0x3000
+#define GL_LIGHT0 0x4000
 
 /// A setting of a chunk that is not used.
 #define OSG_GL_UNUSED 0xffff

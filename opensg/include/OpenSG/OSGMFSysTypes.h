@@ -6,6 +6,7 @@
 
 namespace osg {
 
+typedef MField<bool> MFBool;
 typedef MField<Int8> MFInt8;
 typedef MField<UInt8> MFUInt8;
 typedef MField<Int16> MFInt16;

@@ -10,6 +10,7 @@ namespace osg {
 
 template <class ValueT>
 class QuaternionBase;
+using Quaternion = QuaternionBase<Real32>;
 
 /// Transformation of space; identity unless given.
 /// `m[i]` is column i, `m[i][j]` the row j of it: the translation is `m[3]`.

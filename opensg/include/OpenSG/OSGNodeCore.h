@@ -29,7 +29,13 @@ public:
 
     const MFNodePtr& getParents() const { return mfParents; }
 
+    NodePtr& getParents(UInt32 index) { return mfParents[index]; }
+
+    const NodePtr& getParents(UInt32 index) const { return mfParents[index]; }
+
     MFNodePtr* getMFParents() { return &mfParents; }
+
+    const MFNodePtr* getMFParents() const { return &mfParents; }
 
     /// Puts the core's own matrix, if it has one, behind the matrix so far: matrix = matrix * own.
     void accumulateMatrix(Matrix& matrix) const;

@@ -178,6 +178,15 @@ public:
         return result;
     }
 
+    constexpr PointInterface operator-() const
+    {
+        PointInterface result;
+        for (UInt32 i = 0; i < SizeI; ++i) {
+            result[i] = static_cast<ValueT>(-values[i]);
+        }
+        return result;
+    }
+
     constexpr PointInterface operator*(ValueT factor) const
     {
         PointInterface result(*this);

@@ -15,8 +15,8 @@ OSG_CONTAINER_POINTER(ShaderParameter, AttachmentPtr);
     VALUE(Name, name, std::string, std::string())
 
 /// A uniform variable of a shader: a name here, a value of one type in the derived classes.
-/// Left out of OpenSG's class: locations in a program, parameters of several values (the M
-/// classes), flags.
+/// The classes with an M before the type hold arrays.
+/// Left out of OpenSG's class: locations in a program, flags.
 class ShaderParameter : public Attachment
 {
     OSG_ABSTRACT_CONTAINER(ShaderParameter, Attachment, OSG_SHADER_PARAMETER_FIELDS);

@@ -17,7 +17,6 @@ OSG_CONTAINER_POINTER(ShaderParameterChunk, StateChunkPtr);
 
 /// The uniform variables of a shader, in the order in which they were first set. Names are 0-ended
 /// text, at least one character. Setting and removing opens the edits that it needs.
-/// Left out of OpenSG's class: variables with several values.
 class ShaderParameterChunk : public StateChunk
 {
     OSG_TYPE_ACCESS_(ShaderParameterChunk, StateChunk);
@@ -41,6 +40,10 @@ public:
 
     const MFShaderParameterPtr& getParameters() const { return mfParameters; }
 
+    ShaderParameterPtr& getParameters(UInt32 index) { return mfParameters[index]; }
+
+    const ShaderParameterPtr& getParameters(UInt32 index) const { return mfParameters[index]; }
+
     /// Sets a variable, or appends it. A variable that is there keeps its place.
     /// @return false, with nothing changed, if it is there with another type or the name is empty
     bool setUniformParameter(const Char8* name, bool value);
@@ -51,6 +54,10 @@ public:
     bool setUniformParameter(const Char8* name, const Vec4f& value);
     bool setUniformParameter(const Char8* name, const Matrix& value);
 
+    /// Sets an array, whose values are of one of the types above.
+    template <class Value>
+    bool setUniformParameter(const Char8* name, const MField<Value>& values);
+
     /// Reads a variable. @return false, with the value untouched, if there is none of name and type
     bool getUniformParameter(const Char8* name, bool& value) const;
     bool getUniformParameter(const Char8* name, Int32& value) const;
@@ -59,6 +66,9 @@ public:
     bool getUniformParameter(const Char8* name, Vec3f& value) const;
     bool getUniformParameter(const Char8* name, Vec4f& value) const;
     bool getUniformParameter(const Char8* name, Matrix& value) const;
+
+    template <class Value>
+    bool getUniformParameter(const Char8* name, MField<Value>& values) const;
 
     /// Removes a variable. @return false if there is none of the name
     bool subUniformParameter(const Char8* name);

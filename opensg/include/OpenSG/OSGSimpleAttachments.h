@@ -9,6 +9,7 @@
 
 namespace osg {
 
+class NodePtr;
 OSG_CONTAINER_POINTER(Name, AttachmentPtr);
 
 #define OSG_NAME_FIELDS(VALUE, OWNED, LINK) VALUE(Field, field, std::string, "")

@@ -9,7 +9,7 @@ namespace osg {
 class Line;
 
 /// Region of space that encloses something, with what is known about it.
-/// The bundled scene graph knows boxes; left out are spheres, frusta, and points on the surface.
+/// There are boxes and frusta; left out are spheres, cylinders, and points on the surface.
 class Volume
 {
 public:

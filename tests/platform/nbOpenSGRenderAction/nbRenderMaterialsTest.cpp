@@ -13,6 +13,29 @@ using namespace rendertest;
 
 using nbRenderMaterialsTest = RenderTest;
 
+namespace {
+
+/// A shader chunk whose fragments have the colour that an expression over uniforms gives.
+osg::SHLChunkPtr programOf(const std::string& uniforms, const std::string& color)
+{
+    const osg::SHLChunkPtr chunk = osg::SHLChunk::create();
+    const nbEdit edit(chunk, osg::FieldBits::AllFields);
+    chunk->setVertexProgram(shaderHeaderString(nbShaderStage::Vertex, true, false, false) +
+                            "uniform mat4 viewProjectionMatrix;\n"
+                            "void main() { gl_Position = viewProjectionMatrix * "
+                            "nbClipFromObject * vec4(nbPosition, 1.0); }\n");
+    chunk->setFragmentProgram(shaderHeaderString(nbShaderStage::Fragment, true, false, false) +
+                              uniforms +
+                              "layout (location = 0) out vec4 colorBufferRGBA;\n"
+                              "layout (location = 1) out vec4 effectBufferRGBA;\n"
+                              "void main() { colorBufferRGBA = " +
+                              color + "; effectBufferRGBA = vec4(0.0); }\n");
+    chunk->setUniformParameter("viewProjectionMatrix", osg::Matrix::identity());
+    return chunk;
+}
+
+}  // namespace
+
 TEST_F(nbRenderMaterialsTest, LitSurfaceIsBrightestTowardsTheLightAndVisibleFromBehind)
 {
     const QImage picture = draw(group({ osg::makeSphere(4, 1.5f) }));
@@ -86,21 +109,8 @@ TEST_F(nbRenderMaterialsTest, TextureEnvironmentsMixAsTheirNamesSay)
 
 TEST_F(nbRenderMaterialsTest, ShaderChunkDrawsWithItsParameters)
 {
-    const osg::SHLChunkPtr chunk = osg::SHLChunk::create();
-    {
-        const nbEdit edit(chunk, osg::FieldBits::AllFields);
-        chunk->setVertexProgram(shaderHeaderString(nbShaderStage::Vertex, true, false, false) +
-                                "uniform mat4 viewProjectionMatrix;\n"
-                                "void main() { gl_Position = viewProjectionMatrix * "
-                                "nbClipFromObject * vec4(nbPosition, 1.0); }\n");
-        chunk->setFragmentProgram(
-            shaderHeaderString(nbShaderStage::Fragment, true, false, false) +
-            "uniform vec4 color;\nlayout (location = 0) out vec4 colorBufferRGBA;\n"
-            "layout (location = 1) out vec4 effectBufferRGBA;\n"
-            "void main() { colorBufferRGBA = color; effectBufferRGBA = vec4(0.0); }\n");
-        chunk->setUniformParameter("color", osg::Vec4f(0.f, 0.f, 1.f, 1.f));
-        chunk->setUniformParameter("viewProjectionMatrix", osg::Matrix::identity());
-    }
+    const osg::SHLChunkPtr chunk = programOf("uniform vec4 color;\n", "color");
+    chunk->setUniformParameter("color", osg::Vec4f(0.f, 0.f, 1.f, 1.f));
     const osg::ChunkMaterialPtr material = with(osg::ChunkMaterial::create(), chunk);
     const osg::NodePtr line =
         placed(colored(nbGeoFactory::makeLine(1.f),
@@ -112,6 +122,31 @@ TEST_F(nbRenderMaterialsTest, ShaderChunkDrawsWithItsParameters)
     EXPECT_EQ(at(picture, 0.f, 0.f), kBlue);
     EXPECT_EQ(at(picture, 1.53f, 0.f), kBlue) << "lines are widened for a user's program, too";
     EXPECT_EQ(at(view->readEffect(), 0.f, 0.f).alpha(), 0);
+}
+
+TEST_F(nbRenderMaterialsTest, ParametersThatAreArraysReachTheProgramWhole)
+{
+    const osg::SHLChunkPtr chunk =
+        programOf("uniform bool flags[2]; uniform int picks[2]; uniform float weights[2];\n"
+                  "uniform vec2 places[2]; uniform vec3 axes[2]; uniform vec4 colors[3];\n"
+                  "uniform mat4 turns[2];\n",
+                  "flags[1] ? turns[1] * vec4(weights[1], places[1].y, axes[1].z, "
+                  "colors[picks[1]].w) : vec4(1.0)");
+    osg::MFMatrix turns(2);
+    turns[0].setScale(0.f);
+    chunk->setUniformParameter("flags", osg::MFBool { false, true });
+    chunk->setUniformParameter("picks", osg::MFInt32 { 0, 2 });
+    chunk->setUniformParameter("weights", osg::MFReal32 { 1.f, 0.f });
+    chunk->setUniformParameter("places", osg::MFVec2f { osg::Vec2f(1.f, 1.f), osg::Vec2f() });
+    chunk->setUniformParameter("axes", osg::MFVec3f { osg::Vec3f(), osg::Vec3f(0.f, 0.f, 1.f) });
+    chunk->setUniformParameter(
+        "colors", osg::MFVec4f { osg::Vec4f(), osg::Vec4f(), osg::Vec4f(0.f, 0.f, 0.f, 1.f) });
+    chunk->setUniformParameter("turns", turns);
+
+    const QImage picture =
+        draw(group({ manipulator({ square(1.f, with(osg::ChunkMaterial::create(), chunk)) }) }));
+
+    EXPECT_EQ(at(picture, 0.f, 0.f), kBlue);
 }
 
 TEST_F(nbRenderMaterialsTest, BrokenShaderCostsOneLineAndIsDrawnInPlainColor)
