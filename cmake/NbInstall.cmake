@@ -46,6 +46,18 @@ configure_file(\"${CMAKE_CURRENT_LIST_DIR}/nbManipulator.pc.in\"
     \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}/pkgconfig/nbManipulator.pc\" @ONLY)"
     COMPONENT development)
 
+# == Manual and licence
+set(NBM_DOCUMENTS ${CMAKE_INSTALL_DATAROOTDIR}/doc)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/ DESTINATION ${NBM_DOCUMENTS}/libnbmanipulator-dev/docs COMPONENT development
+        FILES_MATCHING PATTERN "*.md" PATTERN "*.png")
+install(FILES ${PROJECT_SOURCE_DIR}/ARCHITECTURE.md ${PROJECT_SOURCE_DIR}/CHANGELOG.md
+        DESTINATION ${NBM_DOCUMENTS}/libnbmanipulator-dev COMPONENT development)
+# Debian packages have their licence under this name.
+install(FILES ${PROJECT_SOURCE_DIR}/LICENSE RENAME copyright
+        DESTINATION ${NBM_DOCUMENTS}/libnbmanipulator COMPONENT runtime)
+install(FILES ${PROJECT_SOURCE_DIR}/LICENSE RENAME copyright
+        DESTINATION ${NBM_DOCUMENTS}/libnbmanipulator-dev COMPONENT development)
+
 # == Viewer with its sessions and their models
 if(NBMANIPULATOR_VIEWER)
     file(RELATIVE_PATH NBM_LIBRARIES_FROM_PROGRAM /${CMAKE_INSTALL_BINDIR} /${CMAKE_INSTALL_LIBDIR})
@@ -53,6 +65,14 @@ if(NBMANIPULATOR_VIEWER)
     install(TARGETS nbviewer RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT viewer)
     install(DIRECTORY ${PROJECT_SOURCE_DIR}/viewer/models ${PROJECT_SOURCE_DIR}/viewer/sessions
             DESTINATION ${CMAKE_INSTALL_DATADIR}/nbviewer COMPONENT viewer PATTERN "*.py" EXCLUDE)
+    # What desktops know it by, and by which files it is started.
+    set(NBM_DESKTOP ${PROJECT_SOURCE_DIR}/viewer/desktop)
+    install(FILES ${NBM_DESKTOP}/nbviewer.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT viewer)
+    install(FILES ${NBM_DESKTOP}/nbviewer.svg
+            DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps COMPONENT viewer)
+    install(FILES ${NBM_DESKTOP}/nbviewer.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages COMPONENT viewer)
+    install(FILES ${PROJECT_SOURCE_DIR}/LICENSE RENAME copyright
+            DESTINATION ${NBM_DOCUMENTS}/nbviewer COMPONENT viewer)
 endif()
 
 # == Packages: cpack in the build folder, or ./nb package

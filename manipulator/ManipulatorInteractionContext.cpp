@@ -86,6 +86,7 @@ bool ManipulatorInteractionContext::triggerEvent(InteractionManager* manager,
         return dispatchToManipulator(manager, event);
     }
     // The manipulator receives copies: what it does in return may end the event.
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
     const std::string hint = event.getHint();
     if (tool == toolName && hint == "selectThrough") {
         if (name == "start") {
@@ -111,6 +112,7 @@ bool ManipulatorInteractionContext::dispatchToManipulator(InteractionManager* ma
                                                           const InteractionEvent& event)
 {
     const std::string& name = event.getEvent();
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): as in triggerEvent()
     const std::string hint = event.getHint();
     if (name == "start") {
         return manipulator->startManipulator(this, hint);

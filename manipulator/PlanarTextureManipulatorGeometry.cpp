@@ -262,7 +262,7 @@ void PlanarTextureManipulator::hideManipulator()
     state->handles.showRoot(false);
 }
 
-void PlanarTextureManipulator::State::showElements()
+void PlanarTextureManipulator::State::showElements() const
 {
     const PlanarHandleRow* const grabbed = dragging ? planarHandleOf(activeMode) : nullptr;
     // Deliberate: a drag of the x arrow or the plane handle hides no group.

@@ -119,7 +119,7 @@ struct PlanarTextureManipulator::State
     // == Handles
 
     /// Shows those of the mode, while one is dragged only those of its group.
-    void showElements();
+    void showElements() const;
     void placeHandles();
     void endHover();
 

@@ -13,6 +13,7 @@
 #include <OpenSG/OSGBaseFunctions.h>
 
 #include <QApplication>
+#include <QIcon>
 #include <QSurfaceFormat>
 #include <QTimer>
 
@@ -124,6 +125,8 @@ int main(int argc, char** argv)
     QApplication application(qtArgc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("nbviewer"));
     QCoreApplication::setOrganizationName(QStringLiteral("nbviewer"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("nbviewer.desktop"));
+    QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/nbviewer.svg")));
     // Numbers have a point, whatever the language of the desktop.
     std::setlocale(LC_NUMERIC, "C");
     viewer::applyLanguage(languageFor(options));

@@ -75,6 +75,8 @@ HandleSet::Materials makeAxisMaterials(bool hasWideHighlight)
 HandleRow axisArrow(const char* name, int activeMode, int group, std::size_t axis)
 {
     constexpr std::array<Turn, 3> kTurns = { Turn::OntoX, Turn::None, Turn::OntoZ };
+    // Of a shaft that ends where the head stands, 1 from the centre.
+    constexpr float kShaftMiddle = 0.04375F;
     std::array<float, 3> place = { 0.0F, 0.0F, 0.0F };
     place[axis] = 1.0F;
     return { name,
@@ -89,7 +91,7 @@ HandleRow axisArrow(const char* name, int activeMode, int group, std::size_t axi
                    axis,
                    axis,
                    Holder::Euler,
-                   { 0.0F, 0.04375F, 0.0F },
+                   { 0.0F, kShaftMiddle, 0.0F },
                    Turn::None },
                  { HandleShape::ArrowHead,
                    axis,

@@ -60,6 +60,7 @@ template <class Rows>
 std::vector<osg::SimpleMaterialRefPtr> makeHandleMaterials(const Rows& rows)
 {
     std::vector<osg::SimpleMaterialRefPtr> materials;
+    materials.reserve(std::size(rows));
     for (const HandleMaterialRow& row : rows) {
         materials.push_back(makeHandleMaterial(row));
     }

@@ -11,7 +11,9 @@ AbstractInteractionContext::AbstractInteractionContext(const AbstractInteraction
 AbstractInteractionContext&
 AbstractInteractionContext::operator=(const AbstractInteractionContext& other)
 {
-    InteractionContext::operator=(other);
+    if (this != &other) {
+        InteractionContext::operator=(other);
+    }
     return *this;
 }
 

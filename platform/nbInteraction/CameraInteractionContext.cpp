@@ -53,9 +53,11 @@ CameraInteractionContext::CameraInteractionContext(const CameraInteractionContex
 
 CameraInteractionContext& CameraInteractionContext::operator=(const CameraInteractionContext& other)
 {
-    AbstractInteractionContext::operator=(other);
-    pointerPosition = other.pointerPosition;
-    picker = other.picker;
+    if (this != &other) {
+        AbstractInteractionContext::operator=(other);
+        pointerPosition = other.pointerPosition;
+        picker = other.picker;
+    }
     return *this;
 }
 

@@ -63,7 +63,7 @@ bool InteractionManager::addContext(InteractionContext* context)
 bool InteractionManager::removeContext(InteractionContext* context)
 {
     const auto found = findEntry(context);
-    if (found == entries.end()) {
+    if (context == nullptr || found == entries.end()) {
         return false;
     }
     const std::uint64_t serial = found->serial;

@@ -59,7 +59,8 @@ private:
 
 double triangleCount(const Job& job)
 {
-    return static_cast<double>(job.soup.triangles.size()) / 3.0;
+    const std::size_t count = job.soup.triangles.size() / 3;
+    return static_cast<double>(count);
 }
 
 void collectJobs(const osg::NodePtr& node, std::set<osg::UInt32>& known, std::vector<Job>& jobs)

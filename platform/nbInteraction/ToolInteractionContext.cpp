@@ -19,10 +19,12 @@ ToolInteractionContext::ToolInteractionContext(const ToolInteractionContext& oth
 
 ToolInteractionContext& ToolInteractionContext::operator=(const ToolInteractionContext& other)
 {
-    MultimodeInteractionContext::operator=(other);
-    picker = other.picker;
-    toolName = other.toolName;
-    pointerPosition = other.pointerPosition;
+    if (this != &other) {
+        MultimodeInteractionContext::operator=(other);
+        picker = other.picker;
+        toolName = other.toolName;
+        pointerPosition = other.pointerPosition;
+    }
     return *this;
 }
 

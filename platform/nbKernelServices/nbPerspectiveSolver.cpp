@@ -371,17 +371,23 @@ PerspectiveLines nbPerspectiveSolver::linesOf(const CameraPose& pose, double wid
                        0.5 * height - aim.focalLength * point[1] / point[2]);
     };
     PerspectiveLines lines;
-    for (int axis = 0; axis < kAxisCount; ++axis) {
+    auto* linesOfAxis = lines.begin();
+    for (int axis = 0; axis < kAxisCount; ++axis, linesOfAxis += 2) {
+        constexpr int kEdgesOfAxis = 4;
+        std::array<QLineF, kEdgesOfAxis> edges;
+        for (int i = 0; i < kEdgesOfAxis; ++i) {
+            const auto ends = boxEdge(axis, i);
+            edges[static_cast<std::size_t>(i)] = QLineF(project(ends[0]), project(ends[1]));
+        }
         double best = -1.0;
-        for (int pair = 0; pair < 16; ++pair) {
-            const auto first = boxEdge(axis, pair / 4);
-            const auto second = boxEdge(axis, pair % 4);
-            const QLineF firstLine(project(first[0]), project(first[1]));
-            const QLineF secondLine(project(second[0]), project(second[1]));
-            if (pair / 4 < pair % 4 && usefulness(firstLine, secondLine) > best) {
-                best = usefulness(firstLine, secondLine);
-                lines[2 * axis] = firstLine;
-                lines[2 * axis + 1] = secondLine;
+        for (std::size_t first = 0; first < edges.size(); ++first) {
+            for (std::size_t second = first + 1; second < edges.size(); ++second) {
+                const double use = usefulness(edges[first], edges[second]);
+                if (use > best) {
+                    best = use;
+                    linesOfAxis[0] = edges[first];
+                    linesOfAxis[1] = edges[second];
+                }
             }
         }
     }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <nbKernelServices/nbCameraTypes.h>
+#include <nbKernelServices/nbdPerspectiveMatch.h>
 #include <nbOpenSGUberCamera/nbCameraNavigation.h>
 #include <nbUtils/nbPlatformExport.h>
 
@@ -24,7 +25,7 @@ struct PerspectiveAim
 };
 
 /// Two lines for each of x, y and z, as in nbdPerspectiveMatch: reference sizes, y up.
-using PerspectiveLines = std::array<QLineF, 6>;
+using PerspectiveLines = std::array<QLineF, nbdPerspectiveMatch::kLineCount>;
 
 /// What is known of a picture whose camera is looked for.
 struct PerspectiveProblem

@@ -11,10 +11,13 @@ namespace nbec::notification {
 /// How and where the texts of one kind are shown; kept as data, painted by the view.
 struct NB_PLATFORM_API NotifierSettings
 {
+    static constexpr float kUsualBackShade = 0.05f;
+
     /// Height of the text relative to the view's usual text.
     float textSize = 1.f;
     osg::Color3f lineColor { 0.5f, 0.5f, 0.5f };  ///< frame around a text
-    osg::Color3f backColor { 0.05f, 0.05f, 0.05f };  ///< behind a text
+    osg::Color3f backColor { kUsualBackShade, kUsualBackShade,
+                             kUsualBackShade };  ///< behind a text
     osg::Color3f textColor { 1.f, 1.f, 1.f };
     /// Place of the first text's upper left corner within the area: logical pixels, x to the right,
     /// y downwards.

@@ -8,21 +8,24 @@
 
 namespace {
 
+/// An alpha or colour of 1.
+constexpr int kFull = 255;
+
 QRgb pixelOf(const osg::UInt8* p, osg::UInt32 format)
 {
     switch (format) {
     case osg::Image::OSG_A_PF:
-        return qRgba(255, 255, 255, p[0]);
+        return qRgba(kFull, kFull, kFull, p[0]);
     case osg::Image::OSG_I_PF:
         return qRgba(p[0], p[0], p[0], p[0]);
     case osg::Image::OSG_L_PF:
-        return qRgba(p[0], p[0], p[0], 255);
+        return qRgba(p[0], p[0], p[0], kFull);
     case osg::Image::OSG_LA_PF:
         return qRgba(p[0], p[0], p[0], p[1]);
     case osg::Image::OSG_RGB_PF:
-        return qRgba(p[0], p[1], p[2], 255);
+        return qRgba(p[0], p[1], p[2], kFull);
     case osg::Image::OSG_BGR_PF:
-        return qRgba(p[2], p[1], p[0], 255);
+        return qRgba(p[2], p[1], p[0], kFull);
     case osg::Image::OSG_RGBA_PF:
         return qRgba(p[0], p[1], p[2], p[3]);
     default:

@@ -50,7 +50,8 @@ struct SourcesHash
     std::size_t operator()(const Sources& sources) const
     {
         constexpr std::size_t kPrime = 1099511628211ULL;
-        std::size_t result = 14695981039346656037ULL;
+        constexpr std::size_t kOffsetBasis = 14695981039346656037ULL;
+        std::size_t result = kOffsetBasis;
         for (const osg::Int32 source : sources) {
             result = (result ^ static_cast<osg::UInt32>(source)) * kPrime;
         }

@@ -88,10 +88,11 @@ bool nbOffscreenView::open()
         error = "rendering without a window needs a running QGuiApplication";
         return false;
     }
+    constexpr int kDepthBits = 24;
     QSurfaceFormat format;
     format.setVersion(3, 3);
     format.setProfile(QSurfaceFormat::CoreProfile);
-    format.setDepthBufferSize(24);
+    format.setDepthBufferSize(kDepthBits);
     auto newContext = std::make_unique<QOpenGLContext>();
     newContext->setFormat(format);
     if (!newContext->create()) {

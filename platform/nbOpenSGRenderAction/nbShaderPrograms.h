@@ -68,7 +68,7 @@ private:
     static constexpr std::size_t kPictureKinds = 5;
     static constexpr std::size_t kMaterialPrograms = kPlainPrograms * kPictureKinds * kPictureKinds;
 
-    GlProgram standard[2];
+    std::array<GlProgram, 2> standard;
     std::array<std::unique_ptr<GlProgram>, kMaterialPrograms> material;  ///< null until wanted
     std::unordered_map<osg::UInt32, Entry> entries;
 };

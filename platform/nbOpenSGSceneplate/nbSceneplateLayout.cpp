@@ -51,7 +51,9 @@ Point anchorPoint(osg::Int32 anchor, int widthPx, int heightPx)
     const bool isKnown =
         anchor >= osg::Sceneplate::BottomLeft && anchor <= osg::Sceneplate::TopRight;
     const int place = isKnown ? anchor : osg::Sceneplate::Centre;
-    return { 0.5 * (place % 3) * widthPx, (1.0 - 0.5 * (place / 3)) * heightPx };
+    const int column = place % 3;
+    const int row = place / 3;
+    return { 0.5 * column * widthPx, (1.0 - 0.5 * row) * heightPx };
 }
 
 bool hasArea(const osg::SceneplatePtr& plate, int widthPx, int heightPx)

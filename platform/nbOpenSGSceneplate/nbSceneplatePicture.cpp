@@ -56,7 +56,7 @@ osg::Real32 nbSceneplatePicture::alphaAt(const osg::SceneplatePtr& plate,
     const std::size_t pixel =
         static_cast<std::size_t>(y) * static_cast<std::size_t>(image->getWidth()) +
         static_cast<std::size_t>(x);
-    return image->getData()[pixel * static_cast<std::size_t>(image->getBpp()) +
-                            static_cast<std::size_t>(component)] /
-        kOpaque;
+    const osg::UInt8 alpha = image->getData()[pixel * static_cast<std::size_t>(image->getBpp()) +
+                                              static_cast<std::size_t>(component)];
+    return static_cast<float>(alpha) / kOpaque;
 }

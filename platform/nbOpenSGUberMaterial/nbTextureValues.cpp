@@ -11,9 +11,12 @@ namespace {
 
 // The scene graph's own comparison of vectors has a tolerance.
 
-std::array<float, 15> triplanarOf(const nbTextureValues& v)
+/// Five vectors.
+constexpr std::size_t kTriplanarNumbers = 15;
+
+std::array<float, kTriplanarNumbers> triplanarOf(const nbTextureValues& v)
 {
-    std::array<float, 15> numbers {};
+    std::array<float, kTriplanarNumbers> numbers {};
     auto* next = numbers.begin();
     for (const osg::Vec3f* vector :
          { &v.triplanarRotation, &v.triplanarOffsetU, &v.triplanarOffsetV, &v.triplanarRepeatU,
@@ -23,19 +26,19 @@ std::array<float, 15> triplanarOf(const nbTextureValues& v)
     return numbers;
 }
 
-std::array<float, 11> othersOf(const nbTextureValues& v)
+auto othersOf(const nbTextureValues& v)
 {
-    return { v.offset.x(), v.offset.y(),      v.repeat.x(),     v.repeat.y(),
-             v.rotate,     v.tireCenter.x(),  v.tireCenter.y(), v.tireCenter.z(),
-             v.tireScaleU, v.tireScaleHeight, v.tireScaleRadius };
+    return std::array { v.offset.x(), v.offset.y(),      v.repeat.x(),     v.repeat.y(),
+                        v.rotate,     v.tireCenter.x(),  v.tireCenter.y(), v.tireCenter.z(),
+                        v.tireScaleU, v.tireScaleHeight, v.tireScaleRadius };
 }
 
 /// What must not be zero.
-std::array<float, 11> sizesOf(const nbTextureValues& v)
+auto sizesOf(const nbTextureValues& v)
 {
     const osg::Vec3f& u = v.triplanarRepeatU;
     const osg::Vec3f& w = v.triplanarRepeatV;
-    return {
+    return std::array {
         v.repeat.x(),      v.repeat.y(),     u.x(), u.y(), u.z(), w.x(), w.y(), w.z(), v.tireScaleU,
         v.tireScaleHeight, v.tireScaleRadius
     };

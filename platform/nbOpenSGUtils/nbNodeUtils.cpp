@@ -91,7 +91,8 @@ void extendByCorners(osg::BoxVolume& bounds, const osg::BoxVolume& local,
     osg::Pnt3f low;
     osg::Pnt3f high;
     local.getBounds(low, high);
-    for (int corner = 0; corner < 8; ++corner) {
+    constexpr int kCorners = 8;
+    for (int corner = 0; corner < kCorners; ++corner) {
         osg::Pnt3f point((corner & 1) != 0 ? high.x() : low.x(),
                          (corner & 2) != 0 ? high.y() : low.y(),
                          (corner & 4) != 0 ? high.z() : low.z());

@@ -97,6 +97,7 @@ nbSceneplateStart::nbSceneplateStart(const std::vector<osg::NodePtr>& plates, in
     const int width = hasArea ? widthPx : kNominalSizePx;
     const int height = hasArea ? heightPx : kNominalSizePx;
     std::vector<osg::SceneplatePtr> cores;
+    cores.reserve(plates.size());
     for (const osg::NodePtr& node : plates) {
         cores.push_back(nbSceneplateList::plateOf(node));
     }

@@ -72,6 +72,7 @@ bool restackSide(const std::vector<osg::NodePtr>& nodes, int steps, bool isFront
         return false;
     }
     std::vector<osg::NodePtr> side;
+    side.reserve(entries.size());
     for (const Entry& entry : entries) {
         side.push_back(entry.node);
     }

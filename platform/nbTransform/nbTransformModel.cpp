@@ -151,6 +151,9 @@ osg::UInt32 editAll(const char* title, osg::UInt32 count, nbTransformModel::Valu
             continue;
         }
         const Transform3DPtr core = transformOf(node);
+        if (core == osg::NullFC) {
+            continue;
+        }
         nbTransformEntry* const entry = recorded != nullptr ? &recorded->note(core) : nullptr;
         if (edit(Subject { node, core, entry }, value.second, faults)) {
             ++edited;

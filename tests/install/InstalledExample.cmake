@@ -48,7 +48,37 @@ run(${COMPILER} ${flags} -fPIC ${cflags} ${CMAKE_CURRENT_LIST_DIR}/drag/drag_giz
     -Wl,-rpath,${libdir})
 run(${SCRATCH}/drag_gizmo)
 
-# == The viewer finds its libraries
+# == The manual leads nowhere that is not installed
+set(documents ${SCRATCH}/prefix/share/doc/libnbmanipulator-dev)
+file(GLOB pages ${documents}/*.md ${documents}/docs/*.md)
+list(LENGTH pages count)
+if(count LESS 10)
+    message(FATAL_ERROR "only ${count} pages of the manual are installed")
+endif()
+foreach(page ${pages})
+    get_filename_component(folder ${page} DIRECTORY)
+    file(READ ${page} text)
+    # Lists of CMake cannot hold brackets.
+    string(REPLACE "](" "\t" text "${text}")
+    string(REGEX MATCHALL "\t[^][)#:;]+\\.(md|png)" links "${text}")
+    foreach(link ${links})
+        string(SUBSTRING "${link}" 1 -1 target)
+        if(NOT EXISTS ${folder}/${target})
+            message(FATAL_ERROR "${page} refers to ${target}, which is not installed")
+        endif()
+    endforeach()
+endforeach()
+
+# == The viewer finds its libraries, and desktops find the viewer
 if(EXISTS ${SCRATCH}/prefix/bin/nbviewer)
     run(${SCRATCH}/prefix/bin/nbviewer --version)
+    file(STRINGS ${SCRATCH}/prefix/share/applications/nbviewer.desktop entry REGEX "^(Exec|Icon|MimeType)=")
+    if(NOT "${entry}" MATCHES "Exec=nbviewer %F;Icon=nbviewer;MimeType=application/x-nbscene")
+        message(FATAL_ERROR "the desktop entry says \"${entry}\"")
+    endif()
+    foreach(file icons/hicolor/scalable/apps/nbviewer.svg mime/packages/nbviewer.xml)
+        if(NOT EXISTS ${SCRATCH}/prefix/share/${file})
+            message(FATAL_ERROR "${file} is not installed")
+        endif()
+    endforeach()
 endif()

@@ -170,7 +170,9 @@ TEST_F(PerspectiveMatchToolTest, APhotographIsTakenWhenItIsDroppedAndGoesWithThe
 {
     QTemporaryDir folder;
     const QString file = folder.filePath(QStringLiteral("street.png"));
-    QImage(30, 20, QImage::Format_RGB32).save(file);
+    QImage photograph(30, 20, QImage::Format_RGB32);
+    photograph.fill(Qt::gray);
+    ASSERT_TRUE(photograph.save(file));
     EXPECT_FALSE(stage.takePicture(file, osg::Pnt2f(10.F, 10.F), error));
     ASSERT_TRUE(run("match.setActive", true));
 

@@ -73,7 +73,8 @@ void JsonWriter::value(const QJsonValue& any)
         endObject();
     } else if (any.isArray()) {
         beginArray(Layout::Inline);
-        for (const QJsonValue& entry : any.toArray()) {
+        const QJsonArray array = any.toArray();
+        for (const QJsonValue& entry : array) {
             value(entry);
         }
         endArray();

@@ -100,7 +100,7 @@ public:
 
     void activate() override;
     void deactivate() override;
-    void sceneCleared() override;
+    void sceneCleared() final;
     void update() override;
     void setPixelRatio(float ratio) override;
     osg::NodePtr handles() override;

@@ -218,7 +218,8 @@ bool select(PlatesTool& tool, const QJsonValue& value, QString& error)
         return refuse("select", QStringLiteral("expected an array of names"), error);
     }
     std::vector<osg::NodePtr> nodes;
-    for (const QJsonValue& name : value.toArray()) {
+    const QJsonArray names = value.toArray();
+    for (const QJsonValue& name : names) {
         nodes.push_back(PlatesTool::plateByName(name.toString().toStdString()));
         if (nodes.back() == osg::NullFC) {
             return refuse("select",

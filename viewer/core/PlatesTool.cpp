@@ -202,8 +202,10 @@ bool PlatesTool::findHandle(const std::string& handle, osg::Pnt2f& px)
     constexpr int kSteps = 24;
     for (int i = 0; i < kSteps * kSteps; ++i) {
         const int step = (i + kSteps * kSteps / 2 + kSteps / 2) % (kSteps * kSteps);
-        const float x = (static_cast<float>(step % kSteps) + 0.5F) / kSteps;
-        const float y = (static_cast<float>(step / kSteps) + 0.5F) / kSteps;
+        const int column = step % kSteps;
+        const int row = step / kSteps;
+        const float x = (static_cast<float>(column) + 0.5F) / kSteps;
+        const float y = (static_cast<float>(row) + 0.5F) / kSteps;
         const osg::Pnt2f candidate = corners[0] + sideX * x + sideY * y;
         if (platePicker.pickAt(candidate) == node) {
             px = candidate;

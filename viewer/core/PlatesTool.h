@@ -59,7 +59,7 @@ public:
 
     bool isActive() const { return active; }
 
-    void sceneCleared() override;
+    void sceneCleared() final;
     void update() override;
     void setPixelRatio(float ratio) override;
 

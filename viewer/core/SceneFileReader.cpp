@@ -92,7 +92,8 @@ public:
     bool bits(const char* key, osg::UInt32& mask)
     {
         const QJsonValue value = take(key);
-        for (const QJsonValue& entry : value.toArray()) {
+        const QJsonArray entries = value.toArray();
+        for (const QJsonValue& entry : entries) {
             int bit = 0;
             if (!readInt(entry, pathOf(key), kMaskBits - 1, bit) || bit < 0) {
                 return fail(pathOf(key), QStringLiteral("expected numbers from 0 to 31"));
@@ -106,7 +107,8 @@ public:
     bool names(const char* key, int& mask, const std::array<const char*, Count>& allowed)
     {
         const QJsonValue value = take(key);
-        for (const QJsonValue& entry : value.toArray()) {
+        const QJsonArray entries = value.toArray();
+        for (const QJsonValue& entry : entries) {
             const int bit = indexOf(entry, allowed);
             if (bit < 0) {
                 return failWords(pathOf(key), allowed);

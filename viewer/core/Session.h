@@ -48,13 +48,15 @@ struct SessionNodeExpectation
 /// What a checkpoint demands; an absent value demands nothing.
 struct SessionExpectation
 {
+    static constexpr double kUsualTolerance = 1e-4;
+
     std::optional<QString> hover;  ///< name of the handle under the pointer, "" for none
     std::optional<QString> selection;  ///< name of the selected node, "" for none
     std::optional<bool> orthographic;
     std::optional<int> undoSteps;  ///< how many steps can be taken back
     std::vector<SessionNodeExpectation> nodes;
     QJsonObject values;  ///< of Commands by their names
-    double tolerance = 1e-4;  ///< of each number in `values`
+    double tolerance = kUsualTolerance;  ///< of each number in `values`
 };
 
 /// One event of a session.

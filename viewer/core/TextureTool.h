@@ -117,7 +117,7 @@ public:
 
     void activate() override;
     void deactivate() override;
-    void sceneCleared() override;
+    void sceneCleared() final;
     void selectionChanged() override;
     void viewChanged() override;
     void update() override;

@@ -15,6 +15,7 @@ constexpr double kMarginPart = 0.03;
 constexpr double kPaddingPart = 0.022;
 constexpr int kLeastTitlePx = 15;
 constexpr int kLeastTextPx = 11;
+constexpr int kPaddingPerAccent = 5;
 
 const QColor kGround(16, 20, 26, 215);
 const QColor kAccent(0xe8, 0xb0, 0x4a);
@@ -55,9 +56,11 @@ void paintCaption(QPainter& painter, const QRect& area, const QString& title, co
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(kGround);
-    painter.drawRoundedRect(box, padding / 3.0, padding / 3.0);
+    const double radius = static_cast<double>(padding) / 3;
+    painter.drawRoundedRect(box, radius, radius);
     painter.setBrush(kAccent);
-    painter.drawRect(QRect(box.left(), box.top() + padding, qMax(2, padding / 5), height));
+    painter.drawRect(
+        QRect(box.left(), box.top() + padding, qMax(2, padding / kPaddingPerAccent), height));
     painter.setFont(titleFont);
     painter.setPen(kTitleColor);
     const QPoint corner = box.topLeft() + QPoint(padding, padding);

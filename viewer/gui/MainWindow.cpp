@@ -82,6 +82,12 @@ MainWindow::MainWindow(Attendance attendance)
             resize(kFirstSize.boundedTo(screen()->availableSize() * kMostOfScreen));
         }
     }
+    connectParts();
+    viewWidget->setFocus();
+}
+
+void MainWindow::connectParts()
+{
     connect(this, &MainWindow::problem, this,
             [this](const QString& text) { docks->log().append(nbLog::Level::Warning, text); });
     connect(viewWidget, &ViewWidget::stateChanged, this, &MainWindow::updateStatus);
@@ -119,7 +125,6 @@ MainWindow::MainWindow(Attendance attendance)
         actions->update();
         updateStatus();
     });
-    viewWidget->setFocus();
 }
 
 MainWindow::~MainWindow()

@@ -127,6 +127,7 @@ protected:
 private:
     /// Makes docks, menus, toolbars and the status line.
     void addSurroundings();
+    void connectParts();
     /// Makes them anew in the present language, arranged as they are.
     void renewSurroundings();
     void showRecording();

@@ -39,7 +39,8 @@ enum class Naming
     None  ///< one number
 };
 
-/// Numbers of a projection that a person can type.
+/// Numbers of a projection that a person can type, in the order in which rows name them.
+// NOLINTNEXTLINE(clang-analyzer-optin.performance.Padding)
 struct ValueRow
 {
     const char* projection;

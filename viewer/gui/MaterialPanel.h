@@ -31,7 +31,7 @@ public:
     MaterialPanel(Stage& targetStage, TextureTool& targetTool, QWidget* parent = nullptr);
     ~MaterialPanel() override;
 
-    void refresh() override;
+    void refresh() final;
 
     bool needsScrolling() const override { return false; }
 

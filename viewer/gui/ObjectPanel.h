@@ -21,7 +21,7 @@ class ObjectPanel : public Panel
 public:
     explicit ObjectPanel(Stage& stage, QWidget* parent = nullptr);
 
-    void refresh() override;
+    void refresh() final;
 
 private:
     /// One row of numbers and the command behind it.

@@ -19,7 +19,7 @@ bool Panel::run(const QString& command, const QJsonValue& value, Commands::Momen
 }
 
 void Panel::connectSlider(const QSlider& slider, const QString& command,
-                          std::function<QJsonValue(int)> valueOf)
+                          const std::function<QJsonValue(int)>& valueOf)
 {
     connect(&slider, &QSlider::valueChanged, this, [this, &slider, command, valueOf](int position) {
         run(command, valueOf(position),

@@ -49,7 +49,7 @@ protected:
     /// Lets a slider run a command with every value, of which only the last one of a drag is final.
     /// @param valueOf  what the command is to get for a position of the slider
     void connectSlider(const QSlider& slider, const QString& command,
-                       std::function<QJsonValue(int)> valueOf);
+                       const std::function<QJsonValue(int)>& valueOf);
 
 private:
     Stage& shownStage;

@@ -28,7 +28,7 @@ public:
     PerspectiveMatchPanel(Stage& targetStage, PerspectiveMatchTool& targetTool,
                           QWidget* parent = nullptr);
 
-    void refresh() override;
+    void refresh() final;
 
 private:
     static constexpr int kNumbersPerLine = 4;

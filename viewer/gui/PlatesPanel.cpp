@@ -33,6 +33,12 @@ namespace viewer {
 namespace {
 
 constexpr int kPercent = 100;
+constexpr int kPercentStep = 10;
+/// Steps of the boxes with numbers; places and sizes are in heights of the view.
+constexpr double kPlaceStep = 0.01;
+constexpr double kScaleStep = 0.1;
+constexpr double kTurnStepDeg = 5.0;
+constexpr int kLeastFontLetters = 8;
 constexpr int kNameRole = Qt::UserRole;
 
 struct AnchorText
@@ -153,7 +159,7 @@ QFormLayout* PlatesPanel::createProperties()
     opacity->setObjectName(QStringLiteral("plates.opacity"));
     opacity->setRange(0, kPercent);
     opacity->setSuffix(QStringLiteral(" %"));
-    opacity->setSingleStep(10);
+    opacity->setSingleStep(kPercentStep);
     opacity->setKeyboardTracking(false);
     connect(opacity, QOverload<int>::of(&QSpinBox::valueChanged), this, [this](int percent) {
         run(QStringLiteral("plates.opacity"), static_cast<double>(percent) / kPercent);
@@ -168,10 +174,10 @@ QFormLayout* PlatesPanel::createProperties()
     connect(anchor, QOverload<int>::of(&QComboBox::activated), this,
             [this] { run(QStringLiteral("plates.anchor"), anchor->currentData().toString()); });
     form->addRow(tr("Anchor"), anchor);
-    addNumbers(form, "plates.position", tr("Position"), { tr("X"), tr("Y") }, 0.01);
-    addNumbers(form, "plates.size", tr("Size"), { tr("Width"), tr("Height") }, 0.01);
-    addNumbers(form, "plates.scale", tr("Scale"), { tr("Scale") }, 0.1);
-    addNumbers(form, "plates.rotation", tr("Rotation, °"), { tr("Rotation") }, 5.0);
+    addNumbers(form, "plates.position", tr("Position"), { tr("X"), tr("Y") }, kPlaceStep);
+    addNumbers(form, "plates.size", tr("Size"), { tr("Width"), tr("Height") }, kPlaceStep);
+    addNumbers(form, "plates.scale", tr("Scale"), { tr("Scale") }, kScaleStep);
+    addNumbers(form, "plates.rotation", tr("Rotation, °"), { tr("Rotation") }, kTurnStepDeg);
     snapping = new QCheckBox(tr("Snap to edges and centre"), this);
     snapping->setObjectName(QStringLiteral("plates.snapping"));
     connect(snapping, &QCheckBox::toggled, this,
@@ -205,7 +211,7 @@ QWidget* PlatesPanel::createTextBox()
     layout->addWidget(textEdit);
     fontBox = new QFontComboBox(box);
     fontBox->setObjectName(QStringLiteral("plateFont"));
-    fontBox->setMinimumContentsLength(8);
+    fontBox->setMinimumContentsLength(kLeastFontLetters);
     fontBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     layout->addWidget(fontBox);
     auto* row = new QHBoxLayout;

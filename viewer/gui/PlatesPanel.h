@@ -34,7 +34,7 @@ public:
     /// @param targetStage, targetTool  outlive this
     PlatesPanel(Stage& targetStage, PlatesTool& targetTool, QWidget* parent = nullptr);
 
-    void refresh() override;
+    void refresh() final;
 
 private:
     /// Boxes for the numbers of one command.

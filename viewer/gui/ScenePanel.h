@@ -21,7 +21,7 @@ class ScenePanel : public Panel
 public:
     explicit ScenePanel(Stage& stage, QWidget* parent = nullptr);
 
-    void refresh() override;
+    void refresh() final;
 
     bool needsScrolling() const override { return false; }
 

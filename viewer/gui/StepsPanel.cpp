@@ -17,6 +17,11 @@ constexpr double kMostDegrees = 360.0;
 constexpr double kMostFactor = 100.0;
 constexpr double kLeastSize = 8.0;
 constexpr double kMostSize = 199.0;
+/// By which the arrows of the boxes change them.
+constexpr double kStepUnits = 0.1;
+constexpr double kStepDegrees = 5.0;
+constexpr double kStepFactor = 0.05;
+constexpr double kStepSize = 4.0;
 constexpr int kDecimals = 3;
 
 void display(QDoubleSpinBox* box, double value)
@@ -32,10 +37,12 @@ StepsPanel::StepsPanel(GizmoController& gizmoController, QWidget* parent)
     , gizmo(gizmoController)
 {
     auto* form = new QFormLayout(this);
-    translation = addBox(*form, "translationStep", tr("Step of translation"), 0.0, kMostUnits, 0.1);
-    rotation = addBox(*form, "rotationStep", tr("Step of rotation, °"), 0.0, kMostDegrees, 5.0);
-    scale = addBox(*form, "scaleStep", tr("Step of scale"), 0.0, kMostFactor, 0.05);
-    size = addBox(*form, "gizmoSize", tr("Size of the gizmo"), kLeastSize, kMostSize, 4.0);
+    translation =
+        addBox(*form, "translationStep", tr("Step of translation"), 0.0, kMostUnits, kStepUnits);
+    rotation =
+        addBox(*form, "rotationStep", tr("Step of rotation, °"), 0.0, kMostDegrees, kStepDegrees);
+    scale = addBox(*form, "scaleStep", tr("Step of scale"), 0.0, kMostFactor, kStepFactor);
+    size = addBox(*form, "gizmoSize", tr("Size of the gizmo"), kLeastSize, kMostSize, kStepSize);
     refresh();
 }
 

@@ -19,9 +19,12 @@ public:
     /// How the numbers are shown and stepped.
     struct Style
     {
-        double step = 0.1;
-        double least = -1e6;
-        double most = 1e6;
+        static constexpr double kUsualStep = 0.1;
+        static constexpr double kUsualBound = 1e6;
+
+        double step = kUsualStep;
+        double least = -kUsualBound;
+        double most = kUsualBound;
         int decimals = 3;
     };
 

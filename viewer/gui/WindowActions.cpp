@@ -277,6 +277,7 @@ void WindowActions::addLanguages(QMenu* menu)
         group->addAction(action);
         languageActions[language] = action;
     }
+    // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): the group belongs to its parent
 }
 
 void WindowActions::addManipulatorMenu()

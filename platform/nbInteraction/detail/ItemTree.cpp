@@ -66,7 +66,8 @@ PickBounds transformBounds(const PickBounds& local, const osg::Matrix& worldFrom
     if (local.isEmpty) {
         return result;
     }
-    for (unsigned corner = 0; corner < 8; ++corner) {
+    constexpr unsigned kCorners = 8;
+    for (unsigned corner = 0; corner < kCorners; ++corner) {
         const osg::Pnt3f p((corner & 1u) != 0 ? local.max[0] : local.min[0],
                            (corner & 2u) != 0 ? local.max[1] : local.min[1],
                            (corner & 4u) != 0 ? local.max[2] : local.min[2]);

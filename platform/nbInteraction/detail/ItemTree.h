@@ -8,8 +8,8 @@
 
 #include "PickTree.h"
 
-typedef struct RTCGeometryTy* RTCGeometry;
-typedef struct RTCSceneTy* RTCScene;
+using RTCGeometry = struct RTCGeometryTy*;
+using RTCScene = struct RTCSceneTy*;
 struct RTCBoundsFunctionArguments;
 struct RTCIntersectFunctionNArguments;
 

@@ -7,8 +7,8 @@
 #include "GeometrySoup.h"
 #include "PickView.h"
 
-typedef struct RTCGeometryTy* RTCGeometry;
-typedef struct RTCSceneTy* RTCScene;
+using RTCGeometry = struct RTCGeometryTy*;
+using RTCScene = struct RTCSceneTy*;
 
 namespace nbec::interaction::detail {
 

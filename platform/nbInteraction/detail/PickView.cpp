@@ -29,7 +29,8 @@ osg::Pnt3f toPoint(const std::array<double, 3>& p)
 
 bool hasSameBits(const osg::Matrix& a, const osg::Matrix& b)
 {
-    return std::memcmp(a.getValues(), b.getValues(), 16 * sizeof(float)) == 0;
+    constexpr std::size_t kNumbers = 16;
+    return std::memcmp(a.getValues(), b.getValues(), kNumbers * sizeof(float)) == 0;
 }
 
 bool PickView::isSame(const PickView& other) const
@@ -75,9 +76,10 @@ ScreenProjection::Projected ScreenProjection::project(const osg::Pnt3f& world) c
     const double y = world[1];
     const double z = world[2];
     Projected result {};
+    constexpr std::size_t kColumn = 4;
     for (std::size_t row = 0; row < 4; ++row) {
-        result.clip[row] = clipFromWorld[row] * x + clipFromWorld[4 + row] * y +
-            clipFromWorld[8 + row] * z + clipFromWorld[12 + row];
+        result.clip[row] = clipFromWorld[row] * x + clipFromWorld[kColumn + row] * y +
+            clipFromWorld[2 * kColumn + row] * z + clipFromWorld[3 * kColumn + row];
     }
     result.depth = depthRow[0] * x + depthRow[1] * y + depthRow[2] * z + depthRow[3];
     return result;

@@ -75,7 +75,8 @@ public:
     osg::Pnt3f pointAt(const ScreenPoint& position, double depth) const;
 
 private:
-    using Matrix4 = std::array<double, 16>;  ///< column after column
+    static constexpr std::size_t kMatrixSize = 16;
+    using Matrix4 = std::array<double, kMatrixSize>;  ///< column after column
 
     std::array<double, 3> unproject(const ScreenPoint& position, double clipZ) const;
     double depthOf(const std::array<double, 3>& world) const;

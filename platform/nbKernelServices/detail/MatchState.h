@@ -14,16 +14,17 @@ struct ViewShape
     static ViewShape of(const osg::UberCamera& camera);
 };
 
+/// As a new match has them: along the edges of a box with an upright edge in front, within any view
+/// that is not narrower than high.
+inline const PerspectiveLines kUsualPerspectiveLines {
+    QLineF(0.10, 0.70, 0.45, 0.80), QLineF(0.10, 0.30, 0.45, 0.20), QLineF(0.45, 0.80, 0.45, 0.20),
+    QLineF(0.90, 0.70, 0.89, 0.30), QLineF(0.45, 0.80, 0.90, 0.70), QLineF(0.45, 0.20, 0.90, 0.30),
+};
+
 /// What the perspective match of a camera holds.
 struct MatchState
 {
-    /// As a new match has them: along the edges of a box with an upright edge in front, within any
-    /// view that is not narrower than high.
-    PerspectiveLines lines {
-        QLineF(0.10, 0.70, 0.45, 0.80), QLineF(0.10, 0.30, 0.45, 0.20),
-        QLineF(0.45, 0.80, 0.45, 0.20), QLineF(0.90, 0.70, 0.89, 0.30),
-        QLineF(0.45, 0.80, 0.90, 0.70), QLineF(0.45, 0.20, 0.90, 0.30),
-    };
+    PerspectiveLines lines = kUsualPerspectiveLines;
     nbCameraTypes::VanishingLinesType type = nbCameraTypes::XYZLines;
     float magnifyFactor = nbdPerspectiveMatch::kDefaultMagnifyFactor;
     nbCameraTypes::FovMode fovMode = nbCameraTypes::SolvedFov;

@@ -104,10 +104,12 @@ Aim fit(const std::vector<Edge>& edges, const Aim& start, bool isFovFree)
     constexpr int kMostSteps = 60;
     constexpr double kSmallestStep = 1e-13;
     constexpr double kLargestFovStep = 1.0;
+    constexpr double kLeastDamping = 1e-9;
     constexpr double kMostDamping = 1e9;
+    constexpr double kDampingFactor = 10.0;
     Aim aim = start;
     double error = squaredError(edges, aim);
-    double damping = 1e-9;
+    double damping = kLeastDamping;
     for (int i = 0; i < kMostSteps && damping < kMostDamping; ++i) {
         Normal normal = Normal::Zero();
         Step gradient = Step::Zero();
@@ -133,9 +135,9 @@ Aim fit(const std::vector<Edge>& edges, const Aim& start, bool isFovFree)
         if (std::abs(step[3]) <= kLargestFovStep && nextError < error) {
             aim = next;
             error = nextError;
-            damping *= 0.1;
+            damping /= kDampingFactor;
         } else {
-            damping = 10.0 * damping + 1e-9;
+            damping = kDampingFactor * damping + kLeastDamping;
         }
     }
     return aim;

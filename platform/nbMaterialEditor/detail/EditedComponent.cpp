@@ -90,7 +90,7 @@ const EditedComponent::DragStart& EditedComponent::start()
         dragStart =
             DragStart { idOf(edited), idOf(core), undoCount,
                         core == osg::NullFC ? nbTransformState() : nbTransformState::of(*core),
-                        nbTextureValues::of(*edited) };
+                        edited == osg::NullFC ? nbTextureValues() : nbTextureValues::of(*edited) };
     }
     return *dragStart;
 }
@@ -128,7 +128,7 @@ bool EditedComponent::write(const osg::Transform3DPtr& core, const nbTransformSt
 bool EditedComponent::write(const nbTextureValues& values)
 {
     const osg::ColorComponentSettingsPtr edited = settings();
-    if (values == nbTextureValues::of(*edited)) {
+    if (edited == osg::NullFC || values == nbTextureValues::of(*edited)) {
         return false;
     }
     record();

@@ -160,7 +160,8 @@ nbTransformState fittedProjection(const osg::BoxVolume& bounds, float aspect)
         const osg::Pnt3f high = bounds.getMax();
         const osg::Vec3f size = high - low;
         const float largest = std::max({ size.x(), size.y(), size.z() });
-        half = largest > 0.f ? 0.25f * largest : 1.f;
+        constexpr float kPartOfLargest = 0.25f;
+        half = largest > 0.f ? kPartOfLargest * largest : 1.f;
         state.translation =
             osg::Vec3f(0.5f * (low.x() + high.x()), 0.5f * (low.y() + high.y()), high.z());
     }
