@@ -16,6 +16,8 @@ import sys
 import pages
 
 STRONG = set("TDBRG")
+# Of the compiler's runtime that counts what was reached (./nb coverage).
+FOREIGN = {"mangle_path"}
 
 
 def exported(library):
@@ -24,7 +26,7 @@ def exported(library):
     for kind, symbol in pages.symbols(library, "--defined-only"):
         scope, name = pages.scope_and_name(symbol)
         # Names that begin with an underscore are those of linkers and sanitizers.
-        if symbol.startswith("_") or (kind not in STRONG and not scope.startswith("nb")):
+        if symbol.startswith("_") or symbol in FOREIGN or (kind not in STRONG and not scope.startswith("nb")):
             continue
         names.add(outermost(scope or name))
     return names
