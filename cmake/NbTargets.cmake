@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 # What all targets of the project share: ccache, warnings.
 
+# Off where lines are counted: an object out of the cache may know the line numbers of an earlier text.
 find_program(NBMANIPULATOR_CCACHE ccache)
 if(NBMANIPULATOR_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     set(CMAKE_CXX_COMPILER_LAUNCHER ${NBMANIPULATOR_CCACHE})
