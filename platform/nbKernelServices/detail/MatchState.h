@@ -16,7 +16,7 @@ struct ViewShape
 
 /// As a new match has them: along the edges of a box with an upright edge in front, within any view
 /// that is not narrower than high.
-inline const PerspectiveLines kUsualPerspectiveLines {
+inline constexpr PerspectiveLines kUsualPerspectiveLines {
     QLineF(0.10, 0.70, 0.45, 0.80), QLineF(0.10, 0.30, 0.45, 0.20), QLineF(0.45, 0.80, 0.45, 0.20),
     QLineF(0.90, 0.70, 0.89, 0.30), QLineF(0.45, 0.80, 0.90, 0.70), QLineF(0.45, 0.20, 0.90, 0.30),
 };
