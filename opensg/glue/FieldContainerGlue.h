@@ -6,7 +6,7 @@
 ///     NB_CONTAINER_POINTER(Dial, TransformPtr);        // class Dial, DialPtr, DialRefPtr
 ///
 ///     #define DIAL_FIELDS(VALUE, OWNED, LINK)
-///         VALUE(Offset, offset, Vec3f, Vec3f(0.f, 0.f, 0.f))
+///         VALUE(Offset, offset, Vec3f, Vec3f(0.0F, 0.0F, 0.0F))
 ///         OWNED(Paint, paint, MaterialPtr)
 ///         LINK(Target, target, NodePtr)
 ///         // VALUE(name for ids and functions, name of the field, type, start value):

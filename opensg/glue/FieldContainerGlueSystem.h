@@ -5,7 +5,8 @@
 ///
 ///     NB_CONTAINER_POINTER(Dial, TransformPtr);        // class Dial, DialPtr, DialRefPtr
 ///
-///     #define DIAL_FIELDS(VALUE, OWNED, LINK) VALUE(Offset, offset, Vec3f, Vec3f(0.f, 0.f, 0.f))
+///     #define DIAL_FIELDS(VALUE, OWNED, LINK) VALUE(Offset, offset, Vec3f, Vec3f(0.0F, 0.0F,
+///     0.0F))
 ///     ...
 ///         // VALUE(name for ids and functions, name of the field, type, start value):
 ///         //     getOffset (a reference), setOffset, getSFOffset, OffsetFieldId, OffsetFieldMask

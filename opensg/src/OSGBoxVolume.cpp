@@ -12,13 +12,13 @@ void BoxVolume::getBounds(Pnt3f& minimum, Pnt3f& maximum) const
 
 void BoxVolume::getCenter(Pnt3f& center) const
 {
-    center = low + (high - low) * 0.5f;
+    center = low + (high - low) * 0.5F;
 }
 
 Real32 BoxVolume::getScalarVolume() const
 {
     const Vec3f size = high - low;
-    return isEmpty() ? 0.f : size[0] * size[1] * size[2];
+    return isEmpty() ? 0.0F : size[0] * size[1] * size[2];
 }
 
 void BoxVolume::setBounds(const Pnt3f& minimum, const Pnt3f& maximum)
@@ -83,8 +83,8 @@ bool BoxVolume::intersect(const Pnt3f& point) const
 
 bool BoxVolume::intersect(const Line& line) const
 {
-    Real32 enter = 0.f;
-    Real32 exit = 0.f;
+    Real32 enter = 0.0F;
+    Real32 exit = 0.0F;
     return intersect(line, enter, exit);
 }
 

@@ -16,17 +16,17 @@ MaterialPtr keep(const SimpleMaterialPtr& material)
 SimpleMaterialPtr makeLit()
 {
     const SimpleMaterialPtr material = SimpleMaterial::create();
-    material->setDiffuse(Color3f(0.7f, 0.7f, 0.5f));
-    material->setAmbient(Color3f(0.1f, 0.1f, 0.1f));
-    material->setSpecular(Color3f(1.f, 1.f, 1.f));
-    material->setShininess(20.f);
+    material->setDiffuse(Color3f(0.7F, 0.7F, 0.5F));
+    material->setAmbient(Color3f(0.1F, 0.1F, 0.1F));
+    material->setSpecular(Color3f(1.0F, 1.0F, 1.0F));
+    material->setShininess(20.0F);
     return material;
 }
 
 SimpleMaterialPtr makeUnlit()
 {
     const SimpleMaterialPtr material = SimpleMaterial::create();
-    material->setDiffuse(Color3f(1.f, 1.f, 0.5f));
+    material->setDiffuse(Color3f(1.0F, 1.0F, 0.5F));
     material->setLit(false);
     return material;
 }

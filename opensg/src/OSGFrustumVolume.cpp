@@ -16,8 +16,8 @@ Plane planeOf(const Vec4f& row)
     const Vec3f normal(row);
     const Real32 length = normal.length();
     Plane result;
-    if (length > 0.f) {
-        result.set(normal * (1.f / length), -row[3] / length);
+    if (length > 0.0F) {
+        result.set(normal * (1.0F / length), -row[3] / length);
     }
     return result;
 }
@@ -54,13 +54,13 @@ bool FrustumVolume::meet(Side a, Side b, Side c, Pnt3f& point) const
     const Vec3f& nb = planes[b].getNormal();
     const Vec3f& nc = planes[c].getNormal();
     const Real32 det = na.dot(nb.cross(nc));
-    if (det == 0.f) {
+    if (det == 0.0F) {
         return false;
     }
     const Vec3f sum = nb.cross(nc) * planes[a].getDistanceFromOrigin() +
         nc.cross(na) * planes[b].getDistanceFromOrigin() +
         na.cross(nb) * planes[c].getDistanceFromOrigin();
-    point = (sum * (1.f / det)).addToZero();
+    point = (sum * (1.0F / det)).addToZero();
     return true;
 }
 
@@ -82,18 +82,18 @@ void FrustumVolume::getCenter(Pnt3f& center) const
     for (const Pnt3f& corner : corners) {
         sum += corner.subZero();
     }
-    center = (sum * 0.125f).addToZero();
+    center = (sum * 0.125F).addToZero();
 }
 
 Real32 FrustumVolume::getScalarVolume() const
 {
     if (isEmpty()) {
-        return 0.f;
+        return 0.0F;
     }
     // A pyramid from the centre to each side, each of two tetrahedra.
     Pnt3f center;
     getCenter(center);
-    Real32 sum = 0.f;
+    Real32 sum = 0.0F;
     for (const auto& face : kFaces) {
         const Vec3f first = corners[face[0]] - center;
         const Vec3f middle = corners[face[2]] - center;
@@ -101,7 +101,7 @@ Real32 FrustumVolume::getScalarVolume() const
             sum += osgabs(first.dot(middle.cross(corners[other] - center)));
         }
     }
-    return sum / 6.f;
+    return sum / 6.0F;
 }
 
 void FrustumVolume::getBounds(Pnt3f& minimum, Pnt3f& maximum) const
@@ -131,23 +131,23 @@ bool FrustumVolume::intersect(const Pnt3f& point) const
 
 bool FrustumVolume::intersect(const Line& line) const
 {
-    Real32 enter = 0.f;
-    Real32 exit = 0.f;
+    Real32 enter = 0.0F;
+    Real32 exit = 0.0F;
     return intersect(line, enter, exit);
 }
 
 bool FrustumVolume::intersect(const Line& line, Real32& enter, Real32& exit) const
 {
-    Real32 from = 0.f;
+    Real32 from = 0.0F;
     Real32 to = Inf;
     for (const Plane& plane : planes) {
         const Real32 approach = plane.getNormal().dot(line.getDirection());
         const Real32 height = plane.distance(line.getPosition());
-        if (approach > 0.f) {
+        if (approach > 0.0F) {
             from = osgMax(from, -height / approach);
-        } else if (approach < 0.f) {
+        } else if (approach < 0.0F) {
             to = osgMin(to, -height / approach);
-        } else if (height < 0.f) {
+        } else if (height < 0.0F) {
             return false;
         }
     }
@@ -173,7 +173,7 @@ bool FrustumVolume::intersect(const Volume& other) const
     for (const Plane& plane : planes) {
         Pnt3f foremost(low);
         for (UInt32 i = 0; i < 3; ++i) {
-            foremost[i] = plane.getNormal()[i] > 0.f ? high[i] : low[i];
+            foremost[i] = plane.getNormal()[i] > 0.0F ? high[i] : low[i];
         }
         if (!plane.isInHalfSpace(foremost)) {
             return false;
@@ -197,8 +197,8 @@ void FrustumVolume::transform(const Matrix& matrix)
         const Vec3f diagonal = corners[face[2]] - corners[face[0]];
         Vec3f normal = diagonal.cross(corners[face[3]] - corners[face[1]]);
         const Real32 length = normal.length();
-        setEmpty(isEmpty() || !(length > 0.f));
-        normal *= length > 0.f ? 1.f / length : 0.f;
+        setEmpty(isEmpty() || !(length > 0.0F));
+        normal *= length > 0.0F ? 1.0F / length : 0.0F;
         planes[side].set(normal, normal.dot(corners[face[0]]));
         if (!planes[side].isInHalfSpace(center)) {
             planes[side].set(-normal, -normal.dot(corners[face[0]]));

@@ -28,7 +28,7 @@ void scaleToUnit(Vec3f& normal)
 {
     // Not normalize(): small faces have products below its threshold.
     const Real32 length = normal.length();
-    normal = length > 0.f ? normal * (1.f / length) : Vec3f(0.f, 0.f, 1.f);
+    normal = length > 0.0F ? normal * (1.0F / length) : Vec3f(0.0F, 0.0F, 1.0F);
 }
 
 /// All triangles whose positions exist.
@@ -226,7 +226,7 @@ void calcVertexNormals(GeometryPtr geometry, Real32 creaseAngle)
         units.push_back(triangle.normal);
         scaleToUnit(units.back());
     }
-    const Real32 leastCosine = osgcos(osgClamp(0.f, creaseAngle, Pi));
+    const Real32 leastCosine = osgcos(osgClamp(0.0F, creaseAngle, Pi));
     const GeoNormals3fPtr normals = GeoNormals3f::create();
     std::vector<UInt32> cornerNormals;
     cornerNormals.reserve(3 * triangles.size());

@@ -13,7 +13,7 @@ namespace osg {
 namespace {
 
 /// Rounding of volumes that went through several matrices, relative to the distance.
-constexpr Real32 kVolumeSlack = 1e-5f;
+constexpr Real32 kVolumeSlack = 1e-5F;
 
 /// Whether the ray passes a volume within reach.
 bool reaches(const detail::Ray& ray, const DynamicVolume& volume, Real32 reach)
@@ -23,8 +23,8 @@ bool reaches(const detail::Ray& ray, const DynamicVolume& volume, Real32 reach)
         return true;
     }
     const Vec3f slack = (volume.getMax() - volume.getMin()) * kVolumeSlack;
-    Real32 from = 0.f;
-    Real32 to = reach * (1.f + kVolumeSlack);
+    Real32 from = 0.0F;
+    Real32 to = reach * (1.0F + kVolumeSlack);
     return detail::meetsBox(ray, volume.getMin() - slack, volume.getMax() + slack, from, to);
 }
 
@@ -51,7 +51,7 @@ void IntersectAction::setLine(const Line& ray, Real32 maxDistance)
 
 void IntersectAction::reset()
 {
-    hitT = -1.f;
+    hitT = -1.0F;
     hitNormal.setNull();
     hitObject = NullFC;
     hitTriangle = -1;
@@ -127,8 +127,8 @@ void IntersectAction::testTriangles(const NodePtr& node, const detail::Ray& ray)
         const Pnt3f v0 = triangle.getPosition(0);
         const Pnt3f v1 = triangle.getPosition(1);
         const Pnt3f v2 = triangle.getPosition(2);
-        Real32 t = 0.f;
-        if (!detail::meetsTriangle(ray, v0, v1, v2, t) || t < 0.f ||
+        Real32 t = 0.0F;
+        if (!detail::meetsTriangle(ray, v0, v1, v2, t) || t < 0.0F ||
             !(didHit() ? t < hitT : t <= maxDist)) {
             continue;
         }

@@ -41,7 +41,7 @@ bool Line::intersect(const Pnt3f& v0, const Pnt3f& v1, const Pnt3f& v2, Real32& 
 
 bool Line::intersect(const BoxVolume& box, Real32& enter, Real32& exit) const
 {
-    Real32 from = 0.f;
+    Real32 from = 0.0F;
     Real32 to = Inf;
     if (box.isEmpty() ||
         !detail::meetsBox({ position, direction }, box.getMin(), box.getMax(), from, to)) {

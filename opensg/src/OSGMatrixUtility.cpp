@@ -17,10 +17,10 @@ bool refuse(const Char8* function, const Char8* reason)
 bool MatrixPerspective(Matrix& result, Real32 halfFovY, Real32 aspect, Real32 nearPlane,
                        Real32 farPlane)
 {
-    if (!(halfFovY > 0.f) || !(halfFovY < Pi / 2)) {
+    if (!(halfFovY > 0.0F) || !(halfFovY < Pi / 2)) {
         return refuse("MatrixPerspective", "half the opening angle must lie between 0 and pi/2");
     }
-    if (!(aspect > 0.f)) {
+    if (!(aspect > 0.0F)) {
         return refuse("MatrixPerspective", "the aspect must be positive");
     }
     const Real32 top = nearPlane * osgtan(halfFovY);
@@ -33,10 +33,10 @@ bool MatrixFrustum(Matrix& result, Real32 left, Real32 right, Real32 bottom, Rea
     const Real32 width = right - left;
     const Real32 height = top - bottom;
     const Real32 depth = farPlane - nearPlane;
-    if (!(nearPlane > 0.f) || !(depth > 0.f)) {
+    if (!(nearPlane > 0.0F) || !(depth > 0.0F)) {
         return refuse("MatrixFrustum", "near must be positive and far beyond it");
     }
-    if (width == 0.f || height == 0.f) {
+    if (width == 0.0F || height == 0.0F) {
         return refuse("MatrixFrustum", "the window has no area");
     }
     // clang-format off
@@ -54,7 +54,7 @@ bool MatrixOrthogonal(Matrix& result, Real32 left, Real32 right, Real32 bottom, 
     const Real32 width = right - left;
     const Real32 height = top - bottom;
     const Real32 depth = farPlane - nearPlane;
-    if (width == 0.f || height == 0.f || depth == 0.f) {
+    if (width == 0.0F || height == 0.0F || depth == 0.0F) {
         return refuse("MatrixOrthogonal", "the volume has no extent");
     }
     // clang-format off
@@ -79,7 +79,7 @@ bool MatrixLookAt(Matrix& result, Pnt3f from, Pnt3f at, Vec3f up)
     }
     right.normalize();
     result.setValue(right, back.cross(right), back, from.subZero());
-    result[3][3] = 1.f;
+    result[3][3] = 1.0F;
     return false;
 }
 

@@ -11,8 +11,8 @@ void PerspectiveCamera::getProjection(Matrix& result, UInt32 width, UInt32 heigh
 {
     const Real32 fovRad = getFov() > Pi ? osgdegree2rad(getFov()) : getFov();
     const Real32 ratio =
-        height > 0 ? static_cast<Real32>(width) / static_cast<Real32>(height) * getAspect() : 0.f;
-    if (MatrixPerspective(result, fovRad / 2.f, ratio, getNear(), getFar())) {
+        height > 0 ? static_cast<Real32>(width) / static_cast<Real32>(height) * getAspect() : 0.0F;
+    if (MatrixPerspective(result, fovRad / 2.0F, ratio, getNear(), getFar())) {
         result.setIdentity();
     }
 }

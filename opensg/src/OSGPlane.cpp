@@ -42,11 +42,11 @@ bool Plane::intersectInfinite(const Line& line, Real32& t) const
 {
     const Real32 approach = normal.dot(line.getDirection());
     const Real32 height = distance(line.getPosition());
-    if (approach == 0.f) {
-        if (height != 0.f) {
+    if (approach == 0.0F) {
+        if (height != 0.0F) {
             return false;
         }
-        t = 0.f;
+        t = 0.0F;
         return true;
     }
     t = -height / approach;
@@ -55,7 +55,7 @@ bool Plane::intersectInfinite(const Line& line, Real32& t) const
 
 bool Plane::intersectInfinite(const Line& line, Pnt3f& point) const
 {
-    Real32 t = 0.f;
+    Real32 t = 0.0F;
     if (!intersectInfinite(line, t)) {
         return false;
     }
@@ -65,12 +65,12 @@ bool Plane::intersectInfinite(const Line& line, Pnt3f& point) const
 
 bool Plane::intersect(const Line& ray, Real32& t) const
 {
-    return intersectInfinite(ray, t) && t >= 0.f;
+    return intersectInfinite(ray, t) && t >= 0.0F;
 }
 
 bool Plane::intersect(const Line& ray, Pnt3f& point) const
 {
-    Real32 t = 0.f;
+    Real32 t = 0.0F;
     return intersect(ray, t) && intersectInfinite(ray, point);
 }
 
@@ -84,7 +84,7 @@ bool Plane::intersect(const Plane& other, Line& common) const
     // The point of both planes that is nearest to the origin.
     const Vec3f foot =
         (other.normal.cross(along) * offsetAlong + along.cross(normal) * other.offsetAlong) *
-        (1.f / square);
+        (1.0F / square);
     common.setValue(foot.addToZero(), along);
     return true;
 }

@@ -80,7 +80,7 @@ GeometryPtr makeBoxGeo(Real32 xsize, Real32 ysize, Real32 zsize, UInt16 hor, UIn
 
     const auto face = [](const Vec3f& right, const Vec3f& up, const Vec3f& outward,
                          const Vec3f& normal, UInt16 columns, UInt16 rows) {
-        const Pnt3f corner = Pnt3f() + (outward - right - up) * 0.5f;
+        const Pnt3f corner = Pnt3f() + (outward - right - up) * 0.5F;
         return Rectangle { corner, right, up, normal, columns, rows };
     };
     const Rectangle faces[] = {

@@ -42,7 +42,7 @@ void addSide(ShapeBuilder& shape, const Frustum& frustum)
 {
     const Real32 slope = (frustum.bottomRadius - frustum.topRadius) / frustum.height;
     // Deliberate: multiplied where dividing would give unit normals.
-    const Real32 stretch = osgsqrt(1.f + slope * slope);
+    const Real32 stretch = osgsqrt(1.0F + slope * slope);
     for (const bool top : { true, false }) {
         const Real32 radius = top ? frustum.topRadius : frustum.bottomRadius;
         const Real32 y = top ? frustum.height / 2 : -frustum.height / 2;
@@ -50,7 +50,7 @@ void addSide(ShapeBuilder& shape, const Frustum& frustum)
             const TurnPart angle(i, frustum.sides);
             shape.addVertex(Pnt3f(radius * angle.sine, y, -radius * angle.cosine),
                             Vec3f(angle.sine, slope, -angle.cosine) * stretch,
-                            Vec2f(1.f - Real32(i) / Real32(frustum.sides), top ? 1.f : 0.f));
+                            Vec2f(1.0F - Real32(i) / Real32(frustum.sides), top ? 1.0F : 0.0F));
         }
     }
     shape.beginPrimitive(GL_TRIANGLE_STRIP);
@@ -64,13 +64,13 @@ void addSide(ShapeBuilder& shape, const Frustum& frustum)
 void addCap(ShapeBuilder& shape, const Frustum& frustum, bool top)
 {
     const Real32 radius = top ? frustum.topRadius : frustum.bottomRadius;
-    const Real32 sign = top ? 1.f : -1.f;
+    const Real32 sign = top ? 1.0F : -1.0F;
     const UInt32 first = shape.getVertexCount();
     for (UInt32 i = frustum.sides; i-- > 0;) {
         const TurnPart angle(i, frustum.sides);
         shape.addVertex(
             Pnt3f(radius * angle.sine, sign * frustum.height / 2, -radius * angle.cosine),
-            Vec3f(0.f, sign, 0.f), Vec2f(0.5f + angle.sine / 2, 0.5f + sign * angle.cosine / 2));
+            Vec3f(0.0F, sign, 0.0F), Vec2f(0.5F + angle.sine / 2, 0.5F + sign * angle.cosine / 2));
     }
     shape.beginPrimitive(GL_POLYGON);
     for (UInt32 i = 0; i < frustum.sides; ++i) {
@@ -81,10 +81,10 @@ void addCap(ShapeBuilder& shape, const Frustum& frustum, bool top)
 GeometryPtr makeFrustum(const Char8* function, const Frustum& frustum, bool doSide, bool doTop,
                         bool doBottom)
 {
-    if (!(frustum.height > 0.f)) {
+    if (!(frustum.height > 0.0F)) {
         return refuseShape(function, "the height must be positive");
     }
-    if (!(frustum.topRadius >= 0.f) || !(frustum.bottomRadius >= 0.f)) {
+    if (!(frustum.topRadius >= 0.0F) || !(frustum.bottomRadius >= 0.0F)) {
         return refuseShape(function, "a radius is negative");
     }
     if (frustum.sides < 3) {
@@ -95,10 +95,10 @@ GeometryPtr makeFrustum(const Char8* function, const Frustum& frustum, bool doSi
     if (doSide) {
         addSide(shape, frustum);
     }
-    if (doTop && frustum.topRadius > 0.f) {
+    if (doTop && frustum.topRadius > 0.0F) {
         addCap(shape, frustum, true);
     }
-    if (doBottom && frustum.bottomRadius > 0.f) {
+    if (doBottom && frustum.bottomRadius > 0.0F) {
         addCap(shape, frustum, false);
     }
     return shape.build();
@@ -114,8 +114,8 @@ struct Facet
 /// 12 points on the unit sphere: +x and the five around it, then the opposite ones.
 void addIcosahedron(std::vector<Vec3f>& points, std::vector<Facet>& facets)
 {
-    const Real32 height = 1.f / osgsqrt(5.f);
-    points.push_back(Vec3f(1.f, 0.f, 0.f));
+    const Real32 height = 1.0F / osgsqrt(5.0F);
+    points.push_back(Vec3f(1.0F, 0.0F, 0.0F));
     for (UInt32 i = 0; i < 5; ++i) {
         const TurnPart angle(i, 5);
         points.push_back(Vec3f(height, 2 * height * angle.sine, -2 * height * angle.cosine));
@@ -163,22 +163,22 @@ void divideFacets(std::vector<Vec3f>& points, std::vector<Facet>& facets)
 /// Longitude from -z over the poles' axis y, latitude from the south pole.
 Vec2f sphereTexCoords(const Vec3f& direction)
 {
-    return Vec2f(0.5f + osgatan2(direction[0], -direction[2]) / (2 * Pi),
-                 0.5f + osgasin(osgClamp(-1.f, direction[1], 1.f)) / Pi);
+    return Vec2f(0.5F + osgatan2(direction[0], -direction[2]) / (2 * Pi),
+                 0.5F + osgasin(osgClamp(-1.0F, direction[1], 1.0F)) / Pi);
 }
 
 /// A triangle's texture coordinates lie on one side of the seam.
 void addFacet(ShapeBuilder& shape, const std::vector<Vec3f>& points, const Facet& facet)
 {
     Vec2f corners[3];
-    Real32 largest = 0.f;
+    Real32 largest = 0.0F;
     for (UInt32 i = 0; i < 3; ++i) {
         corners[i] = sphereTexCoords(points[facet.vertices[i]]);
         largest = osgMax(largest, corners[i][0]);
     }
     for (UInt32 i = 0; i < 3; ++i) {
-        if (largest - corners[i][0] > 0.5f) {
-            corners[i][0] += 1.f;
+        if (largest - corners[i][0] > 0.5F) {
+            corners[i][0] += 1.0F;
         }
         shape.addIndex(facet.vertices[i], corners[i]);
     }
@@ -188,7 +188,7 @@ void addFacet(ShapeBuilder& shape, const std::vector<Vec3f>& points, const Facet
 
 GeometryPtr makeConeGeo(Real32 height, Real32 botradius, UInt16 sides, bool doSide, bool doBottom)
 {
-    return makeFrustum("makeCone", { height, 0.f, botradius, sides }, doSide, false, doBottom);
+    return makeFrustum("makeCone", { height, 0.0F, botradius, sides }, doSide, false, doBottom);
 }
 
 GeometryPtr makeCylinderGeo(Real32 height, Real32 radius, UInt16 sides, bool doSide, bool doTop,
@@ -206,7 +206,7 @@ GeometryPtr makeConicalFrustumGeo(Real32 height, Real32 topradius, Real32 botrad
 
 GeometryPtr makeTorusGeo(Real32 innerRadius, Real32 outerRadius, UInt16 sides, UInt16 rings)
 {
-    if (!(innerRadius > 0.f) || !(outerRadius > 0.f)) {
+    if (!(innerRadius > 0.0F) || !(outerRadius > 0.0F)) {
         return refuseShape("makeTorus", "both radii must be positive");
     }
     if (sides < 3 || rings < 3) {
@@ -227,7 +227,7 @@ GeometryPtr makeTorusGeo(Real32 innerRadius, Real32 outerRadius, UInt16 sides, U
             shape.addVertex(
                 Pnt3f(radius * around.cosine, -radius * around.sine, innerRadius * tube.sine),
                 Vec3f(around.cosine * tube.cosine, -around.sine * tube.cosine, tube.sine),
-                Vec2f(1.f - Real32(ring) / Real32(rings), Real32(side) / Real32(sides)));
+                Vec2f(1.0F - Real32(ring) / Real32(rings), Real32(side) / Real32(sides)));
         }
     }
     for (UInt32 side = 0; side < sides; ++side) {
@@ -242,7 +242,7 @@ GeometryPtr makeTorusGeo(Real32 innerRadius, Real32 outerRadius, UInt16 sides, U
 
 GeometryPtr makeSphereGeo(UInt16 depth, Real32 radius)
 {
-    if (!(radius >= 0.f)) {
+    if (!(radius >= 0.0F)) {
         return refuseShape("makeSphere", "the radius is negative");
     }
     if (depth > kMaxSphereDepth) {
@@ -269,7 +269,7 @@ GeometryPtr makeSphereGeo(UInt16 depth, Real32 radius)
 
 GeometryPtr makeLatLongSphereGeo(UInt16 latres, UInt16 longres, Real32 radius)
 {
-    if (!(radius >= 0.f)) {
+    if (!(radius >= 0.0F)) {
         return refuseShape("makeLatLongSphere", "the radius is negative");
     }
     if (latres < 2 || longres < 3) {

@@ -34,7 +34,7 @@ void SimpleMaterial::addChunks(const StatePtr& target)
 MaterialChunkPtr SimpleMaterial::makeMaterialChunk() const
 {
     const MaterialChunkPtr chunk = MaterialChunk::create();
-    const Real32 alpha = 1.f - getTransparency();
+    const Real32 alpha = 1.0F - getTransparency();
     chunk->setAmbient(withAlpha(getAmbient(), alpha));
     chunk->setDiffuse(withAlpha(getDiffuse(), alpha));
     chunk->setSpecular(withAlpha(getSpecular(), alpha));

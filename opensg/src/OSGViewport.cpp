@@ -11,13 +11,13 @@ namespace {
 /// First pixel of an edge: a fraction of the size, or a pixel.
 Int32 firstPixel(Real32 edge, Int32 size)
 {
-    return static_cast<Int32>(edge > 1.f ? edge : edge * static_cast<Real32>(size));
+    return static_cast<Int32>(edge > 1.0F ? edge : edge * static_cast<Real32>(size));
 }
 
 /// Last pixel of an edge: a fraction ends one pixel before it, a pixel is itself the last.
 Int32 lastPixel(Real32 edge, Int32 size)
 {
-    return static_cast<Int32>(edge > 1.f ? edge : edge * static_cast<Real32>(size) - 1.f);
+    return static_cast<Int32>(edge > 1.0F ? edge : edge * static_cast<Real32>(size) - 1.0F);
 }
 
 Int32 windowWidth(const Viewport& port)

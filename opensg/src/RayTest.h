@@ -28,15 +28,15 @@ inline bool meetsTriangle(const Ray& ray, const Pnt3f& v0, const Pnt3f& v1, cons
     if (det * det <= Eps * Eps * edge1.squareLength() * p.squareLength()) {
         return false;
     }
-    const Real32 inverse = 1.f / det;
+    const Real32 inverse = 1.0F / det;
     const Vec3f offset = ray.start - v0;
     const Real32 u = offset.dot(p) * inverse;
-    if (!(u >= 0.f && u <= 1.f)) {
+    if (!(u >= 0.0F && u <= 1.0F)) {
         return false;
     }
     const Vec3f q = offset.cross(edge1);
     const Real32 v = ray.direction.dot(q) * inverse;
-    if (!(v >= 0.f && u + v <= 1.f)) {
+    if (!(v >= 0.0F && u + v <= 1.0F)) {
         return false;
     }
     t = edge2.dot(q) * inverse;
@@ -50,8 +50,8 @@ inline bool meetsBox(const Ray& ray, const Pnt3f& low, const Pnt3f& high, Real32
     for (UInt32 i = 0; i < 3; ++i) {
         const Real32 toLow = low[i] - ray.start[i];
         const Real32 toHigh = high[i] - ray.start[i];
-        if (ray.direction[i] == 0.f) {
-            if (toLow > 0.f || toHigh < 0.f) {
+        if (ray.direction[i] == 0.0F) {
+            if (toLow > 0.0F || toHigh < 0.0F) {
                 return false;
             }
             continue;

@@ -77,7 +77,7 @@ private:
     bool apply(nbOSGWidget& view, const CameraPose& pose);
     void rebaseDrag(const CameraPose& pose);
 
-    osg::Pnt2f pointerPosition { 0.0f, 0.0f };
+    osg::Pnt2f pointerPosition { 0.0F, 0.0F };
     Picker* picker = nullptr;
     std::function<void()> changedCallback;
     std::optional<Drag> drag;

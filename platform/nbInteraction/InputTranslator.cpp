@@ -379,7 +379,7 @@ bool InputTranslator::isInsideView() const
     if (!view || view->getWidth() <= 0 || view->getHeight() <= 0) {
         return true;
     }
-    return pointerPx[0] >= 0.0f && pointerPx[1] >= 0.0f &&
+    return pointerPx[0] >= 0.0F && pointerPx[1] >= 0.0F &&
         pointerPx[0] < static_cast<float>(view->getWidth()) &&
         pointerPx[1] < static_cast<float>(view->getHeight());
 }

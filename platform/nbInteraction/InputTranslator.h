@@ -99,7 +99,7 @@ private:
     nbOSGWidget* widget;
     double devicePixelRatio = 1.0;
 
-    osg::Pnt2f pointerPx { 0.0f, 0.0f };
+    osg::Pnt2f pointerPx { 0.0F, 0.0F };
     bool pointerIsInside = false;
     bool precisionIsHeld = false;
     bool buttonIsDown = false;  ///< from the first press to the last release

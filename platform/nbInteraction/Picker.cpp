@@ -67,7 +67,7 @@ int Picker::getFilter() const
 
 void Picker::setTolerance(float logicalPx)
 {
-    tolerance = std::isfinite(logicalPx) && logicalPx > 0.0f ? logicalPx : 0.0f;
+    tolerance = std::isfinite(logicalPx) && logicalPx > 0.0F ? logicalPx : 0.0F;
 }
 
 float Picker::getTolerance() const
@@ -77,7 +77,7 @@ float Picker::getTolerance() const
 
 void Picker::setPixelRatio(float ratio)
 {
-    if (std::isfinite(ratio) && ratio > 0.0f) {
+    if (std::isfinite(ratio) && ratio > 0.0F) {
         pixelRatio = ratio;
     }
 }
@@ -140,8 +140,8 @@ std::vector<osg::NodePtr> Picker::pickRectangle(const QRect& rect)
     box.minX = static_cast<float>(normalised.left());
     box.minY = static_cast<float>(normalised.top());
     // Pixel n covers n .. n + 1.
-    box.maxX = static_cast<float>(normalised.right()) + 1.0f;
-    box.maxY = static_cast<float>(normalised.bottom()) + 1.0f;
+    box.maxX = static_cast<float>(normalised.right()) + 1.0F;
+    box.maxY = static_cast<float>(normalised.bottom()) + 1.0F;
     if (filter == SceneplateFilter) {
         return detail::pickPlatesInside(nbScenegraph::getWorldRoot(), viewSize(), box);
     }

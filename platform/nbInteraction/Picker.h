@@ -53,10 +53,10 @@ public:
     };
 
     /// Least alpha of a plate's picture at which it is hit: 0.1, about what can be seen.
-    static constexpr float kPlateAlphaThreshold = 0.1f;
+    static constexpr float kPlateAlphaThreshold = 0.1F;
 
     /// Distance in logical pixels within which handles are hit unless setTolerance says otherwise.
-    static constexpr float kDefaultTolerance = 4.0f;
+    static constexpr float kDefaultTolerance = 4.0F;
 
     Picker();
     ~Picker();
@@ -128,7 +128,7 @@ private:
     osg::UInt32 pickNodeId = 0;
     int filter = SceneFilter;
     float tolerance = kDefaultTolerance;
-    float pixelRatio = 1.0f;
+    float pixelRatio = 1.0F;
 
     osg::UInt32 hitNodeId = 0;
     osg::Pnt3f hitPoint;

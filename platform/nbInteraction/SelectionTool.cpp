@@ -71,7 +71,7 @@ bool SelectionTool::isPickHint(const std::string&) const
 
 void SelectionTool::setClickTolerance(float logicalPx)
 {
-    clickTolerance = logicalPx > 0.0f ? logicalPx : 0.0f;
+    clickTolerance = logicalPx > 0.0F ? logicalPx : 0.0F;
 }
 
 float SelectionTool::getClickTolerance() const
@@ -81,7 +81,7 @@ float SelectionTool::getClickTolerance() const
 
 void SelectionTool::setPixelRatio(float ratio)
 {
-    if (ratio > 0.0f && std::isfinite(ratio)) {
+    if (ratio > 0.0F && std::isfinite(ratio)) {
         pixelRatio = ratio;
     }
 }

@@ -18,7 +18,7 @@ class NB_PLATFORM_API SelectionTool : public AbstractInteractionTool
 {
 public:
     /// Largest distance of a click unless setClickTolerance says otherwise, logical pixels.
-    static constexpr float kDefaultClickTolerance = 4.0f;
+    static constexpr float kDefaultClickTolerance = 4.0F;
 
     bool startTool(ToolInteractionContext* context, const std::string& hint) override;
     bool processTool(ToolInteractionContext* context, const std::string& hint) override;
@@ -36,10 +36,10 @@ public:
 private:
     bool isClick(const osg::Pnt2f& releasePx) const;
 
-    osg::Pnt2f pressPx { 0.0f, 0.0f };
+    osg::Pnt2f pressPx { 0.0F, 0.0F };
     bool pressed = false;
     float clickTolerance = kDefaultClickTolerance;
-    float pixelRatio = 1.0f;
+    float pixelRatio = 1.0F;
 };
 
 }  // namespace nbec::interaction

@@ -65,7 +65,7 @@ private:
     AbstractInteractionTool* tool = nullptr;
     Picker* picker = nullptr;
     std::string toolName = names::kTool;
-    osg::Pnt2f pointerPosition { 0.0f, 0.0f };
+    osg::Pnt2f pointerPosition { 0.0F, 0.0F };
     bool toolIsActivated = false;
 };
 

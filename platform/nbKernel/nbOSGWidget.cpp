@@ -14,7 +14,7 @@ namespace {
 
 constexpr int kLargestSidePx = std::numeric_limits<osg::UInt16>::max();
 /// Where a new camera stands, looking at the origin.
-constexpr float kStartDistance = 10.f;
+constexpr float kStartDistance = 10.0F;
 /// Of a new camera's internal parent node.
 constexpr char kCameraName[] = "Camera";
 
@@ -55,7 +55,7 @@ bool isFinitePosition(const osg::Pnt2f& position)
 /// A position limited to what the arithmetic of rectangles and rays can take in whole pixels.
 osg::Pnt2f nearPosition(const osg::Pnt2f& position)
 {
-    constexpr float kLimit = 1e6f;
+    constexpr float kLimit = 1e6F;
     return { std::clamp(position.x(), -kLimit, kLimit), std::clamp(position.y(), -kLimit, kLimit) };
 }
 
@@ -73,8 +73,8 @@ nbOSGWidget::nbOSGWidget()
     , window(osg::PassiveWindow::create())
 {
     CameraPose pose;
-    pose.from = osg::Pnt3f(0.f, 0.f, kStartDistance);
-    pose.at = osg::Pnt3f(0.f, 0.f, 0.f);
+    pose.from = osg::Pnt3f(0.0F, 0.0F, kStartDistance);
+    pose.at = osg::Pnt3f(0.0F, 0.0F, 0.0F);
     pose.pivot = pose.at;
     pose.fovDeg = kDefaultFovDeg;
     camera->setPose(pose);
@@ -128,7 +128,7 @@ bool nbOSGWidget::isMain() const
 osg::Pnt3f nbOSGWidget::getFrom(int index)
 {
     const nbOSGWidget* const widget = getMGLW(index);
-    return widget != nullptr ? widget->camera->getFrom() : osg::Pnt3f(0.f, 0.f, 0.f);
+    return widget != nullptr ? widget->camera->getFrom() : osg::Pnt3f(0.0F, 0.0F, 0.0F);
 }
 
 float nbOSGWidget::getFov(int index)
@@ -149,7 +149,7 @@ void nbOSGWidget::getFromAtUp(int index, osg::Pnt3f& from, osg::Pnt3f& at, osg::
 osg::Pnt3f nbOSGWidget::getPivot(int index)
 {
     const nbOSGWidget* const widget = getMGLW(index);
-    return widget != nullptr ? widget->camera->getPivot() : osg::Pnt3f(0.f, 0.f, 0.f);
+    return widget != nullptr ? widget->camera->getPivot() : osg::Pnt3f(0.0F, 0.0F, 0.0F);
 }
 
 bool nbOSGWidget::isCameraZUp()

@@ -47,7 +47,7 @@ public:
     using ResizeCallback = void (*)();
 
     /// Field of view without a widget and in a new one, degrees.
-    static constexpr float kDefaultFovDeg = 45.f;
+    static constexpr float kDefaultFovDeg = 45.0F;
 
     /// A view without area, showing the world root from (0, 0, 10) along -z.
     nbOSGWidget();

@@ -33,9 +33,9 @@ public:
     static constexpr int kLineCount = 6;
 
     /// Range and start value of the magnify factor.
-    static constexpr float kSmallestMagnifyFactor = 1.f;
-    static constexpr float kLargestMagnifyFactor = 32.f;
-    static constexpr float kDefaultMagnifyFactor = 4.f;
+    static constexpr float kSmallestMagnifyFactor = 1.0F;
+    static constexpr float kLargestMagnifyFactor = 32.0F;
+    static constexpr float kDefaultMagnifyFactor = 4.0F;
 
     /// A null match.
     nbdPerspectiveMatch() = default;

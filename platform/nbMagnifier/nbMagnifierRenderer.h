@@ -12,9 +12,9 @@
 class NB_PLATFORM_API nbMagnifierRenderer
 {
 public:
-    static constexpr float kDefaultScale = 4.f;
-    static constexpr float kSmallestScale = 1.f;
-    static constexpr float kLargestScale = 32.f;
+    static constexpr float kDefaultScale = 4.0F;
+    static constexpr float kSmallestScale = 1.0F;
+    static constexpr float kLargestScale = 32.0F;
 
     /// The pixel whose middle stays in its place; may lie outside the view.
     static void setCursorPosition(int x, int y);

@@ -78,7 +78,7 @@ void nbMaterialEditor::Impl::replyScaleValues(nbMessage& message) const
     const osg::Vec3f scale = core->getScale();
     const float aspect = aspectOf(material()->getImage(component()));
     message.set("initialTextureScale", naturalScale(aspect), true);
-    message.set("projectionSize", osg::Vec2f(2.f * scale.x(), 2.f * scale.y()), true);
+    message.set("projectionSize", osg::Vec2f(2.0F * scale.x(), 2.0F * scale.y()), true);
 }
 
 void nbMaterialEditor::Impl::change(const nbMessage& message)
@@ -153,7 +153,7 @@ void nbMaterialEditor::Impl::placeAt(const osg::NodePtr& space, const osg::Pnt3f
     }
     nbTransformState state = nbTransformState::of(*core);
     state.translation = osg::Vec3f(ownPoint.x(), ownPoint.y(), ownPoint.z());
-    if (ownNormal.length() > 0.f) {
+    if (ownNormal.length() > 0.0F) {
         turnZTo(start().projection, ownNormal, state);
     }
     const nbScopedUndo scope(kPlaceTitle);

@@ -12,7 +12,7 @@ namespace {
 /// One coordinate of a text area as a distance from the view's left or upper edge.
 double fromStart(float value, int length)
 {
-    return value < 0.f ? static_cast<double>(value) + length + 1.0 : static_cast<double>(value);
+    return value < 0.0F ? static_cast<double>(value) + length + 1.0 : static_cast<double>(value);
 }
 
 QRectF areaOf(const NotifierSettings& settings, int width, int height)

@@ -49,7 +49,7 @@ Notifier::~Notifier() = default;
 
 void Notifier::setTextSize(float size)
 {
-    if (std::isfinite(size) && size > 0.f) {
+    if (std::isfinite(size) && size > 0.0F) {
         settings.textSize = size;
     }
 }

@@ -16,7 +16,7 @@ NB_CONTAINER_POINTER(ClipPlane3D, GroupPtr);
 
 // clang-format off
 #define NB_CLIP_PLANE_3D_FIELDS(VALUE, OWNED, LINK)                                                \
-    VALUE(Equation, equation, Vec4f, Vec4f(0.f, 1.f, 0.f, 0.f))                                    \
+    VALUE(Equation, equation, Vec4f, Vec4f(0.0F, 1.0F, 0.0F, 0.0F))                                    \
     VALUE(Enable, enable, bool, true)                                                              \
     VALUE(TransformNodeId, transformNodeId, UInt32, 0)
 

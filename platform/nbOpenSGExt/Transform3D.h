@@ -19,14 +19,14 @@ NB_CONTAINER_POINTER(Transform3D, TransformPtr);
 
 // clang-format off
 #define NB_TRANSFORM3D_FIELDS(VALUE, OWNED, LINK)                                                  \
-    VALUE(Translation, translation, Vec3f, Vec3f(0.f, 0.f, 0.f))                                   \
-    VALUE(RotatePivot, rotatePivot, Vec3f, Vec3f(0.f, 0.f, 0.f))                                   \
-    VALUE(ScalePivot, scalePivot, Vec3f, Vec3f(0.f, 0.f, 0.f))                                     \
-    VALUE(EulerRotation, eulerRotation, Vec3f, Vec3f(0.f, 0.f, 0.f))                               \
+    VALUE(Translation, translation, Vec3f, Vec3f(0.0F, 0.0F, 0.0F))                                   \
+    VALUE(RotatePivot, rotatePivot, Vec3f, Vec3f(0.0F, 0.0F, 0.0F))                                   \
+    VALUE(ScalePivot, scalePivot, Vec3f, Vec3f(0.0F, 0.0F, 0.0F))                                     \
+    VALUE(EulerRotation, eulerRotation, Vec3f, Vec3f(0.0F, 0.0F, 0.0F))                               \
     VALUE(EulerRotationOrder, eulerRotationOrder, std::string, "xyz")                              \
     VALUE(RotationQuaternion, rotationQuaternion, Quaternion, Quaternion())                        \
     VALUE(RotationOrientation, rotationOrientation, Quaternion, Quaternion())                      \
-    VALUE(Scale, scale, Vec3f, Vec3f(1.f, 1.f, 1.f))                                               \
+    VALUE(Scale, scale, Vec3f, Vec3f(1.0F, 1.0F, 1.0F))                                               \
     VALUE(RotationMode, rotationMode, Int32, 0)
 
 // clang-format on
@@ -91,7 +91,7 @@ private:
         nbRotationMath::Rows rows { { { 1.0, 0.0, 0.0 }, { 0.0, 1.0, 0.0 }, { 0.0, 0.0, 1.0 } } };
         Quaternion turn;  ///< R
         Quaternion orientation;
-        Vec3f angles { 0.f, 0.f, 0.f };  ///< that gave the turn
+        Vec3f angles { 0.0F, 0.0F, 0.0F };  ///< that gave the turn
         Char8 order[3] = { 'x', 'y', 'z' };
         bool isOfAngles = true;  ///< the turn comes from angles and order
     };

@@ -37,8 +37,8 @@ void main()
 
 struct Gradient
 {
-    osg::Color4f top { 0.f, 0.f, 0.f, 1.f };
-    osg::Color4f bottom { 0.f, 0.f, 0.f, 1.f };
+    osg::Color4f top { 0.0F, 0.0F, 0.0F, 1.0F };
+    osg::Color4f bottom { 0.0F, 0.0F, 0.0F, 1.0F };
 };
 
 Gradient gradientOf(const osg::ViewportPtr& viewport)
@@ -51,7 +51,7 @@ Gradient gradientOf(const osg::ViewportPtr& viewport)
     const auto uber = osg::UberViewportPtr::dcast(viewport);
     if (solid != osg::NullFC) {
         const osg::Color3f color = solid->getColor();
-        result.top = result.bottom = osg::Color4f(color.red(), color.green(), color.blue(), 1.f);
+        result.top = result.bottom = osg::Color4f(color.red(), color.green(), color.blue(), 1.0F);
     } else if (uber != osg::NullFC) {
         result.top = uber->getBackgroundTop();
         result.bottom = uber->getBackgroundBottom();
@@ -99,7 +99,7 @@ void BackgroundPainter::draw(Gl& gl, const osg::ViewportPtr& viewport, const Fra
     gl.glDrawArrays(GL_TRIANGLES, 0, 3);
     frame.count->add(1);
     if (hasPhotograph(viewport)) {
-        drawPhotograph(gl, viewport, 1.f, frame, textures);
+        drawPhotograph(gl, viewport, 1.0F, frame, textures);
     }
     gl.glColorMaski(1, GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
 }
@@ -114,7 +114,7 @@ void BackgroundPainter::drawVeil(Gl& gl, const osg::ViewportPtr& viewport, const
     const float veil = osg::UberViewportPtr::dcast(viewport)->getPhotographVeil();
     gl.glColorMaski(1, GL_FALSE, GL_FALSE, GL_FALSE, GL_FALSE);
     gl.glBindVertexArray(frame.emptyArray);
-    drawPhotograph(gl, viewport, std::min(veil, 1.f), frame, textures);
+    drawPhotograph(gl, viewport, std::min(veil, 1.0F), frame, textures);
     gl.glColorMaski(1, GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
 }
 
@@ -136,7 +136,8 @@ void BackgroundPainter::addTo(osg::ContentStamp& stamp, const osg::ViewportPtr& 
 
 void BackgroundPainter::addVeilTo(osg::ContentStamp& stamp, const osg::ViewportPtr& viewport)
 {
-    stamp.add(hasVeil(viewport) ? osg::UberViewportPtr::dcast(viewport)->getPhotographVeil() : 0.f);
+    stamp.add(hasVeil(viewport) ? osg::UberViewportPtr::dcast(viewport)->getPhotographVeil()
+                                : 0.0F);
 }
 
 bool BackgroundPainter::hasPhotograph(const osg::ViewportPtr& viewport)
@@ -148,7 +149,7 @@ bool BackgroundPainter::hasPhotograph(const osg::ViewportPtr& viewport)
 bool BackgroundPainter::hasVeil(const osg::ViewportPtr& viewport)
 {
     return hasPhotograph(viewport) &&
-        osg::UberViewportPtr::dcast(viewport)->getPhotographVeil() > 0.f;
+        osg::UberViewportPtr::dcast(viewport)->getPhotographVeil() > 0.0F;
 }
 
 void BackgroundPainter::drawPhotograph(Gl& gl, const osg::ViewportPtr& viewport, float opacity,

@@ -74,15 +74,15 @@ void DepthLayout::setRange(Gl& gl, double nearest, double farthest) const
 
 void DepthLayout::setOffset(Gl& gl, float factor, float units) const
 {
-    const float sign = isReversed() ? -1.f : 1.f;
+    const float sign = isReversed() ? -1.0F : 1.0F;
     gl.glPolygonOffset(sign * factor, sign * units);
 }
 
 osg::Matrix DepthLayout::project(const osg::Matrix& clipFromView, double nearDepth,
                                  double farDepth) const
 {
-    const bool perspective = clipFromView[2][3] == -1.f && clipFromView[3][3] == 0.f;
-    const bool parallel = clipFromView[2][3] == 0.f && clipFromView[3][3] == 1.f;
+    const bool perspective = clipFromView[2][3] == -1.0F && clipFromView[3][3] == 0.0F;
+    const bool parallel = clipFromView[2][3] == 0.0F && clipFromView[3][3] == 1.0F;
     if (!(farDepth > nearDepth) || (!parallel && !(perspective && nearDepth > 0.0))) {
         return project(clipFromView);
     }
@@ -96,8 +96,8 @@ osg::Matrix DepthLayout::project(const osg::Matrix& clipFromView, double nearDep
         offset = (parallel ? 1.0 : 0.0) - 2.0 * offset;
     }
     osg::Matrix result = clipFromView;
-    result[0][2] = 0.f;
-    result[1][2] = 0.f;
+    result[0][2] = 0.0F;
+    result[1][2] = 0.0F;
     result[2][2] = static_cast<float>(slope);
     result[3][2] = static_cast<float>(offset);
     return result;
@@ -110,7 +110,7 @@ osg::Matrix DepthLayout::project(const osg::Matrix& clipFromView) const
     }
     osg::Matrix result = clipFromView;
     for (osg::UInt32 column = 0; column < 4; ++column) {
-        result[column][2] = 0.5f * (clipFromView[column][3] - clipFromView[column][2]);
+        result[column][2] = 0.5F * (clipFromView[column][3] - clipFromView[column][2]);
     }
     return result;
 }

@@ -33,7 +33,7 @@ public:
     void enter() const;
     void leave() const;
 
-    float getClearValue() const { return isReversed() ? 0.f : 1.f; }
+    float getClearValue() const { return isReversed() ? 0.0F : 1.0F; }
 
     /// Comparison that lets pass what the given one lets pass for usual depths.
     GLenum getComparison(GLenum usual) const;

@@ -18,7 +18,7 @@ namespace nbrender {
 
 namespace {
 
-constexpr float kLeastLineWidth = 0.01f;
+constexpr float kLeastLineWidth = 0.01F;
 
 osg::Color3f rgb(const osg::Color4f& color)
 {
@@ -32,7 +32,7 @@ void setColors(DrawState& state, const osg::SimpleMaterialPtr& material)
     state.specular = material->getSpecular();
     state.emission = material->getEmission();
     state.shininess = material->getShininess();
-    state.alpha = std::clamp(1.f - material->getTransparency(), 0.f, 1.f);
+    state.alpha = std::clamp(1.0F - material->getTransparency(), 0.0F, 1.0F);
     state.lit = material->getLit();
     state.usesVertexColors = material->getColorMaterial() != GL_NONE;
 }
@@ -44,7 +44,7 @@ void apply(DrawState& state, const osg::MaterialChunkPtr& chunk)
     state.specular = rgb(chunk->getSpecular());
     state.emission = rgb(chunk->getEmission());
     state.shininess = chunk->getShininess();
-    state.alpha = std::clamp(chunk->getDiffuse().alpha(), 0.f, 1.f);
+    state.alpha = std::clamp(chunk->getDiffuse().alpha(), 0.0F, 1.0F);
     state.lit = chunk->getLit();
     state.usesVertexColors = chunk->getColorMaterial() != GL_NONE;
 }
@@ -70,8 +70,8 @@ void apply(DrawState& state, const osg::DepthChunkPtr& chunk)
     state.depthTest = chunk->getEnable();
     state.depthFunc = chunk->getFunc();
     state.depthWrite = !chunk->getReadOnly();
-    state.depthNear = chunk->getNear() < 0.f ? 0.f : std::min(chunk->getNear(), 1.f);
-    state.depthFar = chunk->getFar() < 0.f ? 1.f : std::min(chunk->getFar(), 1.f);
+    state.depthNear = chunk->getNear() < 0.0F ? 0.0F : std::min(chunk->getNear(), 1.0F);
+    state.depthFar = chunk->getFar() < 0.0F ? 1.0F : std::min(chunk->getFar(), 1.0F);
 }
 
 void apply(DrawState& state, const osg::DepthTestChunkPtr& chunk)
@@ -79,8 +79,8 @@ void apply(DrawState& state, const osg::DepthTestChunkPtr& chunk)
     state.depthTest = chunk->getEnable();
     state.depthFunc = chunk->getFunc();
     state.depthWrite = !chunk->getReadOnly();
-    state.depthNear = 0.f;
-    state.depthFar = 1.f;
+    state.depthNear = 0.0F;
+    state.depthFar = 1.0F;
 }
 
 void apply(DrawState& state, const osg::LineChunkPtr& chunk)
@@ -100,8 +100,8 @@ void apply(DrawState& state, const osg::PolygonChunkPtr& chunk)
     const bool hasOffset = (state.polygonMode == GL_FILL && chunk->getOffsetFill()) ||
         (state.polygonMode == GL_LINE && chunk->getOffsetLine()) ||
         (state.polygonMode == GL_POINT && chunk->getOffsetPoint());
-    state.offsetFactor = hasOffset ? chunk->getOffsetFactor() : 0.f;
-    state.offsetBias = hasOffset ? chunk->getOffsetBias() : 0.f;
+    state.offsetFactor = hasOffset ? chunk->getOffsetFactor() : 0.0F;
+    state.offsetBias = hasOffset ? chunk->getOffsetBias() : 0.0F;
 }
 
 template <class ChunkPtr>

@@ -21,15 +21,15 @@ namespace nbrender {
 /// item list, and both are looked up by id before use.
 struct DrawState
 {
-    static constexpr float kDefaultGrey = 0.7f;
+    static constexpr float kDefaultGrey = 0.7F;
     static constexpr osg::UInt16 kSolidLine = 0xffff;
 
-    osg::Color3f ambient { 0.f, 0.f, 0.f };
+    osg::Color3f ambient { 0.0F, 0.0F, 0.0F };
     osg::Color3f diffuse { kDefaultGrey, kDefaultGrey, kDefaultGrey };
-    osg::Color3f specular { 0.f, 0.f, 0.f };
-    osg::Color3f emission { 0.f, 0.f, 0.f };
-    float shininess = 1.f;
-    float alpha = 1.f;  ///< 1 - transparency
+    osg::Color3f specular { 0.0F, 0.0F, 0.0F };
+    osg::Color3f emission { 0.0F, 0.0F, 0.0F };
+    float shininess = 1.0F;
+    float alpha = 1.0F;  ///< 1 - transparency
     bool lit = true;
     bool usesVertexColors = true;  ///< colours of the geometry replace diffuse
 
@@ -41,25 +41,25 @@ struct DrawState
     GLenum blendSourceAlpha = GL_ONE;
     GLenum blendDestinationAlpha = GL_ZERO;
     GLenum blendEquation = GL_FUNC_ADD;
-    osg::Color4f blendColor { 0.f, 0.f, 0.f, 0.f };
+    osg::Color4f blendColor { 0.0F, 0.0F, 0.0F, 0.0F };
     GLenum alphaFunc = GL_ALWAYS;
-    float alphaValue = 0.f;
+    float alphaValue = 0.0F;
 
     bool depthTest = true;
     bool depthWrite = true;
     GLenum depthFunc = GL_LEQUAL;
-    float depthNear = 0.f;  ///< of the range that the item's layer has, 0 .. 1
-    float depthFar = 1.f;
+    float depthNear = 0.0F;  ///< of the range that the item's layer has, 0 .. 1
+    float depthFar = 1.0F;
 
-    float lineWidth = 1.f;  ///< logical pixels
+    float lineWidth = 1.0F;  ///< logical pixels
     osg::UInt16 stipplePattern = kSolidLine;
     osg::Int32 stippleRepeat = 1;
 
     GLenum cullFace = GL_NONE;
     GLenum frontFace = GL_CCW;
     GLenum polygonMode = GL_FILL;
-    float offsetFactor = 0.f;
-    float offsetBias = 0.f;
+    float offsetFactor = 0.0F;
+    float offsetBias = 0.0F;
 
     osg::UInt32 textureId = 0;  ///< container id of the TextureChunk, 0 for none
     osg::UInt32 shaderId = 0;  ///< container id of the SHLChunk, 0 for none

@@ -28,9 +28,9 @@ struct Frame
 {
     int widthPx = 0;
     int heightPx = 0;
-    float pixelRatio = 1.f;  ///< device pixels per logical pixel
-    float shiftXPx = 0.f;  ///< of the picture, to the right
-    float shiftYPx = 0.f;  ///< of the picture, up
+    float pixelRatio = 1.0F;  ///< device pixels per logical pixel
+    float shiftXPx = 0.0F;  ///< of the picture, to the right
+    float shiftYPx = 0.0F;  ///< of the picture, up
     GLuint emptyArray = 0;  ///< vertex array of programs that have no attributes
     DrawCount* count = nullptr;  ///< receives what was drawn; never null while drawing
 };

@@ -11,7 +11,7 @@ namespace {
 
 void clear(Gl& gl, const DepthLayout& depth)
 {
-    constexpr GLfloat kNothing[] = { 0.f, 0.f, 0.f, 0.f };
+    constexpr GLfloat kNothing[] = { 0.0F, 0.0F, 0.0F, 0.0F };
     const GLfloat farthest = depth.getClearValue();
     gl.glDisable(GL_SCISSOR_TEST);
     gl.glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);

@@ -20,7 +20,7 @@ osg::Vec4f clipCorner(const osg::BoxVolume& bounds, const osg::Matrix& clipFromW
     const osg::Pnt3f& high = bounds.getMax();
     const osg::Vec4f point((corner & 1) != 0 ? high.x() : low.x(),
                            (corner & 2) != 0 ? high.y() : low.y(),
-                           (corner & 4) != 0 ? high.z() : low.z(), 1.f);
+                           (corner & 4) != 0 ? high.z() : low.z(), 1.0F);
     osg::Vec4f clip;
     clipFromWorld.multMatrixVec(point, clip);
     return clip;
@@ -60,7 +60,7 @@ FrameView viewOf(const osg::CameraPtr& camera, const Frame& frame)
     camera->getViewing(view.viewFromWorld, width, height);
     view.orthographic = nbUberCameraUtils::isOrthographicCamera(camera);
     const osg::Vec3f worldUp =
-        isZUp(camera) ? osg::Vec3f(0.f, 0.f, 1.f) : osg::Vec3f(0.f, 1.f, 0.f);
+        isZUp(camera) ? osg::Vec3f(0.0F, 0.0F, 1.0F) : osg::Vec3f(0.0F, 1.0F, 0.0F);
     view.viewFromWorld.multMatrixVec(worldUp, view.viewUp);
     view.viewUp.normalize();
     return view;
@@ -110,8 +110,8 @@ DepthSpan handleSpan(const ItemList& list, const FrameView& view)
 std::array<int, 2> pixelRange(float low, float high, float marginPx, int sidePx)
 {
     const auto side = static_cast<float>(sidePx);
-    return { static_cast<int>(std::floor(std::clamp(low - marginPx, 0.f, side))),
-             static_cast<int>(std::ceil(std::clamp(high + marginPx, 0.f, side))) };
+    return { static_cast<int>(std::floor(std::clamp(low - marginPx, 0.0F, side))),
+             static_cast<int>(std::ceil(std::clamp(high + marginPx, 0.0F, side))) };
 }
 
 }  // namespace
@@ -135,8 +135,8 @@ FrameView makeFrameView(const osg::CameraPtr& camera, const ItemList& list, cons
     FrameView view = viewOf(camera, frame);
     view.depth = depth;
     osg::Matrix shift;
-    shift.setTranslate(2.f * frame.shiftXPx / view.widthPx, 2.f * frame.shiftYPx / view.heightPx,
-                       0.f);
+    shift.setTranslate(2.0F * frame.shiftXPx / view.widthPx, 2.0F * frame.shiftYPx / view.heightPx,
+                       0.0F);
     view.clipFromView.multLeft(shift);
     view.usualClipFromWorld = view.clipFromView;
     view.usualClipFromWorld.mult(view.viewFromWorld);
@@ -166,8 +166,8 @@ bool isInView(const osg::BoxVolume& bounds, const osg::Matrix& clipFromWorld, bo
     for (int corner = 0; corner < kCorners; ++corner) {
         const osg::Vec4f clip = clipCorner(bounds, clipFromWorld, corner);
         // Wide lines reach a little beyond their bounds.
-        constexpr float kMargin = 1.05f;
-        const float w = clip.w() * (clip.w() > 0.f ? kMargin : 1.f);
+        constexpr float kMargin = 1.05F;
+        const float w = clip.w() * (clip.w() > 0.0F ? kMargin : 1.0F);
         const std::array<bool, kPlanes> beyond { clip.x() < -w, clip.x() > w,  clip.y() < -w,
                                                  clip.y() > w,  clip.z() < -w, clip.z() > w };
         for (std::size_t plane = 0; plane < beyond.size(); ++plane) {
@@ -185,10 +185,10 @@ bool isInView(const osg::BoxVolume& bounds, const osg::Matrix& clipFromWorld, bo
 PixelBox pixelsOf(const RenderItem& item, const ItemList& list, const FrameView& view,
                   const Frame& frame)
 {
-    constexpr float kLeastW = 1e-6f;
+    constexpr float kLeastW = 1e-6F;
     // What rounding may move an edge by, and more.
-    constexpr float kMarginPx = 2.f;
-    constexpr float kHalf = 0.5f;
+    constexpr float kMarginPx = 2.0F;
+    constexpr float kHalf = 0.5F;
     if (placesItself(list, item)) {
         return wholeOf(frame);
     }
@@ -200,8 +200,8 @@ PixelBox pixelsOf(const RenderItem& item, const ItemList& list, const FrameView&
         if (!(clip.w() > kLeastW)) {
             return wholeOf(frame);
         }
-        const float x = kHalf * (clip.x() / clip.w() + 1.f) * view.widthPx;
-        const float y = kHalf * (clip.y() / clip.w() + 1.f) * view.heightPx;
+        const float x = kHalf * (clip.x() / clip.w() + 1.0F) * view.widthPx;
+        const float y = kHalf * (clip.y() / clip.w() + 1.0F) * view.heightPx;
         low.setValues(std::min(low.x(), x), std::min(low.y(), y));
         high.setValues(std::max(high.x(), x), std::max(high.y(), y));
     }

@@ -23,11 +23,11 @@ struct FrameView
     osg::Matrix handleClipFromView;  ///< as drawn, of handles
     osg::Matrix usualClipFromWorld;  ///< with usual depths, for culling
     DepthLayout depth;
-    float widthPx = 1.f;  ///< device pixels
-    float heightPx = 1.f;
-    float pixelRatio = 1.f;  ///< device pixels per logical pixel
+    float widthPx = 1.0F;  ///< device pixels
+    float heightPx = 1.0F;
+    float pixelRatio = 1.0F;  ///< device pixels per logical pixel
     bool orthographic = false;
-    osg::Vec3f viewUp { 0.f, 1.f, 0.f };  ///< the world's up in view space, unit length
+    osg::Vec3f viewUp { 0.0F, 1.0F, 0.0F };  ///< the world's up in view space, unit length
 };
 
 /// The view of a frame through a camera. Sets near and far of an UberCamera to enclose the scene.

@@ -25,8 +25,8 @@ namespace {
 
 /// Handles more transparent than this are blended; their materials use tiny transparencies to get
 /// sorted.
-constexpr float kOpaqueHandleTransparency = 0.01f;
-constexpr float kRounding = 1e-6f;
+constexpr float kOpaqueHandleTransparency = 0.01F;
+constexpr float kRounding = 1e-6F;
 
 osg::UInt32 idOf(const osg::FieldContainerPtr& container)
 {
@@ -202,7 +202,7 @@ osg::UInt32 ItemList::stateFor(const osg::MaterialPtr& material, const osg::Mate
     if (handle) {
         applyChunks(state, group);
         state.transparent =
-            state.shaderId == 0 && state.alpha < 1.f - kOpaqueHandleTransparency - kRounding;
+            state.shaderId == 0 && state.alpha < 1.0F - kOpaqueHandleTransparency - kRounding;
         state.depthTest = true;
         state.depthFunc = GL_LEQUAL;
         state.depthWrite = true;

@@ -17,9 +17,9 @@ namespace {
 constexpr double kHandleDepth = 0.1;
 /// Depth units of the driver per depth step of an item: more than what two lines over the same
 /// course differ by through rounding, far less than the thickness of any handle.
-constexpr float kUnitsPerDepthStep = 16.f;
+constexpr float kUnitsPerDepthStep = 16.0F;
 constexpr GLuint kEffectBuffer = 1;
-constexpr float kPointSize = 1.f;  ///< logical pixels
+constexpr float kPointSize = 1.0F;  ///< logical pixels
 
 osg::FieldContainerPtr resolve(osg::UInt32 id)
 {
@@ -102,7 +102,7 @@ ItemPainter::~ItemPainter()
     gl.glBlendFunc(GL_ONE, GL_ZERO);
     gl.glBlendEquation(GL_FUNC_ADD);
     gl.glPolygonMode(GL_FRONT_AND_BACK, GL_FILL);
-    gl.glPolygonOffset(0.f, 0.f);
+    gl.glPolygonOffset(0.0F, 0.0F);
     gl.glFrontFace(GL_CCW);
     gl.glCullFace(GL_BACK);
     gl.glBindTexture(GL_TEXTURE_2D, 0);
@@ -137,7 +137,7 @@ void ItemPainter::draw(const RenderItem& item, const ItemList& list)
 void ItemPainter::drawCutout(const RenderItem& item, const DrawState& state, const GpuMesh& mesh)
 {
     // From here on a byte of alpha is full.
-    constexpr float kOpaque = 254.5f / 255.f;
+    constexpr float kOpaque = 254.5F / 255.0F;
     DrawState part = state;
     part.alphaValue = kOpaque;
     part.alphaFunc = GL_GEQUAL;
@@ -215,7 +215,7 @@ void ItemPainter::applyPolygons(const RenderItem& item, const DrawState& state)
         gl.glCullFace(state.cullFace);
     }
     // A mirrored object shows its triangles the other way round.
-    const bool mirrored = item.worldFromObject.det3() < 0.f;
+    const bool mirrored = item.worldFromObject.det3() < 0.0F;
     const bool counterClockwise = (state.frontFace == GL_CCW) != mirrored;
     gl.glFrontFace(counterClockwise ? GL_CCW : GL_CW);
     gl.glPolygonMode(GL_FRONT_AND_BACK, state.polygonMode);
@@ -275,7 +275,7 @@ void ItemPainter::setMaterial(GlProgram& program, const RenderItem& item, const 
     setColor(gl, program, "emissionColor", state.emission);
     program.set(gl, "shininess", state.shininess);
     const bool covers = item.handle && !item.blended;
-    program.set(gl, "opacity", covers ? 1.f : state.alpha);
+    program.set(gl, "opacity", covers ? 1.0F : state.alpha);
     program.set(gl, "vertexColors", GLint(hasColors && state.usesVertexColors ? 1 : 0));
     constexpr GLenum kFirstComparison = GL_NEVER;
     program.set(gl, "alphaTest", static_cast<GLint>(state.alphaFunc - kFirstComparison));

@@ -95,9 +95,9 @@ void MagnifierPainter::draw(Gl& gl, float pixelRatio, GLuint emptyArray)
     }
     const float radius = kRadius * pixelRatio;
     // Rows of the frame buffer run from the bottom.
-    const float x = static_cast<float>(nbMagnifierRenderer::getCursorX()) + 0.5f;
+    const float x = static_cast<float>(nbMagnifierRenderer::getCursorX()) + 0.5F;
     const float y = static_cast<float>(pictureHeight) -
-        static_cast<float>(nbMagnifierRenderer::getCursorY()) - 0.5f;
+        static_cast<float>(nbMagnifierRenderer::getCursorY()) - 0.5F;
     lens.use(gl);
     lens.set(gl, "picture", GLint(0));
     lens.set(gl, "origin", static_cast<float>(originX), static_cast<float>(originY));
@@ -110,10 +110,10 @@ void MagnifierPainter::draw(Gl& gl, float pixelRatio, GLuint emptyArray)
     gl.glBindVertexArray(emptyArray);
     // The rest of the picture costs nothing. A cursor far outside leaves nothing to be drawn.
     const auto edge = [radius](float middle) {
-        constexpr float kFarthest = 1e6f;
+        constexpr float kFarthest = 1e6F;
         return static_cast<GLint>(std::floor(std::clamp(middle - radius, -kFarthest, kFarthest)));
     };
-    const auto side = static_cast<GLsizei>(std::ceil(2.f * radius)) + 3;
+    const auto side = static_cast<GLsizei>(std::ceil(2.0F * radius)) + 3;
     gl.glEnable(GL_SCISSOR_TEST);
     gl.glScissor(edge(x) - 1, edge(y) - 1, side, side);
     gl.glEnable(GL_BLEND);

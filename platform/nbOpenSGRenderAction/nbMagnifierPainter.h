@@ -17,9 +17,9 @@ class MagnifierPainter
 {
 public:
     /// Radius of the lens with its rim, logical pixels.
-    static constexpr float kRadius = 80.f;
+    static constexpr float kRadius = 80.0F;
     /// Width of the rim, logical pixels: its inner half is white, its outer half dark.
-    static constexpr float kRim = 3.f;
+    static constexpr float kRim = 3.0F;
 
     /// Whether a viewport is that of the main render widget and its magnifier is shown.
     static bool isShown(const osg::ViewportPtr& viewport);

@@ -21,7 +21,8 @@ std::array<float, 3> triple(const osg::Pnt3f& p)
 
 osg::UInt8 toByte(float component)
 {
-    return static_cast<osg::UInt8>(std::lround(std::clamp(component, 0.f, 1.f) * float(kFullByte)));
+    return static_cast<osg::UInt8>(
+        std::lround(std::clamp(component, 0.0F, 1.0F) * float(kFullByte)));
 }
 
 /// Colour of a vertex with its alpha, which the generic reading of colours leaves out.
@@ -90,8 +91,8 @@ private:
             (it.getPosition(1) - it.getPosition(0)).cross(it.getPosition(2) - it.getPosition(0));
         // The length is squared; tiny triangles must not lose their direction to a tolerance.
         const float length = normal.length();
-        if (length > 0.f) {
-            normal *= 1.f / length;
+        if (length > 0.0F) {
+            normal *= 1.0F / length;
         }
         return { normal.x(), normal.y(), normal.z() };
     }

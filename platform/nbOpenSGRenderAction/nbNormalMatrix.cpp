@@ -6,7 +6,7 @@ namespace nbrender {
 osg::Matrix normalMatrix(const osg::Matrix& matrix)
 {
     osg::Matrix linear = matrix;
-    linear.setTranslate(0.f, 0.f, 0.f);
+    linear.setTranslate(0.0F, 0.0F, 0.0F);
     osg::Matrix result;
     if (!linear.inverse(result)) {
         return linear;

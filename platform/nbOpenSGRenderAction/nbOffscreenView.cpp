@@ -49,8 +49,8 @@ private:
 /// Element of a sequence that fills 0 .. 1 evenly, whatever its length.
 float radicalInverse(int index, int base)
 {
-    float result = 0.f;
-    float place = 1.f;
+    float result = 0.0F;
+    float place = 1.0F;
     for (int rest = index; rest > 0; rest /= base) {
         place /= static_cast<float>(base);
         result += place * static_cast<float>(rest % base);
@@ -149,10 +149,10 @@ QImage nbOffscreenView::render(const osg::ViewportPtr& viewport, int widthPx, in
     }
     std::vector<unsigned int> sums;
     for (int pass = 0; pass < count; ++pass) {
-        action.setSubpixelShift(radicalInverse(pass + 1, 2) - 0.5f,
-                                radicalInverse(pass + 1, 3) - 0.5f);
+        action.setSubpixelShift(radicalInverse(pass + 1, 2) - 0.5F,
+                                radicalInverse(pass + 1, 3) - 0.5F);
         const QImage picture = render(viewport, widthPx, heightPx);
-        action.setSubpixelShift(0.f, 0.f);
+        action.setSubpixelShift(0.0F, 0.0F);
         if (picture.isNull()) {
             return {};
         }

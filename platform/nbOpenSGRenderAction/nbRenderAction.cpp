@@ -43,9 +43,9 @@ struct nbRenderAction::Impl
     bool fail(const std::string& reason);
 
     int samples = kDefaultSamples;
-    float pixelRatio = 1.f;
-    float shiftX = 0.f;
-    float shiftY = 0.f;
+    float pixelRatio = 1.0F;
+    float shiftX = 0.0F;
+    float shiftY = 0.0F;
     bool effectShown = false;
     bool isTimed = false;
 
@@ -224,7 +224,7 @@ int nbRenderAction::getSamples() const
 
 void nbRenderAction::setPixelRatio(float ratio)
 {
-    if (ratio > 0.f) {
+    if (ratio > 0.0F) {
         impl->pixelRatio = ratio;
     }
 }

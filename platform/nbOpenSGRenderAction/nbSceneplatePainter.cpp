@@ -55,21 +55,21 @@ struct OutlineStyle
     osg::Color4f color;
 };
 
-const osg::Color4f kDarkLine(0.05f, 0.05f, 0.06f, 0.55f);
-const OutlineStyle kSelectedStyle { 2.f, 1.f, osg::Color4f(1.f, 0.72f, 0.2f, 1.f) };
-const OutlineStyle kPreselectedStyle { 1.f, 1.f, osg::Color4f(0.75f, 0.88f, 1.f, 0.9f) };
+const osg::Color4f kDarkLine(0.05F, 0.05F, 0.06F, 0.55F);
+const OutlineStyle kSelectedStyle { 2.0F, 1.0F, osg::Color4f(1.0F, 0.72F, 0.2F, 1.0F) };
+const OutlineStyle kPreselectedStyle { 1.0F, 1.0F, osg::Color4f(0.75F, 0.88F, 1.0F, 0.9F) };
 
 /// Times alpha, as blending expects it.
 osg::Color4f premultiplied(const osg::Color4f& color, float opacity)
 {
-    const float alpha = std::clamp(color.alpha(), 0.f, 1.f) * std::clamp(opacity, 0.f, 1.f);
+    const float alpha = std::clamp(color.alpha(), 0.0F, 1.0F) * std::clamp(opacity, 0.0F, 1.0F);
     return { color.red() * alpha, color.green() * alpha, color.blue() * alpha, alpha };
 }
 
 /// At least one device pixel, and whole ones, so that lines along the pixels are sharp.
 float devicePixels(float logicalPx, float pixelRatio)
 {
-    return std::max(std::floor(logicalPx * pixelRatio + 0.5f), 1.f);
+    return std::max(std::floor(logicalPx * pixelRatio + 0.5F), 1.0F);
 }
 
 }  // namespace
@@ -137,7 +137,7 @@ void SceneplatePainter::addFrontTo(osg::ContentStamp& stamp, const Frame& frame)
 
 PixelBox SceneplatePainter::frontPixels(const Frame& frame) const
 {
-    constexpr float kMarginPx = 2.f;
+    constexpr float kMarginPx = 2.0F;
     PixelBox box;
     for (const Quad& quad : frontQuads(frame)) {
         const osg::Pnt2f far = quad.origin + quad.x + quad.y;
@@ -246,7 +246,7 @@ SceneplatePainter::Quad SceneplatePainter::plateQuad(const Frame& frame,
     }
     quad.image = nbSceneplatePicture::imageOf(plate);
     const osg::Color4f color =
-        quad.image != osg::NullFC ? osg::Color4f(1.f, 1.f, 1.f, 1.f) : plate->getColor();
+        quad.image != osg::NullFC ? osg::Color4f(1.0F, 1.0F, 1.0F, 1.0F) : plate->getColor();
     quad.color = premultiplied(color, plate->getOpacity());
     return quad;
 }
@@ -271,10 +271,10 @@ void SceneplatePainter::addMarker(Quads& quads, const Frame& frame, const osg::S
             quad.origin = begin + outwards * inner - unit * inner;
             quad.x = along + unit * (inner + outer);
             quad.y = outwards * (outer - inner);
-            quad.color = premultiplied(color, 1.f);
+            quad.color = premultiplied(color, 1.0F);
             quads.push_back(quad);
         };
-        addLine(0.f, bright, style.color);
+        addLine(0.0F, bright, style.color);
         addLine(bright, bright + dark, kDarkLine);
     }
 }

@@ -80,7 +80,7 @@ bool resolvePlanar(const osg::ColorComponentSettingsPtr& settings, ProjectedPict
 
 bool resolveTriplanar(const osg::ColorComponentSettingsPtr& settings, ProjectedPicture& picture)
 {
-    constexpr float kHundredth = 0.01f;
+    constexpr float kHundredth = 0.01F;
     const osg::Vec3f& rotation = settings->getTriplanarRotation();
     if (!isFinite(rotation)) {
         return false;
@@ -95,7 +95,7 @@ bool resolveTriplanar(const osg::ColorComponentSettingsPtr& settings, ProjectedP
             kHundredth;
     };
     // The inverse of a turn has its rows as columns.
-    picture.pictureFromSurface = matrixOf(row(0), row(1), row(2), osg::Vec3f(0.f, 0.f, 0.f));
+    picture.pictureFromSurface = matrixOf(row(0), row(1), row(2), osg::Vec3f(0.0F, 0.0F, 0.0F));
     for (osg::UInt32 i = 0; i < ProjectedPicture::kTileCount; ++i) {
         const float repeatU = settings->getTriplanarRepeatU()[i];
         const float repeatV = settings->getTriplanarRepeatV()[i];
@@ -109,32 +109,32 @@ bool resolveTriplanar(const osg::ColorComponentSettingsPtr& settings, ProjectedP
 bool resolveUv(const osg::ColorComponentSettingsPtr& settings, ProjectedPicture& picture)
 {
     constexpr double kRadiansPerDegree = 0.017453292519943295;
-    constexpr float kHalf = 0.5f;
+    constexpr float kHalf = 0.5F;
     const osg::Vec2f& offset = settings->getOffset();
     const osg::Vec2f& repeat = settings->getRepeat();
     const double angle = settings->getRotate() * kRadiansPerDegree;
     const auto cosine = static_cast<float>(std::cos(angle));
     const auto sine = static_cast<float>(std::sin(angle));
     // A picture that turns clockwise is looked up counter-clockwise.
-    const osg::Vec3f u(cosine * repeat.x(), sine * repeat.y(), 0.f);
-    const osg::Vec3f v(-sine * repeat.x(), cosine * repeat.y(), 0.f);
-    const osg::Vec3f middle(kHalf * repeat.x(), kHalf * repeat.y(), 0.f);
+    const osg::Vec3f u(cosine * repeat.x(), sine * repeat.y(), 0.0F);
+    const osg::Vec3f v(-sine * repeat.x(), cosine * repeat.y(), 0.0F);
+    const osg::Vec3f middle(kHalf * repeat.x(), kHalf * repeat.y(), 0.0F);
     picture.pictureFromSurface =
-        matrixOf(u, v, osg::Vec3f(0.f, 0.f, 1.f),
+        matrixOf(u, v, osg::Vec3f(0.0F, 0.0F, 1.0F),
                  middle - u * (offset.x() + kHalf) - v * (offset.y() + kHalf));
     return std::isnormal(repeat.x()) && std::isnormal(repeat.y());
 }
 
 bool resolveTire(const osg::ColorComponentSettingsPtr& settings, ProjectedPicture& picture)
 {
-    constexpr float kHalf = 0.5f;
+    constexpr float kHalf = 0.5F;
     const osg::Vec3f& center = settings->getTireCenter();
-    const float alongScale = 1.f / settings->getTireScaleHeight();
-    const float acrossScale = 1.f / settings->getTireScaleRadius();
+    const float alongScale = 1.0F / settings->getTireScaleHeight();
+    const float acrossScale = 1.0F / settings->getTireScaleRadius();
     picture.pictureFromSurface = matrixOf(
-        { alongScale, 0.f, 0.f }, { 0.f, acrossScale, 0.f }, { 0.f, 0.f, acrossScale },
+        { alongScale, 0.0F, 0.0F }, { 0.0F, acrossScale, 0.0F }, { 0.0F, 0.0F, acrossScale },
         { -center.x() * alongScale, -center.y() * acrossScale, -center.z() * acrossScale });
-    picture.tiles.front() = osg::Vec4f(1.f / settings->getTireScaleU(), 1.f, kHalf, kHalf);
+    picture.tiles.front() = osg::Vec4f(1.0F / settings->getTireScaleU(), 1.0F, kHalf, kHalf);
     return std::isnormal(alongScale) && std::isnormal(acrossScale) && isTile(picture.tiles.front());
 }
 

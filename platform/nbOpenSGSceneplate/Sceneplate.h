@@ -17,20 +17,20 @@ class NB_PLATFORM_API Sceneplate;
 NB_CONTAINER_POINTER(Sceneplate, GroupPtr);
 
 /// Size of a new plate, heights of the view.
-inline constexpr Real32 kSceneplateSize = 0.25f;
+inline constexpr Real32 kSceneplateSize = 0.25F;
 
 // clang-format off
 #define NB_SCENEPLATE_FIELDS(VALUE, OWNED, LINK)                                                   \
     OWNED(Image, image, ImagePtr)                                                                  \
-    VALUE(Color, color, Color4f, Color4f(1.f, 1.f, 1.f, 1.f))                                      \
+    VALUE(Color, color, Color4f, Color4f(1.0F, 1.0F, 1.0F, 1.0F))                                      \
     VALUE(Anchor, anchor, Int32, 4)                                                                \
-    VALUE(Position, position, Vec2f, Vec2f(0.f, 0.f))                                              \
+    VALUE(Position, position, Vec2f, Vec2f(0.0F, 0.0F))                                              \
     VALUE(Size, size, Vec2f, Vec2f(kSceneplateSize, kSceneplateSize))                              \
-    VALUE(Scale, scale, Real32, 1.f)                                                               \
-    VALUE(Rotation, rotation, Real32, 0.f)                                                         \
+    VALUE(Scale, scale, Real32, 1.0F)                                                               \
+    VALUE(Rotation, rotation, Real32, 0.0F)                                                         \
     VALUE(Front, front, bool, true)                                                                \
     VALUE(Order, order, Int32, 0)                                                                  \
-    VALUE(Opacity, opacity, Real32, 1.f)                                                           \
+    VALUE(Opacity, opacity, Real32, 1.0F)                                                           \
     VALUE(Visible, visible, bool, true)                                                            \
     VALUE(Marker, marker, Int32, 0)
 

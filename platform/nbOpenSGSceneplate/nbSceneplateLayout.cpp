@@ -8,7 +8,7 @@
 namespace {
 
 constexpr double kDegree = 3.14159265358979323846 / 180.0;
-constexpr float kQuarterDeg = 90.f;
+constexpr float kQuarterDeg = 90.0F;
 
 struct Point
 {
@@ -31,7 +31,7 @@ osg::Pnt2f toPnt(const Point& point)
 
 bool isQuarterTurn(float degrees)
 {
-    return std::fmod(degrees, kQuarterDeg) == 0.f;
+    return std::fmod(degrees, kQuarterDeg) == 0.0F;
 }
 
 /// Cosine and sine; exact for quarter turns.
@@ -41,9 +41,9 @@ Point direction(float degrees)
         return { std::cos(degrees * kDegree), std::sin(degrees * kDegree) };
     }
     constexpr Point kQuarters[] = { { 1.0, 0.0 }, { 0.0, 1.0 }, { -1.0, 0.0 }, { 0.0, -1.0 } };
-    constexpr float kWhole = 360.f;
+    constexpr float kWhole = 360.0F;
     const float rest = std::fmod(degrees, kWhole);
-    return kQuarters[static_cast<int>((rest < 0.f ? rest + kWhole : rest) / kQuarterDeg) % 4];
+    return kQuarters[static_cast<int>((rest < 0.0F ? rest + kWhole : rest) / kQuarterDeg) % 4];
 }
 
 Point anchorPoint(osg::Int32 anchor, int widthPx, int heightPx)
@@ -125,7 +125,7 @@ std::array<Point, 4> cornersOf(const Rectangle& rectangle)
 osg::Pnt2f nbSceneplateLayout::anchorPosition(osg::Int32 anchor, int widthPx, int heightPx)
 {
     return widthPx > 0 && heightPx > 0 ? toPnt(anchorPoint(anchor, widthPx, heightPx))
-                                       : osg::Pnt2f(0.f, 0.f);
+                                       : osg::Pnt2f(0.0F, 0.0F);
 }
 
 bool nbSceneplateLayout::isShown(const osg::SceneplatePtr& plate)
@@ -140,7 +140,8 @@ bool nbSceneplateLayout::isShown(const osg::SceneplatePtr& plate)
     // Not finite: also false in the comparisons.
     return std::all_of(std::begin(numbers), std::end(numbers),
                        [](float number) { return std::isfinite(number); }) &&
-        plate->getScale() > 0.f && size.x() > 0.f && size.y() > 0.f && plate->getOpacity() > 0.f;
+        plate->getScale() > 0.0F && size.x() > 0.0F && size.y() > 0.0F &&
+        plate->getOpacity() > 0.0F;
 }
 
 bool nbSceneplateLayout::isOnPixels(const osg::SceneplatePtr& plate)
@@ -217,7 +218,7 @@ bool nbSceneplateLayout::contains(const osg::SceneplatePtr& plate, const osg::Pn
 osg::Vec2f nbSceneplateLayout::toOffset(const osg::Vec2f& px, int heightPx)
 {
     if (heightPx <= 0) {
-        return osg::Vec2f(0.f, 0.f);
+        return osg::Vec2f(0.0F, 0.0F);
     }
     const auto unit = static_cast<float>(heightPx);
     return osg::Vec2f(px.x() / unit, -px.y() / unit);

@@ -29,9 +29,9 @@ public:
     /// An upright rectangle turned about its centre.
     struct Frame
     {
-        osg::Pnt2f centre { 0.f, 0.f };  ///< device pixels
-        osg::Vec2f size { 0.f, 0.f };  ///< width and height in its own frame, device pixels
-        osg::Real32 rotation = 0.f;  ///< degrees, counter-clockwise on screen
+        osg::Pnt2f centre { 0.0F, 0.0F };  ///< device pixels
+        osg::Vec2f size { 0.0F, 0.0F };  ///< width and height in its own frame, device pixels
+        osg::Real32 rotation = 0.0F;  ///< degrees, counter-clockwise on screen
     };
 
     /// The place of the view that positions count from.

@@ -42,14 +42,14 @@ osg::ImagePtr nbSceneplatePicture::imageOf(const osg::SceneplatePtr& plate)
 osg::Real32 nbSceneplatePicture::alphaAt(const osg::SceneplatePtr& plate,
                                          const osg::Pnt2f& position)
 {
-    constexpr float kOpaque = 255.f;
+    constexpr float kOpaque = 255.0F;
     const osg::ImagePtr image = imageOf(plate);
     if (image == osg::NullFC) {
         return plate->getColor().alpha();
     }
     const int component = alphaComponent(image->getPixelFormat());
     if (component < 0) {
-        return 1.f;
+        return 1.0F;
     }
     const osg::Int32 x = pixelAt(position.x(), image->getWidth());
     const osg::Int32 y = pixelAt(position.y(), image->getHeight());

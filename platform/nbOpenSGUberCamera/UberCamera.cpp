@@ -15,8 +15,8 @@ NB_CONTAINER_TYPE(UberCamera, PerspectiveCamera, UBER_CAMERA_FIELDS);
 
 namespace {
 
-constexpr Real32 kStartNear = 0.1f;
-constexpr Real32 kStartFar = 1000.f;
+constexpr Real32 kStartNear = 0.1F;
+constexpr Real32 kStartFar = 1000.0F;
 constexpr Real64 kRadPerDeg = 3.14159265358979323846 / 180.0;
 /// Nearest near plane of a perspective, world units.
 constexpr Real64 kSmallestNear = 1e-6;
@@ -114,7 +114,7 @@ bool UberCamera::setPose(const CameraPose& pose)
 
 void UberCamera::resizeView(Real32 aspect)
 {
-    if (!std::isfinite(aspect) || aspect <= 0.f) {
+    if (!std::isfinite(aspect) || aspect <= 0.0F) {
         return;
     }
     const nbEdit edit(UberCameraPtr(*this), ViewAspectFieldMask | FovFieldMask);
@@ -216,8 +216,8 @@ void UberCamera::getProjection(Matrix& result, UInt32 width, UInt32 height)
     }
     result[2][2] = toFloat(-sum / depth);
     result[3][2] = toFloat(-2.0 * range.farthest * range.nearest / depth);
-    result[2][3] = -1.f;
-    result[3][3] = 0.f;
+    result[2][3] = -1.0F;
+    result[3][3] = 0.0F;
 }
 
 void UberCamera::getViewing(Matrix& result, UInt32 width, UInt32 height)
@@ -236,7 +236,7 @@ void UberCamera::changed(BitVector whichField, UInt32 origin)
 
 bool UberCamera::applyStartValues()
 {
-    if (getFov() == 0.f && getNear() == 0.f && getFar() == 0.f) {
+    if (getFov() == 0.0F && getNear() == 0.0F && getFar() == 0.0F) {
         setFov(nbCameraNavigation::kDefaultFovDeg);
         setNear(kStartNear);
         setFar(kStartFar);
@@ -260,7 +260,7 @@ void UberCamera::updateBeacon()
     }
     const nbCameraNavigation::Axes axes = nbCameraNavigation::axes(pose);
     Matrix worldFromCamera(axes.right, axes.up, axes.back, pose.from.subZero());
-    worldFromCamera[3][3] = 1.f;
+    worldFromCamera[3][3] = 1.0F;
     const TransformPtr core = TransformPtr::dcast(internalParentNode->getCore());
     if (core != NullFC) {
         const nbEdit edit(core, Transform::MatrixFieldMask);

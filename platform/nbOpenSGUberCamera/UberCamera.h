@@ -18,13 +18,13 @@ namespace osg {
 NB_CONTAINER_POINTER(UberCamera, PerspectiveCameraPtr);
 
 #define UBER_CAMERA_FIELDS(VALUE, OWNED, LINK)                                                     \
-    VALUE(From, from, Pnt3f, Pnt3f(0.f, 0.f, 0.f))                                                 \
-    VALUE(At, at, Pnt3f, Pnt3f(0.f, 0.f, -1.f))                                                    \
-    VALUE(Up, up, Vec3f, Vec3f(0.f, 1.f, 0.f))                                                     \
-    VALUE(Pivot, pivot, Pnt3f, Pnt3f(0.f, 0.f, -1.f))                                              \
+    VALUE(From, from, Pnt3f, Pnt3f(0.0F, 0.0F, 0.0F))                                              \
+    VALUE(At, at, Pnt3f, Pnt3f(0.0F, 0.0F, -1.0F))                                                 \
+    VALUE(Up, up, Vec3f, Vec3f(0.0F, 1.0F, 0.0F))                                                  \
+    VALUE(Pivot, pivot, Pnt3f, Pnt3f(0.0F, 0.0F, -1.0F))                                           \
     VALUE(Orthographic, orthographic, bool, false)                                                 \
     VALUE(ZUp, zUp, bool, false)                                                                   \
-    VALUE(ViewAspect, viewAspect, Real32, 1.f)                                                     \
+    VALUE(ViewAspect, viewAspect, Real32, 1.0F)                                                    \
     VALUE(HorizontalSizing, horizontalSizing, bool, false)
 
 /// Camera of the host: perspective or orthographic, placed by eye, centre and up vector.
@@ -52,10 +52,10 @@ public:
     /// depth buffer of 24 bits then still parts what is a hundredth of its distance apart at the
     /// far end (2^-24 Far / Near = 0.006), and ever finer before it. Handles, which get a tenth of
     /// the range, are parted ten times as coarsely.
-    static constexpr Real32 kMostDepthRatio = 1e5f;
+    static constexpr Real32 kMostDepthRatio = 1e5F;
     /// Part of their distance that handles reach towards the eye and away from it, at most: gizmos
     /// have a constant size on screen, so their extent grows with the distance.
-    static constexpr Real32 kHandleReach = 0.5f;
+    static constexpr Real32 kHandleReach = 0.5F;
 
     /// From, At, Up in world space, whatever the index: a camera shows one view.
     Pnt3f getFrom(Int32 index) const;

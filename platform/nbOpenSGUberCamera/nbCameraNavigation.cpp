@@ -235,7 +235,7 @@ nbCameraNavigation::Axes nbCameraNavigation::axes(const CameraPose& pose)
 
 Real32 nbCameraNavigation::usableFovDeg(Real32 fovDeg)
 {
-    if (!std::isfinite(fovDeg) || fovDeg <= 0.f) {
+    if (!std::isfinite(fovDeg) || fovDeg <= 0.0F) {
         return kDefaultFovDeg;
     }
     return std::clamp(fovDeg, kSmallestFovDeg, kLargestFovDeg);
@@ -307,7 +307,7 @@ CameraPose nbCameraNavigation::pan(const CameraPose& start, Real32 dxPx, Real32 
 
 CameraPose nbCameraNavigation::zoom(const CameraPose& start, Real32 factor, const Pnt3f& target)
 {
-    if (!std::isfinite(factor) || factor <= 0.f || !isFinitePoint(target) || !isFinite(start)) {
+    if (!std::isfinite(factor) || factor <= 0.0F || !isFinitePoint(target) || !isFinite(start)) {
         return start;
     }
     const Basis basis = basisOf(start);
@@ -337,7 +337,7 @@ CameraPose nbCameraNavigation::frame(const CameraPose& start, const Pnt3f& bound
     }
     const Vec3d centre = (toDouble(boundsMin) + toDouble(boundsMax)) * 0.5;
     const Basis basis = basisOf(start);
-    const Real64 usableAspect = std::isfinite(aspect) && aspect > 0.f ? aspect : 1.0;
+    const Real64 usableAspect = std::isfinite(aspect) && aspect > 0.0F ? aspect : 1.0;
     const Real64 tightest = tightestDistance(start, basis, halfSize, usableAspect);
     CameraPose result = start;
     result.at = toPoint(centre);

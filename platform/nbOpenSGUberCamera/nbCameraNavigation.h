@@ -12,12 +12,12 @@
 struct CameraPose
 {
     /// Field of view of a new camera and of one whose own is not usable, degrees.
-    static constexpr osg::Real32 kDefaultFovDeg = 45.f;
+    static constexpr osg::Real32 kDefaultFovDeg = 45.0F;
 
-    osg::Pnt3f from { 0.f, 0.f, 0.f };  ///< the eye
-    osg::Pnt3f at { 0.f, 0.f, -1.f };  ///< a point on the view axis
-    osg::Vec3f up { 0.f, 1.f, 0.f };  ///< any length, need not be perpendicular to the axis
-    osg::Pnt3f pivot { 0.f, 0.f, -1.f };  ///< what the view turns about
+    osg::Pnt3f from { 0.0F, 0.0F, 0.0F };  ///< the eye
+    osg::Pnt3f at { 0.0F, 0.0F, -1.0F };  ///< a point on the view axis
+    osg::Vec3f up { 0.0F, 1.0F, 0.0F };  ///< any length, need not be perpendicular to the axis
+    osg::Pnt3f pivot { 0.0F, 0.0F, -1.0F };  ///< what the view turns about
     osg::Real32 fovDeg = kDefaultFovDeg;  ///< vertical opening angle
     bool orthographic = false;
     bool zUp = false;  ///< world up is z instead of y
@@ -54,15 +54,15 @@ public:
     /// Field of view that a camera gets when its own is not usable, degrees.
     static constexpr osg::Real32 kDefaultFovDeg = CameraPose::kDefaultFovDeg;
     /// Range in which a field of view is used, degrees.
-    static constexpr osg::Real32 kSmallestFovDeg = 0.01f;
-    static constexpr osg::Real32 kLargestFovDeg = 175.f;
+    static constexpr osg::Real32 kSmallestFovDeg = 0.01F;
+    static constexpr osg::Real32 kLargestFovDeg = 175.0F;
     /// The view never comes nearer to the pole than this when it orbits, degrees of elevation.
-    static constexpr osg::Real32 kSteepestElevationDeg = 89.9f;
+    static constexpr osg::Real32 kSteepestElevationDeg = 89.9F;
     /// Bounds within which zooming keeps the distance of from and at, world units.
-    static constexpr osg::Real32 kNearestDistance = 1e-5f;
-    static constexpr osg::Real32 kFarthestDistance = 1e8f;
+    static constexpr osg::Real32 kNearestDistance = 1e-5F;
+    static constexpr osg::Real32 kFarthestDistance = 1e8F;
     /// Room that frame() leaves around the bounds: distance over the tightest distance.
-    static constexpr osg::Real32 kFrameMargin = 1.1f;
+    static constexpr osg::Real32 kFrameMargin = 1.1F;
 
     /// World up of a pose: y, or z.
     static osg::Vec3f worldUp(const CameraPose& pose);

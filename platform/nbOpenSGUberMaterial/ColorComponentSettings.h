@@ -20,18 +20,18 @@ NB_CONTAINER_POINTER(ColorComponentSettings, AttachmentContainerPtr);
     VALUE(TextureProjectionType, textureProjectionType, Int32, 1)                                  \
     VALUE(AsMask, asMask, bool, false)                                                             \
     VALUE(Invert, invert, bool, false)                                                             \
-    VALUE(Rotate, rotate, Real32, 0.f)                                                             \
-    VALUE(Offset, offset, Vec2f, Vec2f(0.f, 0.f))                                                  \
-    VALUE(Repeat, repeat, Vec2f, Vec2f(1.f, 1.f))                                                  \
-    VALUE(TriplanarRotation, triplanarRotation, Vec3f, Vec3f(0.f, 0.f, 0.f))                       \
-    VALUE(TriplanarOffsetU, triplanarOffsetU, Vec3f, Vec3f(0.f, 0.f, 0.f))                         \
-    VALUE(TriplanarOffsetV, triplanarOffsetV, Vec3f, Vec3f(0.f, 0.f, 0.f))                         \
-    VALUE(TriplanarRepeatU, triplanarRepeatU, Vec3f, Vec3f(1.f, 1.f, 1.f))                         \
-    VALUE(TriplanarRepeatV, triplanarRepeatV, Vec3f, Vec3f(1.f, 1.f, 1.f))                         \
-    VALUE(TireCenter, tireCenter, Vec3f, Vec3f(0.f, 0.f, 0.f))                                     \
-    VALUE(TireScaleU, tireScaleU, Real32, 1.f)                                                     \
-    VALUE(TireScaleHeight, tireScaleHeight, Real32, 1.f)                                           \
-    VALUE(TireScaleRadius, tireScaleRadius, Real32, 1.f)                                           \
+    VALUE(Rotate, rotate, Real32, 0.0F)                                                             \
+    VALUE(Offset, offset, Vec2f, Vec2f(0.0F, 0.0F))                                                  \
+    VALUE(Repeat, repeat, Vec2f, Vec2f(1.0F, 1.0F))                                                  \
+    VALUE(TriplanarRotation, triplanarRotation, Vec3f, Vec3f(0.0F, 0.0F, 0.0F))                       \
+    VALUE(TriplanarOffsetU, triplanarOffsetU, Vec3f, Vec3f(0.0F, 0.0F, 0.0F))                         \
+    VALUE(TriplanarOffsetV, triplanarOffsetV, Vec3f, Vec3f(0.0F, 0.0F, 0.0F))                         \
+    VALUE(TriplanarRepeatU, triplanarRepeatU, Vec3f, Vec3f(1.0F, 1.0F, 1.0F))                         \
+    VALUE(TriplanarRepeatV, triplanarRepeatV, Vec3f, Vec3f(1.0F, 1.0F, 1.0F))                         \
+    VALUE(TireCenter, tireCenter, Vec3f, Vec3f(0.0F, 0.0F, 0.0F))                                     \
+    VALUE(TireScaleU, tireScaleU, Real32, 1.0F)                                                     \
+    VALUE(TireScaleHeight, tireScaleHeight, Real32, 1.0F)                                           \
+    VALUE(TireScaleRadius, tireScaleRadius, Real32, 1.0F)                                           \
     VALUE(TireAutoParameter, tireAutoParameter, bool, true)
 
 // clang-format on

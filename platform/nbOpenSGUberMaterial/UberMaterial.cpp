@@ -37,7 +37,7 @@ void UberMaterial::setComponentSettings(const std::string& component,
 Vec2f UberMaterial::getRepeat(const std::string& component) const
 {
     const ColorComponentSettingsPtr settings = getComponentSettings(component);
-    return settings == NullFC ? Vec2f(1.f, 1.f) : settings->getRepeat();
+    return settings == NullFC ? Vec2f(1.0F, 1.0F) : settings->getRepeat();
 }
 
 ImagePtr UberMaterial::getImage(const std::string& component) const

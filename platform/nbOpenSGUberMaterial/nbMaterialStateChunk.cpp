@@ -54,13 +54,13 @@ Vec3f nbMaterialStateChunk::getTriplanarRotation(const std::string& component) c
 Vec2f nbMaterialStateChunk::getTriplanarOffset(const std::string& component, UInt32 axis) const
 {
     const nbTextureValues values = valuesOf(component);
-    return element(values.triplanarOffsetU, values.triplanarOffsetV, axis, 0.f);
+    return element(values.triplanarOffsetU, values.triplanarOffsetV, axis, 0.0F);
 }
 
 Vec2f nbMaterialStateChunk::getTriplanarRepeat(const std::string& component, UInt32 axis) const
 {
     const nbTextureValues values = valuesOf(component);
-    return element(values.triplanarRepeatU, values.triplanarRepeatV, axis, 1.f);
+    return element(values.triplanarRepeatU, values.triplanarRepeatV, axis, 1.0F);
 }
 
 Real32 nbMaterialStateChunk::getRotate(const std::string& component) const

@@ -17,50 +17,50 @@ bool nbStateChunkBase::hasComponent(const std::string&) const
 
 Vec3f nbStateChunkBase::getTriplanarRotation(const std::string&) const
 {
-    return { 0.f, 0.f, 0.f };
+    return { 0.0F, 0.0F, 0.0F };
 }
 
 Vec2f nbStateChunkBase::getTriplanarOffset(const std::string&, UInt32) const
 {
-    return { 0.f, 0.f };
+    return { 0.0F, 0.0F };
 }
 
 Vec2f nbStateChunkBase::getTriplanarRepeat(const std::string&, UInt32) const
 {
-    return { 1.f, 1.f };
+    return { 1.0F, 1.0F };
 }
 
 Real32 nbStateChunkBase::getRotate(const std::string&) const
 {
-    return 0.f;
+    return 0.0F;
 }
 
 Vec2f nbStateChunkBase::getOffset(const std::string&) const
 {
-    return { 0.f, 0.f };
+    return { 0.0F, 0.0F };
 }
 
 Vec2f nbStateChunkBase::getRepeat(const std::string&) const
 {
-    return { 1.f, 1.f };
+    return { 1.0F, 1.0F };
 }
 
 Vec3f nbStateChunkBase::getTireCenter(const std::string&) const
 {
-    return { 0.f, 0.f, 0.f };
+    return { 0.0F, 0.0F, 0.0F };
 }
 
 Real32 nbStateChunkBase::getTireScaleU(const std::string&) const
 {
-    return 1.f;
+    return 1.0F;
 }
 
 Real32 nbStateChunkBase::getTireScaleHeight(const std::string&) const
 {
-    return 1.f;
+    return 1.0F;
 }
 
 Real32 nbStateChunkBase::getTireScaleRadius(const std::string&) const
 {
-    return 1.f;
+    return 1.0F;
 }

@@ -11,20 +11,20 @@
 /// ColorComponentSettings explains. A fresh one has the values of fresh settings.
 struct NB_PLATFORM_API nbTextureValues
 {
-    osg::Vec2f offset { 0.f, 0.f };
-    osg::Vec2f repeat { 1.f, 1.f };
-    osg::Real32 rotate = 0.f;  ///< degrees
+    osg::Vec2f offset { 0.0F, 0.0F };
+    osg::Vec2f repeat { 1.0F, 1.0F };
+    osg::Real32 rotate = 0.0F;  ///< degrees
 
-    osg::Vec3f triplanarRotation { 0.f, 0.f, 0.f };  ///< radians
-    osg::Vec3f triplanarOffsetU { 0.f, 0.f, 0.f };
-    osg::Vec3f triplanarOffsetV { 0.f, 0.f, 0.f };
-    osg::Vec3f triplanarRepeatU { 1.f, 1.f, 1.f };
-    osg::Vec3f triplanarRepeatV { 1.f, 1.f, 1.f };
+    osg::Vec3f triplanarRotation { 0.0F, 0.0F, 0.0F };  ///< radians
+    osg::Vec3f triplanarOffsetU { 0.0F, 0.0F, 0.0F };
+    osg::Vec3f triplanarOffsetV { 0.0F, 0.0F, 0.0F };
+    osg::Vec3f triplanarRepeatU { 1.0F, 1.0F, 1.0F };
+    osg::Vec3f triplanarRepeatV { 1.0F, 1.0F, 1.0F };
 
-    osg::Vec3f tireCenter { 0.f, 0.f, 0.f };
-    osg::Real32 tireScaleU = 1.f;
-    osg::Real32 tireScaleHeight = 1.f;
-    osg::Real32 tireScaleRadius = 1.f;
+    osg::Vec3f tireCenter { 0.0F, 0.0F, 0.0F };
+    osg::Real32 tireScaleU = 1.0F;
+    osg::Real32 tireScaleHeight = 1.0F;
+    osg::Real32 tireScaleRadius = 1.0F;
     bool tireAutoParameter = true;
 
     static nbTextureValues of(const osg::ColorComponentSettings& settings);

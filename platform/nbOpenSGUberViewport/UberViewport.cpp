@@ -16,14 +16,14 @@ void UberViewport::setDeviceSize(Int32 width, Int32 height)
     setDeviceWidth(std::max(width, Int32(0)));
     setDeviceHeight(std::max(height, Int32(0)));
     // Edges up to 1 are parts of the window; all of them 0 is the form without an area.
-    const Real32 whole = getDeviceWidth() > 0 && getDeviceHeight() > 0 ? 1.f : 0.f;
-    setSize(0.f, 0.f, whole, whole);
+    const Real32 whole = getDeviceWidth() > 0 && getDeviceHeight() > 0 ? 1.0F : 0.0F;
+    setSize(0.0F, 0.0F, whole, whole);
 }
 
 Real32 UberViewport::getDeviceAspect() const
 {
     if (getDeviceWidth() <= 0 || getDeviceHeight() <= 0) {
-        return 1.f;
+        return 1.0F;
     }
     return static_cast<Real32>(getDeviceWidth()) / static_cast<Real32>(getDeviceHeight());
 }

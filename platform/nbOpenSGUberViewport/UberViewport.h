@@ -15,18 +15,18 @@ namespace osg {
 NB_CONTAINER_POINTER(UberViewport, ViewportPtr);
 
 /// Colours that the background of a new viewport has, red, green, blue.
-inline constexpr Real32 kUberViewportTop[] = { 0.30f, 0.33f, 0.37f };
-inline constexpr Real32 kUberViewportBottom[] = { 0.13f, 0.14f, 0.16f };
+inline constexpr Real32 kUberViewportTop[] = { 0.30F, 0.33F, 0.37F };
+inline constexpr Real32 kUberViewportBottom[] = { 0.13F, 0.14F, 0.16F };
 
 #define UBER_VIEWPORT_FIELDS(VALUE, OWNED, LINK)                                                   \
     VALUE(BackgroundTop, backgroundTop, Color4f,                                                   \
-          Color4f(kUberViewportTop[0], kUberViewportTop[1], kUberViewportTop[2], 1.f))             \
+          Color4f(kUberViewportTop[0], kUberViewportTop[1], kUberViewportTop[2], 1.0F))            \
     VALUE(BackgroundBottom, backgroundBottom, Color4f,                                             \
-          Color4f(kUberViewportBottom[0], kUberViewportBottom[1], kUberViewportBottom[2], 1.f))    \
+          Color4f(kUberViewportBottom[0], kUberViewportBottom[1], kUberViewportBottom[2], 1.0F))   \
     VALUE(DeviceWidth, deviceWidth, Int32, 0)                                                      \
     VALUE(DeviceHeight, deviceHeight, Int32, 0)                                                    \
     OWNED(Photograph, photograph, ImagePtr)                                                        \
-    VALUE(PhotographVeil, photographVeil, Real32, 0.f)
+    VALUE(PhotographVeil, photographVeil, Real32, 0.0F)
 
 /// Viewport of the host: knows its size in device pixels and the two colours of its background, a
 /// vertical gradient from BackgroundTop to BackgroundBottom that the renderer paints (components

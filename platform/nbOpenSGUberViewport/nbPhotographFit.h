@@ -14,10 +14,10 @@
 /// shape.
 struct nbPhotographFit
 {
-    osg::Real32 left = 0.f;
-    osg::Real32 bottom = 0.f;
-    osg::Real32 width = 0.f;
-    osg::Real32 height = 0.f;
+    osg::Real32 left = 0.0F;
+    osg::Real32 bottom = 0.0F;
+    osg::Real32 width = 0.0F;
+    osg::Real32 height = 0.0F;
 
     /// @param imageWidth, imageHeight  of the photograph, its own pixels; 0: an empty fit
     /// @param viewWidth, viewHeight    device pixels

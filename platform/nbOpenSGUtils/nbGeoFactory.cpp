@@ -25,12 +25,12 @@ osg::NodePtr nbGeoFactory::makeLine(float length)
 
 osg::GeometryPtr nbGeoFactory::makeLineGeo(float length)
 {
-    if (!(length > 0.f)) {
+    if (!(length > 0.0F)) {
         return osg::NullFC;
     }
-    return makeGeo(GL_LINES,
-                   { osg::Pnt3f(0.f, -0.5f * length, 0.f), osg::Pnt3f(0.f, 0.5f * length, 0.f) },
-                   { 0, 1 });
+    return makeGeo(
+        GL_LINES, { osg::Pnt3f(0.0F, -0.5F * length, 0.0F), osg::Pnt3f(0.0F, 0.5F * length, 0.0F) },
+        { 0, 1 });
 }
 
 osg::NodePtr nbGeoFactory::makeLineTorus(float radius, osg::UInt16 segments, bool dashed)
@@ -40,7 +40,7 @@ osg::NodePtr nbGeoFactory::makeLineTorus(float radius, osg::UInt16 segments, boo
 
 osg::GeometryPtr nbGeoFactory::makeLineTorusGeo(float radius, osg::UInt16 segments, bool dashed)
 {
-    if (!(radius > 0.f) || segments < 3) {
+    if (!(radius > 0.0F) || segments < 3) {
         return osg::NullFC;
     }
     constexpr double kFullTurn = 2.0 * 3.14159265358979323846;
@@ -48,7 +48,7 @@ osg::GeometryPtr nbGeoFactory::makeLineTorusGeo(float radius, osg::UInt16 segmen
     std::vector<osg::UInt32> pointIndices;
     for (osg::UInt32 i = 0; i < segments; ++i) {
         const double angle = kFullTurn * i / segments;
-        points.emplace_back(static_cast<float>(radius * std::cos(angle)), 0.f,
+        points.emplace_back(static_cast<float>(radius * std::cos(angle)), 0.0F,
                             static_cast<float>(radius * std::sin(angle)));
         if (!dashed || i % 2 == 0) {
             pointIndices.push_back(i);

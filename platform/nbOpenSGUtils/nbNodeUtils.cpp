@@ -53,7 +53,7 @@ void nameGeometries(const osg::NodePtr& node, const std::string& name)
 /// Rotation and scale of a plain matrix, read off the lengths of its columns.
 struct MatrixParts
 {
-    osg::Vec3f scale { 1.f, 1.f, 1.f };
+    osg::Vec3f scale { 1.0F, 1.0F, 1.0F };
     osg::Quaternion rotation;
 };
 
@@ -69,7 +69,7 @@ MatrixParts partsOf(const osg::Matrix& matrix)
             turn[column][row] = axis[row];
         }
     }
-    if (turn.det3() < 0.f) {
+    if (turn.det3() < 0.0F) {
         parts.scale[0] = -parts.scale[0];
         for (osg::UInt32 row = 0; row < 3; ++row) {
             turn[0][row] = -turn[0][row];
@@ -233,7 +233,7 @@ osg::Vec3f nbNodeUtils::getTransformNodeTranslation(const osg::NodePtr& node)
         const osg::Matrix& matrix = transform->getMatrix();
         return { matrix[3][0], matrix[3][1], matrix[3][2] };
     }
-    return { 0.f, 0.f, 0.f };
+    return { 0.0F, 0.0F, 0.0F };
 }
 
 osg::Vec3f nbNodeUtils::getTransformNodeScale(const osg::NodePtr& node)
@@ -245,7 +245,7 @@ osg::Vec3f nbNodeUtils::getTransformNodeScale(const osg::NodePtr& node)
         return parts->getScale();
     }
     const auto transform = coreOf<osg::TransformPtr>(node);
-    return transform == osg::NullFC ? osg::Vec3f(1.f, 1.f, 1.f)
+    return transform == osg::NullFC ? osg::Vec3f(1.0F, 1.0F, 1.0F)
                                     : partsOf(transform->getMatrix()).scale;
 }
 
@@ -269,7 +269,7 @@ osg::Vec3f nbNodeUtils::getTransformNodeRotatePivot(const osg::NodePtr& node)
         return parts->getRotatePivot();
     }
     const auto parts = coreOf<osg::ComponentTransformPtr>(node);
-    return parts == osg::NullFC ? osg::Vec3f(0.f, 0.f, 0.f) : parts->getCenter();
+    return parts == osg::NullFC ? osg::Vec3f(0.0F, 0.0F, 0.0F) : parts->getCenter();
 }
 
 osg::Vec3f nbNodeUtils::getTransformNodeScalePivot(const osg::NodePtr& node)
@@ -278,7 +278,7 @@ osg::Vec3f nbNodeUtils::getTransformNodeScalePivot(const osg::NodePtr& node)
         return parts->getScalePivot();
     }
     const auto parts = coreOf<osg::ComponentTransformPtr>(node);
-    return parts == osg::NullFC ? osg::Vec3f(0.f, 0.f, 0.f) : parts->getCenter();
+    return parts == osg::NullFC ? osg::Vec3f(0.0F, 0.0F, 0.0F) : parts->getCenter();
 }
 
 osg::BoxVolume nbNodeUtils::getWorldBounds(const osg::NodePtr& node)

@@ -227,7 +227,7 @@ osg::NodePtr nbNodeUtils::convertToTransform3DNode(const osg::NodePtr& node)
             copyParts(components, core);
         } else if (transform != osg::NullFC) {
             const osg::Vec3f pivot =
-                components == osg::NullFC ? osg::Vec3f(0.f, 0.f, 0.f) : components->getCenter();
+                components == osg::NullFC ? osg::Vec3f(0.0F, 0.0F, 0.0F) : components->getCenter();
             conversion.insertedChild = splitMatrix(node, transform->getMatrix(), pivot, core);
         }
         node->setCore(core);

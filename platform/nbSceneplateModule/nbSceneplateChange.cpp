@@ -66,7 +66,7 @@ bool nbSceneplateChange::read(const nbMessage& message, nbSceneplateChange& chan
         return false;
     }
     found.offset = osg::Vec2f(offset.x(), offset.y());
-    if (!std::isfinite(found.scaleFactor) || !(found.scaleFactor > 0.f)) {
+    if (!std::isfinite(found.scaleFactor) || !(found.scaleFactor > 0.0F)) {
         return refuse("a \"scaleFactor\" of " + std::to_string(found.scaleFactor));
     }
     if (!isFinite(found.offset) || !std::isfinite(found.rotation)) {
@@ -78,16 +78,16 @@ bool nbSceneplateChange::read(const nbMessage& message, nbSceneplateChange& chan
 
 bool nbSceneplateChange::isNone() const
 {
-    return scaleFactor == 1.f && offset.x() == 0.f && offset.y() == 0.f && rotation == 0.f;
+    return scaleFactor == 1.0F && offset.x() == 0.0F && offset.y() == 0.0F && rotation == 0.0F;
 }
 
 const char* nbSceneplateChange::getTitle() const
 {
-    if (rotation != 0.f) {
+    if (rotation != 0.0F) {
         return QT_TRANSLATE_NOOP("Manipulator", "Turn scene plates");
     }
-    return scaleFactor != 1.f ? QT_TRANSLATE_NOOP("Manipulator", "Scale scene plates")
-                              : QT_TRANSLATE_NOOP("Manipulator", "Move scene plates");
+    return scaleFactor != 1.0F ? QT_TRANSLATE_NOOP("Manipulator", "Scale scene plates")
+                               : QT_TRANSLATE_NOOP("Manipulator", "Move scene plates");
 }
 
 nbSceneplateStart::nbSceneplateStart(const std::vector<osg::NodePtr>& plates, int widthPx,
@@ -128,7 +128,7 @@ bool nbSceneplateStart::apply(const nbSceneplateChange& change) const
         targets.push_back(changed(start, change));
     }
     const bool isPossible = std::all_of(targets.begin(), targets.end(), [](const Plate& target) {
-        return isFinite(target.position) && std::isfinite(target.scale) && target.scale > 0.f;
+        return isFinite(target.position) && std::isfinite(target.scale) && target.scale > 0.0F;
     });
     if (!isPossible) {
         return refuse("too large a change");
@@ -154,7 +154,7 @@ nbSceneplateStart::Plate nbSceneplateStart::changed(const Plate& start,
         osg::Vec2f(static_cast<float>(start.position.x() + change.offset.x() + shiftX),
                    static_cast<float>(start.position.y() + change.offset.y() + shiftY));
     target.scale = start.scale * change.scaleFactor;
-    if (change.rotation != 0.f) {
+    if (change.rotation != 0.0F) {
         target.rotation = wrapped(static_cast<double>(start.rotation) + change.rotation);
     }
     return target;

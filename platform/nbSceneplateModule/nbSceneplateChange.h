@@ -15,9 +15,9 @@ class nbMessage;
 /// start of the drag.
 struct NB_PLATFORM_API nbSceneplateChange
 {
-    float scaleFactor = 1.f;  ///< > 0, about the centre of the frame around the plates
-    osg::Vec2f offset { 0.f, 0.f };  ///< heights of the view, y up
-    float rotation = 0.f;  ///< degrees, counter-clockwise on screen, about that centre
+    float scaleFactor = 1.0F;  ///< > 0, about the centre of the frame around the plates
+    osg::Vec2f offset { 0.0F, 0.0F };  ///< heights of the view, y up
+    float rotation = 0.0F;  ///< degrees, counter-clockwise on screen, about that centre
 
     /// Reads "scaleFactor" (float), "offset" (QVector2D) and "rotation" (float); what is missing
     /// changes nothing.
@@ -55,8 +55,8 @@ private:
     {
         osg::UInt32 nodeId = 0;
         osg::Vec2f position;
-        float scale = 1.f;
-        float rotation = 0.f;
+        float scale = 1.0F;
+        float rotation = 0.0F;
         /// From the centre of the frame to the plate's, heights of the view, y up.
         osg::Vec2f arm;
     };

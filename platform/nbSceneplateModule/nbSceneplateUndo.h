@@ -19,11 +19,11 @@ struct NB_PLATFORM_API nbSceneplateState
     osg::Int32 anchor = 0;
     osg::Vec2f position;
     osg::Vec2f size;
-    float scale = 1.f;
-    float rotation = 0.f;
+    float scale = 1.0F;
+    float rotation = 0.0F;
     bool front = true;
     osg::Int32 order = 0;
-    float opacity = 1.f;
+    float opacity = 1.0F;
     bool visible = true;
 
     /// @param node  with a Sceneplate core

@@ -30,10 +30,10 @@ using BitVector = UInt64;
 using Time = Real64;
 
 /// Tolerance of comparisons and threshold of lengths.
-inline constexpr Real32 Eps = 1e-6f;
-inline constexpr Real32 Pi = 3.14159265358979323846f;
+inline constexpr Real32 Eps = 1e-6F;
+inline constexpr Real32 Pi = 3.14159265358979323846F;
 /// "Far away"; a finite number, not IEEE infinity.
-inline constexpr Real32 Inf = 1e30f;
+inline constexpr Real32 Inf = 1e30F;
 inline constexpr Real32 NegInf = -Inf;
 
 }  // namespace osg

@@ -14,9 +14,9 @@ OSG_CONTAINER_POINTER(BlendChunk, StateChunkPtr);
 #define OSG_BLEND_CHUNK_FIELDS(VALUE, OWNED, LINK)                                                 \
     VALUE(SrcFactor, srcFactor, GLenum, GL_ONE)                                                    \
     VALUE(DestFactor, destFactor, GLenum, GL_ZERO)                                                 \
-    VALUE(Color, color, Color4f, Color4f(0.f, 0.f, 0.f, 0.f))                                      \
+    VALUE(Color, color, Color4f, Color4f(0.0F, 0.0F, 0.0F, 0.0F))                                  \
     VALUE(AlphaFunc, alphaFunc, GLenum, GL_NONE)                                                   \
-    VALUE(AlphaValue, alphaValue, Real32, 0.f)                                                     \
+    VALUE(AlphaValue, alphaValue, Real32, 0.0F)                                                    \
     VALUE(Equation, equation, GLenum, GL_NONE)                                                     \
     VALUE(AlphaSrcFactor, alphaSrcFactor, GLenum, OSG_GL_UNUSED)                                   \
     VALUE(AlphaDestFactor, alphaDestFactor, GLenum, OSG_GL_UNUSED)

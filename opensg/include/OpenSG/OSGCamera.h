@@ -16,8 +16,8 @@ class Viewport;
 
 #define OSG_CAMERA_FIELDS(VALUE, OWNED, LINK)                                                      \
     LINK(Beacon, beacon, NodePtr)                                                                  \
-    VALUE(Near, near, Real32, 0.f)                                                                 \
-    VALUE(Far, far, Real32, 0.f)
+    VALUE(Near, near, Real32, 0.0F)                                                                \
+    VALUE(Far, far, Real32, 0.0F)
 
 /// Where from and how the world is seen. The camera sits at its beacon (not counted, may be null),
 /// looks along the beacon's -z with +y up; Near and Far are distances along that axis in the

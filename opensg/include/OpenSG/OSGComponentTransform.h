@@ -9,11 +9,11 @@
 namespace osg {
 
 #define OSG_COMPONENT_TRANSFORM_FIELDS(VALUE, OWNED, LINK)                                         \
-    VALUE(Center, center, Vec3f, Vec3f(0.f, 0.f, 0.f))                                             \
+    VALUE(Center, center, Vec3f, Vec3f(0.0F, 0.0F, 0.0F))                                          \
     VALUE(Rotation, rotation, Quaternion, Quaternion())                                            \
-    VALUE(Scale, scale, Vec3f, Vec3f(1.f, 1.f, 1.f))                                               \
+    VALUE(Scale, scale, Vec3f, Vec3f(1.0F, 1.0F, 1.0F))                                            \
     VALUE(ScaleOrientation, scaleOrientation, Quaternion, Quaternion())                            \
-    VALUE(Translation, translation, Vec3f, Vec3f(0.f, 0.f, 0.f))
+    VALUE(Translation, translation, Vec3f, Vec3f(0.0F, 0.0F, 0.0F))
 
 /// A transform whose matrix is made of its parts: T C R SO S SO^-1 C^-1. The matrix is current
 /// after endEditCP with a mask that holds one of the parts. Angles in radians, lengths in the

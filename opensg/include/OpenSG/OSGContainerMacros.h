@@ -14,7 +14,7 @@
 /// == Class: OSG<Class>.h
 ///
 ///     #define OSG_LINE_CHUNK_FIELDS(VALUE, OWNED, LINK)
-///         VALUE(Width, width, Real32, 1.f)
+///         VALUE(Width, width, Real32, 1.0F)
 ///         VALUE(Smooth, smooth, bool, false)
 ///
 ///     class LineChunk : public StateChunk
@@ -43,7 +43,7 @@
 /// `shallowCopy()`, deep cloning, protected constructors and destructor, and per field the
 /// enumerator XFieldId, the mask XFieldMask (1 << id; ids continue those of the base) and:
 ///
-///     VALUE(Width, width, Real32, 1.f)      a value with its start value
+///     VALUE(Width, width, Real32, 1.0F)      a value with its start value
 ///         Real32& getWidth(), const Real32& getWidth() const, setWidth(const Real32&),
 ///         SFReal32* getSFWidth(); member sfWidth
 ///     OWNED(Image, image, ImagePtr)         +1 while held, -1 when replaced and with the

@@ -13,8 +13,8 @@ OSG_CONTAINER_POINTER(DepthChunk, StateChunkPtr);
 #define OSG_DEPTH_CHUNK_FIELDS(VALUE, OWNED, LINK)                                                 \
     VALUE(Enable, enable, bool, true)                                                              \
     VALUE(Func, func, GLenum, GL_LEQUAL)                                                           \
-    VALUE(Near, near, Real32, -1.f)                                                                \
-    VALUE(Far, far, Real32, -1.f)                                                                  \
+    VALUE(Near, near, Real32, -1.0F)                                                               \
+    VALUE(Far, far, Real32, -1.0F)                                                                 \
     VALUE(ReadOnly, readOnly, bool, false)
 
 /// Depth test: whether it happens, its comparison, the range of depths (0 .. 1; a negative end

@@ -82,8 +82,8 @@ To colorComponent(From value)
         return value;
     } else {
         const Real32 unit = Real32(value) / Real32(fullColor<From>());
-        const Real32 scaled = osgClamp(0.f, unit, 1.f) * Real32(fullColor<To>());
-        return std::is_integral_v<To> ? To(scaled + 0.5f) : To(scaled);
+        const Real32 scaled = osgClamp(0.0F, unit, 1.0F) * Real32(fullColor<To>());
+        return std::is_integral_v<To> ? To(scaled + 0.5F) : To(scaled);
     }
 }
 

@@ -66,7 +66,7 @@ private:
 
     Line line;
     Real32 maxDist = Inf;
-    Real32 hitT = -1.f;
+    Real32 hitT = -1.0F;
     Vec3f hitNormal;
     NodePtr hitObject;
     Int32 hitTriangle = -1;

@@ -11,7 +11,7 @@ namespace osg {
 OSG_CONTAINER_POINTER(LineChunk, StateChunkPtr);
 
 #define OSG_LINE_CHUNK_FIELDS(VALUE, OWNED, LINK)                                                  \
-    VALUE(Width, width, Real32, 1.f)                                                               \
+    VALUE(Width, width, Real32, 1.0F)                                                              \
     VALUE(StipplePattern, stipplePattern, UInt16, 0xffff)                                          \
     VALUE(StippleRepeat, stippleRepeat, Int32, 1)                                                  \
     VALUE(Smooth, smooth, bool, false)

@@ -12,11 +12,11 @@ namespace osg {
 OSG_CONTAINER_POINTER(MaterialChunk, StateChunkPtr);
 
 #define OSG_MATERIAL_CHUNK_FIELDS(VALUE, OWNED, LINK)                                              \
-    VALUE(Diffuse, diffuse, Color4f, Color4f(0.f, 0.f, 0.f, 0.f))                                  \
-    VALUE(Ambient, ambient, Color4f, Color4f(0.f, 0.f, 0.f, 0.f))                                  \
-    VALUE(Specular, specular, Color4f, Color4f(0.f, 0.f, 0.f, 0.f))                                \
-    VALUE(Emission, emission, Color4f, Color4f(0.f, 0.f, 0.f, 0.f))                                \
-    VALUE(Shininess, shininess, Real32, 0.f)                                                       \
+    VALUE(Diffuse, diffuse, Color4f, Color4f(0.0F, 0.0F, 0.0F, 0.0F))                              \
+    VALUE(Ambient, ambient, Color4f, Color4f(0.0F, 0.0F, 0.0F, 0.0F))                              \
+    VALUE(Specular, specular, Color4f, Color4f(0.0F, 0.0F, 0.0F, 0.0F))                            \
+    VALUE(Emission, emission, Color4f, Color4f(0.0F, 0.0F, 0.0F, 0.0F))                            \
+    VALUE(Shininess, shininess, Real32, 0.0F)                                                      \
     VALUE(Lit, lit, bool, true)                                                                    \
     VALUE(ColorMaterial, colorMaterial, GLenum, GL_DIFFUSE)
 

@@ -10,8 +10,8 @@ namespace osg {
 OSG_CONTAINER_POINTER(OrthographicCamera, CameraPtr);
 
 #define OSG_ORTHOGRAPHIC_CAMERA_FIELDS(VALUE, OWNED, LINK)                                         \
-    VALUE(VerticalSize, verticalSize, Real32, 0.f)                                                 \
-    VALUE(Aspect, aspect, Real32, 1.f)
+    VALUE(VerticalSize, verticalSize, Real32, 0.0F)                                                \
+    VALUE(Aspect, aspect, Real32, 1.0F)
 
 /// VerticalSize is the visible height in the beacon's units. Aspect multiplies the width to
 /// height ratio of the picture.

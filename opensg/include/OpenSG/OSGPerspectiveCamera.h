@@ -10,8 +10,8 @@ namespace osg {
 OSG_CONTAINER_POINTER(PerspectiveCamera, CameraPtr);
 
 #define OSG_PERSPECTIVE_CAMERA_FIELDS(VALUE, OWNED, LINK)                                          \
-    VALUE(Fov, fov, Real32, 0.f)                                                                   \
-    VALUE(Aspect, aspect, Real32, 1.f)
+    VALUE(Fov, fov, Real32, 0.0F)                                                                  \
+    VALUE(Aspect, aspect, Real32, 1.0F)
 
 /// Fov is the vertical opening angle in radians; above pi it is read as degrees. Aspect
 /// multiplies the width to height ratio of the picture.

@@ -36,7 +36,7 @@ public:
     /// Signed distance, positive on the normal's side.
     Real32 distance(const Pnt3f& point) const { return normal.dot(point) - offsetAlong; }
 
-    bool isInHalfSpace(const Pnt3f& point) const { return distance(point) >= 0.f; }
+    bool isInHalfSpace(const Pnt3f& point) const { return distance(point) >= 0.0F; }
 
     /// Within Eps of the plane.
     bool isOnPlane(const Pnt3f& point) const { return osgabs(distance(point)) < Eps; }
@@ -67,7 +67,7 @@ public:
 
 private:
     Vec3f normal;
-    Real32 offsetAlong = 0.f;
+    Real32 offsetAlong = 0.0F;
 };
 
 }  // namespace osg

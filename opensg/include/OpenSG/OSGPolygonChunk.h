@@ -16,8 +16,8 @@ OSG_CONTAINER_POINTER(PolygonChunk, StateChunkPtr);
     VALUE(FrontMode, frontMode, GLenum, GL_FILL)                                                   \
     VALUE(BackMode, backMode, GLenum, GL_FILL)                                                     \
     VALUE(Smooth, smooth, bool, false)                                                             \
-    VALUE(OffsetFactor, offsetFactor, Real32, 0.f)                                                 \
-    VALUE(OffsetBias, offsetBias, Real32, 0.f)                                                     \
+    VALUE(OffsetFactor, offsetFactor, Real32, 0.0F)                                                \
+    VALUE(OffsetBias, offsetBias, Real32, 0.0F)                                                    \
     VALUE(OffsetPoint, offsetPoint, bool, false)                                                   \
     VALUE(OffsetLine, offsetLine, bool, false)                                                     \
     VALUE(OffsetFill, offsetFill, bool, false)

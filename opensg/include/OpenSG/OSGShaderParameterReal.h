@@ -10,7 +10,7 @@ namespace osg {
 
 OSG_CONTAINER_POINTER(ShaderParameterReal, ShaderParameterPtr);
 
-#define OSG_SHADER_PARAMETER_REAL_FIELDS(VALUE, OWNED, LINK) VALUE(Value, value, Real32, 0.f)
+#define OSG_SHADER_PARAMETER_REAL_FIELDS(VALUE, OWNED, LINK) VALUE(Value, value, Real32, 0.0F)
 
 /// A uniform variable of type Real32.
 class ShaderParameterReal : public ShaderParameter

@@ -14,12 +14,12 @@ namespace osg {
 OSG_CONTAINER_POINTER(SimpleMaterial, ChunkMaterialPtr);
 
 #define OSG_SIMPLE_MATERIAL_FIELDS(VALUE, OWNED, LINK)                                             \
-    VALUE(Ambient, ambient, Color3f, Color3f(0.f, 0.f, 0.f))                                       \
-    VALUE(Diffuse, diffuse, Color3f, Color3f(0.f, 0.f, 0.f))                                       \
-    VALUE(Specular, specular, Color3f, Color3f(0.f, 0.f, 0.f))                                     \
-    VALUE(Shininess, shininess, Real32, 1.f)                                                       \
-    VALUE(Emission, emission, Color3f, Color3f(0.f, 0.f, 0.f))                                     \
-    VALUE(Transparency, transparency, Real32, 0.f)                                                 \
+    VALUE(Ambient, ambient, Color3f, Color3f(0.0F, 0.0F, 0.0F))                                    \
+    VALUE(Diffuse, diffuse, Color3f, Color3f(0.0F, 0.0F, 0.0F))                                    \
+    VALUE(Specular, specular, Color3f, Color3f(0.0F, 0.0F, 0.0F))                                  \
+    VALUE(Shininess, shininess, Real32, 1.0F)                                                      \
+    VALUE(Emission, emission, Color3f, Color3f(0.0F, 0.0F, 0.0F))                                  \
+    VALUE(Transparency, transparency, Real32, 0.0F)                                                \
     VALUE(Lit, lit, bool, true)                                                                    \
     VALUE(ColorMaterial, colorMaterial, GLenum, GL_DIFFUSE)
 

@@ -24,8 +24,8 @@ OSG_CONTAINER_POINTER(TextureChunk, StateChunkPtr);
     VALUE(WrapT, wrapT, GLenum, GL_REPEAT)                                                         \
     VALUE(WrapR, wrapR, GLenum, GL_REPEAT)                                                         \
     VALUE(EnvMode, envMode, GLenum, GL_REPLACE)                                                    \
-    VALUE(EnvColor, envColor, Color4f, Color4f(0.f, 0.f, 0.f, 0.f))                                \
-    VALUE(LodBias, lodBias, Real32, 0.f)                                                           \
+    VALUE(EnvColor, envColor, Color4f, Color4f(0.0F, 0.0F, 0.0F, 0.0F))                            \
+    VALUE(LodBias, lodBias, Real32, 0.0F)                                                          \
     VALUE(Target, target, GLenum, GL_NONE)
 
 /// An image on a surface, with its filters, its wrapping and how it mixes with the surface's

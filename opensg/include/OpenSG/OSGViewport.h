@@ -13,10 +13,10 @@
 namespace osg {
 
 #define OSG_VIEWPORT_FIELDS(VALUE, OWNED, LINK)                                                    \
-    VALUE(Left, left, Real32, 0.f)                                                                 \
-    VALUE(Right, right, Real32, 0.f)                                                               \
-    VALUE(Bottom, bottom, Real32, 0.f)                                                             \
-    VALUE(Top, top, Real32, 0.f)                                                                   \
+    VALUE(Left, left, Real32, 0.0F)                                                                \
+    VALUE(Right, right, Real32, 0.0F)                                                              \
+    VALUE(Bottom, bottom, Real32, 0.0F)                                                            \
+    VALUE(Top, top, Real32, 0.0F)                                                                  \
     LINK(Parent, parent, WindowPtr)                                                                \
     LINK(Camera, camera, CameraPtr)                                                                \
     LINK(Root, root, NodePtr)                                                                      \

@@ -19,7 +19,7 @@ namespace nbec::interaction::detail {
 
 namespace {
 
-constexpr float kDefaultLineWidthPx = 1.0f;
+constexpr float kDefaultLineWidthPx = 1.0F;
 
 /// @return the line chunk that a material puts into its state, the last of several; null if it has
 /// none
@@ -51,7 +51,7 @@ float lineWidth(const osg::MaterialPtr& own, const osg::MaterialPtr& outermost,
         chunk = lineChunkOf(own);
     }
     const float width = chunk == osg::NullFC ? kDefaultLineWidthPx : chunk->getWidth();
-    return width > 0.0f ? width : kDefaultLineWidthPx;
+    return width > 0.0F ? width : kDefaultLineWidthPx;
 }
 
 bool hasName(const osg::NodePtr& node)
@@ -179,7 +179,7 @@ void HandlePicking::addHandle(const osg::NodePtr& node, const Inherited& inherit
     const float width = lineWidth(geometry->getMaterial(), inherited.outermostMaterial,
                                   inherited.isBelowManipulator);
     table.add(node.getFieldContainerId(), shapeOf(geometry), inherited.tableFromParent,
-              0.5f * width);
+              0.5F * width);
 }
 
 }  // namespace nbec::interaction::detail

@@ -9,10 +9,10 @@ namespace nbec::interaction::detail {
 namespace {
 
 /// Distances that differ by less count as equal, so that the depth decides (device pixels).
-constexpr float kDistanceTiePx = 0.5f;
+constexpr float kDistanceTiePx = 0.5F;
 /// Depths that differ by less than this part of the nearer one count as equal, so that the tree's
 /// order decides.
-constexpr float kDepthTie = 1e-4f;
+constexpr float kDepthTie = 1e-4F;
 /// Primitives that share one box: few enough to test one by one, many enough that the boxes are
 /// few.
 constexpr std::size_t kRunLength = 8;
@@ -101,7 +101,7 @@ void HandleTable::project(const osg::Matrix& worldFromTable, const PickView& vie
     runs.clear();
     screenHandles.clear();
     box = ScreenBox();
-    largestHalfWidthPx = 0.0f;
+    largestHalfWidthPx = 0.0F;
     if (!projection.isValid()) {
         return;
     }
@@ -269,8 +269,8 @@ void HandleTable::collect(std::uint32_t handle, const ScreenPoint& position, flo
                 continue;
             }
             // The drawn width belongs to lines; a triangle has none beyond its edges.
-            const float drawnPx = primitive.isTriangle ? 0.0f : halfWidthPx;
-            const float distancePx = std::max(std::sqrt(nearest.squaredDistancePx) - drawnPx, 0.0f);
+            const float drawnPx = primitive.isTriangle ? 0.0F : halfWidthPx;
+            const float distancePx = std::max(std::sqrt(nearest.squaredDistancePx) - drawnPx, 0.0F);
             if (distancePx > std::min(tolerancePx, bestPx + kDistanceTiePx)) {
                 continue;
             }
@@ -289,8 +289,8 @@ void HandleTable::collect(std::uint32_t handle, const ScreenPoint& position, flo
 
 float HandleTable::depthAt(const ScreenPrimitive& primitive, const float* weights)
 {
-    float depthOverW = 0.0f;
-    float oneOverW = 0.0f;
+    float depthOverW = 0.0F;
+    float oneOverW = 0.0F;
     for (std::size_t i = 0; i < 3; ++i) {
         depthOverW += weights[i] * primitive.depthOverW[i];
         oneOverW += weights[i] * primitive.oneOverW[i];
@@ -309,7 +309,7 @@ osg::Vec3f HandleTable::normalOf(const Candidate& winner) const
             normal = -normal;
         }
         const osg::Vec3f world = transformNormal(tableToWorld, normal);
-        if (world.squareLength() > 0.0f) {
+        if (world.squareLength() > 0.0F) {
             return world;
         }
     }

@@ -133,7 +133,7 @@ private:
     std::vector<Run> runs;
     std::vector<ScreenHandle> screenHandles;
     ScreenBox box;
-    float largestHalfWidthPx = 0.0f;
+    float largestHalfWidthPx = 0.0F;
 
     std::vector<Candidate> candidates;  ///< scratch of pick, kept for its memory
 };

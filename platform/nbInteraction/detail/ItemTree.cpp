@@ -15,21 +15,21 @@ namespace {
 constexpr std::size_t kDirectItems = 4;
 /// Bounds grow by this part of their largest coordinate, since the ray is rounded when it goes to
 /// local space.
-constexpr float kBoundsSlack = 4e-6f;
+constexpr float kBoundsSlack = 4e-6F;
 
 /// @return whether the ray meets the box with 0 <= t <= tFar (slab by slab)
 bool meetsBox(const PickRay& ray, const PickBounds& box)
 {
-    float enter = 0.0f;
+    float enter = 0.0F;
     float leave = ray.tFar;
     for (osg::UInt32 i = 0; i < 3; ++i) {
-        if (ray.direction[i] == 0.0f) {
+        if (ray.direction[i] == 0.0F) {
             if (ray.origin[i] < box.min[i] || ray.origin[i] > box.max[i]) {
                 return false;
             }
             continue;
         }
-        const float inverse = 1.0f / ray.direction[i];
+        const float inverse = 1.0F / ray.direction[i];
         const float t0 = (box.min[i] - ray.origin[i]) * inverse;
         const float t1 = (box.max[i] - ray.origin[i]) * inverse;
         enter = std::max(enter, std::min(t0, t1));
@@ -50,12 +50,12 @@ struct Stretch
         const osg::Vec3f normal(plane[0], plane[1], plane[2]);
         const float height = normal.dot(ray.origin.subZero()) + plane[3];
         const float slope = normal.dot(ray.direction);
-        if (slope > 0.0f) {
+        if (slope > 0.0F) {
             begin = std::max(begin, -height / slope);
-        } else if (slope < 0.0f) {
+        } else if (slope < 0.0F) {
             end = std::min(end, -height / slope);
-        } else if (height < 0.0f) {
-            end = -1.0f;
+        } else if (height < 0.0F) {
+            end = -1.0F;
         }
     }
 };
@@ -75,7 +75,7 @@ PickBounds transformBounds(const PickBounds& local, const osg::Matrix& worldFrom
         worldFromLocal.multMatrixPnt(p, world);
         result.extend(world);
     }
-    float largest = 0.0f;
+    float largest = 0.0F;
     for (osg::UInt32 i = 0; i < 3; ++i) {
         largest = std::max({ largest, std::abs(result.min[i]), std::abs(result.max[i]) });
     }
@@ -108,7 +108,7 @@ void PickItem::place(const osg::Matrix& matrix)
 
 bool PickItem::intersect(PickRay& worldRay, const nbClipSets::Planes& planes, TreeHit& hit) const
 {
-    Stretch seen { 0.0f, worldRay.tFar };
+    Stretch seen { 0.0F, worldRay.tFar };
     for (const osg::Vec4f& plane : planes) {
         seen.cut(plane, worldRay);
     }
@@ -214,11 +214,11 @@ void ItemTree::boundsOfItem(const RTCBoundsFunctionArguments* arguments)
     const PickBounds& bounds = self->items[arguments->primID].worldBounds;
     if (bounds.isEmpty) {
         // A box turned inside out: the builder leaves such a primitive out.
-        *arguments->bounds_o = { 1.0f, 1.0f, 1.0f, 0.0f, -1.0f, -1.0f, -1.0f, 0.0f };
+        *arguments->bounds_o = { 1.0F, 1.0F, 1.0F, 0.0F, -1.0F, -1.0F, -1.0F, 0.0F };
         return;
     }
-    *arguments->bounds_o = { bounds.min[0], bounds.min[1], bounds.min[2], 0.0f,
-                             bounds.max[0], bounds.max[1], bounds.max[2], 0.0f };
+    *arguments->bounds_o = { bounds.min[0], bounds.min[1], bounds.min[2], 0.0F,
+                             bounds.max[0], bounds.max[1], bounds.max[2], 0.0F };
 }
 
 void ItemTree::intersectItem(const RTCIntersectFunctionNArguments* arguments)

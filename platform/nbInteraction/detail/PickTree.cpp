@@ -34,16 +34,16 @@ bool intersectTriangle(const PickRay& ray, const osg::Pnt3f& p0, const osg::Vec3
 {
     const osg::Vec3f p = ray.direction.cross(e2);
     const float determinant = e1.dot(p);
-    if (determinant == 0.0f) {
+    if (determinant == 0.0F) {
         return false;
     }
-    const float inverse = 1.0f / determinant;
+    const float inverse = 1.0F / determinant;
     const osg::Vec3f s = ray.origin - p0;
     const float u = s.dot(p) * inverse;
     const osg::Vec3f q = s.cross(e1);
     const float v = ray.direction.dot(q) * inverse;
     t = e2.dot(q) * inverse;
-    return u >= 0.0f && v >= 0.0f && u + v <= 1.0f && t >= 0.0f && t <= ray.tFar;
+    return u >= 0.0F && v >= 0.0F && u + v <= 1.0F && t >= 0.0F && t <= ray.tFar;
 }
 
 }  // namespace
@@ -195,7 +195,7 @@ bool PickTree::intersectDirectly(PickRay& ray, TreeHit& hit) const
         const osg::Pnt3f& p0 = soup.positions[soup.triangles[i]];
         const osg::Vec3f e1 = soup.positions[soup.triangles[i + 1]] - p0;
         const osg::Vec3f e2 = soup.positions[soup.triangles[i + 2]] - p0;
-        float t = 0.0f;
+        float t = 0.0F;
         if (intersectTriangle(ray, p0, e1, e2, t)) {
             ray.tFar = t;
             hit = { e1.cross(e2), static_cast<std::uint32_t>(i / 3) };

@@ -43,11 +43,11 @@ bool PickView::pixelCentre(const osg::Pnt2f& px, ScreenPoint& centre) const
 {
     const float x = px[0];
     const float y = px[1];
-    if (!(x >= 0.0f && y >= 0.0f && x < static_cast<float>(widthPx) &&
+    if (!(x >= 0.0F && y >= 0.0F && x < static_cast<float>(widthPx) &&
           y < static_cast<float>(heightPx))) {
         return false;
     }
-    centre = { std::floor(x) + 0.5f, std::floor(y) + 0.5f };
+    centre = { std::floor(x) + 0.5F, std::floor(y) + 0.5F };
     return true;
 }
 

@@ -35,7 +35,7 @@ struct PickRay
 {
     osg::Pnt3f origin;
     osg::Vec3f direction;
-    float tFar = 0.0f;
+    float tFar = 0.0F;
 };
 
 /// Maps between world space and the pixels of a view; all arithmetic in double.

@@ -29,8 +29,8 @@ ScreenBox visibleBounds(const osg::SceneplatePtr& plate, const PlateView& view)
          nbSceneplateLayout::corners(plate, view.widthPx, view.heightPx)) {
         bounds.extend(ScreenPoint { corner.x(), corner.y() });
     }
-    bounds.minX = std::max(bounds.minX, 0.0f);
-    bounds.minY = std::max(bounds.minY, 0.0f);
+    bounds.minX = std::max(bounds.minX, 0.0F);
+    bounds.minY = std::max(bounds.minY, 0.0F);
     bounds.maxX = std::min(bounds.maxX, static_cast<float>(view.widthPx));
     bounds.maxY = std::min(bounds.maxY, static_cast<float>(view.heightPx));
     return bounds;
@@ -39,8 +39,8 @@ ScreenBox visibleBounds(const osg::SceneplatePtr& plate, const PlateView& view)
 bool liesInside(const ScreenBox& bounds, const ScreenBox& box)
 {
     return bounds.minX < bounds.maxX && bounds.minY < bounds.maxY &&
-        box.isNear({ bounds.minX, bounds.minY }, 0.0f) &&
-        box.isNear({ bounds.maxX, bounds.maxY }, 0.0f);
+        box.isNear({ bounds.minX, bounds.minY }, 0.0F) &&
+        box.isNear({ bounds.maxX, bounds.maxY }, 0.0F);
 }
 
 }  // namespace

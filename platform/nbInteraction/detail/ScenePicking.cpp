@@ -22,7 +22,7 @@ osg::FieldContainerPtr containerOf(osg::UInt32 id)
 bool isCutAway(const osg::Pnt3f& world, const nbClipSets::Planes& planes)
 {
     return std::any_of(planes.begin(), planes.end(), [&world](const osg::Vec4f& plane) {
-        return plane[0] * world[0] + plane[1] * world[1] + plane[2] * world[2] + plane[3] < 0.0f;
+        return plane[0] * world[0] + plane[1] * world[1] + plane[2] * world[2] + plane[3] < 0.0F;
     });
 }
 
@@ -92,7 +92,7 @@ bool ScenePicking::isInside(const PickItem& item, const ScreenBox& box) const
             continue;
         }
         if (!projected.isVisible() || !(projected.clip[3] > 0.0) ||
-            !box.isNear(projection.toScreen(projected), 0.0f)) {
+            !box.isNear(projection.toScreen(projected), 0.0F)) {
             return false;
         }
         isAnyInside = true;

@@ -8,23 +8,23 @@ namespace nbec::interaction::detail {
 /// A position on screen, device pixels, y from the top.
 struct ScreenPoint
 {
-    float x = 0.0f;
-    float y = 0.0f;
+    float x = 0.0F;
+    float y = 0.0F;
 };
 
 /// The point of a segment or triangle nearest to a position on screen, as weights of the corners
 /// (sum 1).
 struct ScreenNearest
 {
-    float weights[3] = { 1.0f, 0.0f, 0.0f };
-    float squaredDistancePx = 0.0f;
+    float weights[3] = { 1.0F, 0.0F, 0.0F };
+    float squaredDistancePx = 0.0F;
 };
 
 /// Axis-parallel box on screen, edges included. Empty (nothing is near it) until something is
 /// added.
 struct ScreenBox
 {
-    static constexpr float kFar = 3.0e38f;
+    static constexpr float kFar = 3.0e38F;
 
     float minX = kFar;
     float minY = kFar;
@@ -69,10 +69,10 @@ inline ScreenNearest nearestOnSegment(const ScreenPoint& p, const ScreenPoint& a
     const float py = p.y - a.y;
     const float squaredLength = dx * dx + dy * dy;
     const float s =
-        squaredLength > 0.0f ? std::clamp((px * dx + py * dy) / squaredLength, 0.0f, 1.0f) : 0.0f;
+        squaredLength > 0.0F ? std::clamp((px * dx + py * dy) / squaredLength, 0.0F, 1.0F) : 0.0F;
     const float rx = px - s * dx;
     const float ry = py - s * dy;
-    return { { 1.0f - s, s, 0.0f }, rx * rx + ry * ry };
+    return { { 1.0F - s, s, 0.0F }, rx * rx + ry * ry };
 }
 
 /// Twice the signed area of the triangle u v w.
@@ -88,7 +88,7 @@ inline bool isBeyondEdge(float area, float winding, const ScreenPoint& u, const 
 {
     const float dx = v.x - u.x;
     const float dy = v.y - u.y;
-    return area * winding < 0.0f && area * area > reachPx * reachPx * (dx * dx + dy * dy);
+    return area * winding < 0.0F && area * area > reachPx * reachPx * (dx * dx + dy * dy);
 }
 
 /// Nearest point of the filled triangle a b c to p, whichever way it winds; distance 0 inside and
@@ -101,24 +101,24 @@ inline ScreenNearest nearestOnTriangle(const ScreenPoint& p, const ScreenPoint& 
     const float wa = doubleArea(p, b, c);
     const float wb = doubleArea(p, c, a);
     const float wc = doubleArea(p, a, b);
-    const bool inside = whole > 0.0f ? wa >= 0.0f && wb >= 0.0f && wc >= 0.0f
-                                     : whole < 0.0f && wa <= 0.0f && wb <= 0.0f && wc <= 0.0f;
+    const bool inside = whole > 0.0F ? wa >= 0.0F && wb >= 0.0F && wc >= 0.0F
+                                     : whole < 0.0F && wa <= 0.0F && wb <= 0.0F && wc <= 0.0F;
     if (inside) {
-        const float scale = 1.0f / (wa + wb + wc);
-        return { { wa * scale, wb * scale, wc * scale }, 0.0f };
+        const float scale = 1.0F / (wa + wb + wc);
+        return { { wa * scale, wb * scale, wc * scale }, 0.0F };
     }
     if (isBeyondEdge(wa, whole, b, c, reachPx) || isBeyondEdge(wb, whole, c, a, reachPx) ||
         isBeyondEdge(wc, whole, a, b, reachPx)) {
-        return { { 1.0f, 0.0f, 0.0f }, ScreenBox::kFar };
+        return { { 1.0F, 0.0F, 0.0F }, ScreenBox::kFar };
     }
     ScreenNearest nearest = nearestOnSegment(p, a, b);
     const ScreenNearest onBC = nearestOnSegment(p, b, c);
     if (onBC.squaredDistancePx < nearest.squaredDistancePx) {
-        nearest = { { 0.0f, onBC.weights[0], onBC.weights[1] }, onBC.squaredDistancePx };
+        nearest = { { 0.0F, onBC.weights[0], onBC.weights[1] }, onBC.squaredDistancePx };
     }
     const ScreenNearest onCA = nearestOnSegment(p, c, a);
     if (onCA.squaredDistancePx < nearest.squaredDistancePx) {
-        nearest = { { onCA.weights[1], 0.0f, onCA.weights[0] }, onCA.squaredDistancePx };
+        nearest = { { onCA.weights[1], 0.0F, onCA.weights[0] }, onCA.squaredDistancePx };
     }
     return nearest;
 }

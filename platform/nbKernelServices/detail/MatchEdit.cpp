@@ -37,8 +37,8 @@ bool isPlaceSame(const CameraPose& a, const CameraPose& b)
 /// Whether a drag that ends with the lines as they were has led the camera back but for rounding.
 bool isPlaceNearlySame(const CameraPose& a, const CameraPose& b)
 {
-    constexpr osg::Real32 kRounding = 1e-5f;
-    const osg::Real32 size = std::max({ a.from.dist(a.at), a.from.subZero().length(), 1.f });
+    constexpr osg::Real32 kRounding = 1e-5F;
+    const osg::Real32 size = std::max({ a.from.dist(a.at), a.from.subZero().length(), 1.0F });
     // The up vector of a camera that was not placed by its match is any that gives the same axis.
     const osg::Vec3f turn = nbCameraNavigation::axes(a).up - nbCameraNavigation::axes(b).up;
     return a.from.dist(b.from) <= kRounding * size && a.at.dist(b.at) <= kRounding * size &&

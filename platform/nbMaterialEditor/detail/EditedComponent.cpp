@@ -45,7 +45,7 @@ bool isFinite(const nbTransformState& state)
 float aspectOf(const osg::ImagePtr& image)
 {
     return image == osg::NullFC || image->getWidth() <= 0 || image->getHeight() <= 0
-        ? 1.f
+        ? 1.0F
         : static_cast<float>(image->getWidth()) / static_cast<float>(image->getHeight());
 }
 

@@ -31,7 +31,7 @@ nbTransformState ProjectionChange::applyTo(const nbTransformState& start,
         result.translation = start.translation + *transVec;
     } else if (offset) {
         result.translation =
-            start.translation + turned(start, osg::Vec3f(offset->x(), offset->y(), 0.f));
+            start.translation + turned(start, osg::Vec3f(offset->x(), offset->y(), 0.0F));
     }
     if (rotate) {
         // Deliberate: the sender's angle runs opposite to the projection's.

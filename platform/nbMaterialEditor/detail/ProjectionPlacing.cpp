@@ -90,7 +90,7 @@ osg::Vec3f turned(const nbTransformState& projection, const osg::Vec3f& vector)
 void turnAboutOwnZ(const nbTransformState& start, float angle, nbTransformState& result)
 {
     takeRotation(start, result);
-    if (angle == 0.f) {
+    if (angle == 0.0F) {
         return;
     }
     const nbQuaterniond turn = unit(0.0, 0.0, std::sin(0.5 * angle), std::cos(0.5 * angle));
@@ -147,25 +147,25 @@ bool toObject(const osg::Matrix& worldFromObject, const osg::Pnt3f& worldPoint,
 
 osg::Vec3f naturalScale(float aspect)
 {
-    return { aspect, 1.f, 1.f };
+    return { aspect, 1.0F, 1.0F };
 }
 
 nbTransformState fittedProjection(const osg::BoxVolume& bounds, float aspect)
 {
     const osg::RefPtr<osg::Transform3DPtr> fresh(osg::Transform3D::create());
     nbTransformState state = nbTransformState::of(*fresh.get());
-    float half = 1.f;
+    float half = 1.0F;
     if (!bounds.isEmpty()) {
         const osg::Pnt3f low = bounds.getMin();
         const osg::Pnt3f high = bounds.getMax();
         const osg::Vec3f size = high - low;
         const float largest = std::max({ size.x(), size.y(), size.z() });
-        constexpr float kPartOfLargest = 0.25f;
-        half = largest > 0.f ? kPartOfLargest * largest : 1.f;
+        constexpr float kPartOfLargest = 0.25F;
+        half = largest > 0.0F ? kPartOfLargest * largest : 1.0F;
         state.translation =
-            osg::Vec3f(0.5f * (low.x() + high.x()), 0.5f * (low.y() + high.y()), high.z());
+            osg::Vec3f(0.5F * (low.x() + high.x()), 0.5F * (low.y() + high.y()), high.z());
     }
-    state.scale = naturalScale(aspect) * (half / std::max(aspect, 1.f));
+    state.scale = naturalScale(aspect) * (half / std::max(aspect, 1.0F));
     state.scale[2] = half;
     return state;
 }
@@ -177,14 +177,14 @@ void fitTriplanar(const osg::BoxVolume& bounds, const osg::Matrix& worldFromObje
         return;
     }
     const osg::Vec3f size = bounds.getMax() - bounds.getMin();
-    float largest = 0.f;
+    float largest = 0.0F;
     for (osg::UInt32 i = 0; i < 3; ++i) {
         const osg::Vec4f& axis = worldFromObject[i];
         largest = std::max(largest, size[i] * osg::Vec3f(axis.x(), axis.y(), axis.z()).length());
     }
     // A picture that repeats once is this large.
-    constexpr float kUnits = 100.f;
-    constexpr float kHalf = 0.5f;
+    constexpr float kUnits = 100.0F;
+    constexpr float kHalf = 0.5F;
     const float repeatV = kUnits / (kHalf * largest);
     const float repeatU = repeatV / aspect;
     if (std::isnormal(repeatV) && std::isnormal(repeatU)) {
@@ -201,9 +201,9 @@ void fitTire(const osg::BoxVolume& bounds, nbTextureValues& values)
     osg::Pnt3f middle;
     bounds.getCenter(middle);
     const osg::Vec3f size = bounds.getMax() - bounds.getMin();
-    constexpr float kHalf = 0.5f;
+    constexpr float kHalf = 0.5F;
     const float radius = kHalf * std::max(size.y(), size.z());
     values.tireCenter = osg::Vec3f(middle.x(), middle.y(), middle.z());
-    values.tireScaleHeight = size.x() > 0.f ? size.x() : values.tireScaleHeight;
-    values.tireScaleRadius = radius > 0.f ? radius : values.tireScaleRadius;
+    values.tireScaleHeight = size.x() > 0.0F ? size.x() : values.tireScaleHeight;
+    values.tireScaleRadius = radius > 0.0F ? radius : values.tireScaleRadius;
 }

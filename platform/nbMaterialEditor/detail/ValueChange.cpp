@@ -13,7 +13,7 @@ constexpr const char* kNoReciprocal = "has no finite reciprocal";
 
 float repeatOf(float scale, float startRepeat)
 {
-    return 1.f / startRepeat == scale ? startRepeat : 1.f / scale;
+    return 1.0F / startRepeat == scale ? startRepeat : 1.0F / scale;
 }
 
 /// Reads a scale; the repeats stay if there is none.
@@ -45,7 +45,7 @@ void readLength(AttributeReader& reader, const char* name, float& target)
 {
     std::optional<float> value;
     reader.read(name, value);
-    if (value && !std::isnormal(1.f / *value)) {
+    if (value && !std::isnormal(1.0F / *value)) {
         reader.refuse(name, kNoReciprocal);
     }
     target = value.value_or(target);

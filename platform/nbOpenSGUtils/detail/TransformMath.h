@@ -52,7 +52,7 @@ inline osg::Vec3f toFloat(const Vec3d& v)
 inline bool isFinite(const osg::Vec3f& v)
 {
     // Only what is finite is nothing when taken from itself.
-    return (v[0] - v[0]) + (v[1] - v[1]) + (v[2] - v[2]) == 0.F;
+    return (v[0] - v[0]) + (v[1] - v[1]) + (v[2] - v[2]) == 0.0F;
 }
 
 /// The three floats have the same values.
