@@ -312,7 +312,7 @@ void nbUndoService::noteTransform(const osg::Transform3DPtr& core)
     internals->transformChanges(core);
 }
 
-TransformTable* nbUndoService::getOpenTransforms()
+nbTransformTable* nbUndoService::getOpenTransforms()
 {
     return internals->isRecording() ? &internals->step.getTransforms() : nullptr;
 }

@@ -10,7 +10,7 @@
 
 class QUndoStack;
 class nbUndoRecord;
-class TransformTable;
+class nbTransformTable;
 
 /// Records edits and takes them back, as steps on a QUndoStack (of Qt's widgets module, which works
 /// without an application object).
@@ -93,7 +93,7 @@ public:
     /// an edit. The first time in a step keeps the state; the next ones find it again, fastest when
     /// the cores of each scope come in the same order.
     /// @return valid until the scope or group closes; null if nothing records
-    TransformTable* getOpenTransforms();
+    nbTransformTable* getOpenTransforms();
 
     nbUndoService(const nbUndoService&) = delete;
     nbUndoService& operator=(const nbUndoService&) = delete;

@@ -39,9 +39,6 @@ public:
     /// Of the last update. @param set  from below()
     const Planes& planesOf(osg::UInt32 set) const { return planes[set]; }
 
-    /// Whether there is a set besides 0.
-    bool isAnyClipped() const { return sources.size() > 1; }
-
 private:
     /// One clip plane core in the tree.
     struct Source

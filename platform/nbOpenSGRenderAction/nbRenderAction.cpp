@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "nbRenderAction.h"
 
-#include <nbOpenSGRenderAction/nbFramePainter.h>
-#include <nbOpenSGRenderAction/nbFrameTargets.h>
-#include <nbOpenSGRenderAction/nbMagnifierPainter.h>
+#include <nbOpenSGRenderAction/FramePainter.h>
+#include <nbOpenSGRenderAction/FrameTargets.h>
+#include <nbOpenSGRenderAction/MagnifierPainter.h>
 #include <nbUtils/nbLog.h>
 
 #include <QtCore/QElapsedTimer>

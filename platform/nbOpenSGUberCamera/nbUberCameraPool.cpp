@@ -4,6 +4,7 @@
 #include <OpenSG/OSGFieldContainerFactory.h>
 
 #include <algorithm>
+#include <vector>
 
 namespace {
 
@@ -35,18 +36,6 @@ osg::UberCameraPtr nbUberCameraPool::getByNode(osg::UInt32 nodeId)
     const auto found = std::find_if(entries().begin(), entries().end(),
                                     [nodeId](const auto& entry) { return entry.nodeId == nodeId; });
     return found != entries().end() ? get(found->cameraId) : osg::UberCameraPtr(osg::NullFC);
-}
-
-std::vector<osg::UberCameraPtr> nbUberCameraPool::getAll()
-{
-    std::vector<osg::UberCameraPtr> result;
-    for (const PoolEntry& entry : entries()) {
-        const osg::UberCameraPtr camera = get(entry.cameraId);
-        if (camera != osg::NullFC) {
-            result.push_back(camera);
-        }
-    }
-    return result;
 }
 
 void nbUberCameraPool::add(osg::UInt32 cameraId, osg::UInt32 nodeId)

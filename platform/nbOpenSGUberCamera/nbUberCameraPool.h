@@ -4,8 +4,6 @@
 #include <nbOpenSGUberCamera/UberCamera.h>
 #include <nbUtils/nbPlatformExport.h>
 
-#include <vector>
-
 /// Finds the living cameras of the host, by their own id or by that of their internal parent node.
 /// Holds none of them.
 class NB_PLATFORM_API nbUberCameraPool
@@ -17,9 +15,6 @@ public:
 
     /// Camera whose getInternalParentNode() has a container id; null if there is none.
     static osg::UberCameraPtr getByNode(osg::UInt32 nodeId);
-
-    /// All cameras that have an internal parent node, in the order in which they got it.
-    static std::vector<osg::UberCameraPtr> getAll();
 
 private:
     friend class osg::UberCamera;

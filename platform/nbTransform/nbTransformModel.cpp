@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "nbTransformModel.h"
 
-#include <nbKernelServices/detail/TransformTable.h>
 #include <nbKernelServices/nbScopedUndo.h>
+#include <nbKernelServices/nbTransformTable.h>
 #include <nbKernelServices/nbUndoService.h>
-#include <nbOpenSGExt/nbEulerRotation.h>
-#include <nbOpenSGUtils/detail/TransformMath.h>
 #include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodePermission.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
+#include <nbOpenSGUtils/nbTransformMath.h>
+#include <nbTransform/detail/PivotEdit.h>
 #include <nbUtils/nbLog.h>
 
 #include <OpenSG/OSGNode.h>
@@ -16,9 +16,10 @@
 #include <QtCore/QCoreApplication>
 
 #include <cmath>
-#include <cstring>
 #include <string>
 
+using nbtransform::Faults;
+using nbtransform::Subject;
 using nbTransformMath::isFinite;
 using nbTransformMath::isSame;
 using nbTransformMath::toDouble;
@@ -36,14 +37,6 @@ constexpr char kScaleTitle[] = QT_TRANSLATE_NOOP("Manipulator", "Scale");
 constexpr char kMoveRotatePivotTitle[] = QT_TRANSLATE_NOOP("Manipulator", "Move Rotate Pivot");
 constexpr char kMoveScalePivotTitle[] = QT_TRANSLATE_NOOP("Manipulator", "Move Scale Pivot");
 constexpr char kTurnPivotTitle[] = QT_TRANSLATE_NOOP("Manipulator", "Turn Rotate Pivot");
-
-/// Kinds of edits whose steps start from the state at the beginning of the undo step.
-enum EditKind : int
-{
-    RotatePivotEdit = 1,
-    ScalePivotEdit = 2,
-    OrientationEdit = 3
-};
 
 /// The frames of targets' parents; worked out once for targets that follow each other in one frame.
 class ParentFrames
@@ -79,39 +72,6 @@ private:
     nbTransformMath::Frame frame;
 };
 
-/// One target in the middle of its edit.
-struct Subject
-{
-    osg::NodePtr node;
-    Transform3DPtr core;
-    /// Null if nothing is recorded.
-    nbTransformEntry* entry;
-};
-
-/// What kept targets of a call from their values.
-struct Faults
-{
-    osg::UInt32 notFinite = 0;
-    osg::UInt32 flattened = 0;
-
-    void log(const char* what) const
-    {
-        if (notFinite > 0) {
-            write(what, notFinite, "a value that is not finite or leads to such a one");
-        }
-        if (flattened > 0) {
-            write(what, flattened, "a parent that is flattened to a scale of 0");
-        }
-    }
-
-private:
-    static void write(const char* what, osg::UInt32 count, const char* why)
-    {
-        nbLog::warning("nbTransformModel: \"" + std::string(what) + "\" left " +
-                       std::to_string(count) + " node(s) as they are, because of " + why);
-    }
-};
-
 Transform3DPtr convertedCore(const osg::NodePtr& node)
 {
     return Transform3DPtr::dcast(nbNodeUtils::convertToTransform3DNode(node)->getCore());
@@ -137,7 +97,7 @@ osg::UInt32 editAll(const char* title, osg::UInt32 count, nbTransformModel::Valu
                     Edit edit)
 {
     const nbScopedUndo scope(title);
-    TransformTable* const recorded = nbUndoService::the()->getOpenTransforms();
+    nbTransformTable* const recorded = nbUndoService::the()->getOpenTransforms();
     Faults faults;
     osg::UInt32 edited = 0;
     for (osg::UInt32 i = 0; i < count; ++i) {
@@ -163,104 +123,14 @@ osg::UInt32 editAll(const char* title, osg::UInt32 count, nbTransformModel::Valu
     return edited;
 }
 
-/// What an edit of a kind starts from.
-struct Base
-{
-    nbTransformState state;
-    /// The state is that at the beginning of the undo step: only edits of the kind have followed
-    /// it.
-    bool isStart;
-};
-
-Base baseOf(const Subject& subject, EditKind kind)
-{
-    const nbTransformEntry* const entry = subject.entry;
-    const bool isStart = entry != nullptr &&
-        (entry->start.isSame(*subject.core) ||
-         (entry->writtenKind == kind && entry->written.isSame(*subject.core)));
-    return { isStart ? entry->start : nbTransformState::of(*subject.core), isStart };
-}
-
-/// Notes what an edit of a kind left, for the next baseOf.
-void noteWritten(const Subject& subject, EditKind kind, const Base& base)
-{
-    if (subject.entry == nullptr) {
-        return;
-    }
-    subject.entry->writtenKind = base.isStart ? kind : 0;
-    if (base.isStart) {
-        subject.entry->written = nbTransformState::of(*subject.core);
-    }
-}
-
-/// A pivot of the core: where it is and how it moves.
-struct PivotKind
-{
-    EditKind kind;
-    Vec3d (*place)(const nbTransformState&, const nbTransformMath::Matrix3d&);
-    nbTransformMath::MovedPivots (*move)(const nbTransformState&, const nbTransformMath::Matrix3d&,
-                                         const Vec3d&);
-};
-
-constexpr PivotKind kRotatePivot { RotatePivotEdit, &nbTransformMath::rotatePivotPlace,
-                                   &nbTransformMath::moveRotatePivot };
-constexpr PivotKind kScalePivot { ScalePivotEdit, &nbTransformMath::scalePivotPlace,
-                                  &nbTransformMath::moveScalePivot };
-
-/// The state with a pivot at a place, which is given in the space that the frame leads to.
-nbTransformState withPivotAt(const PivotKind& kind, const nbTransformState& base,
-                             const nbTransformMath::Matrix3d& rotation,
-                             const nbTransformMath::Frame& frame, const Vec3f& place)
-{
-    nbTransformState result = base;
-    const Vec3d start = kind.place(base, rotation);
-    if (isSame(place, toFloat(frame.toOuter(start)))) {
-        return result;
-    }
-    const nbTransformMath::MovedPivots moved =
-        kind.move(base, rotation, frame.toInner(toDouble(place)) - start);
-    result.translation = toFloat(moved.translation);
-    result.rotatePivot = toFloat(moved.rotatePivot);
-    result.scalePivot = toFloat(moved.scalePivot);
-    return result;
-}
-
-bool movePivot(const PivotKind& kind, const Subject& subject, const nbTransformMath::Frame& frame,
-               const Vec3f& place, Faults& faults)
-{
-    if (!frame.invertible) {
-        ++faults.flattened;
-        return false;
-    }
-    const Base base = baseOf(subject, kind.kind);
-    // Edits of a kind leave the rotation as it was at the start.
-    const nbTransformState moved =
-        withPivotAt(kind, base.state, nbTransformMath::wholeRotation(*subject.core), frame, place);
-    if (!isFinite(moved.translation) || !isFinite(moved.rotatePivot) ||
-        !isFinite(moved.scalePivot)) {
-        ++faults.notFinite;
-        return false;
-    }
-    {
-        const nbEdit edit(subject.core,
-                          Transform3D::TranslationFieldMask | Transform3D::RotatePivotFieldMask |
-                              Transform3D::ScalePivotFieldMask);
-        subject.core->setTranslation(moved.translation);
-        subject.core->setRotatePivot(moved.rotatePivot);
-        subject.core->setScalePivot(moved.scalePivot);
-    }
-    noteWritten(subject, kind.kind, base);
-    return true;
-}
-
-osg::UInt32 movePivots(const PivotKind& kind, const char* title, osg::UInt32 count, bool worldSpace,
-                       nbTransformModel::ValueFunction places)
+osg::UInt32 movePivots(decltype(nbtransform::moveRotatePivot)& move, const char* title,
+                       osg::UInt32 count, bool worldSpace, nbTransformModel::ValueFunction places)
 {
     ParentFrames frames(worldSpace);
-    return editAll(
-        title, count, places, [&](const Subject& subject, const Vec3f& place, Faults& faults) {
-            return movePivot(kind, subject, frames.of(subject.node, subject.core), place, faults);
-        });
+    return editAll(title, count, places,
+                   [&](const Subject& subject, const Vec3f& place, Faults& faults) {
+                       return move(subject, frames.of(subject.node, subject.core), place, faults);
+                   });
 }
 
 bool moveInWorld(const Subject& subject, const nbTransformMath::Frame& frame, const Vec3f& value,
@@ -283,71 +153,6 @@ bool moveInWorld(const Subject& subject, const nbTransformMath::Frame& frame, co
     }
     const nbEdit edit(subject.core, Transform3D::TranslationFieldMask);
     subject.core->setTranslation(translation);
-    return true;
-}
-
-/// The quaternion for angles; that of the step's start where the angles are its own.
-osg::Quaternion quaternionFor(const Subject& subject, const Vec3f& anglesDeg)
-{
-    const std::string& order = subject.core->getEulerRotationOrder();
-    if (subject.entry != nullptr) {
-        const osg::Quaternion& start = subject.entry->start.rotationQuaternion;
-        if (isSame(anglesDeg, nbEulerRotation::fromQuaternion(start, order))) {
-            return start;
-        }
-    }
-    return nbEulerRotation::toQuaternion(anglesDeg, order);
-}
-
-/// Sets R by angles, in the core's rotation mode.
-void setTurn(const Subject& subject, const Vec3f& anglesDeg)
-{
-    if (subject.core->getRotationMode() == Transform3D::QuaternionMode) {
-        subject.core->setRotationQuaternion(quaternionFor(subject, anglesDeg));
-    } else {
-        subject.core->setEulerRotation(anglesDeg);
-    }
-}
-
-/// R of a state, rounded to float as in the core's matrix.
-nbQuaterniond turnOf(const nbTransformState& state)
-{
-    return nbRotationMath::toDouble(
-        state.rotationMode == Transform3D::QuaternionMode
-            ? state.rotationQuaternion
-            : nbEulerRotation::toQuaternion(state.eulerRotation, state.eulerRotationOrder));
-}
-
-/// The orientation with which the whole rotation of a state stays under another turn.
-osg::Quaternion compensatingOrientation(const nbTransformState& state, const osg::Quaternion& turn)
-{
-    nbQuaterniond back = nbRotationMath::toDouble(turn);
-    back.invert();
-    nbQuaterniond orientation = nbRotationMath::product(
-        back,
-        nbRotationMath::product(turnOf(state),
-                                nbRotationMath::toDouble(state.rotationOrientation)));
-    orientation.normalize();
-    return nbRotationMath::toFloat(orientation);
-}
-
-bool turnPivot(const Subject& subject, const Vec3f& anglesDeg)
-{
-    const Base base = baseOf(subject, OrientationEdit);
-    {
-        const nbEdit edit(subject.core,
-                          Transform3D::RotationFieldMask |
-                              Transform3D::RotationOrientationFieldMask);
-        setTurn(subject, anglesDeg);
-        const nbTransformState present = nbTransformState::of(*subject.core);
-        const bool isBack = isSame(present.eulerRotation, base.state.eulerRotation) &&
-            std::memcmp(present.rotationQuaternion.getValues(),
-                        base.state.rotationQuaternion.getValues(), sizeof(osg::Quaternion)) == 0;
-        subject.core->setRotationOrientation(
-            isBack ? base.state.rotationOrientation
-                   : compensatingOrientation(base.state, subject.core->getRotationAsQuaternion()));
-    }
-    noteWritten(subject, OrientationEdit, base);
     return true;
 }
 
@@ -405,7 +210,7 @@ osg::UInt32 nbTransformModel::setRotation(osg::UInt32 count, ValueFunction angle
     return editAll(kRotateTitle, count, anglesDeg,
                    [](const Subject& subject, const Vec3f& value, Faults&) {
                        const nbEdit edit(subject.core, Transform3D::RotationFieldMask);
-                       setTurn(subject, value);
+                       nbtransform::setTurn(subject, value);
                        return true;
                    });
 }
@@ -423,13 +228,14 @@ osg::UInt32 nbTransformModel::setScale(osg::UInt32 count, ValueFunction factors)
 osg::UInt32 nbTransformModel::setRotationPivot(osg::UInt32 count, bool worldSpace,
                                                ValueFunction places)
 {
-    return movePivots(kRotatePivot, kMoveRotatePivotTitle, count, worldSpace, places);
+    return movePivots(nbtransform::moveRotatePivot, kMoveRotatePivotTitle, count, worldSpace,
+                      places);
 }
 
 osg::UInt32 nbTransformModel::setScalePivot(osg::UInt32 count, bool worldSpace,
                                             ValueFunction places)
 {
-    return movePivots(kScalePivot, kMoveScalePivotTitle, count, worldSpace, places);
+    return movePivots(nbtransform::moveScalePivot, kMoveScalePivotTitle, count, worldSpace, places);
 }
 
 osg::UInt32 nbTransformModel::setRotationPivotOrientation(osg::UInt32 count,
@@ -437,7 +243,8 @@ osg::UInt32 nbTransformModel::setRotationPivotOrientation(osg::UInt32 count,
 {
     return editAll(kTurnPivotTitle, count, anglesDeg,
                    [](const Subject& subject, const Vec3f& value, Faults&) {
-                       return turnPivot(subject, value);
+                       nbtransform::turnPivot(subject, value);
+                       return true;
                    });
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <nbKernelServices/detail/TransformTable.h>
+#include <nbKernelServices/nbTransformTable.h>
 #include <nbKernelServices/nbUndoRecord.h>
 
 #include <QtCore/QString>
@@ -17,7 +17,7 @@ using StepRecords = std::vector<std::unique_ptr<nbUndoRecord>>;
 class OpenStep
 {
 public:
-    TransformTable& getTransforms() { return transforms; }
+    nbTransformTable& getTransforms() { return transforms; }
 
     void add(std::unique_ptr<nbUndoRecord> entry) { records.push_back(std::move(entry)); }
 
@@ -42,7 +42,7 @@ public:
     void clear();
 
 private:
-    TransformTable transforms;
+    nbTransformTable transforms;
     StepRecords records;
     std::unordered_set<osg::UInt32> met;
     QString title;

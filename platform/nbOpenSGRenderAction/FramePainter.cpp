@@ -1,0 +1,239 @@
+// SPDX-License-Identifier: MIT
+#include "FramePainter.h"
+
+#include <OpenSG/OSGContentStamp.h>
+
+#include <algorithm>
+
+namespace nbrender {
+
+namespace {
+
+void clear(Gl& gl, const DepthLayout& depth)
+{
+    constexpr GLfloat kNothing[] = { 0.0F, 0.0F, 0.0F, 0.0F };
+    const GLfloat farthest = depth.getClearValue();
+    gl.glDisable(GL_SCISSOR_TEST);
+    gl.glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
+    gl.glDepthMask(GL_TRUE);
+    gl.glClearBufferfv(GL_COLOR, 0, kNothing);
+    gl.glClearBufferfv(GL_COLOR, 1, kNothing);
+    gl.glClearBufferfv(GL_DEPTH, 0, &farthest);
+}
+
+}  // namespace
+
+bool FramePainter::initialise(Gl& gl, std::string& error)
+{
+    if (!programs.initialise(gl, error)) {
+        programs.release(gl);
+        return false;
+    }
+    depth = DepthLayout::choose();
+    return true;
+}
+
+void FramePainter::draw(Gl& gl, const Frame& frame, const osg::ViewportPtr& viewport,
+                        FrameTargets& targets)
+{
+    taken.items = taken.inView = taken.reused = 0;
+    gl.glViewport(0, 0, frame.widthPx, frame.heightPx);
+    if (viewport == osg::NullFC || viewport->getCamera() == osg::NullFC) {
+        begin(gl, frame, viewport, targets);
+        return;
+    }
+    const FrameView view = prepareView(frame, viewport);
+    plates.update(viewport->getRoot());
+    const FrameSteps steps = makeSteps(frame, viewport, view);
+    const SceneImage::Plan plan = makePlan(frame, view, steps, targets);
+    if (plan.reused > 0) {
+        targets.restore(gl);
+        for (std::size_t i = plan.reused; i < steps.size(); ++i) {
+            targets.markDrawn(pixelsOf(steps[i], frame, view));
+        }
+    } else {
+        begin(gl, frame, viewport, targets);
+        plates.drawBack(gl, frame, textures);
+    }
+    const std::size_t middle = std::max(plan.reused, plan.kept);
+    drawSteps(gl, frame, viewport, view, steps, plan.reused, middle);
+    if (plan.kept > plan.reused) {
+        image.kept(steps, plan, wholeOf(frame).area(), targets.keep(gl));
+        for (std::size_t i = middle; i < steps.size(); ++i) {
+            targets.markDrawn(pixelsOf(steps[i], frame, view));
+        }
+    }
+    drawSteps(gl, frame, viewport, view, steps, middle, steps.size());
+    taken.items = list.getItems().size();
+}
+
+void FramePainter::drawHandles(Gl& gl, const Frame& frame, const osg::ViewportPtr& viewport,
+                               FrameTargets& targets)
+{
+    gl.glViewport(0, 0, frame.widthPx, frame.heightPx);
+    begin(gl, frame, viewport, targets);
+    if (viewport != osg::NullFC && viewport->getCamera() != osg::NullFC) {
+        const FrameView view = prepareView(frame, viewport);
+        FrameSteps steps;
+        osg::ContentStamp stamp;
+        addItems(steps, stamp, view, false, true);
+        drawItems(gl, frame, view, steps, 0, steps.size());
+    }
+}
+
+void FramePainter::begin(Gl& gl, const Frame& frame, const osg::ViewportPtr& viewport,
+                         FrameTargets& targets)
+{
+    targets.markDrawn(wholeOf(frame));
+    clear(gl, depth);
+    background.draw(gl, viewport, frame, programs, textures);
+}
+
+FrameView FramePainter::prepareView(const Frame& frame, const osg::ViewportPtr& viewport)
+{
+    if (list.update(viewport->getRoot())) {
+        ++taken.listBuilds;
+    }
+    return makeFrameView(viewport->getCamera(), list, frame, depth);
+}
+
+FrameSteps FramePainter::makeSteps(const Frame& frame, const osg::ViewportPtr& viewport,
+                                   const FrameView& view)
+{
+    FrameSteps steps;
+    osg::ContentStamp stamp;
+    addTo(stamp, view);
+    BackgroundPainter::addTo(stamp, viewport, frame);
+    plates.addBackTo(stamp, frame);
+    const bool hasVeil = BackgroundPainter::hasVeil(viewport);
+    if (!hasVeil && !plates.hasFront()) {
+        addItems(steps, stamp, view, true, true);
+        return steps;
+    }
+    addItems(steps, stamp, view, true, false);
+    if (hasVeil) {
+        BackgroundPainter::addVeilTo(stamp, viewport);
+        steps.push_back({ FrameStep::Kind::Veil, 0, false, stamp.get() });
+    }
+    if (plates.hasFront()) {
+        plates.addFrontTo(stamp, frame);
+        steps.push_back({ FrameStep::Kind::FrontPlates, 0, true, stamp.get() });
+    }
+    addItems(steps, stamp, view, false, true);
+    return steps;
+}
+
+void FramePainter::addItems(FrameSteps& steps, osg::ContentStamp& stamp, const FrameView& view,
+                            bool scene, bool handles)
+{
+    for (const osg::UInt32 index : list.getOrder(view.viewFromWorld)) {
+        const RenderItem& item = list.getItems()[index];
+        if ((item.handle ? !handles : !scene) ||
+            !(placesItself(list, item) ||
+              isInView(item.bounds, view.usualClipFromWorld, item.handle))) {
+            continue;
+        }
+        stamp.add(item.stamp);
+        for (const osg::Vec4f& plane : list.getClipPlanes(item.clipSet)) {
+            stamp.add(plane.getValues(), 4);
+        }
+        steps.push_back({ FrameStep::Kind::Item, index, item.handle, stamp.get() });
+        ++taken.inView;
+    }
+}
+
+SceneImage::Plan FramePainter::makePlan(const Frame& frame, const FrameView& view,
+                                        const FrameSteps& steps, const FrameTargets& targets)
+{
+    const auto pixels = [&](const FrameStep& step) { return pixelsOf(step, frame, view); };
+    const auto triangles = [this](const FrameStep& step) {
+        return step.kind == FrameStep::Kind::Item
+            ? meshes.getTriangles(list.getItems()[step.item].geometryId)
+            : std::size_t(0);
+    };
+    const SceneImage::Plan plan = image.plan(
+        steps,
+        { wholeOf(frame).area(), targets.hasKept(), targets.getDifference(), pixels, triangles });
+    const auto isItem = [](const FrameStep& step) { return step.kind == FrameStep::Kind::Item; };
+    const auto begin = steps.begin();
+    taken.reused = static_cast<std::size_t>(
+        std::count_if(begin, begin + static_cast<std::ptrdiff_t>(plan.reused), isItem));
+    return plan;
+}
+
+PixelBox FramePainter::pixelsOf(const FrameStep& step, const Frame& frame,
+                                const FrameView& view) const
+{
+    switch (step.kind) {
+    case FrameStep::Kind::Item:
+        return nbrender::pixelsOf(list.getItems()[step.item], list, view, frame);
+    case FrameStep::Kind::FrontPlates:
+        return plates.frontPixels(frame);
+    default:
+        return wholeOf(frame);
+    }
+}
+
+void FramePainter::drawSteps(Gl& gl, const Frame& frame, const osg::ViewportPtr& viewport,
+                             const FrameView& view, const FrameSteps& steps, std::size_t first,
+                             std::size_t last)
+{
+    for (std::size_t i = first; i < last;) {
+        if (steps[i].kind == FrameStep::Kind::Veil) {
+            background.drawVeil(gl, viewport, frame, textures);
+            ++i;
+        } else if (steps[i].kind == FrameStep::Kind::FrontPlates) {
+            plates.drawFront(gl, frame, textures);
+            ++i;
+        } else {
+            std::size_t end = i;
+            while (end < last && steps[end].kind == FrameStep::Kind::Item) {
+                ++end;
+            }
+            drawItems(gl, frame, view, steps, i, end);
+            i = end;
+        }
+    }
+}
+
+void FramePainter::drawItems(Gl& gl, const Frame& frame, const FrameView& view,
+                             const FrameSteps& steps, std::size_t first, std::size_t last)
+{
+    depth.enter();
+    {
+        ItemPainter painter(gl, meshes, textures, programs, view, *frame.count);
+        for (std::size_t i = first; i < last; ++i) {
+            painter.draw(list.getItems()[steps[i].item], list);
+        }
+    }
+    depth.leave();
+}
+
+void FramePainter::collect(Gl& gl)
+{
+    meshes.collect(gl);
+    textures.collect(gl);
+    programs.collect(gl);
+}
+
+void FramePainter::release(Gl& gl)
+{
+    programs.release(gl);
+    meshes.release(gl);
+    textures.release(gl);
+    background.release(gl);
+    plates.release(gl);
+    image.forget();
+}
+
+void FramePainter::forget()
+{
+    programs.forget();
+    meshes.forget();
+    textures.forget();
+    background.forget();
+    plates.forget();
+    image.forget();
+}
+
+}  // namespace nbrender

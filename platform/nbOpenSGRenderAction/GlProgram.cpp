@@ -1,0 +1,166 @@
+// SPDX-License-Identifier: MIT
+#include "GlProgram.h"
+
+#include <vector>
+
+namespace nbrender {
+
+namespace {
+
+/// Logs have many lines and often a trailing zero; one is what a reader gets.
+std::string firstLine(const std::vector<char>& log)
+{
+    std::string line;
+    for (const char c : log) {
+        if (c == '\n' || c == '\r' || c == '\0') {
+            if (!line.empty()) {
+                break;
+            }
+            continue;
+        }
+        line += c;
+    }
+    return line.empty() ? "the driver gives no reason" : line;
+}
+
+GLuint compile(Gl& gl, GLenum stage, const std::string& text, std::string& error)
+{
+    const GLuint shader = gl.glCreateShader(stage);
+    const char* source = text.c_str();
+    gl.glShaderSource(shader, 1, &source, nullptr);
+    gl.glCompileShader(shader);
+    GLint compiled = GL_FALSE;
+    gl.glGetShaderiv(shader, GL_COMPILE_STATUS, &compiled);
+    if (compiled == GL_TRUE) {
+        return shader;
+    }
+    GLint length = 0;
+    gl.glGetShaderiv(shader, GL_INFO_LOG_LENGTH, &length);
+    std::vector<char> log(static_cast<std::size_t>(length) + 1, '\0');
+    gl.glGetShaderInfoLog(shader, length, nullptr, log.data());
+    error = firstLine(log);
+    gl.glDeleteShader(shader);
+    return 0;
+}
+
+void bindAttributes(Gl& gl, GLuint program)
+{
+    const char* const names[] = { "nbPosition", "nbNormal", "nbColor", "nbTexCoord" };
+    for (GLuint location = 0; location < 4; ++location) {
+        gl.glBindAttribLocation(program, location, names[location]);
+    }
+}
+
+}  // namespace
+
+bool GlProgram::build(Gl& gl, const std::string& vertexText, const std::string& geometryText,
+                      const std::string& fragmentText, std::string& error)
+{
+    destroy(gl);
+
+    struct Stage
+    {
+        GLenum kind;
+        const std::string& text;
+    };
+
+    const Stage stages[] = { { GL_VERTEX_SHADER, vertexText },
+                             { GL_GEOMETRY_SHADER, geometryText },
+                             { GL_FRAGMENT_SHADER, fragmentText } };
+    const GLuint program = gl.glCreateProgram();
+    bool good = true;
+    for (const Stage& stage : stages) {
+        if (good && !stage.text.empty()) {
+            const GLuint shader = compile(gl, stage.kind, stage.text, error);
+            good = shader != 0;
+            if (good) {
+                gl.glAttachShader(program, shader);
+                gl.glDeleteShader(shader);  // lives as long as it is attached
+            }
+        }
+    }
+    if (good) {
+        bindAttributes(gl, program);
+        gl.glLinkProgram(program);
+        GLint linked = GL_FALSE;
+        gl.glGetProgramiv(program, GL_LINK_STATUS, &linked);
+        good = linked == GL_TRUE;
+        if (!good) {
+            GLint length = 0;
+            gl.glGetProgramiv(program, GL_INFO_LOG_LENGTH, &length);
+            std::vector<char> log(static_cast<std::size_t>(length) + 1, '\0');
+            gl.glGetProgramInfoLog(program, length, nullptr, log.data());
+            error = firstLine(log);
+        }
+    }
+    if (!good) {
+        gl.glDeleteProgram(program);
+        return false;
+    }
+    id = program;
+    return true;
+}
+
+void GlProgram::destroy(Gl& gl)
+{
+    if (id != 0) {
+        gl.glDeleteProgram(id);
+    }
+    id = 0;
+    locations.clear();
+    literalLocations.clear();
+}
+
+GLint GlProgram::locate(Gl& gl, const std::string& name)
+{
+    const auto known = locations.find(name);
+    if (known != locations.end()) {
+        return known->second;
+    }
+    const GLint location = gl.glGetUniformLocation(id, name.c_str());
+    locations.emplace(name, location);
+    return location;
+}
+
+GLint GlProgram::locateLiteral(Gl& gl, const char* name)
+{
+    const auto known = literalLocations.find(name);
+    if (known != literalLocations.end()) {
+        return known->second;
+    }
+    const GLint location = gl.glGetUniformLocation(id, name);
+    literalLocations.emplace(name, location);
+    return location;
+}
+
+void GlProgram::set(Gl& gl, const char* name, const osg::Matrix& value)
+{
+    gl.glUniformMatrix4fv(locateLiteral(gl, name), 1, GL_FALSE, value.getValues());
+}
+
+void GlProgram::set(Gl& gl, const char* name, float value)
+{
+    gl.glUniform1f(locateLiteral(gl, name), value);
+}
+
+void GlProgram::set(Gl& gl, const char* name, GLint value)
+{
+    gl.glUniform1i(locateLiteral(gl, name), value);
+}
+
+void GlProgram::set(Gl& gl, const char* name, float x, float y)
+{
+    gl.glUniform2f(locateLiteral(gl, name), x, y);
+}
+
+void GlProgram::set(Gl& gl, const char* name, float x, float y, float z)
+{
+    gl.glUniform3f(locateLiteral(gl, name), x, y, z);
+}
+
+void GlProgram::set(Gl& gl, const char* name, float x, float y, float z, float w)
+{
+    gl.glUniform4f(locateLiteral(gl, name), x, y, z, w);
+}
+
+}  // namespace nbrender

@@ -1,0 +1,338 @@
+// SPDX-License-Identifier: MIT
+#include "ItemList.h"
+
+#include <nbOpenSGExt/NodeFlags.h>
+#include <nbOpenSGRenderAction/Mesh.h>
+#include <nbOpenSGSceneplate/nbSceneplateList.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
+
+#include <OpenSG/OSGChangeCount.h>
+#include <OpenSG/OSGContentStamp.h>
+#include <OpenSG/OSGFieldContainerFactory.h>
+#include <OpenSG/OSGMaterialGroup.h>
+#include <OpenSG/OSGSwitch.h>
+#include <OpenSG/OSGTransform.h>
+
+#include <algorithm>
+#include <cstring>
+#include <limits>
+#include <set>
+#include <tuple>
+
+namespace nbrender {
+
+namespace {
+
+/// Handles more transparent than this are blended; their materials use tiny transparencies to get
+/// sorted.
+constexpr float kOpaqueHandleTransparency = 0.01F;
+constexpr float kRounding = 1e-6F;
+
+osg::UInt32 idOf(const osg::FieldContainerPtr& container)
+{
+    return container == osg::NullFC ? 0 : container.getFieldContainerId();
+}
+
+using MatrixValues = std::array<float, kMatrixSize>;
+
+/// What two copies of one handle have in common.
+using Likeness = std::tuple<osg::UInt32, osg::UInt32, osg::UInt32, MatrixValues>;
+
+/// Items of one sort key and kind stand together in the sorted list.
+bool sameRun(const RenderItem& a, const RenderItem& b)
+{
+    return a.key == b.key && a.secondKey == b.secondKey && a.blended == b.blended;
+}
+
+}  // namespace
+
+/// What holds at a place of the tree.
+struct ItemList::Place
+{
+    osg::Matrix worldFromParent;
+    osg::MaterialPtr group;
+    /// Of the node that carries the group's material; belongs to a visit further up.
+    const osg::Matrix* worldFromGroup = nullptr;
+    osg::UInt32 manipulator = 0;
+    osg::UInt32 clipSet = 0;
+    bool auxiliary = false;
+};
+
+bool ItemList::update(const osg::NodePtr& root)
+{
+    const osg::UInt32 id = idOf(root);
+    const osg::UInt64 count = osg::getTreeChangeCount(root);
+    if (id == rootId && count == treeCount) {
+        // What moves a plane may be outside of the tree.
+        clipSets.update();
+        return false;
+    }
+    rootId = id;
+    treeCount = count;
+    items.clear();
+    states.clear();
+    stateStamps.clear();
+    stateIndices.clear();
+    clipSets.clear();
+    surfaceSpaces.clear();
+    manipulatorCount = 0;
+    if (root != osg::NullFC) {
+        visit(root, Place());
+    }
+    clipSets.update();
+    assignDepthSteps();
+    sortItems();
+    dropCopies();
+    measure();
+    forgetDeadBounds();
+    return true;
+}
+
+void ItemList::visit(const osg::NodePtr& node, const Place& above)
+{
+    // A scene plate has no place in 3D.
+    if (node->getTravMask() == 0 || nbSceneplateList::plateOf(node) != osg::NullFC) {
+        return;
+    }
+    Place place = above;
+    const osg::UInt32 flags = nbNodeUtils::getNodeFlags(node);
+    place.auxiliary = place.auxiliary || (flags & osg::NodeFlags::Auxiliary) != 0;
+    if ((flags & osg::NodeFlags::ManipulatorNode) != 0 && place.manipulator == 0) {
+        place.manipulator = ++manipulatorCount;
+        place.group = osg::NullFC;
+    }
+    place.clipSet = clipSets.below(above.clipSet, node);
+    const osg::NodeCorePtr core = node->getCore();
+    if (const auto transform = osg::TransformPtr::dcast(core); transform != osg::NullFC) {
+        place.worldFromParent.mult(transform->getMatrix());
+    } else if (const auto group = osg::MaterialGroupPtr::dcast(core); group != osg::NullFC) {
+        if (place.group == osg::NullFC) {
+            place.group = group->getMaterial();
+            place.worldFromGroup = &place.worldFromParent;
+        }
+    } else if (const auto geometry = osg::GeometryPtr::dcast(core); geometry != osg::NullFC) {
+        addItem(geometry, place);
+    }
+    visitChildren(node, place);
+}
+
+void ItemList::visitChildren(const osg::NodePtr& node, const Place& place)
+{
+    osg::UInt32 first = 0;
+    osg::UInt32 end = node->getNChildren();
+    const auto choice = osg::SwitchPtr::dcast(node->getCore());
+    if (choice != osg::NullFC && choice->getChoice() != osg::Switch::ALL) {
+        const osg::Int32 index = choice->getChoice();
+        const bool exists = index >= 0 && index < static_cast<osg::Int32>(end);
+        first = exists ? static_cast<osg::UInt32>(index) : 0;
+        end = exists ? first + 1 : 0;
+    }
+    for (osg::UInt32 i = first; i < end; ++i) {
+        visit(node->getChild(i), place);
+    }
+}
+
+void ItemList::addItem(const osg::GeometryPtr& geometry, const Place& place)
+{
+    const LocalBounds& local = localBounds(geometry);
+    if (local.box.isEmpty()) {
+        return;
+    }
+    RenderItem item;
+    item.geometryId = geometry.getFieldContainerId();
+    item.handle = place.manipulator != 0;
+    item.manipulator = place.manipulator;
+    item.auxiliary = place.auxiliary;
+    item.clipSet = item.handle ? 0 : place.clipSet;
+    item.worldFromObject = place.worldFromParent;
+    item.bounds = local.box;
+    item.bounds.transform(place.worldFromParent);
+    item.stateIndex = stateFor(geometry->getMaterial(), place.group, item.handle);
+    const DrawState& state = states[item.stateIndex];
+    item.key = state.sortKey;
+    if (item.handle) {
+        item.secondKey = state.sortKey;
+        item.key = place.group == osg::NullFC ? state.sortKey : place.group->getSortKey();
+    }
+    item.blended = state.transparent;
+    placePictures(item, place);
+    item.stamp = stampOf(item, local.stamp);
+    items.push_back(item);
+}
+
+osg::UInt64 ItemList::stampOf(const RenderItem& item, osg::UInt64 geometry) const
+{
+    osg::ContentStamp stamp;
+    stamp.add(osg::UInt64(item.geometryId));
+    stamp.add(geometry);
+    stamp.add(stateStamps[item.stateIndex]);
+    stamp.add(osg::UInt64(item.blended ? 1 : 0));
+    stamp.add(item.worldFromObject.getValues(), kMatrixSize);
+    if (item.surfaceSpace != 0) {
+        const SurfaceSpace& space = getSurfaceSpace(item.surfaceSpace);
+        stamp.add(space.surfaceFromItem.getValues(), kMatrixSize);
+        stamp.add(space.worldFromSurface.getValues(), kMatrixSize);
+    }
+    return stamp.get();
+}
+
+void ItemList::placePictures(RenderItem& item, const Place& place)
+{
+    if (states[item.stateIndex].uber == nullptr || item.handle || place.group == osg::NullFC) {
+        return;
+    }
+    SurfaceSpace space;
+    space.worldFromSurface = *place.worldFromGroup;
+    place.worldFromGroup->inverse(space.surfaceFromItem);
+    space.surfaceFromItem.mult(item.worldFromObject);
+    surfaceSpaces.push_back(space);
+    item.surfaceSpace = static_cast<osg::UInt32>(surfaceSpaces.size());
+}
+
+osg::UInt32 ItemList::stateFor(const osg::MaterialPtr& material, const osg::MaterialPtr& group,
+                               bool handle)
+{
+    const StateKey key { idOf(material), idOf(group), handle };
+    const auto known = stateIndices.find(key);
+    if (known != stateIndices.end()) {
+        return known->second;
+    }
+    const bool ownMaterial = group == osg::NullFC || (handle && material != osg::NullFC);
+    DrawState state = resolveMaterial(ownMaterial ? material : group);
+    if (handle) {
+        applyChunks(state, group);
+        state.transparent =
+            state.shaderId == 0 && state.alpha < 1.0F - kOpaqueHandleTransparency - kRounding;
+        state.depthTest = true;
+        state.depthFunc = GL_LEQUAL;
+        state.depthWrite = true;
+    }
+    if (state.transparent) {
+        state.depthWrite = false;
+    }
+    const auto index = static_cast<osg::UInt32>(states.size());
+    stateStamps.push_back(nbrender::stampOf(state));
+    states.push_back(state);
+    stateIndices.emplace(key, index);
+    return index;
+}
+
+const ItemList::LocalBounds& ItemList::localBounds(const osg::GeometryPtr& geometry)
+{
+    LocalBounds& known = boundsById[geometry.getFieldContainerId()];
+    const osg::UInt64 stamp = geometryStamp(geometry);
+    if (known.stamp != stamp) {
+        known.stamp = stamp;
+        known.box = osg::BoxVolume();
+        known.box.setEmpty();
+        geometry->adjustVolume(known.box);
+    }
+    return known;
+}
+
+void ItemList::assignDepthSteps()
+{
+    constexpr osg::Int32 kHighest = std::numeric_limits<osg::Int32>::max();
+    std::vector<osg::Int32> lowest(manipulatorCount + 1, kHighest);
+    for (const RenderItem& item : items) {
+        lowest[item.manipulator] = std::min(lowest[item.manipulator], item.secondKey);
+    }
+    for (RenderItem& item : items) {
+        if (item.handle) {
+            const osg::Int64 steps = osg::Int64(item.secondKey) - lowest[item.manipulator];
+            item.depthSteps = static_cast<osg::Int32>(std::min<osg::Int64>(steps, kMostDepthSteps));
+        }
+    }
+}
+
+void ItemList::sortItems()
+{
+    const auto rank = [](const RenderItem& item) {
+        return std::make_tuple(item.key, item.secondKey, item.blended,
+                               item.blended ? 0 : item.stateIndex);
+    };
+    std::stable_sort(items.begin(), items.end(), [&rank](const RenderItem& a, const RenderItem& b) {
+        return rank(a) < rank(b);
+    });
+}
+
+void ItemList::dropCopies()
+{
+    if (manipulatorCount == 0) {
+        return;
+    }
+    std::set<Likeness> seen;
+    std::vector<RenderItem> kept;
+    kept.reserve(items.size());
+    for (auto item = items.rbegin(); item != items.rend(); ++item) {
+        if (item->handle) {
+            MatrixValues place {};
+            std::memcpy(place.data(), item->worldFromObject.getValues(), sizeof(MatrixValues));
+            const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(
+                osg::FieldContainerFactory::the()->getContainer(item->geometryId));
+            if (!seen.emplace(item->manipulator, item->geometryId, idOf(geometry->getMaterial()),
+                              place)
+                     .second) {
+                continue;
+            }
+        }
+        kept.push_back(*item);
+    }
+    std::reverse(kept.begin(), kept.end());
+    items.swap(kept);
+}
+
+void ItemList::measure()
+{
+    sceneBounds = osg::BoxVolume();
+    sceneBounds.setEmpty();
+    for (const RenderItem& item : items) {
+        if (!item.handle && !item.auxiliary) {
+            sceneBounds.extendBy(item.bounds);
+        }
+    }
+}
+
+void ItemList::forgetDeadBounds()
+{
+    for (auto known = boundsById.begin(); known != boundsById.end();) {
+        const bool alive =
+            osg::FieldContainerFactory::the()->getContainer(known->first) != osg::NullFC;
+        known = alive ? std::next(known) : boundsById.erase(known);
+    }
+}
+
+const std::vector<osg::UInt32>& ItemList::getOrder(const osg::Matrix& viewFromWorld)
+{
+    order.resize(items.size());
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        order[i] = static_cast<osg::UInt32>(i);
+    }
+    const auto viewDepth = [&](osg::UInt32 index) {
+        osg::Pnt3f center;
+        items[index].bounds.getCenter(center);
+        viewFromWorld.multMatrixPnt(center);
+        return center.z();
+    };
+    for (std::size_t begin = 0; begin < items.size();) {
+        std::size_t end = begin + 1;
+        while (end < items.size() && items[begin].blended && sameRun(items[begin], items[end])) {
+            ++end;
+        }
+        if (end - begin > 1) {
+            std::vector<std::pair<float, osg::UInt32>> run;
+            for (std::size_t i = begin; i < end; ++i) {
+                run.emplace_back(viewDepth(order[i]), order[i]);
+            }
+            std::stable_sort(run.begin(), run.end(),
+                             [](const auto& a, const auto& b) { return a.first < b.first; });
+            for (std::size_t i = begin; i < end; ++i) {
+                order[i] = run[i - begin].second;
+            }
+        }
+        begin = end;
+    }
+    return order;
+}
+
+}  // namespace nbrender

@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: MIT
+#include "MagnifierPainter.h"
+
+#include <nbKernel/nbOSGWidget.h>
+#include <nbMagnifier/nbMagnifierRenderer.h>
+#include <nbOpenSGRenderAction/StandardShaders.h>
+#include <nbOpenSGUtils/nbShaderHeader.h>
+#include <nbUtils/nbLog.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace nbrender {
+
+namespace {
+
+/// The distances from the cursor are those of pixels' middles, so that the cursor's pixel covers
+/// the middle of the lens whatever the scale is.
+const char* const kLensFragment = R"(
+uniform sampler2D picture;
+uniform vec2 origin;
+uniform vec2 size;
+uniform vec2 cursor;
+uniform float scale;
+uniform vec2 radii;
+layout (location = 0) out vec4 color;
+void main()
+{
+    vec2 way = gl_FragCoord.xy - cursor;
+    float distance = length(way);
+    float cover = clamp(radii.y - distance + 0.5, 0.0, 1.0);
+    if (cover <= 0.0) {
+        discard;
+    }
+    vec2 pixel = clamp(floor(cursor + way / scale) - origin, vec2(0.0), size - 1.0);
+    vec3 seen = texelFetch(picture, ivec2(pixel), 0).rgb;
+    float white = clamp(distance - radii.x + 0.5, 0.0, 1.0);
+    float dark = clamp(distance - 0.5 * (radii.x + radii.y) + 0.5, 0.0, 1.0);
+    color = vec4(mix(mix(seen, vec3(0.95), white), vec3(0.12), dark), cover);
+}
+)";
+
+}  // namespace
+
+bool MagnifierPainter::isShown(const osg::ViewportPtr& viewport)
+{
+    const nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1);
+    return nbMagnifierRenderer::isVisible() && widget != nullptr && viewport != osg::NullFC &&
+        widget->getViewport() == viewport;
+}
+
+void MagnifierPainter::keep(Gl& gl, GLuint picture, int widthPx, int heightPx, float pixelRatio)
+{
+    const auto reach = static_cast<int>(
+        std::ceil(kRadius * pixelRatio / nbMagnifierRenderer::getMagnificationScale()));
+    // A part that lies outside keeps the nearest pixels.
+    const auto limited = [reach](double middle, int way, int side) {
+        return static_cast<int>(
+            std::clamp(middle + way * (reach + 1.0), 0.0, static_cast<double>(side - 1)));
+    };
+    const double x = nbMagnifierRenderer::getCursorX();
+    const double y = heightPx - 1.0 - nbMagnifierRenderer::getCursorY();
+    originX = limited(x, -1, widthPx);
+    originY = limited(y, -1, heightPx);
+    keptWidth = limited(x, 1, widthPx) - originX + 1;
+    keptHeight = limited(y, 1, heightPx) - originY + 1;
+    pictureHeight = heightPx;
+    if (texture == 0) {
+        gl.glGenTextures(1, &texture);
+    }
+    gl.glActiveTexture(GL_TEXTURE0);
+    gl.glBindTexture(GL_TEXTURE_2D, texture);
+    gl.glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_NEAREST);
+    gl.glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_NEAREST);
+    gl.glBindFramebuffer(GL_READ_FRAMEBUFFER, picture);
+    gl.glReadBuffer(GL_COLOR_ATTACHMENT0);
+    gl.glCopyTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA8, originX, originY, keptWidth, keptHeight, 0);
+    gl.glBindTexture(GL_TEXTURE_2D, 0);
+}
+
+void MagnifierPainter::draw(Gl& gl, float pixelRatio, GLuint emptyArray)
+{
+    if (!isTried) {
+        isTried = true;
+        const std::string preamble =
+            shaderHeaderString(nbShaderStage::Fragment, false, false, false);
+        std::string error;
+        if (!lens.build(gl, shaders::fullScreenVertex(), std::string(), preamble + kLensFragment,
+                        error)) {
+            nbLog::error("the program for magnifiers does not compile on this driver: " + error);
+        }
+    }
+    if (!lens.isUsable() || texture == 0) {
+        return;
+    }
+    const float radius = kRadius * pixelRatio;
+    // Rows of the frame buffer run from the bottom.
+    const float x = static_cast<float>(nbMagnifierRenderer::getCursorX()) + 0.5F;
+    const float y = static_cast<float>(pictureHeight) -
+        static_cast<float>(nbMagnifierRenderer::getCursorY()) - 0.5F;
+    lens.use(gl);
+    lens.set(gl, "picture", GLint(0));
+    lens.set(gl, "origin", static_cast<float>(originX), static_cast<float>(originY));
+    lens.set(gl, "size", static_cast<float>(keptWidth), static_cast<float>(keptHeight));
+    lens.set(gl, "cursor", x, y);
+    lens.set(gl, "scale", nbMagnifierRenderer::getMagnificationScale());
+    lens.set(gl, "radii", radius - kRim * pixelRatio, radius);
+    gl.glActiveTexture(GL_TEXTURE0);
+    gl.glBindTexture(GL_TEXTURE_2D, texture);
+    gl.glBindVertexArray(emptyArray);
+    // The rest of the picture costs nothing. A cursor far outside leaves nothing to be drawn.
+    const auto edge = [radius](float middle) {
+        constexpr float kFarthest = 1e6F;
+        return static_cast<GLint>(std::floor(std::clamp(middle - radius, -kFarthest, kFarthest)));
+    };
+    const auto side = static_cast<GLsizei>(std::ceil(2.0F * radius)) + 3;
+    gl.glEnable(GL_SCISSOR_TEST);
+    gl.glScissor(edge(x) - 1, edge(y) - 1, side, side);
+    gl.glEnable(GL_BLEND);
+    gl.glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ZERO, GL_ONE);
+    gl.glDrawArrays(GL_TRIANGLES, 0, 3);
+    gl.glDisable(GL_BLEND);
+    gl.glDisable(GL_SCISSOR_TEST);
+    gl.glBindTexture(GL_TEXTURE_2D, 0);
+}
+
+void MagnifierPainter::release(Gl& gl)
+{
+    lens.destroy(gl);
+    gl.glDeleteTextures(1, &texture);
+    forget();
+}
+
+}  // namespace nbrender

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <nbOpenSGRenderAction/Frame.h>
+#include <nbOpenSGRenderAction/GpuTextures.h>
+#include <nbOpenSGSceneplate/nbSceneplateList.h>
+
+#include <OpenSG/OSGContentStamp.h>
+
+#include <vector>
+
+namespace nbrender {
+
+/// Draws scene plates and the outlines of those that are marked.
+///
+/// Plates are blended over what is there, without depth test, and leave depths and the effect
+/// buffer alone. A plate on whole pixels (see nbSceneplateLayout) covers exactly these and shows a
+/// picture of as many pixels unchanged; it also stays where it is when the rest of the picture is
+/// shifted by parts of a pixel. Others have smooth edges. Outlines lie around the plate, so that
+/// they hide nothing of it.
+class SceneplatePainter
+{
+public:
+    /// Looks for the plates of a tree, if it has changed; to be called once per frame.
+    void update(const osg::NodePtr& root);
+
+    /// Whether drawFront has anything to draw.
+    bool hasFront() const { return frontBegin < plates.size() || hasMarkers; }
+
+    /// Draws the plates behind the scene.
+    void drawBack(Gl& gl, const Frame& frame, GpuTextures& textures);
+
+    /// Draws the plates in front of the scene, then the outlines of all marked ones.
+    void drawFront(Gl& gl, const Frame& frame, GpuTextures& textures);
+
+    // Each adds what the operation above depends on.
+
+    void addBackTo(osg::ContentStamp& stamp, const Frame& frame) const;
+    void addFrontTo(osg::ContentStamp& stamp, const Frame& frame) const;
+
+    /// Pixels outside of which drawFront() draws nothing.
+    PixelBox frontPixels(const Frame& frame) const;
+
+    void release(Gl& gl);
+    void forget();
+
+private:
+    struct Quad;
+
+    using Quads = std::vector<Quad>;
+
+    Quads backQuads(const Frame& frame) const;
+    Quads frontQuads(const Frame& frame) const;
+    static Quad plateQuad(const Frame& frame, const osg::SceneplatePtr& plate);
+    static void addMarker(Quads& quads, const Frame& frame, const osg::SceneplatePtr& plate);
+    void draw(Gl& gl, const Frame& frame, const Quads& quads, GpuTextures& textures);
+    bool begin(Gl& gl, const Frame& frame);
+    static void end(Gl& gl);
+    void drawQuad(Gl& gl, const Quad& quad, GpuTextures& textures);
+
+    std::vector<nbSceneplateList::Entry> plates;  ///< in drawing order
+    osg::UInt32 rootId = 0;
+    osg::UInt64 treeCount = 0;
+    std::size_t frontBegin = 0;  ///< index of the first one in front of the scene
+    bool hasMarkers = false;
+    GlProgram program;
+    bool programTried = false;
+};
+
+}  // namespace nbrender

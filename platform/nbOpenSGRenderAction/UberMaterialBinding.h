@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <nbOpenSGRenderAction/GpuTextures.h>
+#include <nbOpenSGRenderAction/ItemList.h>
+#include <nbOpenSGRenderAction/UberMaterialShader.h>
+#include <nbOpenSGRenderAction/UberMaterialState.h>
+
+namespace nbrender {
+
+/// The pictures of a material that a geometry shows.
+/// @param hasTexCoords  whether it has texture coordinates
+shaders::PictureKinds pictureKinds(const UberMaterialState& state, bool hasTexCoords);
+
+/// Binds the pictures of an UberMaterial to texture units of their own and sets what
+/// shaders::uberMaterialFunctions() wants. Leaves texture unit 0 active.
+/// @param program  in use, for pictureKinds()
+/// @param space    of the projections
+void bindUberMaterial(Gl& gl, GpuTextures& textures, GlProgram& program,
+                      const UberMaterialState& state, const SurfaceSpace& space);
+
+/// Puts the texture units back that bindUberMaterial uses.
+void unbindUberMaterial(Gl& gl);
+
+}  // namespace nbrender

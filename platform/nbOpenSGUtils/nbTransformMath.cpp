@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#include "nbTransformMath.h"
+
+#include <array>
+#include <cmath>
+
+namespace nbTransformMath {
+
+namespace {
+
+constexpr double kSingular = 1e-12;
+
+Vec3d scaledBy(const nbTransformState& state, const Vec3d& v)
+{
+    return { v[0] * state.scale[0], v[1] * state.scale[1], v[2] * state.scale[2] };
+}
+
+}  // namespace
+
+Vec3d rotatePivotPlace(const nbTransformState& state, const Matrix3d&)
+{
+    return toDouble(state.translation) + toDouble(state.rotatePivot);
+}
+
+Vec3d scalePivotPlace(const nbTransformState& state, const Matrix3d& rotation)
+{
+    return rotatePivotPlace(state, rotation) +
+        rotation * (toDouble(state.scalePivot) - toDouble(state.rotatePivot));
+}
+
+MovedPivots moveRotatePivot(const nbTransformState& state, const Matrix3d& rotation,
+                            const Vec3d& delta)
+{
+    const Vec3d pivotDelta = rotation.transposedTimes(delta);
+    return { toDouble(state.translation) + (delta - pivotDelta),
+             toDouble(state.rotatePivot) + pivotDelta, toDouble(state.scalePivot) };
+}
+
+MovedPivots moveScalePivot(const nbTransformState& state, const Matrix3d& rotation,
+                           const Vec3d& delta)
+{
+    // The place moves by R S times the change of s. With p changed by (1 - S) times it and t by the
+    // opposite, t + p and o stay.
+    const Vec3d turnedBack = rotation.transposedTimes(delta);
+    Vec3d pivotDelta;
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        const double factor = state.scale[i];
+        pivotDelta[i] = factor == 0.0 ? 0.0 : turnedBack[i] / factor;
+    }
+    const Vec3d shift = pivotDelta - scaledBy(state, pivotDelta);
+    return { toDouble(state.translation) - shift, toDouble(state.rotatePivot) + shift,
+             toDouble(state.scalePivot) + pivotDelta };
+}
+
+Vec3d rotatePivotCompensation(const nbTransformState&, const Matrix3d& rotation,
+                              const Vec3d& pivotDelta)
+{
+    return rotation * pivotDelta - pivotDelta;
+}
+
+Vec3d scalePivotCompensation(const nbTransformState& state, const Matrix3d& rotation,
+                             const Vec3d& pivotDelta)
+{
+    return rotation * (scaledBy(state, pivotDelta) - pivotDelta);
+}
+
+Frame Frame::of(const osg::Matrix& matrix)
+{
+    Frame frame;
+    frame.isIdentity = matrix == osg::Matrix::identity();
+    if (frame.isIdentity) {
+        return frame;
+    }
+    std::array<Vec3d, 3> columns {};
+    double lengths = 1.0;
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        columns[i] = Vec3d(matrix[i][0], matrix[i][1], matrix[i][2]);
+        lengths *= columns[i].length();
+        for (osg::UInt32 row = 0; row < 3; ++row) {
+            frame.linear.rows[row][i] = columns[i][row];
+        }
+        frame.origin[i] = matrix[3][i];
+    }
+    const std::array<Vec3d, 3> normals { columns[1].cross(columns[2]), columns[2].cross(columns[0]),
+                                         columns[0].cross(columns[1]) };
+    const double determinant = columns[0].dot(normals[0]);
+    frame.invertible = std::isfinite(determinant) && std::fabs(determinant) > kSingular * lengths;
+    for (osg::UInt32 row = 0; row < 3 && frame.invertible; ++row) {
+        for (osg::UInt32 column = 0; column < 3; ++column) {
+            frame.inverse.rows[row][column] = normals[row][column] / determinant;
+        }
+    }
+    return frame;
+}
+
+}  // namespace nbTransformMath

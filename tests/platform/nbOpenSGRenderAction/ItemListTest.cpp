@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: MIT
+#include <nbOpenSGExt/DepthTestChunk.h>
+#include <nbOpenSGRenderAction/ItemList.h>
+#include <nbOpenSGUtils/nbEdit.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
+
+#include <OpenSG/OSGBlendChunk.h>
+#include <OpenSG/OSGDepthChunk.h>
+#include <OpenSG/OSGGroup.h>
+#include <OpenSG/OSGMaterialGroup.h>
+#include <OpenSG/OSGSimpleGeometry.h>
+#include <OpenSG/OSGSimpleMaterial.h>
+#include <OpenSG/OSGSwitch.h>
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+using nbrender::ItemList;
+using nbrender::RenderItem;
+
+namespace {
+
+osg::SimpleMaterialPtr material(osg::Int32 key, float transparency = 0.f)
+{
+    const osg::SimpleMaterialPtr result = osg::SimpleMaterial::create();
+    const nbEdit edit(result, osg::FieldBits::AllFields);
+    result->setSortKey(key);
+    result->setTransparency(transparency);
+    result->setDiffuse(osg::Color3f(1.f, 0.f, 0.f));
+    return result;
+}
+
+osg::NodePtr box(const osg::MaterialPtr& look)
+{
+    const osg::NodePtr node = osg::makeBox(1.f, 1.f, 1.f, 1, 1, 1);
+    const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(node->getCore());
+    const nbEdit edit(geometry, osg::Geometry::MaterialFieldMask);
+    geometry->setMaterial(look);
+    return node;
+}
+
+template <class Core>
+osg::NodePtr over(const std::vector<osg::NodePtr>& children)
+{
+    const osg::NodePtr node = osg::makeCoredNode<Core>();
+    const nbEdit edit(node, osg::Node::ChildrenFieldMask);
+    for (const osg::NodePtr& child : children) {
+        node->addChild(child);
+    }
+    return node;
+}
+
+osg::NodePtr materialGroup(const osg::MaterialPtr& look, const osg::NodePtr& child)
+{
+    const osg::NodePtr node = over<osg::MaterialGroup>({ child });
+    const auto core = osg::MaterialGroupPtr::dcast(node->getCore());
+    const nbEdit edit(core, osg::MaterialGroup::MaterialFieldMask);
+    core->setMaterial(look);
+    return node;
+}
+
+osg::NodePtr manipulator(const std::vector<osg::NodePtr>& children)
+{
+    const osg::NodePtr node = over<osg::Group>(children);
+    nbNodeUtils::setIsManipulatorNode(node, true);
+    return node;
+}
+
+template <class Chunk, class Setter>
+osg::SimpleMaterialPtr withChunk(const osg::SimpleMaterialPtr& look, const Setter& setter)
+{
+    const auto chunk = Chunk::create();
+    {
+        const nbEdit edit(chunk, osg::FieldBits::AllFields);
+        setter(chunk);
+    }
+    const nbEdit edit(look, osg::FieldBits::AllFields);
+    look->addChunk(chunk);
+    return look;
+}
+
+std::vector<osg::Int32> keysInOrder(ItemList& list)
+{
+    std::vector<osg::Int32> keys;
+    for (const osg::UInt32 index : list.getOrder(osg::Matrix())) {
+        keys.push_back(list.getItems()[index].key);
+    }
+    return keys;
+}
+
+}  // namespace
+
+TEST(nbItemList, ItemsOfOneMaterialStandTogether)
+{
+    const osg::SimpleMaterialPtr first = material(0);
+    const osg::SimpleMaterialPtr second = material(0);
+    const osg::NodeRefPtr root(
+        over<osg::Group>({ box(first), box(second), box(first), box(second) }));
+    ItemList list;
+    list.update(root);
+
+    std::vector<osg::UInt32> states;
+    for (const RenderItem& item : list.getItems()) {
+        states.push_back(item.stateIndex);
+    }
+    EXPECT_EQ(states, (std::vector<osg::UInt32> { 0, 0, 1, 1 }));
+}
+
+TEST(nbItemList, DepthChunksOfBothClassesAreOneKind)
+{
+    const auto stockLast = withChunk<osg::DepthChunk>(
+        withChunk<osg::DepthTestChunk>(material(0), [](const auto& c) { c->setFunc(GL_ALWAYS); }),
+        [](const auto& c) { c->setFunc(GL_GREATER); });
+    const auto ownLast = withChunk<osg::DepthTestChunk>(
+        withChunk<osg::DepthChunk>(material(0), [](const auto& c) { c->setReadOnly(true); }),
+        [](const auto& c) { c->setFunc(GL_ALWAYS); });
+    const osg::NodeRefPtr root(over<osg::Group>({ box(stockLast), box(ownLast) }));
+    ItemList list;
+    list.update(root);
+
+    EXPECT_EQ(list.getStates()[0].depthFunc, GLenum(GL_GREATER));
+    EXPECT_EQ(list.getStates()[1].depthFunc, GLenum(GL_ALWAYS));
+    EXPECT_TRUE(list.getStates()[1].depthWrite);
+}
+
+TEST(nbItemList, CopyOfAHandleForADepthPassIsLeftOut)
+{
+    const osg::NodeRefPtr handles(over<osg::Group>({ box(material(5)), box(material(6)) }));
+    const osg::NodePtr copy = osg::cloneTree(handles);
+    const osg::NodeRefPtr root(
+        over<osg::Group>({ manipulator({ materialGroup(material(64015), copy),
+                                         materialGroup(material(64017), handles) }),
+                           handles->getChild(0)->clone() }));
+    ItemList list;
+    list.update(root);
+
+    EXPECT_EQ(keysInOrder(list), (std::vector<osg::Int32> { 5, 64017, 64017 }))
+        << "the later pass stays; a scene item of the same core is no copy";
+}
+
+TEST(nbItemList, HiddenPartsAreLeftOut)
+{
+    const osg::NodePtr hidden = box(material(1));
+    hidden->setActive(false);
+    const osg::NodePtr masked = box(material(7));
+    masked->setTravMask(4);
+    const osg::NodePtr choice = over<osg::Switch>({ box(material(2)), box(material(3)) });
+    osg::SwitchPtr::dcast(choice->getCore())->setChoice(1);
+    const osg::NodePtr none = over<osg::Switch>({ box(material(4)) });
+    const osg::NodePtr all = over<osg::Switch>({ box(material(5)), box(material(6)) });
+    osg::SwitchPtr::dcast(all->getCore())->setChoice(osg::Switch::ALL);
+    const osg::NodeRefPtr root(over<osg::Group>({ hidden, masked, choice, none, all }));
+    ItemList list;
+    list.update(root);
+
+    EXPECT_EQ(keysInOrder(list), (std::vector<osg::Int32> { 3, 5, 6, 7 }))
+        << "a mask of the host's own hides no more than it does from the picker";
+    list.update(osg::NullFC);
+    EXPECT_TRUE(list.getItems().empty());
+}

@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+#include <nbOpenSGRenderAction/Mesh.h>
+#include <nbOpenSGUtils/nbGeoFactory.h>
+
+#include <OpenSG/OSGRefPtr.h>
+#include <OpenSG/OSGSimpleGeometry.h>
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+using nbrender::buildMesh;
+using nbrender::Mesh;
+
+namespace {
+
+/// One primitive of a kind over points (i, i * i, 0), without indices and normals.
+osg::GeometryPtr parabola(GLenum kind, osg::UInt32 count)
+{
+    const osg::GeometryPtr geometry = osg::Geometry::create();
+    const osg::GeoPositions3fPtr positions = osg::GeoPositions3f::create();
+    const osg::GeoPTypesUI8Ptr types = osg::GeoPTypesUI8::create();
+    const osg::GeoPLengthsUI32Ptr lengths = osg::GeoPLengthsUI32::create();
+    for (osg::UInt32 i = 0; i < count; ++i) {
+        const auto x = static_cast<float>(i);
+        positions->addValue(osg::Pnt3f(x, x * x, 0.f));
+    }
+    types->addValue(kind);
+    lengths->addValue(count);
+    geometry->setPositions(positions);
+    geometry->setTypes(types);
+    geometry->setLengths(lengths);
+    return geometry;
+}
+
+}  // namespace
+
+TEST(nbMesh, EveryKindOfPrimitiveIsResolved)
+{
+    struct Row
+    {
+        GLenum kind;
+        osg::UInt32 count;
+        std::size_t triangles;
+        std::size_t lines;
+        std::size_t points;
+    };
+
+    const Row rows[] = {
+        { GL_TRIANGLES, 6, 2, 0, 0 },    { GL_TRIANGLE_STRIP, 6, 4, 0, 0 },
+        { GL_TRIANGLE_FAN, 6, 4, 0, 0 }, { GL_QUADS, 8, 4, 0, 0 },
+        { GL_QUAD_STRIP, 6, 4, 0, 0 },   { GL_POLYGON, 5, 3, 0, 0 },
+        { GL_LINES, 4, 0, 2, 0 },        { GL_LINE_STRIP, 4, 0, 3, 0 },
+        { GL_LINE_LOOP, 4, 0, 4, 0 },    { GL_POINTS, 4, 0, 0, 4 },
+    };
+    for (const Row& row : rows) {
+        const osg::GeometryRefPtr geometry(parabola(row.kind, row.count));
+
+        const Mesh mesh = buildMesh(geometry);
+
+        EXPECT_EQ(mesh.triangles.size(), 3 * row.triangles) << row.kind;
+        EXPECT_EQ(mesh.lines.size(), 2 * row.lines) << row.kind;
+        EXPECT_EQ(mesh.points.size(), row.points) << row.kind;
+    }
+}
+
+TEST(nbMesh, CornersWithTheSameSourcesShareAVertex)
+{
+    const osg::GeometryRefPtr box(osg::makeBoxGeo(1.f, 1.f, 1.f, 1, 1, 1));
+    EXPECT_EQ(buildMesh(box).vertices.size(), 24u) << "one index for all properties";
+    EXPECT_EQ(buildMesh(box).triangles.size(), 36u);
+
+    // A square of two triangles; the last corner has a normal of its own.
+    const osg::GeometryRefPtr geometry(parabola(GL_TRIANGLES, 4));
+    geometry->getLengths()->setValue(6, 0);
+    const osg::GeoNormals3fPtr normals = osg::GeoNormals3f::create();
+    normals->addValue(osg::Vec3f(0.f, 0.f, 1.f));
+    normals->addValue(osg::Vec3f(1.f, 0.f, 0.f));
+    const osg::GeoIndicesUI32Ptr indices = osg::GeoIndicesUI32::create();
+    for (const osg::UInt32 index : { 0, 0, 1, 0, 2, 0, 0, 0, 2, 0, 3, 1 }) {
+        indices->addValue(index);
+    }
+    geometry->setNormals(normals);
+    geometry->setIndices(indices);
+    geometry->getIndexMapping().push_back(osg::Geometry::MapPosition);
+    geometry->getIndexMapping().push_back(osg::Geometry::MapNormal);
+
+    const Mesh mesh = buildMesh(geometry);
+
+    EXPECT_EQ(mesh.triangles, (std::vector<osg::UInt32> { 0, 1, 2, 0, 2, 3 }));
+    ASSERT_EQ(mesh.vertices.size(), 4u);
+    EXPECT_EQ(mesh.vertices[2].normal[2], 1.f);
+    EXPECT_EQ(mesh.vertices[3].normal[0], 1.f);
+    EXPECT_EQ(mesh.vertices[3].position[1], 9.f);
+}
+
+TEST(nbMesh, BadGeometryGivesAnEmptyMesh)
+{
+    EXPECT_TRUE(buildMesh(osg::NullFC).vertices.empty());
+    const osg::GeometryRefPtr bare(osg::Geometry::create());
+    EXPECT_TRUE(buildMesh(bare).vertices.empty());
+
+    const osg::GeometryRefPtr astray(nbGeoFactory::makeLineGeo(1.f));
+    astray->getIndices()->setValue(99, 1);
+    EXPECT_EQ(buildMesh(astray).lines.size(), 2u) << "an index that points nowhere reads as zeros";
+}
