@@ -104,11 +104,6 @@ void InputTranslator::setDevicePixelRatio(double ratio)
     }
 }
 
-double InputTranslator::getDevicePixelRatio() const
-{
-    return devicePixelRatio;
-}
-
 osg::Pnt2f InputTranslator::toDevicePixels(const QPointF& logical) const
 {
     return osg::Pnt2f(static_cast<float>(logical.x() * devicePixelRatio),

@@ -52,7 +52,6 @@ public:
     void setWidget(nbOSGWidget* renderWidget);
     /// Sets the device pixels per logical pixel. @param ratio  > 0, other values are ignored
     void setDevicePixelRatio(double ratio);
-    double getDevicePixelRatio() const;
     /// The one conversion of positions. @return device pixels, not rounded, y from the top
     osg::Pnt2f toDevicePixels(const QPointF& logical) const;
 

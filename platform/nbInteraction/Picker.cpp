@@ -70,11 +70,6 @@ void Picker::setTolerance(float logicalPx)
     tolerance = std::isfinite(logicalPx) && logicalPx > 0.0F ? logicalPx : 0.0F;
 }
 
-float Picker::getTolerance() const
-{
-    return tolerance;
-}
-
 void Picker::setPixelRatio(float ratio)
 {
     if (std::isfinite(ratio) && ratio > 0.0F) {

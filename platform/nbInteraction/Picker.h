@@ -75,7 +75,6 @@ public:
     /// Sets the handle tolerance. @param logicalPx  logical pixels, >= 0; negative and non-finite
     /// values count as 0
     void setTolerance(float logicalPx);
-    float getTolerance() const;
 
     /// Sets the device pixels per logical pixel, which scales the tolerance. @param ratio  > 0,
     /// other values are ignored

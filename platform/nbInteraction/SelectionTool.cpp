@@ -74,11 +74,6 @@ void SelectionTool::setClickTolerance(float logicalPx)
     clickTolerance = logicalPx > 0.0F ? logicalPx : 0.0F;
 }
 
-float SelectionTool::getClickTolerance() const
-{
-    return clickTolerance;
-}
-
 void SelectionTool::setPixelRatio(float ratio)
 {
     if (ratio > 0.0F && std::isfinite(ratio)) {

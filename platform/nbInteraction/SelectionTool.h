@@ -28,7 +28,6 @@ public:
 
     /// Sets the largest distance of press and release. @param logicalPx  >= 0; others count as 0
     void setClickTolerance(float logicalPx);
-    float getClickTolerance() const;
     /// Sets the device pixels per logical pixel. @param ratio  > 0, other values are ignored
     void setPixelRatio(float ratio);
     float getPixelRatio() const;

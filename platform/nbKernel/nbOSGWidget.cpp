@@ -120,11 +120,6 @@ void nbOSGWidget::setMain()
     registry().main = this;
 }
 
-bool nbOSGWidget::isMain() const
-{
-    return registry().main == this;
-}
-
 osg::Pnt3f nbOSGWidget::getFrom(int index)
 {
     const nbOSGWidget* const widget = getMGLW(index);

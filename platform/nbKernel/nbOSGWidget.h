@@ -62,7 +62,6 @@ public:
     static nbOSGWidget* getMGLW(int index);
     /// Makes this the main widget.
     void setMain();
-    bool isMain() const;
 
     // == Its camera, by index as in getMGLW(). World space, degrees.
 

@@ -74,12 +74,6 @@ void nbdPerspectiveMatch::setMagnifyFactor(float factor) const
     }
 }
 
-bool nbdPerspectiveMatch::isAnchoredToCentre() const
-{
-    const MatchState* const state = MatchTable::find(getId());
-    return state != nullptr && state->anchoredToCentre;
-}
-
 void nbdPerspectiveMatch::setAnchoredToCentre(bool anchored) const
 {
     editMatch(getId(), [&](MatchState& state) { state.anchoredToCentre = anchored; });

@@ -208,11 +208,6 @@ void nbMaterialEditor::setMaterial(const osg::MaterialPtr& material, const osg::
     impl->setTarget(material, object, component, gui);
 }
 
-const std::string& nbMaterialEditor::getReceiverName() const
-{
-    return impl->receiver;
-}
-
 osg::UberMaterialPtr nbMaterialEditor::getMaterial() const
 {
     return impl->material();

@@ -69,7 +69,6 @@ public:
     void setMaterial(const osg::MaterialPtr& material, const osg::NodePtr& object,
                      const std::string& component, nbStateChunkBase* gui = nullptr);
 
-    const std::string& getReceiverName() const;
     osg::UberMaterialPtr getMaterial() const;
     osg::NodePtr getObject() const;
     const std::string& getComponent() const;

@@ -20,16 +20,9 @@ namespace nbec::notification {
 /// A text on the screen, until it is removed.
 class TextNotification
 {
-public:
-    const QString& getText() const { return text; }
-
-    /// Name of the notifier that shows it.
-    const std::string& getNotifierName() const { return notifierName; }
-
-private:
     friend class NotificationManager;
 
-    std::string notifierName;
+    std::string notifierName;  ///< of the notifier that shows it
     QString text;
 };
 

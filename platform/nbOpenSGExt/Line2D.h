@@ -22,10 +22,6 @@ public:
 
     const Pnt2f& getSecond() const { return secondPoint; }
 
-    void setFirst(const Pnt2f& point) { firstPoint = point; }
-
-    void setSecond(const Pnt2f& point) { secondPoint = point; }
-
     /// From the first point to the second.
     Vec2f getDirection() const { return secondPoint - firstPoint; }
 

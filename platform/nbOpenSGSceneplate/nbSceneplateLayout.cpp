@@ -224,12 +224,6 @@ osg::Vec2f nbSceneplateLayout::toOffset(const osg::Vec2f& px, int heightPx)
     return osg::Vec2f(px.x() / unit, -px.y() / unit);
 }
 
-osg::Vec2f nbSceneplateLayout::toPixels(const osg::Vec2f& offset, int heightPx)
-{
-    const auto unit = static_cast<float>(std::max(heightPx, 0));
-    return osg::Vec2f(offset.x() * unit, -offset.y() * unit);
-}
-
 osg::Vec2f nbSceneplateLayout::positionAt(osg::Int32 anchor, const osg::Pnt2f& centrePx,
                                           int widthPx, int heightPx)
 {

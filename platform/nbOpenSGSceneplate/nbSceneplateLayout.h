@@ -66,9 +66,6 @@ public:
     /// A distance in pixels as an offset in heights of the view. (0, 0) without height.
     static osg::Vec2f toOffset(const osg::Vec2f& px, int heightPx);
 
-    /// An offset in heights of the view as a distance in pixels.
-    static osg::Vec2f toPixels(const osg::Vec2f& offset, int heightPx);
-
     /// The Position that puts the centre of a plate with this anchor at a pixel position.
     static osg::Vec2f positionAt(osg::Int32 anchor, const osg::Pnt2f& centrePx, int widthPx,
                                  int heightPx);

@@ -87,11 +87,6 @@ nbQuaterniond nbEulerUtils::QuatFromEul(const nbEulerAngles& angles)
     return nbEulerRotation::toQuaternion(valuesOf(angles), angles.order);
 }
 
-nbEulerAngles nbEulerUtils::convertOrder(const nbEulerAngles& angles, int order)
-{
-    return EulFromQuat(QuatFromEul(angles), order);
-}
-
 nbEulerAngles nbEulerUtils::multiply(const nbEulerAngles& step, const nbEulerAngles& accumulated)
 {
     return nearest(EulFromQuat(nbRotationMath::product(QuatFromEul(step), QuatFromEul(accumulated)),

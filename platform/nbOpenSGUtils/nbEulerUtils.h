@@ -47,9 +47,6 @@ public:
 
     // NOLINTEND(readability-identifier-naming)
 
-    /// The same rotation in another order, the angles of EulFromQuat.
-    static nbEulerAngles convertOrder(const nbEulerAngles& angles, int order);
-
     /// step x accumulated: accumulated turns first. The result has the order of accumulated and, of
     /// all angles for that rotation, those nearest to accumulated: values go on smoothly past the
     /// middle angle's ends and past whole turns.

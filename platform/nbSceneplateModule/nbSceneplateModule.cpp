@@ -195,17 +195,6 @@ void nbSceneplateModule::notify()
 
 // == Changes
 
-void nbSceneplateModule::beginChange()
-{
-    isBracketed = true;
-    hasBracketStart = false;
-}
-
-void nbSceneplateModule::endChange()
-{
-    isBracketed = false;
-}
-
 void nbSceneplateModule::change(const nbSceneplateChange& wanted)
 {
     const std::vector<osg::NodePtr> plates = getSelection();
@@ -218,14 +207,13 @@ void nbSceneplateModule::change(const nbSceneplateChange& wanted)
         : std::optional<nbScopedUndo>(std::in_place, wanted.getTitle());
     nbSceneplateUndo::notePlates(plates);
     const osg::UInt64 step = nbSceneplateUndo::getOpenStep();
-    const bool isGoingOn = isBracketed ? hasBracketStart : step != 0 && step == startStep;
+    const bool isGoingOn = step != 0 && step == startStep;
     if (!isGoingOn || !start.isOf(plates)) {
         const nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1);
         start = widget == nullptr
             ? nbSceneplateStart(plates, 0, 0)
             : nbSceneplateStart(plates, widget->getWidth(), widget->getHeight());
         startStep = step;
-        hasBracketStart = isBracketed;
     }
     if (start.apply(wanted)) {
         nbController::setModified(1);

@@ -21,14 +21,13 @@ class nbMessage;
 ///   "select" replaces the selection (no nodes: clears it), "add" appends, "deselect" and "sub"
 ///   take out, "toggle" does the one or the other for each.
 /// - "sceneplateChanged" with "scaleFactor" (float), "offset" (QVector2D) and "rotation" (float),
-/// each
-///   absolute from the start of the drag (see nbSceneplateChange): applied to the selected plates
-///   together, about the centre of the frame around them, as one step of undo per group.
+///   each absolute from the start of the drag (see nbSceneplateChange): applied to the selected
+///   plates together, about the centre of the frame around them, as one step of undo per group.
 ///
-/// A drag begins with the first change in a group of nbUndoService; a host that makes no groups
-/// says beginChange and endChange. Otherwise each message is a change and a step of its own. A
-/// message with missing, mistyped or impossible attributes costs one line in the log and changes
-/// nothing; nodes that are no plates are left out of a selection with a line.
+/// A drag begins with the first change in a group of nbUndoService; without a group each message is
+/// a change and a step of its own. A message with missing, mistyped or impossible attributes costs
+/// one line in the log and changes nothing; nodes that are no plates are left out of a selection
+/// with a line.
 ///
 /// Plates are kept by container id; those that are not in the world at present, such as deleted
 /// ones that undo may bring back, are not shown as selected but not forgotten either. The module
@@ -71,11 +70,6 @@ public:
 
     // == Changes
 
-    /// A drag begins and ends, for hosts without groups of undo: changes between the two count from
-    /// the first one.
-    void beginChange();
-    void endChange();
-
     /// The same as "sceneplateChanged".
     void change(const nbSceneplateChange& wanted);
 
@@ -92,6 +86,4 @@ private:
     nbCallbackList callbacks;
     nbSceneplateStart start;
     osg::UInt64 startStep = 0;  ///< of nbSceneplateUndo, for which `start` holds
-    bool isBracketed = false;  ///< between beginChange and endChange
-    bool hasBracketStart = false;
 };

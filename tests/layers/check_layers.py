@@ -4,8 +4,9 @@
 
     check_layers.py ROOT
 
-Each layer may include itself and the layers below it. Prints one line per include that points upwards.
-Exit status: 0 none does, 1 some do, 2 a layer is missing.
+Each layer may include itself and the layers below it, and within platform/ so may each library; what lies in a library's
+detail/ is its own. Prints one line per include that breaks this.
+Exit status: 0 none does, 1 some do, 2 a layer or platform library is missing or has no place in the order.
 """
 
 import pathlib
@@ -24,7 +25,8 @@ FORBIDDEN = {
 }
 # Within platform/: each library may include those before it.
 PLATFORM_ORDER = ["nbUtils", "nbOpenSGExt", "nbOpenSGUtils", "nbOpenSGUberCamera", "nbOpenSGUberViewport", "nbOpenSGUberMaterial",
-                  "nbOpenSGSceneplate", "nbKernel"]
+                  "nbOpenSGSceneplate", "nbOpenSGSelection", "nbNotification", "nbKernel", "nbKernelServices", "nbTransform",
+                  "nbMaterialEditor", "nbInteraction", "nbSceneplateModule", "nbMagnifier", "nbOpenSGRenderAction"]
 INCLUDE = re.compile(r'^\s*#\s*include\s*[<"]([^>"]+)[>"]')
 
 
@@ -39,9 +41,16 @@ def includes(path):
             yield number, match.group(1)
 
 
-def platform_rank(name):
+def library_fault(own, name):
+    """What is wrong with a platform library's include of a platform header, or None."""
     library = name.split("/")[0]
-    return PLATFORM_ORDER.index(library) if library in PLATFORM_ORDER else len(PLATFORM_ORDER)
+    if library not in PLATFORM_ORDER:
+        return f"there is no platform library {library}"
+    if PLATFORM_ORDER.index(library) > PLATFORM_ORDER.index(own):
+        return f"{own} lies below {library}"
+    if library != own and name.startswith(library + "/detail/"):
+        return f"{name} belongs to {library} alone"
+    return None
 
 
 def faults(root):
@@ -52,8 +61,9 @@ def faults(root):
                 if any(re.match(pattern, name) for pattern in patterns):
                     yield f"{place}:{number}: {layer}/ must not include {name}"
                 elif layer == "platform" and re.match(PLATFORM, name):
-                    if platform_rank(name) > platform_rank(place.parts[1]):
-                        yield f"{place}:{number}: {place.parts[1]} lies below {name.split('/')[0]}"
+                    fault = library_fault(place.parts[1], name)
+                    if fault is not None:
+                        yield f"{place}:{number}: {fault}"
 
 
 def main(arguments):
@@ -61,6 +71,11 @@ def main(arguments):
     missing = [layer for layer in FORBIDDEN if not sources(root / layer)]
     if missing:
         print(f"no sources in {', '.join(missing)} below {root}", file=sys.stderr)
+        return 2
+    libraries = {path.name for path in (root / "platform").iterdir() if path.is_dir()}
+    unordered = sorted(libraries.symmetric_difference(PLATFORM_ORDER))
+    if unordered:
+        print(f"not both in platform/ and in its order: {', '.join(unordered)}", file=sys.stderr)
         return 2
     found = list(faults(root))
     print("\n".join(found) if found else "all includes point downwards")

@@ -3,7 +3,6 @@
 #include <OpenSG/OSGBaseFunctions.h>
 #include <OpenSG/OSGFrustumVolume.h>
 #include <OpenSG/OSGLine.h>
-#include <OpenSG/OSGMatrixUtility.h>
 #include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGPassiveWindow.h>
 #include <OpenSG/OSGPerspectiveCamera.h>
@@ -101,13 +100,6 @@ TEST_F(Cameras, FrustumHoldsWhatTheViewportShows)
     camera->getFrustum(frustum, *viewport);
 
     EXPECT_TRUE(frustum.isValid() && !frustum.isEmpty());
-    EXPECT_TRUE(frustum.getNear().getNormal().equals(Vec3f(0.f, 0.f, -1.f), 1e-4f));
-    EXPECT_TRUE(frustum.getFar().getNormal().equals(Vec3f(0.f, 0.f, 1.f), 1e-4f));
-    EXPECT_TRUE(frustum.getLeft().getNormal().equals(Vec3f(0.6f, 0.f, -0.8f), 1e-4f));
-    EXPECT_TRUE(frustum.getTop().getNormal().equals(Vec3f(0.f, -1.f, -1.f) * osgsqrt(0.5f), 1e-4f));
-    EXPECT_NEAR(frustum.getBottom().distance(Pnt3f(10.f, 0.f, -2.f)), osgsqrt(2.f), 1e-4f);
-    EXPECT_NEAR(frustum.getRight().distance(Pnt3f(10.f, 0.f, 0.f)), 0.f, 1e-4f);
-
     EXPECT_TRUE(frustum.intersect(Pnt3f(10.f, 0.f, -50.f)));
     EXPECT_TRUE(frustum.intersect(Pnt3f(22.9f, 9.9f, -10.f)));
     EXPECT_FALSE(frustum.intersect(Pnt3f(23.5f, 0.f, -10.f)));
@@ -115,48 +107,4 @@ TEST_F(Cameras, FrustumHoldsWhatTheViewportShows)
     EXPECT_FALSE(frustum.intersect(Pnt3f(10.f, 0.f, 5.f))) << "behind the eye";
     EXPECT_TRUE(frustum.intersect(BoxVolume(0.f, 0.f, -5.f, 9.f, 1.f, -4.f)));
     EXPECT_FALSE(frustum.intersect(BoxVolume(-9.f, 0.f, -5.f, 0.f, 1.f, -4.f)));
-
-    Real32 enter = -1.f;
-    Real32 exit = -1.f;
-    EXPECT_TRUE(frustum.intersect(Line(Pnt3f(0.f, 0.f, -6.f), Vec3f(1.f, 0.f, 0.f)), enter, exit));
-    EXPECT_NEAR(enter, 2.f, 1e-3f);
-    EXPECT_NEAR(exit, 18.f, 1e-3f);
-    EXPECT_FALSE(frustum.intersect(Line(Pnt3f(0.f, 0.f, -6.f), Vec3f(-1.f, 0.f, 0.f))));
-}
-
-TEST(FrustumVolume, OfAParallelProjectionIsABoxThatCanBeMoved)
-{
-    Matrix projection;
-    ASSERT_FALSE(MatrixOrthogonal(projection, -2.f, 2.f, -1.f, 1.f, 3.f, 8.f));
-    FrustumVolume box(projection);
-    Pnt3f low;
-    Pnt3f high;
-    box.getBounds(low, high);
-    EXPECT_TRUE(low.equals(Pnt3f(-2.f, -1.f, -8.f), 1e-4f));
-    EXPECT_TRUE(high.equals(Pnt3f(2.f, 1.f, -3.f), 1e-4f));
-    EXPECT_NEAR(box.getScalarVolume(), 40.f, 1e-3f);
-
-    Matrix mirrored;
-    mirrored.setScale(-2.f, 1.f, 1.f);
-    mirrored.setTranslate(10.f, 0.f, 0.f);
-    box.transform(mirrored);
-    EXPECT_NEAR(box.getScalarVolume(), 80.f, 1e-3f);
-    EXPECT_TRUE(box.intersect(Pnt3f(13.9f, 0.f, -5.f))) << "the planes still look inwards";
-    EXPECT_FALSE(box.intersect(Pnt3f(14.1f, 0.f, -5.f)));
-    EXPECT_TRUE(box.getLeft().getNormal().equals(Vec3f(-1.f, 0.f, 0.f), 1e-4f));
-
-    Matrix flat;
-    flat.setScale(1.f, 0.f, 1.f);
-    box.transform(flat);
-    EXPECT_TRUE(box.isEmpty());
-    EXPECT_FALSE(box.intersect(Pnt3f(10.f, 0.f, -5.f)));
-    EXPECT_FLOAT_EQ(box.getScalarVolume(), 0.f);
-}
-
-TEST_F(Cameras, WindowSizesStayInRange)
-{
-    window->resize(-5, 100000);
-
-    EXPECT_EQ(window->getWidth(), 0);
-    EXPECT_EQ(window->getHeight(), 65535);
 }

@@ -97,14 +97,6 @@ TEST(IdTable, MemoryFollowsTheLivingAndNotTheIdsGivenOut)
     EXPECT_EQ(ContainerCensus::idTableBytes(), quiet);
 }
 
-TEST(IdTable, TheLowestIdIsAPrototype)
-{
-    const FieldContainerPtr first = resolve(1);
-
-    ASSERT_NE(first, NullFC);
-    EXPECT_EQ(first->getType().getPrototype(), first);
-}
-
 // == Census
 
 TEST(ContainerCensus, NamesWhatCameAndWentByType)
@@ -148,40 +140,6 @@ TEST(FieldContainerType, OfALibraryLoadedLaterIsKnownOnceItIsInitialised)
     }
     EXPECT_EQ(factory->findType("LateGroup"), nullptr);
     EXPECT_EQ(factory->getNumTypes(), typesBefore);
-}
-
-TEST(FieldContainerFactory, MakesByNameOnlyWhatIsOfTheKindAskedFor)
-{
-    FieldContainerFactory* const factory = FieldContainerFactory::the();
-
-    const NodeRefPtr node(factory->createNode("Node"));
-    const RefPtr<NodeCorePtr> core(factory->createNodeCore("Transform"));
-    const AttachmentRefPtr attachment(factory->createAttachment("Name"));
-    EXPECT_NE(node, NullFC);
-    EXPECT_NE(core, NullFC);
-    EXPECT_NE(attachment, NullFC);
-
-    EXPECT_EQ(factory->createNode("Transform"), NullFC);
-    EXPECT_EQ(factory->createNodeCore("Node"), NullFC);
-    EXPECT_EQ(factory->createAttachment("Group"), NullFC);
-    EXPECT_EQ(factory->createFieldContainer("NodeCore"), NullFC);
-    EXPECT_EQ(factory->createFieldContainer(nullptr), NullFC);
-}
-
-TEST(FieldContainerFactory, CanBeTakenDownAndBroughtUpAgain)
-{
-    const NodeRefPtr survivor = hold(Node::create());
-    const ContainerCensus before = ContainerCensus::take();
-
-    osgExit();
-    EXPECT_EQ(FieldContainerFactory::the()->findType("Node"), nullptr);
-    EXPECT_EQ(Node::getClassType().getPrototype(), NullFC);
-    EXPECT_EQ(ContainerCensus::take().differenceTo(before), "");
-    osgInit(0, nullptr);
-
-    EXPECT_EQ(FieldContainerFactory::the()->findType("Node"), &Node::getClassType());
-    EXPECT_NE(Node::getClassType().getPrototype(), NullFC);
-    EXPECT_EQ(resolve(survivor->getFieldContainerId()), survivor);
 }
 
 // == Pointers and counts
@@ -250,17 +208,4 @@ TEST(AttachmentContainer, SharedAttachmentKnowsItsContainersAndLeavesWithTheLast
         EXPECT_STREQ(getName(second), "");
     }
     EXPECT_EQ(ContainerCensus::take().differenceTo(before), "");
-}
-
-TEST(AttachmentContainer, DeepCloneCopiesNamesUnlessTheyAreShared)
-{
-    const GroupRefPtr group(Group::create());
-    setName(group, "original");
-
-    const GroupRefPtr own(GroupPtr::dcast(deepClone(group)));
-    const GroupRefPtr sharing(GroupPtr::dcast(deepClone(group, "Name, NoSuchType")));
-    setName(group, "renamed");
-
-    EXPECT_STREQ(getName(own), "original");
-    EXPECT_STREQ(getName(sharing), "renamed");
 }

@@ -7,7 +7,6 @@
 
 #include <limits>
 #include <numeric>
-#include <vector>
 
 OSG_USING_NAMESPACE
 
@@ -31,12 +30,10 @@ TEST(Image, ImpossibleSizesAreRefusedAndLoseNothing)
 
     EXPECT_FALSE(image->set(Image::OSG_L_PF, 0, 2));
     EXPECT_FALSE(image->set(Image::OSG_L_PF, 2, -1));
-    EXPECT_FALSE(image->set(Image::OSG_L_PF, 2, 2, 1, 0));
     EXPECT_FALSE(image->set(4711, 2, 2));
     EXPECT_FALSE(image->set(Image::OSG_L_PF, 2, 2, 1, 1, 1, 0.0, nullptr, 4711));
     EXPECT_FALSE(image->set(Image::OSG_RGBA_PF, kHuge, kHuge, kHuge));
     EXPECT_FALSE(image->set(NullFC));
-    EXPECT_FALSE(image->scale(0, 1));
 
     EXPECT_EQ(image->getWidth(), 2);
     EXPECT_EQ(image->getSize(), 4u);
@@ -76,41 +73,4 @@ TEST(Image, EveryFrameAndSideGetsMipmaps)
     EXPECT_TRUE(image->reformat(Image::OSG_LA_PF));
     EXPECT_EQ(image->getMipMapCount(), 2);
     EXPECT_EQ(image->getData(1, 1, 1)[1], 13);
-}
-
-TEST(Image, OnePixelKeepsOneLevel)
-{
-    const RefPtr<ImagePtr> image = ramp(Image::OSG_L_PF, 1, 1);
-
-    EXPECT_TRUE(image->createMipmap());
-    EXPECT_EQ(image->getMipMapCount(), 1);
-    EXPECT_TRUE(image->createMipmap(9));
-    EXPECT_EQ(image->getMipMapCount(), 1);
-}
-
-TEST(Image, ScalesInPlaceByCoverage)
-{
-    const RefPtr<ImagePtr> image = ramp(Image::OSG_L_PF, 3, 2);
-
-    EXPECT_TRUE(image->scaleNextPower2());
-    EXPECT_EQ(image->getWidth(), 4);
-    const std::vector<UInt8> wide(image->getData(), image->getData() + image->getSize());
-    EXPECT_EQ(wide, (std::vector<UInt8> { 0, 0, 1, 2, 3, 3, 4, 5 }));
-
-    EXPECT_TRUE(image->scale(1, 1));
-    EXPECT_EQ(image->getData()[0], 2);
-}
-
-TEST(Image, OtherComponentTypesAreStoredButNotConverted)
-{
-    const RefPtr<ImagePtr> image(Image::create());
-    EXPECT_TRUE(
-        image->set(Image::OSG_RGBA_PF, 2, 1, 1, 1, 1, 0.0, nullptr, Image::OSG_FLOAT32_IMAGEDATA));
-
-    EXPECT_EQ(image->getBpp(), 16);
-    EXPECT_EQ(image->getSize(), 32u);
-    EXPECT_FALSE(image->reformat(Image::OSG_L_PF));
-    EXPECT_FALSE(image->createMipmap());
-    EXPECT_FALSE(image->scale(1, 1));
-    EXPECT_EQ(image->getSize(), 32u);
 }

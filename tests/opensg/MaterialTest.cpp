@@ -3,14 +3,12 @@
 #include <OpenSG/OSGBlendChunk.h>
 #include <OpenSG/OSGChunkMaterial.h>
 #include <OpenSG/OSGContainerCensus.h>
-#include <OpenSG/OSGDefaultMaterials.h>
 #include <OpenSG/OSGImage.h>
 #include <OpenSG/OSGLineChunk.h>
 #include <OpenSG/OSGMaterialChunk.h>
 #include <OpenSG/OSGRefPtr.h>
 #include <OpenSG/OSGSHLChunk.h>
 #include <OpenSG/OSGSimpleMaterial.h>
-#include <OpenSG/OSGSimpleTexturedMaterial.h>
 #include <OpenSG/OSGState.h>
 #include <OpenSG/OSGTextureChunk.h>
 
@@ -18,7 +16,6 @@
 
 #include <functional>
 #include <string>
-#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -32,24 +29,6 @@ typename Chunk::Ptr inForce(const StatePtr& state, UInt32 slot = 0)
     return Chunk::Ptr::dcast(state->getChunk(Chunk::getStaticClassId() + slot));
 }
 
-/// Whether `chunk->setImage(argument)` compiles.
-template <class Argument, class = void>
-struct TakesImage : std::false_type
-{ };
-
-template <class Argument>
-struct TakesImage<
-    Argument,
-    std::void_t<decltype(std::declval<TextureChunkPtr>()->setImage(std::declval<Argument>()))>>
-    : std::true_type
-{ };
-
-// Code that compiles here has to compile on the real interface as well.
-static_assert(TakesImage<ImagePtr&>::value, "a named variable");
-static_assert(!TakesImage<ImagePtr>::value, "the result of a call");
-static_assert(!TakesImage<const NullFieldContainerPtr&>::value, "NullFC");
-static_assert(!TakesImage<RefPtr<ImagePtr>&>::value, "a RefPtr");
-
 /// Counts the containers alive before and after a test.
 class Materials : public testing::Test
 {
@@ -60,23 +39,6 @@ protected:
 };
 
 }  // namespace
-
-TEST_F(Materials, StateRefusesSlotsThatTheKindDoesNotHave)
-{
-    const RefPtr<StatePtr> state(State::create());
-    const RefPtr<LineChunkPtr> first(LineChunk::create());
-    const RefPtr<LineChunkPtr> second(LineChunk::create());
-
-    EXPECT_TRUE(state->addChunk(first, State::AutoSlot));
-    EXPECT_FALSE(state->addChunk(second, State::AutoSlot));
-    EXPECT_FALSE(state->addChunk(second, 1));
-    EXPECT_FALSE(state->addChunk(second, -3));
-    EXPECT_FALSE(state->addChunk(NullFC));
-    EXPECT_TRUE(inForce<LineChunk>(state) == first.get());
-    EXPECT_FALSE(state->subChunk(second));
-    EXPECT_TRUE(state->subChunk(first));
-    EXPECT_FALSE(state->chunkPresent(LineChunk::getStaticClassId()));
-}
 
 TEST_F(Materials, AddedChunksReplaceTheBuiltInOnes)
 {
@@ -91,21 +53,6 @@ TEST_F(Materials, AddedChunksReplaceTheBuiltInOnes)
     const RefPtr<StatePtr> state(material->makeState());
     EXPECT_TRUE(inForce<MaterialChunk>(state) == surface);
     EXPECT_TRUE(inForce<BlendChunk>(state) == additive);
-}
-
-TEST_F(Materials, TexturedMaterialPutsItsImageIntoSlotZero)
-{
-    const RefPtr<SimpleTexturedMaterialPtr> material(SimpleTexturedMaterial::create());
-    ImagePtr image = Image::create();
-    image->set(Image::OSG_RGB_PF, 2, 2);
-    material->setImage(image);
-    material->setEnvMode(GL_MODULATE);
-
-    const TextureChunkPtr texture = inForce<TextureChunk>(material->getState());
-
-    ASSERT_TRUE(texture != NullFC);
-    EXPECT_TRUE(texture->getImage() == image);
-    EXPECT_EQ(texture->getEnvMode(), GLenum(GL_MODULATE));
 }
 
 TEST_F(Materials, StampMovesWithEveryPartAndWithNothingElse)
@@ -151,16 +98,6 @@ TEST_F(Materials, StampMovesWithEveryPartAndWithNothingElse)
     }
 }
 
-TEST_F(Materials, NullChunkIsRefusedAndLosesNothing)
-{
-    const RefPtr<ChunkMaterialPtr> material(ChunkMaterial::create());
-    material->addChunk(LineChunk::create());
-
-    EXPECT_FALSE(material->addChunk(NullFC));
-    EXPECT_TRUE(material->subChunk(NullFC));
-    EXPECT_EQ(material->getMFChunks()->size(), 1u);
-}
-
 TEST_F(Materials, UniformsClearedDirectlyAreFreed)
 {
     const RefPtr<SHLChunkPtr> shader(SHLChunk::create());
@@ -175,26 +112,6 @@ TEST_F(Materials, UniformsClearedDirectlyAreFreed)
     Int32 value = 0;
     EXPECT_TRUE(shader->getUniformParameter("c", value));
     EXPECT_EQ(value, 3);
-    EXPECT_FALSE(shader->setUniformParameter("", Int32(1)));
-    EXPECT_FALSE(shader->setUniformParameter(nullptr, Int32(1)));
-}
-
-TEST_F(Materials, DeepCloneOfAShaderHasItsOwnUniforms)
-{
-    const RefPtr<SHLChunkPtr> shader(SHLChunk::create());
-    shader->setFragmentProgram("void main() {}");
-    shader->setUniformParameter("zoom", Real32(1.f));
-
-    const RefPtr<SHLChunkPtr> copy(SHLChunkPtr::dcast(deepClone(shader)));
-    copy->setUniformParameter("zoom", Real32(5.f));
-
-    Real32 original = 0.f;
-    Real32 copied = 0.f;
-    EXPECT_TRUE(shader->getUniformParameter("zoom", original));
-    EXPECT_TRUE(copy->getUniformParameter("zoom", copied));
-    EXPECT_FLOAT_EQ(original, 1.f);
-    EXPECT_FLOAT_EQ(copied, 5.f);
-    EXPECT_EQ(copy->getFragmentProgram(), "void main() {}");
 }
 
 TEST_F(Materials, UniformsMayBeArraysOfEveryType)
@@ -223,20 +140,4 @@ TEST_F(Materials, UniformsMayBeArraysOfEveryType)
     EXPECT_EQ(weights.size(), 1u) << "untouched by what failed";
     EXPECT_TRUE(shader->setUniformParameter("weights", weights));
     EXPECT_EQ(shader->getParameters(2)->getName(), "weights") << "its place stays";
-}
-
-TEST_F(Materials, DeepCloneOfATextureCopiesItsImage)
-{
-    const RefPtr<TextureChunkPtr> texture(TextureChunk::create());
-    ImagePtr image = Image::create();
-    const UInt8 pixel[] = { 1, 2, 3 };
-    image->set(Image::OSG_RGB_PF, 1, 1, 1, 1, 1, 0.0, pixel);
-    texture->setImage(image);
-
-    const RefPtr<TextureChunkPtr> copy(TextureChunkPtr::dcast(deepClone(texture)));
-
-    ASSERT_TRUE(copy->getImage() != NullFC);
-    EXPECT_FALSE(copy->getImage() == image);
-    EXPECT_EQ(copy->getImage()->getData()[2], 3);
-    EXPECT_EQ(copy->getImage().getRefCount(), 1);
 }

@@ -6,7 +6,6 @@
 
 #include <gtest/gtest.h>
 
-#include <clocale>
 #include <limits>
 #include <random>
 
@@ -81,21 +80,6 @@ TEST(Matrix, VerySmallScalesAreRegular)
     m.mult(inverse);
 
     EXPECT_TRUE(m.equals(Matrix::identity(), kTolerance));
-}
-
-TEST(Quaternion, TextIsReadWithAPointInEveryLocaleAndRefusedWhole)
-{
-    const char* const before = std::setlocale(LC_NUMERIC, nullptr);
-    const std::string restored = before;
-    std::setlocale(LC_NUMERIC, "de_DE.UTF-8");
-    Quaternion q;
-
-    q.setValueAsAxisDeg("0 0 2.5 90");
-    std::setlocale(LC_NUMERIC, restored.c_str());
-
-    EXPECT_TRUE(q.equals(Quaternion(Vec3f(0.f, 0.f, 1.f), Pi / 2), kTolerance));
-    q.setValueAsAxisDeg("0 1 turn");
-    EXPECT_TRUE(q.equals(Quaternion(Vec3f(0.f, 0.f, 1.f), Pi / 2), kTolerance));
 }
 
 TEST(Line, BoxAroundTheStartIsEnteredAtOnceAndABoxBehindIsMissed)

@@ -52,8 +52,8 @@
 ///     LINK(Beacon, beacon, NodePtr)         neither counted nor followed; null in a deepClone
 ///         the same
 ///
-/// A class with multi fields writes a list of six and says OSG_MULTI_CONTAINER,
-/// OSG_MULTI_STATE_CHUNK or OSG_ABSTRACT_MULTI_CONTAINER (the ..._TYPE macros are the same):
+/// A class with multi fields writes a list of six and says OSG_MULTI_CONTAINER or
+/// OSG_ABSTRACT_MULTI_CONTAINER (the ..._TYPE macros are the same):
 ///
 ///     #define OSG_CHUNK_MATERIAL_FIELDS(VALUE, OWNED, LINK, VALUES, OWNEDS, LINKS)
 ///         OWNEDS(Chunks, chunks, StateChunkPtr)
@@ -99,9 +99,6 @@
     OSG_COMMON_(Class, Base, FIELDS, OSG_LIST_6_)
 #define OSG_STATE_CHUNK(Class, Base, FIELDS)                                                       \
     OSG_CONCRETE_(Class, Base, FIELDS, OSG_LIST_3_);                                               \
-    OSG_CHUNK_CLASS_
-#define OSG_MULTI_STATE_CHUNK(Class, Base, FIELDS)                                                 \
-    OSG_CONCRETE_(Class, Base, FIELDS, OSG_LIST_6_);                                               \
     OSG_CHUNK_CLASS_
 
 #define OSG_CONTAINER_TYPE(Class, Base)                                                            \

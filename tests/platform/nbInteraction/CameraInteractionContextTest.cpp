@@ -128,25 +128,5 @@ TEST_F(CameraInteractionContextTest, CancelPutsTheCameraBackAndInterruptionLeave
     }
 }
 
-TEST_F(CameraInteractionContextTest, RefusesWhatItCannotDo)
-{
-    EXPECT_FALSE(send("start", "roll"));
-    EXPECT_FALSE(send("process", "orbit"));
-    EXPECT_FALSE(manager.triggerEvent(InteractionEvent("start", "tool", "orbit")));
-    EXPECT_FALSE(send("trigger", "orbit", 1.0));
-    CameraPose broken;
-    broken.from = osg::Pnt3f(std::numeric_limits<float>::infinity(), 0, 0);
-    EXPECT_FALSE(context.setPose(broken));
-
-    widget->resize(0, 300);
-    EXPECT_FALSE(send("start", "orbit"));
-    widget->resize(400, 300);
-    EXPECT_TRUE(send("start", "orbit"));
-    widget.reset();
-    EXPECT_FALSE(send("process", "orbit"));
-    EXPECT_FALSE(send("trigger", "zoom", 1.0));
-    manager.cancelDrag();
-}
-
 }  // namespace
 }  // namespace nbec::interaction

@@ -148,15 +148,6 @@ TEST_F(InputTranslatorTest, PressesMeanToolOrCameraByButtonAndModifiers)
     EXPECT_THAT(takeEvents(), IsEmpty());
 }
 
-TEST_F(InputTranslatorTest, DoubleClickCountsAsPress)
-{
-    mouse(QEvent::MouseButtonDblClick, 10, 20, Qt::LeftButton, Qt::LeftButton);
-    release(Qt::LeftButton);
-
-    EXPECT_THAT(takeEvents(),
-                ElementsAre("a start tool/select", "a stop tool/select", "a hover tool/select"));
-}
-
 TEST_F(InputTranslatorTest, WhateverComesBetweenEndsTheDragOnce)
 {
     using Calls = std::vector<std::string>;
@@ -242,18 +233,6 @@ TEST_F(InputTranslatorTest, DragGoesOnOutsideOfTheViewAndEndsTheHoverThere)
         ElementsAre("a process tool/select", "a stop tool/select", "a stopHover tool/select"));
 }
 
-TEST_F(InputTranslatorTest, LeavingEndsTheHoverUntilThePointerIsBack)
-{
-    move(10, 10);
-    translator.refreshHover();
-    plain(QEvent::Leave);
-    translator.refreshHover();
-
-    EXPECT_THAT(
-        takeEvents(),
-        ElementsAre("a hover tool/select", "a hover tool/select", "a stopHover tool/select"));
-}
-
 TEST_F(InputTranslatorTest, HeldCtrlIsThePrecisionMode)
 {
     EXPECT_FALSE(key(QEvent::KeyPress, Qt::Key_Control));
@@ -323,31 +302,14 @@ TEST_F(InputTranslatorTest, ViewUnderThePointerBecomesTheMainOne)
 {
     nbOSGWidget second;
     InputTranslator ofSecond(manager, &second);
-    ASSERT_TRUE(widget.isMain());
+    ASSERT_EQ(nbOSGWidget::getMGLW(-1), &widget);
 
     QMouseEvent event(QEvent::MouseMove, QPointF(5, 6), Qt::NoButton, Qt::NoButton, kNone);
     ofSecond.handleEvent(event);
 
-    EXPECT_TRUE(second.isMain());
+    EXPECT_EQ(nbOSGWidget::getMGLW(-1), &second);
     EXPECT_EQ(osg::Pnt2f(5, 6), second.getMousePosition());
     EXPECT_NE(osg::Pnt2f(5, 6), widget.getMousePosition());
-}
-
-TEST_F(InputTranslatorTest, OnlyWhatChangesTheWorldAsksForARedraw)
-{
-    nbScenegraph::getWorldRoot();
-    widget.update();
-    widget.redrawDone();
-
-    move(10, 10);
-    EXPECT_FALSE(widget.isRedrawPending());
-
-    context.onEvent = [](const InteractionEvent&) {
-        const osg::NodePtr root = nbScenegraph::getRootNode();
-        nbtest::edited(root, osg::Node::TravMaskFieldMask)->setTravMask(root->getTravMask());
-    };
-    move(11, 10);
-    EXPECT_TRUE(widget.isRedrawPending());
 }
 
 }  // namespace

@@ -187,18 +187,6 @@ TEST_F(InteractionManagerTest, EndOfHoverAndModeEventsReachEveryContext)
     EXPECT_EQ(1, std::count(log.begin(), log.end(), "lower mode "));
 }
 
-TEST_F(InteractionManagerTest, NewContextIsToldTheMode)
-{
-    RecordingContext context(log, "a", Tool);
-
-    EXPECT_FALSE(manager.selectMode("precisionTool"));
-    EXPECT_TRUE(manager.addContext(&context));
-    EXPECT_FALSE(manager.addContext(&context));
-    EXPECT_FALSE(manager.addContext(nullptr));
-
-    EXPECT_THAT(log, ElementsAre("a added", "a mode precisionTool"));
-}
-
 TEST_F(InteractionManagerTest, ContextsMayComeAndGoWithinAnEvent)
 {
     auto self = std::make_unique<RecordingContext>(log, "self", 90);

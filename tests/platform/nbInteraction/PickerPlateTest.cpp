@@ -117,19 +117,3 @@ TEST_F(PickerPlateTest, RectangleTakesPlatesThatLieInsideAsFarAsTheyAreInView)
                 ElementsAre("ground", "left", "turned", "half out"));
     EXPECT_THAT(namesIn(QRect()), IsEmpty());
 }
-
-TEST_F(PickerPlateTest, NothingOutsideTheViewAndWithoutOne)
-{
-    add("everywhere", { 400.f, 300.f, 4000.f, 4000.f });
-    const float nan = std::numeric_limits<float>::quiet_NaN();
-
-    EXPECT_EQ(nameAt(0.f, 599.9f), "everywhere");
-    EXPECT_EQ(nameAt(-0.1f, 10.f), "");
-    EXPECT_EQ(nameAt(800.f, 10.f), "");
-    EXPECT_EQ(nameAt(nan, 10.f), "");
-    widget.setMousePosition(osg::Pnt2f(20.f, 20.f));
-    EXPECT_NE(picker.pick(), osg::NullFC);
-    widget.resize(0, 600);
-    EXPECT_EQ(nameAt(0.f, 0.f), "");
-    EXPECT_THAT(namesIn(QRect(-5000, -5000, 10000, 10000)), IsEmpty());
-}

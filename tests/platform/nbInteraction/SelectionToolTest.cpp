@@ -102,44 +102,5 @@ TEST_F(SelectionToolTest, InterruptedOrCancelledPressSelectsNothing)
     }
 }
 
-TEST_F(SelectionToolTest, PickerKeepsItsFilter)
-{
-    picker.setFilter(Picker::HandleFilter);
-
-    click(kLeftPx, "select");
-
-    EXPECT_EQ(Picker::HandleFilter, picker.getFilter());
-    EXPECT_THAT(nbSelection::getNodes(), ElementsAre(left));
-    context.setPicker(nullptr);
-    EXPECT_FALSE(sendAt(kLeftPx, "start", "select"));
-}
-
-/// Tool that reads the picker's hit instead of picking.
-class HitReader : public AbstractInteractionTool
-{
-public:
-    bool startTool(ToolInteractionContext* driver, const std::string&) override
-    {
-        hit = driver->getPicker()->getHitNode();
-        return true;
-    }
-
-    osg::NodePtr hit;
-};
-
-TEST_F(SelectionToolTest, ContextPicksAheadForToolsThatReadTheHit)
-{
-    HitReader reader;
-    context.setTool(&reader);
-
-    sendAt(kLeftPx, "start", "add");
-    EXPECT_EQ(left, reader.hit);
-    sendAt(kRightPx, "start", "zoom");
-    EXPECT_EQ(left, reader.hit);
-    sendAt(kNothingPx, "start", "select");
-    EXPECT_EQ(osg::NodePtr(osg::NullFC), reader.hit);
-    context.setTool(nullptr);
-}
-
 }  // namespace
 }  // namespace nbec::interaction

@@ -92,16 +92,5 @@ TEST_F(ToolInteractionContextTest, DyingContextStopsAndDeactivatesItsTool)
     EXPECT_FALSE(tool.isActive());
 }
 
-TEST_F(ToolInteractionContextTest, CopyOfAToolKeepsTheDescriptionAndIsNotActive)
-{
-    tool.setDescription("Pick a point");
-    tool.activateTool(nullptr);
-
-    const RecordingTool copy(tool);
-
-    EXPECT_EQ("Pick a point", copy.getDescription());
-    EXPECT_FALSE(copy.isActive());
-}
-
 }  // namespace
 }  // namespace nbec::interaction

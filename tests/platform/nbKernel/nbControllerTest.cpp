@@ -82,15 +82,3 @@ TEST_F(nbControllerTest, ReceiversMayChangeTheRegistryAndCallWhileTheyRun)
     EXPECT_EQ(owned.use_count(), 1);
     EXPECT_TRUE(nbController::hasReceiver("late99"));
 }
-
-TEST_F(nbControllerTest, LaterReceiverTakesThePlaceAndAnEmptyOneClearsIt)
-{
-    int reached = 0;
-    nbController::addReceiver("name", [&reached](nbMessage&) { reached = 1; });
-    nbController::addReceiver("name", [&reached](nbMessage&) { reached = 2; });
-    EXPECT_TRUE(nbController::call("name", 0));
-    EXPECT_EQ(reached, 2);
-
-    nbController::addReceiver("name", nbController::Receiver());
-    EXPECT_FALSE(nbController::call("name", 0));
-}

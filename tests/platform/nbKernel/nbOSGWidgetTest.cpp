@@ -52,22 +52,6 @@ public:
 
 }  // namespace
 
-TEST(nbOSGWidget, WithoutAWidgetThereAreDefaults)
-{
-    ASSERT_EQ(nbOSGWidget::getMGLW(-1), nullptr);
-    osg::Pnt3f from(1.f, 1.f, 1.f);
-    osg::Pnt3f at;
-    osg::Vec3f up;
-
-    nbOSGWidget::getFromAtUp(-1, from, at, up);
-
-    EXPECT_EQ(nbOSGWidget::getFov(-1), 45.f);
-    EXPECT_EQ(nbOSGWidget::getFrom(-1), osg::Pnt3f(0.f, 0.f, 0.f));
-    EXPECT_EQ(from, osg::Pnt3f(0.f, 0.f, 0.f));
-    EXPECT_EQ(up, osg::Vec3f(0.f, 1.f, 0.f));
-    EXPECT_FALSE(nbOSGWidget::isCameraZUp());
-}
-
 TEST(nbOSGWidget, FirstLiveWidgetIsTheMainOneUnlessAnotherIsChosen)
 {
     auto first = std::make_unique<nbOSGWidget>();
@@ -86,15 +70,6 @@ TEST(nbOSGWidget, FirstLiveWidgetIsTheMainOneUnlessAnotherIsChosen)
     EXPECT_EQ(nbOSGWidget::getMGLW(-1), first.get());
     first.reset();
     EXPECT_EQ(nbOSGWidget::getMGLW(-1), &third);
-}
-
-TEST(nbOSGWidget, ReportsExactlyTheCamerasFieldOfView)
-{
-    const nbOSGWidget widget;
-    for (const float fov : { 1.f, 3.f, 3.2f, 45.f, 60.1f, 0.f }) {
-        widget.getUberCamera()->setFov(fov);
-        EXPECT_EQ(nbOSGWidget::getFov(-1), fov);
-    }
 }
 
 TEST(nbOSGWidget, SizeZeroIsAViewWithoutArea)
@@ -142,21 +117,6 @@ TEST(nbOSGWidget, ResizeCallbacksMayTakeThemselvesAway)
     widget.resize(40, 10);
     EXPECT_EQ(firstCalls, 3) << "removed by the callback before it";
     nbOSGWidget::subMGLWResizeCB(&removeFirst);
-}
-
-TEST(nbOSGWidget, IgnoresPositionsThatAreNoNumbers)
-{
-    nbOSGWidget widget;
-    widget.setMousePosition(osg::Pnt2f(3.f, 4.f));
-    widget.setMousePosition(osg::Pnt2f(kNan, 4.f));
-    widget.setMousePosition(osg::Pnt2f(1.f, std::numeric_limits<float>::infinity()));
-    EXPECT_EQ(widget.getMousePosition(), osg::Pnt2f(3.f, 4.f));
-    // Still a whole number of pixels for rays and rectangles.
-    widget.setMousePosition(osg::Pnt2f(-1e30f, 2e6f));
-    EXPECT_EQ(widget.getMousePosition(), osg::Pnt2f(-1e6f, 1e6f));
-
-    widget.setPressPosition(osg::Pnt2f(kNan, 0.f));
-    EXPECT_TRUE(widget.getMouseRect().isNull());
 }
 
 TEST(nbOSGWidget, TellsItsObserverNoMoreThanNeeded)

@@ -17,19 +17,6 @@ bool isAlive(osg::UInt32 id)
 
 }  // namespace
 
-TEST(nbScenegraph, WorldHoldsSceneAndHelpersApart)
-{
-    const osg::NodePtr world = nbScenegraph::getWorldRoot();
-
-    EXPECT_EQ(nbScenegraph::getRootNode()->getParent(), world);
-    EXPECT_EQ(nbScenegraph::getInternalRoot()->getParent(), world);
-    EXPECT_EQ(nbNodeUtils::getName(nbScenegraph::getRootNode()), "RootNode");
-    EXPECT_EQ(nbNodeUtils::getName(nbScenegraph::getInternalRoot()), "InternalRoot");
-    EXPECT_TRUE(nbNodeUtils::isAuxiliaryNode(nbScenegraph::getInternalRoot()));
-    EXPECT_FALSE(nbNodeUtils::isAuxiliaryNode(nbScenegraph::getRootNode()));
-    EXPECT_EQ(nbScenegraph::getWorldRoot(), world);
-}
-
 TEST(nbScenegraph, ClearFreesAllButWhatOthersHold)
 {
     const osg::UInt32 worldId = nbScenegraph::getWorldRoot().getFieldContainerId();

@@ -180,24 +180,6 @@ TEST_F(nbdPerspectiveMatchTest, TurnsAndOpensTheCameraAboutItsPivot)
     EXPECT_EQ(camera->getFov(), 50.f);
 }
 
-TEST_F(nbdPerspectiveMatchTest, RefusalsLeaveTheCameraUntouched)
-{
-    stepAside();
-    const CameraPose before = camera->getPose();
-    const QLineF good = match.getZLine1();
-
-    match.setZLine1(QLineF(0.5, 0.5, 0.5, 0.5));
-    EXPECT_EQ(node.updateFromPerspectiveMatch(), nbCameraTypes::UnusableLine);
-    match.setZLine1(match.getZLine2());
-    EXPECT_EQ(node.updateFromPerspectiveMatch(), nbCameraTypes::IdenticalLines);
-    EXPECT_TRUE(isSamePlace(camera->getPose(), before));
-
-    match.setZLine1(good);
-    nbtest::edited(camera, osg::UberCamera::OrthographicFieldMask)->setOrthographic(true);
-    EXPECT_EQ(node.updateFromPerspectiveMatch(), nbCameraTypes::OrthographicCamera);
-    EXPECT_TRUE(isSamePlace(camera->getPose(), before));
-}
-
 TEST_F(nbdPerspectiveMatchTest, AGroupIsOneStepOrNoneAndCanBeTakenBack)
 {
     stepAside();
@@ -313,33 +295,6 @@ TEST_F(nbdPerspectiveMatchTest, SizingByTheWidthKeepsWhatIsSeenAcrossIt)
     EXPECT_EQ(node.updateFromPerspectiveMatch(), nbCameraTypes::Solved);
     EXPECT_NEAR(camera->getFov(), photographed.fovDeg, 0.01);
     EXPECT_LT(missDeg(), 0.01);
-}
-
-TEST_F(nbdPerspectiveMatchTest, MissingServicesAreNamedOnStandardError)
-{
-    struct Clerk
-    { };
-
-    nbKernelServiceFactory& factory = nbKernelServiceFactory::the();
-    nbObjectService* const service = factory.get<nbObjectService>();
-    ASSERT_NE(service, nullptr);
-
-    testing::internal::CaptureStderr();
-    factory.unregister<nbObjectService>();
-    EXPECT_EQ(factory.get<nbObjectService>(), nullptr);
-    match.setMagnifyFactor(7.f);  // nobody to tell, not a word
-    factory.registerService<nbObjectService>(nullptr);
-    EXPECT_EQ(factory.get<nbObjectService>(), nullptr);
-    EXPECT_EQ(testing::internal::GetCapturedStderr(),
-              "nbKernelServiceFactory: couldn't find class 'nbObjectService'!\n"
-              "nbKernelServiceFactory: service 'nbObjectService' is NULL!\n");
-    EXPECT_THAT(changes, IsEmpty());
-
-    factory.registerService(service);
-    Clerk clerk;
-    factory.registerService(&clerk);
-    EXPECT_EQ(factory.get<Clerk>(), &clerk);
-    factory.unregister<Clerk>();
 }
 
 }  // namespace

@@ -109,18 +109,3 @@ TEST_F(NotificationManagerTest, ListenersHearOfChangesAndMayThrow)
 
     EXPECT_EQ(3, heard);
 }
-
-TEST_F(NotificationManagerTest, SettingsThatAreNotFiniteChangeNothing)
-{
-    const auto notifier = addNotifier("a");
-    const auto before = notifier->getSettings();
-    const float nan = std::numeric_limits<float>::quiet_NaN();
-
-    notifier->setTextSize(nan);
-    notifier->setTextSize(0.f);
-    notifier->setTextPosition(osg::Vec2f(nan, 0.f));
-    notifier->setTextArea(osg::Vec2f(1.f, 1.f), osg::Vec2f(nan, 0.f));
-    notifier->setLineColor(osg::Color3f(0.f, nan, 0.f));
-
-    EXPECT_TRUE(before == notifier->getSettings());
-}

@@ -86,14 +86,3 @@ TEST(Transform3D, RotationModesShareOneRotation)
     EXPECT_EQ(transform->getRotationMode(), osg::Transform3D::AxisAlignedMode);
     EXPECT_NEAR(transform->getEulerRotation().y(), 90.f, kAngleToleranceDeg);
 }
-
-TEST(Transform3D, RotationMaskRebuildsTheMatrix)
-{
-    const osg::Transform3DRefPtr transform = makeTransform();
-    {
-        const nbEdit edit(transform.get(), osg::Transform3D::RotationFieldMask);
-        transform->setRotation(osg::Quaternion(osg::Vec3f(0.f, 0.f, 1.f), osg::Pi / 2));
-    }
-
-    expectImage(transform->getMatrix(), osg::Pnt3f(1.f, 0.f, 0.f), osg::Pnt3f(0.f, 1.f, 0.f));
-}

@@ -1,13 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include <nbOpenSGExt/DepthTestChunk.h>
 #include <nbOpenSGRenderAction/ItemList.h>
 #include <nbOpenSGUtils/nbEdit.h>
-#include <nbOpenSGUtils/nbNodeUtils.h>
 
-#include <OpenSG/OSGBlendChunk.h>
-#include <OpenSG/OSGDepthChunk.h>
 #include <OpenSG/OSGGroup.h>
-#include <OpenSG/OSGMaterialGroup.h>
 #include <OpenSG/OSGSimpleGeometry.h>
 #include <OpenSG/OSGSimpleMaterial.h>
 #include <OpenSG/OSGSwitch.h>
@@ -51,35 +46,6 @@ osg::NodePtr over(const std::vector<osg::NodePtr>& children)
     return node;
 }
 
-osg::NodePtr materialGroup(const osg::MaterialPtr& look, const osg::NodePtr& child)
-{
-    const osg::NodePtr node = over<osg::MaterialGroup>({ child });
-    const auto core = osg::MaterialGroupPtr::dcast(node->getCore());
-    const nbEdit edit(core, osg::MaterialGroup::MaterialFieldMask);
-    core->setMaterial(look);
-    return node;
-}
-
-osg::NodePtr manipulator(const std::vector<osg::NodePtr>& children)
-{
-    const osg::NodePtr node = over<osg::Group>(children);
-    nbNodeUtils::setIsManipulatorNode(node, true);
-    return node;
-}
-
-template <class Chunk, class Setter>
-osg::SimpleMaterialPtr withChunk(const osg::SimpleMaterialPtr& look, const Setter& setter)
-{
-    const auto chunk = Chunk::create();
-    {
-        const nbEdit edit(chunk, osg::FieldBits::AllFields);
-        setter(chunk);
-    }
-    const nbEdit edit(look, osg::FieldBits::AllFields);
-    look->addChunk(chunk);
-    return look;
-}
-
 std::vector<osg::Int32> keysInOrder(ItemList& list)
 {
     std::vector<osg::Int32> keys;
@@ -105,38 +71,6 @@ TEST(nbItemList, ItemsOfOneMaterialStandTogether)
         states.push_back(item.stateIndex);
     }
     EXPECT_EQ(states, (std::vector<osg::UInt32> { 0, 0, 1, 1 }));
-}
-
-TEST(nbItemList, DepthChunksOfBothClassesAreOneKind)
-{
-    const auto stockLast = withChunk<osg::DepthChunk>(
-        withChunk<osg::DepthTestChunk>(material(0), [](const auto& c) { c->setFunc(GL_ALWAYS); }),
-        [](const auto& c) { c->setFunc(GL_GREATER); });
-    const auto ownLast = withChunk<osg::DepthTestChunk>(
-        withChunk<osg::DepthChunk>(material(0), [](const auto& c) { c->setReadOnly(true); }),
-        [](const auto& c) { c->setFunc(GL_ALWAYS); });
-    const osg::NodeRefPtr root(over<osg::Group>({ box(stockLast), box(ownLast) }));
-    ItemList list;
-    list.update(root);
-
-    EXPECT_EQ(list.getStates()[0].depthFunc, GLenum(GL_GREATER));
-    EXPECT_EQ(list.getStates()[1].depthFunc, GLenum(GL_ALWAYS));
-    EXPECT_TRUE(list.getStates()[1].depthWrite);
-}
-
-TEST(nbItemList, CopyOfAHandleForADepthPassIsLeftOut)
-{
-    const osg::NodeRefPtr handles(over<osg::Group>({ box(material(5)), box(material(6)) }));
-    const osg::NodePtr copy = osg::cloneTree(handles);
-    const osg::NodeRefPtr root(
-        over<osg::Group>({ manipulator({ materialGroup(material(64015), copy),
-                                         materialGroup(material(64017), handles) }),
-                           handles->getChild(0)->clone() }));
-    ItemList list;
-    list.update(root);
-
-    EXPECT_EQ(keysInOrder(list), (std::vector<osg::Int32> { 5, 64017, 64017 }))
-        << "the later pass stays; a scene item of the same core is no copy";
 }
 
 TEST(nbItemList, HiddenPartsAreLeftOut)

@@ -93,14 +93,3 @@ TEST(nbMesh, CornersWithTheSameSourcesShareAVertex)
     EXPECT_EQ(mesh.vertices[3].normal[0], 1.f);
     EXPECT_EQ(mesh.vertices[3].position[1], 9.f);
 }
-
-TEST(nbMesh, BadGeometryGivesAnEmptyMesh)
-{
-    EXPECT_TRUE(buildMesh(osg::NullFC).vertices.empty());
-    const osg::GeometryRefPtr bare(osg::Geometry::create());
-    EXPECT_TRUE(buildMesh(bare).vertices.empty());
-
-    const osg::GeometryRefPtr astray(nbGeoFactory::makeLineGeo(1.f));
-    astray->getIndices()->setValue(99, 1);
-    EXPECT_EQ(buildMesh(astray).lines.size(), 2u) << "an index that points nowhere reads as zeros";
-}

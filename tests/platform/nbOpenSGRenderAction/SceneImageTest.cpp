@@ -106,22 +106,4 @@ TEST_F(SceneImageTest, ACopyIsNotUsedWhereItCostsMoreThanDrawing)
     EXPECT_EQ(plan({ 1, -4 }).kept, 1U);
 }
 
-TEST_F(SceneImageTest, ADriverThatRefusesIsNotAskedAgain)
-{
-    driverKeeps = false;
-    plan({ 1, -2 });
-    EXPECT_EQ(plan({ 1, -2 }).kept, 1U);
-    for (int i = 0; i < 2; ++i) {
-        EXPECT_EQ(plan({ 1, -2 }).kept, 0U);
-        EXPECT_EQ(plan({ 1, -2 }).reused, 0U);
-    }
-}
-
-TEST_F(SceneImageTest, NothingIsKeptWhenItIsOff)
-{
-    image.setEnabled(false);
-    plan({ 1, -2 });
-    EXPECT_EQ(plan({ 1, -2 }).kept, 0U);
-}
-
 }  // namespace

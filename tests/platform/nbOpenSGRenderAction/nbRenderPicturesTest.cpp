@@ -307,36 +307,6 @@ TEST_F(nbRenderPicturesTest, OpaquePartsOfACutOutBodyHideWhatIsBehindThem)
 
 // == What cannot be shown
 
-TEST_F(nbRenderPicturesTest, PlainColorStaysWhereThereIsNoPictureToShow)
-{
-    const auto expectPlain = [&](const PictureMaterial& picture, const char* what) {
-        expectColors(draw(wall(picture)), { { -0.5f, 0.5f, kGrey }, { 0.5f, -0.5f, kGrey } }, what);
-    };
-    PictureMaterial picture;
-    expectPlain(picture, "no picture");
-    picture.material->setImage(picture.component, osg::Image::create());
-    expectPlain(picture, "a picture without pixels");
-    const osg::ImagePtr alphaOnly = osg::Image::create();
-    const osg::UInt8 full = 255;
-    alphaOnly->set(osg::Image::OSG_A_PF, 1, 1, 1, 1, 1, 0.0, &full);
-    picture.material->setImage(picture.component, alphaOnly);
-    expectPlain(picture, "a picture without colour");
-
-    picture.setPicture(colorQuarters());
-    constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
-    for (const osg::Vec3f& scale :
-         { osg::Vec3f(0.f, 1.f, 1.f), osg::Vec3f(1.f, 1.f, 0.f), osg::Vec3f(kNaN, 1.f, 1.f),
-           osg::Vec3f(1.f, std::numeric_limits<float>::infinity(), 1.f) }) {
-        picture.place({ 0.f, 0.f, 0.f }, scale);
-        expectPlain(picture, "a flat or endless projection");
-    }
-    picture.place({ 0.f, 0.f, 0.f }, { 1.f, 1.f, 1.f });
-    nbtest::edited(picture.settings)->setPlanarProjection(osg::NullFC);
-    expectPlain(picture, "no projection");
-    picture.material->setComponentSettings(picture.component, osg::NullFC);
-    expectPlain(picture, "no settings");
-}
-
 // == Formats of pictures
 
 TEST_F(nbRenderPicturesTest, ShowsPicturesOfEveryFormat)

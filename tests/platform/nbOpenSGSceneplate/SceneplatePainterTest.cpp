@@ -95,18 +95,6 @@ TEST_F(nbSceneplatePainterTest, LiesBeforeOrBehindTheSceneAndBelowHandles)
     EXPECT_EQ(at(handles, 0.8f, 0.8f), kGreen);
 }
 
-TEST_F(nbSceneplatePainterTest, HigherOrderLiesInFrontThenTheLaterInTheTree)
-{
-    const PlatePx place { 100.f, 100.f, 80.f, 80.f };
-
-    EXPECT_EQ(at(draw(group({ front(place, kRed4, 3), front(place, kGreen4, 2) })), 0.f, 0.f),
-              kRed);
-    EXPECT_EQ(at(draw(group({ front(place, kRed4, 2), front(place, kGreen4, 2) })), 0.f, 0.f),
-              kGreen);
-    EXPECT_EQ(at(draw(group({ front(place, kRed4, -5), back(place, kGreen4) })), 0.f, 0.f), kRed)
-        << "in front of the scene, whatever the order of one behind";
-}
-
 TEST_F(nbSceneplatePainterTest, AlphaAndOpacityMixWithWhatIsBehind)
 {
     QImage half(20, 20, QImage::Format_ARGB32);

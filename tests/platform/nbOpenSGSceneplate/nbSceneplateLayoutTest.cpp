@@ -56,16 +56,6 @@ void expectAt(const Pnt2f& actual, float x, float y)
 
 }  // namespace
 
-TEST(nbSceneplateLayout, AnchorsAreTheNinePlacesOfTheView)
-{
-    expectAt(Layout::anchorPosition(Sceneplate::BottomLeft, 800, 600), 0.f, 600.f);
-    expectAt(Layout::anchorPosition(Sceneplate::Right, 800, 600), 800.f, 300.f);
-    expectAt(Layout::anchorPosition(Sceneplate::Top, 800, 600), 400.f, 0.f);
-    expectAt(Layout::anchorPosition(Sceneplate::TopRight, 800, 600), 800.f, 0.f);
-    expectAt(Layout::anchorPosition(-3, 800, 600), 400.f, 300.f);
-    expectAt(Layout::anchorPosition(9, 800, 600), 400.f, 300.f);
-}
-
 TEST(nbSceneplateLayout, TurnedPlatesTurnCounterClockwiseOnScreen)
 {
     const Plate plate = anchored(Sceneplate::Centre, Vec2f(0.f, 0.f), Vec2f(0.4f, 0.2f), 30.f);
@@ -103,47 +93,10 @@ TEST(nbSceneplateLayout, OffsetsAndPositionsAreTheInverseOfPixels)
     const Vec2f offset = Layout::toOffset(Vec2f(60.f, 30.f), 600);
     EXPECT_FLOAT_EQ(offset.x(), 0.1f);
     EXPECT_FLOAT_EQ(offset.y(), -0.05f);
-    const Vec2f back = Layout::toPixels(offset, 600);
-    EXPECT_FLOAT_EQ(back.x(), 60.f);
-    EXPECT_FLOAT_EQ(back.y(), 30.f);
     const Plate plate = anchored(
         Sceneplate::Right, Layout::positionAt(Sceneplate::Right, Pnt2f(123.f, 45.f), 800, 600),
         Vec2f(0.1f, 0.1f));
     expectAt(Layout::centre(plate, 800, 600), 123.f, 45.f);
-    EXPECT_EQ(Layout::toOffset(Vec2f(60.f, 30.f), 0), Vec2f(0.f, 0.f));
-}
-
-TEST(nbSceneplateLayout, WhatHasNoSizeOrNoNumbersIsNotShown)
-{
-    using Change = std::function<void(const osg::SceneplatePtr&)>;
-    const float nan = std::numeric_limits<float>::quiet_NaN();
-
-    const struct
-    {
-        const char* name;
-        Change change;
-        bool isShown;
-    } rows[] = {
-        { "usual", [](const auto&) {}, true },
-        { "hidden", [](const auto& p) { p->setVisible(false); }, false },
-        { "clear", [](const auto& p) { p->setOpacity(0.f); }, false },
-        { "clear by a strange number", [&](const auto& p) { p->setOpacity(nan); }, false },
-        { "no width", [](const auto& p) { p->setSize(Vec2f(0.f, 1.f)); }, false },
-        { "mirrored", [](const auto& p) { p->setScale(-1.f); }, false },
-        { "nowhere", [&](const auto& p) { p->setPosition(Vec2f(0.f, nan)); }, false },
-        { "too large", [](const auto& p) { p->setScale(std::numeric_limits<float>::infinity()); },
-          false },
-        { "turned by nothing", [&](const auto& p) { p->setRotation(nan); }, false },
-    };
-
-    for (const auto& row : rows) {
-        const Plate plate([&](const osg::SceneplatePtr& p) {
-            p->setSize(Vec2f(0.1f, 0.1f));
-            row.change(p);
-        });
-        EXPECT_EQ(Layout::isShown(plate), row.isShown) << row.name;
-    }
-    EXPECT_FALSE(Layout::isShown(osg::SceneplatePtr()));
 }
 
 TEST(nbSceneplateList, FindsPlatesBelowGroupsInDrawingOrder)

@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <nbOpenSGUberCamera/UberCamera.h>
-#include <nbOpenSGUberCamera/nbUberCameraUtils.h>
 
-#include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGLine.h>
-#include <OpenSG/OSGOrthographicCamera.h>
 #include <OpenSG/OSGPassiveWindow.h>
 #include <OpenSG/OSGViewport.h>
 
@@ -23,7 +20,6 @@ using osg::Vec3f;
 namespace {
 
 constexpr float kNan = std::numeric_limits<float>::quiet_NaN();
-constexpr float kInfinity = std::numeric_limits<float>::infinity();
 constexpr float kTolerance = 1e-5f;
 
 /// At (0, 0, 10), looking at the origin, 90 degrees, near 1, far 100.
@@ -128,28 +124,6 @@ TEST(UberCamera, BeaconFollowsEditsOfTheFields)
     EXPECT_EQ(camera->getFrom(0), Pnt3f(1.f, 2.f, 3.f));
 }
 
-TEST(UberCamera, CopyHasABeaconOfItsOwnAndBothAreGivenBack)
-{
-    osg::UInt32 beaconIds[2];
-    {
-        const UberCameraRefPtr camera = makeCamera();
-        const UberCameraRefPtr copy(UberCameraPtr::dcast(camera->shallowCopy()));
-        ASSERT_NE(copy, osg::NullFC);
-        EXPECT_EQ(copy->getFov(), 90.f);
-        copy->setFromAtUp(Pnt3f(7.f, 0.f, 0.f), Pnt3f(), Vec3f(0.f, 1.f, 0.f));
-
-        Matrix viewing;
-        camera->getViewing(viewing, 1, 1);
-        EXPECT_EQ(viewing[3], osg::Vec4f(0.f, 0.f, -10.f, 1.f));
-        beaconIds[0] = camera->getInternalParentNode().getFieldContainerId();
-        beaconIds[1] = copy->getInternalParentNode().getFieldContainerId();
-        EXPECT_NE(beaconIds[0], beaconIds[1]);
-    }
-    for (const osg::UInt32 id : beaconIds) {
-        EXPECT_EQ(osg::FieldContainerFactory::the()->getContainer(id), osg::NullFC);
-    }
-}
-
 TEST(UberCamera, UnusableFieldsStillGiveAFiniteProjection)
 {
     const struct
@@ -159,18 +133,12 @@ TEST(UberCamera, UnusableFieldsStillGiveAFiniteProjection)
     } rows[] = {
         { "from is at", [](UberCamera& camera) { camera.setFrom(camera.getAt()); } },
         { "from nan", [](UberCamera& camera) { camera.setFrom(Pnt3f(kNan, 0.f, 0.f)); } },
-        { "far away", [](UberCamera& camera) { camera.setFrom(Pnt3f(0.f, 0.f, 1e30f)); } },
         { "up along", [](UberCamera& camera) { camera.setUp(Vec3f(0.f, 0.f, 1.f)); } },
-        { "up zero", [](UberCamera& camera) { camera.setUp(Vec3f()); } },
         { "fov 0", [](UberCamera& camera) { camera.setFov(0.f); } },
-        { "fov nan", [](UberCamera& camera) { camera.setFov(kNan); } },
         { "fov 180", [](UberCamera& camera) { camera.setFov(180.f); } },
         { "near 0", [](UberCamera& camera) { camera.setNear(0.f); } },
-        { "near nan", [](UberCamera& camera) { camera.setNear(kNan); } },
-        { "far infinite", [](UberCamera& camera) { camera.setFar(kInfinity); } },
         { "far before near", [](UberCamera& camera) { camera.setFar(-1.f); } },
         { "aspect 0", [](UberCamera& camera) { camera.setViewAspect(0.f); } },
-        { "aspect nan", [](UberCamera& camera) { camera.setAspect(kNan); } },
     };
 
     for (const auto& row : rows) {
@@ -229,15 +197,4 @@ TEST(UberCamera, DepthRangeEnclosesBoxPivotAndHandles)
         EXPECT_NEAR(camera->getNear(), row.nearPlane, 1e-4f) << row.name;
         EXPECT_NEAR(camera->getFar(), row.farPlane, 1e-2f) << row.name;
     }
-}
-
-TEST(nbUberCameraUtils, AsksTheSwitchOrTheClass)
-{
-    const UberCameraRefPtr camera = makeCamera();
-    const osg::RefPtr<osg::OrthographicCameraPtr> flat(osg::OrthographicCamera::create());
-    EXPECT_FALSE(nbUberCameraUtils::isOrthographicCamera(camera.get()));
-    camera->setOrthographic(true);
-    EXPECT_TRUE(nbUberCameraUtils::isOrthographicCamera(camera.get()));
-    EXPECT_TRUE(nbUberCameraUtils::isOrthographicCamera(flat.get()));
-    EXPECT_FALSE(nbUberCameraUtils::isOrthographicCamera(osg::NullFC));
 }

@@ -77,12 +77,6 @@ testing::AssertionResult isNear(const Pnt3f& actual, const Pnt3f& expected,
     return testing::AssertionFailure() << '(' << actual << ") instead of (" << expected << ')';
 }
 
-bool isSame(const CameraPose& one, const CameraPose& other)
-{
-    return one.from == other.from && one.at == other.at && one.up == other.up &&
-        one.pivot == other.pivot && one.orthographic == other.orthographic;
-}
-
 float elevationSine(const CameraPose& pose)
 {
     return Navigation::axes(pose).back.dot(Navigation::worldUp(pose));
@@ -240,26 +234,4 @@ TEST(nbCameraNavigation, SwitchOfTheProjectionKeepsSizesAtThePivot)
         const CameraPose again = Navigation::withProjection(moved, start.orthographic);
         expectSamePixel(seenAt(again, beside), seenAt(start, beside), number);
     }
-}
-
-TEST(nbCameraNavigation, InputThatMakesNoMovementChangesNothing)
-{
-    const CameraPose pose = frontPose();
-    EXPECT_TRUE(isSame(Navigation::orbit(pose, kNan, 1.f, kHeight), pose));
-    EXPECT_TRUE(isSame(Navigation::orbit(pose, 1.f, 1.f, 0), pose));
-    EXPECT_TRUE(isSame(Navigation::pan(pose, 1.f, kNan, kHeight), pose));
-    EXPECT_TRUE(isSame(Navigation::pan(pose, 1.f, 1.f, -1), pose));
-    EXPECT_TRUE(isSame(Navigation::zoom(pose, 0.f), pose));
-    EXPECT_TRUE(isSame(Navigation::zoom(pose, kNan), pose));
-    EXPECT_TRUE(isSame(Navigation::zoom(pose, 0.5f, Pnt3f(kNan, 0.f, 0.f)), pose));
-    EXPECT_TRUE(
-        isSame(Navigation::frame(pose, Pnt3f(1.f, 1.f, 1.f), Pnt3f(0.f, 0.f, 0.f), 1.f), pose));
-
-    CameraPose broken = pose;
-    broken.at = Pnt3f(0.f, kNan, 0.f);
-    EXPECT_EQ(Navigation::orbit(broken, 5.f, 5.f, kHeight).from, pose.from);
-    CameraPose eyeInTheCentre = pose;
-    eyeInTheCentre.from = pose.at;
-    EXPECT_TRUE(Navigation::isFinite(Navigation::zoom(eyeInTheCentre, 0.5f)));
-    EXPECT_TRUE(Navigation::isFinite(Navigation::standardView(eyeInTheCentre, View::Top)));
 }

@@ -74,21 +74,6 @@ TEST_F(UberMaterialTest, CountsWhatItHoldsAndGivesItBack)
     }
 }
 
-TEST_F(UberMaterialTest, ACopyHasItsOwnListOfComponents)
-{
-    const osg::RefPtr<osg::ImagePtr> first(makeImage(osg::Image::OSG_RGB_PF));
-    const osg::RefPtr<osg::ImagePtr> second(makeImage(osg::Image::OSG_RGB_PF));
-    material->setImage("diffuse", first.get());
-
-    const osg::UberMaterialRefPtr copy(osg::UberMaterialPtr::dcast(material->shallowCopy()));
-    copy->setImage("diffuse", second.get());
-    copy->setImage("bump", second.get());
-
-    EXPECT_TRUE(material->getImage("diffuse") == first.get());
-    EXPECT_EQ(material->getComponentNames(), (Names { "diffuse" }));
-    EXPECT_TRUE(copy->getImage("diffuse") == second.get());
-}
-
 TEST_F(UberMaterialTest, IsTransparentWithAPictureThatCanMakeItSo)
 {
     const osg::ColorComponentSettingsRefPtr settings(osg::ColorComponentSettings::create());

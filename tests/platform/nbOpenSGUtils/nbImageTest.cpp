@@ -77,14 +77,3 @@ TEST(nbImage, InvertsMipmapsAndWideComponents)
     EXPECT_TRUE(nbImage::invertAlpha(words.get()));
     EXPECT_EQ(bytesOf(words.get()), (Bytes { 254, 255 }));
 }
-
-TEST(nbImage, LeavesImagesWithoutAlphaAsTheyAre)
-{
-    const auto colors = makeImage(Image::OSG_RGB_PF, { 1, 2, 3 }, 1);
-
-    EXPECT_FALSE(nbImage::invertAlpha(colors.get()));
-    EXPECT_FALSE(nbImage::invertAlpha(osg::NullFC));
-    EXPECT_FALSE(nbImage::invertAlpha(Image::create()));
-
-    EXPECT_EQ(bytesOf(colors.get()), (Bytes { 1, 2, 3 }));
-}

@@ -24,14 +24,3 @@ TEST(nbNodePermission, EverythingIsAllowedUntilItIsDeniedForTheNodeItself)
     EXPECT_TRUE(nbNodePermission::allows(parent, 19));
     EXPECT_FALSE(nbNodePermission::allows(parent, 31));
 }
-
-TEST(nbNodePermission, NoNodeAndUnknownNumbersAreAllowedAndCannotBeDenied)
-{
-    const osg::NodeRefPtr node(osg::Node::create());
-    for (const osg::Int32 number : { -1, 32, 1000 }) {
-        nbNodePermission::setAllowed(node, number, false);
-        EXPECT_TRUE(nbNodePermission::allows(node, number)) << number;
-    }
-    nbNodePermission::setAllowed(osg::NullFC, 19, false);
-    EXPECT_TRUE(nbNodePermission::allows(osg::NullFC, 19));
-}

@@ -128,21 +128,6 @@ TEST_F(ConversionTest, ComponentTransformKeepsItsCentreAsPivots)
     }
 }
 
-TEST(nbNodeUtils, NullIsTakenEverywhere)
-{
-    const osg::NodePtr none;
-
-    nbNodeUtils::setName(none, "x", true);
-    nbNodeUtils::setIsManipulatorNode(none, true);
-
-    EXPECT_EQ(nbNodeUtils::getName(none), "");
-    EXPECT_EQ(nbNodeUtils::getNodeFlags(none), 0u);
-    EXPECT_FALSE(nbNodeUtils::hasParent(none, none));
-    EXPECT_TRUE(nbNodeUtils::resolveToTransformNode(none) == osg::NullFC);
-    EXPECT_TRUE(nbNodeUtils::convertToTransform3DNode(none) == osg::NullFC);
-    EXPECT_TRUE(nbNodeUtils::getWorldBounds(none).isEmpty());
-}
-
 TEST(nbNodeUtils, NamesTheGeometriesBelow)
 {
     const osg::NodeRefPtr root(osg::makeCoredNode<osg::Group>());
@@ -159,19 +144,6 @@ TEST(nbNodeUtils, NamesTheGeometriesBelow)
     nbNodeUtils::setName(root, "other", true, transform);
     EXPECT_EQ(nbNodeUtils::getName(geometry), "other");
     EXPECT_EQ(nbNodeUtils::getName(transform), "");
-}
-
-TEST(nbNodeUtils, FlagsAreIndependent)
-{
-    const osg::NodeRefPtr node(osg::makeCoredNode<osg::Group>());
-
-    nbNodeUtils::setIsAuxiliaryNode(node, true);
-    nbNodeUtils::setIsManipulatorNode(node, true);
-    nbNodeUtils::setIsAuxiliaryNode(node, false);
-
-    EXPECT_FALSE(nbNodeUtils::isAuxiliaryNode(node));
-    EXPECT_FALSE(nbNodeUtils::isSelectableAuxiliaryNode(node));
-    EXPECT_TRUE(nbNodeUtils::isManipulatorNode(node));
 }
 
 TEST(nbNodeUtils, WorldBoundsLeaveAuxiliaryAndInactiveOut)
@@ -195,14 +167,4 @@ TEST(nbNodeUtils, WorldBoundsLeaveAuxiliaryAndInactiveOut)
     EXPECT_TRUE(bounds.getMax().equals(osg::Pnt3f(11.f, 1.f, 1.f), kTolerance));
     const osg::BoxVolume part = nbNodeUtils::getWorldBounds(moved->getChild(0));
     EXPECT_TRUE(part.getMax().equals(osg::Pnt3f(11.f, 1.f, 1.f), kTolerance));
-}
-
-TEST(nbGeoFactory, DashedRingHasEverySecondPieceAndBadArgumentsNone)
-{
-    const osg::GeometryRefPtr dashed(nbGeoFactory::makeLineTorusGeo(1.f, 8, true));
-    EXPECT_EQ(dashed->getLengths()->getValue(0), 8u);
-
-    EXPECT_TRUE(nbGeoFactory::makeLineTorus(1.f, 2, false) == osg::NullFC);
-    EXPECT_TRUE(nbGeoFactory::makeLineTorus(0.f, 8, false) == osg::NullFC);
-    EXPECT_TRUE(nbGeoFactory::makeLine(-1.f) == osg::NullFC);
 }

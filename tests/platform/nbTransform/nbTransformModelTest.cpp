@@ -225,17 +225,6 @@ TEST_F(nbTransformModelTest, ResultsBeyondFloatsAreRefused)
     EXPECT_EQ(1u, logged.size());
 }
 
-TEST_F(nbTransformModelTest, StepsOfSnappingAreZeroOrGreater)
-{
-    model->setScalePrecision(0.25);
-    model->setScalePrecision(-1.0);
-    model->setScalePrecision(std::numeric_limits<double>::quiet_NaN());
-
-    EXPECT_EQ(0.25, model->getScalePrecision());
-    EXPECT_EQ(2u, logged.size());
-    model->setScalePrecision(0.1);
-}
-
 // == Pivots
 
 TEST_F(nbTransformModelTest, ScalePivotIsThePointThatScalingLeavesAlone)

@@ -23,32 +23,6 @@ TEST(nbPlatform, NumbersHaveAPointInEveryLocale)
     std::setlocale(LC_NUMERIC, before.c_str());
 }
 
-TEST(nbPlatform, WritesTheOddNumbers)
-{
-    constexpr double kInfinity = std::numeric_limits<double>::infinity();
-
-    const struct
-    {
-        const char* name;
-        double value;
-        int decimals;
-        const char* text;
-    } rows[] = {
-        { "no minus on what rounds to zero", -0.004, 2, "0.00" },
-        { "negative zero", -0.0, 0, "0" },
-        { "minus on what does not", -0.006, 2, "-0.01" },
-        { "decimals clamped from below", 2.5, -3, "2" },
-        { "not a number", std::nan(""), 2, "nan" },
-        { "infinite", -kInfinity, 2, "-inf" },
-        { "small", 1e-9, 3, "0.000" },
-    };
-
-    for (const auto& row : rows) {
-        EXPECT_EQ(nbPlatform::numberToText(row.value, row.decimals), row.text) << row.name;
-    }
-    EXPECT_EQ(nbPlatform::numberToText(std::numeric_limits<double>::max(), 17).size(), 309u + 18u);
-}
-
 TEST(nbPlatform, RefusesWhatIsNotOneFiniteNumber)
 {
     for (const char* const text :
