@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include <OpenSG/OSGAttachmentContainer.h>
-#include <OpenSG/OSGBaseFunctions.h>
 #include <OpenSG/OSGContainerCensus.h>
 #include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGGroup.h>

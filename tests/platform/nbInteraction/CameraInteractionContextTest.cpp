@@ -15,19 +15,6 @@ namespace {
 
 constexpr float kTolerance = 1e-3f;
 
-class CameraWatcher : public AbstractInteractionContext
-{
-public:
-    void cameraMoved(const osg::TransformationMatrix<float>& worldFromCamera) override
-    {
-        ++count;
-        eye = osg::Pnt3f(worldFromCamera[3][0], worldFromCamera[3][1], worldFromCamera[3][2]);
-    }
-
-    int count = 0;
-    osg::Pnt3f eye;
-};
-
 class CameraInteractionContextTest : public testing::Test
 {
 protected:
@@ -40,8 +27,6 @@ protected:
         pose.pivot = osg::Pnt3f(0, 0, 0);
         context.setPose(pose);
         manager.addContext(&context);
-        manager.addContext(&watcher);
-        context.setChangedCallback([this] { ++callbackCount; });
     }
 
     ~CameraInteractionContextTest() override { nbScenegraph::clear(); }
@@ -68,8 +53,6 @@ protected:
     std::unique_ptr<nbOSGWidget> widget = std::make_unique<nbOSGWidget>();
     InteractionManager manager;
     CameraInteractionContext context;
-    CameraWatcher watcher;
-    int callbackCount = 0;
 };
 
 TEST_F(CameraInteractionContextTest, PanKeepsThePivotUnderThePointer)

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "tests/platform/nbInteraction/Recording.h"
-#include "tests/platform/support/Edited.h"
 
 #include <nbInteraction/InputTranslator.h>
 #include <nbKernel/nbOSGWidget.h>
 #include <nbKernel/nbScenegraph.h>
 
-#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QWheelEvent>

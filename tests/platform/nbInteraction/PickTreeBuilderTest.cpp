@@ -4,8 +4,6 @@
 
 #include <nbInteraction/PickTreeBuilder.h>
 
-#include <atomic>
-#include <memory>
 #include <thread>
 #include <vector>
 

@@ -2,13 +2,7 @@
 #include "tests/platform/nbInteraction/PickerTestSupport.h"
 #include "tests/platform/support/Plates.h"
 
-#include <nbOpenSGRenderAction/nbImageConvert.h>
-
-#include <QtGui/QImage>
-
 #include <gmock/gmock.h>
-
-#include <limits>
 
 using nbec::interaction::Picker;
 using platetest::PlatePx;
@@ -68,33 +62,6 @@ TEST_F(PickerPlateTest, ForemostPlateIsHitWhateverTheSceneHides)
     EXPECT_EQ(nameAt(400.f, 300.f), "low");
     picker.setFilter(Picker::SceneFilter);
     EXPECT_EQ(nameAt(400.f, 300.f), "box") << "the scene does not know plates";
-}
-
-TEST_F(PickerPlateTest, HolesOfAPictureAreNotHitOpacityDoesNotCount)
-{
-    QImage picture(2, 2, QImage::Format_ARGB32);
-    picture.fill(Qt::white);
-    picture.setPixelColor(0, 0, Qt::transparent);
-    picture.setPixelColor(1, 0, QColor(255, 255, 255, 26));  // just above the threshold
-    picture.setPixelColor(1, 1, QColor(255, 255, 255, 25));
-    const osg::NodePtr node = add("logo", { 400.f, 300.f, 80.f, 80.f }, [&](const auto& plate) {
-        plate->setImage(nbImageConvert::toImage(picture));
-        plate->setOpacity(0.01f);
-    });
-
-    EXPECT_EQ(nameAt(370.f, 270.f), "") << "upper left";
-    EXPECT_EQ(nameAt(430.f, 270.f), "logo");
-    EXPECT_EQ(nameAt(370.f, 330.f), "logo");
-    EXPECT_EQ(nameAt(430.f, 330.f), "");
-    EXPECT_EQ(nameAt(399.9f, 299.9f), "");
-    EXPECT_EQ(nameAt(400.f, 299.9f), "logo");
-
-    const osg::SceneplatePtr plate = platetest::plateOf(node);
-    const nbEdit edit(plate, osg::FieldBits::AllFields);
-    plate->setImage(osg::NullFC);
-    EXPECT_EQ(nameAt(370.f, 270.f), "logo");
-    plate->setColor(osg::Color4f(1.f, 1.f, 1.f, 0.05f));
-    EXPECT_EQ(nameAt(370.f, 270.f), "") << "a plate of clear colour";
 }
 
 TEST_F(PickerPlateTest, RectangleTakesPlatesThatLieInsideAsFarAsTheyAreInView)

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <nbInteraction/AbstractInteractionTool.h>
 #include <nbInteraction/InteractionManager.h>
 #include <nbInteraction/MultimodeInteractionContext.h>
 
@@ -84,60 +83,6 @@ public:
 
 private:
     void record(const std::string& call) { log.push_back(name + " " + call); }
-
-    CallLog& log;
-    std::string name;
-};
-
-/// Tool that writes its calls and takes everything.
-class RecordingTool : public nbec::interaction::AbstractInteractionTool
-{
-public:
-    using Context = nbec::interaction::ToolInteractionContext;
-
-    RecordingTool(CallLog& calls, const std::string& toolName)
-        : log(calls)
-        , name(toolName)
-    { }
-
-    bool setToolMode(Context*, const std::string& mode) override
-    {
-        return record("mode", mode) && mode == "tool";
-    }
-
-    void activateTool(Context* context) override
-    {
-        AbstractInteractionTool::activateTool(context);
-        record("activate", "");
-    }
-
-    void deactivateTool(Context* context) override
-    {
-        AbstractInteractionTool::deactivateTool(context);
-        record("deactivate", "");
-    }
-
-    bool startTool(Context*, const std::string& hint) override { return record("start", hint); }
-
-    bool processTool(Context*, const std::string& hint) override { return record("process", hint); }
-
-    bool stopTool(Context*, const std::string& hint) override { return record("stop", hint); }
-
-    bool triggerTool(Context*, const std::string& hint) override { return record("trigger", hint); }
-
-    bool hoverTool(Context*, const std::string& hint) override { return record("hover", hint); }
-
-    bool stopHoverTool(Context*, const std::string& hint) override
-    {
-        return record("stopHover", hint);
-    }
-
-private:
-    bool record(const std::string& call, const std::string& hint)
-    {
-        log.push_back(name + " " + call + " " + hint);
-        return true;
-    }
 
     CallLog& log;
     std::string name;

@@ -6,6 +6,8 @@
 
 #include <gmock/gmock.h>
 
+#include <memory>
+
 #include "PickerTestSupport.h"
 
 namespace nbec::interaction {
@@ -100,6 +102,26 @@ TEST_F(SelectionToolTest, InterruptedOrCancelledPressSelectsNothing)
         EXPECT_FALSE(sendAt(kLeftPx, "stop", "select"));
         EXPECT_TRUE(nbSelection::isEmpty());
     }
+}
+
+TEST_F(SelectionToolTest, ToolIsActiveWhileItsContextIsAddedAndEnabled)
+{
+    EXPECT_TRUE(tool.isActive());
+    manager.setEnabled(&context, false);
+    EXPECT_FALSE(tool.isActive());
+    manager.setEnabled(&context, true);
+    EXPECT_TRUE(tool.isActive());
+
+    auto dying = std::make_unique<ToolInteractionContext>(Selection);
+    manager.removeContext(&context);
+    dying->setTool(&tool);
+    dying->setPicker(&picker);
+    manager.addContext(dying.get());
+    EXPECT_TRUE(sendAt(kLeftPx, "start", "select"));
+    dying.reset();
+    EXPECT_FALSE(tool.isActive());
+    EXPECT_FALSE(sendAt(kLeftPx, "stop", "select"));
+    EXPECT_TRUE(nbSelection::isEmpty());
 }
 
 }  // namespace

@@ -3,8 +3,6 @@
 
 #include <nbKernel/nbController.h>
 
-#include <OpenSG/OSGVector.h>
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 

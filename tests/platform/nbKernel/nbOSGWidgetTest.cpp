@@ -4,12 +4,10 @@
 
 #include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGLine.h>
-#include <OpenSG/OSGWindow.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <limits>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -17,8 +15,6 @@
 using testing::ElementsAre;
 
 namespace {
-
-constexpr float kNan = std::numeric_limits<float>::quiet_NaN();
 
 int firstCalls = 0;
 int secondCalls = 0;

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include <nbKernel/nbScenegraph.h>
-#include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGGroup.h>

@@ -45,6 +45,31 @@ inline double fovDeg(const PerspectiveAim& aim, double height)
     return 2.0 * std::atan(0.5 * height / aim.focalLength) * 180.0 / kPi;
 }
 
+/// An axis of the world in the camera's frame.
+inline Vec3d axisSeen(const PerspectiveAim& aim, int axis)
+{
+    return { aim.right[axis], aim.up[axis], aim.back[axis] };
+}
+
+/// Lays two edges along each axis of the world, 5 units before the camera.
+inline void layEdges(PerspectiveProblem& problem, const PerspectiveAim& aim)
+{
+    constexpr double kDepth = 5.0;
+    for (int i = 0; i < 6; ++i) {
+        const double side = i % 2 == 0 ? -0.35 : 0.3;
+        const Vec3d middle(side * problem.width * kDepth / aim.focalLength,
+                           (0.15 * (i / 2) - side) * problem.height * kDepth / aim.focalLength,
+                           -kDepth);
+        QPointF ends[2];
+        for (int end = 0; end < 2; ++end) {
+            const Vec3d point = middle + axisSeen(aim, i / 2) * (end == 0 ? -1.0 : 1.0);
+            ends[end] = QPointF(0.5 * problem.width - aim.focalLength * point[0] / point[2],
+                                0.5 * problem.height - aim.focalLength * point[1] / point[2]);
+        }
+        problem.lines[i] = QLineF(ends[0], ends[1]);
+    }
+}
+
 /// Random cameras and lines along the axes of their world, always the same ones.
 class Studio
 {
@@ -75,8 +100,8 @@ public:
     }
 
     /// A problem whose solution is `aim`, from a start that is somewhat off. Nothing if this camera
-    /// sees an axis of the type badly: a vanishing point beyond 20 reference sizes, or no edges of
-    /// some length and angle in view.
+    /// sees an axis of the type badly: a vanishing point beyond 20 reference sizes, or edges that
+    /// are short or next to parallel.
     std::optional<PerspectiveProblem> photograph(const PerspectiveAim& aim,
                                                  nbCameraTypes::VanishingLinesType type,
                                                  bool verticalSizing)
@@ -88,14 +113,16 @@ public:
         problem.type = type;
         problem.start = turned(aim, direction(), between(0.0, 0.5));
         problem.start.focalLength = aim.focalLength * between(0.6, 1.6);
+        layEdges(problem, aim);
         for (int axis = 0; axis < 3; ++axis) {
-            if (!nbCameraTypes::usesAxis(type, axis)) {
-                continue;
-            }
-            const Vec3d world(axis == 0, axis == 1, axis == 2);
-            const Vec3d seen(aim.right.dot(world), aim.up.dot(world), aim.back.dot(world));
-            if (std::hypot(seen[0], seen[1]) * aim.focalLength > 20.0 * std::abs(seen[2]) ||
-                !layEdges(problem, aim, axis, seen)) {
+            const Vec3d seen = axisSeen(aim, axis);
+            const QLineF& first = problem.lines[2 * axis];
+            const QLineF& second = problem.lines[2 * axis + 1];
+            const double angle = std::fmod(first.angleTo(second), 180.0);
+            if (nbCameraTypes::usesAxis(type, axis) &&
+                (std::hypot(seen[0], seen[1]) * aim.focalLength > 20.0 * std::abs(seen[2]) ||
+                 std::min(first.length(), second.length()) < 0.15 ||
+                 std::min(angle, 180.0 - angle) < 2.0)) {
                 return std::nullopt;
             }
         }
@@ -103,39 +130,6 @@ public:
     }
 
 private:
-    QLineF edge(const PerspectiveProblem& problem, const PerspectiveAim& aim, const Vec3d& along)
-    {
-        const double depth = between(3.0, 8.0);
-        const Vec3d middle(between(-0.5, 0.5) * problem.width * depth / aim.focalLength,
-                           between(-0.5, 0.5) * problem.height * depth / aim.focalLength, -depth);
-        QPointF ends[2];
-        for (int i = 0; i < 2; ++i) {
-            const Vec3d point = middle + along * (i == 0 ? -1.0 : 1.0);
-            ends[i] = QPointF(0.5 * problem.width - aim.focalLength * point[0] / point[2],
-                              0.5 * problem.height - aim.focalLength * point[1] / point[2]);
-        }
-        return QLineF(ends[0], ends[1]);
-    }
-
-    bool layEdges(PerspectiveProblem& problem, const PerspectiveAim& aim, int axis,
-                  const Vec3d& along)
-    {
-        constexpr double kShortest = 0.15;
-        constexpr double kSmallestAngleDeg = 2.0;
-        for (int attempt = 0; attempt < 50; ++attempt) {
-            const QLineF first = edge(problem, aim, along);
-            const QLineF second = edge(problem, aim, along);
-            const double angle = std::fmod(first.angleTo(second), 180.0);
-            if (first.length() > kShortest && second.length() > kShortest &&
-                std::min(angle, 180.0 - angle) > kSmallestAngleDeg) {
-                problem.lines[2 * axis] = first;
-                problem.lines[2 * axis + 1] = second;
-                return true;
-            }
-        }
-        return false;
-    }
-
     std::mt19937 generator;
 };
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <nbKernelServices/nbScopedMultiCommand.h>
 #include <nbKernelServices/nbScopedUndo.h>
-#include <nbKernelServices/nbUndoRecord.h>
 #include <nbKernelServices/nbUndoService.h>
 #include <nbOpenSGExt/Transform3D.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
@@ -15,37 +14,10 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
-
 using osg::Transform3D;
 using osg::Vec3f;
 
 namespace {
-
-/// A number that can be undone.
-class NumberRecord : public nbUndoRecord
-{
-public:
-    explicit NumberRecord(int& edited)
-        : number(edited)
-        , before(edited)
-    { }
-
-    bool close() override
-    {
-        after = number;
-        return after != before;
-    }
-
-    void undo() override { number = before; }
-
-    void redo() override { number = after; }
-
-private:
-    int& number;
-    int before;
-    int after = 0;
-};
 
 class nbUndoServiceTest : public testing::Test
 {
@@ -115,43 +87,16 @@ TEST_F(nbUndoServiceTest, NothingRecordedAndNothingChangedLeaveNoStep)
     EXPECT_EQ(5.f, place());
 }
 
-TEST_F(nbUndoServiceTest, RecordsOfOthersAreTakenBackTogetherWithTransforms)
-{
-    int number = 1;
-    {
-        const nbScopedUndo scope("Number");
-        undo->record(std::make_unique<NumberRecord>(number));
-        number = 7;
-        moveTo(1.f);
-    }
-    undo->undo();
-    EXPECT_EQ(1, number);
-    EXPECT_EQ(0.f, place());
-    undo->redo();
-    EXPECT_EQ(7, number);
-    EXPECT_EQ(1.f, place());
-
-    undo->record(std::make_unique<NumberRecord>(number));
-    EXPECT_EQ(1, undo->getStack()->count());
-}
-
 // == Groups
 
 TEST_F(nbUndoServiceTest, CancellingTakesBackWithoutRedo)
 {
-    int number = 1;
     undo->beginGroup();
-    {
-        const nbScopedUndo scope(true);
-        undo->record(std::make_unique<NumberRecord>(number));
-        number = 2;
-    }
     moveTo(1.f);
     moveTo(2.f);
     undo->cancelGroup();
 
     EXPECT_EQ(0.f, place());
-    EXPECT_EQ(1, number);
     EXPECT_FALSE(undo->redo());
     EXPECT_FALSE(undo->undo());
 }

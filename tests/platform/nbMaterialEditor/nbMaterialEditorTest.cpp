@@ -5,10 +5,7 @@
 #include <nbMaterialEditor/nbMaterialPreview.h>
 #include <nbOpenSGUtils/nbEdit.h>
 
-#include <OpenSG/OSGGroup.h>
-
 #include <cmath>
-#include <functional>
 
 using namespace editortest;
 
@@ -244,20 +241,6 @@ TEST_F(nbMaterialEditorTest, SettingsAreEditedWithUndo)
     EXPECT_FALSE(settings->getAsMask() || settings->getInvert());
     EXPECT_TRUE(material->getImage(kDiffuse) == image.get());
     expectNear(projection()->getScale(), { 1.f, 1.f, 1.f }, "as at the start");
-}
-
-TEST_F(nbMaterialEditorTest, TheNewestEditorOfANameReceives)
-{
-    editor = std::make_unique<nbMaterialEditor>("label");
-    editor->setMaterial(material.get(), object, kDiffuse);
-    change({ { "scale", osg::Vec3f(2.f, 2.f, 2.f) } });
-    EXPECT_EQ(projection()->getScale().x(), 2.f);
-
-    editor.reset();
-    EXPECT_FALSE(nbController::hasReceiver("label::changedPlanarManipulator"));
-    EXPECT_FALSE(nbController::hasReceiver("label::placeTexture"));
-    EXPECT_FALSE(nbController::hasReceiver("label::getScaleValues"));
-    EXPECT_FALSE(nbController::hasReceiver("setMatRenderEnabled"));
 }
 
 // == The preview

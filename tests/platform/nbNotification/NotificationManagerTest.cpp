@@ -10,7 +10,6 @@
 
 #include <gtest/gtest.h>
 
-#include <limits>
 #include <memory>
 #include <stdexcept>
 

@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <string>
 
 namespace {
 
@@ -53,19 +52,6 @@ TEST(Transform3D, MatrixTakesItsPartsInOrder)
     // From the rotate pivot (1,1,4): the orientation turns first, (1,-4,1), then the rotation,
     // (4,1,1).
     expectImage(transform->getMatrix(), osg::Pnt3f(1.f, 1.f, 1.f), osg::Pnt3f(6.f, 3.f, 4.f));
-}
-
-TEST(Transform3D, MatrixFollowsOnlyWhenAnEditOfAPartEnds)
-{
-    const osg::Transform3DRefPtr transform = makeTransform();
-    const osg::Pnt3f origin(0.f, 0.f, 0.f);
-
-    osg::beginEditCP(transform.get(), osg::Transform3D::TranslationFieldMask);
-    transform->setTranslation(osg::Vec3f(5.f, 0.f, 0.f));
-    expectImage(transform->getMatrix(), origin, origin);
-    osg::endEditCP(transform.get(), osg::Transform3D::TranslationFieldMask);
-
-    expectImage(transform->getMatrix(), origin, osg::Pnt3f(5.f, 0.f, 0.f));
 }
 
 TEST(Transform3D, RotationModesShareOneRotation)

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include <nbOpenSGRenderAction/Mesh.h>
-#include <nbOpenSGUtils/nbGeoFactory.h>
 
 #include <OpenSG/OSGRefPtr.h>
 #include <OpenSG/OSGSimpleGeometry.h>
@@ -34,35 +33,6 @@ osg::GeometryPtr parabola(GLenum kind, osg::UInt32 count)
 }
 
 }  // namespace
-
-TEST(nbMesh, EveryKindOfPrimitiveIsResolved)
-{
-    struct Row
-    {
-        GLenum kind;
-        osg::UInt32 count;
-        std::size_t triangles;
-        std::size_t lines;
-        std::size_t points;
-    };
-
-    const Row rows[] = {
-        { GL_TRIANGLES, 6, 2, 0, 0 },    { GL_TRIANGLE_STRIP, 6, 4, 0, 0 },
-        { GL_TRIANGLE_FAN, 6, 4, 0, 0 }, { GL_QUADS, 8, 4, 0, 0 },
-        { GL_QUAD_STRIP, 6, 4, 0, 0 },   { GL_POLYGON, 5, 3, 0, 0 },
-        { GL_LINES, 4, 0, 2, 0 },        { GL_LINE_STRIP, 4, 0, 3, 0 },
-        { GL_LINE_LOOP, 4, 0, 4, 0 },    { GL_POINTS, 4, 0, 0, 4 },
-    };
-    for (const Row& row : rows) {
-        const osg::GeometryRefPtr geometry(parabola(row.kind, row.count));
-
-        const Mesh mesh = buildMesh(geometry);
-
-        EXPECT_EQ(mesh.triangles.size(), 3 * row.triangles) << row.kind;
-        EXPECT_EQ(mesh.lines.size(), 2 * row.lines) << row.kind;
-        EXPECT_EQ(mesh.points.size(), row.points) << row.kind;
-    }
-}
 
 TEST(nbMesh, CornersWithTheSameSourcesShareAVertex)
 {

@@ -3,9 +3,6 @@
 // bit, whatever was changed before.
 #include "tests/platform/support/Showcase.h"
 
-#include <nbKernel/nbOSGWidget.h>
-#include <nbMagnifier/nbMagnifierRenderer.h>
-
 #include <functional>
 #include <random>
 
@@ -61,28 +58,19 @@ protected:
         set(plainView->getAction());
     }
 
-    /// Where two pictures differ; empty if they do not.
-    static std::string difference(const QImage& found, const QImage& expected)
+    /// How many pixels differ; -1 without two pictures of one size.
+    static int difference(const QImage& found, const QImage& expected)
     {
-        if (found == expected && !found.isNull()) {
-            return {};
-        }
         if (found.isNull() || found.size() != expected.size()) {
-            return "no picture";
+            return -1;
         }
         int count = 0;
-        QRect box;
         for (int y = 0; y < found.height(); ++y) {
             for (int x = 0; x < found.width(); ++x) {
-                if (found.pixel(x, y) != expected.pixel(x, y)) {
-                    ++count;
-                    box |= QRect(x, y, 1, 1);
-                }
+                count += found.pixel(x, y) != expected.pixel(x, y) ? 1 : 0;
             }
         }
-        return std::to_string(count) + " pixels from " + std::to_string(box.left()) + ", " +
-            std::to_string(box.top()) + " to " + std::to_string(box.right()) + ", " +
-            std::to_string(box.bottom());
+        return count;
     }
 
     /// Draws in both views, which must be alike in colours and effects.
@@ -90,8 +78,8 @@ protected:
     {
         const QImage kept = view->render(viewport.get(), widthPx, kSize);
         const QImage full = plainView->render(viewport.get(), widthPx, kSize);
-        EXPECT_EQ(difference(kept, full), "") << after;
-        EXPECT_EQ(difference(view->readEffect(), plainView->readEffect()), "") << after;
+        EXPECT_EQ(difference(kept, full), 0) << after;
+        EXPECT_EQ(difference(view->readEffect(), plainView->readEffect()), 0) << after;
         EXPECT_EQ(plainView->getAction().getStatistics().reused, 0U);
         return kept;
     }
@@ -152,10 +140,7 @@ std::vector<KeptPictureTest::Change> KeptPictureTest::handleChanges()
 {
     return {
         { "highlight", [this] { setDiffuse(materialOf(show.handle), nextColor()); } },
-        { "highlight of a blended handle",
-          [this] { setDiffuse(materialOf(show.veilHandle), nextColor()); } },
         { "handle moved", [this] { turn(show.handle, 0.1f); } },
-        { "line moved", [this] { turn(show.lineHandle, -0.1f); } },
         { "handle hidden or shown",
           [this] {
               const nbEdit edit(show.lineHandle, osg::Node::TravMaskFieldMask);
@@ -180,7 +165,6 @@ std::vector<KeptPictureTest::Change> KeptPictureTest::materialChanges()
 {
     return {
         { "colour of an object", [this] { setDiffuse(materialOf(show.ball), nextColor()); } },
-        { "colour of glass", [this] { setDiffuse(materialOf(show.glass), nextColor()); } },
         { "item that is drawn late", [this] { setDiffuse(materialOf(show.late), nextColor()); } },
         { "image of a texture",
           [this] {
@@ -368,58 +352,15 @@ TEST_F(KeptPictureTest, EffectBufferSamplesAndOtherViewportsChangeNothing)
     }
 }
 
-TEST_F(KeptPictureTest, MagnifierShowsTheFinishedPicture)
-{
-    const nbOSGWidget widget;
-    viewport = widget.getUberViewport();
-    setViewport([this](const osg::UberViewportPtr& port) { port->setRoot(show.root.get()); });
-    widget.getUberCamera()->setFromAtUp(osg::Pnt3f(2.f, 3.f, 6.f), osg::Pnt3f(0.f, 0.f, 0.f),
-                                        osg::Vec3f(0.f, 1.f, 0.f));
-    nbMagnifierRenderer::setCursorPosition(100, 90);
-    for (const bool hasPhotograph : { false, true }) {
-        settle();
-        nbMagnifierRenderer::setVisible(true);
-        for (int i = 0; i < 3; ++i) {
-            setDiffuse(materialOf(show.handle), nextColor());
-            compare("highlight below the magnifier");
-        }
-        nbMagnifierRenderer::setVisible(false);
-        compare("without the magnifier");
-        setDiffuse(materialOf(show.handle), nextColor());
-        compare("highlight");
-        if (!hasPhotograph) {
-            setViewport([](const osg::UberViewportPtr& port) {
-                port->setPhotograph(nbImageConvert::toImage(colorQuarters()));
-            });
-        }
-    }
-}
-
 TEST_F(KeptPictureTest, EverythingIsMadeAnewInANewContext)
 {
     const QImage before = settle();
     view->close();
-    EXPECT_EQ(difference(compare("a new context"), before), "");
+    EXPECT_EQ(difference(compare("a new context"), before), 0);
     setDiffuse(materialOf(show.handle), nextColor());
     compare("highlight in the new context");
     settle();
     EXPECT_GE(reused(), 4U);
-}
-
-TEST_F(KeptPictureTest, ARedrawOfTheSameIsCheapAndCounted)
-{
-    settle();
-    nbRenderAction& action = view->getAction();
-    const nbRenderAction::Statistics before = action.getStatistics();
-    compare("nothing");
-    const nbRenderAction::Statistics after = action.getStatistics();
-    const nbRenderAction::Statistics full = plainView->getAction().getStatistics();
-
-    EXPECT_EQ(after.frames, before.frames + 1);
-    EXPECT_EQ(after.drawn, full.drawn);
-    EXPECT_LT(after.triangles, full.triangles / 10);
-    EXPECT_LT(after.drawCalls, full.drawCalls);
-    EXPECT_GT(after.milliseconds, 0.0);
 }
 
 }  // namespace

@@ -2,9 +2,6 @@
 #include "tests/platform/support/Edited.h"
 #include "tests/platform/support/PictureTest.h"
 
-#include <cstring>
-#include <limits>
-
 using namespace rendertest;
 
 namespace {
@@ -193,24 +190,6 @@ TEST_F(nbRenderPicturesTest, LiesInTheSpaceOfTheNodeThatCarriesTheMaterial)
                  "a group's material");
 }
 
-TEST_F(nbRenderPicturesTest, MovingTheProjectionAloneShowsInTheNextFrame)
-{
-    PictureMaterial picture;
-    picture.setPicture(colorQuarters());
-    draw(wall(picture));
-
-    picture.place({ 1.f, 1.f, 0.f }, { 0.5f, 0.5f, 1.f });
-    expectColors(redraw(), { { 0.75f, 1.25f, kBlue }, { -0.5f, 0.5f, kGrey } }, "moved");
-    picture.setPicture(quarters(kWhite, kWhite, kWhite, kWhite));
-    expectColors(redraw(), { { 0.75f, 1.25f, kWhite } }, "another picture");
-    const osg::ImagePtr image = picture.material->getImage(picture.component);
-    {
-        const nbEdit edit(image, osg::Image::PixelFieldMask);
-        std::memset(image->getData(), 0, image->getSize());
-    }
-    expectColors(redraw(), { { 0.75f, 1.25f, kBlack } }, "an edit of its pixels");
-}
-
 // == How it covers
 
 TEST_F(nbRenderPicturesTest, DiffusePictureCoversByAlphaOrAsAMaskByBrightness)
@@ -335,30 +314,4 @@ TEST_F(nbRenderPicturesTest, ShowsPicturesOfEveryFormat)
         picture.material->setImage(picture.component, image);
         expectColors(draw(wall(picture)), { { 0.f, 0.f, row.shown } }, "format");
     }
-}
-
-TEST_F(nbRenderPicturesTest, MipmapsThatAnImageLacksAreMadeOfTheLastOneItHas)
-{
-    // Level 0 is black; level 1 has stripes that an 8 pixel picture hits in the middle of blue
-    // ones.
-    constexpr int kSide = 64;
-    constexpr int kHalf = kSide / 2;
-    std::vector<osg::UInt8> pixels(3U * kSide * kSide, 0);
-    for (int y = 0; y < kHalf; ++y) {
-        for (int x = 0; x < kHalf; ++x) {
-            const bool blue = x % 4 == 1 || x % 4 == 2;
-            const osg::UInt8 stripe[] = { 0, osg::UInt8(blue ? 0 : 255),
-                                          osg::UInt8(blue ? 255 : 0) };
-            pixels.insert(pixels.end(), std::begin(stripe), std::end(stripe));
-        }
-    }
-    const osg::ImagePtr image = osg::Image::create();
-    ASSERT_TRUE(image->set(osg::Image::OSG_RGB_PF, kSide, kSide, 1, 2, 1, 0.0, pixels.data()));
-    PictureMaterial small;
-    small.material->setImage(small.component, image);
-    small.place({ 0.02f, 0.02f, 0.f }, { 0.08f, 0.08f, 1.f });
-    const QColor shown = at(draw(wall(small)), 0.03f, 0.03f);
-
-    EXPECT_NEAR(shown.green(), 127, 8);
-    EXPECT_NEAR(shown.blue(), 127, 8);
 }

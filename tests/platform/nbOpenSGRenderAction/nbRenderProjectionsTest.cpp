@@ -1,8 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tests/platform/support/Edited.h"
 #include "tests/platform/support/PictureTest.h"
-
-#include <limits>
 
 using namespace rendertest;
 
@@ -11,8 +8,6 @@ namespace {
 using Settings = osg::ColorComponentSettings;
 
 constexpr float kPi = 3.14159265f;
-constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
-constexpr float kInfinity = std::numeric_limits<float>::infinity();
 
 /// A square wall or a box with a projection of a kind.
 class nbRenderProjectionsTest : public RenderTest
@@ -250,21 +245,6 @@ TEST_F(nbRenderProjectionsTest, UvPictureMovesWithTheOffsetTurnsClockwiseAndRepe
     });
     expectColors(redraw(), { { -1.f, 1.5f, kRed }, { -1.f, 0.5f, kGreen }, { 1.f, -0.5f, kBlue } },
                  "what repeats is turned");
-}
-
-TEST_F(nbRenderProjectionsTest, UvPictureNeedsTextureCoordinates)
-{
-    setKind(Settings::UVProjection);
-    const osg::NodePtr plane = colored(osg::makePlane(2.f, 2.f, 1, 1), picture.material.get());
-    const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(plane->getCore());
-    expectColors(
-        draw(transformed(plane, { 0.5f, 0.f, 0.f }, { 0.f, 0.f, 90.f }, { 1.5f, 1.f, 1.f })),
-        { { 0.f, 0.7f, kYellow }, { 1.f, -0.7f, kRed } }, "goes with the object");
-    nbtest::edited(geometry)->setTexCoords(osg::NullFC);
-    expectColors(redraw(), { { 0.f, 0.7f, kGrey }, { 1.f, -0.7f, kGrey } }, "without");
-    edit([](Settings& s) { s.setTextureProjectionType(Settings::TriplanarProjection); });
-    setTriplanarSize(2.f);
-    expectColors(redraw(), { { 0.f, 0.7f, kRed } }, "other projections do not need them");
 }
 
 // == Tire

@@ -15,7 +15,6 @@ using platetest::PlatePx;
 namespace {
 
 const osg::Color4f kRed4(1.f, 0.f, 0.f, 1.f);
-const osg::Color4f kGreen4(0.f, 1.f, 0.f, 1.f);
 const osg::Color4f kBlue4(0.f, 0.f, 1.f, 1.f);
 
 /// Pixels of one colour.
@@ -52,10 +51,9 @@ void setImage(const osg::SceneplatePtr& plate, const QImage& picture)
 class nbSceneplatePainterTest : public RenderTest
 {
 protected:
-    static osg::NodePtr front(const PlatePx& place, const osg::Color4f& color, int order = 0)
+    static osg::NodePtr front(const PlatePx& place, const osg::Color4f& color)
     {
-        return makePlate(place, kSize, color,
-                         [order](const osg::SceneplatePtr& plate) { plate->setOrder(order); });
+        return makePlate(place, kSize, color);
     }
 
     static osg::NodePtr back(const PlatePx& place, const osg::Color4f& color)

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/platform/support/Plates.h"
 
-#include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGSceneplate/nbSceneplateLayout.h>
 #include <nbOpenSGSceneplate/nbSceneplateList.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
@@ -12,7 +11,6 @@
 #include <gmock/gmock.h>
 
 #include <cmath>
-#include <limits>
 
 using osg::Pnt2f;
 using osg::Sceneplate;

@@ -34,39 +34,7 @@ protected:
     int number = 0;
     osg::NodeRefPtr a = makeNode();
     osg::NodeRefPtr b = makeNode();
-    osg::NodePtr none = osg::NullFC;
 };
-
-TEST_F(nbSelectionTest, KeepsTheOrderOfSelectingWithoutRepetitions)
-{
-    nbSelection::set({ b.get(), none, a.get(), b.get() });
-    EXPECT_THAT(nbSelection::getNodes(), ElementsAre(b.get(), a.get()));
-    EXPECT_EQ(a.get(), nbSelection::getLast());
-    nbSelection::add(b.get());
-    EXPECT_EQ(a.get(), nbSelection::getLast());
-    nbSelection::toggle(b.get());
-    nbSelection::toggle(b.get());
-    EXPECT_THAT(nbSelection::getNodes(), ElementsAre(a.get(), b.get()));
-    nbSelection::set(none);
-    EXPECT_TRUE(nbSelection::isEmpty());
-    EXPECT_EQ(none, nbSelection::getLast());
-}
-
-TEST_F(nbSelectionTest, OnlyChangesAreTold)
-{
-    nbSelection::set(a.get());
-    EXPECT_EQ(1, changes);
-    nbSelection::set(a.get());
-    nbSelection::add(a.get());
-    nbSelection::add(none);
-    nbSelection::toggle(none);
-    nbSelection::remove(b.get());
-    EXPECT_EQ(1, changes);
-    nbSelection::remove(a.get());
-    EXPECT_EQ(2, changes);
-    nbSelection::clear();
-    EXPECT_EQ(2, changes);
-}
 
 TEST_F(nbSelectionTest, DestroyedNodeReadsAsGoneAndIsNotKeptAlive)
 {

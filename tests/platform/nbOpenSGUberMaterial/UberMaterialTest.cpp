@@ -1,18 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include <nbOpenSGUberMaterial/UberMaterial.h>
 
-#include <OpenSG/OSGChangeCount.h>
-#include <OpenSG/OSGContainerCloner.h>
 #include <OpenSG/OSGFieldContainerFactory.h>
 
 #include <gtest/gtest.h>
 
-#include <string>
-#include <vector>
-
 namespace {
-
-using Names = std::vector<std::string>;
 
 class UberMaterialTest : public testing::Test
 {
@@ -28,28 +21,6 @@ protected:
 };
 
 }  // namespace
-
-TEST_F(UberMaterialTest, ComponentsGoByNameAndLastAsLongAsTheyHoldSomething)
-{
-    const osg::ColorComponentSettingsRefPtr settings(osg::ColorComponentSettings::create());
-    const osg::RefPtr<osg::ImagePtr> image(makeImage(osg::Image::OSG_RGB_PF));
-    EXPECT_TRUE(material->getComponentNames().empty());
-
-    material->setImage("diffuse", image.get());
-    material->setComponentSettings("bump", settings.get());
-    material->setComponentSettings("diffuse", settings.get());
-
-    EXPECT_EQ(material->getComponentNames(), (Names { "diffuse", "bump" }));
-    EXPECT_TRUE(material->getImage("diffuse") == image.get());
-    EXPECT_TRUE(material->getComponentSettings("diffuse") == settings.get());
-    EXPECT_TRUE(material->getImage("bump") == osg::NullFC);
-    EXPECT_TRUE(material->getComponentSettings("Diffuse") == osg::NullFC);
-    material->setImage("diffuse", osg::NullFC);
-    EXPECT_EQ(material->getComponentNames(), (Names { "diffuse", "bump" }));
-    material->setComponentSettings("diffuse", osg::NullFC);
-    material->setImage("nothing", osg::NullFC);
-    EXPECT_EQ(material->getComponentNames(), (Names { "bump" }));
-}
 
 TEST_F(UberMaterialTest, CountsWhatItHoldsAndGivesItBack)
 {

@@ -1,14 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include <nbOpenSGUtils/nbEulerUtils.h>
 
-#include <OpenSG/OSGMatrix.h>
-
 #include <gtest/gtest.h>
 
 #include <array>
 #include <cmath>
 #include <random>
-#include <string>
 
 namespace {
 
@@ -83,28 +80,7 @@ nbEulerAngles anglesDeg(double x, double y, double z, int order = 0)
     return nbEulerUtils::toRadians({ x, y, z, order });
 }
 
-void expectDegrees(const nbEulerAngles& angles, double x, double y, double z)
-{
-    const nbEulerAngles degrees = nbEulerUtils::toDegrees(angles);
-    EXPECT_NEAR(degrees.x, x, 1e-9);
-    EXPECT_NEAR(degrees.y, y, 1e-9);
-    EXPECT_NEAR(degrees.z, z, 1e-9);
-}
-
 }  // namespace
-
-TEST(nbEulerUtils, OrdersHaveNumbersAndNames)
-{
-    const std::array<std::string, 6> names { "xyz", "yzx", "zxy", "xzy", "yxz", "zyx" };
-    for (int order = 0; order < nbEulerUtils::kOrderCount; ++order) {
-        EXPECT_EQ(names[static_cast<std::size_t>(order)], nbEulerUtils::getStringFromOrder(order));
-        EXPECT_EQ(order, nbEulerUtils::getOrderFromString(names[static_cast<std::size_t>(order)]));
-    }
-    EXPECT_EQ(5, nbEulerUtils::getOrderFromString("ZYX"));
-    for (const char* wrong : { "", "xy", "xyzz", "xxy", "abc" }) {
-        EXPECT_EQ(0, nbEulerUtils::getOrderFromString(wrong)) << wrong;
-    }
-}
 
 TEST(nbEulerUtils, AnglesAndQuaternionsGiveOneMatrixInAllOrders)
 {
@@ -141,24 +117,6 @@ TEST(nbEulerUtils, TheMiddleAngleAtItsEndsLosesNothing)
                 EXPECT_NEAR(near.y, angles.y, 1e-6);
                 EXPECT_NEAR(near.z, angles.z, 1e-6);
             }
-        }
-    }
-}
-
-TEST(nbEulerUtils, SmallStepsGoOnPastTheEndsAndPastWholeTurns)
-{
-    for (int order = 0; order < nbEulerUtils::kOrderCount; ++order) {
-        for (std::size_t axis = 0; axis < 3; ++axis) {
-            std::array<double, 3> step { 0.0, 0.0, 0.0 };
-            step[axis] = 7.0;
-            nbEulerAngles accumulated { 0.0, 0.0, 0.0, order };
-            for (int i = 0; i < 100; ++i) {
-                accumulated =
-                    nbEulerUtils::multiply(anglesDeg(step[0], step[1], step[2]), accumulated);
-            }
-            SCOPED_TRACE(nbEulerUtils::getStringFromOrder(order));
-            expectDegrees(accumulated, step[0] * 100.0, step[1] * 100.0, step[2] * 100.0);
-            EXPECT_EQ(order, accumulated.order);
         }
     }
 }

@@ -3,7 +3,6 @@
 
 #include <nbOpenSGExt/Transform3D.h>
 #include <nbOpenSGUtils/nbEdit.h>
-#include <nbOpenSGUtils/nbGeoFactory.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <OpenSG/OSGComponentTransform.h>
@@ -126,24 +125,6 @@ TEST_F(ConversionTest, ComponentTransformKeepsItsCentreAsPivots)
         EXPECT_EQ(transform->getScalePivot(), osg::Vec3f(4.f, 5.f, 6.f));
         EXPECT_EQ(transform->getTranslation().equals(osg::Vec3f(1.f, 2.f, 3.f), kTolerance), true);
     }
-}
-
-TEST(nbNodeUtils, NamesTheGeometriesBelow)
-{
-    const osg::NodeRefPtr root(osg::makeCoredNode<osg::Group>());
-    const osg::NodePtr transform = osg::makeCoredNode<osg::Transform>();
-    const osg::NodePtr geometry = nbGeoFactory::makeLine(1.f);
-    root->addChild(transform);
-    transform->addChild(geometry);
-
-    nbNodeUtils::setName(root, "handle", true);
-    EXPECT_EQ(nbNodeUtils::getName(root), "handle");
-    EXPECT_EQ(nbNodeUtils::getName(transform), "");
-    EXPECT_EQ(nbNodeUtils::getName(geometry), "handle");
-
-    nbNodeUtils::setName(root, "other", true, transform);
-    EXPECT_EQ(nbNodeUtils::getName(geometry), "other");
-    EXPECT_EQ(nbNodeUtils::getName(transform), "");
 }
 
 TEST(nbNodeUtils, WorldBoundsLeaveAuxiliaryAndInactiveOut)

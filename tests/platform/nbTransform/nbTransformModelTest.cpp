@@ -6,7 +6,6 @@
 #include <nbOpenSGExt/nbEulerRotation.h>
 #include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodePermission.h>
-#include <nbOpenSGUtils/nbNodeUtils.h>
 #include <nbTransform/nbTransformModel.h>
 
 #include <OpenSG/OSGGroup.h>
@@ -15,7 +14,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <cstring>
 #include <limits>
 #include <string>

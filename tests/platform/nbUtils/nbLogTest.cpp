@@ -34,23 +34,6 @@ protected:
 
 }  // namespace
 
-TEST_F(nbLogTest, DropsWhatIsBelowTheLevel)
-{
-    nbLog::debug("a");
-    nbLog::info(std::string("b"));
-    nbLog::setLevel(nbLog::Level::Warning);
-    nbLog::info("c");
-    nbLog::warning(QString::fromUtf8("Gr\xc3\xb6\xc3\x9f"
-                                     "e"));
-    nbLog::error(static_cast<const char*>(nullptr));
-
-    EXPECT_THAT(entries,
-                ElementsAre("info: b",
-                            "warning: Gr\xc3\xb6\xc3\x9f"
-                            "e",
-                            "error: "));
-}
-
 TEST_F(nbLogTest, SinkThatThrowsLosesNothingAndReachesNobody)
 {
     nbLog::setSink([](nbLog::Level, const std::string&) { throw std::runtime_error("full"); });

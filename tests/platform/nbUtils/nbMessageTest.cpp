@@ -27,31 +27,6 @@ TEST(nbMessage, KeepsTheOrderInWhichAttributesWereFirstSet)
     EXPECT_EQ(scale, 3.f);
 }
 
-TEST(nbMessage, KeepsTheFirstValueUnlessToldToOverwrite)
-{
-    nbMessage msg;
-    msg.set("hint", std::string("first"), false);
-    msg.set("hint", std::string("second"), false);
-
-    std::string hint;
-    EXPECT_TRUE(nbMessage::get(msg, "hint", hint));
-    EXPECT_EQ(hint, "first");
-}
-
-TEST(nbMessage, MissingAttributeIsSilentAndLeavesTheValue)
-{
-    nbMessage msg;
-    msg.set("Scale", 1.f, true);
-    float scale = 7.f;
-
-    testing::internal::CaptureStderr();
-    const bool found = nbMessage::get(msg, "scale", scale);
-
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
-    EXPECT_FALSE(found);
-    EXPECT_EQ(scale, 7.f);
-}
-
 TEST(nbMessage, WrongTypeNamesBothTypesAndLeavesTheValue)
 {
     nbMessage msg;
