@@ -92,11 +92,6 @@ InputTranslator::InputTranslator(InteractionManager& interactionManager, nbOSGWi
     , widget(renderWidget)
 { }
 
-void InputTranslator::setWidget(nbOSGWidget* renderWidget)
-{
-    widget = renderWidget;
-}
-
 void InputTranslator::setDevicePixelRatio(double ratio)
 {
     if (ratio > 0.0 && std::isfinite(ratio)) {

@@ -48,8 +48,6 @@ public:
     InputTranslator(const InputTranslator&) = delete;
     InputTranslator& operator=(const InputTranslator&) = delete;
 
-    /// Changes the view's widget; null for whichever is the main one.
-    void setWidget(nbOSGWidget* renderWidget);
     /// Sets the device pixels per logical pixel. @param ratio  > 0, other values are ignored
     void setDevicePixelRatio(double ratio);
     /// The one conversion of positions. @return device pixels, not rounded, y from the top

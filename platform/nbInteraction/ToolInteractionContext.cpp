@@ -13,7 +13,6 @@ ToolInteractionContext::ToolInteractionContext(PreferredPosition position)
 ToolInteractionContext::ToolInteractionContext(const ToolInteractionContext& other)
     : MultimodeInteractionContext(other)
     , picker(other.picker)
-    , toolName(other.toolName)
     , pointerPosition(other.pointerPosition)
 { }
 
@@ -22,7 +21,6 @@ ToolInteractionContext& ToolInteractionContext::operator=(const ToolInteractionC
     if (this != &other) {
         MultimodeInteractionContext::operator=(other);
         picker = other.picker;
-        toolName = other.toolName;
         pointerPosition = other.pointerPosition;
     }
     return *this;
@@ -66,16 +64,6 @@ Picker* ToolInteractionContext::getPicker() const
     return picker;
 }
 
-void ToolInteractionContext::setToolName(const std::string& name)
-{
-    toolName = name;
-}
-
-const std::string& ToolInteractionContext::getToolName() const
-{
-    return toolName;
-}
-
 const osg::Pnt2f& ToolInteractionContext::getPointerPosition() const
 {
     return pointerPosition;
@@ -114,7 +102,7 @@ void ToolInteractionContext::pointerMoved(const osg::Pnt2f& positionPx)
 bool ToolInteractionContext::triggerEvent(InteractionManager* manager,
                                           const InteractionEvent& event)
 {
-    if (toolIsActivated && event.getTool() == toolName && callTool(event)) {
+    if (toolIsActivated && event.getTool() == getToolName() && callTool(event)) {
         return true;
     }
     return MultimodeInteractionContext::triggerEvent(manager, event);

@@ -32,9 +32,8 @@ public:
     void setPicker(Picker* newPicker);
     Picker* getPicker() const;
 
-    /// Sets the tool name of the events that reach the tool, "tool" at first.
-    void setToolName(const std::string& name);
-    const std::string& getToolName() const;
+    /// The tool name of the events that reach the tool: "tool".
+    static const char* getToolName() { return names::kTool; }
 
     /// @return the last pointer position, device pixels, y from the top; (0, 0) at first
     const osg::Pnt2f& getPointerPosition() const;
@@ -64,7 +63,6 @@ private:
 
     AbstractInteractionTool* tool = nullptr;
     Picker* picker = nullptr;
-    std::string toolName = names::kTool;
     osg::Pnt2f pointerPosition { 0.0F, 0.0F };
     bool toolIsActivated = false;
 };

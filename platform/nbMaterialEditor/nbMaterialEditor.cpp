@@ -213,11 +213,6 @@ osg::UberMaterialPtr nbMaterialEditor::getMaterial() const
     return impl->material();
 }
 
-osg::NodePtr nbMaterialEditor::getObject() const
-{
-    return impl->object();
-}
-
 const std::string& nbMaterialEditor::getComponent() const
 {
     return impl->component();

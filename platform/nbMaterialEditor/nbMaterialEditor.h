@@ -70,7 +70,6 @@ public:
                      const std::string& component, nbStateChunkBase* gui = nullptr);
 
     osg::UberMaterialPtr getMaterial() const;
-    osg::NodePtr getObject() const;
     const std::string& getComponent() const;
 
     /// Delivers the values of the material's components, for who reads them by that interface. The

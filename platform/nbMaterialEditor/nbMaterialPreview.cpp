@@ -11,13 +11,12 @@ struct nbMaterialPreview::Impl final : public PreviewMessages
     std::function<void()> callback;
     bool paused = false;
     bool refreshOwed = false;
-    std::size_t pauses = 0;
     std::size_t resumes = 0;
     std::size_t refreshes = 0;
 
     void previewEnabled(bool enabled) override
     {
-        ++(enabled ? resumes : pauses);
+        resumes += enabled ? 1 : 0;
         paused = !enabled;
         if (enabled && std::exchange(refreshOwed, false)) {
             refresh();
@@ -61,11 +60,6 @@ void nbMaterialPreview::refresh()
 bool nbMaterialPreview::isPaused() const
 {
     return impl->paused;
-}
-
-std::size_t nbMaterialPreview::getPauseCount() const
-{
-    return impl->pauses;
 }
 
 std::size_t nbMaterialPreview::getResumeCount() const

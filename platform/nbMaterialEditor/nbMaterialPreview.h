@@ -31,9 +31,8 @@ public:
 
     bool isPaused() const;
 
-    // Numbers of messages since construction, by which a host sees that pauses are ended.
-    std::size_t getPauseCount() const;  ///< "enabled" false
-    std::size_t getResumeCount() const;  ///< "enabled" true
+    // Numbers since construction, by which a host sees that pauses are ended.
+    std::size_t getResumeCount() const;  ///< messages with "enabled" true
     std::size_t getRefreshCount() const;  ///< refreshes that were carried out
 
 private:

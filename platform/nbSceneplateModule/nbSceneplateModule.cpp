@@ -108,11 +108,6 @@ std::vector<osg::NodePtr> nbSceneplateModule::getSelection() const
     return inWorld(selected.getNodes());
 }
 
-bool nbSceneplateModule::isSelected(const osg::NodePtr& node) const
-{
-    return selected.contains(node) && isInWorld(node);
-}
-
 osg::NodePtr nbSceneplateModule::getPreselected() const
 {
     const std::vector<osg::NodePtr> nodes = inWorld(preselected.getNodes());

@@ -47,7 +47,6 @@ public:
 
     /// The selected plates in the world, in the order of selecting.
     std::vector<osg::NodePtr> getSelection() const;
-    bool isSelected(const osg::NodePtr& node) const;
 
     /// The plate under the pointer; null if there is none.
     osg::NodePtr getPreselected() const;

@@ -53,6 +53,30 @@ TEST_F(InteractionManagerTest, AsksHigherPositionsFirstAndAmongEqualsTheLaterAdd
                             "between custom any tool/any hint", "low custom any tool/any hint"));
 }
 
+TEST_F(InteractionManagerTest, RaisedContextsComeFirstTheLatestBeforeTheOthers)
+{
+    RecordingContext top(log, "top", Overlay);
+    RecordingContext first(log, "first", Tool);
+    RecordingContext second(log, "second", Camera);
+    for (RecordingContext* context : { &top, &first, &second }) {
+        add(*context);
+    }
+
+    manager.raise(&first);
+    manager.raise(&second);
+    EXPECT_THAT(manager.getContexts(), ElementsAre(&second, &first, &top));
+    EXPECT_TRUE(first.isRaised());
+
+    manager.lower(&second);
+    EXPECT_THAT(manager.getContexts(), ElementsAre(&first, &top, &second));
+    EXPECT_FALSE(second.isRaised());
+
+    manager.removeContext(&first);
+    EXPECT_FALSE(first.isRaised());
+    manager.addContext(&first);
+    EXPECT_THAT(manager.getContexts(), ElementsAre(&top, &first, &second));
+}
+
 TEST_F(InteractionManagerTest, TakerEndsTheDeliveryAndDisabledContextsAreLeftOut)
 {
     RecordingContext upper(log, "upper", Manipulator, { "trigger" });

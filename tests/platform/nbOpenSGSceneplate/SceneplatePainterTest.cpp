@@ -200,7 +200,8 @@ TEST_F(nbSceneplatePainterTest, ThePickerHitsExactlyWhatIsDrawn)
     QImage ring(64, 64, QImage::Format_ARGB32);
     for (int y = 0; y < 64; ++y) {
         for (int x = 0; x < 64; ++x) {
-            const bool isSolid = std::abs(std::hypot(x - 31.5, y - 31.5) - 24.0) < 7.0;
+            // Open below, so that it matters which way up it is.
+            const bool isSolid = y < 40 && std::abs(std::hypot(x - 31.5, y - 31.5) - 24.0) < 7.0;
             ring.setPixelColor(x, y, isSolid ? Qt::white : Qt::transparent);
         }
     }
@@ -231,5 +232,7 @@ TEST_F(nbSceneplatePainterTest, ThePickerHitsExactlyWhatIsDrawn)
         }
     }
     EXPECT_EQ(differences, 0);
+    EXPECT_NE(picture.pixelColor(60, 150 - 24), QColor(kBlack));
+    EXPECT_EQ(picture.pixelColor(60, 150 + 24), QColor(kBlack));
     nbScenegraph::clear();
 }
