@@ -88,9 +88,9 @@ public:
     /// Limited to the range above; not finite is ignored.
     void setMagnifyFactor(float factor) const;
 
-    /// Sets whether the lines keep their place relative to the middle of the view, where the photograph
-    /// and the view axis are, when the view gets another shape; at the start they keep it relative
-    /// to the lower left corner. Property "anchoredToCentre".
+    /// Sets whether the lines keep their place relative to the middle of the view, where the
+    /// photograph and the view axis are, when the view gets another shape; at the start they keep
+    /// it relative to the lower left corner. Property "anchoredToCentre".
     void setAnchoredToCentre(bool anchored) const;
 
 private:

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <nbOpenSGUtils/nbTransformMath.h>
 #include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbEditRecorder.h>
+#include <nbOpenSGUtils/nbTransformMath.h>
 #include <nbOpenSGUtils/nbTransformState.h>
 
 #include "nbNodeUtils.h"

@@ -123,6 +123,31 @@ TEST_F(nbRenderMaterialsTest, ShaderChunkDrawsWithItsParameters)
     EXPECT_EQ(at(view->readEffect(), 0.f, 0.f).alpha(), 0);
 }
 
+TEST_F(nbRenderMaterialsTest, ParametersThatAreArraysReachTheProgramWhole)
+{
+    const osg::SHLChunkPtr chunk =
+        programOf("uniform bool flags[2]; uniform int picks[2]; uniform float weights[2];\n"
+                  "uniform vec2 places[2]; uniform vec3 axes[2]; uniform vec4 colors[3];\n"
+                  "uniform mat4 turns[2];\n",
+                  "flags[1] ? turns[1] * vec4(weights[1], places[1].y, axes[1].z, "
+                  "colors[picks[1]].w) : vec4(1.0)");
+    osg::MFMatrix turns(2);
+    turns[0].setScale(0.f);
+    chunk->setUniformParameter("flags", osg::MFBool { false, true });
+    chunk->setUniformParameter("picks", osg::MFInt32 { 0, 2 });
+    chunk->setUniformParameter("weights", osg::MFReal32 { 1.f, 0.f });
+    chunk->setUniformParameter("places", osg::MFVec2f { osg::Vec2f(1.f, 1.f), osg::Vec2f() });
+    chunk->setUniformParameter("axes", osg::MFVec3f { osg::Vec3f(), osg::Vec3f(0.f, 0.f, 1.f) });
+    chunk->setUniformParameter(
+        "colors", osg::MFVec4f { osg::Vec4f(), osg::Vec4f(), osg::Vec4f(0.f, 0.f, 0.f, 1.f) });
+    chunk->setUniformParameter("turns", turns);
+
+    const QImage picture =
+        draw(group({ manipulator({ square(1.f, with(osg::ChunkMaterial::create(), chunk)) }) }));
+
+    EXPECT_EQ(at(picture, 0.f, 0.f), kBlue);
+}
+
 TEST_F(nbRenderMaterialsTest, BrokenShaderCostsOneLineAndIsDrawnInPlainColor)
 {
     const nbtest::LogLines log;

@@ -21,18 +21,6 @@ TEST(nbPlatform, NumbersHaveAPointInEveryLocale)
     std::setlocale(LC_NUMERIC, before.c_str());
 }
 
-TEST(nbPlatform, RefusesWhatIsNotOneFiniteNumber)
-{
-    for (const char* const text : { "", "1,5", "1.5x", "1 2", "nan", "1e999", "0x10" }) {
-        double value = 42.0;
-        EXPECT_FALSE(nbPlatform::textToNumber(text, value)) << '"' << text << '"';
-        EXPECT_EQ(value, 42.0) << '"' << text << '"';
-    }
-    double value = 0.0;
-    EXPECT_TRUE(nbPlatform::textToNumber(" \t+1.5e2\n", value));
-    EXPECT_EQ(value, 150.0);
-}
-
 TEST(nbUtils, DecipheringGivesEveryTextBack)
 {
     std::string bytes;
