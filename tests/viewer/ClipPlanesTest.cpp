@@ -22,8 +22,8 @@ protected:
     /// Distance from the eye of what is seen in the middle of the view; 0 for nothing.
     float depthInTheMiddle()
     {
-        return picker.pickAt({ 400.F, 300.F }) == osg::NullFC
-            ? 0.F
+        return picker.pickAt({ 400.0F, 300.0F }) == osg::NullFC
+            ? 0.0F
             : (picker.getHitPoint() - stage.pose().from).length();
     }
 
@@ -33,7 +33,7 @@ protected:
         const osg::NodePtr node = findObject(nbScenegraph::getRootNode(), name);
         if (node != osg::NullFC) {
             osg::Pnt3f place;
-            node->getToWorld().multMatrixPnt(osg::Pnt3f(0.F, 0.F, 0.F), place);
+            node->getToWorld().multMatrixPnt(osg::Pnt3f(0.0F, 0.0F, 0.0F), place);
             translation = place.subZero();
         }
         return translation;
@@ -46,7 +46,7 @@ TEST_F(ClipPlanes, TheHalfTowardsTheEyeGoesAndEverythingStaysInItsPlace)
 {
     const osg::Vec3f place = originOf(kStartSceneMainObject);
     const float depth = depthInTheMiddle();
-    ASSERT_GT(depth, 0.F);
+    ASSERT_GT(depth, 0.0F);
 
     ASSERT_TRUE(run("scene.addClipPlane"));
 

@@ -111,7 +111,7 @@ TEST_F(StageToolTest, AToolTakesThePlaceOfTheGizmoAndGivesItBack)
     EXPECT_TRUE(stage.showManipulator("recording"));
     EXPECT_EQ(stage.gizmo().shown(), Gizmo::None);
     EXPECT_EQ(stage.manipulatorName(), "recording");
-    EXPECT_EQ(stage.handleAt({ 0.F, 0.F }), "knob");
+    EXPECT_EQ(stage.handleAt({ 0.0F, 0.0F }), "knob");
     stage.setActiveTool(nullptr);
 
     EXPECT_EQ(stage.gizmo().shown(), Gizmo::Scale);
@@ -136,12 +136,12 @@ TEST_F(StageToolTest, AToolHearsOfSelectionViewAndEndOfTheScene)
 
 TEST_F(StageToolTest, PicturesAreOfferedAndARefusalIsToldInOneLine)
 {
-    EXPECT_TRUE(stage.takePicture("label.png", { 1.F, 1.F }, error));
-    EXPECT_FALSE(stage.takePicture("broken.png", { 1.F, 1.F }, error));
+    EXPECT_TRUE(stage.takePicture("label.png", { 1.0F, 1.0F }, error));
+    EXPECT_FALSE(stage.takePicture("broken.png", { 1.0F, 1.0F }, error));
     EXPECT_EQ(error, "broken.png: no picture");
     error.clear();
     stage.removeTool(tool);
-    EXPECT_FALSE(stage.takePicture("label.png", { 1.F, 1.F }, error));
+    EXPECT_FALSE(stage.takePicture("label.png", { 1.0F, 1.0F }, error));
     EXPECT_EQ(error, "");
 }
 

@@ -173,16 +173,16 @@ TEST_F(PerspectiveMatchToolTest, APhotographIsTakenWhenItIsDroppedAndGoesWithThe
     QImage photograph(30, 20, QImage::Format_RGB32);
     photograph.fill(Qt::gray);
     ASSERT_TRUE(photograph.save(file));
-    EXPECT_FALSE(stage.takePicture(file, osg::Pnt2f(10.F, 10.F), error));
+    EXPECT_FALSE(stage.takePicture(file, osg::Pnt2f(10.0F, 10.0F), error));
     ASSERT_TRUE(run("match.setActive", true));
 
-    EXPECT_TRUE(stage.takePicture(file, osg::Pnt2f(10.F, 10.F), error));
+    EXPECT_TRUE(stage.takePicture(file, osg::Pnt2f(10.0F, 10.0F), error));
     EXPECT_EQ(value("match.photograph"), QJsonValue("street.png"));
     EXPECT_FLOAT_EQ(view.getUberViewport()->getPhotographVeil(),
                     static_cast<float>(PerspectiveMatchTool::kUsualVeil));
     ASSERT_TRUE(run("match.setActive", false));
     EXPECT_EQ(value("match.photograph"), QJsonValue("street.png"));
-    EXPECT_EQ(view.getUberViewport()->getPhotographVeil(), 0.F);
+    EXPECT_EQ(view.getUberViewport()->getPhotographVeil(), 0.0F);
 
     ASSERT_TRUE(run("match.setLinesType", "yz"));
     stage.showStartScene();

@@ -151,7 +151,7 @@ TEST_F(Plates, ADroppedPictureBecomesAPlateThere)
     picture.fill(Qt::green);
     ASSERT_TRUE(picture.save(file));
     const auto drop = [&](const QString& dropped) {
-        emit window.view().filesDropped({ dropped }, { 700.F, 500.F });
+        emit window.view().filesDropped({ dropped }, { 700.0F, 500.0F });
     };
 
     drop(file);

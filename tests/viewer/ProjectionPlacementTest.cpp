@@ -35,24 +35,24 @@ TEST(ProjectionPlacement, ANewPictureLiesUprightOnTheSideThatFacesTheEye)
     // A box of 4 x 2 x 6 about (1, 0, 0).
     const Row rows[] = {
         { "front",
-          { 0.2F, 0.3F, 2.F },
+          { 0.2F, 0.3F, 2.0F },
           { 0, 1, -0.2F },
           { 1, 0, 3 },
           { 0, 1, 0 },
-          { .5F, .5F, 3 } },
-        { "back", { 0, 0, -1 }, { 0, 1, 0 }, { 1, 0, -3 }, { 0, 1, 0 }, { .5F, .5F, 3 } },
-        { "left", { -3, 1, 1 }, { 0, 1, 0 }, { -1, 0, 0 }, { 0, 1, 0 }, { .5F, .5F, 2 } },
+          { 0.5F, 0.5F, 3 } },
+        { "back", { 0, 0, -1 }, { 0, 1, 0 }, { 1, 0, -3 }, { 0, 1, 0 }, { 0.5F, 0.5F, 3 } },
+        { "left", { -3, 1, 1 }, { 0, 1, 0 }, { -1, 0, 0 }, { 0, 1, 0 }, { 0.5F, 0.5F, 2 } },
         { "above", { 0, 1, 0 }, { 0, 0, -1 }, { 1, 1, 0 }, { 0, 0, -1 }, { 1, 1, 1 } },
-        { "upside down", { 0, 0, 1 }, { 0, -1, 0 }, { 1, 0, 3 }, { 0, -1, 0 }, { .5F, .5F, 3 } },
+        { "upside down", { 0, 0, 1 }, { 0, -1, 0 }, { 1, 0, 3 }, { 0, -1, 0 }, { 0.5F, 0.5F, 3 } },
     };
     osg::BoxVolume box;
     box.setBounds(osg::Pnt3f(-1, -1, -3), osg::Pnt3f(3, 1, 3));
     for (const Row& row : rows) {
-        const ProjectionPose pose = poseOnFront(box, row.toEye, row.up, 1.F, 0.5F);
+        const ProjectionPose pose = poseOnFront(box, row.toEye, row.up, 1.0F, 0.5F);
         expectNear(pose.translation, row.place, row.name);
         expectNear(turned(pose.rotation, { 0, 1, 0 }), row.y, row.name);
         expectNear(pose.scale, row.scale, row.name);
-        EXPECT_GT(turned(pose.rotation, { 0, 0, 1 }).dot(row.toEye), 0.F) << row.name;
+        EXPECT_GT(turned(pose.rotation, { 0, 0, 1 }).dot(row.toEye), 0.0F) << row.name;
     }
 }
 
@@ -61,14 +61,14 @@ TEST(ProjectionPlacement, ANewPictureKeepsItsAspectWithinTheSideAndFlatObjectsGe
     osg::BoxVolume box;
     box.setBounds(osg::Pnt3f(-2, -1, 0), osg::Pnt3f(2, 1, 0));
 
-    const osg::Vec3f wide = poseOnFront(box, { 0, 0, 1 }, { 0, 1, 0 }, 4.F, 1.F).scale;
-    const osg::Vec3f tall = poseOnFront(box, { 0, 0, 1 }, { 0, 1, 0 }, 0.5F, 1.F).scale;
+    const osg::Vec3f wide = poseOnFront(box, { 0, 0, 1 }, { 0, 1, 0 }, 4.0F, 1.0F).scale;
+    const osg::Vec3f tall = poseOnFront(box, { 0, 0, 1 }, { 0, 1, 0 }, 0.5F, 1.0F).scale;
 
-    EXPECT_FLOAT_EQ(wide[0], 2.F);
+    EXPECT_FLOAT_EQ(wide[0], 2.0F);
     EXPECT_FLOAT_EQ(wide[1], 0.5F);
     EXPECT_FLOAT_EQ(tall[0], 0.5F);
-    EXPECT_FLOAT_EQ(tall[1], 1.F);
-    EXPECT_GT(wide[2], 0.F);
+    EXPECT_FLOAT_EQ(tall[1], 1.0F);
+    EXPECT_GT(wide[2], 0.0F);
 }
 
 TEST(ProjectionPlacement, UprightMeansUpAlongTheSurfaceAndFlatOnesTakeTheView)
@@ -82,10 +82,10 @@ TEST(ProjectionPlacement, UprightMeansUpAlongTheSurfaceAndFlatOnesTakeTheView)
         unit.normalize();
         expectNear(turned(rotation, { 0, 0, 1 }), unit, "z");
         const osg::Vec3f y = turned(rotation, { 0, 1, 0 });
-        const bool isFlat = normal[0] == 0.F && normal[2] == 0.F;
+        const bool isFlat = normal[0] == 0.0F && normal[2] == 0.0F;
         expectNear(turned(rotation, { 1, 0, 0 }), y.cross(unit), "x");
-        EXPECT_NEAR(turned(rotation, { 1, 0, 0 }).dot(isFlat ? away : up), 0.F, kTolerance);
-        EXPECT_GT(y.dot(isFlat ? away : up), 0.F);
+        EXPECT_NEAR(turned(rotation, { 1, 0, 0 }).dot(isFlat ? away : up), 0.0F, kTolerance);
+        EXPECT_GT(y.dot(isFlat ? away : up), 0.0F);
     }
 }
 

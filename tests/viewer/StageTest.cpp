@@ -49,7 +49,7 @@ TEST_F(StageWithStartScene, AClickSelectsTheObjectUnderThePointerAndBesideAllNon
     click(vase);
     EXPECT_EQ(stage.selectedName(), "Vase");
 
-    click(osg::Pnt2f(3.F, 3.F));
+    click(osg::Pnt2f(3.0F, 3.0F));
     EXPECT_EQ(stage.selectedName(), "");
 }
 
@@ -60,7 +60,7 @@ TEST_F(StageWithStartScene, TheGizmoFollowsTheSelectionAndGoesWithIt)
     ASSERT_TRUE(stage.selectByName("Pebble"));
     const osg::Pnt2f onPebble = placeOf(SessionTarget::Kind::Handle, "yaShape");
 
-    EXPECT_LT(onVase[0] + 100.F, onPebble[0]);
+    EXPECT_LT(onVase[0] + 100.0F, onPebble[0]);
 
     ASSERT_TRUE(stage.selectByName(""));
     EXPECT_EQ(stage.gizmo().handleAt(onPebble), "");
@@ -99,7 +99,7 @@ TEST_F(StageWithStartScene, CameraCommandsKeepTheSceneInView)
 {
     const auto isKnotInView = [this] {
         const osg::Pnt2f px = placeOf(SessionTarget::Kind::Node, kStartSceneMainObject);
-        return px[0] > 0.F && px[0] < 1200.F && px[1] > 0.F && px[1] < 800.F;
+        return px[0] > 0.0F && px[0] < 1200.0F && px[1] > 0.0F && px[1] < 800.0F;
     };
 
     stage.setOrthographic(true);
@@ -157,8 +157,8 @@ TEST(SceneBuilder, NodesStandWhereTheModelPutsThem)
     EXPECT_EQ(nbNodeUtils::getName(node), "Branch");
     EXPECT_EQ(nbNodeUtils::getName(node->getChild(0)), "Leaf");
     const osg::BoxVolume bounds = nbNodeUtils::getWorldBounds(node);
-    EXPECT_EQ(bounds.getMin(), osg::Pnt3f(5.F, 2.F, 0.F));
-    EXPECT_EQ(bounds.getMax(), osg::Pnt3f(6.F, 3.F, 0.F));
+    EXPECT_EQ(bounds.getMin(), osg::Pnt3f(5.0F, 2.0F, 0.0F));
+    EXPECT_EQ(bounds.getMax(), osg::Pnt3f(6.0F, 3.0F, 0.0F));
 }
 
 }  // namespace

@@ -48,7 +48,7 @@ protected:
             const float length = osg::Vec3f(toWorld[i][0], toWorld[i][1], toWorld[i][2]).length();
             const float offset = (i == 0 ? values.triplanarOffsetU : values.triplanarOffsetV)[2];
             const float repeat = (i == 0 ? values.triplanarRepeatU : values.triplanarRepeatV)[2];
-            found[i] = (place[i] * length / 100.F + offset) * repeat;
+            found[i] = (place[i] * length / 100.0F + offset) * repeat;
         }
         return found;
     }

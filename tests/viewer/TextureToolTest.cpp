@@ -37,10 +37,10 @@ TEST_F(TextureToolTest, ADropPlacesThePictureUprightWhereItFellAsOneStep)
     ASSERT_NE(projection, osg::NullFC);
     EXPECT_TRUE(projection->getTranslation().equals(hit, kTolerance));
     const osg::Vec3f scale = projection->getScale();
-    EXPECT_NEAR(scale[0] / scale[1], 480.F / 360.F, kTolerance);
+    EXPECT_NEAR(scale[0] / scale[1], 480.0F / 360.0F, kTolerance);
     osg::Vec3f across(1, 0, 0);
     projection->getMatrix().multMatrixVec(across);
-    EXPECT_NEAR(across[1], 0.F, kTolerance) << "its lower edge is not level";
+    EXPECT_NEAR(across[1], 0.0F, kTolerance) << "its lower edge is not level";
     EXPECT_EQ(tool.target().material()->getDiffuse(), color);
 
     ASSERT_TRUE(stage.undo());
@@ -55,7 +55,7 @@ TEST_F(TextureToolTest, ADropPlacesThePictureUprightWhereItFellAsOneStep)
 TEST_F(TextureToolTest, ADropBesideEveryObjectIsLeftToOthers)
 {
     QString reason;
-    EXPECT_FALSE(stage.takePicture(kLabel, { 3.F, 3.F }, reason));
+    EXPECT_FALSE(stage.takePicture(kLabel, { 3.0F, 3.0F }, reason));
     EXPECT_EQ(reason, "");
     EXPECT_FALSE(
         run("texture.drop", QJsonObject { { "file", kLabel }, { "at", QJsonArray { 3, 3 } } }));

@@ -41,8 +41,8 @@ osg::Vec3f nearestAxis(const osg::Vec3f& direction)
     for (osg::UInt32 i = 1; i < 3; ++i) {
         longest = std::abs(direction[i]) > std::abs(direction[longest]) ? i : longest;
     }
-    osg::Vec3f axis(0.F, 0.F, 0.F);
-    axis[longest] = direction[longest] < 0.F ? -1.F : 1.F;
+    osg::Vec3f axis(0.0F, 0.0F, 0.0F);
+    axis[longest] = direction[longest] < 0.0F ? -1.0F : 1.0F;
     return axis;
 }
 
@@ -54,7 +54,7 @@ osg::NodePtr makeOutline(float edge)
         { { -0.5F, -0.5F }, { 0.5F, -0.5F }, { 0.5F, 0.5F }, { -0.5F, 0.5F } }
     };
     for (const auto& [x, z] : kCorners) {
-        positions->push_back(osg::Pnt3f(x * edge, 0.F, z * edge));
+        positions->push_back(osg::Pnt3f(x * edge, 0.0F, z * edge));
     }
     const osg::GeoPTypesUI8Ptr types = osg::GeoPTypesUI8::create();
     types->push_back(GL_LINE_LOOP);
@@ -90,10 +90,10 @@ osg::NodePtr makeFrame(const osg::Pnt3f& centre, const osg::Vec3f& keep, float o
     const auto core = osg::Transform3DPtr::dcast(frame->getCore());
     const nbEdit edit(core, osg::FieldBits::AllFields);
     core->setTranslation(centre.subZero());
-    osg::Quaternion turn(osg::Vec3f(0.F, 1.F, 0.F), keep);
-    if (keep[1] < 0.F) {
+    osg::Quaternion turn(osg::Vec3f(0.0F, 1.0F, 0.0F), keep);
+    if (keep[1] < 0.0F) {
         // Half a turn: two opposite directions do not say about what.
-        turn.setValueAsAxisDeg(osg::Vec3f(1.F, 0.F, 0.F), 180.F);
+        turn.setValueAsAxisDeg(osg::Vec3f(1.0F, 0.0F, 0.0F), 180.0F);
     }
     core->setRotation(turn);
     // Angles are what a person reads and types.
@@ -199,7 +199,7 @@ float clipOutlineEdge(const osg::NodePtr& frame)
         hasOutline ? osg::GeometryPtr::dcast(frame->getChild(0)->getCore()) : osg::GeometryPtr();
     const bool hasCorners = outline != osg::NullFC && outline->getPositions() != osg::NullFC &&
         outline->getPositions()->getSize() > 0;
-    return hasCorners ? 2.F * std::abs(outline->getPositions()->getValue(0)[0]) : 0.F;
+    return hasCorners ? 2.0F * std::abs(outline->getPositions()->getValue(0)[0]) : 0.0F;
 }
 
 osg::NodePtr makeClipPlane(const osg::NodePtr& frame)

@@ -199,8 +199,8 @@ bool addColor(Stage& stage, PlatesTool& tool, const QJsonValue& value, QString& 
         return reader.fail(path + QStringLiteral(".color"), QStringLiteral("unknown colour"));
     }
     if (object.contains(QLatin1String("size")) &&
-        (!readPair(object[QLatin1String("size")], size) || !(size.x() > 0.F) ||
-         !(size.y() > 0.F))) {
+        (!readPair(object[QLatin1String("size")], size) || !(size.x() > 0.0F) ||
+         !(size.y() > 0.0F))) {
         return reader.fail(path + QStringLiteral(".size"),
                            QStringLiteral("expected two numbers above 0"));
     }

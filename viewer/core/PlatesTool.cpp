@@ -318,8 +318,9 @@ void PlatesTool::addPicture(NewPlate wanted)
     const nbOSGWidget& view = stage.view();
     const auto width = static_cast<float>(wanted.image->getWidth());
     const auto height = static_cast<float>(wanted.image->getHeight());
-    const float factor = std::min({ 1.F, kLargestPart * static_cast<float>(view.getWidth()) / width,
-                                    kLargestPart * static_cast<float>(view.getHeight()) / height });
+    const float factor =
+        std::min({ 1.0F, kLargestPart * static_cast<float>(view.getWidth()) / width,
+                   kLargestPart * static_cast<float>(view.getHeight()) / height });
     wanted.sizePx = osg::Vec2f(width * factor, height * factor);
     add(wanted);
 }

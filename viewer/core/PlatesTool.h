@@ -27,7 +27,7 @@ class Stage;
 struct NewPlate
 {
     osg::RefPtr<osg::ImagePtr> image;  ///< null: a plate of plain colour
-    osg::Color4f color { 1.F, 1.F, 1.F, 1.F };
+    osg::Color4f color { 1.0F, 1.0F, 1.0F, 1.0F };
     osg::Vec2f sizePx;  ///< in the present view
     std::string name;  ///< a number is added if another plate has it
     bool front = true;

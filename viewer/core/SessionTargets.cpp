@@ -68,7 +68,7 @@ void collectHandle(Stage& stage, const osg::NodePtr& node, const std::string& na
 /// the same.
 void sortFromTheMiddle(std::vector<osg::Pnt2f>& pixels)
 {
-    osg::Vec2f sum(0.F, 0.F);
+    osg::Vec2f sum(0.0F, 0.0F);
     for (const osg::Pnt2f& px : pixels) {
         sum += px.subZero();
     }
@@ -123,7 +123,7 @@ bool resolveNode(const QString& name, Stage& stage, osg::Pnt2f& px, QString& err
 
 bool resolveTarget(const SessionTarget& target, Stage& stage, osg::Pnt2f& px, QString& error)
 {
-    osg::Pnt2f place(0.F, 0.F);
+    osg::Pnt2f place(0.0F, 0.0F);
     switch (target.kind) {
     case SessionTarget::Kind::Pixel:
         break;

@@ -11,7 +11,7 @@ using nbec::manipulator::TriplanarTextureManipulator;
 using nbec::manipulator::UVTextureManipulator;
 using Settings = TextureTarget::Settings;
 
-constexpr float kMostSize = 150.F;
+constexpr float kMostSize = 150.0F;
 constexpr float kLeastUvSize = 0.01F;
 constexpr float kMostUvSize = 0.1F;
 

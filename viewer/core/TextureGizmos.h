@@ -86,8 +86,8 @@ private:
         std::function<void()> place;
         std::function<float()> size;
         std::function<void(float)> setSize;
-        float leastSize = 0.F;
-        float mostSize = 0.F;
+        float leastSize = 0.0F;
+        float mostSize = 0.0F;
     };
 
     static constexpr std::size_t kKinds = 4;

@@ -66,9 +66,9 @@ int main(int argc, char** argv)
         drag(view, manager);
         nbUndoService::the()->endGroup();
         const osg::Vec3f place = nbNodeUtils::getTransformNodeTranslation(box);
-        isMoved = place[0] > 0.5F && place[1] == 0.F && place[2] == 0.F;
+        isMoved = place[0] > 0.5F && place[1] == 0.0F && place[2] == 0.0F;
         isBack = nbUndoService::the()->undo() &&
-            nbNodeUtils::getTransformNodeTranslation(box) == osg::Vec3f(0.F, 0.F, 0.F);
+            nbNodeUtils::getTransformNodeTranslation(box) == osg::Vec3f(0.0F, 0.0F, 0.0F);
         std::cout << "dragged to " << place << '\n';
         manager.removeContext(&context);
         nbUndoService::the()->clear();

@@ -26,7 +26,7 @@ inline osg::Pnt2f placeIn(Stage& stage, SessionTarget::Kind kind, const char* na
     SessionTarget target;
     target.kind = kind;
     target.name = QLatin1String(name);
-    osg::Pnt2f px(-1.F, -1.F);
+    osg::Pnt2f px(-1.0F, -1.0F);
     QString error;
     EXPECT_TRUE(resolveTarget(target, stage, px, error)) << error.toStdString();
     return px;
