@@ -55,11 +55,17 @@ std::optional<int> prepare(const QStringList& arguments, CommandLine& options,
         StartUp::complain(error);
         return StartUp::kBadInputStatus;
     }
-    if (options.helpWanted || options.versionWanted) {
-        std::fputs(options.helpWanted ? qPrintable(viewer::commandLineHelp()) : "nbviewer ",
-                   stdout);
-        std::fputs(options.helpWanted ? "" : viewer::programVersion(), stdout);
-        std::fputs(options.helpWanted ? "" : "\n", stdout);
+    if (options.helpWanted) {
+        // The text takes the program's name from the application.
+        char name[] = "nbviewer";
+        char* names[] = { name, nullptr };
+        int count = 1;
+        const QCoreApplication application(count, names);
+        std::fputs(qPrintable(viewer::commandLineHelp()), stdout);
+        return 0;
+    }
+    if (options.versionWanted) {
+        std::printf("nbviewer %s\n", viewer::programVersion());
         return 0;
     }
     if (!viewer::checkCommandLine(options, error)) {

@@ -33,11 +33,11 @@ TEST(CommandLine, SaysInOneLineWhichArgumentIsWrong)
     };
 
     const Row rows[] = {
-        { { "--frobnicate" }, "unknown option --frobnicate" },
-        { { "--frobnicate=3" }, "unknown option --frobnicate" },
-        { { "-x" }, "unknown option -x" },
-        { { "--session" }, "option --session needs a value" },
-        { { "--screenshot=" }, "option --screenshot needs a value" },
+        { { "--frobnicate=3" }, "unknown option 'frobnicate'" },
+        { { "-x" }, "unknown option 'x'" },
+        { { "--tour=3" }, "after '--tour'" },
+        { { "--session" }, "missing value after '--session'" },
+        { { "--screenshot=" }, "missing value after '--screenshot'" },
         { { "--language", "Elvish" }, "--language Elvish: expected system, en, de, fr, zh_CN" },
         { { "--size", "15x100" }, "--size 15x100" },
         { { "--size", "100x8193" }, "from 16 to 8192" },

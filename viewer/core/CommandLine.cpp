@@ -3,6 +3,7 @@
 
 #include "viewer/core/SceneFile.h"
 
+#include <QCommandLineParser>
 #include <QDir>
 #include <QFileInfo>
 #include <QImageWriter>
@@ -13,6 +14,15 @@
 namespace viewer {
 namespace {
 
+const QString kSession = QStringLiteral("session");
+const QString kTour = QStringLiteral("tour");
+const QString kScreenshot = QStringLiteral("screenshot");
+const QString kOutput = QStringLiteral("output");
+const QString kSize = QStringLiteral("size");
+const QString kLanguage = QStringLiteral("language");
+const QString kHelp = QStringLiteral("help");
+const QString kVersion = QStringLiteral("version");
+
 QString languageNames()
 {
     QStringList names;
@@ -22,24 +32,36 @@ QString languageNames()
     return names.join(QStringLiteral(", "));
 }
 
-/// An option that takes a value, and what becomes of the value.
-struct ValueOption
+void addOptions(QCommandLineParser& parser)
 {
-    const char* name;
-    const char* valueName;
-    bool (*store)(const QString& value, CommandLine& options, QString& error);
-};
-
-template <QString CommandLine::*target>
-bool storeText(const QString& value, CommandLine& options, QString&)
-{
-    options.*target = value;
-    return true;
+    parser.addPositionalArgument(
+        "files", "Models (OBJ, PLY, STL, glTF, GLB, 3DS, ...) and images, or one scene (.nbscene).",
+        "[files...]");
+    parser.addOptions({
+        { kSession, "Replay a session, then quit.", "file.json" },
+        { kTour,
+          "Replay all shipped sessions with captions, then quit; Space pauses, Right goes on to "
+          "the next, Esc quits; with --output without a person, as pictures." },
+        { kScreenshot, "Write a picture of the 3D view, then quit.", "out.png" },
+        { kOutput, "Where the pictures of a session go (default: here).", "folder" },
+        { kSize,
+          QStringLiteral("Size of the 3D view in pixels, each edge from %1 to %2.")
+              .arg(kMinViewEdgePx)
+              .arg(kMaxViewEdgePx),
+          "WxH" },
+        { kLanguage,
+          QStringLiteral("Language of the window: %1 (default: that chosen last; English when the "
+                         "program runs by itself).")
+              .arg(languageNames()),
+          "name" },
+        { { "h", kHelp }, "Print the options." },
+        { kVersion, "Print the version." },
+    });
 }
 
-bool storeSize(const QString& value, CommandLine& options, QString& error)
+bool readSize(const QString& value, CommandLine& options, QString& error)
 {
-    if (!parseSize(value, options.sizePx)) {
+    if (!value.isEmpty() && !parseSize(value, options.sizePx)) {
         error = QStringLiteral("--size %1: expected WIDTHxHEIGHT, each from %2 to %3 pixels")
                     .arg(value)
                     .arg(kMinViewEdgePx)
@@ -49,58 +71,14 @@ bool storeSize(const QString& value, CommandLine& options, QString& error)
     return true;
 }
 
-bool storeLanguage(const QString& value, CommandLine& options, QString& error)
+bool readLanguage(const QString& value, CommandLine& options, QString& error)
 {
     options.language = languageFromName(value);
-    if (!options.language) {
+    if (!value.isEmpty() && !options.language) {
         error = QStringLiteral("--language %1: expected %2").arg(value, languageNames());
-    }
-    return options.language.has_value();
-}
-
-constexpr ValueOption kValueOptions[] = {
-    { "--session", "file.json", &storeText<&CommandLine::session> },
-    { "--screenshot", "out.png", &storeText<&CommandLine::screenshot> },
-    { "--output", "folder", &storeText<&CommandLine::outputFolder> },
-    { "--language", "name", &storeLanguage },
-    { "--size", "WxH", &storeSize },
-};
-
-const ValueOption* findValueOption(const QString& name)
-{
-    for (const ValueOption& option : kValueOptions) {
-        if (name == QLatin1String(option.name)) {
-            return &option;
-        }
-    }
-    return nullptr;
-}
-
-bool store(const ValueOption& option, const QString& value, CommandLine& options, QString& error)
-{
-    if (value.isEmpty()) {
-        error = QStringLiteral("option %1 needs a value: %1 %2")
-                    .arg(QLatin1String(option.name), QLatin1String(option.valueName));
         return false;
     }
-    return option.store(value, options, error);
-}
-
-bool parseFlag(const QString& argument, CommandLine& options)
-{
-    if (argument == QLatin1String("--help") || argument == QLatin1String("-h")) {
-        options.helpWanted = true;
-        return true;
-    }
-    if (argument == QLatin1String("--tour")) {
-        options.tourWanted = true;
-        return true;
-    }
-    if (argument == QLatin1String("--version")) {
-        options.versionWanted = true;
-        return true;
-    }
-    return false;
+    return true;
 }
 
 bool isReadableFile(const QString& path, QString& error)
@@ -158,37 +136,30 @@ bool parseSize(const QString& text, QSize& sizePx)
 
 bool parseCommandLine(const QStringList& arguments, CommandLine& options, QString& error)
 {
-    bool onlyFiles = false;
-    for (int i = 0; i < arguments.size(); ++i) {
-        const QString& argument = arguments.at(i);
-        if (onlyFiles || !argument.startsWith(QLatin1Char('-')) || argument.size() == 1) {
-            options.files.append(argument);
-            continue;
-        }
-        if (argument == QLatin1String("--")) {
-            onlyFiles = true;
-            continue;
-        }
-        if (parseFlag(argument, options)) {
-            continue;
-        }
-        const QString name = argument.section(QLatin1Char('='), 0, 0);
-        const ValueOption* option = findValueOption(name);
-        if (option == nullptr) {
-            error = QStringLiteral("unknown option %1").arg(name);
-            return false;
-        }
-        QString value;
-        if (argument.size() > name.size()) {
-            value = argument.mid(name.size() + 1);
-        } else if (i + 1 < arguments.size()) {
-            value = arguments.at(++i);
-        }
-        if (!store(*option, value, options, error)) {
+    QCommandLineParser parser;
+    addOptions(parser);
+    // A parser takes the first one for the program's name.
+    if (!parser.parse(QStringList { QString() } + arguments)) {
+        error = parser.errorText();
+        error.chop(1);
+        error[0] = error[0].toLower();
+        return false;
+    }
+    for (const QString& name : { kSession, kScreenshot, kOutput, kSize, kLanguage }) {
+        if (parser.isSet(name) && parser.value(name).isEmpty()) {
+            error = QStringLiteral("missing value after '--%1'").arg(name);
             return false;
         }
     }
-    return true;
+    options.files = parser.positionalArguments();
+    options.session = parser.value(kSession);
+    options.screenshot = parser.value(kScreenshot);
+    options.outputFolder = parser.value(kOutput);
+    options.tourWanted = parser.isSet(kTour);
+    options.helpWanted = parser.isSet(kHelp);
+    options.versionWanted = parser.isSet(kVersion);
+    return readSize(parser.value(kSize), options, error) &&
+        readLanguage(parser.value(kLanguage), options, error);
 }
 
 bool checkCommandLine(const CommandLine& options, QString& error)
@@ -216,27 +187,9 @@ bool checkCommandLine(const CommandLine& options, QString& error)
 
 QString commandLineHelp()
 {
-    return QStringLiteral(
-               "usage: nbviewer [files] [options]\n"
-               "  files                    models (OBJ, PLY, STL, glTF, GLB, 3DS, ...) and images "
-               "to open,\n"
-               "                           or one scene (.nbscene)\n"
-               "  --session file.json      replay a session, then quit\n"
-               "  --tour                   replay all shipped sessions with captions, then quit;\n"
-               "                           Space pauses, Right goes on to the next, Esc quits; "
-               "with\n"
-               "                           --output without a person, as pictures\n"
-               "  --screenshot out.png     write a picture of the 3D view, then quit\n"
-               "  --output folder          where the pictures of a session go (default: here)\n"
-               "  --size WxH               size of the 3D view in pixels, each edge from %1 to %2\n"
-               "  --language name          language of the window: %3\n"
-               "                           (default: that chosen last; English when the program "
-               "runs "
-               "by itself)\n"
-               "  --help, --version\n")
-        .arg(kMinViewEdgePx)
-        .arg(kMaxViewEdgePx)
-        .arg(languageNames());
+    QCommandLineParser parser;
+    addOptions(parser);
+    return parser.helpText();
 }
 
 }  // namespace viewer

@@ -21,8 +21,7 @@ struct CommandLine
     QStringList files;  ///< models and images to open, in this order; empty: the start scene
     QString session;  ///< session file to replay; empty: none
     QString screenshot;  ///< picture to write; empty: none
-    QString
-        outputFolder;  ///< where the pictures of a session's checkpoints go; empty: working folder
+    QString outputFolder;  ///< for the pictures of a session's checkpoints; empty: working folder
     std::optional<Language> language;  ///< none: that of the settings; English if nobody is there
     QSize sizePx;  ///< size of the 3D view, device pixels; invalid: the window decides
     bool tourWanted = false;  ///< replay all shipped sessions
@@ -51,7 +50,8 @@ bool checkCommandLine(const CommandLine& options, QString& error);
 /// @return false unless both edges are whole numbers from kMinViewEdgePx to kMaxViewEdgePx
 bool parseSize(const QString& text, QSize& sizePx);
 
-/// Text for --help, several lines.
+/// Text for --help, several lines; the program's name is that of the QCoreApplication, which has to
+/// be there.
 QString commandLineHelp();
 
 }  // namespace viewer
