@@ -30,13 +30,23 @@ function(nb_test name)
     set_property(GLOBAL APPEND PROPERTY NB_TESTS_WITHOUT_WINDOW ${name})
 endfunction()
 
-# One test program that needs OpenGL or a window, as one ctest test: nb_gl_test(name SOURCES ... LIBRARIES ...).
-# Without a display it runs on a virtual X server.
+# One test program that needs OpenGL or a window: nb_gl_test(name [PARTS n] SOURCES ... LIBRARIES ...). It runs on a virtual
+# X server of its own, as one ctest test, or as n that can run at the same time.
 function(nb_gl_test name)
-    cmake_parse_arguments(NB "" "" "SOURCES;LIBRARIES" ${ARGN})
+    cmake_parse_arguments(NB "" "PARTS" "SOURCES;LIBRARIES" ${ARGN})
     add_executable(${name} ${NB_SOURCES})
     nb_warnings(${name})
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
     target_link_libraries(${name} PRIVATE ${NB_LIBRARIES} GTest::gtest GTest::gmock)
-    add_test(NAME ${name} COMMAND ${PROJECT_SOURCE_DIR}/tests/support/with-display.sh $<TARGET_FILE:${name}>)
+    set(command ${PROJECT_SOURCE_DIR}/tests/support/with-display.sh $<TARGET_FILE:${name}>)
+    if(NOT NB_PARTS)
+        add_test(NAME ${name} COMMAND ${command})
+        return()
+    endif()
+    math(EXPR last "${NB_PARTS} - 1")
+    foreach(part RANGE ${last})
+        add_test(NAME ${name}.${part} COMMAND ${command})
+        set_tests_properties(${name}.${part} PROPERTIES
+            ENVIRONMENT "GTEST_TOTAL_SHARDS=${NB_PARTS};GTEST_SHARD_INDEX=${part}" COST 100)
+    endforeach()
 endfunction()
