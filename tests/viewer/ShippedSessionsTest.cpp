@@ -75,16 +75,19 @@ void checkThatTheSceneSurvivesSaving(MainWindow& window)
 {
     QString error;
     Stage& stage = window.view().stage();
+    nbOffscreenView offscreen;
     const auto plainPicture = [&] {
         stage.setActiveTool(nullptr);
         stage.showGizmo(Gizmo::None);
         stage.select(osg::NullFC);
-        return window.view().takePicture(error);
+        stage.update();
+        return offscreen.render(stage.view().getViewport(), 450, 300);
     };
     const QTemporaryDir folder;
     const QString first = folder.filePath("first.nbscene");
     const QString second = folder.filePath("second.nbscene");
     const QImage before = plainPicture();
+    EXPECT_FALSE(before.isNull());
 
     ASSERT_TRUE(stage.commands().run("scene.save", first, error)) << error.toStdString();
     ASSERT_TRUE(stage.commands().run("scene.open", first, error)) << error.toStdString();
