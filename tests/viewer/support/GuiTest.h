@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QEventLoop>
@@ -23,20 +24,32 @@ protected:
         clock.start();
         while (!condition()) {
             ASSERT_LT(clock.elapsed(), kPatienceMs) << "waited in vain";
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
-            QThread::yieldCurrentThread();
+            handleEvents();
         }
     }
 
     /// Handles events until none has come for a while.
     static void waitForQuiet()
     {
-        constexpr qint64 kQuietMs = 150;
+        constexpr qint64 kQuietMs = 80;
+        constexpr qint64 kMostMs = 1000;
         QElapsedTimer clock;
         clock.start();
-        while (clock.elapsed() < kQuietMs) {
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+        for (qint64 last = 0; clock.elapsed() < qMin(last + kQuietMs, kMostMs);) {
+            last = handleEvents() ? clock.elapsed() : last;
         }
+    }
+
+private:
+    /// @return whether there were any; if not, other programs have had a moment
+    static bool handleEvents()
+    {
+        auto* events = QAbstractEventDispatcher::instance();
+        const bool any = events->processEvents(QEventLoop::AllEvents);
+        if (!any) {
+            QThread::msleep(1);
+        }
+        return any;
     }
 };
 
