@@ -35,6 +35,8 @@ protected:
         QObject::connect(&window, &MainWindow::problem,
                          [this](const QString& text) { problems.append(text); });
         QObject::connect(&window, &MainWindow::replayFinished, [this] { ++replays; });
+        // Software draws it: every pixel counts.
+        window.resize(760, 600);
         window.show();
         window.showStartScene();
     }
