@@ -3,8 +3,8 @@
 
 #include "viewer/core/PerspectiveMatchTool.h"
 #include "viewer/core/PlatesTool.h"
+#include "viewer/core/PreparedScene.h"
 #include "viewer/core/SceneCapture.h"
-#include "viewer/core/SceneRestore.h"
 #include "viewer/core/Session.h"
 #include "viewer/core/Shapes.h"
 #include "viewer/core/Stage.h"

@@ -2,7 +2,7 @@
 #include "viewer/core/ClipPlanes.h"
 
 #include "tests/viewer/support/StageTest.h"
-#include "viewer/core/SceneBuilder.h"
+#include "viewer/core/BuiltModel.h"
 #include "viewer/core/StartScene.h"
 
 #include <nbKernel/nbScenegraph.h>

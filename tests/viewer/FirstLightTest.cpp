@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // From a model file and a session to the pixels of the picture, with real events.
 #include "tests/viewer/support/ShownWindow.h"
-#include "viewer/core/SceneBuilder.h"
+#include "viewer/core/BuiltModel.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "viewer/core/SceneFile.h"
-
 #include "tests/viewer/support/SceneEdits.h"
 #include "tests/viewer/support/SceneTest.h"
+#include "viewer/core/BuiltModel.h"
 #include "viewer/core/JsonReader.h"
 #include "viewer/core/JsonWriter.h"
-#include "viewer/core/SceneBuilder.h"
+#include "viewer/core/SceneDocument.h"
 
 #include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbScopedUndo.h>

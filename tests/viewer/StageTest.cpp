@@ -2,8 +2,8 @@
 #include "viewer/core/Stage.h"
 
 #include "tests/viewer/support/StageTest.h"
+#include "viewer/core/BuiltModel.h"
 #include "viewer/core/HandleCursor.h"
-#include "viewer/core/SceneBuilder.h"
 #include "viewer/core/StartScene.h"
 
 #include <nbKernel/nbScenegraph.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "viewer/core/SceneBuilder.h"
+#include "viewer/core/BuiltModel.h"
 
 #include "support/TextureTest.h"
 

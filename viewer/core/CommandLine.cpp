@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/core/CommandLine.h"
 
-#include "viewer/core/SceneFile.h"
+#include "viewer/core/SceneDocument.h"
 
 #include <QCommandLineParser>
 #include <QDir>

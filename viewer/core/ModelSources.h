@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "viewer/core/SceneBuilder.h"
+#include "viewer/core/BuiltModel.h"
 
 #include <OpenSG/OSGConfig.h>
 #include <OpenSG/OSGNode.h>

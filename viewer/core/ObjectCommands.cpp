@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/core/ObjectCommands.h"
 
-#include "viewer/core/SceneBuilder.h"
+#include "viewer/core/BuiltModel.h"
 #include "viewer/core/Stage.h"
 #include "viewer/core/Text.h"
 

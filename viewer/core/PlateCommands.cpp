@@ -3,7 +3,7 @@
 
 #include "viewer/core/JsonReader.h"
 #include "viewer/core/PictureFile.h"
-#include "viewer/core/PlateFields.h"
+#include "viewer/core/PlateField.h"
 #include "viewer/core/PlateText.h"
 #include "viewer/core/PlatesTool.h"
 #include "viewer/core/Stage.h"

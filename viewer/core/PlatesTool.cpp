@@ -2,7 +2,7 @@
 #include "viewer/core/PlatesTool.h"
 
 #include "viewer/core/PlateCommands.h"
-#include "viewer/core/PlateFields.h"
+#include "viewer/core/PlateField.h"
 #include "viewer/core/Stage.h"
 #include "viewer/core/Text.h"
 

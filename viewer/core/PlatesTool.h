@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "viewer/core/PlateContexts.h"
+#include "viewer/core/PlateDragContext.h"
+#include "viewer/core/PlatePickContext.h"
 #include "viewer/core/StageTool.h"
 
 #include <nbInteraction/Picker.h>

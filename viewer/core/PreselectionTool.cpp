@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/core/PreselectionTool.h"
 
-#include "viewer/core/SceneBuilder.h"
+#include "viewer/core/BuiltModel.h"
 
 #include <nbInteraction/Picker.h>
 #include <nbInteraction/ToolInteractionContext.h>

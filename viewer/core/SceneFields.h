@@ -2,8 +2,8 @@
 #pragma once
 
 #include "viewer/core/PerspectiveMatchCommands.h"
-#include "viewer/core/PlateFields.h"
-#include "viewer/core/SceneFile.h"
+#include "viewer/core/PlateField.h"
+#include "viewer/core/SceneDocument.h"
 
 #include <array>
 
@@ -41,27 +41,14 @@ bool describe(Archive& archive, CameraPose& pose)
         archive.field("zUp", pose.zUp, false);
 }
 
-/// Fields of an object that are left out where they have their usual value.
-template <class Archive, class Object>
-struct UsualFields
-{
-    Archive& archive;
-    Object& object;
-    const Object& usual;
-
-    template <class Member>
-    bool operator()(const char* name, Member Object::*member) const
-    {
-        return archive.field(name, object.*member, usual.*member);
-    }
-};
-
 template <class Archive>
 bool describe(Archive& archive, nbTransformState& state)
 {
     using State = nbTransformState;
     static const State kUsual = usualTransform();
-    const UsualFields<Archive, State> field { archive, state, kUsual };
+    const auto field = [&](const char* key, auto State::*member) {
+        return archive.field(key, state.*member, kUsual.*member);
+    };
     return field("translation", &State::translation) && field("rotatePivot", &State::rotatePivot) &&
         field("scalePivot", &State::scalePivot) &&
         archive.words("mode", state.rotationMode, kRotationModes, 0) &&
@@ -83,7 +70,9 @@ bool describe(Archive& archive, nbTextureValues& values)
 {
     using Values = nbTextureValues;
     static const Values kUsual;
-    const UsualFields<Archive, Values> field { archive, values, kUsual };
+    const auto field = [&](const char* key, auto Values::*member) {
+        return archive.field(key, values.*member, kUsual.*member);
+    };
     return field("uvOffset", &Values::offset) && field("uvRepeat", &Values::repeat) &&
         field("uvRotate", &Values::rotate) &&
         field("triplanarRotation", &Values::triplanarRotation) &&

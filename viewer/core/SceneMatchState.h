@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "viewer/core/SceneFile.h"
+#include "viewer/core/SceneDocument.h"
 
 #include <OpenSG/OSGImage.h>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/core/SessionChecks.h"
 
+#include "viewer/core/BuiltModel.h"
 #include "viewer/core/Commands.h"
-#include "viewer/core/SceneBuilder.h"
 #include "viewer/core/Stage.h"
 
 #include <nbKernel/nbScenegraph.h>

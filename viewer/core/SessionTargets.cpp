@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/core/SessionTargets.h"
 
-#include "viewer/core/SceneBuilder.h"
+#include "viewer/core/BuiltModel.h"
 #include "viewer/core/Stage.h"
 #include "viewer/core/StageTool.h"
 

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 
 // NOLINTBEGIN(readability-magic-numbers): the coefficients of curves say nothing by a name.
 namespace viewer {
@@ -15,6 +16,18 @@ constexpr float kTwoPi = 2.0F * kPi;
 constexpr float kDifference = 1e-3F;
 
 using Vec2 = std::array<float, 2>;
+
+/// A point of a curved surface for parameters u and v, each 0 .. 1.
+using SurfaceFunction = std::function<Vec3(float u, float v)>;
+
+/// How finely a surface is cut, and where its ends meet.
+struct SurfaceGrid
+{
+    unsigned uSteps = 1;  ///< pieces along u, > 0
+    unsigned vSteps = 1;  ///< pieces along v, > 0
+    bool uCloses = false;  ///< u = 0 and u = 1 are the same place
+    bool vCloses = false;
+};
 
 Vec3 operator-(const Vec3& a, const Vec3& b)
 {
@@ -112,8 +125,8 @@ std::vector<std::vector<Vec2>> smoothParts(const std::vector<Vec2>& profile)
     return parts;
 }
 
-}  // namespace
-
+/// Appends a surface to a mesh; normals come from differences along u and v and point to the side
+/// from which u to v turns counter-clockwise.
 void addSurface(const SurfaceFunction& surface, const SurfaceGrid& grid, MeshData& mesh)
 {
     const auto first = static_cast<std::uint32_t>(mesh.positions.size());
@@ -135,6 +148,8 @@ void addSurface(const SurfaceFunction& surface, const SurfaceGrid& grid, MeshDat
         }
     }
 }
+
+}  // namespace
 
 MeshData makeLathe(const std::vector<Vec2>& profile, unsigned steps)
 {

@@ -3,30 +3,14 @@
 
 #include "viewer/core/ModelData.h"
 
-#include <functional>
+#include <array>
+#include <vector>
 
 namespace viewer {
 
-/// A point of a curved surface for parameters u and v, each 0 .. 1.
-using SurfaceFunction = std::function<Vec3(float u, float v)>;
-
-/// How finely a surface is cut, and where its ends meet.
-struct SurfaceGrid
-{
-    unsigned uSteps = 1;  ///< pieces along u, > 0
-    unsigned vSteps = 1;  ///< pieces along v, > 0
-    bool uCloses = false;  ///< u = 0 and u = 1 are the same place
-    bool vCloses = false;
-};
-
-/// Appends a surface to a mesh; normals come from differences along u and v and point to the side
-/// from which u to v turns counter-clockwise.
-void addSurface(const SurfaceFunction& surface, const SurfaceGrid& grid, MeshData& mesh);
-
 /// A body turned on a lathe about the y axis.
 /// @param profile  corners (radius, height) from the bottom up on the outside; a smooth curve is
-/// laid through them, and a
-///                 corner given twice stays an edge; radii >= 0
+///                 laid through them, and a corner given twice stays an edge; radii >= 0
 /// @param steps  pieces of the full turn, >= 3
 MeshData makeLathe(const std::vector<std::array<float, 2>>& profile, unsigned steps);
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/core/Stage.h"
 
+#include "viewer/core/BuiltModel.h"
 #include "viewer/core/ClipPlanes.h"
 #include "viewer/core/ObjectCommands.h"
-#include "viewer/core/SceneBuilder.h"
 #include "viewer/core/StageTool.h"
 #include "viewer/core/StartScene.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "viewer/core/ProjectionPlacement.h"
+#include "viewer/core/ProjectionPose.h"
 
 #include <nbMaterialEditor/nbMaterialEditor.h>
 

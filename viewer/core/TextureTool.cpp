@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/core/TextureTool.h"
 
+#include "viewer/core/BuiltModel.h"
 #include "viewer/core/HandleCursor.h"
 #include "viewer/core/PictureFile.h"
-#include "viewer/core/SceneBuilder.h"
 #include "viewer/core/Stage.h"
 #include "viewer/core/Text.h"
 #include "viewer/core/TextureValueText.h"

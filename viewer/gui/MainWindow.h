@@ -3,7 +3,7 @@
 
 #include "viewer/core/GizmoController.h"
 #include "viewer/core/Language.h"
-#include "viewer/core/SceneFile.h"
+#include "viewer/core/SceneDocument.h"
 #include "viewer/core/Session.h"
 #include "viewer/gui/FullScreen.h"
 #include "viewer/gui/ModelLoader.h"

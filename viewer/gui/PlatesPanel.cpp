@@ -2,7 +2,7 @@
 #include "viewer/gui/PlatesPanel.h"
 
 #include "viewer/core/PictureFile.h"
-#include "viewer/core/PlateFields.h"
+#include "viewer/core/PlateField.h"
 #include "viewer/core/PlateText.h"
 #include "viewer/core/Stage.h"
 #include "viewer/gui/ThemeIcon.h"

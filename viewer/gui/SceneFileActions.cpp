@@ -2,8 +2,8 @@
 #include "viewer/gui/SceneFileActions.h"
 
 #include "viewer/core/JsonReader.h"
+#include "viewer/core/PreparedScene.h"
 #include "viewer/core/SceneCapture.h"
-#include "viewer/core/SceneRestore.h"
 #include "viewer/core/Stage.h"
 #include "viewer/gui/ModelLoader.h"
 

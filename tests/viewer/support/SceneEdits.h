@@ -8,6 +8,7 @@
 #include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbScopedUndo.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
+#include <nbOpenSGUtils/nbTransformState.h>
 
 #include <QJsonArray>
 #include <QJsonObject>

@@ -5,8 +5,8 @@
 #include "viewer/core/ModelReader.h"
 #include "viewer/core/PerspectiveMatchTool.h"
 #include "viewer/core/PlatesTool.h"
+#include "viewer/core/PreparedScene.h"
 #include "viewer/core/SceneCapture.h"
-#include "viewer/core/SceneRestore.h"
 #include "viewer/core/TextureCommands.h"
 #include "viewer/core/TextureTool.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "viewer/core/PlateContexts.h"
+#include "viewer/core/PlateDragContext.h"
 
 #include <nbInteraction/EventNames.h>
 #include <nbInteraction/InteractionEvent.h>
@@ -14,17 +14,11 @@ namespace names = nbec::interaction::names;
 using nbec::interaction::DragEnd;
 using nbec::interaction::InteractionEvent;
 using nbec::interaction::InteractionManager;
-using nbec::interaction::ToolInteractionContext;
 
 namespace {
 
 /// Name of the handle that lies over everything within the frame.
 const char* const kBody = "grid";
-
-bool isReleased(const InteractionManager* manager)
-{
-    return manager == nullptr || manager->getDragEnd() == DragEnd::Released;
-}
 
 osg::Pnt2f pointer()
 {
@@ -34,35 +28,6 @@ osg::Pnt2f pointer()
 
 }  // namespace
 
-PlatePickContext::PlatePickContext()
-    : ToolInteractionContext(nbec::interaction::Tool)
-{ }
-
-bool PlatePickContext::triggerEvent(InteractionManager* manager, const InteractionEvent& event)
-{
-    if (event.getTool() != getToolName() || event.getEvent() == names::kStopHover) {
-        return ToolInteractionContext::triggerEvent(manager, event);
-    }
-    if (event.getEvent() == names::kStop) {
-        return stop(manager, event);
-    }
-    ToolInteractionContext::triggerEvent(manager, event);
-    return true;
-}
-
-bool PlatePickContext::stop(InteractionManager* manager, const InteractionEvent& event)
-{
-    if (isReleased(manager)) {
-        ToolInteractionContext::triggerEvent(manager, event);
-    }
-    // Also for hints that mean nothing to the tool.
-    if (nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1); widget != nullptr) {
-        widget->setRectSelection(false);
-        widget->update();
-    }
-    return true;
-}
-
 bool PlateDragContext::triggerEvent(InteractionManager* manager, const InteractionEvent& event)
 {
     const bool isTool = event.getTool() == names::kTool;
@@ -70,8 +35,9 @@ bool PlateDragContext::triggerEvent(InteractionManager* manager, const Interacti
     if (isTool && event.getEvent() == names::kProcess) {
         isClick = isClick && (pointer() - pressPx).length() <= kClickTolerance * pixelRatio;
     }
+    const bool isReleased = manager == nullptr || manager->getDragEnd() == DragEnd::Released;
     const bool isClickOnBody =
-        isStop && isClick && grabbedHandle() == kBody && isReleased(manager) && clickCallback;
+        isStop && isClick && grabbedHandle() == kBody && isReleased && clickCallback;
     const bool answer = DragContext::triggerEvent(manager, event);
     if (isTool && event.getEvent() == names::kStart) {
         pressPx = pointer();

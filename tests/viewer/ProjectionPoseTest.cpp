@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "viewer/core/ProjectionPlacement.h"
+#include "viewer/core/ProjectionPose.h"
 
 #include <gtest/gtest.h>
 
@@ -20,7 +20,7 @@ void expectNear(const osg::Vec3f& found, const osg::Vec3f& expected, const char*
     EXPECT_TRUE(found.equals(expected, kTolerance)) << what << ": " << found;
 }
 
-TEST(ProjectionPlacement, ANewPictureLiesUprightOnTheSideThatFacesTheEye)
+TEST(ProjectionPose, ANewPictureLiesUprightOnTheSideThatFacesTheEye)
 {
     struct Row
     {
@@ -56,7 +56,7 @@ TEST(ProjectionPlacement, ANewPictureLiesUprightOnTheSideThatFacesTheEye)
     }
 }
 
-TEST(ProjectionPlacement, ANewPictureKeepsItsAspectWithinTheSideAndFlatObjectsGetDepth)
+TEST(ProjectionPose, ANewPictureKeepsItsAspectWithinTheSideAndFlatObjectsGetDepth)
 {
     osg::BoxVolume box;
     box.setBounds(osg::Pnt3f(-2, -1, 0), osg::Pnt3f(2, 1, 0));
@@ -71,7 +71,7 @@ TEST(ProjectionPlacement, ANewPictureKeepsItsAspectWithinTheSideAndFlatObjectsGe
     EXPECT_GT(wide[2], 0.0F);
 }
 
-TEST(ProjectionPlacement, UprightMeansUpAlongTheSurfaceAndFlatOnesTakeTheView)
+TEST(ProjectionPose, UprightMeansUpAlongTheSurfaceAndFlatOnesTakeTheView)
 {
     const osg::Vec3f up(0, 1, 0);
     const osg::Vec3f away(0, 0, -1);
@@ -89,7 +89,7 @@ TEST(ProjectionPlacement, UprightMeansUpAlongTheSurfaceAndFlatOnesTakeTheView)
     }
 }
 
-TEST(ProjectionPlacement, ASideAloneTakesTheOtherAlongWhenAspectIsKept)
+TEST(ProjectionPose, ASideAloneTakesTheOtherAlongWhenAspectIsKept)
 {
     const osg::Vec3f before(2, 1, 5);
 

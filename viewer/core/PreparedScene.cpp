@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "viewer/core/SceneRestore.h"
+#include "viewer/core/PreparedScene.h"
 
 #include "viewer/core/ClipPlanes.h"
 #include "viewer/core/JsonReader.h"

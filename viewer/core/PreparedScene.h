@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "viewer/core/BuiltModel.h"
 #include "viewer/core/ModelSources.h"
-#include "viewer/core/SceneBuilder.h"
-#include "viewer/core/SceneFile.h"
+#include "viewer/core/SceneDocument.h"
 
 #include <OpenSG/OSGImage.h>
 #include <OpenSG/OSGNode.h>

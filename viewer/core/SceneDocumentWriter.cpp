@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/core/JsonWriter.h"
+#include "viewer/core/SceneDocument.h"
 #include "viewer/core/SceneFields.h"
-#include "viewer/core/SceneFile.h"
 #include "viewer/core/SceneNumbers.h"
 #include "viewer/core/Text.h"
 #include "viewer/core/TextFile.h"

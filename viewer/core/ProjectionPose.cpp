@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "viewer/core/ProjectionPlacement.h"
+#include "viewer/core/ProjectionPose.h"
 
 #include <OpenSG/OSGMatrix.h>
 

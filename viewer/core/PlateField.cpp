@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "viewer/core/PlateFields.h"
+#include "viewer/core/PlateField.h"
 
 #include <QJsonArray>
 
