@@ -144,6 +144,22 @@ private:
     std::vector<osg::RefPtr<osg::GeometryPtr>> geometries;
 };
 
+void collectSurfaces(const osg::NodePtr& node, std::vector<osg::NodePtr>& objects)
+{
+    if (node == osg::NullFC || nbNodeUtils::isAuxiliaryNode(node)) {
+        return;
+    }
+    if (osg::GeometryPtr::dcast(node->getCore()) != osg::NullFC) {
+        const osg::NodePtr object = objectOf(node);
+        if (std::find(objects.begin(), objects.end(), object) == objects.end()) {
+            objects.push_back(object);
+        }
+    }
+    for (osg::UInt32 i = 0; i < node->getNChildren(); ++i) {
+        collectSurfaces(node->getChild(i), objects);
+    }
+}
+
 }  // namespace
 
 osg::NodePtr buildScene(const ModelData& model)
@@ -177,6 +193,13 @@ osg::NodePtr findObject(const osg::NodePtr& root, const std::string& name)
         }
     }
     return {};
+}
+
+std::vector<osg::NodePtr> objectsWithSurface(const osg::NodePtr& root)
+{
+    std::vector<osg::NodePtr> objects;
+    collectSurfaces(root, objects);
+    return objects;
 }
 
 }  // namespace viewer

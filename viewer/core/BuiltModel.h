@@ -7,6 +7,9 @@
 #include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGRefPtr.h>
 
+#include <string>
+#include <vector>
+
 namespace viewer {
 
 /// Makes scene graph nodes of a model: a node with a Transform core for each node of the model,
@@ -35,5 +38,9 @@ osg::NodePtr objectOf(const osg::NodePtr& node);
 /// First node below a root, in tree order, of a name that objectOf() could return; null if there is
 /// none.
 osg::NodePtr findObject(const osg::NodePtr& root, const std::string& name);
+
+/// The objects from a root on that have geometry of their own, each once: those that a click could
+/// select.
+std::vector<osg::NodePtr> objectsWithSurface(const osg::NodePtr& root);
 
 }  // namespace viewer

@@ -46,6 +46,29 @@ osg::Quaternion rotationOf(const osg::Vec3f& y, const osg::Vec3f& z)
     return osg::Quaternion(turned);
 }
 
+/// A direction of the world in the space of a node.
+osg::Vec3f vectorIn(const osg::NodePtr& node, const osg::Vec3f& world)
+{
+    osg::Matrix nodeFromWorld;
+    node->getToWorld().inverse(nodeFromWorld);
+    osg::Vec3f vector;
+    nodeFromWorld.multMatrixVec(world, vector);
+    return vector;
+}
+
+/// A normal of the world in the space of a node, any length: it goes by the transposed matrix.
+osg::Vec3f normalIn(const osg::NodePtr& node, const osg::Vec3f& world)
+{
+    const osg::Matrix worldFromNode = node->getToWorld();
+    osg::Vec3f normal;
+    for (osg::UInt32 axis = 0; axis < 3; ++axis) {
+        for (osg::UInt32 row = 0; row < 3; ++row) {
+            normal[axis] += worldFromNode[axis][row] * world[row];
+        }
+    }
+    return normal;
+}
+
 }  // namespace
 
 ProjectionPose poseOnFront(const osg::BoxVolume& bounds, const osg::Vec3f& toEye,
@@ -100,6 +123,28 @@ osg::Vec3f scaleKeepingAspect(const osg::Vec3f& before, const osg::Vec3f& wanted
         kept[0] = before[0] * wanted[1] / before[1];
     }
     return kept;
+}
+
+ProjectionPose poseFacingTheEye(const osg::NodePtr& surface, const CameraPose& eye, float aspect,
+                                float share)
+{
+    const nbCameraNavigation::Axes axes = nbCameraNavigation::axes(eye);
+    surface->updateVolume();
+    osg::BoxVolume bounds;
+    osg::Pnt3f low;
+    osg::Pnt3f high;
+    surface->getVolume().getBounds(low, high);
+    bounds.setBounds(low, high);
+    return poseOnFront(bounds, vectorIn(surface, axes.back), vectorIn(surface, axes.up), aspect,
+                       share);
+}
+
+osg::Quaternion uprightOn(const osg::NodePtr& surface, const CameraPose& eye,
+                          const osg::Vec3f& normal)
+{
+    return uprightRotation(normalIn(surface, normal),
+                           vectorIn(surface, nbCameraNavigation::worldUp(eye)),
+                           vectorIn(surface, nbCameraNavigation::axes(eye).up));
 }
 
 }  // namespace viewer

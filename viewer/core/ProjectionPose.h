@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <nbOpenSGUberCamera/nbCameraNavigation.h>
+
 #include <OpenSG/OSGBoxVolume.h>
 #include <OpenSG/OSGConfig.h>
+#include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGQuaternion.h>
 #include <OpenSG/OSGVector.h>
 
@@ -27,12 +30,20 @@ struct ProjectionPose
 ProjectionPose poseOnFront(const osg::BoxVolume& bounds, const osg::Vec3f& toEye,
                            const osg::Vec3f& up, float aspect, float share);
 
+/// The same for the geometry of a node, seen by a camera.
+ProjectionPose poseFacingTheEye(const osg::NodePtr& surface, const CameraPose& eye, float aspect,
+                                float share);
+
 /// Rotation of a projection that lies on a surface and is upright on it.
 /// @param normal  of the surface, any length; z of the projection
 /// @param up      what y of the projection is to point to
 /// @param other   what it points to on a surface that faces up or down
 osg::Quaternion uprightRotation(const osg::Vec3f& normal, const osg::Vec3f& up,
                                 const osg::Vec3f& other);
+
+/// The same for the geometry of a node, seen by a camera. @param normal  world space
+osg::Quaternion uprightOn(const osg::NodePtr& surface, const CameraPose& eye,
+                          const osg::Vec3f& normal);
 
 /// Scale after an edit of which the ratio of x to y is kept: a side that alone has changed takes
 /// the other along.

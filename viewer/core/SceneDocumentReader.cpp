@@ -440,8 +440,7 @@ std::optional<SceneDocument> readSceneFile(const QString& path, QString& error)
         return std::nullopt;
     }
     QString problem;
-    std::optional<SceneDocument> document =
-        parseScene(text, QFileInfo(path).absoluteDir(), problem);
+    auto document = parseScene(text, QFileInfo(path).absoluteDir(), problem);
     if (!document) {
         error = QStringLiteral("%1: %2").arg(path, problem);
     }

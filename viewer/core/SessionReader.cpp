@@ -19,6 +19,11 @@ namespace {
 constexpr double kMostTolerance = 1e9;
 constexpr qint64 kMaxSessionBytes = 64LL * 1024 * 1024;
 
+QString placeOf(const QString& path, const char* key)
+{
+    return path.isEmpty() ? QString(key) : path + '.' + key;
+}
+
 /// Walks the JSON document of a session.
 class Reader : private JsonReader
 {
@@ -33,7 +38,40 @@ private:
     bool readCamera(const QJsonValue& value, SessionCamera& camera);
     bool readStep(const QJsonValue& value, const QString& path, SessionStep& step);
     bool readNamedTarget(const QJsonObject& object, const QString& path, SessionTarget& target);
-    /// Reads a number; one that is not there keeps its value.
+
+    /// Each reads an entry of an object; one that is not there keeps its value.
+    bool take(const QJsonObject& object, const QString& path, const char* key, QString& text)
+    {
+        return !object.contains(key) || readString(object.value(key), placeOf(path, key), text);
+    }
+
+    bool take(const QJsonObject& object, const QString& path, const char* key, bool& flag)
+    {
+        return !object.contains(key) || readBool(object.value(key), placeOf(path, key), flag);
+    }
+
+    template <std::size_t count>
+    bool take(const QJsonObject& object, const QString& path, const char* key,
+              std::array<double, count>& numbers)
+    {
+        return !object.contains(key) ||
+            readNumbers(object.value(key), placeOf(path, key), numbers.data(), count);
+    }
+
+    template <class Value>
+    bool take(const QJsonObject& object, const QString& path, const char* key,
+              std::optional<Value>& value)
+    {
+        return !object.contains(key) || take(object, path, key, value.emplace());
+    }
+
+    bool takeInt(const QJsonObject& object, const QString& path, const char* key, int most,
+                 int& number)
+    {
+        return !object.contains(key) ||
+            readInt(object.value(key), placeOf(path, key), most, number);
+    }
+
     bool readInRange(const QJsonObject& object, const QString& path, const char* key, double least,
                      double most, double& number);
     bool readModifiers(const QJsonValue& value, const QString& path, SessionStep& step);
@@ -41,9 +79,6 @@ private:
                          SessionExpectation& expectation);
     bool readNodeExpectations(const QJsonValue& value, const QString& path,
                               std::vector<SessionNodeExpectation>& nodes);
-    bool readValues(const QJsonObject& object, const QString& path, const char* key,
-                    std::optional<std::array<double, 3>>& values);
-    bool readNameOf(const QJsonObject& object, const QString& path, SessionStep& step);
     bool checkStep(const QJsonObject& object, const QString& path, const SessionStep& step);
 };
 
@@ -76,24 +111,16 @@ bool Reader::readCamera(const QJsonValue& value, SessionCamera& camera)
     if (!checkKeys(object, path, sessionKeys(SessionPart::Camera)) ||
         !readNumbers(object.value("from"), path + ".from", camera.from.data(), 3) ||
         !readNumbers(object.value("at"), path + ".at", camera.at.data(), 3) ||
-        !readNumbers(object.value("up"), path + ".up", camera.up.data(), 3)) {
-        return false;
-    }
-    if (object.contains("pivot")) {
-        camera.pivot.emplace();
-        if (!readNumbers(object.value("pivot"), path + ".pivot", camera.pivot->data(), 3)) {
-            return false;
-        }
-    }
-    if (!readInRange(object, path, "fov", 1.0, kMaxFovDeg, camera.fovDeg)) {
+        !readNumbers(object.value("up"), path + ".up", camera.up.data(), 3) ||
+        !take(object, path, "pivot", camera.pivot) ||
+        !readInRange(object, path, "fov", 1.0, kMaxFovDeg, camera.fovDeg)) {
         return false;
     }
     if (camera.from == camera.at) {
         return fail(path, QStringLiteral("from and at are the same point"));
     }
-    return (!object.contains("orthographic") ||
-            readBool(object.value("orthographic"), path + ".orthographic", camera.orthographic)) &&
-        (!object.contains("zUp") || readBool(object.value("zUp"), path + ".zUp", camera.zUp));
+    return take(object, path, "orthographic", camera.orthographic) &&
+        take(object, path, "zUp", camera.zUp);
 }
 
 bool Reader::readInRange(const QJsonObject& object, const QString& path, const char* key,
@@ -112,14 +139,11 @@ bool Reader::readNamedTarget(const QJsonObject& object, const QString& path, Ses
     if (!checkKeys(object, path, sessionKeys(SessionPart::Target))) {
         return false;
     }
-    const QString key = object.contains("by") ? QStringLiteral("by") : QStringLiteral("offset");
-    if (object.contains(key)) {
-        double offset[2] = { 0.0, 0.0 };
-        if (!readNumbers(object.value(key), path + '.' + key, offset, 2)) {
-            return false;
-        }
-        target.offsetPx = QPointF(offset[0], offset[1]);
+    std::array<double, 2> offset { 0.0, 0.0 };
+    if (!take(object, path, object.contains("by") ? "by" : "offset", offset)) {
+        return false;
     }
+    target.offsetPx = QPointF(offset[0], offset[1]);
     if (object.size() > (object.contains("offset") ? 2 : 1)) {
         return fail(path, QStringLiteral("names more than one place"));
     }
@@ -173,16 +197,6 @@ bool Reader::readModifiers(const QJsonValue& value, const QString& path, Session
     return true;
 }
 
-bool Reader::readValues(const QJsonObject& object, const QString& path, const char* key,
-                        std::optional<std::array<double, 3>>& values)
-{
-    if (!object.contains(QLatin1String(key))) {
-        return true;
-    }
-    values.emplace();
-    return readNumbers(object.value(QLatin1String(key)), path + '.' + key, values->data(), 3);
-}
-
 bool Reader::readNodeExpectations(const QJsonValue& value, const QString& path,
                                   std::vector<SessionNodeExpectation>& nodes)
 {
@@ -196,9 +210,9 @@ bool Reader::readNodeExpectations(const QJsonValue& value, const QString& path,
         SessionNodeExpectation node;
         node.node = name;
         if (!checkKeys(object, nodePath, sessionKeys(SessionPart::NodeExpectation)) ||
-            !readValues(object, nodePath, "translation", node.translation) ||
-            !readValues(object, nodePath, "rotation", node.rotationDeg) ||
-            !readValues(object, nodePath, "scale", node.scale) ||
+            !take(object, nodePath, "translation", node.translation) ||
+            !take(object, nodePath, "rotation", node.rotationDeg) ||
+            !take(object, nodePath, "scale", node.scale) ||
             !readInRange(object, nodePath, "tolerance", 0.0, kMostTolerance, node.tolerance)) {
             return false;
         }
@@ -223,33 +237,15 @@ bool Reader::readExpectation(const QJsonValue& value, const QString& path,
         !readInRange(object, path, "tolerance", 0.0, kMostTolerance, expectation.tolerance)) {
         return false;
     }
-    QString text;
-    if (object.contains("hover")) {
-        if (!readString(object.value("hover"), path + ".hover", text)) {
-            return false;
-        }
-        expectation.hover = text;
+    constexpr int kMostSteps = 100000;
+    if (!take(object, path, "hover", expectation.hover) ||
+        !take(object, path, "selection", expectation.selection) ||
+        !take(object, path, "orthographic", expectation.orthographic)) {
+        return false;
     }
-    if (object.contains("selection")) {
-        if (!readString(object.value("selection"), path + ".selection", text)) {
-            return false;
-        }
-        expectation.selection = text;
-    }
-    bool flag = false;
-    if (object.contains("orthographic")) {
-        if (!readBool(object.value("orthographic"), path + ".orthographic", flag)) {
-            return false;
-        }
-        expectation.orthographic = flag;
-    }
-    if (object.contains("undoSteps")) {
-        constexpr int kMostSteps = 100000;
-        expectation.undoSteps.emplace();
-        if (!readInt(object.value("undoSteps"), path + ".undoSteps", kMostSteps,
-                     *expectation.undoSteps)) {
-            return false;
-        }
+    if (object.contains("undoSteps") &&
+        !takeInt(object, path, "undoSteps", kMostSteps, expectation.undoSteps.emplace())) {
+        return false;
     }
     if (object.contains("values")) {
         if (!object.value("values").isObject()) {
@@ -259,15 +255,6 @@ bool Reader::readExpectation(const QJsonValue& value, const QString& path,
     }
     return !object.contains("nodes") ||
         readNodeExpectations(object.value("nodes"), path + ".nodes", expectation.nodes);
-}
-
-/// Reads what a step of its type is called, by the key that this type has for it.
-bool Reader::readNameOf(const QJsonObject& object, const QString& path, SessionStep& step)
-{
-    const QString key = step.type == SessionStep::Type::Command ? QStringLiteral("command")
-        : step.type == SessionStep::Type::Caption               ? QStringLiteral("title")
-                                                                : QStringLiteral("name");
-    return !object.contains(key) || readString(object.value(key), path + '.' + key, step.name);
 }
 
 /// Demands what a step of its type cannot do without.
@@ -340,20 +327,18 @@ bool Reader::readStep(const QJsonValue& value, const QString& path, SessionStep&
     }
     constexpr int kMaxDelta = 120000;
     constexpr int kMaxPauseMs = 60000;
-    const auto has = [&object](const char* key) { return object.contains(QLatin1String(key)); };
-    return (!has("at") || readTarget(object.value("at"), path + ".at", step.at)) &&
-        (!has("modifiers") ||
+    const char* const nameKey = step.type == SessionStep::Type::Command ? "command"
+        : step.type == SessionStep::Type::Caption                       ? "title"
+                                                                        : "name";
+    return (!object.contains("at") || readTarget(object.value("at"), path + ".at", step.at)) &&
+        (!object.contains("modifiers") ||
          readModifiers(object.value("modifiers"), path + ".modifiers", step)) &&
-        (!has("delta") ||
-         readInt(object.value("delta"), path + ".delta", kMaxDelta, step.wheelDelta)) &&
-        (!has("after") ||
-         readInt(object.value("after"), path + ".after", kMaxPauseMs, step.afterMs)) &&
-        (!has("key") || readString(object.value("key"), path + ".key", step.key)) &&
-        readNameOf(object, path, step) &&
-        (!has("text") || readString(object.value("text"), path + ".text", step.text)) &&
-        (!has("screenshot") ||
-         readBool(object.value("screenshot"), path + ".screenshot", step.screenshot)) &&
-        (!has("expect") ||
+        takeInt(object, path, "delta", kMaxDelta, step.wheelDelta) &&
+        takeInt(object, path, "after", kMaxPauseMs, step.afterMs) &&
+        take(object, path, "key", step.key) && take(object, path, nameKey, step.name) &&
+        take(object, path, "text", step.text) &&
+        take(object, path, "screenshot", step.screenshot) &&
+        (!object.contains("expect") ||
          readExpectation(object.value("expect"), path + ".expect", step.expectation)) &&
         checkStep(object, path, step);
 }
@@ -381,22 +366,12 @@ bool Reader::readSession(const QJsonObject& object, Session& session)
         }
         session.files.append(file);
     }
-    if (object.contains("camera")) {
-        session.camera.emplace();
-        if (!readCamera(object.value("camera"), *session.camera)) {
-            return false;
-        }
+    if (object.contains("camera") &&
+        !readCamera(object.value("camera"), session.camera.emplace())) {
+        return false;
     }
-    if (object.contains("selection")) {
-        session.selection.emplace();
-        if (!readString(object.value("selection"), QStringLiteral("selection"),
-                        *session.selection)) {
-            return false;
-        }
-    }
-    if (object.contains("manipulator") &&
-        !readString(object.value("manipulator"), QStringLiteral("manipulator"),
-                    session.manipulator)) {
+    if (!take(object, {}, "selection", session.selection) ||
+        !take(object, {}, "manipulator", session.manipulator)) {
         return false;
     }
     if (!object.value("steps").isArray()) {

@@ -15,7 +15,6 @@
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <OpenSG/OSGBoxVolume.h>
-#include <OpenSG/OSGGeometry.h>
 
 #include <QtWidgets/QUndoStack>
 
@@ -34,23 +33,6 @@ constexpr float kMarkerWidthPx = 1.5F;
 osg::Pnt3f pointOf(const std::array<float, 3>& p)
 {
     return { p[0], p[1], p[2] };
-}
-
-/// Collects the objects that have geometry of their own: those that a click could select.
-void collectSurfaces(const osg::NodePtr& node, std::vector<osg::NodePtr>& objects)
-{
-    if (node == osg::NullFC || nbNodeUtils::isAuxiliaryNode(node)) {
-        return;
-    }
-    if (osg::GeometryPtr::dcast(node->getCore()) != osg::NullFC) {
-        const osg::NodePtr object = objectOf(node);
-        if (std::find(objects.begin(), objects.end(), object) == objects.end()) {
-            objects.push_back(object);
-        }
-    }
-    for (osg::UInt32 i = 0; i < node->getNChildren(); ++i) {
-        collectSurfaces(node->getChild(i), objects);
-    }
 }
 
 }  // namespace
@@ -286,16 +268,6 @@ void Stage::showStartScene()
     showGizmo(Gizmo::Universal);
 }
 
-bool Stage::isEmpty() const
-{
-    return nbScenegraph::getRootNode()->getNChildren() == 0;
-}
-
-void Stage::select(const osg::NodePtr& node)
-{
-    nbSelection::set(node);
-}
-
 bool Stage::selectByName(const std::string& name)
 {
     const osg::NodePtr node =
@@ -337,24 +309,7 @@ bool Stage::isClipPlaneSelected() const
 
 void Stage::selectAll()
 {
-    std::vector<osg::NodePtr> objects;
-    collectSurfaces(nbScenegraph::getRootNode(), objects);
-    nbSelection::set(objects);
-}
-
-std::string Stage::preselectedName() const
-{
-    return nbNodeUtils::getName(selectionTool.getPreselected());
-}
-
-CameraPose Stage::pose() const
-{
-    return renderWidget.getUberCamera()->getPose();
-}
-
-void Stage::setPose(const CameraPose& pose)
-{
-    cameraContext.setPose(pose);
+    nbSelection::set(objectsWithSurface(nbScenegraph::getRootNode()));
 }
 
 void Stage::frame(const osg::NodePtr& node, const CameraPose& from)

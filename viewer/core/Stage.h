@@ -13,7 +13,10 @@
 #include <nbInteraction/Picker.h>
 #include <nbInteraction/ToolInteractionContext.h>
 #include <nbKernel/nbOSGWidget.h>
+#include <nbKernel/nbScenegraph.h>
+#include <nbOpenSGSelection/nbSelection.h>
 #include <nbOpenSGUberCamera/nbCameraNavigation.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <functional>
 #include <string>
@@ -104,14 +107,16 @@ public:
     /// Replaces everything by the start scene, seen as composed, with its main object selected and
     /// the universal gizmo on it.
     void showStartScene();
-    bool isEmpty() const;
+
+    bool isEmpty() const { return nbScenegraph::getRootNode()->getNChildren() == 0; }
 
     std::size_t triangleCount() const { return modelSources.triangleCount(); }
 
     // == Selection
 
     /// Selects an object or a part of one; null for none.
-    void select(const osg::NodePtr& node);
+    void select(const osg::NodePtr& node) { nbSelection::set(node); }
+
     /// Selects the object of that name, "" for none. @return false, selection untouched, if there
     /// is no such object
     bool selectByName(const std::string& name);
@@ -124,13 +129,19 @@ public:
     bool isClipPlaneSelected() const;
     /// Selects every object that has a surface of its own.
     void selectAll();
+
     /// Name of the object under the pointer that a click would select; "" for none.
-    std::string preselectedName() const;
+    std::string preselectedName() const
+    {
+        return nbNodeUtils::getName(selectionTool.getPreselected());
+    }
 
     // == Camera
 
-    CameraPose pose() const;
-    void setPose(const CameraPose& pose);
+    CameraPose pose() const { return renderWidget.getUberCamera()->getPose(); }
+
+    void setPose(const CameraPose& wanted) { cameraContext.setPose(wanted); }
+
     /// Shows all models from where the camera looks; the start view with the default direction if
     /// `reset` is set.
     void frameAll(bool reset = false);

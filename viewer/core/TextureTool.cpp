@@ -37,29 +37,6 @@ float aspectOf(const osg::ImagePtr& image)
     return static_cast<float>(image->getWidth()) / static_cast<float>(image->getHeight());
 }
 
-/// A direction of the world in the space of a node.
-osg::Vec3f vectorIn(const osg::NodePtr& node, const osg::Vec3f& world)
-{
-    osg::Matrix nodeFromWorld;
-    node->getToWorld().inverse(nodeFromWorld);
-    osg::Vec3f vector;
-    nodeFromWorld.multMatrixVec(world, vector);
-    return vector;
-}
-
-/// A normal of the world in the space of a node, any length: it goes by the transposed matrix.
-osg::Vec3f normalIn(const osg::NodePtr& node, const osg::Vec3f& world)
-{
-    const osg::Matrix worldFromNode = node->getToWorld();
-    osg::Vec3f normal;
-    for (osg::UInt32 axis = 0; axis < 3; ++axis) {
-        for (osg::UInt32 row = 0; row < 3; ++row) {
-            normal[axis] += worldFromNode[axis][row] * world[row];
-        }
-    }
-    return normal;
-}
-
 /// Has the editor place the picture, as a click of the placing tool does.
 void sendPlace(const Picker& picker)
 {
@@ -130,29 +107,6 @@ QString TextureTool::hindrance() const
     return {};
 }
 
-ProjectionPose TextureTool::poseFacingTheEye(float aspect, float share) const
-{
-    const osg::NodePtr surface = textureTarget.surface();
-    const nbCameraNavigation::Axes axes = nbCameraNavigation::axes(stage.pose());
-    surface->updateVolume();
-    osg::BoxVolume bounds;
-    osg::Pnt3f low;
-    osg::Pnt3f high;
-    surface->getVolume().getBounds(low, high);
-    bounds.setBounds(low, high);
-    return poseOnFront(bounds, vectorIn(surface, axes.back), vectorIn(surface, axes.up), aspect,
-                       share);
-}
-
-osg::Quaternion TextureTool::uprightOn(const osg::Vec3f& normal) const
-{
-    const osg::NodePtr surface = textureTarget.surface();
-    const CameraPose eye = stage.pose();
-    return uprightRotation(normalIn(surface, normal),
-                           vectorIn(surface, nbCameraNavigation::worldUp(eye)),
-                           vectorIn(surface, nbCameraNavigation::axes(eye).up));
-}
-
 bool TextureTool::setComponent(const std::string& component)
 {
     const bool isShown = textureTarget.setComponent(component);
@@ -168,7 +122,9 @@ bool TextureTool::setPicture(const QString& file, QString& error)
     if (!image) {
         return false;
     }
-    textureTarget.setImage(image.get(), poseFacingTheEye(aspectOf(image.get()), kChosenShare));
+    textureTarget.setImage(image.get(),
+                           poseFacingTheEye(textureTarget.surface(), stage.pose(),
+                                            aspectOf(image.get()), kChosenShare));
     refresh();
     return true;
 }
@@ -194,8 +150,10 @@ bool TextureTool::dropPicture(const QString& file, const osg::Pnt2f& px, QString
     stage.select(part);
     nbUndoService* const undo = nbUndoService::the();
     undo->beginGroup(Text::tr("Place picture"));
-    ProjectionPose pose = poseFacingTheEye(aspectOf(image.get()), kDroppedShare);
-    pose.rotation = uprightOn(scenePicker.getHitNormal());
+    const osg::NodePtr surface = textureTarget.surface();
+    ProjectionPose pose =
+        poseFacingTheEye(surface, stage.pose(), aspectOf(image.get()), kDroppedShare);
+    pose.rotation = uprightOn(surface, stage.pose(), scenePicker.getHitNormal());
     textureTarget.setImage(image.get(), pose);
     refresh();
     sendPlace(scenePicker);
@@ -458,11 +416,6 @@ void TextureTool::showDepth(bool on)
 {
     depthShown = on;
     refresh();
-}
-
-float TextureTool::planeTransparency() const
-{
-    return visualization.getPlaneTransparency();
 }
 
 void TextureTool::setPlaneTransparency(float transparency)

@@ -72,7 +72,6 @@ public:
     /// picture's projection does not have
     bool showGroup(const std::string& word);
 
-    /// Of the handles in use.
     /// For settings of single gizmos.
     TextureGizmos& allGizmos() { return gizmos; }
 
@@ -104,7 +103,9 @@ public:
     bool isDepthShown() const { return depthShown; }
 
     void showDepth(bool on);
-    float planeTransparency() const;
+
+    float planeTransparency() const { return visualization.getPlaneTransparency(); }
+
     /// @param transparency  0 .. 1
     void setPlaneTransparency(float transparency);
 
@@ -142,9 +143,6 @@ private:
     void applyGroup();
     void followAnchor();
     void showInScene();
-    ProjectionPose poseFacingTheEye(float aspect, float share) const;
-    /// @param normal  of the surface, world space
-    osg::Quaternion uprightOn(const osg::Vec3f& normal) const;
 
     Stage& stage;
     nbMaterialPreview materialPreview;

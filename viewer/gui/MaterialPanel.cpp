@@ -93,11 +93,6 @@ QJsonArray numbersOf(const QJsonValue& value)
     return value.isDouble() ? QJsonArray { value } : value.toArray();
 }
 
-QString textOfFile(const QString& name)
-{
-    return name.isEmpty() ? MaterialPanel::tr("No picture") : name;
-}
-
 void displayText(QLabel* label, const QString& text)
 {
     if (label->text() != text) {
@@ -400,7 +395,8 @@ void MaterialPanel::refreshRows()
     component->setCurrentIndex(
         component->findData(QString::fromStdString(tool.target().component())));
     const osg::ImagePtr image = tool.target().image();
-    displayText(fileName, textOfFile(pictureName(image)));
+    const QString name = pictureName(image);
+    displayText(fileName, name.isEmpty() ? tr("No picture") : name);
     removeButton->setEnabled(image != osg::NullFC);
     for (auto row = vectors.begin(); row != vectors.end(); ++row) {
         row.value()->display(numbersOf(values.value(row.key()).value_or(QJsonValue())));
