@@ -75,7 +75,17 @@ def missing_handles(root):
     yield from sorted(in_sources ^ (on_pages - example))
 
 
+def unlike_scene_keys(root):
+    """Keys of scene files that only the page or only the reader and writer have."""
+    source = (root / "viewer" / "core" / "SceneFields.h").read_text(encoding="utf-8")
+    page = (root / "docs" / "scene-files.md").read_text(encoding="utf-8").partition("\n## Keys\n")[2].partition("\n#")[0]
+    known = set(re.findall(r'\b(?:archive\.\w+|field)\("(\w+)"', source))
+    listed = {key for row in re.findall(r"^\|[^|]*\|([^|]*)\|", page, flags=re.MULTILINE) for key in re.findall(r"`(\w+)`", row)}
+    yield from sorted(known ^ listed)
+
+
 def faults(root):
+    yield from (f"the key {key} of scene files is not both on its page and in SceneFields.h" for key in unlike_scene_keys(root))
     yield from (f"{page.name}: no source knows {name}" for page, name in unknown_names(root))
     yield from (f"the handle {name} is not both on a page and in the library" for name in missing_handles(root))
     yield from (f"new-manipulator.md: the example does not have: {line} ..." for line in missing_excerpts(root))

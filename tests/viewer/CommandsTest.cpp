@@ -40,15 +40,6 @@ TEST(Commands, RunTheirOperationAndTellTheListenerOnlyOfSuccess)
     EXPECT_TRUE(commands.valueNames().isEmpty());
 }
 
-TEST(Commands, FileNamesAreFoundFromTheFolderOfTheSession)
-{
-    Commands commands;
-    commands.setFolder(QDir("/data/sessions"));
-
-    EXPECT_EQ(commands.filePath("../models/label.png"), "/data/models/label.png");
-    EXPECT_EQ(commands.filePath("/tmp/label.png"), "/tmp/label.png");
-}
-
 TEST(Commands, NumbersAreNearWithinTheToleranceWhereverTheyStand)
 {
     const QJsonObject found { { "at", QJsonArray { 1.0, 2.004 } }, { "name", "a" }, { "more", 1 } };
@@ -78,14 +69,6 @@ public:
     void viewChanged() override { log.append("view"); }
 
     std::string handleAt(const osg::Pnt2f&) override { return "knob"; }
-
-    bool takePicture(const QString& file, const osg::Pnt2f&, QString& error) override
-    {
-        if (file == "broken.png") {
-            error = "broken.png: no picture";
-        }
-        return error.isEmpty();
-    }
 
     QStringList log;
 };
@@ -132,17 +115,6 @@ TEST_F(StageToolTest, AToolHearsOfSelectionViewAndEndOfTheScene)
     stage.clear();
 
     EXPECT_EQ(tool.log, (QStringList { "selection", "view", "cleared" }));
-}
-
-TEST_F(StageToolTest, PicturesAreOfferedAndARefusalIsToldInOneLine)
-{
-    EXPECT_TRUE(stage.takePicture("label.png", { 1.0F, 1.0F }, error));
-    EXPECT_FALSE(stage.takePicture("broken.png", { 1.0F, 1.0F }, error));
-    EXPECT_EQ(error, "broken.png: no picture");
-    error.clear();
-    stage.removeTool(tool);
-    EXPECT_FALSE(stage.takePicture("label.png", { 1.0F, 1.0F }, error));
-    EXPECT_EQ(error, "");
 }
 
 TEST_F(StageToolTest, ACheckpointComparesNamedValues)

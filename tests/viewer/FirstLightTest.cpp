@@ -3,9 +3,6 @@
 #include "tests/viewer/support/ShownWindow.h"
 #include "viewer/core/BuiltModel.h"
 
-#include <QFile>
-#include <QTemporaryDir>
-
 namespace viewer {
 namespace {
 
@@ -70,31 +67,6 @@ TEST_F(FirstLight, TheHandleUnderThePointerTurnsOrangeAndBackAgain)
     replaySteps({ step, leave });
     EXPECT_EQ(countAround(picture(), pointer, isOrange), 0);
     EXPECT_GT(countAround(picture(), pointer, isRed), 3);
-}
-
-TEST_F(FirstLight, TwoReplaysGiveTheSamePicture)
-{
-    Session session;
-    session.sizePx = { 321, 243 };
-    SessionStep shot;
-    shot.type = SessionStep::Type::Checkpoint;
-    shot.name = QStringLiteral("shot");
-    shot.screenshot = true;
-    session.steps = { stepAt(SessionStep::Type::Move, SessionTarget::Kind::Handle, "ryShape"),
-                      shot };
-    QByteArray bytes[2];
-
-    for (QByteArray& picture : bytes) {
-        const QTemporaryDir folder;
-        replay(session, QDir(folder.path()));
-        QFile file(folder.filePath("shot.png"));
-        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-        picture = file.readAll();
-    }
-
-    EXPECT_FALSE(bytes[0].isEmpty());
-    EXPECT_EQ(bytes[0], bytes[1]);
-    EXPECT_EQ(QImage::fromData(bytes[0]).size(), session.sizePx);
 }
 
 }  // namespace

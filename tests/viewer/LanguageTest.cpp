@@ -12,6 +12,7 @@
 #include <QAction>
 #include <QFile>
 #include <QLabel>
+#include <QMenu>
 #include <QMenuBar>
 #include <QStatusBar>
 #include <QToolBar>
@@ -76,6 +77,36 @@ std::set<QString> textsOf(const MainWindow& window)
     return texts;
 }
 
+void expectMnemonics(const QMenu& menu)
+{
+    std::set<QChar> letters;
+    for (QAction* entry : menu.actions()) {
+        const int mark = entry->text().indexOf(QLatin1Char('&'));
+        // Panels name their own switches; there may be any number of recent
+        // files.
+        if (entry->isSeparator() || (mark < 0 && entry->objectName().isEmpty())) {
+            continue;
+        }
+        ASSERT_GE(mark, 0) << entry->text().toStdString();
+        EXPECT_TRUE(letters.insert(entry->text().at(mark + 1).toLower()).second)
+            << menu.title().toStdString() << ": " << entry->text().toStdString();
+    }
+}
+
+void expectMnemonicsOf(const QMenuBar& bar)
+{
+    const QList<QMenu*> menus = bar.findChildren<QMenu*>();
+    EXPECT_GT(menus.size(), 8);
+    for (const QMenu* menu : menus) {
+        expectMnemonics(*menu);
+    }
+    std::set<QChar> letters;
+    for (const QAction* entry : bar.actions()) {
+        letters.insert(entry->text().at(entry->text().indexOf(QLatin1Char('&')) + 1));
+    }
+    EXPECT_EQ(static_cast<int>(letters.size()), bar.actions().size());
+}
+
 class LanguageTest : public ShownWindow
 {
 protected:
@@ -130,8 +161,9 @@ TEST_F(LanguageTest, TheProgramFindsEveryTranslation)
     }
 }
 
-TEST_F(LanguageTest, NothingInTheWindowStaysEnglish)
+TEST_F(LanguageTest, NothingInTheWindowStaysEnglishAndEveryEntryHasAMnemonicOfItsOwn)
 {
+    expectMnemonicsOf(*window.menuBar());
     for (const Language language : kTranslations) {
         std::set<QString> english;
         std::set<QString> translated;
@@ -150,6 +182,7 @@ TEST_F(LanguageTest, NothingInTheWindowStaysEnglish)
                 << languageName(language).toStdString() << ": " << text.toStdString();
         }
         EXPECT_GT(translations, 150);
+        expectMnemonicsOf(*window.menuBar());
     }
 }
 

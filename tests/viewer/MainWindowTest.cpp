@@ -51,25 +51,12 @@ TEST_F(MainWindowTest, ReplayedEventsTakeAPersonsWay)
     EXPECT_TRUE(stage().pose().orthographic) << "the shortcut was not found";
 }
 
-TEST_F(MainWindowTest, ACheckpointThatIsNotMetIsReported)
-{
-    Session session;
-    session.sizePx = { 800, 600 };
-    session.steps = { stepAt(Type::Move, Kind::Handle, "xaShape"),
-                      checkpoint("yaShape", kStartSceneMainObject) };
-
-    replay(session);
-
-    ASSERT_EQ(window.player().getFailures().size(), 1);
-    EXPECT_TRUE(
-        window.player().getFailures()[0].contains("hover is \"xaShape\" instead of \"yaShape\""));
-}
-
 TEST_F(MainWindowTest, AKeyThatWouldAskOrEndTheReplayIsAFailure)
 {
     for (const char* key : { "Ctrl+O", "Ctrl+Shift+O", "Ctrl+Alt+O", "Ctrl+Shift+S", "Ctrl+E",
                              "Ctrl+P", "Ctrl+Q", "Ctrl+." }) {
         Session session;
+        session.sizePx = { 320, 240 };
         session.steps = { SessionStep() };
         session.steps[0].type = Type::Key;
         session.steps[0].key = QLatin1String(key);

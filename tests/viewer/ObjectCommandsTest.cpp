@@ -42,18 +42,13 @@ TEST_F(ObjectCommands, PathsLeadToObjectsAndBack)
 
 TEST_F(ObjectCommands, EveryVectorIsSetAsOneStepAndReadBack)
 {
-    for (const char* name : { "object.translation", "object.rotation", "object.scale",
-                              "object.rotatePivot", "object.scalePivot" }) {
-        const QJsonValue before = value(name);
-        const int stepsBefore = steps();
-
-        EXPECT_EQ(refusal(name, QJsonArray { 1.5, 20.0, 3.25 }), "") << name;
-
-        EXPECT_TRUE(isNear(value(name), QJsonArray { 1.5, 20.0, 3.25 }, 1e-4)) << name;
-        EXPECT_EQ(steps(), stepsBefore + 1) << name;
-        EXPECT_TRUE(stage.undo());
-        EXPECT_TRUE(isNear(value(name), before, 1e-6)) << name;
-    }
+    const QJsonArray numbers { 1.5, 20.0, 3.25 };
+    expectSteps({ { "object.translation", numbers },
+                  { "object.rotation", numbers },
+                  { "object.scale", numbers },
+                  { "object.rotatePivot", numbers },
+                  { "object.scalePivot", numbers } },
+                1e-4);
 }
 
 TEST_F(ObjectCommands, ASwitchActsOnAllSelectedObjectsAndIsTakenBack)

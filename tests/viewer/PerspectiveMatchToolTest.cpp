@@ -125,13 +125,10 @@ TEST_F(PerspectiveMatchToolTest, RefusesWhatItCannotDoInOneLine)
     const QJsonObject unknownLine { { "line", "w1" }, { "ends", QJsonArray { 1, 2, 3, 4 } } };
     expectRefusals({
         { "match.setPhotograph", "missing.png" },
-        { "match.setPhotograph", 3 },
         { "match.setVeil", 1.5 },
         { "match.setActive", "yes" },
         { "match.setLinesType", "xw" },
-        { "match.setFovMode", 1 },
         { "match.setMagnifyFactor", 0.5 },
-        { "match.setMagnifyFactor", "4" },
         { "match.setLine", threeNumbers },
         { "match.setLine", unknownLine },
     });

@@ -56,21 +56,6 @@ TEST(ProjectionPose, ANewPictureLiesUprightOnTheSideThatFacesTheEye)
     }
 }
 
-TEST(ProjectionPose, ANewPictureKeepsItsAspectWithinTheSideAndFlatObjectsGetDepth)
-{
-    osg::BoxVolume box;
-    box.setBounds(osg::Pnt3f(-2, -1, 0), osg::Pnt3f(2, 1, 0));
-
-    const osg::Vec3f wide = poseOnFront(box, { 0, 0, 1 }, { 0, 1, 0 }, 4.0F, 1.0F).scale;
-    const osg::Vec3f tall = poseOnFront(box, { 0, 0, 1 }, { 0, 1, 0 }, 0.5F, 1.0F).scale;
-
-    EXPECT_FLOAT_EQ(wide[0], 2.0F);
-    EXPECT_FLOAT_EQ(wide[1], 0.5F);
-    EXPECT_FLOAT_EQ(tall[0], 0.5F);
-    EXPECT_FLOAT_EQ(tall[1], 1.0F);
-    EXPECT_GT(wide[2], 0.0F);
-}
-
 TEST(ProjectionPose, UprightMeansUpAlongTheSurfaceAndFlatOnesTakeTheView)
 {
     const osg::Vec3f up(0, 1, 0);
@@ -87,17 +72,6 @@ TEST(ProjectionPose, UprightMeansUpAlongTheSurfaceAndFlatOnesTakeTheView)
         EXPECT_NEAR(turned(rotation, { 1, 0, 0 }).dot(isFlat ? away : up), 0.0F, kTolerance);
         EXPECT_GT(y.dot(isFlat ? away : up), 0.0F);
     }
-}
-
-TEST(ProjectionPose, ASideAloneTakesTheOtherAlongWhenAspectIsKept)
-{
-    const osg::Vec3f before(2, 1, 5);
-
-    expectNear(scaleKeepingAspect(before, { 4, 1, 5 }), { 4, 2, 5 }, "x");
-    expectNear(scaleKeepingAspect(before, { 2, 3, 5 }), { 6, 3, 5 }, "y");
-    expectNear(scaleKeepingAspect(before, { 3, 3, 5 }), { 3, 3, 5 }, "both");
-    expectNear(scaleKeepingAspect(before, { 2, 1, 7 }), { 2, 1, 7 }, "z");
-    expectNear(scaleKeepingAspect({ 0, 1, 1 }, { 2, 1, 1 }), { 2, 1, 1 }, "from nothing");
 }
 
 }  // namespace

@@ -53,44 +53,6 @@ TEST_F(RedrawTest, NothingIsDrawnWhileNothingChanges)
     EXPECT_EQ(frame().frames, highlighted) << "the same handle is highlighted";
 }
 
-TEST_F(RedrawTest, AHighlightDrawsHandlesAlone)
-{
-    stage().select(osg::NullFC);
-    stage().selectByName(kStartSceneMainObject);
-    waitForQuiet();
-    moveTo({ 3, 3 });
-    const std::size_t whole = stage().triangleCount();
-    for (int i = 0; i < 2; ++i) {
-        moveTo(placeOf(SessionTarget::Kind::Handle, "yaShape"));
-        moveTo({ 3, 3 });
-    }
-
-    EXPECT_GT(frame().reused, 0U);
-    EXPECT_LT(frame().triangles, whole);
-}
-
-TEST_F(RedrawTest, FrameStatisticsAreShownOnDemand)
-{
-    const auto* label = find<QLabel>("frame");
-    auto* action = find<QAction>("view.setFrameStatistics");
-    EXPECT_EQ(label->text(), QString());
-
-    action->trigger();
-    waitForQuiet();
-    moveTo(placeOf(SessionTarget::Kind::Handle, "yaShape"));
-
-    EXPECT_TRUE(label->text().contains(QStringLiteral("draw calls"))) << qPrintable(label->text());
-    const QJsonObject told = value("view.frameStatistics").toObject();
-    EXPECT_GT(told[QStringLiteral("milliseconds")].toDouble(), 0.0);
-    EXPECT_GT(told[QStringLiteral("drawCalls")].toDouble(), 0.0);
-    EXPECT_TRUE(told[QStringLiteral("shown")].toBool());
-
-    action->trigger();
-    EXPECT_EQ(label->text(), QString());
-    EXPECT_FALSE(run("view.setFrameStatistics", "on"));
-    EXPECT_EQ(error, QStringLiteral("expected true or false"));
-}
-
 TEST_F(RedrawTest, ALostContextLosesNothing)
 {
     moveTo({ 3, 3 });

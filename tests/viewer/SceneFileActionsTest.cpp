@@ -59,24 +59,6 @@ TEST_F(SceneFileActionsTest, TheTitleTellsWhatIsNotSaved)
     EXPECT_EQ(problems, QStringList());
 }
 
-TEST_F(SceneFileActionsTest, ASceneIsOpenedLikeAnyFile)
-{
-    moveVase();
-    ASSERT_TRUE(run("scene.save", scene));
-    const QByteArray saved = text();
-    window.showStartScene();
-    ASSERT_NE(text(), saved);
-
-    window.openFiles({ scene }, MainWindow::Opening::Replace);
-    waitUntil([this] { return shown == 1 || !problems.isEmpty(); });
-
-    EXPECT_EQ(problems, QStringList());
-    EXPECT_EQ(text(), saved);
-    EXPECT_FALSE(window.isWindowModified());
-    EXPECT_FALSE(stage().canUndo());
-    EXPECT_EQ(window.windowTitle(), "table.nbscene[*] - nbviewer");
-}
-
 TEST_F(SceneFileActionsTest, ASceneWithModelsIsReadInTheBackground)
 {
     window.openFiles({ NB_VIEWER_FOLDER "/models/tire.obj", NB_VIEWER_FOLDER "/models/boxes.obj" },
@@ -92,6 +74,9 @@ TEST_F(SceneFileActionsTest, ASceneWithModelsIsReadInTheBackground)
     EXPECT_NE(text(), saved) << "not before everything is there";
     waitUntil([this] { return shown == 2 || !problems.isEmpty(); });
 
+    EXPECT_FALSE(window.isWindowModified());
+    EXPECT_FALSE(stage().canUndo());
+    EXPECT_EQ(window.windowTitle(), "table.nbscene[*] - nbviewer");
     EXPECT_EQ(text(), saved);
     EXPECT_EQ(problems, QStringList());
 }
@@ -152,24 +137,6 @@ TEST_F(SceneFileActionsTest, EditsAreNotLostWithoutAQuestion)
     EXPECT_TRUE(window.close());
 }
 
-TEST_F(SceneFileActionsTest, TheQuestionOffersToSaveToDiscardAndToCancel)
-{
-    QList<QMessageBox::StandardButton> offered;
-    QTimer::singleShot(0, &window, [&offered] {
-        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        for (QAbstractButton* button : box->buttons()) {
-            offered.append(box->standardButton(button));
-        }
-        box->button(QMessageBox::Discard)->click();
-    });
-
-    EXPECT_EQ(window.scenes().dialog()("table.nbscene has been edited. Save it?"),
-              QMessageBox::Discard);
-
-    EXPECT_EQ(offered.size(), 3);
-    EXPECT_TRUE(offered.contains(QMessageBox::Save) && offered.contains(QMessageBox::Cancel));
-}
-
 TEST_F(SceneFileActionsTest, AFailedSaveKeepsTheScene)
 {
     window.scenes().setQuestion([](const QString&) { return QMessageBox::Save; });
@@ -186,33 +153,6 @@ TEST_F(SceneFileActionsTest, AFailedSaveKeepsTheScene)
     ASSERT_EQ(problems.size(), 1);
     EXPECT_TRUE(problems[0].contains("gone/table.nbscene: "));
     EXPECT_TRUE(window.isWindowModified());
-}
-
-TEST_F(SceneFileActionsTest, ASessionSavesAndOpens)
-{
-    Session session;
-    session.sizePx = { 640, 480 };
-    SessionStep save;
-    save.type = SessionStep::Type::Command;
-    save.name = "scene.save";
-    save.value = scene;
-    SessionStep move = save;
-    move.name = "object.translation";
-    move.value = QJsonArray { 4, 5, 6 };
-    SessionStep open = save;
-    open.name = "scene.open";
-    SessionStep check;
-    check.type = SessionStep::Type::Checkpoint;
-    check.name = "opened";
-    check.expectation.undoSteps = 0;
-    check.expectation.nodes.resize(1);
-    check.expectation.nodes[0].node = "Knot";
-    check.expectation.nodes[0].translation = std::array<double, 3> { 0.0, 1.16, 0.0 };
-    session.steps = { save, move, open, check };
-
-    replay(session);
-
-    EXPECT_EQ(window.player().getFailures(), QStringList());
 }
 
 }  // namespace

@@ -2,11 +2,9 @@
 #include "viewer/gui/SessionTour.h"
 
 #include "tests/viewer/support/ShownWindow.h"
-#include "viewer/gui/CaptionBar.h"
 
 #include <QFile>
 #include <QImage>
-#include <QPainter>
 #include <QTemporaryDir>
 
 namespace viewer {
@@ -125,24 +123,6 @@ TEST_F(SessionTourTest, CanBePausedSkippedAndEnded)
     EXPECT_EQ(finished, 1);
     EXPECT_FALSE(window.isReplaying());
     EXPECT_EQ(tour.getFailures(), QStringList());
-}
-
-TEST(CaptionBar, LiesInTheLowerPartOfAnyView)
-{
-    for (const QSize size : { QSize(1200, 800), QSize(300, 900) }) {
-        QImage picture(size, QImage::Format_RGB32);
-        picture.fill(Qt::white);
-        QPainter painter(&picture);
-
-        paintCaption(painter, picture.rect(), "A title that is long enough to be wrapped",
-                     "And a text below it that says in more words what is being shown just now.");
-        painter.end();
-
-        EXPECT_EQ(picture.pixelColor(0, 0), QColor(Qt::white));
-        EXPECT_EQ(picture.pixelColor(size.width() - 1, size.height() / 8), QColor(Qt::white));
-        const int inset = qMin(size.width(), size.height()) / 15;
-        EXPECT_NE(picture.pixelColor(inset, size.height() - inset), QColor(Qt::white));
-    }
 }
 
 }  // namespace

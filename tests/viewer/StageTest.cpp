@@ -29,17 +29,6 @@ protected:
     }
 };
 
-TEST_F(StageWithStartScene, EveryNamedHandleCanBeAimedAtAndIsHovered)
-{
-    for (const char* handle :
-         { "xaShape", "yaShape", "zaShape", "xsShape", "rxShape", "ryShape", "rzShape" }) {
-        hover(placeOf(SessionTarget::Kind::Handle, handle));
-
-        EXPECT_EQ(stage.gizmo().hoveredHandle(), handle);
-        EXPECT_FALSE(nbScenegraph::isPreselectionEnabled()) << "objects light up behind a handle";
-    }
-}
-
 TEST_F(StageWithStartScene, AClickSelectsTheObjectUnderThePointerAndBesideAllNone)
 {
     const osg::Pnt2f vase = placeOf(SessionTarget::Kind::Node, "Vase");
@@ -51,70 +40,6 @@ TEST_F(StageWithStartScene, AClickSelectsTheObjectUnderThePointerAndBesideAllNon
 
     click(osg::Pnt2f(3.0F, 3.0F));
     EXPECT_EQ(stage.selectedName(), "");
-}
-
-TEST_F(StageWithStartScene, TheGizmoFollowsTheSelectionAndGoesWithIt)
-{
-    ASSERT_TRUE(stage.selectByName("Vase"));
-    const osg::Pnt2f onVase = placeOf(SessionTarget::Kind::Handle, "yaShape");
-    ASSERT_TRUE(stage.selectByName("Pebble"));
-    const osg::Pnt2f onPebble = placeOf(SessionTarget::Kind::Handle, "yaShape");
-
-    EXPECT_LT(onVase[0] + 100.0F, onPebble[0]);
-
-    ASSERT_TRUE(stage.selectByName(""));
-    EXPECT_EQ(stage.gizmo().handleAt(onPebble), "");
-    EXPECT_FALSE(stage.selectByName("No such thing"));
-}
-
-TEST_F(StageWithStartScene, ChangingTheManipulatorLeavesOneOfThem)
-{
-    const auto gizmoCount = [] {
-        const osg::NodePtr root = nbScenegraph::getInternalRoot();
-        int count = 0;
-        for (osg::UInt32 i = 0; i < root->getNChildren(); ++i) {
-            count += nbNodeUtils::getName(root->getChild(i)) == "Manipulatorgroup" ? 1 : 0;
-        }
-        return count;
-    };
-    for (const Gizmo gizmo :
-         { Gizmo::Translate, Gizmo::CameraPivot, Gizmo::Universal, Gizmo::Translate }) {
-        stage.gizmo().show(gizmo);
-
-        EXPECT_EQ(gizmoCount(), 1) << gizmoName(gizmo);
-    }
-    SessionTarget ring;
-    ring.kind = SessionTarget::Kind::Handle;
-    ring.name = "rxShape";
-    osg::Pnt2f px;
-    EXPECT_FALSE(resolveTarget(ring, stage, px, error)) << "the translate gizmo has no rings";
-    EXPECT_TRUE(error.contains("rxShape"));
-
-    stage.gizmo().show(Gizmo::None);
-    EXPECT_EQ(gizmoCount(), 0);
-    EXPECT_EQ(stage.gizmo().hoveredHandle(), "");
-}
-
-TEST_F(StageWithStartScene, CameraCommandsKeepTheSceneInView)
-{
-    const auto isKnotInView = [this] {
-        const osg::Pnt2f px = placeOf(SessionTarget::Kind::Node, kStartSceneMainObject);
-        return px[0] > 0.0F && px[0] < 1200.0F && px[1] > 0.0F && px[1] < 800.0F;
-    };
-
-    stage.setOrthographic(true);
-    EXPECT_TRUE(stage.pose().orthographic);
-    EXPECT_TRUE(isKnotInView());
-    stage.setStandardView(nbCameraNavigation::StandardView::Top);
-    EXPECT_TRUE(isKnotInView());
-    stage.frameSelection();
-    const osg::Pnt2f px = placeOf(SessionTarget::Kind::Node, kStartSceneMainObject);
-    EXPECT_NEAR(px[0], 600.0, 2.0);
-    EXPECT_NEAR(px[1], 400.0, 2.0);
-    stage.setZUp(true);
-    EXPECT_TRUE(stage.pose().zUp);
-    stage.frameAll(true);
-    EXPECT_TRUE(isKnotInView());
 }
 
 TEST_F(StageWithStartScene, CursorsPointAlongTheAxesOnTheScreen)

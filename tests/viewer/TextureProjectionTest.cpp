@@ -17,41 +17,6 @@ protected:
         stage.selectByName("Column");
         EXPECT_TRUE(run("texture.picture", kLabel));
     }
-
-    osg::Pnt2f project(const osg::Pnt3f& world)
-    {
-        osg::Pnt2f px;
-        EXPECT_TRUE(nbCameraNavigation::project(stage.pose(), world, view.getWidth(),
-                                                view.getHeight(), px));
-        return px;
-    }
-
-    void drag(const osg::Pnt2f& from, const osg::Pnt2f& to)
-    {
-        ASSERT_TRUE(send("start", from));
-        send("process", from + (to - from) * 0.5F);
-        send("process", to);
-        send("stop", to);
-    }
-
-    /// Where the projection along z looks the picture up for a world point.
-    osg::Vec2f lookUpAlongZ(const osg::Pnt3f& world)
-    {
-        const osg::Matrix toWorld = tool.target().surface()->getToWorld();
-        osg::Matrix fromWorld;
-        toWorld.inverse(fromWorld);
-        osg::Pnt3f place = world;
-        fromWorld.multMatrixPnt(place);
-        const nbTextureValues values = tool.target().values();
-        osg::Vec2f found;
-        for (osg::UInt32 i = 0; i < 2; ++i) {
-            const float length = osg::Vec3f(toWorld[i][0], toWorld[i][1], toWorld[i][2]).length();
-            const float offset = (i == 0 ? values.triplanarOffsetU : values.triplanarOffsetV)[2];
-            const float repeat = (i == 0 ? values.triplanarRepeatU : values.triplanarRepeatV)[2];
-            found[i] = (place[i] * length / 100.0F + offset) * repeat;
-        }
-        return found;
-    }
 };
 
 TEST_F(TextureProjectionTest, SwitchingShowsTheHandlesOfTheProjectionAndIsOneStep)
@@ -86,37 +51,6 @@ TEST_F(TextureProjectionTest, SwitchingShowsTheHandlesOfTheProjectionAndIsOneSte
     EXPECT_EQ(stage.handleAt(placeOf(SessionTarget::Kind::Handle, "heightShape")), "heightShape");
     ASSERT_TRUE(run("texture.projection", "tire"));
     EXPECT_EQ(steps(), expected - 1) << "no other projection";
-}
-
-TEST_F(TextureProjectionTest, AnArrowOfTheTriplanarGizmoTakesThePictureAlong)
-{
-    ASSERT_TRUE(run("object.rotation", QJsonArray { 10, 25, 5 }));
-    ASSERT_TRUE(run("object.scale", QJsonArray { 1.5, 0.8, 1 }));
-    ASSERT_TRUE(run("texture.projection", "triplanar"));
-    for (const bool orthographic : { false, true }) {
-        stage.setOrthographic(orthographic);
-        ASSERT_TRUE(run("texture.handles", "universal"));
-        stage.update();
-        const osg::Pnt3f anchor = *tool.anchor();
-        osg::Vec3f axis(1, 0, 0);
-        tool.target().surface()->getToWorld().multMatrixVec(axis);
-        axis.normalize();
-        const osg::Pnt3f grabbed = anchor + axis * 0.6F;
-        const osg::Pnt3f target = grabbed + axis * 0.4F;
-        ASSERT_EQ(stage.handleAt(project(grabbed)), "xaShape");
-        const osg::Vec2f before = lookUpAlongZ(grabbed);
-        const int stepsBefore = steps();
-
-        drag(project(grabbed), project(target));
-
-        const osg::Vec2f after = lookUpAlongZ(target);
-        EXPECT_NEAR(after[0], before[0], 2e-3F);
-        EXPECT_NEAR(after[1], before[1], 2e-3F);
-        EXPECT_EQ(steps(), stepsBefore + 1);
-        EXPECT_TRUE(value("texture.preview").toBool());
-        ASSERT_TRUE(stage.undo());
-        EXPECT_EQ(tool.target().values().triplanarOffsetU, osg::Vec3f(0, 0, 0));
-    }
 }
 
 TEST_F(TextureProjectionTest, DragsOfTheOtherGizmosArriveAndAreTold)
@@ -184,16 +118,12 @@ TEST_F(TextureProjectionTest, BadInputIsOneLineAndChangesNothing)
 
     expectRefusals({
         { "texture.projection", "round" },
-        { "texture.projection", 2 },
         { "texture.uvOffset", QJsonArray { 1 } },
-        { "texture.uvOffset", 1 },
         { "texture.uvRepeat", QJsonArray { 0, 1 } },
-        { "texture.uvRotate", QJsonArray { 1 } },
         { "texture.uvRepeat", QJsonArray { 1e-60, 1 } },
         { "texture.triplanarRepeatU", QJsonArray { 1, 1, 0 } },
         { "texture.triplanarOffsetU", QJsonArray { 1, 1, 1e300 } },
         { "texture.tireRadius", 0 },
-        { "texture.tireFit", 1 },
         { "texture.anchor", "here" },
     });
     EXPECT_EQ(tool.target().values(), before);

@@ -52,15 +52,6 @@ TEST_F(TextureToolTest, ADropPlacesThePictureUprightWhereItFellAsOneStep)
     EXPECT_TRUE(projection->getTranslation().equals(hit, kTolerance));
 }
 
-TEST_F(TextureToolTest, ADropBesideEveryObjectIsLeftToOthers)
-{
-    QString reason;
-    EXPECT_FALSE(stage.takePicture(kLabel, { 3.0F, 3.0F }, reason));
-    EXPECT_EQ(reason, "");
-    EXPECT_FALSE(
-        run("texture.drop", QJsonObject { { "file", kLabel }, { "at", QJsonArray { 3, 3 } } }));
-}
-
 TEST_F(TextureToolTest, ClicksPlaceThePictureAndOneTakesBackTheWholeDrag)
 {
     ASSERT_TRUE(drop("Vase"));
@@ -177,9 +168,7 @@ TEST_F(TextureToolTest, BadInputIsOneLineAndChangesNothing)
     expectRefusals({
         { "texture.picture", "missing.png" },
         { "texture.picture", "broken.png" },
-        { "texture.picture", 7 },
         { "texture.picture", QJsonValue() },
-        { "texture.drop", 7 },
         { "texture.drop", QJsonObject { { "file", "missing.png" }, { "at", "here" } } },
         { "texture.drop",
           QJsonObject { { "file", "missing.png" }, { "at", QJsonObject { { "node", "Vase" } } } } },
@@ -187,10 +176,8 @@ TEST_F(TextureToolTest, BadInputIsOneLineAndChangesNothing)
         { "texture.handles", "bend" },
         { "texture.translation", QJsonArray { 1, 2, 3 } },
         { "texture.keepAspect", true },
-        { "texture.mask", true },
         { "texture.place", true },
         { "texture.planeTransparency", 1.5 },
-        { "texture.planeTransparency", "half" },
         { "texture.showDepth", 1 },
     });
     EXPECT_EQ(steps(), 0);
@@ -203,32 +190,6 @@ TEST_F(TextureToolTest, BadInputIsOneLineAndChangesNothing)
         EXPECT_FALSE(run("texture.scale", bad));
     }
     EXPECT_EQ(steps(), 1);
-}
-
-TEST_F(TextureToolTest, TheProjectionIsShownWhileTheToolHasThePointer)
-{
-    ASSERT_TRUE(drop("Vase"));
-    const osg::NodePtr helpers = nbScenegraph::getInternalRoot();
-    const auto shownHelpers = [&helpers] {
-        int shown = 0;
-        for (osg::UInt32 i = 0; i < helpers->getNChildren(); ++i) {
-            shown += helpers->getChild(i)->getActive() ? 1 : 0;
-        }
-        return shown;
-    };
-    const int withProjection = shownHelpers();
-
-    ASSERT_TRUE(run("texture.showProjection", false));
-    EXPECT_EQ(shownHelpers(), withProjection - 1);
-    ASSERT_TRUE(run("texture.showProjection", true));
-    EXPECT_EQ(shownHelpers(), withProjection);
-    ASSERT_TRUE(run("texture.planeTransparency", 0.25));
-    EXPECT_EQ(value("texture.planeTransparency"), QJsonValue(0.25));
-
-    stage.clear();
-    stage.update();
-    EXPECT_EQ(value("texture.surface"), QJsonValue(""));
-    EXPECT_LT(shownHelpers(), withProjection);
 }
 
 }  // namespace

@@ -187,14 +187,6 @@ TEST_F(TransformTools, ValuesAreShownOverTheViewAndInTheStatusLine)
     EXPECT_EQ(window.view().grabFramebuffer().copy(corner), empty);
 }
 
-TEST_F(TransformTools, TheCursorTellsWhatAHandleDoes)
-{
-    play({ stepAt(Type::Move, SessionTarget::Kind::Handle, "xaShape") });
-    EXPECT_EQ(window.view().cursor().shape(), Qt::BitmapCursor);
-    play({ stepAt(Type::Move, SessionTarget::Kind::Pixel, "", { 5.0, 5.0 }) });
-    EXPECT_EQ(window.view().cursor().shape(), Qt::ArrowCursor);
-}
-
 TEST_F(TransformTools, AllSelectedObjectsGoAlongInOneStep)
 {
     SessionStep vase = stepAt(Type::Click, SessionTarget::Kind::Node, "Vase");
@@ -225,18 +217,11 @@ TEST_F(TransformTools, AllSelectedObjectsGoAlongInOneStep)
 
 TEST_F(TransformTools, SettingsReachTheGizmo)
 {
-    struct Row
-    {
-        const char* keys;
-        Gizmo gizmo;
-    };
-
-    for (const Row& row :
-         { Row { "W", Gizmo::Translate }, Row { "E", Gizmo::Rotate }, Row { "R", Gizmo::Scale },
-           Row { "T", Gizmo::Universal }, Row { "Shift+E", Gizmo::RotatePivot },
-           Row { "Shift+R", Gizmo::ScalePivot }, Row { "Q", Gizmo::None } }) {
-        play({ key(row.keys) });
-        EXPECT_EQ(stage().gizmo().shown(), row.gizmo) << row.keys;
+    for (const auto& [keys, gizmo] :
+         { std::pair("W", Gizmo::Translate), std::pair("Shift+E", Gizmo::RotatePivot),
+           std::pair("Q", Gizmo::None) }) {
+        play({ key(keys) });
+        EXPECT_EQ(stage().gizmo().shown(), gizmo) << keys;
     }
     EXPECT_FALSE(action("gizmoClipping")->isEnabled()) << "no clip plane is selected";
 

@@ -3,14 +3,11 @@
 // be played.
 #include "tests/viewer/support/ShownWindow.h"
 #include "viewer/core/CommandLine.h"
-#include "viewer/core/SceneFields.h"
 #include "viewer/core/Session.h"
 #include "viewer/core/SessionNames.h"
 
 #include <QFile>
 #include <QRegularExpression>
-#include <QSet>
-#include <QTemporaryDir>
 
 #include <utility>
 
@@ -137,7 +134,7 @@ TEST_F(ViewerPages, SayWhichValuesTheirCommandsTake)
     EXPECT_GT(count, 40);
 }
 
-TEST(ViewerPage, NamesTheKeysOfSessions)
+TEST(ViewerPage, NamesTheKeysOfSessionsAndTheTypesOfSteps)
 {
     const std::pair<const char*, SessionPart> parts[] = {
         { "### The session", SessionPart::Session },
@@ -154,16 +151,10 @@ TEST(ViewerPage, NamesTheKeysOfSessions)
         }
         EXPECT_EQ(listOf(keys), listOf(sessionKeys(part))) << heading;
     }
-}
-
-TEST(ViewerPage, NamesTheTypesOfSteps)
-{
     QStringList types;
-
     for (const QStringList& cells : rowsOf(section("viewer.md", "### Steps"))) {
         types += matches(cells.value(0), "\"(\\w+)\"");
     }
-
     EXPECT_EQ(listOf(types), listOf(stepTypeNames()));
 }
 
@@ -179,113 +170,6 @@ TEST(ViewerPage, NamesTheOptions)
     QStringList known = matches(commandLineHelp(), "(--\\w+)");
     known.removeDuplicates();
     EXPECT_EQ(listOf(options), listOf(known));
-}
-
-// == Scene files
-
-/// An archive of SceneFields.h that writes down which keys each object has, once.
-class KeyList
-{
-public:
-    template <class Value>
-    bool visit(Value value)
-    {
-        const QString outer = std::exchange(title, QLatin1String(titleOf(value)));
-        if (!visited.contains(title)) {
-            visited.insert(title);
-            scenefields::describe(*this, value);
-        }
-        title = outer;
-        return true;
-    }
-
-    template <class... Rest>
-    bool field(const char* key, Rest&&...)
-    {
-        keys.append(title + QLatin1Char('.') + QLatin1String(key));
-        return true;
-    }
-
-    template <class... Rest>
-    bool words(const char* key, Rest&&...)
-    {
-        return field(key);
-    }
-
-    template <class... Rest>
-    bool names(const char* key, Rest&&...)
-    {
-        return field(key);
-    }
-
-    bool version(const char* key, int /*number*/) { return field(key); }
-
-    bool bits(const char* key, osg::UInt32& /*mask*/) { return field(key); }
-
-    bool path(const char* key, QString& /*file*/) { return field(key); }
-
-    template <class Value>
-    bool object(const char* key, const Value&)
-    {
-        return field(key) && visit(Value());
-    }
-
-    template <class Value>
-    bool part(const char* key, const std::optional<Value>&)
-    {
-        return field(key) && visit(Value());
-    }
-
-    template <class Value>
-    bool list(const char* key, const std::vector<Value>&)
-    {
-        return field(key) && visit(Value());
-    }
-
-    QStringList keys;
-
-private:
-    static const char* titleOf(const SceneDocument&) { return "the scene"; }
-
-    static const char* titleOf(const CameraPose&) { return "camera"; }
-
-    static const char* titleOf(const SceneModel&) { return "model"; }
-
-    static const char* titleOf(const SceneNode&) { return "node"; }
-
-    static const char* titleOf(const nbTransformState&) { return "transform"; }
-
-    static const char* titleOf(const SceneSurface&) { return "surface"; }
-
-    static const char* titleOf(const SceneComponent&) { return "component"; }
-
-    static const char* titleOf(const SceneSettings&) { return "settings"; }
-
-    static const char* titleOf(const SceneClipPlane&) { return "clip plane"; }
-
-    static const char* titleOf(const SceneBranch&) { return "branch"; }
-
-    static const char* titleOf(const ScenePlate&) { return "plate"; }
-
-    static const char* titleOf(const SceneMatch&) { return "match"; }
-
-    QString title;
-    QSet<QString> visited;
-};
-
-TEST(ViewerPage, NamesTheKeysOfSceneFiles)
-{
-    KeyList known;
-    known.visit(SceneDocument());
-    QStringList onPage;
-
-    for (const QStringList& cells : rowsOf(section("scene-files.md", "## Keys"))) {
-        for (const QString& key : codesIn(cells.value(1))) {
-            onPage.append(cells.value(0) + QLatin1Char('.') + key);
-        }
-    }
-
-    EXPECT_EQ(listOf(onPage), listOf(known.keys));
 }
 
 // == Examples
@@ -304,22 +188,6 @@ TEST_F(ViewerPages, ShowSessionsThatMeetTheirCheckpoints)
         EXPECT_EQ(problems, QStringList());
         EXPECT_EQ(window.player().getFailures(), QStringList());
     }
-}
-
-TEST_F(ViewerPages, ShowASceneFileThatIsOpened)
-{
-    const QTemporaryDir folder;
-    const QStringList examples = examplesOf("scene-files.md");
-    ASSERT_EQ(examples.size(), 1);
-    QFile file(folder.filePath("a.nbscene"));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(examples.first().toUtf8());
-    file.close();
-
-    EXPECT_TRUE(run("scene.open", file.fileName()));
-
-    EXPECT_TRUE(stage().selectByName("Tall vase"));
-    EXPECT_EQ(commands().value("plates.list"), QJsonValue(QJsonArray { "Corner" }));
 }
 
 }  // namespace

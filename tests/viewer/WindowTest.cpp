@@ -64,9 +64,10 @@ bool isOwnControl(const QWidget* widget)
         qobject_cast<const ViewWidget*>(widget) != nullptr;
 }
 
-TEST_F(WindowTest, EveryControlHasANameForThoseWhoDoNotSeeIt)
+TEST_F(WindowTest, EveryControlHasANameForThoseWhoDoNotSeeItAndIsReachedByTab)
 {
     int controls = 0;
+    const QList<QDockWidget*> docks = window.findChildren<QDockWidget*>();
     for (QWidget* widget : window.findChildren<QWidget*>()) {
         if (!isOwnControl(widget)) {
             continue;
@@ -77,21 +78,13 @@ TEST_F(WindowTest, EveryControlHasANameForThoseWhoDoNotSeeIt)
         EXPECT_FALSE(face->text(QAccessible::Name).trimmed().isEmpty())
             << widget->metaObject()->className() << " \"" << widget->objectName().toStdString()
             << "\" in \"" << widget->parent()->objectName().toStdString() << '"';
+        const bool isInDock = std::any_of(docks.begin(), docks.end(), [widget](QDockWidget* dock) {
+            return dock->widget()->isAncestorOf(widget);
+        });
+        EXPECT_TRUE(!isInDock || (widget->focusPolicy() & Qt::TabFocus) != 0)
+            << widget->objectName().toStdString() << " is not reached by Tab";
     }
     EXPECT_GT(controls, 100);
-}
-
-TEST_F(WindowTest, EveryPanelControlIsReachedByTab)
-{
-    for (QDockWidget* dock : window.findChildren<QDockWidget*>()) {
-        for (QWidget* widget : dock->widget()->findChildren<QWidget*>()) {
-            if (isOwnControl(widget)) {
-                EXPECT_TRUE((widget->focusPolicy() & Qt::TabFocus) != 0)
-                    << dock->objectName().toStdString() << ' '
-                    << widget->objectName().toStdString();
-            }
-        }
-    }
 }
 
 TEST_F(WindowTest, EveryActionHasATextATipAndAShortcutOfItsOwn)
@@ -115,40 +108,6 @@ TEST_F(WindowTest, EveryActionHasATextATipAndAShortcutOfItsOwn)
         }
     }
     EXPECT_GT(actions, 40);
-}
-
-void expectMnemonics(const QMenu& menu)
-{
-    std::set<QChar> letters;
-    for (QAction* entry : menu.actions()) {
-        const int mark = entry->text().indexOf(QLatin1Char('&'));
-        // Panels name their own switches; there may be any number of recent
-        // files.
-        if (entry->isSeparator() || (mark < 0 && entry->objectName().isEmpty())) {
-            continue;
-        }
-        ASSERT_GE(mark, 0) << entry->text().toStdString();
-        EXPECT_TRUE(letters.insert(entry->text().at(mark + 1).toLower()).second)
-            << menu.title().toStdString() << ": " << entry->text().toStdString();
-    }
-}
-
-TEST_F(WindowTest, EveryMenuEntryHasAMnemonicOfItsOwnInEveryLanguage)
-{
-    for (const Language language : kLanguages) {
-        window.setLanguage(language);
-        waitForQuiet();
-        const QList<QMenu*> menus = window.menuBar()->findChildren<QMenu*>();
-        EXPECT_GT(menus.size(), 8);
-        for (const QMenu* menu : menus) {
-            expectMnemonics(*menu);
-        }
-        std::set<QChar> letters;
-        for (const QAction* entry : window.menuBar()->actions()) {
-            letters.insert(entry->text().at(entry->text().indexOf(QLatin1Char('&')) + 1));
-        }
-        EXPECT_EQ(static_cast<int>(letters.size()), window.menuBar()->actions().size());
-    }
 }
 
 /// How far the drawn pixels of an icon are from a colour, 0 .. 255 of
@@ -195,15 +154,6 @@ TEST_F(WindowTest, EveryToolHasAnIconThatIsSeenInEveryTheme)
     window.setTheme(Theme::System);
     EXPECT_TRUE(action("themeSystem")->isCheckable());
     EXPECT_TRUE(themeIcon(QStringLiteral("no such")).isNull());
-}
-
-TEST_F(WindowTest, AnIconIsDrawnInDevicePixels)
-{
-    const QIcon icon = themeIcon(QStringLiteral("gizmoTranslate"));
-
-    EXPECT_EQ(icon.pixmap(20, 20).size() / icon.pixmap(20, 20).devicePixelRatio(), QSize(20, 20));
-    EXPECT_EQ(icon.pixmap(&*window.windowHandle(), QSize(20, 20)).width(),
-              qRound(20 * window.devicePixelRatioF()));
 }
 
 TEST_F(WindowTest, FullScreenShowsTheViewAloneAndEscapeLeadsBack)
@@ -257,24 +207,6 @@ TEST_F(WindowTest, MessagesAreKeptWithTheirLevelAndCanBeChosenCopiedAndCleared)
     }
     EXPECT_EQ(list->topLevelItemCount(), LogPanel::kMostEntries);
     EXPECT_TRUE(log.text().endsWith(QString::number(LogPanel::kMostEntries - 1)));
-}
-
-TEST_F(WindowTest, AboutNamesEveryPartWithItsVersion)
-{
-    picture();
-    waitUntil([this] { return !window.view().graphics().isEmpty(); });
-    action("about")->trigger();
-    auto* box = window.findChild<AboutBox*>();
-    ASSERT_NE(box, nullptr);
-    EXPECT_TRUE(box->isVisible());
-    box->close();
-
-    const QString text = AboutBox::versions(window.view().graphics());
-    for (const char* part :
-         { "nbManipulator 0.", "Qt 5.", "OpenGL: ", "bundled", "Embree 3.", "Assimp 5." }) {
-        EXPECT_TRUE(text.contains(QLatin1String(part))) << part << '\n' << text.toStdString();
-    }
-    EXPECT_TRUE(text.contains(window.view().graphics()));
 }
 
 TEST_F(WindowTest, KeysGoFromPanelToPanelAndBackToTheView)
