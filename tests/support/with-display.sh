@@ -10,6 +10,8 @@ mkdir -m 700 "$scratch/runtime"
 Xvfb -displayfd 3 -screen 0 1600x1200x24 -nolisten tcp 3>"$scratch/display" >"$scratch/log" 2>&1 &
 server=$!
 trap 'kill "$server" 2>/dev/null; wait "$server" 2>/dev/null; rm -rf "$scratch"' EXIT
+# Interrupted, it also goes that way.
+trap 'exit 130' INT TERM
 read -r display <"$scratch/display" || {
     echo "with-display.sh: the virtual X server (Debian package xvfb) does not start: $(tail -n 1 "$scratch/log")" >&2
     exit 2

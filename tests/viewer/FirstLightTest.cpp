@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // From a model file and a session to the pixels of the picture, with real events.
 #include "tests/viewer/support/ShownWindow.h"
-#include "viewer/core/BuiltModel.h"
 
 namespace viewer {
 namespace {

@@ -11,7 +11,6 @@
 
 #include <QAction>
 #include <QFile>
-#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QStatusBar>

@@ -4,6 +4,7 @@
 
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
+#include <QCheckBox>
 #include <QDoubleSpinBox>
 #include <QTreeWidget>
 
@@ -45,6 +46,26 @@ TEST_F(Panels, TheTreeSelectsAndShowsWhatIsSelected)
     stage().clear();
     EXPECT_EQ(tree->topLevelItemCount(), 0);
     EXPECT_EQ(problems, QStringList());
+}
+
+TEST_F(Panels, NumbersOfTheMatchMoveALineAndTheCameraAndAreDrawn)
+{
+    showPanel("matchDock");
+    find<QCheckBox>("matchActive")->click();
+    ASSERT_EQ(stage().manipulatorName(), "match");
+    auto* number = find<QDoubleSpinBox>("matchLine_x1_1");
+    const QImage before = picture();
+    const double valueBefore = number->value();
+
+    number->setValue(valueBefore + 0.05);
+
+    EXPECT_EQ(steps(), 1);
+    EXPECT_NE(picture(), before);
+    EXPECT_TRUE(stage().undo());
+    EXPECT_EQ(number->value(), valueBefore);
+    EXPECT_EQ(picture(), before);
+    number->setValue(valueBefore);
+    EXPECT_EQ(steps(), 0) << "the number shown is no edit";
 }
 
 }  // namespace

@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: MIT
 // When the view draws, what of it, and that it stands after its OpenGL context was lost.
 #include "tests/viewer/support/ShownWindow.h"
-#include "viewer/core/StartScene.h"
 
-#include <QAction>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QOpenGLContext>
 #include <QPointer>
 

@@ -5,12 +5,9 @@
 #include "tests/viewer/support/ShownWindow.h"
 #include "viewer/core/SceneCapture.h"
 
-#include <QAbstractButton>
 #include <QAction>
-#include <QApplication>
 #include <QFile>
 #include <QTemporaryDir>
-#include <QTimer>
 
 namespace viewer {
 namespace {

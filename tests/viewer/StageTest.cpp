@@ -4,7 +4,6 @@
 #include "tests/viewer/support/StageTest.h"
 #include "viewer/core/BuiltModel.h"
 #include "viewer/core/HandleCursor.h"
-#include "viewer/core/StartScene.h"
 
 #include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>

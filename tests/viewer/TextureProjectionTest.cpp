@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "viewer/core/BuiltModel.h"
 
 #include "support/TextureTest.h"
 

@@ -2,7 +2,6 @@
 // Dragging and undoing in the window, as a person does it.
 #include "tests/viewer/support/ShownWindow.h"
 #include "viewer/core/BuiltModel.h"
-#include "viewer/core/StartScene.h"
 
 #include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>

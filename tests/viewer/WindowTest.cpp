@@ -2,7 +2,6 @@
 // The window as a whole: that everything in it can be found, read, reached by
 // keys and seen in every theme.
 #include "tests/viewer/support/ShownWindow.h"
-#include "viewer/gui/AboutBox.h"
 #include "viewer/gui/LogPanel.h"
 #include "viewer/gui/PanelDocks.h"
 #include "viewer/gui/Theme.h"
@@ -18,7 +17,6 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QLineEdit>
-#include <QMenu>
 #include <QMenuBar>
 #include <QProgressBar>
 #include <QStatusBar>

@@ -27,7 +27,6 @@
 #include <QScreen>
 #include <QStatusBar>
 #include <QToolBar>
-#include <QUndoStack>
 
 #include <algorithm>
 
