@@ -14,13 +14,13 @@ set_target_properties(nbManipulator nbplatform PROPERTIES
     VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
     INSTALL_RPATH "$ORIGIN")
 
-# == Headers: what lies in a folder "detail" is not for users, nor are the parts of one class that only its own sources include
+# == Headers. Of the library: the classes, the modes of their handles, and what a manipulator of one's own is made of (course, handles,
+# drag). What lies in a folder "detail" of the platform is not for users.
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/manipulator DESTINATION ${NBM_HEADERS} COMPONENT development
-        FILES_MATCHING PATTERN "*.h" PATTERN "detail" EXCLUDE
-        PATTERN "PlanarTextureManipulatorState.h" EXCLUDE
-        PATTERN "UniversalTransformManipulator2Drag.h" EXCLUDE
-        PATTERN "UniversalTransformManipulator2Handles.h" EXCLUDE
-        PATTERN "nbSceneplateManipulatorParts.h" EXCLUDE)
+        FILES_MATCHING REGEX "/manipulator/[^/]*\\.h$" REGEX "/manipulator/(course|drag|handles)/[^/]*\\.h$" REGEX "Modes\\.h$"
+        PATTERN "scene" EXCLUDE PATTERN "match" EXCLUDE)
+install(FILES ${PROJECT_BINARY_DIR}/generated/manipulator/nbManipulatorExport.h DESTINATION ${NBM_HEADERS}/manipulator
+        COMPONENT development)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/modules DESTINATION ${NBM_HEADERS} COMPONENT development
         FILES_MATCHING PATTERN "*.h")
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/platform/ DESTINATION ${NBM_HEADERS} COMPONENT development

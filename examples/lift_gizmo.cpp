@@ -22,15 +22,22 @@ using nbec::interaction::InteractionEvent;
 struct LiftScene
 {
     LiftScene()
-        : box(osg::makeBox(1, 1, 1, 1, 1, 1))
+        : box(nbNodeUtils::convertToTransform3DNode(addBox()))
+        , lift(box)
+        , gizmo(lift)
     {
         view.resize(800, 600);
-        nbScenegraph::getRootNode()->addChild(box);
         gizmo.setVisualisationRoot(nbScenegraph::getInternalRoot());
-        gizmo.setNode(box);
         context.setPicker(&picker);
         context.setManipulator(&gizmo);
         manager.addContext(&context);
+    }
+
+    static osg::NodePtr addBox()
+    {
+        const osg::NodePtr added = osg::makeBox(1, 1, 1, 1, 1, 1);
+        nbScenegraph::getRootNode()->addChild(added);
+        return added;
     }
 
     /// Moves the pointer and sends an event, as a host's window does.
@@ -53,10 +60,9 @@ struct LiftScene
         nbUndoService::the()->endGroup();
     }
 
-    float height() const { return nbNodeUtils::getTransformNodeTranslation(box)[1]; }
-
     nbOSGWidget view;  ///< eye at (0, 0, 10), looking along -z
     osg::NodePtr box;
+    Lift lift;
     LiftManipulator gizmo;
     nbec::interaction::Picker picker;
     nbec::manipulator::ManipulatorInteractionContext context;
@@ -74,13 +80,13 @@ int main(int argc, char** argv)
     {
         LiftScene scene;
         scene.drag(400, 260, 160);  // 100 pixels up: 1.38 units in the plane of the box
-        std::cout << "lifted to " << scene.height() << '\n';
-        isRight = scene.height() > 1.3f && scene.height() < 1.4f;
+        std::cout << "lifted to " << scene.lift.getHeight() << '\n';
+        isRight = scene.lift.getHeight() > 1.3f && scene.lift.getHeight() < 1.4f;
         nbUndoService::the()->undo();
-        isRight = isRight && scene.height() == 0.f;
-        scene.drag(345, 300, 300);
-        std::cout << "put down at " << scene.height() << '\n';
-        isRight = isRight && scene.height() == 0.5f;
+        isRight = isRight && scene.lift.getHeight() == 0.f;
+        scene.drag(352, 300, 300);
+        std::cout << "put down at " << scene.lift.getHeight() << '\n';
+        isRight = isRight && scene.lift.getHeight() == 0.5f;
         nbUndoService::the()->clear();
         scene.manager.removeContext(&scene.context);
     }

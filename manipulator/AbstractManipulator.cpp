@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/AbstractManipulator.h"
 
-#include "manipulator/detail/EditBracket.h"
-
 #include <nbKernel/nbScenegraph.h>
+#include <nbOpenSGUtils/nbEdit.h>
 
 namespace nbec::manipulator {
 
@@ -14,7 +13,7 @@ void attach(const osg::NodePtr& root, const osg::NodePtr& visualisation, osg::Bi
     if (root == osg::NullFC || visualisation == osg::NullFC) {
         return;
     }
-    const detail::EditBracket edit(root, mask);
+    const nbEdit edit(root, mask);
     root->addChild(visualisation);
 }
 
@@ -23,7 +22,7 @@ void detach(const osg::NodePtr& root, const osg::NodePtr& visualisation)
     if (root == osg::NullFC || visualisation == osg::NullFC) {
         return;
     }
-    const detail::EditBracket edit(root, osg::FieldBits::AllFields);
+    const nbEdit edit(root, osg::FieldBits::AllFields);
     root->subChild(visualisation);
 }
 

@@ -1,20 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/AnchoredTextureManipulator.h"
 
-#include "manipulator/detail/AnchoredGizmo.h"
+#include "manipulator/texture/AnchoredGizmo.h"
 
 #include <utility>
 
 namespace nbec::manipulator {
 
 AnchoredTextureManipulator::AnchoredTextureManipulator(
-    std::unique_ptr<detail::AnchoredGizmo> newGizmo)
-    : gizmo(std::move(newGizmo))
+    std::unique_ptr<texture::AnchoredGizmo> newGizmo)
+    : GizmoFace(std::move(newGizmo))
 { }
 
 AnchoredTextureManipulator::AnchoredTextureManipulator(const AnchoredTextureManipulator& other)
-    : AbstractManipulator(other)
-    , gizmo(other.gizmo->clone())
+    : GizmoFace(other, other.course().clone())
 { }
 
 AnchoredTextureManipulator&
@@ -22,14 +21,17 @@ AnchoredTextureManipulator::operator=(const AnchoredTextureManipulator& other)
 {
     if (this != &other) {
         AbstractManipulator::operator=(other);
-        gizmo = other.gizmo->clone();
+        gizmo = other.course().clone();
     }
     return *this;
 }
 
 AnchoredTextureManipulator::~AnchoredTextureManipulator() = default;
 
-// == Events, in their slot order
+texture::AnchoredGizmo& AnchoredTextureManipulator::course() const
+{
+    return static_cast<texture::AnchoredGizmo&>(*gizmo);
+}
 
 void AnchoredTextureManipulator::activate(ManipulatorInteractionContext* ctx)
 {
@@ -42,119 +44,66 @@ void AnchoredTextureManipulator::activate(ManipulatorInteractionContext* ctx)
     }
 }
 
-void AnchoredTextureManipulator::deactivate(ManipulatorInteractionContext* ctx)
-{
-    // Deliberate: a drag goes on; hosts stop it before.
-    AbstractManipulator::deactivate(ctx);
-}
-
-osg::NodePtr AnchoredTextureManipulator::getVisualisation()
-{
-    return gizmo->root.get();
-}
-
-osg::NodePtr AnchoredTextureManipulator::getCollider()
-{
-    return gizmo->root.get();
-}
-
-void AnchoredTextureManipulator::update(bool force)
-{
-    if (isActive()) {
-        gizmo->update(force);
-    }
-}
-
-bool AnchoredTextureManipulator::startManipulator(ManipulatorInteractionContext* ctx,
-                                                  const std::string& /*tool*/)
-{
-    return gizmo->start(ctx);
-}
-
-bool AnchoredTextureManipulator::processManipulator(ManipulatorInteractionContext* /*ctx*/,
-                                                    const std::string& /*tool*/)
-{
-    return gizmo->process();
-}
-
-bool AnchoredTextureManipulator::stopManipulator(ManipulatorInteractionContext* /*ctx*/,
-                                                 const std::string& /*tool*/)
-{
-    return gizmo->stop();
-}
-
-bool AnchoredTextureManipulator::hoverManipulator(ManipulatorInteractionContext* ctx,
-                                                  const std::string& /*tool*/)
-{
-    return gizmo->hover(ctx);
-}
-
-bool AnchoredTextureManipulator::resetManipulator(ManipulatorInteractionContext* /*ctx*/,
-                                                  const std::string& /*tool*/)
-{
-    return gizmo->reset();
-}
-
 // == What is edited
 
 void AnchoredTextureManipulator::setMessageReceiver(const std::string& receiver)
 {
-    gizmo->messageReceiver = receiver;
+    course().messageReceiver = receiver;
 }
 
 void AnchoredTextureManipulator::setMaterialComponent(osg::MaterialPtr material,
                                                       const std::string& component,
                                                       nbStateChunkBase* gui)
 {
-    gizmo->setComponent(material, component, gui);
+    course().setComponent(material, component, gui);
 }
 
 bool AnchoredTextureManipulator::isConnectedToMaterial(osg::MaterialPtr material) const
 {
-    return gizmo->component.isOf(material);
+    return course().component.isOf(material);
 }
 
 bool AnchoredTextureManipulator::isConnectedTo(osg::MaterialPtr material,
                                                const std::string& component) const
 {
-    return gizmo->component.is(material, component);
+    return course().component.is(material, component);
 }
 
 std::string AnchoredTextureManipulator::getComponentType() const
 {
-    return gizmo->component.getName();
+    return course().component.getName();
 }
 
 nbStateChunkBase* AnchoredTextureManipulator::getGUI() const
 {
-    return gizmo->component.getGUI();
+    return course().component.getGUI();
 }
 
 void AnchoredTextureManipulator::setGUI(nbStateChunkBase* gui)
 {
-    gizmo->component.setGUI(gui);
+    course().component.setGUI(gui);
 }
 
 osg::MaterialPtr AnchoredTextureManipulator::getMaterial() const
 {
-    return gizmo->component.getMaterial();
+    return course().component.getMaterial();
 }
 
 // == Where the handles are
 
 void AnchoredTextureManipulator::setAnchor(const osg::NodePtr& node, const osg::Pnt3f& position)
 {
-    gizmo->setAnchor(node, position);
+    course().setAnchor(node, position);
 }
 
 osg::Pnt3f AnchoredTextureManipulator::getAnchorPosition() const
 {
-    return gizmo->anchor.getWorldPosition();
+    return course().anchor.getWorldPosition();
 }
 
 osg::NodePtr AnchoredTextureManipulator::getAnchorNode() const
 {
-    return gizmo->anchor.getNode();
+    return course().anchor.getNode();
 }
 
 // == Handles shown
@@ -171,7 +120,7 @@ void AnchoredTextureManipulator::hideManipulator()
 
 void AnchoredTextureManipulator::updateManipulator()
 {
-    gizmo->place();
+    gizmo->placeIn(View());
 }
 
 }  // namespace nbec::manipulator

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "manipulator/AbstractManipulator.h"
+#include "manipulator/GizmoFace.h"
 
 #include <OpenSG/OSGMaterial.h>
-#include <OpenSG/OSGNode.h>
-#include <OpenSG/OSGVector.h>
 
 #include <memory>
 #include <string>
@@ -14,9 +12,9 @@ class nbStateChunkBase;
 
 namespace nbec::manipulator {
 
-namespace detail {
+namespace texture {
 class AnchoredGizmo;
-}  // namespace detail
+}  // namespace texture
 
 /// A gizmo at an anchor point on a node that edits how the picture of one component of a material
 /// lies on the surface. Base of the triplanar, UV and tire gizmos; appends no virtual operations.
@@ -38,7 +36,7 @@ class AnchoredGizmo;
 /// - A new anchor or component is shown with the next update; a view that becomes a perspective
 ///   one, too.
 /// - Copies share the handles with their original and are not in the list of live instances.
-class NB_MANIPULATOR_API AnchoredTextureManipulator : public AbstractManipulator
+class NB_MANIPULATOR_API AnchoredTextureManipulator : public GizmoFace<AbstractManipulator>
 {
 public:
     AnchoredTextureManipulator(const AnchoredTextureManipulator& other);
@@ -46,30 +44,6 @@ public:
 
     /// Also shows the handles if there is a material, and hides them if not.
     void activate(ManipulatorInteractionContext* ctx) override;
-    void deactivate(ManipulatorInteractionContext* ctx) override;
-    /// Top of the handle tree.
-    osg::NodePtr getVisualisation() override;
-    /// Top of the handle tree; the named handles below it can be hit.
-    osg::NodePtr getCollider() override;
-
-    /// Places the handles again if the anchor's node or the camera has moved (beyond 1e-6), the
-    /// field of view or the size of an orthographic view is another. Nothing while inactive or
-    /// without a material.
-    /// @param force  in any case
-    void update(bool force) override;
-
-    /// Grabs the handle under the pointer and hides the others. @return whether there is one
-    bool startManipulator(ManipulatorInteractionContext* ctx, const std::string& tool) override;
-    /// The first step of a drag captures what it starts from, further ones send.
-    /// @return whether a handle is grabbed and there is what the drag needs
-    bool processManipulator(ManipulatorInteractionContext* ctx, const std::string& tool) override;
-    /// Lets go of the handle and resumes the preview. @return whether one was grabbed and there is
-    /// still a material
-    bool stopManipulator(ManipulatorInteractionContext* ctx, const std::string& tool) override;
-    /// Highlights the handle under the pointer. @return whether there is one
-    bool hoverManipulator(ManipulatorInteractionContext* ctx, const std::string& tool) override;
-    /// Takes the highlight away. @return true
-    bool resetManipulator(ManipulatorInteractionContext* ctx, const std::string& tool) override;
 
     ~AnchoredTextureManipulator() override;
 
@@ -115,9 +89,9 @@ public:
     void updateManipulator();
 
 protected:
-    explicit AnchoredTextureManipulator(std::unique_ptr<detail::AnchoredGizmo> newGizmo);
+    explicit AnchoredTextureManipulator(std::unique_ptr<texture::AnchoredGizmo> newGizmo);
 
-    std::unique_ptr<detail::AnchoredGizmo> gizmo;
+    texture::AnchoredGizmo& course() const;
 };
 
 }  // namespace nbec::manipulator

@@ -1,20 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/CameraManipulator.h"
 
-#include "manipulator/detail/ContainerReference.h"
-#include "manipulator/detail/EditBracket.h"
-#include "manipulator/detail/HandleGroup.h"
-#include "manipulator/detail/HandleMaterials.h"
-#include "manipulator/detail/HandleNodes.h"
-#include "manipulator/detail/HandlePick.h"
-#include "manipulator/detail/InstanceRegistry.h"
-#include "manipulator/detail/NodeVisibility.h"
-#include "manipulator/detail/ScreenScale.h"
+#include "manipulator/ManipulatorInteractionContext.h"
+#include "manipulator/course/Gizmo.h"
+#include "manipulator/handles/ContainerReference.h"
+#include "manipulator/handles/HandleGroup.h"
+#include "manipulator/handles/HandleMaterials.h"
+#include "manipulator/handles/HandleNodes.h"
 
 #include <nbKernel/nbOSGWidget.h>
 #include <nbOpenSGExt/Transform3D.h>
 #include <nbOpenSGUberCamera/UberCamera.h>
-#include <nbOpenSGUberCamera/nbUberCameraUtils.h>
+#include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <OpenSG/OSGGeometry.h>
@@ -23,93 +20,70 @@ namespace nbec::manipulator {
 
 namespace {
 
-constexpr int kNormalSortKey = 64016;
-constexpr int kHighlightSortKey = 64015;
 constexpr float kHighlightTransparency = 0.01F;
 constexpr float kHighlightGrey = 0.25F;
 constexpr float kArmLength = 0.25F;
 constexpr float kUnchangedTolerance = 1e-6F;
 
-osg::UberCameraPtr mainCamera()
-{
-    const nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1);
-    return widget != nullptr ? widget->getUberCamera() : osg::UberCameraPtr();
-}
-
 /// Three segments of length 0.5 along the axes, centred on the origin.
 osg::GeometryPtr makeCross()
 {
-    const osg::GeoPTypesPtr types = osg::GeoPTypesUI8::create();
-    types->push_back(GL_LINES);
-    const osg::GeoPLengthsPtr lengths = osg::GeoPLengthsUI32::create();
-    const osg::GeoIndicesPtr indices = osg::GeoIndicesUI32::create();
-    const osg::GeoPositions3fPtr positions = osg::GeoPositions3f::create();
+    std::vector<osg::Pnt3f> ends;
+    std::vector<osg::UInt32> indices;
     for (osg::UInt32 axis = 0; axis < 3; ++axis) {
-        osg::Pnt3f end;
-        end[axis] = -kArmLength;
-        positions->push_back(end);
-        end[axis] = kArmLength;
-        positions->push_back(end);
-        indices->push_back(2 * axis);
-        indices->push_back(2 * axis + 1);
+        for (const float reach : { -kArmLength, kArmLength }) {
+            osg::Pnt3f end;
+            end[axis] = reach;
+            indices.push_back(static_cast<osg::UInt32>(ends.size()));
+            ends.push_back(end);
+        }
     }
-    lengths->push_back(positions->getSize());
-    const osg::GeometryPtr cross = osg::Geometry::create();
-    const detail::EditBracket edit(cross, osg::FieldBits::AllFields);
-    cross->setTypes(types);
-    cross->setLengths(lengths);
-    cross->setIndices(indices);
-    cross->setPositions(positions);
-    return cross;
+    return makeLineGeometry(ends, indices);
+}
+
+osg::SimpleMaterialRefPtr withSpecular(osg::SimpleMaterialRefPtr material, float grey)
+{
+    const nbEdit edit(material.get(), osg::SimpleMaterial::SpecularFieldMask);
+    material->setSpecular(osg::Color3f(grey, grey, grey));
+    return material;
 }
 
 }  // namespace
 
-float CameraManipulator::m_ManipulatorSize = detail::kDefaultManipulatorSize;
+Instances<CameraManipulator> CameraManipulator::instances;
 bool CameraManipulator::m_LocalSpaceManipulator = false;
-std::vector<CameraManipulator*> CameraManipulator::_allManipulators;
-CameraManipulator* CameraManipulator::_the = nullptr;
 
 CameraManipulator::CameraManipulator()
+    : transformNode(createManipulatorGeo())
+    , root(makeHandleRootOfPasses(transformNode.get()))
 {
-    transformNode = createManipulatorGeo();
-    const detail::HandlePasses passes = detail::makeHandlePasses(transformNode.get());
-    detail::showNode(transformNode.get(), false);
-    root = detail::makeHandleRoot();
-    detail::addChild(root.get(), passes.depthPass.get());
-    detail::addChild(root.get(), passes.handlePass.get());
-    _allManipulators.push_back(this);
+    showNode(transformNode.get(), false);
+    instances.add(this);
 }
 
 CameraManipulator::~CameraManipulator()
 {
-    detail::unregisterInstance(_allManipulators, this);
+    instances.remove(this);
 }
 
 void CameraManipulator::createMaterials()
 {
-    const detail::LineChunks chunks = detail::makeLineChunks();
-    normalMaterial =
-        detail::makeHandleMaterial(osg::Color3f(1.0F, 0.5F, 0.0F), kNormalSortKey, &chunks);
-    {
-        const detail::EditBracket edit(normalMaterial.get(),
-                                       osg::SimpleMaterial::SpecularFieldMask);
-        normalMaterial->setSpecular(osg::Color3f(0.5F, 0.5F, 0.5F));
-    }
-    highlightMaterial =
-        detail::makeHandleMaterial(osg::Color3f(kHighlightGrey, kHighlightGrey, kHighlightGrey),
-                                   kHighlightSortKey, nullptr, kHighlightTransparency);
-    const detail::EditBracket edit(highlightMaterial.get(), osg::SimpleMaterial::SpecularFieldMask);
-    highlightMaterial->setSpecular(osg::Color3f(1.0F, 1.0F, 1.0F));
+    const LineChunks chunks = makeLineChunks();
+    normalMaterial = withSpecular(
+        makeHandleMaterial(osg::Color3f(1.0F, 0.5F, 0.0F), handleSortKey::kSolid, &chunks), 0.5F);
+    highlightMaterial = withSpecular(
+        makeHandleMaterial(osg::Color3f(kHighlightGrey, kHighlightGrey, kHighlightGrey),
+                           handleSortKey::kLine, nullptr, kHighlightTransparency),
+        1.0F);
 }
 
 osg::NodePtr CameraManipulator::createManipulatorGeo()
 {
     createMaterials();
-    geometryNode = detail::makeNode(makeCross());
-    detail::setGeometryMaterial(geometryNode.get(), normalMaterial.get());
-    const osg::NodePtr transform = detail::makeTransform3DNode(osg::Vec3f());
-    detail::addChild(transform, geometryNode.get());
+    geometryNode = makeNode(makeCross());
+    setGeometryMaterial(geometryNode.get(), normalMaterial.get());
+    const osg::NodePtr transform = makeTransform3DNode(osg::Vec3f());
+    addChild(transform, geometryNode.get());
     nbNodeUtils::setIsAuxiliaryNode(transform, true);
     return transform;
 }
@@ -141,14 +115,15 @@ void CameraManipulator::update(bool force)
         updateManipulator();
         return;
     }
+    const View view;
     osg::Pnt3f cameraFrom;
     osg::Pnt3f cameraAt;
     osg::Vec3f cameraUp;
-    nbOSGWidget::getFromAtUp(-1, cameraFrom, cameraAt, cameraUp);
+    view.getFromAtUp(cameraFrom, cameraAt, cameraUp);
     const bool isSame = cameraFrom.equals(from, kUnchangedTolerance) &&
         cameraAt.equals(at, kUnchangedTolerance) && cameraUp.equals(up, kUnchangedTolerance) &&
-        nbOSGWidget::getFov(-1) == fov;
-    if (!isSame || isOrthographicSizeChanged()) {
+        view.getFov() == fov;
+    if (!isSame || isOrthographicSizeChanged(view)) {
         updateManipulator();
     }
 }
@@ -224,7 +199,7 @@ bool CameraManipulator::detectUnderPointer(ManipulatorInteractionContext* ctx)
     if (getSelectedNode() == osg::NullFC) {
         return false;
     }
-    const osg::NodePtr hit = detail::pickHandle(ctx);
+    const osg::NodePtr hit = Gizmo::pickHandle(ctx != nullptr ? ctx->getPicker() : nullptr);
     if (hit == osg::NullFC) {
         return false;
     }
@@ -242,12 +217,17 @@ void CameraManipulator::detectMode(const osg::NodePtr& /*hit*/)
 
 osg::NodePtr CameraManipulator::getSelectedNode() const
 {
-    return detail::resolveContainer<osg::NodePtr>(selectedNodeId);
+    return resolveContainer<osg::NodePtr>(selectedNodeId);
+}
+
+osg::NodePtr CameraManipulator::resolveTransformNode(const osg::NodePtr& node)
+{
+    return nbNodeUtils::resolveToTransformNode(node);
 }
 
 void CameraManipulator::setSelectedNode(const osg::NodePtr& node)
 {
-    selectedNodeId = detail::containerId(node);
+    selectedNodeId = containerId(node);
 }
 
 void CameraManipulator::showForSelection()
@@ -268,32 +248,29 @@ void CameraManipulator::activatePivotManipulator()
 
 void CameraManipulator::showAllElements()
 {
-    detail::showNode(transformNode.get(), true);
-    detail::showNode(geometryNode.get(), true);
+    showNode(transformNode.get(), true);
+    showNode(geometryNode.get(), true);
 }
 
 void CameraManipulator::hideAllElements()
 {
-    detail::showNode(transformNode.get(), false);
-    detail::showNode(geometryNode.get(), false);
+    showNode(transformNode.get(), false);
+    showNode(geometryNode.get(), false);
 }
 
 void CameraManipulator::updateManipulator()
 {
-    const osg::UberCameraPtr camera = mainCamera();
-    if (camera == osg::NullFC) {
+    const View view;
+    if (!view.exists() || view.getWidget()->getUberCamera() == osg::NullFC) {
         return;
     }
-    const float cameraFov = camera->getFov();
-    const osg::Pnt3f cameraFrom = camera->getFrom(0);
-    const osg::Pnt3f cameraPivot = nbOSGWidget::getPivot(-1);
+    const float cameraFov = view.getFov();
+    const osg::Pnt3f cameraFrom = view.getEye();
+    const osg::Pnt3f cameraPivot = view.getPivot();
     if (isUnchanged(cameraFrom, cameraPivot, cameraFov)) {
         return;
     }
-    scale = nbUberCameraUtils::isOrthographicCamera(camera)
-        ? detail::orthographicScale(camera->getNearPlaneDiagonal())
-        : detail::perspectiveScale((cameraFrom - cameraPivot).length(), cameraFov,
-                                   m_ManipulatorSize);
+    scale = view.scaleAt(cameraPivot, instances.m_ManipulatorSize, ViewDiagonal::NearPlane);
     place(cameraPivot);
     fov = cameraFov;
     from = cameraFrom;
@@ -307,50 +284,42 @@ bool CameraManipulator::isUnchanged(const osg::Pnt3f& cameraFrom, const osg::Pnt
         cameraPivot.equals(pivot, kUnchangedTolerance) && cameraFov == fov;
 }
 
-bool CameraManipulator::isOrthographicSizeChanged() const
+bool CameraManipulator::isOrthographicSizeChanged(const View& view) const
 {
-    const osg::UberCameraPtr camera = mainCamera();
-    return camera != osg::NullFC && camera->isOrthographic() &&
-        detail::orthographicScale(camera->getNearPlaneDiagonal()) != scale;
+    const std::optional<float> diagonal = view.orthographicDiagonal();
+    return diagonal && orthographicScale(*diagonal) != scale;
 }
 
 void CameraManipulator::place(const osg::Pnt3f& position) const
 {
     const osg::Transform3DPtr core = osg::Transform3DPtr::dcast(transformNode->getCore());
-    if (core == osg::NullFC) {
-        return;
+    if (core != osg::NullFC) {
+        placeTransform(core, position.subZero(), osg::Quaternion(),
+                       osg::Vec3f(scale, scale, scale));
     }
-    const detail::EditBracket edit(core,
-                                   osg::Transform3D::TranslationFieldMask |
-                                       osg::Transform3D::ScaleFieldMask |
-                                       osg::Transform3D::RotationFieldMask);
-    core->setTranslation(position.subZero());
-    core->setScale(osg::Vec3f(scale, scale, scale));
-    core->setRotation(osg::Quaternion());
 }
 
 // == All instances
 
 void CameraManipulator::setManipulatorSize(float size)
 {
-    m_ManipulatorSize = size;
-    if (_the != nullptr) {
-        _the->updateManipulator();
-    }
+    instances.setSize(size);
+}
+
+float CameraManipulator::getManipulatorSize()
+{
+    return instances.m_ManipulatorSize;
 }
 
 void CameraManipulator::setLocalSpaceManipulator(bool local)
 {
     m_LocalSpaceManipulator = local;
-    if (_the != nullptr) {
-        _the->updateManipulator();
-    }
+    instances.updateShared();
 }
 
 void CameraManipulator::updateAllManipulators()
 {
-    detail::forEachInstance(
-        _allManipulators, [](CameraManipulator& manipulator) { manipulator.updateManipulator(); });
+    instances.updateAll();
 }
 
 void CameraManipulator::createInstance()

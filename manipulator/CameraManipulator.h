@@ -2,6 +2,7 @@
 #pragma once
 
 #include "manipulator/NodeManipulator.h"
+#include "manipulator/course/Instances.h"
 
 #include <OpenSG/OSGSimpleMaterial.h>
 
@@ -17,6 +18,10 @@ namespace nbec::manipulator {
 /// detected. It shows while the manipulator is active and bound to a node that exists. It reads the
 /// camera and writes nothing to it. Copies share the tree and the materials with their original and
 /// are not registered.
+///
+/// It is no Gizmo: without handles and drags there is nothing of that course to take, and its rules
+/// of when to place differ (see update()). It uses the same views, materials, passes and list of
+/// instances.
 class NB_MANIPULATOR_API CameraManipulator : public NodeManipulator
 {
 public:
@@ -64,8 +69,7 @@ public:
     /// Size on screen of all crosses in perspective views, default 32; shows when the camera moves
     /// the next time. Deliberate: a size of 200 makes the scale infinite.
     static void setManipulatorSize(float size);
-
-    static float getManipulatorSize() { return m_ManipulatorSize; }
+    static float getManipulatorSize();
 
     static void setLocalSpaceManipulator(bool local);
 
@@ -79,26 +83,27 @@ public:
     static void createInstance();
 
 private:
+    friend struct Instances<CameraManipulator>;
+
     osg::NodePtr createManipulatorGeo();
     void createMaterials();
     osg::NodePtr getSelectedNode() const;
     void setSelectedNode(const osg::NodePtr& node);
     void showForSelection();
     void updateManipulator();
+    /// The transform that stands for a node.
     static osg::NodePtr resolveTransformNode(const osg::NodePtr& node);
     void detectMode(const osg::NodePtr& hit);
     bool detectUnderPointer(ManipulatorInteractionContext* ctx);
     bool isUnchanged(const osg::Pnt3f& cameraFrom, const osg::Pnt3f& cameraPivot,
                      float cameraFov) const;
-    bool isOrthographicSizeChanged() const;
+    bool isOrthographicSizeChanged(const View& view) const;
     void place(const osg::Pnt3f& position) const;
     void showAllElements();
     void hideAllElements();
 
-    static float m_ManipulatorSize;
+    static Instances<CameraManipulator> instances;
     static bool m_LocalSpaceManipulator;
-    static std::vector<CameraManipulator*> _allManipulators;
-    static CameraManipulator* _the;
 
     osg::UInt32 mode = 0;
     osg::RefPtr<osg::NodePtr> geometryNode;

@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/NodeManipulator.h"
 
-#include "manipulator/detail/ContainerReference.h"
+#include "manipulator/handles/ContainerReference.h"
 
 namespace nbec::manipulator {
 
 void NodeManipulator::setNode(const osg::NodePtr& node)
 {
-    nodeId = detail::containerId(node);
+    nodeId = containerId(node);
 }
 
 osg::NodePtr NodeManipulator::getNode() const
 {
-    return detail::resolveContainer<osg::NodePtr>(nodeId);
+    return resolveContainer<osg::NodePtr>(nodeId);
 }
 
 }  // namespace nbec::manipulator

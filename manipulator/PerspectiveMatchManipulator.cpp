@@ -2,9 +2,8 @@
 #include "manipulator/PerspectiveMatchManipulator.h"
 
 #include "manipulator/ManipulatorInteractionContext.h"
-#include "manipulator/detail/ContainerReference.h"
-#include "manipulator/detail/InstanceRegistry.h"
-#include "manipulator/detail/PerspectiveMatchVisualisation.h"
+#include "manipulator/handles/ContainerReference.h"
+#include "manipulator/match/PerspectiveMatchVisualisation.h"
 
 #include <nbInteraction/Picker.h>
 #include <nbKernel/nbOSGWidget.h>
@@ -30,7 +29,7 @@ struct LineAccess
 };
 
 /// In the order of PerspectiveMatchLine, from 1.
-constexpr std::array<LineAccess, detail::kMatchLineCount> kLineAccess { {
+constexpr std::array<LineAccess, match::kMatchLineCount> kLineAccess { {
     { &nbdPerspectiveMatch::getXLine1, &nbdPerspectiveMatch::setXLine1 },
     { &nbdPerspectiveMatch::getXLine2, &nbdPerspectiveMatch::setXLine2 },
     { &nbdPerspectiveMatch::getYLine1, &nbdPerspectiveMatch::setYLine1 },
@@ -42,15 +41,27 @@ constexpr std::array<LineAccess, detail::kMatchLineCount> kLineAccess { {
 /// Null for no line.
 const LineAccess* accessOf(PerspectiveMatchLine line)
 {
-    const std::size_t index = detail::matchLineIndex(line);
+    const std::size_t index = match::matchLineIndex(line);
     return index < kLineAccess.size() ? &kLineAccess[index] : nullptr;
 }
 
-/// Viewport of the main render widget; null without one.
-osg::ViewportPtr mainViewport()
+/// Null without a widget.
+osg::ViewportPtr viewportOf(const View& view)
 {
-    const nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1);
-    return widget != nullptr ? widget->getViewport() : osg::ViewportPtr();
+    return view.exists() ? view.getWidget()->getViewport() : osg::ViewportPtr();
+}
+
+/// Pixel of the pointer, device pixels, counted from the lower edge of the viewport; as the widget
+/// counts without a viewport.
+osg::Pnt2f pointerFromBelow(const View& view)
+{
+    const osg::Pnt2f& pointer = view.getPointer();
+    const osg::ViewportPtr viewport = viewportOf(view);
+    if (viewport == osg::NullFC) {
+        return pointer;
+    }
+    const auto lastRow = static_cast<float>(viewport->getPixelHeight() - 1);
+    return osg::Pnt2f(pointer.x(), lastRow - pointer.y());
 }
 
 QString commandTitle(const nbdCameraNode& camera)
@@ -65,18 +76,18 @@ const std::array<PerspectiveMatchLine, 6> PerspectiveMatchManipulator::kLines {
     PerspectiveMatchLine::XLine1, PerspectiveMatchLine::XLine2, PerspectiveMatchLine::YLine1,
     PerspectiveMatchLine::YLine2, PerspectiveMatchLine::ZLine1, PerspectiveMatchLine::ZLine2
 };
-std::vector<PerspectiveMatchManipulator*> PerspectiveMatchManipulator::_allManipulators;
+Instances<PerspectiveMatchManipulator> PerspectiveMatchManipulator::instances;
 
 PerspectiveMatchManipulator::PerspectiveMatchManipulator()
-    : visualisation(std::make_unique<detail::PerspectiveMatchVisualisation>())
+    : visualisation(std::make_unique<match::PerspectiveMatchVisualisation>())
 {
     connectToServices();
-    _allManipulators.push_back(this);
+    instances.add(this);
 }
 
 PerspectiveMatchManipulator::~PerspectiveMatchManipulator()
 {
-    detail::unregisterInstance(_allManipulators, this);
+    instances.remove(this);
 }
 
 void PerspectiveMatchManipulator::connectToServices() const
@@ -90,7 +101,7 @@ void PerspectiveMatchManipulator::connectToServices() const
 
 void PerspectiveMatchManipulator::setCamera(osg::UberCameraPtr camera)
 {
-    cameraId = detail::containerId(camera);
+    cameraId = containerId(camera);
     updateManipulator();
 }
 
@@ -101,7 +112,8 @@ void PerspectiveMatchManipulator::activate(ManipulatorInteractionContext* ctx)
     const bool wasActive = isActive();
     AbstractManipulator::activate(ctx);
     takePixelRatio(ctx);
-    showManipulator();
+    visualisation->show(true);
+    updateManipulator();
     if (!wasActive) {
         nbOSGWidget::addMGLWResizeCB(&PerspectiveMatchManipulator::updateAllManipulators);
     }
@@ -111,7 +123,7 @@ void PerspectiveMatchManipulator::deactivate(ManipulatorInteractionContext* ctx)
 {
     const bool wasActive = isActive();
     AbstractManipulator::deactivate(ctx);
-    hideManipulator();
+    visualisation->show(false);
     cameraId = 0;
     updateManipulator();
     // The widgets count how often the callback was added: only what was added is taken back.
@@ -155,17 +167,17 @@ bool PerspectiveMatchManipulator::startManipulator(ManipulatorInteractionContext
 bool PerspectiveMatchManipulator::processManipulator(ManipulatorInteractionContext* /*ctx*/,
                                                      const std::string& /*tool*/)
 {
-    if (line == PerspectiveMatchLine::NoLine || handle == detail::kNoPart ||
-        mainViewport() == osg::NullFC) {
+    const View view(getMousePosition());
+    if (line == PerspectiveMatchLine::NoLine || handle == match::kNoPart ||
+        viewportOf(view) == osg::NullFC) {
         return false;
     }
-    const osg::Pnt2f pointerPx = pointerFromBelow();
     if (!dragging) {
-        prepareManipulator(pointerPx);
+        prepareManipulator(view);
         dragging = true;
         return true;
     }
-    translate(pointerPx);
+    apply(parametersAt(view));
     updateMagnifier();
     updateManipulator();
     return true;
@@ -176,11 +188,11 @@ bool PerspectiveMatchManipulator::stopManipulator(ManipulatorInteractionContext*
 {
     grabbed = false;
     stopDrag();
-    if (line == PerspectiveMatchLine::NoLine || handle == detail::kNoPart) {
+    if (line == PerspectiveMatchLine::NoLine || handle == match::kNoPart) {
         return false;
     }
     line = PerspectiveMatchLine::NoLine;
-    handle = detail::kNoPart;
+    handle = match::kNoPart;
     return true;
 }
 
@@ -192,19 +204,16 @@ bool PerspectiveMatchManipulator::hoverManipulator(ManipulatorInteractionContext
     }
     hovered = true;
     takePixelRatio(ctx);
-    if (!updateMode()) {
-        stopHighlight();
-        return false;
-    }
-    startHighlight();
-    return true;
+    const bool isFound = updateMode();
+    visualisation->highlight({ line, handle });
+    return isFound;
 }
 
 bool PerspectiveMatchManipulator::resetManipulator(ManipulatorInteractionContext* /*ctx*/,
                                                    const std::string& /*tool*/)
 {
     hovered = false;
-    stopHighlight();
+    visualisation->highlight({});
     visualisation->showMagnifier(false);
     return true;
 }
@@ -279,7 +288,7 @@ void PerspectiveMatchManipulator::updateManipulator()
     if (!isActive()) {
         return;
     }
-    visualisation->setCamera(nbUberCameraPool::get(cameraId));
+    visualisation->setCamera(nbUberCameraPool::get(cameraId), viewportOf(View()));
     const nbCameraTypes::VanishingLinesType type = getVanishingLinesType();
     for (const PerspectiveMatchLine each : kLines) {
         visualisation->updateLine(each, getLine(each), type);
@@ -289,20 +298,7 @@ void PerspectiveMatchManipulator::updateManipulator()
 
 void PerspectiveMatchManipulator::updateAllManipulators()
 {
-    detail::forEachInstance(_allManipulators, [](PerspectiveMatchManipulator& manipulator) {
-        manipulator.updateManipulator();
-    });
-}
-
-void PerspectiveMatchManipulator::showManipulator()
-{
-    visualisation->show(true);
-    updateManipulator();
-}
-
-void PerspectiveMatchManipulator::hideManipulator()
-{
-    visualisation->show(false);
+    instances.updateAll();
 }
 
 void PerspectiveMatchManipulator::takePixelRatio(ManipulatorInteractionContext* ctx)
@@ -313,53 +309,19 @@ void PerspectiveMatchManipulator::takePixelRatio(ManipulatorInteractionContext* 
     }
 }
 
-// == Finding what is under the pointer
+// == Dragging
 
-/// Pixel of the pointer, device pixels, counted from the lower edge of the viewport; as the widget
-/// counts without a viewport.
-osg::Pnt2f PerspectiveMatchManipulator::pointerFromBelow() const
-{
-    const osg::Pnt2f pointer = getMousePosition();
-    const osg::ViewportPtr viewport = mainViewport();
-    if (viewport == osg::NullFC) {
-        return pointer;
-    }
-    const auto lastRow = static_cast<float>(viewport->getPixelHeight() - 1);
-    return osg::Pnt2f(pointer.x(), lastRow - pointer.y());
-}
-
-osg::NodePtr PerspectiveMatchManipulator::pickNode() const
-{
-    return visualisation->pick(pointerFromBelow());
-}
-
-bool PerspectiveMatchManipulator::detectMode(const osg::NodePtr& node)
-{
-    detail::MatchPart found;
-    const bool isFound = visualisation->partOf(node, found);
-    line = found.line;
-    handle = found.part;
-    return isFound;
-}
-
+/// Finds the part under the pointer. @return whether there is one
 bool PerspectiveMatchManipulator::updateMode()
 {
-    detectMode(pickNode());
+    match::MatchPart found;
+    const osg::NodePtr node = visualisation->pick(pointerFromBelow(View(getMousePosition())));
+    visualisation->partOf(node, found);
+    line = found.line;
+    handle = found.part;
     dragging = false;
-    return line != PerspectiveMatchLine::NoLine && handle != detail::kNoPart;
+    return found.isSet();
 }
-
-void PerspectiveMatchManipulator::startHighlight()
-{
-    visualisation->highlight({ line, handle });
-}
-
-void PerspectiveMatchManipulator::stopHighlight()
-{
-    visualisation->clearHighlight();
-}
-
-// == Dragging
 
 void PerspectiveMatchManipulator::startDrag()
 {
@@ -373,28 +335,39 @@ void PerspectiveMatchManipulator::stopDrag()
     visualisation->showMagnifier(false);
 }
 
-void PerspectiveMatchManipulator::prepareManipulator(const osg::Pnt2f& pointerPx)
+void PerspectiveMatchManipulator::prepareManipulator(const View& view)
 {
-    dragStart = pointerPx;
+    dragStart = pointerFromBelow(view);
     lineAtDragStart = getLine(line);
 }
 
-void PerspectiveMatchManipulator::translate(const osg::Pnt2f& pointerPx)
+/// How far the pointer has come since the drag's start, line coordinates.
+DragParameters PerspectiveMatchManipulator::parametersAt(const View& view) const
 {
-    const osg::Vec2f way = visualisation->toLineUnits(pointerPx - dragStart);
-    const bool movesFirst = handle == detail::kLineBody || handle == detail::kFirstEnd;
-    const bool movesSecond = handle == detail::kLineBody || handle == detail::kSecondEnd;
-    const osg::Pnt2f& first = lineAtDragStart.getFirst();
-    const osg::Pnt2f& second = lineAtDragStart.getSecond();
-    setLine(line,
-            osg::Line2D(movesFirst ? first + way : first, movesSecond ? second + way : second));
+    return { DragParameters::Kind::Offset,
+             visualisation->toLineUnits(pointerFromBelow(view) - dragStart) };
+}
+
+/// Moves what is held to an offset from the drag's start.
+void PerspectiveMatchManipulator::apply(const DragParameters& parameters)
+{
+    const osg::Vec2f way = parameters.vec2();
+    osg::Pnt2f first = lineAtDragStart.getFirst();
+    osg::Pnt2f second = lineAtDragStart.getSecond();
+    if (handle == match::kLineBody || handle == match::kFirstEnd) {
+        first += way;
+    }
+    if (handle == match::kLineBody || handle == match::kSecondEnd) {
+        second += way;
+    }
+    setLine(line, osg::Line2D(first, second));
 }
 
 // == Magnifier
 
 bool PerspectiveMatchManipulator::isEndHeld() const
 {
-    return handle == detail::kFirstEnd || handle == detail::kSecondEnd;
+    return handle == match::kFirstEnd || handle == match::kSecondEnd;
 }
 
 void PerspectiveMatchManipulator::updateMagnifier()
@@ -415,8 +388,8 @@ void PerspectiveMatchManipulator::updateMagnifierPosition()
 {
     if (isEndHeld()) {
         const osg::Line2D held = getLine(line);
-        visualisation->placeMagnifier(handle == detail::kFirstEnd ? held.getFirst()
-                                                                  : held.getSecond());
+        visualisation->placeMagnifier(handle == match::kFirstEnd ? held.getFirst()
+                                                                 : held.getSecond());
     }
 }
 

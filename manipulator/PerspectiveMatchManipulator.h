@@ -3,6 +3,8 @@
 
 #include "manipulator/AbstractManipulator.h"
 #include "manipulator/PerspectiveMatchLine.h"
+#include "manipulator/course/Instances.h"
+#include "manipulator/drag/DragParameters.h"
 
 #include <nbKernelServices/nbCameraTypes.h>
 #include <nbKernelServices/nbdCameraNode.h>
@@ -16,13 +18,12 @@
 #include <array>
 #include <memory>
 #include <string>
-#include <vector>
 
 namespace nbec::manipulator {
 
-namespace detail {
+namespace match {
 class PerspectiveMatchVisualisation;
-}  // namespace detail
+}  // namespace match
 
 /// Edits the vanishing lines of a camera's perspective match by dragging them in the view.
 ///
@@ -44,6 +45,11 @@ class PerspectiveMatchVisualisation;
 /// The camera is held by its container id: one that is gone reads as none. A locked camera node
 /// refuses edits silently. Changes of a match that are made elsewhere are drawn when the host's
 /// object service announces them.
+///
+/// It takes no Gizmo's course: it finds its parts itself and not by a picker, a grab needs a hover
+/// before it, nothing is placed in the world, and every step is an undo step of its own. A step of
+/// a drag has the same two halves all the same: the pointer gives an offset in line coordinates,
+/// and applying that to the line of the drag's start is all that edits.
 class NB_MANIPULATOR_API PerspectiveMatchManipulator : public QObject, public AbstractManipulator
 {
     Q_OBJECT
@@ -95,6 +101,8 @@ public:
     osg::UInt32 getHoveredPart() const { return hovered || grabbed ? handle : 0; }
 
 private:
+    friend struct Instances<PerspectiveMatchManipulator>;
+
     void connectToServices() const;
     Q_SLOT void propertyChanged(const nbdObject& object, const QByteArray& property);
     void updateManipulator();
@@ -103,18 +111,12 @@ private:
     void setLine(PerspectiveMatchLine which, const osg::Line2D& value);
     nbCameraTypes::VanishingLinesType getVanishingLinesType() const;
 
-    osg::Pnt2f pointerFromBelow() const;
-    osg::NodePtr pickNode() const;
-    bool detectMode(const osg::NodePtr& node);
     bool updateMode();
-    void prepareManipulator(const osg::Pnt2f& pointerPx);
-    void translate(const osg::Pnt2f& pointerPx);
+    void prepareManipulator(const View& view);
+    DragParameters parametersAt(const View& view) const;
+    void apply(const DragParameters& parameters);
     void startDrag();
     void stopDrag();
-    void startHighlight();
-    void stopHighlight();
-    void showManipulator();
-    void hideManipulator();
     void takePixelRatio(ManipulatorInteractionContext* ctx);
 
     bool isEndHeld() const;
@@ -126,10 +128,10 @@ private:
     static void updateAllManipulators();
 
     static const std::array<PerspectiveMatchLine, 6> kLines;
-    static std::vector<PerspectiveMatchManipulator*> _allManipulators;
+    static Instances<PerspectiveMatchManipulator> instances;
 
     osg::UInt32 cameraId = 0;
-    std::unique_ptr<detail::PerspectiveMatchVisualisation> visualisation;
+    std::unique_ptr<match::PerspectiveMatchVisualisation> visualisation;
     PerspectiveMatchLine line = PerspectiveMatchLine::NoLine;
     osg::UInt32 handle = 0;
     osg::Pnt2f dragStart;

@@ -1,18 +1,22 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "manipulator/GizmoFace.h"
 #include "manipulator/NodeManipulator.h"
+#include "manipulator/course/Instances.h"
+#include "manipulator/texture/PlanarModes.h"
 
 #include <OpenSG/OSGMaterial.h>
 
-#include <memory>
 #include <string>
-#include <vector>
 
-class nbMessage;
 class nbStateChunkBase;
 
 namespace nbec::manipulator {
+
+namespace texture {
+class PlanarGizmo;
+}  // namespace texture
 
 /// The gizmo that moves, turns and scales the planar projection of a picture on an object.
 ///
@@ -43,45 +47,17 @@ namespace nbec::manipulator {
 ///   step that meets it starts the drag.
 /// - A drag is held by the handle that was under the pointer at its start; hovering changes
 ///   nothing until it stops. Deactivating ends it, and a pause of the preview that is still owed.
+/// - The first step makes the node a transform, with pivots at its centre if it has none.
+/// - update(false) places the handles anew if anything was edited, or the size was set.
 /// - Copies share the handle tree with their original and are not registered; a pause of the
 ///   preview stays with the original.
 ///
 /// All instances share the size. Everything runs on the user-interface thread.
-class NB_MANIPULATOR_API PlanarTextureManipulator : public NodeManipulator
+class NB_MANIPULATOR_API PlanarTextureManipulator : public GizmoFace<NodeManipulator>
 {
 public:
-    /// The handle that is hovered or grabbed.
-    enum class ActiveMode : osg::UInt32
-    {
-        None = 0,
-        Rotate = 1,
-        TranslateX = 2,
-        TranslateY = 3,
-        TranslateZ = 4,
-        TranslateXY = 5,
-        ScaleX = 6,
-        ScaleY = 7,
-        ScaleZ = 8,
-        ScaleUniform = 9,
-        ScaleLowerLeft = 10,
-        ScaleUpperLeft = 11,
-        ScaleLowerRight = 12,
-        ScaleUpperRight = 13,
-        ScaleLeft = 14,
-        ScaleRight = 15,
-        ScaleLower = 16,
-        ScaleUpper = 17,
-        ScaleZPlane = 18
-    };
-
-    /// Groups of handles shown: arrows and plane handle; scale axes, cube and all tabs; the ring.
-    enum class ManipulatorMode : osg::UInt32
-    {
-        Universal = 0,
-        Translate = 1,
-        Scale = 2,
-        Rotate = 3
-    };
+    using ActiveMode = texture::PlanarActiveMode;
+    using ManipulatorMode = texture::PlanarManipulatorMode;
 
     /// Builds the handles, hidden, and appends the instance to the list of live ones.
     /// @param withDepthPass  also draws a copy of the handles with the depth test always passing
@@ -89,34 +65,6 @@ public:
     explicit PlanarTextureManipulator(bool withDepthPass = false);
     PlanarTextureManipulator(const PlanarTextureManipulator& other);
     PlanarTextureManipulator& operator=(const PlanarTextureManipulator& other);
-
-    /// Also shows the handles if there is a node.
-    void activate(ManipulatorInteractionContext* ctx) override;
-    void deactivate(ManipulatorInteractionContext* ctx) override;
-    /// The root "Manipulatorgroup".
-    osg::NodePtr getVisualisation() override;
-    /// The root "Manipulatorgroup"; the named handles below it can be hit.
-    osg::NodePtr getCollider() override;
-
-    /// Reads the projection and re-places the handles if something was edited, the camera included,
-    /// or the size was set since the last time. Nothing while inactive or without a node.
-    /// @param force  in any case
-    void update(bool force) override;
-
-    /// Grabs the handle under the pointer, prepares, chooses plane and start point.
-    /// @return whether there is one
-    bool startManipulator(ManipulatorInteractionContext* ctx, const std::string& tool) override;
-    /// One step: makes the node a transform (with pivots at its centre if it has none), computes
-    /// from the start of the drag and sends. @return whether there is a handle and a node with a
-    /// parent
-    bool processManipulator(ManipulatorInteractionContext* ctx, const std::string& tool) override;
-    /// Lets go of the handle and resumes the preview. @return whether one was grabbed and there is
-    /// still a node
-    bool stopManipulator(ManipulatorInteractionContext* ctx, const std::string& tool) override;
-    /// Highlights the handle under the pointer. @return whether there is one
-    bool hoverManipulator(ManipulatorInteractionContext* ctx, const std::string& tool) override;
-    /// Takes the highlight away. @return true
-    bool resetManipulator(ManipulatorInteractionContext* ctx, const std::string& tool) override;
 
     /// Unregisters the instance, resumes the preview if that is owed and releases the handles.
     ~PlanarTextureManipulator() override;
@@ -212,38 +160,24 @@ public:
     static void createInstance(bool destroy);
 
     /// The shared instance, or null.
-    static PlanarTextureManipulator* getInstance() { return _the; }
+    static PlanarTextureManipulator* getInstance() { return instances._the; }
 
     /// Size of all gizmos in perspective views, 0 <= size < 200, default 32. The shared instance is
     /// re-placed at once, others at their next update.
     static void setManipulatorSize(float size);
 
-    static float getManipulatorSize() { return m_ManipulatorSize; }
+    static float getManipulatorSize() { return instances.m_ManipulatorSize; }
 
     /// Re-places every live gizmo, in the order of construction. The host calls it when the camera
     /// has moved.
     static void updateAllManipulators();
 
 private:
-    struct State;
+    friend struct Instances<PlanarTextureManipulator>;
 
-    void createManipulatorGeo(bool withDepthPass);
-    void activateMode(ManipulatorMode newMode);
-    ActiveMode detectMode(ManipulatorInteractionContext* ctx) const;
-    void endDrag();
-    void dragTo(const osg::NodePtr& node);
-    void translate(const osg::Pnt3f& hit);
-    void rotate(const osg::Pnt3f& hit);
-    void scale(const osg::Pnt3f& hit);
-    void scaleEdge(osg::NodePtr node, const osg::Pnt3f& hit, int edge);
-    void finishStep(nbMessage& message);
-    void setDescription(const osg::NodePtr& node);
+    texture::PlanarGizmo& course() const;
 
-    static float m_ManipulatorSize;
-    static std::vector<PlanarTextureManipulator*> _allManipulators;
-    static PlanarTextureManipulator* _the;
-
-    std::unique_ptr<State> state;
+    static Instances<PlanarTextureManipulator> instances;
 };
 
 }  // namespace nbec::manipulator

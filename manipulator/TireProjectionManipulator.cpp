@@ -1,28 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/TireProjectionManipulator.h"
 
-#include "manipulator/detail/InstanceRegistry.h"
-#include "manipulator/detail/ScreenScale.h"
-#include "manipulator/detail/TireGizmo.h"
+#include "manipulator/texture/TireGizmo.h"
 
 namespace nbec::manipulator {
 
-float TireProjectionManipulator::m_ManipulatorSize = detail::kDefaultManipulatorSize;
-std::vector<TireProjectionManipulator*> TireProjectionManipulator::_allManipulators;
-TireProjectionManipulator* TireProjectionManipulator::_the = nullptr;
+Instances<TireProjectionManipulator> TireProjectionManipulator::instances;
 
 TireProjectionManipulator::TireProjectionManipulator()
-    : AnchoredTextureManipulator(std::make_unique<detail::TireGizmo>())
+    : AnchoredTextureManipulator(std::make_unique<texture::TireGizmo>(instances.m_ManipulatorSize))
 {
-    _allManipulators.push_back(this);
+    instances.add(this);
 }
 
 TireProjectionManipulator::~TireProjectionManipulator()
 {
-    detail::unregisterInstance(_allManipulators, this);
-    if (_the == this) {
-        _the = nullptr;
-    }
+    instances.remove(this);
 }
 
 void TireProjectionManipulator::activateUniversalManipulator()
@@ -42,35 +35,29 @@ void TireProjectionManipulator::activateScaleManipulator()
 
 TireProjectionManipulator::ManipulatorMode TireProjectionManipulator::getMode() const
 {
-    return static_cast<ManipulatorMode>(gizmo->mode);
+    return static_cast<ManipulatorMode>(gizmo->getMode());
 }
 
 TireProjectionManipulator::ActiveMode TireProjectionManipulator::getActiveMode() const
 {
-    return static_cast<ActiveMode>(gizmo->activeMode);
+    return static_cast<ActiveMode>(gizmo->getArmed());
 }
 
 // == All instances
 
 void TireProjectionManipulator::createInstance()
 {
-    delete _the;
-    _the = new TireProjectionManipulator();
+    instances.share(new TireProjectionManipulator);
 }
 
 void TireProjectionManipulator::setManipulatorSize(float size)
 {
-    m_ManipulatorSize = size;
-    if (_the != nullptr) {
-        _the->updateManipulator();
-    }
+    instances.setSize(size);
 }
 
 void TireProjectionManipulator::updateAllManipulators()
 {
-    detail::forEachInstance(_allManipulators, [](TireProjectionManipulator& manipulator) {
-        manipulator.updateManipulator();
-    });
+    instances.updateAll();
 }
 
 }  // namespace nbec::manipulator

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "manipulator/AnchoredTextureManipulator.h"
-
-#include <vector>
+#include "manipulator/course/Instances.h"
+#include "manipulator/texture/TireModes.h"
 
 namespace nbec::manipulator {
 
@@ -39,26 +39,8 @@ namespace nbec::manipulator {
 class NB_MANIPULATOR_API TireProjectionManipulator : public AnchoredTextureManipulator
 {
 public:
-    /// Handles shown.
-    enum class ManipulatorMode : osg::Int32
-    {
-        Hidden = -1,
-        Universal = 0,
-        Translate = 1,
-        Scale = 2
-    };
-
-    /// The handle that is hovered or grabbed.
-    enum class ActiveMode : osg::UInt32
-    {
-        None = 0,
-        TranslateX = 1,
-        TranslateY = 2,
-        TranslateZ = 3,
-        ScaleHeight = 4,
-        ScaleRadius = 5,
-        ScaleU = 6
-    };
+    using ManipulatorMode = texture::TireMode;
+    using ActiveMode = texture::TireHandle;
 
     /// Builds the handles and appends the instance to the list of live ones.
     TireProjectionManipulator();
@@ -81,20 +63,18 @@ public:
     static void createInstance();
 
     /// The shared instance, or null. Whoever deletes it takes it away.
-    static TireProjectionManipulator* getInstance() { return _the; }
+    static TireProjectionManipulator* getInstance() { return instances._the; }
 
     /// Size on screen, 0 <= size < 200, default 32. The shared instance is placed anew.
     static void setManipulatorSize(float size);
 
-    static float getManipulatorSize() { return m_ManipulatorSize; }
+    static float getManipulatorSize() { return instances.m_ManipulatorSize; }
 
     /// Places every live gizmo anew, in the order of construction.
     static void updateAllManipulators();
 
 private:
-    static float m_ManipulatorSize;
-    static std::vector<TireProjectionManipulator*> _allManipulators;
-    static TireProjectionManipulator* _the;
+    static Instances<TireProjectionManipulator> instances;
 };
 
 }  // namespace nbec::manipulator

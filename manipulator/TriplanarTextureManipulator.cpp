@@ -1,28 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/TriplanarTextureManipulator.h"
 
-#include "manipulator/detail/InstanceRegistry.h"
-#include "manipulator/detail/ScreenScale.h"
-#include "manipulator/detail/TriplanarGizmo.h"
+#include "manipulator/texture/TriplanarGizmo.h"
 
 namespace nbec::manipulator {
 
-float TriplanarTextureManipulator::m_ManipulatorSize = detail::kDefaultManipulatorSize;
-std::vector<TriplanarTextureManipulator*> TriplanarTextureManipulator::_allManipulators;
-TriplanarTextureManipulator* TriplanarTextureManipulator::_the = nullptr;
+Instances<TriplanarTextureManipulator> TriplanarTextureManipulator::instances;
 
 TriplanarTextureManipulator::TriplanarTextureManipulator()
-    : AnchoredTextureManipulator(std::make_unique<detail::TriplanarGizmo>())
+    : AnchoredTextureManipulator(
+          std::make_unique<texture::TriplanarGizmo>(instances.m_ManipulatorSize))
 {
-    _allManipulators.push_back(this);
+    instances.add(this);
 }
 
 TriplanarTextureManipulator::~TriplanarTextureManipulator()
 {
-    detail::unregisterInstance(_allManipulators, this);
-    if (_the == this) {
-        _the = nullptr;
-    }
+    instances.remove(this);
 }
 
 void TriplanarTextureManipulator::activateUniversalManipulator()
@@ -42,45 +36,39 @@ void TriplanarTextureManipulator::activateRotateScaleManipulator()
 
 TriplanarTextureManipulator::ManipulatorMode TriplanarTextureManipulator::getMode() const
 {
-    return static_cast<ManipulatorMode>(gizmo->mode);
+    return static_cast<ManipulatorMode>(gizmo->getMode());
 }
 
 TriplanarTextureManipulator::ActiveMode TriplanarTextureManipulator::getActiveMode() const
 {
-    return static_cast<ActiveMode>(gizmo->activeMode);
+    return static_cast<ActiveMode>(gizmo->getArmed());
 }
 
 void TriplanarTextureManipulator::setRingsTilted(bool on)
 {
-    static_cast<detail::TriplanarGizmo&>(*gizmo).areRingsTilted = on;
+    static_cast<texture::TriplanarGizmo&>(*gizmo).areRingsTilted = on;
 }
 
 bool TriplanarTextureManipulator::areRingsTilted() const
 {
-    return static_cast<const detail::TriplanarGizmo&>(*gizmo).areRingsTilted;
+    return static_cast<const texture::TriplanarGizmo&>(*gizmo).areRingsTilted;
 }
 
 // == All instances
 
 void TriplanarTextureManipulator::createInstance()
 {
-    delete _the;
-    _the = new TriplanarTextureManipulator();
+    instances.share(new TriplanarTextureManipulator);
 }
 
 void TriplanarTextureManipulator::setManipulatorSize(float size)
 {
-    m_ManipulatorSize = size;
-    if (_the != nullptr) {
-        _the->updateManipulator();
-    }
+    instances.setSize(size);
 }
 
 void TriplanarTextureManipulator::updateAllManipulators()
 {
-    detail::forEachInstance(_allManipulators, [](TriplanarTextureManipulator& manipulator) {
-        manipulator.updateManipulator();
-    });
+    instances.updateAll();
 }
 
 }  // namespace nbec::manipulator

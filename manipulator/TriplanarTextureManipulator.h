@@ -2,8 +2,8 @@
 #pragma once
 
 #include "manipulator/AnchoredTextureManipulator.h"
-
-#include <vector>
+#include "manipulator/course/Instances.h"
+#include "manipulator/texture/TriplanarModes.h"
 
 namespace nbec::manipulator {
 
@@ -33,31 +33,8 @@ namespace nbec::manipulator {
 class NB_MANIPULATOR_API TriplanarTextureManipulator : public AnchoredTextureManipulator
 {
 public:
-    /// Handles shown.
-    enum class ManipulatorMode : osg::Int32
-    {
-        Hidden = -1,
-        Universal = 0,
-        Initial = 1,  ///< after construction: what is shown is left as it is
-        Rotate = 3,
-        RotateScale = 4
-    };
-
-    /// The handle that is hovered or grabbed.
-    enum class ActiveMode : osg::UInt32
-    {
-        None = 0,
-        RotateX = 1,
-        RotateY = 2,
-        RotateZ = 3,
-        TranslateX = 4,
-        TranslateY = 5,
-        TranslateZ = 6,
-        ScaleX = 7,
-        ScaleY = 8,
-        ScaleZ = 9,
-        ScaleUniform = 10
-    };
+    using ManipulatorMode = texture::TriplanarMode;
+    using ActiveMode = texture::TriplanarHandle;
 
     /// Builds the handles and appends the instance to the list of live ones.
     TriplanarTextureManipulator();
@@ -86,21 +63,19 @@ public:
     static void createInstance();
 
     /// The shared instance, or null. Whoever deletes it takes it away.
-    static TriplanarTextureManipulator* getInstance() { return _the; }
+    static TriplanarTextureManipulator* getInstance() { return instances._the; }
 
     /// Size on screen, 0 <= size < 200, default 32. Deliberate: 200 makes the size infinite in
     /// perspective views. The shared instance is placed anew.
     static void setManipulatorSize(float size);
 
-    static float getManipulatorSize() { return m_ManipulatorSize; }
+    static float getManipulatorSize() { return instances.m_ManipulatorSize; }
 
     /// Places every live gizmo anew, in the order of construction.
     static void updateAllManipulators();
 
 private:
-    static float m_ManipulatorSize;
-    static std::vector<TriplanarTextureManipulator*> _allManipulators;
-    static TriplanarTextureManipulator* _the;
+    static Instances<TriplanarTextureManipulator> instances;
 };
 
 }  // namespace nbec::manipulator

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/UVTextureManipulator.h"
 
-#include "manipulator/detail/InstanceRegistry.h"
-#include "manipulator/detail/UVGizmo.h"
+#include "manipulator/texture/UVGizmo.h"
 
 namespace nbec::manipulator {
 
@@ -10,25 +9,24 @@ namespace {
 
 constexpr float kDefaultSize = 0.03F;
 
-detail::UVGizmo& uvGizmo(detail::AnchoredGizmo& gizmo)
+texture::UVGizmo& uvGizmo(Gizmo& gizmo)
 {
-    return static_cast<detail::UVGizmo&>(gizmo);
+    return static_cast<texture::UVGizmo&>(gizmo);
 }
 
 }  // namespace
 
-float UVTextureManipulator::m_ManipulatorSize = kDefaultSize;
-std::vector<UVTextureManipulator*> UVTextureManipulator::_allManipulators;
+Instances<UVTextureManipulator> UVTextureManipulator::instances = { {}, nullptr, kDefaultSize };
 
 UVTextureManipulator::UVTextureManipulator()
-    : AnchoredTextureManipulator(std::make_unique<detail::UVGizmo>())
+    : AnchoredTextureManipulator(std::make_unique<texture::UVGizmo>(instances.m_ManipulatorSize))
 {
-    _allManipulators.push_back(this);
+    instances.add(this);
 }
 
 UVTextureManipulator::~UVTextureManipulator()
 {
-    detail::unregisterInstance(_allManipulators, this);
+    instances.remove(this);
 }
 
 void UVTextureManipulator::activateUniversalManipulator()
@@ -58,12 +56,12 @@ void UVTextureManipulator::activateRotateScaleManipulator()
 
 UVTextureManipulator::ManipulatorMode UVTextureManipulator::getMode() const
 {
-    return static_cast<ManipulatorMode>(gizmo->mode);
+    return static_cast<ManipulatorMode>(gizmo->getMode());
 }
 
 UVTextureManipulator::ActiveMode UVTextureManipulator::getActiveMode() const
 {
-    return static_cast<ActiveMode>(gizmo->activeMode);
+    return static_cast<ActiveMode>(gizmo->getArmed());
 }
 
 void UVTextureManipulator::setKeepAspectRatio(bool on)
@@ -90,14 +88,12 @@ float UVTextureManipulator::getAspectRatio() const
 
 void UVTextureManipulator::setManipulatorSize(float size)
 {
-    m_ManipulatorSize = size;
+    instances.setSize(size);
 }
 
 void UVTextureManipulator::updateAllManipulators()
 {
-    detail::forEachInstance(_allManipulators, [](UVTextureManipulator& manipulator) {
-        manipulator.updateManipulator();
-    });
+    instances.updateAll();
 }
 
 }  // namespace nbec::manipulator

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "manipulator/AnchoredTextureManipulator.h"
-
-#include <vector>
+#include "manipulator/course/Instances.h"
+#include "manipulator/texture/UVModes.h"
 
 namespace nbec::manipulator {
 
@@ -37,29 +37,8 @@ namespace nbec::manipulator {
 class NB_MANIPULATOR_API UVTextureManipulator : public AnchoredTextureManipulator
 {
 public:
-    /// Handles shown.
-    enum class ManipulatorMode : osg::Int32
-    {
-        Hidden = -1,
-        Universal = 0,
-        Translate = 1,
-        Scale = 2,
-        Rotate = 3,
-        RotateScale = 4
-    };
-
-    /// The handle that is hovered or grabbed.
-    enum class ActiveMode : osg::UInt32
-    {
-        None = 0,
-        Rotate = 1,
-        TranslateU = 2,
-        TranslateV = 3,
-        TranslateUV = 4,
-        ScaleU = 5,
-        ScaleV = 6,
-        ScaleUniform = 7
-    };
+    using ManipulatorMode = texture::UVMode;
+    using ActiveMode = texture::UVHandle;
 
     /// Builds the handles and appends the instance to the list of live ones.
     UVTextureManipulator();
@@ -91,14 +70,13 @@ public:
     /// updateAllManipulators().
     static void setManipulatorSize(float size);
 
-    static float getManipulatorSize() { return m_ManipulatorSize; }
+    static float getManipulatorSize() { return instances.m_ManipulatorSize; }
 
     /// Places every live gizmo anew, in the order of construction.
     static void updateAllManipulators();
 
 private:
-    static float m_ManipulatorSize;
-    static std::vector<UVTextureManipulator*> _allManipulators;
+    static Instances<UVTextureManipulator> instances;
 };
 
 }  // namespace nbec::manipulator

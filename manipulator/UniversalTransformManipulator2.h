@@ -1,27 +1,20 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "manipulator/GizmoFace.h"
 #include "manipulator/NodeManipulator.h"
+#include "manipulator/course/Instances.h"
+#include "manipulator/transform/TransformModes.h"
 
-#include <nbOpenSGExt/Transform3D.h>
-#include <nbTransform/nbTransformModel.h>
-
-#include <OpenSG/OSGMatrix.h>
-
-#include <memory>
 #include <string>
 #include <vector>
 
 namespace nbec::manipulator {
 
-class TransformHandles;
-struct NodeTransformationInfo;
-struct TransformDrag;
-
-namespace detail {
-class PivotMarks;
-class ScreenScale;
-}  // namespace detail
+namespace transform {
+class TransformGizmo;
+struct TransformSettings;
+}  // namespace transform
 
 /// The translate, rotate and scale gizmo for scene nodes.
 ///
@@ -43,77 +36,26 @@ class ScreenScale;
 /// - Plane handles: a square patch of 0.4 with a bar (radius 0.02) along both outer edges.
 /// - A drag is held by the handle that was under the pointer at its start; hovering changes
 ///   nothing until it stops.
+/// - update(false) looks at the node's matrix, not at the camera, for which the host calls
+///   updateAllManipulators(). An edit of the node shows once it is closed with endEditCP.
 ///
 /// All instances share the size and the space setting. Belongs to the user-interface thread.
-class NB_MANIPULATOR_API UniversalTransformManipulator2 : public NodeManipulator
+class NB_MANIPULATOR_API UniversalTransformManipulator2 : public GizmoFace<NodeManipulator>
 {
 public:
-    /// Which handles are shown.
-    enum class ManipulatorMode : osg::UInt32
-    {
-        Universal = 0,  ///< all but the markers
-        Translate = 1,  ///< arrows and planes
-        Scale = 2,  ///< scale handles and the cube "grid"
-        Rotate = 3,  ///< rings
-        RotatePivot = 4,  ///< arrows, planes, rings and the sphere
-        ScalePivot = 5,  ///< arrows, planes and the purple cube
-        Clipping = 6,  ///< arrows, planes and rings
-        TranslateRotate = 7,  ///< arrows, planes and rings
-        TranslateRotateYZ = 8,  ///< arrows, planes, y and z ring
-        TranslateRotateScale = 9  ///< arrows, planes, rings and the scale handles of the axes
-    };
-
-    /// The handle that is hovered or grabbed.
-    enum class ActiveMode : osg::UInt32
-    {
-        None = 0,
-        RotateX = 1,
-        RotateY = 2,
-        RotateZ = 3,
-        TranslateX = 4,
-        TranslateY = 5,
-        TranslateZ = 6,
-        TranslateXY = 7,
-        TranslateXZ = 8,
-        TranslateYZ = 9,
-        ScaleX = 10,
-        ScaleY = 11,
-        ScaleZ = 12,
-        ScaleUniform = 13
-    };
+    using ManipulatorMode = transform::ManipulatorMode;
+    using ActiveMode = transform::ActiveMode;
 
     /// Builds the handles, hidden, in mode translate; joins the list of live instances.
     UniversalTransformManipulator2();
     UniversalTransformManipulator2(const UniversalTransformManipulator2&) = delete;
     UniversalTransformManipulator2& operator=(const UniversalTransformManipulator2&) = delete;
 
-    /// Also shows the handles if there is a node.
+    /// Also shows the handles if there is a node, by showActiveManipulator().
     void activate(ManipulatorInteractionContext* ctx) override;
-    /// Also forgets the active handle and its highlight.
-    void deactivate(ManipulatorInteractionContext* ctx) override;
-    /// The root "Manipulatorgroup".
-    osg::NodePtr getVisualisation() override;
-    /// The root "Manipulatorgroup"; the named handles below it can be hit.
-    osg::NodePtr getCollider() override;
 
-    /// Re-places the gizmo if the node has moved since the last time; does not look at the camera,
-    /// for which the host calls updateAllManipulators(). Nothing while inactive or without a node.
-    /// An edit of the node shows once it is closed with endEditCP.
-    /// @param force  re-places it in any case
-    void update(bool force) override;
-
-    /// Grabs the handle under the pointer, after update(false), and hides the others.
-    /// @return whether there is one
-    bool startManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
-    /// @return whether a handle is grabbed and the node can still be edited
-    bool processManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
-    /// Lets go of the handle. @return whether one was grabbed and there is still a node
+    /// Also shows the handles again, by showActiveManipulator().
     bool stopManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
-
-    /// Highlights the handle under the pointer, after update(false). @return whether there is one
-    bool hoverManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
-    /// Takes the highlight away. @return true
-    bool resetManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
 
     /// "precisionTool" switches temporary snapping on, every other mode off, for all instances.
     /// Deliberate: "tool" answers false, although it takes effect; "precisionTool" and "" answer
@@ -165,86 +107,24 @@ public:
     static void updateAllManipulators();
 
     /// The family of handles shown; Translate after construction.
-    ManipulatorMode getMode() const { return mode; }
+    ManipulatorMode getMode() const;
 
     /// Switches snapping of this gizmo.
-    void enableSnapping(bool on) { snappingEnabled = on; }
+    void enableSnapping(bool on);
 
     /// Switches the on-screen text of this gizmo.
-    void setDescriptionEnabled(bool on) { descriptionEnabled = on; }
+    void setDescriptionEnabled(bool on);
 
 private:
+    friend struct Instances<UniversalTransformManipulator2>;
+
+    void updateManipulator();
     void activateMode(ManipulatorMode newMode);
-    void endHover();
-    ActiveMode detectMode(ManipulatorInteractionContext* ctx) const;
-
-    void updateManipulator(bool areMarksPlaced = false);
-    void updateManipulator(const detail::ScreenScale& scale, bool areMarksPlaced);
-    void updateSize(const detail::ScreenScale& scale);
-    osg::Pnt3f anchorWorld(const osg::NodePtr& node) const;
-    osg::Quaternion orientationWorld(const osg::NodePtr& node) const;
-    /// Centre of an object's volume, in its own frame or in the world's.
-    static osg::Pnt3f calculateObjectCenter(const osg::NodePtr& node, bool worldSpace);
-
-    /// Shows the values that the grabbed handle edits as on-screen text; null takes the text away.
-    /// @return whether there is a text
-    bool setDescription(const osg::NodePtr& node);
-    void placeMarks();
-    void updateMarks(float size, bool arePlaced);
-
-    osg::NodePtr makeTransform(const osg::NodePtr& node);
-    osg::NodePtr getTransform(osg::UInt32 index);
-    void prepareAll(const osg::NodePtr& node);
-    void prepareManipulator(const osg::NodePtr& node);
-    void captureStart(const osg::NodePtr& node);
-    osg::Vec3f ringAxisAbove(const osg::NodePtr& node) const;
-    void updateManipulatorPlane(const osg::NodePtr& node);
-    /// World direction in which an axis of the active handle goes, unit length.
-    osg::Vec3f movementAxis(const osg::NodePtr& node, osg::UInt32 axis) const;
-    osg::Matrix gizmoFrame() const;
-    osg::Matrix translationFrame(const osg::NodePtr& node, const osg::Transform3DPtr& transform);
-    osg::Matrix scaleFrame(const osg::Pnt3f& start) const;
-
-    void dragTo(const osg::NodePtr& node, const osg::Pnt3f& point);
-    void translate(const osg::NodePtr& node, const osg::Pnt3f& point);
-    void rotate(const osg::NodePtr& node, const osg::Pnt3f& point);
-    void scale(const osg::NodePtr& node, const osg::Pnt3f& point);
-    void translatePivot(const osg::NodePtr& node, const osg::Pnt3f& point);
-    void rotatePivot(const osg::NodePtr& node, const osg::Pnt3f& point);
-    static double computeRotation(const osg::Pnt3f& from, const osg::Pnt3f& to, osg::UInt32 axis);
-    osg::Vec3f handleDelta(const osg::Pnt3f& point) const;
-    osg::Vec3f scaleFactors(const osg::Pnt3f& point) const;
-    void resolveTargets(const osg::NodePtr& node);
-    nbTransformModel::Value valueFor(osg::UInt32 index, const osg::Vec3f& value) const;
-    bool areAllEdited(osg::UInt32 edited);
-    void finishStep(const osg::NodePtr& node, bool describe, bool areMarksPlaced);
     bool snappingActive() const;
+    transform::TransformGizmo& course() const;
 
-    static float m_ManipulatorSize;
-    static bool m_LocalSpaceManipulator;
-    static std::vector<UniversalTransformManipulator2*> _allManipulators;
-    static UniversalTransformManipulator2* _the;
-    static bool _temporary_snapping_active;
-
-    bool isPlaced = false;  ///< at the node, until the scene is edited; see sceneStamp()
-    osg::Transform3DPtr placement;  ///< core of the handle tree, which never gets another
-    std::vector<NodeTransformationInfo> transformationInfos;
-    ManipulatorMode mode = ManipulatorMode::Translate;
-    ActiveMode activeHandle = ActiveMode::None;
-    bool grabbing = false;
-    bool snappingEnabled = false;
-    bool descriptionEnabled = true;
-    osg::RefPtr<osg::NodePtr> root;
-    osg::RefPtr<osg::NodePtr> multiselection;
-    std::unique_ptr<detail::PivotMarks> marks;  ///< of the further nodes
-    osg::RefPtr<osg::NodePtr> additionalGeometry;
-    std::unique_ptr<TransformHandles> handles;
-    std::vector<osg::NodePtr> resolvedTargets;  ///< looked up for one step, otherwise empty
-    std::unique_ptr<TransformDrag> drag;
-    osg::Pnt3f grabbedPoint;  ///< where the grabbed handle was hit, world
-    bool prepared = false;
-    osg::Matrix cachedTargetToWorld;
-    osg::UInt64 comparedStamp = 0;  ///< edits seen by the last comparison, see EditStamp.h
+    static Instances<UniversalTransformManipulator2> instances;
+    static transform::TransformSettings settings;
 };
 
 }  // namespace nbec::manipulator

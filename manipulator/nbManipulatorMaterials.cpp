@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/nbManipulatorMaterials.h"
 
-#include "manipulator/detail/EditBracket.h"
+#include "manipulator/handles/HandleMaterials.h"
 
+#include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbShaderHeader.h>
 #include <nbUtils/nbUtils.h>
 
@@ -12,11 +13,7 @@
 
 namespace nbManipulatorMaterials {
 
-using nbec::manipulator::detail::EditBracket;
-
 namespace {
-
-constexpr float kShininess = 10.0F;
 
 /// Body of the vertex program, enciphered (nbUtils::encryptShaderLF): it brings nbPosition to the
 /// world and applies the uniform viewProjectionMatrix.
@@ -45,7 +42,7 @@ constexpr const char* kFragmentBody = "uniform vec4 color; \n"
 osg::SHLChunkPtr createProjectionChunk(const osg::Color4f& color)
 {
     const osg::SHLChunkPtr chunk = osg::SHLChunk::create();
-    const EditBracket edit(chunk, osg::FieldBits::AllFields);
+    const nbEdit edit(chunk, osg::FieldBits::AllFields);
     chunk->setVertexProgram(shaderHeaderString(nbShaderStage::Vertex, true, false, false) +
                             nbUtils::decryptShaderLF(kEncipheredVertexBody));
     chunk->setGeometryProgram("");
@@ -62,29 +59,18 @@ osg::SHLChunkPtr createProjectionChunk(const osg::Color4f& color)
 
 osg::SimpleMaterialPtr createUnlitMaterial(const osg::Color4f& color, int sortKey)
 {
-    const osg::SimpleMaterialPtr material = osg::SimpleMaterial::create();
-    if (material == osg::NullFC) {
-        return material;
+    const osg::SimpleMaterialRefPtr material = nbec::manipulator::makeUnlitMaterial(color, sortKey);
+    if (material != osg::NullFC) {
+        osg::addRefCP(material.get());
     }
-    const osg::Color3f black(0.0F, 0.0F, 0.0F);
-    const EditBracket edit(material, osg::FieldBits::AllFields);
-    material->setEmission(black);
-    material->setAmbient(black);
-    material->setSpecular(black);
-    material->setDiffuse(osg::Color3f(color.red(), color.green(), color.blue()));
-    material->setShininess(kShininess);
-    material->setTransparency(1.0F - color.alpha());
-    material->setLit(false);
-    material->setSortKey(sortKey);
-    osg::addRefCP(material);
-    return material;
+    return material.get();
 }
 
 osg::ChunkMaterialPtr createProjectionMaterial(const osg::Color4f& color, int sortKey)
 {
     const osg::ChunkMaterialPtr material = osg::ChunkMaterial::create();
-    const EditBracket edit(
-        material, osg::ChunkMaterial::ChunksFieldMask | osg::ChunkMaterial::SortKeyFieldMask);
+    const nbEdit edit(material,
+                      osg::ChunkMaterial::ChunksFieldMask | osg::ChunkMaterial::SortKeyFieldMask);
     material->addChunk(createProjectionChunk(color), osg::State::AutoSlotReplace);
     material->setSortKey(sortKey);
     osg::addRefCP(material);

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/nbPlanarProjectionVisualization.h"
 
-#include "manipulator/detail/ContainerReference.h"
-#include "manipulator/detail/EditBracket.h"
-#include "manipulator/detail/HandleNodes.h"
-#include "manipulator/detail/NodeVisibility.h"
+#include "manipulator/handles/ContainerReference.h"
+#include "manipulator/handles/HandleNodes.h"
 
 #include <nbOpenSGExt/Transform3D.h>
+#include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbImage.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
@@ -21,14 +20,14 @@
 #include <utility>
 #include <vector>
 
-using nbec::manipulator::detail::addChild;
-using nbec::manipulator::detail::containerId;
-using nbec::manipulator::detail::EditBracket;
-using nbec::manipulator::detail::makeGroupNode;
-using nbec::manipulator::detail::makeNode;
-using nbec::manipulator::detail::makeTransform3DNode;
-using nbec::manipulator::detail::setGeometryMaterial;
-using nbec::manipulator::detail::showNode;
+using nbec::manipulator::addChild;
+using nbec::manipulator::containerId;
+using nbec::manipulator::makeGroupNode;
+using nbec::manipulator::makeLineGeometry;
+using nbec::manipulator::makeNode;
+using nbec::manipulator::makeTransform3DNode;
+using nbec::manipulator::setGeometryMaterial;
+using nbec::manipulator::showNode;
 
 namespace {
 
@@ -43,12 +42,10 @@ constexpr float kLineColor[] = { 1.0F, 0.85F, 0.35F };
 
 constexpr osg::UInt32 kCorners = 4;
 
-using Segment = std::pair<osg::UInt32, osg::UInt32>;
-
 osg::DepthChunkPtr makeSeeThroughChunk()
 {
     const osg::DepthChunkPtr chunk = osg::DepthChunk::create();
-    const EditBracket edit(chunk, osg::FieldBits::AllFields);
+    const nbEdit edit(chunk, osg::FieldBits::AllFields);
     chunk->setEnable(false);
     chunk->setReadOnly(true);
     chunk->setFunc(GL_LEQUAL);
@@ -58,7 +55,7 @@ osg::DepthChunkPtr makeSeeThroughChunk()
 osg::BlendChunkPtr makeBlendChunk()
 {
     const osg::BlendChunkPtr chunk = osg::BlendChunk::create();
-    const EditBracket edit(chunk, osg::FieldBits::AllFields);
+    const nbEdit edit(chunk, osg::FieldBits::AllFields);
     chunk->setSrcFactor(GL_SRC_ALPHA);
     chunk->setDestFactor(GL_ONE_MINUS_SRC_ALPHA);
     return chunk;
@@ -69,7 +66,7 @@ osg::BlendChunkPtr makeBlendChunk()
 osg::TextureChunkPtr makeTextureChunk()
 {
     const osg::TextureChunkPtr chunk = osg::TextureChunk::create();
-    const EditBracket edit(chunk, osg::FieldBits::AllFields);
+    const nbEdit edit(chunk, osg::FieldBits::AllFields);
     chunk->setEnvMode(GL_BLEND);
     chunk->setEnvColor(osg::Color4f(1.0F, 1.0F, 1.0F, 1.0F));
     chunk->setWrapS(GL_CLAMP_TO_EDGE);
@@ -81,7 +78,7 @@ osg::SimpleMaterialPtr makePlaneMaterial(const osg::TextureChunkPtr& texture)
 {
     const osg::Color3f black(0.0F, 0.0F, 0.0F);
     const osg::SimpleMaterialPtr material = osg::SimpleMaterial::create();
-    const EditBracket edit(material, osg::FieldBits::AllFields);
+    const nbEdit edit(material, osg::FieldBits::AllFields);
     material->setAmbient(black);
     material->setDiffuse(black);
     material->setSpecular(black);
@@ -99,12 +96,12 @@ osg::SimpleMaterialPtr makeLineMaterial()
 {
     const osg::LineChunkPtr line = osg::LineChunk::create();
     {
-        const EditBracket edit(line, osg::FieldBits::AllFields);
+        const nbEdit edit(line, osg::FieldBits::AllFields);
         line->setWidth(kLineWidth);
         line->setSmooth(true);
     }
     const osg::SimpleMaterialPtr material = osg::SimpleMaterial::create();
-    const EditBracket edit(material, osg::FieldBits::AllFields);
+    const nbEdit edit(material, osg::FieldBits::AllFields);
     material->setLit(false);
     material->setDiffuse(osg::Color3f(kLineColor[0], kLineColor[1], kLineColor[2]));
     material->setSortKey(kLineSortKey);
@@ -116,7 +113,7 @@ osg::SimpleMaterialPtr makeLineMaterial()
 /// Turns a geometry's surface to the other side: windings and normals.
 void faceBack(const osg::GeometryPtr& geometry)
 {
-    const EditBracket edit(geometry, osg::FieldBits::AllFields);
+    const nbEdit edit(geometry, osg::FieldBits::AllFields);
     // In a strip of two triangles, exchanged neighbours are the same triangles the other way round.
     const osg::GeoIndicesPtr indices = geometry->getIndices();
     for (osg::UInt32 i = 0; i + 1 < indices->getSize(); i += 2) {
@@ -140,39 +137,21 @@ void appendCorners(std::vector<osg::Pnt3f>& corners, float z)
     }
 }
 
-osg::NodePtr makeLines(const std::vector<osg::Pnt3f>& points, const std::vector<Segment>& segments,
-                       const osg::MaterialPtr& material)
+osg::NodePtr makeLines(const std::vector<osg::Pnt3f>& points,
+                       const std::vector<osg::UInt32>& indices, const osg::MaterialPtr& material)
 {
-    const osg::GeoPTypesPtr types = osg::GeoPTypesUI8::create();
-    types->push_back(GL_LINES);
-    const osg::GeoPLengthsPtr lengths = osg::GeoPLengthsUI32::create();
-    lengths->push_back(static_cast<osg::UInt32>(2 * segments.size()));
-    const osg::GeoPositions3fPtr positions = osg::GeoPositions3f::create();
-    for (const osg::Pnt3f& point : points) {
-        positions->push_back(point);
-    }
-    const osg::GeoIndicesPtr indices = osg::GeoIndicesUI32::create();
-    for (const auto& [from, to] : segments) {
-        indices->push_back(from);
-        indices->push_back(to);
-    }
-    const osg::GeometryPtr lines = osg::Geometry::create();
-    const EditBracket edit(lines, osg::FieldBits::AllFields);
-    lines->setTypes(types);
-    lines->setLengths(lengths);
-    lines->setPositions(positions);
-    lines->setIndices(indices);
-    lines->setMaterial(material);
-    return makeNode(lines);
+    const osg::NodePtr lines = makeNode(makeLineGeometry(points, indices));
+    setGeometryMaterial(lines, material);
+    return lines;
 }
 
 osg::NodePtr makeOutline(const osg::MaterialPtr& material)
 {
     std::vector<osg::Pnt3f> corners;
     appendCorners(corners, 0.0F);
-    std::vector<Segment> edges;
+    std::vector<osg::UInt32> edges;
     for (osg::UInt32 i = 0; i < kCorners; ++i) {
-        edges.emplace_back(i, (i + 1) % kCorners);
+        edges.insert(edges.end(), { i, (i + 1) % kCorners });
     }
     return makeLines(corners, edges, material);
 }
@@ -183,10 +162,10 @@ osg::NodePtr makeZExtentLines(const osg::MaterialPtr& material)
     std::vector<osg::Pnt3f> corners;
     appendCorners(corners, -1.0F);
     appendCorners(corners, 0.0F);
-    std::vector<Segment> edges;
+    std::vector<osg::UInt32> edges;
     for (osg::UInt32 i = 0; i < kCorners; ++i) {
-        edges.emplace_back(i, kCorners + i);
-        edges.emplace_back(kCorners + i, kCorners + (i + 1) % kCorners);
+        const osg::UInt32 nearEnd = kCorners + i;
+        edges.insert(edges.end(), { i, nearEnd, nearEnd, kCorners + (i + 1) % kCorners });
     }
     return makeLines(corners, edges, material);
 }
@@ -198,7 +177,7 @@ osg::NodePtr makeZExtentTransform()
     osg::Quaternion halfTurn;
     halfTurn.setValueAsQuat(1.0F, 0.0F, 0.0F, 0.0F);
     const osg::Transform3DPtr core = osg::Transform3D::create();
-    const EditBracket edit(core, osg::FieldBits::AllFields);
+    const nbEdit edit(core, osg::FieldBits::AllFields);
     core->setTranslation(end);
     core->setRotationOrientation(halfTurn);
     core->setScalePivot(end);
@@ -326,7 +305,7 @@ void nbPlanarProjectionVisualization::attachToNode(osg::NodePtr node)
     if (node != osg::NullFC) {
         node->getToWorld(worldFromNode);
     }
-    const EditBracket edit(core, osg::Transform::MatrixFieldMask);
+    const nbEdit edit(core, osg::Transform::MatrixFieldMask);
     core->setMatrix(worldFromNode);
 }
 
@@ -341,15 +320,15 @@ void nbPlanarProjectionVisualization::updateProjectionTransform(
         return;
     }
     {
-        const EditBracket edit(place,
-                               osg::Transform3D::RotationFieldMask |
-                                   osg::Transform3D::RotationOrientationFieldMask |
-                                   osg::Transform3D::TranslationFieldMask);
+        const nbEdit edit(place,
+                          osg::Transform3D::RotationFieldMask |
+                              osg::Transform3D::RotationOrientationFieldMask |
+                              osg::Transform3D::TranslationFieldMask);
         place->setRotation(projection->getRotationAsQuaternion());
         place->setRotationOrientation(projection->getRotationOrientation());
         place->setTranslation(projection->getTranslation());
     }
-    const EditBracket edit(zExtent, osg::Transform3D::ScaleFieldMask);
+    const nbEdit edit(zExtent, osg::Transform3D::ScaleFieldMask);
     zExtent->setScale(projection->getScale());
 }
 
@@ -357,7 +336,7 @@ void nbPlanarProjectionVisualization::setRotate(float angle)
 {
     const osg::Transform3DPtr core = transform3DOf(transform2DNode.get());
     if (core != osg::NullFC) {
-        const EditBracket edit(core, osg::Transform3D::RotationFieldMask);
+        const nbEdit edit(core, osg::Transform3D::RotationFieldMask);
         core->setRotation(osg::Vec3f(0.0F, 0.0F, angle));
     }
 }
@@ -366,7 +345,7 @@ void nbPlanarProjectionVisualization::setScale(float sx, float sy)
 {
     const osg::Transform3DPtr core = transform3DOf(transform2DNode.get());
     if (core != osg::NullFC) {
-        const EditBracket edit(core, osg::Transform3D::ScaleFieldMask);
+        const nbEdit edit(core, osg::Transform3D::ScaleFieldMask);
         core->setScale(osg::Vec3f(sx, sy, 1.0F));
     }
 }
@@ -387,7 +366,7 @@ void nbPlanarProjectionVisualization::setZScaleVisible(bool visible)
 void nbPlanarProjectionVisualization::setPlaneTransparency(float transparency)
 {
     for (const osg::SimpleMaterialRefPtr& material : planeMaterials) {
-        const EditBracket edit(material.get(), osg::SimpleMaterial::TransparencyFieldMask);
+        const nbEdit edit(material.get(), osg::SimpleMaterial::TransparencyFieldMask);
         material->setTransparency(transparency);
     }
 }
@@ -409,6 +388,6 @@ void nbPlanarProjectionVisualization::setTexture(osg::ImagePtr image, bool asMas
     shown.invert = invert;
     const osg::RefPtr<osg::ImagePtr> picture = pictureOf(image, asMask, invert);
     osg::ImagePtr chosen = picture.get();
-    const EditBracket edit(textureChunk.get(), osg::TextureChunk::ImageFieldMask);
+    const nbEdit edit(textureChunk.get(), osg::TextureChunk::ImageFieldMask);
     textureChunk->setImage(chosen);
 }

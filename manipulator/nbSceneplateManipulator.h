@@ -1,20 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "manipulator/AbstractManipulator.h"
+#include "manipulator/GizmoFace.h"
+#include "manipulator/course/Instances.h"
+#include "manipulator/plates/PlateModes.h"
 
-#include <nbOpenSGSceneplate/Sceneplate.h>
-
-#include <OpenSG/OSGSimpleMaterial.h>
-#include <OpenSG/OSGTransform.h>
-
-#include <array>
-#include <cstddef>
-#include <memory>
 #include <string>
 #include <vector>
 
-class nbOSGWidget;
+namespace nbec::manipulator::plates {
+class PlateGizmo;
+}  // namespace nbec::manipulator::plates
 
 /// Moves, turns and scales the selected scene plates in the plane of the screen.
 ///
@@ -37,7 +33,7 @@ class nbOSGWidget;
 /// - Colours: frame and boxes yellow (they act on both axes), arm blue (it turns about the view
 ///   axis), guide lines purple, orange highlights, all with a dark edge, so that they are seen on
 ///   every plate. During a drag only the grabbed handle and the frame are shown.
-/// - Handles lie in a plane before the eye whose unit is a pixel (see detail/ScreenPlane.h). They
+/// - Handles lie in a plane before the eye whose unit is a pixel (see plates/ScreenPlane.h). They
 ///   are drawn over plates and scene and picked as those of the other manipulators, and have one
 ///   size in logical pixels whatever the view's size: boxes 10, knob 12 across, arm 32 at the
 ///   default manipulator size, proportional to it.
@@ -56,22 +52,12 @@ class nbOSGWidget;
 /// Plates are held by the ids of their nodes; one that is deleted drops out. Without plates, widget
 /// or area nothing is shown and every event answers false. All instances share the size. Everything
 /// runs on the user-interface thread.
-class NB_MANIPULATOR_API nbSceneplateManipulator : public nbec::manipulator::AbstractManipulator
+class NB_MANIPULATOR_API nbSceneplateManipulator
+    : public nbec::manipulator::GizmoFace<nbec::manipulator::AbstractManipulator>
 {
 public:
     using ManipulatorInteractionContext = nbec::manipulator::ManipulatorInteractionContext;
-
-    /// The handle that is hovered or grabbed.
-    enum class ActiveMode : osg::UInt32
-    {
-        None = 0,
-        ScaleLowerLeft = 1,
-        ScaleUpperLeft = 2,
-        ScaleLowerRight = 3,
-        ScaleUpperRight = 4,
-        Rotate = 5,
-        Move = 6
-    };
+    using ActiveMode = nbec::manipulator::plates::ActiveMode;
 
     /// Builds the handles, hidden, and appends the instance to the list of live ones.
     nbSceneplateManipulator();
@@ -82,29 +68,11 @@ public:
     void activate(ManipulatorInteractionContext* ctx) override;
     /// Also lets go of a grabbed handle.
     void deactivate(ManipulatorInteractionContext* ctx) override;
-    /// The root "Manipulatorgroup".
-    osg::NodePtr getVisualisation() override;
-    /// The root "Manipulatorgroup"; the named handles below it can be hit.
-    osg::NodePtr getCollider() override;
-
-    /// Places the handles for the plates, the camera and the view's size as they are now; the host
-    /// calls it before a picture. Nothing while inactive, or if nothing has changed since the last
-    /// time in the same view.
-    /// @param force  places them in any case
-    void update(bool force) override;
 
     /// Grabs the handle under the pointer and pauses the preview. @return whether there is one
     bool startManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
-    /// @return whether a handle is grabbed and the drag can go on
-    bool processManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
-    /// Lets go of the handle and resumes the preview. @return whether one was grabbed and there is
-    /// still a plate
-    bool stopManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
 
-    /// Highlights the handle under the pointer. @return whether there is one
     bool hoverManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
-    /// Takes the highlight away. @return true
-    bool resetManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
 
     /// "precisionTool": see scaling and snapping above; every other mode ends it. As of the
     /// transform gizmo, "precisionTool" and "" answer true and all others false.
@@ -120,13 +88,13 @@ public:
     std::vector<osg::NodePtr> getNodes() const;
 
     /// The handle that is hovered or grabbed.
-    ActiveMode getActiveMode() const { return activeMode; }
+    ActiveMode getActiveMode() const;
 
     /// Switches snapping of this manipulator; off at first.
-    void enableSnapping(bool on) { snappingEnabled = on; }
+    void enableSnapping(bool on);
 
     /// Switches the on-screen text of this manipulator; on at first.
-    void setDescriptionEnabled(bool on) { descriptionEnabled = on; }
+    void setDescriptionEnabled(bool on);
 
     /// Creates a manipulator and makes it the shared instance; an earlier shared instance is
     /// destroyed.
@@ -134,89 +102,18 @@ public:
     /// Size of all handles, default 32. The shared instance is placed at once, others at their next
     /// update. @param size  above 0, others are ignored
     static void setManipulatorSize(float size);
-
-    static float getManipulatorSize() { return m_ManipulatorSize; }
+    static float getManipulatorSize();
 
     /// Places the handles of every live manipulator, in the order of construction. Also called by
     /// the widgets after a resize.
     static void updateAllManipulators();
 
 private:
-    static constexpr std::size_t kHandleCount = 6;
-    static constexpr std::size_t kGuideCount = 2;
-    static constexpr std::size_t kPartCount = 2;
-    static constexpr std::size_t kColorCount = 5;
+    friend struct nbec::manipulator::Instances<nbSceneplateManipulator>;
 
-    struct HandleRow;
-    static const std::array<HandleRow, kHandleCount> kHandles;
-    struct Drag;
-
-    /// A piece of a handle that changes its colour: a node with a geometry core.
-    struct HandlePart
-    {
-        osg::NodePtr node;
-        bool isLine = false;
-    };
-
-    /// The nodes of one row of the handle table; the handle tree keeps them alive.
-    struct HandleNodes
-    {
-        osg::NodePtr top;
-        osg::TransformPtr placement;  ///< core of the top
-        std::array<HandlePart, kPartCount> parts;
-    };
-
-    void createMaterials();
-    osg::NodePtr createManipulatorGeo();
-    static HandleNodes makeHandleNodes();
-    HandleNodes createHandle(const HandleRow& row) const;
-    void createBox(HandleNodes& box) const;
-    void createArm(HandleNodes& arm) const;
-    void createBody(HandleNodes& body) const;
-    HandleNodes createGuide() const;
-    void setHandleMaterials(std::size_t row, bool highlight);
-    void highlightMode(ActiveMode mode);
-    void showElements(ActiveMode grabbed);
-
-    std::vector<osg::SceneplatePtr> getPlates() const;
-    /// Whether getPlates() has any.
-    bool hasPlates() const;
-    ActiveMode detectMode(ManipulatorInteractionContext* ctx);
     void updateManipulator();
-    bool placeHandles(const nbOSGWidget& widget);
-    void placeGuides(const nbOSGWidget& widget);
-    void followPixelRatio(const ManipulatorInteractionContext* ctx);
-    float unitPx() const;
-    bool canGoOn(const nbOSGWidget* widget) const;
-    void dragTo(const osg::Pnt2f& pointerPx);
-    void sendChange() const;
-    void endDrag();
-    void setDescription() const;
+    void followPixelRatio(ManipulatorInteractionContext* ctx);
+    nbec::manipulator::plates::PlateGizmo& course() const;
 
-    bool snappingActive() const { return precisionActive || snappingEnabled; }
-
-    static float m_ManipulatorSize;
-    static std::vector<nbSceneplateManipulator*> _allManipulators;
-    static nbSceneplateManipulator* _the;
-
-    std::vector<osg::UInt32> nodeIds;
-    ActiveMode activeMode = ActiveMode::None;
-    ActiveMode highlighted = ActiveMode::None;
-    bool precisionActive = false;
-    bool snappingEnabled = false;
-    bool descriptionEnabled = true;
-    float pixelRatio = 1.0F;
-    std::unique_ptr<Drag> drag;  ///< exactly while a handle is grabbed
-
-    osg::RefPtr<osg::NodePtr> root;
-    osg::RefPtr<osg::NodePtr> handleTree;
-    osg::TransformPtr screenPlane;  ///< core of the handle tree: world from pixels
-    std::array<HandleNodes, kHandleCount> handles;
-    std::array<HandleNodes, kGuideCount> guides;  ///< the vertical and the horizontal one
-    std::array<osg::SimpleMaterialRefPtr, kColorCount> solidMaterials;
-    std::array<osg::SimpleMaterialRefPtr, kColorCount> lineMaterials;
-    osg::SimpleMaterialRefPtr clearMaterial;  ///< of what is hit, but not seen
-    osg::UInt64 comparedStamp = 0;  ///< edits seen by the last update, see EditStamp.h
-    const nbOSGWidget* comparedWidget = nullptr;  ///< of the last update, for comparison only
-    float comparedUnitPx = 0.0F;
+    static nbec::manipulator::Instances<nbSceneplateManipulator> instances;
 };

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/nbSceneplatePickTool.h"
 
-#include "manipulator/detail/ContainerReference.h"
+#include "manipulator/handles/ContainerReference.h"
 
 #include <nbInteraction/Picker.h>
 #include <nbInteraction/ToolInteractionContext.h>
@@ -132,7 +132,7 @@ void nbSceneplatePickTool::setMessageReceiver(const std::string& receiver)
 
 osg::SceneplatePtr nbSceneplatePickTool::getSceneplate() const
 {
-    return nbec::manipulator::detail::resolveContainer<osg::SceneplatePtr>(sceneplateId);
+    return nbec::manipulator::resolveContainer<osg::SceneplatePtr>(sceneplateId);
 }
 
 // == Preselection and selection

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "modules/textureplacement/TexturePlacementPickTool.h"
 
-#include "manipulator/detail/MaterialComponent.h"
-#include "manipulator/detail/MessageSending.h"
-#include "manipulator/detail/PreviewPause.h"
+#include "manipulator/course/PreviewPause.h"
+#include "manipulator/scene/MessageSending.h"
+#include "manipulator/texture/MaterialComponent.h"
 
 #include <nbInteraction/Picker.h>
 #include <nbInteraction/ToolInteractionContext.h>
@@ -50,13 +50,13 @@ std::string describeHit(const osg::Pnt3f& point, const osg::Vec3f& normal)
 struct TexturePlacementPickTool::State
 {
     std::string messageReceiver;
-    manipulator::detail::MaterialComponent component;
+    manipulator::texture::MaterialComponent component;
     std::string actionName = kActionName;
     std::string descriptionText =
         QCoreApplication::translate("nbForegroundTextContext", "Set Texture Center Position")
             .toStdString();
     bool showHitData = true;
-    manipulator::detail::PreviewPause pause;
+    manipulator::PreviewPause pause;
 };
 
 TexturePlacementPickTool::TexturePlacementPickTool()
@@ -151,7 +151,7 @@ bool TexturePlacementPickTool::processSelection(ToolInteractionContext* context)
         message.set("hitNode", hitNode, true);
         message.set("hitPoint", hitPoint, true);
         message.set("hitNormal", hitNormal, true);
-        manipulator::detail::sendToReceiver(state->messageReceiver, kPlaceSuffix, message);
+        manipulator::sendToReceiver(state->messageReceiver, kPlaceSuffix, message);
     }
     if (hitNode != osg::NullFC && state->showHitData) {
         setDescription(describeHit(hitPoint, hitNormal));

@@ -45,7 +45,7 @@ def screenshots(session):
 
 def missing_excerpts(root):
     """First lines of the pieces of C++ that a page shows of the example and that are not in it."""
-    text = "\n".join(path.read_text(encoding="utf-8") for path in sorted((root / "examples").glob("LiftManipulator.*")))
+    text = "\n".join(path.read_text(encoding="utf-8") for path in sorted((root / "examples").glob("Lift*")))
     page = (root / "docs" / "new-manipulator.md").read_text(encoding="utf-8")
     for block in re.findall(r"^```cpp\n(.*?)^```$", page, flags=re.DOTALL | re.MULTILINE):
         if block not in text:

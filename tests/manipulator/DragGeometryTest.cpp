@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "manipulator/detail/DragGeometry.h"
+#include "manipulator/drag/DragGeometry.h"
 
 #include "tests/manipulator/support/RingTilt.h"
 
@@ -59,7 +59,7 @@ TEST(RingDragFrame, KeepsTheGrabbedPointAndItsTangent)
     const Pnt3f grabbed(0.6F, 0.0F, 0.8F);
     Vec3f sight(-0.6F, -0.2F, -0.8F);
     sight.normalize();
-    const detail::RingFrame frame = detail::ringDragFrame(Pnt3f(0, 0, 0), axis, grabbed, sight);
+    const RingFrame frame = ringDragFrame(Pnt3f(0, 0, 0), axis, grabbed, sight);
     EXPECT_LT((frame.center + frame.radial - grabbed).length(), 1e-6F);
     EXPECT_LT((frame.tangent - axis.cross(Vec3f(0.6F, 0.0F, 0.8F))).length(), 1e-6F);
     EXPECT_NEAR(std::abs(frame.normal.dot(sight)), 0.766F, 1e-3F);
@@ -71,8 +71,7 @@ TEST(RingDragFrame, IsFiniteForARingGrabbedAtItsCentreOrSeenAlongItsTangent)
     const Vec3f axis(0.0F, 0.0F, 1.0F);
     for (const Pnt3f& grabbed : { Pnt3f(0, 0, 0), Pnt3f(0, 0, 2), Pnt3f(1, 0, 0) }) {
         for (const Vec3f& sight : { Vec3f(0, 1, 0), Vec3f(1, 0, 0), Vec3f(0, 0, -1) }) {
-            const detail::RingFrame frame =
-                detail::ringDragFrame(Pnt3f(0, 0, 0), axis, grabbed, sight);
+            const RingFrame frame = ringDragFrame(Pnt3f(0, 0, 0), axis, grabbed, sight);
             EXPECT_NEAR(frame.normal.length(), 1.0F, 1e-6F);
             EXPECT_GT(std::abs(frame.normal.dot(sight)), 0.765F) << grabbed << sight;
         }
@@ -85,24 +84,24 @@ TEST(IntersectPlane, RefusesWhatHasNoCrossingAndLeavesThePoint)
     Pnt3f point = untouched;
     const osg::Plane plane(Vec3f(0, 0, 1), Pnt3f(0, 0, 0));
     const Vec3f ahead(0, 0, -1);
-    EXPECT_FALSE(detail::intersectPlane(plane, osg::Line(Pnt3f(0, 0, 5), Vec3f(1, 0, 0)), point));
-    EXPECT_FALSE(detail::intersectPlane(plane, osg::Line(Pnt3f(0, 0, -5), ahead), point));
-    EXPECT_FALSE(detail::intersectPlane(osg::Plane(Vec3f(0, 0, 0), Pnt3f()),
-                                        osg::Line(Pnt3f(), ahead), point));
+    EXPECT_FALSE(intersectPlane(plane, osg::Line(Pnt3f(0, 0, 5), Vec3f(1, 0, 0)), point));
+    EXPECT_FALSE(intersectPlane(plane, osg::Line(Pnt3f(0, 0, -5), ahead), point));
+    EXPECT_FALSE(
+        intersectPlane(osg::Plane(Vec3f(0, 0, 0), Pnt3f()), osg::Line(Pnt3f(), ahead), point));
     EXPECT_EQ(point, untouched);
-    EXPECT_TRUE(detail::intersectPlane(plane, osg::Line(Pnt3f(1, 2, 5), ahead), point));
+    EXPECT_TRUE(intersectPlane(plane, osg::Line(Pnt3f(1, 2, 5), ahead), point));
     EXPECT_LT((point - Pnt3f(1, 2, 0)).length(), 1e-6F);
 }
 
 TEST(Snapped, RoundsHalfAwayFromZero)
 {
-    EXPECT_EQ(detail::snapped(2.5, 1.0), 3.0);
-    EXPECT_EQ(detail::snapped(-2.5, 1.0), -3.0);
-    EXPECT_EQ(detail::snapped(2.49, 1.0), 2.0);
-    EXPECT_EQ(detail::snapped(-7.0, 15.0), 0.0);
-    EXPECT_EQ(detail::snapped(-7.5, 15.0), -15.0);
-    EXPECT_EQ(detail::snapped(0.3, 0.0), 0.3);
-    EXPECT_EQ(detail::snapped(0.0, 1.0), 0.0);
+    EXPECT_EQ(snapped(2.5, 1.0), 3.0);
+    EXPECT_EQ(snapped(-2.5, 1.0), -3.0);
+    EXPECT_EQ(snapped(2.49, 1.0), 2.0);
+    EXPECT_EQ(snapped(-7.0, 15.0), 0.0);
+    EXPECT_EQ(snapped(-7.5, 15.0), -15.0);
+    EXPECT_EQ(snapped(0.3, 0.0), 0.3);
+    EXPECT_EQ(snapped(0.0, 1.0), 0.0);
 }
 
 }  // namespace nbec::manipulator::test

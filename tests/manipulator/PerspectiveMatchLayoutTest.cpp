@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "manipulator/detail/PerspectiveMatchLayout.h"
+#include "manipulator/match/PerspectiveMatchLayout.h"
 
 #include <gtest/gtest.h>
 
 #include <limits>
 #include <utility>
 
-namespace nbec::manipulator::detail {
+namespace nbec::manipulator::match {
 
 namespace {
 
@@ -182,4 +182,4 @@ TEST(PerspectiveMatchLayout, GuidesStayInTheViewHoweverFarTheLinesReach)
     }
 }
 
-}  // namespace nbec::manipulator::detail
+}  // namespace nbec::manipulator::match

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The whole loop: drag, message, the host's editor, material, and the gizmo that reads it again.
 // What was grabbed stays under the pointer, and the opposite edge or corner stays in the world.
-#include "manipulator/detail/DragGeometry.h"
+#include "manipulator/course/View.h"
+#include "manipulator/drag/DragGeometry.h"
 #include "tests/manipulator/support/PlanarScene.h"
 #include "tests/platform/support/Edited.h"
 
@@ -109,7 +110,7 @@ struct Held
 
 Vec3f axisOf(const PlanarScene& planar, int axis)
 {
-    Vec3f direction = detail::column(planar.worldFromProjection(), axis);
+    Vec3f direction = column(planar.worldFromProjection(), axis);
     direction.normalize();
     return direction;
 }
@@ -121,12 +122,12 @@ Pnt3f underPointer(const PlanarScene& planar, Way way)
     Vec3f normal = axisOf(planar, 0).cross(axisOf(planar, 1));
     if (way != Way::Plane && way != Way::Turn) {
         const int axis = static_cast<int>(way) - static_cast<int>(Way::AxisX);
-        normal = detail::axisPlaneNormal(axisOf(planar, axis), detail::cameraDirection());
+        normal = axisPlaneNormal(axisOf(planar, axis), View().sight());
     }
     osg::Line ray;
     Pnt3f point;
-    EXPECT_TRUE(detail::pointerRay(planar.scene.widget, ray));
-    EXPECT_TRUE(detail::intersectPlane(osg::Plane(normal, center), ray, point));
+    ray = View().pointerRay().value();
+    EXPECT_TRUE(intersectPlane(osg::Plane(normal, center), ray, point));
     return point;
 }
 
@@ -149,9 +150,8 @@ Vec2f followed(const PlanarScene& planar, const Held& held, Way way)
     if (way == Way::Turn) {
         // The tangent of the turn, which runs in the object's space.
         const Matrix& projection = planar.projection->getMatrix();
-        Vec3f arm = detail::mapped(projection, Pnt3f(held.texel)) -
-            detail::mapped(projection, Pnt3f(0, 0, 0));
-        Vec3f normal = detail::column(projection, 0).cross(detail::column(projection, 1));
+        Vec3f arm = mapped(projection, Pnt3f(held.texel)) - mapped(projection, Pnt3f(0, 0, 0));
+        Vec3f normal = column(projection, 0).cross(column(projection, 1));
         normal.normalize();
         along = normal.cross(arm);
         planar.scene.node->getToWorld().multMatrixVec(along);

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "manipulator/detail/PlateFrame.h"
+#include "manipulator/plates/PlateFrame.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 
-namespace nbec::manipulator::detail {
+namespace nbec::manipulator::plates {
 namespace {
 
 constexpr PlateView kView { 800, 600, 1.0F };
@@ -27,6 +27,14 @@ PlateFrame makeFrame(float x, float y, float width, float height, float rotation
     }
     return ::testing::AssertionFailure()
         << "(" << point.x() << ", " << point.y() << ") is not (" << x << ", " << y << ")";
+}
+
+/// Scales a frame by a pull at its upper right corner, whose opposite stays.
+PlateChange pullCorner(const PlateFrame& start, const osg::Vec2f& pull, PlateGuides* guides)
+{
+    constexpr PlateCorner kCorner = PlateCorner::UpperRight;
+    return scaleFrame(start, kCorner, false, cornerFactor(start, kCorner, false, pull), kView,
+                      guides);
 }
 
 TEST(PlateFrame, BoxesOfAFrameBeyondTheViewArePulledIn)
@@ -85,8 +93,7 @@ TEST(PlateFrame, AScaledCornerSnapsAlongItsDiagonal)
     // The upper right corner starts at (500, 200) and goes up right along (1, -1).
     const PlateFrame start = makeFrame(450, 250, 100, 100);
     PlateGuides guides;
-    const PlateChange change =
-        scaleFrame(start, PlateCorner::UpperRight, false, osg::Vec2f(196, -196), kView, &guides);
+    const PlateChange change = pullCorner(start, osg::Vec2f(196, -196), &guides);
     EXPECT_NEAR(change.scaleFactor, 3.0F, 1e-5F) << "the upper edge is 200 pixels away";
     EXPECT_TRUE(guides.hasHorizontal);
     EXPECT_EQ(guides.y, 0.0F);
@@ -94,27 +101,21 @@ TEST(PlateFrame, AScaledCornerSnapsAlongItsDiagonal)
 
     PlateGuides none;
     const osg::Vec2f far(190, -190);  // 14 pixels along the diagonal
-    EXPECT_NEAR(scaleFrame(start, PlateCorner::UpperRight, false, far, kView, &none).scaleFactor,
-                2.9F, 1e-5F);
+    EXPECT_NEAR(pullCorner(start, far, &none).scaleFactor, 2.9F, 1e-5F);
     EXPECT_FALSE(none.hasHorizontal);
 }
 
 TEST(PlateFrame, ScalingNeverVanishesOrTurnsOver)
 {
     const PlateFrame start = makeFrame(400, 300, 160, 120);
-    const PlateChange least =
-        scaleFrame(start, PlateCorner::UpperRight, false, osg::Vec2f(-900, 900), kView, nullptr);
+    const PlateChange least = pullCorner(start, osg::Vec2f(-900, 900), nullptr);
     EXPECT_FLOAT_EQ(least.scaleFactor * 160, 4);
     const PlateFrame tiny = makeFrame(400, 300, 2, 1);
-    EXPECT_FLOAT_EQ(
-        scaleFrame(tiny, PlateCorner::UpperRight, false, osg::Vec2f(-9, 9), kView, nullptr)
-            .scaleFactor,
-        1)
+    EXPECT_FLOAT_EQ(pullCorner(tiny, osg::Vec2f(-9, 9), nullptr).scaleFactor, 1)
         << "what is smaller yet does not jump";
     const PlateFrame empty = makeFrame(400, 300, 0, 0);
-    EXPECT_EQ(scaleFrame(empty, PlateCorner::UpperRight, false, osg::Vec2f(9, 9), kView, nullptr),
-              PlateChange());
+    EXPECT_EQ(pullCorner(empty, osg::Vec2f(9, 9), nullptr), PlateChange());
 }
 
 }  // namespace
-}  // namespace nbec::manipulator::detail
+}  // namespace nbec::manipulator::plates

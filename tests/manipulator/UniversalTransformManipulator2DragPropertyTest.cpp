@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What holds for every drag, over random cameras, hierarchies, handles and ways of the pointer.
-#include "manipulator/detail/DragGeometry.h"
+#include "manipulator/course/View.h"
+#include "manipulator/drag/DragGeometry.h"
 #include "tests/manipulator/support/DragScene.h"
 
 #include <nbKernelServices/nbUndoService.h>
@@ -322,17 +323,17 @@ TEST(DragProperties, PlanesAndArrowsKeepTheGrabbedPointUnderThePointer)
         // The point of the handle that the first step's ray meets, as the gizmo carries it along.
         const Pnt3f origin = drags.onGizmo(Vec3f(0, 0, 0));
         const Vec3f axis = drag.movementAxis();
-        const Vec3f sight = detail::viewDirection(origin);
+        const Vec3f sight = View().sightAt(origin);
         const bool isPlane = drag.handle.kind == Kind::Plane;
         const float steepness = std::abs(axis.dot(sight));
         if (isPlane ? steepness < 0.2F : steepness > 0.95F) {
             return;  // nearly along the line of sight: a pixel is too far in the world
         }
-        const Vec3f normal = isPlane ? axis : detail::axisPlaneNormal(axis, sight);
+        const Vec3f normal = isPlane ? axis : axisPlaneNormal(axis, sight);
         osg::Line ray;
         Pnt3f held;
-        ASSERT_TRUE(detail::pointerRay(drags.scene.widget, ray));
-        ASSERT_TRUE(detail::intersectPlane(osg::Plane(normal, origin), ray, held));
+        ray = View().pointerRay().value();
+        ASSERT_TRUE(intersectPlane(osg::Plane(normal, origin), ray, held));
         const Vec2f gap = drags.rayPixelOf(held) - drags.drag.pressed;
 
         const Pnt2f ahead = drags.rayPixelOf(held + axis * 0.1F);
@@ -349,8 +350,8 @@ TEST(DragProperties, PlanesAndArrowsKeepTheGrabbedPointUnderThePointer)
                                          : Vec2f(std::round(onArrow.x()), std::round(onArrow.y()));
             ASSERT_TRUE(drags.stepTo(offset));
             Pnt3f met;
-            ASSERT_TRUE(detail::pointerRay(drags.scene.widget, ray));
-            if (!detail::intersectPlane(osg::Plane(normal, origin), ray, met)) {
+            ray = View().pointerRay().value();
+            if (!intersectPlane(osg::Plane(normal, origin), ray, met)) {
                 continue;  // behind the near plane, where nothing moves
             }
             const Vec3f moved = drags.onGizmo(Vec3f(0, 0, 0)) - origin;
@@ -374,7 +375,7 @@ TEST(DragProperties, TheNodeTurnsAboutTheDrawnRingByThePointersAngle)
         axis = drags.onGizmo(axis) - center;
         axis.normalize();
         Vec3f arm = drags.onGizmo(drag.handle.grab) - center;
-        if (std::abs(axis.dot(detail::viewDirection(center + arm))) < 0.8F) {
+        if (std::abs(axis.dot(View().sightAt(center + arm))) < 0.8F) {
             return;  // tilted by more than the ring's own plane is used for
         }
         const osg::Matrix before = drag.toWorld();
@@ -385,8 +386,8 @@ TEST(DragProperties, TheNodeTurnsAboutTheDrawnRingByThePointersAngle)
         Pnt3f first;
         Pnt3f last;
         const osg::Plane plane(axis, center);
-        ASSERT_TRUE(detail::pointerRay(drags.scene.widget, ray));
-        ASSERT_TRUE(detail::intersectPlane(plane, ray, first));
+        ray = View().pointerRay().value();
+        ASSERT_TRUE(intersectPlane(plane, ray, first));
         for (int i = 1; i <= 40; ++i) {
             Vec3f turned = arm;
             osg::Quaternion(axis, angle * static_cast<float>(i) / 40.0F).multVec(arm, turned);
@@ -394,8 +395,8 @@ TEST(DragProperties, TheNodeTurnsAboutTheDrawnRingByThePointersAngle)
             ASSERT_TRUE(drags.stepTo(Vec2f(std::round(pixel.x() - drags.drag.pressed.x()),
                                            std::round(pixel.y() - drags.drag.pressed.y()))));
         }
-        ASSERT_TRUE(detail::pointerRay(drags.scene.widget, ray));
-        ASSERT_TRUE(detail::intersectPlane(plane, ray, last));
+        ray = View().pointerRay().value();
+        ASSERT_TRUE(intersectPlane(plane, ray, last));
         const Vec3f from = first - center;
         const Vec3f to = last - center;
         const float pointerAngle = std::atan2(from.cross(to).dot(axis), from.dot(to));

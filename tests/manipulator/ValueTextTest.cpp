@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "manipulator/detail/ValueText.h"
+#include "manipulator/course/ValueText.h"
 
 #include <QtCore/QString>
 
@@ -12,7 +12,7 @@
 #include <random>
 #include <string>
 
-namespace nbec::manipulator::detail {
+namespace nbec::manipulator {
 
 namespace {
 
@@ -50,4 +50,4 @@ TEST(ValueText, RoundsAsTheLibraryDoes)
     }
 }
 
-}  // namespace nbec::manipulator::detail
+}  // namespace nbec::manipulator

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/manipulator/support/PlateScene.h"
 
-#include "manipulator/detail/PlateFrame.h"
+#include "manipulator/plates/PlateFrame.h"
 #include "tests/manipulator/support/GizmoScene.h"
 
 #include <nbKernel/nbScenegraph.h>
@@ -92,7 +92,7 @@ nbSceneplateLayout::Corners PlateScene::corners(const osg::NodePtr& plate) const
 osg::Pnt2f exactCorner(const osg::NodePtr& plate, const nbOSGWidget& widget, float alongX,
                        float alongY)
 {
-    return detail::pointOfFrame(nbSceneplateLayout::frame({ platetest::plateOf(plate) },
+    return plates::pointOfFrame(nbSceneplateLayout::frame({ platetest::plateOf(plate) },
                                                           widget.getWidth(), widget.getHeight()),
                                 alongX, alongY);
 }

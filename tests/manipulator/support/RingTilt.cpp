@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/manipulator/support/RingTilt.h"
 
-#include "manipulator/detail/DragGeometry.h"
+#include "manipulator/drag/DragGeometry.h"
 
 #include <algorithm>
 #include <cmath>
@@ -54,14 +54,14 @@ class RingDrag
 {
 public:
     RingDrag(const osg::Vec3f& axis, const osg::Pnt3f& grabbed)
-        : frame(detail::ringDragFrame(osg::Pnt3f(0, 0, 0), axis, grabbed, sightOf(grabbed)))
+        : frame(ringDragFrame(osg::Pnt3f(0, 0, 0), axis, grabbed, sightOf(grabbed)))
         , last(frame.angleOf(grabbed))
     { }
 
     void stepTo(const Pixel& pixel)
     {
         osg::Pnt3f point;
-        if (!detail::intersectPlane(osg::Plane(frame.normal, frame.center), rayOf(pixel), point)) {
+        if (!intersectPlane(osg::Plane(frame.normal, frame.center), rayOf(pixel), point)) {
             finite = false;
             return;
         }
@@ -84,7 +84,7 @@ private:
         return sight;
     }
 
-    detail::RingFrame frame;
+    RingFrame frame;
     double last;
     double gathered = 0.0;
     bool finite = true;

@@ -1,0 +1,292 @@
+// SPDX-License-Identifier: MIT
+#include "manipulator/course/Gizmo.h"
+
+#include "manipulator/course/ValueText.h"
+#include "manipulator/drag/DragGeometry.h"
+#include "manipulator/handles/HandleNodes.h"
+
+#include <nbInteraction/Picker.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
+
+#include <utility>
+
+namespace nbec::manipulator {
+
+Gizmo::Gizmo(const CourseRules& courseRules, const HandleTable& table,
+             HandleSet::Materials materials, int startMode, const float& size)
+    : handles(table, std::move(materials))
+    , rules(courseRules)
+    , classSize(&size)
+    , mode(startMode)
+{
+    handles.show(mode, 0);
+}
+
+Gizmo::~Gizmo() = default;
+
+// == Events
+
+osg::NodePtr Gizmo::pickHandle(interaction::Picker* picker)
+{
+    using interaction::Picker;
+    if (picker == nullptr) {
+        return osg::NodePtr();
+    }
+    picker->setFilter(Picker::HandleFilter);
+    const osg::NodePtr hit = picker->pick();
+    picker->setFilter(Picker::SceneFilter);
+    return hit;
+}
+
+int Gizmo::detect(interaction::Picker* picker)
+{
+    const osg::NodePtr hit = hasTarget() ? pickHandle(picker) : osg::NodePtr();
+    const int handle = handles.find(hit);
+    return handle != 0 && nbNodeUtils::hasParent(hit, root.get()) ? handle : 0;
+}
+
+bool Gizmo::hover(interaction::Picker* picker)
+{
+    if (isHeld()) {
+        return true;
+    }
+    update(false);  // what is edited may have moved since the last picture
+    armed = detect(picker);
+    handles.light(armed, mode);
+    return armed != 0;
+}
+
+bool Gizmo::reset()
+{
+    if (!isHeld()) {
+        handles.light(0, mode);
+        if (!rules.isHoverKept) {
+            armed = 0;
+        }
+    }
+    return true;
+}
+
+bool Gizmo::start(interaction::Picker* picker)
+{
+    if (isHeld()) {
+        endDrag();  // whose stop was lost
+    }
+    update(false);
+    if (!rules.isGrabbedLit) {
+        handles.light(0, mode);  // lines are hit by the width in which they are drawn
+    }
+    armed = detect(picker);
+    if (rules.isGrabbedLit) {
+        handles.light(armed, mode);
+    }
+    if (armed == 0) {
+        return false;
+    }
+    grabbedPoint = picker->getHitPoint();
+    if (rules.isPreparedAtStart && !begin(View())) {
+        return false;
+    }
+    grabbed = true;
+    handles.show(mode, armed);
+    return true;
+}
+
+bool Gizmo::process(const View& view)
+{
+    if (armed == 0 || !canStep(view)) {
+        return false;
+    }
+    if (prepared) {
+        step(view);
+        return armed != 0;
+    }
+    if (rules.isPreparedAtStart) {
+        return true;  // merely hovered
+    }
+    return begin(view);
+}
+
+bool Gizmo::begin(const View& view)
+{
+    track = DragTrack();
+    prepared = prepare(view) && armed != 0;  // who heard of it may have ended the drag
+    return prepared;
+}
+
+void Gizmo::step(const View& view)
+{
+    const DragStep next = parametersAt(view, track);
+    if (next.outcome == DragStep::Outcome::Missed) {
+        return;
+    }
+    track = next.track;
+    if (next.outcome == DragStep::Outcome::Waiting) {
+        showText(true);
+        return;
+    }
+    apply(next.parameters);
+    if (armed == 0) {
+        return;  // who heard of it has taken the gizmo out of use
+    }
+    showText(true);
+    placeIn(View());  // that of the event may be gone, too
+    announce();
+}
+
+bool Gizmo::letGo()
+{
+    if (armed == 0 || (rules.isPreparedAtStart && !grabbed)) {
+        return false;
+    }
+    release();
+    if (!hasTarget()) {
+        previewPause.setOverdue();
+        vanish();
+        return false;
+    }
+    return true;
+}
+
+bool Gizmo::stop()
+{
+    if (!letGo()) {
+        return false;
+    }
+    showActive();
+    if (rules.isPreviewPaused) {
+        previewPause.resume();
+    }
+    return true;
+}
+
+void Gizmo::deactivate()
+{
+    if (rules.isEndedByDeactivation) {
+        endDrag();
+    }
+}
+
+void Gizmo::release()
+{
+    if (prepared) {
+        finish();
+    }
+    const bool wasHeld = isHeld();
+    grabbed = false;
+    prepared = false;
+    armed = 0;
+    handles.light(0, mode);
+    if (wasHeld) {
+        handles.show(mode, 0);
+        showText(false);
+    }
+}
+
+void Gizmo::endDrag()
+{
+    release();
+    previewPause.end();
+}
+
+void Gizmo::showText(bool isOfDrag)
+{
+    ValueText* const text = getText();
+    if (text == nullptr) {
+        return;
+    }
+    if (const std::optional<QString> said = isOfDrag ? describe() : QString()) {
+        text->show(*said);
+    }
+}
+
+// == Handles
+
+void Gizmo::showActive()
+{
+    if (!hasTarget()) {
+        hide();
+        return;
+    }
+    handles.show(mode, 0);
+    handles.showRoot(true);
+    placeIn(View());
+}
+
+void Gizmo::hide()
+{
+    handles.showRoot(false);
+}
+
+void Gizmo::vanish()
+{
+    if (rules.isHiddenWithoutTarget) {
+        hide();
+    }
+}
+
+void Gizmo::activateMode(int newMode)
+{
+    mode = newMode;
+    handles.show(mode, 0);
+    handles.setDefaultMaterials(mode);
+    placeIn(View());
+}
+
+// == Placement
+
+void Gizmo::update(bool force)
+{
+    previewPause.endOverdue();
+    const float own = placementNumber();
+    if (!force && !watch.mayHaveChanged(own)) {
+        return;
+    }
+    if (!hasTarget()) {
+        vanish();
+        return;
+    }
+    watch.note(own);
+    const View view;
+    if (force || isTreeMoved() || isDisplaced(view)) {
+        placeIn(view);
+    }
+}
+
+void Gizmo::placeIn(const View& view)
+{
+    if (!hasTarget()) {
+        vanish();
+        return;
+    }
+    place(view);
+    if (const osg::Transform3DPtr placed = handles.getRootTransform(); placed != osg::NullFC) {
+        placedAt = placed->getTranslation();
+        placedScale = placed->getScale();
+    }
+}
+
+void Gizmo::place(const View& view)
+{
+    const osg::Matrix target = targetToWorld();
+    const osg::Vec3f anchor = column(target, 3);
+    const float scale = view.scaleAt(osg::Pnt3f(anchor), getSize(), ViewDiagonal::NearPlane);
+    placeTransform(handles.getRootTransform(), anchor, osg::Quaternion(),
+                   osg::Vec3f(scale, scale, scale));
+    watch.remember(target);
+    watch.remember(view);
+}
+
+bool Gizmo::isDisplaced(const View& view) const
+{
+    return watch.isElsewhere(targetToWorld()) || watch.isSeenOtherwise(view);
+}
+
+bool Gizmo::isTreeMoved() const
+{
+    const osg::Transform3DPtr placed = handles.getRootTransform();
+    return placed != osg::NullFC &&
+        (placed->getTranslation() != placedAt || placed->getScale() != placedScale);
+}
+
+}  // namespace nbec::manipulator

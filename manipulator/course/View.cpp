@@ -1,0 +1,176 @@
+// SPDX-License-Identifier: MIT
+#include "manipulator/course/View.h"
+
+#include <nbKernel/nbOSGWidget.h>
+#include <nbOpenSGUberCamera/UberCamera.h>
+#include <nbOpenSGUberCamera/nbCameraNavigation.h>
+#include <nbOpenSGUberCamera/nbUberCameraUtils.h>
+
+#include <cmath>
+
+namespace nbec::manipulator {
+
+namespace {
+
+constexpr double kSizeLimit = 200.0;
+constexpr double kReference = 800.0;
+constexpr float kViewsPerDiagonal = 20.0F;
+
+/// Index of the main widget.
+constexpr int kMain = -1;
+
+float diagonalOf(const osg::UberCameraPtr& camera, ViewDiagonal diagonal)
+{
+    if (diagonal == ViewDiagonal::NearPlane) {
+        return camera->getNearPlaneDiagonal();
+    }
+    const float width = camera->getRight() - camera->getLeft();
+    const float height = camera->getBottom() - camera->getTop();
+    return std::sqrt(width * width + height * height);
+}
+
+}  // namespace
+
+float perspectiveScale(double distance, float fovDeg, float size)
+{
+    const double sizeFactor = (kSizeLimit - static_cast<double>(size)) / kSizeLimit;
+    return static_cast<float>(distance / (sizeFactor * kReference / static_cast<double>(fovDeg)));
+}
+
+float orthographicScale(float diagonal)
+{
+    return diagonal / kViewsPerDiagonal;
+}
+
+View::View()
+    : widget(nbOSGWidget::getMGLW(kMain))
+    , pointer(widget != nullptr ? widget->getMousePosition() : osg::Pnt2f())
+{ }
+
+View::View(const osg::Pnt2f& pointerPx)
+    : widget(nbOSGWidget::getMGLW(kMain))
+    , pointer(pointerPx)
+{ }
+
+// == Size and pointer
+
+int View::getWidth() const
+{
+    return widget != nullptr ? widget->getWidth() : 0;
+}
+
+int View::getHeight() const
+{
+    return widget != nullptr ? widget->getHeight() : 0;
+}
+
+osg::Vec2f View::pointerFromBelow() const
+{
+    return osg::Vec2f(pointer.x(), static_cast<float>(getHeight() - 1) - pointer.y());
+}
+
+std::optional<osg::Line> View::pointerRay() const
+{
+    if (widget == nullptr || widget->getCamera() == osg::NullFC ||
+        widget->getViewport() == osg::NullFC) {
+        return std::nullopt;
+    }
+    osg::Line ray;
+    const bool isInView = widget->getCamera()->calcViewRay(
+        ray, static_cast<osg::Int32>(pointer.x()), static_cast<osg::Int32>(pointer.y()),
+        *widget->getViewport());
+    return isInView ? std::optional<osg::Line>(ray) : std::nullopt;
+}
+
+// == Camera
+
+osg::Pnt3f View::getEye() const
+{
+    return nbOSGWidget::getFrom(kMain);
+}
+
+osg::Pnt3f View::getPivot() const
+{
+    return nbOSGWidget::getPivot(kMain);
+}
+
+float View::getFov() const
+{
+    return nbOSGWidget::getFov(kMain);
+}
+
+void View::getFromAtUp(osg::Pnt3f& from, osg::Pnt3f& at, osg::Vec3f& up) const
+{
+    nbOSGWidget::getFromAtUp(kMain, from, at, up);
+}
+
+bool View::isOrthographic() const
+{
+    return widget != nullptr && nbUberCameraUtils::isOrthographicCamera(widget->getUberCamera());
+}
+
+bool View::isZUp() const
+{
+    return nbOSGWidget::isCameraZUp();
+}
+
+osg::Vec3f View::sight() const
+{
+    osg::Pnt3f from;
+    osg::Pnt3f at;
+    osg::Vec3f up;
+    getFromAtUp(from, at, up);
+    osg::Vec3f direction = at - from;
+    direction.normalize();
+    return direction;
+}
+
+osg::Vec3f View::sightAt(const osg::Pnt3f& point) const
+{
+    if (isOrthographic()) {
+        return sight();
+    }
+    osg::Vec3f direction = point - getEye();
+    direction.normalize();
+    return direction;
+}
+
+osg::Quaternion View::facing() const
+{
+    if (widget == nullptr || widget->getUberCamera() == osg::NullFC) {
+        return osg::Quaternion();
+    }
+    const nbCameraNavigation::Axes axes =
+        nbCameraNavigation::axes(widget->getUberCamera()->getPose());
+    osg::Matrix turn;
+    turn[0] = osg::Vec4f(axes.right.x(), axes.right.y(), axes.right.z(), 0.0F);
+    turn[1] = osg::Vec4f(axes.up.x(), axes.up.y(), axes.up.z(), 0.0F);
+    turn[2] = osg::Vec4f(axes.back.x(), axes.back.y(), axes.back.z(), 0.0F);
+    return osg::Quaternion(turn);
+}
+
+// == Scale
+
+std::optional<float> View::orthographicDiagonal() const
+{
+    return isOrthographic() ? std::optional<float>(widget->getUberCamera()->getNearPlaneDiagonal())
+                            : std::nullopt;
+}
+
+float View::scaleAt(const osg::Pnt3f& anchor, float size, ViewDiagonal diagonal) const
+{
+    return isOrthographic() ? orthographicScale(diagonalOf(widget->getUberCamera(), diagonal))
+                            : perspectiveScale(anchor.dist(getEye()), getFov(), size);
+}
+
+osg::Vec2f View::project(const osg::Pnt3f& world) const
+{
+    osg::Matrix screenFromWorld;
+    widget->getCamera()->getWorldToScreen(screenFromWorld, *widget->getViewport());
+    osg::Pnt3f device;
+    screenFromWorld.multFullMatrixPnt(world, device);
+    return osg::Vec2f(static_cast<float>(getWidth()) * (device.x() * 0.5F + 0.5F),
+                      static_cast<float>(getHeight()) * (device.y() * 0.5F + 0.5F));
+}
+
+}  // namespace nbec::manipulator

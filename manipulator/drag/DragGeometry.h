@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "manipulator/drag/DragParameters.h"
+#include "manipulator/nbManipulatorExport.h"
+
+#include <OpenSG/OSGLine.h>
+#include <OpenSG/OSGMatrix.h>
+#include <OpenSG/OSGPlane.h>
+#include <OpenSG/OSGQuaternion.h>
+#include <OpenSG/OSGVector.h>
+
+#include <optional>
+
+namespace nbec::manipulator {
+
+constexpr double kDegPerRad = 180.0 / 3.14159265358979323846;
+
+/// A column of a matrix without its last row: the direction of an axis, or (index 3) the place of
+/// the origin.
+NB_MANIPULATOR_API osg::Vec3f column(const osg::Matrix& matrix, osg::UInt32 index);
+
+/// The inverse; the identity for a singular matrix.
+NB_MANIPULATOR_API osg::Matrix inverted(const osg::Matrix& matrix);
+
+/// A point under an affine matrix.
+NB_MANIPULATOR_API osg::Pnt3f mapped(const osg::Matrix& matrix, osg::Pnt3f point);
+
+/// A vector under a rotation.
+NB_MANIPULATOR_API osg::Vec3f rotated(const osg::Quaternion& rotation, osg::Vec3f vector);
+
+/// Where a ray meets a plane in front of its start.
+/// @return false, and the point untouched, for a plane whose normal is shorter than 1e-6 (none is
+///         chosen), a ray with |normal . direction| < 1e-6, or a plane behind the ray's start
+NB_MANIPULATOR_API bool intersectPlane(const osg::Plane& plane, const osg::Line& ray,
+                                       osg::Pnt3f& point);
+
+/// Where the pointer of a drag meets the drag's plane. Where it meets it first, the drag starts,
+/// which the track keeps.
+/// @param ray  of the pointer; none where a view has no area
+/// @return nothing, and the track untouched, for a ray that misses, see intersectPlane()
+NB_MANIPULATOR_API std::optional<osg::Pnt3f>
+followPlane(const osg::Plane& plane, const std::optional<osg::Line>& ray, DragTrack& track);
+
+/// Normal of the plane that contains an axis and faces the viewer as well as it can:
+/// axis x (view x axis), unit length; zero where the axis points at the viewer.
+/// @param axis  unit length  @param view  direction of sight, unit length
+NB_MANIPULATOR_API osg::Vec3f axisPlaneNormal(const osg::Vec3f& axis, const osg::Vec3f& view);
+
+/// Columns of unit length, x in the direction of the matrix's first column, y in its plane with the
+/// second, right-handed; scale, shear and mirroring are left out.
+/// @return the identity if a column is shorter than 1e-6 of the others
+NB_MANIPULATOR_API osg::Matrix orthonormalised(const osg::Matrix& matrix);
+
+/// A ring's frame as a drag sees it: origin at the ring's centre, unit axes radial (to the grabbed
+/// point), tangent (the way that the grabbed point goes in a positive turn) and normal.
+struct NB_MANIPULATOR_API RingFrame
+{
+    osg::Pnt3f center;
+    osg::Vec3f radial;
+    osg::Vec3f tangent;
+    osg::Vec3f normal;
+
+    /// Angle of a point about the normal, from the radial axis towards the tangent, radians.
+    double angleOf(const osg::Pnt3f& point) const;
+};
+
+/// The frame in which a drag on a ring is measured.
+///
+/// Up to 40 degrees of tilt (between the ring's axis and the line of sight) it is the ring's own.
+/// Beyond, a pointer ray meets the ring's plane at a grazing angle: drags turn wild and end at 90
+/// degrees. There the ring, as a rigid body, is turned about its tangent at the grabbed point just
+/// so far that it is tilted by 40 degrees; the centre turns along. If the tangent points so near
+/// the eye that this cannot be reached, the ring is first turned about the tangent to face the
+/// viewer as well as it can, then about the radial axis until 40 degrees are reached. Both turns
+/// begin at zero, so the frame changes smoothly with the tilt, and the grabbed point stays where it
+/// is.
+/// @param center   centre of the ring, world
+/// @param axis     axis of the ring, unit length
+/// @param grabbed  the point of the ring that was grabbed; only its direction from the centre and
+/// its
+///                 distance from the axis count
+/// @param view     direction of sight at the grabbed point, unit length
+NB_MANIPULATOR_API RingFrame ringDragFrame(const osg::Pnt3f& center, const osg::Vec3f& axis,
+                                           const osg::Pnt3f& grabbed, const osg::Vec3f& view);
+
+/// World from a ring's frame: the normal is its axis, radial and tangent are the next two in cyclic
+/// order, so that a positive turn goes the way of the frame's axes.
+/// @param axis  0, 1 or 2
+NB_MANIPULATOR_API osg::Matrix ringMatrix(const RingFrame& ring, osg::UInt32 axis);
+
+/// Rounds a value half away from zero to a multiple of a step: step * floor(value / step + 0.5) for
+/// a positive value, step * ceil(value / step - 0.5) for a negative one. Zero, and any value with a
+/// step of zero, stays.
+NB_MANIPULATOR_API double snapped(double value, double step);
+
+}  // namespace nbec::manipulator

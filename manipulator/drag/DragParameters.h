@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <OpenSG/OSGVector.h>
+
+#include <array>
+#include <cstddef>
+#include <optional>
+
+namespace nbec::manipulator {
+
+/// What a drag has come to, as a person would say or type it: up to three numbers of one kind,
+/// always counted from the drag's start. They are all that an edit needs to know of the pointer, so
+/// that a value that is typed, shown or taken back goes the same way as one that is dragged.
+struct DragParameters
+{
+    /// What the numbers are.
+    enum class Kind
+    {
+        None,
+        Offset,  ///< how far along each axis; units of the gizmo's space
+        Angle,  ///< one, degrees, whole turns counted
+        Factor,  ///< one, resulting size by the size at the start
+        HalfSizes,  ///< half the sides of a rectangle or box, as they become
+        Length,  ///< one, as it becomes
+        Pixels  ///< how far on screen, device pixels, x to the right, y as the gizmo says
+    };
+
+    static constexpr std::size_t kMostValues = 3;
+
+    DragParameters() = default;
+
+    DragParameters(Kind ofKind, double value)
+        : kind(ofKind)
+        , count(1)
+        , values { value, 0.0, 0.0 }
+    { }
+
+    DragParameters(Kind ofKind, const osg::Vec2f& two)
+        : kind(ofKind)
+        , count(2)
+        , values { two.x(), two.y(), 0.0 }
+    { }
+
+    DragParameters(Kind ofKind, const osg::Vec3f& three)
+        : kind(ofKind)
+        , count(kMostValues)
+        , values { three.x(), three.y(), three.z() }
+    { }
+
+    /// The first number, in the precision of the scene.
+    float first() const { return static_cast<float>(values[0]); }
+
+    osg::Vec2f vec2() const { return { first(), static_cast<float>(values[1]) }; }
+
+    osg::Vec3f vec3() const
+    {
+        return { first(), static_cast<float>(values[1]), static_cast<float>(values[2]) };
+    }
+
+    Kind kind = Kind::None;
+    std::size_t count = 0;  ///< of the numbers that mean something
+    std::array<double, kMostValues> values {};
+};
+
+/// What a step of a drag hands on to the next one. Everything else of a drag is captured at its
+/// start and stays.
+struct DragTrack
+{
+    std::optional<osg::Pnt3f> start;  ///< where the pointer met the drag's plane first
+    osg::Pnt3f last;  ///< where a turn was measured last
+    double turned = 0.0;  ///< since the start, whole turns counted; radians or degrees
+};
+
+/// What the pointer has come to in one step.
+struct DragStep
+{
+    enum class Outcome
+    {
+        Missed,  ///< the pointer met nothing to measure by
+        Waiting,  ///< it has moved by less than a step of snapping
+        Moved
+    };
+
+    /// A step that missed.
+    DragStep() = default;
+
+    /// One that waits, or goes on later.
+    explicit DragStep(Outcome what, const DragTrack& next)
+        : outcome(what)
+        , track(next)
+    { }
+
+    DragStep(const DragParameters& comeTo, const DragTrack& next)
+        : outcome(Outcome::Moved)
+        , parameters(comeTo)
+        , track(next)
+    { }
+
+    Outcome outcome = Outcome::Missed;
+    DragParameters parameters;  ///< of one that moved
+    DragTrack track;  ///< for the next step; of one that missed nothing
+};
+
+}  // namespace nbec::manipulator

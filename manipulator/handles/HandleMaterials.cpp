@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+#include "manipulator/handles/HandleMaterials.h"
+
+#include <nbOpenSGUtils/nbEdit.h>
+
+#include <OpenSG/OSGGL.h>
+
+namespace nbec::manipulator {
+
+namespace {
+
+constexpr float kLineWidth = 2.0F;
+constexpr float kShininess = 10.0F;
+
+}  // namespace
+
+LineChunks makeLineChunks()
+{
+    LineChunks chunks;
+    chunks.line = makeLineChunk(kLineWidth);
+    chunks.blend = osg::BlendChunk::create();
+    {
+        const nbEdit edit(chunks.blend.get(), osg::FieldBits::AllFields);
+        chunks.blend->setSrcFactor(GL_SRC_ALPHA);
+        chunks.blend->setDestFactor(GL_ONE_MINUS_SRC_ALPHA);
+    }
+    chunks.depth = makeAlwaysDepthChunk();
+    return chunks;
+}
+
+osg::LineChunkPtr makeLineChunk(float widthPx)
+{
+    const osg::LineChunkPtr chunk = osg::LineChunk::create();
+    const nbEdit edit(chunk, osg::FieldBits::AllFields);
+    chunk->setWidth(widthPx);
+    chunk->setSmooth(true);
+    return chunk;
+}
+
+osg::DepthTestChunkPtr makeAlwaysDepthChunk()
+{
+    const osg::DepthTestChunkPtr chunk = osg::DepthTestChunk::create();
+    const nbEdit edit(chunk, osg::FieldBits::AllFields);
+    chunk->setFunc(GL_ALWAYS);
+    return chunk;
+}
+
+osg::SimpleMaterialRefPtr makeUnlitMaterial(const osg::Color4f& color, int sortKey)
+{
+    const osg::SimpleMaterialRefPtr material(osg::SimpleMaterial::create());
+    if (material == osg::NullFC) {
+        return material;
+    }
+    const osg::Color3f black(0.0F, 0.0F, 0.0F);
+    const nbEdit edit(material.get(), osg::FieldBits::AllFields);
+    material->setEmission(black);
+    material->setAmbient(black);
+    material->setSpecular(black);
+    material->setDiffuse(osg::Color3f(color.red(), color.green(), color.blue()));
+    material->setShininess(kShininess);
+    material->setTransparency(1.0F - color.alpha());
+    material->setLit(false);
+    material->setSortKey(sortKey);
+    return material;
+}
+
+osg::SimpleMaterialRefPtr makeHandleMaterial(const osg::Color3f& diffuse, int sortKey,
+                                             const LineChunks* chunks, float transparency)
+{
+    const osg::SimpleMaterialRefPtr material = makeUnlitMaterial(
+        osg::Color4f(diffuse.red(), diffuse.green(), diffuse.blue(), 1.0F), sortKey);
+    if (chunks != nullptr) {
+        const nbEdit edit(material.get(), osg::ChunkMaterial::ChunksFieldMask);
+        material->addChunk(chunks->line.get());
+        material->addChunk(chunks->blend.get());
+        material->addChunk(chunks->depth.get());
+    }
+    if (transparency != 0.0F) {
+        const nbEdit edit(material.get(), osg::SimpleMaterial::TransparencyFieldMask);
+        material->setTransparency(transparency);
+    }
+    return material;
+}
+
+osg::SimpleMaterialRefPtr makeHandleMaterial(const HandleMaterialRow& row)
+{
+    return makeHandleMaterial(osg::Color3f(row.red, row.green, row.blue), row.sortKey, nullptr,
+                              row.transparency);
+}
+
+osg::SimpleMaterialRefPtr makePassMaterial(const osg::DepthTestChunkPtr& depth, int sortKey)
+{
+    osg::SimpleMaterialRefPtr material(osg::SimpleMaterial::create());
+    const nbEdit edit(material.get(), osg::FieldBits::AllFields);
+    material->setLit(false);
+    material->addChunk(depth);
+    material->setSortKey(sortKey);
+    return material;
+}
+
+}  // namespace nbec::manipulator

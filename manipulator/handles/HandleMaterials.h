@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "manipulator/nbManipulatorExport.h"
+
+#include <nbOpenSGExt/DepthTestChunk.h>
+
+#include <OpenSG/OSGBlendChunk.h>
+#include <OpenSG/OSGColor.h>
+#include <OpenSG/OSGLineChunk.h>
+#include <OpenSG/OSGSimpleMaterial.h>
+
+#include <vector>
+
+namespace nbec::manipulator {
+
+/// Sort keys of handles: they are drawn after the scene, a greater key nearer.
+namespace handleSortKey {
+constexpr int kEarlyDepthPass = 64014;
+constexpr int kDepthPass = 64015;
+constexpr int kHandlePass = 64017;
+constexpr int kLine = 64015;  ///< also of solid handles in light colours
+constexpr int kSolid = 64016;
+}  // namespace handleSortKey
+
+/// Deliberate: a trace of transparency has handles drawn among the blended items, which are drawn
+/// after the scene in the order of their sort keys, while they look opaque.
+constexpr float kTraceOfTransparency = 0.001F;
+
+/// The three state chunks that the line materials of one gizmo share.
+struct LineChunks
+{
+    osg::RefPtr<osg::LineChunkPtr> line;  ///< width 2 px, smooth
+    osg::RefPtr<osg::BlendChunkPtr> blend;  ///< GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA
+    osg::RefPtr<osg::DepthTestChunkPtr> depth;  ///< GL_ALWAYS
+};
+
+NB_MANIPULATOR_API LineChunks makeLineChunks();
+
+/// A chunk of smooth lines, count 0. @param widthPx  logical pixels
+osg::LineChunkPtr makeLineChunk(float widthPx);
+
+/// A depth-test chunk with function GL_ALWAYS, count 0.
+osg::DepthTestChunkPtr makeAlwaysDepthChunk();
+
+/// Unlit material: emission, ambient and specular black, shininess 10.
+/// @param color  diffuse; alpha 1 is opaque
+osg::SimpleMaterialRefPtr makeUnlitMaterial(const osg::Color4f& color, int sortKey);
+
+/// Unlit handle material: black but for its diffuse colour, shininess 10.
+/// @param chunks        the line chunks to add, null for a solid material
+/// @param transparency  0 opaque, 1 invisible; a tiny one has the handle drawn among the blended
+///                      items, in the order of their sort keys, and still looks opaque
+NB_MANIPULATOR_API osg::SimpleMaterialRefPtr makeHandleMaterial(const osg::Color3f& diffuse,
+                                                                int sortKey,
+                                                                const LineChunks* chunks,
+                                                                float transparency = 0.0F);
+
+/// Colour, transparency and sort key of a solid handle material.
+struct HandleMaterialRow
+{
+    float red, green, blue;
+    float transparency;
+    int sortKey;
+};
+
+/// The solid handle material of a row.
+NB_MANIPULATOR_API osg::SimpleMaterialRefPtr makeHandleMaterial(const HandleMaterialRow& row);
+
+/// Those of all rows of a table, in their order.
+template <class Rows>
+std::vector<osg::SimpleMaterialRefPtr> makeHandleMaterials(const Rows& rows)
+{
+    std::vector<osg::SimpleMaterialRefPtr> materials;
+    materials.reserve(std::size(rows));
+    for (const HandleMaterialRow& row : rows) {
+        materials.push_back(makeHandleMaterial(row));
+    }
+    return materials;
+}
+
+/// Unlit material of a handle pass: the depth-test chunk and the sort key are all that matters of
+/// it.
+osg::SimpleMaterialRefPtr makePassMaterial(const osg::DepthTestChunkPtr& depth, int sortKey);
+
+}  // namespace nbec::manipulator

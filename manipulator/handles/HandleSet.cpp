@@ -1,0 +1,267 @@
+// SPDX-License-Identifier: MIT
+#include "manipulator/handles/HandleSet.h"
+
+#include "manipulator/handles/HandleNodes.h"
+
+#include <nbOpenSGUtils/nbEdit.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
+
+#include <OpenSG/OSGComponentTransform.h>
+#include <OpenSG/OSGSimpleAttachments.h>
+#include <OpenSG/OSGTransform.h>
+
+#include <algorithm>
+#include <string_view>
+#include <utility>
+
+namespace nbec::manipulator {
+
+namespace {
+
+osg::Vec3f vectorOf(const std::array<float, 3>& values)
+{
+    return osg::Vec3f(values[0], values[1], values[2]);
+}
+
+osg::NodePtr makeHolder(HandleHolder holder, const std::array<float, 3>& place, Turn turn,
+                        const std::array<float, 3>& scale = { 1.0F, 1.0F, 1.0F })
+{
+    if (holder == HandleHolder::Matrix) {
+        return makeNode(osg::Transform::create());
+    }
+    if (holder == HandleHolder::Component) {
+        const osg::NodePtr node = makePlacedNode(vectorOf(place), quaternionOf(turn));
+        const auto core = osg::ComponentTransformPtr::dcast(node->getCore());
+        const nbEdit edit(core, osg::ComponentTransform::ScaleFieldMask);
+        core->setScale(vectorOf(scale));
+        return node;
+    }
+    const osg::NodePtr node = makeTransform3DNode(eulerDegOf(turn));
+    const auto core = osg::Transform3DPtr::dcast(node->getCore());
+    const nbEdit edit(core, osg::Transform3D::TranslationFieldMask);
+    core->setTranslation(vectorOf(place));
+    return node;
+}
+
+void nameNode(const osg::NodePtr& node, const HandleRow& row)
+{
+    if (row.name != nullptr) {
+        nbNodeUtils::setName(node, row.name);
+    }
+}
+
+}  // namespace
+
+HandleSet::HandleSet(const HandleTable& handleTable, Materials handleMaterials)
+    : table(&handleTable)
+    , materials(std::move(handleMaterials))
+    , root(makeHolder(table->root, {}, Turn::None))
+{
+    for (std::size_t i = 0; i < table->groups.size(); ++i) {
+        groups.push_back(makeTransform3DNode(osg::Vec3f()));
+    }
+    for (std::size_t i = 0; i < table->rows.size(); ++i) {
+        const HandleRow& row = table->rows[i];
+        const bool isGrouped = row.family >= 0 && !groups.empty();
+        handles.push_back(buildHandle(row));
+        addChild(isGrouped ? groups[static_cast<std::size_t>(row.family)] : root.get(),
+                 handles.back().top);
+        colour(i, false, 0);
+    }
+    for (const osg::NodePtr& group : groups) {
+        addChild(root.get(), group);
+    }
+}
+
+HandleSet::Nodes HandleSet::buildHandle(const HandleRow& row)
+{
+    Nodes nodes;
+    if (row.holder != HandleHolder::None) {
+        nodes.top = makeHolder(row.holder, row.place, row.turn);
+    }
+    for (const HandlePart& part : row.parts) {
+        const osg::NodePtr shape = makeShapeNode(part.shape);
+        nodes.parts.push_back(shape);
+        if (nodes.top == osg::NullFC) {
+            nodes.top = shape;
+            continue;
+        }
+        osg::NodePtr holder = shape;
+        if (part.holder != HandleHolder::None) {
+            holder = addChild(makeHolder(part.holder, part.place, part.turn, part.scale), shape);
+            nameNode(holder, row);
+        }
+        addChild(nodes.top, holder);
+        nameNode(shape, row);
+    }
+    if (row.name != nullptr) {
+        nameNode(nodes.top, row);
+        nbNodeUtils::setIsAuxiliaryNode(nodes.top, true);
+    }
+    return nodes;
+}
+
+osg::Transform3DPtr HandleSet::getRootTransform() const
+{
+    return osg::Transform3DPtr::dcast(root->getCore());
+}
+
+osg::Transform3DPtr HandleSet::getGroupTransform(std::size_t group) const
+{
+    return osg::Transform3DPtr::dcast(groups[group]->getCore());
+}
+
+const HandleRow* HandleSet::findRow(int handle) const
+{
+    const auto found =
+        std::find_if(table->rows.begin(), table->rows.end(), [handle](const HandleRow& row) {
+            return handle != 0 && row.handle == handle;
+        });
+    return found != table->rows.end() ? &*found : nullptr;
+}
+
+int HandleSet::find(const osg::NodePtr& node) const
+{
+    const char* const name = node != osg::NullFC ? osg::getName(node) : nullptr;
+    if (name == nullptr) {
+        return 0;
+    }
+    for (const HandleRow& row : table->rows) {
+        if (row.name != nullptr && std::string_view(name) == row.name) {
+            return row.handle;
+        }
+    }
+    return 0;
+}
+
+// == Colours
+
+void HandleSet::colour(std::size_t row, bool isLit, int mode)
+{
+    for (std::size_t i = 0; i < handles[row].parts.size(); ++i) {
+        const HandleColors& colors = table->rows[row].parts[i].colors;
+        const std::size_t idle = isInModes(mode, table->specialIn) ? colors.special : colors.idle;
+        setGeometryMaterial(handles[row].parts[i],
+                            materials[isLit ? colors.highlight : idle].get());
+    }
+}
+
+void HandleSet::setDefaultMaterials(int mode)
+{
+    const bool isAll = table->restored.empty() || mode < 0;
+    const unsigned families = isAll ? ~0U : table->restored[static_cast<std::size_t>(mode)];
+    for (std::size_t i = 0; i < handles.size(); ++i) {
+        const int family = table->rows[i].family;
+        if (family < 0 || isInModes(family, families)) {
+            colour(i, false, mode);
+        }
+    }
+    lit = 0;
+}
+
+void HandleSet::light(int handle, int mode)
+{
+    if (handle == lit) {
+        return;
+    }
+    const auto isLitBy = [](const HandleRow& row, int by) {
+        return by != 0 && (row.handle == by || row.litWith == by);
+    };
+    for (std::size_t i = 0; i < handles.size(); ++i) {
+        const bool isLit = isLitBy(table->rows[i], handle);
+        if (isLit || isLitBy(table->rows[i], lit)) {
+            colour(i, isLit, mode);
+        }
+    }
+    lit = handle;
+}
+
+// == Visibility
+
+void HandleSet::showRoot(bool isVisible)
+{
+    showNode(root.get(), isVisible);
+}
+
+bool HandleSet::isShown(std::size_t row, int mode, const HandleRow* held) const
+{
+    const HandleRow& each = table->rows[row];
+    if (handles[row].isExcluded || !isInModes(mode, each.visibleIn)) {
+        return false;
+    }
+    return held == nullptr || each.handle == held->handle || each.staysInDrags ||
+        held->leaves == HandleLeaves::Everything ||
+        (held->leaves == HandleLeaves::Family && each.family == held->family);
+}
+
+void HandleSet::show(int mode, int held)
+{
+    const HandleRow* const heldRow = findRow(held);
+    for (std::size_t i = 0; i < handles.size(); ++i) {
+        showNode(handles[i].top, isShown(i, mode, heldRow));
+        for (std::size_t part = 0; part < handles[i].parts.size(); ++part) {
+            if (table->rows[i].parts[part].isOfDrag) {
+                showNode(handles[i].parts[part],
+                         heldRow != nullptr && table->rows[i].handle == heldRow->handle);
+            }
+        }
+    }
+    for (std::size_t i = 0; i < groups.size(); ++i) {
+        showNode(groups[i], isInModes(mode, table->groups[i]));
+    }
+}
+
+void HandleSet::showAll()
+{
+    for (const Nodes& nodes : handles) {
+        showNode(nodes.top, true);
+    }
+    for (const osg::NodePtr& group : groups) {
+        showNode(group, true);
+    }
+}
+
+void HandleSet::hideAll()
+{
+    for (const Nodes& nodes : handles) {
+        showNode(nodes.top, false);
+    }
+    for (const osg::NodePtr& group : groups) {
+        showNode(group, false);
+    }
+}
+
+void HandleSet::showRow(std::size_t row, bool isVisible)
+{
+    showNode(handles[row].top, isVisible);
+}
+
+void HandleSet::setExcluded(int handle, bool isExcluded)
+{
+    for (std::size_t i = 0; i < handles.size(); ++i) {
+        if (table->rows[i].handle == handle) {
+            handles[i].isExcluded = isExcluded;
+        }
+    }
+}
+
+// == Placement
+
+void HandleSet::setPlace(std::size_t row, const osg::Matrix& place) const
+{
+    setMatrix(handles[row].top, place);
+}
+
+void setMatrix(const osg::NodePtr& node, const osg::Matrix& matrix)
+{
+    constexpr std::size_t kSize = 16;
+    const auto core = osg::TransformPtr::dcast(node->getCore());
+    const float* const known = core->getMatrix().getValues();
+    if (std::equal(known, known + kSize, matrix.getValues())) {
+        return;
+    }
+    const nbEdit edit(core, osg::Transform::MatrixFieldMask);
+    core->setMatrix(matrix);
+}
+
+}  // namespace nbec::manipulator

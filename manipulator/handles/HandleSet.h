@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "manipulator/handles/HandleTable.h"
+#include "manipulator/nbManipulatorExport.h"
+
+#include <nbOpenSGExt/Transform3D.h>
+
+#include <OpenSG/OSGMatrix.h>
+#include <OpenSG/OSGNode.h>
+#include <OpenSG/OSGRefPtr.h>
+#include <OpenSG/OSGSimpleMaterial.h>
+
+#include <cstddef>
+#include <vector>
+
+namespace nbec::manipulator {
+
+/// The handles of one gizmo: a tree of nodes built from a table, with its colours and visibility.
+///
+/// Below the root are the handles without a group node and then the groups, in their order. Every
+/// node of a handle bears the handle's name. All showing and hiding acts on the nodes that share a
+/// core, so that a depth-pass copy follows. A copy of the set shares the tree.
+class NB_MANIPULATOR_API HandleSet
+{
+public:
+    using Materials = std::vector<osg::SimpleMaterialRefPtr>;
+
+    /// @param handleTable  outlives the set
+    /// @param handleMaterials  those that the table names by their places
+    HandleSet(const HandleTable& handleTable, Materials handleMaterials);
+
+    osg::NodePtr getRoot() const { return root.get(); }
+
+    /// Core of the root; null where the table's root has another one.
+    osg::Transform3DPtr getRootTransform() const;
+    osg::Transform3DPtr getGroupTransform(std::size_t group) const;
+
+    /// Top node of the handle of a row.
+    osg::NodePtr getNode(std::size_t row) const { return handles[row].top; }
+
+    /// A material by its place in the list.
+    osg::SimpleMaterialPtr getMaterial(std::size_t index) const { return materials[index].get(); }
+
+    const HandleTable& getTable() const { return *table; }
+
+    /// The first row of a handle; null for 0.
+    const HandleRow* findRow(int handle) const;
+
+    /// The handle that a node is part of, by its name; 0 for any other node and null. Rows are
+    /// compared in their order, exactly.
+    int find(const osg::NodePtr& node) const;
+
+    // == Colours
+
+    /// Gives handles their idle colours, and none is lit.
+    /// @param mode  says which colours, and which handles, see HandleTable::restored
+    void setDefaultMaterials(int mode);
+
+    /// Lights one handle up, and those that go with it; the one before goes back to its idle
+    /// colours. @param handle  0 for none @param mode  as for setDefaultMaterials()
+    void light(int handle, int mode);
+
+    int getLit() const { return lit; }
+
+    // == Visibility
+
+    void showRoot(bool isVisible);
+    /// Shows what a mode shows. @param held  of that only what the drag of this handle leaves; 0
+    /// for no drag
+    void show(int mode, int held);
+    void showAll();
+    void hideAll();
+    void showRow(std::size_t row, bool isVisible);
+
+    /// Keeps a handle out of every mode, or lets it in again; seen with the next show().
+    void setExcluded(int handle, bool isExcluded);
+
+    // == Placement
+
+    /// Sets the matrix of a handle whose top is a HandleHolder::Matrix, unless it is the same.
+    void setPlace(std::size_t row, const osg::Matrix& place) const;
+
+private:
+    struct Nodes
+    {
+        osg::NodePtr top;
+        std::vector<osg::NodePtr> parts;
+        bool isExcluded = false;
+    };
+
+    static Nodes buildHandle(const HandleRow& row);
+    void colour(std::size_t row, bool isLit, int mode);
+    bool isShown(std::size_t row, int mode, const HandleRow* held) const;
+
+    const HandleTable* table;
+    Materials materials;
+    osg::RefPtr<osg::NodePtr> root;
+    std::vector<osg::NodePtr> groups;
+    std::vector<Nodes> handles;
+    int lit = 0;
+};
+
+/// Sets a transform's matrix inside an edit; one that has it already, bit for bit, is not edited.
+NB_MANIPULATOR_API void setMatrix(const osg::NodePtr& node, const osg::Matrix& matrix);
+
+}  // namespace nbec::manipulator

@@ -1,0 +1,307 @@
+// SPDX-License-Identifier: MIT
+#include "manipulator/match/PerspectiveMatchLayout.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace nbec::manipulator::match {
+
+namespace {
+
+constexpr double kDashPx = 8.0;
+constexpr double kGapPx = 6.0;
+constexpr double kHorizonDashPx = 18.0;
+/// Arm of the cross that marks a vanishing point, logical pixels.
+constexpr double kCrossArmPx = 7.0;
+/// Sine of the angle below which two lines count as one direction whatever their distance.
+constexpr double kParallelSine = 1e-9;
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+
+bool isFinite(const osg::Pnt2f& point)
+{
+    return std::isfinite(point.x()) && std::isfinite(point.y());
+}
+
+osg::Vec2d toDouble(const osg::Pnt2f& point)
+{
+    return osg::Vec2d(point.x(), point.y());
+}
+
+double cross(const osg::Vec2d& a, const osg::Vec2d& b)
+{
+    return a.x() * b.y() - a.y() * b.x();
+}
+
+// == Hits
+
+/// A hit so far: smaller is better, first by distance, then lines that count before others.
+struct Candidate
+{
+    float distancePx = std::numeric_limits<float>::max();
+    bool counts = false;
+    MatchPart hit;
+
+    void offer(float otherPx, bool otherCounts, const MatchPart& other)
+    {
+        if (otherPx < distancePx || (otherPx == distancePx && otherCounts && !counts)) {
+            *this = Candidate { otherPx, otherCounts, other };
+        }
+    }
+};
+
+float distanceToSegment(const osg::Pnt2f& a, const osg::Pnt2f& b, const osg::Pnt2f& point)
+{
+    const osg::Vec2f along = b - a;
+    const float squareLength = along.squareLength();
+    const float place =
+        squareLength > 0.0F ? std::clamp((point - a).dot(along) / squareLength, 0.0F, 1.0F) : 0.0F;
+    return (point - (a + along * place)).length();
+}
+
+osg::Pnt2f inPixels(const osg::Pnt2f& point, const MatchView& view)
+{
+    return osg::Pnt2f(point.x() * view.referencePx, point.y() * view.referencePx);
+}
+
+// == Guides
+
+/// A straight course in pixels, from a parameter to another; both may be infinite.
+struct Course
+{
+    osg::Vec2d origin;
+    osg::Vec2d direction;  ///< unit length
+    double begin = 0.0;
+    double end = 0.0;
+};
+
+/// Cuts a course to 0 .. size along one coordinate.
+void cutTo(Course& course, double origin, double direction, double size)
+{
+    if (direction == 0.0) {
+        if (origin < 0.0 || origin > size) {
+            course.end = course.begin;
+        }
+        return;
+    }
+    const double atLow = -origin / direction;
+    const double atHigh = (size - origin) / direction;
+    course.begin = std::max(course.begin, std::min(atLow, atHigh));
+    course.end = std::min(course.end, std::max(atLow, atHigh));
+}
+
+/// Collects segments that are given in pixels.
+class SegmentWriter
+{
+public:
+    explicit SegmentWriter(const MatchView& matchView)
+        : view(matchView)
+    { }
+
+    void addSegment(MatchGuides::Segments& segments, const osg::Vec2d& from,
+                    const osg::Vec2d& to) const
+    {
+        segments.push_back(toLineUnits(from));
+        segments.push_back(toLineUnits(to));
+    }
+
+    /// Dashes along the part of a course that is in view. They keep their places along the course,
+    /// wherever the view cuts it.
+    void addDashes(MatchGuides::Segments& segments, const Course& course, double dashPx) const
+    {
+        Course seen = course;
+        cutTo(seen, course.origin.x(), course.direction.x(), view.widthPx);
+        cutTo(seen, course.origin.y(), course.direction.y(), view.heightPx);
+        if (!(seen.begin < seen.end)) {
+            return;
+        }
+        const double period = (dashPx + kGapPx) * view.pixelRatio;
+        const double phase = std::isfinite(course.begin) ? course.begin : 0.0;
+        const double firstDash = std::floor((seen.begin - phase) / period);
+        const auto count = static_cast<int>(std::ceil((seen.end - phase) / period - firstDash));
+        for (int i = 0; i < count; ++i) {
+            const double dash = phase + (firstDash + i) * period;
+            const double from = std::max(dash, seen.begin);
+            const double to = std::min(dash + dashPx * view.pixelRatio, seen.end);
+            if (from < to) {
+                addSegment(segments, course.origin + course.direction * from,
+                           course.origin + course.direction * to);
+            }
+        }
+    }
+
+    void addCross(MatchGuides::Segments& segments, const osg::Vec2d& centre) const
+    {
+        const double arm = kCrossArmPx * view.pixelRatio;
+        if (centre.x() < -arm || centre.x() > view.widthPx + arm || centre.y() < -arm ||
+            centre.y() > view.heightPx + arm) {
+            return;
+        }
+        addSegment(segments, centre - osg::Vec2d(arm, arm), centre + osg::Vec2d(arm, arm));
+        addSegment(segments, centre - osg::Vec2d(arm, -arm), centre + osg::Vec2d(arm, -arm));
+    }
+
+private:
+    osg::Pnt3f toLineUnits(const osg::Vec2d& pointPx) const
+    {
+        const double unit = 1.0 / view.referencePx;
+        return osg::Pnt3f(static_cast<float>(pointPx.x() * unit),
+                          static_cast<float>(pointPx.y() * unit), 0.0F);
+    }
+
+    const MatchView& view;
+};
+
+/// Extends a line from the end that is nearer to its vanishing point up to that; both ends, if it
+/// vanishes at infinity.
+void extend(const SegmentWriter& writer, MatchGuides::Segments& segments, const osg::Line2D& line,
+            const VanishingPoint& vanishing, double referencePx)
+{
+    const osg::Vec2d first = toDouble(line.getFirst()) * referencePx;
+    const osg::Vec2d second = toDouble(line.getSecond()) * referencePx;
+    osg::Vec2d along = second - first;
+    const double length = along.length();
+    along *= 1.0 / length;
+    const osg::Vec2d back = along * -1.0;
+    if (vanishing.kind == VanishingPoint::Kind::Direction) {
+        writer.addDashes(segments, Course { first, back, 0.0, kInfinity }, kDashPx);
+        writer.addDashes(segments, Course { second, along, 0.0, kInfinity }, kDashPx);
+        return;
+    }
+    const double place = (vanishing.place * referencePx - first).dot(along);
+    if (place > length) {
+        writer.addDashes(segments, Course { second, along, 0.0, place - length }, kDashPx);
+    } else if (place < 0.0) {
+        writer.addDashes(segments, Course { first, back, 0.0, -place }, kDashPx);
+    }
+}
+
+void addHorizon(const SegmentWriter& writer, MatchGuides::Segments& segments,
+                const VanishingPoint& one, const VanishingPoint& other, double referencePx)
+{
+    using Kind = VanishingPoint::Kind;
+    if (one.kind == Kind::None || other.kind == Kind::None ||
+        (one.kind == Kind::Direction && other.kind == Kind::Direction)) {
+        return;
+    }
+    const VanishingPoint& point = one.kind == Kind::Point ? one : other;
+    const VanishingPoint& second = one.kind == Kind::Point ? other : one;
+    osg::Vec2d along = second.kind == Kind::Direction ? second.place : second.place - point.place;
+    const double length = along.length();
+    if (length > 0.0) {
+        along *= 1.0 / length;
+        writer.addDashes(segments,
+                         Course { point.place * referencePx, along, -kInfinity, kInfinity },
+                         kHorizonDashPx);
+    }
+}
+
+}  // namespace
+
+bool isMatchLineShown(const osg::Line2D& line)
+{
+    return line != osg::Line2D() && isFinite(line.getFirst()) && isFinite(line.getSecond());
+}
+
+osg::Matrix clipFromLineUnits(const MatchView& view)
+{
+    osg::Matrix matrix;
+    if (view.hasArea()) {
+        matrix.setScale(2.0F * view.referencePx / static_cast<float>(view.widthPx),
+                        2.0F * view.referencePx / static_cast<float>(view.heightPx), 1.0F);
+        matrix.setTranslate(-1.0F, -1.0F, 0.0F);
+    }
+    return matrix;
+}
+
+MatchPart partUnderPointer(const MatchLines& lines, const MatchView& view,
+                           const osg::Pnt2f& pointerPx)
+{
+    if (!view.hasArea()) {
+        return MatchPart();
+    }
+    Candidate end;
+    Candidate body;
+    for (std::size_t i = 0; i < lines.lines.size(); ++i) {
+        const osg::Line2D& line = lines.lines[i];
+        if (!isMatchLineShown(line)) {
+            continue;
+        }
+        const auto number = static_cast<PerspectiveMatchLine>(i + 1);
+        const bool counts = lines.isAxisUsed[matchAxisOfLine(i)];
+        const osg::Pnt2f first = inPixels(line.getFirst(), view);
+        const osg::Pnt2f second = inPixels(line.getSecond(), view);
+        end.offer((pointerPx - first).length(), counts, { number, kFirstEnd });
+        end.offer((pointerPx - second).length(), counts, { number, kSecondEnd });
+        body.offer(distanceToSegment(first, second, pointerPx), counts, { number, kLineBody });
+    }
+    if (end.distancePx <= (kEndRadiusPx + kHitTolerancePx) * view.pixelRatio) {
+        return end.hit;
+    }
+    if (body.distancePx <= (0.5F * kLineWidthPx + kHitTolerancePx) * view.pixelRatio) {
+        return body.hit;
+    }
+    return MatchPart();
+}
+
+VanishingPoint vanishingPointOf(const osg::Line2D& first, const osg::Line2D& second)
+{
+    VanishingPoint result;
+    if (!isMatchLineShown(first) || !isMatchLineShown(second)) {
+        return result;
+    }
+    const osg::Vec2d start = toDouble(first.getFirst());
+    osg::Vec2d along = toDouble(first.getSecond()) - start;
+    const osg::Vec2d otherStart = toDouble(second.getFirst());
+    osg::Vec2d otherAlong = toDouble(second.getSecond()) - otherStart;
+    const double length = along.length();
+    const double otherLength = otherAlong.length();
+    if (!(length > 0.0) || !(otherLength > 0.0)) {
+        return result;
+    }
+    along *= 1.0 / length;
+    otherAlong *= 1.0 / otherLength;
+    const double sine = cross(along, otherAlong);
+    const osg::Vec2d between = otherStart - start;
+    if (std::fabs(sine) < kParallelSine) {
+        const bool isSameLine = std::fabs(cross(along, between)) < kParallelSine;
+        result.kind = isSameLine ? VanishingPoint::Kind::None : VanishingPoint::Kind::Direction;
+        result.place = along;
+        return result;
+    }
+    const osg::Vec2d meeting = start + along * (cross(between, otherAlong) / sine);
+    const bool isFar = meeting.length() > kFarthestVanishingPoint;
+    result.kind = isFar ? VanishingPoint::Kind::Direction : VanishingPoint::Kind::Point;
+    result.place = isFar ? along : meeting;
+    return result;
+}
+
+MatchGuides makeMatchGuides(const MatchLines& lines, const MatchView& view, std::size_t upAxis)
+{
+    MatchGuides guides;
+    if (!view.hasArea()) {
+        return guides;
+    }
+    const SegmentWriter writer(view);
+    const double referencePx = view.referencePx;
+    std::array<VanishingPoint, kMatchAxisCount> vanishing;
+    for (std::size_t axis = 0; axis < kMatchAxisCount; ++axis) {
+        const osg::Line2D& first = lines.lines[2 * axis];
+        const osg::Line2D& second = lines.lines[2 * axis + 1];
+        if (lines.isAxisUsed[axis]) {
+            vanishing[axis] = vanishingPointOf(first, second);
+        }
+        if (vanishing[axis].kind == VanishingPoint::Kind::None) {
+            continue;
+        }
+        extend(writer, guides.axes[axis], first, vanishing[axis], referencePx);
+        extend(writer, guides.axes[axis], second, vanishing[axis], referencePx);
+        if (vanishing[axis].kind == VanishingPoint::Kind::Point) {
+            writer.addCross(guides.axes[axis], vanishing[axis].place * referencePx);
+        }
+    }
+    addHorizon(writer, guides.horizon, vanishing[0], vanishing[3 - upAxis], referencePx);
+    return guides;
+}
+
+}  // namespace nbec::manipulator::match

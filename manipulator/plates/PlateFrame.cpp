@@ -1,0 +1,316 @@
+// SPDX-License-Identifier: MIT
+#include "manipulator/plates/PlateFrame.h"
+
+#include "manipulator/drag/DragGeometry.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace nbec::manipulator::plates {
+
+namespace {
+
+constexpr double kRotationStep = 15.0;
+/// Least longer side that scaling leaves, pixels.
+constexpr double kLeastScaledSide = 4.0;
+constexpr double kShortest = 1e-3;
+/// Nearer to the centre than this a pointer has no direction, pixels.
+constexpr double kLeastArm = 0.5;
+constexpr double kWholeTurn = 360.0;
+constexpr float kHalfTurn = 180.0F;
+
+struct Place
+{
+    double alongX;
+    double alongY;
+};
+
+Place placeOf(PlateCorner corner)
+{
+    switch (corner) {
+    case PlateCorner::LowerLeft:
+        return { -1.0, -1.0 };
+    case PlateCorner::UpperLeft:
+        return { -1.0, 1.0 };
+    case PlateCorner::LowerRight:
+        return { 1.0, -1.0 };
+    case PlateCorner::UpperRight:
+        break;
+    }
+    return { 1.0, 1.0 };
+}
+
+PlateCorner opposite(PlateCorner corner)
+{
+    return static_cast<PlateCorner>(kPlateCornerCount - 1 - static_cast<std::size_t>(corner));
+}
+
+/// What stays when a frame is scaled at a corner.
+osg::Pnt2f anchorOf(const PlateFrame& frame, PlateCorner corner, bool aboutCentre)
+{
+    return aboutCentre ? frame.centre : cornerOfFrame(frame, opposite(corner));
+}
+
+/// Half sides of the upright box around a frame.
+osg::Vec2f halfOfBox(const PlateFrame& frame)
+{
+    const double cosine = std::abs(std::cos(frame.rotation / kDegPerRad));
+    const double sine = std::abs(std::sin(frame.rotation / kDegPerRad));
+    return osg::Vec2f(static_cast<float>(0.5 * (frame.size.x() * cosine + frame.size.y() * sine)),
+                      static_cast<float>(0.5 * (frame.size.x() * sine + frame.size.y() * cosine)));
+}
+
+double component(const osg::Vec2f& vector, bool isX)
+{
+    return isX ? vector.x() : vector.y();
+}
+
+double side(const PlateView& view, bool isX)
+{
+    return isX ? view.widthPx : view.heightPx;
+}
+
+void setGuide(PlateGuides& guides, bool isX, double line)
+{
+    if (isX) {
+        guides.hasVertical = true;
+        guides.x = static_cast<float>(line);
+    } else {
+        guides.hasHorizontal = true;
+        guides.y = static_cast<float>(line);
+    }
+}
+
+/// Keeps the nearest of what a value could snap to.
+struct Nearest
+{
+    double distance;  ///< reach at first
+    double step = 0.0;
+    double line = 0.0;
+    bool found = false;
+
+    void offer(double from, double candidate)
+    {
+        const double needed = candidate - from;
+        if (std::abs(needed) < distance || (!found && std::abs(needed) == distance)) {
+            distance = std::abs(needed);
+            step = needed;
+            line = candidate;
+            found = true;
+        }
+    }
+};
+
+/// Snaps the moved box on one axis. @return the distance that is still to go
+double snapBox(double centre, double half, double length, double reach, bool isX,
+               PlateGuides& guides)
+{
+    Nearest nearest { reach };
+    nearest.offer(centre, 0.5 * length);
+    nearest.offer(centre - half, 0.0);
+    nearest.offer(centre + half, length);
+    nearest.offer(centre - half, 0.5 * length);
+    nearest.offer(centre + half, 0.5 * length);
+    if (nearest.found) {
+        setGuide(guides, isX, nearest.line);
+    }
+    return nearest.step;
+}
+
+/// Factor at which a corner that goes along a diagonal meets an edge or centre line of the view,
+/// the nearest within reach; otherwise the given one.
+double snapFactor(double factor, const osg::Pnt2f& anchor, const osg::Vec2f& diagonal,
+                  const PlateView& view, PlateGuides& guides)
+{
+    const double length = diagonal.length();
+    double nearest = kPlateSnapReach * view.unitPx / length;
+    double result = factor;
+    bool isNearestX = false;
+    double nearestLine = 0.0;
+    bool found = false;
+    for (const bool isX : { true, false }) {
+        const double along = component(diagonal, isX);
+        if (std::abs(along) < kShortest) {
+            continue;
+        }
+        for (const double part : { 0.0, 0.5, 1.0 }) {
+            const double line = part * side(view, isX);
+            const double candidate = (line - component(anchor.subZero(), isX)) / along;
+            if (std::abs(candidate - factor) <= nearest) {
+                nearest = std::abs(candidate - factor);
+                result = candidate;
+                isNearestX = isX;
+                nearestLine = line;
+                found = true;
+            }
+        }
+    }
+    if (found) {
+        setGuide(guides, isNearestX, nearestLine);
+    }
+    return result;
+}
+
+osg::Pnt2f armEnd(const PlateFrame& frame, PlateArm arm, float lengthPx, double& awayRotation)
+{
+    const bool isUp = arm == PlateArm::Above;
+    const osg::Pnt2f foot = pointOfFrame(frame, 0.0, arm == PlateArm::Below ? -1.0 : 1.0);
+    awayRotation = isUp ? frame.rotation : frame.rotation + kHalfTurn;
+    const double angle = awayRotation / kDegPerRad;
+    return osg::Pnt2f(foot.x() - lengthPx * static_cast<float>(std::sin(angle)),
+                      foot.y() - lengthPx * static_cast<float>(std::cos(angle)));
+}
+
+bool isInView(const osg::Pnt2f& point, float margin, const PlateView& view)
+{
+    return point.x() >= margin && point.x() <= static_cast<float>(view.widthPx) - margin &&
+        point.y() >= margin && point.y() <= static_cast<float>(view.heightPx) - margin;
+}
+
+/// The frame as it is drawn: at least large enough to grab its body.
+PlateFrame grabbableFrame(const PlateFrame& frame, const PlateView& view)
+{
+    const float least = kPlateLeastSide * view.unitPx;
+    PlateFrame result = frame;
+    result.size = osg::Vec2f(std::max(frame.size.x(), least), std::max(frame.size.y(), least));
+    return result;
+}
+
+}  // namespace
+
+osg::Pnt2f pointOfFrame(const PlateFrame& frame, double alongX, double alongY)
+{
+    const double x = 0.5 * alongX * frame.size.x();
+    const double y = 0.5 * alongY * frame.size.y();
+    const double cosine = std::cos(frame.rotation / kDegPerRad);
+    const double sine = std::sin(frame.rotation / kDegPerRad);
+    return osg::Pnt2f(static_cast<float>(frame.centre.x() + cosine * x - sine * y),
+                      static_cast<float>(frame.centre.y() - sine * x - cosine * y));
+}
+
+osg::Pnt2f cornerOfFrame(const PlateFrame& frame, PlateCorner corner)
+{
+    const Place place = placeOf(corner);
+    return pointOfFrame(frame, place.alongX, place.alongY);
+}
+
+PlateArm chooseArm(const PlateFrame& frame, const PlateView& view)
+{
+    const PlateFrame drawn = grabbableFrame(frame, view);
+    for (const PlateArm arm : { PlateArm::Above, PlateArm::Below, PlateArm::Inside }) {
+        double rotation = 0.0;
+        const osg::Pnt2f knob = armEnd(drawn, arm, kPlateArmLength * view.unitPx, rotation);
+        if (isInView(knob, kPlateKnobRadius * view.unitPx, view)) {
+            return arm;
+        }
+    }
+    return PlateArm::Above;
+}
+
+PlateHandles layOutHandles(const PlateFrame& frame, PlateArm arm, const PlateView& view)
+{
+    PlateHandles handles;
+    handles.frame = grabbableFrame(frame, view);
+    for (std::size_t i = 0; i < kPlateCornerCount; ++i) {
+        handles.corners[i] = cornerOfFrame(handles.frame, static_cast<PlateCorner>(i));
+    }
+    const osg::Vec2f half = halfOfBox(handles.frame);
+    const float inset = 0.5F * kPlateBoxSize * view.unitPx;
+    for (const bool isX : { true, false }) {
+        const osg::UInt32 axis = isX ? 0 : 1;
+        const auto last = static_cast<float>(side(view, isX)) - inset;
+        const float centre = handles.frame.centre[axis];
+        if (last > inset && centre - half[axis] < inset && centre + half[axis] > last) {
+            for (osg::Pnt2f& corner : handles.corners) {
+                corner[axis] = std::clamp(corner[axis], inset, last);
+            }
+        }
+    }
+    double rotation = 0.0;
+    handles.knob = armEnd(handles.frame, arm, kPlateArmLength * view.unitPx, rotation);
+    handles.armRotation = static_cast<float>(rotation);
+    return handles;
+}
+
+PlateFrame changedFrame(const PlateFrame& frame, const PlateChange& change)
+{
+    PlateFrame result = frame;
+    result.centre += change.offsetPx;
+    result.size *= change.scaleFactor;
+    result.rotation += change.rotation;
+    return result;
+}
+
+PlateChange moveFrame(const PlateFrame& start, const osg::Vec2f& distancePx, const PlateView& view,
+                      PlateGuides* guides)
+{
+    PlateChange change;
+    change.offsetPx = distancePx;
+    if (guides == nullptr) {
+        return change;
+    }
+    const osg::Vec2f half = halfOfBox(start);
+    const double reach = kPlateSnapReach * view.unitPx;
+    for (const bool isX : { true, false }) {
+        const osg::UInt32 axis = isX ? 0 : 1;
+        const double centre = static_cast<double>(start.centre[axis]) + distancePx[axis];
+        change.offsetPx[axis] +=
+            static_cast<float>(snapBox(centre, half[axis], side(view, isX), reach, isX, *guides));
+    }
+    return change;
+}
+
+double cornerFactor(const PlateFrame& start, PlateCorner corner, bool aboutCentre,
+                    const osg::Vec2f& distancePx)
+{
+    const osg::Vec2f diagonal = cornerOfFrame(start, corner) - anchorOf(start, corner, aboutCentre);
+    const double square = diagonal.dot(diagonal);
+    return square > kShortest * kShortest ? 1.0 + distancePx.dot(diagonal) / square : 1.0;
+}
+
+PlateChange scaleFrame(const PlateFrame& start, PlateCorner corner, bool aboutCentre, double factor,
+                       const PlateView& view, PlateGuides* guides)
+{
+    const osg::Pnt2f anchor = anchorOf(start, corner, aboutCentre);
+    const osg::Vec2f diagonal = cornerOfFrame(start, corner) - anchor;
+    PlateChange change;
+    if (!(diagonal.dot(diagonal) > kShortest * kShortest)) {
+        return change;
+    }
+    const double longer = std::max(start.size.x(), start.size.y());
+    const double wanted =
+        guides != nullptr ? snapFactor(factor, anchor, diagonal, view, *guides) : factor;
+    const double reached = std::max(wanted, std::min(kLeastScaledSide / longer, 1.0));
+    change.scaleFactor = static_cast<float>(reached);
+    change.offsetPx = (start.centre - anchor) * static_cast<float>(reached - 1.0);
+    return change;
+}
+
+bool turnBetween(const osg::Pnt2f& centre, const osg::Pnt2f& from, const osg::Pnt2f& to,
+                 double& angle)
+{
+    const osg::Vec2f first = from - centre;
+    const osg::Vec2f second = to - centre;
+    if (first.length() < kLeastArm || second.length() < kLeastArm) {
+        return false;
+    }
+    // y points down, so a positive cross product turns clockwise.
+    const double cross =
+        static_cast<double>(first.x()) * second.y() - static_cast<double>(first.y()) * second.x();
+    const double dot =
+        static_cast<double>(first.x()) * second.x() + static_cast<double>(first.y()) * second.y();
+    const double within = std::atan2(-cross, dot) * kDegPerRad;
+    angle = within + kWholeTurn * std::round((angle - within) / kWholeTurn);
+    return true;
+}
+
+PlateChange turnFrame(const PlateFrame& start, double angle, bool snaps)
+{
+    PlateChange change;
+    const double resulting = start.rotation + angle;
+    change.rotation =
+        static_cast<float>(snaps ? snapped(resulting, kRotationStep) - start.rotation : angle);
+    return change;
+}
+
+}  // namespace nbec::manipulator::plates

@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <nbOpenSGSceneplate/nbSceneplateLayout.h>
+
+#include <OpenSG/OSGVector.h>
+
+#include <array>
+#include <cstddef>
+
+/// Arithmetic of the scene-plate manipulator in pixels, without widget and nodes. Positions are
+/// device pixels, y from the top; angles are degrees, counter-clockwise on screen.
+namespace nbec::manipulator::plates {
+
+using PlateFrame = nbSceneplateLayout::Frame;
+
+/// Corners of a frame in its own axes; also their order in arrays.
+enum class PlateCorner : std::size_t
+{
+    LowerLeft,
+    UpperLeft,
+    LowerRight,
+    UpperRight
+};
+
+constexpr std::size_t kPlateCornerCount = 4;
+
+/// The view and how large handles are in it.
+struct PlateView
+{
+    int widthPx = 0;
+    int heightPx = 0;
+    float unitPx = 1.0F;  ///< pixels per unit of the handle sizes below
+};
+
+/// Sizes of handles; a unit is a logical pixel at the default size of manipulators.
+constexpr float kPlateBoxSize = 10.0F;
+constexpr float kPlateKnobRadius = 6.0F;
+/// From the frame's edge to the knob's centre.
+constexpr float kPlateArmLength = 32.0F;
+/// A frame with less than this for a side is drawn larger, so that its body can be grabbed.
+constexpr float kPlateLeastSide = 28.0F;
+/// Reach of snapping.
+constexpr float kPlateSnapReach = 8.0F;
+
+/// Where the arm of rotation stands.
+enum class PlateArm
+{
+    Above,  ///< of the frame, as the frame is turned
+    Below,
+    Inside  ///< hangs from the upper edge into the frame
+};
+
+/// Where handles are drawn.
+struct PlateHandles
+{
+    PlateFrame frame;
+    std::array<osg::Pnt2f, kPlateCornerCount> corners;
+    osg::Pnt2f knob;
+    float armRotation = 0.0F;  ///< of the way from the frame to the knob; 0 is up
+};
+
+/// What a drag does to the plates since its start.
+struct PlateChange
+{
+    float scaleFactor = 1.0F;  ///< about the centre of the frame
+    osg::Vec2f offsetPx { 0.0F, 0.0F };  ///< of the centre
+    float rotation = 0.0F;
+
+    bool operator==(const PlateChange& other) const
+    {
+        return scaleFactor == other.scaleFactor && offsetPx == other.offsetPx &&
+            rotation == other.rotation;
+    }
+};
+
+/// The lines that a drag has snapped to.
+struct PlateGuides
+{
+    bool hasVertical = false;
+    bool hasHorizontal = false;
+    float x = 0.0F;  ///< of the vertical line
+    float y = 0.0F;  ///< of the horizontal line
+};
+
+/// Pixel position of a place of a frame. @param alongX, alongY  in half sides from the centre, y up
+osg::Pnt2f pointOfFrame(const PlateFrame& frame, double alongX, double alongY);
+
+osg::Pnt2f cornerOfFrame(const PlateFrame& frame, PlateCorner corner);
+
+/// The first place of the arm, in the order of PlateArm, at which the whole knob is in the view;
+/// above if there is none.
+PlateArm chooseArm(const PlateFrame& frame, const PlateView& view);
+
+/// Places the handles of a frame. A frame that reaches beyond both opposite edges of the view, such
+/// as that of a plate that fills the window, gets its corner boxes pulled in so that all of each is
+/// seen.
+PlateHandles layOutHandles(const PlateFrame& frame, PlateArm arm, const PlateView& view);
+
+/// A frame after a change: scaled and turned about its centre, which moves by the offset.
+PlateFrame changedFrame(const PlateFrame& frame, const PlateChange& change);
+
+/// Moves a frame by a distance. With guides: edges of the upright box around it snap to the same
+/// edges of the view and to its centre lines, its centre to the centre lines; per axis the nearest
+/// within reach, the centre first.
+/// @param guides  receives the lines that were snapped to; null: no snapping
+PlateChange moveFrame(const PlateFrame& start, const osg::Vec2f& distancePx, const PlateView& view,
+                      PlateGuides* guides);
+
+/// Factor by which a frame is scaled when a corner follows the pointer along the diagonal:
+/// 1 + distance . diagonal / |diagonal|^2, where the diagonal goes from the opposite corner, which
+/// stays, or from the centre. 1 for a frame without size.
+double cornerFactor(const PlateFrame& start, PlateCorner corner, bool aboutCentre,
+                    const osg::Vec2f& distancePx);
+
+/// Scales a frame by a factor at a corner, so that what the diagonal comes from stays, see
+/// cornerFactor(). With guides: the corner snaps to edges and centre lines of the view where its
+/// way along the diagonal meets them. The longer side never gets less than 4 pixels by it, so that
+/// nothing vanishes or turns over. A frame without size does not change.
+PlateChange scaleFrame(const PlateFrame& start, PlateCorner corner, bool aboutCentre, double factor,
+                       const PlateView& view, PlateGuides* guides);
+
+/// Angle by which the way from a centre to a point turns when the point moves.
+/// @param angle  receives, of all angles that differ by whole turns, the nearest to what it holds,
+///               so that a drag may go round more than once
+/// @return false, and the angle untouched, if a point is within half a pixel of the centre
+bool turnBetween(const osg::Pnt2f& centre, const osg::Pnt2f& from, const osg::Pnt2f& to,
+                 double& angle);
+
+/// Turns a frame by an angle. @param snaps  the frame's resulting rotation is the nearest multiple
+/// of 15 degrees
+PlateChange turnFrame(const PlateFrame& start, double angle, bool snaps);
+
+}  // namespace nbec::manipulator::plates

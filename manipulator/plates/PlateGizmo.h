@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "manipulator/course/Gizmo.h"
+#include "manipulator/plates/PlateFrame.h"
+#include "manipulator/plates/PlateModes.h"
+
+#include <OpenSG/OSGNode.h>
+
+#include <vector>
+
+namespace nbec::manipulator::plates {
+
+/// Course of the scene-plate gizmo, whose drags go out as "sceneplateChanged". See
+/// nbSceneplateManipulator, its face.
+class PlateGizmo : public Gizmo
+{
+public:
+    /// @param size  outlives the gizmo
+    explicit PlateGizmo(const float& size);
+
+    /// See nbSceneplateManipulator::setNodes().
+    void setNodes(const std::vector<osg::NodePtr>& nodes);
+    std::vector<osg::NodePtr> getNodes() const;
+
+    /// Handles are shown and hit only while the gizmo is in use.
+    void setInUse(bool on) { isInUse = on; }
+
+    /// @param ratio  device pixels per logical pixel
+    void setPixelRatio(float ratio) { pixelRatio = ratio; }
+
+    /// Also in a drag, of which it changes nothing.
+    void showActive() override;
+
+    bool precisionActive = false;
+    bool snappingEnabled = false;
+    bool descriptionEnabled = true;
+
+protected:
+    bool hasTarget() const override;
+    bool canStep(const View& view) override;
+    bool prepare(const View& view) override;
+    DragStep parametersAt(const View& view, const DragTrack& before) const override;
+    void apply(const DragParameters& parameters) override;
+    void finish() override;
+    void place(const View& view) override;
+    bool isDisplaced(const View& view) const override;
+    float placementNumber() const override;
+    std::optional<QString> describe() const override;
+    ValueText* getText() const override;
+
+private:
+    /// What a drag knows of its start, and how far it has come.
+    struct Drag
+    {
+        PlateFrame start;
+        osg::Pnt2f pressedPx;
+        PlateArm arm = PlateArm::Above;
+        int widthPx = 0;
+        int heightPx = 0;
+        bool isBroken = false;  ///< other plates were set
+        PlateChange change;  ///< sent last
+        PlateGuides guides;
+    };
+
+    ActiveMode handle() const { return static_cast<ActiveMode>(getArmed()); }
+
+    bool isSnapping() const { return precisionActive || snappingEnabled; }
+
+    float unitPx() const;
+    std::vector<osg::SceneplatePtr> getPlates() const;
+    PlateChange changeOf(const DragParameters& parameters, PlateGuides& guides) const;
+    void placeHandles(const PlateHandles& layout, float unit) const;
+    void placeGuides(const PlateView& view);
+
+    std::vector<osg::UInt32> nodeIds;
+    bool isInUse = false;
+    float pixelRatio = 1.0F;
+    Drag drag;
+};
+
+}  // namespace nbec::manipulator::plates

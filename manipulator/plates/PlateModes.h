@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <OpenSG/OSGBaseTypes.h>
+
+namespace nbec::manipulator::plates {
+
+/// The handle of the scene-plate gizmo that is hovered or grabbed.
+enum class ActiveMode : osg::UInt32
+{
+    None = 0,
+    ScaleLowerLeft = 1,
+    ScaleUpperLeft = 2,
+    ScaleLowerRight = 3,
+    ScaleUpperRight = 4,
+    Rotate = 5,
+    Move = 6
+};
+
+}  // namespace nbec::manipulator::plates

@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: MIT
+#include "manipulator/plates/PlateTable.h"
+
+#include "manipulator/handles/HandleMaterials.h"
+#include "manipulator/plates/PlateModes.h"
+
+namespace nbec::manipulator::plates {
+
+namespace {
+
+using Active = ActiveMode;
+
+/// Drawn before the handles that it surrounds.
+constexpr int kShadowSortKey = 64014;
+/// Of a handle's dark edge, from the handle.
+constexpr float kShadowLayer = -0.5F;
+/// By how much the dark edge is wider than what it surrounds, on each side.
+constexpr float kShadowWidth = 1.0F;
+constexpr float kShadowLineWidth = 4.0F;
+
+constexpr float kSphereRadius = 0.125F;  ///< of the shape
+
+/// Order of the materials of a kind: solid ones, then those for lines.
+enum Color : std::size_t
+{
+    Yellow,
+    Blue,
+    Orange,
+    Purple,
+    Shadow,  ///< around the others, so that they are seen on every plate
+    ColorCount
+};
+
+/// Place of the material of what is hit, but not seen; after all others.
+constexpr std::size_t kClear = 2 * ColorCount;
+
+constexpr float kColors[ColorCount][3] = { { 1.0F, 1.0F, 0.0F },
+                                           { 0.0F, 0.0F, 1.0F },
+                                           { 1.0F, 0.5F, 0.0F },
+                                           { 0.6F, 0.35F, 0.65F },
+                                           { 0.1F, 0.1F, 0.1F } };
+
+constexpr std::size_t line(Color color)
+{
+    return ColorCount + color;
+}
+
+/// A part whose colour never changes.
+HandlePart fixed(HandleShape shape, std::size_t color)
+{
+    return { shape, { color, color, color } };
+}
+
+HandlePart placed(HandlePart part, const std::array<float, 3>& scale, float y, float layer)
+{
+    part.holder = HandleHolder::Component;
+    part.place = { 0.0F, y, layer };
+    part.scale = scale;
+    return part;
+}
+
+HandleRow handleRow(const char* name, Active handle, const std::vector<HandlePart>& parts)
+{
+    return { name, static_cast<int>(handle), -1, parts, kAllModes, HandleHolder::Matrix };
+}
+
+HandleRow box(const char* name, Active handle)
+{
+    constexpr float kScale = 1.0F + 2.0F * kShadowWidth / kPlateBoxSize;
+    return handleRow(name, handle,
+                     { { HandleShape::Square, { Yellow, Orange, Yellow } },
+                       placed(fixed(HandleShape::Square, Shadow), { kScale, kScale, 1.0F }, 0.0F,
+                              kShadowLayer) });
+}
+
+/// Scale of the sphere that makes a knob. It is flat, one layer thick to each side.
+constexpr std::array<float, 3> knobScale(float radius)
+{
+    return { radius / kSphereRadius, radius / kSphereRadius, 1.0F / kSphereRadius };
+}
+
+/// The knob is where the arm is placed; the shaft goes down to the frame.
+HandleRow arm()
+{
+    constexpr float kLength = kPlateArmLength - kPlateKnobRadius;
+    constexpr float kShaftCentre = -kPlateKnobRadius - kLength / 2;
+    constexpr std::array<float, 3> kShaftScale = { 1.0F, kLength / kShaftLength, 1.0F };
+    const HandlePart knob = { HandleShape::CentreSphere, { Blue, Orange, Blue } };
+    const HandlePart shaft = { HandleShape::ArrowShaft, { line(Blue), line(Orange), line(Blue) } };
+    return handleRow("rotateShape", Active::Rotate,
+                     { placed(knob, knobScale(kPlateKnobRadius), 0.0F, 0.0F),
+                       placed(shaft, kShaftScale, kShaftCentre, 0.0F),
+                       placed(fixed(HandleShape::CentreSphere, Shadow),
+                              knobScale(kPlateKnobRadius + kShadowWidth), 0.0F, kShadowLayer),
+                       placed(fixed(HandleShape::ArrowShaft, line(Shadow)), kShaftScale,
+                              kShaftCentre, kShadowLayer) });
+}
+
+HandleRow body()
+{
+    HandleRow row =
+        handleRow("grid", Active::Move,
+                  { { HandleShape::SquareOutline, { line(Yellow), line(Orange), line(Yellow) } },
+                    placed(fixed(HandleShape::SquareOutline, line(Shadow)), { 1.0F, 1.0F, 1.0F },
+                           0.0F, kShadowLayer),
+                    fixed(HandleShape::Square, kClear) });
+    row.staysInDrags = true;
+    return row;
+}
+
+/// Shown by placeGuides() alone.
+HandleRow guide()
+{
+    HandleRow row =
+        handleRow(nullptr, Active::None, { fixed(HandleShape::ArrowShaft, line(Purple)) });
+    row.visibleIn = 0;
+    return row;
+}
+
+}  // namespace
+
+const HandleTable& handleTable()
+{
+    static const HandleTable table = [] {
+        HandleTable made;
+        made.rows = { box("scaleXYLLShape", Active::ScaleLowerLeft),
+                      box("scaleXYULShape", Active::ScaleUpperLeft),
+                      box("scaleXYLRShape", Active::ScaleLowerRight),
+                      box("scaleXYURShape", Active::ScaleUpperRight),
+                      arm(),
+                      body(),
+                      guide(),
+                      guide() };
+        made.root = HandleHolder::Matrix;
+        return made;
+    }();
+    return table;
+}
+
+HandleSet::Materials makeMaterials()
+{
+    const LineChunks chunks = makeLineChunks();
+    LineChunks shadowChunks = makeLineChunks();
+    shadowChunks.line = makeLineChunk(kShadowLineWidth);
+    HandleSet::Materials materials;
+    for (const bool isLine : { false, true }) {
+        for (std::size_t i = 0; i < ColorCount; ++i) {
+            const LineChunks& pen = i == Shadow ? shadowChunks : chunks;
+            const int sortKey = i == Shadow ? kShadowSortKey
+                : isLine                    ? handleSortKey::kLine
+                                            : handleSortKey::kSolid;
+            materials.push_back(
+                makeHandleMaterial(osg::Color3f(kColors[i][0], kColors[i][1], kColors[i][2]),
+                                   sortKey, isLine ? &pen : nullptr));
+        }
+    }
+    materials.push_back(makeHandleMaterial(osg::Color3f(), kShadowSortKey, nullptr, 1.0F));
+    return materials;
+}
+
+}  // namespace nbec::manipulator::plates

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#include "manipulator/plates/ScreenPlane.h"
+
+#include "manipulator/course/View.h"
+
+#include <nbKernel/nbOSGWidget.h>
+
+#include <algorithm>
+
+namespace nbec::manipulator::plates {
+
+namespace {
+
+/// Part of the depth range that the plane keeps away from its ends.
+constexpr double kDepthMargin = 1e-3;
+
+double planeDistance(const osg::UberCameraPtr& camera)
+{
+    const double nearest = camera->getNear();
+    const double farthest = std::max<double>(camera->getFar(), nearest);
+    const double margin = kDepthMargin * (farthest - nearest);
+    return std::clamp<double>(camera->getFrom().dist(camera->getAt()), nearest + margin,
+                              farthest - margin);
+}
+
+}  // namespace
+
+std::optional<osg::Matrix> worldFromPixels(const View& view)
+{
+    const int width = view.getWidth();
+    const int height = view.getHeight();
+    const osg::UberCameraPtr camera =
+        view.exists() ? view.getWidget()->getUberCamera() : osg::UberCameraPtr();
+    if (camera == osg::NullFC || width <= 0 || height <= 0) {
+        return std::nullopt;
+    }
+    osg::Matrix clipFromView;
+    camera->getProjection(clipFromView, static_cast<osg::UInt32>(width),
+                          static_cast<osg::UInt32>(height));
+    osg::Matrix viewFromWorld;
+    camera->getViewing(viewFromWorld, static_cast<osg::UInt32>(width),
+                       static_cast<osg::UInt32>(height));
+    const double distance = planeDistance(camera);
+    // At this distance the view spans -right .. right and -top .. top; clip w is 1 in an
+    // orthographic view.
+    const double w = clipFromView[3][3] - distance * clipFromView[2][3];
+    const double right = w / clipFromView[0][0];
+    const double top = w / clipFromView[1][1];
+    osg::Matrix viewFromPx;
+    viewFromPx[0][0] = static_cast<float>(2.0 * right / width);
+    viewFromPx[1][1] = static_cast<float>(-2.0 * top / height);
+    viewFromPx[2][2] = static_cast<float>(distance * kScreenLayer);
+    viewFromPx.setTranslate(static_cast<float>(-right), static_cast<float>(top),
+                            static_cast<float>(-distance));
+    osg::Matrix worldFromPx;
+    viewFromWorld.inverse(worldFromPx);
+    worldFromPx.mult(viewFromPx);
+    return worldFromPx;
+}
+
+}  // namespace nbec::manipulator::plates

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <nbOpenSGUberMaterial/ColorComponentSettings.h>
+#include <nbOpenSGUberMaterial/UberMaterial.h>
+
+#include <OpenSG/OSGMaterial.h>
+
+#include <string>
+
+class nbStateChunkBase;
+
+namespace nbec::manipulator::texture {
+
+/// The component of a material that a texture gizmo edits. The material is kept by its container
+/// id and looked up on each use, so that one that was deleted reads as null.
+class MaterialComponent
+{
+public:
+    /// @param editedMaterial  null for none  @param component  name within the material
+    /// @param editor          object of the host that mirrors the component, not owned, may be null
+    void set(const osg::MaterialPtr& editedMaterial, const std::string& component,
+             nbStateChunkBase* editor);
+
+    /// The material; null if there is none or it no longer exists.
+    osg::MaterialPtr getMaterial() const;
+    /// The material as one with components; null if it is of another class.
+    osg::UberMaterialPtr getUberMaterial() const;
+    /// The component's settings; null without such a material or without settings.
+    osg::ColorComponentSettingsPtr getSettings() const;
+
+    /// Whether the material is the given one; false for null.
+    bool isOf(const osg::MaterialPtr& other) const;
+    /// The same, and the component has exactly the given name.
+    bool is(const osg::MaterialPtr& other, const std::string& component) const;
+
+    const std::string& getName() const { return name; }
+
+    nbStateChunkBase* getGUI() const { return gui; }
+
+    void setGUI(nbStateChunkBase* editor) { gui = editor; }
+
+private:
+    osg::UInt32 materialId = 0;
+    std::string name;
+    nbStateChunkBase* gui = nullptr;
+};
+
+}  // namespace nbec::manipulator::texture

@@ -1,0 +1,280 @@
+// SPDX-License-Identifier: MIT
+#include "manipulator/texture/PlanarDrag.h"
+
+#include "manipulator/drag/DragGeometry.h"
+#include "manipulator/texture/PlanarHandles.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace nbec::manipulator::texture {
+
+namespace {
+
+using Active = PlanarActiveMode;
+
+constexpr float kShortest = 1e-6F;
+constexpr float kLeastAxisFactor = 0.01F;
+constexpr float kLeastUniformFactor = 0.001F;
+
+osg::Vec3f unitVector(osg::Vec3f vector)
+{
+    const float length = vector.length();
+    return length > 0.0F ? vector * (1.0F / length) : osg::Vec3f();
+}
+
+/// Ratio of two places on an axis; 1 where the start is too near the centre to divide by.
+float factorOf(float hit, float start)
+{
+    return std::abs(start) < kShortest ? 1.0F : hit / start;
+}
+
+/// Signed half of a side after one of its ends has moved; never less than a hundredth. A side
+/// without length has no least one, and grows whichever way its end goes.
+/// @param half      distance of the end from the centre
+/// @param outwards  half of the end's motion, along its direction from the centre
+float draggedHalf(float half, float outwards)
+{
+    return hasLength(half) ? half * std::max(1.0F + outwards / half, kLeastAxisFactor) : outwards;
+}
+
+/// Gives two halves the ratio that they had: a corner goes along the diagonal, an edge takes the
+/// other side along. Sides without length have no ratio.
+void keepRatio(const osg::Vec3f& from, osg::Vec3f& to, const PlanarSide& side)
+{
+    if (!hasLength(from.x()) || !hasLength(from.y())) {
+        return;
+    }
+    const float x = to.x() / from.x();
+    const float y = to.y() / from.y();
+    const float xWeight = side[0] != 0 ? from.x() * from.x() : 0.0F;
+    const float yWeight = side[1] != 0 ? from.y() * from.y() : 0.0F;
+    const float factor = (x * xWeight + y * yWeight) / (xWeight + yWeight);
+    to[0] = from.x() * factor;
+    to[1] = from.y() * factor;
+}
+
+/// Place on the z axis of a frame that a hit covers on screen: where the sight to the hit meets the
+/// plane of the axis that faces the viewer. The hit's own z where the axis points at the viewer.
+osg::Pnt3f onDepthAxis(const osg::Matrix& worldFromAxes, const osg::Pnt3f& hit,
+                       const osg::Vec3f& sightAtHit, const osg::Vec3f& sightAtCenter)
+{
+    const osg::Pnt3f center(column(worldFromAxes, 3));
+    const osg::Vec3f normal = axisPlaneNormal(unitVector(column(worldFromAxes, 2)), sightAtCenter);
+    const float slope = normal.dot(sightAtHit);
+    return std::abs(slope) < kShortest ? hit
+                                       : hit + sightAtHit * (normal.dot(center - hit) / slope);
+}
+
+}  // namespace
+
+bool hasLength(float length)
+{
+    constexpr float kLeastLength = 1e-12F;
+    return std::abs(length) >= kLeastLength;
+}
+
+float usableLength(float length)
+{
+    return hasLength(length) ? length : 1.0F;
+}
+
+osg::Matrix ProjectionFrame::worldFromAxes() const
+{
+    osg::Matrix axes;
+    axes.setTransform(translation, rotation);
+    osg::Matrix result = worldFromObject;
+    result.mult(axes);
+    return result;
+}
+
+osg::Vec3f ProjectionFrame::halfExtents() const
+{
+    return osg::Vec3f(scale.x() * extentPerScale.x(), scale.y() * extentPerScale.y(),
+                      scale.z() * extentPerScale.z());
+}
+
+osg::Vec3f ProjectionDrag::motion(const osg::Pnt3f& from, const osg::Pnt3f& to) const
+{
+    osg::Vec3f along = mapped(handleFromWorld, to) - mapped(handleFromWorld, from);
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        along[i] *= unit[i];
+    }
+    return along;
+}
+
+osg::Plane dragPlaneOf(const ProjectionFrame& frame, PlanarActiveMode handle,
+                       const osg::Vec3f& sight)
+{
+    const osg::Matrix worldFromAxes = frame.worldFromAxes();
+    const auto facing = [&](osg::UInt32 axis) {
+        return axisPlaneNormal(unitVector(column(worldFromAxes, axis)), sight);
+    };
+    osg::Vec3f normal = sight;
+    switch (handle) {
+    case Active::TranslateX:
+    case Active::ScaleX:
+        normal = facing(0);
+        break;
+    case Active::TranslateY:
+    case Active::ScaleY:
+        normal = facing(1);
+        break;
+    case Active::TranslateZ:
+        normal = facing(2);
+        break;
+    case Active::None:
+    case Active::ScaleZ:
+    case Active::ScaleZPlane:
+        break;
+    default:
+        // At right angles to x and y, which a skewed object's z need not be.
+        normal = unitVector(
+            unitVector(column(worldFromAxes, 0)).cross(unitVector(column(worldFromAxes, 1))));
+        break;
+    }
+    return osg::Plane(normal, osg::Pnt3f(column(worldFromAxes, 3)));
+}
+
+ProjectionDrag beginDrag(const ProjectionFrame& frame, PlanarActiveMode handle,
+                         const osg::Vec3f& sight)
+{
+    ProjectionDrag drag;
+    drag.handle = handle;
+    drag.frame = frame;
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        drag.unit[i] = usableLength(frame.scale[i]);
+    }
+    osg::Matrix units;
+    units.setScale(drag.unit);
+    osg::Matrix worldFromHandle = frame.worldFromAxes();
+    worldFromHandle.mult(units);
+    drag.handleFromWorld = inverted(worldFromHandle);
+    drag.plane = dragPlaneOf(frame, handle, sight);
+    return drag;
+}
+
+// == From two points of the drag's plane to drag parameters
+
+osg::Vec3f offsetBetween(const ProjectionDrag& drag, const osg::Pnt3f& from, const osg::Pnt3f& to)
+{
+    const osg::Vec3f motion = drag.motion(from, to);
+    osg::Vec3f offset;
+    if (drag.handle == Active::TranslateX || drag.handle == Active::TranslateXY) {
+        offset[0] = motion.x();
+    }
+    if (drag.handle == Active::TranslateY || drag.handle == Active::TranslateXY) {
+        offset[1] = motion.y();
+    }
+    if (drag.handle == Active::TranslateZ) {
+        offset[2] = motion.z();
+    }
+    return offset;
+}
+
+float turnAboutZ(const osg::Vec3f& from, const osg::Vec3f& to)
+{
+    return std::atan2(from.x() * to.y() - from.y() * to.x(), from.x() * to.x() + from.y() * to.y());
+}
+
+bool angleBetween(const ProjectionDrag& drag, const osg::Pnt3f& from, const osg::Pnt3f& to,
+                  float& angleRad)
+{
+    // The angle is one of the object's space; the units of handle space would skew it.
+    osg::Vec3f start = mapped(drag.handleFromWorld, from).subZero();
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        start[i] *= drag.unit[i];
+    }
+    const osg::Vec3f end = start + drag.motion(from, to);
+    if (!(std::hypot(start.x(), start.y()) > 0.0F) || !(std::hypot(end.x(), end.y()) > 0.0F)) {
+        return false;
+    }
+    angleRad = turnAboutZ(start, end);
+    return true;
+}
+
+float factorBetween(const ProjectionDrag& drag, const osg::Pnt3f& from, const osg::Pnt3f& to)
+{
+    if (drag.handle == Active::ScaleUniform) {
+        const osg::Vec3f motion = drag.motion(from, to);
+        const osg::Vec3f& projection = drag.frame.projectionScale;
+        const float greatest = std::max(motion.x() / usableLength(projection.x()),
+                                        motion.y() / usableLength(projection.y()));
+        return std::max(greatest + 1.0F, kLeastUniformFactor);
+    }
+    const osg::UInt32 axis =
+        static_cast<osg::UInt32>(drag.handle) - static_cast<osg::UInt32>(Active::ScaleX);
+    const float factor =
+        factorOf(mapped(drag.handleFromWorld, to)[axis], mapped(drag.handleFromWorld, from)[axis]);
+    const bool isMirrored = axis == 2 ? factor <= 0.0F : factor < 0.0F;
+    return isMirrored ? kLeastAxisFactor : factor;
+}
+
+osg::Vec3f halfSizesBetween(const ProjectionDrag& drag, const osg::Pnt3f& from,
+                            const osg::Pnt3f& to, const Sights& sights, bool keepsRatio)
+{
+    const PlanarSide side = planarSideOf(drag.handle);
+    const bool isZPlane = drag.handle == Active::ScaleZPlane;
+    osg::Vec3f motion = drag.motion(from, to);
+    if (isZPlane) {
+        const osg::Matrix axes = drag.frame.worldFromAxes();
+        const auto onAxis = [&](const osg::Pnt3f& hit, const osg::Vec3f& sight) {
+            return drag.motion(from, onDepthAxis(axes, hit, sight, sights.center));
+        };
+        motion = onAxis(to, sights.to) - onAxis(from, sights.from);
+    }
+    const osg::Vec3f before = drag.frame.halfExtents();
+    osg::Vec3f after = before;
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        // Of a side only one end moves, the depth is counted from the projection plane.
+        const float share = i < 2 ? 0.5F : 1.0F;
+        if (side[i] != 0) {
+            after[i] = draggedHalf(before[i], share * motion[i] * static_cast<float>(side[i]));
+        }
+    }
+    if (keepsRatio && !isZPlane) {
+        keepRatio(before, after, side);
+    }
+    return after;
+}
+
+// == From drag parameters to values of the projection
+
+osg::Vec3f scaledProjection(const ProjectionDrag& drag, float factor, bool keepsRatio)
+{
+    osg::Vec3f scale = drag.frame.scale;
+    const bool isUniform = drag.handle == Active::ScaleUniform;
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        const bool isOwn =
+            static_cast<osg::UInt32>(drag.handle) == static_cast<osg::UInt32>(Active::ScaleX) + i;
+        const bool goesAlong =
+            (isUniform || (keepsRatio && drag.handle != Active::ScaleZ)) && i < 2;
+        if (isOwn || goesAlong) {
+            scale[i] *= factor;
+        }
+    }
+    return scale;
+}
+
+osg::Vec3f scaleOfHalfSizes(const ProjectionDrag& drag, const osg::Vec3f& halfSizes)
+{
+    const osg::Vec3f before = drag.frame.halfExtents();
+    osg::Vec3f scale = drag.frame.scale;
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        if (halfSizes[i] != before[i]) {
+            scale[i] = (hasLength(before[i]) ? halfSizes[i] : std::abs(halfSizes[i])) /
+                drag.frame.extentPerScale[i];
+        }
+    }
+    return scale;
+}
+
+osg::Vec3f shiftOfHalfSizes(const ProjectionDrag& drag, const osg::Vec3f& halfSizes)
+{
+    const PlanarSide side = planarSideOf(drag.handle);
+    const osg::Vec3f growth = halfSizes - drag.frame.halfExtents();
+    return osg::Vec3f(growth.x() * static_cast<float>(side[0]),
+                      growth.y() * static_cast<float>(side[1]), 0.0F);
+}
+
+}  // namespace nbec::manipulator::texture

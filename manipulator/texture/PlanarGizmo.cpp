@@ -1,0 +1,422 @@
+// SPDX-License-Identifier: MIT
+#include "manipulator/texture/PlanarGizmo.h"
+
+#include "manipulator/course/ValueText.h"
+#include "manipulator/drag/DragGeometry.h"
+#include "manipulator/handles/ContainerReference.h"
+#include "manipulator/handles/HandleGroup.h"
+#include "manipulator/handles/HandleNodes.h"
+#include "manipulator/scene/MessageSending.h"
+#include "manipulator/scene/TargetFrame.h"
+#include "manipulator/texture/PlanarHandles.h"
+
+#include <nbKernel/nbController.h>
+#include <nbKernel/nbScenegraph.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
+#include <nbUtils/nbMessage.h>
+
+#include <OpenSG/OSGImage.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace nbec::manipulator::texture {
+
+namespace {
+
+using Active = PlanarActiveMode;
+
+constexpr CourseRules kRules = { /*isPreparedAtStart*/ true, /*isHoverKept*/ false,
+                                 /*isGrabbedLit*/ true, /*isEndedByDeactivation*/ true,
+                                 /*isPreviewPaused*/ true };
+constexpr float kShortestQuaternion = 1e-6F;
+/// Below this size on screen nothing can be placed relative to the gizmo.
+constexpr float kLeastSize = 1e-20F;
+constexpr std::size_t kMatrixElements = 16;
+constexpr const char* kChangedSuffix = "::changedPlanarManipulator";
+
+osg::Quaternion normalisedRotation(osg::Quaternion rotation)
+{
+    if (!(rotation.length() >= kShortestQuaternion)) {
+        return osg::Quaternion();
+    }
+    rotation.normalize();
+    return rotation;
+}
+
+bool isFinite(const osg::Matrix& matrix)
+{
+    return std::all_of(matrix.getValues(), matrix.getValues() + kMatrixElements,
+                       [](float value) { return std::isfinite(value); });
+}
+
+osg::Vec3f objectPivot(const osg::NodePtr& node, bool scalePivot)
+{
+    if (!hasPivots(node)) {
+        return objectCenter(node, false).subZero();
+    }
+    return scalePivot ? nbNodeUtils::getTransformNodeScalePivot(node)
+                      : nbNodeUtils::getTransformNodeRotatePivot(node);
+}
+
+/// What the on-screen text says. Deliberate: the values are those of the object's transform, and
+/// the z handles show none.
+QString textOf(const osg::NodePtr& node, Active handle)
+{
+    switch (handle) {
+    case Active::TranslateX:
+    case Active::TranslateY:
+    case Active::TranslateXY:
+        return describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Translation ("),
+                              nbNodeUtils::getTransformNodeTranslation(node));
+    case Active::ScaleX:
+    case Active::ScaleY:
+    case Active::ScaleUniform:
+        return describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Scale ("),
+                              nbNodeUtils::getTransformNodeScale(node));
+    case Active::Rotate:
+        return describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Rotation ("),
+                              nbNodeUtils::getTransformNodeRotation(node));
+    default:
+        return QString();
+    }
+}
+
+}  // namespace
+
+PlanarGizmo::PlanarGizmo(bool withDepthPass, const float& size)
+    : Gizmo(kRules, planarHandleTable(), makePlanarMaterials(),
+            static_cast<int>(PlanarManipulatorMode::Universal), size)
+{
+    const osg::NodePtr tree = handles.getRoot();
+    nbNodeUtils::setIsAuxiliaryNode(tree, true);
+    if (withDepthPass) {
+        root = makeHandleRootOfPasses(tree);
+    } else {
+        root = makeHandleRoot();
+        addChild(root.get(), tree);
+    }
+    handles.showRoot(false);
+}
+
+// == Object and projection
+
+osg::NodePtr PlanarGizmo::getNode() const
+{
+    return resolveContainer<osg::NodePtr>(nodeId);
+}
+
+bool PlanarGizmo::hasTarget() const
+{
+    return getNode() != osg::NullFC;
+}
+
+void PlanarGizmo::setNode(const osg::NodePtr& node)
+{
+    nodeId = containerId(node);
+    if (node == osg::NullFC) {
+        endDrag();
+        return;
+    }
+    prepareManipulator(node);
+    if (isGrabbed()) {
+        capture(View());
+    }
+}
+
+void PlanarGizmo::prepareManipulator(const osg::NodePtr& node)
+{
+    if (node == osg::NullFC) {
+        return;
+    }
+    readProjection(node);
+    const osg::ColorComponentSettingsPtr material = component.getSettings();
+    if (material != osg::NullFC && material->getPlanarProjection() != osg::NullFC) {
+        settings.keepAspectRatio =
+            material->hasPlanarProjectionFlag(osg::ColorComponentSettings::KeepAspectRatio);
+        const osg::ImagePtr image = component.getUberMaterial()->getImage(component.getName());
+        if (image != osg::NullFC && image->getHeight() > 0) {
+            settings.aspectRatio =
+                static_cast<float>(image->getWidth()) / static_cast<float>(image->getHeight());
+        }
+        askScaleValues();
+    }
+    previewPause.begin();
+}
+
+void PlanarGizmo::readProjection(const osg::NodePtr& node)
+{
+    frame.worldFromObject = node->getToWorld();
+    if (settings.useObjectTranslation) {
+        frame.translation = objectPivot(node, getActiveMode() >= Active::ScaleX);
+    }
+    if (settings.useObjectScale) {
+        frame.scale = nbNodeUtils::getTransformNodeScale(node);
+    }
+    const osg::ColorComponentSettingsPtr material = component.getSettings();
+    const osg::Transform3DPtr projection =
+        material != osg::NullFC ? material->getPlanarProjection() : osg::Transform3DPtr();
+    if (projection == osg::NullFC || !isFinite(projection->getMatrix())) {
+        return;
+    }
+    frame.projectionScale = projection->getScale();
+    if (!settings.useObjectTranslation) {
+        // The image of the origin: the translation, where no pivot of the projection moves it.
+        frame.translation = column(projection->getMatrix(), 3);
+    }
+    if (!settings.useObjectScale) {
+        frame.scale = frame.projectionScale;
+    }
+    frame.rotation = projection->getRotationAsQuaternion();
+    frame.rotation.mult(projection->getRotationOrientation());
+    frame.rotation = normalisedRotation(frame.rotation);
+}
+
+void PlanarGizmo::askScaleValues()
+{
+    frame.extentPerScale = osg::Vec3f(1.0F, 1.0F, 1.0F);
+    if (!settings.useTextureScale) {
+        return;
+    }
+    nbMessage message;
+    sendToReceiver(messageReceiver, "::getScaleValues", message);
+    nbMessage::get(message, "initialTextureScale", initialTextureScale);
+    nbMessage::get(message, "projectionSize", projectionSize);
+    for (osg::UInt32 i = 0; i < 2; ++i) {
+        const float perScale = 0.5F * projectionSize[i] / frame.scale[i];
+        if (std::isfinite(perScale) && perScale > 0.0F) {
+            frame.extentPerScale[i] = perScale;
+        }
+    }
+}
+
+bool PlanarGizmo::centerPivot()
+{
+    const osg::NodePtr node = getNode();
+    if (node == osg::NullFC || nbNodeUtils::convertToTransform3DNode(node) == osg::NullFC) {
+        return false;
+    }
+    readProjection(node);
+    setBothPivots(node, osg::Pnt3f(frame.translation));
+    placeIn(View());
+    nbController::setModified(1);
+    return true;
+}
+
+// == Drags
+
+bool PlanarGizmo::canStep(const View& /*view*/)
+{
+    const osg::NodePtr node = getNode();
+    if (node == osg::NullFC || node->getParent() == osg::NullFC) {
+        return false;
+    }
+    if (!isTargetReady && node != nbScenegraph::getRootNode()) {
+        nbNodeUtils::convertToTransform3DNode(node);
+        if (!hasPivots(node)) {
+            setBothPivots(node, objectCenter(node, false));
+        }
+        isTargetReady = true;
+    }
+    return true;
+}
+
+bool PlanarGizmo::prepare(const View& /*view*/)
+{
+    prepareManipulator(getNode());
+    capture(View());  // who was asked may have destroyed that of the event
+    return true;
+}
+
+void PlanarGizmo::capture(const View& view)
+{
+    isTargetReady = false;
+    drag = beginDrag(frame, getActiveMode(), view.sight());
+    track = DragTrack();
+    followPlane(drag.plane, view.pointerRay(), track);
+}
+
+void PlanarGizmo::updateManipulatorPlane()
+{
+    drag.plane = dragPlaneOf(frame, getActiveMode(), View().sight());
+}
+
+DragStep PlanarGizmo::parametersAt(const View& view, const DragTrack& before) const
+{
+    using Kind = DragParameters::Kind;
+    DragTrack next = before;
+    const std::optional<osg::Pnt3f> hit = followPlane(drag.plane, view.pointerRay(), next);
+    if (!hit) {
+        return DragStep();
+    }
+    const osg::Pnt3f& from = *next.start;
+    if (drag.handle == Active::Rotate) {
+        float angleRad = 0.0F;
+        if (angleBetween(drag, from, *hit, angleRad)) {
+            next.turned = static_cast<double>(angleRad) * kDegPerRad;
+        }
+        return { { Kind::Angle, next.turned }, next };
+    }
+    if (drag.handle <= Active::TranslateXY) {
+        return { { Kind::Offset, offsetBetween(drag, from, *hit) }, next };
+    }
+    if (drag.handle <= Active::ScaleUniform) {
+        return { { Kind::Factor, factorBetween(drag, from, *hit) }, next };
+    }
+    const osg::Pnt3f center(column(drag.frame.worldFromAxes(), 3));
+    const Sights sights = { view.sightAt(center), view.sightAt(from), view.sightAt(*hit) };
+    return { { Kind::HalfSizes,
+               halfSizesBetween(drag, from, *hit, sights, settings.keepAspectRatio) },
+             next };
+}
+
+void PlanarGizmo::apply(const DragParameters& parameters)
+{
+    using Kind = DragParameters::Kind;
+    nbMessage message;
+    if (parameters.kind == Kind::Angle) {
+        // Deliberate: the receiver's rotation runs opposite to the gizmo's.
+        message.set("rotate", -static_cast<float>(parameters.values[0] / kDegPerRad), true);
+    } else if (parameters.kind == Kind::Offset) {
+        setTranslationIn(message, parameters.vec3());
+    } else if (parameters.kind == Kind::Factor) {
+        if (drag.handle == Active::ScaleZ) {
+            showZScaleValue(true);
+            message.set("clamping", true, true);
+        }
+        message.set("scale", scaledProjection(drag, parameters.first(), settings.keepAspectRatio),
+                    true);
+    } else {
+        const bool isZPlane = drag.handle == Active::ScaleZPlane;
+        message.set("clamping", isZPlane, true);
+        message.set("scale", scaleOfHalfSizes(drag, parameters.vec3()), true);
+        setTranslationIn(message, shiftOfHalfSizes(drag, parameters.vec3()));
+        if (isZPlane) {
+            showZScaleValue(true);
+        }
+    }
+    sendToReceiver(messageReceiver, kChangedSuffix, message);
+}
+
+void PlanarGizmo::setTranslationIn(nbMessage& message, const osg::Vec3f& shift) const
+{
+    const osg::Vec3f turned = rotated(drag.frame.rotation, shift);
+    const osg::Vec3f& inPlane = settings.applyRotationToTranslation ? turned : shift;
+    message.set("offset", osg::Vec2f(inPlane.x(), inPlane.y()), true);
+    message.set("transVec", turned, true);
+}
+
+std::optional<QString> PlanarGizmo::describe() const
+{
+    const osg::NodePtr node = getNode();
+    return node != osg::NullFC ? textOf(node, getActiveMode()) : QString();
+}
+
+ValueText* PlanarGizmo::getText() const
+{
+    static ValueText text("textureTransformInfo");
+    return &text;
+}
+
+// == Handles shown
+
+void PlanarGizmo::setDefaultMaterials()
+{
+    handles.setDefaultMaterials(getMode());
+}
+
+void PlanarGizmo::highlightMode()
+{
+    handles.light(getArmed(), getMode());
+}
+
+void PlanarGizmo::highlightControlElement()
+{
+    setDefaultMaterials();
+    highlightMode();
+    showElements();
+}
+
+void PlanarGizmo::showElements()
+{
+    handles.setExcluded(static_cast<int>(Active::ScaleZ), !zScaleVisible);
+    handles.setExcluded(static_cast<int>(Active::ScaleZPlane), !zScaleVisible || !zScaleValueShown);
+    handles.show(getMode(), isGrabbed() ? getArmed() : 0);
+}
+
+void PlanarGizmo::setZScaleVisible(bool on)
+{
+    zScaleVisible = on;
+    showElements();
+}
+
+void PlanarGizmo::showZScaleValue(bool on)
+{
+    zScaleValueShown = on;
+    showElements();
+}
+
+void PlanarGizmo::showAllElements()
+{
+    handles.showAll();
+    handles.showRoot(true);
+}
+
+void PlanarGizmo::hideAllElements()
+{
+    handles.hideAll();
+    handles.showRoot(false);
+}
+
+// == Placement
+
+/// The projection may have been edited, which no matrix of the scene tells.
+bool PlanarGizmo::isDisplaced(const View& /*view*/) const
+{
+    return true;
+}
+
+float PlanarGizmo::placementNumber() const
+{
+    return getSize();
+}
+
+void PlanarGizmo::place(const View& view)
+{
+    readProjection(getNode());
+    const osg::Matrix worldFromAxes = frame.worldFromAxes();
+    const osg::Pnt3f center(column(worldFromAxes, 3));
+    const osg::Matrix axes = orthonormalised(worldFromAxes);
+    const float size = view.scaleAt(center, getSize(), ViewDiagonal::NearPlane);
+    // A mirrored object has mirrored handles: -z stays where the projection looks.
+    const osg::Vec3f scales(size, size, worldFromAxes.det3() < 0.0F ? -size : size);
+    placeTransform(handles.getRootTransform(), center.subZero(), osg::Quaternion(axes), scales);
+    if (size > kLeastSize && std::isfinite(size)) {
+        placeTabs(worldFromAxes, axes, scales);
+    }
+}
+
+/// @param axes  orthonormal, of the handles  @param scales  of the handles
+void PlanarGizmo::placeTabs(const osg::Matrix& worldFromAxes, const osg::Matrix& axes,
+                            const osg::Vec3f& scales)
+{
+    const osg::Vec3f extents = frame.halfExtents();
+    std::array<osg::Vec3f, 3> ends;  // of the extents, in the unit frame
+    for (osg::UInt32 end = 0; end < 3; ++end) {
+        const osg::Vec3f world = column(worldFromAxes, end) * extents[end];
+        for (osg::UInt32 axis = 0; axis < 3; ++axis) {
+            ends[end][axis] = world.dot(column(axes, axis)) / scales[axis];
+        }
+    }
+    const std::vector<HandleRow>& rows = planarHandleTable().rows;
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const PlanarSide side = planarSideOf(static_cast<Active>(rows[i].handle));
+        if (side != PlanarSide()) {
+            moveNode(handles.getNode(i),
+                     ends[0] * static_cast<float>(side[0]) + ends[1] * static_cast<float>(side[1]) +
+                         ends[2] * static_cast<float>(side[2]));
+        }
+    }
+}
+
+}  // namespace nbec::manipulator::texture

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "manipulator/handles/HandleSet.h"
+#include "manipulator/texture/PlanarModes.h"
+
+#include <array>
+
+namespace nbec::manipulator::texture {
+
+/// Which end of each extent a tab of the planar gizmo stands at, -1, 0 or 1; 0 the centre.
+using PlanarSide = std::array<int, 3>;
+
+/// The handles of the planar gizmo.
+const HandleTable& planarHandleTable();
+
+/// Their materials, in the order that the table counts in.
+HandleSet::Materials makePlanarMaterials();
+
+/// The side of a handle; that of handles which stay at the centre is all 0.
+PlanarSide planarSideOf(PlanarActiveMode handle);
+
+}  // namespace nbec::manipulator::texture

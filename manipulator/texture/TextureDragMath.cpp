@@ -1,0 +1,179 @@
+// SPDX-License-Identifier: MIT
+#include "manipulator/texture/TextureDragMath.h"
+
+#include "manipulator/drag/DragGeometry.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace nbec::manipulator::texture {
+
+namespace {
+
+constexpr float kShortest = 1e-6F;
+constexpr double kLeastFactor = 0.001;
+constexpr float kUnitsPerOffset = 100.0F;
+constexpr float kUniformShare = 0.01F;
+/// Deliberate: as many digits as the receivers of angles in degrees count with.
+constexpr double kHalfTurn = 3.14159265358;
+constexpr double kHalfTurnDeg = 180.0;
+constexpr double kPi = 3.14159265358979324;
+
+float atLeastLeast(float factor)
+{
+    return static_cast<double>(factor) < kLeastFactor ? static_cast<float>(kLeastFactor) : factor;
+}
+
+/// Angle between two directions, 0 .. pi, which rounding cannot make undefined.
+/// @param count  of components
+template <class Vector>
+double angleBetween(const Vector& left, const Vector& right, osg::UInt32 count)
+{
+    double dot = 0.0;
+    double leftSquare = 0.0;
+    double rightSquare = 0.0;
+    for (osg::UInt32 i = 0; i < count; ++i) {
+        dot += static_cast<double>(left[i]) * static_cast<double>(right[i]);
+        leftSquare += static_cast<double>(left[i]) * static_cast<double>(left[i]);
+        rightSquare += static_cast<double>(right[i]) * static_cast<double>(right[i]);
+    }
+    const auto divisor = [](double square) {
+        const double length = std::sqrt(square);
+        return length < static_cast<double>(kShortest) ? 1.0 : length;
+    };
+    const double cosine = dot / (divisor(leftSquare) * divisor(rightSquare));
+    return std::acos(std::isfinite(cosine) ? std::clamp(cosine, -1.0, 1.0) : cosine);
+}
+
+/// The two projections that contain an axis.
+std::array<osg::UInt32, 2> projectionsWith(osg::UInt32 axis)
+{
+    return { axis == 0 ? 1U : 0U, axis == 2 ? 1U : 2U };
+}
+
+/// Which half of a projection's pair an axis is: 0 for u, 1 for v.
+osg::UInt32 triplanarComponent(osg::UInt32 projection, osg::UInt32 axis)
+{
+    const osg::UInt32 other = 3 - projection - axis;
+    return axis < other ? 0 : 1;
+}
+
+}  // namespace
+
+TriplanarPairs shiftedOffsets(const TriplanarPairs& start, osg::UInt32 axis, float shift)
+{
+    TriplanarPairs offsets = start;
+    for (const osg::UInt32 projection : projectionsWith(axis)) {
+        offsets[projection][triplanarComponent(projection, axis)] -= shift / kUnitsPerOffset;
+    }
+    return offsets;
+}
+
+TriplanarPairs scaledAlong(const TriplanarPairs& start, osg::UInt32 axis, float factor)
+{
+    TriplanarPairs scales = start;
+    for (const osg::UInt32 projection : projectionsWith(axis)) {
+        scales[projection][triplanarComponent(projection, axis)] *= factor;
+    }
+    return scales;
+}
+
+TriplanarPairs scaledUniformly(const TriplanarPairs& start, float factor)
+{
+    TriplanarPairs scales = start;
+    for (osg::Vec2f& pair : scales) {
+        pair *= factor;
+    }
+    return scales;
+}
+
+float axisScaleFactor(float current, float start)
+{
+    return atLeastLeast(current / start);
+}
+
+float uniformScaleFactor(float current, float start)
+{
+    return atLeastLeast((current / start - 1.0F) * kUniformShare + 1.0F);
+}
+
+std::optional<double> turnAbout(const osg::Vec3f& from, const osg::Vec3f& to, osg::UInt32 axis)
+{
+    const auto angle = static_cast<float>(angleBetween(to, from, 3));
+    if (!std::isfinite(angle)) {
+        return std::nullopt;
+    }
+    const osg::UInt32 first = (axis + 1) % 3;
+    const osg::UInt32 second = (axis + 2) % 3;
+    const bool isPositive = to[first] * from[second] - to[second] * from[first] < 0.0F;
+    return static_cast<double>(isPositive ? angle : -angle) * kDegPerRad;
+}
+
+osg::Vec3f turnedTriplanar(const osg::Vec3f& start, osg::UInt32 axis, double turnDeg)
+{
+    const auto turn = static_cast<float>(turnDeg / kDegPerRad);
+    osg::Vec3f rotation = start;
+    rotation[axis] += axis == 1 ? -turn : turn;
+    return rotation;
+}
+
+osg::Matrix unitFrame(const osg::Matrix& matrix, const osg::Pnt3f& origin)
+{
+    osg::Matrix frame = matrix;
+    for (osg::UInt32 axis = 0; axis < 3; ++axis) {
+        const float length = column(matrix, axis).length();
+        if (!(length > 0.0F) || !std::isfinite(length)) {
+            frame = orthonormalised(matrix);
+            break;
+        }
+        for (osg::UInt32 i = 0; i < 3; ++i) {
+            frame[axis][i] /= length;
+        }
+    }
+    frame.setTranslate(origin.x(), origin.y(), origin.z());
+    return frame;
+}
+
+std::optional<float> turnOnScreen(const osg::Vec2f& from, const osg::Vec2f& to)
+{
+    if (from.length() < kShortest || to.length() < kShortest) {
+        return std::nullopt;
+    }
+    const auto angleDeg = static_cast<float>(angleBetween(to, from, 2) * kHalfTurnDeg / kHalfTurn);
+    if (!std::isfinite(angleDeg)) {
+        return std::nullopt;
+    }
+    return from.x() * to.y() - from.y() * to.x() < 0.0F ? -angleDeg : angleDeg;
+}
+
+float pictureFactor(const osg::Vec2f& from, const osg::Vec2f& to, ScreenScaling axes)
+{
+    const osg::Vec2f ratio(to.x() / from.x(), to.y() / from.y());
+    switch (axes) {
+    case ScreenScaling::U:
+        return ratio.x();
+    case ScreenScaling::V:
+        return ratio.y();
+    case ScreenScaling::Both:
+        break;
+    }
+    return std::max(ratio.x(), ratio.y());
+}
+
+osg::Vec2f scaledPicture(const osg::Vec2f& start, float factor, ScreenScaling axes,
+                         bool isProportional)
+{
+    if (isProportional || axes == ScreenScaling::Both) {
+        return start * factor;
+    }
+    return axes == ScreenScaling::U ? osg::Vec2f(start.x() * factor, start.y())
+                                    : osg::Vec2f(start.x(), start.y() * factor);
+}
+
+float grownCircumferencePart(float start, double from, double to)
+{
+    const double turn = std::remainder(to - from, 2.0 * kPi);
+    return atLeastLeast(static_cast<float>(static_cast<double>(start) + turn / kPi));
+}
+
+}  // namespace nbec::manipulator::texture

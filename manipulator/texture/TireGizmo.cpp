@@ -1,0 +1,306 @@
+// SPDX-License-Identifier: MIT
+#include "manipulator/texture/TireGizmo.h"
+
+#include "manipulator/course/ValueText.h"
+#include "manipulator/handles/HandleGroup.h"
+#include "manipulator/handles/HandleNodes.h"
+#include "manipulator/texture/AxisHandles.h"
+#include "manipulator/texture/TextureDragMath.h"
+
+#include <nbKernel/nbController.h>
+#include <nbOpenSGUberMaterial/nbStateChunkBase.h>
+#include <nbUtils/nbMessage.h>
+
+#include <cmath>
+
+namespace nbec::manipulator::texture {
+
+namespace {
+
+using Mode = TireMode;
+using Handle = TireHandle;
+using Kind = DragParameters::Kind;
+
+constexpr int kTranslateGroup = 0;
+constexpr int kRingGroup = 1;
+constexpr int kScaleGroup = 2;
+constexpr float kPi = 3.14159265F;
+/// Part of its start below which no length is dragged.
+constexpr float kLeastPart = 0.001F;
+/// Below this size on screen nothing can be placed relative to the gizmo.
+constexpr float kLeastSize = 1e-20F;
+constexpr const char* kChangedSuffix = "::changedTireManipulator";
+
+constexpr int number(Handle handle)
+{
+    return static_cast<int>(handle);
+}
+
+HandleRow single(const char* name, Handle handle, int group, HandleShape shape, std::size_t color)
+{
+    return { name, number(handle), group, { axisPart(shape, color) } };
+}
+
+/// Rows of the handles that are moved to where the projection ends.
+enum Row : std::size_t
+{
+    RadiusRow = 4,
+    HeightRow,
+    OtherHeightRow,
+    PictureEndRow
+};
+
+HandleTable makeTable()
+{
+    HandleTable table;
+    table.rows = {
+        axisArrow("xaShape", number(Handle::TranslateX), kTranslateGroup, 0),
+        axisArrow("yaShape", number(Handle::TranslateY), kTranslateGroup, 1),
+        axisArrow("zaShape", number(Handle::TranslateZ), kTranslateGroup, 2),
+        single("radiusRingShape", Handle::ScaleRadius, kRingGroup, HandleShape::UnitCircle,
+               RedLineMaterial),
+        single("radiusShape", Handle::ScaleRadius, kScaleGroup, HandleShape::BigCube,
+               LightRedMaterial),
+        single("heightShape", Handle::ScaleHeight, kScaleGroup, HandleShape::BigCube,
+               LightBlueMaterial),
+        single("oppositeHeightShape", Handle::ScaleHeight, kScaleGroup, HandleShape::BigCube,
+               LightBlueMaterial),
+        single("scaleUShape", Handle::ScaleU, kScaleGroup, HandleShape::BigCube, YellowMaterial),
+    };
+    table.groups = { modes(Mode::Universal, Mode::Translate), modes(Mode::Universal, Mode::Scale),
+                     modes(Mode::Universal, Mode::Scale) };
+    return table;
+}
+
+const HandleTable& handleTable()
+{
+    static const HandleTable table = makeTable();
+    return table;
+}
+
+/// A length that a drag has changed.
+float atLeastPart(float value, float start)
+{
+    const float least = kLeastPart * std::abs(start);
+    return value < least ? least : value;
+}
+
+/// Place of the end of the picture on the ring, relative to the centre.
+osg::Vec3f pictureEnd(const TireValues& values)
+{
+    const float angle = kPi * values.scaleU;
+    return osg::Vec3f(0.0F, std::cos(angle), std::sin(angle)) * values.radius;
+}
+
+}  // namespace
+
+TireGizmo::TireGizmo(const float& size)
+    : AnchoredGizmo(handleTable(), makeAxisMaterials(true), static_cast<int>(Mode::Universal), size)
+{
+    root = makeHandleRootOver(handles.getRoot());
+}
+
+std::unique_ptr<AnchoredGizmo> TireGizmo::clone() const
+{
+    return std::make_unique<TireGizmo>(*this);
+}
+
+TireValues TireGizmo::readValues() const
+{
+    TireValues values;
+    const osg::ColorComponentSettingsPtr settings = component.getSettings();
+    const nbStateChunkBase* const gui = component.getGUI();
+    const std::string& name = component.getName();
+    if (gui != nullptr && gui->hasComponent(name)) {
+        values = { gui->getTireCenter(name), gui->getTireScaleU(name),
+                   gui->getTireScaleHeight(name), gui->getTireScaleRadius(name) };
+    } else if (settings != osg::NullFC &&
+               settings->getTextureProjectionType() ==
+                   osg::ColorComponentSettings::TireProjection) {
+        values = { settings->getTireCenter(), settings->getTireScaleU(),
+                   settings->getTireScaleHeight(), settings->getTireScaleRadius() };
+    }
+    return values;
+}
+
+// == Placement
+
+void TireGizmo::placeHandles(const View& view, const osg::Matrix& worldFromAnchor)
+{
+    const TireValues values = readValues();
+    const osg::Pnt3f center = mapped(worldFromAnchor, osg::Pnt3f(values.center));
+    const osg::Matrix axes = orthonormalised(worldFromAnchor);
+    const float size = view.scaleAt(center, getSize(), ViewDiagonal::NearPlane);
+    placeTransform(handles.getRootTransform(), center.subZero(), osg::Quaternion::identity(),
+                   osg::Vec3f(size, size, size));
+    if (!(size > kLeastSize) || !std::isfinite(size)) {
+        return;
+    }
+    const osg::Vec3f one(1.0F, 1.0F, 1.0F);
+    const osg::Vec3f ringScale(1.0F, column(worldFromAnchor, 1).length() * values.radius / size,
+                               column(worldFromAnchor, 2).length() * values.radius / size);
+    for (std::size_t group = 0; group < handles.getTable().groups.size(); ++group) {
+        placeTransform(handles.getGroupTransform(group), osg::Vec3f(), osg::Quaternion(axes),
+                       group == kRingGroup ? ringScale : one);
+    }
+    const auto moveTo = [&](Row row, const osg::Vec3f& fromCenter) {
+        const osg::Vec3f world =
+            mapped(worldFromAnchor, osg::Pnt3f(values.center + fromCenter)) - center;
+        moveNode(handles.getNode(row),
+                 osg::Vec3f(world.dot(column(axes, 0)), world.dot(column(axes, 1)),
+                            world.dot(column(axes, 2))) *
+                     (1.0F / size));
+    };
+    moveTo(RadiusRow, osg::Vec3f(0.0F, 0.0F, -values.radius));
+    moveTo(HeightRow, osg::Vec3f(values.height / 2, values.radius, 0.0F));
+    moveTo(OtherHeightRow, osg::Vec3f(-values.height / 2, values.radius, 0.0F));
+    moveTo(PictureEndRow, pictureEnd(values));
+}
+
+// == Start of a drag
+
+bool TireGizmo::capture(const View& view)
+{
+    const osg::NodePtr node = anchor.getNode();
+    if (node == osg::NullFC) {
+        return false;
+    }
+    const osg::Matrix worldFromObject = node->getToWorld();
+    objectFromWorld = inverted(worldFromObject);
+    start = readValues();
+    sent = DragParameters();
+    direction = chooseDirection();
+    choosePlane(view, worldFromObject);
+    followPlane(plane, view.pointerRay(), track);
+    return true;
+}
+
+osg::Vec3f TireGizmo::chooseDirection() const
+{
+    const osg::Vec3f arm = mapped(objectFromWorld, grabbedPoint).subZero() - start.center;
+    osg::Vec3f along;
+    if (handle() <= Handle::TranslateZ) {
+        along[static_cast<osg::UInt32>(getArmed() - number(Handle::TranslateX))] = 1.0F;
+    } else if (handle() == Handle::ScaleHeight) {
+        along[0] = arm.x() < 0.0F ? -1.0F : 1.0F;
+    } else {
+        along = osg::Vec3f(0.0F, arm.y(), arm.z());
+        const float length = along.length();
+        along *= length > 0.0F ? 1.0F / length : 0.0F;
+    }
+    return along;
+}
+
+void TireGizmo::choosePlane(const View& view, const osg::Matrix& worldFromObject)
+{
+    const osg::Pnt3f center = mapped(worldFromObject, osg::Pnt3f(start.center));
+    const osg::Vec3f sight = view.sightAt(grabbedPoint);
+    if (handle() == Handle::ScaleU) {
+        // About the axle of a mirrored object a positive turn goes by the left hand.
+        const float side = worldFromObject.det3() < 0.0F ? -1.0F : 1.0F;
+        const osg::Vec3f axle = column(orthonormalised(worldFromObject), 0) * side;
+        ring = ringDragFrame(center, axle, grabbedPoint, sight);
+        plane = osg::Plane(ring.normal, ring.center);
+        return;
+    }
+    osg::Vec3f along = mapped(worldFromObject, osg::Pnt3f(start.center + direction)) - center;
+    const float length = along.length();
+    along *= length > 0.0F ? 1.0F / length : 0.0F;
+    plane = osg::Plane(axisPlaneNormal(along, sight), grabbedPoint);
+}
+
+// == Steps
+
+DragStep TireGizmo::parametersAt(const View& view, const DragTrack& before) const
+{
+    DragTrack next = before;
+    const std::optional<osg::Pnt3f> hit = followPlane(plane, view.pointerRay(), next);
+    if (!hit) {
+        return DragStep();
+    }
+    const osg::Pnt3f& from = *next.start;
+    const float way =
+        (mapped(objectFromWorld, *hit) - mapped(objectFromWorld, from)).dot(direction);
+    switch (handle()) {
+    case Handle::ScaleHeight:
+        return { { Kind::Length, atLeastPart(start.height + 2.0F * way, start.height) }, next };
+    case Handle::ScaleRadius:
+        return { { Kind::Length, atLeastPart(start.radius + way, start.radius) }, next };
+    case Handle::ScaleU:
+        return { { Kind::Factor,
+                   grownCircumferencePart(start.scaleU, ring.angleOf(from), ring.angleOf(*hit)) },
+                 next };
+    default:
+        return { { Kind::Offset, way }, next };
+    }
+}
+
+void TireGizmo::apply(const DragParameters& parameters)
+{
+    sent = parameters;
+    nbMessage message;
+    switch (handle()) {
+    case Handle::ScaleHeight:
+        message.set("ScaleHeight", sent.first(), true);
+        break;
+    case Handle::ScaleRadius:
+        message.set("ScaleRadius", sent.first(), true);
+        break;
+    case Handle::ScaleU:
+        message.set("ScaleU", sent.first(), true);
+        break;
+    default:
+        message.set("center", sentCenter(), true);
+        break;
+    }
+    send(kChangedSuffix, message);
+}
+
+void TireGizmo::announce()
+{
+    nbController::setModified(1);
+}
+
+void TireGizmo::finish()
+{
+    if (sent.kind == Kind::None) {
+        return;
+    }
+    sent = DragParameters();
+    const osg::ColorComponentSettingsPtr settings = component.getSettings();
+    const bool isFitted =
+        handle() == Handle::ScaleU && settings != osg::NullFC && settings->getTireAutoParameter();
+    nbMessage message;
+    message.set("autoParameter", isFitted, true);
+    send(kChangedSuffix, message);
+    placeIn(View());
+}
+
+// == On-screen text
+
+/// Of what was sent, whatever the receiver has made of it.
+std::optional<QString> TireGizmo::describe() const
+{
+    switch (handle()) {
+    case Handle::ScaleHeight:
+        return describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Height ("),
+                              { sent.first() });
+    case Handle::ScaleRadius:
+        return describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Radius ("),
+                              { sent.first() });
+    case Handle::ScaleU:
+        return describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Scale ("),
+                              { sent.first() });
+    default:
+        return describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Center ("),
+                              sentCenter());
+    }
+}
+
+ValueText* TireGizmo::getText() const
+{
+    static ValueText text("tireTransformInfo");
+    return &text;
+}
+
+}  // namespace nbec::manipulator::texture

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "manipulator/drag/DragGeometry.h"
+#include "manipulator/texture/AnchoredGizmo.h"
+#include "manipulator/texture/TireModes.h"
+
+#include <OpenSG/OSGPlane.h>
+
+namespace nbec::manipulator::texture {
+
+/// A tire projection in the space of its object, axle along x.
+struct TireValues
+{
+    osg::Vec3f center;
+    float scaleU = 1.0F;  ///< part of the circumference
+    float height = 1.0F;
+    float radius = 1.0F;
+};
+
+/// Handles and drags of the tire gizmo. Parameters of a drag: how far the centre goes along the
+/// axis, units of the object; the height or radius as it becomes; the part of the circumference as
+/// it becomes.
+class TireGizmo : public AnchoredGizmo
+{
+public:
+    explicit TireGizmo(const float& size);
+    std::unique_ptr<AnchoredGizmo> clone() const override;
+
+protected:
+    bool capture(const View& view) override;
+    DragStep parametersAt(const View& view, const DragTrack& before) const override;
+    void apply(const DragParameters& parameters) override;
+    void announce() override;
+    void finish() override;
+    void placeHandles(const View& view, const osg::Matrix& worldFromAnchor) override;
+    std::optional<QString> describe() const override;
+    ValueText* getText() const override;
+
+private:
+    TireHandle handle() const { return static_cast<TireHandle>(getArmed()); }
+
+    TireValues readValues() const;
+    osg::Vec3f chooseDirection() const;
+    void choosePlane(const View& view, const osg::Matrix& worldFromObject);
+
+    osg::Vec3f sentCenter() const { return start.center + direction * sent.first(); }
+
+    TireValues start;
+    osg::Matrix objectFromWorld;  ///< at the drag's start
+    osg::Plane plane;
+    osg::Vec3f direction;  ///< unit vector that a linear drag goes along, object space
+    RingFrame ring;  ///< of a drag about the axle
+    DragParameters sent;  ///< by the last step
+};
+
+}  // namespace nbec::manipulator::texture

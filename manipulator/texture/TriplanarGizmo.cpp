@@ -1,0 +1,273 @@
+// SPDX-License-Identifier: MIT
+#include "manipulator/texture/TriplanarGizmo.h"
+
+#include "manipulator/drag/DragGeometry.h"
+#include "manipulator/handles/HandleGroup.h"
+#include "manipulator/handles/HandleNodes.h"
+#include "manipulator/texture/AxisHandles.h"
+
+#include <nbKernel/nbController.h>
+#include <nbOpenSGUberMaterial/nbStateChunkBase.h>
+#include <nbUtils/nbMessage.h>
+
+namespace nbec::manipulator::texture {
+
+namespace {
+
+using Mode = TriplanarMode;
+using Handle = TriplanarHandle;
+using Kind = DragParameters::Kind;
+
+constexpr int kTranslateGroup = 0;
+constexpr int kRotateGroup = 1;
+constexpr int kScaleGroup = 2;
+constexpr float kHandleEnd = 2.5F;
+constexpr const char* kChangedSuffix = "::changedTriplanarManipulator";
+constexpr std::array<const char*, 3> kOffsetNames = { "XOffset", "YOffset", "ZOffset" };
+constexpr std::array<const char*, 3> kScaleNames = { "XScale", "YScale", "ZScale" };
+
+constexpr int number(Handle handle)
+{
+    return static_cast<int>(handle);
+}
+
+HandleRow uniformScale()
+{
+    HandleRow row = { "grid",
+                      number(Handle::ScaleUniform),
+                      -1,
+                      { axisPart(HandleShape::Cube, YellowMaterial, HandleHolder::Euler) },
+                      kAllModes & ~modes(Mode::Rotate) };
+    row.holder = HandleHolder::Euler;
+    return row;
+}
+
+HandleRow scaleHandle(const char* name, Handle handle, std::size_t axis)
+{
+    constexpr std::array<Turn, 3> kTurns = { Turn::OntoMinusX, Turn::None, Turn::OntoZ };
+    std::array<float, 3> middle = { 0.0F, 0.0F, 0.0F };
+    std::array<float, 3> end = middle;
+    middle[axis] = kHandleEnd / 2;
+    end[axis] = kHandleEnd;
+    HandlePart box = axisPart(HandleShape::Cube, LightRedMaterial + axis, HandleHolder::Euler, end);
+    box.colors.special = axis;
+    HandleRow row = { name,
+                      number(handle),
+                      kScaleGroup,
+                      { axisPart(HandleShape::LongScaleShaft, RedLineMaterial + axis,
+                                 HandleHolder::Euler, middle, kTurns[axis]),
+                        box } };
+    row.holder = HandleHolder::Euler;
+    row.litWith = number(Handle::ScaleUniform);
+    return row;
+}
+
+HandleRow ring(const char* name, Handle handle, std::size_t axis)
+{
+    constexpr std::array<Turn, 3> kTurns = { Turn::ZOntoX, Turn::OntoZ, Turn::None };
+    HandleRow row = {
+        name, number(handle), kRotateGroup, { axisPart(HandleShape::SolidBigRing, axis) }
+    };
+    row.turn = kTurns[axis];
+    return row;
+}
+
+HandleTable makeTable()
+{
+    HandleTable table;
+    table.rows = {
+        axisArrow("xaShape", number(Handle::TranslateX), kTranslateGroup, 0),
+        axisArrow("yaShape", number(Handle::TranslateY), kTranslateGroup, 1),
+        axisArrow("zaShape", number(Handle::TranslateZ), kTranslateGroup, 2),
+        uniformScale(),
+        scaleHandle("xsShape", Handle::ScaleX, 0),
+        scaleHandle("ysShape", Handle::ScaleY, 1),
+        scaleHandle("zsShape", Handle::ScaleZ, 2),
+        ring("rxShape", Handle::RotateX, 0),
+        ring("ryShape", Handle::RotateY, 1),
+        ring("rzShape", Handle::RotateZ, 2),
+    };
+    table.groups = { modes(Mode::Universal, Mode::Initial), kAllModes,
+                     kAllModes & ~modes(Mode::Rotate) };
+    table.specialIn = modes(Mode::RotateScale);
+    return table;
+}
+
+const HandleTable& handleTable()
+{
+    static const HandleTable table = makeTable();
+    return table;
+}
+
+/// The reciprocals of a pair.
+osg::Vec2f reciprocals(const osg::Vec2f& pair)
+{
+    return osg::Vec2f(1.0F / pair.x(), 1.0F / pair.y());
+}
+
+}  // namespace
+
+TriplanarGizmo::TriplanarGizmo(const float& size)
+    : AnchoredGizmo(handleTable(), makeAxisMaterials(false), static_cast<int>(Mode::Initial), size)
+{
+    root = makeHandleRootOver(handles.getRoot());
+}
+
+std::unique_ptr<AnchoredGizmo> TriplanarGizmo::clone() const
+{
+    return std::make_unique<TriplanarGizmo>(*this);
+}
+
+void TriplanarGizmo::showActive()
+{
+    if (getMode() == static_cast<int>(Mode::Initial)) {
+        handles.showRoot(true);
+    } else {
+        AnchoredGizmo::showActive();
+    }
+}
+
+void TriplanarGizmo::placeHandles(const View& view, const osg::Matrix& worldFromAnchor)
+{
+    const osg::Pnt3f& place = anchor.getWorldPosition();
+    const float size = view.scaleAt(place, getSize(), ViewDiagonal::NearPlane);
+    placeTransform(handles.getRootTransform(), place.subZero(), osg::Quaternion::identity(),
+                   osg::Vec3f(size, size, size));
+    const osg::Quaternion axes(orthonormalised(worldFromAnchor));
+    for (std::size_t group = 0; group < handles.getTable().groups.size(); ++group) {
+        placeTransform(handles.getGroupTransform(group), osg::Vec3f(), axes,
+                       osg::Vec3f(1.0F, 1.0F, 1.0F));
+    }
+}
+
+bool TriplanarGizmo::isRing() const
+{
+    return getArmed() >= number(Handle::RotateX) && getArmed() <= number(Handle::RotateZ);
+}
+
+osg::UInt32 TriplanarGizmo::axis() const
+{
+    return getArmed() == number(Handle::ScaleUniform)
+        ? 3
+        : static_cast<osg::UInt32>(getArmed() - 1) % 3;
+}
+
+// == Start of a drag
+
+bool TriplanarGizmo::capture(const View& view)
+{
+    const osg::NodePtr node = anchor.getNode();
+    if (node == osg::NullFC) {
+        return false;
+    }
+    const osg::Matrix worldFromAnchor = node->getToWorld();
+    anchor.follow(worldFromAnchor);
+    readValues();
+    choosePlane(view, unitFrame(worldFromAnchor, anchor.getWorldPosition()));
+    followPlane(plane, view.pointerRay(), track);
+    return true;
+}
+
+void TriplanarGizmo::readValues()
+{
+    startRotation = osg::Vec3f();
+    startOffsets = TriplanarPairs();
+    startScales.fill(osg::Vec2f(1.0F, 1.0F));
+    const osg::ColorComponentSettingsPtr settings = component.getSettings();
+    const nbStateChunkBase* const gui = component.getGUI();
+    const std::string& name = component.getName();
+    if (gui != nullptr && gui->hasComponent(name)) {
+        startRotation = gui->getTriplanarRotation(name);
+        for (osg::UInt32 i = 0; i < 3; ++i) {
+            startOffsets[i] = gui->getTriplanarOffset(name, i);
+            startScales[i] = reciprocals(gui->getTriplanarRepeat(name, i));
+        }
+    } else if (settings != osg::NullFC &&
+               settings->getTextureProjectionType() ==
+                   osg::ColorComponentSettings::TriplanarProjection) {
+        startRotation = settings->getTriplanarRotation();
+        for (osg::UInt32 i = 0; i < 3; ++i) {
+            startOffsets[i] =
+                osg::Vec2f(settings->getTriplanarOffsetU()[i], settings->getTriplanarOffsetV()[i]);
+            startScales[i] = reciprocals(
+                osg::Vec2f(settings->getTriplanarRepeatU()[i], settings->getTriplanarRepeatV()[i]));
+        }
+    }
+}
+
+void TriplanarGizmo::choosePlane(const View& view, const osg::Matrix& worldFromFrame)
+{
+    const osg::Pnt3f& center = anchor.getWorldPosition();
+    frameFromWorld = inverted(worldFromFrame);
+    if (axis() > 2) {
+        plane = osg::Plane(view.sight(), center);
+        return;
+    }
+    const osg::Vec3f along = column(worldFromFrame, axis());
+    if (!isRing()) {
+        plane = osg::Plane(axisPlaneNormal(along, view.sight()), center);
+    } else if (!areRingsTilted) {
+        plane = osg::Plane(along, center);
+    } else {
+        // About the axis of a mirrored frame a positive turn goes by the left hand.
+        const float side = worldFromFrame.det3() < 0.0F ? -1.0F : 1.0F;
+        const RingFrame tilted =
+            ringDragFrame(center, along * side, grabbedPoint, view.sightAt(grabbedPoint));
+        frameFromWorld = inverted(ringMatrix(tilted, axis()));
+        plane = osg::Plane(tilted.normal, tilted.center);
+    }
+}
+
+// == Steps
+
+DragStep TriplanarGizmo::parametersAt(const View& view, const DragTrack& before) const
+{
+    DragTrack next = before;
+    const std::optional<osg::Pnt3f> hit = followPlane(plane, view.pointerRay(), next);
+    if (!hit) {
+        return DragStep();
+    }
+    const osg::Pnt3f from = mapped(frameFromWorld, *next.start);
+    const osg::Pnt3f to = mapped(frameFromWorld, *hit);
+    if (isRing()) {
+        next.turned = turnAbout(from.subZero(), to.subZero(), axis()).value_or(before.turned);
+        return { { Kind::Angle, next.turned }, next };
+    }
+    if (axis() > 2) {
+        const osg::UInt32 up = view.upAxis();
+        return { { Kind::Factor, uniformScaleFactor(to[up], from[up]) }, next };
+    }
+    if (getArmed() >= number(Handle::ScaleX)) {
+        return { { Kind::Factor, axisScaleFactor(to[axis()], from[axis()]) }, next };
+    }
+    return { { Kind::Offset, to[axis()] - from[axis()] }, next };
+}
+
+void TriplanarGizmo::apply(const DragParameters& parameters)
+{
+    nbMessage message;
+    const float value = parameters.first();
+    if (parameters.kind == Kind::Angle) {
+        message.set("rotate", turnedTriplanar(startRotation, axis(), parameters.values[0]), true);
+    }
+    const bool isOffset = parameters.kind == Kind::Offset;
+    const TriplanarPairs pairs = isOffset ? shiftedOffsets(startOffsets, axis(), value)
+        : axis() > 2                      ? scaledUniformly(startScales, value)
+                                          : scaledAlong(startScales, axis(), value);
+    // All but that of the projection along the handle's axis.
+    for (osg::UInt32 i = 0; i < 3 && parameters.kind != Kind::Angle; ++i) {
+        if (i != axis() && isOffset) {
+            message.set(kOffsetNames[i], pairs[i], true);
+        } else if (i != axis()) {
+            message.set(kScaleNames[i], pairs[i], true);
+        }
+    }
+    send(kChangedSuffix, message);
+}
+
+void TriplanarGizmo::announce()
+{
+    nbController::setModified(1);
+}
+
+}  // namespace nbec::manipulator::texture

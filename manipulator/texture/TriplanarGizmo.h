@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "manipulator/texture/AnchoredGizmo.h"
+#include "manipulator/texture/TextureDragMath.h"
+#include "manipulator/texture/TriplanarModes.h"
+
+#include <OpenSG/OSGPlane.h>
+
+namespace nbec::manipulator::texture {
+
+/// Handles and drags of the triplanar gizmo. Parameters of a drag: how far along the axis, frame
+/// units; the turn about it, degrees; the factor of the scales.
+class TriplanarGizmo : public AnchoredGizmo
+{
+public:
+    explicit TriplanarGizmo(const float& size);
+    std::unique_ptr<AnchoredGizmo> clone() const override;
+
+    /// Mode Initial leaves the handles as they are.
+    void showActive() override;
+
+    bool areRingsTilted = false;
+
+protected:
+    bool capture(const View& view) override;
+    DragStep parametersAt(const View& view, const DragTrack& before) const override;
+    void apply(const DragParameters& parameters) override;
+    void announce() override;
+    void placeHandles(const View& view, const osg::Matrix& worldFromAnchor) override;
+
+private:
+    bool isRing() const;
+    /// Axis of the armed handle, 0 .. 2; 3 for the uniform one.
+    osg::UInt32 axis() const;
+    void readValues();
+    void choosePlane(const View& view, const osg::Matrix& worldFromFrame);
+
+    osg::Plane plane;
+    osg::Matrix frameFromWorld;  ///< of the frame, or of the tilted ring, at the drag's start
+    osg::Vec3f startRotation;
+    TriplanarPairs startOffsets;
+    TriplanarPairs startScales;
+};
+
+}  // namespace nbec::manipulator::texture

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "manipulator/texture/AnchoredGizmo.h"
+#include "manipulator/texture/TextureDragMath.h"
+#include "manipulator/texture/UVModes.h"
+
+#include <OpenSG/OSGVector.h>
+
+namespace nbec::manipulator::texture {
+
+/// Handles and drags of the UV gizmo. Parameters of a drag: the way to the right and up, widths of
+/// the picture; the counter-clockwise turn, degrees; the factor of the scale.
+class UVGizmo : public AnchoredGizmo
+{
+public:
+    explicit UVGizmo(const float& size);
+    std::unique_ptr<AnchoredGizmo> clone() const override;
+
+    bool keepAspectRatio = false;
+    float aspectRatio = 1.0F;
+
+protected:
+    /// Without the material, too.
+    bool canStep(const View& view) override { return view.exists(); }
+
+    bool capture(const View& view) override;
+    DragStep parametersAt(const View& view, const DragTrack& before) const override;
+    void apply(const DragParameters& parameters) override;
+    void placeHandles(const View& view, const osg::Matrix& worldFromAnchor) override;
+
+private:
+    UVHandle handle() const { return static_cast<UVHandle>(getArmed()); }
+
+    /// Of a scale handle.
+    ScreenScaling axes() const;
+    void readValues();
+
+    float startRotate = 0.0F;  ///< degrees
+    osg::Vec2f startScale;
+    osg::Vec2f startOffset;
+    osg::Vec2f dragStartPixel;  ///< y from the bottom
+    osg::Vec2f anchorPixel;  ///< y from the bottom
+};
+
+}  // namespace nbec::manipulator::texture

@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: MIT
+#include "manipulator/transform/PivotMarks.h"
+
+#include "manipulator/handles/HandleNodes.h"
+
+#include <nbOpenSGUtils/nbEdit.h>
+
+#include <OpenSG/OSGGeometry.h>
+
+namespace nbec::manipulator::transform {
+
+namespace {
+
+/// Exactly the same; the operators of points allow for a tolerance, which small scenes feel.
+bool isSame(const PivotMarks::Places& left, const PivotMarks::Places& right)
+{
+    if (left.size() != right.size()) {
+        return false;
+    }
+    for (std::size_t i = 0; i < left.size(); ++i) {
+        if (left[i].has_value() != right[i].has_value()) {
+            return false;
+        }
+        if (left[i] &&
+            (left[i]->x() != right[i]->x() || left[i]->y() != right[i]->y() ||
+             left[i]->z() != right[i]->z())) {
+            return false;
+        }
+    }
+    return true;
+}
+
+}  // namespace
+
+void PivotMarks::make(const osg::NodePtr& parent, std::size_t count,
+                      const osg::MaterialPtr& material)
+{
+    const osg::GeoPTypesPtr types = osg::GeoPTypesUI8::create();
+    const osg::GeoPLengthsPtr lengths = osg::GeoPLengthsUI32::create();
+    const osg::GeoPositionsPtr positions = osg::GeoPositions3f::create();
+    types->push_back(GL_LINES);
+    lengths->push_back(static_cast<osg::UInt32>(count * kPoints));
+    positions->resize(count * kPoints);
+    const osg::GeometryPtr crosses = osg::Geometry::create();
+    {
+        const nbEdit edit(crosses, osg::FieldBits::AllFields);
+        crosses->setTypes(types);
+        crosses->setLengths(lengths);
+        crosses->setPositions(positions);
+        crosses->setMaterial(material);
+    }
+    const nbEdit edit(parent, osg::Node::ChildrenFieldMask);
+    if (node != osg::NullFC) {
+        parent->subChild(node.get());
+    }
+    node = makeNode(crosses);
+    parent->addChild(node.get());
+    drawn.assign(count, std::nullopt);
+    drawnReach = 0.0F;
+}
+
+void PivotMarks::hide()
+{
+    if (node != osg::NullFC) {
+        showNode(node.get(), false);
+    }
+}
+
+void PivotMarks::draw(const Places& places, float reach)
+{
+    if (places.empty() || (reach == drawnReach && isSame(places, drawn))) {
+        return;
+    }
+    const auto crosses = osg::GeometryPtr::dcast(node->getCore());
+    const auto positions = osg::GeoPositions3fPtr::dcast(crosses->getPositions());
+    const nbEdit edit(positions, osg::GeoPositions3f::GeoPropDataFieldMask);
+    osg::Pnt3f* point = &positions->getField()[0];
+    for (const std::optional<osg::Pnt3f>& place : places) {
+        const osg::Pnt3f center = place.value_or(osg::Pnt3f());
+        const float length = place ? reach : 0.0F;
+        for (osg::UInt32 axis = 0; axis < 3; ++axis) {
+            for (const float end : { -length, length }) {
+                *point = center;
+                (*point++)[axis] += end;
+            }
+        }
+    }
+    drawn = places;
+    drawnReach = reach;
+}
+
+}  // namespace nbec::manipulator::transform

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <OpenSG/OSGMaterial.h>
+#include <OpenSG/OSGNode.h>
+#include <OpenSG/OSGRefPtr.h>
+#include <OpenSG/OSGVector.h>
+
+#include <cstddef>
+#include <optional>
+#include <vector>
+
+namespace nbec::manipulator::transform {
+
+/// Small crosses at places in the world, all of them one geometry.
+class PivotMarks
+{
+public:
+    /// A place for each cross; nothing for one that is hidden.
+    using Places = std::vector<std::optional<osg::Pnt3f>>;
+
+    /// Hangs new crosses, all hidden, below a node whose frame is the world's; earlier ones go.
+    void make(const osg::NodePtr& parent, std::size_t count, const osg::MaterialPtr& material);
+
+    /// Hides all until the next make().
+    void hide();
+
+    /// Brings the geometry into step with as many places as were made; one edit, and none if
+    /// nothing is to look different.
+    /// @param reach  half the length of a cross, world units
+    void draw(const Places& places, float reach);
+
+private:
+    static constexpr std::size_t kPoints = 6;
+
+    osg::RefPtr<osg::NodePtr> node;
+    Places drawn;
+    float drawnReach = 0.0F;
+};
+
+}  // namespace nbec::manipulator::transform

@@ -1,0 +1,314 @@
+// SPDX-License-Identifier: MIT
+#include "manipulator/transform/TransformDrag.h"
+
+#include "manipulator/drag/DragGeometry.h"
+#include "manipulator/scene/TargetFrame.h"
+
+#include <nbOpenSGExt/Transform3D.h>
+#include <nbTransform/nbTransformModel.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace nbec::manipulator::transform {
+
+namespace {
+
+constexpr float kShortest = 1e-6F;
+constexpr float kLeastAxisRatio = 0.01F;
+constexpr float kLeastUniformFactor = 0.1F;
+constexpr float kUniformSpeed = 0.1F;
+
+/// Quaternion of an angle about an axis of any length; the identity about one that is not longer
+/// than 1e-6.
+nbQuaterniond turnAbout(const osg::Vec3f& axis, double angleRad)
+{
+    nbQuaterniond turn;
+    const double length = osg::Vec3d(axis.x(), axis.y(), axis.z()).length();
+    if (length > static_cast<double>(kShortest)) {
+        const double sine = std::sin(angleRad / 2) / length;
+        turn.setValueAsQuat(axis.x() * sine, axis.y() * sine, axis.z() * sine,
+                            std::cos(angleRad / 2));
+    }
+    return turn;
+}
+
+osg::Vec3f unitVector(osg::Vec3f vector)
+{
+    vector.normalize();
+    return vector;
+}
+
+/// Takes out of the other two axes of a frame what lies along one of them: the coordinate along
+/// that axis is then a point's distance from the plane at right angles to it.
+void straighten(osg::Matrix& frame, osg::UInt32 axis)
+{
+    const osg::Vec3f along = column(frame, axis);
+    const float squaredLength = along.dot(along);
+    if (!(squaredLength > 0.0F)) {
+        return;
+    }
+    for (osg::UInt32 i = 1; i < 3; ++i) {
+        osg::Vec4f& other = frame[(axis + i) % 3];
+        const float part =
+            (other[0] * along[0] + other[1] * along[1] + other[2] * along[2]) / squaredLength;
+        for (osg::UInt32 row = 0; row < 3; ++row) {
+            other[row] -= along[row] * part;
+        }
+    }
+}
+
+/// Keeps the components along which a handle moves; none of a handle that is no arrow or plane.
+osg::Vec3f maskedByHandle(const osg::Vec3f& delta, ActiveMode handle)
+{
+    const osg::UInt32 axis = isTranslation(handle) ? axisOf(handle) : kNoAxis;
+    const osg::UInt32 normal = planeNormalAxis(handle);
+    osg::Vec3f masked;
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        const bool isKept = normal < 3 ? i != normal : i == axis;
+        masked[i] = isKept ? delta[i] : 0.0F;
+    }
+    return masked;
+}
+
+/// The axis that the frame of a node's parent maps onto that of the grabbed ring; a mirrored parent
+/// turns the other way.
+osg::Vec3f ringAxisAbove(const osg::NodePtr& node, const GrabbedGizmo& grabbed)
+{
+    const osg::Matrix worldFromParent = parentToWorld(node);
+    osg::Vec3f ringAxis = column(grabbed.frame, axisOf(grabbed.handle));
+    inverted(worldFromParent).multMatrixVec(ringAxis);
+    ringAxis.normalize();
+    return worldFromParent.det3() < 0.0F ? -ringAxis : ringAxis;
+}
+
+/// World direction in which an axis of the handle goes, unit length.
+osg::Vec3f movementAxis(const osg::NodePtr& node, const GrabbedGizmo& grabbed, osg::UInt32 axis)
+{
+    const osg::Vec3f drawn = column(grabbed.frame, axis);
+    if (!grabbed.isLocal || !isTranslation(grabbed.handle)) {
+        return unitVector(drawn);
+    }
+    // Below a parent with different scales the node's own axes are not at right angles, as the
+    // drawn ones are; the node goes along its own.
+    osg::Vec3f own;
+    own[axis] = 1.0F;
+    own = rotated(osg::Transform3DPtr::dcast(node->getCore())->getRotationAsQuaternion(), own);
+    parentToWorld(node).multMatrixVec(own);
+    return unitVector(own.length() < kShortest ? drawn : own);
+}
+
+/// Frame in which translation is measured: the node's own, with scale but without pivots.
+osg::Matrix translationFrame(const osg::NodePtr& node, const TransformStart& start,
+                             const osg::Vec3f& frameScale, ActiveMode handle)
+{
+    osg::Matrix own;
+    own.setTransform(osg::Transform3DPtr::dcast(node->getCore())->getTranslation(), start.rotation,
+                     frameScale);
+    osg::Matrix frame = parentToWorld(node);
+    frame.mult(own);
+    if (const osg::UInt32 axis = axisOf(handle); isTranslation(handle) && axis < 3) {
+        // Below a parent with different scales the axes are not at right angles. Without this a
+        // pointer that leaves the arrow's line sideways would pull the node along the arrow.
+        straighten(frame, axis);
+    }
+    return frame;
+}
+
+/// Frame in which scaling is measured.
+osg::Matrix scaleFrame(const GrabbedGizmo& grabbed, const osg::Pnt3f& start, const View& view)
+{
+    if (grabbed.handle != ActiveMode::ScaleUniform) {
+        return grabbed.frame;
+    }
+    // Up the screen is more, wherever the cube is grabbed: the origin lies one gizmo unit below.
+    osg::Pnt3f from;
+    osg::Pnt3f at;
+    osg::Vec3f cameraUp;
+    view.getFromAtUp(from, at, cameraUp);
+    const osg::Vec3f sight = unitVector(at - from);
+    const osg::Vec3f right = unitVector(sight.cross(cameraUp));
+    const osg::Vec3f up = right.cross(sight);
+    osg::Matrix frame;
+    if (view.isZUp()) {
+        frame.setValue(right, sight, up);
+    } else {
+        frame.setValue(right, up, -sight);
+    }
+    frame[3][3] = 1.0F;
+    frame.setTranslate(start - up * grabbed.unit);
+    return frame;
+}
+
+/// Chooses the plane, and for a ring its frame.
+void updateManipulatorPlane(TransformDrag& drag, const osg::NodePtr& node,
+                            const GrabbedGizmo& grabbed, const View& view)
+{
+    const osg::Pnt3f center(column(grabbed.frame, 3));
+    const osg::UInt32 axis = axisOf(grabbed.handle);
+    const osg::UInt32 normalAxis = planeNormalAxis(grabbed.handle);
+    if (isRing(grabbed.handle)) {
+        const RingFrame ring =
+            ringDragFrame(center, column(grabbed.frame, axis), grabbed.grabbedPoint,
+                          view.sightAt(grabbed.grabbedPoint));
+        drag.inverseDragFrame = inverted(ringMatrix(ring, axis));
+        drag.plane = osg::Plane(ring.normal, ring.center);
+    } else if (normalAxis < 3) {
+        drag.plane =
+            osg::Plane(unitVector(movementAxis(node, grabbed, (normalAxis + 1) % 3)
+                                      .cross(movementAxis(node, grabbed, (normalAxis + 2) % 3))),
+                       center);
+    } else if (axis < 3) {
+        drag.plane = osg::Plane(
+            axisPlaneNormal(movementAxis(node, grabbed, axis), view.sightAt(center)), center);
+    } else {
+        drag.plane = osg::Plane(view.sightAt(grabbed.grabbedPoint), grabbed.grabbedPoint);
+    }
+}
+
+}  // namespace
+
+// == Capturing
+
+TransformStart captureStart(const osg::NodePtr& node, const GrabbedGizmo& grabbed)
+{
+    TransformStart start;
+    if (node == osg::NullFC) {
+        return start;
+    }
+    const osg::Transform3DPtr transform = osg::Transform3DPtr::dcast(node->getCore());
+    const bool isScalePivot = grabbed.mode == ManipulatorMode::ScalePivot;
+    const auto pivot =
+        isScalePivot ? &nbTransformModel::getScalePivot : &nbTransformModel::getRotationPivot;
+    start.translationLocal = nbTransformModel::getTranslation(node, false);
+    start.translationWorld = nbTransformModel::getTranslation(node, true);
+    start.scale = transform->getScale();
+    start.pivotLocal = pivot(node, false);
+    start.pivotWorld = pivot(node, true);
+    start.rotation = transform->getRotationAsQuaternion();
+    if (isRing(grabbed.handle)) {
+        start.ringAxis = ringAxisAbove(node, grabbed);
+        start.anglesRad = nbEulerUtils::fromDegrees(
+            transform->getRotation(),
+            nbEulerUtils::getOrderFromString(transform->getEulerRotationOrder()));
+    }
+    return start;
+}
+
+TransformDrag prepareManipulator(const osg::NodePtr& node, const GrabbedGizmo& grabbed,
+                                 const View& view)
+{
+    TransformDrag drag;
+    drag.handle = grabbed.handle;
+    updateManipulatorPlane(drag, node, grabbed, view);
+    drag.starts.push_back(captureStart(node, grabbed));
+
+    drag.dragStartWorld = grabbed.grabbedPoint;
+    const std::optional<osg::Line> ray = view.pointerRay();
+    if (ray && !intersectPlane(drag.plane, *ray, drag.dragStartWorld)) {
+        // The handle was hit this side of the plane's horizon, the plane is met beyond it.
+        drag.plane = osg::Plane(drag.plane.getNormal(), grabbed.grabbedPoint);
+        intersectPlane(drag.plane, *ray, drag.dragStartWorld);
+    }
+    if (!isRing(grabbed.handle)) {
+        for (osg::UInt32 i = 0; i < 3; ++i) {
+            const float factor = drag.starts[0].scale[i];
+            drag.frameScale[i] = std::abs(factor) < kShortest ? 1.0F : factor;
+        }
+        drag.inverseDragFrame =
+            inverted(translationFrame(node, drag.starts[0], drag.frameScale, grabbed.handle));
+    }
+    drag.inverseScaleFrame = inverted(scaleFrame(grabbed, drag.dragStartWorld, view));
+    drag.dragStartLocal = mapped(drag.inverseDragFrame, drag.dragStartWorld);
+    drag.scaleAnchor = mapped(drag.inverseScaleFrame, drag.dragStartWorld).subZero();
+    return drag;
+}
+
+// == From a point in the drag's plane to drag parameters
+
+osg::Vec3f offsetAt(const TransformDrag& drag, const osg::Pnt3f& point, bool isLocal)
+{
+    if (!isLocal) {
+        return maskedByHandle(point - drag.dragStartWorld, drag.handle);
+    }
+    osg::Vec3f offset = mapped(drag.inverseDragFrame, point) - drag.dragStartLocal;
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        offset[i] *= drag.frameScale[i];
+    }
+    return maskedByHandle(offset, drag.handle);
+}
+
+osg::Vec3f withSnappedLength(const osg::Vec3f& offset, double step)
+{
+    const float length = offset.length();
+    const float scale = length < kShortest ? 1.0F : 1.0F / length;
+    return offset * (scale * static_cast<float>(snapped(length, step)));
+}
+
+double computeRotation(const osg::Pnt3f& from, const osg::Pnt3f& to, osg::UInt32 axis)
+{
+    const osg::UInt32 radial = (axis + 1) % 3;
+    const osg::UInt32 tangent = (axis + 2) % 3;
+    const double fromRadial = from[radial];
+    const double fromTangent = from[tangent];
+    const double toRadial = to[radial];
+    const double toTangent = to[tangent];
+    return std::atan2(fromRadial * toTangent - fromTangent * toRadial,
+                      fromRadial * toRadial + fromTangent * toTangent);
+}
+
+double factorAt(const TransformDrag& drag, const osg::Pnt3f& point, osg::UInt32 upAxis)
+{
+    const bool isUniform = drag.handle == ActiveMode::ScaleUniform;
+    const osg::UInt32 axis = isUniform ? upAxis : axisOf(drag.handle);
+    if (axis > 2 || std::abs(drag.scaleAnchor[axis]) < kShortest) {
+        return 1.0;
+    }
+    const float ratio = mapped(drag.inverseScaleFrame, point)[axis] / drag.scaleAnchor[axis];
+    if (!isUniform) {
+        return std::max(ratio, kLeastAxisRatio);
+    }
+    // Deliberate: both branches are the same line, written twice.
+    const float factor = ratio > 1.0F ? 1.0F + (ratio - 1.0F) * kUniformSpeed
+                                      : 1.0F + (1.0F - ratio) * -kUniformSpeed;
+    return std::max(factor, kLeastUniformFactor);
+}
+
+// == From drag parameters to a target's value
+
+osg::Vec3f movedTranslation(const TransformStart& start, const osg::Vec3f& offset, bool isLocal)
+{
+    return isLocal ? start.translationLocal + rotated(start.rotation, offset)
+                   : start.translationWorld + offset;
+}
+
+osg::Vec3f movedPivot(const TransformStart& start, const osg::Vec3f& offset, bool isLocal)
+{
+    return isLocal ? start.pivotLocal + rotated(start.rotation, offset) : start.pivotWorld + offset;
+}
+
+nbEulerAngles turnedAngles(const TransformStart& start, double turnRad, const nbEulerAngles& before)
+{
+    return nbEulerUtils::nearest(turnedPivot(start, turnRad), before);
+}
+
+nbEulerAngles turnedPivot(const TransformStart& start, double turnRad)
+{
+    const nbQuaterniond turned = nbRotationMath::product(
+        turnAbout(start.ringAxis, turnRad), nbEulerUtils::QuatFromEul(start.anglesRad));
+    return nbEulerUtils::EulFromQuat(turned, start.anglesRad.order);
+}
+
+osg::Vec3f scaledBy(const TransformStart& start, ActiveMode handle, float factor, double step)
+{
+    const bool isUniform = handle == ActiveMode::ScaleUniform;
+    osg::Vec3f scale = start.scale;
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        if (isUniform || i == axisOf(handle)) {
+            scale[i] = static_cast<float>(snapped(scale[i] * factor, step));
+        }
+    }
+    return scale;
+}
+
+}  // namespace nbec::manipulator::transform

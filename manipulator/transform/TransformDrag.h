@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "manipulator/course/View.h"
+#include "manipulator/drag/DragParameters.h"
+#include "manipulator/transform/TransformModes.h"
+
+#include <nbOpenSGUtils/nbEulerUtils.h>
+
+#include <OpenSG/OSGMatrix.h>
+#include <OpenSG/OSGNode.h>
+#include <OpenSG/OSGPlane.h>
+#include <OpenSG/OSGQuaternion.h>
+#include <OpenSG/OSGVector.h>
+
+#include <vector>
+
+/// Starts, frames and plane of a drag of the transform gizmo, and the five transformations: each a
+/// function from where the pointer is to drag parameters, and one from drag parameters to a
+/// target's new value. No widget, and no node but in the two functions that capture.
+namespace nbec::manipulator::transform {
+
+/// What a drag keeps of one target from its first step; every later step computes from this.
+struct TransformStart
+{
+    osg::Vec3f translationLocal;  ///< frame of the parent
+    osg::Vec3f translationWorld;
+    osg::Vec3f scale;
+    osg::Vec3f pivotLocal;  ///< rotate or scale pivot, as the mode moves; frame of the parent
+    osg::Vec3f pivotWorld;
+    osg::Quaternion rotation;  ///< without the rotation orientation
+    nbEulerAngles anglesRad;  ///< of the same, in the node's order
+    osg::Vec3f ringAxis;  ///< axis of the grabbed ring in the frame of the parent, unit length;
+                          ///< reversed under a mirrored parent, which turns the sense of rotation
+};
+
+/// The gizmo when a handle was grabbed.
+struct GrabbedGizmo
+{
+    ActiveMode handle = ActiveMode::None;
+    ManipulatorMode mode = ManipulatorMode::Translate;
+    bool isLocal = false;  ///< in the node's own space
+    osg::Matrix frame;  ///< world from the gizmo's axes, of unit length
+    float unit = 1.0F;  ///< world units of the handles' unit frame
+    osg::Pnt3f grabbedPoint;  ///< world
+};
+
+/// State of one drag. Nothing of it changes after the first step.
+struct TransformDrag
+{
+    ActiveMode handle = ActiveMode::None;
+    osg::Plane plane;  ///< in which the pointer's ray is intersected, world
+    osg::Matrix inverseDragFrame;  ///< world to the frame of translate and rotate
+    osg::Matrix inverseScaleFrame;  ///< world to the frame of scale
+    osg::Pnt3f dragStartWorld;
+    osg::Pnt3f dragStartLocal;  ///< in the drag frame
+    osg::Vec3f scaleAnchor;  ///< start in the scale frame
+    osg::Vec3f frameScale;  ///< scale that is part of the drag frame; 1 where the node's is too
+                            ///< small to divide by
+    std::vector<TransformStart> starts;  ///< of the dragged node and the further ones
+};
+
+// == Capturing
+
+/// Captures a target's values. @param node  with a Transform3D core; null leaves all at zero
+TransformStart captureStart(const osg::NodePtr& node, const GrabbedGizmo& grabbed);
+
+/// Chooses plane and frames for the dragged node and captures its start.
+TransformDrag prepareManipulator(const osg::NodePtr& node, const GrabbedGizmo& grabbed,
+                                 const View& view);
+
+// == From a point in the drag's plane to drag parameters
+
+/// How far a point has gone from the start along the axes of the drag's handle: world units, or in
+/// local space those of the node's own frame, scale left out. @param point  world
+osg::Vec3f offsetAt(const TransformDrag& drag, const osg::Pnt3f& point, bool isLocal);
+
+/// An offset whose length is a multiple of a step, see snapped().
+osg::Vec3f withSnappedLength(const osg::Vec3f& offset, double step);
+
+/// Signed angle between two points about an axis, radians. @param from, to  in a frame that has the
+/// axis @param axis  0, 1 or 2
+double computeRotation(const osg::Pnt3f& from, const osg::Pnt3f& to, osg::UInt32 axis);
+
+/// Factor of a scale handle at a point: the ratio of its distances from the centre along the
+/// handle's axis, at least 0.01; for the uniform one a tenth of the ratio's way from 1, at least
+/// 0.1. 1 where the start is too near the centre to divide by.
+/// @param upAxis  along which the uniform one is measured, 1 or 2
+double factorAt(const TransformDrag& drag, const osg::Pnt3f& point, osg::UInt32 upAxis);
+
+// == From drag parameters to a target's value
+
+/// @param isLocal  the space of the offset and of the answer: own frame and parent's, or world
+osg::Vec3f movedTranslation(const TransformStart& start, const osg::Vec3f& offset, bool isLocal);
+osg::Vec3f movedPivot(const TransformStart& start, const osg::Vec3f& offset, bool isLocal);
+
+/// Angles after a turn about the ring's axis. Of all angles for that rotation they are those
+/// nearest to the ones before, so that values go on smoothly past whole turns.
+nbEulerAngles turnedAngles(const TransformStart& start, double turnRad,
+                           const nbEulerAngles& before);
+
+/// Angles of a pivot's orientation after the same turn.
+nbEulerAngles turnedPivot(const TransformStart& start, double turnRad);
+
+/// Scale times a factor along the axis of a handle, or all; these components are snapped to a step.
+osg::Vec3f scaledBy(const TransformStart& start, ActiveMode handle, float factor, double step);
+
+}  // namespace nbec::manipulator::transform

@@ -1,0 +1,431 @@
+// SPDX-License-Identifier: MIT
+#include "manipulator/transform/TransformGizmo.h"
+
+#include "manipulator/course/ValueText.h"
+#include "manipulator/drag/DragGeometry.h"
+#include "manipulator/handles/ContainerReference.h"
+#include "manipulator/handles/HandleGroup.h"
+#include "manipulator/handles/HandleNodes.h"
+#include "manipulator/scene/MessageSending.h"
+#include "manipulator/scene/TargetFrame.h"
+#include "manipulator/transform/TransformHandles.h"
+
+#include <nbOpenSGExt/Transform3D.h>
+#include <nbOpenSGUtils/nbNodePermission.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
+#include <nbTransform/nbTransformModel.h>
+#include <nbUtils/nbLog.h>
+
+#include <unordered_set>
+
+namespace nbec::manipulator::transform {
+
+namespace {
+
+using Mode = ManipulatorMode;
+using Active = ActiveMode;
+using Value = nbTransformModel::Value;
+using NodeIds = std::unordered_set<osg::UInt32>;
+
+constexpr osg::Int32 kTransformPermission = 19;
+/// Half the length of a mark's lines, in gizmo units.
+constexpr float kMarkReach = 0.15F;
+/// Deliberate: the rotation precision is turned into radians with this many digits.
+constexpr double kDegreeFactor = 3.1415927 / 360.0;
+
+bool hasSelectedAncestor(const osg::NodePtr& node, const NodeIds& selected)
+{
+    for (osg::NodePtr above = node->getParent(); above != osg::NullFC; above = above->getParent()) {
+        if (selected.count(above.getFieldContainerId()) > 0) {
+            return true;
+        }
+    }
+    return false;
+}
+
+osg::Vec3f toDegrees(const nbEulerAngles& anglesRad)
+{
+    return nbEulerUtils::toVec3f(nbEulerUtils::toDegrees(anglesRad));
+}
+
+/// Calls a setter of the transform model for some nodes. @param value  gives that of an index
+template <class Setter, class ValueOf>
+void setValues(const std::vector<osg::NodePtr>& nodes, Setter set, ValueOf value)
+{
+    set(static_cast<osg::UInt32>(nodes.size()), [&](osg::UInt32 index) {
+        return Value({ nodes[index], static_cast<osg::Int32>(index) }, value(index));
+    });
+}
+
+/// Text of the values that a handle edits in a mode. Deliberate: the universal mode shows none,
+/// whatever the handle, rings show theirs in mode rotate only, scale handles in mode scale only.
+QString textOf(const osg::NodePtr& node, Active handle, Mode mode, bool worldSpace)
+{
+    if (isRing(handle)) {
+        return mode == Mode::Rotate
+            ? describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Rotation ("),
+                             nbNodeUtils::getTransformNodeRotation(node))
+            : QString();
+    }
+    if (isScale(handle)) {
+        return mode == Mode::Scale
+            ? describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Scale ("),
+                             nbNodeUtils::getTransformNodeScale(node))
+            : QString();
+    }
+    switch (mode) {
+    case Mode::Translate:
+    case Mode::Clipping:
+    case Mode::TranslateRotate:
+    case Mode::TranslateRotateYZ:
+    case Mode::TranslateRotateScale:
+        return describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Translation ("),
+                              nbTransformModel::getTranslation(node, worldSpace));
+    case Mode::RotatePivot:
+        return describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Rotate Pivot ("),
+                              nbTransformModel::getRotationPivot(node, worldSpace));
+    case Mode::ScalePivot:
+        return describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Scale Pivot ("),
+                              nbTransformModel::getScalePivot(node, worldSpace));
+    default:
+        return QString();
+    }
+}
+
+}  // namespace
+
+TransformGizmo::TransformGizmo(const TransformSettings& shared, const float& size)
+    : Gizmo(CourseRules(), handleTable(), makeMaterials(), static_cast<int>(Mode::Translate), size)
+    , settings(&shared)
+    , multiselection(makeGroupNode())
+{
+    nbNodeUtils::setIsAuxiliaryNode(handles.getRoot(), true);
+    nbNodeUtils::setIsAuxiliaryNode(multiselection.get(), true);
+    const osg::NodePtr additionalGeometry = makeGroupNode();
+    nbNodeUtils::setIsAuxiliaryNode(additionalGeometry, true);
+    const HandlePasses passes = makeHandlePasses(handles.getRoot());
+    root = makeHandleRoot();
+    addChild(root.get(), multiselection.get());
+    addChild(root.get(), passes.depthPass.get());
+    addChild(root.get(), additionalGeometry);
+    addChild(root.get(), passes.handlePass.get());
+    handles.showRoot(false);
+}
+
+// == Targets
+
+void TransformGizmo::setNodes(const osg::NodePtr& node, const std::vector<osg::NodePtr>& further)
+{
+    prepareAnew();  // a drag goes on from here with the new nodes
+    watch.forget();
+    marks.hide();
+    targetIds = { containerId(node) };
+    if (node == osg::NullFC) {
+        return;
+    }
+    NodeIds selected = { node.getFieldContainerId() };
+    for (const osg::NodePtr& each : further) {
+        selected.insert(containerId(each));
+    }
+    NodeIds taken = { node.getFieldContainerId() };
+    for (const osg::NodePtr& each : further) {
+        if (each != osg::NullFC && !nbNodeUtils::hasParent(node, each) &&
+            !hasSelectedAncestor(each, selected) &&
+            taken.insert(each.getFieldContainerId()).second) {
+            targetIds.push_back(each.getFieldContainerId());
+        }
+    }
+    if (targetIds.size() > 1) {
+        marks.make(multiselection.get(), targetIds.size() - 1, handles.getMaterial(kYellowLine));
+    }
+}
+
+osg::NodePtr TransformGizmo::getNode() const
+{
+    return targetIds.empty() ? osg::NodePtr() : resolveContainer<osg::NodePtr>(targetIds.front());
+}
+
+bool TransformGizmo::hasTarget() const
+{
+    return getNode() != osg::NullFC;
+}
+
+/// Makes a target a transform. @return null for one that no longer exists or cannot be one
+osg::NodePtr TransformGizmo::getTransform(std::size_t index) const
+{
+    const osg::NodePtr target = resolveContainer<osg::NodePtr>(targetIds[index]);
+    if (target == osg::NullFC) {
+        return target;
+    }
+    return makeTransform(index == 0 ? editedNode(target) : target);
+}
+
+std::vector<osg::NodePtr> TransformGizmo::resolveTargets() const
+{
+    std::vector<osg::NodePtr> nodes;
+    nodes.reserve(targetIds.size());
+    for (const osg::UInt32 id : targetIds) {
+        nodes.push_back(resolveContainer<osg::NodePtr>(id));
+    }
+    nodes.front() = nodes.front() != osg::NullFC ? editedNode(nodes.front()) : nodes.front();
+    return nodes;
+}
+
+bool TransformGizmo::centerPivot()
+{
+    const osg::NodePtr node = hasTarget() ? getTransform(0) : osg::NodePtr();
+    if (node == osg::NullFC) {
+        return false;
+    }
+    setBothPivots(node, objectCenter(node, false));
+    placeIn(View());
+    announce();
+    return true;
+}
+
+// == Placement
+
+bool TransformGizmo::isAtScalePivot() const
+{
+    return shownMode() == Mode::Scale || shownMode() == Mode::ScalePivot;
+}
+
+osg::Pnt3f TransformGizmo::anchorWorld(const osg::NodePtr& node) const
+{
+    const osg::Transform3DPtr transform = osg::Transform3DPtr::dcast(node->getCore());
+    return transform != osg::NullFC ? pivotWorld(node, transform, isAtScalePivot())
+                                    : objectCenter(node, true);
+}
+
+osg::Quaternion TransformGizmo::orientationWorld(const osg::NodePtr& node) const
+{
+    if (shownMode() == Mode::Scale) {
+        return worldRotation(node);
+    }
+    if (!isLocal()) {
+        return osg::Quaternion();
+    }
+    const osg::Transform3DPtr transform = osg::Transform3DPtr::dcast(node->getCore());
+    return transform != osg::NullFC ? pivotAxesInWorld(node, transform) : worldRotation(node);
+}
+
+void TransformGizmo::place(const View& view)
+{
+    const osg::NodePtr node = editedNode(getNode());
+    const osg::Pnt3f anchor = anchorWorld(node);
+    const float size = view.scaleAt(anchor, getSize(), ViewDiagonal::FrustumSides);
+    watch.remember(node->getToWorld());
+    placeTransform(handles.getRootTransform(), anchor.subZero(), orientationWorld(node),
+                   osg::Vec3f(size, size, size));
+    if (targetIds.size() > 1) {
+        placeMarks(size);
+    }
+}
+
+void TransformGizmo::placeMarks(float size)
+{
+    PivotMarks::Places places(targetIds.size() - 1);
+    ParentMatrix parents;
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        const auto node = resolveContainer<osg::NodePtr>(targetIds[i + 1]);
+        if (node == osg::NullFC) {
+            continue;
+        }
+        const auto transform = osg::Transform3DPtr::dcast(node->getCore());
+        places[i] = transform == osg::NullFC
+            ? anchorWorld(node)
+            : parents.toWorld(node, pivotInParent(transform, isAtScalePivot()));
+    }
+    marks.draw(places, size * kMarkReach);
+}
+
+/// Deliberate: the camera is not looked at, for which the host places all gizmos.
+bool TransformGizmo::isDisplaced(const View& /*view*/) const
+{
+    return watch.isElsewhere(manipulator::targetToWorld(getNode()));
+}
+
+// == Drags
+
+bool TransformGizmo::canStep(const View& view)
+{
+    const osg::NodePtr selected = getNode();
+    if (selected == osg::NullFC || selected->getParent() == osg::NullFC) {
+        return false;
+    }
+    if (targetIds.size() == 1 && !nbNodePermission::allows(selected, kTransformPermission)) {
+        nbLog::warning("Selected node cannot be transformed.");
+        return false;
+    }
+    return view.exists() && getTransform(0) != osg::NullFC;
+}
+
+bool TransformGizmo::prepare(const View& view)
+{
+    GrabbedGizmo held;
+    held.handle = handle();
+    held.mode = shownMode();
+    held.isLocal = isLocal();
+    held.grabbedPoint = grabbedPoint;
+    const osg::Matrix placed = handles.getRoot()->getToWorld();
+    held.unit = column(placed, 0).length();
+    held.frame = orthonormalised(placed);
+    held.frame.setTranslate(column(placed, 3));
+    drag = prepareManipulator(getTransform(0), held, view);
+    for (std::size_t i = 1; i < targetIds.size(); ++i) {
+        drag.starts.push_back(captureStart(getTransform(i), held));
+    }
+    turned.clear();
+    for (const TransformStart& start : drag.starts) {
+        turned.push_back(start.anglesRad);
+    }
+    track.last = drag.dragStartLocal;
+    return true;
+}
+
+bool TransformGizmo::movesPivot() const
+{
+    return shownMode() == Mode::RotatePivot || shownMode() == Mode::ScalePivot;
+}
+
+DragStep TransformGizmo::parametersAt(const View& view, const DragTrack& before) const
+{
+    DragTrack next = before;
+    const std::optional<osg::Pnt3f> point = followPlane(drag.plane, view.pointerRay(), next);
+    if (!point) {
+        return DragStep();
+    }
+    if (isRing(handle())) {
+        return turnAt(*point, next);
+    }
+    if (isScale(handle()) && !movesPivot()) {
+        return { { DragParameters::Kind::Factor, factorAt(drag, *point, view.upAxis()) }, next };
+    }
+    osg::Vec3f offset = offsetAt(drag, *point, isLocal());
+    if (isSnapping() && !movesPivot()) {  // Deliberate: pivots never snap.
+        offset = withSnappedLength(offset, nbTransformModel::the()->getTranslationPrecision());
+    }
+    return { { DragParameters::Kind::Offset, offset }, next };
+}
+
+DragStep TransformGizmo::turnAt(const osg::Pnt3f& point, const DragTrack& before) const
+{
+    DragTrack next = before;
+    const osg::Pnt3f place = mapped(drag.inverseDragFrame, point);
+    if (movesPivot()) {
+        next.turned = computeRotation(drag.dragStartLocal, place, axisOf(handle()));
+    } else {
+        double angle = computeRotation(before.last, place, axisOf(handle()));
+        if (isSnapping()) {
+            const double precision = nbTransformModel::the()->getRotationPrecision();
+            angle = snapped(angle, 2.0 * precision * kDegreeFactor);
+            if (angle == 0.0) {
+                // Deliberate: the last point stays, so that small motions add up until they pass
+                // half a step.
+                return DragStep(DragStep::Outcome::Waiting, before);
+            }
+        }
+        next.last = place;
+        next.turned += angle;
+    }
+    return { { DragParameters::Kind::Angle, next.turned * kDegPerRad }, next };
+}
+
+void TransformGizmo::apply(const DragParameters& parameters)
+{
+    if (isRing(handle())) {
+        movesPivot() ? rotatePivot(parameters.values[0]) : rotate(parameters.values[0]);
+    } else if (movesPivot()) {
+        translatePivot(parameters.vec3());
+    } else if (isScale(handle())) {
+        scale(parameters.first());
+    } else {
+        translate(parameters.vec3());
+    }
+}
+
+void TransformGizmo::announce()
+{
+    sendTransformationChanged();
+}
+
+// == The five transformations
+
+void TransformGizmo::translate(const osg::Vec3f& offset)
+{
+    const bool local = isLocal();
+    setValues(
+        resolveTargets(),
+        [local](osg::UInt32 count, auto values) {
+            nbTransformModel::the()->setTranslation(count, !local, values);
+        },
+        [&](osg::UInt32 i) { return movedTranslation(drag.starts[i], offset, local); });
+}
+
+void TransformGizmo::rotate(double angleDeg)
+{
+    const double angleRad = angleDeg / kDegPerRad;
+    setValues(
+        resolveTargets(),
+        [](osg::UInt32 count, auto values) { nbTransformModel::the()->setRotation(count, values); },
+        [&](osg::UInt32 i) {
+            turned[i] = turnedAngles(drag.starts[i], angleRad, turned[i]);
+            return toDegrees(turned[i]);
+        });
+}
+
+void TransformGizmo::scale(float factor)
+{
+    nbTransformModel* const model = nbTransformModel::the();
+    const double step = isSnapping() ? model->getScalePrecision() : 0.0;
+    setValues(
+        resolveTargets(),
+        [model](osg::UInt32 count, auto values) { model->setScale(count, values); },
+        [&](osg::UInt32 i) { return scaledBy(drag.starts[i], handle(), factor, step); });
+}
+
+void TransformGizmo::translatePivot(const osg::Vec3f& offset)
+{
+    const bool local = isLocal();
+    const bool isRotatePivot = shownMode() == Mode::RotatePivot;
+    setValues(
+        resolveTargets(),
+        [local, isRotatePivot](osg::UInt32 count, auto values) {
+            nbTransformModel* const model = nbTransformModel::the();
+            isRotatePivot ? model->setRotationPivot(count, !local, values)
+                          : model->setScalePivot(count, !local, values);
+        },
+        [&](osg::UInt32 i) { return movedPivot(drag.starts[i], offset, local); });
+}
+
+void TransformGizmo::rotatePivot(double angleDeg)
+{
+    const double angleRad = angleDeg / kDegPerRad;
+    setValues(
+        resolveTargets(),
+        [](osg::UInt32 count, auto values) {
+            nbTransformModel::the()->setRotationPivotOrientation(count, values);
+        },
+        [&](osg::UInt32 i) { return toDegrees(turnedPivot(drag.starts[i], angleRad)); });
+}
+
+// == On-screen text
+
+std::optional<QString> TransformGizmo::describe() const
+{
+    if (movesPivot() && isRing(handle())) {
+        return std::nullopt;  // Deliberate: the text of before stays.
+    }
+    const osg::NodePtr node = getNode();
+    return node != osg::NullFC && descriptionEnabled
+        ? textOf(editedNode(node), handle(), shownMode(), !isLocal())
+        : QString();
+}
+
+ValueText* TransformGizmo::getText() const
+{
+    static ValueText notifier("transformInfo");
+    return &notifier;
+}
+
+}  // namespace nbec::manipulator::transform

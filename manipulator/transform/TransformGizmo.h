@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "manipulator/course/Gizmo.h"
+#include "manipulator/transform/PivotMarks.h"
+#include "manipulator/transform/TransformDrag.h"
+#include "manipulator/transform/TransformModes.h"
+
+#include <OpenSG/OSGNode.h>
+
+#include <vector>
+
+namespace nbec::manipulator::transform {
+
+/// What all transform gizmos share beside their size.
+struct TransformSettings
+{
+    bool m_LocalSpaceManipulator = false;
+    bool _temporary_snapping_active = false;
+};
+
+/// Course of the transform gizmo: the marks of further nodes, and drags that go through the
+/// transform model. See UniversalTransformManipulator2, its face.
+class TransformGizmo : public Gizmo
+{
+public:
+    /// @param shared, size  outlive the gizmo
+    TransformGizmo(const TransformSettings& shared, const float& size);
+
+    /// Binds the gizmo to nodes. @param further  transformed along; of these left out are null,
+    /// what is given twice, and what is above or below another of the nodes
+    void setNodes(const osg::NodePtr& node, const std::vector<osg::NodePtr>& further);
+
+    /// See UniversalTransformManipulator2::centerPivot().
+    bool centerPivot();
+
+    bool isSnapping() const { return snappingEnabled || settings->_temporary_snapping_active; }
+
+    bool snappingEnabled = false;
+    bool descriptionEnabled = true;
+
+protected:
+    bool hasTarget() const override;
+    bool canStep(const View& view) override;
+    bool prepare(const View& view) override;
+    DragStep parametersAt(const View& view, const DragTrack& before) const override;
+    void apply(const DragParameters& parameters) override;
+    void announce() override;
+    void place(const View& view) override;
+    bool isDisplaced(const View& view) const override;
+    std::optional<QString> describe() const override;
+    ValueText* getText() const override;
+
+private:
+    ActiveMode handle() const { return static_cast<ActiveMode>(getArmed()); }
+
+    ManipulatorMode shownMode() const { return static_cast<ManipulatorMode>(getMode()); }
+
+    bool isLocal() const { return settings->m_LocalSpaceManipulator; }
+
+    bool movesPivot() const;
+    bool isAtScalePivot() const;
+    osg::NodePtr getNode() const;
+    osg::NodePtr getTransform(std::size_t index) const;
+    std::vector<osg::NodePtr> resolveTargets() const;
+    osg::Pnt3f anchorWorld(const osg::NodePtr& node) const;
+    osg::Quaternion orientationWorld(const osg::NodePtr& node) const;
+    void placeMarks(float size);
+    DragStep turnAt(const osg::Pnt3f& point, const DragTrack& before) const;
+
+    void translate(const osg::Vec3f& offset);
+    void rotate(double angleDeg);
+    void scale(float factor);
+    void translatePivot(const osg::Vec3f& offset);
+    void rotatePivot(double angleDeg);
+
+    const TransformSettings* settings;
+    std::vector<osg::UInt32> targetIds;  ///< the dragged node, then the further ones
+    osg::RefPtr<osg::NodePtr> multiselection;
+    PivotMarks marks;  ///< of the further nodes
+    TransformDrag drag;
+    std::vector<nbEulerAngles> turned;  ///< of the targets after the last turn, radians
+};
+
+}  // namespace nbec::manipulator::transform
