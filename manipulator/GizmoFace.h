@@ -4,6 +4,7 @@
 #include "manipulator/AbstractManipulator.h"
 #include "manipulator/ManipulatorInteractionContext.h"
 #include "manipulator/course/Gizmo.h"
+#include "manipulator/course/PickerOf.h"
 
 #include <memory>
 #include <string>
@@ -94,12 +95,6 @@ protected:
     GizmoFace& operator=(const GizmoFace&) = delete;
 
     ~GizmoFace() override = default;
-
-    /// The picker of a context, null without one.
-    static interaction::Picker* pickerOf(ManipulatorInteractionContext* ctx)
-    {
-        return ctx != nullptr ? ctx->getPicker() : nullptr;
-    }
 
     std::unique_ptr<Gizmo> gizmo;
 };

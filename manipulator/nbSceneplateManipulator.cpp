@@ -7,7 +7,7 @@
 #include <nbKernel/nbOSGWidget.h>
 
 using nbec::manipulator::Instances;
-using nbec::manipulator::View;
+using nbec::manipulator::pickerOf;
 using nbec::manipulator::plates::PlateGizmo;
 
 Instances<nbSceneplateManipulator> nbSceneplateManipulator::instances;
@@ -88,11 +88,6 @@ std::vector<osg::NodePtr> nbSceneplateManipulator::getNodes() const
     return course().getNodes();
 }
 
-nbSceneplateManipulator::ActiveMode nbSceneplateManipulator::getActiveMode() const
-{
-    return static_cast<ActiveMode>(gizmo->getArmed());
-}
-
 void nbSceneplateManipulator::enableSnapping(bool on)
 {
     course().snappingEnabled = on;
@@ -103,28 +98,13 @@ void nbSceneplateManipulator::setDescriptionEnabled(bool on)
     course().descriptionEnabled = on;
 }
 
-void nbSceneplateManipulator::updateManipulator()
-{
-    gizmo->placeIn(View());
-}
-
 // == All instances
-
-void nbSceneplateManipulator::createInstance()
-{
-    instances.share(new nbSceneplateManipulator);
-}
 
 void nbSceneplateManipulator::setManipulatorSize(float size)
 {
     if (size > 0.0F) {
         instances.setSize(size);
     }
-}
-
-float nbSceneplateManipulator::getManipulatorSize()
-{
-    return instances.m_ManipulatorSize;
 }
 
 void nbSceneplateManipulator::updateAllManipulators()

@@ -18,11 +18,9 @@ class PlateGizmo;
 /// "sceneplateChanged" with, in this order, "scaleFactor" (float), "offset" (QVector2D) and
 /// "rotation" (float): all three absolute from the drag's start. Plates scale by the factor and
 /// turn by the angle (degrees, counter-clockwise) about the centre of the selection's frame as it
-/// was at the start, and that centre moves by the offset (heights of the view, y up), so that
-/// scaling about a corner is a factor and an offset. While a handle is held the preview of
-/// materials is paused ("setMatRenderEnabled", "updateMatRender").
+/// was at the start, and that centre moves by the offset (heights of the view, y up). While a
+/// handle is held the preview of materials is paused ("setMatRenderEnabled", "updateMatRender").
 ///
-/// Decisions.
 /// - Frame: of one plate its own, turned with it; of several the upright rectangle around all. It
 ///   is drawn at least 28 pixels wide and high, so that small plates can be grabbed.
 /// - Handles, by the names that the picker reports: the body "grid" (the frame and its inside)
@@ -30,13 +28,11 @@ class PlateGizmo;
 ///   "scaleXYURShape" (lower left, upper left, lower right, upper right of the frame's own axes)
 ///   scale; the arm "rotateShape" with its knob turns. The origin of a handle's node is where it is
 ///   grabbed: centre of the frame, of the box, of the knob. Boxes win over arm and body.
-/// - Colours: frame and boxes yellow (they act on both axes), arm blue (it turns about the view
-///   axis), guide lines purple, orange highlights, all with a dark edge, so that they are seen on
-///   every plate. During a drag only the grabbed handle and the frame are shown.
-/// - Handles lie in a plane before the eye whose unit is a pixel (see plates/ScreenPlane.h). They
-///   are drawn over plates and scene and picked as those of the other manipulators, and have one
-///   size in logical pixels whatever the view's size: boxes 10, knob 12 across, arm 32 at the
-///   default manipulator size, proportional to it.
+/// - Colours: frame and boxes yellow, arm blue (it turns about the view axis), guide lines purple,
+///   orange highlights, all with a dark edge, so that they are seen on every plate. During a drag
+///   only the grabbed handle and the frame are shown.
+/// - Handles lie in a plane before the eye whose unit is a pixel, over plates and scene. Sizes in
+///   logical pixels at the default manipulator size: boxes 10, knob 12 across, arm 32.
 /// - The arm stands above the frame, where the knob would not be in view below it, otherwise
 ///   within. Boxes of a frame that reaches beyond opposite edges of the view are pulled in.
 /// - Scaling keeps the proportions and the opposite corner; in mode "precisionTool" (Ctrl) the
@@ -45,9 +41,9 @@ class PlateGizmo;
 ///   frame's edges and centre lines to the view's, a scaled corner to the view's edges and centre
 ///   lines, within 8 logical pixels, with guide lines; the resulting rotation of the frame to
 ///   multiples of 15 degrees.
-/// - A drag begins where the handle was pressed and sends nothing until something changes. It goes
-///   on as long as the plates and the view's size stay what they were; otherwise its further steps
-///   answer false, and nothing more is sent. Hovering changes nothing until it stops.
+/// - A drag sends nothing until something changes. When other plates are set or the view's size
+///   changes, its further steps answer false and send nothing. Hovering changes nothing until it
+///   stops.
 ///
 /// Plates are held by the ids of their nodes; one that is deleted drops out. Without plates, widget
 /// or area nothing is shown and every event answers false. All instances share the size. Everything
@@ -69,9 +65,7 @@ public:
     /// Also lets go of a grabbed handle.
     void deactivate(ManipulatorInteractionContext* ctx) override;
 
-    /// Grabs the handle under the pointer and pauses the preview. @return whether there is one
     bool startManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
-
     bool hoverManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
 
     /// "precisionTool": see scaling and snapping above; every other mode ends it. As of the
@@ -88,7 +82,7 @@ public:
     std::vector<osg::NodePtr> getNodes() const;
 
     /// The handle that is hovered or grabbed.
-    ActiveMode getActiveMode() const;
+    ActiveMode getActiveMode() const { return static_cast<ActiveMode>(gizmo->getArmed()); }
 
     /// Switches snapping of this manipulator; off at first.
     void enableSnapping(bool on);
@@ -98,11 +92,13 @@ public:
 
     /// Creates a manipulator and makes it the shared instance; an earlier shared instance is
     /// destroyed.
-    static void createInstance();
+    static void createInstance() { instances.share(new nbSceneplateManipulator); }
+
     /// Size of all handles, default 32. The shared instance is placed at once, others at their next
     /// update. @param size  above 0, others are ignored
     static void setManipulatorSize(float size);
-    static float getManipulatorSize();
+
+    static float getManipulatorSize() { return instances.m_ManipulatorSize; }
 
     /// Places the handles of every live manipulator, in the order of construction. Also called by
     /// the widgets after a resize.
@@ -111,7 +107,8 @@ public:
 private:
     friend struct nbec::manipulator::Instances<nbSceneplateManipulator>;
 
-    void updateManipulator();
+    void updateManipulator() { gizmo->placeIn(nbec::manipulator::View()); }
+
     void followPixelRatio(ManipulatorInteractionContext* ctx);
     nbec::manipulator::plates::PlateGizmo& course() const;
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "manipulator/handles/ContainerReference.h"
+
 #include <nbOpenSGUberMaterial/ColorComponentSettings.h>
 #include <nbOpenSGUberMaterial/UberMaterial.h>
 
@@ -20,19 +22,41 @@ public:
     /// @param editedMaterial  null for none  @param component  name within the material
     /// @param editor          object of the host that mirrors the component, not owned, may be null
     void set(const osg::MaterialPtr& editedMaterial, const std::string& component,
-             nbStateChunkBase* editor);
+             nbStateChunkBase* editor)
+    {
+        materialId = containerId(editedMaterial);
+        name = component;
+        gui = editor;
+    }
 
     /// The material; null if there is none or it no longer exists.
-    osg::MaterialPtr getMaterial() const;
+    osg::MaterialPtr getMaterial() const { return resolveContainer<osg::MaterialPtr>(materialId); }
+
     /// The material as one with components; null if it is of another class.
-    osg::UberMaterialPtr getUberMaterial() const;
+    osg::UberMaterialPtr getUberMaterial() const
+    {
+        return resolveContainer<osg::UberMaterialPtr>(materialId);
+    }
+
     /// The component's settings; null without such a material or without settings.
-    osg::ColorComponentSettingsPtr getSettings() const;
+    osg::ColorComponentSettingsPtr getSettings() const
+    {
+        const osg::UberMaterialPtr material = getUberMaterial();
+        return material != osg::NullFC ? material->getComponentSettings(name)
+                                       : osg::ColorComponentSettingsPtr();
+    }
 
     /// Whether the material is the given one; false for null.
-    bool isOf(const osg::MaterialPtr& other) const;
+    bool isOf(const osg::MaterialPtr& other) const
+    {
+        return materialId != 0 && materialId == containerId(other);
+    }
+
     /// The same, and the component has exactly the given name.
-    bool is(const osg::MaterialPtr& other, const std::string& component) const;
+    bool is(const osg::MaterialPtr& other, const std::string& component) const
+    {
+        return isOf(other) && name == component;
+    }
 
     const std::string& getName() const { return name; }
 
