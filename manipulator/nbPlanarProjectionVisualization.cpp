@@ -2,6 +2,7 @@
 #include "manipulator/nbPlanarProjectionVisualization.h"
 
 #include "manipulator/handles/ContainerReference.h"
+#include "manipulator/handles/HandleMaterials.h"
 #include "manipulator/handles/HandleNodes.h"
 
 #include <nbOpenSGExt/Transform3D.h>
@@ -12,22 +13,13 @@
 #include <OpenSG/OSGBlendChunk.h>
 #include <OpenSG/OSGDepthChunk.h>
 #include <OpenSG/OSGGeometry.h>
-#include <OpenSG/OSGLineChunk.h>
 #include <OpenSG/OSGSimpleGeometry.h>
 #include <OpenSG/OSGState.h>
 #include <OpenSG/OSGTransform.h>
 
-#include <utility>
 #include <vector>
 
-using nbec::manipulator::addChild;
-using nbec::manipulator::containerId;
-using nbec::manipulator::makeGroupNode;
-using nbec::manipulator::makeLineGeometry;
-using nbec::manipulator::makeNode;
-using nbec::manipulator::makeTransform3DNode;
-using nbec::manipulator::setGeometryMaterial;
-using nbec::manipulator::showNode;
+using namespace nbec::manipulator;
 
 namespace {
 
@@ -40,8 +32,6 @@ constexpr float kLineWidth = 1.0F;
 constexpr float kPlaneEmission[] = { 0.10F, 0.16F, 0.24F };
 constexpr float kLineColor[] = { 1.0F, 0.85F, 0.35F };
 
-constexpr osg::UInt32 kCorners = 4;
-
 osg::DepthChunkPtr makeSeeThroughChunk()
 {
     const osg::DepthChunkPtr chunk = osg::DepthChunk::create();
@@ -49,15 +39,6 @@ osg::DepthChunkPtr makeSeeThroughChunk()
     chunk->setEnable(false);
     chunk->setReadOnly(true);
     chunk->setFunc(GL_LEQUAL);
-    return chunk;
-}
-
-osg::BlendChunkPtr makeBlendChunk()
-{
-    const osg::BlendChunkPtr chunk = osg::BlendChunk::create();
-    const nbEdit edit(chunk, osg::FieldBits::AllFields);
-    chunk->setSrcFactor(GL_SRC_ALPHA);
-    chunk->setDestFactor(GL_ONE_MINUS_SRC_ALPHA);
     return chunk;
 }
 
@@ -94,18 +75,12 @@ osg::SimpleMaterialPtr makePlaneMaterial(const osg::TextureChunkPtr& texture)
 /// The lines show through objects as the planes do: they often lie in the object's surface.
 osg::SimpleMaterialPtr makeLineMaterial()
 {
-    const osg::LineChunkPtr line = osg::LineChunk::create();
-    {
-        const nbEdit edit(line, osg::FieldBits::AllFields);
-        line->setWidth(kLineWidth);
-        line->setSmooth(true);
-    }
     const osg::SimpleMaterialPtr material = osg::SimpleMaterial::create();
     const nbEdit edit(material, osg::FieldBits::AllFields);
     material->setLit(false);
     material->setDiffuse(osg::Color3f(kLineColor[0], kLineColor[1], kLineColor[2]));
     material->setSortKey(kLineSortKey);
-    material->addChunk(line, osg::State::AutoSlotReplace);
+    material->addChunk(makeLineChunk(kLineWidth), osg::State::AutoSlotReplace);
     material->addChunk(makeSeeThroughChunk(), osg::State::AutoSlotReplace);
     return material;
 }
@@ -128,46 +103,20 @@ void faceBack(const osg::GeometryPtr& geometry)
     }
 }
 
-/// The four corners of the projection at a height, counter-clockwise from the lower left one.
-void appendCorners(std::vector<osg::Pnt3f>& corners, float z)
+/// Lines between the corners of the projection at one or more heights: at each of them four,
+/// counter-clockwise from the lower left one. @param edges  their ends, pair by pair
+osg::NodePtr makeLines(std::initializer_list<float> heights, const std::vector<osg::UInt32>& edges,
+                       const osg::MaterialPtr& material)
 {
-    for (const auto& [x, y] : { std::pair(-1.0F, -1.0F), std::pair(1.0F, -1.0F),
-                                std::pair(1.0F, 1.0F), std::pair(-1.0F, 1.0F) }) {
-        corners.emplace_back(x, y, z);
+    std::vector<osg::Pnt3f> corners;
+    for (const float z : heights) {
+        corners.insert(corners.end(),
+                       { osg::Pnt3f(-1.0F, -1.0F, z), osg::Pnt3f(1.0F, -1.0F, z),
+                         osg::Pnt3f(1.0F, 1.0F, z), osg::Pnt3f(-1.0F, 1.0F, z) });
     }
-}
-
-osg::NodePtr makeLines(const std::vector<osg::Pnt3f>& points,
-                       const std::vector<osg::UInt32>& indices, const osg::MaterialPtr& material)
-{
-    const osg::NodePtr lines = makeNode(makeLineGeometry(points, indices));
+    const osg::NodePtr lines = makeNode(makeLineGeometry(corners, edges));
     setGeometryMaterial(lines, material);
     return lines;
-}
-
-osg::NodePtr makeOutline(const osg::MaterialPtr& material)
-{
-    std::vector<osg::Pnt3f> corners;
-    appendCorners(corners, 0.0F);
-    std::vector<osg::UInt32> edges;
-    for (osg::UInt32 i = 0; i < kCorners; ++i) {
-        edges.insert(edges.end(), { i, (i + 1) % kCorners });
-    }
-    return makeLines(corners, edges, material);
-}
-
-/// The far end of the box and the edges that lead there; the near end is the outline's place.
-osg::NodePtr makeZExtentLines(const osg::MaterialPtr& material)
-{
-    std::vector<osg::Pnt3f> corners;
-    appendCorners(corners, -1.0F);
-    appendCorners(corners, 0.0F);
-    std::vector<osg::UInt32> edges;
-    for (osg::UInt32 i = 0; i < kCorners; ++i) {
-        const osg::UInt32 nearEnd = kCorners + i;
-        edges.insert(edges.end(), { i, nearEnd, nearEnd, kCorners + (i + 1) % kCorners });
-    }
-    return makeLines(corners, edges, material);
 }
 
 /// See the class description: at the far end, looking back, scaled about the near end.
@@ -189,13 +138,20 @@ osg::Transform3DPtr transform3DOf(const osg::NodePtr& node)
     return osg::Transform3DPtr::dcast(node->getCore());
 }
 
-/// Alpha image of another one's brightness; null if that cannot be converted.
-osg::RefPtr<osg::ImagePtr> makeMask(const osg::ImagePtr& source, bool invert)
+/// What the planes show of an image: itself, if it has alpha, or as a mask an alpha image of its
+/// brightness. Null for nothing, and for what cannot be converted.
+osg::RefPtr<osg::ImagePtr> pictureOf(const osg::ImagePtr& image, bool asMask, bool invert)
 {
+    if (image == osg::NullFC || (!asMask && !image->hasAlphaChannel())) {
+        return {};
+    }
+    if (!asMask) {
+        return osg::RefPtr<osg::ImagePtr>(image);
+    }
     osg::RefPtr<osg::ImagePtr> mask(osg::Image::create());
-    if (!source->reformat(osg::Image::OSG_L_PF, mask.get()) ||
+    if (!image->reformat(osg::Image::OSG_L_PF, mask.get()) ||
         !mask->reformat(osg::Image::OSG_A_PF)) {
-        return osg::RefPtr<osg::ImagePtr>();
+        return {};
     }
     if (invert) {
         nbImage::invertAlpha(mask.get());
@@ -204,41 +160,17 @@ osg::RefPtr<osg::ImagePtr> makeMask(const osg::ImagePtr& source, bool invert)
     return mask;
 }
 
-/// What the planes show of an image; null for nothing.
-osg::RefPtr<osg::ImagePtr> pictureOf(const osg::ImagePtr& image, bool asMask, bool invert)
-{
-    if (image != osg::NullFC && asMask) {
-        return makeMask(image, invert);
-    }
-    const bool covers = image != osg::NullFC && image->hasAlphaChannel();
-    return osg::RefPtr<osg::ImagePtr>(covers ? image : osg::ImagePtr());
-}
-
 }  // namespace
 
-/// The arguments of the last setTexture(). The image is only compared, so its id will do.
-struct nbPlanarProjectionVisualization::ShownTexture
-{
-    osg::UInt32 imageId = 0;
-    bool asMask = false;
-    bool invert = false;
-};
-
 nbPlanarProjectionVisualization::nbPlanarProjectionVisualization()
-    : shownTexture(std::make_shared<ShownTexture>())
+    : textureChunk(makeTextureChunk())
+    , shownTexture(std::make_shared<std::tuple<osg::UInt32, bool, bool>>())
 {
     createGeo();
 }
 
-nbPlanarProjectionVisualization::nbPlanarProjectionVisualization(
-    const nbPlanarProjectionVisualization& other) = default;
-nbPlanarProjectionVisualization&
-nbPlanarProjectionVisualization::operator=(const nbPlanarProjectionVisualization& other) = default;
-nbPlanarProjectionVisualization::~nbPlanarProjectionVisualization() = default;
-
 void nbPlanarProjectionVisualization::createGeo()
 {
-    textureChunk = osg::RefPtr<osg::TextureChunkPtr>(makeTextureChunk());
     root = makeGroupNode();
     nbNodeUtils::setIsAuxiliaryNode(root.get(), true);
     objectTransformNode = makeNode(osg::Transform::create());
@@ -250,47 +182,22 @@ void nbPlanarProjectionVisualization::createGeo()
     addChild(projectionTransformNode.get(), transform2DNode.get());
     addChild(projectionTransformNode.get(), zExtentTransformNode.get());
 
-    for (const PlaneSide side : { PlaneSide::Front, PlaneSide::Back }) {
-        addChild(transform2DNode.get(), createPlane(side));
+    for (osg::SimpleMaterialRefPtr& material : planeMaterials) {
+        material = makePlaneMaterial(textureChunk.get());
+        const osg::NodePtr plane = osg::makePlane(kPlaneSize, kPlaneSize, 1, 1);
+        setGeometryMaterial(plane, material.get());
+        if (&material != &planeMaterials[0]) {
+            faceBack(osg::GeometryPtr::dcast(plane->getCore()));
+        }
+        addChild(transform2DNode.get(), plane);
     }
     const osg::SimpleMaterialPtr lineMaterial = makeLineMaterial();
-    addChild(transform2DNode.get(), makeOutline(lineMaterial));
-    zExtentGeometryNode = makeZExtentLines(lineMaterial);
+    const std::vector<osg::UInt32> outline = { 0, 1, 1, 2, 2, 3, 3, 0 };
+    addChild(transform2DNode.get(), makeLines({ 0.0F }, outline, lineMaterial));
+    // The far end of the box and the edges that lead there; the near end is the outline's place.
+    const std::vector<osg::UInt32> box = { 0, 4, 4, 5, 1, 5, 5, 6, 2, 6, 6, 7, 3, 7, 7, 4 };
+    zExtentGeometryNode = makeLines({ -1.0F, 0.0F }, box, lineMaterial);
     addChild(zExtentTransformNode.get(), zExtentGeometryNode.get());
-}
-
-osg::NodePtr nbPlanarProjectionVisualization::createPlane(PlaneSide side)
-{
-    osg::SimpleMaterialRefPtr& material = planeMaterials[side == PlaneSide::Back ? 1 : 0];
-    material = makePlaneMaterial(textureChunk.get());
-    const osg::NodePtr plane = osg::makePlane(kPlaneSize, kPlaneSize, 1, 1);
-    setGeometryMaterial(plane, material.get());
-    if (side == PlaneSide::Back) {
-        faceBack(osg::GeometryPtr::dcast(plane->getCore()));
-    }
-    return plane;
-}
-
-// == The tree
-
-osg::NodePtr nbPlanarProjectionVisualization::getRootNode() const
-{
-    return root.get();
-}
-
-osg::NodePtr nbPlanarProjectionVisualization::getVisualizationNode() const
-{
-    return objectTransformNode.get();
-}
-
-osg::NodePtr nbPlanarProjectionVisualization::getProjectionTransformNode() const
-{
-    return projectionTransformNode.get();
-}
-
-osg::NodePtr nbPlanarProjectionVisualization::get2DTransformNode() const
-{
-    return transform2DNode.get();
 }
 
 // == Placement
@@ -319,16 +226,14 @@ void nbPlanarProjectionVisualization::updateProjectionTransform(
     if (projection == osg::NullFC || place == osg::NullFC || zExtent == osg::NullFC) {
         return;
     }
-    {
-        const nbEdit edit(place,
-                          osg::Transform3D::RotationFieldMask |
-                              osg::Transform3D::RotationOrientationFieldMask |
-                              osg::Transform3D::TranslationFieldMask);
-        place->setRotation(projection->getRotationAsQuaternion());
-        place->setRotationOrientation(projection->getRotationOrientation());
-        place->setTranslation(projection->getTranslation());
-    }
-    const nbEdit edit(zExtent, osg::Transform3D::ScaleFieldMask);
+    const nbEdit edit(place,
+                      osg::Transform3D::RotationFieldMask |
+                          osg::Transform3D::RotationOrientationFieldMask |
+                          osg::Transform3D::TranslationFieldMask);
+    place->setRotation(projection->getRotationAsQuaternion());
+    place->setRotationOrientation(projection->getRotationOrientation());
+    place->setTranslation(projection->getTranslation());
+    const nbEdit scaleEdit(zExtent, osg::Transform3D::ScaleFieldMask);
     zExtent->setScale(projection->getScale());
 }
 
@@ -371,21 +276,13 @@ void nbPlanarProjectionVisualization::setPlaneTransparency(float transparency)
     }
 }
 
-float nbPlanarProjectionVisualization::getPlaneTransparency() const
-{
-    return planeMaterials[0]->getTransparency();
-}
-
 void nbPlanarProjectionVisualization::setTexture(osg::ImagePtr image, bool asMask, bool invert)
 {
-    ShownTexture& shown = *shownTexture;
-    const osg::UInt32 imageId = containerId(image);
-    if (shown.imageId == imageId && shown.asMask == asMask && shown.invert == invert) {
+    const auto asked = std::tuple(containerId(image), asMask, invert);
+    if (asked == *shownTexture) {
         return;
     }
-    shown.imageId = imageId;
-    shown.asMask = asMask;
-    shown.invert = invert;
+    *shownTexture = asked;
     const osg::RefPtr<osg::ImagePtr> picture = pictureOf(image, asMask, invert);
     osg::ImagePtr chosen = picture.get();
     const nbEdit edit(textureChunk.get(), osg::TextureChunk::ImageFieldMask);

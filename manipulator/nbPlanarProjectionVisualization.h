@@ -15,42 +15,40 @@
 
 #include <array>
 #include <memory>
+#include <tuple>
 
 /// Shows a planar texture projection in the scene: a faint plane with the picture, its outline, and
 /// the box in which a projection shows that ends in z. It takes no pointer input.
 ///
-/// The host hangs getRootNode() into its scene, attaches the visualisation to the object whose
-/// material is edited, and updates it with the projection. The tree, top down:
+/// The host hangs getRootNode() into its scene. The tree, top down:
 /// - root: Group, marked auxiliary;
 /// - visualisation: Transform, world matrix of the object;
 /// - projection: Transform3D, rotation and translation of the projection;
 /// - 2D transform: Transform3D with the planes and the outline, corners at -1 and 1; beside it the
 ///   Z extent: Transform3D at (0, 0, -1) that takes the projection's scale, and lines.
 ///
-/// The Z extent's frame has its origin at the far end and looks back, so that the near end lies at
-/// z = -1 in it; being scaled about that end, its box reaches from the projection's plane to -1
-/// times the scale.
-/// The object and its projection are read when they are given, not kept. Copies share everything:
+/// The Z extent's frame has its origin at the far end and looks back; being scaled about the near
+/// end, its box reaches from the projection's plane to -1 times the scale. Copies share everything:
 /// nodes, materials and the picture shown.
 class NB_MANIPULATOR_API nbPlanarProjectionVisualization
 {
 public:
     nbPlanarProjectionVisualization();
-    nbPlanarProjectionVisualization(const nbPlanarProjectionVisualization& other);
-    nbPlanarProjectionVisualization& operator=(const nbPlanarProjectionVisualization& other);
-    ~nbPlanarProjectionVisualization();
 
     // == The tree. The visualisation holds one count on each node.
 
-    osg::NodePtr getRootNode() const;
+    osg::NodePtr getRootNode() const { return root.get(); }
+
     /// The object transform.
-    osg::NodePtr getVisualizationNode() const;
-    osg::NodePtr getProjectionTransformNode() const;
-    osg::NodePtr get2DTransformNode() const;
+    osg::NodePtr getVisualizationNode() const { return objectTransformNode.get(); }
+
+    osg::NodePtr getProjectionTransformNode() const { return projectionTransformNode.get(); }
+
+    osg::NodePtr get2DTransformNode() const { return transform2DNode.get(); }
 
     // == Placement
 
-    /// Takes over the node's world matrix as it is now; null: the world's origin.
+    /// Takes over the node's world matrix as it is now. @param node  null: the world's origin
     void attachToNode(osg::NodePtr node);
     /// Takes over rotation, translation and scale of the planar projection; the scale goes to the Z
     /// extent alone, as the plane has its own (setScale). Without settings or a projection, and for
@@ -69,7 +67,8 @@ public:
     void setZScaleVisible(bool visible);
     /// @param transparency  of each of the two planes, 0 (opaque) .. 1; 0.8 at first
     void setPlaneTransparency(float transparency);
-    float getPlaneTransparency() const;
+
+    float getPlaneTransparency() const { return planeMaterials[0]->getTransparency(); }
 
     /// Sets the picture on the planes. The same image with the same flags again does nothing, even
     /// if its pixels have changed.
@@ -81,17 +80,7 @@ public:
     void setTexture(osg::ImagePtr image, bool asMask, bool invert);
 
 private:
-    struct ShownTexture;
-
-    /// There is one plane for each side that the projection can be seen from.
-    enum class PlaneSide
-    {
-        Front,  ///< faces along z
-        Back
-    };
-
     void createGeo();
-    osg::NodePtr createPlane(PlaneSide side);
 
     osg::NodeRefPtr root;
     osg::NodeRefPtr objectTransformNode;
@@ -99,8 +88,10 @@ private:
     osg::NodeRefPtr transform2DNode;
     osg::NodeRefPtr zExtentTransformNode;
     osg::NodeRefPtr zExtentGeometryNode;
+    /// One plane for each side that the projection can be seen from: facing along z, and back.
     std::array<osg::SimpleMaterialRefPtr, 2> planeMaterials;
     osg::RefPtr<osg::TextureChunkPtr> textureChunk;
-    /// What the chunk shows belongs to the chunk, so copies have it in common.
-    std::shared_ptr<ShownTexture> shownTexture;
+    /// Id of the image and flags of the last setTexture(). What the chunk shows belongs to the
+    /// chunk, so copies have it in common.
+    std::shared_ptr<std::tuple<osg::UInt32, bool, bool>> shownTexture;
 };

@@ -18,12 +18,7 @@ LineChunks makeLineChunks()
 {
     LineChunks chunks;
     chunks.line = makeLineChunk(kLineWidth);
-    chunks.blend = osg::BlendChunk::create();
-    {
-        const nbEdit edit(chunks.blend.get(), osg::FieldBits::AllFields);
-        chunks.blend->setSrcFactor(GL_SRC_ALPHA);
-        chunks.blend->setDestFactor(GL_ONE_MINUS_SRC_ALPHA);
-    }
+    chunks.blend = makeBlendChunk();
     chunks.depth = makeAlwaysDepthChunk();
     return chunks;
 }
@@ -34,6 +29,15 @@ osg::LineChunkPtr makeLineChunk(float widthPx)
     const nbEdit edit(chunk, osg::FieldBits::AllFields);
     chunk->setWidth(widthPx);
     chunk->setSmooth(true);
+    return chunk;
+}
+
+osg::BlendChunkPtr makeBlendChunk()
+{
+    const osg::BlendChunkPtr chunk = osg::BlendChunk::create();
+    const nbEdit edit(chunk, osg::FieldBits::AllFields);
+    chunk->setSrcFactor(GL_SRC_ALPHA);
+    chunk->setDestFactor(GL_ONE_MINUS_SRC_ALPHA);
     return chunk;
 }
 

@@ -40,6 +40,9 @@ NB_MANIPULATOR_API LineChunks makeLineChunks();
 /// A chunk of smooth lines, count 0. @param widthPx  logical pixels
 osg::LineChunkPtr makeLineChunk(float widthPx);
 
+/// A chunk that blends by alpha, GL_SRC_ALPHA and GL_ONE_MINUS_SRC_ALPHA, count 0.
+osg::BlendChunkPtr makeBlendChunk();
+
 /// A depth-test chunk with function GL_ALWAYS, count 0.
 osg::DepthTestChunkPtr makeAlwaysDepthChunk();
 
