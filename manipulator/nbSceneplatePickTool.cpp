@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/nbSceneplatePickTool.h"
 
+#include "manipulator/course/PickerOf.h"
 #include "manipulator/handles/ContainerReference.h"
 
 #include <nbInteraction/Picker.h>
@@ -15,38 +16,14 @@
 using nbec::interaction::AbstractInteractionTool;
 using nbec::interaction::Picker;
 using nbec::interaction::ToolInteractionContext;
+using nbec::manipulator::pickerOf;
 
 namespace {
 
 /// Least sides of a drag that selects by rectangle, pixels, first and last included.
 constexpr int kLeastRectangleSide = 3;
 
-Picker* pickerOf(const ToolInteractionContext* context)
-{
-    return context != nullptr ? context->getPicker() : nullptr;
-}
-
-bool isRectangle(const QRect& drag)
-{
-    return drag.right() + 1 - drag.left() >= kLeastRectangleSide &&
-        drag.bottom() + 1 - drag.top() >= kLeastRectangleSide;
-}
-
 }  // namespace
-
-const std::string nbSceneplatePickTool::s_selectHint = "select";
-const std::string nbSceneplatePickTool::s_deselectHint = "deselect";
-const std::string nbSceneplatePickTool::s_addHint = "add";
-const std::string nbSceneplatePickTool::s_subHint = "sub";
-const std::string nbSceneplatePickTool::s_toggleHint = "toggle";
-
-nbSceneplatePickTool::nbSceneplatePickTool(const nbSceneplatePickTool& other)
-    : AbstractInteractionTool(other)
-    , messageReceiver(other.messageReceiver)
-    , sceneplateId(other.sceneplateId)
-    , showHitData(other.showHitData)
-    , preselectionActive(other.preselectionActive)
-{ }
 
 nbSceneplatePickTool& nbSceneplatePickTool::operator=(const nbSceneplatePickTool& other)
 {
@@ -62,41 +39,27 @@ nbSceneplatePickTool& nbSceneplatePickTool::operator=(const nbSceneplatePickTool
 
 bool nbSceneplatePickTool::setToolMode(ToolInteractionContext* context, const std::string& mode)
 {
+    const bool isToolMode = mode == "tool";
+    if (!isToolMode && !mode.empty()) {
+        return false;
+    }
     nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1);
-    if (mode == "tool") {
-        if (widget != nullptr) {
-            widget->setCursor(Qt::CrossCursor);
-            startPreselection(context);
-        }
+    if (widget == nullptr) {
         return true;
     }
-    if (mode.empty()) {
-        if (widget != nullptr) {
-            widget->setCursor(Qt::ArrowCursor);
-            if (preselectionSent) {
-                // Deliberate: without an outstanding report the tool stays in mode "tool".
-                preselectionActive = false;
-                stopPreselection();
-            }
-        }
-        return true;
+    widget->setCursor(isToolMode ? Qt::CrossCursor : Qt::ArrowCursor);
+    if (isToolMode) {
+        startPreselection(context);
+    } else if (preselectionSent) {
+        preselectionActive = false;
+        stopPreselection();
     }
-    return false;
-}
-
-void nbSceneplatePickTool::activateTool(ToolInteractionContext* context)
-{
-    AbstractInteractionTool::activateTool(context);
-}
-
-void nbSceneplatePickTool::deactivateTool(ToolInteractionContext* context)
-{
-    AbstractInteractionTool::deactivateTool(context);
+    return true;
 }
 
 bool nbSceneplatePickTool::startTool(ToolInteractionContext* context, const std::string& hint)
 {
-    return isSelectionHint(hint) && processSelection(context, hint);
+    return nbSceneplatePickTool::processTool(context, hint);
 }
 
 bool nbSceneplatePickTool::processTool(ToolInteractionContext* context, const std::string& hint)
@@ -123,13 +86,6 @@ bool nbSceneplatePickTool::stopHoverTool(ToolInteractionContext* /*context*/,
     return true;
 }
 
-// == Settings
-
-void nbSceneplatePickTool::setMessageReceiver(const std::string& receiver)
-{
-    messageReceiver = receiver;
-}
-
 osg::SceneplatePtr nbSceneplatePickTool::getSceneplate() const
 {
     return nbec::manipulator::resolveContainer<osg::SceneplatePtr>(sceneplateId);
@@ -145,15 +101,10 @@ bool nbSceneplatePickTool::isSelectionHint(const std::string& hint)
 
 bool nbSceneplatePickTool::hoverSelection(ToolInteractionContext* context)
 {
-    if (!nbScenegraph::isPreselectionEnabled()) {
-        return false;
-    }
     const bool reports = nbOSGWidget::getInteractionMode() != 0 || preselectionActive;
-    if (!reports || nbController::getPresenterMode()) {
-        return false;
-    }
     Picker* const picker = pickerOf(context);
-    if (picker == nullptr) {
+    if (!nbScenegraph::isPreselectionEnabled() || !reports || nbController::getPresenterMode() ||
+        picker == nullptr) {
         return false;
     }
     const osg::NodePtr hovered = picker->pick();
@@ -170,7 +121,9 @@ bool nbSceneplatePickTool::processSelection(ToolInteractionContext* context,
     if (picker == nullptr || widget == nullptr) {
         return false;
     }
-    if (!widget->getRectSelection() && isRectangle(widget->getMouseRect())) {
+    const QSize drag = widget->getMouseRect().size();
+    if (!widget->getRectSelection() && drag.width() >= kLeastRectangleSide &&
+        drag.height() >= kLeastRectangleSide) {
         stopPreselection();
         widget->setRectSelection(true);
     }

@@ -13,8 +13,7 @@
 /// Lets the user point at and select scene plates in the main render widget, by click or by
 /// rectangle.
 ///
-/// The tool changes no selection itself. It tells what is under the pointer and what was picked by
-/// kernel messages and leaves the rest to whoever receives them:
+/// The tool changes no selection itself but sends kernel messages:
 /// - "sceneplatePreselected" with "node" (osg::NodePtr): the plate's node under the pointer; null
 ///   over none, and to end a preselection.
 /// - "sceneplateSelected" with "nodes" (std::vector<osg::NodePtr>) and "hint" (std::string), in
@@ -30,27 +29,30 @@ class NB_MANIPULATOR_API nbSceneplatePickTool : public nbec::interaction::Abstra
 public:
     using ToolInteractionContext = nbec::interaction::ToolInteractionContext;
 
-    static const std::string s_selectHint;  ///< "select"
-    static const std::string s_deselectHint;  ///< "deselect"
-    static const std::string s_addHint;  ///< "add"
-    static const std::string s_subHint;  ///< "sub"
-    static const std::string s_toggleHint;  ///< "toggle"
+    inline static const std::string s_selectHint = "select";
+    inline static const std::string s_deselectHint = "deselect";
+    inline static const std::string s_addHint = "add";
+    inline static const std::string s_subHint = "sub";
+    inline static const std::string s_toggleHint = "toggle";
 
     nbSceneplatePickTool() = default;
+
     /// A copy takes over everything but the outstanding preselection report.
-    nbSceneplatePickTool(const nbSceneplatePickTool& other);
+    nbSceneplatePickTool(const nbSceneplatePickTool& other)
+        : AbstractInteractionTool(other)
+    {
+        *this = other;
+    }
+
     /// Takes over the same; whether a report is outstanding stays.
     nbSceneplatePickTool& operator=(const nbSceneplatePickTool& other);
 
     /// Mode "tool": cross cursor, and hovering reports from now on, beginning at once. Mode "":
     /// arrow cursor; an outstanding preselection is ended. Both do nothing without a widget.
-    /// Deliberate: mode "" ends the reports of hovering only if one is outstanding; otherwise the
-    /// tool keeps reporting in interaction mode 0.
+    /// Deliberate: without an outstanding preselection mode "" does not end the reports.
     /// @return true for these two modes, with or without a widget
     bool setToolMode(ToolInteractionContext* context, const std::string& mode) override;
-    void activateTool(ToolInteractionContext* context) override;
-    void deactivateTool(ToolInteractionContext* context) override;
-    /// Same as processTool().
+    /// The same as processTool().
     bool startTool(ToolInteractionContext* context, const std::string& hint) override;
     /// Enters the rectangle mode if the drag is large enough. @return in rectangle mode true,
     /// otherwise whether a plate is under the pointer
@@ -66,7 +68,7 @@ public:
     bool stopHoverTool(ToolInteractionContext* context, const std::string& hint) override;
 
     /// Keeps a receiver's name; the messages of this tool have fixed names and do not use it.
-    void setMessageReceiver(const std::string& receiver);
+    void setMessageReceiver(const std::string& receiver) { messageReceiver = receiver; }
 
     /// Keeps the switch, which nothing here reads.
     void setShowHitData(bool on) { showHitData = on; }
