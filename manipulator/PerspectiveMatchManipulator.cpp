@@ -2,6 +2,7 @@
 #include "manipulator/PerspectiveMatchManipulator.h"
 
 #include "manipulator/ManipulatorInteractionContext.h"
+#include "manipulator/course/PickerOf.h"
 #include "manipulator/handles/ContainerReference.h"
 #include "manipulator/match/PerspectiveMatchVisualisation.h"
 
@@ -13,6 +14,7 @@
 #include <nbKernelServices/nbScopedMultiCommand.h>
 #include <nbKernelServices/nbScopedUndo.h>
 #include <nbKernelServices/nbdPerspectiveMatch.h>
+#include <nbMagnifier/nbMagnifierRenderer.h>
 #include <nbOpenSGUberCamera/nbUberCameraPool.h>
 
 #include <QtCore/QCoreApplication>
@@ -38,11 +40,22 @@ constexpr std::array<LineAccess, match::kMatchLineCount> kLineAccess { {
     { &nbdPerspectiveMatch::getZLine2, &nbdPerspectiveMatch::setZLine2 },
 } };
 
-/// Null for no line.
-const LineAccess* accessOf(PerspectiveMatchLine line)
+/// The lines of a camera's match; without a camera empty ones.
+match::MatchLines linesOf(const nbdCameraNode& camera)
 {
-    const std::size_t index = match::matchLineIndex(line);
-    return index < kLineAccess.size() ? &kLineAccess[index] : nullptr;
+    match::MatchLines result;
+    nbCameraTypes::VanishingLinesType type {};
+    if (!camera.isNull()) {
+        const nbdPerspectiveMatch match = camera.getPerspectiveMatch();
+        type = match.getVanishingLinesType();
+        for (std::size_t i = 0; i < match::kMatchLineCount; ++i) {
+            result.lines[i] = nbQRPCConverter::toLine2D((match.*kLineAccess[i].get)());
+        }
+    }
+    for (std::size_t axis = 0; axis < match::kMatchAxisCount; ++axis) {
+        result.isAxisUsed[axis] = nbCameraTypes::usesAxis(type, static_cast<int>(axis));
+    }
+    return result;
 }
 
 /// Null without a widget.
@@ -55,48 +68,31 @@ osg::ViewportPtr viewportOf(const View& view)
 /// counts without a viewport.
 osg::Pnt2f pointerFromBelow(const View& view)
 {
-    const osg::Pnt2f& pointer = view.getPointer();
-    const osg::ViewportPtr viewport = viewportOf(view);
-    if (viewport == osg::NullFC) {
-        return pointer;
+    osg::Pnt2f pointer = view.getPointer();
+    if (const osg::ViewportPtr viewport = viewportOf(view); viewport != osg::NullFC) {
+        pointer[1] = static_cast<float>(viewport->getPixelHeight() - 1) - pointer.y();
     }
-    const auto lastRow = static_cast<float>(viewport->getPixelHeight() - 1);
-    return osg::Pnt2f(pointer.x(), lastRow - pointer.y());
-}
-
-QString commandTitle(const nbdCameraNode& camera)
-{
-    return QCoreApplication::translate("Manipulator", "Change Perspective Match lines of camera %1")
-        .arg(camera.getName(), 0, QLatin1Char(' '));
+    return pointer;
 }
 
 }  // namespace
 
-const std::array<PerspectiveMatchLine, 6> PerspectiveMatchManipulator::kLines {
-    PerspectiveMatchLine::XLine1, PerspectiveMatchLine::XLine2, PerspectiveMatchLine::YLine1,
-    PerspectiveMatchLine::YLine2, PerspectiveMatchLine::ZLine1, PerspectiveMatchLine::ZLine2
-};
 Instances<PerspectiveMatchManipulator> PerspectiveMatchManipulator::instances;
 
 PerspectiveMatchManipulator::PerspectiveMatchManipulator()
     : visualisation(std::make_unique<match::PerspectiveMatchVisualisation>())
-{
-    connectToServices();
-    instances.add(this);
-}
-
-PerspectiveMatchManipulator::~PerspectiveMatchManipulator()
-{
-    instances.remove(this);
-}
-
-void PerspectiveMatchManipulator::connectToServices() const
 {
     const auto* const service = nbKernelServiceFactory::the().get<nbObjectService>();
     if (service != nullptr) {
         connect(service, &nbObjectService::propertyChanged, this,
                 &PerspectiveMatchManipulator::propertyChanged);
     }
+    instances.add(this);
+}
+
+PerspectiveMatchManipulator::~PerspectiveMatchManipulator()
+{
+    instances.remove(this);
 }
 
 void PerspectiveMatchManipulator::setCamera(osg::UberCameraPtr camera)
@@ -137,11 +133,6 @@ osg::NodePtr PerspectiveMatchManipulator::getVisualisation()
     return visualisation->getRoot();
 }
 
-osg::NodePtr PerspectiveMatchManipulator::getCollider()
-{
-    return getVisualisation();
-}
-
 void PerspectiveMatchManipulator::update(bool force)
 {
     if (isActive() && force) {
@@ -155,25 +146,24 @@ bool PerspectiveMatchManipulator::startManipulator(ManipulatorInteractionContext
     if (!hovered) {
         return false;
     }
-    if (!updateMode()) {
-        grabbed = false;
-        return false;
+    grabbed = updateMode();
+    if (grabbed) {
+        visualisation->setDragged({ line, handle });
+        updateMagnifier();
     }
-    grabbed = true;
-    startDrag();
-    return true;
+    return grabbed;
 }
 
 bool PerspectiveMatchManipulator::processManipulator(ManipulatorInteractionContext* /*ctx*/,
                                                      const std::string& /*tool*/)
 {
     const View view(getMousePosition());
-    if (line == PerspectiveMatchLine::NoLine || handle == match::kNoPart ||
-        viewportOf(view) == osg::NullFC) {
+    if (handle == match::kNoPart || viewportOf(view) == osg::NullFC) {
         return false;
     }
     if (!dragging) {
-        prepareManipulator(view);
+        dragStart = pointerFromBelow(view);
+        lineAtDragStart = getLine(line);
         dragging = true;
         return true;
     }
@@ -187,13 +177,12 @@ bool PerspectiveMatchManipulator::stopManipulator(ManipulatorInteractionContext*
                                                   const std::string& /*tool*/)
 {
     grabbed = false;
-    stopDrag();
-    if (line == PerspectiveMatchLine::NoLine || handle == match::kNoPart) {
-        return false;
-    }
+    visualisation->setDragged({});
+    nbMagnifierRenderer::setVisible(false);
+    const bool wasHeld = handle != match::kNoPart;
     line = PerspectiveMatchLine::NoLine;
     handle = match::kNoPart;
-    return true;
+    return wasHeld;
 }
 
 bool PerspectiveMatchManipulator::hoverManipulator(ManipulatorInteractionContext* ctx,
@@ -214,7 +203,7 @@ bool PerspectiveMatchManipulator::resetManipulator(ManipulatorInteractionContext
 {
     hovered = false;
     visualisation->highlight({});
-    visualisation->showMagnifier(false);
+    nbMagnifierRenderer::setVisible(false);
     return true;
 }
 
@@ -230,12 +219,7 @@ nbdCameraNode PerspectiveMatchManipulator::getNbdCameraNode() const
 
 osg::Line2D PerspectiveMatchManipulator::getLine(PerspectiveMatchLine which) const
 {
-    const nbdCameraNode camera = getNbdCameraNode();
-    const LineAccess* const access = accessOf(which);
-    if (camera.isNull() || access == nullptr) {
-        return osg::Line2D();
-    }
-    return nbQRPCConverter::toLine2D((camera.getPerspectiveMatch().*access->get)());
+    return linesOf(getNbdCameraNode()).lines[match::matchLineIndex(which)];
 }
 
 void PerspectiveMatchManipulator::setLine(PerspectiveMatchLine which, const osg::Line2D& value)
@@ -244,23 +228,15 @@ void PerspectiveMatchManipulator::setLine(PerspectiveMatchLine which, const osg:
     if (camera.isNull() || camera.isLocked()) {
         return;
     }
+    const QString title =
+        QCoreApplication::translate("Manipulator", "Change Perspective Match lines of camera %1")
+            .arg(camera.getName(), 0, QLatin1Char(' '));
     const nbdPerspectiveMatch match = camera.getPerspectiveMatch();
-    const QLineF converted = nbQRPCConverter::fromLine2D(value);
     // Closed in reverse: the command first.
     const nbScopedUndo undo(true);
-    const nbScopedMultiCommand command(commandTitle(camera));
-    const LineAccess* const access = accessOf(which);
-    if (access != nullptr) {
-        (match.*access->set)(converted);
-    }
+    const nbScopedMultiCommand command(title);
+    (match.*kLineAccess[match::matchLineIndex(which)].set)(nbQRPCConverter::fromLine2D(value));
     camera.updateFromPerspectiveMatch();
-}
-
-nbCameraTypes::VanishingLinesType PerspectiveMatchManipulator::getVanishingLinesType() const
-{
-    const nbdCameraNode camera = getNbdCameraNode();
-    return camera.isNull() ? nbCameraTypes::VanishingLinesType(0)
-                           : camera.getPerspectiveMatch().getVanishingLinesType();
 }
 
 void PerspectiveMatchManipulator::propertyChanged(const nbdObject& object,
@@ -270,13 +246,10 @@ void PerspectiveMatchManipulator::propertyChanged(const nbdObject& object,
         return;
     }
     const nbdCameraNode camera(object);
-    if (!camera.isNull()) {
-        if (property == "fovMode" && camera.isEqual(getNbdCameraNode())) {
-            updateManipulator();
-        }
-        return;
-    }
-    if (!nbdPerspectiveMatch(object).isNull()) {
+    const bool isRedrawn = camera.isNull()
+        ? !nbdPerspectiveMatch(object).isNull()
+        : property == "fovMode" && camera.isEqual(getNbdCameraNode());
+    if (isRedrawn) {
         updateManipulator();
     }
 }
@@ -289,22 +262,13 @@ void PerspectiveMatchManipulator::updateManipulator()
         return;
     }
     visualisation->setCamera(nbUberCameraPool::get(cameraId), viewportOf(View()));
-    const nbCameraTypes::VanishingLinesType type = getVanishingLinesType();
-    for (const PerspectiveMatchLine each : kLines) {
-        visualisation->updateLine(each, getLine(each), type);
-    }
+    visualisation->setLines(linesOf(getNbdCameraNode()));
     updateMagnifierPosition();
-}
-
-void PerspectiveMatchManipulator::updateAllManipulators()
-{
-    instances.updateAll();
 }
 
 void PerspectiveMatchManipulator::takePixelRatio(ManipulatorInteractionContext* ctx)
 {
-    const interaction::Picker* const picker = ctx != nullptr ? ctx->getPicker() : nullptr;
-    if (picker != nullptr) {
+    if (const interaction::Picker* const picker = pickerOf(ctx); picker != nullptr) {
         visualisation->setPixelRatio(picker->getPixelRatio());
     }
 }
@@ -314,31 +278,11 @@ void PerspectiveMatchManipulator::takePixelRatio(ManipulatorInteractionContext* 
 /// Finds the part under the pointer. @return whether there is one
 bool PerspectiveMatchManipulator::updateMode()
 {
-    match::MatchPart found;
-    const osg::NodePtr node = visualisation->pick(pointerFromBelow(View(getMousePosition())));
-    visualisation->partOf(node, found);
+    const match::MatchPart found = visualisation->pick(pointerFromBelow(View(getMousePosition())));
     line = found.line;
     handle = found.part;
     dragging = false;
     return found.isSet();
-}
-
-void PerspectiveMatchManipulator::startDrag()
-{
-    visualisation->beginDrag({ line, handle });
-    updateMagnifier();
-}
-
-void PerspectiveMatchManipulator::stopDrag()
-{
-    visualisation->endDrag();
-    visualisation->showMagnifier(false);
-}
-
-void PerspectiveMatchManipulator::prepareManipulator(const View& view)
-{
-    dragStart = pointerFromBelow(view);
-    lineAtDragStart = getLine(line);
 }
 
 /// How far the pointer has come since the drag's start, line coordinates.
@@ -370,18 +314,15 @@ bool PerspectiveMatchManipulator::isEndHeld() const
     return handle == match::kFirstEnd || handle == match::kSecondEnd;
 }
 
+/// Shows the magnifier over a held end, and hides it otherwise.
 void PerspectiveMatchManipulator::updateMagnifier()
 {
-    updateMagnifierVisibility();
-    if (visualisation->isMagnifierShown()) {
+    nbMagnifierRenderer::setVisible(isEndHeld());
+    if (isEndHeld()) {
         updateMagnifierPosition();
-        updateMagnifierScaleFactor();
+        nbMagnifierRenderer::setMagnificationScale(
+            getNbdCameraNode().getPerspectiveMatch().getMagnifyFactor());
     }
-}
-
-void PerspectiveMatchManipulator::updateMagnifierVisibility()
-{
-    visualisation->showMagnifier(isEndHeld());
 }
 
 void PerspectiveMatchManipulator::updateMagnifierPosition()
@@ -390,14 +331,6 @@ void PerspectiveMatchManipulator::updateMagnifierPosition()
         const osg::Line2D held = getLine(line);
         visualisation->placeMagnifier(handle == match::kFirstEnd ? held.getFirst()
                                                                  : held.getSecond());
-    }
-}
-
-void PerspectiveMatchManipulator::updateMagnifierScaleFactor()
-{
-    if (isEndHeld()) {
-        visualisation->setMagnifierScale(
-            getNbdCameraNode().getPerspectiveMatch().getMagnifyFactor());
     }
 }
 

@@ -6,7 +6,6 @@
 #include "manipulator/course/Instances.h"
 #include "manipulator/drag/DragParameters.h"
 
-#include <nbKernelServices/nbCameraTypes.h>
 #include <nbKernelServices/nbdCameraNode.h>
 #include <nbKernelServices/nbdObject.h>
 #include <nbOpenSGExt/Line2D.h>
@@ -15,7 +14,6 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QObject>
 
-#include <array>
 #include <memory>
 #include <string>
 
@@ -28,36 +26,31 @@ class PerspectiveMatchVisualisation;
 /// Edits the vanishing lines of a camera's perspective match by dragging them in the view.
 ///
 /// The six lines, two along each axis of the world, are drawn over the scene with a ring around
-/// each end. A drag of a ring moves that end, a drag of the line between them the whole line; the
-/// new line is always that of the drag's start plus the pointer's way since then. Each step of a
-/// drag is written to the match as one undo step, and the host derives the camera's orientation and
-/// field of view from the lines. While an end is held a magnifier shows what lies under it.
+/// each end. A drag of a ring moves that end, a drag of the line between them the whole line. Each
+/// step of a drag is written to the match as one undo step, and the host derives the camera's
+/// orientation and field of view from the lines. While an end is held a magnifier shows what lies
+/// under it.
 ///
 /// Line coordinates have their origin in the lower left corner of the main render widget's
 /// viewport and y up; their unit is the viewport's height for a camera that is sized vertically,
 /// otherwise its width. Ends come before lines under the pointer and the nearest wins, within 4
-/// logical pixels of what is drawn. Lines of axes that the match's vanishing-lines type does not
-/// use are drawn faintly and can be moved all the same.
-///
-/// The overlay is found by this manipulator alone, not by the context's picker; that one only says
-/// how many device pixels a logical pixel has.
+/// logical pixels of what is drawn; the context's picker only says how many device pixels such a
+/// pixel has. Lines of axes that the match's vanishing-lines type does not use are drawn faintly
+/// and can be moved all the same.
 ///
 /// The camera is held by its container id: one that is gone reads as none. A locked camera node
 /// refuses edits silently. Changes of a match that are made elsewhere are drawn when the host's
 /// object service announces them.
 ///
 /// It takes no Gizmo's course: it finds its parts itself and not by a picker, a grab needs a hover
-/// before it, nothing is placed in the world, and every step is an undo step of its own. A step of
-/// a drag has the same two halves all the same: the pointer gives an offset in line coordinates,
-/// and applying that to the line of the drag's start is all that edits.
+/// before it, nothing is placed in the world, and every step is an undo step of its own.
 class NB_MANIPULATOR_API PerspectiveMatchManipulator : public QObject, public AbstractManipulator
 {
     Q_OBJECT
 
 public:
-    /// Builds the overlay, hidden, connects to the host's object service and joins the list of live
-    /// instances. Without that service it says so on standard error, and changes made elsewhere are
-    /// not drawn.
+    /// Builds the overlay, hidden. Without the host's object service it says so on standard error,
+    /// and changes made elsewhere are not drawn.
     PerspectiveMatchManipulator();
     PerspectiveMatchManipulator(const PerspectiveMatchManipulator&) = delete;
     PerspectiveMatchManipulator& operator=(const PerspectiveMatchManipulator&) = delete;
@@ -68,8 +61,10 @@ public:
     void deactivate(ManipulatorInteractionContext* ctx) override;
     /// Root of the overlay.
     osg::NodePtr getVisualisation() override;
+
     /// The same.
-    osg::NodePtr getCollider() override;
+    osg::NodePtr getCollider() override { return getVisualisation(); }
+
     /// Draws the lines anew, if active. @param force  false does nothing
     void update(bool force) override;
 
@@ -85,7 +80,6 @@ public:
     /// Ends hovering. @return true
     bool resetManipulator(ManipulatorInteractionContext* ctx, const std::string& tool) override;
 
-    /// Unregisters the instance and releases the overlay.
     ~PerspectiveMatchManipulator() override;
 
     /// Sets the camera whose lines are shown. @param camera  null shows none; no count is held
@@ -103,31 +97,23 @@ public:
 private:
     friend struct Instances<PerspectiveMatchManipulator>;
 
-    void connectToServices() const;
     Q_SLOT void propertyChanged(const nbdObject& object, const QByteArray& property);
     void updateManipulator();
     nbdCameraNode getNbdCameraNode() const;
     osg::Line2D getLine(PerspectiveMatchLine which) const;
     void setLine(PerspectiveMatchLine which, const osg::Line2D& value);
-    nbCameraTypes::VanishingLinesType getVanishingLinesType() const;
 
     bool updateMode();
-    void prepareManipulator(const View& view);
     DragParameters parametersAt(const View& view) const;
     void apply(const DragParameters& parameters);
-    void startDrag();
-    void stopDrag();
     void takePixelRatio(ManipulatorInteractionContext* ctx);
 
     bool isEndHeld() const;
     void updateMagnifier();
-    void updateMagnifierVisibility();
     void updateMagnifierPosition();
-    void updateMagnifierScaleFactor();
 
-    static void updateAllManipulators();
+    static void updateAllManipulators() { instances.updateAll(); }
 
-    static const std::array<PerspectiveMatchLine, 6> kLines;
     static Instances<PerspectiveMatchManipulator> instances;
 
     osg::UInt32 cameraId = 0;

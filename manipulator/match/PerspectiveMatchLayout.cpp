@@ -9,6 +9,8 @@ namespace nbec::manipulator::match {
 
 namespace {
 
+using Kind = VanishingPoint::Kind;
+
 constexpr double kDashPx = 8.0;
 constexpr double kGapPx = 6.0;
 constexpr double kHorizonDashPx = 18.0;
@@ -59,11 +61,6 @@ float distanceToSegment(const osg::Pnt2f& a, const osg::Pnt2f& b, const osg::Pnt
     return (point - (a + along * place)).length();
 }
 
-osg::Pnt2f inPixels(const osg::Pnt2f& point, const MatchView& view)
-{
-    return osg::Pnt2f(point.x() * view.referencePx, point.y() * view.referencePx);
-}
-
 // == Guides
 
 /// A straight course in pixels, from a parameter to another; both may be infinite.
@@ -90,24 +87,18 @@ void cutTo(Course& course, double origin, double direction, double size)
     course.end = std::min(course.end, std::max(atLow, atHigh));
 }
 
-/// Collects segments that are given in pixels.
+/// Collects the segments of one guide, which are given in pixels.
 class SegmentWriter
 {
 public:
-    explicit SegmentWriter(const MatchView& matchView)
+    SegmentWriter(const MatchView& matchView, MatchGuides::Segments& target)
         : view(matchView)
+        , segments(target)
     { }
-
-    void addSegment(MatchGuides::Segments& segments, const osg::Vec2d& from,
-                    const osg::Vec2d& to) const
-    {
-        segments.push_back(toLineUnits(from));
-        segments.push_back(toLineUnits(to));
-    }
 
     /// Dashes along the part of a course that is in view. They keep their places along the course,
     /// wherever the view cuts it.
-    void addDashes(MatchGuides::Segments& segments, const Course& course, double dashPx) const
+    void addDashes(const Course& course, double dashPx) const
     {
         Course seen = course;
         cutTo(seen, course.origin.x(), course.direction.x(), view.widthPx);
@@ -124,38 +115,40 @@ public:
             const double from = std::max(dash, seen.begin);
             const double to = std::min(dash + dashPx * view.pixelRatio, seen.end);
             if (from < to) {
-                addSegment(segments, course.origin + course.direction * from,
+                addSegment(course.origin + course.direction * from,
                            course.origin + course.direction * to);
             }
         }
     }
 
-    void addCross(MatchGuides::Segments& segments, const osg::Vec2d& centre) const
+    void addCross(const osg::Vec2d& centre) const
     {
         const double arm = kCrossArmPx * view.pixelRatio;
         if (centre.x() < -arm || centre.x() > view.widthPx + arm || centre.y() < -arm ||
             centre.y() > view.heightPx + arm) {
             return;
         }
-        addSegment(segments, centre - osg::Vec2d(arm, arm), centre + osg::Vec2d(arm, arm));
-        addSegment(segments, centre - osg::Vec2d(arm, -arm), centre + osg::Vec2d(arm, -arm));
+        addSegment(centre - osg::Vec2d(arm, arm), centre + osg::Vec2d(arm, arm));
+        addSegment(centre - osg::Vec2d(arm, -arm), centre + osg::Vec2d(arm, -arm));
     }
 
 private:
-    osg::Pnt3f toLineUnits(const osg::Vec2d& pointPx) const
+    void addSegment(const osg::Vec2d& fromPx, const osg::Vec2d& toPx) const
     {
         const double unit = 1.0 / view.referencePx;
-        return osg::Pnt3f(static_cast<float>(pointPx.x() * unit),
-                          static_cast<float>(pointPx.y() * unit), 0.0F);
+        for (const osg::Vec2d& end : { fromPx * unit, toPx * unit }) {
+            segments.emplace_back(static_cast<float>(end.x()), static_cast<float>(end.y()), 0.0F);
+        }
     }
 
     const MatchView& view;
+    MatchGuides::Segments& segments;
 };
 
 /// Extends a line from the end that is nearer to its vanishing point up to that; both ends, if it
 /// vanishes at infinity.
-void extend(const SegmentWriter& writer, MatchGuides::Segments& segments, const osg::Line2D& line,
-            const VanishingPoint& vanishing, double referencePx)
+void extend(const SegmentWriter& writer, const osg::Line2D& line, const VanishingPoint& vanishing,
+            double referencePx)
 {
     const osg::Vec2d first = toDouble(line.getFirst()) * referencePx;
     const osg::Vec2d second = toDouble(line.getSecond()) * referencePx;
@@ -163,23 +156,22 @@ void extend(const SegmentWriter& writer, MatchGuides::Segments& segments, const 
     const double length = along.length();
     along *= 1.0 / length;
     const osg::Vec2d back = along * -1.0;
-    if (vanishing.kind == VanishingPoint::Kind::Direction) {
-        writer.addDashes(segments, Course { first, back, 0.0, kInfinity }, kDashPx);
-        writer.addDashes(segments, Course { second, along, 0.0, kInfinity }, kDashPx);
+    if (vanishing.kind == Kind::Direction) {
+        writer.addDashes(Course { first, back, 0.0, kInfinity }, kDashPx);
+        writer.addDashes(Course { second, along, 0.0, kInfinity }, kDashPx);
         return;
     }
     const double place = (vanishing.place * referencePx - first).dot(along);
     if (place > length) {
-        writer.addDashes(segments, Course { second, along, 0.0, place - length }, kDashPx);
+        writer.addDashes(Course { second, along, 0.0, place - length }, kDashPx);
     } else if (place < 0.0) {
-        writer.addDashes(segments, Course { first, back, 0.0, -place }, kDashPx);
+        writer.addDashes(Course { first, back, 0.0, -place }, kDashPx);
     }
 }
 
-void addHorizon(const SegmentWriter& writer, MatchGuides::Segments& segments,
-                const VanishingPoint& one, const VanishingPoint& other, double referencePx)
+void addHorizon(const SegmentWriter& writer, const VanishingPoint& one, const VanishingPoint& other,
+                double referencePx)
 {
-    using Kind = VanishingPoint::Kind;
     if (one.kind == Kind::None || other.kind == Kind::None ||
         (one.kind == Kind::Direction && other.kind == Kind::Direction)) {
         return;
@@ -190,8 +182,7 @@ void addHorizon(const SegmentWriter& writer, MatchGuides::Segments& segments,
     const double length = along.length();
     if (length > 0.0) {
         along *= 1.0 / length;
-        writer.addDashes(segments,
-                         Course { point.place * referencePx, along, -kInfinity, kInfinity },
+        writer.addDashes(Course { point.place * referencePx, along, -kInfinity, kInfinity },
                          kHorizonDashPx);
     }
 }
@@ -229,8 +220,8 @@ MatchPart partUnderPointer(const MatchLines& lines, const MatchView& view,
         }
         const auto number = static_cast<PerspectiveMatchLine>(i + 1);
         const bool counts = lines.isAxisUsed[matchAxisOfLine(i)];
-        const osg::Pnt2f first = inPixels(line.getFirst(), view);
-        const osg::Pnt2f second = inPixels(line.getSecond(), view);
+        const osg::Pnt2f first = line.getFirst() * view.referencePx;
+        const osg::Pnt2f second = line.getSecond() * view.referencePx;
         end.offer((pointerPx - first).length(), counts, { number, kFirstEnd });
         end.offer((pointerPx - second).length(), counts, { number, kSecondEnd });
         body.offer(distanceToSegment(first, second, pointerPx), counts, { number, kLineBody });
@@ -238,42 +229,36 @@ MatchPart partUnderPointer(const MatchLines& lines, const MatchView& view,
     if (end.distancePx <= (kEndRadiusPx + kHitTolerancePx) * view.pixelRatio) {
         return end.hit;
     }
-    if (body.distancePx <= (0.5F * kLineWidthPx + kHitTolerancePx) * view.pixelRatio) {
-        return body.hit;
-    }
-    return MatchPart();
+    const bool isHit = body.distancePx <= (0.5F * kLineWidthPx + kHitTolerancePx) * view.pixelRatio;
+    return isHit ? body.hit : MatchPart();
 }
 
 VanishingPoint vanishingPointOf(const osg::Line2D& first, const osg::Line2D& second)
 {
-    VanishingPoint result;
     if (!isMatchLineShown(first) || !isMatchLineShown(second)) {
-        return result;
+        return {};
     }
     const osg::Vec2d start = toDouble(first.getFirst());
     osg::Vec2d along = toDouble(first.getSecond()) - start;
-    const osg::Vec2d otherStart = toDouble(second.getFirst());
-    osg::Vec2d otherAlong = toDouble(second.getSecond()) - otherStart;
+    const osg::Vec2d between = toDouble(second.getFirst()) - start;
+    osg::Vec2d otherAlong = toDouble(second.getSecond()) - toDouble(second.getFirst());
     const double length = along.length();
     const double otherLength = otherAlong.length();
     if (!(length > 0.0) || !(otherLength > 0.0)) {
-        return result;
+        return {};
     }
     along *= 1.0 / length;
     otherAlong *= 1.0 / otherLength;
     const double sine = cross(along, otherAlong);
-    const osg::Vec2d between = otherStart - start;
     if (std::fabs(sine) < kParallelSine) {
         const bool isSameLine = std::fabs(cross(along, between)) < kParallelSine;
-        result.kind = isSameLine ? VanishingPoint::Kind::None : VanishingPoint::Kind::Direction;
-        result.place = along;
-        return result;
+        return { isSameLine ? Kind::None : Kind::Direction, along };
     }
     const osg::Vec2d meeting = start + along * (cross(between, otherAlong) / sine);
-    const bool isFar = meeting.length() > kFarthestVanishingPoint;
-    result.kind = isFar ? VanishingPoint::Kind::Direction : VanishingPoint::Kind::Point;
-    result.place = isFar ? along : meeting;
-    return result;
+    if (meeting.length() > kFarthestVanishingPoint) {
+        return { Kind::Direction, along };
+    }
+    return { Kind::Point, meeting };
 }
 
 MatchGuides makeMatchGuides(const MatchLines& lines, const MatchView& view, std::size_t upAxis)
@@ -282,7 +267,6 @@ MatchGuides makeMatchGuides(const MatchLines& lines, const MatchView& view, std:
     if (!view.hasArea()) {
         return guides;
     }
-    const SegmentWriter writer(view);
     const double referencePx = view.referencePx;
     std::array<VanishingPoint, kMatchAxisCount> vanishing;
     for (std::size_t axis = 0; axis < kMatchAxisCount; ++axis) {
@@ -291,16 +275,18 @@ MatchGuides makeMatchGuides(const MatchLines& lines, const MatchView& view, std:
         if (lines.isAxisUsed[axis]) {
             vanishing[axis] = vanishingPointOf(first, second);
         }
-        if (vanishing[axis].kind == VanishingPoint::Kind::None) {
+        if (vanishing[axis].kind == Kind::None) {
             continue;
         }
-        extend(writer, guides.axes[axis], first, vanishing[axis], referencePx);
-        extend(writer, guides.axes[axis], second, vanishing[axis], referencePx);
-        if (vanishing[axis].kind == VanishingPoint::Kind::Point) {
-            writer.addCross(guides.axes[axis], vanishing[axis].place * referencePx);
+        const SegmentWriter writer(view, guides.axes[axis]);
+        extend(writer, first, vanishing[axis], referencePx);
+        extend(writer, second, vanishing[axis], referencePx);
+        if (vanishing[axis].kind == Kind::Point) {
+            writer.addCross(vanishing[axis].place * referencePx);
         }
     }
-    addHorizon(writer, guides.horizon, vanishing[0], vanishing[3 - upAxis], referencePx);
+    addHorizon(SegmentWriter(view, guides.horizon), vanishing[0], vanishing[3 - upAxis],
+               referencePx);
     return guides;
 }
 

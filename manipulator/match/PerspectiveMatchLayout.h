@@ -82,9 +82,8 @@ constexpr std::size_t matchAxisOfLine(std::size_t lineIndex)
     return lineIndex / 2;
 }
 
-/// Whether a line can be drawn: its coordinates are finite and not all of them 0, as those of the
-/// line of a camera without a match are. A line whose ends coincide elsewhere is shown, so that
-/// they can be pulled apart again.
+/// Whether a line can be drawn: its coordinates are finite and not all of them 0. A line whose ends
+/// coincide elsewhere is shown, so that they can be pulled apart again.
 bool isMatchLineShown(const osg::Line2D& line);
 
 /// The matrix that brings line coordinates to clip space: 4x4, column vectors, depth 0 for z = 0.

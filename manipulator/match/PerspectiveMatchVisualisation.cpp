@@ -3,7 +3,6 @@
 
 #include "manipulator/handles/HandleGroup.h"
 #include "manipulator/handles/HandleMaterials.h"
-#include "manipulator/handles/HandleNodes.h"
 #include "manipulator/nbManipulatorMaterials.h"
 
 #include <nbMagnifier/nbMagnifierRenderer.h>
@@ -12,6 +11,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace nbec::manipulator::match {
 
@@ -30,48 +30,38 @@ constexpr float kUnusedWidthPx = 1.0F;
 constexpr float kUnusedGrey = 0.6F;
 constexpr float kUnusedGreyPart = 0.5F;
 
-struct ColorRow
+struct PenRow
 {
     float red, green, blue;
+    float widthPx;
+    int sortKey;
 };
 
-/// Of the axes x, y and z. Lighter than pure, so that blue stands out from dark photographs.
-constexpr std::array<ColorRow, kMatchAxisCount> kAxisColors {
-    { { 1.0F, 0.2F, 0.2F }, { 0.1F, 0.75F, 0.15F }, { 0.25F, 0.5F, 1.0F } }
-};
-constexpr ColorRow kHighlightColor { 1.0F, 0.6F, 0.0F };
-
-osg::Color4f opaque(const ColorRow& row)
-{
-    return osg::Color4f(row.red, row.green, row.blue, 1.0F);
-}
-
-ColorRow faint(const ColorRow& row)
-{
-    const float own = 1.0F - kUnusedGreyPart;
-    const float grey = kUnusedGreyPart * kUnusedGrey;
-    return { own * row.red + grey, own * row.green + grey, own * row.blue + grey };
-}
+/// Of the axes x, y and z, lighter than pure, so that blue stands out from dark photographs; then
+/// the highlight.
+constexpr PenRow kPens[] = { { 1.0F, 0.2F, 0.2F, kLineWidthPx, handleSortKey::kSolid },
+                             { 0.1F, 0.75F, 0.15F, kLineWidthPx, handleSortKey::kSolid },
+                             { 0.25F, 0.5F, 1.0F, kLineWidthPx, handleSortKey::kSolid },
+                             { 1.0F, 0.6F, 0.0F, kHighlightWidthPx, handleSortKey::kHandlePass } };
+constexpr std::size_t kHighlightPen = kMatchAxisCount;
 
 /// A circle of radius 1 around the origin in the xy plane, as pairs of ends.
 MatchGuides::Segments unitCircle()
 {
     constexpr double kFullTurn = 6.28318530717958647692;
-    const auto corner = [](std::size_t i) {
-        const double angle = kFullTurn * static_cast<double>(i % kRingSegments) / kRingSegments;
-        return osg::Pnt3f(static_cast<float>(std::cos(angle)), static_cast<float>(std::sin(angle)),
-                          0.0F);
-    };
     MatchGuides::Segments segments;
-    for (std::size_t i = 0; i < kRingSegments; ++i) {
-        segments.push_back(corner(i));
-        segments.push_back(corner(i + 1));
+    for (std::size_t i = 0; i < 2 * kRingSegments; ++i) {
+        const std::size_t corner = (i + 1) / 2 % kRingSegments;
+        const double angle = kFullTurn * static_cast<double>(corner) / kRingSegments;
+        segments.emplace_back(static_cast<float>(std::cos(angle)),
+                              static_cast<float>(std::sin(angle)), 0.0F);
     }
     return segments;
 }
 
-void setSegments(const osg::GeometryPtr& geometry, const MatchGuides::Segments& segments)
+void setSegments(const osg::NodePtr& node, const MatchGuides::Segments& segments)
 {
+    const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(node->getCore());
     const osg::GeoPositionsPtr positions = geometry->getPositions();
     const osg::GeoPLengthsPtr lengths = geometry->getLengths();
     const nbEdit edit(geometry,
@@ -88,11 +78,6 @@ void setSegments(const osg::GeometryPtr& geometry, const MatchGuides::Segments& 
     }
 }
 
-osg::GeometryPtr geometryOf(const osg::NodePtr& node)
-{
-    return osg::GeometryPtr::dcast(node->getCore());
-}
-
 osg::Pnt3f inPlane(const osg::Pnt2f& point)
 {
     return osg::Pnt3f(point.x(), point.y(), 0.0F);
@@ -104,17 +89,22 @@ osg::Pnt3f inPlane(const osg::Pnt2f& point)
 
 PerspectiveMatchVisualisation::PerspectiveMatchVisualisation()
     : root(makeHandleRoot())
-    , highlightPen(makePen(opaque(kHighlightColor), kHighlightWidthPx, handleSortKey::kHandlePass))
 {
-    for (std::size_t axis = 0; axis < kMatchAxisCount; ++axis) {
-        axisPens[axis] = makePen(opaque(kAxisColors[axis]), kLineWidthPx, handleSortKey::kSolid);
-        guideNodes[axis] = makeNode(makeLineGeometry({}));
-        setGeometryMaterial(guideNodes[axis], axisPens[axis].material.get());
-        addChild(root.get(), guideNodes[axis]);
+    for (std::size_t i = 0; i < kPenCount; ++i) {
+        const PenRow& row = kPens[i];
+        // It comes with a count, which the pen's own replaces.
+        osg::ChunkMaterialPtr made = nbManipulatorMaterials::createProjectionMaterial(
+            osg::Color4f(row.red, row.green, row.blue, 1.0F), row.sortKey);
+        Pen& pen = pens[i];
+        pen.material = made;
+        osg::subRefCP(made);
+        pen.shader = osg::SHLChunkPtr::dcast(pen.material->find(osg::SHLChunk::getClassType()));
+        pen.line = makeLineChunk(row.widthPx);
+        const nbEdit edit(pen.material.get(), osg::ChunkMaterial::ChunksFieldMask);
+        pen.material->addChunk(pen.line);
+        guideNodes[i] = addLines();
+        setGeometryMaterial(guideNodes[i], pen.material.get());
     }
-    horizonNode = makeNode(makeLineGeometry({}));
-    setGeometryMaterial(horizonNode, highlightPen.material.get());
-    addChild(root.get(), horizonNode);
     const osg::RefPtr<osg::GeometryPtr> ring(makeLineGeometry(unitCircle()));
     for (LineNodes& nodes : lineNodes) {
         buildLine(nodes, ring.get());
@@ -125,44 +115,29 @@ PerspectiveMatchVisualisation::PerspectiveMatchVisualisation()
         placeLine(i);
     }
     updateGuides();
-    showNode(root.get(), false);
+    show(false);
 }
 
-PerspectiveMatchVisualisation::Pen
-PerspectiveMatchVisualisation::makePen(const osg::Color4f& color, float widthPx, int sortKey)
+/// Appends an empty set of lines to the root.
+osg::NodePtr PerspectiveMatchVisualisation::addLines() const
 {
-    Pen pen;
-    // It comes with a count, which the pen's own replaces.
-    osg::ChunkMaterialPtr made = nbManipulatorMaterials::createProjectionMaterial(color, sortKey);
-    pen.material = made;
-    osg::subRefCP(made);
-    pen.shader = osg::SHLChunkPtr::dcast(pen.material->find(osg::SHLChunk::getClassType()));
-    pen.line = makeLineChunk(widthPx);
-    const nbEdit edit(pen.material.get(), osg::ChunkMaterial::ChunksFieldMask);
-    pen.material->addChunk(pen.line);
-    return pen;
+    const osg::NodePtr lines = makeNode(makeLineGeometry({}));
+    addChild(root.get(), lines);
+    return lines;
 }
 
 void PerspectiveMatchVisualisation::buildLine(LineNodes& nodes, const osg::GeometryPtr& ring) const
 {
-    nodes.body = makeNode(makeLineGeometry({}));
-    addChild(root.get(), nodes.body);
-    for (std::size_t end = 0; end < nodes.rings.size(); ++end) {
-        nodes.rings[end] = makeSharingNode(ring);
+    nodes.parts[0] = addLines();
+    for (std::size_t end = 0; end < nodes.places.size(); ++end) {
+        nodes.parts[1 + end] = makeSharingNode(ring);
         const osg::NodePtr place = makePlacedNode(osg::Vec3f(), osg::Quaternion());
         nodes.places[end] = osg::ComponentTransformPtr::dcast(place->getCore());
-        addChild(place, nodes.rings[end]);
-        addChild(root.get(), place);
+        addChild(root.get(), addChild(place, nodes.parts[1 + end]));
     }
 }
 
 // == What is shown
-
-void PerspectiveMatchVisualisation::show(bool visible)
-{
-    shown = visible;
-    showNode(root.get(), visible);
-}
 
 void PerspectiveMatchVisualisation::setPixelRatio(float ratio)
 {
@@ -200,9 +175,9 @@ void PerspectiveMatchVisualisation::setView(const MatchView& newView)
     }
     view = newView;
     const osg::Matrix clipFromLine = clipFromLineUnits(view);
-    for (const Pen* pen : { &axisPens[0], &axisPens[1], &axisPens[2], &highlightPen }) {
-        const nbEdit edit(pen->shader, osg::FieldBits::AllFields);
-        pen->shader->setUniformParameter("viewProjectionMatrix", clipFromLine);
+    for (const Pen& pen : pens) {
+        const nbEdit edit(pen.shader, osg::FieldBits::AllFields);
+        pen.shader->setUniformParameter("viewProjectionMatrix", clipFromLine);
     }
     for (std::size_t i = 0; i < kMatchLineCount; ++i) {
         placeLine(i);
@@ -210,23 +185,20 @@ void PerspectiveMatchVisualisation::setView(const MatchView& newView)
     updateGuides();
 }
 
-void PerspectiveMatchVisualisation::updateLine(PerspectiveMatchLine line, const osg::Line2D& value,
-                                               nbCameraTypes::VanishingLinesType type)
+void PerspectiveMatchVisualisation::setLines(const MatchLines& lines)
 {
-    const std::size_t index = matchLineIndex(line);
-    const std::size_t axis = matchAxisOfLine(index);
-    const bool isUsed = nbCameraTypes::usesAxis(type, static_cast<int>(axis));
-    const bool changesUse = match.isAxisUsed[axis] != isUsed;
-    const bool changesPlace = match.lines[index] != value;
-    if (changesUse) {
-        match.isAxisUsed[axis] = isUsed;
-        styleAxis(axis);
+    const MatchLines before = std::exchange(match, lines);
+    for (std::size_t axis = 0; axis < kMatchAxisCount; ++axis) {
+        if (match.isAxisUsed[axis] != before.isAxisUsed[axis]) {
+            styleAxis(axis);
+        }
     }
-    if (changesPlace) {
-        match.lines[index] = value;
-        placeLine(index);
+    for (std::size_t i = 0; i < kMatchLineCount; ++i) {
+        if (match.lines[i] != before.lines[i]) {
+            placeLine(i);
+        }
     }
-    if (changesUse || changesPlace) {
+    if (match.isAxisUsed != before.isAxisUsed || match.lines != before.lines) {
         updateGuides();
     }
 }
@@ -236,14 +208,13 @@ void PerspectiveMatchVisualisation::placeLine(std::size_t index)
     const LineNodes& nodes = lineNodes[index];
     const osg::Line2D& line = match.lines[index];
     const bool visible = view.hasArea() && isMatchLineShown(line);
-    showNode(nodes.body, visible);
-    for (const osg::NodePtr& ring : nodes.rings) {
-        showNode(ring, visible);
+    for (const osg::NodePtr& part : nodes.parts) {
+        showNode(part, visible);
     }
     if (!visible) {
         return;
     }
-    setSegments(geometryOf(nodes.body), { inPlane(line.getFirst()), inPlane(line.getSecond()) });
+    setSegments(nodes.parts[0], { inPlane(line.getFirst()), inPlane(line.getSecond()) });
     const float radius = kEndRadiusPx * view.pixelRatio / view.referencePx;
     for (std::size_t end = 0; end < nodes.places.size(); ++end) {
         const osg::Pnt2f& point = end == 0 ? line.getFirst() : line.getSecond();
@@ -257,11 +228,15 @@ void PerspectiveMatchVisualisation::placeLine(std::size_t index)
 
 void PerspectiveMatchVisualisation::styleAxis(std::size_t axis)
 {
-    const Pen& pen = axisPens[axis];
     const bool isUsed = match.isAxisUsed[axis];
-    const ColorRow color = isUsed ? kAxisColors[axis] : faint(kAxisColors[axis]);
+    const float own = isUsed ? 1.0F : 1.0F - kUnusedGreyPart;
+    const float grey = isUsed ? 0.0F : kUnusedGreyPart * kUnusedGrey;
+    const PenRow& row = kPens[axis];
+    const Pen& pen = pens[axis];
     const nbEdit shaderEdit(pen.shader, osg::FieldBits::AllFields);
-    pen.shader->setUniformParameter("color", osg::Vec4f(color.red, color.green, color.blue, 1.0F));
+    pen.shader->setUniformParameter(
+        "color",
+        osg::Vec4f(own * row.red + grey, own * row.green + grey, own * row.blue + grey, 1.0F));
     const nbEdit lineEdit(pen.line, osg::LineChunk::WidthFieldMask);
     pen.line->setWidth(isUsed ? kLineWidthPx : kUnusedWidthPx);
 }
@@ -271,16 +246,11 @@ void PerspectiveMatchVisualisation::applyPens()
     const MatchPart& bright = dragged.isSet() ? dragged : highlighted;
     for (std::size_t i = 0; i < kMatchLineCount; ++i) {
         const bool isLine = bright.isSet() && matchLineIndex(bright.line) == i;
-        const bool isBody = isLine && bright.part == kLineBody;
-        const auto& axisPen = axisPens[matchAxisOfLine(i)].material;
-        const auto pick = [&](bool isBright) {
-            return osg::MaterialPtr(isBright ? highlightPen.material.get() : axisPen.get());
-        };
-        setGeometryMaterial(lineNodes[i].body, pick(isBody));
-        setGeometryMaterial(lineNodes[i].rings[0],
-                            pick(isBody || (isLine && bright.part == kFirstEnd)));
-        setGeometryMaterial(lineNodes[i].rings[1],
-                            pick(isBody || (isLine && bright.part == kSecondEnd)));
+        for (osg::UInt32 part = kLineBody; part <= kSecondEnd; ++part) {
+            const bool isBright = isLine && (bright.part == kLineBody || bright.part == part);
+            const Pen& pen = pens[isBright ? kHighlightPen : matchAxisOfLine(i)];
+            setGeometryMaterial(lineNodes[i].parts[part - kLineBody], pen.material.get());
+        }
     }
 }
 
@@ -288,50 +258,24 @@ void PerspectiveMatchVisualisation::updateGuides()
 {
     const MatchGuides guides =
         dragged.isSet() ? makeMatchGuides(match, view, upAxis) : MatchGuides();
-    const auto apply = [](const osg::NodePtr& node, const MatchGuides::Segments& segments) {
-        showNode(node, !segments.empty());
+    for (std::size_t i = 0; i < kPenCount; ++i) {
+        const MatchGuides::Segments& segments =
+            i < kMatchAxisCount ? guides.axes[i] : guides.horizon;
+        showNode(guideNodes[i], !segments.empty());
         if (!segments.empty()) {
-            setSegments(geometryOf(node), segments);
+            setSegments(guideNodes[i], segments);
         }
-    };
-    for (std::size_t axis = 0; axis < kMatchAxisCount; ++axis) {
-        apply(guideNodes[axis], guides.axes[axis]);
     }
-    apply(horizonNode, guides.horizon);
 }
 
 // == Parts
 
-osg::NodePtr PerspectiveMatchVisualisation::pick(const osg::Pnt2f& pointerPx) const
+MatchPart PerspectiveMatchVisualisation::pick(const osg::Pnt2f& pointerPx) const
 {
     constexpr float kPixelCentre = 0.5F;
-    const osg::Vec2f toCentre(kPixelCentre, kPixelCentre);
-    const MatchPart part =
-        shown ? partUnderPointer(match, view, pointerPx + toCentre) : MatchPart();
-    if (!part.isSet()) {
-        return osg::NodePtr();
-    }
-    const LineNodes& nodes = lineNodes[matchLineIndex(part.line)];
-    return part.part == kLineBody ? nodes.body : nodes.rings[part.part == kFirstEnd ? 0 : 1];
-}
-
-bool PerspectiveMatchVisualisation::partOf(const osg::NodePtr& node, MatchPart& part) const
-{
-    if (node == osg::NullFC) {
-        return false;
-    }
-    for (std::size_t i = 0; i < kMatchLineCount; ++i) {
-        const LineNodes& nodes = lineNodes[i];
-        const osg::UInt32 found = node == nodes.body ? kLineBody
-            : node == nodes.rings[0]                 ? kFirstEnd
-            : node == nodes.rings[1]                 ? kSecondEnd
-                                                     : kNoPart;
-        if (found != kNoPart) {
-            part = MatchPart { static_cast<PerspectiveMatchLine>(i + 1), found };
-            return true;
-        }
-    }
-    return false;
+    return root->getTravMask() != 0
+        ? partUnderPointer(match, view, pointerPx + osg::Vec2f(kPixelCentre, kPixelCentre))
+        : MatchPart();
 }
 
 void PerspectiveMatchVisualisation::highlight(const MatchPart& part)
@@ -340,29 +284,14 @@ void PerspectiveMatchVisualisation::highlight(const MatchPart& part)
     applyPens();
 }
 
-void PerspectiveMatchVisualisation::beginDrag(const MatchPart& part)
+void PerspectiveMatchVisualisation::setDragged(const MatchPart& part)
 {
     dragged = part;
     applyPens();
     updateGuides();
 }
 
-void PerspectiveMatchVisualisation::endDrag()
-{
-    beginDrag(MatchPart());
-}
-
 // == Magnifier and units
-
-void PerspectiveMatchVisualisation::showMagnifier(bool visible)
-{
-    nbMagnifierRenderer::setVisible(visible);
-}
-
-bool PerspectiveMatchVisualisation::isMagnifierShown() const
-{
-    return nbMagnifierRenderer::isVisible();
-}
 
 void PerspectiveMatchVisualisation::placeMagnifier(const osg::Pnt2f& point) const
 {
@@ -374,11 +303,6 @@ void PerspectiveMatchVisualisation::placeMagnifier(const osg::Pnt2f& point) cons
         return static_cast<int>(std::clamp(px, -kFarthestPx, kFarthestPx));
     };
     nbMagnifierRenderer::setCursorPosition(pixel(point.x()), view.heightPx - 1 - pixel(point.y()));
-}
-
-void PerspectiveMatchVisualisation::setMagnifierScale(float factor) const
-{
-    nbMagnifierRenderer::setMagnificationScale(factor);
 }
 
 osg::Vec2f PerspectiveMatchVisualisation::toLineUnits(const osg::Vec2f& distancePx) const
