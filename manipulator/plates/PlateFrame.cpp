@@ -19,36 +19,16 @@ constexpr double kLeastArm = 0.5;
 constexpr double kWholeTurn = 360.0;
 constexpr float kHalfTurn = 180.0F;
 
-struct Place
-{
-    double alongX;
-    double alongY;
+/// Places of the corners, in half sides from the centre, y up.
+constexpr double kCornerPlaces[kPlateCornerCount][2] = {
+    { -1.0, -1.0 }, { -1.0, 1.0 }, { 1.0, -1.0 }, { 1.0, 1.0 }
 };
-
-Place placeOf(PlateCorner corner)
-{
-    switch (corner) {
-    case PlateCorner::LowerLeft:
-        return { -1.0, -1.0 };
-    case PlateCorner::UpperLeft:
-        return { -1.0, 1.0 };
-    case PlateCorner::LowerRight:
-        return { 1.0, -1.0 };
-    case PlateCorner::UpperRight:
-        break;
-    }
-    return { 1.0, 1.0 };
-}
-
-PlateCorner opposite(PlateCorner corner)
-{
-    return static_cast<PlateCorner>(kPlateCornerCount - 1 - static_cast<std::size_t>(corner));
-}
 
 /// What stays when a frame is scaled at a corner.
 osg::Pnt2f anchorOf(const PlateFrame& frame, PlateCorner corner, bool aboutCentre)
 {
-    return aboutCentre ? frame.centre : cornerOfFrame(frame, opposite(corner));
+    const std::size_t opposite = kPlateCornerCount - 1 - static_cast<std::size_t>(corner);
+    return aboutCentre ? frame.centre : cornerOfFrame(frame, static_cast<PlateCorner>(opposite));
 }
 
 /// Half sides of the upright box around a frame.
@@ -60,61 +40,55 @@ osg::Vec2f halfOfBox(const PlateFrame& frame)
                       static_cast<float>(0.5 * (frame.size.x() * sine + frame.size.y() * cosine)));
 }
 
-double component(const osg::Vec2f& vector, bool isX)
+double lengthOf(const PlateView& view, osg::UInt32 axis)
 {
-    return isX ? vector.x() : vector.y();
+    return axis == 0 ? view.widthPx : view.heightPx;
 }
 
-double side(const PlateView& view, bool isX)
-{
-    return isX ? view.widthPx : view.heightPx;
-}
-
-void setGuide(PlateGuides& guides, bool isX, double line)
-{
-    if (isX) {
-        guides.hasVertical = true;
-        guides.x = static_cast<float>(line);
-    } else {
-        guides.hasHorizontal = true;
-        guides.y = static_cast<float>(line);
-    }
-}
-
-/// Keeps the nearest of what a value could snap to.
+/// Keeps the nearest of what a value could snap to; of several at one distance the first.
 struct Nearest
 {
     double distance;  ///< reach at first
-    double step = 0.0;
+    double from = 0.0;
+    double value = 0.0;
+    osg::UInt32 axis = 0;  ///< whose line it is
     double line = 0.0;
     bool found = false;
 
-    void offer(double from, double candidate)
+    void offer(double before, double candidate, osg::UInt32 lineAxis, double at)
     {
-        const double needed = candidate - from;
-        if (std::abs(needed) < distance || (!found && std::abs(needed) == distance)) {
-            distance = std::abs(needed);
-            step = needed;
-            line = candidate;
-            found = true;
+        const double needed = std::abs(candidate - before);
+        if (needed < distance || (!found && needed == distance)) {
+            *this = { needed, before, candidate, lineAxis, at, true };
+        }
+    }
+
+    void show(PlateGuides& guides) const
+    {
+        if (found && axis == 0) {
+            guides.hasVertical = true;
+            guides.x = static_cast<float>(line);
+        } else if (found) {
+            guides.hasHorizontal = true;
+            guides.y = static_cast<float>(line);
         }
     }
 };
 
 /// Snaps the moved box on one axis. @return the distance that is still to go
-double snapBox(double centre, double half, double length, double reach, bool isX,
+double snapBox(double centre, double half, const PlateView& view, osg::UInt32 axis,
                PlateGuides& guides)
 {
-    Nearest nearest { reach };
-    nearest.offer(centre, 0.5 * length);
-    nearest.offer(centre - half, 0.0);
-    nearest.offer(centre + half, length);
-    nearest.offer(centre - half, 0.5 * length);
-    nearest.offer(centre + half, 0.5 * length);
-    if (nearest.found) {
-        setGuide(guides, isX, nearest.line);
-    }
-    return nearest.step;
+    const double length = lengthOf(view, axis);
+    Nearest nearest { kPlateSnapReach * view.unitPx };
+    const auto offer = [&](double place, double line) { nearest.offer(place, line, axis, line); };
+    offer(centre, 0.5 * length);
+    offer(centre - half, 0.0);
+    offer(centre + half, length);
+    offer(centre - half, 0.5 * length);
+    offer(centre + half, 0.5 * length);
+    nearest.show(guides);
+    return nearest.value - nearest.from;
 }
 
 /// Factor at which a corner that goes along a diagonal meets an edge or centre line of the view,
@@ -122,43 +96,36 @@ double snapBox(double centre, double half, double length, double reach, bool isX
 double snapFactor(double factor, const osg::Pnt2f& anchor, const osg::Vec2f& diagonal,
                   const PlateView& view, PlateGuides& guides)
 {
-    const double length = diagonal.length();
-    double nearest = kPlateSnapReach * view.unitPx / length;
-    double result = factor;
-    bool isNearestX = false;
-    double nearestLine = 0.0;
-    bool found = false;
-    for (const bool isX : { true, false }) {
-        const double along = component(diagonal, isX);
+    const double reachPx = kPlateSnapReach * view.unitPx;
+    Nearest nearest { reachPx / diagonal.length() };
+    for (const osg::UInt32 axis : { 1U, 0U }) {
+        const double along = diagonal[axis];
         if (std::abs(along) < kShortest) {
             continue;
         }
-        for (const double part : { 0.0, 0.5, 1.0 }) {
-            const double line = part * side(view, isX);
-            const double candidate = (line - component(anchor.subZero(), isX)) / along;
-            if (std::abs(candidate - factor) <= nearest) {
-                nearest = std::abs(candidate - factor);
-                result = candidate;
-                isNearestX = isX;
-                nearestLine = line;
-                found = true;
-            }
+        for (const double part : { 1.0, 0.5, 0.0 }) {
+            const double line = part * lengthOf(view, axis);
+            nearest.offer(factor, (line - anchor[axis]) / along, axis, line);
         }
     }
-    if (found) {
-        setGuide(guides, isNearestX, nearestLine);
-    }
-    return result;
+    nearest.show(guides);
+    return nearest.found ? nearest.value : factor;
 }
 
-osg::Pnt2f armEnd(const PlateFrame& frame, PlateArm arm, float lengthPx, double& awayRotation)
+/// Rotation of the way from the frame to the knob.
+float armRotation(const PlateFrame& frame, PlateArm arm)
 {
-    const bool isUp = arm == PlateArm::Above;
+    return arm == PlateArm::Above ? frame.rotation : frame.rotation + kHalfTurn;
+}
+
+osg::Pnt2f armEnd(const PlateFrame& frame, PlateArm arm, const PlateView& view)
+{
+    const float lengthPx = kPlateArmLength * view.unitPx;
     const osg::Pnt2f foot = pointOfFrame(frame, 0.0, arm == PlateArm::Below ? -1.0 : 1.0);
-    awayRotation = isUp ? frame.rotation : frame.rotation + kHalfTurn;
-    const double angle = awayRotation / kDegPerRad;
-    return osg::Pnt2f(foot.x() - lengthPx * static_cast<float>(std::sin(angle)),
-                      foot.y() - lengthPx * static_cast<float>(std::cos(angle)));
+    const double angle = armRotation(frame, arm) / kDegPerRad;
+    return foot -
+        lengthPx *
+        osg::Vec2f(static_cast<float>(std::sin(angle)), static_cast<float>(std::cos(angle)));
 }
 
 bool isInView(const osg::Pnt2f& point, float margin, const PlateView& view)
@@ -190,17 +157,15 @@ osg::Pnt2f pointOfFrame(const PlateFrame& frame, double alongX, double alongY)
 
 osg::Pnt2f cornerOfFrame(const PlateFrame& frame, PlateCorner corner)
 {
-    const Place place = placeOf(corner);
-    return pointOfFrame(frame, place.alongX, place.alongY);
+    const auto& [alongX, alongY] = kCornerPlaces[static_cast<std::size_t>(corner)];
+    return pointOfFrame(frame, alongX, alongY);
 }
 
 PlateArm chooseArm(const PlateFrame& frame, const PlateView& view)
 {
     const PlateFrame drawn = grabbableFrame(frame, view);
     for (const PlateArm arm : { PlateArm::Above, PlateArm::Below, PlateArm::Inside }) {
-        double rotation = 0.0;
-        const osg::Pnt2f knob = armEnd(drawn, arm, kPlateArmLength * view.unitPx, rotation);
-        if (isInView(knob, kPlateKnobRadius * view.unitPx, view)) {
+        if (isInView(armEnd(drawn, arm, view), kPlateKnobRadius * view.unitPx, view)) {
             return arm;
         }
     }
@@ -216,9 +181,8 @@ PlateHandles layOutHandles(const PlateFrame& frame, PlateArm arm, const PlateVie
     }
     const osg::Vec2f half = halfOfBox(handles.frame);
     const float inset = 0.5F * kPlateBoxSize * view.unitPx;
-    for (const bool isX : { true, false }) {
-        const osg::UInt32 axis = isX ? 0 : 1;
-        const auto last = static_cast<float>(side(view, isX)) - inset;
+    for (const osg::UInt32 axis : { 0U, 1U }) {
+        const auto last = static_cast<float>(lengthOf(view, axis)) - inset;
         const float centre = handles.frame.centre[axis];
         if (last > inset && centre - half[axis] < inset && centre + half[axis] > last) {
             for (osg::Pnt2f& corner : handles.corners) {
@@ -226,9 +190,8 @@ PlateHandles layOutHandles(const PlateFrame& frame, PlateArm arm, const PlateVie
             }
         }
     }
-    double rotation = 0.0;
-    handles.knob = armEnd(handles.frame, arm, kPlateArmLength * view.unitPx, rotation);
-    handles.armRotation = static_cast<float>(rotation);
+    handles.knob = armEnd(handles.frame, arm, view);
+    handles.armRotation = armRotation(handles.frame, arm);
     return handles;
 }
 
@@ -250,12 +213,10 @@ PlateChange moveFrame(const PlateFrame& start, const osg::Vec2f& distancePx, con
         return change;
     }
     const osg::Vec2f half = halfOfBox(start);
-    const double reach = kPlateSnapReach * view.unitPx;
-    for (const bool isX : { true, false }) {
-        const osg::UInt32 axis = isX ? 0 : 1;
+    for (const osg::UInt32 axis : { 0U, 1U }) {
         const double centre = static_cast<double>(start.centre[axis]) + distancePx[axis];
         change.offsetPx[axis] +=
-            static_cast<float>(snapBox(centre, half[axis], side(view, isX), reach, isX, *guides));
+            static_cast<float>(snapBox(centre, half[axis], view, axis, *guides));
     }
     return change;
 }
@@ -294,12 +255,11 @@ bool turnBetween(const osg::Pnt2f& centre, const osg::Pnt2f& from, const osg::Pn
     if (first.length() < kLeastArm || second.length() < kLeastArm) {
         return false;
     }
+    const osg::Vec2d a(first.x(), first.y());
+    const osg::Vec2d b(second.x(), second.y());
     // y points down, so a positive cross product turns clockwise.
-    const double cross =
-        static_cast<double>(first.x()) * second.y() - static_cast<double>(first.y()) * second.x();
-    const double dot =
-        static_cast<double>(first.x()) * second.x() + static_cast<double>(first.y()) * second.y();
-    const double within = std::atan2(-cross, dot) * kDegPerRad;
+    const double cross = a.x() * b.y() - a.y() * b.x();
+    const double within = std::atan2(-cross, a.dot(b)) * kDegPerRad;
     angle = within + kWholeTurn * std::round((angle - within) / kWholeTurn);
     return true;
 }

@@ -92,18 +92,16 @@ osg::Pnt2f cornerOfFrame(const PlateFrame& frame, PlateCorner corner);
 /// above if there is none.
 PlateArm chooseArm(const PlateFrame& frame, const PlateView& view);
 
-/// Places the handles of a frame. A frame that reaches beyond both opposite edges of the view, such
-/// as that of a plate that fills the window, gets its corner boxes pulled in so that all of each is
-/// seen.
+/// Places the handles of a frame. One that reaches beyond both opposite edges of the view gets its
+/// corner boxes pulled in, so that all of each is seen.
 PlateHandles layOutHandles(const PlateFrame& frame, PlateArm arm, const PlateView& view);
 
 /// A frame after a change: scaled and turned about its centre, which moves by the offset.
 PlateFrame changedFrame(const PlateFrame& frame, const PlateChange& change);
 
-/// Moves a frame by a distance. With guides: edges of the upright box around it snap to the same
-/// edges of the view and to its centre lines, its centre to the centre lines; per axis the nearest
-/// within reach, the centre first.
-/// @param guides  receives the lines that were snapped to; null: no snapping
+/// Moves a frame by a distance. Edges of the upright box around it snap to the same edges of the
+/// view and to its centre lines, its centre to the centre lines; per axis the nearest within reach,
+/// the centre first. @param guides  receives the lines that were snapped to; null: no snapping
 PlateChange moveFrame(const PlateFrame& start, const osg::Vec2f& distancePx, const PlateView& view,
                       PlateGuides* guides);
 
@@ -113,10 +111,9 @@ PlateChange moveFrame(const PlateFrame& start, const osg::Vec2f& distancePx, con
 double cornerFactor(const PlateFrame& start, PlateCorner corner, bool aboutCentre,
                     const osg::Vec2f& distancePx);
 
-/// Scales a frame by a factor at a corner, so that what the diagonal comes from stays, see
-/// cornerFactor(). With guides: the corner snaps to edges and centre lines of the view where its
-/// way along the diagonal meets them. The longer side never gets less than 4 pixels by it, so that
-/// nothing vanishes or turns over. A frame without size does not change.
+/// Scales a frame by a factor at a corner, see cornerFactor(). With guides the corner snaps to
+/// edges and centre lines of the view where its way along the diagonal meets them. The longer side
+/// never gets less than 4 pixels by it. A frame without size does not change.
 PlateChange scaleFrame(const PlateFrame& start, PlateCorner corner, bool aboutCentre, double factor,
                        const PlateView& view, PlateGuides* guides);
 

@@ -37,54 +37,16 @@ CourseRules courseRules()
     CourseRules rules;
     rules.isPreparedAtStart = true;
     rules.isHiddenWithoutTarget = true;
-    // The preview's pause ends in finish(), with every drag, also if no plate is left.
-    rules.isPreviewPaused = false;
     return rules;
 }
 
 // == Places and plates
-
-/// Frame of a rectangle or handle in the plane of pixels: x and y along its own axes (y up on the
-/// screen while it is not turned), z in layers.
-osg::Matrix placeInPlane(const osg::Pnt2f& centrePx, float rotation, const osg::Vec2f& size,
-                         float layer)
-{
-    const auto cosine = static_cast<float>(std::cos(rotation / kDegPerRad));
-    const auto sine = static_cast<float>(std::sin(rotation / kDegPerRad));
-    osg::Matrix place;
-    place[0] = osg::Vec4f(cosine * size.x(), -sine * size.x(), 0.0F, 0.0F);
-    place[1] = osg::Vec4f(-sine * size.y(), -cosine * size.y(), 0.0F, 0.0F);
-    place[3] = osg::Vec4f(centrePx.x(), centrePx.y(), layer, 1.0F);
-    return place;
-}
 
 bool isFinite(const PlateFrame& frame)
 {
     return std::isfinite(frame.centre.x()) && std::isfinite(frame.centre.y()) &&
         std::isfinite(frame.size.x()) && std::isfinite(frame.size.y()) &&
         std::isfinite(frame.rotation);
-}
-
-PlateCorner cornerOf(Active box)
-{
-    return static_cast<PlateCorner>(static_cast<osg::UInt32>(box) -
-                                    static_cast<osg::UInt32>(Active::ScaleLowerLeft));
-}
-
-/// The plate of a node; null if the node no longer exists or has another core.
-osg::SceneplatePtr resolvePlate(osg::UInt32 nodeId)
-{
-    return nbSceneplateList::plateOf(resolveContainer<osg::NodePtr>(nodeId));
-}
-
-void send(const PlateChange& change, int heightPx)
-{
-    const osg::Vec2f offset = nbSceneplateLayout::toOffset(change.offsetPx, heightPx);
-    nbMessage message;
-    message.set("scaleFactor", change.scaleFactor, true);
-    message.set("offset", QVector2D(offset.x(), offset.y()), true);
-    message.set("rotation", change.rotation, true);
-    nbController::call("sceneplateChanged", message, 0);
 }
 
 }  // namespace
@@ -118,8 +80,9 @@ std::vector<osg::NodePtr> PlateGizmo::getNodes() const
 {
     std::vector<osg::NodePtr> nodes;
     for (const osg::UInt32 id : nodeIds) {
-        if (resolvePlate(id) != osg::NullFC) {
-            nodes.push_back(resolveContainer<osg::NodePtr>(id));
+        const auto node = resolveContainer<osg::NodePtr>(id);
+        if (nbSceneplateList::plateOf(node) != osg::NullFC) {
+            nodes.push_back(node);
         }
     }
     return nodes;
@@ -128,43 +91,13 @@ std::vector<osg::NodePtr> PlateGizmo::getNodes() const
 std::vector<osg::SceneplatePtr> PlateGizmo::getPlates() const
 {
     std::vector<osg::SceneplatePtr> found;
-    for (const osg::UInt32 id : nodeIds) {
-        if (const osg::SceneplatePtr plate = resolvePlate(id); plate != osg::NullFC) {
-            found.push_back(plate);
-        }
+    for (const osg::NodePtr& node : getNodes()) {
+        found.push_back(nbSceneplateList::plateOf(node));
     }
     return found;
 }
 
-bool PlateGizmo::hasTarget() const
-{
-    return isInUse && std::any_of(nodeIds.begin(), nodeIds.end(), [](osg::UInt32 id) {
-               return resolvePlate(id) != osg::NullFC;
-           });
-}
-
 // == Placement
-
-void PlateGizmo::showActive()
-{
-    placeIn(View());
-}
-
-float PlateGizmo::unitPx() const
-{
-    return pixelRatio * getSize() / kDefaultManipulatorSize;
-}
-
-float PlateGizmo::placementNumber() const
-{
-    return unitPx();
-}
-
-/// The camera, the view's size and every field of a plate count: placing is as quick as asking.
-bool PlateGizmo::isDisplaced(const View& /*view*/) const
-{
-    return true;
-}
 
 void PlateGizmo::place(const View& view)
 {
@@ -184,41 +117,47 @@ void PlateGizmo::place(const View& view)
     handles.showRoot(isPlaced);
 }
 
+/// Places a rectangle or handle in the plane of pixels: x and y along its own axes (y up on the
+/// screen while it is not turned), z in layers.
+void PlateGizmo::put(std::size_t row, const osg::Pnt2f& centrePx, float rotation,
+                     const osg::Vec2f& size, float layer) const
+{
+    const auto cosine = static_cast<float>(std::cos(rotation / kDegPerRad));
+    const auto sine = static_cast<float>(std::sin(rotation / kDegPerRad));
+    osg::Matrix place;
+    place[0] = osg::Vec4f(cosine * size.x(), -sine * size.x(), 0.0F, 0.0F);
+    place[1] = osg::Vec4f(-sine * size.y(), -cosine * size.y(), 0.0F, 0.0F);
+    place[3] = osg::Vec4f(centrePx.x(), centrePx.y(), layer, 1.0F);
+    handles.setPlace(row, place);
+}
+
 void PlateGizmo::placeHandles(const PlateHandles& layout, float unit) const
 {
-    const float boxPx = kPlateBoxSize * unit;
+    const osg::Vec2f unitSize(unit, unit);
     for (std::size_t i = 0; i < kPlateCornerCount; ++i) {
-        handles.setPlace(i,
-                         placeInPlane(layout.corners[i], layout.frame.rotation,
-                                      osg::Vec2f(boxPx, boxPx), kHandleLayer));
+        put(i, layout.corners[i], layout.frame.rotation, unitSize * kPlateBoxSize, kHandleLayer);
     }
-    handles.setPlace(
-        ArmRow,
-        placeInPlane(layout.knob, layout.armRotation, osg::Vec2f(unit, unit), kHandleLayer));
-    handles.setPlace(
-        BodyRow,
-        placeInPlane(layout.frame.centre, layout.frame.rotation, layout.frame.size, kFrameLayer));
+    put(ArmRow, layout.knob, layout.armRotation, unitSize, kHandleLayer);
+    put(BodyRow, layout.frame.centre, layout.frame.rotation, layout.frame.size, kFrameLayer);
 }
 
 void PlateGizmo::placeGuides(const PlateView& view)
 {
+    constexpr float kRight = 90.0F;
     const auto width = static_cast<float>(view.widthPx);
     const auto height = static_cast<float>(view.heightPx);
     const PlateGuides snapped = isGrabbed() ? drag.guides : PlateGuides();
     handles.showRow(VerticalRow, snapped.hasVertical);
     handles.showRow(HorizontalRow, snapped.hasHorizontal);
-    constexpr float kRight = 90.0F;
     if (snapped.hasVertical) {
         const float x = std::clamp(snapped.x, kGuideInset, std::max(width - kGuideInset, 1.0F));
-        handles.setPlace(VerticalRow,
-                         placeInPlane(osg::Pnt2f(x, height / 2), 0.0F,
-                                      osg::Vec2f(1.0F, height / kShaftLength), kGuideLayer));
+        put(VerticalRow, osg::Pnt2f(x, height / 2), 0.0F, osg::Vec2f(1.0F, height / kShaftLength),
+            kGuideLayer);
     }
     if (snapped.hasHorizontal) {
         const float y = std::clamp(snapped.y, kGuideInset, std::max(height - kGuideInset, 1.0F));
-        handles.setPlace(HorizontalRow,
-                         placeInPlane(osg::Pnt2f(width / 2, y), kRight,
-                                      osg::Vec2f(1.0F, width / kShaftLength), kGuideLayer));
+        put(HorizontalRow, osg::Pnt2f(width / 2, y), kRight, osg::Vec2f(1.0F, width / kShaftLength),
+            kGuideLayer);
     }
 }
 
@@ -257,8 +196,7 @@ DragStep PlateGizmo::parametersAt(const View& view, const DragTrack& before) con
             ? DragStep({ Kind::Angle, next.turned }, next)
             : DragStep(DragStep::Outcome::Waiting, before);
     default:
-        return { { Kind::Factor,
-                   cornerFactor(drag.start, cornerOf(handle()), precisionActive, distancePx) },
+        return { { Kind::Factor, cornerFactor(drag.start, corner(), precisionActive, distancePx) },
                  next };
     }
 }
@@ -275,8 +213,8 @@ PlateChange PlateGizmo::changeOf(const DragParameters& parameters, PlateGuides& 
     case Kind::Angle:
         return turnFrame(drag.start, parameters.values[0], isSnapping());
     default:
-        return scaleFrame(drag.start, cornerOf(handle()), precisionActive, parameters.values[0],
-                          view, snappingEnabled ? &guides : nullptr);
+        return scaleFrame(drag.start, corner(), precisionActive, parameters.values[0], view,
+                          snappingEnabled ? &guides : nullptr);
     }
 }
 
@@ -285,15 +223,16 @@ void PlateGizmo::apply(const DragParameters& parameters)
     PlateGuides guides;
     const PlateChange change = changeOf(parameters, guides);
     drag.guides = guides;
-    if (!(change == drag.change)) {
-        drag.change = change;
-        send(change, drag.heightPx);
+    if (change == drag.change) {
+        return;
     }
-}
-
-void PlateGizmo::finish()
-{
-    previewPause.end();
+    drag.change = change;
+    const osg::Vec2f offset = nbSceneplateLayout::toOffset(change.offsetPx, drag.heightPx);
+    nbMessage message;
+    message.set("scaleFactor", change.scaleFactor, true);
+    message.set("offset", QVector2D(offset.x(), offset.y()), true);
+    message.set("rotation", change.rotation, true);
+    nbController::call("sceneplateChanged", message, 0);
 }
 
 // == On-screen text

@@ -5,8 +5,6 @@
 #include "manipulator/plates/PlateFrame.h"
 #include "manipulator/plates/PlateModes.h"
 
-#include <OpenSG/OSGNode.h>
-
 #include <vector>
 
 namespace nbec::manipulator::plates {
@@ -30,22 +28,30 @@ public:
     void setPixelRatio(float ratio) { pixelRatio = ratio; }
 
     /// Also in a drag, of which it changes nothing.
-    void showActive() override;
+    void showActive() override { placeIn(View()); }
 
     bool precisionActive = false;
     bool snappingEnabled = false;
     bool descriptionEnabled = true;
 
 protected:
-    bool hasTarget() const override;
+    bool hasTarget() const override { return isInUse && !getNodes().empty(); }
+
     bool canStep(const View& view) override;
     bool prepare(const View& view) override;
     DragStep parametersAt(const View& view, const DragTrack& before) const override;
     void apply(const DragParameters& parameters) override;
-    void finish() override;
+
+    /// The preview's pause ends with every drag, also if no plate is left.
+    void finish() override { previewPause.end(); }
+
     void place(const View& view) override;
-    bool isDisplaced(const View& view) const override;
-    float placementNumber() const override;
+
+    /// The camera, the view's size and every field of a plate count: placing is as quick as asking.
+    bool isDisplaced(const View& /*view*/) const override { return true; }
+
+    float placementNumber() const override { return unitPx(); }
+
     std::optional<QString> describe() const override;
     ValueText* getText() const override;
 
@@ -65,11 +71,17 @@ private:
 
     ActiveMode handle() const { return static_cast<ActiveMode>(getArmed()); }
 
+    /// Of the armed box.
+    PlateCorner corner() const { return static_cast<PlateCorner>(getArmed() - 1); }
+
     bool isSnapping() const { return precisionActive || snappingEnabled; }
 
-    float unitPx() const;
+    float unitPx() const { return pixelRatio * getSize() / kDefaultManipulatorSize; }
+
     std::vector<osg::SceneplatePtr> getPlates() const;
     PlateChange changeOf(const DragParameters& parameters, PlateGuides& guides) const;
+    void put(std::size_t row, const osg::Pnt2f& centrePx, float rotation, const osg::Vec2f& size,
+             float layer) const;
     void placeHandles(const PlateHandles& layout, float unit) const;
     void placeGuides(const PlateView& view);
 

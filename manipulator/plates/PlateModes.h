@@ -5,7 +5,8 @@
 
 namespace nbec::manipulator::plates {
 
-/// The handle of the scene-plate gizmo that is hovered or grabbed.
+/// The handle of the scene-plate gizmo that is hovered or grabbed; first the boxes, in the order of
+/// PlateCorner.
 enum class ActiveMode : osg::UInt32
 {
     None = 0,

@@ -45,18 +45,19 @@ constexpr std::size_t line(Color color)
     return ColorCount + color;
 }
 
-/// A part whose colour never changes.
-HandlePart fixed(HandleShape shape, std::size_t color)
+HandlePart placed(HandleShape shape, const HandleColors& colors, const std::array<float, 3>& scale,
+                  float y = 0.0F, float layer = 0.0F)
 {
-    return { shape, { color, color, color } };
-}
-
-HandlePart placed(HandlePart part, const std::array<float, 3>& scale, float y, float layer)
-{
-    part.holder = HandleHolder::Component;
-    part.place = { 0.0F, y, layer };
+    HandlePart part { shape, colors, HandleHolder::Component, { 0.0F, y, layer } };
     part.scale = scale;
     return part;
+}
+
+/// The dark edge around a part, which never changes.
+HandlePart shadow(HandleShape shape, std::size_t color, const std::array<float, 3>& scale,
+                  float y = 0.0F)
+{
+    return placed(shape, { color, color, color }, scale, y, kShadowLayer);
 }
 
 HandleRow handleRow(const char* name, Active handle, const std::vector<HandlePart>& parts)
@@ -69,8 +70,7 @@ HandleRow box(const char* name, Active handle)
     constexpr float kScale = 1.0F + 2.0F * kShadowWidth / kPlateBoxSize;
     return handleRow(name, handle,
                      { { HandleShape::Square, { Yellow, Orange, Yellow } },
-                       placed(fixed(HandleShape::Square, Shadow), { kScale, kScale, 1.0F }, 0.0F,
-                              kShadowLayer) });
+                       shadow(HandleShape::Square, Shadow, { kScale, kScale, 1.0F }) });
 }
 
 /// Scale of the sphere that makes a knob. It is flat, one layer thick to each side.
@@ -85,15 +85,13 @@ HandleRow arm()
     constexpr float kLength = kPlateArmLength - kPlateKnobRadius;
     constexpr float kShaftCentre = -kPlateKnobRadius - kLength / 2;
     constexpr std::array<float, 3> kShaftScale = { 1.0F, kLength / kShaftLength, 1.0F };
-    const HandlePart knob = { HandleShape::CentreSphere, { Blue, Orange, Blue } };
-    const HandlePart shaft = { HandleShape::ArrowShaft, { line(Blue), line(Orange), line(Blue) } };
-    return handleRow("rotateShape", Active::Rotate,
-                     { placed(knob, knobScale(kPlateKnobRadius), 0.0F, 0.0F),
-                       placed(shaft, kShaftScale, kShaftCentre, 0.0F),
-                       placed(fixed(HandleShape::CentreSphere, Shadow),
-                              knobScale(kPlateKnobRadius + kShadowWidth), 0.0F, kShadowLayer),
-                       placed(fixed(HandleShape::ArrowShaft, line(Shadow)), kShaftScale,
-                              kShaftCentre, kShadowLayer) });
+    return handleRow(
+        "rotateShape", Active::Rotate,
+        { placed(HandleShape::CentreSphere, { Blue, Orange, Blue }, knobScale(kPlateKnobRadius)),
+          placed(HandleShape::ArrowShaft, { line(Blue), line(Orange), line(Blue) }, kShaftScale,
+                 kShaftCentre),
+          shadow(HandleShape::CentreSphere, Shadow, knobScale(kPlateKnobRadius + kShadowWidth)),
+          shadow(HandleShape::ArrowShaft, line(Shadow), kShaftScale, kShaftCentre) });
 }
 
 HandleRow body()
@@ -101,9 +99,8 @@ HandleRow body()
     HandleRow row =
         handleRow("grid", Active::Move,
                   { { HandleShape::SquareOutline, { line(Yellow), line(Orange), line(Yellow) } },
-                    placed(fixed(HandleShape::SquareOutline, line(Shadow)), { 1.0F, 1.0F, 1.0F },
-                           0.0F, kShadowLayer),
-                    fixed(HandleShape::Square, kClear) });
+                    shadow(HandleShape::SquareOutline, line(Shadow), { 1.0F, 1.0F, 1.0F }),
+                    { HandleShape::Square, { kClear, kClear, kClear } } });
     row.staysInDrags = true;
     return row;
 }
@@ -111,8 +108,9 @@ HandleRow body()
 /// Shown by placeGuides() alone.
 HandleRow guide()
 {
-    HandleRow row =
-        handleRow(nullptr, Active::None, { fixed(HandleShape::ArrowShaft, line(Purple)) });
+    constexpr std::size_t kColor = line(Purple);
+    HandleRow row = handleRow(nullptr, Active::None,
+                              { { HandleShape::ArrowShaft, { kColor, kColor, kColor } } });
     row.visibleIn = 0;
     return row;
 }

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/plates/ScreenPlane.h"
 
-#include "manipulator/course/View.h"
-
 #include <nbKernel/nbOSGWidget.h>
 
 #include <algorithm>
@@ -27,19 +25,17 @@ double planeDistance(const osg::UberCameraPtr& camera)
 
 std::optional<osg::Matrix> worldFromPixels(const View& view)
 {
-    const int width = view.getWidth();
-    const int height = view.getHeight();
     const osg::UberCameraPtr camera =
         view.exists() ? view.getWidget()->getUberCamera() : osg::UberCameraPtr();
-    if (camera == osg::NullFC || width <= 0 || height <= 0) {
+    if (camera == osg::NullFC || view.getWidth() <= 0 || view.getHeight() <= 0) {
         return std::nullopt;
     }
+    const auto width = static_cast<osg::UInt32>(view.getWidth());
+    const auto height = static_cast<osg::UInt32>(view.getHeight());
     osg::Matrix clipFromView;
-    camera->getProjection(clipFromView, static_cast<osg::UInt32>(width),
-                          static_cast<osg::UInt32>(height));
+    camera->getProjection(clipFromView, width, height);
     osg::Matrix viewFromWorld;
-    camera->getViewing(viewFromWorld, static_cast<osg::UInt32>(width),
-                       static_cast<osg::UInt32>(height));
+    camera->getViewing(viewFromWorld, width, height);
     const double distance = planeDistance(camera);
     // At this distance the view spans -right .. right and -top .. top; clip w is 1 in an
     // orthographic view.

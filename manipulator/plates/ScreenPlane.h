@@ -1,13 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "manipulator/course/View.h"
+
 #include <OpenSG/OSGMatrix.h>
-
-#include <optional>
-
-namespace nbec::manipulator {
-class View;
-}  // namespace nbec::manipulator
 
 namespace nbec::manipulator::plates {
 
@@ -15,11 +11,10 @@ namespace nbec::manipulator::plates {
 /// far less; what lies r pixels off the view's centre is displaced by 1e-5 r pixels.
 constexpr double kScreenLayer = 1e-5;
 
-/// World from the pixels of a view, for handles that lie flat on the screen and are drawn and hit
-/// as any others: x to the right and y down in device pixels from the view's top left corner, z in
-/// layers towards the eye (see kScreenLayer), which order what overlaps. The plane stands at right
-/// angles to the view axis, as far away as the point that the camera looks at, or the nearest
-/// distance inside of the depth range. The matrix holds for one camera pose and view size.
+/// World from the pixels of a view, for handles that lie flat on the screen: x to the right and y
+/// down in device pixels from the view's top left corner, z in layers towards the eye, which order
+/// what overlaps. The plane stands at right angles to the view axis, as far away as the point that
+/// the camera looks at, or the nearest distance inside of the depth range.
 /// @return 4x4, column vectors, affine; nothing for a view without area
 std::optional<osg::Matrix> worldFromPixels(const View& view);
 
