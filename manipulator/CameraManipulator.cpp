@@ -33,13 +33,12 @@ osg::GeometryPtr makeCross()
     return makeLineGeometry(ends, { 0, 1, 2, 3, 4, 5 });
 }
 
-osg::SimpleMaterialRefPtr makeCrossMaterial()
+osg::SimpleMaterialRefPtr makeMaterial(const osg::Color3f& diffuse, const osg::Color3f& specular,
+                                       int sortKey, const LineChunks* chunks, float transparency)
 {
-    const LineChunks chunks = makeLineChunks();
-    osg::SimpleMaterialRefPtr material =
-        makeHandleMaterial(osg::Color3f(1.0F, 0.5F, 0.0F), handleSortKey::kSolid, &chunks);
+    osg::SimpleMaterialRefPtr material = makeHandleMaterial(diffuse, sortKey, chunks, transparency);
     const nbEdit edit(material.get(), osg::SimpleMaterial::SpecularFieldMask);
-    material->setSpecular(osg::Color3f(0.5F, 0.5F, 0.5F));
+    material->setSpecular(specular);
     return material;
 }
 
@@ -58,8 +57,14 @@ CameraManipulator::CameraManipulator()
 
 osg::NodePtr CameraManipulator::createManipulatorGeo()
 {
+    const LineChunks chunks = makeLineChunks();
+    normalMaterial = makeMaterial(osg::Color3f(1.0F, 0.5F, 0.0F), osg::Color3f(0.5F, 0.5F, 0.5F),
+                                  handleSortKey::kSolid, &chunks, 0.0F);
+    highlightMaterial =
+        makeMaterial(osg::Color3f(0.25F, 0.25F, 0.25F), osg::Color3f(1.0F, 1.0F, 1.0F),
+                     handleSortKey::kLine, nullptr, 0.01F);
     geometryNode = makeNode(makeCross());
-    setGeometryMaterial(geometryNode.get(), makeCrossMaterial().get());
+    setGeometryMaterial(geometryNode.get(), normalMaterial.get());
     const osg::NodePtr transform = makeTransform3DNode(osg::Vec3f());
     addChild(transform, geometryNode.get());
     nbNodeUtils::setIsAuxiliaryNode(transform, true);
@@ -128,6 +133,11 @@ void CameraManipulator::setNode(const osg::NodePtr& node)
 }
 
 // == Placement
+
+osg::NodePtr CameraManipulator::resolveTransformNode(const osg::NodePtr& node)
+{
+    return nbNodeUtils::resolveToTransformNode(node);
+}
 
 void CameraManipulator::showForSelection()
 {

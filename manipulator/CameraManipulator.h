@@ -4,6 +4,8 @@
 #include "manipulator/NodeManipulator.h"
 #include "manipulator/course/Instances.h"
 
+#include <OpenSG/OSGSimpleMaterial.h>
+
 #include <string>
 #include <vector>
 
@@ -91,6 +93,8 @@ private:
     friend struct Instances<CameraManipulator>;
 
     osg::NodePtr createManipulatorGeo();
+    /// The nearest node upwards that is a transform, null without one.
+    static osg::NodePtr resolveTransformNode(const osg::NodePtr& node);
     void showForSelection();
     void updateManipulator();
     void showAllElements(bool isVisible);
@@ -98,6 +102,8 @@ private:
     static Instances<CameraManipulator> instances;
     static bool m_LocalSpaceManipulator;
 
+    osg::SimpleMaterialRefPtr normalMaterial;
+    osg::SimpleMaterialRefPtr highlightMaterial;  ///< Deliberate: built, but never shown
     osg::RefPtr<osg::NodePtr> geometryNode;
     osg::RefPtr<osg::NodePtr> transformNode;
     osg::RefPtr<osg::NodePtr> root;
