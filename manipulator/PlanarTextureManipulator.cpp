@@ -163,46 +163,6 @@ void PlanarTextureManipulator::showZScaleValue(bool on)
 
 // == Handles shown
 
-void PlanarTextureManipulator::activateTranslateManipulator()
-{
-    gizmo->activateMode(static_cast<int>(ManipulatorMode::Translate));
-}
-
-void PlanarTextureManipulator::activateRotateManipulator()
-{
-    gizmo->activateMode(static_cast<int>(ManipulatorMode::Rotate));
-}
-
-void PlanarTextureManipulator::activateScaleManipulator()
-{
-    gizmo->activateMode(static_cast<int>(ManipulatorMode::Scale));
-}
-
-void PlanarTextureManipulator::activateUniversalManipulator()
-{
-    gizmo->activateMode(static_cast<int>(ManipulatorMode::Universal));
-}
-
-PlanarTextureManipulator::ManipulatorMode PlanarTextureManipulator::getMode() const
-{
-    return static_cast<ManipulatorMode>(gizmo->getMode());
-}
-
-PlanarTextureManipulator::ActiveMode PlanarTextureManipulator::getActiveMode() const
-{
-    return course().getActiveMode();
-}
-
-void PlanarTextureManipulator::showActiveManipulator()
-{
-    gizmo->showActive();
-}
-
-void PlanarTextureManipulator::hideManipulator()
-{
-    gizmo->hide();
-}
-
 void PlanarTextureManipulator::showAllElements()
 {
     course().showAllElements();
@@ -247,11 +207,6 @@ bool PlanarTextureManipulator::centerPivot()
     return course().centerPivot();
 }
 
-void PlanarTextureManipulator::updateManipulator()
-{
-    gizmo->placeIn(View());
-}
-
 void PlanarTextureManipulator::updateManipulatorPlane()
 {
     course().updateManipulatorPlane();
@@ -262,16 +217,6 @@ void PlanarTextureManipulator::updateManipulatorPlane()
 void PlanarTextureManipulator::createInstance(bool destroy)
 {
     instances.share(destroy ? nullptr : new PlanarTextureManipulator(false));
-}
-
-void PlanarTextureManipulator::setManipulatorSize(float size)
-{
-    instances.setSize(size);
-}
-
-void PlanarTextureManipulator::updateAllManipulators()
-{
-    instances.updateAll();
 }
 
 }  // namespace nbec::manipulator

@@ -114,17 +114,23 @@ public:
     // == Handles shown
 
     // Each shows the groups of its mode in their idle colours; universal at the start.
-    void activateTranslateManipulator();
-    void activateRotateManipulator();
-    void activateScaleManipulator();
-    void activateUniversalManipulator();
+    void activateTranslateManipulator() { activateMode(ManipulatorMode::Translate); }
 
-    ManipulatorMode getMode() const;
-    ActiveMode getActiveMode() const;
+    void activateRotateManipulator() { activateMode(ManipulatorMode::Rotate); }
+
+    void activateScaleManipulator() { activateMode(ManipulatorMode::Scale); }
+
+    void activateUniversalManipulator() { activateMode(ManipulatorMode::Universal); }
+
+    ManipulatorMode getMode() const { return static_cast<ManipulatorMode>(gizmo->getMode()); }
+
+    ActiveMode getActiveMode() const { return static_cast<ActiveMode>(gizmo->getArmed()); }
 
     /// Shows the handles of the current mode and re-places them; hides them without a node.
-    void showActiveManipulator();
-    void hideManipulator();
+    void showActiveManipulator() { gizmo->showActive(); }
+
+    void hideManipulator() { gizmo->hide(); }
+
     /// Shows the handles of all groups.
     void showAllElements();
     void hideAllElements();
@@ -149,7 +155,8 @@ public:
     bool centerPivot();
 
     /// Reads the projection again and places the handles.
-    void updateManipulator();
+    void updateManipulator() { gizmo->placeIn(View()); }
+
     /// Chooses the drag plane of the active handle, through the origin of the handle frame.
     void updateManipulatorPlane();
 
@@ -164,16 +171,18 @@ public:
 
     /// Size of all gizmos in perspective views, 0 <= size < 200, default 32. The shared instance is
     /// re-placed at once, others at their next update.
-    static void setManipulatorSize(float size);
+    static void setManipulatorSize(float size) { instances.setSize(size); }
 
     static float getManipulatorSize() { return instances.m_ManipulatorSize; }
 
     /// Re-places every live gizmo, in the order of construction. The host calls it when the camera
     /// has moved.
-    static void updateAllManipulators();
+    static void updateAllManipulators() { instances.updateAll(); }
 
 private:
     friend struct Instances<PlanarTextureManipulator>;
+
+    void activateMode(ManipulatorMode mode) { gizmo->activateMode(static_cast<int>(mode)); }
 
     texture::PlanarGizmo& course() const;
 

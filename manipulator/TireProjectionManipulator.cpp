@@ -18,46 +18,4 @@ TireProjectionManipulator::~TireProjectionManipulator()
     instances.remove(this);
 }
 
-void TireProjectionManipulator::activateUniversalManipulator()
-{
-    gizmo->activateMode(static_cast<int>(ManipulatorMode::Universal));
-}
-
-void TireProjectionManipulator::activateTranslateManipulator()
-{
-    gizmo->activateMode(static_cast<int>(ManipulatorMode::Translate));
-}
-
-void TireProjectionManipulator::activateScaleManipulator()
-{
-    gizmo->activateMode(static_cast<int>(ManipulatorMode::Scale));
-}
-
-TireProjectionManipulator::ManipulatorMode TireProjectionManipulator::getMode() const
-{
-    return static_cast<ManipulatorMode>(gizmo->getMode());
-}
-
-TireProjectionManipulator::ActiveMode TireProjectionManipulator::getActiveMode() const
-{
-    return static_cast<ActiveMode>(gizmo->getArmed());
-}
-
-// == All instances
-
-void TireProjectionManipulator::createInstance()
-{
-    instances.share(new TireProjectionManipulator);
-}
-
-void TireProjectionManipulator::setManipulatorSize(float size)
-{
-    instances.setSize(size);
-}
-
-void TireProjectionManipulator::updateAllManipulators()
-{
-    instances.updateAll();
-}
-
 }  // namespace nbec::manipulator

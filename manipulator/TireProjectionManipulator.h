@@ -50,30 +50,35 @@ public:
     /// Unregisters the instance and releases the handles.
     ~TireProjectionManipulator() override;
 
-    void activateUniversalManipulator();
-    void activateTranslateManipulator();
-    void activateScaleManipulator();
+    void activateUniversalManipulator() { activateMode(ManipulatorMode::Universal); }
 
-    ManipulatorMode getMode() const;
-    ActiveMode getActiveMode() const;
+    void activateTranslateManipulator() { activateMode(ManipulatorMode::Translate); }
+
+    void activateScaleManipulator() { activateMode(ManipulatorMode::Scale); }
+
+    ManipulatorMode getMode() const { return static_cast<ManipulatorMode>(gizmo->getMode()); }
+
+    ActiveMode getActiveMode() const { return static_cast<ActiveMode>(gizmo->getArmed()); }
 
     // == All instances
 
     /// Makes the shared instance, in place of an earlier one, which is destroyed.
-    static void createInstance();
+    static void createInstance() { instances.share(new TireProjectionManipulator); }
 
     /// The shared instance, or null. Whoever deletes it takes it away.
     static TireProjectionManipulator* getInstance() { return instances._the; }
 
     /// Size on screen, 0 <= size < 200, default 32. The shared instance is placed anew.
-    static void setManipulatorSize(float size);
+    static void setManipulatorSize(float size) { instances.setSize(size); }
 
     static float getManipulatorSize() { return instances.m_ManipulatorSize; }
 
     /// Places every live gizmo anew, in the order of construction.
-    static void updateAllManipulators();
+    static void updateAllManipulators() { instances.updateAll(); }
 
 private:
+    void activateMode(ManipulatorMode mode) { gizmo->activateMode(static_cast<int>(mode)); }
+
     static Instances<TireProjectionManipulator> instances;
 };
 

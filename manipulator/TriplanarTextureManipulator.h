@@ -44,12 +44,15 @@ public:
     /// Unregisters the instance and releases the handles.
     ~TriplanarTextureManipulator() override;
 
-    void activateUniversalManipulator();
-    void activateRotateManipulator();
-    void activateRotateScaleManipulator();
+    void activateUniversalManipulator() { activateMode(ManipulatorMode::Universal); }
 
-    ManipulatorMode getMode() const;
-    ActiveMode getActiveMode() const;
+    void activateRotateManipulator() { activateMode(ManipulatorMode::Rotate); }
+
+    void activateRotateScaleManipulator() { activateMode(ManipulatorMode::RotateScale); }
+
+    ManipulatorMode getMode() const { return static_cast<ManipulatorMode>(gizmo->getMode()); }
+
+    ActiveMode getActiveMode() const { return static_cast<ActiveMode>(gizmo->getArmed()); }
 
     /// Has drags of rings that are seen at a grazing angle measured on the ring turned towards the
     /// viewer, as those of the transform gizmo, instead of in the ring's own plane. Off at the
@@ -60,21 +63,23 @@ public:
     // == All instances
 
     /// Makes the shared instance, in place of an earlier one, which is destroyed.
-    static void createInstance();
+    static void createInstance() { instances.share(new TriplanarTextureManipulator); }
 
     /// The shared instance, or null. Whoever deletes it takes it away.
     static TriplanarTextureManipulator* getInstance() { return instances._the; }
 
     /// Size on screen, 0 <= size < 200, default 32. Deliberate: 200 makes the size infinite in
     /// perspective views. The shared instance is placed anew.
-    static void setManipulatorSize(float size);
+    static void setManipulatorSize(float size) { instances.setSize(size); }
 
     static float getManipulatorSize() { return instances.m_ManipulatorSize; }
 
     /// Places every live gizmo anew, in the order of construction.
-    static void updateAllManipulators();
+    static void updateAllManipulators() { instances.updateAll(); }
 
 private:
+    void activateMode(ManipulatorMode mode) { gizmo->activateMode(static_cast<int>(mode)); }
+
     static Instances<TriplanarTextureManipulator> instances;
 };
 

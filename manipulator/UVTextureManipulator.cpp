@@ -29,41 +29,6 @@ UVTextureManipulator::~UVTextureManipulator()
     instances.remove(this);
 }
 
-void UVTextureManipulator::activateUniversalManipulator()
-{
-    gizmo->activateMode(static_cast<int>(ManipulatorMode::Universal));
-}
-
-void UVTextureManipulator::activateTranslateManipulator()
-{
-    gizmo->activateMode(static_cast<int>(ManipulatorMode::Translate));
-}
-
-void UVTextureManipulator::activateScaleManipulator()
-{
-    gizmo->activateMode(static_cast<int>(ManipulatorMode::Scale));
-}
-
-void UVTextureManipulator::activateRotateManipulator()
-{
-    gizmo->activateMode(static_cast<int>(ManipulatorMode::Rotate));
-}
-
-void UVTextureManipulator::activateRotateScaleManipulator()
-{
-    gizmo->activateMode(static_cast<int>(ManipulatorMode::RotateScale));
-}
-
-UVTextureManipulator::ManipulatorMode UVTextureManipulator::getMode() const
-{
-    return static_cast<ManipulatorMode>(gizmo->getMode());
-}
-
-UVTextureManipulator::ActiveMode UVTextureManipulator::getActiveMode() const
-{
-    return static_cast<ActiveMode>(gizmo->getArmed());
-}
-
 void UVTextureManipulator::setKeepAspectRatio(bool on)
 {
     uvGizmo(*gizmo).keepAspectRatio = on;
@@ -82,18 +47,6 @@ void UVTextureManipulator::setAspectRatio(float ratio)
 float UVTextureManipulator::getAspectRatio() const
 {
     return uvGizmo(*gizmo).aspectRatio;
-}
-
-// == All instances
-
-void UVTextureManipulator::setManipulatorSize(float size)
-{
-    instances.setSize(size);
-}
-
-void UVTextureManipulator::updateAllManipulators()
-{
-    instances.updateAll();
 }
 
 }  // namespace nbec::manipulator

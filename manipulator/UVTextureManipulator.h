@@ -48,14 +48,19 @@ public:
     /// Unregisters the instance and releases the handles.
     ~UVTextureManipulator() override;
 
-    void activateUniversalManipulator();
-    void activateTranslateManipulator();
-    void activateScaleManipulator();
-    void activateRotateManipulator();
-    void activateRotateScaleManipulator();
+    void activateUniversalManipulator() { activateMode(ManipulatorMode::Universal); }
 
-    ManipulatorMode getMode() const;
-    ActiveMode getActiveMode() const;
+    void activateTranslateManipulator() { activateMode(ManipulatorMode::Translate); }
+
+    void activateScaleManipulator() { activateMode(ManipulatorMode::Scale); }
+
+    void activateRotateManipulator() { activateMode(ManipulatorMode::Rotate); }
+
+    void activateRotateScaleManipulator() { activateMode(ManipulatorMode::RotateScale); }
+
+    ManipulatorMode getMode() const { return static_cast<ManipulatorMode>(gizmo->getMode()); }
+
+    ActiveMode getActiveMode() const { return static_cast<ActiveMode>(gizmo->getArmed()); }
 
     /// Has the scale handles of u and v scale both components. Off at the start.
     void setKeepAspectRatio(bool on);
@@ -68,14 +73,16 @@ public:
 
     /// Size on screen, default 0.03. Gizmos take it when they are placed the next time; see
     /// updateAllManipulators().
-    static void setManipulatorSize(float size);
+    static void setManipulatorSize(float size) { instances.setSize(size); }
 
     static float getManipulatorSize() { return instances.m_ManipulatorSize; }
 
     /// Places every live gizmo anew, in the order of construction.
-    static void updateAllManipulators();
+    static void updateAllManipulators() { instances.updateAll(); }
 
 private:
+    void activateMode(ManipulatorMode mode) { gizmo->activateMode(static_cast<int>(mode)); }
+
     static Instances<UVTextureManipulator> instances;
 };
 

@@ -66,11 +66,6 @@ void UniversalTransformManipulator2::setDescriptionEnabled(bool on)
 
 // == Nodes
 
-void UniversalTransformManipulator2::setNode(const osg::NodePtr& node)
-{
-    setNode(node, {});
-}
-
 void UniversalTransformManipulator2::setNode(const osg::NodePtr& node,
                                              const std::vector<osg::NodePtr>& nodes)
 {
@@ -86,101 +81,7 @@ bool UniversalTransformManipulator2::centerPivot()
     return course().centerPivot();
 }
 
-void UniversalTransformManipulator2::updateManipulator()
-{
-    gizmo->placeIn(View());
-}
-
-// == Modes
-
-void UniversalTransformManipulator2::activateRotatePivotManipulator()
-{
-    activateMode(ManipulatorMode::RotatePivot);
-}
-
-void UniversalTransformManipulator2::activateScalePivotManipulator()
-{
-    activateMode(ManipulatorMode::ScalePivot);
-}
-
-void UniversalTransformManipulator2::activateTranslateManipulator()
-{
-    activateMode(ManipulatorMode::Translate);
-}
-
-void UniversalTransformManipulator2::activateRotateManipulator()
-{
-    activateMode(ManipulatorMode::Rotate);
-}
-
-void UniversalTransformManipulator2::activateScaleManipulator()
-{
-    activateMode(ManipulatorMode::Scale);
-}
-
-void UniversalTransformManipulator2::activateUniversalManipulator()
-{
-    activateMode(ManipulatorMode::Universal);
-}
-
-void UniversalTransformManipulator2::activateClippingManipulator()
-{
-    activateMode(ManipulatorMode::Clipping);
-}
-
-void UniversalTransformManipulator2::activateAdditionalManipulator() { }
-
-void UniversalTransformManipulator2::activateTranslateRotateManipulator()
-{
-    activateMode(ManipulatorMode::TranslateRotate);
-}
-
-void UniversalTransformManipulator2::activateTranslateRotateScaleManipulator()
-{
-    activateMode(ManipulatorMode::TranslateRotateScale);
-}
-
-void UniversalTransformManipulator2::activateTranslateRotateYZManipulator()
-{
-    activateMode(ManipulatorMode::TranslateRotateYZ);
-}
-
-void UniversalTransformManipulator2::activateMode(ManipulatorMode newMode)
-{
-    gizmo->activateMode(static_cast<int>(newMode));
-}
-
-UniversalTransformManipulator2::ManipulatorMode UniversalTransformManipulator2::getMode() const
-{
-    return static_cast<ManipulatorMode>(gizmo->getMode());
-}
-
-void UniversalTransformManipulator2::showActiveManipulator()
-{
-    gizmo->showActive();
-}
-
-void UniversalTransformManipulator2::hideManipulator()
-{
-    gizmo->hide();
-}
-
 // == All instances
-
-void UniversalTransformManipulator2::createInstance()
-{
-    instances.share(new UniversalTransformManipulator2);
-}
-
-void UniversalTransformManipulator2::setManipulatorSize(float size)
-{
-    instances.setSize(size);
-}
-
-float UniversalTransformManipulator2::getManipulatorSize()
-{
-    return instances.m_ManipulatorSize;
-}
 
 bool UniversalTransformManipulator2::isLocalSpaceManipulator()
 {
@@ -191,11 +92,6 @@ void UniversalTransformManipulator2::setLocalSpaceManipulator(bool local)
 {
     settings.m_LocalSpaceManipulator = local;
     instances.updateShared();
-}
-
-void UniversalTransformManipulator2::updateAllManipulators()
-{
-    instances.updateAll();
 }
 
 }  // namespace nbec::manipulator

@@ -65,7 +65,8 @@ public:
     /// Unregisters the instance and releases the handles.
     ~UniversalTransformManipulator2() override;
 
-    void setNode(const osg::NodePtr& node) override;
+    void setNode(const osg::NodePtr& node) override { setNode(node, {}); }
+
     /// Binds the gizmo to a node and to further ones that every drag transforms along with it, each
     /// about its own pivots. Further nodes that are null, given twice, or above or below another of
     /// the nodes are left out: they would be moved twice.
@@ -75,39 +76,62 @@ public:
     bool centerPivot();
 
     // Each shows the elements of its mode in their idle colours and re-places the gizmo.
-    virtual void activateRotatePivotManipulator();
-    virtual void activateScalePivotManipulator();
-    virtual void activateTranslateManipulator();
-    virtual void activateRotateManipulator();
-    virtual void activateScaleManipulator();
-    virtual void activateUniversalManipulator();
-    virtual void activateClippingManipulator();
+    virtual void activateRotatePivotManipulator() { activateMode(ManipulatorMode::RotatePivot); }
+
+    virtual void activateScalePivotManipulator() { activateMode(ManipulatorMode::ScalePivot); }
+
+    virtual void activateTranslateManipulator() { activateMode(ManipulatorMode::Translate); }
+
+    virtual void activateRotateManipulator() { activateMode(ManipulatorMode::Rotate); }
+
+    virtual void activateScaleManipulator() { activateMode(ManipulatorMode::Scale); }
+
+    virtual void activateUniversalManipulator() { activateMode(ManipulatorMode::Universal); }
+
+    virtual void activateClippingManipulator() { activateMode(ManipulatorMode::Clipping); }
+
     /// For subclasses with handles of their own; does nothing here.
-    virtual void activateAdditionalManipulator();
-    virtual void activateTranslateRotateManipulator();
-    virtual void activateTranslateRotateScaleManipulator();
-    virtual void activateTranslateRotateYZManipulator();
+    virtual void activateAdditionalManipulator() { }
+
+    virtual void activateTranslateRotateManipulator()
+    {
+        activateMode(ManipulatorMode::TranslateRotate);
+    }
+
+    virtual void activateTranslateRotateScaleManipulator()
+    {
+        activateMode(ManipulatorMode::TranslateRotateScale);
+    }
+
+    virtual void activateTranslateRotateYZManipulator()
+    {
+        activateMode(ManipulatorMode::TranslateRotateYZ);
+    }
 
     /// Shows the handles of the current mode and re-places the gizmo; hides them without a node.
-    virtual void showActiveManipulator();
+    virtual void showActiveManipulator() { gizmo->showActive(); }
+
     /// Hides all handles.
-    virtual void hideManipulator();
+    virtual void hideManipulator() { gizmo->hide(); }
 
     /// Creates a gizmo and makes it the shared instance; an earlier shared instance is destroyed.
-    static void createInstance();
+    static void createInstance() { instances.share(new UniversalTransformManipulator2); }
+
     /// Size of all gizmos in perspective views, 0 <= size < 200, default 32. The shared instance is
     /// re-placed at once, others by updateAllManipulators() or update(true).
-    static void setManipulatorSize(float size);
-    static float getManipulatorSize();
+    static void setManipulatorSize(float size) { instances.setSize(size); }
+
+    static float getManipulatorSize() { return instances.m_ManipulatorSize; }
+
     /// Aligns gizmos with the node's own axes or the world's; re-placed as by setManipulatorSize().
     static void setLocalSpaceManipulator(bool local);
     static bool isLocalSpaceManipulator();
 
     /// Re-places every live gizmo in the order of construction; for hosts whose camera has moved.
-    static void updateAllManipulators();
+    static void updateAllManipulators() { instances.updateAll(); }
 
     /// The family of handles shown; Translate after construction.
-    ManipulatorMode getMode() const;
+    ManipulatorMode getMode() const { return static_cast<ManipulatorMode>(gizmo->getMode()); }
 
     /// Switches snapping of this gizmo.
     void enableSnapping(bool on);
@@ -118,8 +142,10 @@ public:
 private:
     friend struct Instances<UniversalTransformManipulator2>;
 
-    void updateManipulator();
-    void activateMode(ManipulatorMode newMode);
+    void updateManipulator() { gizmo->placeIn(View()); }
+
+    void activateMode(ManipulatorMode newMode) { gizmo->activateMode(static_cast<int>(newMode)); }
+
     bool snappingActive() const;
     transform::TransformGizmo& course() const;
 
