@@ -24,7 +24,6 @@ namespace {
 
 using Mode = ManipulatorMode;
 using Active = ActiveMode;
-using Value = nbTransformModel::Value;
 using NodeIds = std::unordered_set<osg::UInt32>;
 
 constexpr osg::Int32 kTransformPermission = 19;
@@ -46,15 +45,6 @@ bool hasSelectedAncestor(const osg::NodePtr& node, const NodeIds& selected)
 osg::Vec3f toDegrees(const nbEulerAngles& anglesRad)
 {
     return nbEulerUtils::toVec3f(nbEulerUtils::toDegrees(anglesRad));
-}
-
-/// Calls a setter of the transform model for some nodes. @param value  gives that of an index
-template <class Setter, class ValueOf>
-void setValues(const std::vector<osg::NodePtr>& nodes, Setter set, ValueOf value)
-{
-    set(static_cast<osg::UInt32>(nodes.size()), [&](osg::UInt32 index) {
-        return Value({ nodes[index], static_cast<osg::Int32>(index) }, value(index));
-    });
 }
 
 /// Text of the values that a handle edits in a mode. Deliberate: the universal mode shows none,
@@ -331,82 +321,55 @@ DragStep TransformGizmo::turnAt(const osg::Pnt3f& point, const DragTrack& before
     return { { DragParameters::Kind::Angle, next.turned * kDegPerRad }, next };
 }
 
+/// New value of a target: one of the five transformations.
+osg::Vec3f TransformGizmo::valueOf(std::size_t target, const DragParameters& parameters)
+{
+    const TransformStart& start = drag.starts[target];
+    if (isRing(handle())) {
+        const double turnRad = parameters.values[0] / kDegPerRad;
+        if (movesPivot()) {
+            return toDegrees(turnedPivot(start, turnRad));
+        }
+        turned[target] = turnedAngles(start, turnRad, turned[target]);
+        return toDegrees(turned[target]);
+    }
+    if (movesPivot()) {
+        return movedPivot(start, parameters.vec3(), isLocal());
+    }
+    if (isScale(handle())) {
+        const double step = isSnapping() ? nbTransformModel::the()->getScalePrecision() : 0.0;
+        return scaledBy(start, handle(), parameters.first(), step);
+    }
+    return movedTranslation(start, parameters.vec3(), isLocal());
+}
+
 void TransformGizmo::apply(const DragParameters& parameters)
 {
+    nbTransformModel* const model = nbTransformModel::the();
+    const std::vector<osg::NodePtr> nodes = resolveTargets();
+    const auto count = static_cast<osg::UInt32>(nodes.size());
+    const auto values = [&](osg::UInt32 i) {
+        return nbTransformModel::Value({ nodes[i], static_cast<osg::Int32>(i) },
+                                       valueOf(i, parameters));
+    };
+    const bool worldSpace = !isLocal();
     if (isRing(handle())) {
-        movesPivot() ? rotatePivot(parameters.values[0]) : rotate(parameters.values[0]);
-    } else if (movesPivot()) {
-        translatePivot(parameters.vec3());
+        movesPivot() ? model->setRotationPivotOrientation(count, values)
+                     : model->setRotation(count, values);
+    } else if (shownMode() == Mode::RotatePivot) {
+        model->setRotationPivot(count, worldSpace, values);
+    } else if (shownMode() == Mode::ScalePivot) {
+        model->setScalePivot(count, worldSpace, values);
     } else if (isScale(handle())) {
-        scale(parameters.first());
+        model->setScale(count, values);
     } else {
-        translate(parameters.vec3());
+        model->setTranslation(count, worldSpace, values);
     }
 }
 
 void TransformGizmo::announce()
 {
     sendTransformationChanged();
-}
-
-// == The five transformations
-
-void TransformGizmo::translate(const osg::Vec3f& offset)
-{
-    const bool local = isLocal();
-    setValues(
-        resolveTargets(),
-        [local](osg::UInt32 count, auto values) {
-            nbTransformModel::the()->setTranslation(count, !local, values);
-        },
-        [&](osg::UInt32 i) { return movedTranslation(drag.starts[i], offset, local); });
-}
-
-void TransformGizmo::rotate(double angleDeg)
-{
-    const double angleRad = angleDeg / kDegPerRad;
-    setValues(
-        resolveTargets(),
-        [](osg::UInt32 count, auto values) { nbTransformModel::the()->setRotation(count, values); },
-        [&](osg::UInt32 i) {
-            turned[i] = turnedAngles(drag.starts[i], angleRad, turned[i]);
-            return toDegrees(turned[i]);
-        });
-}
-
-void TransformGizmo::scale(float factor)
-{
-    nbTransformModel* const model = nbTransformModel::the();
-    const double step = isSnapping() ? model->getScalePrecision() : 0.0;
-    setValues(
-        resolveTargets(),
-        [model](osg::UInt32 count, auto values) { model->setScale(count, values); },
-        [&](osg::UInt32 i) { return scaledBy(drag.starts[i], handle(), factor, step); });
-}
-
-void TransformGizmo::translatePivot(const osg::Vec3f& offset)
-{
-    const bool local = isLocal();
-    const bool isRotatePivot = shownMode() == Mode::RotatePivot;
-    setValues(
-        resolveTargets(),
-        [local, isRotatePivot](osg::UInt32 count, auto values) {
-            nbTransformModel* const model = nbTransformModel::the();
-            isRotatePivot ? model->setRotationPivot(count, !local, values)
-                          : model->setScalePivot(count, !local, values);
-        },
-        [&](osg::UInt32 i) { return movedPivot(drag.starts[i], offset, local); });
-}
-
-void TransformGizmo::rotatePivot(double angleDeg)
-{
-    const double angleRad = angleDeg / kDegPerRad;
-    setValues(
-        resolveTargets(),
-        [](osg::UInt32 count, auto values) {
-            nbTransformModel::the()->setRotationPivotOrientation(count, values);
-        },
-        [&](osg::UInt32 i) { return toDegrees(turnedPivot(drag.starts[i], angleRad)); });
 }
 
 // == On-screen text

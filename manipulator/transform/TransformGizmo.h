@@ -67,12 +67,7 @@ private:
     osg::Quaternion orientationWorld(const osg::NodePtr& node) const;
     void placeMarks(float size);
     DragStep turnAt(const osg::Pnt3f& point, const DragTrack& before) const;
-
-    void translate(const osg::Vec3f& offset);
-    void rotate(double angleDeg);
-    void scale(float factor);
-    void translatePivot(const osg::Vec3f& offset);
-    void rotatePivot(double angleDeg);
+    osg::Vec3f valueOf(std::size_t target, const DragParameters& parameters);
 
     const TransformSettings* settings;
     std::vector<osg::UInt32> targetIds;  ///< the dragged node, then the further ones

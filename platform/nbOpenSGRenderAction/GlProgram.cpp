@@ -108,59 +108,48 @@ void GlProgram::destroy(Gl& gl)
     }
     id = 0;
     locations.clear();
-    literalLocations.clear();
 }
 
-GLint GlProgram::locate(Gl& gl, const std::string& name)
+GLint GlProgram::locate(Gl& gl, std::string_view name)
 {
     const auto known = locations.find(name);
     if (known != locations.end()) {
         return known->second;
     }
-    const GLint location = gl.glGetUniformLocation(id, name.c_str());
-    locations.emplace(name, location);
-    return location;
-}
-
-GLint GlProgram::locateLiteral(Gl& gl, const char* name)
-{
-    const auto known = literalLocations.find(name);
-    if (known != literalLocations.end()) {
-        return known->second;
-    }
-    const GLint location = gl.glGetUniformLocation(id, name);
-    literalLocations.emplace(name, location);
+    const std::string text(name);
+    const GLint location = gl.glGetUniformLocation(id, text.c_str());
+    locations.emplace(text, location);
     return location;
 }
 
 void GlProgram::set(Gl& gl, const char* name, const osg::Matrix& value)
 {
-    gl.glUniformMatrix4fv(locateLiteral(gl, name), 1, GL_FALSE, value.getValues());
+    gl.glUniformMatrix4fv(locate(gl, name), 1, GL_FALSE, value.getValues());
 }
 
 void GlProgram::set(Gl& gl, const char* name, float value)
 {
-    gl.glUniform1f(locateLiteral(gl, name), value);
+    gl.glUniform1f(locate(gl, name), value);
 }
 
 void GlProgram::set(Gl& gl, const char* name, GLint value)
 {
-    gl.glUniform1i(locateLiteral(gl, name), value);
+    gl.glUniform1i(locate(gl, name), value);
 }
 
 void GlProgram::set(Gl& gl, const char* name, float x, float y)
 {
-    gl.glUniform2f(locateLiteral(gl, name), x, y);
+    gl.glUniform2f(locate(gl, name), x, y);
 }
 
 void GlProgram::set(Gl& gl, const char* name, float x, float y, float z)
 {
-    gl.glUniform3f(locateLiteral(gl, name), x, y, z);
+    gl.glUniform3f(locate(gl, name), x, y, z);
 }
 
 void GlProgram::set(Gl& gl, const char* name, float x, float y, float z, float w)
 {
-    gl.glUniform4f(locateLiteral(gl, name), x, y, z, w);
+    gl.glUniform4f(locate(gl, name), x, y, z, w);
 }
 
 }  // namespace nbrender

@@ -5,8 +5,10 @@
 
 #include <QtGui/QOpenGLFunctions_3_3_Core>
 
+#include <functional>
+#include <map>
 #include <string>
-#include <unordered_map>
+#include <string_view>
 
 namespace nbrender {
 
@@ -34,12 +36,8 @@ public:
 
     // == Uniforms; the program must be in use, names that it does not have are ignored
 
-    /// Location of a uniform, -1 if there is none; looked up once per name.
-    GLint locate(Gl& gl, const std::string& name);
-    /// The same for a string literal, told by its address.
-    GLint locateLiteral(Gl& gl, const char* name);
-
-    // The names of these are string literals.
+    /// Location of a uniform, -1 if there is none; asked of the driver once per name.
+    GLint locate(Gl& gl, std::string_view name);
 
     void set(Gl& gl, const char* name, const osg::Matrix& value);
     void set(Gl& gl, const char* name, float value);
@@ -50,8 +48,7 @@ public:
 
 private:
     GLuint id = 0;
-    std::unordered_map<std::string, GLint> locations;
-    std::unordered_map<const void*, GLint> literalLocations;
+    std::map<std::string, GLint, std::less<>> locations;
 };
 
 }  // namespace nbrender
