@@ -47,24 +47,6 @@ void AbstractManipulator::deactivate(ManipulatorInteractionContext* /*ctx*/)
     reenablePreselection();
 }
 
-bool AbstractManipulator::startManipulator(ManipulatorInteractionContext* /*ctx*/,
-                                           const std::string& /*hint*/)
-{
-    return true;
-}
-
-bool AbstractManipulator::processManipulator(ManipulatorInteractionContext* /*ctx*/,
-                                             const std::string& /*hint*/)
-{
-    return true;
-}
-
-bool AbstractManipulator::stopManipulator(ManipulatorInteractionContext* /*ctx*/,
-                                          const std::string& /*hint*/)
-{
-    return true;
-}
-
 bool AbstractManipulator::hover(ManipulatorInteractionContext* ctx, const std::string& hint)
 {
     const bool handled = hoverManipulator(ctx, hint);
@@ -83,23 +65,6 @@ bool AbstractManipulator::reset(ManipulatorInteractionContext* ctx, const std::s
     return handled;
 }
 
-bool AbstractManipulator::hoverManipulator(ManipulatorInteractionContext* /*ctx*/,
-                                           const std::string& /*hint*/)
-{
-    return false;
-}
-
-bool AbstractManipulator::resetManipulator(ManipulatorInteractionContext* /*ctx*/,
-                                           const std::string& /*hint*/)
-{
-    return false;
-}
-
-bool AbstractManipulator::setManipulatorMode(const std::string& /*mode*/)
-{
-    return false;
-}
-
 void AbstractManipulator::setVisualisationRoot(const osg::NodePtr& root)
 {
     const osg::NodePtr previous = getVisualisationRoot();
@@ -115,11 +80,6 @@ void AbstractManipulator::setVisualisationRoot(const osg::NodePtr& root)
     if (isActive()) {
         attach(root, getVisualisation(), osg::FieldBits::AllFields);
     }
-}
-
-osg::NodePtr AbstractManipulator::getVisualisationRoot() const
-{
-    return visualisationRoot.get();
 }
 
 void AbstractManipulator::disablePreselection()

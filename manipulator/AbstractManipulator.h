@@ -36,9 +36,23 @@ public:
 
     /// Deliberate: the three drag operations answer true (handled) by default, hoverManipulator,
     /// resetManipulator and setManipulatorMode answer false.
-    bool startManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
-    bool processManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
-    bool stopManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
+    bool startManipulator(ManipulatorInteractionContext* /*ctx*/,
+                          const std::string& /*hint*/) override
+    {
+        return true;
+    }
+
+    bool processManipulator(ManipulatorInteractionContext* /*ctx*/,
+                            const std::string& /*hint*/) override
+    {
+        return true;
+    }
+
+    bool stopManipulator(ManipulatorInteractionContext* /*ctx*/,
+                         const std::string& /*hint*/) override
+    {
+        return true;
+    }
 
     /// Calls hoverManipulator() and keeps preselection off exactly while it answers true. @return
     /// its answer
@@ -47,14 +61,23 @@ public:
     /// Calls resetManipulator() and gives preselection back. @return its answer
     bool reset(ManipulatorInteractionContext* ctx, const std::string& hint) override;
 
-    bool hoverManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
-    bool resetManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
+    bool hoverManipulator(ManipulatorInteractionContext* /*ctx*/,
+                          const std::string& /*hint*/) override
+    {
+        return false;
+    }
+
+    bool resetManipulator(ManipulatorInteractionContext* /*ctx*/,
+                          const std::string& /*hint*/) override
+    {
+        return false;
+    }
 
     void setMousePosition(const osg::Pnt2f& position) override { mousePosition = position; }
 
     osg::Pnt2f getMousePosition() const override { return mousePosition; }
 
-    bool setManipulatorMode(const std::string& mode) override;
+    bool setManipulatorMode(const std::string& /*mode*/) override { return false; }
 
     /// Releases the visualisation root. Does not detach the visualisation: a manipulator is
     /// deactivated before it dies.
@@ -65,7 +88,7 @@ public:
     void setVisualisationRoot(const osg::NodePtr& root);
 
     /// The held root, null if none.
-    osg::NodePtr getVisualisationRoot() const;
+    osg::NodePtr getVisualisationRoot() const { return visualisationRoot.get(); }
 
 protected:
     /// Switches the scene's preselection off, if it is on, and remembers to have done so.

@@ -34,22 +34,18 @@ osg::Matrix parentToWorld(const osg::NodePtr& node)
     return parent != osg::NullFC ? parent->getToWorld() : osg::Matrix::identity();
 }
 
-osg::Pnt3f scalePivotInParent(const osg::Transform3DPtr& transform)
-{
-    osg::Vec3f place = transform->getTranslation() + transform->getRotatePivot();
-    const nbRotationMath::Rows& turn = transform->getWholeRotation();
-    const osg::Vec3f arm = transform->getScalePivot() - transform->getRotatePivot();
-    for (osg::UInt32 i = 0; i < 3; ++i) {
-        place[i] +=
-            static_cast<float>(turn[i][0] * arm.x() + turn[i][1] * arm.y() + turn[i][2] * arm.z());
-    }
-    return osg::Pnt3f(place);
-}
-
 osg::Pnt3f pivotWorld(const osg::NodePtr& node, const osg::Transform3DPtr& transform,
                       bool scalePivot)
 {
-    osg::Pnt3f world = pivotInParent(transform, scalePivot);
+    osg::Pnt3f world(transform->getTranslation() + transform->getRotatePivot());
+    if (scalePivot) {
+        const nbRotationMath::Rows& turn = transform->getWholeRotation();
+        const osg::Vec3f arm = transform->getScalePivot() - transform->getRotatePivot();
+        for (osg::UInt32 i = 0; i < 3; ++i) {
+            world[i] += static_cast<float>(turn[i][0] * arm.x() + turn[i][1] * arm.y() +
+                                           turn[i][2] * arm.z());
+        }
+    }
     parentToWorld(node).multMatrixPnt(world);
     return world;
 }

@@ -20,41 +20,6 @@ osg::Matrix targetToWorld(const osg::NodePtr& node);
 /// World from the frame of a node's parent; the identity for a node without a parent.
 osg::Matrix parentToWorld(const osg::NodePtr& node);
 
-/// Takes points from the frames of nodes' parents to the world, one after the other; the matrix is
-/// looked up once for nodes that follow each other below one parent. Nothing may move meanwhile.
-class ParentMatrix
-{
-public:
-    osg::Pnt3f toWorld(const osg::NodePtr& node, osg::Pnt3f point)
-    {
-        const osg::NodePtr parent = node->getParent();
-        if (parent != known) {
-            known = parent;
-            matrix = parentToWorld(node);
-            isIdentity = matrix == osg::Matrix::identity();
-        }
-        if (!isIdentity) {
-            matrix.multMatrixPnt(point);
-        }
-        return point;
-    }
-
-private:
-    osg::NodePtr known;
-    osg::Matrix matrix;
-    bool isIdentity = true;
-};
-
-/// A transform's scale pivot in the frame of the node's parent; see pivotWorld().
-osg::Pnt3f scalePivotInParent(const osg::Transform3DPtr& transform);
-
-/// A transform's pivot in the frame of the node's parent; see pivotWorld().
-inline osg::Pnt3f pivotInParent(const osg::Transform3DPtr& transform, bool scalePivot)
-{
-    return scalePivot ? scalePivotInParent(transform)
-                      : osg::Pnt3f(transform->getTranslation() + transform->getRotatePivot());
-}
-
 /// A transform's pivot in world space: parent * (translation + rotate pivot), or the image of the
 /// scale pivot under the transform without its scale, parent * T(translation) T(rotatePivot) R RO
 /// T(-rotatePivot) * scale pivot.

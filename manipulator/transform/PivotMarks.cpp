@@ -7,6 +7,8 @@
 
 #include <OpenSG/OSGGeometry.h>
 
+#include <algorithm>
+
 namespace nbec::manipulator::transform {
 
 namespace {
@@ -14,20 +16,13 @@ namespace {
 /// Exactly the same; the operators of points allow for a tolerance, which small scenes feel.
 bool isSame(const PivotMarks::Places& left, const PivotMarks::Places& right)
 {
-    if (left.size() != right.size()) {
-        return false;
-    }
-    for (std::size_t i = 0; i < left.size(); ++i) {
-        if (left[i].has_value() != right[i].has_value()) {
-            return false;
-        }
-        if (left[i] &&
-            (left[i]->x() != right[i]->x() || left[i]->y() != right[i]->y() ||
-             left[i]->z() != right[i]->z())) {
-            return false;
-        }
-    }
-    return true;
+    return std::equal(
+        left.begin(), left.end(), right.begin(), right.end(),
+        [](const auto& one, const auto& other) {
+            return one.has_value() == other.has_value() &&
+                (!one ||
+                 (one->x() == other->x() && one->y() == other->y() && one->z() == other->z()));
+        });
 }
 
 }  // namespace

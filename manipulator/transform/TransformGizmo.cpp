@@ -215,16 +215,11 @@ void TransformGizmo::place(const View& view)
 void TransformGizmo::placeMarks(float size)
 {
     PivotMarks::Places places(targetIds.size() - 1);
-    ParentMatrix parents;
     for (std::size_t i = 0; i < places.size(); ++i) {
-        const auto node = resolveContainer<osg::NodePtr>(targetIds[i + 1]);
-        if (node == osg::NullFC) {
-            continue;
+        if (const auto node = resolveContainer<osg::NodePtr>(targetIds[i + 1]);
+            node != osg::NullFC) {
+            places[i] = anchorWorld(node);
         }
-        const auto transform = osg::Transform3DPtr::dcast(node->getCore());
-        places[i] = transform == osg::NullFC
-            ? anchorWorld(node)
-            : parents.toWorld(node, pivotInParent(transform, isAtScalePivot()));
     }
     marks.draw(places, size * kMarkReach);
 }
