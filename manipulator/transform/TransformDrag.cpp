@@ -19,18 +19,17 @@ constexpr float kLeastAxisRatio = 0.01F;
 constexpr float kLeastUniformFactor = 0.1F;
 constexpr float kUniformSpeed = 0.1F;
 
-/// Quaternion of an angle about an axis of any length; the identity about one that is not longer
-/// than 1e-6.
-nbQuaterniond turnAbout(const osg::Vec3f& axis, double angleRad)
+/// Quaternion of a turn about an axis of any length; the identity about one that is not longer than
+/// 1e-6.
+nbQuaterniond turnAbout(const osg::Vec3f& axis, const HalfTurn& turn)
 {
-    nbQuaterniond turn;
+    nbQuaterniond rotation;
     const double length = osg::Vec3d(axis.x(), axis.y(), axis.z()).length();
     if (length > static_cast<double>(kShortest)) {
-        const double sine = std::sin(angleRad / 2) / length;
-        turn.setValueAsQuat(axis.x() * sine, axis.y() * sine, axis.z() * sine,
-                            std::cos(angleRad / 2));
+        const double sine = turn.sine / length;
+        rotation.setValueAsQuat(axis.x() * sine, axis.y() * sine, axis.z() * sine, turn.cosine);
     }
-    return turn;
+    return rotation;
 }
 
 osg::Vec3f unitVector(osg::Vec3f vector)
@@ -191,6 +190,7 @@ TransformStart captureStart(const osg::NodePtr& node, const GrabbedGizmo& grabbe
         start.anglesRad = nbEulerUtils::fromDegrees(
             transform->getRotation(),
             nbEulerUtils::getOrderFromString(transform->getEulerRotationOrder()));
+        start.quaternion = nbEulerUtils::QuatFromEul(start.anglesRad);
     }
     return start;
 }
@@ -287,16 +287,22 @@ osg::Vec3f movedPivot(const TransformStart& start, const osg::Vec3f& offset, boo
     return isLocal ? start.pivotLocal + rotated(start.rotation, offset) : start.pivotWorld + offset;
 }
 
-nbEulerAngles turnedAngles(const TransformStart& start, double turnRad, const nbEulerAngles& before)
+HalfTurn::HalfTurn(double turnRad)
+    : sine(std::sin(turnRad / 2))
+    , cosine(std::cos(turnRad / 2))
+{ }
+
+nbEulerAngles turnedAngles(const TransformStart& start, const HalfTurn& turn,
+                           const nbEulerAngles& before)
 {
-    return nbEulerUtils::nearest(turnedPivot(start, turnRad), before);
+    return nbEulerUtils::nearest(turnedPivot(start, turn), before);
 }
 
-nbEulerAngles turnedPivot(const TransformStart& start, double turnRad)
+nbEulerAngles turnedPivot(const TransformStart& start, const HalfTurn& turn)
 {
-    const nbQuaterniond turned = nbRotationMath::product(
-        turnAbout(start.ringAxis, turnRad), nbEulerUtils::QuatFromEul(start.anglesRad));
-    return nbEulerUtils::EulFromQuat(turned, start.anglesRad.order);
+    return nbEulerUtils::EulFromQuat(
+        nbRotationMath::product(turnAbout(start.ringAxis, turn), start.quaternion),
+        start.anglesRad.order);
 }
 
 osg::Vec3f scaledBy(const TransformStart& start, ActiveMode handle, float factor, double step)

@@ -30,6 +30,7 @@ struct TransformStart
     osg::Vec3f pivotWorld;
     osg::Quaternion rotation;  ///< without the rotation orientation
     nbEulerAngles anglesRad;  ///< of the same, in the node's order
+    nbQuaterniond quaternion;  ///< of these angles
     osg::Vec3f ringAxis;  ///< axis of the grabbed ring in the frame of the parent, unit length;
                           ///< reversed under a mirrored parent, which turns the sense of rotation
 };
@@ -94,13 +95,22 @@ double factorAt(const TransformDrag& drag, const osg::Pnt3f& point, osg::UInt32 
 osg::Vec3f movedTranslation(const TransformStart& start, const osg::Vec3f& offset, bool isLocal);
 osg::Vec3f movedPivot(const TransformStart& start, const osg::Vec3f& offset, bool isLocal);
 
+/// A turn for all targets of a step: half its angle as sine and cosine.
+struct HalfTurn
+{
+    explicit HalfTurn(double turnRad);
+
+    double sine;
+    double cosine;
+};
+
 /// Angles after a turn about the ring's axis. Of all angles for that rotation they are those
 /// nearest to the ones before, so that values go on smoothly past whole turns.
-nbEulerAngles turnedAngles(const TransformStart& start, double turnRad,
+nbEulerAngles turnedAngles(const TransformStart& start, const HalfTurn& turn,
                            const nbEulerAngles& before);
 
 /// Angles of a pivot's orientation after the same turn.
-nbEulerAngles turnedPivot(const TransformStart& start, double turnRad);
+nbEulerAngles turnedPivot(const TransformStart& start, const HalfTurn& turn);
 
 /// Scale times a factor along the axis of a handle, or all; these components are snapped to a step.
 osg::Vec3f scaledBy(const TransformStart& start, ActiveMode handle, float factor, double step);

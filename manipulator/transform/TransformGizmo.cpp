@@ -316,16 +316,16 @@ DragStep TransformGizmo::turnAt(const osg::Pnt3f& point, const DragTrack& before
     return { { DragParameters::Kind::Angle, next.turned * kDegPerRad }, next };
 }
 
-/// New value of a target: one of the five transformations.
-osg::Vec3f TransformGizmo::valueOf(std::size_t target, const DragParameters& parameters)
+/// New value of a target: one of the five transformations. @param turn  by a ring, for all
+osg::Vec3f TransformGizmo::valueOf(std::size_t target, const DragParameters& parameters,
+                                   const HalfTurn& turn)
 {
     const TransformStart& start = drag.starts[target];
     if (isRing(handle())) {
-        const double turnRad = parameters.values[0] / kDegPerRad;
         if (movesPivot()) {
-            return toDegrees(turnedPivot(start, turnRad));
+            return toDegrees(turnedPivot(start, turn));
         }
-        turned[target] = turnedAngles(start, turnRad, turned[target]);
+        turned[target] = turnedAngles(start, turn, turned[target]);
         return toDegrees(turned[target]);
     }
     if (movesPivot()) {
@@ -343,9 +343,10 @@ void TransformGizmo::apply(const DragParameters& parameters)
     nbTransformModel* const model = nbTransformModel::the();
     const std::vector<osg::NodePtr> nodes = resolveTargets();
     const auto count = static_cast<osg::UInt32>(nodes.size());
+    const HalfTurn turn(isRing(handle()) ? parameters.values[0] / kDegPerRad : 0.0);
     const auto values = [&](osg::UInt32 i) {
         return nbTransformModel::Value({ nodes[i], static_cast<osg::Int32>(i) },
-                                       valueOf(i, parameters));
+                                       valueOf(i, parameters, turn));
     };
     const bool worldSpace = !isLocal();
     if (isRing(handle())) {

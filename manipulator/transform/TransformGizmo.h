@@ -67,7 +67,7 @@ private:
     osg::Quaternion orientationWorld(const osg::NodePtr& node) const;
     void placeMarks(float size);
     DragStep turnAt(const osg::Pnt3f& point, const DragTrack& before) const;
-    osg::Vec3f valueOf(std::size_t target, const DragParameters& parameters);
+    osg::Vec3f valueOf(std::size_t target, const DragParameters& parameters, const HalfTurn& turn);
 
     const TransformSettings* settings;
     std::vector<osg::UInt32> targetIds;  ///< the dragged node, then the further ones

@@ -27,7 +27,8 @@ nbEulerAngles makeAngles(const Angles& values, int order)
 /// The angle plus whole turns that is nearest to another.
 double unwound(double angle, double reference)
 {
-    return angle + 2.0 * kPi * std::round((reference - angle) / (2.0 * kPi));
+    constexpr double kTurnsPerRad = 0.5 / kPi;
+    return angle + 2.0 * kPi * std::round((reference - angle) * kTurnsPerRad);
 }
 
 double squaredDistance(const Angles& a, const Angles& b)
