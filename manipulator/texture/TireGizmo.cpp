@@ -4,8 +4,8 @@
 #include "manipulator/course/ValueText.h"
 #include "manipulator/handles/HandleGroup.h"
 #include "manipulator/handles/HandleNodes.h"
-#include "manipulator/texture/AxisHandles.h"
 #include "manipulator/texture/TextureDragMath.h"
+#include "manipulator/texture/TextureHandles.h"
 
 #include <nbKernel/nbController.h>
 #include <nbOpenSGUberMaterial/nbStateChunkBase.h>
@@ -31,14 +31,9 @@ constexpr float kLeastPart = 0.001F;
 constexpr float kLeastSize = 1e-20F;
 constexpr const char* kChangedSuffix = "::changedTireManipulator";
 
-constexpr int number(Handle handle)
-{
-    return static_cast<int>(handle);
-}
-
 HandleRow single(const char* name, Handle handle, int group, HandleShape shape, std::size_t color)
 {
-    return { name, number(handle), group, { axisPart(shape, color) } };
+    return { name, number(handle), group, { handlePart(shape, color) } };
 }
 
 /// Rows of the handles that are moved to where the projection ends.
@@ -95,7 +90,7 @@ osg::Vec3f pictureEnd(const TireValues& values)
 }  // namespace
 
 TireGizmo::TireGizmo(const float& size)
-    : AnchoredGizmo(handleTable(), makeAxisMaterials(true), static_cast<int>(Mode::Universal), size)
+    : AnchoredGizmo(handleTable(), makeAxisMaterials(true), number(Mode::Universal), size)
 {
     root = makeHandleRootOver(handles.getRoot());
 }

@@ -4,7 +4,7 @@
 #include "manipulator/drag/DragGeometry.h"
 #include "manipulator/handles/HandleGroup.h"
 #include "manipulator/handles/HandleNodes.h"
-#include "manipulator/texture/AxisHandles.h"
+#include "manipulator/texture/TextureHandles.h"
 
 #include <nbKernel/nbController.h>
 #include <nbOpenSGUberMaterial/nbStateChunkBase.h>
@@ -26,17 +26,12 @@ constexpr const char* kChangedSuffix = "::changedTriplanarManipulator";
 constexpr std::array<const char*, 3> kOffsetNames = { "XOffset", "YOffset", "ZOffset" };
 constexpr std::array<const char*, 3> kScaleNames = { "XScale", "YScale", "ZScale" };
 
-constexpr int number(Handle handle)
-{
-    return static_cast<int>(handle);
-}
-
 HandleRow uniformScale()
 {
     HandleRow row = { "grid",
                       number(Handle::ScaleUniform),
                       -1,
-                      { axisPart(HandleShape::Cube, YellowMaterial, HandleHolder::Euler) },
+                      { handlePart(HandleShape::Cube, YellowMaterial, HandleHolder::Euler) },
                       kAllModes & ~modes(Mode::Rotate) };
     row.holder = HandleHolder::Euler;
     return row;
@@ -49,13 +44,14 @@ HandleRow scaleHandle(const char* name, Handle handle, std::size_t axis)
     std::array<float, 3> end = middle;
     middle[axis] = kHandleEnd / 2;
     end[axis] = kHandleEnd;
-    HandlePart box = axisPart(HandleShape::Cube, LightRedMaterial + axis, HandleHolder::Euler, end);
+    HandlePart box =
+        handlePart(HandleShape::Cube, LightRedMaterial + axis, HandleHolder::Euler, end);
     box.colors.special = axis;
     HandleRow row = { name,
                       number(handle),
                       kScaleGroup,
-                      { axisPart(HandleShape::LongScaleShaft, RedLineMaterial + axis,
-                                 HandleHolder::Euler, middle, kTurns[axis]),
+                      { handlePart(HandleShape::LongScaleShaft, RedLineMaterial + axis,
+                                   HandleHolder::Euler, middle, kTurns[axis]),
                         box } };
     row.holder = HandleHolder::Euler;
     row.litWith = number(Handle::ScaleUniform);
@@ -66,7 +62,7 @@ HandleRow ring(const char* name, Handle handle, std::size_t axis)
 {
     constexpr std::array<Turn, 3> kTurns = { Turn::ZOntoX, Turn::OntoZ, Turn::None };
     HandleRow row = {
-        name, number(handle), kRotateGroup, { axisPart(HandleShape::SolidBigRing, axis) }
+        name, number(handle), kRotateGroup, { handlePart(HandleShape::SolidBigRing, axis) }
     };
     row.turn = kTurns[axis];
     return row;
@@ -108,7 +104,7 @@ osg::Vec2f reciprocals(const osg::Vec2f& pair)
 }  // namespace
 
 TriplanarGizmo::TriplanarGizmo(const float& size)
-    : AnchoredGizmo(handleTable(), makeAxisMaterials(false), static_cast<int>(Mode::Initial), size)
+    : AnchoredGizmo(handleTable(), makeAxisMaterials(false), number(Mode::Initial), size)
 {
     root = makeHandleRootOver(handles.getRoot());
 }
@@ -120,7 +116,7 @@ std::unique_ptr<AnchoredGizmo> TriplanarGizmo::clone() const
 
 void TriplanarGizmo::showActive()
 {
-    if (getMode() == static_cast<int>(Mode::Initial)) {
+    if (getMode() == number(Mode::Initial)) {
         handles.showRoot(true);
     } else {
         AnchoredGizmo::showActive();

@@ -2,8 +2,8 @@
 #include "manipulator/texture/UVGizmo.h"
 
 #include "manipulator/handles/HandleGroup.h"
-#include "manipulator/handles/HandleMaterials.h"
 #include "manipulator/handles/HandleNodes.h"
+#include "manipulator/texture/TextureHandles.h"
 
 #include <nbKernel/nbOSGWidget.h>
 #include <nbOpenSGUberMaterial/nbStateChunkBase.h>
@@ -24,9 +24,7 @@ using Kind = DragParameters::Kind;
 constexpr int kTranslateGroup = 0;
 constexpr int kRotateGroup = 1;
 constexpr int kScaleGroup = 2;
-constexpr float kTrace = kTraceOfTransparency;
-constexpr int kSolid = handleSortKey::kSolid;
-constexpr int kLight = handleSortKey::kLine;
+constexpr std::size_t kLightYellow = OwnMaterial;
 constexpr float kOrthographicRootScale = 1.25F;
 /// With these the handles are as large as a triplanar gizmo's: 20.16 = 672 * 0.03, 25 = 20 * 1.25.
 constexpr double kDistancePerScale = 20.16;
@@ -34,82 +32,44 @@ constexpr float kDiagonalsPerScale = 25.0F;
 constexpr float kOffsetPerPixel = 1.0F / 512.0F;
 constexpr const char* kChangedSuffix = "::changedUVManipulator";
 
-enum UVMaterial : std::size_t
+/// A part that has another colour while only handles that scale are shown.
+HandlePart switching(HandleShape shape, std::size_t idle, std::size_t special)
 {
-    Red,
-    Green,
-    LightRed,
-    LightGreen,
-    Blue,
-    Orange,
-    LightYellow,
-    Yellow
-};
-
-/// In the order of UVMaterial.
-constexpr std::array<HandleMaterialRow, Yellow + 1> kMaterials = {
-    { { 1.0F, 0.0F, 0.0F, kTrace, kSolid },
-      { 0.0F, 1.0F, 0.0F, kTrace, kSolid },
-      { 1.0F, 0.5F, 0.5F, kTrace, kLight },
-      { 0.5F, 1.0F, 0.5F, kTrace, kLight },
-      { 0.0F, 0.0F, 1.0F, kTrace, kSolid },
-      { 1.0F, 0.5F, 0.0F, kTrace, kSolid },
-      { 1.0F, 1.0F, 0.5F, kTrace, kLight },
-      { 1.0F, 1.0F, 0.0F, kTrace, kLight } }
-};
-
-/// A part whose shape lies where it belongs.
-HandlePart part(HandleShape shape, UVMaterial idle, UVMaterial special)
-{
-    return { shape, { idle, Orange, special } };
-}
-
-HandlePart part(HandleShape shape, UVMaterial color)
-{
-    return part(shape, color, color);
-}
-
-HandleRow row(const char* name, Handle handle, int group, std::vector<HandlePart> parts,
-              const std::array<float, 3>& place = {}, Turn turn = Turn::None)
-{
-    HandleRow made = { name, static_cast<int>(handle), group, std::move(parts) };
-    made.place = place;
-    made.turn = turn;
-    return made;
+    return { shape, { idle, HighlightMaterial, special } };
 }
 
 /// A handle that scales one component; the box that scales both takes its highlight along.
-HandleRow scaleRow(const char* name, Handle handle, std::vector<HandlePart> parts)
+/// @param axis  0 or 1
+HandleRow scaleRow(const char* name, Handle handle, HandleShape shaft, HandleShape tab,
+                   std::size_t axis)
 {
-    HandleRow made = row(name, handle, kScaleGroup, std::move(parts));
-    made.litWith = static_cast<int>(Handle::ScaleUniform);
-    return made;
+    HandleRow row = handleRow(name, number(handle), kScaleGroup,
+                              { switching(shaft, LightRedMaterial + axis, axis),
+                                switching(tab, LightRedMaterial + axis, axis) });
+    row.litWith = number(Handle::ScaleUniform);
+    return row;
 }
 
 HandleTable makeTable()
 {
-    HandleRow grid = row("grid", Handle::ScaleUniform, kScaleGroup,
-                         { part(HandleShape::ScaleTabXY, LightYellow, Yellow) });
+    HandleRow grid =
+        handleRow("grid", number(Handle::ScaleUniform), kScaleGroup,
+                  { switching(HandleShape::ScaleTabXY, kLightYellow, YellowMaterial) });
     grid.visibleIn = kAllModes & ~modes(Mode::Rotate);
     HandleTable table;
     table.rows = {
-        row("xaShape", Handle::TranslateU, kTranslateGroup,
-            { part(HandleShape::SolidArrowShaft, Red), part(HandleShape::SolidArrowHead, Red) },
-            { 1.0F, 0.0F, 0.0F }, Turn::OntoX),
-        row("yaShape", Handle::TranslateV, kTranslateGroup,
-            { part(HandleShape::SolidArrowShaft, Green), part(HandleShape::SolidArrowHead, Green) },
-            { 0.0F, 1.0F, 0.0F }),
-        row("xyaShape", Handle::TranslateUV, kTranslateGroup,
-            { part(HandleShape::SolidPatch, Yellow), part(HandleShape::SolidBarX, Red),
-              part(HandleShape::SolidBarY, Green) }),
-        scaleRow("xsShape", Handle::ScaleU,
-                 { part(HandleShape::SolidScaleShaftX, LightRed, Red),
-                   part(HandleShape::ScaleTabX, LightRed, Red) }),
-        scaleRow("ysShape", Handle::ScaleV,
-                 { part(HandleShape::SolidScaleShaftY, LightGreen, Green),
-                   part(HandleShape::ScaleTabY, LightGreen, Green) }),
+        solidArrow("xaShape", number(Handle::TranslateU), kTranslateGroup, RedMaterial,
+                   { 1.0F, 0.0F, 0.0F }, Turn::OntoX),
+        solidArrow("yaShape", number(Handle::TranslateV), kTranslateGroup, GreenMaterial,
+                   { 0.0F, 1.0F, 0.0F }, Turn::None),
+        solidSquare("xyaShape", number(Handle::TranslateUV), kTranslateGroup, YellowMaterial),
+        scaleRow("xsShape", Handle::ScaleU, HandleShape::SolidScaleShaftX, HandleShape::ScaleTabX,
+                 0),
+        scaleRow("ysShape", Handle::ScaleV, HandleShape::SolidScaleShaftY, HandleShape::ScaleTabY,
+                 1),
         grid,
-        row("rotateShape", Handle::Rotate, kRotateGroup, { part(HandleShape::SolidRing, Blue) }),
+        handleRow("rotateShape", number(Handle::Rotate), kRotateGroup,
+                  { handlePart(HandleShape::SolidRing, BlueMaterial) }),
     };
     table.groups = { modes(Mode::Universal, Mode::Translate),
                      modes(Mode::Universal, Mode::Rotate, Mode::RotateScale),
@@ -124,11 +84,18 @@ const HandleTable& handleTable()
     return table;
 }
 
+HandleSet::Materials makeMaterials()
+{
+    constexpr float kTrace = kTraceOfTransparency;
+    return makeTextureMaterials({ { 1.0F, 1.0F, 0.0F, kTrace, handleSortKey::kLine },
+                                  { 1.0F, 0.5F, 0.0F, kTrace, handleSortKey::kSolid },
+                                  { 1.0F, 1.0F, 0.5F, kTrace, handleSortKey::kLine } });
+}
+
 }  // namespace
 
 UVGizmo::UVGizmo(const float& size)
-    : AnchoredGizmo(handleTable(), makeHandleMaterials(kMaterials),
-                    static_cast<int>(Mode::Universal), size)
+    : AnchoredGizmo(handleTable(), makeMaterials(), number(Mode::Universal), size)
 {
     root = makeTransform3DNode(osg::Vec3f());
     nbNodeUtils::setName(root.get(), kHandleGroupName);
