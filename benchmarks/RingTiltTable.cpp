@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Prints what the same drag on a ring gives at each tilt of the ring against the line of sight.
 // With the argument "brief": every tenth tilt, as in the README.
-#include "tests/manipulator/support/RingTilt.h"
+#include "benchmarks/RingTilt.h"
 
 #include <algorithm>
 #include <array>

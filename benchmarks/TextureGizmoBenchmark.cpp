@@ -3,7 +3,7 @@
 // updates, and steps of a drag, nothing drawn: to a receiver that does nothing, and through the
 // embedded editor into the material and back into the gizmo.
 #include "benchmarks/TextureStage.h"
-#include "tests/manipulator/support/AnchoredTraits.h"
+#include "benchmarks/AnchoredTraits.h"
 
 namespace {
 

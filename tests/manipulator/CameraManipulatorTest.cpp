@@ -47,25 +47,6 @@ protected:
 
 }  // namespace
 
-TEST_F(CameraManipulatorTest, TreeReadsAsThatOfTheTransformGizmo)
-{
-    const osg::NodePtr root = cross.getVisualisation();
-    expectManipulatorRoot(root);
-    EXPECT_EQ(cross.getCollider(), root);
-    ASSERT_EQ(root->getNChildren(), 2U);
-    const osg::Int32 sortKeys[] = { 64015, 64017 };
-    for (osg::UInt32 i = 0; i < 2; ++i) {
-        EXPECT_EQ(nbNodeUtils::getName(root->getChild(i)), "ManipulatorDepthPassMaterialGroup");
-        const auto group = osg::MaterialGroupPtr::dcast(root->getChild(i)->getCore());
-        EXPECT_EQ(group->getMaterial()->getSortKey(), sortKeys[i]);
-    }
-    const auto line = osg::GeometryPtr::dcast(transformNode()->getChild(0)->getCore());
-    ASSERT_EQ(line->getPositions()->getSize(), 6U);
-    EXPECT_EQ(line->getPositions()->getValue(0), osg::Pnt3f(-0.25F, 0, 0));
-    EXPECT_EQ(line->getPositions()->getValue(5), osg::Pnt3f(0, 0, 0.25F));
-    EXPECT_EQ(colorOf(transformNode()->getChild(0)), "1 0.5 0");
-}
-
 TEST_F(CameraManipulatorTest, ShowsExactlyWhileBoundToALiveNode)
 {
     EXPECT_FALSE(isShown(transformNode()));
@@ -118,16 +99,6 @@ TEST_F(CameraManipulatorTest, AnOrthographicViewThatIsResizedIsNoticed)
     scene.lookFrom(osg::Pnt3f(0, 0, 11));
     cross.update(false);
     EXPECT_NEAR(placement()->getScale().x(), camera->getNearPlaneDiagonal() / 20, 1e-6F);
-}
-
-TEST_F(CameraManipulatorTest, SizeOfTwoHundredIsNotGuarded)
-{
-    CameraManipulator::setManipulatorSize(200.0F);
-    setCamera(45.0F, 12.0F);
-    cross.setNode(scene.node);
-    CameraManipulator::setManipulatorSize(32.0F);
-
-    EXPECT_FALSE(std::isfinite(placement()->getScale().x()));
 }
 
 TEST_F(CameraManipulatorTest, TakesNoDragAndNoHover)

@@ -115,24 +115,6 @@ TEST_F(PerspectiveMatchManipulatorTest, EveryLineIsReadAndWrittenUnderItsOwnNumb
     }
 }
 
-TEST_F(PerspectiveMatchManipulatorTest, TheWayCountsFromTheFirstStepOfAGrab)
-{
-    const QLineF before = match().getXLine1();
-    const osg::Pnt2f from = scene.pixelOf(before.center());
-
-    ASSERT_TRUE(scene.grab(before.center()));
-    EXPECT_TRUE(scene.send("process", from + osg::Vec2f(100, 0)));
-    expectLine(match().getXLine1(), before, "the first step moves nothing");
-    EXPECT_EQ(stepCount(), 0);
-    for (int i = 1; i <= 50; ++i) {
-        EXPECT_TRUE(scene.send("process", from + osg::Vec2f(100.0F + static_cast<float>(i), 0)));
-    }
-    expectLine(match().getXLine1(), before.translated(0.05, 0), "nothing adds up");
-    EXPECT_TRUE(scene.send("process", from + osg::Vec2f(100, 0)));
-    expectLine(match().getXLine1(), before, "back at its start");
-    EXPECT_TRUE(scene.send("stop", from));
-}
-
 TEST_F(PerspectiveMatchManipulatorTest, EveryStepButTheFirstIsAnUndoStepWithATitle)
 {
     const QLineF before = match().getYLine2();
@@ -212,26 +194,6 @@ TEST_F(PerspectiveMatchManipulatorTest, ALockedCameraRefusesSilently)
     scene.cameraNode().setLocked(false);
 }
 
-TEST_F(PerspectiveMatchManipulatorTest, ACameraThatIsDestroyedReadsAsNone)
-{
-    osg::RefPtr<osg::UberCameraPtr> own(osg::UberCamera::create());
-    const nbdPerspectiveMatch ownMatch =
-        nbdCameraNode(own->getInternalParentNode().getFieldContainerId()).getPerspectiveMatch();
-    ownMatch.setXLine1(QLineF(0.2, 0.2, 0.5, 0.4));
-    gizmo.setCamera(own.get());
-    const osg::Pnt2f from = scene.pixelOf(QPointF(0.2, 0.2));
-    ASSERT_TRUE(scene.grab(QPointF(0.2, 0.2)));
-    scene.send("process", from);
-
-    own = osg::NullFC;
-
-    EXPECT_TRUE(scene.send("process", from + osg::Vec2f(10, 0)));
-    EXPECT_EQ(stepCount(), 0);
-    EXPECT_TRUE(drawnLine(gizmo, 1).isNull());
-    EXPECT_TRUE(scene.send("stop", from));
-    EXPECT_FALSE(scene.send("hover", from));
-}
-
 // == Hovering, grabbing and the magnifier
 
 TEST_F(PerspectiveMatchManipulatorTest, AViewWithoutAreaKeepsItsUnit)
@@ -274,20 +236,6 @@ TEST_F(PerspectiveMatchManipulatorTest, HoverHighlightsAndStartNeedsIt)
     EXPECT_TRUE(gizmo.resetManipulator(&scene.context, "select"));
     EXPECT_FALSE(isHighlighted(gizmo, 1, 2));
     EXPECT_FALSE(scene.send("start", scene.pixelOf(x1.p1()))) << "reset ends hovering";
-}
-
-TEST_F(PerspectiveMatchManipulatorTest, HoverIsRefusedWhileGrabbed)
-{
-    const QLineF z1 = match().getZLine1();
-    ASSERT_TRUE(scene.grab(match().getXLine1().p1()));
-
-    EXPECT_FALSE(scene.send("hover", scene.pixelOf(z1.center())));
-    EXPECT_FALSE(isHighlighted(gizmo, 5, 1));
-    EXPECT_TRUE(isHighlighted(gizmo, 1, 2)) << "what is held stays highlighted";
-    EXPECT_TRUE(scene.send("stop", scene.pixelOf(z1.center())));
-    EXPECT_FALSE(scene.send("stop", scene.pixelOf(z1.center()))) << "nothing held any more";
-    EXPECT_FALSE(scene.send("process", scene.pixelOf(z1.center())));
-    EXPECT_TRUE(scene.send("hover", scene.pixelOf(z1.center())));
 }
 
 TEST_F(PerspectiveMatchManipulatorTest, TheMagnifierShowsExactlyWhileAnEndIsHeld)

@@ -3,7 +3,7 @@
 // What was grabbed stays under the pointer, and the opposite edge or corner stays in the world.
 #include "manipulator/course/View.h"
 #include "manipulator/drag/DragGeometry.h"
-#include "tests/manipulator/support/PlanarScene.h"
+#include "tests/manipulator/support/TextureScene.h"
 #include "tests/platform/support/Edited.h"
 
 #include <nbKernel/nbController.h>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What the planar gizmo asks for, reads and tells around a drag.
-#include "tests/manipulator/support/PlanarScene.h"
+#include "tests/manipulator/support/TextureScene.h"
 #include "tests/platform/support/Edited.h"
 
 #include <nbKernel/nbController.h>
@@ -16,29 +16,6 @@ using Gizmo = PlanarTextureManipulator;
 constexpr float kTolerance = 1e-4F;
 
 }  // namespace
-
-TEST(PlanarTextureManipulator, PausesThePreviewAndResumesIt)
-{
-    PlanarScene planar;
-    const auto isEnabled = [&planar] { return attribute<bool>(planar.log.front(), "enabled"); };
-    const Pnt2f pixel = planar.drag.rayPixelOf(planar.onHandle("xaShape", Vec3f(1.9F, 0, 0)));
-
-    EXPECT_FALSE(planar.scene.send("stop", pixel));
-    planar.scene.send("hover", pixel);
-    EXPECT_FALSE(planar.scene.send("stop", pixel)) << "hovering is no start";
-    EXPECT_EQ(planar.takeNames(), Names());
-
-    EXPECT_TRUE(planar.scene.send("start", pixel));
-    ASSERT_EQ(planar.log.size(), 1U);
-    EXPECT_FALSE(isEnabled());
-    EXPECT_EQ(planar.takeNames(), kPause);
-    EXPECT_TRUE(planar.scene.send("stop", pixel));
-    EXPECT_TRUE(isEnabled());
-    EXPECT_EQ(planar.takeNames(), kResume);
-    EXPECT_FALSE(planar.scene.send("stop", pixel));
-    planar.gizmo.setNode(osg::NodePtr());
-    EXPECT_EQ(planar.takeNames(), Names()) << "nothing owed";
-}
 
 TEST(PlanarTextureManipulator, EndsAPauseThatIsOwed)
 {
@@ -63,13 +40,6 @@ TEST(PlanarTextureManipulator, EndsAPauseThatIsOwed)
     EXPECT_FALSE(planar.drag.stepTo(Vec2f(5, 0)));
     EXPECT_FALSE(planar.drag.release());
     EXPECT_EQ(planar.takeNames(), Names());
-
-    planar.gizmo.setNode(planar.scene.node);
-    ASSERT_TRUE(planar.grab("xaShape", Vec3f(1.9F, 0, 0)));
-    planar.log.clear();
-    planar.gizmo.deactivate(nullptr);
-    EXPECT_EQ(planar.takeNames(), kResume);
-    EXPECT_EQ(planar.gizmo.getActiveMode(), Gizmo::ActiveMode::None);
 }
 
 TEST(PlanarTextureManipulator, AsksForScaleValuesOnlyIfTheyAreUsed)

@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The whole loop of the texture gizmos at an anchor: drag, message, the host's editor, material,
 // and the gizmo that reads it again at the next drag.
-#include "manipulator/TireProjectionManipulator.h"
-#include "manipulator/TriplanarTextureManipulator.h"
-#include "manipulator/UVTextureManipulator.h"
-#include "tests/manipulator/support/AnchorScene.h"
+#include "tests/manipulator/support/TextureScene.h"
 
 #include <nbKernel/nbController.h>
 #include <nbKernelServices/nbUndoService.h>
@@ -17,7 +14,7 @@ namespace {
 constexpr float kTolerance = 2e-4F;
 
 /// A drag of a handle from its grab to the release, as one step of undo.
-void dragOnce(AnchorScene& at, const std::string& handle, const Vec3f& unit, const Vec2f& offsetPx)
+void dragOnce(TextureScene& at, const std::string& handle, const Vec3f& unit, const Vec2f& offsetPx)
 {
     nbUndoService::the()->beginGroup();
     ASSERT_TRUE(at.grab(handle, unit)) << handle;
@@ -39,7 +36,7 @@ TEST(TextureGizmoLoop, TriplanarDragsGoOnFromWhatTheLastOneLeft)
 {
     for (const bool orthographic : { false, true }) {
         TriplanarTextureManipulator gizmo;
-        AnchorScene at(gizmo, AnchorScene::Receiver::Editor);
+        TextureScene at(gizmo, TextureScene::Receiver::Editor);
         nbMaterialPreview preview;
         at.edit(at.parentCore(), [](const auto& parent) { parent->setScale(Vec3f(2, 2, 2)); });
         gizmo.activateUniversalManipulator();
@@ -82,7 +79,7 @@ TEST(TextureGizmoLoop, UVDragsGoOnFromWhatTheLastOneLeft)
 {
     for (const bool orthographic : { false, true }) {
         UVTextureManipulator gizmo;
-        AnchorScene at(gizmo, AnchorScene::Receiver::Editor);
+        TextureScene at(gizmo, TextureScene::Receiver::Editor);
         nbMaterialPreview preview;
         at.edit(at.core(), [](const auto& node) {
             node->setRotation(Vec3f(10, 20, 30));
@@ -112,7 +109,7 @@ TEST(TextureGizmoLoop, UVDragsGoOnFromWhatTheLastOneLeft)
 TEST(TextureGizmoLoop, FactorsThatAreNoneAreRefusedWithoutLoss)
 {
     UVTextureManipulator gizmo;
-    AnchorScene at(gizmo, AnchorScene::Receiver::Editor);
+    TextureScene at(gizmo, TextureScene::Receiver::Editor);
     at.editSettings([](const auto& settings) { settings->setRepeat(Vec2f(2, 4)); });
     gizmo.activateScaleManipulator();
     ASSERT_TRUE(at.scene.send("start", Pnt2f(402, 299)));
@@ -130,7 +127,7 @@ TEST(TextureGizmoLoop, TheTireGizmoStaysUnderThePointer)
 {
     for (const bool orthographic : { false, true }) {
         TireProjectionManipulator gizmo;
-        AnchorScene at(gizmo, AnchorScene::Receiver::Editor);
+        TextureScene at(gizmo, TextureScene::Receiver::Editor);
         nbMaterialPreview preview;
         at.edit(at.parentCore(), [](const auto& parent) { parent->setScale(Vec3f(2, 2, 2)); });
         at.edit(at.core(), [](const auto& node) { node->setRotation(Vec3f(0, 20, 10)); });

@@ -2,7 +2,7 @@
 // Handles and drags in an orthographic view.
 #include "manipulator/TireProjectionManipulator.h"
 
-#include "tests/manipulator/support/AnchorScene.h"
+#include "tests/manipulator/support/TextureScene.h"
 
 #include <nbKernel/nbController.h>
 #include <nbNotification/NotificationManager.h>
@@ -17,15 +17,15 @@ using Active = Gizmo::ActiveMode;
 constexpr float kTolerance = 2e-3F;
 const char* const kChanged = "label::changedTireManipulator";
 
-struct Tire : Anchored<Gizmo>
+struct Tire : TextureSceneOf<Gizmo>
 {
     Tire()
     {
-        at.editSettings([](const auto& settings) {
-            settings->setTireCenter(Vec3f(0.5F, 0, 0));
-            settings->setTireScaleRadius(2);
-            settings->setTireScaleHeight(3);
-            settings->setTireScaleU(0.25F);
+        editSettings([](const auto& values) {
+            values->setTireCenter(Vec3f(0.5F, 0, 0));
+            values->setTireScaleRadius(2);
+            values->setTireScaleHeight(3);
+            values->setTireScaleU(0.25F);
         });
     }
 };
@@ -49,7 +49,7 @@ void PrintTo(const DragRow& row, std::ostream* out)
 class TireDrags : public testing::TestWithParam<DragRow>
 { };
 
-Pnt3f inWorld(const AnchorScene& at, const Vec3f& fromCenter)
+Pnt3f inWorld(const TextureScene& at, const Vec3f& fromCenter)
 {
     Pnt3f point(at.settings->getTireCenter() + fromCenter);
     at.scene.node->getToWorld().multMatrixPnt(point);
@@ -65,7 +65,7 @@ TEST_P(TireDrags, SendTheNewValue)
     const DragRow& row = GetParam();
     for (const bool isScaled : { false, true }) {
         Tire tire;
-        AnchorScene& at = tire.at;
+        TextureScene& at = tire;
         at.look(row.camera, true);
         if (isScaled) {
             // Half as large in the object, twice as large in the world.
@@ -128,7 +128,7 @@ INSTANTIATE_TEST_SUITE_P(TireProjectionManipulator, TireDrags, testing::Values(
 TEST(TireProjectionManipulator, ShowsTheProjectionInTheNodesSpace)
 {
     Tire tire;
-    AnchorScene& at = tire.at;
+    TextureScene& at = tire;
     at.edit(at.core(), [](const auto& node) {
         node->setTranslation(Vec3f(0.3F, 0.2F, 0));
         node->setRotation(Vec3f(0, 30, 20));
@@ -144,21 +144,6 @@ TEST(TireProjectionManipulator, ShowsTheProjectionInTheNodesSpace)
         EXPECT_TRUE(at.onHandle("radiusRingShape", Vec3f(0, 0, 1))
                         .equals(inWorld(at, Vec3f(0, 0, 2)), kTolerance));
     }
-}
-
-TEST(TireProjectionManipulator, SetsShowTheirHandles)
-{
-    Tire tire;
-    const auto isHandleShown = [&tire](const char* name) { return isShown(tire.at.handle(name)); };
-    EXPECT_TRUE(isHandleShown("xaShape") && isHandleShown("radiusRingShape") &&
-                isHandleShown("scaleUShape"));
-    tire.gizmo.activateTranslateManipulator();
-    EXPECT_TRUE(isHandleShown("xaShape"));
-    EXPECT_FALSE(isHandleShown("radiusRingShape") || isHandleShown("heightShape"));
-    tire.gizmo.activateScaleManipulator();
-    EXPECT_FALSE(isHandleShown("xaShape"));
-    EXPECT_TRUE(isHandleShown("radiusRingShape") && isHandleShown("heightShape"));
-    EXPECT_EQ(tire.gizmo.getMode(), Gizmo::ManipulatorMode::Scale);
 }
 
 TEST(TireProjectionManipulator, WhatWasSetByHandIsNotFittedAgain)
@@ -181,7 +166,7 @@ TEST(TireProjectionManipulator, WhatWasSetByHandIsNotFittedAgain)
 
     for (const auto& row : rows) {
         Tire tire;
-        AnchorScene& at = tire.at;
+        TextureScene& at = tire;
         at.editSettings(
             [&row](const auto& settings) { settings->setTireAutoParameter(row.wasFitted); });
         at.look(Camera::Side, true);
@@ -203,7 +188,7 @@ TEST(TireProjectionManipulator, WhatWasSetByHandIsNotFittedAgain)
 TEST(TireProjectionManipulator, LengthsAreToldAndNeverFallBelowAThousandthOfTheirStart)
 {
     Tire tire;
-    AnchorScene& at = tire.at;
+    TextureScene& at = tire;
     at.look(Camera::Side, true);
     ASSERT_TRUE(at.grabAt("radiusShape", at.originOf("radiusShape")));
     EXPECT_TRUE(at.drag.stepTo(Vec2f(-290, 0)));

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What drags send, with numbers worked out by hand.
 #include "manipulator/TriplanarTextureManipulator.h"
-#include "tests/manipulator/support/AnchorScene.h"
+#include "tests/manipulator/support/TextureScene.h"
 
 #include <nbKernel/nbController.h>
 #include <nbKernel/nbScenegraph.h>
@@ -31,11 +31,11 @@ void setValues(const osg::ColorComponentSettingsPtr& settings)
     settings->setTriplanarRepeatV(kRepeatsV);
 }
 
-struct Triplanar : Anchored<Gizmo>
+struct Triplanar : TextureSceneOf<Gizmo>
 {
     Triplanar()
     {
-        at.editSettings(setValues);
+        editSettings(setValues);
         gizmo.activateUniversalManipulator();
     }
 };
@@ -108,7 +108,7 @@ TEST_P(TriplanarTranslations, LowerTwoOffsetsByAHundredthOfTheWay)
     const AxisRow& row = GetParam();
     for (const bool orthographic : { false, true }) {
         Triplanar triplanar;
-        AnchorScene& at = triplanar.at;
+        TextureScene& at = triplanar;
         at.look(row.camera, orthographic);
         ASSERT_TRUE(at.grab(row.handle, row.grab));
         EXPECT_EQ(at.takeNames(), kPause) << "the first step prepares";
@@ -143,7 +143,7 @@ TEST_P(TriplanarScales, MultiplyTwoScalesByTheRatioFromTheAnchor)
     const AxisRow& row = GetParam();
     for (const bool orthographic : { false, true }) {
         Triplanar triplanar;
-        AnchorScene& at = triplanar.at;
+        TextureScene& at = triplanar;
         at.look(row.camera, orthographic);
         ASSERT_TRUE(at.grab(row.handle, row.grab));
         EXPECT_TRUE(at.drag.dragBy(row.offsetPx));
@@ -190,7 +190,7 @@ TEST(TriplanarTextureManipulatorDrag, RingsSendRadiansWithTheirAsymmetry)
     for (const auto& row : rows) {
         for (const bool isTilted : { false, true }) {
             Triplanar triplanar;
-            AnchorScene& at = triplanar.at;
+            TextureScene& at = triplanar;
             triplanar.gizmo.setRingsTilted(isTilted);
             triplanar.gizmo.activateRotateManipulator();
             at.look(row.camera, false);
@@ -216,7 +216,7 @@ TEST(TriplanarTextureManipulatorDrag, RingsSeenFromTheSideCanBeTilted)
 {
     // From the front the ring about y is a line: its own plane is missed, or met far away.
     Triplanar triplanar;
-    AnchorScene& at = triplanar.at;
+    TextureScene& at = triplanar;
     triplanar.gizmo.activateRotateManipulator();
     ASSERT_TRUE(at.grab("ryShape", Vec3f(0.5F, 0, 1.41421F)));
     at.takeNames();
@@ -236,7 +236,7 @@ TEST(TriplanarTextureManipulatorDrag, TheBoxInTheMiddleScalesAllAHundredTimesMor
 {
     for (const bool isZUp : { false, true }) {
         Triplanar triplanar;
-        AnchorScene& at = triplanar.at;
+        TextureScene& at = triplanar;
         triplanar.gizmo.activateRotateScaleManipulator();
         at.look(Camera::Oblique, true);
         const osg::UberCameraPtr camera = at.scene.widget.getUberCamera();
@@ -265,7 +265,7 @@ TEST(TriplanarTextureManipulatorDrag, TheBoxInTheMiddleScalesAllAHundredTimesMor
 TEST(TriplanarTextureManipulatorDrag, ValuesComeFromTheEditorObjectBeforeTheMaterial)
 {
     Triplanar triplanar;
-    AnchorScene& at = triplanar.at;
+    TextureScene& at = triplanar;
     Panel panel;
     triplanar.gizmo.setGUI(&panel);
     EXPECT_EQ(triplanar.gizmo.getGUI(), &panel);
@@ -286,103 +286,6 @@ TEST(TriplanarTextureManipulatorDrag, ValuesComeFromTheEditorObjectBeforeTheMate
     ASSERT_TRUE(at.grab("xaShape", Vec3f(1.9F, 0, 0)));
     EXPECT_TRUE(at.drag.stepTo(Vec2f()));
     expectPair(at.last(), "YOffset", Vec2f(), 1e-6F);
-}
-
-TEST(TriplanarTextureManipulatorDrag, AStartAtCoordinateZeroIsSentAsItIs)
-{
-    Triplanar triplanar;
-    AnchorScene& at = triplanar.at;
-    at.look(Camera::Front, true);
-    triplanar.gizmo.activateRotateScaleManipulator();
-    for (const char* const inFront : { "zsShape", "rxShape", "ryShape" }) {
-        at.handle(inFront)->setActive(false);
-    }
-    const Pnt2f pixel(400, 301);
-    osg::Line ray;
-    at.scene.widget.getCamera()->calcViewRay(ray, 400, 301, *at.scene.widget.getViewport());
-    triplanar.gizmo.setAnchor(at.scene.node,
-                              Pnt3f(ray.getPosition().x(), ray.getPosition().y(), 0));
-    triplanar.gizmo.update(false);
-    ASSERT_TRUE(at.scene.send("start", pixel));
-    ASSERT_EQ(triplanar.gizmo.getActiveMode(), Gizmo::ActiveMode::ScaleUniform);
-    EXPECT_TRUE(at.scene.send("process", pixel));
-    EXPECT_TRUE(at.scene.send("process", Pnt2f(400, 291)));
-    const Vec2f scale = attribute<Vec2f>(at.last(), "YScale");
-    EXPECT_FALSE(std::isfinite(scale.x())) << scale.x();
-}
-
-TEST(TriplanarTextureManipulatorDrag, PausesThePreviewFromTheFirstStepToTheStop)
-{
-    Triplanar triplanar;
-    AnchorScene& at = triplanar.at;
-    ASSERT_TRUE(at.drag.press(at.onHandle("xaShape", Vec3f(1.9F, 0, 0))));
-    EXPECT_TRUE(at.log.empty());
-    EXPECT_TRUE(at.drag.stepTo(Vec2f(1, 0)));
-    EXPECT_FALSE(attribute<bool>(at.last(), "enabled"));
-    EXPECT_EQ(at.takeNames(), kPause);
-    EXPECT_TRUE(at.drag.stepTo(Vec2f(2, 0)));
-    EXPECT_EQ(at.takeNames(), Names { kChanged });
-    EXPECT_TRUE(at.drag.release());
-    EXPECT_TRUE(attribute<bool>(at.log.front(), "enabled"));
-    EXPECT_EQ(at.takeNames(), kResume);
-    EXPECT_FALSE(at.drag.release());
-    EXPECT_TRUE(at.log.empty());
-}
-
-TEST(TriplanarTextureManipulatorDrag, WhatIsDeletedDuringADragEndsIt)
-{
-    {
-        Triplanar triplanar;
-        AnchorScene& at = triplanar.at;
-        ASSERT_TRUE(at.grab("xaShape", Vec3f(1.9F, 0, 0)));
-        triplanar.gizmo.setAnchor(osg::NullFC, Pnt3f(0, 0, 0));
-        EXPECT_TRUE(at.drag.stepTo(Vec2f(9, 0))) << "the frame was captured";
-        EXPECT_EQ(at.last().name, kChanged);
-        EXPECT_TRUE(at.drag.release());
-        ASSERT_TRUE(at.drag.press(at.onHandle("xaShape", Vec3f(1.9F, 0, 0))));
-        EXPECT_FALSE(at.drag.stepTo(Vec2f(9, 0))) << "no frame without the anchor's node";
-    }
-    {
-        Triplanar triplanar;
-        AnchorScene& at = triplanar.at;
-        ASSERT_TRUE(at.grab("xaShape", Vec3f(1.9F, 0, 0)));
-        at.takeNames();
-        triplanar.gizmo.setMaterialComponent(osg::NullFC, "", nullptr);
-        EXPECT_EQ(at.takeNames(), kResume);
-        EXPECT_FALSE(at.drag.stepTo(Vec2f(9, 0)));
-        EXPECT_FALSE(at.drag.release());
-        EXPECT_TRUE(at.log.empty());
-    }
-    {
-        Triplanar triplanar;
-        AnchorScene& at = triplanar.at;
-        osg::UberMaterialRefPtr other(osg::UberMaterial::create());
-        triplanar.gizmo.setMaterialComponent(other.get(), "diffuse", nullptr);
-        ASSERT_TRUE(at.grab("xaShape", Vec3f(1.9F, 0, 0)));
-        at.takeNames();
-        other = osg::NullFC;
-        EXPECT_EQ(triplanar.gizmo.getMaterial(), osg::NullFC);
-        EXPECT_FALSE(at.drag.stepTo(Vec2f(9, 0)));
-        triplanar.gizmo.update(true);
-        EXPECT_FALSE(at.drag.release());
-        EXPECT_TRUE(at.log.empty());
-    }
-}
-
-TEST(TriplanarTextureManipulatorDrag, ALostStopIsMadeGoodByTheNextStart)
-{
-    Triplanar triplanar;
-    AnchorScene& at = triplanar.at;
-    ASSERT_TRUE(at.grab("xaShape", Vec3f(1.9F, 0, 0)));
-    EXPECT_TRUE(at.drag.stepTo(Vec2f(50, 0)));
-    EXPECT_TRUE(at.scene.send("hover", Pnt2f(5, 5))) << "a drag is not hovered away";
-    EXPECT_EQ(triplanar.gizmo.getActiveMode(), Gizmo::ActiveMode::TranslateX);
-    at.takeNames();
-    ASSERT_TRUE(at.drag.press(at.onHandle("xaShape", Vec3f(1.9F, 0, 0))));
-    EXPECT_EQ(at.takeNames(), kResume);
-    EXPECT_TRUE(at.drag.stepTo(Vec2f()));
-    EXPECT_TRUE(at.drag.stepTo(Vec2f()));
-    expectPair(at.last(), "YOffset", Vec2f(0.2F, 0.5F), 1e-6F);
 }
 
 }  // namespace nbec::manipulator::test

@@ -2,76 +2,44 @@
 // Handles and drags; a unit of the gizmo is 48.5 pixels.
 #include "manipulator/UVTextureManipulator.h"
 
-#include "tests/manipulator/support/AnchorScene.h"
+#include "tests/manipulator/support/TextureScene.h"
 
 #include <nbKernel/nbController.h>
 #include <nbOpenSGUberMaterial/nbStateChunkBase.h>
 #include <nbOpenSGUtils/nbEdit.h>
-#include <nbOpenSGUtils/nbNodeUtils.h>
-
-#include <iterator>
 
 namespace nbec::manipulator::test {
 
 namespace {
 
 using Gizmo = UVTextureManipulator;
-using Mode = Gizmo::ManipulatorMode;
 
 constexpr float kTolerance = 1e-4F;
 const char* const kChanged = "label::changedUVManipulator";
 /// Where the anchor is in the view, y from the bottom.
 const Vec2f kAnchorPx(400, 300);
 
-struct UV : Anchored<Gizmo>
+struct UV : TextureSceneOf<Gizmo>
 {
     UV()
     {
-        at.editSettings([](const auto& settings) {
-            settings->setRotate(30);
-            settings->setOffset(Vec2f(0.25F, 0.5F));
-            settings->setRepeat(Vec2f(2, 4));
+        editSettings([](const auto& values) {
+            values->setRotate(30);
+            values->setOffset(Vec2f(0.25F, 0.5F));
+            values->setRepeat(Vec2f(2, 4));
         });
     }
 
     /// Presses at a pixel from the left and bottom, as the anchor's, and sends the first step.
     bool grabPixel(const Vec2f& px)
     {
-        return at.scene.send("start", fromBottom(px)) && at.scene.send("process", fromBottom(px));
+        return scene.send("start", fromBottom(px)) && scene.send("process", fromBottom(px));
     }
 
-    bool stepPixel(const Vec2f& px) { return at.scene.send("process", fromBottom(px)); }
+    bool stepPixel(const Vec2f& px) { return scene.send("process", fromBottom(px)); }
 
     static Pnt2f fromBottom(const Vec2f& px) { return Pnt2f(px.x(), 599 - px.y()); }
 };
-
-struct HandleCase
-{
-    const char* name;
-    unsigned mode;
-    Vec3f unit;
-    Names idle;  ///< of its parts
-    Names special;  ///< in the scale set
-    Names sets;  ///< sets that show it
-};
-
-void PrintTo(const HandleCase& row, std::ostream* out)
-{
-    *out << row.name;
-}
-
-// clang-format off
-const std::vector<HandleCase> kHandles = {
-    { "rotateShape", 1, { -0.70710678F, 0.70710678F, 0 }, { "0 0 1" }, { "0 0 1" }, { "universal", "rotate", "rotateScale" } },
-    { "xaShape", 2, { 1.9F, 0, 0 }, { "1 0 0", "1 0 0" }, { "1 0 0", "1 0 0" }, { "universal", "translate" } },
-    { "yaShape", 3, { 0, 1.9F, 0 }, { "0 1 0", "0 1 0" }, { "0 1 0", "0 1 0" }, { "universal", "translate" } },
-    { "xyaShape", 4, { 0.2F, 0.2F, 0 }, { "1 1 0", "1 0 0", "0 1 0" }, { "1 1 0", "1 0 0", "0 1 0" }, { "universal", "translate" } },
-    { "xsShape", 5, { 2.5F, 0, 0 }, { "1 0.5 0.5", "1 0.5 0.5" }, { "1 0 0", "1 0 0" }, { "universal", "scale", "rotateScale" } },
-    { "ysShape", 6, { 0, 2.5F, 0 }, { "0.5 1 0.5", "0.5 1 0.5" }, { "0 1 0", "0 1 0" }, { "universal", "scale", "rotateScale" } },
-    { "grid", 7, { 2.5F, 2.5F, 0 }, { "1 1 0.5" }, { "1 1 0" }, { "universal", "scale", "rotateScale" } },
-};
-
-// clang-format on
 
 void expectPair(const SentMessage& sent, const std::string& name, const Vec2f& expected)
 {
@@ -79,9 +47,6 @@ void expectPair(const SentMessage& sent, const std::string& name, const Vec2f& e
     EXPECT_NEAR(found.x(), expected.x(), kTolerance) << name << ".u";
     EXPECT_NEAR(found.y(), expected.y(), kTolerance) << name << ".v";
 }
-
-class UVHandles : public testing::TestWithParam<HandleCase>
-{ };
 
 /// Editor object of a host with values of its own.
 class Panel : public nbStateChunkBase
@@ -98,85 +63,23 @@ public:
 
 }  // namespace
 
-TEST_P(UVHandles, HaveTheirModeColoursHighlightAndSets)
-{
-    const HandleCase& row = GetParam();
-    for (const bool orthographic : { false, true }) {
-        UV uv;
-        AnchorScene& at = uv.at;
-        at.look(Camera::Oblique, orthographic);
-        const osg::NodePtr handle = at.handle(row.name);
-        EXPECT_EQ(partColors(handle), row.idle);
-        const Pnt2f pixel = at.drag.rayPixelOf(at.onHandle(row.name, row.unit));
-        EXPECT_TRUE(at.scene.send("hover", pixel));
-        EXPECT_EQ(static_cast<unsigned>(uv.gizmo.getActiveMode()), row.mode);
-        for (const HandleCase& other : kHandles) {
-            // The box at the corner takes the scale handles along.
-            const bool isHighlighted = other.mode == row.mode || (row.mode == 7 && other.mode >= 5);
-            EXPECT_EQ(partColors(at.handle(other.name)),
-                      isHighlighted ? Names(other.idle.size(), kHighlight) : other.idle)
-                << other.name;
-        }
-        EXPECT_TRUE(at.scene.send("start", pixel));
-        for (const HandleCase& other : kHandles) {
-            EXPECT_EQ(isShown(at.handle(other.name)), other.mode == row.mode) << other.name;
-        }
-        EXPECT_TRUE(at.scene.send("stop", pixel));
-
-        const auto isIn = [&](const std::string& set) {
-            return std::find(row.sets.begin(), row.sets.end(), set) != row.sets.end();
-        };
-        EXPECT_TRUE(isShown(handle));
-        uv.gizmo.activateTranslateManipulator();
-        EXPECT_EQ(isShown(handle), isIn("translate"));
-        uv.gizmo.activateScaleManipulator();
-        EXPECT_EQ(isShown(handle), isIn("scale"));
-        EXPECT_EQ(partColors(handle), row.special);
-        uv.gizmo.activateRotateManipulator();
-        EXPECT_EQ(isShown(handle), isIn("rotate"));
-        EXPECT_EQ(partColors(handle), row.idle);
-        uv.gizmo.activateRotateScaleManipulator();
-        EXPECT_EQ(isShown(handle), isIn("rotateScale"));
-        EXPECT_EQ(uv.gizmo.getMode(), Mode::RotateScale);
-    }
-}
-
-INSTANTIATE_TEST_SUITE_P(UVTextureManipulator, UVHandles, testing::ValuesIn(kHandles));
-
-TEST(UVTextureManipulator, TheGroupsHoldTheirHandlesInTheOrderOfTheAxes)
-{
-    const UV uv;
-    const osg::NodePtr tree = uv.at.gizmo.getVisualisation()->getChild(0);
-    const Names groups[] = { { "xaShape", "yaShape", "xyaShape" },
-                             { "rotateShape" },
-                             { "xsShape", "ysShape", "grid" } };
-    ASSERT_EQ(tree->getNChildren(), std::size(groups));
-    for (osg::UInt32 i = 0; i < tree->getNChildren(); ++i) {
-        Names names;
-        for (osg::UInt32 k = 0; k < tree->getChild(i)->getNChildren(); ++k) {
-            names.push_back(nbNodeUtils::getName(tree->getChild(i)->getChild(k)));
-        }
-        EXPECT_EQ(names, groups[i]);
-    }
-}
-
 TEST(UVTextureManipulator, TheHandlesFaceTheViewerAndKeepTheirSizeOnScreen)
 {
     UV uv;
-    AnchorScene& at = uv.at;
+    TextureScene& at = uv;
     at.edit(at.core(), [](const auto& node) {
         node->setTranslation(Vec3f(1, 0.5F, -3));
         node->setRotation(Vec3f(20, 30, 40));
         node->setScale(Vec3f(2, 1, 3));
     });
-    const auto rootScale = [&at] {
-        return transformOf(at.gizmo.getVisualisation()->getChild(0))->getScale().x();
+    const auto rootScale = [&uv] {
+        return transformOf(uv.gizmo.getVisualisation()->getChild(0))->getScale().x();
     };
     for (const Camera camera : { Camera::Front, Camera::Oblique, Camera::Top }) {
         for (const bool orthographic : { false, true }) {
             at.look(camera, orthographic);
             EXPECT_FLOAT_EQ(rootScale(), orthographic ? 1.25F : 45 * 0.03F);
-            const Pnt3f anchor = at.gizmo.getAnchorPosition();
+            const Pnt3f anchor = uv.gizmo.getAnchorPosition();
             EXPECT_TRUE(at.onHandle("xaShape", Vec3f()).equals(anchor, kTolerance));
             const osg::UberCameraPtr eye = at.scene.widget.getUberCamera();
             const float unit = orthographic ? eye->getNearPlaneDiagonal() / 20
@@ -194,35 +97,8 @@ TEST(UVTextureManipulator, TheHandlesFaceTheViewerAndKeepTheirSizeOnScreen)
     // The field of view does not matter to an orthographic view's root.
     at.look(Camera::Front, true);
     at.scene.widget.getUberCamera()->setFov(20);
-    at.gizmo.update(false);
-    EXPECT_FLOAT_EQ(rootScale(), 1.25F);
-}
-
-TEST(UVTextureManipulator, ACameraThatOnlyTurnsIsFollowed)
-{
-    UV uv;
-    AnchorScene& at = uv.at;
-    uv.gizmo.update(true);
-    at.scene.widget.getUberCamera()->setFromAtUp(Pnt3f(0, 0, 10), Pnt3f(3, 0, 0), Vec3f(0, 1, 0));
     uv.gizmo.update(false);
-    const Vec3f right = at.onHandle("xaShape", Vec3f(1, 0, 0)) - at.onHandle("xaShape", Vec3f());
-    EXPECT_NEAR(right.dot(Vec3f(3, 0, -10)), 0, 1e-4F);
-}
-
-TEST(UVTextureManipulator, TheSizeIsTakenAtTheNextPlacement)
-{
-    UV uv;
-    uv.gizmo.update(true);
-    const auto unit = [&uv] {
-        return (uv.at.onHandle("xaShape", Vec3f(1, 0, 0)) - uv.at.onHandle("xaShape", Vec3f()))
-            .length();
-    };
-    EXPECT_FLOAT_EQ(Gizmo::getManipulatorSize(), 0.03F);
-    Gizmo::setManipulatorSize(0.06F);
-    EXPECT_NEAR(unit(), kUnit, kTolerance);
-    Gizmo::updateAllManipulators();
-    EXPECT_NEAR(unit(), 2 * kUnit, kTolerance);
-    Gizmo::setManipulatorSize(0.03F);
+    EXPECT_FLOAT_EQ(rootScale(), 1.25F);
 }
 
 TEST(UVTextureManipulator, ArrowsMoveByPixels)
@@ -239,17 +115,17 @@ TEST(UVTextureManipulator, ArrowsMoveByPixels)
     for (const auto& row : rows) {
         for (const bool orthographic : { false, true }) {
             UV uv;
-            uv.at.look(Camera::Oblique, orthographic);
-            ASSERT_TRUE(uv.at.grab(row.handle, row.unit)) << row.handle;
-            EXPECT_EQ(uv.at.takeNames(), kPause);
-            EXPECT_TRUE(uv.at.drag.stepTo(Vec2f(512, -256)));
-            EXPECT_EQ(uv.at.last().name, kChanged);
-            EXPECT_EQ(uv.at.last().message.names(), Names { "offset" });
-            expectPair(uv.at.last(), "offset",
+            uv.look(Camera::Oblique, orthographic);
+            ASSERT_TRUE(uv.grab(row.handle, row.unit)) << row.handle;
+            EXPECT_EQ(uv.takeNames(), kPause);
+            EXPECT_TRUE(uv.drag.stepTo(Vec2f(512, -256)));
+            EXPECT_EQ(uv.last().name, kChanged);
+            EXPECT_EQ(uv.last().message.names(), Names { "offset" });
+            expectPair(uv.last(), "offset",
                        Vec2f(0.25F + row.moves.x(), 0.5F + 0.5F * row.moves.y()));
             EXPECT_EQ(nbController::getModified(), 0) << "marking is the editor's";
-            EXPECT_TRUE(uv.at.drag.release());
-            EXPECT_EQ(uv.at.takeNames(),
+            EXPECT_TRUE(uv.drag.release());
+            EXPECT_EQ(uv.takeNames(),
                       (Names { kChanged, "setMatRenderEnabled", "updateMatRender" }));
         }
     }
@@ -271,8 +147,8 @@ TEST(UVTextureManipulator, TheRingTurnsInDegreesAgainstThePointer)
 
     for (const auto& step : steps) {
         EXPECT_TRUE(uv.stepPixel(kAnchorPx + step.fromAnchor));
-        EXPECT_EQ(uv.at.last().message.names(), Names { "rotate" });
-        EXPECT_NEAR(attribute<float>(uv.at.last(), "rotate"), step.rotate, 1e-3F)
+        EXPECT_EQ(uv.last().message.names(), Names { "rotate" });
+        EXPECT_NEAR(attribute<float>(uv.last(), "rotate"), step.rotate, 1e-3F)
             << step.fromAnchor.x() << ' ' << step.fromAnchor.y();
     }
 }
@@ -302,69 +178,33 @@ TEST(UVTextureManipulator, ScaleHandlesGoByTheRatioOfPixels)
         uv.gizmo.activateScaleManipulator();
         ASSERT_TRUE(uv.grabPixel(kAnchorPx + step.grab)) << step.name;
         EXPECT_TRUE(uv.stepPixel(kAnchorPx + step.to));
-        EXPECT_EQ(uv.at.last().message.names(), Names { "scale" });
-        expectPair(uv.at.last(), "scale", step.scale);
+        EXPECT_EQ(uv.last().message.names(), Names { "scale" });
+        expectPair(uv.last(), "scale", step.scale);
     }
-}
-
-TEST(UVTextureManipulator, ADistanceOfZeroIsSentAsItIs)
-{
-    UV uv;
-    uv.gizmo.activateScaleManipulator();
-    // The shaft near the anchor, right above it.
-    ASSERT_TRUE(uv.grabPixel(kAnchorPx + Vec2f(0, 2)));
-    ASSERT_EQ(uv.gizmo.getActiveMode(), Gizmo::ActiveMode::ScaleV);
-    uv.gizmo.setKeepAspectRatio(true);
-    EXPECT_TRUE(uv.stepPixel(kAnchorPx + Vec2f(0, 4)));
-    expectPair(uv.at.last(), "scale", Vec2f(1, 0.5F));
-    EXPECT_TRUE(uv.at.scene.send("stop", UV::fromBottom(kAnchorPx)));
-
-    ASSERT_TRUE(uv.grabPixel(kAnchorPx + Vec2f(2, 0)));
-    ASSERT_EQ(uv.gizmo.getActiveMode(), Gizmo::ActiveMode::ScaleU);
-    EXPECT_TRUE(uv.at.scene.send("stop", UV::fromBottom(kAnchorPx)));
-    uv.gizmo.setAnchor(osg::NullFC, uv.gizmo.getAnchorPosition());
-    ASSERT_TRUE(uv.grabPixel(kAnchorPx));
-    EXPECT_TRUE(uv.stepPixel(kAnchorPx + Vec2f(5, 5)));
-    EXPECT_TRUE(std::isinf(attribute<Vec2f>(uv.at.last(), "scale").x()));
 }
 
 TEST(UVTextureManipulator, ValuesComeFromTheMaterialThenTheEditorObject)
 {
     UV uv;
     Panel panel;
-    const osg::UberMaterialPtr material = uv.at.material.get();
+    const osg::UberMaterialPtr material = uv.material.get();
     uv.gizmo.setGUI(&panel);
-    ASSERT_TRUE(uv.at.grab("xaShape", Vec3f(1.9F, 0, 0)));
-    EXPECT_TRUE(uv.at.drag.stepTo(Vec2f()));
-    expectPair(uv.at.last(), "offset", Vec2f(0.25F, 0.5F));
-    EXPECT_TRUE(uv.at.drag.release());
+    ASSERT_TRUE(uv.grab("xaShape", Vec3f(1.9F, 0, 0)));
+    EXPECT_TRUE(uv.drag.stepTo(Vec2f()));
+    expectPair(uv.last(), "offset", Vec2f(0.25F, 0.5F));
+    EXPECT_TRUE(uv.drag.release());
 
     uv.gizmo.setMaterialComponent(material, "mine", &panel);
-    ASSERT_TRUE(uv.at.grab("xaShape", Vec3f(1.9F, 0, 0)));
-    EXPECT_TRUE(uv.at.drag.stepTo(Vec2f()));
-    expectPair(uv.at.last(), "offset", Vec2f(3, 4));
-    EXPECT_TRUE(uv.at.drag.release());
+    ASSERT_TRUE(uv.grab("xaShape", Vec3f(1.9F, 0, 0)));
+    EXPECT_TRUE(uv.drag.stepTo(Vec2f()));
+    expectPair(uv.last(), "offset", Vec2f(3, 4));
+    EXPECT_TRUE(uv.drag.release());
 
     uv.gizmo.setMaterialComponent(material, "nobody's", &panel);
     uv.gizmo.activateScaleManipulator();
     ASSERT_TRUE(uv.grabPixel(kAnchorPx + Vec2f(121, 0)));
     EXPECT_TRUE(uv.stepPixel(kAnchorPx + Vec2f(121, 0)));
-    expectPair(uv.at.last(), "scale", Vec2f(1, 1));
-}
-
-TEST(UVTextureManipulator, ADragGoesOnWithoutItsMaterialAndStopsWithoutAMessage)
-{
-    UV uv;
-    osg::UberMaterialRefPtr other(osg::UberMaterial::create());
-    uv.gizmo.setMaterialComponent(other.get(), "diffuse", nullptr);
-    ASSERT_TRUE(uv.at.grab("xaShape", Vec3f(1.9F, 0, 0)));
-    other = osg::NullFC;
-    EXPECT_TRUE(uv.at.drag.stepTo(Vec2f(512, 0)));
-    expectPair(uv.at.last(), "offset", Vec2f(1, 0));
-    uv.at.takeNames();
-    EXPECT_FALSE(uv.at.drag.release());
-    EXPECT_TRUE(uv.at.log.empty());
-    EXPECT_FALSE(uv.at.scene.send("hover", Pnt2f(400, 300)));
+    expectPair(uv.last(), "scale", Vec2f(1, 1));
 }
 
 }  // namespace nbec::manipulator::test

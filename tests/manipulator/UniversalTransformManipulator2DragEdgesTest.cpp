@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What drags send, show and refuse, and what may go wrong in the middle of one.
-#include "tests/manipulator/support/DragScene.h"
+#include "tests/manipulator/support/HandleScene.h"
 #include "tests/platform/support/Edited.h"
 #include "tests/platform/support/LogLines.h"
 
@@ -58,21 +58,6 @@ Vec3f translationOf(const osg::NodePtr& node)
 }
 
 }  // namespace
-
-TEST(DragSteps, TheFirstPreparesAndMovesNothing)
-{
-    DragScene drags;
-    const auto pixel = drags.rayPixelOf(drags.onGizmo(kArrow));
-    EXPECT_FALSE(drags.scene.send("process", pixel)) << "nothing is grabbed yet";
-    ASSERT_TRUE(drags.scene.send("start", pixel));
-    EXPECT_TRUE(drags.scene.send("process", pixel + Vec2f(50, 0)));
-    EXPECT_EQ(drags.core()->getTranslation(), Vec3f(0, 0, 0));
-    EXPECT_TRUE(drags.scene.send("process", pixel + Vec2f(60, 0)));
-    EXPECT_NEAR(drags.core()->getTranslation().x(), 10.0F / 72.4264F, 2e-4F);
-    EXPECT_TRUE(drags.release());
-    EXPECT_FALSE(drags.release()) << "let go already";
-    EXPECT_FALSE(drags.scene.send("process", pixel));
-}
 
 TEST(DragSteps, SendChangedThenUpdateAndMarkTheSceneAsModified)
 {
@@ -177,27 +162,6 @@ TEST(DragConversion, AGroupBecomesATransformWithItsPivotsAtTheObjectsCentre)
 
 // == Several nodes
 
-TEST(SeveralNodes, EachTurnsAndScalesAboutItsOwnPivots)
-{
-    DragScene drags;
-    const osg::NodePtr right = drags.addFurther(Vec3f(3, 0, 0));
-    const osg::NodePtr above = drags.addFurther(Vec3f(0, 3, 0));
-    const auto rightCore = transformOf(right);
-    const auto aboveCore = transformOf(above);
-    drags.edit(aboveCore,
-               [](const osg::Transform3DPtr& core) { core->setRotation(Vec3f(0, 0, 30)); });
-    drags.gizmo.setNode(drags.scene.node, { right, above });
-    drags.activate(Mode::Rotate);
-    ASSERT_TRUE(drags.grab(kRing));
-    EXPECT_TRUE(drags.dragBy(Vec2f(-51, -22)));
-    EXPECT_TRUE(drags.release());
-    EXPECT_NEAR(drags.core()->getRotation().z(), 45.0F, 0.01F);
-    EXPECT_NEAR(rightCore->getRotation().z(), 45.0F, 0.01F);
-    EXPECT_NEAR(aboveCore->getRotation().z(), 75.0F, 0.01F);
-    EXPECT_EQ(rightCore->getTranslation(), Vec3f(3, 0, 0));
-    EXPECT_EQ(aboveCore->getTranslation(), Vec3f(0, 3, 0));
-}
-
 TEST(SeveralNodes, ADestroyedOneIsPassedOverAndTheRestGoesOn)
 {
     DragScene drags;
@@ -295,18 +259,6 @@ TEST(DragText, HasItsNotifierAndFollowsTheViewsShape)
 
 // == In the middle of a drag
 
-TEST(BrokenDrags, ADestroyedNodeEndsThem)
-{
-    DragScene drags;
-    ASSERT_TRUE(drags.grab(kArrow));
-    EXPECT_TRUE(drags.dragBy(Vec2f(10, 0)));
-    destroy(drags.scene.node);
-    EXPECT_FALSE(drags.dragBy(Vec2f(20, 0)));
-    EXPECT_FALSE(drags.release());
-    EXPECT_FALSE(drags.release());
-    EXPECT_THAT(visibleTexts(), IsEmpty());
-}
-
 TEST(BrokenDrags, ANodeTakenOutOfTheSceneStays)
 {
     DragScene drags;
@@ -318,24 +270,6 @@ TEST(BrokenDrags, ANodeTakenOutOfTheSceneStays)
     EXPECT_FALSE(drags.dragBy(Vec2f(20, 0)));
     EXPECT_EQ(drags.core()->getTranslation(), before);
     EXPECT_TRUE(drags.release());
-}
-
-TEST(BrokenDrags, WithoutAMainViewNothingMoves)
-{
-    DragScene drags;
-    ASSERT_TRUE(drags.grab(kArrow));
-    auto other = std::make_unique<nbOSGWidget>();
-    other->setMain();
-    other.reset();
-    if (nbOSGWidget::getMGLW(-1) == nullptr) {
-        EXPECT_FALSE(drags.stepTo(Vec2f(20, 0)));
-        EXPECT_EQ(drags.core()->getTranslation(), Vec3f(0, 0, 0));
-    } else {
-        EXPECT_TRUE(drags.stepTo(Vec2f(20, 0)));
-    }
-    drags.scene.widget.setMain();
-    drags.release();
-    EXPECT_TRUE(isFinite(drags.scene.node->getToWorld()));
 }
 
 TEST(BrokenDrags, FlattenedAndMirroredNodesAndParentsStayFinite)

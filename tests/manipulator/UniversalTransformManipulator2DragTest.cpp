@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Drags of every handle with numbers worked out by hand; a unit of the gizmo is 48.5 (perspective)
 // or 50 pixels (orthographic).
-#include "tests/manipulator/support/DragScene.h"
+#include "tests/manipulator/support/HandleScene.h"
 #include "tests/platform/support/Edited.h"
 
 #include <nbOpenSGUberCamera/UberCamera.h>

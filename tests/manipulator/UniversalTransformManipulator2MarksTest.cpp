@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The marks of further nodes stand at their pivots after every step, however the step knows where.
-#include "tests/manipulator/support/DragScene.h"
+#include "tests/manipulator/support/HandleScene.h"
 #include "tests/platform/support/Edited.h"
 
 #include <nbKernel/nbScenegraph.h>

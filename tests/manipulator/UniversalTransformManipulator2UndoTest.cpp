@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What is left of drags that end where they began, and of drags that are taken back.
-#include "tests/manipulator/support/DragScene.h"
+#include "tests/manipulator/support/HandleScene.h"
 #include "tests/platform/support/Edited.h"
 
 #include <nbInteraction/InputTranslator.h>

@@ -87,18 +87,6 @@ protected:
     Change last;
 };
 
-TEST_F(SceneplateManipulatorTest, TreeReadsAsThatOfTheOtherManipulators)
-{
-    const osg::NodePtr root = scene.manipulator.getVisualisation();
-    expectManipulatorRoot(root);
-    EXPECT_EQ(scene.manipulator.getCollider(), root);
-    ASSERT_EQ(root->getNChildren(), 2U);
-    for (osg::UInt32 i = 0; i < 2; ++i) {
-        EXPECT_EQ(nbNodeUtils::getName(root->getChild(i)), "ManipulatorDepthPassMaterialGroup");
-    }
-    EXPECT_EQ(findNode(root->getChild(0), "grid"), osg::NullFC) << "the copy bears no names";
-}
-
 TEST_F(SceneplateManipulatorTest, HandlesStandAtTheFrameForEveryCameraAndViewSize)
 {
     const osg::UberCameraPtr camera = scene.widget.getUberCamera();
@@ -278,20 +266,6 @@ TEST_F(SceneplateManipulatorTest, NothingIsSentUntilSomethingChanges)
     EXPECT_EQ(last.offset, QVector2D(0, 0)) << "the way back is told";
 }
 
-TEST_F(SceneplateManipulatorTest, OnlyTheGrabbedHandleAndTheFrameShowDuringADrag)
-{
-    select({ 400, 300, 200, 100 });
-    scene.drag("scaleXYLRShape", osg::Vec2f(10, 5), false);
-    EXPECT_TRUE(scene.isHandleShown("scaleXYLRShape"));
-    EXPECT_TRUE(scene.isHandleShown("grid"));
-    EXPECT_FALSE(scene.isHandleShown("scaleXYULShape"));
-    EXPECT_FALSE(scene.isHandleShown("rotateShape"));
-    EXPECT_TRUE(scene.send("hover", osg::Pnt2f(10, 10))) << "refused, but taken";
-    EXPECT_EQ(scene.manipulator.getActiveMode(), Mode::ScaleLowerRight);
-    scene.send("stop", osg::Pnt2f(510, 355));
-    EXPECT_TRUE(scene.isHandleShown("rotateShape"));
-}
-
 TEST_F(SceneplateManipulatorTest, ADragWhosePlatesOrViewChangeSendsNoMore)
 {
     enum class Event
@@ -345,35 +319,6 @@ TEST_F(SceneplateManipulatorTest, OfSeveralPlatesTheRestGoesOn)
     isHandleAt("grid", 500, 300);
 }
 
-TEST_F(SceneplateManipulatorTest, DeactivationLetsGoAndHides)
-{
-    select({ 400, 300, 200, 100 });
-    scene.drag(osg::Pnt2f(400, 300), osg::Vec2f(10, 0), false);
-
-    scene.manipulator.deactivate(&scene.context);
-    EXPECT_EQ(sent.back(), "updateMatRender");
-    EXPECT_FALSE(scene.isHandleShown("grid"));
-    EXPECT_FALSE(scene.manipulator.processManipulator(&scene.context, "select"));
-    EXPECT_FALSE(scene.send("hover", osg::Pnt2f(400, 300)));
-    scene.manipulator.activate(&scene.context);
-    EXPECT_TRUE(scene.isHandleShown("grid"));
-    scene.manipulator.setNodes({});
-    EXPECT_FALSE(scene.isHandleShown("grid"));
-}
-
-TEST_F(SceneplateManipulatorTest, ALostStopIsMadeGoodByTheNextStart)
-{
-    select({ 400, 300, 200, 100 });
-    scene.drag(osg::Pnt2f(400, 300), osg::Vec2f(10, 0), false);
-    sent.clear();
-    EXPECT_TRUE(scene.manipulator.startManipulator(&scene.context, "select"));
-    EXPECT_THAT(
-        sent, ElementsAre("setMatRenderEnabled on", "updateMatRender", "setMatRenderEnabled off"));
-    scene.widget.setMousePosition(osg::Pnt2f(415, 300));
-    EXPECT_TRUE(scene.manipulator.processManipulator(&scene.context, "select"));
-    EXPECT_FLOAT_EQ(last.offset.x(), 5.0F / 600) << "from the new start";
-}
-
 TEST_F(SceneplateManipulatorTest, AReceiverMayTakeItOutOfUse)
 {
     select({ 400, 300, 200, 100 });
@@ -412,32 +357,6 @@ TEST_F(SceneplateManipulatorTest, HandleSizeFollowsTheSettingAndThePixelRatio)
     scene.picker.setPixelRatio(3.0F);
     scene.send("hover", osg::Pnt2f(0, 0));
     isHandleAt("rotateShape", 400, 250 - 96);
-}
-
-TEST_F(SceneplateManipulatorTest, AnUpdateWithoutAChangeEditsNothing)
-{
-    select({ 400, 300, 200, 100, 33 });
-    const osg::NodePtr root = scene.manipulator.getVisualisation();
-    const osg::UInt64 before = osg::getTreeChangeCount(root);
-    scene.manipulator.update(true);
-    EXPECT_EQ(osg::getTreeChangeCount(root), before);
-    scene.widget.getUberCamera()->setFromAtUp(osg::Pnt3f(0, 0, 20), osg::Pnt3f(0, 0, 0),
-                                              osg::Vec3f(0, 1, 0));
-    scene.manipulator.update(false);
-    EXPECT_NE(osg::getTreeChangeCount(root), before);
-}
-
-TEST(SceneplateManipulator, AnswersQuietlyWithoutAWidget)
-{
-    nbSceneplateManipulator manipulator;
-    manipulator.activate(nullptr);
-    manipulator.update(true);
-    EXPECT_FALSE(manipulator.hover(nullptr, "select"));
-    EXPECT_FALSE(manipulator.startManipulator(nullptr, "select"));
-    EXPECT_FALSE(manipulator.processManipulator(nullptr, "select"));
-    EXPECT_FALSE(manipulator.stopManipulator(nullptr, "select"));
-    EXPECT_TRUE(manipulator.reset(nullptr, "select"));
-    manipulator.deactivate(nullptr);
 }
 
 }  // namespace

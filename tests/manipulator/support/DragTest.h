@@ -43,20 +43,19 @@ inline void expectNear(const Vec3f& found, const Vec3f& expected, const std::str
     }
 }
 
-/// The colour of a handle's part: that of the geometry at or below a child of its node.
-inline std::string partColor(const osg::NodePtr& handle, osg::UInt32 part)
-{
-    const osg::NodePtr child = handle->getChild(part);
-    return colorOf(child->getNChildren() > 0 ? child->getChild(0) : child);
-}
-
+/// The colours of a handle's parts.
 inline Names partColors(const osg::NodePtr& handle)
 {
     Names colors;
-    for (osg::UInt32 i = 0; i < handle->getNChildren(); ++i) {
-        colors.push_back(partColor(handle, i));
+    for (const osg::NodePtr& part : partsOf(handle)) {
+        colors.push_back(colorOf(part));
     }
     return colors;
+}
+
+inline std::string partColor(const osg::NodePtr& handle, std::size_t part)
+{
+    return colorOf(partsOf(handle).at(part));
 }
 
 }  // namespace nbec::manipulator::test

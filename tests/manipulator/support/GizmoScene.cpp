@@ -18,17 +18,10 @@
 
 namespace nbec::manipulator::test {
 
-namespace {
-
-constexpr int kWidth = 800;
-constexpr int kHeight = 600;
-
-}  // namespace
-
 GizmoScene::GizmoScene()
 {
     widget.setMain();
-    widget.resize(kWidth, kHeight);
+    widget.resize(800, 600);
     lookFrom(osg::Pnt3f(0, 0, 10));
     node = osg::makeCoredNode<osg::Transform3D>();
     addChild(node, osg::makeBox(2, 2, 2, 1, 1, 1));
@@ -49,8 +42,8 @@ osg::Pnt2f GizmoScene::pixelOf(const osg::Pnt3f& world) const
     widget.getCamera()->getWorldToScreen(clipFromWorld, *widget.getViewport());
     osg::Pnt3f device;
     clipFromWorld.multFullMatrixPnt(world, device);
-    return osg::Pnt2f((device.x() + 1.0F) * 0.5F * static_cast<float>(kWidth),
-                      (1.0F - device.y()) * 0.5F * static_cast<float>(kHeight));
+    return osg::Pnt2f((device.x() + 1.0F) * 0.5F * static_cast<float>(widget.getWidth()),
+                      (1.0F - device.y()) * 0.5F * static_cast<float>(widget.getHeight()));
 }
 
 bool GizmoScene::send(const std::string& event, const osg::Pnt2f& positionPx,
@@ -111,6 +104,19 @@ osg::NodePtr findNode(const osg::NodePtr& tree, const std::string& name)
         }
     }
     return osg::NodePtr();
+}
+
+std::vector<osg::NodePtr> partsOf(const osg::NodePtr& tree)
+{
+    std::vector<osg::NodePtr> parts;
+    if (osg::GeometryPtr::dcast(tree->getCore()) != osg::NullFC) {
+        parts.push_back(tree);
+    }
+    for (osg::UInt32 i = 0; i < tree->getNChildren(); ++i) {
+        const std::vector<osg::NodePtr> below = partsOf(tree->getChild(i));
+        parts.insert(parts.end(), below.begin(), below.end());
+    }
+    return parts;
 }
 
 std::string colorOf(const osg::NodePtr& geometryNode)

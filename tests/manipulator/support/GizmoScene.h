@@ -13,6 +13,7 @@
 #include <OpenSG/OSGNode.h>
 
 #include <string>
+#include <vector>
 
 namespace nbec::manipulator::test {
 
@@ -61,6 +62,9 @@ void expectManipulatorRoot(const osg::NodePtr& root);
 
 /// The first node of a name in a tree, depth first; null if there is none.
 osg::NodePtr findNode(const osg::NodePtr& tree, const std::string& name);
+
+/// Geometry nodes at and below a node, in tree order.
+std::vector<osg::NodePtr> partsOf(const osg::NodePtr& tree);
 
 /// The diffuse colour of the material on a node's geometry, as "r g b" with one decimal.
 std::string colorOf(const osg::NodePtr& geometryNode);

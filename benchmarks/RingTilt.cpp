@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tests/manipulator/support/RingTilt.h"
+#include "benchmarks/RingTilt.h"
 
 #include "manipulator/drag/DragGeometry.h"
 

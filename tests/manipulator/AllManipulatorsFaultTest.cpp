@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: MIT
+// What becomes of a drag when the host fails in the middle of it, for every manipulator that drags.
+#include "tests/manipulator/support/AnyManipulator.h"
+
+namespace nbec::manipulator::test {
+
+template <class Gizmo>
+class Drags : public AnyManipulator<Gizmo>
+{ };
+
+TYPED_TEST_SUITE(Drags, AllKinds, );
+
+template <class Gizmo>
+class Senders : public AnyManipulator<Gizmo>
+{ };
+
+TYPED_TEST_SUITE(Senders, KindsWithHandles, );
+
+TYPED_TEST(Senders, AHandlerThatFailsInEachStepStopsNoDrag)
+{
+    for (const Fault fault : { Fault::Throw, Fault::ThrowNumber }) {
+        int received = 0;
+        nbController::addReceiver(this->kTraits.message, [&](nbMessage&) {
+            ++received;
+            this->stage.commit(fault, 0);
+        });
+        ASSERT_TRUE(this->press());
+        this->step();
+        received = 0;
+        EXPECT_TRUE(this->step());
+        EXPECT_TRUE(this->step());
+        EXPECT_EQ(received, 2);
+        EXPECT_TRUE(this->say("stop"));
+        EXPECT_FALSE(this->stage.preview.isPaused());
+        EXPECT_EQ(this->stage.check(), "");
+    }
+}
+
+TYPED_TEST(Senders, AHandlerMayDestroyWhatIsEditedWithinTheMessage)
+{
+    for (const Fault fault : { Fault::DropNode, Fault::DropMaterial, Fault::DropSettings,
+                               Fault::DropPlate, Fault::DropView, Fault::ClearTexts }) {
+        SCOPED_TRACE(static_cast<int>(fault));
+        int received = 0;
+        nbController::addReceiver(this->kTraits.message, [&](nbMessage&) {
+            this->destroy(fault);
+            ++received;
+        });
+        ASSERT_TRUE(this->press());
+        this->step();
+        this->step();
+        ASSERT_GE(received, 1);
+        this->step();
+        // The answer tells whether there is still what the manipulator edits.
+        EXPECT_EQ(this->say("stop"), fault != this->kTraits.edited);
+        EXPECT_EQ(this->stage.check(), "");
+        nbController::removeReceiver(this->kTraits.message);
+        this->stage.renewReceivers();
+        this->expectUsable();
+    }
+}
+
+TYPED_TEST(Drags, AViewThatVanishesWithItsCameraInADragLosesNothing)
+{
+    for (const bool isReplaced : { false, true }) {
+        ASSERT_TRUE(this->press());
+        ASSERT_TRUE(this->step());
+        this->stage.view.reset();
+        const std::vector<float> before = this->stage.values();
+        this->step();
+        EXPECT_EQ(this->stage.values(), before);
+        if (isReplaced) {
+            this->stage.addView();
+            this->step();
+        }
+        this->say("stop");
+        EXPECT_EQ(this->stage.check(), "");
+        this->expectUsable();
+    }
+}
+
+using MatchDrags = Drags<PerspectiveMatchManipulator>;
+
+TEST_F(MatchDrags, WhoHearsOfALineMayDestroyItsCamera)
+{
+    // The view's own camera, and one that nobody looks through.
+    for (const Fault fault : { Fault::DropView, Fault::DropCamera }) {
+        if (fault == Fault::DropCamera) {
+            gizmo->setCamera(stage.firstCamera());
+        }
+        ASSERT_TRUE(press());
+        ASSERT_TRUE(step());
+        stage.arm(fault);
+        step();
+        EXPECT_FALSE(stage.isArmed());
+        step();
+        say("stop");
+        EXPECT_EQ(stage.check(), "");
+        expectUsable();
+    }
+}
+
+TYPED_TEST(Drags, AGroupOfUndoThatIsNeverClosedLosesNoStep)
+{
+    nbUndoService* const undo = nbUndoService::the();
+    std::vector<std::vector<float>> states { this->edited() };
+    for (int i = 0; i < 2; ++i) {
+        undo->beginGroup();  // ends the one before
+        ASSERT_TRUE(this->drag());
+        states.push_back(this->edited());
+        ASSERT_NE(states[i], states[i + 1]);
+    }
+    undo->endGroup();
+    EXPECT_TRUE(undo->undo());
+    EXPECT_EQ(this->edited(), states[1]);
+    EXPECT_TRUE(undo->undo());
+    EXPECT_EQ(this->edited(), states[0]);
+}
+
+}  // namespace nbec::manipulator::test

@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: MIT
+// What drags of the transform gizmo compute, with numbers worked out by hand.
+#include "manipulator/transform/TransformDrag.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace nbec::manipulator::transform::test {
+
+namespace {
+
+using osg::Pnt3f;
+using osg::Vec3f;
+
+constexpr float kHalfPi = 1.57079633F;
+const osg::Quaternion kQuarterTurn(Vec3f(0, 0, 1), kHalfPi);
+
+osg::Matrix moved(float x, float y, float z)
+{
+    osg::Matrix matrix;
+    matrix.setTranslate(x, y, z);
+    return matrix;
+}
+
+bool isNear(const Vec3f& found, const Vec3f& expected)
+{
+    return found.equals(expected, 1e-5F);
+}
+
+}  // namespace
+
+TEST(TransformDrag, AnOffsetHasTheAxesOfItsHandleInTheWorldOrTheNodesFrame)
+{
+    TransformDrag drag;
+    drag.dragStartWorld = Pnt3f(1, 1, 1);
+    drag.inverseDragFrame = moved(0, 0, 5);
+    drag.inverseDragFrame[0][0] = 2;
+    drag.dragStartLocal = Pnt3f(2, 1, 6);
+    drag.frameScale = Vec3f(3, 1, 1);
+    const Pnt3f point(3, 5, 9);
+
+    const struct
+    {
+        ActiveMode handle;
+        Vec3f world, local;
+    } rows[] = { { ActiveMode::TranslateX, { 2, 0, 0 }, { 12, 0, 0 } },
+                 { ActiveMode::TranslateY, { 0, 4, 0 }, { 0, 4, 0 } },
+                 { ActiveMode::TranslateZ, { 0, 0, 8 }, { 0, 0, 8 } },
+                 { ActiveMode::TranslateXY, { 2, 4, 0 }, { 12, 4, 0 } },
+                 { ActiveMode::TranslateXZ, { 2, 0, 8 }, { 12, 0, 8 } },
+                 { ActiveMode::TranslateYZ, { 0, 4, 8 }, { 0, 4, 8 } },
+                 { ActiveMode::RotateX, {}, {} } };
+
+    for (const auto& row : rows) {
+        drag.handle = row.handle;
+        EXPECT_EQ(offsetAt(drag, point, false), row.world);
+        EXPECT_EQ(offsetAt(drag, point, true), row.local);
+    }
+    EXPECT_TRUE(isNear(withSnappedLength(Vec3f(0, 3, 4), 3), Vec3f(0, 3.6F, 4.8F)));
+    EXPECT_EQ(withSnappedLength(Vec3f(0.4F, 0, 0), 1), Vec3f());
+    EXPECT_EQ(withSnappedLength(Vec3f(), 1), Vec3f());
+}
+
+TEST(TransformDrag, FactorsAreRatiosWithAFloor)
+{
+    TransformDrag drag;
+    drag.inverseScaleFrame = moved(-1, -2, -3);
+    drag.scaleAnchor = Vec3f(2, 4, 1e-7F);
+    const auto factor = [&drag](ActiveMode handle, const Pnt3f& point, osg::UInt32 up) {
+        drag.handle = handle;
+        return factorAt(drag, point, up);
+    };
+    const Pnt3f point(6, 10, 9);
+    EXPECT_FLOAT_EQ(factor(ActiveMode::ScaleX, point, 1), 2.5);
+    EXPECT_FLOAT_EQ(factor(ActiveMode::ScaleY, point, 1), 2);
+    EXPECT_EQ(factor(ActiveMode::ScaleZ, point, 1), 1) << "too near to divide by";
+    EXPECT_FLOAT_EQ(factor(ActiveMode::ScaleX, Pnt3f(), 1), 0.01);
+    EXPECT_FLOAT_EQ(factor(ActiveMode::ScaleUniform, point, 1), 1.1);
+    EXPECT_FLOAT_EQ(factor(ActiveMode::ScaleUniform, Pnt3f(0, 4, 0), 1), 0.95);
+    EXPECT_FLOAT_EQ(factor(ActiveMode::ScaleUniform, Pnt3f(0, -90, 0), 1), 0.1);
+    drag.scaleAnchor = Vec3f(2, 4, 3);
+    EXPECT_FLOAT_EQ(factor(ActiveMode::ScaleUniform, point, 2), 1.1);
+
+    EXPECT_NEAR(computeRotation(Pnt3f(0, 2, 0), Pnt3f(5, 0, 3), 0), kHalfPi, 1e-6);
+    EXPECT_NEAR(computeRotation(Pnt3f(0, 0, 1), Pnt3f(1, 9, 0), 1), kHalfPi, 1e-6);
+    EXPECT_NEAR(computeRotation(Pnt3f(0, 1, 0), Pnt3f(1, 0, 0), 2), -kHalfPi, 1e-6);
+}
+
+TEST(TransformDrag, TargetsGoFromTheirStart)
+{
+    TransformStart start;
+    start.translationLocal = Vec3f(1, 0, 0);
+    start.translationWorld = Vec3f(0, 1, 0);
+    start.pivotLocal = Vec3f(0, 0, 2);
+    start.pivotWorld = Vec3f(0, 0, 3);
+    start.rotation = kQuarterTurn;
+    start.scale = Vec3f(2, 4, 8);
+    EXPECT_TRUE(isNear(movedTranslation(start, Vec3f(5, 0, 0), true), Vec3f(1, 5, 0)));
+    EXPECT_TRUE(isNear(movedTranslation(start, Vec3f(5, 0, 0), false), Vec3f(5, 1, 0)));
+    EXPECT_TRUE(isNear(movedPivot(start, Vec3f(5, 0, 0), true), Vec3f(0, 5, 2)));
+    EXPECT_TRUE(isNear(movedPivot(start, Vec3f(5, 0, 0), false), Vec3f(5, 0, 3)));
+    EXPECT_TRUE(isNear(scaledBy(start, ActiveMode::ScaleY, 1.5F, 0), Vec3f(2, 6, 8)));
+    EXPECT_TRUE(isNear(scaledBy(start, ActiveMode::ScaleZ, 1.6F, 5), Vec3f(2, 4, 15)));
+    EXPECT_TRUE(isNear(scaledBy(start, ActiveMode::ScaleUniform, 0.5F, 0), Vec3f(1, 2, 4)));
+
+    // Values go on past whole turns; those of a pivot begin again.
+    start.ringAxis = Vec3f(0, 0, 3);
+    start.anglesRad = nbEulerUtils::fromDegrees(Vec3f(0, 0, 170), start.anglesRad.order);
+    nbEulerAngles angles = start.anglesRad;
+    for (int quarter = 1; quarter <= 9; ++quarter) {
+        const double turn = static_cast<double>(kHalfPi) * quarter;
+        angles = turnedAngles(start, turn, angles);
+        EXPECT_NEAR(nbEulerUtils::toVec3f(nbEulerUtils::toDegrees(angles)).z(),
+                    170.0F + 90.0F * static_cast<float>(quarter), 1e-3F);
+    }
+    const Vec3f pivot =
+        nbEulerUtils::toVec3f(nbEulerUtils::toDegrees(turnedPivot(start, kHalfPi)));
+    EXPECT_NEAR(pivot.z(), -100, 1e-3F);
+    start.ringAxis = Vec3f();
+    EXPECT_NEAR(nbEulerUtils::toVec3f(nbEulerUtils::toDegrees(turnedPivot(start, 1))).z(), 170,
+                1e-3F);
+}
+
+}  // namespace nbec::manipulator::transform::test
