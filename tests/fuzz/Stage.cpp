@@ -420,8 +420,10 @@ void Stage::dropMaterial(std::size_t index)
         if (node == osg::NullFC) {
             continue;
         }
-        const osg::NodePtr box = node->getNChildren() > 0 ? node->getChild(0) : node.get();
-        const auto geometry = osg::GeometryPtr::dcast(box->getCore());
+        auto geometry = osg::GeometryPtr::dcast(node->getCore());
+        if (geometry == osg::NullFC && node->getNChildren() > 0) {
+            geometry = osg::GeometryPtr::dcast(node->getChild(0)->getCore());
+        }
         if (geometry != osg::NullFC && geometry->getMaterial() == materials[index].get()) {
             const nbEdit edit(geometry, osg::Geometry::MaterialFieldMask);
             geometry->setMaterial(osg::MaterialPtr());

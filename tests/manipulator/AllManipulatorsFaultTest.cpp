@@ -88,7 +88,7 @@ TEST_F(MatchDrags, WhoHearsOfALineMayDestroyItsCamera)
         if (fault == Fault::DropCamera) {
             gizmo->setCamera(stage.firstCamera());
         }
-        ASSERT_TRUE(press());
+        ASSERT_TRUE(press("2"));
         ASSERT_TRUE(step());
         stage.arm(fault);
         step();

@@ -139,14 +139,15 @@ const std::vector<SetRow<Tire>> kTireSets = {
     { &Tire::activateTranslateManipulator, { "xaShape", "yaShape", "zaShape" } },
     { &Tire::activateScaleManipulator, { "radiusRingShape", "radiusShape", "heightShape", "oppositeHeightShape", "scaleUShape" } },
 };
+
 // clang-format on
 
 template <class Gizmo>
 class Handles : public testing::Test
 {
 protected:
-    using Scene = std::conditional_t<std::is_same_v<Gizmo, Transform>, DragScene,
-                                     TextureSceneOf<Gizmo>>;
+    using Scene =
+        std::conditional_t<std::is_same_v<Gizmo, Transform>, DragScene, TextureSceneOf<Gizmo>>;
 
     static const std::vector<HandleRow>& rows()
     {
@@ -231,8 +232,8 @@ TYPED_TEST(Handles, AreHitByTheirNamesLightUpAndHideTheOthers)
             SCOPED_TRACE(std::string(row.name) + (isOrthographic ? ", orthographic" : ""));
             scene.look(row.camera, isOrthographic);
             const bool isAtOrigin = row.unit == Vec3f();
-            const Pnt2f pixel = scene.drag.rayPixelOf(isAtOrigin ? scene.originOf(row.name)
-                                                              : scene.onHandle(row.name, row.unit));
+            const Pnt2f pixel = scene.drag.rayPixelOf(
+                isAtOrigin ? scene.originOf(row.name) : scene.onHandle(row.name, row.unit));
             EXPECT_TRUE(scene.scene.send("hover", pixel));
             if constexpr (!std::is_same_v<TypeParam, Transform>) {
                 EXPECT_EQ(static_cast<unsigned>(scene.gizmo.getActiveMode()), row.mode);
@@ -259,8 +260,8 @@ TYPED_TEST(Handles, OfAModeAreShown)
     for (const SetRow<TypeParam>& set : this->sets()) {
         (scene.gizmo.*set.activate)();
         Names shown = scene.shownOf(names);
-        EXPECT_TRUE(std::is_permutation(shown.begin(), shown.end(), set.shown.begin(),
-                                        set.shown.end()))
+        EXPECT_TRUE(
+            std::is_permutation(shown.begin(), shown.end(), set.shown.begin(), set.shown.end()))
             << testing::PrintToString(shown);
         scene.gizmo.hideManipulator();
         EXPECT_EQ(scene.shownOf(names), Names());

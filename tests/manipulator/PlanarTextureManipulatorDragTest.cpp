@@ -75,6 +75,7 @@ TEST(PlanarTextureManipulatorDrag, TranslationsSendOffsetAndVectorSinceTheStart)
         { "xyaShape", Camera::Front, true, oriented, { 0.25F, 0.25F, 0 }, { 36, -72 }, { kStep, -kStep / 2 }, { kStep / 2, kStep, 0 } },
         { "xaShape", Camera::Front, true, enlarged, { 1.9F, 0, 0 }, { 72, 0 }, { kStep / 2, 0 }, { kStep / 2, 0, 0 } },
     };
+
     // clang-format on
 
     for (const auto& row : rows) {

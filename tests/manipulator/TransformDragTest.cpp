@@ -114,8 +114,7 @@ TEST(TransformDrag, TargetsGoFromTheirStart)
         EXPECT_NEAR(nbEulerUtils::toVec3f(nbEulerUtils::toDegrees(angles)).z(),
                     170.0F + 90.0F * static_cast<float>(quarter), 1e-3F);
     }
-    const Vec3f pivot =
-        nbEulerUtils::toVec3f(nbEulerUtils::toDegrees(turnedPivot(start, kHalfPi)));
+    const Vec3f pivot = nbEulerUtils::toVec3f(nbEulerUtils::toDegrees(turnedPivot(start, kHalfPi)));
     EXPECT_NEAR(pivot.z(), -100, 1e-3F);
     start.ringAxis = Vec3f();
     EXPECT_NEAR(nbEulerUtils::toVec3f(nbEulerUtils::toDegrees(turnedPivot(start, 1))).z(), 170,

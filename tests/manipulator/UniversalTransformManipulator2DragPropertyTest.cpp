@@ -102,10 +102,7 @@ public:
     }
 
     /// False where another handle covers the chosen one.
-    bool grab()
-    {
-        return drags.grabAt(handle.name, drags.onGizmo(handle.grab));
-    }
+    bool grab() { return drags.grabAt(handle.name, drags.onGizmo(handle.grab)); }
 
     /// World direction of an arrow's movement, or at right angles to a plane's. Below a parent with
     /// different scales the node's own axes are not at right angles, as the drawn ones are.

@@ -70,8 +70,8 @@ TEST(UniversalTransformManipulator2, TargetsBelowOthersAndTwiceNamedOnesAreLeftO
     const osg::NodePtr beside = drags.addFurther(Vec3f(3, 0, 0));
     const osg::NodePtr below = drags.addFurther(Vec3f(0, 3, 0));
     addChild(beside, below);
-    drags.gizmo.setNode(drags.scene.node, { beside, beside, osg::NodePtr(), drags.scene.node,
-                                            below, drags.parent });
+    drags.gizmo.setNode(drags.scene.node,
+                        { beside, beside, osg::NodePtr(), drags.scene.node, below, drags.parent });
     ASSERT_TRUE(drags.grab(kArrow));
     EXPECT_TRUE(drags.dragBy(Vec2f(72, 0)));
     EXPECT_NEAR(transformOf(beside)->getTranslation().x(), 3 + kStep, 2e-4F);

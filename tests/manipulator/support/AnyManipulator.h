@@ -59,6 +59,7 @@ struct Traits
     bool marksModified;  ///< by itself; others leave that to who edits
     bool hasText;
     bool followsCamera;  ///< in an update that is not forced
+    bool goesOnWithoutTarget = false;  ///< until the stop, which answers false
 };
 
 // clang-format off
@@ -68,11 +69,12 @@ template <class Gizmo> constexpr Traits kTraits {};
 template <> constexpr Traits kTraits<Transform> { Fault::DropNode, "nbTransform::changedTransformation", 0, "xaShape", "yaShape", Pause::Never, false, true, true, false, true, true, true, true, false };
 template <> constexpr Traits kTraits<Planar> { Fault::DropNode, "editor::changedPlanarManipulator", 0, "yaShape", "xsShape", Pause::AtStart, true, true, false, false, true, true, false, true, true };
 template <> constexpr Traits kTraits<Triplanar> { Fault::DropMaterial, "editor::changedTriplanarManipulator", 1, "xaShape", "yaShape", Pause::AtFirstStep, false, true, true, true, false, false, true, false, true };
-template <> constexpr Traits kTraits<UV> { Fault::DropMaterial, "editor::changedUVManipulator", 1, "xaShape", "yaShape", Pause::AtFirstStep, false, true, true, true, false, false, false, false, true };
+template <> constexpr Traits kTraits<UV> { Fault::DropMaterial, "editor::changedUVManipulator", 1, "xaShape", "yaShape", Pause::AtFirstStep, false, true, true, true, false, false, false, false, true, true };
 template <> constexpr Traits kTraits<Tire> { Fault::DropMaterial, "editor::changedTireManipulator", 2, "yaShape", "scaleUShape", Pause::AtFirstStep, false, true, true, true, false, false, true, true, true };
 template <> constexpr Traits kTraits<Plate> { Fault::DropPlate, "sceneplateChanged", 0, "scaleXYURShape", "rotateShape", Pause::AtStart, true, false, false, false, true, true, false, true, true };
 // Edits its camera's match without a message.
 template <> constexpr Traits kTraits<Match> { Fault::DropView, "", 0, "1", "2", Pause::Never, false, true, true, true, true, false, false, false, false };
+
 // clang-format on
 
 /// A manipulator of any kind on a stage that has all that it needs.
@@ -145,6 +147,7 @@ protected:
             point(aimAt(*gizmo, stage, bytes));
             return say("hover");
         } else {
+            gizmo->update(true);
             for (const Pnt2f& px : placesOf(node(name))) {
                 point(px);
                 if (say("hover") && nbNodeUtils::getName(stage.picker.getHitNode()) == name) {

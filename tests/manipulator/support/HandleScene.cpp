@@ -117,14 +117,17 @@ DragScene::~DragScene()
 void DragScene::activate(Gizmo::ManipulatorMode mode)
 {
     // In the order of the modes.
-    static constexpr void (Gizmo::*kActivate[])() = {
-        &Gizmo::activateUniversalManipulator,       &Gizmo::activateTranslateManipulator,
-        &Gizmo::activateScaleManipulator,           &Gizmo::activateRotateManipulator,
-        &Gizmo::activateRotatePivotManipulator,     &Gizmo::activateScalePivotManipulator,
-        &Gizmo::activateClippingManipulator,        &Gizmo::activateTranslateRotateManipulator,
-        &Gizmo::activateTranslateRotateYZManipulator,
-        &Gizmo::activateTranslateRotateScaleManipulator
-    };
+    static constexpr void (
+        Gizmo::*kActivate[])() = { &Gizmo::activateUniversalManipulator,
+                                   &Gizmo::activateTranslateManipulator,
+                                   &Gizmo::activateScaleManipulator,
+                                   &Gizmo::activateRotateManipulator,
+                                   &Gizmo::activateRotatePivotManipulator,
+                                   &Gizmo::activateScalePivotManipulator,
+                                   &Gizmo::activateClippingManipulator,
+                                   &Gizmo::activateTranslateRotateManipulator,
+                                   &Gizmo::activateTranslateRotateYZManipulator,
+                                   &Gizmo::activateTranslateRotateScaleManipulator };
     (gizmo.*kActivate[static_cast<std::size_t>(mode)])();
     EXPECT_EQ(gizmo.getMode(), mode);
 }

@@ -74,7 +74,8 @@ void TextureScene::anchor(AnchoredTextureManipulator& gizmo)
     log.clear();
 }
 
-void TextureScene::editSettings(const std::function<void(const osg::ColorComponentSettingsPtr&)>& change)
+void TextureScene::editSettings(
+    const std::function<void(const osg::ColorComponentSettingsPtr&)>& change)
 {
     osg::beginEditCP(settings);
     change(settings);
