@@ -139,17 +139,6 @@ TEST_F(AbstractManipulatorTest, PreselectionThatSomebodyElseSwitchedOffStaysOff)
     EXPECT_FALSE(nbScenegraph::isPreselectionEnabled());
 }
 
-TEST_F(AbstractManipulatorTest, AnInactiveManipulatorKeepsWhatItOwesOfPreselection)
-{
-    manipulator.answer = true;
-    manipulator.hover(nullptr, "select");
-
-    manipulator.deactivate(nullptr);
-
-    EXPECT_FALSE(nbScenegraph::isPreselectionEnabled())
-        << "deactivating an inactive one does nothing";
-}
-
 TEST_F(AbstractManipulatorTest, DragOperationsAnswerTrueAndTheOthersFalseByDefault)
 {
     PlainManipulator plain;

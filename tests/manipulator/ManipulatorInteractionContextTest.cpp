@@ -180,13 +180,4 @@ TEST(ManipulatorInteractionContext, PickerGetsTheColliderWhicheverComesFirst)
         << "without a manipulator there is nothing to hand over";
 }
 
-TEST(ManipulatorInteractionContext, StandsAtTheManipulatorsPositionByDefault)
-{
-    ManipulatorInteractionContext context;
-    ManipulatorInteractionContext other(interaction::Overlay);
-
-    EXPECT_EQ(static_cast<int>(context.getPreferredPosition()), 100);
-    EXPECT_EQ(other.getPreferredPosition(), interaction::Overlay);
-}
-
 }  // namespace nbec::manipulator::test

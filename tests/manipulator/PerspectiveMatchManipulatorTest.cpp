@@ -196,19 +196,6 @@ TEST_F(PerspectiveMatchManipulatorTest, ALockedCameraRefusesSilently)
 
 // == Hovering, grabbing and the magnifier
 
-TEST_F(PerspectiveMatchManipulatorTest, AViewWithoutAreaKeepsItsUnit)
-{
-    const QLineF before = match().getXLine1();
-    ASSERT_TRUE(scene.grab(before.center()));
-    scene.widget.resize(0, 0);
-    EXPECT_TRUE(drawnLine(gizmo, 1).isNull());
-    scene.send("process", osg::Pnt2f(0, 0));
-    scene.send("process", osg::Pnt2f(3, 3));
-    EXPECT_TRUE(scene.send("stop", osg::Pnt2f(3, 3)));
-    expectLine(match().getXLine1(), before.translated(0.003, -0.003));
-    EXPECT_FALSE(scene.send("hover", osg::Pnt2f(3, 3)));
-}
-
 TEST_F(PerspectiveMatchManipulatorTest, HoverHighlightsAndStartNeedsIt)
 {
     const QLineF x1 = match().getXLine1();
@@ -371,27 +358,6 @@ TEST_F(PerspectiveMatchManipulatorTest, AllInstancesFollowTheView)
 }
 
 // == Construction
-
-TEST(PerspectiveMatchManipulator, WithoutARenderWidgetNothingIsHandled)
-{
-    const osg::RefPtr<osg::UberCameraPtr> camera(osg::UberCamera::create());
-    PerspectiveMatchManipulator gizmo;
-    {
-        MatchScene scene;
-        gizmo.activate(&scene.context);
-        gizmo.setCamera(scene.widget.getUberCamera());
-        gizmo.setMousePosition(scene.pixelOf(scene.match().getXLine1().p1()));
-        ASSERT_TRUE(gizmo.hoverManipulator(&scene.context, "select"));
-        ASSERT_TRUE(gizmo.startManipulator(&scene.context, "select"));
-        EXPECT_TRUE(gizmo.processManipulator(&scene.context, "select"));
-    }
-    EXPECT_FALSE(gizmo.processManipulator(nullptr, "select"));
-    EXPECT_TRUE(gizmo.stopManipulator(nullptr, "select"));
-    gizmo.setCamera(camera.get());
-    EXPECT_FALSE(gizmo.processManipulator(nullptr, "select"));
-    EXPECT_FALSE(gizmo.stopManipulator(nullptr, "select"));
-    gizmo.deactivate(nullptr);
-}
 
 TEST(PerspectiveMatchManipulator, MissingServicesAreReportedOnceAndDoNoHarm)
 {

@@ -22,7 +22,6 @@ namespace {
 
 const QColor kRed = QColor::fromRgbF(1.0, 0.2, 0.2);
 const QColor kGreen = QColor::fromRgbF(0.1, 0.75, 0.15);
-const QColor kBlue = QColor::fromRgbF(0.25, 0.5, 1.0);
 const QColor kOrange = QColor::fromRgbF(1.0, 0.6, 0.0);
 const QColor kBlack(0, 0, 0);
 
@@ -114,16 +113,6 @@ TEST_F(PerspectiveMatchPictureTest, LinesStandInTheirPixelsWhateverTheViewAndThe
             }
         }
     }
-}
-
-TEST_F(PerspectiveMatchPictureTest, TheOverlayLeavesNoTraceInTheEffectBuffer)
-{
-    scene.lookFrom(osg::Pnt3f(0, 0, 6));
-    scene.match().setZLine1(pixelLine(260, 240, 380, 240));
-    EXPECT_TRUE(isColor(at(draw(), 320, 240), kBlue));
-    const QImage effect = view->readEffect();
-    EXPECT_EQ(effect.pixelColor(320, 239).alpha(), 0);
-    EXPECT_EQ(effect.pixelColor(320, 220).alpha(), 255) << "of the box below the line";
 }
 
 TEST_F(PerspectiveMatchPictureTest, GuidesShowDuringADrag)

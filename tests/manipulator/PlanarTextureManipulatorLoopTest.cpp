@@ -4,7 +4,6 @@
 #include "manipulator/course/View.h"
 #include "manipulator/drag/DragGeometry.h"
 #include "tests/manipulator/support/TextureScene.h"
-#include "tests/platform/support/Edited.h"
 
 #include <nbKernel/nbController.h>
 
@@ -254,51 +253,6 @@ TEST_P(Loops, LeaveWhatWasGrabbedUnderThePointer)
 }
 
 INSTANTIATE_TEST_SUITE_P(PlanarTextureManipulator, Loops, testing::ValuesIn(kLoops));
-
-TEST(PlanarTextureManipulatorLoop, CornersKeepTheRatioIfTheMaterialSaysSo)
-{
-    for (const char* const handle :
-         { "scaleXYURShape", "scaleXYLLShape", "scaleXRShape", "scaleYLShape" }) {
-        PlanarScene planar(PlanarScene::Receiver::Editor);
-        planar.edit(planar.projection,
-                    [](const auto& projection) { projection->setScale(Vec3f(2, 1, 1)); });
-        nbtest::edited(planar.settings)
-            ->setPlanarProjectionFlags(osg::ColorComponentSettings::KeepAspectRatio);
-        const std::string name = handle;
-        const float x = name.find("LL") != std::string::npos ? 1.0F
-            : name.find('X') != std::string::npos            ? -1.0F
-                                                             : 0.0F;
-        const float y = name == "scaleXRShape" ? 0.0F : name == "scaleXYURShape" ? -1.0F : 1.0F;
-        const Pnt3f opposite = planar.inWorld(Vec3f(x, y, 0));
-        ASSERT_TRUE(planar.grab(handle, Vec3f(0.05F, 0.05F, 0)));
-
-        EXPECT_TRUE(planar.drag.dragBy(Vec2f(50, 40)));
-        const Vec3f scale = planar.projection->getScale();
-        EXPECT_GT(std::abs(scale.x() - 2.0F), 0.01F) << handle;
-        EXPECT_NEAR(scale.x() / scale.y(), 2.0F, 1e-4F) << handle;
-        EXPECT_EQ(scale.z(), 1.0F) << handle;
-        EXPECT_LT((planar.inWorld(Vec3f(x, y, 0)) - opposite).length(), 4.0F * kFixed) << handle;
-        EXPECT_TRUE(planar.drag.dragBy(Vec2f(-390, -250)));
-        EXPECT_TRUE(planar.drag.dragBy(Vec2f(390, 250)));
-        EXPECT_GT(planar.projection->getScale().x(), 0.01F) << handle;
-        EXPECT_LT((planar.inWorld(Vec3f(x, y, 0)) - opposite).length(), 4.0F * kFixed) << handle;
-    }
-}
-
-TEST(PlanarTextureManipulatorLoop, TextureScaleKeepsTabsOnThePicture)
-{
-    PlanarScene planar(PlanarScene::Receiver::Editor);
-    planar.gizmo.setUseTextureScale(true);
-    planar.edit(planar.projection,
-                [](const auto& projection) { projection->setScale(Vec3f(1.5F, 0.75F, 1)); });
-    ASSERT_TRUE(planar.grab("scaleXYURShape", Vec3f()));
-    const Pnt3f opposite = planar.inWorld(Vec3f(-1, -1, 0));
-
-    EXPECT_TRUE(planar.drag.dragBy(Vec2f(60, 20)));
-    const Vec3f off = planar.onHandle("scaleXYURShape", Vec3f()) - planar.inWorld(Vec3f(1, 1, 0));
-    EXPECT_LT(off.length(), kFixed);
-    EXPECT_LT((planar.inWorld(Vec3f(-1, -1, 0)) - opposite).length(), kFixed);
-}
 
 TEST(PlanarTextureManipulatorLoop, ObjectsInSmallUnitsAreDraggedLikeOthers)
 {

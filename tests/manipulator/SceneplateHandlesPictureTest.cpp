@@ -124,24 +124,5 @@ TEST_F(SceneplateHandlesPictureTest, HandlesHaveOneSizeInEveryWindow)
     }
 }
 
-TEST_F(SceneplateHandlesPictureTest, GrabbedHandleAndGuidesAreSeen)
-{
-    open(800, 600);
-    scene->manipulator.setNodes({ scene->addPlate({ 400, 300, 200, 100 }) });
-    scene->manipulator.enableSnapping(true);
-    scene->drag("grid", osg::Vec2f(3, 5), false);
-    QImage picture = draw();
-    expectColor(picture, 300, 320, kOrange);
-    expectColor(picture, 400, 20, kPurple);
-    expectColor(picture, 20, 300, kPurple);
-    scene->send("stop", osg::Pnt2f(403, 305));
-
-    scene->drag("rotateShape", osg::Vec2f(200, 0), false);
-    picture = draw();
-    const osg::Pnt2f knob = scene->handlePx("rotateShape");
-    expectColor(picture, knob.x(), knob.y(), kOrange);
-    EXPECT_GT(knob.x(), 450) << "turned along";
-}
-
 }  // namespace
 }  // namespace nbec::manipulator::test

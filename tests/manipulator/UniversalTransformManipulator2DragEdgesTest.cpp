@@ -7,7 +7,6 @@
 #include <nbKernel/nbController.h>
 #include <nbKernel/nbScenegraph.h>
 #include <nbNotification/NotificationManager.h>
-#include <nbOpenSGUberCamera/UberCamera.h>
 #include <nbOpenSGUtils/nbNodePermission.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 #include <nbTransform/nbTransformModel.h>
@@ -30,16 +29,6 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 constexpr osg::Int32 kTransformPermission = 19;
-
-std::vector<std::string> visibleTexts()
-{
-    std::vector<std::string> texts;
-    for (const notification::VisibleText& text :
-         NotificationManager::getInstance()->getVisibleTexts(800, 600)) {
-        texts.push_back(text.text.toStdString());
-    }
-    return texts;
-}
 
 void destroy(const osg::NodePtr& node)
 {
@@ -206,11 +195,11 @@ TEST(DragText, ShowsTheEditedValuesAndGoesWithTheDrag)
         DragScene drags;
         drags.activate(row.mode);
         ASSERT_TRUE(drags.grab(row.grab));
-        EXPECT_THAT(visibleTexts(), IsEmpty());
+        EXPECT_THAT(HandleScene::texts(), IsEmpty());
         EXPECT_TRUE(drags.dragBy(row.offsetPx));
-        EXPECT_THAT(visibleTexts(), ElementsAre(row.text));
+        EXPECT_THAT(HandleScene::texts(), ElementsAre(row.text));
         EXPECT_TRUE(drags.release());
-        EXPECT_THAT(visibleTexts(), IsEmpty());
+        EXPECT_THAT(HandleScene::texts(), IsEmpty());
         EXPECT_EQ(NotificationManager::getInstance()->getTextCount(), 0U);
     }
 }
@@ -228,7 +217,7 @@ TEST(DragText, IsEmptyWhereTheModeHasNoneAndWhenSwitchedOff)
         drags.gizmo.setDescriptionEnabled(mode != Mode::Translate);
         ASSERT_TRUE(drags.grab(grab));
         EXPECT_TRUE(drags.stepTo(Vec2f(-9, 4)));
-        EXPECT_THAT(visibleTexts(), IsEmpty()) << static_cast<int>(mode);
+        EXPECT_THAT(HandleScene::texts(), IsEmpty()) << static_cast<int>(mode);
     }
 }
 
@@ -270,41 +259,6 @@ TEST(BrokenDrags, ANodeTakenOutOfTheSceneStays)
     EXPECT_FALSE(drags.dragBy(Vec2f(20, 0)));
     EXPECT_EQ(drags.core()->getTranslation(), before);
     EXPECT_TRUE(drags.release());
-}
-
-TEST(BrokenDrags, FlattenedAndMirroredNodesAndParentsStayFinite)
-{
-    const std::pair<Mode, Vec3f> handles[] = {
-        { Mode::Translate, kArrow },     { Mode::Rotate, kRing },
-        { Mode::Scale, { 1.5F, 0, 0 } }, { Mode::RotatePivot, kArrow },
-        { Mode::RotatePivot, kRing },    { Mode::ScalePivot, kArrow }
-    };
-    for (const bool local : { false, true }) {
-        for (const bool isParent : { false, true }) {
-            for (const Vec3f& factor : { Vec3f(0, 0, 0), Vec3f(0, 1, 1), Vec3f(-1, 2, 1) }) {
-                for (const auto& [mode, grab] : handles) {
-                    DragScene drags;
-                    const nbtest::LogLines log;  // the model says what it leaves alone
-                    Gizmo::setLocalSpaceManipulator(local);
-                    drags.activate(mode);
-                    ASSERT_TRUE(drags.grab(grab));
-                    EXPECT_TRUE(drags.dragBy(Vec2f(-10, 6)));
-                    const auto flatten = [&factor](const osg::Transform3DPtr& core) {
-                        core->setScale(factor);
-                    };
-                    drags.edit(isParent ? drags.parentCore() : drags.core(), flatten);
-                    EXPECT_TRUE(drags.dragBy(Vec2f(-20, 12)));
-                    EXPECT_TRUE(drags.release());
-                    drags.grab(grab);  // what is left of it may be too flat to be hit
-                    drags.dragBy(Vec2f(-20, 12));
-                    drags.release();
-                    EXPECT_TRUE(isFinite(drags.core()->computeMatrix()));
-                    EXPECT_TRUE(isFinite(
-                        drags.gizmo.getVisualisation()->getChild(3)->getChild(0)->getToWorld()));
-                }
-            }
-        }
-    }
 }
 
 TEST(BrokenDrags, ASelectionOrModeChangedMeanwhileIsHarmless)

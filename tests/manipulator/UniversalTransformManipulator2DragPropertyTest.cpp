@@ -228,17 +228,6 @@ void forEachDrag(bool uniformParent, Check check)
 
 }  // namespace
 
-TEST(DragProperties, ValuesStayFiniteWhateverTheWay)
-{
-    forEachDrag(false, [](RandomDrag& drag) {
-        for (int i = 0; i < 12; ++i) {
-            EXPECT_TRUE(drag.drags.stepTo(drag.offset(2000.0F)));
-            ASSERT_TRUE(isFinite(drag.toWorld()));
-        }
-        EXPECT_TRUE(drag.drags.release());
-    });
-}
-
 TEST(DragProperties, TheEndDependsNeitherOnTheWayNorOnTheSteps)
 {
     for (unsigned seed = 1; seed <= kRuns; ++seed) {

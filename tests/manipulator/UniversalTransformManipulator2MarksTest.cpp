@@ -5,12 +5,8 @@
 
 #include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGUberCamera/UberCamera.h>
-#include <nbOpenSGUtils/nbNodePermission.h>
 
 #include <OpenSG/OSGGeometry.h>
-#include <OpenSG/OSGGroup.h>
-
-#include <functional>
 
 namespace nbec::manipulator::test {
 
@@ -98,72 +94,28 @@ protected:
 
 }  // namespace
 
-TEST_F(Marks, StandAtThePivotsAfterEveryStepWhateverHappensBetween)
+TEST_F(Marks, StandAtThePivotsAfterEveryStep)
 {
-    struct Row
-    {
-        const char* what;
-        Mode mode;
-        Vec3f handle;
-        bool local;
-    };
-
-    const Row rows[] = {
-        { "along the world", Mode::Translate, kArrow, false },
-        { "along the nodes", Mode::Translate, kArrow, true },
-        { "turned", Mode::Rotate, kRing, false },
-        { "scaled", Mode::Scale, kScaleHandle, false },
-        { "rotate pivot", Mode::RotatePivot, kArrow, false },
-        { "scale pivot", Mode::ScalePivot, kArrow, false },
-    };
-    const auto nothing = [] {};
-    const auto move = [this] { moveCore(turned); };
-    const auto changeSpace = [] {
-        Gizmo::setLocalSpaceManipulator(!Gizmo::isLocalSpaceManipulator());
-    };
-    const auto lookFromElsewhere = [this] {
-        drags.look(Camera::Oblique, false);
-        Gizmo::updateAllManipulators();
-    };
-    const auto lock = [this] { nbNodePermission::setAllowed(below, 19, false); };
-    const auto unlock = [this] { nbNodePermission::setAllowed(below, 19, true); };
-    const std::vector<std::function<void()>> between {
-        nothing,     nothing, move,        nothing,          lock, unlock, nothing,
-        changeSpace, nothing, changeSpace, lookFromElsewhere
-    };
-    for (const Row& row : rows) {
-        for (const bool disturbed : { false, true }) {
-            SCOPED_TRACE(std::string(row.what) + (disturbed ? ", disturbed" : ""));
-            Gizmo::setLocalSpaceManipulator(row.local);
-            drags.look(Camera::Front, false);
-            drags.activate(row.mode);
-            drags.gizmo.setDescriptionEnabled(disturbed);
-            const bool scalePivot = row.mode == Mode::Scale || row.mode == Mode::ScalePivot;
+    const std::pair<Mode, Vec3f> rows[] = { { Mode::Translate, kArrow },
+                                            { Mode::Rotate, kRing },
+                                            { Mode::Scale, kScaleHandle },
+                                            { Mode::RotatePivot, kArrow },
+                                            { Mode::ScalePivot, kArrow } };
+    for (const bool local : { false, true }) {
+        Gizmo::setLocalSpaceManipulator(local);
+        for (const auto& [mode, handle] : rows) {
+            SCOPED_TRACE(static_cast<int>(mode));
+            drags.activate(mode);
+            const bool scalePivot = mode == Mode::Scale || mode == Mode::ScalePivot;
             expectMarksAtPivots(scalePivot);
-            ASSERT_TRUE(drags.grab(row.handle));
-            float offset = 0.0F;
-            for (const auto& event : between) {
-                if (disturbed) {
-                    event();
-                }
-                offset += 3.0F;
+            ASSERT_TRUE(drags.grab(handle));
+            for (float offset = 3; offset < 13; offset += 3) {
                 EXPECT_TRUE(drags.stepTo(Vec2f(offset, -offset)));
                 expectMarksAtPivots(scalePivot);
             }
             EXPECT_TRUE(drags.release());
             expectMarksAtPivots(scalePivot);
         }
-    }
-    Gizmo::setLocalSpaceManipulator(false);
-}
-
-TEST_F(Marks, OfNodesThatShareACoreStandAtBoth)
-{
-    nbtest::edited(below, osg::Node::CoreFieldMask)->setCore(turned->getCore());
-    ASSERT_TRUE(drags.grab(kArrow));
-    for (float offset = 10.0F; offset < 50.0F; offset += 10.0F) {
-        EXPECT_TRUE(drags.stepTo(Vec2f(offset, 0)));
-        expectMarksAtPivots(false);
     }
 }
 

@@ -126,31 +126,6 @@ TEST(nbPlanarProjectionVisualization, TreeGoesFromTheObjectToTheProjectionToTheP
     expectBox(root, { -1, -1, -1 }, { 1, 1, 0 });
 }
 
-TEST(nbPlanarProjectionVisualization, PlanesAreFaintShowTheTextureAndIgnoreDepth)
-{
-    nbPlanarProjectionVisualization visualization;
-    const auto materials = planeMaterials(visualization.getRootNode());
-
-    ASSERT_EQ(2U, materials.size());
-    EXPECT_NE(materials[0], materials[1]);
-    EXPECT_EQ(0.8f, visualization.getPlaneTransparency());
-    visualization.setPlaneTransparency(0.5f);
-    for (const osg::SimpleMaterialPtr& material : materials) {
-        EXPECT_EQ(0.5f, material->getTransparency());
-        EXPECT_EQ(64000, material->getSortKey());
-        EXPECT_EQ(osg::Color3f(), material->getDiffuse());
-        const osg::BlendChunkPtr blend = chunkOf<osg::BlendChunk>(material);
-        EXPECT_EQ(GLenum(GL_SRC_ALPHA), blend->getSrcFactor());
-        EXPECT_EQ(GLenum(GL_ONE_MINUS_SRC_ALPHA), blend->getDestFactor());
-        const osg::DepthChunkPtr depth = chunkOf<osg::DepthChunk>(material);
-        EXPECT_FALSE(depth->getEnable());
-        EXPECT_TRUE(depth->getReadOnly());
-        EXPECT_EQ(GLenum(GL_LEQUAL), depth->getFunc());
-        EXPECT_EQ(GLenum(GL_BLEND), chunkOf<osg::TextureChunk>(material)->getEnvMode());
-        EXPECT_EQ(chunkOf<osg::TextureChunk>(materials[0]), chunkOf<osg::TextureChunk>(material));
-    }
-}
-
 TEST(nbPlanarProjectionVisualization, ShowsAndHidesAsAWholeAndTheZExtentAlone)
 {
     nbPlanarProjectionVisualization visualization;

@@ -3,15 +3,12 @@
 
 #include "tests/platform/support/Plates.h"
 
-#include <nbInteraction/InputTranslator.h>
 #include <nbInteraction/InteractionManager.h>
 #include <nbInteraction/Picker.h>
 #include <nbInteraction/ToolInteractionContext.h>
 #include <nbKernel/nbController.h>
 #include <nbKernel/nbOSGWidget.h>
 #include <nbKernel/nbScenegraph.h>
-
-#include <QtGui/QMouseEvent>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -204,16 +201,6 @@ TEST_F(SceneplatePickToolTest, LeavingModeToolWithoutAReportKeepsReporting)
     EXPECT_TRUE(sendAt(kLeftPx, "hover"));
 }
 
-TEST_F(SceneplatePickToolTest, OtherModesChangeNothing)
-{
-    widget.setCursor(Qt::WaitCursor);
-    for (const char* mode : { "precisionTool", "Tool", " " }) {
-        EXPECT_FALSE(tool.setToolMode(&context, mode)) << mode;
-    }
-    EXPECT_EQ(widget.getCursor(), Qt::WaitCursor);
-    EXPECT_THAT(preselected, IsEmpty());
-}
-
 TEST_F(SceneplatePickToolTest, ClickSelectsThePlateUnderThePointer)
 {
     EXPECT_TRUE(sendAt(kLeftPx, "start", "toggle"));
@@ -267,33 +254,6 @@ TEST_F(SceneplatePickToolTest, RectangleSelectsWhateverWayItIsDrawn)
     }
 }
 
-TEST_F(SceneplatePickToolTest, MouseEventsOfAPersonHoverClickAndDragUpLeft)
-{
-    nbec::interaction::InputTranslator translator(manager, &widget);
-    const auto mouse = [&translator](QEvent::Type type, const osg::Pnt2f& px,
-                                     Qt::MouseButton button, Qt::MouseButtons buttons) {
-        QMouseEvent event(type, QPointF(px.x(), px.y()), button, buttons, Qt::NoModifier);
-        translator.handleEvent(event);
-    };
-    mouse(QEvent::MouseMove, kLeftPx, Qt::NoButton, Qt::NoButton);
-    EXPECT_THAT(preselected, ElementsAre(left));
-    mouse(QEvent::MouseButtonPress, kLeftPx, Qt::LeftButton, Qt::LeftButton);
-    mouse(QEvent::MouseButtonRelease, kLeftPx, Qt::LeftButton, Qt::NoButton);
-    EXPECT_THAT(selected, ElementsAre(left));
-
-    const osg::Pnt2f from(390, 290);
-    const osg::Pnt2f to(200, 20);
-    mouse(QEvent::MouseButtonPress, from, Qt::LeftButton, Qt::LeftButton);
-    mouse(QEvent::MouseMove, from - osg::Vec2f(1, 1), Qt::NoButton, Qt::LeftButton);
-    EXPECT_FALSE(widget.getRectSelection());
-    mouse(QEvent::MouseMove, to, Qt::NoButton, Qt::LeftButton);
-    EXPECT_TRUE(widget.getRectSelection());
-    mouse(QEvent::MouseButtonRelease, to, Qt::LeftButton, Qt::NoButton);
-    EXPECT_THAT(selected, ElementsAre(right));
-    EXPECT_FALSE(widget.getRectSelection());
-    EXPECT_EQ(selections, 2);
-}
-
 TEST_F(SceneplatePickToolTest, RectangleEndsAnOutstandingPreselectionAndIsRedrawn)
 {
     sendAt(kNothingPx, "hover");
@@ -326,27 +286,6 @@ TEST_F(SceneplatePickToolTest, WithoutPickerOrContextNothingIsToldAndTheRectangl
     EXPECT_TRUE(tool.preselectionActive);
     EXPECT_THAT(preselected, IsEmpty());
     EXPECT_EQ(selections, 0);
-}
-
-TEST_F(SceneplatePickToolTest, CopiesLeaveTheOutstandingReportBehind)
-{
-    tool.sceneplateId = left->getCore().getFieldContainerId();
-    tool.setToolMode(&context, "tool");
-    ASSERT_TRUE(tool.preselectionSent);
-
-    const HostTool copy(tool);
-    HostTool assigned;
-    assigned = tool;
-    for (const HostTool* other : { &copy, static_cast<const HostTool*>(&assigned) }) {
-        EXPECT_EQ(other->getSceneplate(), left->getCore());
-        EXPECT_TRUE(other->preselectionActive);
-        EXPECT_FALSE(other->preselectionSent);
-        EXPECT_FALSE(other->isActive());
-    }
-    HostTool waiting;
-    waiting.preselectionSent = true;
-    waiting = HostTool();
-    EXPECT_TRUE(waiting.preselectionSent) << "the target's own report is still to be ended";
 }
 
 TEST_F(SceneplatePickToolTest, SceneplateIsFoundByItsIdAndType)

@@ -78,6 +78,16 @@ Names HandleScene::shownOf(const Names& names) const
     return shown;
 }
 
+Names HandleScene::texts()
+{
+    Names found;
+    for (const auto& each :
+         notification::NotificationManager::getInstance()->getVisibleTexts(800, 600)) {
+        found.push_back(each.text.toStdString());
+    }
+    return found;
+}
+
 bool HandleScene::grabAt(const std::string& name, const osg::Pnt3f& world)
 {
     return drag.press(world) && nbNodeUtils::getName(scene.picker.getHitNode()) == name &&

@@ -39,6 +39,9 @@ public:
     /// Names of the handles that are shown, of some.
     Names shownOf(const Names& names) const;
 
+    /// Texts on the screen.
+    static Names texts();
+
     /// Presses on a world point and sends the first step. @return whether a handle of that name
     /// was grabbed
     bool grabAt(const std::string& name, const osg::Pnt3f& world);

@@ -1,0 +1,516 @@
+// SPDX-License-Identifier: MIT
+// The texture gizmos at an anchor: where they stand and what their drags send, with numbers worked
+// out by hand.
+#include "tests/manipulator/support/TextureScene.h"
+#include "tests/platform/support/Edited.h"
+
+#include <nbOpenSGUberCamera/UberCamera.h>
+#include <nbOpenSGUberMaterial/nbStateChunkBase.h>
+
+namespace nbec::manipulator::test {
+
+namespace {
+
+constexpr float kTolerance = 2e-4F;
+constexpr float kSin45 = 0.70710678F;
+const Vec3f kRotation(0.1F, 0.2F, 0.3F);
+
+struct Triplanar : TextureSceneOf<TriplanarTextureManipulator>
+{
+    Triplanar()
+    {
+        editSettings([](const auto& values) {
+            values->setTriplanarRotation(kRotation);
+            values->setTriplanarOffsetU(Vec3f(0.1F, 0.2F, 0.3F));
+            values->setTriplanarOffsetV(Vec3f(0.4F, 0.5F, 0.6F));
+            values->setTriplanarRepeatU(Vec3f(2, 4, 5));
+            values->setTriplanarRepeatV(Vec3f(8, 10, 0.5F));
+        });
+        gizmo.activateUniversalManipulator();
+    }
+};
+
+struct UV : TextureSceneOf<UVTextureManipulator>
+{
+    UV()
+    {
+        editSettings([](const auto& values) {
+            values->setRotate(30);
+            values->setOffset(Vec2f(0.25F, 0.5F));
+            values->setRepeat(Vec2f(2, 4));
+        });
+    }
+
+    /// Sends an event at a pixel from the anchor's, y up.
+    bool say(const char* event, const Vec2f& px)
+    {
+        return scene.send(event, Pnt2f(400 + px.x(), 299 - px.y()));
+    }
+};
+
+struct Tire : TextureSceneOf<TireProjectionManipulator>
+{
+    Tire()
+    {
+        editSettings([](const auto& values) {
+            values->setTireCenter(Vec3f(0.5F, 0, 0));
+            values->setTireScaleRadius(2);
+            values->setTireScaleHeight(3);
+            values->setTireScaleU(0.25F);
+        });
+    }
+
+    /// World position of a place from the centre, in the object's space.
+    Pnt3f inWorld(const Vec3f& fromCenter) const
+    {
+        Pnt3f point(settings->getTireCenter() + fromCenter);
+        scene.node->getToWorld().multMatrixPnt(point);
+        return point;
+    }
+};
+
+/// Editor object of a host with values of its own for the component "mine".
+class Panel : public nbStateChunkBase
+{
+public:
+    bool hasComponent(const std::string& component) const override { return component == "mine"; }
+
+    Vec2f getTriplanarOffset(const std::string& /*component*/, osg::UInt32 axis) const override
+    {
+        return Vec2f(static_cast<float>(axis), 9);
+    }
+
+    Vec2f getTriplanarRepeat(const std::string& /*component*/, osg::UInt32 /*axis*/) const override
+    {
+        return Vec2f(0.5F, 4);
+    }
+
+    Vec2f getOffset(const std::string& /*component*/) const override { return Vec2f(3, 4); }
+
+    Vec3f getTireCenter(const std::string& /*component*/) const override
+    {
+        return Vec3f(1, 0.5F, 0);
+    }
+};
+
+void expectPair(const SentMessage& sent, const std::string& name, const Vec2f& expected,
+                float tolerance = kTolerance)
+{
+    const Vec2f found = attribute<Vec2f>(sent, name);
+    EXPECT_NEAR(found.x(), expected.x(), tolerance) << name << ".u";
+    EXPECT_NEAR(found.y(), expected.y(), tolerance) << name << ".v";
+}
+
+}  // namespace
+
+TEST(AnchoredGizmos, StandAtTheAnchorAlongTheNodesAxesOrFacingTheViewer)
+{
+    Triplanar triplanar;
+    triplanar.edit(triplanar.parentCore(), [](const auto& of) { of->setScale(Vec3f(2, 2, 2)); });
+    triplanar.edit(triplanar.core(), [](const auto& node) {
+        node->setRotation(Vec3f(0, 0, 90));
+        node->setTranslation(Vec3f(0.5F, 0, 0));
+    });
+    triplanar.gizmo.setAnchor(triplanar.scene.node, Pnt3f(0.25F, 0, 0));
+    EXPECT_TRUE(triplanar.gizmo.getAnchorPosition().equals(Pnt3f(1, 0.5F, 0), kTolerance));
+    triplanar.look(Camera::Front, false);
+    // Axes turned by the node, size by the distance of the anchor from the eye.
+    const float unit = std::sqrt(1.0F + 0.25F + 100.0F) * 45.0F / 672.0F;
+    EXPECT_TRUE(
+        triplanar.onHandle("xaShape", Vec3f(1, 0, 0)).equals(Pnt3f(1, 0.5F + unit, 0), kTolerance));
+    EXPECT_TRUE(
+        triplanar.onHandle("ysShape", Vec3f(0, 1, 0)).equals(Pnt3f(1 - unit, 0.5F, 0), kTolerance));
+
+    UV uv;
+    uv.edit(uv.core(), [](const auto& node) {
+        node->setTranslation(Vec3f(1, 0.5F, -3));
+        node->setRotation(Vec3f(20, 30, 40));
+        node->setScale(Vec3f(2, 1, 3));
+    });
+    for (const Camera camera : { Camera::Front, Camera::Oblique, Camera::Top }) {
+        for (const bool orthographic : { false, true }) {
+            uv.look(camera, orthographic);
+            const auto root = transformOf(uv.gizmo.getVisualisation()->getChild(0));
+            EXPECT_FLOAT_EQ(root->getScale().x(), orthographic ? 1.25F : 45 * 0.03F);
+            const Pnt3f anchor = uv.gizmo.getAnchorPosition();
+            EXPECT_TRUE(uv.onHandle("xaShape", Vec3f()).equals(anchor, kTolerance));
+            const osg::UberCameraPtr eye = uv.scene.widget.getUberCamera();
+            const Vec3f right = uv.onHandle("xaShape", Vec3f(1, 0, 0)) - anchor;
+            const Vec3f up = uv.onHandle("xaShape", Vec3f(0, 1, 0)) - anchor;
+            EXPECT_NEAR(right.dot(eye->getAt() - eye->getFrom()), 0, 1e-3F);
+            EXPECT_NEAR(up.dot(eye->getAt() - eye->getFrom()), 0, 1e-3F);
+            EXPECT_NEAR(uv.scene.pixelOf(anchor + right).y(), uv.scene.pixelOf(anchor).y(), 0.6F);
+        }
+    }
+
+    Tire tire;
+    tire.edit(tire.core(), [](const auto& node) {
+        node->setTranslation(Vec3f(0.3F, 0.2F, 0));
+        node->setRotation(Vec3f(0, 30, 20));
+        node->setScale(Vec3f(1, 0.5F, 0.5F));
+    });
+    tire.look(Camera::Oblique, false);
+
+    const struct
+    {
+        const char* name;
+        Vec3f fromCenter;
+    } rows[] = { { "radiusShape", { 0, 0, -2 } },
+                 { "heightShape", { 1.5F, 2, 0 } },
+                 { "oppositeHeightShape", { -1.5F, 2, 0 } },
+                 { "scaleUShape", { 0, 2 * kSin45, 2 * kSin45 } } };
+
+    for (const auto& row : rows) {
+        EXPECT_TRUE(tire.originOf(row.name).equals(tire.inWorld(row.fromCenter), 2e-3F));
+    }
+    EXPECT_TRUE(tire.onHandle("xaShape", Vec3f()).equals(tire.inWorld(Vec3f()), 2e-3F));
+    EXPECT_TRUE(tire.onHandle("radiusRingShape", Vec3f(0, 0, 1))
+                    .equals(tire.inWorld(Vec3f(0, 0, 2)), 2e-3F));
+}
+
+TEST(AnchoredGizmos, ValuesComeFromMaterialOrEditorObjectInTheOrderOfTheKind)
+{
+    Panel panel;
+    const auto first = [&panel](auto& at, const std::string& component, const char* name) {
+        at.gizmo.setMaterialComponent(at.material.get(), component, &panel);
+        EXPECT_EQ(at.gizmo.getGUI(), &panel);
+        EXPECT_TRUE(at.grab("yaShape", Vec3f(0, 1.9F, 0)));
+        EXPECT_TRUE(at.drag.stepTo(Vec2f()));
+        EXPECT_TRUE(at.drag.release());
+        for (const SentMessage& sent : at.log) {
+            if (sent.message.has(name)) {
+                const SentMessage found = sent;
+                at.log.clear();
+                return found;
+            }
+        }
+        return SentMessage();
+    };
+    Triplanar triplanar;
+    expectPair(first(triplanar, "diffuse", "XOffset"), "XOffset", Vec2f(0.1F, 0.4F));
+    expectPair(first(triplanar, "mine", "ZOffset"), "ZOffset", Vec2f(2, 9));
+    expectPair(first(triplanar, "nobody's", "ZOffset"), "ZOffset", Vec2f());
+    // Settings of another projection do not count.
+    triplanar.editSettings([](const auto& values) { values->setTextureProjectionType(1); });
+    expectPair(first(triplanar, "diffuse", "XOffset"), "XOffset", Vec2f());
+    UV uv;
+    expectPair(first(uv, "diffuse", "offset"), "offset", Vec2f(0.25F, 0.5F));
+    expectPair(first(uv, "mine", "offset"), "offset", Vec2f(3, 4));
+    expectPair(first(uv, "nobody's", "offset"), "offset", Vec2f());
+    Tire tire;
+    EXPECT_EQ(attribute<Vec3f>(first(tire, "mine", "center"), "center"), Vec3f(1, 0.5F, 0));
+}
+
+TEST(AnchoredGizmos, AnAnchorThatIsDeletedDuringADragLeavesTheHandlesWhereTheyAre)
+{
+    Triplanar at;
+    osg::RefPtr<osg::NodePtr> passing(osg::makeCoredNode<osg::Transform3D>());
+    at.gizmo.setAnchor(passing.get(), Pnt3f(0.5F, 0, 0));
+    at.look(Camera::Oblique, true);
+    ASSERT_TRUE(at.grab("yaShape", Vec3f(0, 1.9F, 0)));
+    const Pnt3f place = at.onHandle("yaShape", Vec3f());
+    passing = osg::NullFC;
+    EXPECT_EQ(at.gizmo.getAnchorNode(), osg::NullFC);
+    EXPECT_TRUE(at.drag.stepTo(Vec2f(0, -9))) << "the frame was captured";
+    EXPECT_EQ(at.last().name, "label::changedTriplanarManipulator");
+    EXPECT_TRUE(at.drag.release());
+    EXPECT_EQ(at.onHandle("yaShape", Vec3f()), place);
+    ASSERT_TRUE(at.drag.press(at.onHandle("yaShape", Vec3f(0, 1.9F, 0))));
+    EXPECT_FALSE(at.drag.stepTo(Vec2f(9, 0))) << "no frame without the anchor's node";
+}
+
+// == Triplanar
+
+TEST(TriplanarTextureManipulator, ArrowsLowerTwoOffsetsAndScaleHandlesMultiplyTwoScales)
+{
+    const struct
+    {
+        const char* handle;
+        Vec3f grab;
+        Camera camera;
+        Vec2f offsetPx;  ///< 72 along the axis
+
+        struct
+        {
+            const char* name;
+            Vec2f start;
+            osg::UInt32 half;  ///< that changes
+        } changes[2];
+    } rows[] = {
+        // clang-format off
+        { "xaShape", { 1.9F, 0, 0 }, Camera::Front, { 72, 0 }, { { "YOffset", { 0.2F, 0.5F }, 0 }, { "ZOffset", { 0.3F, 0.6F }, 0 } } },
+        { "yaShape", { 0, 1.9F, 0 }, Camera::Front, { 0, -72 }, { { "XOffset", { 0.1F, 0.4F }, 0 }, { "ZOffset", { 0.3F, 0.6F }, 1 } } },
+        { "zaShape", { 0, 0, 1.9F }, Camera::Side, { -72, 0 }, { { "XOffset", { 0.1F, 0.4F }, 1 }, { "YOffset", { 0.2F, 0.5F }, 1 } } },
+        { "xsShape", { 2.5F, 0, 0 }, Camera::Front, { 72, 0 }, { { "YScale", { 0.25F, 0.1F }, 0 }, { "ZScale", { 0.2F, 2 }, 0 } } },
+        { "ysShape", { 0, 2.5F, 0 }, Camera::Front, { 0, -72 }, { { "XScale", { 0.5F, 0.125F }, 0 }, { "ZScale", { 0.2F, 2 }, 1 } } },
+        { "zsShape", { 0, 0, 2.5F }, Camera::Side, { -72, 0 }, { { "XScale", { 0.5F, 0.125F }, 1 }, { "YScale", { 0.25F, 0.1F }, 1 } } },
+        // clang-format on
+    };
+
+    for (const auto& row : rows) {
+        for (const bool orthographic : { false, true }) {
+            SCOPED_TRACE(row.handle);
+            Triplanar at;
+            at.look(row.camera, orthographic);
+            ASSERT_TRUE(at.grab(row.handle, row.grab));
+            EXPECT_TRUE(at.drag.dragBy(row.offsetPx));
+            EXPECT_EQ(at.last().message.names(),
+                      (Names { row.changes[0].name, row.changes[1].name }));
+            const Vec2f from = at.drag.pressed - at.drag.rayPixelOf(Pnt3f(0, 0, 0));
+            const float factor = (from + row.offsetPx).dot(row.offsetPx) / from.dot(row.offsetPx);
+            for (const auto& change : row.changes) {
+                const bool scales = change.name[1] == 'S';
+                Vec2f expected = change.start;
+                expected[change.half] =
+                    scales ? expected[change.half] * factor : expected[change.half] - kStep / 100;
+                expectPair(at.last(), change.name, expected, scales ? 1e-3F : 1e-5F);
+            }
+            // Absolute values: back at the start they are those of the start.
+            EXPECT_TRUE(at.drag.dragBy(Vec2f()));
+            expectPair(at.last(), row.changes[0].name, row.changes[0].start, 1e-6F);
+            expectPair(at.last(), row.changes[1].name, row.changes[1].start, 1e-6F);
+        }
+    }
+}
+
+TEST(TriplanarTextureManipulator, RingsSendRadiansWithTheirAsymmetryAndCanBeTilted)
+{
+    const struct
+    {
+        const char* handle;
+        Camera camera;
+        Vec3f grab;  ///< 45 degrees up to the right on screen
+        Vec3f perRadian;  ///< what a counter-clockwise turn on screen adds
+    } rows[] = {
+        { "rzShape", Camera::Front, { kDiagonal, kDiagonal, 0 }, { 0, 0, 1 } },
+        { "rxShape", Camera::Side, { 0, kDiagonal, -kDiagonal }, { 1, 0, 0 } },
+        { "ryShape", Camera::Top, { kDiagonal, 0, -kDiagonal }, { 0, -1, 0 } },
+    };
+
+    for (const auto& row : rows) {
+        for (const bool isTilted : { false, true }) {
+            Triplanar at;
+            at.gizmo.setRingsTilted(isTilted);
+            at.gizmo.activateRotateManipulator();
+            at.look(row.camera, false);
+            ASSERT_TRUE(at.grab(row.handle, row.grab)) << row.handle;
+            const Vec2f from = at.drag.pressed - at.drag.rayPixelOf(Pnt3f(0, 0, 0));
+            for (const Vec2f& offset : { Vec2f(-60, 0), Vec2f(40, 90), Vec2f(-150, 40) }) {
+                EXPECT_TRUE(at.drag.dragBy(offset));
+                const Vec2f to = from + offset;
+                const float turn = -std::atan2(from.x() * to.y() - from.y() * to.x(), from.dot(to));
+                EXPECT_EQ(at.last().message.names(), Names { "rotate" });
+                expectNear(attribute<Vec3f>(at.last(), "rotate"), kRotation + row.perRadian * turn,
+                           row.handle, 1e-3F);
+            }
+        }
+    }
+
+    // From the front the ring about y is a line: its own plane is missed, or met far away.
+    Triplanar at;
+    at.gizmo.activateRotateManipulator();
+    at.gizmo.setRingsTilted(true);
+    ASSERT_TRUE(at.grab("ryShape", Vec3f(0.5F, 0, 1.41421F)));
+    EXPECT_TRUE(at.drag.dragBy(Vec2f(40, 0)));
+    // A turn by the right hand, about 40 px over the ring's radius of 1.5 * 0.67 world units.
+    EXPECT_NEAR(kRotation.y() - attribute<Vec3f>(at.last(), "rotate").y(), 0.55F, 0.15F);
+}
+
+TEST(TriplanarTextureManipulator, TheBoxInTheMiddleScalesAllAHundredTimesMoreGently)
+{
+    for (const bool isZUp : { false, true }) {
+        Triplanar at;
+        at.gizmo.activateRotateScaleManipulator();
+        at.look(Camera::Oblique, true);
+        const osg::UberCameraPtr camera = at.scene.widget.getUberCamera();
+        if (isZUp) {
+            nbtest::edited(camera)->setZUp(true);
+            camera->setFromAtUp(Pnt3f(2, -6, 3), Pnt3f(0, 0, 0), Vec3f(0, 0, 1));
+        }
+        at.gizmo.update(false);
+        // The upward axis is upright on screen, so its coordinate goes by the pixels up.
+        const float from = at.drag.rayPixelOf(Pnt3f(0, 0, 0)).y() - 297.0F;
+        ASSERT_TRUE(at.scene.send("start", Pnt2f(401, 297)));
+        EXPECT_TRUE(at.scene.send("process", Pnt2f(401, 297)));
+        EXPECT_TRUE(at.scene.send("process", Pnt2f(411, 287)));
+        const float factor = 1.0F + 0.01F * ((from + 10.0F) / from - 1.0F);
+        EXPECT_EQ(at.last().message.names(), (Names { "XScale", "YScale", "ZScale" }));
+        expectPair(at.last(), "XScale", Vec2f(0.5F, 0.125F) * factor, 1e-5F);
+        expectPair(at.last(), "YScale", Vec2f(0.25F, 0.1F) * factor, 1e-5F);
+        expectPair(at.last(), "ZScale", Vec2f(0.2F, 2) * factor, 1e-5F);
+    }
+}
+
+// == UV; a unit of the gizmo is 48.5 pixels
+
+TEST(UVTextureManipulator, HandlesGoByPixelsFromTheAnchor)
+{
+    const struct
+    {
+        const char* name;
+        Vec2f grab;  ///< from the anchor
+        bool keepAspect;
+        Vec2f to;
+        const char* attribute;
+        Vec2f value;  ///< x of a number
+    } steps[] = {
+        { "arrow of u", { 92, 0 }, false, { 604, 256 }, "offset", { 1.25F, 0.5F } },
+        { "arrow of v", { 0, 92 }, false, { 512, 348 }, "offset", { 0.25F, 1 } },
+        { "both offsets", { 10, 10 }, false, { 522, 266 }, "offset", { 1.25F, 1 } },
+        { "u", { 121, 0 }, false, { 242, 60 }, "scale", { 1, 0.25F } },
+        { "u with aspect", { 121, 0 }, true, { 242, 60 }, "scale", { 1, 0.5F } },
+        { "u mirrored", { 121, 0 }, false, { -121, 0 }, "scale", { -0.5F, 0.25F } },
+        { "v", { 0, 121 }, false, { 9, 242 }, "scale", { 0.5F, 0.5F } },
+        { "v with aspect", { 0, 121 }, true, { 9, 0 }, "scale", { 0, 0 } },
+        { "both", { 121, 120 }, false, { 242, 120 }, "scale", { 1, 0.5F } },
+        { "both, the greater", { 121, 120 }, false, { 0, 60 }, "scale", { 0.25F, 0.125F } },
+        // Degrees, against the pointer.
+        { "quarter", { -34, 34 }, false, { -100, -100 }, "rotate", { -60, 0 } },
+        { "back", { -34, 34 }, false, { 100, 100 }, "rotate", { 120, 0 } },
+        { "to the anchor", { -34, 34 }, false, { 0, 0 }, "rotate", { 30, 0 } },
+    };
+
+    for (const auto& step : steps) {
+        SCOPED_TRACE(step.name);
+        UV uv;
+        uv.gizmo.setKeepAspectRatio(step.keepAspect);
+        ASSERT_TRUE(uv.say("start", step.grab));
+        EXPECT_TRUE(uv.say("process", step.grab));
+        EXPECT_TRUE(uv.say("process", step.to));
+        EXPECT_EQ(uv.last().message.names(), Names { step.attribute });
+        if (std::string(step.attribute) == "rotate") {
+            EXPECT_NEAR(attribute<float>(uv.last(), "rotate"), step.value.x(), 1e-3F);
+        } else {
+            expectPair(uv.last(), step.attribute, step.value);
+        }
+    }
+}
+
+// == Tire
+
+TEST(TireProjectionManipulator, DragsSendTheNewValue)
+{
+    const struct
+    {
+        const char* handle;
+        Camera camera;
+        Vec3f grab;  ///< from the centre, in the object's space; of an arrow in its group's
+        Vec2f offsetPx;
+        const char* attribute;
+        Vec3f value;  ///< x of a number
+        float tolerance;
+    } rows[] = {
+        // clang-format off
+        { "xaShape", Camera::Front, { 1.9F, 0, 0 }, { 72, 9 }, "center", { 0.5F + kStep, 0, 0 }, 2e-3F },
+        { "yaShape", Camera::Front, { 0, 1.9F, 0 }, { 9, -72 }, "center", { 0.5F, kStep, 0 }, 2e-3F },
+        { "zaShape", Camera::Side, { 0, 0, 1.9F }, { -72, 9 }, "center", { 0.5F, 0, kStep }, 2e-3F },
+        { "heightShape", Camera::Front, { 1.5F, 2, 0 }, { 36, 9 }, "ScaleHeight", { 3 + kStep, 0, 0 }, 2e-3F },
+        { "oppositeHeightShape", Camera::Front, { -1.5F, 2, 0 }, { 36, 9 }, "ScaleHeight", { 3 - kStep, 0, 0 }, 2e-3F },
+        { "radiusShape", Camera::Side, { 0, 0, -2 }, { 72, 9 }, "ScaleRadius", { 2 + kStep, 0, 0 }, 2e-3F },
+        { "radiusRingShape", Camera::Side, { 0, -2, 0 }, { 9, 72 }, "ScaleRadius", { 2 + kStep, 0, 0 }, 0.01F },
+        { "radiusRingShape", Camera::Front, { 0, -2, 0 }, { 9, 72 }, "ScaleRadius", { 2 + kStep, 0, 0 }, 0.01F },
+        // From 45 degrees beyond the top to 90 degrees.
+        { "scaleUShape", Camera::Side, { 0, 2 * kSin45, 2 * kSin45 }, { -2 * (1 - kSin45) * kPxPerUnit, 2 * kSin45 * kPxPerUnit }, "ScaleU", { 0.5F, 0, 0 }, 0.02F },
+        // clang-format on
+    };
+
+    for (const auto& row : rows) {
+        for (const bool isScaled : { false, true }) {
+            SCOPED_TRACE(row.handle);
+            Tire at;
+            at.look(row.camera, true);
+            if (isScaled) {
+                // Half as large in the object, twice as large in the world.
+                at.edit(at.parentCore(), [](const auto& of) { of->setScale(Vec3f(2, 2, 2)); });
+                at.editSettings([](const auto& values) {
+                    values->setTireCenter(Vec3f(0.25F, 0, 0));
+                    values->setTireScaleRadius(1);
+                    values->setTireScaleHeight(1.5F);
+                });
+            }
+            const bool isArrow = std::string(row.attribute) == "center";
+            if (isArrow) {
+                at.gizmo.activateTranslateManipulator();  // the ring may lie in front
+            }
+            ASSERT_TRUE(at.grabAt(row.handle,
+                                  isArrow ? at.onHandle(row.handle, row.grab)
+                                          : at.inWorld(row.grab * (isScaled ? 0.5F : 1.0F))));
+            EXPECT_TRUE(at.drag.dragBy(row.offsetPx));
+            EXPECT_EQ(at.last().message.names(), Names { row.attribute });
+            const Vec3f found = isArrow ? attribute<Vec3f>(at.last(), row.attribute)
+                                        : Vec3f(attribute<float>(at.last(), row.attribute), 0, 0);
+            const bool isPart = std::string(row.attribute) == "ScaleU";
+            expectNear(found, row.value * (isScaled && !isPart ? 0.5F : 1.0F), row.handle,
+                       row.tolerance);
+        }
+    }
+}
+
+TEST(TireProjectionManipulator, WhatWasSetByHandIsNotFittedAgain)
+{
+    const struct
+    {
+        const char* handle;
+        bool isMoved, wasFitted, autoParameter;
+    } rows[] = { { "radiusShape", true, true, false },
+                 { "scaleUShape", true, true, true },
+                 { "scaleUShape", true, false, false },
+                 { "radiusShape", false, true, false } };
+
+    for (const auto& row : rows) {
+        Tire at;
+        at.editSettings(
+            [&row](const auto& values) { values->setTireAutoParameter(row.wasFitted); });
+        at.look(Camera::Side, true);
+        ASSERT_TRUE(at.grabAt(row.handle, at.originOf(row.handle)));
+        if (row.isMoved) {
+            EXPECT_TRUE(at.drag.stepTo(Vec2f(5, 5)));
+        }
+        at.log.clear();
+        EXPECT_TRUE(at.drag.release());
+        EXPECT_EQ(at.log.size(), row.isMoved ? 3U : 2U) << "before the preview's two";
+        if (row.isMoved) {
+            EXPECT_EQ(at.log.front().message.names(), Names { "autoParameter" });
+            EXPECT_EQ(attribute<bool>(at.log.front(), "autoParameter"), row.autoParameter);
+        }
+    }
+}
+
+TEST(TireProjectionManipulator, ValuesAreToldAndLengthsNeverFallBelowAThousandthOfTheirStart)
+{
+    const struct
+    {
+        const char* handle;
+        Camera camera;
+        Vec2f offsetPx;
+        const char* text;
+        Vec2f far;
+        const char* least;
+    } rows[] = {
+        { "radiusShape", Camera::Side, { 72, 0 }, "Radius (2.99)", { -290, 0 }, "Radius (0.00)" },
+        { "heightShape", Camera::Front, { 72, 0 }, "Height (4.99)", { -390, 0 }, "Height (0.00)" },
+        { "scaleUShape", Camera::Side, { 0, 0 }, "Scale (0.25)", { 0, 0 }, "Scale (0.25)" },
+    };
+
+    for (const auto& row : rows) {
+        Tire at;
+        at.look(row.camera, true);
+        ASSERT_TRUE(at.grabAt(row.handle, at.originOf(row.handle)));
+        EXPECT_TRUE(at.drag.stepTo(row.offsetPx));
+        EXPECT_EQ(HandleScene::texts(), Names { row.text });
+        EXPECT_TRUE(at.drag.stepTo(row.far));
+        EXPECT_EQ(HandleScene::texts(), Names { row.least });
+    }
+    Tire at;
+    at.look(Camera::Side, true);
+    ASSERT_TRUE(at.grabAt("radiusShape", at.originOf("radiusShape")));
+    EXPECT_TRUE(at.drag.stepTo(Vec2f(-290, 0)));
+    EXPECT_FLOAT_EQ(attribute<float>(at.last(), "ScaleRadius"), 0.002F);
+    EXPECT_TRUE(at.drag.release());
+    at.gizmo.activateTranslateManipulator();
+    ASSERT_TRUE(at.grab("yaShape", Vec3f(0, 1.9F, 0)));
+    EXPECT_TRUE(at.drag.stepTo(Vec2f(0, -72)));
+    EXPECT_EQ(HandleScene::texts(), Names { "Center (0.50, 0.99, 0.00)" });
+}
+
+}  // namespace nbec::manipulator::test
