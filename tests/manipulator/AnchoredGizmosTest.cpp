@@ -198,6 +198,7 @@ TEST(AnchoredGizmos, ValuesComeFromMaterialOrEditorObjectInTheOrderOfTheKind)
     expectPair(first(uv, "mine", "offset"), "offset", Vec2f(3, 4));
     expectPair(first(uv, "nobody's", "offset"), "offset", Vec2f());
     Tire tire;
+    tire.gizmo.activateTranslateManipulator();
     EXPECT_EQ(attribute<Vec3f>(first(tire, "mine", "center"), "center"), Vec3f(1, 0.5F, 0));
 }
 
