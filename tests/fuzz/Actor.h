@@ -14,24 +14,19 @@ namespace nbec::manipulator::test {
 class Actor
 {
 public:
+    Actor() = default;
+    Actor(const Actor&) = delete;
+    Actor& operator=(const Actor&) = delete;
     virtual ~Actor() = default;
 
     /// Does one thing that a host does with it.
     virtual void act(Bytes& bytes) = 0;
 
     /// @return the first invariant that does not hold; empty if all do
-    virtual std::string check() = 0;
+    virtual std::string check() { return ""; }
 
     /// Whether it may be hovered, so that preselection may be off.
-    virtual bool isActive() const = 0;
+    virtual bool isActive() const { return false; }
 };
-
-/// Makes an actor that joins the stage, which outlives it.
-using ActorMaker = std::unique_ptr<Actor>(Stage& stage);
-
-ActorMaker makeTransformActor, makeCameraActor;
-ActorMaker makePlanarActor, makeTriplanarActor, makeUVActor, makeTireActor;
-ActorMaker makeMatchActor, makePlateActor, makePlatePickActor, makePlacementActor;
-ActorMaker makeProjectionActor, makeMessageActor;
 
 }  // namespace nbec::manipulator::test

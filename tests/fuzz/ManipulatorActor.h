@@ -5,6 +5,7 @@
 #include "tests/fuzz/Actor.h"
 #include "tests/fuzz/Equipment.h"
 
+#include <nbInteraction/ToolInteractionContext.h>
 #include <nbKernel/nbScenegraph.h>
 
 #include <memory>
@@ -13,11 +14,7 @@
 
 namespace nbec::manipulator::test {
 
-/// A manipulator with its context. What one has beside the common interface is called by an
-/// overload of
-///
-///     void configure(Gizmo& gizmo, Stage& stage, Bytes& bytes);
-///
+/// A manipulator with its context.
 /// @tparam kPauses  whether its stopped drags resume the preview
 template <class Gizmo, bool kPauses>
 class ManipulatorActor : public Actor
@@ -29,9 +26,6 @@ public:
         context.setPicker(&stage.picker);
         replace(true);
     }
-
-    ManipulatorActor(const ManipulatorActor&) = delete;
-    ManipulatorActor& operator=(const ManipulatorActor&) = delete;
 
     ~ManipulatorActor() override
     {
@@ -219,11 +213,93 @@ private:
     ManipulatorInteractionContext context;
 };
 
-/// Calls an operation without arguments that the bytes choose from a table.
-template <class Gizmo, class Table>
-void callOneOf(Gizmo& gizmo, const Table& table, Bytes& bytes)
+/// A tool with its context and a picker of its own.
+template <class Tool, int kFilter>
+class ToolActor : public Actor
 {
-    (gizmo.*bytes.oneOf(table))();
-}
+public:
+    explicit ToolActor(Stage& joined)
+        : stage(joined)
+        , tool(std::make_unique<Tool>())
+    {
+        picker.setFilter(kFilter);
+        context.setPicker(&picker);
+        context.setTool(tool.get());
+        stage.manager.addContext(&context);
+    }
+
+    ~ToolActor() override
+    {
+        release();
+        context.setTool(nullptr);
+        stage.manager.removeContext(&context);
+    }
+
+    void act(Bytes& bytes) override
+    {
+        const std::uint8_t choice = bytes.next() % 12;
+        if (choice == 0) {
+            release();
+            context.setTool(nullptr);
+            tool = std::make_unique<Tool>();
+            context.setTool(bytes.once(4) ? nullptr : tool.get());
+        } else if (choice == 1) {
+            release();
+            stage.manager.setEnabled(&context, bytes.flag());
+        } else if (choice == 2) {
+            context.setPicker(bytes.once(3) ? nullptr : &picker);
+        } else if (choice <= 4) {
+            configure(*tool, stage, bytes);
+        } else if (choice <= 6) {
+            callDirectly(bytes);
+        } else {
+            const osg::Pnt2f target = stage.aimAt(nbScenegraph::getRootNode(), bytes);
+            choice <= 9 ? stage.send(target, bytes) : stage.drag(target, bytes);
+        }
+    }
+
+    bool isActive() const override { return tool->isActive(); }
+
+private:
+    /// Ends what was started without the manager.
+    void release()
+    {
+        if (isHeld) {
+            tool->stopTool(&context, "select");
+            isHeld = false;
+        }
+    }
+
+    void callDirectly(Bytes& bytes)
+    {
+        const std::string hint = stage.hint(bytes);
+        switch (bytes.next() % 6) {
+        case 0:
+            isHeld = true;
+            tool->startTool(&context, hint);
+            break;
+        case 1:
+            tool->processTool(&context, hint);
+            break;
+        case 2:
+            tool->stopTool(&context, hint);
+            break;
+        case 3:
+            tool->hoverTool(&context, hint);
+            break;
+        case 4:
+            tool->stopHoverTool(&context, hint);
+            break;
+        default:
+            tool->setToolMode(&context, stage.mode(bytes));
+        }
+    }
+
+    Stage& stage;
+    interaction::Picker picker;
+    interaction::ToolInteractionContext context;
+    std::unique_ptr<Tool> tool;
+    bool isHeld = false;
+};
 
 }  // namespace nbec::manipulator::test

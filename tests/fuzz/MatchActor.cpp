@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What edits the vanishing lines of cameras.
-#include "manipulator/PerspectiveMatchManipulator.h"
-#include "tests/fuzz/ManipulatorActor.h"
+#include "tests/fuzz/Equipment.h"
 
 #include <nbKernelServices/nbdPerspectiveMatch.h>
 #include <nbOpenSGUberCamera/nbCameraUtils.h>
@@ -93,11 +92,6 @@ osg::Pnt2f aimAt(Gizmo& /*gizmo*/, const Stage& stage, Bytes& bytes)
     const QPointF at = line.pointAt(part) * unit;
     return osg::Pnt2f(static_cast<float>(at.x()),
                       static_cast<float>(view.getHeight() - 1 - at.y()));
-}
-
-std::unique_ptr<Actor> makeMatchActor(Stage& stage)
-{
-    return std::make_unique<ManipulatorActor<Gizmo, false>>(stage);
 }
 
 }  // namespace nbec::manipulator::test

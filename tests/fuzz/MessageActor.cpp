@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 // A host that sends the platform's handlers whatever it likes.
-#include "tests/fuzz/Actor.h"
+#include "tests/fuzz/Play.h"
 
 #include <nbKernel/nbController.h>
 #include <nbKernelServices/nbUndoService.h>
-#include <nbNotification/NotificationManager.h>
 #include <nbUtils/nbLog.h>
 
 #include <QtCore/QString>
@@ -18,8 +17,11 @@ namespace nbec::manipulator::test {
 
 namespace {
 
+/// Makes a value of one type.
+using Maker = boost::any (*)(const Stage& stage, Bytes& bytes);
+
 /// What a message may carry and as which type its handler reads it.
-enum class Type : std::size_t
+enum Type : std::size_t
 {
     Bool,
     Float,
@@ -29,14 +31,33 @@ enum class Type : std::size_t
     Node,
     Nodes,
     Text,
-    QtVec2,
-    Int,
-    Double,
-    QtText,
-    QtVec3,
-    Turn,
-    Nothing,
-    Count
+    QtVec2
+};
+
+/// In the order of Type; the others no handler reads.
+constexpr std::array<Maker, 15> kMakers = {
+    [](const Stage&, Bytes& bytes) -> boost::any { return bytes.flag(); },
+    [](const Stage&, Bytes& bytes) -> boost::any { return bytes.number(); },
+    [](const Stage&, Bytes& bytes) -> boost::any { return bytes.number2(); },
+    [](const Stage&, Bytes& bytes) -> boost::any { return bytes.number3(); },
+    [](const Stage&, Bytes& bytes) -> boost::any { return osg::Pnt3f(bytes.number3()); },
+    [](const Stage& stage, Bytes& bytes) -> boost::any {
+        return bytes.flag() ? stage.node(bytes) : stage.plate(bytes);
+    },
+    [](const Stage& stage, Bytes& bytes) -> boost::any { return stage.somePlates(bytes); },
+    [](const Stage& stage, Bytes& bytes) -> boost::any { return stage.hint(bytes); },
+    [](const Stage&, Bytes& bytes) -> boost::any {
+        const osg::Vec2f value = bytes.number2();
+        return QVector2D(value.x(), value.y());
+    },
+    [](const Stage&, Bytes& bytes) -> boost::any { return static_cast<int>(bytes.next()); },
+    [](const Stage&, Bytes& bytes) -> boost::any { return static_cast<double>(bytes.number()); },
+    [](const Stage& stage, Bytes& bytes) -> boost::any {
+        return QString::fromStdString(stage.hint(bytes));
+    },
+    [](const Stage&, Bytes& bytes) -> boost::any { return QVector3D(bytes.number(), 0, 0); },
+    [](const Stage&, Bytes&) -> boost::any { return osg::Quaternion(); },
+    [](const Stage&, Bytes&) { return boost::any(); },
 };
 
 struct Attribute
@@ -46,15 +67,13 @@ struct Attribute
 };
 
 constexpr std::array<Attribute, 27> kAttributes = { {
-    { "enabled", Type::Bool },      { "clamping", Type::Bool },  { "autoParameter", Type::Bool },
-    { "rotate", Type::Float },      { "rotate", Type::Vec3 },    { "offset", Type::Vec2 },
-    { "offset", Type::QtVec2 },     { "scale", Type::Vec2 },     { "scale", Type::Vec3 },
-    { "transVec", Type::Vec3 },     { "XOffset", Type::Vec2 },   { "YOffset", Type::Vec2 },
-    { "ZOffset", Type::Vec2 },      { "XScale", Type::Vec2 },    { "YScale", Type::Vec2 },
-    { "ZScale", Type::Vec2 },       { "center", Type::Vec3 },    { "ScaleHeight", Type::Float },
-    { "ScaleRadius", Type::Float }, { "ScaleU", Type::Float },   { "hitNode", Type::Node },
-    { "hitPoint", Type::Point },    { "hitNormal", Type::Vec3 }, { "node", Type::Node },
-    { "nodes", Type::Nodes },       { "hint", Type::Text },      { "scaleFactor", Type::Float },
+    { "enabled", Bool }, { "clamping", Bool },     { "autoParameter", Bool }, { "rotate", Float },
+    { "rotate", Vec3 },  { "offset", Vec2 },       { "offset", QtVec2 },      { "scale", Vec2 },
+    { "scale", Vec3 },   { "transVec", Vec3 },     { "XOffset", Vec2 },       { "YOffset", Vec2 },
+    { "ZOffset", Vec2 }, { "XScale", Vec2 },       { "YScale", Vec2 },        { "ZScale", Vec2 },
+    { "center", Vec3 },  { "ScaleHeight", Float }, { "ScaleRadius", Float },  { "ScaleU", Float },
+    { "hitNode", Node }, { "hitPoint", Point },    { "hitNormal", Vec3 },     { "node", Node },
+    { "nodes", Nodes },  { "hint", Text },         { "scaleFactor", Float },
 } };
 
 constexpr std::array<const char*, 12> kNames = { "editor::changedPlanarManipulator",
@@ -70,46 +89,6 @@ constexpr std::array<const char*, 12> kNames = { "editor::changedPlanarManipulat
                                                  "sceneplateSelected",
                                                  "editor::unknown" };
 
-boost::any valueOf(Type type, const Stage& stage, Bytes& bytes)
-{
-    switch (type) {
-    case Type::Bool:
-        return bytes.flag();
-    case Type::Float:
-        return bytes.number();
-    case Type::Vec2:
-        return bytes.number2();
-    case Type::Vec3:
-        return bytes.number3();
-    case Type::Point:
-        return osg::Pnt3f(bytes.number3());
-    case Type::Node:
-        return bytes.flag() ? stage.node(bytes) : stage.plate(bytes);
-    case Type::Nodes:
-        return stage.somePlates(bytes);
-    case Type::Text:
-        return stage.hint(bytes);
-    case Type::QtVec2: {
-        const osg::Vec2f value = bytes.number2();
-        return QVector2D(value.x(), value.y());
-    }
-    case Type::Int:
-        return static_cast<int>(bytes.next());
-    case Type::Double:
-        return static_cast<double>(bytes.number());
-    case Type::QtText:
-        return QString::fromStdString(stage.hint(bytes));
-    case Type::QtVec3:
-        return QVector3D(bytes.number(), 0.0F, 0.0F);
-    case Type::Turn:
-        return osg::Quaternion();
-    case Type::Nothing:
-    case Type::Count:
-        break;
-    }
-    return boost::any();
-}
-
 class MessageActor : public Actor
 {
 public:
@@ -119,9 +98,6 @@ public:
     {
         stage.isPreviewOurs = false;
     }
-
-    MessageActor(const MessageActor&) = delete;
-    MessageActor& operator=(const MessageActor&) = delete;
 
     ~MessageActor() override
     {
@@ -133,7 +109,7 @@ public:
     void act(Bytes& bytes) override
     {
         if (bytes.once(8)) {
-            return notify(bytes);
+            return;
         }
         const std::string name = bytes.once(16) ? bytes.text() : bytes.oneOf(kNames);
         nbMessage message;
@@ -151,16 +127,13 @@ public:
 
     std::string check() override { return fault; }
 
-    bool isActive() const override { return false; }
-
 private:
     void add(nbMessage& message, Bytes& bytes) const
     {
         const Attribute& attribute = bytes.oneOf(kAttributes);
-        const Type type = bytes.once(4)
-            ? static_cast<Type>(bytes.next() % static_cast<std::size_t>(Type::Count))
-            : attribute.type;
-        message.set(bytes.once(16) ? bytes.text() : attribute.name, valueOf(type, stage, bytes),
+        const std::size_t type =
+            bytes.once(4) ? bytes.next() % kMakers.size() : std::size_t(attribute.type);
+        message.set(bytes.once(16) ? bytes.text() : attribute.name, kMakers[type](stage, bytes),
                     bytes.flag());
     }
 
@@ -198,34 +171,12 @@ private:
         }
     }
 
-    /// Texts on the screen, by handles known and unknown.
-    void notify(Bytes& bytes)
-    {
-        auto* const manager = notification::NotificationManager::getInstance();
-        const QString text = QString::fromStdString(bytes.text());
-        switch (bytes.next() % 5) {
-        case 0:
-            shown = manager->createTextNotification(bytes.text(), text);
-            return;
-        case 1:
-            return manager->setText(shown, text);
-        case 2:
-            return manager->removeTextNotification(shown);
-        case 3:
-            manager->registerNotifier(bytes.text(), std::make_shared<notification::Notifier>());
-            return;
-        default:
-            manager->getVisibleTexts(static_cast<int>(bytes.next()) - 8, 100);
-        }
-    }
-
     Stage& stage;
     nbLog::Sink formerSink;
     int lines = 0;
     std::string fault;
     std::string sent;
     std::vector<float> valuesBefore;
-    notification::TextNotification* shown = nullptr;
     nbMessage enabling = [] {
         nbMessage message;
         message.set("enabled", true, true);

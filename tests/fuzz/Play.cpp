@@ -1,15 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/fuzz/Play.h"
 
-#include "manipulator/CameraManipulator.h"
-#include "manipulator/PerspectiveMatchManipulator.h"
-#include "manipulator/PlanarTextureManipulator.h"
-#include "manipulator/TireProjectionManipulator.h"
-#include "manipulator/TriplanarTextureManipulator.h"
-#include "manipulator/UVTextureManipulator.h"
-#include "manipulator/UniversalTransformManipulator2.h"
 #include "manipulator/nbPlanarProjectionVisualization.h"
-#include "manipulator/nbSceneplateManipulator.h"
+#include "tests/fuzz/ManipulatorActor.h"
 
 #include <nbKernel/nbController.h>
 #include <nbKernel/nbScenegraph.h>
@@ -85,28 +78,40 @@ std::string runOn(const PlayTarget& target, Bytes& bytes)
     return nbScenegraph::isPreselectionEnabled() ? "" : "preselection was left off";
 }
 
+template <class Made>
+std::unique_ptr<Actor> make(Stage& stage)
+{
+    return std::make_unique<Made>(stage);
+}
+
 }  // namespace
 
 const std::vector<PlayTarget>& playTargets()
 {
-    static const std::vector<PlayTarget> kTargets = {
-        { "transform", { &makeTransformActor } },
-        { "camera", { &makeCameraActor } },
-        { "planar", { &makePlanarActor } },
-        { "triplanar", { &makeTriplanarActor } },
-        { "uv", { &makeUVActor } },
-        { "tire", { &makeTireActor } },
-        { "match", { &makeMatchActor } },
-        { "plate", { &makePlateActor } },
-        { "platepick", { &makePlatePickActor } },
-        { "placement", { &makePlacementActor } },
+    using interaction::Picker;
+    static const std::vector<PlayTarget> kAlone = {
+        { "transform", { &make<ManipulatorActor<UniversalTransformManipulator2, false>> } },
+        { "camera", { &make<ManipulatorActor<CameraManipulator, false>> } },
+        { "planar", { &make<ManipulatorActor<PlanarTextureManipulator, true>> } },
+        { "triplanar", { &make<ManipulatorActor<TriplanarTextureManipulator, true>> } },
+        { "uv", { &make<ManipulatorActor<UVTextureManipulator, true>> } },
+        { "tire", { &make<ManipulatorActor<TireProjectionManipulator, true>> } },
+        { "match", { &make<ManipulatorActor<PerspectiveMatchManipulator, false>> } },
+        { "plate", { &make<ManipulatorActor<nbSceneplateManipulator, true>> } },
+        { "platepick", { &make<ToolActor<nbSceneplatePickTool, Picker::SceneplateFilter>> } },
+        { "placement", { &make<ToolActor<TexturePlacementPickTool, Picker::SceneFilter>> } },
         { "projection", { &makeProjectionActor } },
-        { "messages", { &makeMessageActor } },
-        { "together",
-          { &makeTransformActor, &makeCameraActor, &makePlanarActor, &makeTriplanarActor,
-            &makeUVActor, &makeTireActor, &makeMatchActor, &makePlateActor, &makePlatePickActor,
-            &makePlacementActor, &makeProjectionActor } },
     };
+    static const std::vector<PlayTarget> kTargets = [] {
+        std::vector<PlayTarget> all = kAlone;
+        PlayTarget together { "together", {} };
+        for (const PlayTarget& one : kAlone) {
+            together.actors.push_back(one.actors.front());
+        }
+        all.push_back(together);
+        all.push_back({ "messages", { &makeMessageActor } });
+        return all;
+    }();
     return kTargets;
 }
 

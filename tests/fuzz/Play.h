@@ -17,6 +17,9 @@ struct PlayTarget
     std::vector<std::unique_ptr<Actor> (*)(Stage&)> actors;
 };
 
+std::unique_ptr<Actor> makeProjectionActor(Stage& stage);
+std::unique_ptr<Actor> makeMessageActor(Stage& stage);
+
 /// One target for each manipulator and tool, one for messages, and "together", in which all meet
 /// on one stage.
 const std::vector<PlayTarget>& playTargets();

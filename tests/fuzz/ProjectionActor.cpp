@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The visualisation of a planar projection.
 #include "manipulator/nbPlanarProjectionVisualization.h"
-#include "tests/fuzz/Actor.h"
+#include "tests/fuzz/Play.h"
 
 #include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGUtils/nbEdit.h>
@@ -17,9 +17,6 @@ public:
         : stage(joined)
         , shown(std::make_unique<nbPlanarProjectionVisualization>())
     { }
-
-    ProjectionActor(const ProjectionActor&) = delete;
-    ProjectionActor& operator=(const ProjectionActor&) = delete;
 
     ~ProjectionActor() override { hang(false); }
 
@@ -60,8 +57,6 @@ public:
             ? ""
             : "the visualisation does not hang below its root";
     }
-
-    bool isActive() const override { return false; }
 
 private:
     void hang(bool on)

@@ -332,26 +332,20 @@ void Stage::deleteOrAdd(Bytes& bytes)
     const std::uint8_t what = bytes.next();
     const std::size_t index = bytes.next();
     const bool isAdded = bytes.flag();
+    const auto replace = [&](auto drop, auto add, std::size_t count) {
+        (this->*drop)(index % count);
+        if (isAdded) {
+            (this->*add)(index % count);
+        }
+    };
     switch (what % 6) {
     case 0:
     case 1:
-        dropNode(index % kNodes);
-        if (isAdded) {
-            addNode(index % kNodes);
-        }
-        return;
+        return replace(&Stage::dropNode, &Stage::addNode, kNodes);
     case 2:
-        dropMaterial(index % kMaterials);
-        if (isAdded) {
-            addMaterial(index % kMaterials);
-        }
-        return;
+        return replace(&Stage::dropMaterial, &Stage::addMaterial, kMaterials);
     case 3:
-        dropPlate(index % kPlates);
-        if (isAdded) {
-            addPlate(index % kPlates);
-        }
-        return;
+        return replace(&Stage::dropPlate, &Stage::addPlate, kPlates);
     case 4:
         cameras[index % kCameras] =
             isAdded ? osg::UberCameraPtr(osg::UberCamera::create()) : osg::UberCameraPtr();

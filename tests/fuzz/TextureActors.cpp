@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What edits how pictures lie on surfaces.
-#include "manipulator/PlanarTextureManipulator.h"
-#include "manipulator/TireProjectionManipulator.h"
-#include "manipulator/TriplanarTextureManipulator.h"
-#include "manipulator/UVTextureManipulator.h"
-#include "tests/fuzz/ManipulatorActor.h"
+#include "tests/fuzz/Equipment.h"
 
 namespace nbec::manipulator::test {
 
@@ -174,26 +170,6 @@ void equip(AnchoredTextureManipulator& gizmo, Stage& stage)
     gizmo.setMessageReceiver("editor");
     give(gizmo, stage.firstEdited(isTire ? 2 : 1));
     gizmo.setAnchor(stage.firstNode(), osg::Pnt3f());
-}
-
-std::unique_ptr<Actor> makePlanarActor(Stage& stage)
-{
-    return std::make_unique<ManipulatorActor<Planar, true>>(stage);
-}
-
-std::unique_ptr<Actor> makeTriplanarActor(Stage& stage)
-{
-    return std::make_unique<ManipulatorActor<Triplanar, true>>(stage);
-}
-
-std::unique_ptr<Actor> makeUVActor(Stage& stage)
-{
-    return std::make_unique<ManipulatorActor<UV, true>>(stage);
-}
-
-std::unique_ptr<Actor> makeTireActor(Stage& stage)
-{
-    return std::make_unique<ManipulatorActor<Tire, true>>(stage);
 }
 
 }  // namespace nbec::manipulator::test

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What moves nodes and marks cameras.
-#include "manipulator/CameraManipulator.h"
-#include "manipulator/UniversalTransformManipulator2.h"
-#include "tests/fuzz/ManipulatorActor.h"
+#include "tests/fuzz/Equipment.h"
 
 namespace nbec::manipulator::test {
 
@@ -83,16 +81,6 @@ void configure(CameraManipulator& gizmo, Stage& stage, Bytes& bytes)
 void equip(NodeManipulator& gizmo, Stage& stage)
 {
     gizmo.setNode(stage.firstNode());
-}
-
-std::unique_ptr<Actor> makeTransformActor(Stage& stage)
-{
-    return std::make_unique<ManipulatorActor<Transform, false>>(stage);
-}
-
-std::unique_ptr<Actor> makeCameraActor(Stage& stage)
-{
-    return std::make_unique<ManipulatorActor<CameraManipulator, false>>(stage);
 }
 
 }  // namespace nbec::manipulator::test
