@@ -8,6 +8,7 @@
 #include <nbInteraction/ToolInteractionContext.h>
 #include <nbKernel/nbScenegraph.h>
 
+#include <iterator>
 #include <memory>
 #include <string>
 #include <type_traits>
@@ -140,17 +141,16 @@ private:
 
     void rehang(Bytes& bytes)
     {
-        switch (bytes.next() % 4) {
-        case 0:
-            return gizmo->setVisualisationRoot(osg::NodePtr());
-        case 1:
-            return gizmo->setVisualisationRoot(stage.otherRoot.get());
-        case 2:
+        const std::uint8_t choice = bytes.next() % 4;
+        if (choice == 2) {
             return context.setPicker(bytes.flag() ? nullptr : &stage.picker);
-        default:
-            context.setPicker(&stage.picker);
-            return gizmo->setVisualisationRoot(nbScenegraph::getInternalRoot());
         }
+        if (choice == 3) {
+            context.setPicker(&stage.picker);
+        }
+        gizmo->setVisualisationRoot(choice == 0       ? osg::NodePtr()
+                                        : choice == 1 ? stage.otherRoot.get()
+                                                      : nbScenegraph::getInternalRoot());
     }
 
     /// Calls the interface without context or manager in between.
@@ -160,38 +160,30 @@ private:
         const std::string hint = stage.hint(bytes);
         const osg::Pnt2f target = stage.aimAt(gizmo->getCollider(), bytes);
         stage.point(target);
-        switch (bytes.next() % 9) {
-        case 0:
-            gizmo->startManipulator(ctx, hint);
-            break;
-        case 1:
-            gizmo->processManipulator(ctx, hint);
-            break;
-        case 2:
-            gizmo->stopManipulator(ctx, hint);
-            break;
-        case 3:
-            gizmo->hover(ctx, hint);
-            if (!gizmo->isActive()) {
-                // Deactivating gives preselection back, but only to who was active.
-                gizmo->reset(ctx, hint);
-            }
-            break;
-        case 4:
-            gizmo->reset(ctx, hint);
-            break;
-        case 5:
-            gizmo->setManipulatorMode(stage.mode(bytes));
-            break;
-        case 6:
-            gizmo->setMousePosition(osg::Pnt2f(bytes.number2()));
-            break;
-        case 7:
-            copy();
-            break;
-        default:
-            gizmo->update(bytes.flag());
-        }
+        using Self = ManipulatorActor;
+        using Context = ManipulatorInteractionContext*;
+        static constexpr void (*kCalls[])(Self&, Context, const std::string&, Bytes&) = {
+            [](auto& self, auto* c, auto& h, auto&) { self.gizmo->startManipulator(c, h); },
+            [](auto& self, auto* c, auto& h, auto&) { self.gizmo->processManipulator(c, h); },
+            [](auto& self, auto* c, auto& h, auto&) { self.gizmo->stopManipulator(c, h); },
+            [](auto& self, auto* c, auto& h, auto&) {
+                self.gizmo->hover(c, h);
+                if (!self.gizmo->isActive()) {
+                    // Deactivating gives preselection back, but only to who was active.
+                    self.gizmo->reset(c, h);
+                }
+            },
+            [](auto& self, auto* c, auto& h, auto&) { self.gizmo->reset(c, h); },
+            [](auto& self, auto*, auto&, auto& b) {
+                self.gizmo->setManipulatorMode(self.stage.mode(b));
+            },
+            [](auto& self, auto*, auto&, auto& b) {
+                self.gizmo->setMousePosition(osg::Pnt2f(b.number2()));
+            },
+            [](auto& self, auto*, auto&, auto&) { self.copy(); },
+            [](auto& self, auto*, auto&, auto& b) { self.gizmo->update(b.flag()); }
+        };
+        kCalls[bytes.next() % std::size(kCalls)](*this, ctx, hint, bytes);
     }
 
     /// A copy shares handles and root, so it lives only while neither is active.
@@ -273,26 +265,13 @@ private:
     void callDirectly(Bytes& bytes)
     {
         const std::string hint = stage.hint(bytes);
-        switch (bytes.next() % 6) {
-        case 0:
-            isHeld = true;
-            tool->startTool(&context, hint);
-            break;
-        case 1:
-            tool->processTool(&context, hint);
-            break;
-        case 2:
-            tool->stopTool(&context, hint);
-            break;
-        case 3:
-            tool->hoverTool(&context, hint);
-            break;
-        case 4:
-            tool->stopHoverTool(&context, hint);
-            break;
-        default:
-            tool->setToolMode(&context, stage.mode(bytes));
-        }
+        static constexpr bool (Tool::*kCalls[])(
+            interaction::ToolInteractionContext*,
+            const std::string&) = { &Tool::startTool, &Tool::processTool,   &Tool::stopTool,
+                                    &Tool::hoverTool, &Tool::stopHoverTool, &Tool::setToolMode };
+        const std::size_t choice = bytes.next() % std::size(kCalls);
+        isHeld = isHeld || choice == 0;
+        (tool.get()->*kCalls[choice])(&context, choice == 5 ? stage.mode(bytes) : hint);
     }
 
     Stage& stage;

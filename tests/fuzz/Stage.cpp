@@ -309,22 +309,13 @@ void Stage::editPlate(Bytes& bytes)
 
 void Stage::editUndo(Bytes& bytes) const
 {
-    nbUndoService* const undo = nbUndoService::the();
-    switch (bytes.next() % 6) {
-    case 0:
-        return undo->beginGroup();
-    case 1:
-        return undo->endGroup();
-    case 2:
-        return undo->cancelGroup();
-    case 3:
-        undo->redo();
-        return;
-    case 4:
-        return undo->clear();
-    default:
-        undo->undo();
-    }
+    static constexpr void (*kCalls[])(nbUndoService&) = { [](nbUndoService& undo) { undo.beginGroup(); },
+                                                          [](nbUndoService& undo) { undo.endGroup(); },
+                                                          [](nbUndoService& undo) { undo.cancelGroup(); },
+                                                          [](nbUndoService& undo) { undo.redo(); },
+                                                          [](nbUndoService& undo) { undo.clear(); },
+                                                          [](nbUndoService& undo) { undo.undo(); } };
+    kCalls[bytes.next() % std::size(kCalls)](*nbUndoService::the());
 }
 
 void Stage::deleteOrAdd(Bytes& bytes)

@@ -27,8 +27,7 @@ enum class Way
     Plane,  ///< everywhere
     AxisX,
     AxisY,
-    AxisZ,
-    Turn  ///< around the centre
+    AxisZ
 };
 
 struct LoopRow
@@ -50,7 +49,6 @@ const LoopRow kLoops[] = {
     { "xaShape", Way::AxisX, { 1.3F, 0, 0 }, {} },
     { "yaShape", Way::AxisY, { 0, 1.3F, 0 }, {} },
     { "zaShape", Way::AxisZ, { 0, 0, -1.3F }, {} },
-    { "rotateShape", Way::Turn, { -0.6F, -0.8F, 0 }, {} },
     { "xsShape", Way::AxisX, { 2.5F, 0, 0 }, {} },
     { "ysShape", Way::AxisY, { 0, 2.5F, 0 }, {} },
     { "scaleXYLLShape", Way::Plane, {}, { 1, 1, 0 } },
@@ -119,7 +117,7 @@ Pnt3f underPointer(const PlanarScene& planar, Way way)
 {
     const Pnt3f center = planar.inWorld(Vec3f());
     Vec3f normal = axisOf(planar, 0).cross(axisOf(planar, 1));
-    if (way != Way::Plane && way != Way::Turn) {
+    if (way != Way::Plane) {
         const int axis = static_cast<int>(way) - static_cast<int>(Way::AxisX);
         normal = axisPlaneNormal(axisOf(planar, axis), View().sight());
     }
@@ -145,18 +143,7 @@ Vec2f followed(const PlanarScene& planar, const Held& held, Way way)
     if (way == Way::Plane) {
         return Vec2f();
     }
-    Vec3f along;
-    if (way == Way::Turn) {
-        // The tangent of the turn, which runs in the object's space.
-        const Matrix& projection = planar.projection->getMatrix();
-        Vec3f arm = mapped(projection, Pnt3f(held.texel)) - mapped(projection, Pnt3f(0, 0, 0));
-        Vec3f normal = column(projection, 0).cross(column(projection, 1));
-        normal.normalize();
-        along = normal.cross(arm);
-        planar.scene.node->getToWorld().multMatrixVec(along);
-    } else {
-        along = axisOf(planar, static_cast<int>(way) - static_cast<int>(Way::AxisX));
-    }
+    const Vec3f along = axisOf(planar, static_cast<int>(way) - static_cast<int>(Way::AxisX));
     const Pnt3f place = held.world();
     Vec2f direction = planar.drag.rayPixelOf(place + along * 0.01F) -
         planar.drag.rayPixelOf(place - along * 0.01F);
@@ -164,27 +151,9 @@ Vec2f followed(const PlanarScene& planar, const Held& held, Way way)
     return direction;
 }
 
-/// Way around the centre between a held place and the pointer, pixels. The turn runs in the
-/// object's space.
-float turnGap(const PlanarScene& planar, const Held& held)
-{
-    Matrix objectFromWorld;
-    planar.scene.node->getToWorld().inverse(objectFromWorld);
-    const Pnt3f center = planar.inWorld(Vec3f());
-    Vec3f arm = held.world() - center;
-    Vec3f wanted = underPointer(planar, Way::Turn) - center;
-    objectFromWorld.multMatrixVec(arm);
-    objectFromWorld.multMatrixVec(wanted);
-    const float angle = std::atan2(arm.cross(wanted).length(), arm.dot(wanted));
-    return angle * (planar.drag.rayPixelOf(held.world()) - planar.drag.rayPixelOf(center)).length();
-}
-
 /// Pixels between a held place and the pointer, along what it follows.
 float gap(const PlanarScene& planar, const Held& held, Way way)
 {
-    if (way == Way::Turn) {
-        return turnGap(planar, held);
-    }
     const Vec2f between =
         planar.drag.rayPixelOf(held.world()) - (planar.drag.pressed + planar.drag.reached);
     const Vec2f direction = followed(planar, held, way);

@@ -19,7 +19,6 @@ using Gizmo = UniversalTransformManipulator2;
 using Mode = Gizmo::ManipulatorMode;
 
 constexpr float kPi = 3.14159265F;
-constexpr float kRadiansPerDegree = kPi / 180.0F;
 constexpr int kRuns = 300;
 const char* const kOrders[] = { "xyz", "yzx", "zxy", "xzy", "yxz", "zyx" };
 
@@ -60,7 +59,7 @@ const Handle kHandles[] = {
 class RandomDrag
 {
 public:
-    RandomDrag(unsigned seed, bool uniformParent)
+    explicit RandomDrag(unsigned seed)
         : random(seed)
         , handle(kHandles[pick(std::size(kHandles))])
     {
@@ -68,8 +67,7 @@ public:
         drags.edit(drags.parentCore(), [&](const osg::Transform3DPtr& core) {
             core->setTranslation(vector(1.0F));
             core->setRotation(vector(180.0F));
-            const float size = number(0.5F, 2.0F);
-            core->setScale(uniformParent ? Vec3f(size, size, size) : factors());
+            core->setScale(factors());
         });
         drags.edit(drags.core(), [&](const osg::Transform3DPtr& core) {
             core->setEulerRotationOrder(kOrders[pick(std::size(kOrders))]);
@@ -208,11 +206,11 @@ float relativeDifference(const osg::Matrix& left, const osg::Matrix& right)
 
 /// Runs a check on each seed whose handle can be grabbed; a fair part of all must be.
 template <class Check>
-void forEachDrag(bool uniformParent, Check check)
+void forEachDrag(Check check)
 {
     int grabbed = 0;
     for (unsigned seed = 1; seed <= kRuns; ++seed) {
-        RandomDrag drag(seed, uniformParent);
+        RandomDrag drag(seed);
         if (!drag.grab()) {
             continue;
         }
@@ -231,7 +229,7 @@ void forEachDrag(bool uniformParent, Check check)
 TEST(DragProperties, TheEndDependsNeitherOnTheWayNorOnTheSteps)
 {
     for (unsigned seed = 1; seed <= kRuns; ++seed) {
-        RandomDrag direct(seed, false);
+        RandomDrag direct(seed);
         if (!direct.grab()) {
             continue;
         }
@@ -255,7 +253,7 @@ TEST(DragProperties, TheEndDependsNeitherOnTheWayNorOnTheSteps)
 TEST(DragProperties, UndoRestoresBitForBit)
 {
     nbUndoService* const undo = nbUndoService::the();
-    forEachDrag(false, [undo](RandomDrag& drag) {
+    forEachDrag([undo](RandomDrag& drag) {
         const nbTransformState before = drag.state();
         undo->beginGroup();
         EXPECT_TRUE(drag.drags.dragBy(drag.offset(60.0F)));
@@ -276,7 +274,7 @@ TEST(DragProperties, UndoRestoresBitForBit)
 
 TEST(DragProperties, PlanesAndArrowsKeepTheGrabbedPointUnderThePointer)
 {
-    forEachDrag(false, [](RandomDrag& drag) {
+    forEachDrag([](RandomDrag& drag) {
         if (drag.handle.kind != Kind::Plane && drag.handle.kind != Kind::Arrow) {
             return;
         }
@@ -320,58 +318,6 @@ TEST(DragProperties, PlanesAndArrowsKeepTheGrabbedPointUnderThePointer)
             const Vec2f drift = now - gap;
             ASSERT_LT(isPlane ? drift.length() : std::abs(drift.dot(along)), 0.6F);
         }
-    });
-}
-
-TEST(DragProperties, TheNodeTurnsAboutTheDrawnRingByThePointersAngle)
-{
-    forEachDrag(true, [](RandomDrag& drag) {
-        if (drag.handle.kind != Kind::Ring) {
-            return;
-        }
-        DragScene& drags = drag.drags;
-        const Pnt3f center = drags.onGizmo(Vec3f(0, 0, 0));
-        Vec3f axis;
-        axis[drag.handle.axis] = 1.0F;
-        axis = drags.onGizmo(axis) - center;
-        axis.normalize();
-        Vec3f arm = drags.onGizmo(drag.handle.grab) - center;
-        if (std::abs(axis.dot(View().sightAt(center + arm))) < 0.8F) {
-            return;  // tilted by more than the ring's own plane is used for
-        }
-        const osg::Matrix before = drag.toWorld();
-        const float angle = drag.number(-170.0F, 170.0F) * kRadiansPerDegree;
-        // Once around in places: each pixel is near a point of the ring, the end is looked at from
-        // where the last pixel's ray meets the ring's plane.
-        osg::Line ray;
-        Pnt3f first;
-        Pnt3f last;
-        const osg::Plane plane(axis, center);
-        ray = View().pointerRay().value();
-        ASSERT_TRUE(intersectPlane(plane, ray, first));
-        for (int i = 1; i <= 40; ++i) {
-            Vec3f turned = arm;
-            osg::Quaternion(axis, angle * static_cast<float>(i) / 40.0F).multVec(arm, turned);
-            const Pnt2f pixel = drags.rayPixelOf(center + turned);
-            ASSERT_TRUE(drags.stepTo(Vec2f(std::round(pixel.x() - drags.drag.pressed.x()),
-                                           std::round(pixel.y() - drags.drag.pressed.y()))));
-        }
-        ray = View().pointerRay().value();
-        ASSERT_TRUE(intersectPlane(plane, ray, last));
-        const Vec3f from = first - center;
-        const Vec3f to = last - center;
-        const float pointerAngle = std::atan2(from.cross(to).dot(axis), from.dot(to));
-        EXPECT_NEAR(std::remainder(pointerAngle - angle, 2.0F * kPi), 0.0F, 0.06F);
-
-        // expected = T(center) R(axis, angle) T(-center) * before
-        osg::Matrix expected;
-        osg::Matrix back;
-        expected.setRotate(osg::Quaternion(axis, pointerAngle));
-        expected.setTranslate(center);
-        back.setTranslate(-center.x(), -center.y(), -center.z());
-        expected.mult(back);
-        expected.mult(before);
-        EXPECT_LT(relativeDifference(expected, drag.toWorld()), 1e-3F);
     });
 }
 

@@ -2,7 +2,6 @@
 #include "tests/manipulator/support/PlateScene.h"
 
 #include "manipulator/plates/PlateFrame.h"
-#include "tests/manipulator/support/GizmoScene.h"
 
 #include <nbKernel/nbScenegraph.h>
 
@@ -13,57 +12,29 @@ namespace nbec::manipulator::test {
 
 PlateScene::PlateScene(int widthPx, int heightPx)
 {
-    widget.setMain();
     widget.resize(widthPx, heightPx);
-    context.setPicker(&picker);
-    manipulator.setVisualisationRoot(nbScenegraph::getInternalRoot());
-    context.setManipulator(&manipulator);
-    manager.addContext(&context);
-}
-
-PlateScene::~PlateScene()
-{
-    manager.removeContext(&context);
-    context.setPicker(nullptr);
-    manipulator.setVisualisationRoot(osg::NodePtr());
-    nbScenegraph::clear();
+    install(manipulator);
 }
 
 osg::NodePtr PlateScene::addPlate(const platetest::PlatePx& place)
 {
-    const osg::NodePtr node =
+    const osg::NodePtr plate =
         platetest::makePlate(place, widget.getHeight(), osg::Color4f(0.2F, 0.4F, 0.6F, 1.0F));
-    const osg::NodePtr root = nbScenegraph::getSceneplateRoot();
-    const nbEdit edit(root, osg::Node::ChildrenFieldMask);
-    root->addChild(node);
-    return node;
+    addChild(nbScenegraph::getSceneplateRoot(), plate);
+    return plate;
 }
 
 osg::Pnt2f PlateScene::handlePx(const std::string& name)
 {
-    const osg::NodePtr handle = findNode(manipulator.getVisualisation(), name);
-    osg::Matrix clipFromWorld;
-    widget.getCamera()->getWorldToScreen(clipFromWorld, *widget.getViewport());
     osg::Pnt3f origin;
-    handle->getToWorld().multMatrixPnt(origin);
-    osg::Pnt3f device;
-    clipFromWorld.multFullMatrixPnt(origin, device);
-    return osg::Pnt2f((device.x() + 1.0F) * 0.5F * static_cast<float>(widget.getWidth()),
-                      (1.0F - device.y()) * 0.5F * static_cast<float>(widget.getHeight()));
+    findNode(manipulator.getVisualisation(), name)->getToWorld().multMatrixPnt(origin);
+    return pixelOf(origin);
 }
 
 bool PlateScene::isHandleShown(const std::string& name)
 {
     const osg::NodePtr handle = findNode(manipulator.getVisualisation(), name);
     return handle != osg::NullFC && isShown(handle);
-}
-
-bool PlateScene::send(const std::string& event, const osg::Pnt2f& positionPx,
-                      const std::string& hint)
-{
-    widget.setMousePosition(positionPx);
-    manager.pointerMoved(positionPx);
-    return manager.triggerEvent(interaction::InteractionEvent(event, "tool", hint));
 }
 
 bool PlateScene::drag(const osg::Pnt2f& fromPx, const osg::Vec2f& distancePx, bool isReleased)

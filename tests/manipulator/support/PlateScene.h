@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "manipulator/ManipulatorInteractionContext.h"
 #include "manipulator/nbSceneplateManipulator.h"
+#include "tests/manipulator/support/GizmoScene.h"
 #include "tests/platform/support/Plates.h"
 
-#include <nbInteraction/InteractionManager.h>
-#include <nbInteraction/Picker.h>
-#include <nbKernel/nbOSGWidget.h>
 #include <nbOpenSGSceneplate/nbSceneplateLayout.h>
 
 #include <string>
@@ -15,15 +12,17 @@
 
 namespace nbec::manipulator::test {
 
-/// A view without a window in which a scene-plate manipulator is dragged by its handles: pointer
-/// and events go through the interaction manager, as the input translator sends them.
-class PlateScene
+/// For scenes whose manipulator has to outlive them.
+struct PlateOwner
+{
+    nbSceneplateManipulator manipulator;
+};
+
+/// A view in which a scene-plate manipulator is dragged by its handles.
+class PlateScene : public PlateOwner, public GizmoScene
 {
 public:
     PlateScene(int widthPx, int heightPx);
-    PlateScene(const PlateScene&) = delete;
-    PlateScene& operator=(const PlateScene&) = delete;
-    ~PlateScene();
 
     /// Adds a plate, see platetest::PlatePx; the manipulator is not told.
     osg::NodePtr addPlate(const platetest::PlatePx& place);
@@ -34,20 +33,12 @@ public:
     /// Whether it is shown.
     bool isHandleShown(const std::string& name);
 
-    bool send(const std::string& event, const osg::Pnt2f& positionPx,
-              const std::string& hint = "select");
     /// Presses at a position, goes by a distance in steps of at most 5 pixels and, unless told
     /// otherwise, releases. @return whether all events were handled
     bool drag(const osg::Pnt2f& fromPx, const osg::Vec2f& distancePx, bool isReleased = true);
     bool drag(const std::string& handle, const osg::Vec2f& distancePx, bool isReleased = true);
 
     nbSceneplateLayout::Corners corners(const osg::NodePtr& plate) const;
-
-    nbSceneplateManipulator manipulator;  // outlives the context, which deactivates it
-    nbOSGWidget widget;
-    interaction::Picker picker;
-    interaction::InteractionManager manager;
-    ManipulatorInteractionContext context;
 };
 
 /// A corner that is none of those drawn but exactly where the fields put it.
