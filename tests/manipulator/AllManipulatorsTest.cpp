@@ -46,7 +46,6 @@ protected:
         nbtest::edited(camera)->setOrthographic(isOrthographic);
     }
 
-    /// @param index  of the nodes that what is edited belongs to
     void moveTarget(float x)
     {
         nbtest::edited(transformOf(this->stage.firstNode()))->setTranslation(Vec3f(x, 0, 0));

@@ -42,8 +42,14 @@ struct SetRow
     Names shown;
 };
 
+template <class Gizmo>
+const std::vector<HandleRow> kRows;
+template <class Gizmo>
+const std::vector<SetRow<Gizmo>> kSets;
+
 // clang-format off
-const std::vector<HandleRow> kTransformRows = {
+template <>
+const std::vector<HandleRow> kRows<Transform> = {
     { "rxShape", 1, Camera::Oblique, { 0, kDiagonal, kDiagonal }, { "1 0 0", "1 0 0" } },
     { "ryShape", 2, Camera::Oblique, { kDiagonal, 0, kDiagonal }, { "0 1 0", "0 1 0" } },
     { "rzShape", 3, Camera::Oblique, { kDiagonal, kDiagonal, 0 }, { "0 0 1", "0 0 1" } },
@@ -58,7 +64,8 @@ const std::vector<HandleRow> kTransformRows = {
     { "zsShape", 12, Camera::Oblique, { 0, 0, 1.5F }, { "0 0 1", "0 0 1" } },
     { "grid", 13, Camera::Oblique, { 0, 0, 0 }, { "1 1 0" } },
 };
-const std::vector<SetRow<Transform>> kTransformSets = {
+template <>
+const std::vector<SetRow<Transform>> kSets<Transform> = {
     { &Transform::activateTranslateManipulator, { "xaShape", "yaShape", "zaShape", "xyaShape", "xzaShape", "yzaShape" } },
     { &Transform::activateScaleManipulator, { "xsShape", "ysShape", "zsShape", "grid" } },
     { &Transform::activateRotateManipulator, { "rxShape", "ryShape", "rzShape" } },
@@ -69,7 +76,8 @@ const std::vector<SetRow<Transform>> kTransformSets = {
     { &Transform::activateTranslateRotateYZManipulator, { "ryShape", "rzShape", "xaShape", "yaShape", "zaShape", "xyaShape", "xzaShape", "yzaShape" } },
     { &Transform::activateTranslateRotateScaleManipulator, { "rxShape", "ryShape", "rzShape", "xaShape", "yaShape", "zaShape", "xyaShape", "xzaShape", "yzaShape", "xsShape", "ysShape", "zsShape" } },
 };
-const std::vector<HandleRow> kPlanarRows = {
+template <>
+const std::vector<HandleRow> kRows<Planar> = {
     { "rotateShape", 1, Camera::Front, { 0.70710678F, -0.70710678F, 0 }, { "0 0 1", "0.95 0.52 0.18" }, "rotate" },
     { "xaShape", 2, Camera::Front, { 1.9F, 0, 0 }, { "1 0 0", "1 0 0" }, "" },
     { "yaShape", 3, Camera::Front, { 0, 1.9F, 0 }, { "0 1 0", "0 1 0" }, "translate" },
@@ -89,12 +97,14 @@ const std::vector<HandleRow> kPlanarRows = {
     { "scaleYUShape", 17, Camera::Front, { 0.15F, 0, 0 }, { "0.5 1 0.5" }, "scale" },
     { "scaleZPlaneShape", 18, Camera::Oblique, { -0.17F, 0.17F, 0 }, { "0.5 0.5 1" }, "scale" },
 };
-const std::vector<SetRow<Planar>> kPlanarSets = {
+template <>
+const std::vector<SetRow<Planar>> kSets<Planar> = {
     { &Planar::activateTranslateManipulator, { "xaShape", "yaShape", "zaShape", "xyaShape" } },
     { &Planar::activateRotateManipulator, { "rotateShape" } },
     { &Planar::activateScaleManipulator, { "xsShape", "ysShape", "zsShape", "grid", "scaleXYLLShape", "scaleXYULShape", "scaleXYLRShape", "scaleXYURShape", "scaleXLShape", "scaleXRShape", "scaleYLShape", "scaleYUShape", "scaleZPlaneShape" } },
 };
-const std::vector<HandleRow> kTriplanarRows = {
+template <>
+const std::vector<HandleRow> kRows<Triplanar> = {
     { "rxShape", 1, Camera::Oblique, { 0, kDiagonal, kDiagonal }, { "1 0 0" } },
     { "ryShape", 2, Camera::Oblique, { kDiagonal, 0, kDiagonal }, { "0 1 0" } },
     { "rzShape", 3, Camera::Front, { kDiagonal, kDiagonal, 0 }, { "0 0 1" } },
@@ -106,11 +116,13 @@ const std::vector<HandleRow> kTriplanarRows = {
     { "zsShape", 9, Camera::Side, { 0, 0, 2.5F }, { "0 0 1", "0.5 0.5 1" }, "grid" },
     { "grid", 10, Camera::Oblique, { 0, 0, 0 }, { "1 1 0" } },
 };
-const std::vector<SetRow<Triplanar>> kTriplanarSets = {
+template <>
+const std::vector<SetRow<Triplanar>> kSets<Triplanar> = {
     { &Triplanar::activateRotateManipulator, { "rxShape", "ryShape", "rzShape" } },
     { &Triplanar::activateRotateScaleManipulator, { "rxShape", "ryShape", "rzShape", "xsShape", "ysShape", "zsShape", "grid" } },
 };
-const std::vector<HandleRow> kUVRows = {
+template <>
+const std::vector<HandleRow> kRows<UV> = {
     { "rotateShape", 1, Camera::Oblique, { -0.70710678F, 0.70710678F, 0 }, { "0 0 1" } },
     { "xaShape", 2, Camera::Oblique, { 1.9F, 0, 0 }, { "1 0 0", "1 0 0" } },
     { "yaShape", 3, Camera::Oblique, { 0, 1.9F, 0 }, { "0 1 0", "0 1 0" } },
@@ -119,13 +131,15 @@ const std::vector<HandleRow> kUVRows = {
     { "ysShape", 6, Camera::Oblique, { 0, 2.5F, 0 }, { "0.5 1 0.5", "0.5 1 0.5" }, "grid" },
     { "grid", 7, Camera::Oblique, { 2.5F, 2.5F, 0 }, { "1 1 0.5" } },
 };
-const std::vector<SetRow<UV>> kUVSets = {
+template <>
+const std::vector<SetRow<UV>> kSets<UV> = {
     { &UV::activateTranslateManipulator, { "xaShape", "yaShape", "xyaShape" } },
     { &UV::activateScaleManipulator, { "xsShape", "ysShape", "grid" } },
     { &UV::activateRotateManipulator, { "rotateShape" } },
     { &UV::activateRotateScaleManipulator, { "rotateShape", "xsShape", "ysShape", "grid" } },
 };
-const std::vector<HandleRow> kTireRows = {
+template <>
+const std::vector<HandleRow> kRows<Tire> = {
     { "xaShape", 1, Camera::Front, { 1.9F, 0, 0 }, { "1 0 0", "1 0 0" } },
     { "yaShape", 2, Camera::Front, { 0, 1.9F, 0 }, { "0 1 0", "0 1 0" } },
     { "zaShape", 3, Camera::Side, { 0, 0, 1.9F }, { "0 0 1", "0 0 1" } },
@@ -135,7 +149,8 @@ const std::vector<HandleRow> kTireRows = {
     { "oppositeHeightShape", 4, Camera::Oblique, { 0, 0, 0 }, { "0.5 0.5 1" } },
     { "scaleUShape", 6, Camera::Oblique, { 0, 0, 0 }, { "1 1 0" } },
 };
-const std::vector<SetRow<Tire>> kTireSets = {
+template <>
+const std::vector<SetRow<Tire>> kSets<Tire> = {
     { &Tire::activateTranslateManipulator, { "xaShape", "yaShape", "zaShape" } },
     { &Tire::activateScaleManipulator, { "radiusRingShape", "radiusShape", "heightShape", "oppositeHeightShape", "scaleUShape" } },
 };
@@ -149,35 +164,7 @@ protected:
     using Scene =
         std::conditional_t<std::is_same_v<Gizmo, Transform>, DragScene, TextureSceneOf<Gizmo>>;
 
-    static const std::vector<HandleRow>& rows()
-    {
-        if constexpr (std::is_same_v<Gizmo, Transform>) {
-            return kTransformRows;
-        } else if constexpr (std::is_same_v<Gizmo, Planar>) {
-            return kPlanarRows;
-        } else if constexpr (std::is_same_v<Gizmo, Triplanar>) {
-            return kTriplanarRows;
-        } else if constexpr (std::is_same_v<Gizmo, UV>) {
-            return kUVRows;
-        } else {
-            return kTireRows;
-        }
-    }
-
-    static const std::vector<SetRow<Gizmo>>& sets()
-    {
-        if constexpr (std::is_same_v<Gizmo, Transform>) {
-            return kTransformSets;
-        } else if constexpr (std::is_same_v<Gizmo, Planar>) {
-            return kPlanarSets;
-        } else if constexpr (std::is_same_v<Gizmo, Triplanar>) {
-            return kTriplanarSets;
-        } else if constexpr (std::is_same_v<Gizmo, UV>) {
-            return kUVSets;
-        } else {
-            return kTireSets;
-        }
-    }
+    static const std::vector<HandleRow>& rows() { return kRows<Gizmo>; }
 
     static Names names()
     {
@@ -257,7 +244,7 @@ TYPED_TEST(Handles, OfAModeAreShown)
 {
     auto& scene = this->at;
     const Names names = this->names();
-    for (const SetRow<TypeParam>& set : this->sets()) {
+    for (const SetRow<TypeParam>& set : kSets<TypeParam>) {
         (scene.gizmo.*set.activate)();
         Names shown = scene.shownOf(names);
         EXPECT_TRUE(

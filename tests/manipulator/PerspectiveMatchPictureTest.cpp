@@ -4,7 +4,6 @@
 #include "tests/manipulator/support/MatchScene.h"
 #include "tests/platform/support/Edited.h"
 
-#include <nbOpenSGRenderAction/nbImageConvert.h>
 #include <nbOpenSGRenderAction/nbOffscreenView.h>
 #include <nbOpenSGUberCamera/UberCamera.h>
 
@@ -138,34 +137,6 @@ TEST_F(PerspectiveMatchPictureTest, GuidesShowDuringADrag)
 
     scene.send("stop", scene.pixelOf(grabbed));
     EXPECT_TRUE(grey(at(draw(), 262, 131)));
-}
-
-TEST_F(PerspectiveMatchPictureTest, TheMagnifierShowsPhotographAndLineUnderAHeldEnd)
-{
-    // The photograph is white from column 320 on; the held end is 4 columns before that.
-    QImage photograph(640, 480, QImage::Format_RGB32);
-    photograph.fill(Qt::black);
-    for (int y = 0; y < photograph.height(); ++y) {
-        for (int x = 320; x < photograph.width(); ++x) {
-            photograph.setPixelColor(x, y, Qt::white);
-        }
-    }
-    const osg::UberViewportPtr viewport = scene.widget.getUberViewport();
-    nbtest::edited(viewport)->setPhotograph(nbImageConvert::toImage(photograph));
-    scene.match().setXLine1(pixelLine(316, 60, 200, 60));
-    scene.match().setMagnifyFactor(4.0F);
-
-    EXPECT_TRUE(isColor(at(draw(), 325, 90), QColor(Qt::white)));
-    ASSERT_TRUE(scene.grab(scene.match().getXLine1().p1()));
-    const QImage picture = draw();
-
-    EXPECT_TRUE(isColor(at(picture, 328, 62), kBlack)) << "3 columns to the right of the end";
-    EXPECT_TRUE(isColor(at(picture, 332, 65), QColor(Qt::white))) << "4 columns";
-    EXPECT_TRUE(isColor(at(picture, 304, 60), kRed)) << "the line, 3 columns to the left";
-    EXPECT_TRUE(isColor(at(picture, 304, 61), kRed)) << "4 pixels for each";
-    EXPECT_TRUE(isColor(at(picture, 316 + 24, 60), kOrange)) << "the ring of the end, at 4 x 6";
-    scene.send("stop", scene.pixelOf(scene.match().getXLine1().p1()));
-    EXPECT_TRUE(isColor(at(draw(), 325, 90), QColor(Qt::white)));
 }
 
 }  // namespace nbec::manipulator::test

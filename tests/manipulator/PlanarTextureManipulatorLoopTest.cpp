@@ -223,30 +223,6 @@ TEST_P(Loops, LeaveWhatWasGrabbedUnderThePointer)
 
 INSTANTIATE_TEST_SUITE_P(PlanarTextureManipulator, Loops, testing::ValuesIn(kLoops));
 
-TEST(PlanarTextureManipulatorLoop, ObjectsInSmallUnitsAreDraggedLikeOthers)
-{
-    PlanarScene planar(PlanarScene::Receiver::Editor);
-    planar.edit(planar.parentCore(),
-                [](const auto& parent) { parent->setScale(Vec3f(1e6F, 1e6F, 1e6F)); });
-    planar.edit(planar.projection,
-                [](const auto& projection) { projection->setScale(Vec3f(1.5e-7F, 1e-7F, 1e-7F)); });
-    planar.gizmo.activateScaleManipulator();
-    planar.look(Camera::Front, true);
-    ASSERT_TRUE(planar.grab("xsShape", Vec3f(2.5F, 0, 0)));
-    EXPECT_TRUE(planar.drag.dragBy(Vec2f(125, 0)));
-    EXPECT_NEAR(planar.projection->getScale().x() * 1e7F, 3.0F, 0.05F);
-    EXPECT_TRUE(planar.drag.release());
-
-    ASSERT_TRUE(planar.grab("scaleXYURShape", Vec3f(0.1F, 0.1F, 0)));
-    const Pnt3f opposite = planar.inWorld(Vec3f(-1, -1, 0));
-    const Vec3f before = planar.inWorld(Vec3f(1, 1, 0)) - opposite;
-    EXPECT_TRUE(planar.drag.dragBy(Vec2f(20, -10)));
-    const Vec3f grown = planar.inWorld(Vec3f(1, 1, 0)) - opposite - before;
-    EXPECT_NEAR(grown.x(), 20.0F / 72.4264F, 1e-3F);
-    EXPECT_NEAR(grown.y(), 10.0F / 72.4264F, 1e-3F);
-    EXPECT_LT((planar.inWorld(Vec3f(-1, -1, 0)) - opposite).length(), kFixed * before.length());
-}
-
 TEST(PlanarTextureManipulatorLoop, DepthIsClampedAndShownOnceItIsScaled)
 {
     for (const char* const handle : { "zsShape", "scaleZPlaneShape" }) {

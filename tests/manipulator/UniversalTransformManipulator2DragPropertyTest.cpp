@@ -4,9 +4,7 @@
 #include "manipulator/drag/DragGeometry.h"
 #include "tests/manipulator/support/HandleScene.h"
 
-#include <nbKernelServices/nbUndoService.h>
 #include <nbOpenSGUberCamera/UberCamera.h>
-#include <nbOpenSGUtils/nbTransformState.h>
 
 #include <iterator>
 #include <random>
@@ -121,8 +119,6 @@ public:
         axis.normalize();
         return axis;
     }
-
-    nbTransformState state() const { return nbTransformState::of(*drags.core()); }
 
     osg::Matrix toWorld() const { return drags.scene.node->getToWorld(); }
 
@@ -248,28 +244,6 @@ TEST(DragProperties, TheEndDependsNeitherOnTheWayNorOnTheSteps)
         EXPECT_TRUE(direct.drags.dragBy(end));
         ASSERT_LT(relativeDifference(expected, direct.toWorld()), 2e-5F);
     }
-}
-
-TEST(DragProperties, UndoRestoresBitForBit)
-{
-    nbUndoService* const undo = nbUndoService::the();
-    forEachDrag([undo](RandomDrag& drag) {
-        const nbTransformState before = drag.state();
-        undo->beginGroup();
-        EXPECT_TRUE(drag.drags.dragBy(drag.offset(60.0F)));
-        const nbTransformState after = drag.state();
-        EXPECT_TRUE(drag.drags.release());
-        undo->endGroup();
-        if (after.isSame(before)) {
-            EXPECT_FALSE(undo->undo());
-            return;
-        }
-        EXPECT_TRUE(undo->undo());
-        EXPECT_TRUE(drag.state().isSame(before));
-        EXPECT_TRUE(undo->redo());
-        EXPECT_TRUE(drag.state().isSame(after));
-        undo->clear();
-    });
 }
 
 TEST(DragProperties, PlanesAndArrowsKeepTheGrabbedPointUnderThePointer)
