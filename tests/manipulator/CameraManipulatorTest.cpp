@@ -114,24 +114,4 @@ TEST_F(CameraManipulatorTest, TakesNoDragAndNoHover)
     EXPECT_EQ(scene.picker.getFilter(), 0) << "the picker is left at the scene";
 }
 
-TEST(CameraManipulator, DestroyingOneLeavesTheOthersFollowing)
-{
-    CameraManipulator first;
-    auto second = std::make_unique<CameraManipulator>();
-    CameraManipulator third;
-    GizmoScene scene;
-    const CameraManipulator copy(third);
-    scene.install(third);
-    third.setNode(scene.node);
-    second.reset();
-
-    scene.lookFrom(osg::Pnt3f(0, 0, 30));
-    CameraManipulator::updateAllManipulators();
-
-    for (CameraManipulator* cross : { &first, &third }) {
-        const osg::NodePtr transform = cross->getVisualisation()->getChild(1)->getChild(0);
-        EXPECT_GT(transformOf(transform)->getScale().x(), 1.5F);
-    }
-}
-
 }  // namespace nbec::manipulator::test

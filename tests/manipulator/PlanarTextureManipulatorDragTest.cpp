@@ -184,4 +184,27 @@ TEST(PlanarTextureManipulatorDrag, ObjectFlagsReplaceScaleAndPlace)
     expectNear(attribute<Vec3f>(planar.last(), "scale"), Vec3f(2, 4, 1), "object's scale");
 }
 
+TEST(PlanarTextureManipulatorDrag, DepthIsClampedAndShownOnceItIsScaled)
+{
+    for (const char* const handle : { "zsShape", "scaleZPlaneShape" }) {
+        PlanarScene planar(PlanarScene::Receiver::Editor);
+        planar.look(Camera::Oblique, true);
+        const bool isPlane = std::string(handle) == "scaleZPlaneShape";
+        planar.gizmo.showZScaleValue(isPlane);
+        ASSERT_TRUE(planar.grab(handle, isPlane ? Vec3f(-0.17F, 0.17F, 0) : Vec3f(0, 0, -2.5F)));
+        const Pnt2f center = planar.drag.rayPixelOf(Pnt3f(0, 0, 0));
+        const Vec2f outwards = planar.drag.rayPixelOf(Pnt3f(0, 0, -1)) - center;
+
+        EXPECT_TRUE(planar.drag.dragBy(outwards * 0.5F));
+        EXPECT_TRUE(planar.settings->hasPlanarProjectionFlag(osg::ColorComponentSettings::ClampZ))
+            << handle;
+        EXPECT_TRUE(isShown(planar.handle("scaleZPlaneShape"))) << handle;
+        EXPECT_GT(planar.projection->getScale().z(), 1.1F) << handle;
+        EXPECT_EQ(planar.projection->getScale().x(), 1.0F) << handle;
+        EXPECT_EQ(planar.projection->getTranslation(), Vec3f()) << handle;
+        EXPECT_TRUE(planar.drag.dragBy(outwards * -10.0F));
+        EXPECT_FLOAT_EQ(planar.projection->getScale().z(), 0.01F) << handle;
+    }
+}
+
 }  // namespace nbec::manipulator::test

@@ -31,11 +31,7 @@ struct View
 class SceneplateDragTest : public testing::TestWithParam<View>
 {
 protected:
-    SceneplateDragTest()
-    {
-        nbUndoService::the()->clear();
-        scene.manager.setCancelHandler([] { nbUndoService::the()->cancelGroup(); });
-    }
+    SceneplateDragTest() { nbUndoService::the()->clear(); }
 
     ~SceneplateDragTest() override { nbUndoService::the()->clear(); }
 
@@ -45,22 +41,6 @@ protected:
     {
         module.select(nodes, "select");
         scene.manipulator.setNodes(module.getSelection());
-    }
-
-    /// Place of a position on a plate, 0 .. 1 from its lower left corner.
-    osg::Pnt2f onPlate(const osg::NodePtr& node, const osg::Pnt2f& px) const
-    {
-        osg::Pnt2f place(-1, -1);
-        EXPECT_TRUE(nbSceneplateLayout::contains(platetest::plateOf(node), px,
-                                                 scene.widget.getWidth(), scene.widget.getHeight(),
-                                                 &place));
-        return place;
-    }
-
-    /// Pixel of a place on a plate.
-    osg::Pnt2f ofPlate(const osg::NodePtr& node, const osg::Pnt2f& place) const
-    {
-        return exactCorner(node, scene.widget, 2 * place.x() - 1, 2 * place.y() - 1);
     }
 
     void expectNear(const osg::Pnt2f& px, const osg::Pnt2f& expected, const char* what) const
@@ -81,25 +61,6 @@ protected:
     PlateScene scene { GetParam().widthPx, GetParam().heightPx };
     nbSceneplateModule module;
 };
-
-TEST_P(SceneplateDragTest, TheGrabbedPointOfATurnedPlateStaysUnderThePointer)
-{
-    const osg::NodePtr node = addPlate({ 200, 150, 140, 90, 25 });
-    select({ node });
-    const osg::Pnt2f pressed(230, 160);
-    const osg::Pnt2f place = onPlate(node, pressed);
-    begin();
-    for (const osg::Vec2f& pull : { osg::Vec2f(7, 3), osg::Vec2f(-41, 77), osg::Vec2f(60, -20) }) {
-        EXPECT_TRUE(scene.drag(pressed, pull, false));
-        expectNear(ofPlate(node, place), pressed + pull, "grabbed point");
-        expectNear(scene.handlePx("grid"), osg::Pnt2f(200, 150) + pull, "frame");
-        scene.send("stop", pressed);
-        nbUndoService::the()->cancelGroup();
-        begin();
-        scene.manipulator.update(false);
-    }
-    nbUndoService::the()->endGroup();
-}
 
 TEST_P(SceneplateDragTest, CornersFollowAndTheOppositeOneStays)
 {

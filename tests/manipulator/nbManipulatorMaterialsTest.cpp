@@ -8,31 +8,6 @@
 
 #include <string>
 
-TEST(nbManipulatorMaterials, UnlitMaterialTakesTheColourAsDiffuseOnly)
-{
-    const osg::ContainerCensus before = osg::ContainerCensus::take();
-    osg::SimpleMaterialPtr material =
-        nbManipulatorMaterials::createUnlitMaterial(osg::Color4f(0.2F, 0.4F, 0.6F, 0.25F), 64016);
-    osg::SimpleMaterialPtr second =
-        nbManipulatorMaterials::createUnlitMaterial(osg::Color4f(0.2F, 0.4F, 0.6F, 0.25F), 64016);
-    const osg::Color3f black(0, 0, 0);
-
-    EXPECT_EQ(material->getDiffuse(), osg::Color3f(0.2F, 0.4F, 0.6F));
-    EXPECT_EQ(material->getEmission(), black);
-    EXPECT_EQ(material->getAmbient(), black);
-    EXPECT_EQ(material->getSpecular(), black);
-    EXPECT_FLOAT_EQ(material->getShininess(), 10.0F);
-    EXPECT_FLOAT_EQ(material->getTransparency(), 0.75F);
-    EXPECT_FALSE(material->getLit());
-    EXPECT_EQ(material->getSortKey(), 64016);
-    EXPECT_NE(material, second);
-    EXPECT_EQ(material.getRefCount(), 1);
-
-    osg::subRefCP(material);
-    osg::subRefCP(second);
-    EXPECT_EQ(osg::ContainerCensus::take().differenceTo(before), "");
-}
-
 TEST(nbManipulatorMaterials, ProjectionMaterialHoldsOneShaderWithTwoUniforms)
 {
     osg::ChunkMaterialPtr material = nbManipulatorMaterials::createProjectionMaterial(

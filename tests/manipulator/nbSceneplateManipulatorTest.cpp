@@ -203,6 +203,8 @@ TEST_F(SceneplateManipulatorTest, SnappingShowsGuidesWhileItHolds)
     EXPECT_FLOAT_EQ(last.offset.y(), -40.0F / 600);
     EXPECT_TRUE(isShown(vertical));
     EXPECT_FALSE(isShown(horizontal));
+    const osg::Matrix place = vertical->getToWorld();
+    EXPECT_NEAR(scene.pixelOf(osg::Pnt3f(place[3][0], place[3][1], place[3][2])).x(), 400, 0.1F);
     scene.send("process", osg::Pnt2f(410, 200));
     EXPECT_FALSE(isShown(vertical));
     scene.send("process", osg::Pnt2f(399, 299));
