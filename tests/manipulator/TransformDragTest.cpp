@@ -107,18 +107,20 @@ TEST(TransformDrag, TargetsGoFromTheirStart)
     // Values go on past whole turns; those of a pivot begin again.
     start.ringAxis = Vec3f(0, 0, 3);
     start.anglesRad = nbEulerUtils::fromDegrees(Vec3f(0, 0, 170), start.anglesRad.order);
+    start.quaternion = nbEulerUtils::QuatFromEul(start.anglesRad);
     nbEulerAngles angles = start.anglesRad;
     for (int quarter = 1; quarter <= 9; ++quarter) {
-        const double turn = static_cast<double>(kHalfPi) * quarter;
+        const HalfTurn turn(static_cast<double>(kHalfPi) * quarter);
         angles = turnedAngles(start, turn, angles);
         EXPECT_NEAR(nbEulerUtils::toVec3f(nbEulerUtils::toDegrees(angles)).z(),
                     170.0F + 90.0F * static_cast<float>(quarter), 1e-3F);
     }
-    const Vec3f pivot = nbEulerUtils::toVec3f(nbEulerUtils::toDegrees(turnedPivot(start, kHalfPi)));
+    const Vec3f pivot =
+        nbEulerUtils::toVec3f(nbEulerUtils::toDegrees(turnedPivot(start, HalfTurn(kHalfPi))));
     EXPECT_NEAR(pivot.z(), -100, 1e-3F);
     start.ringAxis = Vec3f();
-    EXPECT_NEAR(nbEulerUtils::toVec3f(nbEulerUtils::toDegrees(turnedPivot(start, 1))).z(), 170,
-                1e-3F);
+    EXPECT_NEAR(nbEulerUtils::toVec3f(nbEulerUtils::toDegrees(turnedPivot(start, HalfTurn(1)))).z(),
+                170, 1e-3F);
 }
 
 }  // namespace nbec::manipulator::transform::test
