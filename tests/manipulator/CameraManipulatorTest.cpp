@@ -6,15 +6,8 @@
 #include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGExt/Transform3D.h>
 #include <nbOpenSGUberCamera/UberCamera.h>
-#include <nbOpenSGUtils/nbNodeUtils.h>
-
-#include <OpenSG/OSGGeometry.h>
-#include <OpenSG/OSGMaterialGroup.h>
 
 #include <gtest/gtest.h>
-
-#include <cmath>
-#include <memory>
 
 namespace nbec::manipulator::test {
 

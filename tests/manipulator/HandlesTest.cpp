@@ -11,7 +11,6 @@
 #include <OpenSG/OSGSimpleMaterial.h>
 
 #include <algorithm>
-#include <memory>
 
 namespace nbec::manipulator::test {
 

@@ -3,8 +3,6 @@
 #include "tests/manipulator/support/TextureScene.h"
 #include "tests/platform/support/Edited.h"
 
-#include <nbKernel/nbController.h>
-
 #include <OpenSG/OSGImage.h>
 
 namespace nbec::manipulator::test {

@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-
 namespace nbec::manipulator::transform::test {
 
 namespace {
@@ -110,8 +108,8 @@ TEST(TransformDrag, TargetsGoFromTheirStart)
     start.quaternion = nbEulerUtils::QuatFromEul(start.anglesRad);
     nbEulerAngles angles = start.anglesRad;
     for (int quarter = 1; quarter <= 9; ++quarter) {
-        const HalfTurn turn(static_cast<double>(kHalfPi) * quarter);
-        angles = turnedAngles(start, turn, angles);
+        const double turn = static_cast<double>(kHalfPi) * quarter;
+        angles = turnedAngles(start, HalfTurn(turn), angles);
         EXPECT_NEAR(nbEulerUtils::toVec3f(nbEulerUtils::toDegrees(angles)).z(),
                     170.0F + 90.0F * static_cast<float>(quarter), 1e-3F);
     }

@@ -6,7 +6,6 @@
 
 #include <nbNotification/NotificationManager.h>
 #include <nbOpenSGUtils/nbNodePermission.h>
-#include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <OpenSG/OSGGroup.h>
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Where the gizmo stands, and what belongs to its handles.
 #include "tests/manipulator/support/HandleScene.h"
-#include "tests/platform/support/Edited.h"
 
 namespace nbec::manipulator::test {
 

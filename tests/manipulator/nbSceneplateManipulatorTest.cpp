@@ -8,9 +8,6 @@
 #include <nbKernel/nbController.h>
 #include <nbKernel/nbScenegraph.h>
 #include <nbNotification/NotificationManager.h>
-#include <nbOpenSGUtils/nbNodeUtils.h>
-
-#include <OpenSG/OSGChangeCount.h>
 
 #include <QtGui/QVector2D>
 
@@ -18,7 +15,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <memory>
 
 namespace nbec::manipulator::test {
 namespace {
