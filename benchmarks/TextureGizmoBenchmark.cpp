@@ -2,8 +2,8 @@
 // The gizmos of triplanar, UV and tire projections: making one, its memory, hovering on a handle,
 // updates, and steps of a drag, nothing drawn: to a receiver that does nothing, and through the
 // embedded editor into the material and back into the gizmo.
-#include "benchmarks/TextureStage.h"
 #include "benchmarks/AnchoredTraits.h"
+#include "benchmarks/TextureStage.h"
 
 namespace {
 
