@@ -573,6 +573,7 @@ TYPED_TEST(Shared, TheSharedInstanceTakesANewSizeAtOnce)
         }
     }
     std::unique_ptr<TypeParam> shared(TypeParam::getInstance());
+    EXPECT_EQ(shared->getVisualisation()->getNChildren(), kIsPlanar ? 1U : 2U) << "depth pass";
     equip(*shared, this->stage);
     shared->updateManipulator();
     const auto sizeOf = [this](TypeParam& of) {

@@ -59,6 +59,11 @@ protected:
         const osg::NodePtr marks = drags.gizmo.getVisualisation()->getChild(0)->getChild(0);
         const auto geometry = osg::GeometryPtr::dcast(marks->getCore());
         const osg::GeoPositionsPtr points = geometry->getPositions();
+        osg::UInt32 drawn = 0;
+        for (osg::UInt32 i = 0; i < geometry->getLengths()->getSize(); ++i) {
+            drawn += geometry->getLengths()->getValue(i);
+        }
+        EXPECT_EQ(drawn, 12U) << "two marks of three lines";
         Vec3f sum;
         for (osg::UInt32 i = 0; i < 6; ++i) {
             sum += points->getValue(6 * index + i).subZero();

@@ -210,6 +210,10 @@ TEST(nbPlanarProjectionVisualization, ShowsAnImageWithAlphaAndNoneWithout)
 
     visualization.setTexture(clear.get(), false, false);
     EXPECT_EQ(clear.get(), shownImage(visualization));
+    for (const osg::SimpleMaterialPtr& material : planeMaterials(visualization.getRootNode())) {
+        EXPECT_NE(osg::NullFC, chunkOf<osg::BlendChunk>(material));
+        EXPECT_FALSE(chunkOf<osg::DepthChunk>(material)->getEnable());
+    }
     visualization.setTexture(opaque.get(), false, false);
     EXPECT_EQ(osg::NullFC, shownImage(visualization));
     visualization.setTexture(clear.get(), false, true);

@@ -137,6 +137,10 @@ TEST_F(TexturePlacementPickToolTest, HintsOfOthersAreRefusedAndZoomIsTakenForNot
 
 TEST_F(TexturePlacementPickToolTest, WithoutAPickerNothingStarts)
 {
+    EXPECT_TRUE(tool.isActive());
+    manager.removeContext(&context);
+    EXPECT_FALSE(tool.isActive());
+    manager.addContext(&context);
     context.setPicker(nullptr);
 
     EXPECT_FALSE(tool.startTool(&context, "select"));
