@@ -146,6 +146,17 @@ TEST(Drags, UniformFactorGrowsUpTheScreenWhereZIsUp)
     expectNear(drags.core()->getScale(), Vec3f(1.2F, 1.2F, 1.2F), "scale", 2e-3F);
 }
 
+TEST(Drags, RingsTurnWithThePointerBelowAMirroredParent)
+{
+    DragScene drags;
+    drags.edit(drags.parentCore(),
+               [](const osg::Transform3DPtr& parent) { parent->setScale(Vec3f(-1, 1, 1)); });
+    drags.activate(Mode::Rotate);
+    ASSERT_TRUE(drags.grab(kRing));
+    EXPECT_TRUE(drags.dragBy(Vec2f(-51, -22)));
+    EXPECT_NEAR(drags.core()->getRotation().z(), -45, 0.01F) << "45 in the world";
+}
+
 // == Pivots
 
 TEST(PivotDrags, MoveThePivotAndLeaveTheObject)

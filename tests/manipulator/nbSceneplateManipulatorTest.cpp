@@ -291,6 +291,19 @@ TEST_F(SceneplateManipulatorTest, OfSeveralPlatesTheRestGoesOn)
     isHandleAt("grid", 500, 300);
 }
 
+TEST_F(SceneplateManipulatorTest, OutOfUseItShowsAndFindsNothing)
+{
+    select({ 400, 300, 200, 100 });
+    scene.manipulator.deactivate(&scene.context);
+    scene.manipulator.update(true);
+    EXPECT_FALSE(scene.isHandleShown("grid"));
+    EXPECT_FALSE(scene.send("hover", osg::Pnt2f(400, 300)));
+    select({ 400, 300, 100, 100 });
+    EXPECT_FALSE(scene.isHandleShown("grid"));
+    scene.manipulator.activate(&scene.context);
+    EXPECT_TRUE(scene.isHandleShown("grid"));
+}
+
 TEST_F(SceneplateManipulatorTest, AReceiverMayTakeItOutOfUse)
 {
     select({ 400, 300, 200, 100 });
