@@ -19,19 +19,6 @@ constexpr float kLeastAxisRatio = 0.01F;
 constexpr float kLeastUniformFactor = 0.1F;
 constexpr float kUniformSpeed = 0.1F;
 
-/// Quaternion of a turn about an axis of any length; the identity about one that is not longer than
-/// 1e-6.
-nbQuaterniond turnAbout(const osg::Vec3f& axis, const HalfTurn& turn)
-{
-    nbQuaterniond rotation;
-    const double length = osg::Vec3d(axis.x(), axis.y(), axis.z()).length();
-    if (length > static_cast<double>(kShortest)) {
-        const double sine = turn.sine / length;
-        rotation.setValueAsQuat(axis.x() * sine, axis.y() * sine, axis.z() * sine, turn.cosine);
-    }
-    return rotation;
-}
-
 osg::Vec3f unitVector(osg::Vec3f vector)
 {
     vector.normalize();
@@ -186,11 +173,11 @@ TransformStart captureStart(const osg::NodePtr& node, const GrabbedGizmo& grabbe
     start.pivotWorld = pivot(node, true);
     start.rotation = transform->getRotationAsQuaternion();
     if (isRing(grabbed.handle)) {
-        start.ringAxis = ringAxisAbove(node, grabbed);
-        start.anglesRad = nbEulerUtils::fromDegrees(
-            transform->getRotation(),
-            nbEulerUtils::getOrderFromString(transform->getEulerRotationOrder()));
-        start.quaternion = nbEulerUtils::QuatFromEul(start.anglesRad);
+        captureRotation(start,
+                        nbEulerUtils::fromDegrees(
+                            transform->getRotation(),
+                            nbEulerUtils::getOrderFromString(transform->getEulerRotationOrder())),
+                        ringAxisAbove(node, grabbed));
     }
     return start;
 }
@@ -298,11 +285,29 @@ nbEulerAngles turnedAngles(const TransformStart& start, const HalfTurn& turn,
     return nbEulerUtils::nearest(turnedPivot(start, turn), before);
 }
 
+void captureRotation(TransformStart& start, const nbEulerAngles& anglesRad,
+                     const osg::Vec3f& ringAxis)
+{
+    osg::Vec3d axis(ringAxis.x(), ringAxis.y(), ringAxis.z());
+    axis.normalize();
+    nbQuaterniond halfTurn;
+    halfTurn.setValueAsQuat(axis.x(), axis.y(), axis.z(), 0.0);
+    start.anglesRad = anglesRad;
+    start.quaternion = nbEulerUtils::QuatFromEul(anglesRad);
+    start.halfTurned = nbRotationMath::product(halfTurn, start.quaternion);
+}
+
+/// (cos + sin * axis) * quaternion, multiplied out.
 nbEulerAngles turnedPivot(const TransformStart& start, const HalfTurn& turn)
 {
-    return nbEulerUtils::EulFromQuat(
-        nbRotationMath::product(turnAbout(start.ringAxis, turn), start.quaternion),
-        start.anglesRad.order);
+    const nbQuaterniond& from = start.quaternion;
+    const nbQuaterniond& over = start.halfTurned;
+    nbQuaterniond turned;
+    turned.setValueAsQuat(turn.cosine * from.x() + turn.sine * over.x(),
+                          turn.cosine * from.y() + turn.sine * over.y(),
+                          turn.cosine * from.z() + turn.sine * over.z(),
+                          turn.cosine * from.w() + turn.sine * over.w());
+    return nbEulerUtils::EulFromQuat(turned, start.anglesRad.order);
 }
 
 osg::Vec3f scaledBy(const TransformStart& start, ActiveMode handle, float factor, double step)

@@ -31,8 +31,7 @@ struct TransformStart
     osg::Quaternion rotation;  ///< without the rotation orientation
     nbEulerAngles anglesRad;  ///< of the same, in the node's order
     nbQuaterniond quaternion;  ///< of these angles
-    osg::Vec3f ringAxis;  ///< axis of the grabbed ring in the frame of the parent, unit length;
-                          ///< reversed under a mirrored parent, which turns the sense of rotation
+    nbQuaterniond halfTurned;  ///< the same after a half turn about the grabbed ring's axis
 };
 
 /// The gizmo when a handle was grabbed.
@@ -103,6 +102,11 @@ struct HalfTurn
     double sine;
     double cosine;
 };
+
+/// Captures the rotation that a ring turns. @param ringAxis  in the frame of the parent, unit
+/// length; zero turns nothing
+void captureRotation(TransformStart& start, const nbEulerAngles& anglesRad,
+                     const osg::Vec3f& ringAxis);
 
 /// Angles after a turn about the ring's axis. Of all angles for that rotation they are those
 /// nearest to the ones before, so that values go on smoothly past whole turns.

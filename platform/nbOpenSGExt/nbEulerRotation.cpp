@@ -56,7 +56,7 @@ std::array<double, 3> anglesOf(const Rows& r, int order, double gimbalCosine)
     const nbEulerRotation::Order& axes = nbEulerRotation::getOrder(order);
     const auto [i, j, k] = axes.axes;
     const double e = axes.sign;
-    const double cosine = std::hypot(r[i][i], r[j][i]);
+    const double cosine = std::sqrt(r[i][i] * r[i][i] + r[j][i] * r[j][i]);
     const bool locked = cosine < gimbalCosine;
     std::array<double, 3> anglesRad {};
     anglesRad[i] = locked ? std::atan2(-e * r[j][k], r[j][j]) : std::atan2(e * r[k][j], r[k][k]);

@@ -9,8 +9,9 @@
 namespace {
 
 constexpr double kPi = 3.14159265358979323846;
-/// Cosine of the middle angle below which only a sum of first and last angle means something.
-constexpr double kLockedCosine = 1e-9;
+/// How near to a right angle, radians, the middle angle leaves only a sum of first and last angle
+/// with a meaning.
+constexpr double kLockedAngle = 1e-9;
 
 using Angles = std::array<double, 3>;
 
@@ -101,15 +102,19 @@ nbEulerAngles nbEulerUtils::nearest(const nbEulerAngles& angles, const nbEulerAn
     const Angles wanted = valuesOf(reference);
     const Angles given = valuesOf(angles);
     const auto [i, j, k] = order.axes;
-    if (std::fabs(std::cos(given[j])) < kLockedCosine) {
+    if (std::fabs(std::fabs(unwound(given[j], 0.0)) - kPi / 2) < kLockedAngle) {
         return makeAngles(nearestLocked(given, wanted, order), angles.order);
     }
-    // The other three angles of the same rotation.
+    const Angles same = allUnwound(given, wanted);
+    // The other three angles of the same rotation differ by half turns about two axes: they are no
+    // nearer than these if these are within half of that.
+    if (squaredDistance(same, wanted) < kPi * kPi / 2) {
+        return makeAngles(same, angles.order);
+    }
     Angles turned = given;
     turned[i] += kPi;
     turned[j] = kPi - turned[j];
     turned[k] += kPi;
-    const Angles same = allUnwound(given, wanted);
     turned = allUnwound(turned, wanted);
     return makeAngles(squaredDistance(turned, wanted) < squaredDistance(same, wanted) ? turned
                                                                                       : same,

@@ -103,9 +103,7 @@ TEST(TransformDrag, TargetsGoFromTheirStart)
     EXPECT_TRUE(isNear(scaledBy(start, ActiveMode::ScaleUniform, 0.5F, 0), Vec3f(1, 2, 4)));
 
     // Values go on past whole turns; those of a pivot begin again.
-    start.ringAxis = Vec3f(0, 0, 3);
-    start.anglesRad = nbEulerUtils::fromDegrees(Vec3f(0, 0, 170), start.anglesRad.order);
-    start.quaternion = nbEulerUtils::QuatFromEul(start.anglesRad);
+    captureRotation(start, nbEulerUtils::fromDegrees(Vec3f(0, 0, 170), 0), Vec3f(0, 0, 3));
     nbEulerAngles angles = start.anglesRad;
     for (int quarter = 1; quarter <= 9; ++quarter) {
         const double turn = static_cast<double>(kHalfPi) * quarter;
@@ -116,7 +114,7 @@ TEST(TransformDrag, TargetsGoFromTheirStart)
     const Vec3f pivot =
         nbEulerUtils::toVec3f(nbEulerUtils::toDegrees(turnedPivot(start, HalfTurn(kHalfPi))));
     EXPECT_NEAR(pivot.z(), -100, 1e-3F);
-    start.ringAxis = Vec3f();
+    captureRotation(start, start.anglesRad, Vec3f());
     EXPECT_NEAR(nbEulerUtils::toVec3f(nbEulerUtils::toDegrees(turnedPivot(start, HalfTurn(1)))).z(),
                 170, 1e-3F);
 }
