@@ -59,7 +59,9 @@ osg::SHLChunkPtr createProjectionChunk(const osg::Color4f& color)
 
 osg::SimpleMaterialPtr createUnlitMaterial(const osg::Color4f& color, int sortKey)
 {
-    const osg::SimpleMaterialRefPtr material = nbec::manipulator::makeUnlitMaterial(color, sortKey);
+    const osg::SimpleMaterialRefPtr material = nbec::manipulator::makeHandleMaterial(
+        osg::Color3f(color.red(), color.green(), color.blue()), sortKey, nullptr,
+        1.0F - color.alpha());
     if (material != osg::NullFC) {
         osg::addRefCP(material.get());
     }

@@ -2,7 +2,6 @@
 #include "manipulator/handles/HandleGroup.h"
 
 #include "manipulator/handles/HandleMaterials.h"
-#include "manipulator/handles/HandleNodes.h"
 
 #include <nbOpenSGExt/DepthTestChunk.h>
 #include <nbOpenSGUtils/nbEdit.h>
@@ -14,68 +13,53 @@ namespace nbec::manipulator {
 
 namespace {
 
-osg::RefPtr<osg::NodePtr> makePass(const osg::NodePtr& tree, const osg::DepthTestChunkPtr& depth,
-                                   int sortKey)
+/// Puts a tree under a material of which all that matters are depth test and sort key.
+osg::NodePtr makePass(const osg::NodePtr& tree, const osg::DepthTestChunkPtr& depth, int sortKey)
 {
-    const osg::SimpleMaterialRefPtr material = makePassMaterial(depth, sortKey);
+    const osg::SimpleMaterialRefPtr material(osg::SimpleMaterial::create());
     const osg::MaterialGroupPtr core = osg::MaterialGroup::create();
     {
+        const nbEdit materialEdit(material.get(), osg::FieldBits::AllFields);
+        material->setLit(false);
+        material->addChunk(depth);
+        material->setSortKey(sortKey);
         const nbEdit edit(core, osg::MaterialGroup::MaterialFieldMask);
         core->setMaterial(material.get());
     }
-    osg::RefPtr<osg::NodePtr> group(makeNode(core));
-    addChild(group.get(), tree);
-    nbNodeUtils::setName(group.get(), kDepthPassGroupName);
-    nbNodeUtils::setIsAuxiliaryNode(group.get(), true);
+    const osg::NodePtr group = addChild(makeNode(core), tree);
+    // Deliberate: both passes bear the same name.
+    nbNodeUtils::setName(group, "ManipulatorDepthPassMaterialGroup");
+    nbNodeUtils::setIsAuxiliaryNode(group, true);
     return group;
 }
 
 }  // namespace
 
-HandlePasses makeHandlePasses(const osg::NodePtr& tree)
+osg::NodePtr makeHandleRoot(const osg::NodePtr& node)
 {
-    const osg::RefPtr<osg::DepthTestChunkPtr> depth(makeAlwaysDepthChunk());
-    HandlePasses passes;
-    passes.depthPass = makePass(osg::cloneTree(tree), depth.get(), handleSortKey::kDepthPass);
-    passes.handlePass = makePass(tree, depth.get(), handleSortKey::kHandlePass);
-    return passes;
-}
-
-void markHandleRoot(const osg::NodePtr& root)
-{
-    nbNodeUtils::setIsAuxiliaryNode(root, true);
-    nbNodeUtils::setIsSelectableAuxiliaryNode(root, true);
-    nbNodeUtils::setIsManipulatorNode(root, true);
-}
-
-osg::NodePtr makeHandleRoot()
-{
-    const osg::NodePtr root = makeGroupNode();
-    nbNodeUtils::setName(root, kHandleGroupName);
-    markHandleRoot(root);
-    return root;
+    nbNodeUtils::setName(node, "Manipulatorgroup");
+    nbNodeUtils::setIsAuxiliaryNode(node, true);
+    nbNodeUtils::setIsSelectableAuxiliaryNode(node, true);
+    nbNodeUtils::setIsManipulatorNode(node, true);
+    return node;
 }
 
 osg::NodePtr makeHandleRootOver(const osg::NodePtr& tree)
 {
     nbNodeUtils::setIsAuxiliaryNode(tree, true);
     nbNodeUtils::setIsSelectableAuxiliaryNode(tree, true);
-    const osg::RefPtr<osg::DepthTestChunkPtr> depth(makeAlwaysDepthChunk());
-    const osg::RefPtr<osg::NodePtr> copy =
-        makePass(osg::cloneTree(tree), depth.get(), handleSortKey::kEarlyDepthPass);
-    const osg::NodePtr root = makeHandleRoot();
-    addChild(root, tree);
-    addChild(root, copy.get());
-    return root;
+    const osg::NodePtr root = addChild(makeHandleRoot(), tree);
+    return addChild(
+        root,
+        makePass(osg::cloneTree(tree), makeAlwaysDepthChunk(), handleSortKey::kEarlyDepthPass));
 }
 
 osg::NodePtr makeHandleRootOfPasses(const osg::NodePtr& tree)
 {
-    const HandlePasses passes = makeHandlePasses(tree);
+    const osg::DepthTestChunkPtr depth = makeAlwaysDepthChunk();
     const osg::NodePtr root = makeHandleRoot();
-    addChild(root, passes.depthPass.get());
-    addChild(root, passes.handlePass.get());
-    return root;
+    addChild(root, makePass(osg::cloneTree(tree), depth, handleSortKey::kDepthPass));
+    return addChild(root, makePass(tree, depth, handleSortKey::kHandlePass));
 }
 
 }  // namespace nbec::manipulator

@@ -49,7 +49,8 @@ osg::DepthTestChunkPtr makeAlwaysDepthChunk()
     return chunk;
 }
 
-osg::SimpleMaterialRefPtr makeUnlitMaterial(const osg::Color4f& color, int sortKey)
+osg::SimpleMaterialRefPtr makeHandleMaterial(const osg::Color3f& diffuse, int sortKey,
+                                             const LineChunks* chunks, float transparency)
 {
     const osg::SimpleMaterialRefPtr material(osg::SimpleMaterial::create());
     if (material == osg::NullFC) {
@@ -60,45 +61,16 @@ osg::SimpleMaterialRefPtr makeUnlitMaterial(const osg::Color4f& color, int sortK
     material->setEmission(black);
     material->setAmbient(black);
     material->setSpecular(black);
-    material->setDiffuse(osg::Color3f(color.red(), color.green(), color.blue()));
+    material->setDiffuse(diffuse);
     material->setShininess(kShininess);
-    material->setTransparency(1.0F - color.alpha());
+    material->setTransparency(transparency);
     material->setLit(false);
     material->setSortKey(sortKey);
-    return material;
-}
-
-osg::SimpleMaterialRefPtr makeHandleMaterial(const osg::Color3f& diffuse, int sortKey,
-                                             const LineChunks* chunks, float transparency)
-{
-    const osg::SimpleMaterialRefPtr material = makeUnlitMaterial(
-        osg::Color4f(diffuse.red(), diffuse.green(), diffuse.blue(), 1.0F), sortKey);
     if (chunks != nullptr) {
-        const nbEdit edit(material.get(), osg::ChunkMaterial::ChunksFieldMask);
         material->addChunk(chunks->line.get());
         material->addChunk(chunks->blend.get());
         material->addChunk(chunks->depth.get());
     }
-    if (transparency != 0.0F) {
-        const nbEdit edit(material.get(), osg::SimpleMaterial::TransparencyFieldMask);
-        material->setTransparency(transparency);
-    }
-    return material;
-}
-
-osg::SimpleMaterialRefPtr makeHandleMaterial(const HandleMaterialRow& row)
-{
-    return makeHandleMaterial(osg::Color3f(row.red, row.green, row.blue), row.sortKey, nullptr,
-                              row.transparency);
-}
-
-osg::SimpleMaterialRefPtr makePassMaterial(const osg::DepthTestChunkPtr& depth, int sortKey)
-{
-    osg::SimpleMaterialRefPtr material(osg::SimpleMaterial::create());
-    const nbEdit edit(material.get(), osg::FieldBits::AllFields);
-    material->setLit(false);
-    material->addChunk(depth);
-    material->setSortKey(sortKey);
     return material;
 }
 

@@ -46,14 +46,11 @@ osg::BlendChunkPtr makeBlendChunk();
 /// A depth-test chunk with function GL_ALWAYS, count 0.
 osg::DepthTestChunkPtr makeAlwaysDepthChunk();
 
-/// Unlit material: emission, ambient and specular black, shininess 10.
-/// @param color  diffuse; alpha 1 is opaque
-osg::SimpleMaterialRefPtr makeUnlitMaterial(const osg::Color4f& color, int sortKey);
-
-/// Unlit handle material: black but for its diffuse colour, shininess 10.
+/// Unlit material: black but for its diffuse colour, shininess 10.
 /// @param chunks        the line chunks to add, null for a solid material
 /// @param transparency  0 opaque, 1 invisible; a tiny one has the handle drawn among the blended
 ///                      items, in the order of their sort keys, and still looks opaque
+/// @return null if the scene graph makes none
 NB_MANIPULATOR_API osg::SimpleMaterialRefPtr makeHandleMaterial(const osg::Color3f& diffuse,
                                                                 int sortKey,
                                                                 const LineChunks* chunks,
@@ -67,23 +64,17 @@ struct HandleMaterialRow
     int sortKey;
 };
 
-/// The solid handle material of a row.
-NB_MANIPULATOR_API osg::SimpleMaterialRefPtr makeHandleMaterial(const HandleMaterialRow& row);
-
-/// Those of all rows of a table, in their order.
+/// The solid handle materials of all rows of a table, in their order.
 template <class Rows>
 std::vector<osg::SimpleMaterialRefPtr> makeHandleMaterials(const Rows& rows)
 {
     std::vector<osg::SimpleMaterialRefPtr> materials;
     materials.reserve(std::size(rows));
     for (const HandleMaterialRow& row : rows) {
-        materials.push_back(makeHandleMaterial(row));
+        materials.push_back(makeHandleMaterial(osg::Color3f(row.red, row.green, row.blue),
+                                               row.sortKey, nullptr, row.transparency));
     }
     return materials;
 }
-
-/// Unlit material of a handle pass: the depth-test chunk and the sort key are all that matters of
-/// it.
-osg::SimpleMaterialRefPtr makePassMaterial(const osg::DepthTestChunkPtr& depth, int sortKey);
 
 }  // namespace nbec::manipulator

@@ -8,6 +8,9 @@
 #include <OpenSG/OSGGL.h>
 #include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGGroup.h>
+#include <OpenSG/OSGTransform.h>
+
+#include <algorithm>
 
 namespace nbec::manipulator {
 
@@ -88,6 +91,17 @@ void moveNode(const osg::NodePtr& node, const osg::Vec3f& translation)
     }
     const nbEdit edit(core, osg::ComponentTransform::TranslationFieldMask);
     core->setTranslation(translation);
+}
+
+void setMatrix(const osg::NodePtr& node, const osg::Matrix& matrix)
+{
+    constexpr osg::UInt32 kSize = 16;
+    const auto core = osg::TransformPtr::dcast(node->getCore());
+    const float* const known = core->getMatrix().getValues();
+    if (!std::equal(known, known + kSize, matrix.getValues())) {
+        const nbEdit edit(core, osg::Transform::MatrixFieldMask);
+        core->setMatrix(matrix);
+    }
 }
 
 osg::NodePtr addChild(const osg::NodePtr& parent, const osg::NodePtr& child)

@@ -7,6 +7,7 @@
 
 #include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGMaterial.h>
+#include <OpenSG/OSGMatrix.h>
 #include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGQuaternion.h>
 #include <OpenSG/OSGVector.h>
@@ -35,6 +36,9 @@ NB_MANIPULATOR_API void placeTransform(const osg::Transform3DPtr& transform,
 
 /// Sets the translation of a node's ComponentTransform inside an edit, if it is another one.
 void moveNode(const osg::NodePtr& node, const osg::Vec3f& translation);
+
+/// Sets the matrix of a node's Transform inside an edit; one that has it already is not edited.
+NB_MANIPULATOR_API void setMatrix(const osg::NodePtr& node, const osg::Matrix& matrix);
 
 /// Appends a child inside an edit of the parent. @return the parent
 osg::NodePtr addChild(const osg::NodePtr& parent, const osg::NodePtr& child);

@@ -211,29 +211,14 @@ void HandleSet::show(int mode, int held)
     }
 }
 
-void HandleSet::showAll()
+void HandleSet::showAll(bool isVisible)
 {
     for (const Nodes& nodes : handles) {
-        showNode(nodes.top, true);
+        showNode(nodes.top, isVisible);
     }
     for (const osg::NodePtr& group : groups) {
-        showNode(group, true);
+        showNode(group, isVisible);
     }
-}
-
-void HandleSet::hideAll()
-{
-    for (const Nodes& nodes : handles) {
-        showNode(nodes.top, false);
-    }
-    for (const osg::NodePtr& group : groups) {
-        showNode(group, false);
-    }
-}
-
-void HandleSet::showRow(std::size_t row, bool isVisible)
-{
-    showNode(handles[row].top, isVisible);
 }
 
 void HandleSet::setExcluded(int handle, bool isExcluded)
@@ -243,25 +228,6 @@ void HandleSet::setExcluded(int handle, bool isExcluded)
             handles[i].isExcluded = isExcluded;
         }
     }
-}
-
-// == Placement
-
-void HandleSet::setPlace(std::size_t row, const osg::Matrix& place) const
-{
-    setMatrix(handles[row].top, place);
-}
-
-void setMatrix(const osg::NodePtr& node, const osg::Matrix& matrix)
-{
-    constexpr std::size_t kSize = 16;
-    const auto core = osg::TransformPtr::dcast(node->getCore());
-    const float* const known = core->getMatrix().getValues();
-    if (std::equal(known, known + kSize, matrix.getValues())) {
-        return;
-    }
-    const nbEdit edit(core, osg::Transform::MatrixFieldMask);
-    core->setMatrix(matrix);
 }
 
 }  // namespace nbec::manipulator

@@ -6,7 +6,6 @@
 
 #include <nbOpenSGExt/Transform3D.h>
 
-#include <OpenSG/OSGMatrix.h>
 #include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGRefPtr.h>
 #include <OpenSG/OSGSimpleMaterial.h>
@@ -69,17 +68,10 @@ public:
     /// Shows what a mode shows. @param held  of that only what the drag of this handle leaves; 0
     /// for no drag
     void show(int mode, int held);
-    void showAll();
-    void hideAll();
-    void showRow(std::size_t row, bool isVisible);
+    void showAll(bool isVisible);
 
     /// Keeps a handle out of every mode, or lets it in again; seen with the next show().
     void setExcluded(int handle, bool isExcluded);
-
-    // == Placement
-
-    /// Sets the matrix of a handle whose top is a HandleHolder::Matrix, unless it is the same.
-    void setPlace(std::size_t row, const osg::Matrix& place) const;
 
 private:
     struct Nodes
@@ -100,8 +92,5 @@ private:
     std::vector<Nodes> handles;
     int lit = 0;
 };
-
-/// Sets a transform's matrix inside an edit; one that has it already, bit for bit, is not edited.
-NB_MANIPULATOR_API void setMatrix(const osg::NodePtr& node, const osg::Matrix& matrix);
 
 }  // namespace nbec::manipulator

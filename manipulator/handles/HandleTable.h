@@ -35,7 +35,7 @@ enum class HandleHolder
     None,
     Component,  ///< ComponentTransform core
     Euler,  ///< Transform3D core, turned by angles
-    Matrix  ///< Transform core, placed by HandleSet::setPlace()
+    Matrix  ///< Transform core, placed by setMatrix()
 };
 
 /// Colours of a part, by the places of materials in the set's list.

@@ -128,7 +128,7 @@ void PlateGizmo::put(std::size_t row, const osg::Pnt2f& centrePx, float rotation
     place[0] = osg::Vec4f(cosine * size.x(), -sine * size.x(), 0.0F, 0.0F);
     place[1] = osg::Vec4f(-sine * size.y(), -cosine * size.y(), 0.0F, 0.0F);
     place[3] = osg::Vec4f(centrePx.x(), centrePx.y(), layer, 1.0F);
-    handles.setPlace(row, place);
+    setMatrix(handles.getNode(row), place);
 }
 
 void PlateGizmo::placeHandles(const PlateHandles& layout, float unit) const
@@ -147,8 +147,8 @@ void PlateGizmo::placeGuides(const PlateView& view)
     const auto width = static_cast<float>(view.widthPx);
     const auto height = static_cast<float>(view.heightPx);
     const PlateGuides snapped = isGrabbed() ? drag.guides : PlateGuides();
-    handles.showRow(VerticalRow, snapped.hasVertical);
-    handles.showRow(HorizontalRow, snapped.hasHorizontal);
+    showNode(handles.getNode(VerticalRow), snapped.hasVertical);
+    showNode(handles.getNode(HorizontalRow), snapped.hasHorizontal);
     if (snapped.hasVertical) {
         const float x = std::clamp(snapped.x, kGuideInset, std::max(width - kGuideInset, 1.0F));
         put(VerticalRow, osg::Pnt2f(x, height / 2), 0.0F, osg::Vec2f(1.0F, height / kShaftLength),

@@ -23,11 +23,6 @@ osg::NodePtr editedNode(const osg::NodePtr& node)
         : node;
 }
 
-osg::Matrix targetToWorld(const osg::NodePtr& node)
-{
-    return editedNode(node)->getToWorld();
-}
-
 osg::Matrix parentToWorld(const osg::NodePtr& node)
 {
     const osg::NodePtr parent = node->getParent();
@@ -37,17 +32,16 @@ osg::Matrix parentToWorld(const osg::NodePtr& node)
 osg::Pnt3f pivotWorld(const osg::NodePtr& node, const osg::Transform3DPtr& transform,
                       bool scalePivot)
 {
-    osg::Pnt3f world(transform->getTranslation() + transform->getRotatePivot());
+    osg::Pnt3f place(transform->getTranslation() + transform->getRotatePivot());
     if (scalePivot) {
         const nbRotationMath::Rows& turn = transform->getWholeRotation();
         const osg::Vec3f arm = transform->getScalePivot() - transform->getRotatePivot();
         for (osg::UInt32 i = 0; i < 3; ++i) {
-            world[i] += static_cast<float>(turn[i][0] * arm.x() + turn[i][1] * arm.y() +
+            place[i] += static_cast<float>(turn[i][0] * arm.x() + turn[i][1] * arm.y() +
                                            turn[i][2] * arm.z());
         }
     }
-    parentToWorld(node).multMatrixPnt(world);
-    return world;
+    return mapped(parentToWorld(node), place);
 }
 
 osg::Quaternion worldRotation(const osg::NodePtr& node)
@@ -68,19 +62,12 @@ osg::Pnt3f objectCenter(const osg::NodePtr& node, bool worldSpace)
 {
     const osg::Matrix worldFromNode = node->getToWorld();
     const osg::DynamicVolume& volume = node->getVolume(true);
-    osg::Pnt3f center;
+    osg::Pnt3f center = mapped(worldFromNode, osg::Pnt3f());
     if (volume.isValid() && !volume.isEmpty()) {
         volume.getCenter(center);
-        parentToWorld(node).multMatrixPnt(center);
-    } else {
-        worldFromNode.multMatrixPnt(center);
+        center = mapped(parentToWorld(node), center);
     }
-    if (!worldSpace) {
-        osg::Matrix nodeFromWorld;
-        worldFromNode.inverse(nodeFromWorld);
-        nodeFromWorld.multMatrixPnt(center);
-    }
-    return center;
+    return worldSpace ? center : mapped(inverted(worldFromNode), center);
 }
 
 osg::NodePtr makeTransform(const osg::NodePtr& node)

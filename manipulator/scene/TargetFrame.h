@@ -13,10 +13,6 @@ namespace nbec::manipulator {
 /// the node itself.
 osg::NodePtr editedNode(const osg::NodePtr& node);
 
-/// Matrix whose change means that a manipulated node has moved: the to-world matrix of the edited
-/// node, own core included.
-osg::Matrix targetToWorld(const osg::NodePtr& node);
-
 /// World from the frame of a node's parent; the identity for a node without a parent.
 osg::Matrix parentToWorld(const osg::NodePtr& node);
 

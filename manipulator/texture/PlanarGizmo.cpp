@@ -358,13 +358,13 @@ void PlanarGizmo::showZScaleValue(bool on)
 
 void PlanarGizmo::showAllElements()
 {
-    handles.showAll();
+    handles.showAll(true);
     handles.showRoot(true);
 }
 
 void PlanarGizmo::hideAllElements()
 {
-    handles.hideAll();
+    handles.showAll(false);
     handles.showRoot(false);
 }
 

@@ -50,9 +50,8 @@ osg::RefPtr<osg::StateChunkPtr> makeWideLineChunk()
 HandleSet::Materials makeTextureMaterials(std::initializer_list<HandleMaterialRow> others)
 {
     HandleSet::Materials materials = makeHandleMaterials(kMaterials);
-    for (const HandleMaterialRow& row : others) {
-        materials.push_back(makeHandleMaterial(row));
-    }
+    const HandleSet::Materials own = makeHandleMaterials(others);
+    materials.insert(materials.end(), own.begin(), own.end());
     return materials;
 }
 

@@ -97,9 +97,7 @@ HandleSet::Materials makeMaterials()
 UVGizmo::UVGizmo(const float& size)
     : AnchoredGizmo(handleTable(), makeMaterials(), number(Mode::Universal), size)
 {
-    root = makeTransform3DNode(osg::Vec3f());
-    nbNodeUtils::setName(root.get(), kHandleGroupName);
-    markHandleRoot(root.get());
+    root = makeHandleRoot(makeTransform3DNode(osg::Vec3f()));
     addChild(root.get(), handles.getRoot());
 }
 

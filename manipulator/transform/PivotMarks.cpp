@@ -13,6 +13,9 @@ namespace nbec::manipulator::transform {
 
 namespace {
 
+/// Ends of the three lines of a cross.
+constexpr std::size_t kPoints = 6;
+
 /// Exactly the same; the operators of points allow for a tolerance, which small scenes feel.
 bool isSame(const PivotMarks::Places& left, const PivotMarks::Places& right)
 {
@@ -30,25 +33,12 @@ bool isSame(const PivotMarks::Places& left, const PivotMarks::Places& right)
 void PivotMarks::make(const osg::NodePtr& parent, std::size_t count,
                       const osg::MaterialPtr& material)
 {
-    const osg::GeoPTypesPtr types = osg::GeoPTypesUI8::create();
-    const osg::GeoPLengthsPtr lengths = osg::GeoPLengthsUI32::create();
-    const osg::GeoPositionsPtr positions = osg::GeoPositions3f::create();
-    types->push_back(GL_LINES);
-    lengths->push_back(static_cast<osg::UInt32>(count * kPoints));
-    positions->resize(count * kPoints);
-    const osg::GeometryPtr crosses = osg::Geometry::create();
-    {
-        const nbEdit edit(crosses, osg::FieldBits::AllFields);
-        crosses->setTypes(types);
-        crosses->setLengths(lengths);
-        crosses->setPositions(positions);
-        crosses->setMaterial(material);
-    }
     const nbEdit edit(parent, osg::Node::ChildrenFieldMask);
     if (node != osg::NullFC) {
         parent->subChild(node.get());
     }
-    node = makeNode(crosses);
+    node = makeNode(makeLineGeometry(std::vector<osg::Pnt3f>(count * kPoints)));
+    setGeometryMaterial(node.get(), material);
     parent->addChild(node.get());
     drawn.assign(count, std::nullopt);
     drawnReach = 0.0F;

@@ -31,8 +31,6 @@ public:
     void draw(const Places& places, float reach);
 
 private:
-    static constexpr std::size_t kPoints = 6;
-
     osg::RefPtr<osg::NodePtr> node;
     Places drawn;
     float drawnReach = 0.0F;

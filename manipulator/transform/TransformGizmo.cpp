@@ -6,15 +6,17 @@
 #include "manipulator/handles/ContainerReference.h"
 #include "manipulator/handles/HandleGroup.h"
 #include "manipulator/handles/HandleNodes.h"
-#include "manipulator/scene/MessageSending.h"
 #include "manipulator/scene/TargetFrame.h"
 #include "manipulator/transform/TransformHandles.h"
 
+#include <nbKernel/nbController.h>
 #include <nbOpenSGExt/Transform3D.h>
+#include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodePermission.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 #include <nbTransform/nbTransformModel.h>
 #include <nbUtils/nbLog.h>
+#include <nbUtils/nbMessage.h>
 
 #include <unordered_set>
 
@@ -93,12 +95,10 @@ TransformGizmo::TransformGizmo(const TransformSettings& shared, const float& siz
     nbNodeUtils::setIsAuxiliaryNode(multiselection.get(), true);
     const osg::NodePtr additionalGeometry = makeGroupNode();
     nbNodeUtils::setIsAuxiliaryNode(additionalGeometry, true);
-    const HandlePasses passes = makeHandlePasses(handles.getRoot());
-    root = makeHandleRoot();
-    addChild(root.get(), multiselection.get());
-    addChild(root.get(), passes.depthPass.get());
-    addChild(root.get(), additionalGeometry);
-    addChild(root.get(), passes.handlePass.get());
+    root = makeHandleRootOfPasses(handles.getRoot());
+    const nbEdit edit(root.get(), osg::Node::ChildrenFieldMask);
+    root->insertChild(0, multiselection.get());
+    root->insertChild(2, additionalGeometry);
     handles.showRoot(false);
 }
 
@@ -227,7 +227,7 @@ void TransformGizmo::placeMarks(float size)
 /// Deliberate: the camera is not looked at, for which the host places all gizmos.
 bool TransformGizmo::isDisplaced(const View& /*view*/) const
 {
-    return watch.isElsewhere(manipulator::targetToWorld(getNode()));
+    return watch.isElsewhere(editedNode(getNode())->getToWorld());
 }
 
 // == Drags
@@ -365,7 +365,12 @@ void TransformGizmo::apply(const DragParameters& parameters)
 
 void TransformGizmo::announce()
 {
-    sendTransformationChanged();
+    for (const char* const name :
+         { "nbTransform::changedTransformation", "nbTransform::updateTransformation" }) {
+        nbMessage message;
+        nbController::call(name, message, 0);
+    }
+    nbController::setModified(1);
 }
 
 // == On-screen text

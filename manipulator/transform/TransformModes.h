@@ -60,32 +60,19 @@ constexpr osg::UInt32 kNoAxis = 3;
 /// Axis of a handle of one axis, 0, 1 or 2.
 constexpr osg::UInt32 axisOf(ActiveMode handle)
 {
-    const auto number = static_cast<osg::UInt32>(handle);
-    if (isRing(handle)) {
-        return number - static_cast<osg::UInt32>(ActiveMode::RotateX);
-    }
-    if (isTranslation(handle) && handle <= ActiveMode::TranslateZ) {
-        return number - static_cast<osg::UInt32>(ActiveMode::TranslateX);
-    }
-    if (isScale(handle) && handle <= ActiveMode::ScaleZ) {
-        return number - static_cast<osg::UInt32>(ActiveMode::ScaleX);
-    }
-    return kNoAxis;
+    const bool hasAxis = isRing(handle) ||
+        (isTranslation(handle) && handle <= ActiveMode::TranslateZ) ||
+        (isScale(handle) && handle <= ActiveMode::ScaleZ);
+    return hasAxis ? (static_cast<osg::UInt32>(handle) - 1) % 3 : kNoAxis;
 }
 
 /// Axis at right angles to a plane handle: z of xy, y of xz, x of yz.
 constexpr osg::UInt32 planeNormalAxis(ActiveMode handle)
 {
-    switch (handle) {
-    case ActiveMode::TranslateXY:
-        return 2;
-    case ActiveMode::TranslateXZ:
-        return 1;
-    case ActiveMode::TranslateYZ:
-        return 0;
-    default:
-        return kNoAxis;
-    }
+    const bool isPlane = isTranslation(handle) && handle >= ActiveMode::TranslateXY;
+    return isPlane
+        ? static_cast<osg::UInt32>(ActiveMode::TranslateYZ) - static_cast<osg::UInt32>(handle)
+        : kNoAxis;
 }
 
 }  // namespace nbec::manipulator::transform
