@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace nbec::manipulator::transform {
 
@@ -108,20 +109,13 @@ osg::Matrix scaleFrame(const GrabbedGizmo& grabbed, const osg::Pnt3f& start, con
         return grabbed.frame;
     }
     // Up the screen is more, wherever the cube is grabbed: the origin lies one gizmo unit below.
-    osg::Pnt3f from;
-    osg::Pnt3f at;
-    osg::Vec3f cameraUp;
-    view.getFromAtUp(from, at, cameraUp);
-    const osg::Vec3f sight = unitVector(at - from);
-    const osg::Vec3f right = unitVector(sight.cross(cameraUp));
-    const osg::Vec3f up = right.cross(sight);
     osg::Matrix frame;
+    view.facing().getValue(frame);
+    const osg::Vec3f up = column(frame, 1);
     if (view.isZUp()) {
-        frame.setValue(right, sight, up);
-    } else {
-        frame.setValue(right, up, -sight);
+        std::swap(frame[1], frame[2]);
+        frame[1] *= -1.0F;
     }
-    frame[3][3] = 1.0F;
     frame.setTranslate(start - up * grabbed.unit);
     return frame;
 }

@@ -4,6 +4,8 @@
 #include "manipulator/handles/HandleMaterials.h"
 #include "manipulator/transform/TransformModes.h"
 
+#include <utility>
+
 namespace nbec::manipulator::transform {
 
 namespace {
@@ -25,18 +27,8 @@ enum Color : std::size_t
 
 constexpr std::size_t kSolidCount = Grey;
 
-struct ColorRow
-{
-    float red, green, blue;
-};
-
-constexpr std::array<ColorRow, Grey + 1> kColors = { { { 1.0F, 0.0F, 0.0F },
-                                                       { 0.0F, 1.0F, 0.0F },
-                                                       { 0.0F, 0.0F, 1.0F },
-                                                       { 1.0F, 1.0F, 0.0F },
-                                                       { 0.6F, 0.35F, 0.65F },
-                                                       { 1.0F, 0.5F, 0.0F },
-                                                       { 0.1F, 0.1F, 0.1F } } };
+/// The turn that takes +y onto an axis.
+constexpr std::array<Turn, 3> kOntoAxis = { Turn::OntoX, Turn::None, Turn::OntoZ };
 
 constexpr HandleModes kWithTranslation =
     modes(Mode::Universal, Mode::Translate, Mode::RotatePivot, Mode::ScalePivot, Mode::Clipping,
@@ -56,24 +48,6 @@ enum Family : int
     Scaling
 };
 
-/// Which families each mode puts back to idle colours, in the order of the modes' values.
-const std::vector<unsigned>& restoredFamilies()
-{
-    static const std::vector<unsigned> rows = {
-        modes(Translation, Rotation, Scaling),  // universal
-        modes(Translation),  // translate
-        modes(Scaling),  // scale
-        modes(Rotation),  // rotate
-        modes(Translation, Rotation),  // rotate pivot
-        modes(Translation, Rotation),  // scale pivot
-        modes(Translation, Rotation, Scaling),  // clipping
-        modes(Translation, Rotation),  // translate and rotate
-        modes(Translation, Rotation),  // translate and rotate, y and z
-        modes(Translation, Rotation, Scaling)  // translate, rotate and scale
-    };
-    return rows;
-}
-
 HandlePart solid(HandleShape shape, std::size_t color)
 {
     return { shape, { color, Orange, color } };
@@ -84,78 +58,49 @@ HandlePart line(HandleShape shape, std::size_t color)
     return { shape, { kSolidCount + color, kSolidCount + Orange, kSolidCount + color } };
 }
 
+HandleRow row(const char* name, Active handle, Family family, std::vector<HandlePart> parts,
+              HandleModes visibleIn, HandleHolder holder, Turn turn)
+{
+    return {
+        name, static_cast<int>(handle), family, std::move(parts), visibleIn, holder, {}, turn
+    };
+}
+
 HandleRow arrow(const char* name, Active handle, std::size_t axis)
 {
-    constexpr std::array<Turn, 3> kTurns = { Turn::OntoX, Turn::None, Turn::OntoZ };
     HandlePart head = solid(HandleShape::ArrowHead, axis);
     head.holder = HandleHolder::Component;
     head.place = { 0.0F, 1.0F, 0.0F };
-    HandleRow row = { name,
-                      static_cast<int>(handle),
-                      Translation,
-                      { line(HandleShape::ArrowShaft, axis), head },
-                      kWithTranslation };
-    row.place[axis] = 1.0F;
-    row.turn = kTurns[axis];
-    return row;
-}
-
-/// The turn that takes +y onto an axis, by angles.
-void turnOnto(HandleRow& row, std::size_t axis)
-{
-    constexpr std::array<Turn, 3> kTurns = { Turn::OntoX, Turn::None, Turn::OntoZ };
-    row.holder = HandleHolder::Euler;
-    row.turn = kTurns[axis];
+    HandleRow placed = row(name, handle, Translation, { line(HandleShape::ArrowShaft, axis), head },
+                           kWithTranslation, HandleHolder::Component, kOntoAxis[axis]);
+    placed.place[axis] = 1.0F;
+    return placed;
 }
 
 HandleRow scaleHandle(const char* name, Active handle, std::size_t axis)
 {
-    HandleRow row = { name,
-                      static_cast<int>(handle),
-                      Scaling,
-                      { line(HandleShape::ScaleShaft, axis), solid(HandleShape::ScaleCube, axis) },
-                      kWithScale };
-    turnOnto(row, axis);
-    return row;
-}
-
-HandleRow uniformScale()
-{
-    HandleRow row = { "grid",
-                      static_cast<int>(Active::ScaleUniform),
-                      Scaling,
-                      { solid(HandleShape::Cube, Yellow) },
-                      kWithUniformScale };
-    row.holder = HandleHolder::Euler;
-    return row;
+    return row(name, handle, Scaling,
+               { line(HandleShape::ScaleShaft, axis), solid(HandleShape::ScaleCube, axis) },
+               kWithScale, HandleHolder::Euler, kOntoAxis[axis]);
 }
 
 HandleRow ring(const char* name, Active handle, std::size_t axis, HandleModes visibleIn)
 {
     HandlePart axisLine = line(HandleShape::RingAxis, axis);
     axisLine.isOfDrag = true;
-    HandleRow row = { name,
-                      static_cast<int>(handle),
-                      Rotation,
-                      { line(HandleShape::Ring, axis), axisLine },
-                      visibleIn };
-    turnOnto(row, axis);
-    return row;
+    return row(name, handle, Rotation, { line(HandleShape::Ring, axis), axisLine }, visibleIn,
+               HandleHolder::Euler, kOntoAxis[axis]);
 }
 
 /// @param turn  takes the xy plane onto the handle's
 HandleRow planeHandle(const char* name, Active handle, Turn turn,
                       const std::array<std::size_t, 3>& colors)
 {
-    HandleRow row = { name,
-                      static_cast<int>(handle),
-                      Translation,
-                      { solid(HandleShape::PlanePatch, colors[0]),
-                        solid(HandleShape::PlaneBarX, colors[1]),
-                        solid(HandleShape::PlaneBarY, colors[2]) },
-                      kWithTranslation };
-    row.turn = turn;
-    return row;
+    return row(name, handle, Translation,
+               { solid(HandleShape::PlanePatch, colors[0]),
+                 solid(HandleShape::PlaneBarX, colors[1]),
+                 solid(HandleShape::PlaneBarY, colors[2]) },
+               kWithTranslation, HandleHolder::Component, turn);
 }
 
 HandleRow marker(HandleShape shape, std::size_t color, HandleModes visibleIn)
@@ -175,7 +120,8 @@ HandleTable makeTable()
         scaleHandle("xsShape", Active::ScaleX, 0),
         scaleHandle("ysShape", Active::ScaleY, 1),
         scaleHandle("zsShape", Active::ScaleZ, 2),
-        uniformScale(),
+        row("grid", Active::ScaleUniform, Scaling, { solid(HandleShape::Cube, Yellow) },
+            kWithUniformScale, HandleHolder::Euler, Turn::None),
         ring("rxShape", Active::RotateX, 0, kWithRotationX),
         ring("ryShape", Active::RotateY, 1, kWithRotation),
         ring("rzShape", Active::RotateZ, 2, kWithRotation),
@@ -185,7 +131,13 @@ HandleTable makeTable()
         marker(HandleShape::CentreSphere, Yellow, modes(Mode::RotatePivot)),
         marker(HandleShape::Cube, Purple, modes(Mode::ScalePivot)),
     };
-    table.restored = restoredFamilies();
+    // In the order of the modes' values.
+    constexpr unsigned kBoth = modes(Translation, Rotation);
+    constexpr unsigned kAll = modes(Translation, Rotation, Scaling);
+    table.restored = {
+        kAll, modes(Translation), modes(Scaling), modes(Rotation), kBoth, kBoth, kAll, kBoth, kBoth,
+        kAll
+    };
     return table;
 }
 
@@ -201,19 +153,20 @@ const HandleTable& handleTable()
 
 HandleSet::Materials makeMaterials()
 {
+    const osg::Color3f colors[] = { { 1.0F, 0.0F, 0.0F },   { 0.0F, 1.0F, 0.0F },
+                                    { 0.0F, 0.0F, 1.0F },   { 1.0F, 1.0F, 0.0F },
+                                    { 0.6F, 0.35F, 0.65F }, { 1.0F, 0.5F, 0.0F },
+                                    { 0.1F, 0.1F, 0.1F } };
     const LineChunks chunks = makeLineChunks();
     HandleSet::Materials materials;
-    const auto colorOf = [](std::size_t i) {
-        return osg::Color3f(kColors[i].red, kColors[i].green, kColors[i].blue);
-    };
     for (std::size_t i = 0; i < kSolidCount; ++i) {
-        materials.push_back(makeHandleMaterial(colorOf(i), handleSortKey::kSolid, nullptr));
+        materials.push_back(makeHandleMaterial(colors[i], handleSortKey::kSolid, nullptr));
     }
-    for (std::size_t i = 0; i < kColors.size(); ++i) {
+    for (std::size_t i = 0; i <= Grey; ++i) {
         // Deliberate: the highlight's line material has the solid ones' sort key, unlike the other
         // line materials.
         const int sortKey = i == Orange ? handleSortKey::kSolid : handleSortKey::kLine;
-        materials.push_back(makeHandleMaterial(colorOf(i), sortKey, &chunks));
+        materials.push_back(makeHandleMaterial(colors[i], sortKey, &chunks));
     }
     return materials;
 }
