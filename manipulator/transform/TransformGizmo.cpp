@@ -365,11 +365,10 @@ void TransformGizmo::apply(const DragParameters& parameters)
 
 void TransformGizmo::announce()
 {
-    for (const char* const name :
-         { "nbTransform::changedTransformation", "nbTransform::updateTransformation" }) {
-        nbMessage message;
-        nbController::call(name, message, 0);
-    }
+    nbMessage changed;
+    nbController::call("nbTransform::changedTransformation", changed, 0);
+    nbMessage updated;
+    nbController::call("nbTransform::updateTransformation", updated, 0);
     nbController::setModified(1);
 }
 
