@@ -32,10 +32,9 @@ public:
         gizmo->deactivate();
     }
 
-    /// Top of the handle tree.
+    /// Top of the handle tree, whose named handles can be hit.
     osg::NodePtr getVisualisation() override { return gizmo->getRoot(); }
 
-    /// Top of the handle tree; the named handles below it can be hit.
     osg::NodePtr getCollider() override { return gizmo->getRoot(); }
 
     /// Places the handles if what they depend on has changed; see Gizmo. Nothing while inactive.

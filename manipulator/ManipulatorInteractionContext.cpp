@@ -12,22 +12,6 @@ using interaction::InteractionEvent;
 using interaction::InteractionManager;
 using interaction::MultimodeInteractionContext;
 
-namespace {
-
-constexpr interaction::PreferredPosition kManipulatorPosition =
-    static_cast<interaction::PreferredPosition>(100);
-
-}  // namespace
-
-ManipulatorInteractionContext::ManipulatorInteractionContext()
-    : ManipulatorInteractionContext(kManipulatorPosition)
-{ }
-
-ManipulatorInteractionContext::ManipulatorInteractionContext(
-    interaction::PreferredPosition position)
-    : MultimodeInteractionContext(position)
-{ }
-
 ManipulatorInteractionContext::~ManipulatorInteractionContext()
 {
     leaveManager();
@@ -77,60 +61,39 @@ void ManipulatorInteractionContext::pointerMoved(const osg::Pnt2f& position)
 bool ManipulatorInteractionContext::triggerEvent(InteractionManager* manager,
                                                  const InteractionEvent& event)
 {
+    const std::string& tool = event.getTool();
+    const std::string& name = event.getEvent();
+    // The manipulator receives a copy: what it does in return may end the event.
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
+    const std::string hint = event.getHint();
     if (manipulator == nullptr) {
         return MultimodeInteractionContext::triggerEvent(manager, event);
     }
-    const std::string& tool = event.getTool();
-    const std::string& name = event.getEvent();
-    if (isRoutedEvent(event)) {
-        return dispatchToManipulator(manager, event);
-    }
-    // The manipulator receives copies: what it does in return may end the event.
-    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
-    const std::string hint = event.getHint();
-    if (tool == toolName && hint == "selectThrough") {
+    if (tool == toolName && (hint == "select" || hint == "toggle")) {
         if (name == "start") {
-            manipulator->reset(this, hint);
+            return manipulator->startManipulator(this, hint);
         }
-    } else if (tool == "mode" && hint == "tool") {
-        if (name == "start") {
-            manipulator->hover(this, hint);
-        } else if (name == "stop") {
-            manipulator->reset(this, hint);
+        if (name == "stop") {
+            return manipulator->stopManipulator(this, hint);
         }
+        if (name == "process") {
+            return manipulator->processManipulator(this, hint);
+        }
+        if (name == "hover") {
+            return manipulator->hover(this, hint);
+        }
+        if (name != "stopHover") {
+            return false;
+        }
+        manipulator->reset(this, hint);
+    } else if (tool == toolName && hint == "selectThrough" && name == "start") {
+        manipulator->reset(this, hint);
+    } else if (tool == "mode" && hint == "tool" && name == "start") {
+        manipulator->hover(this, hint);
+    } else if (tool == "mode" && hint == "tool" && name == "stop") {
+        manipulator->reset(this, hint);
     }
     return MultimodeInteractionContext::triggerEvent(manager, event);
-}
-
-bool ManipulatorInteractionContext::isRoutedEvent(const InteractionEvent& event) const
-{
-    return event.getTool() == toolName &&
-        (event.getHint() == "select" || event.getHint() == "toggle");
-}
-
-bool ManipulatorInteractionContext::dispatchToManipulator(InteractionManager* manager,
-                                                          const InteractionEvent& event)
-{
-    const std::string& name = event.getEvent();
-    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): as in triggerEvent()
-    const std::string hint = event.getHint();
-    if (name == "start") {
-        return manipulator->startManipulator(this, hint);
-    }
-    if (name == "stop") {
-        return manipulator->stopManipulator(this, hint);
-    }
-    if (name == "process") {
-        return manipulator->processManipulator(this, hint);
-    }
-    if (name == "hover") {
-        return manipulator->hover(this, hint);
-    }
-    if (name == "stopHover") {
-        manipulator->reset(this, hint);
-        return MultimodeInteractionContext::triggerEvent(manager, event);
-    }
-    return false;
 }
 
 bool ManipulatorInteractionContext::selectMode(const std::string& mode)
@@ -141,9 +104,7 @@ bool ManipulatorInteractionContext::selectMode(const std::string& mode)
 void ManipulatorInteractionContext::setManipulator(Manipulator* current)
 {
     manipulator = current;
-    if (manipulator != nullptr && picker != nullptr) {
-        picker->setPickNode(manipulator->getCollider());
-    }
+    handOverCollider();
 }
 
 void ManipulatorInteractionContext::setPicker(interaction::Picker* current)
@@ -152,6 +113,11 @@ void ManipulatorInteractionContext::setPicker(interaction::Picker* current)
         picker->setPickNode(osg::NullFC);
     }
     picker = current;
+    handOverCollider();
+}
+
+void ManipulatorInteractionContext::handOverCollider()
+{
     if (picker != nullptr && manipulator != nullptr) {
         picker->setPickNode(manipulator->getCollider());
     }

@@ -37,11 +37,15 @@ class NB_MANIPULATOR_API ManipulatorInteractionContext
     : public interaction::MultimodeInteractionContext
 {
 public:
-    /// A context at the position of manipulators, 100.
-    ManipulatorInteractionContext();
+    /// Position of manipulators among the contexts of a manager.
+    static constexpr auto kManipulatorPosition = static_cast<interaction::PreferredPosition>(100);
 
     /// @param position  where the manager places the context among the others
-    explicit ManipulatorInteractionContext(interaction::PreferredPosition position);
+    explicit ManipulatorInteractionContext(
+        interaction::PreferredPosition position = kManipulatorPosition)
+        : MultimodeInteractionContext(position)
+    { }
+
     ManipulatorInteractionContext(const ManipulatorInteractionContext&) = default;
     ManipulatorInteractionContext& operator=(const ManipulatorInteractionContext&) = default;
 
@@ -76,9 +80,7 @@ public:
     osg::Pnt2f getPointerPosition() const { return pointerPosition; }
 
 private:
-    bool dispatchToManipulator(interaction::InteractionManager* manager,
-                               const interaction::InteractionEvent& event);
-    bool isRoutedEvent(const interaction::InteractionEvent& event) const;
+    void handOverCollider();
 
     Manipulator* manipulator = nullptr;
     interaction::Picker* picker = nullptr;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "manipulator/AbstractManipulator.h"
+#include "manipulator/handles/ContainerReference.h"
 
 namespace nbec::manipulator {
 
@@ -18,10 +19,10 @@ public:
     ~NodeManipulator() override = default;
 
     /// Binds the manipulator to a node. @param node  not owned; null unbinds
-    virtual void setNode(const osg::NodePtr& node);
+    virtual void setNode(const osg::NodePtr& node) { nodeId = containerId(node); }
 
     /// The node bound to; null if there is none or it no longer exists.
-    osg::NodePtr getNode() const;
+    osg::NodePtr getNode() const { return resolveContainer<osg::NodePtr>(nodeId); }
 
 private:
     osg::UInt32 nodeId = 0;

@@ -242,9 +242,6 @@ void PerspectiveMatchManipulator::setLine(PerspectiveMatchLine which, const osg:
 void PerspectiveMatchManipulator::propertyChanged(const nbdObject& object,
                                                   const QByteArray& property)
 {
-    if (object.isNull()) {
-        return;
-    }
     const nbdCameraNode camera(object);
     const bool isRedrawn = camera.isNull()
         ? !nbdPerspectiveMatch(object).isNull()
@@ -263,7 +260,7 @@ void PerspectiveMatchManipulator::updateManipulator()
     }
     visualisation->setCamera(nbUberCameraPool::get(cameraId), viewportOf(View()));
     visualisation->setLines(linesOf(getNbdCameraNode()));
-    updateMagnifierPosition();
+    visualisation->placeMagnifier({ line, handle });
 }
 
 void PerspectiveMatchManipulator::takePixelRatio(ManipulatorInteractionContext* ctx)
@@ -309,28 +306,15 @@ void PerspectiveMatchManipulator::apply(const DragParameters& parameters)
 
 // == Magnifier
 
-bool PerspectiveMatchManipulator::isEndHeld() const
-{
-    return handle == match::kFirstEnd || handle == match::kSecondEnd;
-}
-
 /// Shows the magnifier over a held end, and hides it otherwise.
 void PerspectiveMatchManipulator::updateMagnifier()
 {
-    nbMagnifierRenderer::setVisible(isEndHeld());
-    if (isEndHeld()) {
-        updateMagnifierPosition();
+    const bool isEndHeld = handle == match::kFirstEnd || handle == match::kSecondEnd;
+    nbMagnifierRenderer::setVisible(isEndHeld);
+    if (isEndHeld) {
+        visualisation->placeMagnifier({ line, handle });
         nbMagnifierRenderer::setMagnificationScale(
             getNbdCameraNode().getPerspectiveMatch().getMagnifyFactor());
-    }
-}
-
-void PerspectiveMatchManipulator::updateMagnifierPosition()
-{
-    if (isEndHeld()) {
-        const osg::Line2D held = getLine(line);
-        visualisation->placeMagnifier(handle == match::kFirstEnd ? held.getFirst()
-                                                                 : held.getSecond());
     }
 }
 

@@ -108,9 +108,7 @@ private:
     void apply(const DragParameters& parameters);
     void takePixelRatio(ManipulatorInteractionContext* ctx);
 
-    bool isEndHeld() const;
     void updateMagnifier();
-    void updateMagnifierPosition();
 
     static void updateAllManipulators() { instances.updateAll(); }
 

@@ -106,8 +106,3 @@ void nbSceneplateManipulator::setManipulatorSize(float size)
         instances.setSize(size);
     }
 }
-
-void nbSceneplateManipulator::updateAllManipulators()
-{
-    instances.updateAll();
-}

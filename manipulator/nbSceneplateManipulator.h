@@ -102,7 +102,7 @@ public:
 
     /// Places the handles of every live manipulator, in the order of construction. Also called by
     /// the widgets after a resize.
-    static void updateAllManipulators();
+    static void updateAllManipulators() { instances.updateAll(); }
 
 private:
     friend struct nbec::manipulator::Instances<nbSceneplateManipulator>;

@@ -9,8 +9,6 @@ namespace nbec::manipulator::match {
 
 namespace {
 
-using Kind = VanishingPoint::Kind;
-
 constexpr double kDashPx = 8.0;
 constexpr double kGapPx = 6.0;
 constexpr double kHorizonDashPx = 18.0;
@@ -28,6 +26,12 @@ bool isFinite(const osg::Pnt2f& point)
 osg::Vec2d toDouble(const osg::Pnt2f& point)
 {
     return osg::Vec2d(point.x(), point.y());
+}
+
+/// Of a point that is not at infinity, or of a direction.
+osg::Vec2d inPlane(const osg::Vec3d& vanishing)
+{
+    return osg::Vec2d(vanishing.x(), vanishing.y());
 }
 
 double cross(const osg::Vec2d& a, const osg::Vec2d& b)
@@ -91,7 +95,7 @@ void cutTo(Course& course, double origin, double direction, double size)
 class SegmentWriter
 {
 public:
-    SegmentWriter(const MatchView& matchView, MatchGuides::Segments& target)
+    SegmentWriter(const MatchView& matchView, MatchSegments& target)
         : view(matchView)
         , segments(target)
     { }
@@ -142,47 +146,37 @@ private:
     }
 
     const MatchView& view;
-    MatchGuides::Segments& segments;
+    MatchSegments& segments;
 };
 
 /// Extends a line from the end that is nearer to its vanishing point up to that; both ends, if it
 /// vanishes at infinity.
-void extend(const SegmentWriter& writer, const osg::Line2D& line, const VanishingPoint& vanishing,
+void extend(const SegmentWriter& writer, const osg::Line2D& line, const osg::Vec3d& vanishing,
             double referencePx)
 {
-    const osg::Vec2d first = toDouble(line.getFirst()) * referencePx;
-    const osg::Vec2d second = toDouble(line.getSecond()) * referencePx;
-    osg::Vec2d along = second - first;
-    const double length = along.length();
-    along *= 1.0 / length;
-    const osg::Vec2d back = along * -1.0;
-    if (vanishing.kind == Kind::Direction) {
-        writer.addDashes(Course { first, back, 0.0, kInfinity }, kDashPx);
-        writer.addDashes(Course { second, along, 0.0, kInfinity }, kDashPx);
-        return;
-    }
-    const double place = (vanishing.place * referencePx - first).dot(along);
-    if (place > length) {
-        writer.addDashes(Course { second, along, 0.0, place - length }, kDashPx);
-    } else if (place < 0.0) {
-        writer.addDashes(Course { first, back, 0.0, -place }, kDashPx);
+    const osg::Vec2d ends[] = { toDouble(line.getFirst()) * referencePx,
+                                toDouble(line.getSecond()) * referencePx };
+    osg::Vec2d along = ends[1] - ends[0];
+    along *= 1.0 / along.length();
+    for (const int end : { 0, 1 }) {
+        const osg::Vec2d outwards = end == 0 ? along * -1.0 : along;
+        const double length = vanishing.z() == 0.0
+            ? kInfinity
+            : (inPlane(vanishing) * referencePx - ends[end]).dot(outwards);
+        writer.addDashes(Course { ends[end], outwards, 0.0, length }, kDashPx);
     }
 }
 
-void addHorizon(const SegmentWriter& writer, const VanishingPoint& one, const VanishingPoint& other,
+void addHorizon(const SegmentWriter& writer, const osg::Vec3d& one, const osg::Vec3d& other,
                 double referencePx)
 {
-    if (one.kind == Kind::None || other.kind == Kind::None ||
-        (one.kind == Kind::Direction && other.kind == Kind::Direction)) {
-        return;
-    }
-    const VanishingPoint& point = one.kind == Kind::Point ? one : other;
-    const VanishingPoint& second = one.kind == Kind::Point ? other : one;
-    osg::Vec2d along = second.kind == Kind::Direction ? second.place : second.place - point.place;
+    const osg::Vec3d& point = one.z() != 0.0 ? one : other;
+    const osg::Vec3d& second = one.z() != 0.0 ? other : one;
+    osg::Vec2d along = inPlane(second) - inPlane(point) * second.z();
     const double length = along.length();
-    if (length > 0.0) {
+    if (point.z() != 0.0 && length > 0.0) {
         along *= 1.0 / length;
-        writer.addDashes(Course { point.place * referencePx, along, -kInfinity, kInfinity },
+        writer.addDashes(Course { inPlane(point) * referencePx, along, -kInfinity, kInfinity },
                          kHorizonDashPx);
     }
 }
@@ -233,7 +227,7 @@ MatchPart partUnderPointer(const MatchLines& lines, const MatchView& view,
     return isHit ? body.hit : MatchPart();
 }
 
-VanishingPoint vanishingPointOf(const osg::Line2D& first, const osg::Line2D& second)
+osg::Vec3d vanishingPointOf(const osg::Line2D& first, const osg::Line2D& second)
 {
     if (!isMatchLineShown(first) || !isMatchLineShown(second)) {
         return {};
@@ -252,13 +246,13 @@ VanishingPoint vanishingPointOf(const osg::Line2D& first, const osg::Line2D& sec
     const double sine = cross(along, otherAlong);
     if (std::fabs(sine) < kParallelSine) {
         const bool isSameLine = std::fabs(cross(along, between)) < kParallelSine;
-        return { isSameLine ? Kind::None : Kind::Direction, along };
+        return isSameLine ? osg::Vec3d() : osg::Vec3d(along.x(), along.y(), 0.0);
     }
     const osg::Vec2d meeting = start + along * (cross(between, otherAlong) / sine);
     if (meeting.length() > kFarthestVanishingPoint) {
-        return { Kind::Direction, along };
+        return { along.x(), along.y(), 0.0 };
     }
-    return { Kind::Point, meeting };
+    return { meeting.x(), meeting.y(), 1.0 };
 }
 
 MatchGuides makeMatchGuides(const MatchLines& lines, const MatchView& view, std::size_t upAxis)
@@ -268,24 +262,24 @@ MatchGuides makeMatchGuides(const MatchLines& lines, const MatchView& view, std:
         return guides;
     }
     const double referencePx = view.referencePx;
-    std::array<VanishingPoint, kMatchAxisCount> vanishing;
+    std::array<osg::Vec3d, kMatchAxisCount> vanishing;
     for (std::size_t axis = 0; axis < kMatchAxisCount; ++axis) {
         const osg::Line2D& first = lines.lines[2 * axis];
         const osg::Line2D& second = lines.lines[2 * axis + 1];
         if (lines.isAxisUsed[axis]) {
             vanishing[axis] = vanishingPointOf(first, second);
         }
-        if (vanishing[axis].kind == Kind::None) {
+        if (vanishing[axis] == osg::Vec3d()) {
             continue;
         }
-        const SegmentWriter writer(view, guides.axes[axis]);
+        const SegmentWriter writer(view, guides[axis]);
         extend(writer, first, vanishing[axis], referencePx);
         extend(writer, second, vanishing[axis], referencePx);
-        if (vanishing[axis].kind == Kind::Point) {
-            writer.addCross(vanishing[axis].place * referencePx);
+        if (vanishing[axis].z() != 0.0) {
+            writer.addCross(inPlane(vanishing[axis]) * referencePx);
         }
     }
-    addHorizon(SegmentWriter(view, guides.horizon), vanishing[0], vanishing[3 - upAxis],
+    addHorizon(SegmentWriter(view, guides[kMatchAxisCount]), vanishing[0], vanishing[3 - upAxis],
                referencePx);
     return guides;
 }

@@ -68,6 +68,11 @@ struct MatchLines
 {
     std::array<osg::Line2D, kMatchLineCount> lines;
     std::array<bool, kMatchAxisCount> isAxisUsed { true, true, true };
+
+    bool operator==(const MatchLines& other) const
+    {
+        return lines == other.lines && isAxisUsed == other.isAxisUsed;
+    }
 };
 
 /// Index of a line in MatchLines. @param line  one of the six
@@ -97,36 +102,20 @@ osg::Matrix clipFromLineUnits(const MatchView& view);
 MatchPart partUnderPointer(const MatchLines& lines, const MatchView& view,
                            const osg::Pnt2f& pointerPx);
 
-/// Where the lines of one axis meet.
-struct VanishingPoint
-{
-    enum class Kind
-    {
-        None,  ///< a line has no length, or both are one
-        Point,
-        Direction  ///< parallel, or meeting beyond kFarthestVanishingPoint
-    };
-
-    Kind kind = Kind::None;
-    osg::Vec2d place;  ///< line coordinates of the point, or the direction, of unit length
-};
-
 /// Distance from the origin, reference sizes, beyond which lines count as parallel.
 constexpr double kFarthestVanishingPoint = 200.0;
 
-VanishingPoint vanishingPointOf(const osg::Line2D& first, const osg::Line2D& second);
+/// Where the lines of one axis meet: the point as (x, y, 1), line coordinates; of parallel lines
+/// (x, y, 0) with their direction, of unit length; zero if a line has no length or both are one.
+osg::Vec3d vanishingPointOf(const osg::Line2D& first, const osg::Line2D& second);
 
-/// What helps to aim during a drag: pairs of ends of dashes, line coordinates with z = 0.
-struct MatchGuides
-{
-    using Segments = std::vector<osg::Pnt3f>;
+/// Pairs of ends, line coordinates with z = 0.
+using MatchSegments = std::vector<osg::Pnt3f>;
 
-    /// Of each axis that counts: both lines extended to where they vanish, with a small cross
-    /// there; parallel ones extended both ways.
-    std::array<Segments, kMatchAxisCount> axes;
-    /// The line through the points where the two horizontal axes vanish.
-    Segments horizon;
-};
+/// What helps to aim during a drag. Of each axis that counts: both lines extended to where they
+/// vanish, with a small cross there; parallel ones extended both ways. Then the horizon: the line
+/// through the points where the two horizontal axes vanish.
+using MatchGuides = std::array<MatchSegments, kMatchAxisCount + 1>;
 
 /// Guides, cut at the edges of the view, so that they are few however far the lines reach.
 /// @param upAxis  the vertical axis of the world, 1 for y or 2 for z

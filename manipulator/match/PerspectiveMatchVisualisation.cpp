@@ -46,10 +46,10 @@ constexpr PenRow kPens[] = { { 1.0F, 0.2F, 0.2F, kLineWidthPx, handleSortKey::kS
 constexpr std::size_t kHighlightPen = kMatchAxisCount;
 
 /// A circle of radius 1 around the origin in the xy plane, as pairs of ends.
-MatchGuides::Segments unitCircle()
+MatchSegments unitCircle()
 {
     constexpr double kFullTurn = 6.28318530717958647692;
-    MatchGuides::Segments segments;
+    MatchSegments segments;
     for (std::size_t i = 0; i < 2 * kRingSegments; ++i) {
         const std::size_t corner = (i + 1) / 2 % kRingSegments;
         const double angle = kFullTurn * static_cast<double>(corner) / kRingSegments;
@@ -59,7 +59,7 @@ MatchGuides::Segments unitCircle()
     return segments;
 }
 
-void setSegments(const osg::NodePtr& node, const MatchGuides::Segments& segments)
+void setSegments(const osg::NodePtr& node, const MatchSegments& segments)
 {
     const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(node->getCore());
     const osg::GeoPositionsPtr positions = geometry->getPositions();
@@ -67,12 +67,10 @@ void setSegments(const osg::NodePtr& node, const MatchGuides::Segments& segments
     const nbEdit edit(geometry,
                       osg::Geometry::PositionsFieldMask | osg::Geometry::LengthsFieldMask);
     const nbEdit positionsEdit(positions, osg::FieldBits::AllFields);
+    const nbEdit lengthsEdit(lengths, osg::FieldBits::AllFields);
     const auto count = static_cast<osg::UInt32>(segments.size());
-    if (lengths->getValue(0) != count) {
-        const nbEdit lengthsEdit(lengths, osg::FieldBits::AllFields);
-        lengths->setValue(count, 0);
-        positions->resize(count);
-    }
+    lengths->setValue(count, 0);
+    positions->resize(count);
     for (osg::UInt32 i = 0; i < count; ++i) {
         positions->setValue(segments[i], i);
     }
@@ -111,10 +109,7 @@ PerspectiveMatchVisualisation::PerspectiveMatchVisualisation()
     }
     applyPens();
     view.referencePx = kStartReferencePx;
-    for (std::size_t i = 0; i < kMatchLineCount; ++i) {
-        placeLine(i);
-    }
-    updateGuides();
+    redraw();
     show(false);
 }
 
@@ -179,28 +174,27 @@ void PerspectiveMatchVisualisation::setView(const MatchView& newView)
         const nbEdit edit(pen.shader, osg::FieldBits::AllFields);
         pen.shader->setUniformParameter("viewProjectionMatrix", clipFromLine);
     }
-    for (std::size_t i = 0; i < kMatchLineCount; ++i) {
-        placeLine(i);
-    }
-    updateGuides();
+    redraw();
 }
 
 void PerspectiveMatchVisualisation::setLines(const MatchLines& lines)
 {
-    const MatchLines before = std::exchange(match, lines);
+    if (lines == match) {
+        return;
+    }
+    match = lines;
     for (std::size_t axis = 0; axis < kMatchAxisCount; ++axis) {
-        if (match.isAxisUsed[axis] != before.isAxisUsed[axis]) {
-            styleAxis(axis);
-        }
+        styleAxis(axis);
     }
+    redraw();
+}
+
+void PerspectiveMatchVisualisation::redraw()
+{
     for (std::size_t i = 0; i < kMatchLineCount; ++i) {
-        if (match.lines[i] != before.lines[i]) {
-            placeLine(i);
-        }
+        placeLine(i);
     }
-    if (match.isAxisUsed != before.isAxisUsed || match.lines != before.lines) {
-        updateGuides();
-    }
+    updateGuides();
 }
 
 void PerspectiveMatchVisualisation::placeLine(std::size_t index)
@@ -259,11 +253,9 @@ void PerspectiveMatchVisualisation::updateGuides()
     const MatchGuides guides =
         dragged.isSet() ? makeMatchGuides(match, view, upAxis) : MatchGuides();
     for (std::size_t i = 0; i < kPenCount; ++i) {
-        const MatchGuides::Segments& segments =
-            i < kMatchAxisCount ? guides.axes[i] : guides.horizon;
-        showNode(guideNodes[i], !segments.empty());
-        if (!segments.empty()) {
-            setSegments(guideNodes[i], segments);
+        showNode(guideNodes[i], !guides[i].empty());
+        if (!guides[i].empty()) {
+            setSegments(guideNodes[i], guides[i]);
         }
     }
 }
@@ -272,9 +264,8 @@ void PerspectiveMatchVisualisation::updateGuides()
 
 MatchPart PerspectiveMatchVisualisation::pick(const osg::Pnt2f& pointerPx) const
 {
-    constexpr float kPixelCentre = 0.5F;
     return root->getTravMask() != 0
-        ? partUnderPointer(match, view, pointerPx + osg::Vec2f(kPixelCentre, kPixelCentre))
+        ? partUnderPointer(match, view, pointerPx + osg::Vec2f(0.5F, 0.5F))
         : MatchPart();
 }
 
@@ -291,10 +282,15 @@ void PerspectiveMatchVisualisation::setDragged(const MatchPart& part)
     updateGuides();
 }
 
-// == Magnifier and units
+// == Magnifier
 
-void PerspectiveMatchVisualisation::placeMagnifier(const osg::Pnt2f& point) const
+void PerspectiveMatchVisualisation::placeMagnifier(const MatchPart& part) const
 {
+    if (part.part != kFirstEnd && part.part != kSecondEnd) {
+        return;
+    }
+    const osg::Line2D& line = match.lines[matchLineIndex(part.line)];
+    const osg::Pnt2f& point = part.part == kFirstEnd ? line.getFirst() : line.getSecond();
     if (!std::isfinite(point.x()) || !std::isfinite(point.y())) {
         return;
     }
@@ -303,13 +299,6 @@ void PerspectiveMatchVisualisation::placeMagnifier(const osg::Pnt2f& point) cons
         return static_cast<int>(std::clamp(px, -kFarthestPx, kFarthestPx));
     };
     nbMagnifierRenderer::setCursorPosition(pixel(point.x()), view.heightPx - 1 - pixel(point.y()));
-}
-
-osg::Vec2f PerspectiveMatchVisualisation::toLineUnits(const osg::Vec2f& distancePx) const
-{
-    return view.referencePx > 0.0F
-        ? osg::Vec2f(distancePx.x() / view.referencePx, distancePx.y() / view.referencePx)
-        : distancePx;
 }
 
 }  // namespace nbec::manipulator::match

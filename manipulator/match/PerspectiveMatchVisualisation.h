@@ -64,11 +64,16 @@ public:
     /// Shows a part as grabbed, and the guides. @param part  one that is not set ends that
     void setDragged(const MatchPart& part);
 
-    /// Places the magnifier over a point. @param point  line coordinates
-    void placeMagnifier(const osg::Pnt2f& point) const;
+    /// Places the magnifier over an end. @param part  others are ignored
+    void placeMagnifier(const MatchPart& part) const;
 
     /// A distance in device pixels, y up, as line coordinates. Unchanged without a reference size.
-    osg::Vec2f toLineUnits(const osg::Vec2f& distancePx) const;
+    osg::Vec2f toLineUnits(const osg::Vec2f& distancePx) const
+    {
+        return view.referencePx > 0.0F
+            ? osg::Vec2f(distancePx.x() / view.referencePx, distancePx.y() / view.referencePx)
+            : distancePx;
+    }
 
 private:
     struct Pen
@@ -89,6 +94,7 @@ private:
     osg::NodePtr addLines() const;
     void buildLine(LineNodes& nodes, const osg::GeometryPtr& ring) const;
     void setView(const MatchView& newView);
+    void redraw();
     void placeLine(std::size_t index);
     void styleAxis(std::size_t axis);
     void applyPens();

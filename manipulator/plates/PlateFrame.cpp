@@ -25,10 +25,9 @@ constexpr double kCornerPlaces[kPlateCornerCount][2] = {
 };
 
 /// What stays when a frame is scaled at a corner.
-osg::Pnt2f anchorOf(const PlateFrame& frame, PlateCorner corner, bool aboutCentre)
+osg::Pnt2f anchorOf(const PlateFrame& frame, std::size_t corner, bool aboutCentre)
 {
-    const std::size_t opposite = kPlateCornerCount - 1 - static_cast<std::size_t>(corner);
-    return aboutCentre ? frame.centre : cornerOfFrame(frame, static_cast<PlateCorner>(opposite));
+    return aboutCentre ? frame.centre : cornerOfFrame(frame, kPlateCornerCount - 1 - corner);
 }
 
 /// Half sides of the upright box around a frame.
@@ -65,12 +64,8 @@ struct Nearest
 
     void show(PlateGuides& guides) const
     {
-        if (found && axis == 0) {
-            guides.hasVertical = true;
-            guides.x = static_cast<float>(line);
-        } else if (found) {
-            guides.hasHorizontal = true;
-            guides.y = static_cast<float>(line);
+        if (found) {
+            guides[axis] = static_cast<float>(line);
         }
     }
 };
@@ -155,9 +150,9 @@ osg::Pnt2f pointOfFrame(const PlateFrame& frame, double alongX, double alongY)
                       static_cast<float>(frame.centre.y() - sine * x - cosine * y));
 }
 
-osg::Pnt2f cornerOfFrame(const PlateFrame& frame, PlateCorner corner)
+osg::Pnt2f cornerOfFrame(const PlateFrame& frame, std::size_t corner)
 {
-    const auto& [alongX, alongY] = kCornerPlaces[static_cast<std::size_t>(corner)];
+    const auto& [alongX, alongY] = kCornerPlaces[corner];
     return pointOfFrame(frame, alongX, alongY);
 }
 
@@ -177,7 +172,7 @@ PlateHandles layOutHandles(const PlateFrame& frame, PlateArm arm, const PlateVie
     PlateHandles handles;
     handles.frame = grabbableFrame(frame, view);
     for (std::size_t i = 0; i < kPlateCornerCount; ++i) {
-        handles.corners[i] = cornerOfFrame(handles.frame, static_cast<PlateCorner>(i));
+        handles.corners[i] = cornerOfFrame(handles.frame, i);
     }
     const osg::Vec2f half = halfOfBox(handles.frame);
     const float inset = 0.5F * kPlateBoxSize * view.unitPx;
@@ -221,7 +216,7 @@ PlateChange moveFrame(const PlateFrame& start, const osg::Vec2f& distancePx, con
     return change;
 }
 
-double cornerFactor(const PlateFrame& start, PlateCorner corner, bool aboutCentre,
+double cornerFactor(const PlateFrame& start, std::size_t corner, bool aboutCentre,
                     const osg::Vec2f& distancePx)
 {
     const osg::Vec2f diagonal = cornerOfFrame(start, corner) - anchorOf(start, corner, aboutCentre);
@@ -229,7 +224,7 @@ double cornerFactor(const PlateFrame& start, PlateCorner corner, bool aboutCentr
     return square > kShortest * kShortest ? 1.0 + distancePx.dot(diagonal) / square : 1.0;
 }
 
-PlateChange scaleFrame(const PlateFrame& start, PlateCorner corner, bool aboutCentre, double factor,
+PlateChange scaleFrame(const PlateFrame& start, std::size_t corner, bool aboutCentre, double factor,
                        const PlateView& view, PlateGuides* guides)
 {
     const osg::Pnt2f anchor = anchorOf(start, corner, aboutCentre);

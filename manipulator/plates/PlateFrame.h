@@ -7,6 +7,7 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
 
 /// Arithmetic of the scene-plate manipulator in pixels, without widget and nodes. Positions are
 /// device pixels, y from the top; angles are degrees, counter-clockwise on screen.
@@ -14,15 +15,7 @@ namespace nbec::manipulator::plates {
 
 using PlateFrame = nbSceneplateLayout::Frame;
 
-/// Corners of a frame in its own axes; also their order in arrays.
-enum class PlateCorner : std::size_t
-{
-    LowerLeft,
-    UpperLeft,
-    LowerRight,
-    UpperRight
-};
-
+/// Corners of a frame in its own axes: lower left, upper left, lower right, upper right.
 constexpr std::size_t kPlateCornerCount = 4;
 
 /// The view and how large handles are in it.
@@ -74,19 +67,13 @@ struct PlateChange
     }
 };
 
-/// The lines that a drag has snapped to.
-struct PlateGuides
-{
-    bool hasVertical = false;
-    bool hasHorizontal = false;
-    float x = 0.0F;  ///< of the vertical line
-    float y = 0.0F;  ///< of the horizontal line
-};
+/// The lines that a drag has snapped to: a vertical one at a place of x, a horizontal one of y.
+using PlateGuides = std::array<std::optional<float>, 2>;
 
 /// Pixel position of a place of a frame. @param alongX, alongY  in half sides from the centre, y up
 osg::Pnt2f pointOfFrame(const PlateFrame& frame, double alongX, double alongY);
 
-osg::Pnt2f cornerOfFrame(const PlateFrame& frame, PlateCorner corner);
+osg::Pnt2f cornerOfFrame(const PlateFrame& frame, std::size_t corner);
 
 /// The first place of the arm, in the order of PlateArm, at which the whole knob is in the view;
 /// above if there is none.
@@ -108,13 +95,13 @@ PlateChange moveFrame(const PlateFrame& start, const osg::Vec2f& distancePx, con
 /// Factor by which a frame is scaled when a corner follows the pointer along the diagonal:
 /// 1 + distance . diagonal / |diagonal|^2, where the diagonal goes from the opposite corner, which
 /// stays, or from the centre. 1 for a frame without size.
-double cornerFactor(const PlateFrame& start, PlateCorner corner, bool aboutCentre,
+double cornerFactor(const PlateFrame& start, std::size_t corner, bool aboutCentre,
                     const osg::Vec2f& distancePx);
 
 /// Scales a frame by a factor at a corner, see cornerFactor(). With guides the corner snaps to
 /// edges and centre lines of the view where its way along the diagonal meets them. The longer side
 /// never gets less than 4 pixels by it. A frame without size does not change.
-PlateChange scaleFrame(const PlateFrame& start, PlateCorner corner, bool aboutCentre, double factor,
+PlateChange scaleFrame(const PlateFrame& start, std::size_t corner, bool aboutCentre, double factor,
                        const PlateView& view, PlateGuides* guides);
 
 /// Angle by which the way from a centre to a point turns when the point moves.

@@ -6,9 +6,9 @@
 #include "manipulator/handles/ContainerReference.h"
 #include "manipulator/handles/HandleGroup.h"
 #include "manipulator/plates/PlateTable.h"
-#include "manipulator/plates/ScreenPlane.h"
 
 #include <nbKernel/nbController.h>
+#include <nbKernel/nbOSGWidget.h>
 #include <nbOpenSGSceneplate/nbSceneplateList.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 #include <nbUtils/nbMessage.h>
@@ -40,13 +40,57 @@ CourseRules courseRules()
     return rules;
 }
 
-// == Places and plates
+// == The plane of the screen
 
-bool isFinite(const PlateFrame& frame)
+/// Part of the plane's distance by which a layer lies nearer to the eye. Rounding of coordinates is
+/// far less; what lies r pixels off the view's centre is displaced by 1e-5 r pixels.
+constexpr double kScreenLayer = 1e-5;
+/// Part of the depth range that the plane keeps away from its ends.
+constexpr double kDepthMargin = 1e-3;
+
+double planeDistance(const osg::UberCameraPtr& camera)
 {
-    return std::isfinite(frame.centre.x()) && std::isfinite(frame.centre.y()) &&
-        std::isfinite(frame.size.x()) && std::isfinite(frame.size.y()) &&
-        std::isfinite(frame.rotation);
+    const double nearest = camera->getNear();
+    const double farthest = std::max<double>(camera->getFar(), nearest);
+    const double margin = kDepthMargin * (farthest - nearest);
+    return std::clamp<double>(camera->getFrom().dist(camera->getAt()), nearest + margin,
+                              farthest - margin);
+}
+
+/// World from the pixels of a view, for handles that lie flat on the screen: x to the right and y
+/// down in device pixels from the view's top left corner, z in layers towards the eye, which order
+/// what overlaps. The plane stands at right angles to the view axis, as far away as the point that
+/// the camera looks at, or the nearest distance inside of the depth range.
+/// @return 4x4, column vectors, affine; nothing for a view without area
+std::optional<osg::Matrix> worldFromPixels(const View& view)
+{
+    const osg::UberCameraPtr camera =
+        view.exists() ? view.getWidget()->getUberCamera() : osg::UberCameraPtr();
+    if (camera == osg::NullFC || view.getWidth() <= 0 || view.getHeight() <= 0) {
+        return std::nullopt;
+    }
+    const auto width = static_cast<osg::UInt32>(view.getWidth());
+    const auto height = static_cast<osg::UInt32>(view.getHeight());
+    osg::Matrix clipFromView;
+    camera->getProjection(clipFromView, width, height);
+    osg::Matrix viewFromWorld;
+    camera->getViewing(viewFromWorld, width, height);
+    const double distance = planeDistance(camera);
+    // At this distance the view spans -right .. right and -top .. top; clip w is 1 in an
+    // orthographic view.
+    const double w = clipFromView[3][3] - distance * clipFromView[2][3];
+    const double right = w / clipFromView[0][0];
+    const double top = w / clipFromView[1][1];
+    osg::Matrix viewFromPx;
+    viewFromPx[0][0] = static_cast<float>(2.0 * right / width);
+    viewFromPx[1][1] = static_cast<float>(-2.0 * top / height);
+    viewFromPx[2][2] = static_cast<float>(distance * kScreenLayer);
+    viewFromPx.setTranslate(static_cast<float>(-right), static_cast<float>(top),
+                            static_cast<float>(-distance));
+    osg::Matrix worldFromPx;
+    viewFromWorld.inverse(worldFromPx);
+    worldFromPx.mult(viewFromPx);
+    return worldFromPx;
 }
 
 }  // namespace
@@ -106,7 +150,9 @@ void PlateGizmo::place(const View& view)
         ? changedFrame(drag.start, drag.change)
         : nbSceneplateLayout::frame(getPlates(), plane.widthPx, plane.heightPx);
     const std::optional<osg::Matrix> worldFromPx = worldFromPixels(view);
-    const bool isPlaced = worldFromPx && isFinite(frame);
+    const bool isPlaced = worldFromPx &&
+        std::isfinite(frame.centre.x() + frame.centre.y() + frame.size.x() + frame.size.y() +
+                      frame.rotation);
     if (isPlaced) {
         // While it is held the arm does not change its side.
         const PlateArm side = isGrabbed() ? drag.arm : chooseArm(frame, plane);
@@ -144,20 +190,16 @@ void PlateGizmo::placeHandles(const PlateHandles& layout, float unit) const
 void PlateGizmo::placeGuides(const PlateView& view)
 {
     constexpr float kRight = 90.0F;
-    const auto width = static_cast<float>(view.widthPx);
-    const auto height = static_cast<float>(view.heightPx);
-    const PlateGuides snapped = isGrabbed() ? drag.guides : PlateGuides();
-    showNode(handles.getNode(VerticalRow), snapped.hasVertical);
-    showNode(handles.getNode(HorizontalRow), snapped.hasHorizontal);
-    if (snapped.hasVertical) {
-        const float x = std::clamp(snapped.x, kGuideInset, std::max(width - kGuideInset, 1.0F));
-        put(VerticalRow, osg::Pnt2f(x, height / 2), 0.0F, osg::Vec2f(1.0F, height / kShaftLength),
-            kGuideLayer);
-    }
-    if (snapped.hasHorizontal) {
-        const float y = std::clamp(snapped.y, kGuideInset, std::max(height - kGuideInset, 1.0F));
-        put(HorizontalRow, osg::Pnt2f(width / 2, y), kRight, osg::Vec2f(1.0F, width / kShaftLength),
-            kGuideLayer);
+    const float size[] = { static_cast<float>(view.widthPx), static_cast<float>(view.heightPx) };
+    for (const std::size_t axis : { 0U, 1U }) {
+        const std::optional<float> line = isGrabbed() ? drag.guides[axis] : std::nullopt;
+        showNode(handles.getNode(VerticalRow + axis), line.has_value());
+        if (line) {
+            osg::Pnt2f middle(size[0] / 2, size[1] / 2);
+            middle[axis] = std::clamp(*line, kGuideInset, std::max(size[axis] - kGuideInset, 1.0F));
+            put(VerticalRow + axis, middle, axis == 0 ? 0.0F : kRight,
+                osg::Vec2f(1.0F, size[1 - axis] / kShaftLength), kGuideLayer);
+        }
     }
 }
 
@@ -165,8 +207,8 @@ void PlateGizmo::placeGuides(const PlateView& view)
 
 bool PlateGizmo::canStep(const View& view)
 {
-    return isGrabbed() && !drag.isBroken && view.exists() && view.getWidth() == drag.widthPx &&
-        view.getHeight() == drag.heightPx && hasTarget();
+    return isGrabbed() && !drag.isBroken && view.exists() && view.getWidth() == drag.view.widthPx &&
+        view.getHeight() == drag.view.heightPx && hasTarget();
 }
 
 bool PlateGizmo::prepare(const View& view)
@@ -175,10 +217,9 @@ bool PlateGizmo::prepare(const View& view)
         return false;
     }
     drag = Drag();
-    drag.widthPx = view.getWidth();
-    drag.heightPx = view.getHeight();
-    drag.start = nbSceneplateLayout::frame(getPlates(), drag.widthPx, drag.heightPx);
-    drag.arm = chooseArm(drag.start, { drag.widthPx, drag.heightPx, unitPx() });
+    drag.view = { view.getWidth(), view.getHeight(), unitPx() };
+    drag.start = nbSceneplateLayout::frame(getPlates(), drag.view.widthPx, drag.view.heightPx);
+    drag.arm = chooseArm(drag.start, drag.view);
     drag.pressedPx = view.getPointer();
     previewPause.begin();
     return true;
@@ -203,17 +244,16 @@ DragStep PlateGizmo::parametersAt(const View& view, const DragTrack& before) con
 
 PlateChange PlateGizmo::changeOf(const DragParameters& parameters, PlateGuides& guides) const
 {
-    const PlateView view { drag.widthPx, drag.heightPx, unitPx() };
     switch (parameters.kind) {
     case Kind::Pixels: {
         const osg::Vec2f distance = parameters.vec2();
-        return moveFrame(drag.start, osg::Vec2f(distance.x(), -distance.y()), view,
+        return moveFrame(drag.start, osg::Vec2f(distance.x(), -distance.y()), drag.view,
                          isSnapping() ? &guides : nullptr);
     }
     case Kind::Angle:
         return turnFrame(drag.start, parameters.values[0], isSnapping());
     default:
-        return scaleFrame(drag.start, corner(), precisionActive, parameters.values[0], view,
+        return scaleFrame(drag.start, corner(), precisionActive, parameters.values[0], drag.view,
                           snappingEnabled ? &guides : nullptr);
     }
 }
@@ -227,7 +267,7 @@ void PlateGizmo::apply(const DragParameters& parameters)
         return;
     }
     drag.change = change;
-    const osg::Vec2f offset = nbSceneplateLayout::toOffset(change.offsetPx, drag.heightPx);
+    const osg::Vec2f offset = nbSceneplateLayout::toOffset(change.offsetPx, drag.view.heightPx);
     nbMessage message;
     message.set("scaleFactor", change.scaleFactor, true);
     message.set("offset", QVector2D(offset.x(), offset.y()), true);

@@ -62,8 +62,7 @@ private:
         PlateFrame start;
         osg::Pnt2f pressedPx;
         PlateArm arm = PlateArm::Above;
-        int widthPx = 0;
-        int heightPx = 0;
+        PlateView view;
         bool isBroken = false;  ///< other plates were set
         PlateChange change;  ///< sent last
         PlateGuides guides;
@@ -72,7 +71,7 @@ private:
     ActiveMode handle() const { return static_cast<ActiveMode>(getArmed()); }
 
     /// Of the armed box.
-    PlateCorner corner() const { return static_cast<PlateCorner>(getArmed() - 1); }
+    std::size_t corner() const { return static_cast<std::size_t>(getArmed() - 1); }
 
     bool isSnapping() const { return precisionActive || snappingEnabled; }
 

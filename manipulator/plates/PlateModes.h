@@ -6,7 +6,7 @@
 namespace nbec::manipulator::plates {
 
 /// The handle of the scene-plate gizmo that is hovered or grabbed; first the boxes, in the order of
-/// PlateCorner.
+/// their corners.
 enum class ActiveMode : osg::UInt32
 {
     None = 0,

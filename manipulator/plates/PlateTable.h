@@ -9,7 +9,7 @@ namespace nbec::manipulator::plates {
 /// Length of a guide's line, along y, before it is placed.
 constexpr float kShaftLength = 2.0F;
 
-/// Places of the rows after those of the four boxes, which stand in the order of PlateCorner.
+/// Places of the rows after those of the four boxes, which stand in the order of their corners.
 enum Row : std::size_t
 {
     ArmRow = kPlateCornerCount,

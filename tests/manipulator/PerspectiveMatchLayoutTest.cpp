@@ -10,8 +10,6 @@ namespace nbec::manipulator::match {
 
 namespace {
 
-using Kind = VanishingPoint::Kind;
-
 osg::Line2D line(float x1, float y1, float x2, float y2)
 {
     return osg::Line2D(osg::Pnt2f(x1, y1), osg::Pnt2f(x2, y2));
@@ -117,34 +115,20 @@ TEST(PerspectiveMatchLayout, VanishingPoints)
     {
         const char* name;
         osg::Line2D first, second;
-        Kind kind;
-        osg::Vec2d place;
+        osg::Vec3d place;
     };
 
     const Row rows[] = {
-        { "they meet at (2, 0.5)",
-          line(0, 0, 1, 0.25F),
-          line(0, 1, 1, 0.75F),
-          Kind::Point,
-          { 2, 0.5 } },
-        { "between their ends", line(0, 0, 1, 1), line(0, 1, 1, 0), Kind::Point, { 0.5, 0.5 } },
-        { "parallel", line(0, 0, 1, 0), line(0.5F, 1, 3, 1), Kind::Direction, { 1, 0 } },
-        { "beyond what counts",
-          line(0, 0, 1, 0),
-          line(0, 1, 1, 0.999F),
-          Kind::Direction,
-          { 1, 0 } },
-        { "one line twice", line(0, 0, 1, 0.5F), line(2, 1, 4, 2), Kind::None, {} },
-        { "no length", line(0.5F, 0.5F, 0.5F, 0.5F), line(0, 1, 1, 0), Kind::None, {} },
-        { "empty", osg::Line2D(), line(0, 1, 1, 0), Kind::None, {} },
+        { "they meet at (2, 0.5)", line(0, 0, 1, 0.25F), line(0, 1, 1, 0.75F), { 2, 0.5, 1 } },
+        { "between their ends", line(0, 0, 1, 1), line(0, 1, 1, 0), { 0.5, 0.5, 1 } },
+        { "parallel", line(0, 0, 1, 0), line(0.5F, 1, 3, 1), { 1, 0, 0 } },
+        { "beyond what counts", line(0, 0, 1, 0), line(0, 1, 1, 0.999F), { 1, 0, 0 } },
+        { "one line twice", line(0, 0, 1, 0.5F), line(2, 1, 4, 2), {} },
+        { "no length", line(0.5F, 0.5F, 0.5F, 0.5F), line(0, 1, 1, 0), {} },
+        { "empty", osg::Line2D(), line(0, 1, 1, 0), {} },
     };
     for (const Row& row : rows) {
-        const VanishingPoint found = vanishingPointOf(row.first, row.second);
-        EXPECT_EQ(found.kind, row.kind) << row.name;
-        if (row.kind != Kind::None) {
-            EXPECT_NEAR(found.place.x(), row.place.x(), 1e-6) << row.name;
-            EXPECT_NEAR(found.place.y(), row.place.y(), 1e-6) << row.name;
-        }
+        EXPECT_LT((vanishingPointOf(row.first, row.second) - row.place).length(), 1e-6) << row.name;
     }
 }
 
@@ -170,7 +154,7 @@ TEST(PerspectiveMatchLayout, GuidesStayInTheViewHoweverFarTheLinesReach)
     for (const Row& row : rows) {
         const MatchLines lines =
             linesWith({ { Line::ZLine1, row.first }, { Line::ZLine2, row.second } });
-        const MatchGuides::Segments dashes = makeMatchGuides(lines, view, 1).axes[2];
+        const MatchSegments dashes = makeMatchGuides(lines, view, 1)[2];
         EXPECT_EQ(!dashes.empty(), row.isSeen) << row.name;
         EXPECT_LT(dashes.size(), 1000U) << row.name;
         for (const osg::Pnt3f& point : dashes) {

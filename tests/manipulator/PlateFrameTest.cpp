@@ -32,7 +32,7 @@ PlateFrame makeFrame(float x, float y, float width, float height, float rotation
 /// Scales a frame by a pull at its upper right corner, whose opposite stays.
 PlateChange pullCorner(const PlateFrame& start, const osg::Vec2f& pull, PlateGuides* guides)
 {
-    constexpr PlateCorner kCorner = PlateCorner::UpperRight;
+    constexpr std::size_t kCorner = 3;
     return scaleFrame(start, kCorner, false, cornerFactor(start, kCorner, false, pull), kView,
                       guides);
 }
@@ -57,31 +57,27 @@ TEST(PlateFrame, MovingSnapsBoxesToEdgesAndCentreLines)
         PlateFrame frame;
         osg::Vec2f pull;  ///< by the pointer
         osg::Vec2f offset;
-        bool hasVertical, hasHorizontal;
-        float x, y;
+        PlateGuides guides;
     };
 
     const PlateFrame flat = makeFrame(200, 200, 100, 60);
     const PlateFrame turned = makeFrame(200, 200, 100, 100, 45);
     const float diagonal = 50.0F * std::sqrt(2.0F);
     const Row rows[] = {
-        { "nothing near", flat, { 30, 40 }, { 30, 40 }, false, false, 0, 0 },
-        { "centre to centre", flat, { 193, 107 }, { 200, 100 }, true, true, 400, 300 },
-        { "left edge", flat, { -142, 0 }, { -150, 0 }, true, false, 0, 0 },
-        { "beyond the reach", flat, { -141, 0 }, { -141, 0 }, false, false, 0, 0 },
-        { "right and bottom", flat, { 551, 374 }, { 550, 370 }, true, true, 800, 600 },
-        { "edge to centre line", flat, { 147, 0 }, { 150, 0 }, true, false, 400, 0 },
-        { "corner", turned, { -125, 0 }, { diagonal - 200, 0 }, true, false, 0, 0 },
+        { "nothing near", flat, { 30, 40 }, { 30, 40 }, {} },
+        { "centre to centre", flat, { 193, 107 }, { 200, 100 }, { 400, 300 } },
+        { "left edge", flat, { -142, 0 }, { -150, 0 }, { 0 } },
+        { "beyond the reach", flat, { -141, 0 }, { -141, 0 }, {} },
+        { "right and bottom", flat, { 551, 374 }, { 550, 370 }, { 800, 600 } },
+        { "edge to centre line", flat, { 147, 0 }, { 150, 0 }, { 400 } },
+        { "corner", turned, { -125, 0 }, { diagonal - 200, 0 }, { 0 } },
     };
     for (const Row& row : rows) {
         PlateGuides guides;
         const PlateChange change = moveFrame(row.frame, row.pull, kView, &guides);
         EXPECT_NEAR(change.offsetPx.x(), row.offset.x(), kTolerancePx) << row.name;
         EXPECT_NEAR(change.offsetPx.y(), row.offset.y(), kTolerancePx) << row.name;
-        EXPECT_EQ(guides.hasVertical, row.hasVertical) << row.name;
-        EXPECT_EQ(guides.hasHorizontal, row.hasHorizontal) << row.name;
-        EXPECT_FLOAT_EQ(guides.x, row.x) << row.name;
-        EXPECT_FLOAT_EQ(guides.y, row.y) << row.name;
+        EXPECT_EQ(guides, row.guides) << row.name;
         EXPECT_EQ(moveFrame(row.frame, row.pull, kView, nullptr).offsetPx, row.pull) << row.name;
         EXPECT_EQ(change.scaleFactor, 1.0F);
         EXPECT_EQ(change.rotation, 0.0F);
@@ -95,14 +91,12 @@ TEST(PlateFrame, AScaledCornerSnapsAlongItsDiagonal)
     PlateGuides guides;
     const PlateChange change = pullCorner(start, osg::Vec2f(196, -196), &guides);
     EXPECT_NEAR(change.scaleFactor, 3.0F, 1e-5F) << "the upper edge is 200 pixels away";
-    EXPECT_TRUE(guides.hasHorizontal);
-    EXPECT_EQ(guides.y, 0.0F);
-    EXPECT_FALSE(guides.hasVertical);
+    EXPECT_EQ(guides, (PlateGuides { std::nullopt, 0.0F }));
 
     PlateGuides none;
     const osg::Vec2f far(190, -190);  // 14 pixels along the diagonal
     EXPECT_NEAR(pullCorner(start, far, &none).scaleFactor, 2.9F, 1e-5F);
-    EXPECT_FALSE(none.hasHorizontal);
+    EXPECT_EQ(none, PlateGuides());
 }
 
 TEST(PlateFrame, ScalingNeverVanishesOrTurnsOver)
