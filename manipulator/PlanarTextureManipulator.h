@@ -1,16 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "manipulator/GizmoFace.h"
 #include "manipulator/NodeManipulator.h"
+#include "manipulator/TextureFace.h"
 #include "manipulator/course/Instances.h"
-#include "manipulator/texture/PlanarModes.h"
-
-#include <OpenSG/OSGMaterial.h>
-
-#include <string>
-
-class nbStateChunkBase;
+#include "manipulator/texture/PlanarSettings.h"
+#include "manipulator/texture/TextureModes.h"
 
 namespace nbec::manipulator {
 
@@ -21,9 +16,7 @@ class PlanarGizmo;
 /// The gizmo that moves, turns and scales the planar projection of a picture on an object.
 ///
 /// The projection belongs to a component of an osg::UberMaterial and lies in the space of the node:
-/// world = node.toWorld * projection. The gizmo only reads it; each step of a drag goes as a
-/// message to the receiver that the host named, whose answer shows once the projection is read
-/// again.
+/// world = node.toWorld * projection.
 ///
 /// Decisions.
 /// - Place. The handles stand at the projection's centre, turned as it is, in a constant size on
@@ -49,11 +42,7 @@ class PlanarGizmo;
 ///   nothing until it stops. Deactivating ends it, and a pause of the preview that is still owed.
 /// - The first step makes the node a transform, with pivots at its centre if it has none.
 /// - update(false) places the handles anew if anything was edited, or the size was set.
-/// - Copies share the handle tree with their original and are not registered; a pause of the
-///   preview stays with the original.
-///
-/// All instances share the size. Everything runs on the user-interface thread.
-class NB_MANIPULATOR_API PlanarTextureManipulator : public GizmoFace<NodeManipulator>
+class NB_MANIPULATOR_API PlanarTextureManipulator : public TextureFace<NodeManipulator>
 {
 public:
     using ActiveMode = texture::PlanarActiveMode;
@@ -63,8 +52,8 @@ public:
     /// @param withDepthPass  also draws a copy of the handles with the depth test always passing
     ///                       before them, for renderers that do not draw handles over the scene
     explicit PlanarTextureManipulator(bool withDepthPass = false);
-    PlanarTextureManipulator(const PlanarTextureManipulator& other);
-    PlanarTextureManipulator& operator=(const PlanarTextureManipulator& other);
+    PlanarTextureManipulator(const PlanarTextureManipulator& other) = default;
+    PlanarTextureManipulator& operator=(const PlanarTextureManipulator& other) = default;
 
     /// Unregisters the instance, resumes the preview if that is owed and releases the handles.
     ~PlanarTextureManipulator() override;
@@ -76,38 +65,34 @@ public:
     /// pauses the material preview. Without a projection the frame keeps its values.
     void prepareManipulator(const osg::NodePtr& node);
 
-    // == What is edited
-
-    /// @param material  held by its id; null for none
-    /// @param gui       editor object of the host, not owned, may be null
-    void setMaterialComponent(osg::MaterialPtr material, const std::string& componentType,
-                              nbStateChunkBase* gui);
-    /// The material; null if there is none or it no longer exists.
-    osg::MaterialPtr getMaterial() const;
-    // Whether these are the edited ones; false for a null material.
-    bool isConnectedToMaterial(osg::MaterialPtr material) const;
-    bool isConnectedTo(osg::MaterialPtr material, const std::string& componentType) const;
-    std::string getComponentType() const;
-    void setGUI(nbStateChunkBase* gui);
-    nbStateChunkBase* getGUI() const;
-    /// Prefix of the names of all messages to the editor; empty at the start.
-    void setMessageReceiver(const std::string& receiver);
-
     // == Settings; all off at the start but the two about Z
 
     /// Overridden by the material's flag whenever the gizmo prepares.
-    void setKeepAspectRatio(bool on);
-    bool getKeepAspectRatio() const;
+    void setKeepAspectRatio(bool on) { settings().keepAspectRatio = on; }
+
+    bool getKeepAspectRatio() const { return settings().keepAspectRatio; }
+
     /// Width by height of the picture, 1 at the start; overridden by the component's image.
-    void setAspectRatio(float ratio);
-    float getAspectRatio() const;
-    void setUseTextureScale(bool on);
+    void setAspectRatio(float ratio) { settings().aspectRatio = ratio; }
+
+    float getAspectRatio() const { return settings().aspectRatio; }
+
+    void setUseTextureScale(bool on) { settings().useTextureScale = on; }
+
     /// What "::getScaleValues" was answered with last; (1, 1, 1) and (0, 0) before.
-    osg::Vec3f getInitialTextureScale() const;
-    osg::Vec2f getProjectionSize() const;
-    void setUseObjectScale(bool on);
-    void setUseObjectTranslation(bool on);
-    void setApplyProjectionRotationToTranslation(bool on);
+    osg::Vec3f getInitialTextureScale() const { return settings().initialTextureScale; }
+
+    osg::Vec2f getProjectionSize() const { return settings().projectionSize; }
+
+    void setUseObjectScale(bool on) { settings().useObjectScale = on; }
+
+    void setUseObjectTranslation(bool on) { settings().useObjectTranslation = on; }
+
+    void setApplyProjectionRotationToTranslation(bool on)
+    {
+        settings().applyRotationToTranslation = on;
+    }
+
     void setZScaleVisible(bool on);
     void showZScaleValue(bool on);
 
@@ -125,11 +110,6 @@ public:
     ManipulatorMode getMode() const { return static_cast<ManipulatorMode>(gizmo->getMode()); }
 
     ActiveMode getActiveMode() const { return static_cast<ActiveMode>(gizmo->getArmed()); }
-
-    /// Shows the handles of the current mode and re-places them; hides them without a node.
-    void showActiveManipulator() { gizmo->showActive(); }
-
-    void hideManipulator() { gizmo->hide(); }
 
     /// Shows the handles of all groups.
     void showAllElements();
@@ -154,9 +134,6 @@ public:
     /// @return false without a node that can be made a transform
     bool centerPivot();
 
-    /// Reads the projection again and places the handles.
-    void updateManipulator() { gizmo->placeIn(View()); }
-
     /// Chooses the drag plane of the active handle, through the origin of the handle frame.
     void updateManipulatorPlane();
 
@@ -164,7 +141,10 @@ public:
 
     /// Creates a gizmo and makes it the shared instance, in place of an earlier one.
     /// @param destroy  only destroys the shared instance
-    static void createInstance(bool destroy);
+    static void createInstance(bool destroy)
+    {
+        instances.share(destroy ? nullptr : new PlanarTextureManipulator);
+    }
 
     /// The shared instance, or null.
     static PlanarTextureManipulator* getInstance() { return instances._the; }
@@ -180,11 +160,10 @@ public:
     static void updateAllManipulators() { instances.updateAll(); }
 
 private:
-    friend struct Instances<PlanarTextureManipulator>;
-
     void activateMode(ManipulatorMode mode) { gizmo->activateMode(static_cast<int>(mode)); }
 
     texture::PlanarGizmo& course() const;
+    texture::PlanarSettings& settings() const;
 
     static Instances<PlanarTextureManipulator> instances;
 };

@@ -3,7 +3,7 @@
 
 #include "manipulator/AnchoredTextureManipulator.h"
 #include "manipulator/course/Instances.h"
-#include "manipulator/texture/TireModes.h"
+#include "manipulator/texture/TextureModes.h"
 
 namespace nbec::manipulator {
 

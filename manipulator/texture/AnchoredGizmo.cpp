@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/texture/AnchoredGizmo.h"
 
-#include "manipulator/scene/MessageSending.h"
+#include "manipulator/drag/DragGeometry.h"
 
 #include <utility>
 
@@ -10,35 +10,28 @@ namespace nbec::manipulator::texture {
 namespace {
 
 constexpr int kUniversalMode = 0;
-
-CourseRules courseRules()
-{
-    CourseRules rules;
-    rules.isHoverKept = true;
-    rules.isGrabbedLit = false;
-    rules.isEndedByDeactivation = false;
-    rules.isPreviewPaused = true;
-    return rules;
-}
+constexpr CourseRules kRules = { /*isPreparedAtStart*/ false, /*isHoverKept*/ true,
+                                 /*isGrabbedLit*/ false, /*isEndedByDeactivation*/ false,
+                                 /*isPreviewPaused*/ true };
 
 }  // namespace
 
 AnchoredGizmo::AnchoredGizmo(const HandleTable& table, HandleSet::Materials materials,
                              int startMode, const float& size)
-    : Gizmo(courseRules(), table, std::move(materials), startMode, size)
+    : TextureGizmo(kRules, table, std::move(materials), startMode, size)
 { }
 
 // == What is edited
 
-void AnchoredGizmo::setComponent(const osg::MaterialPtr& material, const std::string& componentName,
+void AnchoredGizmo::setComponent(const osg::MaterialPtr& material, const std::string& name,
                                  nbStateChunkBase* gui)
 {
-    if (!component.is(material, componentName)) {
+    if (!component.is(material, name)) {
         endDrag();
     }
-    component.set(material, componentName, gui);
+    component.set(material, name, gui);
     watch.forget();
-    if (material != osg::NullFC && !componentName.empty()) {
+    if (material != osg::NullFC && !name.empty()) {
         showActive();
     } else {
         hide();
@@ -47,8 +40,18 @@ void AnchoredGizmo::setComponent(const osg::MaterialPtr& material, const std::st
 
 void AnchoredGizmo::setAnchor(const osg::NodePtr& node, const osg::Pnt3f& position)
 {
-    anchor.set(node, position);
+    anchorId = containerId(node);
+    anchorInNode = position;
+    anchorPosition = position;
+    if (node != osg::NullFC) {
+        followAnchor(node->getToWorld());
+    }
     watch.forget();
+}
+
+void AnchoredGizmo::followAnchor(const osg::Matrix& worldFromAnchor)
+{
+    anchorPosition = mapped(worldFromAnchor, anchorInNode);
 }
 
 void AnchoredGizmo::showActive()
@@ -61,17 +64,7 @@ void AnchoredGizmo::showActive()
     }
 }
 
-bool AnchoredGizmo::hasTarget() const
-{
-    return component.getMaterial() != osg::NullFC;
-}
-
 // == Drags
-
-bool AnchoredGizmo::canStep(const View& view)
-{
-    return view.exists() && hasTarget();
-}
 
 bool AnchoredGizmo::prepare(const View& view)
 {
@@ -82,28 +75,23 @@ bool AnchoredGizmo::prepare(const View& view)
     return true;
 }
 
-void AnchoredGizmo::send(const char* suffix, nbMessage& message) const
-{
-    sendToReceiver(messageReceiver, suffix, message);
-}
-
 // == Placement
 
 bool AnchoredGizmo::isDisplaced(const View& view) const
 {
-    const osg::NodePtr node = anchor.getNode();
+    const osg::NodePtr node = getAnchorNode();
     return node != osg::NullFC &&
         (watch.isElsewhere(node->getToWorld()) || watch.isSeenOtherwise(view));
 }
 
 void AnchoredGizmo::place(const View& view)
 {
-    const osg::NodePtr node = anchor.getNode();
+    const osg::NodePtr node = getAnchorNode();
     if (node == osg::NullFC) {
         return;
     }
     const osg::Matrix worldFromAnchor = node->getToWorld();
-    anchor.follow(worldFromAnchor);
+    followAnchor(worldFromAnchor);
     watch.remember(worldFromAnchor);
     watch.remember(view);
     placeHandles(view, worldFromAnchor);

@@ -1,16 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "manipulator/course/Gizmo.h"
-#include "manipulator/texture/AnchorPoint.h"
-#include "manipulator/texture/MaterialComponent.h"
+#include "manipulator/texture/TextureGizmo.h"
 
 #include <OpenSG/OSGMatrix.h>
-
-#include <memory>
-#include <string>
-
-class nbMessage;
 
 namespace nbec::manipulator::texture {
 
@@ -20,33 +13,37 @@ namespace nbec::manipulator::texture {
 /// Deliberate: a stop resumes the preview even if no step has paused it, but without a material it
 /// sends nothing. What is owed then is made good by the next event, another material or the gizmo's
 /// end.
-class AnchoredGizmo : public Gizmo
+class AnchoredGizmo : public TextureGizmo
 {
 public:
-    /// A copy with all fields, that shares the nodes and materials.
-    virtual std::unique_ptr<AnchoredGizmo> clone() const = 0;
-
     /// Shows the handles if there are a material and a component, else hides them. Another material
     /// or component ends a drag, and a pause of the preview that is owed.
-    void setComponent(const osg::MaterialPtr& material, const std::string& componentName,
-                      nbStateChunkBase* gui);
+    void setComponent(const osg::MaterialPtr& material, const std::string& name,
+                      nbStateChunkBase* gui) override;
+
+    /// @param node      null: the position is one of the world
+    /// @param position  in the node's coordinates
     void setAnchor(const osg::NodePtr& node, const osg::Pnt3f& position);
+
+    /// The node; null if there is none or it no longer exists.
+    osg::NodePtr getAnchorNode() const { return resolveContainer<osg::NodePtr>(anchorId); }
+
+    /// Place in the world when the node was looked at last.
+    const osg::Pnt3f& getAnchorPosition() const { return anchorPosition; }
 
     /// Deliberate: without a material, too; and the mode that shows all neither takes the light
     /// from a handle nor places anything.
     void showActive() override;
-
-    std::string messageReceiver;
-    MaterialComponent component;
-    AnchorPoint anchor;
 
 protected:
     AnchoredGizmo(const HandleTable& table, HandleSet::Materials materials, int startMode,
                   const float& size);
     AnchoredGizmo(const AnchoredGizmo&) = default;
 
-    bool hasTarget() const override;
-    bool canStep(const View& view) override;
+    bool hasTarget() const override { return component.getMaterial() != osg::NullFC; }
+
+    bool canStep(const View& view) override { return view.exists() && hasTarget(); }
+
     bool prepare(const View& view) override;
     void place(const View& view) override;
     bool isDisplaced(const View& view) const override;
@@ -56,8 +53,13 @@ protected:
     /// Places the handle set at the anchor, whose place in the world is known.
     virtual void placeHandles(const View& view, const osg::Matrix& worldFromAnchor) = 0;
 
-    /// Sends a change to the receiver. @param suffix  see sendToReceiver()
-    void send(const char* suffix, nbMessage& message) const;
+    /// Looks where the node has brought the anchor. @param worldFromAnchor  its world matrix
+    void followAnchor(const osg::Matrix& worldFromAnchor);
+
+private:
+    osg::UInt32 anchorId = 0;
+    osg::Pnt3f anchorInNode;
+    osg::Pnt3f anchorPosition;
 };
 
 }  // namespace nbec::manipulator::texture

@@ -10,12 +10,14 @@
 
 #include <string>
 
+class nbMessage;
 class nbStateChunkBase;
 
 namespace nbec::manipulator::texture {
 
-/// The component of a material that a texture gizmo edits. The material is kept by its container
-/// id and looked up on each use, so that one that was deleted reads as null.
+/// The component of a material that a texture gizmo edits, and who is told of its edits. The
+/// material is kept by its container id and looked up on each use, so that one that was deleted
+/// reads as null.
 class MaterialComponent
 {
 public:
@@ -64,7 +66,15 @@ public:
 
     void setGUI(nbStateChunkBase* editor) { gui = editor; }
 
+    void setReceiver(const std::string& prefix) { receiver = prefix; }
+
+    /// Sends a message to the host's editor, which may write replies into it. Afterwards nothing
+    /// that was edited need exist any more (see Manipulator): it is looked up by its id again.
+    /// @param suffix  follows the receiver's name directly, begins with "::"
+    void send(const char* suffix, nbMessage& message) const;
+
 private:
+    std::string receiver;
     osg::UInt32 materialId = 0;
     std::string name;
     nbStateChunkBase* gui = nullptr;

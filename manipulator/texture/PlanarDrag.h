@@ -2,7 +2,7 @@
 #pragma once
 
 #include "manipulator/drag/DragParameters.h"
-#include "manipulator/texture/PlanarModes.h"
+#include "manipulator/texture/TextureModes.h"
 
 #include <OpenSG/OSGMatrix.h>
 #include <OpenSG/OSGPlane.h>

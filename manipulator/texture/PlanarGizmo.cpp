@@ -6,7 +6,6 @@
 #include "manipulator/handles/ContainerReference.h"
 #include "manipulator/handles/HandleGroup.h"
 #include "manipulator/handles/HandleNodes.h"
-#include "manipulator/scene/MessageSending.h"
 #include "manipulator/scene/TargetFrame.h"
 #include "manipulator/texture/PlanarHandles.h"
 
@@ -85,8 +84,8 @@ QString textOf(const osg::NodePtr& node, Active handle)
 }  // namespace
 
 PlanarGizmo::PlanarGizmo(bool withDepthPass, const float& size)
-    : Gizmo(kRules, planarHandleTable(), makePlanarMaterials(),
-            static_cast<int>(PlanarManipulatorMode::Universal), size)
+    : TextureGizmo(kRules, planarHandleTable(), makePlanarMaterials(),
+                   static_cast<int>(PlanarManipulatorMode::Universal), size)
 {
     const osg::NodePtr tree = handles.getRoot();
     nbNodeUtils::setIsAuxiliaryNode(tree, true);
@@ -101,14 +100,11 @@ PlanarGizmo::PlanarGizmo(bool withDepthPass, const float& size)
 
 // == Object and projection
 
-osg::NodePtr PlanarGizmo::getNode() const
+void PlanarGizmo::setComponent(const osg::MaterialPtr& material, const std::string& name,
+                               nbStateChunkBase* gui)
 {
-    return resolveContainer<osg::NodePtr>(nodeId);
-}
-
-bool PlanarGizmo::hasTarget() const
-{
-    return getNode() != osg::NullFC;
+    component.set(material, name, gui);
+    placeIn(View());
 }
 
 void PlanarGizmo::setNode(const osg::NodePtr& node)
@@ -179,11 +175,11 @@ void PlanarGizmo::askScaleValues()
         return;
     }
     nbMessage message;
-    sendToReceiver(messageReceiver, "::getScaleValues", message);
-    nbMessage::get(message, "initialTextureScale", initialTextureScale);
-    nbMessage::get(message, "projectionSize", projectionSize);
+    component.send("::getScaleValues", message);
+    nbMessage::get(message, "initialTextureScale", settings.initialTextureScale);
+    nbMessage::get(message, "projectionSize", settings.projectionSize);
     for (osg::UInt32 i = 0; i < 2; ++i) {
-        const float perScale = 0.5F * projectionSize[i] / frame.scale[i];
+        const float perScale = 0.5F * settings.projectionSize[i] / frame.scale[i];
         if (std::isfinite(perScale) && perScale > 0.0F) {
             frame.extentPerScale[i] = perScale;
         }
@@ -295,7 +291,7 @@ void PlanarGizmo::apply(const DragParameters& parameters)
             showZScaleValue(true);
         }
     }
-    sendToReceiver(messageReceiver, kChangedSuffix, message);
+    component.send(kChangedSuffix, message);
 }
 
 void PlanarGizmo::setTranslationIn(nbMessage& message, const osg::Vec3f& shift) const
@@ -319,16 +315,6 @@ ValueText* PlanarGizmo::getText() const
 }
 
 // == Handles shown
-
-void PlanarGizmo::setDefaultMaterials()
-{
-    handles.setDefaultMaterials(getMode());
-}
-
-void PlanarGizmo::highlightMode()
-{
-    handles.light(getArmed(), getMode());
-}
 
 void PlanarGizmo::highlightControlElement()
 {
@@ -369,17 +355,6 @@ void PlanarGizmo::hideAllElements()
 }
 
 // == Placement
-
-/// The projection may have been edited, which no matrix of the scene tells.
-bool PlanarGizmo::isDisplaced(const View& /*view*/) const
-{
-    return true;
-}
-
-float PlanarGizmo::placementNumber() const
-{
-    return getSize();
-}
 
 void PlanarGizmo::place(const View& view)
 {

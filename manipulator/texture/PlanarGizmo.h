@@ -1,36 +1,27 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "manipulator/course/Gizmo.h"
-#include "manipulator/texture/MaterialComponent.h"
 #include "manipulator/texture/PlanarDrag.h"
-#include "manipulator/texture/PlanarModes.h"
-
-#include <string>
-
-class nbMessage;
+#include "manipulator/texture/PlanarSettings.h"
+#include "manipulator/texture/TextureGizmo.h"
 
 namespace nbec::manipulator::texture {
 
-/// Settings of one planar gizmo; see PlanarTextureManipulator.
-struct PlanarSettings
-{
-    bool keepAspectRatio = false;
-    bool useTextureScale = false;
-    bool useObjectScale = false;
-    bool useObjectTranslation = false;
-    bool applyRotationToTranslation = false;
-    float aspectRatio = 1.0F;
-};
-
 /// Course of the planar gizmo, whose face is PlanarTextureManipulator.
-class PlanarGizmo : public Gizmo
+class PlanarGizmo : public TextureGizmo
 {
 public:
     /// @param size  see Gizmo
     PlanarGizmo(bool withDepthPass, const float& size);
     PlanarGizmo(const PlanarGizmo&) = default;
 
+    std::unique_ptr<TextureGizmo> clone() const override
+    {
+        return std::make_unique<PlanarGizmo>(*this);
+    }
+
+    void setComponent(const osg::MaterialPtr& material, const std::string& name,
+                      nbStateChunkBase* gui) override;
     /// Binds to an object, or null, and prepares for it; a drag goes on with the new one.
     void setNode(const osg::NodePtr& node);
     /// Reads the projection and its settings and pauses the preview. Nothing for null.
@@ -42,8 +33,10 @@ public:
 
     // == Handles shown
 
-    void setDefaultMaterials();
-    void highlightMode();
+    void setDefaultMaterials() { handles.setDefaultMaterials(getMode()); }
+
+    void highlightMode() { handles.light(getArmed(), getMode()); }
+
     void highlightControlElement();
     void showAllElements();
     void hideAllElements();
@@ -52,28 +45,28 @@ public:
 
     PlanarActiveMode getActiveMode() const { return static_cast<PlanarActiveMode>(getArmed()); }
 
-    // == Fields
-
-    MaterialComponent component;
-    std::string messageReceiver;
     PlanarSettings settings;
-    osg::Vec3f initialTextureScale { 1.0F, 1.0F, 1.0F };
-    osg::Vec2f projectionSize;
 
 protected:
-    bool hasTarget() const override;
+    bool hasTarget() const override { return getNode() != osg::NullFC; }
+
     bool canStep(const View& view) override;
     bool prepare(const View& view) override;
     DragStep parametersAt(const View& view, const DragTrack& before) const override;
     void apply(const DragParameters& parameters) override;
     void place(const View& view) override;
-    bool isDisplaced(const View& view) const override;
-    float placementNumber() const override;
+
+    /// The projection may have been edited, which no matrix of the scene tells.
+    bool isDisplaced(const View& /*view*/) const override { return true; }
+
+    float placementNumber() const override { return getSize(); }
+
     std::optional<QString> describe() const override;
     ValueText* getText() const override;
 
 private:
-    osg::NodePtr getNode() const;
+    osg::NodePtr getNode() const { return resolveContainer<osg::NodePtr>(nodeId); }
+
     void readProjection(const osg::NodePtr& node);
     void askScaleValues();
     void capture(const View& view);

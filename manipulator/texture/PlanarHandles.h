@@ -2,7 +2,7 @@
 #pragma once
 
 #include "manipulator/handles/HandleSet.h"
-#include "manipulator/texture/PlanarModes.h"
+#include "manipulator/texture/TextureModes.h"
 
 #include <array>
 

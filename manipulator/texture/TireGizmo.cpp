@@ -73,6 +73,27 @@ const HandleTable& handleTable()
     return table;
 }
 
+/// What a handle changes: the attribute that is sent, and how the on-screen text begins.
+struct TireWords
+{
+    const char* attribute;
+    const char* title;
+};
+
+TireWords wordsOf(Handle handle)
+{
+    switch (handle) {
+    case Handle::ScaleHeight:
+        return { "ScaleHeight", QT_TRANSLATE_NOOP("nbForegroundTextContext", "Height (") };
+    case Handle::ScaleRadius:
+        return { "ScaleRadius", QT_TRANSLATE_NOOP("nbForegroundTextContext", "Radius (") };
+    case Handle::ScaleU:
+        return { "ScaleU", QT_TRANSLATE_NOOP("nbForegroundTextContext", "Scale (") };
+    default:
+        return { "center", QT_TRANSLATE_NOOP("nbForegroundTextContext", "Center (") };
+    }
+}
+
 /// A length that a drag has changed.
 float atLeastPart(float value, float start)
 {
@@ -93,11 +114,6 @@ TireGizmo::TireGizmo(const float& size)
     : AnchoredGizmo(handleTable(), makeAxisMaterials(true), number(Mode::Universal), size)
 {
     root = makeHandleRootOver(handles.getRoot());
-}
-
-std::unique_ptr<AnchoredGizmo> TireGizmo::clone() const
-{
-    return std::make_unique<TireGizmo>(*this);
 }
 
 TireValues TireGizmo::readValues() const
@@ -156,7 +172,7 @@ void TireGizmo::placeHandles(const View& view, const osg::Matrix& worldFromAncho
 
 bool TireGizmo::capture(const View& view)
 {
-    const osg::NodePtr node = anchor.getNode();
+    const osg::NodePtr node = getAnchorNode();
     if (node == osg::NullFC) {
         return false;
     }
@@ -174,7 +190,7 @@ osg::Vec3f TireGizmo::chooseDirection() const
 {
     const osg::Vec3f arm = mapped(objectFromWorld, grabbedPoint).subZero() - start.center;
     osg::Vec3f along;
-    if (handle() <= Handle::TranslateZ) {
+    if (isShift()) {
         along[static_cast<osg::UInt32>(getArmed() - number(Handle::TranslateX))] = 1.0F;
     } else if (handle() == Handle::ScaleHeight) {
         along[0] = arm.x() < 0.0F ? -1.0F : 1.0F;
@@ -234,21 +250,12 @@ void TireGizmo::apply(const DragParameters& parameters)
 {
     sent = parameters;
     nbMessage message;
-    switch (handle()) {
-    case Handle::ScaleHeight:
-        message.set("ScaleHeight", sent.first(), true);
-        break;
-    case Handle::ScaleRadius:
-        message.set("ScaleRadius", sent.first(), true);
-        break;
-    case Handle::ScaleU:
-        message.set("ScaleU", sent.first(), true);
-        break;
-    default:
-        message.set("center", sentCenter(), true);
-        break;
+    if (isShift()) {
+        message.set(wordsOf(handle()).attribute, sentCenter(), true);
+    } else {
+        message.set(wordsOf(handle()).attribute, sent.first(), true);
     }
-    send(kChangedSuffix, message);
+    component.send(kChangedSuffix, message);
 }
 
 void TireGizmo::announce()
@@ -267,7 +274,7 @@ void TireGizmo::finish()
         handle() == Handle::ScaleU && settings != osg::NullFC && settings->getTireAutoParameter();
     nbMessage message;
     message.set("autoParameter", isFitted, true);
-    send(kChangedSuffix, message);
+    component.send(kChangedSuffix, message);
     placeIn(View());
 }
 
@@ -276,20 +283,9 @@ void TireGizmo::finish()
 /// Of what was sent, whatever the receiver has made of it.
 std::optional<QString> TireGizmo::describe() const
 {
-    switch (handle()) {
-    case Handle::ScaleHeight:
-        return describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Height ("),
-                              { sent.first() });
-    case Handle::ScaleRadius:
-        return describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Radius ("),
-                              { sent.first() });
-    case Handle::ScaleU:
-        return describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Scale ("),
-                              { sent.first() });
-    default:
-        return describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Center ("),
-                              sentCenter());
-    }
+    const char* const title = wordsOf(handle()).title;
+    return isShift() ? describeValues(title, sentCenter())
+                     : describeValues(title, { sent.first() });
 }
 
 ValueText* TireGizmo::getText() const

@@ -3,7 +3,7 @@
 
 #include "manipulator/drag/DragGeometry.h"
 #include "manipulator/texture/AnchoredGizmo.h"
-#include "manipulator/texture/TireModes.h"
+#include "manipulator/texture/TextureModes.h"
 
 #include <OpenSG/OSGPlane.h>
 
@@ -25,7 +25,11 @@ class TireGizmo : public AnchoredGizmo
 {
 public:
     explicit TireGizmo(const float& size);
-    std::unique_ptr<AnchoredGizmo> clone() const override;
+
+    std::unique_ptr<TextureGizmo> clone() const override
+    {
+        return std::make_unique<TireGizmo>(*this);
+    }
 
 protected:
     bool capture(const View& view) override;
@@ -39,6 +43,9 @@ protected:
 
 private:
     TireHandle handle() const { return static_cast<TireHandle>(getArmed()); }
+
+    /// Whether the centre is dragged.
+    bool isShift() const { return handle() <= TireHandle::TranslateZ; }
 
     TireValues readValues() const;
     osg::Vec3f chooseDirection() const;

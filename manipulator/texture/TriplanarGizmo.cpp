@@ -109,11 +109,6 @@ TriplanarGizmo::TriplanarGizmo(const float& size)
     root = makeHandleRootOver(handles.getRoot());
 }
 
-std::unique_ptr<AnchoredGizmo> TriplanarGizmo::clone() const
-{
-    return std::make_unique<TriplanarGizmo>(*this);
-}
-
 void TriplanarGizmo::showActive()
 {
     if (getMode() == number(Mode::Initial)) {
@@ -125,7 +120,7 @@ void TriplanarGizmo::showActive()
 
 void TriplanarGizmo::placeHandles(const View& view, const osg::Matrix& worldFromAnchor)
 {
-    const osg::Pnt3f& place = anchor.getWorldPosition();
+    const osg::Pnt3f& place = getAnchorPosition();
     const float size = view.scaleAt(place, getSize(), ViewDiagonal::NearPlane);
     placeTransform(handles.getRootTransform(), place.subZero(), osg::Quaternion::identity(),
                    osg::Vec3f(size, size, size));
@@ -152,14 +147,14 @@ osg::UInt32 TriplanarGizmo::axis() const
 
 bool TriplanarGizmo::capture(const View& view)
 {
-    const osg::NodePtr node = anchor.getNode();
+    const osg::NodePtr node = getAnchorNode();
     if (node == osg::NullFC) {
         return false;
     }
     const osg::Matrix worldFromAnchor = node->getToWorld();
-    anchor.follow(worldFromAnchor);
+    followAnchor(worldFromAnchor);
     readValues();
-    choosePlane(view, unitFrame(worldFromAnchor, anchor.getWorldPosition()));
+    choosePlane(view, unitFrame(worldFromAnchor, getAnchorPosition()));
     followPlane(plane, view.pointerRay(), track);
     return true;
 }
@@ -193,7 +188,7 @@ void TriplanarGizmo::readValues()
 
 void TriplanarGizmo::choosePlane(const View& view, const osg::Matrix& worldFromFrame)
 {
-    const osg::Pnt3f& center = anchor.getWorldPosition();
+    const osg::Pnt3f& center = getAnchorPosition();
     frameFromWorld = inverted(worldFromFrame);
     if (axis() > 2) {
         plane = osg::Plane(view.sight(), center);
@@ -258,7 +253,7 @@ void TriplanarGizmo::apply(const DragParameters& parameters)
             message.set(kScaleNames[i], pairs[i], true);
         }
     }
-    send(kChangedSuffix, message);
+    component.send(kChangedSuffix, message);
 }
 
 void TriplanarGizmo::announce()

@@ -3,7 +3,7 @@
 
 #include "manipulator/texture/AnchoredGizmo.h"
 #include "manipulator/texture/TextureDragMath.h"
-#include "manipulator/texture/TriplanarModes.h"
+#include "manipulator/texture/TextureModes.h"
 
 #include <OpenSG/OSGPlane.h>
 
@@ -15,7 +15,11 @@ class TriplanarGizmo : public AnchoredGizmo
 {
 public:
     explicit TriplanarGizmo(const float& size);
-    std::unique_ptr<AnchoredGizmo> clone() const override;
+
+    std::unique_ptr<TextureGizmo> clone() const override
+    {
+        return std::make_unique<TriplanarGizmo>(*this);
+    }
 
     /// Mode Initial leaves the handles as they are.
     void showActive() override;

@@ -101,17 +101,12 @@ UVGizmo::UVGizmo(const float& size)
     addChild(root.get(), handles.getRoot());
 }
 
-std::unique_ptr<AnchoredGizmo> UVGizmo::clone() const
-{
-    return std::make_unique<UVGizmo>(*this);
-}
-
 void UVGizmo::placeHandles(const View& view, const osg::Matrix& /*worldFromAnchor*/)
 {
-    const osg::Vec3f place = anchor.getWorldPosition().subZero();
+    const osg::Vec3f place = getAnchorPosition().subZero();
     const std::optional<float> diagonal = view.orthographicDiagonal();
     const float rootScale = diagonal ? kOrthographicRootScale : view.getFov() * getSize();
-    const double distance = anchor.getWorldPosition().dist(view.getEye());
+    const double distance = getAnchorPosition().dist(view.getEye());
     const float viewScale = diagonal ? *diagonal / kDiagonalsPerScale
                                      : static_cast<float>(distance / kDistancePerScale);
     placeTransform(handles.getRootTransform(), place, osg::Quaternion::identity(),
@@ -137,7 +132,7 @@ bool UVGizmo::capture(const View& view)
     }
     readValues();
     dragStartPixel = view.pointerFromBelow();
-    anchorPixel = view.project(anchor.getWorldPosition());
+    anchorPixel = view.project(getAnchorPosition());
     return true;
 }
 
@@ -202,7 +197,7 @@ void UVGizmo::apply(const DragParameters& parameters)
     } else {
         message.set("offset", startOffset + parameters.vec2(), true);
     }
-    send(kChangedSuffix, message);
+    component.send(kChangedSuffix, message);
 }
 
 }  // namespace nbec::manipulator::texture

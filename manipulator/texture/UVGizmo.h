@@ -3,7 +3,7 @@
 
 #include "manipulator/texture/AnchoredGizmo.h"
 #include "manipulator/texture/TextureDragMath.h"
-#include "manipulator/texture/UVModes.h"
+#include "manipulator/texture/TextureModes.h"
 
 #include <OpenSG/OSGVector.h>
 
@@ -15,7 +15,11 @@ class UVGizmo : public AnchoredGizmo
 {
 public:
     explicit UVGizmo(const float& size);
-    std::unique_ptr<AnchoredGizmo> clone() const override;
+
+    std::unique_ptr<TextureGizmo> clone() const override
+    {
+        return std::make_unique<UVGizmo>(*this);
+    }
 
     bool keepAspectRatio = false;
     float aspectRatio = 1.0F;

@@ -2,7 +2,6 @@
 #include "modules/textureplacement/TexturePlacementPickTool.h"
 
 #include "manipulator/course/PickerOf.h"
-#include "manipulator/scene/MessageSending.h"
 
 #include <nbInteraction/Picker.h>
 #include <nbInteraction/ToolInteractionContext.h>
@@ -116,7 +115,7 @@ bool TexturePlacementPickTool::processSelection(ToolInteractionContext* context)
     message.set("hitNode", hitNode, true);
     message.set("hitPoint", hitPoint, true);
     message.set("hitNormal", hitNormal, true);
-    manipulator::sendToReceiver(messageReceiver, "::placeTexture", message);
+    component.send("::placeTexture", message);
     if (hitNode != osg::NullFC && showHitData) {
         setDescription(describeHit(hitPoint, hitNormal));
     }

@@ -82,7 +82,7 @@ public:
     // == Settings
 
     /// Sets the name under which the material's editor receives; "" at first.
-    void setMessageReceiver(const std::string& receiver) { messageReceiver = receiver; }
+    void setMessageReceiver(const std::string& receiver) { component.setReceiver(receiver); }
 
     /// Sets the text that activation shows; at first "Set Texture Center Position", translated.
     void setDescriptionText(const std::string& text) { descriptionText = text; }
@@ -95,7 +95,6 @@ private:
     /// picker
     bool processSelection(interaction::ToolInteractionContext* context);
 
-    std::string messageReceiver;
     manipulator::texture::MaterialComponent component;
     std::string descriptionText;
     bool showHitData = true;
