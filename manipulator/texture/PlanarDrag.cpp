@@ -23,12 +23,6 @@ osg::Vec3f unitVector(osg::Vec3f vector)
     return length > 0.0F ? vector * (1.0F / length) : osg::Vec3f();
 }
 
-/// Ratio of two places on an axis; 1 where the start is too near the centre to divide by.
-float factorOf(float hit, float start)
-{
-    return std::abs(start) < kShortest ? 1.0F : hit / start;
-}
-
 /// Signed half of a side after one of its ends has moved; never less than a hundredth. A side
 /// without length has no least one, and grows whichever way its end goes.
 /// @param half      distance of the end from the centre
@@ -96,11 +90,7 @@ osg::Vec3f ProjectionFrame::halfExtents() const
 
 osg::Vec3f ProjectionDrag::motion(const osg::Pnt3f& from, const osg::Pnt3f& to) const
 {
-    osg::Vec3f along = mapped(handleFromWorld, to) - mapped(handleFromWorld, from);
-    for (osg::UInt32 i = 0; i < 3; ++i) {
-        along[i] *= unit[i];
-    }
-    return along;
+    return mapped(axesFromWorld, to) - mapped(axesFromWorld, from);
 }
 
 osg::Plane dragPlaneOf(const ProjectionFrame& frame, PlanarActiveMode handle,
@@ -142,14 +132,7 @@ ProjectionDrag beginDrag(const ProjectionFrame& frame, PlanarActiveMode handle,
     ProjectionDrag drag;
     drag.handle = handle;
     drag.frame = frame;
-    for (osg::UInt32 i = 0; i < 3; ++i) {
-        drag.unit[i] = usableLength(frame.scale[i]);
-    }
-    osg::Matrix units;
-    units.setScale(drag.unit);
-    osg::Matrix worldFromHandle = frame.worldFromAxes();
-    worldFromHandle.mult(units);
-    drag.handleFromWorld = inverted(worldFromHandle);
+    drag.axesFromWorld = inverted(frame.worldFromAxes());
     drag.plane = dragPlaneOf(frame, handle, sight);
     return drag;
 }
@@ -177,20 +160,15 @@ float turnAboutZ(const osg::Vec3f& from, const osg::Vec3f& to)
     return std::atan2(from.x() * to.y() - from.y() * to.x(), from.x() * to.x() + from.y() * to.y());
 }
 
-bool angleBetween(const ProjectionDrag& drag, const osg::Pnt3f& from, const osg::Pnt3f& to,
-                  float& angleRad)
+std::optional<float> angleBetween(const ProjectionDrag& drag, const osg::Pnt3f& from,
+                                  const osg::Pnt3f& to)
 {
-    // The angle is one of the object's space; the units of handle space would skew it.
-    osg::Vec3f start = mapped(drag.handleFromWorld, from).subZero();
-    for (osg::UInt32 i = 0; i < 3; ++i) {
-        start[i] *= drag.unit[i];
-    }
-    const osg::Vec3f end = start + drag.motion(from, to);
+    const osg::Vec3f start = mapped(drag.axesFromWorld, from).subZero();
+    const osg::Vec3f end = mapped(drag.axesFromWorld, to).subZero();
     if (!(std::hypot(start.x(), start.y()) > 0.0F) || !(std::hypot(end.x(), end.y()) > 0.0F)) {
-        return false;
+        return std::nullopt;
     }
-    angleRad = turnAboutZ(start, end);
-    return true;
+    return turnAboutZ(start, end);
 }
 
 float factorBetween(const ProjectionDrag& drag, const osg::Pnt3f& from, const osg::Pnt3f& to)
@@ -204,8 +182,11 @@ float factorBetween(const ProjectionDrag& drag, const osg::Pnt3f& from, const os
     }
     const osg::UInt32 axis =
         static_cast<osg::UInt32>(drag.handle) - static_cast<osg::UInt32>(Active::ScaleX);
+    const float start = mapped(drag.axesFromWorld, from)[axis];
+    // Nothing can be divided by a start at the centre.
+    const float least = kShortest * std::abs(usableLength(drag.frame.scale[axis]));
     const float factor =
-        factorOf(mapped(drag.handleFromWorld, to)[axis], mapped(drag.handleFromWorld, from)[axis]);
+        std::abs(start) < least ? 1.0F : mapped(drag.axesFromWorld, to)[axis] / start;
     const bool isMirrored = axis == 2 ? factor <= 0.0F : factor < 0.0F;
     return isMirrored ? kLeastAxisFactor : factor;
 }

@@ -9,6 +9,8 @@
 #include <OpenSG/OSGQuaternion.h>
 #include <OpenSG/OSGVector.h>
 
+#include <optional>
+
 /// Arithmetic of the planar gizmo: where a projection is, and what a drag makes of the pointer and
 /// of the projection. Numbers only.
 namespace nbec::manipulator::texture {
@@ -36,14 +38,13 @@ struct ProjectionFrame
     osg::Vec3f halfExtents() const;
 };
 
-/// What a drag has captured at its start. Handle space is that of the axes in units of the scale.
+/// What a drag has captured at its start.
 struct ProjectionDrag
 {
     PlanarActiveMode handle = PlanarActiveMode::None;
     osg::Plane plane;  ///< world
     ProjectionFrame frame;
-    osg::Vec3f unit;  ///< object units of each axis of handle space
-    osg::Matrix handleFromWorld;
+    osg::Matrix axesFromWorld;  ///< the axes at the centre, object units
 
     /// From one point of the world to another, along the axes; object units.
     osg::Vec3f motion(const osg::Pnt3f& from, const osg::Pnt3f& to) const;
@@ -65,10 +66,9 @@ osg::Vec3f offsetBetween(const ProjectionDrag& drag, const osg::Pnt3f& from, con
 /// Angle about the z axis from one place to another, radians within -pi to pi.
 float turnAboutZ(const osg::Vec3f& from, const osg::Vec3f& to);
 
-/// The same between two points of the world. @return false, and the angle untouched, for a point at
-/// the centre
-bool angleBetween(const ProjectionDrag& drag, const osg::Pnt3f& from, const osg::Pnt3f& to,
-                  float& angleRad);
+/// The same between two points of the world; nothing for a point at the centre.
+std::optional<float> angleBetween(const ProjectionDrag& drag, const osg::Pnt3f& from,
+                                  const osg::Pnt3f& to);
 
 /// Factor of a handle that scales about the centre.
 /// Deliberate: x and y accept a factor of exactly 0, z does not.

@@ -247,9 +247,8 @@ DragStep PlanarGizmo::parametersAt(const View& view, const DragTrack& before) co
     }
     const osg::Pnt3f& from = *next.start;
     if (drag.handle == Active::Rotate) {
-        float angleRad = 0.0F;
-        if (angleBetween(drag, from, *hit, angleRad)) {
-            next.turned = static_cast<double>(angleRad) * kDegPerRad;
+        if (const std::optional<float> angleRad = angleBetween(drag, from, *hit)) {
+            next.turned = static_cast<double>(*angleRad) * kDegPerRad;
         }
         return { { Kind::Angle, next.turned }, next };
     }

@@ -72,17 +72,12 @@ TriplanarPairs shiftedOffsets(const TriplanarPairs& start, osg::UInt32 axis, flo
 TriplanarPairs scaledAlong(const TriplanarPairs& start, osg::UInt32 axis, float factor)
 {
     TriplanarPairs scales = start;
-    for (const osg::UInt32 projection : projectionsWith(axis)) {
-        scales[projection][triplanarComponent(projection, axis)] *= factor;
-    }
-    return scales;
-}
-
-TriplanarPairs scaledUniformly(const TriplanarPairs& start, float factor)
-{
-    TriplanarPairs scales = start;
-    for (osg::Vec2f& pair : scales) {
-        pair *= factor;
+    for (osg::UInt32 projection = 0; projection < 3; ++projection) {
+        if (axis > 2) {
+            scales[projection] *= factor;
+        } else if (projection != axis) {
+            scales[projection][triplanarComponent(projection, axis)] *= factor;
+        }
     }
     return scales;
 }

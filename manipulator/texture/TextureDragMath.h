@@ -21,12 +21,8 @@ using TriplanarPairs = std::array<osg::Vec2f, 3>;
 /// @param shift  along the axis, units of the frame; a hundred of them are an offset of 1
 TriplanarPairs shiftedOffsets(const TriplanarPairs& start, osg::UInt32 axis, float shift);
 
-/// Scales after a drag along an axis: of the two projections that contain it.
-/// @param factor  of axisScaleFactor()
+/// Scales after a drag along an axis, of the two projections that contain it; for axis 3 all.
 TriplanarPairs scaledAlong(const TriplanarPairs& start, osg::UInt32 axis, float factor);
-
-/// Scales after a uniform drag.
-TriplanarPairs scaledUniformly(const TriplanarPairs& start, float factor);
 
 /// Ratio of two coordinates, never below 0.001. Deliberate: a start of 0 gives an infinite or an
 /// undefined factor, which is answered as it is.

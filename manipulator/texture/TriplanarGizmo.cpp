@@ -243,7 +243,6 @@ void TriplanarGizmo::apply(const DragParameters& parameters)
     }
     const bool isOffset = parameters.kind == Kind::Offset;
     const TriplanarPairs pairs = isOffset ? shiftedOffsets(startOffsets, axis(), value)
-        : axis() > 2                      ? scaledUniformly(startScales, value)
                                           : scaledAlong(startScales, axis(), value);
     // All but that of the projection along the handle's axis.
     for (osg::UInt32 i = 0; i < 3 && parameters.kind != Kind::Angle; ++i) {
