@@ -16,12 +16,12 @@ namespace nbec::manipulator {
 /// of its height, a box where the picture ends on the ring, and arrows for the centre, which keep
 /// their size on screen as the boxes do.
 ///
-/// Messages: receiver + "::changedTireManipulator", absolute values, each followed by marking the
-/// scene as modified.
+/// Messages: receiver + "::changedTireManipulator", absolute values.
 /// - Arrows: "center" (Vec3f), in the space of the anchor's node.
 /// - Ring and its box: "ScaleRadius"; boxes of the height: "ScaleHeight"; box on the ring:
 ///   "ScaleU" (each float). What is grabbed stays under the pointer; no value falls below 0.001 of
-///   its start (the part of the circumference not below 0.001).
+///   its start (the part of the circumference not below 0.001). Each is followed by marking the
+///   scene as modified.
 /// - When a drag that has sent something stops: "autoParameter" (bool), false, so that what was set
 ///   by hand is not fitted again. A drag of the U scale, which is never fitted, sends what the
 ///   material says.
@@ -33,8 +33,8 @@ namespace nbec::manipulator {
 ///   picture's end goes from there to +z as the U scale grows, and is at -y for once around.
 /// - The ring is dragged along the direction from the axle in which it was grabbed, in a plane that
 ///   faces the viewer, so that it can be dragged from any side but exactly against the view. The U
-///   scale follows the angle about the axle, with the transform gizmo's rule for rings seen at a
-///   grazing angle.
+///   scale follows the angle about the axle in the object's space, whole turns counted, with the
+///   transform gizmo's rule for rings seen at a grazing angle.
 /// - Everything is shown at the start. On-screen text tells the value while it is dragged.
 class NB_MANIPULATOR_API TireProjectionManipulator : public AnchoredTextureManipulator
 {

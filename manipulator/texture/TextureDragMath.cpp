@@ -165,10 +165,9 @@ osg::Vec2f scaledPicture(const osg::Vec2f& start, float factor, ScreenScaling ax
                                     : osg::Vec2f(start.x(), start.y() * factor);
 }
 
-float grownCircumferencePart(float start, double from, double to)
+float grownCircumferencePart(float start, double turnRad)
 {
-    const double turn = std::remainder(to - from, 2.0 * kPi);
-    return atLeastLeast(static_cast<float>(static_cast<double>(start) + turn / kPi));
+    return atLeastLeast(static_cast<float>(static_cast<double>(start) + turnRad / kPi));
 }
 
 }  // namespace nbec::manipulator::texture

@@ -71,7 +71,7 @@ osg::Vec2f scaledPicture(const osg::Vec2f& start, float factor, ScreenScaling ax
 
 /// Part of a tire's circumference after a drag about its axle: an end of the picture goes with the
 /// pointer, the other one the opposite way. Never below 0.001.
-/// @param from, to  radians from the picture's middle; the difference counts within half a turn
-float grownCircumferencePart(float start, double from, double to);
+/// @param turnRad  of the pointer, whole turns counted
+float grownCircumferencePart(float start, double turnRad);
 
 }  // namespace nbec::manipulator::texture

@@ -25,6 +25,7 @@ constexpr int kTranslateGroup = 0;
 constexpr int kRingGroup = 1;
 constexpr int kScaleGroup = 2;
 constexpr float kPi = 3.14159265F;
+constexpr double kFullTurn = 2.0 * 3.14159265358979324;
 /// Part of its start below which no length is dragged.
 constexpr float kLeastPart = 0.001F;
 /// Below this size on screen nothing can be placed relative to the gizmo.
@@ -209,7 +210,10 @@ void TireGizmo::choosePlane(const View& view, const osg::Matrix& worldFromObject
     if (handle() == Handle::ScaleU) {
         // About the axle of a mirrored object a positive turn goes by the left hand.
         const float side = worldFromObject.det3() < 0.0F ? -1.0F : 1.0F;
-        const osg::Vec3f axle = column(orthonormalised(worldFromObject), 0) * side;
+        const osg::Vec3f y = column(worldFromObject, 1);
+        osg::Vec3f axle = y.cross(column(worldFromObject, 2)) * side;
+        axle.normalize();
+        ownRing = ringDragFrame(center, axle, grabbedPoint, axle);
         ring = ringDragFrame(center, axle, grabbedPoint, sight);
         plane = osg::Plane(ring.normal, ring.center);
         return;
@@ -221,6 +225,17 @@ void TireGizmo::choosePlane(const View& view, const osg::Matrix& worldFromObject
 }
 
 // == Steps
+
+/// Angle about the axle from +y towards +z, radians, in the object's space, where the picture lies.
+/// @param hit  in the plane of the drag
+double TireGizmo::angleAt(const osg::Pnt3f& hit) const
+{
+    const osg::Vec3f arm = hit - ring.center;
+    const osg::Pnt3f place = ownRing.center + ownRing.radial * arm.dot(ring.radial) +
+        ownRing.tangent * arm.dot(ring.tangent);
+    const osg::Vec3f local = mapped(objectFromWorld, place).subZero() - start.center;
+    return std::atan2(static_cast<double>(local.z()), static_cast<double>(local.y()));
+}
 
 DragStep TireGizmo::parametersAt(const View& view, const DragTrack& before) const
 {
@@ -238,9 +253,8 @@ DragStep TireGizmo::parametersAt(const View& view, const DragTrack& before) cons
     case Handle::ScaleRadius:
         return { { Kind::Length, atLeastPart(start.radius + way, start.radius) }, next };
     case Handle::ScaleU:
-        return { { Kind::Factor,
-                   grownCircumferencePart(start.scaleU, ring.angleOf(from), ring.angleOf(*hit)) },
-                 next };
+        next.turned += std::remainder(angleAt(*hit) - angleAt(from) - before.turned, kFullTurn);
+        return { { Kind::Factor, grownCircumferencePart(start.scaleU, next.turned) }, next };
     default:
         return { { Kind::Offset, way }, next };
     }

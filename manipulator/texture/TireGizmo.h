@@ -49,6 +49,7 @@ private:
 
     TireValues readValues() const;
     osg::Vec3f chooseDirection() const;
+    double angleAt(const osg::Pnt3f& hit) const;
     void choosePlane(const View& view, const osg::Matrix& worldFromObject);
 
     osg::Vec3f sentCenter() const { return start.center + direction * sent.first(); }
@@ -58,6 +59,7 @@ private:
     osg::Plane plane;
     osg::Vec3f direction;  ///< unit vector that a linear drag goes along, object space
     RingFrame ring;  ///< of a drag about the axle
+    RingFrame ownRing;  ///< the same, not turned to the viewer
     DragParameters sent;  ///< by the last step
 };
 

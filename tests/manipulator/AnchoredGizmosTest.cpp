@@ -447,6 +447,23 @@ TEST(TireProjectionManipulator, DragsSendTheNewValue)
     }
 }
 
+TEST(TireProjectionManipulator, TheEndOfThePictureStaysUnderThePointerAllTheWayRound)
+{
+    for (const Vec3f& scale : { Vec3f(1, 1, 1), Vec3f(1, 0.5F, 1.25F), Vec3f(1, -1, 1) }) {
+        Tire at;
+        at.edit(at.core(), [&scale](const auto& node) { node->setScale(scale); });
+        at.editSettings([](const auto& values) { values->setTireScaleRadius(1.5F); });
+        at.look(Camera::Side, true);
+        ASSERT_TRUE(at.grabAt("scaleUShape", at.originOf("scaleUShape")));
+        for (const float part : { 0.5F, 0.9F, 1.2F, 1.7F, 2.3F, 1.9F, 1.1F, 0.4F, -0.5F, 0.3F }) {
+            const float angle = part * 3.14159265F;
+            const Pnt3f end = at.inWorld(Vec3f(0, std::cos(angle), std::sin(angle)) * 1.5F);
+            EXPECT_TRUE(at.drag.stepTo(at.drag.rayPixelOf(end) - at.drag.pressed));
+            EXPECT_NEAR(attribute<float>(at.last(), "ScaleU"), std::max(part, 0.001F), 0.01F);
+        }
+    }
+}
+
 TEST(TireProjectionManipulator, WhatWasSetByHandIsNotFittedAgain)
 {
     const struct

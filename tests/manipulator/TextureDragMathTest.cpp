@@ -62,13 +62,4 @@ TEST(TextureDragMath, AnAxisWithoutLengthStillGivesAFrame)
     EXPECT_NEAR(unitFrame(matrix, osg::Pnt3f()).det3(), 1.0F, 1e-6F);
 }
 
-TEST(TextureDragMath, ThePictureOfATireGrowsAtBothEnds)
-{
-    EXPECT_FLOAT_EQ(grownCircumferencePart(0.25F, 0.5, 0.5 + 0.25 * 2 * kHalfPi), 0.5F);
-    // Across the half turn, where angles start again.
-    EXPECT_FLOAT_EQ(grownCircumferencePart(1, 3.0, 3.5 - 4 * static_cast<double>(kHalfPi)),
-                    1 + 0.5F / (2 * kHalfPi));
-    EXPECT_FLOAT_EQ(grownCircumferencePart(0.25F, 0, -2), 0.001F);
-}
-
 }  // namespace nbec::manipulator::texture::test
