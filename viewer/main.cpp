@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "viewer/core/CommandLine.h"
-#include "viewer/core/Language.h"
-#include "viewer/core/Session.h"
 #include "viewer/gui/AboutBox.h"
+#include "viewer/gui/CommandLine.h"
 #include "viewer/gui/MainWindow.h"
 #include "viewer/gui/StartUp.h"
 #include "viewer/gui/WindowMemory.h"
+#include "viewer/replay/Session.h"
+#include "viewer/texts/Language.h"
 
 #include <nbKernel/nbController.h>
 #include <nbKernel/nbScenegraph.h>

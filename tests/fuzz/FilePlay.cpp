@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "tests/fuzz/FilePlay.h"
 
-#include "viewer/core/PerspectiveMatchTool.h"
-#include "viewer/core/PlatesTool.h"
-#include "viewer/core/PreparedScene.h"
-#include "viewer/core/SceneCapture.h"
-#include "viewer/core/Session.h"
-#include "viewer/core/Shapes.h"
-#include "viewer/core/Stage.h"
+#include "viewer/loading/Shapes.h"
+#include "viewer/match/PerspectiveMatchTool.h"
+#include "viewer/plates/PlatesTool.h"
+#include "viewer/replay/Session.h"
+#include "viewer/scenes/PreparedScene.h"
+#include "viewer/scenes/SceneCapture.h"
+#include "viewer/stage/Stage.h"
 
 #include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbUndoService.h>

@@ -4,9 +4,9 @@
 
     check_layers.py ROOT
 
-Each layer may include itself and the layers below it, and within platform/ so may each library; what lies in a library's
-detail/ is its own. Prints one line per include that breaks this.
-Exit status: 0 none does, 1 some do, 2 a layer or platform library is missing or has no place in the order.
+Each layer may include itself and the layers below it, and so may each library within platform/ and each room within viewer/;
+what lies in a library's detail/ is its own. Prints one line per include that breaks this.
+Exit status: 0 none does, 1 some do, 2 a layer, platform library or room is missing or has no place in the order.
 """
 
 import pathlib
@@ -22,11 +22,13 @@ FORBIDDEN = {
     "platform": [UPPER, LIBRARY],
     "manipulator": [UPPER, r"modules/"],
     "modules": [UPPER],
+    "viewer": [],
 }
-# Within platform/: each library may include those before it.
+# Within platform/ and viewer/: each library, each room may include those before it.
 PLATFORM_ORDER = ["nbUtils", "nbOpenSGExt", "nbOpenSGUtils", "nbOpenSGUberCamera", "nbOpenSGUberViewport", "nbOpenSGUberMaterial",
                   "nbOpenSGSceneplate", "nbOpenSGSelection", "nbNotification", "nbKernel", "nbKernelServices", "nbTransform",
                   "nbMaterialEditor", "nbInteraction", "nbSceneplateModule", "nbMagnifier", "nbOpenSGRenderAction"]
+VIEWER_ORDER = ["texts", "commands", "loading", "stage", "replay", "plates", "match", "textures", "scenes", "gui"]
 INCLUDE = re.compile(r'^\s*#\s*include\s*[<"]([^>"]+)[>"]')
 
 
@@ -53,6 +55,14 @@ def library_fault(own, name):
     return None
 
 
+def room_fault(path, name):
+    """What is wrong with an include of a viewer header, or None."""
+    own, other = path.parts[1], name.split("/")[1]
+    if own in VIEWER_ORDER and VIEWER_ORDER.index(other) > VIEWER_ORDER.index(own):
+        return f"{own} lies below {other}"
+    return None
+
+
 def faults(root):
     for layer, patterns in FORBIDDEN.items():
         for path in sources(root / layer):
@@ -60,10 +70,13 @@ def faults(root):
             for number, name in includes(path):
                 if any(re.match(pattern, name) for pattern in patterns):
                     yield f"{place}:{number}: {layer}/ must not include {name}"
-                elif layer == "platform" and re.match(PLATFORM, name):
+                fault = None
+                if layer == "platform" and re.match(PLATFORM, name):
                     fault = library_fault(place.parts[1], name)
-                    if fault is not None:
-                        yield f"{place}:{number}: {fault}"
+                elif layer == "viewer" and re.match(UPPER, name):
+                    fault = room_fault(place, name)
+                if fault is not None:
+                    yield f"{place}:{number}: {fault}"
 
 
 def main(arguments):
@@ -72,11 +85,12 @@ def main(arguments):
     if missing:
         print(f"no sources in {', '.join(missing)} below {root}", file=sys.stderr)
         return 2
-    libraries = {path.name for path in (root / "platform").iterdir() if path.is_dir()}
-    unordered = sorted(libraries.symmetric_difference(PLATFORM_ORDER))
-    if unordered:
-        print(f"not both in platform/ and in its order: {', '.join(unordered)}", file=sys.stderr)
-        return 2
+    for layer, order in (("platform", PLATFORM_ORDER), ("viewer", VIEWER_ORDER)):
+        rooms = {path.name for path in (root / layer).iterdir() if path.is_dir() and sources(path)}
+        unordered = sorted(rooms.symmetric_difference(order))
+        if unordered:
+            print(f"not both in {layer}/ and in its order: {', '.join(unordered)}", file=sys.stderr)
+            return 2
     found = list(faults(root))
     print("\n".join(found) if found else "all includes point downwards")
     return 1 if found else 0

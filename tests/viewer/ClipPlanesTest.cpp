@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "viewer/core/ClipPlanes.h"
+#include "viewer/stage/ClipPlanes.h"
 
 #include "tests/viewer/support/StageTest.h"
-#include "viewer/core/BuiltModel.h"
-#include "viewer/core/StartScene.h"
+#include "viewer/loading/BuiltModel.h"
+#include "viewer/loading/StartScene.h"
 
 #include <nbKernel/nbScenegraph.h>
 

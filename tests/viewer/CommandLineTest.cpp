@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "viewer/core/CommandLine.h"
+#include "viewer/gui/CommandLine.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "viewer/core/Commands.h"
+#include "viewer/commands/Commands.h"
 
 #include "tests/viewer/support/StageTest.h"
-#include "viewer/core/SessionChecks.h"
-#include "viewer/core/StageTool.h"
+#include "viewer/replay/SessionChecks.h"
+#include "viewer/stage/StageTool.h"
 
 namespace viewer {
 namespace {

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 // The program in other languages than its own.
-#include "viewer/core/Language.h"
+#include "viewer/texts/Language.h"
 
 #include "tests/viewer/support/ShownWindow.h"
-#include "viewer/core/Text.h"
 #include "viewer/gui/LogPanel.h"
 #include "viewer/gui/PanelDocks.h"
+#include "viewer/texts/Text.h"
 
 #include <nbNotification/NotificationManager.h>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The window as a person uses it, on whatever display the tests have.
 #include "tests/viewer/support/ShownWindow.h"
-#include "viewer/core/StartScene.h"
 #include "viewer/gui/SceneFileActions.h"
+#include "viewer/loading/StartScene.h"
 
 #include <QFile>
 #include <QTemporaryDir>

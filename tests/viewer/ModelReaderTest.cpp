@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "viewer/core/ModelReader.h"
+#include "viewer/loading/ModelReader.h"
 
 #include <QFile>
 #include <QTemporaryDir>

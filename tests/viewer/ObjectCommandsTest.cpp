@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "viewer/core/ObjectCommands.h"
+#include "viewer/stage/ObjectCommands.h"
 
 #include "tests/viewer/support/StageTest.h"
-#include "viewer/core/BuiltModel.h"
-#include "viewer/core/StartScene.h"
+#include "viewer/loading/BuiltModel.h"
+#include "viewer/loading/StartScene.h"
 
 #include <nbKernel/nbScenegraph.h>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/viewer/support/ShownWindow.h"
-#include "viewer/core/StartScene.h"
+#include "viewer/loading/StartScene.h"
 
 #include <nbOpenSGUtils/nbNodeUtils.h>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "viewer/core/PerspectiveMatchTool.h"
+#include "viewer/match/PerspectiveMatchTool.h"
 
 #include "tests/viewer/support/StageTest.h"
-#include "viewer/core/PerspectiveMatchCommands.h"
+#include "viewer/match/PerspectiveMatchCommands.h"
 
 #include <nbMagnifier/nbMagnifierRenderer.h>
 #include <nbOpenSGUberViewport/UberViewport.h>

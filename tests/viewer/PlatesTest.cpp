@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/viewer/support/ShownWindow.h"
-#include "viewer/core/PlatesTool.h"
+#include "viewer/plates/PlatesTool.h"
 
 #include <QDoubleSpinBox>
 #include <QLineEdit>

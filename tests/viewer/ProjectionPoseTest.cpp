@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "viewer/core/ProjectionPose.h"
+#include "viewer/textures/ProjectionPose.h"
 
 #include <gtest/gtest.h>
 

@@ -3,7 +3,7 @@
 #include "viewer/gui/SceneFileActions.h"
 
 #include "tests/viewer/support/ShownWindow.h"
-#include "viewer/core/SceneCapture.h"
+#include "viewer/scenes/SceneCapture.h"
 
 #include <QAction>
 #include <QFile>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "tests/viewer/support/SceneEdits.h"
 #include "tests/viewer/support/SceneTest.h"
-#include "viewer/core/BuiltModel.h"
-#include "viewer/core/JsonReader.h"
-#include "viewer/core/JsonWriter.h"
-#include "viewer/core/SceneDocument.h"
+#include "viewer/commands/JsonReader.h"
+#include "viewer/commands/JsonWriter.h"
+#include "viewer/loading/BuiltModel.h"
+#include "viewer/scenes/SceneDocument.h"
 
 #include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbScopedUndo.h>

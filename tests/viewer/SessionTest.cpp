@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "viewer/core/Session.h"
+#include "viewer/replay/Session.h"
 
 #include <gtest/gtest.h>
 

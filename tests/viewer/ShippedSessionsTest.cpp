@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "viewer/core/Session.h"
 #include "viewer/gui/MainWindow.h"
 #include "viewer/gui/SessionPlayer.h"
 #include "viewer/gui/ViewWidget.h"
+#include "viewer/replay/Session.h"
 
 #include <nbOpenSGRenderAction/nbOffscreenView.h>
 

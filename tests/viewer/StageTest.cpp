@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "viewer/core/Stage.h"
+#include "viewer/stage/Stage.h"
 
 #include "tests/viewer/support/StageTest.h"
-#include "viewer/core/BuiltModel.h"
-#include "viewer/core/HandleCursor.h"
+#include "viewer/loading/BuiltModel.h"
+#include "viewer/stage/HandleCursor.h"
 
 #include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "viewer/core/BuiltModel.h"
-#include "viewer/core/SurfaceMaterial.h"
+#include "viewer/loading/BuiltModel.h"
+#include "viewer/textures/SurfaceMaterial.h"
 
 #include <nbOpenSGUtils/nbNodeUtils.h>
 

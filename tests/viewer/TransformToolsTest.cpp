@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Dragging and undoing in the window, as a person does it.
 #include "tests/viewer/support/ShownWindow.h"
-#include "viewer/core/BuiltModel.h"
+#include "viewer/loading/BuiltModel.h"
 
 #include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>

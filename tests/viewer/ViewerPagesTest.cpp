@@ -2,9 +2,9 @@
 // The pages of the manual about the viewer name what it has, and nothing else; what they show can
 // be played.
 #include "tests/viewer/support/ShownWindow.h"
-#include "viewer/core/CommandLine.h"
-#include "viewer/core/Session.h"
-#include "viewer/core/SessionNames.h"
+#include "viewer/gui/CommandLine.h"
+#include "viewer/replay/Session.h"
+#include "viewer/replay/SessionNames.h"
 
 #include <QFile>
 #include <QRegularExpression>

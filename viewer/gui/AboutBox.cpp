@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/gui/AboutBox.h"
 
-#include "viewer/core/ModelReader.h"
 #include "viewer/gui/ThemeIcon.h"
+#include "viewer/loading/ModelReader.h"
 
 #include <nbInteraction/Picker.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "viewer/core/HandleCursor.h"
+#include "viewer/stage/HandleCursor.h"
 
 #include <QCursor>
 

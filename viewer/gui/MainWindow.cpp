@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/gui/MainWindow.h"
 
-#include "viewer/core/ModelReader.h"
-#include "viewer/core/StageTool.h"
-#include "viewer/core/StageTools.h"
 #include "viewer/gui/CaptionBar.h"
 #include "viewer/gui/LogPanel.h"
 #include "viewer/gui/MessageBar.h"
@@ -11,11 +8,14 @@
 #include "viewer/gui/SceneFileActions.h"
 #include "viewer/gui/SessionPlayer.h"
 #include "viewer/gui/SessionRecorder.h"
+#include "viewer/gui/StageTools.h"
 #include "viewer/gui/StatusLine.h"
 #include "viewer/gui/ToolBars.h"
 #include "viewer/gui/ViewWidget.h"
 #include "viewer/gui/WindowActions.h"
 #include "viewer/gui/WindowMemory.h"
+#include "viewer/loading/ModelReader.h"
+#include "viewer/stage/StageTool.h"
 
 #include <QCloseEvent>
 #include <QFileDialog>

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "viewer/core/GizmoController.h"
-#include "viewer/core/Language.h"
-#include "viewer/core/SceneDocument.h"
-#include "viewer/core/Session.h"
 #include "viewer/gui/FullScreen.h"
 #include "viewer/gui/ModelLoader.h"
 #include "viewer/gui/Theme.h"
+#include "viewer/replay/Session.h"
+#include "viewer/scenes/SceneDocument.h"
+#include "viewer/stage/GizmoController.h"
+#include "viewer/texts/Language.h"
 
 #include <OpenSG/OSGConfig.h>
 #include <OpenSG/OSGVector.h>

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 // Replaying and recording, the part of the window that has to do with sessions.
-#include "viewer/core/SceneCapture.h"
-#include "viewer/core/SessionStart.h"
 #include "viewer/gui/MainWindow.h"
 #include "viewer/gui/SceneFileActions.h"
 #include "viewer/gui/SessionPlayer.h"
 #include "viewer/gui/SessionRecorder.h"
 #include "viewer/gui/ViewWidget.h"
 #include "viewer/gui/WindowActions.h"
+#include "viewer/replay/SessionStart.h"
+#include "viewer/scenes/SceneCapture.h"
 
 #include <QFileDialog>
 #include <QFileInfo>

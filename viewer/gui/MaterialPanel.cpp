@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/gui/MaterialPanel.h"
 
-#include "viewer/core/PictureFile.h"
-#include "viewer/core/Stage.h"
 #include "viewer/gui/MaterialPicture.h"
 #include "viewer/gui/PanelScrollArea.h"
 #include "viewer/gui/VectorEdit.h"
+#include "viewer/loading/PictureFile.h"
+#include "viewer/stage/Stage.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>

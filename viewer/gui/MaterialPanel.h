@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "viewer/core/TextureTool.h"
 #include "viewer/gui/Panel.h"
+#include "viewer/textures/TextureTool.h"
 
 #include <QJsonArray>
 #include <QMap>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/gui/MaterialPicture.h"
 
-#include "viewer/core/TextureTarget.h"
+#include "viewer/textures/TextureTarget.h"
 
 #include <nbOpenSGUtils/nbEdit.h>
 

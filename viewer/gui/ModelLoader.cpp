@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/gui/ModelLoader.h"
 
-#include "viewer/core/ModelReader.h"
+#include "viewer/loading/ModelReader.h"
 
 #include <nbInteraction/PickTreeBuilder.h>
 

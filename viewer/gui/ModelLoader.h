@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "viewer/core/BuiltModel.h"
-#include "viewer/core/ModelData.h"
+#include "viewer/loading/BuiltModel.h"
+#include "viewer/loading/ModelData.h"
 
 #include <QObject>
 #include <QStringList>

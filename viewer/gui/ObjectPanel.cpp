@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/gui/ObjectPanel.h"
 
-#include "viewer/core/Stage.h"
 #include "viewer/gui/VectorEdit.h"
+#include "viewer/stage/Stage.h"
 
 #include <QCheckBox>
 #include <QFormLayout>

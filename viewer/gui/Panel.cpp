@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/gui/Panel.h"
 
-#include "viewer/core/Stage.h"
+#include "viewer/stage/Stage.h"
 
 #include <QSlider>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "viewer/core/Commands.h"
+#include "viewer/commands/Commands.h"
 
 #include <QJsonValue>
 #include <QWidget>

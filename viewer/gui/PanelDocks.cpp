@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/gui/PanelDocks.h"
 
-#include "viewer/core/Stage.h"
-#include "viewer/core/StageTools.h"
 #include "viewer/gui/LogPanel.h"
 #include "viewer/gui/MaterialPanel.h"
 #include "viewer/gui/ObjectPanel.h"
@@ -10,6 +8,8 @@
 #include "viewer/gui/PerspectiveMatchPanel.h"
 #include "viewer/gui/PlatesPanel.h"
 #include "viewer/gui/ScenePanel.h"
+#include "viewer/gui/StageTools.h"
+#include "viewer/stage/Stage.h"
 
 #include <nbKernelServices/nbUndoService.h>
 

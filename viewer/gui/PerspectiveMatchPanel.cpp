@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/gui/PerspectiveMatchPanel.h"
 
-#include "viewer/core/PerspectiveMatchCommands.h"
-#include "viewer/core/PictureFile.h"
-#include "viewer/core/Stage.h"
+#include "viewer/loading/PictureFile.h"
+#include "viewer/match/PerspectiveMatchCommands.h"
+#include "viewer/stage/Stage.h"
 
 #include <QCheckBox>
 #include <QComboBox>

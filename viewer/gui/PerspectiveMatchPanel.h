@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "viewer/core/PerspectiveMatchTool.h"
 #include "viewer/gui/Panel.h"
+#include "viewer/match/PerspectiveMatchTool.h"
 
 #include <array>
 

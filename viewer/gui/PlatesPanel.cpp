@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/gui/PlatesPanel.h"
 
-#include "viewer/core/PictureFile.h"
-#include "viewer/core/PlateField.h"
-#include "viewer/core/PlateText.h"
-#include "viewer/core/Stage.h"
 #include "viewer/gui/ThemeIcon.h"
 #include "viewer/gui/VectorEdit.h"
+#include "viewer/loading/PictureFile.h"
+#include "viewer/plates/PlateField.h"
+#include "viewer/plates/PlateText.h"
+#include "viewer/stage/Stage.h"
 
 #include <nbOpenSGSceneplate/nbSceneplateList.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "viewer/core/PlatesTool.h"
 #include "viewer/gui/Panel.h"
+#include "viewer/plates/PlatesTool.h"
 
 #include <QColor>
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/gui/SceneFileActions.h"
 
-#include "viewer/core/JsonReader.h"
-#include "viewer/core/PreparedScene.h"
-#include "viewer/core/SceneCapture.h"
-#include "viewer/core/Stage.h"
+#include "viewer/commands/JsonReader.h"
 #include "viewer/gui/ModelLoader.h"
+#include "viewer/scenes/PreparedScene.h"
+#include "viewer/scenes/SceneCapture.h"
+#include "viewer/stage/Stage.h"
 
 #include <nbKernelServices/nbUndoService.h>
 

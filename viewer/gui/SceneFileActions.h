@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "viewer/core/SceneDocument.h"
+#include "viewer/scenes/SceneDocument.h"
 
 #include <QMessageBox>
 #include <QObject>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/gui/ScenePanel.h"
 
-#include "viewer/core/ObjectCommands.h"
-#include "viewer/core/Stage.h"
+#include "viewer/stage/ObjectCommands.h"
+#include "viewer/stage/Stage.h"
 
 #include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>

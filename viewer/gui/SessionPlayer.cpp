@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/gui/SessionPlayer.h"
 
-#include "viewer/core/SessionChecks.h"
-#include "viewer/core/SessionTargets.h"
 #include "viewer/gui/CaptionBar.h"
 #include "viewer/gui/ViewWidget.h"
+#include "viewer/replay/SessionChecks.h"
+#include "viewer/replay/SessionTargets.h"
 
 #include <QAction>
 #include <QCoreApplication>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "viewer/core/Session.h"
+#include "viewer/replay/Session.h"
 
 #include <QDir>
 #include <QEvent>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/gui/SessionTour.h"
 
-#include "viewer/core/Session.h"
-#include "viewer/core/TextFile.h"
 #include "viewer/gui/MainWindow.h"
 #include "viewer/gui/SessionPlayer.h"
+#include "viewer/replay/Session.h"
+#include "viewer/texts/TextFile.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

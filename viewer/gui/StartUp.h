@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "viewer/core/CommandLine.h"
-#include "viewer/core/Session.h"
+#include "viewer/gui/CommandLine.h"
+#include "viewer/replay/Session.h"
 
 #include <QObject>
 

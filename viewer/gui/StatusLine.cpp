@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/gui/StatusLine.h"
 
-#include "viewer/core/Stage.h"
-#include "viewer/core/StageTool.h"
 #include "viewer/gui/ThemeIcon.h"
+#include "viewer/stage/Stage.h"
+#include "viewer/stage/StageTool.h"
 
 #include <QFileInfo>
 #include <QLabel>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/gui/StepsPanel.h"
 
-#include "viewer/core/GizmoController.h"
+#include "viewer/stage/GizmoController.h"
 
 #include <nbTransform/nbTransformModel.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/gui/ViewWidget.h"
 
-#include "viewer/core/Commands.h"
+#include "viewer/commands/Commands.h"
 #include "viewer/gui/CursorShapes.h"
 #include "viewer/gui/SelectionRectangle.h"
 #include "viewer/gui/TextPainter.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "viewer/core/HandleCursor.h"
-#include "viewer/core/Stage.h"
+#include "viewer/stage/HandleCursor.h"
+#include "viewer/stage/Stage.h"
 
 #include <nbInteraction/InputTranslator.h>
 #include <nbKernel/nbOSGWidget.h>

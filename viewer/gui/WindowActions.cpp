@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/gui/WindowActions.h"
 
-#include "viewer/core/Stage.h"
 #include "viewer/gui/AboutBox.h"
 #include "viewer/gui/MainWindow.h"
 #include "viewer/gui/PanelDocks.h"
@@ -10,6 +9,7 @@
 #include "viewer/gui/StepsPanel.h"
 #include "viewer/gui/ThemeIcon.h"
 #include "viewer/gui/ViewWidget.h"
+#include "viewer/stage/Stage.h"
 
 #include <nbKernelServices/nbUndoService.h>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "viewer/core/GizmoController.h"
-#include "viewer/core/Language.h"
 #include "viewer/gui/Theme.h"
+#include "viewer/stage/GizmoController.h"
+#include "viewer/texts/Language.h"
 
 #include <QObject>
 #include <QStringList>

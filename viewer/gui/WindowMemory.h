@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "viewer/core/Language.h"
 #include "viewer/gui/Theme.h"
+#include "viewer/texts/Language.h"
 
 #include <QByteArray>
 #include <QStringList>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "viewer/core/ClipPlanes.h"
-#include "viewer/core/ObjectCommands.h"
-#include "viewer/core/Stage.h"
+#include "viewer/stage/ClipPlanes.h"
+#include "viewer/stage/ObjectCommands.h"
+#include "viewer/stage/Stage.h"
 
 #include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbScopedUndo.h>

@@ -2,13 +2,13 @@
 #pragma once
 
 #include "tests/viewer/support/StageTest.h"
-#include "viewer/core/ModelReader.h"
-#include "viewer/core/PerspectiveMatchTool.h"
-#include "viewer/core/PlatesTool.h"
-#include "viewer/core/PreparedScene.h"
-#include "viewer/core/SceneCapture.h"
-#include "viewer/core/TextureCommands.h"
-#include "viewer/core/TextureTool.h"
+#include "viewer/loading/ModelReader.h"
+#include "viewer/match/PerspectiveMatchTool.h"
+#include "viewer/plates/PlatesTool.h"
+#include "viewer/scenes/PreparedScene.h"
+#include "viewer/scenes/SceneCapture.h"
+#include "viewer/textures/TextureCommands.h"
+#include "viewer/textures/TextureTool.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "viewer/core/SessionChecks.h"
-#include "viewer/core/SessionTargets.h"
-#include "viewer/core/Stage.h"
+#include "viewer/replay/SessionChecks.h"
+#include "viewer/replay/SessionTargets.h"
+#include "viewer/stage/Stage.h"
 
 #include <nbInteraction/EventNames.h>
 #include <nbInteraction/InteractionEvent.h>

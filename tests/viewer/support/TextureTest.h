@@ -2,8 +2,8 @@
 #pragma once
 
 #include "tests/viewer/support/StageTest.h"
-#include "viewer/core/TextureCommands.h"
-#include "viewer/core/TextureTool.h"
+#include "viewer/textures/TextureCommands.h"
+#include "viewer/textures/TextureTool.h"
 
 #include <nbKernel/nbScenegraph.h>
 

@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/commands/Commands.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <cmath>
+#include <utility>
+
+namespace viewer {
+namespace {
+
+template <class Map>
+void removeWithPrefix(Map& map, const QString& prefix)
+{
+    for (auto entry = map.begin(); entry != map.end();) {
+        entry = entry->first.startsWith(prefix) ? map.erase(entry) : std::next(entry);
+    }
+}
+
+template <class Map>
+QStringList namesIn(const Map& map)
+{
+    QStringList all;
+    for (const auto& entry : map) {
+        all.append(entry.first);
+    }
+    return all;
+}
+
+bool areNear(const QJsonArray& found, const QJsonArray& expected, double tolerance)
+{
+    if (found.size() != expected.size()) {
+        return false;
+    }
+    for (int i = 0; i < found.size(); ++i) {
+        if (!isNear(found.at(i), expected.at(i), tolerance)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool areNear(const QJsonObject& found, const QJsonObject& expected, double tolerance)
+{
+    for (auto entry = expected.begin(); entry != expected.end(); ++entry) {
+        if (!isNear(found.value(entry.key()), entry.value(), tolerance)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+}  // namespace
+
+void Commands::add(const QString& name, Run run)
+{
+    commands[name] = std::move(run);
+}
+
+void Commands::addValue(const QString& name, Read read)
+{
+    values[name] = std::move(read);
+}
+
+void Commands::remove(const QString& prefix)
+{
+    removeWithPrefix(commands, prefix);
+    removeWithPrefix(values, prefix);
+}
+
+bool Commands::run(const QString& name, const QJsonValue& value, QString& error, Moment moment)
+{
+    const auto found = commands.find(name);
+    if (found == commands.end()) {
+        error = QStringLiteral("there is no command \"%1\"").arg(name);
+        return false;
+    }
+    // A command may replace itself while it runs.
+    const Run command = found->second;
+    if (!command(value, error)) {
+        return false;
+    }
+    if (listener) {
+        listener(name, value, moment);
+    }
+    return true;
+}
+
+std::optional<QJsonValue> Commands::value(const QString& name) const
+{
+    const auto found = values.find(name);
+    return found == values.end() ? std::nullopt : std::make_optional(found->second());
+}
+
+QStringList Commands::names() const
+{
+    return namesIn(commands);
+}
+
+QStringList Commands::valueNames() const
+{
+    return namesIn(values);
+}
+
+void Commands::setListener(Listener newListener)
+{
+    listener = std::move(newListener);
+}
+
+void Commands::setFolder(const QDir& newFolder)
+{
+    folder = newFolder;
+}
+
+QString Commands::filePath(const QString& name) const
+{
+    return QDir::cleanPath(folder.absoluteFilePath(name));
+}
+
+bool isNear(const QJsonValue& found, const QJsonValue& expected, double tolerance)
+{
+    if (found.type() != expected.type()) {
+        return false;
+    }
+    switch (expected.type()) {
+    case QJsonValue::Double:
+        return std::abs(found.toDouble() - expected.toDouble()) <= tolerance;
+    case QJsonValue::Array:
+        return areNear(found.toArray(), expected.toArray(), tolerance);
+    case QJsonValue::Object:
+        return areNear(found.toObject(), expected.toObject(), tolerance);
+    default:
+        return found == expected;
+    }
+}
+
+QString textOf(const QJsonValue& value)
+{
+    // A document holds no plain values.
+    const QByteArray text = QJsonDocument(QJsonArray { value }).toJson(QJsonDocument::Compact);
+    return QString::fromUtf8(text.mid(1, text.size() - 2));
+}
+
+}  // namespace viewer

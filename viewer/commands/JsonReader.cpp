@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/commands/JsonReader.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include <cmath>
+#include <limits>
+
+namespace viewer {
+namespace {
+
+constexpr double kMaxCoordinate = 1e9;
+
+/// "line 3, column 7" of a byte in a text; both count from 1.
+QString placeInText(const QByteArray& text, int offset)
+{
+    const QByteArray before = text.left(offset);
+    const int line = before.count('\n') + 1;
+    const int column = offset - before.lastIndexOf('\n');
+    return QStringLiteral("line %1, column %2").arg(line).arg(column);
+}
+
+/// A number as exactJson() writes it; not finite if it is none of the type.
+template <class Number>
+Number exactNumber(const QJsonValue& value)
+{
+    if (value == QJsonValue(QStringLiteral("-0"))) {
+        return Number(-0.0);
+    }
+    const double read = value.isDouble() ? value.toDouble() : NAN;
+    const bool isInRange = std::abs(read) <= double(std::numeric_limits<Number>::max());
+    return isInRange ? static_cast<Number>(read) : std::numeric_limits<Number>::quiet_NaN();
+}
+
+template <class Number>
+bool readExactArray(const QJsonValue& value, Number* numbers, int count)
+{
+    const QJsonArray array = value.toArray();
+    bool areNumbers = value.isArray() && array.size() == count;
+    for (int i = 0; areNumbers && i < count; ++i) {
+        numbers[i] = exactNumber<Number>(array.at(i));
+        areNumbers = std::isfinite(numbers[i]);
+    }
+    return areNumbers;
+}
+
+/// What is quoted from a file may have several lines, or be very long.
+QString oneLine(QString text)
+{
+    constexpr int kLongest = 400;
+    for (QChar& letter : text) {
+        if (!letter.isPrint() && !letter.isSurrogate()) {
+            letter = QLatin1Char(' ');
+        }
+    }
+    return text.size() > kLongest ? text.left(kLongest) + QStringLiteral("...") : text;
+}
+
+}  // namespace
+
+bool JsonReader::fail(const QString& path, const QString& what)
+{
+    error = oneLine(path.isEmpty() ? what : path + QStringLiteral(": ") + what);
+    return false;
+}
+
+bool JsonReader::checkKeys(const QJsonObject& object, const QString& path, const QStringList& known)
+{
+    for (const QString& key : object.keys()) {
+        if (!known.contains(key)) {
+            return fail(path, QStringLiteral("unknown entry \"%1\"").arg(key));
+        }
+    }
+    return true;
+}
+
+bool JsonReader::readNumbers(const QJsonValue& value, const QString& path, double* numbers,
+                             int count)
+{
+    const QJsonArray array = value.toArray();
+    if (!value.isArray() || array.size() != count) {
+        return fail(path, QStringLiteral("expected an array of %1 numbers").arg(count));
+    }
+    for (int i = 0; i < count; ++i) {
+        numbers[i] = array.at(i).toDouble(NAN);
+        if (!array.at(i).isDouble() || !(std::abs(numbers[i]) <= kMaxCoordinate)) {
+            return fail(path, QStringLiteral("expected an array of %1 numbers").arg(count));
+        }
+    }
+    return true;
+}
+
+bool JsonReader::readExact(const QJsonValue& value, const QString& path, float* numbers, int count)
+{
+    return readExactArray(value, numbers, count) ||
+        fail(path, QStringLiteral("expected an array of %1 numbers").arg(count));
+}
+
+bool JsonReader::readExact(const QJsonValue& value, const QString& path, double* numbers, int count)
+{
+    return readExactArray(value, numbers, count) ||
+        fail(path, QStringLiteral("expected an array of %1 numbers").arg(count));
+}
+
+bool JsonReader::readExact(const QJsonValue& value, const QString& path, float& number)
+{
+    number = exactNumber<float>(value);
+    return std::isfinite(number) || fail(path, QStringLiteral("expected a number"));
+}
+
+bool JsonReader::readString(const QJsonValue& value, const QString& path, QString& text)
+{
+    if (!value.isString()) {
+        return fail(path, QStringLiteral("expected a text"));
+    }
+    text = value.toString();
+    return true;
+}
+
+bool JsonReader::readBool(const QJsonValue& value, const QString& path, bool& flag)
+{
+    if (!value.isBool()) {
+        return fail(path, QStringLiteral("expected true or false"));
+    }
+    flag = value.toBool();
+    return true;
+}
+
+bool JsonReader::readInt(const QJsonValue& value, const QString& path, int limit, int& number)
+{
+    const double read = value.toDouble(NAN);
+    if (!value.isDouble() || read != std::floor(read) || !(std::abs(read) <= limit)) {
+        return fail(path, QStringLiteral("expected a whole number up to %1").arg(limit));
+    }
+    number = static_cast<int>(read);
+    return true;
+}
+
+std::optional<QJsonObject> parseJsonObject(const QByteArray& text, QString& error)
+{
+    QJsonParseError jsonError;
+    const QJsonDocument document = QJsonDocument::fromJson(text, &jsonError);
+    if (document.isNull()) {
+        error = QStringLiteral("%1: %2").arg(placeInText(text, jsonError.offset),
+                                             jsonError.errorString());
+        return std::nullopt;
+    }
+    if (!document.isObject()) {
+        error = QStringLiteral("expected a JSON object");
+        return std::nullopt;
+    }
+    return document.object();
+}
+
+}  // namespace viewer

@@ -1,0 +1,205 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/loading/BuiltModel.h"
+
+#include <nbKernel/nbScenegraph.h>
+#include <nbOpenSGRenderAction/nbImageConvert.h>
+#include <nbOpenSGUtils/nbEdit.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
+
+#include <OpenSG/OSGGeometry.h>
+#include <OpenSG/OSGNodePtr.h>
+#include <OpenSG/OSGSimpleMaterial.h>
+#include <OpenSG/OSGTextureChunk.h>
+#include <OpenSG/OSGTransform.h>
+
+namespace viewer {
+namespace {
+
+osg::Color3f colorOf(const Rgb& rgb)
+{
+    return { rgb[0], rgb[1], rgb[2] };
+}
+
+osg::MaterialPtr makeMaterial(const MaterialData& data)
+{
+    osg::SimpleMaterialPtr material = osg::SimpleMaterial::create();
+    const nbEdit edit(material, osg::FieldBits::AllFields);
+    material->setDiffuse(colorOf(data.diffuse));
+    material->setSpecular(colorOf(data.specular));
+    material->setEmission(colorOf(data.emission));
+    material->setShininess(data.shininess);
+    material->setTransparency(1.0F - data.opacity);
+    material->setLit(true);
+    if (!data.texture.isNull()) {
+        osg::ImagePtr image = nbImageConvert::toImage(data.texture);
+        osg::TextureChunkPtr texture = osg::TextureChunk::create();
+        const nbEdit textureEdit(texture, osg::FieldBits::AllFields);
+        texture->setImage(image);
+        texture->setEnvMode(GL_MODULATE);
+        material->addChunk(texture);
+    }
+    return material;
+}
+
+template <class Property, class Value, class Source, class Convert>
+typename Property::Ptr makeProperty(const std::vector<Source>& source, Convert convert)
+{
+    typename Property::Ptr property = Property::create();
+    const nbEdit edit(property, osg::FieldBits::AllFields);
+    auto& field = property->getField();
+    field.reserve(source.size());
+    for (const Source& value : source) {
+        field.push_back(Value(convert(value)));
+    }
+    return property;
+}
+
+void setOptionalProperties(const MeshData& mesh, const osg::GeometryPtr& geometry)
+{
+    const std::size_t count = mesh.positions.size();
+    if (mesh.normals.size() == count) {
+        geometry->setNormals(makeProperty<osg::GeoNormals3f, osg::Vec3f>(
+            mesh.normals, [](const Vec3& n) { return osg::Vec3f(n[0], n[1], n[2]); }));
+    }
+    if (mesh.texCoords.size() == count) {
+        geometry->setTexCoords(makeProperty<osg::GeoTexCoords2f, osg::Vec2f>(
+            mesh.texCoords, [](const std::array<float, 2>& t) { return osg::Vec2f(t[0], t[1]); }));
+    }
+    if (mesh.colors.size() == count) {
+        geometry->setColors(makeProperty<osg::GeoColors4ub, osg::Color4ub>(
+            mesh.colors, [](const std::array<std::uint8_t, 4>& c) {
+                return osg::Color4ub(c[0], c[1], c[2], c[3]);
+            }));
+    }
+}
+
+osg::GeometryPtr makeGeometry(const MeshData& mesh, const osg::MaterialPtr& material)
+{
+    osg::GeometryPtr geometry = osg::Geometry::create();
+    const nbEdit edit(geometry, osg::FieldBits::AllFields);
+    osg::GeoPTypesUI8Ptr types = osg::GeoPTypesUI8::create();
+    types->push_back(GL_TRIANGLES);
+    osg::GeoPLengthsUI32Ptr lengths = osg::GeoPLengthsUI32::create();
+    lengths->push_back(static_cast<osg::UInt32>(mesh.triangles.size()));
+    geometry->setTypes(types);
+    geometry->setLengths(lengths);
+    geometry->setPositions(makeProperty<osg::GeoPositions3f, osg::Pnt3f>(
+        mesh.positions, [](const Vec3& p) { return osg::Pnt3f(p[0], p[1], p[2]); }));
+    setOptionalProperties(mesh, geometry);
+    geometry->setIndices(makeProperty<osg::GeoIndicesUI32, osg::UInt32>(
+        mesh.triangles, [](std::uint32_t index) { return index; }));
+    geometry->setMaterial(material);
+    return geometry;
+}
+
+/// Geometries of a model, made once each however many nodes show them.
+class Builder
+{
+public:
+    explicit Builder(const ModelData& source)
+        : model(source)
+    {
+        for (const MaterialData& material : model.materials) {
+            materials.emplace_back(makeMaterial(material));
+        }
+        geometries.resize(model.meshes.size());
+    }
+
+    osg::NodePtr build(const NodeData& data)
+    {
+        osg::TransformPtr transform = osg::Transform::create();
+        osg::Matrix matrix;
+        matrix.setValue(data.matrix.data());
+        {
+            const nbEdit edit(transform, osg::Transform::MatrixFieldMask);
+            transform->setMatrix(matrix);
+        }
+        osg::NodePtr node = osg::makeNodeFor(transform);
+        nbNodeUtils::setName(node, data.name.toStdString());
+        const nbEdit edit(node, osg::Node::ChildrenFieldMask);
+        for (const std::size_t mesh : data.meshes) {
+            osg::NodePtr leaf = osg::makeNodeFor(geometryOf(mesh));
+            const QString& name = model.meshes[mesh].name;
+            nbNodeUtils::setName(leaf, (name.isEmpty() ? data.name : name).toStdString());
+            node->addChild(leaf);
+        }
+        for (const NodeData& child : data.children) {
+            node->addChild(build(child));
+        }
+        return node;
+    }
+
+private:
+    osg::GeometryPtr geometryOf(std::size_t mesh)
+    {
+        if (geometries[mesh] == osg::NullFC) {
+            geometries[mesh] =
+                makeGeometry(model.meshes[mesh], materials[model.meshes[mesh].material].get());
+        }
+        return geometries[mesh].get();
+    }
+
+    const ModelData& model;
+    std::vector<osg::RefPtr<osg::MaterialPtr>> materials;
+    std::vector<osg::RefPtr<osg::GeometryPtr>> geometries;
+};
+
+void collectSurfaces(const osg::NodePtr& node, std::vector<osg::NodePtr>& objects)
+{
+    if (node == osg::NullFC || nbNodeUtils::isAuxiliaryNode(node)) {
+        return;
+    }
+    if (osg::GeometryPtr::dcast(node->getCore()) != osg::NullFC) {
+        const osg::NodePtr object = objectOf(node);
+        if (std::find(objects.begin(), objects.end(), object) == objects.end()) {
+            objects.push_back(object);
+        }
+    }
+    for (osg::UInt32 i = 0; i < node->getNChildren(); ++i) {
+        collectSurfaces(node->getChild(i), objects);
+    }
+}
+
+}  // namespace
+
+osg::NodePtr buildScene(const ModelData& model)
+{
+    return Builder(model).build(model.root);
+}
+
+BuiltModel buildModel(const ModelData& model)
+{
+    return { osg::RefPtr<osg::NodePtr>(buildScene(model)), model.triangleCount(), model.warnings,
+             model.file, model.builtIn };
+}
+
+osg::NodePtr objectOf(const osg::NodePtr& node)
+{
+    const osg::NodePtr object = nbNodeUtils::resolveToTransformNode(node);
+    return nbNodeUtils::hasParent(object, nbScenegraph::getRootNode()) ? object : osg::NodePtr();
+}
+
+osg::NodePtr findObject(const osg::NodePtr& root, const std::string& name)
+{
+    if (root == osg::NullFC) {
+        return {};
+    }
+    if (objectOf(root) == root && nbNodeUtils::getName(root) == name) {
+        return root;
+    }
+    for (osg::UInt32 i = 0; i < root->getNChildren(); ++i) {
+        if (const osg::NodePtr found = findObject(root->getChild(i), name); found != osg::NullFC) {
+            return found;
+        }
+    }
+    return {};
+}
+
+std::vector<osg::NodePtr> objectsWithSurface(const osg::NodePtr& root)
+{
+    std::vector<osg::NodePtr> objects;
+    collectSurfaces(root, objects);
+    return objects;
+}
+
+}  // namespace viewer

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "viewer/loading/ModelData.h"
+
+#include <OpenSG/OSGConfig.h>
+#include <OpenSG/OSGNode.h>
+#include <OpenSG/OSGRefPtr.h>
+
+#include <string>
+#include <vector>
+
+namespace viewer {
+
+/// Makes scene graph nodes of a model: a node with a Transform core for each node of the model,
+/// below it a named node with a Geometry core for each mesh. Belongs to the user-interface thread.
+/// @return the root, reference count 0; never null
+osg::NodePtr buildScene(const ModelData& model);
+
+/// A model as nodes that are not in the scene yet. Belongs to the user-interface thread.
+struct BuiltModel
+{
+    osg::RefPtr<osg::NodePtr> root;  ///< never null
+    std::size_t triangles = 0;
+    QStringList warnings;  ///< those of the model
+    QString file;  ///< as ModelData::file
+    QString builtIn;  ///< as ModelData::builtIn
+};
+
+/// Makes the nodes of a model, as buildScene(), and keeps what else is to be known of it.
+BuiltModel buildModel(const ModelData& model);
+
+/// The object that a picked or selected node stands for: the nearest node with a Transform core
+/// from it upwards.
+/// @return null for null, and above the scene root
+osg::NodePtr objectOf(const osg::NodePtr& node);
+
+/// First node below a root, in tree order, of a name that objectOf() could return; null if there is
+/// none.
+osg::NodePtr findObject(const osg::NodePtr& root, const std::string& name);
+
+/// The objects from a root on that have geometry of their own, each once: those that a click could
+/// select.
+std::vector<osg::NodePtr> objectsWithSurface(const osg::NodePtr& root);
+
+}  // namespace viewer

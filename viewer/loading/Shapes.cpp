@@ -1,0 +1,271 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/loading/Shapes.h"
+
+#include <algorithm>
+#include <cmath>
+#include <functional>
+
+// NOLINTBEGIN(readability-magic-numbers): the coefficients of curves say nothing by a name.
+namespace viewer {
+namespace {
+
+constexpr float kPi = 3.14159265F;
+constexpr float kTwoPi = 2.0F * kPi;
+
+/// Step of the differences that give normals, in parameters 0 .. 1.
+constexpr float kDifference = 1e-3F;
+
+using Vec2 = std::array<float, 2>;
+
+/// A point of a curved surface for parameters u and v, each 0 .. 1.
+using SurfaceFunction = std::function<Vec3(float u, float v)>;
+
+/// How finely a surface is cut, and where its ends meet.
+struct SurfaceGrid
+{
+    unsigned uSteps = 1;  ///< pieces along u, > 0
+    unsigned vSteps = 1;  ///< pieces along v, > 0
+    bool uCloses = false;  ///< u = 0 and u = 1 are the same place
+    bool vCloses = false;
+};
+
+Vec3 operator-(const Vec3& a, const Vec3& b)
+{
+    return { a[0] - b[0], a[1] - b[1], a[2] - b[2] };
+}
+
+Vec3 operator+(const Vec3& a, const Vec3& b)
+{
+    return { a[0] + b[0], a[1] + b[1], a[2] + b[2] };
+}
+
+Vec3 operator*(float s, const Vec3& a)
+{
+    return { s * a[0], s * a[1], s * a[2] };
+}
+
+Vec3 cross(const Vec3& a, const Vec3& b)
+{
+    return { a[1] * b[2] - a[2] * b[1], a[2] * b[0] - a[0] * b[2], a[0] * b[1] - a[1] * b[0] };
+}
+
+float length(const Vec3& a)
+{
+    return std::sqrt(a[0] * a[0] + a[1] * a[1] + a[2] * a[2]);
+}
+
+/// Unit vector; a vector without length comes back as it is.
+Vec3 unit(const Vec3& a)
+{
+    const float size = length(a);
+    return size > 0.0F ? (1.0F / size) * a : a;
+}
+
+/// Parameter beside another one, on the surface still.
+float beside(float at, float step, bool closes)
+{
+    const float moved = at + step;
+    return closes ? moved - std::floor(moved) : std::clamp(moved, 0.0F, 1.0F);
+}
+
+Vec3 tangent(const SurfaceFunction& surface, const SurfaceGrid& grid, Vec2 at, bool alongU)
+{
+    const bool closes = alongU ? grid.uCloses : grid.vCloses;
+    const auto place = [&](float step) {
+        const float moved = beside(alongU ? at[0] : at[1], step, closes);
+        return alongU ? surface(moved, at[1]) : surface(at[0], moved);
+    };
+    return place(kDifference) - place(-kDifference);
+}
+
+Vec3 normalAt(const SurfaceFunction& surface, const SurfaceGrid& grid, float u, float v)
+{
+    // At a pole, where all u are one place, the normal is that of a place just beside it.
+    const float margin = grid.vCloses ? 0.0F : 2.0F * kDifference;
+    const Vec2 at { u, std::clamp(v, margin, 1.0F - margin) };
+    return unit(cross(tangent(surface, grid, at, true), tangent(surface, grid, at, false)));
+}
+
+/// Point of the curve through four corners between the second and the third (Catmull-Rom), per
+/// coordinate.
+float through(float a, float b, float c, float d, float t)
+{
+    return 0.5F *
+        (2.0F * b + (c - a) * t + (2.0F * a - 5.0F * b + 4.0F * c - d) * t * t +
+         (3.0F * b - a - 3.0F * c + d) * t * t * t);
+}
+
+/// Point of the smooth curve through corners, t from 0 to 1 over all of them.
+Vec2 curvePoint(const std::vector<Vec2>& corners, float t)
+{
+    const int last = static_cast<int>(corners.size()) - 1;
+    const float place = t * static_cast<float>(last);
+    const int piece = std::min(static_cast<int>(place), last - 1);
+    const auto corner = [&](int i) {
+        return corners[static_cast<std::size_t>(std::clamp(i, 0, last))];
+    };
+    Vec2 point {};
+    for (std::size_t axis = 0; axis < 2; ++axis) {
+        point[axis] = through(corner(piece - 1)[axis], corner(piece)[axis], corner(piece + 1)[axis],
+                              corner(piece + 2)[axis], place - static_cast<float>(piece));
+    }
+    return point;
+}
+
+/// The profile cut at the corners that are given twice.
+std::vector<std::vector<Vec2>> smoothParts(const std::vector<Vec2>& profile)
+{
+    std::vector<std::vector<Vec2>> parts(1);
+    for (const Vec2& corner : profile) {
+        if (!parts.back().empty() && parts.back().back() == corner) {
+            parts.emplace_back();
+        }
+        parts.back().push_back(corner);
+    }
+    return parts;
+}
+
+/// Appends a surface to a mesh; normals come from differences along u and v and point to the side
+/// from which u to v turns counter-clockwise.
+void addSurface(const SurfaceFunction& surface, const SurfaceGrid& grid, MeshData& mesh)
+{
+    const auto first = static_cast<std::uint32_t>(mesh.positions.size());
+    for (unsigned j = 0; j <= grid.vSteps; ++j) {
+        for (unsigned i = 0; i <= grid.uSteps; ++i) {
+            const float u = static_cast<float>(i) / static_cast<float>(grid.uSteps);
+            const float v = static_cast<float>(j) / static_cast<float>(grid.vSteps);
+            mesh.positions.push_back(surface(u, v));
+            mesh.normals.push_back(normalAt(surface, grid, u, v));
+        }
+    }
+    const std::uint32_t row = grid.uSteps + 1;
+    for (std::uint32_t j = 0; j < grid.vSteps; ++j) {
+        for (std::uint32_t i = 0; i < grid.uSteps; ++i) {
+            const std::uint32_t corner = first + j * row + i;
+            const std::uint32_t quad[] = { corner, corner + 1,       corner + 1 + row,
+                                           corner, corner + 1 + row, corner + row };
+            mesh.triangles.insert(mesh.triangles.end(), std::begin(quad), std::end(quad));
+        }
+    }
+}
+
+}  // namespace
+
+MeshData makeLathe(const std::vector<Vec2>& profile, unsigned steps)
+{
+    constexpr unsigned kStepsPerCorner = 6;
+    MeshData mesh;
+    for (const std::vector<Vec2>& part : smoothParts(profile)) {
+        if (part.size() < 2) {
+            continue;
+        }
+        const bool straight = part.size() == 2;
+        const auto vSteps =
+            straight ? 1U : kStepsPerCorner * static_cast<unsigned>(part.size() - 1);
+        const auto turned = [&part](float u, float v) {
+            const Vec2 point = curvePoint(part, v);
+            const float radius = std::max(point[0], 0.0F);
+            return Vec3 { radius * std::sin(kTwoPi * u), point[1], radius * std::cos(kTwoPi * u) };
+        };
+        addSurface(turned, { steps, vSteps, true, false }, mesh);
+    }
+    return mesh;
+}
+
+MeshData makeTorusKnot(float ringRadius, float tubeRadius)
+{
+    constexpr float kTurns = 2.0F;
+    constexpr float kWindings = 3.0F;
+    constexpr float kDepth = 0.42F;  // of the ring's radius
+    const auto spine = [ringRadius](float t) {
+        const float turn = kTwoPi * kTurns * t;
+        const float winding = kTwoPi * kWindings * t;
+        const float radius = ringRadius * (1.0F + kDepth * std::cos(winding));
+        return Vec3 { radius * std::cos(turn), ringRadius * kDepth * 1.25F * std::sin(winding),
+                      radius * std::sin(turn) };
+    };
+    const auto tube = [&](float u, float v) {
+        const Vec3 centre = spine(v);
+        const Vec3 along = unit(spine(v + kDifference) - spine(v - kDifference));
+        // The spine never runs along the way to the axis, so this frame has no twist and no gap.
+        const Vec3 outwards = unit(Vec3 { centre[0], 0.0F, centre[2] });
+        const Vec3 side = unit(cross(along, outwards));
+        const Vec3 top = cross(side, along);
+        const float angle = kTwoPi * u;
+        return centre + (tubeRadius * std::cos(angle)) * top +
+            (tubeRadius * std::sin(angle)) * side;
+    };
+    constexpr unsigned kAround = 40;
+    constexpr unsigned kAlong = 360;
+    MeshData mesh;
+    addSurface(tube, { kAround, kAlong, true, true }, mesh);
+    return mesh;
+}
+
+MeshData makeBlob(float radius)
+{
+    constexpr unsigned kAround = 128;
+    constexpr unsigned kUpwards = 72;
+    const auto dented = [radius](float u, float v) {
+        const float turn = kTwoPi * u;
+        const float rise = kPi * (v - 0.5F);
+        const float y = std::sin(rise);
+        const float around = std::cos(rise);
+        // Waves that vanish at the poles, so that the surface stays closed there.
+        const float waves = 0.16F * around * around * std::sin(3.0F * turn + 2.4F * y) +
+            0.09F * around * around * around * std::cos(2.0F * turn - 4.0F * y) +
+            0.08F * std::sin(3.1F * y);
+        const float size = radius * (1.0F + waves);
+        return Vec3 { size * around * std::sin(turn), size * y, size * around * std::cos(turn) };
+    };
+    MeshData mesh;
+    addSurface(dented, { kAround, kUpwards, true, false }, mesh);
+    return mesh;
+}
+
+MeshData makeBall(float radius)
+{
+    constexpr unsigned kAround = 64;
+    constexpr unsigned kUpwards = 32;
+    const auto round = [radius](float u, float v) {
+        const float rise = kPi * (v - 0.5F);
+        const float ring = radius * std::cos(rise);
+        return Vec3 { ring * std::sin(kTwoPi * u), radius * std::sin(rise),
+                      ring * std::cos(kTwoPi * u) };
+    };
+    MeshData mesh;
+    addSurface(round, { kAround, kUpwards, true, false }, mesh);
+    return mesh;
+}
+
+MeshData makeTwistedColumn(float halfWidth, float height)
+{
+    constexpr unsigned kAround = 96;
+    constexpr unsigned kUpwards = 96;
+    constexpr float kTwist = 0.75F * kPi;
+    // A superellipse: the higher the power, the sharper the edges.
+    constexpr float kPower = 5.0F;
+    const auto section = [halfWidth](float angle) {
+        const float x = std::abs(std::cos(angle));
+        const float z = std::abs(std::sin(angle));
+        return halfWidth * std::pow(std::pow(x, kPower) + std::pow(z, kPower), -1.0F / kPower);
+    };
+    const auto side = [&](float u, float v) {
+        const float angle = kTwoPi * u;
+        const float size = section(angle) * (1.0F - 0.28F * v);
+        const float turned = angle + kTwist * v;
+        return Vec3 { size * std::sin(turned), height * v, size * std::cos(turned) };
+    };
+    const auto lid = [&](float u, float v) {
+        const Vec3 rim = side(u, 1.0F);
+        return Vec3 { rim[0] * (1.0F - v), height, rim[2] * (1.0F - v) };
+    };
+    MeshData mesh;
+    addSurface(side, { kAround, kUpwards, true, false }, mesh);
+    addSurface(lid, { kAround, 1, true, false }, mesh);
+    return mesh;
+}
+
+}  // namespace viewer
+
+// NOLINTEND(readability-magic-numbers)

@@ -1,0 +1,371 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/match/PerspectiveMatchTool.h"
+
+#include "viewer/loading/PictureFile.h"
+#include "viewer/match/PerspectiveMatchCommands.h"
+#include "viewer/stage/Stage.h"
+#include "viewer/texts/Text.h"
+
+#include <nbInteraction/InteractionManager.h>
+#include <nbKernel/nbScenegraph.h>
+#include <nbKernelServices/nbKernelServiceFactory.h>
+#include <nbKernelServices/nbObjectService.h>
+#include <nbKernelServices/nbQRPCConverter.h>
+#include <nbKernelServices/nbScopedMultiCommand.h>
+#include <nbKernelServices/nbScopedUndo.h>
+#include <nbOpenSGUberCamera/nbCameraUtils.h>
+#include <nbOpenSGUtils/nbEdit.h>
+
+#include <array>
+
+namespace viewer {
+namespace {
+
+constexpr std::array<const char*, PerspectiveMatchTool::kLineCount> kLineNames { "x1", "x2", "y1",
+                                                                                 "y2", "z1", "z2" };
+
+/// Parts of a line, as the manipulator numbers them.
+constexpr osg::UInt32 kBody = 1;
+constexpr osg::UInt32 kFirstEnd = 2;
+constexpr osg::UInt32 kSecondEnd = 3;
+
+const char* suffixOf(osg::UInt32 part)
+{
+    return part == kFirstEnd ? "a" : part == kSecondEnd ? "b" : "";
+}
+
+std::string handleName(int line, osg::UInt32 part)
+{
+    return std::string(PerspectiveMatchTool::lineName(line)) + suffixOf(part);
+}
+
+struct HandleName
+{
+    int line = -1;  ///< none of that name
+    osg::UInt32 part = kBody;
+};
+
+HandleName read(const std::string& handle)
+{
+    for (int line = 0; line < PerspectiveMatchTool::kLineCount; ++line) {
+        for (const osg::UInt32 part : { kBody, kFirstEnd, kSecondEnd }) {
+            if (handle == handleName(line, part)) {
+                return { line, part };
+            }
+        }
+    }
+    return {};
+}
+
+nbdPerspectiveMatch::Line lineOf(int index)
+{
+    return static_cast<nbdPerspectiveMatch::Line>(index);
+}
+
+}  // namespace
+
+PerspectiveMatchTool::PerspectiveMatchTool(Stage& targetStage)
+    : stage(targetStage)
+{
+    context.setPicker(&picker);
+    manipulator.setVisualisationRoot(nbScenegraph::getInternalRoot());
+    stage.addTool(*this);
+    addPerspectiveMatchCommands(*this, stage);
+    const auto* service = nbKernelServiceFactory::the().find<nbObjectService>();
+    if (service != nullptr) {
+        QObject::connect(service, &nbObjectService::propertyChanged, &listener,
+                         [this](const nbdObject& object, const QByteArray& property) {
+                             follow(object, property);
+                         });
+    }
+    camera().getPerspectiveMatch().setAnchoredToCentre(true);
+}
+
+PerspectiveMatchTool::~PerspectiveMatchTool()
+{
+    stage.removeTool(*this);
+    stage.commands().remove(QStringLiteral("match."));
+    context.setManipulator(nullptr);
+    context.setPicker(nullptr);
+}
+
+nbdCameraNode PerspectiveMatchTool::camera() const
+{
+    return nbdCameraNode(
+        nbQRPCConverter::nodeToId(stage.view().getUberCamera()->getInternalParentNode()));
+}
+
+// == The photograph
+
+bool PerspectiveMatchTool::setPhotograph(const QString& file, QString& error)
+{
+    osg::RefPtr<osg::ImagePtr> image;
+    if (!file.isEmpty()) {
+        image = readPicture(file, error);
+        if (image == osg::NullFC) {
+            return false;
+        }
+    }
+    setPhotograph(image.get());
+    return true;
+}
+
+void PerspectiveMatchTool::setPhotograph(const osg::ImagePtr& image)
+{
+    const osg::UberViewportPtr viewport = stage.view().getUberViewport();
+    {
+        const nbEdit edit(viewport, osg::UberViewport::PhotographFieldMask);
+        viewport->setPhotograph(image);
+    }
+    stage.view().update();
+}
+
+QString PerspectiveMatchTool::photograph() const
+{
+    return pictureName(stage.view().getUberViewport()->getPhotograph());
+}
+
+void PerspectiveMatchTool::setVeil(double opacity)
+{
+    photographVeil = opacity;
+    applyVeil();
+}
+
+void PerspectiveMatchTool::applyVeil()
+{
+    const osg::UberViewportPtr viewport = stage.view().getUberViewport();
+    const auto wanted = static_cast<float>(active ? photographVeil : 0.0);
+    if (viewport->getPhotographVeil() != wanted) {
+        const nbEdit edit(viewport, osg::UberViewport::PhotographVeilFieldMask);
+        viewport->setPhotographVeil(wanted);
+        stage.view().update();
+    }
+}
+
+// == The lines
+
+void PerspectiveMatchTool::showLines(bool on)
+{
+    if (linesShown == on) {
+        return;
+    }
+    linesShown = on;
+    if (!active) {
+        return;
+    }
+    if (on) {
+        takePointer();
+    } else {
+        leavePointer();
+    }
+    stage.view().update();
+}
+
+bool PerspectiveMatchTool::isRefused(QString& error) const
+{
+    if (camera().isLocked()) {
+        error = Text::tr("the camera is locked");
+        return true;
+    }
+    return false;
+}
+
+bool PerspectiveMatchTool::layLines(QString& error)
+{
+    if (isRefused(error)) {
+        return false;
+    }
+    const nbScopedMultiCommand step(Text::tr("Lay lines as seen"));
+    camera().layLinesAsSeen();
+    linesLaid = true;
+    return true;
+}
+
+bool PerspectiveMatchTool::edit(const std::function<void(const nbdPerspectiveMatch&)>& change,
+                                QString& error)
+{
+    if (isRefused(error)) {
+        return false;
+    }
+    const nbScopedMultiCommand step(Text::tr("Change perspective match"));
+    change(camera().getPerspectiveMatch());
+    camera().updateFromPerspectiveMatch();
+    linesLaid = true;
+    return true;
+}
+
+bool PerspectiveMatchTool::setMagnifyFactor(float factor, QString& error)
+{
+    if (isRefused(error)) {
+        return false;
+    }
+    const nbScopedMultiCommand step(Text::tr("Change magnifier"));
+    camera().getPerspectiveMatch().setMagnifyFactor(factor);
+    return true;
+}
+
+const char* PerspectiveMatchTool::lineName(int line)
+{
+    return kLineNames[static_cast<std::size_t>(line)];
+}
+
+int PerspectiveMatchTool::lineByName(const QString& word)
+{
+    for (int line = 0; line < kLineCount; ++line) {
+        if (word == QLatin1String(lineName(line))) {
+            return line;
+        }
+    }
+    return -1;
+}
+
+QString PerspectiveMatchTool::resultText() const
+{
+    switch (camera().checkPerspectiveMatch()) {
+    case nbCameraTypes::Solved:
+        return Text::tr("Orientation and field of view follow the lines.");
+    case nbCameraTypes::SolvedWithKeptFov:
+        return Text::tr("The orientation follows the lines; the field of view is kept.");
+    case nbCameraTypes::OrthographicCamera:
+        return Text::tr("An orthographic view cannot be matched: switch to perspective.");
+    case nbCameraTypes::UnusableLine:
+        return Text::tr("A line is too short: the camera stays.");
+    case nbCameraTypes::IdenticalLines:
+        return Text::tr("Two lines of an axis lie on each other: the camera stays.");
+    case nbCameraTypes::ContradictingLines:
+        return Text::tr("The lines contradict each other: the camera stays.");
+    case nbCameraTypes::NoCamera:
+        break;
+    }
+    return Text::tr("There is no camera to be matched.");
+}
+
+// == As a tool of the stage
+
+void PerspectiveMatchTool::activate()
+{
+    active = true;
+    applyVeil();
+    if (!linesLaid) {
+        const nbScopedUndo muted(false);
+        camera().layLinesAsSeen();
+        linesLaid = true;
+    }
+    if (linesShown) {
+        takePointer();
+    }
+}
+
+void PerspectiveMatchTool::deactivate()
+{
+    leavePointer();
+    active = false;
+    applyVeil();
+}
+
+void PerspectiveMatchTool::takePointer()
+{
+    context.setManipulator(&manipulator);
+    stage.interaction().addContext(&context);
+    manipulator.setCamera(stage.view().getUberCamera());
+}
+
+void PerspectiveMatchTool::leavePointer()
+{
+    stage.interaction().endDrag();
+    stage.interaction().removeContext(&context);
+    context.setManipulator(nullptr);
+}
+
+void PerspectiveMatchTool::sceneCleared()
+{
+    setPhotograph(osg::ImagePtr());
+    setVeil(kUsualVeil);
+    showLines(true);
+    const nbScopedUndo muted(false);
+    const nbdPerspectiveMatch match = camera().getPerspectiveMatch();
+    camera().setLocked(false);
+    camera().setFovMode(nbCameraTypes::SolvedFov);
+    match.setVanishingLinesType(nbCameraTypes::XYZLines);
+    match.setMagnifyFactor(nbdPerspectiveMatch::kDefaultMagnifyFactor);
+    linesLaid = false;
+}
+
+void PerspectiveMatchTool::follow(const nbdObject& object, const QByteArray& property)
+{
+    if (object.getId() != camera().getId()) {
+        return;
+    }
+    cameraMoved = cameraMoved || property == "orientation" || property == "fov";
+    stage.view().update();
+}
+
+void PerspectiveMatchTool::update()
+{
+    if (cameraMoved) {
+        cameraMoved = false;
+        stage.cameraMoved();
+    }
+}
+
+void PerspectiveMatchTool::setPixelRatio(float ratio)
+{
+    picker.setPixelRatio(ratio);
+}
+
+osg::NodePtr PerspectiveMatchTool::handles()
+{
+    return active && linesShown ? manipulator.getVisualisation() : osg::NodePtr();
+}
+
+std::string PerspectiveMatchTool::hoveredHandle()
+{
+    const auto line = static_cast<int>(manipulator.getHoveredLine()) - 1;
+    const osg::UInt32 part = manipulator.getHoveredPart();
+    return active && line >= 0 && part != 0 ? handleName(line, part) : std::string();
+}
+
+bool PerspectiveMatchTool::findHandle(const std::string& handle, osg::Pnt2f& px)
+{
+    const HandleName name = read(handle);
+    if (!active || !linesShown || name.line < 0) {
+        return false;
+    }
+    const QLineF line = camera().getPerspectiveMatch().getLine(lineOf(name.line));
+    const QPointF place = name.part == kFirstEnd ? line.p1()
+        : name.part == kSecondEnd                ? line.p2()
+                                                 : line.center();
+    const nbOSGWidget& view = stage.view();
+    const int width = view.getWidth();
+    const int height = view.getHeight();
+    const int reference =
+        nbCameraUtils::getVerticalSizing(view.getCamera(), width, height) ? height : width;
+    px = osg::Pnt2f(static_cast<float>(place.x() * reference),
+                    static_cast<float>(height - place.y() * reference));
+    return true;
+}
+
+HandleAction PerspectiveMatchTool::actionOf(const std::string& handle) const
+{
+    return read(handle).line >= 0 ? HandleAction::MoveInPlane : HandleAction::None;
+}
+
+std::string PerspectiveMatchTool::draggedValues() const
+{
+    if (!active || !stage.isDragging()) {
+        return {};
+    }
+    constexpr int kDigits = 2;
+    return Text::tr("Field of view %1°")
+        .arg(static_cast<double>(stage.pose().fovDeg), 0, 'f', kDigits)
+        .toStdString();
+}
+
+bool PerspectiveMatchTool::takePicture(const QString& file, const osg::Pnt2f& /*px*/,
+                                       QString& error)
+{
+    // As a command, so that it becomes part of a recording.
+    return active && stage.commands().run(QStringLiteral("match.setPhotograph"), file, error);
+}
+
+}  // namespace viewer

@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "viewer/stage/DragContext.h"
+#include "viewer/stage/StageTool.h"
+
+#include <nbInteraction/Picker.h>
+#include <nbKernelServices/nbdCameraNode.h>
+
+#include <OpenSG/OSGImage.h>
+
+#include <QObject>
+
+#include <functional>
+
+#include <manipulator/PerspectiveMatchManipulator.h>
+
+namespace viewer {
+
+class Stage;
+
+/// Matches the camera with a photograph behind the scene: the photograph, the six lines that are
+/// laid over its edges while this is active, and their settings.
+///
+/// A photograph stays while other tools are active, so that models can be moved in front of it. The
+/// first time that this is active in a scene the lines are laid as the camera sees a box at its
+/// pivot. They keep their place on the photograph when the view gets another shape. With another
+/// scene everything is as at the start.
+///
+/// Handles are named after their lines, "x1" to "z2", and the ends of these "x1a" and "x1b".
+class PerspectiveMatchTool : public StageTool
+{
+public:
+    static constexpr double kUsualVeil = 0.4;
+    static constexpr int kLineCount = nbdPerspectiveMatch::kLineCount;
+
+    /// @param targetStage  where this is added as a tool; outlives this
+    explicit PerspectiveMatchTool(Stage& targetStage);
+    ~PerspectiveMatchTool() override;
+
+    /// The camera of the stage's view.
+    nbdCameraNode camera() const;
+
+    // == The photograph
+
+    /// Shows a picture file behind the scene; "" shows none.
+    /// @return false with one line in `error`, nothing changed
+    bool setPhotograph(const QString& file, QString& error);
+    /// Shows an image; null shows none.
+    void setPhotograph(const osg::ImagePtr& image);
+    /// Its name without folder, "" for none.
+    QString photograph() const;
+
+    /// How much the photograph also covers the models while this is active, so that its edges are
+    /// seen through them.
+    double veil() const { return photographVeil; }
+
+    /// @param opacity  0 .. 1
+    void setVeil(double opacity);
+
+    // == The lines
+
+    bool isActive() const { return active; }
+
+    bool areLinesShown() const { return linesShown; }
+
+    void showLines(bool on);
+
+    /// Whether the lines have been laid in this scene.
+    bool areLinesLaid() const { return linesLaid; }
+
+    void setLinesLaid(bool laid) { linesLaid = laid; }
+
+    /// Lays the lines as the camera sees a box at its pivot, as one step.
+    /// @return false with one line in `error` if the camera is locked
+    bool layLines(QString& error);
+
+    /// Edits the match as one step, and then has the camera follow the lines.
+    /// @return false with one line in `error` if the camera is locked
+    bool edit(const std::function<void(const nbdPerspectiveMatch&)>& change, QString& error);
+
+    /// Sets how many times the magnifier enlarges, as one step; the camera stays.
+    /// @return false with one line in `error` if the camera is locked
+    bool setMagnifyFactor(float factor, QString& error);
+
+    /// Word of a line, "x1" to "z2".
+    static const char* lineName(int line);
+    /// @return -1 for an unknown word
+    static int lineByName(const QString& word);
+
+    /// What the lines say about the camera, one line for a person.
+    QString resultText() const;
+
+    // == As a tool of the stage
+
+    const char* name() const override { return "match"; }
+
+    void activate() override;
+    void deactivate() override;
+    void sceneCleared() final;
+    void update() override;
+    void setPixelRatio(float ratio) override;
+    osg::NodePtr handles() override;
+    std::string hoveredHandle() override;
+    bool findHandle(const std::string& handle, osg::Pnt2f& px) override;
+    HandleAction actionOf(const std::string& handle) const override;
+    std::string draggedValues() const override;
+    /// Takes a picture that is dropped while this is active as the photograph.
+    bool takePicture(const QString& file, const osg::Pnt2f& px, QString& error) override;
+
+private:
+    void follow(const nbdObject& object, const QByteArray& property);
+    void takePointer();
+    void leavePointer();
+    void applyVeil();
+    bool isRefused(QString& error) const;
+
+    Stage& stage;
+    nbec::interaction::Picker picker;
+    nbec::manipulator::PerspectiveMatchManipulator manipulator;
+    DragContext context;
+    QObject listener;
+    double photographVeil = kUsualVeil;
+    bool active = false;
+    bool linesShown = true;
+    bool linesLaid = false;
+    bool cameraMoved = false;
+};
+
+}  // namespace viewer

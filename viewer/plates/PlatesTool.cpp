@@ -1,0 +1,348 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/plates/PlatesTool.h"
+
+#include "viewer/plates/PlateCommands.h"
+#include "viewer/plates/PlateField.h"
+#include "viewer/stage/Stage.h"
+#include "viewer/texts/Text.h"
+
+#include <nbInteraction/EventNames.h>
+#include <nbKernel/nbScenegraph.h>
+#include <nbOpenSGSceneplate/nbSceneplateLayout.h>
+#include <nbOpenSGSceneplate/nbSceneplateList.h>
+#include <nbOpenSGUtils/nbEdit.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
+#include <nbSceneplateModule/nbSceneplateEditing.h>
+
+#include <OpenSG/OSGCoredNodePtr.h>
+
+#include <QJsonArray>
+#include <QJsonObject>
+
+#include <algorithm>
+#include <cmath>
+
+namespace viewer {
+namespace {
+
+using nbec::interaction::Picker;
+
+const char* const kPlatePrefix = "plate:";
+const char* const kBody = "grid";
+const char* const kArm = "rotateShape";
+const char* const kCornerPrefix = "scaleXY";
+
+/// A picture is at most so large when it is added, parts of the view.
+constexpr float kLargestPart = 0.5F;
+
+bool beginsWith(const std::string& text, const char* prefix)
+{
+    return text.rfind(prefix, 0) == 0;
+}
+
+/// The place of the view that is nearest to a pixel: each third has its own.
+osg::Int32 nearestAnchor(const osg::Pnt2f& px, const nbOSGWidget& view)
+{
+    constexpr int kThirds = 3;
+    const auto third = [](float part, int length) {
+        const float scaled = kThirds * part / static_cast<float>(std::max(length, 1));
+        return std::clamp(static_cast<int>(std::floor(scaled)), 0, kThirds - 1);
+    };
+    const int row = kThirds - 1 - third(px.y(), view.getHeight());
+    return kThirds * row + third(px.x(), view.getWidth());
+}
+
+std::string unusedName(const std::string& wanted)
+{
+    std::string name = wanted;
+    for (int number = 2; PlatesTool::plateByName(name) != osg::NullFC; ++number) {
+        name = wanted + " " + std::to_string(number);
+    }
+    return name;
+}
+
+void place(const osg::SceneplatePtr& plate, const NewPlate& wanted, const nbOSGWidget& view)
+{
+    const int width = view.getWidth();
+    const int height = std::max(view.getHeight(), 1);
+    const osg::Pnt2f middle =
+        nbSceneplateLayout::anchorPosition(osg::Sceneplate::Centre, width, height);
+    plate->setAnchor(wanted.anchor);
+    plate->setPosition(wanted.position.value_or(
+        nbSceneplateLayout::positionAt(wanted.anchor, middle, width, height)));
+    const osg::Vec2f size = nbSceneplateLayout::toOffset(wanted.sizePx, height);
+    plate->setSize(osg::Vec2f(size.x(), -size.y()));
+}
+
+}  // namespace
+
+PlatesTool::PlatesTool(Stage& targetStage)
+    : stage(targetStage)
+{
+    platePicker.setFilter(Picker::SceneplateFilter);
+    handlePicker.setFilter(Picker::HandleFilter);
+    probe.setFilter(Picker::HandleFilter);
+    pickContext.setPicker(&platePicker);
+    dragContext.setPicker(&handlePicker);
+    dragContext.setManipulator(&manipulator);
+    dragContext.setDragCallback([this] { stage.edited(); });
+    dragContext.setClickCallback([this](const std::string& hint) { clickBody(hint); });
+    manipulator.setVisualisationRoot(nbScenegraph::getInternalRoot());
+    module.addChangedCallback([this] { selectionHasChanged(); });
+    stage.addTool(*this);
+    addPlateCommands(stage, *this);
+}
+
+PlatesTool::~PlatesTool()
+{
+    stage.commands().remove(QStringLiteral("plates."));
+    stage.removeTool(*this);
+    sceneCleared();
+    dragContext.setManipulator(nullptr);
+    manipulator.setVisualisationRoot(osg::NodePtr());
+}
+
+// == Taking the pointer
+
+void PlatesTool::activate()
+{
+    active = true;
+    module.select(remembered.getNodes(), nbec::interaction::names::kSelect);
+    manipulator.setNodes(module.getSelection());
+    probe.setPickNode(manipulator.getCollider());
+    pickContext.setTool(&pickTool);
+    stage.interaction().addContext(&pickContext);
+    stage.interaction().addContext(&dragContext);
+    pickContext.selectMode(nbec::interaction::names::kToolMode);
+}
+
+void PlatesTool::deactivate()
+{
+    stage.interaction().removeContext(&dragContext);
+    stage.interaction().removeContext(&pickContext);
+    pickContext.setTool(nullptr);
+    remembered.set(module.getSelection());
+    module.clear();
+    active = false;
+}
+
+void PlatesTool::sceneCleared()
+{
+    module.clear();
+    remembered.clear();
+    const osg::NodePtr root = nbScenegraph::getSceneplateRoot();
+    const nbEdit edit(root, osg::Node::ChildrenFieldMask);
+    while (root->getNChildren() > 0) {
+        root->subChild(root->getNChildren() - 1);
+    }
+}
+
+void PlatesTool::update()
+{
+    if (active) {
+        manipulator.enableSnapping(stage.gizmo().isSnapping());
+        manipulator.setNodes(module.getSelection());
+        manipulator.update(false);
+    }
+}
+
+void PlatesTool::setPixelRatio(float ratio)
+{
+    handlePicker.setPixelRatio(ratio);
+    probe.setPixelRatio(ratio);
+    dragContext.setPixelRatio(ratio);
+}
+
+void PlatesTool::selectionHasChanged()
+{
+    update();
+    stage.edited();
+}
+
+void PlatesTool::clickBody(const std::string& hint)
+{
+    pickTool.stopTool(&pickContext, hint);
+}
+
+// == Handles
+
+osg::NodePtr PlatesTool::handles()
+{
+    return active ? manipulator.getCollider() : osg::NodePtr();
+}
+
+std::string PlatesTool::hoveredHandle()
+{
+    if (!dragContext.grabbedHandle().empty()) {
+        return dragContext.grabbedHandle();
+    }
+    return active ? nbNodeUtils::getName(probe.pick()) : std::string();
+}
+
+std::string PlatesTool::handleAt(const osg::Pnt2f& px)
+{
+    return active ? nbNodeUtils::getName(probe.pickAt(px)) : std::string();
+}
+
+bool PlatesTool::findHandle(const std::string& handle, osg::Pnt2f& px)
+{
+    if (!beginsWith(handle, kPlatePrefix)) {
+        return false;
+    }
+    const osg::NodePtr node = plateByName(handle.substr(std::string(kPlatePrefix).size()));
+    if (node == osg::NullFC) {
+        return false;
+    }
+    const nbOSGWidget& view = stage.view();
+    const nbSceneplateLayout::Corners corners = nbSceneplateLayout::corners(
+        nbSceneplateList::plateOf(node), view.getWidth(), view.getHeight());
+    const osg::Vec2f sideX = corners[1] - corners[0];
+    const osg::Vec2f sideY = corners[3] - corners[0];
+    // Its middle may be a hole or lie behind another plate.
+    constexpr int kSteps = 24;
+    for (int i = 0; i < kSteps * kSteps; ++i) {
+        const int step = (i + kSteps * kSteps / 2 + kSteps / 2) % (kSteps * kSteps);
+        const int column = step % kSteps;
+        const int row = step / kSteps;
+        const float x = (static_cast<float>(column) + 0.5F) / kSteps;
+        const float y = (static_cast<float>(row) + 0.5F) / kSteps;
+        const osg::Pnt2f candidate = corners[0] + sideX * x + sideY * y;
+        if (platePicker.pickAt(candidate) == node) {
+            px = candidate;
+            return true;
+        }
+    }
+    return false;
+}
+
+HandleAction PlatesTool::actionOf(const std::string& handle) const
+{
+    if (handle == kBody) {
+        return HandleAction::MoveInPlane;
+    }
+    if (handle == kArm) {
+        return HandleAction::Turn;
+    }
+    return beginsWith(handle, kCornerPrefix) ? HandleAction::ScaleAll : HandleAction::None;
+}
+
+std::string PlatesTool::draggedValues() const
+{
+    const std::vector<osg::NodePtr> nodes = selected();
+    const std::string& handle = dragContext.grabbedHandle();
+    if (nodes.empty() || handle.empty()) {
+        return {};
+    }
+    const osg::SceneplatePtr plate = nbSceneplateList::plateOf(nodes.front());
+    const auto number = [](float value) {
+        constexpr int kDigits = 3;
+        // A negative zero would flicker.
+        return QString::number(static_cast<double>(value) + 0.0, 'f', kDigits);
+    };
+    switch (actionOf(handle)) {
+    case HandleAction::Turn:
+        return Text::tr("Rotation %1").arg(number(plate->getRotation())).toStdString();
+    case HandleAction::ScaleAll:
+        return Text::tr("Scale %1").arg(number(plate->getScale())).toStdString();
+    default:
+        return Text::tr("Position (%1, %2)")
+            .arg(number(plate->getPosition().x()), number(plate->getPosition().y()))
+            .toStdString();
+    }
+}
+
+QString PlatesTool::selectionText() const
+{
+    const std::vector<osg::NodePtr> nodes = selected();
+    if (nodes.size() > 1) {
+        return Text::tr("%n scene plates", nullptr, static_cast<int>(nodes.size()));
+    }
+    return nodes.empty() ? Text::tr("No scene plate selected")
+                         : Text::tr("Scene plate: %1")
+                               .arg(QString::fromStdString(nbNodeUtils::getName(nodes.front())));
+}
+
+// == Plates
+
+std::vector<osg::NodePtr> PlatesTool::all()
+{
+    return nbSceneplateEditing::getStack();
+}
+
+osg::NodePtr PlatesTool::plateByName(const std::string& wanted)
+{
+    for (const osg::NodePtr& node : all()) {
+        if (nbNodeUtils::getName(node) == wanted) {
+            return node;
+        }
+    }
+    return {};
+}
+
+std::vector<osg::NodePtr> PlatesTool::selected() const
+{
+    return module.getSelection();
+}
+
+void PlatesTool::select(const std::vector<osg::NodePtr>& nodes)
+{
+    if (!nodes.empty()) {
+        stage.setActiveTool(this);
+    }
+    module.select(nodes, nbec::interaction::names::kSelect);
+}
+
+std::string PlatesTool::preselectedName() const
+{
+    return nbNodeUtils::getName(module.getPreselected());
+}
+
+void PlatesTool::add(const NewPlate& wanted)
+{
+    osg::SceneplatePtr plate;
+    const osg::NodeRefPtr node(osg::makeCoredNode<osg::Sceneplate>(&plate));
+    {
+        const nbEdit edit(plate, osg::FieldBits::AllFields);
+        plate->setImage(wanted.image.get());
+        plate->setColor(wanted.color);
+        plate->setFront(wanted.front);
+        place(plate, wanted, stage.view());
+    }
+    nbNodeUtils::setName(node.get(), unusedName(wanted.name));
+    nbSceneplateEditing::add(node.get());
+    select({ node.get() });
+}
+
+void PlatesTool::addPicture(NewPlate wanted)
+{
+    const nbOSGWidget& view = stage.view();
+    const auto width = static_cast<float>(wanted.image->getWidth());
+    const auto height = static_cast<float>(wanted.image->getHeight());
+    const float factor =
+        std::min({ 1.0F, kLargestPart * static_cast<float>(view.getWidth()) / width,
+                   kLargestPart * static_cast<float>(view.getHeight()) / height });
+    wanted.sizePx = osg::Vec2f(width * factor, height * factor);
+    add(wanted);
+}
+
+bool PlatesTool::takePicture(const QString& file, const osg::Pnt2f& px, QString& error)
+{
+    if (!active) {
+        return false;
+    }
+    const nbOSGWidget& view = stage.view();
+    const osg::Int32 anchor = nearestAnchor(px, view);
+    const osg::Vec2f position =
+        nbSceneplateLayout::positionAt(anchor, px, view.getWidth(), view.getHeight());
+    // As a command, so that it becomes part of a recording.
+    return stage.commands().run(
+        QStringLiteral("plates.addPicture"),
+        QJsonObject { { QStringLiteral("file"), file },
+                      { QStringLiteral("anchor"), anchorName(anchor) },
+                      { QStringLiteral("position"),
+                        QJsonArray { static_cast<double>(position.x()),
+                                     static_cast<double>(position.y()) } } },
+        error);
+}
+
+}  // namespace viewer

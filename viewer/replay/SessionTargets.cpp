@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/replay/SessionTargets.h"
+
+#include "viewer/loading/BuiltModel.h"
+#include "viewer/stage/Stage.h"
+#include "viewer/stage/StageTool.h"
+
+#include <nbKernel/nbScenegraph.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
+
+#include <OpenSG/OSGBoxVolume.h>
+#include <OpenSG/OSGGeometry.h>
+#include <OpenSG/OSGPrimitiveIterator.h>
+
+#include <algorithm>
+#include <vector>
+
+namespace viewer {
+namespace {
+
+bool project(Stage& stage, const osg::Pnt3f& world, osg::Pnt2f& px)
+{
+    const nbOSGWidget& view = stage.view();
+    return nbCameraNavigation::project(stage.pose(), world, view.getWidth(), view.getHeight(), px);
+}
+
+/// Adds the pixels of a geometry's vertices and of the middles between neighbours.
+void addPixels(Stage& stage, const osg::NodePtr& node, std::vector<osg::Pnt2f>& pixels)
+{
+    const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(node->getCore());
+    if (geometry == osg::NullFC) {
+        return;
+    }
+    const osg::Matrix toWorld = node->getToWorld();
+    for (auto primitive = geometry->beginPrimitives(); primitive != geometry->endPrimitives();
+         ++primitive) {
+        for (osg::UInt32 i = 0; i < primitive.getLength(); ++i) {
+            const osg::Pnt3f corner = primitive.getPosition(static_cast<osg::Int32>(i));
+            const osg::Pnt3f previous =
+                i > 0 ? primitive.getPosition(static_cast<osg::Int32>(i - 1)) : corner;
+            for (const osg::Pnt3f& local : { corner, corner + (previous - corner) * 0.5F }) {
+                osg::Pnt3f world = local;
+                toWorld.multMatrixPnt(local, world);
+                osg::Pnt2f px;
+                if (project(stage, world, px)) {
+                    pixels.push_back(px);
+                }
+            }
+        }
+    }
+}
+
+void collectHandle(Stage& stage, const osg::NodePtr& node, const std::string& name,
+                   std::vector<osg::Pnt2f>& pixels)
+{
+    if (node == osg::NullFC || !node->getActive()) {
+        return;
+    }
+    if (nbNodeUtils::getName(node) == name) {
+        addPixels(stage, node, pixels);
+    }
+    for (osg::UInt32 i = 0; i < node->getNChildren(); ++i) {
+        collectHandle(stage, node->getChild(i), name, pixels);
+    }
+}
+
+/// Sorts by the distance to the middle of all; ties keep their order, so that the answer is always
+/// the same.
+void sortFromTheMiddle(std::vector<osg::Pnt2f>& pixels)
+{
+    osg::Vec2f sum(0.0F, 0.0F);
+    for (const osg::Pnt2f& px : pixels) {
+        sum += px.subZero();
+    }
+    const float share = 1.0F / static_cast<float>(std::max<std::size_t>(pixels.size(), 1));
+    const osg::Pnt2f middle(sum[0] * share, sum[1] * share);
+    std::stable_sort(pixels.begin(), pixels.end(),
+                     [&middle](const osg::Pnt2f& a, const osg::Pnt2f& b) {
+                         return middle.dist2(a) < middle.dist2(b);
+                     });
+}
+
+bool resolveHandle(const QString& name, Stage& stage, osg::Pnt2f& px, QString& error)
+{
+    const std::string handle = name.toStdString();
+    if (stage.activeTool() != nullptr && stage.activeTool()->findHandle(handle, px)) {
+        return true;
+    }
+    std::vector<osg::Pnt2f> pixels;
+    collectHandle(stage, stage.handles(), handle, pixels);
+    if (pixels.empty()) {
+        error = QStringLiteral("there is no handle \"%1\"").arg(name);
+        return false;
+    }
+    sortFromTheMiddle(pixels);
+    for (const osg::Pnt2f& candidate : pixels) {
+        if (stage.handleAt(candidate) == handle) {
+            px = candidate;
+            return true;
+        }
+    }
+    error = QStringLiteral("handle \"%1\" cannot be hit from here").arg(name);
+    return false;
+}
+
+bool resolveNode(const QString& name, Stage& stage, osg::Pnt2f& px, QString& error)
+{
+    const osg::NodePtr node = findObject(nbScenegraph::getRootNode(), name.toStdString());
+    const osg::BoxVolume bounds = nbNodeUtils::getWorldBounds(node);
+    if (node == osg::NullFC || bounds.isEmpty()) {
+        error = QStringLiteral("there is no node \"%1\" with a surface").arg(name);
+        return false;
+    }
+    const osg::Pnt3f centre = bounds.getMin() + (bounds.getMax() - bounds.getMin()) * 0.5F;
+    if (!project(stage, centre, px)) {
+        error = QStringLiteral("node \"%1\" lies behind the eye").arg(name);
+        return false;
+    }
+    return true;
+}
+
+}  // namespace
+
+bool resolveTarget(const SessionTarget& target, Stage& stage, osg::Pnt2f& px, QString& error)
+{
+    osg::Pnt2f place(0.0F, 0.0F);
+    switch (target.kind) {
+    case SessionTarget::Kind::Pixel:
+        break;
+    case SessionTarget::Kind::Pointer:
+        place = stage.view().getMousePosition();
+        break;
+    case SessionTarget::Kind::Handle:
+        if (!resolveHandle(target.name, stage, place, error)) {
+            return false;
+        }
+        break;
+    case SessionTarget::Kind::Node:
+        if (!resolveNode(target.name, stage, place, error)) {
+            return false;
+        }
+        break;
+    case SessionTarget::Kind::World: {
+        const auto& p = target.world;
+        const osg::Pnt3f world(static_cast<float>(p[0]), static_cast<float>(p[1]),
+                               static_cast<float>(p[2]));
+        if (!project(stage, world, place)) {
+            error = QStringLiteral("the point lies behind the eye");
+            return false;
+        }
+        break;
+    }
+    }
+    px = osg::Pnt2f(place[0] + static_cast<float>(target.offsetPx.x()),
+                    place[1] + static_cast<float>(target.offsetPx.y()));
+    return true;
+}
+
+}  // namespace viewer

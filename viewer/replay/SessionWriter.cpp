@@ -1,0 +1,230 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/commands/JsonWriter.h"
+#include "viewer/replay/Session.h"
+#include "viewer/replay/SessionNames.h"
+#include "viewer/texts/TextFile.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonObject>
+
+namespace viewer {
+namespace {
+
+using Type = SessionStep::Type;
+using Layout = JsonWriter::Layout;
+
+QJsonArray jsonOf(const std::array<double, 3>& point)
+{
+    return { point[0], point[1], point[2] };
+}
+
+QJsonArray jsonOf(const QPointF& point)
+{
+    return { point.x(), point.y() };
+}
+
+QJsonValue jsonOf(const SessionTarget& target)
+{
+    QJsonObject object;
+    switch (target.kind) {
+    case SessionTarget::Kind::Pixel:
+        return jsonOf(target.offsetPx);
+    case SessionTarget::Kind::Pointer:
+        object["by"] = jsonOf(target.offsetPx);
+        return object;
+    case SessionTarget::Kind::Handle:
+        object["handle"] = target.name;
+        break;
+    case SessionTarget::Kind::Node:
+        object["node"] = target.name;
+        break;
+    case SessionTarget::Kind::World:
+        object["world"] = jsonOf(target.world);
+        break;
+    }
+    if (!target.offsetPx.isNull()) {
+        object["offset"] = jsonOf(target.offsetPx);
+    }
+    return object;
+}
+
+QJsonObject jsonOf(const SessionNodeExpectation& node)
+{
+    QJsonObject object;
+    if (node.translation) {
+        object["translation"] = jsonOf(*node.translation);
+    }
+    if (node.rotationDeg) {
+        object["rotation"] = jsonOf(*node.rotationDeg);
+    }
+    if (node.scale) {
+        object["scale"] = jsonOf(*node.scale);
+    }
+    if (node.tolerance != SessionNodeExpectation::kDefaultTolerance) {
+        object["tolerance"] = node.tolerance;
+    }
+    return object;
+}
+
+QJsonObject jsonOf(const SessionExpectation& expectation)
+{
+    QJsonObject object;
+    if (expectation.hover) {
+        object["hover"] = *expectation.hover;
+    }
+    if (expectation.selection) {
+        object["selection"] = *expectation.selection;
+    }
+    if (expectation.orthographic) {
+        object["orthographic"] = *expectation.orthographic;
+    }
+    if (expectation.undoSteps) {
+        object["undoSteps"] = *expectation.undoSteps;
+    }
+    QJsonObject nodes;
+    for (const SessionNodeExpectation& node : expectation.nodes) {
+        nodes[node.node] = jsonOf(node);
+    }
+    if (!nodes.isEmpty()) {
+        object["nodes"] = nodes;
+    }
+    if (!expectation.values.isEmpty()) {
+        object["values"] = expectation.values;
+    }
+    if (expectation.tolerance != SessionExpectation().tolerance) {
+        object["tolerance"] = expectation.tolerance;
+    }
+    return object;
+}
+
+bool hasPlace(Type type)
+{
+    return type == Type::Move || type == Type::Press || type == Type::Release ||
+        type == Type::Click || type == Type::DoubleClick || type == Type::Wheel;
+}
+
+bool hasButton(Type type)
+{
+    return type == Type::Press || type == Type::Release || type == Type::Click ||
+        type == Type::DoubleClick;
+}
+
+/// Writes a session as one object, the entries in the order in which a person reads them.
+class Output
+{
+public:
+    QByteArray textOf(const Session& session)
+    {
+        writer.beginObject(Layout::Lines);
+        put("session", 1);
+        put("size", QJsonArray { session.sizePx.width(), session.sizePx.height() });
+        put("files", QJsonArray::fromStringList(session.files), !session.files.isEmpty());
+        if (session.camera) {
+            putCamera(*session.camera);
+        }
+        put("selection", session.selection.value_or(QString()), session.selection.has_value());
+        put("manipulator", session.manipulator, !session.manipulator.isEmpty());
+        writer.key(QStringLiteral("steps"));
+        writer.beginArray(Layout::Lines);
+        for (const SessionStep& step : session.steps) {
+            putStep(step);
+        }
+        writer.endArray();
+        writer.endObject();
+        return writer.take();
+    }
+
+private:
+    void put(const char* key, const QJsonValue& value, bool isWanted = true)
+    {
+        if (isWanted) {
+            writer.key(QLatin1String(key));
+            writer.value(value);
+        }
+    }
+
+    void putCamera(const SessionCamera& camera)
+    {
+        writer.key(QStringLiteral("camera"));
+        writer.beginObject(Layout::Inline);
+        put("from", jsonOf(camera.from));
+        put("at", jsonOf(camera.at));
+        put("up", jsonOf(camera.up));
+        if (camera.pivot) {
+            put("pivot", jsonOf(*camera.pivot), camera.pivot != camera.at);
+        }
+        put("fov", camera.fovDeg);
+        put("orthographic", true, camera.orthographic);
+        put("zUp", true, camera.zUp);
+        writer.endObject();
+    }
+
+    void putStep(const SessionStep& step)
+    {
+        writer.beginObject(Layout::Inline);
+        put("type", stepTypeName(step.type));
+        put("title", step.name, step.type == Type::Caption);
+        put("text", step.text, step.type == Type::Caption && !step.text.isEmpty());
+        put("command", step.name, step.type == Type::Command);
+        put("value", step.value, step.type == Type::Command && !step.value.isNull());
+        put("name", step.name, step.type == Type::Checkpoint);
+        put("at", jsonOf(step.at), hasPlace(step.type));
+        put("button", buttonName(step.button),
+            hasButton(step.type) && step.button != Qt::LeftButton);
+        put("delta", step.wheelDelta, step.type == Type::Wheel);
+        put("key", step.key, !step.key.isEmpty());
+        put("modifiers", QJsonArray::fromStringList(modifierNames(step.modifiers)),
+            step.modifiers != Qt::NoModifier);
+        put("after", step.afterMs, step.afterMs != 0);
+        if (step.type == Type::Checkpoint) {
+            put("screenshot", true, step.screenshot);
+            const QJsonObject expectation = jsonOf(step.expectation);
+            put("expect", expectation, !expectation.isEmpty());
+        }
+        writer.endObject();
+    }
+
+    JsonWriter writer;
+};
+
+/// A value of a command in which files that are there are named from a folder.
+QJsonValue fromFolder(const QJsonValue& value, const QDir& folder)
+{
+    if (value.isString()) {
+        const QString file = value.toString();
+        const bool isFile = QDir::isAbsolutePath(file) && QFileInfo(file).isFile();
+        return isFile ? folder.relativeFilePath(file) : file;
+    }
+    if (value.isObject()) {
+        QJsonObject object = value.toObject();
+        for (const QString& key : object.keys()) {
+            object[key] = fromFolder(object[key], folder);
+        }
+        return object;
+    }
+    return value;
+}
+
+}  // namespace
+
+QByteArray sessionText(const Session& session)
+{
+    return Output().textOf(session);
+}
+
+bool writeSessionFile(const QString& path, const Session& session, QString& error)
+{
+    Session relative = session;
+    const QDir folder = QFileInfo(path).absoluteDir();
+    for (QString& file : relative.files) {
+        file = folder.relativeFilePath(file);
+    }
+    for (SessionStep& step : relative.steps) {
+        step.value = fromFolder(step.value, folder);
+    }
+    return writeWhole(path, sessionText(relative), error);
+}
+
+}  // namespace viewer

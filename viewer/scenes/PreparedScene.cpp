@@ -1,0 +1,411 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/scenes/PreparedScene.h"
+
+#include "viewer/commands/JsonReader.h"
+#include "viewer/loading/ModelReader.h"
+#include "viewer/loading/PictureFile.h"
+#include "viewer/loading/StartScene.h"
+#include "viewer/scenes/SceneMatchState.h"
+#include "viewer/scenes/ScenePictures.h"
+#include "viewer/stage/ClipPlanes.h"
+#include "viewer/stage/ObjectCommands.h"
+#include "viewer/stage/Stage.h"
+#include "viewer/texts/Text.h"
+#include "viewer/textures/SurfaceMaterial.h"
+
+#include <nbKernel/nbScenegraph.h>
+#include <nbKernelServices/nbScopedUndo.h>
+#include <nbKernelServices/nbUndoService.h>
+#include <nbOpenSGExt/ClipPlane3D.h>
+#include <nbOpenSGSceneplate/Sceneplate.h>
+#include <nbOpenSGUtils/nbEdit.h>
+#include <nbOpenSGUtils/nbNodePermission.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
+
+#include <OpenSG/OSGCoredNodePtr.h>
+
+#include <cmath>
+#include <map>
+#include <utility>
+
+namespace viewer {
+namespace {
+
+bool isFinite(const osg::Matrix& matrix)
+{
+    constexpr osg::UInt32 kValues = 16;
+    for (osg::UInt32 i = 0; i < kValues; ++i) {
+        if (!std::isfinite(matrix.getValues()[i])) {
+            return false;
+        }
+    }
+    return true;
+}
+
+/// The object at a path below a model's root; null if there is none.
+osg::NodePtr objectBelow(const osg::NodePtr& root, const QString& path)
+{
+    osg::NodePtr at = root;
+    for (const QString& number : path.split(QLatin1Char('/'), Qt::SkipEmptyParts)) {
+        const std::vector<osg::NodePtr> children = childObjects(at);
+        const std::size_t place = number.toUInt();
+        if (place >= children.size()) {
+            return {};
+        }
+        at = children[place];
+    }
+    return at;
+}
+
+}  // namespace
+
+/// Builds what a document describes and remembers the first thing that is wrong.
+class PreparedScene::Builder
+{
+public:
+    Builder(PreparedScene& target, const SceneAssets& sceneAssets, QString& errorText)
+        : scene(target)
+        , assets(sceneAssets)
+        , error(errorText)
+    { }
+
+    bool build(const SceneDocument& document)
+    {
+        // What is built here is not shown yet, so there is nothing to be taken back.
+        const nbScopedUndo muted(false);
+        scene.camera = document.camera;
+        scene.match = document.match;
+        return buildModels(document.models) && buildPlanes(document.clipPlanes) &&
+            buildTree(document) && buildPlates(document.plates) &&
+            (!document.match ||
+             readPicture(document.match->photograph, QStringLiteral("match.photograph"),
+                         scene.photograph));
+    }
+
+private:
+    bool fail(const QString& place, const QString& what)
+    {
+        return JsonReader(error).fail(place, what);
+    }
+
+    // == Files
+
+    bool readPicture(const ScenePicture& picture, const QString& place,
+                     osg::RefPtr<osg::ImagePtr>& image)
+    {
+        if (picture.isNull()) {
+            return true;
+        }
+        QString reason = Text::tr("is no picture");
+        if (!picture.png.isEmpty()) {
+            image = osg::RefPtr<osg::ImagePtr>(imageOf(picture.png));
+        } else {
+            osg::RefPtr<osg::ImagePtr>& known = pictures[picture.file];
+            if (known == osg::NullFC) {
+                known = assets.picture(picture.file, reason);
+            }
+            image = known;
+        }
+        return image != osg::NullFC || fail(place, reason);
+    }
+
+    // == Models
+
+    bool buildModels(const std::vector<SceneModel>& wanted)
+    {
+        for (std::size_t i = 0; i < wanted.size(); ++i) {
+            const QString place = QStringLiteral("models[%1]").arg(i);
+            if (!buildModel(wanted[i], place)) {
+                return false;
+            }
+        }
+        return true;
+    }
+
+    bool buildModel(const SceneModel& wanted, const QString& place)
+    {
+        std::optional<BuiltModel> model;
+        QString reason;
+        if (!wanted.file.isEmpty()) {
+            model = assets.model(wanted.file, reason);
+        } else if (wanted.builtIn == QLatin1String(kStartSceneName)) {
+            model = viewer::buildModel(makeStartScene());
+        } else {
+            reason = Text::tr("there is no model \"%1\"").arg(wanted.builtIn);
+        }
+        if (!model) {
+            return fail(place, reason);
+        }
+        const osg::NodePtr root = model->root.get();
+        models.emplace_back(root);
+        scene.sources.add(*model);
+        for (std::size_t i = 0; i < wanted.nodes.size(); ++i) {
+            if (!editObject(root, wanted.nodes[i], place + QStringLiteral(".nodes[%1]").arg(i))) {
+                return false;
+            }
+        }
+        for (std::size_t i = 0; i < wanted.surfaces.size(); ++i) {
+            if (!editSurface(root, wanted.surfaces[i],
+                             place + QStringLiteral(".surfaces[%1]").arg(i))) {
+                return false;
+            }
+        }
+        return true;
+    }
+
+    bool isNamed(const osg::NodePtr& node, const QString& name, const QString& place)
+    {
+        const QString found = QString::fromStdString(scene.sources.nameOf(node));
+        return found == name ||
+            fail(place,
+                 Text::tr("expected \"%1\" in the model, which has \"%2\" there").arg(name, found));
+    }
+
+    bool editObject(const osg::NodePtr& root, const SceneNode& wanted, const QString& place)
+    {
+        const osg::NodePtr node = objectBelow(root, wanted.path);
+        if (node == osg::NullFC) {
+            return fail(
+                place,
+                Text::tr("the model has no object \"%1\" at \"%2\"").arg(wanted.name, wanted.path));
+        }
+        return isNamed(node, wanted.name, place) && editNode(node, wanted, place);
+    }
+
+    bool editNode(const osg::NodePtr& node, const SceneNode& wanted, const QString& place)
+    {
+        if (wanted.transform) {
+            nbNodeUtils::convertToTransform3DNode(node);
+            const auto core = osg::Transform3DPtr::dcast(node->getCore());
+            wanted.transform->applyTo(core);
+            if (!isFinite(core->getMatrix())) {
+                return fail(place + QStringLiteral(".transform"),
+                            Text::tr("the numbers are too large"));
+            }
+        }
+        if (!wanted.visible) {
+            const nbEdit edit(node, osg::Node::TravMaskFieldMask);
+            node->setActive(false);
+        }
+        for (osg::Int32 permission = 0; wanted.denied >> permission != 0; ++permission) {
+            nbNodePermission::setAllowed(node, permission, (wanted.denied >> permission & 1U) == 0);
+            if (permission == kLastPermission) {
+                break;
+            }
+        }
+        if (wanted.newName) {
+            nbNodeUtils::setName(node, wanted.newName->toStdString());
+        }
+        return true;
+    }
+
+    bool editSurface(const osg::NodePtr& root, const SceneSurface& wanted, const QString& place)
+    {
+        const osg::NodePtr object = objectBelow(root, wanted.object);
+        const std::vector<osg::NodePtr> surfaces = ownSurfaces(object);
+        if (static_cast<std::size_t>(wanted.part) >= surfaces.size()) {
+            return fail(place, Text::tr("the model has no surface \"%1\" there").arg(wanted.name));
+        }
+        const osg::NodePtr node = surfaces[static_cast<std::size_t>(wanted.part)];
+        if (!isNamed(node, wanted.name, place)) {
+            return false;
+        }
+        const osg::UberMaterialPtr material = makeUberMaterial(node);
+        {
+            const nbEdit edit(material, osg::FieldBits::AllFields);
+            material->setAmbient(wanted.ambient);
+            material->setDiffuse(wanted.diffuse);
+            material->setSpecular(wanted.specular);
+            material->setEmission(wanted.emission);
+            material->setShininess(wanted.shininess);
+            material->setTransparency(wanted.transparency);
+        }
+        for (std::size_t i = 0; i < wanted.components.size(); ++i) {
+            if (!addComponent(material, wanted.components[i],
+                              place + QStringLiteral(".components[%1]").arg(i))) {
+                return false;
+            }
+        }
+        return true;
+    }
+
+    bool addComponent(const osg::UberMaterialPtr& material, const SceneComponent& wanted,
+                      const QString& place)
+    {
+        osg::RefPtr<osg::ImagePtr> image;
+        if (!readPicture(wanted.picture, place + QStringLiteral(".picture"), image)) {
+            return false;
+        }
+        const std::string name = wanted.name.toStdString();
+        if (image != osg::NullFC) {
+            material->setImage(name, image.get());
+        }
+        if (wanted.settings) {
+            material->setComponentSettings(name, makeSettings(*wanted.settings));
+        }
+        return true;
+    }
+
+    static osg::ColorComponentSettingsPtr makeSettings(const SceneSettings& wanted)
+    {
+        const osg::ColorComponentSettingsPtr settings = osg::ColorComponentSettings::create();
+        wanted.values.applyTo(settings);
+        const nbEdit edit(settings, osg::FieldBits::AllFields);
+        settings->setTextureProjectionType(wanted.type);
+        settings->setPlanarProjectionFlags(static_cast<osg::UInt32>(wanted.flags));
+        settings->setAsMask(wanted.asMask);
+        settings->setInvert(wanted.invert);
+        if (wanted.projection) {
+            const osg::Transform3DPtr projection = osg::Transform3D::create();
+            wanted.projection->applyTo(projection);
+            settings->setPlanarProjection(projection);
+        }
+        return settings;
+    }
+
+    // == Clip planes and the tree
+
+    bool buildPlanes(const std::vector<SceneClipPlane>& wanted)
+    {
+        for (std::size_t i = 0; i < wanted.size(); ++i) {
+            frames.emplace_back(makeClipFrame(wanted[i].outline));
+            const osg::NodePtr frame = frames.back().get();
+            nbNodeUtils::setName(frame, wanted[i].frame.name.toStdString());
+            if (!editNode(frame, wanted[i].frame, QStringLiteral("clipPlanes[%1].frame").arg(i))) {
+                return false;
+            }
+            planes.emplace_back(makeClipPlane(frame));
+            const auto core = osg::ClipPlane3DPtr::dcast(planes.back()->getCore());
+            const nbEdit edit(core, osg::FieldBits::AllFields);
+            core->setEquation(wanted[i].equation);
+            core->setEnable(wanted[i].enabled);
+        }
+        return true;
+    }
+
+    bool buildTree(const SceneDocument& document)
+    {
+        if (document.tree.empty()) {
+            scene.top = models;
+        }
+        for (const SceneBranch& branch : document.tree) {
+            scene.top.push_back(nodeOf(branch));
+            hangChildren(branch);
+        }
+        return true;
+    }
+
+    const osg::RefPtr<osg::NodePtr>& nodeOf(const SceneBranch& branch) const
+    {
+        const auto& all = branch.kind == SceneBranch::Kind::Model ? models
+            : branch.kind == SceneBranch::Kind::Frame             ? frames
+                                                                  : planes;
+        return all[static_cast<std::size_t>(branch.number)];
+    }
+
+    void hangChildren(const SceneBranch& branch)
+    {
+        const osg::NodePtr node = nodeOf(branch).get();
+        const nbEdit edit(node, osg::Node::ChildrenFieldMask);
+        for (const SceneBranch& child : branch.children) {
+            node->addChild(nodeOf(child).get());
+            hangChildren(child);
+        }
+    }
+
+    // == Plates
+
+    bool buildPlates(const std::vector<ScenePlate>& wanted)
+    {
+        for (std::size_t i = 0; i < wanted.size(); ++i) {
+            osg::RefPtr<osg::ImagePtr> image;
+            if (!readPicture(wanted[i].picture, QStringLiteral("plates[%1].picture").arg(i),
+                             image)) {
+                return false;
+            }
+            osg::SceneplatePtr plate;
+            scene.plates.emplace_back(osg::makeCoredNode<osg::Sceneplate>(&plate));
+            nbNodeUtils::setName(scene.plates.back().get(), wanted[i].name.toStdString());
+            const nbEdit edit(plate, osg::FieldBits::AllFields);
+            plate->setImage(image.get());
+            plate->setColor(wanted[i].color);
+            plate->setAnchor(wanted[i].anchor);
+            plate->setPosition(wanted[i].position);
+            plate->setSize(wanted[i].size);
+            plate->setScale(wanted[i].scale);
+            plate->setRotation(wanted[i].rotationDeg);
+            plate->setFront(wanted[i].front);
+            plate->setOrder(wanted[i].order);
+            plate->setOpacity(wanted[i].opacity);
+            plate->setVisible(wanted[i].visible);
+        }
+        return true;
+    }
+
+    static constexpr osg::Int32 kLastPermission = 31;
+
+    PreparedScene& scene;
+    const SceneAssets& assets;
+    QString& error;
+    std::vector<osg::RefPtr<osg::NodePtr>> models;
+    std::vector<osg::RefPtr<osg::NodePtr>> frames;
+    std::vector<osg::RefPtr<osg::NodePtr>> planes;
+    std::map<QString, osg::RefPtr<osg::ImagePtr>> pictures;  ///< by file
+};
+
+SceneAssets SceneAssets::fromDisk()
+{
+    return { [](const QString& file, QString& error) -> std::optional<BuiltModel> {
+                const std::optional<ModelData> data = readModelFile(file, {}, error);
+                return data ? std::make_optional(buildModel(*data)) : std::nullopt;
+            },
+             [](const QString& file, QString& error) { return readPicture(file, error); } };
+}
+
+std::unique_ptr<PreparedScene> PreparedScene::prepare(const SceneDocument& document,
+                                                      const SceneAssets& assets, QString& error)
+{
+    std::unique_ptr<PreparedScene> scene(new PreparedScene);
+    return Builder(*scene, assets, error).build(document) ? std::move(scene) : nullptr;
+}
+
+void PreparedScene::show(Stage& stage)
+{
+    {
+        const nbScopedUndo muted(false);
+        stage.setActiveTool(nullptr);
+        stage.replace(top, std::move(sources));
+        const osg::NodePtr plateRoot = nbScenegraph::getSceneplateRoot();
+        {
+            const nbEdit edit(plateRoot, osg::Node::ChildrenFieldMask);
+            for (const osg::RefPtr<osg::NodePtr>& plate : plates) {
+                plateRoot->addChild(plate.get());
+            }
+        }
+        stage.setPose(camera);
+        if (match) {
+            showMatch(*match, photograph.get(), stage);
+        }
+    }
+    nbUndoService::the()->clear();
+    stage.edited();
+}
+
+bool openScene(Stage& stage, const QString& path, QString& error)
+{
+    const std::optional<SceneDocument> document = readSceneFile(path, error);
+    if (!document) {
+        return false;
+    }
+    QString problem;
+    const std::unique_ptr<PreparedScene> scene =
+        PreparedScene::prepare(*document, SceneAssets::fromDisk(), problem);
+    if (!scene) {
+        error = QStringLiteral("%1: %2").arg(path, problem);
+        return false;
+    }
+    scene->show(stage);
+    return true;
+}
+
+}  // namespace viewer

@@ -1,0 +1,450 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/commands/JsonReader.h"
+#include "viewer/scenes/SceneDocument.h"
+#include "viewer/scenes/SceneFields.h"
+#include "viewer/scenes/SceneNumbers.h"
+#include "viewer/texts/TextFile.h"
+
+#include <nbOpenSGExt/nbEulerRotation.h>
+
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+namespace viewer {
+namespace {
+
+constexpr qint64 kMaxSceneBytes = 256LL * 1024 * 1024;
+constexpr int kMostOfAKind = 1000000;
+constexpr int kMaskBits = 32;
+
+bool isNodePath(const QString& path)
+{
+    static const QRegularExpression kPattern(QStringLiteral("^([0-9]{1,9}(/[0-9]{1,9})*)?\\z"));
+    return kPattern.match(path).hasMatch();
+}
+
+/// The archive of SceneFields.h that reads.
+class Input : private JsonReader
+{
+public:
+    Input(const QDir& sceneFolder, QString& errorText)
+        : JsonReader(errorText)
+        , folder(sceneFolder)
+    { }
+
+    bool readDocument(const QJsonObject& object, SceneDocument& document)
+    {
+        return getObject(object, QString(), document) && checkTree(document);
+    }
+
+    template <class Value>
+    bool field(const char* key, Value& value)
+    {
+        return has(key) ? get(take(key), pathOf(key), value)
+                        : fail(place, QStringLiteral("\"%1\" is missing").arg(QLatin1String(key)));
+    }
+
+    template <class Value>
+    bool field(const char* key, Value& value, const Value& usual)
+    {
+        value = usual;
+        return !has(key) || field(key, value);
+    }
+
+    template <class Value>
+    bool field(const char* key, std::optional<Value>& value)
+    {
+        return !has(key) || field(key, value.emplace());
+    }
+
+    bool field(const char* key, ScenePicture& picture)
+    {
+        return !has(key) || getPicture(take(key), pathOf(key), picture);
+    }
+
+    bool version(const char* key, int number)
+    {
+        return take(key) == QJsonValue(number) ||
+            fail(pathOf(key), QStringLiteral("expected %1, the version of the format").arg(number));
+    }
+
+    template <class Number, std::size_t Count>
+    bool words(const char* key, Number& number, const std::array<const char*, Count>& allowed)
+    {
+        const int found = indexOf(take(key), allowed);
+        number = static_cast<Number>(std::max(found, 0));
+        return found >= 0 || failWords(pathOf(key), allowed);
+    }
+
+    template <std::size_t Count>
+    bool words(const char* key, int& number, const std::array<const char*, Count>& allowed,
+               int usual)
+    {
+        number = usual;
+        return !has(key) || words(key, number, allowed);
+    }
+
+    bool bits(const char* key, osg::UInt32& mask)
+    {
+        const QJsonValue value = take(key);
+        const QJsonArray entries = value.toArray();
+        for (const QJsonValue& entry : entries) {
+            int bit = 0;
+            if (!readInt(entry, pathOf(key), kMaskBits - 1, bit) || bit < 0) {
+                return fail(pathOf(key), QStringLiteral("expected numbers from 0 to 31"));
+            }
+            mask |= 1U << static_cast<unsigned>(bit);
+        }
+        return checkArray(value, pathOf(key));
+    }
+
+    template <std::size_t Count>
+    bool names(const char* key, int& mask, const std::array<const char*, Count>& allowed)
+    {
+        const QJsonValue value = take(key);
+        const QJsonArray entries = value.toArray();
+        for (const QJsonValue& entry : entries) {
+            const int bit = indexOf(entry, allowed);
+            if (bit < 0) {
+                return failWords(pathOf(key), allowed);
+            }
+            mask |= 1 << bit;
+        }
+        return checkArray(value, pathOf(key));
+    }
+
+    bool path(const char* key, QString& file)
+    {
+        return !has(key) || getFile(take(key), pathOf(key), file);
+    }
+
+    template <class Value>
+    bool object(const char* key, Value& value)
+    {
+        return getObject(take(key), pathOf(key), value);
+    }
+
+    template <class Value>
+    bool part(const char* key, std::optional<Value>& value)
+    {
+        return !has(key) || object(key, value.emplace());
+    }
+
+    template <class Value>
+    bool list(const char* key, std::vector<Value>& values)
+    {
+        const QJsonValue value = take(key);
+        const QString path = pathOf(key);
+        const QJsonArray array = value.toArray();
+        for (int i = 0; i < array.size(); ++i) {
+            if (!getObject(array.at(i), path + QStringLiteral("[%1]").arg(i),
+                           values.emplace_back())) {
+                return false;
+            }
+        }
+        return checkArray(value, path);
+    }
+
+private:
+    // == The object that is being read
+
+    bool has(const char* key) const { return current.contains(QLatin1String(key)); }
+
+    QJsonValue take(const char* key)
+    {
+        known.append(QLatin1String(key));
+        return current.value(QLatin1String(key));
+    }
+
+    QString pathOf(const char* key) const
+    {
+        return place.isEmpty() ? QString(QLatin1String(key))
+                               : place + QLatin1Char('.') + QLatin1String(key);
+    }
+
+    template <class Value>
+    bool getObject(const QJsonValue& json, const QString& path, Value& value)
+    {
+        if (!json.isObject()) {
+            return fail(path, QStringLiteral("expected an object"));
+        }
+        const QJsonObject outer = std::exchange(current, json.toObject());
+        const QString outerPlace = std::exchange(place, path);
+        const QStringList outerKnown = std::exchange(known, {});
+        const bool isRead =
+            scenefields::describe(*this, value) && check(value) && checkKeys(current, place, known);
+        current = outer;
+        place = outerPlace;
+        known = outerKnown;
+        return isRead;
+    }
+
+    // == Values
+
+    template <class Value>
+    bool get(const QJsonValue& json, const QString& path, Value& value)
+    {
+        if constexpr (SceneNumbers<Value>::kCount > 0) {
+            typename SceneNumbers<Value>::Array numbers {};
+            const bool isRead =
+                readExact(json, path, numbers.data(), static_cast<int>(numbers.size()));
+            SceneNumbers<Value>::assign(value, numbers);
+            return isRead;
+        } else {
+            return getPlain(json, path, value);
+        }
+    }
+
+    bool getPlain(const QJsonValue& json, const QString& path, bool& flag)
+    {
+        return readBool(json, path, flag);
+    }
+
+    bool getPlain(const QJsonValue& json, const QString& path, float& number)
+    {
+        return readExact(json, path, number);
+    }
+
+    bool getPlain(const QJsonValue& json, const QString& path, double& number)
+    {
+        return readExact(QJsonArray { json }, path, &number, 1);
+    }
+
+    bool getPlain(const QJsonValue& json, const QString& path, int& number)
+    {
+        return readInt(json, path, std::numeric_limits<int>::max(), number);
+    }
+
+    bool getPlain(const QJsonValue& json, const QString& path, QString& text)
+    {
+        return readString(json, path, text);
+    }
+
+    bool getPlain(const QJsonValue& json, const QString& path, std::string& text)
+    {
+        QString read;
+        const bool isRead = readString(json, path, read);
+        text = read.toStdString();
+        return isRead;
+    }
+
+    bool getPlain(const QJsonValue& json, const QString& path,
+                  std::array<QLineF, nbdPerspectiveMatch::kLineCount>& lines)
+    {
+        const QJsonArray array = json.toArray();
+        if (array.size() != nbdPerspectiveMatch::kLineCount) {
+            return fail(path, QStringLiteral("expected an array of 6 lines"));
+        }
+        for (int i = 0; i < array.size(); ++i) {
+            std::array<double, 4> ends {};
+            if (!readExact(array.at(i), path + QStringLiteral("[%1]").arg(i), ends.data(), 4)) {
+                return false;
+            }
+            lines[static_cast<std::size_t>(i)] = QLineF(ends[0], ends[1], ends[2], ends[3]);
+        }
+        return true;
+    }
+
+    bool getFile(const QJsonValue& json, const QString& path, QString& file)
+    {
+        QString name;
+        if (!readString(json, path, name)) {
+            return false;
+        }
+        file = QDir::cleanPath(folder.absoluteFilePath(name));
+        return !name.isEmpty() || fail(path, QStringLiteral("expected the name of a file"));
+    }
+
+    bool getPicture(const QJsonValue& json, const QString& path, ScenePicture& picture)
+    {
+        if (!json.isObject()) {
+            return getFile(json, path, picture.file);
+        }
+        const QJsonObject pixels = json.toObject();
+        QString text;
+        if (!checkKeys(pixels, path, { QStringLiteral("png") }) ||
+            !readString(pixels.value(QLatin1String("png")), path + QStringLiteral(".png"), text)) {
+            return false;
+        }
+        const auto decoded = QByteArray::fromBase64Encoding(
+            text.toLatin1(), QByteArray::AbortOnBase64DecodingErrors);
+        picture.png = *decoded;
+        return (decoded && !picture.png.isEmpty()) ||
+            fail(path + QStringLiteral(".png"), QStringLiteral("expected a picture in base 64"));
+    }
+
+    template <std::size_t Count>
+    static int indexOf(const QJsonValue& word, const std::array<const char*, Count>& words)
+    {
+        for (std::size_t i = 0; i < Count; ++i) {
+            if (word == QJsonValue(QLatin1String(words[i]))) {
+                return static_cast<int>(i);
+            }
+        }
+        return -1;
+    }
+
+    template <std::size_t Count>
+    bool failWords(const QString& path, const std::array<const char*, Count>& words)
+    {
+        QStringList all;
+        for (const char* word : words) {
+            all.append(QLatin1String(word));
+        }
+        return fail(path,
+                    QStringLiteral("expected one of: %1").arg(all.join(QStringLiteral(", "))));
+    }
+
+    bool checkArray(const QJsonValue& value, const QString& path)
+    {
+        return value.isUndefined() || value.isArray() ||
+            fail(path, QStringLiteral("expected an array"));
+    }
+
+    // == What values mean together; the object is still the current one
+
+    template <class Value>
+    bool check(const Value&)
+    {
+        return true;
+    }
+
+    bool check(const nbTransformState& state)
+    {
+        const QString order = QString::fromStdString(state.eulerRotationOrder);
+        const int number = nbEulerRotation::getOrderNumber(state.eulerRotationOrder);
+        return order.toLower() == QLatin1String(nbEulerRotation::getOrderName(number)) ||
+            fail(pathOf("order"), QStringLiteral("expected the letters x, y and z"));
+    }
+
+    bool check(const SceneNode& node)
+    {
+        return isNodePath(node.path) ||
+            fail(pathOf("path"), QStringLiteral("expected numbers such as \"0/3\""));
+    }
+
+    bool check(const SceneSurface& surface)
+    {
+        return (isNodePath(surface.object) ||
+                fail(pathOf("object"), QStringLiteral("expected numbers such as \"0/3\""))) &&
+            ((surface.part >= 0 && surface.part < kMostOfAKind) ||
+             fail(pathOf("part"), QStringLiteral("expected a place, counted from 0")));
+    }
+
+    bool check(const SceneModel& model)
+    {
+        return model.file.isEmpty() != model.builtIn.isEmpty() ||
+            fail(place, QStringLiteral("expected either \"file\" or \"builtIn\""));
+    }
+
+    bool check(const SceneClipPlane& plane)
+    {
+        return (plane.outline > 0.0F ||
+                fail(pathOf("outline"), QStringLiteral("expected a number above 0"))) &&
+            (plane.frame.transform ||
+             fail(pathOf("frame"), QStringLiteral("\"transform\" is missing")));
+    }
+
+    bool check(const ScenePlate& plate)
+    {
+        return (plate.opacity >= 0.0F && plate.opacity <= 1.0F) ||
+            fail(pathOf("opacity"), QStringLiteral("expected a number from 0 to 1"));
+    }
+
+    bool check(const SceneMatch& match)
+    {
+        return (match.veil >= 0.0 && match.veil <= 1.0) ||
+            fail(pathOf("veil"), QStringLiteral("expected a number from 0 to 1"));
+    }
+
+    // == The tree
+
+    /// What of the document has been met in the tree: models, frames, planes.
+    using Met = std::array<std::vector<bool>, 3>;
+
+    bool checkTree(const SceneDocument& document)
+    {
+        const QString path = QStringLiteral("tree");
+        if (document.tree.empty()) {
+            return document.clipPlanes.empty() ||
+                fail(path, QStringLiteral("clip planes need one"));
+        }
+        Met met { std::vector<bool>(document.models.size()),
+                  std::vector<bool>(document.clipPlanes.size()),
+                  std::vector<bool>(document.clipPlanes.size()) };
+        if (!meet(document.tree, path, met)) {
+            return false;
+        }
+        for (const std::vector<bool>& all : met) {
+            if (std::find(all.begin(), all.end(), false) != all.end()) {
+                return fail(path, QStringLiteral("a model, frame or plane is missing"));
+            }
+        }
+        return true;
+    }
+
+    bool meet(const std::vector<SceneBranch>& branches, const QString& path, Met& met)
+    {
+        for (std::size_t i = 0; i < branches.size(); ++i) {
+            const SceneBranch& branch = branches[i];
+            const QString at = path + QStringLiteral("[%1]").arg(i);
+            std::vector<bool>& all = met[static_cast<std::size_t>(branch.kind)];
+            const auto number = static_cast<std::size_t>(branch.number);
+            if (branch.number < 0 || number >= all.size() || all[number]) {
+                return fail(at,
+                            QStringLiteral("there is none of this number, or it was met before"));
+            }
+            all[number] = true;
+            if (branch.kind != SceneBranch::Kind::Plane && !branch.children.empty()) {
+                return fail(at, QStringLiteral("only a plane has children"));
+            }
+            if (!meet(branch.children, at + QStringLiteral(".children"), met)) {
+                return false;
+            }
+        }
+        return true;
+    }
+
+    QDir folder;
+    QJsonObject current;
+    QString place;
+    QStringList known;
+};
+
+}  // namespace
+
+bool isSceneFileName(const QString& path)
+{
+    return QFileInfo(path).suffix().compare(QLatin1String(kSceneSuffix), Qt::CaseInsensitive) == 0;
+}
+
+std::optional<SceneDocument> parseScene(const QByteArray& text, const QDir& folder, QString& error)
+{
+    const std::optional<QJsonObject> object = parseJsonObject(text, error);
+    SceneDocument document;
+    if (!object || !Input(folder, error).readDocument(*object, document)) {
+        return std::nullopt;
+    }
+    return document;
+}
+
+std::optional<SceneDocument> readSceneFile(const QString& path, QString& error)
+{
+    QByteArray text;
+    if (!readWhole(path, kMaxSceneBytes, text, error)) {
+        return std::nullopt;
+    }
+    QString problem;
+    auto document = parseScene(text, QFileInfo(path).absoluteDir(), problem);
+    if (!document) {
+        error = QStringLiteral("%1: %2").arg(path, problem);
+    }
+    return document;
+}
+
+}  // namespace viewer

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/scenes/ScenePictures.h"
+
+#include "viewer/loading/PictureFile.h"
+#include "viewer/texts/Text.h"
+
+#include <nbOpenSGRenderAction/nbImageConvert.h>
+
+#include <QBuffer>
+
+namespace viewer {
+
+bool capturePicture(const osg::ImagePtr& image, ScenePicture& picture, QString& error)
+{
+    if (image == osg::NullFC) {
+        return true;
+    }
+    picture.file = pictureFile(image);
+    if (!picture.file.isEmpty()) {
+        return true;
+    }
+    QBuffer buffer(&picture.png);
+    const QImage pixels = nbImageConvert::toPicture(image);
+    if (pixels.isNull() || !buffer.open(QIODevice::WriteOnly) || !pixels.save(&buffer, "PNG")) {
+        error = Text::tr("a picture that came from no file cannot be saved");
+        return false;
+    }
+    return true;
+}
+
+osg::ImagePtr imageOf(const QByteArray& png)
+{
+    return nbImageConvert::toImage(QImage::fromData(png, "PNG"));
+}
+
+}  // namespace viewer

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/stage/DragContext.h"
+
+#include <nbInteraction/EventNames.h>
+#include <nbInteraction/InteractionEvent.h>
+#include <nbInteraction/InteractionManager.h>
+#include <nbInteraction/Picker.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
+
+#include <utility>
+
+namespace viewer {
+
+namespace names = nbec::interaction::names;
+using nbec::interaction::InteractionEvent;
+using nbec::interaction::InteractionManager;
+using nbec::manipulator::ManipulatorInteractionContext;
+
+DragContext::DragContext()
+    : ManipulatorInteractionContext(nbec::interaction::Manipulator)
+{ }
+
+void DragContext::setDragCallback(std::function<void()> callback)
+{
+    dragCallback = std::move(callback);
+}
+
+void DragContext::notify() const
+{
+    if (dragCallback) {
+        dragCallback();
+    }
+}
+
+bool DragContext::triggerEvent(InteractionManager* manager, const InteractionEvent& event)
+{
+    const bool isTool = event.getTool() == names::kTool;
+    if (isTool && event.getEvent() == names::kStart) {
+        return start(manager, event);
+    }
+    if (isTool && event.getEvent() == names::kStop && group.isOpen()) {
+        return stop(manager, event);
+    }
+    return ManipulatorInteractionContext::triggerEvent(manager, event);
+}
+
+bool DragContext::start(InteractionManager* manager, const InteractionEvent& event)
+{
+    const bool isTaken =
+        group.start([&] { return ManipulatorInteractionContext::triggerEvent(manager, event); });
+    if (isTaken) {
+        // The manipulator measures from its first step on: one where the handle was grabbed keeps
+        // the way to the next position from being lost.
+        ManipulatorInteractionContext::triggerEvent(
+            manager, InteractionEvent(names::kProcess, event.getTool(), event.getHint()));
+        grabbed = getPicker() != nullptr ? nbNodeUtils::getName(getPicker()->getHitNode()) : "";
+        notify();
+    }
+    return isTaken;
+}
+
+bool DragContext::stop(InteractionManager* manager, const InteractionEvent& event)
+{
+    const bool answer = group.stop(
+        manager, [&] { return ManipulatorInteractionContext::triggerEvent(manager, event); });
+    grabbed.clear();
+    notify();
+    return answer;
+}
+
+}  // namespace viewer

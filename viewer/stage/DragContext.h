@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "viewer/stage/DragGroup.h"
+
+#include <functional>
+#include <string>
+
+#include <manipulator/ManipulatorInteractionContext.h>
+
+namespace viewer {
+
+/// The manipulators' interaction context of the viewer: everything that a handle edits between the
+/// start of a drag and its stop becomes one undo step, see DragGroup.
+class DragContext : public nbec::manipulator::ManipulatorInteractionContext
+{
+public:
+    /// A context at the position of manipulators.
+    DragContext();
+
+    bool triggerEvent(nbec::interaction::InteractionManager* manager,
+                      const nbec::interaction::InteractionEvent& event) override;
+
+    /// Name of the handle that is being dragged, "" for none.
+    const std::string& grabbedHandle() const { return grabbed; }
+
+    /// Sets what is called when a drag has begun and when it has ended; empty for nothing.
+    void setDragCallback(std::function<void()> callback);
+
+private:
+    bool start(nbec::interaction::InteractionManager* manager,
+               const nbec::interaction::InteractionEvent& event);
+    bool stop(nbec::interaction::InteractionManager* manager,
+              const nbec::interaction::InteractionEvent& event);
+    void notify() const;
+
+    std::function<void()> dragCallback;
+    DragGroup group;
+    std::string grabbed;
+};
+
+}  // namespace viewer

@@ -1,0 +1,291 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/stage/GizmoController.h"
+
+#include "viewer/stage/HandleCursor.h"
+#include "viewer/texts/Text.h"
+#include "viewer/texts/ValueLine.h"
+
+#include <nbInteraction/InteractionManager.h>
+#include <nbKernel/nbScenegraph.h>
+#include <nbKernelServices/nbUndoService.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
+#include <nbTransform/nbTransformModel.h>
+
+#include <QString>
+
+#include <array>
+#include <utility>
+
+namespace viewer {
+namespace {
+
+using Transform = nbec::manipulator::UniversalTransformManipulator2;
+
+/// One row for each manipulator: its word, and how the transform gizmo gets into that mode.
+struct GizmoRow
+{
+    Gizmo gizmo;
+    const char* name;
+    void (Transform::*activate)();
+};
+
+constexpr std::array<GizmoRow, 12> kGizmoRows { {
+    { Gizmo::None, "none", nullptr },
+    { Gizmo::Universal, "universal", &Transform::activateUniversalManipulator },
+    { Gizmo::Translate, "translate", &Transform::activateTranslateManipulator },
+    { Gizmo::Rotate, "rotate", &Transform::activateRotateManipulator },
+    { Gizmo::Scale, "scale", &Transform::activateScaleManipulator },
+    { Gizmo::TranslateRotate, "translateRotate", &Transform::activateTranslateRotateManipulator },
+    { Gizmo::TranslateRotateScale, "translateRotateScale",
+      &Transform::activateTranslateRotateScaleManipulator },
+    { Gizmo::TranslateRotateYZ, "translateRotateYZ",
+      &Transform::activateTranslateRotateYZManipulator },
+    { Gizmo::RotatePivot, "rotatePivot", &Transform::activateRotatePivotManipulator },
+    { Gizmo::ScalePivot, "scalePivot", &Transform::activateScalePivotManipulator },
+    { Gizmo::Clipping, "clipping", &Transform::activateClippingManipulator },
+    { Gizmo::CameraPivot, "camera", nullptr },
+} };
+
+const GizmoRow& rowOf(Gizmo gizmo)
+{
+    for (const GizmoRow& row : kGizmoRows) {
+        if (row.gizmo == gizmo) {
+            return row;
+        }
+    }
+    return kGizmoRows.front();
+}
+
+constexpr float kUsualSize = 32.0F;
+constexpr double kUsualTranslationStep = 1.0;
+constexpr double kUsualRotationStepDeg = 15.0;
+constexpr double kUsualScaleStep = 0.1;
+
+}  // namespace
+
+using nbec::interaction::Picker;
+
+const char* gizmoName(Gizmo gizmo)
+{
+    return rowOf(gizmo).name;
+}
+
+bool gizmoFromName(const std::string& name, Gizmo& gizmo)
+{
+    for (const GizmoRow& row : kGizmoRows) {
+        if (name == row.name) {
+            gizmo = row.gizmo;
+            return true;
+        }
+    }
+    return false;
+}
+
+GizmoController::GizmoController(nbec::interaction::InteractionManager& interactionManager)
+    : manager(interactionManager)
+{
+    picker.setFilter(Picker::HandleFilter);
+    probe.setFilter(Picker::HandleFilter);
+    context.setPicker(&picker);
+    const osg::NodePtr root = nbScenegraph::getInternalRoot();
+    transform.setVisualisationRoot(root);
+    camera.setVisualisationRoot(root);
+}
+
+GizmoController::~GizmoController()
+{
+    manager.removeContext(&context);
+    context.setManipulator(nullptr);
+    context.setPicker(nullptr);
+}
+
+nbec::manipulator::Manipulator* GizmoController::manipulatorOf(Gizmo gizmo)
+{
+    if (gizmo == Gizmo::CameraPivot) {
+        return &camera;
+    }
+    return rowOf(gizmo).activate != nullptr ? &transform : nullptr;
+}
+
+void GizmoController::applyMode(Gizmo gizmo)
+{
+    if (const auto activate = rowOf(gizmo).activate) {
+        (transform.*activate)();
+    } else if (gizmo == Gizmo::CameraPivot) {
+        camera.activatePivotManipulator();
+    }
+}
+
+void GizmoController::show(Gizmo gizmo)
+{
+    if (gizmo == current) {
+        return;
+    }
+    // A context activates its manipulator only when it is added, so it leaves before the change and
+    // returns after it.
+    manager.removeContext(&context);
+    current = gizmo;
+    nbec::manipulator::Manipulator* manipulator = manipulatorOf(gizmo);
+    context.setManipulator(manipulator);
+    probe.setPickNode(handles());
+    if (manipulator == nullptr) {
+        return;
+    }
+    manager.addContext(&context);
+    applyMode(gizmo);
+    followCamera();
+}
+
+void GizmoController::setTarget(const osg::NodePtr& node, const std::vector<osg::NodePtr>& all)
+{
+    manager.endDrag();
+    targets =
+        node != osg::NullFC ? std::vector<osg::NodePtr> { node } : std::vector<osg::NodePtr> {};
+    for (const osg::NodePtr& further : all) {
+        if (further != osg::NullFC && further != node) {
+            targets.push_back(further);
+        }
+    }
+    transform.setNode(node, targets);
+    camera.setNode(node);
+    // A manipulator hides itself without a node and shows its mode again with one.
+    applyMode(current);
+    followCamera();
+}
+
+// == Settings
+
+void GizmoController::setLocalSpace(bool on)
+{
+    Transform::setLocalSpaceManipulator(on);
+    followCamera();
+}
+
+bool GizmoController::isLocalSpace() const
+{
+    return Transform::isLocalSpaceManipulator();
+}
+
+void GizmoController::setSnapping(bool on)
+{
+    snapping = on;
+    transform.enableSnapping(on);
+}
+
+void GizmoController::setSize(float size)
+{
+    Transform::setManipulatorSize(size);
+    followCamera();
+}
+
+float GizmoController::size() const
+{
+    return Transform::getManipulatorSize();
+}
+
+void GizmoController::resetSettings()
+{
+    setLocalSpace(false);
+    setSnapping(false);
+    setSize(kUsualSize);
+    nbTransformModel* model = nbTransformModel::the();
+    model->setTranslationPrecision(kUsualTranslationStep);
+    model->setRotationPrecision(kUsualRotationStepDeg);
+    model->setScalePrecision(kUsualScaleStep);
+}
+
+bool GizmoController::centerPivots()
+{
+    manager.endDrag();
+    nbUndoService* undo = nbUndoService::the();
+    undo->beginGroup(Text::tr("Centre pivot"));
+    bool isDone = false;
+    const std::vector<osg::NodePtr> all = targets;
+    for (const osg::NodePtr& target : all) {
+        transform.setNode(target);
+        isDone = transform.centerPivot() || isDone;
+    }
+    undo->endGroup();
+    setTarget(all.empty() ? osg::NodePtr() : all.front(), all);
+    return isDone;
+}
+
+void GizmoController::setDragCallback(std::function<void()> callback)
+{
+    context.setDragCallback(std::move(callback));
+}
+
+// == Keeping in step
+
+void GizmoController::update()
+{
+    if (nbec::manipulator::Manipulator* manipulator = manipulatorOf(current)) {
+        manipulator->update(false);
+    }
+}
+
+void GizmoController::followCamera()
+{
+    nbec::manipulator::UniversalTransformManipulator2::updateAllManipulators();
+    nbec::manipulator::CameraManipulator::updateAllManipulators();
+}
+
+osg::NodePtr GizmoController::handles()
+{
+    nbec::manipulator::Manipulator* manipulator = manipulatorOf(current);
+    return manipulator != nullptr ? manipulator->getCollider() : osg::NodePtr();
+}
+
+std::string GizmoController::hoveredHandle()
+{
+    if (!context.grabbedHandle().empty()) {
+        return context.grabbedHandle();
+    }
+    const bool isPossible = pointerInside && current != Gizmo::None;
+    return isPossible ? nbNodeUtils::getName(probe.pick()) : std::string();
+}
+
+std::string GizmoController::draggedValues() const
+{
+    if (targets.empty() || context.grabbedHandle().empty()) {
+        return {};
+    }
+    const osg::NodePtr node = targets.front();
+    switch (actionOfHandle(context.grabbedHandle())) {
+    case HandleAction::MoveAlong:
+    case HandleAction::MoveInPlane:
+        if (current == Gizmo::RotatePivot) {
+            return valueLine(QT_TRANSLATE_NOOP("viewer", "Rotate pivot"),
+                             nbTransformModel::getRotationPivot(node, !isLocalSpace()));
+        }
+        if (current == Gizmo::ScalePivot) {
+            return valueLine(QT_TRANSLATE_NOOP("viewer", "Scale pivot"),
+                             nbTransformModel::getScalePivot(node, !isLocalSpace()));
+        }
+        return valueLine(QT_TRANSLATE_NOOP("viewer", "Translation"),
+                         nbTransformModel::getTranslation(node, !isLocalSpace()));
+    case HandleAction::Turn:
+        return valueLine(QT_TRANSLATE_NOOP("viewer", "Rotation"),
+                         nbNodeUtils::getTransformNodeRotation(node));
+    case HandleAction::ScaleAlong:
+    case HandleAction::ScaleAll:
+        return valueLine(QT_TRANSLATE_NOOP("viewer", "Scale"),
+                         nbNodeUtils::getTransformNodeScale(node));
+    case HandleAction::None:
+        break;
+    }
+    return {};
+}
+
+std::string GizmoController::handleAt(const osg::Pnt2f& px)
+{
+    return current == Gizmo::None ? std::string() : nbNodeUtils::getName(probe.pickAt(px));
+}
+
+void GizmoController::setPixelRatio(float ratio)
+{
+    picker.setPixelRatio(ratio);
+    probe.setPixelRatio(ratio);
+}
+
+}  // namespace viewer

@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "viewer/stage/DragContext.h"
+
+#include <nbInteraction/Picker.h>
+
+#include <OpenSG/OSGNode.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include <manipulator/CameraManipulator.h>
+#include <manipulator/UniversalTransformManipulator2.h>
+
+namespace nbec::interaction {
+class InteractionManager;
+}  // namespace nbec::interaction
+
+namespace viewer {
+
+/// Which manipulator is shown.
+enum class Gizmo
+{
+    None,
+    Universal,
+    Translate,
+    Rotate,
+    Scale,
+    TranslateRotate,
+    TranslateRotateScale,
+    TranslateRotateYZ,
+    RotatePivot,
+    ScalePivot,
+    Clipping,
+    CameraPivot
+};
+
+/// Word for a gizmo in session files and command names, such as "universal".
+const char* gizmoName(Gizmo gizmo);
+
+/// @return false, target untouched, for an unknown word
+bool gizmoFromName(const std::string& name, Gizmo& gizmo);
+
+/// Owns the manipulators, their picker and their interaction context; shows one manipulator at a
+/// time on one node.
+class GizmoController
+{
+public:
+    /// @param interactionManager  not owned, outlives this
+    explicit GizmoController(nbec::interaction::InteractionManager& interactionManager);
+    GizmoController(const GizmoController&) = delete;
+    GizmoController& operator=(const GizmoController&) = delete;
+    ~GizmoController();
+
+    void show(Gizmo gizmo);
+
+    Gizmo shown() const { return current; }
+
+    /// Puts the manipulators on a node, null for none, and on further ones that go along. A running
+    /// drag ends first. Not owned.
+    /// @param all  every node to be transformed, with or without the first
+    void setTarget(const osg::NodePtr& node, const std::vector<osg::NodePtr>& all = {});
+
+    // == Settings of the transform gizmo
+
+    /// Aligns the handles with the axes of the target instead of the world's.
+    void setLocalSpace(bool on);
+    bool isLocalSpace() const;
+    /// Lets drags advance in the steps of the transform model.
+    void setSnapping(bool on);
+
+    bool isSnapping() const { return snapping; }
+
+    /// Size on screen. @param size  above 0, below 200
+    void setSize(float size);
+    float size() const;
+    /// World space, no snapping, usual size and steps: what the program starts with.
+    void resetSettings();
+
+    /// Puts the pivots of all targets to the centres of their volumes, as one undo step. The
+    /// objects stay where they are. @return false if there is no target that can be edited
+    bool centerPivots();
+
+    /// Sets what is called when a drag of a handle begins and when it has ended.
+    void setDragCallback(std::function<void()> callback);
+
+    /// Follows the target: call before each picture.
+    void update();
+
+    /// Follows the camera: call when it moved or the view was resized.
+    void followCamera();
+
+    /// Tells whether the pointer is over the view; it is at the start.
+    void setPointerInside(bool inside) { pointerInside = inside; }
+
+    bool isPointerInside() const { return pointerInside; }
+
+    /// Name of the handle that is dragged, otherwise of that under the main widget's pointer; "" if
+    /// there is none, nothing is shown or the pointer is outside.
+    std::string hoveredHandle();
+
+    /// What the handle that is dragged edits on the main target, such as "Rotation (0, 45, 0)"; ""
+    /// while nothing is dragged.
+    std::string draggedValues() const;
+
+    /// Tree of the handles shown; null if there are none.
+    osg::NodePtr handles();
+
+    /// Name of the handle at a pixel, "" for none. @param px  device pixels, y from the top
+    std::string handleAt(const osg::Pnt2f& px);
+
+    /// Device pixels per logical pixel, for the tolerance of picking.
+    void setPixelRatio(float ratio);
+
+private:
+    nbec::manipulator::Manipulator* manipulatorOf(Gizmo gizmo);
+    void applyMode(Gizmo gizmo);
+
+    nbec::interaction::InteractionManager& manager;
+    nbec::interaction::Picker picker;
+    nbec::interaction::Picker probe;  ///< for questions, so that the context's last hit stays
+    nbec::manipulator::UniversalTransformManipulator2 transform;
+    nbec::manipulator::CameraManipulator camera;
+    DragContext context;
+    std::vector<osg::NodePtr> targets;  ///< the main one first
+    Gizmo current = Gizmo::None;
+    bool snapping = false;
+    bool pointerInside = true;
+};
+
+}  // namespace viewer

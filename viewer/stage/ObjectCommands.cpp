@@ -1,0 +1,294 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/stage/ObjectCommands.h"
+
+#include "viewer/loading/BuiltModel.h"
+#include "viewer/stage/Stage.h"
+#include "viewer/texts/Text.h"
+
+#include <nbKernel/nbScenegraph.h>
+#include <nbKernelServices/nbScopedUndo.h>
+#include <nbKernelServices/nbUndoRecord.h>
+#include <nbKernelServices/nbUndoService.h>
+#include <nbOpenSGSelection/nbSelection.h>
+#include <nbOpenSGUtils/nbEdit.h>
+#include <nbOpenSGUtils/nbNodePermission.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
+#include <nbTransform/nbTransformModel.h>
+
+#include <QJsonArray>
+#include <QStringList>
+
+#include <algorithm>
+#include <cmath>
+#include <functional>
+#include <memory>
+#include <utility>
+
+namespace viewer {
+namespace {
+
+void collectChildObjects(const osg::NodePtr& node, std::vector<osg::NodePtr>& objects)
+{
+    for (osg::UInt32 i = 0; i < node->getNChildren(); ++i) {
+        const osg::NodePtr child = node->getChild(i);
+        if (nbNodeUtils::isAuxiliaryNode(child)) {
+            continue;
+        }
+        if (nbNodeUtils::resolveToTransformNode(child) == child) {
+            objects.push_back(child);
+        } else {
+            collectChildObjects(child, objects);
+        }
+    }
+}
+
+/// Nearest object above an object; null at the top.
+osg::NodePtr parentObject(const osg::NodePtr& object)
+{
+    return objectOf(object->getParent());
+}
+
+/// Undo record of a switch of one node.
+class SwitchRecord : public nbUndoRecord
+{
+public:
+    using Get = bool (*)(const osg::NodePtr&);
+    using Set = void (*)(const osg::NodePtr&, bool);
+
+    /// Made before the edit.
+    SwitchRecord(const osg::NodePtr& switchedNode, Get getter, Set setter)
+        : node(switchedNode)
+        , get(getter)
+        , set(setter)
+        , before(getter(switchedNode))
+    { }
+
+    bool close() override
+    {
+        after = get(node.get());
+        return after != before;
+    }
+
+    void undo() override { set(node.get(), before); }
+
+    void redo() override { set(node.get(), after); }
+
+private:
+    osg::NodeRefPtr node;
+    Get get;
+    Set set;
+    bool before;
+    bool after = false;
+};
+
+/// A switch of objects: visible, locked.
+struct ObjectSwitch
+{
+    const char* name;
+    const char* title;
+    SwitchRecord::Get get;
+    SwitchRecord::Set set;
+};
+
+const ObjectSwitch kSwitches[] = {
+    { "object.visible", QT_TRANSLATE_NOOP("Manipulator", "Show or hide"),
+      [](const osg::NodePtr& node) { return node->getActive(); },
+      [](const osg::NodePtr& node, bool on) {
+          const nbEdit edit(node, osg::Node::TravMaskFieldMask);
+          node->setActive(on);
+      } },
+    { "object.locked", QT_TRANSLATE_NOOP("Manipulator", "Lock or unlock"),
+      [](const osg::NodePtr& node) {
+          return !nbNodePermission::allows(node, nbNodePermission::Transform);
+      },
+      [](const osg::NodePtr& node, bool on) {
+          nbNodePermission::setAllowed(node, nbNodePermission::Transform, !on);
+      } },
+};
+
+/// A vector of objects: how the transform model sets and tells it.
+struct ObjectVector
+{
+    const char* name;
+    osg::UInt32 (*set)(osg::UInt32 count, nbTransformModel::ValueFunction values);
+    osg::Vec3f (*get)(const osg::NodePtr& node);
+};
+
+const ObjectVector kVectors[] = {
+    { "object.translation",
+      [](osg::UInt32 count, nbTransformModel::ValueFunction values) {
+          return nbTransformModel::the()->setTranslation(count, false, values);
+      },
+      [](const osg::NodePtr& node) { return nbTransformModel::getTranslation(node, false); } },
+    { "object.rotation",
+      [](osg::UInt32 count, nbTransformModel::ValueFunction values) {
+          return nbTransformModel::the()->setRotation(count, values);
+      },
+      [](const osg::NodePtr& node) { return nbNodeUtils::getTransformNodeRotation(node); } },
+    { "object.scale",
+      [](osg::UInt32 count, nbTransformModel::ValueFunction values) {
+          return nbTransformModel::the()->setScale(count, values);
+      },
+      [](const osg::NodePtr& node) { return nbNodeUtils::getTransformNodeScale(node); } },
+    { "object.rotatePivot",
+      [](osg::UInt32 count, nbTransformModel::ValueFunction values) {
+          return nbTransformModel::the()->setRotationPivot(count, false, values);
+      },
+      [](const osg::NodePtr& node) { return nbTransformModel::getRotationPivot(node, false); } },
+    { "object.scalePivot",
+      [](osg::UInt32 count, nbTransformModel::ValueFunction values) {
+          return nbTransformModel::the()->setScalePivot(count, false, values);
+      },
+      [](const osg::NodePtr& node) { return nbTransformModel::getScalePivot(node, false); } },
+};
+
+bool readVector(const QJsonValue& value, osg::Vec3f& vector)
+{
+    const QJsonArray array = value.toArray();
+    for (int i = 0; i < 3; ++i) {
+        vector[static_cast<osg::UInt32>(i)] =
+            array.at(i).isDouble() ? static_cast<float>(array.at(i).toDouble()) : NAN;
+    }
+    return array.size() == 3 && std::isfinite(vector[0] + vector[1] + vector[2]);
+}
+
+bool setVector(Stage& stage, const ObjectVector& row, const QJsonValue& value, QString& error)
+{
+    const std::vector<osg::NodePtr> objects = stage.selectedObjects();
+    osg::Vec3f vector;
+    if (objects.empty()) {
+        error = Text::tr("nothing is selected");
+        return false;
+    }
+    if (!readVector(value, vector)) {
+        error = QStringLiteral("%1: expected an array of 3 numbers").arg(QLatin1String(row.name));
+        return false;
+    }
+    const osg::UInt32 count =
+        row.set(static_cast<osg::UInt32>(objects.size()), [&objects, &vector](osg::UInt32 i) {
+            return nbTransformModel::Value { { objects[i], -1 }, vector };
+        });
+    if (count == 0) {
+        error = Text::tr("the selected object is locked or cannot take this value");
+    }
+    return count > 0;
+}
+
+bool setSwitch(Stage& stage, const ObjectSwitch& row, const QJsonValue& value, QString& error)
+{
+    const std::vector<osg::NodePtr> objects = stage.selectedObjects();
+    if (objects.empty() || !value.isBool()) {
+        error = objects.empty()
+            ? Text::tr("nothing is selected")
+            : QStringLiteral("%1: expected true or false").arg(QLatin1String(row.name));
+        return false;
+    }
+    const nbScopedUndo scope(row.title);
+    for (const osg::NodePtr& object : objects) {
+        nbUndoService::the()->record(std::make_unique<SwitchRecord>(object, row.get, row.set));
+        row.set(object, value.toBool());
+    }
+    return true;
+}
+
+bool selectPaths(const QJsonValue& value, QString& error)
+{
+    if (!value.isArray()) {
+        error = QStringLiteral("scene.select: expected an array of paths");
+        return false;
+    }
+    std::vector<osg::NodePtr> objects;
+    const QJsonArray paths = value.toArray();
+    for (const QJsonValue& path : paths) {
+        objects.push_back(objectAt(path.toString()));
+        if (objects.back() == osg::NullFC) {
+            error = QStringLiteral("scene.select: there is no object \"%1\"").arg(path.toString());
+            return false;
+        }
+    }
+    nbSelection::set(objects);
+    return true;
+}
+
+/// Value of the object selected last, or null without one.
+template <class Function>
+Commands::Read ofSelected(Stage& stage, Function read)
+{
+    return [&stage, read] {
+        const osg::NodePtr object = stage.selectedObject();
+        return object == osg::NullFC ? QJsonValue() : QJsonValue(read(object));
+    };
+}
+
+}  // namespace
+
+std::vector<osg::NodePtr> childObjects(const osg::NodePtr& object)
+{
+    std::vector<osg::NodePtr> objects;
+    collectChildObjects(object != osg::NullFC ? object : nbScenegraph::getRootNode(), objects);
+    return objects;
+}
+
+QString pathOf(const osg::NodePtr& object)
+{
+    QStringList numbers;
+    osg::NodePtr at = object;
+    while (at != osg::NullFC) {
+        const osg::NodePtr parent = parentObject(at);
+        const std::vector<osg::NodePtr> siblings = childObjects(parent);
+        const auto place = std::find(siblings.begin(), siblings.end(), at);
+        if (place == siblings.end()) {
+            return {};
+        }
+        numbers.prepend(QString::number(place - siblings.begin()));
+        at = parent;
+    }
+    return numbers.join(QLatin1Char('/'));
+}
+
+osg::NodePtr objectAt(const QString& path)
+{
+    osg::NodePtr at;
+    for (const QString& number : path.split(QLatin1Char('/'))) {
+        const std::vector<osg::NodePtr> children = childObjects(at);
+        bool isNumber = false;
+        const std::size_t i = number.toUInt(&isNumber);
+        if (!isNumber || i >= children.size()) {
+            return {};
+        }
+        at = children[i];
+    }
+    return at;
+}
+
+void addObjectCommands(Stage& stage)
+{
+    Commands& commands = stage.commands();
+    commands.add(QStringLiteral("scene.select"),
+                 [](const QJsonValue& value, QString& error) { return selectPaths(value, error); });
+    commands.addValue(QStringLiteral("object.name"),
+                      ofSelected(stage, [](const osg::NodePtr& node) {
+                          return QString::fromStdString(nbNodeUtils::getName(node));
+                      }));
+    for (const ObjectVector& row : kVectors) {
+        commands.add(QLatin1String(row.name),
+                     [&stage, &row](const QJsonValue& value, QString& error) {
+                         return setVector(stage, row, value, error);
+                     });
+        commands.addValue(
+            QLatin1String(row.name), ofSelected(stage, [&row](const osg::NodePtr& node) {
+                const osg::Vec3f v = row.get(node);
+                return QJsonArray { static_cast<double>(v[0]), static_cast<double>(v[1]),
+                                    static_cast<double>(v[2]) };
+            }));
+    }
+    for (const ObjectSwitch& row : kSwitches) {
+        commands.add(QLatin1String(row.name),
+                     [&stage, &row](const QJsonValue& value, QString& error) {
+                         return setSwitch(stage, row, value, error);
+                     });
+        commands.addValue(QLatin1String(row.name), ofSelected(stage, row.get));
+    }
+}
+
+}  // namespace viewer

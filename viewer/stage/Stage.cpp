@@ -1,0 +1,450 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/stage/Stage.h"
+
+#include "viewer/loading/BuiltModel.h"
+#include "viewer/loading/StartScene.h"
+#include "viewer/stage/ClipPlanes.h"
+#include "viewer/stage/ObjectCommands.h"
+#include "viewer/stage/StageTool.h"
+
+#include <nbKernel/nbScenegraph.h>
+#include <nbKernelServices/nbUndoService.h>
+#include <nbNotification/NotificationManager.h>
+#include <nbOpenSGSelection/nbSelection.h>
+#include <nbOpenSGUtils/nbEdit.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
+
+#include <OpenSG/OSGBoxVolume.h>
+
+#include <QtWidgets/QUndoStack>
+
+#include <algorithm>
+#include <utility>
+
+namespace viewer {
+namespace {
+
+constexpr float kStartFovDeg = 32.0F;
+
+const osg::Color3f kSelectionColor { 0.95F, 0.96F, 0.98F };
+const osg::Color3f kPreselectionColor { 0.62F, 0.66F, 0.72F };
+constexpr float kMarkerWidthPx = 1.5F;
+
+osg::Pnt3f pointOf(const std::array<float, 3>& p)
+{
+    return { p[0], p[1], p[2] };
+}
+
+}  // namespace
+
+Stage::Stage(nbOSGWidget& view)
+    : renderWidget(view)
+    , selectionContext(nbec::interaction::Selection)
+    , gizmoController(manager)
+    , selectionMarker(kSelectionColor, kMarkerWidthPx)
+    , preselectionMarker(kPreselectionColor, kMarkerWidthPx)
+{
+    renderWidget.setMain();
+    scenePicker.setFilter(nbec::interaction::Picker::SceneFilter);
+    selectionContext.setPicker(&scenePicker);
+    selectionContext.setTool(&selectionTool);
+    cameraContext.setPicker(&scenePicker);
+    cameraContext.setChangedCallback([this] {
+        viewChanged();
+        changed();
+    });
+    manager.setCancelHandler([this] {
+        nbUndoService::the()->cancelGroup();
+        edited();
+    });
+    gizmoController.setDragCallback([this] { changed(); });
+    nbec::notification::NotificationManager::getInstance()->setChangeListener(
+        [this] { renderWidget.update(); });
+    manager.addContext(&selectionContext);
+    manager.addContext(&cameraContext);
+    selectionCallback = nbSelection::addChangedCallback([this] { selectionChanged(); });
+    addClipPlaneCommands(*this);
+    addObjectCommands(*this);
+}
+
+Stage::~Stage()
+{
+    nbSelection::removeChangedCallback(selectionCallback);
+    changedCallback = nullptr;
+    nbec::notification::NotificationManager::getInstance()->setChangeListener(nullptr);
+    endActiveTool();
+    gizmoController.show(Gizmo::None);
+    manager.removeContext(&selectionContext);
+    manager.removeContext(&cameraContext);
+    selectionContext.setTool(nullptr);
+    clear();
+}
+
+void Stage::showGizmo(Gizmo gizmo)
+{
+    endActiveTool();
+    gizmoController.show(gizmo);
+    changed();
+}
+
+// == Tools beside the gizmos
+
+void Stage::addTool(StageTool& tool)
+{
+    tools.push_back(&tool);
+}
+
+void Stage::removeTool(StageTool& tool)
+{
+    if (toolInUse == &tool) {
+        setActiveTool(nullptr);
+    }
+    tools.erase(std::remove(tools.begin(), tools.end(), &tool), tools.end());
+}
+
+void Stage::endActiveTool()
+{
+    if (toolInUse == nullptr) {
+        return;
+    }
+    manager.endDrag();
+    StageTool* former = toolInUse;
+    toolInUse = nullptr;
+    former->deactivate();
+}
+
+void Stage::setActiveTool(StageTool* tool)
+{
+    if (tool == toolInUse) {
+        return;
+    }
+    if (toolInUse == nullptr) {
+        gizmoBefore = gizmoController.shown();
+    }
+    endActiveTool();
+    if (tool == nullptr) {
+        gizmoController.show(gizmoBefore);
+    } else {
+        gizmoController.show(Gizmo::None);
+        toolInUse = tool;
+        tool->activate();
+    }
+    changed();
+}
+
+StageTool* Stage::toolByName(const std::string& name) const
+{
+    for (StageTool* tool : tools) {
+        if (name == tool->name()) {
+            return tool;
+        }
+    }
+    return nullptr;
+}
+
+std::string Stage::manipulatorName() const
+{
+    return toolInUse != nullptr ? toolInUse->name() : gizmoName(gizmoController.shown());
+}
+
+bool Stage::showManipulator(const std::string& name)
+{
+    Gizmo gizmo = Gizmo::None;
+    if (gizmoFromName(name, gizmo)) {
+        showGizmo(gizmo);
+        return true;
+    }
+    StageTool* tool = toolByName(name);
+    if (tool != nullptr) {
+        setActiveTool(tool);
+    }
+    return tool != nullptr;
+}
+
+osg::NodePtr Stage::handles()
+{
+    return toolInUse != nullptr ? toolInUse->handles() : gizmoController.handles();
+}
+
+std::string Stage::hoveredHandle()
+{
+    return toolInUse != nullptr ? toolInUse->hoveredHandle() : gizmoController.hoveredHandle();
+}
+
+std::string Stage::handleAt(const osg::Pnt2f& px)
+{
+    return toolInUse != nullptr ? toolInUse->handleAt(px) : gizmoController.handleAt(px);
+}
+
+std::string Stage::draggedValues() const
+{
+    return toolInUse != nullptr ? toolInUse->draggedValues() : gizmoController.draggedValues();
+}
+
+bool Stage::takePicture(const QString& file, const osg::Pnt2f& px, QString& error)
+{
+    std::vector<StageTool*> asked = tools;
+    std::stable_partition(asked.begin(), asked.end(),
+                          [this](const StageTool* tool) { return tool == toolInUse; });
+    for (StageTool* tool : asked) {
+        if (tool->takePicture(file, px, error)) {
+            return true;
+        }
+        if (!error.isEmpty()) {
+            return false;
+        }
+    }
+    return false;
+}
+
+// == Scene
+
+void Stage::clear()
+{
+    manager.endDrag();
+    for (StageTool* tool : tools) {
+        tool->sceneCleared();
+    }
+    nbSelection::clear();
+    gizmoController.setTarget(osg::NullFC);
+    const osg::NodePtr root = nbScenegraph::getRootNode();
+    const nbEdit edit(root, osg::Node::ChildrenFieldMask);
+    while (root->getNChildren() > 0) {
+        root->subChild(root->getNChildren() - 1);
+    }
+    modelSources = {};
+    nbUndoService::the()->clear();
+    changed();
+}
+
+osg::NodePtr Stage::add(const ModelData& model)
+{
+    return add(buildModel(model));
+}
+
+osg::NodePtr Stage::add(const BuiltModel& model)
+{
+    const osg::NodePtr node = model.root.get();
+    const osg::NodePtr root = nbScenegraph::getRootNode();
+    {
+        const nbEdit edit(root, osg::Node::ChildrenFieldMask);
+        root->addChild(node);
+    }
+    modelSources.add(model);
+    nbec::interaction::Picker::buildTrees(node);
+    changed();
+    return node;
+}
+
+void Stage::replace(const std::vector<osg::RefPtr<osg::NodePtr>>& top, ModelSources sources)
+{
+    clear();
+    const osg::NodePtr root = nbScenegraph::getRootNode();
+    {
+        const nbEdit edit(root, osg::Node::ChildrenFieldMask);
+        for (const osg::RefPtr<osg::NodePtr>& node : top) {
+            root->addChild(node.get());
+        }
+    }
+    modelSources = std::move(sources);
+    nbec::interaction::Picker::buildTrees(root);
+    changed();
+}
+
+void Stage::showStartScene()
+{
+    clear();
+    const osg::NodePtr node = add(makeStartScene());
+    CameraPose start;
+    start.at = pointOf(kStartSceneAt);
+    // In a narrow view the eye steps back, so that the table keeps its place.
+    const float aspect = renderWidget.getUberViewport()->getDeviceAspect();
+    const float retreat = aspect > 0.0F ? std::max(1.0F, kStartSceneAspect / aspect) : 1.0F;
+    start.from = start.at + (pointOf(kStartSceneFrom) - start.at) * retreat;
+    start.pivot = start.at;
+    start.fovDeg = kStartFovDeg;
+    setPose(start);
+    select(findObject(node, kStartSceneMainObject));
+    showGizmo(Gizmo::Universal);
+}
+
+bool Stage::selectByName(const std::string& name)
+{
+    const osg::NodePtr node =
+        name.empty() ? osg::NodePtr() : findObject(nbScenegraph::getRootNode(), name);
+    if (node == osg::NullFC && !name.empty()) {
+        return false;
+    }
+    select(node);
+    return true;
+}
+
+osg::NodePtr Stage::selectedObject() const
+{
+    return objectOf(nbSelection::getLast());
+}
+
+std::string Stage::selectedName() const
+{
+    return nbNodeUtils::getName(selectedObject());
+}
+
+std::vector<osg::NodePtr> Stage::selectedObjects() const
+{
+    std::vector<osg::NodePtr> objects;
+    for (const osg::NodePtr& node : nbSelection::getNodes()) {
+        const osg::NodePtr object = objectOf(node);
+        if (object != osg::NullFC &&
+            std::find(objects.begin(), objects.end(), object) == objects.end()) {
+            objects.push_back(object);
+        }
+    }
+    return objects;
+}
+
+bool Stage::isClipPlaneSelected() const
+{
+    return isClipPlaneOrFrame(selectedObject()) || isClipPlaneOrFrame(nbSelection::getLast());
+}
+
+void Stage::selectAll()
+{
+    nbSelection::set(objectsWithSurface(nbScenegraph::getRootNode()));
+}
+
+void Stage::frame(const osg::NodePtr& node, const CameraPose& from)
+{
+    const osg::BoxVolume bounds = nbNodeUtils::getWorldBounds(node);
+    if (bounds.isEmpty()) {
+        return;
+    }
+    const float aspect = renderWidget.getUberViewport()->getDeviceAspect();
+    setPose(nbCameraNavigation::frame(from, bounds.getMin(), bounds.getMax(), aspect));
+}
+
+void Stage::frameAll(bool reset)
+{
+    CameraPose from = pose();
+    if (reset) {
+        from =
+            nbCameraNavigation::standardView(from, nbCameraNavigation::StandardView::ThreeQuarter);
+    }
+    frame(nbScenegraph::getRootNode(), from);
+}
+
+void Stage::frameSelection()
+{
+    const osg::NodePtr object = selectedObject();
+    frame(object != osg::NullFC ? object : nbScenegraph::getRootNode(), pose());
+}
+
+void Stage::setStandardView(nbCameraNavigation::StandardView standardView)
+{
+    setPose(nbCameraNavigation::standardView(pose(), standardView));
+}
+
+void Stage::setOrthographic(bool on)
+{
+    setPose(nbCameraNavigation::withProjection(pose(), on));
+}
+
+void Stage::setZUp(bool on)
+{
+    CameraPose turned = pose();
+    turned.zUp = on;
+    setPose(
+        nbCameraNavigation::standardView(turned, nbCameraNavigation::StandardView::ThreeQuarter));
+}
+
+void Stage::resize(int widthPx, int heightPx, float pixelRatio)
+{
+    scenePicker.setPixelRatio(pixelRatio);
+    selectionTool.setPixelRatio(pixelRatio);
+    gizmoController.setPixelRatio(pixelRatio);
+    for (StageTool* tool : tools) {
+        tool->setPixelRatio(pixelRatio);
+    }
+    renderWidget.resize(widthPx, heightPx);
+    viewChanged();
+    renderWidget.update();
+}
+
+void Stage::viewChanged()
+{
+    gizmoController.followCamera();
+    for (StageTool* tool : tools) {
+        tool->viewChanged();
+    }
+}
+
+void Stage::update()
+{
+    gizmoController.update();
+    for (StageTool* tool : tools) {
+        tool->update();
+    }
+    const std::vector<osg::NodePtr> selected = selectedObjects();
+    const osg::NodePtr preselected = selectionTool.getPreselected();
+    const bool isNew = preselected != osg::NullFC &&
+        std::find(selected.begin(), selected.end(), preselected) == selected.end();
+    selectionMarker.mark(selected);
+    preselectionMarker.mark(isNew ? std::vector<osg::NodePtr> { preselected }
+                                  : std::vector<osg::NodePtr> {});
+}
+
+// == Undo
+
+bool Stage::undo()
+{
+    const bool isDone = !isDragging() && nbUndoService::the()->undo();
+    edited();
+    return isDone;
+}
+
+bool Stage::redo()
+{
+    const bool isDone = !isDragging() && nbUndoService::the()->redo();
+    edited();
+    return isDone;
+}
+
+bool Stage::canUndo() const
+{
+    return !isDragging() && nbUndoService::the()->getStack()->canUndo();
+}
+
+bool Stage::canRedo() const
+{
+    return !isDragging() && nbUndoService::the()->getStack()->canRedo();
+}
+
+void Stage::edited()
+{
+    // Not update(): a pivot that goes back leaves the object, and so its matrix, as it is.
+    gizmoController.followCamera();
+    changed();
+}
+
+void Stage::setChangedCallback(std::function<void()> callback)
+{
+    changedCallback = std::move(callback);
+}
+
+void Stage::selectionChanged()
+{
+    gizmoController.setTarget(selectedObject(), selectedObjects());
+    for (StageTool* tool : tools) {
+        tool->selectionChanged();
+    }
+    changed();
+}
+
+void Stage::changed()
+{
+    renderWidget.update();
+    if (changedCallback) {
+        changedCallback();
+    }
+}
+
+}  // namespace viewer

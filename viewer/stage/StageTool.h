@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "viewer/stage/HandleCursor.h"
+
+#include <OpenSG/OSGConfig.h>
+#include <OpenSG/OSGNode.h>
+#include <OpenSG/OSGVector.h>
+
+#include <QString>
+
+#include <string>
+
+namespace viewer {
+
+/// A capability of the viewer that has manipulators or picking tools of its own, beside the
+/// transform gizmo. The stage tells it what happens; at most one is active, and then no gizmo of
+/// the stage is shown.
+///
+/// Pixels are device pixels with y from the top.
+class StageTool
+{
+public:
+    StageTool() = default;
+    StageTool(const StageTool&) = delete;
+    StageTool& operator=(const StageTool&) = delete;
+    virtual ~StageTool() = default;
+
+    /// Word of sessions and commands for it, such as "plates"; no gizmo has it.
+    virtual const char* name() const = 0;
+
+    // == Taking the pointer
+
+    /// Adds its contexts to the interaction manager and shows its handles. Called by the stage.
+    virtual void activate() = 0;
+    /// Takes them away again; a running drag has ended before.
+    virtual void deactivate() = 0;
+
+    // == What happens on the stage, active or not
+
+    /// Everything is about to be removed; nothing of the scene may be kept.
+    virtual void sceneCleared() { }
+
+    virtual void selectionChanged() { }
+
+    /// The camera moved or the view has another size.
+    virtual void viewChanged() { }
+
+    /// Brings what is drawn up to date; called before each picture.
+    virtual void update() { }
+
+    /// Sets the device pixels per logical one.
+    virtual void setPixelRatio(float) { }
+
+    // == Handles of an active tool
+
+    /// Tree of the handles shown; null if there are none in the scene.
+    virtual osg::NodePtr handles() { return {}; }
+
+    /// Name of the handle that is dragged, otherwise of that under the pointer; "" for none.
+    virtual std::string hoveredHandle() { return {}; }
+
+    /// Name of the handle at a pixel, "" for none.
+    virtual std::string handleAt(const osg::Pnt2f&) { return {}; }
+
+    /// Where a handle that has no tree in the scene can be hit.
+    /// @return false, target untouched, if there is none of that name
+    virtual bool findHandle(const std::string&, osg::Pnt2f&) { return false; }
+
+    /// What the handle of a name does, for the cursor over it.
+    virtual HandleAction actionOf(const std::string& handle) const
+    {
+        return actionOfHandle(handle);
+    }
+
+    /// What a running drag edits, for the status line; "" while nothing is dragged.
+    virtual std::string draggedValues() const { return {}; }
+
+    /// What of its own an active tool has selected, for the status line; "" for the scene's
+    /// selection.
+    virtual QString selectionText() const { return {}; }
+
+    // == Files
+
+    /// Offers a picture file that was dropped on the view.
+    /// @return whether this took it; false with a text in `error`: it was meant but could not be
+    /// done
+    virtual bool takePicture(const QString&, const osg::Pnt2f&, QString&) { return false; }
+};
+
+}  // namespace viewer

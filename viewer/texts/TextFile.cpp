@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/texts/TextFile.h"
+
+#include "viewer/texts/Text.h"
+
+#include <QFile>
+#include <QSaveFile>
+
+namespace viewer {
+
+bool readWhole(const QString& path, qint64 mostBytes, QByteArray& text, QString& error)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        error = QStringLiteral("%1: %2").arg(path, file.errorString());
+        return false;
+    }
+    // One byte more shows a file that grows, or a device that has no end.
+    text = file.read(mostBytes + 1);
+    if (file.error() != QFileDevice::NoError) {
+        error = QStringLiteral("%1: %2").arg(path, file.errorString());
+        return false;
+    }
+    if (text.size() > mostBytes) {
+        error = Text::tr("%1: too large").arg(path);
+        return false;
+    }
+    return true;
+}
+
+bool writeWhole(const QString& path, const QByteArray& text, QString& error)
+{
+    QSaveFile file(path);
+    // A buffer would tell of a full disk only when its text is lost.
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) ||
+        file.write(text) != text.size() || !file.commit()) {
+        error = QStringLiteral("%1: %2").arg(path, file.errorString());
+        file.cancelWriting();
+        return false;
+    }
+    return true;
+}
+
+}  // namespace viewer

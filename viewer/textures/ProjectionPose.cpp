@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/textures/ProjectionPose.h"
+
+#include <OpenSG/OSGMatrix.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace viewer {
+namespace {
+
+/// A box counts as at least this thick, by its diagonal.
+constexpr float kLeastThickness = 1e-3F;
+
+/// The axis, 0 to 2, along which a vector is longest.
+/// @param except  an axis that does not count; 3 for none
+osg::UInt32 longestAxis(const osg::Vec3f& vector, osg::UInt32 except)
+{
+    osg::UInt32 longest = except == 0 ? 1 : 0;
+    for (osg::UInt32 axis = longest + 1; axis < 3; ++axis) {
+        if (axis != except && std::abs(vector[axis]) > std::abs(vector[longest])) {
+            longest = axis;
+        }
+    }
+    return longest;
+}
+
+osg::Vec3f unit(osg::UInt32 axis, float sign)
+{
+    osg::Vec3f vector;
+    vector[axis] = sign;
+    return vector;
+}
+
+float signOf(float value)
+{
+    return value < 0.0F ? -1.0F : 1.0F;
+}
+
+/// Rotation with the axes y and z, both of unit length and at right angles.
+osg::Quaternion rotationOf(const osg::Vec3f& y, const osg::Vec3f& z)
+{
+    osg::Matrix turned;
+    turned.setValue(y.cross(z), y, z);
+    turned[3][3] = 1.0F;
+    return osg::Quaternion(turned);
+}
+
+/// A direction of the world in the space of a node.
+osg::Vec3f vectorIn(const osg::NodePtr& node, const osg::Vec3f& world)
+{
+    osg::Matrix nodeFromWorld;
+    node->getToWorld().inverse(nodeFromWorld);
+    osg::Vec3f vector;
+    nodeFromWorld.multMatrixVec(world, vector);
+    return vector;
+}
+
+/// A normal of the world in the space of a node, any length: it goes by the transposed matrix.
+osg::Vec3f normalIn(const osg::NodePtr& node, const osg::Vec3f& world)
+{
+    const osg::Matrix worldFromNode = node->getToWorld();
+    osg::Vec3f normal;
+    for (osg::UInt32 axis = 0; axis < 3; ++axis) {
+        for (osg::UInt32 row = 0; row < 3; ++row) {
+            normal[axis] += worldFromNode[axis][row] * world[row];
+        }
+    }
+    return normal;
+}
+
+}  // namespace
+
+ProjectionPose poseOnFront(const osg::BoxVolume& bounds, const osg::Vec3f& toEye,
+                           const osg::Vec3f& up, float aspect, float share)
+{
+    constexpr osg::UInt32 kNoAxis = 3;
+    const osg::Vec3f size = bounds.getMax() - bounds.getMin();
+    const float least = std::max(size.length(), 1e-6F) * kLeastThickness;
+    const osg::Vec3f half(std::max(size[0], least) * 0.5F, std::max(size[1], least) * 0.5F,
+                          std::max(size[2], least) * 0.5F);
+    const osg::UInt32 depth = longestAxis(toEye, kNoAxis);
+    const osg::UInt32 height = longestAxis(up, depth);
+    const osg::UInt32 width = kNoAxis - depth - height;
+    const osg::Vec3f z = unit(depth, signOf(toEye[depth]));
+    const osg::Vec3f y = unit(height, signOf(up[height]));
+
+    ProjectionPose pose;
+    const osg::Pnt3f centre = bounds.getMin() + size * 0.5F;
+    pose.translation = centre.subZero() + z * half[depth];
+    pose.rotation = rotationOf(y, z);
+    const float halfWidth = share * std::min(half[width], half[height] * aspect);
+    pose.scale = osg::Vec3f(halfWidth, halfWidth / aspect, half[depth]);
+    return pose;
+}
+
+osg::Quaternion uprightRotation(const osg::Vec3f& normal, const osg::Vec3f& up,
+                                const osg::Vec3f& other)
+{
+    constexpr float kFlat = 0.1F;
+    osg::Vec3f z = normal;
+    z.normalize();
+    for (const osg::Vec3f& wanted : { up, other, unit(longestAxis(z, 3) == 1 ? 2 : 1, 1.0F) }) {
+        osg::Vec3f y = wanted;
+        y.normalize();
+        y -= z * z.dot(y);
+        if (y.length() > kFlat) {
+            y.normalize();
+            return rotationOf(y, z);
+        }
+    }
+    return {};
+}
+
+osg::Vec3f scaleKeepingAspect(const osg::Vec3f& before, const osg::Vec3f& wanted)
+{
+    const bool xChanges = wanted[0] != before[0];
+    const bool yChanges = wanted[1] != before[1];
+    osg::Vec3f kept = wanted;
+    if (xChanges && !yChanges && before[0] != 0.0F) {
+        kept[1] = before[1] * wanted[0] / before[0];
+    } else if (yChanges && !xChanges && before[1] != 0.0F) {
+        kept[0] = before[0] * wanted[1] / before[1];
+    }
+    return kept;
+}
+
+ProjectionPose poseFacingTheEye(const osg::NodePtr& surface, const CameraPose& eye, float aspect,
+                                float share)
+{
+    const nbCameraNavigation::Axes axes = nbCameraNavigation::axes(eye);
+    surface->updateVolume();
+    osg::BoxVolume bounds;
+    osg::Pnt3f low;
+    osg::Pnt3f high;
+    surface->getVolume().getBounds(low, high);
+    bounds.setBounds(low, high);
+    return poseOnFront(bounds, vectorIn(surface, axes.back), vectorIn(surface, axes.up), aspect,
+                       share);
+}
+
+osg::Quaternion uprightOn(const osg::NodePtr& surface, const CameraPose& eye,
+                          const osg::Vec3f& normal)
+{
+    return uprightRotation(normalIn(surface, normal),
+                           vectorIn(surface, nbCameraNavigation::worldUp(eye)),
+                           vectorIn(surface, nbCameraNavigation::axes(eye).up));
+}
+
+}  // namespace viewer

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/textures/TextureAnchor.h"
+
+#include "viewer/stage/Stage.h"
+
+#include <nbInteraction/Picker.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
+
+#include <OpenSG/OSGFieldContainerFactory.h>
+
+namespace viewer {
+
+void TextureAnchor::set(const osg::NodePtr& surface, const osg::Pnt3f& point)
+{
+    surfaceId = surface == osg::NullFC ? 0 : surface.getFieldContainerId();
+    localPlace = point;
+    osg::Matrix surfaceFromWorld;
+    if (surface != osg::NullFC && surface->getToWorld().inverse(surfaceFromWorld)) {
+        surfaceFromWorld.multMatrixPnt(localPlace);
+    }
+}
+
+bool TextureAnchor::isOn(const osg::NodePtr& surface) const
+{
+    return surface != osg::NullFC && surface.getFieldContainerId() == surfaceId;
+}
+
+std::optional<osg::Pnt3f> TextureAnchor::worldPlace() const
+{
+    const osg::NodePtr surface = surfaceId == 0
+        ? osg::NodePtr()
+        : osg::NodePtr::dcast(osg::FieldContainerFactory::the()->getContainer(surfaceId));
+    if (surface == osg::NullFC) {
+        return std::nullopt;
+    }
+    osg::Pnt3f place = localPlace;
+    surface->getToWorld().multMatrixPnt(place);
+    return place;
+}
+
+osg::Pnt3f visiblePointOf(const osg::NodePtr& surface, Stage& stage)
+{
+    osg::Pnt3f middle;
+    nbNodeUtils::getWorldBounds(surface).getCenter(middle);
+    osg::Pnt2f px;
+    const nbOSGWidget& view = stage.view();
+    if (!nbCameraNavigation::project(stage.pose(), middle, view.getWidth(), view.getHeight(), px)) {
+        return middle;
+    }
+    nbec::interaction::Picker picker;
+    return picker.pickAt(px) == surface ? picker.getHitPoint() : middle;
+}
+
+}  // namespace viewer
