@@ -78,21 +78,17 @@ void Node::setCore(const NodeCorePtr& core)
     if (core == old) {
         return;
     }
+    // No edit of the cores, which would tell all the nodes that share them.
     if (core != NullFC) {
         addRefCP(core);
-        beginEditCP(core, NodeCore::ParentsFieldMask);
         core->addParent(NodePtr(this));
-        sfCore.setValue(core);
-        endEditCP(core, NodeCore::ParentsFieldMask);
-    } else {
-        sfCore.setValue(NullFC);
     }
+    sfCore.setValue(core);
     if (old != NullFC) {
-        beginEditCP(old, NodeCore::ParentsFieldMask);
         old->subParent(NodePtr(this));
-        endEditCP(old, NodeCore::ParentsFieldMask);
         subRefCP(static_cast<const FieldContainerPtr&>(old));
     }
+    ++detail::editCount;
     ++detail::sceneEditCount;
     noteSubtreeChange();
     invalidateVolume();

@@ -14,6 +14,7 @@
 #include "detail/GeometryExtraction.h"
 #include "detail/PickTree.h"
 #include "detail/PickTreeCache.h"
+#include "detail/TreeWalk.h"
 
 namespace nbec::interaction {
 
@@ -63,20 +64,19 @@ double triangleCount(const Job& job)
     return static_cast<double>(count);
 }
 
-void collectJobs(const osg::NodePtr& node, std::set<osg::UInt32>& known, std::vector<Job>& jobs)
+void collectJobs(const osg::NodePtr& root, std::set<osg::UInt32>& known, std::vector<Job>& jobs)
 {
-    const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(node->getCore());
-    if (geometry != osg::NullFC && known.insert(geometry.getFieldContainerId()).second &&
-        !detail::PickTreeCache::the().isCurrent(geometry)) {
-        Job job;
-        job.geometryId = geometry.getFieldContainerId();
-        job.changeCount = geometry->getChangeCount();
-        job.soup = detail::extractGeometry(geometry);
-        jobs.push_back(std::move(job));
-    }
-    for (osg::UInt32 i = 0; i < node->getNChildren(); ++i) {
-        collectJobs(node->getChild(i), known, jobs);
-    }
+    detail::forEachBelow(root, [&](const osg::NodePtr& node) {
+        const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(node->getCore());
+        if (geometry != osg::NullFC && known.insert(geometry.getFieldContainerId()).second &&
+            !detail::PickTreeCache::the().isCurrent(geometry)) {
+            Job job;
+            job.geometryId = geometry.getFieldContainerId();
+            job.changeCount = geometry->getChangeCount();
+            job.soup = detail::extractGeometry(geometry);
+            jobs.push_back(std::move(job));
+        }
+    });
 }
 
 }  // namespace
@@ -93,9 +93,7 @@ PickTreeBuilder::PickTreeBuilder(const std::vector<osg::NodePtr>& roots)
     detail::embreeDevice();
     std::set<osg::UInt32> known;
     for (const osg::NodePtr& root : roots) {
-        if (root != osg::NullFC) {
-            collectJobs(root, known, internals->jobs);
-        }
+        collectJobs(root, known, internals->jobs);
     }
 }
 

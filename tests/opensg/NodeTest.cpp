@@ -117,6 +117,8 @@ TEST_F(TreeChangeCount, MovesInBothTreesWhenANodeMovesOver)
     EXPECT_TRUE(moves.tree);
     EXPECT_TRUE(moves.otherTree);
     EXPECT_FALSE(after([&] { endEditCP(leaf); }).tree);
+    // Who shares a core, of whom there may be many, is not edited when a node gets or loses it.
+    EXPECT_FALSE(after([&] { makeNodeFor(root->getCore())->setCore(NullFC); }).tree);
 }
 
 TEST_F(TreeChangeCount, MovesForWhatIsAboveTheEditHoweverSeldomAnyoneLooks)

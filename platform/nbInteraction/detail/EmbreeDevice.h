@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cmath>
 #include <functional>
 #include <string>
 
@@ -25,6 +26,19 @@ using BuildMonitor = std::function<bool(double)>;
 /// @return false (without monitor with a line in the log) if Embree reports an error, such as lack
 /// of memory, or the monitor has answered no
 bool commitScene(RTCScene scene, const BuildMonitor& monitor = {});
+
+/// Whether Embree takes a ray: it ends the program for one that is not finite or comes from beyond
+/// 1e18.
+inline bool isTraceable(const PickRay& ray)
+{
+    constexpr float kFarthest = 1e18F;
+    bool isTraceable = ray.tFar >= 0.0F;
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        isTraceable = isTraceable && std::abs(ray.origin[i]) <= kFarthest &&
+            std::abs(ray.direction[i]) <= kFarthest;
+    }
+    return isTraceable;
+}
 
 /// A query for the nearest hit of a ray from its origin to tFar.
 inline RTCRayHit toEmbree(const PickRay& ray)

@@ -185,6 +185,9 @@ void ItemTree::dropTree()
 
 bool ItemTree::intersect(PickRay& ray, Hit& hit) const
 {
+    if (!isTraceable(ray)) {
+        return false;
+    }
     if (scene == nullptr) {
         bool isHit = false;
         for (const PickItem& item : items) {

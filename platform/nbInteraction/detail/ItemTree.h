@@ -69,7 +69,8 @@ public:
 
     const nbClipSets& getClipSets() const { return clipSets; }
 
-    /// Finds the nearest hit with 0 <= t <= ray.tFar; tFar becomes its t.
+    /// Finds the nearest hit with 0 <= t <= ray.tFar; tFar becomes its t. A ray that is not finite
+    /// or comes from beyond 1e18 hits nothing.
     bool intersect(PickRay& ray, Hit& hit) const;
 
 private:

@@ -173,6 +173,9 @@ void PickTree::measure()
 
 bool PickTree::intersect(PickRay& ray, TreeHit& hit) const
 {
+    if (!isTraceable(ray)) {
+        return false;
+    }
     if (scene == nullptr) {
         return intersectDirectly(ray, hit);
     }

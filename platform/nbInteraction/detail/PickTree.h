@@ -56,7 +56,7 @@ public:
 
     /// Finds the nearest triangle with 0 <= t <= ray.tFar, both faces.
     /// @param ray  in the tree's frame; tFar becomes the t of the hit
-    /// @return false on a miss, which changes nothing
+    /// @return false on a miss, which changes nothing, and for a ray as ItemTree::intersect()
     bool intersect(PickRay& ray, TreeHit& hit) const;
 
     /// Of the triangles.

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "GeometryExtraction.h"
+#include "TreeWalk.h"
 
 namespace nbec::interaction::detail {
 
@@ -44,18 +45,14 @@ bool PickTreeCache::isCurrent(const osg::GeometryPtr& geometry) const
         entry->second.changeCount == geometry->getChangeCount();
 }
 
-void PickTreeCache::buildBelow(const osg::NodePtr& node)
+void PickTreeCache::buildBelow(const osg::NodePtr& root)
 {
-    if (node == osg::NullFC) {
-        return;
-    }
-    if (const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(node->getCore());
-        geometry != osg::NullFC) {
-        treeOf(geometry);
-    }
-    for (osg::UInt32 i = 0; i < node->getNChildren(); ++i) {
-        buildBelow(node->getChild(i));
-    }
+    forEachBelow(root, [this](const osg::NodePtr& node) {
+        if (const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(node->getCore());
+            geometry != osg::NullFC) {
+            treeOf(geometry);
+        }
+    });
 }
 
 void PickTreeCache::dropDead()

@@ -30,7 +30,7 @@ public:
     bool isCurrent(const osg::GeometryPtr& geometry) const;
 
     /// As treeOf, for all geometry of a subtree. Null: nothing.
-    void buildBelow(const osg::NodePtr& node);
+    void buildBelow(const osg::NodePtr& root);
 
     /// Forgets the trees of geometries that no longer exist.
     void dropDead();

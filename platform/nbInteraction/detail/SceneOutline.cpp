@@ -38,50 +38,60 @@ std::size_t SceneOutline::openNode(const osg::NodePtr& node, osg::UInt32 item)
 
 bool SceneOutline::isCurrent(const osg::NodePtr& root, std::vector<osg::UInt32>& touchedItems)
 {
-    return !records.empty() && isCurrentFrom(0, root, touchedItems);
-}
-
-bool SceneOutline::isCurrentFrom(std::size_t index, const osg::NodePtr& node,
-                                 std::vector<osg::UInt32>& touchedItems)
-{
-    const Record& noted = records[index];
-    if (node.getFieldContainerId() != noted.nodeId) {
+    if (records.empty()) {
         return false;
     }
-    if (node->getSubtreeChangeCount() == noted.subtreeChanges) {
+    std::vector<Open> open { { root, 0 } };
+    while (!open.empty()) {
+        const Open one = open.back();
+        open.pop_back();
+        if (!isNodeCurrent(one, touchedItems, open)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool SceneOutline::isNodeCurrent(const Open& one, std::vector<osg::UInt32>& touchedItems,
+                                 std::vector<Open>& open)
+{
+    Record& noted = records[one.record];
+    if (one.node.getFieldContainerId() != noted.nodeId) {
+        return false;
+    }
+    if (one.node->getSubtreeChangeCount() == noted.subtreeChanges) {
         return true;
     }
-    const Record now = recordOf(node, noted.item);
+    const Record now = recordOf(one.node, noted.item);
     if (now.passedBy != noted.passedBy) {
         return false;
     }
     if (!now.passedBy) {
         if (now.nodeChanges != noted.nodeChanges || now.coreId != noted.coreId ||
-            now.coreChanges != noted.coreChanges ||
-            !areChildrenCurrent(index, node, touchedItems)) {
+            now.coreChanges != noted.coreChanges || !openChildren(one, open)) {
             return false;
         }
         if (now.item != kNoItem) {
             touchedItems.push_back(now.item);
         }
     }
-    records[index].subtreeChanges = now.subtreeChanges;
+    noted.subtreeChanges = now.subtreeChanges;
     return true;
 }
 
-bool SceneOutline::areChildrenCurrent(std::size_t index, const osg::NodePtr& node,
-                                      std::vector<osg::UInt32>& touchedItems)
+bool SceneOutline::openChildren(const Open& one, std::vector<Open>& open) const
 {
-    const std::size_t end = records[index].end;
-    std::size_t next = index + 1;
-    const bool same = forEachEnteredChild(node, [&](const osg::NodePtr& child) {
-        if (next >= end || !isCurrentFrom(next, child, touchedItems)) {
+    const std::size_t end = records[one.record].end;
+    std::size_t next = one.record + 1;
+    const bool fits = forEachEnteredChild(one.node, [&](const osg::NodePtr& child) {
+        if (next >= end) {
             return false;
         }
+        open.push_back({ child, next });
         next = records[next].end;
         return true;
     });
-    return same && next == end;
+    return fits && next == end;
 }
 
 }  // namespace nbec::interaction::detail

@@ -47,10 +47,17 @@ private:
     };
 
     static Record recordOf(const osg::NodePtr& node, osg::UInt32 item);
-    bool isCurrentFrom(std::size_t index, const osg::NodePtr& node,
-                       std::vector<osg::UInt32>& touchedItems);
-    bool areChildrenCurrent(std::size_t index, const osg::NodePtr& node,
-                            std::vector<osg::UInt32>& touchedItems);
+
+    /// A node that is yet to be compared with its record.
+    struct Open
+    {
+        osg::NodePtr node;
+        std::size_t record;
+    };
+
+    bool isNodeCurrent(const Open& one, std::vector<osg::UInt32>& touchedItems,
+                       std::vector<Open>& open);
+    bool openChildren(const Open& one, std::vector<Open>& open) const;
 
     std::vector<Record> records;
 };

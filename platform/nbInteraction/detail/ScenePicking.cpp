@@ -134,7 +134,7 @@ void ScenePicking::walk(const osg::NodePtr& root)
     sources.clear();
     tree.editClipSets().clear();
     std::vector<PickItem> items;
-    collect(root, osg::Matrix(), 0, items);
+    collect(root, items);
     if (haveSameParts(items, tree.getItems())) {
         tree.editItems() = std::move(items);
         tree.refit();
@@ -144,31 +144,46 @@ void ScenePicking::walk(const osg::NodePtr& root)
     }
 }
 
-void ScenePicking::collect(const osg::NodePtr& node, osg::Matrix worldFromParent,
-                           osg::UInt32 clipSet, std::vector<PickItem>& items)
+void ScenePicking::collect(const osg::NodePtr& root, std::vector<PickItem>& items)
 {
+    std::vector<Step> steps { { root, osg::Matrix(), 0, 0 } };
+    while (!steps.empty()) {
+        const Step step = steps.back();
+        steps.pop_back();
+        if (step.node == osg::NullFC) {
+            outline.closeNode(step.record);
+        } else {
+            enter(step, steps, items);
+        }
+    }
+}
+
+void ScenePicking::enter(Step step, std::vector<Step>& steps, std::vector<PickItem>& items)
+{
+    const osg::NodePtr node = step.node;
     if (SceneOutline::isPassedBy(node)) {
         outline.closeNode(outline.openNode(node, SceneOutline::kNoItem));
         return;
     }
-    clipSet = tree.editClipSets().below(clipSet, node);
+    step.clipSet = tree.editClipSets().below(step.clipSet, node);
     osg::UInt32 item = SceneOutline::kNoItem;
     if (const osg::NodeCorePtr core = node->getCore(); core != osg::NullFC) {
-        core->accumulateMatrix(worldFromParent);
+        core->accumulateMatrix(step.matrix);
         if (const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(core);
             geometry != osg::NullFC) {
             item = static_cast<osg::UInt32>(items.size());
             sources.push_back({ geometry.getFieldContainerId(), geometry->getChangeCount() });
             items.emplace_back(node.getFieldContainerId(), PickTreeCache::the().treeOf(geometry),
-                               worldFromParent, clipSet);
+                               step.matrix, step.clipSet);
         }
     }
-    const std::size_t record = outline.openNode(node, item);
+    steps.push_back({ {}, {}, 0, outline.openNode(node, item) });
+    const auto firstChild = static_cast<std::ptrdiff_t>(steps.size());
     forEachEnteredChild(node, [&](const osg::NodePtr& child) {
-        collect(child, worldFromParent, clipSet, items);
+        steps.push_back({ child, step.matrix, step.clipSet, 0 });
         return true;
     });
-    outline.closeNode(record);
+    std::reverse(steps.begin() + firstChild, steps.end());
 }
 
 void ScenePicking::refreshItems(const std::vector<osg::UInt32>& touched)

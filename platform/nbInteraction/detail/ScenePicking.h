@@ -40,11 +40,20 @@ private:
         osg::UInt32 changeCount;
     };
 
+    /// What is yet to be done of a walk, which a deep tree must not do on the program's stack.
+    struct Step
+    {
+        osg::NodePtr node;  ///< to be entered; null: `record` is complete
+        osg::Matrix matrix;  ///< world from parent
+        osg::UInt32 clipSet;
+        std::size_t record;
+    };
+
     void useView(const PickView& view);
     void refresh(const osg::NodePtr& root);
     void walk(const osg::NodePtr& root);
-    void collect(const osg::NodePtr& node, osg::Matrix worldFromParent, osg::UInt32 clipSet,
-                 std::vector<PickItem>& items);
+    void collect(const osg::NodePtr& root, std::vector<PickItem>& items);
+    void enter(Step step, std::vector<Step>& steps, std::vector<PickItem>& items);
     void refreshItems(const std::vector<osg::UInt32>& touched);
     bool refreshItem(std::size_t index);
     bool isInside(const PickItem& item, const ScreenBox& box) const;

@@ -4,6 +4,8 @@
 #include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGSwitch.h>
 
+#include <vector>
+
 namespace nbec::interaction::detail {
 
 /// Calls visit(child) for the children that a traversal enters: all of them, or what a Switch core
@@ -29,6 +31,23 @@ bool forEachEnteredChild(const osg::NodePtr& node, Visit visit)
         }
     }
     return true;
+}
+
+/// Calls visit(node) for a node and all below it, parents first, however deep; nothing for null.
+template <class Visit>
+void forEachBelow(const osg::NodePtr& root, Visit visit)
+{
+    std::vector<osg::NodePtr> open;
+    for (osg::NodePtr node = root; node != osg::NullFC;) {
+        visit(node);
+        for (osg::UInt32 i = node->getNChildren(); i > 0; --i) {
+            open.push_back(node->getChild(i - 1));
+        }
+        node = open.empty() ? osg::NodePtr() : open.back();
+        if (!open.empty()) {
+            open.pop_back();
+        }
+    }
 }
 
 }  // namespace nbec::interaction::detail

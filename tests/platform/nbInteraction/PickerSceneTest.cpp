@@ -203,6 +203,45 @@ TEST_F(PickerScene, BrokenGeometryIsPassedThrough)
     EXPECT_EQ(pickAt(400.0f, 300.0f), osg::NullFC);
 }
 
+TEST_F(PickerScene, RaysThatAreNotFiniteOrComeFromTooFarHitNothing)
+{
+    // Many triangles, and many items: both have search trees.
+    for (int i = 0; i < 8; ++i) {
+        hang(scene, osg::makeSphere(3, 1.0f));
+    }
+    ASSERT_NE(pickAt(400.0f, 300.0f), osg::NullFC);
+    const osg::UberCameraPtr camera = widget.getUberCamera();
+    {
+        const nbEdit edit(camera, osg::FieldBits::AllFields);
+        camera->setNear(1e19f);
+        camera->setFar(1e20f);
+    }
+    EXPECT_EQ(pickAt(400.0f, 300.0f), osg::NullFC);
+    {
+        const nbEdit edit(camera, osg::FieldBits::AllFields);
+        camera->setNear(1.0f);
+        camera->setFar(100.0f);
+    }
+    // The world's ray is as usual, that in the frame of a sphere pressed flat is not.
+    camera->setFromAtUp({ 10.0f, 0.0f, 0.0f }, {}, { 0.0f, 1.0f, 0.0f });
+    const osg::Matrix flat = turnedAndScaled({ 0.0f, 1.0f, 0.0f }, 0.0f, { 1e-25f, 1.0f, 1.0f });
+    hang(scene, placed(3.0f, 0.0f, 0.0f, placed(flat, osg::makeSphere(3, 1.0f))));
+    EXPECT_EQ(pickAt(400.0f, 300.0f)->getParent(), scene);
+}
+
+TEST_F(PickerScene, TreesOfAnyDepthArePicked)
+{
+    const osg::NodePtr cube = box(2.0f);
+    osg::NodePtr top = cube;
+    for (int i = 0; i < 100000; ++i) {
+        top = placed(osg::Matrix(), top);
+    }
+    hang(scene, top);
+    EXPECT_EQ(pickAt(400.0f, 300.0f), cube);
+    nbNodeUtils::setName(cube, "cube");  // compares the tree with what was noted of it
+    EXPECT_EQ(nameAt(400.0f, 300.0f), "cube");
+}
+
 TEST_F(PickerScene, AgreesWithTheSceneGraphsOwnActionOnARandomScene)
 {
     std::mt19937 random(20240501);
