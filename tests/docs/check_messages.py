@@ -16,7 +16,7 @@ import pages
 
 CALLS = re.compile(r'(?:nbController::call|sendEmpty)\(\s*"([^"]+)"')
 SUFFIXES = re.compile(r'"(::\w+)"')
-ATTRIBUTES = re.compile(r'(?:\.set\(|nbMessage::get\(\s*\w+,)\s*("\w+"|k\w+)')
+ATTRIBUTES = re.compile(r'(?:\.set\(|nbMessage::get\(\s*\w+,|return \{(?=[^}]*QT_TRANSLATE_NOOP))\s*("\w+"|k\w+)')
 
 
 def literals(argument, text):

@@ -77,7 +77,7 @@ def missing_handles(root):
 
 def unlike_scene_keys(root):
     """Keys of scene files that only the page or only the reader and writer have."""
-    source = (root / "viewer" / "core" / "SceneFields.h").read_text(encoding="utf-8")
+    source = (root / "viewer" / "scenes" / "SceneFields.h").read_text(encoding="utf-8")
     page = (root / "docs" / "scene-files.md").read_text(encoding="utf-8").partition("\n## Keys\n")[2].partition("\n#")[0]
     known = set(re.findall(r'\b(?:archive\.\w+|field)\("(\w+)"', source))
     listed = {key for row in re.findall(r"^\|[^|]*\|([^|]*)\|", page, flags=re.MULTILINE) for key in re.findall(r"`(\w+)`", row)}
