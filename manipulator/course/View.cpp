@@ -135,6 +135,11 @@ osg::Vec3f View::sightAt(const osg::Pnt3f& point) const
     return direction;
 }
 
+Sight View::getSight() const
+{
+    return { sight(), isOrthographic() ? std::nullopt : std::optional<osg::Pnt3f>(getEye()) };
+}
+
 osg::Quaternion View::facing() const
 {
     if (widget == nullptr || widget->getUberCamera() == osg::NullFC) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "manipulator/drag/RingDrag.h"
 #include "manipulator/nbManipulatorExport.h"
 
 #include <OpenSG/OSGLine.h>
@@ -89,6 +90,8 @@ public:
     /// Direction in which the camera looks at a point, unit length: from the eye, or along the view
     /// axis of an orthographic camera.
     osg::Vec3f sightAt(const osg::Pnt3f& point) const;
+    /// The same in numbers, for rings.
+    Sight getSight() const;
     /// Turn of the camera: x to the right, y up on the screen. None without a widget.
     osg::Quaternion facing() const;
 

@@ -128,11 +128,9 @@ void updateManipulatorPlane(TransformDrag& drag, const osg::NodePtr& node,
     const osg::UInt32 axis = axisOf(grabbed.handle);
     const osg::UInt32 normalAxis = planeNormalAxis(grabbed.handle);
     if (isRing(grabbed.handle)) {
-        const RingFrame ring =
-            ringDragFrame(center, column(grabbed.frame, axis), grabbed.grabbedPoint,
-                          view.sightAt(grabbed.grabbedPoint));
-        drag.inverseDragFrame = inverted(ringMatrix(ring, axis));
-        drag.plane = osg::Plane(ring.normal, ring.center);
+        drag.ring = RingDrag::begin(center, column(grabbed.frame, axis), grabbed.grabbedPoint,
+                                    view.getSight());
+        drag.inverseDragFrame = inverted(drag.ring.frame(axis));
     } else if (normalAxis < 3) {
         drag.plane =
             osg::Plane(unitVector(movementAxis(node, grabbed, (normalAxis + 1) % 3)
@@ -177,7 +175,7 @@ TransformStart captureStart(const osg::NodePtr& node, const GrabbedGizmo& grabbe
 }
 
 TransformDrag prepareManipulator(const osg::NodePtr& node, const GrabbedGizmo& grabbed,
-                                 const View& view)
+                                 const View& view, DragTrack& track)
 {
     TransformDrag drag;
     drag.handle = grabbed.handle;
@@ -186,7 +184,9 @@ TransformDrag prepareManipulator(const osg::NodePtr& node, const GrabbedGizmo& g
 
     drag.dragStartWorld = grabbed.grabbedPoint;
     const std::optional<osg::Line> ray = view.pointerRay();
-    if (ray && !intersectPlane(drag.plane, *ray, drag.dragStartWorld)) {
+    if (isRing(grabbed.handle)) {
+        drag.dragStartWorld = drag.ring.follow(ray, track).value_or(grabbed.grabbedPoint);
+    } else if (ray && !intersectPlane(drag.plane, *ray, drag.dragStartWorld)) {
         // The handle was hit this side of the plane's horizon, the plane is met beyond it.
         drag.plane = osg::Plane(drag.plane.getNormal(), grabbed.grabbedPoint);
         intersectPlane(drag.plane, *ray, drag.dragStartWorld);
@@ -201,6 +201,7 @@ TransformDrag prepareManipulator(const osg::NodePtr& node, const GrabbedGizmo& g
     }
     drag.inverseScaleFrame = inverted(scaleFrame(grabbed, drag.dragStartWorld, view));
     drag.dragStartLocal = mapped(drag.inverseDragFrame, drag.dragStartWorld);
+    track.last = drag.dragStartLocal;
     drag.scaleAnchor = mapped(drag.inverseScaleFrame, drag.dragStartWorld).subZero();
     return drag;
 }

@@ -3,6 +3,7 @@
 
 #include "manipulator/course/View.h"
 #include "manipulator/drag/DragParameters.h"
+#include "manipulator/drag/RingDrag.h"
 #include "manipulator/transform/TransformModes.h"
 
 #include <nbOpenSGUtils/nbEulerUtils.h>
@@ -49,7 +50,8 @@ struct GrabbedGizmo
 struct TransformDrag
 {
     ActiveMode handle = ActiveMode::None;
-    osg::Plane plane;  ///< in which the pointer's ray is intersected, world
+    osg::Plane plane;  ///< in which the pointer's ray is intersected, world; not of a ring
+    RingDrag ring;  ///< the grabbed one
     osg::Matrix inverseDragFrame;  ///< world to the frame of translate and rotate
     osg::Matrix inverseScaleFrame;  ///< world to the frame of scale
     osg::Pnt3f dragStartWorld;
@@ -66,8 +68,9 @@ struct TransformDrag
 TransformStart captureStart(const osg::NodePtr& node, const GrabbedGizmo& grabbed);
 
 /// Chooses plane and frames for the dragged node and captures its start.
+/// @param track  with which the drag begins
 TransformDrag prepareManipulator(const osg::NodePtr& node, const GrabbedGizmo& grabbed,
-                                 const View& view);
+                                 const View& view, DragTrack& track);
 
 // == From a point in the drag's plane to drag parameters
 

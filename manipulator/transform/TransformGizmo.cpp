@@ -256,7 +256,7 @@ bool TransformGizmo::prepare(const View& view)
     held.unit = column(placed, 0).length();
     held.frame = orthonormalised(placed);
     held.frame.setTranslate(column(placed, 3));
-    drag = prepareManipulator(getTransform(0), held, view);
+    drag = prepareManipulator(getTransform(0), held, view, track);
     for (std::size_t i = 1; i < targetIds.size(); ++i) {
         drag.starts.push_back(captureStart(getTransform(i), held));
     }
@@ -264,7 +264,6 @@ bool TransformGizmo::prepare(const View& view)
     for (const TransformStart& start : drag.starts) {
         turned.push_back(start.anglesRad);
     }
-    track.last = drag.dragStartLocal;
     return true;
 }
 
@@ -276,7 +275,9 @@ bool TransformGizmo::movesPivot() const
 DragStep TransformGizmo::parametersAt(const View& view, const DragTrack& before) const
 {
     DragTrack next = before;
-    const std::optional<osg::Pnt3f> point = followPlane(drag.plane, view.pointerRay(), next);
+    const std::optional<osg::Line> ray = view.pointerRay();
+    const std::optional<osg::Pnt3f> point =
+        isRing(handle()) ? drag.ring.follow(ray, next) : followPlane(drag.plane, ray, next);
     if (!point) {
         return DragStep();
     }
