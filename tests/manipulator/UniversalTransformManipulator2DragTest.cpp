@@ -146,6 +146,40 @@ TEST(Drags, UniformFactorGrowsUpTheScreenWhereZIsUp)
     expectNear(drags.core()->getScale(), Vec3f(1.2F, 1.2F, 1.2F), "scale", 2e-3F);
 }
 
+TEST(Drags, ARingTurnsByWhatIsSweptAlongItAtEveryTilt)
+{
+    for (const bool isOrthographic : { false, true }) {
+        for (const float tiltDeg : { 10.0F, 50.0F, 65.0F, 75.0F, 85.0F }) {
+            DragScene drags;
+            drags.activate(Mode::Rotate);
+            drags.look(Camera::Front, isOrthographic);
+            const float tilt = tiltDeg * kRadiansPerDegree;
+            drags.scene.lookFrom(Pnt3f(0, -10.0F * std::sin(tilt), 10.0F * std::cos(tilt)));
+            drags.gizmo.update(true);
+            const auto point = [](int degrees) {
+                const float angle = (static_cast<float>(degrees) - 60.0F) * kRadiansPerDegree;
+                return Vec3f(1.5F * std::cos(angle), 1.5F * std::sin(angle), 0);
+            };
+            const auto goTo = [&](int degrees) {
+                return drags.scene.send("process", drags.rayPixelOf(drags.onGizmo(point(degrees))));
+            };
+            const auto turned = [&] { return drags.core()->getRotation().z(); };
+            ASSERT_TRUE(drags.grab(point(0)));
+            for (int degrees = 1; degrees <= 360; ++degrees) {
+                ASSERT_TRUE(goTo(degrees));
+                if (degrees % 90 == 0) {
+                    EXPECT_NEAR(turned(), degrees, 4) << tiltDeg << ' ' << isOrthographic;
+                }
+            }
+            for (int degrees = 359; degrees >= 0; --degrees) {
+                ASSERT_TRUE(goTo(degrees));
+            }
+            ASSERT_TRUE(drags.stepTo(Vec2f()));
+            EXPECT_NEAR(turned(), 0, 0.1F) << tiltDeg << ' ' << isOrthographic;
+        }
+    }
+}
+
 TEST(Drags, RingsTurnWithThePointerBelowAMirroredParent)
 {
     DragScene drags;
