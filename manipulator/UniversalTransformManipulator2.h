@@ -30,7 +30,8 @@ struct TransformSettings;
 ///   pivot); a node that is no Transform3D yet has its pivot at the centre of its volume, where it
 ///   will be once it is converted. Conversion and pivot belong to the first undo step of an edit;
 ///   a drag that ends where it began leaves no step, and the node stays converted.
-/// - Orientation: world axes; the node's own in scale mode and in setLocalSpaceManipulator(true).
+/// - Orientation: world axes, or the node's own in setLocalSpaceManipulator(true); scale handles
+///   always lie along the node's own.
 /// - A ring's axis line shows only while that ring is grabbed. Sphere and purple cube are unnamed
 ///   markers, never hit.
 /// - Plane handles: a square patch of 0.4 with a bar (radius 0.02) along both outer edges.

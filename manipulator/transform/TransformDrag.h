@@ -41,7 +41,7 @@ struct GrabbedGizmo
     ActiveMode handle = ActiveMode::None;
     ManipulatorMode mode = ManipulatorMode::Translate;
     bool isLocal = false;  ///< in the node's own space
-    osg::Matrix frame;  ///< world from the gizmo's axes, of unit length
+    osg::Matrix frame;  ///< world from the axes of the handle's family, of unit length
     float unit = 1.0F;  ///< world units of the handles' unit frame
     osg::Pnt3f grabbedPoint;  ///< world
 };

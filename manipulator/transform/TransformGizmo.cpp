@@ -205,10 +205,30 @@ void TransformGizmo::place(const View& view)
     const osg::Pnt3f anchor = anchorWorld(node);
     const float size = view.scaleAt(anchor, getSize(), ViewDiagonal::FrustumSides);
     watch.remember(node->getToWorld());
-    placeTransform(handles.getRootTransform(), anchor.subZero(), orientationWorld(node),
+    const osg::Quaternion orientation = orientationWorld(node);
+    placeTransform(handles.getRootTransform(), anchor.subZero(), orientation,
                    osg::Vec3f(size, size, size));
+    placeScaleHandles(orientation.inverse(), node);
     if (targetIds.size() > 1) {
         placeMarks(size);
+    }
+}
+
+/// Scale handles lie along the axes that they scale, which are the node's own, whatever the others
+/// do. @param gizmoFromWorld  turn of the other handles, backwards
+void TransformGizmo::placeScaleHandles(const osg::Quaternion& gizmoFromWorld,
+                                       const osg::NodePtr& node)
+{
+    const std::vector<HandleRow>& rows = handleTable().rows;
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        if (isScale(static_cast<Active>(rows[i].handle)) &&
+            isInModes(getMode(), rows[i].visibleIn)) {
+            osg::Quaternion turn = gizmoFromWorld;
+            turn.mult(worldRotation(node));
+            turn.mult(quaternionOf(rows[i].turn));
+            placeTransform(osg::Transform3DPtr::dcast(handles.getNode(i)->getCore()), osg::Vec3f(),
+                           turn, osg::Vec3f(1.0F, 1.0F, 1.0F));
+        }
     }
 }
 
@@ -254,7 +274,7 @@ bool TransformGizmo::prepare(const View& view)
     held.grabbedPoint = grabbedPoint;
     const osg::Matrix placed = handles.getRoot()->getToWorld();
     held.unit = column(placed, 0).length();
-    held.frame = orthonormalised(placed);
+    held.frame = orthonormalised(isScale(handle()) ? getTransform(0)->getToWorld() : placed);
     held.frame.setTranslate(column(placed, 3));
     drag = prepareManipulator(getTransform(0), held, view, track);
     for (std::size_t i = 1; i < targetIds.size(); ++i) {

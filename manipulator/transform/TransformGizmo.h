@@ -65,6 +65,7 @@ private:
     std::vector<osg::NodePtr> resolveTargets() const;
     osg::Pnt3f anchorWorld(const osg::NodePtr& node) const;
     osg::Quaternion orientationWorld(const osg::NodePtr& node) const;
+    void placeScaleHandles(const osg::Quaternion& gizmoFromWorld, const osg::NodePtr& node);
     void placeMarks(float size);
     DragStep turnAt(const osg::Pnt3f& point, const DragTrack& before) const;
     osg::Vec3f valueOf(std::size_t target, const DragParameters& parameters, const HalfTurn& turn);

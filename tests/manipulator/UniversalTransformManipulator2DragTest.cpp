@@ -146,6 +146,24 @@ TEST(Drags, UniformFactorGrowsUpTheScreenWhereZIsUp)
     expectNear(drags.core()->getScale(), Vec3f(1.2F, 1.2F, 1.2F), "scale", 2e-3F);
 }
 
+TEST(Drags, ScaleHandlesLieAlongTheNodesOwnAxesInEveryMode)
+{
+    for (const Mode mode : { Mode::Universal, Mode::TranslateRotateScale, Mode::Scale }) {
+        DragScene drags;
+        drags.edit(drags.core(), [](const osg::Transform3DPtr& core) {
+            core->setRotation(Vec3f(0, 0, 50));
+            core->setRotationOrientation(
+                osg::Quaternion(Vec3f(0, 0, 1), -20.0F * kRadiansPerDegree));
+        });
+        drags.activate(mode);
+        const float cosine = std::cos(30.0F * kRadiansPerDegree);
+        const Vec3f own(cosine, 0.5F, 0);
+        ASSERT_TRUE(drags.grabAt("xsShape", Pnt3f(own * (1.5F * kUnit))));
+        EXPECT_TRUE(drags.dragBy(Vec2f(73 * cosine, -36.5F)));
+        expectNear(drags.core()->getScale(), Vec3f(2, 1, 1), "scale", 0.02F);
+    }
+}
+
 TEST(Drags, ARingTurnsByWhatIsSweptAlongItAtEveryTilt)
 {
     for (const bool isOrthographic : { false, true }) {
