@@ -20,9 +20,10 @@ class PlanarGizmo;
 ///
 /// Decisions.
 /// - Place. The handles stand at the projection's centre, turned as it is, in a constant size on
-///   screen; tabs go to x, y = +-scale and z = -scale of the projection. With setUseTextureScale()
-///   the half of "projectionSize" takes the place of the scale in x and y and follows it from
-///   there. An orthographic view is measured by the near-plane diagonal.
+///   screen; on an object with unequal scales or shear each arrow and scale axis lies along the way
+///   in which it moves; tabs go to x, y = +-scale and z = -scale of the projection. With
+///   setUseTextureScale() the half of "projectionSize" takes the place of the scale in x and y and
+///   follows it from there. An orthographic view is measured by the near-plane diagonal.
 /// - Z handles: "zsShape" and "scaleZPlaneShape" are visible unless setZScaleVisible(false); the
 ///   latter shows the Z extent and can be hidden alone with showZScaleValue(false), for a
 ///   projection that is not clamped. Scaling Z shows it again.

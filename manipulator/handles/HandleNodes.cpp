@@ -83,14 +83,20 @@ void placeTransform(const osg::Transform3DPtr& transform, const osg::Vec3f& tran
     transform->setRotation(rotation);
 }
 
-void moveNode(const osg::NodePtr& node, const osg::Vec3f& translation)
+void moveNode(const osg::NodePtr& node, const osg::Vec3f& translation,
+              const osg::Quaternion& rotation)
 {
     const osg::ComponentTransformPtr core = osg::ComponentTransformPtr::dcast(node->getCore());
-    if (core == osg::NullFC || isSame(core->getTranslation(), translation, 3)) {
+    if (core == osg::NullFC ||
+        (isSame(core->getTranslation(), translation, 3) &&
+         isSame(core->getRotation(), rotation, 4))) {
         return;
     }
-    const nbEdit edit(core, osg::ComponentTransform::TranslationFieldMask);
+    const nbEdit edit(core,
+                      osg::ComponentTransform::TranslationFieldMask |
+                          osg::ComponentTransform::RotationFieldMask);
     core->setTranslation(translation);
+    core->setRotation(rotation);
 }
 
 void setMatrix(const osg::NodePtr& node, const osg::Matrix& matrix)

@@ -34,8 +34,9 @@ NB_MANIPULATOR_API void placeTransform(const osg::Transform3DPtr& transform,
                                        const osg::Vec3f& translation,
                                        const osg::Quaternion& rotation, const osg::Vec3f& scale);
 
-/// Sets the translation of a node's ComponentTransform inside an edit, if it is another one.
-void moveNode(const osg::NodePtr& node, const osg::Vec3f& translation);
+/// Sets translation and rotation of a node's ComponentTransform inside an edit, if they are others.
+void moveNode(const osg::NodePtr& node, const osg::Vec3f& translation,
+              const osg::Quaternion& rotation = osg::Quaternion());
 
 /// Sets the matrix of a node's Transform inside an edit; one that has it already is not edited.
 NB_MANIPULATOR_API void setMatrix(const osg::NodePtr& node, const osg::Matrix& matrix);

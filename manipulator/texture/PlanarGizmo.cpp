@@ -366,29 +366,45 @@ void PlanarGizmo::place(const View& view)
     const osg::Vec3f scales(size, size, worldFromAxes.det3() < 0.0F ? -size : size);
     placeTransform(handles.getRootTransform(), center.subZero(), osg::Quaternion(axes), scales);
     if (size > kLeastSize && std::isfinite(size)) {
-        placeTabs(worldFromAxes, axes, scales);
+        placeRows(worldFromAxes, axes, scales);
     }
 }
 
+/// Tabs go to the ends of the extents; what acts along an axis lies along the way of its motion,
+/// which on an object with unequal scales or shear is at no right angle to the others.
 /// @param axes  orthonormal, of the handles  @param scales  of the handles
-void PlanarGizmo::placeTabs(const osg::Matrix& worldFromAxes, const osg::Matrix& axes,
+void PlanarGizmo::placeRows(const osg::Matrix& worldFromAxes, const osg::Matrix& axes,
                             const osg::Vec3f& scales)
 {
     const osg::Vec3f extents = frame.halfExtents();
-    std::array<osg::Vec3f, 3> ends;  // of the extents, in the unit frame
-    for (osg::UInt32 end = 0; end < 3; ++end) {
-        const osg::Vec3f world = column(worldFromAxes, end) * extents[end];
+    std::array<osg::Vec3f, 3> ways;  // of the axes, in the unit frame of the handles
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        const osg::Vec3f world = column(worldFromAxes, i);
         for (osg::UInt32 axis = 0; axis < 3; ++axis) {
-            ends[end][axis] = world.dot(column(axes, axis)) / scales[axis];
+            ways[i][axis] = world.dot(column(axes, axis)) / scales[axis];
         }
     }
     const std::vector<HandleRow>& rows = planarHandleTable().rows;
     for (std::size_t i = 0; i < rows.size(); ++i) {
-        const PlanarSide side = planarSideOf(static_cast<Active>(rows[i].handle));
+        const auto handle = static_cast<Active>(rows[i].handle);
+        const PlanarSide side = planarSideOf(handle);
         if (side != PlanarSide()) {
+            osg::Vec3f place;
+            for (osg::UInt32 axis = 0; axis < 3; ++axis) {
+                place += ways[axis] * (extents[axis] * static_cast<float>(side[axis]));
+            }
+            moveNode(handles.getNode(i), place);
+        } else if (const std::optional<osg::UInt32> axis = planarAxisOf(handle)) {
+            osg::Vec3f unit;
+            unit[*axis] = 1.0F;
+            const osg::Vec3f& way = ways[*axis];
+            const osg::Quaternion turn =
+                way.length() > 0.0F ? osg::Quaternion(unit, way) : osg::Quaternion();
+            osg::Quaternion whole = turn;
+            whole.mult(quaternionOf(rows[i].turn));
             moveNode(handles.getNode(i),
-                     ends[0] * static_cast<float>(side[0]) + ends[1] * static_cast<float>(side[1]) +
-                         ends[2] * static_cast<float>(side[2]));
+                     rotated(turn, { rows[i].place[0], rows[i].place[1], rows[i].place[2] }),
+                     whole);
         }
     }
 }

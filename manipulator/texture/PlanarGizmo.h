@@ -71,7 +71,7 @@ private:
     void askScaleValues();
     void capture(const View& view);
     void showElements();
-    void placeTabs(const osg::Matrix& worldFromAxes, const osg::Matrix& axes,
+    void placeRows(const osg::Matrix& worldFromAxes, const osg::Matrix& axes,
                    const osg::Vec3f& scales);
     void setTranslationIn(nbMessage& message, const osg::Vec3f& shift) const;
 

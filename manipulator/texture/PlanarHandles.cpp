@@ -97,6 +97,17 @@ HandleSet::Materials makePlanarMaterials()
                                   { 0.953F, 0.525F, 0.184F, 0.0F, handleSortKey::kSolid } });
 }
 
+std::optional<osg::UInt32> planarAxisOf(PlanarActiveMode handle)
+{
+    for (const Active first : { Active::TranslateX, Active::ScaleX }) {
+        const int axis = number(handle) - number(first);
+        if (axis >= 0 && axis < 3) {
+            return static_cast<osg::UInt32>(axis);
+        }
+    }
+    return std::nullopt;
+}
+
 PlanarSide planarSideOf(PlanarActiveMode handle)
 {
     // From ScaleLowerLeft on.

@@ -5,6 +5,7 @@
 #include "manipulator/texture/TextureModes.h"
 
 #include <array>
+#include <optional>
 
 namespace nbec::manipulator::texture {
 
@@ -16,6 +17,9 @@ const HandleTable& planarHandleTable();
 
 /// Their materials, in the order that the table counts in.
 HandleSet::Materials makePlanarMaterials();
+
+/// The axis along which a handle moves or scales; nothing for the others.
+std::optional<osg::UInt32> planarAxisOf(PlanarActiveMode handle);
 
 /// The side of a handle; that of handles which stay at the centre is all 0.
 PlanarSide planarSideOf(PlanarActiveMode handle);

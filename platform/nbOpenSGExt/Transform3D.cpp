@@ -119,6 +119,14 @@ Matrix Transform3D::computeMatrix() const
     }
     result.setTranslate(static_cast<Real32>(origin[0]), static_cast<Real32>(origin[1]),
                         static_cast<Real32>(origin[2]));
+    if (const Vec3f& by = getShear(); by != Vec3f()) {
+        Matrix shear(1.0F, by.x(), by.y(), 0.0F, 0.0F, 1.0F, by.z(), 0.0F, 0.0F, 0.0F, 1.0F, 0.0F,
+                     0.0F, 0.0F, 0.0F, 1.0F);
+        Vec3f moved;
+        shear.multMatrixVec(scalePivot, moved);
+        shear.setTranslate(scalePivot - moved);
+        result.mult(shear);
+    }
     return result;
 }
 

@@ -27,13 +27,16 @@ NB_CONTAINER_POINTER(Transform3D, TransformPtr);
     VALUE(RotationQuaternion, rotationQuaternion, Quaternion, Quaternion())                        \
     VALUE(RotationOrientation, rotationOrientation, Quaternion, Quaternion())                      \
     VALUE(Scale, scale, Vec3f, Vec3f(1.0F, 1.0F, 1.0F))                                               \
-    VALUE(RotationMode, rotationMode, Int32, 0)
+    VALUE(RotationMode, rotationMode, Int32, 0)                                                    \
+    VALUE(Shear, shear, Vec3f, Vec3f(0.0F, 0.0F, 0.0F))
 
 // clang-format on
 
-/// Transform core that keeps its parts: translation, rotation, scale and the pivots of both.
-/// Local matrix (column vectors), T translation, S scale:
-/// T(translation) T(rotatePivot) R RO T(-rotatePivot) T(scalePivot) S T(-scalePivot).
+/// Transform core that keeps its parts: translation, rotation, scale, the pivots of both, and the
+/// shear of a matrix that it was made from.
+/// Local matrix (column vectors), T translation, S scale, H shear:
+/// T(translation) T(rotatePivot) R RO T(-rotatePivot) T(scalePivot) S H T(-scalePivot).
+/// H takes y by shear x and z by shear y along x, and z by shear z along y. No drag edits it.
 /// R is the rotation by angles or quaternion; its axes are the orientation of the rotate pivot. RO,
 /// the rotation orientation, is how the object lies within that frame; the whole rotation is R RO.
 /// The matrix is rebuilt from all parts when an edit of any of them ends.
@@ -59,7 +62,8 @@ public:
     /// Everything that the matrix depends on.
     // NOLINTNEXTLINE(readability-identifier-naming): named as the masks of fields
     static constexpr BitVector PartsFieldMask = TranslationFieldMask | RotatePivotFieldMask |
-        ScalePivotFieldMask | RotationFieldMask | RotationOrientationFieldMask | ScaleFieldMask;
+        ScalePivotFieldMask | RotationFieldMask | RotationOrientationFieldMask | ScaleFieldMask |
+        ShearFieldMask;
 
     /// R as angles about x, y, z in degrees, in the core's order, whatever the mode.
     Vec3f getRotation() const;

@@ -46,9 +46,8 @@ public:
     static osg::NodePtr resolveToTransformNode(const osg::NodePtr& node);
 
     /// Makes the node one with a Transform3D core and keeps the picture and all to-world matrices.
-    /// A Transform core, derived ones too, becomes an equal Transform3D; a shear, which that cannot
-    /// express, goes to a Transform in a new only child that takes the children. Any other core
-    /// moves to a new only child that takes the children. Name and marks stay on the node.
+    /// A Transform core, derived ones too, becomes an equal Transform3D. Any other core moves to a
+    /// new only child that takes the children. Name and marks stay on the node.
     /// @return the node
     static osg::NodePtr convertToTransform3DNode(const osg::NodePtr& node);
 

@@ -7,6 +7,7 @@
 #include <OpenSG/OSGRefPtr.h>
 #include <OpenSG/OSGTransform.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -33,13 +34,13 @@ struct Factors
 {
     Columns rotation { { { 1, 0, 0 }, { 0, 1, 0 }, { 0, 0, 1 } } };
     Column scale { 0, 0, 0 };
-    Columns shear { { { 1, 0, 0 }, { 0, 1, 0 }, { 0, 0, 1 } } };
+    Column shear { 0, 0, 0 };  ///< above the diagonal: x by y, x by z, y by z
 
     bool hasShear() const
     {
         constexpr double kShearTolerance = 1e-6;
-        return std::fabs(shear[1][0]) > kShearTolerance ||
-            std::fabs(shear[2][0]) > kShearTolerance || std::fabs(shear[2][1]) > kShearTolerance;
+        return std::any_of(shear.begin(), shear.end(),
+                           [](double part) { return std::fabs(part) > kShearTolerance; });
     }
 };
 
@@ -106,7 +107,7 @@ Factors factorise(const osg::Matrix& matrix)
         for (std::size_t k = 0; k < i; ++k) {
             if (known[k]) {
                 const double along = dot(factors.rotation[k], rest);
-                factors.shear[i][k] = along / factors.scale[k];
+                factors.shear[i + k - 1] = along / factors.scale[k];
                 for (std::size_t row = 0; row < 3; ++row) {
                     rest[row] -= along * factors.rotation[k][row];
                 }
@@ -135,6 +136,12 @@ osg::Matrix toMatrix(const Columns& columns)
         }
     }
     return result;
+}
+
+osg::Vec3f toVector(const Column& values)
+{
+    return { static_cast<osg::Real32>(values[0]), static_cast<osg::Real32>(values[1]),
+             static_cast<osg::Real32>(values[2]) };
 }
 
 osg::Vec3f translationOf(const osg::Matrix& matrix)
@@ -175,11 +182,10 @@ osg::NodePtr insertOnlyChild(const osg::NodePtr& node, const osg::NodeCorePtr& c
     return child;
 }
 
-/// Splits a matrix into target and, where it has a shear, a Transform above the node's children.
+/// Splits a matrix into the parts of a transform.
 /// With the pivot c the matrix is T(translation) T(c) A T(-c).
-/// @return the new child, or null
-osg::NodePtr splitMatrix(const osg::NodePtr& node, const osg::Matrix& matrix,
-                         const osg::Vec3f& pivot, const osg::Transform3DPtr& target)
+void splitMatrix(const osg::Matrix& matrix, const osg::Vec3f& pivot,
+                 const osg::Transform3DPtr& target)
 {
     const Factors factors = factorise(matrix);
     osg::Vec3f movedPivot;
@@ -188,22 +194,10 @@ osg::NodePtr splitMatrix(const osg::NodePtr& node, const osg::Matrix& matrix,
     target->setRotatePivot(pivot);
     target->setScalePivot(pivot);
     target->setRotation(osg::Quaternion(toMatrix(factors.rotation)));
-    target->setScale(osg::Vec3f(static_cast<osg::Real32>(factors.scale[0]),
-                                static_cast<osg::Real32>(factors.scale[1]),
-                                static_cast<osg::Real32>(factors.scale[2])));
-    if (!factors.hasShear()) {
-        return osg::NullFC;
+    target->setScale(toVector(factors.scale));
+    if (factors.hasShear()) {
+        target->setShear(toVector(factors.shear));
     }
-    osg::Matrix shear = toMatrix(factors.shear);
-    osg::Vec3f shearedPivot;
-    shear.multMatrixVec(pivot, shearedPivot);
-    shear.setTranslate(pivot - shearedPivot);
-    const osg::TransformPtr rest = osg::Transform::create();
-    {
-        const nbEdit edit(rest, osg::Transform::MatrixFieldMask);
-        rest->setMatrix(shear);
-    }
-    return insertOnlyChild(node, rest);
 }
 
 }  // namespace
@@ -228,7 +222,7 @@ osg::NodePtr nbNodeUtils::convertToTransform3DNode(const osg::NodePtr& node)
         } else if (transform != osg::NullFC) {
             const osg::Vec3f pivot =
                 components == osg::NullFC ? osg::Vec3f(0.0F, 0.0F, 0.0F) : components->getCenter();
-            conversion.insertedChild = splitMatrix(node, transform->getMatrix(), pivot, core);
+            splitMatrix(transform->getMatrix(), pivot, core);
         }
         node->setCore(core);
         if (conversion.oldCore.get() != osg::NullFC && transform == osg::NullFC) {

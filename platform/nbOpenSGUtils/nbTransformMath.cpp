@@ -10,9 +10,26 @@ namespace {
 
 constexpr double kSingular = 1e-12;
 
+/// S v
 Vec3d scaledBy(const nbTransformState& state, const Vec3d& v)
 {
-    return { v[0] * state.scale[0], v[1] * state.scale[1], v[2] * state.scale[2] };
+    const Vec3d shear = toDouble(state.shear);
+    return { (v[0] + shear[0] * v[1] + shear[1] * v[2]) * state.scale[0],
+             (v[1] + shear[2] * v[2]) * state.scale[1], v[2] * state.scale[2] };
+}
+
+/// What S takes to v, 0 along an axis of scale 0.
+Vec3d unscaledBy(const nbTransformState& state, const Vec3d& v)
+{
+    const Vec3d shear = toDouble(state.shear);
+    Vec3d result;
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        const double factor = state.scale[i];
+        result[i] = factor == 0.0 ? 0.0 : v[i] / factor;
+    }
+    result[1] -= shear[2] * result[2];
+    result[0] -= shear[0] * result[1] + shear[1] * result[2];
+    return result;
 }
 
 }  // namespace
@@ -41,12 +58,7 @@ MovedPivots moveScalePivot(const nbTransformState& state, const Matrix3d& rotati
 {
     // The place moves by R S times the change of s. With p changed by (1 - S) times it and t by the
     // opposite, t + p and o stay.
-    const Vec3d turnedBack = rotation.transposedTimes(delta);
-    Vec3d pivotDelta;
-    for (osg::UInt32 i = 0; i < 3; ++i) {
-        const double factor = state.scale[i];
-        pivotDelta[i] = factor == 0.0 ? 0.0 : turnedBack[i] / factor;
-    }
+    const Vec3d pivotDelta = unscaledBy(state, rotation.transposedTimes(delta));
     const Vec3d shift = pivotDelta - scaledBy(state, pivotDelta);
     return { toDouble(state.translation) - shift, toDouble(state.rotatePivot) + shift,
              toDouble(state.scalePivot) + pivotDelta };

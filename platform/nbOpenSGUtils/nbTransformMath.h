@@ -2,8 +2,8 @@
 /// @file
 /// Arithmetic of a Transform3D's pivots, in double. Its matrix is x -> o + R S x with the whole
 /// rotation R and o = t + p + R (s - p - S s); t translation, p rotate pivot, s scale pivot, S
-/// scale. Functions take R with the rest, since it is costly to work out. The object stays where it
-/// is as long as R, S and o stay.
+/// scale after shear. Functions take R with the rest, since it is costly to work out. The object
+/// stays where it is as long as R, S and o stay.
 #pragma once
 
 #include <nbOpenSGExt/nbRotationMath.h>

@@ -49,6 +49,7 @@ nbTransformState nbTransformState::of(const osg::Transform3D& core)
     state.rotationOrientation = core.getRotationOrientation();
     state.rotationMode = core.getRotationMode();
     state.eulerRotationOrder = core.getEulerRotationOrder();
+    state.shear = core.getShear();
     return state;
 }
 

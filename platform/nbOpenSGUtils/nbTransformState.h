@@ -18,10 +18,11 @@ struct NB_PLATFORM_API nbTransformState
     osg::Quaternion rotationOrientation;
     osg::Int32 rotationMode = 0;
     std::string eulerRotationOrder;
+    osg::Vec3f shear;  ///< for reading; it stays with its core and is not compared
 
     static nbTransformState of(const osg::Transform3D& core);
 
-    /// Writes all parts back, as one edit.
+    /// Writes all parts but the shear back, as one edit.
     void applyTo(const osg::Transform3DPtr& core) const;
 
     /// Whether all parts are the same bit for bit, zeros of both signs counting as one.

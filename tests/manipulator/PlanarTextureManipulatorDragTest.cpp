@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What drags send, with numbers worked out by hand.
 #include "tests/manipulator/support/TextureScene.h"
+#include "tests/platform/support/Edited.h"
 
 namespace nbec::manipulator::test {
 
@@ -102,6 +103,44 @@ TEST(PlanarTextureManipulatorDrag, TranslationsSendOffsetAndVectorSinceTheStart)
         EXPECT_TRUE(planar.drag.stepTo(Vec2f(-30, 70)));
         EXPECT_TRUE(planar.drag.stepTo(row.offsetPx));
         expectNear(attribute<Vec3f>(planar.last(), "transVec"), row.transVec, "again");
+    }
+}
+
+TEST(PlanarTextureManipulatorDrag, HandlesLieAlongTheWayThatTheyMoveThePictureAndStayWithIt)
+{
+    osg::Matrix sheared(2, 0.8F, 0.3F, 0.5F, 0, 1, -0.6F, 0, 0, 0.4F, 1, 0, 0, 0, 0, 1);
+    osg::Matrix stretched;
+    stretched.setScale(Vec3f(3, 1, 0.5F));
+
+    for (const osg::Matrix& matrix : { sheared, stretched }) {
+        for (const char* const name : { "xaShape", "yaShape", "zaShape" }) {
+            SCOPED_TRACE(name);
+            PlanarScene planar(TextureScene::Receiver::Editor);
+            osg::TransformPtr core;
+            const osg::NodeRefPtr maker(osg::makeCoredNode<osg::Transform>(&core));
+            nbtest::edited(core)->setMatrix(matrix);
+            nbtest::edited(planar.scene.node)->setCore(core);
+            planar.edit(planar.projection, [](const auto& of) {
+                of->setRotation(Vec3f(10, 20, 40));
+                of->setTranslation(Vec3f(0.2F, 0.1F, 0));
+            });
+            planar.gizmo.activateTranslateManipulator();
+            planar.look(Camera::Oblique, false);
+            const auto arrow = [&planar, name](float along) {
+                Pnt3f point(0, along, 0);
+                planar.handle(name)->getToWorld().multMatrixPnt(point);
+                return point;
+            };
+            const Pnt3f from = planar.inWorld(Vec3f());
+            const Vec3f drawn = arrow(0.9F) - arrow(0);
+            ASSERT_TRUE(planar.grabAt(name, arrow(0.9F)));
+            const Pnt3f beyond = arrow(0.9F) + drawn;
+            EXPECT_TRUE(planar.drag.stepTo(planar.drag.rayPixelOf(beyond) - planar.drag.pressed));
+            const Vec3f moved = planar.inWorld(Vec3f()) - from;
+            EXPECT_LT((moved - drawn).length(), 0.05F * drawn.length());
+            EXPECT_TRUE(planar.scene.node->getToWorld().equals(matrix, kTolerance));
+            EXPECT_TRUE((arrow(0.9F) - moved).equals(from + drawn * (1.9F / 0.9F), 0.05F));
+        }
     }
 }
 

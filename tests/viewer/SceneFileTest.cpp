@@ -97,7 +97,7 @@ TEST_F(SceneFile, SavedOpenedAndSavedAgainIsTheSameWhateverWasEdited)
 
 TEST_F(SceneFile, KeepsTheWorldMatricesOfAShearedModel)
 {
-    // The upper node is sheared, so that an edit of it puts another node below it.
+    // The shear of the upper node comes from the model alone.
     write(fileIn("sheared.gltf"),
           R"({"asset": {"version": "2.0"}, "scene": 0, "scenes": [{"nodes": [0]}],
   "nodes": [{"name": "Top", "matrix": [1,0,0,0, 0.5,2,0,0, 0,0.25,1,0, 3,4,5,1], "children": [1]},
