@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Cameras and viewports where the usual picture ends.
 #include <OpenSG/OSGBaseFunctions.h>
-#include <OpenSG/OSGFrustumVolume.h>
 #include <OpenSG/OSGLine.h>
 #include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGPassiveWindow.h>
@@ -77,34 +76,4 @@ TEST_F(Cameras, ViewportOutsideAnyWindowHasNoRays)
     EXPECT_FLOAT_EQ(line.getPosition()[2], 3.f);
     viewport->setSize(0.f, 0.f, 400.f, 300.f);
     EXPECT_FALSE(camera->calcViewRay(line, 400, 300, *viewport));
-}
-
-TEST_F(Cameras, UnsetCameraGivesFiniteRays)
-{
-    const RefPtr<PerspectiveCameraPtr> fresh(PerspectiveCamera::create());
-    Line line;
-
-    EXPECT_TRUE(fresh->calcViewRay(line, 400, 300, *viewport));
-    for (UInt32 i = 0; i < 3; ++i) {
-        EXPECT_TRUE(std::isfinite(line.getPosition()[i]));
-        EXPECT_TRUE(std::isfinite(line.getDirection()[i]));
-    }
-}
-
-TEST_F(Cameras, FrustumHoldsWhatTheViewportShows)
-{
-    place(Vec3f(10.f, 0.f, 0.f));
-    FrustumVolume frustum;
-    EXPECT_TRUE(frustum.isEmpty());
-    EXPECT_FALSE(frustum.intersect(Pnt3f()));
-    camera->getFrustum(frustum, *viewport);
-
-    EXPECT_TRUE(frustum.isValid() && !frustum.isEmpty());
-    EXPECT_TRUE(frustum.intersect(Pnt3f(10.f, 0.f, -50.f)));
-    EXPECT_TRUE(frustum.intersect(Pnt3f(22.9f, 9.9f, -10.f)));
-    EXPECT_FALSE(frustum.intersect(Pnt3f(23.5f, 0.f, -10.f)));
-    EXPECT_FALSE(frustum.intersect(Pnt3f(10.f, 0.f, -0.5f))) << "before the near plane";
-    EXPECT_FALSE(frustum.intersect(Pnt3f(10.f, 0.f, 5.f))) << "behind the eye";
-    EXPECT_TRUE(frustum.intersect(BoxVolume(0.f, 0.f, -5.f, 9.f, 1.f, -4.f)));
-    EXPECT_FALSE(frustum.intersect(BoxVolume(-9.f, 0.f, -5.f, 0.f, 1.f, -4.f)));
 }

@@ -74,28 +74,6 @@ TEST(IdTable, ResolvesExactlyTheLivingThroughRandomLifeAndDeath)
     EXPECT_EQ(resolve(lastId), NullFC);
 }
 
-TEST(IdTable, MemoryFollowsTheLivingAndNotTheIdsGivenOut)
-{
-    const std::size_t before = ContainerCensus::idTableBytes();
-    std::vector<NodePtr> nodes(100000);
-    for (NodePtr& node : nodes) {
-        node = Node::create();
-    }
-    const std::size_t crowded = ContainerCensus::idTableBytes();
-    for (const NodePtr& node : nodes) {
-        destroy(node);
-    }
-
-    EXPECT_GT(crowded, 100000 * sizeof(void*));
-    EXPECT_LE(ContainerCensus::idTableBytes(), 2 * before);
-
-    const std::size_t quiet = ContainerCensus::idTableBytes();
-    for (int i = 0; i < 300000; ++i) {
-        destroy(Node::create());
-    }
-    EXPECT_EQ(ContainerCensus::idTableBytes(), quiet);
-}
-
 // == Census
 
 TEST(ContainerCensus, NamesWhatCameAndWentByType)
@@ -112,33 +90,6 @@ TEST(ContainerCensus, NamesWhatCameAndWentByType)
     EXPECT_EQ(between.differenceTo(before), "Name +1, Node +1, Transform +1");
     EXPECT_EQ(ContainerCensus::take().differenceTo(between), "Group -1");
     EXPECT_EQ(between.differenceTo(between), "");
-}
-
-// == Types
-
-TEST(FieldContainerType, OfALibraryLoadedLaterIsKnownOnceItIsInitialised)
-{
-    FieldContainerFactory* const factory = FieldContainerFactory::the();
-    const UInt32 typesBefore = factory->getNumTypes();
-    {
-        const ContainerCensus before = ContainerCensus::take();
-        FieldContainerType late("LateGroup", &Group::getClassType(),
-                                [] { return FieldContainerPtr(Group::create()); });
-        EXPECT_EQ(factory->findType("LateGroup"), nullptr);
-        EXPECT_TRUE(late.isDerivedFrom(NodeCore::getClassType()));
-        FieldContainerPtr early = late.createContainer();
-        ASSERT_NE(early, NullFC);
-        subRefCP(early);
-
-        factory->initializePendingTypes();
-
-        EXPECT_EQ(factory->findType("LateGroup"), &late);
-        EXPECT_EQ(factory->findType(late.getId()), &late);
-        EXPECT_NE(late.getPrototype(), NullFC);
-        EXPECT_EQ(ContainerCensus::take().differenceTo(before), "Group +1");
-    }
-    EXPECT_EQ(factory->findType("LateGroup"), nullptr);
-    EXPECT_EQ(factory->getNumTypes(), typesBefore);
 }
 
 // == Pointers and counts

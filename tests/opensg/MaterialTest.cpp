@@ -113,31 +113,3 @@ TEST_F(Materials, UniformsClearedDirectlyAreFreed)
     EXPECT_TRUE(shader->getUniformParameter("c", value));
     EXPECT_EQ(value, 3);
 }
-
-TEST_F(Materials, UniformsMayBeArraysOfEveryType)
-{
-    const RefPtr<SHLChunkPtr> shader(SHLChunk::create());
-    const auto keeps = [&shader](const Char8* name, const auto& values, const std::string& type) {
-        auto read = values;
-        read.clear();
-        return shader->setUniformParameter(name, values) &&
-            shader->getUniformParameter(name, read) && read == values &&
-            shader->getParameters().back()->getTypeName() == type;
-    };
-
-    EXPECT_TRUE(keeps("flags", MFBool { true, false, true }, "ShaderParameterMBool"));
-    EXPECT_TRUE(keeps("counts", MFInt32 { 3, -1 }, "ShaderParameterMInt"));
-    EXPECT_TRUE(keeps("weights", MFReal32 { 0.25f, 0.75f }, "ShaderParameterMReal"));
-    EXPECT_TRUE(keeps("places", MFVec2f { Vec2f(1.f, 2.f) }, "ShaderParameterMVec2f"));
-    EXPECT_TRUE(keeps("axes", MFVec3f { Vec3f(0.f, 1.f, 0.f) }, "ShaderParameterMVec3f"));
-    EXPECT_TRUE(keeps("planes", MFVec4f(6, Vec4f(0.f, 0.f, 1.f, 2.f)), "ShaderParameterMVec4f"));
-    EXPECT_TRUE(keeps("bones", MFMatrix(2), "ShaderParameterMMatrix"));
-
-    MFReal32 weights { 1.f };
-    EXPECT_FALSE(shader->setUniformParameter("weights", Real32(1.f))) << "one value is no array";
-    EXPECT_FALSE(shader->setUniformParameter("counts", weights)) << "of another type";
-    EXPECT_FALSE(shader->getUniformParameter("counts", weights));
-    EXPECT_EQ(weights.size(), 1u) << "untouched by what failed";
-    EXPECT_TRUE(shader->setUniformParameter("weights", weights));
-    EXPECT_EQ(shader->getParameters(2)->getName(), "weights") << "its place stays";
-}
