@@ -274,12 +274,6 @@ HalfTurn::HalfTurn(double turnRad)
     , cosine(std::cos(turnRad / 2))
 { }
 
-nbEulerAngles turnedAngles(const TransformStart& start, const HalfTurn& turn,
-                           const nbEulerAngles& before)
-{
-    return nbEulerUtils::nearest(turnedPivot(start, turn), before);
-}
-
 void captureRotation(TransformStart& start, const nbEulerAngles& anglesRad,
                      const osg::Vec3f& ringAxis)
 {
@@ -292,8 +286,9 @@ void captureRotation(TransformStart& start, const nbEulerAngles& anglesRad,
     start.halfTurned = nbRotationMath::product(halfTurn, start.quaternion);
 }
 
-/// (cos + sin * axis) * quaternion, multiplied out.
-nbEulerAngles turnedPivot(const TransformStart& start, const HalfTurn& turn)
+/// The rotation is (cos + sin * axis) * quaternion, multiplied out.
+nbEulerAngles turnedAngles(const TransformStart& start, const HalfTurn& turn,
+                           const nbEulerAngles& before)
 {
     const nbQuaterniond& from = start.quaternion;
     const nbQuaterniond& over = start.halfTurned;
@@ -302,7 +297,7 @@ nbEulerAngles turnedPivot(const TransformStart& start, const HalfTurn& turn)
                           turn.cosine * from.y() + turn.sine * over.y(),
                           turn.cosine * from.z() + turn.sine * over.z(),
                           turn.cosine * from.w() + turn.sine * over.w());
-    return nbEulerUtils::EulFromQuat(turned, start.anglesRad.order);
+    return nbEulerUtils::nearest(nbEulerUtils::EulFromQuat(turned, start.anglesRad.order), before);
 }
 
 osg::Vec3f scaledBy(const TransformStart& start, ActiveMode handle, float factor, double step)

@@ -116,9 +116,6 @@ void captureRotation(TransformStart& start, const nbEulerAngles& anglesRad,
 nbEulerAngles turnedAngles(const TransformStart& start, const HalfTurn& turn,
                            const nbEulerAngles& before);
 
-/// Angles of a pivot's orientation after the same turn.
-nbEulerAngles turnedPivot(const TransformStart& start, const HalfTurn& turn);
-
 /// Scale times a factor along the axis of a handle, or all; these components are snapped to a step.
 osg::Vec3f scaledBy(const TransformStart& start, ActiveMode handle, float factor, double step);
 

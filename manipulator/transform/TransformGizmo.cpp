@@ -51,12 +51,13 @@ osg::Vec3f toDegrees(const nbEulerAngles& anglesRad)
 
 /// Text of the values that a handle edits in a mode. Deliberate: the universal mode shows none,
 /// whatever the handle, rings show theirs in mode rotate only, scale handles in mode scale only.
-QString textOf(const osg::NodePtr& node, Active handle, Mode mode, bool worldSpace)
+/// @param anglesDeg  of the present rotation, as the drag has come to them
+QString textOf(const osg::NodePtr& node, Active handle, Mode mode, bool worldSpace,
+               const osg::Vec3f& anglesDeg)
 {
     if (isRing(handle)) {
         return mode == Mode::Rotate
-            ? describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Rotation ("),
-                             nbNodeUtils::getTransformNodeRotation(node))
+            ? describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Rotation ("), anglesDeg)
             : QString();
     }
     if (isScale(handle)) {
@@ -187,16 +188,22 @@ osg::Pnt3f TransformGizmo::anchorWorld(const osg::NodePtr& node) const
                                     : objectCenter(node, true);
 }
 
-osg::Quaternion TransformGizmo::orientationWorld(const osg::NodePtr& node) const
+/// The axes along which a handle is drawn and works. @param handle  None for the gizmo as a whole
+osg::Quaternion TransformGizmo::axesOf(Active handle, const osg::NodePtr& node) const
 {
-    if (shownMode() == Mode::Scale) {
-        return worldRotation(node);
+    if (isScale(handle) || (handle == Active::None && shownMode() == Mode::Scale)) {
+        return worldRotation(node);  // nothing can be scaled along other axes
     }
     if (!isLocal()) {
         return osg::Quaternion();
     }
     const osg::Transform3DPtr transform = osg::Transform3DPtr::dcast(node->getCore());
-    return transform != osg::NullFC ? pivotAxesInWorld(node, transform) : worldRotation(node);
+    if (transform == osg::NullFC) {
+        return worldRotation(node);
+    }
+    return isRing(handle) && transform->getRotationMode() == osg::Transform3D::AxisAlignedMode
+        ? osg::Quaternion(orthonormalised(parentToWorld(node)))
+        : pivotAxesInWorld(node, transform);
 }
 
 void TransformGizmo::place(const View& view)
@@ -205,26 +212,24 @@ void TransformGizmo::place(const View& view)
     const osg::Pnt3f anchor = anchorWorld(node);
     const float size = view.scaleAt(anchor, getSize(), ViewDiagonal::FrustumSides);
     watch.remember(node->getToWorld());
-    const osg::Quaternion orientation = orientationWorld(node);
-    placeTransform(handles.getRootTransform(), anchor.subZero(), orientation,
+    const osg::Quaternion axes = axesOf(Active::None, node);
+    placeTransform(handles.getRootTransform(), anchor.subZero(), axes,
                    osg::Vec3f(size, size, size));
-    placeScaleHandles(orientation.inverse(), node);
+    placeFamilies(axes.inverse(), node);
     if (targetIds.size() > 1) {
         placeMarks(size);
     }
 }
 
-/// Scale handles lie along the axes that they scale, which are the node's own, whatever the others
-/// do. @param gizmoFromWorld  turn of the other handles, backwards
-void TransformGizmo::placeScaleHandles(const osg::Quaternion& gizmoFromWorld,
-                                       const osg::NodePtr& node)
+/// Turns the handles whose axes are others than those of the gizmo as a whole.
+void TransformGizmo::placeFamilies(const osg::Quaternion& gizmoFromWorld, const osg::NodePtr& node)
 {
     const std::vector<HandleRow>& rows = handleTable().rows;
     for (std::size_t i = 0; i < rows.size(); ++i) {
-        if (isScale(static_cast<Active>(rows[i].handle)) &&
-            isInModes(getMode(), rows[i].visibleIn)) {
+        const auto each = static_cast<Active>(rows[i].handle);
+        if ((isScale(each) || isRing(each)) && isInModes(getMode(), rows[i].visibleIn)) {
             osg::Quaternion turn = gizmoFromWorld;
-            turn.mult(worldRotation(node));
+            turn.mult(axesOf(each, node));
             turn.mult(quaternionOf(rows[i].turn));
             placeTransform(osg::Transform3DPtr::dcast(handles.getNode(i)->getCore()), osg::Vec3f(),
                            turn, osg::Vec3f(1.0F, 1.0F, 1.0F));
@@ -247,7 +252,12 @@ void TransformGizmo::placeMarks(float size)
 /// Deliberate: the camera is not looked at, for which the host places all gizmos.
 bool TransformGizmo::isDisplaced(const View& /*view*/) const
 {
-    return watch.isElsewhere(editedNode(getNode())->getToWorld());
+    const osg::NodePtr node = editedNode(getNode());
+    const osg::Transform3DPtr placed = handles.getRootTransform();
+    // Pivots move without the node.
+    return watch.isElsewhere(node->getToWorld()) ||
+        (placed->getTranslation() - anchorWorld(node).subZero()).length() > 0.0F ||
+        placed->getRotationQuaternion() != axesOf(Active::None, node);
 }
 
 // == Drags
@@ -274,7 +284,7 @@ bool TransformGizmo::prepare(const View& view)
     held.grabbedPoint = grabbedPoint;
     const osg::Matrix placed = handles.getRoot()->getToWorld();
     held.unit = column(placed, 0).length();
-    held.frame = orthonormalised(isScale(handle()) ? getTransform(0)->getToWorld() : placed);
+    axesOf(handle(), getTransform(0)).getValue(held.frame);
     held.frame.setTranslate(column(placed, 3));
     drag = prepareManipulator(getTransform(0), held, view, track);
     for (std::size_t i = 1; i < targetIds.size(); ++i) {
@@ -343,9 +353,6 @@ osg::Vec3f TransformGizmo::valueOf(std::size_t target, const DragParameters& par
 {
     const TransformStart& start = drag.starts[target];
     if (isRing(handle())) {
-        if (movesPivot()) {
-            return toDegrees(turnedPivot(start, turn));
-        }
         turned[target] = turnedAngles(start, turn, turned[target]);
         return toDegrees(turned[target]);
     }
@@ -402,7 +409,7 @@ std::optional<QString> TransformGizmo::describe() const
     }
     const osg::NodePtr node = getNode();
     return node != osg::NullFC && descriptionEnabled
-        ? textOf(editedNode(node), handle(), shownMode(), !isLocal())
+        ? textOf(editedNode(node), handle(), shownMode(), !isLocal(), toDegrees(turned.front()))
         : QString();
 }
 

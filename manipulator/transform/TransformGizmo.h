@@ -64,8 +64,8 @@ private:
     osg::NodePtr getTransform(std::size_t index) const;
     std::vector<osg::NodePtr> resolveTargets() const;
     osg::Pnt3f anchorWorld(const osg::NodePtr& node) const;
-    osg::Quaternion orientationWorld(const osg::NodePtr& node) const;
-    void placeScaleHandles(const osg::Quaternion& gizmoFromWorld, const osg::NodePtr& node);
+    osg::Quaternion axesOf(ActiveMode handle, const osg::NodePtr& node) const;
+    void placeFamilies(const osg::Quaternion& gizmoFromWorld, const osg::NodePtr& node);
     void placeMarks(float size);
     DragStep turnAt(const osg::Pnt3f& point, const DragTrack& before) const;
     osg::Vec3f valueOf(std::size_t target, const DragParameters& parameters, const HalfTurn& turn);

@@ -265,6 +265,50 @@ TEST(PivotDrags, TurnThePivotAndLeaveTheObject)
     }
 }
 
+TEST(PivotDrags, AnglesGoOnFromWhereTheyWere)
+{
+    for (const Mode mode : { Mode::RotatePivot, Mode::Rotate }) {
+        for (const auto rotation :
+             { osg::Transform3D::EulerMode, osg::Transform3D::QuaternionMode }) {
+            DragScene drags;
+            drags.edit(drags.core(), [&](const osg::Transform3DPtr& core) {
+                core->setRotation(Vec3f(0, 80, 0));
+                if (rotation == osg::Transform3D::QuaternionMode) {
+                    core->setRotation(core->getRotationAsQuaternion());
+                }
+            });
+            drags.activate(mode);
+            drags.look(Camera::Top, false);
+            ASSERT_TRUE(drags.grab(Vec3f(kDiagonal, 0, kDiagonal)));
+            EXPECT_TRUE(drags.dragBy(Vec2f(22, -51)));
+            if (mode == Mode::Rotate) {
+                EXPECT_EQ(HandleScene::texts(), Names { "Rotation (0.00, 125.00, 0.00)" });
+            }
+            if (rotation == osg::Transform3D::EulerMode) {
+                expectNear(drags.core()->getRotation(), Vec3f(0, 125, 0), "angles", 0.01F);
+            }
+        }
+    }
+}
+
+TEST(Drags, RingsOfAnAxisAlignedNodeTurnAboutItsParentsAxes)
+{
+    DragScene drags;
+    UniversalTransformManipulator2::setLocalSpaceManipulator(true);
+    drags.edit(drags.core(), [](const osg::Transform3DPtr& core) {
+        core->setRotation(kQuarterTurn);
+        core->setRotationMode(osg::Transform3D::AxisAlignedMode);
+    });
+    drags.activate(Mode::Rotate);
+    drags.look(Camera::Side, false);
+    ASSERT_TRUE(drags.grabAt("rxShape", Pnt3f(Vec3f(0, kDiagonal, -kDiagonal) * kUnit)));
+    EXPECT_TRUE(drags.dragBy(Vec2f(-51, -22)));
+    const osg::Matrix placed = drags.scene.node->getToWorld();
+    expectNear(Vec3f(placed[1][0], placed[1][1], placed[1][2]), Vec3f(-1, 0, 0), "stays");
+    expectNear(Vec3f(placed[0][0], placed[0][1], placed[0][2]),
+               Vec3f(0, std::sqrt(0.5F), std::sqrt(0.5F)), "turns", 1e-3F);
+}
+
 // == Snapping
 
 TEST(SnappingDrags, RotationGathersSmallSteps)

@@ -57,6 +57,25 @@ TEST(DragUndo, ConversionAloneIsNoStepAndJoinsTheNextOne)
     EXPECT_EQ(drags.scene.node->getToWorld(), after);
 }
 
+TEST(DragUndo, OfAPivotTakesTheGizmoBackWithIt)
+{
+    DragScene drags;
+    UniversalTransformManipulator2::setLocalSpaceManipulator(true);
+    drags.activate(UniversalTransformManipulator2::ManipulatorMode::RotatePivot);
+    for (const Vec3f& handle : { kArrow, kRing }) {
+        const Pnt3f before = drags.onGizmo(handle);
+        nbUndoService::the()->beginGroup();
+        ASSERT_TRUE(drags.grab(handle));
+        EXPECT_TRUE(drags.dragBy(Vec2f(-40, -20)));
+        EXPECT_TRUE(drags.release());
+        nbUndoService::the()->endGroup();
+        EXPECT_GT((drags.onGizmo(handle) - before).length(), 0.1F);
+        EXPECT_TRUE(nbUndoService::the()->undo());
+        drags.gizmo.update(false);
+        EXPECT_EQ(drags.onGizmo(handle), before);
+    }
+}
+
 TEST(DragUndo, AfterACancelTheHandleIsGrabbedAgainAtOnce)
 {
     for (const bool isConverted : { false, true }) {
