@@ -5,6 +5,7 @@
 #include "manipulator/scene/TargetFrame.h"
 
 #include <nbOpenSGExt/Transform3D.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
 #include <nbTransform/nbTransformModel.h>
 
 #include <algorithm>
@@ -69,6 +70,15 @@ osg::Vec3f ringAxisAbove(const osg::NodePtr& node, const GrabbedGizmo& grabbed)
     return worldFromParent.det3() < 0.0F ? -ringAxis : ringAxis;
 }
 
+/// A node's rotation, without the rotation orientation of a Transform3D.
+osg::Quaternion turnOf(const osg::NodePtr& node)
+{
+    const osg::Transform3DPtr transform = osg::Transform3DPtr::dcast(node->getCore());
+    return transform != osg::NullFC
+        ? transform->getRotationAsQuaternion()
+        : nbEulerRotation::toQuaternion(nbNodeUtils::getTransformNodeRotation(node), "xyz");
+}
+
 /// World direction in which an axis of the handle goes, unit length.
 osg::Vec3f movementAxis(const osg::NodePtr& node, const GrabbedGizmo& grabbed, osg::UInt32 axis)
 {
@@ -80,7 +90,7 @@ osg::Vec3f movementAxis(const osg::NodePtr& node, const GrabbedGizmo& grabbed, o
     // drawn ones are; the node goes along its own.
     osg::Vec3f own;
     own[axis] = 1.0F;
-    own = rotated(osg::Transform3DPtr::dcast(node->getCore())->getRotationAsQuaternion(), own);
+    own = rotated(turnOf(node), own);
     parentToWorld(node).multMatrixVec(own);
     return unitVector(own.length() < kShortest ? drawn : own);
 }
@@ -90,8 +100,7 @@ osg::Matrix translationFrame(const osg::NodePtr& node, const TransformStart& sta
                              const osg::Vec3f& frameScale, ActiveMode handle)
 {
     osg::Matrix own;
-    own.setTransform(osg::Transform3DPtr::dcast(node->getCore())->getTranslation(), start.rotation,
-                     frameScale);
+    own.setTransform(start.translationLocal, start.rotation, frameScale);
     osg::Matrix frame = parentToWorld(node);
     frame.mult(own);
     if (const osg::UInt32 axis = axisOf(handle); isTranslation(handle) && axis < 3) {
@@ -160,11 +169,11 @@ TransformStart captureStart(const osg::NodePtr& node, const GrabbedGizmo& grabbe
         isScalePivot ? &nbTransformModel::getScalePivot : &nbTransformModel::getRotationPivot;
     start.translationLocal = nbTransformModel::getTranslation(node, false);
     start.translationWorld = nbTransformModel::getTranslation(node, true);
-    start.scale = transform->getScale();
+    start.scale = nbNodeUtils::getTransformNodeScale(node);
     start.pivotLocal = pivot(node, false);
     start.pivotWorld = pivot(node, true);
-    start.rotation = transform->getRotationAsQuaternion();
-    if (isRing(grabbed.handle)) {
+    start.rotation = turnOf(node);
+    if (isRing(grabbed.handle) && transform != osg::NullFC) {
         captureRotation(start,
                         nbEulerUtils::fromDegrees(
                             transform->getRotation(),

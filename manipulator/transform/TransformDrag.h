@@ -32,6 +32,7 @@ struct TransformStart
     osg::Quaternion rotation;  ///< without the rotation orientation
     nbEulerAngles anglesRad;  ///< of the same, in the node's order
     nbQuaterniond quaternion;  ///< of these angles
+    bool isLocked = false;  ///< the target is left alone
     nbQuaterniond halfTurned;  ///< the same after a half turn about the grabbed ring's axis
 };
 
@@ -64,7 +65,7 @@ struct TransformDrag
 
 // == Capturing
 
-/// Captures a target's values. @param node  with a Transform3D core; null leaves all at zero
+/// Captures a target's values. @param node  null leaves all at zero
 TransformStart captureStart(const osg::NodePtr& node, const GrabbedGizmo& grabbed);
 
 /// Chooses plane and frames for the dragged node and captures its start.

@@ -29,6 +29,7 @@ using Active = ActiveMode;
 using NodeIds = std::unordered_set<osg::UInt32>;
 
 constexpr osg::Int32 kTransformPermission = 19;
+constexpr const char* kLockedWarning = "Selected node cannot be transformed.";
 /// Half the length of a mark's lines, in gizmo units.
 constexpr float kMarkReach = 0.15F;
 /// Deliberate: the rotation precision is turned into radians with this many digits.
@@ -141,14 +142,22 @@ bool TransformGizmo::hasTarget() const
     return getNode() != osg::NullFC;
 }
 
-/// Makes a target a transform. @return null for one that no longer exists or cannot be one
+bool TransformGizmo::isLocked(std::size_t index) const
+{
+    const osg::NodePtr target = resolveContainer<osg::NodePtr>(targetIds[index]);
+    return target != osg::NullFC && !nbNodePermission::allows(target, kTransformPermission);
+}
+
+/// Makes a target a transform, unless it is locked. @return null for one that no longer exists or
+/// cannot be one
 osg::NodePtr TransformGizmo::getTransform(std::size_t index) const
 {
     const osg::NodePtr target = resolveContainer<osg::NodePtr>(targetIds[index]);
     if (target == osg::NullFC) {
         return target;
     }
-    return makeTransform(index == 0 ? editedNode(target) : target);
+    const osg::NodePtr edited = index == 0 ? editedNode(target) : target;
+    return isLocked(index) ? edited : makeTransform(edited);
 }
 
 std::vector<osg::NodePtr> TransformGizmo::resolveTargets() const
@@ -268,8 +277,8 @@ bool TransformGizmo::canStep(const View& view)
     if (selected == osg::NullFC || selected->getParent() == osg::NullFC) {
         return false;
     }
-    if (targetIds.size() == 1 && !nbNodePermission::allows(selected, kTransformPermission)) {
-        nbLog::warning("Selected node cannot be transformed.");
+    if (targetIds.size() == 1 && isLocked(0)) {
+        nbLog::warning(kLockedWarning);
         return false;
     }
     return view.exists() && getTransform(0) != osg::NullFC;
@@ -287,12 +296,18 @@ bool TransformGizmo::prepare(const View& view)
     axesOf(handle(), getTransform(0)).getValue(held.frame);
     held.frame.setTranslate(column(placed, 3));
     drag = prepareManipulator(getTransform(0), held, view, track);
-    for (std::size_t i = 1; i < targetIds.size(); ++i) {
-        drag.starts.push_back(captureStart(getTransform(i), held));
-    }
     turned.clear();
-    for (const TransformStart& start : drag.starts) {
-        turned.push_back(start.anglesRad);
+    bool isAnyLocked = false;
+    for (std::size_t i = 0; i < targetIds.size(); ++i) {
+        if (i > 0) {
+            drag.starts.push_back(captureStart(getTransform(i), held));
+        }
+        turned.push_back(drag.starts[i].anglesRad);
+        drag.starts[i].isLocked = isLocked(i);
+        isAnyLocked = isAnyLocked || drag.starts[i].isLocked;
+    }
+    if (isAnyLocked) {
+        nbLog::warning(kLockedWarning);
     }
     return true;
 }
@@ -373,8 +388,10 @@ void TransformGizmo::apply(const DragParameters& parameters)
     const auto count = static_cast<osg::UInt32>(nodes.size());
     const HalfTurn turn(isRing(handle()) ? parameters.values[0] / kDegPerRad : 0.0);
     const auto values = [&](osg::UInt32 i) {
-        return nbTransformModel::Value({ nodes[i], static_cast<osg::Int32>(i) },
-                                       valueOf(i, parameters, turn));
+        return drag.starts[i].isLocked
+            ? nbTransformModel::Value()
+            : nbTransformModel::Value({ nodes[i], static_cast<osg::Int32>(i) },
+                                      valueOf(i, parameters, turn));
     };
     const bool worldSpace = !isLocal();
     if (isRing(handle())) {

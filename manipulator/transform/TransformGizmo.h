@@ -61,6 +61,7 @@ private:
     bool movesPivot() const;
     bool isAtScalePivot() const;
     osg::NodePtr getNode() const;
+    bool isLocked(std::size_t index) const;
     osg::NodePtr getTransform(std::size_t index) const;
     std::vector<osg::NodePtr> resolveTargets() const;
     osg::Pnt3f anchorWorld(const osg::NodePtr& node) const;

@@ -88,18 +88,27 @@ TEST(DragRefusals, ALockedNodeIsNeitherConvertedNorMovedAndEveryStepIsLogged)
     EXPECT_EQ(transformOf(drags.scene.node), osg::NullFC);
 }
 
-TEST(DragRefusals, OfSeveralNodesOnlyTheLockedOnesStay)
+TEST(DragRefusals, OfSeveralNodesTheLockedOnesAreNeitherMovedNorConverted)
 {
-    DragScene drags;
-    const osg::NodePtr further = drags.addFurther(Vec3f(3, 0, 0));
-    drags.gizmo.setNode(drags.scene.node, { further });
-    nbNodePermission::setAllowed(drags.scene.node, kTransformPermission, false);
-    const nbtest::LogLines log;
-    ASSERT_TRUE(drags.grab(kArrow));
-    EXPECT_TRUE(drags.dragBy(Vec2f(72, 0)));
-    EXPECT_EQ(drags.core()->getTranslation(), Vec3f(0, 0, 0));
-    EXPECT_NEAR(translationOf(further).x(), 3.0F + kStep, 2e-4F);
-    EXPECT_THAT(log.lines, IsEmpty());
+    for (const bool isLocal : { false, true }) {
+        DragScene drags;
+        UniversalTransformManipulator2::setLocalSpaceManipulator(isLocal);
+        const osg::NodePtr free = drags.addFurther(Vec3f(3, 0, 0));
+        const osg::NodePtr locked = drags.addFurther(Vec3f(0, 3, 0));
+        for (const osg::NodePtr& each : { drags.scene.node, locked }) {
+            setCore(each, osg::Group::create());
+            nbNodePermission::setAllowed(each, kTransformPermission, false);
+        }
+        drags.gizmo.setNode(drags.scene.node, { locked, free });
+        const nbtest::LogLines log;
+        ASSERT_TRUE(drags.grab(kArrow));
+        EXPECT_TRUE(drags.dragBy(Vec2f(72, 0)));
+        EXPECT_TRUE(drags.release());
+        EXPECT_NEAR(translationOf(free).x(), 3.0F + kStep, 2e-4F);
+        EXPECT_EQ(transformOf(drags.scene.node), osg::NullFC);
+        EXPECT_EQ(transformOf(locked), osg::NullFC);
+        EXPECT_THAT(log.lines, ElementsAre("Selected node cannot be transformed."));
+    }
 }
 
 // == Conversion
