@@ -92,11 +92,15 @@ PerspectiveMatchManipulator::PerspectiveMatchManipulator()
 
 PerspectiveMatchManipulator::~PerspectiveMatchManipulator()
 {
+    endDrag();
     instances.remove(this);
 }
 
 void PerspectiveMatchManipulator::setCamera(osg::UberCameraPtr camera)
 {
+    if (containerId(camera) != cameraId) {
+        endDrag();
+    }
     cameraId = containerId(camera);
     updateManipulator();
 }
@@ -120,8 +124,9 @@ void PerspectiveMatchManipulator::deactivate(ManipulatorInteractionContext* ctx)
     const bool wasActive = isActive();
     AbstractManipulator::deactivate(ctx);
     visualisation->show(false);
-    cameraId = 0;
-    updateManipulator();
+    hovered = false;
+    visualisation->highlight({});
+    setCamera(osg::UberCameraPtr());
     // The widgets count how often the callback was added: only what was added is taken back.
     if (wasActive) {
         nbOSGWidget::subMGLWResizeCB(&PerspectiveMatchManipulator::updateAllManipulators);
@@ -161,9 +166,13 @@ bool PerspectiveMatchManipulator::processManipulator(ManipulatorInteractionConte
     if (handle == match::kNoPart || viewportOf(view) == osg::NullFC) {
         return false;
     }
+    if (!view.hasPointer()) {
+        return true;
+    }
     if (!dragging) {
         dragStart = pointerFromBelow(view);
         lineAtDragStart = getLine(line);
+        getNbdCameraNode().beginMatchDrag();
         dragging = true;
         return true;
     }
@@ -176,12 +185,9 @@ bool PerspectiveMatchManipulator::processManipulator(ManipulatorInteractionConte
 bool PerspectiveMatchManipulator::stopManipulator(ManipulatorInteractionContext* /*ctx*/,
                                                   const std::string& /*tool*/)
 {
-    grabbed = false;
-    visualisation->setDragged({});
     nbMagnifierRenderer::setVisible(false);
     const bool wasHeld = handle != match::kNoPart;
-    line = PerspectiveMatchLine::NoLine;
-    handle = match::kNoPart;
+    endDrag();
     return wasHeld;
 }
 
@@ -259,6 +265,7 @@ void PerspectiveMatchManipulator::updateManipulator()
         return;
     }
     visualisation->setCamera(nbUberCameraPool::get(cameraId), viewportOf(View()));
+    getNbdCameraNode().layFreshLines();
     visualisation->setLines(linesOf(getNbdCameraNode()));
     visualisation->placeMagnifier({ line, handle });
 }
@@ -272,13 +279,31 @@ void PerspectiveMatchManipulator::takePixelRatio(ManipulatorInteractionContext* 
 
 // == Dragging
 
+/// Lets go of what is held or hovered; a magnifier over it vanishes.
+void PerspectiveMatchManipulator::endDrag()
+{
+    if (grabbed) {
+        nbMagnifierRenderer::setVisible(false);
+    }
+    if (dragging) {
+        getNbdCameraNode().endMatchDrag();
+    }
+    grabbed = false;
+    dragging = false;
+    line = PerspectiveMatchLine::NoLine;
+    handle = match::kNoPart;
+    visualisation->setDragged({});
+}
+
 /// Finds the part under the pointer. @return whether there is one
 bool PerspectiveMatchManipulator::updateMode()
 {
+    if (dragging) {
+        endDrag();
+    }
     const match::MatchPart found = visualisation->pick(pointerFromBelow(View(getMousePosition())));
     line = found.line;
     handle = found.part;
-    dragging = false;
     return found.isSet();
 }
 

@@ -103,6 +103,7 @@ private:
     osg::Line2D getLine(PerspectiveMatchLine which) const;
     void setLine(PerspectiveMatchLine which, const osg::Line2D& value);
 
+    void endDrag();
     bool updateMode();
     DragParameters parametersAt(const View& view) const;
     void apply(const DragParameters& parameters);

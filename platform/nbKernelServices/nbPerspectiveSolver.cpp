@@ -173,9 +173,9 @@ std::vector<double> proposeFocalLengths(const std::vector<VanishingPoint>& point
 }
 
 /// Orientation that brings the axes into the directions of their vanishing points, the one nearest
-/// to the start; none if two axes have the same direction.
+/// to the reference; none if two axes have the same direction.
 std::optional<Matrix3> orient(const std::vector<VanishingPoint>& points, double focalLength,
-                              const Matrix3& start)
+                              const Matrix3& reference)
 {
     Matrix3 directions = Matrix3::Zero();
     for (const VanishingPoint& point : points) {
@@ -201,7 +201,7 @@ std::optional<Matrix3> orient(const std::vector<VanishingPoint>& points, double 
         }
         const Matrix3 rotation = nbmatch::nearestRotation(candidate);
         // The trace of the turn from one to the other grows as its angle falls.
-        if (!best || rotation.cwiseProduct(start).sum() > best->cwiseProduct(start).sum()) {
+        if (!best || rotation.cwiseProduct(reference).sum() > best->cwiseProduct(reference).sum()) {
             best = rotation;
         }
     }
@@ -211,13 +211,12 @@ std::optional<Matrix3> orient(const std::vector<VanishingPoint>& points, double 
 /// The best fit of all that the vanishing points propose for the focal length; none if there is no
 /// usable one.
 std::optional<Aim> fitWithFov(const std::vector<Edge>& edges,
-                              const std::vector<VanishingPoint>& points, const Aim& start)
+                              const std::vector<VanishingPoint>& points, const Matrix3& reference)
 {
     std::optional<Aim> best;
     double bestError = 0.0;
     for (const double focalLength : proposeFocalLengths(points)) {
-        const std::optional<Matrix3> orientation =
-            orient(points, focalLength, start.cameraFromWorld);
+        const std::optional<Matrix3> orientation = orient(points, focalLength, reference);
         if (!orientation) {
             continue;
         }
@@ -232,14 +231,14 @@ std::optional<Aim> fitWithFov(const std::vector<Edge>& edges,
 }
 
 std::optional<Aim> fitWithoutFov(const std::vector<Edge>& edges,
-                                 const std::vector<VanishingPoint>& points, const Aim& start)
+                                 const std::vector<VanishingPoint>& points, double focalLength,
+                                 const Matrix3& reference)
 {
-    const std::optional<Matrix3> orientation =
-        orient(points, start.focalLength, start.cameraFromWorld);
+    const std::optional<Matrix3> orientation = orient(points, focalLength, reference);
     if (!orientation) {
         return std::nullopt;
     }
-    const Aim aim = nbmatch::fit(edges, Aim { *orientation, start.focalLength }, false);
+    const Aim aim = nbmatch::fit(edges, Aim { *orientation, focalLength }, false);
     return std::isfinite(nbmatch::squaredError(edges, aim)) ? std::optional(aim) : std::nullopt;
 }
 
@@ -308,15 +307,15 @@ PerspectiveSolution nbPerspectiveSolver::solve(const PerspectiveProblem& problem
     if (solution.result != nbCameraTypes::Solved) {
         return solution;
     }
-    const Aim start = toAim(problem.start);
+    const Matrix3 reference = toAim(problem.reference.value_or(problem.start)).cameraFromWorld;
     const std::vector<VanishingPoint> points = findVanishingPoints(edges);
     std::optional<Aim> aim;
     if (problem.fovMode == nbCameraTypes::SolvedFov) {
-        aim = fitWithFov(edges, points, start);
+        aim = fitWithFov(edges, points, reference);
     }
     if (!aim) {
         solution.result = nbCameraTypes::SolvedWithKeptFov;
-        aim = fitWithoutFov(edges, points, start);
+        aim = fitWithoutFov(edges, points, problem.start.focalLength, reference);
     }
     if (aim) {
         solution.aim = fromAim(*aim);

@@ -11,6 +11,7 @@
 #include <QtCore/QLineF>
 
 #include <array>
+#include <optional>
 
 /// How a camera looks: orientation and opening, as values in double precision.
 struct PerspectiveAim
@@ -36,8 +37,10 @@ struct PerspectiveProblem
     /// Size of the picture in reference sizes; one of them is 1. The view axis meets its middle.
     double width = 1.0;
     double height = 1.0;
-    /// The camera as it stands: where the lines leave a choice, the nearest is taken.
+    /// The camera as it stands, whose field of view is kept where the lines do not tell it.
     PerspectiveAim start;
+    /// The camera whose signs are taken, see nbPerspectiveSolver; nothing: start.
+    std::optional<PerspectiveAim> reference;
 };
 
 /// What came of it; aim is that of the problem's start unless isSolved(result).
@@ -61,7 +64,9 @@ struct PerspectiveSolution
 ///
 /// Which camera is taken where the lines leave a choice:
 /// - Lines do not tell an axis from its opposite: of the orientations that fit, right-handed all of
-///   them, the one with the smallest turn from the start is taken.
+///   them, the one with the smallest turn from the problem's reference is taken. Steps of a drag
+///   have one reference: if each took the camera that the last has left, signs would change on the
+///   way.
 /// - The field of view is kept, and the orientation is the best fit to it, if it is fixed; if fewer
 ///   than two vanishing points lie within kFarthestVanishingPoint of the middle, since lines that
 ///   are parallel in the picture say nothing about it; or if no opening angle from kSmallestFovDeg

@@ -4,14 +4,15 @@
 #include <nbKernelServices/detail/MatchEdit.h>
 #include <nbKernelServices/detail/MatchState.h>
 #include <nbKernelServices/nbPerspectiveSolver.h>
+#include <nbKernelServices/nbScopedUndo.h>
 #include <nbOpenSGUberCamera/nbUberCameraPool.h>
 
 namespace {
 
-PerspectiveSolution solveFor(const osg::UberCameraPtr& camera)
+PerspectiveSolution solveFor(const osg::UberCameraPtr& camera, const CameraPose& start)
 {
     PerspectiveSolution solution;
-    if (camera == osg::NullFC || !nbCameraNavigation::isFinite(camera->getPose())) {
+    if (!nbCameraNavigation::isFinite(start)) {
         return solution;
     }
     if (camera->isOrthographic()) {
@@ -25,8 +26,36 @@ PerspectiveSolution solveFor(const osg::UberCameraPtr& camera)
     problem.fovMode = state.fovMode;
     problem.width = state.shape.width;
     problem.height = state.shape.height;
-    problem.start = nbPerspectiveSolver::aimOf(camera->getPose(), problem.height);
+    problem.start = nbPerspectiveSolver::aimOf(start, problem.height);
+    if (state.reference) {
+        problem.reference = nbPerspectiveSolver::aimOf(*state.reference, problem.height);
+    }
     return nbPerspectiveSolver::solve(problem);
+}
+
+/// Solves from a start and, if that gives a camera, places it.
+nbCameraTypes::MatchResult placeSolved(const osg::UberCameraPtr& camera, const CameraPose& start)
+{
+    const PerspectiveSolution solution = solveFor(camera, start);
+    if (nbCameraTypes::isSolved(solution.result)) {
+        CameraPose pose =
+            nbPerspectiveSolver::turned(start, solution.aim, ViewShape::of(*camera).height);
+        if (solution.result == nbCameraTypes::SolvedWithKeptFov) {
+            pose.fovDeg = start.fovDeg;
+        }
+        placeCamera(camera, pose);
+    }
+    return solution.result;
+}
+
+/// Brings lines and camera back to where they were when the drag began.
+nbCameraTypes::MatchResult placeBack(const osg::UberCameraPtr& camera, MatchDrag drag)
+{
+    noteMatch(camera);
+    MatchTable::of(camera).lines = drag.lines;
+    const nbCameraTypes::MatchResult result = solveFor(camera, drag.pose).result;
+    placeCamera(camera, drag.pose);
+    return result;
 }
 
 }  // namespace
@@ -63,23 +92,52 @@ void nbdCameraNode::setFovMode(nbCameraTypes::FovMode mode) const
 
 nbCameraTypes::MatchResult nbdCameraNode::checkPerspectiveMatch() const
 {
-    return solveFor(getCamera()).result;
+    const osg::UberCameraPtr camera = getCamera();
+    return camera != osg::NullFC ? solveFor(camera, camera->getPose()).result
+                                 : nbCameraTypes::NoCamera;
 }
 
 nbCameraTypes::MatchResult nbdCameraNode::updateFromPerspectiveMatch() const
 {
     const osg::UberCameraPtr camera = getCamera();
-    const PerspectiveSolution solution = solveFor(camera);
-    if (nbCameraTypes::isSolved(solution.result)) {
-        const CameraPose pose = camera->getPose();
-        CameraPose turned =
-            nbPerspectiveSolver::turned(pose, solution.aim, ViewShape::of(*camera).height);
-        if (solution.result == nbCameraTypes::SolvedWithKeptFov) {
-            turned.fovDeg = pose.fovDeg;
-        }
-        placeCamera(camera, turned);
+    if (camera == osg::NullFC) {
+        return nbCameraTypes::NoCamera;
     }
-    return solution.result;
+    const MatchState& state = MatchTable::of(camera);
+    const CameraPose present = camera->getPose();
+    const bool isInDrag = state.drag && isPlaceSame(state.placed, present);
+    const bool isBack = isInDrag && state.isBackAtDragStart();
+    const CameraPose start = isInDrag ? state.drag->pose : present;
+    const nbCameraTypes::MatchResult result =
+        isBack ? placeBack(camera, *state.drag) : placeSolved(camera, start);
+    // Those who were told may have destroyed the camera.
+    MatchState* const now = MatchTable::find(getId());
+    if (now != nullptr && (isBack || nbCameraTypes::isSolved(result))) {
+        now->placed = getCamera()->getPose();
+    }
+    return result;
+}
+
+void nbdCameraNode::beginMatchDrag() const
+{
+    const osg::UberCameraPtr camera = getCamera();
+    if (camera == osg::NullFC) {
+        return;
+    }
+    const CameraPose pose = camera->getPose();
+    MatchState& state = MatchTable::of(camera);
+    if (!state.reference || !isPlaceSame(state.placed, pose)) {
+        state.reference = pose;
+    }
+    state.placed = pose;
+    state.drag = MatchDrag { state.lines, pose };
+}
+
+void nbdCameraNode::endMatchDrag() const
+{
+    if (MatchState* const state = MatchTable::find(getId()); state != nullptr) {
+        state->drag.reset();
+    }
 }
 
 void nbdCameraNode::layLinesAsSeen() const
@@ -91,5 +149,16 @@ void nbdCameraNode::layLinesAsSeen() const
     editMatch(getId(), [&](MatchState& state) {
         state.lines =
             nbPerspectiveSolver::linesOf(camera->getPose(), state.shape.width, state.shape.height);
+        state.reference = state.placed = camera->getPose();
+        state.isFresh = false;
     });
+}
+
+void nbdCameraNode::layFreshLines() const
+{
+    const MatchState* const state = MatchTable::find(getId());
+    if (state != nullptr && state->isFresh) {
+        const nbScopedUndo muted(false);
+        layLinesAsSeen();
+    }
 }

@@ -39,9 +39,19 @@ public:
     /// The pivot stays where it is in the camera's frame: eye and centre turn about it at their
     /// distance, so that what stood at the pivot is still in view and as far away. A pivot that is
     /// not before the eye leaves this to the centre. Nothing else moves. Pixels are taken as
-    /// square. See nbPerspectiveSolver for which camera is taken where the lines leave a choice.
+    /// square. See nbPerspectiveSolver for which camera is taken where the lines leave a choice;
+    /// the reference for that is the camera as it stood when lines were laid or a drag began last,
+    /// the present one before.
     /// @return what came of it; where it is not solved the camera is untouched
     nbCameraTypes::MatchResult updateFromPerspectiveMatch() const;
+
+    /// A drag of the match's lines begins. Until endMatchDrag() the camera is worked out from how
+    /// it stands now, so that only the lines decide where it goes: lines that are led back to where
+    /// they are now bring the camera back, both to the last bit. A camera that somebody else moves
+    /// in the drag counts as it stands then.
+    void beginMatchDrag() const;
+    /// The drag is over; without one nothing happens.
+    void endMatchDrag() const;
 
     /// What updateFromPerspectiveMatch() would answer now, without moving anything.
     nbCameraTypes::MatchResult checkPerspectiveMatch() const;
@@ -49,4 +59,7 @@ public:
     /// Lays the lines of the match along the edges of a box at the pivot as the camera sees it now,
     /// so that solving them leaves the camera as it is: a start for laying them elsewhere.
     void layLinesAsSeen() const;
+
+    /// The same for a match of which no line was ever set or laid, and no step of undo.
+    void layFreshLines() const;
 };

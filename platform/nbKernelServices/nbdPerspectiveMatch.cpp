@@ -42,6 +42,7 @@ void nbdPerspectiveMatch::setLine(Line which, const QLineF& line) const
     if (isLine(which)) {
         editMatch(getId(), [&](MatchState& state) {
             state.lines[which] = withKeptDigits(state.lines[which], line);
+            state.isFresh = false;
         });
     }
 }

@@ -86,6 +86,12 @@ TEST_F(MatchDrags, WhoHearsOfALineMayDestroyItsCamera)
     // The view's own camera, and one that nobody looks through.
     for (const Fault fault : { Fault::DropView, Fault::DropCamera }) {
         if (fault == Fault::DropCamera) {
+            const nbdCameraNode seen(
+                stage.view->getUberCamera()->getInternalParentNode().getFieldContainerId());
+            const nbdCameraNode other(
+                stage.firstCamera()->getInternalParentNode().getFieldContainerId());
+            const auto line = nbdPerspectiveMatch::XLine2;  // where the pointer goes
+            other.getPerspectiveMatch().setLine(line, seen.getPerspectiveMatch().getLine(line));
             gizmo->setCamera(stage.firstCamera());
         }
         ASSERT_TRUE(press("2"));

@@ -2,6 +2,8 @@
 #include "manipulator/PerspectiveMatchManipulator.h"
 
 #include "tests/manipulator/support/MatchScene.h"
+#include "tests/platform/nbKernelServices/PhotographStudio.h"
+#include "tests/platform/support/Edited.h"
 
 #include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbKernelServiceFactory.h>
@@ -16,6 +18,9 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <cmath>
+#include <memory>
+#include <vector>
 
 namespace nbec::manipulator::test {
 
@@ -55,6 +60,29 @@ protected:
         const QLineF changed = match().getXLine1().translated(0.02, 0.03);
         match().setXLine1(changed);
         return changed;
+    }
+
+    /// Leads an end of a line to a place, in two steps.
+    void dragEnd(int line, osg::UInt32 part, const QPointF& place)
+    {
+        const QLineF now = match().getLine(nbdPerspectiveMatch::Line(line));
+        const osg::Pnt2f from = scene.pixelOf(part == 2 ? now.p1() : now.p2());
+        const osg::Vec2f way = scene.pixelOf(place) - from;
+        osg::Pnt2f at = from;
+        // Another ring may lie over it.
+        for (int i = 0; i < 16; ++i) {
+            scene.send("hover", at);
+            if (static_cast<int>(gizmo.getHoveredLine()) == line + 1 &&
+                gizmo.getHoveredPart() == part) {
+                break;
+            }
+            at = from + osg::Vec2f(8 * std::cos(0.4F * i), 8 * std::sin(0.4F * i));
+        }
+        ASSERT_TRUE(scene.send("start", at));
+        for (const float done : { 0.0F, 0.5F, 1.0F }) {
+            scene.send("process", at + way * done);
+        }
+        scene.send("stop", at + way);
     }
 
     PerspectiveMatchManipulator gizmo;  // outlives the scene, which deactivates it
@@ -191,6 +219,60 @@ TEST_F(PerspectiveMatchManipulatorTest, ALockedCameraRefusesSilently)
     scene.cameraNode().setLocked(false);
 }
 
+TEST_F(PerspectiveMatchManipulatorTest, SessionsOfDragsEndWithTheCameraOfTheLines)
+{
+    const osg::UberCameraPtr camera = scene.widget.getUberCamera();
+    for (const matchtest::TypeRow& row : matchtest::kTypeRows) {
+        nbtest::edited(camera)->setHorizontalSizing(!row.verticalSizing);
+        match().setVanishingLinesType(row.type);
+        const auto play = [&](const PerspectiveProblem& problem, const PerspectiveAim& aim, auto&) {
+            scene.widget.resize(qRound(1000 * problem.width), qRound(1000 * problem.height));
+            camera->setPose(
+                nbPerspectiveSolver::turned(CameraPose(), problem.start, problem.height));
+            scene.cameraNode().layLinesAsSeen();
+            for (int line = 0; line < nbdPerspectiveMatch::kLineCount; ++line) {
+                dragEnd(line, 2, problem.lines[line].p1());
+                dragEnd(line, 3, problem.lines[line].p2());
+            }
+            EXPECT_TRUE(nbCameraTypes::isSolved(scene.cameraNode().checkPerspectiveMatch()));
+            const auto found = nbPerspectiveSolver::aimOf(camera->getPose(), problem.height);
+            // Ends lie in whole pixels, which some cameras hardly bear.
+            EXPECT_LT(matchtest::angleDeg(found, aim), 45) << row.name;
+        };
+        matchtest::forRandomCameras(row, 200, play);
+    }
+}
+
+TEST_F(PerspectiveMatchManipulatorTest, AnEndLedBackBringsCameraAndLinesBackToTheBit)
+{
+    const osg::UberCameraPtr camera = scene.widget.getUberCamera();
+    const auto values = [&] {
+        const CameraPose pose = camera->getPose();
+        std::vector<double> all { pose.fovDeg };
+        for (const int i : { 0, 1, 2 }) {
+            all.insert(all.end(), { pose.from[i], pose.at[i], pose.up[i] });
+        }
+        for (int i = 0; i < nbdPerspectiveMatch::kLineCount; ++i) {
+            const QLineF line = match().getLine(nbdPerspectiveMatch::Line(i));
+            all.insert(all.end(), { line.x1(), line.y1(), line.x2(), line.y2() });
+        }
+        return all;
+    };
+    scene.cameraNode().layLinesAsSeen();
+    for (int session = 0; session < 2; ++session) {
+        const std::vector<double> before = values();
+        const QPointF end = match().getZLine1().p2();
+        const osg::Pnt2f from = scene.pixelOf(end);
+        ASSERT_TRUE(scene.grab(end));
+        for (const float way : { 0.0F, 60.0F, -200.0F, 700.0F, 0.0F }) {
+            scene.send("process", from + osg::Vec2f(way, way / 2));
+            EXPECT_EQ(values() == before, way == 0.0F) << way;
+        }
+        scene.send("stop", from);
+        scene.drag(match().getXLine1().p1(), osg::Vec2f(30, 10));
+    }
+}
+
 // == Hovering, grabbing and the magnifier
 
 TEST_F(PerspectiveMatchManipulatorTest, HoverHighlightsALineWithItsEndsOrAnEndAndStartNeedsIt)
@@ -242,6 +324,24 @@ TEST_F(PerspectiveMatchManipulatorTest, TheMagnifierShowsExactlyWhileAnEndIsHeld
     scene.send("process", from);
     EXPECT_FALSE(nbMagnifierRenderer::isVisible()) << "a line is held";
     scene.send("stop", from);
+
+    for (const bool isDeleted : { false, true }) {
+        auto other = std::make_unique<PerspectiveMatchManipulator>();
+        scene.manager.removeContext(&scene.context);
+        scene.installFor(*other);
+        ASSERT_TRUE(scene.grab(match().getZLine1().p1()));
+        scene.send("process", from);
+        EXPECT_TRUE(nbMagnifierRenderer::isVisible());
+        // Past the manager, which would stop the drag.
+        if (isDeleted) {
+            other.reset();
+        } else {
+            other->deactivate(nullptr);
+            EXPECT_EQ(other->getHoveredPart(), 0U);
+        }
+        EXPECT_FALSE(nbMagnifierRenderer::isVisible()) << isDeleted;
+        scene.context.setManipulator(nullptr);
+    }
 }
 
 TEST_F(PerspectiveMatchManipulatorTest, ThePickerTellsTheSizeOfALogicalPixel)

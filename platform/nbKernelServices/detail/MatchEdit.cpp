@@ -7,8 +7,6 @@
 #include <nbKernelServices/nbdCameraNode.h>
 #include <nbOpenSGUberCamera/nbUberCameraPool.h>
 
-#include <algorithm>
-#include <cmath>
 #include <memory>
 
 namespace {
@@ -27,22 +25,6 @@ bool areSame(const Values& a, const Values& b)
 bool isOrientationSame(const CameraPose& a, const CameraPose& b)
 {
     return areSame(a.from, b.from) && areSame(a.at, b.at) && areSame(a.up, b.up);
-}
-
-bool isPlaceSame(const CameraPose& a, const CameraPose& b)
-{
-    return isOrientationSame(a, b) && a.fovDeg == b.fovDeg;
-}
-
-/// Whether a drag that ends with the lines as they were has led the camera back but for rounding.
-bool isPlaceNearlySame(const CameraPose& a, const CameraPose& b)
-{
-    constexpr osg::Real32 kRounding = 1e-5F;
-    const osg::Real32 size = std::max({ a.from.dist(a.at), a.from.subZero().length(), 1.0F });
-    // The up vector of a camera that was not placed by its match is any that gives the same axis.
-    const osg::Vec3f turn = nbCameraNavigation::axes(a).up - nbCameraNavigation::axes(b).up;
-    return a.from.dist(b.from) <= kRounding * size && a.at.dist(b.at) <= kRounding * size &&
-        turn.length() <= kRounding && std::abs(a.fovDeg - b.fovDeg) <= kRounding * a.fovDeg;
 }
 
 void announce(const nbdCameraNode& camera, const MatchState& before, const MatchState& after)
@@ -114,9 +96,6 @@ public:
     /// edit of a line makes exactly one. A group leaves none then.
     bool close() override
     {
-        if (isGrouped) {
-            takeRoundingBack();
-        }
         const osg::UberCameraPtr camera = nbUberCameraPool::get(cameraId);
         if (camera == osg::NullFC) {
             return false;
@@ -133,23 +112,6 @@ public:
     void redo() override { restore(stateAfter, poseAfter); }
 
 private:
-    /// After a drag that led the lines back to where they were.
-    void takeRoundingBack() const
-    {
-        const osg::UberCameraPtr camera = nbUberCameraPool::get(cameraId);
-        if (camera == osg::NullFC) {
-            return;
-        }
-        MatchState& state = MatchTable::of(camera);
-        if (!stateBefore.isSameInSinglePrecision(state)) {
-            return;
-        }
-        state.lines = stateBefore.lines;
-        if (isPlaceNearlySame(poseBefore, camera->getPose())) {
-            place(camera, poseBefore);
-        }
-    }
-
     void restore(const MatchState& state, const CameraPose& pose) const
     {
         if (isPlaceChanged) {
@@ -177,6 +139,7 @@ private:
         MatchState& current = MatchTable::of(camera);
         const MatchState replaced = current;
         current = state;
+        current.drag = replaced.drag;
         // The view may have got another shape since.
         const MatchState restored = MatchTable::of(camera);
         announce(cameraNode(camera), replaced, restored);
@@ -194,6 +157,11 @@ private:
 };
 
 }  // namespace
+
+bool isPlaceSame(const CameraPose& a, const CameraPose& b)
+{
+    return isOrientationSame(a, b) && a.fovDeg == b.fovDeg;
+}
 
 void noteMatch(const osg::UberCameraPtr& camera)
 {

@@ -5,6 +5,9 @@
 
 #include <functional>
 
+/// Whether eye, centre, up and field of view are the same, bit for bit.
+bool isPlaceSame(const CameraPose& a, const CameraPose& b);
+
 /// Keeps a camera's match and placement in the open undo step, as they are before its first edit in
 /// the step. To be called before each edit.
 void noteMatch(const osg::UberCameraPtr& camera);

@@ -57,17 +57,17 @@ bool MatchState::isSame(const MatchState& other) const
         anchoredToCentre == other.anchoredToCentre;
 }
 
-bool MatchState::isSameInSinglePrecision(const MatchState& other) const
+bool MatchState::isBackAtDragStart() const
 {
-    const auto rounded = [](const MatchState& state) {
-        MatchState result = state;
-        for (QLineF& line : result.lines) {
+    const auto rounded = [](PerspectiveLines all) {
+        for (QLineF& line : all) {
             line = nbQRPCConverter::fromLine2D(nbQRPCConverter::toLine2D(line));
         }
-        return result;
+        return all;
     };
-    return shape.width == other.shape.width && shape.height == other.shape.height &&
-        rounded(*this).isSame(rounded(other));
+    return drag &&
+        std::memcmp(rounded(lines).data(), rounded(drag->lines).data(), sizeof(PerspectiveLines)) ==
+        0;
 }
 
 void MatchState::settle(const ViewShape& now)
@@ -89,6 +89,12 @@ MatchState& MatchTable::of(const osg::UberCameraPtr& camera)
         // Ids are never used again, so entries that are left over only cost memory.
         dropLostCameras();
         found = states().emplace(id, MatchState()).first;
+        MatchState& made = found->second;
+        made.shape = ViewShape::of(*camera);
+        if (nbCameraNavigation::isFinite(camera->getPose())) {
+            made.lines = nbPerspectiveSolver::linesOf(camera->getPose(), made.shape.width,
+                                                      made.shape.height);
+        }
     }
     found->second.settle(ViewShape::of(*camera));
     return found->second;

@@ -5,6 +5,8 @@
 #include <nbKernelServices/nbdPerspectiveMatch.h>
 #include <nbOpenSGUberCamera/UberCamera.h>
 
+#include <optional>
+
 /// Size of a camera's view in reference sizes: one of the sides is 1.
 struct ViewShape
 {
@@ -14,23 +16,31 @@ struct ViewShape
     static ViewShape of(const osg::UberCamera& camera);
 };
 
-/// As a new match has them: along the edges of a box with an upright edge in front, within any view
-/// that is not narrower than high.
-inline constexpr PerspectiveLines kUsualPerspectiveLines {
-    QLineF(0.10, 0.70, 0.45, 0.80), QLineF(0.10, 0.30, 0.45, 0.20), QLineF(0.45, 0.80, 0.45, 0.20),
-    QLineF(0.90, 0.70, 0.89, 0.30), QLineF(0.45, 0.80, 0.90, 0.70), QLineF(0.45, 0.20, 0.90, 0.30),
+/// Lines and camera when a drag of lines began.
+struct MatchDrag
+{
+    PerspectiveLines lines;
+    CameraPose pose;
 };
 
 /// What the perspective match of a camera holds.
 struct MatchState
 {
-    PerspectiveLines lines = kUsualPerspectiveLines;
+    PerspectiveLines lines;
     nbCameraTypes::VanishingLinesType type = nbCameraTypes::XYZLines;
     float magnifyFactor = nbdPerspectiveMatch::kDefaultMagnifyFactor;
     nbCameraTypes::FovMode fovMode = nbCameraTypes::SolvedFov;
     bool anchoredToCentre = false;
     /// The view that the lines were last brought in line with.
     ViewShape shape;
+    /// Nobody has set or laid a line.
+    bool isFresh = true;
+    /// The camera whose signs are taken: as it stood when lines were laid, or when a drag began and
+    /// it was no longer where the match had placed it.
+    std::optional<CameraPose> reference;
+    /// As the match has placed or found it last.
+    CameraPose placed;
+    std::optional<MatchDrag> drag;
 
     /// Whether a line is the same, bit for bit.
     bool isLineSame(const MatchState& other, int line) const;
@@ -38,9 +48,9 @@ struct MatchState
     /// Whether all that a person sets is the same, bit for bit.
     bool isSame(const MatchState& other) const;
 
-    /// The same, but for what is lost of the lines on their way through single precision; in views
-    /// of different shapes never.
-    bool isSameInSinglePrecision(const MatchState& other) const;
+    /// Whether a drag has led the lines back to its start, but for what is lost on their way
+    /// through single precision.
+    bool isBackAtDragStart() const;
 
     /// Brings lines that are anchored to the centre in line with the view as it is now.
     void settle(const ViewShape& now);

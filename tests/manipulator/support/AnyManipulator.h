@@ -73,7 +73,7 @@ template <> constexpr Traits kTraits<UV> { Fault::DropMaterial, "editor::changed
 template <> constexpr Traits kTraits<Tire> { Fault::DropMaterial, "editor::changedTireManipulator", 2, "yaShape", "scaleUShape", Pause::AtFirstStep, false, true, true, true, false, false, true, true, true };
 template <> constexpr Traits kTraits<Plate> { Fault::DropPlate, "sceneplateChanged", 0, "scaleXYURShape", "rotateShape", Pause::AtStart, true, false, false, false, true, true, false, true, true };
 // Edits its camera's match without a message.
-template <> constexpr Traits kTraits<Match> { Fault::DropView, "", 0, "1", "2", Pause::Never, false, true, true, true, true, false, false, false, false };
+template <> constexpr Traits kTraits<Match> { Fault::DropView, "", 0, "1", "2", Pause::Never, false, true, true, true, true, true, false, false, false };
 
 // clang-format on
 

@@ -185,13 +185,15 @@ TEST_F(nbdPerspectiveMatchTest, AGroupIsOneStepOrNoneAndCanBeTakenBack)
     EXPECT_TRUE(isSamePlace(camera->getPose(), startPose));
     EXPECT_TRUE(undo->redo());
 
-    // There and back again: as the lines give it, the camera ends where it was but for rounding.
+    // There and back again in a drag.
     const CameraPose solvedPose = camera->getPose();
     const QLineF solvedLine = match.getXLine1();
     undo->beginGroup();
+    node.beginMatchDrag();
     dragLine(0.05);
-    match.setXLine1(solvedLine);
+    match.setXLine1(nbQRPCConverter::fromLine2D(nbQRPCConverter::toLine2D(solvedLine)));
     node.updateFromPerspectiveMatch();
+    node.endMatchDrag();
     undo->endGroup();
     EXPECT_EQ(undo->getStack()->count(), 1);
     EXPECT_TRUE(isSamePlace(camera->getPose(), solvedPose));
