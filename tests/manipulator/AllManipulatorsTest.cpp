@@ -402,6 +402,8 @@ TYPED_TEST(Manipulators, WhatIsEditedGoesBetweenTwoSteps)
     EXPECT_EQ(this->step(), this->kTraits.goesOnWithoutTarget);
     EXPECT_EQ(this->edited(), before);
     EXPECT_EQ(this->gizmo->stopManipulator(&this->context, "select"), this->kIsMatch);
+    this->gizmo->update(false);
+    EXPECT_FALSE(this->stage.preview.isPaused());
     EXPECT_EQ(this->textCount(), 0U);
     EXPECT_FALSE(this->say("hover"));
     EXPECT_FALSE(this->say("start"));

@@ -209,6 +209,9 @@ TEST(AnchoredGizmos, AnAnchorThatIsDeletedDuringADragLeavesTheHandlesWhereTheyAr
     at.gizmo.setAnchor(passing.get(), Pnt3f(0.5F, 0, 0));
     at.look(Camera::Oblique, true);
     ASSERT_TRUE(at.grab("yaShape", Vec3f(0, 1.9F, 0)));
+    nbtest::edited(transformOf(passing.get()))->setTranslation(Vec3f(0, 1, 0));
+    EXPECT_TRUE(at.drag.stepTo(Vec2f()));
+    EXPECT_EQ(at.gizmo.getAnchorPosition(), Pnt3f(0.5F, 1, 0)) << "moved before the first step";
     const Pnt3f place = at.onHandle("yaShape", Vec3f());
     passing = osg::NullFC;
     EXPECT_EQ(at.gizmo.getAnchorNode(), osg::NullFC);

@@ -322,6 +322,7 @@ TEST(HandleTrees, HaveTheirChildrenInTheirOrder)
 
     TextureSceneOf<Triplanar> triplanar;
     const osg::NodePtr tree = triplanar.gizmo.getVisualisation()->getChild(0);
+    EXPECT_TRUE(nbNodeUtils::isSelectableAuxiliaryNode(tree));
     EXPECT_EQ(namesOf(tree).front(), "grid");
     EXPECT_EQ(namesOf(tree->getChild(1)), (Names { "xaShape", "yaShape", "zaShape" }));
     EXPECT_EQ(namesOf(tree->getChild(2)), (Names { "rxShape", "ryShape", "rzShape" }));

@@ -114,6 +114,20 @@ TEST_F(PerspectiveMatchPictureTest, LinesStandInTheirPixelsWhateverTheViewAndThe
     }
 }
 
+TEST_F(PerspectiveMatchPictureTest, LinesOfAxesOutOfUseAreGreyAndThinAndRingsKeepTheirSize)
+{
+    scene.match().setXLine1(pixelLine(60, 40, 200, 40));
+    scene.match().setVanishingLinesType(nbCameraTypes::YZLines);
+    EXPECT_TRUE(isColor(at(draw(), 130, 40), QColor::fromRgbF(0.8, 0.4, 0.4)));
+    scene.match().setVanishingLinesType(nbCameraTypes::XYZLines);
+    EXPECT_TRUE(isColor(at(draw(), 130, 40), kRed));
+    scene.widget.resize(320, 240);
+    const QImage half = draw();
+    EXPECT_TRUE(isColor(at(half, 65, 20), kRed));
+    EXPECT_TRUE(isColor(at(half, 30 - 6, 20), kRed)) << "ring";
+    EXPECT_TRUE(isColor(at(half, 30 - 3, 20), kBlack)) << "inside it";
+}
+
 TEST_F(PerspectiveMatchPictureTest, GuidesShowDuringADrag)
 {
     // x vanishes to the right and z to the left, both at the height of row 300.

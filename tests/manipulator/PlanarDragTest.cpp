@@ -203,6 +203,9 @@ TEST(PlanarDrag, TabsMoveOneEndOfASideAndTheCentreHalfAsFar)
     const Vec3f halfSizes = halfSizesBetween(drag, at(1, 1), at(3, -1), sights, true);
     EXPECT_TRUE(isNear(halfSizes, Vec3f(-1, 7, 0.5F)));
     EXPECT_TRUE(isNear(scaleOfHalfSizes(drag, halfSizes), Vec3f(1, 3.5F, 0.5F)));
+    flat.projectionScale[0] = 0;
+    EXPECT_NEAR(factorBetween(beginDrag(flat, Active::ScaleUniform, kSight), at(0, 0), at(2, 0)), 3,
+                1e-5F);
 }
 
 }  // namespace nbec::manipulator::texture::test

@@ -28,6 +28,13 @@ TEST(PlanarTextureManipulator, HidesTheHandlesOfDepthOnDemand)
     EXPECT_EQ(shown(), Names());
     planar.gizmo.showAllElements();
     EXPECT_EQ(shown().size(), 4U);
+
+    planar.gizmo.setNode(planar.scene.node);
+    EXPECT_TRUE(planar.scene.send("hover", planar.drag.rayPixelOf(planar.onHandle("grid", {}))));
+    planar.gizmo.setDefaultMaterials();
+    EXPECT_NE(partColor(planar.handle("grid"), 0), kHighlight);
+    planar.gizmo.highlightControlElement();
+    EXPECT_EQ(partColor(planar.handle("grid"), 0), kHighlight);
 }
 
 TEST(PlanarTextureManipulator, TabsStandAtEdgesCornersAndDepthInAnySpace)

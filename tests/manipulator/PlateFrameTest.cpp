@@ -49,6 +49,22 @@ TEST(PlateFrame, BoxesOfAFrameBeyondTheViewArePulledIn)
     EXPECT_TRUE(isAt(leaving.corners[0], -45, 345));
 }
 
+TEST(PlateFrame, TheArmIsWhereItsKnobIsInView)
+{
+    const std::pair<PlateFrame, PlateArm> rows[] = {
+        { makeFrame(400, 300, 200, 100), PlateArm::Above },
+        { makeFrame(400, 60, 200, 100), PlateArm::Below },
+        { makeFrame(40, 300, 100, 60, 90), PlateArm::Below },
+        { makeFrame(760, 300, 100, 60, -90), PlateArm::Below },
+        { makeFrame(400, 560, 100, 60, 180), PlateArm::Below },
+        { makeFrame(400, 300, 900, 640), PlateArm::Inside },
+        { makeFrame(-99, 300, 100, 60), PlateArm::Above },
+    };
+    for (const auto& [frame, arm] : rows) {
+        EXPECT_EQ(chooseArm(frame, kView), arm) << frame.centre << ' ' << frame.rotation;
+    }
+}
+
 TEST(PlateFrame, MovingSnapsBoxesToEdgesAndCentreLines)
 {
     struct Row

@@ -4,6 +4,8 @@
 #include "tests/manipulator/support/HandleScene.h"
 #include "tests/platform/support/Edited.h"
 
+#include <nbKernel/nbScenegraph.h>
+#include <nbOpenSGExt/ClipPlane3D.h>
 #include <nbOpenSGUberCamera/UberCamera.h>
 
 #include <OpenSG/OSGNode.h>
@@ -196,6 +198,20 @@ TEST(Drags, ARingTurnsByWhatIsSweptAlongItAtEveryTilt)
             EXPECT_NEAR(turned(), 0, 0.1F) << tiltDeg << ' ' << isOrthographic;
         }
     }
+}
+
+TEST(Drags, AClipPlaneIsMovedByItsTransformNode)
+{
+    DragScene drags;
+    osg::ClipPlane3DPtr plane;
+    const osg::NodePtr cut = osg::makeCoredNode<osg::ClipPlane3D>(&plane);
+    addChild(nbScenegraph::getRootNode(), cut);
+    nbtest::edited(plane)->setTransformNode(drags.scene.node);
+    drags.gizmo.setNode(cut);
+    drags.activate(Mode::Clipping);
+    ASSERT_TRUE(drags.grab(Vec3f(1.9F, 0, 0)));
+    EXPECT_TRUE(drags.dragBy(Vec2f(72, 0)));
+    expectNear(drags.core()->getTranslation(), Vec3f(kStep, 0, 0), "translation");
 }
 
 TEST(Drags, RingsTurnWithThePointerBelowAMirroredParent)

@@ -64,6 +64,7 @@ protected:
             drawn += geometry->getLengths()->getValue(i);
         }
         EXPECT_EQ(drawn, 12U) << "two marks of three lines";
+        EXPECT_NE(geometry->getMaterial(), osg::NullFC);
         Vec3f sum;
         for (osg::UInt32 i = 0; i < 6; ++i) {
             sum += points->getValue(6 * index + i).subZero();

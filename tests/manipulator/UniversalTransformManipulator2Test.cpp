@@ -16,6 +16,8 @@ constexpr float kTolerance = 1e-4F;
 TEST(UniversalTransformManipulator2, StandsAtThePivotOfItsModeOrAtTheCentreOfWhatIsNoTransform)
 {
     DragScene drags;
+    Gizmo without;
+    EXPECT_FALSE(isShown(findNode(without.getVisualisation(), "xaShape"))) << "no node";
     drags.edit(drags.core(), [](const osg::Transform3DPtr& core) {
         core->setTranslation(Vec3f(1, 2, 3));
         core->setRotatePivot(Vec3f(0, 0, 1));
@@ -29,6 +31,7 @@ TEST(UniversalTransformManipulator2, StandsAtThePivotOfItsModeOrAtTheCentreOfWha
         EXPECT_TRUE(drags.onGizmo(Vec3f()).equals(Pnt3f(1, 3, 4), kTolerance));
     }
     drags.gizmo.setNode(drags.scene.node->getChild(0));
+    EXPECT_EQ(drags.gizmo.getNode(), drags.scene.node->getChild(0));
     drags.activate(Mode::Rotate);
     EXPECT_TRUE(drags.onGizmo(Vec3f()).equals(Pnt3f(1, 2, 3), kTolerance));
 }

@@ -90,6 +90,8 @@ TEST_F(SceneplateManipulatorTest, HandlesStandAtTheFrameForEveryCameraAndViewSiz
             isHandleAt("rotateShape", 150, 150 - 32);
         }
     }
+    scene.widget.resize(1000, 400);
+    isHandleAt("grid", 150, 200);  // without an update
 }
 
 TEST_F(SceneplateManipulatorTest, FrameTurnsWithOnePlateAndEnclosesSeveral)
