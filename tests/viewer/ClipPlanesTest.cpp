@@ -57,6 +57,7 @@ TEST_F(ClipPlanes, TheHalfTowardsTheEyeGoesAndEachStepCanBeTakenBack)
     EXPECT_TRUE(stage.undo());
     EXPECT_EQ(depthInTheMiddle(), whole);
     EXPECT_EQ(stage.selectedObject(), osg::NodePtr()) << "what is gone is not selected";
+    EXPECT_TRUE(nbSelection::isEmpty());
     EXPECT_TRUE(stage.redo());
     EXPECT_EQ(depthInTheMiddle(), cut);
     ASSERT_TRUE(stage.selectByName("Clip plane"));
@@ -65,6 +66,26 @@ TEST_F(ClipPlanes, TheHalfTowardsTheEyeGoesAndEachStepCanBeTakenBack)
     EXPECT_TRUE(stage.undo());
     EXPECT_EQ(depthInTheMiddle(), cut);
     EXPECT_EQ(nbUndoService::the()->getStack()->count(), 2);
+}
+
+TEST_F(ClipPlanes, NothingCanBeTakenAwayWhileItIsDraggedOrGrabbedAfterItIsGone)
+{
+    ASSERT_TRUE(run("scene.addClipPlane"));
+    const osg::Pnt2f arrow = placeOf(SessionTarget::Kind::Handle, "yaShape");
+    send(nbec::interaction::names::kHover, arrow);
+    send(nbec::interaction::names::kStart, arrow);
+    ASSERT_TRUE(stage.isDragging());
+    EXPECT_FALSE(run("scene.removeClipPlane"));
+    EXPECT_EQ(error, "scene.removeClipPlane: not while something is being dragged");
+    send(nbec::interaction::names::kStop, arrow);
+
+    ASSERT_TRUE(stage.undo());
+    send(nbec::interaction::names::kHover, arrow);
+    EXPECT_EQ(stage.hoveredHandle(), "");
+    ASSERT_TRUE(stage.selectByName(kStartSceneMainObject));
+    ASSERT_TRUE(run("object.visible", false)) << "the plane's step, and with it the node, is gone";
+    EXPECT_EQ(stage.draggedValues(), "");
+    EXPECT_FALSE(stage.gizmo().centerPivots() && stage.selectedName() != kStartSceneMainObject);
 }
 
 TEST_F(ClipPlanes, WithoutASceneOrASelectedPlaneOneLineSaysSo)

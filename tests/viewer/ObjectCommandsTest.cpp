@@ -75,6 +75,9 @@ TEST_F(ObjectCommands, RefusalsSayWhyAndChangeNothing)
               "object.translation: expected an array of 3 numbers");
     EXPECT_NE(refusal("object.translation", QJsonArray { 1, 2, "3" }), "");
     EXPECT_NE(refusal("object.translation", QJsonArray { 1e300, 0, 0 }), "");
+    EXPECT_NE(refusal("object.translation", QJsonArray { 1e16, 0, 0 }), "") << "too far away";
+    EXPECT_NE(refusal("object.scale", QJsonArray { 1e24, 1, 1 }), "");
+    EXPECT_NE(refusal("object.scale", QJsonArray { 1, 0, 1 }), "");
     EXPECT_NE(refusal("object.visible", 1), "");
     const QJsonValue before = value("object.translation");
     EXPECT_EQ(refusal("object.locked", true), "");

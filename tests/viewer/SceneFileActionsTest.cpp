@@ -17,6 +17,7 @@ class SceneFileActionsTest : public ShownWindow
 protected:
     SceneFileActionsTest()
     {
+        stage().commands().setOutputFolder(QDir(folder.path()));
         QObject::connect(&window, &MainWindow::filesShown, [this] { ++shown; });
     }
 
@@ -132,6 +133,40 @@ TEST_F(SceneFileActionsTest, EditsAreNotLostWithoutAQuestion)
     moveVase();
     answer = QMessageBox::Discard;
     EXPECT_TRUE(window.close());
+}
+
+TEST_F(SceneFileActionsTest, ASessionWritesNothingButItsOwn)
+{
+    ASSERT_TRUE(run("scene.save", scene));
+    const QDir out(folder.filePath("out"));
+    ASSERT_TRUE(QDir(folder.path()).mkdir("out"));
+    ASSERT_TRUE(QFile::link(folder.filePath("victim"), out.filePath("link.png")));
+    Session session;
+    session.sizePx = QSize(200, 150);
+    session.files = QStringList { scene };
+    const auto play = [&](SessionStep::Type type, const char* name, const QJsonValue& value) {
+        SessionStep step;
+        step.type = type;
+        step.name = QLatin1String(name);
+        step.value = value;
+        step.key = QStringLiteral("Ctrl+S");
+        step.screenshot = true;
+        session.steps = { step };
+        replay(session, out);
+        return window.player().getFailures().isEmpty() && problems.isEmpty();
+    };
+    const auto kCommand = SessionStep::Type::Command;
+
+    EXPECT_FALSE(play(kCommand, "scene.save", scene)) << "not in its folder";
+    EXPECT_FALSE(play(kCommand, "scene.save", QJsonValue())) << "the session opened the scene";
+    EXPECT_FALSE(play(SessionStep::Type::Checkpoint, "link", {}));
+    EXPECT_TRUE(play(kCommand, "scene.save", "a.nbscene"));
+    EXPECT_TRUE(play(SessionStep::Type::Checkpoint, "kept", {}));
+    EXPECT_EQ(out.entryList(QDir::Files), QStringList({ "a.nbscene", "kept.png" }));
+    EXPECT_FALSE(play(SessionStep::Type::Key, "", {})) << "nobody chose the file";
+    problems.clear();
+    session.areFilesChosen = true;
+    EXPECT_TRUE(play(kCommand, "scene.save", QJsonValue()));
 }
 
 TEST_F(SceneFileActionsTest, AFailedSaveKeepsTheScene)

@@ -4,6 +4,7 @@
 #include "viewer/commands/JsonReader.h"
 #include "viewer/commands/JsonWriter.h"
 #include "viewer/loading/BuiltModel.h"
+#include "viewer/loading/PictureFile.h"
 #include "viewer/scenes/SceneDocument.h"
 
 #include <nbKernel/nbScenegraph.h>
@@ -197,6 +198,9 @@ TEST_F(SceneFile, ARefusedFileNamesThePlaceAndLeavesTheSceneAsItIs)
         { "\"camera\"", "\"camera", "line 2, column" },
         { "\"scene\": 1", "\"scene\": 2", "scene: expected 1, the version of the format" },
         { "\"fov\": 40", "\"fov\": 1e39", "camera.fov: expected a number" },
+        { "\"fov\": 40", "\"fov\": 0", "camera.fov: expected a number between 0 and 180" },
+        { "\"fov\": 40", "\"fov\": 180", "camera.fov: expected a number between 0 and 180" },
+        { "[1,2,3]", "[1,2,3e38]", "camera.from: expected numbers up to 1e+15" },
         { "\"fov\": 40", "\"fov\": 40, \"roll\": 0", "camera: unknown entry \"roll\"" },
         { "[1,2,3]", "[1,2]", "camera.from: expected an array of 3 numbers" },
         { "start scene", "end scene", "models[0]: there is no model \"end scene\"" },
@@ -205,8 +209,10 @@ TEST_F(SceneFile, ARefusedFileNamesThePlaceAndLeavesTheSceneAsItIs)
         { "\"path\": \"4\"", "\"path\": \"4/0/7\"", "models[0].nodes[0]: the model has no object" },
         { "\"name\": \"Knot\"", "\"name\": \"Not\"",
           "models[0].nodes[0]: expected \"Not\" in the model, which has \"Knot\" there" },
-        { "{\"translation\": [1,\"-0\",2]}", "{\"scale\": [3e38,1,1], \"scalePivot\": [3e38,0,0]}",
-          "models[0].nodes[0].transform: the numbers" },
+        { "{\"translation\": [1,\"-0\",2]}", "{\"scalePivot\": [3e38,0,0]}",
+          "models[0].nodes[0].transform.scalePivot: expected numbers up to 1e+15" },
+        { "{\"translation\": [1,\"-0\",2]}", "{\"scale\": [1,0,1]}",
+          "models[0].nodes[0].transform.scale: expected numbers other than 0" },
         { "\"object\": \"5\"", "\"object\": \"5\", \"part\": 1",
           "models[0].surfaces[0]: the model has no surface" },
         { "\"name\": \"diffuse\"", "\"name\": \"diffuse\", \"picture\": \"gone.png\"",
@@ -304,6 +310,7 @@ TEST_F(SceneFile, AFullDiskLeavesTheOldFileAndNoOther)
     bool isSaved = true;
     {
         const SmallDisk disk(100);
+        EXPECT_FALSE(writePicture(fileIn("a.png"), QImage(90, 90, QImage::Format_RGB32), error));
         isSaved = saveScene(stage, path, error);
     }
 

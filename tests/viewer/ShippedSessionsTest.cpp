@@ -89,6 +89,7 @@ void checkThatTheSceneSurvivesSaving(MainWindow& window)
     const QImage before = plainPicture();
     EXPECT_FALSE(before.isNull());
 
+    stage.commands().setOutputFolder(QDir(folder.path()));
     ASSERT_TRUE(stage.commands().run("scene.save", first, error)) << error.toStdString();
     ASSERT_TRUE(stage.commands().run("scene.open", first, error)) << error.toStdString();
 

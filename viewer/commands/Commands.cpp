@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/commands/Commands.h"
 
+#include "viewer/texts/Text.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -75,6 +77,10 @@ bool Commands::run(const QString& name, const QJsonValue& value, QString& error,
     const auto found = commands.find(name);
     if (found == commands.end()) {
         error = QStringLiteral("there is no command \"%1\"").arg(name);
+        return false;
+    }
+    if (isBusy && isBusy()) {
+        error = Text::tr("%1: not while something is being dragged").arg(name);
         return false;
     }
     // A command may replace itself while it runs.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "viewer/texts/FileRules.h"
+
 #include <QDir>
 #include <QJsonValue>
 #include <QString>
@@ -42,7 +44,9 @@ public:
     void remove(const QString& prefix);
 
     /// Runs a command, then tells the listener.
-    /// @return false with one line in `error` for an unknown name or a command that refused
+    /// @return false with one line in `error` for an unknown name, a command that refused, and
+    /// while
+    ///         something is dragged
     bool run(const QString& name, const QJsonValue& value, QString& error,
              Moment moment = Moment::Final);
     /// @return nothing for an unknown name
@@ -61,11 +65,26 @@ public:
     /// Absolute path of a file named in a value.
     QString filePath(const QString& name) const;
 
+    /// Sets the only folder that values may name files to be written in; the current one at first.
+    void setOutputFolder(const QDir& newFolder) { outputFolder = newFolder; }
+
+    /// Path of a file to be written that is named in a value, see pathInside().
+    QString outputPath(const QString& name, const QString& ending, QString& error) const
+    {
+        return pathInside(outputFolder, name, ending, error);
+    }
+
+    /// Sets what tells that something is being dragged: nothing else is done then, as it could take
+    /// away what is dragged.
+    void setBusy(std::function<bool()> newBusy) { isBusy = std::move(newBusy); }
+
 private:
     std::map<QString, Run> commands;
     std::map<QString, Read> values;
     Listener listener;
+    std::function<bool()> isBusy;
     QDir folder;
+    QDir outputFolder;
 };
 
 /// Whether a value is what was expected: numbers, also within arrays and objects, may differ by the

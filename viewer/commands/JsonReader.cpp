@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/commands/JsonReader.h"
 
+#include "viewer/texts/FileRules.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -45,23 +47,15 @@ bool readExactArray(const QJsonValue& value, Number* numbers, int count)
     return areNumbers;
 }
 
-/// What is quoted from a file may have several lines, or be very long.
-QString oneLine(QString text)
-{
-    constexpr int kLongest = 400;
-    for (QChar& letter : text) {
-        if (!letter.isPrint() && !letter.isSurrogate()) {
-            letter = QLatin1Char(' ');
-        }
-    }
-    return text.size() > kLongest ? text.left(kLongest) + QStringLiteral("...") : text;
-}
-
 }  // namespace
 
 bool JsonReader::fail(const QString& path, const QString& what)
 {
+    constexpr int kLongest = 400;
     error = oneLine(path.isEmpty() ? what : path + QStringLiteral(": ") + what);
+    if (error.size() > kLongest) {
+        error = error.left(kLongest) + QStringLiteral("...");
+    }
     return false;
 }
 

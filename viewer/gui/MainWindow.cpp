@@ -15,6 +15,7 @@
 #include "viewer/gui/WindowActions.h"
 #include "viewer/gui/WindowMemory.h"
 #include "viewer/loading/ModelReader.h"
+#include "viewer/loading/PictureFile.h"
 #include "viewer/stage/StageTool.h"
 
 #include <QCloseEvent>
@@ -235,7 +236,7 @@ void MainWindow::openFiles(const QStringList& files, Opening opening)
     statusLine->setProgress(ModelLoader::Phase::Reading, files.value(0), 0);
     sceneFiles->forget();
     if (isScene) {
-        sceneFiles->open(files.first());
+        sceneFiles->open(files.first(), !pendingSession || pendingSession->areFilesChosen);
     } else {
         loader->start(files);
     }
@@ -342,14 +343,7 @@ void MainWindow::askForPicture()
 bool MainWindow::savePicture(const QString& path, QString& error)
 {
     const QImage picture = viewWidget->takePicture(error);
-    if (picture.isNull()) {
-        return false;
-    }
-    if (!picture.save(path)) {
-        error = tr("%1: cannot be written").arg(path);
-        return false;
-    }
-    return true;
+    return !picture.isNull() && writePicture(path, picture, error);
 }
 
 void MainWindow::handleDroppedFiles(const QStringList& files, const osg::Pnt2f& px)

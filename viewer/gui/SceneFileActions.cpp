@@ -86,17 +86,21 @@ void SceneFileActions::addCommands()
         if (!openScene(stage, path, error)) {
             return false;
         }
-        adopt(path);
+        adopt(path, false);
         emit opened(path, true);
         return true;
     });
     commands.add(QStringLiteral("scene.save"), [this](const QJsonValue& value, QString& error) {
-        if (value.isNull() && !sceneFile.isEmpty()) {
+        if (value.isNull() && isChosen) {
             return saveTo(sceneFile, error);
         }
         QString name;
-        return JsonReader(error).readString(value, QStringLiteral("scene.save"), name) &&
-            saveTo(stage.commands().filePath(name), error);
+        if (!JsonReader(error).readString(value, QStringLiteral("scene.save"), name)) {
+            return false;
+        }
+        const QString path = stage.commands().outputPath(
+            name, QLatin1Char('.') + QLatin1String(kSceneSuffix), error);
+        return !path.isEmpty() && saveTo(path, error);
     });
     commands.addValue(QStringLiteral("scene.file"),
                       [this] { return QFileInfo(sceneFile).fileName(); });
@@ -114,8 +118,9 @@ void SceneFileActions::askForScene()
     }
 }
 
-void SceneFileActions::open(const QString& path)
+void SceneFileActions::open(const QString& path, bool isByPerson)
 {
+    isDocumentChosen = isByPerson;
     QString error;
     loader.cancel();
     document = readSceneFile(path, error);
@@ -145,7 +150,7 @@ void SceneFileActions::conclude()
         return;
     }
     scene->show(stage);
-    adopt(documentFile);
+    adopt(documentFile, isDocumentChosen);
     emit opened(documentFile, false);
 }
 
@@ -154,7 +159,7 @@ void SceneFileActions::conclude()
 bool SceneFileActions::save()
 {
     QString error;
-    if (sceneFile.isEmpty()) {
+    if (!isChosen) {
         return saveAs();
     }
     if (!saveTo(sceneFile, error)) {
@@ -194,6 +199,7 @@ bool SceneFileActions::saveTo(const QString& path, QString& error)
         return false;
     }
     sceneFile = QFileInfo(path).absoluteFilePath();
+    isChosen = true;
     touched = false;
     steps().setClean();
     emit modifiedChanged(false);
@@ -250,10 +256,11 @@ void SceneFileActions::noteCommand(const QString& name)
     }
 }
 
-void SceneFileActions::adopt(const QString& path)
+void SceneFileActions::adopt(const QString& path, bool isByPerson)
 {
     document.reset();
     sceneFile = path;
+    isChosen = isByPerson;
     touched = false;
     emit modifiedChanged(isModified());
 }

@@ -20,9 +20,9 @@ class Stage;
 /// that are no steps: another photograph, models that were added. Moving the camera is no edit,
 /// though the file keeps it.
 ///
-/// Gives the stage the commands "scene.open" (a file) and "scene.save" (a file, null: that of the
-/// scene), which do everything at once, and the values "scene.file" (without folder, "" for none)
-/// and "scene.modified".
+/// Gives the stage the commands "scene.open" (a file) and "scene.save" (a file in the folder for
+/// output; null: that of the scene, unless a session opened it), which do everything at once, and
+/// the values "scene.file" (without folder, "" for none) and "scene.modified".
 class SceneFileActions : public QObject
 {
     Q_OBJECT
@@ -43,7 +43,8 @@ public:
     void askForScene();
     /// Begins to open a scene file: its models are read in the background, and nothing changes
     /// before all is there. Answers with opened() or problem().
-    void open(const QString& path);
+    /// @param isByPerson  and not by a session: only then the file may be saved to without a name
+    void open(const QString& path, bool isByPerson = true);
 
     /// Whether what the loader reads belongs to a scene that is being opened.
     bool isOpening() const { return document.has_value(); }
@@ -71,7 +72,7 @@ public:
     bool mayReplace();
 
     /// Tells that the scene was replaced by something without a scene file.
-    void replaced() { adopt(QString()); }
+    void replaced() { adopt(QString(), false); }
 
     /// Tells of an edit that is no step of undo.
     void touch();
@@ -98,16 +99,18 @@ signals:
 
 private:
     void addCommands();
-    void adopt(const QString& path);
+    void adopt(const QString& path, bool isByPerson);
 
     QWidget& window;
     Stage& stage;
     ModelLoader& loader;
     Question question;
     QString sceneFile;
+    bool isChosen = false;  ///< the scene's file, by a person or the name given when it was saved
     bool touched = false;
     std::optional<SceneDocument> document;  ///< that is being opened
     QString documentFile;
+    bool isDocumentChosen = false;
 };
 
 }  // namespace viewer

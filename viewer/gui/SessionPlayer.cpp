@@ -3,6 +3,7 @@
 
 #include "viewer/gui/CaptionBar.h"
 #include "viewer/gui/ViewWidget.h"
+#include "viewer/loading/PictureFile.h"
 #include "viewer/replay/SessionChecks.h"
 #include "viewer/replay/SessionTargets.h"
 
@@ -68,6 +69,7 @@ void SessionPlayer::start(const Session& newSession, Pace newPace,
 {
     session = newSession;
     view.stage().commands().setFolder(session.folder.isEmpty() ? QDir() : QDir(session.folder));
+    view.stage().commands().setOutputFolder(folder.value_or(QDir()));
     pace = newPace;
     pictureFolder = folder;
     nextStep = 0;
@@ -290,7 +292,9 @@ bool SessionPlayer::playCheckpoint(const SessionStep& step, QString& error)
     if (!step.screenshot || !pictureFolder) {
         return true;
     }
-    QImage picture = view.takePicture(error);
+    const QString path = view.stage().commands().outputPath(step.name + QStringLiteral(".png"),
+                                                            QStringLiteral(".png"), error);
+    QImage picture = path.isEmpty() ? QImage() : view.takePicture(error);
     if (picture.isNull()) {
         return false;
     }
@@ -298,9 +302,7 @@ bool SessionPlayer::playCheckpoint(const SessionStep& step, QString& error)
         QPainter painter(&picture);
         paintCaption(painter, picture.rect(), captionTitle, captionText);
     }
-    const QString path = pictureFolder->filePath(step.name + QStringLiteral(".png"));
-    if (!picture.save(path)) {
-        error = QStringLiteral("%1 cannot be written").arg(path);
+    if (!writePicture(path, picture, error)) {
         return false;
     }
     pictures.append(path);

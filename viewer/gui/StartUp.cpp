@@ -5,6 +5,7 @@
 #include "viewer/gui/SessionPlayer.h"
 #include "viewer/gui/SessionTour.h"
 #include "viewer/gui/ViewWidget.h"
+#include "viewer/texts/FileRules.h"
 
 #include <QCoreApplication>
 #include <QTimer>
@@ -17,7 +18,7 @@ namespace {
 /// Pictures are named on standard output, for whoever started the program.
 void announce(const QString& path)
 {
-    std::fprintf(stdout, "%s\n", qPrintable(path));
+    std::fprintf(stdout, "%s\n", qPrintable(oneLine(path)));
     std::fflush(stdout);
 }
 
@@ -33,7 +34,7 @@ StartUp::StartUp(MainWindow& targetWindow, const CommandLine& commandLine,
 
 void StartUp::complain(const QString& text)
 {
-    std::fprintf(stderr, "nbviewer: %s\n", qPrintable(text.simplified()));
+    std::fprintf(stderr, "nbviewer: %s\n", qPrintable(oneLine(text.simplified())));
 }
 
 void StartUp::run()
@@ -46,7 +47,8 @@ void StartUp::run()
     connect(&window, &MainWindow::problem, this, &StartUp::giveUp);
     if (session) {
         // The command line's files and size stand in for the session's own.
-        session->files = options.files.isEmpty() ? session->files : options.files;
+        session->areFilesChosen = !options.files.isEmpty();
+        session->files = session->areFilesChosen ? options.files : session->files;
         session->sizePx = options.sizePx.isValid() ? options.sizePx : session->sizePx;
         window.show();
         playSession();

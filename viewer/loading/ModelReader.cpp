@@ -2,11 +2,11 @@
 #include "viewer/loading/ModelReader.h"
 
 #include "viewer/loading/ModelConversion.h"
+#include "viewer/loading/PictureFile.h"
 #include "viewer/texts/Text.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QImageReader>
 
 #include <algorithm>
 #include <exception>
@@ -152,14 +152,11 @@ std::optional<ModelData> readWithImporter(const QString& path, const ReadProgres
     return model;
 }
 
-std::optional<ModelData> readPicture(const QString& path, QString& error)
+std::optional<ModelData> pictureModel(const QString& path, QString& error)
 {
-    QImageReader reader(path);
-    reader.setAutoTransform(true);
-    const QImage picture = reader.read();
+    const QImage picture = decodePictureFile(path, error);
     if (picture.isNull()) {
-        return fail(path, Text::tr("cannot be read as a picture: %1").arg(reader.errorString()),
-                    error);
+        return std::nullopt;
     }
     const float halfHeight = kPictureHeight / 2.0F;
     const float halfWidth =
@@ -193,7 +190,7 @@ std::optional<ModelData> readModelFile(const QString& path, const ReadProgress& 
     }
     try {
         std::optional<ModelData> model = isPictureName(path)
-            ? readPicture(path, error)
+            ? pictureModel(path, error)
             : readWithImporter(path, progress, error);
         if (model) {
             model->root.name = info.completeBaseName();

@@ -119,6 +119,7 @@ struct Session
     static constexpr int kDefaultHeightPx = 800;
 
     QSize sizePx { kDefaultWidthPx, kDefaultHeightPx };  ///< of the 3D view, device pixels
+    bool areFilesChosen = false;  ///< by the command line, instead of the session's own
     QStringList files;  ///< models to open, relative to the session file; empty: the start scene
     std::optional<SessionCamera> camera;  ///< absent: the camera that the scene starts with
     std::optional<QString>

@@ -2,6 +2,7 @@
 #include "viewer/commands/JsonReader.h"
 #include "viewer/replay/Session.h"
 #include "viewer/replay/SessionNames.h"
+#include "viewer/texts/FileRules.h"
 #include "viewer/texts/TextFile.h"
 
 #include <QDir>
@@ -281,8 +282,8 @@ bool Reader::checkStep(const QJsonObject& object, const QString& path, const Ses
     }
     case Type::Checkpoint: {
         // The name becomes that of a file in a folder that the person chose.
-        const bool isPath =
-            step.name.contains('/') || step.name.contains('\\') || step.name.startsWith('.');
+        const bool isPath = step.name.contains('/') || step.name.contains('\\') ||
+            step.name.startsWith('.') || step.name != oneLine(step.name);
         return (!step.name.isEmpty() || fail(path, QStringLiteral("\"name\" is missing"))) &&
             (!isPath || fail(path + ".name", QStringLiteral("may not be a path")));
     }

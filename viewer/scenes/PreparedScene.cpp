@@ -24,23 +24,11 @@
 
 #include <OpenSG/OSGCoredNodePtr.h>
 
-#include <cmath>
 #include <map>
 #include <utility>
 
 namespace viewer {
 namespace {
-
-bool isFinite(const osg::Matrix& matrix)
-{
-    constexpr osg::UInt32 kValues = 16;
-    for (osg::UInt32 i = 0; i < kValues; ++i) {
-        if (!std::isfinite(matrix.getValues()[i])) {
-            return false;
-        }
-    }
-    return true;
-}
 
 /// The object at a path below a model's root; null if there is none.
 osg::NodePtr objectBelow(const osg::NodePtr& root, const QString& path)
@@ -75,8 +63,12 @@ public:
         const nbScopedUndo muted(false);
         scene.camera = document.camera;
         scene.match = document.match;
-        return buildModels(document.models) && buildPlanes(document.clipPlanes) &&
-            buildTree(document) && buildPlates(document.plates) &&
+        if (!buildModels(document.models)) {
+            return false;
+        }
+        buildPlanes(document.clipPlanes);
+        buildTree(document);
+        return buildPlates(document.plates) &&
             (!document.match ||
              readPicture(document.match->photograph, QStringLiteral("match.photograph"),
                          scene.photograph));
@@ -169,19 +161,18 @@ private:
                 place,
                 Text::tr("the model has no object \"%1\" at \"%2\"").arg(wanted.name, wanted.path));
         }
-        return isNamed(node, wanted.name, place) && editNode(node, wanted, place);
+        if (!isNamed(node, wanted.name, place)) {
+            return false;
+        }
+        editNode(node, wanted);
+        return true;
     }
 
-    bool editNode(const osg::NodePtr& node, const SceneNode& wanted, const QString& place)
+    static void editNode(const osg::NodePtr& node, const SceneNode& wanted)
     {
         if (wanted.transform) {
             nbNodeUtils::convertToTransform3DNode(node);
-            const auto core = osg::Transform3DPtr::dcast(node->getCore());
-            wanted.transform->applyTo(core);
-            if (!isFinite(core->getMatrix())) {
-                return fail(place + QStringLiteral(".transform"),
-                            Text::tr("the numbers are too large"));
-            }
+            wanted.transform->applyTo(osg::Transform3DPtr::dcast(node->getCore()));
         }
         if (!wanted.visible) {
             const nbEdit edit(node, osg::Node::TravMaskFieldMask);
@@ -196,7 +187,6 @@ private:
         if (wanted.newName) {
             nbNodeUtils::setName(node, wanted.newName->toStdString());
         }
-        return true;
     }
 
     bool editSurface(const osg::NodePtr& root, const SceneSurface& wanted, const QString& place)
@@ -265,25 +255,22 @@ private:
 
     // == Clip planes and the tree
 
-    bool buildPlanes(const std::vector<SceneClipPlane>& wanted)
+    void buildPlanes(const std::vector<SceneClipPlane>& wanted)
     {
         for (std::size_t i = 0; i < wanted.size(); ++i) {
             frames.emplace_back(makeClipFrame(wanted[i].outline));
             const osg::NodePtr frame = frames.back().get();
             nbNodeUtils::setName(frame, wanted[i].frame.name.toStdString());
-            if (!editNode(frame, wanted[i].frame, QStringLiteral("clipPlanes[%1].frame").arg(i))) {
-                return false;
-            }
+            editNode(frame, wanted[i].frame);
             planes.emplace_back(makeClipPlane(frame));
             const auto core = osg::ClipPlane3DPtr::dcast(planes.back()->getCore());
             const nbEdit edit(core, osg::FieldBits::AllFields);
             core->setEquation(wanted[i].equation);
             core->setEnable(wanted[i].enabled);
         }
-        return true;
     }
 
-    bool buildTree(const SceneDocument& document)
+    void buildTree(const SceneDocument& document)
     {
         if (document.tree.empty()) {
             scene.top = models;
@@ -292,7 +279,6 @@ private:
             scene.top.push_back(nodeOf(branch));
             hangChildren(branch);
         }
-        return true;
     }
 
     const osg::RefPtr<osg::NodePtr>& nodeOf(const SceneBranch& branch) const

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/commands/JsonReader.h"
+#include "viewer/commands/SceneLimits.h"
 #include "viewer/scenes/SceneDocument.h"
 #include "viewer/scenes/SceneFields.h"
 #include "viewer/scenes/SceneNumbers.h"
@@ -194,10 +195,18 @@ private:
             const bool isRead =
                 readExact(json, path, numbers.data(), static_cast<int>(numbers.size()));
             SceneNumbers<Value>::assign(value, numbers);
-            return isRead;
+            return isRead && areSceneNumbers(numbers, path);
         } else {
             return getPlain(json, path, value);
         }
+    }
+
+    template <class Numbers>
+    bool areSceneNumbers(const Numbers& numbers, const QString& path)
+    {
+        const auto isOne = [](auto number) { return isSceneNumber(number); };
+        return std::all_of(numbers.begin(), numbers.end(), isOne) ||
+            fail(path, QStringLiteral("expected numbers up to %1").arg(kLargestNumber));
     }
 
     bool getPlain(const QJsonValue& json, const QString& path, bool& flag)
@@ -207,12 +216,13 @@ private:
 
     bool getPlain(const QJsonValue& json, const QString& path, float& number)
     {
-        return readExact(json, path, number);
+        return readExact(json, path, number) && areSceneNumbers(std::array { number }, path);
     }
 
     bool getPlain(const QJsonValue& json, const QString& path, double& number)
     {
-        return readExact(QJsonArray { json }, path, &number, 1);
+        return readExact(QJsonArray { json }, path, &number, 1) &&
+            areSceneNumbers(std::array { number }, path);
     }
 
     bool getPlain(const QJsonValue& json, const QString& path, int& number)
@@ -242,7 +252,8 @@ private:
         }
         for (int i = 0; i < array.size(); ++i) {
             std::array<double, 4> ends {};
-            if (!readExact(array.at(i), path + QStringLiteral("[%1]").arg(i), ends.data(), 4)) {
+            const QString at = path + QStringLiteral("[%1]").arg(i);
+            if (!readExact(array.at(i), at, ends.data(), 4) || !areSceneNumbers(ends, at)) {
                 return false;
             }
             lines[static_cast<std::size_t>(i)] = QLineF(ends[0], ends[1], ends[2], ends[3]);
@@ -314,8 +325,17 @@ private:
         return true;
     }
 
+    bool check(const CameraPose& pose)
+    {
+        return (pose.fovDeg > 0.0F && pose.fovDeg < 180.0F) ||
+            fail(pathOf("fov"), QStringLiteral("expected a number between 0 and 180"));
+    }
+
     bool check(const nbTransformState& state)
     {
+        if (!isScale(state.scale[0]) || !isScale(state.scale[1]) || !isScale(state.scale[2])) {
+            return fail(pathOf("scale"), QStringLiteral("expected numbers other than 0"));
+        }
         const QString order = QString::fromStdString(state.eulerRotationOrder);
         const int number = nbEulerRotation::getOrderNumber(state.eulerRotationOrder);
         return order.toLower() == QLatin1String(nbEulerRotation::getOrderName(number)) ||

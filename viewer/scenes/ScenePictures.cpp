@@ -30,7 +30,11 @@ bool capturePicture(const osg::ImagePtr& image, ScenePicture& picture, QString& 
 
 osg::ImagePtr imageOf(const QByteArray& png)
 {
-    return nbImageConvert::toImage(QImage::fromData(png, "PNG"));
+    QBuffer buffer;
+    buffer.setData(png);
+    buffer.open(QIODevice::ReadOnly);
+    QString error;
+    return nbImageConvert::toImage(decodePicture(buffer, QStringLiteral("png"), error));
 }
 
 }  // namespace viewer

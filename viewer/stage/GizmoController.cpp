@@ -11,6 +11,8 @@
 #include <nbOpenSGUtils/nbNodeUtils.h>
 #include <nbTransform/nbTransformModel.h>
 
+#include <OpenSG/OSGFieldContainerFactory.h>
+
 #include <QString>
 
 #include <array>
@@ -139,18 +141,32 @@ void GizmoController::show(Gizmo gizmo)
 void GizmoController::setTarget(const osg::NodePtr& node, const std::vector<osg::NodePtr>& all)
 {
     manager.endDrag();
-    targets =
-        node != osg::NullFC ? std::vector<osg::NodePtr> { node } : std::vector<osg::NodePtr> {};
+    targetIds.clear();
+    if (node != osg::NullFC) {
+        targetIds.push_back(node.getFieldContainerId());
+    }
     for (const osg::NodePtr& further : all) {
         if (further != osg::NullFC && further != node) {
-            targets.push_back(further);
+            targetIds.push_back(further.getFieldContainerId());
         }
     }
-    transform.setNode(node, targets);
+    transform.setNode(node, targets());
     camera.setNode(node);
     // A manipulator hides itself without a node and shows its mode again with one.
     applyMode(current);
     followCamera();
+}
+
+std::vector<osg::NodePtr> GizmoController::targets() const
+{
+    std::vector<osg::NodePtr> nodes;
+    for (const osg::UInt32 id : targetIds) {
+        const auto node = osg::NodePtr::dcast(osg::FieldContainerFactory::the()->getContainer(id));
+        if (node != osg::NullFC) {
+            nodes.push_back(node);
+        }
+    }
+    return nodes;
 }
 
 // == Settings
@@ -200,7 +216,7 @@ bool GizmoController::centerPivots()
     nbUndoService* undo = nbUndoService::the();
     undo->beginGroup(Text::tr("Centre pivot"));
     bool isDone = false;
-    const std::vector<osg::NodePtr> all = targets;
+    const std::vector<osg::NodePtr> all = targets();
     for (const osg::NodePtr& target : all) {
         transform.setNode(target);
         isDone = transform.centerPivot() || isDone;
@@ -247,10 +263,11 @@ std::string GizmoController::hoveredHandle()
 
 std::string GizmoController::draggedValues() const
 {
-    if (targets.empty() || context.grabbedHandle().empty()) {
+    const std::vector<osg::NodePtr> all = targets();
+    if (all.empty() || context.grabbedHandle().empty()) {
         return {};
     }
-    const osg::NodePtr node = targets.front();
+    const osg::NodePtr& node = all.front();
     switch (actionOfHandle(context.grabbedHandle())) {
     case HandleAction::MoveAlong:
     case HandleAction::MoveInPlane:

@@ -117,6 +117,7 @@ public:
 private:
     nbec::manipulator::Manipulator* manipulatorOf(Gizmo gizmo);
     void applyMode(Gizmo gizmo);
+    std::vector<osg::NodePtr> targets() const;
 
     nbec::interaction::InteractionManager& manager;
     nbec::interaction::Picker picker;
@@ -124,7 +125,7 @@ private:
     nbec::manipulator::UniversalTransformManipulator2 transform;
     nbec::manipulator::CameraManipulator camera;
     DragContext context;
-    std::vector<osg::NodePtr> targets;  ///< the main one first
+    std::vector<osg::UInt32> targetIds;  ///< the main one first
     Gizmo current = Gizmo::None;
     bool snapping = false;
     bool pointerInside = true;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/stage/ObjectCommands.h"
 
+#include "viewer/commands/SceneLimits.h"
 #include "viewer/loading/BuiltModel.h"
 #include "viewer/stage/Stage.h"
 #include "viewer/texts/Text.h"
@@ -112,6 +113,7 @@ struct ObjectVector
     const char* name;
     osg::UInt32 (*set)(osg::UInt32 count, nbTransformModel::ValueFunction values);
     osg::Vec3f (*get)(const osg::NodePtr& node);
+    bool areFactors = false;
 };
 
 const ObjectVector kVectors[] = {
@@ -129,7 +131,7 @@ const ObjectVector kVectors[] = {
       [](osg::UInt32 count, nbTransformModel::ValueFunction values) {
           return nbTransformModel::the()->setScale(count, values);
       },
-      [](const osg::NodePtr& node) { return nbNodeUtils::getTransformNodeScale(node); } },
+      [](const osg::NodePtr& node) { return nbNodeUtils::getTransformNodeScale(node); }, true },
     { "object.rotatePivot",
       [](osg::UInt32 count, nbTransformModel::ValueFunction values) {
           return nbTransformModel::the()->setRotationPivot(count, false, values);
@@ -146,8 +148,9 @@ bool readVector(const QJsonValue& value, osg::Vec3f& vector)
 {
     const QJsonArray array = value.toArray();
     for (int i = 0; i < 3; ++i) {
+        const double number = array.at(i).toDouble(NAN);
         vector[static_cast<osg::UInt32>(i)] =
-            array.at(i).isDouble() ? static_cast<float>(array.at(i).toDouble()) : NAN;
+            isSceneNumber(number) ? static_cast<float>(number) : NAN;
     }
     return array.size() == 3 && std::isfinite(vector[0] + vector[1] + vector[2]);
 }
@@ -162,6 +165,10 @@ bool setVector(Stage& stage, const ObjectVector& row, const QJsonValue& value, Q
     }
     if (!readVector(value, vector)) {
         error = QStringLiteral("%1: expected an array of 3 numbers").arg(QLatin1String(row.name));
+        return false;
+    }
+    if (row.areFactors && !(isScale(vector[0]) && isScale(vector[1]) && isScale(vector[2]))) {
+        error = QStringLiteral("%1: expected numbers other than 0").arg(QLatin1String(row.name));
         return false;
     }
     const osg::UInt32 count =

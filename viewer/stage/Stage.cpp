@@ -57,6 +57,7 @@ Stage::Stage(nbOSGWidget& view)
         nbUndoService::the()->cancelGroup();
         edited();
     });
+    commandTable.setBusy([this] { return isDragging(); });
     gizmoController.setDragCallback([this] { changed(); });
     nbec::notification::NotificationManager::getInstance()->setChangeListener(
         [this] { renderWidget.update(); });
@@ -420,9 +421,25 @@ bool Stage::canRedo() const
 
 void Stage::edited()
 {
+    letGoOfWhatIsGone();
     // Not update(): a pivot that goes back leaves the object, and so its matrix, as it is.
     gizmoController.followCamera();
     changed();
+}
+
+/// A step that was taken back may have taken selected objects out of the scene.
+void Stage::letGoOfWhatIsGone()
+{
+    std::vector<osg::NodePtr> kept = nbSelection::getNodes();
+    const std::size_t count = kept.size();
+    kept.erase(std::remove_if(kept.begin(), kept.end(),
+                              [](const osg::NodePtr& node) {
+                                  return !nbNodeUtils::hasParent(node, nbScenegraph::getRootNode());
+                              }),
+               kept.end());
+    if (kept.size() < count) {
+        nbSelection::set(kept);
+    }
 }
 
 void Stage::setChangedCallback(std::function<void()> callback)

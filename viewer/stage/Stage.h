@@ -185,6 +185,7 @@ public:
 
 private:
     void selectionChanged();
+    void letGoOfWhatIsGone();
     void viewChanged();
     void endActiveTool();
     void changed();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/texts/TextFile.h"
 
+#include "viewer/texts/FileRules.h"
 #include "viewer/texts/Text.h"
 
 #include <QFile>
@@ -11,11 +12,10 @@ namespace viewer {
 bool readWhole(const QString& path, qint64 mostBytes, QByteArray& text, QString& error)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        error = QStringLiteral("%1: %2").arg(path, file.errorString());
+    if (!openForReading(file, error)) {
         return false;
     }
-    // One byte more shows a file that grows, or a device that has no end.
+    // One byte more shows a file that grows.
     text = file.read(mostBytes + 1);
     if (file.error() != QFileDevice::NoError) {
         error = QStringLiteral("%1: %2").arg(path, file.errorString());
@@ -30,6 +30,9 @@ bool readWhole(const QString& path, qint64 mostBytes, QByteArray& text, QString&
 
 bool writeWhole(const QString& path, const QByteArray& text, QString& error)
 {
+    if (!isReplaceable(path, error)) {
+        return false;
+    }
     QSaveFile file(path);
     // A buffer would tell of a full disk only when its text is lost.
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) ||

@@ -6,7 +6,7 @@
 
 namespace viewer {
 
-/// Reads a whole file.
+/// Reads a whole regular file.
 /// @param mostBytes  a larger one is refused
 /// @return false with one line in `error` that begins with the file's name
 bool readWhole(const QString& path, qint64 mostBytes, QByteArray& text, QString& error);

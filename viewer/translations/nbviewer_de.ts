@@ -237,10 +237,6 @@
         <translation>enthält keine Fläche</translation>
     </message>
     <message>
-        <source>cannot be read as a picture: %1</source>
-        <translation>kann nicht als Bild gelesen werden: %1</translation>
-    </message>
-    <message>
         <source>not a file</source>
         <translation>keine Datei</translation>
     </message>
@@ -452,16 +448,32 @@
         <translation>das Modell hat kein Objekt „%1“ bei „%2“</translation>
     </message>
     <message>
-        <source>the numbers are too large</source>
-        <translation>die Zahlen sind zu groß</translation>
-    </message>
-    <message>
         <source>the model has no surface &quot;%1&quot; there</source>
         <translation>das Modell hat dort keine Fläche „%1“</translation>
     </message>
     <message>
         <source>%1: too large</source>
         <translation>%1: zu groß</translation>
+    </message>
+    <message>
+        <source>%1: not while something is being dragged</source>
+        <translation>%1: nicht, während etwas gezogen wird</translation>
+    </message>
+    <message>
+        <source>the picture has %1 x %2 pixels, which would take more than %3 MiB</source>
+        <translation>das Bild hat %1 x %2 Pixel, wofür mehr als %3 MiB nötig wären</translation>
+    </message>
+    <message>
+        <source>%1: cannot be written</source>
+        <translation>%1: kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>is not on this machine</source>
+        <translation>liegt nicht auf diesem Rechner</translation>
+    </message>
+    <message>
+        <source>no such folder</source>
+        <translation>kein solcher Ordner</translation>
     </message>
 </context>
 <context>
@@ -602,10 +614,6 @@
     <message>
         <source>Pictures (*.png *.jpg *.bmp)</source>
         <translation>Bilder (*.png *.jpg *.bmp)</translation>
-    </message>
-    <message>
-        <source>%1: cannot be written</source>
-        <translation>%1: kann nicht geschrieben werden</translation>
     </message>
     <message>
         <source>%1: drop pictures on an object</source>

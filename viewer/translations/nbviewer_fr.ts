@@ -237,10 +237,6 @@
         <translation>ne contient aucune surface</translation>
     </message>
     <message>
-        <source>cannot be read as a picture: %1</source>
-        <translation>ne peut pas être lu comme image&#xa0;: %1</translation>
-    </message>
-    <message>
         <source>not a file</source>
         <translation>n’est pas un fichier</translation>
     </message>
@@ -452,16 +448,32 @@
         <translation>le modèle n’a pas d’objet «&#xa0;%1&#xa0;» en «&#xa0;%2&#xa0;»</translation>
     </message>
     <message>
-        <source>the numbers are too large</source>
-        <translation>les nombres sont trop grands</translation>
-    </message>
-    <message>
         <source>the model has no surface &quot;%1&quot; there</source>
         <translation>le modèle n’a pas là de surface «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>%1: too large</source>
         <translation>%1&#xa0;: trop grand</translation>
+    </message>
+    <message>
+        <source>%1: not while something is being dragged</source>
+        <translation>%1 : pas pendant un glissement</translation>
+    </message>
+    <message>
+        <source>the picture has %1 x %2 pixels, which would take more than %3 MiB</source>
+        <translation>l’image a %1 x %2 pixels et prendrait plus de %3 Mio</translation>
+    </message>
+    <message>
+        <source>%1: cannot be written</source>
+        <translation>%1 : impossible d’écrire le fichier</translation>
+    </message>
+    <message>
+        <source>is not on this machine</source>
+        <translation>n’est pas sur cette machine</translation>
+    </message>
+    <message>
+        <source>no such folder</source>
+        <translation>aucun dossier de ce nom</translation>
     </message>
 </context>
 <context>
@@ -602,10 +614,6 @@
     <message>
         <source>Pictures (*.png *.jpg *.bmp)</source>
         <translation>Images (*.png *.jpg *.bmp)</translation>
-    </message>
-    <message>
-        <source>%1: cannot be written</source>
-        <translation>%1&#xa0;: ne peut pas être écrit</translation>
     </message>
     <message>
         <source>%1: drop pictures on an object</source>

@@ -236,10 +236,6 @@
         <translation>不含任何表面</translation>
     </message>
     <message>
-        <source>cannot be read as a picture: %1</source>
-        <translation>无法作为图片读取：%1</translation>
-    </message>
-    <message>
         <source>not a file</source>
         <translation>不是文件</translation>
     </message>
@@ -450,16 +446,32 @@
         <translation>模型在“%2”处没有对象“%1”</translation>
     </message>
     <message>
-        <source>the numbers are too large</source>
-        <translation>数值过大</translation>
-    </message>
-    <message>
         <source>the model has no surface &quot;%1&quot; there</source>
         <translation>模型在此处没有表面“%1”</translation>
     </message>
     <message>
         <source>%1: too large</source>
         <translation>%1：过大</translation>
+    </message>
+    <message>
+        <source>%1: not while something is being dragged</source>
+        <translation>%1：正在拖动时不能执行</translation>
+    </message>
+    <message>
+        <source>the picture has %1 x %2 pixels, which would take more than %3 MiB</source>
+        <translation>图片有 %1 x %2 像素，将占用超过 %3 MiB</translation>
+    </message>
+    <message>
+        <source>%1: cannot be written</source>
+        <translation>%1：无法写入</translation>
+    </message>
+    <message>
+        <source>is not on this machine</source>
+        <translation>不在这台计算机上</translation>
+    </message>
+    <message>
+        <source>no such folder</source>
+        <translation>没有该文件夹</translation>
     </message>
 </context>
 <context>
@@ -600,10 +612,6 @@
     <message>
         <source>Pictures (*.png *.jpg *.bmp)</source>
         <translation>图片 (*.png *.jpg *.bmp)</translation>
-    </message>
-    <message>
-        <source>%1: cannot be written</source>
-        <translation>%1：无法写入</translation>
     </message>
     <message>
         <source>%1: drop pictures on an object</source>
