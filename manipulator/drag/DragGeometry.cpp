@@ -83,6 +83,17 @@ osg::Vec3f rotated(const osg::Quaternion& rotation, osg::Vec3f vector)
     return vector;
 }
 
+osg::Vec3f unitVector(const osg::Vec3f& vector)
+{
+    const double x = vector.x();
+    const double y = vector.y();
+    const double z = vector.z();
+    const double length = std::sqrt(x * x + y * y + z * z);
+    return length > 0.0 ? osg::Vec3f(static_cast<float>(x / length), static_cast<float>(y / length),
+                                     static_cast<float>(z / length))
+                        : osg::Vec3f();
+}
+
 bool intersectPlane(const osg::Plane& plane, const osg::Line& ray, osg::Pnt3f& point)
 {
     if (plane.getNormal().length() < kShortest ||
@@ -114,15 +125,13 @@ osg::Vec3f axisPlaneNormal(const osg::Vec3f& axis, const osg::Vec3f& view)
 
 osg::Matrix orthonormalised(const osg::Matrix& matrix)
 {
-    osg::Vec3f x = column(matrix, 0);
-    osg::Vec3f z = x.cross(column(matrix, 1));
-    const float xLength = x.length();
-    const float zLength = z.length();
-    if (!(xLength >= kShortest) || !(zLength >= kShortest * xLength)) {
+    const osg::Vec3f x = unitVector(column(matrix, 0));
+    osg::Vec3f z = x.cross(unitVector(column(matrix, 1)));
+    const float sine = z.length();
+    if (!(sine >= kShortest)) {
         return osg::Matrix::identity();
     }
-    x *= 1.0F / xLength;
-    z *= 1.0F / zLength;
+    z *= 1.0F / sine;
     osg::Matrix result;
     result.setValue(x, z.cross(x), z);
     result[3][3] = 1.0F;

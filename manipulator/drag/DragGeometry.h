@@ -29,6 +29,9 @@ NB_MANIPULATOR_API osg::Pnt3f mapped(const osg::Matrix& matrix, osg::Pnt3f point
 /// A vector under a rotation.
 NB_MANIPULATOR_API osg::Vec3f rotated(const osg::Quaternion& rotation, osg::Vec3f vector);
 
+/// The vector at length 1, however short it is; zero stays.
+NB_MANIPULATOR_API osg::Vec3f unitVector(const osg::Vec3f& vector);
+
 /// Where a ray meets a plane in front of its start.
 /// @return false, and the point untouched, for a plane whose normal is shorter than 1e-6 (none is
 ///         chosen), a ray with |normal . direction| < 1e-6, or a plane behind the ray's start
@@ -49,7 +52,7 @@ NB_MANIPULATOR_API osg::Vec3f axisPlaneNormal(const osg::Vec3f& axis, const osg:
 
 /// Columns of unit length, x in the direction of the matrix's first column, y in its plane with the
 /// second, right-handed; scale, shear and mirroring are left out.
-/// @return the identity if a column is shorter than 1e-6 of the others
+/// @return the identity if one of the two is zero or they are parallel, sine below 1e-6
 NB_MANIPULATOR_API osg::Matrix orthonormalised(const osg::Matrix& matrix);
 
 /// A ring's frame as a drag sees it: origin at the ring's centre, unit axes radial (to the grabbed

@@ -21,12 +21,6 @@ constexpr float kLeastAxisRatio = 0.01F;
 constexpr float kLeastUniformFactor = 0.1F;
 constexpr float kUniformSpeed = 0.1F;
 
-osg::Vec3f unitVector(osg::Vec3f vector)
-{
-    vector.normalize();
-    return vector;
-}
-
 /// Takes out of the other two axes of a frame what lies along one of them: the coordinate along
 /// that axis is then a point's distance from the plane at right angles to it.
 void straighten(osg::Matrix& frame, osg::UInt32 axis)
@@ -66,7 +60,7 @@ osg::Vec3f ringAxisAbove(const osg::NodePtr& node, const GrabbedGizmo& grabbed)
     const osg::Matrix worldFromParent = parentToWorld(node);
     osg::Vec3f ringAxis = column(grabbed.frame, axisOf(grabbed.handle));
     inverted(worldFromParent).multMatrixVec(ringAxis);
-    ringAxis.normalize();
+    ringAxis = unitVector(ringAxis);
     return worldFromParent.det3() < 0.0F ? -ringAxis : ringAxis;
 }
 
@@ -92,15 +86,15 @@ osg::Vec3f movementAxis(const osg::NodePtr& node, const GrabbedGizmo& grabbed, o
     own[axis] = 1.0F;
     own = rotated(turnOf(node), own);
     parentToWorld(node).multMatrixVec(own);
-    return unitVector(own.length() < kShortest ? drawn : own);
+    return own.length() > 0.0F ? unitVector(own) : drawn;
 }
 
-/// Frame in which translation is measured: the node's own, with scale but without pivots.
+/// Frame in which translation is measured: the node's own, without scale and pivots.
 osg::Matrix translationFrame(const osg::NodePtr& node, const TransformStart& start,
-                             const osg::Vec3f& frameScale, ActiveMode handle)
+                             ActiveMode handle)
 {
     osg::Matrix own;
-    own.setTransform(start.translationLocal, start.rotation, frameScale);
+    own.setTransform(start.translationLocal, start.rotation);
     osg::Matrix frame = parentToWorld(node);
     frame.mult(own);
     if (const osg::UInt32 axis = axisOf(handle); isTranslation(handle) && axis < 3) {
@@ -188,6 +182,7 @@ TransformDrag prepareManipulator(const osg::NodePtr& node, const GrabbedGizmo& g
 {
     TransformDrag drag;
     drag.handle = grabbed.handle;
+    drag.unit = grabbed.unit;
     updateManipulatorPlane(drag, node, grabbed, view);
     drag.starts.push_back(captureStart(node, grabbed));
 
@@ -201,12 +196,7 @@ TransformDrag prepareManipulator(const osg::NodePtr& node, const GrabbedGizmo& g
         intersectPlane(drag.plane, *ray, drag.dragStartWorld);
     }
     if (!isRing(grabbed.handle)) {
-        for (osg::UInt32 i = 0; i < 3; ++i) {
-            const float factor = drag.starts[0].scale[i];
-            drag.frameScale[i] = std::abs(factor) < kShortest ? 1.0F : factor;
-        }
-        drag.inverseDragFrame =
-            inverted(translationFrame(node, drag.starts[0], drag.frameScale, grabbed.handle));
+        drag.inverseDragFrame = inverted(translationFrame(node, drag.starts[0], grabbed.handle));
     }
     drag.inverseScaleFrame = inverted(scaleFrame(grabbed, drag.dragStartWorld, view));
     drag.dragStartLocal = mapped(drag.inverseDragFrame, drag.dragStartWorld);
@@ -219,14 +209,9 @@ TransformDrag prepareManipulator(const osg::NodePtr& node, const GrabbedGizmo& g
 
 osg::Vec3f offsetAt(const TransformDrag& drag, const osg::Pnt3f& point, bool isLocal)
 {
-    if (!isLocal) {
-        return maskedByHandle(point - drag.dragStartWorld, drag.handle);
-    }
-    osg::Vec3f offset = mapped(drag.inverseDragFrame, point) - drag.dragStartLocal;
-    for (osg::UInt32 i = 0; i < 3; ++i) {
-        offset[i] *= drag.frameScale[i];
-    }
-    return maskedByHandle(offset, drag.handle);
+    return maskedByHandle(isLocal ? mapped(drag.inverseDragFrame, point) - drag.dragStartLocal
+                                  : point - drag.dragStartWorld,
+                          drag.handle);
 }
 
 osg::Vec3f withSnappedLength(const osg::Vec3f& offset, double step)
@@ -252,7 +237,7 @@ double factorAt(const TransformDrag& drag, const osg::Pnt3f& point, osg::UInt32 
 {
     const bool isUniform = drag.handle == ActiveMode::ScaleUniform;
     const osg::UInt32 axis = isUniform ? upAxis : axisOf(drag.handle);
-    if (axis > 2 || std::abs(drag.scaleAnchor[axis]) < kShortest) {
+    if (axis > 2 || std::abs(drag.scaleAnchor[axis]) < kShortest * drag.unit) {
         return 1.0;
     }
     const float ratio = mapped(drag.inverseScaleFrame, point)[axis] / drag.scaleAnchor[axis];

@@ -51,6 +51,7 @@ struct GrabbedGizmo
 struct TransformDrag
 {
     ActiveMode handle = ActiveMode::None;
+    float unit = 1.0F;  ///< world units of the handles' unit frame
     osg::Plane plane;  ///< in which the pointer's ray is intersected, world; not of a ring
     RingDrag ring;  ///< the grabbed one
     osg::Matrix inverseDragFrame;  ///< world to the frame of translate and rotate
@@ -58,8 +59,6 @@ struct TransformDrag
     osg::Pnt3f dragStartWorld;
     osg::Pnt3f dragStartLocal;  ///< in the drag frame
     osg::Vec3f scaleAnchor;  ///< start in the scale frame
-    osg::Vec3f frameScale;  ///< scale that is part of the drag frame; 1 where the node's is too
-                            ///< small to divide by
     std::vector<TransformStart> starts;  ///< of the dragged node and the further ones
 };
 

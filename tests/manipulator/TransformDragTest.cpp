@@ -33,9 +33,8 @@ TEST(TransformDrag, AnOffsetHasTheAxesOfItsHandleInTheWorldOrTheNodesFrame)
     TransformDrag drag;
     drag.dragStartWorld = Pnt3f(1, 1, 1);
     drag.inverseDragFrame = moved(0, 0, 5);
-    drag.inverseDragFrame[0][0] = 2;
-    drag.dragStartLocal = Pnt3f(2, 1, 6);
-    drag.frameScale = Vec3f(3, 1, 1);
+    drag.inverseDragFrame[0][0] = 6;
+    drag.dragStartLocal = Pnt3f(6, 1, 6);
     const Pnt3f point(3, 5, 9);
 
     const struct
@@ -73,6 +72,8 @@ TEST(TransformDrag, FactorsAreRatiosWithAFloor)
     EXPECT_FLOAT_EQ(factor(ActiveMode::ScaleX, point, 1), 2.5);
     EXPECT_FLOAT_EQ(factor(ActiveMode::ScaleY, point, 1), 2);
     EXPECT_EQ(factor(ActiveMode::ScaleZ, point, 1), 1) << "too near to divide by";
+    drag.unit = 1e-2F;
+    EXPECT_GT(factor(ActiveMode::ScaleZ, point, 1), 1e6) << "the gizmo is small, too";
     EXPECT_FLOAT_EQ(factor(ActiveMode::ScaleX, Pnt3f(), 1), 0.01);
     EXPECT_FLOAT_EQ(factor(ActiveMode::ScaleUniform, point, 1), 1.1);
     EXPECT_FLOAT_EQ(factor(ActiveMode::ScaleUniform, Pnt3f(0, 4, 0), 1), 0.95);

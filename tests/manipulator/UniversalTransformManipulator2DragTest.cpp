@@ -148,6 +148,39 @@ TEST(Drags, UniformFactorGrowsUpTheScreenWhereZIsUp)
     expectNear(drags.core()->getScale(), Vec3f(1.2F, 1.2F, 1.2F), "scale", 2e-3F);
 }
 
+TEST(Drags, TinyScenesAreDraggedAsLargeOnes)
+{
+    constexpr float kTiny = 1e-6F;
+    for (const bool isLocal : { kWorld, kLocal }) {
+        for (const bool isParentTiny : { false, true }) {
+            DragScene drags;
+            UniversalTransformManipulator2::setLocalSpaceManipulator(isLocal);
+            drags.scene.lookFrom(Pnt3f(0, 0, 10 * kTiny));
+            const Pnt3f corner(kTiny, kTiny, kTiny);
+            drags.scene.widget.getUberCamera()->setNearFarFromBounds(Pnt3f(corner * -1.0F), corner);
+            drags.edit(isParentTiny ? drags.parentCore() : drags.core(),
+                       [](const osg::Transform3DPtr& core) {
+                           core->setScale(Vec3f(kTiny, kTiny, kTiny));
+                       });
+            const float unit = isParentTiny ? 1.0F : kTiny;
+            drags.activate(Mode::Universal);
+            ASSERT_TRUE(drags.grab(kArrow));
+            EXPECT_TRUE(drags.dragBy(Vec2f(72, 0)));
+            EXPECT_NEAR(drags.core()->getTranslation().x() / unit, kStep, 2e-3F);
+            EXPECT_TRUE(drags.dragBy(Vec2f()));
+            EXPECT_TRUE(drags.release());
+            ASSERT_TRUE(drags.grab(kRing));
+            EXPECT_TRUE(drags.dragBy(Vec2f(-51, -22)));
+            EXPECT_NEAR(drags.core()->getRotation().z(), 45, 0.1F);
+            EXPECT_TRUE(drags.dragBy(Vec2f()));
+            EXPECT_TRUE(drags.release());
+            ASSERT_TRUE(drags.grab(kScaleHandle));
+            EXPECT_TRUE(drags.dragBy(Vec2f(73, 0)));
+            EXPECT_NEAR(drags.core()->getScale().x() / unit, 2, 0.01F);
+        }
+    }
+}
+
 TEST(Drags, ScaleHandlesLieAlongTheNodesOwnAxesInEveryMode)
 {
     for (const Mode mode : { Mode::Universal, Mode::TranslateRotateScale, Mode::Scale }) {
