@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "nbTransformModel.h"
 
+#include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbScopedUndo.h>
 #include <nbKernelServices/nbTransformTable.h>
 #include <nbKernelServices/nbUndoService.h>
@@ -11,6 +12,7 @@
 #include <nbTransform/detail/PivotEdit.h>
 #include <nbUtils/nbLog.h>
 
+#include <OpenSG/OSGDynamicVolume.h>
 #include <OpenSG/OSGNode.h>
 
 #include <QtCore/QCoreApplication>
@@ -72,9 +74,27 @@ private:
     nbTransformMath::Frame frame;
 };
 
+/// Makes a node a Transform3D, with its pivots at the centre of its volume, about which a drag
+/// would turn it, too; the scene root keeps its own.
 Transform3DPtr convertedCore(const osg::NodePtr& node)
 {
-    return Transform3DPtr::dcast(nbNodeUtils::convertToTransform3DNode(node)->getCore());
+    const osg::NodePtr converted = nbNodeUtils::convertToTransform3DNode(node);
+    const auto core = Transform3DPtr::dcast(converted->getCore());
+    const osg::DynamicVolume& volume = converted->getVolume(true);
+    if (node != nbScenegraph::getRootNode() && volume.isValid() && !volume.isEmpty()) {
+        osg::Pnt3f center;
+        volume.getCenter(center);
+        osg::Matrix nodeFromParent;
+        core->getMatrix().inverse(nodeFromParent);
+        nodeFromParent.multMatrixPnt(center);
+        // Where the pivots of a new transform are is part of the conversion.
+        const nbScopedUndo unrecorded(false);
+        nbNodeUtils::setTransformNodeRotatePivot(converted, center.x(), center.y(), center.z(),
+                                                 true, -1);
+        nbNodeUtils::setTransformNodeScalePivot(converted, center.x(), center.y(), center.z(), true,
+                                                -1);
+    }
+    return core;
 }
 
 inline Transform3DPtr transformOf(const osg::NodePtr& node)

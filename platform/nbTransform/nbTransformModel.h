@@ -13,7 +13,8 @@
 ///
 /// Setters take a count and a function that yields, for each index from 0, the target and its new
 /// value. Targets are edited in the order of their indices, each with a core that is Transform3D;
-/// other nodes are converted first, which becomes part of the undo step. One call is one undo scope
+/// other nodes are converted first, with both pivots at the centre of their volume, which becomes
+/// part of the undo step. One call is one undo scope
 /// (see nbUndoService), whatever the count.
 ///
 /// Spaces: local is the frame of the node's parent, world the scene's. A target's place in local

@@ -6,6 +6,7 @@
 
 #include <nbNotification/NotificationManager.h>
 #include <nbOpenSGUtils/nbNodePermission.h>
+#include <nbTransform/nbTransformModel.h>
 
 #include <OpenSG/OSGGroup.h>
 
@@ -129,6 +130,15 @@ TEST(DragConversion, AGroupBecomesATransformWithItsPivotsAtTheObjectsCentre)
     holder->addChild(box.get());
     drags.activate(Mode::Rotate);
     EXPECT_LT((drags.onGizmo(Vec3f(0, 0, 0)) - Pnt3f(1, 0.5F, 0)).length(), 1e-5F);
+    const osg::RefPtr<osg::NodeCorePtr> group(node->getCore());
+    nbTransformModel::the()->setRotation(1, [&](osg::UInt32) {
+        return nbTransformModel::Value({ node, -1 }, Vec3f(0, 0, 30));
+    });
+    drags.gizmo.update(false);
+    EXPECT_LT((drags.onGizmo(Vec3f(0, 0, 0)) - Pnt3f(1, 0.5F, 0)).length(), 1e-5F)
+        << "a typed angle turns about the same point";
+    setCore(node, group.get());
+    drags.gizmo.update(true);
 
     ASSERT_TRUE(drags.grab(kRing));
     ASSERT_NE(drags.core(), osg::NullFC);
