@@ -59,6 +59,11 @@ void UniversalTransformManipulator2::enableSnapping(bool on)
     course().snappingEnabled = on;
 }
 
+void UniversalTransformManipulator2::setSnapRule(SnapRule rule)
+{
+    course().snapRule = rule;
+}
+
 void UniversalTransformManipulator2::setDescriptionEnabled(bool on)
 {
     course().descriptionEnabled = on;

@@ -46,6 +46,7 @@ class NB_MANIPULATOR_API UniversalTransformManipulator2 : public GizmoFace<NodeM
 public:
     using ManipulatorMode = transform::ManipulatorMode;
     using ActiveMode = transform::ActiveMode;
+    using SnapRule = transform::SnapRule;
 
     /// Builds the handles, hidden, in mode translate; joins the list of live instances.
     UniversalTransformManipulator2();
@@ -136,6 +137,9 @@ public:
 
     /// Switches snapping of this gizmo.
     void enableSnapping(bool on);
+
+    /// What snapping makes of turns and scales; SnapRule::Gathered after construction.
+    void setSnapRule(SnapRule rule);
 
     /// Switches the on-screen text of this gizmo.
     void setDescriptionEnabled(bool on);

@@ -294,13 +294,17 @@ nbEulerAngles turnedAngles(const TransformStart& start, const HalfTurn& turn,
     return nbEulerUtils::nearest(nbEulerUtils::EulFromQuat(turned, start.anglesRad.order), before);
 }
 
-osg::Vec3f scaledBy(const TransformStart& start, ActiveMode handle, float factor, double step)
+osg::Vec3f scaledBy(const TransformStart& start, ActiveMode handle, float factor, double step,
+                    SnapRule rule)
 {
     const bool isUniform = handle == ActiveMode::ScaleUniform;
     osg::Vec3f scale = start.scale;
     for (osg::UInt32 i = 0; i < 3; ++i) {
         if (isUniform || i == axisOf(handle)) {
-            scale[i] = static_cast<float>(snapped(scale[i] * factor, step));
+            const double wanted = scale[i] * factor;
+            const double rounded = snapped(wanted, step);
+            const bool isLost = rule == SnapRule::Exact && rounded == 0.0 && wanted != 0.0;
+            scale[i] = static_cast<float>(isLost ? std::copysign(step, wanted) : rounded);
         }
     }
     return scale;

@@ -117,6 +117,7 @@ nbEulerAngles turnedAngles(const TransformStart& start, const HalfTurn& turn,
                            const nbEulerAngles& before);
 
 /// Scale times a factor along the axis of a handle, or all; these components are snapped to a step.
-osg::Vec3f scaledBy(const TransformStart& start, ActiveMode handle, float factor, double step);
+osg::Vec3f scaledBy(const TransformStart& start, ActiveMode handle, float factor, double step,
+                    SnapRule rule = SnapRule::Gathered);
 
 }  // namespace nbec::manipulator::transform

@@ -345,21 +345,23 @@ DragStep TransformGizmo::turnAt(const osg::Pnt3f& point, const DragTrack& before
     const osg::Pnt3f place = mapped(drag.inverseDragFrame, point);
     if (movesPivot()) {
         next.turned = computeRotation(drag.dragStartLocal, place, axisOf(handle()));
-    } else {
-        double angle = computeRotation(before.last, place, axisOf(handle()));
-        if (isSnapping()) {
-            const double precision = nbTransformModel::the()->getRotationPrecision();
-            angle = snapped(angle, 2.0 * precision * kDegreeFactor);
-            if (angle == 0.0) {
-                // Deliberate: the last point stays, so that small motions add up until they pass
-                // half a step.
-                return DragStep(DragStep::Outcome::Waiting, before);
-            }
-        }
-        next.last = place;
-        next.turned += angle;
+        return { { DragParameters::Kind::Angle, next.turned * kDegPerRad }, next };
     }
-    return { { DragParameters::Kind::Angle, next.turned * kDegPerRad }, next };
+    const double precision = isSnapping() ? nbTransformModel::the()->getRotationPrecision() : 0.0;
+    const double step = 2.0 * precision * kDegreeFactor;
+    double angle = computeRotation(before.last, place, axisOf(handle()));
+    if (snapRule == SnapRule::Gathered) {
+        angle = snapped(angle, step);
+        if (angle == 0.0 && isSnapping()) {
+            // Deliberate: the last point stays, so that small motions add up until they pass half a
+            // step.
+            return DragStep(DragStep::Outcome::Waiting, before);
+        }
+    }
+    next.last = place;
+    next.turned += angle;
+    const double total = snapRule == SnapRule::Exact ? snapped(next.turned, step) : next.turned;
+    return { { DragParameters::Kind::Angle, total * kDegPerRad }, next };
 }
 
 /// New value of a target: one of the five transformations. @param turn  by a ring, for all
@@ -376,7 +378,7 @@ osg::Vec3f TransformGizmo::valueOf(std::size_t target, const DragParameters& par
     }
     if (isScale(handle())) {
         const double step = isSnapping() ? nbTransformModel::the()->getScalePrecision() : 0.0;
-        return scaledBy(start, handle(), parameters.first(), step);
+        return scaledBy(start, handle(), parameters.first(), step, snapRule);
     }
     return movedTranslation(start, parameters.vec3(), isLocal());
 }

@@ -37,6 +37,7 @@ public:
     bool isSnapping() const { return snappingEnabled || settings->_temporary_snapping_active; }
 
     bool snappingEnabled = false;
+    SnapRule snapRule = SnapRule::Gathered;
     bool descriptionEnabled = true;
 
 protected:

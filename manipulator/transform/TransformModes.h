@@ -39,6 +39,17 @@ enum class ActiveMode : osg::UInt32
     ScaleUniform = 13
 };
 
+/// What snapping makes of turns and scales.
+enum class SnapRule
+{
+    /// A turn advances by the rounded angle since it last did, and goes on from the pointer: it can
+    /// run ahead of it. A scale may become 0, from which no drag leads back.
+    Gathered,
+    /// A turn is what was swept since the start, rounded. A scale that would become 0 becomes one
+    /// step, with the sign that it had.
+    Exact
+};
+
 constexpr bool isRing(ActiveMode handle)
 {
     return handle >= ActiveMode::RotateX && handle <= ActiveMode::RotateZ;

@@ -377,6 +377,33 @@ TEST(SnappingDrags, RotationGathersSmallSteps)
     }
 }
 
+TEST(SnappingDrags, TheExactRuleTurnsByWhatIsSweptAndKeepsAScale)
+{
+    DragScene drags;
+    drags.activate(Mode::Rotate);
+    drags.gizmo.enableSnapping(true);
+    drags.gizmo.setSnapRule(UniversalTransformManipulator2::SnapRule::Exact);
+    ASSERT_TRUE(drags.grab(Vec3f(kDiagonal, kDiagonal, 0)));
+    for (int i = 1; i <= 180; ++i) {
+        const int pointerDeg = i <= 90 ? i : 180 - i;
+        const float angle = (45.0F + static_cast<float>(pointerDeg)) * kRadiansPerDegree;
+        EXPECT_TRUE(drags.stepTo(
+            Vec2f(250.0F * std::cos(angle) - 51.0F, 51.0F - 250.0F * std::sin(angle))));
+        EXPECT_NEAR(drags.core()->getRotation().z(), pointerDeg, 8) << "step " << i;
+        if (i % 90 == 0) {
+            EXPECT_NEAR(drags.core()->getRotation().z(), pointerDeg, 1e-3F) << "step " << i;
+        }
+    }
+    EXPECT_TRUE(drags.release());
+
+    drags.activate(Mode::Scale);
+    drags.edit(drags.core(),
+               [](const osg::Transform3DPtr& core) { core->setScale(Vec3f(-1, 1, 1)); });
+    ASSERT_TRUE(drags.grabAt("xsShape", drags.onGizmo(Vec3f(1.5F, 0, 0))));
+    EXPECT_TRUE(drags.stepTo(Vec2f(71, 0)));  // 2 / 73 = 0.027
+    expectNear(drags.core()->getScale(), Vec3f(-0.1F, 1, 1), "one step", 1e-6F);
+}
+
 TEST(SnappingDrags, TranslationsAndScalesEndOnMultiples)
 {
     DragScene drags;
