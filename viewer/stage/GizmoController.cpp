@@ -91,6 +91,7 @@ GizmoController::GizmoController(nbec::interaction::InteractionManager& interact
     context.setPicker(&picker);
     const osg::NodePtr root = nbScenegraph::getInternalRoot();
     transform.setVisualisationRoot(root);
+    transform.setSnapRule(nbec::manipulator::UniversalTransformManipulator2::SnapRule::Exact);
     camera.setVisualisationRoot(root);
 }
 
