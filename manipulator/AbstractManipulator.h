@@ -7,6 +7,7 @@
 #include <OpenSG/OSGRefPtr.h>
 #include <OpenSG/OSGVector.h>
 
+#include <cmath>
 #include <string>
 
 namespace nbec::manipulator {
@@ -73,7 +74,13 @@ public:
         return false;
     }
 
-    void setMousePosition(const osg::Pnt2f& position) override { mousePosition = position; }
+    /// One that is no number is ignored, as the render widget ignores it.
+    void setMousePosition(const osg::Pnt2f& position) override
+    {
+        if (std::isfinite(position.x()) && std::isfinite(position.y())) {
+            mousePosition = position;
+        }
+    }
 
     osg::Pnt2f getMousePosition() const override { return mousePosition; }
 

@@ -166,9 +166,6 @@ bool PerspectiveMatchManipulator::processManipulator(ManipulatorInteractionConte
     if (handle == match::kNoPart || viewportOf(view) == osg::NullFC) {
         return false;
     }
-    if (!view.hasPointer()) {
-        return true;
-    }
     if (!dragging) {
         dragStart = pointerFromBelow(view);
         lineAtDragStart = getLine(line);

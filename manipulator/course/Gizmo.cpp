@@ -97,9 +97,6 @@ bool Gizmo::process(const View& view)
     if (armed == 0 || !canStep(view)) {
         return false;
     }
-    if (!view.hasPointer()) {
-        return true;
-    }
     if (prepared) {
         step(view);
         return armed != 0;

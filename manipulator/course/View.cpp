@@ -64,11 +64,6 @@ int View::getHeight() const
     return widget != nullptr ? widget->getHeight() : 0;
 }
 
-bool View::hasPointer() const
-{
-    return std::isfinite(pointer.x()) && std::isfinite(pointer.y());
-}
-
 osg::Vec2f View::pointerFromBelow() const
 {
     return osg::Vec2f(pointer.x(), static_cast<float>(getHeight() - 1) - pointer.y());
@@ -76,7 +71,7 @@ osg::Vec2f View::pointerFromBelow() const
 
 std::optional<osg::Line> View::pointerRay() const
 {
-    if (widget == nullptr || !hasPointer() || widget->getCamera() == osg::NullFC ||
+    if (widget == nullptr || widget->getCamera() == osg::NullFC ||
         widget->getViewport() == osg::NullFC) {
         return std::nullopt;
     }

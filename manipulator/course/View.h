@@ -64,9 +64,6 @@ public:
     /// Device pixels, y from the top.
     const osg::Pnt2f& getPointer() const { return pointer; }
 
-    /// Whether there is one: a host may say one that is no number, which is ignored.
-    bool hasPointer() const;
-
     /// The same counted from the lowest row, which is 0.
     osg::Vec2f pointerFromBelow() const;
 

@@ -4,6 +4,7 @@
 #include <nbUtils/nbGuard.h>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace nbec::interaction {
@@ -149,6 +150,9 @@ void InteractionManager::setEnabled(InteractionContext* context, bool on)
 
 void InteractionManager::pointerMoved(const osg::Pnt2f& positionPx)
 {
+    if (!std::isfinite(positionPx.x()) || !std::isfinite(positionPx.y())) {
+        return;
+    }
     forEachEnabled([&positionPx](InteractionContext& context) {
         context.pointerMoved(positionPx);
         return true;
@@ -167,6 +171,11 @@ bool InteractionManager::triggerEvent(const InteractionEvent& event)
 {
     const std::string& name = event.getEvent();
     if (event.getTool() == names::kModeTool) {
+        if (name == names::kStart) {
+            mode = event.getHint();
+        } else if (name == names::kStop && mode == event.getHint()) {
+            mode = names::kNoMode;
+        }
         return broadcast(event);
     }
     if (name == names::kStart) {
@@ -303,6 +312,8 @@ bool InteractionManager::hover(const InteractionEvent& event)
     // One that stands before the taker was asked and knows by itself that it is no longer hovered.
     if (former != 0 && former != taker && taker != 0 && position(taker) < position(former)) {
         offerTo(former, InteractionEvent(names::kStopHover, event.getTool(), event.getHint()));
+        // What the former one gives back by that, such as preselection, is now the taker's to take.
+        offerTo(taker, event);
     }
     return taker != 0;
 }

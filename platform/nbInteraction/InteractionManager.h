@@ -32,7 +32,11 @@ enum class DragEnd
 /// "process" events up to and with the next "stop" are dropped, as they belong to a drag that is
 /// over.
 ///
-/// Hover: when a context takes a hover that another took before, the other gets a "stopHover".
+/// Hover: when a context takes a hover that one after it took before, that one gets a "stopHover"
+/// and the taker the hover once more.
+///
+/// Modes: selectMode() and events of the tool "mode" ("start" enters the mode that the hint names,
+/// "stop" leaves it for "") set the same mode.
 ///
 /// Contexts are not owned; either side may die first. Contexts may be added, removed and destroyed
 /// from inside any call to a context, the manager may not be destroyed there. What a context throws
@@ -63,7 +67,7 @@ public:
     void setEnabled(InteractionContext* context, bool on);
 
     /// Tells all enabled contexts where the pointer is. @param positionPx  device pixels, y from
-    /// the top
+    /// the top; one that is no number is ignored
     void pointerMoved(const osg::Pnt2f& positionPx);
     /// Tells all enabled contexts that the camera moved. @param worldFromCamera  4x4, column
     /// vectors

@@ -281,20 +281,75 @@ double usefulness(const QLineF& first, const QLineF& second)
     return std::abs(apart.x() * along.y() - apart.y() * along.x());
 }
 
-/// Part of an edge of a box of half size 1 along an axis, at a corner (0 to 3) of the plane across
-/// the axis. It ends before the box's corners, where edges meet, so that lines have ends of their
-/// own.
-std::array<osg::Vec3d, 2> boxEdge(int axis, int corner)
+/// A box about the point that a camera turns about, as its picture shows it.
+struct BoxPicture
 {
-    constexpr double kPartOfEdge = 0.8;
-    std::array<osg::Vec3d, 2> ends;
-    for (int end = 0; end < 2; ++end) {
-        ends[end][axis] = end == 0 ? -kPartOfEdge : kPartOfEdge;
-        ends[end][(axis + 1) % kAxisCount] = (corner & 1) != 0 ? 1.0 : -1.0;
-        ends[end][(axis + 2) % kAxisCount] = (corner & 2) != 0 ? 1.0 : -1.0;
+    /// Where a line ends on its edge, from the middle, in half edges: before the box's corners.
+    static constexpr double kUsualPlace = 0.8;
+
+    PerspectiveAim aim;
+    double width, height;
+    double depth;  ///< of the middle
+    double halfSize;
+
+    /// A point of an edge along an axis at a corner (0 to 3) of the plane across the axis.
+    /// @param place  from the edge's middle, in half edges
+    QPointF pointOf(int axis, int corner, double place) const
+    {
+        osg::Vec3d onBox;
+        onBox[axis] = place;
+        onBox[(axis + 1) % kAxisCount] = (corner & 1) != 0 ? 1.0 : -1.0;
+        onBox[(axis + 2) % kAxisCount] = (corner & 2) != 0 ? 1.0 : -1.0;
+        const osg::Vec3d point = osg::Vec3d(0.0, 0.0, -depth) + toCamera(aim, onBox) * halfSize;
+        return QPointF(0.5 * width - aim.focalLength * point[0] / point[2],
+                       0.5 * height - aim.focalLength * point[1] / point[2]);
     }
-    return ends;
-}
+
+    /// Corners of the two edges along an axis that tell most.
+    std::array<int, 2> usefulEdges(int axis) const
+    {
+        const auto edge = [&](int corner) {
+            return QLineF(pointOf(axis, corner, -kUsualPlace), pointOf(axis, corner, kUsualPlace));
+        };
+        std::array<int, 2> found {};
+        double best = -1.0;
+        for (int first = 0; first < 4; ++first) {
+            for (int second = first + 1; second < 4; ++second) {
+                const double use = usefulness(edge(first), edge(second));
+                if (use > best) {
+                    best = use;
+                    found = { first, second };
+                }
+            }
+        }
+        return found;
+    }
+
+    /// An end of an edge, where it keeps away from the ends that lie already: lines are grabbed
+    /// there.
+    /// @param side  -1 or 1
+    QPointF freeEnd(int axis, int corner, double side, const std::vector<QPointF>& ends) const
+    {
+        constexpr double kPlaces[] = {
+            kUsualPlace, 0.6, 1.0, 0.4, 1.2, 1.5
+        };  // the first if it is free
+        constexpr double kFree = 0.03;  // reference sizes
+        QPointF found;
+        double most = -1.0;
+        for (const double place : kPlaces) {
+            const QPointF point = pointOf(axis, corner, side * place);
+            double distance = kFree;
+            for (const QPointF& end : ends) {
+                distance = std::min(distance, QLineF(point, end).length());
+            }
+            if (distance > most) {
+                most = distance;
+                found = point;
+            }
+        }
+        return found;
+    }
+};
 
 }  // namespace
 
@@ -359,35 +414,20 @@ PerspectiveLines nbPerspectiveSolver::linesOf(const CameraPose& pose, double wid
     /// Half the box in parts of the depth, and of the smaller half of the picture.
     constexpr double kPartOfDepth = 0.3;
     constexpr double kPartOfPicture = 0.5;
-    const PerspectiveAim aim = aimOf(pose, height);
-    const osg::Vec3d centre = toCamera(aim, turningPoint(pose, aim) - toDouble(pose.from));
-    const double depth = std::max<double>(-centre[2], nbCameraNavigation::kNearestDistance);
-    const double halfPicture = 0.5 * std::min(width, height) * depth / aim.focalLength;
-    const double halfSize = std::min(kPartOfDepth * depth, kPartOfPicture * halfPicture);
-    const auto project = [&](const osg::Vec3d& corner) {
-        const osg::Vec3d point = osg::Vec3d(0.0, 0.0, -depth) + toCamera(aim, corner) * halfSize;
-        return QPointF(0.5 * width - aim.focalLength * point[0] / point[2],
-                       0.5 * height - aim.focalLength * point[1] / point[2]);
-    };
+    BoxPicture box { aimOf(pose, height), width, height, 0.0, 0.0 };
+    const osg::Vec3d centre = toCamera(box.aim, turningPoint(pose, box.aim) - toDouble(pose.from));
+    box.depth = std::max<double>(-centre[2], nbCameraNavigation::kNearestDistance);
+    const double halfPicture = 0.5 * std::min(width, height) * box.depth / box.aim.focalLength;
+    box.halfSize = std::min(kPartOfDepth * box.depth, kPartOfPicture * halfPicture);
+    std::vector<QPointF> ends;
     PerspectiveLines lines;
-    auto* linesOfAxis = lines.begin();
-    for (int axis = 0; axis < kAxisCount; ++axis, linesOfAxis += 2) {
-        constexpr int kEdgesOfAxis = 4;
-        std::array<QLineF, kEdgesOfAxis> edges;
-        for (int i = 0; i < kEdgesOfAxis; ++i) {
-            const auto ends = boxEdge(axis, i);
-            edges[static_cast<std::size_t>(i)] = QLineF(project(ends[0]), project(ends[1]));
-        }
-        double best = -1.0;
-        for (std::size_t first = 0; first < edges.size(); ++first) {
-            for (std::size_t second = first + 1; second < edges.size(); ++second) {
-                const double use = usefulness(edges[first], edges[second]);
-                if (use > best) {
-                    best = use;
-                    linesOfAxis[0] = edges[first];
-                    linesOfAxis[1] = edges[second];
-                }
+    auto* line = lines.begin();
+    for (int axis = 0; axis < kAxisCount; ++axis) {
+        for (const int corner : box.usefulEdges(axis)) {
+            for (const double side : { -1.0, 1.0 }) {
+                ends.push_back(box.freeEnd(axis, corner, side, ends));
             }
+            *line++ = QLineF(ends[ends.size() - 2], ends.back());
         }
     }
     return lines;

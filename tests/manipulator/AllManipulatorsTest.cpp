@@ -11,6 +11,9 @@
 #include <OpenSG/OSGContainerCensus.h>
 #include <OpenSG/OSGSimpleGeometry.h>
 
+#include <cmath>
+#include <limits>
+
 namespace nbec::manipulator::test {
 
 template <class Gizmo>
@@ -226,6 +229,34 @@ TYPED_TEST(Manipulators, NeitherHoverNorResetTakesAGrabbedHandleAway)
     EXPECT_TRUE(this->step());
     EXPECT_NE(this->edited(), before);
     EXPECT_TRUE(this->say("stop"));
+}
+
+TYPED_TEST(Manipulators, APointerThatIsNoNumberIsIgnored)
+{
+    ASSERT_TRUE(this->press());
+    const Pnt2f start = this->pointer;
+    constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
+    const auto stepNowhere = [&] {
+        for (const Pnt2f& nowhere : { Pnt2f(kNaN, 9), Pnt2f(9, kNaN), Pnt2f(kNaN, kNaN) }) {
+            const std::vector<float> before = this->edited();
+            this->stage.point(nowhere);
+            this->gizmo->setMousePosition(nowhere);  // as of a manager of the host's own
+            EXPECT_TRUE(this->say("process"));
+            EXPECT_EQ(this->edited(), before);
+        }
+    };
+    stepNowhere();
+    this->point(start);
+    EXPECT_TRUE(this->step());
+    EXPECT_TRUE(this->step());
+    stepNowhere();
+    this->point(start);
+    EXPECT_TRUE(this->say("process"));
+    const std::vector<float> after = this->edited();
+    EXPECT_TRUE(this->say("stop"));
+    for (const float value : after) {
+        EXPECT_TRUE(std::isfinite(value));
+    }
 }
 
 TYPED_TEST(Gizmos, AStopThatIsLostIsMadeGoodByTheNextStart)

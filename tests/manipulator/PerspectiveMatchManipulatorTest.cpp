@@ -273,6 +273,29 @@ TEST_F(PerspectiveMatchManipulatorTest, AnEndLedBackBringsCameraAndLinesBackToTh
     }
 }
 
+TEST_F(PerspectiveMatchManipulatorTest, TheFirstActivationLaysLinesAsSeenAndNoLaterOne)
+{
+    const osg::RefPtr<osg::UberCameraPtr> fresh(osg::UberCamera::create());
+    const nbdCameraNode node(fresh->getInternalParentNode().getFieldContainerId());
+    const auto look = [&](const osg::Pnt3f& from) {
+        fresh->setFromAtUp(from, osg::Pnt3f(), osg::Vec3f(0, 1, 0));
+    };
+    look(osg::Pnt3f(9, 9, 9));
+    EXPECT_FALSE(node.getPerspectiveMatch().getXLine1().isNull()) << "asking lays nothing";
+    look(osg::Pnt3f(4, 3, 6));
+    gizmo.setCamera(fresh.get());
+    const QLineF laid = node.getPerspectiveMatch().getXLine1();
+    expectLine(drawnLine(gizmo, 1), laid);
+    EXPECT_EQ(stepCount(), 0);
+    node.updateFromPerspectiveMatch();
+    EXPECT_LT(fresh->getFrom().dist(osg::Pnt3f(4, 3, 6)), 1e-3F) << "the camera stays";
+
+    look(osg::Pnt3f(-4, 3, 6));
+    gizmo.setCamera(osg::NullFC);
+    gizmo.setCamera(fresh.get());
+    expectLine(node.getPerspectiveMatch().getXLine1(), laid);
+}
+
 // == Hovering, grabbing and the magnifier
 
 TEST_F(PerspectiveMatchManipulatorTest, HoverHighlightsALineWithItsEndsOrAnEndAndStartNeedsIt)

@@ -155,7 +155,8 @@ TEST_F(InteractionManagerTest, HoverTakenFromALowerContextEndsThere)
     log.clear();
     send("hover");
     EXPECT_THAT(takeLog(log),
-                ElementsAre("upper hover tool/select", "lower stopHover tool/select"));
+                ElementsAre("upper hover tool/select", "lower stopHover tool/select",
+                            "upper hover tool/select"));
 
     // The upper one was asked itself this time.
     upper.taken.clear();
@@ -181,8 +182,10 @@ TEST_F(InteractionManagerTest, EndOfHoverAndModeEventsReachEveryContext)
     send("start", "mode", "measure");
     send("stop", "mode", "other");
     EXPECT_EQ("measure", lower.getMode());
+    EXPECT_EQ("measure", manager.getMode()) << "what is added later hears it, too";
     send("stop", "mode", "measure");
     EXPECT_EQ("", lower.getMode());
+    EXPECT_EQ("", manager.getMode());
     EXPECT_EQ(1, std::count(log.begin(), log.end(), "lower mode measure"));
     EXPECT_EQ(1, std::count(log.begin(), log.end(), "lower mode "));
 }

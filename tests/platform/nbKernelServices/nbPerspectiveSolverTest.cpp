@@ -204,4 +204,21 @@ TEST(nbPerspectiveSolver, TakesTheSignsNearestToTheCameraAsItStands)
     }
 }
 
+TEST(nbPerspectiveSolver, NoTwoEndsOfLaidLinesShareASpot)
+{
+    Studio studio(3);
+    for (int i = 0; i < 500; ++i) {
+        const CameraPose pose = nbPerspectiveSolver::turned(CameraPose(), studio.camera(), 1.0);
+        std::vector<QPointF> ends;
+        for (const QLineF& line : nbPerspectiveSolver::linesOf(pose, 1.6, 1.0)) {
+            for (const QPointF& end : { line.p1(), line.p2() }) {
+                for (const QPointF& other : ends) {
+                    EXPECT_GT(QLineF(end, other).length(), 0.02) << i;
+                }
+                ends.push_back(end);
+            }
+        }
+    }
+}
+
 }  // namespace
