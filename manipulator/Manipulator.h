@@ -28,8 +28,9 @@ class ManipulatorInteractionContext;
 /// - A group of undo that is left open is closed by the next one (see nbUndoService::beginGroup);
 ///   manipulators open and close scopes only within one call.
 /// - Receivers may neither call the manipulator that is sending nor deactivate or destroy it or its
-///   context: that waits until the event has been answered. A drag is stopped before its
-///   manipulator is deactivated, and a manipulator is deactivated before it dies.
+///   context: that waits until the event has been answered. Between events manager, contexts,
+///   picker, manipulators and view may die in any order, in a drag, too; what is drawn of a
+///   manipulator that is not deactivated before it dies stays below its visualisation root.
 class NB_MANIPULATOR_API Manipulator
 {
 public:
@@ -94,7 +95,8 @@ public:
     /// was taken
     virtual bool setManipulatorMode(const std::string& mode) = 0;
 
-    virtual ~Manipulator() = default;
+    /// Takes the manipulator out of the contexts that hold it.
+    virtual ~Manipulator();
 };
 
 }  // namespace nbec::manipulator

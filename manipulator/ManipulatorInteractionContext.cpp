@@ -6,15 +6,58 @@
 #include <nbInteraction/InteractionEvent.h>
 #include <nbInteraction/Picker.h>
 
+#include <algorithm>
+#include <vector>
+
 namespace nbec::manipulator {
 
 using interaction::InteractionEvent;
 using interaction::InteractionManager;
 using interaction::MultimodeInteractionContext;
 
+namespace {
+
+/// All that live. Never destroyed, as contexts may be static objects themselves.
+std::vector<ManipulatorInteractionContext*>& liveContexts()
+{
+    static auto* const all = new std::vector<ManipulatorInteractionContext*>;
+    return *all;
+}
+
+}  // namespace
+
+Manipulator::~Manipulator()
+{
+    for (ManipulatorInteractionContext* const context : liveContexts()) {
+        if (context->manipulator == this) {
+            context->manipulator = nullptr;
+        }
+    }
+}
+
+ManipulatorInteractionContext::ManipulatorInteractionContext(
+    interaction::PreferredPosition position)
+    : MultimodeInteractionContext(position)
+{
+    liveContexts().push_back(this);
+}
+
+ManipulatorInteractionContext::ManipulatorInteractionContext(
+    const ManipulatorInteractionContext& other)
+    : MultimodeInteractionContext(other)
+    , manipulator(other.manipulator)
+    , picker(other.picker)
+    , toolName(other.toolName)
+    , pointerPosition(other.pointerPosition)
+{
+    liveContexts().push_back(this);
+}
+
 ManipulatorInteractionContext::~ManipulatorInteractionContext()
 {
     leaveManager();
+    auto& all = liveContexts();
+    all.erase(std::find(all.begin(), all.end(), this));
 }
 
 void ManipulatorInteractionContext::enabled(InteractionManager* manager)
@@ -98,6 +141,7 @@ bool ManipulatorInteractionContext::triggerEvent(InteractionManager* manager,
 
 bool ManipulatorInteractionContext::selectMode(const std::string& mode)
 {
+    MultimodeInteractionContext::selectMode(mode);
     return manipulator != nullptr && manipulator->setManipulatorMode(mode);
 }
 

@@ -42,15 +42,11 @@ public:
 
     /// @param position  where the manager places the context among the others
     explicit ManipulatorInteractionContext(
-        interaction::PreferredPosition position = kManipulatorPosition)
-        : MultimodeInteractionContext(position)
-    { }
-
-    ManipulatorInteractionContext(const ManipulatorInteractionContext&) = default;
+        interaction::PreferredPosition position = kManipulatorPosition);
+    ManipulatorInteractionContext(const ManipulatorInteractionContext& other);
     ManipulatorInteractionContext& operator=(const ManipulatorInteractionContext&) = default;
 
-    /// Leaves its manager, which deactivates the manipulator: that one must outlive the context or
-    /// be taken away before.
+    /// Leaves its manager, which deactivates the manipulator.
     ~ManipulatorInteractionContext() override;
 
     void enabled(interaction::InteractionManager* manager) override;
@@ -61,10 +57,11 @@ public:
     bool triggerEvent(interaction::InteractionManager* manager,
                       const interaction::InteractionEvent& event) override;
 
-    /// Passes the mode to the manipulator. @return its answer, false without one
+    /// Keeps the mode and passes it to the manipulator. @return its answer, false without one
     bool selectMode(const std::string& mode) override;
 
-    /// Sets the current manipulator, not owned. The picker gets its collider.
+    /// Sets the current manipulator, not owned; one that dies is taken out by itself. The picker
+    /// gets its collider.
     /// Deliberate: null does not clear the picker's node, the picker keeps the last collider.
     void setManipulator(Manipulator* current);
 
@@ -80,6 +77,8 @@ public:
     osg::Pnt2f getPointerPosition() const { return pointerPosition; }
 
 private:
+    friend class Manipulator;
+
     void handOverCollider();
 
     Manipulator* manipulator = nullptr;

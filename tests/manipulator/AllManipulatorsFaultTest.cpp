@@ -2,6 +2,9 @@
 // What becomes of a drag when the host fails in the middle of it, for every manipulator that drags.
 #include "tests/manipulator/support/AnyManipulator.h"
 
+#include <algorithm>
+#include <array>
+
 namespace nbec::manipulator::test {
 
 template <class Gizmo>
@@ -77,6 +80,50 @@ TYPED_TEST(Drags, AViewThatVanishesWithItsCameraInADragLosesNothing)
         EXPECT_EQ(this->stage.check(), "");
         this->expectUsable();
     }
+}
+
+TYPED_TEST(Drags, NoOrderOfDestructionDoesHarm)
+{
+    ASSERT_TRUE(this->hover(this->kTraits.handle));
+    const osg::Pnt2f place = this->pointer;
+    this->drop();
+    std::array<int, 5> order { 0, 1, 2, 3, 4 };
+    do {
+        auto manager = std::make_unique<interaction::InteractionManager>();
+        auto picker = std::make_unique<interaction::Picker>();
+        this->gizmo = std::make_unique<TypeParam>();
+        auto route = std::make_unique<ManipulatorInteractionContext>();
+        auto copy = std::make_unique<ManipulatorInteractionContext>(*route);
+        if (this->stage.view == nullptr) {
+            this->stage.addView();
+        }
+        this->gizmo->setVisualisationRoot(nbScenegraph::getInternalRoot());
+        route->setPicker(picker.get());
+        route->setManipulator(this->gizmo.get());
+        *copy = *route;
+        manager->addContext(route.get());
+        equip(*this->gizmo, this->stage);
+        this->stage.view->setMousePosition(place);
+        manager->pointerMoved(place);
+        for (const char* event : { "hover", "start", "process", "process" }) {
+            EXPECT_TRUE(
+                manager->triggerEvent(interaction::InteractionEvent(event, "tool", "select")));
+        }
+        for (const int next : order) {
+            next == 0       ? manager.reset()
+                : next == 1 ? picker.reset()
+                : next == 2 ? this->gizmo.reset()
+                : next == 3 ? route.reset()
+                            : this->stage.view.reset();
+        }
+        EXPECT_EQ(copy->getManipulator(), nullptr);
+        this->stage.renewReceivers();
+    } while (std::next_permutation(order.begin(), order.end()));
+    EXPECT_EQ(this->stage.check(), "");
+    nbScenegraph::setPreselectionEnabled(true);  // who has died in a hover owes it
+    this->stage.addView();
+    this->equipNew();
+    this->expectUsable();
 }
 
 using MatchDrags = Drags<PerspectiveMatchManipulator>;

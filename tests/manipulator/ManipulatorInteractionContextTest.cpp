@@ -5,6 +5,7 @@
 
 #include <nbInteraction/InteractionManager.h>
 #include <nbInteraction/Picker.h>
+#include <nbKernel/nbScenegraph.h>
 
 #include <gtest/gtest.h>
 
@@ -86,6 +87,45 @@ TEST(ManipulatorInteractionContext, ReturnsTheManipulatorsAnswer)
                   answer);
         EXPECT_EQ(context.selectMode("precisionTool"), answer);
     }
+}
+
+TEST(ManipulatorInteractionContext, AModeIsTheSameHoweverItIsSet)
+{
+    InteractionManager manager;
+    ManipulatorInteractionContext context;
+    RecordingManipulator manipulator;
+    context.setManipulator(&manipulator);
+    manager.addContext(&context);
+    manager.selectMode("precisionTool");
+    manipulator.takeCalls();
+    manager.triggerEvent(InteractionEvent("start", "mode", "precisionTool"));
+    EXPECT_EQ(manipulator.takeCalls(), Calls {}) << "it has it already";
+    manager.triggerEvent(InteractionEvent("start", "mode", "zoom"));
+    EXPECT_EQ(manipulator.takeCalls(), Calls { "mode zoom" });
+    EXPECT_EQ(context.getMode(), manager.getMode());
+    manager.triggerEvent(InteractionEvent("stop", "mode", "zoom"));
+    EXPECT_EQ(manipulator.takeCalls(), Calls { "mode " });
+    EXPECT_EQ(manager.getMode(), "");
+}
+
+TEST(ManipulatorInteractionContext, PreselectionStaysOffWhenHoverGoesToAnUpperOne)
+{
+    InteractionManager manager;
+    ManipulatorInteractionContext upper(static_cast<interaction::PreferredPosition>(101));
+    ManipulatorInteractionContext lower;
+    nbScenegraph::setPreselectionEnabled(true);
+    RecordingManipulator manipulators[2];
+    upper.setManipulator(&manipulators[0]);
+    lower.setManipulator(&manipulators[1]);
+    manager.addContext(&upper);
+    manager.addContext(&lower);
+    manipulators[1].answer = true;
+    manager.triggerEvent(InteractionEvent("hover", "tool", "select"));
+    manipulators[0].answer = true;
+    manager.triggerEvent(InteractionEvent("hover", "tool", "select"));
+    EXPECT_FALSE(nbScenegraph::isPreselectionEnabled());
+    manager.triggerEvent(InteractionEvent("stopHover", "tool", "select"));
+    EXPECT_TRUE(nbScenegraph::isPreselectionEnabled());
 }
 
 TEST(ManipulatorInteractionContext, WithoutManipulatorEverythingFallsThrough)
