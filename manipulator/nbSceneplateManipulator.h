@@ -33,8 +33,9 @@ class PlateGizmo;
 ///   only the grabbed handle and the frame are shown.
 /// - Handles lie in a plane before the eye whose unit is a pixel, over plates and scene. Sizes in
 ///   logical pixels at the default manipulator size: boxes 10, knob 12 across, arm 32.
-/// - The arm stands above the frame, where the knob would not be in view below it, otherwise
-///   within. Boxes of a frame that reaches beyond opposite edges of the view are pulled in.
+/// - The arm stands above the frame, where the knob would not be in view below it, right or left
+///   of it. A frame that leaves no room for that, or reaches beyond opposite edges of the view, is
+///   drawn cut so that it does; in a view that is too small for handles they shrink.
 /// - Scaling keeps the proportions and the opposite corner; in mode "precisionTool" (Ctrl) the
 ///   centre. The mode may change within a drag. The longer side keeps at least 4 pixels.
 /// - Snapping (enableSnapping(), for body and arm also while the mode is "precisionTool"): the

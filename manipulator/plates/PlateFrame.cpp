@@ -17,7 +17,13 @@ constexpr double kShortest = 1e-3;
 /// Nearer to the centre than this a pointer has no direction, pixels.
 constexpr double kLeastArm = 0.5;
 constexpr double kWholeTurn = 360.0;
-constexpr float kHalfTurn = 180.0F;
+/// Of the arm against the frame, in the order of PlateArm, and the middles of sides where it
+/// stands.
+constexpr float kArmTurns[] = { 0.0F, 180.0F, -90.0F, 90.0F };
+constexpr double kArmFeet[][2] = { { 0.0, 1.0 }, { 0.0, -1.0 }, { 1.0, 0.0 }, { -1.0, 0.0 } };
+/// Room that a fitted frame leaves at the view's edges, and least side of an upright box around it.
+constexpr float kFittedMargin = kPlateArmLength + kPlateKnobRadius;
+constexpr float kFittedLeast = 1.5F * kPlateLeastSide;
 
 /// Places of the corners, in half sides from the centre, y up.
 constexpr double kCornerPlaces[kPlateCornerCount][2] = {
@@ -110,13 +116,14 @@ double snapFactor(double factor, const osg::Pnt2f& anchor, const osg::Vec2f& dia
 /// Rotation of the way from the frame to the knob.
 float armRotation(const PlateFrame& frame, PlateArm arm)
 {
-    return arm == PlateArm::Above ? frame.rotation : frame.rotation + kHalfTurn;
+    return frame.rotation + kArmTurns[static_cast<std::size_t>(arm)];
 }
 
 osg::Pnt2f armEnd(const PlateFrame& frame, PlateArm arm, const PlateView& view)
 {
     const float lengthPx = kPlateArmLength * view.unitPx;
-    const osg::Pnt2f foot = pointOfFrame(frame, 0.0, arm == PlateArm::Below ? -1.0 : 1.0);
+    const auto& [alongX, alongY] = kArmFeet[static_cast<std::size_t>(arm)];
+    const osg::Pnt2f foot = pointOfFrame(frame, alongX, alongY);
     const double angle = armRotation(frame, arm) / kDegPerRad;
     return foot -
         lengthPx *
@@ -138,6 +145,58 @@ PlateFrame grabbableFrame(const PlateFrame& frame, const PlateView& view)
     return result;
 }
 
+/// Whether a frame reaches beyond opposite edges of the view, or so near that its boxes do.
+bool isBeyondView(const PlateFrame& frame, const PlateView& view)
+{
+    const osg::Vec2f half = halfOfBox(frame);
+    const float inset = 0.5F * kPlateBoxSize * view.unitPx;
+    const auto reaches = [&](osg::UInt32 axis) {
+        const auto last = static_cast<float>(lengthOf(view, axis)) - inset;
+        return frame.centre[axis] - half[axis] < inset && frame.centre[axis] + half[axis] > last;
+    };
+    return reaches(0) || reaches(1);
+}
+
+/// The part of a frame in the view, less the margin; of a turned one what fits in there.
+PlateFrame fittedFrame(const PlateFrame& frame, const PlateView& view)
+{
+    const float margin = kFittedMargin * view.unitPx;
+    const float least = kFittedLeast * view.unitPx;
+    PlateFrame result = grabbableFrame(frame, view);
+    const osg::Vec2f half = halfOfBox(result);
+    osg::Vec2f room;  // halves, as all here
+    osg::Vec2f part;
+    for (const osg::UInt32 axis : { 0U, 1U }) {
+        const float last = static_cast<float>(lengthOf(view, axis)) - margin;
+        const float centre = frame.centre[axis];
+        const float low = std::clamp(centre - half[axis], margin, last - least);
+        const float high = std::clamp(centre + half[axis], margin + least, last);
+        result.centre[axis] = 0.5F * (low + high);
+        room[axis] = 0.5F * (high - low);
+        part[axis] = std::min(1.0F, room[axis] / half[axis]);
+    }
+    // Sides along the view's edges are cut on their own.
+    const auto cosine = static_cast<float>(std::cos(frame.rotation / kDegPerRad));
+    const float upright = cosine * cosine;
+    result.size[0] *= upright * part.x() + (1.0F - upright) * part.y();
+    result.size[1] *= upright * part.y() + (1.0F - upright) * part.x();
+    result = grabbableFrame(result, view);
+    PlateFrame smallest = result;
+    smallest.size = osg::Vec2f(0.0F, 0.0F);
+    smallest = grabbableFrame(smallest, view);
+    const osg::Vec2f reach = halfOfBox(result);
+    const osg::Vec2f leastReach = halfOfBox(smallest);
+    float grown = 1.0F;
+    for (const osg::UInt32 axis : { 0U, 1U }) {
+        const float spare = reach[axis] - leastReach[axis];
+        if (reach[axis] > room[axis] && spare > 0.0F) {
+            grown = std::min(grown, std::max(room[axis] - leastReach[axis], 0.0F) / spare);
+        }
+    }
+    result.size = smallest.size + (result.size - smallest.size) * grown;
+    return result;
+}
+
 }  // namespace
 
 osg::Pnt2f pointOfFrame(const PlateFrame& frame, double alongX, double alongY)
@@ -156,37 +215,35 @@ osg::Pnt2f cornerOfFrame(const PlateFrame& frame, std::size_t corner)
     return pointOfFrame(frame, alongX, alongY);
 }
 
-PlateArm chooseArm(const PlateFrame& frame, const PlateView& view)
+PlateStance chooseStance(const PlateFrame& frame, const PlateView& view)
 {
     const PlateFrame drawn = grabbableFrame(frame, view);
-    for (const PlateArm arm : { PlateArm::Above, PlateArm::Below, PlateArm::Inside }) {
-        if (isInView(armEnd(drawn, arm, view), kPlateKnobRadius * view.unitPx, view)) {
-            return arm;
-        }
-    }
-    return PlateArm::Above;
-}
-
-PlateHandles layOutHandles(const PlateFrame& frame, PlateArm arm, const PlateView& view)
-{
-    PlateHandles handles;
-    handles.frame = grabbableFrame(frame, view);
-    for (std::size_t i = 0; i < kPlateCornerCount; ++i) {
-        handles.corners[i] = cornerOfFrame(handles.frame, i);
-    }
-    const osg::Vec2f half = halfOfBox(handles.frame);
-    const float inset = 0.5F * kPlateBoxSize * view.unitPx;
-    for (const osg::UInt32 axis : { 0U, 1U }) {
-        const auto last = static_cast<float>(lengthOf(view, axis)) - inset;
-        const float centre = handles.frame.centre[axis];
-        if (last > inset && centre - half[axis] < inset && centre + half[axis] > last) {
-            for (osg::Pnt2f& corner : handles.corners) {
-                corner[axis] = std::clamp(corner[axis], inset, last);
+    if (!isBeyondView(drawn, view)) {
+        for (const PlateArm arm :
+             { PlateArm::Above, PlateArm::Below, PlateArm::Right, PlateArm::Left }) {
+            if (isInView(armEnd(drawn, arm, view), kPlateKnobRadius * view.unitPx, view)) {
+                return { arm, false };
             }
         }
     }
-    handles.knob = armEnd(handles.frame, arm, view);
-    handles.armRotation = armRotation(handles.frame, arm);
+    return { PlateArm::Above, true };
+}
+
+PlateHandles layOutHandles(const PlateFrame& frame, const PlateStance& stance, PlateView view)
+{
+    if (stance.isFitted) {
+        const int shorter = std::min(view.widthPx, view.heightPx);
+        view.unitPx = std::min(view.unitPx,
+                               static_cast<float>(shorter) / (2.0F * kFittedMargin + kFittedLeast));
+    }
+    PlateHandles handles;
+    handles.unitPx = view.unitPx;
+    handles.frame = stance.isFitted ? fittedFrame(frame, view) : grabbableFrame(frame, view);
+    for (std::size_t i = 0; i < kPlateCornerCount; ++i) {
+        handles.corners[i] = cornerOfFrame(handles.frame, i);
+    }
+    handles.knob = armEnd(handles.frame, stance.arm, view);
+    handles.armRotation = armRotation(handles.frame, stance.arm);
     return handles;
 }
 

@@ -36,12 +36,21 @@ constexpr float kPlateLeastSide = 28.0F;
 /// Reach of snapping.
 constexpr float kPlateSnapReach = 8.0F;
 
-/// Where the arm of rotation stands.
-enum class PlateArm
+/// Where the arm of rotation stands, as the frame is turned.
+enum class PlateArm : std::size_t
 {
-    Above,  ///< of the frame, as the frame is turned
+    Above,
     Below,
-    Inside  ///< hangs from the upper edge into the frame
+    Right,
+    Left
+};
+
+/// How handles stand around a frame; it stays while one of them is held.
+struct PlateStance
+{
+    PlateArm arm = PlateArm::Above;
+    /// There is no room around the frame: it is drawn cut or moved so that there is.
+    bool isFitted = false;
 };
 
 /// Where handles are drawn.
@@ -51,6 +60,7 @@ struct PlateHandles
     std::array<osg::Pnt2f, kPlateCornerCount> corners;
     osg::Pnt2f knob;
     float armRotation = 0.0F;  ///< of the way from the frame to the knob; 0 is up
+    float unitPx = 1.0F;  ///< as of the view; less where that is too small for handles
 };
 
 /// What a drag does to the plates since its start.
@@ -75,13 +85,13 @@ osg::Pnt2f pointOfFrame(const PlateFrame& frame, double alongX, double alongY);
 
 osg::Pnt2f cornerOfFrame(const PlateFrame& frame, std::size_t corner);
 
-/// The first place of the arm, in the order of PlateArm, at which the whole knob is in the view;
-/// above if there is none.
-PlateArm chooseArm(const PlateFrame& frame, const PlateView& view);
+/// The first place of the arm, in the order of PlateArm, at which the whole knob is in the view.
+/// Fitted if there is none, or if the frame reaches beyond opposite edges of the view.
+PlateStance chooseStance(const PlateFrame& frame, const PlateView& view);
 
-/// Places the handles of a frame. One that reaches beyond both opposite edges of the view gets its
-/// corner boxes pulled in, so that all of each is seen.
-PlateHandles layOutHandles(const PlateFrame& frame, PlateArm arm, const PlateView& view);
+/// Places the handles of a frame. Of a fitted one all of each is in the view, the arm outside of
+/// the frame, and none lies over another; in a view that is too small for that handles shrink.
+PlateHandles layOutHandles(const PlateFrame& frame, const PlateStance& stance, PlateView view);
 
 /// A frame after a change: scaled and turned about its centre, which moves by the offset.
 PlateFrame changedFrame(const PlateFrame& frame, const PlateChange& change);

@@ -154,10 +154,9 @@ void PlateGizmo::place(const View& view)
         std::isfinite(frame.centre.x() + frame.centre.y() + frame.size.x() + frame.size.y() +
                       frame.rotation);
     if (isPlaced) {
-        // While it is held the arm does not change its side.
-        const PlateArm side = isGrabbed() ? drag.arm : chooseArm(frame, plane);
+        const PlateStance stance = isGrabbed() ? drag.stance : chooseStance(frame, plane);
         setMatrix(handles.getRoot(), *worldFromPx);
-        placeHandles(layOutHandles(frame, side, plane), plane.unitPx);
+        placeHandles(layOutHandles(frame, stance, plane));
         placeGuides(plane);
     }
     handles.showRoot(isPlaced);
@@ -177,9 +176,9 @@ void PlateGizmo::put(std::size_t row, const osg::Pnt2f& centrePx, float rotation
     setMatrix(handles.getNode(row), place);
 }
 
-void PlateGizmo::placeHandles(const PlateHandles& layout, float unit) const
+void PlateGizmo::placeHandles(const PlateHandles& layout) const
 {
-    const osg::Vec2f unitSize(unit, unit);
+    const osg::Vec2f unitSize(layout.unitPx, layout.unitPx);
     for (std::size_t i = 0; i < kPlateCornerCount; ++i) {
         put(i, layout.corners[i], layout.frame.rotation, unitSize * kPlateBoxSize, kHandleLayer);
     }
@@ -219,7 +218,7 @@ bool PlateGizmo::prepare(const View& view)
     drag = Drag();
     drag.view = { view.getWidth(), view.getHeight(), unitPx() };
     drag.start = nbSceneplateLayout::frame(getPlates(), drag.view.widthPx, drag.view.heightPx);
-    drag.arm = chooseArm(drag.start, drag.view);
+    drag.stance = chooseStance(drag.start, drag.view);
     drag.pressedPx = view.getPointer();
     previewPause.begin();
     return true;

@@ -61,7 +61,7 @@ private:
     {
         PlateFrame start;
         osg::Pnt2f pressedPx;
-        PlateArm arm = PlateArm::Above;
+        PlateStance stance;
         PlateView view;
         bool isBroken = false;  ///< other plates were set
         PlateChange change;  ///< sent last
@@ -81,7 +81,7 @@ private:
     PlateChange changeOf(const DragParameters& parameters, PlateGuides& guides) const;
     void put(std::size_t row, const osg::Pnt2f& centrePx, float rotation, const osg::Vec2f& size,
              float layer) const;
-    void placeHandles(const PlateHandles& layout, float unit) const;
+    void placeHandles(const PlateHandles& layout) const;
     void placeGuides(const PlateView& view);
 
     std::vector<osg::UInt32> nodeIds;

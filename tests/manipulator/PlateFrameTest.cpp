@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <random>
 
 namespace nbec::manipulator::plates {
 namespace {
@@ -20,15 +21,6 @@ PlateFrame makeFrame(float x, float y, float width, float height, float rotation
     return frame;
 }
 
-::testing::AssertionResult isAt(const osg::Pnt2f& point, float x, float y)
-{
-    if (std::hypot(point.x() - x, point.y() - y) <= kTolerancePx) {
-        return ::testing::AssertionSuccess();
-    }
-    return ::testing::AssertionFailure()
-        << "(" << point.x() << ", " << point.y() << ") is not (" << x << ", " << y << ")";
-}
-
 /// Scales a frame by a pull at its upper right corner, whose opposite stays.
 PlateChange pullCorner(const PlateFrame& start, const osg::Vec2f& pull, PlateGuides* guides)
 {
@@ -37,16 +29,43 @@ PlateChange pullCorner(const PlateFrame& start, const osg::Vec2f& pull, PlateGui
                       guides);
 }
 
-TEST(PlateFrame, BoxesOfAFrameBeyondTheViewArePulledIn)
+TEST(PlateFrame, ArmAndBoxesAreFreeInEveryView)
 {
-    const float inset = kPlateBoxSize / 2;
-    const PlateHandles filled =
-        layOutHandles(makeFrame(400, 300, 800, 900), PlateArm::Inside, kView);
-    EXPECT_TRUE(isAt(filled.corners[0], inset, 600 - inset));
-    EXPECT_TRUE(isAt(filled.corners[3], 800 - inset, inset));
-    // Partly out of view they would run into each other, so they stay.
-    const PlateHandles leaving = layOutHandles(makeFrame(0, 300, 90, 90), PlateArm::Above, kView);
-    EXPECT_TRUE(isAt(leaving.corners[0], -45, 345));
+    std::mt19937 generator(11);
+    const auto between = [&](double low, double high) {
+        return std::uniform_real_distribution<float>(low, high)(generator);
+    };
+    for (const PlateView& view : { kView, PlateView { 20, 15, 1 }, PlateView { 800, 30, 1 },
+                                   PlateView { 40, 600, 1 }, PlateView { 300, 300, 2 } }) {
+        const auto width = static_cast<float>(view.widthPx);
+        const auto height = static_cast<float>(view.heightPx);
+        for (int i = 0; i < 400; ++i) {
+            const float most = i % 2 == 0 ? 1.0F : 4.0F;
+            const PlateFrame frame =
+                makeFrame(between(-width, 2 * width), between(-height, 2 * height),
+                          between(0, most * width), between(0, most * height),
+                          i % 3 == 0 ? 90.0F * static_cast<float>(i % 4) : between(-180, 180));
+            const PlateStance stance = chooseStance(frame, view);
+            const PlateHandles found = layOutHandles(frame, stance, view);
+            SCOPED_TRACE(testing::Message() << view.widthPx << " wide, " << i);
+            const auto isSeen = [&](const osg::Pnt2f& at, float radius) {
+                const float inset = radius * found.unitPx - kTolerancePx;
+                return at.x() >= inset && at.x() <= width - inset && at.y() >= inset &&
+                    at.y() <= height - inset;
+            };
+            EXPECT_TRUE(isSeen(found.knob, kPlateKnobRadius));
+            const auto box = kPlateBoxSize * found.unitPx;
+            const osg::Pnt2f top = pointOfFrame(found.frame, 0, 0);
+            EXPECT_GE(std::hypot(found.knob.x() - top.x(), found.knob.y() - top.y()),
+                      std::min(found.frame.size.x(), found.frame.size.y()) / 2 + 2 * box);
+            for (std::size_t one = 0; one < kPlateCornerCount; ++one) {
+                EXPECT_TRUE(!stance.isFitted || isSeen(found.corners[one], kPlateBoxSize / 2));
+                for (std::size_t other = 0; other < one; ++other) {
+                    EXPECT_GE((found.corners[one] - found.corners[other]).length(), 2 * box);
+                }
+            }
+        }
+    }
 }
 
 TEST(PlateFrame, TheArmIsWhereItsKnobIsInView)
