@@ -47,6 +47,7 @@ int Gizmo::detect(interaction::Picker* picker)
 
 bool Gizmo::hover(interaction::Picker* picker)
 {
+    endLostPause();
     if (isHeld()) {
         return true;
     }
@@ -58,6 +59,7 @@ bool Gizmo::hover(interaction::Picker* picker)
 
 bool Gizmo::reset()
 {
+    endLostPause();
     if (!isHeld()) {
         handles.light(0, mode);
         if (!rules.isHoverKept) {
@@ -94,6 +96,7 @@ bool Gizmo::start(interaction::Picker* picker)
 
 bool Gizmo::process(const View& view)
 {
+    endLostPause();
     if (armed == 0 || !canStep(view)) {
         return false;
     }
@@ -141,7 +144,7 @@ bool Gizmo::letGo()
     }
     release();
     if (!hasTarget()) {
-        previewPause.setOverdue();
+        previewPause.end();
         vanish();
         return false;
     }
@@ -180,6 +183,14 @@ void Gizmo::release()
     if (wasHeld) {
         handles.show(mode, 0);
         showText(false);
+    }
+}
+
+/// Resumes a preview that nothing to edit is left for.
+void Gizmo::endLostPause()
+{
+    if (previewPause.isPausing() && !hasTarget()) {
+        previewPause.end();
     }
 }
 
@@ -237,7 +248,7 @@ void Gizmo::activateMode(int newMode)
 
 void Gizmo::update(bool force)
 {
-    previewPause.endOverdue();
+    endLostPause();
     const float own = placementNumber();
     if (!force && !watch.mayHaveChanged(own)) {
         return;

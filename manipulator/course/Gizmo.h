@@ -188,6 +188,7 @@ private:
     bool begin(const View& view);
     void step(const View& view);
     void release();
+    void endLostPause();
     void vanish();
     bool isTreeMoved() const;
 

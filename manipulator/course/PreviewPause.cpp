@@ -21,7 +21,6 @@ void PreviewPause::begin()
 {
     sendEnabled(false);
     isOwed = true;
-    isOverdue = false;
 }
 
 void PreviewPause::resume()
@@ -29,7 +28,6 @@ void PreviewPause::resume()
     sendEnabled(true);
     nbController::call("updateMatRender", 0);
     isOwed = false;
-    isOverdue = false;
 }
 
 void PreviewPause::end()

@@ -30,20 +30,10 @@ public:
     /// Resumes the preview if a pause is owed.
     void end();
 
-    /// A pause that is owed could not be ended with its drag, since there was nothing left to edit.
-    void setOverdue() { isOverdue = isOwed; }
-
-    /// Resumes the preview if that is overdue.
-    void endOverdue()
-    {
-        if (isOverdue) {
-            end();
-        }
-    }
+    bool isPausing() const { return isOwed; }
 
 private:
     bool isOwed = false;
-    bool isOverdue = false;
 };
 
 }  // namespace nbec::manipulator

@@ -10,9 +10,8 @@ namespace nbec::manipulator::texture {
 /// Course of the texture gizmos that stand at an anchor point: what they edit, and when they are
 /// placed anew. See AnchoredTextureManipulator, their face.
 ///
-/// Deliberate: a stop resumes the preview even if no step has paused it, but without a material it
-/// sends nothing. What is owed then is made good by the next event, another material or the gizmo's
-/// end.
+/// Deliberate: a stop resumes the preview even if no step has paused it; without a material only
+/// what is owed.
 class AnchoredGizmo : public TextureGizmo
 {
 public:

@@ -348,6 +348,32 @@ TYPED_TEST(Pausing, ThePreviewIsPausedFromTheStartOrFirstStepToTheStop)
     EXPECT_EQ(this->messages.takeNames(), kResume);
 }
 
+TYPED_TEST(Pausing, ThePreviewGoesOnAtTheNextCallAfterTheTargetWasDestroyedInADrag)
+{
+    using Call = void (*)(TypeParam&, ManipulatorInteractionContext&);
+    const Call calls[] = {
+        [](TypeParam& of, ManipulatorInteractionContext&) { of.update(false); },
+        [](TypeParam& of, ManipulatorInteractionContext& ctx) { of.hover(&ctx, "select"); },
+        [](TypeParam& of, ManipulatorInteractionContext& ctx) {
+            of.processManipulator(&ctx, "select");
+        },
+        [](TypeParam& of, ManipulatorInteractionContext& ctx) {
+            of.stopManipulator(&ctx, "select");
+        },
+    };
+
+    for (const Call call : calls) {
+        ASSERT_TRUE(this->press());
+        EXPECT_TRUE(this->step());
+        EXPECT_TRUE(this->stage.preview.isPaused());
+        this->destroy(this->kTraits.edited);
+        call(*this->gizmo, this->context);
+        EXPECT_FALSE(this->stage.preview.isPaused()) << &call - calls;
+        this->say("stop");
+        this->restore();
+    }
+}
+
 TYPED_TEST(Pausing, AManipulatorThatDiesInADragResumesThePreview)
 {
     ASSERT_TRUE(this->hover(this->kTraits.handle));
