@@ -85,24 +85,6 @@ osg::SimpleMaterialPtr makeLineMaterial()
     return material;
 }
 
-/// Turns a geometry's surface to the other side: windings and normals.
-void faceBack(const osg::GeometryPtr& geometry)
-{
-    const nbEdit edit(geometry, osg::FieldBits::AllFields);
-    // In a strip of two triangles, exchanged neighbours are the same triangles the other way round.
-    const osg::GeoIndicesPtr indices = geometry->getIndices();
-    for (osg::UInt32 i = 0; i + 1 < indices->getSize(); i += 2) {
-        const osg::UInt32 first = indices->getValue(i);
-        const osg::UInt32 second = indices->getValue(i + 1);
-        indices->setValue(second, i);
-        indices->setValue(first, i + 1);
-    }
-    const osg::GeoNormalsPtr normals = geometry->getNormals();
-    for (osg::UInt32 i = 0; i < normals->getSize(); ++i) {
-        normals->setValue(-normals->getValue(i), i);
-    }
-}
-
 /// Lines between the corners of the projection at one or more heights: at each of them four,
 /// counter-clockwise from the lower left one. @param edges  their ends, pair by pair
 osg::NodePtr makeLines(std::initializer_list<float> heights, const std::vector<osg::UInt32>& edges,
@@ -186,9 +168,9 @@ void nbPlanarProjectionVisualization::createGeo()
         material = makePlaneMaterial(textureChunk.get());
         const osg::NodePtr plane = osg::makePlane(kPlaneSize, kPlaneSize, 1, 1);
         setGeometryMaterial(plane, material.get());
-        if (&material != &planeMaterials[0]) {
-            faceBack(osg::GeometryPtr::dcast(plane->getCore()));
-        }
+        // Deliberate: one of them is out of use. Without culling a plane is seen from both sides,
+        // and two of them would be blended over each other.
+        showNode(plane, &material == &planeMaterials[0]);
         addChild(transform2DNode.get(), plane);
     }
     const osg::SimpleMaterialPtr lineMaterial = makeLineMaterial();

@@ -65,7 +65,8 @@ public:
     void setVisible(bool visible);
     /// Shows or hides the Z extent; visible at first.
     void setZScaleVisible(bool visible);
-    /// @param transparency  of each of the two planes, 0 (opaque) .. 1; 0.8 at first
+    /// @param transparency  of the plane as it is seen from either side, 0 (opaque) .. 1; 0.8 at
+    ///                      first
     void setPlaneTransparency(float transparency);
 
     float getPlaneTransparency() const { return planeMaterials[0]->getTransparency(); }
@@ -88,7 +89,7 @@ private:
     osg::NodeRefPtr transform2DNode;
     osg::NodeRefPtr zExtentTransformNode;
     osg::NodeRefPtr zExtentGeometryNode;
-    /// One plane for each side that the projection can be seen from: facing along z, and back.
+    /// The first one's plane is seen, from both sides.
     std::array<osg::SimpleMaterialRefPtr, 2> planeMaterials;
     osg::RefPtr<osg::TextureChunkPtr> textureChunk;
     /// Id of the image and flags of the last setTexture(). What the chunk shows belongs to the
