@@ -78,6 +78,17 @@ bool resolvePlanar(const osg::ColorComponentSettingsPtr& settings, ProjectedPict
     return true;
 }
 
+/// Offsets of the projections along x, y and z as vectors of the object's axes. Across its plane,
+/// where a projection has no offset of its own, it takes the mean of the two others': once it is
+/// turned, that counts, and what shifts them shifts it along.
+std::array<osg::Vec3f, 3> triplanarOffsets(const osg::Vec3f& u, const osg::Vec3f& v)
+{
+    constexpr float kHalf = 0.5F;
+    return { osg::Vec3f(kHalf * (u[1] + u[2]), u[0], v[0]),
+             osg::Vec3f(u[1], kHalf * (u[0] + v[2]), v[1]),
+             osg::Vec3f(u[2], v[2], kHalf * (v[0] + v[1])) };
+}
+
 bool resolveTriplanar(const osg::ColorComponentSettingsPtr& settings, ProjectedPicture& picture)
 {
     constexpr float kHundredth = 0.01F;
@@ -96,12 +107,17 @@ bool resolveTriplanar(const osg::ColorComponentSettingsPtr& settings, ProjectedP
     };
     // The inverse of a turn has its rows as columns.
     picture.pictureFromSurface = matrixOf(row(0), row(1), row(2), osg::Vec3f(0.0F, 0.0F, 0.0F));
+    const std::array<osg::Vec3f, 3> offsets =
+        triplanarOffsets(settings->getTriplanarOffsetU(), settings->getTriplanarOffsetV());
     for (osg::UInt32 i = 0; i < ProjectedPicture::kTileCount; ++i) {
         const float repeatU = settings->getTriplanarRepeatU()[i];
         const float repeatV = settings->getTriplanarRepeatV()[i];
-        picture.tiles[i] =
-            osg::Vec4f(repeatU, repeatV, settings->getTriplanarOffsetU()[i] * repeatU,
-                       settings->getTriplanarOffsetV()[i] * repeatV);
+        const osg::Vec3f inFrame =
+            row(0) * offsets[i][0] + row(1) * offsets[i][1] + row(2) * offsets[i][2];
+        const osg::UInt32 u = i == 0 ? 1 : 0;
+        const osg::UInt32 v = i == 2 ? 1 : 2;
+        picture.tiles[i] = osg::Vec4f(repeatU, repeatV, inFrame[u] / kHundredth * repeatU,
+                                      inFrame[v] / kHundredth * repeatV);
     }
     return std::all_of(picture.tiles.begin(), picture.tiles.end(), isTile);
 }

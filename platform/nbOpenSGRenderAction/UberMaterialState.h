@@ -27,8 +27,9 @@ struct ProjectedPicture
     /// - UV: from (u, v, 0) of the geometry to u and v of the picture.
     /// - Tire: to the cylinder around x, of radius 1, on which the picture is 1 wide.
     osg::Matrix pictureFromSurface;
-    /// Triplanar: scale and offset of u and v of the projections along x, y, z. Tire: the first one
-    /// those of the turn around the axle, in whole ones from y to z, and of the place along it.
+    /// Triplanar: scale and offset in the frame of u and v of the projections along x, y, z. Tire:
+    /// the first one those of the turn around the axle, in whole ones from y to z, and of the place
+    /// along it.
     std::array<osg::Vec4f, kTileCount> tiles;
     bool repeatU = false;
     bool repeatV = false;

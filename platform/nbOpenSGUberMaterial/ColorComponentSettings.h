@@ -49,10 +49,13 @@ NB_CONTAINER_POINTER(ColorComponentSettings, AttachmentContainerPtr);
 /// the world's unit length, turned by TriplanarRotation: radians about the object's own x, then y,
 /// then z axis. Deliberate: those about x and z turn the frame counter-clockwise, that about y
 /// clockwise. The projection along x shows (y, z) of the frame, that along y (x, z), that along z
-/// (x, y): u = (coordinate / 100 + offset) * repeat, and v alike, where the offsets and repeats are
-/// element 0, 1, 2 of their fields for the projections along x, y, z. The three mix by the surface
-/// normal in the frame, by the eighth powers of its coordinates. The picture repeats, and goes
-/// through the object.
+/// (x, y): u = coordinate * repeat, and v alike. The frame's coordinates are those of (place / 100
+/// + offset), so that turning and scaling leave the place where a picture begins, place = -100 *
+/// offset, and offsets shift along the object's own axes. Offsets and repeats are element 0, 1, 2
+/// of their fields for the projections along x, y, z; an offset's u and v go along the same two
+/// axes of the object, along the third one it is the mean of those of the other two projections (of
+/// no effect without a rotation). The three mix by the surface normal in the frame, by the eighth
+/// powers of its coordinates. The picture repeats, and goes through the object.
 ///
 /// UV: the geometry's texture coordinates less the Offset, turned about their (0.5, 0.5), times
 /// Repeat. The picture moves with a growing offset along u and v, and turns clockwise about the

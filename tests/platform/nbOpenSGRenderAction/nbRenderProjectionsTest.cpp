@@ -36,6 +36,20 @@ protected:
         });
     }
 
+    /// As below, with the frame turned about an axis of the object.
+    void setOneColorPerAxis(const osg::Vec3f& rotation, const osg::Vec3f& axis, float angle)
+    {
+        osg::Vec3f offset(0.25f, 0.25f, 0.25f);  // in the frame
+        osg::Quaternion(axis, angle).multVec(offset, offset);
+        edit([&](Settings& s) {
+            s.setTriplanarRotation(rotation);
+            s.setTriplanarOffsetU(osg::Vec3f(offset.y(), offset.x(), offset.x()));
+            s.setTriplanarOffsetV(osg::Vec3f(offset.z(), offset.z(), offset.y()));
+            s.setTriplanarRepeatU(osg::Vec3f(1.f, 3.f, 1.f));
+            s.setTriplanarRepeatV(osg::Vec3f(1.f, 1.f, 3.f));
+        });
+    }
+
     /// Each projection shows the middle of one quarter only: that along x red, y green, z blue.
     void setOneColorPerAxis()
     {
@@ -118,6 +132,38 @@ TEST_F(nbRenderProjectionsTest, TriplanarPictureMovesAgainstTheOffsetAndTurnsWit
                  "counter-clockwise about z");
 }
 
+TEST_F(nbRenderProjectionsTest, TriplanarOffsetsShiftAlongTheObjectsAxesHoweverTheFrameIsTurned)
+{
+    setKind(Settings::TriplanarProjection);
+    setTriplanarSize(2.f);
+    const osg::NodePtr root = wall();
+    const osg::Vec3f turns[] = { { 0.f, 0.f, 0.5f * kPi },
+                                 { 0.f, 0.5f * kPi, 0.f },
+                                 { 0.5f * kPi, 0.f, 0.f },
+                                 { 0.3f, 0.4f, 0.5f } };
+    for (const osg::Vec3f& turn : turns) {
+        edit([&turn](Settings& s) {
+            s.setTriplanarRotation(turn);
+            s.setTriplanarOffsetU(osg::Vec3f());
+            s.setTriplanarOffsetV(osg::Vec3f());
+        });
+        const QImage before = draw(root).copy();
+        // What drags of the arrows of x by 0.5 and of y by -0.25 send.
+        edit([](Settings& s) {
+            s.setTriplanarOffsetU(osg::Vec3f(0.0025f, -0.005f, -0.005f));
+            s.setTriplanarOffsetV(osg::Vec3f(0.f, 0.f, 0.0025f));
+        });
+        const QImage after = redraw();
+        int alike = 0;
+        for (float x = -1.05f; x < 1.2f; x += 0.3f) {
+            for (float y = -1.05f; y < 1.2f; y += 0.3f) {
+                alike += at(after, x + 0.5f, y - 0.25f) == at(before, x, y) ? 1 : 0;
+            }
+        }
+        EXPECT_GE(alike, 58) << "of 64, turned by " << turn;
+    }
+}
+
 TEST_F(nbRenderProjectionsTest, TriplanarProjectionsAreSeenFromTheirAxes)
 {
     setKind(Settings::TriplanarProjection);
@@ -163,12 +209,12 @@ TEST_F(nbRenderProjectionsTest, TriplanarProjectionsMixByTheNormal)
         expectColors(redraw(), { { 0.f, 0.f, shown }, { 0.9f, -0.9f, shown } }, "one axis");
     }
     lookFrom(osg::Pnt3f(0.f, 0.f, 10.f));
-    edit([](Settings& s) { s.setTriplanarRotation(osg::Vec3f(0.f, 0.25f * kPi, 0.f)); });
+    setOneColorPerAxis({ 0.f, 0.25f * kPi, 0.f }, { 0.f, 1.f, 0.f }, -0.25f * kPi);
     const QColor half = at(redraw(), 0.f, 0.f);
     EXPECT_NEAR(half.red(), 128, 1);
     EXPECT_NEAR(half.blue(), 128, 1);
     // 30 degrees from z: a 81 : 1 by the eighth power of the ratio of cosines.
-    edit([](Settings& s) { s.setTriplanarRotation(osg::Vec3f(kPi / 6.f, 0.f, 0.f)); });
+    setOneColorPerAxis({ kPi / 6.f, 0.f, 0.f }, { 1.f, 0.f, 0.f }, kPi / 6.f);
     const QColor sharp = at(redraw(), 0.f, 0.f);
     EXPECT_NEAR(sharp.blue(), 252, 1);
     EXPECT_NEAR(sharp.green(), 3, 1);
