@@ -95,8 +95,9 @@ public:
     /// @return the point of the last hit, world space; the origin after a miss.
     /// On a handle hit beside its edge: the point of the handle nearest to the pointer on screen.
     osg::Pnt3f getHitPoint() const;
-    /// @return the surface normal of the last hit, world space, unit length, on the front side of
-    /// the triangle as its vertices wind; on a line or point towards the eye; zero after a miss
+    /// @return the surface normal of the last hit as it is shaded (mixed from the triangle's
+    /// vertices, if they have normals), world space, unit length, on the front side of the triangle
+    /// as its vertices wind; on a line or point towards the eye; zero after a miss
     osg::Vec3f getHitNormal() const;
 
     /// Collects the scene's geometry nodes that lie wholly inside a rectangle of the main widget:

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "PickTreeCache.h"
+#include "SurfaceNormal.h"
 #include "TreeWalk.h"
 
 namespace nbec::interaction::detail {
@@ -55,8 +56,15 @@ bool ScenePicking::pick(const osg::NodePtr& root, const PickView& view, const Sc
     }
     hit.node = osg::NodePtr::dcast(containerOf(found.item->nodeId));
     hit.point = ray.origin + ray.direction * ray.tFar;
-    hit.normal = transformNormal(found.item->worldFromLocal, found.local.normal);
-    return hit.node != osg::NullFC;
+    if (hit.node == osg::NullFC) {
+        return false;
+    }
+    osg::Pnt3f place;
+    found.item->localFromWorld.multMatrixPnt(hit.point, place);
+    hit.normal = transformNormal(
+        found.item->worldFromLocal,
+        surfaceNormal(osg::GeometryPtr::dcast(hit.node->getCore()), found.local, place));
+    return true;
 }
 
 std::vector<osg::NodePtr> ScenePicking::pickInside(const osg::NodePtr& root, const PickView& view,

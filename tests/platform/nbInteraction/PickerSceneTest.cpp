@@ -155,6 +155,27 @@ TEST_F(PickerScene, NormalIsUnitAndPerpendicularUnderScaleTurnAndMirror)
     }
 }
 
+TEST_F(PickerScene, NormalOfASmoothMeshIsMixedFromThatOfItsVertices)
+{
+    // Few triangles, and many, for which there is a tree; turned and scaled.
+    for (const osg::UInt16 depth : { 0, 2 }) {
+        const osg::NodePtr sphere = osg::makeSphere(depth, 1.0f);
+        const osg::Vec3f scale(2.0f, 0.5f, 1.0f);
+        const osg::NodePtr parent =
+            placed(turnedAndScaled({ 0.0f, 1.0f, 0.0f }, 30.0f, scale), sphere);
+        hang(scene, parent);
+        osg::Vec3f last;
+        for (int x = 380; x < 420; ++x) {
+            ASSERT_EQ(pickAt(static_cast<float>(x), 295.0f), sphere);
+            const osg::Vec3f normal = picker.getHitNormal();
+            EXPECT_NEAR(normal.length(), 1.0f, 1e-5f);
+            EXPECT_TRUE(x == 380 || (normal - last).length() < 0.03f) << x << ' ' << depth;
+            last = normal;
+        }
+        scene->subChild(parent);
+    }
+}
+
 TEST_F(PickerScene, MissLeavesNoHitData)
 {
     hang(scene, box(2.0f));
