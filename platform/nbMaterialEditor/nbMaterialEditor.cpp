@@ -2,6 +2,7 @@
 #include "nbMaterialEditor.h"
 
 #include <nbKernel/nbController.h>
+#include <nbKernel/nbOSGWidget.h>
 #include <nbKernelServices/nbScopedUndo.h>
 #include <nbMaterialEditor/detail/EditedComponent.h>
 #include <nbMaterialEditor/detail/ProjectionChange.h>
@@ -145,7 +146,8 @@ void nbMaterialEditor::Impl::placeAt(const osg::NodePtr& space, const osg::Pnt3f
     const osg::Transform3DPtr core = projection();
     osg::Pnt3f ownPoint;
     osg::Vec3f ownNormal;
-    if (core == osg::NullFC || !toObject(space->getToWorld(), point, normal, ownPoint, ownNormal)) {
+    const osg::Matrix worldFromSpace = space->getToWorld();
+    if (core == osg::NullFC || !toObject(worldFromSpace, point, normal, ownPoint, ownNormal)) {
         refuse(kPlace,
                core == osg::NullFC ? "there is no projection"
                                    : "the place is not finite or the object is flat");
@@ -154,7 +156,7 @@ void nbMaterialEditor::Impl::placeAt(const osg::NodePtr& space, const osg::Pnt3f
     nbTransformState state = nbTransformState::of(*core);
     state.translation = osg::Vec3f(ownPoint.x(), ownPoint.y(), ownPoint.z());
     if (ownNormal.length() > 0.0F) {
-        turnZTo(start().projection, ownNormal, state);
+        standOn(worldFromSpace, ownNormal, nbOSGWidget::isCameraZUp(), start().projection, state);
     }
     const nbScopedUndo scope(kPlaceTitle);
     if (write(core, state)) {

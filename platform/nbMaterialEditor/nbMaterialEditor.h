@@ -26,8 +26,10 @@
 ///   picture; and "projectionSize" (Vec2f), the projection's whole width and height in object
 ///   units. Without a projection there is no reply.
 /// - R::placeTexture, with "hitNode" (NodePtr), "hitPoint" (Pnt3f) and "hitNormal" (Vec3f) in world
-///   space, moves the projection's centre to the point and turns its Z axis to the normal, from the
-///   rotation that it had when the drag began, by the least angle. What is hit is the object, or
+///   space, moves the projection's centre to the point and turns its Z axis to the normal. It leans
+///   against the world's upright by as much as it did when the drag began (on what lies flat, up is
+///   away from the front), and keeps the size in the world that it had then. What is hit is the
+///   object, or
 ///   another geometry with the same material, in whose space the projection lies as well; a null
 ///   node and anything else do nothing. A normal without length leaves the rotation.
 ///

@@ -52,6 +52,25 @@ TEST_F(TextureToolTest, ADropPlacesThePictureUprightWhereItFellAsOneStep)
     EXPECT_TRUE(projection->getTranslation().equals(hit, kTolerance));
 }
 
+TEST_F(TextureToolTest, ADropOnAStretchedObjectIsUprightAndInThePicturesAspect)
+{
+    ASSERT_TRUE(stage.selectByName("Vase"));
+    ASSERT_TRUE(run("object.scale", QJsonArray { 2, 0.7, 1 }));
+    ASSERT_TRUE(run("object.rotation", QJsonArray { 0, 25, 30 }));
+
+    ASSERT_TRUE(drop("Vase"));
+
+    osg::Matrix world = tool.target().surface()->getToWorld();
+    world.mult(tool.target().projection()->getMatrix());
+    const osg::Vec3f x(world[0][0], world[0][1], world[0][2]);
+    osg::Vec3f y(world[1][0], world[1][1], world[1][2]);
+    osg::Vec3f normal = x.cross(y);
+    normal.normalize();
+    osg::Vec3f up = osg::Vec3f(0, 1, 0) - normal * normal.y();
+    EXPECT_NEAR(x.length() / y.length(), 480.0F / 360.0F, 1e-3F);
+    EXPECT_NEAR(y.dot(up), y.length() * up.length(), 1e-3F) << "not upright";
+}
+
 TEST_F(TextureToolTest, ClicksPlaceThePictureAndOneTakesBackTheWholeDrag)
 {
     ASSERT_TRUE(drop("Vase"));

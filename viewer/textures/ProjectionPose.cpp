@@ -135,16 +135,41 @@ ProjectionPose poseFacingTheEye(const osg::NodePtr& surface, const CameraPose& e
     osg::Pnt3f high;
     surface->getVolume().getBounds(low, high);
     bounds.setBounds(low, high);
-    return poseOnFront(bounds, vectorIn(surface, axes.back), vectorIn(surface, axes.up), aspect,
-                       share);
+    ProjectionPose pose = poseOnFront(bounds, vectorIn(surface, axes.back),
+                                      vectorIn(surface, axes.up), aspect, share);
+    pose.scale = scaleOfAspect(surface, pose, aspect);
+    return pose;
+}
+
+osg::Vec3f scaleOfAspect(const osg::NodePtr& surface, const ProjectionPose& pose, float aspect)
+{
+    osg::Vec3f x(1.0F, 0.0F, 0.0F);
+    osg::Vec3f y(0.0F, 1.0F, 0.0F);
+    pose.rotation.multVec(x, x);
+    pose.rotation.multVec(y, y);
+    const osg::Matrix worldFromSurface = surface->getToWorld();
+    worldFromSurface.multMatrixVec(x);
+    worldFromSurface.multMatrixVec(y);
+    osg::Vec3f scale = pose.scale;
+    const float wide = scale.x() * x.length() / (scale.y() * y.length() * aspect);
+    if (std::isnormal(wide)) {
+        scale[wide > 1.0F ? 0 : 1] *= wide > 1.0F ? 1.0F / wide : wide;
+    }
+    return scale;
 }
 
 osg::Quaternion uprightOn(const osg::NodePtr& surface, const CameraPose& eye,
                           const osg::Vec3f& normal)
 {
+    // Upright is meant in the world, where the surface's space may have unequal scales.
+    const auto alongSurface = [&](const osg::Vec3f& wanted) {
+        constexpr float kFlat = 0.1F;
+        const osg::Vec3f along = wanted - normal * normal.dot(wanted);
+        return along.length() > kFlat ? vectorIn(surface, along) : osg::Vec3f();
+    };
     return uprightRotation(normalIn(surface, normal),
-                           vectorIn(surface, nbCameraNavigation::worldUp(eye)),
-                           vectorIn(surface, nbCameraNavigation::axes(eye).up));
+                           alongSurface(nbCameraNavigation::worldUp(eye)),
+                           alongSurface(nbCameraNavigation::axes(eye).up));
 }
 
 }  // namespace viewer

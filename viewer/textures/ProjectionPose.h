@@ -41,9 +41,13 @@ ProjectionPose poseFacingTheEye(const osg::NodePtr& surface, const CameraPose& e
 osg::Quaternion uprightRotation(const osg::Vec3f& normal, const osg::Vec3f& up,
                                 const osg::Vec3f& other);
 
-/// The same for the geometry of a node, seen by a camera. @param normal  world space
+/// The same for the geometry of a node, seen by a camera. @param normal  world space, unit length
 osg::Quaternion uprightOn(const osg::NodePtr& surface, const CameraPose& eye,
                           const osg::Vec3f& normal);
+
+/// Scale of a projection on a surface, made smaller in x or y so that the picture has its own
+/// aspect in the world. @param aspect  width by height of the picture, > 0
+osg::Vec3f scaleOfAspect(const osg::NodePtr& surface, const ProjectionPose& pose, float aspect);
 
 /// Scale after an edit of which the ratio of x to y is kept: a side that alone has changed takes
 /// the other along.

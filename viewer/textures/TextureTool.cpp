@@ -154,6 +154,7 @@ bool TextureTool::dropPicture(const QString& file, const osg::Pnt2f& px, QString
     ProjectionPose pose =
         poseFacingTheEye(surface, stage.pose(), aspectOf(image.get()), kDroppedShare);
     pose.rotation = uprightOn(surface, stage.pose(), scenePicker.getHitNormal());
+    pose.scale = scaleOfAspect(surface, pose, aspectOf(image.get()));
     textureTarget.setImage(image.get(), pose);
     refresh();
     sendPlace(scenePicker);

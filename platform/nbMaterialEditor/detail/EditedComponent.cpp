@@ -159,7 +159,9 @@ void EditedComponent::createProjection()
     }
     const osg::Transform3DPtr core = osg::Transform3D::create();
     const float aspect = aspectOf(material()->getImage(componentName));
-    fittedProjection(objectBounds(), aspect).applyTo(core);
+    const osg::NodePtr node = object();
+    const osg::Matrix worldFromObject = node != osg::NullFC ? node->getToWorld() : osg::Matrix();
+    fittedProjection(objectBounds(), worldFromObject, aspect).applyTo(core);
     const nbEdit edit(edited, Settings::PlanarProjectionFieldMask);
     edited->setPlanarProjection(core);
 }

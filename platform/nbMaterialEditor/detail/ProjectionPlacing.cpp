@@ -3,6 +3,7 @@
 
 #include <nbOpenSGExt/nbEulerRotation.h>
 #include <nbOpenSGExt/nbRotationMath.h>
+#include <nbOpenSGUtils/nbTransformMath.h>
 
 #include <OpenSG/OSGRefPtr.h>
 
@@ -14,6 +15,8 @@ namespace {
 using nbRotationMath::product;
 using nbRotationMath::toDouble;
 using nbRotationMath::toFloat;
+using nbTransformMath::toDouble;
+using nbTransformMath::toFloat;
 
 /// R of a Transform3D, which is what its matrix turns by before the rotation orientation.
 nbQuaterniond rotationOf(const nbTransformState& state)
@@ -61,6 +64,61 @@ osg::Vec3d axis(const nbTransformState& projection, std::size_t index)
     return { rows[0][index], rows[1][index], rows[2][index] };
 }
 
+osg::Vec3d mapped(const osg::Matrix& matrix, const osg::Vec3d& vector)
+{
+    osg::Vec3d result;
+    for (osg::UInt32 column = 0; column < 3; ++column) {
+        for (osg::UInt32 row = 0; row < 3; ++row) {
+            result[row] += double(matrix[column][row]) * vector[column];
+        }
+    }
+    return result;
+}
+
+/// The part of a vector at right angles to a unit vector, of unit length where it has one.
+osg::Vec3d across(const osg::Vec3d& vector, const osg::Vec3d& normal)
+{
+    osg::Vec3d part = vector - normal * vector.dot(normal);
+    part.normalize();
+    return part;
+}
+
+/// Way up on a surface of the world. From steep to flat it goes over to the way from the front to
+/// the back, for up and down are no ways on a flat one.
+osg::Vec3d wayUp(const osg::Vec3d& normal, bool isZUp)
+{
+    constexpr double kFlat = 0.1;
+    constexpr double kSteep = 0.3;
+    const osg::Vec3d up(0.0, isZUp ? 0.0 : 1.0, isZUp ? 1.0 : 0.0);
+    const osg::Vec3d back(0.0, isZUp ? 1.0 : 0.0, isZUp ? 0.0 : -1.0);
+    const double slope = up.cross(normal).length();
+    const double share = std::clamp((slope - kFlat) / (kSteep - kFlat), 0.0, 1.0);
+    const double side = up.dot(normal) < 0.0 ? -1.0 : 1.0;
+    return across(across(up, normal) * share + across(back, normal) * (side * (1.0 - share)),
+                  normal);
+}
+
+/// Rotation of a projection that stands upright on a surface. @param normal  in the object's space
+nbQuaterniond uprightTurn(const osg::Matrix& worldFromObject, osg::Vec3d normal, bool isZUp)
+{
+    normal.normalize();
+    osg::Matrix objectFromWorld;
+    worldFromObject.inverse(objectFromWorld);
+    osg::Vec3d inWorld;  // normals go by the transposed inverse
+    for (osg::UInt32 row = 0; row < 3; ++row) {
+        for (osg::UInt32 i = 0; i < 3; ++i) {
+            inWorld[row] += double(objectFromWorld[row][i]) * normal[i];
+        }
+    }
+    inWorld.normalize();
+    const osg::Vec3d y = across(mapped(objectFromWorld, wayUp(inWorld, isZUp)), normal);
+    const osg::Vec3d x = y.cross(normal);
+    osg::Matrix axes;
+    axes.setValue(toFloat(x), toFloat(y), toFloat(normal));
+    axes[3][3] = 1.0F;
+    return toDouble(osg::Quaternion(axes));
+}
+
 void takeRotation(const nbTransformState& start, nbTransformState& result)
 {
     result.rotationMode = start.rotationMode;
@@ -100,24 +158,20 @@ void turnAboutOwnZ(const nbTransformState& start, float angle, nbTransformState&
         result);
 }
 
-void turnZTo(const nbTransformState& start, const osg::Vec3f& normal, nbTransformState& result)
+void standOn(const osg::Matrix& worldFromObject, const osg::Vec3f& normal, bool isZUp,
+             const nbTransformState& start, nbTransformState& result)
 {
+    const osg::Vec3d before = axis(start, 2);
+    const nbQuaterniond turn = product(uprightTurn(worldFromObject, toDouble(normal), isZUp),
+                                       inverse(uprightTurn(worldFromObject, before, isZUp)));
     takeRotation(start, result);
-    osg::Vec3d target(normal.x(), normal.y(), normal.z());
-    target.normalize();
-    const osg::Vec3d z = axis(start, 2);
-    const osg::Vec3d cross = z.cross(target);
-    const double cosine = z.dot(target);
-    // The angle from here on is not told from none, or a half turn.
-    constexpr double kSmallest = 1e-7;
-    if (cosine > 0.0 && cross.length() < kSmallest) {
-        return;
-    }
-    const osg::Vec3d y = axis(start, 1);
-    const nbQuaterniond turn = cosine < 0.0 && cross.length() < kSmallest
-        ? unit(y.x(), y.y(), y.z(), 0.0)
-        : unit(cross.x(), cross.y(), cross.z(), 1.0 + cosine);
     setRotation(product(turn, rotationOf(start)), result);
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        const double ratio = mapped(worldFromObject, axis(start, i)).length() /
+            mapped(worldFromObject, axis(result, i)).length();
+        result.scale[i] =
+            std::isnormal(ratio) ? static_cast<float>(start.scale[i] * ratio) : start.scale[i];
+    }
 }
 
 bool toObject(const osg::Matrix& worldFromObject, const osg::Pnt3f& worldPoint,
@@ -150,8 +204,12 @@ osg::Vec3f naturalScale(float aspect)
     return { aspect, 1.0F, 1.0F };
 }
 
-nbTransformState fittedProjection(const osg::BoxVolume& bounds, float aspect)
+nbTransformState fittedProjection(const osg::BoxVolume& bounds, const osg::Matrix& worldFromObject,
+                                  float aspect)
 {
+    const double ratio = mapped(worldFromObject, { 0.0, 1.0, 0.0 }).length() /
+        mapped(worldFromObject, { 1.0, 0.0, 0.0 }).length();
+    aspect *= std::isnormal(ratio) ? static_cast<float>(ratio) : 1.0F;
     const osg::RefPtr<osg::Transform3DPtr> fresh(osg::Transform3D::create());
     nbTransformState state = nbTransformState::of(*fresh.get());
     float half = 1.0F;

@@ -17,10 +17,13 @@ osg::Vec3f turned(const nbTransformState& projection, const osg::Vec3f& vector);
 /// orientation stays.
 void turnAboutOwnZ(const nbTransformState& start, float angle, nbTransformState& result);
 
-/// Gives a projection the rotation of another one, turned by the least angle that brings its Z axis
-/// to a direction; to the opposite one about its own Y axis, so that up stays up.
+/// Gives a projection the rotation of another one, turned so that its Z axis goes along a normal
+/// and it leans to a side as much as before: what stands upright in the world stays so. On what
+/// lies flat, up is away from who looks from the front. It keeps its size in the world, too.
 /// @param normal  of any length > 0, in the object's space
-void turnZTo(const nbTransformState& start, const osg::Vec3f& normal, nbTransformState& result);
+/// @param isZUp   whether z is up in the world, or y
+void standOn(const osg::Matrix& worldFromObject, const osg::Vec3f& normal, bool isZUp,
+             const nbTransformState& start, nbTransformState& result);
 
 /// Brings a surface point and normal of the world to an object's space.
 /// @return false if the object is flattened or something is not finite; a normal without length is
@@ -33,8 +36,11 @@ bool toObject(const osg::Matrix& worldFromObject, const osg::Pnt3f& worldPoint,
 osg::Vec3f naturalScale(float aspect);
 
 /// A projection onto the front of an object, with undistorted pixels, half as large as the object.
-/// @param bounds  of the object in its own space; empty: a picture with its longer side at 2
-nbTransformState fittedProjection(const osg::BoxVolume& bounds, float aspect);
+/// @param bounds           of the object in its own space; empty: a picture with its longer side at
+/// 2
+/// @param worldFromObject  where the pixels are undistorted
+nbTransformState fittedProjection(const osg::BoxVolume& bounds, const osg::Matrix& worldFromObject,
+                                  float aspect);
 
 /// Triplanar pictures with undistorted pixels, half as high as the object is large.
 /// @param bounds           of the object in its own space; empty or without size: nothing happens

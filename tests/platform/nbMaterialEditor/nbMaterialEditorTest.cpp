@@ -162,11 +162,50 @@ TEST_F(nbMaterialEditorTest, PlacingAlongAWayKeepsTheTurnWhateverTheWay)
 
     placeTexture(object, osg::Pnt3f(0.f, 0.f, -1.f), osg::Vec3f(0.f, 0.f, -1.f));
     expectNear(direction(0.f, 0.f, 1.f), { 0.f, 0.f, -1.f }, "the other side");
-    expectNear(direction(0.f, 1.f, 0.f), { -std::sin(angle), std::cos(angle), 0.f }, "up stays up");
+    expectNear(direction(0.f, 1.f, 0.f), { std::sin(angle), std::cos(angle), 0.f },
+               "leans as much");
     const osg::Quaternion turn = projection()->getRotationAsQuaternion();
     placeTexture(object, osg::Pnt3f(0.f, 0.f, -0.5f), osg::Vec3f(0.f, 0.f, 0.f));
     EXPECT_EQ(projection()->getRotationAsQuaternion(), turn) << "a normal without length";
     expectNear(projection()->getTranslation(), { 0.f, 0.f, -0.5f }, "but the point is taken");
+}
+
+TEST_F(nbMaterialEditorTest, PlacingKeepsUprightAndTheSizeInTheWorld)
+{
+    const nbTransformState fresh = nbTransformState::of(*projection());
+    const osg::Vec3f normals[] = { { 1.f, 0.f, 0.f },  { -1.f, 0.f, 0.1f }, { 0.f, 0.5f, -1.f },
+                                   { 1.f, -2.f, 3.f }, { 0.f, 1.f, 0.f },   { 0.1f, -1.f, 0.f } };
+    for (const osg::Vec3f& normal : normals) {
+        for (const osg::Vec3f& turn : { osg::Vec3f(0, 0, 0), osg::Vec3f(20, 70, 0) }) {
+            const nbEdit edit(place, osg::Transform3D::PartsFieldMask);
+            place->setRotation(turn);
+            place->setScale(osg::Vec3f(4.f, 1.f, 0.5f));
+            place->setMatrix(place->computeMatrix());
+            ASSERT_TRUE(editor->setProjection(fresh));
+            const auto side = [this](float x, float y) {
+                osg::Vec3f world = direction(x, y, 0.f);
+                object->getToWorld().multMatrixVec(world);
+                return world;
+            };
+            const float width = side(1.f, 0.f).length();
+            const float height = side(0.f, 1.f).length();
+            placeTexture(object, osg::Pnt3f(1.f, 0.f, 0.f), normal);
+            EXPECT_NEAR(side(1.f, 0.f).length(), width, 1e-4f) << normal;
+            EXPECT_NEAR(side(0.f, 1.f).length(), height, 1e-4f) << normal;
+            osg::Vec3f n = normal;
+            n.normalize();
+            osg::Vec3f up = osg::Vec3f(0.f, 1.f, 0.f) - n * n.y();
+            if (up.length() < 0.3f) {
+                up = osg::Vec3f(0.f, 0.f, n.y() < 0.f ? 1.f : -1.f);
+            }
+            up.normalize();
+            const osg::Vec3f seen = side(0.f, 1.f) * (1.f / height);
+            if (turn == osg::Vec3f()) {
+                EXPECT_NEAR(seen.dot(up), 1.f, 0.02f) << normal;
+            }
+            EXPECT_NEAR(seen.dot(n), 0.f, 1e-4f) << normal;
+        }
+    }
 }
 
 TEST_F(nbMaterialEditorTest, PlacingNeedsAHitOnWhatIsEdited)
