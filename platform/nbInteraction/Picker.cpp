@@ -65,11 +65,6 @@ int Picker::getFilter() const
     return filter;
 }
 
-void Picker::setTolerance(float logicalPx)
-{
-    tolerance = std::isfinite(logicalPx) && logicalPx > 0.0F ? logicalPx : 0.0F;
-}
-
 void Picker::setPixelRatio(float ratio)
 {
     if (std::isfinite(ratio) && ratio > 0.0F) {
@@ -116,7 +111,7 @@ osg::NodePtr Picker::pickAt(const osg::Pnt2f& px)
         }
     } else if (filter == HandleFilter) {
         detail::HandleHit hit;
-        if (handlePicking->pick(getPickNode(), root, *view, centre, tolerance * pixelRatio, hit)) {
+        if (handlePicking->pick(getPickNode(), root, *view, centre, kTolerance * pixelRatio, hit)) {
             const osg::NodePtr node = nodeOf(hit.nodeId);
             rememberHit(node, hit.point, hit.normal);
             return node;

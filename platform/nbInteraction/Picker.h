@@ -55,8 +55,8 @@ public:
     /// Least alpha of a plate's picture at which it is hit: 0.1, about what can be seen.
     static constexpr float kPlateAlphaThreshold = 0.1F;
 
-    /// Distance in logical pixels within which handles are hit unless setTolerance says otherwise.
-    static constexpr float kDefaultTolerance = 4.0F;
+    /// Distance in logical pixels within which handles are hit.
+    static constexpr float kTolerance = 4.0F;
 
     Picker();
     ~Picker();
@@ -71,10 +71,6 @@ public:
     /// Sets the filter. Values other than those of Filter are kept and pick nothing.
     void setFilter(int value);
     int getFilter() const;
-
-    /// Sets the handle tolerance. @param logicalPx  logical pixels, >= 0; negative and non-finite
-    /// values count as 0
-    void setTolerance(float logicalPx);
 
     /// Sets the device pixels per logical pixel, which scales the tolerance. @param ratio  > 0,
     /// other values are ignored
@@ -127,7 +123,6 @@ private:
 
     osg::UInt32 pickNodeId = 0;
     int filter = SceneFilter;
-    float tolerance = kDefaultTolerance;
     float pixelRatio = 1.0F;
 
     osg::UInt32 hitNodeId = 0;

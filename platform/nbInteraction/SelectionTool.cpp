@@ -69,11 +69,6 @@ bool SelectionTool::isPickHint(const std::string&) const
     return false;
 }
 
-void SelectionTool::setClickTolerance(float logicalPx)
-{
-    clickTolerance = logicalPx > 0.0F ? logicalPx : 0.0F;
-}
-
 void SelectionTool::setPixelRatio(float ratio)
 {
     if (ratio > 0.0F && std::isfinite(ratio)) {
@@ -89,7 +84,7 @@ float SelectionTool::getPixelRatio() const
 bool SelectionTool::isClick(const osg::Pnt2f& releasePx) const
 {
     const float distance = std::hypot(releasePx[0] - pressPx[0], releasePx[1] - pressPx[1]);
-    return distance <= clickTolerance * pixelRatio;
+    return distance <= kClickTolerance * pixelRatio;
 }
 
 }  // namespace nbec::interaction

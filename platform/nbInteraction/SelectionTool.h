@@ -17,8 +17,8 @@ namespace nbec::interaction {
 class NB_PLATFORM_API SelectionTool : public AbstractInteractionTool
 {
 public:
-    /// Largest distance of a click unless setClickTolerance says otherwise, logical pixels.
-    static constexpr float kDefaultClickTolerance = 4.0F;
+    /// Largest distance of press and release of a click, logical pixels.
+    static constexpr float kClickTolerance = 4.0F;
 
     bool startTool(ToolInteractionContext* context, const std::string& hint) override;
     bool processTool(ToolInteractionContext* context, const std::string& hint) override;
@@ -26,8 +26,6 @@ public:
     /// The tool picks by itself, once per click. @return false
     bool isPickHint(const std::string& hint) const override;
 
-    /// Sets the largest distance of press and release. @param logicalPx  >= 0; others count as 0
-    void setClickTolerance(float logicalPx);
     /// Sets the device pixels per logical pixel. @param ratio  > 0, other values are ignored
     void setPixelRatio(float ratio);
     float getPixelRatio() const;
@@ -37,7 +35,6 @@ private:
 
     osg::Pnt2f pressPx { 0.0F, 0.0F };
     bool pressed = false;
-    float clickTolerance = kDefaultClickTolerance;
     float pixelRatio = 1.0F;
 };
 

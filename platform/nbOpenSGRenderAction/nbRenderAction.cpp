@@ -250,12 +250,6 @@ void nbRenderAction::setTimed(bool on)
     impl->isTimed = on;
 }
 
-QImage nbRenderAction::readColour()
-{
-    return impl->gl == nullptr ? QImage()
-                               : impl->targets.read(*impl->gl, FrameTargets::Buffer::Color);
-}
-
 QImage nbRenderAction::readEffect()
 {
     return impl->gl == nullptr ? QImage()

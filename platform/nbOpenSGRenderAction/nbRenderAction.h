@@ -122,9 +122,6 @@ public:
     /// wholly; it does not at the start.
     void setTimed(bool on);
 
-    /// The last frame's colours, without alpha, rows from the top; null before the first frame.
-    QImage readColour();
-
     /// The last frame's effect buffer with its alpha, rows from the top; null before the first
     /// frame.
     QImage readEffect();

@@ -69,11 +69,6 @@ int nbEulerUtils::getOrderFromString(const std::string& order)
     return nbEulerRotation::getOrderNumber(order);
 }
 
-std::string nbEulerUtils::getStringFromOrder(int order)
-{
-    return nbEulerRotation::getOrderName(order);
-}
-
 nbEulerAngles nbEulerUtils::EulFromQuat(const nbQuaterniond& rotation, int order)
 {
     return makeAngles(nbEulerRotation::fromQuaternion(rotation, order), order);
@@ -87,13 +82,6 @@ nbEulerAngles nbEulerUtils::EulFromQuat(const osg::Quaternion& rotation, int ord
 nbQuaterniond nbEulerUtils::QuatFromEul(const nbEulerAngles& angles)
 {
     return nbEulerRotation::toQuaternion(valuesOf(angles), angles.order);
-}
-
-nbEulerAngles nbEulerUtils::multiply(const nbEulerAngles& step, const nbEulerAngles& accumulated)
-{
-    return nearest(EulFromQuat(nbRotationMath::product(QuatFromEul(step), QuatFromEul(accumulated)),
-                               accumulated.order),
-                   accumulated);
 }
 
 nbEulerAngles nbEulerUtils::nearest(const nbEulerAngles& angles, const nbEulerAngles& reference)

@@ -31,9 +31,6 @@ public:
     /// lower case.
     static int getOrderFromString(const std::string& order);
 
-    /// Name of an order.
-    static std::string getStringFromOrder(int order);
-
     // NOLINTBEGIN(readability-identifier-naming): names that hosts know
 
     /// Angles of a rotation. The middle angle of the order lies in -90 .. 90 degrees; where it is
@@ -47,12 +44,8 @@ public:
 
     // NOLINTEND(readability-identifier-naming)
 
-    /// step x accumulated: accumulated turns first. The result has the order of accumulated and, of
-    /// all angles for that rotation, those nearest to accumulated: values go on smoothly past the
-    /// middle angle's ends and past whole turns.
-    static nbEulerAngles multiply(const nbEulerAngles& step, const nbEulerAngles& accumulated);
-
-    /// Of all angles that give the same rotation in the same order, those nearest to the others.
+    /// Of all angles that give the same rotation in the same order, those nearest to the others:
+    /// values go on smoothly past the middle angle's ends and past whole turns.
     static nbEulerAngles nearest(const nbEulerAngles& angles, const nbEulerAngles& reference);
 
     static nbEulerAngles toDegrees(const nbEulerAngles& anglesRad)

@@ -53,14 +53,9 @@ TEST_F(PickerHandles, LineIsHitWithinTheToleranceBeyondItsDrawnHalfWidth)
     EXPECT_EQ(nameAt(400.0f, 266.0f), "line");
     EXPECT_EQ(nameAt(400.0f, 264.0f), "");
 
-    picker.setTolerance(1.0f);
-    EXPECT_EQ(nameAt(401.0f, 300.0f), "line");
-    EXPECT_EQ(nameAt(402.0f, 300.0f), "");
     picker.setPixelRatio(4.0f);
-    EXPECT_EQ(nameAt(404.0f, 300.0f), "line");
-    picker.setTolerance(-3.0f);
-    EXPECT_EQ(nameAt(400.0f, 300.0f), "line");
-    EXPECT_EQ(nameAt(401.0f, 300.0f), "");
+    EXPECT_EQ(nameAt(416.0f, 300.0f), "line");
+    EXPECT_EQ(nameAt(417.0f, 300.0f), "");
 }
 
 TEST_F(PickerHandles, LeastDistanceOnScreenWinsOverDepth)
@@ -164,23 +159,22 @@ TEST_F(PickerHandles, LineWidthIsThatOfTheMaterialInForce)
     const osg::NodePtr group = osg::makeNodeFor(groupCore);
     hang(collider, group);
     hang(group, line("line", 10.0f));
-    picker.setTolerance(0.0f);
     const auto setGroupMaterial = [&](const osg::MaterialPtr& material) {
         const nbEdit edit(groupCore, osg::MaterialGroup::MaterialFieldMask);
         groupCore->setMaterial(material);
     };
 
-    // Half of 10 reaches to pixel 404.
-    EXPECT_EQ(nameAt(404.0f, 300.0f), "line");
-    EXPECT_EQ(nameAt(405.0f, 300.0f), "");
+    // Half of 10 and the tolerance reach to pixel 408.
+    EXPECT_EQ(nameAt(408.0f, 300.0f), "line");
+    EXPECT_EQ(nameAt(409.0f, 300.0f), "");
     setGroupMaterial(osg::SimpleMaterial::create());
-    EXPECT_EQ(nameAt(404.0f, 300.0f), "") << "the group's material replaces the line's";
+    EXPECT_EQ(nameAt(408.0f, 300.0f), "") << "the group's material replaces the line's";
     nbNodeUtils::setIsManipulatorNode(collider, true);
-    EXPECT_EQ(nameAt(404.0f, 300.0f), "line")
+    EXPECT_EQ(nameAt(408.0f, 300.0f), "line")
         << "below a manipulator node only chunks are replaced";
     setGroupMaterial(lineMaterial(4.0f));
-    EXPECT_EQ(nameAt(404.0f, 300.0f), "");
-    EXPECT_EQ(nameAt(401.0f, 300.0f), "line");
+    EXPECT_EQ(nameAt(408.0f, 300.0f), "");
+    EXPECT_EQ(nameAt(405.0f, 300.0f), "line");
 }
 
 }  // namespace

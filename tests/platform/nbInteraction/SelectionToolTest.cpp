@@ -80,9 +80,8 @@ TEST_F(SelectionToolTest, HintSaysWhatAClickDoesToTheSelection)
 TEST_F(SelectionToolTest, OnlyAReleaseNearThePressIsAClick)
 {
     tool.setPixelRatio(2.0f);
-    tool.setClickTolerance(3.0f);
-    const osg::Pnt2f near(kLeftPx[0] + 6, kLeftPx[1]);
-    const osg::Pnt2f far(kLeftPx[0] + 5, kLeftPx[1] + 4);
+    const osg::Pnt2f near(kLeftPx[0] + 8, kLeftPx[1]);
+    const osg::Pnt2f far(kLeftPx[0] + 7, kLeftPx[1] + 5);
 
     sendAt(kLeftPx, "start", "select");
     EXPECT_TRUE(sendAt(far, "process", "select"));

@@ -229,7 +229,7 @@ TEST_F(nbRenderMaterialsTest, OneActionOutlivesALostContext)
         ASSERT_TRUE(
             action.render(viewport.get(), kSize, kSize, context.defaultFramebufferObject()));
 
-        EXPECT_EQ(at(action.readColour(), 0.f, 0.f), kRed) << "life " << life;
+        EXPECT_EQ(at(action.readEffect(), 0.f, 0.f).alpha(), 255) << "life " << life;
         // The context dies without a word to the action.
     }
 }
