@@ -155,18 +155,17 @@ TEST_F(MatchDrags, WhoHearsOfALineMayDestroyItsCamera)
 
 TYPED_TEST(Drags, AGroupOfUndoThatIsNeverClosedLosesNoStep)
 {
-    nbUndoService* const undo = nbUndoService::the();
     std::vector<std::vector<float>> states { this->edited() };
     for (int i = 0; i < 2; ++i) {
-        undo->beginGroup();  // ends the one before
+        this->undo->beginGroup();  // ends the one before
         ASSERT_TRUE(this->drag());
         states.push_back(this->edited());
         ASSERT_NE(states[i], states[i + 1]);
     }
-    undo->endGroup();
-    EXPECT_TRUE(undo->undo());
+    this->undo->endGroup();
+    EXPECT_TRUE(this->undo->undo());
     EXPECT_EQ(this->edited(), states[1]);
-    EXPECT_TRUE(undo->undo());
+    EXPECT_TRUE(this->undo->undo());
     EXPECT_EQ(this->edited(), states[0]);
 }
 

@@ -21,19 +21,6 @@ using interaction::InteractionManager;
 using interaction::Picker;
 using Calls = std::vector<std::string>;
 
-/// The manager asks it when the context above lets an event pass.
-class Below : public interaction::AbstractInteractionContext
-{
-public:
-    bool triggerEvent(InteractionManager* /*manager*/, const InteractionEvent& event) override
-    {
-        seen.push_back(event.getEvent());
-        return true;
-    }
-
-    Calls seen;
-};
-
 }  // namespace
 
 TEST(ManipulatorInteractionContext, EventsReachTheManipulatorAsRouted)
@@ -79,6 +66,8 @@ TEST(ManipulatorInteractionContext, EventsReachTheManipulatorAsRouted)
 TEST(ManipulatorInteractionContext, ReturnsTheManipulatorsAnswer)
 {
     ManipulatorInteractionContext context;
+    EXPECT_FALSE(context.triggerEvent(nullptr, InteractionEvent("hover", "tool", "select")));
+    EXPECT_FALSE(context.selectMode("tool"));
     RecordingManipulator manipulator;
     context.setManipulator(&manipulator);
     for (const bool answer : { true, false }) {
@@ -128,20 +117,6 @@ TEST(ManipulatorInteractionContext, PreselectionStaysOffWhenHoverGoesToAnUpperOn
     EXPECT_TRUE(nbScenegraph::isPreselectionEnabled());
 }
 
-TEST(ManipulatorInteractionContext, WithoutManipulatorEverythingFallsThrough)
-{
-    InteractionManager manager;
-    Below below;
-    ManipulatorInteractionContext context;
-    manager.addContext(&below);
-    manager.addContext(&context);
-
-    EXPECT_TRUE(manager.triggerEvent(InteractionEvent("hover", "tool", "select")));
-
-    EXPECT_EQ(below.seen, Calls { "hover" });
-    EXPECT_FALSE(context.selectMode("tool"));
-}
-
 TEST(ManipulatorInteractionContext, LifeCycleOfTheContextActivatesTheManipulator)
 {
     InteractionManager manager;
@@ -160,20 +135,6 @@ TEST(ManipulatorInteractionContext, LifeCycleOfTheContextActivatesTheManipulator
     EXPECT_TRUE(manipulator.isActive());
     manager.removeContext(&context);
     EXPECT_FALSE(manipulator.isActive());
-}
-
-TEST(ManipulatorInteractionContext, PointerReachesTheManipulator)
-{
-    ManipulatorInteractionContext context;
-    RecordingManipulator manipulator;
-    EXPECT_EQ(context.getPointerPosition(), osg::Pnt2f(0, 0));
-    context.pointerMoved(osg::Pnt2f(1, 2));
-    context.setManipulator(&manipulator);
-
-    context.pointerMoved(osg::Pnt2f(3, 4));
-
-    EXPECT_EQ(context.getPointerPosition(), osg::Pnt2f(3, 4));
-    EXPECT_EQ(manipulator.getMousePosition(), osg::Pnt2f(3, 4));
 }
 
 TEST(ManipulatorInteractionContext, PickerGetsTheColliderWhicheverComesFirst)

@@ -1,15 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "manipulator/ManipulatorInteractionContext.h"
 #include "manipulator/PerspectiveMatchManipulator.h"
-#include "manipulator/PlanarTextureManipulator.h"
-#include "manipulator/TireProjectionManipulator.h"
-#include "manipulator/TriplanarTextureManipulator.h"
-#include "manipulator/UVTextureManipulator.h"
 #include "manipulator/UniversalTransformManipulator2.h"
-#include "manipulator/nbSceneplatePickTool.h"
 #include "tests/platform/support/VirtualSlot.h"
-
-#include <type_traits>
 
 namespace nbec::manipulator::test {
 
@@ -42,15 +34,6 @@ TEST(VirtualTable, SubclassesAppendInTheirFixedOrder)
                     &Gizmo::hideManipulator);
 }
 
-TEST(VirtualTable, ThePlanarGizmoAppendsNothing)
-{
-    using Gizmo = PlanarTextureManipulator;
-    EXPECT_EQ(virtualSlot(&Gizmo::update), 5);
-    EXPECT_EQ(virtualSlot(&Gizmo::startManipulator), 6);
-    EXPECT_EQ(virtualSlot(&Gizmo::resetManipulator), 12);
-    EXPECT_EQ(virtualSlot(&Gizmo::setNode), virtualSlot(&NodeManipulator::setNode));
-}
-
 TEST(VirtualTable, AnObjectOfQtThatManipulatesIsAnObjectFirst)
 {
     using Gizmo = PerspectiveMatchManipulator;
@@ -67,45 +50,6 @@ TEST(VirtualTable, AnObjectOfQtThatManipulatesIsAnObjectFirst)
                     &Gizmo::getCollider, &Gizmo::update, &Gizmo::startManipulator,
                     &Gizmo::processManipulator, &Gizmo::stopManipulator, &Gizmo::hoverManipulator,
                     &Gizmo::resetManipulator);
-}
-
-template <class Gizmo>
-class AnchoredVirtualTable : public testing::Test
-{ };
-
-using AnchoredGizmos =
-    testing::Types<TriplanarTextureManipulator, UVTextureManipulator, TireProjectionManipulator>;
-TYPED_TEST_SUITE(AnchoredVirtualTable, AnchoredGizmos, );
-
-TYPED_TEST(AnchoredVirtualTable, AppendsNothing)
-{
-    using Gizmo = TypeParam;
-    EXPECT_EQ(virtualSlot(&Gizmo::activate), 0);
-    EXPECT_EQ(virtualSlot(&Gizmo::getVisualisation), 3);
-    EXPECT_EQ(virtualSlot(&Gizmo::update), 5);
-    EXPECT_EQ(virtualSlot(&Gizmo::startManipulator), 6);
-    expectSlotsFrom(8, &Gizmo::stopManipulator, &Gizmo::hover);
-    EXPECT_EQ(virtualSlot(&Gizmo::resetManipulator), 12);
-    EXPECT_EQ(virtualSlot(&Gizmo::setManipulatorMode), 15);
-    EXPECT_TRUE((std::is_base_of_v<AbstractManipulator, Gizmo>));
-}
-
-TEST(VirtualTable, TheContextKeepsTheOrderOfItsBase)
-{
-    using Context = ManipulatorInteractionContext;
-    expectSlotsFrom(1, &Context::enabled, &Context::disabled, &Context::contextAdded,
-                    &Context::contextRemoved);
-    EXPECT_EQ(virtualSlot(&Context::pointerMoved), 7);
-    EXPECT_EQ(virtualSlot(&Context::triggerEvent), 9);
-    EXPECT_EQ(virtualSlot(&Context::selectMode), 14);
-}
-
-TEST(VirtualTable, ThePlateToolKeepsTheOrderOfItsBase)
-{
-    using Tool = nbSceneplatePickTool;
-    expectSlotsFrom(0, &Tool::setToolMode, &Tool::activateTool, &Tool::deactivateTool,
-                    &Tool::isActive, &Tool::startTool, &Tool::processTool, &Tool::stopTool,
-                    &Tool::triggerTool, &Tool::hoverTool, &Tool::stopHoverTool, &Tool::isPickHint);
 }
 
 }  // namespace nbec::manipulator::test

@@ -299,23 +299,4 @@ TEST_F(SceneplatePickToolTest, SceneplateIsFoundByItsIdAndType)
     EXPECT_EQ(tool.getSceneplate(), osg::NullFC) << "it no longer exists";
 }
 
-TEST(SceneplatePickTool, AnswersWithoutAWidget)
-{
-    ToolInteractionContext context;
-    Picker picker;
-    context.setPicker(&picker);
-    HostTool tool;
-
-    EXPECT_TRUE(tool.setToolMode(&context, "tool"));
-    EXPECT_FALSE(tool.preselectionActive) << "without a widget nothing changes";
-    EXPECT_FALSE(tool.startTool(&context, "select"));
-    EXPECT_FALSE(tool.stopTool(&context, "select"));
-    tool.startPreselection(&context);
-    EXPECT_TRUE(tool.preselectionSent);
-    EXPECT_TRUE(tool.setToolMode(&context, ""));
-    EXPECT_TRUE(tool.preselectionSent);
-    tool.stopPreselection();
-    EXPECT_FALSE(tool.preselectionSent);
-}
-
 }  // namespace

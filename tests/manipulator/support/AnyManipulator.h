@@ -10,11 +10,14 @@
 #include "tests/manipulator/support/DragTest.h"
 #include "tests/manipulator/support/MatchScene.h"
 #include "tests/manipulator/support/MessageLog.h"
+#include "tests/platform/support/Edited.h"
 
 #include <nbKernel/nbController.h>
 #include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbUndoService.h>
 #include <nbNotification/NotificationManager.h>
+#include <nbOpenSGExt/Transform3D.h>
+#include <nbOpenSGUberCamera/UberCamera.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 #include <nbUtils/nbLog.h>
 
@@ -235,6 +238,43 @@ protected:
         EXPECT_EQ(stage.check(), "");
     }
 
+    /// Writes down what is said of the preview, and what is sent of steps in the editor's place.
+    void listen(bool toSteps)
+    {
+        messages.listen("setMatRenderEnabled");
+        messages.listen("updateMatRender");
+        if (toSteps) {
+            messages.listen(kTraits.message);
+        }
+    }
+
+    /// Scale by which the handles' places are those of their unit frame.
+    float size() { return node(kTraits.handle)->getParent()->getToWorld()[0].length(); }
+
+    Pnt3f place()
+    {
+        const osg::Matrix place = node(kTraits.handle)->getToWorld();
+        return Pnt3f(place[3][0], place[3][1], place[3][2]);
+    }
+
+    void look(const Pnt3f& eye, bool isOrthographic = false)
+    {
+        const osg::UberCameraPtr camera = stage.view->getUberCamera();
+        camera->setFromAtUp(eye, Pnt3f(), Vec3f(0, 1, 0));
+        nbtest::edited(camera)->setOrthographic(isOrthographic);
+    }
+
+    void moveTarget(float x)
+    {
+        nbtest::edited(transformOf(stage.firstNode()))->setTranslation(Vec3f(x, 0, 0));
+    }
+
+    static std::size_t textCount()
+    {
+        return notification::NotificationManager::getInstance()->getTextCount();
+    }
+
+    nbUndoService* const undo = nbUndoService::the();
     MessageLog messages;
     Stage stage;
     std::unique_ptr<Gizmo> gizmo;

@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <nbOpenSGUberCamera/UberCamera.h>
 
-#include <OpenSG/OSGLine.h>
-#include <OpenSG/OSGPassiveWindow.h>
-#include <OpenSG/OSGViewport.h>
-
 #include <gtest/gtest.h>
 
 #include <limits>
@@ -68,30 +64,6 @@ TEST(UberCamera, OrthographicViewIsAsHighAsThePerspectiveAtItsCentre)
     EXPECT_NEAR(camera->getTop() - camera->getBottom(), 20.f, 1e-4f);
     EXPECT_NEAR(camera->getRight() - camera->getLeft(), 80.f / 3.f, 1e-4f);
     EXPECT_NEAR(camera->getNearPlaneDiagonal(), 100.f / 3.f, 1e-4f);
-}
-
-TEST(UberCamera, ViewRaysComeFromTheBeacon)
-{
-    const UberCameraRefPtr camera = makeCamera();
-    const osg::RefPtr<osg::ViewportPtr> viewport(osg::Viewport::create());
-    const osg::RefPtr<osg::PassiveWindowPtr> window(osg::PassiveWindow::create());
-    window->setSize(800, 600);
-    window->addPort(viewport);
-    viewport->setCamera(camera);
-    viewport->setSize(0.f, 0.f, 1.f, 1.f);
-    osg::Line ray;
-
-    // From the right: the camera's right is -z in the world. Row 301 is the middle.
-    camera->setFromAtUp(Pnt3f(10.f, 0.f, 0.f), Pnt3f(0.f, 0.f, 0.f), Vec3f(0.f, 1.f, 0.f));
-    ASSERT_TRUE(camera->calcViewRay(ray, 800, 301, *viewport));
-    EXPECT_TRUE(ray.getPosition().equals(Pnt3f(9.f, 0.f, -4.f / 3.f), kTolerance));
-    EXPECT_TRUE(ray.getDirection().equals(Vec3f(-0.6f, 0.f, -0.8f), kTolerance));
-
-    camera->setOrthographic(true);
-    ASSERT_TRUE(camera->calcViewRay(ray, 800, 301, *viewport));
-    EXPECT_TRUE(ray.getPosition().equals(Pnt3f(9.f, 0.f, -40.f / 3.f), 1e-4f));
-    EXPECT_TRUE(ray.getDirection().equals(Vec3f(-1.f, 0.f, 0.f), kTolerance));
-    viewport->setParent(osg::NullFC);
 }
 
 TEST(UberCamera, BeaconFollowsEditsOfTheFields)
