@@ -63,6 +63,7 @@ if(NBMANIPULATOR_VIEWER)
     file(RELATIVE_PATH NBM_LIBRARIES_FROM_PROGRAM /${CMAKE_INSTALL_BINDIR} /${CMAKE_INSTALL_LIBDIR})
     set_target_properties(nbviewer PROPERTIES INSTALL_RPATH "$ORIGIN/${NBM_LIBRARIES_FROM_PROGRAM}")
     install(TARGETS nbviewer RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT viewer)
+    install(TARGETS nbmodelreader RUNTIME DESTINATION ${CMAKE_INSTALL_LIBEXECDIR}/nbviewer COMPONENT viewer)
     install(DIRECTORY ${PROJECT_SOURCE_DIR}/viewer/models ${PROJECT_SOURCE_DIR}/viewer/sessions
             DESTINATION ${CMAKE_INSTALL_DATADIR}/nbviewer COMPONENT viewer PATTERN "*.py" EXCLUDE)
     # What desktops know it by, and by which files it is started.

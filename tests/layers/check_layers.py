@@ -28,7 +28,7 @@ FORBIDDEN = {
 PLATFORM_ORDER = ["nbUtils", "nbOpenSGExt", "nbOpenSGUtils", "nbOpenSGUberCamera", "nbOpenSGUberViewport", "nbOpenSGUberMaterial",
                   "nbOpenSGSceneplate", "nbOpenSGSelection", "nbNotification", "nbKernel", "nbKernelServices", "nbTransform",
                   "nbMaterialEditor", "nbInteraction", "nbSceneplateModule", "nbMagnifier", "nbOpenSGRenderAction"]
-VIEWER_ORDER = ["texts", "commands", "loading", "stage", "replay", "plates", "match", "textures", "scenes", "gui"]
+VIEWER_ORDER = ["texts", "commands", "loading", "reader", "stage", "replay", "plates", "match", "textures", "scenes", "gui"]
 INCLUDE = re.compile(r'^\s*#\s*include\s*[<"]([^>"]+)[>"]')
 
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/loading/ModelReader.h"
 
+#include "viewer/loading/ModelRecords.h"
+
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -10,7 +12,7 @@ namespace viewer {
 namespace {
 
 /// A folder of model files written by the tests.
-class ModelReader : public testing::Test
+class ModelReaderTest : public testing::Test
 {
 protected:
     QString write(const char* name, const QByteArray& bytes) const
@@ -23,17 +25,18 @@ protected:
     }
 
     QTemporaryDir folder;
+    ModelReader reader;
     QString error;
 };
 
 const char* const kQuadObj =
     "mtllib quad.mtl\no Quad\nv 0 0 0\nv 2 0 0\nv 2 1 0\nv 0 1 0\nusemtl Red\nf 1 2 3 4\n";
 
-TEST_F(ModelReader, ObjKeepsNamesAndColours)
+TEST_F(ModelReaderTest, ObjKeepsNamesAndColours)
 {
     write("quad.mtl", "newmtl Red\nKd 0.75 0.25 0.125\nKs 0.5 0.5 0.5\nNs 32\nd 0.5\n");
 
-    const auto model = readModelFile(write("quad.obj", kQuadObj), {}, error);
+    const auto model = reader.read(write("quad.obj", kQuadObj), {}, error);
 
     ASSERT_TRUE(model) << error.toStdString();
     EXPECT_EQ(model->root.name, "quad");
@@ -48,7 +51,7 @@ TEST_F(ModelReader, ObjKeepsNamesAndColours)
     EXPECT_FLOAT_EQ(material.opacity, 0.5F);
 }
 
-TEST_F(ModelReader, PlyAndStlAreRead)
+TEST_F(ModelReaderTest, PlyAndStlAreRead)
 {
     const QByteArray ply =
         "ply\nformat ascii 1.0\nelement vertex 3\nproperty float x\nproperty float y\nproperty "
@@ -60,8 +63,8 @@ TEST_F(ModelReader, PlyAndStlAreRead)
         "solid one\nfacet normal 0 0 1\nouter loop\nvertex 0 0 0\nvertex 1 0 0\nvertex 0 1 0\n"
         "endloop\nendfacet\nendsolid one\n";
 
-    const auto colored = readModelFile(write("a.ply", ply), {}, error);
-    const auto plain = readModelFile(write("b.stl", stl), {}, error);
+    const auto colored = reader.read(write("a.ply", ply), {}, error);
+    const auto plain = reader.read(write("b.stl", stl), {}, error);
 
     ASSERT_TRUE(colored && plain) << error.toStdString();
     EXPECT_EQ(colored->meshes.at(0).colors.at(1), (std::array<std::uint8_t, 4> { 0, 255, 0, 255 }));
@@ -69,7 +72,7 @@ TEST_F(ModelReader, PlyAndStlAreRead)
     EXPECT_EQ(plain->meshes.at(0).normals.at(0), (Vec3 { 0, 0, 1 }));
 }
 
-TEST_F(ModelReader, GltfKeepsItsHierarchy)
+TEST_F(ModelReaderTest, GltfKeepsItsHierarchy)
 {
     // Three corners of a triangle as base64, under a node moved by (5, 6, 7) under a node moved by
     // (1, 0, 0).
@@ -83,7 +86,7 @@ TEST_F(ModelReader, GltfKeepsItsHierarchy)
         "buffers":[{"byteLength":36,"uri":"data:application/octet-stream;base64,)" +
         bytes.toBase64() + "\"}]}";
 
-    const auto model = readModelFile(write("arm.gltf", gltf), {}, error);
+    const auto model = reader.read(write("arm.gltf", gltf), {}, error);
 
     ASSERT_TRUE(model) << error.toStdString();
     const NodeData* node = &model->root;
@@ -95,21 +98,21 @@ TEST_F(ModelReader, GltfKeepsItsHierarchy)
     EXPECT_EQ((Vec3 { node->matrix[12], node->matrix[13], node->matrix[14] }), (Vec3 { 5, 6, 7 }));
 }
 
-TEST_F(ModelReader, APictureBecomesARectangleOfItsShape)
+TEST_F(ModelReaderTest, APictureBecomesARectangleOfItsShape)
 {
     QImage picture(40, 20, QImage::Format_RGB32);
     picture.fill(Qt::red);
     const QString path = folder.filePath("wide.png");
     ASSERT_TRUE(picture.save(path));
 
-    const auto model = readModelFile(path, {}, error);
+    const auto model = reader.read(path, {}, error);
 
     ASSERT_TRUE(model) << error.toStdString();
     EXPECT_EQ(model->materials.at(0).texture.size(), QSize(40, 20));
     EXPECT_FLOAT_EQ(model->meshes.at(0).positions.at(1)[0], 2.0F);
 }
 
-TEST_F(ModelReader, BrokenFilesGiveOneLineWithTheirName)
+TEST_F(ModelReaderTest, BrokenFilesGiveOneLineWithTheirName)
 {
     write("lines.mtl", "");
 
@@ -140,24 +143,153 @@ TEST_F(ModelReader, BrokenFilesGiveOneLineWithTheirName)
     for (const Row& row : rows) {
         error.clear();
 
-        EXPECT_FALSE(readModelFile(write(row.name, row.bytes), {}, error)) << row.name;
+        EXPECT_FALSE(reader.read(write(row.name, row.bytes), {}, error)) << row.name;
 
         EXPECT_TRUE(error.startsWith(folder.filePath(row.name) + ": ")) << error.toStdString();
         EXPECT_FALSE(error.contains('\n'));
     }
-    EXPECT_FALSE(readModelFile(folder.filePath("none.obj"), {}, error));
+    EXPECT_FALSE(reader.read(folder.filePath("none.obj"), {}, error));
     EXPECT_TRUE(error.endsWith("none.obj: no such file"));
 }
 
-TEST_F(ModelReader, AMissingPictureIsAWarningOnly)
+TEST_F(ModelReaderTest, AMissingPictureIsAWarningOnly)
 {
     write("quad.mtl", "newmtl Red\nmap_Kd nowhere.png\n");
 
-    const auto model = readModelFile(write("quad.obj", kQuadObj), {}, error);
+    const auto model = reader.read(write("quad.obj", kQuadObj), {}, error);
 
     ASSERT_TRUE(model) << error.toStdString();
     ASSERT_EQ(model->warnings.size(), 1);
     EXPECT_TRUE(model->warnings[0].contains("nowhere.png"));
+}
+
+TEST_F(ModelReaderTest, WhatAFileMakesTheImporterDoIsOneLine)
+{
+    QByteArray nested =
+        R"({"asset":{"version":"2.0"},"scene":0,"scenes":[{"nodes":[0]}],"nodes":[)";
+    for (int i = 1; i < 30000; ++i) {
+        nested += "{\"children\":[" + QByteArray::number(i) + "]},";
+    }
+    nested += "{}]}";
+    const QByteArray loop =
+        R"({"asset":{"version":"2.0"},"scene":0,"scenes":[{"nodes":[0]}],"nodes":[{"children":[0]}]})";
+    // A GLB whose part of text says that it is nearly as long as can be written.
+    const QByteArray vast("glTF\2\0\0\0\x18\0\0\0\xf0\xff\xff\xff"
+                          "JSON{}  ",
+                          24);
+    const QByteArray endless = "ply\nformat ascii 1.0\nelement vertex 3\nproperty float x";
+
+    struct Row
+    {
+        const char* name;
+        QByteArray bytes;
+    };
+
+    for (const Row& row : { Row { "nested.gltf", nested },
+                            { "loop.gltf", loop },
+                            { "vast.glb", vast },
+                            { "endless.ply", endless },
+                            { "far.obj", "v 1e16 0 0\nv 1 0 0\nv 0 1 0\nf 1 2 3\n" } }) {
+        error.clear();
+        EXPECT_FALSE(reader.read(write(row.name, row.bytes), {}, error)) << row.name;
+        EXPECT_TRUE(error.startsWith(folder.filePath(row.name) + ": ")) << error.toStdString();
+        EXPECT_FALSE(error.contains('\n'));
+    }
+    EXPECT_TRUE(error.endsWith("it has places too far away")) << error.toStdString();
+    EXPECT_TRUE(reader.read(write("quad.obj", kQuadObj), {}, error)) << "another program reads on";
+}
+
+TEST_F(ModelReaderTest, NeitherTimeNorMemoryIsTakenWithoutEnd)
+{
+    QByteArray grid;
+    for (int i = 0; i < 200000; ++i) {
+        grid += "v " + QByteArray::number(i) + " 1 2\nf 1 2 3\n";
+    }
+    const QString large = write("large.obj", grid);
+    const auto refusal = [&](const ModelReader::Limits& limits, const ReadProgress& progress) {
+        error.clear();
+        ModelReader small(limits);
+        EXPECT_FALSE(small.read(large, progress, error));
+        return error.mid(large.size() + 2).toStdString();
+    };
+    constexpr qint64 kMegabyte = 1 << 20;
+
+    EXPECT_EQ(refusal({ 30 * kMegabyte }, {}),
+              "cannot be read as a model: it would take too much memory");
+    EXPECT_EQ(refusal({ 1024 * kMegabyte, -60000 }, {}), "has no end: reading was given up");
+    EXPECT_EQ(refusal({}, [](double) { return false; }), "reading was stopped");
+}
+
+/// Records of a model with everything in it.
+QByteArray richRecords()
+{
+    ModelData model;
+    model.materials.resize(2);
+    model.materials[1].texture = QImage(3, 2, QImage::Format_RGB32);
+    model.materials[1].texture.fill(Qt::red);
+    MeshData mesh;
+    mesh.positions = { { 0, 0, 0 }, { 1, 0, 0 }, { 0, 1, 0 } };
+    mesh.texCoords.resize(3);
+    mesh.triangles = { 0, 1, 2 };
+    mesh.material = 1;
+    model.meshes = { mesh };
+    model.root.name = "Root";
+    NodeData leaf;
+    leaf.name = "Leaf";
+    leaf.meshes = { 0 };
+    model.root.children = { leaf, leaf };
+    model.root.children[0].children = { leaf };
+    QByteArray bytes = progressRecord(0.5) + textRecord(ModelRecord::Warning, "dull");
+    writeModel(model, [&bytes](const QByteArray& record) { bytes += record; });
+    return bytes;
+}
+
+TEST(ModelAssembly, GivesTheModelBackHoweverItComes)
+{
+    const QByteArray bytes = richRecords();
+    ModelAssembly assembly;
+    for (const char byte : bytes) {
+        ASSERT_FALSE(assembly.isComplete());
+        ASSERT_TRUE(assembly.take(QByteArray(1, byte)));
+    }
+    ASSERT_TRUE(assembly.isComplete());
+    EXPECT_EQ(assembly.progress(), 0.5);
+    const ModelData model = assembly.takeModel();
+    EXPECT_EQ(model.warnings, QStringList { "dull" });
+    EXPECT_EQ(model.materials.at(1).texture.pixel(2, 1), QColor(Qt::red).rgb());
+    EXPECT_EQ(model.root.children.at(0).children.at(0).name, "Leaf");
+    EXPECT_TRUE(model.root.children.at(1).children.empty());
+    QByteArray again = progressRecord(0.5);
+    writeModel(model, [&again](const QByteArray& record) { again += record; });
+    EXPECT_EQ(again, bytes);
+}
+
+TEST(ModelAssembly, RefusesWhatIsNoModel)
+{
+    const QByteArray sound = richRecords();
+    int refused = 0;
+    for (int i = 0; i < sound.size(); ++i) {
+        QByteArray damaged = sound;
+        damaged[i] = '\xff';
+        ModelAssembly assembly;
+        refused += assembly.take(damaged) ? 0 : 1;
+        const ModelData model = assembly.takeModel();
+        for (const MeshData& mesh : model.meshes) {
+            for (const std::uint32_t vertex : mesh.triangles) {
+                ASSERT_TRUE(refused > 0 || vertex < mesh.positions.size());
+            }
+        }
+    }
+    EXPECT_GT(refused, sound.size() / 4);
+    QByteArray deep;
+    ModelData model;
+    for (int i = 0; i < kDeepestNode + 2; ++i) {
+        NodeData above;
+        above.children = { std::move(model.root) };
+        model.root = std::move(above);
+    }
+    writeModel(model, [&deep](const QByteArray& record) { deep += record; });
+    EXPECT_FALSE(ModelAssembly().take(deep));
 }
 
 }  // namespace

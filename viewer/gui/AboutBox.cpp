@@ -49,7 +49,7 @@ QString AboutBox::versions(const QString& graphics)
             .arg(OSG_MINOR_VERSION),
         tr("Picking: %1")
             .arg(QString::fromStdString(nbec::interaction::Picker::getSearchLibrary())),
-        tr("Model files: %1").arg(modelLibraryVersion()),
+        tr("Model files: %1").arg(ModelReader::libraryVersion()),
         tr("System: %1, %2").arg(QSysInfo::prettyProductName(), QSysInfo::currentCpuArchitecture()),
     };
     return lines.join(QLatin1Char('\n'));

@@ -95,13 +95,13 @@ bool ModelLoader::report(Loading& loading, Phase phase, int file, double fractio
 void ModelLoader::read(Loading& loading)
 {
     const int count = loading.files.size();
+    ModelReader reader;
     for (int i = 0; i < count && !loading.cancelled; ++i) {
         const auto progress = [&](double fraction) {
             return report(loading, Phase::Reading, i, kReadingShare * (i + fraction) / count);
         };
         progress(0.0);
-        std::optional<ModelData> model =
-            readModelFile(loading.files.at(i), progress, loading.error);
+        std::optional<ModelData> model = reader.read(loading.files.at(i), progress, loading.error);
         if (!model) {
             return;
         }

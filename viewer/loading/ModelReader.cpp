@@ -1,238 +1,190 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/loading/ModelReader.h"
 
-#include "viewer/loading/ModelConversion.h"
-#include "viewer/loading/PictureFile.h"
+#include "viewer/loading/ModelRecords.h"
+#include "viewer/loading/PictureDecoding.h"
+#include "viewer/texts/FileRules.h"
+#include "viewer/texts/Language.h"
 #include "viewer/texts/Text.h"
 
+#include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
+#include <QProcess>
 
-#include <algorithm>
-#include <exception>
-
-#include <assimp/Importer.hpp>
-#include <assimp/ProgressHandler.hpp>
-#include <assimp/config.h>
-#include <assimp/postprocess.h>
-#include <assimp/scene.h>
-#include <assimp/version.h>
+#include <unistd.h>
 
 namespace viewer {
 namespace {
 
-/// Surfaces that meet at a sharper angle than this keep an edge, degrees.
-constexpr float kCreaseAngleDeg = 50.0F;
+constexpr int kTickMs = 50;
+constexpr qint64 kBytesOfASecond = 1000000;
+constexpr qint64 kMsOfASecond = 1000;
+constexpr int kGoodbyeMs = 1000;
 
-constexpr float kPictureHeight = 2.0F;
-
-const char* const kModelEndings[] = { "obj", "ply", "stl", "gltf", "glb",
-                                      "3ds", "dae", "fbx", "off",  "x3d" };
-const char* const kPictureEndings[] = { "png", "jpg", "jpeg", "bmp", "gif", "ppm" };
-
-bool isPictureName(const QString& path)
+/// Beside the program, as when both have just been built, or where it is installed to.
+QString readerProgram()
 {
-    const QString ending = QFileInfo(path).suffix().toLower();
-    for (const char* known : kPictureEndings) {
-        if (ending == QLatin1String(known)) {
-            return true;
-        }
-    }
-    return false;
+    const QDir folder = QFileInfo(QFile::symLinkTarget(QStringLiteral("/proc/self/exe"))).dir();
+    const QString beside = folder.filePath(QStringLiteral("nbmodelreader"));
+    return QFileInfo::exists(beside)
+        ? beside
+        : QDir::cleanPath(folder.filePath(QStringLiteral(NB_READER_FROM_PROGRAM)));
 }
 
-/// Hands the importer's progress on.
-class Progress : public Assimp::ProgressHandler
+/// Memory that a process has in use; 0 where it cannot be told.
+qint64 residentBytes(qint64 processId)
 {
-public:
-    explicit Progress(ReadProgress target)
-        : report(std::move(target))
-    { }
-
-    bool Update(float fraction) override
-    {
-        // The importer says -1 when it does not know.
-        if (report && fraction >= 0.0F) {
-            goOn = report(fraction) && goOn;
-        }
-        return goOn;
-    }
-
-    bool isCancelled() const { return !goOn; }
-
-private:
-    ReadProgress report;
-    bool goOn = true;
-};
-
-bool hasEnding(const QString& path, const char* ending)
-{
-    return QFileInfo(path).suffix().compare(QLatin1String(ending), Qt::CaseInsensitive) == 0;
-}
-
-unsigned importFlags(const QString& path, Assimp::Importer& importer)
-{
-    unsigned flags = aiProcess_Triangulate | aiProcess_JoinIdenticalVertices |
-        aiProcess_GenSmoothNormals | aiProcess_SortByPType | aiProcess_FindInvalidData |
-        aiProcess_GenUVCoords | aiProcess_TransformUVCoords | aiProcess_ValidateDataStructure;
-    importer.SetPropertyInteger(AI_CONFIG_PP_SBP_REMOVE,
-                                aiPrimitiveType_POINT | aiPrimitiveType_LINE);
-    importer.SetPropertyFloat(AI_CONFIG_PP_GSN_MAX_SMOOTHING_ANGLE, kCreaseAngleDeg);
-    // An STL file has one normal for each triangle, which would make every surface look faceted.
-    if (hasEnding(path, "stl")) {
-        importer.SetPropertyInteger(AI_CONFIG_PP_RVC_FLAGS, aiComponent_NORMALS);
-        flags |= aiProcess_RemoveComponent;
-    }
-    return flags;
-}
-
-std::optional<ModelData> fail(const QString& path, const QString& what, QString& error)
-{
-    error = QStringLiteral("%1: %2").arg(path, what.simplified());
-    return std::nullopt;
-}
-
-/// Whether the header of a PLY file reaches its end; the importer would look for it for ever.
-bool isPlyHeaderWhole(const QString& path)
-{
-    constexpr qint64 kLongestLine = 65536;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return false;
-    }
-    while (!file.atEnd()) {
-        // Files of old systems end their lines with a carriage return alone.
-        if (file.readLine(kLongestLine).contains("end_header")) {
-            return true;
-        }
-    }
-    return false;
-}
-
-/// Files that are cut short may have faces without corners, which end the importer's program.
-bool hasEmptyFaces(const aiScene& scene)
-{
-    const auto isEmpty = [](const aiFace& face) { return face.mNumIndices == 0; };
-    return std::any_of(
-        scene.mMeshes, scene.mMeshes + scene.mNumMeshes, [&isEmpty](const aiMesh* mesh) {
-            return std::any_of(mesh->mFaces, mesh->mFaces + mesh->mNumFaces, isEmpty);
-        });
-}
-
-std::optional<ModelData> readWithImporter(const QString& path, const ReadProgress& report,
-                                          QString& error)
-{
-    if (hasEnding(path, "ply") && !isPlyHeaderWhole(path)) {
-        return fail(path, Text::tr("cannot be read as a model: its header has no end"), error);
-    }
-    Assimp::Importer importer;
-    auto* progress = new Progress(report);
-    importer.SetProgressHandler(progress);  // which owns it
-    const unsigned flags = importFlags(path, importer);
-    const aiScene* scene =
-        importer.ReadFile(QFile::encodeName(path).constData(), aiProcess_ValidateDataStructure);
-    if (scene != nullptr && hasEmptyFaces(*scene)) {
-        return fail(path, Text::tr("cannot be read as a model: it has faces without corners"),
-                    error);
-    }
-    if (scene != nullptr) {
-        scene = importer.ApplyPostProcessing(flags);
-    }
-    if (progress->isCancelled()) {
-        return fail(path, Text::tr("reading was stopped"), error);
-    }
-    if (scene == nullptr || scene->mRootNode == nullptr) {
-        const QString reason = QString::fromUtf8(importer.GetErrorString()).section('\n', 0, 0);
-        return fail(path, Text::tr("cannot be read as a model: %1").arg(reason), error);
-    }
-    ModelData model = convertScene(*scene, path);
-    if (model.triangleCount() == 0) {
-        return fail(path, Text::tr("holds no surface"), error);
-    }
-    return model;
-}
-
-std::optional<ModelData> pictureModel(const QString& path, QString& error)
-{
-    const QImage picture = decodePictureFile(path, error);
-    if (picture.isNull()) {
-        return std::nullopt;
-    }
-    const float halfHeight = kPictureHeight / 2.0F;
-    const float halfWidth =
-        halfHeight * static_cast<float>(picture.width()) / static_cast<float>(picture.height());
-    MeshData mesh;
-    mesh.positions = { { -halfWidth, 0, 0 },
-                       { halfWidth, 0, 0 },
-                       { halfWidth, kPictureHeight, 0 },
-                       { -halfWidth, kPictureHeight, 0 } };
-    mesh.normals.assign(4, Vec3 { 0, 0, 1 });
-    mesh.texCoords = { { 0, 0 }, { 1, 0 }, { 1, 1 }, { 0, 1 } };
-    mesh.triangles = { 0, 1, 2, 0, 2, 3 };
-    MaterialData material;
-    material.diffuse = { 1, 1, 1 };
-    material.texture = picture;
-    ModelData model;
-    model.meshes.push_back(mesh);
-    model.materials.push_back(material);
-    model.root.meshes = { 0 };
-    return model;
+    QFile file(QStringLiteral("/proc/%1/statm").arg(processId));
+    const QList<QByteArray> pages =
+        file.open(QIODevice::ReadOnly) ? file.readAll().split(' ') : QList<QByteArray>();
+    return pages.value(1).toLongLong() * sysconf(_SC_PAGESIZE);
 }
 
 }  // namespace
 
+/// The reading of one file.
+class ModelReader::Reading
+{
+public:
+    Reading(QProcess& readingProgram, const Limits& readingLimits, const QString& file)
+        : program(readingProgram)
+        , limits(readingLimits)
+        , patienceMs(readingLimits.patienceMs +
+                     kMsOfASecond * QFileInfo(file).size() / kBytesOfASecond)
+    {
+        clock.start();
+        program.write(file.toUtf8() + '\0');
+    }
+
+    /// Waits for the model. @return what went wrong; "" for nothing
+    QString finish(const ReadProgress& progress)
+    {
+        while (!assembly.isComplete()) {
+            program.waitForReadyRead(kTickMs);
+            const QByteArray bytes = program.readAllStandardOutput();
+            if (!bytes.isEmpty()) {
+                clock.restart();
+            }
+            if (!assembly.take(bytes)) {
+                return Text::tr("cannot be read as a model: what was read of it is damaged");
+            }
+            const QString fault = assembly.isComplete() ? QString() : findFault(progress);
+            if (!fault.isEmpty()) {
+                return fault;
+            }
+        }
+        return {};
+    }
+
+    ModelAssembly assembly;
+
+private:
+    QString findFault(const ReadProgress& progress)
+    {
+        if (progress && !progress(assembly.progress())) {
+            return Text::tr("reading was stopped");
+        }
+        if (program.state() == QProcess::NotRunning && program.bytesAvailable() == 0) {
+            return Text::tr("cannot be read as a model: reading it ended with a fault");
+        }
+        if (residentBytes(program.processId()) > limits.memoryBytes) {
+            return Text::tr("cannot be read as a model: it would take too much memory");
+        }
+        return clock.elapsed() > patienceMs ? Text::tr("has no end: reading was given up")
+                                            : QString();
+    }
+
+    QProcess& program;
+    const Limits& limits;
+    qint64 patienceMs;
+    QElapsedTimer clock;
+};
+
+ModelReader::ModelReader()
+    : ModelReader(Limits())
+{ }
+
+ModelReader::ModelReader(const Limits& newLimits)
+    : limits(newLimits)
+{ }
+
+ModelReader::~ModelReader()
+{
+    end();
+}
+
+bool ModelReader::start(QString& error)
+{
+    if (program && program->state() == QProcess::Running) {
+        return true;
+    }
+    program = std::make_unique<QProcess>();
+    program->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    program->start(readerProgram(),
+                   { QString::number(limits.memoryBytes), QString::number(pictureBudget()),
+                     languageName(appliedLanguage()) });
+    if (!program->waitForStarted()) {
+        error = Text::tr("the program that reads models cannot be started: %1")
+                    .arg(program->errorString());
+        return false;
+    }
+    return true;
+}
+
+void ModelReader::end()
+{
+    if (program) {
+        program->kill();
+        program->waitForFinished(kGoodbyeMs);
+        program.reset();
+    }
+}
+
+std::optional<ModelData> ModelReader::read(const QString& path, const ReadProgress& progress,
+                                           QString& error)
+{
+    const auto fail = [&](const QString& what) {
+        error = oneLine(QStringLiteral("%1: %2").arg(path, what));
+        return std::nullopt;
+    };
+    if (!isReadable(path, error)) {
+        return std::nullopt;
+    }
+    if (!isModelFileName(path)) {
+        return fail(Text::tr("cannot be read as a model: %1 is no kind that is known")
+                        .arg(QLatin1Char('.') + QFileInfo(path).suffix()));
+    }
+    QString problem;
+    if (!start(problem)) {
+        return fail(problem);
+    }
+    const QFileInfo info(path);
+    Reading reading(*program, limits, info.absoluteFilePath());
+    problem = reading.finish(progress);
+    if (!problem.isEmpty()) {
+        end();
+        return fail(problem);
+    }
+    if (!reading.assembly.failure().isEmpty()) {
+        return fail(reading.assembly.failure());
+    }
+    ModelData model = reading.assembly.takeModel();
+    model.root.name = info.completeBaseName();
+    model.file = info.absoluteFilePath();
+    return model;
+}
+
+QString ModelReader::libraryVersion()
+{
+    return QStringLiteral("Assimp " NB_ASSIMP_VERSION);
+}
+
 std::optional<ModelData> readModelFile(const QString& path, const ReadProgress& progress,
                                        QString& error)
 {
-    const QFileInfo info(path);
-    if (!info.isFile()) {
-        return fail(path, info.exists() ? Text::tr("not a file") : Text::tr("no such file"), error);
-    }
-    try {
-        std::optional<ModelData> model = isPictureName(path)
-            ? pictureModel(path, error)
-            : readWithImporter(path, progress, error);
-        if (model) {
-            model->root.name = info.completeBaseName();
-            model->file = info.absoluteFilePath();
-        }
-        return model;
-    } catch (const std::exception& problem) {
-        // A damaged file may state sizes that no memory can hold.
-        return fail(path, Text::tr("cannot be read: %1").arg(QString::fromUtf8(problem.what())),
-                    error);
-    }
-}
-
-QString modelFileFilter()
-{
-    QStringList patterns;
-    for (const char* ending : kModelEndings) {
-        patterns.append(QStringLiteral("*.") + QLatin1String(ending));
-    }
-    for (const char* ending : kPictureEndings) {
-        patterns.append(QStringLiteral("*.") + QLatin1String(ending));
-    }
-    return Text::tr("Models and pictures (%1);;All files (*)").arg(patterns.join(' '));
-}
-
-QString modelLibraryVersion()
-{
-    return QStringLiteral("Assimp %1.%2.%3")
-        .arg(aiGetVersionMajor())
-        .arg(aiGetVersionMinor())
-        .arg(aiGetVersionPatch());
-}
-
-bool isModelFileName(const QString& path)
-{
-    const QString ending = QFileInfo(path).suffix().toLower();
-    for (const char* known : kModelEndings) {
-        if (ending == QLatin1String(known)) {
-            return true;
-        }
-    }
-    return isPictureName(path);
+    return ModelReader().read(path, progress, error);
 }
 
 }  // namespace viewer

@@ -2,30 +2,61 @@
 #pragma once
 
 #include "viewer/loading/ModelData.h"
+#include "viewer/loading/ModelFiles.h"
 
-#include <functional>
+#include <memory>
 #include <optional>
+
+class QProcess;
 
 namespace viewer {
 
-/// Told how far reading is, 0 .. 1; answers whether to go on. Called in the reading thread.
-using ReadProgress = std::function<bool(double)>;
+/// Reads model files (OBJ, PLY, STL, glTF, GLB, 3DS, ...) and pictures through a program of its
+/// own, since a stranger's file can make its readers fault, loop and take all memory: whatever
+/// happens there is one line here. One program serves all files of a loading.
+///
+/// Touches no scene graph and no widget, so that any thread may use one; only that thread.
+class ModelReader
+{
+public:
+    /// What reading one file may take.
+    struct Limits
+    {
+        static constexpr qint64 kUsualMemory = 4LL << 30;
+        static constexpr int kUsualPatienceMs = 30000;
 
-/// Reads a model file (OBJ, PLY, STL, glTF, GLB, 3DS, ...) or a picture, which becomes an upright
-/// rectangle of height 2. Touches no scene graph and no widget, so that it may run in any thread.
-/// Never throws.
-/// @param progress  may be empty
-/// @param error  one line that begins with the path when the answer is nothing
+        qint64 memoryBytes = kUsualMemory;
+        int patienceMs = kUsualPatienceMs;  ///< without progress; a second for each MB comes on top
+    };
+
+    ModelReader();
+    explicit ModelReader(const Limits& newLimits);
+    ModelReader(const ModelReader&) = delete;
+    ModelReader& operator=(const ModelReader&) = delete;
+    /// Ends the program.
+    ~ModelReader();
+
+    /// Reads a file. Never throws.
+    /// @param progress  asked about twenty times a second whether to go on; may be empty
+    /// @param error  one line that begins with the path when the answer is nothing
+    std::optional<ModelData> read(const QString& path, const ReadProgress& progress,
+                                  QString& error);
+
+    /// Name and version of the library that reads model files, such as "Assimp 5.2.4".
+    static QString libraryVersion();
+
+private:
+    class Reading;
+
+    bool start(QString& error);
+    void end();
+
+    Limits limits;
+    std::unique_ptr<QProcess> program;
+};
+
+/// Reads one file with a ModelReader of its own.
 std::optional<ModelData> readModelFile(const QString& path, const ReadProgress& progress,
                                        QString& error);
-
-/// Name filter for a file dialogue, such as "Models and pictures (*.obj *.ply ...)".
-QString modelFileFilter();
-
-/// Name and version of the library that reads model files, such as "Assimp 5.2.4".
-QString modelLibraryVersion();
-
-/// Whether the name's ending is that of a file that readModelFile() may be able to read.
-bool isModelFileName(const QString& path);
 
 }  // namespace viewer

@@ -39,9 +39,8 @@ QString oneLine(QString text)
     return text;
 }
 
-bool openForReading(QFile& file, QString& error)
+bool isReadable(const QString& path, QString& error)
 {
-    const QString path = file.fileName();
     const QFileInfo info(path);
     if (isOfAnotherMachine(path)) {
         return fail(path, Text::tr("is not on this machine"), error);
@@ -49,10 +48,13 @@ bool openForReading(QFile& file, QString& error)
     if (!info.exists()) {
         return fail(path, Text::tr("no such file"), error);
     }
-    if (!info.isFile() || isOfTheSystem(info)) {
-        return fail(path, Text::tr("not a file"), error);
-    }
-    return file.open(QIODevice::ReadOnly) || fail(path, file.errorString(), error);
+    return (info.isFile() && !isOfTheSystem(info)) || fail(path, Text::tr("not a file"), error);
+}
+
+bool openForReading(QFile& file, QString& error)
+{
+    return isReadable(file.fileName(), error) &&
+        (file.open(QIODevice::ReadOnly) || fail(file.fileName(), file.errorString(), error));
 }
 
 bool isReplaceable(const QString& path, QString& error)

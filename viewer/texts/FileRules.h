@@ -12,8 +12,10 @@ namespace viewer {
 /// What is quoted may have several lines: each control character becomes a space.
 QString oneLine(QString text);
 
-/// Opens a regular file of this machine for reading: no device, no pipe, which might never end, and
-/// nothing of another machine. @return false with one line in `error` that begins with the path
+/// Whether a file may be opened for reading: a regular one of this machine, no device and no pipe,
+/// which might never end. @return false with one line in `error` that begins with the path
+bool isReadable(const QString& path, QString& error);
+/// Opens such a file. @return false as isReadable()
 bool openForReading(QFile& file, QString& error);
 
 /// Whether a file can be written: it is new or a regular one.

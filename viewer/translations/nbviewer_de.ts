@@ -213,10 +213,6 @@
         </translation>
     </message>
     <message>
-        <source>%1: picture %2 cannot be read</source>
-        <translation>%1: Bild %2 kann nicht gelesen werden</translation>
-    </message>
-    <message>
         <source>cannot be read as a model: its header has no end</source>
         <translation>kann nicht als Modell gelesen werden: der Dateikopf hat kein Ende</translation>
     </message>
@@ -474,6 +470,38 @@
     <message>
         <source>no such folder</source>
         <translation>kein solcher Ordner</translation>
+    </message>
+    <message>
+        <source>cannot be read as a model: what was read of it is damaged</source>
+        <translation>kann nicht als Modell gelesen werden: Das Gelesene ist beschädigt</translation>
+    </message>
+    <message>
+        <source>cannot be read as a model: reading it ended with a fault</source>
+        <translation>kann nicht als Modell gelesen werden: Das Lesen endete mit einem Fehler</translation>
+    </message>
+    <message>
+        <source>cannot be read as a model: it would take too much memory</source>
+        <translation>kann nicht als Modell gelesen werden: Es würde zu viel Speicher brauchen</translation>
+    </message>
+    <message>
+        <source>has no end: reading was given up</source>
+        <translation>hat kein Ende: Das Lesen wurde aufgegeben</translation>
+    </message>
+    <message>
+        <source>the program that reads models cannot be started: %1</source>
+        <translation>das Programm, das Modelle liest, kann nicht gestartet werden: %1</translation>
+    </message>
+    <message>
+        <source>cannot be read as a model: %1 is no kind that is known</source>
+        <translation>kann nicht als Modell gelesen werden: %1 ist keine bekannte Art</translation>
+    </message>
+    <message>
+        <source>it has places too far away</source>
+        <translation>es hat Orte, die zu weit entfernt sind</translation>
+    </message>
+    <message>
+        <source>its nodes are nested too deeply</source>
+        <translation>seine Knoten sind zu tief verschachtelt</translation>
     </message>
 </context>
 <context>

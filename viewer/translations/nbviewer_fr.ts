@@ -213,10 +213,6 @@
         </translation>
     </message>
     <message>
-        <source>%1: picture %2 cannot be read</source>
-        <translation>%1&#xa0;: l’image %2 ne peut pas être lue</translation>
-    </message>
-    <message>
         <source>cannot be read as a model: its header has no end</source>
         <translation>ne peut pas être lu comme modèle&#xa0;: l’en-tête n’a pas de fin</translation>
     </message>
@@ -474,6 +470,38 @@
     <message>
         <source>no such folder</source>
         <translation>aucun dossier de ce nom</translation>
+    </message>
+    <message>
+        <source>cannot be read as a model: what was read of it is damaged</source>
+        <translation>ne peut pas être lu comme modèle : ce qui en a été lu est endommagé</translation>
+    </message>
+    <message>
+        <source>cannot be read as a model: reading it ended with a fault</source>
+        <translation>ne peut pas être lu comme modèle : la lecture s’est terminée par une erreur</translation>
+    </message>
+    <message>
+        <source>cannot be read as a model: it would take too much memory</source>
+        <translation>ne peut pas être lu comme modèle : il prendrait trop de mémoire</translation>
+    </message>
+    <message>
+        <source>has no end: reading was given up</source>
+        <translation>n’a pas de fin : la lecture a été abandonnée</translation>
+    </message>
+    <message>
+        <source>the program that reads models cannot be started: %1</source>
+        <translation>le programme qui lit les modèles ne peut pas être lancé : %1</translation>
+    </message>
+    <message>
+        <source>cannot be read as a model: %1 is no kind that is known</source>
+        <translation>ne peut pas être lu comme modèle : %1 n’est pas un type connu</translation>
+    </message>
+    <message>
+        <source>it has places too far away</source>
+        <translation>il a des points trop éloignés</translation>
+    </message>
+    <message>
+        <source>its nodes are nested too deeply</source>
+        <translation>ses nœuds sont imbriqués trop profondément</translation>
     </message>
 </context>
 <context>

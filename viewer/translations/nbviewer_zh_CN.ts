@@ -212,10 +212,6 @@
         </translation>
     </message>
     <message>
-        <source>%1: picture %2 cannot be read</source>
-        <translation>%1：无法读取图片 %2</translation>
-    </message>
-    <message>
         <source>cannot be read as a model: its header has no end</source>
         <translation>无法作为模型读取：文件头没有结尾</translation>
     </message>
@@ -472,6 +468,38 @@
     <message>
         <source>no such folder</source>
         <translation>没有该文件夹</translation>
+    </message>
+    <message>
+        <source>cannot be read as a model: what was read of it is damaged</source>
+        <translation>无法作为模型读取：读到的内容已损坏</translation>
+    </message>
+    <message>
+        <source>cannot be read as a model: reading it ended with a fault</source>
+        <translation>无法作为模型读取：读取时出错</translation>
+    </message>
+    <message>
+        <source>cannot be read as a model: it would take too much memory</source>
+        <translation>无法作为模型读取：占用内存过多</translation>
+    </message>
+    <message>
+        <source>has no end: reading was given up</source>
+        <translation>没有尽头：已放弃读取</translation>
+    </message>
+    <message>
+        <source>the program that reads models cannot be started: %1</source>
+        <translation>无法启动读取模型的程序：%1</translation>
+    </message>
+    <message>
+        <source>cannot be read as a model: %1 is no kind that is known</source>
+        <translation>无法作为模型读取：%1 不是已知的类型</translation>
+    </message>
+    <message>
+        <source>it has places too far away</source>
+        <translation>其中有过远的位置</translation>
+    </message>
+    <message>
+        <source>its nodes are nested too deeply</source>
+        <translation>其节点嵌套过深</translation>
     </message>
 </context>
 <context>

@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "viewer/loading/ModelConversion.h"
+#include "viewer/reader/ModelConversion.h"
 
+#include "viewer/commands/SceneLimits.h"
+#include "viewer/loading/ModelRecords.h"
+#include "viewer/loading/PictureDecoding.h"
 #include "viewer/texts/Text.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QFileInfo>
 
@@ -28,9 +32,19 @@ bool isFinite(const aiVector3D& v)
     return std::isfinite(v.x) && std::isfinite(v.y) && std::isfinite(v.z);
 }
 
+/// What nobody could use becomes zero.
+Vec3 usable(const aiVector3D& v)
+{
+    const bool isUsable = isSceneNumber(v.x) && isSceneNumber(v.y) && isSceneNumber(v.z);
+    return isUsable ? Vec3 { v.x, v.y, v.z } : Vec3 { 0, 0, 0 };
+}
+
 std::uint8_t byteOf(float component)
 {
     constexpr float kMaxByte = 255.0F;
+    if (!std::isfinite(component)) {
+        return 0;
+    }
     return static_cast<std::uint8_t>(std::lround(std::clamp(component, 0.0F, 1.0F) * kMaxByte));
 }
 
@@ -46,13 +60,36 @@ float encoded(float linear)
     return x <= kKnee ? kSlope * x : kScale * std::pow(x, 1.0F / kExponent) - kOffset;
 }
 
+QImage embeddedPicture(const aiTexture& source, const QString& name, QString& problem)
+{
+    const auto* const bytes = reinterpret_cast<const char*>(source.pcData);
+    constexpr unsigned kLongest = 1U << 30;
+    if (source.mWidth > kLongest) {
+        return {};
+    }
+    // Height 0 marks a compressed picture whose bytes are counted by the width.
+    if (source.mHeight == 0) {
+        QByteArray all = QByteArray::fromRawData(bytes, static_cast<int>(source.mWidth));
+        QBuffer buffer(&all);
+        buffer.open(QIODevice::ReadOnly);
+        return decodePicture(buffer, name, problem);
+    }
+    const qint64 pixels = qint64(source.mWidth) * source.mHeight;
+    return pixels * qint64(sizeof(aiTexel)) > pictureBudget()
+        ? QImage()
+        : QImage(reinterpret_cast<const uchar*>(bytes), static_cast<int>(source.mWidth),
+                 static_cast<int>(source.mHeight), QImage::Format_ARGB32)
+              .copy();
+}
+
 /// Makes a model of an imported scene.
 class Conversion
 {
 public:
-    Conversion(const aiScene& source, const QString& modelPath)
+    Conversion(const aiScene& source, const QString& modelPath, QString& errorText)
         : scene(source)
         , path(modelPath)
+        , error(errorText)
     {
         const QString ending = QFileInfo(path).suffix().toLower();
         linearColors = ending == QLatin1String("gltf") || ending == QLatin1String("glb");
@@ -69,7 +106,7 @@ public:
         for (unsigned i = 0; i < scene.mNumMeshes; ++i) {
             model.meshes.push_back(convert(*scene.mMeshes[i]));
         }
-        model.root = convert(*scene.mRootNode);
+        model.root = convert(*scene.mRootNode, 0);
         if (brokenTriangles > 0) {
             model.warnings.append(Text::tr("%1: %n triangles without a finite place were left out",
                                            nullptr, static_cast<int>(brokenTriangles))
@@ -81,14 +118,23 @@ public:
 private:
     MaterialData convert(const aiMaterial& source);
     MeshData convert(const aiMesh& source);
-    NodeData convert(const aiNode& source) const;
+    NodeData convert(const aiNode& source, int depth);
     Rgb color(const aiMaterial& source, const char* key, unsigned type, unsigned index,
               const Rgb& fallback) const;
     QImage texture(const aiMaterial& source);
     void addTriangles(const aiMesh& source, MeshData& mesh);
 
+    template <class Numbers>
+    void noteNumbers(const Numbers& numbers)
+    {
+        if (!std::all_of(numbers.begin(), numbers.end(), isSceneNumber<float>)) {
+            error = Text::tr("it has places too far away");
+        }
+    }
+
     const aiScene& scene;
     QString path;
+    QString& error;
     bool linearColors = false;
     std::size_t brokenTriangles = 0;
     ModelData model;
@@ -117,21 +163,16 @@ QImage Conversion::texture(const aiMaterial& source)
         return {};
     }
     QImage picture;
+    QString problem = QStringLiteral("%1: %2").arg(text(name), Text::tr("is no picture"));
     if (const aiTexture* embedded = scene.GetEmbeddedTexture(name.C_Str())) {
-        // Height 0 marks a compressed picture whose bytes are counted by the width.
-        picture = embedded->mHeight == 0
-            ? QImage::fromData(reinterpret_cast<const uchar*>(embedded->pcData),
-                               static_cast<int>(embedded->mWidth))
-            : QImage(reinterpret_cast<const uchar*>(embedded->pcData),
-                     static_cast<int>(embedded->mWidth), static_cast<int>(embedded->mHeight),
-                     QImage::Format_ARGB32)
-                  .copy();
+        picture = embeddedPicture(*embedded, text(name), problem);
     } else {
         const QString relative = text(name).replace('\\', '/');
-        picture.load(QFileInfo(path).absoluteDir().absoluteFilePath(relative));
+        picture =
+            decodePictureFile(QFileInfo(path).absoluteDir().absoluteFilePath(relative), problem);
     }
     if (picture.isNull()) {
-        model.warnings.append(Text::tr("%1: picture %2 cannot be read").arg(path, text(name)));
+        model.warnings.append(QStringLiteral("%1: %2").arg(path, problem));
     }
     return picture;
 }
@@ -188,13 +229,13 @@ MeshData Conversion::convert(const aiMesh& source)
     for (unsigned i = 0; i < source.mNumVertices; ++i) {
         const aiVector3D& p = source.mVertices[i];
         mesh.positions.push_back(isFinite(p) ? Vec3 { p.x, p.y, p.z } : Vec3 { 0, 0, 0 });
+        noteNumbers(mesh.positions.back());
         if (source.HasNormals()) {
-            const aiVector3D& n = source.mNormals[i];
-            mesh.normals.push_back(isFinite(n) ? Vec3 { n.x, n.y, n.z } : Vec3 { 0, 0, 0 });
+            mesh.normals.push_back(usable(source.mNormals[i]));
         }
         if (source.HasTextureCoords(0)) {
-            mesh.texCoords.push_back(
-                { source.mTextureCoords[0][i].x, source.mTextureCoords[0][i].y });
+            const Vec3 place = usable(source.mTextureCoords[0][i]);
+            mesh.texCoords.push_back({ place[0], place[1] });
         }
         if (source.HasVertexColors(0)) {
             const aiColor4D& c = source.mColors[0][i];
@@ -204,9 +245,13 @@ MeshData Conversion::convert(const aiMesh& source)
     return mesh;
 }
 
-NodeData Conversion::convert(const aiNode& source) const
+NodeData Conversion::convert(const aiNode& source, int depth)
 {
     NodeData node;
+    if (depth > kDeepestNode) {
+        error = Text::tr("its nodes are nested too deeply");
+        return node;
+    }
     node.name = text(source.mName);
     aiMatrix4x4 matrix = source.mTransformation;
     matrix.Transpose();  // the importer's memory goes row by row
@@ -214,6 +259,7 @@ NodeData Conversion::convert(const aiNode& source) const
     if (std::all_of(values, values + kMatrixSize,
                     [](float value) { return std::isfinite(value); })) {
         std::copy(values, values + kMatrixSize, node.matrix.begin());
+        noteNumbers(node.matrix);
     }
     for (unsigned i = 0; i < source.mNumMeshes; ++i) {
         if (source.mMeshes[i] < model.meshes.size() &&
@@ -222,16 +268,16 @@ NodeData Conversion::convert(const aiNode& source) const
         }
     }
     for (unsigned i = 0; i < source.mNumChildren; ++i) {
-        node.children.push_back(convert(*source.mChildren[i]));
+        node.children.push_back(convert(*source.mChildren[i], depth + 1));
     }
     return node;
 }
 
 }  // namespace
 
-ModelData convertScene(const aiScene& scene, const QString& path)
+ModelData convertScene(const aiScene& scene, const QString& path, QString& error)
 {
-    return Conversion(scene, path).run();
+    return Conversion(scene, path, error).run();
 }
 
 }  // namespace viewer
