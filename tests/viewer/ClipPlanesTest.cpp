@@ -58,6 +58,7 @@ TEST_F(ClipPlanes, TheHalfTowardsTheEyeGoesAndEachStepCanBeTakenBack)
     EXPECT_EQ(depthInTheMiddle(), whole);
     EXPECT_EQ(stage.selectedObject(), osg::NodePtr()) << "what is gone is not selected";
     EXPECT_TRUE(nbSelection::isEmpty());
+    EXPECT_EQ(stage.gizmo().shown(), Gizmo::Universal);
     EXPECT_TRUE(stage.redo());
     EXPECT_EQ(depthInTheMiddle(), cut);
     ASSERT_TRUE(stage.selectByName("Clip plane"));

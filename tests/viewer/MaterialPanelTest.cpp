@@ -151,16 +151,28 @@ TEST_F(MaterialPanelTest, TheProjectionIsSwitchedTypedAndDraggedAroundAClickedPl
     EXPECT_FALSE(find<QAbstractButton>("texture-rotateScale")->isEnabled());
 
     projection->setFocus();
-    for (int i = 0; i < 2; ++i) {
-        pressKey(*projection, Qt::Key_Down);
-    }
+    pressKey(*projection, Qt::Key_Down);
     waitForQuiet();
+    EXPECT_EQ(value("texture.projection"), QJsonValue("uv"));
+    ASSERT_TRUE(find<QAbstractButton>("materialThreeSides")->isVisible())
+        << "without coordinates the picture is not seen";
+    find<QAbstractButton>("materialThreeSides")->click();
+    waitForQuiet();
+    EXPECT_FALSE(find<QAbstractButton>("materialThreeSides")->isVisible());
     EXPECT_EQ(value("texture.projection"), QJsonValue("triplanar"));
     EXPECT_FALSE(find<QWidget>("texture.scale")->isVisible());
     EXPECT_TRUE(find<QWidget>("texture.triplanarRepeatU")->isVisible());
     EXPECT_FALSE(find<QAbstractButton>("texture-scale")->isEnabled());
     EXPECT_TRUE(find<QAbstractButton>("texture-rotateScale")->isEnabled());
 
+    const auto isPlacing = [this] { return value("texture.place").toBool(); };
+    find<QAbstractButton>("texture-place")->click();
+    EXPECT_TRUE(isPlacing());
+    pressKey(window.view(), Qt::Key_Escape);
+    EXPECT_FALSE(isPlacing());
+    find<QAbstractButton>("texture-place")->click();
+    find<QAbstractButton>("texture-place")->click();
+    EXPECT_FALSE(isPlacing());
     find<QAbstractButton>("texture-place")->click();
     const osg::Pnt2f place = px + osg::Vec2f(5, 40);
     click(window.view().toLogical(place));

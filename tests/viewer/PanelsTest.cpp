@@ -6,7 +6,9 @@
 
 #include <QCheckBox>
 #include <QDoubleSpinBox>
+#include <QTest>
 #include <QTreeWidget>
+#include <QWheelEvent>
 
 namespace viewer {
 namespace {
@@ -31,6 +33,57 @@ TEST_F(Panels, NumbersTypedMoveTheObjectAndFollowIt)
     EXPECT_EQ(problems, QStringList());
 }
 
+TEST_F(Panels, FieldsReadWhatIsTypedAndSayWhatTheyRefuse)
+{
+    window.activateWindow();
+    showPanel("objectDock");
+    auto* box = find<QWidget>("object.translation")->findChild<QDoubleSpinBox*>();
+    const auto type = [&](const char* text) {
+        box->setFocus();
+        box->selectAll();
+        QTest::keyClicks(box, text);
+        QTest::keyClick(box, Qt::Key_Return);
+        waitForQuiet();
+        return nbNodeUtils::getTransformNodeTranslation(stage().selectedObject())[0];
+    };
+    EXPECT_FLOAT_EQ(type("1,5"), 1.5F);
+    EXPECT_EQ(QApplication::focusWidget(), &window.view()) << "Enter gives the keys back";
+    EXPECT_FLOAT_EQ(type("2*1.5"), 3.0F);
+    EXPECT_FLOAT_EQ(type("20 cm + .05 mm"), 0.20005F);
+    EXPECT_EQ(box->text(), "0.2");
+    EXPECT_FLOAT_EQ(type("0.2"), 0.20005F) << "decimals that are not shown are kept";
+    EXPECT_EQ(steps(), 3);
+    EXPECT_FLOAT_EQ(type("1.234,5"), 0.20005F);
+    ASSERT_EQ(problems.size(), 1);
+    EXPECT_TRUE(problems.first().startsWith("\"1.234,5\"")) << problems.first().toStdString();
+    EXPECT_FLOAT_EQ(type("2e6"), 0.20005F) << "beyond the bounds";
+    EXPECT_EQ(steps(), 3);
+    EXPECT_EQ(problems.size(), 2);
+}
+
+TEST_F(Panels, TheWheelAndUndoOfAFieldThatIsNotTypedInAreNotTheFields)
+{
+    window.activateWindow();
+    showPanel("objectDock");
+    auto* box = find<QWidget>("object.translation")->findChild<QDoubleSpinBox*>();
+    const QPointF middle = box->rect().center();
+    QWheelEvent wheel(middle, box->mapToGlobal(middle.toPoint()), {}, { 0, 120 }, Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(box, &wheel);
+    EXPECT_EQ(box->value(), 0.0);
+    EXPECT_NE(box->focusPolicy(), Qt::WheelFocus);
+
+    box->setValue(1.0);
+    ASSERT_EQ(steps(), 1);
+    box->setFocus();
+    QTest::keyClick(box, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(steps(), 0);
+    QTest::keyClicks(box, "2");
+    QTest::keyClick(box, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(box->text(), "0");
+    EXPECT_EQ(steps(), 0);
+}
+
 TEST_F(Panels, TheTreeSelectsAndShowsWhatIsSelected)
 {
     showPanel("sceneDock");
@@ -53,7 +106,7 @@ TEST_F(Panels, NumbersOfTheMatchMoveALineAndTheCameraAndAreDrawn)
     showPanel("matchDock");
     find<QCheckBox>("matchActive")->click();
     ASSERT_EQ(stage().manipulatorName(), "match");
-    auto* number = find<QDoubleSpinBox>("matchLine_x1_1");
+    auto* number = find<QWidget>("matchLine_x1")->findChildren<QDoubleSpinBox*>().value(1);
     const QImage before = picture();
     const double valueBefore = number->value();
 

@@ -76,8 +76,26 @@ TEST_F(PerspectiveMatchToolTest, ADragIsOneStepAndMovesOneEndAndTheCamera)
     EXPECT_NEAR(line(nbdPerspectiveMatch::XLine1).y2(), lineBefore.y2() + 40.0 / 800.0, 1e-6);
     EXPECT_GT(stage.pose().from.dist(before.from), 0.01F);
     EXPECT_EQ(steps(), 1);
+    stage.update();
+    ASSERT_TRUE(stage.isViewHeld()) << "a match is not lost by chance";
+    int refused = 0;
+    stage.setHeldCallback([&refused] { ++refused; });
+    const CameraPose matched = stage.pose();
+    stage.frameAll();
+    stage.interaction().triggerEvent(
+        nbec::interaction::InteractionEvent(names::kStart, names::kCamera, names::kOrbit));
+    stage.interaction().triggerEvent(
+        nbec::interaction::InteractionEvent(names::kStop, names::kCamera, names::kOrbit));
+    stage.interaction().triggerEvent(
+        nbec::interaction::InteractionEvent(names::kTrigger, names::kCamera, names::kZoom));
+    EXPECT_EQ(stage.pose().from, matched.from);
+    EXPECT_EQ(refused, 3);
     EXPECT_TRUE(stage.undo());
     EXPECT_EQ(stage.pose().from, before.from);
+    EXPECT_TRUE(run("view.setHeld", false));
+    stage.frameAll();
+    EXPECT_NE(stage.pose().from, before.from);
+    stage.setPose(before);
     EXPECT_EQ(line(nbdPerspectiveMatch::XLine1), lineBefore);
 
     osg::Pnt2f there = dragOut("x1b", 0.0F, -40.0F);

@@ -5,7 +5,6 @@
 #include <QDoubleSpinBox>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QSpinBox>
 #include <QTemporaryDir>
 #include <QToolButton>
 
@@ -170,10 +169,10 @@ TEST_F(Plates, ThePanelListsStacksHidesAndRenames)
     find<QToolButton>("plates.forward")->click();
     EXPECT_EQ(rows(), QStringList({ "red", "blue", "ground" }));
     EXPECT_TRUE(list->item(0)->isSelected());
-    find<QSpinBox>("plates.opacity")->setValue(50);
+    find<QDoubleSpinBox>("plates.opacity")->setValue(50);
     EXPECT_EQ(value("plates.opacity"), 0.5);
     EXPECT_TRUE(stage().undo());
-    EXPECT_EQ(find<QSpinBox>("plates.opacity")->value(), 100);
+    EXPECT_EQ(find<QDoubleSpinBox>("plates.opacity")->value(), 100);
     list->item(0)->setCheckState(Qt::Unchecked);
     EXPECT_EQ(value("plates.visible"), false);
     list->item(2)->setText("back");

@@ -107,6 +107,12 @@ TEST_F(TransformTools, ADragIsOneStepThatCanBeTakenBackOnceItIsOver)
     EXPECT_TRUE(list->isEnabled());
     EXPECT_EQ(list->model()->rowCount(), 2);
 
+    send(QEvent::MouseButtonPress, position, Qt::RightButton, Qt::RightButton);
+    send(QEvent::MouseMove, position + QPointF(20, 0), Qt::NoButton, Qt::RightButton);
+    EXPECT_FALSE(action("undo")->isEnabled());
+    send(QEvent::MouseButtonRelease, position, Qt::RightButton, Qt::NoButton);
+    EXPECT_TRUE(action("undo")->isEnabled()) << "the view was turned";
+
     play({ key("Ctrl+Z") });
     EXPECT_EQ(translationOf("Knot"), before);
     EXPECT_FALSE(window.isWindowModified());

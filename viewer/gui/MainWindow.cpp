@@ -58,6 +58,7 @@ MainWindow::MainWindow(Attendance attendance)
     , sessionPlayer(new SessionPlayer(*viewWidget, *this, this))
     , sessionRecorder(new SessionRecorder(*viewWidget, this))
     , fullScreen(*this)
+    , fieldRules(*viewWidget)
     , tools(std::make_unique<StageTools>(viewWidget->stage()))
 {
     setShownTitle({});
@@ -91,6 +92,7 @@ void MainWindow::connectParts()
     connect(this, &MainWindow::problem, this,
             [this](const QString& text) { docks->log().append(nbLog::Level::Warning, text); });
     connect(viewWidget, &ViewWidget::stateChanged, this, &MainWindow::updateStatus);
+    connect(&fieldRules, &FieldRules::refused, this, &MainWindow::problem);
     connect(viewWidget, &ViewWidget::drawingFailed, this, &MainWindow::problem);
     connect(viewWidget, &ViewWidget::filesDropped, this, &MainWindow::handleDroppedFiles);
     connect(loader, &ModelLoader::finished, this, &MainWindow::showLoadedModels);
@@ -121,6 +123,8 @@ void MainWindow::connectParts()
             sceneFiles->noteCommand(name);
             viewWidget->stage().edited();
         });
+    viewWidget->stage().setHeldCallback(
+        [this] { emit problem(tr("The view is held: \"Hold the view\" (Shift+H) lets it go")); });
     viewWidget->stage().setChangedCallback([this] {
         actions->update();
         updateStatus();
@@ -323,8 +327,11 @@ void MainWindow::stopLoading()
 
 void MainWindow::askForFiles(Opening opening)
 {
+    const QString scenes = opening == Opening::Replace
+        ? QStringLiteral("*.") + QLatin1String(kSceneSuffix)
+        : QString();
     const QStringList files =
-        QFileDialog::getOpenFileNames(this, tr("Open"), {}, modelFileFilter());
+        QFileDialog::getOpenFileNames(this, tr("Open"), {}, modelFileFilter(scenes));
     if (!files.isEmpty()) {
         openFiles(files, opening);
     }
@@ -420,7 +427,8 @@ void MainWindow::keyPressEvent(QKeyEvent* event)
         QMainWindow::keyPressEvent(event);
     } else if (loader->isRunning()) {
         stopLoading();
-    } else {
+    } else if (StageTool* tool = viewWidget->stage().activeTool();
+               tool == nullptr || !tool->leaveMode()) {
         showWhole(false);
     }
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "viewer/gui/FieldRules.h"
 #include "viewer/gui/FullScreen.h"
 #include "viewer/gui/ModelLoader.h"
 #include "viewer/gui/Theme.h"
@@ -154,6 +155,7 @@ private:
 
     StatusLine* statusLine = nullptr;
     FullScreen fullScreen;
+    FieldRules fieldRules;
     std::unique_ptr<StageTools> tools;
     PanelDocks* docks = nullptr;
     SceneFileActions* sceneFiles = nullptr;

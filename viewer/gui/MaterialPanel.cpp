@@ -19,17 +19,16 @@
 #include <QSlider>
 #include <QToolButton>
 
-#include <cmath>
-
 namespace viewer {
 namespace {
 
 constexpr int kDecimals = 3;
 constexpr int kFineDecimals = 5;  ///< of hundreds of units
-constexpr double kHalfOfLast = 0.5001;  ///< by which the last shown decimal may differ
 constexpr double kMostUnits = 1e6;
 constexpr double kLeastScale = 1e-3;
 constexpr double kPercent = 100.0;
+
+using Measure = nbValueExpression::Measure;
 
 /// What numbers are named by.
 enum class Naming
@@ -48,41 +47,42 @@ struct ValueRow
     const char* label;
     Naming naming;
     double step;
+    Measure measure = Measure::Number;
     double least = -kMostUnits;
     int decimals = kDecimals;
 };
 
 constexpr ValueRow kValueRows[] = {
     { "planar", "texture.translation", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Place"),
-      Naming::Axes, 0.05 },
+      Naming::Axes, 0.05, Measure::Length },
     { "planar", "texture.rotation", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Turn, °"),
-      Naming::Axes, 5.0 },
+      Naming::Axes, 5.0, Measure::Angle },
     { "planar", "texture.scale", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Half size"),
-      Naming::Axes, 0.05, kLeastScale },
+      Naming::Axes, 0.05, Measure::Length, kLeastScale },
     { "uv", "texture.uvOffset", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Offset"),
       Naming::Picture, 0.05 },
     { "uv", "texture.uvRotate", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Turn, °"), Naming::None,
-      5.0 },
+      5.0, Measure::Angle },
     { "uv", "texture.uvRepeat", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Repeat"),
       Naming::Picture, 0.5 },
     { "triplanar", "texture.triplanarRotation",
-      QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Turn, °"), Naming::Axes, 5.0 },
+      QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Turn, °"), Naming::Axes, 5.0, Measure::Angle },
     { "triplanar", "texture.triplanarOffsetU",
-      QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Offset across"), Naming::Axes, 0.001, -kMostUnits,
-      kFineDecimals },
+      QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Offset across"), Naming::Axes, 0.001,
+      Measure::Number, -kMostUnits, kFineDecimals },
     { "triplanar", "texture.triplanarOffsetV",
       QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Offset upwards"), Naming::Axes, 0.001,
-      -kMostUnits, kFineDecimals },
+      Measure::Number, -kMostUnits, kFineDecimals },
     { "triplanar", "texture.triplanarRepeatU",
       QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Repeat across"), Naming::Axes, 5.0 },
     { "triplanar", "texture.triplanarRepeatV",
       QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Repeat upwards"), Naming::Axes, 5.0 },
     { "tire", "texture.tireCenter", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Centre"),
-      Naming::Axes, 0.05 },
+      Naming::Axes, 0.05, Measure::Length },
     { "tire", "texture.tireHeight", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Width of tread"),
-      Naming::None, 0.05 },
+      Naming::None, 0.05, Measure::Length },
     { "tire", "texture.tireRadius", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Radius"),
-      Naming::None, 0.05 },
+      Naming::None, 0.05, Measure::Length },
     { "tire", "texture.tireScaleU", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Part around"),
       Naming::None, 0.05 },
 };
@@ -116,6 +116,11 @@ MaterialPanel::MaterialPanel(Stage& targetStage, TextureTool& targetTool, QWidge
     hint->setObjectName(QStringLiteral("materialHint"));
     hint->setWordWrap(true);
     column->addWidget(hint);
+    threeSides = new QPushButton(tr("Put it on from three sides"), all);
+    threeSides->setObjectName(QStringLiteral("materialThreeSides"));
+    connect(threeSides, &QPushButton::clicked, this,
+            [this] { run(QStringLiteral("texture.projection"), QStringLiteral("triplanar")); });
+    column->addWidget(threeSides);
 
     content = new QWidget(all);
     content->setObjectName(QStringLiteral("materialContent"));
@@ -231,9 +236,9 @@ void MaterialPanel::addHandleRows(QBoxLayout& column)
     column.addLayout(form);
     auto* placeRow = new QHBoxLayout;
     QAbstractButton* place = addHandleButton(*placeRow, "place", tr("By click"));
-    place->setToolTip(tr("Clicks on the object place the picture, or its handles"));
+    place->setToolTip(tr("Clicks on the object place the picture, or its handles, until Esc"));
     connect(place, &QAbstractButton::clicked, this,
-            [this] { run(QStringLiteral("texture.place"), true); });
+            [this] { run(QStringLiteral("texture.place"), !tool.isPlacing()); });
     form->addRow(tr("Placing"), placeRow);
     handleSize = new QSlider(Qt::Horizontal, this);
     handleSize->setObjectName(QStringLiteral("texture.handleSize"));
@@ -263,6 +268,7 @@ void MaterialPanel::addValueRows(QBoxLayout& column, const char* word)
         style.step = row.step;
         style.least = row.least;
         style.decimals = row.decimals;
+        style.measure = row.measure;
         const QString label = tr(row.label);
         const QStringList names = row.naming == Naming::Axes ? QStringList { "X", "Y", "Z" }
             : row.naming == Naming::Picture                  ? QStringList { "U", "V" }
@@ -270,10 +276,9 @@ void MaterialPanel::addValueRows(QBoxLayout& column, const char* word)
         auto* edit = new VectorEdit(names, style, rows);
         const QString command = QString::fromLatin1(row.command);
         edit->setObjectName(command);
-        const double rounding = kHalfOfLast * std::pow(10.0, -row.decimals);
         connect(edit, &VectorEdit::edited, this,
-                [this, command, rounding](const QJsonArray& values) {
-                    runNumbers(command, values, rounding);
+                [this, command, isOne = row.naming == Naming::None](const QJsonArray& values) {
+                    run(command, isOne ? values.first() : QJsonValue(values));
                 });
         form->addRow(label, edit);
         vectors[command] = edit;
@@ -355,20 +360,6 @@ void MaterialPanel::askForPicture()
     }
 }
 
-void MaterialPanel::runNumbers(const QString& command, const QJsonArray& edited, double rounding)
-{
-    // The rows show rounded numbers: those that a person did not change stay what they are.
-    const QJsonValue present = stage().commands().value(command).value_or(QJsonValue());
-    QJsonArray numbers = numbersOf(present);
-    for (int i = 0; i < numbers.size(); ++i) {
-        const double change = std::abs(edited.at(i).toDouble() - numbers.at(i).toDouble());
-        if (change > rounding) {
-            numbers.replace(i, edited.at(i));
-        }
-    }
-    run(command, present.isDouble() ? numbers.first() : QJsonValue(numbers));
-}
-
 // == What there is
 
 void MaterialPanel::refresh()
@@ -379,7 +370,15 @@ void MaterialPanel::refresh()
                              .value(QStringLiteral("texture.surface"))
                              .value_or(QJsonValue())
                              .toString();
-    displayText(hint, hindrance.isEmpty() ? tr("On \"%1\"").arg(name) : hindrance);
+    const bool lacksCoordinates = tool.target().settings() != osg::NullFC &&
+        !tool.target().hasCoordinates() &&
+        tool.target().projectionType() == TextureTarget::Settings::UVProjection;
+    displayText(hint,
+                !hindrance.isEmpty() ? hindrance
+                    : lacksCoordinates
+                    ? tr("\"%1\" has no texture coordinates, so the picture is not seen").arg(name)
+                    : tr("On \"%1\"").arg(name));
+    threeSides->setVisible(lacksCoordinates);
     content->setEnabled(hindrance.isEmpty());
     projectionContent->setEnabled(tool.target().settings() != osg::NullFC);
     refreshRows();

@@ -14,6 +14,7 @@ class QButtonGroup;
 class QComboBox;
 class QFormLayout;
 class QLabel;
+class QPushButton;
 class QSlider;
 
 namespace viewer {
@@ -48,14 +49,13 @@ private:
     QAbstractButton* addHandleButton(QBoxLayout& row, const char* group, const QString& label);
 
     void askForPicture();
-    /// @param rounding  by which shown numbers may differ from what they show
-    void runNumbers(const QString& command, const QJsonArray& edited, double rounding);
     void refreshRows();
     void refreshProjection();
     void refreshPicture();
 
     TextureTool& tool;
 
+    QPushButton* threeSides = nullptr;
     QLabel* hint = nullptr;
     MaterialPicture* picture = nullptr;
     QWidget* content = nullptr;  ///< everything that needs a surface

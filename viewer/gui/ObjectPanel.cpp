@@ -17,14 +17,21 @@ struct RowTable
     const char* command;
     const char* label;
     double step;
+    nbValueExpression::Measure measure;
 };
 
+using Measure = nbValueExpression::Measure;
+
 constexpr RowTable kRows[] = {
-    { "object.translation", QT_TRANSLATE_NOOP("viewer::ObjectPanel", "Translation"), 0.1 },
-    { "object.rotation", QT_TRANSLATE_NOOP("viewer::ObjectPanel", "Rotation, °"), 5.0 },
-    { "object.scale", QT_TRANSLATE_NOOP("viewer::ObjectPanel", "Scale"), 0.1 },
-    { "object.rotatePivot", QT_TRANSLATE_NOOP("viewer::ObjectPanel", "Rotate pivot"), 0.1 },
-    { "object.scalePivot", QT_TRANSLATE_NOOP("viewer::ObjectPanel", "Scale pivot"), 0.1 },
+    { "object.translation", QT_TRANSLATE_NOOP("viewer::ObjectPanel", "Translation"), 0.1,
+      Measure::Length },
+    { "object.rotation", QT_TRANSLATE_NOOP("viewer::ObjectPanel", "Rotation, °"), 5.0,
+      Measure::Angle },
+    { "object.scale", QT_TRANSLATE_NOOP("viewer::ObjectPanel", "Scale"), 0.1, Measure::Number },
+    { "object.rotatePivot", QT_TRANSLATE_NOOP("viewer::ObjectPanel", "Rotate pivot"), 0.1,
+      Measure::Length },
+    { "object.scalePivot", QT_TRANSLATE_NOOP("viewer::ObjectPanel", "Scale pivot"), 0.1,
+      Measure::Length },
 };
 
 const char* const kVisible = "object.visible";
@@ -50,6 +57,7 @@ ObjectPanel::ObjectPanel(Stage& stage, QWidget* parent)
     for (const RowTable& row : kRows) {
         VectorEdit::Style style;
         style.step = row.step;
+        style.measure = row.measure;
         auto* edit = new VectorEdit({ tr("X"), tr("Y"), tr("Z") }, style, this);
         edit->setObjectName(QLatin1String(row.command));
         form->addRow(tr(row.label), edit);

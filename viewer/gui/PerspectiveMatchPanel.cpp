@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/gui/PerspectiveMatchPanel.h"
 
+#include "viewer/gui/VectorEdit.h"
 #include "viewer/loading/PictureFile.h"
 #include "viewer/match/PerspectiveMatchCommands.h"
 #include "viewer/stage/Stage.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDoubleSpinBox>
 #include <QFileDialog>
 #include <QFormLayout>
-#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QJsonArray>
 #include <QJsonObject>
@@ -56,21 +55,6 @@ void display(QComboBox* box, int index)
     box->setCurrentIndex(index);
 }
 
-/// Whether a box shows a number, as far as its digits go.
-bool isShown(const QDoubleSpinBox* box, double value)
-{
-    return box->textFromValue(value) == box->textFromValue(box->value());
-}
-
-/// A number that is being typed is left alone unless another one is to be shown.
-void display(QDoubleSpinBox* box, double value)
-{
-    if (!isShown(box, value)) {
-        const QSignalBlocker blocker(box);
-        box->setValue(value);
-    }
-}
-
 void display(QLabel* label, const QString& text)
 {
     if (label->text() != text) {
@@ -88,20 +72,6 @@ PerspectiveMatchPanel::PerspectiveMatchPanel(Stage& targetStage, PerspectiveMatc
     auto* form = new QFormLayout(this);
     addPhotograph(*form);
     active = addSwitch(*form, "matchActive", tr("Match mode"), QStringLiteral("match.setActive"));
-    linesShown =
-        addSwitch(*form, "matchLinesShown", tr("Lines"), QStringLiteral("match.showLines"));
-    locked =
-        addSwitch(*form, "matchLocked", tr("Camera locked"), QStringLiteral("match.setLocked"));
-    linesType = addChoice(*form, "matchLinesType", tr("Lines used"),
-                          QStringLiteral("match.setLinesType"), listOf(kLinesTypeNames),
-                          { tr("X, Y and Z"), tr("X and Y"), tr("X and Z"), tr("Y and Z") });
-    fovMode =
-        addChoice(*form, "matchFovMode", tr("Field of view"), QStringLiteral("match.setFovMode"),
-                  listOf(kFovModeNames), { tr("From the lines"), tr("Fixed") });
-    addMagnifier(*form);
-    auto* grid = new QGridLayout;
-    addLines(*grid);
-    form->addRow(grid);
     auto* buttons = new QHBoxLayout;
     layLines =
         addButton("matchLayLines", tr("Lay lines as seen"), QStringLiteral("match.layLines"));
@@ -113,6 +83,18 @@ PerspectiveMatchPanel::PerspectiveMatchPanel(Stage& targetStage, PerspectiveMatc
     result->setObjectName(QStringLiteral("matchResult"));
     result->setWordWrap(true);
     form->addRow(result);
+    linesShown =
+        addSwitch(*form, "matchLinesShown", tr("Lines"), QStringLiteral("match.showLines"));
+    locked =
+        addSwitch(*form, "matchLocked", tr("Camera locked"), QStringLiteral("match.setLocked"));
+    linesType = addChoice(*form, "matchLinesType", tr("Lines used"),
+                          QStringLiteral("match.setLinesType"), listOf(kLinesTypeNames),
+                          { tr("X, Y and Z"), tr("X and Y"), tr("X and Z"), tr("Y and Z") });
+    fovMode =
+        addChoice(*form, "matchFovMode", tr("Field of view"), QStringLiteral("match.setFovMode"),
+                  listOf(kFovModeNames), { tr("From the lines"), tr("Fixed") });
+    addMagnifier(*form);
+    addLines(*form);
     refresh();
 }
 
@@ -170,42 +152,38 @@ QComboBox* PerspectiveMatchPanel::addChoice(QFormLayout& form, const char* name,
 
 void PerspectiveMatchPanel::addMagnifier(QFormLayout& form)
 {
-    magnifyFactor = new QDoubleSpinBox(this);
+    NumberBox::Style style;
+    style.step = 1.0;
+    style.least = static_cast<double>(nbdPerspectiveMatch::kSmallestMagnifyFactor);
+    style.most = static_cast<double>(nbdPerspectiveMatch::kLargestMagnifyFactor);
+    style.decimals = 1;
+    magnifyFactor = new NumberBox(style, this);
     magnifyFactor->setObjectName(QStringLiteral("matchMagnifyFactor"));
-    magnifyFactor->setLocale(QLocale::c());
-    magnifyFactor->setDecimals(1);
-    magnifyFactor->setKeyboardTracking(false);
-    magnifyFactor->setRange(static_cast<double>(nbdPerspectiveMatch::kSmallestMagnifyFactor),
-                            static_cast<double>(nbdPerspectiveMatch::kLargestMagnifyFactor));
     form.addRow(tr("Magnifier"), magnifyFactor);
     connect(magnifyFactor, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
             [this](double factor) { run(QStringLiteral("match.setMagnifyFactor"), factor); });
 }
 
-void PerspectiveMatchPanel::addLines(QGridLayout& grid)
+void PerspectiveMatchPanel::addLines(QFormLayout& form)
 {
-    const QString names[kNumbersPerLine] = { tr("Line %1, start, across"), tr("Line %1, start, up"),
-                                             tr("Line %1, end, across"), tr("Line %1, end, up") };
-    for (int line = 0; line < PerspectiveMatchTool::kLineCount; ++line) {
-        const QString word = QLatin1String(PerspectiveMatchTool::lineName(line));
-        grid.addWidget(new QLabel(word.toUpper(), this), line, 0);
-        for (int i = 0; i < kNumbersPerLine; ++i) {
-            auto* box = new QDoubleSpinBox(this);
-            box->setObjectName(QStringLiteral("matchLine_%1_%2").arg(word).arg(i));
-            box->setAccessibleName(names[i].arg(word.toUpper()));
-            box->setToolTip(box->accessibleName());
-            box->setLocale(QLocale::c());
-            box->setDecimals(kDecimals);
-            box->setSingleStep(kStep);
-            box->setRange(-kMostCoordinate, kMostCoordinate);
-            box->setButtonSymbols(QAbstractSpinBox::NoButtons);
-            box->setKeyboardTracking(false);
-            box->setMinimumWidth(box->fontMetrics().horizontalAdvance(QStringLiteral("-0.00000")));
-            grid.addWidget(box, line, i + 1);
-            connect(box, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
-                    [this, line] { sendLine(line); });
-            lineBoxes[static_cast<std::size_t>(line)][static_cast<std::size_t>(i)] = box;
-        }
+    VectorEdit::Style style;
+    style.step = kStep;
+    style.least = -kMostCoordinate;
+    style.most = kMostCoordinate;
+    style.decimals = kDecimals;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        const QString word = QLatin1String(PerspectiveMatchTool::lineName(static_cast<int>(i)));
+        const QString name = word.toUpper();
+        lines[i] = new VectorEdit(
+            { tr("Line %1, start, across").arg(name), tr("Line %1, start, up").arg(name),
+              tr("Line %1, end, across").arg(name), tr("Line %1, end, up").arg(name) },
+            style, this);
+        lines[i]->setObjectName(QStringLiteral("matchLine_") + word);
+        form.addRow(name, lines[i]);
+        connect(lines[i], &VectorEdit::edited, this, [this, word](const QJsonArray& ends) {
+            run(QStringLiteral("match.setLine"),
+                QJsonObject { { "line", word }, { "ends", ends } });
+        });
     }
 }
 
@@ -228,23 +206,6 @@ void PerspectiveMatchPanel::askForPhotograph()
     }
 }
 
-void PerspectiveMatchPanel::sendLine(int line)
-{
-    // Numbers that were not touched keep their digits beyond those shown.
-    const QLineF before =
-        tool.camera().getPerspectiveMatch().getLine(static_cast<nbdPerspectiveMatch::Line>(line));
-    const double known[kNumbersPerLine] = { before.x1(), before.y1(), before.x2(), before.y2() };
-    QJsonArray ends;
-    for (std::size_t i = 0; i < kNumbersPerLine; ++i) {
-        const QDoubleSpinBox* box = lineBoxes[static_cast<std::size_t>(line)][i];
-        ends.append(isShown(box, known[i]) ? known[i] : box->value());
-    }
-    run(QStringLiteral("match.setLine"),
-        QJsonObject {
-            { QStringLiteral("line"), QLatin1String(PerspectiveMatchTool::lineName(line)) },
-            { QStringLiteral("ends"), ends } });
-}
-
 void PerspectiveMatchPanel::refresh()
 {
     const nbdCameraNode camera = tool.camera();
@@ -258,7 +219,7 @@ void PerspectiveMatchPanel::refresh()
     display(locked, camera.isLocked());
     display(linesType, match.getVanishingLinesType());
     display(fovMode, camera.getFovMode());
-    display(magnifyFactor, static_cast<double>(match.getMagnifyFactor()));
+    magnifyFactor->display(static_cast<double>(match.getMagnifyFactor()));
     const bool canEdit = !camera.isLocked();
     for (QWidget* widget : { static_cast<QWidget*>(linesType), static_cast<QWidget*>(fovMode),
                              static_cast<QWidget*>(magnifyFactor), static_cast<QWidget*>(layLines),
@@ -267,12 +228,9 @@ void PerspectiveMatchPanel::refresh()
     }
     for (int line = 0; line < PerspectiveMatchTool::kLineCount; ++line) {
         const QLineF ends = match.getLine(static_cast<nbdPerspectiveMatch::Line>(line));
-        const double numbers[kNumbersPerLine] = { ends.x1(), ends.y1(), ends.x2(), ends.y2() };
-        for (std::size_t i = 0; i < kNumbersPerLine; ++i) {
-            QDoubleSpinBox* box = lineBoxes[static_cast<std::size_t>(line)][i];
-            display(box, numbers[i]);
-            box->setEnabled(canEdit);
-        }
+        VectorEdit* numbers = lines[static_cast<std::size_t>(line)];
+        numbers->display({ ends.x1(), ends.y1(), ends.x2(), ends.y2() });
+        numbers->setEnabled(canEdit);
     }
     const auto fovDeg = static_cast<double>(stage().pose().fovDeg);
     display(result,

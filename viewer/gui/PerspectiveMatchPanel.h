@@ -8,14 +8,15 @@
 
 class QCheckBox;
 class QComboBox;
-class QDoubleSpinBox;
 class QFormLayout;
-class QGridLayout;
 class QLabel;
 class QPushButton;
 class QSlider;
 
 namespace viewer {
+
+class NumberBox;
+class VectorEdit;
 
 /// The panel of the perspective match: photograph, match mode, settings and the coordinates of the
 /// lines.
@@ -31,9 +32,6 @@ public:
     void refresh() final;
 
 private:
-    static constexpr int kNumbersPerLine = 4;
-    using LineBoxes = std::array<QDoubleSpinBox*, kNumbersPerLine>;
-
     QCheckBox* addSwitch(QFormLayout& form, const char* name, const QString& label,
                          const QString& command);
     QComboBox* addChoice(QFormLayout& form, const char* name, const QString& label,
@@ -41,10 +39,9 @@ private:
                          const QStringList& texts);
     void addPhotograph(QFormLayout& form);
     void addMagnifier(QFormLayout& form);
-    void addLines(QGridLayout& grid);
+    void addLines(QFormLayout& form);
     QPushButton* addButton(const char* name, const QString& text, const QString& command);
     void askForPhotograph();
-    void sendLine(int line);
 
     PerspectiveMatchTool& tool;
     QLabel* photograph = nullptr;
@@ -55,8 +52,8 @@ private:
     QCheckBox* locked = nullptr;
     QComboBox* linesType = nullptr;
     QComboBox* fovMode = nullptr;
-    QDoubleSpinBox* magnifyFactor = nullptr;
-    std::array<LineBoxes, PerspectiveMatchTool::kLineCount> lineBoxes {};
+    NumberBox* magnifyFactor = nullptr;
+    std::array<VectorEdit*, PerspectiveMatchTool::kLineCount> lines {};
     QPushButton* layLines = nullptr;
     QPushButton* solve = nullptr;
     QLabel* result = nullptr;

@@ -14,7 +14,6 @@
 #include <QCheckBox>
 #include <QColorDialog>
 #include <QComboBox>
-#include <QDoubleSpinBox>
 #include <QFileDialog>
 #include <QFontComboBox>
 #include <QFormLayout>
@@ -25,15 +24,14 @@
 #include <QListWidget>
 #include <QPainter>
 #include <QSignalBlocker>
-#include <QSpinBox>
 #include <QToolButton>
 #include <QVBoxLayout>
 
 namespace viewer {
 namespace {
 
-constexpr int kPercent = 100;
-constexpr int kPercentStep = 10;
+constexpr double kPercent = 100.0;
+constexpr double kPercentStep = 10.0;
 /// Steps of the boxes with numbers; places and sizes are in heights of the view.
 constexpr double kPlaceStep = 0.01;
 constexpr double kScaleStep = 0.1;
@@ -59,6 +57,16 @@ constexpr AnchorText kAnchorTexts[] = {
     { "bottom", QT_TRANSLATE_NOOP("viewer::PlatesPanel", "Bottom") },
     { "bottomRight", QT_TRANSLATE_NOOP("viewer::PlatesPanel", "Bottom right") },
 };
+
+NumberBox::Style percentStyle(double least)
+{
+    NumberBox::Style style;
+    style.step = kPercentStep;
+    style.least = least;
+    style.most = kPercent;
+    style.decimals = 1;
+    return style;
+}
 
 void showValue(QComboBox* box, const QJsonValue& value)
 {
@@ -155,15 +163,11 @@ QFormLayout* PlatesPanel::createProperties()
     connect(side, QOverload<int>::of(&QComboBox::activated), this,
             [this] { run(QStringLiteral("plates.front"), side->currentData().toBool()); });
     form->addRow(tr("Lies"), side);
-    opacity = new QSpinBox(this);
+    opacity = new NumberBox(percentStyle(0.0), this);
     opacity->setObjectName(QStringLiteral("plates.opacity"));
-    opacity->setRange(0, kPercent);
     opacity->setSuffix(QStringLiteral(" %"));
-    opacity->setSingleStep(kPercentStep);
-    opacity->setKeyboardTracking(false);
-    connect(opacity, QOverload<int>::of(&QSpinBox::valueChanged), this, [this](int percent) {
-        run(QStringLiteral("plates.opacity"), static_cast<double>(percent) / kPercent);
-    });
+    connect(opacity, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
+            [this](double percent) { run(QStringLiteral("plates.opacity"), percent / kPercent); });
     form->addRow(tr("Opacity"), opacity);
     anchor = new QComboBox(this);
     anchor->setObjectName(QStringLiteral("plates.anchor"));
@@ -216,10 +220,8 @@ QWidget* PlatesPanel::createTextBox()
     layout->addWidget(fontBox);
     auto* row = new QHBoxLayout;
     layout->addLayout(row);
-    textHeight = new QDoubleSpinBox(box);
+    textHeight = new NumberBox(percentStyle(1.0), box);
     textHeight->setObjectName(QStringLiteral("plateTextHeight"));
-    textHeight->setRange(1.0, kPercent);
-    textHeight->setDecimals(1);
     textHeight->setSuffix(QStringLiteral(" %"));
     textHeight->setToolTip(tr("Height of a line, of the view's"));
     textHeight->setValue(PlateText::kUsualHeight * kPercent);
@@ -365,11 +367,8 @@ void PlatesPanel::refreshProperties()
     showValue(side, valueOf("plates.front"));
     showValue(anchor, valueOf("plates.anchor"));
     const QJsonValue opacityValue = valueOf("plates.opacity");
-    {
-        const QSignalBlocker blocker(opacity);
-        opacity->setEnabled(opacityValue.isDouble());
-        opacity->setValue(qRound(opacityValue.toDouble() * kPercent));
-    }
+    opacity->setEnabled(opacityValue.isDouble());
+    opacity->display(opacityValue.toDouble() * kPercent);
     for (const NumberRow& row : numbers) {
         const QJsonValue value = valueOf(row.command);
         const QJsonArray values = row.isVector ? value.toArray()

@@ -11,17 +11,16 @@
 class QBoxLayout;
 class QCheckBox;
 class QComboBox;
-class QDoubleSpinBox;
 class QFontComboBox;
 class QFormLayout;
 class QLineEdit;
 class QListWidget;
 class QListWidgetItem;
-class QSpinBox;
 class QToolButton;
 
 namespace viewer {
 
+class NumberBox;
 class VectorEdit;
 
 /// Scene plates: adding them from pictures, texts and colours, their list from the foremost to the
@@ -70,12 +69,12 @@ private:
     QListWidget* list = nullptr;
     QComboBox* side = nullptr;
     QComboBox* anchor = nullptr;
-    QSpinBox* opacity = nullptr;
+    NumberBox* opacity = nullptr;
     std::vector<NumberRow> numbers;
     QCheckBox* snapping = nullptr;
     QLineEdit* textEdit = nullptr;
     QFontComboBox* fontBox = nullptr;
-    QDoubleSpinBox* textHeight = nullptr;
+    NumberBox* textHeight = nullptr;
     QCheckBox* bold = nullptr;
     QToolButton* colorButton = nullptr;
     QColor color { Qt::white };

@@ -109,15 +109,6 @@ void SceneFileActions::addCommands()
 
 // == Opening
 
-void SceneFileActions::askForScene()
-{
-    const QString path = QFileDialog::getOpenFileName(
-        &window, tr("Open scene"), QFileInfo(sceneFile).path(), tr(kSceneFilter));
-    if (!path.isEmpty() && mayReplace()) {
-        open(path);
-    }
-}
-
 void SceneFileActions::open(const QString& path, bool isByPerson)
 {
     isDocumentChosen = isByPerson;

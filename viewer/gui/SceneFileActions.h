@@ -40,7 +40,6 @@ public:
 
     // == Opening
 
-    void askForScene();
     /// Begins to open a scene file: its models are read in the background, and nothing changes
     /// before all is there. Answers with opened() or problem().
     /// @param isByPerson  and not by a session: only then the file may be saved to without a name

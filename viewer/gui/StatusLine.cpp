@@ -37,9 +37,13 @@ QString selectionText(const Stage& stage)
 
 QString pointerText(Stage& stage)
 {
-    const QString handle = QString::fromStdString(stage.hoveredHandle());
-    if (!handle.isEmpty()) {
-        return StatusLine::tr("Handle: %1").arg(handle);
+    const std::string handle = stage.hoveredHandle();
+    if (!handle.empty()) {
+        const StageTool* tool = stage.activeTool();
+        const QString text = tool != nullptr ? tool->handleText(handle) : textOfHandle(handle);
+        return stage.isDragging()
+            ? StatusLine::tr("%1: Ctrl snaps, Shift slows, Esc cancels").arg(text)
+            : text;
     }
     const QString hovered = QString::fromStdString(stage.preselectedName());
     return hovered.isEmpty() ? QString() : StatusLine::tr("Under the pointer: %1").arg(hovered);

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/gui/StepsPanel.h"
 
+#include "viewer/gui/NumberBox.h"
 #include "viewer/stage/GizmoController.h"
 
 #include <nbTransform/nbTransformModel.h>
 
-#include <QDoubleSpinBox>
 #include <QFormLayout>
-#include <QSignalBlocker>
 
 namespace viewer {
 namespace {
@@ -22,13 +21,6 @@ constexpr double kStepUnits = 0.1;
 constexpr double kStepDegrees = 5.0;
 constexpr double kStepFactor = 0.05;
 constexpr double kStepSize = 4.0;
-constexpr int kDecimals = 3;
-
-void display(QDoubleSpinBox* box, double value)
-{
-    const QSignalBlocker blocker(box);
-    box->setValue(value);
-}
 
 }  // namespace
 
@@ -46,15 +38,15 @@ StepsPanel::StepsPanel(GizmoController& gizmoController, QWidget* parent)
     refresh();
 }
 
-QDoubleSpinBox* StepsPanel::addBox(QFormLayout& form, const char* name, const QString& label,
-                                   double least, double most, double step)
+NumberBox* StepsPanel::addBox(QFormLayout& form, const char* name, const QString& label,
+                              double least, double most, double step)
 {
-    auto* box = new QDoubleSpinBox(this);
+    NumberBox::Style style;
+    style.step = step;
+    style.least = least;
+    style.most = most;
+    auto* box = new NumberBox(style, this);
     box->setObjectName(QLatin1String(name));
-    box->setDecimals(kDecimals);
-    box->setRange(least, most);
-    box->setSingleStep(step);
-    box->setLocale(QLocale::c());
     form.addRow(label, box);
     connect(box, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, [this, box](double v) {
         nbTransformModel* model = nbTransformModel::the();
@@ -75,10 +67,10 @@ QDoubleSpinBox* StepsPanel::addBox(QFormLayout& form, const char* name, const QS
 void StepsPanel::refresh()
 {
     const nbTransformModel* model = nbTransformModel::the();
-    display(translation, model->getTranslationPrecision());
-    display(rotation, model->getRotationPrecision());
-    display(scale, model->getScalePrecision());
-    display(size, static_cast<double>(gizmo.size()));
+    translation->display(model->getTranslationPrecision());
+    rotation->display(model->getRotationPrecision());
+    scale->display(model->getScalePrecision());
+    size->display(static_cast<double>(gizmo.size()));
 }
 
 }  // namespace viewer

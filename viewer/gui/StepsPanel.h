@@ -3,12 +3,12 @@
 
 #include <QWidget>
 
-class QDoubleSpinBox;
 class QFormLayout;
 
 namespace viewer {
 
 class GizmoController;
+class NumberBox;
 
 /// Spin boxes for the steps of snapping and for the size of the gizmo.
 class StepsPanel : public QWidget
@@ -26,14 +26,14 @@ signals:
     void edited();
 
 private:
-    QDoubleSpinBox* addBox(QFormLayout& form, const char* name, const QString& label, double least,
-                           double most, double step);
+    NumberBox* addBox(QFormLayout& form, const char* name, const QString& label, double least,
+                      double most, double step);
 
     GizmoController& gizmo;
-    QDoubleSpinBox* translation = nullptr;
-    QDoubleSpinBox* rotation = nullptr;
-    QDoubleSpinBox* scale = nullptr;
-    QDoubleSpinBox* size = nullptr;
+    NumberBox* translation = nullptr;
+    NumberBox* rotation = nullptr;
+    NumberBox* scale = nullptr;
+    NumberBox* size = nullptr;
 };
 
 }  // namespace viewer

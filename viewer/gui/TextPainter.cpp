@@ -6,6 +6,7 @@
 #include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QPainter>
+#include <QPainterPath>
 
 #include <map>
 
@@ -67,6 +68,19 @@ bool hasVisibleTexts(const QSize& logicalSize)
     return !NotificationManager::getInstance()
                 ->getVisibleTexts(logicalSize.width(), logicalSize.height())
                 .empty();
+}
+
+void paintLabel(QPainter& painter, const QPointF& place, const QString& text)
+{
+    constexpr double kOffset = 6.0;
+    constexpr double kOutline = 3.0;
+    QPainterPath letters;
+    letters.addText(place + QPointF(kOffset, -kOffset), fontOf({}), text);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.strokePath(letters, QPen(Qt::black, kOutline));
+    painter.fillPath(letters, Qt::white);
+    painter.restore();
 }
 
 void paintTexts(QPainter& painter, const QSize& logicalSize)

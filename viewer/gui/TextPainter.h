@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QPointF>
 #include <QSize>
+#include <QString>
 
 class QPainter;
 
@@ -15,5 +17,8 @@ bool hasVisibleTexts(const QSize& logicalSize);
 /// @param painter  its coordinates are logical pixels of the view
 /// @param logicalSize  of the view
 void paintTexts(QPainter& painter, const QSize& logicalSize);
+
+/// Paints a short text above and to the right of a place, readable on any ground.
+void paintLabel(QPainter& painter, const QPointF& place, const QString& text);
 
 }  // namespace viewer

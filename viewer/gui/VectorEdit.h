@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "viewer/gui/NumberBox.h"
+
 #include <QJsonArray>
 #include <QWidget>
 
 #include <vector>
-
-class QDoubleSpinBox;
 
 namespace viewer {
 
@@ -16,23 +16,12 @@ class VectorEdit : public QWidget
     Q_OBJECT
 
 public:
-    /// How the numbers are shown and stepped.
-    struct Style
-    {
-        static constexpr double kUsualStep = 0.1;
-        static constexpr double kUsualBound = 1e6;
+    using Style = NumberBox::Style;
 
-        double step = kUsualStep;
-        double least = -kUsualBound;
-        double most = kUsualBound;
-        int decimals = 3;
-    };
-
-    /// @param count  of numbers
     /// @param names  for people who hear the window, one for each number, such as "X"
     VectorEdit(const QStringList& names, const Style& style, QWidget* parent = nullptr);
 
-    /// Shows numbers without telling of it; a box that is being typed in keeps its text.
+    /// Shows numbers without telling of it, as NumberBox does.
     /// @param values  as many as there are boxes; otherwise the boxes are empty and disabled
     void display(const QJsonArray& values);
 
@@ -41,7 +30,7 @@ signals:
     void edited(const QJsonArray& values);
 
 private:
-    std::vector<QDoubleSpinBox*> boxes;
+    std::vector<NumberBox*> boxes;
 };
 
 }  // namespace viewer

@@ -5,6 +5,7 @@
 #include "viewer/gui/CursorShapes.h"
 #include "viewer/gui/SelectionRectangle.h"
 #include "viewer/gui/TextPainter.h"
+#include "viewer/stage/StageTool.h"
 
 #include <QCoreApplication>
 #include <QDragEnterEvent>
@@ -157,13 +158,19 @@ void ViewWidget::paintOverlayOver(QImage& picture) const
 
 bool ViewWidget::hasOverlay() const
 {
-    return hasVisibleTexts(logicalSize()) || hasSelectionRectangle(renderWidget);
+    return hasVisibleTexts(logicalSize()) || hasSelectionRectangle(renderWidget) ||
+        (viewStage.activeTool() != nullptr && !viewStage.activeTool()->labels().empty());
 }
 
 void ViewWidget::paintOverlay(QPainter& painter) const
 {
     paintSelectionRectangle(painter, renderWidget, devicePixelRatioF());
     paintTexts(painter, logicalSize());
+    if (const StageTool* tool = viewStage.activeTool()) {
+        for (const StageTool::Label& label : tool->labels()) {
+            paintLabel(painter, toLogical(label.px), label.text);
+        }
+    }
 }
 
 void ViewWidget::updateCursor()
@@ -243,7 +250,11 @@ QSize ViewWidget::sizeHint() const
 bool ViewWidget::event(QEvent* event)
 {
     const QEvent::Type type = event->type();
+    const bool wasDragging = viewStage.isDragging();
     const bool taken = translator.handleEvent(*event);
+    if (wasDragging && !viewStage.isDragging()) {
+        viewStage.tellEverybody();
+    }
     if (type == QEvent::MouseMove || type == QEvent::Leave) {
         viewStage.gizmo().setPointerInside(type == QEvent::MouseMove);
     }

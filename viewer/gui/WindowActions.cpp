@@ -194,8 +194,6 @@ void WindowActions::addFileMenu()
                 [this] { window.askForFiles(MainWindow::Opening::Replace); });
     addUnplayed(menu, "fileAdd", tr("&Add…"), "Ctrl+Shift+O",
                 [this] { window.askForFiles(MainWindow::Opening::Add); });
-    addUnplayed(menu, "sceneOpen", tr("Open s&cene…"), "Ctrl+Alt+O",
-                [this] { window.scenes().askForScene(); });
     recentMenu = menu->addMenu(tr("Open &recent"));
     recentMenu->setToolTipsVisible(true);
     setRecentFiles({});
@@ -296,6 +294,9 @@ void WindowActions::addManipulatorMenu()
     menu->addSeparator();
     matchCamera = addCommand(menu, "match.setActive", tr("Match a p&hotograph"), "Shift+M");
     matchCamera->setCheckable(true);
+    holdView = addCommand(menu, "view.setHeld", tr("Hold the &view"), "Shift+H");
+    holdView->setCheckable(true);
+    describe(holdView, tr("Hold the view: nothing moves the camera until this is lifted"));
     editPlates = addCommand(menu, "plates.edit", tr("Edit scene pl&ates"), "Shift+P");
     editPlates->setCheckable(true);
     removePlates = addCommand(menu, "plates.remove", tr("&Delete scene plates"), "Del");
@@ -377,6 +378,7 @@ void WindowActions::updateGizmos()
         return stage.commands().value(QLatin1String(value)).value_or(false).toBool();
     };
     matchCamera->setChecked(isOn("match.active"));
+    holdView->setChecked(stage.isViewHeld());
     editPlates->setChecked(isOn("plates.edit"));
     removePlates->setEnabled(editPlates->isChecked());
     if (stage.activeTool() == nullptr) {

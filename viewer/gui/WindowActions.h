@@ -82,6 +82,7 @@ private:
     QAction* centerPivots = nullptr;
     QAction* removeClipPlane = nullptr;
     QAction* matchCamera = nullptr;
+    QAction* holdView = nullptr;
     QAction* editPlates = nullptr;
     QAction* removePlates = nullptr;
     QAction* editPictures = nullptr;

@@ -22,16 +22,19 @@ bool endsWithOne(const QString& path, const char* const (&endings)[Count])
 
 }  // namespace
 
-QString modelFileFilter()
+QString modelFileFilter(const QString& further)
 {
     QStringList patterns;
+    if (!further.isEmpty()) {
+        patterns.append(further);
+    }
     for (const char* ending : kModelEndings) {
         patterns.append(QStringLiteral("*.") + QLatin1String(ending));
     }
     for (const char* ending : kPictureEndings) {
         patterns.append(QStringLiteral("*.") + QLatin1String(ending));
     }
-    return Text::tr("Models and pictures (%1);;All files (*)").arg(patterns.join(' '));
+    return Text::tr("Models, scenes and pictures (%1);;All files (*)").arg(patterns.join(' '));
 }
 
 bool isPictureFileName(const QString& path)

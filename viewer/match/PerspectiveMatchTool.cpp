@@ -305,6 +305,11 @@ void PerspectiveMatchTool::update()
     if (cameraMoved) {
         cameraMoved = false;
         stage.cameraMoved();
+        const auto result = camera().checkPerspectiveMatch();
+        if (active &&
+            (result == nbCameraTypes::Solved || result == nbCameraTypes::SolvedWithKeptFov)) {
+            stage.holdView(true);
+        }
     }
 }
 
@@ -331,18 +336,41 @@ bool PerspectiveMatchTool::findHandle(const std::string& handle, osg::Pnt2f& px)
     if (!active || !linesShown || name.line < 0) {
         return false;
     }
-    const QLineF line = camera().getPerspectiveMatch().getLine(lineOf(name.line));
-    const QPointF place = name.part == kFirstEnd ? line.p1()
-        : name.part == kSecondEnd                ? line.p2()
-                                                 : line.center();
+    px = placeOf(name.line, name.part);
+    return true;
+}
+
+osg::Pnt2f PerspectiveMatchTool::placeOf(int index, osg::UInt32 part) const
+{
+    const QLineF line = camera().getPerspectiveMatch().getLine(lineOf(index));
+    const QPointF place = part == kFirstEnd ? line.p1()
+        : part == kSecondEnd                ? line.p2()
+                                            : line.center();
     const nbOSGWidget& view = stage.view();
     const int width = view.getWidth();
     const int height = view.getHeight();
     const int reference =
         nbCameraUtils::getVerticalSizing(view.getCamera(), width, height) ? height : width;
-    px = osg::Pnt2f(static_cast<float>(place.x() * reference),
-                    static_cast<float>(height - place.y() * reference));
-    return true;
+    return { static_cast<float>(place.x() * reference),
+             static_cast<float>(height - place.y() * reference) };
+}
+
+std::vector<StageTool::Label> PerspectiveMatchTool::labels() const
+{
+    std::vector<Label> all;
+    for (int line = 0; active && linesShown && line < kLineCount; ++line) {
+        all.push_back({ placeOf(line, kBody), QString(QLatin1String(lineName(line))).toUpper() });
+    }
+    return all;
+}
+
+QString PerspectiveMatchTool::handleText(const std::string& handle) const
+{
+    const HandleName name = read(handle);
+    const QString line =
+        name.line < 0 ? QString() : QString(QLatin1String(lineName(name.line))).toUpper();
+    return name.part == kBody ? Text::tr("Line %1").arg(line)
+                              : Text::tr("End of line %1").arg(line);
 }
 
 HandleAction PerspectiveMatchTool::actionOf(const std::string& handle) const

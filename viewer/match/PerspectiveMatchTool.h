@@ -104,6 +104,8 @@ public:
     std::string hoveredHandle() override;
     bool findHandle(const std::string& handle, osg::Pnt2f& px) override;
     HandleAction actionOf(const std::string& handle) const override;
+    QString handleText(const std::string& handle) const override;
+    std::vector<Label> labels() const override;
     std::string draggedValues() const override;
     /// Takes a picture that is dropped while this is active as the photograph.
     bool takePicture(const QString& file, const osg::Pnt2f& px, QString& error) override;
@@ -114,6 +116,8 @@ private:
     void leavePointer();
     void applyVeil();
     bool isRefused(QString& error) const;
+    /// Device pixels of a line's middle or end.
+    osg::Pnt2f placeOf(int index, osg::UInt32 part) const;
 
     Stage& stage;
     nbec::interaction::Picker picker;

@@ -226,6 +226,11 @@ HandleAction PlatesTool::actionOf(const std::string& handle) const
     return beginsWith(handle, kCornerPrefix) ? HandleAction::ScaleAll : HandleAction::None;
 }
 
+QString PlatesTool::handleText(const std::string& handle) const
+{
+    return handle == kBody ? Text::tr("Move") : StageTool::handleText(handle);
+}
+
 std::string PlatesTool::draggedValues() const
 {
     const std::vector<osg::NodePtr> nodes = selected();

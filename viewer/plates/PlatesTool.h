@@ -70,6 +70,7 @@ public:
     /// "plate:NAME": a pixel at which that plate is hit.
     bool findHandle(const std::string& handle, osg::Pnt2f& px) override;
     HandleAction actionOf(const std::string& handle) const override;
+    QString handleText(const std::string& handle) const override;
     std::string draggedValues() const override;
     QString selectionText() const override;
 

@@ -3,11 +3,13 @@
 
 #include "viewer/stage/Stage.h"
 #include "viewer/stage/StageTool.h"
+#include "viewer/texts/Text.h"
 
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <OpenSG/OSGGeometry.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -18,33 +20,50 @@ struct ActionRow
 {
     const char* handle;
     HandleAction action;
+    const char* text;
 };
 
 constexpr std::array<ActionRow, 23> kActions { {
-    { "xaShape", HandleAction::MoveAlong },
-    { "yaShape", HandleAction::MoveAlong },
-    { "zaShape", HandleAction::MoveAlong },
-    { "xsShape", HandleAction::ScaleAlong },
-    { "ysShape", HandleAction::ScaleAlong },
-    { "zsShape", HandleAction::ScaleAlong },
-    { "grid", HandleAction::ScaleAll },
-    { "rxShape", HandleAction::Turn },
-    { "ryShape", HandleAction::Turn },
-    { "rzShape", HandleAction::Turn },
-    { "xyaShape", HandleAction::MoveInPlane },
-    { "xzaShape", HandleAction::MoveInPlane },
-    { "yzaShape", HandleAction::MoveInPlane },
-    { "rotateShape", HandleAction::Turn },
-    { "scaleXYLLShape", HandleAction::ScaleAll },
-    { "scaleXYULShape", HandleAction::ScaleAll },
-    { "scaleXYLRShape", HandleAction::ScaleAll },
-    { "scaleXYURShape", HandleAction::ScaleAll },
-    { "scaleXLShape", HandleAction::ScaleAll },
-    { "scaleXRShape", HandleAction::ScaleAll },
-    { "scaleYLShape", HandleAction::ScaleAll },
-    { "scaleYUShape", HandleAction::ScaleAll },
-    { "scaleZPlaneShape", HandleAction::ScaleAll },
+    { "xaShape", HandleAction::MoveAlong, QT_TRANSLATE_NOOP("viewer", "Move along x") },
+    { "yaShape", HandleAction::MoveAlong, QT_TRANSLATE_NOOP("viewer", "Move along y") },
+    { "zaShape", HandleAction::MoveAlong, QT_TRANSLATE_NOOP("viewer", "Move along z") },
+    { "xsShape", HandleAction::ScaleAlong, QT_TRANSLATE_NOOP("viewer", "Scale along x") },
+    { "ysShape", HandleAction::ScaleAlong, QT_TRANSLATE_NOOP("viewer", "Scale along y") },
+    { "zsShape", HandleAction::ScaleAlong, QT_TRANSLATE_NOOP("viewer", "Scale along z") },
+    { "grid", HandleAction::ScaleAll, QT_TRANSLATE_NOOP("viewer", "Scale") },
+    { "rxShape", HandleAction::Turn, QT_TRANSLATE_NOOP("viewer", "Turn about x") },
+    { "ryShape", HandleAction::Turn, QT_TRANSLATE_NOOP("viewer", "Turn about y") },
+    { "rzShape", HandleAction::Turn, QT_TRANSLATE_NOOP("viewer", "Turn about z") },
+    { "xyaShape", HandleAction::MoveInPlane,
+      QT_TRANSLATE_NOOP("viewer", "Move in the plane of x and y") },
+    { "xzaShape", HandleAction::MoveInPlane,
+      QT_TRANSLATE_NOOP("viewer", "Move in the plane of x and z") },
+    { "yzaShape", HandleAction::MoveInPlane,
+      QT_TRANSLATE_NOOP("viewer", "Move in the plane of y and z") },
+    { "rotateShape", HandleAction::Turn, QT_TRANSLATE_NOOP("viewer", "Turn") },
+    { "scaleXYLLShape", HandleAction::ScaleAll,
+      QT_TRANSLATE_NOOP("viewer", "Scale from a corner") },
+    { "scaleXYULShape", HandleAction::ScaleAll,
+      QT_TRANSLATE_NOOP("viewer", "Scale from a corner") },
+    { "scaleXYLRShape", HandleAction::ScaleAll,
+      QT_TRANSLATE_NOOP("viewer", "Scale from a corner") },
+    { "scaleXYURShape", HandleAction::ScaleAll,
+      QT_TRANSLATE_NOOP("viewer", "Scale from a corner") },
+    { "scaleXLShape", HandleAction::ScaleAll, QT_TRANSLATE_NOOP("viewer", "Scale from an edge") },
+    { "scaleXRShape", HandleAction::ScaleAll, QT_TRANSLATE_NOOP("viewer", "Scale from an edge") },
+    { "scaleYLShape", HandleAction::ScaleAll, QT_TRANSLATE_NOOP("viewer", "Scale from an edge") },
+    { "scaleYUShape", HandleAction::ScaleAll, QT_TRANSLATE_NOOP("viewer", "Scale from an edge") },
+    { "scaleZPlaneShape", HandleAction::ScaleAll, QT_TRANSLATE_NOOP("viewer", "Scale the depth") },
 } };
+
+/// Null for an unknown handle.
+const ActionRow* rowOf(const std::string& handle)
+{
+    const auto* const row =
+        std::find_if(kActions.begin(), kActions.end(),
+                     [&handle](const ActionRow& candidate) { return handle == candidate.handle; });
+    return row == kActions.end() ? nullptr : row;
+}
 
 /// Length on screen of one unit of a handle below which its direction says nothing.
 constexpr double kShortestAxisPx = 3.0;
@@ -99,12 +118,14 @@ bool findAngle(Stage& stage, const std::string& handle, double& angleDeg)
 
 HandleAction actionOfHandle(const std::string& handle)
 {
-    for (const ActionRow& row : kActions) {
-        if (handle == row.handle) {
-            return row.action;
-        }
-    }
-    return HandleAction::None;
+    const ActionRow* row = rowOf(handle);
+    return row != nullptr ? row->action : HandleAction::None;
+}
+
+QString textOfHandle(const std::string& handle)
+{
+    const ActionRow* row = rowOf(handle);
+    return row != nullptr ? Text::tr(row->text) : QString::fromStdString(handle);
 }
 
 HandleCursor cursorOfHandle(Stage& stage, const std::string& handle)

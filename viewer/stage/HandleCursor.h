@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QString>
+
 #include <string>
 
 namespace viewer {
@@ -36,6 +38,9 @@ struct HandleCursor
 
 /// What the handle of a name does; None for an unknown one.
 HandleAction actionOfHandle(const std::string& handle);
+
+/// What the handle of a name does, such as "Move along x"; its name for an unknown one.
+QString textOfHandle(const std::string& handle);
 
 /// Cursor for a handle of the gizmo shown. An axis that points at the eye has no direction; its
 /// handle counts as one that acts in a plane or on all axes.

@@ -7,6 +7,8 @@
 #include "viewer/stage/ObjectCommands.h"
 #include "viewer/stage/StageTool.h"
 
+#include <nbInteraction/EventNames.h>
+#include <nbInteraction/InteractionEvent.h>
 #include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbUndoService.h>
 #include <nbNotification/NotificationManager.h>
@@ -40,6 +42,7 @@ osg::Pnt3f pointOf(const std::array<float, 3>& p)
 Stage::Stage(nbOSGWidget& view)
     : renderWidget(view)
     , selectionContext(nbec::interaction::Selection)
+    , cameraContext(*this)
     , gizmoController(manager)
     , selectionMarker(kSelectionColor, kMarkerWidthPx)
     , preselectionMarker(kPreselectionColor, kMarkerWidthPx)
@@ -64,6 +67,16 @@ Stage::Stage(nbOSGWidget& view)
     manager.addContext(&selectionContext);
     manager.addContext(&cameraContext);
     selectionCallback = nbSelection::addChangedCallback([this] { selectionChanged(); });
+    commandTable.add(QStringLiteral("view.setHeld"),
+                     [this](const QJsonValue& value, QString& error) {
+                         if (!value.isBool() && !value.isNull()) {
+                             error = QStringLiteral("expected true or false");
+                             return false;
+                         }
+                         holdView(value.toBool(!viewHeld));
+                         return true;
+                     });
+    commandTable.addValue(QStringLiteral("view.held"), [this] { return viewHeld; });
     addClipPlaneCommands(*this);
     addObjectCommands(*this);
 }
@@ -203,6 +216,7 @@ bool Stage::takePicture(const QString& file, const osg::Pnt2f& px, QString& erro
 void Stage::clear()
 {
     manager.endDrag();
+    viewHeld = false;
     for (StageTool* tool : tools) {
         tool->sceneCleared();
     }
@@ -339,6 +353,38 @@ void Stage::frameSelection()
     frame(object != osg::NullFC ? object : nbScenegraph::getRootNode(), pose());
 }
 
+bool Stage::refuseMove() const
+{
+    if (viewHeld && heldCallback) {
+        heldCallback();
+    }
+    return viewHeld;
+}
+
+bool Stage::HeldCamera::triggerEvent(nbec::interaction::InteractionManager* manager,
+                                     const nbec::interaction::InteractionEvent& event)
+{
+    namespace names = nbec::interaction::names;
+    const bool isMove = event.getTool() == names::kCamera && event.getEvent() != names::kStop;
+    return isMove && stage.refuseMove() ? event.getEvent() == names::kTrigger
+                                        : CameraInteractionContext::triggerEvent(manager, event);
+}
+
+void Stage::setPose(const CameraPose& wanted)
+{
+    if (!refuseMove()) {
+        cameraContext.setPose(wanted);
+    }
+}
+
+void Stage::holdView(bool on)
+{
+    if (viewHeld != on) {
+        viewHeld = on;
+        tellEverybody();
+    }
+}
+
 void Stage::setStandardView(nbCameraNavigation::StandardView standardView)
 {
     setPose(nbCameraNavigation::standardView(pose(), standardView));
@@ -422,6 +468,10 @@ bool Stage::canRedo() const
 void Stage::edited()
 {
     letGoOfWhatIsGone();
+    if (gizmoController.shown() == Gizmo::Clipping && !isClipPlaneSelected()) {
+        // Its plane was taken back.
+        gizmoController.show(Gizmo::Universal);
+    }
     // Not update(): a pivot that goes back leaves the object, and so its matrix, as it is.
     gizmoController.followCamera();
     changed();
@@ -442,6 +492,13 @@ void Stage::letGoOfWhatIsGone()
     }
 }
 
+void Stage::tellEverybody()
+{
+    if (changedCallback) {
+        changedCallback();
+    }
+}
+
 void Stage::setChangedCallback(std::function<void()> callback)
 {
     changedCallback = std::move(callback);
@@ -459,9 +516,7 @@ void Stage::selectionChanged()
 void Stage::changed()
 {
     renderWidget.update();
-    if (changedCallback) {
-        changedCallback();
-    }
+    tellEverybody();
 }
 
 }  // namespace viewer

@@ -140,7 +140,17 @@ public:
 
     CameraPose pose() const { return renderWidget.getUberCamera()->getPose(); }
 
-    void setPose(const CameraPose& wanted) { cameraContext.setPose(wanted); }
+    /// Nothing while the view is held.
+    void setPose(const CameraPose& wanted);
+
+    /// Holds the view, so that a camera which was matched to a photograph is not moved by chance;
+    /// whoever tries to is told.
+    void holdView(bool on);
+
+    bool isViewHeld() const { return viewHeld; }
+
+    /// Sets what is called when somebody tries to move a view that is held.
+    void setHeldCallback(std::function<void()> callback) { heldCallback = std::move(callback); }
 
     /// Shows all models from where the camera looks; the start view with the default direction if
     /// `reset` is set.
@@ -164,6 +174,9 @@ public:
     bool isDragging() const { return manager.isDragging(); }
 
     // == Keeping in step
+
+    /// Tells everybody of what is not seen in the picture, such as the end of a drag.
+    void tellEverybody();
 
     /// Redraws and tells everybody, as after an edit that did not come from the view.
     void edited();
@@ -196,7 +209,27 @@ private:
     nbec::interaction::Picker scenePicker;
     PreselectionTool selectionTool;
     nbec::interaction::ToolInteractionContext selectionContext;
-    nbec::interaction::CameraInteractionContext cameraContext;
+
+    /// Takes what would move the camera while the view is held.
+    class HeldCamera : public nbec::interaction::CameraInteractionContext
+    {
+    public:
+        explicit HeldCamera(const Stage& owner)
+            : stage(owner)
+        { }
+
+        bool triggerEvent(nbec::interaction::InteractionManager* manager,
+                          const nbec::interaction::InteractionEvent& event) override;
+
+    private:
+        const Stage& stage;
+    };
+
+    bool refuseMove() const;
+
+    bool viewHeld = false;
+    std::function<void()> heldCallback;
+    HeldCamera cameraContext;
     GizmoController gizmoController;
     BoundsMarker selectionMarker;
     BoundsMarker preselectionMarker;

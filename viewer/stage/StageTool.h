@@ -10,6 +10,7 @@
 #include <QString>
 
 #include <string>
+#include <vector>
 
 namespace viewer {
 
@@ -73,12 +74,28 @@ public:
         return actionOfHandle(handle);
     }
 
+    /// The same in words of people; "" for none.
+    virtual QString handleText(const std::string& handle) const { return textOfHandle(handle); }
+
     /// What a running drag edits, for the status line; "" while nothing is dragged.
     virtual std::string draggedValues() const { return {}; }
 
     /// What of its own an active tool has selected, for the status line; "" for the scene's
     /// selection.
     virtual QString selectionText() const { return {}; }
+
+    /// Leaves a mode within an active tool, as a person wants who presses Esc.
+    /// @return false if it was in none
+    virtual bool leaveMode() { return false; }
+
+    /// What stands in the view at places of a tool that is active, such as names of lines.
+    struct Label
+    {
+        osg::Pnt2f px;
+        QString text;
+    };
+
+    virtual std::vector<Label> labels() const { return {}; }
 
     // == Files
 

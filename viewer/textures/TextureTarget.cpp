@@ -6,6 +6,7 @@
 #include <nbKernelServices/nbScopedUndo.h>
 
 #include <OpenSG/OSGFieldContainerFactory.h>
+#include <OpenSG/OSGGeometry.h>
 
 namespace viewer {
 namespace {
@@ -84,6 +85,14 @@ osg::ImagePtr TextureTarget::image() const
 {
     const osg::UberMaterialPtr found = material();
     return found == osg::NullFC ? osg::ImagePtr() : found->getImage(componentName);
+}
+
+bool TextureTarget::hasCoordinates() const
+{
+    const osg::NodePtr node = surface();
+    const auto geometry =
+        node == osg::NullFC ? osg::GeometryPtr() : osg::GeometryPtr::dcast(node->getCore());
+    return geometry != osg::NullFC && geometry->getTexCoords() != osg::NullFC;
 }
 
 TextureTarget::Settings::TextureProjection TextureTarget::projectionType() const

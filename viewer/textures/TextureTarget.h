@@ -40,6 +40,8 @@ public:
     osg::ColorComponentSettingsPtr settings() const;
     osg::Transform3DPtr projection() const;
     osg::ImagePtr image() const;
+    /// Whether the surface has texture coordinates.
+    bool hasCoordinates() const;
     /// How the picture lies on the surface; planar without settings.
     Settings::TextureProjection projectionType() const;
     /// Of the other projections; those of fresh settings without any.

@@ -83,6 +83,15 @@ public:
 
     bool isPlacing() const { return active && placing; }
 
+    bool leaveMode() override
+    {
+        const bool wasPlacing = isPlacing();
+        if (wasPlacing) {
+            setPlacing(false);
+        }
+        return wasPlacing;
+    }
+
     /// Lets clicks place the picture, and makes this the active tool; or shows the handles again.
     /// Where only the handles have a place, a click places these, and they are shown again.
     void setPlacing(bool on);

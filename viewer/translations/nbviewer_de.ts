@@ -245,10 +245,6 @@
         <translation>kann nicht gelesen werden: %1</translation>
     </message>
     <message>
-        <source>Models and pictures (%1);;All files (*)</source>
-        <translation>Modelle und Bilder (%1);;Alle Dateien (*)</translation>
-    </message>
-    <message>
         <source>nothing is selected</source>
         <translation>es ist nichts ausgewählt</translation>
     </message>
@@ -503,6 +499,86 @@
         <source>its nodes are nested too deeply</source>
         <translation>seine Knoten sind zu tief verschachtelt</translation>
     </message>
+    <message>
+        <source>Models, scenes and pictures (%1);;All files (*)</source>
+        <translation>Modelle, Szenen und Bilder (%1);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation>Linie %1</translation>
+    </message>
+    <message>
+        <source>End of line %1</source>
+        <translation>Ende der Linie %1</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Verschieben</translation>
+    </message>
+    <message>
+        <source>Move along x</source>
+        <translation>Entlang x verschieben</translation>
+    </message>
+    <message>
+        <source>Move along y</source>
+        <translation>Entlang y verschieben</translation>
+    </message>
+    <message>
+        <source>Move along z</source>
+        <translation>Entlang z verschieben</translation>
+    </message>
+    <message>
+        <source>Scale along x</source>
+        <translation>Entlang x skalieren</translation>
+    </message>
+    <message>
+        <source>Scale along y</source>
+        <translation>Entlang y skalieren</translation>
+    </message>
+    <message>
+        <source>Scale along z</source>
+        <translation>Entlang z skalieren</translation>
+    </message>
+    <message>
+        <source>Turn about x</source>
+        <translation>Um x drehen</translation>
+    </message>
+    <message>
+        <source>Turn about y</source>
+        <translation>Um y drehen</translation>
+    </message>
+    <message>
+        <source>Turn about z</source>
+        <translation>Um z drehen</translation>
+    </message>
+    <message>
+        <source>Move in the plane of x and y</source>
+        <translation>In der Ebene von x und y verschieben</translation>
+    </message>
+    <message>
+        <source>Move in the plane of x and z</source>
+        <translation>In der Ebene von x und z verschieben</translation>
+    </message>
+    <message>
+        <source>Move in the plane of y and z</source>
+        <translation>In der Ebene von y und z verschieben</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>Drehen</translation>
+    </message>
+    <message>
+        <source>Scale from a corner</source>
+        <translation>Von einer Ecke aus skalieren</translation>
+    </message>
+    <message>
+        <source>Scale from an edge</source>
+        <translation>Von einer Kante aus skalieren</translation>
+    </message>
+    <message>
+        <source>Scale the depth</source>
+        <translation>Tiefe skalieren</translation>
+    </message>
 </context>
 <context>
     <name>viewer::AboutBox</name>
@@ -663,6 +739,10 @@
         <source>%1: a scene can only be opened by itself</source>
         <translation>%1: eine Szene kann nur allein geöffnet werden</translation>
     </message>
+    <message>
+        <source>The view is held: &quot;Hold the view&quot; (Shift+H) lets it go</source>
+        <translation>Die Ansicht ist festgehalten: „Ansicht festhalten“ (Umschalt+H) gibt sie frei</translation>
+    </message>
 </context>
 <context>
     <name>viewer::MaterialPanel</name>
@@ -791,10 +871,6 @@
         <translation>Per Klick</translation>
     </message>
     <message>
-        <source>Clicks on the object place the picture, or its handles</source>
-        <translation>Klicks auf das Objekt platzieren das Bild oder seine Griffe</translation>
-    </message>
-    <message>
         <source>Placing</source>
         <translation>Platzieren</translation>
     </message>
@@ -849,6 +925,41 @@
     <message>
         <source>On &quot;%1&quot;</source>
         <translation>Auf „%1“</translation>
+    </message>
+    <message>
+        <source>Put it on from three sides</source>
+        <translation>Von drei Seiten auftragen</translation>
+    </message>
+    <message>
+        <source>Clicks on the object place the picture, or its handles, until Esc</source>
+        <translation>Klicks auf das Objekt setzen das Bild oder seine Griffe, bis Esc</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no texture coordinates, so the picture is not seen</source>
+        <translation>„%1“ hat keine Texturkoordinaten, daher ist das Bild nicht zu sehen</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::NumberBox</name>
+    <message>
+        <source>&quot;%1&quot; is not complete</source>
+        <translation>„%1“ ist nicht vollständig</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not understood from &quot;%2&quot; on</source>
+        <translation>„%1“ ist ab „%2“ nicht verständlich</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: &quot;%2&quot; is no unit of this number</source>
+        <translation>„%1“: „%2“ ist keine Einheit dieser Zahl</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number that can be had</source>
+        <translation>„%1“ ergibt keine Zahl</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not lie between %2 and %3</source>
+        <translation>„%1“ liegt nicht zwischen %2 und %3</translation>
     </message>
 </context>
 <context>
@@ -1219,10 +1330,6 @@
         <translation>Szenen (*.nbscene)</translation>
     </message>
     <message>
-        <source>Open scene</source>
-        <translation>Szene öffnen</translation>
-    </message>
-    <message>
         <source>Save scene</source>
         <translation>Szene speichern</translation>
     </message>
@@ -1268,10 +1375,6 @@
         <translation>Ausgewählt: %1</translation>
     </message>
     <message>
-        <source>Handle: %1</source>
-        <translation>Griff: %1</translation>
-    </message>
-    <message>
         <source>Under the pointer: %1</source>
         <translation>Unter dem Zeiger: %1</translation>
     </message>
@@ -1307,6 +1410,10 @@
         <source>Preparing %1: %p%</source>
         <comment>%p is the number</comment>
         <translation>%1 wird vorbereitet: %p&#xa0;%</translation>
+    </message>
+    <message>
+        <source>%1: Ctrl snaps, Shift slows, Esc cancels</source>
+        <translation>%1: Strg rastet ein, Umschalt verlangsamt, Esc bricht ab</translation>
     </message>
 </context>
 <context>
@@ -1654,10 +1761,6 @@
         <translation>Bild&amp;statistik</translation>
     </message>
     <message>
-        <source>Open s&amp;cene…</source>
-        <translation>S&amp;zene öffnen…</translation>
-    </message>
-    <message>
         <source>&amp;Save scene</source>
         <translation>Szene &amp;speichern</translation>
     </message>
@@ -1668,6 +1771,14 @@
     <message>
         <source>Sa&amp;ve picture…</source>
         <translation>&amp;Bild speichern…</translation>
+    </message>
+    <message>
+        <source>Hold the &amp;view</source>
+        <translation>&amp;Ansicht festhalten</translation>
+    </message>
+    <message>
+        <source>Hold the view: nothing moves the camera until this is lifted</source>
+        <translation>Ansicht festhalten: nichts bewegt die Kamera, bis dies aufgehoben wird</translation>
     </message>
 </context>
 </TS>

@@ -245,10 +245,6 @@
         <translation>ne peut pas être lu&#xa0;: %1</translation>
     </message>
     <message>
-        <source>Models and pictures (%1);;All files (*)</source>
-        <translation>Modèles et images (%1);;Tous les fichiers (*)</translation>
-    </message>
-    <message>
         <source>nothing is selected</source>
         <translation>rien n’est sélectionné</translation>
     </message>
@@ -503,6 +499,86 @@
         <source>its nodes are nested too deeply</source>
         <translation>ses nœuds sont imbriqués trop profondément</translation>
     </message>
+    <message>
+        <source>Models, scenes and pictures (%1);;All files (*)</source>
+        <translation>Modèles, scènes et images (%1);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation>Ligne %1</translation>
+    </message>
+    <message>
+        <source>End of line %1</source>
+        <translation>Extrémité de la ligne %1</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Déplacer</translation>
+    </message>
+    <message>
+        <source>Move along x</source>
+        <translation>Déplacer selon x</translation>
+    </message>
+    <message>
+        <source>Move along y</source>
+        <translation>Déplacer selon y</translation>
+    </message>
+    <message>
+        <source>Move along z</source>
+        <translation>Déplacer selon z</translation>
+    </message>
+    <message>
+        <source>Scale along x</source>
+        <translation>Mettre à l&apos;échelle selon x</translation>
+    </message>
+    <message>
+        <source>Scale along y</source>
+        <translation>Mettre à l&apos;échelle selon y</translation>
+    </message>
+    <message>
+        <source>Scale along z</source>
+        <translation>Mettre à l&apos;échelle selon z</translation>
+    </message>
+    <message>
+        <source>Turn about x</source>
+        <translation>Tourner autour de x</translation>
+    </message>
+    <message>
+        <source>Turn about y</source>
+        <translation>Tourner autour de y</translation>
+    </message>
+    <message>
+        <source>Turn about z</source>
+        <translation>Tourner autour de z</translation>
+    </message>
+    <message>
+        <source>Move in the plane of x and y</source>
+        <translation>Déplacer dans le plan de x et y</translation>
+    </message>
+    <message>
+        <source>Move in the plane of x and z</source>
+        <translation>Déplacer dans le plan de x et z</translation>
+    </message>
+    <message>
+        <source>Move in the plane of y and z</source>
+        <translation>Déplacer dans le plan de y et z</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>Tourner</translation>
+    </message>
+    <message>
+        <source>Scale from a corner</source>
+        <translation>Mettre à l&apos;échelle par un coin</translation>
+    </message>
+    <message>
+        <source>Scale from an edge</source>
+        <translation>Mettre à l&apos;échelle par un bord</translation>
+    </message>
+    <message>
+        <source>Scale the depth</source>
+        <translation>Mettre la profondeur à l&apos;échelle</translation>
+    </message>
 </context>
 <context>
     <name>viewer::AboutBox</name>
@@ -663,6 +739,10 @@
         <source>%1: a scene can only be opened by itself</source>
         <translation>%1&#xa0;: une scène ne peut être ouverte que seule</translation>
     </message>
+    <message>
+        <source>The view is held: &quot;Hold the view&quot; (Shift+H) lets it go</source>
+        <translation>La vue est verrouillée : « Verrouiller la vue » (Maj+H) la libère</translation>
+    </message>
 </context>
 <context>
     <name>viewer::MaterialPanel</name>
@@ -791,10 +871,6 @@
         <translation>Par clic</translation>
     </message>
     <message>
-        <source>Clicks on the object place the picture, or its handles</source>
-        <translation>Les clics sur l’objet placent l’image, ou ses poignées</translation>
-    </message>
-    <message>
         <source>Placing</source>
         <translation>Placement</translation>
     </message>
@@ -849,6 +925,41 @@
     <message>
         <source>On &quot;%1&quot;</source>
         <translation>Sur «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>Put it on from three sides</source>
+        <translation>L&apos;appliquer de trois côtés</translation>
+    </message>
+    <message>
+        <source>Clicks on the object place the picture, or its handles, until Esc</source>
+        <translation>Les clics sur l&apos;objet placent l&apos;image, ou ses poignées, jusqu&apos;à Échap</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no texture coordinates, so the picture is not seen</source>
+        <translation>« %1 » n&apos;a pas de coordonnées de texture, l&apos;image n&apos;est donc pas visible</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::NumberBox</name>
+    <message>
+        <source>&quot;%1&quot; is not complete</source>
+        <translation>« %1 » n&apos;est pas complet</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not understood from &quot;%2&quot; on</source>
+        <translation>« %1 » n&apos;est pas compris à partir de « %2 »</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: &quot;%2&quot; is no unit of this number</source>
+        <translation>« %1 » : « %2 » n&apos;est pas une unité de ce nombre</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number that can be had</source>
+        <translation>« %1 » ne donne pas de nombre</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not lie between %2 and %3</source>
+        <translation>« %1 » n&apos;est pas compris entre %2 et %3</translation>
     </message>
 </context>
 <context>
@@ -1219,10 +1330,6 @@
         <translation>Scènes (*.nbscene)</translation>
     </message>
     <message>
-        <source>Open scene</source>
-        <translation>Ouvrir une scène</translation>
-    </message>
-    <message>
         <source>Save scene</source>
         <translation>Enregistrer la scène</translation>
     </message>
@@ -1268,10 +1375,6 @@
         <translation>Sélection&#xa0;: %1</translation>
     </message>
     <message>
-        <source>Handle: %1</source>
-        <translation>Poignée&#xa0;: %1</translation>
-    </message>
-    <message>
         <source>Under the pointer: %1</source>
         <translation>Sous le pointeur&#xa0;: %1</translation>
     </message>
@@ -1307,6 +1410,10 @@
         <source>Preparing %1: %p%</source>
         <comment>%p is the number</comment>
         <translation>Préparation de %1&#xa0;: %p&#xa0;%</translation>
+    </message>
+    <message>
+        <source>%1: Ctrl snaps, Shift slows, Esc cancels</source>
+        <translation>%1 : Ctrl aligne, Maj ralentit, Échap annule</translation>
     </message>
 </context>
 <context>
@@ -1654,10 +1761,6 @@
         <translation>Statist&amp;iques d’image</translation>
     </message>
     <message>
-        <source>Open s&amp;cene…</source>
-        <translation>Ouvrir une s&amp;cène…</translation>
-    </message>
-    <message>
         <source>&amp;Save scene</source>
         <translation>&amp;Enregistrer la scène</translation>
     </message>
@@ -1668,6 +1771,14 @@
     <message>
         <source>Sa&amp;ve picture…</source>
         <translation>Enregistrer l’&amp;image…</translation>
+    </message>
+    <message>
+        <source>Hold the &amp;view</source>
+        <translation>&amp;Verrouiller la vue</translation>
+    </message>
+    <message>
+        <source>Hold the view: nothing moves the camera until this is lifted</source>
+        <translation>Verrouiller la vue : rien ne déplace la caméra tant que c&apos;est actif</translation>
     </message>
 </context>
 </TS>

@@ -244,10 +244,6 @@
         <translation>无法读取：%1</translation>
     </message>
     <message>
-        <source>Models and pictures (%1);;All files (*)</source>
-        <translation>模型和图片 (%1);;所有文件 (*)</translation>
-    </message>
-    <message>
         <source>nothing is selected</source>
         <translation>没有选择任何对象</translation>
     </message>
@@ -501,6 +497,86 @@
         <source>its nodes are nested too deeply</source>
         <translation>其节点嵌套过深</translation>
     </message>
+    <message>
+        <source>Models, scenes and pictures (%1);;All files (*)</source>
+        <translation>模型、场景和图片 (%1);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation>直线 %1</translation>
+    </message>
+    <message>
+        <source>End of line %1</source>
+        <translation>直线 %1 的端点</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>移动</translation>
+    </message>
+    <message>
+        <source>Move along x</source>
+        <translation>沿 x 移动</translation>
+    </message>
+    <message>
+        <source>Move along y</source>
+        <translation>沿 y 移动</translation>
+    </message>
+    <message>
+        <source>Move along z</source>
+        <translation>沿 z 移动</translation>
+    </message>
+    <message>
+        <source>Scale along x</source>
+        <translation>沿 x 缩放</translation>
+    </message>
+    <message>
+        <source>Scale along y</source>
+        <translation>沿 y 缩放</translation>
+    </message>
+    <message>
+        <source>Scale along z</source>
+        <translation>沿 z 缩放</translation>
+    </message>
+    <message>
+        <source>Turn about x</source>
+        <translation>绕 x 旋转</translation>
+    </message>
+    <message>
+        <source>Turn about y</source>
+        <translation>绕 y 旋转</translation>
+    </message>
+    <message>
+        <source>Turn about z</source>
+        <translation>绕 z 旋转</translation>
+    </message>
+    <message>
+        <source>Move in the plane of x and y</source>
+        <translation>在 x 和 y 平面内移动</translation>
+    </message>
+    <message>
+        <source>Move in the plane of x and z</source>
+        <translation>在 x 和 z 平面内移动</translation>
+    </message>
+    <message>
+        <source>Move in the plane of y and z</source>
+        <translation>在 y 和 z 平面内移动</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>旋转</translation>
+    </message>
+    <message>
+        <source>Scale from a corner</source>
+        <translation>从角缩放</translation>
+    </message>
+    <message>
+        <source>Scale from an edge</source>
+        <translation>从边缩放</translation>
+    </message>
+    <message>
+        <source>Scale the depth</source>
+        <translation>缩放深度</translation>
+    </message>
 </context>
 <context>
     <name>viewer::AboutBox</name>
@@ -661,6 +737,10 @@
         <source>%1: a scene can only be opened by itself</source>
         <translation>%1：场景只能单独打开</translation>
     </message>
+    <message>
+        <source>The view is held: &quot;Hold the view&quot; (Shift+H) lets it go</source>
+        <translation>视图已锁定：“锁定视图”(Shift+H) 可解除</translation>
+    </message>
 </context>
 <context>
     <name>viewer::MaterialPanel</name>
@@ -789,10 +869,6 @@
         <translation>点击</translation>
     </message>
     <message>
-        <source>Clicks on the object place the picture, or its handles</source>
-        <translation>点击对象可放置图片或其手柄</translation>
-    </message>
-    <message>
         <source>Placing</source>
         <translation>放置</translation>
     </message>
@@ -847,6 +923,41 @@
     <message>
         <source>On &quot;%1&quot;</source>
         <translation>位于“%1”</translation>
+    </message>
+    <message>
+        <source>Put it on from three sides</source>
+        <translation>从三个方向投影</translation>
+    </message>
+    <message>
+        <source>Clicks on the object place the picture, or its handles, until Esc</source>
+        <translation>单击对象以放置图片或其手柄，按 Esc 结束</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no texture coordinates, so the picture is not seen</source>
+        <translation>“%1”没有纹理坐标，因此看不到图片</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::NumberBox</name>
+    <message>
+        <source>&quot;%1&quot; is not complete</source>
+        <translation>“%1”不完整</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not understood from &quot;%2&quot; on</source>
+        <translation>“%1”从“%2”起无法理解</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: &quot;%2&quot; is no unit of this number</source>
+        <translation>“%1”：“%2”不是此数值的单位</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number that can be had</source>
+        <translation>“%1”得不出数值</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not lie between %2 and %3</source>
+        <translation>“%1”不在 %2 和 %3 之间</translation>
     </message>
 </context>
 <context>
@@ -1217,10 +1328,6 @@
         <translation>场景 (*.nbscene)</translation>
     </message>
     <message>
-        <source>Open scene</source>
-        <translation>打开场景</translation>
-    </message>
-    <message>
         <source>Save scene</source>
         <translation>保存场景</translation>
     </message>
@@ -1265,10 +1372,6 @@
         <translation>已选：%1</translation>
     </message>
     <message>
-        <source>Handle: %1</source>
-        <translation>手柄：%1</translation>
-    </message>
-    <message>
         <source>Under the pointer: %1</source>
         <translation>指针所指：%1</translation>
     </message>
@@ -1303,6 +1406,10 @@
         <source>Preparing %1: %p%</source>
         <comment>%p is the number</comment>
         <translation>正在准备 %1：%p%</translation>
+    </message>
+    <message>
+        <source>%1: Ctrl snaps, Shift slows, Esc cancels</source>
+        <translation>%1：Ctrl 捕捉，Shift 减速，Esc 取消</translation>
     </message>
 </context>
 <context>
@@ -1650,10 +1757,6 @@
         <translation>帧统计(&amp;I)</translation>
     </message>
     <message>
-        <source>Open s&amp;cene…</source>
-        <translation>打开场景(&amp;C)…</translation>
-    </message>
-    <message>
         <source>&amp;Save scene</source>
         <translation>保存场景(&amp;S)</translation>
     </message>
@@ -1664,6 +1767,14 @@
     <message>
         <source>Sa&amp;ve picture…</source>
         <translation>保存图片(&amp;P)…</translation>
+    </message>
+    <message>
+        <source>Hold the &amp;view</source>
+        <translation>锁定视图(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Hold the view: nothing moves the camera until this is lifted</source>
+        <translation>锁定视图：解除前相机不会移动</translation>
     </message>
 </context>
 </TS>
