@@ -294,7 +294,7 @@ void WindowActions::addManipulatorMenu()
     menu->addSeparator();
     matchCamera = addCommand(menu, "match.setActive", tr("Match a p&hotograph"), "Shift+M");
     matchCamera->setCheckable(true);
-    holdView = addCommand(menu, "view.setHeld", tr("Hold the &view"), "Shift+H");
+    holdView = addCommand(menu, "view.setHeld", tr("Hold the vie&w"), "Shift+H");
     holdView->setCheckable(true);
     describe(holdView, tr("Hold the view: nothing moves the camera until this is lifted"));
     editPlates = addCommand(menu, "plates.edit", tr("Edit scene pl&ates"), "Shift+P");

@@ -1773,8 +1773,8 @@
         <translation>&amp;Bild speichern…</translation>
     </message>
     <message>
-        <source>Hold the &amp;view</source>
-        <translation>&amp;Ansicht festhalten</translation>
+        <source>Hold the vie&amp;w</source>
+        <translation>Ansich&amp;t festhalten</translation>
     </message>
     <message>
         <source>Hold the view: nothing moves the camera until this is lifted</source>

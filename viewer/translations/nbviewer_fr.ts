@@ -1773,8 +1773,8 @@
         <translation>Enregistrer l’&amp;image…</translation>
     </message>
     <message>
-        <source>Hold the &amp;view</source>
-        <translation>&amp;Verrouiller la vue</translation>
+        <source>Hold the vie&amp;w</source>
+        <translation>Blo&amp;quer la vue</translation>
     </message>
     <message>
         <source>Hold the view: nothing moves the camera until this is lifted</source>

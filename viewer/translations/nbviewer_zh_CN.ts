@@ -1769,8 +1769,8 @@
         <translation>保存图片(&amp;P)…</translation>
     </message>
     <message>
-        <source>Hold the &amp;view</source>
-        <translation>锁定视图(&amp;V)</translation>
+        <source>Hold the vie&amp;w</source>
+        <translation>锁定视图(&amp;W)</translation>
     </message>
     <message>
         <source>Hold the view: nothing moves the camera until this is lifted</source>
