@@ -85,6 +85,9 @@ public:
 
     osg::Vec2f getProjectionSize() const { return settings().projectionSize; }
 
+    /// As TriplanarTextureManipulator::setRingsTilted().
+    void setRingsTilted(bool on) { settings().areRingsTilted = on; }
+
     void setUseObjectScale(bool on) { settings().useObjectScale = on; }
 
     void setUseObjectTranslation(bool on) { settings().useObjectTranslation = on; }

@@ -54,9 +54,8 @@ public:
 
     ActiveMode getActiveMode() const { return static_cast<ActiveMode>(gizmo->getArmed()); }
 
-    /// Has drags of rings that are seen at a grazing angle measured on the ring turned towards the
-    /// viewer, as those of the transform gizmo, instead of in the ring's own plane. Off at the
-    /// start.
+    /// Has drags of rings that are seen nearly edge-on follow the drawn ring, as those of the
+    /// transform gizmo, see RingDrag, instead of the ring's own plane. Off at the start.
     void setRingsTilted(bool on);
     bool areRingsTilted() const;
 

@@ -55,43 +55,6 @@ NB_MANIPULATOR_API osg::Vec3f axisPlaneNormal(const osg::Vec3f& axis, const osg:
 /// @return the identity if one of the two is zero or they are parallel, sine below 1e-6
 NB_MANIPULATOR_API osg::Matrix orthonormalised(const osg::Matrix& matrix);
 
-/// A ring's frame as a drag sees it: origin at the ring's centre, unit axes radial (to the grabbed
-/// point), tangent (the way that the grabbed point goes in a positive turn) and normal.
-struct NB_MANIPULATOR_API RingFrame
-{
-    osg::Pnt3f center;
-    osg::Vec3f radial;
-    osg::Vec3f tangent;
-    osg::Vec3f normal;
-
-    /// Angle of a point about the normal, from the radial axis towards the tangent, radians.
-    double angleOf(const osg::Pnt3f& point) const;
-};
-
-/// The frame in which a drag on a ring is measured.
-///
-/// Up to 40 degrees of tilt (between the ring's axis and the line of sight) it is the ring's own.
-/// Beyond, a pointer ray meets the ring's plane at a grazing angle: drags turn wild and end at 90
-/// degrees. There the ring, as a rigid body, is turned about its tangent at the grabbed point just
-/// so far that it is tilted by 40 degrees; the centre turns along. If the tangent points so near
-/// the eye that this cannot be reached, the ring is first turned about the tangent to face the
-/// viewer as well as it can, then about the radial axis until 40 degrees are reached. Both turns
-/// begin at zero, so the frame changes smoothly with the tilt, and the grabbed point stays where it
-/// is.
-/// @param center   centre of the ring, world
-/// @param axis     axis of the ring, unit length
-/// @param grabbed  the point of the ring that was grabbed; only its direction from the centre and
-/// its
-///                 distance from the axis count
-/// @param view     direction of sight at the grabbed point, unit length
-NB_MANIPULATOR_API RingFrame ringDragFrame(const osg::Pnt3f& center, const osg::Vec3f& axis,
-                                           const osg::Pnt3f& grabbed, const osg::Vec3f& view);
-
-/// World from a ring's frame: the normal is its axis, radial and tangent are the next two in cyclic
-/// order, so that a positive turn goes the way of the frame's axes.
-/// @param axis  0, 1 or 2
-NB_MANIPULATOR_API osg::Matrix ringMatrix(const RingFrame& ring, osg::UInt32 axis);
-
 /// Rounds a value half away from zero to a multiple of a step: step * floor(value / step + 0.5) for
 /// a positive value, step * ceil(value / step - 0.5) for a negative one. Zero, and any value with a
 /// step of zero, stays.

@@ -229,7 +229,16 @@ void PlanarGizmo::capture(const View& view)
     isTargetReady = false;
     drag = beginDrag(frame, getActiveMode(), view.sight());
     track = DragTrack();
-    followPlane(drag.plane, view.pointerRay(), track);
+    ring = RingDrag::begin(osg::Pnt3f(column(frame.worldFromAxes(), 3)), drag.plane.getNormal(),
+                           grabbedPoint, view.getSight());
+    follow(view, track);
+}
+
+std::optional<osg::Pnt3f> PlanarGizmo::follow(const View& view, DragTrack& next) const
+{
+    const bool isBead = drag.handle == Active::Rotate && settings.areRingsTilted && ring.isWire;
+    return isBead ? ring.follow(view.pointerRay(), next)
+                  : followPlane(drag.plane, view.pointerRay(), next);
 }
 
 void PlanarGizmo::updateManipulatorPlane()
@@ -241,7 +250,7 @@ DragStep PlanarGizmo::parametersAt(const View& view, const DragTrack& before) co
 {
     using Kind = DragParameters::Kind;
     DragTrack next = before;
-    const std::optional<osg::Pnt3f> hit = followPlane(drag.plane, view.pointerRay(), next);
+    const std::optional<osg::Pnt3f> hit = follow(view, next);
     if (!hit) {
         return DragStep();
     }

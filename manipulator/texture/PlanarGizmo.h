@@ -70,6 +70,7 @@ private:
     void readProjection(const osg::NodePtr& node);
     void askScaleValues();
     void capture(const View& view);
+    std::optional<osg::Pnt3f> follow(const View& view, DragTrack& next) const;
     void showElements();
     void placeRows(const osg::Matrix& worldFromAxes, const osg::Matrix& axes,
                    const osg::Vec3f& scales);
@@ -80,6 +81,7 @@ private:
     bool zScaleValueShown = true;
     ProjectionFrame frame;
     ProjectionDrag drag;
+    RingDrag ring;  ///< of a drag that turns
     bool isTargetReady = false;  ///< whether the object has been made a transform in this drag
 };
 

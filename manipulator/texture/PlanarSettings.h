@@ -13,6 +13,7 @@ struct PlanarSettings
     bool useObjectScale = false;
     bool useObjectTranslation = false;
     bool applyRotationToTranslation = false;
+    bool areRingsTilted = false;
     float aspectRatio = 1.0F;
     // What the receiver answers
     osg::Vec3f initialTextureScale { 1.0F, 1.0F, 1.0F };

@@ -183,7 +183,7 @@ bool TireGizmo::capture(const View& view)
     sent = DragParameters();
     direction = chooseDirection();
     choosePlane(view, worldFromObject);
-    followPlane(plane, view.pointerRay(), track);
+    follow(view, track);
     return true;
 }
 
@@ -213,9 +213,7 @@ void TireGizmo::choosePlane(const View& view, const osg::Matrix& worldFromObject
         const osg::Vec3f y = column(worldFromObject, 1);
         osg::Vec3f axle = y.cross(column(worldFromObject, 2)) * side;
         axle.normalize();
-        ownRing = ringDragFrame(center, axle, grabbedPoint, axle);
-        ring = ringDragFrame(center, axle, grabbedPoint, sight);
-        plane = osg::Plane(ring.normal, ring.center);
+        ring = RingDrag::begin(center, axle, grabbedPoint, view.getSight());
         return;
     }
     osg::Vec3f along = mapped(worldFromObject, osg::Pnt3f(start.center + direction)) - center;
@@ -226,21 +224,23 @@ void TireGizmo::choosePlane(const View& view, const osg::Matrix& worldFromObject
 
 // == Steps
 
-/// Angle about the axle from +y towards +z, radians, in the object's space, where the picture lies.
-/// @param hit  in the plane of the drag
-double TireGizmo::angleAt(const osg::Pnt3f& hit) const
+std::optional<osg::Pnt3f> TireGizmo::follow(const View& view, DragTrack& next) const
 {
-    const osg::Vec3f arm = hit - ring.center;
-    const osg::Pnt3f place = ownRing.center + ownRing.radial * arm.dot(ring.radial) +
-        ownRing.tangent * arm.dot(ring.tangent);
-    const osg::Vec3f local = mapped(objectFromWorld, place).subZero() - start.center;
+    return handle() == Handle::ScaleU ? ring.follow(view.pointerRay(), next)
+                                      : followPlane(plane, view.pointerRay(), next);
+}
+
+/// Angle about the axle from +y towards +z, radians, in the object's space, where the picture lies.
+double TireGizmo::angleAt(const osg::Pnt3f& world) const
+{
+    const osg::Vec3f local = mapped(objectFromWorld, world).subZero() - start.center;
     return std::atan2(static_cast<double>(local.z()), static_cast<double>(local.y()));
 }
 
 DragStep TireGizmo::parametersAt(const View& view, const DragTrack& before) const
 {
     DragTrack next = before;
-    const std::optional<osg::Pnt3f> hit = followPlane(plane, view.pointerRay(), next);
+    const std::optional<osg::Pnt3f> hit = follow(view, next);
     if (!hit) {
         return DragStep();
     }

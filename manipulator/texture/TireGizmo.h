@@ -49,7 +49,8 @@ private:
 
     TireValues readValues() const;
     osg::Vec3f chooseDirection() const;
-    double angleAt(const osg::Pnt3f& hit) const;
+    std::optional<osg::Pnt3f> follow(const View& view, DragTrack& next) const;
+    double angleAt(const osg::Pnt3f& world) const;
     void choosePlane(const View& view, const osg::Matrix& worldFromObject);
 
     osg::Vec3f sentCenter() const { return start.center + direction * sent.first(); }
@@ -58,8 +59,7 @@ private:
     osg::Matrix objectFromWorld;  ///< at the drag's start
     osg::Plane plane;
     osg::Vec3f direction;  ///< unit vector that a linear drag goes along, object space
-    RingFrame ring;  ///< of a drag about the axle
-    RingFrame ownRing;  ///< the same, not turned to the viewer
+    RingDrag ring;  ///< of a drag about the axle
     DragParameters sent;  ///< by the last step
 };
 

@@ -58,7 +58,7 @@ HandleRow scaleHandle(const char* name, Handle handle, std::size_t axis)
     return row;
 }
 
-HandleRow ring(const char* name, Handle handle, std::size_t axis)
+HandleRow ringRow(const char* name, Handle handle, std::size_t axis)
 {
     constexpr std::array<Turn, 3> kTurns = { Turn::ZOntoX, Turn::OntoZ, Turn::None };
     HandleRow row = {
@@ -79,9 +79,9 @@ HandleTable makeTable()
         scaleHandle("xsShape", Handle::ScaleX, 0),
         scaleHandle("ysShape", Handle::ScaleY, 1),
         scaleHandle("zsShape", Handle::ScaleZ, 2),
-        ring("rxShape", Handle::RotateX, 0),
-        ring("ryShape", Handle::RotateY, 1),
-        ring("rzShape", Handle::RotateZ, 2),
+        ringRow("rxShape", Handle::RotateX, 0),
+        ringRow("ryShape", Handle::RotateY, 1),
+        ringRow("rzShape", Handle::RotateZ, 2),
     };
     table.groups = { modes(Mode::Universal, Mode::Initial), kAllModes,
                      kAllModes & ~modes(Mode::Rotate) };
@@ -155,7 +155,7 @@ bool TriplanarGizmo::capture(const View& view)
     followAnchor(worldFromAnchor);
     readValues();
     choosePlane(view, unitFrame(worldFromAnchor, getAnchorPosition()));
-    followPlane(plane, view.pointerRay(), track);
+    follow(view, track);
     return true;
 }
 
@@ -195,26 +195,25 @@ void TriplanarGizmo::choosePlane(const View& view, const osg::Matrix& worldFromF
         return;
     }
     const osg::Vec3f along = column(worldFromFrame, axis());
-    if (!isRing()) {
-        plane = osg::Plane(axisPlaneNormal(along, view.sight()), center);
-    } else if (!areRingsTilted) {
-        plane = osg::Plane(along, center);
-    } else {
-        // About the axis of a mirrored frame a positive turn goes by the left hand.
-        const float side = worldFromFrame.det3() < 0.0F ? -1.0F : 1.0F;
-        const RingFrame tilted =
-            ringDragFrame(center, along * side, grabbedPoint, view.sightAt(grabbedPoint));
-        frameFromWorld = inverted(ringMatrix(tilted, axis()));
-        plane = osg::Plane(tilted.normal, tilted.center);
+    plane = osg::Plane(axisPlaneNormal(along, view.sight()), center);
+    if (isRing()) {
+        ring = RingDrag::begin(center, along, grabbedPoint, view.getSight());
+        ring.isWire = ring.isWire && areRingsTilted;
     }
 }
 
 // == Steps
 
+std::optional<osg::Pnt3f> TriplanarGizmo::follow(const View& view, DragTrack& next) const
+{
+    return isRing() ? ring.follow(view.pointerRay(), next)
+                    : followPlane(plane, view.pointerRay(), next);
+}
+
 DragStep TriplanarGizmo::parametersAt(const View& view, const DragTrack& before) const
 {
     DragTrack next = before;
-    const std::optional<osg::Pnt3f> hit = followPlane(plane, view.pointerRay(), next);
+    const std::optional<osg::Pnt3f> hit = follow(view, next);
     if (!hit) {
         return DragStep();
     }

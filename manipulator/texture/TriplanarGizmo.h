@@ -35,13 +35,15 @@ protected:
 
 private:
     bool isRing() const;
+    std::optional<osg::Pnt3f> follow(const View& view, DragTrack& next) const;
     /// Axis of the armed handle, 0 .. 2; 3 for the uniform one.
     osg::UInt32 axis() const;
     void readValues();
     void choosePlane(const View& view, const osg::Matrix& worldFromFrame);
 
     osg::Plane plane;
-    osg::Matrix frameFromWorld;  ///< of the frame, or of the tilted ring, at the drag's start
+    RingDrag ring;  ///< of a drag that turns
+    osg::Matrix frameFromWorld;  ///< at the drag's start
     osg::Vec3f startRotation;
     TriplanarPairs startOffsets;
     TriplanarPairs startScales;
