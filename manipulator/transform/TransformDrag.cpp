@@ -70,7 +70,8 @@ osg::Quaternion turnOf(const osg::NodePtr& node)
     const osg::Transform3DPtr transform = osg::Transform3DPtr::dcast(node->getCore());
     return transform != osg::NullFC
         ? transform->getRotationAsQuaternion()
-        : nbEulerRotation::toQuaternion(nbNodeUtils::getTransformNodeRotation(node), "xyz");
+        : nbRotationMath::toFloat(nbEulerUtils::QuatFromEul(
+              nbEulerUtils::fromDegrees(nbNodeUtils::getTransformNodeRotation(node), 0)));
 }
 
 /// World direction in which an axis of the handle goes, unit length.
