@@ -128,6 +128,25 @@ TEST_F(PerspectiveMatchPictureTest, LinesOfAxesOutOfUseAreGreyAndThinAndRingsKee
     EXPECT_TRUE(isColor(at(half, 30 - 3, 20), kBlack)) << "inside it";
 }
 
+TEST_F(PerspectiveMatchPictureTest, AHeldEndIsSeenThroughTheMagnifier)
+{
+    scene.match().setXLine1(pixelLine(60, 240, 320, 240));
+    const auto litPixels = [this] {
+        const QImage picture = draw();
+        int count = 0;
+        for (int i = 0; i < 80 * 80; ++i) {
+            count += isColor(at(picture, 280 + i % 80, 200 + i / 80), kOrange) ? 1 : 0;
+        }
+        return count;
+    };
+
+    EXPECT_TRUE(scene.send("hover", scene.pixelOf(scene.match().getXLine1().p2())));
+    const int plain = litPixels();
+    EXPECT_GT(plain, 20);
+    ASSERT_TRUE(scene.grab(scene.match().getXLine1().p2()));
+    EXPECT_GT(litPixels(), 6 * plain);
+}
+
 TEST_F(PerspectiveMatchPictureTest, GuidesShowDuringADrag)
 {
     // x vanishes to the right and z to the left, both at the height of row 300.

@@ -61,24 +61,6 @@ protected:
     }
 };
 
-TEST_F(Plates, ClicksSelectByTheirModifiers)
-{
-    click({ 150, 140 });
-    EXPECT_EQ(selected(), QStringList { "red" });
-    modifiers = Qt::ShiftModifier;
-    click({ 400, 300 });
-    EXPECT_EQ(selected(), QStringList({ "red", "blue" }));
-    modifiers = Qt::ControlModifier;
-    click({ 150, 140 });
-    EXPECT_EQ(selected(), QStringList { "blue" }) << "also on the body of the frame around both";
-    modifiers = Qt::NoModifier;
-    click({ 700, 500 });
-    EXPECT_EQ(selected(), QStringList { "ground" });
-    click({ 150, 140 });
-    EXPECT_EQ(selected(), QStringList { "red" }) << "within the frame of the ground";
-    EXPECT_EQ(steps(), 3) << "only the plates added";
-}
-
 TEST_F(Plates, BodyMovesTheSelectionInOneStepAndEscTakesItBack)
 {
     drag({ 470, 350 }, { 90, 90 });

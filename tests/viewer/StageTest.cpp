@@ -13,33 +13,7 @@
 namespace viewer {
 namespace {
 
-namespace names = nbec::interaction::names;
-
-class StageWithStartScene : public StageTest
-{
-protected:
-    void hover(const osg::Pnt2f& px) { send(names::kHover, px); }
-
-    void click(const osg::Pnt2f& px)
-    {
-        hover(px);
-        send(names::kStart, px);
-        send(names::kStop, px);
-    }
-};
-
-TEST_F(StageWithStartScene, AClickSelectsTheObjectUnderThePointerAndBesideAllNone)
-{
-    const osg::Pnt2f vase = placeOf(SessionTarget::Kind::Node, "Vase");
-
-    hover(vase);
-    EXPECT_EQ(stage.preselectedName(), "Vase");
-    click(vase);
-    EXPECT_EQ(stage.selectedName(), "Vase");
-
-    click(osg::Pnt2f(3.0F, 3.0F));
-    EXPECT_EQ(stage.selectedName(), "");
-}
+using StageWithStartScene = StageTest;
 
 TEST_F(StageWithStartScene, CursorsPointAlongTheAxesOnTheScreen)
 {

@@ -82,12 +82,6 @@ protected:
         return nbNodeUtils::getTransformNodeTranslation(object(name));
     }
 
-    float heightOfGizmo()
-    {
-        const osg::NodePtr handles = stage().gizmo().handles()->getChild(3)->getChild(0);
-        return handles->getToWorld()[3][1];
-    }
-
     QPointF position;  ///< of the pointer in the view
 };
 
@@ -146,16 +140,6 @@ TEST_F(TransformTools, EscAndTheRightButtonTakeADragBack)
     drag("yaShape", 0.0, -10.0);
     EXPECT_NE(translationOf("Knot"), before);
     letGo();
-}
-
-TEST_F(TransformTools, TheGizmoGoesBackWithAPivot)
-{
-    action("gizmoRotatePivot")->trigger();
-    drag("yaShape", 0.0, -10.0);
-    letGo();
-    const float moved = heightOfGizmo();
-    play({ key("Ctrl+Z") });
-    EXPECT_LT(heightOfGizmo(), moved - 0.1F);
 }
 
 TEST_F(TransformTools, AnInterruptedDragKeepsWhatItDidAsAStep)
@@ -247,20 +231,6 @@ TEST_F(TransformTools, SettingsReachTheGizmo)
     stage().gizmo().resetSettings();
     EXPECT_FALSE(stage().gizmo().isLocalSpace());
     EXPECT_FALSE(stage().gizmo().isSnapping());
-}
-
-TEST_F(TransformTools, PivotsGoToTheCentresAsOneStepAndObjectsStay)
-{
-    play({ key("Ctrl+A") });
-    const osg::BoxVolume before = nbNodeUtils::getWorldBounds(object("Vase"));
-
-    play({ key("Shift+C") });
-
-    const osg::BoxVolume after = nbNodeUtils::getWorldBounds(object("Vase"));
-    EXPECT_LT(before.getMin().dist(after.getMin()), 1e-4F);
-    const osg::Pnt3f centre = after.getMin() + (after.getMax() - after.getMin()) * 0.5F;
-    const osg::Vec3f pivot = nbTransformModel::getRotationPivot(object("Vase"), true);
-    EXPECT_LT((pivot - centre.subZero()).length(), 1e-3F);
 }
 
 }  // namespace

@@ -12,7 +12,6 @@
 #include <vector>
 
 using nbrender::ItemList;
-using nbrender::RenderItem;
 
 namespace {
 
@@ -56,22 +55,6 @@ std::vector<osg::Int32> keysInOrder(ItemList& list)
 }
 
 }  // namespace
-
-TEST(nbItemList, ItemsOfOneMaterialStandTogether)
-{
-    const osg::SimpleMaterialPtr first = material(0);
-    const osg::SimpleMaterialPtr second = material(0);
-    const osg::NodeRefPtr root(
-        over<osg::Group>({ box(first), box(second), box(first), box(second) }));
-    ItemList list;
-    list.update(root);
-
-    std::vector<osg::UInt32> states;
-    for (const RenderItem& item : list.getItems()) {
-        states.push_back(item.stateIndex);
-    }
-    EXPECT_EQ(states, (std::vector<osg::UInt32> { 0, 0, 1, 1 }));
-}
 
 TEST(nbItemList, HiddenPartsAreLeftOut)
 {

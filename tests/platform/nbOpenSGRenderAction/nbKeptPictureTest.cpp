@@ -352,15 +352,4 @@ TEST_F(KeptPictureTest, EffectBufferSamplesAndOtherViewportsChangeNothing)
     }
 }
 
-TEST_F(KeptPictureTest, EverythingIsMadeAnewInANewContext)
-{
-    const QImage before = settle();
-    view->close();
-    EXPECT_EQ(difference(compare("a new context"), before), 0);
-    setDiffuse(materialOf(show.handle), nextColor());
-    compare("highlight in the new context");
-    settle();
-    EXPECT_GE(reused(), 4U);
-}
-
 }  // namespace

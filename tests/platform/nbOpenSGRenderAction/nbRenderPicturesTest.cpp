@@ -286,6 +286,18 @@ TEST_F(nbRenderPicturesTest, OpaquePartsOfACutOutBodyHideWhatIsBehindThem)
 
 // == What cannot be shown
 
+TEST_F(nbRenderPicturesTest, WithoutAnImageOrAnAreaTheSurfaceIsPlain)
+{
+    PictureMaterial picture;
+    expectColors(draw(wall(picture)), { { 0.3f, 0.3f, kGrey } }, "none");
+    picture.material->setImage(picture.component, osg::Image::create());
+    expectColors(redraw(), { { 0.3f, 0.3f, kGrey } }, "no pixels");
+    picture.setPicture(colorQuarters());
+    expectColors(redraw(), { { 0.3f, 0.3f, kYellow } }, "sound");
+    picture.place({ 0.f, 0.f, 0.f }, { 0.f, 1.f, 1.f });
+    expectColors(redraw(), { { 0.3f, 0.3f, kGrey }, { 0.f, 0.3f, kGrey } }, "flat");
+}
+
 // == Formats of pictures
 
 TEST_F(nbRenderPicturesTest, ShowsPicturesOfEveryFormat)

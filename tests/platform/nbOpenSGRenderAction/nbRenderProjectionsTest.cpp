@@ -365,5 +365,3 @@ TEST_F(nbRenderProjectionsTest, TirePictureLiesInTheObjectsSpaceAndClosesWithout
         ASSERT_EQ(at(seam, 0.3f, -0.7f + 0.02f * static_cast<float>(y)), kWhite) << y;
     }
 }
-
-// == What cannot be shown

@@ -45,6 +45,15 @@ TEST_F(nbLogTest, SinkThatThrowsLosesNothingAndReachesNobody)
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "error: disk\nerror: again\n");
 }
 
+TEST_F(nbLogTest, EntriesBelowTheLevelReachNobody)
+{
+    nbLog::setLevel(nbLog::Level::Warning);
+    nbLog::info("quiet");
+    nbLog::warning("loud");
+    EXPECT_THAT(entries,
+                ElementsAre(std::string(nbLog::getLevelName(nbLog::Level::Warning)) + ": loud"));
+}
+
 TEST_F(nbLogTest, SinkMayLogAndReplaceItself)
 {
     nbLog::setSink([this](nbLog::Level, const std::string& text) {
