@@ -25,14 +25,15 @@ NumberBox::NumberBox(const Style& style, QWidget* parent)
     // Half a number is no edit.
     setKeyboardTracking(false);
     setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("-0000.000")));
-    const QPalette usual = palette();
-    connect(lineEdit(), &QLineEdit::textChanged, this, [this, usual](const QString& text) {
-        QPalette shown = usual;
+    connect(lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) {
+        QPalette shown = palette();
         if (!faultOf(text).isEmpty()) {
             shown.setColor(QPalette::Text, Qt::red);
         }
         lineEdit()->setPalette(shown);
     });
+    connect(this, &QAbstractSpinBox::editingFinished, this,
+            [this] { lineEdit()->setPalette(palette()); });
 }
 
 void NumberBox::display(double number)
