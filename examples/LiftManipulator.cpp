@@ -60,6 +60,11 @@ const HandleTable& handleTable()
     return table;
 }
 
+DragParameters along(double height)
+{
+    return { DragParameters::Kind::Offset, osg::Vec3f(0.0F, static_cast<float>(height), 0.0F) };
+}
+
 class LiftGizmo : public Gizmo
 {
 public:
@@ -90,21 +95,20 @@ protected:
     {
         DragTrack next = before;
         if (getArmed() == PutDownRing) {
-            return { { DragParameters::Kind::Offset, -bottom }, next };
+            return { along(-bottom), next };
         }
         const std::optional<osg::Pnt3f> hit = followPlane(plane, view.pointerRay(), next);
         if (!hit) {
             return DragStep();
         }
         const double offset = hit->y() - next.start->y();
-        return { { DragParameters::Kind::Offset, snapped(offset, isSnapping ? kStep : 0.0) },
-                 next };
+        return { along(snapped(offset, isSnapping ? kStep : 0.0)), next };
     }
 
     /// Always from the start, never in sums.
     void apply(const DragParameters& parameters) override
     {
-        lift.setHeight(startHeight + parameters.first());
+        lift.setHeight(startHeight + parameters.vec3().y());
     }
 
     osg::Matrix targetToWorld() const override { return lift.getNode()->getToWorld(); }

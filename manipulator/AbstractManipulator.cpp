@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/AbstractManipulator.h"
 
+#include "manipulator/course/DragControl.h"
+
 #include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGUtils/nbEdit.h>
+
+#include <utility>
 
 namespace nbec::manipulator {
 
@@ -96,6 +100,82 @@ void AbstractManipulator::reenablePreselection()
         nbScenegraph::setPreselectionEnabled(true);
         preselectionSuppressed = false;
     }
+}
+
+// == Beyond dragging
+
+bool AbstractManipulator::cancelDrag()
+{
+    if (control == nullptr || !control->takeBack()) {
+        return false;
+    }
+    stopManipulator(nullptr, std::string());
+    return true;
+}
+
+bool AbstractManipulator::typeKey(QChar key)
+{
+    if (control == nullptr) {
+        return false;
+    }
+    switch (control->typeKey(key)) {
+    case TypedKey::Commit:
+        stopManipulator(nullptr, std::string());
+        return true;
+    case TypedKey::Cancel:
+        return cancelDrag();
+    case TypedKey::Taken:
+        control->listeners.deliver();
+        return true;
+    default:
+        return false;
+    }
+}
+
+QString AbstractManipulator::getReadout() const
+{
+    return control != nullptr ? control->getReadout() : QString();
+}
+
+void AbstractManipulator::setFineMotion(bool on)
+{
+    if (control != nullptr) {
+        control->setFineMotion(on);
+    }
+}
+
+int AbstractManipulator::addDragListener(DragListener listener)
+{
+    return control != nullptr ? control->listeners.add(std::move(listener)) : 0;
+}
+
+void AbstractManipulator::removeDragListener(int number)
+{
+    if (control != nullptr) {
+        control->listeners.remove(number);
+    }
+}
+
+bool AbstractManipulator::setDragLimits(int handle, const DragLimits& limits)
+{
+    if (control != nullptr) {
+        control->setLimits(handle, limits);
+    }
+    return control != nullptr;
+}
+
+bool AbstractManipulator::clearDragLimits(int handle)
+{
+    if (control != nullptr) {
+        control->clearLimits(handle);
+    }
+    return control != nullptr;
+}
+
+void AbstractManipulator::setDragControl(DragControl& part)
+{
+    control = &part;
+    part.setFace(this);
 }
 
 }  // namespace nbec::manipulator

@@ -2,15 +2,22 @@
 #pragma once
 
 #include "manipulator/Manipulator.h"
+#include "manipulator/course/DragListeners.h"
 
 #include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGRefPtr.h>
 #include <OpenSG/OSGVector.h>
 
+#include <QtCore/QChar>
+#include <QtCore/QString>
+
 #include <cmath>
 #include <string>
 
 namespace nbec::manipulator {
+
+class DragControl;
+struct DragLimits;
 
 /// State and behaviour that all manipulators share: activation, visualisation root, pointer,
 /// preselection.
@@ -97,7 +104,43 @@ public:
     /// The held root, null if none.
     osg::NodePtr getVisualisationRoot() const { return visualisationRoot.get(); }
 
+    // == Beyond dragging. Of a manipulator without drags they do nothing and answer false.
+
+    /// Ends a drag and restores what it started from: to the bit for nodes, plates and lines, to
+    /// the last place for repeats, whose reciprocals messages bear. The start goes out as an edit
+    /// or message of its own, listeners hear of a cancelled end, and the rest is as at a stop. In a
+    /// group of undo nothing is left of it. Also after a lost stop. @return whether there was a
+    /// drag
+    bool cancelDrag();
+
+    /// Types into the drag: what is typed takes the pointer's place, from the next key on. Digits,
+    /// sign, "." or ",", + - * / and parentheses, units (mm, cm, m, deg, rad, %) make an
+    /// expression, for lengths in scene units (metres), angles in degrees, factors or pixels; x, y and z
+    /// change the axis while nothing is typed; and the control characters as QKeyEvent::text() has
+    /// them: backspace, tab to the next number, return to commit, escape to clear and, with nothing
+    /// typed, to cancel. @return whether the key was taken
+    bool typeKey(QChar key);
+
+    /// What a drag has come to, such as "+12.50 along x", and what is being typed; translated.
+    QString getReadout() const;
+
+    /// While on, the pointer counts for a tenth, without a jump when it is switched.
+    void setFineMotion(bool on);
+
+    /// Has a function told of drags, see DragListeners. @return number to take it away by; 0 for a
+    /// manipulator without drags
+    int addDragListener(DragListener listener);
+    void removeDragListener(int number);
+
+    /// Keeps what a handle can be dragged or typed to within a range. @param handle  number as in
+    /// the class's enumeration of handles
+    bool setDragLimits(int handle, const DragLimits& limits);
+    bool clearDragLimits(int handle);
+
 protected:
+    /// @param part  of the derived class, outlives all calls
+    void setDragControl(DragControl& part);
+
     /// Switches the scene's preselection off, if it is on, and remembers to have done so.
     void disablePreselection();
 
@@ -109,6 +152,7 @@ private:
     osg::RefPtr<osg::NodePtr> visualisationRoot;
     osg::Pnt2f mousePosition;
     bool preselectionSuppressed = false;
+    DragControl* control = nullptr;
 };
 
 }  // namespace nbec::manipulator

@@ -82,13 +82,17 @@ public:
 protected:
     explicit GizmoFace(std::unique_ptr<Gizmo> owned)
         : gizmo(std::move(owned))
-    { }
+    {
+        this->setDragControl(*gizmo);
+    }
 
     /// For copies: the base as it is and a gizmo of its own.
     GizmoFace(const Base& other, std::unique_ptr<Gizmo> owned)
         : Base(other)
         , gizmo(std::move(owned))
-    { }
+    {
+        this->setDragControl(*gizmo);
+    }
 
     GizmoFace(const GizmoFace&) = delete;
     GizmoFace& operator=(const GizmoFace&) = delete;

@@ -28,6 +28,7 @@ public:
         if (this != &other) {
             Base::operator=(other);
             this->gizmo = other.textureGizmo().clone();
+            this->setDragControl(*this->gizmo);
         }
         return *this;
     }

@@ -39,6 +39,7 @@ bool UniversalTransformManipulator2::stopManipulator(ManipulatorInteractionConte
     if (isHandled) {
         showActiveManipulator();
     }
+    gizmo->listeners.deliver();
     return isHandled;
 }
 

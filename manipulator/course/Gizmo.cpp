@@ -69,7 +69,19 @@ bool Gizmo::reset()
     return true;
 }
 
+/// Has listeners told of an event, the last thing that it does. @return its answer
+bool Gizmo::told(bool answer)
+{
+    listeners.deliver();
+    return answer;
+}
+
 bool Gizmo::start(interaction::Picker* picker)
+{
+    return told(startEvent(picker));
+}
+
+bool Gizmo::startEvent(interaction::Picker* picker)
 {
     if (isHeld()) {
         endDrag();  // whose stop was lost
@@ -96,12 +108,17 @@ bool Gizmo::start(interaction::Picker* picker)
 
 bool Gizmo::process(const View& view)
 {
+    return told(processEvent(view));
+}
+
+bool Gizmo::processEvent(const View& view)
+{
     endLostPause();
     if (armed == 0 || !canStep(view)) {
         return false;
     }
     if (prepared) {
-        step(view);
+        step(seen(view));
         return armed != 0;
     }
     if (rules.isPreparedAtStart) {
@@ -114,11 +131,37 @@ bool Gizmo::begin(const View& view)
 {
     track = DragTrack();
     prepared = prepare(view) && armed != 0;  // who heard of it may have ended the drag
+    if (prepared) {
+        beganAnew(view);
+    }
     return prepared;
+}
+
+void Gizmo::beganAnew(const View& view)
+{
+    DragEvent what;
+    what.handle = armed;
+    if (const HandleRow* const row = handles.findRow(armed); row != nullptr) {
+        what.handleName = row->name;
+        what.action = row->action;
+    }
+    if (!listeners.isEmpty()) {
+        what.targets = editedNodes();
+    }
+    began(what, startParameters(), view, view.unitsPerPixel(grabbedPoint));
+}
+
+void Gizmo::prepareAnew()
+{
+    prepared = false;
+    ended();
 }
 
 void Gizmo::step(const View& view)
 {
+    if (isTyping()) {
+        return;
+    }
     const DragStep next = parametersAt(view, track);
     if (next.outcome == DragStep::Outcome::Missed) {
         return;
@@ -128,14 +171,78 @@ void Gizmo::step(const View& view)
         showText(true);
         return;
     }
-    apply(next.parameters);
+    applyNow(limited(next.parameters));
+}
+
+void Gizmo::applyNow(const DragParameters& parameters)
+{
+    apply(parameters);
     if (armed == 0) {
         return;  // who heard of it has taken the gizmo out of use
     }
+    changed(parameters);
     showText(true);
     placeIn(View());  // that of the event may be gone, too
     announce();
 }
+
+// == Beside the pointer
+
+DragParameters Gizmo::startParameters() const
+{
+    const HandleRow* const row = handles.findRow(armed);
+    const HandleAction action = row != nullptr ? row->action : HandleAction();
+    DragParameters start(action.kind, osg::Vec3f());
+    start.values[0] = action.kind == DragParameters::Kind::Factor ? 1.0 : 0.0;
+    return start;
+}
+
+void Gizmo::restore()
+{
+    DragParameters start = startParameters();
+    start.isExact = true;
+    apply(start);
+}
+
+bool Gizmo::ensureBegun()
+{
+    const View view;
+    return prepared || (grabbed && armed != 0 && canStep(view) && begin(view));
+}
+
+void Gizmo::restoreNow()
+{
+    if (!hasTarget()) {
+        return;
+    }
+    restore();
+    if (armed != 0) {
+        placeIn(View());
+        announce();
+    }
+}
+
+bool Gizmo::changeAxis(std::size_t axis)
+{
+    const HandleRow* const held = handles.findRow(armed);
+    if (held == nullptr) {
+        return false;
+    }
+    for (const HandleRow& row : handles.getTable().rows) {
+        if (row.handle != 0 && row.action.kind == held->action.kind && row.family == held->family &&
+            row.action.axes == axisBit(axis)) {
+            cancelNow();
+            armed = row.handle;
+            handles.light(rules.isGrabbedLit ? armed : 0, mode);
+            handles.show(mode, armed);
+            begin(View());
+            return true;
+        }
+    }
+    return false;
+}
+
+// == The end
 
 bool Gizmo::letGo()
 {
@@ -153,6 +260,11 @@ bool Gizmo::letGo()
 
 bool Gizmo::stop()
 {
+    return told(stopEvent());
+}
+
+bool Gizmo::stopEvent()
+{
     if (!letGo()) {
         return false;
     }
@@ -167,6 +279,7 @@ void Gizmo::deactivate()
 {
     if (rules.isEndedByDeactivation) {
         endDrag();
+        listeners.deliver();
     }
 }
 
@@ -174,6 +287,7 @@ void Gizmo::release()
 {
     if (prepared) {
         finish();
+        ended();
     }
     const bool wasHeld = isHeld();
     grabbed = false;

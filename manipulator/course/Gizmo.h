@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "manipulator/course/DragControl.h"
 #include "manipulator/course/PlacementWatch.h"
 #include "manipulator/course/PreviewPause.h"
-#include "manipulator/course/View.h"
-#include "manipulator/drag/DragParameters.h"
 #include "manipulator/handles/HandleSet.h"
 #include "manipulator/nbManipulatorExport.h"
 
@@ -15,6 +14,7 @@
 #include <QtCore/QString>
 
 #include <optional>
+#include <vector>
 
 namespace nbec::interaction {
 class Picker;
@@ -54,10 +54,10 @@ struct CourseRules
 /// prepared, by its captured start. While a handle is grabbed or a drag prepared hovering changes
 /// nothing. Who receives what apply() sends may destroy what is edited; afterwards it is looked up
 /// again.
-class NB_MANIPULATOR_API Gizmo
+class NB_MANIPULATOR_API Gizmo : public DragControl
 {
 public:
-    virtual ~Gizmo();
+    ~Gizmo() override;
 
     Gizmo& operator=(const Gizmo&) = delete;
 
@@ -69,7 +69,8 @@ public:
     bool process(const View& view);
     /// Lets go, shows the handles again and resumes the preview.
     bool stop();
-    /// Lets go alone. @return whether there was a drag to stop and something to edit is left
+    /// Lets go alone. Who calls it has the listeners told last.
+    /// @return whether there was a drag to stop and something to edit is left
     bool letGo();
 
     /// The gizmo is taken out of use.
@@ -129,14 +130,23 @@ protected:
     /// What the pointer has come to since the start.
     virtual DragStep parametersAt(const View& view, const DragTrack& before) const = 0;
 
+    /// The parameters that change nothing: by themselves factor 1 and 0 of all others.
+    virtual DragParameters startParameters() const;
+
     /// Edits or sends, absolute from the captured start.
     virtual void apply(const DragParameters& parameters) = 0;
+
+    /// Edits or sends the captured start, to the bit: by itself the start's parameters.
+    virtual void restore();
 
     /// Told after each apply() when texts and handles follow it.
     virtual void announce() { }
 
-    /// A drag that was prepared is over; the armed handle is still known.
+    /// A drag that was prepared is over, see isTakenBack(); the armed handle is still known.
     virtual void finish() { }
+
+    /// The nodes that are edited.
+    virtual std::vector<osg::NodePtr> editedNodes() const { return {}; }
 
     /// World matrix of what is edited, on whose origin the handles stand.
     virtual osg::Matrix targetToWorld() const { return osg::Matrix::identity(); }
@@ -167,7 +177,10 @@ protected:
     void endDrag();
 
     /// Has the next step capture the start anew.
-    void prepareAnew() { prepared = false; }
+    void prepareAnew();
+
+    /// What is grabbed was captured anew: for listeners another drag begins.
+    void beganAnew(const View& view);
 
     /// Where the track begins; for prepare().
     DragTrack track;
@@ -184,7 +197,16 @@ protected:
     float getSize() const { return *classSize; }
 
 private:
+    bool ensureBegun() override;
+    void applyNow(const DragParameters& parameters) override;
+    void restoreNow() override;
+    bool changeAxis(std::size_t axis) override;
+
     int detect(interaction::Picker* picker);
+    bool startEvent(interaction::Picker* picker);
+    bool processEvent(const View& view);
+    bool stopEvent();
+    bool told(bool answer);
     bool begin(const View& view);
     void step(const View& view);
     void release();

@@ -76,10 +76,31 @@ std::optional<osg::Line> View::pointerRay() const
         return std::nullopt;
     }
     osg::Line ray;
-    const bool isInView = widget->getCamera()->calcViewRay(
-        ray, static_cast<osg::Int32>(pointer.x()), static_cast<osg::Int32>(pointer.y()),
-        *widget->getViewport());
-    return isInView ? std::optional<osg::Line>(ray) : std::nullopt;
+    const auto x = static_cast<osg::Int32>(pointer.x());
+    const auto y = static_cast<osg::Int32>(pointer.y());
+    const auto rayAt = [&](osg::Int32 column, osg::Int32 row, osg::Line& result) {
+        return widget->getCamera()->calcViewRay(result, column, row, *widget->getViewport());
+    };
+    if (!rayAt(x, y, ray)) {
+        return std::nullopt;
+    }
+    const float partX = pointer.x() - static_cast<float>(x);
+    const float partY = pointer.y() - static_cast<float>(y);
+    osg::Line right;
+    osg::Line below;
+    if ((partX == 0.0F && partY == 0.0F) || !rayAt(x + 1, y, right) || !rayAt(x, y + 1, below)) {
+        return ray;
+    }
+    // Between pixels: origins lie in the near plane, and directions of nearly the same length.
+    const auto between = [&](const auto& own, const auto& toRight, const auto& toBelow) {
+        return (toRight - own) * partX + (toBelow - own) * partY;
+    };
+    osg::Vec3f direction = ray.getDirection() +
+        between(ray.getDirection(), right.getDirection(), below.getDirection());
+    direction.normalize();
+    return osg::Line(ray.getPosition() +
+                         between(ray.getPosition(), right.getPosition(), below.getPosition()),
+                     direction);
 }
 
 // == Camera
@@ -166,6 +187,20 @@ float View::scaleAt(const osg::Pnt3f& anchor, float size, ViewDiagonal diagonal)
 {
     return isOrthographic() ? orthographicScale(diagonalOf(widget->getUberCamera(), diagonal))
                             : perspectiveScale(anchor.dist(getEye()), getFov(), size);
+}
+
+double View::unitsPerPixel(const osg::Pnt3f& point) const
+{
+    if (getHeight() <= 0) {
+        return 0.0;
+    }
+    if (isOrthographic()) {
+        const osg::UberCameraPtr camera = widget->getUberCamera();
+        return static_cast<double>(std::abs(camera->getTop() - camera->getBottom())) / getHeight();
+    }
+    constexpr double kRadPerDeg = 0.017453292519943295;
+    const double depth = static_cast<double>(sight().dot(point - getEye()));
+    return 2.0 * depth * std::tan(static_cast<double>(getFov()) * kRadPerDeg / 2.0) / getHeight();
 }
 
 osg::Vec2f View::project(const osg::Pnt3f& world) const

@@ -104,6 +104,9 @@ public:
     /// @param size  class-wide size setting @return as perspectiveScale() or orthographicScale()
     float scaleAt(const osg::Pnt3f& anchor, float size, ViewDiagonal diagonal) const;
 
+    /// World units of a device pixel at a point; 0 in a view without height.
+    double unitsPerPixel(const osg::Pnt3f& point) const;
+
     /// Pixel at which a point of the world is seen, y counted from the bottom. Not finite for a
     /// point in the plane of the eye. Needs a widget.
     osg::Vec2f project(const osg::Pnt3f& world) const;

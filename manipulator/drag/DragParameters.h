@@ -18,7 +18,8 @@ struct DragParameters
     enum class Kind
     {
         None,
-        Offset,  ///< how far along each axis; units of the gizmo's space
+        Offset,  ///< three: how far along each axis, 0 along those that the handle leaves alone;
+                 ///< units of the gizmo's space
         Angle,  ///< one, degrees, whole turns counted
         Factor,  ///< one, resulting size by the size at the start
         HalfSizes,  ///< half the sides of a rectangle or box, as they become
@@ -61,7 +62,30 @@ struct DragParameters
     Kind kind = Kind::None;
     std::size_t count = 0;  ///< of the numbers that mean something
     std::array<double, kMostValues> values {};
+    /// Typed or taken back, not dragged: to be taken as it is, never snapped.
+    bool isExact = false;
 };
+
+/// What a handle changes.
+struct HandleAction
+{
+    DragParameters::Kind kind = DragParameters::Kind::None;
+    /// Bit i for axis i: along it, or about it of a turn. All three for a change of all sides.
+    unsigned axes = 0;
+};
+
+constexpr unsigned kAllAxes = 7;
+
+/// The set of one axis. @param axis  0, 1 or 2
+constexpr unsigned axisBit(std::size_t axis)
+{
+    return 1U << axis;
+}
+
+constexpr bool hasAxis(unsigned axes, std::size_t axis)
+{
+    return (axes >> axis & 1U) != 0;
+}
 
 /// What a step of a drag hands on to the next one. Everything else of a drag is captured at its
 /// start and stays.

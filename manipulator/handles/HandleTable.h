@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "manipulator/drag/DragParameters.h"
 #include "manipulator/handles/HandleShapes.h"
 
 #include <array>
@@ -81,6 +82,7 @@ struct HandleRow
     int litWith = 0;  ///< further handle with which it lights up; 0 none
     HandleLeaves leaves = HandleLeaves::Nothing;
     bool staysInDrags = false;  ///< seen in drags of other handles, too
+    HandleAction action {};
 };
 
 /// All handles of a class of gizmos as data.

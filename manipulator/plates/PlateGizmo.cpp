@@ -243,17 +243,18 @@ DragStep PlateGizmo::parametersAt(const View& view, const DragTrack& before) con
 
 PlateChange PlateGizmo::changeOf(const DragParameters& parameters, PlateGuides& guides) const
 {
+    PlateGuides* const snapped = parameters.isExact ? nullptr : &guides;
     switch (parameters.kind) {
     case Kind::Pixels: {
         const osg::Vec2f distance = parameters.vec2();
         return moveFrame(drag.start, osg::Vec2f(distance.x(), -distance.y()), drag.view,
-                         isSnapping() ? &guides : nullptr);
+                         isSnapping() ? snapped : nullptr);
     }
     case Kind::Angle:
-        return turnFrame(drag.start, parameters.values[0], isSnapping());
+        return turnFrame(drag.start, parameters.values[0], isSnapping() && snapped != nullptr);
     default:
         return scaleFrame(drag.start, corner(), precisionActive, parameters.values[0], drag.view,
-                          snappingEnabled ? &guides : nullptr);
+                          snappingEnabled ? snapped : nullptr);
     }
 }
 

@@ -42,6 +42,8 @@ protected:
     DragStep parametersAt(const View& view, const DragTrack& before) const override;
     void apply(const DragParameters& parameters) override;
 
+    std::vector<osg::NodePtr> editedNodes() const override { return getNodes(); }
+
     /// The preview's pause ends with every drag, also if no plate is left.
     void finish() override { previewPause.end(); }
 

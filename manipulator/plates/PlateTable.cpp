@@ -60,9 +60,20 @@ HandlePart shadow(HandleShape shape, std::size_t color, const std::array<float, 
     return placed(shape, { color, color, color }, scale, y, kShadowLayer);
 }
 
+HandleAction actionOf(Active handle)
+{
+    using Kind = DragParameters::Kind;
+    constexpr unsigned kBoth = 3;
+    return handle == Active::Rotate ? HandleAction { Kind::Angle, axisBit(2) }
+        : handle == Active::Move    ? HandleAction { Kind::Pixels, kBoth }
+                                    : HandleAction { Kind::Factor, kBoth };
+}
+
 HandleRow handleRow(const char* name, Active handle, const std::vector<HandlePart>& parts)
 {
-    return { name, static_cast<int>(handle), -1, parts, kAllModes, HandleHolder::Matrix };
+    HandleRow row { name, static_cast<int>(handle), -1, parts, kAllModes, HandleHolder::Matrix };
+    row.action = actionOf(handle);
+    return row;
 }
 
 HandleRow box(const char* name, Active handle)

@@ -44,6 +44,9 @@ protected:
     bool canStep(const View& view) override { return view.exists() && hasTarget(); }
 
     bool prepare(const View& view) override;
+
+    std::vector<osg::NodePtr> editedNodes() const override { return { getAnchorNode() }; }
+
     void place(const View& view) override;
     bool isDisplaced(const View& view) const override;
 

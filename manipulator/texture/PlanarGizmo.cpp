@@ -117,6 +117,7 @@ void PlanarGizmo::setNode(const osg::NodePtr& node)
     prepareManipulator(node);
     if (isGrabbed()) {
         capture(View());
+        beganAnew(View());
     }
 }
 
@@ -272,6 +273,13 @@ DragStep PlanarGizmo::parametersAt(const View& view, const DragTrack& before) co
     return { { Kind::HalfSizes,
                halfSizesBetween(drag, from, *hit, sights, settings.keepAspectRatio) },
              next };
+}
+
+DragParameters PlanarGizmo::startParameters() const
+{
+    return drag.handle < Active::ScaleLowerLeft
+        ? Gizmo::startParameters()
+        : DragParameters(DragParameters::Kind::HalfSizes, drag.frame.halfExtents());
 }
 
 void PlanarGizmo::apply(const DragParameters& parameters)

@@ -53,7 +53,11 @@ protected:
     bool canStep(const View& view) override;
     bool prepare(const View& view) override;
     DragStep parametersAt(const View& view, const DragTrack& before) const override;
+    DragParameters startParameters() const override;
     void apply(const DragParameters& parameters) override;
+
+    std::vector<osg::NodePtr> editedNodes() const override { return { getNode() }; }
+
     void place(const View& view) override;
 
     /// The projection may have been edited, which no matrix of the scene tells.

@@ -42,6 +42,33 @@ HandleRow tab(const char* name, Active active, HandleShape shape, std::size_t co
     return handleRow(name, number(active), Scaling, { handlePart(shape, color) });
 }
 
+HandleAction actionOf(Active handle)
+{
+    using Kind = DragParameters::Kind;
+    constexpr unsigned kInPlane = 3;
+    if (handle == Active::Rotate) {
+        return { Kind::Angle, axisBit(2) };
+    }
+    if (handle < Active::ScaleX) {
+        return { Kind::Offset,
+                 handle == Active::TranslateXY
+                     ? kInPlane
+                     : axisBit(number(handle) - number(Active::TranslateX)) };
+    }
+    if (handle < Active::ScaleLowerLeft) {
+        return { Kind::Factor,
+                 handle == Active::ScaleUniform
+                     ? kInPlane
+                     : axisBit(number(handle) - number(Active::ScaleX)) };
+    }
+    const PlanarSide side = planarSideOf(handle);
+    HandleAction action { Kind::HalfSizes };
+    for (std::size_t i = 0; i < side.size(); ++i) {
+        action.axes |= side[i] != 0 ? axisBit(i) : 0;
+    }
+    return action;
+}
+
 /// Deliberate: the arrow and the scale axis of z point to -z, where the projection looks, unlike
 /// those of x and y. A drag of the x arrow or the plane handle hides nothing.
 HandleTable makeTable()
@@ -76,6 +103,7 @@ HandleTable makeTable()
         const auto active = static_cast<Active>(row.handle);
         const bool isFree = active == Active::TranslateX || active == Active::TranslateXY;
         row.leaves = isFree ? HandleLeaves::Everything : HandleLeaves::Family;
+        row.action = actionOf(active);
         row.visibleIn = kVisibleIn[static_cast<std::size_t>(row.family)];
     }
     return table;

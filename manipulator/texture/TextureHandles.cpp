@@ -121,6 +121,7 @@ HandleRow axisArrow(const char* name, int handle, int family, std::size_t axis)
                                    { 0.0F, 1.0F, 0.0F }) } };
     row.place[axis] = 1.0F;
     row.turn = kTurns[axis];
+    row.action = { DragParameters::Kind::Offset, axisBit(axis) };
     return row;
 }
 

@@ -46,6 +46,13 @@ enum Row : std::size_t
     PictureEndRow
 };
 
+HandleAction actionOf(Handle handle)
+{
+    return handle > Handle::TranslateZ
+        ? HandleAction { Kind::Length }
+        : HandleAction { Kind::Offset, axisBit(number(handle) - number(Handle::TranslateX)) };
+}
+
 HandleTable makeTable()
 {
     HandleTable table;
@@ -63,6 +70,9 @@ HandleTable makeTable()
                LightBlueMaterial),
         single("scaleUShape", Handle::ScaleU, kScaleGroup, HandleShape::BigCube, YellowMaterial),
     };
+    for (HandleRow& row : table.rows) {
+        row.action = actionOf(static_cast<Handle>(row.handle));
+    }
     table.groups = { modes(Mode::Universal, Mode::Translate), modes(Mode::Universal, Mode::Scale),
                      modes(Mode::Universal, Mode::Scale) };
     return table;
@@ -180,6 +190,8 @@ bool TireGizmo::capture(const View& view)
     const osg::Matrix worldFromObject = node->getToWorld();
     objectFromWorld = inverted(worldFromObject);
     start = readValues();
+    const osg::ColorComponentSettingsPtr settings = component.getSettings();
+    wasFitted = settings != osg::NullFC && settings->getTireAutoParameter();
     sent = DragParameters();
     direction = chooseDirection();
     choosePlane(view, worldFromObject);
@@ -254,9 +266,23 @@ DragStep TireGizmo::parametersAt(const View& view, const DragTrack& before) cons
         return { { Kind::Length, atLeastPart(start.radius + way, start.radius) }, next };
     case Handle::ScaleU:
         next.turned += std::remainder(angleAt(*hit) - angleAt(from) - before.turned, kFullTurn);
-        return { { Kind::Factor, grownCircumferencePart(start.scaleU, next.turned) }, next };
+        return { { Kind::Length, grownCircumferencePart(start.scaleU, next.turned) }, next };
     default:
-        return { { Kind::Offset, way }, next };
+        return { { Kind::Offset, direction * way }, next };
+    }
+}
+
+DragParameters TireGizmo::startParameters() const
+{
+    switch (handle()) {
+    case Handle::ScaleHeight:
+        return { Kind::Length, start.height };
+    case Handle::ScaleRadius:
+        return { Kind::Length, start.radius };
+    case Handle::ScaleU:
+        return { Kind::Length, start.scaleU };
+    default:
+        return Gizmo::startParameters();
     }
 }
 
@@ -287,7 +313,7 @@ void TireGizmo::finish()
     const bool isFitted =
         handle() == Handle::ScaleU && settings != osg::NullFC && settings->getTireAutoParameter();
     nbMessage message;
-    message.set("autoParameter", isFitted, true);
+    message.set("autoParameter", isTakenBack() ? wasFitted : isFitted, true);
     component.send(kChangedSuffix, message);
     placeIn(View());
 }

@@ -34,6 +34,7 @@ public:
 protected:
     bool capture(const View& view) override;
     DragStep parametersAt(const View& view, const DragTrack& before) const override;
+    DragParameters startParameters() const override;
     void apply(const DragParameters& parameters) override;
     void announce() override;
     void finish() override;
@@ -53,9 +54,10 @@ private:
     double angleAt(const osg::Pnt3f& world) const;
     void choosePlane(const View& view, const osg::Matrix& worldFromObject);
 
-    osg::Vec3f sentCenter() const { return start.center + direction * sent.first(); }
+    osg::Vec3f sentCenter() const { return start.center + sent.vec3(); }
 
     TireValues start;
+    bool wasFitted = false;  ///< the setting "autoParameter" at the start
     osg::Matrix objectFromWorld;  ///< at the drag's start
     osg::Plane plane;
     osg::Vec3f direction;  ///< unit vector that a linear drag goes along, object space

@@ -34,6 +34,7 @@ HandleRow uniformScale()
                       { handlePart(HandleShape::Cube, YellowMaterial, HandleHolder::Euler) },
                       kAllModes & ~modes(Mode::Rotate) };
     row.holder = HandleHolder::Euler;
+    row.action = { Kind::Factor, kAllAxes };
     return row;
 }
 
@@ -55,6 +56,7 @@ HandleRow scaleHandle(const char* name, Handle handle, std::size_t axis)
                         box } };
     row.holder = HandleHolder::Euler;
     row.litWith = number(Handle::ScaleUniform);
+    row.action = { Kind::Factor, axisBit(axis) };
     return row;
 }
 
@@ -65,6 +67,7 @@ HandleRow ringRow(const char* name, Handle handle, std::size_t axis)
         name, number(handle), kRotateGroup, { handlePart(HandleShape::SolidBigRing, axis) }
     };
     row.turn = kTurns[axis];
+    row.action = { Kind::Angle, axisBit(axis) };
     return row;
 }
 
@@ -230,7 +233,9 @@ DragStep TriplanarGizmo::parametersAt(const View& view, const DragTrack& before)
     if (getArmed() >= number(Handle::ScaleX)) {
         return { { Kind::Factor, axisScaleFactor(to[axis()], from[axis()]) }, next };
     }
-    return { { Kind::Offset, to[axis()] - from[axis()] }, next };
+    osg::Vec3f offset;
+    offset[axis()] = to[axis()] - from[axis()];
+    return { { Kind::Offset, offset }, next };
 }
 
 void TriplanarGizmo::apply(const DragParameters& parameters)
@@ -241,7 +246,8 @@ void TriplanarGizmo::apply(const DragParameters& parameters)
         message.set("rotate", turnedTriplanar(startRotation, axis(), parameters.values[0]), true);
     }
     const bool isOffset = parameters.kind == Kind::Offset;
-    const TriplanarPairs pairs = isOffset ? shiftedOffsets(startOffsets, axis(), value)
+    const float offset = isOffset ? parameters.vec3()[axis()] : 0.0F;
+    const TriplanarPairs pairs = isOffset ? shiftedOffsets(startOffsets, axis(), offset)
                                           : scaledAlong(startScales, axis(), value);
     // All but that of the projection along the handle's axis.
     for (osg::UInt32 i = 0; i < 3 && parameters.kind != Kind::Angle; ++i) {

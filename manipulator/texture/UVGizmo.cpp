@@ -50,6 +50,25 @@ HandleRow scaleRow(const char* name, Handle handle, HandleShape shaft, HandleSha
     return row;
 }
 
+HandleAction actionOf(Handle handle)
+{
+    constexpr unsigned kBoth = 3;
+    switch (handle) {
+    case Handle::Rotate:
+        return { Kind::Angle, axisBit(2) };
+    case Handle::TranslateU:
+    case Handle::TranslateV:
+        return { Kind::Offset, axisBit(handle == Handle::TranslateV ? 1 : 0) };
+    case Handle::TranslateUV:
+        return { Kind::Offset, kBoth };
+    case Handle::ScaleU:
+    case Handle::ScaleV:
+        return { Kind::Factor, axisBit(handle == Handle::ScaleV ? 1 : 0) };
+    default:
+        return { Kind::Factor, kBoth };
+    }
+}
+
 HandleTable makeTable()
 {
     HandleRow grid =
@@ -71,6 +90,9 @@ HandleTable makeTable()
         handleRow("rotateShape", number(Handle::Rotate), kRotateGroup,
                   { handlePart(HandleShape::SolidRing, BlueMaterial) }),
     };
+    for (HandleRow& row : table.rows) {
+        row.action = actionOf(static_cast<Handle>(row.handle));
+    }
     table.groups = { modes(Mode::Universal, Mode::Translate),
                      modes(Mode::Universal, Mode::Rotate, Mode::RotateScale),
                      modes(Mode::Universal, Mode::Scale, Mode::RotateScale) };
@@ -178,7 +200,8 @@ DragStep UVGizmo::parametersAt(const View& view, const DragTrack& before) const
     if (handle() >= Handle::ScaleU) {
         return { { Kind::Factor, pictureFactor(from, to, axes()) }, next };
     }
-    osg::Vec2f motion = view.pointerFromBelow() - dragStartPixel;
+    const osg::Vec2f way = view.pointerFromBelow() - dragStartPixel;
+    osg::Vec3f motion(way.x(), way.y(), 0.0F);
     if (handle() != Handle::TranslateUV) {
         motion[handle() == Handle::TranslateU ? 1 : 0] = 0.0F;
     }

@@ -10,6 +10,7 @@
 #include "manipulator/transform/TransformHandles.h"
 
 #include <nbKernel/nbController.h>
+#include <nbKernelServices/nbScopedUndo.h>
 #include <nbOpenSGExt/Transform3D.h>
 #include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodePermission.h>
@@ -296,6 +297,13 @@ bool TransformGizmo::prepare(const View& view)
     axesOf(handle(), getTransform(0)).getValue(held.frame);
     held.frame.setTranslate(column(placed, 3));
     drag = prepareManipulator(getTransform(0), held, view, track);
+    startStates.clear();
+    for (const osg::NodePtr& node : resolveTargets()) {
+        const auto core = node != osg::NullFC ? osg::Transform3DPtr::dcast(node->getCore())
+                                              : osg::Transform3DPtr();
+        startStates.push_back(core != osg::NullFC ? nbTransformState::of(*core)
+                                                  : nbTransformState());
+    }
     turned.clear();
     bool isAnyLocked = false;
     for (std::size_t i = 0; i < targetIds.size(); ++i) {
@@ -377,7 +385,9 @@ osg::Vec3f TransformGizmo::valueOf(std::size_t target, const DragParameters& par
         return movedPivot(start, parameters.vec3(), isLocal());
     }
     if (isScale(handle())) {
-        const double step = isSnapping() ? nbTransformModel::the()->getScalePrecision() : 0.0;
+        const double step = isSnapping() && !parameters.isExact
+            ? nbTransformModel::the()->getScalePrecision()
+            : 0.0;
         return scaledBy(start, handle(), parameters.first(), step, snapRule);
     }
     return movedTranslation(start, parameters.vec3(), isLocal());
@@ -407,6 +417,19 @@ void TransformGizmo::apply(const DragParameters& parameters)
         model->setScale(count, values);
     } else {
         model->setTranslation(count, worldSpace, values);
+    }
+}
+
+void TransformGizmo::restore()
+{
+    const nbScopedUndo scope;
+    const std::vector<osg::NodePtr> nodes = resolveTargets();
+    for (std::size_t i = 0; i < nodes.size() && i < startStates.size(); ++i) {
+        const auto core = nodes[i] != osg::NullFC ? osg::Transform3DPtr::dcast(nodes[i]->getCore())
+                                                  : osg::Transform3DPtr();
+        if (core != osg::NullFC) {
+            startStates[i].applyTo(core);
+        }
     }
 }
 

@@ -6,6 +6,8 @@
 #include "manipulator/transform/TransformDrag.h"
 #include "manipulator/transform/TransformModes.h"
 
+#include <nbOpenSGUtils/nbTransformState.h>
+
 #include <OpenSG/OSGNode.h>
 
 #include <vector>
@@ -46,6 +48,10 @@ protected:
     bool prepare(const View& view) override;
     DragStep parametersAt(const View& view, const DragTrack& before) const override;
     void apply(const DragParameters& parameters) override;
+    void restore() override;
+
+    std::vector<osg::NodePtr> editedNodes() const override { return resolveTargets(); }
+
     void announce() override;
     void place(const View& view) override;
     bool isDisplaced(const View& view) const override;
@@ -77,6 +83,7 @@ private:
     osg::RefPtr<osg::NodePtr> multiselection;
     PivotMarks marks;  ///< of the further nodes
     TransformDrag drag;
+    std::vector<nbTransformState> startStates;  ///< of the targets at the drag's start
     std::vector<nbEulerAngles> turned;  ///< of the targets after the last turn, radians
 };
 

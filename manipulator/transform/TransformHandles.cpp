@@ -103,6 +103,18 @@ HandleRow planeHandle(const char* name, Active handle, Turn turn,
                kWithTranslation, HandleHolder::Component, turn);
 }
 
+HandleAction actionOf(Active handle)
+{
+    using Kind = DragParameters::Kind;
+    const std::size_t axis = axisOf(handle);
+    const unsigned axes = axis != kNoAxis ? axisBit(axis) : kAllAxes;
+    if (isTranslation(handle)) {
+        const std::size_t normal = planeNormalAxis(handle);
+        return { Kind::Offset, normal != kNoAxis ? axes & ~axisBit(normal) : axes };
+    }
+    return { isRing(handle) ? Kind::Angle : Kind::Factor, axes };
+}
+
 HandleRow marker(HandleShape shape, std::size_t color, HandleModes visibleIn)
 {
     return { nullptr, 0, NoFamily, { solid(shape, color) }, visibleIn, HandleHolder::None };
@@ -131,6 +143,11 @@ HandleTable makeTable()
         marker(HandleShape::CentreSphere, Yellow, modes(Mode::RotatePivot)),
         marker(HandleShape::Cube, Purple, modes(Mode::ScalePivot)),
     };
+    for (HandleRow& row : table.rows) {
+        if (row.handle != 0) {
+            row.action = actionOf(static_cast<Active>(row.handle));
+        }
+    }
     // In the order of the modes' values.
     constexpr unsigned kBoth = modes(Translation, Rotation);
     constexpr unsigned kAll = modes(Translation, Rotation, Scaling);

@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: MIT
+#include "manipulator/course/DragListeners.h"
+
+#include <nbUtils/nbLog.h>
+
+#include <algorithm>
+#include <deque>
+#include <exception>
+#include <utility>
+
+namespace nbec::manipulator {
+
+namespace {
+
+struct Entry
+{
+    int number = 0;
+    DragListener listener;
+    bool hasBegun = false;  ///< has heard of the drag that runs
+};
+
+/// Whether a listener is to hear of an event, which it then has.
+bool takes(Entry& entry, DragEvent::Phase phase)
+{
+    const bool isBegin = phase == DragEvent::Phase::Begin;
+    const bool isHeard = isBegin || entry.hasBegun;
+    entry.hasBegun = isBegin || (entry.hasBegun && phase == DragEvent::Phase::Change);
+    return isHeard;
+}
+
+void tell(const DragListener& listener, const DragEvent& event)
+{
+    try {
+        listener(event);
+    } catch (const std::exception& fault) {
+        nbLog::error(std::string("A listener of drags has thrown: ") + fault.what());
+    } catch (...) {
+        nbLog::error("A listener of drags has thrown.");
+    }
+}
+
+}  // namespace
+
+struct DragListeners::State
+{
+    std::vector<Entry> entries;
+    std::deque<DragEvent> noted;
+    DragEvent current;  ///< which is being delivered
+    int lastNumber = 0;
+    bool isDelivering = false;
+
+    std::vector<Entry>::iterator find(int number)
+    {
+        return std::find_if(entries.begin(), entries.end(),
+                            [number](const Entry& each) { return each.number == number; });
+    }
+
+    void deliverTo(int number)
+    {
+        const auto entry = find(number);
+        if (entry != entries.end() && takes(*entry, current.phase)) {
+            const DragListener listener = entry->listener;  // which may take itself away
+            tell(listener, current);
+        }
+    }
+
+    void deliver()
+    {
+        isDelivering = true;
+        while (!noted.empty()) {
+            current = std::move(noted.front());
+            noted.pop_front();
+            std::vector<int> numbers;
+            for (const Entry& each : entries) {
+                numbers.push_back(each.number);
+            }
+            for (const int number : numbers) {
+                deliverTo(number);
+            }
+        }
+        isDelivering = false;
+    }
+};
+
+DragListeners::DragListeners()
+    : state(std::make_shared<State>())
+{ }
+
+DragListeners::~DragListeners()
+{
+    state->current.manipulator = nullptr;
+    for (DragEvent& each : state->noted) {
+        each.manipulator = nullptr;
+    }
+    deliver();
+}
+
+int DragListeners::add(DragListener listener)
+{
+    state->entries.push_back({ ++state->lastNumber, std::move(listener) });
+    return state->lastNumber;
+}
+
+void DragListeners::remove(int number)
+{
+    if (const auto entry = state->find(number); entry != state->entries.end()) {
+        state->entries.erase(entry);
+    }
+}
+
+bool DragListeners::isEmpty() const
+{
+    return state->entries.empty();
+}
+
+void DragListeners::note(const DragEvent& event)
+{
+    if (!isEmpty()) {
+        state->noted.push_back(event);
+    }
+}
+
+void DragListeners::deliver()
+{
+    if (!state->noted.empty() && !state->isDelivering) {
+        const std::shared_ptr<State> kept = state;  // beyond the end of this
+        kept->deliver();
+    }
+}
+
+}  // namespace nbec::manipulator

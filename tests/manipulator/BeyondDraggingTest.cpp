@@ -1,0 +1,231 @@
+// SPDX-License-Identifier: MIT
+// What every manipulator offers of a drag beside its events: cancel, listeners, typed values, fine
+// motion, limits, readout.
+#include "manipulator/course/DragControl.h"
+#include "tests/manipulator/support/AnyManipulator.h"
+
+namespace nbec::manipulator::test {
+
+using Phase = DragEvent::Phase;
+
+template <class Gizmo>
+class BeyondDragging : public AnyManipulator<Gizmo>
+{
+protected:
+    using Base = AnyManipulator<Gizmo>;
+    using Base::kTraits;
+
+    /// Notes the phases of all drags from now on.
+    void listen()
+    {
+        this->gizmo->addDragListener([this](const DragEvent& event) {
+            phases.push_back(event.phase);
+            last = event;
+        });
+    }
+
+    /// Presses, in a group of undo as a host opens it for each drag.
+    bool grab()
+    {
+        nbUndoService::the()->beginGroup();
+        return this->press();
+    }
+
+    /// Presses and makes some steps.
+    bool move() { return grab() && this->step() && this->step() && this->step(); }
+
+    void type(const char* keys)
+    {
+        for (const char* key = keys; *key != 0; ++key) {
+            EXPECT_TRUE(this->gizmo->typeKey(QLatin1Char(*key))) << keys << " at " << *key;
+        }
+    }
+
+    std::vector<Phase> phases;
+    DragEvent last;
+};
+
+TYPED_TEST_SUITE(BeyondDragging, KindsWithHandles, );
+
+TYPED_TEST(BeyondDragging, CancelRestoresWhatWasEditedToTheBit)
+{
+    ASSERT_TRUE(this->drag()) << "conversions and pauses are over";
+    this->gizmo->update(true);
+    const std::vector<float> before = this->edited();
+    nbUndoService* const undo = nbUndoService::the();
+    undo->clear();
+    EXPECT_FALSE(this->gizmo->cancelDrag()) << "no drag";
+    ASSERT_TRUE(this->move());
+    ASSERT_NE(this->edited(), before);
+    EXPECT_TRUE(this->gizmo->cancelDrag());
+    undo->endGroup();
+    const std::vector<float> after = this->edited();
+    ASSERT_EQ(after.size(), before.size());
+    for (std::size_t i = 0; i < before.size(); ++i) {
+        EXPECT_FLOAT_EQ(after[i], before[i]) << i;
+    }
+    EXPECT_FALSE(undo->undo()) << "no step is left";
+    EXPECT_FALSE(this->stage.preview.isPaused());
+    EXPECT_FALSE(this->say("stop")) << "the drag is over";
+    EXPECT_TRUE(this->gizmo->getReadout().isEmpty());
+    EXPECT_TRUE(this->drag());
+}
+
+TYPED_TEST(BeyondDragging, ListenersHearOneBeginAndOneEndOfEachDrag)
+{
+    this->listen();
+    ASSERT_TRUE(this->drag());
+    ASSERT_GE(this->phases.size(), 3U);
+    EXPECT_EQ(this->phases.front(), Phase::Begin);
+    EXPECT_EQ(this->phases.back(), Phase::Commit);
+    EXPECT_EQ(this->last.manipulator, this->gizmo.get());
+    EXPECT_FALSE(this->last.handleName.empty());
+    this->phases.clear();
+
+    ASSERT_TRUE(this->move());
+    ASSERT_TRUE(this->gizmo->cancelDrag());
+    EXPECT_EQ(this->phases.back(), Phase::Cancel);
+    this->phases.clear();
+
+    ASSERT_TRUE(this->move());  // whose stop is lost
+    ASSERT_TRUE(this->move());
+    ASSERT_TRUE(this->gizmo->cancelDrag());
+    const auto count = [this](Phase phase) {
+        return std::count(this->phases.begin(), this->phases.end(), phase);
+    };
+    EXPECT_EQ(count(Phase::Begin), 2);
+    EXPECT_EQ(count(Phase::Commit), 1);
+    EXPECT_EQ(count(Phase::Cancel), 1);
+    this->phases.clear();
+    nbUndoService::the()->cancelGroup();
+
+    ASSERT_TRUE(this->move());
+    this->drop();
+    EXPECT_EQ(count(Phase::Begin), 1);
+    EXPECT_EQ(count(Phase::Commit) + count(Phase::Cancel), 1) << "the manipulator's end";
+    this->equipNew();
+}
+
+TYPED_TEST(BeyondDragging, AListenerMayDestroyTheManipulatorInTheMiddle)
+{
+    for (const Phase when : { Phase::Begin, Phase::Change, Phase::Commit }) {
+        bool wasLost = false;
+        this->gizmo->addDragListener([&](const DragEvent& event) {
+            if (event.phase == when && !wasLost) {
+                wasLost = true;
+                this->drop();
+            }
+        });
+        this->listen();
+        this->phases.clear();
+        this->drag();
+        EXPECT_TRUE(wasLost);
+        EXPECT_EQ(std::count(this->phases.begin(), this->phases.end(), Phase::Begin), 1);
+        EXPECT_NE(this->phases.back(), Phase::Change) << "the end is told";
+        EXPECT_EQ(this->last.manipulator, nullptr);
+        this->equipNew();
+    }
+}
+
+TYPED_TEST(BeyondDragging, ATypedValueEqualsTheDraggedOne)
+{
+    ASSERT_TRUE(this->drag());
+    this->listen();
+    ASSERT_TRUE(this->move());
+    const DragParameters dragged = this->last.parameters;
+    const std::vector<float> expected = this->edited();
+    ASSERT_TRUE(this->gizmo->cancelDrag());
+
+    ASSERT_TRUE(this->grab());
+    const std::vector<std::size_t> places = freeNumbers(this->last.action);
+    for (const std::size_t i : places) {
+        this->type(QByteArray::number(dragged.values[i], 'f', 12).constData());
+        this->type("\t");
+    }
+    const std::vector<float> typed = this->edited();
+    ASSERT_EQ(typed.size(), expected.size());
+    for (std::size_t i = 0; i < typed.size(); ++i) {
+        EXPECT_NEAR(typed[i], expected[i], 1e-4 * (1.0 + std::abs(expected[i]))) << i;
+    }
+    this->step();
+    EXPECT_EQ(this->edited(), typed) << "the pointer moves nothing";
+    this->type("+");
+    EXPECT_EQ(this->edited(), typed) << "half an expression keeps the last value";
+    EXPECT_TRUE(this->gizmo->getReadout().endsWith(QLatin1Char('?')));
+    this->type("\b\r");
+    EXPECT_EQ(this->phases.back(), Phase::Commit);
+    EXPECT_EQ(this->edited(), typed);
+    EXPECT_FALSE(this->gizmo->typeKey(QLatin1Char('1'))) << "no drag";
+}
+
+TYPED_TEST(BeyondDragging, EscapeClearsFirstAndThenCancels)
+{
+    ASSERT_TRUE(this->drag());
+    const std::vector<float> before = this->edited();
+    this->listen();
+    ASSERT_TRUE(this->move());
+    this->type("3\x1b");
+    EXPECT_EQ(this->phases.back(), Phase::Change) << "still dragged";
+    EXPECT_EQ(this->gizmo->getReadout().indexOf(QLatin1Char('=')), -1);
+    this->type("\x1b");
+    EXPECT_EQ(this->phases.back(), Phase::Cancel);
+    EXPECT_EQ(this->edited(), before);
+}
+
+TYPED_TEST(BeyondDragging, FineMotionCountsATenthWithoutAJump)
+{
+    this->listen();
+    ASSERT_TRUE(this->move());
+    const double coarse = this->last.parameters.values[freeNumbers(this->last.action)[0]];
+    this->gizmo->setFineMotion(true);
+    this->say("process");
+    EXPECT_NEAR(this->last.parameters.values[freeNumbers(this->last.action)[0]], coarse, 1e-6);
+    this->point(this->pointer + Vec2f(70, -50));
+    this->say("process");
+    const DragParameters fine = this->last.parameters;
+    this->gizmo->setFineMotion(false);
+    this->say("process");
+    EXPECT_EQ(this->last.parameters.values, fine.values) << "no jump";
+    EXPECT_TRUE(this->say("stop"));
+}
+
+TYPED_TEST(BeyondDragging, LimitsHoldForThePointerAndForKeys)
+{
+    this->listen();
+    ASSERT_TRUE(this->move());
+    const int handle = this->last.handle;
+    const std::size_t place = freeNumbers(this->last.action)[0];
+    this->say("stop");
+    this->gizmo->setDragLimits(handle, { 0.25, 0.5 });
+    ASSERT_TRUE(this->move());
+    EXPECT_GE(this->last.parameters.values[place], 0.25);
+    EXPECT_LE(this->last.parameters.values[place], 0.5);
+    this->type("17");
+    EXPECT_EQ(this->last.parameters.values[place], 0.5);
+    this->gizmo->clearDragLimits(handle);
+    this->type("\b7");
+    EXPECT_EQ(this->last.parameters.values[place], 17.0);
+    this->say("stop");
+}
+
+class AxisKeys : public AnyManipulator<Transform>
+{ };
+
+TEST_F(AxisKeys, XYZGoOnWithTheHandleOfThatAxis)
+{
+    ASSERT_TRUE(drag());
+    ASSERT_TRUE(press("xaShape") && step() && step());
+    const Vec3f start = transformOf(stage.firstNode())->getTranslation();
+    gizmo->cancelDrag();
+    const Vec3f rest = transformOf(stage.firstNode())->getTranslation();
+    EXPECT_NE(start, rest);
+    ASSERT_TRUE(press("xaShape") && step() && step());
+    EXPECT_TRUE(gizmo->typeKey(QLatin1Char('z')));
+    EXPECT_EQ(transformOf(stage.firstNode())->getTranslation(), rest) << "from the start";
+    EXPECT_TRUE(gizmo->typeKey(QLatin1Char('2')));
+    const Vec3f moved = transformOf(stage.firstNode())->getTranslation() - rest;
+    EXPECT_TRUE(moved.equals(Vec3f(0, 0, 2), 1e-5F)) << moved.z();
+    EXPECT_TRUE(say("stop"));
+}
+
+}  // namespace nbec::manipulator::test
