@@ -132,9 +132,21 @@ bool AbstractManipulator::typeKey(QChar key)
     }
 }
 
+bool AbstractManipulator::isTyping() const
+{
+    return control != nullptr && control->isTyping();
+}
+
 QString AbstractManipulator::getReadout() const
 {
     return control != nullptr ? control->getReadout() : QString();
+}
+
+void AbstractManipulator::setReadoutShown(bool on, float pixelRatio)
+{
+    if (control != nullptr) {
+        control->setReadoutShown(on, pixelRatio);
+    }
 }
 
 void AbstractManipulator::setFineMotion(bool on)

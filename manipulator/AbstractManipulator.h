@@ -115,16 +115,24 @@ public:
 
     /// Types into the drag: what is typed takes the pointer's place, from the next key on. Digits,
     /// sign, "." or ",", + - * / and parentheses, units (mm, cm, m, deg, rad, %) make an
-    /// expression, for lengths in scene units (metres), angles in degrees, factors or pixels; x, y and z
-    /// change the axis while nothing is typed; and the control characters as QKeyEvent::text() has
-    /// them: backspace, tab to the next number, return to commit, escape to clear and, with nothing
-    /// typed, to cancel. @return whether the key was taken
+    /// expression, for lengths in scene units (metres), angles in degrees, factors or pixels; x, y
+    /// and z change the axis while nothing is typed; and the control characters as
+    /// QKeyEvent::text() has them: backspace, tab to the next number, return to commit, escape to
+    /// clear and, with nothing typed, to cancel. @return whether the key was taken
     bool typeKey(QChar key);
+
+    /// Whether a number is being typed.
+    bool isTyping() const;
 
     /// What a drag has come to, such as "+12.50 along x", and what is being typed; translated.
     QString getReadout() const;
 
-    /// While on, the pointer counts for a tenth, without a jump when it is switched.
+    /// Shows the readout beside the pointer during drags, as a text of a notifier "dragReadout";
+    /// off at the start. @param pixelRatio  device pixels per logical pixel of the view, > 0
+    void setReadoutShown(bool on, float pixelRatio = 1.0F);
+
+    /// While on, at most until the drag's end, the pointer counts for a tenth, without a jump when
+    /// that is switched.
     void setFineMotion(bool on);
 
     /// Has a function told of drags, see DragListeners. @return number to take it away by; 0 for a

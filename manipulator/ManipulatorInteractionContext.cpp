@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/ManipulatorInteractionContext.h"
 
-#include "manipulator/Manipulator.h"
+#include "manipulator/AbstractManipulator.h"
 
 #include <nbInteraction/InteractionEvent.h>
+#include <nbInteraction/InteractionManager.h>
 #include <nbInteraction/Picker.h>
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace nbec::manipulator {
@@ -22,6 +24,17 @@ std::vector<ManipulatorInteractionContext*>& liveContexts()
 {
     static auto* const all = new std::vector<ManipulatorInteractionContext*>;
     return *all;
+}
+
+/// The manipulator of a context as one that may have drags; null for another one.
+AbstractManipulator* dragged(const ManipulatorInteractionContext& context)
+{
+    return dynamic_cast<AbstractManipulator*>(context.getManipulator());
+}
+
+bool isCancelled(const InteractionManager* manager)
+{
+    return manager != nullptr && manager->getDragEnd() == interaction::DragEnd::Cancelled;
 }
 
 }  // namespace
@@ -117,7 +130,9 @@ bool ManipulatorInteractionContext::triggerEvent(InteractionManager* manager,
             return manipulator->startManipulator(this, hint);
         }
         if (name == "stop") {
-            return manipulator->stopManipulator(this, hint);
+            AbstractManipulator* const taken = isCancelled(manager) ? dragged(*this) : nullptr;
+            return (taken != nullptr && taken->cancelDrag()) ||
+                manipulator->stopManipulator(this, hint);
         }
         if (name == "process") {
             return manipulator->processManipulator(this, hint);
@@ -165,6 +180,29 @@ void ManipulatorInteractionContext::handOverCollider()
     if (picker != nullptr && manipulator != nullptr) {
         picker->setPickNode(manipulator->getCollider());
     }
+}
+
+void ManipulatorInteractionContext::connectDragKeys(InteractionManager& manager)
+{
+    const auto current = [&manager]() -> AbstractManipulator* {
+        const auto* const context =
+            dynamic_cast<ManipulatorInteractionContext*>(manager.getDragContext());
+        return context != nullptr ? dragged(*context) : nullptr;
+    };
+    interaction::DragKeys keys;
+    keys.typed = [current](QChar key) {
+        constexpr ushort kEscape = 27;
+        AbstractManipulator* const held = current();
+        // With nothing typed the manager takes the drag back, with what the host has recorded.
+        const bool isForManager = key == QChar(kEscape) && held != nullptr && !held->isTyping();
+        return held != nullptr && !isForManager && held->typeKey(key);
+    };
+    keys.fine = [current](bool on) {
+        if (AbstractManipulator* const held = current(); held != nullptr) {
+            held->setFineMotion(on);
+        }
+    };
+    manager.setDragKeys(std::move(keys));
 }
 
 }  // namespace nbec::manipulator

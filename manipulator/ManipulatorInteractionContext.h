@@ -73,6 +73,11 @@ public:
 
     interaction::Picker* getPicker() const { return picker; }
 
+    /// Has a manager bring keys that are typed during a drag, and Shift for fine motion, to the
+    /// manipulator that is dragged; see AbstractManipulator::typeKey(). A drag that the manager
+    /// cancels is cancelled by its manipulator in any case. @param manager  outlives its contexts
+    static void connectDragKeys(interaction::InteractionManager& manager);
+
     /// The last pointer position, device pixels, y from the top; (0, 0) before the first.
     osg::Pnt2f getPointerPosition() const { return pointerPosition; }
 

@@ -2,6 +2,7 @@
 #include "manipulator/PerspectiveMatchManipulator.h"
 
 #include "manipulator/ManipulatorInteractionContext.h"
+#include "manipulator/course/DragControl.h"
 #include "manipulator/course/PickerOf.h"
 #include "manipulator/handles/ContainerReference.h"
 #include "manipulator/match/PerspectiveMatchVisualisation.h"
@@ -75,13 +76,69 @@ osg::Pnt2f pointerFromBelow(const View& view)
     return pointer;
 }
 
+/// As "line 3, end 1"; the body has no end.
+std::string nameOf(PerspectiveMatchLine line, osg::UInt32 part)
+{
+    const std::string name = "line " + std::to_string(match::matchLineIndex(line) + 1);
+    return part == match::kLineBody ? name
+                                    : name + (part == match::kFirstEnd ? ", end 1" : ", end 2");
+}
+
 }  // namespace
+
+/// What the match offers of a drag beside its events.
+class PerspectiveMatchManipulator::Drag : public DragControl
+{
+public:
+    explicit Drag(PerspectiveMatchManipulator& ofMatch)
+        : owner(ofMatch)
+    { }
+
+    void begin(const View& view)
+    {
+        constexpr unsigned kBoth = 3;
+        DragEvent what;
+        what.handle = static_cast<int>(owner.handle);
+        what.handleName = nameOf(owner.line, owner.handle);
+        what.action = { DragParameters::Kind::Offset, kBoth };
+        const double unitsPerPixel =
+            static_cast<double>(owner.visualisation->toLineUnits(osg::Vec2f(1.0F, 0.0F)).x());
+        began(what, { DragParameters::Kind::Offset, osg::Vec3f() }, view, unitsPerPixel);
+    }
+
+    using DragControl::changed;
+    using DragControl::ended;
+    using DragControl::limited;
+    using DragControl::seen;
+
+protected:
+    bool ensureBegun() override
+    {
+        if (owner.grabbed && !owner.dragging) {
+            owner.beginDrag(View(owner.getMousePosition()));
+        }
+        return owner.dragging;
+    }
+
+    void applyNow(const DragParameters& parameters) override { owner.applyNow(parameters); }
+
+    void restoreNow() override
+    {
+        owner.setLine(owner.line, owner.lineAtDragStart);
+        owner.updateManipulator();
+    }
+
+private:
+    PerspectiveMatchManipulator& owner;
+};
 
 Instances<PerspectiveMatchManipulator> PerspectiveMatchManipulator::instances;
 
 PerspectiveMatchManipulator::PerspectiveMatchManipulator()
     : visualisation(std::make_unique<match::PerspectiveMatchVisualisation>())
+    , drag(std::make_unique<Drag>(*this))
 {
+    setDragControl(*drag);
     const auto* const service = nbKernelServiceFactory::the().get<nbObjectService>();
     if (service != nullptr) {
         connect(service, &nbObjectService::propertyChanged, this,
@@ -103,6 +160,7 @@ void PerspectiveMatchManipulator::setCamera(osg::UberCameraPtr camera)
     }
     cameraId = containerId(camera);
     updateManipulator();
+    drag->listeners.deliver();
 }
 
 // == Events, in their slot order
@@ -167,15 +225,11 @@ bool PerspectiveMatchManipulator::processManipulator(ManipulatorInteractionConte
         return false;
     }
     if (!dragging) {
-        dragStart = pointerFromBelow(view);
-        lineAtDragStart = getLine(line);
-        getNbdCameraNode().beginMatchDrag();
-        dragging = true;
-        return true;
+        beginDrag(view);
+    } else if (!drag->isTyping()) {
+        applyNow(drag->limited(parametersAt(drag->seen(view))));
     }
-    apply(parametersAt(view));
-    updateMagnifier();
-    updateManipulator();
+    drag->listeners.deliver();
     return true;
 }
 
@@ -185,6 +239,7 @@ bool PerspectiveMatchManipulator::stopManipulator(ManipulatorInteractionContext*
     nbMagnifierRenderer::setVisible(false);
     const bool wasHeld = handle != match::kNoPart;
     endDrag();
+    drag->listeners.deliver();
     return wasHeld;
 }
 
@@ -276,6 +331,15 @@ void PerspectiveMatchManipulator::takePixelRatio(ManipulatorInteractionContext* 
 
 // == Dragging
 
+void PerspectiveMatchManipulator::beginDrag(const View& view)
+{
+    dragStart = pointerFromBelow(view);
+    lineAtDragStart = getLine(line);
+    getNbdCameraNode().beginMatchDrag();
+    dragging = true;
+    drag->begin(view);
+}
+
 /// Lets go of what is held or hovered; a magnifier over it vanishes.
 void PerspectiveMatchManipulator::endDrag()
 {
@@ -285,6 +349,7 @@ void PerspectiveMatchManipulator::endDrag()
     if (dragging) {
         getNbdCameraNode().endMatchDrag();
     }
+    drag->ended();
     grabbed = false;
     dragging = false;
     line = PerspectiveMatchLine::NoLine;
@@ -307,8 +372,17 @@ bool PerspectiveMatchManipulator::updateMode()
 /// How far the pointer has come since the drag's start, line coordinates.
 DragParameters PerspectiveMatchManipulator::parametersAt(const View& view) const
 {
-    return { DragParameters::Kind::Offset,
-             visualisation->toLineUnits(pointerFromBelow(view) - dragStart) };
+    const osg::Vec2f way = visualisation->toLineUnits(pointerFromBelow(view) - dragStart);
+    return { DragParameters::Kind::Offset, osg::Vec3f(way.x(), way.y(), 0.0F) };
+}
+
+/// The same with what follows.
+void PerspectiveMatchManipulator::applyNow(const DragParameters& parameters)
+{
+    apply(parameters);
+    drag->changed(parameters);
+    updateMagnifier();
+    updateManipulator();
 }
 
 /// Moves what is held to an offset from the drag's start.

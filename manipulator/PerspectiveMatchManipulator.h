@@ -96,6 +96,7 @@ public:
 
 private:
     friend struct Instances<PerspectiveMatchManipulator>;
+    class Drag;
 
     Q_SLOT void propertyChanged(const nbdObject& object, const QByteArray& property);
     void updateManipulator();
@@ -103,10 +104,12 @@ private:
     osg::Line2D getLine(PerspectiveMatchLine which) const;
     void setLine(PerspectiveMatchLine which, const osg::Line2D& value);
 
+    void beginDrag(const View& view);
     void endDrag();
     bool updateMode();
     DragParameters parametersAt(const View& view) const;
     void apply(const DragParameters& parameters);
+    void applyNow(const DragParameters& parameters);
     void takePixelRatio(ManipulatorInteractionContext* ctx);
 
     void updateMagnifier();
@@ -124,6 +127,7 @@ private:
     bool hovered = false;
     bool grabbed = false;
     bool dragging = false;
+    std::unique_ptr<Drag> drag;
 };
 
 }  // namespace nbec::manipulator

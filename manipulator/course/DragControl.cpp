@@ -2,6 +2,7 @@
 #include "manipulator/course/DragControl.h"
 
 #include "manipulator/course/DragReadout.h"
+#include "manipulator/course/ValueText.h"
 
 #include <algorithm>
 #include <cmath>
@@ -25,7 +26,8 @@ int decimalsOf(double unitsPerPixel)
 
 DragControl::DragControl(const DragControl& other)
     : limitsOf(other.limitsOf)
-    , isFine(other.isFine)
+    , isReadoutShown(other.isReadoutShown)
+    , pixelRatio(other.pixelRatio)
 { }
 
 DragControl::~DragControl()
@@ -68,6 +70,7 @@ TypedKey DragControl::typeKey(QChar key)
             return TypedKey::Cancel;
         }
         typed.clear();
+        showReadout();
         return TypedKey::Taken;
     }
     if (key == QLatin1Char('\t')) {
@@ -93,6 +96,7 @@ TypedKey DragControl::edited()
     if (parameters && typed.isActive()) {
         applyNow(limited(*parameters));
     }
+    showReadout();
     return TypedKey::Taken;
 }
 
@@ -133,14 +137,29 @@ void DragControl::changed(const DragParameters& parameters)
 {
     event.parameters = parameters;
     isChanged = true;
+    showReadout();
     note(DragEvent::Phase::Change);
+}
+
+/// Beside the pointer, below to the right.
+void DragControl::showReadout() const
+{
+    static ValueText text("dragReadout");
+    constexpr float kBesidePx = 16.0F;
+    if (isReadoutShown) {
+        text.showAt(getReadout(),
+                    osg::Vec2f(lastPointer.x(), lastPointer.y()) * (1.0F / pixelRatio) +
+                        osg::Vec2f(kBesidePx, kBesidePx));
+    }
 }
 
 void DragControl::ended()
 {
     if (isBegun) {
         isBegun = false;
+        isFine = false;
         typed.clear();
+        showReadout();
         note(isCancelled ? DragEvent::Phase::Cancel : DragEvent::Phase::Commit);
     }
     isCancelled = false;

@@ -61,6 +61,14 @@ public:
     /// Empty without a drag.
     QString getReadout() const;
 
+    /// Shows the readout beside the pointer during drags, with a notifier "dragReadout".
+    /// @param ratio  device pixels per logical pixel, > 0
+    void setReadoutShown(bool on, float ratio)
+    {
+        isReadoutShown = on;
+        pixelRatio = ratio;
+    }
+
     /// The manipulator that events name. @param face  outlives this
     void setFace(Manipulator* face) { event.manipulator = face; }
 
@@ -111,6 +119,7 @@ protected:
 
 private:
     void note(DragEvent::Phase phase);
+    void showReadout() const;
     TypedKey edited();
 
     DragEvent event;
@@ -120,6 +129,8 @@ private:
     bool isChanged = false;
     bool isCancelled = false;
     bool isFine = false;
+    bool isReadoutShown = false;
+    float pixelRatio = 1.0F;
     int decimals = 2;  ///< of lengths in the readout
     osg::Pnt2f lastPointer;
     osg::Vec2f behind;  ///< by which the pointer that counts differs from the real one, pixels

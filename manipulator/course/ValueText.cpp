@@ -65,6 +65,17 @@ ValueText::ValueText(const char* notifier)
 
 void ValueText::show(const QString& text)
 {
+    put(text, osg::Vec2f(0.0F, kTextHeight / viewAspect()), kAreaEdge);
+}
+
+void ValueText::showAt(const QString& text, const osg::Vec2f& placePx)
+{
+    put(text, placePx, 0.0F);
+}
+
+/// @param edge  of the view, which texts keep free at its upper and left side
+void ValueText::put(const QString& text, const osg::Vec2f& place, float edge)
+{
     NotificationManager* const manager = NotificationManager::getInstance();
     std::shared_ptr<notification::Notifier> notifier = manager->getNotifier(notifierName);
     if (notifier == nullptr) {
@@ -76,8 +87,8 @@ void ValueText::show(const QString& text)
         notifier = makeNotifier();
         manager->registerNotifier(notifierName, notifier);
     }
-    notifier->setTextPosition(osg::Vec2f(0.0F, kTextHeight / viewAspect()));
-    notifier->setTextArea(osg::Vec2f(kAreaEdge, kAreaEdge), osg::Vec2f(-1.0F, -1.0F));
+    notifier->setTextPosition(place);
+    notifier->setTextArea(osg::Vec2f(edge, edge), osg::Vec2f(-1.0F, -1.0F));
     if (text.isEmpty()) {
         manager->removeTextNotification(shown);
         shown = nullptr;

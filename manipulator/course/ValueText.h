@@ -30,7 +30,12 @@ public:
     /// Shows a text; an empty one takes it away.
     void show(const QString& text);
 
+    /// The same at a place of the view instead. @param placePx  upper left corner, logical pixels
+    void showAt(const QString& text, const osg::Vec2f& placePx);
+
 private:
+    void put(const QString& text, const osg::Vec2f& place, float edge);
+
     std::string notifierName;
     notification::TextNotification* shown = nullptr;
 };

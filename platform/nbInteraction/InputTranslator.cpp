@@ -298,7 +298,21 @@ bool InputTranslator::keyPress(const QKeyEvent& event)
     if (event.key() == Qt::Key_Control) {
         setPrecision(true);
     }
+    if (event.key() == Qt::Key_Shift) {
+        manager.setFineMotion(true);
+    }
+    if (isForDrag(event) && manager.typeKey(event.text().at(0))) {
+        return true;
+    }
     return event.key() == Qt::Key_Escape && cancelDrag();
+}
+
+bool InputTranslator::isForDrag(const QKeyEvent& event) const
+{
+    constexpr Qt::KeyboardModifiers kOfShortcuts =
+        Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    return dragIsSent && dragTool == names::kTool && !event.text().isEmpty() &&
+        (event.modifiers() & kOfShortcuts) == Qt::NoModifier;
 }
 
 void InputTranslator::keyRelease(const QKeyEvent& event)
@@ -306,11 +320,15 @@ void InputTranslator::keyRelease(const QKeyEvent& event)
     if (event.key() == Qt::Key_Control && !event.isAutoRepeat()) {
         setPrecision(false);
     }
+    if (event.key() == Qt::Key_Shift && !event.isAutoRepeat()) {
+        manager.setFineMotion(false);
+    }
 }
 
 bool InputTranslator::overrideShortcut(QKeyEvent& event) const
 {
-    if (event.key() != Qt::Key_Escape || !dragIsSent) {
+    const bool isEscape = event.key() == Qt::Key_Escape && dragIsSent;
+    if (!isEscape && !isForDrag(event)) {
         return false;
     }
     event.accept();

@@ -32,6 +32,8 @@ class InteractionManager;
 ///   and Shift + right "pan"; Alt + right "zoom".
 /// - Wheel and touchpad scroll: "trigger", tool "camera", hint "zoom", amount in wheel steps.
 /// - Ctrl held, released: mode "precisionTool", "tool".
+/// - During a drag with the left button keys go to the manager's DragKeys first, Shift makes the
+///   motion fine.
 ///
 /// The view under the pointer becomes the main one, its pointer is set, and pointerMoved goes out
 /// before the event of the same input; each move is passed on by itself. A double click counts as a
@@ -78,7 +80,9 @@ private:
 
     bool keyPress(const QKeyEvent& event);
     void keyRelease(const QKeyEvent& event);
-    /// Keeps Esc from the window's shortcuts while it is needed here.
+    /// Whether a drag may take the key, which then is no shortcut.
+    bool isForDrag(const QKeyEvent& event) const;
+    /// Keeps keys from the window's shortcuts while they are needed here.
     bool overrideShortcut(QKeyEvent& event) const;
     void setPrecision(bool on);
 

@@ -247,6 +247,23 @@ void InteractionManager::cancelDrag()
     }
 }
 
+void InteractionManager::setDragKeys(DragKeys keys)
+{
+    dragKeys = std::move(keys);
+}
+
+bool InteractionManager::typeKey(QChar key)
+{
+    return dragKeys.typed && getDragContext() != nullptr && dragKeys.typed(key);
+}
+
+void InteractionManager::setFineMotion(bool on)
+{
+    if (dragKeys.fine && getDragContext() != nullptr) {
+        dragKeys.fine(on);
+    }
+}
+
 void InteractionManager::setCancelHandler(std::function<void()> handler)
 {
     cancelHandler = std::move(handler);

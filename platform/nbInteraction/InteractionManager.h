@@ -4,6 +4,8 @@
 #include <nbInteraction/InteractionContext.h>
 #include <nbInteraction/InteractionEvent.h>
 
+#include <QtCore/QChar>
+
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -17,6 +19,13 @@ enum class DragEnd
     Released,  ///< the user let go, or no stop event is being delivered
     Interrupted,  ///< something came between (focus or grab lost, second button, window closed)
     Cancelled  ///< the user wants it taken back
+};
+
+/// Who takes the keys of a running drag; what is not set takes none.
+struct DragKeys
+{
+    std::function<bool(QChar key)> typed;  ///< answers whether it took the key
+    std::function<void(bool isFine)> fine;  ///< Shift was pressed or released
 };
 
 /// Brings the user's input to the contexts.
@@ -95,6 +104,15 @@ public:
     /// no edit; then the handler must change nothing.
     void setCancelHandler(std::function<void()> handler);
 
+    /// Sets who takes the keys of running drags.
+    void setDragKeys(DragKeys keys);
+    /// Brings a key to who takes them while a context has taken a drag; a character as QKeyEvent
+    /// has it, control characters for Return, Tab, Backspace and Escape. @return whether it was
+    /// taken
+    bool typeKey(QChar key);
+    /// Tells who takes keys whether Shift is held.
+    void setFineMotion(bool on);
+
 private:
     struct Entry
     {
@@ -151,6 +169,7 @@ private:
     DragEnd dragEnd = DragEnd::Released;
     std::uint64_t hoverOwner = 0;  ///< serial of the context that took the last hover, 0 for none
     std::function<void()> cancelHandler;
+    DragKeys dragKeys;
 };
 
 }  // namespace nbec::interaction

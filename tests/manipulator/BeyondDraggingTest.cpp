@@ -45,7 +45,7 @@ protected:
     DragEvent last;
 };
 
-TYPED_TEST_SUITE(BeyondDragging, KindsWithHandles, );
+TYPED_TEST_SUITE(BeyondDragging, AllKinds, );
 
 TYPED_TEST(BeyondDragging, CancelRestoresWhatWasEditedToTheBit)
 {

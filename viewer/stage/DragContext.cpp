@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/stage/DragContext.h"
 
+#include "manipulator/AbstractManipulator.h"
+
 #include <nbInteraction/EventNames.h>
 #include <nbInteraction/InteractionEvent.h>
 #include <nbInteraction/InteractionManager.h>
@@ -14,6 +16,7 @@ namespace viewer {
 namespace names = nbec::interaction::names;
 using nbec::interaction::InteractionEvent;
 using nbec::interaction::InteractionManager;
+using nbec::manipulator::AbstractManipulator;
 using nbec::manipulator::ManipulatorInteractionContext;
 
 DragContext::DragContext()
@@ -46,6 +49,9 @@ bool DragContext::triggerEvent(InteractionManager* manager, const InteractionEve
 
 bool DragContext::start(InteractionManager* manager, const InteractionEvent& event)
 {
+    if (auto* const drag = dynamic_cast<AbstractManipulator*>(getManipulator()); drag != nullptr) {
+        drag->setReadoutShown(true, getPicker() != nullptr ? getPicker()->getPixelRatio() : 1.0F);
+    }
     const bool isTaken =
         group.start([&] { return ManipulatorInteractionContext::triggerEvent(manager, event); });
     if (isTaken) {

@@ -61,6 +61,7 @@ Stage::Stage(nbOSGWidget& view)
         edited();
     });
     commandTable.setBusy([this] { return isDragging(); });
+    nbec::manipulator::ManipulatorInteractionContext::connectDragKeys(manager);
     gizmoController.setDragCallback([this] { changed(); });
     nbec::notification::NotificationManager::getInstance()->setChangeListener(
         [this] { renderWidget.update(); });
