@@ -168,6 +168,11 @@ void AbstractManipulator::removeDragListener(int number)
     }
 }
 
+bool AbstractManipulator::setHandleVisible(const std::string& name, bool on)
+{
+    return control != nullptr && control->setHandleVisible(name, on);
+}
+
 bool AbstractManipulator::setDragLimits(int handle, const DragLimits& limits)
 {
     if (control != nullptr) {

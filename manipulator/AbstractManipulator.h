@@ -140,6 +140,10 @@ public:
     int addDragListener(DragListener listener);
     void removeDragListener(int number);
 
+    /// Shows or hides a handle in all modes, for example setHandleVisible("xaShape", false); hidden
+    /// ones cannot be grabbed. @return false for an unknown name
+    bool setHandleVisible(const std::string& name, bool on);
+
     /// Keeps what a handle can be dragged or typed to within a range. @param handle  number as in
     /// the class's enumeration of handles
     bool setDragLimits(int handle, const DragLimits& limits);

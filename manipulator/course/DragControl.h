@@ -10,6 +10,7 @@
 #include <QtCore/QString>
 
 #include <map>
+#include <string>
 
 namespace nbec::manipulator {
 
@@ -56,6 +57,9 @@ public:
     void setLimits(int handle, const DragLimits& limits) { limitsOf[handle] = limits; }
 
     void clearLimits(int handle) { limitsOf.erase(handle); }
+
+    /// Shows or hides a handle in every mode. @return false for an unknown name
+    virtual bool setHandleVisible(const std::string& /*name*/, bool /*on*/) { return false; }
 
     /// What the drag has come to, such as "+12.50 along x", or what is being typed; translated.
     /// Empty without a drag.

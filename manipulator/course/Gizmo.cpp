@@ -350,6 +350,15 @@ void Gizmo::vanish()
     }
 }
 
+bool Gizmo::setHandleVisible(const std::string& name, bool on)
+{
+    const bool isKnown = handles.setHidden(name, !on);
+    if (isKnown) {
+        handles.show(mode, isHeld() ? armed : 0);
+    }
+    return isKnown;
+}
+
 void Gizmo::activateMode(int newMode)
 {
     mode = newMode;

@@ -97,6 +97,8 @@ public:
 
     bool isGrabbed() const { return grabbed; }
 
+    bool setHandleVisible(const std::string& name, bool on) override;
+
     // == Placement
 
     /// Places the handles if something was noticed that their place depends on. Nothing without

@@ -11,6 +11,12 @@ namespace {
 
 constexpr float kTolerance = 1e-6F;
 
+/// Height of the main view where the gizmos' size depends on it; else 0.
+int decisiveHeight()
+{
+    return getSizePolicy().arrowPx > 0.0F ? View().getHeight() : 0;
+}
+
 /// Size of gizmos in an orthographic view; 0 in any other.
 float orthographicSize(const View& view)
 {
@@ -23,7 +29,8 @@ float orthographicSize(const View& view)
 bool PlacementWatch::mayHaveChanged(float own) const
 {
     return !isKnown || osg::glue::editStamp() != editStamp || own != ownNumber ||
-        nbOSGWidget::getMGLW(-1) != widget;
+        nbOSGWidget::getMGLW(-1) != widget || !(getSizePolicy() == policy) ||
+        decisiveHeight() != heightPx;
 }
 
 void PlacementWatch::note(float own)
@@ -32,6 +39,8 @@ void PlacementWatch::note(float own)
     editStamp = osg::glue::editStamp();
     ownNumber = own;
     widget = nbOSGWidget::getMGLW(-1);
+    policy = getSizePolicy();
+    heightPx = decisiveHeight();
 }
 
 bool PlacementWatch::isElsewhere(const osg::Matrix& target) const
@@ -47,7 +56,8 @@ bool PlacementWatch::isSeenOtherwise(const View& view) const
     view.getFromAtUp(from, at, up);
     return !from.equals(cachedCameraFrom, kTolerance) || !at.equals(cachedCameraAt, kTolerance) ||
         !up.equals(cachedCameraUp, kTolerance) || view.getFov() != cachedFov ||
-        orthographicSize(view) != cachedOrthoSize;
+        orthographicSize(view) != cachedOrthoSize || !(getSizePolicy() == placedPolicy) ||
+        decisiveHeight() != placedHeightPx;
 }
 
 void PlacementWatch::remember(const osg::Matrix& target)
@@ -61,6 +71,8 @@ void PlacementWatch::remember(const View& view)
     view.getFromAtUp(cachedCameraFrom, cachedCameraAt, cachedCameraUp);
     cachedFov = view.getFov();
     cachedOrthoSize = orthographicSize(view);
+    placedPolicy = getSizePolicy();
+    placedHeightPx = decisiveHeight();
 }
 
 }  // namespace nbec::manipulator

@@ -43,12 +43,16 @@ private:
     osg::UInt64 editStamp = 0;  ///< see EditStamp.h
     const nbOSGWidget* widget = nullptr;  ///< for comparison only
     float ownNumber = 0.0F;
+    SizePolicy policy;
+    int heightPx = 0;  ///< of the view, which counts for a size in pixels
 
     osg::Matrix cachedAnchorMatrix;
     osg::Pnt3f cachedCameraFrom;
     osg::Pnt3f cachedCameraAt;
     osg::Vec3f cachedCameraUp;
     float cachedFov = 0.0F;
+    SizePolicy placedPolicy;
+    int placedHeightPx = 0;
     float cachedOrthoSize = 0.0F;  ///< 0 under a perspective camera
 };
 

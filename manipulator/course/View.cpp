@@ -15,9 +15,17 @@ namespace {
 constexpr double kSizeLimit = 200.0;
 constexpr double kReference = 800.0;
 constexpr float kViewsPerDiagonal = 20.0F;
+/// Length of an arrow in a gizmo's unit frame.
+constexpr double kArrowUnits = 2.0;
 
 /// Index of the main widget.
 constexpr int kMain = -1;
+
+SizePolicy& currentPolicy()
+{
+    static SizePolicy policy;
+    return policy;
+}
 
 float diagonalOf(const osg::UberCameraPtr& camera, ViewDiagonal diagonal)
 {
@@ -183,8 +191,27 @@ std::optional<float> View::orthographicDiagonal() const
                             : std::nullopt;
 }
 
+bool setSizePolicy(const SizePolicy& policy)
+{
+    const bool isRight = std::isfinite(policy.arrowPx) && policy.arrowPx >= 0.0F &&
+        std::isfinite(policy.pixelRatio) && policy.pixelRatio > 0.0F;
+    if (isRight) {
+        currentPolicy() = policy;
+    }
+    return isRight;
+}
+
+const SizePolicy& getSizePolicy()
+{
+    return currentPolicy();
+}
+
 float View::scaleAt(const osg::Pnt3f& anchor, float size, ViewDiagonal diagonal) const
 {
+    if (const SizePolicy& policy = getSizePolicy(); policy.arrowPx > 0.0F && getHeight() > 0) {
+        return static_cast<float>(static_cast<double>(policy.arrowPx * policy.pixelRatio) *
+                                  unitsPerPixel(anchor) / kArrowUnits);
+    }
     return isOrthographic() ? orthographicScale(diagonalOf(widget->getUberCamera(), diagonal))
                             : perspectiveScale(anchor.dist(getEye()), getFov(), size);
 }

@@ -31,6 +31,27 @@ NB_MANIPULATOR_API float perspectiveScale(double distance, float fovDeg, float s
 /// @param diagonal  diagonal of the camera's view, world units
 NB_MANIPULATOR_API float orthographicScale(float diagonal);
 
+/// How large gizmos of constant apparent size are.
+struct SizePolicy
+{
+    /// Length of an arrow from the gizmo's centre to the end of its shaft, logical pixels; 0 for
+    /// the classic rule, perspectiveScale() or orthographicScale().
+    float arrowPx = 0.0F;
+    float pixelRatio = 1.0F;  ///< device pixels per logical pixel, > 0
+
+    bool operator==(const SizePolicy& other) const
+    {
+        return arrowPx == other.arrowPx && pixelRatio == other.pixelRatio;
+    }
+};
+
+/// Sets the size of all gizmos in the world; they take it at their next update. In pixels it is the
+/// same in views of every height, camera and pixel ratio, for example
+/// setSizePolicy({ 96.0F, widget.devicePixelRatio() }). Values that are not finite, below 0 or with
+/// a ratio of 0 change nothing. @return whether it was taken
+NB_MANIPULATOR_API bool setSizePolicy(const SizePolicy& policy);
+NB_MANIPULATOR_API const SizePolicy& getSizePolicy();
+
 /// What an orthographic camera's view is measured by.
 enum class ViewDiagonal
 {
@@ -100,8 +121,8 @@ public:
     /// Near-plane diagonal of an orthographic camera, world units; nothing under a perspective one.
     std::optional<float> orthographicDiagonal() const;
 
-    /// Scale of a gizmo of constant apparent size. @param anchor  of the gizmo, world
-    /// @param size  class-wide size setting @return as perspectiveScale() or orthographicScale()
+    /// Scale of a gizmo of constant apparent size by the policy. @param anchor  of the gizmo, world
+    /// @param size  class-wide size setting, for the classic rule
     float scaleAt(const osg::Pnt3f& anchor, float size, ViewDiagonal diagonal) const;
 
     /// World units of a device pixel at a point; 0 in a view without height.

@@ -186,7 +186,7 @@ void HandleSet::showRoot(bool isVisible)
 bool HandleSet::isShown(std::size_t row, int mode, const HandleRow* held) const
 {
     const HandleRow& each = table->rows[row];
-    if (handles[row].isExcluded || !isInModes(mode, each.visibleIn)) {
+    if (handles[row].isExcluded || handles[row].isHidden || !isInModes(mode, each.visibleIn)) {
         return false;
     }
     return held == nullptr || each.handle == held->handle || each.staysInDrags ||
@@ -219,6 +219,18 @@ void HandleSet::showAll(bool isVisible)
     for (const osg::NodePtr& group : groups) {
         showNode(group, isVisible);
     }
+}
+
+bool HandleSet::setHidden(const std::string& name, bool isHidden)
+{
+    bool isKnown = false;
+    for (std::size_t i = 0; i < handles.size(); ++i) {
+        if (table->rows[i].name != nullptr && name == table->rows[i].name) {
+            handles[i].isHidden = isHidden;
+            isKnown = true;
+        }
+    }
+    return isKnown;
 }
 
 void HandleSet::setExcluded(int handle, bool isExcluded)

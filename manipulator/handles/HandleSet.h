@@ -11,6 +11,7 @@
 #include <OpenSG/OSGSimpleMaterial.h>
 
 #include <cstddef>
+#include <string>
 #include <vector>
 
 namespace nbec::manipulator {
@@ -72,6 +73,8 @@ public:
 
     /// Keeps a handle out of every mode, or lets it in again; seen with the next show().
     void setExcluded(int handle, bool isExcluded);
+    /// The same, as the host wants it. @return false for an unknown name
+    bool setHidden(const std::string& name, bool isHidden);
 
 private:
     struct Nodes
@@ -79,6 +82,7 @@ private:
         osg::NodePtr top;
         std::vector<osg::NodePtr> parts;
         bool isExcluded = false;
+        bool isHidden = false;  ///< by the host
     };
 
     static Nodes buildHandle(const HandleRow& row);

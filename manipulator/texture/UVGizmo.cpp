@@ -127,10 +127,15 @@ void UVGizmo::placeHandles(const View& view, const osg::Matrix& /*worldFromAncho
 {
     const osg::Vec3f place = getAnchorPosition().subZero();
     const std::optional<float> diagonal = view.orthographicDiagonal();
-    const float rootScale = diagonal ? kOrthographicRootScale : view.getFov() * getSize();
+    const bool isInPixels = getSizePolicy().arrowPx > 0.0F;
+    const float rootScale = isInPixels ? 1.0F
+        : diagonal                     ? kOrthographicRootScale
+                                       : view.getFov() * getSize();
     const double distance = getAnchorPosition().dist(view.getEye());
-    const float viewScale = diagonal ? *diagonal / kDiagonalsPerScale
-                                     : static_cast<float>(distance / kDistancePerScale);
+    const float viewScale = isInPixels
+        ? view.scaleAt(getAnchorPosition(), getSize(), ViewDiagonal::NearPlane)
+        : diagonal ? *diagonal / kDiagonalsPerScale
+                   : static_cast<float>(distance / kDistancePerScale);
     placeTransform(handles.getRootTransform(), place, osg::Quaternion::identity(),
                    osg::Vec3f(rootScale, rootScale, rootScale));
     const osg::Transform3DPtr facing = osg::Transform3DPtr::dcast(root->getCore());

@@ -208,6 +208,59 @@ TYPED_TEST(BeyondDragging, LimitsHoldForThePointerAndForKeys)
     this->say("stop");
 }
 
+template <class Gizmo>
+class Handles : public AnyManipulator<Gizmo>
+{
+protected:
+    /// How large the gizmo's unit is on screen, logical pixels.
+    double unitPx(float pixelRatio)
+    {
+        this->gizmo->update(false);
+        const osg::Matrix place = this->node(this->kTraits.handle)->getParent()->getToWorld();
+        const Pnt3f center(place[3][0], place[3][1], place[3][2]);
+        const View view;
+        const Vec3f up(0, 1, 0);
+        const Pnt3f tip = center + up * Vec3f(place[0][0], place[0][1], place[0][2]).length();
+        return (view.project(tip) - view.project(center)).length() / pixelRatio;
+    }
+};
+
+using KindsInTheWorld = testing::Types<Transform, Planar, Triplanar, Tire>;
+TYPED_TEST_SUITE(Handles, KindsInTheWorld, );
+
+TYPED_TEST(Handles, SizeInPixelsIsTheSameInEveryView)
+{
+    const auto camera = this->stage.view->getUberCamera();
+    camera->setFromAtUp(Pnt3f(0, 0, 20), Pnt3f(), Vec3f(0, 1, 0));
+    for (const bool isOrthographic : { false, true }) {
+        nbtest::edited(camera)->setOrthographic(isOrthographic);
+        for (const float ratio : { 1.0F, 1.5F, 3.0F }) {
+            for (const int height : { 200, 500, 1200 }) {
+                this->stage.view->resize(height * 2, height);
+                EXPECT_TRUE(setSizePolicy({ 96.0F, ratio }));
+                EXPECT_NEAR(this->unitPx(ratio), 48.0, 1.0)
+                    << isOrthographic << ' ' << ratio << ' ' << height;
+            }
+        }
+    }
+    EXPECT_FALSE(setSizePolicy({ -1.0F, 1.0F }));
+    EXPECT_FALSE(setSizePolicy({ 96.0F, 0.0F }));
+    EXPECT_TRUE(setSizePolicy({}));
+    nbtest::edited(camera)->setOrthographic(false);
+}
+
+TYPED_TEST(Handles, TheHostHidesSingleOnes)
+{
+    const char* const name = this->kTraits.handle;
+    ASSERT_TRUE(this->hover(name));
+    EXPECT_TRUE(this->gizmo->setHandleVisible(name, false));
+    EXPECT_FALSE(this->hover(name));
+    EXPECT_TRUE(this->hover(this->kTraits.other));
+    EXPECT_FALSE(this->gizmo->setHandleVisible("nobody", false));
+    EXPECT_TRUE(this->gizmo->setHandleVisible(name, true));
+    EXPECT_TRUE(this->drag());
+}
+
 class AxisKeys : public AnyManipulator<Transform>
 { };
 
