@@ -382,7 +382,7 @@ void Gizmo::update(bool force)
     }
     watch.note(own);
     const View view;
-    if (force || isTreeMoved() || isDisplaced(view)) {
+    if (force || watch.isSizedOtherwise() || isTreeMoved() || isDisplaced(view)) {
         placeIn(view);
     }
 }
@@ -394,6 +394,7 @@ void Gizmo::placeIn(const View& view)
         return;
     }
     place(view);
+    watch.rememberSize();
     if (const osg::Transform3DPtr placed = handles.getRootTransform(); placed != osg::NullFC) {
         placedAt = placed->getTranslation();
         placedScale = placed->getScale();

@@ -33,6 +33,17 @@ bool PlacementWatch::mayHaveChanged(float own) const
         decisiveHeight() != heightPx;
 }
 
+bool PlacementWatch::isSizedOtherwise() const
+{
+    return !(getSizePolicy() == placedPolicy) || decisiveHeight() != placedHeightPx;
+}
+
+void PlacementWatch::rememberSize()
+{
+    placedPolicy = getSizePolicy();
+    placedHeightPx = decisiveHeight();
+}
+
 void PlacementWatch::note(float own)
 {
     isKnown = true;
@@ -56,8 +67,7 @@ bool PlacementWatch::isSeenOtherwise(const View& view) const
     view.getFromAtUp(from, at, up);
     return !from.equals(cachedCameraFrom, kTolerance) || !at.equals(cachedCameraAt, kTolerance) ||
         !up.equals(cachedCameraUp, kTolerance) || view.getFov() != cachedFov ||
-        orthographicSize(view) != cachedOrthoSize || !(getSizePolicy() == placedPolicy) ||
-        decisiveHeight() != placedHeightPx;
+        orthographicSize(view) != cachedOrthoSize;
 }
 
 void PlacementWatch::remember(const osg::Matrix& target)
@@ -71,8 +81,6 @@ void PlacementWatch::remember(const View& view)
     view.getFromAtUp(cachedCameraFrom, cachedCameraAt, cachedCameraUp);
     cachedFov = view.getFov();
     cachedOrthoSize = orthographicSize(view);
-    placedPolicy = getSizePolicy();
-    placedHeightPx = decisiveHeight();
 }
 
 }  // namespace nbec::manipulator

@@ -28,6 +28,10 @@ public:
         isPlaceKnown = false;
     }
 
+    /// Whether gizmos have another size than at the last rememberSize(), see SizePolicy.
+    bool isSizedOtherwise() const;
+    void rememberSize();
+
     /// Whether a gizmo's target stands elsewhere than at the last remember().
     bool isElsewhere(const osg::Matrix& target) const;
     /// Whether the view has another eye, point looked at, upward direction, field of view, or
