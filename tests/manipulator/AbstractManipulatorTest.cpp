@@ -151,24 +151,4 @@ TEST_F(AbstractManipulatorTest, DragOperationsAnswerTrueAndTheOthersFalseByDefau
     EXPECT_FALSE(plain.setManipulatorMode("precisionTool"));
 }
 
-TEST_F(AbstractManipulatorTest, NodeIsHeldWeakly)
-{
-    osg::NodePtr node = osg::makeCoredNode<osg::Group>();
-    osg::addRefCP(node);
-    PlainManipulator plain;
-    EXPECT_EQ(plain.getNode(), osg::NullFC);
-
-    plain.setNode(node);
-    const PlainManipulator copy(plain);
-    EXPECT_EQ(plain.getNode(), node);
-    EXPECT_EQ(copy.getNode(), node);
-    EXPECT_EQ(node.getRefCount(), 1);
-
-    osg::subRefCP(node);
-    EXPECT_EQ(plain.getNode(), osg::NullFC);
-    plain.setNode(root.get());
-    plain.setNode(osg::NodePtr());
-    EXPECT_EQ(plain.getNode(), osg::NullFC);
-}
-
 }  // namespace nbec::manipulator::test

@@ -335,24 +335,4 @@ TEST(HandleTrees, HaveTheirChildrenInTheirOrder)
     EXPECT_TRUE(tripass->getChild(2)->getActive());
 }
 
-TEST(HandleTrees, OfAPlanarGizmoMayHaveADepthPassThatIsNotHit)
-{
-    PlanarScene planar;
-    Planar gizmo(true);
-    gizmo.setMaterialComponent(planar.material.get(), "diffuse", nullptr);
-    gizmo.setNode(planar.scene.node);
-    planar.scene.install(gizmo);
-    gizmo.activateRotateManipulator();
-    const osg::NodePtr copied = gizmo.getVisualisation()->getChild(0)->getChild(0);
-    const osg::NodePtr handles = gizmo.getVisualisation()->getChild(1)->getChild(0);
-    EXPECT_EQ(copied->getCore(), handles->getCore());
-    for (osg::UInt32 i = 0; i < copied->getNChildren(); ++i) {
-        EXPECT_EQ(copied->getChild(i)->getActive(), handles->getChild(i)->getActive()) << i;
-    }
-    EXPECT_TRUE(planar.scene.send("hover", planar.drag.rayPixelOf(Pnt3f(0.67F, 0, 0))));
-    EXPECT_EQ(gizmo.getActiveMode(), Planar::ActiveMode::Rotate);
-    planar.scene.manager.removeContext(&planar.scene.context);
-    planar.scene.install(planar.gizmo);
-}
-
 }  // namespace nbec::manipulator::test

@@ -130,32 +130,3 @@ TEST(FieldContainer, OfADeepTreeAllIsGoneWhenTheRootIs)
 
     EXPECT_EQ(ContainerCensus::take().differenceTo(before), "");
 }
-
-// == Attachments
-
-TEST(AttachmentContainer, SharedAttachmentKnowsItsContainersAndLeavesWithTheLast)
-{
-    const ContainerCensus before = ContainerCensus::take();
-    {
-        const NamePtr name = Name::create();
-        name->setField("shared");
-        NodeRefPtr first = hold(Node::create());
-        const NodeRefPtr second = hold(Node::create());
-        first->addAttachment(name);
-        first->addAttachment(name);
-        second->addAttachment(name);
-        first->addAttachment(name, 3);
-        EXPECT_EQ(name.getRefCount(), 3);
-        EXPECT_EQ(name->getParents().getSize(), 3u);
-
-        first = NullFC;
-
-        EXPECT_EQ(name.getRefCount(), 1);
-        ASSERT_EQ(name->getParents().getSize(), 1u);
-        EXPECT_EQ(name->getParents()[0], second);
-        EXPECT_STREQ(getName(second), "shared");
-        second->addAttachment(Name::create());
-        EXPECT_STREQ(getName(second), "");
-    }
-    EXPECT_EQ(ContainerCensus::take().differenceTo(before), "");
-}

@@ -142,16 +142,6 @@ TEST_F(TransformTools, EscAndTheRightButtonTakeADragBack)
     letGo();
 }
 
-TEST_F(TransformTools, AnInterruptedDragKeepsWhatItDidAsAStep)
-{
-    const osg::Vec3f before = translationOf("Knot");
-    drag("yaShape", 0.0, -10.0);
-    stage().showGizmo(Gizmo::Rotate);
-    EXPECT_GT(translationOf("Knot")[1], before[1] + 0.1F);
-    EXPECT_TRUE(action("undo")->isEnabled());
-    letGo();
-}
-
 TEST_F(TransformTools, ValuesAreShownOverTheViewAndInTheStatusLine)
 {
     action("gizmoTranslate")->trigger();

@@ -89,18 +89,6 @@ TEST_F(nbUndoServiceTest, NothingRecordedAndNothingChangedLeaveNoStep)
 
 // == Groups
 
-TEST_F(nbUndoServiceTest, CancellingTakesBackWithoutRedo)
-{
-    undo->beginGroup();
-    moveTo(1.f);
-    moveTo(2.f);
-    undo->cancelGroup();
-
-    EXPECT_EQ(0.f, place());
-    EXPECT_FALSE(undo->redo());
-    EXPECT_FALSE(undo->undo());
-}
-
 TEST_F(nbUndoServiceTest, UndoAndRedoAreRefusedWithinGroupsAndScopes)
 {
     moveTo(1.f);

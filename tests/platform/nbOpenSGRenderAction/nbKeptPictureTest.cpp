@@ -326,9 +326,8 @@ TEST_F(KeptPictureTest, PicturesAreTheSameAfterAnyOrderOfChanges)
     EXPECT_GT(used, static_cast<std::size_t>(kChanges / 3));
 }
 
-TEST_F(KeptPictureTest, EffectBufferSamplesAndOtherViewportsChangeNothing)
+TEST_F(KeptPictureTest, EffectBufferAndSamplesChangeNothing)
 {
-    const osg::RefPtr<osg::UberViewportPtr> main = viewport;
     settle();
     for (const bool isEffect : { true, false, true }) {
         forBoth([isEffect](nbRenderAction& action) { action.showEffectBuffer(isEffect); });
@@ -342,13 +341,6 @@ TEST_F(KeptPictureTest, EffectBufferSamplesAndOtherViewportsChangeNothing)
         setDiffuse(materialOf(show.handle), nextColor());
         compare("highlight with other samples");
         EXPECT_GE(reused(), 4U);
-    }
-    for (int i = 0; i < 3; ++i) {
-        viewport = osg::UberViewport::create();
-        compare("a viewport without a camera");
-        viewport = main;
-        setDiffuse(materialOf(show.handle), nextColor());
-        compare("back again");
     }
 }
 
