@@ -40,6 +40,7 @@ const HandleTable& handleTable()
 {
     static const HandleColors green = { Green, Orange, Green };
     static const HandleColors violet = { Violet, Orange, Violet };
+    static const HandleAction upwards = { DragParameters::Kind::Offset, axisBit(1) };
     static const HandleTable table = {
         { { "liftShape",
             LiftArrow,
@@ -47,7 +48,12 @@ const HandleTable& handleTable()
             { { HandleShape::SolidArrowShaft, green }, { HandleShape::SolidArrowHead, green } },
             kAllModes,
             HandleHolder::Component,
-            { 0.0F, 1.0F, 0.0F } },
+            { 0.0F, 1.0F, 0.0F },
+            Turn::None,
+            0,
+            HandleLeaves::Nothing,
+            false,
+            upwards },
           { "putDownShape",
             PutDownRing,
             0,
@@ -55,7 +61,11 @@ const HandleTable& handleTable()
             kAllModes,
             HandleHolder::Component,
             {},
-            Turn::OntoZ } }
+            Turn::OntoZ,
+            0,
+            HandleLeaves::Nothing,
+            false,
+            upwards } }
     };
     return table;
 }

@@ -185,9 +185,12 @@ void ManipulatorInteractionContext::handOverCollider()
 void ManipulatorInteractionContext::connectDragKeys(InteractionManager& manager)
 {
     const auto current = [&manager]() -> AbstractManipulator* {
-        const auto* const context =
-            dynamic_cast<ManipulatorInteractionContext*>(manager.getDragContext());
-        return context != nullptr ? dragged(*context) : nullptr;
+        for (const ManipulatorInteractionContext* const context : liveContexts()) {
+            if (context == manager.getDragContext()) {
+                return dragged(*context);
+            }
+        }
+        return nullptr;
     };
     interaction::DragKeys keys;
     keys.typed = [current](QChar key) {
