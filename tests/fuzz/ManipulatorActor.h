@@ -69,19 +69,37 @@ public:
             return gizmo->isActive() ? "an active manipulator does not hang under its root"
                                      : "an inactive manipulator hangs in the scene";
         }
-        return gizmo->fault;
+        return gizmo->heard->fault.empty() ? gizmo->fault : gizmo->heard->fault;
     }
 
     bool isActive() const override { return gizmo != nullptr && gizmo->isActive(); }
 
 private:
+    /// What a listener hears of drags, each of which begins and ends once.
+    struct Heard
+    {
+        void hear(DragEvent::Phase phase)
+        {
+            if ((phase == DragEvent::Phase::Begin) == isDragged) {
+                fault = isDragged ? "a drag begins in another one" : "a drag that has not begun";
+            }
+            isDragged = phase == DragEvent::Phase::Begin || phase == DragEvent::Phase::Change;
+        }
+
+        bool isDragged = false;
+        std::string fault;
+    };
+
     /// Watches how a manipulator is called.
     class Watched : public Gizmo
     {
     public:
         explicit Watched(const nbMaterialPreview& watchedPreview)
             : preview(watchedPreview)
-        { }
+        {
+            Gizmo::addDragListener(
+                [kept = heard](const DragEvent& event) { kept->hear(event.phase); });
+        }
 
         bool startManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override
         {
@@ -109,6 +127,7 @@ private:
 
         bool isHeld = false;
         std::string fault;
+        const std::shared_ptr<Heard> heard = std::make_shared<Heard>();
 
     private:
         const nbMaterialPreview& preview;
@@ -181,9 +200,41 @@ private:
                 self.gizmo->setMousePosition(osg::Pnt2f(b.number2()));
             },
             [](auto& self, auto*, auto&, auto&) { self.copy(); },
-            [](auto& self, auto*, auto&, auto& b) { self.gizmo->update(b.flag()); }
+            [](auto& self, auto*, auto&, auto& b) { self.gizmo->update(b.flag()); },
+            [](auto& self, auto*, auto&, auto& b) { self.goBeyond(b); }
         };
         kCalls[bytes.next() % std::size(kCalls)](*this, ctx, hint, bytes);
+    }
+
+    /// What a manipulator offers of a drag beside its events.
+    void goBeyond(Bytes& bytes)
+    {
+        switch (bytes.next() % 6) {
+        case 0:
+            gizmo->cancelDrag();
+            break;
+        case 1:
+            gizmo->setFineMotion(bytes.flag());
+            break;
+        case 2:
+            gizmo->setDragLimits(bytes.next() % 20, { bytes.plain(), bytes.plain() });
+            break;
+        case 3:
+            setSizePolicy({ bytes.number(), bytes.number() });
+            gizmo->update(false);
+            setSizePolicy({});
+            break;
+        case 4:
+            gizmo->setReadoutShown(bytes.flag(), 1.0F);
+            break;
+        default:
+            for (const char key : bytes.text()) {
+                gizmo->typeKey(QLatin1Char(
+                    bytes.flag()
+                        ? "0123456789.,+-*/()%xyz\t\b\r\x1b"[static_cast<unsigned char>(key) % 26]
+                        : key));
+            }
+        }
     }
 
     /// A copy shares handles and root, so it lives only while neither is active.
