@@ -86,6 +86,17 @@ void oneNode(benchmark::State& state, const Drag& drag, bool withText)
     runSteps(state, stage, drag);
 }
 
+/// With text, readout and a listener.
+void oneNodeWatched(benchmark::State& state, const Drag& drag)
+{
+    Stage stage(0);
+    std::size_t heard = 0;
+    stage.gizmo.setReadoutShown(true);
+    stage.gizmo.addDragListener([&heard](const DragEvent&) { ++heard; });
+    runSteps(state, stage, drag);
+    state.counters["heard"] = static_cast<double>(heard);
+}
+
 void manyNodes(benchmark::State& state, const Drag& drag)
 {
     Stage stage(state.range(0));
@@ -151,6 +162,8 @@ BENCHMARK_CAPTURE(oneNode, rotate, kRotate, false)->Name("drag/one node, rotate"
 BENCHMARK_CAPTURE(oneNode, rotateText, kRotate, true)->Name("drag/one node, rotate, with text");
 BENCHMARK_CAPTURE(oneNode, scale, kScale, false)->Name("drag/one node, scale");
 BENCHMARK_CAPTURE(oneNode, scaleText, kScale, true)->Name("drag/one node, scale, with text");
+BENCHMARK_CAPTURE(oneNodeWatched, translate, kTranslate)
+    ->Name("drag/one node, translate, with text, readout and listener");
 BENCHMARK_CAPTURE(manyNodes, translate, kTranslate)->Name("drag/many, translate")->Arg(kManyNodes);
 BENCHMARK_CAPTURE(plainLoop, translate, &osg::Transform3D::setTranslation,
                   osg::Transform3D::TranslationFieldMask)
