@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Entry of libFuzzer for session and scene files.
+// Entry of libFuzzer for what comes from outside into the viewer; NB_FUZZ_TARGET says which.
 #include "tests/fuzz/FilePlay.h"
 
 #include <OpenSG/OSGBaseFunctions.h>
@@ -31,7 +31,11 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    const std::string fault = viewer::test::playFile(data, size);
+    using namespace viewer::test;
+    const std::string target = NB_FUZZ_TARGET;
+    const std::string fault = target == "commands" ? playCommands(data, size)
+        : target == "models"                       ? playModel(data, size)
+                                                   : playFile(data, size);
     if (!fault.empty()) {
         std::fprintf(stderr, "%s\n", fault.c_str());
         std::abort();

@@ -14,4 +14,11 @@ namespace viewer::test {
 /// @return the first of these that did not hold; empty if all did
 std::string playFile(const std::uint8_t* data, std::size_t size);
 
+/// Plays bytes as lines of commands on the start scene. Each is done or refused in one line, and
+/// what they leave can be opened when it can be saved.
+std::string playCommands(const std::uint8_t* data, std::size_t size);
+
+/// Plays bytes as records of a model, and as a picture: nothing but a sound one is taken.
+std::string playModel(const std::uint8_t* data, std::size_t size);
+
 }  // namespace viewer::test

@@ -1,6 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "tests/fuzz/FilePlay.h"
 
+#include "viewer/loading/ModelRecords.h"
+#include "viewer/loading/Shapes.h"
+#include "viewer/match/PerspectiveMatchTool.h"
+#include "viewer/plates/PlatesTool.h"
+#include "viewer/stage/Stage.h"
+#include "viewer/textures/TextureCommands.h"
+#include "viewer/textures/TextureTool.h"
+
 #include <OpenSG/OSGSimpleGeometry.h>
 
 #include <QByteArray>
@@ -35,6 +43,21 @@ std::vector<std::pair<std::string, QByteArray>> allTexts()
     return texts;
 }
 
+std::vector<QByteArray> commandNames()
+{
+    nbOSGWidget view;
+    Stage stage(view);
+    TextureTool textures(stage);
+    const TextureCommands textureCommands(stage, textures);
+    const PerspectiveMatchTool match(stage);
+    const PlatesTool plates(stage);
+    std::vector<QByteArray> names;
+    for (const QString& name : stage.commands().names()) {
+        names.push_back(name.toUtf8());
+    }
+    return names;
+}
+
 class FilePlay : public testing::Test
 {
 protected:
@@ -53,6 +76,61 @@ TEST_F(FilePlay, TheCorpusBreaksNothing)
     ASSERT_GT(allTexts().size(), 10U);
     for (const auto& [name, text] : allTexts()) {
         EXPECT_EQ(play(text), "") << name;
+    }
+}
+
+TEST_F(FilePlay, CommandsInAnyOrderLeaveASceneThatCanBeOpened)
+{
+    const std::vector<QByteArray> names = commandNames();
+    const char* const values[] = { "",
+                                   "true",
+                                   "false",
+                                   "1",
+                                   "-0.5",
+                                   "1e15",
+                                   "[1,2,3]",
+                                   "[1e15,-1,0]",
+                                   "\"0\"",
+                                   "[\"0/0\"]",
+                                   "1e300",
+                                   "null",
+                                   "{\"text\":\"a\"}",
+                                   "[9,9]",
+                                   "[\"1\"]" };
+    std::mt19937 random(7);
+    for (int run = 0; run < 20; ++run) {
+        QByteArray lines;
+        for (int i = 0; i < 40; ++i) {
+            lines += names[random() % names.size()] + ' ' + values[random() % std::size(values)];
+            lines += random() % 4 == 0 ? "\nundo\n" : "\n";
+        }
+        ASSERT_EQ(playCommands(reinterpret_cast<const std::uint8_t*>(lines.constData()),
+                               static_cast<std::size_t>(lines.size())),
+                  "")
+            << lines.toStdString();
+    }
+}
+
+TEST(ModelPlay, DamagedRecordsAndPicturesBreakNothing)
+{
+    QByteArray sound = progressRecord(0.5);
+    ModelData model;
+    model.materials.resize(1);
+    model.meshes.push_back(makeBall(1.0F));
+    model.root.meshes = { 0 };
+    model.root.children.resize(2);
+    writeModel(model, [&sound](const QByteArray& record) { sound += record; });
+    std::mt19937 random(9);
+    for (int i = 0; i < 2000; ++i) {
+        QByteArray damaged = sound;
+        for (unsigned n = random() % 4; n > 0; --n) {
+            const int most = n == 1 ? 400 : damaged.size();
+            damaged[static_cast<int>(random() % static_cast<unsigned>(most))] =
+                static_cast<char>(random());
+        }
+        ASSERT_EQ(playModel(reinterpret_cast<const std::uint8_t*>(damaged.constData()),
+                            static_cast<std::size_t>(damaged.size())),
+                  "");
     }
 }
 

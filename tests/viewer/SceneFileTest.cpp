@@ -6,6 +6,7 @@
 #include "viewer/loading/BuiltModel.h"
 #include "viewer/loading/PictureFile.h"
 #include "viewer/scenes/SceneDocument.h"
+#include "viewer/textures/SurfaceMaterial.h"
 
 #include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbScopedUndo.h>
@@ -183,6 +184,30 @@ QByteArray richScene()
           {"kind": "frame", "number": 0}],
  "plates": [{"name": "Bar", "anchor": "top", "position": [0,0], "size": [1,0.1], "order": 3}],
  "match": {"lines": [[0,0,1,1],[0,0,1,1],[0,0,1,1],[0,0,1,1],[0,0,1,1],[0,0,1,1]]}})";
+}
+
+TEST_F(SceneFile, ModelsOfOneFileShareWhatIsNotEdited)
+{
+    write(fileIn("many.nbscene"), R"({"scene": 1,
+ "camera": {"from": [1,2,3], "at": [0,0,0], "up": [0,1,0], "pivot": [0,0,0], "fov": 40},
+ "models": [{"builtIn": "start scene"}, {"builtIn": "start scene",
+   "nodes": [{"path": "4", "name": "Knot", "newName": "Other", "transform": {"scale": [2,2,2]}}],
+   "surfaces": [{"object": "5", "name": "Vase", "ambient": [0,0,0], "diffuse": [1,0,0],
+     "specular": [0,0,0], "emission": [0,0,0], "shininess": 9}]}]})");
+    ASSERT_TRUE(openScene(stage, fileIn("many.nbscene"), error)) << error.toStdString();
+    const osg::NodePtr root = nbScenegraph::getRootNode();
+    ASSERT_EQ(root->getNChildren(), 2U);
+    const auto surfaceAt = [&root](osg::UInt32 model, const char* name) {
+        return ownSurfaces(findObject(root->getChild(model), name)).at(0)->getCore();
+    };
+
+    EXPECT_EQ(surfaceAt(0, "Knot"), surfaceAt(1, "Other"));
+    EXPECT_NE(surfaceAt(0, "Vase"), surfaceAt(1, "Vase")) << "has a material of its own";
+    EXPECT_EQ(findObject(root->getChild(1), "Knot"), osg::NullFC);
+    const QByteArray saved = text();
+    write(fileIn("again.nbscene"), saved);
+    ASSERT_TRUE(openScene(stage, fileIn("again.nbscene"), error)) << error.toStdString();
+    EXPECT_EQ(text(), saved);
 }
 
 TEST_F(SceneFile, ARefusedFileNamesThePlaceAndLeavesTheSceneAsItIs)

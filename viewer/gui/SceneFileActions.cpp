@@ -39,10 +39,11 @@ QStringList modelFilesOf(const SceneDocument& document)
             files.append(model.file);
         }
     }
+    files.removeDuplicates();
     return files;
 }
 
-/// Hands out models that were read before, in the order of the document.
+/// Hands out models that were read before, in the order of the document, each file once.
 SceneAssets assetsOf(std::vector<BuiltModel> models)
 {
     SceneAssets assets = SceneAssets::fromDisk();

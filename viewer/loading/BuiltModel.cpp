@@ -6,6 +6,7 @@
 #include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
+#include <OpenSG/OSGContainerCloner.h>
 #include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGNodePtr.h>
 #include <OpenSG/OSGSimpleMaterial.h>
@@ -144,6 +145,22 @@ private:
     std::vector<osg::RefPtr<osg::GeometryPtr>> geometries;
 };
 
+/// A copy of a tree that was built: geometries are shared, names kept.
+osg::NodePtr copyTree(const osg::NodePtr& source)
+{
+    osg::NodeCorePtr core = source->getCore();
+    if (osg::GeometryPtr::dcast(core) == osg::NullFC) {
+        core = osg::NodeCorePtr::dcast(osg::deepClone(core));
+    }
+    const osg::NodePtr copy = osg::makeNodeFor(core);
+    nbNodeUtils::setName(copy, nbNodeUtils::getName(source));
+    const nbEdit edit(copy, osg::Node::ChildrenFieldMask);
+    for (osg::UInt32 i = 0; i < source->getNChildren(); ++i) {
+        copy->addChild(copyTree(source->getChild(i)));
+    }
+    return copy;
+}
+
 void collectSurfaces(const osg::NodePtr& node, std::vector<osg::NodePtr>& objects)
 {
     if (node == osg::NullFC || nbNodeUtils::isAuxiliaryNode(node)) {
@@ -171,6 +188,13 @@ BuiltModel buildModel(const ModelData& model)
 {
     return { osg::RefPtr<osg::NodePtr>(buildScene(model)), model.triangleCount(), model.warnings,
              model.file, model.builtIn };
+}
+
+BuiltModel anotherOf(const BuiltModel& model)
+{
+    BuiltModel another = model;
+    another.root = osg::RefPtr<osg::NodePtr>(copyTree(model.root.get()));
+    return another;
 }
 
 osg::NodePtr objectOf(const osg::NodePtr& node)

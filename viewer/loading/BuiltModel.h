@@ -29,6 +29,9 @@ struct BuiltModel
 
 /// Makes the nodes of a model, as buildScene(), and keeps what else is to be known of it.
 BuiltModel buildModel(const ModelData& model);
+/// The same model once more, of which nothing has been edited yet: nodes of its own, geometries
+/// shared.
+BuiltModel anotherOf(const BuiltModel& model);
 
 /// The object that a picked or selected node stands for: the nearest node with a Transform core
 /// from it upwards.

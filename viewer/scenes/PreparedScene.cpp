@@ -105,20 +105,30 @@ private:
 
     bool buildModels(const std::vector<SceneModel>& wanted)
     {
+        // All are there before the first is edited: those of one file share their geometries.
+        std::map<QString, BuiltModel> known;
         for (std::size_t i = 0; i < wanted.size(); ++i) {
-            const QString place = QStringLiteral("models[%1]").arg(i);
-            if (!buildModel(wanted[i], place)) {
+            if (!obtainModel(wanted[i], QStringLiteral("models[%1]").arg(i), known)) {
+                return false;
+            }
+        }
+        for (std::size_t i = 0; i < wanted.size(); ++i) {
+            if (!editModel(models[i].get(), wanted[i], QStringLiteral("models[%1]").arg(i))) {
                 return false;
             }
         }
         return true;
     }
 
-    bool buildModel(const SceneModel& wanted, const QString& place)
+    bool obtainModel(const SceneModel& wanted, const QString& place,
+                     std::map<QString, BuiltModel>& known)
     {
         std::optional<BuiltModel> model;
         QString reason;
-        if (!wanted.file.isEmpty()) {
+        const auto first = known.find(wanted.file + wanted.builtIn);
+        if (first != known.end()) {
+            model = anotherOf(first->second);
+        } else if (!wanted.file.isEmpty()) {
             model = assets.model(wanted.file, reason);
         } else if (wanted.builtIn == QLatin1String(kStartSceneName)) {
             model = viewer::buildModel(makeStartScene());
@@ -128,9 +138,14 @@ private:
         if (!model) {
             return fail(place, reason);
         }
-        const osg::NodePtr root = model->root.get();
-        models.emplace_back(root);
+        models.push_back(model->root);
         scene.sources.add(*model);
+        known.emplace(wanted.file + wanted.builtIn, std::move(*model));
+        return true;
+    }
+
+    bool editModel(const osg::NodePtr& root, const SceneModel& wanted, const QString& place)
+    {
         for (std::size_t i = 0; i < wanted.nodes.size(); ++i) {
             if (!editObject(root, wanted.nodes[i], place + QStringLiteral(".nodes[%1]").arg(i))) {
                 return false;

@@ -18,8 +18,8 @@ namespace viewer {
 
 class Stage;
 
-/// Where the files that a scene refers to are read; each answers nothing with one line in its
-/// error.
+/// Where the files that a scene refers to are read, each model once; each answers nothing with one
+/// line in its error.
 struct SceneAssets
 {
     std::function<std::optional<BuiltModel>(const QString& file, QString& error)> model;

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#include "tests/fuzz/FilePlay.h"
+#include "viewer/loading/BuiltModel.h"
+#include "viewer/loading/ModelRecords.h"
+#include "viewer/loading/PictureDecoding.h"
+#include "viewer/match/PerspectiveMatchTool.h"
+#include "viewer/plates/PlatesTool.h"
+#include "viewer/scenes/SceneCapture.h"
+#include "viewer/stage/Stage.h"
+#include "viewer/textures/TextureCommands.h"
+#include "viewer/textures/TextureTool.h"
+
+#include <nbKernel/nbScenegraph.h>
+#include <nbKernelServices/nbUndoService.h>
+
+#include <QBuffer>
+#include <QJsonArray>
+#include <QJsonDocument>
+
+namespace viewer::test {
+namespace {
+
+/// A line is "undo", "redo", or a command and its value in JSON.
+std::string playLine(Stage& stage, const QByteArray& line)
+{
+    if (line == "undo") {
+        stage.undo();
+    } else if (line == "redo") {
+        stage.redo();
+    } else {
+        const int space = line.indexOf(' ');
+        const QString name = QString::fromUtf8(space < 0 ? line : line.left(space));
+        const QByteArray value = space < 0 ? QByteArray() : line.mid(space + 1);
+        QString error;
+        const bool isDone = stage.commands().run(
+            name, QJsonDocument::fromJson('[' + value + ']').array().at(0), error);
+        if (isDone != error.isEmpty() || error.contains(QLatin1Char('\n'))) {
+            return name.toStdString() + " is neither done nor refused in one line";
+        }
+    }
+    stage.update();
+    return {};
+}
+
+}  // namespace
+
+std::string playCommands(const std::uint8_t* data, std::size_t size)
+{
+    constexpr int kMostLines = 60;
+    nbOSGWidget view;
+    Stage stage(view);
+    TextureTool textures(stage);
+    const TextureCommands textureCommands(stage, textures);
+    const PerspectiveMatchTool match(stage);
+    const PlatesTool plates(stage);
+    stage.resize(640, 480, 1.0F);
+    stage.showStartScene();
+    const QByteArray text(reinterpret_cast<const char*>(data), static_cast<int>(size));
+    for (const QByteArray& line : text.split('\n').mid(0, kMostLines)) {
+        const std::string fault = playLine(stage, line);
+        if (!fault.empty()) {
+            return fault;
+        }
+    }
+    const QDir folder(QStringLiteral("/scenes"));
+    QString error;
+    const std::optional<SceneDocument> captured = captureScene(stage, error);
+    if (!captured) {
+        return error.contains(QLatin1Char('\n')) ? "saving is refused in many lines" : "";
+    }
+    return parseScene(sceneText(*captured, folder), folder, error)
+        ? std::string()
+        : "a scene that commands made cannot be opened: " + error.toStdString();
+}
+
+std::string playModel(const std::uint8_t* data, std::size_t size)
+{
+    ModelAssembly assembly;
+    const QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<int>(size));
+    if (assembly.take(bytes) && assembly.isComplete() && assembly.failure().isEmpty()) {
+        const BuiltModel built = buildModel(assembly.takeModel());
+        if (built.root == osg::NullFC) {
+            return "a model that was taken has no nodes";
+        }
+    }
+    QBuffer buffer;
+    buffer.setData(bytes);
+    buffer.open(QIODevice::ReadOnly);
+    QString error;
+    const QImage picture = decodePicture(buffer, QStringLiteral("picture"), error);
+    return picture.isNull() == error.startsWith(QLatin1String("picture: "))
+        ? std::string()
+        : "a picture is refused without its name";
+}
+
+}  // namespace viewer::test
