@@ -207,7 +207,7 @@ void Gizmo::restore()
 bool Gizmo::ensureBegun()
 {
     const View view;
-    return prepared || (grabbed && armed != 0 && canStep(view) && begin(view));
+    return isHeld() && armed != 0 && canStep(view) && (prepared || begin(view));
 }
 
 void Gizmo::restoreNow()
@@ -230,7 +230,7 @@ bool Gizmo::changeAxis(std::size_t axis)
     }
     for (const HandleRow& row : handles.getTable().rows) {
         if (row.handle != 0 && row.action.kind == held->action.kind && row.family == held->family &&
-            row.action.axes == axisBit(axis)) {
+            row.action.axes == axisBit(axis) && isInModes(mode, row.visibleIn)) {
             cancelNow();
             armed = row.handle;
             handles.light(rules.isGrabbedLit ? armed : 0, mode);
