@@ -5,6 +5,7 @@
 #include "viewer/commands/JsonWriter.h"
 #include "viewer/loading/BuiltModel.h"
 #include "viewer/loading/PictureFile.h"
+#include "viewer/scenes/Recovery.h"
 #include "viewer/scenes/SceneDocument.h"
 #include "viewer/textures/SurfaceMaterial.h"
 
@@ -21,6 +22,8 @@
 #include <random>
 
 #include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace viewer {
 namespace {
@@ -346,6 +349,37 @@ TEST_F(SceneFile, AFullDiskLeavesTheOldFileAndNoOther)
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList({ "scene.nbscene" }));
     EXPECT_TRUE(saveScene(stage, path, error)) << "there is room again";
     EXPECT_NE(read(path), before);
+}
+
+TEST_F(SceneFile, WhatAKilledProgramKeptIsTakenUpOnceAndThatOfARunningOneNever)
+{
+    const QDir kept(fileIn("kept"));
+    const std::optional<SceneDocument> document = captureScene(stage, error);
+    ASSERT_TRUE(document);
+    int ready[2];
+    ASSERT_EQ(pipe(ready), 0);
+    const pid_t other = fork();
+    if (other == 0) {
+        Recovery recovery(kept);
+        recovery.keep(*document);
+        char answer = recovery.wait() ? 'y' : 'n';
+        answer = ::write(ready[1], &answer, 1) == 1 ? answer : 'n';
+        pause();
+        _exit(0);
+    }
+    char answer = 'n';
+    ASSERT_EQ(::read(ready[0], &answer, 1), 1);
+    ASSERT_EQ(answer, 'y');
+    {
+        Recovery recovery(kept);
+        EXPECT_FALSE(recovery.takeUp()) << "it still runs";
+        kill(other, SIGKILL);
+        waitpid(other, nullptr, 0);
+        ASSERT_TRUE(recovery.takeUp());
+        EXPECT_TRUE(openScene(stage, recovery.file(), error)) << error.toStdString();
+        EXPECT_FALSE(recovery.takeUp()) << "once";
+    }
+    EXPECT_EQ(kept.entryList(QDir::Files), QStringList()) << "this one ended regularly";
 }
 
 TEST_F(SceneFile, AFolderThatCannotBeWrittenGivesOneLine)

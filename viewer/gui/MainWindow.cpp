@@ -26,6 +26,7 @@
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QScreen>
+#include <QSettings>
 #include <QStatusBar>
 #include <QToolBar>
 
@@ -77,6 +78,7 @@ MainWindow::MainWindow(Attendance attendance)
     if (mode == Attendance::Attended) {
         connect(this, &MainWindow::problem, messageBar, &MessageBar::showMessage);
         sceneFiles->setQuestion(sceneFiles->dialog());
+        sceneFiles->keepEdits(QFileInfo(QSettings().fileName()).dir());
         connect(sessionPlayer, &SessionPlayer::captionChanged, new CaptionBar(viewWidget),
                 &CaptionBar::showCaption);
         if (!memory::restoreLayout(*this)) {

@@ -4,13 +4,19 @@
 #include "viewer/commands/JsonReader.h"
 #include "viewer/gui/ModelLoader.h"
 #include "viewer/scenes/PreparedScene.h"
+#include "viewer/scenes/Recovery.h"
 #include "viewer/scenes/SceneCapture.h"
 #include "viewer/stage/Stage.h"
 
 #include <nbKernelServices/nbUndoService.h>
 
+#include <OpenSG/OSGChangeCount.h>
+
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLocale>
+#include <QSettings>
+#include <QTimer>
 #include <QUndoStack>
 
 #include <array>
@@ -25,6 +31,8 @@ const char* const kSceneFilter =
 /// Commands whose edits are kept in the file but are no steps of undo.
 constexpr std::array<const char*, 4> kUnrecorded { "match.setPhotograph", "match.setVeil",
                                                    "match.showLines", "match.setLocked" };
+
+constexpr int kMsOfASecond = 1000;
 
 QUndoStack& steps()
 {
@@ -199,6 +207,62 @@ bool SceneFileActions::saveTo(const QString& path, QString& error)
     return true;
 }
 
+// == What is not lost when the program is killed
+
+void SceneFileActions::keepEdits(const QDir& folder)
+{
+    constexpr int kUsualSeconds = 120;
+    recovery = std::make_unique<Recovery>(folder);
+    auto* timer = new QTimer(this);
+    connect(timer, &QTimer::timeout, this, &SceneFileActions::keepNow);
+    timer->start(kMsOfASecond *
+                 qMax(1, QSettings().value(QStringLiteral("keepSeconds"), kUsualSeconds).toInt()));
+    connect(this, &SceneFileActions::modifiedChanged, this, [this](bool modified) {
+        if (!modified) {
+            recovery->forget();
+        }
+    });
+}
+
+void SceneFileActions::keepNow()
+{
+    if (!recovery || !isModified() || keptEdits == osg::getEditCount()) {
+        return;
+    }
+    if (stage.isDragging()) {
+        QTimer::singleShot(kMsOfASecond, this, &SceneFileActions::keepNow);
+        return;
+    }
+    keptEdits = osg::getEditCount();
+    QString error;
+    if (const std::optional<SceneDocument> edited = captureScene(stage, error)) {
+        recovery->keep(*edited);
+    }
+}
+
+void SceneFileActions::offerKept()
+{
+    const std::optional<QDateTime> time = recovery ? recovery->takeUp() : std::nullopt;
+    if (!time) {
+        return;
+    }
+    const QString when = QLocale().toString(*time, QLocale::ShortFormat);
+    const auto answer = QMessageBox::question(
+        &window, tr("Recover"),
+        tr("The program ended unexpectedly. Edits up to %1 have been kept. Recover them?")
+            .arg(when));
+    QString error;
+    if (answer != QMessageBox::Yes) {
+        recovery->forget();
+        return;
+    }
+    // Before it is opened: what counts as saved is no longer kept.
+    touch();
+    if (!openScene(stage, recovery->file(), error)) {
+        emit problem(error);
+    }
+}
+
 // == What has not been saved
 
 bool SceneFileActions::isModified() const
@@ -208,6 +272,7 @@ bool SceneFileActions::isModified() const
 
 bool SceneFileActions::mayReplace()
 {
+    keepNow();
     if (!isModified() || !question) {
         return true;
     }

@@ -7,11 +7,13 @@
 #include <QObject>
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 namespace viewer {
 
 class ModelLoader;
+class Recovery;
 class Stage;
 
 /// Opening and saving of scene files in the window, and what has not been saved.
@@ -85,6 +87,14 @@ public:
     /// Asks in a dialog of the window.
     Question dialog();
 
+    // == What is not lost when the program is killed
+
+    /// Keeps edits in a file in that folder, every two minutes (the setting "keepSeconds") and
+    /// before the scene is replaced.
+    void keepEdits(const QDir& folder);
+    /// Asks whether what a killed program kept is to be opened, and opens it.
+    void offerKept();
+
     /// Absolute path of the scene's file; "" for none.
     const QString& file() const { return sceneFile; }
 
@@ -98,6 +108,7 @@ signals:
 
 private:
     void addCommands();
+    void keepNow();
     void adopt(const QString& path, bool isByPerson);
 
     QWidget& window;
@@ -110,6 +121,8 @@ private:
     std::optional<SceneDocument> document;  ///< that is being opened
     QString documentFile;
     bool isDocumentChosen = false;
+    std::unique_ptr<Recovery> recovery;  ///< null: nothing is kept
+    osg::UInt64 keptEdits = 0;
 };
 
 }  // namespace viewer

@@ -2,6 +2,7 @@
 #include "viewer/gui/StartUp.h"
 
 #include "viewer/gui/MainWindow.h"
+#include "viewer/gui/SceneFileActions.h"
 #include "viewer/gui/SessionPlayer.h"
 #include "viewer/gui/SessionTour.h"
 #include "viewer/gui/ViewWidget.h"
@@ -139,6 +140,7 @@ void StartUp::conclude()
         QCoreApplication::exit(0);
     } else {
         disconnect(&window, &MainWindow::problem, this, nullptr);
+        window.scenes().offerKept();
     }
 }
 

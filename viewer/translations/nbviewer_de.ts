@@ -1345,6 +1345,14 @@
         <source>Edits that are not saved will be lost.</source>
         <translation>Nicht gespeicherte Änderungen gehen verloren.</translation>
     </message>
+    <message>
+        <source>Recover</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>The program ended unexpectedly. Edits up to %1 have been kept. Recover them?</source>
+        <translation>Das Programm wurde unerwartet beendet. Änderungen bis %1 sind erhalten. Sollen sie wiederhergestellt werden?</translation>
+    </message>
 </context>
 <context>
     <name>viewer::ScenePanel</name>

@@ -1345,6 +1345,14 @@
         <source>Edits that are not saved will be lost.</source>
         <translation>Les modifications non enregistrées seront perdues.</translation>
     </message>
+    <message>
+        <source>Recover</source>
+        <translation>Récupérer</translation>
+    </message>
+    <message>
+        <source>The program ended unexpectedly. Edits up to %1 have been kept. Recover them?</source>
+        <translation>Le programme s’est terminé de façon inattendue. Les modifications jusqu’à %1 ont été gardées. Faut-il les récupérer ?</translation>
+    </message>
 </context>
 <context>
     <name>viewer::ScenePanel</name>

@@ -1343,6 +1343,14 @@
         <source>Edits that are not saved will be lost.</source>
         <translation>未保存的编辑将会丢失。</translation>
     </message>
+    <message>
+        <source>Recover</source>
+        <translation>恢复</translation>
+    </message>
+    <message>
+        <source>The program ended unexpectedly. Edits up to %1 have been kept. Recover them?</source>
+        <translation>程序意外结束。截至 %1 的编辑已保留。要恢复吗？</translation>
+    </message>
 </context>
 <context>
     <name>viewer::ScenePanel</name>
