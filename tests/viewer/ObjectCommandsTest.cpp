@@ -6,6 +6,7 @@
 #include "viewer/loading/StartScene.h"
 
 #include <nbKernel/nbScenegraph.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
 
 namespace viewer {
 namespace {
@@ -67,6 +68,40 @@ TEST_F(ObjectCommands, ASwitchActsOnAllSelectedObjectsAndIsTakenBack)
     for (const osg::NodePtr& object : objects) {
         EXPECT_TRUE(object->getActive());
     }
+}
+
+TEST_F(ObjectCommands, ObjectsAreDuplicatedRenamedAndDeletedInOneStepEach)
+{
+    const auto find = [](const char* name) {
+        return findObject(nbScenegraph::getRootNode(), name);
+    };
+    ASSERT_TRUE(stage.selectByName("Vase"));
+    ASSERT_EQ(refusal("scene.duplicate", {}), "");
+    EXPECT_EQ(stage.selectedName(), "Vase 2");
+    EXPECT_EQ(refusal("object.translation", QJsonArray { 1, 2, 3 }), "");
+    EXPECT_NE(nbNodeUtils::getTransformNodeTranslation(find("Vase"))[0], 1.0F)
+        << "a copy has nothing in common with its original";
+    ASSERT_EQ(refusal("object.name", "  Urn "), "");
+    EXPECT_EQ(stage.selectedName(), "Urn");
+    EXPECT_NE(refusal("object.name", " "), "");
+    EXPECT_EQ(steps(), 3);
+    ASSERT_EQ(refusal("scene.delete", {}), "");
+    EXPECT_EQ(find("Urn"), osg::NodePtr());
+    EXPECT_EQ(stage.selectedObject(), osg::NodePtr());
+
+    EXPECT_TRUE(stage.undo());
+    EXPECT_NE(find("Urn"), osg::NodePtr());
+    EXPECT_TRUE(stage.undo());
+    EXPECT_NE(find("Vase 2"), osg::NodePtr());
+    EXPECT_TRUE(stage.undo() && stage.undo());
+    EXPECT_EQ(find("Vase 2"), osg::NodePtr());
+    ASSERT_TRUE(stage.selectByName("Vase"));
+    EXPECT_EQ(refusal("object.locked", true), "");
+    EXPECT_EQ(refusal("scene.delete", {}), "\"Vase\" is locked");
+    ASSERT_EQ(refusal("scene.addClipPlane", {}), "");
+    EXPECT_NE(refusal("scene.duplicate", {}), "");
+    EXPECT_EQ(refusal("scene.delete", {}), "") << "a clip plane goes as its own command takes it";
+    EXPECT_EQ(find("Clip plane"), osg::NodePtr());
 }
 
 TEST_F(ObjectCommands, RefusalsSayWhyAndChangeNothing)

@@ -10,10 +10,31 @@
 
 #include <OpenSG/OSGTransform.h>
 
+#include <set>
+#include <string>
+
 namespace viewer {
 namespace {
 
 using StageWithStartScene = StageTest;
+
+TEST_F(StageWithStartScene, ADragFromEmptySpaceSelectsWhatLiesInTheRectangle)
+{
+    const osg::Pnt2f corner(3.0F, 3.0F);
+    view.setPressPosition(corner);
+    send(names::kStart, corner);
+    send(names::kProcess, osg::Pnt2f(1197.0F, 797.0F));
+    EXPECT_TRUE(view.getRectSelection());
+    send(names::kStop, osg::Pnt2f(1197.0F, 797.0F));
+    EXPECT_FALSE(view.getRectSelection());
+    std::set<std::string> found;
+    for (const osg::NodePtr& object : stage.selectedObjects()) {
+        found.insert(nbNodeUtils::getName(object));
+    }
+    EXPECT_EQ(found.count("Vase") + found.count("Knot") + found.count("Pawn"), 3U);
+    EXPECT_EQ(found.count("Table"), 0U) << "it reaches out of the view";
+    view.clearPressPosition();
+}
 
 TEST_F(StageWithStartScene, CursorsPointAlongTheAxesOnTheScreen)
 {

@@ -14,7 +14,6 @@
 #include <QAccessible>
 #include <QAction>
 #include <QApplication>
-#include <QClipboard>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -22,7 +21,6 @@
 #include <QStatusBar>
 #include <QToolBar>
 #include <QToolButton>
-#include <QTreeWidget>
 
 #include <set>
 
@@ -180,31 +178,20 @@ TEST_F(WindowTest, FullScreenShowsTheViewAloneAndEscapeLeadsBack)
     EXPECT_FALSE(window.isWhole());
 }
 
-TEST_F(WindowTest, MessagesAreKeptWithTheirLevelAndCanBeChosenCopiedAndCleared)
+TEST_F(WindowTest, MessagesAreKeptWithTheirLevel)
 {
     LogPanel& log = window.panels().log();
-    auto* list = log.findChild<QTreeWidget*>(QStringLiteral("logList"));
-    auto* level = log.findChild<QComboBox*>(QStringLiteral("logLevel"));
-    log.findChild<QToolButton*>(QStringLiteral("log.clear"))->click();
-    EXPECT_EQ(log.text(), QString());
-
+    log.clear();
     nbLog::info("a note");
-    nbLog::error("a fault");
     emit window.problem(QStringLiteral("a problem"));
-    ASSERT_EQ(list->topLevelItemCount(), 3);
-    EXPECT_TRUE(log.text().contains("Note\ta note\n"));
-    EXPECT_TRUE(log.text().endsWith("Warning\ta problem"));
-
-    level->setCurrentIndex(level->findData(static_cast<int>(nbLog::Level::Error)));
-    EXPECT_FALSE(log.text().contains('\n'));
-    log.findChild<QToolButton*>(QStringLiteral("log.copy"))->click();
-    EXPECT_TRUE(QApplication::clipboard()->text().endsWith("Error\ta fault"));
+    EXPECT_TRUE(log.toPlainText().contains("Note\ta note\n"));
+    EXPECT_TRUE(log.toPlainText().endsWith("Warning\ta problem"));
 
     for (int i = 0; i < LogPanel::kMostEntries; ++i) {
         log.append(nbLog::Level::Error, QString::number(i));
     }
-    EXPECT_EQ(list->topLevelItemCount(), LogPanel::kMostEntries);
-    EXPECT_TRUE(log.text().endsWith(QString::number(LogPanel::kMostEntries - 1)));
+    EXPECT_EQ(log.blockCount(), LogPanel::kMostEntries);
+    EXPECT_TRUE(log.toPlainText().endsWith(QString::number(LogPanel::kMostEntries - 1)));
 }
 
 TEST_F(WindowTest, KeysGoFromPanelToPanelAndBackToTheView)

@@ -16,6 +16,7 @@
 #include "viewer/gui/WindowMemory.h"
 #include "viewer/loading/ModelReader.h"
 #include "viewer/loading/PictureFile.h"
+#include "viewer/stage/ObjectCommands.h"
 #include "viewer/stage/StageTool.h"
 
 #include <QCloseEvent>
@@ -23,7 +24,9 @@
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QImageReader>
+#include <QJsonArray>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
 #include <QSettings>
@@ -96,6 +99,7 @@ void MainWindow::connectParts()
     connect(viewWidget, &ViewWidget::stateChanged, this, &MainWindow::updateStatus);
     connect(&fieldRules, &FieldRules::refused, this, &MainWindow::problem);
     connect(viewWidget, &ViewWidget::drawingFailed, this, &MainWindow::problem);
+    connect(viewWidget, &ViewWidget::menuAsked, this, &MainWindow::showObjectMenu);
     connect(viewWidget, &ViewWidget::filesDropped, this, &MainWindow::handleDroppedFiles);
     connect(loader, &ModelLoader::finished, this, &MainWindow::showLoadedModels);
     connect(loader, &ModelLoader::failed, this, [this](const QString& reason) {
@@ -156,6 +160,7 @@ void MainWindow::addSurroundings()
         docks->arrange();
     }
     actions = new WindowActions(*this, viewWidget->stage());
+    docks->setObjectActions(actions->objectActions());
     addToolBars(*this);
     if (mode == Attendance::Attended) {
         actions->setRecentFiles(memory::recentFiles());
@@ -169,7 +174,7 @@ void MainWindow::addSurroundings()
 void MainWindow::renewSurroundings()
 {
     const QByteArray layout = memory::stateOf(*this);
-    const QVector<LogPanel::Entry> messages = docks->log().entries();
+    const QString messages = docks->log().toPlainText();
     delete docks;
     delete actions;
     for (QToolBar* bar : findChildren<QToolBar*>(QString(), Qt::FindDirectChildrenOnly)) {
@@ -178,9 +183,7 @@ void MainWindow::renewSurroundings()
     delete menuBar();
     delete statusBar();
     addSurroundings();
-    for (const LogPanel::Entry& message : messages) {
-        docks->log().append(message);
-    }
+    docks->log().setPlainText(messages);
     memory::restoreState(*this, layout);
     menuBar()->setVisible(!isWhole());
     statusBar()->setVisible(!isWhole());
@@ -373,6 +376,25 @@ void MainWindow::handleDroppedFiles(const QStringList& files, const osg::Pnt2f& 
 }
 
 // == View
+
+void MainWindow::showObjectMenu(const osg::Pnt2f& px, const QPoint& screenPlace)
+{
+    Stage& stage = viewWidget->stage();
+    const osg::NodePtr object = stage.objectAt(px);
+    const std::vector<osg::NodePtr> selected = stage.selectedObjects();
+    if (mode == Attendance::Unattended || isReplaying() || object == osg::NullFC ||
+        stage.activeTool() != nullptr) {
+        return;
+    }
+    QString error;
+    if (std::find(selected.begin(), selected.end(), object) == selected.end()) {
+        stage.commands().run(QStringLiteral("scene.select"), QJsonArray { pathOf(object) }, error);
+    }
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->addActions(actions->objectActions());
+    menu->popup(screenPlace);
+}
 
 void MainWindow::showEffectBuffer(bool on)
 {

@@ -135,6 +135,7 @@ private:
     void setShownTitle(const QString& name);
     void updateStatus();
     void showLoadedModels();
+    void showObjectMenu(const osg::Pnt2f& px, const QPoint& screenPlace);
     void sceneOpened(const QString& path, bool byCommand);
     void addRecentFiles(const QStringList& files);
     void stopLoading();

@@ -62,7 +62,8 @@ void PanelDocks::addSteps()
 
 void PanelDocks::addPanels()
 {
-    sceneDock = addPanel(new ScenePanel(stage), tr("Objects"), QStringLiteral("sceneDock"));
+    scenePanel = new ScenePanel(stage);
+    sceneDock = addPanel(scenePanel, tr("Objects"), QStringLiteral("sceneDock"));
     objectDock = addPanel(new ObjectPanel(stage), tr("Properties"), QStringLiteral("objectDock"));
     toolDocks[QStringLiteral("texture")] = addPanel(new MaterialPanel(stage, tools.texture),
                                                     tr("Material"), QStringLiteral("materialDock"));
@@ -129,6 +130,18 @@ QList<QAction*> PanelDocks::actions() const
         all.append(dock->toggleViewAction());
     }
     return all;
+}
+
+void PanelDocks::renameSelected()
+{
+    sceneDock->show();
+    sceneDock->raise();
+    scenePanel->renameSelected();
+}
+
+void PanelDocks::setObjectActions(const QList<QAction*>& objectActions)
+{
+    scenePanel->setObjectActions(objectActions);
 }
 
 void PanelDocks::showPanelOf(const QString& tool)

@@ -16,6 +16,7 @@ namespace viewer {
 
 class LogPanel;
 class Panel;
+class ScenePanel;
 class Stage;
 struct StageTools;
 
@@ -48,6 +49,12 @@ public:
     /// Gives the keys to the next panel that is seen, after the last one to the view.
     void focusNext(QWidget* view);
 
+    /// Lets a person type another name for the selected object, in the tree.
+    void renameSelected();
+
+    /// Puts actions into the menu of the tree.
+    void setObjectActions(const QList<QAction*>& objectActions);
+
     LogPanel& log() { return *logPanel; }
 
 signals:
@@ -70,6 +77,7 @@ private:
     QDockWidget* objectDock = nullptr;
     QDockWidget* logDock = nullptr;
     LogPanel* logPanel = nullptr;
+    ScenePanel* scenePanel = nullptr;
     QMap<QString, QDockWidget*> toolDocks;  ///< by the names of the tools
     QList<QDockWidget*> docks;
     QList<Panel*> panels;

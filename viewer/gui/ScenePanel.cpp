@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/gui/ScenePanel.h"
 
-#include "viewer/stage/ObjectCommands.h"
+#include "viewer/gui/ThemeIcon.h"
+#include "viewer/loading/BuiltModel.h"
 #include "viewer/stage/Stage.h"
 
 #include <nbKernel/nbScenegraph.h>
+#include <nbOpenSGUtils/nbNodePermission.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
+
+#include <OpenSG/OSGFieldContainerFactory.h>
 
 #include <QJsonArray>
 #include <QSignalBlocker>
@@ -17,6 +21,7 @@ namespace {
 
 constexpr int kPathRole = Qt::UserRole;
 constexpr int kIdRole = Qt::UserRole + 1;
+constexpr int kNameRole = Qt::UserRole + 2;
 constexpr unsigned kIdBits = 32;
 
 void collectShape(const osg::NodePtr& parent, quint64 depth, QList<quint64>& shape)
@@ -41,6 +46,10 @@ ScenePanel::ScenePanel(Stage& stage, QWidget* parent)
     tree->setHeaderHidden(true);
     tree->setSelectionMode(QAbstractItemView::ExtendedSelection);
     tree->setUniformRowHeights(true);
+    tree->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
+    tree->setContextMenuPolicy(Qt::ActionsContextMenu);
+    connect(tree, &QTreeWidget::itemChanged, this,
+            [this](const QTreeWidgetItem* item) { change(*item); });
     connect(tree, &QTreeWidget::itemSelectionChanged, this, &ScenePanel::select);
     refresh();
 }
@@ -56,6 +65,7 @@ void ScenePanel::refresh()
             shown = shape;
             rebuild();
         }
+        showStates();
     }
     showSelection();
 }
@@ -74,12 +84,56 @@ void ScenePanel::addObjects(const osg::NodePtr& parent, const QString& parentPat
     int number = 0;
     for (const osg::NodePtr& object : childObjects(parent)) {
         const QString path = parentPath + QString::number(number++);
-        const QString name = QString::fromStdString(nbNodeUtils::getName(object));
-        auto* child = new QTreeWidgetItem(item, { name.isEmpty() ? tr("(no name)") : name });
+        auto* child = new QTreeWidgetItem(item);
+        child->setFlags(child->flags() | Qt::ItemIsEditable | Qt::ItemIsUserCheckable);
         child->setData(0, kPathRole, path);
         child->setData(0, kIdRole, object.getFieldContainerId());
         addObjects(object, path + QLatin1Char('/'), child);
     }
+}
+
+void ScenePanel::showStates()
+{
+    const QSignalBlocker blocker(tree);
+    for (QTreeWidgetItemIterator item(tree); *item != nullptr; ++item) {
+        const auto node = osg::NodePtr::dcast(
+            osg::FieldContainerFactory::the()->getContainer((*item)->data(0, kIdRole).toUInt()));
+        const QString name = QString::fromStdString(nbNodeUtils::getName(node));
+        const bool isLocked = !nbNodePermission::allows(node, nbNodePermission::Transform);
+        (*item)->setText(0, name.isEmpty() ? tr("(no name)") : name);
+        (*item)->setData(0, kNameRole, (*item)->text(0));
+        (*item)->setCheckState(0, node->getActive() ? Qt::Checked : Qt::Unchecked);
+        (*item)->setToolTip(0, isLocked ? tr("Locked") : QString());
+        (*item)->setIcon(0, isLocked ? themeIcon(QStringLiteral("view.setHeld")) : QIcon());
+    }
+}
+
+void ScenePanel::change(const QTreeWidgetItem& item)
+{
+    if (!run(QStringLiteral("scene.select"), QJsonArray { item.data(0, kPathRole).toString() })) {
+        return;
+    }
+    if (item.text(0) != item.data(0, kNameRole).toString()) {
+        run(QStringLiteral("object.name"), item.text(0));
+    } else {
+        run(QStringLiteral("object.visible"), item.checkState(0) == Qt::Checked);
+    }
+}
+
+void ScenePanel::renameSelected()
+{
+    refresh();
+    const QList<QTreeWidgetItem*> items = tree->selectedItems();
+    if (!items.isEmpty()) {
+        tree->setFocus();
+        tree->setCurrentItem(items.last(), 0, QItemSelectionModel::NoUpdate);
+        tree->editItem(items.last());
+    }
+}
+
+void ScenePanel::setObjectActions(const QList<QAction*>& objectActions)
+{
+    tree->addActions(objectActions);
 }
 
 void ScenePanel::showSelection()

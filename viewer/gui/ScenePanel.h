@@ -8,12 +8,13 @@
 
 #include <QList>
 
+class QAction;
 class QTreeWidget;
 class QTreeWidgetItem;
 
 namespace viewer {
 
-/// The tree of the scene's objects, in which a person selects.
+/// The tree of the scene's objects, in which a person selects, renames, hides and shows.
 class ScenePanel : public Panel
 {
     Q_OBJECT
@@ -25,10 +26,18 @@ public:
 
     bool needsScrolling() const override { return false; }
 
+    /// Lets a person type another name for the object selected last.
+    void renameSelected();
+
+    /// Puts actions into the menu of the tree.
+    void setObjectActions(const QList<QAction*>& objectActions);
+
 private:
     void rebuild();
     void addObjects(const osg::NodePtr& parent, const QString& parentPath, QTreeWidgetItem* item);
+    void showStates();
     void showSelection();
+    void change(const QTreeWidgetItem& item);
     void select();
 
     QTreeWidget* tree;

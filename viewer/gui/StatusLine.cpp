@@ -56,6 +56,7 @@ StatusLine::StatusLine(QStatusBar& bar)
     , handleLabel(new QLabel(&bar))
     , valuesLabel(new QLabel(&bar))
     , selectionLabel(new QLabel(&bar))
+    , axesLabel(new QLabel(&bar))
     , frameLabel(new QLabel(&bar))
     , sceneLabel(new QLabel(&bar))
     , progress(new QProgressBar(&bar))
@@ -79,6 +80,7 @@ StatusLine::StatusLine(QStatusBar& bar)
     bar.addWidget(valuesLabel);
     bar.addPermanentWidget(progress);
     bar.addPermanentWidget(cancelButton);
+    bar.addPermanentWidget(axesLabel);
     bar.addPermanentWidget(frameLabel);
     bar.addPermanentWidget(sceneLabel);
     progress->hide();
@@ -92,6 +94,8 @@ void StatusLine::update(Stage& stage, bool isLoading)
     setTextOf(selectionLabel, ofTool.isEmpty() ? selectionText(stage) : ofTool);
     setTextOf(handleLabel, pointerText(stage));
     setTextOf(valuesLabel, QString::fromStdString(stage.draggedValues()));
+    setTextOf(axesLabel,
+              stage.gizmo().isLocalSpace() ? tr("Axes of the object") : tr("World axes"));
     setTextOf(sceneLabel, tr("%Ln triangles", nullptr, static_cast<int>(stage.triangleCount())));
     progress->setVisible(isLoading);
     cancelButton->setVisible(isLoading);

@@ -38,6 +38,7 @@ private:
     QLabel* handleLabel;
     QLabel* valuesLabel;
     QLabel* selectionLabel;
+    QLabel* axesLabel;
     QLabel* frameLabel;
     QLabel* sceneLabel;
     QProgressBar* progress;

@@ -7,11 +7,12 @@
 #include "viewer/gui/TextPainter.h"
 #include "viewer/stage/StageTool.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QJsonObject>
 #include <QMimeData>
+#include <QMouseEvent>
 #include <QOpenGLContext>
 #include <QOpenGLFunctions>
 #include <QPainter>
@@ -37,6 +38,7 @@ bool isHuge(const QSize& sizePx)
 
 constexpr QSize kPreferredSize(1200, 800);
 constexpr QSize kSmallestSize(16, 16);
+constexpr int kFar = 100000;  ///< from everything in a view, logical pixels
 
 QString graphicsText(QOpenGLFunctions& gl)
 {
@@ -255,6 +257,9 @@ bool ViewWidget::event(QEvent* event)
     if (wasDragging && !viewStage.isDragging()) {
         viewStage.tellEverybody();
     }
+    if (type == QEvent::MouseButtonPress || type == QEvent::MouseButtonRelease) {
+        followRightButton(static_cast<const QMouseEvent&>(*event));
+    }
     if (type == QEvent::MouseMove || type == QEvent::Leave) {
         viewStage.gizmo().setPointerInside(type == QEvent::MouseMove);
     }
@@ -267,6 +272,17 @@ bool ViewWidget::event(QEvent* event)
         return true;
     }
     return QOpenGLWidget::event(event);
+}
+
+void ViewWidget::followRightButton(const QMouseEvent& event)
+{
+    if (event.type() == QEvent::MouseButtonPress) {
+        const bool isAlone = event.buttons() == Qt::RightButton;
+        rightPress = isAlone ? event.pos() : QPoint(-kFar, -kFar);
+    } else if (event.button() == Qt::RightButton &&
+               (event.pos() - rightPress).manhattanLength() < QApplication::startDragDistance()) {
+        emit menuAsked(viewStage.view().getMousePosition(), event.globalPos());
+    }
 }
 
 void ViewWidget::initializeGL()

@@ -72,6 +72,8 @@ signals:
     void stateChanged();
     /// Drawing is not possible; one line. Comes once.
     void drawingFailed(const QString& reason);
+    /// A click of the right button asked for a menu. @param px  device pixels, y from the top
+    void menuAsked(const osg::Pnt2f& px, const QPoint& screenPlace);
     /// Files were dropped on the view, at least one. @param px  device pixels, y from the top
     void filesDropped(const QStringList& files, const osg::Pnt2f& px);
 
@@ -95,6 +97,7 @@ private:
     void paintOverlay(QPainter& painter) const;
     void paintOverlayOver(QImage& picture) const;
     void updateCursor();
+    void followRightButton(const QMouseEvent& event);
     void releaseGraphics();
 
     nbOSGWidget renderWidget;
@@ -103,6 +106,7 @@ private:
     nbRenderAction renderAction;
     nbOffscreenView pictureView;
     QSize fixedSizePx;
+    QPoint rightPress;  ///< of the right button alone
     HandleCursor shownCursor;
     Qt::CursorShape hostCursor = Qt::ArrowCursor;
     QString graphicsName;

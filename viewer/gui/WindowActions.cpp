@@ -6,6 +6,7 @@
 #include "viewer/gui/PanelDocks.h"
 #include "viewer/gui/SceneFileActions.h"
 #include "viewer/gui/SessionPlayer.h"
+#include "viewer/gui/ShortcutPage.h"
 #include "viewer/gui/StepsPanel.h"
 #include "viewer/gui/ThemeIcon.h"
 #include "viewer/gui/ViewWidget.h"
@@ -131,7 +132,7 @@ QAction* WindowActions::make(QMenu* menu, const char* name, const QString& text,
 
 void WindowActions::describe(QAction* action, const QString& tip)
 {
-    const QString keys = action->shortcut().toString(QKeySequence::NativeText);
+    const QString keys = QKeySequence::listToString(action->shortcuts(), QKeySequence::NativeText);
     action->setToolTip(keys.isEmpty() ? tip : tr("%1 (%2)", "tip, shortcut").arg(tip, keys));
 }
 
@@ -179,12 +180,17 @@ QAction* WindowActions::addCommand(QMenu* menu, const char* command, const QStri
 {
     // A recording gets the command itself, so the shortcut is not told.
     return addPlain(menu, command, text, keys, [this, command](bool) {
-        QString error;
-        if (!stage.commands().run(QLatin1String(command), {}, error)) {
-            emit window.problem(error);
-        }
+        run(QLatin1String(command));
         window.showPanelOfTool();
     });
+}
+
+void WindowActions::run(const QString& command, const QJsonValue& value)
+{
+    QString error;
+    if (!stage.commands().run(command, value, error)) {
+        emit window.problem(error);
+    }
 }
 
 void WindowActions::addFileMenu()
@@ -214,9 +220,37 @@ void WindowActions::addEditMenu()
     QMenu* menu = window.menuBar()->addMenu(tr("&Edit"));
     undo = add(menu, "undo", tr("&Undo"), "Ctrl+Z", [this] { stage.undo(); });
     redo = add(menu, "redo", tr("&Redo"), "Ctrl+Shift+Z", [this] { stage.redo(); });
+    redo->setShortcuts({ redo->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Y) });
     menu->addSeparator();
     add(menu, "selectAll", tr("Select &all"), "Ctrl+A", [this] { stage.selectAll(); });
     add(menu, "selectNone", tr("Select &nothing"), "D", [this] { stage.select(osg::NullFC); });
+    menu->addSeparator();
+    addObjectActions(menu);
+}
+
+void WindowActions::addObjectActions(QMenu* menu)
+{
+    const auto toggle = [this](const char* name) {
+        const QString command = QLatin1String(name);
+        run(command, !stage.commands().value(command).value_or(QJsonValue()).toBool());
+    };
+    const auto isEditingPlates = [this] {
+        return stage.commands().value(QStringLiteral("plates.edit")).value_or(false).toBool();
+    };
+    forObjects = {
+        addCommand(menu, "scene.duplicate", tr("Dup&licate"), "Ctrl+D"),
+        addPlain(menu, "delete", tr("&Delete"), "Del",
+                 [this, isEditingPlates](bool) {
+                     run(isEditingPlates() ? QStringLiteral("plates.remove")
+                                           : QStringLiteral("scene.delete"));
+                 }),
+        addPlain(menu, "rename", tr("Rena&me"), "F2",
+                 [this](bool) { window.panels().renameSelected(); }),
+        addPlain(menu, "hide", tr("&Hide or show"), "H",
+                 [toggle](bool) { toggle("object.visible"); }),
+        addPlain(menu, "lock", tr("Loc&k or unlock"), {},
+                 [toggle](bool) { toggle("object.locked"); }),
+    };
 }
 
 void WindowActions::addViewMenu()
@@ -299,7 +333,6 @@ void WindowActions::addManipulatorMenu()
     describe(holdView, tr("Hold the view: nothing moves the camera until this is lifted"));
     editPlates = addCommand(menu, "plates.edit", tr("Edit scene pl&ates"), "Shift+P");
     editPlates->setCheckable(true);
-    removePlates = addCommand(menu, "plates.remove", tr("&Delete scene plates"), "Del");
     editPictures = addCommand(menu, "texture.edit", tr("Edit pictures on o&bjects"), "Shift+T");
     editPictures->setCheckable(true);
     menu->addSeparator();
@@ -349,6 +382,7 @@ void WindowActions::addSessionMenu()
 void WindowActions::addHelpMenu()
 {
     QMenu* menu = window.menuBar()->addMenu(tr("&Help"));
+    addPlain(menu, "shortcuts", tr("&Shortcuts…"), "F1", [this](bool) { showShortcuts(window); });
     addPlain(menu, "about", tr("&About nbviewer…"), {}, [this](bool) {
         auto* box = new AboutBox(window.view().graphics(), &window);
         box->setAttribute(Qt::WA_DeleteOnClose);
@@ -380,7 +414,6 @@ void WindowActions::updateGizmos()
     matchCamera->setChecked(isOn("match.active"));
     holdView->setChecked(stage.isViewHeld());
     editPlates->setChecked(isOn("plates.edit"));
-    removePlates->setEnabled(editPlates->isChecked());
     if (stage.activeTool() == nullptr) {
         gizmoActions[stage.gizmo().shown()]->setChecked(true);
         return;
@@ -408,6 +441,9 @@ void WindowActions::updateEditing()
     editPictures->setChecked(arePicturesEdited && arePicturesEdited->toBool());
     const bool isSelected = stage.selectedObject() != osg::NullFC;
     centerPivots->setEnabled(isSelected && !stage.isDragging());
+    for (QAction* action : forObjects) {
+        action->setEnabled((isSelected || editPlates->isChecked()) && !stage.isDragging());
+    }
     gizmoActions[Gizmo::Clipping]->setEnabled(stage.isClipPlaneSelected());
     removeClipPlane->setEnabled(stage.isClipPlaneSelected() && !stage.isDragging());
     localSpace->setChecked(stage.gizmo().isLocalSpace());

@@ -5,6 +5,8 @@
 #include "viewer/stage/GizmoController.h"
 #include "viewer/texts/Language.h"
 
+#include <QJsonValue>
+#include <QList>
 #include <QObject>
 #include <QStringList>
 
@@ -34,6 +36,10 @@ public:
 
     /// Ticks what is on.
     void update();
+
+    /// What can be done with the selected objects, for menus of the view and the tree.
+    const QList<QAction*>& objectActions() const { return forObjects; }
+
     /// Fills the menu of recent files.
     void setRecentFiles(const QStringList& files);
 
@@ -58,8 +64,11 @@ private:
                        std::function<void(bool)> run);
     /// An action that runs a command of the stage. @param command  literal
     QAction* addCommand(QMenu* menu, const char* command, const QString& text, const QString& keys);
+    /// Runs a command of the stage; a refusal becomes a problem of the window.
+    void run(const QString& command, const QJsonValue& value = {});
     void addFileMenu();
     void addEditMenu();
+    void addObjectActions(QMenu* menu);
     void addViewMenu();
     void addManipulatorMenu();
     void addSessionMenu();
@@ -72,6 +81,7 @@ private:
 
     MainWindow& window;
     Stage& stage;
+    QList<QAction*> forObjects;
     QMenu* recentMenu = nullptr;
     QActionGroup* gizmoGroup = nullptr;
     std::map<Gizmo, QAction*> gizmoActions;
@@ -84,7 +94,6 @@ private:
     QAction* matchCamera = nullptr;
     QAction* holdView = nullptr;
     QAction* editPlates = nullptr;
-    QAction* removePlates = nullptr;
     QAction* editPictures = nullptr;
     StepsPanel* stepsPanel = nullptr;
     QAction* orthographic = nullptr;

@@ -177,6 +177,21 @@ void collectSurfaces(const osg::NodePtr& node, std::vector<osg::NodePtr>& object
     }
 }
 
+void collectChildObjects(const osg::NodePtr& node, std::vector<osg::NodePtr>& objects)
+{
+    for (osg::UInt32 i = 0; i < node->getNChildren(); ++i) {
+        const osg::NodePtr child = node->getChild(i);
+        if (nbNodeUtils::isAuxiliaryNode(child)) {
+            continue;
+        }
+        if (nbNodeUtils::resolveToTransformNode(child) == child) {
+            objects.push_back(child);
+        } else {
+            collectChildObjects(child, objects);
+        }
+    }
+}
+
 }  // namespace
 
 osg::NodePtr buildScene(const ModelData& model)
@@ -201,6 +216,20 @@ osg::NodePtr objectOf(const osg::NodePtr& node)
 {
     const osg::NodePtr object = nbNodeUtils::resolveToTransformNode(node);
     return nbNodeUtils::hasParent(object, nbScenegraph::getRootNode()) ? object : osg::NodePtr();
+}
+
+std::vector<osg::NodePtr> childObjects(const osg::NodePtr& object)
+{
+    std::vector<osg::NodePtr> objects;
+    collectChildObjects(object != osg::NullFC ? object : nbScenegraph::getRootNode(), objects);
+    return objects;
+}
+
+osg::NodePtr copyOfObject(const osg::NodePtr& object)
+{
+    return osg::deepCloneTree(object,
+                              "GeoPTypes, GeoPLengths, GeoPositions, GeoNormals, GeoColors, "
+                              "GeoTexCoords, GeoIndices, Image");
 }
 
 osg::NodePtr findObject(const osg::NodePtr& root, const std::string& name)

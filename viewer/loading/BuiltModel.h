@@ -38,6 +38,13 @@ BuiltModel anotherOf(const BuiltModel& model);
 /// @return null for null, and above the scene root
 osg::NodePtr objectOf(const osg::NodePtr& node);
 
+/// The objects directly below an object, or at the top for null, in the order of the tree; groups
+/// and other nodes between them are passed through.
+std::vector<osg::NodePtr> childObjects(const osg::NodePtr& object);
+
+/// A copy of an object with all below it; has nothing in common with it that can be edited.
+osg::NodePtr copyOfObject(const osg::NodePtr& object);
+
 /// First node below a root, in tree order, of a name that objectOf() could return; null if there is
 /// none.
 osg::NodePtr findObject(const osg::NodePtr& root, const std::string& name);

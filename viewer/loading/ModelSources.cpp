@@ -4,12 +4,104 @@
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
 namespace viewer {
+namespace {
+
+/// Number of an object that an edit put between one and its children.
+constexpr QChar kBetween = u'-';
+
+}  // namespace
 
 void ModelSources::add(const BuiltModel& model)
 {
     sources[model.root.get().getFieldContainerId()] = { model.file, model.builtIn };
     triangles += model.triangles;
     addNames(model.root.get());
+    addPlaces(model.root.get(), { model.root.get().getFieldContainerId(), QString() });
+}
+
+void ModelSources::addPlaces(const osg::NodePtr& object, const Place& place)
+{
+    places[object.getFieldContainerId()] = place;
+    int number = 0;
+    for (const osg::NodePtr& child : childObjects(object)) {
+        const QString above = place.path.isEmpty() ? QString() : place.path + QLatin1Char('/');
+        addPlaces(child, { place.root, above + QString::number(number++) });
+    }
+}
+
+void ModelSources::addCopy(const osg::NodePtr& original, const osg::NodePtr& copy,
+                           const QString& path)
+{
+    const auto found = places.find(original.getFieldContainerId());
+    if (found == places.end()) {
+        return;
+    }
+    const osg::UInt32 id = copy.getFieldContainerId();
+    if (const Source* source = find(original)) {
+        sources[id] = *source;
+        copyPlaces(original, copy, {}, { id, QString() });
+        return;
+    }
+    QString own = path;
+    if (own.isEmpty()) {
+        const int last = found->second.path.lastIndexOf(QLatin1Char('/')) + 1;
+        const int mark = found->second.path.indexOf(QLatin1Char('+'), last);
+        own = found->second.path.left(mark) + QLatin1Char('+') + QString::number(lastCopy + 1);
+    }
+    lastCopy = qMax(lastCopy, own.section(QLatin1Char('+'), -1).toUInt());
+    copyPlaces(original, copy, found->second.path, { found->second.root, own });
+}
+
+void ModelSources::copyPlaces(const osg::NodePtr& original, const osg::NodePtr& copy,
+                              const QString& from, const Place& to)
+{
+    names[copy.getFieldContainerId()] = nameOf(original);
+    const auto known = places.find(original.getFieldContainerId());
+    if (known != places.end()) {
+        places[copy.getFieldContainerId()] = { to.root,
+                                               to.path + known->second.path.mid(from.size()) };
+    }
+    for (osg::UInt32 i = 0; i < original->getNChildren(); ++i) {
+        copyPlaces(original->getChild(i), copy->getChild(i), from, to);
+    }
+}
+
+QString ModelSources::pathOf(const osg::NodePtr& object) const
+{
+    const auto found = places.find(object.getFieldContainerId());
+    if (found != places.end()) {
+        return found->second.path;
+    }
+    const osg::NodePtr above = nbNodeUtils::resolveToTransformNode(object->getParent());
+    const QString path = above == osg::NullFC ? QString() : pathOf(above);
+    return path.isEmpty() ? QString(kBetween) : path + QLatin1Char('/') + kBetween;
+}
+
+osg::NodePtr ModelSources::objectBelow(const osg::NodePtr& object, const QString& path) const
+{
+    for (const osg::NodePtr& child : childObjects(object)) {
+        const QString own = pathOf(child);
+        if (own == path) {
+            return child;
+        }
+        if (own.endsWith(kBetween) || path.startsWith(own + QLatin1Char('/'))) {
+            if (const osg::NodePtr found = objectBelow(child, path); found != osg::NullFC) {
+                return found;
+            }
+        }
+    }
+    return {};
+}
+
+std::map<QString, std::string> ModelSources::objectsOf(const osg::NodePtr& root) const
+{
+    std::map<QString, std::string> objects;
+    for (const auto& [id, place] : places) {
+        if (place.root == root.getFieldContainerId()) {
+            objects[place.path] = names.at(id);
+        }
+    }
+    return objects;
 }
 
 const ModelSources::Source* ModelSources::find(const osg::NodePtr& root) const

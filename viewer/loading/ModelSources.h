@@ -28,6 +28,23 @@ public:
     /// Where a model came from; null for a node that is no root of one.
     const Source* find(const osg::NodePtr& root) const;
 
+    /// Takes a copy of an object with all below it for one more of the same model; or a copy of a
+    /// whole model for another one.
+    /// @param path  of the copy, see pathOf(); empty: one that is not taken
+    void addCopy(const osg::NodePtr& original, const osg::NodePtr& copy, const QString& path = {});
+
+    /// Place of an object in its model as it was read, such as "0/2": the third object below the
+    /// first one below the root, which has ""; a copy of that has "0/2+1", or another number;
+    /// what an edit of it put between it and its children has "0/2/-".
+    QString pathOf(const osg::NodePtr& object) const;
+
+    /// The object of a path below another one; null if there is none.
+    osg::NodePtr objectBelow(const osg::NodePtr& object, const QString& path) const;
+
+    /// The objects of a model that were read or copied, in the order of their paths; also those
+    /// that are not in the scene any more.
+    std::map<QString, std::string> objectsOf(const osg::NodePtr& root) const;
+
     /// What a node was called in its model; "" for one that came later.
     std::string nameOf(const osg::NodePtr& node) const;
 
@@ -35,9 +52,21 @@ public:
     std::size_t triangleCount() const { return triangles; }
 
 private:
+    /// Where an object stands in a model as it was read.
+    struct Place
+    {
+        osg::UInt32 root = 0;
+        QString path;
+    };
+
     void addNames(const osg::NodePtr& node);
+    void addPlaces(const osg::NodePtr& object, const Place& place);
+    void copyPlaces(const osg::NodePtr& original, const osg::NodePtr& copy, const QString& from,
+                    const Place& to);
 
     std::map<osg::UInt32, Source> sources;
+    std::map<osg::UInt32, Place> places;
+    unsigned lastCopy = 0;
     std::map<osg::UInt32, std::string> names;
     std::size_t triangles = 0;
 };

@@ -30,19 +30,10 @@
 namespace viewer {
 namespace {
 
-/// The object at a path below a model's root; null if there is none.
-osg::NodePtr objectBelow(const osg::NodePtr& root, const QString& path)
+/// The object at a path of a model; null if there is none.
+osg::NodePtr objectBelow(const ModelSources& sources, const osg::NodePtr& root, const QString& path)
 {
-    osg::NodePtr at = root;
-    for (const QString& number : path.split(QLatin1Char('/'), Qt::SkipEmptyParts)) {
-        const std::vector<osg::NodePtr> children = childObjects(at);
-        const std::size_t place = number.toUInt();
-        if (place >= children.size()) {
-            return {};
-        }
-        at = children[place];
-    }
-    return at;
+    return path.isEmpty() ? root : sources.objectBelow(root, path);
 }
 
 }  // namespace
@@ -146,6 +137,9 @@ private:
 
     bool editModel(const osg::NodePtr& root, const SceneModel& wanted, const QString& place)
     {
+        for (const SceneNode& node : wanted.nodes) {
+            copyObject(root, node.path);
+        }
         for (std::size_t i = 0; i < wanted.nodes.size(); ++i) {
             if (!editObject(root, wanted.nodes[i], place + QStringLiteral(".nodes[%1]").arg(i))) {
                 return false;
@@ -157,7 +151,32 @@ private:
                 return false;
             }
         }
+        for (const SceneNode& node : wanted.nodes) {
+            const osg::NodePtr gone =
+                node.removed ? objectBelow(scene.sources, root, node.path) : osg::NodePtr();
+            if (gone != osg::NullFC && gone != root) {
+                const nbEdit edit(gone->getParent(), osg::Node::ChildrenFieldMask);
+                gone->getParent()->subChild(gone);
+            }
+        }
         return true;
+    }
+
+    /// Makes the copy that a path stands for, as its original was read; nothing for other paths.
+    void copyObject(const osg::NodePtr& root, const QString& path)
+    {
+        const int mark = path.lastIndexOf(QLatin1Char('+'));
+        if (mark < 0 || path.indexOf(QLatin1Char('/'), mark) >= 0) {
+            return;
+        }
+        const osg::NodePtr original = objectBelow(scene.sources, root, path.left(mark));
+        if (original != osg::NullFC && original != root) {
+            const osg::NodePtr copy = copyOfObject(original);
+            const osg::NodePtr parent = original->getParent();
+            const nbEdit edit(parent, osg::Node::ChildrenFieldMask);
+            parent->addChild(copy);
+            scene.sources.addCopy(original, copy, path);
+        }
     }
 
     bool isNamed(const osg::NodePtr& node, const QString& name, const QString& place)
@@ -170,7 +189,7 @@ private:
 
     bool editObject(const osg::NodePtr& root, const SceneNode& wanted, const QString& place)
     {
-        const osg::NodePtr node = objectBelow(root, wanted.path);
+        const osg::NodePtr node = objectBelow(scene.sources, root, wanted.path);
         if (node == osg::NullFC) {
             return fail(
                 place,
@@ -206,7 +225,7 @@ private:
 
     bool editSurface(const osg::NodePtr& root, const SceneSurface& wanted, const QString& place)
     {
-        const osg::NodePtr object = objectBelow(root, wanted.object);
+        const osg::NodePtr object = objectBelow(scene.sources, root, wanted.object);
         const std::vector<osg::NodePtr> surfaces = ownSurfaces(object);
         if (static_cast<std::size_t>(wanted.part) >= surfaces.size()) {
             return fail(place, Text::tr("the model has no surface \"%1\" there").arg(wanted.name));

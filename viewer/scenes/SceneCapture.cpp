@@ -16,6 +16,7 @@
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <map>
+#include <set>
 
 namespace viewer {
 namespace {
@@ -23,12 +24,6 @@ namespace {
 QString nameOf(const osg::NodePtr& node)
 {
     return QString::fromStdString(nbNodeUtils::getName(node));
-}
-
-QString childPath(const QString& path, std::size_t place)
-{
-    return path.isEmpty() ? QString::number(place)
-                          : path + QLatin1Char('/') + QString::number(place);
 }
 
 std::optional<nbTransformState> stateOf(const osg::Transform3DPtr& core)
@@ -159,13 +154,37 @@ private:
         }
         model.file = source->file;
         model.builtIn = source->builtIn;
-        return captureObject(root, QString(), model);
+        present.clear();
+        if (!captureObject(root, model)) {
+            return false;
+        }
+        captureRemoved(root, model);
+        return true;
     }
 
-    bool captureObject(const osg::NodePtr& object, const QString& path, SceneModel& model)
+    /// What was read and is gone; of what is below it nothing need be said.
+    void captureRemoved(const osg::NodePtr& root, SceneModel& model)
     {
+        for (const auto& [path, name] : stage.sources().objectsOf(root)) {
+            const int last = path.lastIndexOf(QLatin1Char('/'));
+            const bool isCopy = path.indexOf(QLatin1Char('+'), last + 1) >= 0;
+            if (!isCopy && present.count(path) == 0 &&
+                present.count(path.left(qMax(last, 0))) > 0) {
+                SceneNode& node = model.nodes.emplace_back();
+                node.path = path;
+                node.name = QString::fromStdString(name);
+                node.removed = true;
+            }
+        }
+    }
+
+    bool captureObject(const osg::NodePtr& object, SceneModel& model)
+    {
+        const QString path = stage.sources().pathOf(object);
+        const bool isCopy = path.section(QLatin1Char('/'), -1).contains(QLatin1Char('+'));
+        present.insert(path);
         SceneNode node = nodeOf(object, QString::fromStdString(stage.sources().nameOf(object)));
-        if (node.transform || !node.visible || node.denied != 0 || node.newName) {
+        if (isCopy || node.transform || !node.visible || node.denied != 0 || node.newName) {
             node.path = path;
             model.nodes.push_back(node);
         }
@@ -175,9 +194,8 @@ private:
                 return false;
             }
         }
-        const std::vector<osg::NodePtr> children = childObjects(object);
-        for (std::size_t i = 0; i < children.size(); ++i) {
-            if (!captureObject(children[i], childPath(path, i), model)) {
+        for (const osg::NodePtr& child : childObjects(object)) {
+            if (!captureObject(child, model)) {
                 return false;
             }
         }
@@ -246,6 +264,7 @@ private:
 
     Stage& stage;
     QString& error;
+    std::set<QString> present;  ///< paths of the objects of a model
     std::map<osg::UInt32, int> planes;  ///< numbers of clip planes by the ids of their nodes
     std::map<osg::UInt32, int> frames;  ///< the same by the ids of their frames
 };

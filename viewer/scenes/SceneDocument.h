@@ -37,9 +37,11 @@ struct ScenePicture
 /// What was edited of an object; everything else is as in its model.
 struct SceneNode
 {
-    QString path;  ///< places among the child objects, from the model's root, such as "0/3"; "": it
+    QString path;  ///< places among the child objects, from the model's root, such as "0/3"; "":
+                   ///< it; "0/3+1" is a copy of "0/3", see ModelSources
     QString name;  ///< as in the model; checked when the scene is opened
     std::optional<QString> newName;
+    bool removed = false;  ///< with all below it
     bool visible = true;
     osg::UInt32 denied = 0;  ///< bits of nbNodePermission
     std::optional<nbTransformState> transform;  ///< absent: as in the model

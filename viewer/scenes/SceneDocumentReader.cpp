@@ -25,7 +25,9 @@ constexpr int kMaskBits = 32;
 
 bool isNodePath(const QString& path)
 {
-    static const QRegularExpression kPattern(QStringLiteral("^([0-9]{1,9}(/[0-9]{1,9})*)?\\z"));
+    static const QRegularExpression kPattern(
+        QStringLiteral("^(N(/N)*)?\\z")
+            .replace('N', QStringLiteral("([0-9]{1,9}(\\+[0-9]{1,9})?|-)")));
     return kPattern.match(path).hasMatch();
 }
 

@@ -61,8 +61,9 @@ template <class Archive>
 bool describe(Archive& archive, SceneNode& node)
 {
     return archive.field("path", node.path, QString()) && archive.field("name", node.name) &&
-        archive.field("newName", node.newName) && archive.field("visible", node.visible, true) &&
-        archive.bits("denied", node.denied) && archive.part("transform", node.transform);
+        archive.field("newName", node.newName) && archive.field("removed", node.removed, false) &&
+        archive.field("visible", node.visible, true) && archive.bits("denied", node.denied) &&
+        archive.part("transform", node.transform);
 }
 
 template <class Archive>

@@ -28,21 +28,6 @@
 namespace viewer {
 namespace {
 
-void collectChildObjects(const osg::NodePtr& node, std::vector<osg::NodePtr>& objects)
-{
-    for (osg::UInt32 i = 0; i < node->getNChildren(); ++i) {
-        const osg::NodePtr child = node->getChild(i);
-        if (nbNodeUtils::isAuxiliaryNode(child)) {
-            continue;
-        }
-        if (nbNodeUtils::resolveToTransformNode(child) == child) {
-            objects.push_back(child);
-        } else {
-            collectChildObjects(child, objects);
-        }
-    }
-}
-
 /// Nearest object above an object; null at the top.
 osg::NodePtr parentObject(const osg::NodePtr& object)
 {
@@ -228,13 +213,6 @@ Commands::Read ofSelected(Stage& stage, Function read)
 }
 
 }  // namespace
-
-std::vector<osg::NodePtr> childObjects(const osg::NodePtr& object)
-{
-    std::vector<osg::NodePtr> objects;
-    collectChildObjects(object != osg::NullFC ? object : nbScenegraph::getRootNode(), objects);
-    return objects;
-}
 
 QString pathOf(const osg::NodePtr& object)
 {

@@ -6,8 +6,6 @@
 
 #include <QString>
 
-#include <vector>
-
 namespace viewer {
 
 class Commands;
@@ -19,10 +17,6 @@ QString pathOf(const osg::NodePtr& object);
 
 /// @return null if there is no object at a path
 osg::NodePtr objectAt(const QString& path);
-
-/// The objects directly below an object, or at the top for null, in the order of the tree; groups
-/// and other nodes between them are passed through.
-std::vector<osg::NodePtr> childObjects(const osg::NodePtr& object);
 
 /// Adds the commands and values that concern the selected objects:
 /// "scene.select" (array of paths), "object.name", "object.translation", "object.rotation",

@@ -5,6 +5,7 @@
 #include "viewer/loading/StartScene.h"
 #include "viewer/stage/ClipPlanes.h"
 #include "viewer/stage/ObjectCommands.h"
+#include "viewer/stage/SceneEdits.h"
 #include "viewer/stage/StageTool.h"
 
 #include <nbInteraction/EventNames.h>
@@ -80,6 +81,7 @@ Stage::Stage(nbOSGWidget& view)
     commandTable.addValue(QStringLiteral("view.held"), [this] { return viewHeld; });
     addClipPlaneCommands(*this);
     addObjectCommands(*this);
+    addSceneEdits(*this);
 }
 
 Stage::~Stage()
@@ -250,6 +252,18 @@ osg::NodePtr Stage::add(const BuiltModel& model)
     nbec::interaction::Picker::buildTrees(node);
     changed();
     return node;
+}
+
+void Stage::addCopy(const osg::NodePtr& object, const osg::NodePtr& copy,
+                    const osg::NodePtr& parent)
+{
+    {
+        const nbEdit edit(parent, osg::Node::ChildrenFieldMask);
+        parent->addChild(copy);
+    }
+    modelSources.addCopy(object, copy);
+    nbec::interaction::Picker::buildTrees(copy);
+    changed();
 }
 
 void Stage::replace(const std::vector<osg::RefPtr<osg::NodePtr>>& top, ModelSources sources)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "viewer/commands/Commands.h"
+#include "viewer/loading/BuiltModel.h"
 #include "viewer/loading/ModelData.h"
 #include "viewer/loading/ModelSources.h"
 #include "viewer/stage/BoundsMarker.h"
@@ -25,7 +26,6 @@
 namespace viewer {
 
 class StageTool;
-struct BuiltModel;
 
 /// Everything that happens in the view without being a window: scene, selection, camera,
 /// manipulator and how input reaches them. Works without any widget, window or OpenGL; lives
@@ -96,6 +96,8 @@ public:
     osg::NodePtr add(const ModelData& model);
     /// The same for one whose nodes are there. Search trees that are still missing are built now.
     osg::NodePtr add(const BuiltModel& model);
+    /// Hangs a copy of an object beside it, see ModelSources::addCopy().
+    void addCopy(const osg::NodePtr& object, const osg::NodePtr& copy, const osg::NodePtr& parent);
     /// Replaces all models by what was built before.
     /// @param top      what comes right below the scene's root, without parents
     /// @param sources  of the models among and below it
@@ -129,6 +131,9 @@ public:
     bool isClipPlaneSelected() const;
     /// Selects every object that has a surface of its own.
     void selectAll();
+
+    /// The object at a pixel; null for none. @param px  device pixels, y from the top
+    osg::NodePtr objectAt(const osg::Pnt2f& px) { return objectOf(scenePicker.pickAt(px)); }
 
     /// Name of the object under the pointer that a click would select; "" for none.
     std::string preselectedName() const

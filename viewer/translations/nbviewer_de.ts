@@ -579,6 +579,98 @@
         <source>Scale the depth</source>
         <translation>Tiefe skalieren</translation>
     </message>
+    <message>
+        <source>Right button</source>
+        <translation>Rechte Taste</translation>
+    </message>
+    <message>
+        <source>Orbit; a click: menu</source>
+        <translation>Umkreisen; ein Klick: Menü</translation>
+    </message>
+    <message>
+        <source>Middle button</source>
+        <translation>Mittlere Taste</translation>
+    </message>
+    <message>
+        <source>Pan</source>
+        <translation>Verschieben</translation>
+    </message>
+    <message>
+        <source>Wheel</source>
+        <translation>Rad</translation>
+    </message>
+    <message>
+        <source>Zoom towards the pointer</source>
+        <translation>Zum Zeiger hin zoomen</translation>
+    </message>
+    <message>
+        <source>Click</source>
+        <translation>Klick</translation>
+    </message>
+    <message>
+        <source>Select; Ctrl or Shift: further objects</source>
+        <translation>Auswählen; Strg oder Umschalt: weitere Objekte</translation>
+    </message>
+    <message>
+        <source>Drag from empty space</source>
+        <translation>Ziehen vom Leeren aus</translation>
+    </message>
+    <message>
+        <source>Select what lies in the rectangle</source>
+        <translation>Auswählen, was im Rechteck liegt</translation>
+    </message>
+    <message>
+        <source>Ctrl in a drag</source>
+        <translation>Strg beim Ziehen</translation>
+    </message>
+    <message>
+        <source>Snap</source>
+        <translation>Einrasten</translation>
+    </message>
+    <message>
+        <source>Shift in a drag</source>
+        <translation>Umschalt beim Ziehen</translation>
+    </message>
+    <message>
+        <source>Slow down</source>
+        <translation>Verlangsamen</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Take the drag back, leave a mode</source>
+        <translation>Das Ziehen zurücknehmen, einen Modus verlassen</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is locked</source>
+        <translation>„%1“ ist gesperrt</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>a clip plane cannot be duplicated</source>
+        <translation>eine Schnittebene kann nicht dupliziert werden</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Duplizieren</translation>
+    </message>
+    <message>
+        <source>a name has at least one letter</source>
+        <translation>ein Name hat mindestens einen Buchstaben</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
 </context>
 <context>
     <name>viewer::AboutBox</name>
@@ -641,60 +733,20 @@
         <translation>Einzelheit</translation>
     </message>
     <message>
-        <source>Everything</source>
-        <translation>Alles</translation>
-    </message>
-    <message>
         <source>Note</source>
         <translation>Hinweis</translation>
-    </message>
-    <message>
-        <source>From notes on</source>
-        <translation>Ab Hinweisen</translation>
     </message>
     <message>
         <source>Warning</source>
         <translation>Warnung</translation>
     </message>
     <message>
-        <source>Warnings and errors</source>
-        <translation>Warnungen und Fehler</translation>
-    </message>
-    <message>
         <source>Error</source>
         <translation>Fehler</translation>
     </message>
     <message>
-        <source>Errors only</source>
-        <translation>Nur Fehler</translation>
-    </message>
-    <message>
-        <source>Messages shown</source>
-        <translation>Gezeigte Meldungen</translation>
-    </message>
-    <message>
-        <source>Copy the messages selected, or all</source>
-        <translation>Die ausgewählten oder alle Meldungen kopieren</translation>
-    </message>
-    <message>
-        <source>Clear the messages</source>
-        <translation>Meldungen leeren</translation>
-    </message>
-    <message>
         <source>Messages</source>
         <translation>Meldungen</translation>
-    </message>
-    <message>
-        <source>Time</source>
-        <translation>Zeit</translation>
-    </message>
-    <message>
-        <source>Level</source>
-        <translation>Stufe</translation>
-    </message>
-    <message>
-        <source>Message</source>
-        <translation>Meldung</translation>
     </message>
 </context>
 <context>
@@ -1364,6 +1416,10 @@
         <source>(no name)</source>
         <translation>(ohne Namen)</translation>
     </message>
+    <message>
+        <source>Locked</source>
+        <translation>Gesperrt</translation>
+    </message>
 </context>
 <context>
     <name>viewer::StatusLine</name>
@@ -1422,6 +1478,14 @@
     <message>
         <source>%1: Ctrl snaps, Shift slows, Esc cancels</source>
         <translation>%1: Strg rastet ein, Umschalt verlangsamt, Esc bricht ab</translation>
+    </message>
+    <message>
+        <source>Axes of the object</source>
+        <translation>Achsen des Objekts</translation>
+    </message>
+    <message>
+        <source>World axes</source>
+        <translation>Weltachsen</translation>
     </message>
 </context>
 <context>
@@ -1693,10 +1757,6 @@
         <translation>Szenentafeln &amp;bearbeiten</translation>
     </message>
     <message>
-        <source>&amp;Delete scene plates</source>
-        <translation>Szenentafeln lös&amp;chen</translation>
-    </message>
-    <message>
         <source>Edit pictures on o&amp;bjects</source>
         <translation>Bilder auf &amp;Objekten bearbeiten</translation>
     </message>
@@ -1787,6 +1847,30 @@
     <message>
         <source>Hold the view: nothing moves the camera until this is lifted</source>
         <translation>Ansicht festhalten: nichts bewegt die Kamera, bis dies aufgehoben wird</translation>
+    </message>
+    <message>
+        <source>Dup&amp;licate</source>
+        <translation>&amp;Duplizieren</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>Rena&amp;me</source>
+        <translation>Um&amp;benennen</translation>
+    </message>
+    <message>
+        <source>&amp;Hide or show</source>
+        <translation>Aus- oder &amp;einblenden</translation>
+    </message>
+    <message>
+        <source>Loc&amp;k or unlock</source>
+        <translation>Sperren oder &amp;freigeben</translation>
+    </message>
+    <message>
+        <source>&amp;Shortcuts…</source>
+        <translation>&amp;Tastenkürzel…</translation>
     </message>
 </context>
 </TS>

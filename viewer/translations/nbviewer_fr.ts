@@ -579,6 +579,98 @@
         <source>Scale the depth</source>
         <translation>Mettre la profondeur à l&apos;échelle</translation>
     </message>
+    <message>
+        <source>Right button</source>
+        <translation>Bouton droit</translation>
+    </message>
+    <message>
+        <source>Orbit; a click: menu</source>
+        <translation>Tourner ; un clic : menu</translation>
+    </message>
+    <message>
+        <source>Middle button</source>
+        <translation>Bouton du milieu</translation>
+    </message>
+    <message>
+        <source>Pan</source>
+        <translation>Déplacer la vue</translation>
+    </message>
+    <message>
+        <source>Wheel</source>
+        <translation>Molette</translation>
+    </message>
+    <message>
+        <source>Zoom towards the pointer</source>
+        <translation>Zoomer vers le pointeur</translation>
+    </message>
+    <message>
+        <source>Click</source>
+        <translation>Clic</translation>
+    </message>
+    <message>
+        <source>Select; Ctrl or Shift: further objects</source>
+        <translation>Sélectionner ; Ctrl ou Maj : d&apos;autres objets</translation>
+    </message>
+    <message>
+        <source>Drag from empty space</source>
+        <translation>Glisser depuis le vide</translation>
+    </message>
+    <message>
+        <source>Select what lies in the rectangle</source>
+        <translation>Sélectionner ce qui est dans le rectangle</translation>
+    </message>
+    <message>
+        <source>Ctrl in a drag</source>
+        <translation>Ctrl en glissant</translation>
+    </message>
+    <message>
+        <source>Snap</source>
+        <translation>Aligner</translation>
+    </message>
+    <message>
+        <source>Shift in a drag</source>
+        <translation>Maj en glissant</translation>
+    </message>
+    <message>
+        <source>Slow down</source>
+        <translation>Ralentir</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Échap</translation>
+    </message>
+    <message>
+        <source>Take the drag back, leave a mode</source>
+        <translation>Annuler le déplacement, quitter un mode</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Raccourcis</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is locked</source>
+        <translation>« %1 » est verrouillé</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>a clip plane cannot be duplicated</source>
+        <translation>un plan de coupe ne peut pas être dupliqué</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Dupliquer</translation>
+    </message>
+    <message>
+        <source>a name has at least one letter</source>
+        <translation>un nom a au moins une lettre</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Renommer</translation>
+    </message>
 </context>
 <context>
     <name>viewer::AboutBox</name>
@@ -641,60 +733,20 @@
         <translation>Détail</translation>
     </message>
     <message>
-        <source>Everything</source>
-        <translation>Tout</translation>
-    </message>
-    <message>
         <source>Note</source>
         <translation>Note</translation>
-    </message>
-    <message>
-        <source>From notes on</source>
-        <translation>À partir des notes</translation>
     </message>
     <message>
         <source>Warning</source>
         <translation>Avertissement</translation>
     </message>
     <message>
-        <source>Warnings and errors</source>
-        <translation>Avertissements et erreurs</translation>
-    </message>
-    <message>
         <source>Error</source>
         <translation>Erreur</translation>
     </message>
     <message>
-        <source>Errors only</source>
-        <translation>Erreurs seulement</translation>
-    </message>
-    <message>
-        <source>Messages shown</source>
-        <translation>Messages affichés</translation>
-    </message>
-    <message>
-        <source>Copy the messages selected, or all</source>
-        <translation>Copier les messages sélectionnés, ou tous</translation>
-    </message>
-    <message>
-        <source>Clear the messages</source>
-        <translation>Effacer les messages</translation>
-    </message>
-    <message>
         <source>Messages</source>
         <translation>Messages</translation>
-    </message>
-    <message>
-        <source>Time</source>
-        <translation>Heure</translation>
-    </message>
-    <message>
-        <source>Level</source>
-        <translation>Niveau</translation>
-    </message>
-    <message>
-        <source>Message</source>
-        <translation>Message</translation>
     </message>
 </context>
 <context>
@@ -1364,6 +1416,10 @@
         <source>(no name)</source>
         <translation>(sans nom)</translation>
     </message>
+    <message>
+        <source>Locked</source>
+        <translation>Verrouillé</translation>
+    </message>
 </context>
 <context>
     <name>viewer::StatusLine</name>
@@ -1422,6 +1478,14 @@
     <message>
         <source>%1: Ctrl snaps, Shift slows, Esc cancels</source>
         <translation>%1 : Ctrl aligne, Maj ralentit, Échap annule</translation>
+    </message>
+    <message>
+        <source>Axes of the object</source>
+        <translation>Axes de l&apos;objet</translation>
+    </message>
+    <message>
+        <source>World axes</source>
+        <translation>Axes du monde</translation>
     </message>
 </context>
 <context>
@@ -1693,10 +1757,6 @@
         <translation>Modi&amp;fier les plaques de scène</translation>
     </message>
     <message>
-        <source>&amp;Delete scene plates</source>
-        <translation>&amp;Supprimer les plaques de scène</translation>
-    </message>
-    <message>
         <source>Edit pictures on o&amp;bjects</source>
         <translation>Modifier les images sur les o&amp;bjets</translation>
     </message>
@@ -1787,6 +1847,30 @@
     <message>
         <source>Hold the view: nothing moves the camera until this is lifted</source>
         <translation>Verrouiller la vue : rien ne déplace la caméra tant que c&apos;est actif</translation>
+    </message>
+    <message>
+        <source>Dup&amp;licate</source>
+        <translation>&amp;Dupliquer</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>Rena&amp;me</source>
+        <translation>Reno&amp;mmer</translation>
+    </message>
+    <message>
+        <source>&amp;Hide or show</source>
+        <translation>Masquer ou affic&amp;her</translation>
+    </message>
+    <message>
+        <source>Loc&amp;k or unlock</source>
+        <translation>&amp;Verrouiller ou déverrouiller</translation>
+    </message>
+    <message>
+        <source>&amp;Shortcuts…</source>
+        <translation>Ra&amp;ccourcis…</translation>
     </message>
 </context>
 </TS>

@@ -577,6 +577,98 @@
         <source>Scale the depth</source>
         <translation>缩放深度</translation>
     </message>
+    <message>
+        <source>Right button</source>
+        <translation>右键</translation>
+    </message>
+    <message>
+        <source>Orbit; a click: menu</source>
+        <translation>环绕；单击：菜单</translation>
+    </message>
+    <message>
+        <source>Middle button</source>
+        <translation>中键</translation>
+    </message>
+    <message>
+        <source>Pan</source>
+        <translation>平移</translation>
+    </message>
+    <message>
+        <source>Wheel</source>
+        <translation>滚轮</translation>
+    </message>
+    <message>
+        <source>Zoom towards the pointer</source>
+        <translation>朝指针缩放</translation>
+    </message>
+    <message>
+        <source>Click</source>
+        <translation>单击</translation>
+    </message>
+    <message>
+        <source>Select; Ctrl or Shift: further objects</source>
+        <translation>选择；Ctrl 或 Shift：更多对象</translation>
+    </message>
+    <message>
+        <source>Drag from empty space</source>
+        <translation>从空白处拖动</translation>
+    </message>
+    <message>
+        <source>Select what lies in the rectangle</source>
+        <translation>选择矩形内的对象</translation>
+    </message>
+    <message>
+        <source>Ctrl in a drag</source>
+        <translation>拖动时按 Ctrl</translation>
+    </message>
+    <message>
+        <source>Snap</source>
+        <translation>捕捉</translation>
+    </message>
+    <message>
+        <source>Shift in a drag</source>
+        <translation>拖动时按 Shift</translation>
+    </message>
+    <message>
+        <source>Slow down</source>
+        <translation>减速</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Take the drag back, leave a mode</source>
+        <translation>取消拖动，退出模式</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>快捷键</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is locked</source>
+        <translation>“%1”已锁定</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>a clip plane cannot be duplicated</source>
+        <translation>剖切平面不能复制</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>a name has at least one letter</source>
+        <translation>名称至少要有一个字符</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>重命名</translation>
+    </message>
 </context>
 <context>
     <name>viewer::AboutBox</name>
@@ -639,59 +731,19 @@
         <translation>细节</translation>
     </message>
     <message>
-        <source>Everything</source>
-        <translation>全部</translation>
-    </message>
-    <message>
         <source>Note</source>
         <translation>提示</translation>
-    </message>
-    <message>
-        <source>From notes on</source>
-        <translation>提示及以上</translation>
     </message>
     <message>
         <source>Warning</source>
         <translation>警告</translation>
     </message>
     <message>
-        <source>Warnings and errors</source>
-        <translation>警告和错误</translation>
-    </message>
-    <message>
         <source>Error</source>
         <translation>错误</translation>
     </message>
     <message>
-        <source>Errors only</source>
-        <translation>仅错误</translation>
-    </message>
-    <message>
-        <source>Messages shown</source>
-        <translation>显示的消息</translation>
-    </message>
-    <message>
-        <source>Copy the messages selected, or all</source>
-        <translation>复制所选消息或全部消息</translation>
-    </message>
-    <message>
-        <source>Clear the messages</source>
-        <translation>清空消息</translation>
-    </message>
-    <message>
         <source>Messages</source>
-        <translation>消息</translation>
-    </message>
-    <message>
-        <source>Time</source>
-        <translation>时间</translation>
-    </message>
-    <message>
-        <source>Level</source>
-        <translation>级别</translation>
-    </message>
-    <message>
-        <source>Message</source>
         <translation>消息</translation>
     </message>
 </context>
@@ -1362,6 +1414,10 @@
         <source>(no name)</source>
         <translation>（无名称）</translation>
     </message>
+    <message>
+        <source>Locked</source>
+        <translation>已锁定</translation>
+    </message>
 </context>
 <context>
     <name>viewer::StatusLine</name>
@@ -1418,6 +1474,14 @@
     <message>
         <source>%1: Ctrl snaps, Shift slows, Esc cancels</source>
         <translation>%1：Ctrl 捕捉，Shift 减速，Esc 取消</translation>
+    </message>
+    <message>
+        <source>Axes of the object</source>
+        <translation>对象坐标轴</translation>
+    </message>
+    <message>
+        <source>World axes</source>
+        <translation>世界坐标轴</translation>
     </message>
 </context>
 <context>
@@ -1689,10 +1753,6 @@
         <translation>编辑场景板(&amp;A)</translation>
     </message>
     <message>
-        <source>&amp;Delete scene plates</source>
-        <translation>删除场景板(&amp;D)</translation>
-    </message>
-    <message>
         <source>Edit pictures on o&amp;bjects</source>
         <translation>编辑对象上的图片(&amp;B)</translation>
     </message>
@@ -1783,6 +1843,30 @@
     <message>
         <source>Hold the view: nothing moves the camera until this is lifted</source>
         <translation>锁定视图：解除前相机不会移动</translation>
+    </message>
+    <message>
+        <source>Dup&amp;licate</source>
+        <translation>复制(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>删除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Rena&amp;me</source>
+        <translation>重命名(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;Hide or show</source>
+        <translation>隐藏或显示(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Loc&amp;k or unlock</source>
+        <translation>锁定或解锁(&amp;K)</translation>
+    </message>
+    <message>
+        <source>&amp;Shortcuts…</source>
+        <translation>快捷键(&amp;S)…</translation>
     </message>
 </context>
 </TS>

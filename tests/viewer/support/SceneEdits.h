@@ -29,7 +29,7 @@ public:
     /// Makes one edit; whether it was possible does not matter.
     void make()
     {
-        switch (random() % 12) {
+        switch (random() % 13) {
         case 0:
         case 1:
         case 2:
@@ -63,6 +63,10 @@ public:
             break;
         case 10:
             stage.undo();
+            break;
+        case 11:
+            run(oneOf({ "scene.delete", "scene.duplicate", "scene.duplicate" }), {});
+            run("object.name", oneOf({ "Urn", "Box" }));
             break;
         default:
             moveCamera();
