@@ -26,23 +26,44 @@ Gizmo::~Gizmo() = default;
 
 // == Events
 
-osg::NodePtr Gizmo::pickHandle(interaction::Picker* picker)
+osg::NodePtr Gizmo::pickHandle(interaction::Picker* picker,
+                               const std::function<int(const osg::NodePtr&)>& rankOf)
 {
     using interaction::Picker;
     if (picker == nullptr) {
         return osg::NodePtr();
     }
     picker->setFilter(Picker::HandleFilter);
-    const osg::NodePtr hit = picker->pick();
+    const osg::NodePtr hit = picker->pick(rankOf);
     picker->setFilter(Picker::SceneFilter);
     return hit;
 }
 
 int Gizmo::detect(interaction::Picker* picker)
 {
-    const osg::NodePtr hit = hasTarget() ? pickHandle(picker) : osg::NodePtr();
+    const osg::NodePtr hit = hasTarget()
+        ? pickHandle(picker, [this](const osg::NodePtr& part) { return rankSeen(part); })
+        : osg::NodePtr();
     const int handle = handles.find(hit);
     return handle != 0 && nbNodeUtils::hasParent(hit, root.get()) ? handle : 0;
+}
+
+/// Rank by how a handle is seen: those whose motion can be seen come first, then what points at the
+/// viewer and planes seen edge-on, then rings seen edge-on, which lie over the arrows.
+int Gizmo::rankSeen(const osg::NodePtr& part) const
+{
+    constexpr float kLeastOpenness = 0.1F;
+    constexpr float kLeastOpennessOfPlane = 0.175F;
+    const HandleRow* const row = handles.findRow(part);
+    if (row == nullptr || !View().exists()) {
+        return 0;
+    }
+    const osg::Pnt3f centre(column(handles.getRoot()->getToWorld(), 3));
+    const float openness = handles.openness(*row, View().sightAt(centre));
+    if (row->action.kind == DragParameters::Kind::Angle) {
+        return openness < kLeastOpenness ? 2 : 0;
+    }
+    return openness < (row->action.isPlane() ? kLeastOpennessOfPlane : kLeastOpenness) ? 1 : 0;
 }
 
 bool Gizmo::hover(interaction::Picker* picker)

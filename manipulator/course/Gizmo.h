@@ -13,6 +13,7 @@
 
 #include <QtCore/QString>
 
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -90,7 +91,9 @@ public:
     int getMode() const { return mode; }
 
     /// What a picker hits of handles. @param picker  null hits nothing
-    static osg::NodePtr pickHandle(interaction::Picker* picker);
+    /// @param rankOf  see Picker::pick()
+    static osg::NodePtr pickHandle(interaction::Picker* picker,
+                                   const std::function<int(const osg::NodePtr&)>& rankOf = {});
 
     /// The handle that a step would drag, 0 for none.
     int getArmed() const { return armed; }
@@ -205,6 +208,7 @@ private:
     bool changeAxis(std::size_t axis) override;
 
     int detect(interaction::Picker* picker);
+    int rankSeen(const osg::NodePtr& part) const;
     bool startEvent(interaction::Picker* picker);
     bool processEvent(const View& view);
     bool stopEvent();

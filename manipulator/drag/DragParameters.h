@@ -72,6 +72,12 @@ struct HandleAction
     DragParameters::Kind kind = DragParameters::Kind::None;
     /// Bit i for axis i: along it, or about it of a turn. All three for a change of all sides.
     unsigned axes = 0;
+
+    /// Whether it moves in a plane of two axes.
+    bool isPlane() const
+    {
+        return kind == DragParameters::Kind::Offset && (axes == 3 || axes == 5 || axes == 6);
+    }
 };
 
 constexpr unsigned kAllAxes = 7;

@@ -11,6 +11,7 @@
 #include <OpenSG/OSGTransform.h>
 
 #include <algorithm>
+#include <cmath>
 #include <string_view>
 #include <utility>
 
@@ -120,18 +121,54 @@ const HandleRow* HandleSet::findRow(int handle) const
     return found != table->rows.end() ? &*found : nullptr;
 }
 
-int HandleSet::find(const osg::NodePtr& node) const
+const HandleRow* HandleSet::findRow(const osg::NodePtr& node) const
 {
     const char* const name = node != osg::NullFC ? osg::getName(node) : nullptr;
     if (name == nullptr) {
-        return 0;
+        return nullptr;
     }
     for (const HandleRow& row : table->rows) {
         if (row.name != nullptr && std::string_view(name) == row.name) {
-            return row.handle;
+            return &row;
         }
     }
-    return 0;
+    return nullptr;
+}
+
+int HandleSet::find(const osg::NodePtr& node) const
+{
+    const HandleRow* const row = findRow(node);
+    return row != nullptr ? row->handle : 0;
+}
+
+osg::Vec3f HandleSet::axisOf(const HandleRow& row, std::size_t axis) const
+{
+    osg::Vec3f along;
+    along[static_cast<osg::UInt32>(axis)] = 1.0F;
+    quaternionOf(row.turn).inverse().multVec(along, along);
+    handles[static_cast<std::size_t>(&row - table->rows.data())].top->getToWorld().multMatrixVec(
+        along);
+    along.normalize();
+    return along;
+}
+
+float HandleSet::openness(const HandleRow& row, const osg::Vec3f& sight) const
+{
+    const bool isTurn = row.action.kind == DragParameters::Kind::Angle;
+    if (row.action.isPlane()) {
+        const std::size_t first = hasAxis(row.action.axes, 0) ? 0 : 1;
+        const std::size_t second = hasAxis(row.action.axes, 2) ? 2 : 1;
+        osg::Vec3f normal = axisOf(row, first).cross(axisOf(row, second));
+        normal.normalize();
+        return std::abs(normal.dot(sight));
+    }
+    for (std::size_t axis = 0; axis < 3; ++axis) {
+        if (row.action.axes == axisBit(axis)) {
+            const osg::Vec3f along = axisOf(row, axis);
+            return isTurn ? std::abs(along.dot(sight)) : along.cross(sight).length();
+        }
+    }
+    return 1.0F;
 }
 
 // == Colours

@@ -47,6 +47,15 @@ public:
     /// The first row of a handle; null for 0.
     const HandleRow* findRow(int handle) const;
 
+    /// The row that a node is part of, as find(); null for any other node.
+    const HandleRow* findRow(const osg::NodePtr& node) const;
+
+    /// How well a handle's motion is seen: sine of the angle between the line of sight and the
+    /// handle's axis, or the plane of its ring or plane. 1 for one without.
+    /// @param row    of the table
+    /// @param sight  world, unit length
+    float openness(const HandleRow& row, const osg::Vec3f& sight) const;
+
     /// The handle that a node is part of, by its name; 0 for any other node and null. Rows are
     /// compared in their order, exactly.
     int find(const osg::NodePtr& node) const;
@@ -86,6 +95,7 @@ private:
     };
 
     static Nodes buildHandle(const HandleRow& row);
+    osg::Vec3f axisOf(const HandleRow& row, std::size_t axis) const;
     void colour(std::size_t row, bool isLit, int mode);
     bool isShown(std::size_t row, int mode, const HandleRow* held) const;
 

@@ -81,15 +81,25 @@ float Picker::getPixelRatio() const
 
 osg::NodePtr Picker::pick()
 {
+    return pick(HandleRank());
+}
+
+osg::NodePtr Picker::pick(const HandleRank& rankOf)
+{
     const nbOSGWidget* widget = nbOSGWidget::getMGLW(-1);
     if (widget == nullptr) {
         forgetHit();
         return {};
     }
-    return pickAt(widget->getMousePosition());
+    return pickAt(widget->getMousePosition(), rankOf);
 }
 
 osg::NodePtr Picker::pickAt(const osg::Pnt2f& px)
+{
+    return pickAt(px, HandleRank());
+}
+
+osg::NodePtr Picker::pickAt(const osg::Pnt2f& px, const HandleRank& rankOf)
 {
     forgetHit();
     if (filter == SceneplateFilter) {
@@ -111,7 +121,12 @@ osg::NodePtr Picker::pickAt(const osg::Pnt2f& px)
         }
     } else if (filter == HandleFilter) {
         detail::HandleHit hit;
-        if (handlePicking->pick(getPickNode(), root, *view, centre, kTolerance * pixelRatio, hit)) {
+        std::function<int(osg::UInt32)> rankOfId;
+        if (rankOf) {
+            rankOfId = [&rankOf](osg::UInt32 id) { return rankOf(nodeOf(id)); };
+        }
+        if (handlePicking->pick(getPickNode(), root, *view, centre, kTolerance * pixelRatio,
+                                rankOfId, hit)) {
             const osg::NodePtr node = nodeOf(hit.nodeId);
             rememberHit(node, hit.point, hit.normal);
             return node;

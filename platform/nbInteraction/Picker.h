@@ -8,6 +8,7 @@
 
 #include <QRect>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -81,6 +82,14 @@ public:
     /// @return the hit geometry node; null if there is none, no widget, no camera or no area
     osg::NodePtr pick();
 
+    /// Rank of a handle by its node; 0 before 1, and so on.
+    using HandleRank = std::function<int(const osg::NodePtr&)>;
+
+    /// The same, but of all handles within the tolerance those of the least rank count alone. Other
+    /// filters ignore it.
+    /// @param rankOf  asked only if there is a choice, of nodes within the tolerance
+    osg::NodePtr pick(const HandleRank& rankOf);
+
     /// Picks at a pixel of the main widget and remembers the hit.
     /// The ray goes through the centre of the pixel that holds the position.
     /// @param px  device pixels, y from the top; outside the view or NaN: no hit
@@ -118,6 +127,7 @@ public:
     static std::string getSearchLibrary();
 
 private:
+    osg::NodePtr pickAt(const osg::Pnt2f& px, const HandleRank& rankOf);
     void rememberHit(const osg::NodePtr& node, const osg::Pnt3f& point, const osg::Vec3f& normal);
     void forgetHit();
 

@@ -286,6 +286,29 @@ TYPED_TEST(Handles, AreDrawnUnlitAfterTheSceneAndTheirDepthPassBeforeThem)
     }
 }
 
+TEST(HandlesSeenEndOn, GiveWayToThoseWhoseMotionIsSeen)
+{
+    using Mode = Transform::ManipulatorMode;
+    DragScene at;
+    const auto hit = [&at](const Vec3f& unit) {
+        at.scene.send("hover", at.rayPixelOf(at.onGizmo(unit)));
+        return nbNodeUtils::getName(at.scene.picker.getHitNode());
+    };
+    for (const bool isOrthographic : { false, true }) {
+        at.look(Camera::Front, isOrthographic);
+        at.activate(Mode::Universal);
+        EXPECT_EQ(hit({ 0, 0, 0 }), "grid") << "not the arrow that points at the viewer";
+        at.activate(Mode::TranslateRotate);
+        for (const float along : { 0.6F, 1.2F, 1.5F, 1.9F }) {
+            EXPECT_EQ(hit({ along, 0, 0 }), "xaShape") << along;
+            EXPECT_EQ(hit({ 0, along, 0 }), "yaShape") << along;
+        }
+        EXPECT_EQ(hit({ 0.3F, 0, 0 }), "xaShape") << "not the plane seen edge-on";
+        EXPECT_EQ(hit({ -1, 0, 0 }), "ryShape") << "where nothing else is";
+        EXPECT_EQ(hit(kRing), "rzShape");
+    }
+}
+
 TEST(HandleTrees, HaveTheirChildrenInTheirOrder)
 {
     const auto namesOf = [](const osg::NodePtr& node) {

@@ -34,7 +34,7 @@ TEST(PlanarTextureManipulatorDrag, SendsNothingWhileThePlaneIsMissed)
     // An arrow that points at the viewer has no plane.
     planar.gizmo.activateTranslateManipulator();
     planar.look(Camera::Front, true);
-    ASSERT_TRUE(planar.drag.press(planar.onHandle("zaShape", Vec3f(-0.05F, -0.05F, -1))));
+    ASSERT_TRUE(planar.drag.press(planar.onHandle("zaShape", Vec3f(-0.1F, -0.1F, -1))));
     EXPECT_EQ(planar.gizmo.getActiveMode(), Gizmo::ActiveMode::TranslateZ);
     planar.log.clear();
     EXPECT_TRUE(planar.drag.dragBy(Vec2f(20, 30)));

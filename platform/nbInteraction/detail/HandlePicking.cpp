@@ -75,7 +75,7 @@ bool isShown(osg::NodePtr node)
 
 bool HandlePicking::pick(const osg::NodePtr& pickNode, const osg::NodePtr& worldRoot,
                          const PickView& view, const ScreenPoint& position, float tolerancePx,
-                         HandleHit& hit)
+                         const std::function<int(osg::UInt32)>& rankOf, HandleHit& hit)
 {
     const bool allCount = pickNode != osg::NullFC;
     const osg::NodePtr top = allCount ? pickNode : worldRoot;
@@ -83,7 +83,8 @@ bool HandlePicking::pick(const osg::NodePtr& pickNode, const osg::NodePtr& world
         return false;
     }
     refresh(top, allCount, view);
-    return table.pick(position, tolerancePx, hit);
+    return rankOf ? table.pick(position, tolerancePx, rankOf, hit)
+                  : table.pick(position, tolerancePx, hit);
 }
 
 void HandlePicking::refresh(const osg::NodePtr& top, bool allCount, const PickView& view)

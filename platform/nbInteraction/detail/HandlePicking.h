@@ -20,8 +20,10 @@ public:
     /// @param pickNode     top of the handles; null: below worldRoot, what is marked manipulator or
     /// selectable auxiliary
     /// @param tolerancePx  device pixels
+    /// @param rankOf       see HandleTable::pick(); null: all alike
     bool pick(const osg::NodePtr& pickNode, const osg::NodePtr& worldRoot, const PickView& view,
-              const ScreenPoint& position, float tolerancePx, HandleHit& hit);
+              const ScreenPoint& position, float tolerancePx,
+              const std::function<int(osg::UInt32)>& rankOf, HandleHit& hit);
 
 private:
     /// What holds for a node because of its ancestors.

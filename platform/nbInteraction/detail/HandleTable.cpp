@@ -223,10 +223,52 @@ bool HandleTable::pick(const ScreenPoint& position, float tolerancePx, HandleHit
     candidates.clear();
     float bestPx = tolerancePx;
     for (std::size_t i = 0; i < screenHandles.size(); ++i) {
-        if (screenHandles[i].box.isNear(position, tolerancePx + handles[i].halfWidthPx)) {
+        if (isNear(i, position, tolerancePx)) {
             collect(static_cast<std::uint32_t>(i), position, tolerancePx, bestPx);
         }
     }
+    return choose(bestPx, hit);
+}
+
+bool HandleTable::pick(const ScreenPoint& position, float tolerancePx,
+                       const std::function<int(osg::UInt32)>& rankOf, HandleHit& hit)
+{
+    if (!pick(position, tolerancePx, hit)) {
+        return false;
+    }
+    int bestRank = rankOf(hit.nodeId);
+    if (bestRank <= 0) {
+        return true;
+    }
+    candidates.clear();
+    float bestPx = tolerancePx;
+    for (std::size_t i = 0; i < screenHandles.size(); ++i) {
+        const auto known = static_cast<std::ptrdiff_t>(candidates.size());
+        float ownPx = tolerancePx;
+        if (isNear(i, position, tolerancePx)) {
+            collect(static_cast<std::uint32_t>(i), position, tolerancePx, ownPx);
+        }
+        if (candidates.size() == static_cast<std::size_t>(known)) {
+            continue;
+        }
+        const int rank = rankOf(handles[i].nodeId);
+        if (rank > bestRank) {
+            candidates.erase(candidates.begin() + known, candidates.end());
+            continue;
+        }
+        if (rank < bestRank) {
+            candidates.erase(candidates.begin(), candidates.begin() + known);
+            bestPx = ownPx;
+        }
+        bestRank = rank;
+        bestPx = std::min(bestPx, ownPx);
+    }
+    return choose(bestPx, hit);
+}
+
+/// The one that wins of the collected candidates. @param bestPx  their least distance
+bool HandleTable::choose(float bestPx, HandleHit& hit) const
+{
     // In three sieves rather than by one comparison: "nearly equal" is not transitive, so sorting
     // by it has no meaning.
     float leastDepth = ScreenBox::kFar;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <vector>
 
 #include "GeometrySoup.h"
@@ -48,6 +49,12 @@ public:
     /// @param tolerancePx  device pixels, >= 0
     /// @return false if nothing lies within the tolerance
     bool pick(const ScreenPoint& position, float tolerancePx, HandleHit& hit);
+
+    /// The same, but handles of a lesser rank win before those of a greater one, wherever within
+    /// the tolerance they lie.
+    /// @param rankOf  of a node by its id, from 0; asked only of nodes within the tolerance
+    bool pick(const ScreenPoint& position, float tolerancePx,
+              const std::function<int(osg::UInt32)>& rankOf, HandleHit& hit);
 
 private:
     /// A point, segment or triangle of a handle; points repeat their vertex.
@@ -115,6 +122,14 @@ private:
     void addScreenPrimitive(const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c,
                             std::uint32_t index);
     void closeRuns(std::size_t first);
+    bool choose(float bestPx, HandleHit& hit) const;
+
+    bool isNear(std::size_t handle, const ScreenPoint& position, float tolerancePx) const
+    {
+        return screenHandles[handle].box.isNear(position,
+                                                tolerancePx + handles[handle].halfWidthPx);
+    }
+
     void collect(std::uint32_t handle, const ScreenPoint& position, float tolerancePx,
                  float& bestPx);
     static float depthAt(const ScreenPrimitive& primitive, const float* weights);
