@@ -92,7 +92,7 @@ void oneNodeWatched(benchmark::State& state, const Drag& drag)
     Stage stage(0);
     std::size_t heard = 0;
     stage.gizmo.setReadoutShown(true);
-    stage.gizmo.addDragListener([&heard](const DragEvent&) { ++heard; });
+    stage.gizmo.addDragListener([&heard](const nbec::manipulator::DragEvent&) { ++heard; });
     runSteps(state, stage, drag);
     state.counters["heard"] = static_cast<double>(heard);
 }

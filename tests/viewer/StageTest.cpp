@@ -5,6 +5,7 @@
 #include "viewer/loading/BuiltModel.h"
 #include "viewer/stage/HandleCursor.h"
 
+#include <nbInteraction/EventNames.h>
 #include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
@@ -15,6 +16,8 @@
 
 namespace viewer {
 namespace {
+
+namespace names = nbec::interaction::names;
 
 using StageWithStartScene = StageTest;
 

@@ -138,7 +138,8 @@ void DragScene::activate(Gizmo::ManipulatorMode mode)
                                    &Gizmo::activateTranslateRotateManipulator,
                                    &Gizmo::activateTranslateRotateYZManipulator,
                                    &Gizmo::activateTranslateRotateScaleManipulator };
-    (gizmo.*kActivate[static_cast<std::size_t>(mode)])();
+    const auto activation = kActivate[static_cast<std::size_t>(mode)];
+    (gizmo.*activation)();
     EXPECT_EQ(gizmo.getMode(), mode);
 }
 
