@@ -48,16 +48,14 @@ struct LiftScene
         return manager.triggerEvent(InteractionEvent(event, "tool", "select"));
     }
 
-    /// Drags from one height of the view to another, as one undo step.
+    /// Drags from one height of the view to another, which the manager makes one undo step.
     void drag(float x, float fromY, float toY)
     {
-        nbUndoService::the()->beginGroup();
         send("hover", x, fromY);
         send("start", x, fromY);
         send("process", x, fromY);
         send("process", x, toY);
         send("stop", x, toY);
-        nbUndoService::the()->endGroup();
     }
 
     nbOSGWidget view;  ///< eye at (0, 0, 10), looking along -z

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <nbInteraction/EventNames.h>
 #include <nbInteraction/InteractionManager.h>
+#include <nbKernelServices/nbUndoService.h>
 #include <nbUtils/nbGuard.h>
 
 #include <algorithm>
@@ -277,7 +278,12 @@ bool InteractionManager::startDrag(const InteractionEvent& event)
     dragState = DragState::Running;
     dragTool = event.getTool();
     dragHint = event.getHint();
+    // Before the start is delivered, as that may already edit.
+    openUndoGroup();
     const std::uint64_t taker = offer(event);
+    if (taker == 0 && dragNumber == number) {
+        closeUndoGroup(DragEnd::Released);
+    }
     if (taker != 0 && isDragging() && dragNumber == number) {
         // Who takes a drag and leaves at once leaves nobody to go on with it.
         dragOwner = contextOf(taker) ? taker : 0;
@@ -298,11 +304,41 @@ bool InteractionManager::finishDrag(const InteractionEvent& event, DragEnd end)
 {
     const DragState formerState = std::exchange(dragState, DragState::None);
     const std::uint64_t owner = std::exchange(dragOwner, 0);
+    const std::uint64_t number = dragNumber;
     if (formerState == DragState::Over) {
         return false;
     }
     const ScopedValue<DragEnd> reason(dragEnd, end);
-    return owner != 0 ? offerTo(owner, event) : offer(event) != 0;
+    const bool answer = owner != 0 ? offerTo(owner, event) : offer(event) != 0;
+    if (dragNumber == number) {
+        closeUndoGroup(end);
+    }
+    return answer;
+}
+
+void InteractionManager::openUndoGroup()
+{
+    closeUndoGroup(DragEnd::Released);
+    nbUndoService* const undo = nbUndoService::the();
+    if (dragTool != names::kCamera && !undo->isGroupOpen()) {
+        undo->beginGroup();
+        undoGroup = undo->getGroupChangeCount();
+    }
+}
+
+void InteractionManager::closeUndoGroup(DragEnd end)
+{
+    nbUndoService* const undo = nbUndoService::the();
+    const std::uint64_t group = std::exchange(undoGroup, 0);
+    // Whoever closed it or opened another one instead has taken care of it.
+    if (group == 0 || group != undo->getGroupChangeCount()) {
+        return;
+    }
+    if (end == DragEnd::Cancelled) {
+        undo->cancelGroup();
+    } else {
+        undo->endGroup();
+    }
 }
 
 void InteractionManager::breakDrag(DragEnd end)

@@ -41,6 +41,11 @@ struct DragKeys
 /// "process" events up to and with the next "stop" are dropped, as they belong to a drag that is
 /// over.
 ///
+/// Undo: what a drag edits that a context takes becomes one step of nbUndoService. The group is
+/// opened before "start" is delivered and closed after "stop"; a cancelled drag is taken back in
+/// it. Drags of the tool "camera" have none. A group that is open already, or that a context opens
+/// instead, belongs to who opened it.
+///
 /// Hover: when a context takes a hover that one after it took before, that one gets a "stopHover"
 /// and the taker the hover once more.
 ///
@@ -96,12 +101,12 @@ public:
     DragEnd getDragEnd() const;
     /// Ends a running drag early with a "stop" event; what it did stays.
     void endDrag();
-    /// Ends a running drag early with a "stop" event and takes it back: the cancel handler is
-    /// called after the stop event if a context had taken the drag. Drags of the tool "camera" are
-    /// taken back by their context alone, so that no edit of the scene is lost for them.
+    /// Ends a running drag early with a "stop" event and takes it back: its group of undo, and then
+    /// by the cancel handler, if a context had taken the drag. Drags of the tool "camera" are taken
+    /// back by their context alone, so that no edit of the scene is lost for them.
     void cancelDrag();
-    /// Sets what takes back the edits of a cancelled drag; null for nothing. A drag may have made
-    /// no edit; then the handler must change nothing.
+    /// Sets what takes back what undo does not know of a cancelled drag; null for nothing. A drag
+    /// may have made no edit; then the handler must change nothing.
     void setCancelHandler(std::function<void()> handler);
 
     /// Sets who takes the keys of running drags.
@@ -135,6 +140,8 @@ private:
     bool finishDrag(const InteractionEvent& event, DragEnd end);
     /// Ends a running drag with a stop event of its own.
     void breakDrag(DragEnd end);
+    void openUndoGroup();
+    void closeUndoGroup(DragEnd end);
 
     bool hover(const InteractionEvent& event);
     bool broadcast(const InteractionEvent& event);
@@ -167,6 +174,7 @@ private:
     std::string dragTool;
     std::string dragHint;
     DragEnd dragEnd = DragEnd::Released;
+    std::uint64_t undoGroup = 0;  ///< change count of the drag's own group, 0 for none
     std::uint64_t hoverOwner = 0;  ///< serial of the context that took the last hover, 0 for none
     std::function<void()> cancelHandler;
     DragKeys dragKeys;

@@ -5,6 +5,7 @@
 #include <nbKernelServices/detail/OpenStep.h>
 #include <nbOpenSGUtils/nbEditRecorder.h>
 
+#include <QtCore/QPointer>
 #include <QtWidgets/QUndoStack>
 
 #include <algorithm>
@@ -89,7 +90,8 @@ struct nbUndoService::Internals final : public nbEditRecorder
 {
     // Outlives the stack, whose steps refer to it.
     RestoreState restoreState;
-    QUndoStack stack;
+    QUndoStack ownStack;
+    QPointer<QUndoStack> hostStack;
     OpenStep step;
     /// Records that are no step alone, for the next step.
     StepRecords waiting;
@@ -101,6 +103,8 @@ struct nbUndoService::Internals final : public nbEditRecorder
     GroupEnd pendingEnd = GroupEnd::None;
     /// Asked for while the service itself was editing.
     bool isClearPending = false;
+
+    QUndoStack& stack() { return hostStack.isNull() ? ownStack : *hostStack; }
 
     bool isIdle() const { return openScopes == 0 && !isGroupOpen && !restoreState.isActive; }
 
@@ -147,7 +151,7 @@ void nbUndoService::Internals::finishStep()
                                     [](const auto& record) { return record->isStepAlone(); });
     std::move(records.begin(), records.end(), std::back_inserter(waiting));
     if (isStep) {
-        stack.push(new StepCommand(step.getTitle(), std::exchange(waiting, {}), restoreState));
+        stack().push(new StepCommand(step.getTitle(), std::exchange(waiting, {}), restoreState));
     }
     step.clear();
     clearIfPending();
@@ -186,7 +190,7 @@ void nbUndoService::Internals::clear()
     pendingEnd = GroupEnd::None;
     step.clear();
     waiting.clear();
-    stack.clear();
+    ownStack.clear();
 }
 
 void nbUndoService::Internals::clearIfPending()
@@ -217,25 +221,34 @@ nbUndoService::~nbUndoService()
 
 QUndoStack* nbUndoService::getStack()
 {
-    return &internals->stack;
+    return &internals->stack();
+}
+
+bool nbUndoService::setStack(QUndoStack* stack)
+{
+    if (!internals->isIdle()) {
+        return false;
+    }
+    internals->hostStack = stack;
+    return true;
 }
 
 bool nbUndoService::undo()
 {
-    if (!internals->isIdle() || !internals->stack.canUndo()) {
+    if (!internals->isIdle() || !internals->stack().canUndo()) {
         return false;
     }
-    internals->stack.undo();
+    internals->stack().undo();
     internals->clearIfPending();
     return true;
 }
 
 bool nbUndoService::redo()
 {
-    if (!internals->isIdle() || !internals->stack.canRedo()) {
+    if (!internals->isIdle() || !internals->stack().canRedo()) {
         return false;
     }
-    internals->stack.redo();
+    internals->stack().redo();
     internals->clearIfPending();
     return true;
 }

@@ -16,9 +16,10 @@ class nbTransformTable;
 /// without an application object).
 ///
 /// What nbScopedUndo and nbScopedMultiCommand enclose is one step, nested scopes join the outermost
-/// one. A host can group scopes: everything from beginGroup to endGroup, such as a drag from start
-/// to stop, becomes one step. Where the step ends as it began it leaves none. A step is named after
-/// the group's title or else the first title of the scopes in it.
+/// one. Everything from beginGroup to endGroup becomes one step; the interaction manager does so
+/// with each drag, a host may with whatever else belongs together. Where the step ends as it began
+/// it leaves none. A step is named after the group's title or else the first title of the scopes in
+/// it.
 ///
 /// Transforms are recorded by their core: the state before its first edit in the step, and the
 /// state at the end, which is read once when the step closes, so that the many edits of a drag cost
@@ -37,9 +38,15 @@ public:
 
     // == The stack
 
-    /// For views of the stack and actions; owned by the service. A view that lets a person choose a
-    /// step is disabled by the host while a group is open.
+    /// For views of the stack and actions: the host's stack or else the service's own. What calls
+    /// undo or redo of the stack itself is disabled by the host while a group is open.
     QUndoStack* getStack();
+
+    /// Has the steps go to a stack of the host's, among commands of its own; those made so far stay
+    /// where they are.
+    /// @param stack  not owned, may die at any time; null for the service's own
+    /// @return false, and nothing changes, while a group or scope is open or steps are taken back
+    bool setStack(QUndoStack* stack);
 
     /// Takes the last step back. False if there is none, or while a group or scope is open.
     bool undo();
@@ -47,7 +54,8 @@ public:
     /// Does the step again that was taken back last. False as undo.
     bool redo();
 
-    /// Forgets all steps and what is being recorded, as for a new scene.
+    /// Forgets all steps and what is being recorded, as for a new scene. A stack of the host's
+    /// keeps its steps, which pass over what has been destroyed.
     void clear();
 
     /// Numbers for a host that wants to know whether it must refresh: counts every undo, redo and

@@ -6,6 +6,8 @@
 #include <OpenSG/OSGChangeCount.h>
 #include <OpenSG/OSGSimpleGeometry.h>
 
+#include <QtWidgets/QUndoStack>
+
 #include <cmath>
 #include <limits>
 
@@ -221,7 +223,6 @@ TYPED_TEST(Gizmos, AStopThatIsLostIsMadeGoodByTheNextStart)
     EXPECT_FALSE(this->gizmo->stopManipulator(&this->context, "select"));
     this->say("stop");
 
-    this->undo->beginGroup();
     ASSERT_TRUE(this->press());
     const Pnt2f start = this->pointer;
     this->say("process");
@@ -236,7 +237,6 @@ TYPED_TEST(Gizmos, AStopThatIsLostIsMadeGoodByTheNextStart)
         EXPECT_NEAR(this->edited()[i], before[i], 1e-4F) << "a new drag begins where it stands";
     }
     EXPECT_TRUE(this->say("stop"));
-    this->undo->endGroup();
 }
 
 TYPED_TEST(Manipulators, TakenOutOfUseInADrag)
@@ -364,18 +364,29 @@ TYPED_TEST(Manipulators, TheTextGoesWithTheDrag)
 TYPED_TEST(Manipulators, ADragIsUndoneAndRedoneExactlyAndBackAtItsStartChangesNothing)
 {
     const std::vector<float> before = this->edited();
-    this->undo->beginGroup();
-    ASSERT_TRUE(this->drag());
-    this->undo->endGroup();
-    const std::vector<float> after = this->edited();
-    ASSERT_NE(after, before);
-    EXPECT_TRUE(this->undo->undo());
-    EXPECT_EQ(this->edited(), before);
-    EXPECT_FALSE(this->undo->undo()) << "one step";
-    EXPECT_TRUE(this->undo->redo());
-    EXPECT_EQ(this->edited(), after);
+    {
+        QUndoStack host;
+        ASSERT_TRUE(this->undo->setStack(&host));
+        host.push(new QUndoCommand("The host's"));
+        ASSERT_TRUE(this->drag());
+        const std::vector<float> after = this->edited();
+        ASSERT_NE(after, before);
+        ASSERT_EQ(host.count(), 2) << "the drag is one step, among the host's";
+        host.undo();
+        EXPECT_EQ(this->edited(), before);
+        host.redo();
+        EXPECT_EQ(this->edited(), after);
+        ASSERT_TRUE(this->press());
+        this->step();
+        EXPECT_FALSE(this->undo->setStack(nullptr)) << "in a drag";
+        this->stage.manager.cancelDrag();
+        EXPECT_EQ(this->edited(), after);
+        this->undo->clear();
+        EXPECT_EQ(host.count(), 2) << "without the cancelled drag";
+    }
 
-    this->undo->beginGroup();
+    // The host's stack is gone.
+    const std::vector<float> after = this->edited();
     ASSERT_TRUE(this->press());
     const Pnt2f start = this->pointer;
     this->say("process");
@@ -386,8 +397,11 @@ TYPED_TEST(Manipulators, ADragIsUndoneAndRedoneExactlyAndBackAtItsStartChangesNo
     for (std::size_t i = 0; i < after.size(); ++i) {
         EXPECT_NEAR(this->edited()[i], after[i], 1e-5F) << i;
     }
+    this->step();
     this->say("stop");
-    this->undo->endGroup();
+    EXPECT_TRUE(this->undo->undo());
+    EXPECT_EQ(this->edited(), after);
+    EXPECT_FALSE(this->undo->undo()) << "one step";
 }
 
 // == What is missing or goes

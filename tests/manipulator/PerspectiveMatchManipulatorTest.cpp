@@ -145,6 +145,7 @@ TEST_F(PerspectiveMatchManipulatorTest, EveryStepButTheFirstIsAnUndoStepWithATit
     const QLineF before = match().getYLine2();
     const osg::Pnt2f from = scene.pixelOf(before.p2());
     ASSERT_TRUE(scene.grab(before.p2()));
+    nbUndoService::the()->endGroup();  // as in a host without groups
     scene.send("process", from);
     for (int i = 1; i <= 3; ++i) {
         scene.send("process", from + osg::Vec2f(0, 4.0F * static_cast<float>(i)));

@@ -32,22 +32,18 @@ TEST(DragUndo, ConversionAloneIsNoStepAndJoinsTheNextOne)
     const osg::Matrix before = drags.scene.node->getToWorld();
     nbUndoService* const undo = nbUndoService::the();
 
-    undo->beginGroup();
     ASSERT_TRUE(drags.grab(kArrow));
     EXPECT_TRUE(drags.dragBy(Vec2f(40, 0)));
     EXPECT_GT(greatestDifference(drags.scene.node->getToWorld(), before), 0.1F);
     EXPECT_TRUE(drags.dragBy(Vec2f(0, 0)));
     EXPECT_TRUE(drags.release());
-    undo->endGroup();
     EXPECT_FALSE(undo->undo());
     EXPECT_EQ(drags.scene.node->getToWorld(), before);
     EXPECT_NE(drags.core(), osg::NullFC) << "the node stays converted";
 
-    undo->beginGroup();
     ASSERT_TRUE(drags.grab(kArrow));
     EXPECT_TRUE(drags.dragBy(Vec2f(40, 0)));
     EXPECT_TRUE(drags.release());
-    undo->endGroup();
     const osg::Matrix after = drags.scene.node->getToWorld();
     EXPECT_TRUE(undo->undo());
     EXPECT_FALSE(undo->undo()) << "one step";
@@ -64,11 +60,9 @@ TEST(DragUndo, OfAPivotTakesTheGizmoBackWithIt)
     drags.activate(UniversalTransformManipulator2::ManipulatorMode::RotatePivot);
     for (const Vec3f& handle : { kArrow, kRing }) {
         const Pnt3f before = drags.onGizmo(handle);
-        nbUndoService::the()->beginGroup();
         ASSERT_TRUE(drags.grab(handle));
         EXPECT_TRUE(drags.dragBy(Vec2f(-40, -20)));
         EXPECT_TRUE(drags.release());
-        nbUndoService::the()->endGroup();
         EXPECT_GT((drags.onGizmo(handle) - before).length(), 0.1F);
         EXPECT_TRUE(nbUndoService::the()->undo());
         drags.gizmo.update(false);
@@ -87,12 +81,10 @@ TEST(DragUndo, AfterACancelTheHandleIsGrabbedAgainAtOnce)
         const osg::Matrix before = drags.scene.node->getToWorld();
         const Pnt3f place = drags.onGizmo(kArrow);
         for (int i = 0; i < 4; ++i) {
-            nbUndoService::the()->beginGroup();
             ASSERT_TRUE(drags.drag.press(place)) << "drag " << i;
             EXPECT_TRUE(drags.dragBy(Vec2f(60, 0)));
             EXPECT_GT(greatestDifference(drags.scene.node->getToWorld(), before), 0.1F);
-            EXPECT_TRUE(drags.release());
-            nbUndoService::the()->cancelGroup();
+            drags.scene.manager.cancelDrag();
             EXPECT_EQ(drags.scene.node->getToWorld(), before);
         }
         EXPECT_FALSE(nbUndoService::the()->undo());

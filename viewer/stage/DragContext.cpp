@@ -41,7 +41,7 @@ bool DragContext::triggerEvent(InteractionManager* manager, const InteractionEve
     if (isTool && event.getEvent() == names::kStart) {
         return start(manager, event);
     }
-    if (isTool && event.getEvent() == names::kStop && group.isOpen()) {
+    if (isTool && event.getEvent() == names::kStop && isDragged) {
         return stop(manager, event);
     }
     return ManipulatorInteractionContext::triggerEvent(manager, event);
@@ -52,9 +52,8 @@ bool DragContext::start(InteractionManager* manager, const InteractionEvent& eve
     if (auto* const drag = dynamic_cast<AbstractManipulator*>(getManipulator()); drag != nullptr) {
         drag->setReadoutShown(true, getPicker() != nullptr ? getPicker()->getPixelRatio() : 1.0F);
     }
-    const bool isTaken =
-        group.start([&] { return ManipulatorInteractionContext::triggerEvent(manager, event); });
-    if (isTaken) {
+    isDragged = ManipulatorInteractionContext::triggerEvent(manager, event);
+    if (isDragged) {
         // The manipulator measures from its first step on: one where the handle was grabbed keeps
         // the way to the next position from being lost.
         ManipulatorInteractionContext::triggerEvent(
@@ -62,13 +61,13 @@ bool DragContext::start(InteractionManager* manager, const InteractionEvent& eve
         grabbed = getPicker() != nullptr ? nbNodeUtils::getName(getPicker()->getHitNode()) : "";
         notify();
     }
-    return isTaken;
+    return isDragged;
 }
 
 bool DragContext::stop(InteractionManager* manager, const InteractionEvent& event)
 {
-    const bool answer = group.stop(
-        manager, [&] { return ManipulatorInteractionContext::triggerEvent(manager, event); });
+    const bool answer = ManipulatorInteractionContext::triggerEvent(manager, event);
+    isDragged = false;
     grabbed.clear();
     notify();
     return answer;

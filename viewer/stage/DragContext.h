@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "viewer/stage/DragGroup.h"
-
 #include <functional>
 #include <string>
 
@@ -10,8 +8,7 @@
 
 namespace viewer {
 
-/// The manipulators' interaction context of the viewer: everything that a handle edits between the
-/// start of a drag and its stop becomes one undo step, see DragGroup.
+/// The manipulators' interaction context of the viewer: knows which handle is dragged.
 class DragContext : public nbec::manipulator::ManipulatorInteractionContext
 {
 public:
@@ -35,7 +32,7 @@ private:
     void notify() const;
 
     std::function<void()> dragCallback;
-    DragGroup group;
+    bool isDragged = false;
     std::string grabbed;
 };
 

@@ -3,6 +3,7 @@
 
 #include <nbInteraction/EventNames.h>
 #include <nbInteraction/InteractionEvent.h>
+#include <nbInteraction/InteractionManager.h>
 
 #include <utility>
 
@@ -42,18 +43,9 @@ bool PlacingContext::anchor(const InteractionManager* manager, const std::string
 
 bool PlacingContext::triggerEvent(InteractionManager* manager, const InteractionEvent& event)
 {
-    const bool isTool = event.getTool() == names::kTool;
-    if (isTool && anchoring) {
-        return anchor(manager, event.getEvent());
-    }
-    const auto deliver = [&] { return ToolInteractionContext::triggerEvent(manager, event); };
-    if (isTool && event.getEvent() == names::kStart) {
-        return group.start(deliver);
-    }
-    if (isTool && event.getEvent() == names::kStop && group.isOpen()) {
-        return group.stop(manager, deliver);
-    }
-    return deliver();
+    return event.getTool() == names::kTool && anchoring
+        ? anchor(manager, event.getEvent())
+        : ToolInteractionContext::triggerEvent(manager, event);
 }
 
 }  // namespace viewer

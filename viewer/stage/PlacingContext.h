@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "viewer/stage/DragGroup.h"
-
 #include <nbInteraction/ToolInteractionContext.h>
 
 #include <functional>
@@ -10,8 +8,8 @@
 
 namespace viewer {
 
-/// The context of a tool that places by clicks: everything from press to release becomes one undo
-/// step. Or that of clicks which place handles, which is no edit.
+/// The context of a tool that places by clicks, or that of clicks which place handles, which is no
+/// edit.
 class PlacingContext : public nbec::interaction::ToolInteractionContext
 {
 public:
@@ -28,7 +26,6 @@ public:
 private:
     bool anchor(const nbec::interaction::InteractionManager* manager, const std::string& event);
 
-    DragGroup group;
     Anchoring anchoring;
     std::function<void()> anchored;
     bool isAnchored = false;

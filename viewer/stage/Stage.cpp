@@ -57,10 +57,7 @@ Stage::Stage(nbOSGWidget& view)
         viewChanged();
         changed();
     });
-    manager.setCancelHandler([this] {
-        nbUndoService::the()->cancelGroup();
-        edited();
-    });
+    manager.setCancelHandler([this] { edited(); });
     commandTable.setBusy([this] { return isDragging(); });
     nbec::manipulator::ManipulatorInteractionContext::connectDragKeys(manager);
     gizmoController.setDragCallback([this] { changed(); });

@@ -62,9 +62,7 @@ int main(int argc, char** argv)
         context.setManipulator(&gizmo);
         InteractionManager manager;
         manager.addContext(&context);
-        nbUndoService::the()->beginGroup();
         drag(view, manager);
-        nbUndoService::the()->endGroup();
         const osg::Vec3f place = nbNodeUtils::getTransformNodeTranslation(box);
         isMoved = place[0] > 0.5F && place[1] == 0.0F && place[2] == 0.0F;
         isBack = nbUndoService::the()->undo() &&
