@@ -27,7 +27,8 @@ FORBIDDEN = {
 # Within platform/ and viewer/: each library, each room may include those before it.
 PLATFORM_ORDER = ["nbUtils", "nbOpenSGExt", "nbOpenSGUtils", "nbOpenSGUberCamera", "nbOpenSGUberViewport", "nbOpenSGUberMaterial",
                   "nbOpenSGSceneplate", "nbOpenSGSelection", "nbNotification", "nbKernel", "nbKernelServices", "nbTransform",
-                  "nbMaterialEditor", "nbInteraction", "nbSceneplateModule", "nbMagnifier", "nbOpenSGRenderAction"]
+                  "nbMaterialEditor", "nbInteraction", "nbSceneplateModule", "nbMagnifier", "nbOpenSGRenderAction",
+                  "nbView"]
 VIEWER_ORDER = ["texts", "commands", "loading", "reader", "stage", "replay", "plates", "match", "textures", "scenes", "gui"]
 INCLUDE = re.compile(r'^\s*#\s*include\s*[<"]([^>"]+)[>"]')
 

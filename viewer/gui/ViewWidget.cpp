@@ -4,8 +4,9 @@
 #include "viewer/commands/Commands.h"
 #include "viewer/gui/CursorShapes.h"
 #include "viewer/gui/SelectionRectangle.h"
-#include "viewer/gui/TextPainter.h"
 #include "viewer/stage/StageTool.h"
+
+#include <nbView/nbTextPainter.h>
 
 #include <QApplication>
 #include <QDragEnterEvent>
@@ -13,40 +14,13 @@
 #include <QJsonObject>
 #include <QMimeData>
 #include <QMouseEvent>
-#include <QOpenGLContext>
-#include <QOpenGLFunctions>
 #include <QPainter>
 #include <QUrl>
-
-#include <cmath>
 
 namespace viewer {
 namespace {
 
-/// Pictures that are averaged into one that is written to a file.
-constexpr int kPicturePasses = 4;
-
-/// Above this many pixels one is too small to be told from its neighbours, and memory and time
-/// count more: one pass must do, and the view itself is drawn without samples.
-constexpr int kHugePx = 16 * 1024 * 1024;
-constexpr int kSamples = 8;
-
-bool isHuge(const QSize& sizePx)
-{
-    return sizePx.width() > kHugePx / qMax(sizePx.height(), 1);
-}
-
-constexpr QSize kPreferredSize(1200, 800);
-constexpr QSize kSmallestSize(16, 16);
 constexpr int kFar = 100000;  ///< from everything in a view, logical pixels
-
-QString graphicsText(QOpenGLFunctions& gl)
-{
-    const auto textOf = [&gl](GLenum name) {
-        return QString::fromLatin1(reinterpret_cast<const char*>(gl.glGetString(name)));
-    };
-    return QStringLiteral("%1, %2").arg(textOf(GL_VERSION), textOf(GL_RENDERER));
-}
 
 QStringList localFiles(const QMimeData* data)
 {
@@ -62,115 +36,48 @@ QStringList localFiles(const QMimeData* data)
 }  // namespace
 
 ViewWidget::ViewWidget(QWidget* parent)
-    : QOpenGLWidget(parent)
-    , viewStage(renderWidget)
-    , translator(viewStage.interaction(), &renderWidget)
+    : nbViewWidget(parent)
+    , viewStage(view())
 {
     setObjectName(QStringLiteral("view"));
-    setMouseTracking(true);
-    setFocusPolicy(Qt::StrongFocus);
     setAcceptDrops(true);
-    setMinimumSize(kSmallestSize);
-    renderWidget.setObserver(this);
+    setInteractionManager(viewStage.interaction());
     addCommands();
 }
 
-ViewWidget::~ViewWidget()
+void ViewWidget::viewResized(const QSize& size, float pixelRatio)
 {
-    renderWidget.setObserver(nullptr);
-    releaseGraphics();
-    // The context ends after the members that the slot needs.
-    if (context() != nullptr) {
-        disconnect(context(), nullptr, this, nullptr);
-    }
-}
-
-void ViewWidget::fixSize(const QSize& newSizePx)
-{
-    fixedSizePx = newSizePx;
-    if (newSizePx.isValid()) {
-        const double ratio = devicePixelRatioF();
-        setFixedSize(qRound(newSizePx.width() / ratio), qRound(newSizePx.height() / ratio));
-    } else {
-        setMinimumSize(kSmallestSize);
-        setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-    }
-    adoptSize();
-}
-
-QSize ViewWidget::sizePx() const
-{
-    if (fixedSizePx.isValid()) {
-        return fixedSizePx;
-    }
-    const double ratio = devicePixelRatioF();
-    return { qRound(width() * ratio), qRound(height() * ratio) };
-}
-
-QPointF ViewWidget::toLogical(const osg::Pnt2f& px) const
-{
-    const double ratio = devicePixelRatioF();
-    return { static_cast<double>(px[0]) / ratio, static_cast<double>(px[1]) / ratio };
-}
-
-void ViewWidget::adoptSize()
-{
-    const double ratio = devicePixelRatioF();
-    translator.setDevicePixelRatio(ratio);
-    renderAction.setPixelRatio(static_cast<float>(ratio));
-    pictureView.getAction().setPixelRatio(static_cast<float>(ratio));
-    const QSize size = sizePx();
-    renderAction.setSamples(isHuge(size) ? 1 : kSamples);
-    viewStage.resize(size.width(), size.height(), static_cast<float>(ratio));
+    viewStage.resize(size.width(), size.height(), pixelRatio);
 }
 
 QImage ViewWidget::takePicture(QString& error)
 {
-    viewStage.update();
-    const QSize size = sizePx();
-    const int passes = isHuge(size) ? 1 : kPicturePasses;
-    QImage picture =
-        pictureView.render(renderWidget.getViewport(), size.width(), size.height(), passes);
+    std::string reason;
+    const QImage picture = nbViewWidget::takePicture(&reason);
     if (picture.isNull()) {
-        error =
-            tr("the view cannot be drawn: %1").arg(QString::fromStdString(pictureView.getError()));
-        return picture;
+        error = tr("the view cannot be drawn: %1").arg(QString::fromStdString(reason));
     }
-    paintOverlayOver(picture);
     return picture;
 }
 
-QSize ViewWidget::logicalSize() const
+void ViewWidget::drawingIsImpossible(const std::string& reason)
 {
-    const double ratio = devicePixelRatioF();
-    const QSize px = sizePx();
-    return { qRound(px.width() / ratio), qRound(px.height() / ratio) };
-}
-
-void ViewWidget::paintOverlayOver(QImage& picture) const
-{
-    if (!hasOverlay()) {
-        return;
-    }
-    picture = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
-    QPainter painter(&picture);
-    painter.scale(devicePixelRatioF(), devicePixelRatioF());
-    paintOverlay(painter);
+    emit drawingFailed(tr("the view cannot be drawn: %1").arg(QString::fromStdString(reason)));
 }
 
 bool ViewWidget::hasOverlay() const
 {
-    return hasVisibleTexts(logicalSize()) || hasSelectionRectangle(renderWidget) ||
+    return nbViewWidget::hasOverlay() || hasSelectionRectangle(view()) ||
         (viewStage.activeTool() != nullptr && !viewStage.activeTool()->labels().empty());
 }
 
 void ViewWidget::paintOverlay(QPainter& painter) const
 {
-    paintSelectionRectangle(painter, renderWidget, devicePixelRatioF());
-    paintTexts(painter, logicalSize());
+    paintSelectionRectangle(painter, view(), devicePixelRatioF());
+    nbViewWidget::paintOverlay(painter);
     if (const StageTool* tool = viewStage.activeTool()) {
         for (const StageTool::Label& label : tool->labels()) {
-            paintLabel(painter, toLogical(label.px), label.text);
+            nbTextPainter::paintLabel(painter, toLogical(label.px), label.text);
         }
     }
 }
@@ -184,25 +91,10 @@ void ViewWidget::updateCursor()
     }
 }
 
-void ViewWidget::renewContext()
-{
-    // What a move to another window tells a view.
-    QEvent moved(QEvent::WindowChangeInternal);
-    QCoreApplication::sendEvent(this, &moved);
-    update();
-}
-
-void ViewWidget::showEffectBuffer(bool on)
-{
-    renderAction.showEffectBuffer(on);
-    pictureView.getAction().showEffectBuffer(on);
-    renderWidget.update();
-}
-
 void ViewWidget::showFrameStatistics(bool on)
 {
     frameStatisticsShown = on;
-    renderAction.setTimed(on);
+    getAction().setTimed(on);
     emit stateChanged();
 }
 
@@ -244,16 +136,11 @@ void ViewWidget::addCommands()
     });
 }
 
-QSize ViewWidget::sizeHint() const
-{
-    return kPreferredSize;
-}
-
 bool ViewWidget::event(QEvent* event)
 {
     const QEvent::Type type = event->type();
     const bool wasDragging = viewStage.isDragging();
-    const bool taken = translator.handleEvent(*event);
+    const bool taken = nbViewWidget::event(event);
     if (wasDragging && !viewStage.isDragging()) {
         viewStage.tellEverybody();
     }
@@ -267,11 +154,7 @@ bool ViewWidget::event(QEvent* event)
         updateCursor();
         emit stateChanged();
     }
-    if (taken) {
-        event->accept();
-        return true;
-    }
-    return QOpenGLWidget::event(event);
+    return taken;
 }
 
 void ViewWidget::followRightButton(const QMouseEvent& event)
@@ -285,39 +168,14 @@ void ViewWidget::followRightButton(const QMouseEvent& event)
     }
 }
 
-void ViewWidget::initializeGL()
+void ViewWidget::prepareFrame()
 {
-    connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, &ViewWidget::releaseGraphics);
-    graphicsName = graphicsText(*context()->functions());
-    std::string reason;
-    failed = !renderAction.initialise(&reason);
-    if (failed) {
-        emit drawingFailed(tr("the view cannot be drawn: %1").arg(QString::fromStdString(reason)));
-    }
-}
-
-void ViewWidget::paintGL()
-{
-    // What update() changes belongs to this picture, so its requests for another one are answered
-    // by it.
     viewStage.update();
-    renderWidget.redrawDone();
-    if (failed) {
-        return;
-    }
-    const QSize size = sizePx();
-    renderAction.render(renderWidget.getViewport(), size.width(), size.height(),
-                        defaultFramebufferObject());
-    if (hasOverlay()) {
-        QPainter painter(this);
-        paintOverlay(painter);
-    }
-    emit stateChanged();
 }
 
-void ViewWidget::resizeGL(int, int)
+void ViewWidget::frameDrawn()
 {
-    adoptSize();
+    emit stateChanged();
 }
 
 void ViewWidget::dragEnterEvent(QDragEnterEvent* event)
@@ -339,30 +197,12 @@ void ViewWidget::dropEvent(QDropEvent* event)
     }
 }
 
-void ViewWidget::redrawRequested()
-{
-    if (context() != nullptr && !context()->isValid()) {
-        renewContext();
-    }
-    update();
-}
-
 void ViewWidget::cursorChanged(Qt::CursorShape shape)
 {
     hostCursor = shape;
     if (shownCursor.action == HandleAction::None) {
         setCursor(shape);
     }
-}
-
-void ViewWidget::releaseGraphics()
-{
-    if (context() == nullptr) {
-        return;
-    }
-    makeCurrent();
-    renderAction.release();
-    doneCurrent();
 }
 
 }  // namespace viewer

@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include "viewer/gui/TextPainter.h"
-
 #include <nbNotification/NotificationManager.h>
+#include <nbView/nbTextPainter.h>
 
-#include <QFontMetricsF>
-#include <QGuiApplication>
-#include <QPainter>
-#include <QPainterPath>
+#include <QtGui/QFontMetricsF>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QPainter>
+#include <QtGui/QPainterPath>
 
 #include <map>
+#include <utility>
 
-namespace viewer {
 namespace {
 
 using nbec::notification::NotificationManager;
@@ -63,14 +62,14 @@ double paintText(QPainter& painter, const VisibleText& text, double offsetY)
 
 }  // namespace
 
-bool hasVisibleTexts(const QSize& logicalSize)
+bool nbTextPainter::hasTexts(const QSize& logicalSize)
 {
     return !NotificationManager::getInstance()
                 ->getVisibleTexts(logicalSize.width(), logicalSize.height())
                 .empty();
 }
 
-void paintLabel(QPainter& painter, const QPointF& place, const QString& text)
+void nbTextPainter::paintLabel(QPainter& painter, const QPointF& place, const QString& text)
 {
     constexpr double kOffset = 6.0;
     constexpr double kOutline = 3.0;
@@ -83,7 +82,7 @@ void paintLabel(QPainter& painter, const QPointF& place, const QString& text)
     painter.restore();
 }
 
-void paintTexts(QPainter& painter, const QSize& logicalSize)
+void nbTextPainter::paintTexts(QPainter& painter, const QSize& logicalSize)
 {
     std::map<std::pair<double, double>, double> taken;
     for (const VisibleText& text : NotificationManager::getInstance()->getVisibleTexts(
@@ -92,5 +91,3 @@ void paintTexts(QPainter& painter, const QSize& logicalSize)
         offset += paintText(painter, text, offset);
     }
 }
-
-}  // namespace viewer
