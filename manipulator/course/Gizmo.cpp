@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/course/Gizmo.h"
 
+#include "manipulator/course/HandleFading.h"
 #include "manipulator/course/ValueText.h"
 #include "manipulator/drag/DragGeometry.h"
 #include "manipulator/handles/HandleNodes.h"
@@ -58,8 +59,7 @@ int Gizmo::rankSeen(const osg::NodePtr& part) const
     if (row == nullptr || !View().exists()) {
         return 0;
     }
-    const osg::Pnt3f centre(column(handles.getRoot()->getToWorld(), 3));
-    const float openness = handles.openness(*row, View().sightAt(centre));
+    const float openness = handles.openness(*row, View().sightAt(centreOfHandles()));
     if (row->action.kind == DragParameters::Kind::Angle) {
         return openness < kLeastOpenness ? 2 : 0;
     }
@@ -165,6 +165,7 @@ void Gizmo::beganAnew(const View& view)
     if (const HandleRow* const row = handles.findRow(armed); row != nullptr) {
         what.handleName = row->name;
         what.action = row->action;
+        beginOverlay(*row, view);
     }
     if (!listeners.isEmpty()) {
         what.targets = editedNodes();
@@ -172,9 +173,29 @@ void Gizmo::beganAnew(const View& view)
     began(what, startParameters(), view, view.unitsPerPixel(grabbedPoint));
 }
 
+void Gizmo::beginOverlay(const HandleRow& row, const View& view)
+{
+    if (!isDragOverlayShown() || !view.exists()) {
+        return;
+    }
+    OverlayStart from;
+    from.action = row.action;
+    from.centre = centreOfHandles();
+    from.grabbed = grabbedPoint;
+    for (std::size_t axis = 0; axis < 3; ++axis) {
+        if (row.action.axes == axisBit(axis)) {
+            from.axis = handles.axisOf(row, axis);
+        }
+    }
+    from.sight = view.sightAt(from.centre);
+    from.tickDeg = turnStepDeg();
+    overlay.begin(overlayParent(), from);
+}
+
 void Gizmo::prepareAnew()
 {
     prepared = false;
+    overlay.end();
     ended();
 }
 
@@ -204,6 +225,7 @@ void Gizmo::applyNow(const DragParameters& parameters)
     changed(parameters);
     showText(true);
     placeIn(View());  // that of the event may be gone, too
+    overlay.show(parameters, centreOfHandles());
     announce();
 }
 
@@ -311,6 +333,7 @@ void Gizmo::release()
         ended();
     }
     const bool wasHeld = isHeld();
+    overlay.end();
     grabbed = false;
     prepared = false;
     armed = 0;
@@ -394,6 +417,7 @@ void Gizmo::update(bool force)
 {
     endLostPause();
     const float own = placementNumber();
+    force = handles.takePalette() || force;
     if (!force && !watch.mayHaveChanged(own)) {
         return;
     }
@@ -414,12 +438,43 @@ void Gizmo::placeIn(const View& view)
         vanish();
         return;
     }
+    handles.takePalette();
     place(view);
+    fadeHandles(view);
     watch.rememberSize();
     if (const osg::Transform3DPtr placed = handles.getRootTransform(); placed != osg::NullFC) {
         placedAt = placed->getTranslation();
         placedScale = placed->getScale();
     }
+}
+
+/// Fades handles whose motion is hardly seen, all but the held one.
+void Gizmo::fadeHandles(const View& view)
+{
+    const HandleFading& fading = getHandleFading();
+    if ((!fading.isOn && !isAnyFaded) || !view.exists()) {
+        return;
+    }
+    const osg::Vec3f sight = view.sightAt(centreOfHandles());
+    bool hasOther = false;
+    isAnyFaded = false;
+    const std::vector<HandleRow>& rows = handles.getTable().rows;
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const bool isFree = rows[i].handle != 0 && !(isHeld() && rows[i].handle == armed);
+        const float opacity = isFree && fading.isOn
+            ? fading.opacity(rows[i].action, handles.openness(rows[i], sight))
+            : 1.0F;
+        hasOther = handles.setOpacity(i, opacity, mode) || hasOther;
+        isAnyFaded = isAnyFaded || opacity < 1.0F;
+    }
+    if (hasOther) {
+        handles.show(mode, isHeld() ? armed : 0);
+    }
+}
+
+osg::Pnt3f Gizmo::centreOfHandles() const
+{
+    return osg::Pnt3f(column(handles.getRoot()->getToWorld(), 3));
 }
 
 void Gizmo::place(const View& view)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "manipulator/course/DragControl.h"
+#include "manipulator/course/DragOverlay.h"
 #include "manipulator/course/PlacementWatch.h"
 #include "manipulator/course/PreviewPause.h"
 #include "manipulator/handles/HandleSet.h"
@@ -153,6 +154,12 @@ protected:
     /// The nodes that are edited.
     virtual std::vector<osg::NodePtr> editedNodes() const { return {}; }
 
+    /// Below which node the overlay of a drag is drawn.
+    virtual osg::NodePtr overlayParent() const { return root.get(); }
+
+    /// Step of snapping of a turn, degrees; 0 without.
+    virtual double turnStepDeg() const { return 0.0; }
+
     /// World matrix of what is edited, on whose origin the handles stand.
     virtual osg::Matrix targetToWorld() const { return osg::Matrix::identity(); }
 
@@ -219,11 +226,16 @@ private:
     void endLostPause();
     void vanish();
     bool isTreeMoved() const;
+    osg::Pnt3f centreOfHandles() const;
+    void beginOverlay(const HandleRow& row, const View& view);
+    void fadeHandles(const View& view);
 
     CourseRules rules;
     const float* classSize;
     int mode;
     int armed = 0;
+    bool isAnyFaded = false;
+    DragOverlay overlay;
     bool grabbed = false;
     bool prepared = false;
     osg::Vec3f placedAt;  ///< where the last placement has left the handles; a copy may move them

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/handles/HandleSet.h"
 
+#include "manipulator/handles/HandleMaterials.h"
 #include "manipulator/handles/HandleNodes.h"
+#include "manipulator/handles/HandlePalette.h"
 
 #include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
@@ -58,6 +60,10 @@ HandleSet::HandleSet(const HandleTable& handleTable, Materials handleMaterials)
     , materials(std::move(handleMaterials))
     , root(makeHolder(table->root, {}, Turn::None))
 {
+    for (const osg::SimpleMaterialRefPtr& material : materials) {
+        classicColours.push_back(material != osg::NullFC ? material->getDiffuse() : osg::Color3f());
+    }
+    takePalette();
     for (std::size_t i = 0; i < table->groups.size(); ++i) {
         groups.push_back(makeTransform3DNode(osg::Vec3f()));
     }
@@ -175,12 +181,65 @@ float HandleSet::openness(const HandleRow& row, const osg::Vec3f& sight) const
 
 void HandleSet::colour(std::size_t row, bool isLit, int mode)
 {
-    for (std::size_t i = 0; i < handles[row].parts.size(); ++i) {
+    Nodes& nodes = handles[row];
+    const bool isFaded = !isLit && nodes.opacity > 0.0F && nodes.opacity < 1.0F;
+    for (std::size_t i = 0; i < nodes.parts.size(); ++i) {
         const HandleColors& colors = table->rows[row].parts[i].colors;
         const std::size_t idle = isInModes(mode, table->specialIn) ? colors.special : colors.idle;
-        setGeometryMaterial(handles[row].parts[i],
-                            materials[isLit ? colors.highlight : idle].get());
+        setGeometryMaterial(nodes.parts[i],
+                            isFaded ? fadedMaterial(nodes, i, idle)
+                                    : materials[isLit ? colors.highlight : idle].get());
     }
+}
+
+/// A part's own material: that of its colour, more transparent by the handle's opacity.
+osg::SimpleMaterialPtr HandleSet::fadedMaterial(Nodes& of, std::size_t part, std::size_t color)
+{
+    const osg::SimpleMaterialPtr idle = materials[color].get();
+    of.faded.resize(of.parts.size());
+    osg::SimpleMaterialRefPtr& faded = of.faded[part];
+    if (faded == osg::NullFC) {
+        faded = makeHandleMaterial(idle->getDiffuse(), idle->getSortKey(), nullptr);
+        const nbEdit edit(faded.get(), osg::ChunkMaterial::ChunksFieldMask);
+        for (const osg::StateChunkPtr& chunk : *idle->getMFChunks()) {
+            faded->addChunk(chunk);
+        }
+    }
+    const nbEdit edit(faded.get(), osg::FieldBits::AllFields);
+    faded->setDiffuse(idle->getDiffuse());
+    faded->setTransparency(1.0F - (1.0F - idle->getTransparency()) * of.opacity);
+    return faded.get();
+}
+
+bool HandleSet::setOpacity(std::size_t row, float opacity, int mode)
+{
+    if (handles[row].opacity == opacity) {
+        return false;
+    }
+    handles[row].opacity = opacity;
+    const HandleRow& of = table->rows[row];
+    colour(row, lit != 0 && (of.handle == lit || of.litWith == lit), mode);
+    return true;
+}
+
+bool HandleSet::takePalette()
+{
+    if (paletteCount == handlePaletteCount()) {
+        return false;
+    }
+    paletteCount = handlePaletteCount();
+    for (std::size_t i = 0; i < materials.size(); ++i) {
+        if (materials[i] == osg::NullFC) {
+            continue;
+        }
+        const nbEdit edit(materials[i].get(), osg::FieldBits::AllFields);
+        materials[i]->setDiffuse(inHandlePalette(classicColours[i]));
+    }
+    for (Nodes& nodes : handles) {
+        // Seen with the placement that follows.
+        nodes.opacity = nodes.opacity > 0.0F ? 1.0F : 0.0F;
+    }
+    return true;
 }
 
 void HandleSet::setDefaultMaterials(int mode)
@@ -223,7 +282,8 @@ void HandleSet::showRoot(bool isVisible)
 bool HandleSet::isShown(std::size_t row, int mode, const HandleRow* held) const
 {
     const HandleRow& each = table->rows[row];
-    if (handles[row].isExcluded || handles[row].isHidden || !isInModes(mode, each.visibleIn)) {
+    if (handles[row].opacity == 0.0F || handles[row].isExcluded || handles[row].isHidden ||
+        !isInModes(mode, each.visibleIn)) {
         return false;
     }
     return held == nullptr || each.handle == held->handle || each.staysInDrags ||

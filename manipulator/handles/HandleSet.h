@@ -50,6 +50,9 @@ public:
     /// The row that a node is part of, as find(); null for any other node.
     const HandleRow* findRow(const osg::NodePtr& node) const;
 
+    /// An axis of the frame in which a handle moves; world, unit length. @param row  of the table
+    osg::Vec3f axisOf(const HandleRow& row, std::size_t axis) const;
+
     /// How well a handle's motion is seen: sine of the angle between the line of sight and the
     /// handle's axis, or the plane of its ring or plane. 1 for one without.
     /// @param row    of the table
@@ -72,6 +75,13 @@ public:
 
     int getLit() const { return lit; }
 
+    /// Gives the materials the colours of the palette in force. @return whether they had others
+    bool takePalette();
+
+    /// Draws the handle of a row in part, lit up or not as it is; at 0 it is hidden with the next
+    /// show(). @param opacity  0 to 1 @return whether it had another
+    bool setOpacity(std::size_t row, float opacity, int mode);
+
     // == Visibility
 
     void showRoot(bool isVisible);
@@ -90,13 +100,15 @@ private:
     {
         osg::NodePtr top;
         std::vector<osg::NodePtr> parts;
+        Materials faded;  ///< of parts, if it ever faded
+        float opacity = 1.0F;
         bool isExcluded = false;
         bool isHidden = false;  ///< by the host
     };
 
     static Nodes buildHandle(const HandleRow& row);
-    osg::Vec3f axisOf(const HandleRow& row, std::size_t axis) const;
     void colour(std::size_t row, bool isLit, int mode);
+    osg::SimpleMaterialPtr fadedMaterial(Nodes& of, std::size_t part, std::size_t color);
     bool isShown(std::size_t row, int mode, const HandleRow* held) const;
 
     const HandleTable* table;
@@ -104,6 +116,8 @@ private:
     osg::RefPtr<osg::NodePtr> root;
     std::vector<osg::NodePtr> groups;
     std::vector<Nodes> handles;
+    std::vector<osg::Color3f> classicColours;  ///< of the materials
+    unsigned paletteCount = 0;  ///< of the palette that they have
     int lit = 0;
 };
 

@@ -347,6 +347,11 @@ DragStep TransformGizmo::parametersAt(const View& view, const DragTrack& before)
     return { { DragParameters::Kind::Offset, offset }, next };
 }
 
+double TransformGizmo::turnStepDeg() const
+{
+    return isSnapping() ? nbTransformModel::the()->getRotationPrecision() : 0.0;
+}
+
 DragStep TransformGizmo::turnAt(const osg::Pnt3f& point, const DragTrack& before) const
 {
     DragTrack next = before;

@@ -53,6 +53,10 @@ protected:
     std::vector<osg::NodePtr> editedNodes() const override { return resolveTargets(); }
 
     void announce() override;
+
+    osg::NodePtr overlayParent() const override { return root->getChild(2); }
+
+    double turnStepDeg() const override;
     void place(const View& view) override;
     bool isDisplaced(const View& view) const override;
     std::optional<QString> describe() const override;

@@ -1,0 +1,191 @@
+// SPDX-License-Identifier: MIT
+#include "manipulator/course/DragOverlay.h"
+
+#include "manipulator/handles/HandleMaterials.h"
+#include "manipulator/handles/HandleNodes.h"
+
+#include <nbOpenSGUtils/nbEdit.h>
+
+#include <OpenSG/OSGGL.h>
+#include <OpenSG/OSGTransform.h>
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+namespace nbec::manipulator {
+
+namespace {
+
+constexpr int kFillSortKey = 64013;  // beneath the handles
+constexpr int kLineSortKey = 64018;
+constexpr float kFillTransparency = 0.7F;
+constexpr osg::UInt32 kPieces = 72;
+constexpr osg::UInt32 kMostTicks = 72;
+constexpr double kFullTurnDeg = 360.0;
+constexpr double kUsualTickDeg = 15.0;
+constexpr double kRadPerDeg = 3.14159265358979324 / 180.0;
+/// Length of ticks and marks, by the distance from the centre to the grabbed point.
+constexpr float kTickPart = 0.08F;
+
+bool& isShownNow()
+{
+    static bool isShown = false;
+    return isShown;
+}
+
+/// A geometry with room for points of which none is drawn.
+osg::GeometryPtr makeDrawn(osg::UInt8 type, osg::UInt32 room, int sortKey, float transparency)
+{
+    const osg::GeometryPtr geometry = makeLineGeometry(std::vector<osg::Pnt3f>(room));
+    const LineChunks chunks = makeLineChunks();
+    const nbEdit typesEdit(geometry->getTypes(), osg::FieldBits::AllFields);
+    const nbEdit lengthsEdit(geometry->getLengths(), osg::FieldBits::AllFields);
+    const nbEdit edit(geometry, osg::FieldBits::AllFields);
+    geometry->getTypes()->setValue(type, 0);
+    geometry->getLengths()->setValue(0, 0);
+    geometry->setMaterial(
+        makeHandleMaterial(osg::Color3f(1.0F, 1.0F, 1.0F), sortKey, &chunks, transparency).get());
+    return geometry;
+}
+
+void setCount(const osg::GeometryPtr& geometry, osg::UInt32 count)
+{
+    if (geometry->getLengths()->getValue(0) != count) {
+        const nbEdit edit(geometry->getLengths(), osg::FieldBits::AllFields);
+        geometry->getLengths()->setValue(count, 0);
+    }
+}
+
+}  // namespace
+
+void setDragOverlayShown(bool on)
+{
+    isShownNow() = on;
+}
+
+bool isDragOverlayShown()
+{
+    return isShownNow();
+}
+
+void DragOverlay::build(const osg::NodePtr& parent)
+{
+    constexpr osg::UInt32 kEnds = 2 * (2 + kMostTicks);
+    lines = makeDrawn(GL_LINES, kEnds, kLineSortKey, kTraceOfTransparency);
+    sector = makeDrawn(GL_TRIANGLES, 3 * kPieces, kFillSortKey, kFillTransparency);
+    node = makeNode(osg::Transform::create());
+    addChild(node.get(), makeNode(sector));
+    addChild(node.get(), makeNode(lines));
+    addChild(parent, node.get());
+}
+
+void DragOverlay::begin(const osg::NodePtr& parent, const OverlayStart& from)
+{
+    end();
+    isOn = isDragOverlayShown();
+    if (!isOn) {
+        return;
+    }
+    if (node == osg::NullFC) {
+        build(parent);
+    }
+    start = from;
+    if (!(start.tickDeg > 0.0)) {
+        start.tickDeg = kUsualTickDeg;
+    }
+    while (kFullTurnDeg / start.tickDeg > kMostTicks) {
+        start.tickDeg *= 2.0;
+    }
+    towards = start.grabbed - start.centre;
+    if (start.action.kind == DragParameters::Kind::Angle) {
+        towards -= start.axis * start.axis.dot(towards);
+    }
+    radius = towards.length();
+    towards.normalize();
+}
+
+void DragOverlay::end()
+{
+    isOn = false;
+    showNode(node.get(), false);
+}
+
+osg::Pnt3f DragOverlay::onRing(double angleDeg, float distance) const
+{
+    const double angle = angleDeg * kRadPerDeg;
+    return start.centre +
+        (towards * static_cast<float>(std::cos(angle)) +
+         start.axis.cross(towards) * static_cast<float>(std::sin(angle))) *
+        distance;
+}
+
+void DragOverlay::addLine(const osg::Pnt3f& from, const osg::Pnt3f& to)
+{
+    lines->getPositions()->setValue(from, lineEnds++);
+    lines->getPositions()->setValue(to, lineEnds++);
+}
+
+void DragOverlay::drawTurn(double angleDeg)
+{
+    const double swept = std::fmod(angleDeg, kFullTurnDeg);
+    addLine(start.centre, onRing(0.0, radius));
+    addLine(start.centre, onRing(swept, radius));
+    const double tick = std::copysign(start.tickDeg, swept);
+    for (double each = tick; std::abs(each) <= std::abs(swept); each += tick) {
+        addLine(onRing(each, radius), onRing(each, radius * (1.0F - kTickPart)));
+    }
+    const nbEdit edit(sector->getPositions(), osg::FieldBits::AllFields);
+    for (osg::UInt32 i = 0; i < kPieces; ++i) {
+        sector->getPositions()->setValue(start.centre, 3 * i);
+        sector->getPositions()->setValue(onRing(swept * i / kPieces, radius), 3 * i + 1);
+        sector->getPositions()->setValue(onRing(swept * (i + 1) / kPieces, radius), 3 * i + 2);
+    }
+}
+
+void DragOverlay::drawLength(double factor)
+{
+    osg::Vec3f across = towards.cross(start.sight);
+    across.normalize();
+    across *= radius * kTickPart;
+    addLine(start.centre, start.centre + towards * (radius * static_cast<float>(factor)));
+    addLine(start.grabbed - across, start.grabbed + across);
+}
+
+void DragOverlay::drawWay(const osg::Pnt3f& centre)
+{
+    osg::Vec3f across = (centre - start.centre).cross(start.sight);
+    across.normalize();
+    across *= radius * kTickPart;
+    const osg::Vec3f along = across.cross(start.sight);
+    addLine(start.centre, centre);
+    addLine(start.centre - across, start.centre + across);
+    addLine(start.centre - along, start.centre + along);
+}
+
+void DragOverlay::show(const DragParameters& parameters, const osg::Pnt3f& centre)
+{
+    using Kind = DragParameters::Kind;
+    if (!isOn) {
+        return;
+    }
+    lineEnds = 0;
+    const bool isTurn = parameters.kind == Kind::Angle;
+    const nbEdit edit(lines->getPositions(), osg::FieldBits::AllFields);
+    if (isTurn) {
+        drawTurn(parameters.values[0]);
+    } else if (parameters.kind == Kind::Factor) {
+        drawLength(parameters.values[0]);
+    } else if (parameters.kind == Kind::Offset) {
+        drawWay(centre);
+    }
+    setCount(lines, lineEnds);
+    setCount(sector, isTurn ? 3 * kPieces : 0);
+    osg::Matrix localFromWorld = node->getParent()->getToWorld();
+    if (localFromWorld.invert()) {
+        setMatrix(node.get(), localFromWorld);
+    }
+    showNode(node.get(), lineEnds > 0);
+}
+
+}  // namespace nbec::manipulator

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "manipulator/handles/HandleSet.h"
+#include "manipulator/nbManipulatorExport.h"
+
+namespace nbec::manipulator {
+
+/// How handles fade whose motion is hardly seen: arrows and scale handles that point at the viewer
+/// and planes seen edge-on. Rings stay: seen edge-on they are turned along their line. Numbers are
+/// sines of the angle to the line of sight, 0 to 1.
+struct HandleFading
+{
+    bool isOn = false;
+    float axisFull = 0.1F;  ///< from here on an axis is drawn in full
+    float axisGone = 0.02F;  ///< to here it is not drawn and cannot be grabbed
+    float planeFull = 0.25F;
+    float planeGone = 0.175F;
+
+    /// Share in which a handle is drawn, 0 to 1. @param openness  see HandleSet::openness()
+    float opacity(const HandleAction& action, float openness) const;
+};
+
+/// Sets how handles of all gizmos fade; off at the start. They take it when they are placed next.
+/// What is held never fades. For example HandleFading fading; fading.isOn = true;
+/// setHandleFading(fading).
+/// @return false, and nothing is set, unless 0 <= gone < full <= 1 for both
+NB_MANIPULATOR_API bool setHandleFading(const HandleFading& fading);
+NB_MANIPULATOR_API const HandleFading& getHandleFading();
+
+}  // namespace nbec::manipulator

@@ -1,0 +1,180 @@
+// SPDX-License-Identifier: MIT
+// What hosts may change of how handles look: fading, palettes, the overlay of drags.
+#include "manipulator/course/DragOverlay.h"
+#include "manipulator/course/HandleFading.h"
+#include "manipulator/handles/HandlePalette.h"
+#include "tests/manipulator/support/AnyManipulator.h"
+#include "tests/manipulator/support/HandleScene.h"
+
+#include <OpenSG/OSGSimpleAttachments.h>
+#include <OpenSG/OSGSimpleMaterial.h>
+
+#include <array>
+
+namespace nbec::manipulator::test {
+
+namespace {
+
+using Triple = std::array<double, 3>;
+using Rows = std::array<Triple, 3>;
+
+Triple times(const Rows& matrix, const Triple& vector)
+{
+    Triple result {};
+    for (std::size_t i = 0; i < 3; ++i) {
+        for (std::size_t j = 0; j < 3; ++j) {
+            result[i] += matrix[i][j] * vector[j];
+        }
+    }
+    return result;
+}
+
+/// Machado, Oliveira and Fernandes 2009, in linear RGB: normal vision, and without red, green and
+/// blue cones.
+constexpr std::array<Rows, 4> kVisions = { { { { { 1, 0, 0 }, { 0, 1, 0 }, { 0, 0, 1 } } },
+                                             { { { 0.152286, 1.052583, -0.204868 },
+                                                 { 0.114503, 0.786281, 0.099216 },
+                                                 { -0.003882, -0.048116, 1.051998 } } },
+                                             { { { 0.367322, 0.860646, -0.227968 },
+                                                 { 0.280085, 0.672501, 0.047413 },
+                                                 { -0.011820, 0.042940, 0.968881 } } },
+                                             { { { 1.255528, -0.076749, -0.178779 },
+                                                 { -0.078411, 0.930809, 0.147602 },
+                                                 { 0.004733, 0.691367, 0.303900 } } } } };
+
+/// CIE L*a*b* under D65 of an sRGB colour, as seen.
+Triple labOf(const osg::Color3f& colour, const Rows& vision)
+{
+    constexpr Rows kXyz = { { { 0.4124564, 0.3575761, 0.1804375 },
+                              { 0.2126729, 0.7151522, 0.0721750 },
+                              { 0.0193339, 0.1191920, 0.9503041 } } };
+    constexpr Triple kWhite = { 0.95047, 1, 1.08883 };
+    Triple linear {};
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        const double c = colour[i];
+        linear[i] = c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+    }
+    linear = times(vision, linear);
+    for (double& each : linear) {
+        each = std::min(std::max(each, 0.0), 1.0);
+    }
+    Triple f = times(kXyz, linear);
+    for (std::size_t i = 0; i < 3; ++i) {
+        const double part = f[i] / kWhite[i];
+        f[i] = part > 216.0 / 24389 ? std::cbrt(part) : (24389.0 / 27 * part + 16) / 116;
+    }
+    return { 116 * f[1] - 16, 500 * (f[0] - f[1]), 200 * (f[1] - f[2]) };
+}
+
+}  // namespace
+
+TEST(HandlePalettes, ThatForColourBlindTellsAnyTwoColoursApartForEveryEye)
+{
+    const HandlePalette& safe = builtInPalette(BuiltInPalette::ForColourBlind);
+    const std::array<osg::Color3f, 6> colours = { safe.x,   safe.y,         safe.z,
+                                                  safe.all, safe.highlight, safe.pivot };
+    for (std::size_t vision = 0; vision < kVisions.size(); ++vision) {
+        for (std::size_t i = 0; i < colours.size(); ++i) {
+            for (std::size_t j = 0; j < i; ++j) {
+                const Triple a = labOf(colours[i], kVisions[vision]);
+                const Triple b = labOf(colours[j], kVisions[vision]);
+                EXPECT_GE(std::hypot(a[0] - b[0], a[1] - b[1], a[2] - b[2]), 40.0)
+                    << vision << ": " << i << ' ' << j;
+            }
+        }
+    }
+}
+
+template <class Gizmo>
+class HandleLooks : public AnyManipulator<Gizmo>
+{
+protected:
+    ~HandleLooks() override
+    {
+        setHandlePalette(HandlePalette());
+        setHandleFading(HandleFading());
+        setDragOverlayShown(false);
+    }
+};
+
+using KindsOfAxes = testing::Types<Transform, Planar, Triplanar, UV, Tire>;
+TYPED_TEST_SUITE(HandleLooks, KindsOfAxes, );
+
+TYPED_TEST(HandleLooks, APaletteRecoloursAndTheClassicOneRestores)
+{
+    const osg::NodePtr arrow = this->node(this->kTraits.handle);
+    const Names classic = partColors(arrow);
+    HandlePalette own;
+    own.x = own.y = osg::Color3f(0.2F, 0.4F, 0.6F);
+    own.highlight = osg::Color3f(0.0F, 1.0F, 1.0F);
+    EXPECT_TRUE(setHandlePalette(own));
+    this->gizmo->update(false);
+    EXPECT_EQ(partColors(arrow), Names(classic.size(), "0.2 0.4 0.6"));
+    ASSERT_TRUE(this->hover(this->kTraits.handle));
+    EXPECT_EQ(partColor(arrow, 0), "0 1 1");
+    own.z = osg::Color3f(0.0F, 1.5F, 0.0F);
+    EXPECT_FALSE(setHandlePalette(own));
+    setHandlePalette(builtInPalette(BuiltInPalette::Classic));
+    this->hoverNothing();
+    EXPECT_EQ(partColors(arrow), classic);
+}
+
+TEST(HandleFades, HandlesSeenEndOnFadeAndCannotBeGrabbed)
+{
+    DragScene at;
+    HandleFading fading;
+    fading.isOn = true;
+    fading.axisGone = 0.2F;
+    EXPECT_FALSE(setHandleFading(fading)) << "the range is empty";
+    fading.axisGone = 0.02F;
+    ASSERT_TRUE(setHandleFading(fading));
+    at.activate(Transform::ManipulatorMode::TranslateRotate);
+    const auto transparencyOf = [&at](const char* name) {
+        const auto core = osg::GeometryPtr::dcast(partsOf(at.handle(name))[0]->getCore());
+        return osg::SimpleMaterialPtr::dcast(core->getMaterial())->getTransparency();
+    };
+    const auto lookAlongZ = [&at](float sine) {
+        at.scene.lookFrom(Pnt3f(10 * sine, 0, 10 * std::sqrt(1 - sine * sine)));
+        Transform::updateAllManipulators();
+    };
+    lookAlongZ(0.06F);  // half way for the axis
+    EXPECT_NEAR(transparencyOf("zaShape"), 0.5F, 1e-3F);
+    EXPECT_EQ(transparencyOf("xaShape"), 0.0F);
+    EXPECT_FALSE(isShown(at.handle("yzaShape")));
+    lookAlongZ(0.0F);
+    EXPECT_FALSE(isShown(at.handle("zaShape")));
+    EXPECT_TRUE(isShown(at.handle("rxShape"))) << "rings stay";
+    at.scene.hover(at.onGizmo({ -0.08F, -0.08F, 2 }));
+    EXPECT_NE(nbNodeUtils::getName(at.scene.picker.getHitNode()), "zaShape");
+    lookAlongZ(0.21F);  // half way for a plane
+    EXPECT_EQ(transparencyOf("zaShape"), 0.0F);
+    EXPECT_NEAR(transparencyOf("yzaShape"), 1 - (0.21F - 0.175F) / 0.075F, 1e-3F);
+    setHandleFading(HandleFading());
+    lookAlongZ(0.0F);
+    EXPECT_TRUE(isShown(at.handle("zaShape")));
+    EXPECT_EQ(transparencyOf("zaShape"), 0.0F);
+}
+
+TYPED_TEST(HandleLooks, TheOverlayIsThereWhileSomethingIsDragged)
+{
+    const auto points = [this] {
+        osg::UInt32 count = 0;
+        for (const osg::NodePtr& part : partsOf(this->gizmo->getVisualisation())) {
+            const auto core = osg::GeometryPtr::dcast(part->getCore());
+            if (isShown(part) && osg::getName(part) == nullptr &&
+                core->getMaterial()->getSortKey() == 64018) {
+                count += core->getLengths()->getValue(0);
+            }
+        }
+        return count;
+    };
+    ASSERT_TRUE(this->drag());
+    EXPECT_EQ(points(), 0U) << "off";
+    setDragOverlayShown(true);
+    ASSERT_TRUE(this->press() && this->step() && this->step());
+    EXPECT_EQ(points(), 6U) << "a line and a mark";
+    this->gizmo->cancelDrag();
+    EXPECT_EQ(points(), 0U);
+}
+
+}  // namespace nbec::manipulator::test
