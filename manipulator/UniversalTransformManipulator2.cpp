@@ -65,6 +65,11 @@ void UniversalTransformManipulator2::setSnapRule(SnapRule rule)
     course().snapRule = rule;
 }
 
+void UniversalTransformManipulator2::setSnapping(const SnapSettings& what)
+{
+    course().snapSettings = what;
+}
+
 void UniversalTransformManipulator2::setDescriptionEnabled(bool on)
 {
     course().descriptionEnabled = on;

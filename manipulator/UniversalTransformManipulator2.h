@@ -47,6 +47,7 @@ public:
     using ManipulatorMode = transform::ManipulatorMode;
     using ActiveMode = transform::ActiveMode;
     using SnapRule = transform::SnapRule;
+    using SnapSettings = transform::SnapSettings;
 
     /// Builds the handles, hidden, in mode translate; joins the list of live instances.
     UniversalTransformManipulator2();
@@ -140,6 +141,12 @@ public:
 
     /// What snapping makes of turns and scales; SnapRule::Gathered after construction.
     void setSnapRule(SnapRule rule);
+
+    /// To what snapping brings what is dragged, beside steps; nothing after construction. With
+    /// setSnapping({ true, SnapSearch::Vertex | SnapSearch::Edge }) of interaction::SnapSearch
+    /// translation goes from grid to grid, and to corners and edges where the pointer is near one;
+    /// a cross marks the place. A reach that is no number or negative finds nothing.
+    void setSnapping(const SnapSettings& what);
 
     /// Switches the on-screen text of this gizmo.
     void setDescriptionEnabled(bool on);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <nbInteraction/SnapSearch.h>
+
 #include <OpenSG/OSGVector.h>
 
 #include <array>
@@ -101,6 +103,8 @@ struct DragTrack
     osg::Pnt3f last;  ///< where a turn was measured last
     double bead = 0.0;  ///< where the pointer is on a ring seen edge-on, see RingDrag; radians
     double turned = 0.0;  ///< since the start, whole turns counted; radians or degrees
+    /// Place in the scene to which the last step has snapped.
+    std::optional<interaction::SnapSearch::Target> target;
 };
 
 /// What the pointer has come to in one step.

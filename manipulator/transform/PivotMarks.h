@@ -22,6 +22,8 @@ public:
     /// Hangs new crosses, all hidden, below a node whose frame is the world's; earlier ones go.
     void make(const osg::NodePtr& parent, std::size_t count, const osg::MaterialPtr& material);
 
+    bool exists() const { return node != osg::NullFC; }
+
     /// Hides all until the next make().
     void hide();
 

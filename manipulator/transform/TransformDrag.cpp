@@ -184,6 +184,7 @@ TransformDrag prepareManipulator(const osg::NodePtr& node, const GrabbedGizmo& g
     TransformDrag drag;
     drag.handle = grabbed.handle;
     drag.unit = grabbed.unit;
+    drag.center = osg::Pnt3f(column(grabbed.frame, 3));
     updateManipulatorPlane(drag, node, grabbed, view);
     drag.starts.push_back(captureStart(node, grabbed));
 
@@ -215,6 +216,27 @@ osg::Vec3f offsetAt(const TransformDrag& drag, const osg::Pnt3f& point, bool isL
                           drag.handle);
 }
 
+osg::Vec3f offsetTo(const TransformDrag& drag, const osg::Pnt3f& point, bool isLocal)
+{
+    return maskedByHandle(isLocal ? mapped(drag.inverseDragFrame, point) -
+                                  mapped(drag.inverseDragFrame, drag.center)
+                                  : point - drag.center,
+                          drag.handle);
+}
+
+osg::Vec3f withSnappedPlace(const TransformDrag& drag, const osg::Vec3f& offset, double step,
+                            bool isLocal)
+{
+    const TransformStart& start = drag.starts.front();
+    const osg::Vec3f place = isLocal ? rotated(start.rotation.inverse(), start.translationLocal)
+                                     : start.translationWorld;
+    osg::Vec3f result;
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        result[i] = static_cast<float>(snapped(place[i] + offset[i], step)) - place[i];
+    }
+    return maskedByHandle(result, drag.handle);
+}
+
 osg::Vec3f withSnappedLength(const osg::Vec3f& offset, double step)
 {
     const float length = offset.length();
@@ -232,6 +254,12 @@ double computeRotation(const osg::Pnt3f& from, const osg::Pnt3f& to, osg::UInt32
     const double toTangent = to[tangent];
     return std::atan2(fromRadial * toTangent - fromTangent * toRadial,
                       fromRadial * toRadial + fromTangent * toTangent);
+}
+
+double turnAtStart(const TransformStart& start)
+{
+    // Under a half turn about an axis w becomes minus the part along it.
+    return 2.0 * std::atan2(-start.halfTurned.w(), start.quaternion.w());
 }
 
 double factorAt(const TransformDrag& drag, const osg::Pnt3f& point, osg::UInt32 upAxis)

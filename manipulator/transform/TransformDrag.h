@@ -56,6 +56,7 @@ struct TransformDrag
     RingDrag ring;  ///< the grabbed one
     osg::Matrix inverseDragFrame;  ///< world to the frame of translate and rotate
     osg::Matrix inverseScaleFrame;  ///< world to the frame of scale
+    osg::Pnt3f center;  ///< of the gizmo, world
     osg::Pnt3f dragStartWorld;
     osg::Pnt3f dragStartLocal;  ///< in the drag frame
     osg::Vec3f scaleAnchor;  ///< start in the scale frame
@@ -78,12 +79,24 @@ TransformDrag prepareManipulator(const osg::NodePtr& node, const GrabbedGizmo& g
 /// local space those of the node's own frame, scale left out. @param point  world
 osg::Vec3f offsetAt(const TransformDrag& drag, const osg::Pnt3f& point, bool isLocal);
 
+/// The offset that takes the gizmo's centre to a point, as near as the handle can. @param point
+/// world
+osg::Vec3f offsetTo(const TransformDrag& drag, const osg::Pnt3f& point, bool isLocal);
+
+/// An offset after which the first target stands at multiples of a step along the handle's axes.
+osg::Vec3f withSnappedPlace(const TransformDrag& drag, const osg::Vec3f& offset, double step,
+                            bool isLocal);
+
 /// An offset whose length is a multiple of a step, see snapped().
 osg::Vec3f withSnappedLength(const osg::Vec3f& offset, double step);
 
 /// Signed angle between two points about an axis, radians. @param from, to  in a frame that has the
 /// axis @param axis  0, 1 or 2
 double computeRotation(const osg::Pnt3f& from, const osg::Pnt3f& to, osg::UInt32 axis);
+
+/// How far a target is turned about the grabbed ring's axis when a drag starts, in the frame of its
+/// parent, radians: its rotation is that turn after one at right angles to the axis.
+double turnAtStart(const TransformStart& start);
 
 /// Factor of a scale handle at a point: the ratio of its distances from the centre along the
 /// handle's axis, at least 0.01; for the uniform one a tenth of the ratio's way from 1, at least

@@ -93,15 +93,15 @@ TransformGizmo::TransformGizmo(const TransformSettings& shared, const float& siz
     : Gizmo(CourseRules(), handleTable(), makeMaterials(), static_cast<int>(Mode::Translate), size)
     , settings(&shared)
     , multiselection(makeGroupNode())
+    , additionalGeometry(makeGroupNode())
 {
     nbNodeUtils::setIsAuxiliaryNode(handles.getRoot(), true);
     nbNodeUtils::setIsAuxiliaryNode(multiselection.get(), true);
-    const osg::NodePtr additionalGeometry = makeGroupNode();
-    nbNodeUtils::setIsAuxiliaryNode(additionalGeometry, true);
+    nbNodeUtils::setIsAuxiliaryNode(additionalGeometry.get(), true);
     root = makeHandleRootOfPasses(handles.getRoot());
     const nbEdit edit(root.get(), osg::Node::ChildrenFieldMask);
     root->insertChild(0, multiselection.get());
-    root->insertChild(2, additionalGeometry);
+    root->insertChild(2, additionalGeometry.get());
     handles.showRoot(false);
 }
 
@@ -229,6 +229,7 @@ void TransformGizmo::place(const View& view)
     if (targetIds.size() > 1) {
         placeMarks(size);
     }
+    markTarget(size);
 }
 
 /// Turns the handles whose axes are others than those of the gizmo as a whole.
@@ -257,6 +258,20 @@ void TransformGizmo::placeMarks(float size)
         }
     }
     marks.draw(places, size * kMarkReach);
+}
+
+/// Marks the place to which the drag has snapped.
+void TransformGizmo::markTarget(float size)
+{
+    const bool isSnapped = track.target && !isTyping();
+    if (isSnapped && !targetMark.exists()) {
+        targetMark.make(additionalGeometry.get(), 1, handles.getMaterial(kOrangeLine));
+    }
+    if (isSnapped) {
+        targetMark.draw({ track.target->point }, size * kMarkReach);
+    } else if (targetMark.exists()) {
+        targetMark.draw({ std::nullopt }, 0.0F);
+    }
 }
 
 /// Deliberate: the camera is not looked at, for which the host places all gizmos.
@@ -317,7 +332,17 @@ bool TransformGizmo::prepare(const View& view)
     if (isAnyLocked) {
         nbLog::warning(kLockedWarning);
     }
+    if (snapSettings.geometry != 0 && isTranslation(handle())) {
+        targets.begin(movesPivot() ? std::vector<osg::NodePtr>() : resolveTargets());
+    }
     return true;
+}
+
+void TransformGizmo::finish()
+{
+    targets.end();
+    track.target.reset();
+    markTarget(0.0F);
 }
 
 bool TransformGizmo::movesPivot() const
@@ -328,6 +353,10 @@ bool TransformGizmo::movesPivot() const
 DragStep TransformGizmo::parametersAt(const View& view, const DragTrack& before) const
 {
     DragTrack next = before;
+    if (findTarget(view, next)) {
+        return { { DragParameters::Kind::Offset, offsetTo(drag, next.target->point, isLocal()) },
+                 next };
+    }
     const std::optional<osg::Line> ray = view.pointerRay();
     const std::optional<osg::Pnt3f> point =
         isRing(handle()) ? drag.ring.follow(ray, next) : followPlane(drag.plane, ray, next);
@@ -340,11 +369,27 @@ DragStep TransformGizmo::parametersAt(const View& view, const DragTrack& before)
     if (isScale(handle()) && !movesPivot()) {
         return { { DragParameters::Kind::Factor, factorAt(drag, *point, view.upAxis()) }, next };
     }
-    osg::Vec3f offset = offsetAt(drag, *point, isLocal());
-    if (isSnapping() && !movesPivot()) {  // Deliberate: pivots never snap.
-        offset = withSnappedLength(offset, nbTransformModel::the()->getTranslationPrecision());
+    return { { DragParameters::Kind::Offset, snappedOffset(offsetAt(drag, *point, isLocal())) },
+             next };
+}
+
+/// Looks for a place in the scene that the drag snaps to. @return whether there is one
+bool TransformGizmo::findTarget(const View& view, DragTrack& next) const
+{
+    next.target = isSnapping() && isTranslation(handle())
+        ? targets.find(view.getPointer(), snapSettings.geometry, snapSettings.reachPx, next.target)
+        : std::nullopt;
+    return next.target.has_value();
+}
+
+osg::Vec3f TransformGizmo::snappedOffset(const osg::Vec3f& offset) const
+{
+    const double step = nbTransformModel::the()->getTranslationPrecision();
+    if (!isSnapping() || movesPivot()) {  // Deliberate: no step holds pivots.
+        return offset;
     }
-    return { { DragParameters::Kind::Offset, offset }, next };
+    return snapSettings.isAbsolute ? withSnappedPlace(drag, offset, step, isLocal())
+                                   : withSnappedLength(offset, step);
 }
 
 double TransformGizmo::turnStepDeg() const
@@ -363,7 +408,8 @@ DragStep TransformGizmo::turnAt(const osg::Pnt3f& point, const DragTrack& before
     const double precision = isSnapping() ? nbTransformModel::the()->getRotationPrecision() : 0.0;
     const double step = 2.0 * precision * kDegreeFactor;
     double angle = computeRotation(before.last, place, axisOf(handle()));
-    if (snapRule == SnapRule::Gathered) {
+    const bool isGathered = snapRule == SnapRule::Gathered && !snapSettings.isAbsolute;
+    if (isGathered) {
         angle = snapped(angle, step);
         if (angle == 0.0 && isSnapping()) {
             // Deliberate: the last point stays, so that small motions add up until they pass half a
@@ -373,7 +419,9 @@ DragStep TransformGizmo::turnAt(const osg::Pnt3f& point, const DragTrack& before
     }
     next.last = place;
     next.turned += angle;
-    const double total = snapRule == SnapRule::Exact ? snapped(next.turned, step) : next.turned;
+    const double zero = snapSettings.isAbsolute ? turnAtStart(drag.starts.front()) : 0.0;
+    const double total =
+        isGathered || step == 0.0 ? next.turned : snapped(zero + next.turned, step) - zero;
     return { { DragParameters::Kind::Angle, total * kDegPerRad }, next };
 }
 

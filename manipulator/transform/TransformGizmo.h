@@ -40,6 +40,7 @@ public:
 
     bool snappingEnabled = false;
     SnapRule snapRule = SnapRule::Gathered;
+    SnapSettings snapSettings;
     bool descriptionEnabled = true;
 
 protected:
@@ -49,6 +50,7 @@ protected:
     DragStep parametersAt(const View& view, const DragTrack& before) const override;
     void apply(const DragParameters& parameters) override;
     void restore() override;
+    void finish() override;
 
     std::vector<osg::NodePtr> editedNodes() const override { return resolveTargets(); }
 
@@ -79,6 +81,9 @@ private:
     osg::Quaternion axesOf(ActiveMode handle, const osg::NodePtr& node) const;
     void placeFamilies(const osg::Quaternion& gizmoFromWorld, const osg::NodePtr& node);
     void placeMarks(float size);
+    void markTarget(float size);
+    bool findTarget(const View& view, DragTrack& next) const;
+    osg::Vec3f snappedOffset(const osg::Vec3f& offset) const;
     DragStep turnAt(const osg::Pnt3f& point, const DragTrack& before) const;
     osg::Vec3f valueOf(std::size_t target, const DragParameters& parameters, const HalfTurn& turn);
 
@@ -86,6 +91,9 @@ private:
     std::vector<osg::UInt32> targetIds;  ///< the dragged node, then the further ones
     osg::RefPtr<osg::NodePtr> multiselection;
     PivotMarks marks;  ///< of the further nodes
+    osg::RefPtr<osg::NodePtr> additionalGeometry;
+    PivotMarks targetMark;  ///< where a drag has snapped to
+    interaction::SnapSearch targets;
     TransformDrag drag;
     std::vector<nbTransformState> startStates;  ///< of the targets at the drag's start
     std::vector<nbEulerAngles> turned;  ///< of the targets after the last turn, radians

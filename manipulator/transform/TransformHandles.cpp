@@ -161,6 +161,7 @@ HandleTable makeTable()
 }  // namespace
 
 const std::size_t kYellowLine = kSolidCount + Yellow;
+const std::size_t kOrangeLine = kSolidCount + Orange;
 
 const HandleTable& handleTable()
 {

@@ -11,7 +11,8 @@ const HandleTable& handleTable();
 /// Their materials, in the order that the table counts in: six solid ones, then seven for lines.
 HandleSet::Materials makeMaterials();
 
-/// Place of the yellow material for lines.
+/// Places of materials for lines.
 extern const std::size_t kYellowLine;
+extern const std::size_t kOrangeLine;
 
 }  // namespace nbec::manipulator::transform

@@ -50,6 +50,24 @@ enum class SnapRule
     Exact
 };
 
+/// To what snapping brings what is dragged, beside the steps of a transform model; all in force
+/// only while snapping is.
+struct SnapSettings
+{
+    /// Steps are counted from the origin and not from the drag's start: the translation becomes a
+    /// multiple of its step along each axis of the handle by itself, a turn about a ring's axis
+    /// that of its step, counted from the node as it is without rotation.
+    bool isAbsolute = false;
+
+    /// Kinds of places under the pointer, interaction::SnapSearch::Kind, to be joined with |; 0 for
+    /// none. Arrows and planes take the gizmo's centre there, or as near as they can; where nothing
+    /// is near the steps hold. Pivots, which no step holds, are taken there, too, also to places on
+    /// their own object; what is moved is never its own target.
+    unsigned geometry = 0;
+
+    float reachPx = 12.0F;  ///< how near on screen such a place has to be, device pixels, >= 0
+};
+
 constexpr bool isRing(ActiveMode handle)
 {
     return handle >= ActiveMode::RotateX && handle <= ActiveMode::RotateZ;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <functional>
 
@@ -64,6 +65,14 @@ public:
 
     /// All positions of the geometry, those of lines and points too.
     const std::vector<osg::Pnt3f>& getPositions() const { return soup.positions; }
+
+    /// Corners of a triangle that was hit.
+    std::array<osg::Pnt3f, 3> getTriangle(std::uint32_t number) const
+    {
+        const std::uint32_t* const corners = &soup.triangles[3 * std::size_t(number)];
+        return { soup.positions[corners[0]], soup.positions[corners[1]],
+                 soup.positions[corners[2]] };
+    }
 
     std::size_t getTriangleCount() const { return soup.triangles.size() / 3; }
 

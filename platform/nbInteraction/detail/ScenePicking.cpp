@@ -108,6 +108,18 @@ bool ScenePicking::isInside(const PickItem& item, const ScreenBox& box) const
     return isAnyInside;
 }
 
+const ItemTree& ScenePicking::hold(const osg::NodePtr& root,
+                                   const std::vector<osg::NodePtr>& without)
+{
+    leftOut = without;
+    if (root != osg::NullFC) {
+        walk(root);
+        tree.editClipSets().update();
+    }
+    leftOut.clear();
+    return tree;
+}
+
 void ScenePicking::useView(const PickView& view)
 {
     if (!view.isSame(projectedView)) {
@@ -169,7 +181,8 @@ void ScenePicking::collect(const osg::NodePtr& root, std::vector<PickItem>& item
 void ScenePicking::enter(Step step, std::vector<Step>& steps, std::vector<PickItem>& items)
 {
     const osg::NodePtr node = step.node;
-    if (SceneOutline::isPassedBy(node)) {
+    if (SceneOutline::isPassedBy(node) ||
+        std::find(leftOut.begin(), leftOut.end(), node) != leftOut.end()) {
         outline.closeNode(outline.openNode(node, SceneOutline::kNoItem));
         return;
     }

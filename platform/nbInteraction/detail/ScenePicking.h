@@ -32,6 +32,10 @@ public:
     std::vector<osg::NodePtr> pickInside(const osg::NodePtr& root, const PickView& view,
                                          const ScreenBox& box);
 
+    /// Takes the scene up as it is now, without some nodes and what is below them; instead of the
+    /// other operations.
+    const ItemTree& hold(const osg::NodePtr& root, const std::vector<osg::NodePtr>& without);
+
 private:
     /// The geometry behind an item and the state in which it was taken up.
     struct Source
@@ -61,6 +65,7 @@ private:
     ItemTree tree;
     std::vector<Source> sources;  ///< one per item
     SceneOutline outline;
+    std::vector<osg::NodePtr> leftOut;
     osg::UInt32 rootId = 0;
     osg::UInt64 rootChanges = 0;
 
