@@ -178,7 +178,7 @@ View DragControl::seen(const View& view)
         behind += (lastPointer - pointer) * (1.0F - kFinePart);
     }
     lastPointer = pointer;
-    return behind == osg::Vec2f() ? view : View(pointer + behind);
+    return behind == osg::Vec2f() ? view : view.withFinePointer(pointer + behind);
 }
 
 DragParameters DragControl::limited(const DragParameters& parameters) const

@@ -96,7 +96,7 @@ std::optional<osg::Line> View::pointerRay() const
     const float partY = pointer.y() - static_cast<float>(y);
     osg::Line right;
     osg::Line below;
-    if ((partX == 0.0F && partY == 0.0F) || !rayAt(x + 1, y, right) || !rayAt(x, y + 1, below)) {
+    if (!isFine || !rayAt(x + 1, y, right) || !rayAt(x, y + 1, below)) {
         return ray;
     }
     // Between pixels: origins lie in the near plane, and directions of nearly the same length.

@@ -71,6 +71,15 @@ public:
     /// the top
     explicit View(const osg::Pnt2f& pointerPx);
 
+    /// The same view with a pointer between pixels, for whose ray the parts of a pixel count.
+    View withFinePointer(const osg::Pnt2f& pointerPx) const
+    {
+        View fine = *this;
+        fine.pointer = pointerPx;
+        fine.isFine = true;
+        return fine;
+    }
+
     /// Whether there is a widget.
     bool exists() const { return widget != nullptr; }
 
@@ -135,6 +144,7 @@ public:
 private:
     const nbOSGWidget* widget;
     osg::Pnt2f pointer;
+    bool isFine = false;
 };
 
 }  // namespace nbec::manipulator

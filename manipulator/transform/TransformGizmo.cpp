@@ -235,12 +235,18 @@ void TransformGizmo::place(const View& view)
 /// Turns the handles whose axes are others than those of the gizmo as a whole.
 void TransformGizmo::placeFamilies(const osg::Quaternion& gizmoFromWorld, const osg::NodePtr& node)
 {
+    std::optional<osg::Quaternion> scaleAxes;
+    std::optional<osg::Quaternion> ringAxes;
     const std::vector<HandleRow>& rows = handleTable().rows;
     for (std::size_t i = 0; i < rows.size(); ++i) {
         const auto each = static_cast<Active>(rows[i].handle);
         if ((isScale(each) || isRing(each)) && isInModes(getMode(), rows[i].visibleIn)) {
+            std::optional<osg::Quaternion>& axes = isRing(each) ? ringAxes : scaleAxes;
+            if (!axes) {
+                axes = axesOf(each, node);
+            }
             osg::Quaternion turn = gizmoFromWorld;
-            turn.mult(axesOf(each, node));
+            turn.mult(*axes);
             turn.mult(quaternionOf(rows[i].turn));
             placeTransform(osg::Transform3DPtr::dcast(handles.getNode(i)->getCore()), osg::Vec3f(),
                            turn, osg::Vec3f(1.0F, 1.0F, 1.0F));
