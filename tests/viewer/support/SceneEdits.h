@@ -7,6 +7,7 @@
 
 #include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbScopedUndo.h>
+#include <nbKernelServices/nbUndoService.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 #include <nbOpenSGUtils/nbTransformState.h>
 
