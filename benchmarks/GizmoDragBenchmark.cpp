@@ -4,8 +4,10 @@
 // nodes stands a plain loop that makes the same edits. Gizmos are placed anew after the camera has
 // moved.
 #include "benchmarks/GizmoMeasures.h"
+#include "benchmarks/WavySphere.h"
 #include "manipulator/UniversalTransformManipulator2.h"
 
+#include <nbInteraction/SnapSearch.h>
 #include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbUndoService.h>
 #include <nbOpenSGExt/Transform3D.h>
@@ -97,6 +99,27 @@ void oneNodeWatched(benchmark::State& state, const Drag& drag)
     state.counters["heard"] = static_cast<double>(heard);
 }
 
+/// A step that snaps to whatever lies under the pointer, in a scene of a million triangles in some
+/// number of objects.
+void snapToGeometry(benchmark::State& state)
+{
+    constexpr int kTriangles = 1'000'000;
+    Stage stage(0);
+    for (std::int64_t i = 0; i < state.range(0); ++i) {
+        const osg::NodePtr place = addTransform(osg::Vec3f(
+            1.F + 2.F * static_cast<float>(i % 10), 0.F, 1.F - 2.F * static_cast<float>(i / 10)));
+        place->addChild(osg::makeNodeFor(
+            ::bench::makeWavySphere(kTriangles / static_cast<int>(state.range(0)))));
+    }
+    constexpr unsigned kAllKinds = 63;
+    stage.gizmo.setSnapping({ true, kAllKinds });
+    stage.gizmo.enableSnapping(true);
+    runSteps(state, stage, kTranslate);
+    if (stage.gizmo.getVisualisation()->getChild(2)->getNChildren() == 0) {
+        state.SkipWithError("nothing was snapped to");
+    }
+}
+
 void manyNodes(benchmark::State& state, const Drag& drag)
 {
     Stage stage(state.range(0));
@@ -164,6 +187,7 @@ BENCHMARK_CAPTURE(oneNode, scale, kScale, false)->Name("drag/one node, scale");
 BENCHMARK_CAPTURE(oneNode, scaleText, kScale, true)->Name("drag/one node, scale, with text");
 BENCHMARK_CAPTURE(oneNodeWatched, translate, kTranslate)
     ->Name("drag/one node, translate, with text, readout and listener");
+BENCHMARK(snapToGeometry)->Name("drag/one node, snapping to geometry")->Arg(1)->Arg(100);
 BENCHMARK_CAPTURE(manyNodes, translate, kTranslate)->Name("drag/many, translate")->Arg(kManyNodes);
 BENCHMARK_CAPTURE(plainLoop, translate, &osg::Transform3D::setTranslation,
                   osg::Transform3D::TranslationFieldMask)

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/UniversalTransformManipulator2.h"
 
+#include "manipulator/drag/DragGeometry.h"
 #include "manipulator/transform/TransformGizmo.h"
+
+#include <cmath>
 
 namespace nbec::manipulator {
 
@@ -68,6 +71,32 @@ void UniversalTransformManipulator2::setSnapRule(SnapRule rule)
 void UniversalTransformManipulator2::setSnapping(const SnapSettings& what)
 {
     course().snapSettings = what;
+}
+
+void UniversalTransformManipulator2::setAxes(GizmoAxes which, const osg::Quaternion& given)
+{
+    course().axes = which;
+    course().givenAxes = given;
+    updateManipulator();
+}
+
+osg::Quaternion UniversalTransformManipulator2::axesOfFace(const osg::Vec3f& normal)
+{
+    constexpr float kSteep = 0.999F;
+    const osg::Vec3f z = unitVector(normal);
+    const bool isSteep = std::abs(z.y()) > kSteep;
+    const osg::Vec3f x =
+        (isSteep ? osg::Vec3f(0, 0, z.y() > 0 ? -1.0F : 1.0F) : osg::Vec3f(0, 1, 0)).cross(z);
+    osg::Matrix axes;
+    axes.setValue(x, z.cross(x), z);
+    return osg::Quaternion(orthonormalised(axes));
+}
+
+void UniversalTransformManipulator2::setPivot(GizmoPivot which, const osg::Pnt3f& given)
+{
+    course().pivot = which;
+    course().givenPivot = given;
+    updateManipulator();
 }
 
 void UniversalTransformManipulator2::setDescriptionEnabled(bool on)

@@ -6,6 +6,8 @@
 #include "manipulator/course/Instances.h"
 #include "manipulator/transform/TransformModes.h"
 
+#include <OpenSG/OSGQuaternion.h>
+
 #include <string>
 #include <vector>
 
@@ -48,6 +50,8 @@ public:
     using ActiveMode = transform::ActiveMode;
     using SnapRule = transform::SnapRule;
     using SnapSettings = transform::SnapSettings;
+    using GizmoAxes = transform::GizmoAxes;
+    using GizmoPivot = transform::GizmoPivot;
 
     /// Builds the handles, hidden, in mode translate; joins the list of live instances.
     UniversalTransformManipulator2();
@@ -147,6 +151,19 @@ public:
     /// translation goes from grid to grid, and to corners and edges where the pointer is near one;
     /// a cross marks the place. A reach that is no number or negative finds nothing.
     void setSnapping(const SnapSettings& what);
+
+    /// Stands the gizmo along other axes; GizmoAxes::Shared after construction. Those of a picked
+    /// face: setAxes(GizmoAxes::Given, axesOfFace(picker.getHitNormal())).
+    /// @param given  turn of the given frame in the world, unit length
+    void setAxes(GizmoAxes which, const osg::Quaternion& given = osg::Quaternion());
+
+    /// Axes of a surface: z along its normal, x level where y is up.
+    /// @param normal  world, any length but 0, for which it answers the world's axes
+    static osg::Quaternion axesOfFace(const osg::Vec3f& normal);
+
+    /// Turns and scales about another point; GizmoPivot::Own after construction. Modes that move
+    /// pivots stay at the node's own. @param given  world, finite
+    void setPivot(GizmoPivot which, const osg::Pnt3f& given = osg::Pnt3f());
 
     /// Switches the on-screen text of this gizmo.
     void setDescriptionEnabled(bool on);

@@ -167,6 +167,9 @@ TransformStart captureStart(const osg::NodePtr& node, const GrabbedGizmo& grabbe
     start.scale = nbNodeUtils::getTransformNodeScale(node);
     start.pivotLocal = pivot(node, false);
     start.pivotWorld = pivot(node, true);
+    if (transform != osg::NullFC) {
+        start.anchor = pivotWorld(node, transform, isScale(grabbed.handle));
+    }
     start.rotation = turnOf(node);
     if (isRing(grabbed.handle) && transform != osg::NullFC) {
         captureRotation(start,
@@ -184,7 +187,11 @@ TransformDrag prepareManipulator(const osg::NodePtr& node, const GrabbedGizmo& g
     TransformDrag drag;
     drag.handle = grabbed.handle;
     drag.unit = grabbed.unit;
+    drag.axes = grabbed.axes;
     drag.center = osg::Pnt3f(column(grabbed.frame, 3));
+    if (const osg::UInt32 axis = axisOf(grabbed.handle); axis != kNoAxis) {
+        drag.handleAxis = unitVector(column(grabbed.frame, axis));
+    }
     updateManipulatorPlane(drag, node, grabbed, view);
     drag.starts.push_back(captureStart(node, grabbed));
 
@@ -209,19 +216,27 @@ TransformDrag prepareManipulator(const osg::NodePtr& node, const GrabbedGizmo& g
 
 // == From a point in the drag's plane to drag parameters
 
+namespace {
+
+osg::Vec3f offsetBetween(const TransformDrag& drag, const osg::Pnt3f& from, const osg::Pnt3f& to,
+                         bool isLocal)
+{
+    return maskedByHandle(isLocal ? mapped(drag.inverseDragFrame, to) -
+                                  mapped(drag.inverseDragFrame, from)
+                                  : rotated(drag.axes.inverse(), to - from),
+                          drag.handle);
+}
+
+}  // namespace
+
 osg::Vec3f offsetAt(const TransformDrag& drag, const osg::Pnt3f& point, bool isLocal)
 {
-    return maskedByHandle(isLocal ? mapped(drag.inverseDragFrame, point) - drag.dragStartLocal
-                                  : point - drag.dragStartWorld,
-                          drag.handle);
+    return offsetBetween(drag, drag.dragStartWorld, point, isLocal);
 }
 
 osg::Vec3f offsetTo(const TransformDrag& drag, const osg::Pnt3f& point, bool isLocal)
 {
-    return maskedByHandle(isLocal ? mapped(drag.inverseDragFrame, point) -
-                                  mapped(drag.inverseDragFrame, drag.center)
-                                  : point - drag.center,
-                          drag.handle);
+    return offsetBetween(drag, drag.center, point, isLocal);
 }
 
 osg::Vec3f withSnappedPlace(const TransformDrag& drag, const osg::Vec3f& offset, double step,
@@ -229,7 +244,7 @@ osg::Vec3f withSnappedPlace(const TransformDrag& drag, const osg::Vec3f& offset,
 {
     const TransformStart& start = drag.starts.front();
     const osg::Vec3f place = isLocal ? rotated(start.rotation.inverse(), start.translationLocal)
-                                     : start.translationWorld;
+                                     : rotated(drag.axes.inverse(), start.translationWorld);
     osg::Vec3f result;
     for (osg::UInt32 i = 0; i < 3; ++i) {
         result[i] = static_cast<float>(snapped(place[i] + offset[i], step)) - place[i];
@@ -290,6 +305,21 @@ osg::Vec3f movedTranslation(const TransformStart& start, const osg::Vec3f& offse
 osg::Vec3f movedPivot(const TransformStart& start, const osg::Vec3f& offset, bool isLocal)
 {
     return isLocal ? start.pivotLocal + rotated(start.rotation, offset) : start.pivotWorld + offset;
+}
+
+osg::Vec3f orbitedTranslation(const TransformDrag& drag, const TransformStart& start,
+                              double turnRad, float factor)
+{
+    const osg::Vec3f arm = start.anchor - drag.center;
+    osg::Vec3f moved = arm * factor;
+    if (isRing(drag.handle)) {
+        osg::Quaternion turn;
+        turn.setValueAsAxisRad(drag.handleAxis, static_cast<float>(turnRad));
+        moved = rotated(turn, arm);
+    } else if (drag.handle != ActiveMode::ScaleUniform) {
+        moved = arm + drag.handleAxis * (drag.handleAxis.dot(arm) * (factor - 1.0F));
+    }
+    return start.translationWorld + (moved - arm);
 }
 
 HalfTurn::HalfTurn(double turnRad)

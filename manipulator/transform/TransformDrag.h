@@ -29,6 +29,7 @@ struct TransformStart
     osg::Vec3f scale;
     osg::Vec3f pivotLocal;  ///< rotate or scale pivot, as the mode moves; frame of the parent
     osg::Vec3f pivotWorld;
+    osg::Pnt3f anchor;  ///< pivot of turns, or of scales for a scale handle; world
     osg::Quaternion rotation;  ///< without the rotation orientation
     nbEulerAngles anglesRad;  ///< of the same, in the node's order
     nbQuaterniond quaternion;  ///< of these angles
@@ -45,6 +46,7 @@ struct GrabbedGizmo
     osg::Matrix frame;  ///< world from the axes of the handle's family, of unit length
     float unit = 1.0F;  ///< world units of the handles' unit frame
     osg::Pnt3f grabbedPoint;  ///< world
+    osg::Quaternion axes {};  ///< turn of the handle's axes in the world
 };
 
 /// State of one drag. Nothing of it changes after the first step.
@@ -56,6 +58,8 @@ struct TransformDrag
     RingDrag ring;  ///< the grabbed one
     osg::Matrix inverseDragFrame;  ///< world to the frame of translate and rotate
     osg::Matrix inverseScaleFrame;  ///< world to the frame of scale
+    osg::Quaternion axes;  ///< along which offsets are counted outside local space
+    osg::Vec3f handleAxis;  ///< world, unit length; zero of a handle without one
     osg::Pnt3f center;  ///< of the gizmo, world
     osg::Pnt3f dragStartWorld;
     osg::Pnt3f dragStartLocal;  ///< in the drag frame
@@ -75,7 +79,7 @@ TransformDrag prepareManipulator(const osg::NodePtr& node, const GrabbedGizmo& g
 
 // == From a point in the drag's plane to drag parameters
 
-/// How far a point has gone from the start along the axes of the drag's handle: world units, or in
+/// How far a point has gone from the start along the axes of the drag's handle: world units, in
 /// local space those of the node's own frame, scale left out. @param point  world
 osg::Vec3f offsetAt(const TransformDrag& drag, const osg::Pnt3f& point, bool isLocal);
 
@@ -109,6 +113,11 @@ double factorAt(const TransformDrag& drag, const osg::Pnt3f& point, osg::UInt32 
 /// @param isLocal  the space of the offset and of the answer: own frame and parent's, or world
 osg::Vec3f movedTranslation(const TransformStart& start, const osg::Vec3f& offset, bool isLocal);
 osg::Vec3f movedPivot(const TransformStart& start, const osg::Vec3f& offset, bool isLocal);
+
+/// World translation of a target after a turn about the drag's center, or a scale to and from it.
+/// @param turnRad  by a ring, 0 of scale handles  @param factor  by a scale handle
+osg::Vec3f orbitedTranslation(const TransformDrag& drag, const TransformStart& start,
+                              double turnRad, float factor);
 
 /// A turn for all targets of a step: half its angle as sine and cosine.
 struct HalfTurn

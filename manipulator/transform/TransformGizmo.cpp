@@ -198,6 +198,31 @@ osg::Pnt3f TransformGizmo::anchorWorld(const osg::NodePtr& node) const
                                     : objectCenter(node, true);
 }
 
+/// Where the gizmo stands. @param node  the first
+osg::Pnt3f TransformGizmo::centerWorld(const osg::NodePtr& node) const
+{
+    const osg::Pnt3f own = anchorWorld(node);
+    if (movesPivot() || pivot == GizmoPivot::Own || pivot == GizmoPivot::First) {
+        return own;
+    }
+    if (hasBegun()) {
+        return isTranslation(handle()) ? drag.center + (own - drag.starts.front().anchor)
+                                       : drag.center;
+    }
+    if (pivot == GizmoPivot::Given) {
+        return givenPivot;
+    }
+    osg::Vec3f sum;
+    float count = 0.0F;
+    for (const osg::NodePtr& each : resolveTargets()) {
+        if (each != osg::NullFC) {
+            sum += anchorWorld(each).subZero();
+            count += 1.0F;
+        }
+    }
+    return osg::Pnt3f(sum * (1.0F / count));
+}
+
 /// The axes along which a handle is drawn and works. @param handle  None for the gizmo as a whole
 osg::Quaternion TransformGizmo::axesOf(Active handle, const osg::NodePtr& node) const
 {
@@ -205,7 +230,16 @@ osg::Quaternion TransformGizmo::axesOf(Active handle, const osg::NodePtr& node) 
         return worldRotation(node);  // nothing can be scaled along other axes
     }
     if (!isLocal()) {
-        return osg::Quaternion();
+        switch (axes) {
+        case GizmoAxes::Parent:
+            return osg::Quaternion(orthonormalised(parentToWorld(node)));
+        case GizmoAxes::View:
+            return View().facing();
+        case GizmoAxes::Given:
+            return givenAxes;
+        default:
+            return osg::Quaternion();
+        }
     }
     const osg::Transform3DPtr transform = osg::Transform3DPtr::dcast(node->getCore());
     if (transform == osg::NullFC) {
@@ -219,13 +253,13 @@ osg::Quaternion TransformGizmo::axesOf(Active handle, const osg::NodePtr& node) 
 void TransformGizmo::place(const View& view)
 {
     const osg::NodePtr node = editedNode(getNode());
-    const osg::Pnt3f anchor = anchorWorld(node);
+    const osg::Pnt3f anchor = centerWorld(node);
     const float size = view.scaleAt(anchor, getSize(), ViewDiagonal::FrustumSides);
     watch.remember(node->getToWorld());
-    const osg::Quaternion axes = axesOf(Active::None, node);
-    placeTransform(handles.getRootTransform(), anchor.subZero(), axes,
+    const osg::Quaternion worldFromGizmo = axesOf(Active::None, node);
+    placeTransform(handles.getRootTransform(), anchor.subZero(), worldFromGizmo,
                    osg::Vec3f(size, size, size));
-    placeFamilies(axes.inverse(), node);
+    placeFamilies(worldFromGizmo.inverse(), node);
     if (targetIds.size() > 1) {
         placeMarks(size);
     }
@@ -241,12 +275,12 @@ void TransformGizmo::placeFamilies(const osg::Quaternion& gizmoFromWorld, const 
     for (std::size_t i = 0; i < rows.size(); ++i) {
         const auto each = static_cast<Active>(rows[i].handle);
         if ((isScale(each) || isRing(each)) && isInModes(getMode(), rows[i].visibleIn)) {
-            std::optional<osg::Quaternion>& axes = isRing(each) ? ringAxes : scaleAxes;
-            if (!axes) {
-                axes = axesOf(each, node);
+            std::optional<osg::Quaternion>& family = isRing(each) ? ringAxes : scaleAxes;
+            if (!family) {
+                family = axesOf(each, node);
             }
             osg::Quaternion turn = gizmoFromWorld;
-            turn.mult(*axes);
+            turn.mult(*family);
             turn.mult(quaternionOf(rows[i].turn));
             placeTransform(osg::Transform3DPtr::dcast(handles.getNode(i)->getCore()), osg::Vec3f(),
                            turn, osg::Vec3f(1.0F, 1.0F, 1.0F));
@@ -287,7 +321,7 @@ bool TransformGizmo::isDisplaced(const View& /*view*/) const
     const osg::Transform3DPtr placed = handles.getRootTransform();
     // Pivots move without the node.
     return watch.isElsewhere(node->getToWorld()) ||
-        (placed->getTranslation() - anchorWorld(node).subZero()).length() > 0.0F ||
+        (placed->getTranslation() - centerWorld(node).subZero()).length() > 0.0F ||
         placed->getRotationQuaternion() != axesOf(Active::None, node);
 }
 
@@ -315,7 +349,8 @@ bool TransformGizmo::prepare(const View& view)
     held.grabbedPoint = grabbedPoint;
     const osg::Matrix placed = handles.getRoot()->getToWorld();
     held.unit = column(placed, 0).length();
-    axesOf(handle(), getTransform(0)).getValue(held.frame);
+    held.axes = axesOf(handle(), getTransform(0));
+    held.axes.getValue(held.frame);
     held.frame.setTranslate(column(placed, 3));
     drag = prepareManipulator(getTransform(0), held, view, track);
     startStates.clear();
@@ -440,8 +475,9 @@ osg::Vec3f TransformGizmo::valueOf(std::size_t target, const DragParameters& par
         turned[target] = turnedAngles(start, turn, turned[target]);
         return toDegrees(turned[target]);
     }
+    const osg::Vec3f offset = isLocal() ? parameters.vec3() : rotated(drag.axes, parameters.vec3());
     if (movesPivot()) {
-        return movedPivot(start, parameters.vec3(), isLocal());
+        return movedPivot(start, offset, isLocal());
     }
     if (isScale(handle())) {
         const double step = isSnapping() && !parameters.isExact
@@ -449,7 +485,21 @@ osg::Vec3f TransformGizmo::valueOf(std::size_t target, const DragParameters& par
             : 0.0;
         return scaledBy(start, handle(), parameters.first(), step, snapRule);
     }
-    return movedTranslation(start, parameters.vec3(), isLocal());
+    return movedTranslation(start, offset, isLocal());
+}
+
+/// World translation of a target that is turned or scaled about the gizmo's centre. A snapped scale
+/// takes it as far as its own size has changed.
+osg::Vec3f TransformGizmo::orbitOf(std::size_t target, const DragParameters& parameters)
+{
+    const TransformStart& start = drag.starts[target];
+    if (isRing(handle())) {
+        return orbitedTranslation(drag, start, parameters.values[0] / kDegPerRad, 1.0F);
+    }
+    const osg::UInt32 axis = handle() == Active::ScaleUniform ? 0 : axisOf(handle());
+    const float scale = valueOf(target, parameters, HalfTurn(0.0))[axis];
+    return orbitedTranslation(drag, start, 0.0,
+                              start.scale[axis] != 0.0F ? scale / start.scale[axis] : 1.0F);
 }
 
 void TransformGizmo::apply(const DragParameters& parameters)
@@ -465,6 +515,15 @@ void TransformGizmo::apply(const DragParameters& parameters)
                                       valueOf(i, parameters, turn));
     };
     const bool worldSpace = !isLocal();
+    const nbScopedUndo scope;
+    if (pivot != GizmoPivot::Own && !movesPivot() && !isTranslation(handle())) {
+        model->setTranslation(count, true, [&](osg::UInt32 i) {
+            return drag.starts[i].isLocked
+                ? nbTransformModel::Value()
+                : nbTransformModel::Value({ nodes[i], static_cast<osg::Int32>(i) },
+                                          orbitOf(i, parameters));
+        });
+    }
     if (isRing(handle())) {
         movesPivot() ? model->setRotationPivotOrientation(count, values)
                      : model->setRotation(count, values);

@@ -41,6 +41,10 @@ public:
     bool snappingEnabled = false;
     SnapRule snapRule = SnapRule::Gathered;
     SnapSettings snapSettings;
+    GizmoAxes axes = GizmoAxes::Shared;
+    osg::Quaternion givenAxes;
+    GizmoPivot pivot = GizmoPivot::Own;
+    osg::Pnt3f givenPivot;
     bool descriptionEnabled = true;
 
 protected:
@@ -69,7 +73,11 @@ private:
 
     ManipulatorMode shownMode() const { return static_cast<ManipulatorMode>(getMode()); }
 
-    bool isLocal() const { return settings->m_LocalSpaceManipulator; }
+    bool isLocal() const
+    {
+        return axes == GizmoAxes::Shared ? settings->m_LocalSpaceManipulator
+                                         : axes == GizmoAxes::Own;
+    }
 
     bool movesPivot() const;
     bool isAtScalePivot() const;
@@ -78,6 +86,7 @@ private:
     osg::NodePtr getTransform(std::size_t index) const;
     std::vector<osg::NodePtr> resolveTargets() const;
     osg::Pnt3f anchorWorld(const osg::NodePtr& node) const;
+    osg::Pnt3f centerWorld(const osg::NodePtr& node) const;
     osg::Quaternion axesOf(ActiveMode handle, const osg::NodePtr& node) const;
     void placeFamilies(const osg::Quaternion& gizmoFromWorld, const osg::NodePtr& node);
     void placeMarks(float size);
@@ -85,6 +94,7 @@ private:
     bool findTarget(const View& view, DragTrack& next) const;
     osg::Vec3f snappedOffset(const osg::Vec3f& offset) const;
     DragStep turnAt(const osg::Pnt3f& point, const DragTrack& before) const;
+    osg::Vec3f orbitOf(std::size_t target, const DragParameters& parameters);
     osg::Vec3f valueOf(std::size_t target, const DragParameters& parameters, const HalfTurn& turn);
 
     const TransformSettings* settings;

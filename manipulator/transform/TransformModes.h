@@ -50,6 +50,29 @@ enum class SnapRule
     Exact
 };
 
+/// Along which axes a transform gizmo stands and moves, turns and moves pivots. Scale handles
+/// always lie along the node's own: nothing can be scaled along others.
+enum class GizmoAxes
+{
+    Shared,  ///< as all gizmos, see setLocalSpaceManipulator()
+    World,
+    Own,  ///< of the node's pivots
+    Parent,  ///< of the frame above the node
+    View,  ///< x to the right, y up on the screen, as the camera stands when it is placed
+    Given  ///< of any frame
+};
+
+/// About which point turns and scales of a transform gizmo go, at which it then stands. About a
+/// point that is not a node's own pivot the node also moves: around it, or along the handle's axis
+/// (of the uniform handle in all directions) to and from it.
+enum class GizmoPivot
+{
+    Own,  ///< each node about its own pivot
+    First,  ///< that of the first node
+    Common,  ///< mean of all nodes' pivots
+    Given  ///< any point
+};
+
 /// To what snapping brings what is dragged, beside the steps of a transform model; all in force
 /// only while snapping is.
 struct SnapSettings
