@@ -44,10 +44,10 @@ void PivotMarks::make(const osg::NodePtr& parent, std::size_t count,
     drawnReach = 0.0F;
 }
 
-void PivotMarks::hide()
+void PivotMarks::show(bool on)
 {
     if (node != osg::NullFC) {
-        showNode(node.get(), false);
+        showNode(node.get(), on);
     }
 }
 

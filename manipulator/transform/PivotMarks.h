@@ -24,8 +24,8 @@ public:
 
     bool exists() const { return node != osg::NullFC; }
 
-    /// Hides all until the next make().
-    void hide();
+    /// Shows or hides all; nothing before the first make(), which shows them.
+    void show(bool on);
 
     /// Brings the geometry into step with as many places as were made; one edit, and none if
     /// nothing is to look different.

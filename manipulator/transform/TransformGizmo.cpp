@@ -111,7 +111,7 @@ void TransformGizmo::setNodes(const osg::NodePtr& node, const std::vector<osg::N
 {
     prepareAnew();  // a drag goes on from here with the new nodes
     watch.forget();
-    marks.hide();
+    marks.show(false);
     targetIds = { containerId(node) };
     if (node == osg::NullFC) {
         return;
@@ -307,10 +307,9 @@ void TransformGizmo::markTarget(float size)
     if (isSnapped && !targetMark.exists()) {
         targetMark.make(additionalGeometry.get(), 1, handles.getMaterial(kOrangeLine));
     }
+    targetMark.show(isSnapped);
     if (isSnapped) {
         targetMark.draw({ track.target->point }, size * kMarkReach);
-    } else if (targetMark.exists()) {
-        targetMark.draw({ std::nullopt }, 0.0F);
     }
 }
 

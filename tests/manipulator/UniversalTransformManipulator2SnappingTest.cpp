@@ -45,7 +45,7 @@ protected:
     float markLength(Pnt3f& center) const
     {
         const osg::NodePtr holder = drags.gizmo.getVisualisation()->getChild(2);
-        if (holder->getNChildren() == 0) {
+        if (holder->getNChildren() == 0 || !isShown(holder->getChild(0))) {
             return 0.0F;
         }
         const auto positions = osg::GeoPositions3fPtr::dcast(
