@@ -199,7 +199,15 @@ vec3 facingNormal()
     vec3 toEye = orthographic != 0 ? vec3(0.0, 0.0, 1.0) : normalize(-viewPosition);
     float size = length(viewNormal);
     vec3 normal = size > 0.0 ? viewNormal / size : toEye;
-    return dot(normal, toEye) < 0.0 ? -normal : normal;
+    float towardsEye = dot(normal, toEye);
+    if (towardsEye >= 0.0) {
+        return normal;
+    }
+    // On a front side the shading normal points away only at a silhouette, where the surface is
+    // flatter than it is shaded: there it is bent back to the edge, not turned to the other side.
+    vec3 flatNormal = cross(dFdx(viewPosition), dFdy(viewPosition));
+    flatNormal = dot(flatNormal, toEye) < 0.0 ? -flatNormal : flatNormal;
+    return dot(normal, flatNormal) > 0.0 ? normalize(normal - towardsEye * toEye) : -normal;
 }
 vec3 shade(vec3 normal, vec3 diffuse)
 {

@@ -3,6 +3,7 @@
 
 #include <nbOpenSGRenderAction/FramePainter.h>
 #include <nbOpenSGRenderAction/FrameTargets.h>
+#include <nbOpenSGRenderAction/HostState.h>
 #include <nbOpenSGRenderAction/MagnifierPainter.h>
 #include <nbUtils/nbLog.h>
 
@@ -186,7 +187,11 @@ bool nbRenderAction::render(const osg::ViewportPtr& viewport, int widthPx, int h
         return false;
     }
     std::string error;
-    if (!impl->prepareContext(error) || !impl->bindTargets(widthPx, heightPx, error)) {
+    if (!impl->prepareContext(error)) {
+        return impl->fail(error);
+    }
+    const nbrender::HostState hostState(*impl->gl);
+    if (!impl->bindTargets(widthPx, heightPx, error)) {
         return impl->fail(error);
     }
     impl->lastFailure.clear();

@@ -18,6 +18,10 @@
 /// made for a context is made anew from the containers when another one is current; who destroys a
 /// context calls release() in it before. Belongs to one thread.
 ///
+/// A host may draw with the same context between frames: a frame sets what it needs, and gives the
+/// state back that it found, but for textures and samplers of units above 0 and buffers that are
+/// bound to other targets than GL_ARRAY_BUFFER.
+///
 /// Drawing order and the rules of material groups are those of nbrender::ItemList. Handles, all
 /// items below a manipulator node, are tested LEQUAL and write depth in the front tenth of the
 /// depth range, whatever their chunks say, so that they show through every object and occlude each

@@ -7,6 +7,10 @@
 
 #include <QtGui/QOffscreenSurface>
 #include <QtGui/QOpenGLContext>
+#include <QtGui/QOpenGLFramebufferObject>
+#include <QtGui/QOpenGLFunctions_3_3_Core>
+#include <QtGui/QOpenGLPaintDevice>
+#include <QtGui/QPainter>
 
 using namespace rendertest;
 
@@ -208,6 +212,81 @@ TEST_F(nbRenderMaterialsTest, SeveralPassesSmoothEdgesAndKeepSurfaces)
 
     EXPECT_EQ(at(smooth, 0.f, 0.f), odd);
     EXPECT_EQ(view->render(viewport.get(), kSize, kSize, 8), smooth);
+}
+
+TEST_F(nbRenderMaterialsTest, AHostsDrawingDoesNotLeakInAndItsStateComesBack)
+{
+    draw(group({ osg::makeSphere(3, 1.f) }));  // makes the view's context
+    QOffscreenSurface surface;
+    surface.create();
+    QOpenGLContext context;
+    QSurfaceFormat format;
+    format.setVersion(3, 3);
+    format.setProfile(QSurfaceFormat::CoreProfile);
+    context.setFormat(format);
+    ASSERT_TRUE(context.create() && context.makeCurrent(&surface));
+    auto* const gl = context.versionFunctions<QOpenGLFunctions_3_3_Core>();
+    ASSERT_TRUE(gl != nullptr && gl->initializeOpenGLFunctions());
+    QOpenGLFramebufferObject target(kSize, kSize);
+    nbRenderAction action;
+    const auto picture = [&] {
+        EXPECT_TRUE(action.render(viewport.get(), kSize, kSize, target.handle()));
+        return target.toImage();
+    };
+    const QImage expected = picture();
+    ASSERT_NE(expected.pixelColor(kSize / 2, kSize / 2), QColor(Qt::black));
+
+    for (const GLenum capability :
+         { GL_SAMPLE_COVERAGE, GL_SAMPLE_ALPHA_TO_COVERAGE, GL_COLOR_LOGIC_OP, GL_PRIMITIVE_RESTART,
+           GL_RASTERIZER_DISCARD, GL_SCISSOR_TEST, GL_STENCIL_TEST, GL_CULL_FACE, GL_BLEND }) {
+        gl->glEnable(capability);
+        gl->glLogicOp(GL_INVERT);
+        gl->glSampleCoverage(0.25F, GL_FALSE);
+        EXPECT_EQ(picture(), expected) << std::hex << capability;
+        EXPECT_TRUE(gl->glIsEnabled(capability)) << std::hex << capability;
+        gl->glDisable(capability);
+    }
+    gl->glDisable(GL_MULTISAMPLE);
+    gl->glPolygonMode(GL_FRONT_AND_BACK, GL_LINE);
+    gl->glColorMask(GL_TRUE, GL_FALSE, GL_TRUE, GL_TRUE);
+    EXPECT_EQ(picture(), expected);
+    GLint mode[2] = {};
+    gl->glGetIntegerv(GL_POLYGON_MODE, mode);
+    GLboolean mask[4] = {};
+    gl->glGetBooleanv(GL_COLOR_WRITEMASK, mask);
+    EXPECT_TRUE(mode[0] == GL_LINE && mask[0] && !mask[1]);
+    EXPECT_FALSE(gl->glIsEnabled(GL_MULTISAMPLE));
+    gl->glPolygonMode(GL_FRONT_AND_BACK, GL_FILL);
+    gl->glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
+    ASSERT_TRUE(target.bind());
+    {
+        QOpenGLPaintDevice device(kSize, kSize);
+        QPainter painter(&device);
+        painter.setClipRect(0, 0, kSize / 2, kSize);
+        painter.drawText(9, 99, "between");
+        painter.beginNativePainting();
+        EXPECT_EQ(picture(), expected);
+        painter.endNativePainting();
+        painter.fillRect(0, 0, kSize, kSize, Qt::red);
+    }
+    EXPECT_EQ(target.toImage().pixelColor(9, 9), QColor(Qt::red)) << "the painter goes on";
+    EXPECT_EQ(picture(), expected);
+    action.release();
+}
+
+TEST_F(nbRenderMaterialsTest, ARoundBodysDarkEdgeHasNoBrightDots)
+{
+    const QImage picture = draw(osg::makeSphere(3, 1.5f));
+    // The light comes from above on the left: towards the lower right it only gets darker.
+    for (float aside = -0.9f; aside < 0.9f; aside += 0.02f) {
+        int darkest = 255;
+        for (float away = 0.7f; away < 1.5f; away += 0.02f) {
+            const float angle = aside - 0.96f;
+            const QColor pixel = at(picture, away * std::cos(angle), away * std::sin(angle));
+            EXPECT_LE(pixel.green(), darkest + 10) << aside << ", " << away;
+            darkest = std::min(darkest, pixel.green());
+        }
+    }
 }
 
 TEST_F(nbRenderMaterialsTest, OneActionOutlivesALostContext)
