@@ -44,12 +44,13 @@ def screenshots(session):
 
 
 def missing_excerpts(root):
-    """First lines of the pieces of C++ that a page shows of the example and that are not in it."""
-    text = "\n".join(path.read_text(encoding="utf-8") for path in sorted((root / "examples").glob("Lift*")))
-    page = (root / "docs" / "new-manipulator.md").read_text(encoding="utf-8")
-    for block in re.findall(r"^```cpp\n(.*?)^```$", page, flags=re.DOTALL | re.MULTILINE):
-        if block not in text:
-            yield block.splitlines()[0]
+    """First lines of the pieces of C++ that pages show of an example and that are not in it."""
+    for example, name in (("Lift*", "new-manipulator.md"), ("FirstWindow*", "first-window.md")):
+        text = "\n".join(path.read_text(encoding="utf-8") for path in sorted((root / "examples").glob(example)))
+        page = (root / "docs" / name).read_text(encoding="utf-8")
+        for block in re.findall(r"^```cpp\n(.*?)^```$", page, flags=re.DOTALL | re.MULTILINE):
+            if block not in text:
+                yield block.splitlines()[0]
 
 
 def unknown_names(root):

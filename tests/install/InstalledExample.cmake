@@ -26,11 +26,11 @@ endif()
 # It has a manipulator of its own, drags it and checks what came of it.
 run(${SCRATCH}/example/lift_gizmo)
 
-file(READ ${SOURCE}/examples/first_gizmo.cpp program)
+file(READ ${SOURCE}/examples/FirstWindow.cpp program)
 file(READ ${SOURCE}/README.md readme)
 string(FIND "${readme}" "${program}" position)
 if(position EQUAL -1)
-    message(FATAL_ERROR "README.md does not show examples/first_gizmo.cpp as it is")
+    message(FATAL_ERROR "README.md does not show examples/FirstWindow.cpp as it is")
 endif()
 
 # == A drag, by the compiler alone
@@ -52,7 +52,7 @@ run(${SCRATCH}/drag_gizmo)
 set(documents ${SCRATCH}/prefix/share/doc/libnbmanipulator-dev)
 file(GLOB pages ${documents}/*.md ${documents}/docs/*.md)
 list(LENGTH pages count)
-if(count LESS 10)
+if(count LESS 10 OR NOT EXISTS ${documents}/examples/FirstWindow.cpp)
     message(FATAL_ERROR "only ${count} pages of the manual are installed")
 endif()
 foreach(page ${pages})
