@@ -11,7 +11,7 @@ install(TARGETS nbManipulator nbplatform EXPORT nbManipulatorTargets
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
         INCLUDES DESTINATION ${NBM_HEADERS})
 set_target_properties(nbManipulator nbplatform PROPERTIES
-    VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
+    VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR}
     INSTALL_RPATH "$ORIGIN")
 
 # == Headers. Of the library: the classes, the modes of their handles, and what a manipulator of one's own is made of (course, handles,
@@ -50,8 +50,12 @@ configure_file(\"${CMAKE_CURRENT_LIST_DIR}/nbManipulator.pc.in\"
 set(NBM_DOCUMENTS ${CMAKE_INSTALL_DATAROOTDIR}/doc)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/ DESTINATION ${NBM_DOCUMENTS}/libnbmanipulator-dev/docs COMPONENT development
         FILES_MATCHING PATTERN "*.md" PATTERN "*.png")
-install(FILES ${PROJECT_SOURCE_DIR}/ARCHITECTURE.md ${PROJECT_SOURCE_DIR}/CHANGELOG.md
+install(FILES ${PROJECT_SOURCE_DIR}/ARCHITECTURE.md ${PROJECT_SOURCE_DIR}/CHANGELOG.md ${PROJECT_SOURCE_DIR}/CONTRIBUTING.md
+              ${PROJECT_SOURCE_DIR}/README.md
         DESTINATION ${NBM_DOCUMENTS}/libnbmanipulator-dev COMPONENT development)
+install(FILES ${PROJECT_SOURCE_DIR}/benchmarks/README.md DESTINATION ${NBM_DOCUMENTS}/libnbmanipulator-dev/benchmarks
+        COMPONENT development)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples DESTINATION ${NBM_DOCUMENTS}/libnbmanipulator-dev COMPONENT development)
 # Debian packages have their licence under this name.
 install(FILES ${PROJECT_SOURCE_DIR}/LICENSE RENAME copyright
         DESTINATION ${NBM_DOCUMENTS}/libnbmanipulator COMPONENT runtime)
