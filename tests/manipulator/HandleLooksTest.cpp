@@ -177,4 +177,63 @@ TYPED_TEST(HandleLooks, TheOverlayIsThereWhileSomethingIsDragged)
     EXPECT_EQ(points(), 0U);
 }
 
+template <class Gizmo>
+class TurnOverlay : public HandleLooks<Gizmo>
+{
+protected:
+    bool pressRing(const char* name)
+    {
+        this->gizmo->update(true);
+        const osg::NodePtr ring = partsOf(this->node(name))[0];
+        const auto positions = osg::GeometryPtr::dcast(ring->getCore())->getPositions();
+        for (osg::UInt32 i = 0; i < positions->getSize(); ++i) {
+            Pnt3f world = positions->getValue(i);
+            ring->getToWorld().multMatrixPnt(world);
+            const View view;
+            const Vec2f px = view.project(world);
+            this->point(Pnt2f(px.x(), static_cast<float>(view.getHeight()) - px.y()));
+            if (this->say("hover") &&
+                nbNodeUtils::getName(this->stage.picker.getHitNode()) == name) {
+                return this->say("start");
+            }
+        }
+        return false;
+    }
+};
+
+using KindsThatTurn = testing::Types<Transform, Planar, Triplanar, UV>;
+TYPED_TEST_SUITE(TurnOverlay, KindsThatTurn, );
+
+TYPED_TEST(TurnOverlay, ThePresentLegOfASectorPointsToThePointer)
+{
+    constexpr bool kHasThree =
+        std::is_same_v<TypeParam, Transform> || std::is_same_v<TypeParam, Triplanar>;
+    if constexpr (std::is_same_v<TypeParam, Transform>) {
+        this->gizmo->activateRotateManipulator();
+    }
+    setDragOverlayShown(true);
+    ASSERT_TRUE(this->pressRing(kHasThree ? "rzShape" : "rotateShape"));
+    const View view;
+    const auto legs = [this] {
+        for (const osg::NodePtr& part : partsOf(this->gizmo->getVisualisation())) {
+            const auto core = osg::GeometryPtr::dcast(part->getCore());
+            if (core->getMaterial()->getSortKey() == 64018) {
+                return core->getPositions();
+            }
+        }
+        return osg::GeoPositionsPtr();
+    };
+    ASSERT_TRUE(this->say("process") && this->step() && this->step() && this->step());
+    ASSERT_NE(legs(), osg::NullFC);
+    const Vec2f centre = view.project(legs()->getValue(0));
+    const Vec2f end = view.project(legs()->getValue(3)) - centre;
+    const Vec2f start = view.project(legs()->getValue(1)) - centre;
+    const Vec2f toPointer =
+        Vec2f(this->pointer.x(), static_cast<float>(view.getHeight()) - this->pointer.y()) - centre;
+    const auto angle = [](const Vec2f& of) { return std::atan2(of.y(), of.x()); };
+    EXPECT_NEAR(std::remainder(angle(end) - angle(toPointer), 6.2831853F), 0.0F, 0.02F);
+    EXPECT_GT(std::abs(std::remainder(angle(end) - angle(start), 6.2831853F)), 0.04F);
+    this->say("stop");
+}
+
 }  // namespace nbec::manipulator::test
