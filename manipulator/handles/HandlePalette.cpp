@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/handles/HandlePalette.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 
@@ -44,6 +45,13 @@ bool isColour(const osg::Color3f& colour)
 }
 
 }  // namespace
+
+bool HandlePalette::isSame(const HandlePalette& other) const
+{
+    return std::all_of(kColours.begin(), kColours.end(), [this, &other](Colour colour) {
+        return manipulator::isSame(this->*colour, other.*colour);
+    });
+}
 
 const HandlePalette& builtInPalette(BuiltInPalette which)
 {

@@ -17,6 +17,9 @@ struct HandlePalette
     osg::Color3f all { 1.0F, 1.0F, 0.0F };  ///< what acts in all directions
     osg::Color3f highlight { 1.0F, 0.5F, 0.0F };
     osg::Color3f pivot { 0.6F, 0.35F, 0.65F };
+
+    /// Whether all colours are the same, exactly.
+    NB_MANIPULATOR_API bool isSame(const HandlePalette& other) const;
 };
 
 /// Palettes that come with the library.

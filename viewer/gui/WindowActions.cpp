@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/gui/WindowActions.h"
 
+#include "manipulator/course/DragOverlay.h"
+#include "manipulator/course/HandleFading.h"
+#include "manipulator/handles/HandlePalette.h"
 #include "viewer/gui/AboutBox.h"
 #include "viewer/gui/MainWindow.h"
 #include "viewer/gui/PanelDocks.h"
@@ -66,6 +69,26 @@ constexpr ThemeRow kThemes[] = {
     { "themeSystem", QT_TRANSLATE_NOOP("viewer::WindowActions", "As the &desktop"), Theme::System },
     { "themeLight", QT_TRANSLATE_NOOP("viewer::WindowActions", "&Light"), Theme::Light },
     { "themeDark", QT_TRANSLATE_NOOP("viewer::WindowActions", "Dar&k"), Theme::Dark },
+};
+
+/// A palette of the handles.
+struct PaletteRow
+{
+    const char* name;
+    const char* text;
+    nbec::manipulator::BuiltInPalette palette;
+};
+
+using nbec::manipulator::BuiltInPalette;
+constexpr PaletteRow kPalettes[] = {
+    { "paletteClassic", QT_TRANSLATE_NOOP("viewer::WindowActions", "&Classic colours"),
+      BuiltInPalette::Classic },
+    { "paletteSoft", QT_TRANSLATE_NOOP("viewer::WindowActions", "&Soft colours"),
+      BuiltInPalette::Soft },
+    { "paletteContrast", QT_TRANSLATE_NOOP("viewer::WindowActions", "&High contrast"),
+      BuiltInPalette::HighContrast },
+    { "paletteColourBlind", QT_TRANSLATE_NOOP("viewer::WindowActions", "For &any colour vision"),
+      BuiltInPalette::ForColourBlind },
 };
 
 constexpr GizmoRow kGizmos[] = {
@@ -279,6 +302,7 @@ void WindowActions::addViewMenu()
     menu->addSeparator();
     addThemes(menu->addMenu(tr("&Theme")));
     addLanguages(menu->addMenu(tr("Lan&guage")));
+    addHandleLooks(menu->addMenu(tr("Ha&ndles")));
     addPlain(menu, "nextPanel", tr("Ne&xt panel"), "F6",
              [this](bool) { window.panels().focusNext(&window.view()); });
     fullScreen = addPlain(menu, "fullScreen", tr("F&ull screen"), "F11",
@@ -296,6 +320,37 @@ void WindowActions::addThemes(QMenu* menu)
         group->addAction(action);
         themeActions[row.theme] = action;
     }
+}
+
+void WindowActions::addHandleLooks(QMenu* menu)
+{
+    using namespace nbec::manipulator;
+    auto* group = new QActionGroup(this);
+    for (const PaletteRow& row : kPalettes) {
+        const HandlePalette& palette = builtInPalette(row.palette);
+        QAction* action = addPlain(menu, row.name, tr(row.text), {}, [this, &palette](bool) {
+            setHandlePalette(palette);
+            stage.edited();
+        });
+        action->setCheckable(true);
+        action->setChecked(palette.isSame(getHandlePalette()));
+        group->addAction(action);
+    }
+    menu->addSeparator();
+    QAction* fading = addPlain(menu, "handleFading", tr("&Fade seen end-on"), {}, [this](bool on) {
+        HandleFading wanted;
+        wanted.isOn = on;
+        setHandleFading(wanted);
+        stage.gizmo().followCamera();
+        stage.edited();
+    });
+    fading->setCheckable(true);
+    fading->setChecked(getHandleFading().isOn);
+    QAction* overlay = addPlain(menu, "dragOverlay", tr("Draw what a &drag has come to"), {},
+                                [](bool on) { setDragOverlayShown(on); });
+    overlay->setCheckable(true);
+    overlay->setChecked(isDragOverlayShown());
+    // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): the group belongs to its parent
 }
 
 void WindowActions::addLanguages(QMenu* menu)

@@ -75,6 +75,7 @@ private:
     void addTransformSettings(QMenu* menu);
     void addHelpMenu();
     void addThemes(QMenu* menu);
+    void addHandleLooks(QMenu* menu);
     void addLanguages(QMenu* menu);
     void updateGizmos();
     void updateEditing();

@@ -1872,5 +1872,33 @@
         <source>&amp;Shortcuts…</source>
         <translation>&amp;Tastenkürzel…</translation>
     </message>
+    <message>
+        <source>&amp;Classic colours</source>
+        <translation>&amp;Klassische Farben</translation>
+    </message>
+    <message>
+        <source>&amp;Soft colours</source>
+        <translation>&amp;Sanfte Farben</translation>
+    </message>
+    <message>
+        <source>&amp;High contrast</source>
+        <translation>&amp;Hoher Kontrast</translation>
+    </message>
+    <message>
+        <source>For &amp;any colour vision</source>
+        <translation>Für &amp;jedes Farbsehen</translation>
+    </message>
+    <message>
+        <source>Ha&amp;ndles</source>
+        <translation>&amp;Griffe</translation>
+    </message>
+    <message>
+        <source>&amp;Fade seen end-on</source>
+        <translation>Von vorn gesehen &amp;ausblenden</translation>
+    </message>
+    <message>
+        <source>Draw what a &amp;drag has come to</source>
+        <translation>&amp;Zurückgelegtes zeichnen</translation>
+    </message>
 </context>
 </TS>

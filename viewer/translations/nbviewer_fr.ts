@@ -1872,5 +1872,33 @@
         <source>&amp;Shortcuts…</source>
         <translation>Ra&amp;ccourcis…</translation>
     </message>
+    <message>
+        <source>&amp;Classic colours</source>
+        <translation>Couleurs &amp;classiques</translation>
+    </message>
+    <message>
+        <source>&amp;Soft colours</source>
+        <translation>Couleurs &amp;douces</translation>
+    </message>
+    <message>
+        <source>&amp;High contrast</source>
+        <translation>Contraste &amp;élevé</translation>
+    </message>
+    <message>
+        <source>For &amp;any colour vision</source>
+        <translation>Pour &amp;toute vision des couleurs</translation>
+    </message>
+    <message>
+        <source>Ha&amp;ndles</source>
+        <translation>&amp;Apparence des poignées</translation>
+    </message>
+    <message>
+        <source>&amp;Fade seen end-on</source>
+        <translation>Est&amp;omper vues de face</translation>
+    </message>
+    <message>
+        <source>Draw what a &amp;drag has come to</source>
+        <translation>T&amp;racer le déplacement</translation>
+    </message>
 </context>
 </TS>

@@ -1868,5 +1868,33 @@
         <source>&amp;Shortcuts…</source>
         <translation>快捷键(&amp;S)…</translation>
     </message>
+    <message>
+        <source>&amp;Classic colours</source>
+        <translation>经典配色(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Soft colours</source>
+        <translation>柔和配色(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;High contrast</source>
+        <translation>高对比度(&amp;H)</translation>
+    </message>
+    <message>
+        <source>For &amp;any colour vision</source>
+        <translation>适合各类色觉(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Ha&amp;ndles</source>
+        <translation>手柄(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Fade seen end-on</source>
+        <translation>正对视线时淡出(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Draw what a &amp;drag has come to</source>
+        <translation>绘制拖动轨迹(&amp;D)</translation>
+    </message>
 </context>
 </TS>
