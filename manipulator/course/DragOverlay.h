@@ -32,7 +32,7 @@ struct OverlayStart
 /// present leg and ticks, the rest of whole turns; of a motion the line from where the gizmo stood,
 /// with a mark there; of a scale handle its length and its length at the start. It follows the
 /// parameters, so what is snapped or typed. Nothing is allocated in a step.
-class NB_MANIPULATOR_API DragOverlay
+class DragOverlay
 {
 public:
     DragOverlay() = default;
