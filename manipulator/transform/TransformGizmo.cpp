@@ -20,6 +20,7 @@
 #include <nbUtils/nbMessage.h>
 
 #include <unordered_set>
+#include <utility>
 
 namespace nbec::manipulator::transform {
 
@@ -31,6 +32,8 @@ using NodeIds = std::unordered_set<osg::UInt32>;
 
 constexpr osg::Int32 kTransformPermission = 19;
 constexpr const char* kLockedWarning = "Selected node cannot be transformed.";
+constexpr const char* kOutsideWarning =
+    "UniversalTransformManipulator2: the node is not moved, it hangs in no scene";
 /// Half the length of a mark's lines, in gizmo units.
 constexpr float kMarkReach = 0.15F;
 /// Deliberate: the rotation precision is turned into radians with this many digits.
@@ -112,6 +115,7 @@ void TransformGizmo::setNodes(const osg::NodePtr& node, const std::vector<osg::N
     prepareAnew();  // a drag goes on from here with the new nodes
     watch.forget();
     marks.show(false);
+    isOutsideTold = false;
     targetIds = { containerId(node) };
     if (node == osg::NullFC) {
         return;
@@ -329,7 +333,13 @@ bool TransformGizmo::isDisplaced(const View& /*view*/) const
 bool TransformGizmo::canStep(const View& view)
 {
     const osg::NodePtr selected = getNode();
-    if (selected == osg::NullFC || selected->getParent() == osg::NullFC) {
+    if (selected == osg::NullFC) {
+        return false;
+    }
+    if (selected->getParent() == osg::NullFC) {
+        if (!std::exchange(isOutsideTold, true)) {
+            nbLog::warning(kOutsideWarning);
+        }
         return false;
     }
     if (targetIds.size() == 1 && isLocked(0)) {

@@ -99,6 +99,7 @@ private:
 
     const TransformSettings* settings;
     std::vector<osg::UInt32> targetIds;  ///< the dragged node, then the further ones
+    bool isOutsideTold = false;  ///< that the node hangs in no scene
     osg::RefPtr<osg::NodePtr> multiselection;
     PivotMarks marks;  ///< of the further nodes
     osg::RefPtr<osg::NodePtr> additionalGeometry;

@@ -9,6 +9,7 @@
 #include <nbTransform/nbTransformModel.h>
 
 #include <OpenSG/OSGGroup.h>
+#include <OpenSG/OSGSimpleGeometry.h>
 
 #include <gmock/gmock.h>
 
@@ -87,6 +88,22 @@ TEST(DragRefusals, ALockedNodeIsNeitherConvertedNorMovedAndEveryStepIsLogged)
                 ElementsAre("Selected node cannot be transformed.",
                             "Selected node cannot be transformed."));
     EXPECT_EQ(transformOf(drags.scene.node), osg::NullFC);
+}
+
+TEST(DragRefusals, ANodeThatHangsInNoSceneIsNotMovedWhichIsSaidOnce)
+{
+    DragScene drags;
+    const osg::RefPtr<osg::NodePtr> box(osg::makeBox(1, 1, 1, 1, 1, 1));
+    drags.gizmo.setNode(box.get());
+    drags.gizmo.update(true);
+    const nbtest::LogLines log;
+    const Pnt2f pixel = drags.rayPixelOf(drags.onGizmo(kArrow));
+    ASSERT_TRUE(drags.scene.send("start", pixel));
+    EXPECT_FALSE(drags.scene.send("process", pixel));
+    EXPECT_FALSE(drags.scene.send("process", pixel + Vec2f(9, 0)));
+    EXPECT_THAT(log.lines,
+                ElementsAre("UniversalTransformManipulator2: the node is not moved, it hangs in no "
+                            "scene"));
 }
 
 TEST(DragRefusals, OfSeveralNodesTheLockedOnesAreNeitherMovedNorConverted)
