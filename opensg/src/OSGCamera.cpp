@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include <OpenSG/OSGCamera.h>
-#include <OpenSG/OSGFrustumVolume.h>
 #include <OpenSG/OSGLog.h>
 #include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGViewport.h>
@@ -153,13 +152,6 @@ void Camera::getWorldToScreen(Matrix& result, const Viewport& port)
     getViewing(viewing, width, height);
     result.mult(translation);
     result.mult(viewing);
-}
-
-void Camera::getFrustum(FrustumVolume& result, const Viewport& port)
-{
-    Matrix screenFromWorld;
-    getWorldToScreen(screenFromWorld, port);
-    result.setPlanes(screenFromWorld);
 }
 
 bool Camera::calcViewRay(Line& line, Int32 x, Int32 y, const Viewport& port)

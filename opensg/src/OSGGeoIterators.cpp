@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <OpenSG/OSGFaceIterator.h>
 #include <OpenSG/OSGLineIterator.h>
 #include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGPrimitiveIterator.h>
@@ -26,13 +25,6 @@ UInt32 set(UInt32 (&vertices)[4], UInt32 a, UInt32 b, UInt32 c)
     set(vertices, a, b);
     vertices[2] = c;
     return 3;
-}
-
-UInt32 set(UInt32 (&vertices)[4], UInt32 a, UInt32 b, UInt32 c, UInt32 d)
-{
-    set(vertices, a, b, c);
-    vertices[3] = d;
-    return 4;
 }
 
 GeometryPtr geometryOf(const NodePtr& node)
@@ -114,30 +106,6 @@ UInt32 TriangleSplitter::corners(UInt32 type, UInt32 part, UInt32 /*length*/, UI
     }
     default:
         return set(vertices, 0, part + 1, part + 2);
-    }
-}
-
-UInt32 FaceSplitter::count(UInt32 type, UInt32 length)
-{
-    switch (type) {
-    case GL_QUADS:
-        return length / 4;
-    case GL_QUAD_STRIP:
-        return beyond(length / 2, 1);
-    default:
-        return TriangleSplitter::count(type, length);
-    }
-}
-
-UInt32 FaceSplitter::corners(UInt32 type, UInt32 part, UInt32 length, UInt32 (&vertices)[4])
-{
-    switch (type) {
-    case GL_QUADS:
-        return set(vertices, 4 * part, 4 * part + 1, 4 * part + 2, 4 * part + 3);
-    case GL_QUAD_STRIP:
-        return set(vertices, 2 * part, 2 * part + 1, 2 * part + 3, 2 * part + 2);
-    default:
-        return TriangleSplitter::corners(type, part, length, vertices);
     }
 }
 

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <OpenSG/OSGFaceIterator.h>
 #include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGGeometryView.h>
 #include <OpenSG/OSGLineIterator.h>
@@ -65,18 +64,6 @@ TriangleIterator Geometry::beginTriangles() const
 TriangleIterator Geometry::endTriangles() const
 {
     return TriangleIterator(endPrimitives());
-}
-
-FaceIterator Geometry::beginFaces() const
-{
-    FaceIterator result((GeometryPtr(*this)));
-    result.setToBegin();
-    return result;
-}
-
-FaceIterator Geometry::endFaces() const
-{
-    return FaceIterator(endPrimitives());
 }
 
 LineIterator Geometry::beginLines() const

@@ -11,7 +11,6 @@
 
 namespace osg {
 
-class FrustumVolume;
 class Viewport;
 
 #define OSG_CAMERA_FIELDS(VALUE, OWNED, LINK)                                                      \
@@ -40,9 +39,6 @@ public:
 
     /// World to normalised device coordinates, -1 .. 1 each: projection * translation * viewing.
     virtual void getWorldToScreen(Matrix& result, const Viewport& port);
-
-    /// The part of the world that shows in the viewport.
-    void getFrustum(FrustumVolume& result, const Viewport& port);
 
     /// The ray under a pixel: it starts on the near plane, its direction has length 1.
     ///

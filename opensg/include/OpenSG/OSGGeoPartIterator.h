@@ -5,7 +5,7 @@
 
 namespace osg {
 
-/// Walks over parts of primitives: triangles, faces or lines. Splitter tells by two static
+/// Walks over parts of primitives: triangles or lines. Splitter tells by two static
 /// functions how many parts a primitive has and which of its vertices are the corners of one of
 /// them:
 ///     UInt32 count(UInt32 type, UInt32 length);

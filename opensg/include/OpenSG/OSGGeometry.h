@@ -8,7 +8,6 @@
 
 namespace osg {
 
-class FaceIterator;
 class LineIterator;
 class PrimitiveIterator;
 class TriangleIterator;
@@ -76,8 +75,6 @@ public:
     PrimitiveIterator endPrimitives() const;
     TriangleIterator beginTriangles() const;
     TriangleIterator endTriangles() const;
-    FaceIterator beginFaces() const;
-    FaceIterator endFaces() const;
     LineIterator beginLines() const;
     LineIterator endLines() const;
 
