@@ -24,6 +24,7 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
+#include <cmath>
 #include <ctime>
 #include <limits>
 #include <memory>
@@ -35,6 +36,7 @@ using nbec::manipulator::UniversalTransformManipulator2;
 namespace manipulators = nbec::manipulator::bench;
 
 constexpr int kBodies = 8;
+constexpr int kMovedTriangles = 10'000;
 constexpr double kMillisecondsPerSecond = 1e3;
 
 /// Which body is dragged: the first or the last one to be drawn.
@@ -94,23 +96,35 @@ struct Time
     double busySeconds = 0.0;
 };
 
-/// Bodies at the corners of a cube, seen from (5, 6, 7).
+/// Bodies, seen from (5, 6, 7), of which one has the gizmo.
 struct Stage : manipulators::GizmoStage<UniversalTransformManipulator2>
 {
+    /// Alike, at the corners of a cube.
     Stage(std::int64_t triangles, bool isSceneKept, Body body)
     {
-        look(osg::Pnt3f(5, 6, 7));
+        std::vector<osg::NodePtr> bodies;
         for (int i = 0; i < kBodies; ++i) {
-            bodies.push_back(addBody(i, static_cast<int>(triangles / kBodies)));
+            const auto side = [i](int bit) { return (i & bit) != 0 ? 1.1F : -1.1F; };
+            bodies.push_back(addBody(osg::Vec3f(side(1), side(2), side(4)), 1.F,
+                                     static_cast<int>(triangles / kBodies)));
         }
-        const osg::NodePtr& moved = body == First ? bodies.front() : bodies.back();
-        gizmo.setNode(moved);
-        gizmo.activateUniversalManipulator();
-        begin();
-        target.action.setSceneKept(isSceneKept);
-        gizmo.update(true);
-        frame();
-        frame();
+        start(body == First ? bodies.front() : bodies.back(), isSceneKept);
+    }
+
+    /// One of 10,000 triangles, the first in the tree, and others in the cells of a cube that
+    /// have a million together.
+    Stage(std::int64_t others, bool isSceneKept, const osg::Vec3f& place)
+    {
+        constexpr std::int64_t kTriangles = 1'000'000;
+        const osg::NodePtr moved = addBody(place, 0.4F, kMovedTriangles);
+        const auto cells = static_cast<int>(std::ceil(std::cbrt(static_cast<double>(others))));
+        const float cell = 4.F / static_cast<float>(cells);
+        const auto at = [&](std::int64_t i) { return cell * static_cast<float>(i % cells) - 2.F; };
+        for (std::int64_t i = 0; i < others; ++i) {
+            addBody(osg::Vec3f(at(i), at(i / cells), at(i / cells / cells)), 0.4F * cell,
+                    static_cast<int>(kTriangles / others));
+        }
+        start(moved, isSceneKept);
     }
 
     /// Pixel of a place on the gizmo's y arrow, beyond the scale box.
@@ -134,20 +148,32 @@ struct Stage : manipulators::GizmoStage<UniversalTransformManipulator2>
 
     void moveCamera() { look(osg::Pnt3f(5.F + 0.001F * nextWay(), 6.F, 7.F)); }
 
-    std::vector<osg::NodePtr> bodies;
     Target target;
 
 private:
-    static osg::NodePtr addBody(int corner, int triangles)
+    void start(const osg::NodePtr& moved, bool isSceneKept)
+    {
+        look(osg::Pnt3f(5, 6, 7));
+        gizmo.setNode(moved);
+        gizmo.activateUniversalManipulator();
+        begin();
+        target.action.setSceneKept(isSceneKept);
+        target.action.setMovedLast(isSceneKept);
+        gizmo.update(true);
+        frame();
+        frame();
+    }
+
+    static osg::NodePtr addBody(const osg::Vec3f& position, float size, int triangles)
     {
         const osg::GeometryPtr mesh = bench::makeWavySphere(triangles);
         osg::calcVertexNormals(mesh);
         osg::Transform3DPtr place;
         const osg::NodePtr node = osg::makeCoredNode<osg::Transform3D>(&place);
         {
-            const auto side = [corner](int bit) { return (corner & bit) != 0 ? 1.1F : -1.1F; };
-            const nbEdit edit(place, osg::Transform3D::TranslationFieldMask);
-            place->setTranslation(osg::Vec3f(side(1), side(2), side(4)));
+            const nbEdit edit(place, osg::FieldBits::AllFields);
+            place->setTranslation(position);
+            place->setScale(osg::Vec3f(size, size, size));
         }
         node->addChild(osg::makeNodeFor(mesh));
         nbScenegraph::getRootNode()->addChild(node);
@@ -170,17 +196,22 @@ void run(benchmark::State& state, Stage& stage, Change&& change)
 {
     constexpr double kMost = std::numeric_limits<double>::max();
     Time least { kMost, kMost };
+    std::vector<double> seconds;
     for (auto _ : state) {
         change();
         const Time time = stage.frame();
         least = { std::min(least.seconds, time.seconds),
                   std::min(least.busySeconds, time.busySeconds) };
+        seconds.push_back(time.seconds);
         state.SetIterationTime(time.busySeconds);
     }
     if (least.seconds <= 0.0) {
         state.SkipWithError("nothing can be drawn on this display");
     }
     state.counters["least_ms"] = least.seconds * kMillisecondsPerSecond;
+    const auto middle = seconds.begin() + static_cast<std::ptrdiff_t>(seconds.size() / 2);
+    std::nth_element(seconds.begin(), middle, seconds.end());
+    state.counters["median_ms"] = *middle * kMillisecondsPerSecond;
     state.counters["busy_ms"] = least.busySeconds * kMillisecondsPerSecond;
     const nbRenderAction::Statistics statistics = stage.target.action.getStatistics();
     state.counters["calls"] = static_cast<double>(statistics.drawCalls);
@@ -215,6 +246,23 @@ void dragFrame(benchmark::State& state)
     run(state, stage, [&stage] { stage.step(); });
 }
 
+/// Places of the dragged one of many: among the others, and where it widens the scene's bounds.
+const osg::Vec3f kAmong(1.F, 0.5F, 1.F);
+const osg::Vec3f kAbove(0.F, 2.8F, 0.F);
+
+void dragAmongMany(benchmark::State& state)
+{
+    startGui();
+    Stage stage(state.range(0), state.range(1) != 0, state.range(2) != 0 ? kAbove : kAmong);
+    if (!stage.grabAt(stage.arrowPx())) {
+        state.SkipWithError("the handle was missed");
+        return;
+    }
+    stage.step();
+    stage.frame();
+    run(state, stage, [&stage] { stage.step(); });
+}
+
 void cameraFrame(benchmark::State& state)
 {
     startGui();
@@ -234,6 +282,12 @@ BENCHMARK(dragFrame)
     ->Name("redraw/drag")
     ->ArgNames({ "triangles", "kept", "last" })
     ->ArgsProduct({ kSizes[0], kSizes[1], { First, Last } })
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(dragAmongMany)
+    ->Name("redraw/drag among many")
+    ->ArgNames({ "others", "kept", "widens" })
+    ->ArgsProduct({ { 100, 10'000 }, { 0, 1 }, { 0, 1 } })
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond);
 BENCHMARK(cameraFrame)

@@ -94,6 +94,13 @@ FrameView FramePainter::prepareView(const Frame& frame, const osg::ViewportPtr& 
     if (list.update(viewport->getRoot())) {
         ++taken.listBuilds;
     }
+    osg::Matrix viewFromWorld;
+    viewport->getCamera()->getViewing(viewFromWorld, static_cast<osg::UInt32>(frame.widthPx),
+                                      static_cast<osg::UInt32>(frame.heightPx));
+    if (!isMovedLast || !viewFromWorld.equals(lastViewFromWorld, 0.0F)) {
+        list.forgetMoved();
+        lastViewFromWorld = viewFromWorld;
+    }
     return makeFrameView(viewport->getCamera(), list, frame, depth);
 }
 
@@ -151,9 +158,16 @@ SceneImage::Plan FramePainter::makePlan(const Frame& frame, const FrameView& vie
             ? meshes.getTriangles(list.getItems()[step.item].geometryId)
             : std::size_t(0);
     };
-    const SceneImage::Plan plan = image.plan(
-        steps,
-        { wholeOf(frame).area(), targets.hasKept(), targets.getDifference(), pixels, triangles });
+    const auto staysNot = [this](const FrameStep& step) {
+        return step.transient ||
+            (step.kind == FrameStep::Kind::Item && list.getItems()[step.item].moved);
+    };
+    const auto settled =
+        list.hasMoved() ? std::find_if(steps.begin(), steps.end(), staysNot) - steps.begin() : 0;
+    const SceneImage::Plan plan =
+        image.plan(steps,
+                   { wholeOf(frame).area(), targets.hasKept(), targets.getDifference(),
+                     static_cast<std::size_t>(settled), pixels, triangles });
     const auto isItem = [](const FrameStep& step) { return step.kind == FrameStep::Kind::Item; };
     const auto begin = steps.begin();
     taken.reused = static_cast<std::size_t>(

@@ -44,6 +44,8 @@ public:
 
     void setSceneKept(bool on) { image.setEnabled(on); }
 
+    void setMovedLast(bool on) { isMovedLast = on; }
+
     const Taken& getTaken() const { return taken; }
 
     std::size_t getMeshCount() const { return meshes.size(); }
@@ -78,6 +80,8 @@ private:
     ItemList list;
     SceneImage image;
     Taken taken;
+    bool isMovedLast = false;
+    osg::Matrix lastViewFromWorld;
 };
 
 }  // namespace nbrender

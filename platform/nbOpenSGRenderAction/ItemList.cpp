@@ -41,7 +41,27 @@ using Likeness = std::tuple<osg::UInt32, osg::UInt32, osg::UInt32, MatrixValues>
 /// Items of one sort key and kind stand together in the sorted list.
 bool sameRun(const RenderItem& a, const RenderItem& b)
 {
-    return a.key == b.key && a.secondKey == b.secondKey && a.blended == b.blended;
+    return a.key == b.key && a.secondKey == b.secondKey && a.blended == b.blended &&
+        a.sortsFreely == b.sortsFreely;
+}
+
+bool isOfScene(const RenderItem& item)
+{
+    return !item.handle && !item.auxiliary;
+}
+
+bool sortsFreely(const DrawState& state)
+{
+    return !state.transparent && state.depthTest && state.depthWrite && state.shaderId == 0 &&
+        (state.depthFunc == GL_LESS || state.depthFunc == GL_LEQUAL) &&
+        state.blendSource == GL_ONE && state.blendDestination == GL_ZERO;
+}
+
+bool encloses(const osg::BoxVolume& box, const osg::BoxVolume& inner)
+{
+    osg::BoxVolume both = box;
+    both.extendBy(inner);
+    return !box.isEmpty() && both.getMin() == box.getMin() && both.getMax() == box.getMax();
 }
 
 }  // namespace
@@ -80,6 +100,7 @@ bool ItemList::update(const osg::NodePtr& root)
         visit(root, Place());
     }
     clipSets.update();
+    noteMoved();
     assignDepthSteps();
     sortItems();
     dropCopies();
@@ -111,7 +132,7 @@ void ItemList::visit(const osg::NodePtr& node, const Place& above)
             place.worldFromGroup = &place.worldFromParent;
         }
     } else if (const auto geometry = osg::GeometryPtr::dcast(core); geometry != osg::NullFC) {
-        addItem(geometry, place);
+        addItem(node, geometry, place);
     }
     visitChildren(node, place);
 }
@@ -132,7 +153,8 @@ void ItemList::visitChildren(const osg::NodePtr& node, const Place& place)
     }
 }
 
-void ItemList::addItem(const osg::GeometryPtr& geometry, const Place& place)
+void ItemList::addItem(const osg::NodePtr& node, const osg::GeometryPtr& geometry,
+                       const Place& place)
 {
     const LocalBounds& local = localBounds(geometry);
     if (local.box.isEmpty()) {
@@ -140,6 +162,7 @@ void ItemList::addItem(const osg::GeometryPtr& geometry, const Place& place)
     }
     RenderItem item;
     item.geometryId = geometry.getFieldContainerId();
+    item.nodeId = node.getFieldContainerId();
     item.handle = place.manipulator != 0;
     item.manipulator = place.manipulator;
     item.auxiliary = place.auxiliary;
@@ -155,6 +178,7 @@ void ItemList::addItem(const osg::GeometryPtr& geometry, const Place& place)
         item.key = place.group == osg::NullFC ? state.sortKey : place.group->getSortKey();
     }
     item.blended = state.transparent;
+    item.sortsFreely = !item.handle && sortsFreely(state);
     placePictures(item, place);
     item.stamp = stampOf(item, local.stamp);
     items.push_back(item);
@@ -287,10 +311,59 @@ void ItemList::measure()
     sceneBounds = osg::BoxVolume();
     sceneBounds.setEmpty();
     for (const RenderItem& item : items) {
-        if (!item.handle && !item.auxiliary) {
+        if (isOfScene(item)) {
             sceneBounds.extendBy(item.bounds);
         }
     }
+    if (movedNodes.empty()) {
+        roomyBounds.setEmpty();
+        return;
+    }
+    if (!encloses(roomyBounds, sceneBounds)) {
+        osg::Vec3f room;
+        sceneBounds.getSize(room);
+        room.setValues(room.length(), room.length(), room.length());
+        roomyBounds.setBounds(sceneBounds.getMin() - room, sceneBounds.getMax() + room);
+    }
+    sceneBounds = roomyBounds;
+}
+
+void ItemList::noteMoved()
+{
+    std::vector<std::pair<osg::UInt32, osg::UInt64>> stamps;
+    std::vector<osg::UInt32> moved;
+    for (const RenderItem& item : items) {
+        if (!isOfScene(item)) {
+            continue;
+        }
+        const std::size_t i = stamps.size();
+        if (i < sceneStamps.size() && sceneStamps[i].first == item.nodeId &&
+            sceneStamps[i].second != item.stamp) {
+            moved.push_back(item.nodeId);
+        }
+        stamps.emplace_back(item.nodeId, item.stamp);
+    }
+    sceneStamps.swap(stamps);
+    std::sort(moved.begin(), moved.end());
+    if (!std::includes(movedNodes.begin(), movedNodes.end(), moved.begin(), moved.end())) {
+        movedNodes.swap(moved);
+        roomyBounds.setEmpty();
+    }
+    for (RenderItem& item : items) {
+        item.moved = std::binary_search(movedNodes.begin(), movedNodes.end(), item.nodeId);
+    }
+}
+
+void ItemList::forgetMoved()
+{
+    if (movedNodes.empty()) {
+        return;
+    }
+    movedNodes.clear();
+    for (RenderItem& item : items) {
+        item.moved = false;
+    }
+    measure();
 }
 
 void ItemList::forgetDeadBounds()
@@ -302,33 +375,38 @@ void ItemList::forgetDeadBounds()
     }
 }
 
-const std::vector<osg::UInt32>& ItemList::getOrder(const osg::Matrix& viewFromWorld)
+void ItemList::sortFromBack(Order::iterator first, Order::iterator last,
+                            const osg::Matrix& viewFromWorld) const
+{
+    std::vector<std::pair<float, osg::UInt32>> run;
+    for (auto i = first; i != last; ++i) {
+        osg::Pnt3f center;
+        items[*i].bounds.getCenter(center);
+        viewFromWorld.multMatrixPnt(center);
+        run.emplace_back(center.z(), *i);
+    }
+    std::stable_sort(run.begin(), run.end(),
+                     [](const auto& a, const auto& b) { return a.first < b.first; });
+    std::transform(run.begin(), run.end(), first, [](const auto& entry) { return entry.second; });
+}
+
+const ItemList::Order& ItemList::getOrder(const osg::Matrix& viewFromWorld)
 {
     order.resize(items.size());
     for (std::size_t i = 0; i < items.size(); ++i) {
         order[i] = static_cast<osg::UInt32>(i);
     }
-    const auto viewDepth = [&](osg::UInt32 index) {
-        osg::Pnt3f center;
-        items[index].bounds.getCenter(center);
-        viewFromWorld.multMatrixPnt(center);
-        return center.z();
-    };
     for (std::size_t begin = 0; begin < items.size();) {
         std::size_t end = begin + 1;
-        while (end < items.size() && items[begin].blended && sameRun(items[begin], items[end])) {
+        while (end < items.size() && sameRun(items[begin], items[end])) {
             ++end;
         }
-        if (end - begin > 1) {
-            std::vector<std::pair<float, osg::UInt32>> run;
-            for (std::size_t i = begin; i < end; ++i) {
-                run.emplace_back(viewDepth(order[i]), order[i]);
-            }
-            std::stable_sort(run.begin(), run.end(),
-                             [](const auto& a, const auto& b) { return a.first < b.first; });
-            for (std::size_t i = begin; i < end; ++i) {
-                order[i] = run[i - begin].second;
-            }
+        const auto first = order.begin() + static_cast<std::ptrdiff_t>(begin);
+        const auto last = order.begin() + static_cast<std::ptrdiff_t>(end);
+        if (items[begin].blended) {
+            sortFromBack(first, last, viewFromWorld);
+        } else if (items[begin].sortsFreely && !movedNodes.empty()) {
+            std::stable_partition(first, last, [this](auto i) { return !items[i].moved; });
         }
         begin = end;
     }

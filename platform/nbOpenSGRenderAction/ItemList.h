@@ -13,6 +13,7 @@
 
 #include <cstddef>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace nbrender {
@@ -23,6 +24,7 @@ constexpr std::size_t kMatrixSize = 16;  ///< numbers in a matrix
 struct RenderItem
 {
     osg::UInt32 geometryId = 0;  ///< container id
+    osg::UInt32 nodeId = 0;  ///< of the geometry's node
     osg::UInt32 stateIndex = 0;  ///< into ItemList::getStates()
     osg::Matrix worldFromObject;
     osg::BoxVolume bounds;  ///< world space
@@ -31,6 +33,10 @@ struct RenderItem
     bool blended = false;
     bool handle = false;  ///< below a manipulator node
     bool auxiliary = false;  ///< below a node that is marked auxiliary
+    bool moved = false;  ///< see ItemList::forgetMoved
+    /// Whether its place among its like does not show: opaque, tests and writes depth, no program
+    /// of its own.
+    bool sortsFreely = false;
     /// Handles: how many steps nearer than its place the item is drawn. It is the own sort key
     /// minus the lowest one below the same manipulator node, at most kMostDepthSteps, so that of
     /// coincident lines the one with the higher key, such as a highlighted shaft, is seen.
@@ -63,9 +69,15 @@ constexpr osg::Int32 kMostDepthSteps = 8;
 /// as a depth pass copy has them, the last one in order is kept: each of them would paint the same
 /// picture. Inactive nodes, and what a Switch does not choose, are left out. ClipPlane3D cores cut
 /// the scene items below them, handles never.
+///
+/// Items of the scene that were edited last, such as those that are being dragged, count as moved
+/// until others are edited or somebody forgets them. They come last among neighbours whose order
+/// does not show, so that most of the frame stays as it was.
 class NB_PLATFORM_API ItemList
 {
 public:
+    using Order = std::vector<osg::UInt32>;
+
     /// Brings the list up to date; cheap when nothing below the root has changed.
     /// @return whether the list was made anew
     bool update(const osg::NodePtr& root);
@@ -77,7 +89,7 @@ public:
 
     /// Indices into getItems() in drawing order for a view.
     /// @param viewFromWorld  4x4, column vectors; the camera looks along -z
-    const std::vector<osg::UInt32>& getOrder(const osg::Matrix& viewFromWorld);
+    const Order& getOrder(const osg::Matrix& viewFromWorld);
 
     /// The planes of a set of the last update.
     const nbClipSets::Planes& getClipPlanes(osg::UInt32 clipSet) const
@@ -92,8 +104,15 @@ public:
         return surfaceSpaces[surfaceSpace - 1];
     }
 
-    /// World bounds of the items that are neither handles nor auxiliary; empty without any.
+    /// World bounds of the items that are neither handles nor auxiliary; empty without any. While
+    /// items count as moved they stay as they are if they enclose everything, and otherwise grow
+    /// with room for a long way.
     const osg::BoxVolume& getSceneBounds() const { return sceneBounds; }
+
+    bool hasMoved() const { return !movedNodes.empty(); }
+
+    /// Brings moved items back to their places in the tree's order, and the bounds to the items.
+    void forgetMoved();
 
 private:
     struct Place;
@@ -128,7 +147,7 @@ private:
 
     void visit(const osg::NodePtr& node, const Place& above);
     void visitChildren(const osg::NodePtr& node, const Place& place);
-    void addItem(const osg::GeometryPtr& geometry, const Place& place);
+    void addItem(const osg::NodePtr& node, const osg::GeometryPtr& geometry, const Place& place);
     void placePictures(RenderItem& item, const Place& place);
     osg::UInt64 stampOf(const RenderItem& item, osg::UInt64 geometry) const;
     osg::UInt32 stateFor(const osg::MaterialPtr& material, const osg::MaterialPtr& group,
@@ -137,18 +156,24 @@ private:
     void assignDepthSteps();
     void sortItems();
     void dropCopies();
+    void sortFromBack(Order::iterator first, Order::iterator last,
+                      const osg::Matrix& viewFromWorld) const;
+    void noteMoved();
     void measure();
     void forgetDeadBounds();
 
     std::vector<RenderItem> items;
     std::vector<DrawState> states;
     std::vector<osg::UInt64> stateStamps;  ///< by state
-    std::vector<osg::UInt32> order;
+    Order order;
     nbClipSets clipSets;
     std::vector<SurfaceSpace> surfaceSpaces;
     std::unordered_map<StateKey, osg::UInt32, StateKeyHash> stateIndices;
     std::unordered_map<osg::UInt32, LocalBounds> boundsById;
+    std::vector<std::pair<osg::UInt32, osg::UInt64>> sceneStamps;  ///< by node, as in the tree
+    std::vector<osg::UInt32> movedNodes;  ///< ascending
     osg::BoxVolume sceneBounds;
+    osg::BoxVolume roomyBounds;  ///< empty unless items count as moved
     osg::UInt32 rootId = 0;
     osg::UInt64 treeCount = 0;
     osg::UInt32 manipulatorCount = 0;

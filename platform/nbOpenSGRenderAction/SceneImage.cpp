@@ -84,7 +84,8 @@ SceneImage::Plan SceneImage::plan(const FrameSteps& steps, const Costs& costs)
     if (usable > 0 && pays(steps, usable, costs, costs.difference)) {
         result.reused = usable;
     }
-    const std::size_t unchanged = costs.framePixels < refusedPixels ? unchangedSteps(steps) : 0;
+    const std::size_t unchanged =
+        costs.framePixels < refusedPixels ? std::max(unchangedSteps(steps), costs.settledSteps) : 0;
     if (unchanged > usable) {
         const auto more = static_cast<double>(trianglesOf(steps, usable, unchanged, costs));
         const bool isWorth =

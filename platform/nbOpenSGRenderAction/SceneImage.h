@@ -39,7 +39,8 @@ using FrameSteps = std::vector<FrameStep>;
 /// order on the same samples, and so is equal to a frame drawn in full to the last bit. Which steps
 /// are "the scene" thus needs no knowledge of what they are: a frame that shares no beginning with
 /// the one before, as while the camera moves, is drawn in full and not kept; the second one with
-/// the same beginning keeps it; further ones use it as long as it is the beginning of theirs. Items
+/// the same beginning keeps it; further ones use it as long as it is the beginning of theirs. What
+/// is known to stay, as all but the object that is dragged, the first one keeps. Items
 /// that are drawn after one of these, or after something else that keeps changing, are drawn each
 /// time.
 ///
@@ -63,6 +64,8 @@ public:
         bool hasCopy = false;
         /// Where the buffers differ from the copy now.
         PixelBox difference;
+        /// So many steps are going to be the same in the next frames.
+        std::size_t settledSteps = 0;
         /// Where a step may draw.
         nbFunctionRef<PixelBox(const FrameStep&)> pixelsOf;
         nbFunctionRef<std::size_t(const FrameStep&)> trianglesOf;

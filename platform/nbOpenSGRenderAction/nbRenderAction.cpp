@@ -250,6 +250,11 @@ void nbRenderAction::setSceneKept(bool on)
     impl->painter.setSceneKept(on);
 }
 
+void nbRenderAction::setMovedLast(bool on)
+{
+    impl->painter.setMovedLast(on);
+}
+
 void nbRenderAction::setTimed(bool on)
 {
     impl->isTimed = on;

@@ -122,6 +122,12 @@ public:
     /// are the same either way.
     void setSceneKept(bool on);
 
+    /// Whether objects that are being moved are drawn last among those whose order does not show,
+    /// with near and far that leave them room, so that a drag draws little else anew; not at the
+    /// start. From the full picture of the same scene such a picture differs where surfaces lie so
+    /// near to each other that the order or the rounding of depths decides.
+    void setMovedLast(bool on);
+
     /// Whether render() waits until the driver has done everything, so that its time is told
     /// wholly; it does not at the start.
     void setTimed(bool on);

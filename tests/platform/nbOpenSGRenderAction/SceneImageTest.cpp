@@ -40,8 +40,8 @@ protected:
         const FrameSteps steps = stepsOf(stamps);
         const auto pixels = [this](const FrameStep&) { return stepBox; };
         const auto triangles = [this](const FrameStep&) { return trianglesPerStep; };
-        const SceneImage::Plan result =
-            image.plan(steps, { kFramePixels, hasCopy, PixelBox(), pixels, triangles });
+        const SceneImage::Plan result = image.plan(
+            steps, { kFramePixels, hasCopy, PixelBox(), settledSteps, pixels, triangles });
         if (result.kept > result.reused) {
             image.kept(steps, result, kFramePixels, driverKeeps);
             hasCopy = driverKeeps;
@@ -52,6 +52,7 @@ protected:
     SceneImage image;
     PixelBox stepBox = kSmallBox;
     std::size_t trianglesPerStep = 1000;
+    std::size_t settledSteps = 0;
     bool hasCopy = false;
     bool driverKeeps = true;
 };
