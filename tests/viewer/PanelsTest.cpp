@@ -104,7 +104,7 @@ TEST_F(Panels, TheTreeSelectsAndShowsWhatIsSelected)
 TEST_F(Panels, NumbersOfTheMatchMoveALineAndTheCameraAndAreDrawn)
 {
     showPanel("matchDock");
-    find<QCheckBox>("matchActive")->click();
+    find<QCheckBox>("match.setActive")->click();
     ASSERT_EQ(stage().manipulatorName(), "match");
     auto* number = find<QWidget>("matchLine_x1")->findChildren<QDoubleSpinBox*>().value(1);
     const QImage before = picture();

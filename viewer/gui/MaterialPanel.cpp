@@ -2,7 +2,6 @@
 #include "viewer/gui/MaterialPanel.h"
 
 #include "viewer/gui/MaterialPicture.h"
-#include "viewer/gui/PanelScrollArea.h"
 #include "viewer/gui/VectorEdit.h"
 #include "viewer/loading/PictureFile.h"
 #include "viewer/stage/Stage.h"
@@ -12,10 +11,9 @@
 #include <QComboBox>
 #include <QFileDialog>
 #include <QFormLayout>
-#include <QJsonArray>
+#include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QSignalBlocker>
 #include <QSlider>
 #include <QToolButton>
 
@@ -26,7 +24,6 @@ constexpr int kDecimals = 3;
 constexpr int kFineDecimals = 5;  ///< of hundreds of units
 constexpr double kMostUnits = 1e6;
 constexpr double kLeastScale = 1e-3;
-constexpr double kPercent = 100.0;
 
 using Measure = nbValueExpression::Measure;
 
@@ -87,18 +84,30 @@ constexpr ValueRow kValueRows[] = {
       Naming::None, 0.05 },
 };
 
-/// The numbers of a value: those of an array, or one.
-QJsonArray numbersOf(const QJsonValue& value)
+/// A switch, of one projection or of every one.
+struct SwitchRow
 {
-    return value.isDouble() ? QJsonArray { value } : value.toArray();
-}
+    const char* projection;  ///< "" for every one
+    const char* command;
+    const char* label;
+};
 
-void displayText(QLabel* label, const QString& text)
-{
-    if (label->text() != text) {
-        label->setText(text);
-    }
-}
+/// In two columns, row by row.
+constexpr SwitchRow kSwitchRows[] = {
+    { "planar", "texture.keepAspect", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Keep aspect") },
+    { "planar", "texture.endInDepth", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "End in depth") },
+    { "planar", "texture.repeatU", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Repeat across") },
+    { "planar", "texture.repeatV", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Repeat upwards") },
+    { "planar", "texture.showProjection",
+      QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Show projection") },
+    { "planar", "texture.showDepth", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Show its depth") },
+    { "uv", "texture.uvKeepAspect", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Keep aspect") },
+    { "triplanar", "texture.ringsTilted",
+      QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Turn rings seen edge-on") },
+    { "tire", "texture.tireFit", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Fit to the object") },
+    { "", "texture.mask", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Picture is a mask") },
+    { "", "texture.invert", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Invert") },
+};
 
 }  // namespace
 
@@ -106,23 +115,18 @@ MaterialPanel::MaterialPanel(Stage& targetStage, TextureTool& targetTool, QWidge
     : Panel(targetStage, parent)
     , tool(targetTool)
 {
-    auto* outer = new QVBoxLayout(this);
-    outer->setContentsMargins(0, 0, 0, 0);
-    auto* all = new QWidget(this);
-    auto* area = new PanelScrollArea(all, this);
-    outer->addWidget(area);
-    auto* column = new QVBoxLayout(all);
-    hint = new QLabel(all);
+    auto* column = new QVBoxLayout(this);
+    hint = new QLabel(this);
     hint->setObjectName(QStringLiteral("materialHint"));
     hint->setWordWrap(true);
     column->addWidget(hint);
-    threeSides = new QPushButton(tr("Put it on from three sides"), all);
+    threeSides = new QPushButton(tr("Put it on from three sides"), this);
     threeSides->setObjectName(QStringLiteral("materialThreeSides"));
     connect(threeSides, &QPushButton::clicked, this,
             [this] { run(QStringLiteral("texture.projection"), QStringLiteral("triplanar")); });
     column->addWidget(threeSides);
 
-    content = new QWidget(all);
+    content = new QWidget(this);
     content->setObjectName(QStringLiteral("materialContent"));
     column->addWidget(content);
     column->addStretch();
@@ -143,11 +147,8 @@ MaterialPanel::MaterialPanel(Stage& targetStage, TextureTool& targetTool, QWidge
     for (const char* word : { "planar", "uv", "triplanar", "tire" }) {
         addValueRows(*projectionRows, word);
     }
-    addCoverageRow(*projectionRows);
+    addSwitches(*projectionRows, "");
     tool.preview().setRefreshCallback([this] { refreshPicture(); });
-    // While the rows of all projections still count.
-    area->measure();
-    refresh();
 }
 
 MaterialPanel::~MaterialPanel()
@@ -159,14 +160,11 @@ MaterialPanel::~MaterialPanel()
 
 void MaterialPanel::addPictureRows(QFormLayout& form)
 {
-    component = new QComboBox(this);
-    component->setObjectName(QStringLiteral("textureComponent"));
-    component->addItem(tr("Colour"), QLatin1String(osg::UberMaterial::kDiffuseComponent));
-    component->addItem(tr("Opacity"), QLatin1String(osg::UberMaterial::kTransparencyComponent));
-    connect(component, QOverload<int>::of(&QComboBox::activated), this, [this] {
-        run(QStringLiteral("texture.component"), component->currentData().toString());
-    });
-    form.addRow(tr("Component"), component);
+    form.addRow(
+        tr("Component"),
+        addChoice(QStringLiteral("texture.component"),
+                  { { QLatin1String(osg::UberMaterial::kDiffuseComponent), tr("Colour") },
+                    { QLatin1String(osg::UberMaterial::kTransparencyComponent), tr("Opacity") } }));
 
     auto* row = new QHBoxLayout;
     fileName = new QLabel(this);
@@ -201,17 +199,13 @@ QAbstractButton* MaterialPanel::addHandleButton(QBoxLayout& row, const char* gro
 
 void MaterialPanel::addProjectionRow(QBoxLayout& column)
 {
-    projection = new QComboBox(this);
-    projection->setObjectName(QStringLiteral("texture.projection"));
-    projection->addItem(tr("From one side"), QStringLiteral("planar"));
-    projection->addItem(tr("Texture coordinates"), QStringLiteral("uv"));
-    projection->addItem(tr("From three sides"), QStringLiteral("triplanar"));
-    projection->addItem(tr("Around a tire"), QStringLiteral("tire"));
-    connect(projection, QOverload<int>::of(&QComboBox::activated), this, [this] {
-        run(QStringLiteral("texture.projection"), projection->currentData().toString());
-    });
     auto* form = new QFormLayout;
-    form->addRow(tr("Projection"), projection);
+    form->addRow(tr("Projection"),
+                 addChoice(QStringLiteral("texture.projection"),
+                           { { QStringLiteral("planar"), tr("From one side") },
+                             { QStringLiteral("uv"), tr("Texture coordinates") },
+                             { QStringLiteral("triplanar"), tr("From three sides") },
+                             { QStringLiteral("tire"), tr("Around a tire") } }));
     column.addLayout(form);
 }
 
@@ -240,15 +234,10 @@ void MaterialPanel::addHandleRows(QBoxLayout& column)
     connect(place, &QAbstractButton::clicked, this,
             [this] { run(QStringLiteral("texture.place"), !tool.isPlacing()); });
     form->addRow(tr("Placing"), placeRow);
-    handleSize = new QSlider(Qt::Horizontal, this);
-    handleSize->setObjectName(QStringLiteral("texture.handleSize"));
-    handleSize->setRange(0, static_cast<int>(kPercent));
-    connectSlider(*handleSize, QStringLiteral("texture.handleSize"), [this](int percent) {
-        const TextureGizmos::Size size = tool.handleSize();
-        return static_cast<double>(size.least) +
-            static_cast<double>(size.most - size.least) * percent / kPercent;
-    });
-    form->addRow(tr("Handle size"), handleSize);
+    form->addRow(tr("Handle size"), addSlider(QStringLiteral("texture.handleSize"), [this] {
+                     const TextureGizmos::Size size = tool.handleSize();
+                     return std::pair<double, double>(size.least, size.most);
+                 }));
 }
 
 void MaterialPanel::addValueRows(QBoxLayout& column, const char* word)
@@ -264,7 +253,7 @@ void MaterialPanel::addValueRows(QBoxLayout& column, const char* word)
         if (QLatin1String(row.projection) != QLatin1String(word)) {
             continue;
         }
-        VectorEdit::Style style;
+        NumberBox::Style style;
         style.step = row.step;
         style.least = row.least;
         style.decimals = row.decimals;
@@ -273,80 +262,31 @@ void MaterialPanel::addValueRows(QBoxLayout& column, const char* word)
         const QStringList names = row.naming == Naming::Axes ? QStringList { "X", "Y", "Z" }
             : row.naming == Naming::Picture                  ? QStringList { "U", "V" }
                                                              : QStringList { label };
-        auto* edit = new VectorEdit(names, style, rows);
-        const QString command = QString::fromLatin1(row.command);
-        edit->setObjectName(command);
-        connect(edit, &VectorEdit::edited, this,
-                [this, command, isOne = row.naming == Naming::None](const QJsonArray& values) {
-                    run(command, isOne ? values.first() : QJsonValue(values));
-                });
-        form->addRow(label, edit);
-        vectors[command] = edit;
+        form->addRow(label, addNumbers(QLatin1String(row.command), names, style));
     }
+    addSwitches(*itsColumn, word);
     if (QLatin1String(word) == QLatin1String("planar")) {
-        addSwitches(*itsColumn);
-        addSceneRows(*itsColumn);
-    } else if (QLatin1String(word) == QLatin1String("uv")) {
-        addSwitch(*itsColumn, "texture.uvKeepAspect", tr("Keep aspect"));
-    } else if (QLatin1String(word) == QLatin1String("triplanar")) {
-        addSwitch(*itsColumn, "texture.ringsTilted", tr("Turn rings seen edge-on"));
-    } else if (QLatin1String(word) == QLatin1String("tire")) {
-        addSwitch(*itsColumn, "texture.tireFit", tr("Fit to the object"));
+        auto* transparency = addSlider(QStringLiteral("texture.planeTransparency"),
+                                       [] { return std::pair(0.0, 1.0); });
+        transparency->setToolTip(tr("How far one sees through the shown projection"));
+        auto* last = new QFormLayout;
+        last->addRow(tr("Transparency"), transparency);
+        itsColumn->addLayout(last);
     }
 }
 
-void MaterialPanel::addSwitch(QBoxLayout& row, const char* command, const QString& label)
+void MaterialPanel::addSwitches(QBoxLayout& column, const char* word)
 {
-    auto* box = new QCheckBox(label, this);
-    box->setObjectName(QLatin1String(command));
-    connect(box, &QCheckBox::clicked, this,
-            [this, word = QString::fromLatin1(command)](bool on) { run(word, on); });
-    row.addWidget(box);
-    switches[QLatin1String(command)] = box;
-}
-
-void MaterialPanel::addSwitches(QBoxLayout& column)
-{
-    const std::array<std::array<std::pair<const char*, QString>, 2>, 2> rows { {
-        { { { "texture.keepAspect", tr("Keep aspect") },
-            { "texture.endInDepth", tr("End in depth") } } },
-        { { { "texture.repeatU", tr("Repeat across") },
-            { "texture.repeatV", tr("Repeat upwards") } } },
-    } };
-    auto* grid = new QHBoxLayout;
+    auto* grid = new QGridLayout;
     column.addLayout(grid);
-    for (std::size_t side = 0; side < 2; ++side) {
-        auto* half = new QVBoxLayout;
-        grid->addLayout(half);
-        for (const auto& row : rows) {
-            addSwitch(*half, row[side].first, row[side].second);
+    int place = 0;
+    for (const SwitchRow& row : kSwitchRows) {
+        if (QLatin1String(row.projection) == QLatin1String(word)) {
+            grid->addWidget(addSwitch(QLatin1String(row.command), tr(row.label)), place / 2,
+                            place % 2);
+            ++place;
         }
     }
-}
-
-void MaterialPanel::addCoverageRow(QBoxLayout& column)
-{
-    auto* row = new QHBoxLayout;
-    column.addLayout(row);
-    addSwitch(*row, "texture.mask", tr("Picture is a mask"));
-    addSwitch(*row, "texture.invert", tr("Invert"));
-}
-
-void MaterialPanel::addSceneRows(QBoxLayout& column)
-{
-    auto* row = new QHBoxLayout;
-    column.addLayout(row);
-    addSwitch(*row, "texture.showProjection", tr("Show projection"));
-    addSwitch(*row, "texture.showDepth", tr("Show its depth"));
-    transparency = new QSlider(Qt::Horizontal, this);
-    transparency->setObjectName(QStringLiteral("texture.planeTransparency"));
-    transparency->setRange(0, static_cast<int>(kPercent));
-    transparency->setToolTip(tr("How far one sees through the shown projection"));
-    connectSlider(*transparency, QStringLiteral("texture.planeTransparency"),
-                  [](int percent) { return percent / kPercent; });
-    auto* form = new QFormLayout;
-    form->addRow(tr("Transparency"), transparency);
-    column.addLayout(form);
 }
 
 // == What a person does
@@ -364,48 +304,40 @@ void MaterialPanel::askForPicture()
 
 void MaterialPanel::refresh()
 {
+    Panel::refresh();
     const QString hindrance = tool.hindrance();
-    const QString name = stage()
-                             .commands()
-                             .value(QStringLiteral("texture.surface"))
-                             .value_or(QJsonValue())
-                             .toString();
+    const QString name = value(QStringLiteral("texture.surface")).toString();
     const bool lacksCoordinates = tool.target().settings() != osg::NullFC &&
         !tool.target().hasCoordinates() &&
         tool.target().projectionType() == TextureTarget::Settings::UVProjection;
-    displayText(hint,
-                !hindrance.isEmpty() ? hindrance
-                    : lacksCoordinates
-                    ? tr("\"%1\" has no texture coordinates, so the picture is not seen").arg(name)
-                    : tr("On \"%1\"").arg(name));
+    setTextOf(hint,
+              !hindrance.isEmpty() ? hindrance
+                  : lacksCoordinates
+                  ? tr("\"%1\" has no texture coordinates, so the picture is not seen").arg(name)
+                  : tr("On \"%1\"").arg(name));
     threeSides->setVisible(lacksCoordinates);
     content->setEnabled(hindrance.isEmpty());
     projectionContent->setEnabled(tool.target().settings() != osg::NullFC);
-    refreshRows();
+    refreshHandles();
     picture->setPaused(tool.preview().isPaused());
     if (isPictureOld && isVisible()) {
         refreshPicture();
     }
 }
 
-void MaterialPanel::refreshRows()
+void MaterialPanel::refreshHandles()
 {
-    const Commands& values = stage().commands();
-    component->setCurrentIndex(
-        component->findData(QString::fromStdString(tool.target().component())));
     const osg::ImagePtr image = tool.target().image();
     const QString name = pictureName(image);
-    displayText(fileName, name.isEmpty() ? tr("No picture") : name);
+    setTextOf(fileName, name.isEmpty() ? tr("No picture") : name);
     removeButton->setEnabled(image != osg::NullFC);
-    for (auto row = vectors.begin(); row != vectors.end(); ++row) {
-        row.value()->display(numbersOf(values.value(row.key()).value_or(QJsonValue())));
+    const QString projection = value(QStringLiteral("texture.projection")).toString();
+    for (auto rows = valueRows.begin(); rows != valueRows.end(); ++rows) {
+        rows.value()->setVisible(rows.key() ==
+                                 (projection.isEmpty() ? QStringLiteral("planar") : projection));
     }
-    for (auto row = switches.begin(); row != switches.end(); ++row) {
-        row.value()->setChecked(values.value(row.key()).value_or(QJsonValue()).toBool());
-    }
-    const QString shown = tool.isPlacing()
-        ? QStringLiteral("place")
-        : values.value(QStringLiteral("texture.handles")).value_or(QJsonValue()).toString();
+    const QString shown = tool.isPlacing() ? QStringLiteral("place")
+                                           : value(QStringLiteral("texture.handles")).toString();
     handleButtons->setExclusive(false);
     for (QAbstractButton* button : handleButtons->buttons()) {
         const std::string group =
@@ -414,27 +346,6 @@ void MaterialPanel::refreshRows()
         button->setChecked(button->objectName() == QStringLiteral("texture-") + shown);
     }
     handleButtons->setExclusive(true);
-    refreshProjection();
-    const QSignalBlocker blocker(transparency);
-    transparency->setValue(qRound(static_cast<double>(tool.planeTransparency()) * kPercent));
-}
-
-void MaterialPanel::refreshProjection()
-{
-    const QString known = stage()
-                              .commands()
-                              .value(QStringLiteral("texture.projection"))
-                              .value_or(QJsonValue())
-                              .toString();
-    const QString shown = known.isEmpty() ? QStringLiteral("planar") : known;
-    projection->setCurrentIndex(projection->findData(shown));
-    for (auto rows = valueRows.begin(); rows != valueRows.end(); ++rows) {
-        rows.value()->setVisible(rows.key() == shown);
-    }
-    const TextureGizmos::Size size = tool.handleSize();
-    const QSignalBlocker blocker(handleSize);
-    handleSize->setValue(qRound(
-        static_cast<double>((size.present - size.least) / (size.most - size.least)) * kPercent));
 }
 
 void MaterialPanel::refreshPicture()

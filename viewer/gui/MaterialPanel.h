@@ -4,23 +4,19 @@
 #include "viewer/gui/Panel.h"
 #include "viewer/textures/TextureTool.h"
 
-#include <QJsonArray>
 #include <QMap>
 #include <QString>
 
 class QAbstractButton;
 class QBoxLayout;
 class QButtonGroup;
-class QComboBox;
 class QFormLayout;
 class QLabel;
 class QPushButton;
-class QSlider;
 
 namespace viewer {
 
 class MaterialPicture;
-class VectorEdit;
 
 /// The picture on the selected object: its file, how it is projected, the handles, and a preview.
 class MaterialPanel final : public Panel
@@ -34,23 +30,17 @@ public:
 
     void refresh() final;
 
-    bool needsScrolling() const override { return false; }
-
 private:
     void addPictureRows(QFormLayout& form);
     void addProjectionRow(QBoxLayout& column);
     void addHandleRows(QBoxLayout& column);
     /// Rows of one projection, by its word in commands.
     void addValueRows(QBoxLayout& column, const char* word);
-    void addCoverageRow(QBoxLayout& column);
-    void addSwitches(QBoxLayout& column);
-    void addSceneRows(QBoxLayout& column);
-    void addSwitch(QBoxLayout& row, const char* command, const QString& label);
+    void addSwitches(QBoxLayout& column, const char* word);
     QAbstractButton* addHandleButton(QBoxLayout& row, const char* group, const QString& label);
 
     void askForPicture();
-    void refreshRows();
-    void refreshProjection();
+    void refreshHandles();
     void refreshPicture();
 
     TextureTool& tool;
@@ -60,16 +50,10 @@ private:
     MaterialPicture* picture = nullptr;
     QWidget* content = nullptr;  ///< everything that needs a surface
     QWidget* projectionContent = nullptr;  ///< everything that needs a picture
-    QComboBox* component = nullptr;
     QLabel* fileName = nullptr;
     QAbstractButton* removeButton = nullptr;
     QButtonGroup* handleButtons = nullptr;
-    QComboBox* projection = nullptr;
-    QSlider* handleSize = nullptr;
     QMap<QString, QWidget*> valueRows;  ///< by the word of their projection
-    QMap<QString, VectorEdit*> vectors;  ///< by their commands
-    QMap<QString, QAbstractButton*> switches;  ///< by their commands
-    QSlider* transparency = nullptr;
     bool isPictureOld = true;
 };
 

@@ -3,14 +3,9 @@
 
 #include "viewer/gui/Panel.h"
 
-#include <vector>
-
-class QCheckBox;
 class QLabel;
 
 namespace viewer {
-
-class VectorEdit;
 
 /// Properties of the selected objects: place, turn, scale, pivots, visibility and lock. Shows those
 /// of the object selected last and edits all.
@@ -24,17 +19,7 @@ public:
     void refresh() final;
 
 private:
-    /// One row of numbers and the command behind it.
-    struct Row
-    {
-        const char* command;
-        VectorEdit* edit;
-    };
-
     QLabel* nameLabel;
-    std::vector<Row> rows;
-    QCheckBox* visible;
-    QCheckBox* locked;
 };
 
 }  // namespace viewer

@@ -1,11 +1,30 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/gui/Panel.h"
 
+#include "viewer/gui/VectorEdit.h"
 #include "viewer/stage/Stage.h"
 
+#include <QCheckBox>
+#include <QComboBox>
+#include <QJsonArray>
+#include <QSignalBlocker>
 #include <QSlider>
 
 namespace viewer {
+namespace {
+
+constexpr double kPercent = 100.0;
+
+/// Keys are for the view, whatever was clicked last.
+template <class Widget>
+Widget* named(Widget* widget, const QString& command)
+{
+    widget->setObjectName(command);
+    widget->setFocusPolicy(Qt::TabFocus);
+    return widget;
+}
+
+}  // namespace
 
 bool Panel::run(const QString& command, const QJsonValue& value, Commands::Moment moment)
 {
@@ -18,15 +37,81 @@ bool Panel::run(const QString& command, const QJsonValue& value, Commands::Momen
     return isDone;
 }
 
-void Panel::connectSlider(const QSlider& slider, const QString& command,
-                          const std::function<QJsonValue(int)>& valueOf)
+QJsonValue Panel::value(const QString& name) const
 {
-    connect(&slider, &QSlider::valueChanged, this, [this, &slider, command, valueOf](int position) {
-        run(command, valueOf(position),
-            slider.isSliderDown() ? Commands::Moment::Passing : Commands::Moment::Final);
+    return shownStage.commands().value(name).value_or(QJsonValue());
+}
+
+void Panel::refresh()
+{
+    for (const Field& field : fields) {
+        const QJsonValue shown = value(field.value);
+        field.widget->setEnabled(!shown.isNull());
+        const QSignalBlocker blocker(field.widget);
+        field.display(shown);
+    }
+}
+
+void Panel::bind(QWidget* field, const QString& value,
+                 std::function<void(const QJsonValue&)> display)
+{
+    fields.push_back({ field, value, std::move(display) });
+}
+
+QCheckBox* Panel::addSwitch(const QString& command, const QString& label, const QString& value)
+{
+    auto* box = named(new QCheckBox(label, this), command);
+    connect(box, &QCheckBox::clicked, this, [this, command](bool on) { run(command, on); });
+    bind(box, value.isEmpty() ? command : value,
+         [box](const QJsonValue& on) { box->setChecked(on.toBool()); });
+    return box;
+}
+
+QComboBox* Panel::addChoice(const QString& command, const Choices& choices, const QString& value)
+{
+    auto* box = named(new QComboBox(this), command);
+    for (const auto& [word, text] : choices) {
+        box->addItem(text, word.toVariant());
+    }
+    connect(box, QOverload<int>::of(&QComboBox::activated), this,
+            [this, box, command] { run(command, QJsonValue::fromVariant(box->currentData())); });
+    bind(box, value.isEmpty() ? command : value,
+         [box](const QJsonValue& word) { box->setCurrentIndex(box->findData(word.toVariant())); });
+    return box;
+}
+
+VectorEdit* Panel::addNumbers(const QString& command, const QStringList& names,
+                              const NumberBox::Style& style, const QString& value)
+{
+    auto* edit = new VectorEdit(names, style, this);
+    edit->setObjectName(command);
+    const bool isOne = names.size() == 1;
+    connect(edit, &VectorEdit::edited, this, [this, command, isOne](const QJsonArray& numbers) {
+        run(command, isOne ? numbers.first() : QJsonValue(numbers));
     });
-    connect(&slider, &QSlider::sliderReleased, this,
-            [this, &slider, command, valueOf] { run(command, valueOf(slider.value())); });
+    bind(edit, value.isEmpty() ? command : value, [edit](const QJsonValue& numbers) {
+        edit->display(numbers.isDouble() ? QJsonArray { numbers } : numbers.toArray());
+    });
+    return edit;
+}
+
+QSlider* Panel::addSlider(const QString& command, Range range, const QString& value)
+{
+    auto* slider = named(new QSlider(Qt::Horizontal, this), command);
+    slider->setRange(0, static_cast<int>(kPercent));
+    const auto tell = [this, slider, command, range](Commands::Moment moment) {
+        const auto [least, most] = range();
+        run(command, least + (most - least) * slider->value() / kPercent, moment);
+    };
+    connect(slider, &QSlider::valueChanged, this, [slider, tell] {
+        tell(slider->isSliderDown() ? Commands::Moment::Passing : Commands::Moment::Final);
+    });
+    connect(slider, &QSlider::sliderReleased, this, [tell] { tell(Commands::Moment::Final); });
+    bind(slider, value.isEmpty() ? command : value, [slider, range](const QJsonValue& number) {
+        const auto [least, most] = range();
+        slider->setValue(qRound((number.toDouble() - least) / (most - least) * kPercent));
+    });
+    return slider;
 }
 
 }  // namespace viewer

@@ -15,7 +15,6 @@
 #include <QJsonObject>
 #include <QLabel>
 #include <QPushButton>
-#include <QSignalBlocker>
 #include <QSlider>
 
 namespace viewer {
@@ -25,41 +24,16 @@ namespace {
 constexpr double kMostCoordinate = 100.0;
 constexpr int kDecimals = 4;
 constexpr double kStep = 0.001;
-constexpr int kPercent = 100;
 
 template <std::size_t size>
-QStringList listOf(const std::array<const char*, size>& words)
+std::vector<std::pair<QJsonValue, QString>> choicesOf(const std::array<const char*, size>& words,
+                                                      const QStringList& texts)
 {
-    QStringList list;
-    for (const char* word : words) {
-        list.append(QLatin1String(word));
+    std::vector<std::pair<QJsonValue, QString>> choices;
+    for (std::size_t i = 0; i < size; ++i) {
+        choices.emplace_back(QLatin1String(words[i]), texts.at(static_cast<int>(i)));
     }
-    return list;
-}
-
-void display(QCheckBox* box, bool on)
-{
-    const QSignalBlocker blocker(box);
-    box->setChecked(on);
-}
-
-void display(QSlider* slider, int value)
-{
-    const QSignalBlocker blocker(slider);
-    slider->setValue(value);
-}
-
-void display(QComboBox* box, int index)
-{
-    const QSignalBlocker blocker(box);
-    box->setCurrentIndex(index);
-}
-
-void display(QLabel* label, const QString& text)
-{
-    if (label->text() != text) {
-        label->setText(text);
-    }
+    return choices;
 }
 
 }  // namespace
@@ -69,33 +43,40 @@ PerspectiveMatchPanel::PerspectiveMatchPanel(Stage& targetStage, PerspectiveMatc
     : Panel(targetStage, parent)
     , tool(targetTool)
 {
-    auto* form = new QFormLayout(this);
-    addPhotograph(*form);
-    active = addSwitch(*form, "matchActive", tr("Match mode"), QStringLiteral("match.setActive"));
-    auto* buttons = new QHBoxLayout;
-    layLines =
-        addButton("matchLayLines", tr("Lay lines as seen"), QStringLiteral("match.layLines"));
-    solve = addButton("matchSolve", tr("Turn camera"), QStringLiteral("match.solve"));
-    buttons->addWidget(layLines);
-    buttons->addWidget(solve);
-    form->addRow(buttons);
+    auto* column = new QVBoxLayout(this);
     result = new QLabel(this);
     result->setObjectName(QStringLiteral("matchResult"));
     result->setWordWrap(true);
-    form->addRow(result);
-    linesShown =
-        addSwitch(*form, "matchLinesShown", tr("Lines"), QStringLiteral("match.showLines"));
-    locked =
-        addSwitch(*form, "matchLocked", tr("Camera locked"), QStringLiteral("match.setLocked"));
-    linesType = addChoice(*form, "matchLinesType", tr("Lines used"),
-                          QStringLiteral("match.setLinesType"), listOf(kLinesTypeNames),
-                          { tr("X, Y and Z"), tr("X and Y"), tr("X and Z"), tr("Y and Z") });
-    fovMode =
-        addChoice(*form, "matchFovMode", tr("Field of view"), QStringLiteral("match.setFovMode"),
-                  listOf(kFovModeNames), { tr("From the lines"), tr("Fixed") });
-    addMagnifier(*form);
-    addLines(*form);
-    refresh();
+    column->addWidget(result);
+    column->addWidget(addSwitch(QStringLiteral("match.setActive"), tr("Match mode"),
+                                QStringLiteral("match.active")));
+    auto* buttons = new QHBoxLayout;
+    column->addLayout(buttons);
+    for (const auto& [command, text] : { std::pair("match.layLines", tr("Lay lines as seen")),
+                                         std::pair("match.solve", tr("Turn camera")) }) {
+        QPushButton* button = addButton(*buttons, command, text);
+        connect(button, &QPushButton::clicked, this,
+                [this, name = QLatin1String(command)] { run(name); });
+        ofUnlocked.push_back(button);
+    }
+    auto* form = new QFormLayout;
+    column->addLayout(form);
+    addPhotograph(*form);
+    addSettings(*form);
+    auto* lines = new QFormLayout;
+    column->addLayout(lines);
+    addLines(*lines);
+    column->addStretch();
+}
+
+QPushButton* PerspectiveMatchPanel::addButton(QBoxLayout& row, const char* name,
+                                              const QString& text)
+{
+    auto* button = new QPushButton(text, this);
+    button->setObjectName(QLatin1String(name));
+    button->setFocusPolicy(Qt::TabFocus);
+    row.addWidget(button);
+    return button;
 }
 
 void PerspectiveMatchPanel::addPhotograph(QFormLayout& form)
@@ -103,98 +84,69 @@ void PerspectiveMatchPanel::addPhotograph(QFormLayout& form)
     photograph = new QLabel(this);
     photograph->setObjectName(QStringLiteral("matchPhotograph"));
     form.addRow(tr("Photograph"), photograph);
-    auto* open = new QPushButton(tr("Open…"), this);
-    remove = new QPushButton(tr("Remove"), this);
-    for (QPushButton* button : { open, remove }) {
-        button->setFocusPolicy(Qt::TabFocus);
-    }
     auto* buttons = new QHBoxLayout;
-    buttons->addWidget(open);
-    buttons->addWidget(remove);
     form.addRow(buttons);
-    connect(open, &QPushButton::clicked, this, &PerspectiveMatchPanel::askForPhotograph);
+    connect(addButton(*buttons, "matchOpen", tr("Open…")), &QPushButton::clicked, this,
+            &PerspectiveMatchPanel::askForPhotograph);
+    remove = addButton(*buttons, "matchRemove", tr("Remove"));
     connect(remove, &QPushButton::clicked, this,
             [this] { run(QStringLiteral("match.setPhotograph"), QString()); });
-    veil = new QSlider(Qt::Horizontal, this);
-    veil->setObjectName(QStringLiteral("matchVeil"));
-    veil->setFocusPolicy(Qt::TabFocus);
-    veil->setRange(0, kPercent);
-    form.addRow(tr("Over the models"), veil);
-    connectSlider(*veil, QStringLiteral("match.setVeil"),
-                  [](int value) { return static_cast<double>(value) / kPercent; });
+    form.addRow(tr("Over the models"),
+                addSlider(
+                    QStringLiteral("match.setVeil"), [] { return std::pair(0.0, 1.0); },
+                    QStringLiteral("match.veil")));
 }
 
-QCheckBox* PerspectiveMatchPanel::addSwitch(QFormLayout& form, const char* name,
-                                            const QString& label, const QString& command)
+void PerspectiveMatchPanel::addSettings(QFormLayout& form)
 {
-    auto* box = new QCheckBox(this);
-    box->setObjectName(QLatin1String(name));
-    // Keys are for the view.
-    box->setFocusPolicy(Qt::TabFocus);
-    form.addRow(label, box);
-    connect(box, &QCheckBox::toggled, this, [this, command](bool on) { run(command, on); });
-    return box;
-}
-
-QComboBox* PerspectiveMatchPanel::addChoice(QFormLayout& form, const char* name,
-                                            const QString& label, const QString& command,
-                                            const QStringList& words, const QStringList& texts)
-{
-    auto* box = new QComboBox(this);
-    box->setObjectName(QLatin1String(name));
-    box->setFocusPolicy(Qt::TabFocus);
-    box->addItems(texts);
-    form.addRow(label, box);
-    connect(box, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
-            [this, command, words](int index) { run(command, words.value(index)); });
-    return box;
-}
-
-void PerspectiveMatchPanel::addMagnifier(QFormLayout& form)
-{
+    form.addRow(addSwitch(QStringLiteral("match.showLines"), tr("Lines"),
+                          QStringLiteral("match.linesShown")));
+    form.addRow(addSwitch(QStringLiteral("match.setLocked"), tr("Camera locked"),
+                          QStringLiteral("match.locked")));
+    ofUnlocked.push_back(
+        addChoice(QStringLiteral("match.setLinesType"),
+                  choicesOf(kLinesTypeNames,
+                            { tr("X, Y and Z"), tr("X and Y"), tr("X and Z"), tr("Y and Z") }),
+                  QStringLiteral("match.linesType")));
+    form.addRow(tr("Lines used"), ofUnlocked.back());
+    ofUnlocked.push_back(addChoice(QStringLiteral("match.setFovMode"),
+                                   choicesOf(kFovModeNames, { tr("From the lines"), tr("Fixed") }),
+                                   QStringLiteral("match.fovMode")));
+    form.addRow(tr("Field of view"), ofUnlocked.back());
     NumberBox::Style style;
     style.step = 1.0;
     style.least = static_cast<double>(nbdPerspectiveMatch::kSmallestMagnifyFactor);
     style.most = static_cast<double>(nbdPerspectiveMatch::kLargestMagnifyFactor);
     style.decimals = 1;
-    magnifyFactor = new NumberBox(style, this);
-    magnifyFactor->setObjectName(QStringLiteral("matchMagnifyFactor"));
-    form.addRow(tr("Magnifier"), magnifyFactor);
-    connect(magnifyFactor, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
-            [this](double factor) { run(QStringLiteral("match.setMagnifyFactor"), factor); });
+    ofUnlocked.push_back(addNumbers(QStringLiteral("match.setMagnifyFactor"), { tr("Magnifier") },
+                                    style, QStringLiteral("match.magnifyFactor")));
+    form.addRow(tr("Magnifier"), ofUnlocked.back());
 }
 
 void PerspectiveMatchPanel::addLines(QFormLayout& form)
 {
-    VectorEdit::Style style;
+    NumberBox::Style style;
     style.step = kStep;
     style.least = -kMostCoordinate;
     style.most = kMostCoordinate;
     style.decimals = kDecimals;
-    for (std::size_t i = 0; i < lines.size(); ++i) {
-        const QString word = QLatin1String(PerspectiveMatchTool::lineName(static_cast<int>(i)));
+    for (int line = 0; line < PerspectiveMatchTool::kLineCount; ++line) {
+        const QString word = QLatin1String(PerspectiveMatchTool::lineName(line));
         const QString name = word.toUpper();
-        lines[i] = new VectorEdit(
+        auto* edit = new VectorEdit(
             { tr("Line %1, start, across").arg(name), tr("Line %1, start, up").arg(name),
               tr("Line %1, end, across").arg(name), tr("Line %1, end, up").arg(name) },
             style, this);
-        lines[i]->setObjectName(QStringLiteral("matchLine_") + word);
-        form.addRow(name, lines[i]);
-        connect(lines[i], &VectorEdit::edited, this, [this, word](const QJsonArray& ends) {
+        edit->setObjectName(QStringLiteral("matchLine_") + word);
+        form.addRow(name, edit);
+        connect(edit, &VectorEdit::edited, this, [this, word](const QJsonArray& ends) {
             run(QStringLiteral("match.setLine"),
                 QJsonObject { { "line", word }, { "ends", ends } });
         });
+        bind(edit, QStringLiteral("match.lines"),
+             [edit, word](const QJsonValue& lines) { edit->display(lines[word].toArray()); });
+        ofUnlocked.push_back(edit);
     }
-}
-
-QPushButton* PerspectiveMatchPanel::addButton(const char* name, const QString& text,
-                                              const QString& command)
-{
-    auto* button = new QPushButton(text, this);
-    button->setObjectName(QLatin1String(name));
-    button->setFocusPolicy(Qt::TabFocus);
-    connect(button, &QPushButton::clicked, this, [this, command] { run(command); });
-    return button;
 }
 
 void PerspectiveMatchPanel::askForPhotograph()
@@ -208,34 +160,17 @@ void PerspectiveMatchPanel::askForPhotograph()
 
 void PerspectiveMatchPanel::refresh()
 {
-    const nbdCameraNode camera = tool.camera();
-    const nbdPerspectiveMatch match = camera.getPerspectiveMatch();
+    Panel::refresh();
     const QString name = tool.photograph();
-    display(photograph, name.isEmpty() ? tr("none") : name);
+    setTextOf(photograph, name.isEmpty() ? tr("none") : name);
     remove->setEnabled(!name.isEmpty());
-    display(veil, qRound(tool.veil() * kPercent));
-    display(active, tool.isActive());
-    display(linesShown, tool.areLinesShown());
-    display(locked, camera.isLocked());
-    display(linesType, match.getVanishingLinesType());
-    display(fovMode, camera.getFovMode());
-    magnifyFactor->display(static_cast<double>(match.getMagnifyFactor()));
-    const bool canEdit = !camera.isLocked();
-    for (QWidget* widget : { static_cast<QWidget*>(linesType), static_cast<QWidget*>(fovMode),
-                             static_cast<QWidget*>(magnifyFactor), static_cast<QWidget*>(layLines),
-                             static_cast<QWidget*>(solve) }) {
-        widget->setEnabled(canEdit);
-    }
-    for (int line = 0; line < PerspectiveMatchTool::kLineCount; ++line) {
-        const QLineF ends = match.getLine(static_cast<nbdPerspectiveMatch::Line>(line));
-        VectorEdit* numbers = lines[static_cast<std::size_t>(line)];
-        numbers->display({ ends.x1(), ends.y1(), ends.x2(), ends.y2() });
-        numbers->setEnabled(canEdit);
+    for (QWidget* widget : ofUnlocked) {
+        widget->setEnabled(!tool.camera().isLocked());
     }
     const auto fovDeg = static_cast<double>(stage().pose().fovDeg);
-    display(result,
-            tr("%1 Field of view %2°.", "sentence, number")
-                .arg(tool.resultText(), QString::number(fovDeg, 'f', 2)));
+    setTextOf(result,
+              tr("%1 Field of view %2°.", "sentence, number")
+                  .arg(tool.resultText(), QString::number(fovDeg, 'f', 2)));
 }
 
 }  // namespace viewer

@@ -4,22 +4,15 @@
 #include "viewer/gui/Panel.h"
 #include "viewer/match/PerspectiveMatchTool.h"
 
-#include <array>
-
-class QCheckBox;
-class QComboBox;
+class QBoxLayout;
 class QFormLayout;
 class QLabel;
 class QPushButton;
-class QSlider;
 
 namespace viewer {
 
-class NumberBox;
-class VectorEdit;
-
-/// The panel of the perspective match: photograph, match mode, settings and the coordinates of the
-/// lines.
+/// The panel of the perspective match: what to do next, photograph, settings and the coordinates of
+/// the lines.
 class PerspectiveMatchPanel : public Panel
 {
     Q_OBJECT
@@ -32,31 +25,17 @@ public:
     void refresh() final;
 
 private:
-    QCheckBox* addSwitch(QFormLayout& form, const char* name, const QString& label,
-                         const QString& command);
-    QComboBox* addChoice(QFormLayout& form, const char* name, const QString& label,
-                         const QString& command, const QStringList& words,
-                         const QStringList& texts);
+    QPushButton* addButton(QBoxLayout& row, const char* name, const QString& text);
     void addPhotograph(QFormLayout& form);
-    void addMagnifier(QFormLayout& form);
+    void addSettings(QFormLayout& form);
     void addLines(QFormLayout& form);
-    QPushButton* addButton(const char* name, const QString& text, const QString& command);
     void askForPhotograph();
 
     PerspectiveMatchTool& tool;
+    QLabel* result = nullptr;
     QLabel* photograph = nullptr;
     QPushButton* remove = nullptr;
-    QSlider* veil = nullptr;
-    QCheckBox* active = nullptr;
-    QCheckBox* linesShown = nullptr;
-    QCheckBox* locked = nullptr;
-    QComboBox* linesType = nullptr;
-    QComboBox* fovMode = nullptr;
-    NumberBox* magnifyFactor = nullptr;
-    std::array<VectorEdit*, PerspectiveMatchTool::kLineCount> lines {};
-    QPushButton* layLines = nullptr;
-    QPushButton* solve = nullptr;
-    QLabel* result = nullptr;
+    std::vector<QWidget*> ofUnlocked;  ///< what a locked camera cannot take
 };
 
 }  // namespace viewer

@@ -68,13 +68,6 @@ NumberBox::Style percentStyle(double least)
     return style;
 }
 
-void showValue(QComboBox* box, const QJsonValue& value)
-{
-    const QSignalBlocker blocker(box);
-    box->setEnabled(!value.isNull());
-    box->setCurrentIndex(box->findData(value.toVariant()));
-}
-
 }  // namespace
 
 PlatesPanel::PlatesPanel(Stage& targetStage, PlatesTool& targetTool, QWidget* parent)
@@ -87,7 +80,6 @@ PlatesPanel::PlatesPanel(Stage& targetStage, PlatesTool& targetTool, QWidget* pa
     layout->addWidget(list, 1);
     layout->addLayout(createProperties());
     layout->addWidget(createTextBox());
-    refresh();
 }
 
 // == Making
@@ -156,53 +148,46 @@ void PlatesPanel::createList()
 QFormLayout* PlatesPanel::createProperties()
 {
     auto* form = new QFormLayout;
-    side = new QComboBox(this);
-    side->setObjectName(QStringLiteral("plates.front"));
-    side->addItem(tr("In front of the scene"), true);
-    side->addItem(tr("Behind the scene"), false);
-    connect(side, QOverload<int>::of(&QComboBox::activated), this,
-            [this] { run(QStringLiteral("plates.front"), side->currentData().toBool()); });
-    form->addRow(tr("Lies"), side);
-    opacity = new NumberBox(percentStyle(0.0), this);
+    form->addRow(
+        tr("Lies"),
+        addChoice(QStringLiteral("plates.front"),
+                  { { true, tr("In front of the scene") }, { false, tr("Behind the scene") } }));
+    auto* opacity = new NumberBox(percentStyle(0.0), this);
     opacity->setObjectName(QStringLiteral("plates.opacity"));
     opacity->setSuffix(QStringLiteral(" %"));
     connect(opacity, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
             [this](double percent) { run(QStringLiteral("plates.opacity"), percent / kPercent); });
+    bind(opacity, QStringLiteral("plates.opacity"),
+         [opacity](const QJsonValue& part) { opacity->display(part.toDouble() * kPercent); });
     form->addRow(tr("Opacity"), opacity);
-    anchor = new QComboBox(this);
-    anchor->setObjectName(QStringLiteral("plates.anchor"));
-    anchor->setToolTip(tr("The place of the window that the plate follows"));
+    Choices anchors;
     for (const AnchorText& entry : kAnchorTexts) {
-        anchor->addItem(tr(entry.text), QLatin1String(entry.word));
+        anchors.emplace_back(QLatin1String(entry.word), tr(entry.text));
     }
-    connect(anchor, QOverload<int>::of(&QComboBox::activated), this,
-            [this] { run(QStringLiteral("plates.anchor"), anchor->currentData().toString()); });
+    QWidget* anchor = addChoice(QStringLiteral("plates.anchor"), anchors);
+    anchor->setToolTip(tr("The place of the window that the plate follows"));
     form->addRow(tr("Anchor"), anchor);
-    addNumbers(form, "plates.position", tr("Position"), { tr("X"), tr("Y") }, kPlaceStep);
-    addNumbers(form, "plates.size", tr("Size"), { tr("Width"), tr("Height") }, kPlaceStep);
-    addNumbers(form, "plates.scale", tr("Scale"), { tr("Scale") }, kScaleStep);
-    addNumbers(form, "plates.rotation", tr("Rotation, °"), { tr("Rotation") }, kTurnStepDeg);
-    snapping = new QCheckBox(tr("Snap to edges and centre"), this);
-    snapping->setObjectName(QStringLiteral("plates.snapping"));
-    connect(snapping, &QCheckBox::toggled, this,
-            [this](bool on) { run(QStringLiteral("plates.snapping"), on); });
-    form->addRow(snapping);
-    return form;
-}
 
-void PlatesPanel::addNumbers(QFormLayout* form, const char* command, const QString& label,
-                             const QStringList& names, double step)
-{
-    VectorEdit::Style style;
-    style.step = step;
-    auto* boxes = new VectorEdit(names, style, this);
-    boxes->setObjectName(QLatin1String(command));
-    const bool isVector = names.size() > 1;
-    connect(boxes, &VectorEdit::edited, this, [this, command, isVector](const QJsonArray& values) {
-        run(QLatin1String(command), isVector ? QJsonValue(values) : values.first());
-    });
-    form->addRow(label, boxes);
-    numbers.push_back({ command, boxes, isVector });
+    const struct
+    {
+        const char* command;
+        QString label;
+        QStringList names;
+        double step;
+    } rows[] = {
+        { "plates.position", tr("Position"), { tr("X"), tr("Y") }, kPlaceStep },
+        { "plates.size", tr("Size"), { tr("Width"), tr("Height") }, kPlaceStep },
+        { "plates.scale", tr("Scale"), { tr("Scale") }, kScaleStep },
+        { "plates.rotation", tr("Rotation, °"), { tr("Rotation") }, kTurnStepDeg },
+    };
+
+    for (const auto& row : rows) {
+        NumberBox::Style style;
+        style.step = row.step;
+        form->addRow(row.label, addNumbers(QLatin1String(row.command), row.names, style));
+    }
+    form->addRow(addSwitch(QStringLiteral("plates.snapping"), tr("Snap to edges and centre")));
+    return form;
 }
 
 QWidget* PlatesPanel::createTextBox()
@@ -258,11 +243,6 @@ void PlatesPanel::showColor()
 }
 
 // == What a person does
-
-QJsonValue PlatesPanel::valueOf(const char* command) const
-{
-    return stage().commands().value(QLatin1String(command)).value_or(QJsonValue());
-}
 
 void PlatesPanel::askForPicture()
 {
@@ -326,15 +306,19 @@ void PlatesPanel::changeItem(QListWidgetItem* item)
 
 void PlatesPanel::refresh()
 {
+    Panel::refresh();
     refreshList();
-    refreshProperties();
+    edit->setChecked(tool.isActive());
+    for (QToolButton* button : selectionButtons) {
+        button->setEnabled(!tool.selected().empty());
+    }
 }
 
 void PlatesPanel::refreshList()
 {
     const QSignalBlocker blocker(list);
     const std::vector<osg::NodePtr> plates = PlatesTool::all();
-    const QJsonArray selected = valueOf("plates.selected").toArray();
+    const QJsonArray selected = value(QStringLiteral("plates.selected")).toArray();
     while (list->count() > static_cast<int>(plates.size())) {
         delete list->takeItem(list->count() - 1);
     }
@@ -355,31 +339,6 @@ void PlatesPanel::refreshList()
         itemFont.setItalic(!plate->getFront());
         item->setFont(itemFont);
         item->setSelected(selected.contains(name));
-    }
-}
-
-void PlatesPanel::refreshProperties()
-{
-    {
-        const QSignalBlocker blocker(edit);
-        edit->setChecked(tool.isActive());
-    }
-    showValue(side, valueOf("plates.front"));
-    showValue(anchor, valueOf("plates.anchor"));
-    const QJsonValue opacityValue = valueOf("plates.opacity");
-    opacity->setEnabled(opacityValue.isDouble());
-    opacity->display(opacityValue.toDouble() * kPercent);
-    for (const NumberRow& row : numbers) {
-        const QJsonValue value = valueOf(row.command);
-        const QJsonArray values = row.isVector ? value.toArray()
-            : value.isDouble()                 ? QJsonArray { value }
-                                               : QJsonArray();
-        row.edit->display(values);
-    }
-    const QSignalBlocker blocker(snapping);
-    snapping->setChecked(valueOf("plates.snapping").toBool());
-    for (QToolButton* button : selectionButtons) {
-        button->setEnabled(!tool.selected().empty());
     }
 }
 

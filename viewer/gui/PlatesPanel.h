@@ -10,7 +10,6 @@
 
 class QBoxLayout;
 class QCheckBox;
-class QComboBox;
 class QFontComboBox;
 class QFormLayout;
 class QLineEdit;
@@ -19,9 +18,6 @@ class QListWidgetItem;
 class QToolButton;
 
 namespace viewer {
-
-class NumberBox;
-class VectorEdit;
 
 /// Scene plates: adding them from pictures, texts and colours, their list from the foremost to the
 /// rearmost, and the properties of the selected ones.
@@ -36,42 +32,25 @@ public:
     void refresh() final;
 
 private:
-    /// Boxes for the numbers of one command.
-    struct NumberRow
-    {
-        const char* command;
-        VectorEdit* edit;
-        bool isVector;  ///< the value is an array
-    };
-
     QToolButton* addButton(QBoxLayout* row, const char* name, const QString& text,
                            const QString& tip);
     QBoxLayout* createButtons();
     void createList();
     QFormLayout* createProperties();
-    void addNumbers(QFormLayout* form, const char* command, const QString& label,
-                    const QStringList& names, double step);
     QWidget* createTextBox();
     void showColor();
 
-    QJsonValue valueOf(const char* command) const;
     void askForPicture();
     void askForColor();
     void addText();
     void selectRows();
     void changeItem(QListWidgetItem* item);
     void refreshList();
-    void refreshProperties();
 
     PlatesTool& tool;
     QToolButton* edit = nullptr;
     std::vector<QToolButton*> selectionButtons;
     QListWidget* list = nullptr;
-    QComboBox* side = nullptr;
-    QComboBox* anchor = nullptr;
-    NumberBox* opacity = nullptr;
-    std::vector<NumberRow> numbers;
-    QCheckBox* snapping = nullptr;
     QLineEdit* textEdit = nullptr;
     QFontComboBox* fontBox = nullptr;
     NumberBox* textHeight = nullptr;

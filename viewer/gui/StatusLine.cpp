@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/gui/StatusLine.h"
 
+#include "viewer/gui/Panel.h"
 #include "viewer/gui/ThemeIcon.h"
 #include "viewer/stage/Stage.h"
 #include "viewer/stage/StageTool.h"
@@ -16,13 +17,6 @@ namespace {
 
 constexpr int kNameWidth = 160;  ///< of a file, logical pixels
 constexpr int kPercent = 100;
-
-void setTextOf(QLabel* label, const QString& text)
-{
-    if (label->text() != text) {
-        label->setText(text);
-    }
-}
 
 QString selectionText(const Stage& stage)
 {
