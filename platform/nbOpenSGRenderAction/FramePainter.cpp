@@ -67,18 +67,55 @@ void FramePainter::draw(Gl& gl, const Frame& frame, const osg::ViewportPtr& view
     taken.items = list.getItems().size();
 }
 
+void FramePainter::drawScene(Gl& gl, const Frame& frame, const osg::ViewportPtr& viewport,
+                             FrameTargets& targets)
+{
+    gl.glViewport(0, 0, frame.widthPx, frame.heightPx);
+    const FrameView view = prepareView(frame, viewport);
+    plates.update(viewport->getRoot());
+    begin(gl, frame, viewport, targets);
+    plates.drawBack(gl, frame, textures);
+    taken = { list.getItems().size(), 0, 0, taken.listBuilds };
+    FrameSteps steps;
+    osg::ContentStamp stamp;
+    addItems(steps, stamp, view, true, false);
+    drawItems(gl, frame, view, steps, 0, steps.size());
+    background.drawVeil(gl, viewport, frame, textures);
+}
+
 void FramePainter::drawHandles(Gl& gl, const Frame& frame, const osg::ViewportPtr& viewport,
-                               FrameTargets& targets)
+                               FrameTargets& targets, GLuint scene)
 {
     gl.glViewport(0, 0, frame.widthPx, frame.heightPx);
     begin(gl, frame, viewport, targets);
-    if (viewport != osg::NullFC && viewport->getCamera() != osg::NullFC) {
-        const FrameView view = prepareView(frame, viewport);
-        FrameSteps steps;
-        osg::ContentStamp stamp;
-        addItems(steps, stamp, view, false, true);
-        drawItems(gl, frame, view, steps, 0, steps.size());
+    if (viewport == osg::NullFC || viewport->getCamera() == osg::NullFC) {
+        return;
     }
+    const FrameView view = prepareView(frame, viewport);
+    if (scene != 0) {
+        gl.glColorMaski(1, GL_FALSE, GL_FALSE, GL_FALSE, GL_FALSE);
+        drawPicture(gl, frame, scene, GL_LINEAR);
+        gl.glColorMaski(1, GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
+        plates.drawFront(gl, frame, textures);
+    }
+    FrameSteps steps;
+    osg::ContentStamp stamp;
+    addItems(steps, stamp, view, false, true);
+    drawItems(gl, frame, view, steps, 0, steps.size());
+}
+
+void FramePainter::drawPicture(Gl& gl, const Frame& frame, GLuint texture, GLint filter)
+{
+    gl.glDisable(GL_DEPTH_TEST);
+    GlProgram& program = programs.getStandard(ShaderPrograms::Standard::Present);
+    program.use(gl);
+    program.set(gl, "picture", GLint(0));
+    gl.glActiveTexture(GL_TEXTURE0);
+    gl.glBindTexture(GL_TEXTURE_2D, texture);
+    gl.glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, filter);
+    gl.glBindVertexArray(frame.emptyArray);
+    gl.glDrawArrays(GL_TRIANGLES, 0, 3);
+    frame.count->add(1);
 }
 
 void FramePainter::begin(Gl& gl, const Frame& frame, const osg::ViewportPtr& viewport,

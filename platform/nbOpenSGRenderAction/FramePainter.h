@@ -38,9 +38,18 @@ public:
     /// Draws a frame into targets that are bound.
     void draw(Gl& gl, const Frame& frame, const osg::ViewportPtr& viewport, FrameTargets& targets);
 
-    /// Draws background and handles alone.
+    /// Draws what lies below handles and plates before the scene, of a viewport with a camera.
+    void drawScene(Gl& gl, const Frame& frame, const osg::ViewportPtr& viewport,
+                   FrameTargets& targets);
+
+    /// Draws background and handles alone, or the plates before the scene and handles over a
+    /// picture of the scene.
+    /// @param scene  texture, spread over the frame; 0 for the background
     void drawHandles(Gl& gl, const Frame& frame, const osg::ViewportPtr& viewport,
-                     FrameTargets& targets);
+                     FrameTargets& targets, GLuint scene);
+
+    /// Spreads a texture over what is bound. @param filter  of a texture that is smaller
+    void drawPicture(Gl& gl, const Frame& frame, GLuint texture, GLint filter = GL_NEAREST);
 
     void setSceneKept(bool on) { image.setEnabled(on); }
 

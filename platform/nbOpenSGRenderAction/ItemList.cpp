@@ -406,7 +406,11 @@ const ItemList::Order& ItemList::getOrder(const osg::Matrix& viewFromWorld)
         if (items[begin].blended) {
             sortFromBack(first, last, viewFromWorld);
         } else if (items[begin].sortsFreely && !movedNodes.empty()) {
-            std::stable_partition(first, last, [this](auto i) { return !items[i].moved; });
+            // What is auxiliary follows what is moved, as frames around it do.
+            const auto rank = [this](osg::UInt32 i) {
+                return items[i].auxiliary ? 2 : (items[i].moved ? 1 : 0);
+            };
+            std::stable_sort(first, last, [&](auto a, auto b) { return rank(a) < rank(b); });
         }
         begin = end;
     }

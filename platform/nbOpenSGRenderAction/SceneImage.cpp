@@ -16,12 +16,13 @@ constexpr double kTriangleCost = 10.0;
 /// to be kept.
 constexpr double kGrowth = 0.25;
 
-std::size_t trianglesOf(const FrameSteps& steps, std::size_t begin, std::size_t end,
-                        const SceneImage::Costs& costs)
+/// What drawing steps costs; of more than `most` only that it is more.
+double drawingCost(const FrameSteps& steps, std::size_t begin, std::size_t end,
+                   const SceneImage::Costs& costs, double most)
 {
-    std::size_t sum = 0;
-    for (std::size_t i = begin; i < end; ++i) {
-        sum += costs.trianglesOf(steps[i]);
+    double sum = 0.0;
+    for (std::size_t i = begin; i < end && sum <= most; ++i) {
+        sum += kTriangleCost * static_cast<double>(costs.trianglesOf(steps[i]));
     }
     return sum;
 }
@@ -65,8 +66,7 @@ bool SceneImage::pays(const FrameSteps& steps, std::size_t count, const Costs& c
                       PixelBox touched)
 {
     const auto frame = static_cast<double>(costs.framePixels);
-    const double drawing = kFillCost * frame +
-        kTriangleCost * static_cast<double>(trianglesOf(steps, 0, count, costs));
+    const double drawing = kFillCost * frame + drawingCost(steps, 0, count, costs, frame);
     for (std::size_t i = count; i < steps.size() && static_cast<double>(touched.area()) < frame;
          ++i) {
         touched.unite(costs.pixelsOf(steps[i]));
@@ -87,9 +87,9 @@ SceneImage::Plan SceneImage::plan(const FrameSteps& steps, const Costs& costs)
     const std::size_t unchanged =
         costs.framePixels < refusedPixels ? std::max(unchangedSteps(steps), costs.settledSteps) : 0;
     if (unchanged > usable) {
-        const auto more = static_cast<double>(trianglesOf(steps, usable, unchanged, costs));
+        const double growth = kGrowth * static_cast<double>(costs.framePixels);
         const bool isWorth =
-            usable == 0 || kTriangleCost * more >= kGrowth * static_cast<double>(costs.framePixels);
+            usable == 0 || drawingCost(steps, usable, unchanged, costs, growth) >= growth;
         result.kept = isWorth && pays(steps, unchanged, costs, PixelBox()) ? unchanged : 0;
     }
     lastStamps.clear();

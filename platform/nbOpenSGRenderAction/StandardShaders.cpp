@@ -322,11 +322,12 @@ void main()
 )";
 
 const char* const kPresentFragmentBody = R"(
+in vec2 place;
 uniform sampler2D picture;
 layout (location = 0) out vec4 color;
 void main()
 {
-    color = vec4(texelFetch(picture, ivec2(gl_FragCoord.xy), 0).rgb, 1.0);
+    color = vec4(texture(picture, place).rgb, 1.0);
 }
 )";
 

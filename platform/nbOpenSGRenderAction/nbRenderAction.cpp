@@ -17,6 +17,12 @@ namespace {
 
 constexpr int kDefaultSamples = 8;
 constexpr double kNanosecondsPerMillisecond = 1e6;
+/// A picture while the camera moves is to take no longer.
+constexpr double kSmoothMilliseconds = 50.0;
+/// One that takes less than this part of it may be finer.
+constexpr double kFinerPart = 0.2;
+/// Pixels to a side of those that are drawn while the camera moves, at most.
+constexpr int kMostCoarseness = 2;
 /// Programs, textures and buffers of containers that are gone are looked for once per so many
 /// frames.
 constexpr unsigned int kFramesPerCollection = 64;
@@ -40,6 +46,10 @@ struct nbRenderAction::Impl
     void keepForLens(const Frame& frame);
     void present(const osg::ViewportPtr& viewport, const Frame& frame,
                  osg::UInt32 targetFramebuffer);
+    /// Draws the scene with fewer pixels below handles with all of them.
+    bool drawCoarsely(const osg::ViewportPtr& viewport, const Frame& frame);
+    /// Makes the next picture of a moving camera coarser or finer by the time of this one.
+    void adaptCoarseness();
     void collect();
     bool fail(const std::string& reason);
 
@@ -49,11 +59,15 @@ struct nbRenderAction::Impl
     float shiftY = 0.0F;
     bool effectShown = false;
     bool isTimed = false;
+    bool isHurried = false;
+    int coarseness = 0;  ///< 0: all samples; otherwise one, and pixels to a side of it
+    bool isCoarse = false;  ///< the last frame
 
     QPointer<QOpenGLContext> context;
     Gl* gl = nullptr;
     GLuint emptyArray = 0;  ///< vertex array of programs that have no attributes
     FrameTargets targets;
+    FrameTargets coarseTargets;
     nbrender::FramePainter painter;
     nbrender::MagnifierPainter magnifier;
     std::size_t frames = 0;
@@ -93,6 +107,7 @@ bool nbRenderAction::Impl::prepareContext(std::string& error)
 void nbRenderAction::Impl::forgetContext()
 {
     targets.forget();
+    coarseTargets.forget();
     painter.forget();
     magnifier.forget();
     emptyArray = 0;
@@ -128,22 +143,42 @@ void nbRenderAction::Impl::present(const osg::ViewportPtr& viewport, const Frame
     }
     gl->glBindFramebuffer(GL_FRAMEBUFFER, targetFramebuffer);
     gl->glViewport(0, 0, frame.widthPx, frame.heightPx);
-    gl->glDisable(GL_DEPTH_TEST);
-    GlProgram& program = painter.getPrograms().getStandard(ShaderPrograms::Standard::Present);
-    program.use(*gl);
-    program.set(*gl, "picture", GLint(0));
-    gl->glActiveTexture(GL_TEXTURE0);
-    gl->glBindTexture(GL_TEXTURE_2D, targets.getTexture(shown));
-    gl->glBindVertexArray(emptyArray);
-    gl->glDrawArrays(GL_TRIANGLES, 0, 3);
-    count.add(1);
+    painter.drawPicture(*gl, frame, targets.getTexture(shown));
     if (isLens) {
         magnifier.draw(*gl, pixelRatio, emptyArray);
         count.add(1);
     }
-    gl->glBindTexture(GL_TEXTURE_2D, 0);
-    gl->glBindVertexArray(0);
-    gl->glUseProgram(0);
+}
+
+bool nbRenderAction::Impl::drawCoarsely(const osg::ViewportPtr& viewport, const Frame& frame)
+{
+    Frame coarse = frame;
+    coarse.widthPx = (frame.widthPx + coarseness - 1) / coarseness;
+    coarse.heightPx = (frame.heightPx + coarseness - 1) / coarseness;
+    const float part = 1.0F / static_cast<float>(coarseness);
+    coarse.pixelRatio *= part;
+    coarse.shiftXPx *= part;
+    coarse.shiftYPx *= part;
+    std::string error;
+    if (!coarseTargets.bind(*gl, coarse.widthPx, coarse.heightPx, 1, painter.getDepth().getFormat(),
+                            error)) {
+        return bindTargets(frame.widthPx, frame.heightPx, error) && false;
+    }
+    painter.drawScene(*gl, coarse, viewport, coarseTargets);
+    coarseTargets.resolve(*gl, FrameTargets::Buffer::Color);
+    bindTargets(frame.widthPx, frame.heightPx, error);
+    painter.drawHandles(*gl, frame, viewport, targets,
+                        coarseTargets.getTexture(FrameTargets::Buffer::Color));
+    return true;
+}
+
+void nbRenderAction::Impl::adaptCoarseness()
+{
+    if (milliseconds > kSmoothMilliseconds) {
+        coarseness = std::min(coarseness + 1, kMostCoarseness);
+    } else if (milliseconds < kFinerPart * kSmoothMilliseconds) {
+        coarseness = std::max(coarseness - 1, 0);
+    }
 }
 
 void nbRenderAction::Impl::collect()
@@ -201,16 +236,24 @@ bool nbRenderAction::render(const osg::ViewportPtr& viewport, int widthPx, int h
     const Frame frame { widthPx,      heightPx,         impl->pixelRatio, impl->shiftX,
                         impl->shiftY, impl->emptyArray, &impl->count };
     if (impl->isLensShown(viewport) && nbrender::BackgroundPainter::hasPhotograph(viewport)) {
-        impl->painter.drawHandles(*impl->gl, frame, viewport, impl->targets);
+        impl->painter.drawHandles(*impl->gl, frame, viewport, impl->targets, 0);
         impl->keepForLens(frame);
         impl->bindTargets(widthPx, heightPx, error);
     }
-    impl->painter.draw(*impl->gl, frame, viewport, impl->targets);
+    const bool isHurried = impl->isHurried && !impl->effectShown && !impl->isLensShown(viewport) &&
+        viewport != osg::NullFC && viewport->getCamera() != osg::NullFC;
+    impl->isCoarse = isHurried && impl->coarseness > 0 && impl->drawCoarsely(viewport, frame);
+    if (!impl->isCoarse) {
+        impl->painter.draw(*impl->gl, frame, viewport, impl->targets);
+    }
     impl->present(viewport, frame, targetFramebuffer);
-    if (impl->isTimed) {
+    if (impl->isTimed || isHurried) {
         impl->gl->glFinish();
     }
     impl->milliseconds = static_cast<double>(clock.nsecsElapsed()) / kNanosecondsPerMillisecond;
+    if (isHurried) {
+        impl->adaptCoarseness();
+    }
     ++impl->frames;
     impl->collect();
     return true;
@@ -255,6 +298,11 @@ void nbRenderAction::setMovedLast(bool on)
     impl->painter.setMovedLast(on);
 }
 
+void nbRenderAction::setHurried(bool on)
+{
+    impl->isHurried = on;
+}
+
 void nbRenderAction::setTimed(bool on)
 {
     impl->isTimed = on;
@@ -270,6 +318,7 @@ void nbRenderAction::release()
 {
     if (impl->gl != nullptr && QOpenGLContext::currentContext() == impl->context) {
         impl->targets.release(*impl->gl);
+        impl->coarseTargets.release(*impl->gl);
         impl->painter.release(*impl->gl);
         impl->magnifier.release(*impl->gl);
         impl->gl->glDeleteVertexArrays(1, &impl->emptyArray);
@@ -289,6 +338,7 @@ nbRenderAction::Statistics nbRenderAction::getStatistics() const
     result.meshes = impl->painter.getMeshCount();
     result.drawCalls = impl->count.calls;
     result.triangles = impl->count.triangles;
+    result.coarse = impl->isCoarse;
     result.milliseconds = impl->milliseconds;
     return result;
 }

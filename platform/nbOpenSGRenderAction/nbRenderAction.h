@@ -78,6 +78,7 @@ public:
         std::size_t meshes = 0;  ///< geometries that have buffers
         std::size_t drawCalls = 0;  ///< items, plates, background and the copy to the target
         std::size_t triangles = 0;  ///< in these, those that lines are widened to included
+        bool coarse = false;  ///< see setHurried()
         /// Time of render(): until the driver had all commands or, when timed, had done them.
         double milliseconds = 0.0;
     };
@@ -127,6 +128,13 @@ public:
     /// start. From the full picture of the same scene such a picture differs where surfaces lie so
     /// near to each other that the order or the rounding of depths decides.
     void setMovedLast(bool on);
+
+    /// Whether the next pictures are of a camera that moves; not at the start. Where they take
+    /// longer than 50 ms the scene is drawn with one sample per pixel, and if need be for every
+    /// second pixel of a row and column, and spread below plates and handles that are as always.
+    /// The effect buffer then has nothing of the scene. While that or the lens is shown pictures
+    /// are whole.
+    void setHurried(bool on);
 
     /// Whether render() waits until the driver has done everything, so that its time is told
     /// wholly; it does not at the start.

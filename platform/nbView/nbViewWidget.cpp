@@ -18,11 +18,15 @@ constexpr int kPicturePasses = 4;
 /// count more: one pass must do, and the view itself is drawn without samples.
 constexpr int kHugePx = 16 * 1024 * 1024;
 constexpr int kSamples = 8;
+constexpr double kNanosecondsPerMs = 1e6;
 
 bool isHuge(const QSize& sizePx)
 {
     return sizePx.width() > kHugePx / qMax(sizePx.height(), 1);
 }
+
+/// From the last move of the camera to the whole picture.
+constexpr int kRestMs = 150;
 
 constexpr QSize kPreferredSize(1200, 800);
 constexpr QSize kSmallestSize(16, 16);
@@ -33,6 +37,20 @@ QString graphicsText(QOpenGLFunctions& gl)
         return QString::fromLatin1(reinterpret_cast<const char*>(gl.glGetString(name)));
     };
     return QStringLiteral("%1, %2").arg(textOf(GL_VERSION), textOf(GL_RENDERER));
+}
+
+bool isInput(QEvent::Type type)
+{
+    switch (type) {
+    case QEvent::MouseMove:
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::Wheel:
+    case QEvent::KeyPress:
+        return true;
+    default:
+        return false;
+    }
 }
 
 QSurfaceFormat openGlFormat()
@@ -54,6 +72,20 @@ nbViewWidget::nbViewWidget(QWidget* parent)
     setFocusPolicy(Qt::StrongFocus);
     setMinimumSize(kSmallestSize);
     renderWidget.setObserver(this);
+    renderAction.setMovedLast(true);
+    sinceMove.setSingleShot(true);
+    sinceMove.setInterval(kRestMs);
+    connect(&sinceMove, &QTimer::timeout, this, [this] {
+        if (renderAction.getStatistics().coarse) {
+            renderWidget.update();
+        }
+    });
+    connect(this, &QOpenGLWidget::frameSwapped, this, [this] {
+        if (sinceInput.isValid()) {
+            lastInputMs = static_cast<double>(sinceInput.nsecsElapsed()) / kNanosecondsPerMs;
+            sinceInput.invalidate();
+        }
+    });
 }
 
 nbViewWidget::~nbViewWidget()
@@ -166,6 +198,27 @@ void nbViewWidget::paintOverlay(QPainter& painter) const
     nbTextPainter::paintTexts(painter, logicalSize());
 }
 
+void nbViewWidget::setCoarseWhileMoving(bool on)
+{
+    coarseWhileMoving = on;
+    renderWidget.update();
+}
+
+void nbViewWidget::setExact(bool on)
+{
+    exact = on;
+    renderAction.setMovedLast(!on);
+    renderWidget.update();
+}
+
+bool nbViewWidget::followCamera()
+{
+    const osg::Matrix place = renderWidget.getUberCamera()->getInternalParentNode()->getToWorld();
+    const bool moved = !place.equals(lastPlace, 0.0F);
+    lastPlace = place;
+    return moved;
+}
+
 void nbViewWidget::showEffectBuffer(bool on)
 {
     renderAction.showEffectBuffer(on);
@@ -209,8 +262,13 @@ void nbViewWidget::paintGL()
         return;
     }
     const QSize size = sizePx();
+    const bool moved = followCamera();
+    renderAction.setHurried(coarseWhileMoving && !exact && (moved || sinceMove.isActive()));
     renderAction.render(renderWidget.getViewport(), size.width(), size.height(),
                         defaultFramebufferObject());
+    if (moved) {
+        sinceMove.start();
+    }
     if (hasOverlay()) {
         QPainter painter(this);
         paintOverlay(painter);
@@ -237,7 +295,15 @@ void nbViewWidget::releaseGraphics()
 
 bool nbViewWidget::event(QEvent* event)
 {
-    if (translator != nullptr && translator->handleEvent(*event)) {
+    const bool isFirst = isInput(event->type()) && !sinceInput.isValid();
+    if (isFirst) {
+        sinceInput.start();
+    }
+    const bool taken = translator != nullptr && translator->handleEvent(*event);
+    if (isFirst && !renderWidget.isRedrawPending()) {
+        sinceInput.invalidate();
+    }
+    if (taken) {
         event->accept();
         return true;
     }

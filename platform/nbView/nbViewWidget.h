@@ -7,6 +7,8 @@
 #include <nbOpenSGRenderAction/nbRenderAction.h>
 #include <nbUtils/nbPlatformExport.h>
 
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QTimer>
 #include <QtGui/QImage>
 #include <QtWidgets/QOpenGLWidget>
 
@@ -58,6 +60,21 @@ public:
     /// Shows the effect buffer instead of the colours.
     void showEffectBuffer(bool on);
 
+    /// Whether pictures while the camera moves may be coarse where they take long, see
+    /// nbRenderAction::setHurried(); they may at the start. A whole one follows 150 ms after the
+    /// last move.
+    void setCoarseWhileMoving(bool on);
+
+    bool isCoarseWhileMoving() const { return coarseWhileMoving; }
+
+    /// Whether what the window shows is drawn as takePicture() draws it, always whole and in the
+    /// tree's order; not at the start, see nbRenderAction::setMovedLast().
+    void setExact(bool on);
+
+    /// Time from an event of a person's to the picture that it changed, or to the one that showed
+    /// several events at once from the first of them, when that was last shown. Milliseconds.
+    double inputToPictureMs() const { return lastInputMs; }
+
     /// Version of OpenGL and name of the renderer, such as "4.5, llvmpipe"; empty before the first
     /// picture.
     const QString& graphics() const { return graphicsName; }
@@ -102,6 +119,7 @@ protected:
 private:
     void redrawRequested() override;
     void adoptSize();
+    bool followCamera();
     void releaseGraphics();
 
     nbOSGWidget renderWidget;
@@ -111,4 +129,10 @@ private:
     QSize fixedSizePx;
     QString graphicsName;
     bool failed = false;
+    bool coarseWhileMoving = true;
+    bool exact = false;
+    osg::Matrix lastPlace;  ///< of the camera, in the last picture
+    QTimer sinceMove;  ///< runs a while after each move of the camera
+    QElapsedTimer sinceInput;  ///< valid while a picture has not shown it
+    double lastInputMs = 0.0;
 };

@@ -78,6 +78,7 @@ void SessionPlayer::start(const Session& newSession, Pace newPace,
     heldButtons = Qt::NoButton;
     heldModifiers = Qt::NoModifier;
     playing = true;
+    view.setExact(true);
     paused = false;
     isStepHeld = false;
     setCaption({}, {});
@@ -91,6 +92,7 @@ void SessionPlayer::stop()
         return;
     }
     playing = false;
+    view.setExact(false);
     paused = false;
     ++generation;
     setCaption({}, {});

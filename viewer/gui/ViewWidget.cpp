@@ -106,11 +106,12 @@ QString ViewWidget::frameText() const
     constexpr int kDecimals = 1;
     const nbRenderAction::Statistics frame = frameStatistics();
     const QString text = frame.reused > 0
-        ? tr("%1 ms, %2 draw calls, %L3 triangles, scene image reused")
-        : tr("%1 ms, %2 draw calls, %L3 triangles");
+        ? tr("%1 ms, %2 draw calls, %L3 triangles, scene image reused, %4 ms from input to picture")
+        : tr("%1 ms, %2 draw calls, %L3 triangles, %4 ms from input to picture");
     return text.arg(frame.milliseconds, 0, 'f', kDecimals)
         .arg(frame.drawCalls)
-        .arg(frame.triangles);
+        .arg(frame.triangles)
+        .arg(inputToPictureMs(), 0, 'f', kDecimals);
 }
 
 void ViewWidget::addCommands()
@@ -132,7 +133,9 @@ void ViewWidget::addCommands()
                              { "milliseconds", frame.milliseconds },
                              { "drawCalls", static_cast<double>(frame.drawCalls) },
                              { "triangles", static_cast<double>(frame.triangles) },
-                             { "sceneReused", frame.reused > 0 } };
+                             { "sceneReused", frame.reused > 0 },
+                             { "coarse", frame.coarse },
+                             { "inputToPicture", inputToPictureMs() } };
     });
 }
 
