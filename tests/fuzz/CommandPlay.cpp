@@ -7,7 +7,6 @@
 #include "viewer/plates/PlatesTool.h"
 #include "viewer/scenes/SceneCapture.h"
 #include "viewer/stage/Stage.h"
-#include "viewer/textures/TextureCommands.h"
 #include "viewer/textures/TextureTool.h"
 
 #include <nbKernel/nbScenegraph.h>
@@ -50,7 +49,6 @@ std::string playCommands(const std::uint8_t* data, std::size_t size)
     nbOSGWidget view;
     Stage stage(view);
     TextureTool textures(stage);
-    const TextureCommands textureCommands(stage, textures);
     const PerspectiveMatchTool match(stage);
     const PlatesTool plates(stage);
     stage.resize(640, 480, 1.0F);

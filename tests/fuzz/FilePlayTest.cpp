@@ -6,7 +6,6 @@
 #include "viewer/match/PerspectiveMatchTool.h"
 #include "viewer/plates/PlatesTool.h"
 #include "viewer/stage/Stage.h"
-#include "viewer/textures/TextureCommands.h"
 #include "viewer/textures/TextureTool.h"
 
 #include <OpenSG/OSGSimpleGeometry.h>
@@ -48,7 +47,6 @@ std::vector<QByteArray> commandNames()
     nbOSGWidget view;
     Stage stage(view);
     TextureTool textures(stage);
-    const TextureCommands textureCommands(stage, textures);
     const PerspectiveMatchTool match(stage);
     const PlatesTool plates(stage);
     std::vector<QByteArray> names;

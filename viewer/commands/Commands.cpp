@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/commands/Commands.h"
 
+#include "viewer/commands/JsonReader.h"
 #include "viewer/texts/Text.h"
 
 #include <QJsonArray>
@@ -59,6 +60,28 @@ bool areNear(const QJsonObject& found, const QJsonObject& expected, double toler
 void Commands::add(const QString& name, Run run)
 {
     commands[name] = std::move(run);
+}
+
+void Commands::addSwitch(const QString& name, SetSwitch set, std::function<bool()> isOn)
+{
+    add(name,
+        [name, set = std::move(set), isOn = std::move(isOn)](const QJsonValue& value,
+                                                             QString& error) {
+            bool on = value.isNull() && isOn && !isOn();
+            return ((value.isNull() && isOn) || JsonReader(error).readBool(value, name, on)) &&
+                set(on, error);
+        });
+}
+
+void Commands::addNumber(const QString& name, double least, double most, SetNumber set)
+{
+    add(name, [name, least, most, set = std::move(set)](const QJsonValue& value, QString& error) {
+        const double number = value.toDouble(NAN);
+        return number >= least && number <= most
+            ? set(number, error)
+            : JsonReader(error).fail(
+                  name, QStringLiteral("expected a number from %1 to %2").arg(least).arg(most));
+    });
 }
 
 void Commands::addValue(const QString& name, Read read)

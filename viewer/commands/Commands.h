@@ -38,6 +38,15 @@ public:
 
     /// Adds a command, or replaces that of the name.
     void add(const QString& name, Run run);
+    /// Sets a switch or a number. @return false with one line in `error`, nothing changed
+    using SetSwitch = std::function<bool(bool on, QString& error)>;
+    using SetNumber = std::function<bool(double number, QString& error)>;
+
+    /// Adds a command that takes true or false.
+    /// @param isOn  tells how it is; then null does the other; empty: null is refused
+    void addSwitch(const QString& name, SetSwitch set, std::function<bool()> isOn = {});
+    /// Adds a command that takes a number from least to most.
+    void addNumber(const QString& name, double least, double most, SetNumber set);
     /// Adds a value, or replaces that of the name.
     void addValue(const QString& name, Read read);
     /// Removes every command and value whose name begins so; for owners that end before this.

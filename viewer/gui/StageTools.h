@@ -3,7 +3,6 @@
 
 #include "viewer/match/PerspectiveMatchTool.h"
 #include "viewer/plates/PlatesTool.h"
-#include "viewer/textures/TextureCommands.h"
 #include "viewer/textures/TextureTool.h"
 
 namespace viewer {
@@ -14,13 +13,11 @@ struct StageTools
     /// @param stage  outlives this
     explicit StageTools(Stage& stage)
         : texture(stage)
-        , textureCommands(stage, texture)
         , match(stage)
         , plates(stage)
     { }
 
     TextureTool texture;
-    TextureCommands textureCommands;
     PerspectiveMatchTool match;
     PlatesTool plates;
 };

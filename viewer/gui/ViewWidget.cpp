@@ -117,15 +117,13 @@ QString ViewWidget::frameText() const
 void ViewWidget::addCommands()
 {
     Commands& commands = viewStage.commands();
-    commands.add(QStringLiteral("view.setFrameStatistics"),
-                 [this](const QJsonValue& value, QString& error) {
-                     if (!value.isBool() && !value.isNull()) {
-                         error = QStringLiteral("expected true or false");
-                         return false;
-                     }
-                     showFrameStatistics(value.toBool(!frameStatisticsShown));
-                     return true;
-                 });
+    commands.addSwitch(
+        QStringLiteral("view.setFrameStatistics"),
+        [this](bool on, QString&) {
+            showFrameStatistics(on);
+            return true;
+        },
+        [this] { return frameStatisticsShown; });
     commands.addValue(QStringLiteral("view.frameStatistics"), [this]() -> QJsonValue {
         const nbRenderAction::Statistics frame = frameStatistics();
         return QJsonObject { { "shown", frameStatisticsShown },

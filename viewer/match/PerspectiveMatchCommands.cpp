@@ -36,30 +36,14 @@ public:
         });
     }
 
-    void addSwitch(const char* name, std::function<bool(bool on, QString& error)> run)
+    void addSwitch(const char* name, Commands::SetSwitch set, std::function<bool()> isOn = {})
     {
-        commands.add(full(name), [run = std::move(run)](const QJsonValue& value, QString& error) {
-            if (!value.isBool()) {
-                error = QStringLiteral("expected true or false");
-                return false;
-            }
-            return run(value.toBool(), error);
-        });
+        commands.addSwitch(full(name), std::move(set), std::move(isOn));
     }
 
-    void addNumber(const char* name, double least, double most,
-                   std::function<bool(double number, QString& error)> run)
+    void addNumber(const char* name, double least, double most, Commands::SetNumber set)
     {
-        commands.add(
-            full(name),
-            [least, most, run = std::move(run)](const QJsonValue& value, QString& error) {
-                const double number = value.toDouble();
-                if (!value.isDouble() || !(number >= least && number <= most)) {
-                    error = QStringLiteral("expected a number from %1 to %2").arg(least).arg(most);
-                    return false;
-                }
-                return run(number, error);
-            });
+        commands.addNumber(full(name), least, most, std::move(set));
     }
 
     /// A choice of words; the command gets the place of the word.
@@ -152,21 +136,17 @@ void addModes(CommandTable& table, PerspectiveMatchTool& tool, Stage& stage)
         tool.setVeil(opacity);
         return true;
     });
-    table.add("setActive", [&tool, &stage](const QJsonValue& value, QString& error) {
-        if (!value.isBool() && !value.isNull()) {
-            error = QStringLiteral("expected true or false");
-            return false;
-        }
-        const bool on = value.toBool(!tool.isActive());
-        if (on && stage.pose().orthographic) {
-            error = Text::tr("an orthographic view cannot be matched: switch to perspective");
-            return false;
-        }
-        if (on != tool.isActive()) {
-            stage.setActiveTool(on ? &tool : nullptr);
-        }
-        return true;
-    });
+    table.addSwitch(
+        "setActive",
+        [&tool, &stage](bool on, QString& error) {
+            if (on && stage.pose().orthographic) {
+                error = Text::tr("an orthographic view cannot be matched: switch to perspective");
+                return false;
+            }
+            stage.useTool(tool, on);
+            return true;
+        },
+        [&tool] { return tool.isActive(); });
     table.addSwitch("showLines", [&tool](bool on, QString&) {
         tool.showLines(on);
         return true;

@@ -367,22 +367,15 @@ void addValues(Stage& stage, PlatesTool& tool)
 
 void addModes(Stage& stage, PlatesTool& tool)
 {
-    Commands& commands = stage.commands();
-    commands.add(prefixed("edit"), [&stage, &tool](const QJsonValue& value, QString& error) {
-        if (!value.isBool() && !value.isNull()) {
-            return refuse("edit", QStringLiteral("expected true or false"), error);
-        }
-        const bool isWanted = value.toBool(!tool.isActive());
-        if (isWanted != tool.isActive()) {
-            stage.setActiveTool(isWanted ? &tool : nullptr);
-        }
-        return true;
-    });
-    commands.add(prefixed("snapping"), [&stage](const QJsonValue& value, QString& error) {
-        if (!value.isBool()) {
-            return refuse("snapping", QStringLiteral("expected true or false"), error);
-        }
-        stage.gizmo().setSnapping(value.toBool());
+    stage.commands().addSwitch(
+        prefixed("edit"),
+        [&stage, &tool](bool on, QString&) {
+            stage.useTool(tool, on);
+            return true;
+        },
+        [&tool] { return tool.isActive(); });
+    stage.commands().addSwitch(prefixed("snapping"), [&stage](bool on, QString&) {
+        stage.gizmo().setSnapping(on);
         return true;
     });
 }

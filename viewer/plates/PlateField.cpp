@@ -12,6 +12,7 @@ using osg::Sceneplate;
 
 /// Larger numbers are no plates that a person could see.
 constexpr double kMost = 1000.0;
+constexpr double kThousand = 1000.0;
 
 bool isNumber(const QJsonValue& value, double least)
 {
@@ -30,30 +31,64 @@ QJsonArray pairOf(const osg::Vec2f& pair)
     return { static_cast<double>(pair.x()), static_cast<double>(pair.y()) };
 }
 
-/// Sizes below this cannot be grabbed any more.
-constexpr double kLeastSize = 1e-3;
+template <class Type>
+using Setter = void (Sceneplate::*)(const Type&);
+template <class Type>
+using Getter = const Type& (Sceneplate::*)() const;
 
-const char* const kPairExpected = "expected an array of two numbers";
-const char* const kSwitchExpected = "expected true or false";
+template <Setter<bool> set, Getter<bool> get>
+PlateField switchField(const char* name, const char* title)
+{
+    return { name, title, "expected true or false",
+             [](const QJsonValue& value, Sceneplate* plate) {
+                 if (plate != nullptr) {
+                     (plate->*set)(value.toBool());
+                 }
+                 return value.isBool();
+             },
+             [](const Sceneplate& plate) { return QJsonValue((plate.*get)()); } };
+}
+
+/// @param least  in thousandths
+template <Setter<osg::Real32> set, Getter<osg::Real32> get, int least>
+PlateField numberField(const char* name, const char* title, const char* expected)
+{
+    return { name, title, expected,
+             [](const QJsonValue& value, Sceneplate* plate) {
+                 if (plate != nullptr) {
+                     (plate->*set)(static_cast<float>(value.toDouble()));
+                 }
+                 return isNumber(value, least / kThousand);
+             },
+             [](const Sceneplate& plate) {
+                 return QJsonValue(static_cast<double>((plate.*get)()));
+             } };
+}
+
+template <Setter<osg::Vec2f> set, Getter<osg::Vec2f> get, int least>
+PlateField pairField(const char* name, const char* title, const char* expected)
+{
+    return { name, title, expected,
+             [](const QJsonValue& value, Sceneplate* plate) {
+                 osg::Vec2f pair;
+                 const bool isPair = acceptPair(value, least / kThousand, pair);
+                 if (plate != nullptr) {
+                     (plate->*set)(pair);
+                 }
+                 return isPair;
+             },
+             [](const Sceneplate& plate) { return QJsonValue(pairOf((plate.*get)())); } };
+}
+
+/// In thousandths; what is smaller cannot be grabbed any more.
+constexpr int kLeastSize = 1;
+constexpr int kNoLeast = -1000000;
 
 const std::vector<PlateField> kFields {
-    { "front", QT_TRANSLATE_NOOP("Manipulator", "Scene plates to the front or back"),
-      kSwitchExpected,
-      [](const QJsonValue& value, Sceneplate* plate) {
-          if (plate != nullptr) {
-              plate->setFront(value.toBool());
-          }
-          return value.isBool();
-      },
-      [](const Sceneplate& plate) { return QJsonValue(plate.getFront()); } },
-    { "visible", QT_TRANSLATE_NOOP("Manipulator", "Show or hide scene plates"), kSwitchExpected,
-      [](const QJsonValue& value, Sceneplate* plate) {
-          if (plate != nullptr) {
-              plate->setVisible(value.toBool());
-          }
-          return value.isBool();
-      },
-      [](const Sceneplate& plate) { return QJsonValue(plate.getVisible()); } },
+    switchField<&Sceneplate::setFront, &Sceneplate::getFront>(
+        "front", QT_TRANSLATE_NOOP("Manipulator", "Scene plates to the front or back")),
+    switchField<&Sceneplate::setVisible, &Sceneplate::getVisible>(
+        "visible", QT_TRANSLATE_NOOP("Manipulator", "Show or hide scene plates")),
     { "opacity", QT_TRANSLATE_NOOP("Manipulator", "Opacity of scene plates"),
       "expected a number from 0 to 1",
       [](const QJsonValue& value, Sceneplate* plate) {
@@ -63,47 +98,18 @@ const std::vector<PlateField> kFields {
           return isNumber(value, 0.0) && value.toDouble() <= 1.0;
       },
       [](const Sceneplate& plate) { return QJsonValue(static_cast<double>(plate.getOpacity())); } },
-    { "position", QT_TRANSLATE_NOOP("Manipulator", "Move scene plates"), kPairExpected,
-      [](const QJsonValue& value, Sceneplate* plate) {
-          osg::Vec2f pair;
-          const bool isPair = acceptPair(value, -kMost, pair);
-          if (plate != nullptr) {
-              plate->setPosition(pair);
-          }
-          return isPair;
-      },
-      [](const Sceneplate& plate) { return QJsonValue(pairOf(plate.getPosition())); } },
-    { "size", QT_TRANSLATE_NOOP("Manipulator", "Size of scene plates"),
-      "expected an array of two numbers, at least 0.001",
-      [](const QJsonValue& value, Sceneplate* plate) {
-          osg::Vec2f pair;
-          const bool isPair = acceptPair(value, kLeastSize, pair);
-          if (plate != nullptr) {
-              plate->setSize(pair);
-          }
-          return isPair;
-      },
-      [](const Sceneplate& plate) { return QJsonValue(pairOf(plate.getSize())); } },
-    { "scale", QT_TRANSLATE_NOOP("Manipulator", "Scale scene plates"),
-      "expected a number of at least 0.001",
-      [](const QJsonValue& value, Sceneplate* plate) {
-          if (plate != nullptr) {
-              plate->setScale(static_cast<float>(value.toDouble()));
-          }
-          return isNumber(value, kLeastSize);
-      },
-      [](const Sceneplate& plate) { return QJsonValue(static_cast<double>(plate.getScale())); } },
-    { "rotation", QT_TRANSLATE_NOOP("Manipulator", "Turn scene plates"),
-      "expected a number of degrees",
-      [](const QJsonValue& value, Sceneplate* plate) {
-          if (plate != nullptr) {
-              plate->setRotation(static_cast<float>(value.toDouble()));
-          }
-          return isNumber(value, -kMost);
-      },
-      [](const Sceneplate& plate) {
-          return QJsonValue(static_cast<double>(plate.getRotation()));
-      } },
+    pairField<&Sceneplate::setPosition, &Sceneplate::getPosition, kNoLeast>(
+        "position", QT_TRANSLATE_NOOP("Manipulator", "Move scene plates"),
+        "expected an array of two numbers"),
+    pairField<&Sceneplate::setSize, &Sceneplate::getSize, kLeastSize>(
+        "size", QT_TRANSLATE_NOOP("Manipulator", "Size of scene plates"),
+        "expected an array of two numbers, at least 0.001"),
+    numberField<&Sceneplate::setScale, &Sceneplate::getScale, kLeastSize>(
+        "scale", QT_TRANSLATE_NOOP("Manipulator", "Scale scene plates"),
+        "expected a number of at least 0.001"),
+    numberField<&Sceneplate::setRotation, &Sceneplate::getRotation, kNoLeast>(
+        "rotation", QT_TRANSLATE_NOOP("Manipulator", "Turn scene plates"),
+        "expected a number of degrees"),
     { "color", QT_TRANSLATE_NOOP("Manipulator", "Colour of scene plates"),
       "expected a colour such as \"#ff8000\"",
       [](const QJsonValue& value, Sceneplate* plate) {

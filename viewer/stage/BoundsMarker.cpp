@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/stage/BoundsMarker.h"
 
+#include "viewer/stage/Lines.h"
+
 #include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <OpenSG/OSGBoxVolume.h>
-#include <OpenSG/OSGLineChunk.h>
-#include <OpenSG/OSGSimpleMaterial.h>
 
 namespace viewer {
 namespace {
@@ -21,20 +21,6 @@ constexpr float kMargin = 0.02F;
 
 constexpr osg::UInt32 kCorners = 8;
 
-osg::MaterialPtr makeLineMaterial(const osg::Color3f& color, float widthPx)
-{
-    osg::SimpleMaterialPtr material = osg::SimpleMaterial::create();
-    osg::LineChunkPtr line = osg::LineChunk::create();
-    const nbEdit lineEdit(line, osg::FieldBits::AllFields);
-    line->setWidth(widthPx);
-    line->setSmooth(true);
-    const nbEdit edit(material, osg::FieldBits::AllFields);
-    material->setDiffuse(color);
-    material->setLit(false);
-    material->addChunk(line);
-    return material;
-}
-
 /// Corner i of a box: bit 0, 1, 2 of i choose the far side in x, y, z.
 osg::Pnt3f cornerOf(const osg::Pnt3f& low, const osg::Pnt3f& high, osg::UInt32 i)
 {
@@ -43,14 +29,14 @@ osg::Pnt3f cornerOf(const osg::Pnt3f& low, const osg::Pnt3f& high, osg::UInt32 i
 }
 
 void addCornerLines(const osg::Pnt3f& low, const osg::Pnt3f& high,
-                    const osg::GeoPositions3fPtr& positions)
+                    std::vector<osg::Pnt3f>& positions)
 {
     for (osg::UInt32 i = 0; i < kCorners; ++i) {
         const osg::Pnt3f corner = cornerOf(low, high, i);
         for (osg::UInt32 axis = 0; axis < 3; ++axis) {
             const osg::Pnt3f other = cornerOf(low, high, i ^ (1U << axis));
-            positions->push_back(corner);
-            positions->push_back(corner + (other - corner) * kCornerLength);
+            positions.push_back(corner);
+            positions.push_back(corner + (other - corner) * kCornerLength);
         }
     }
 }
@@ -59,21 +45,15 @@ void addCornerLines(const osg::Pnt3f& low, const osg::Pnt3f& high,
 
 BoundsMarker::BoundsMarker(const osg::Color3f& color, float widthPx)
     : node(osg::Node::create())
-    , lines(osg::Geometry::create())
+    , lines(makeLines(GL_LINES, color, widthPx))
 {
-    const osg::GeometryPtr geometry = lines.get();
-    const nbEdit edit(geometry, osg::FieldBits::AllFields);
-    geometry->setTypes(osg::GeoPTypesUI8::create());
-    geometry->getTypes()->push_back(GL_LINES);
-    geometry->setMaterial(makeLineMaterial(color, widthPx));
     const osg::NodePtr shown = node.get();
     const nbEdit nodeEdit(shown, osg::FieldBits::AllFields);
-    shown->setCore(geometry);
+    shown->setCore(lines.get());
     shown->setActive(false);
     const osg::NodePtr root = nbScenegraph::getInternalRoot();
     const nbEdit rootEdit(root, osg::Node::ChildrenFieldMask);
     root->addChild(shown);
-    rebuild();
 }
 
 BoundsMarker::~BoundsMarker()
@@ -105,19 +85,12 @@ bool BoundsMarker::mark(const std::vector<osg::NodePtr>& objects)
 
 void BoundsMarker::rebuild()
 {
-    const osg::GeoPositions3fPtr positions = osg::GeoPositions3f::create();
+    std::vector<osg::Pnt3f> corners;
     for (const auto& [low, high] : boxes) {
         const osg::Vec3f margin = (high - low) * (kMargin * 0.5F);
-        addCornerLines(low - margin, high + margin, positions);
+        addCornerLines(low - margin, high + margin, corners);
     }
-    const osg::GeoPLengthsUI32Ptr lengths = osg::GeoPLengthsUI32::create();
-    lengths->push_back(positions->getSize());
-    const osg::GeometryPtr geometry = lines.get();
-    {
-        const nbEdit edit(geometry, osg::FieldBits::AllFields);
-        geometry->setPositions(positions);
-        geometry->setLengths(lengths);
-    }
+    setCorners(lines.get(), corners);
     const osg::NodePtr shown = node.get();
     const nbEdit edit(shown, osg::Node::TravMaskFieldMask);
     shown->setActive(!boxes.empty());

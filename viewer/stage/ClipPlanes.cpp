@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/stage/ClipPlanes.h"
 
+#include "viewer/stage/Lines.h"
 #include "viewer/stage/Stage.h"
 #include "viewer/texts/Text.h"
 
@@ -16,13 +17,9 @@
 #include <OpenSG/OSGBoxVolume.h>
 #include <OpenSG/OSGCoredNodePtr.h>
 #include <OpenSG/OSGGeometry.h>
-#include <OpenSG/OSGLineChunk.h>
-#include <OpenSG/OSGSimpleMaterial.h>
 
-#include <array>
 #include <cmath>
 #include <memory>
-#include <utility>
 #include <vector>
 
 namespace viewer {
@@ -49,39 +46,14 @@ osg::Vec3f nearestAxis(const osg::Vec3f& direction)
 /// A square around the origin in the plane y = 0.
 osg::NodePtr makeOutline(float edge)
 {
-    const osg::GeoPositions3fPtr positions = osg::GeoPositions3f::create();
-    constexpr std::array<std::pair<float, float>, 4> kCorners {
-        { { -0.5F, -0.5F }, { 0.5F, -0.5F }, { 0.5F, 0.5F }, { -0.5F, 0.5F } }
-    };
-    for (const auto& [x, z] : kCorners) {
-        positions->push_back(osg::Pnt3f(x * edge, 0.0F, z * edge));
-    }
-    const osg::GeoPTypesUI8Ptr types = osg::GeoPTypesUI8::create();
-    types->push_back(GL_LINE_LOOP);
-    const osg::GeoPLengthsUI32Ptr lengths = osg::GeoPLengthsUI32::create();
-    lengths->push_back(positions->getSize());
-    const osg::LineChunkPtr line = osg::LineChunk::create();
-    {
-        const nbEdit edit(line, osg::FieldBits::AllFields);
-        line->setWidth(kOutlineWidthPx);
-        line->setSmooth(true);
-    }
-    const osg::SimpleMaterialPtr material = osg::SimpleMaterial::create();
-    {
-        const nbEdit edit(material, osg::FieldBits::AllFields);
-        material->setDiffuse(kOutlineColor);
-        material->setLit(false);
-        material->addChunk(line);
-    }
-    const osg::GeometryPtr geometry = osg::Geometry::create();
-    {
-        const nbEdit edit(geometry, osg::FieldBits::AllFields);
-        geometry->setPositions(positions);
-        geometry->setTypes(types);
-        geometry->setLengths(lengths);
-        geometry->setMaterial(material);
-    }
-    return osg::makeNodeFor(geometry);
+    const float half = 0.5F * edge;
+    const osg::GeometryPtr outline = makeLines(GL_LINE_LOOP, kOutlineColor, kOutlineWidthPx);
+    setCorners(outline,
+               { { -half, 0.0F, -half },
+                 { half, 0.0F, -half },
+                 { half, 0.0F, half },
+                 { -half, 0.0F, half } });
+    return osg::makeNodeFor(outline);
 }
 
 osg::NodePtr makeFrame(const osg::Pnt3f& centre, const osg::Vec3f& keep, float outlineEdge)

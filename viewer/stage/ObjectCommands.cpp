@@ -4,12 +4,11 @@
 #include "viewer/commands/SceneLimits.h"
 #include "viewer/loading/BuiltModel.h"
 #include "viewer/stage/Stage.h"
+#include "viewer/stage/ValueRecord.h"
 #include "viewer/texts/Text.h"
 
 #include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbScopedUndo.h>
-#include <nbKernelServices/nbUndoRecord.h>
-#include <nbKernelServices/nbUndoService.h>
 #include <nbOpenSGSelection/nbSelection.h>
 #include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodePermission.h>
@@ -22,8 +21,6 @@
 #include <algorithm>
 #include <cmath>
 #include <functional>
-#include <memory>
-#include <utility>
 
 namespace viewer {
 namespace {
@@ -34,46 +31,13 @@ osg::NodePtr parentObject(const osg::NodePtr& object)
     return objectOf(object->getParent());
 }
 
-/// Undo record of a switch of one node.
-class SwitchRecord : public nbUndoRecord
-{
-public:
-    using Get = bool (*)(const osg::NodePtr&);
-    using Set = void (*)(const osg::NodePtr&, bool);
-
-    /// Made before the edit.
-    SwitchRecord(const osg::NodePtr& switchedNode, Get getter, Set setter)
-        : node(switchedNode)
-        , get(getter)
-        , set(setter)
-        , before(getter(switchedNode))
-    { }
-
-    bool close() override
-    {
-        after = get(node.get());
-        return after != before;
-    }
-
-    void undo() override { set(node.get(), before); }
-
-    void redo() override { set(node.get(), after); }
-
-private:
-    osg::NodeRefPtr node;
-    Get get;
-    Set set;
-    bool before;
-    bool after = false;
-};
-
 /// A switch of objects: visible, locked.
 struct ObjectSwitch
 {
     const char* name;
     const char* title;
-    SwitchRecord::Get get;
-    SwitchRecord::Set set;
+    bool (*get)(const osg::NodePtr&);
+    void (*set)(const osg::NodePtr&, bool);
 };
 
 const ObjectSwitch kSwitches[] = {
@@ -177,7 +141,7 @@ bool setSwitch(Stage& stage, const ObjectSwitch& row, const QJsonValue& value, Q
     }
     const nbScopedUndo scope(row.title);
     for (const osg::NodePtr& object : objects) {
-        nbUndoService::the()->record(std::make_unique<SwitchRecord>(object, row.get, row.set));
+        recordValue(object, row.get, row.set);
         row.set(object, value.toBool());
     }
     return true;

@@ -4,13 +4,12 @@
 #include "viewer/loading/BuiltModel.h"
 #include "viewer/stage/ClipPlanes.h"
 #include "viewer/stage/Stage.h"
+#include "viewer/stage/ValueRecord.h"
 #include "viewer/texts/Text.h"
 
 #include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbChildrenRecord.h>
 #include <nbKernelServices/nbScopedUndo.h>
-#include <nbKernelServices/nbUndoRecord.h>
-#include <nbKernelServices/nbUndoService.h>
 #include <nbOpenSGSelection/nbSelection.h>
 #include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodePermission.h>
@@ -22,33 +21,10 @@
 #include <iterator>
 #include <memory>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace viewer {
 namespace {
-
-/// Undo record of the name of a node.
-class NameRecord : public nbUndoRecord
-{
-public:
-    NameRecord(const osg::NodePtr& namedNode, std::string newName)
-        : node(namedNode)
-        , before(nbNodeUtils::getName(namedNode))
-        , after(std::move(newName))
-    { }
-
-    bool close() override { return after != before; }
-
-    void undo() override { nbNodeUtils::setName(node.get(), before); }
-
-    void redo() override { nbNodeUtils::setName(node.get(), after); }
-
-private:
-    osg::NodeRefPtr node;
-    std::string before;
-    std::string after;
-};
 
 /// The selected objects without those below others of them.
 std::vector<osg::NodePtr> topmost(const Stage& stage)
@@ -151,9 +127,10 @@ bool rename(Stage& stage, const QJsonValue& value, QString& error)
         return false;
     }
     const nbScopedUndo scope(Text::tr("Rename"));
-    auto record = std::make_unique<NameRecord>(object, name.toStdString());
-    record->redo();
-    nbUndoService::the()->record(std::move(record));
+    recordValue(
+        object, [](const osg::NodePtr& node) { return nbNodeUtils::getName(node); },
+        [](const osg::NodePtr& node, const std::string& to) { nbNodeUtils::setName(node, to); });
+    nbNodeUtils::setName(object, name.toStdString());
     return true;
 }
 

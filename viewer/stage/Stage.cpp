@@ -66,15 +66,13 @@ Stage::Stage(nbOSGWidget& view)
     manager.addContext(&selectionContext);
     manager.addContext(&cameraContext);
     selectionCallback = nbSelection::addChangedCallback([this] { selectionChanged(); });
-    commandTable.add(QStringLiteral("view.setHeld"),
-                     [this](const QJsonValue& value, QString& error) {
-                         if (!value.isBool() && !value.isNull()) {
-                             error = QStringLiteral("expected true or false");
-                             return false;
-                         }
-                         holdView(value.toBool(!viewHeld));
-                         return true;
-                     });
+    commandTable.addSwitch(
+        QStringLiteral("view.setHeld"),
+        [this](bool on, QString&) {
+            holdView(on);
+            return true;
+        },
+        [this] { return viewHeld; });
     commandTable.addValue(QStringLiteral("view.held"), [this] { return viewHeld; });
     addClipPlaneCommands(*this);
     addObjectCommands(*this);

@@ -58,6 +58,14 @@ public:
     /// @param tool  one that was added; null: the gizmo shown before the first tool comes back
     void setActiveTool(StageTool* tool);
 
+    /// Makes a tool the active one, or ends it if it is.
+    void useTool(StageTool& tool, bool on)
+    {
+        if (on != (toolInUse == &tool)) {
+            setActiveTool(on ? &tool : nullptr);
+        }
+    }
+
     StageTool* activeTool() const { return toolInUse; }
 
     /// The tool of that name; null for none.

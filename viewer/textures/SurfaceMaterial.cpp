@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/textures/SurfaceMaterial.h"
 
+#include "viewer/stage/ValueRecord.h"
+
 #include <nbKernelServices/nbScopedUndo.h>
-#include <nbKernelServices/nbUndoRecord.h>
-#include <nbKernelServices/nbUndoService.h>
 #include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGNodePtr.h>
 
-#include <memory>
 #include <utility>
 
 namespace viewer {
@@ -35,46 +34,21 @@ void setCoreOf(const osg::NodePtr& node, const osg::NodeCorePtr& core)
     node->setCore(core);
 }
 
-/// What a node showed, and what it shows instead.
-class SurfaceRecord : public nbUndoRecord
+/// What a node shows.
+using Shown = std::pair<osg::RefPtr<osg::GeometryPtr>, osg::RefPtr<osg::MaterialPtr>>;
+
+Shown shownBy(const osg::NodePtr& surface)
 {
-public:
-    /// To be made before the edit.
-    explicit SurfaceRecord(const osg::NodePtr& surface)
-        : node(surface)
-        , before(stateOf(surface))
-    { }
+    const osg::GeometryPtr geometry = geometryOf(surface);
+    return { osg::RefPtr<osg::GeometryPtr>(geometry),
+             osg::RefPtr<osg::MaterialPtr>(geometry->getMaterial()) };
+}
 
-    bool close() override
-    {
-        after = stateOf(node.get());
-        return after != before;
-    }
-
-    void undo() override { restore(before); }
-
-    void redo() override { restore(after); }
-
-private:
-    using State = std::pair<osg::RefPtr<osg::GeometryPtr>, osg::RefPtr<osg::MaterialPtr>>;
-
-    static State stateOf(const osg::NodePtr& surface)
-    {
-        const osg::GeometryPtr geometry = geometryOf(surface);
-        return { osg::RefPtr<osg::GeometryPtr>(geometry),
-                 osg::RefPtr<osg::MaterialPtr>(geometry->getMaterial()) };
-    }
-
-    void restore(const State& state)
-    {
-        setMaterialOf(state.first.get(), state.second.get());
-        setCoreOf(node.get(), state.first.get());
-    }
-
-    osg::NodeRefPtr node;
-    State before;
-    State after;
-};
+void show(const osg::NodePtr& surface, const Shown& shown)
+{
+    setMaterialOf(shown.first.get(), shown.second.get());
+    setCoreOf(surface, shown.first.get());
+}
 
 /// A geometry core of its own for a node, with the arrays of the one that it shares with others.
 osg::GeometryPtr detachedGeometry(const osg::GeometryPtr& source)
@@ -165,7 +139,7 @@ osg::UberMaterialPtr makeUberMaterial(const osg::NodePtr& surface)
         return present;
     }
     const nbScopedUndo undo(QT_TRANSLATE_NOOP("Manipulator", "Material for pictures"));
-    nbUndoService::the()->record(std::make_unique<SurfaceRecord>(surface));
+    recordValue(surface, &shownBy, &show);
     osg::GeometryPtr geometry = geometryOf(surface);
     const osg::UberMaterialPtr material = makeLikeness(geometry->getMaterial());
     if (geometry->getParents().size() > 1) {

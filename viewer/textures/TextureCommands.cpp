@@ -7,7 +7,6 @@
 #include "viewer/stage/Stage.h"
 #include "viewer/texts/Text.h"
 #include "viewer/textures/TextureTool.h"
-#include "viewer/textures/TextureValueCommands.h"
 
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
@@ -16,257 +15,398 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace viewer {
 namespace {
 
 using Settings = TextureTarget::Settings;
 
-const char* const kPrefix = "texture.";
+constexpr double kDegPerRad = 57.295779513082323;
+constexpr int kMostNumbers = 3;
 
 QString named(const char* name)
 {
-    return QLatin1String(kPrefix) + QLatin1String(name);
+    return QStringLiteral("texture.") + QLatin1String(name);
 }
 
-/// The vectors of the projection, each by its command.
+/// The vectors of the planar projection, each by its command.
 struct VectorRow
 {
     const char* name;
     bool (TextureTarget::*write)(const osg::Vec3f&);
     osg::Vec3f (*read)(const osg::Transform3DPtr&);
-    bool mustBePositive;
+    bool mustBePositive = false;
 };
 
 constexpr std::array<VectorRow, 3> kVectors { {
     { "translation", &TextureTarget::setTranslation,
       [](const osg::Transform3DPtr& projection) -> osg::Vec3f {
           return projection->getTranslation();
-      },
-      false },
+      } },
     { "rotation", &TextureTarget::setRotation,
-      [](const osg::Transform3DPtr& projection) -> osg::Vec3f { return projection->getRotation(); },
-      false },
+      [](const osg::Transform3DPtr& projection) -> osg::Vec3f {
+          return projection->getRotation();
+      } },
     { "scale", &TextureTarget::setScale,
       [](const osg::Transform3DPtr& projection) -> osg::Vec3f { return projection->getScale(); },
       true },
 } };
 
-struct FlagRow
-{
-    const char* name;
-    TextureTarget::Flag flag;
-};
-
-constexpr std::array<FlagRow, 4> kFlags { {
+constexpr std::pair<const char*, TextureTarget::Flag> kFlags[] = {
     { "keepAspect", Settings::KeepAspectRatio },
     { "repeatU", Settings::RepeatU },
     { "repeatV", Settings::RepeatV },
     { "endInDepth", Settings::ClampZ },
+};
+
+constexpr std::array<std::pair<const char*, Settings::TextureProjection>, 4> kTypes { {
+    { "uv", Settings::UVProjection },
+    { "planar", Settings::PlanarProjection },
+    { "triplanar", Settings::TriplanarProjection },
+    { "tire", Settings::TireProjection },
 } };
 
-QJsonValue jsonOf(const osg::Vec3f& vector)
+/// Numbers among the values of a projection.
+struct NumbersRow
 {
-    return QJsonArray { static_cast<double>(vector[0]), static_cast<double>(vector[1]),
-                        static_cast<double>(vector[2]) };
-}
+    const char* name;
+    int count;
+    /// The first of them.
+    float* (*find)(nbTextureValues&);
+    double shown = 1.0;  ///< what a 1 among the values is shown as
+    bool mustNotBeZero = false;
+    bool endsFitting = false;  ///< of the tire projection
+};
 
-/// Answers of edits that need a projection.
-bool orNoPicture(bool isDone, QString& error)
+constexpr std::array<NumbersRow, 12> kNumbers { {
+    { "uvOffset", 2, [](nbTextureValues& v) { return v.offset.getValues(); } },
+    { "uvRepeat", 2, [](nbTextureValues& v) { return v.repeat.getValues(); }, 1.0, true },
+    { "uvRotate", 1, [](nbTextureValues& v) { return &v.rotate; } },
+    { "triplanarRotation", 3, [](nbTextureValues& v) { return v.triplanarRotation.getValues(); },
+      kDegPerRad },
+    { "triplanarOffsetU", 3, [](nbTextureValues& v) { return v.triplanarOffsetU.getValues(); } },
+    { "triplanarOffsetV", 3, [](nbTextureValues& v) { return v.triplanarOffsetV.getValues(); } },
+    { "triplanarRepeatU", 3, [](nbTextureValues& v) { return v.triplanarRepeatU.getValues(); }, 1.0,
+      true },
+    { "triplanarRepeatV", 3, [](nbTextureValues& v) { return v.triplanarRepeatV.getValues(); }, 1.0,
+      true },
+    { "tireCenter", 3, [](nbTextureValues& v) { return v.tireCenter.getValues(); }, 1.0, false,
+      true },
+    { "tireHeight", 1, [](nbTextureValues& v) { return &v.tireScaleHeight; }, 1.0, true, true },
+    { "tireRadius", 1, [](nbTextureValues& v) { return &v.tireScaleRadius; }, 1.0, true, true },
+    { "tireScaleU", 1, [](nbTextureValues& v) { return &v.tireScaleU; }, 1.0, true },
+} };
+
+/// Gives the reason where something was not done.
+bool orSay(bool isDone, const QString& reason, QString& error)
 {
-    if (!isDone) {
-        error = Text::tr("there is no picture on the selected object");
-    }
+    error = isDone ? error : reason;
     return isDone;
 }
 
-/// Adds a command that takes true or false. @param write  bool (bool on, QString& error)
-template <class Write>
-void addSwitch(Commands& commands, const char* name, Write write)
+/// The same for edits that need a projection.
+bool orNoPicture(bool isDone, QString& error)
 {
-    commands.add(named(name), [name, write](const QJsonValue& value, QString& error) {
-        bool on = false;
-        return JsonReader(error).readBool(value, named(name), on) && write(on, error);
+    return orSay(isDone, Text::tr("there is no picture on the selected object"), error);
+}
+
+QJsonValue jsonOf(const float* numbers, int count, double shown = 1.0)
+{
+    QJsonArray array;
+    for (int i = 0; i < count; ++i) {
+        array.append(static_cast<double>(numbers[i]) * shown);
+    }
+    return count == 1 ? array.first() : QJsonValue(array);
+}
+
+/// What commands work on; both outlive them.
+struct Owner
+{
+    Stage& stage;
+    TextureTool& tool;
+
+    Commands& commands() const { return stage.commands(); }
+};
+
+/// Adds a value that is null without a picture. @param read  QJsonValue (const Settings&)
+template <class Read>
+void addSettingValue(const Owner& owner, const char* name, Read read)
+{
+    owner.commands().addValue(named(name), [owner, read]() -> QJsonValue {
+        const osg::ColorComponentSettingsPtr settings = owner.tool.target().settings();
+        return settings == osg::NullFC ? QJsonValue() : QJsonValue(read(*settings));
     });
 }
 
-}  // namespace
-
-TextureCommands::TextureCommands(Stage& targetStage, TextureTool& textureTool)
-    : stage(targetStage)
-    , tool(textureTool)
+/// Adds true or false of the picture's settings.
+/// @param write  bool (TextureTarget&, bool on)  @param read  bool (const Settings&)
+template <class Write, class Read>
+void addSetting(const Owner& owner, const char* name, Write write, Read read)
 {
-    addPictureCommands();
-    addHandleCommands();
-    addProjectionCommands();
-    addSwitches();
-    addSceneCommands();
-    addTextureValueCommands(stage, tool);
+    owner.commands().addSwitch(named(name), [owner, write](bool on, QString& error) {
+        TextureTarget& target = owner.tool.target();
+        return orNoPicture(target.settings() != osg::NullFC && write(target, on), error);
+    });
+    addSettingValue(owner, name, read);
 }
 
-TextureCommands::~TextureCommands()
+/// Adds true or false of the tool itself.
+template <class Write, class Read>
+void addOwn(const Owner& owner, const char* name, Write write, Read read)
 {
-    stage.commands().remove(QLatin1String(kPrefix));
-}
-
-void TextureCommands::addPictureCommands()
-{
-    Commands& commands = stage.commands();
-    commands.add(named("component"), [this](const QJsonValue& value, QString& error) {
-        if (!tool.setComponent(value.toString().toStdString())) {
-            error = QStringLiteral("there is no component %1").arg(textOf(value));
-            return false;
-        }
+    owner.commands().addSwitch(named(name), [write](bool on, QString&) {
+        write(on);
         return true;
     });
-    commands.addValue(named("component"),
-                      [this] { return QString::fromStdString(tool.target().component()); });
-    commands.add(named("picture"), [this](const QJsonValue& value, QString& error) {
-        QString file;
-        if (value.isNull()) {
-            return orNoPicture(tool.target().removeImage(), error);
-        }
-        return JsonReader(error).readString(value, named("picture"), file) &&
-            tool.setPicture(stage.commands().filePath(file), error);
-    });
-    commands.addValue(named("picture"), [this] { return pictureName(tool.target().image()); });
-    commands.addValue(named("surface"), [this] {
-        return QString::fromStdString(nbNodeUtils::getName(tool.target().surface()));
-    });
-    commands.add(named("drop"),
-                 [this](const QJsonValue& value, QString& error) { return drop(value, error); });
+    owner.commands().addValue(named(name), [read]() -> QJsonValue { return read(); });
 }
 
-bool TextureCommands::drop(const QJsonValue& value, QString& error)
+// == Pictures
+
+bool drop(const Owner& owner, const QJsonValue& value, QString& error)
 {
     const QJsonObject object = value.toObject();
     SessionTarget target;
     QString file;
     osg::Pnt2f px;
     JsonReader reader(error);
-    if (!reader.checkKeys(object, named("drop"), { "file", "at" }) ||
-        !reader.readString(object.value("file"), named("drop") + ".file", file) ||
-        !readSessionTarget(object.value("at"), named("drop") + ".at", target, error) ||
-        !resolveTarget(target, stage, px, error)) {
-        return false;
-    }
-    return tool.dropPicture(stage.commands().filePath(file), px, error);
+    return reader.checkKeys(object, named("drop"), { "file", "at" }) &&
+        reader.readString(object.value("file"), named("drop") + ".file", file) &&
+        readSessionTarget(object.value("at"), named("drop") + ".at", target, error) &&
+        resolveTarget(target, owner.stage, px, error) &&
+        owner.tool.dropPicture(owner.commands().filePath(file), px, error);
 }
 
-void TextureCommands::addHandleCommands()
+void addPictures(const Owner& owner)
 {
-    Commands& commands = stage.commands();
-    commands.add(named("handles"), [this](const QJsonValue& value, QString& error) {
-        if (!tool.showGroup(value.toString().toStdString())) {
-            error = QStringLiteral("there are no handles %1").arg(textOf(value));
-            return false;
-        }
-        return true;
+    Commands& commands = owner.commands();
+    TextureTool& tool = owner.tool;
+    commands.add(named("component"), [&tool](const QJsonValue& value, QString& error) {
+        return orSay(tool.setComponent(value.toString().toStdString()),
+                     QStringLiteral("there is no component %1").arg(textOf(value)), error);
     });
-    commands.addValue(named("handles"), [this]() -> QJsonValue {
+    commands.addValue(named("component"),
+                      [&tool] { return QString::fromStdString(tool.target().component()); });
+    commands.add(named("picture"), [owner](const QJsonValue& value, QString& error) {
+        QString file;
+        if (value.isNull()) {
+            return orNoPicture(owner.tool.target().removeImage(), error);
+        }
+        return JsonReader(error).readString(value, named("picture"), file) &&
+            owner.tool.setPicture(owner.commands().filePath(file), error);
+    });
+    commands.addValue(named("picture"), [&tool] { return pictureName(tool.target().image()); });
+    commands.addValue(named("surface"), [&tool] {
+        return QString::fromStdString(nbNodeUtils::getName(tool.target().surface()));
+    });
+    commands.add(named("drop"), [owner](const QJsonValue& value, QString& error) {
+        return drop(owner, value, error);
+    });
+}
+
+// == Handles
+
+void addHandles(const Owner& owner)
+{
+    Commands& commands = owner.commands();
+    TextureTool& tool = owner.tool;
+    commands.add(named("handles"), [&tool](const QJsonValue& value, QString& error) {
+        return orSay(tool.showGroup(value.toString().toStdString()),
+                     QStringLiteral("there are no handles %1").arg(textOf(value)), error);
+    });
+    commands.addValue(named("handles"), [&tool]() -> QJsonValue {
         const bool areShown = tool.isActive() && !tool.isPlacing();
         return QString::fromStdString(areShown ? tool.group() : std::string());
     });
-    commands.add(named("edit"), [this](const QJsonValue& value, QString& error) {
-        bool on = !tool.isActive();
-        if (!value.isNull() && !JsonReader(error).readBool(value, named("edit"), on)) {
-            return false;
-        }
-        if (on != tool.isActive()) {
-            stage.setActiveTool(on ? &tool : nullptr);
-        }
-        return true;
-    });
-    commands.addValue(named("edit"), [this] { return tool.isActive(); });
-    addSwitch(commands, "place", [this](bool on, QString& error) {
+    const auto isActive = [&tool] { return tool.isActive(); };
+    commands.addSwitch(
+        named("edit"),
+        [owner](bool on, QString&) {
+            owner.stage.useTool(owner.tool, on);
+            return true;
+        },
+        isActive);
+    commands.addValue(named("edit"), isActive);
+    commands.addSwitch(named("place"), [&tool](bool on, QString& error) {
         const bool isPossible = !on || tool.target().settings() != osg::NullFC;
         if (isPossible) {
             tool.setPlacing(on);
         }
         return orNoPicture(isPossible, error);
     });
-    commands.addValue(named("place"), [this] { return tool.isPlacing(); });
-    commands.addValue(named("preview"), [this] { return !tool.preview().isPaused(); });
-}
-
-void TextureCommands::addProjectionCommands()
-{
-    for (const VectorRow& row : kVectors) {
-        stage.commands().add(named(row.name), [this, row](const QJsonValue& value, QString& error) {
-            std::array<double, 3> numbers {};
-            if (!JsonReader(error).readNumbers(value, named(row.name), numbers.data(), 3)) {
-                return false;
-            }
-            if (row.mustBePositive && *std::min_element(numbers.begin(), numbers.end()) <= 0.0) {
-                return JsonReader(error).fail(named(row.name), "must be above 0");
-            }
-            const osg::Vec3f vector(static_cast<float>(numbers[0]), static_cast<float>(numbers[1]),
-                                    static_cast<float>(numbers[2]));
-            return orNoPicture((tool.target().*row.write)(vector), error);
-        });
-        stage.commands().addValue(named(row.name), [this, row]() -> QJsonValue {
-            const osg::Transform3DPtr projection = tool.target().projection();
-            return projection == osg::NullFC ? QJsonValue() : jsonOf(row.read(projection));
-        });
-    }
-}
-
-void TextureCommands::addSwitches()
-{
-    Commands& commands = stage.commands();
-    const auto read = [this](auto get) {
-        return [this, get]() -> QJsonValue {
-            const osg::ColorComponentSettingsPtr settings = tool.target().settings();
-            return settings == osg::NullFC ? QJsonValue() : QJsonValue(get(settings));
-        };
-    };
-    for (const FlagRow& row : kFlags) {
-        addSwitch(commands, row.name, [this, row](bool on, QString& error) {
-            return orNoPicture(tool.target().setFlag(row.flag, on), error);
-        });
-        commands.addValue(named(row.name), read([row](const osg::ColorComponentSettingsPtr& s) {
-                              return s->hasPlanarProjectionFlag(row.flag);
-                          }));
-    }
-    addSwitch(commands, "mask", [this](bool on, QString& error) {
-        const osg::ColorComponentSettingsPtr settings = tool.target().settings();
-        return orNoPicture(
-            settings != osg::NullFC && tool.target().setCoverage(on, settings->getInvert()), error);
-    });
-    commands.addValue(named("mask"),
-                      read([](const osg::ColorComponentSettingsPtr& s) { return s->getAsMask(); }));
-    addSwitch(commands, "invert", [this](bool on, QString& error) {
-        const osg::ColorComponentSettingsPtr settings = tool.target().settings();
-        return orNoPicture(
-            settings != osg::NullFC && tool.target().setCoverage(settings->getAsMask(), on), error);
-    });
-    commands.addValue(named("invert"),
-                      read([](const osg::ColorComponentSettingsPtr& s) { return s->getInvert(); }));
-}
-
-void TextureCommands::addSceneCommands()
-{
-    Commands& commands = stage.commands();
-    addSwitch(commands, "showProjection", [this](bool on, QString&) {
-        tool.showProjection(on);
-        return true;
-    });
-    commands.addValue(named("showProjection"), [this] { return tool.isProjectionShown(); });
-    addSwitch(commands, "showDepth", [this](bool on, QString&) {
-        tool.showDepth(on);
-        return true;
-    });
-    commands.addValue(named("showDepth"), [this] { return tool.isDepthShown(); });
-    commands.add(named("planeTransparency"), [this](const QJsonValue& value, QString& error) {
-        const double wanted = value.toDouble(-1.0);
-        if (wanted < 0.0 || wanted > 1.0) {
-            return JsonReader(error).fail(named("planeTransparency"), "must be from 0 to 1");
+    commands.addValue(named("place"), [&tool] { return tool.isPlacing(); });
+    commands.addValue(named("preview"), [&tool] { return !tool.preview().isPaused(); });
+    commands.add(named("handleSize"), [&tool](const QJsonValue& value, QString& error) {
+        const TextureGizmos::Size size = tool.handleSize();
+        const auto wanted = static_cast<float>(value.toDouble(-1.0));
+        if (wanted < size.least || wanted > size.most) {
+            return JsonReader(error).fail(named("handleSize"),
+                                          QStringLiteral("must be from %1 to %2")
+                                              .arg(static_cast<double>(size.least))
+                                              .arg(static_cast<double>(size.most)));
         }
-        tool.setPlaneTransparency(static_cast<float>(wanted));
+        tool.setHandleSize(wanted);
         return true;
     });
-    commands.addValue(named("planeTransparency"),
-                      [this] { return static_cast<double>(tool.planeTransparency()); });
+    commands.addValue(named("handleSize"),
+                      [&tool] { return static_cast<double>(tool.handleSize().present); });
+    auto& uv = tool.allGizmos().uvGizmo();
+    addOwn(
+        owner, "uvKeepAspect", [&uv](bool on) { uv.setKeepAspectRatio(on); },
+        [&uv] { return uv.getKeepAspectRatio(); });
+    auto& triplanar = tool.allGizmos().triplanarGizmo();
+    addOwn(
+        owner, "ringsTilted", [&triplanar](bool on) { triplanar.setRingsTilted(on); },
+        [&triplanar] { return triplanar.areRingsTilted(); });
+}
+
+void addHandlePlace(const Owner& owner)
+{
+    owner.commands().add(named("anchor"), [owner](const QJsonValue& value, QString& error) {
+        SessionTarget target;
+        osg::Pnt2f px;
+        return readSessionTarget(value, named("anchor"), target, error) &&
+            resolveTarget(target, owner.stage, px, error) &&
+            orSay(owner.tool.setAnchor(px), Text::tr("the surface with the picture is not there"),
+                  error);
+    });
+    owner.commands().addValue(named("anchor"), [owner]() -> QJsonValue {
+        const std::optional<osg::Pnt3f> anchor = owner.tool.anchor();
+        return anchor ? jsonOf(anchor->getValues(), 3) : QJsonValue();
+    });
+}
+
+// == Projections
+
+bool setVector(const VectorRow& row, TextureTarget& target, const QJsonValue& value, QString& error)
+{
+    std::array<double, 3> numbers {};
+    if (!JsonReader(error).readNumbers(value, named(row.name), numbers.data(), 3)) {
+        return false;
+    }
+    if (row.mustBePositive && *std::min_element(numbers.begin(), numbers.end()) <= 0.0) {
+        return JsonReader(error).fail(named(row.name), "must be above 0");
+    }
+    const osg::Vec3f vector(static_cast<float>(numbers[0]), static_cast<float>(numbers[1]),
+                            static_cast<float>(numbers[2]));
+    return orNoPicture((target.*row.write)(vector), error);
+}
+
+bool setNumbers(const NumbersRow& row, TextureTarget& target, const QJsonValue& value,
+                QString& error)
+{
+    std::array<double, kMostNumbers> numbers {};
+    const QJsonValue array = row.count == 1 ? QJsonValue(QJsonArray { value }) : value;
+    if (!JsonReader(error).readNumbers(array, named(row.name), numbers.data(), row.count)) {
+        return false;
+    }
+    nbTextureValues values = target.values();
+    float* const written = row.find(values);
+    for (int i = 0; i < row.count; ++i) {
+        written[i] = static_cast<float>(numbers[static_cast<std::size_t>(i)] / row.shown);
+        if (row.mustNotBeZero && !std::isnormal(written[i])) {
+            return JsonReader(error).fail(named(row.name), "must not be 0");
+        }
+    }
+    values.tireAutoParameter = values.tireAutoParameter && !row.endsFitting;
+    return orNoPicture(target.setValues(values), error);
+}
+
+void addNumbers(const Owner& owner)
+{
+    TextureTarget& target = owner.tool.target();
+    for (const VectorRow& row : kVectors) {
+        owner.commands().add(named(row.name), [&](const QJsonValue& value, QString& error) {
+            return setVector(row, target, value, error);
+        });
+        owner.commands().addValue(named(row.name), [&]() -> QJsonValue {
+            const osg::Transform3DPtr projection = target.projection();
+            return projection == osg::NullFC ? QJsonValue()
+                                             : jsonOf(row.read(projection).getValues(), 3);
+        });
+    }
+    for (const NumbersRow& row : kNumbers) {
+        owner.commands().add(named(row.name), [&](const QJsonValue& value, QString& error) {
+            return setNumbers(row, target, value, error);
+        });
+        addSettingValue(owner, row.name, [&row](const Settings& settings) {
+            nbTextureValues values = nbTextureValues::of(settings);
+            return jsonOf(row.find(values), row.count, row.shown);
+        });
+    }
+}
+
+void addProjection(const Owner& owner)
+{
+    TextureTool& tool = owner.tool;
+    owner.commands().add(named("projection"), [&tool](const QJsonValue& value, QString& error) {
+        for (const auto& [word, type] : kTypes) {
+            if (value.toString() == QLatin1String(word)) {
+                return orNoPicture(tool.setProjectionType(type), error);
+            }
+        }
+        error = QStringLiteral("there is no projection %1").arg(textOf(value));
+        return false;
+    });
+    addSettingValue(owner, "projection", [&tool](const Settings&) {
+        return QLatin1String(std::find_if(kTypes.begin(), kTypes.end(), [&tool](const auto& row) {
+                                 return row.second == tool.target().projectionType();
+                             })->first);
+    });
+    addSetting(
+        owner, "tireFit",
+        [](TextureTarget& target, bool on) {
+            nbTextureValues values = target.values();
+            values.tireAutoParameter = on;
+            return target.setValues(values);
+        },
+        [](const Settings& s) { return nbTextureValues::of(s).tireAutoParameter; });
+    for (const auto& [name, flag] : kFlags) {
+        addSetting(
+            owner, name,
+            [flag = flag](TextureTarget& target, bool on) { return target.setFlag(flag, on); },
+            [flag = flag](const Settings& s) { return s.hasPlanarProjectionFlag(flag); });
+    }
+    addSetting(
+        owner, "mask",
+        [](TextureTarget& t, bool on) { return t.setCoverage(on, t.settings()->getInvert()); },
+        [](const Settings& s) { return s.getAsMask(); });
+    addSetting(
+        owner, "invert",
+        [](TextureTarget& t, bool on) { return t.setCoverage(t.settings()->getAsMask(), on); },
+        [](const Settings& s) { return s.getInvert(); });
+}
+
+void addDisplay(const Owner& owner)
+{
+    TextureTool& tool = owner.tool;
+    addOwn(
+        owner, "showProjection", [&tool](bool on) { tool.showProjection(on); },
+        [&tool] { return tool.isProjectionShown(); });
+    addOwn(
+        owner, "showDepth", [&tool](bool on) { tool.showDepth(on); },
+        [&tool] { return tool.isDepthShown(); });
+    owner.commands().addNumber(named("planeTransparency"), 0.0, 1.0,
+                               [&tool](double wanted, QString&) {
+                                   tool.setPlaneTransparency(static_cast<float>(wanted));
+                                   return true;
+                               });
+    owner.commands().addValue(named("planeTransparency"),
+                              [&tool] { return static_cast<double>(tool.planeTransparency()); });
+}
+
+}  // namespace
+
+void addTextureCommands(Stage& stage, TextureTool& tool)
+{
+    const Owner owner { stage, tool };
+    addPictures(owner);
+    addHandles(owner);
+    addHandlePlace(owner);
+    addNumbers(owner);
+    addProjection(owner);
+    addDisplay(owner);
 }
 
 }  // namespace viewer

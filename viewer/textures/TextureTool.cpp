@@ -6,6 +6,7 @@
 #include "viewer/stage/HandleCursor.h"
 #include "viewer/stage/Stage.h"
 #include "viewer/texts/Text.h"
+#include "viewer/textures/TextureCommands.h"
 #include "viewer/textures/TextureValueText.h"
 
 #include <nbKernel/nbController.h>
@@ -76,10 +77,12 @@ TextureTool::TextureTool(Stage& targetStage)
     placingTool.setMessageReceiver(kReceiver);
     placingContext.setPicker(&scenePicker);
     stage.addTool(*this);
+    addTextureCommands(stage, *this);
 }
 
 TextureTool::~TextureTool()
 {
+    stage.commands().remove(QStringLiteral("texture."));
     stage.removeTool(*this);
     handleContext.setManipulator(nullptr);
     handleContext.setPicker(nullptr);

@@ -33,7 +33,7 @@ class Stage;
 class TextureTool : public StageTool, public nbStateChunkBase
 {
 public:
-    /// @param targetStage  where this is added as a tool; outlives this
+    /// Adds itself and its commands to the stage. @param targetStage  outlives this
     explicit TextureTool(Stage& targetStage);
     ~TextureTool() override;
 

@@ -7,7 +7,6 @@
 #include "viewer/plates/PlatesTool.h"
 #include "viewer/scenes/PreparedScene.h"
 #include "viewer/scenes/SceneCapture.h"
-#include "viewer/textures/TextureCommands.h"
 #include "viewer/textures/TextureTool.h"
 
 #include <QFile>
@@ -21,7 +20,6 @@ class SceneTest : public StageTest
 protected:
     SceneTest()
         : textures(stage)
-        , textureCommands(stage, textures)
         , match(stage)
         , plates(stage)
     { }
@@ -63,7 +61,6 @@ protected:
 
     QTemporaryDir folder;
     TextureTool textures;
-    TextureCommands textureCommands;
     PerspectiveMatchTool match;
     PlatesTool plates;
 };

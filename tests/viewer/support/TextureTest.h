@@ -2,7 +2,6 @@
 #pragma once
 
 #include "tests/viewer/support/StageTest.h"
-#include "viewer/textures/TextureCommands.h"
 #include "viewer/textures/TextureTool.h"
 
 #include <nbKernel/nbScenegraph.h>
@@ -20,7 +19,6 @@ class TextureTest : public StageTest
 protected:
     TextureTest()
         : tool(stage)
-        , commands(stage, tool)
     {
         stage.showStartScene();  // what is selected in it is told to the tool
         stage.update();
@@ -39,7 +37,6 @@ protected:
     }
 
     TextureTool tool;
-    TextureCommands commands;
 };
 
 }  // namespace viewer
