@@ -242,6 +242,25 @@ std::optional<Aim> fitWithoutFov(const std::vector<Edge>& edges,
     return std::isfinite(nbmatch::squaredError(edges, aim)) ? std::optional(aim) : std::nullopt;
 }
 
+// == Quality
+
+/// The farther of two vanishing points is that of the more nearly parallel lines.
+bool isFarther(const VanishingPoint& a, const VanishingPoint& b)
+{
+    return std::abs(a.point.z()) < std::abs(b.point.z());
+}
+
+PerspectiveDoubt doubtOf(const std::vector<VanishingPoint>& points, bool isFovFound, double fovDeg)
+{
+    if (isFovFound) {
+        return fovDeg > nbPerspectiveSolver::kDoubtfulFovDeg ? PerspectiveDoubt::AlmostParallelLines
+                                                             : PerspectiveDoubt::None;
+    }
+    const auto meeting = std::count_if(points.begin(), points.end(),
+                                       [](const auto& point) { return point.isFinite(); });
+    return meeting < 2 ? PerspectiveDoubt::ParallelLines : PerspectiveDoubt::NoFieldOfViewFits;
+}
+
 // == Poses
 
 osg::Vec3d toDouble(const osg::Pnt3f& point)
@@ -378,6 +397,42 @@ PerspectiveSolution nbPerspectiveSolver::solve(const PerspectiveProblem& problem
         solution.result = nbCameraTypes::ContradictingLines;
     }
     return solution;
+}
+
+PerspectiveQuality nbPerspectiveSolver::judge(const PerspectiveProblem& problem,
+                                              const PerspectiveSolution& solution,
+                                              double endDeviation)
+{
+    PerspectiveQuality quality;
+    std::vector<Edge> edges;
+    if (!nbCameraTypes::isSolved(solution.result) ||
+        readEdges(problem, edges) != nbCameraTypes::Solved) {
+        return quality;
+    }
+    const Aim aim = toAim(solution.aim);
+    const bool isFovFound = solution.result == nbCameraTypes::Solved;
+    for (std::size_t i = 0; i < edges.size(); ++i) {
+        quality.residuals[static_cast<std::size_t>(2 * edges[i].axis) + i % 2] =
+            std::abs(nbmatch::missOf(edges[i], aim));
+    }
+    const int spare = static_cast<int>(edges.size()) - (isFovFound ? 4 : 3);
+    const double seen =
+        spare > 0 ? std::sqrt(2.0 * nbmatch::squaredError(edges, aim) / spare) : 0.0;
+    const nbmatch::Deviation deviation =
+        nbmatch::deviationOf(edges, aim, isFovFound, std::max(endDeviation, seen));
+    const double fov = 2.0 * std::atan(0.5 * problem.height / aim.focalLength);
+    quality.rotationDeg = deviation.angle * 180.0 / kPi;
+    quality.fovDeg = std::sin(fov) * deviation.focalLength * 180.0 / kPi;
+    if (isFovFound || problem.fovMode == nbCameraTypes::SolvedFov) {
+        const std::vector<VanishingPoint> points = findVanishingPoints(edges);
+        quality.doubt = doubtOf(points, isFovFound, quality.fovDeg);
+        quality.doubtfulAxis = quality.doubt == PerspectiveDoubt::None
+            ? -1
+            : std::max_element(points.begin(), points.end(), [](const auto& a, const auto& b) {
+                  return isFarther(b, a);
+              })->axis;
+    }
+    return quality;
 }
 
 PerspectiveAim nbPerspectiveSolver::aimOf(const CameraPose& pose, double height)

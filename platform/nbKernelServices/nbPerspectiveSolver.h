@@ -50,6 +50,30 @@ struct PerspectiveSolution
     PerspectiveAim aim;
 };
 
+/// Why lines hardly tell, or do not tell, the field of view.
+enum class PerspectiveDoubt
+{
+    None,
+    ParallelLines,  ///< fewer than two vanishing points: a level camera, or one along an axis
+    AlmostParallelLines,  ///< solved, but with a deviation above kDoubtfulFovDeg
+    NoFieldOfViewFits,  ///< two vanishing points that no right angle shows
+};
+
+/// How well lines determine the camera that was solved from them.
+struct PerspectiveQuality
+{
+    /// How far the ends of each line must move across it, root mean square of both, to be that of
+    /// the camera; reference sizes, 0 for lines that are not used.
+    std::array<double, nbdPerspectiveMatch::kLineCount> residuals {};
+    /// Standard deviations to first order, degrees; infinite if the lines do not determine it. The
+    /// field of view is that across the height, 0 where it is kept.
+    double fovDeg = 0.0;
+    double rotationDeg = 0.0;
+    PerspectiveDoubt doubt = PerspectiveDoubt::None;
+    /// The used axis whose lines are most nearly parallel; -1 without a doubt.
+    int doubtfulAxis = -1;
+};
+
 /// Arithmetic of a perspective match: which camera shows edges along the world's axes in given
 /// directions of its picture. Knows no camera and no view.
 ///
@@ -58,9 +82,9 @@ struct PerspectiveSolution
 /// (x, y, -f w) in the camera's frame, or the opposite one. Axes are perpendicular, so two of them
 /// give f^2 = -(x1 x2 + y1 y2) / (w1 w2), and the directions, brought to the nearest rotation, the
 /// orientation. From there a Gauss-Newton iteration with damping finds the least squares of how far
-/// the ends of the lines must move, each line turning about its middle, to point at the vanishing
-/// points of one camera: with exact lines that changes nothing, and with three axes it is the best
-/// fit to all six lines.
+/// the ends of the lines must move across them to point at the vanishing points of one camera: with
+/// exact lines that changes nothing, with three axes it is the best fit to all six lines, and with
+/// ends that err alike and independently nothing else is more accurate to first order.
 ///
 /// Which camera is taken where the lines leave a choice:
 /// - Lines do not tell an axis from its opposite: of the orientations that fit, right-handed all of
@@ -90,7 +114,17 @@ public:
     /// sine of the angle.
     static constexpr double kSmallestAxisSine = 1e-3;
 
+    /// Standard deviation of the field of view from which on it is doubtful.
+    static constexpr double kDoubtfulFovDeg = 3.0;
+
     static PerspectiveSolution solve(const PerspectiveProblem& problem);
+
+    /// Judges a camera that was solved.
+    /// @param solution  of this problem; nothing is said about one that is not solved
+    /// @param endDeviation  how well ends of lines are placed, reference sizes; taken larger where
+    ///                      the lines themselves miss by more
+    static PerspectiveQuality judge(const PerspectiveProblem& problem,
+                                    const PerspectiveSolution& solution, double endDeviation);
 
     /// How a pose of a perspective camera looks at a picture of a height in reference sizes.
     static PerspectiveAim aimOf(const CameraPose& pose, double height);

@@ -3,22 +3,13 @@
 
 #include <nbKernelServices/detail/MatchEdit.h>
 #include <nbKernelServices/detail/MatchState.h>
-#include <nbKernelServices/nbPerspectiveSolver.h>
 #include <nbKernelServices/nbScopedUndo.h>
 #include <nbOpenSGUberCamera/nbUberCameraPool.h>
 
 namespace {
 
-PerspectiveSolution solveFor(const osg::UberCameraPtr& camera, const CameraPose& start)
+PerspectiveProblem problemFor(const osg::UberCameraPtr& camera, const CameraPose& start)
 {
-    PerspectiveSolution solution;
-    if (!nbCameraNavigation::isFinite(start)) {
-        return solution;
-    }
-    if (camera->isOrthographic()) {
-        solution.result = nbCameraTypes::OrthographicCamera;
-        return solution;
-    }
     const MatchState& state = MatchTable::of(camera);
     PerspectiveProblem problem;
     problem.lines = state.lines;
@@ -30,7 +21,20 @@ PerspectiveSolution solveFor(const osg::UberCameraPtr& camera, const CameraPose&
     if (state.reference) {
         problem.reference = nbPerspectiveSolver::aimOf(*state.reference, problem.height);
     }
-    return nbPerspectiveSolver::solve(problem);
+    return problem;
+}
+
+PerspectiveSolution solveFor(const osg::UberCameraPtr& camera, const CameraPose& start)
+{
+    PerspectiveSolution solution;
+    if (!nbCameraNavigation::isFinite(start)) {
+        return solution;
+    }
+    if (camera->isOrthographic()) {
+        solution.result = nbCameraTypes::OrthographicCamera;
+        return solution;
+    }
+    return nbPerspectiveSolver::solve(problemFor(camera, start));
 }
 
 /// Solves from a start and, if that gives a camera, places it.
@@ -95,6 +99,17 @@ nbCameraTypes::MatchResult nbdCameraNode::checkPerspectiveMatch() const
     const osg::UberCameraPtr camera = getCamera();
     return camera != osg::NullFC ? solveFor(camera, camera->getPose()).result
                                  : nbCameraTypes::NoCamera;
+}
+
+PerspectiveQuality nbdCameraNode::judgePerspectiveMatch(double endDeviation) const
+{
+    const osg::UberCameraPtr camera = getCamera();
+    if (camera == osg::NullFC) {
+        return {};
+    }
+    const CameraPose pose = camera->getPose();
+    return nbPerspectiveSolver::judge(problemFor(camera, pose), solveFor(camera, pose),
+                                      endDeviation);
 }
 
 nbCameraTypes::MatchResult nbdCameraNode::updateFromPerspectiveMatch() const

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <nbKernelServices/nbCameraTypes.h>
+#include <nbKernelServices/nbPerspectiveSolver.h>
 #include <nbKernelServices/nbdNode.h>
 #include <nbKernelServices/nbdPerspectiveMatch.h>
 #include <nbOpenSGUberCamera/UberCamera.h>
@@ -55,6 +56,10 @@ public:
 
     /// What updateFromPerspectiveMatch() would answer now, without moving anything.
     nbCameraTypes::MatchResult checkPerspectiveMatch() const;
+
+    /// How well the lines determine that camera.
+    /// @param endDeviation  how well ends of lines are placed, reference sizes
+    PerspectiveQuality judgePerspectiveMatch(double endDeviation) const;
 
     /// Lays the lines of the match along the edges of a box at the pivot as the camera sees it now,
     /// so that solving them leaves the camera as it is: a start for laying them elsewhere.

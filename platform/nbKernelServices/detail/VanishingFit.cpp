@@ -2,8 +2,10 @@
 #include "VanishingFit.h"
 
 #include <cmath>
+#include <limits>
 
 #include <Eigen/Cholesky>
+#include <Eigen/Eigenvalues>
 #include <Eigen/Geometry>
 #include <Eigen/LU>
 #include <Eigen/SVD>
@@ -32,30 +34,49 @@ double across(const Vector2& a, const Vector2& b)
 
 /// With the axis' direction (a, b, c) in the camera's frame the vanishing point is (f a, f b, -c),
 /// and the way t to it from the middle m, times -c, is (f a + c mx, f b + c my), which has a
-/// direction for points at infinity too. The miss is halfLength (d x t) / |t|.
-Miss missOf(const Edge& edge, const Aim& aim)
+/// direction for points at infinity too. The ends of half length h move least, a and b with
+/// (b - a) |t| + (a + b) h c = 2 h (d x t), when their root mean square is
+/// h (d x t) / sqrt(|t|^2 + h^2 c^2).
+Miss slopedMissOf(const Edge& edge, const Aim& aim)
 {
     constexpr double kSmallestWay = 1e-12;
+    const double half = edge.halfLength;
     const Vector3 axis = aim.cameraFromWorld.col(edge.axis);
     const auto wayOf = [&](const Vector3& direction) {
         return Vector2(aim.focalLength * direction.head<2>() + direction.z() * edge.middle);
     };
     const Vector2 way = wayOf(axis);
-    const double length = way.norm();
+    const double length = std::hypot(way.norm(), half * axis.z());
     Miss miss;
     if (length < kSmallestWay) {
-        return miss;  // the vanishing point is in the middle, where every direction passes it
+        return miss;
     }
     const double sine = across(edge.direction, way) / length;
-    miss.way = edge.halfLength * sine;
+    miss.way = half * sine;
     for (int i = 0; i < kUnknowns; ++i) {
-        const Vector2 change = i < 3 ? wayOf(Vector3(Vector3::Unit(i)).cross(axis))
-                                     : Vector2(aim.focalLength * axis.head<2>());
-        const double sineChange =
-            (across(edge.direction, change) - sine * way.dot(change) / length) / length;
-        miss.slope[i] = edge.halfLength * sineChange;
+        const Vector3 turned = i < 3 ? Vector3(Vector3::Unit(i)).cross(axis) : Vector3::Zero();
+        const Vector2 change = i < 3 ? wayOf(turned) : Vector2(aim.focalLength * axis.head<2>());
+        const double stretch =
+            (way.dot(change) + half * half * axis.z() * turned.z()) / (length * length);
+        miss.slope[i] = half * (across(edge.direction, change) / length - sine * stretch);
     }
     return miss;
+}
+
+/// Sum of the products of the slopes, for the unknowns that are free.
+Normal normalOf(const std::vector<Edge>& edges, const Aim& aim, bool isFovFree, Step& gradient)
+{
+    Normal normal = Normal::Zero();
+    gradient = Step::Zero();
+    for (const Edge& edge : edges) {
+        Miss miss = slopedMissOf(edge, aim);
+        if (!isFovFree) {
+            miss.slope[3] = 0.0;
+        }
+        normal += miss.slope * miss.slope.transpose();
+        gradient += miss.slope * miss.way;
+    }
+    return normal;
 }
 
 Aim moved(const Aim& aim, const Step& step)
@@ -89,11 +110,16 @@ Matrix3 nearestRotation(const Matrix3& matrix)
     return svd.matrixU() * signs.asDiagonal() * svd.matrixV().transpose();
 }
 
+double missOf(const Edge& edge, const Aim& aim)
+{
+    return slopedMissOf(edge, aim).way;
+}
+
 double squaredError(const std::vector<Edge>& edges, const Aim& aim)
 {
     double sum = 0.0;
     for (const Edge& edge : edges) {
-        const double way = missOf(edge, aim).way;
+        const double way = missOf(edge, aim);
         sum += way * way;
     }
     return sum;
@@ -111,16 +137,8 @@ Aim fit(const std::vector<Edge>& edges, const Aim& start, bool isFovFree)
     double error = squaredError(edges, aim);
     double damping = kLeastDamping;
     for (int i = 0; i < kMostSteps && damping < kMostDamping; ++i) {
-        Normal normal = Normal::Zero();
-        Step gradient = Step::Zero();
-        for (const Edge& edge : edges) {
-            Miss miss = missOf(edge, aim);
-            if (!isFovFree) {
-                miss.slope[3] = 0.0;
-            }
-            normal += miss.slope * miss.slope.transpose();
-            gradient += miss.slope * miss.way;
-        }
+        Step gradient;
+        Normal normal = normalOf(edges, aim, isFovFree, gradient);
         const double scale = normal.trace();
         if (!(scale > 0.0)) {
             break;
@@ -141,6 +159,25 @@ Aim fit(const std::vector<Edge>& edges, const Aim& start, bool isFovFree)
         }
     }
     return aim;
+}
+
+Deviation deviationOf(const std::vector<Edge>& edges, const Aim& aim, bool isFovFree,
+                      double endDeviation)
+{
+    constexpr double kSmallestPart = 1e-12;
+    const int free = isFovFree ? kUnknowns : kUnknowns - 1;
+    Step gradient;
+    const Eigen::MatrixXd normal =
+        normalOf(edges, aim, isFovFree, gradient).topLeftCorner(free, free);
+    const Eigen::SelfAdjointEigenSolver<Eigen::MatrixXd> parts(normal);
+    if (!(parts.eigenvalues()[0] > kSmallestPart * parts.eigenvalues()[free - 1])) {
+        const double unknown = std::numeric_limits<double>::infinity();
+        return { unknown, isFovFree ? unknown : 0.0 };
+    }
+    // A miss is the mean of two ends' ways in two directions: half their variance.
+    const Eigen::MatrixXd covariance = normal.inverse() * (0.5 * endDeviation * endDeviation);
+    return { std::sqrt(covariance.topLeftCorner<3, 3>().trace()),
+             isFovFree ? std::sqrt(covariance(3, 3)) : 0.0 };
 }
 
 }  // namespace nbmatch

@@ -44,13 +44,28 @@ struct Aim
 /// The rotation with the smallest sum of squared differences to a matrix of determinant >= 0.
 Matrix3 nearestRotation(const Matrix3& matrix);
 
-/// Sum over the edges of the square of the way that the ends must move, across the line and in
-/// opposite directions, for the line to pass the vanishing point of its axis.
+/// How far the ends of an edge must move across it, root mean square of both, for the line to pass
+/// the vanishing point of its axis; signed.
+double missOf(const Edge& edge, const Aim& aim);
+
+/// Sum over the edges of the square of their miss: half the least sum of squares of the ways of all
+/// ends that makes the lines those of this camera.
 double squaredError(const std::vector<Edge>& edges, const Aim& aim);
 
 /// Least squares of squaredError by Gauss-Newton with damping, from a start that is near.
 /// @param isFovFree  whether the focal length is fitted too
 /// @return never worse than the start
 Aim fit(const std::vector<Edge>& edges, const Aim& start, bool isFovFree);
+
+/// Standard deviations of a fit, to first order; infinite where the edges do not determine it.
+struct Deviation
+{
+    double angle;  ///< of the orientation, radians: root of the squares about three axes
+    double focalLength;  ///< relative; 0 where it is not fitted
+};
+
+/// @param endDeviation  of each end of an edge, across it
+Deviation deviationOf(const std::vector<Edge>& edges, const Aim& aim, bool isFovFree,
+                      double endDeviation);
 
 }  // namespace nbmatch

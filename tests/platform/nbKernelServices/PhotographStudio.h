@@ -83,6 +83,14 @@ public:
         return std::uniform_real_distribution<double>(low, high)(generator);
     }
 
+    /// A line whose ends are off by a normal deviation.
+    QLineF trembling(const QLineF& line, double deviation)
+    {
+        std::normal_distribution<double> way(0.0, deviation);
+        const QPointF first(way(generator), way(generator));
+        return { line.p1() + first, line.p2() + QPointF(way(generator), way(generator)) };
+    }
+
     Vec3d direction()
     {
         Vec3d result;

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <limits>
 #include <utility>
@@ -91,6 +92,67 @@ TEST(nbPerspectiveSolver, ThreeAxesAreFittedTogetherAndAverageNoise)
     }
 
     EXPECT_LT(errorOfAll, 0.8 * errorOfTwo);
+}
+
+TEST(nbPerspectiveSolver, ErrorsAreAsLargeAsTheQualitySays)
+{
+    for (const TypeRow& row : kTypeRows) {
+        SCOPED_TRACE(row.name);
+        std::array<double, 2> squares {};  // of errors in units of what was told
+        constexpr int kCount = 400;
+        forRandomCameras(row, kCount, [&](auto problem, const auto& aim, Studio& studio) {
+            problem.reference = aim;
+            for (QLineF& line : problem.lines) {
+                line = studio.trembling(line, kHalfPixel / 10.0);
+            }
+            const PerspectiveSolution solution = nbPerspectiveSolver::solve(problem);
+            ASSERT_EQ(solution.result, nbCameraTypes::Solved);
+            PerspectiveProblem exact = problem;
+            layEdges(exact, aim);
+            const PerspectiveQuality told = nbPerspectiveSolver::judge(
+                exact, { nbCameraTypes::Solved, aim }, kHalfPixel / 10.0);
+            squares[0] += std::pow(angleDeg(solution.aim, aim) / told.rotationDeg, 2);
+            squares[1] += std::pow(
+                (fovDeg(solution.aim, problem.height) - fovDeg(aim, problem.height)) / told.fovDeg,
+                2);
+            EXPECT_LT(told.residuals[0], 1e-12);
+        });
+        for (const double square : squares) {
+            EXPECT_NEAR(std::sqrt(square / kCount), 1.0, 0.12);
+        }
+    }
+}
+
+TEST(nbPerspectiveSolver, QualityNamesTheLineThatIsOffAndTheAxisThatSaysLittle)
+{
+    PerspectiveProblem problem = threeQuarterProblem();
+    problem.lines[3] = moved(problem.lines[3], 1, 0.01);
+    const PerspectiveQuality off =
+        nbPerspectiveSolver::judge(problem, nbPerspectiveSolver::solve(problem), kHalfPixel);
+    EXPECT_EQ(std::max_element(off.residuals.begin(), off.residuals.end()), &off.residuals[3]);
+    EXPECT_EQ(off.doubt, PerspectiveDoubt::None);
+
+    struct Row
+    {
+        double pitchRad, yawRad;
+        PerspectiveDoubt doubt;
+        int axis;
+    };
+
+    for (const Row& row : { Row { 0.0, 0.6, PerspectiveDoubt::ParallelLines, 1 },
+                            Row { -0.01, 0.6, PerspectiveDoubt::AlmostParallelLines, 1 },
+                            Row { -0.6, 0.01, PerspectiveDoubt::AlmostParallelLines, 0 } }) {
+        const bool isLevel = row.axis == 1;
+        PerspectiveAim aim = turned(PerspectiveAim(), Vec3d(1.0, 0.0, 0.0), row.pitchRad);
+        aim = turned(aim, Vec3d(0.0, 1.0, 0.0), row.yawRad);
+        problem.type = isLevel ? nbCameraTypes::XYLines : nbCameraTypes::XZLines;
+        problem.start = aim;
+        layEdges(problem, aim);
+        const PerspectiveQuality quality =
+            nbPerspectiveSolver::judge(problem, nbPerspectiveSolver::solve(problem), kHalfPixel);
+        EXPECT_EQ(quality.doubt, row.doubt) << row.pitchRad;
+        EXPECT_EQ(quality.doubtfulAxis, row.axis) << row.pitchRad;
+    }
 }
 
 struct ParallelRow
