@@ -464,6 +464,53 @@ CameraPose nbPerspectiveSolver::turned(const CameraPose& start, const Perspectiv
     return result;
 }
 
+std::optional<CameraPose> nbPerspectiveSolver::placedBy(const CameraPose& pose, const QLineF& line,
+                                                        int axis, double length, double width,
+                                                        double height)
+{
+    // The eye is -t d1 and the end of the line k d2 from there, for rays d1 and d2 of its ends:
+    // least squares of t d1 - k d2 = -s e for the axis e and s, the length in one of its
+    // directions.
+    constexpr double kSmallestSine = 1e-6;
+    const PerspectiveAim aim = aimOf(pose, height);
+    const auto rayTo = [&](const QPointF& end) {
+        return toEigen(toWorld(aim,
+                               osg::Vec3d(end.x() - 0.5 * width, end.y() - 0.5 * height,
+                                          -aim.focalLength)))
+            .normalized();
+    };
+    const Vector3 first = rayTo(line.p1());
+    const Vector3 second = rayTo(line.p2());
+    const double cosine = first.dot(second);
+    const double determinant = first.cross(second).squaredNorm();
+    const double near = cosine * second[axis] - first[axis];
+    const double far = second[axis] - cosine * first[axis];
+    if (!(determinant > kSmallestSine * kSmallestSine) || !(length > 0.0) || !(near * far > 0.0)) {
+        return std::nullopt;
+    }
+    const Vector3 eye = -first * (length * std::abs(near) / determinant);
+    CameraPose result = pose;
+    result.from = toPoint(fromEigen(eye));
+    result.at = toPoint(fromEigen(eye) - aim.back * eye.norm());
+    return nbCameraNavigation::isFinite(result) ? std::optional(result) : std::nullopt;
+}
+
+CameraPose nbPerspectiveSolver::turnedByQuarter(const CameraPose& pose, int axis)
+{
+    const auto turned = [axis](const osg::Vec3f& way) {
+        osg::Vec3f result;
+        result[axis] = way[axis];
+        result[(axis + 1) % kAxisCount] = -way[(axis + 2) % kAxisCount];
+        result[(axis + 2) % kAxisCount] = way[(axis + 1) % kAxisCount];
+        return result;
+    };
+    CameraPose result = pose;
+    result.from = pose.pivot + turned(pose.from - pose.pivot);
+    result.at = pose.pivot + turned(pose.at - pose.pivot);
+    result.up = turned(pose.up);
+    return result;
+}
+
 PerspectiveLines nbPerspectiveSolver::linesOf(const CameraPose& pose, double width, double height)
 {
     /// Half the box in parts of the depth, and of the smaller half of the picture.

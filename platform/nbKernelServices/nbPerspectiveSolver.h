@@ -135,6 +135,21 @@ public:
     /// @param height  of the picture, reference sizes
     static CameraPose turned(const CameraPose& start, const PerspectiveAim& aim, double height);
 
+    /// A pose that is moved, and not turned, so that a line of its picture which runs along an axis
+    /// of the world begins at the world's origin and has a length: what tells place and scale.
+    /// @param axis    0 x, 1 y, 2 z
+    /// @param length  in the world, > 0
+    /// @param width, height  of the picture, reference sizes
+    /// @return nothing if there is no such place: the line points at the axis' vanishing point from
+    ///         beyond, has no length in the picture, or numbers are not finite
+    static std::optional<CameraPose> placedBy(const CameraPose& pose, const QLineF& line, int axis,
+                                              double length, double width, double height);
+
+    /// A pose that sees the world turned by a quarter about an axis through its pivot, so that what
+    /// ran along one of the other axes runs along the third one.
+    /// @param axis  0 x, 1 y, 2 z
+    static CameraPose turnedByQuarter(const CameraPose& pose, int axis);
+
     /// Lines along edges of a box about the pivot (or at, as above) as a pose sees it, of each axis
     /// the two edges that are farthest apart in the picture. Solving them gives the pose back,
     /// unless it looks along an axis.

@@ -6,6 +6,8 @@
 #include <nbKernelServices/nbScopedUndo.h>
 #include <nbOpenSGUberCamera/nbUberCameraPool.h>
 
+#include <algorithm>
+
 namespace {
 
 PerspectiveProblem problemFor(const osg::UberCameraPtr& camera, const CameraPose& start)
@@ -153,6 +155,53 @@ void nbdCameraNode::endMatchDrag() const
     if (MatchState* const state = MatchTable::find(getId()); state != nullptr) {
         state->drag.reset();
     }
+}
+
+void nbdCameraNode::turnMatch(int axis) const
+{
+    constexpr int kAxisCount = 3;
+    const osg::UberCameraPtr camera = getCamera();
+    if (camera == osg::NullFC || axis < 0 || axis >= kAxisCount) {
+        return;
+    }
+    const CameraPose pose = nbPerspectiveSolver::turnedByQuarter(camera->getPose(), axis);
+    const int first = (axis + 1) % kAxisCount;
+    const int second = (axis + 2) % kAxisCount;
+    editMatch(getId(), [&](MatchState& state) {
+        std::swap_ranges(&state.lines[2 * first], &state.lines[2 * first] + 2,
+                         &state.lines[2 * second]);
+        const auto before = state.type;
+        for (int i = 0; i < nbCameraTypes::kVanishingLinesTypeCount; ++i) {
+            const auto type = static_cast<nbCameraTypes::VanishingLinesType>(i);
+            if (nbCameraTypes::usesAxis(type, axis) == nbCameraTypes::usesAxis(before, axis) &&
+                nbCameraTypes::usesAxis(type, first) == nbCameraTypes::usesAxis(before, second) &&
+                nbCameraTypes::usesAxis(type, second) == nbCameraTypes::usesAxis(before, first)) {
+                state.type = type;
+            }
+        }
+        state.reference = state.placed = pose;
+    });
+    if (const osg::UberCameraPtr still = getCamera(); still != osg::NullFC) {
+        placeCamera(still, pose);
+    }
+}
+
+bool nbdCameraNode::placeByLine(nbdPerspectiveMatch::Line line, double length) const
+{
+    const osg::UberCameraPtr camera = getCamera();
+    if (camera == osg::NullFC || camera->isOrthographic() || line < 0 ||
+        line >= nbdPerspectiveMatch::kLineCount) {
+        return false;
+    }
+    MatchState& state = MatchTable::of(camera);
+    const auto pose = nbPerspectiveSolver::placedBy(
+        camera->getPose(), state.lines[static_cast<std::size_t>(line)], line / 2, length,
+        state.shape.width, state.shape.height);
+    if (pose) {
+        state.placed = *pose;
+        placeCamera(camera, *pose);
+    }
+    return pose.has_value();
 }
 
 void nbdCameraNode::layLinesAsSeen() const

@@ -61,6 +61,18 @@ public:
     /// @param endDeviation  how well ends of lines are placed, reference sizes
     PerspectiveQuality judgePerspectiveMatch(double endDeviation) const;
 
+    /// Gives the lines of two axes to each other, and turns the camera with them by a quarter about
+    /// the third one through its pivot, so that both still fit: with turns about x, y and z any
+    /// pair of lines comes to any axis, in either direction.
+    /// @param axis  0 x, 1 y, 2 z; others are ignored
+    void turnMatch(int axis) const;
+
+    /// Moves the camera, without turning it, so that a line of its match begins at the world's
+    /// origin and is so long along its axis. Solve first: the camera must show the lines' axes.
+    /// @param length  in the world
+    /// @return false, nothing moved, where no place fits, see nbPerspectiveSolver::placedBy
+    bool placeByLine(nbdPerspectiveMatch::Line line, double length) const;
+
     /// Lays the lines of the match along the edges of a box at the pivot as the camera sees it now,
     /// so that solving them leaves the camera as it is: a start for laying them elsewhere.
     void layLinesAsSeen() const;

@@ -169,6 +169,55 @@ TEST_F(nbdPerspectiveMatchTest, TurnsAndOpensTheCameraAboutItsPivot)
     EXPECT_EQ(camera->getFov(), 50.f);
 }
 
+TEST_F(nbdPerspectiveMatchTest, AQuarterTurnGivesLinesToOtherAxesAndTheCameraGoesAlong)
+{
+    const QLineF ofY = match.getYLine2();
+    match.setVanishingLinesType(nbCameraTypes::XYLines);
+    for (int axis = 0; axis < 3; ++axis) {
+        node.turnMatch(axis);
+        const CameraPose turned = camera->getPose();
+        EXPECT_GT(turned.from.dist(photographed.from), 1.f);
+        EXPECT_NEAR(turned.from.dist(turned.pivot), photographed.from.dist(photographed.pivot),
+                    1e-4f);
+
+        EXPECT_EQ(node.updateFromPerspectiveMatch(), nbCameraTypes::Solved);
+
+        EXPECT_LT(camera->getFrom().dist(turned.from), 1e-3f) << "both fitted before";
+    }
+    // About x and then y: y went to z and from there to x.
+    EXPECT_TRUE(isSameLine(match.getYLine2(), ofY)) << "and about z back to y";
+    node.turnMatch(3);
+    EXPECT_EQ(match.getVanishingLinesType(), nbCameraTypes::YZLines);
+}
+
+TEST_F(nbdPerspectiveMatchTest, ALineOfKnownLengthTellsTheCamerasPlaceAndTheScale)
+{
+    const osg::Pnt3f origin(0.3f, -0.2f, 0.4f);
+    const auto shown = [&](const osg::Pnt3f& point) {
+        osg::Pnt2f px;
+        EXPECT_TRUE(nbCameraNavigation::project(photographed, point, 1600, 1000, px));
+        return QPointF(static_cast<double>(px[0]) / 1000.0,
+                       1.0 - static_cast<double>(px[1]) / 1000.0);
+    };
+    for (const float way : { 1.5f, -1.5f }) {
+        camera->setPose(photographed);
+        match.setZLine2({ shown(origin), shown(origin + osg::Vec3f(0.f, 0.f, way)) });
+
+        EXPECT_TRUE(node.placeByLine(nbdPerspectiveMatch::ZLine2, 3.0));
+
+        const osg::Vec3f eye = (photographed.from - origin) * 2.f;  // twice as large
+        EXPECT_LT((camera->getFrom() - osg::Pnt3f(0.f, 0.f, 0.f) - eye).length(), 2e-3f);
+        EXPECT_LT(missDeg(), 1e-3);
+    }
+    const CameraPose placed = camera->getPose();
+    match.setZLine2(QLineF(0.8, 0.5, 0.8, 0.5));
+    EXPECT_FALSE(node.placeByLine(nbdPerspectiveMatch::ZLine2, 3.0));
+    EXPECT_FALSE(node.placeByLine(nbdPerspectiveMatch::XLine1, 0.0));
+    EXPECT_FALSE(
+        node.placeByLine(nbdPerspectiveMatch::XLine1, std::numeric_limits<double>::quiet_NaN()));
+    EXPECT_TRUE(isSamePlace(camera->getPose(), placed));
+}
+
 TEST_F(nbdPerspectiveMatchTest, AGroupIsOneStepOrNoneAndCanBeTakenBack)
 {
     stepAside();
