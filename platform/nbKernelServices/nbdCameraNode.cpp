@@ -96,6 +96,15 @@ void nbdCameraNode::setFovMode(nbCameraTypes::FovMode mode) const
     }
 }
 
+void nbdCameraNode::setFov(double degrees) const
+{
+    if (const osg::UberCameraPtr camera = getCamera(); camera != osg::NullFC) {
+        CameraPose pose = camera->getPose();
+        pose.fovDeg = static_cast<osg::Real32>(degrees);
+        placeCamera(camera, pose);
+    }
+}
+
 nbCameraTypes::MatchResult nbdCameraNode::checkPerspectiveMatch() const
 {
     const osg::UberCameraPtr camera = getCamera();

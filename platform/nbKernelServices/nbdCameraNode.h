@@ -33,6 +33,9 @@ public:
     /// Numbers that are no mode are ignored.
     void setFovMode(nbCameraTypes::FovMode mode) const;
 
+    /// Sets the camera's vertical field of view. Property "fov". @param degrees  see CameraPose
+    void setFov(double degrees) const;
+
     /// Turns the camera, and sets its field of view, so that it shows edges along the world's axes
     /// in the directions that the lines of its match have in the picture. Properties "orientation"
     /// and "fov". Asks nobody whether the camera is locked.

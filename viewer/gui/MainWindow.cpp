@@ -448,13 +448,27 @@ void MainWindow::showWhole(bool on)
 void MainWindow::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() != Qt::Key_Escape) {
-        QMainWindow::keyPressEvent(event);
+        if (!nudge(*event)) {
+            QMainWindow::keyPressEvent(event);
+        }
     } else if (loader->isRunning()) {
         stopLoading();
     } else if (StageTool* tool = viewWidget->stage().activeTool();
                tool == nullptr || !tool->leaveMode()) {
         showWhole(false);
     }
+}
+
+bool MainWindow::nudge(const QKeyEvent& key)
+{
+    const QPoint way = key.key() == Qt::Key_Left ? QPoint(-1, 0)
+        : key.key() == Qt::Key_Right             ? QPoint(1, 0)
+        : key.key() == Qt::Key_Up                ? QPoint(0, 1)
+        : key.key() == Qt::Key_Down              ? QPoint(0, -1)
+                                                 : QPoint();
+    StageTool* const tool = viewWidget->stage().activeTool();
+    return !way.isNull() && tool != nullptr &&
+        tool->nudge(way, key.modifiers().testFlag(Qt::ShiftModifier));
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

@@ -127,6 +127,8 @@ protected:
 
 private:
     /// Makes docks, menus, toolbars and the status line.
+    /// Moves what the active tool has by an arrow key. @return false if there is nothing
+    bool nudge(const QKeyEvent& key);
     void addSurroundings();
     void connectParts();
     /// Makes them anew in the present language, arranged as they are.

@@ -122,6 +122,14 @@ QJsonArray cornersOf(Stage& stage)
     return corners;
 }
 
+constexpr std::array<const char*, 3> kAxisNames { "x", "y", "z" };
+
+bool isAmount(double value)
+{
+    constexpr double kMost = 1e6;
+    return value > 1.0 / kMost && value < kMost;
+}
+
 void addModes(CommandTable& table, PerspectiveMatchTool& tool, Stage& stage)
 {
     table.add("setPhotograph", [&tool, &stage](const QJsonValue& value, QString& error) {
@@ -149,6 +157,10 @@ void addModes(CommandTable& table, PerspectiveMatchTool& tool, Stage& stage)
         [&tool] { return tool.isActive(); });
     table.addSwitch("showLines", [&tool](bool on, QString&) {
         tool.showLines(on);
+        return true;
+    });
+    table.addSwitch("setEdgeSnapping", [&tool](bool on, QString&) {
+        tool.setSnapsToEdges(on);
         return true;
     });
     table.addSwitch("setLocked", [&tool](bool on, QString&) {
@@ -183,6 +195,26 @@ void addEdits(CommandTable& table, PerspectiveMatchTool& tool)
                 },
                 error);
     });
+    table.addChoice("turn", kAxisNames,
+                    [&tool](int axis, QString& error) { return tool.turn(axis, error); });
+    table.add("placeByLine", [&tool](const QJsonValue& value, QString& error) {
+        const int line = PerspectiveMatchTool::lineByName(value["line"].toString());
+        const double length = value["length"].toDouble();
+        if (line < 0 || !isAmount(length)) {
+            error = QStringLiteral("expected a line from x1 to z2 and a length above 0");
+            return false;
+        }
+        return tool.placeByLine(line, length, error);
+    });
+    table.add("setLens", [&tool](const QJsonValue& value, QString& error) {
+        const double focalLength = value["focalLength"].toDouble();
+        const double sensorWidth = value["sensorWidth"].toDouble();
+        if (!isAmount(focalLength) || !isAmount(sensorWidth)) {
+            error = QStringLiteral("expected focalLength and sensorWidth above 0");
+            return false;
+        }
+        return tool.setLens(focalLength, sensorWidth, error);
+    });
     table.addPlain("layLines", [&tool](QString& error) { return tool.layLines(error); });
     table.addPlain("solve",
                    [&tool](QString& error) { return tool.edit([](const auto&) {}, error); });
@@ -212,6 +244,15 @@ void addValues(CommandTable& table, PerspectiveMatchTool& tool, Stage& stage)
         return lines;
     });
     table.addValue("result", [&tool] { return tool.resultText(); });
+    table.addValue("quality", [&tool] { return tool.qualityText(); });
+    table.addValue("residuals", [&tool] {
+        QJsonArray residuals;
+        for (const double residual : tool.residualsPx()) {
+            residuals.append(residual);
+        }
+        return residuals;
+    });
+    table.addValue("edgeSnapping", [&tool] { return tool.snapsToEdges(); });
     table.addValue("fov", [&stage] { return static_cast<double>(stage.pose().fovDeg); });
     table.addValue("corners", [&stage] { return cornersOf(stage); });
 }

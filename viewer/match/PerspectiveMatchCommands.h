@@ -30,10 +30,15 @@ constexpr std::array<const char*, 2> kFovModeNames { "solved", "fixed" };
 /// | setMagnifyFactor | number from 1 to 32 |
 /// | setLine | {"line": "x1", "ends": [x1, y1, x2, y2]}, reference sizes from the lower left |
 /// | layLines, solve | none |
+/// | turn | "x", "y" or "z": the lines of the other two axes change places, the camera follows |
+/// | placeByLine | {"line": "x1", "length": 2.5}: it begins at the origin and is so long |
+/// | setLens | {"focalLength": 35, "sensorWidth": 36}, any unit |
+/// | setEdgeSnapping | true or false |
 ///
 /// Values: photograph, veil, active, linesShown, locked, linesType, fovMode, magnifyFactor, lines,
-/// result, fov (degrees), and corners: the corners of the selected object's bounds as [x, y],
-/// device pixels from the upper left, in the order of x, then y, then z, small before large.
+/// result, quality, residuals (device pixels by lines), edgeSnapping, fov (degrees), and corners:
+/// the corners of the selected object's bounds as [x, y], device pixels from the upper left, in the
+/// order of x, then y, then z, small before large.
 void addPerspectiveMatchCommands(PerspectiveMatchTool& tool, Stage& stage);
 
 }  // namespace viewer

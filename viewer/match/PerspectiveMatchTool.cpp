@@ -14,9 +14,16 @@
 #include <nbKernelServices/nbScopedMultiCommand.h>
 #include <nbKernelServices/nbScopedUndo.h>
 #include <nbOpenSGUberCamera/nbCameraUtils.h>
+#include <nbOpenSGUberViewport/nbEdgeSnap.h>
 #include <nbOpenSGUtils/nbEdit.h>
 
+#include <QGuiApplication>
+#include <QJsonArray>
+#include <QJsonObject>
+
+#include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace viewer {
 namespace {
@@ -57,6 +64,14 @@ HandleName read(const std::string& handle)
     return {};
 }
 
+nbPhotographFit fitOf(const nbOSGWidget& view, const osg::ImagePtr& image)
+{
+    const int width = view.getWidth();
+    const int height = view.getHeight();
+    return nbPhotographFit::of(image->getWidth(), image->getHeight(), width, height,
+                               nbCameraUtils::getVerticalSizing(view.getCamera(), width, height));
+}
+
 nbdPerspectiveMatch::Line lineOf(int index)
 {
     return static_cast<nbdPerspectiveMatch::Line>(index);
@@ -68,6 +83,8 @@ PerspectiveMatchTool::PerspectiveMatchTool(Stage& targetStage)
     : stage(targetStage)
 {
     context.setPicker(&picker);
+    manipulator.setLineRule(
+        [this](const osg::Line2D& line, osg::UInt32 part) { return onEdge(line, part); });
     manipulator.setVisualisationRoot(nbScenegraph::getInternalRoot());
     stage.addTool(*this);
     addPerspectiveMatchCommands(*this, stage);
@@ -240,6 +257,155 @@ QString PerspectiveMatchTool::resultText() const
     return Text::tr("There is no camera to be matched.");
 }
 
+double PerspectiveMatchTool::referencePx() const
+{
+    const nbOSGWidget& view = stage.view();
+    const bool byHeight =
+        nbCameraUtils::getVerticalSizing(view.getCamera(), view.getWidth(), view.getHeight());
+    return std::max(byHeight ? view.getHeight() : view.getWidth(), 1);
+}
+
+PerspectiveQuality PerspectiveMatchTool::quality() const
+{
+    constexpr double kHandPx = 0.5;  // how well a person lays an end
+    return camera().judgePerspectiveMatch(kHandPx / referencePx());
+}
+
+std::array<double, PerspectiveMatchTool::kLineCount> PerspectiveMatchTool::residualsPx() const
+{
+    std::array<double, kLineCount> result = quality().residuals;
+    for (double& residual : result) {
+        residual *= referencePx();
+    }
+    return result;
+}
+
+QString PerspectiveMatchTool::qualityText() const
+{
+    if (!nbCameraTypes::isSolved(camera().checkPerspectiveMatch())) {
+        return {};
+    }
+    const PerspectiveQuality told = quality();
+    const auto number = [](double value) { return QString::number(value, 'f', 1); };
+    const auto residuals = residualsPx();
+    const auto worst = std::max_element(residuals.begin(), residuals.end());
+    QStringList parts;
+    if (std::isfinite(told.fovDeg) && told.fovDeg > 0.0) {
+        parts.append(Text::tr("Field of view ±%1°.").arg(number(told.fovDeg)));
+    }
+    if (std::isfinite(told.rotationDeg)) {
+        parts.append(Text::tr("Orientation ±%1°.").arg(number(told.rotationDeg)));
+    }
+    if (*worst >= 1.0) {
+        const int line = static_cast<int>(worst - residuals.begin());
+        parts.append(Text::tr("Line %1 is off by %2 pixels.")
+                         .arg(QString(QLatin1String(lineName(line))).toUpper(), number(*worst)));
+    }
+    const QString axis =
+        told.doubtfulAxis < 0 ? QString() : QString(QChar('X' + told.doubtfulAxis));
+    switch (told.doubt) {
+    case PerspectiveDoubt::ParallelLines:
+        parts.append(
+            Text::tr("The lines of %1 are parallel in the picture, so it does not tell the "
+                     "field of view: use lines of a third axis, or set the lens.")
+                .arg(axis));
+        break;
+    case PerspectiveDoubt::AlmostParallelLines:
+        parts.append(
+            Text::tr("The lines of %1 are almost parallel in the picture, so it hardly "
+                     "tells the field of view: use lines of a third axis, or set the lens.")
+                .arg(axis));
+        break;
+    case PerspectiveDoubt::NoFieldOfViewFits:
+        parts.append(
+            Text::tr("No camera sees right angles so: check which lines belong together."));
+        break;
+    case PerspectiveDoubt::None:
+        break;
+    }
+    return parts.join(QLatin1Char(' '));
+}
+
+bool PerspectiveMatchTool::turn(int axis, QString& error)
+{
+    if (isRefused(error)) {
+        return false;
+    }
+    const nbScopedMultiCommand step(Text::tr("Turn axes about %1").arg(QChar('X' + axis)));
+    camera().turnMatch(axis);
+    camera().updateFromPerspectiveMatch();
+    return true;
+}
+
+bool PerspectiveMatchTool::placeByLine(int line, double length, QString& error)
+{
+    if (isRefused(error)) {
+        return false;
+    }
+    const nbScopedMultiCommand step(Text::tr("Place camera"));
+    if (!camera().placeByLine(lineOf(line), length)) {
+        error = Text::tr("line %1 tells no place: it must run along its axis and not be a point")
+                    .arg(QString(QLatin1String(lineName(line))).toUpper());
+        return false;
+    }
+    return true;
+}
+
+bool PerspectiveMatchTool::setLens(double focalLength, double sensorWidth, QString& error)
+{
+    if (isRefused(error)) {
+        return false;
+    }
+    const osg::ImagePtr image = stage.view().getUberViewport()->getPhotograph();
+    const nbOSGWidget& view = stage.view();
+    const double widthPx = image != osg::NullFC ? fitOf(view, image).width : view.getWidth();
+    const double focalPx = focalLength / sensorWidth * widthPx;
+    constexpr double kDegPerRad = 180.0 / 3.14159265358979323846;
+    const nbScopedMultiCommand step(Text::tr("Set lens"));
+    camera().setFovMode(nbCameraTypes::FixedFov);
+    camera().setFov(2.0 * std::atan(0.5 * view.getHeight() / focalPx) * kDegPerRad);
+    camera().updateFromPerspectiveMatch();
+    return true;
+}
+
+osg::Line2D PerspectiveMatchTool::onEdge(const osg::Line2D& line, osg::UInt32 part) const
+{
+    const osg::ImagePtr image = stage.view().getUberViewport()->getPhotograph();
+    if (!edgeSnapping || image == osg::NullFC ||
+        QGuiApplication::keyboardModifiers().testFlag(Qt::AltModifier)) {
+        return line;
+    }
+    const auto unit = static_cast<float>(referencePx());
+    const nbViewLine laid = nbEdgeSnap::onto(image, fitOf(stage.view(), image),
+                                             { line.getFirst() * unit, line.getSecond() * unit },
+                                             part != kSecondEnd, part != kFirstEnd);
+    return { laid.first * (1.0F / unit), laid.second * (1.0F / unit) };
+}
+
+bool PerspectiveMatchTool::nudge(const QPoint& way, bool coarse)
+{
+    constexpr double kFinePx = 0.1;
+    const HandleName name = read(lastHandle);
+    if (!active || !linesShown || name.line < 0) {
+        return false;
+    }
+    const QPointF step = QPointF(way) * ((coarse ? 10.0 : 1.0) * kFinePx / referencePx());
+    QLineF line = camera().getPerspectiveMatch().getLine(lineOf(name.line));
+    if (name.part != kSecondEnd) {
+        line.setP1(line.p1() + step);
+    }
+    if (name.part != kFirstEnd) {
+        line.setP2(line.p2() + step);
+    }
+    // As a command, so that it becomes part of a recording.
+    QString error;
+    return stage.commands().run(
+        QStringLiteral("match.setLine"),
+        QJsonObject { { "line", lineName(name.line) },
+                      { "ends", QJsonArray { line.x1(), line.y1(), line.x2(), line.y2() } } },
+        error);
+}
+
 // == As a tool of the stage
 
 void PerspectiveMatchTool::activate()
@@ -289,6 +455,8 @@ void PerspectiveMatchTool::sceneCleared()
     match.setVanishingLinesType(nbCameraTypes::XYZLines);
     match.setMagnifyFactor(nbdPerspectiveMatch::kDefaultMagnifyFactor);
     linesLaid = false;
+    edgeSnapping = false;
+    lastHandle.clear();
 }
 
 void PerspectiveMatchTool::follow(const nbdObject& object, const QByteArray& property)
@@ -327,7 +495,11 @@ std::string PerspectiveMatchTool::hoveredHandle()
 {
     const auto line = static_cast<int>(manipulator.getHoveredLine()) - 1;
     const osg::UInt32 part = manipulator.getHoveredPart();
-    return active && line >= 0 && part != 0 ? handleName(line, part) : std::string();
+    if (!active || line < 0 || part == 0) {
+        return {};
+    }
+    lastHandle = handleName(line, part);
+    return lastHandle;
 }
 
 bool PerspectiveMatchTool::findHandle(const std::string& handle, osg::Pnt2f& px)
@@ -346,20 +518,24 @@ osg::Pnt2f PerspectiveMatchTool::placeOf(int index, osg::UInt32 part) const
     const QPointF place = part == kFirstEnd ? line.p1()
         : part == kSecondEnd                ? line.p2()
                                             : line.center();
-    const nbOSGWidget& view = stage.view();
-    const int width = view.getWidth();
-    const int height = view.getHeight();
-    const int reference =
-        nbCameraUtils::getVerticalSizing(view.getCamera(), width, height) ? height : width;
-    return { static_cast<float>(place.x() * reference),
-             static_cast<float>(height - place.y() * reference) };
+    return { static_cast<float>(place.x() * referencePx()),
+             static_cast<float>(stage.view().getHeight() - place.y() * referencePx()) };
 }
 
 std::vector<StageTool::Label> PerspectiveMatchTool::labels() const
 {
     std::vector<Label> all;
-    for (int line = 0; active && linesShown && line < kLineCount; ++line) {
-        all.push_back({ placeOf(line, kBody), QString(QLatin1String(lineName(line))).toUpper() });
+    if (!active || !linesShown) {
+        return all;
+    }
+    const auto residuals = residualsPx();
+    for (int line = 0; line < kLineCount; ++line) {
+        const double residual = residuals[static_cast<std::size_t>(line)];
+        const QString name = QString(QLatin1String(lineName(line))).toUpper();
+        all.push_back({ placeOf(line, kBody),
+                        residual < 1.0 ? name
+                                       : Text::tr("%1: %2 px", "line, how far it is off")
+                                             .arg(name, QString::number(residual, 'f', 1)) });
     }
     return all;
 }

@@ -11,7 +11,9 @@
 
 #include <QObject>
 
+#include <array>
 #include <functional>
+#include <string>
 
 #include <manipulator/PerspectiveMatchManipulator.h>
 
@@ -91,6 +93,28 @@ public:
     /// What the lines say about the camera, one line for a person.
     QString resultText() const;
 
+    /// How well the lines tell the camera, for a person; "" for a camera that they do not give.
+    QString qualityText() const;
+
+    /// How far each line misses its vanishing point, device pixels, see PerspectiveQuality.
+    std::array<double, kLineCount> residualsPx() const;
+
+    /// Gives the lines of two axes to each other, see nbdCameraNode::turnMatch(), as one step.
+    bool turn(int axis, QString& error);
+
+    /// Moves the camera so that a line begins at the world's origin and is so long, as one step.
+    bool placeByLine(int line, double length, QString& error);
+
+    /// Fixes the field of view at that of a lens, as one step.
+    /// @param focalLength, sensorWidth  same unit, > 0; the sensor is as wide as the photograph, or
+    ///                                  without one as the view
+    bool setLens(double focalLength, double sensorWidth, QString& error);
+
+    /// Whether dragged lines go to edges of the photograph within 6 pixels; not while Alt is held.
+    bool snapsToEdges() const { return edgeSnapping; }
+
+    void setSnapsToEdges(bool on) { edgeSnapping = on; }
+
     // == As a tool of the stage
 
     const char* name() const override { return "match"; }
@@ -107,6 +131,8 @@ public:
     QString handleText(const std::string& handle) const override;
     std::vector<Label> labels() const override;
     std::string draggedValues() const override;
+    /// Moves the end, or line, that was held or under the pointer last by 0.1 pixels.
+    bool nudge(const QPoint& way, bool coarse) override;
     /// Takes a picture that is dropped while this is active as the photograph.
     bool takePicture(const QString& file, const osg::Pnt2f& px, QString& error) override;
 
@@ -116,6 +142,10 @@ private:
     void leavePointer();
     void applyVeil();
     bool isRefused(QString& error) const;
+    osg::Line2D onEdge(const osg::Line2D& line, osg::UInt32 part) const;
+    /// Device pixels of a unit of line coordinates.
+    double referencePx() const;
+    PerspectiveQuality quality() const;
     /// Device pixels of a line's middle or end.
     osg::Pnt2f placeOf(int index, osg::UInt32 part) const;
 
@@ -129,6 +159,8 @@ private:
     bool linesShown = true;
     bool linesLaid = false;
     bool cameraMoved = false;
+    bool edgeSnapping = false;
+    std::string lastHandle;
 };
 
 }  // namespace viewer

@@ -7,6 +7,7 @@
 #include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGVector.h>
 
+#include <QPoint>
 #include <QString>
 
 #include <string>
@@ -87,6 +88,11 @@ public:
     /// Leaves a mode within an active tool, as a person wants who presses Esc.
     /// @return false if it was in none
     virtual bool leaveMode() { return false; }
+
+    /// Moves what is selected, or was held last, by a key. @param way  -1 to 1, y up
+    /// @param coarse  ten times as far
+    /// @return false if there is nothing to be moved
+    virtual bool nudge(const QPoint& /*way*/, bool /*coarse*/) { return false; }
 
     /// What stands in the view at places of a tool that is active, such as names of lines.
     struct Label
