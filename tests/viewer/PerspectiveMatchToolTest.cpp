@@ -10,6 +10,8 @@
 #include <QImage>
 #include <QTemporaryDir>
 
+#include <algorithm>
+#include <cmath>
 #include <string>
 
 namespace viewer {
@@ -137,6 +139,81 @@ TEST_F(PerspectiveMatchToolTest, EachEditIsAStepAndTellsWhoFollowsTheCamera)
     stage.setChangedCallback(nullptr);
 }
 
+TEST_F(PerspectiveMatchToolTest, TellsHowSureItIsAndTakesWhatElseIsKnown)
+{
+    ASSERT_TRUE(run("match.setActive", true));
+    ASSERT_TRUE(run("match.solve"));
+    EXPECT_EQ(tool.labels()[3].text, "Y2");
+    const QLineF ofY = line(nbdPerspectiveMatch::YLine2);
+    const QJsonArray off { ofY.x1() + 0.03, ofY.y1(), ofY.x2(), ofY.y2() };
+    ASSERT_TRUE(run("match.setLine", QJsonObject { { "line", "y2" }, { "ends", off } }));
+    EXPECT_TRUE(tool.labels()[3].text.startsWith("Y2: ")) << "how many pixels it is off";
+    EXPECT_TRUE(value("match.quality").toString().contains("Y2"));
+    EXPECT_TRUE(stage.undo());
+
+    const CameraPose before = stage.pose();
+    EXPECT_TRUE(run("match.turn", "x"));
+    EXPECT_EQ(line(nbdPerspectiveMatch::ZLine2), ofY);
+    EXPECT_EQ(value("match.result"), "Orientation and field of view follow the lines.");
+    EXPECT_TRUE(stage.undo());
+    EXPECT_EQ(stage.pose().from, before.from);
+
+    EXPECT_TRUE(run("match.setLens", QJsonObject { { "focalLength", 35 }, { "sensorWidth", 36 } }));
+    const double halfWidth = 18.0 / 35.0;
+    EXPECT_NEAR(std::tan(0.5 * value("match.fov").toDouble() * M_PI / 180.0),
+                halfWidth * stage.view().getHeight() / stage.view().getWidth(), 1e-5);
+    EXPECT_EQ(value("match.fovMode"), QJsonValue("fixed"));
+    EXPECT_TRUE(stage.undo());
+
+    EXPECT_TRUE(run("match.placeByLine", QJsonObject { { "line", "x1" }, { "length", 2.0 } }));
+    EXPECT_GT(stage.pose().from.dist(before.from), 0.1F);
+    osg::Pnt2f origin;
+    ASSERT_TRUE(nbCameraNavigation::project(stage.pose(), osg::Pnt3f(0.F, 0.F, 0.F),
+                                            stage.view().getWidth(), stage.view().getHeight(),
+                                            origin));
+    osg::Pnt2f begin;
+    ASSERT_TRUE(tool.findHandle("x1a", begin));
+    EXPECT_LT(origin.dist(begin), 0.2F);
+    EXPECT_TRUE(stage.undo());
+
+    send(names::kHover, begin);
+    ASSERT_EQ(tool.hoveredHandle(), "x1a");
+    EXPECT_TRUE(tool.nudge(QPoint(1, 0), true));
+    osg::Pnt2f nudged;
+    ASSERT_TRUE(tool.findHandle("x1a", nudged));
+    EXPECT_NEAR(nudged.x() - begin.x(), 1.0F, 0.01F);
+}
+
+TEST_F(PerspectiveMatchToolTest, ADraggedEndGoesToTheEdgeOfThePhotographNearby)
+{
+    QTemporaryDir folder;
+    QImage picture(stage.view().getWidth(), stage.view().getHeight(), QImage::Format_RGB32);
+    picture.fill(Qt::black);
+    ASSERT_TRUE(run("match.setActive", true));
+    osg::Pnt2f fixed;
+    osg::Pnt2f end;
+    ASSERT_TRUE(tool.findHandle("x1a", fixed) && tool.findHandle("x1b", end));
+    // Bright below the line from the first end to 20 pixels under the second one.
+    for (int x = 0; x < picture.width(); ++x) {
+        const double part = (x - fixed.x()) / static_cast<double>(end.x() - fixed.x());
+        const double edge = fixed.y() + part * static_cast<double>(end.y() + 20.F - fixed.y());
+        for (int y = std::max(0, qRound(edge)); y < picture.height(); ++y) {
+            picture.setPixel(x, y, 0xffffffffU);
+        }
+    }
+    const QString file = folder.filePath("edge.png");
+    ASSERT_TRUE(picture.save(file));
+    ASSERT_TRUE(run("match.setPhotograph", file));
+    ASSERT_TRUE(run("match.setEdgeSnapping", true));
+
+    send(names::kStop, dragOut("x1b", 0.0F, 16.0F));
+
+    osg::Pnt2f laid;
+    ASSERT_TRUE(tool.findHandle("x1b", laid));
+    EXPECT_NEAR(laid.y(), end.y() + 20.F, 1.5F);
+    EXPECT_TRUE(run("match.setEdgeSnapping", false));
+}
+
 TEST_F(PerspectiveMatchToolTest, RefusesWhatItCannotDoInOneLine)
 {
     const QJsonObject threeNumbers { { "line", "x1" }, { "ends", QJsonArray { 1, 2, 3 } } };
@@ -148,6 +225,9 @@ TEST_F(PerspectiveMatchToolTest, RefusesWhatItCannotDoInOneLine)
         { "match.setLinesType", "xw" },
         { "match.setMagnifyFactor", 0.5 },
         { "match.setLine", threeNumbers },
+        { "match.turn", "w" },
+        { "match.placeByLine", QJsonObject { { "line", "x1" }, { "length", 0 } } },
+        { "match.setLens", QJsonObject { { "focalLength", 35 } } },
         { "match.setLine", unknownLine },
     });
 
