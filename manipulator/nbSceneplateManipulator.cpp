@@ -93,6 +93,11 @@ void nbSceneplateManipulator::enableSnapping(bool on)
     course().snappingEnabled = on;
 }
 
+void nbSceneplateManipulator::setSnapToPlates(bool on)
+{
+    course().snapsToPlates = on;
+}
+
 void nbSceneplateManipulator::setDescriptionEnabled(bool on)
 {
     course().descriptionEnabled = on;

@@ -88,12 +88,21 @@ double snapBox(double centre, double half, const PlateView& view, osg::UInt32 ax
     offer(centre + half, length);
     offer(centre - half, 0.5 * length);
     offer(centre + half, 0.5 * length);
+    if (view.neighbours != nullptr) {
+        for (const float line : view.neighbours->centres[axis]) {
+            offer(centre, line);
+        }
+        for (const float line : view.neighbours->edges[axis]) {
+            offer(centre - half, line);
+            offer(centre + half, line);
+        }
+    }
     nearest.show(guides);
     return nearest.value - nearest.from;
 }
 
-/// Factor at which a corner that goes along a diagonal meets an edge or centre line of the view,
-/// the nearest within reach; otherwise the given one.
+/// Factor at which a corner that goes along a diagonal meets an edge or centre line of the view or
+/// an edge of a neighbour, the nearest within reach; otherwise the given one.
 double snapFactor(double factor, const osg::Pnt2f& anchor, const osg::Vec2f& diagonal,
                   const PlateView& view, PlateGuides& guides)
 {
@@ -104,9 +113,15 @@ double snapFactor(double factor, const osg::Pnt2f& anchor, const osg::Vec2f& dia
         if (std::abs(along) < kShortest) {
             continue;
         }
-        for (const double part : { 1.0, 0.5, 0.0 }) {
-            const double line = part * lengthOf(view, axis);
+        const auto offer = [&](double line) {
             nearest.offer(factor, (line - anchor[axis]) / along, axis, line);
+        };
+        for (const double part : { 1.0, 0.5, 0.0 }) {
+            offer(part * lengthOf(view, axis));
+        }
+        if (view.neighbours != nullptr) {
+            const auto& edges = view.neighbours->edges[axis];
+            std::for_each(edges.begin(), edges.end(), offer);
         }
     }
     nearest.show(guides);

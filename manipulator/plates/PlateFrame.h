@@ -8,6 +8,7 @@
 #include <array>
 #include <cstddef>
 #include <optional>
+#include <vector>
 
 /// Arithmetic of the scene-plate manipulator in pixels, without widget and nodes. Positions are
 /// device pixels, y from the top; angles are degrees, counter-clockwise on screen.
@@ -18,12 +19,21 @@ using PlateFrame = nbSceneplateLayout::Frame;
 /// Corners of a frame in its own axes: lower left, upper left, lower right, upper right.
 constexpr std::size_t kPlateCornerCount = 4;
 
+/// Places that other plates offer to snap to, by axis: edges and centres of the upright boxes
+/// around them, pixels.
+struct PlateNeighbours
+{
+    std::array<std::vector<float>, 2> edges;
+    std::array<std::vector<float>, 2> centres;
+};
+
 /// The view and how large handles are in it.
 struct PlateView
 {
     int widthPx = 0;
     int heightPx = 0;
     float unitPx = 1.0F;  ///< pixels per unit of the handle sizes below
+    const PlateNeighbours* neighbours = nullptr;  ///< null: none to snap to
 };
 
 /// Sizes of handles; a unit is a logical pixel at the default size of manipulators.
@@ -97,8 +107,9 @@ PlateHandles layOutHandles(const PlateFrame& frame, const PlateStance& stance, P
 PlateFrame changedFrame(const PlateFrame& frame, const PlateChange& change);
 
 /// Moves a frame by a distance. Edges of the upright box around it snap to the same edges of the
-/// view and to its centre lines, its centre to the centre lines; per axis the nearest within reach,
-/// the centre first. @param guides  receives the lines that were snapped to; null: no snapping
+/// view, to its centre lines and to edges of neighbours, its centre to the centre lines and to
+/// centres of neighbours; per axis the nearest within reach, the view and the centre first. @param
+/// guides  receives the lines that were snapped to; null: no snapping
 PlateChange moveFrame(const PlateFrame& start, const osg::Vec2f& distancePx, const PlateView& view,
                       PlateGuides* guides);
 
@@ -109,8 +120,9 @@ double cornerFactor(const PlateFrame& start, std::size_t corner, bool aboutCentr
                     const osg::Vec2f& distancePx);
 
 /// Scales a frame by a factor at a corner, see cornerFactor(). With guides the corner snaps to
-/// edges and centre lines of the view where its way along the diagonal meets them. The longer side
-/// never gets less than 4 pixels by it. A frame without size does not change.
+/// edges and centre lines of the view and edges of neighbours where its way along the diagonal
+/// meets them. The longer side never gets less than 4 pixels by it. A frame without size does not
+/// change.
 PlateChange scaleFrame(const PlateFrame& start, std::size_t corner, bool aboutCentre, double factor,
                        const PlateView& view, PlateGuides* guides);
 

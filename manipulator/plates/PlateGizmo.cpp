@@ -9,6 +9,7 @@
 
 #include <nbKernel/nbController.h>
 #include <nbKernel/nbOSGWidget.h>
+#include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGSceneplate/nbSceneplateList.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 #include <nbUtils/nbMessage.h>
@@ -141,6 +142,27 @@ std::vector<osg::SceneplatePtr> PlateGizmo::getPlates() const
     return found;
 }
 
+/// What the other plates that are seen offer to snap to, in the view of the drag.
+PlateNeighbours PlateGizmo::findNeighbours() const
+{
+    PlateNeighbours result;
+    for (const auto& entry : nbSceneplateList::collectShown(nbScenegraph::getSceneplateRoot())) {
+        const osg::UInt32 id = containerId(entry.node);
+        if (std::find(nodeIds.begin(), nodeIds.end(), id) != nodeIds.end()) {
+            continue;
+        }
+        const auto corners =
+            nbSceneplateLayout::corners(entry.plate, drag.view.widthPx, drag.view.heightPx);
+        for (const osg::UInt32 axis : { 0U, 1U }) {
+            const auto [low, high] = std::minmax(
+                { corners[0][axis], corners[1][axis], corners[2][axis], corners[3][axis] });
+            result.edges[axis].insert(result.edges[axis].end(), { low, high });
+            result.centres[axis].push_back(0.5F * (low + high));
+        }
+    }
+    return result;
+}
+
 // == Placement
 
 void PlateGizmo::place(const View& view)
@@ -220,6 +242,10 @@ bool PlateGizmo::prepare(const View& view)
     drag.start = nbSceneplateLayout::frame(getPlates(), drag.view.widthPx, drag.view.heightPx);
     drag.stance = chooseStance(drag.start, drag.view);
     drag.pressedPx = view.getPointer();
+    if (snapsToPlates) {
+        drag.neighbours = findNeighbours();
+        drag.view.neighbours = &drag.neighbours;
+    }
     previewPause.begin();
     return true;
 }

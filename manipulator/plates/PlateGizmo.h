@@ -32,6 +32,7 @@ public:
 
     bool precisionActive = false;
     bool snappingEnabled = false;
+    bool snapsToPlates = false;
     bool descriptionEnabled = true;
 
 protected:
@@ -65,6 +66,7 @@ private:
         osg::Pnt2f pressedPx;
         PlateStance stance;
         PlateView view;
+        PlateNeighbours neighbours;
         bool isBroken = false;  ///< other plates were set
         PlateChange change;  ///< sent last
         PlateGuides guides;
@@ -80,6 +82,7 @@ private:
     float unitPx() const { return pixelRatio * getSize() / kDefaultManipulatorSize; }
 
     std::vector<osg::SceneplatePtr> getPlates() const;
+    PlateNeighbours findNeighbours() const;
     PlateChange changeOf(const DragParameters& parameters, PlateGuides& guides) const;
     void put(std::size_t row, const osg::Pnt2f& centrePx, float rotation, const osg::Vec2f& size,
              float layer) const;

@@ -22,10 +22,11 @@ PlateFrame makeFrame(float x, float y, float width, float height, float rotation
 }
 
 /// Scales a frame by a pull at its upper right corner, whose opposite stays.
-PlateChange pullCorner(const PlateFrame& start, const osg::Vec2f& pull, PlateGuides* guides)
+PlateChange pullCorner(const PlateFrame& start, const osg::Vec2f& pull, PlateGuides* guides,
+                       const PlateView& view = kView)
 {
     constexpr std::size_t kCorner = 3;
-    return scaleFrame(start, kCorner, false, cornerFactor(start, kCorner, false, pull), kView,
+    return scaleFrame(start, kCorner, false, cornerFactor(start, kCorner, false, pull), view,
                       guides);
 }
 
@@ -116,6 +117,25 @@ TEST(PlateFrame, MovingSnapsBoxesToEdgesAndCentreLines)
         EXPECT_EQ(change.scaleFactor, 1.0F);
         EXPECT_EQ(change.rotation, 0.0F);
     }
+}
+
+TEST(PlateFrame, BoxesAndCornersSnapToOtherPlates)
+{
+    PlateNeighbours neighbours;
+    neighbours.edges[0] = { 505.F, 600.F };
+    neighbours.centres = { { { 550.F }, { 120.F } } };
+    PlateView view = kView;
+    view.neighbours = &neighbours;
+    const PlateFrame flat = makeFrame(200, 200, 100, 60);
+    PlateGuides guides;
+    EXPECT_EQ(moveFrame(flat, { 351, -84 }, view, &guides).offsetPx, osg::Vec2f(350, -80));
+    EXPECT_EQ(guides, PlateGuides({ 550, 120 })) << "centre to centre, before edge to edge";
+    guides = {};
+    EXPECT_EQ(moveFrame(flat, { 253, 0 }, view, &guides).offsetPx, osg::Vec2f(255, 0));
+    EXPECT_EQ(guides, PlateGuides({ 505 })) << "right edge to left edge";
+    guides = {};
+    EXPECT_NEAR(pullCorner(flat, { 250, -150 }, &guides, view).scaleFactor, 3.55F, 1e-5F);
+    EXPECT_EQ(guides[0], 505.F);
 }
 
 TEST(PlateFrame, AScaledCornerSnapsAlongItsDiagonal)

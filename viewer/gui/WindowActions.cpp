@@ -261,7 +261,11 @@ void WindowActions::addObjectActions(QMenu* menu)
         return stage.commands().value(QStringLiteral("plates.edit")).value_or(false).toBool();
     };
     forObjects = {
-        addCommand(menu, "scene.duplicate", tr("Dup&licate"), "Ctrl+D"),
+        addPlain(menu, "duplicate", tr("Dup&licate"), "Ctrl+D",
+                 [this, isEditingPlates](bool) {
+                     run(isEditingPlates() ? QStringLiteral("plates.duplicate")
+                                           : QStringLiteral("scene.duplicate"));
+                 }),
         addPlain(menu, "delete", tr("&Delete"), "Del",
                  [this, isEditingPlates](bool) {
                      run(isEditingPlates() ? QStringLiteral("plates.remove")

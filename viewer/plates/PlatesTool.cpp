@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/plates/PlatesTool.h"
 
+#include "viewer/plates/PlateArranging.h"
 #include "viewer/plates/PlateCommands.h"
 #include "viewer/plates/PlateField.h"
 #include "viewer/stage/Stage.h"
@@ -91,6 +92,8 @@ PlatesTool::PlatesTool(Stage& targetStage)
     module.addChangedCallback([this] { selectionHasChanged(); });
     stage.addTool(*this);
     addPlateCommands(stage, *this);
+    addPlateArranging(stage, *this);
+    manipulator.setSnapToPlates(true);
 }
 
 PlatesTool::~PlatesTool()
@@ -135,6 +138,27 @@ void PlatesTool::sceneCleared()
     while (root->getNChildren() > 0) {
         root->subChild(root->getNChildren() - 1);
     }
+}
+
+std::vector<StageTool::Label> PlatesTool::labels() const
+{
+    const std::vector<osg::NodePtr> nodes = selected();
+    if (!active || nodes.empty() || !stage.isDragging()) {
+        return {};
+    }
+    const osg::Pnt2f place =
+        nbSceneplateLayout::anchorPosition(nbSceneplateList::plateOf(nodes.back())->getAnchor(),
+                                           stage.view().getWidth(), stage.view().getHeight());
+    return { { place, Text::tr("Anchor") } };
+}
+
+bool PlatesTool::nudge(const QPoint& way, bool coarse)
+{
+    constexpr int kCoarsePx = 10;
+    const QPoint px = way * (coarse ? kCoarsePx : 1);
+    QString error;
+    return active && !selected().empty() &&
+        stage.commands().run(QStringLiteral("plates.move"), QJsonArray { px.x(), px.y() }, error);
 }
 
 void PlatesTool::update()

@@ -72,6 +72,10 @@ public:
     HandleAction actionOf(const std::string& handle) const override;
     QString handleText(const std::string& handle) const override;
     std::string draggedValues() const override;
+    /// The anchor of what is dragged.
+    std::vector<Label> labels() const override;
+    /// Moves the selected plates by a pixel.
+    bool nudge(const QPoint& way, bool coarse) override;
     QString selectionText() const override;
 
     /// A picture dropped while the tool is active becomes a plate there.

@@ -8,6 +8,7 @@
 #include <nbKernelServices/nbUndoService.h>
 #include <nbOpenSGSceneplate/nbSceneplateLayout.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
+#include <nbSceneplateModule/nbSceneplateArranging.h>
 #include <nbSceneplateModule/nbSceneplateEditing.h>
 #include <nbSceneplateModule/nbSceneplateModule.h>
 
@@ -329,6 +330,48 @@ TEST_F(nbSceneplateModuleTest, AddedPlatesLieInFrontAndRestackAsBlocks)
     while (undo->redo()) { }
     EXPECT_EQ(stack(), "abcx");
     EXPECT_FALSE(nbSceneplateEditing::add(osg::makeCoredNode<osg::Group>()));
+}
+
+TEST_F(nbSceneplateModuleTest, PlatesAreAlignedDistributedMovedAndDuplicatedAsOneStepEach)
+{
+    using Side = nbSceneplateArranging::Side;
+    const NodePtr other(osg::makeNodeFor(osg::Group::create()));
+    const osg::NodeRefPtr held(other);
+    const NodePtr left = add(-0.3f, 0.2f);
+    const NodePtr turned = add(0.f, 0.1f, 45.f);
+    const NodePtr right = add(0.4f, -0.25f);
+    const std::vector<NodePtr> all { left, other, turned, right };
+    const auto box = [](const NodePtr& node, osg::UInt32 axis) {
+        const auto corners = nbSceneplateLayout::corners(platetest::plateOf(node), 800, 600);
+        return std::minmax(
+            { corners[0][axis], corners[1][axis], corners[2][axis], corners[3][axis] });
+    };
+    const std::pair<float, float> above = box(left, 1);
+    const std::pair<float, float> outer(box(left, 0).first, box(right, 0).second);
+
+    nbSceneplateArranging::align(all, 1, Side::Low, 800, 600);
+    for (const NodePtr& node : { left, turned, right }) {
+        EXPECT_NEAR(box(node, 1).first, above.first, 0.51f) << "rounded to whole pixels";
+    }
+    EXPECT_TRUE(nbSceneplateArranging::distribute(all, 0, 800, 600));
+    EXPECT_NEAR(box(turned, 0).first - box(left, 0).second,
+                box(right, 0).first - box(turned, 0).second, 1.f);
+    EXPECT_EQ(box(left, 0).first, outer.first);
+    EXPECT_EQ(box(right, 0).second, outer.second);
+    EXPECT_FALSE(nbSceneplateArranging::distribute({ left, right, other }, 0, 800, 600));
+    nbSceneplateArranging::move({ right }, Vec2f(12.f, 6.f), 600);
+    EXPECT_NEAR(box(right, 0).second, outer.second + 12.f, 0.51f);
+    nbSceneplateArranging::align({ right }, 0, Side::High, 800, 600);
+    EXPECT_NEAR(box(right, 0).second, 800.f, 0.51f) << "one alone: in the view";
+    const auto copies = nbSceneplateArranging::duplicate(
+        { other, right }, [](const auto& name) { return name + "+"; });
+    ASSERT_EQ(copies.size(), 1U);
+    EXPECT_EQ(platetest::plateOf(copies[0])->getSize(), platetest::plateOf(right)->getSize());
+    EXPECT_EQ(nbSceneplateEditing::getStack().front(), copies[0]);
+    EXPECT_EQ(undo->getStack()->count(), 5);
+    while (undo->undo()) { }
+    EXPECT_EQ(platetest::plateOf(right)->getPosition(), Vec2f(0.4f, -0.25f));
+    EXPECT_EQ(nbSceneplateEditing::getStack().size(), 3U);
 }
 
 TEST_F(nbSceneplateModuleTest, ANewAnchorLeavesThePlateInPlace)
