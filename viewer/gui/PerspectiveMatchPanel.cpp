@@ -63,6 +63,7 @@ PerspectiveMatchPanel::PerspectiveMatchPanel(Stage& targetStage, PerspectiveMatc
     column->addLayout(form);
     addPhotograph(*form);
     addSettings(*form);
+    addKnowledge(*column);
     auto* lines = new QFormLayout;
     column->addLayout(lines);
     addLines(*lines);
@@ -123,6 +124,67 @@ void PerspectiveMatchPanel::addSettings(QFormLayout& form)
     form.addRow(tr("Magnifier"), ofUnlocked.back());
 }
 
+/// What a person may know besides the lines.
+void PerspectiveMatchPanel::addKnowledge(QBoxLayout& column)
+{
+    auto* form = new QFormLayout;
+    form->setRowWrapPolicy(QFormLayout::WrapAllRows);
+    column.addLayout(form);
+    const auto addNumber = [&](double start) {
+        NumberBox::Style style;
+        style.least = 0.01;
+        style.most = 1e5;
+        style.decimals = 2;
+        auto* box = new NumberBox(style, this);
+        box->display(start);
+        ofUnlocked.push_back(box);
+        return box;
+    };
+    const auto addRow = [&](const QString& label, std::vector<QWidget*> widgets) {
+        auto* row = new QHBoxLayout;
+        for (QWidget* widget : widgets) {
+            row->addWidget(widget);
+            ofUnlocked.push_back(widget);
+        }
+        form->addRow(label, row);
+        return row;
+    };
+    constexpr double kUsualLens = 35.0;
+    constexpr double kFullFrame = 36.0;
+    NumberBox* const focal = addNumber(kUsualLens);
+    NumberBox* const sensor = addNumber(kFullFrame);
+    QPushButton* const lens =
+        addButton(*addRow(tr("Lens, sensor (mm)"), { focal, sensor }), "match.setLens", tr("Set"));
+    connect(lens, &QPushButton::clicked, this, [=] {
+        run(QStringLiteral("match.setLens"),
+            QJsonObject { { "focalLength", focal->value() }, { "sensorWidth", sensor->value() } });
+    });
+    auto* line = new QComboBox(this);
+    for (int i = 0; i < PerspectiveMatchTool::kLineCount; ++i) {
+        line->addItem(QString(QLatin1String(PerspectiveMatchTool::lineName(i))).toUpper());
+    }
+    NumberBox* const length = addNumber(1.0);
+    QPushButton* const place =
+        addButton(*addRow(tr("A line from the origin, its length"), { line, length }),
+                  "match.placeByLine", tr("Place"));
+    connect(place, &QPushButton::clicked, this, [=] {
+        run(QStringLiteral("match.placeByLine"),
+            QJsonObject { { "line", line->currentText().toLower() },
+                          { "length", length->value() } });
+    });
+    QHBoxLayout* const turns = addRow(tr("Turn axes about"), {});
+    ofUnlocked.insert(ofUnlocked.end(), { lens, place });
+    for (const char* axis : { "x", "y", "z" }) {
+        QPushButton* const turn = addButton(*turns, axis, QString(QLatin1String(axis)).toUpper());
+        connect(turn, &QPushButton::clicked, this,
+                [this, axis] { run(QStringLiteral("match.turn"), QLatin1String(axis)); });
+        ofUnlocked.push_back(turn);
+    }
+    form->addRow(addSwitch(QStringLiteral("match.setEdgeSnapping"),
+                           tr("Lines snap to edges (Alt: not)"),
+                           QStringLiteral("match.edgeSnapping")));
+}
+
 void PerspectiveMatchPanel::addLines(QFormLayout& form)
 {
     NumberBox::Style style;
@@ -153,8 +215,8 @@ void PerspectiveMatchPanel::askForPhotograph()
 {
     const QString file =
         QFileDialog::getOpenFileName(this, tr("Open photograph"), {}, pictureFileFilter());
-    if (!file.isEmpty()) {
-        run(QStringLiteral("match.setPhotograph"), file);
+    if (!file.isEmpty() && run(QStringLiteral("match.setPhotograph"), file)) {
+        run(QStringLiteral("match.setEdgeSnapping"), true);
     }
 }
 
@@ -170,7 +232,8 @@ void PerspectiveMatchPanel::refresh()
     const auto fovDeg = static_cast<double>(stage().pose().fovDeg);
     setTextOf(result,
               tr("%1 Field of view %2°.", "sentence, number")
-                  .arg(tool.resultText(), QString::number(fovDeg, 'f', 2)));
+                      .arg(tool.resultText(), QString::number(fovDeg, 'f', 2)) +
+                  QLatin1Char(' ') + tool.qualityText());
 }
 
 }  // namespace viewer

@@ -28,6 +28,7 @@ private:
     QPushButton* addButton(QBoxLayout& row, const char* name, const QString& text);
     void addPhotograph(QFormLayout& form);
     void addSettings(QFormLayout& form);
+    void addKnowledge(QBoxLayout& column);
     void addLines(QFormLayout& form);
     void askForPhotograph();
 

@@ -22,6 +22,7 @@
 #include <QJsonObject>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QPainter>
 #include <QSignalBlocker>
 #include <QToolButton>
@@ -129,7 +130,40 @@ QBoxLayout* PlatesPanel::createButtons()
                 [this, command = entry.command] { run(QLatin1String(command)); });
         selectionButtons.push_back(button);
     }
+    addArranging(row);
     return row;
+}
+
+void PlatesPanel::addArranging(QBoxLayout* row)
+{
+    const struct
+    {
+        const char* command;
+        const char* value;
+        QString text;
+    } rows[] = {
+        { "plates.align", "left", tr("Align left") },
+        { "plates.align", "centre", tr("Align centres across") },
+        { "plates.align", "right", tr("Align right") },
+        { "plates.align", "top", tr("Align top") },
+        { "plates.align", "middle", tr("Align centres down") },
+        { "plates.align", "bottom", tr("Align bottom") },
+        { "plates.distribute", "across", tr("Equal gaps across") },
+        { "plates.distribute", "down", tr("Equal gaps down") },
+        { "plates.duplicate", "", tr("Duplicate") },
+    };
+
+    QToolButton* const button =
+        addButton(row, "platesArrange", QStringLiteral("≡"), tr("Arrange plates"));
+    button->setPopupMode(QToolButton::InstantPopup);
+    auto* menu = new QMenu(button);
+    button->setMenu(menu);
+    for (const auto& entry : rows) {
+        menu->addAction(entry.text, this, [this, command = entry.command, value = entry.value] {
+            run(QLatin1String(command), QLatin1String(value));
+        });
+    }
+    selectionButtons.push_back(button);
 }
 
 void PlatesPanel::createList()

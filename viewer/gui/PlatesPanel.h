@@ -35,6 +35,7 @@ private:
     QToolButton* addButton(QBoxLayout* row, const char* name, const QString& text,
                            const QString& tip);
     QBoxLayout* createButtons();
+    void addArranging(QBoxLayout* row);
     void createList();
     QFormLayout* createProperties();
     QWidget* createTextBox();
