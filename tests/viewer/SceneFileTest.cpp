@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/viewer/support/SceneEdits.h"
 #include "tests/viewer/support/SceneTest.h"
+#include "viewer/commands/JsonNumbers.h"
 #include "viewer/commands/JsonReader.h"
-#include "viewer/commands/JsonWriter.h"
 #include "viewer/loading/BuiltModel.h"
 #include "viewer/loading/PictureFile.h"
 #include "viewer/scenes/Recovery.h"
@@ -40,7 +40,7 @@ Number readBack(Number number)
 {
     QString error;
     Number found[1] = {};
-    const QByteArray text = "[" + exactJson(number) + "]";
+    const QByteArray text = QJsonDocument(QJsonArray { exactJson(number) }).toJson();
     const QJsonArray array = QJsonDocument::fromJson(text).array();
     EXPECT_TRUE(JsonReader(error).readExact(array, {}, found, 1)) << text.toStdString();
     return found[0];
@@ -68,7 +68,8 @@ TEST(ExactJson, GivesEveryFiniteNumberBackBitForBit)
         const double found = readBack(number);
         ASSERT_EQ(std::memcmp(&found, &number, sizeof(number)), 0) << number;
     }
-    EXPECT_EQ(exactJson(0.1F), QByteArray("0.1"));
+    EXPECT_EQ(QJsonDocument(QJsonArray { exactJson(0.1F) }).toJson(QJsonDocument::Compact),
+              "[0.1]");
 }
 
 class SceneFile : public SceneTest

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/gui/SessionRecorder.h"
 
-#include "viewer/commands/JsonWriter.h"
+#include "viewer/commands/JsonNumbers.h"
 #include "viewer/gui/ViewWidget.h"
 
 #include <QKeyEvent>

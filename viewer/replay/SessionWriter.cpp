@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "viewer/commands/JsonWriter.h"
 #include "viewer/replay/Session.h"
 #include "viewer/replay/SessionNames.h"
 #include "viewer/texts/TextFile.h"
@@ -7,13 +6,13 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
+#include <QJsonDocument>
 #include <QJsonObject>
 
 namespace viewer {
 namespace {
 
 using Type = SessionStep::Type;
-using Layout = JsonWriter::Layout;
 
 QJsonArray jsonOf(const std::array<double, 3>& point)
 {
@@ -111,83 +110,51 @@ bool hasButton(Type type)
         type == Type::DoubleClick;
 }
 
-/// Writes a session as one object, the entries in the order in which a person reads them.
-class Output
+QJsonObject jsonOf(const SessionCamera& camera)
 {
-public:
-    QByteArray textOf(const Session& session)
-    {
-        writer.beginObject(Layout::Lines);
-        put("session", 1);
-        put("size", QJsonArray { session.sizePx.width(), session.sizePx.height() });
-        put("files", QJsonArray::fromStringList(session.files), !session.files.isEmpty());
-        if (session.camera) {
-            putCamera(*session.camera);
-        }
-        put("selection", session.selection.value_or(QString()), session.selection.has_value());
-        put("manipulator", session.manipulator, !session.manipulator.isEmpty());
-        writer.key(QStringLiteral("steps"));
-        writer.beginArray(Layout::Lines);
-        for (const SessionStep& step : session.steps) {
-            putStep(step);
-        }
-        writer.endArray();
-        writer.endObject();
-        return writer.take();
+    QJsonObject object { { "from", jsonOf(camera.from) },
+                         { "at", jsonOf(camera.at) },
+                         { "up", jsonOf(camera.up) },
+                         { "fov", camera.fovDeg } };
+    if (camera.pivot && camera.pivot != camera.at) {
+        object["pivot"] = jsonOf(*camera.pivot);
     }
+    if (camera.orthographic) {
+        object["orthographic"] = true;
+    }
+    if (camera.zUp) {
+        object["zUp"] = true;
+    }
+    return object;
+}
 
-private:
-    void put(const char* key, const QJsonValue& value, bool isWanted = true)
-    {
+QJsonObject jsonOf(const SessionStep& step)
+{
+    QJsonObject object { { "type", stepTypeName(step.type) } };
+    const auto put = [&object](const char* key, const QJsonValue& value, bool isWanted) {
         if (isWanted) {
-            writer.key(QLatin1String(key));
-            writer.value(value);
+            object[QLatin1String(key)] = value;
         }
+    };
+    put("title", step.name, step.type == Type::Caption);
+    put("text", step.text, step.type == Type::Caption && !step.text.isEmpty());
+    put("command", step.name, step.type == Type::Command);
+    put("value", step.value, step.type == Type::Command && !step.value.isNull());
+    put("name", step.name, step.type == Type::Checkpoint);
+    put("at", jsonOf(step.at), hasPlace(step.type));
+    put("button", buttonName(step.button), hasButton(step.type) && step.button != Qt::LeftButton);
+    put("delta", step.wheelDelta, step.type == Type::Wheel);
+    put("key", step.key, !step.key.isEmpty());
+    put("modifiers", QJsonArray::fromStringList(modifierNames(step.modifiers)),
+        step.modifiers != Qt::NoModifier);
+    put("after", step.afterMs, step.afterMs != 0);
+    if (step.type == Type::Checkpoint) {
+        put("screenshot", true, step.screenshot);
+        const QJsonObject expectation = jsonOf(step.expectation);
+        put("expect", expectation, !expectation.isEmpty());
     }
-
-    void putCamera(const SessionCamera& camera)
-    {
-        writer.key(QStringLiteral("camera"));
-        writer.beginObject(Layout::Inline);
-        put("from", jsonOf(camera.from));
-        put("at", jsonOf(camera.at));
-        put("up", jsonOf(camera.up));
-        if (camera.pivot) {
-            put("pivot", jsonOf(*camera.pivot), camera.pivot != camera.at);
-        }
-        put("fov", camera.fovDeg);
-        put("orthographic", true, camera.orthographic);
-        put("zUp", true, camera.zUp);
-        writer.endObject();
-    }
-
-    void putStep(const SessionStep& step)
-    {
-        writer.beginObject(Layout::Inline);
-        put("type", stepTypeName(step.type));
-        put("title", step.name, step.type == Type::Caption);
-        put("text", step.text, step.type == Type::Caption && !step.text.isEmpty());
-        put("command", step.name, step.type == Type::Command);
-        put("value", step.value, step.type == Type::Command && !step.value.isNull());
-        put("name", step.name, step.type == Type::Checkpoint);
-        put("at", jsonOf(step.at), hasPlace(step.type));
-        put("button", buttonName(step.button),
-            hasButton(step.type) && step.button != Qt::LeftButton);
-        put("delta", step.wheelDelta, step.type == Type::Wheel);
-        put("key", step.key, !step.key.isEmpty());
-        put("modifiers", QJsonArray::fromStringList(modifierNames(step.modifiers)),
-            step.modifiers != Qt::NoModifier);
-        put("after", step.afterMs, step.afterMs != 0);
-        if (step.type == Type::Checkpoint) {
-            put("screenshot", true, step.screenshot);
-            const QJsonObject expectation = jsonOf(step.expectation);
-            put("expect", expectation, !expectation.isEmpty());
-        }
-        writer.endObject();
-    }
-
-    JsonWriter writer;
-};
+    return object;
+}
 
 /// A value of a command in which files that are there are named from a folder.
 QJsonValue fromFolder(const QJsonValue& value, const QDir& folder)
@@ -211,7 +178,27 @@ QJsonValue fromFolder(const QJsonValue& value, const QDir& folder)
 
 QByteArray sessionText(const Session& session)
 {
-    return Output().textOf(session);
+    QJsonObject object {
+        { "session", 1 }, { "size", QJsonArray { session.sizePx.width(), session.sizePx.height() } }
+    };
+    if (!session.files.isEmpty()) {
+        object["files"] = QJsonArray::fromStringList(session.files);
+    }
+    if (session.camera) {
+        object["camera"] = jsonOf(*session.camera);
+    }
+    if (session.selection) {
+        object["selection"] = *session.selection;
+    }
+    if (!session.manipulator.isEmpty()) {
+        object["manipulator"] = session.manipulator;
+    }
+    QJsonArray steps;
+    for (const SessionStep& step : session.steps) {
+        steps.append(jsonOf(step));
+    }
+    object["steps"] = steps;
+    return QJsonDocument(object).toJson();
 }
 
 bool writeSessionFile(const QString& path, const Session& session, QString& error)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "viewer/commands/JsonWriter.h"
+#include "viewer/commands/JsonNumbers.h"
 #include "viewer/scenes/SceneDocument.h"
 #include "viewer/scenes/SceneFields.h"
 #include "viewer/scenes/SceneNumbers.h"
@@ -8,14 +8,14 @@
 
 #include <QFileInfo>
 #include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 #include <cstring>
 #include <type_traits>
 
 namespace viewer {
 namespace {
-
-using Layout = JsonWriter::Layout;
 
 template <class Value>
 bool isSame(const Value& a, const Value& b)
@@ -31,14 +31,6 @@ bool isSame(const Value& a, const Value& b)
     }
 }
 
-/// What is set out in several lines; everything else is short.
-template <class Value>
-constexpr Layout kLayoutOf = std::is_same_v<Value, SceneDocument> ||
-        std::is_same_v<Value, SceneModel> || std::is_same_v<Value, SceneSurface> ||
-        std::is_same_v<Value, SceneComponent> || std::is_same_v<Value, SceneMatch>
-    ? Layout::Lines
-    : Layout::Inline;
-
 /// The archive of SceneFields.h that writes.
 class Output
 {
@@ -50,9 +42,7 @@ public:
     template <class Value>
     bool field(const char* key, const Value& value)
     {
-        writer.key(QLatin1String(key));
-        put(value);
-        return true;
+        return set(key, jsonOf(value));
     }
 
     template <class Value>
@@ -72,12 +62,7 @@ public:
         if (picture.png.isEmpty()) {
             return path(key, picture.file);
         }
-        writer.key(QLatin1String(key));
-        writer.beginObject(Layout::Inline);
-        writer.key(QStringLiteral("png"));
-        writer.value(QString::fromLatin1(picture.png.toBase64()));
-        writer.endObject();
-        return true;
+        return set(key, QJsonObject { { "png", QString::fromLatin1(picture.png.toBase64()) } });
     }
 
     bool version(const char* key, int number) { return field(key, number); }
@@ -102,7 +87,7 @@ public:
                 numbers.append(bit);
             }
         }
-        return array(key, numbers);
+        return numbers.isEmpty() || set(key, numbers);
     }
 
     template <std::size_t Count>
@@ -114,7 +99,7 @@ public:
                 texts.append(QLatin1String(words[bit]));
             }
         }
-        return array(key, texts);
+        return texts.isEmpty() || set(key, texts);
     }
 
     bool path(const char* key, const QString& file)
@@ -125,9 +110,7 @@ public:
     template <class Value>
     bool object(const char* key, Value& value)
     {
-        writer.key(QLatin1String(key));
-        putObject(value);
-        return true;
+        return set(key, objectOf(value));
     }
 
     template <class Value>
@@ -139,73 +122,63 @@ public:
     template <class Value>
     bool list(const char* key, std::vector<Value>& values)
     {
-        if (values.empty()) {
-            return true;
-        }
-        writer.key(QLatin1String(key));
-        writer.beginArray(Layout::Lines);
+        QJsonArray array;
         for (Value& value : values) {
-            putObject(value);
+            array.append(objectOf(value));
         }
-        writer.endArray();
-        return true;
+        return array.isEmpty() || set(key, array);
     }
 
-    QByteArray textOf(SceneDocument& document)
+    template <class Value>
+    QJsonObject objectOf(Value& value) const
     {
-        putObject(document);
-        return writer.take();
+        Output part(folder);
+        scenefields::describe(part, value);
+        return part.entries;
     }
 
 private:
-    bool array(const char* key, const QJsonArray& values)
+    bool set(const char* key, const QJsonValue& value)
     {
-        return values.isEmpty() || field(key, QJsonValue(values));
+        entries[QLatin1String(key)] = value;
+        return true;
     }
 
     template <class Value>
-    void putObject(Value& value)
-    {
-        writer.beginObject(kLayoutOf<std::remove_const_t<Value>>);
-        scenefields::describe(*this, value);
-        writer.endObject();
-    }
-
-    template <class Value>
-    void put(const Value& value)
+    static QJsonValue jsonOf(const Value& value)
     {
         if constexpr (SceneNumbers<Value>::kCount > 0) {
-            putNumbers(SceneNumbers<Value>::of(value));
+            return arrayOf(SceneNumbers<Value>::of(value));
         } else if constexpr (std::is_floating_point_v<Value>) {
-            writer.raw(exactJson(value));
+            return exactJson(value);
         } else if constexpr (std::is_same_v<Value, std::string>) {
-            writer.value(QString::fromStdString(value));
+            return QString::fromStdString(value);
         } else {
-            writer.value(QJsonValue(value));
+            return value;
         }
     }
 
-    void put(const std::array<QLineF, nbdPerspectiveMatch::kLineCount>& lines)
+    static QJsonValue jsonOf(const std::array<QLineF, nbdPerspectiveMatch::kLineCount>& lines)
     {
-        writer.beginArray(Layout::Lines);
+        QJsonArray array;
         for (const QLineF& line : lines) {
-            putNumbers(std::array<double, 4> { line.x1(), line.y1(), line.x2(), line.y2() });
+            array.append(arrayOf(std::array { line.x1(), line.y1(), line.x2(), line.y2() }));
         }
-        writer.endArray();
+        return array;
     }
 
     template <class Numbers>
-    void putNumbers(const Numbers& numbers)
+    static QJsonArray arrayOf(const Numbers& numbers)
     {
-        writer.beginArray(Layout::Inline);
+        QJsonArray array;
         for (const auto number : numbers) {
-            writer.raw(exactJson(number));
+            array.append(exactJson(number));
         }
-        writer.endArray();
+        return array;
     }
 
     QDir folder;
-    JsonWriter writer;
+    QJsonObject entries;
 };
 
 }  // namespace
@@ -213,7 +186,7 @@ private:
 QByteArray sceneText(const SceneDocument& document, const QDir& folder)
 {
     SceneDocument copy = document;
-    return Output(folder).textOf(copy);
+    return QJsonDocument(Output(folder).objectOf(copy)).toJson();
 }
 
 bool writeSceneFile(const QString& path, const SceneDocument& document, QString& error)
