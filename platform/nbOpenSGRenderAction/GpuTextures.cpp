@@ -9,6 +9,7 @@
 #include <OpenSG/OSGImage.h>
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <string>
 #include <vector>
@@ -16,6 +17,14 @@
 namespace nbrender {
 
 namespace {
+
+using Swizzle = std::array<GLint, 4>;
+constexpr Swizzle kAlpha { GL_ONE, GL_ONE, GL_ONE, GL_RED };
+constexpr Swizzle kIntensity { GL_RED, GL_RED, GL_RED, GL_RED };
+constexpr Swizzle kGrey { GL_RED, GL_RED, GL_RED, GL_ONE };
+constexpr Swizzle kGreyAlpha { GL_RED, GL_RED, GL_RED, GL_GREEN };
+constexpr Swizzle kColour { GL_RED, GL_GREEN, GL_BLUE, GL_ONE };
+constexpr Swizzle kColourAlpha { GL_RED, GL_GREEN, GL_BLUE, GL_ALPHA };
 
 /// How an image format is kept: core profiles know red, green, blue and alpha alone; the old
 /// formats are made of these by swizzling.
@@ -25,68 +34,20 @@ struct Layout
     GLenum external;
     GLenum internalByte;
     GLenum internalFloat;
-    GLint swizzle[4];
+    Swizzle swizzle;
     bool hasColor;
     bool hasAlpha;
 };
 
 constexpr Layout kLayouts[] = {
-    { osg::Image::OSG_A_PF,
-      GL_RED,
-      GL_R8,
-      GL_R16F,
-      { GL_ONE, GL_ONE, GL_ONE, GL_RED },
-      false,
-      true },
-    { osg::Image::OSG_I_PF,
-      GL_RED,
-      GL_R8,
-      GL_R16F,
-      { GL_RED, GL_RED, GL_RED, GL_RED },
-      true,
-      true },
-    { osg::Image::OSG_L_PF,
-      GL_RED,
-      GL_R8,
-      GL_R16F,
-      { GL_RED, GL_RED, GL_RED, GL_ONE },
-      true,
-      false },
-    { osg::Image::OSG_LA_PF,
-      GL_RG,
-      GL_RG8,
-      GL_RG16F,
-      { GL_RED, GL_RED, GL_RED, GL_GREEN },
-      true,
-      true },
-    { osg::Image::OSG_RGB_PF,
-      GL_RGB,
-      GL_RGB8,
-      GL_RGB16F,
-      { GL_RED, GL_GREEN, GL_BLUE, GL_ONE },
-      true,
-      false },
-    { osg::Image::OSG_BGR_PF,
-      GL_BGR,
-      GL_RGB8,
-      GL_RGB16F,
-      { GL_RED, GL_GREEN, GL_BLUE, GL_ONE },
-      true,
-      false },
-    { osg::Image::OSG_RGBA_PF,
-      GL_RGBA,
-      GL_RGBA8,
-      GL_RGBA16F,
-      { GL_RED, GL_GREEN, GL_BLUE, GL_ALPHA },
-      true,
-      true },
-    { osg::Image::OSG_BGRA_PF,
-      GL_BGRA,
-      GL_RGBA8,
-      GL_RGBA16F,
-      { GL_RED, GL_GREEN, GL_BLUE, GL_ALPHA },
-      true,
-      true },
+    { osg::Image::OSG_A_PF, GL_RED, GL_R8, GL_R16F, kAlpha, false, true },
+    { osg::Image::OSG_I_PF, GL_RED, GL_R8, GL_R16F, kIntensity, true, true },
+    { osg::Image::OSG_L_PF, GL_RED, GL_R8, GL_R16F, kGrey, true, false },
+    { osg::Image::OSG_LA_PF, GL_RG, GL_RG8, GL_RG16F, kGreyAlpha, true, true },
+    { osg::Image::OSG_RGB_PF, GL_RGB, GL_RGB8, GL_RGB16F, kColour, true, false },
+    { osg::Image::OSG_BGR_PF, GL_BGR, GL_RGB8, GL_RGB16F, kColour, true, false },
+    { osg::Image::OSG_RGBA_PF, GL_RGBA, GL_RGBA8, GL_RGBA16F, kColourAlpha, true, true },
+    { osg::Image::OSG_BGRA_PF, GL_BGRA, GL_RGBA8, GL_RGBA16F, kColourAlpha, true, true },
 };
 
 const Layout* findLayout(osg::UInt32 format)
@@ -205,7 +166,7 @@ GpuTexture upload(Gl& gl, const osg::ImagePtr& image, UploadOptions options)
     const bool isIntensity = layout->format == osg::Image::OSG_I_PF;
     gl.glGenTextures(1, &result.name);
     gl.glBindTexture(GL_TEXTURE_2D, result.name);
-    gl.glTexParameteriv(GL_TEXTURE_2D, GL_TEXTURE_SWIZZLE_RGBA, layout->swizzle);
+    gl.glTexParameteriv(GL_TEXTURE_2D, GL_TEXTURE_SWIZZLE_RGBA, layout->swizzle.data());
     options.premultiplied = options.premultiplied && layout->hasAlpha && layout->hasColor &&
         !isIntensity && image->getDataType() == osg::Image::OSG_UINT8_IMAGEDATA;
     uploadLevels(gl, image, *layout, options);

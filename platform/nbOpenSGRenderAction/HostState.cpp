@@ -7,31 +7,33 @@ namespace nbrender {
 
 namespace {
 
-constexpr HostState::Capability kStart[] = { { GL_MULTISAMPLE, true },
-                                             { GL_DEPTH_TEST, false },
-                                             { GL_BLEND, false },
-                                             { GL_CULL_FACE, false },
-                                             { GL_SCISSOR_TEST, false },
-                                             { GL_STENCIL_TEST, false },
-                                             { GL_DITHER, false },
-                                             { GL_FRAMEBUFFER_SRGB, false },
-                                             { GL_COLOR_LOGIC_OP, false },
-                                             { GL_SAMPLE_COVERAGE, false },
-                                             { GL_SAMPLE_MASK, false },
-                                             { GL_SAMPLE_ALPHA_TO_COVERAGE, false },
-                                             { GL_SAMPLE_ALPHA_TO_ONE, false },
-                                             { GL_PRIMITIVE_RESTART, false },
-                                             { GL_RASTERIZER_DISCARD, false },
-                                             { GL_DEPTH_CLAMP, false },
-                                             { GL_POLYGON_OFFSET_FILL, false },
-                                             { GL_POLYGON_OFFSET_LINE, false },
-                                             { GL_POLYGON_OFFSET_POINT, false },
-                                             { GL_POLYGON_SMOOTH, false },
-                                             { GL_LINE_SMOOTH, false },
-                                             { GL_PROGRAM_POINT_SIZE, true },
-                                             { GL_CLIP_DISTANCE0, false },
-                                             { GL_CLIP_DISTANCE1, false },
-                                             { GL_TEXTURE_CUBE_MAP_SEAMLESS, false } };
+/// Those that drawing needs on come first.
+constexpr std::size_t kOnCount = 2;
+constexpr GLenum kCapabilities[] = { GL_MULTISAMPLE,
+                                     GL_PROGRAM_POINT_SIZE,
+                                     GL_DEPTH_TEST,
+                                     GL_BLEND,
+                                     GL_CULL_FACE,
+                                     GL_SCISSOR_TEST,
+                                     GL_STENCIL_TEST,
+                                     GL_DITHER,
+                                     GL_FRAMEBUFFER_SRGB,
+                                     GL_COLOR_LOGIC_OP,
+                                     GL_SAMPLE_COVERAGE,
+                                     GL_SAMPLE_MASK,
+                                     GL_SAMPLE_ALPHA_TO_COVERAGE,
+                                     GL_SAMPLE_ALPHA_TO_ONE,
+                                     GL_PRIMITIVE_RESTART,
+                                     GL_RASTERIZER_DISCARD,
+                                     GL_DEPTH_CLAMP,
+                                     GL_POLYGON_OFFSET_FILL,
+                                     GL_POLYGON_OFFSET_LINE,
+                                     GL_POLYGON_OFFSET_POINT,
+                                     GL_POLYGON_SMOOTH,
+                                     GL_LINE_SMOOTH,
+                                     GL_CLIP_DISTANCE0,
+                                     GL_CLIP_DISTANCE1,
+                                     GL_TEXTURE_CUBE_MAP_SEAMLESS };
 
 /// Places in HostState::numbers.
 enum Number : std::size_t
@@ -96,10 +98,10 @@ void switchTo(Gl& gl, GLenum capability, bool on)
 HostState::HostState(Gl& context)
     : gl(context)
 {
-    static_assert(std::size(kStart) == kCapabilities && NumberCount == kNumbers);
-    for (std::size_t i = 0; i < kCapabilities; ++i) {
-        wasOn[i] = gl.glIsEnabled(kStart[i].name) == GL_TRUE;
-        switchTo(gl, kStart[i].name, kStart[i].startsOn);
+    static_assert(std::size(kCapabilities) == kCapabilityCount && NumberCount == kNumbers);
+    for (std::size_t i = 0; i < kCapabilityCount; ++i) {
+        wasOn[i] = gl.glIsEnabled(kCapabilities[i]) == GL_TRUE;
+        switchTo(gl, kCapabilities[i], i < kOnCount);
     }
     for (std::size_t i = 0; i < kNumbers; ++i) {
         if (i == Texture) {
@@ -124,8 +126,8 @@ HostState::HostState(Gl& context)
 
 HostState::~HostState()
 {
-    for (std::size_t i = 0; i < kCapabilities; ++i) {
-        switchTo(gl, kStart[i].name, wasOn[i]);
+    for (std::size_t i = 0; i < kCapabilityCount; ++i) {
+        switchTo(gl, kCapabilities[i], wasOn[i]);
     }
     restoreFunctions();
     restoreBindings();

@@ -22,21 +22,15 @@ public:
     HostState& operator=(const HostState&) = delete;
     ~HostState();
 
-    struct Capability
-    {
-        GLenum name;
-        bool startsOn;  ///< as drawing needs it
-    };
-
 private:
     void restoreFunctions() const;
     void restoreBindings() const;
 
-    static constexpr std::size_t kCapabilities = 25;
+    static constexpr std::size_t kCapabilityCount = 25;
     static constexpr std::size_t kNumbers = 21;
 
     Gl& gl;
-    std::array<bool, kCapabilities> wasOn {};
+    std::array<bool, kCapabilityCount> wasOn {};
     std::array<GLint, kNumbers> numbers {};
     std::array<GLint, 4> viewport {};
     std::array<GLint, 4> scissor {};
