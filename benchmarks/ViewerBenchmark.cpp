@@ -53,6 +53,8 @@ public:
         : window(viewer::MainWindow::Attendance::Unattended)
     {
         window.view().fixSize(QSize(1280, 800));
+        // As with a person there.
+        window.setCoarseWhileMoving(true);
         window.show();
         window.showStartScene();
         if (moreTriangles > 0) {

@@ -13,7 +13,6 @@ void clear(Gl& gl, const DepthLayout& depth)
 {
     constexpr GLfloat kNothing[] = { 0.0F, 0.0F, 0.0F, 0.0F };
     const GLfloat farthest = depth.getClearValue();
-    gl.glDisable(GL_SCISSOR_TEST);
     gl.glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
     gl.glDepthMask(GL_TRUE);
     gl.glClearBufferfv(GL_COLOR, 0, kNothing);
@@ -84,24 +83,44 @@ void FramePainter::drawScene(Gl& gl, const Frame& frame, const osg::ViewportPtr&
 }
 
 void FramePainter::drawHandles(Gl& gl, const Frame& frame, const osg::ViewportPtr& viewport,
-                               FrameTargets& targets, GLuint scene)
+                               FrameTargets& targets)
 {
     gl.glViewport(0, 0, frame.widthPx, frame.heightPx);
     begin(gl, frame, viewport, targets);
-    if (viewport == osg::NullFC || viewport->getCamera() == osg::NullFC) {
-        return;
+    if (viewport != osg::NullFC && viewport->getCamera() != osg::NullFC) {
+        const FrameView view = prepareView(frame, viewport);
+        FrameSteps steps;
+        osg::ContentStamp stamp;
+        addItems(steps, stamp, view, false, true);
+        drawItems(gl, frame, view, steps, 0, steps.size());
     }
+}
+
+PixelBox FramePainter::drawOver(Gl& gl, const Frame& frame, const osg::ViewportPtr& viewport,
+                                FrameTargets& targets, GLuint scene)
+{
+    gl.glViewport(0, 0, frame.widthPx, frame.heightPx);
     const FrameView view = prepareView(frame, viewport);
-    if (scene != 0) {
-        gl.glColorMaski(1, GL_FALSE, GL_FALSE, GL_FALSE, GL_FALSE);
-        drawPicture(gl, frame, scene, GL_LINEAR);
-        gl.glColorMaski(1, GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
-        plates.drawFront(gl, frame, textures);
-    }
     FrameSteps steps;
+    if (plates.hasFront()) {
+        steps.push_back({ FrameStep::Kind::FrontPlates, 0, true, 0 });
+    }
     osg::ContentStamp stamp;
     addItems(steps, stamp, view, false, true);
-    drawItems(gl, frame, view, steps, 0, steps.size());
+    PixelBox box;
+    for (const FrameStep& step : steps) {
+        box.unite(pixelsOf(step, frame, view));
+    }
+    targets.markDrawn(box);
+    gl.glEnable(GL_SCISSOR_TEST);
+    gl.glScissor(box.left, box.bottom, box.right - box.left, box.top - box.bottom);
+    clear(gl, depth);
+    gl.glColorMaski(1, GL_FALSE, GL_FALSE, GL_FALSE, GL_FALSE);
+    drawPicture(gl, frame, scene, GL_LINEAR);
+    gl.glColorMaski(1, GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
+    gl.glDisable(GL_SCISSOR_TEST);
+    drawSteps(gl, frame, viewport, view, steps, 0, steps.size());
+    return box;
 }
 
 void FramePainter::drawPicture(Gl& gl, const Frame& frame, GLuint texture, GLint filter)
@@ -122,6 +141,7 @@ void FramePainter::begin(Gl& gl, const Frame& frame, const osg::ViewportPtr& vie
                          FrameTargets& targets)
 {
     targets.markDrawn(wholeOf(frame));
+    gl.glDisable(GL_SCISSOR_TEST);
     clear(gl, depth);
     background.draw(gl, viewport, frame, programs, textures);
 }

@@ -42,11 +42,15 @@ public:
     void drawScene(Gl& gl, const Frame& frame, const osg::ViewportPtr& viewport,
                    FrameTargets& targets);
 
-    /// Draws background and handles alone, or the plates before the scene and handles over a
-    /// picture of the scene.
-    /// @param scene  texture, spread over the frame; 0 for the background
+    /// Draws background and handles alone.
     void drawHandles(Gl& gl, const Frame& frame, const osg::ViewportPtr& viewport,
-                     FrameTargets& targets, GLuint scene);
+                     FrameTargets& targets);
+
+    /// Draws plates before the scene and handles over a picture of the scene, where they are.
+    /// @param scene  texture, spread over the frame
+    /// @return outside of which nothing was drawn
+    PixelBox drawOver(Gl& gl, const Frame& frame, const osg::ViewportPtr& viewport,
+                      FrameTargets& targets, GLuint scene);
 
     /// Spreads a texture over what is bound. @param filter  of a texture that is smaller
     void drawPicture(Gl& gl, const Frame& frame, GLuint texture, GLint filter = GL_NEAREST);

@@ -62,6 +62,7 @@ struct nbRenderAction::Impl
     bool isHurried = false;
     int coarseness = 0;  ///< 0: all samples; otherwise one, and pixels to a side of it
     bool isCoarse = false;  ///< the last frame
+    nbrender::PixelBox wholePixels;  ///< of a coarse frame
 
     QPointer<QOpenGLContext> context;
     Gl* gl = nullptr;
@@ -143,7 +144,14 @@ void nbRenderAction::Impl::present(const osg::ViewportPtr& viewport, const Frame
     }
     gl->glBindFramebuffer(GL_FRAMEBUFFER, targetFramebuffer);
     gl->glViewport(0, 0, frame.widthPx, frame.heightPx);
+    if (isCoarse) {
+        painter.drawPicture(*gl, frame, coarseTargets.getTexture(shown), GL_LINEAR);
+        const nbrender::PixelBox& box = wholePixels;
+        gl->glEnable(GL_SCISSOR_TEST);
+        gl->glScissor(box.left, box.bottom, box.right - box.left, box.top - box.bottom);
+    }
     painter.drawPicture(*gl, frame, targets.getTexture(shown));
+    gl->glDisable(GL_SCISSOR_TEST);
     if (isLens) {
         magnifier.draw(*gl, pixelRatio, emptyArray);
         count.add(1);
@@ -167,8 +175,8 @@ bool nbRenderAction::Impl::drawCoarsely(const osg::ViewportPtr& viewport, const 
     painter.drawScene(*gl, coarse, viewport, coarseTargets);
     coarseTargets.resolve(*gl, FrameTargets::Buffer::Color);
     bindTargets(frame.widthPx, frame.heightPx, error);
-    painter.drawHandles(*gl, frame, viewport, targets,
-                        coarseTargets.getTexture(FrameTargets::Buffer::Color));
+    wholePixels = painter.drawOver(*gl, frame, viewport, targets,
+                                   coarseTargets.getTexture(FrameTargets::Buffer::Color));
     return true;
 }
 
@@ -236,7 +244,7 @@ bool nbRenderAction::render(const osg::ViewportPtr& viewport, int widthPx, int h
     const Frame frame { widthPx,      heightPx,         impl->pixelRatio, impl->shiftX,
                         impl->shiftY, impl->emptyArray, &impl->count };
     if (impl->isLensShown(viewport) && nbrender::BackgroundPainter::hasPhotograph(viewport)) {
-        impl->painter.drawHandles(*impl->gl, frame, viewport, impl->targets, 0);
+        impl->painter.drawHandles(*impl->gl, frame, viewport, impl->targets);
         impl->keepForLens(frame);
         impl->bindTargets(widthPx, heightPx, error);
     }

@@ -132,7 +132,7 @@ public:
     /// Whether the next pictures are of a camera that moves; not at the start. Where they take
     /// longer than 50 ms the scene is drawn with one sample per pixel, and if need be for every
     /// second pixel of a row and column, and spread below plates and handles that are as always.
-    /// The effect buffer then has nothing of the scene. While that or the lens is shown pictures
+    /// The effect buffer is then of no use. While that or the lens is shown pictures
     /// are whole.
     void setHurried(bool on);
 

@@ -50,6 +50,28 @@ TEST_F(RedrawTest, NothingIsDrawnWhileNothingChanges)
     EXPECT_EQ(frame().frames, highlighted) << "the same handle is highlighted";
 }
 
+TEST_F(RedrawTest, AfterTheViewMovedAWholePictureComesByItself)
+{
+    window.setCoarseWhileMoving(true);
+    modifiers = Qt::AltModifier;
+    bool wasCoarse = false;
+    press({ 300, 500 });
+    for (int x = 305; x < 325; x += 5) {
+        const std::size_t before = frame().frames;
+        move({ static_cast<qreal>(x), 500 });
+        waitUntil([&] { return frame().frames > before; });
+        wasCoarse = wasCoarse || frame().coarse;
+    }
+    release({ 320, 500 });
+    waitUntil([&] { return !frame().coarse; });
+    const QImage rested = view().grabFramebuffer();
+    view().setExact(true);
+    EXPECT_EQ(view().grabFramebuffer(), rested);
+    if (!wasCoarse) {
+        GTEST_SKIP() << "this machine draws whole pictures in time";
+    }
+}
+
 TEST_F(RedrawTest, ALostContextLosesNothing)
 {
     moveTo({ 3, 3 });

@@ -72,6 +72,7 @@ MainWindow::MainWindow(Attendance attendance)
     layout->addWidget(viewWidget, 0, 0);
     setCentralWidget(centre);
     messageBar = new MessageBar(viewWidget);
+    viewWidget->setCoarseWhileMoving(mode == Attendance::Attended && memory::coarseWhileMoving());
     if (mode == Attendance::Attended) {
         shownTheme = memory::theme();
         applyTheme(shownTheme);
@@ -418,6 +419,14 @@ void MainWindow::setTheme(Theme theme)
     applyTheme(theme);
     if (mode == Attendance::Attended) {
         memory::keepTheme(theme);
+    }
+}
+
+void MainWindow::setCoarseWhileMoving(bool on)
+{
+    viewWidget->setCoarseWhileMoving(on);
+    if (mode == Attendance::Attended) {
+        memory::keepCoarseWhileMoving(on);
     }
 }
 

@@ -87,6 +87,9 @@ public:
     /// with the next events: everything around the view is made anew.
     void setLanguage(Language language);
 
+    /// See nbViewWidget::setCoarseWhileMoving(); remembered with a person there.
+    void setCoarseWhileMoving(bool on);
+
     /// Lets the view alone fill the screen, or shows the window as it was before.
     void showWhole(bool on);
 

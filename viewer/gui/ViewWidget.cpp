@@ -106,11 +106,12 @@ QString ViewWidget::frameText() const
     constexpr int kDecimals = 1;
     const nbRenderAction::Statistics frame = frameStatistics();
     const QString text = frame.reused > 0
-        ? tr("%1 ms, %2 draw calls, %L3 triangles, scene image reused, %4 ms from input to picture")
-        : tr("%1 ms, %2 draw calls, %L3 triangles, %4 ms from input to picture");
-    return text.arg(frame.milliseconds, 0, 'f', kDecimals)
-        .arg(frame.drawCalls)
-        .arg(frame.triangles)
+        ? tr("%1 ms, %2 draw calls, %L3 triangles, scene image reused")
+        : tr("%1 ms, %2 draw calls, %L3 triangles");
+    return tr("%1; input to picture %2 ms")
+        .arg(text.arg(frame.milliseconds, 0, 'f', kDecimals)
+                 .arg(frame.drawCalls)
+                 .arg(frame.triangles))
         .arg(inputToPictureMs(), 0, 'f', kDecimals);
 }
 

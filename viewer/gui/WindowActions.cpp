@@ -303,6 +303,10 @@ void WindowActions::addViewMenu()
     addSwitch(menu, "effectBuffer", tr("Show &effect buffer"), "B",
               [this](bool on) { window.showEffectBuffer(on); });
     addCommand(menu, "view.setFrameStatistics", tr("Frame stat&istics"), "")->setCheckable(true);
+    QAction* coarse = addPlain(menu, "coarseWhileMoving", tr("&Coarse while the view moves"), {},
+                               [this](bool on) { window.setCoarseWhileMoving(on); });
+    coarse->setCheckable(true);
+    coarse->setChecked(window.view().isCoarseWhileMoving());
     menu->addSeparator();
     addThemes(menu->addMenu(tr("&Theme")));
     addLanguages(menu->addMenu(tr("Lan&guage")));

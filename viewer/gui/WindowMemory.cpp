@@ -17,6 +17,7 @@ const char* const kRecentKey = "recentFiles";
 const char* const kLayoutKey = "windowLayout";
 const char* const kGeometryKey = "windowGeometry";
 const char* const kThemeKey = "theme";
+const char* const kCoarseKey = "coarseWhileMoving";
 const char* const kLanguageKey = "language";
 
 }  // namespace
@@ -63,6 +64,16 @@ Language language()
 void keepLanguage(Language language)
 {
     QSettings().setValue(kLanguageKey, languageName(language));
+}
+
+bool coarseWhileMoving()
+{
+    return QSettings().value(kCoarseKey, true).toBool();
+}
+
+void keepCoarseWhileMoving(bool on)
+{
+    QSettings().setValue(kCoarseKey, on);
 }
 
 QStringList recentFiles()

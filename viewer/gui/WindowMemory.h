@@ -29,6 +29,9 @@ void keepTheme(Theme theme);
 Language language();
 void keepLanguage(Language language);
 
+bool coarseWhileMoving();
+void keepCoarseWhileMoving(bool on);
+
 /// Absolute paths, the newest first.
 QStringList recentFiles();
 /// Puts files before those known, each once. @return the new list

@@ -1544,6 +1544,10 @@
         <source>%1 ms, %2 draw calls, %L3 triangles, scene image reused</source>
         <translation>%1 ms, %2 Zeichenaufrufe, %L3 Dreiecke, Szenenbild wiederverwendet</translation>
     </message>
+    <message>
+        <source>%1; input to picture %2 ms</source>
+        <translation>%1; Eingabe bis Bild %2 ms</translation>
+    </message>
 </context>
 <context>
     <name>viewer::WindowActions</name>
@@ -1899,6 +1903,10 @@
     <message>
         <source>Draw what a &amp;drag has come to</source>
         <translation>&amp;Zurückgelegtes zeichnen</translation>
+    </message>
+    <message>
+        <source>&amp;Coarse while the view moves</source>
+        <translation>Grob, so&amp;lange sich die Ansicht bewegt</translation>
     </message>
 </context>
 </TS>

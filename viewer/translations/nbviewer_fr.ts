@@ -1544,6 +1544,10 @@
         <source>%1 ms, %2 draw calls, %L3 triangles, scene image reused</source>
         <translation>%1 ms, %2 appels de dessin, %L3 triangles, image de la scène réutilisée</translation>
     </message>
+    <message>
+        <source>%1; input to picture %2 ms</source>
+        <translation>%1&#xa0;; de l’entrée à l’image %2 ms</translation>
+    </message>
 </context>
 <context>
     <name>viewer::WindowActions</name>
@@ -1899,6 +1903,10 @@
     <message>
         <source>Draw what a &amp;drag has come to</source>
         <translation>T&amp;racer le déplacement</translation>
+    </message>
+    <message>
+        <source>&amp;Coarse while the view moves</source>
+        <translation>&amp;Moins net pendant que la vue bouge</translation>
     </message>
 </context>
 </TS>

@@ -1540,6 +1540,10 @@
         <source>%1 ms, %2 draw calls, %L3 triangles, scene image reused</source>
         <translation>%1 毫秒，%2 次绘制调用，%L3 个三角形，复用场景图像</translation>
     </message>
+    <message>
+        <source>%1; input to picture %2 ms</source>
+        <translation>%1；输入到画面 %2 毫秒</translation>
+    </message>
 </context>
 <context>
     <name>viewer::WindowActions</name>
@@ -1895,6 +1899,10 @@
     <message>
         <source>Draw what a &amp;drag has come to</source>
         <translation>绘制拖动轨迹(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Coarse while the view moves</source>
+        <translation>视图移动时降低精度(&amp;C)</translation>
     </message>
 </context>
 </TS>

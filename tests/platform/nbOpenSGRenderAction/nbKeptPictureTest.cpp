@@ -344,4 +344,69 @@ TEST_F(KeptPictureTest, EffectBufferAndSamplesChangeNothing)
     }
 }
 
+TEST_F(KeptPictureTest, ADragDrawsTheRestOnceWhereverItIsInTheTreeAndGoes)
+{
+    const auto ball = [](const QColor& c, osg::UInt16 rows, float x) {
+        return placed(colored(osg::makeLatLongSphere(rows, rows, 0.6f), lit(c)),
+                      osg::Vec3f(x, 0.f, 0.f));
+    };
+    const osg::NodePtr first = ball(kRed, 12, -0.9f);
+    const osg::NodePtr middle = ball(kGreen, 12, 0.9f);
+    const osg::NodeRefPtr root(group({ first, ball(kBlue, 80, 0.f), middle }));
+    viewport->setRoot(root.get());
+    view->getAction().setMovedLast(true);
+    // The last one goes beyond the bounds of the others.
+    const std::vector<std::pair<osg::NodePtr, float>> drags { { first, 0.02f },
+                                                              { middle, -0.02f },
+                                                              { first, 0.4f } };
+    for (const auto& [node, z] : drags) {
+        view->render(viewport.get(), widthPx, kSize);
+        for (int step = 0; step < 6; ++step) {
+            turn(node, z);
+            const QImage quick = view->render(viewport.get(), widthPx, kSize);
+            const QImage full = plainView->render(viewport.get(), widthPx, kSize);
+            // Depths are rounded otherwise, which single samples of a meeting may show.
+            EXPECT_LE(difference(quick, full), 20) << "step " << step;
+            EXPECT_EQ(reused(), step == 0 ? 0U : 2U) << "step " << step;
+        }
+    }
+    lookFrom(osg::Pnt3f(2.f, 3.1f, 6.f));
+    compare("the camera moved");
+    view->getAction().setMovedLast(false);
+    turn(middle, 0.02f);
+    compare("in the tree's order again");
+}
+
+TEST_F(KeptPictureTest, SlowPicturesOfAMovingCameraAreCoarseBelowWholeHandles)
+{
+    // What a software renderer does not draw in time.
+    const QSize slow(2600, 1800);
+    const auto draw = [&](nbOffscreenView& in) {
+        return in.render(viewport.get(), slow.width(), slow.height());
+    };
+    const QImage whole = draw(*view);
+    view->getAction().setHurried(true);
+    draw(*view);
+    draw(*view);
+    const QImage coarse = draw(*view);
+    view->getAction().setHurried(false);
+    if (!view->getAction().getStatistics().coarse) {
+        GTEST_SKIP() << "this machine draws whole pictures in time";
+    }
+    EXPECT_NE(coarse, whole);
+    const auto small = [](const QImage& picture) {
+        return picture.scaled(130, 90, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    };
+    const QImage a = small(coarse);
+    const QImage b = small(whole);
+    int most = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            most = std::max(most, std::abs(qGray(a.pixel(x, y)) - qGray(b.pixel(x, y))));
+        }
+    }
+    EXPECT_LE(most, 24) << "another picture, not a coarser one";
+    EXPECT_EQ(draw(*view), whole);
+}
+
 }  // namespace
