@@ -23,6 +23,7 @@ public:
         handles.setManipulator(&gizmo);
         handles.connectDragKeys(interaction());  // values can be typed during a drag
         interaction().addContext(&handles);
+        gizmo.setReadoutShown(true);  // says how far the drag has come
     }
 
 protected:
@@ -33,13 +34,6 @@ protected:
     }
 
     void prepareFrame() override { gizmo.update(true); }
-
-    void viewResized(const QSize& size, float pixelRatio) override
-    {
-        nbSceneWidget::viewResized(size, pixelRatio);
-        picker.setPixelRatio(pixelRatio);
-        gizmo.setReadoutShown(true, pixelRatio);  // says how far the drag has come
-    }
 
 private:
     nbec::interaction::Picker picker;

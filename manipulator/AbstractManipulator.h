@@ -128,7 +128,8 @@ public:
     QString getReadout() const;
 
     /// Shows the readout beside the pointer during drags, as a text of a notifier "dragReadout";
-    /// off at the start. @param pixelRatio  device pixels per logical pixel of the view, > 0
+    /// off at the start. @param pixelRatio  device pixels per logical pixel of a view that does not
+    /// tell it, > 0
     void setReadoutShown(bool on, float pixelRatio = 1.0F);
 
     /// While on, at most until the drag's end, the pointer counts for a tenth, without a jump when

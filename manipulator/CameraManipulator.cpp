@@ -167,10 +167,11 @@ void CameraManipulator::updateManipulator()
         return;
     }
     // Deliberate: a new aspect alone does not resize the cross of an orthographic view.
-    if (view.getEye().equals(from, kUnchangedTolerance) &&
+    if (view.getWidget() == placedFor && view.getEye().equals(from, kUnchangedTolerance) &&
         view.getPivot().equals(pivot, kUnchangedTolerance) && view.getFov() == fov) {
         return;
     }
+    placedFor = view.getWidget();
     fov = view.getFov();
     from = view.getEye();
     pivot = view.getPivot();

@@ -110,7 +110,8 @@ private:
     std::vector<osg::NodePtr> otherNodes;
     bool descriptionEnabled = true;
 
-    // The camera as it was when the cross was placed last.
+    // View and camera as they were when the cross was placed last.
+    const nbOSGWidget* placedFor = nullptr;
     float fov = 0.0F;
     osg::Pnt3f pivot;
     osg::Pnt3f from;

@@ -3,11 +3,9 @@
 
 #include "manipulator/ManipulatorInteractionContext.h"
 #include "manipulator/course/DragControl.h"
-#include "manipulator/course/PickerOf.h"
 #include "manipulator/handles/ContainerReference.h"
 #include "manipulator/match/PerspectiveMatchVisualisation.h"
 
-#include <nbInteraction/Picker.h>
 #include <nbKernel/nbOSGWidget.h>
 #include <nbKernelServices/nbKernelServiceFactory.h>
 #include <nbKernelServices/nbObjectService.h>
@@ -19,6 +17,8 @@
 #include <nbOpenSGUberCamera/nbUberCameraPool.h>
 
 #include <QtCore/QCoreApplication>
+
+#include <EditStamp.h>
 
 namespace nbec::manipulator {
 
@@ -169,7 +169,6 @@ void PerspectiveMatchManipulator::activate(ManipulatorInteractionContext* ctx)
 {
     const bool wasActive = isActive();
     AbstractManipulator::activate(ctx);
-    takePixelRatio(ctx);
     visualisation->show(true);
     updateManipulator();
     if (!wasActive) {
@@ -198,7 +197,8 @@ osg::NodePtr PerspectiveMatchManipulator::getVisualisation()
 
 void PerspectiveMatchManipulator::update(bool force)
 {
-    if (isActive() && force) {
+    followView();
+    if (force) {
         updateManipulator();
     }
 }
@@ -209,6 +209,7 @@ bool PerspectiveMatchManipulator::startManipulator(ManipulatorInteractionContext
     if (!hovered) {
         return false;
     }
+    followView();
     grabbed = updateMode();
     if (grabbed) {
         visualisation->setDragged({ line, handle });
@@ -220,6 +221,7 @@ bool PerspectiveMatchManipulator::startManipulator(ManipulatorInteractionContext
 bool PerspectiveMatchManipulator::processManipulator(ManipulatorInteractionContext* /*ctx*/,
                                                      const std::string& /*tool*/)
 {
+    followView();
     const View view(getMousePosition());
     if (handle == match::kNoPart || viewportOf(view) == osg::NullFC) {
         return false;
@@ -243,14 +245,14 @@ bool PerspectiveMatchManipulator::stopManipulator(ManipulatorInteractionContext*
     return wasHeld;
 }
 
-bool PerspectiveMatchManipulator::hoverManipulator(ManipulatorInteractionContext* ctx,
+bool PerspectiveMatchManipulator::hoverManipulator(ManipulatorInteractionContext* /*ctx*/,
                                                    const std::string& /*tool*/)
 {
     if (grabbed) {
         return false;
     }
     hovered = true;
-    takePixelRatio(ctx);
+    followView();
     const bool isFound = updateMode();
     visualisation->highlight({ line, handle });
     return isFound;
@@ -316,16 +318,21 @@ void PerspectiveMatchManipulator::updateManipulator()
     if (!isActive()) {
         return;
     }
-    visualisation->setCamera(nbUberCameraPool::get(cameraId), viewportOf(View()));
+    followView();
     getNbdCameraNode().layFreshLines();
     visualisation->setLines(linesOf(getNbdCameraNode()));
     visualisation->placeMagnifier({ line, handle });
 }
 
-void PerspectiveMatchManipulator::takePixelRatio(ManipulatorInteractionContext* ctx)
+/// Lays the lines out for the main view.
+void PerspectiveMatchManipulator::followView()
 {
-    if (const interaction::Picker* const picker = pickerOf(ctx); picker != nullptr) {
-        visualisation->setPixelRatio(picker->getPixelRatio());
+    if (isActive()) {
+        const View view;
+        const osg::glue::EditsForOneView placing(placedFor != view.getWidget());
+        placedFor = view.getWidget();
+        visualisation->setCamera(nbUberCameraPool::get(cameraId), viewportOf(view),
+                                 nbOSGWidget::getPixelRatio(-1));
     }
 }
 

@@ -121,7 +121,7 @@ private:
     osg::Line2D movedLine(const osg::Vec2f& way) const;
     void apply(const DragParameters& parameters);
     void applyNow(const DragParameters& parameters);
-    void takePixelRatio(ManipulatorInteractionContext* ctx);
+    void followView();
 
     void updateMagnifier();
 
@@ -130,6 +130,7 @@ private:
     static Instances<PerspectiveMatchManipulator> instances;
 
     osg::UInt32 cameraId = 0;
+    const nbOSGWidget* placedFor = nullptr;  ///< for comparison only
     std::unique_ptr<match::PerspectiveMatchVisualisation> visualisation;
     PerspectiveMatchLine line = PerspectiveMatchLine::NoLine;
     osg::UInt32 handle = 0;

@@ -3,11 +3,9 @@
 
 #include "manipulator/plates/PlateGizmo.h"
 
-#include <nbInteraction/Picker.h>
 #include <nbKernel/nbOSGWidget.h>
 
 using nbec::manipulator::Instances;
-using nbec::manipulator::pickerOf;
 using nbec::manipulator::plates::PlateGizmo;
 
 Instances<nbSceneplateManipulator> nbSceneplateManipulator::instances;
@@ -34,7 +32,6 @@ PlateGizmo& nbSceneplateManipulator::course() const
 
 void nbSceneplateManipulator::activate(ManipulatorInteractionContext* ctx)
 {
-    followPixelRatio(ctx);
     course().setInUse(true);
     GizmoFace::activate(ctx);
 }
@@ -46,34 +43,11 @@ void nbSceneplateManipulator::deactivate(ManipulatorInteractionContext* ctx)
     gizmo->hide();
 }
 
-bool nbSceneplateManipulator::startManipulator(ManipulatorInteractionContext* ctx,
-                                               const std::string& hint)
-{
-    followPixelRatio(ctx);
-    return GizmoFace::startManipulator(ctx, hint);
-}
-
-bool nbSceneplateManipulator::hoverManipulator(ManipulatorInteractionContext* ctx,
-                                               const std::string& hint)
-{
-    if (!gizmo->isGrabbed()) {
-        followPixelRatio(ctx);
-    }
-    return GizmoFace::hoverManipulator(ctx, hint);
-}
-
 bool nbSceneplateManipulator::setManipulatorMode(const std::string& mode)
 {
     course().precisionActive = mode == "precisionTool";
     // Deliberate: "tool" answers false although it has ended the precise mode.
     return course().precisionActive || mode.empty();
-}
-
-void nbSceneplateManipulator::followPixelRatio(ManipulatorInteractionContext* ctx)
-{
-    if (const nbec::interaction::Picker* const picker = pickerOf(ctx); picker != nullptr) {
-        course().setPixelRatio(picker->getPixelRatio());
-    }
 }
 
 // == Plates and settings

@@ -66,9 +66,6 @@ public:
     /// Also lets go of a grabbed handle.
     void deactivate(ManipulatorInteractionContext* ctx) override;
 
-    bool startManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
-    bool hoverManipulator(ManipulatorInteractionContext* ctx, const std::string& hint) override;
-
     /// "precisionTool": see scaling and snapping above; every other mode ends it. As of the
     /// transform gizmo, "precisionTool" and "" answer true and all others false.
     bool setManipulatorMode(const std::string& mode) override;
@@ -114,7 +111,6 @@ private:
 
     void updateManipulator() { gizmo->placeIn(nbec::manipulator::View()); }
 
-    void followPixelRatio(ManipulatorInteractionContext* ctx);
     nbec::manipulator::plates::PlateGizmo& course() const;
 
     static nbec::manipulator::Instances<nbSceneplateManipulator> instances;

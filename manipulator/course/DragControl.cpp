@@ -4,6 +4,8 @@
 #include "manipulator/course/DragReadout.h"
 #include "manipulator/course/ValueText.h"
 
+#include <nbKernel/nbOSGWidget.h>
+
 #include <algorithm>
 #include <cmath>
 
@@ -148,7 +150,8 @@ void DragControl::showReadout() const
     constexpr float kBesidePx = 16.0F;
     if (isReadoutShown) {
         text.showAt(getReadout(),
-                    osg::Vec2f(lastPointer.x(), lastPointer.y()) * (1.0F / pixelRatio) +
+                    osg::Vec2f(lastPointer.x(), lastPointer.y()) *
+                            (1.0F / nbOSGWidget::getPixelRatio(-1, pixelRatio)) +
                         osg::Vec2f(kBesidePx, kBesidePx));
     }
 }

@@ -66,7 +66,7 @@ public:
     QString getReadout() const;
 
     /// Shows the readout beside the pointer during drags, with a notifier "dragReadout".
-    /// @param ratio  device pixels per logical pixel, > 0
+    /// @param ratio  device pixels per logical pixel of a view that does not tell it, > 0
     void setReadoutShown(bool on, float ratio)
     {
         isReadoutShown = on;

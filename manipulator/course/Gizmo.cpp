@@ -11,6 +11,8 @@
 
 #include <utility>
 
+#include <EditStamp.h>
+
 namespace nbec::manipulator {
 
 Gizmo::Gizmo(const CourseRules& courseRules, const HandleTable& table,
@@ -150,6 +152,9 @@ bool Gizmo::processEvent(const View& view)
 
 bool Gizmo::begin(const View& view)
 {
+    if (watch.isForOtherView()) {
+        placeIn(view);  // as another one was drawn since the handle was hit
+    }
     track = DragTrack();
     prepared = prepare(view) && armed != 0;  // who heard of it may have ended the drag
     if (prepared) {
@@ -427,7 +432,8 @@ void Gizmo::update(bool force)
     }
     watch.note(own);
     const View view;
-    if (force || watch.isSizedOtherwise() || isTreeMoved() || isDisplaced(view)) {
+    if (force || watch.isForOtherView() || watch.isSizedOtherwise() || isTreeMoved() ||
+        isDisplaced(view)) {
         placeIn(view);
     }
 }
@@ -439,9 +445,10 @@ void Gizmo::placeIn(const View& view)
         return;
     }
     handles.takePalette();
+    const osg::glue::EditsForOneView placing(watch.isForOtherView());
     place(view);
     fadeHandles(view);
-    watch.rememberSize();
+    watch.placed();
     if (const osg::Transform3DPtr placed = handles.getRootTransform(); placed != osg::NullFC) {
         placedAt = placed->getTranslation();
         placedScale = placed->getScale();

@@ -105,8 +105,8 @@ public:
 
     // == Placement
 
-    /// Places the handles if something was noticed that their place depends on. Nothing without
-    /// something to edit. @param force  in any case
+    /// Places the handles if something was noticed that their place depends on, or for another view
+    /// than before. Nothing without something to edit. @param force  in any case
     void update(bool force);
     /// Places the handles; nothing without something to edit.
     void placeIn(const View& view);

@@ -11,12 +11,6 @@ namespace {
 
 constexpr float kTolerance = 1e-6F;
 
-/// Height of the main view where the gizmos' size depends on it; else 0.
-int decisiveHeight()
-{
-    return getSizePolicy().arrowPx > 0.0F ? View().getHeight() : 0;
-}
-
 /// Size of gizmos in an orthographic view; 0 in any other.
 float orthographicSize(const View& view)
 {
@@ -29,19 +23,23 @@ float orthographicSize(const View& view)
 bool PlacementWatch::mayHaveChanged(float own) const
 {
     return !isKnown || osg::glue::editStamp() != editStamp || own != ownNumber ||
-        nbOSGWidget::getMGLW(-1) != widget || !(getSizePolicy() == policy) ||
-        decisiveHeight() != heightPx;
+        nbOSGWidget::getMGLW(-1) != widget || View().arrowPart() != arrowPart;
 }
 
 bool PlacementWatch::isSizedOtherwise() const
 {
-    return !(getSizePolicy() == placedPolicy) || decisiveHeight() != placedHeightPx;
+    return View().arrowPart() != placedArrowPart;
 }
 
-void PlacementWatch::rememberSize()
+bool PlacementWatch::isForOtherView() const
 {
-    placedPolicy = getSizePolicy();
-    placedHeightPx = decisiveHeight();
+    return placedFor != nullptr && placedFor != nbOSGWidget::getMGLW(-1);
+}
+
+void PlacementWatch::placed()
+{
+    placedArrowPart = View().arrowPart();
+    placedFor = nbOSGWidget::getMGLW(-1);
 }
 
 void PlacementWatch::note(float own)
@@ -50,8 +48,7 @@ void PlacementWatch::note(float own)
     editStamp = osg::glue::editStamp();
     ownNumber = own;
     widget = nbOSGWidget::getMGLW(-1);
-    policy = getSizePolicy();
-    heightPx = decisiveHeight();
+    arrowPart = View().arrowPart();
 }
 
 bool PlacementWatch::isElsewhere(const osg::Matrix& target) const

@@ -28,9 +28,11 @@ public:
         isPlaceKnown = false;
     }
 
-    /// Whether gizmos have another size than at the last rememberSize(), see SizePolicy.
+    /// Whether gizmos have another size than at the last placed(), see SizePolicy.
     bool isSizedOtherwise() const;
-    void rememberSize();
+    /// Whether the last placed() was for another view, which has its own size and camera.
+    bool isForOtherView() const;
+    void placed();
 
     /// Whether a gizmo's target stands elsewhere than at the last remember().
     bool isElsewhere(const osg::Matrix& target) const;
@@ -47,16 +49,15 @@ private:
     osg::UInt64 editStamp = 0;  ///< see EditStamp.h
     const nbOSGWidget* widget = nullptr;  ///< for comparison only
     float ownNumber = 0.0F;
-    SizePolicy policy;
-    int heightPx = 0;  ///< of the view, which counts for a size in pixels
+    float arrowPart = 0.0F;
 
     osg::Matrix cachedAnchorMatrix;
     osg::Pnt3f cachedCameraFrom;
     osg::Pnt3f cachedCameraAt;
     osg::Vec3f cachedCameraUp;
     float cachedFov = 0.0F;
-    SizePolicy placedPolicy;
-    int placedHeightPx = 0;
+    float placedArrowPart = 0.0F;
+    const nbOSGWidget* placedFor = nullptr;  ///< for comparison only
     float cachedOrthoSize = 0.0F;  ///< 0 under a perspective camera
 };
 

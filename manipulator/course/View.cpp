@@ -209,11 +209,20 @@ const SizePolicy& getSizePolicy()
 float View::scaleAt(const osg::Pnt3f& anchor, float size, ViewDiagonal diagonal) const
 {
     if (const SizePolicy& policy = getSizePolicy(); policy.arrowPx > 0.0F && getHeight() > 0) {
-        return static_cast<float>(static_cast<double>(policy.arrowPx * policy.pixelRatio) *
-                                  unitsPerPixel(anchor) / kArrowUnits);
+        const float arrowPx = policy.arrowPx * nbOSGWidget::getPixelRatio(kMain, policy.pixelRatio);
+        return static_cast<float>(static_cast<double>(arrowPx) * unitsPerPixel(anchor) /
+                                  kArrowUnits);
     }
     return isOrthographic() ? orthographicScale(diagonalOf(widget->getUberCamera(), diagonal))
                             : perspectiveScale(anchor.dist(getEye()), getFov(), size);
+}
+
+float View::arrowPart() const
+{
+    const SizePolicy& policy = getSizePolicy();
+    return getHeight() > 0 ? policy.arrowPx * nbOSGWidget::getPixelRatio(kMain, policy.pixelRatio) /
+            static_cast<float>(getHeight())
+                           : 0.0F;
 }
 
 double View::unitsPerPixel(const osg::Pnt3f& point) const

@@ -37,18 +37,14 @@ struct SizePolicy
     /// Length of an arrow from the gizmo's centre to the end of its shaft, logical pixels; 0 for
     /// the classic rule, perspectiveScale() or orthographicScale().
     float arrowPx = 0.0F;
-    float pixelRatio = 1.0F;  ///< device pixels per logical pixel, > 0
-
-    bool operator==(const SizePolicy& other) const
-    {
-        return arrowPx == other.arrowPx && pixelRatio == other.pixelRatio;
-    }
+    /// Device pixels per logical pixel, > 0, of views that do not tell their own.
+    float pixelRatio = 1.0F;
 };
 
 /// Sets the size of all gizmos in the world; they take it at their next update. In pixels it is the
-/// same in views of every height, camera and pixel ratio, for example
-/// setSizePolicy({ 96.0F, widget.devicePixelRatio() }). Values that are not finite, below 0 or with
-/// a ratio of 0 change nothing. @return whether it was taken
+/// same in views of every height, camera and pixel ratio, for example setSizePolicy({ 96.0F }).
+/// Values that are not finite, below 0 or with a ratio of 0 change nothing. @return whether it was
+/// taken
 NB_MANIPULATOR_API bool setSizePolicy(const SizePolicy& policy);
 NB_MANIPULATOR_API const SizePolicy& getSizePolicy();
 
@@ -133,6 +129,9 @@ public:
     /// Scale of a gizmo of constant apparent size by the policy. @param anchor  of the gizmo, world
     /// @param size  class-wide size setting, for the classic rule
     float scaleAt(const osg::Pnt3f& anchor, float size, ViewDiagonal diagonal) const;
+
+    /// Length of an arrow by the height of the view, for a size in pixels; 0 for the classic rule.
+    float arrowPart() const;
 
     /// World units of a device pixel at a point; 0 in a view without height.
     double unitsPerPixel(const osg::Pnt3f& point) const;

@@ -134,17 +134,11 @@ void PerspectiveMatchVisualisation::buildLine(LineNodes& nodes, const osg::Geome
 
 // == What is shown
 
-void PerspectiveMatchVisualisation::setPixelRatio(float ratio)
-{
-    MatchView changed = view;
-    changed.pixelRatio = ratio;
-    setView(changed);
-}
-
 void PerspectiveMatchVisualisation::setCamera(const osg::UberCameraPtr& camera,
-                                              const osg::ViewportPtr& viewport)
+                                              const osg::ViewportPtr& viewport, float pixelRatio)
 {
     MatchView changed = view;
+    changed.pixelRatio = pixelRatio;
     if (viewport != osg::NullFC) {
         changed.widthPx = viewport->getPixelWidth();
         changed.heightPx = viewport->getPixelHeight();

@@ -43,13 +43,12 @@ public:
 
     void show(bool visible) { showNode(root.get(), visible); }
 
-    /// @param ratio  device pixels per logical pixel, > 0
-    void setPixelRatio(float ratio);
-
     /// Takes the size of a viewport and its reference size for a camera: the height if the camera
     /// is sized vertically, else the width; a view without area keeps the one that it had.
     /// @param camera    null: the reference size is 1080 @param viewport  null: the size stays
-    void setCamera(const osg::UberCameraPtr& camera, const osg::ViewportPtr& viewport);
+    /// @param pixelRatio  device pixels per logical pixel, > 0
+    void setCamera(const osg::UberCameraPtr& camera, const osg::ViewportPtr& viewport,
+                   float pixelRatio);
 
     /// Draws the lines that have changed anew. Empty ones are hidden.
     void setLines(const MatchLines& lines);

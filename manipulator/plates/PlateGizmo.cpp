@@ -165,10 +165,22 @@ PlateNeighbours PlateGizmo::findNeighbours() const
 
 // == Placement
 
+float PlateGizmo::unitPx() const
+{
+    return nbOSGWidget::getPixelRatio(-1) * getSize() / kDefaultManipulatorSize;
+}
+
+/// Whether a drag's pixels are those of a view.
+bool PlateGizmo::isDragged(const View& view) const
+{
+    return isGrabbed() && view.getWidth() == drag.view.widthPx &&
+        view.getHeight() == drag.view.heightPx;
+}
+
 void PlateGizmo::place(const View& view)
 {
     const PlateView plane { view.getWidth(), view.getHeight(), unitPx() };
-    const PlateFrame frame = isGrabbed()
+    const PlateFrame frame = isDragged(view)
         ? changedFrame(drag.start, drag.change)
         : nbSceneplateLayout::frame(getPlates(), plane.widthPx, plane.heightPx);
     const std::optional<osg::Matrix> worldFromPx = worldFromPixels(view);
@@ -179,7 +191,7 @@ void PlateGizmo::place(const View& view)
         const PlateStance stance = isGrabbed() ? drag.stance : chooseStance(frame, plane);
         setMatrix(handles.getRoot(), *worldFromPx);
         placeHandles(layOutHandles(frame, stance, plane));
-        placeGuides(plane);
+        placeGuides(plane, isDragged(view) ? drag.guides : PlateGuides());
     }
     handles.showRoot(isPlaced);
 }
@@ -208,12 +220,12 @@ void PlateGizmo::placeHandles(const PlateHandles& layout) const
     put(BodyRow, layout.frame.centre, layout.frame.rotation, layout.frame.size, kFrameLayer);
 }
 
-void PlateGizmo::placeGuides(const PlateView& view)
+void PlateGizmo::placeGuides(const PlateView& view, const PlateGuides& guides) const
 {
     constexpr float kRight = 90.0F;
     const float size[] = { static_cast<float>(view.widthPx), static_cast<float>(view.heightPx) };
     for (const std::size_t axis : { 0U, 1U }) {
-        const std::optional<float> line = isGrabbed() ? drag.guides[axis] : std::nullopt;
+        const std::optional<float> line = guides[axis];
         showNode(handles.getNode(VerticalRow + axis), line.has_value());
         if (line) {
             osg::Pnt2f middle(size[0] / 2, size[1] / 2);
@@ -228,8 +240,7 @@ void PlateGizmo::placeGuides(const PlateView& view)
 
 bool PlateGizmo::canStep(const View& view)
 {
-    return isGrabbed() && !drag.isBroken && view.exists() && view.getWidth() == drag.view.widthPx &&
-        view.getHeight() == drag.view.heightPx && hasTarget();
+    return isDragged(view) && !drag.isBroken && view.exists() && hasTarget();
 }
 
 bool PlateGizmo::prepare(const View& view)

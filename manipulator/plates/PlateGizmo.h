@@ -24,9 +24,6 @@ public:
     /// Handles are shown and hit only while the gizmo is in use.
     void setInUse(bool on) { isInUse = on; }
 
-    /// @param ratio  device pixels per logical pixel
-    void setPixelRatio(float ratio) { pixelRatio = ratio; }
-
     /// Also in a drag, of which it changes nothing.
     void showActive() override { placeIn(View()); }
 
@@ -79,7 +76,8 @@ private:
 
     bool isSnapping() const { return precisionActive || snappingEnabled; }
 
-    float unitPx() const { return pixelRatio * getSize() / kDefaultManipulatorSize; }
+    float unitPx() const;
+    bool isDragged(const View& view) const;
 
     std::vector<osg::SceneplatePtr> getPlates() const;
     PlateNeighbours findNeighbours() const;
@@ -87,11 +85,10 @@ private:
     void put(std::size_t row, const osg::Pnt2f& centrePx, float rotation, const osg::Vec2f& size,
              float layer) const;
     void placeHandles(const PlateHandles& layout) const;
-    void placeGuides(const PlateView& view);
+    void placeGuides(const PlateView& view, const PlateGuides& guides) const;
 
     std::vector<osg::UInt32> nodeIds;
     bool isInUse = false;
-    float pixelRatio = 1.0F;
     Drag drag;
 };
 

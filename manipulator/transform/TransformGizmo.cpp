@@ -238,7 +238,7 @@ osg::Quaternion TransformGizmo::axesOf(Active handle, const osg::NodePtr& node) 
         case GizmoAxes::Parent:
             return osg::Quaternion(orthonormalised(parentToWorld(node)));
         case GizmoAxes::View:
-            return View().facing();
+            return hasBegun() ? facingAtStart : View().facing();
         case GizmoAxes::Given:
             return givenAxes;
         default:
@@ -351,6 +351,7 @@ bool TransformGizmo::canStep(const View& view)
 
 bool TransformGizmo::prepare(const View& view)
 {
+    facingAtStart = View().facing();
     GrabbedGizmo held;
     held.handle = handle();
     held.mode = shownMode();

@@ -106,6 +106,7 @@ private:
     PivotMarks targetMark;  ///< where a drag has snapped to
     interaction::SnapSearch targets;
     TransformDrag drag;
+    osg::Quaternion facingAtStart;  ///< of the view that the drag began in
     std::vector<nbTransformState> startStates;  ///< of the targets at the drag's start
     std::vector<nbEulerAngles> turned;  ///< of the targets after the last turn, radians
 };

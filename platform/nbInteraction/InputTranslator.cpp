@@ -107,12 +107,11 @@ osg::Pnt2f InputTranslator::toDevicePixels(const QPointF& logical) const
 
 bool InputTranslator::handleEvent(QEvent& event)
 {
-    const osg::UInt64 formerStamp = osg::glue::editStamp();
+    const osg::UInt64 formerStamp = osg::glue::viewStamp();
     const bool taken = translate(event);
     // Only what the event really changed is worth a redraw; handles light up without taking it.
-    nbOSGWidget* const view = currentWidget();
-    if (view && osg::glue::editStamp() != formerStamp) {
-        view->update();
+    if (osg::glue::viewStamp() != formerStamp) {
+        nbOSGWidget::updateAll();
     }
     return taken;
 }

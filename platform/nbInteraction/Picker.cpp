@@ -67,14 +67,9 @@ int Picker::getFilter() const
 
 void Picker::setPixelRatio(float ratio)
 {
-    if (std::isfinite(ratio) && ratio > 0.0F) {
-        pixelRatio = ratio;
+    if (nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1)) {
+        widget->setPixelRatio(ratio);
     }
-}
-
-float Picker::getPixelRatio() const
-{
-    return pixelRatio;
 }
 
 // == Picking
@@ -125,8 +120,8 @@ osg::NodePtr Picker::pickAt(const osg::Pnt2f& px, const HandleRank& rankOf)
         if (rankOf) {
             rankOfId = [&rankOf](osg::UInt32 id) { return rankOf(nodeOf(id)); };
         }
-        if (handlePicking->pick(getPickNode(), root, *view, centre, kTolerance * pixelRatio,
-                                rankOfId, hit)) {
+        if (handlePicking->pick(getPickNode(), root, *view, centre,
+                                kTolerance * nbOSGWidget::getPixelRatio(-1), rankOfId, hit)) {
             const osg::NodePtr node = nodeOf(hit.nodeId);
             rememberHit(node, hit.point, hit.normal);
             return node;

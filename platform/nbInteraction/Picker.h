@@ -73,10 +73,9 @@ public:
     void setFilter(int value);
     int getFilter() const;
 
-    /// Sets the device pixels per logical pixel, which scales the tolerance. @param ratio  > 0,
-    /// other values are ignored
-    void setPixelRatio(float ratio);
-    float getPixelRatio() const;
+    /// Tells the main widget its device pixels per logical one, by which the tolerance counts; for
+    /// programs whose window does not tell them. See nbOSGWidget::setPixelRatio().
+    static void setPixelRatio(float ratio);
 
     /// Picks under the main widget's pointer and remembers the hit.
     /// @return the hit geometry node; null if there is none, no widget, no camera or no area
@@ -133,7 +132,6 @@ private:
 
     osg::UInt32 pickNodeId = 0;
     int filter = SceneFilter;
-    float pixelRatio = 1.0F;
 
     osg::UInt32 hitNodeId = 0;
     osg::Pnt3f hitPoint;

@@ -5,6 +5,7 @@
 #include <nbInteraction/SelectionTool.h>
 #include <nbInteraction/ToolInteractionContext.h>
 #include <nbInteraction/detail/ScenePick.h>
+#include <nbKernel/nbOSGWidget.h>
 #include <nbOpenSGSelection/nbSelection.h>
 
 #include <algorithm>
@@ -69,22 +70,10 @@ bool SelectionTool::isPickHint(const std::string&) const
     return false;
 }
 
-void SelectionTool::setPixelRatio(float ratio)
-{
-    if (ratio > 0.0F && std::isfinite(ratio)) {
-        pixelRatio = ratio;
-    }
-}
-
-float SelectionTool::getPixelRatio() const
-{
-    return pixelRatio;
-}
-
 bool SelectionTool::isClick(const osg::Pnt2f& releasePx) const
 {
     const float distance = std::hypot(releasePx[0] - pressPx[0], releasePx[1] - pressPx[1]);
-    return distance <= kClickTolerance * pixelRatio;
+    return distance <= kClickTolerance * nbOSGWidget::getPixelRatio(-1);
 }
 
 }  // namespace nbec::interaction

@@ -26,16 +26,11 @@ public:
     /// The tool picks by itself, once per click. @return false
     bool isPickHint(const std::string& hint) const override;
 
-    /// Sets the device pixels per logical pixel. @param ratio  > 0, other values are ignored
-    void setPixelRatio(float ratio);
-    float getPixelRatio() const;
-
 private:
     bool isClick(const osg::Pnt2f& releasePx) const;
 
     osg::Pnt2f pressPx { 0.0F, 0.0F };
     bool pressed = false;
-    float pixelRatio = 1.0F;
 };
 
 }  // namespace nbec::interaction

@@ -28,6 +28,7 @@ struct WidgetRegistry
 {
     std::vector<nbOSGWidget*> widgets;
     nbOSGWidget* main = nullptr;
+    nbOSGWidget* drawing = nullptr;
     std::vector<CountedCallback> resizeCallbacks;
     int interactionMode = 0;
 };
@@ -99,6 +100,9 @@ nbOSGWidget::~nbOSGWidget()
     if (registry().main == this) {
         registry().main = all.empty() ? nullptr : all.front();
     }
+    if (registry().drawing == this) {
+        registry().drawing = nullptr;
+    }
     // None of these hold each other, so nobody may be left pointing at one that is gone.
     viewport->setParent(osg::NullFC);
     window = osg::NullFC;
@@ -109,7 +113,7 @@ nbOSGWidget::~nbOSGWidget()
 nbOSGWidget* nbOSGWidget::getMGLW(int index)
 {
     if (index == -1) {
-        return registry().main;
+        return registry().drawing != nullptr ? registry().drawing : registry().main;
     }
     const std::vector<nbOSGWidget*>& all = registry().widgets;
     return index >= 0 && index < static_cast<int>(all.size()) ? all[index] : nullptr;
@@ -118,6 +122,31 @@ nbOSGWidget* nbOSGWidget::getMGLW(int index)
 void nbOSGWidget::setMain()
 {
     registry().main = this;
+}
+
+bool nbOSGWidget::isMain() const
+{
+    return registry().main == this;
+}
+
+nbOSGWidget::Drawing::Drawing(nbOSGWidget& view)
+    : former(registry().drawing)
+{
+    registry().drawing = &view;
+}
+
+nbOSGWidget::Drawing::~Drawing()
+{
+    const std::vector<nbOSGWidget*>& all = registry().widgets;
+    const bool isAlive = std::find(all.begin(), all.end(), former) != all.end();
+    registry().drawing = isAlive ? former : nullptr;
+}
+
+void nbOSGWidget::updateAll()
+{
+    for (nbOSGWidget* const widget : std::vector<nbOSGWidget*>(registry().widgets)) {
+        widget->update();
+    }
 }
 
 osg::Pnt3f nbOSGWidget::getFrom(int index)
@@ -145,6 +174,12 @@ osg::Pnt3f nbOSGWidget::getPivot(int index)
 {
     const nbOSGWidget* const widget = getMGLW(index);
     return widget != nullptr ? widget->camera->getPivot() : osg::Pnt3f(0.0F, 0.0F, 0.0F);
+}
+
+float nbOSGWidget::getPixelRatio(int index, float untold)
+{
+    const nbOSGWidget* const widget = getMGLW(index);
+    return widget != nullptr && widget->pixelRatio > 0.0F ? widget->pixelRatio : untold;
 }
 
 bool nbOSGWidget::isCameraZUp()
@@ -220,6 +255,14 @@ void nbOSGWidget::resize(int width, int height)
     }
     update();
     callResizeCallbacks();
+}
+
+void nbOSGWidget::setPixelRatio(float ratio)
+{
+    if (std::isfinite(ratio) && ratio > 0.0F && ratio != pixelRatio) {
+        pixelRatio = ratio;
+        update();
+    }
 }
 
 void nbOSGWidget::setMousePosition(const osg::Pnt2f& position)

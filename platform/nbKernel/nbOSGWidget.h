@@ -14,12 +14,20 @@
 #include <QtCore/QRect>
 #include <QtCore/Qt>
 
+// Of X11's headers.
+#pragma push_macro("CursorShape")
+#undef CursorShape
+
 /// One view of the scene: camera, viewport, pointer, selection rectangle. Not a window: a host lays
 /// it over one and tells it sizes and pointer positions; without one it works all the same.
 ///
 /// Positions and sizes are device pixels, y from the top edge of the view. The live widgets form a
 /// list in order of construction; index -1 stands for the main one, which is the first unless
 /// setMain() chose another. Construct between osgInit and osgExit, on the user-interface thread.
+///
+/// Several views show one scene: pickers and manipulators work in the main one, which the input
+/// translator makes that under the pointer. While a view draws it stands for the main one, see
+/// Drawing, so that handles have their size and place in it.
 class NB_PLATFORM_API nbOSGWidget
 {
 public:
@@ -62,6 +70,26 @@ public:
     static nbOSGWidget* getMGLW(int index);
     /// Makes this the main widget.
     void setMain();
+    /// Whether it is the main one, also while another view draws.
+    bool isMain() const;
+
+    /// While it lives a view draws, and is what getMGLW() answers for -1. A host with several views
+    /// has one around each picture, with the update of the manipulators and the drawing itself.
+    class NB_PLATFORM_API Drawing
+    {
+    public:
+        /// @param view  may die meanwhile
+        explicit Drawing(nbOSGWidget& view);
+        Drawing(const Drawing&) = delete;
+        Drawing& operator=(const Drawing&) = delete;
+        ~Drawing();
+
+    private:
+        nbOSGWidget* former;
+    };
+
+    /// Asks for one redraw of every view, after an edit of what they show.
+    static void updateAll();
 
     // == Its camera, by index as in getMGLW(). World space, degrees.
 
@@ -73,6 +101,9 @@ public:
     static void getFromAtUp(int index, osg::Pnt3f& from, osg::Pnt3f& at, osg::Vec3f& up);
     /// What the view turns about; (0, 0, 0) without a widget.
     static osg::Pnt3f getPivot(int index);
+    /// Device pixels per logical one. @param untold  the answer without a widget and for a view
+    /// that was not told, see setPixelRatio()
+    static float getPixelRatio(int index, float untold = 1.0F);
     /// Whether z is up in the world of the main widget; false without one.
     static bool isCameraZUp();
 
@@ -106,6 +137,10 @@ public:
     int getWidth() const { return widthPx; }
 
     int getHeight() const { return heightPx; }
+
+    /// Device pixels per logical one, as the window tells them; what is not finite or not above 0
+    /// is ignored.
+    void setPixelRatio(float ratio);
 
     // == Pointer
 
@@ -162,6 +197,7 @@ private:
     osg::RefPtr<osg::PassiveWindowPtr> window;
     int widthPx = 0;
     int heightPx = 0;
+    float pixelRatio = 0.0F;  ///< 0 until it is told
     osg::Pnt2f mousePositionPx;
     osg::Pnt2f pressPositionPx;
     bool pressed = false;
@@ -170,3 +206,5 @@ private:
     Qt::CursorShape cursor = Qt::ArrowCursor;
     Observer* observer = nullptr;
 };
+
+#pragma pop_macro("CursorShape")

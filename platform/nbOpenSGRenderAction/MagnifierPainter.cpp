@@ -46,7 +46,7 @@ bool MagnifierPainter::isShown(const osg::ViewportPtr& viewport)
 {
     const nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1);
     return nbMagnifierRenderer::isVisible() && widget != nullptr && viewport != osg::NullFC &&
-        widget->getViewport() == viewport;
+        widget->isMain() && widget->getViewport() == viewport;
 }
 
 void MagnifierPainter::keep(Gl& gl, GLuint picture, int widthPx, int heightPx, float pixelRatio)

@@ -71,13 +71,6 @@ void setMarker(const osg::NodePtr& node, osg::Sceneplate::MarkerKind kind)
     }
 }
 
-void redrawAll()
-{
-    for (int i = 0; nbOSGWidget* const widget = nbOSGWidget::getMGLW(i); ++i) {
-        widget->update();
-    }
-}
-
 }  // namespace
 
 nbSceneplateModule::nbSceneplateModule()
@@ -184,7 +177,7 @@ void nbSceneplateModule::showMarkers()
 
 void nbSceneplateModule::notify()
 {
-    redrawAll();
+    nbOSGWidget::updateAll();
     callbacks.call();
 }
 

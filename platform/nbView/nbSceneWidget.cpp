@@ -15,7 +15,7 @@ nbSceneWidget::nbSceneWidget(QWidget* parent)
     manager.addContext(&camera);
     setInteractionManager(manager);
     callback = nbSelection::addChangedCallback([this] {
-        view().update();
+        nbOSGWidget::updateAll();
         selectionChanged();
     });
     addKey(QKeySequence::Undo, &nbUndoService::undo);
@@ -27,17 +27,13 @@ nbSceneWidget::~nbSceneWidget()
     nbSelection::removeChangedCallback(callback);
 }
 
-void nbSceneWidget::viewResized(const QSize& size, float pixelRatio)
-{
-    picker.setPixelRatio(pixelRatio);
-    tool.setPixelRatio(pixelRatio);
-    nbViewWidget::viewResized(size, pixelRatio);
-}
-
 void nbSceneWidget::addKey(QKeySequence::StandardKey key, bool (nbUndoService::*step)())
 {
-    connect(new QShortcut(key, this), &QShortcut::activated, this, [this, step] {
+    const auto* const shortcut = new QShortcut(key, this);
+    const auto take = [step] {
         (nbUndoService::the()->*step)();
-        view().update();
-    });
+        nbOSGWidget::updateAll();
+    };
+    connect(shortcut, &QShortcut::activated, this, take);
+    connect(shortcut, &QShortcut::activatedAmbiguously, this, take);  // of two in a window
 }

@@ -28,8 +28,6 @@ protected:
     /// The selection is another one; a redraw has been asked for.
     virtual void selectionChanged() { }
 
-    void viewResized(const QSize& size, float pixelRatio) override;
-
 private:
     void addKey(QKeySequence::StandardKey key, bool (nbUndoService::*step)());
 

@@ -152,6 +152,7 @@ void nbViewWidget::adoptSize()
     if (translator != nullptr) {
         translator->setDevicePixelRatio(ratio);
     }
+    renderWidget.setPixelRatio(static_cast<float>(ratio));
     renderAction.setPixelRatio(static_cast<float>(ratio));
     pictureView.getAction().setPixelRatio(static_cast<float>(ratio));
     const QSize size = sizePx();
@@ -168,6 +169,7 @@ void nbViewWidget::viewResized(const QSize& size, float)
 
 QImage nbViewWidget::takePicture(std::string* error)
 {
+    const nbOSGWidget::Drawing drawing(renderWidget);
     prepareFrame();
     const QSize size = sizePx();
     const int passes = isHuge(size) ? 1 : kPicturePasses;
@@ -190,12 +192,14 @@ QImage nbViewWidget::takePicture(std::string* error)
 
 bool nbViewWidget::hasOverlay() const
 {
-    return nbTextPainter::hasTexts(logicalSize());
+    return renderWidget.isMain() && nbTextPainter::hasTexts(logicalSize());
 }
 
 void nbViewWidget::paintOverlay(QPainter& painter) const
 {
-    nbTextPainter::paintTexts(painter, logicalSize());
+    if (renderWidget.isMain()) {
+        nbTextPainter::paintTexts(painter, logicalSize());
+    }
 }
 
 void nbViewWidget::setCoarseWhileMoving(bool on)
@@ -254,6 +258,7 @@ void nbViewWidget::drawingIsImpossible(const std::string& reason)
 
 void nbViewWidget::paintGL()
 {
+    const nbOSGWidget::Drawing drawing(renderWidget);
     // What this changes belongs to this picture, so its requests for another one are answered by
     // it.
     prepareFrame();
@@ -307,7 +312,11 @@ bool nbViewWidget::event(QEvent* event)
         event->accept();
         return true;
     }
-    return QOpenGLWidget::event(event);
+    const bool taken = QOpenGLWidget::event(event);
+    if (event->type() == QEvent::ScreenChangeInternal) {
+        adoptSize();  // that may have other pixels
+    }
+    return taken;
 }
 
 void nbViewWidget::redrawRequested()

@@ -15,13 +15,19 @@
 #include <memory>
 #include <string>
 
+// Of X11's headers.
+#pragma push_macro("CursorShape")
+#undef CursorShape
+
 /// A view of the scene in a window of Qt's: draws it with OpenGL, hands a person's input to an
 /// interaction manager and shows the on-screen texts. To be derived from, or used as it is.
 ///
-/// Draws only when its render widget asks for it, which input does that changed something; after
-/// an edit of the program's own the program calls view().update(). Nothing is lost with an OpenGL
-/// context, as when the widget moves to another window: the next picture is the same. Needs
-/// OpenGL 3.3 core, which it asks of Qt itself. Construct between osgInit and osgExit.
+/// Draws only when its render widget asks for it, which input to any view does that changed
+/// something; after an edit of the program's own the program calls view().update(), or
+/// nbOSGWidget::updateAll() with several views. On-screen texts are shown in the main view. Nothing
+/// is lost with an OpenGL context, as when the widget moves to another window: the next picture is
+/// the same. Needs OpenGL 3.3 core, which it asks of Qt itself. Construct between osgInit and
+/// osgExit.
 class NB_PLATFORM_API nbViewWidget : public QOpenGLWidget, private nbOSGWidget::Observer
 {
 public:
@@ -82,14 +88,16 @@ public:
     QSize sizeHint() const override;
 
 protected:
-    /// Called before each picture: what it edits is in it and asks for no further one.
+    /// Called before each picture, while this is the view that getMGLW() answers for -1:
+    /// manipulators are updated here, which places them for this view. What it edits is in the
+    /// picture and asks for no further one.
     virtual void prepareFrame() { }
 
     /// Called after each picture.
     virtual void frameDrawn() { }
 
-    /// Brings a new size to the render widget; to be extended by who has to know the pixel ratio,
-    /// such as pickers. @param size  device pixels @param pixelRatio  of these per logical one
+    /// Brings a new size to the render widget, which knows the ratio already; to be extended by who
+    /// has to know them. @param size  device pixels @param pixelRatio  of these per logical one
     virtual void viewResized(const QSize& size, float pixelRatio);
 
     /// Drawing is not possible. Called once; logs the reason, which is one line.
@@ -136,3 +144,5 @@ private:
     QElapsedTimer sinceInput;  ///< valid while a picture has not shown it
     double lastInputMs = 0.0;
 };
+
+#pragma pop_macro("CursorShape")

@@ -45,7 +45,8 @@ def screenshots(session):
 
 def missing_excerpts(root):
     """First lines of the pieces of C++ that pages show of an example and that are not in it."""
-    for example, name in (("Lift*", "new-manipulator.md"), ("FirstWindow*", "first-window.md")):
+    for example, name in (("Lift*", "new-manipulator.md"), ("FirstWindow*", "first-window.md"),
+                          ("TwoViews*", "several-views.md"), ("Lift*", "own-undo.md")):
         text = "\n".join(path.read_text(encoding="utf-8") for path in sorted((root / "examples").glob(example)))
         page = (root / "docs" / name).read_text(encoding="utf-8")
         for block in re.findall(r"^```cpp\n(.*?)^```$", page, flags=re.DOTALL | re.MULTILINE):

@@ -239,7 +239,9 @@ TYPED_TEST(HandlesOfHosts, SizeInPixelsIsTheSameInEveryView)
         for (const float ratio : { 1.0F, 1.5F, 3.0F }) {
             for (const int height : { 200, 500, 1200 }) {
                 this->stage.view->resize(height * 2, height);
-                EXPECT_TRUE(setSizePolicy({ 96.0F, ratio }));
+                // Told by the host, and by the view.
+                EXPECT_TRUE(setSizePolicy({ 96.0F, isOrthographic ? 7.0F : ratio }));
+                this->stage.view->setPixelRatio(isOrthographic ? ratio : 0.0F);
                 EXPECT_NEAR(this->unitPx(ratio), 48.0, 1.0)
                     << isOrthographic << ' ' << ratio << ' ' << height;
             }

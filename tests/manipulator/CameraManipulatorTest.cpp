@@ -73,6 +73,16 @@ TEST_F(CameraManipulatorTest, StandsAtThePivotInConstantSize)
     osg::endEditCP(camera);
     CameraManipulator::updateAllManipulators();
     EXPECT_NEAR(placement()->getScale().x(), camera->getNearPlaneDiagonal() / 20, 1e-6F);
+    {
+        nbOSGWidget other;
+        other.getUberCamera()->setPose(camera->getPose());
+        const nbOSGWidget::Drawing drawing(other);
+        cross.update(false);
+        EXPECT_NEAR(placement()->getScale().x(), other.getUberCamera()->getNearPlaneDiagonal() / 20,
+                    1e-6F);
+    }
+    cross.update(false);
+    EXPECT_NEAR(placement()->getScale().x(), camera->getNearPlaneDiagonal() / 20, 1e-6F);
     EXPECT_TRUE(placement()->getTranslation().equals(osg::Vec3f(1, 2, 3), 1e-6F));
 }
 

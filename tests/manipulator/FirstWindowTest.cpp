@@ -4,32 +4,15 @@
 #include "examples/FirstWindow.cpp"
 #undef main
 
+#include "tests/manipulator/support/WindowInput.h"
+
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
-#include <QtTest/QTest>
 #include <QtWidgets/QUndoStack>
 
 #include <gtest/gtest.h>
 
-namespace {
-
-void move(QWidget& window, const QPoint& place, Qt::MouseButton held)
-{
-    QMouseEvent event(QEvent::MouseMove, place, Qt::NoButton, held, Qt::NoModifier);
-    QApplication::sendEvent(&window, &event);
-}
-
-/// Drags to the right and somewhat up, as far as before the release.
-void drag(QWidget& window, Qt::MouseButton button, const QPoint& from)
-{
-    move(window, from, Qt::NoButton);
-    QTest::mousePress(&window, button, Qt::NoModifier, from);
-    for (int x = 0; x <= 80; x += 20) {
-        move(window, from + QPoint(x, -x / 4), button);
-    }
-}
-
-}  // namespace
+using nbec::manipulator::test::drag;
 
 TEST(FirstWindow, SelectsDragsCancelsTakesBackAndOrbits)
 {

@@ -50,7 +50,7 @@ bool DragContext::triggerEvent(InteractionManager* manager, const InteractionEve
 bool DragContext::start(InteractionManager* manager, const InteractionEvent& event)
 {
     if (auto* const drag = dynamic_cast<AbstractManipulator*>(getManipulator()); drag != nullptr) {
-        drag->setReadoutShown(true, getPicker() != nullptr ? getPicker()->getPixelRatio() : 1.0F);
+        drag->setReadoutShown(true);
     }
     isDragged = ManipulatorInteractionContext::triggerEvent(manager, event);
     if (isDragged) {

@@ -416,7 +416,6 @@ void Stage::setZUp(bool on)
 void Stage::resize(int widthPx, int heightPx, float pixelRatio)
 {
     scenePicker.setPixelRatio(pixelRatio);
-    selectionTool.setPixelRatio(pixelRatio);
     gizmoController.setPixelRatio(pixelRatio);
     for (StageTool* tool : tools) {
         tool->setPixelRatio(pixelRatio);

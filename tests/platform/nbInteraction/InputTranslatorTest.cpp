@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/platform/nbInteraction/Recording.h"
+#include "tests/platform/support/Edited.h"
 
 #include <nbInteraction/InputTranslator.h>
 #include <nbKernel/nbOSGWidget.h>
@@ -11,6 +12,8 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <EditStamp.h>
 
 namespace nbec::interaction {
 namespace {
@@ -308,6 +311,22 @@ TEST_F(InputTranslatorTest, ViewUnderThePointerBecomesTheMainOne)
     EXPECT_EQ(nbOSGWidget::getMGLW(-1), &second);
     EXPECT_EQ(osg::Pnt2f(5, 6), second.getMousePosition());
     EXPECT_NE(osg::Pnt2f(5, 6), widget.getMousePosition());
+
+    // Both show what an event has edited, but not where handles were placed for one of them.
+    for (const bool isForOne : { true, false }) {
+        nbOSGWidget* const views[] = { &widget, &second };
+        for (nbOSGWidget* const view : views) {
+            view->redrawDone();
+        }
+        context.onEvent = [isForOne](const InteractionEvent&) {
+            const osg::glue::EditsForOneView placing(isForOne);
+            nbtest::edited(nbScenegraph::getRootNode());
+        };
+        ofSecond.handleEvent(event);
+        for (nbOSGWidget* const view : views) {
+            EXPECT_EQ(view->isRedrawPending(), !isForOne);
+        }
+    }
 }
 
 }  // namespace

@@ -79,7 +79,7 @@ TEST_F(SelectionToolTest, HintSaysWhatAClickDoesToTheSelection)
 
 TEST_F(SelectionToolTest, OnlyAReleaseNearThePressIsAClick)
 {
-    tool.setPixelRatio(2.0f);
+    nbOSGWidget::getMGLW(-1)->setPixelRatio(2.0f);
     const osg::Pnt2f near(kLeftPx[0] + 8, kLeftPx[1]);
     const osg::Pnt2f far(kLeftPx[0] + 7, kLeftPx[1] + 5);
 

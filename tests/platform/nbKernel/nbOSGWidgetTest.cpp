@@ -61,9 +61,21 @@ TEST(nbOSGWidget, FirstLiveWidgetIsTheMainOneUnlessAnotherIsChosen)
     second->setMain();
     EXPECT_EQ(nbOSGWidget::getMGLW(-1), second.get());
     EXPECT_EQ(nbOSGWidget::getMGLW(0), first.get());
+    {
+        const nbOSGWidget::Drawing drawing(third);
+        EXPECT_EQ(nbOSGWidget::getMGLW(-1), &third);
+        {
+            const nbOSGWidget::Drawing within(*first);
+            EXPECT_EQ(nbOSGWidget::getMGLW(-1), first.get());
+        }
+        EXPECT_EQ(nbOSGWidget::getMGLW(-1), &third);
+        EXPECT_TRUE(second->isMain());
+    }
+    EXPECT_EQ(nbOSGWidget::getMGLW(-1), second.get());
 
     second.reset();
     EXPECT_EQ(nbOSGWidget::getMGLW(-1), first.get());
+    const nbOSGWidget::Drawing ofOneThatGoes(*first);
     first.reset();
     EXPECT_EQ(nbOSGWidget::getMGLW(-1), &third);
 }
