@@ -15,7 +15,7 @@ set_target_properties(nbManipulator nbplatform PROPERTIES
     INSTALL_RPATH "$ORIGIN")
 
 # == Headers. Of the library: the classes, the modes of their handles, and what a manipulator of one's own is made of (course, handles,
-# drag). What lies in a folder "detail" of the platform is not for users.
+# drag). What lies in a folder "detail" of the platform is not for users, nor are the parts of the renderer.
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/manipulator DESTINATION ${NBM_HEADERS} COMPONENT development
         FILES_MATCHING REGEX "/manipulator/[^/]*\\.h$" REGEX "/manipulator/(course|drag|handles)/[^/]*\\.h$" REGEX "(Modes|MaterialComponent|PlanarSettings|TextureGizmo)\\.h$"
         PATTERN "scene" EXCLUDE PATTERN "match" EXCLUDE)
@@ -24,9 +24,14 @@ install(FILES ${PROJECT_BINARY_DIR}/generated/manipulator/nbManipulatorExport.h 
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/modules DESTINATION ${NBM_HEADERS} COMPONENT development
         FILES_MATCHING PATTERN "*.h")
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/platform/ DESTINATION ${NBM_HEADERS} COMPONENT development
-        FILES_MATCHING PATTERN "*.h" PATTERN "detail" EXCLUDE)
+        FILES_MATCHING PATTERN "*.h" PATTERN "detail" EXCLUDE REGEX "/nbOpenSGRenderAction/[A-Z][^/]*$" EXCLUDE)
+if(NBMANIPULATOR_OPENSG STREQUAL "bundled")
+    set(NBM_OTHER_GLUE FieldContainerGlueSystem.h)
+else()
+    set(NBM_OTHER_GLUE FieldContainerGlueBundled.h)
+endif()
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/opensg/include/ ${PROJECT_SOURCE_DIR}/opensg/glue/
-        DESTINATION ${NBM_HEADERS} COMPONENT development FILES_MATCHING PATTERN "*.h")
+        DESTINATION ${NBM_HEADERS} COMPONENT development FILES_MATCHING PATTERN "*.h" PATTERN ${NBM_OTHER_GLUE} EXCLUDE)
 
 # == CMake package and pkg-config file
 install(EXPORT nbManipulatorTargets NAMESPACE nbm:: DESTINATION ${NBM_PACKAGE} COMPONENT development)

@@ -9,6 +9,10 @@
 #include <cstddef>
 #include <optional>
 
+// Of X11's headers.
+#pragma push_macro("None")
+#undef None
+
 namespace nbec::manipulator {
 
 /// What a drag has come to, as a person would say or type it: up to three numbers of one kind,
@@ -138,3 +142,5 @@ struct DragStep
 };
 
 }  // namespace nbec::manipulator
+
+#pragma pop_macro("None")

@@ -6,6 +6,10 @@
 #include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGQuaternion.h>
 
+// Of X11's headers.
+#pragma push_macro("None")
+#undef None
+
 namespace nbec::manipulator {
 
 /// Turns by a right angle with which handles are laid onto their axes.
@@ -76,3 +80,5 @@ enum class HandleShape
 NB_MANIPULATOR_API osg::NodePtr makeShapeNode(HandleShape shape);
 
 }  // namespace nbec::manipulator
+
+#pragma pop_macro("None")

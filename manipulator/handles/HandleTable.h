@@ -10,6 +10,10 @@
 #include <string>
 #include <vector>
 
+// Of X11's headers.
+#pragma push_macro("None")
+#undef None
+
 namespace nbec::manipulator {
 
 /// A set of modes, bit i for the mode of number i.
@@ -99,3 +103,5 @@ struct HandleTable
 };
 
 }  // namespace nbec::manipulator
+
+#pragma pop_macro("None")

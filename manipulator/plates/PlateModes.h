@@ -3,6 +3,10 @@
 
 #include <OpenSG/OSGBaseTypes.h>
 
+// Of X11's headers.
+#pragma push_macro("None")
+#undef None
+
 namespace nbec::manipulator::plates {
 
 /// The handle of the scene-plate gizmo that is hovered or grabbed; first the boxes, in the order of
@@ -19,3 +23,5 @@ enum class ActiveMode : osg::UInt32
 };
 
 }  // namespace nbec::manipulator::plates
+
+#pragma pop_macro("None")

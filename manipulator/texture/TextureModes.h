@@ -3,6 +3,10 @@
 
 #include <OpenSG/OSGBaseTypes.h>
 
+// Of X11's headers.
+#pragma push_macro("None")
+#undef None
+
 namespace nbec::manipulator::texture {
 
 /// The handle of the planar gizmo that is hovered or dragged.
@@ -110,3 +114,5 @@ enum class TireHandle : osg::UInt32
 };
 
 }  // namespace nbec::manipulator::texture
+
+#pragma pop_macro("None")

@@ -3,6 +3,10 @@
 
 #include <OpenSG/OSGBaseTypes.h>
 
+// Of X11's headers.
+#pragma push_macro("None")
+#undef None
+
 namespace nbec::manipulator::transform {
 
 /// Which handles of the transform gizmo are shown.
@@ -128,3 +132,5 @@ constexpr osg::UInt32 planeNormalAxis(ActiveMode handle)
 }
 
 }  // namespace nbec::manipulator::transform
+
+#pragma pop_macro("None")

@@ -11,6 +11,10 @@
 #include <string>
 #include <vector>
 
+// Of X11's headers.
+#pragma push_macro("None")
+#undef None
+
 namespace nbec::interaction {
 
 /// How the drag ends whose "stop" event is being delivered.
@@ -181,3 +185,5 @@ private:
 };
 
 }  // namespace nbec::interaction
+
+#pragma pop_macro("None")

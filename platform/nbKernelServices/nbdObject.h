@@ -8,6 +8,10 @@
 
 #include <QtCore/QMetaType>
 
+// Of X11's headers.
+#pragma push_macro("None")
+#undef None
+
 /// Refers to something of the document by its id; a value that owns nothing and may be kept.
 /// What it refers to may go at any time; it is then null, and its operations answer as null does:
 /// getters with the default, setters with nothing.
@@ -51,3 +55,5 @@ private:
 };
 
 Q_DECLARE_METATYPE(nbdObject)
+
+#pragma pop_macro("None")

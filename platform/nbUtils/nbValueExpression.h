@@ -6,6 +6,10 @@
 #include <cstddef>
 #include <string_view>
 
+// Of X11's headers.
+#pragma push_macro("None")
+#undef None
+
 /// A number as a person types it, such as "1,5", "2*(3 + .5)", "12 cm" or "-90deg / 4".
 ///
 /// Sums, products, brackets and signs; a point or a comma before the decimals, in every language,
@@ -38,3 +42,5 @@ struct NB_PLATFORM_API nbValueExpression
     /// @param text  UTF-8, of any length; brackets within each other up to 32
     static nbValueExpression evaluate(std::string_view text, Measure measure = Measure::Number);
 };
+
+#pragma pop_macro("None")

@@ -44,9 +44,36 @@ separate_arguments(libs UNIX_COMMAND "${output}")
 run(pkg-config --variable=libdir nbManipulator)
 string(STRIP "${output}" libdir)
 separate_arguments(flags UNIX_COMMAND "${FLAGS}")
-run(${COMPILER} ${flags} -fPIC ${cflags} ${CMAKE_CURRENT_LIST_DIR}/drag/drag_gizmo.cpp -o ${SCRATCH}/drag_gizmo ${libs}
+run(${COMPILER} ${flags} ${cflags} ${CMAKE_CURRENT_LIST_DIR}/drag/drag_gizmo.cpp -o ${SCRATCH}/drag_gizmo ${libs}
     -Wl,-rpath,${libdir})
 run(${SCRATCH}/drag_gizmo)
+
+# == Every header, behind those of X11 with their macros, which Qt's own must precede
+run(pkg-config --variable=includedir nbManipulator)
+string(STRIP "${output}" includedir)
+file(GLOB_RECURSE headers RELATIVE ${includedir} ${includedir}/*.h)
+foreach(header FrameTargets.h FieldContainerGlueSystem.h PickView.h)
+    if("${headers}" MATCHES ${header})
+        message(FATAL_ERROR "${header} is installed, which no program can use")
+    endif()
+endforeach()
+list(TRANSFORM headers REPLACE "(.+)" "#include <\\1>" OUTPUT_VARIABLE lines)
+list(JOIN lines "\n" lines)
+file(WRITE ${SCRATCH}/all_headers.cpp "#include <QtCore/QtCore>
+#include <QtGui/QtGui>
+#include <QtWidgets/QtWidgets>
+#include <boost/any.hpp>
+#if __has_include(<X11/Xlib.h>)
+#include <X11/Xlib.h>
+#endif
+#define None 0L
+#define Bool int
+#define Status int
+#define CursorShape 0
+#define KeyPress 2
+${lines}
+")
+run(${COMPILER} ${flags} ${cflags} -fsyntax-only ${SCRATCH}/all_headers.cpp)
 
 # == The manual leads nowhere that is not installed
 set(documents ${SCRATCH}/prefix/share/doc/libnbmanipulator-dev)
