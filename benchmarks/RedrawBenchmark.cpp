@@ -16,10 +16,10 @@
 #include <OpenSG/OSGGeoFunctions.h>
 #include <OpenSG/OSGSimpleGeometry.h>
 
+#include <QOpenGLFramebufferObject>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QOffscreenSurface>
 #include <QtGui/QOpenGLContext>
-#include <QtGui/QOpenGLFramebufferObject>
 
 #include <benchmark/benchmark.h>
 

@@ -1,18 +1,37 @@
 # SPDX-License-Identifier: MIT
 # What is installed, in three components: runtime (the libraries), development (headers, CMake package, pkg-config file) and viewer.
-# find_package(nbManipulator) gives nbm::nbManipulator; pkg-config knows the name nbManipulator.
+# find_package(nbManipulator) gives nbm::nbManipulator; pkg-config knows the name nbManipulator. With Qt 6 both names end with -qt6.
 include(CMakePackageConfigHelpers)
 
-set(NBM_HEADERS ${CMAKE_INSTALL_INCLUDEDIR}/nbManipulator)
-set(NBM_PACKAGE ${CMAKE_INSTALL_LIBDIR}/cmake/nbManipulator)
+set(NBM_NAME nbManipulator${NB_SUFFIX})
+set(NBM_HEADERS ${CMAKE_INSTALL_INCLUDEDIR}/${NBM_NAME})
+set(NBM_PACKAGE ${CMAKE_INSTALL_LIBDIR}/cmake/${NBM_NAME})
+set(NBM_SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
+# Debian names packages of libraries after their SONAME.
+set(NBM_RUNTIME_PACKAGE libnbmanipulator${NBM_SOVERSION})
+if(NB_SUFFIX)
+    set(NBM_RUNTIME_PACKAGE libnbmanipulator${NB_SUFFIX}-${NBM_SOVERSION})
+endif()
+set(NBM_DEVELOPMENT_PACKAGE libnbmanipulator${NB_SUFFIX}-dev)
+
+# Compresses a file, the same whenever it is done.
+find_program(NBM_GZIP gzip REQUIRED)
+function(nb_compress source target)
+    execute_process(COMMAND ${NBM_GZIP} -9nc ${source} OUTPUT_FILE ${target} COMMAND_ERROR_IS_FATAL ANY)
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${source})
+endfunction()
 
 # == Libraries
 install(TARGETS nbManipulator nbplatform EXPORT nbManipulatorTargets
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
         INCLUDES DESTINATION ${NBM_HEADERS})
-set_target_properties(nbManipulator nbplatform PROPERTIES
-    VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR}
-    INSTALL_RPATH "$ORIGIN")
+set_target_properties(nbManipulator PROPERTIES OUTPUT_NAME nbManipulator${NB_SUFFIX})
+set_target_properties(nbplatform PROPERTIES OUTPUT_NAME nbplatform${NB_SUFFIX})
+set_target_properties(nbManipulator nbplatform PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${NBM_SOVERSION})
+# In /usr the loader finds the libraries, and packages may name no path.
+if(NOT CMAKE_INSTALL_PREFIX STREQUAL "/usr")
+    set_target_properties(nbManipulator nbplatform PROPERTIES INSTALL_RPATH "$ORIGIN")
+endif()
 
 # == Headers. Of the library: the classes, the modes of their handles, and what a manipulator of one's own is made of (course, handles,
 # drag). What lies in a folder "detail" of the platform is not for users, nor are the parts of the renderer.
@@ -35,42 +54,43 @@ install(DIRECTORY ${PROJECT_SOURCE_DIR}/opensg/include/ ${PROJECT_SOURCE_DIR}/op
 
 # == CMake package and pkg-config file
 install(EXPORT nbManipulatorTargets NAMESPACE nbm:: DESTINATION ${NBM_PACKAGE} COMPONENT development)
+list(JOIN NB_QT_COMPONENTS " " NBM_QT_COMPONENTS)
 configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/nbManipulatorConfig.cmake.in
-    ${PROJECT_BINARY_DIR}/nbManipulatorConfig.cmake INSTALL_DESTINATION ${NBM_PACKAGE})
-write_basic_package_version_file(${PROJECT_BINARY_DIR}/nbManipulatorConfigVersion.cmake
+    ${PROJECT_BINARY_DIR}/${NBM_NAME}Config.cmake INSTALL_DESTINATION ${NBM_PACKAGE})
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/${NBM_NAME}ConfigVersion.cmake
     COMPATIBILITY SameMinorVersion)
-install(FILES ${PROJECT_BINARY_DIR}/nbManipulatorConfig.cmake
-              ${PROJECT_BINARY_DIR}/nbManipulatorConfigVersion.cmake
+install(FILES ${PROJECT_BINARY_DIR}/${NBM_NAME}Config.cmake
+              ${PROJECT_BINARY_DIR}/${NBM_NAME}ConfigVersion.cmake
         DESTINATION ${NBM_PACKAGE} COMPONENT development)
+list(TRANSFORM NB_QT_COMPONENTS REPLACE "(.+)" "${NB_QT}\\1 >= ${NB_QT_VERSION}" OUTPUT_VARIABLE NBM_QT_MODULES)
+list(JOIN NBM_QT_MODULES ", " NBM_QT_MODULES)
 # Written while installing, so that a prefix chosen then is the one named in it.
 install(CODE "set(CMAKE_INSTALL_LIBDIR \"${CMAKE_INSTALL_LIBDIR}\")
 set(CMAKE_INSTALL_INCLUDEDIR \"${CMAKE_INSTALL_INCLUDEDIR}\")
 set(PROJECT_DESCRIPTION \"${PROJECT_DESCRIPTION}\")
 set(PROJECT_VERSION \"${PROJECT_VERSION}\")
+set(NB_SUFFIX \"${NB_SUFFIX}\")
+set(NBM_QT_MODULES \"${NBM_QT_MODULES}\")
 configure_file(\"${CMAKE_CURRENT_LIST_DIR}/nbManipulator.pc.in\"
-    \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}/pkgconfig/nbManipulator.pc\" @ONLY)"
+    \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}/pkgconfig/${NBM_NAME}.pc\" @ONLY)"
     COMPONENT development)
 
-# == Manual and licence
+# == Manual
 set(NBM_DOCUMENTS ${CMAKE_INSTALL_DATAROOTDIR}/doc)
-install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/ DESTINATION ${NBM_DOCUMENTS}/libnbmanipulator-dev/docs COMPONENT development
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/ DESTINATION ${NBM_DOCUMENTS}/${NBM_DEVELOPMENT_PACKAGE}/docs COMPONENT development
         FILES_MATCHING PATTERN "*.md" PATTERN "*.png")
 install(FILES ${PROJECT_SOURCE_DIR}/ARCHITECTURE.md ${PROJECT_SOURCE_DIR}/CHANGELOG.md ${PROJECT_SOURCE_DIR}/CONTRIBUTING.md
               ${PROJECT_SOURCE_DIR}/README.md
-        DESTINATION ${NBM_DOCUMENTS}/libnbmanipulator-dev COMPONENT development)
-install(FILES ${PROJECT_SOURCE_DIR}/benchmarks/README.md DESTINATION ${NBM_DOCUMENTS}/libnbmanipulator-dev/benchmarks
+        DESTINATION ${NBM_DOCUMENTS}/${NBM_DEVELOPMENT_PACKAGE} COMPONENT development)
+install(FILES ${PROJECT_SOURCE_DIR}/benchmarks/README.md DESTINATION ${NBM_DOCUMENTS}/${NBM_DEVELOPMENT_PACKAGE}/benchmarks
         COMPONENT development)
-install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples DESTINATION ${NBM_DOCUMENTS}/libnbmanipulator-dev COMPONENT development)
-# Debian packages have their licence under this name.
-install(FILES ${PROJECT_SOURCE_DIR}/LICENSE RENAME copyright
-        DESTINATION ${NBM_DOCUMENTS}/libnbmanipulator COMPONENT runtime)
-install(FILES ${PROJECT_SOURCE_DIR}/LICENSE RENAME copyright
-        DESTINATION ${NBM_DOCUMENTS}/libnbmanipulator-dev COMPONENT development)
-
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples DESTINATION ${NBM_DOCUMENTS}/${NBM_DEVELOPMENT_PACKAGE} COMPONENT development)
 # == Viewer with its sessions and their models
 if(NBMANIPULATOR_VIEWER)
-    file(RELATIVE_PATH NBM_LIBRARIES_FROM_PROGRAM /${CMAKE_INSTALL_BINDIR} /${CMAKE_INSTALL_LIBDIR})
-    set_target_properties(nbviewer PROPERTIES INSTALL_RPATH "$ORIGIN/${NBM_LIBRARIES_FROM_PROGRAM}")
+    if(NOT CMAKE_INSTALL_PREFIX STREQUAL "/usr")
+        file(RELATIVE_PATH NBM_LIBRARIES_FROM_PROGRAM /${CMAKE_INSTALL_BINDIR} /${CMAKE_INSTALL_LIBDIR})
+        set_target_properties(nbviewer PROPERTIES INSTALL_RPATH "$ORIGIN/${NBM_LIBRARIES_FROM_PROGRAM}")
+    endif()
     install(TARGETS nbviewer RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT viewer)
     install(TARGETS nbmodelreader RUNTIME DESTINATION ${CMAKE_INSTALL_LIBEXECDIR}/nbviewer COMPONENT viewer)
     install(DIRECTORY ${PROJECT_SOURCE_DIR}/viewer/models ${PROJECT_SOURCE_DIR}/viewer/sessions
@@ -81,38 +101,8 @@ if(NBMANIPULATOR_VIEWER)
     install(FILES ${NBM_DESKTOP}/nbviewer.svg
             DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps COMPONENT viewer)
     install(FILES ${NBM_DESKTOP}/nbviewer.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages COMPONENT viewer)
-    install(FILES ${PROJECT_SOURCE_DIR}/LICENSE RENAME copyright
-            DESTINATION ${NBM_DOCUMENTS}/nbviewer COMPONENT viewer)
+    nb_compress(${NBM_DESKTOP}/nbviewer.1 ${PROJECT_BINARY_DIR}/nbviewer.1.gz)
+    install(FILES ${PROJECT_BINARY_DIR}/nbviewer.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT viewer)
 endif()
 
-# == Packages: cpack in the build folder, or ./nb package
-set(CPACK_PACKAGE_NAME nbmanipulator)
-set(CPACK_PACKAGE_VENDOR "nbManipulator")
-set(CPACK_PACKAGE_CONTACT "the nbManipulator developers <nbmanipulator@localhost>")
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY ${PROJECT_DESCRIPTION})
-set(CPACK_RESOURCE_FILE_LICENSE ${PROJECT_SOURCE_DIR}/LICENSE)
-set(CPACK_GENERATOR TGZ DEB)
-set(CPACK_COMPONENTS_ALL runtime development)
-if(NBMANIPULATOR_VIEWER)
-    list(APPEND CPACK_COMPONENTS_ALL viewer)
-endif()
-set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
-set(CPACK_STRIP_FILES ON)
-# One archive with everything, one Debian package for each component.
-set(CPACK_DEB_COMPONENT_INSTALL ON)
-set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
-set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
-set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
-set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS ON)
-set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME libnbmanipulator)
-set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
-set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libnbmanipulator-dev)
-set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
-set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "qtbase5-dev, libboost-dev")
-set(CPACK_DEBIAN_VIEWER_PACKAGE_NAME nbviewer)
-set(CPACK_DEBIAN_VIEWER_PACKAGE_SECTION graphics)
-set(CPACK_DEBIAN_VIEWER_PACKAGE_RECOMMENDS "qttranslations5-l10n")
-set(CPACK_COMPONENT_DEVELOPMENT_DEPENDS runtime)
-set(CPACK_COMPONENT_VIEWER_DEPENDS runtime)
-include(CPack)
+include(NbPackage)

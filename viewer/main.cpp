@@ -9,6 +9,7 @@
 
 #include <nbKernel/nbController.h>
 #include <nbKernel/nbScenegraph.h>
+#include <nbUtils/nbQt.h>
 
 #include <OpenSG/OSGBaseFunctions.h>
 
@@ -120,10 +121,10 @@ int main(int argc, char** argv)
     }
     requestGraphics();
     // Pictures have the size that was asked for, whatever the screen is like.
-    QCoreApplication::setAttribute(options.isUnattended() ? Qt::AA_DisableHighDpiScaling
-                                                          : Qt::AA_EnableHighDpiScaling);
-    // Icons are drawn in device pixels, and 1.5 device pixels for a logical one are not made 2.
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    if (options.isUnattended()) {
+        qputenv("QT_ENABLE_HIGHDPI_SCALING", "0");
+    }
+    nbQt::useHighDpi();
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     // Qt's own options are none of this program's, so it gets the name only.

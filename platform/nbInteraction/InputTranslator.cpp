@@ -3,9 +3,9 @@
 #include <nbInteraction/InputTranslator.h>
 #include <nbInteraction/InteractionManager.h>
 #include <nbKernel/nbOSGWidget.h>
+#include <nbUtils/nbQt.h>
 
 #include <QKeyEvent>
-#include <QMouseEvent>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -184,7 +184,7 @@ void InputTranslator::interruptDrag()
 
 bool InputTranslator::press(const QMouseEvent& event)
 {
-    pointTo(event.localPos(), event.modifiers());
+    pointTo(nbQt::position(event), event.modifiers());
     const bool isOnlyButton = (event.buttons() & ~Qt::MouseButtons(event.button())) == 0;
     if (buttonIsDown && !isOnlyButton) {
         return pressSecond(event.button());
@@ -222,7 +222,7 @@ bool InputTranslator::pressSecond(Qt::MouseButton button)
 
 bool InputTranslator::move(const QMouseEvent& event)
 {
-    pointTo(event.localPos(), event.modifiers());
+    pointTo(nbQt::position(event), event.modifiers());
     if (event.buttons() == Qt::NoButton) {
         if (buttonIsDown) {
             // The release went elsewhere.
@@ -237,7 +237,7 @@ bool InputTranslator::move(const QMouseEvent& event)
 
 bool InputTranslator::release(const QMouseEvent& event)
 {
-    pointTo(event.localPos(), event.modifiers());
+    pointTo(nbQt::position(event), event.modifiers());
     if (!buttonIsDown) {
         return false;
     }

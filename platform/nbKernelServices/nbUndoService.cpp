@@ -5,8 +5,8 @@
 #include <nbKernelServices/detail/OpenStep.h>
 #include <nbOpenSGUtils/nbEditRecorder.h>
 
+#include <QUndoStack>
 #include <QtCore/QPointer>
-#include <QtWidgets/QUndoStack>
 
 #include <algorithm>
 #include <iterator>

@@ -3,7 +3,11 @@
 
 #include <OpenSG/OSGMatrix.h>
 
-#include <QtGui/QOpenGLFunctions_3_3_Core>
+#include <QOpenGLContext>
+#include <QOpenGLFunctions_3_3_Core>
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+#include <QOpenGLVersionFunctionsFactory>
+#endif
 
 #include <functional>
 #include <map>
@@ -13,6 +17,16 @@
 namespace nbrender {
 
 using Gl = QOpenGLFunctions_3_3_Core;
+
+/// The functions of a context, not initialised. @return null if the context does not have them
+inline Gl* functionsOf(QOpenGLContext& context)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return QOpenGLVersionFunctionsFactory::get<Gl>(&context);
+#else
+    return context.versionFunctions<Gl>();
+#endif
+}
 
 /// A linked shader program. Vertex attributes have the places and names of shaderHeaderString(),
 /// also where a text declares them without a place. Needs the context that it was built in for

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "nbOffscreenView.h"
 
+#include <QOpenGLFramebufferObject>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QOffscreenSurface>
 #include <QtGui/QOpenGLContext>
-#include <QtGui/QOpenGLFramebufferObject>
 #include <QtGui/QSurfaceFormat>
 
 #include <algorithm>

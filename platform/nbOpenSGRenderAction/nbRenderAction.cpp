@@ -9,7 +9,6 @@
 
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QPointer>
-#include <QtGui/QOpenGLContext>
 
 #include <algorithm>
 
@@ -89,7 +88,7 @@ bool nbRenderAction::Impl::prepareContext(std::string& error)
         return true;
     }
     forgetContext();
-    Gl* functions = current->versionFunctions<Gl>();
+    Gl* functions = nbrender::functionsOf(*current);
     if (functions == nullptr || !functions->initializeOpenGLFunctions()) {
         const QSurfaceFormat format = current->format();
         error = "OpenGL 3.3 core is needed, the driver gives " +

@@ -2,7 +2,7 @@
 #include <nbOpenSGSelection/nbSelection.h>
 #include <nbView/nbSceneWidget.h>
 
-#include <QtWidgets/QShortcut>
+#include <QShortcut>
 
 nbSceneWidget::nbSceneWidget(QWidget* parent)
     : nbViewWidget(parent)

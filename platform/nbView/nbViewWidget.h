@@ -7,10 +7,10 @@
 #include <nbOpenSGRenderAction/nbRenderAction.h>
 #include <nbUtils/nbPlatformExport.h>
 
+#include <QOpenGLWidget>
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QTimer>
 #include <QtGui/QImage>
-#include <QtWidgets/QOpenGLWidget>
 
 #include <memory>
 #include <string>

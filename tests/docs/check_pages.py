@@ -56,10 +56,10 @@ def missing_excerpts(root):
 
 def unknown_names(root):
     """Page, and each identifier in it that no source knows."""
-    known = set()
-    for folder in ("manipulator", "modules", "platform", "opensg", "viewer", "examples", "docs"):
+    known = set(re.findall(r"\w+", (root / "CMakeLists.txt").read_text(encoding="utf-8")))
+    for folder in ("cmake", "manipulator", "modules", "platform", "opensg", "viewer", "examples", "docs"):
         for path in (root / folder).rglob("*"):
-            if path.suffix in (".h", ".cpp", ".txt"):
+            if path.suffix in (".h", ".cmake", ".cpp", ".txt"):
                 known.update(re.findall(r"\w+", path.read_text(encoding="utf-8")))
     for page in [root / "README.md", *sorted((root / "docs").glob("*.md"))]:
         for code in re.findall(r"`([A-Za-z_][\w:]*)(?:\([^`]*\))?`", page.read_text(encoding="utf-8")):

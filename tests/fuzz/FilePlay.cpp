@@ -18,7 +18,7 @@
 /// What Qt's reader of JSON has begun when a broken text stops it. Our own containers are counted.
 extern "C" const char* __lsan_default_suppressions()
 {
-    return "leak:libQt5Core\n";
+    return "leak:libQt5Core\nleak:libQt6Core\n";
 }
 
 namespace viewer::test {

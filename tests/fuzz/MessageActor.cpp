@@ -6,10 +6,10 @@
 #include <nbKernelServices/nbUndoService.h>
 #include <nbUtils/nbLog.h>
 
+#include <QUndoStack>
 #include <QtCore/QString>
 #include <QtGui/QVector2D>
 #include <QtGui/QVector3D>
-#include <QtWidgets/QUndoStack>
 
 #include <utility>
 

@@ -34,14 +34,14 @@ if(position EQUAL -1)
 endif()
 
 # == A drag, by the compiler alone
-file(GLOB_RECURSE package ${SCRATCH}/prefix/nbManipulator.pc)
+file(GLOB_RECURSE package ${SCRATCH}/prefix/nbManipulator${SUFFIX}.pc)
 get_filename_component(packages ${package} DIRECTORY)
 set(ENV{PKG_CONFIG_PATH} ${packages})
-run(pkg-config --cflags nbManipulator)
+run(pkg-config --cflags nbManipulator${SUFFIX})
 separate_arguments(cflags UNIX_COMMAND "${output}")
-run(pkg-config --libs nbManipulator)
+run(pkg-config --libs nbManipulator${SUFFIX})
 separate_arguments(libs UNIX_COMMAND "${output}")
-run(pkg-config --variable=libdir nbManipulator)
+run(pkg-config --variable=libdir nbManipulator${SUFFIX})
 string(STRIP "${output}" libdir)
 separate_arguments(flags UNIX_COMMAND "${FLAGS}")
 run(${COMPILER} ${flags} ${cflags} ${CMAKE_CURRENT_LIST_DIR}/drag/drag_gizmo.cpp -o ${SCRATCH}/drag_gizmo ${libs}
@@ -76,7 +76,7 @@ ${lines}
 run(${COMPILER} ${flags} ${cflags} -fsyntax-only ${SCRATCH}/all_headers.cpp)
 
 # == The manual leads nowhere that is not installed
-set(documents ${SCRATCH}/prefix/share/doc/libnbmanipulator-dev)
+set(documents ${SCRATCH}/prefix/share/doc/libnbmanipulator${SUFFIX}-dev)
 file(GLOB pages ${documents}/*.md ${documents}/docs/*.md)
 list(LENGTH pages count)
 if(count LESS 10 OR NOT EXISTS ${documents}/examples/FirstWindow.cpp)
@@ -96,9 +96,20 @@ foreach(page ${pages})
     endforeach()
 endforeach()
 
-# == The viewer finds its libraries, and desktops find the viewer
+# == The viewer finds its libraries and the program that reads models; its manual page has every option, and desktops find it
 if(EXISTS ${SCRATCH}/prefix/bin/nbviewer)
-    run(${SCRATCH}/prefix/bin/nbviewer --version)
+    run(${SOURCE}/tests/support/with-display.sh ${SCRATCH}/prefix/bin/nbviewer ${SCRATCH}/prefix/share/nbviewer/models/boxes.obj
+        --screenshot ${SCRATCH}/boxes.png)
+    run(${SCRATCH}/prefix/bin/nbviewer --help)
+    string(REGEX MATCHALL "--[a-z]+" options "${output}")
+    run(gzip -dc ${SCRATCH}/prefix/share/man/man1/nbviewer.1.gz)
+    string(REPLACE "\\-" "-" manual "${output}")
+    foreach(option ${options})
+        string(FIND "${manual}" "${option}" position)
+        if(position EQUAL -1)
+            message(FATAL_ERROR "the manual page lacks ${option}")
+        endif()
+    endforeach()
     file(STRINGS ${SCRATCH}/prefix/share/applications/nbviewer.desktop entry REGEX "^(Exec|Icon|MimeType)=")
     if(NOT "${entry}" MATCHES "Exec=nbviewer %F;Icon=nbviewer;MimeType=application/x-nbscene")
         message(FATAL_ERROR "the desktop entry says \"${entry}\"")

@@ -6,7 +6,7 @@
 #include <OpenSG/OSGChangeCount.h>
 #include <OpenSG/OSGSimpleGeometry.h>
 
-#include <QtWidgets/QUndoStack>
+#include <QUndoStack>
 
 #include <cmath>
 #include <limits>

@@ -8,7 +8,7 @@
 
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
-#include <QtWidgets/QUndoStack>
+#include <QUndoStack>
 
 #include <gtest/gtest.h>
 

@@ -12,8 +12,8 @@
 #include <nbMagnifier/nbMagnifierRenderer.h>
 #include <nbOpenSGUberCamera/UberCamera.h>
 
+#include <QUndoStack>
 #include <QtCore/QSignalBlocker>
-#include <QtWidgets/QUndoStack>
 
 #include <gtest/gtest.h>
 

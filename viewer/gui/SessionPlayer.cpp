@@ -5,13 +5,14 @@
 #include "viewer/gui/ViewWidget.h"
 #include "viewer/loading/PictureFile.h"
 #include "viewer/replay/SessionChecks.h"
+#include "viewer/replay/SessionNames.h"
 #include "viewer/replay/SessionTargets.h"
+
+#include <nbUtils/nbQt.h>
 
 #include <QAction>
 #include <QCoreApplication>
 #include <QKeyEvent>
-#include <QKeySequence>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QTimer>
 #include <QWheelEvent>
@@ -28,32 +29,24 @@ constexpr int kReadingMsPerLetter = 25;
 /// Qt key and modifiers of a portable key name.
 int keyOf(const QString& name, Qt::KeyboardModifiers& modifiers)
 {
-    if (name == QLatin1String("Ctrl")) {
-        return Qt::Key_Control;
+    for (const ModifierKey& each : kModifierKeys) {
+        if (name == QLatin1String(each.name)) {
+            return each.key;
+        }
     }
-    if (name == QLatin1String("Shift")) {
-        return Qt::Key_Shift;
-    }
-    if (name == QLatin1String("Alt")) {
-        return Qt::Key_Alt;
-    }
-    const int combined = QKeySequence(name, QKeySequence::PortableText)[0];
+    const int combined = nbQt::firstKey(QKeySequence(name, QKeySequence::PortableText));
     modifiers |= Qt::KeyboardModifiers(combined & static_cast<int>(Qt::KeyboardModifierMask));
     return combined & ~static_cast<int>(Qt::KeyboardModifierMask);
 }
 
 Qt::KeyboardModifiers modifierOfKey(int key)
 {
-    switch (key) {
-    case Qt::Key_Control:
-        return Qt::ControlModifier;
-    case Qt::Key_Shift:
-        return Qt::ShiftModifier;
-    case Qt::Key_Alt:
-        return Qt::AltModifier;
-    default:
-        return Qt::NoModifier;
+    for (const ModifierKey& each : kModifierKeys) {
+        if (key == each.key) {
+            return each.flag;
+        }
     }
+    return Qt::NoModifier;
 }
 
 }  // namespace

@@ -3,10 +3,11 @@
 
 #include "viewer/commands/JsonNumbers.h"
 #include "viewer/gui/ViewWidget.h"
+#include "viewer/replay/SessionNames.h"
+
+#include <nbUtils/nbQt.h>
 
 #include <QKeyEvent>
-#include <QKeySequence>
-#include <QMouseEvent>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -53,16 +54,12 @@ bool isKnownButton(Qt::MouseButton button)
 
 QString keyName(int key)
 {
-    switch (key) {
-    case Qt::Key_Control:
-        return QStringLiteral("Ctrl");
-    case Qt::Key_Shift:
-        return QStringLiteral("Shift");
-    case Qt::Key_Alt:
-        return QStringLiteral("Alt");
-    default:
-        return QKeySequence(key).toString(QKeySequence::PortableText);
+    for (const ModifierKey& each : kModifierKeys) {
+        if (key == each.key) {
+            return QLatin1String(each.name);
+        }
     }
+    return QKeySequence(key).toString(QKeySequence::PortableText);
 }
 
 }  // namespace
@@ -198,7 +195,7 @@ void SessionRecorder::addMouse(Type type, const QMouseEvent& event)
     }
     SessionStep step;
     step.type = type;
-    step.at = pixelAt(event.localPos());
+    step.at = pixelAt(nbQt::position(event));
     step.modifiers = event.modifiers();
     if (type != Type::Move) {
         step.button = event.button();

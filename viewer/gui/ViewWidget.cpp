@@ -6,14 +6,13 @@
 #include "viewer/gui/SelectionRectangle.h"
 #include "viewer/stage/StageTool.h"
 
+#include <nbUtils/nbQt.h>
 #include <nbView/nbTextPainter.h>
 
 #include <QApplication>
 #include <QDragEnterEvent>
-#include <QDropEvent>
 #include <QJsonObject>
 #include <QMimeData>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QUrl>
 
@@ -161,12 +160,12 @@ bool ViewWidget::event(QEvent* event)
 
 void ViewWidget::followRightButton(const QMouseEvent& event)
 {
+    const QPoint place = nbQt::position(event).toPoint();
     if (event.type() == QEvent::MouseButtonPress) {
-        const bool isAlone = event.buttons() == Qt::RightButton;
-        rightPress = isAlone ? event.pos() : QPoint(-kFar, -kFar);
+        rightPress = event.buttons() == Qt::RightButton ? place : QPoint(-kFar, -kFar);
     } else if (event.button() == Qt::RightButton &&
-               (event.pos() - rightPress).manhattanLength() < QApplication::startDragDistance()) {
-        emit menuAsked(viewStage.view().getMousePosition(), event.globalPos());
+               (place - rightPress).manhattanLength() < QApplication::startDragDistance()) {
+        emit menuAsked(viewStage.view().getMousePosition(), mapToGlobal(place));
     }
 }
 
@@ -192,10 +191,8 @@ void ViewWidget::dropEvent(QDropEvent* event)
     const QStringList files = localFiles(event->mimeData());
     if (!files.isEmpty()) {
         event->acceptProposedAction();
-        const double ratio = devicePixelRatioF();
-        emit filesDropped(files,
-                          { static_cast<float>(event->posF().x() * ratio),
-                            static_cast<float>(event->posF().y() * ratio) });
+        const QPointF px = nbQt::position(*event) * devicePixelRatioF();
+        emit filesDropped(files, { static_cast<float>(px.x()), static_cast<float>(px.y()) });
     }
 }
 

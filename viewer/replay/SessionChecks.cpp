@@ -10,7 +10,7 @@
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <QJsonArray>
-#include <QtWidgets/QUndoStack>
+#include <QUndoStack>
 
 namespace viewer {
 namespace {

@@ -40,4 +40,16 @@ QStringList modifierNames(Qt::KeyboardModifiers modifiers);
 /// @return nothing for an unknown word
 std::optional<Qt::KeyboardModifier> modifierFromName(const QString& name);
 
+/// A key that is a modifier, by the name that it has in a session file.
+struct ModifierKey
+{
+    const char* name;
+    int key;
+    Qt::KeyboardModifier flag;
+};
+
+constexpr ModifierKey kModifierKeys[] = { { "Ctrl", Qt::Key_Control, Qt::ControlModifier },
+                                          { "Shift", Qt::Key_Shift, Qt::ShiftModifier },
+                                          { "Alt", Qt::Key_Alt, Qt::AltModifier } };
+
 }  // namespace viewer

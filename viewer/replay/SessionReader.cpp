@@ -5,11 +5,12 @@
 #include "viewer/texts/FileRules.h"
 #include "viewer/texts/TextFile.h"
 
+#include <nbUtils/nbQt.h>
+
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonObject>
-#include <QKeySequence>
 
 #include <cmath>
 
@@ -275,7 +276,7 @@ bool Reader::checkStep(const QJsonObject& object, const QString& path, const Ses
     case Type::KeyPress:
     case Type::KeyRelease: {
         const QKeySequence keys(step.key, QKeySequence::PortableText);
-        const bool isOneKey = keys.count() == 1 && keys[0] != Qt::Key_unknown;
+        const bool isOneKey = keys.count() == 1 && nbQt::firstKey(keys) != Qt::Key_unknown;
         const bool isModifier = step.key == "Ctrl" || step.key == "Shift" || step.key == "Alt";
         return isOneKey || isModifier ||
             fail(path + ".key", QStringLiteral("unknown key \"%1\"").arg(step.key));

@@ -19,7 +19,7 @@
 
 #include <OpenSG/OSGBoxVolume.h>
 
-#include <QtWidgets/QUndoStack>
+#include <QUndoStack>
 
 #include <algorithm>
 #include <utility>

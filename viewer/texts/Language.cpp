@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/texts/Language.h"
 
-#include <QCoreApplication>
-#include <QLibraryInfo>
+#include "platform/nbUtils/nbQt.h"
+
 #include <QLocale>
 #include <QTranslator>
 
@@ -113,8 +113,7 @@ void applyLanguage(Language language)
         languageName(language == Language::System ? languageOf(desktop.uiLanguages()) : language);
     QLocale::setDefault(language == Language::System ? desktop : QLocale(name));
     // The one installed last is asked first.
-    install(QStringLiteral("qtbase_") + name,
-            QLibraryInfo::location(QLibraryInfo::TranslationsPath));
+    install(QStringLiteral("qtbase_") + name, nbQt::translationFolder());
     install(QStringLiteral("nbviewer_") + name, QStringLiteral(":/translations"));
 }
 

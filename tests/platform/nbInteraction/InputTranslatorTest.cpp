@@ -42,7 +42,7 @@ protected:
     bool mouse(QEvent::Type type, int x, int y, Qt::MouseButton button, Qt::MouseButtons buttons,
                Qt::KeyboardModifiers modifiers = kNone)
     {
-        QMouseEvent event(type, QPointF(x, y), button, buttons, modifiers);
+        QMouseEvent event(type, QPointF(x, y), QPointF(x, y), button, buttons, modifiers);
         return translator.handleEvent(event);
     }
 
@@ -305,7 +305,8 @@ TEST_F(InputTranslatorTest, ViewUnderThePointerBecomesTheMainOne)
     InputTranslator ofSecond(manager, &second);
     ASSERT_EQ(nbOSGWidget::getMGLW(-1), &widget);
 
-    QMouseEvent event(QEvent::MouseMove, QPointF(5, 6), Qt::NoButton, Qt::NoButton, kNone);
+    QMouseEvent event(QEvent::MouseMove, QPointF(5, 6), QPointF(5, 6), Qt::NoButton, Qt::NoButton,
+                      kNone);
     ofSecond.handleEvent(event);
 
     EXPECT_EQ(nbOSGWidget::getMGLW(-1), &second);

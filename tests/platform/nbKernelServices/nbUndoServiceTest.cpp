@@ -10,7 +10,7 @@
 #include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGRefPtr.h>
 
-#include <QtWidgets/QUndoStack>
+#include <QUndoStack>
 
 #include <gtest/gtest.h>
 

@@ -14,7 +14,7 @@
 #include <OpenSG/OSGGroup.h>
 #include <OpenSG/OSGNodePtr.h>
 
-#include <QtWidgets/QUndoStack>
+#include <QUndoStack>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -10,7 +10,7 @@
 #include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGSimpleGeometry.h>
 
-#include <QtWidgets/QUndoStack>
+#include <QUndoStack>
 
 #include <gtest/gtest.h>
 

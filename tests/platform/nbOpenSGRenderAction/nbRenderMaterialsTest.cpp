@@ -2,14 +2,13 @@
 #include "tests/platform/support/LogLines.h"
 #include "tests/platform/support/RenderTest.h"
 
+#include <nbOpenSGRenderAction/GlProgram.h>
 #include <nbOpenSGRenderAction/nbImageConvert.h>
 #include <nbOpenSGUtils/nbShaderHeader.h>
 
+#include <QOpenGLFramebufferObject>
+#include <QOpenGLPaintDevice>
 #include <QtGui/QOffscreenSurface>
-#include <QtGui/QOpenGLContext>
-#include <QtGui/QOpenGLFramebufferObject>
-#include <QtGui/QOpenGLFunctions_3_3_Core>
-#include <QtGui/QOpenGLPaintDevice>
 #include <QtGui/QPainter>
 
 using namespace rendertest;
@@ -225,7 +224,7 @@ TEST_F(nbRenderMaterialsTest, AHostsDrawingDoesNotLeakInAndItsStateComesBack)
     format.setProfile(QSurfaceFormat::CoreProfile);
     context.setFormat(format);
     ASSERT_TRUE(context.create() && context.makeCurrent(&surface));
-    auto* const gl = context.versionFunctions<QOpenGLFunctions_3_3_Core>();
+    auto* const gl = nbrender::functionsOf(context);
     ASSERT_TRUE(gl != nullptr && gl->initializeOpenGLFunctions());
     QOpenGLFramebufferObject target(kSize, kSize);
     nbRenderAction action;

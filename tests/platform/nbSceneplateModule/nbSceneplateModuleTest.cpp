@@ -14,8 +14,8 @@
 
 #include <OpenSG/OSGGroup.h>
 
+#include <QUndoStack>
 #include <QtGui/QVector2D>
-#include <QtWidgets/QUndoStack>
 
 #include <gmock/gmock.h>
 

@@ -2,6 +2,8 @@
 // The main function of test programs that open windows.
 #include "tests/platform/support/RunTests.h"
 
+#include <nbUtils/nbQt.h>
+
 #include <QApplication>
 #include <QSurfaceFormat>
 
@@ -18,7 +20,7 @@ int main(int argc, char** argv)
         format.setProfile(QSurfaceFormat::CoreProfile);
         QSurfaceFormat::setDefaultFormat(format);
         // As the program has it, see main.cpp.
-        QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+        nbQt::useHighDpi();
         application.emplace(argc, argv);
     }
     return nbtest::runTests(argc, argv);

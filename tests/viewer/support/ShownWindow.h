@@ -86,7 +86,8 @@ protected:
     void send(QEvent::Type type, const QPointF& place, Qt::MouseButton button,
               Qt::MouseButtons held)
     {
-        QMouseEvent event(type, place, button, held, modifiers);
+        const QPointF onScreen = place + window.view().mapToGlobal(QPoint());
+        QMouseEvent event(type, place, onScreen, button, held, modifiers);
         QCoreApplication::sendEvent(&window.view(), &event);
     }
 

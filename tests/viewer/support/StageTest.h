@@ -11,7 +11,7 @@
 
 #include <QJsonArray>
 #include <QJsonObject>
-#include <QtWidgets/QUndoStack>
+#include <QUndoStack>
 
 #include <gtest/gtest.h>
 
