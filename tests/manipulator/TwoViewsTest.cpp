@@ -9,7 +9,7 @@
 
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
-#include <QtWidgets/QUndoStack>
+#include <QUndoStack>
 
 #include <gtest/gtest.h>
 

@@ -6,8 +6,11 @@
 #include "viewer/scenes/SceneCapture.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QFile>
+#include <QPushButton>
 #include <QTemporaryDir>
+#include <QTimer>
 
 namespace viewer {
 namespace {
@@ -105,7 +108,7 @@ TEST_F(SceneFileActionsTest, EditsAreNotLostWithoutAQuestion)
 {
     int asked = 0;
     QMessageBox::StandardButton answer = QMessageBox::Cancel;
-    window.scenes().setQuestion([&](const QString& question) {
+    window.scenes().setQuestion([&](const QString& question, auto) {
         EXPECT_TRUE(question.contains("has been edited"));
         ++asked;
         return answer;
@@ -133,6 +136,68 @@ TEST_F(SceneFileActionsTest, EditsAreNotLostWithoutAQuestion)
     moveVase();
     answer = QMessageBox::Discard;
     EXPECT_TRUE(window.close());
+}
+
+TEST_F(SceneFileActionsTest, AFileThatAnotherProgramChangedIsNotReplacedWithoutAQuestion)
+{
+    ASSERT_TRUE(run("scene.save", scene));
+    moveVase();
+    QFile file(scene);
+    ASSERT_TRUE(file.open(QIODevice::Append));
+    file.write("\n");
+    file.close();
+
+    EXPECT_FALSE(run("scene.save", QJsonValue()));
+    EXPECT_FALSE(window.scenes().save()) << "nobody is there";
+    EXPECT_EQ(problems, QStringList({ scene + ": has been changed by another program" }));
+    QMessageBox::StandardButton answer = QMessageBox::Cancel;
+    window.scenes().setQuestion([&](const QString&, QMessageBox::StandardButtons answers) {
+        EXPECT_FALSE(answers.testFlag(QMessageBox::Discard));
+        return answer;
+    });
+    EXPECT_FALSE(window.scenes().save());
+    EXPECT_TRUE(window.isWindowModified());
+    answer = QMessageBox::Save;
+    EXPECT_TRUE(window.scenes().save());
+    EXPECT_TRUE(run("scene.save", QJsonValue())) << "it is this program's again";
+    ASSERT_TRUE(QFile::remove(scene));
+    EXPECT_TRUE(run("scene.save", QJsonValue())) << "nothing is replaced";
+}
+
+TEST_F(SceneFileActionsTest, WhatWasKeptIsOfferedWithItsPictureUntilItIsTakenOrDiscarded)
+{
+    moveVase();
+    const QByteArray edited = text();
+    const QString left = folder.filePath("recovery-7.nbscene");
+    ASSERT_TRUE(saveScene(stage(), left, error));
+    waitUntil([this] { return !window.view().lastFrame().isNull(); });
+    ASSERT_TRUE(window.view().lastFrame().save(folder.filePath("recovery-7.png")));
+    window.showStartScene();
+    window.scenes().keepEdits(QDir(folder.path()), [] { return QImage(); });
+    int asked = 0;
+    const auto offer = [&](QMessageBox::StandardButton answer) {
+        QTimer::singleShot(0, &window, [&, answer] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_NE(box, nullptr);
+            EXPECT_EQ(box->iconPixmap().size(), window.view().sizePx());
+            EXPECT_TRUE(box->defaultButton()->text().contains("Yes"));
+            ++asked;
+            box->button(answer)->click();
+        });
+        window.scenes().offerKept();
+    };
+
+    offer(QMessageBox::Cancel);
+    EXPECT_NE(text(), edited);
+    offer(QMessageBox::Yes);
+    EXPECT_EQ(text(), edited);
+    EXPECT_TRUE(window.isWindowModified());
+    EXPECT_FALSE(QFile::exists(left));
+    ASSERT_TRUE(saveScene(stage(), left, error));
+    ASSERT_TRUE(window.view().lastFrame().save(folder.filePath("recovery-7.png")));
+    offer(QMessageBox::Discard);
+    EXPECT_EQ(asked, 3);
+    EXPECT_EQ(QDir(folder.path()).entryList({ "recovery-7.*" }), QStringList());
 }
 
 TEST_F(SceneFileActionsTest, ASessionWritesNothingButItsOwn)
@@ -171,7 +236,7 @@ TEST_F(SceneFileActionsTest, ASessionWritesNothingButItsOwn)
 
 TEST_F(SceneFileActionsTest, AFailedSaveKeepsTheScene)
 {
-    window.scenes().setQuestion([](const QString&) { return QMessageBox::Save; });
+    window.scenes().setQuestion([](const QString&, auto) { return QMessageBox::Save; });
     const QDir base(folder.path());
     ASSERT_TRUE(base.mkdir("gone"));
     ASSERT_TRUE(run("scene.save", base.filePath("gone/table.nbscene")));

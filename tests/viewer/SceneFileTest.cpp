@@ -362,8 +362,8 @@ TEST_F(SceneFile, WhatAKilledProgramKeptIsTakenUpOnceAndThatOfARunningOneNever)
     const pid_t other = fork();
     if (other == 0) {
         Recovery recovery(kept);
-        recovery.keep(*document);
-        char answer = recovery.wait() ? 'y' : 'n';
+        recovery.keep(*document, QImage());
+        char answer = recovery.wait().isEmpty() ? 'y' : 'n';
         answer = ::write(ready[1], &answer, 1) == 1 ? answer : 'n';
         pause();
         _exit(0);
@@ -373,12 +373,15 @@ TEST_F(SceneFile, WhatAKilledProgramKeptIsTakenUpOnceAndThatOfARunningOneNever)
     ASSERT_EQ(answer, 'y');
     {
         Recovery recovery(kept);
-        EXPECT_FALSE(recovery.takeUp()) << "it still runs";
+        EXPECT_FALSE(recovery.find()) << "it still runs";
         kill(other, SIGKILL);
         waitpid(other, nullptr, 0);
-        ASSERT_TRUE(recovery.takeUp());
+        const std::optional<Recovery::Kept> found = recovery.find();
+        ASSERT_TRUE(found);
+        EXPECT_FALSE(recovery.find()) << "it is being offered";
+        ASSERT_TRUE(recovery.takeUp(*found));
         EXPECT_TRUE(openScene(stage, recovery.file(), error)) << error.toStdString();
-        EXPECT_FALSE(recovery.takeUp()) << "once";
+        EXPECT_FALSE(recovery.find()) << "once";
     }
     EXPECT_EQ(kept.entryList(QDir::Files), QStringList()) << "this one ended regularly";
 }

@@ -82,7 +82,8 @@ MainWindow::MainWindow(Attendance attendance)
     if (mode == Attendance::Attended) {
         connect(this, &MainWindow::problem, messageBar, &MessageBar::showMessage);
         sceneFiles->setQuestion(sceneFiles->dialog());
-        sceneFiles->keepEdits(QFileInfo(QSettings().fileName()).dir());
+        sceneFiles->keepEdits(QFileInfo(QSettings().fileName()).dir(),
+                              [this] { return viewWidget->lastFrame(); });
         connect(sessionPlayer, &SessionPlayer::captionChanged, new CaptionBar(viewWidget),
                 &CaptionBar::showCaption);
         if (!memory::restoreLayout(*this)) {

@@ -92,16 +92,17 @@ void SceneFileActions::addCommands()
             return false;
         }
         const QString path = stage.commands().filePath(name);
+        const Stamp read = stampOf(path);
         if (!openScene(stage, path, error)) {
             return false;
         }
-        adopt(path, false);
+        adopt(path, false, read);
         emit opened(path, true);
         return true;
     });
     commands.add(QStringLiteral("scene.save"), [this](const QJsonValue& value, QString& error) {
         if (value.isNull() && isChosen) {
-            return saveTo(sceneFile, error);
+            return isAsLeft(error) && saveTo(sceneFile, error);
         }
         QString name;
         if (!JsonReader(error).readString(value, QStringLiteral("scene.save"), name)) {
@@ -123,6 +124,7 @@ void SceneFileActions::open(const QString& path, bool isByPerson)
     isDocumentChosen = isByPerson;
     QString error;
     loader.cancel();
+    documentStamp = stampOf(path);
     document = readSceneFile(path, error);
     documentFile = QFileInfo(path).absoluteFilePath();
     if (!document) {
@@ -150,7 +152,7 @@ void SceneFileActions::conclude()
         return;
     }
     scene->show(stage);
-    adopt(documentFile, isDocumentChosen);
+    adopt(documentFile, isDocumentChosen, documentStamp);
     emit opened(documentFile, false);
 }
 
@@ -158,15 +160,39 @@ void SceneFileActions::conclude()
 
 bool SceneFileActions::save()
 {
-    QString error;
     if (!isChosen) {
         return saveAs();
     }
-    if (!saveTo(sceneFile, error)) {
+    QString error;
+    bool mayWrite = isAsLeft(error);
+    if (!mayWrite && question) {
+        const QString text = tr("%1 has been changed by another program. Replace it?");
+        if (question(text.arg(sceneFile), QMessageBox::Save | QMessageBox::Cancel) !=
+            QMessageBox::Save) {
+            return false;
+        }
+        mayWrite = true;
+    }
+    if (!mayWrite || !saveTo(sceneFile, error)) {
         emit problem(error);
         return false;
     }
     return true;
+}
+
+SceneFileActions::Stamp SceneFileActions::stampOf(const QString& path)
+{
+    const QFileInfo info(path);
+    return { info.lastModified(), info.size() };
+}
+
+bool SceneFileActions::isAsLeft(QString& error) const
+{
+    if (!QFileInfo::exists(sceneFile) || stampOf(sceneFile) == stamp) {
+        return true;
+    }
+    error = tr("%1: has been changed by another program").arg(sceneFile);
+    return false;
 }
 
 bool SceneFileActions::saveAs()
@@ -199,6 +225,7 @@ bool SceneFileActions::saveTo(const QString& path, QString& error)
         return false;
     }
     sceneFile = QFileInfo(path).absoluteFilePath();
+    stamp = stampOf(path);
     isChosen = true;
     touched = false;
     steps().setClean();
@@ -209,10 +236,11 @@ bool SceneFileActions::saveTo(const QString& path, QString& error)
 
 // == What is not lost when the program is killed
 
-void SceneFileActions::keepEdits(const QDir& folder)
+void SceneFileActions::keepEdits(const QDir& folder, std::function<QImage()> shown)
 {
     constexpr int kUsualSeconds = 120;
     recovery = std::make_unique<Recovery>(folder);
+    shownPicture = std::move(shown);
     auto* timer = new QTimer(this);
     connect(timer, &QTimer::timeout, this, &SceneFileActions::keepNow);
     timer->start(kMsOfASecond *
@@ -226,40 +254,57 @@ void SceneFileActions::keepEdits(const QDir& folder)
 
 void SceneFileActions::keepNow()
 {
-    if (!recovery || !isModified() || keptEdits == osg::getEditCount()) {
+    if (!recovery || recovery->isWriting()) {
+        return;
+    }
+    const QString fault = recovery->wait();
+    if (!fault.isEmpty()) {
+        keptEdits = 0;  // of which nothing is on the disk
+    }
+    if (std::exchange(keepingFault, fault) != fault && !fault.isEmpty()) {
+        emit problem(fault);
+    }
+    if (!isModified() || keptEdits == osg::getEditCount()) {
         return;
     }
     if (stage.isDragging()) {
         QTimer::singleShot(kMsOfASecond, this, &SceneFileActions::keepNow);
         return;
     }
-    keptEdits = osg::getEditCount();
     QString error;
-    if (const std::optional<SceneDocument> edited = captureScene(stage, error)) {
-        recovery->keep(*edited);
+    std::optional<SceneDocument> edited = captureScene(stage, error);
+    if (edited && recovery->keep(std::move(*edited), shownPicture())) {
+        keptEdits = osg::getEditCount();
     }
 }
 
 void SceneFileActions::offerKept()
 {
-    const std::optional<QDateTime> time = recovery ? recovery->takeUp() : std::nullopt;
-    if (!time) {
+    const std::optional<Recovery::Kept> kept = recovery ? recovery->find() : std::nullopt;
+    if (!kept) {
         return;
     }
-    const QString when = QLocale().toString(*time, QLocale::ShortFormat);
-    const auto answer = QMessageBox::question(
-        &window, tr("Recover"),
+    QMessageBox box(
+        QMessageBox::Question, tr("Recover"),
         tr("The program ended unexpectedly. Edits up to %1 have been kept. Recover them?")
-            .arg(when));
-    QString error;
-    if (answer != QMessageBox::Yes) {
-        recovery->forget();
-        return;
+            .arg(QLocale().toString(kept->time, QLocale::ShortFormat)),
+        QMessageBox::Yes | QMessageBox::Discard | QMessageBox::Cancel, &window);
+    box.setInformativeText(
+        tr("What is neither recovered nor discarded is offered again at the next start."));
+    box.setDefaultButton(QMessageBox::Yes);
+    if (!kept->picture.isNull()) {
+        box.setIconPixmap(QPixmap::fromImage(kept->picture));
     }
-    // Before it is opened: what counts as saved is no longer kept.
-    touch();
-    if (!openScene(stage, recovery->file(), error)) {
-        emit problem(error);
+    const int answer = box.exec();
+    if (answer == QMessageBox::Discard) {
+        Recovery::discard(*kept);
+    } else if (answer == QMessageBox::Yes && recovery->takeUp(*kept)) {
+        // Before it is opened: what counts as saved is no longer kept.
+        touch();
+        QString error;
+        if (!openScene(stage, recovery->file(), error)) {
+            emit problem(error);
+        }
     }
 }
 
@@ -277,7 +322,8 @@ bool SceneFileActions::mayReplace()
         return true;
     }
     const QString name = sceneFile.isEmpty() ? tr("The scene") : QFileInfo(sceneFile).fileName();
-    switch (question(tr("%1 has been edited. Save it?").arg(name))) {
+    switch (question(tr("%1 has been edited. Save it?").arg(name),
+                     QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel)) {
     case QMessageBox::Save:
         return save();
     case QMessageBox::Discard:
@@ -289,10 +335,11 @@ bool SceneFileActions::mayReplace()
 
 SceneFileActions::Question SceneFileActions::dialog()
 {
-    return [this](const QString& text) {
-        QMessageBox box(QMessageBox::Warning, tr("Save scene"), text,
-                        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, &window);
-        box.setInformativeText(tr("Edits that are not saved will be lost."));
+    return [this](const QString& text, QMessageBox::StandardButtons answers) {
+        QMessageBox box(QMessageBox::Warning, tr("Save scene"), text, answers, &window);
+        if (answers.testFlag(QMessageBox::Discard)) {
+            box.setInformativeText(tr("Edits that are not saved will be lost."));
+        }
         box.setDefaultButton(QMessageBox::Save);
         return static_cast<QMessageBox::StandardButton>(box.exec());
     };
@@ -313,10 +360,11 @@ void SceneFileActions::noteCommand(const QString& name)
     }
 }
 
-void SceneFileActions::adopt(const QString& path, bool isByPerson)
+void SceneFileActions::adopt(const QString& path, bool isByPerson, const Stamp& newStamp)
 {
     document.reset();
     sceneFile = path;
+    stamp = newStamp;
     isChosen = isByPerson;
     touched = false;
     emit modifiedChanged(isModified());

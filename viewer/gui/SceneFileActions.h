@@ -3,6 +3,8 @@
 
 #include "viewer/scenes/SceneDocument.h"
 
+#include <QDateTime>
+#include <QImage>
 #include <QMessageBox>
 #include <QObject>
 
@@ -30,8 +32,9 @@ class SceneFileActions : public QObject
     Q_OBJECT
 
 public:
-    /// Asks a person what is to become of edits: Save, Discard or Cancel.
-    using Question = std::function<QMessageBox::StandardButton(const QString& text)>;
+    /// Asks a person what is to be done: Save, Cancel, or Discard where edits may be let go.
+    using Question = std::function<QMessageBox::StandardButton(
+        const QString& text, QMessageBox::StandardButtons answers)>;
 
     /// @param targetWindow  the dialogs' parent; owns this
     /// @param modelLoader   reads the models of a scene; outlives this
@@ -58,7 +61,8 @@ public:
 
     // == Saving
 
-    /// Saves to the scene's file, or asks for one. @return whether it is saved
+    /// Saves to the scene's file, or asks for one; asks before it replaces a file that another
+    /// program has changed. @return whether it is saved
     bool save();
     /// The same in another file. With nobody to ask this is a problem.
     bool saveAs();
@@ -73,7 +77,7 @@ public:
     bool mayReplace();
 
     /// Tells that the scene was replaced by something without a scene file.
-    void replaced() { adopt(QString(), false); }
+    void replaced() { adopt(QString(), false, {}); }
 
     /// Tells of an edit that is no step of undo.
     void touch();
@@ -90,9 +94,10 @@ public:
     // == What is not lost when the program is killed
 
     /// Keeps edits in a file in that folder, every two minutes (the setting "keepSeconds") and
-    /// before the scene is replaced.
-    void keepEdits(const QDir& folder);
-    /// Asks whether what a killed program kept is to be opened, and opens it.
+    /// before the scene is replaced. @param shown  gives the picture that is shown
+    void keepEdits(const QDir& folder, std::function<QImage()> shown);
+    /// Shows what a killed program kept, with its time and picture, and asks whether it is to be
+    /// opened; what is neither opened nor discarded is offered again at the next start.
     void offerKept();
 
     /// Absolute path of the scene's file; "" for none.
@@ -107,21 +112,31 @@ signals:
     void problem(const QString& text);
 
 private:
+    /// Tells a file from what another program makes of it.
+    using Stamp = std::pair<QDateTime, qint64>;
+    static Stamp stampOf(const QString& path);
+
     void addCommands();
+    /// @return false with one line in `error`: another program has changed the scene's file
+    bool isAsLeft(QString& error) const;
     void keepNow();
-    void adopt(const QString& path, bool isByPerson);
+    void adopt(const QString& path, bool isByPerson, const Stamp& newStamp);
 
     QWidget& window;
     Stage& stage;
     ModelLoader& loader;
     Question question;
     QString sceneFile;
+    Stamp stamp;  ///< of the scene's file when it was read or written
     bool isChosen = false;  ///< the scene's file, by a person or the name given when it was saved
     bool touched = false;
     std::optional<SceneDocument> document;  ///< that is being opened
     QString documentFile;
     bool isDocumentChosen = false;
+    Stamp documentStamp;
     std::unique_ptr<Recovery> recovery;  ///< null: nothing is kept
+    std::function<QImage()> shownPicture;
+    QString keepingFault;  ///< that was told last
     osg::UInt64 keptEdits = 0;
 };
 

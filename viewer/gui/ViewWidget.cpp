@@ -13,6 +13,9 @@
 #include <QDragEnterEvent>
 #include <QJsonObject>
 #include <QMimeData>
+#include <QMouseEvent>
+#include <QOpenGLContext>
+#include <QOpenGLFunctions>
 #include <QPainter>
 #include <QUrl>
 
@@ -57,6 +60,19 @@ QImage ViewWidget::takePicture(QString& error)
         error = tr("the view cannot be drawn: %1").arg(QString::fromStdString(reason));
     }
     return picture;
+}
+
+QImage ViewWidget::lastFrame()
+{
+    if (!isValid()) {
+        return {};
+    }
+    makeCurrent();
+    QImage frame(sizePx(), QImage::Format_RGBA8888);
+    context()->functions()->glReadPixels(0, 0, frame.width(), frame.height(), GL_RGBA,
+                                         GL_UNSIGNED_BYTE, frame.bits());
+    doneCurrent();
+    return std::move(frame).mirrored();
 }
 
 void ViewWidget::drawingIsImpossible(const std::string& reason)

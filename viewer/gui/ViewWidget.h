@@ -23,6 +23,9 @@ public:
     /// As nbViewWidget::takePicture. @return null with one translated line in `error`
     QImage takePicture(QString& error);
 
+    /// Picture of what was drawn last, without drawing. @return null before the first frame
+    QImage lastFrame();
+
     /// Whether each frame is timed until the driver is done, for frameText().
     void showFrameStatistics(bool on);
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/gui/WindowMemory.h"
 
+#include "viewer/loading/PictureDecoding.h"
+
 #include <QFileInfo>
 #include <QMainWindow>
 #include <QSettings>
@@ -16,6 +18,7 @@ constexpr int kLayoutVersion = 2;
 const char* const kRecentKey = "recentFiles";
 const char* const kLayoutKey = "windowLayout";
 const char* const kGeometryKey = "windowGeometry";
+const char* const kPictureKey = "pictureMebibytes";
 const char* const kThemeKey = "theme";
 const char* const kCoarseKey = "coarseWhileMoving";
 const char* const kLanguageKey = "language";
@@ -74,6 +77,15 @@ bool coarseWhileMoving()
 void keepCoarseWhileMoving(bool on)
 {
     QSettings().setValue(kCoarseKey, on);
+}
+
+qint64 pictureBudget()
+{
+    constexpr qint64 kMebibyte = 1024LL * 1024;
+    constexpr qint64 kMostMebibytes = 2047;
+    const qint64 usual = viewer::pictureBudget() / kMebibyte;
+    return qBound(qint64(1), QSettings().value(kPictureKey, usual).toLongLong(), kMostMebibytes) *
+        kMebibyte;
 }
 
 QStringList recentFiles()

@@ -10,7 +10,7 @@
 class QMainWindow;
 
 /// What the program remembers from one start to the next: place and layout of the window, the
-/// theme, the language and the files opened last.
+/// theme, the language, how large pictures may be and the files opened last.
 namespace viewer::memory {
 
 /// Gives a window the place and layout that it had, as far as the screen is still there.
@@ -31,6 +31,9 @@ void keepLanguage(Language language);
 
 bool coarseWhileMoving();
 void keepCoarseWhileMoving(bool on);
+
+/// Most bytes of a decoded picture: the setting "pictureMebibytes", from 1 to 2047.
+qint64 pictureBudget();
 
 /// Absolute paths, the newest first.
 QStringList recentFiles();

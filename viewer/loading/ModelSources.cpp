@@ -19,9 +19,15 @@ void ModelSources::add(const BuiltModel& model)
     addPlaces(model.root.get(), { model.root.get().getFieldContainerId(), QString() });
 }
 
-void ModelSources::addPlaces(const osg::NodePtr& object, const Place& place)
+void ModelSources::setPlace(const osg::NodePtr& object, const Place& place)
 {
     places[object.getFieldContainerId()] = place;
+    members[place.root].push_back(object.getFieldContainerId());
+}
+
+void ModelSources::addPlaces(const osg::NodePtr& object, const Place& place)
+{
+    setPlace(object, place);
     int number = 0;
     for (const osg::NodePtr& child : childObjects(object)) {
         const QString above = place.path.isEmpty() ? QString() : place.path + QLatin1Char('/');
@@ -58,8 +64,7 @@ void ModelSources::copyPlaces(const osg::NodePtr& original, const osg::NodePtr& 
     names[copy.getFieldContainerId()] = nameOf(original);
     const auto known = places.find(original.getFieldContainerId());
     if (known != places.end()) {
-        places[copy.getFieldContainerId()] = { to.root,
-                                               to.path + known->second.path.mid(from.size()) };
+        setPlace(copy, { to.root, to.path + known->second.path.mid(from.size()) });
     }
     for (osg::UInt32 i = 0; i < original->getNChildren(); ++i) {
         copyPlaces(original->getChild(i), copy->getChild(i), from, to);
@@ -96,9 +101,10 @@ osg::NodePtr ModelSources::objectBelow(const osg::NodePtr& object, const QString
 std::map<QString, std::string> ModelSources::objectsOf(const osg::NodePtr& root) const
 {
     std::map<QString, std::string> objects;
-    for (const auto& [id, place] : places) {
-        if (place.root == root.getFieldContainerId()) {
-            objects[place.path] = names.at(id);
+    const auto found = members.find(root.getFieldContainerId());
+    if (found != members.end()) {
+        for (const osg::UInt32 id : found->second) {
+            objects[places.at(id).path] = names.at(id);
         }
     }
     return objects;

@@ -8,6 +8,7 @@
 
 #include <map>
 #include <string>
+#include <vector>
 
 namespace viewer {
 
@@ -60,12 +61,15 @@ private:
     };
 
     void addNames(const osg::NodePtr& node);
+    void setPlace(const osg::NodePtr& object, const Place& place);
     void addPlaces(const osg::NodePtr& object, const Place& place);
     void copyPlaces(const osg::NodePtr& original, const osg::NodePtr& copy, const QString& from,
                     const Place& to);
 
     std::map<osg::UInt32, Source> sources;
     std::map<osg::UInt32, Place> places;
+    std::map<osg::UInt32, std::vector<osg::UInt32>>
+        members;  ///< objects that have a place, by root
     unsigned lastCopy = 0;
     std::map<osg::UInt32, std::string> names;
     std::size_t triangles = 0;

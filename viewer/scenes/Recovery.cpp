@@ -1,30 +1,68 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/scenes/Recovery.h"
 
-#include <QCoreApplication>
+#include "viewer/loading/PictureDecoding.h"
+
 #include <QFile>
+#include <QFileInfo>
 #include <QThread>
+
+#include <sys/file.h>
 
 namespace viewer {
 namespace {
 
-const QString kEnding = QStringLiteral(".nbscene");
+const QString kScenes = QStringLiteral("recovery-*.nbscene");
+const QString kLocks = QStringLiteral("recovery-*.lock");
+constexpr int kMostProcesses = 1000;
+constexpr QSize kPicturePx(320, 200);
 
-QString lockOf(const QDir& folder, const QString& name)
+/// The file of the same name with another ending.
+QString beside(const QString& file, const char* ending)
 {
-    return folder.filePath(name + QStringLiteral(".lock"));
+    const QFileInfo info(file);
+    return info.dir().absoluteFilePath(info.completeBaseName() + QLatin1String(ending));
+}
+
+QString pictureOf(const QString& file)
+{
+    return beside(file, ".png");
+}
+
+void removeKept(const QString& file)
+{
+    QFile::remove(file);
+    QFile::remove(pictureOf(file));
+}
+
+/// Takes the lock of a scene's file. The system lets go of it when a process ends, however it does;
+/// no number of a process or name of a machine has to be believed.
+/// @return null if a process has it; removed when the last count goes
+std::shared_ptr<QFile> lockOf(const QString& file)
+{
+    auto lock = std::make_unique<QFile>(beside(file, ".lock"));
+    // One that is there no more was that of a process that has just ended.
+    if (!lock->open(QIODevice::WriteOnly) || flock(lock->handle(), LOCK_EX | LOCK_NB) != 0 ||
+        !lock->exists()) {
+        return nullptr;
+    }
+    return { lock.release(), [](QFile* held) {
+                // While it is still held, so that it is nobody else's.
+                QFile::remove(held->fileName());
+                delete held;
+            } };
 }
 
 }  // namespace
 
 Recovery::Recovery(const QDir& wanted)
     : folder(wanted)
-    , name(QStringLiteral("recovery-%1").arg(QCoreApplication::applicationPid()))
-    , lock((folder.mkpath(QStringLiteral(".")), lockOf(folder, name)))
 {
-    // Only the end of its process makes a lock void, no matter how old it is.
-    lock.setStaleLockTime(0);
-    lock.tryLock();
+    folder.mkpath(QStringLiteral("."));
+    for (int number = 1; !lock && number <= kMostProcesses; ++number) {
+        ownFile = folder.absoluteFilePath(QStringLiteral("recovery-%1.nbscene").arg(number));
+        lock = QFile::exists(ownFile) ? nullptr : lockOf(ownFile);
+    }
 }
 
 Recovery::~Recovery()
@@ -32,55 +70,71 @@ Recovery::~Recovery()
     forget();
 }
 
-void Recovery::keep(const SceneDocument& document)
+bool Recovery::keep(SceneDocument document, const QImage& frame)
 {
-    if (writing && writing->isRunning()) {
-        return;
+    if (!lock || isWriting()) {
+        return false;
     }
     wait();
-    writing.reset(QThread::create([this, document] {
-        QString error;
-        isWritten = writeSceneFile(file(), document, error);
+    writing.reset(QThread::create([this, kept = std::move(document), frame] {
+        if (!frame.isNull()) {
+            writePicture(pictureOf(ownFile),
+                         frame.scaled(kPicturePx, Qt::KeepAspectRatio, Qt::SmoothTransformation),
+                         fault);
+        }
+        fault.clear();
+        writeSceneFile(ownFile, kept, fault);
     }));
     writing->start();
+    return true;
+}
+
+bool Recovery::isWriting() const
+{
+    return writing && writing->isRunning();
 }
 
 void Recovery::forget()
 {
     wait();
-    QFile::remove(file());
+    if (lock) {
+        removeKept(ownFile);
+    }
 }
 
-bool Recovery::wait()
+QString Recovery::wait()
 {
     if (writing) {
         writing->wait();
         writing.reset();
     }
-    return isWritten;
+    return fault;
 }
 
-std::optional<QDateTime> Recovery::takeUp()
+std::optional<Recovery::Kept> Recovery::find()
 {
-    const QFileInfoList files =
-        folder.entryInfoList({ QStringLiteral("recovery-*") + kEnding }, QDir::Files, QDir::Time);
-    for (const QFileInfo& left : files) {
-        QLockFile other(lockOf(folder, left.completeBaseName()));
-        other.setStaleLockTime(0);
-        if (left.completeBaseName() != name && other.tryLock(0)) {
-            const QDateTime time = left.lastModified();
-            forget();
-            if (QFile::rename(left.filePath(), file())) {
-                return time;
-            }
+    for (const QFileInfo& left : folder.entryInfoList({ kLocks }, QDir::Files)) {
+        lockOf(left.filePath());  // goes if nobody has it
+    }
+    for (const QFileInfo& left : folder.entryInfoList({ kScenes }, QDir::Files, QDir::Time)) {
+        const QString file = left.absoluteFilePath();
+        if (auto held = lockOf(file)) {
+            return Kept { file, left.lastModified(), QImage(pictureOf(file)), std::move(held) };
         }
     }
     return std::nullopt;
 }
 
-QString Recovery::file() const
+bool Recovery::takeUp(const Kept& kept)
 {
-    return folder.absoluteFilePath(name + kEnding);
+    forget();
+    QFile::rename(pictureOf(kept.file), pictureOf(ownFile));
+    return QFile::rename(kept.file, ownFile);
+}
+
+void Recovery::discard(const Kept& kept)
+{
+    removeKept(kept.file);
 }
 
 }  // namespace viewer

@@ -10,6 +10,7 @@
 
 #include <QByteArray>
 #include <QDir>
+#include <QImage>
 #include <QLineF>
 #include <QString>
 
@@ -30,6 +31,7 @@ struct ScenePicture
 {
     QString file;  ///< absolute; empty for none
     QByteArray png;  ///< a PNG file; empty for none
+    QImage pixels;  ///< become a PNG file where the scene is written; null for none
 
     bool isNull() const { return file.isEmpty() && png.isEmpty(); }
 };

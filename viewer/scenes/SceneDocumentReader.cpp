@@ -23,14 +23,6 @@ constexpr qint64 kMaxSceneBytes = 256LL * 1024 * 1024;
 constexpr int kMostOfAKind = 1000000;
 constexpr int kMaskBits = 32;
 
-bool isNodePath(const QString& path)
-{
-    static const QRegularExpression kPattern(
-        QStringLiteral("^(N(/N)*)?\\z")
-            .replace('N', QStringLiteral("([0-9]{1,9}(\\+[0-9]{1,9})?|-)")));
-    return kPattern.match(path).hasMatch();
-}
-
 /// The archive of SceneFields.h that reads.
 class Input : private JsonReader
 {
@@ -94,31 +86,22 @@ public:
 
     bool bits(const char* key, osg::UInt32& mask)
     {
-        const QJsonValue value = take(key);
-        const QJsonArray entries = value.toArray();
-        for (const QJsonValue& entry : entries) {
+        return readEach(key, [&](const QJsonValue& entry, const QString& path) {
             int bit = 0;
-            if (!readInt(entry, pathOf(key), kMaskBits - 1, bit) || bit < 0) {
-                return fail(pathOf(key), QStringLiteral("expected numbers from 0 to 31"));
-            }
-            mask |= 1U << static_cast<unsigned>(bit);
-        }
-        return checkArray(value, pathOf(key));
+            const bool isBit = readInt(entry, path, kMaskBits - 1, bit) && bit >= 0;
+            mask |= isBit ? 1U << static_cast<unsigned>(bit) : 0U;
+            return isBit || fail(path, QStringLiteral("expected a number from 0 to 31"));
+        });
     }
 
     template <std::size_t Count>
     bool names(const char* key, int& mask, const std::array<const char*, Count>& allowed)
     {
-        const QJsonValue value = take(key);
-        const QJsonArray entries = value.toArray();
-        for (const QJsonValue& entry : entries) {
+        return readEach(key, [&](const QJsonValue& entry, const QString& path) {
             const int bit = indexOf(entry, allowed);
-            if (bit < 0) {
-                return failWords(pathOf(key), allowed);
-            }
-            mask |= 1 << bit;
-        }
-        return checkArray(value, pathOf(key));
+            mask |= bit < 0 ? 0 : 1 << bit;
+            return bit >= 0 || failWords(path, allowed);
+        });
     }
 
     bool path(const char* key, QString& file)
@@ -141,16 +124,9 @@ public:
     template <class Value>
     bool list(const char* key, std::vector<Value>& values)
     {
-        const QJsonValue value = take(key);
-        const QString path = pathOf(key);
-        const QJsonArray array = value.toArray();
-        for (int i = 0; i < array.size(); ++i) {
-            if (!getObject(array.at(i), path + QStringLiteral("[%1]").arg(i),
-                           values.emplace_back())) {
-                return false;
-            }
-        }
-        return checkArray(value, path);
+        return readEach(key, [&](const QJsonValue& entry, const QString& path) {
+            return getObject(entry, path, values.emplace_back());
+        });
     }
 
 private:
@@ -168,6 +144,22 @@ private:
     {
         return place.isEmpty() ? QString(QLatin1String(key))
                                : place + QLatin1Char('.') + QLatin1String(key);
+    }
+
+    /// Reads an array, which may be left out, entry by entry.
+    template <class Read>
+    bool readEach(const char* key, const Read& read)
+    {
+        const QJsonValue value = take(key);
+        const QString path = pathOf(key);
+        const QJsonArray array = value.toArray();
+        for (int i = 0; i < array.size(); ++i) {
+            if (!read(array.at(i), path + QStringLiteral("[%1]").arg(i))) {
+                return false;
+            }
+        }
+        return value.isUndefined() || value.isArray() ||
+            fail(path, QStringLiteral("expected an array"));
     }
 
     template <class Value>
@@ -266,11 +258,10 @@ private:
     bool getFile(const QJsonValue& json, const QString& path, QString& file)
     {
         QString name;
-        if (!readString(json, path, name)) {
-            return false;
-        }
+        const bool isRead = readString(json, path, name);
         file = QDir::cleanPath(folder.absoluteFilePath(name));
-        return !name.isEmpty() || fail(path, QStringLiteral("expected the name of a file"));
+        return isRead &&
+            (!name.isEmpty() || fail(path, QStringLiteral("expected the name of a file")));
     }
 
     bool getPicture(const QJsonValue& json, const QString& path, ScenePicture& picture)
@@ -279,44 +270,41 @@ private:
             return getFile(json, path, picture.file);
         }
         const QJsonObject pixels = json.toObject();
+        const QString at = path + QStringLiteral(".png");
         QString text;
         if (!checkKeys(pixels, path, { QStringLiteral("png") }) ||
-            !readString(pixels.value(QLatin1String("png")), path + QStringLiteral(".png"), text)) {
+            !readString(pixels.value(QLatin1String("png")), at, text)) {
             return false;
         }
-        const auto decoded = QByteArray::fromBase64Encoding(
-            text.toLatin1(), QByteArray::AbortOnBase64DecodingErrors);
-        picture.png = *decoded;
-        return (decoded && !picture.png.isEmpty()) ||
-            fail(path + QStringLiteral(".png"), QStringLiteral("expected a picture in base 64"));
+        picture.png = *QByteArray::fromBase64Encoding(text.toLatin1(),
+                                                      QByteArray::AbortOnBase64DecodingErrors);
+        return !picture.png.isEmpty() || fail(at, QStringLiteral("expected a picture in base 64"));
     }
 
     template <std::size_t Count>
     static int indexOf(const QJsonValue& word, const std::array<const char*, Count>& words)
     {
-        for (std::size_t i = 0; i < Count; ++i) {
-            if (word == QJsonValue(QLatin1String(words[i]))) {
-                return static_cast<int>(i);
-            }
-        }
-        return -1;
+        const QString text = word.toString();
+        const auto found = std::find_if(words.begin(), words.end(), [&](const char* known) {
+            return text == QLatin1String(known);
+        });
+        return found == words.end() ? -1 : static_cast<int>(found - words.begin());
     }
 
     template <std::size_t Count>
     bool failWords(const QString& path, const std::array<const char*, Count>& words)
     {
-        QStringList all;
-        for (const char* word : words) {
-            all.append(QLatin1String(word));
-        }
-        return fail(path,
-                    QStringLiteral("expected one of: %1").arg(all.join(QStringLiteral(", "))));
+        const QString all = QStringList(words.begin(), words.end()).join(QStringLiteral(", "));
+        return fail(path, QStringLiteral("expected one of: %1").arg(all));
     }
 
-    bool checkArray(const QJsonValue& value, const QString& path)
+    bool checkNodePath(const char* key, const QString& path)
     {
-        return value.isUndefined() || value.isArray() ||
-            fail(path, QStringLiteral("expected an array"));
+        static const QRegularExpression kPattern(
+            QStringLiteral("^(N(/N)*)?\\z")
+                .replace('N', QStringLiteral("([0-9]{1,9}(\\+[0-9]{1,9})?|-)")));
+        return kPattern.match(path).hasMatch() ||
+            fail(pathOf(key), QStringLiteral("expected numbers such as \"0/3\""));
     }
 
     // == What values mean together; the object is still the current one
@@ -344,16 +332,11 @@ private:
             fail(pathOf("order"), QStringLiteral("expected the letters x, y and z"));
     }
 
-    bool check(const SceneNode& node)
-    {
-        return isNodePath(node.path) ||
-            fail(pathOf("path"), QStringLiteral("expected numbers such as \"0/3\""));
-    }
+    bool check(const SceneNode& node) { return checkNodePath("path", node.path); }
 
     bool check(const SceneSurface& surface)
     {
-        return (isNodePath(surface.object) ||
-                fail(pathOf("object"), QStringLiteral("expected numbers such as \"0/3\""))) &&
+        return checkNodePath("object", surface.object) &&
             ((surface.part >= 0 && surface.part < kMostOfAKind) ||
              fail(pathOf("part"), QStringLiteral("expected a place, counted from 0")));
     }
@@ -372,16 +355,14 @@ private:
              fail(pathOf("frame"), QStringLiteral("\"transform\" is missing")));
     }
 
-    bool check(const ScenePlate& plate)
-    {
-        return (plate.opacity >= 0.0F && plate.opacity <= 1.0F) ||
-            fail(pathOf("opacity"), QStringLiteral("expected a number from 0 to 1"));
-    }
+    bool check(const ScenePlate& plate) { return checkShare("opacity", plate.opacity); }
 
-    bool check(const SceneMatch& match)
+    bool check(const SceneMatch& match) { return checkShare("veil", match.veil); }
+
+    bool checkShare(const char* key, double share)
     {
-        return (match.veil >= 0.0 && match.veil <= 1.0) ||
-            fail(pathOf("veil"), QStringLiteral("expected a number from 0 to 1"));
+        return (share >= 0.0 && share <= 1.0) ||
+            fail(pathOf(key), QStringLiteral("expected a number from 0 to 1"));
     }
 
     // == The tree
@@ -396,18 +377,16 @@ private:
             return document.clipPlanes.empty() ||
                 fail(path, QStringLiteral("clip planes need one"));
         }
-        Met met { std::vector<bool>(document.models.size()),
-                  std::vector<bool>(document.clipPlanes.size()),
-                  std::vector<bool>(document.clipPlanes.size()) };
+        const std::vector<bool> planes(document.clipPlanes.size());
+        Met met { std::vector<bool>(document.models.size()), planes, planes };
         if (!meet(document.tree, path, met)) {
             return false;
         }
-        for (const std::vector<bool>& all : met) {
-            if (std::find(all.begin(), all.end(), false) != all.end()) {
-                return fail(path, QStringLiteral("a model, frame or plane is missing"));
-            }
-        }
-        return true;
+        return std::all_of(met.begin(), met.end(),
+                           [](const std::vector<bool>& all) {
+                               return std::find(all.begin(), all.end(), false) == all.end();
+                           }) ||
+            fail(path, QStringLiteral("a model, frame or plane is missing"));
     }
 
     bool meet(const std::vector<SceneBranch>& branches, const QString& path, Met& met)
@@ -418,8 +397,7 @@ private:
             std::vector<bool>& all = met[static_cast<std::size_t>(branch.kind)];
             const auto number = static_cast<std::size_t>(branch.number);
             if (branch.number < 0 || number >= all.size() || all[number]) {
-                return fail(at,
-                            QStringLiteral("there is none of this number, or it was met before"));
+                return fail(at, QStringLiteral("there is none of this number, or it came before"));
             }
             all[number] = true;
             if (branch.kind != SceneBranch::Kind::Plane && !branch.children.empty()) {

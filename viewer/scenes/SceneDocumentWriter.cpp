@@ -6,6 +6,7 @@
 #include "viewer/texts/Text.h"
 #include "viewer/texts/TextFile.h"
 
+#include <QBuffer>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -59,10 +60,15 @@ public:
 
     bool field(const char* key, const ScenePicture& picture)
     {
-        if (picture.png.isEmpty()) {
+        QByteArray png = picture.png;
+        if (png.isEmpty() && picture.pixels.isNull()) {
             return path(key, picture.file);
         }
-        return set(key, QJsonObject { { "png", QString::fromLatin1(picture.png.toBase64()) } });
+        if (png.isEmpty()) {
+            QBuffer buffer(&png);
+            picture.pixels.save(&buffer, "PNG");
+        }
+        return set(key, QJsonObject { { "png", QString::fromLatin1(png.toBase64()) } });
     }
 
     bool version(const char* key, int number) { return field(key, number); }

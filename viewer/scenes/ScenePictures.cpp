@@ -19,9 +19,8 @@ bool capturePicture(const osg::ImagePtr& image, ScenePicture& picture, QString& 
     if (!picture.file.isEmpty()) {
         return true;
     }
-    QBuffer buffer(&picture.png);
-    const QImage pixels = nbImageConvert::toPicture(image);
-    if (pixels.isNull() || !buffer.open(QIODevice::WriteOnly) || !pixels.save(&buffer, "PNG")) {
+    picture.pixels = nbImageConvert::toPicture(image);
+    if (picture.pixels.isNull()) {
         error = Text::tr("a picture that came from no file cannot be saved");
         return false;
     }

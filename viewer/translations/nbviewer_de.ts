@@ -1405,6 +1405,18 @@
         <source>The program ended unexpectedly. Edits up to %1 have been kept. Recover them?</source>
         <translation>Das Programm wurde unerwartet beendet. Änderungen bis %1 sind erhalten. Sollen sie wiederhergestellt werden?</translation>
     </message>
+    <message>
+        <source>%1 has been changed by another program. Replace it?</source>
+        <translation>%1 wurde von einem anderen Programm geändert. Ersetzen?</translation>
+    </message>
+    <message>
+        <source>%1: has been changed by another program</source>
+        <translation>%1: wurde von einem anderen Programm geändert</translation>
+    </message>
+    <message>
+        <source>What is neither recovered nor discarded is offered again at the next start.</source>
+        <translation>Was weder wiederhergestellt noch verworfen wird, wird beim nächsten Start wieder angeboten.</translation>
+    </message>
 </context>
 <context>
     <name>viewer::ScenePanel</name>

@@ -1405,6 +1405,18 @@
         <source>The program ended unexpectedly. Edits up to %1 have been kept. Recover them?</source>
         <translation>Le programme s’est terminé de façon inattendue. Les modifications jusqu’à %1 ont été gardées. Faut-il les récupérer ?</translation>
     </message>
+    <message>
+        <source>%1 has been changed by another program. Replace it?</source>
+        <translation>%1 a été modifié par un autre programme. Le remplacer ?</translation>
+    </message>
+    <message>
+        <source>%1: has been changed by another program</source>
+        <translation>%1 : a été modifié par un autre programme</translation>
+    </message>
+    <message>
+        <source>What is neither recovered nor discarded is offered again at the next start.</source>
+        <translation>Ce qui n’est ni récupéré ni abandonné sera proposé de nouveau au prochain démarrage.</translation>
+    </message>
 </context>
 <context>
     <name>viewer::ScenePanel</name>

@@ -1403,6 +1403,18 @@
         <source>The program ended unexpectedly. Edits up to %1 have been kept. Recover them?</source>
         <translation>程序意外结束。截至 %1 的编辑已保留。要恢复吗？</translation>
     </message>
+    <message>
+        <source>%1 has been changed by another program. Replace it?</source>
+        <translation>%1 已被其他程序更改。要替换它吗？</translation>
+    </message>
+    <message>
+        <source>%1: has been changed by another program</source>
+        <translation>%1：已被其他程序更改</translation>
+    </message>
+    <message>
+        <source>What is neither recovered nor discarded is offered again at the next start.</source>
+        <translation>既未恢复也未丢弃的内容将在下次启动时再次提供。</translation>
+    </message>
 </context>
 <context>
     <name>viewer::ScenePanel</name>

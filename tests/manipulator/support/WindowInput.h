@@ -7,7 +7,8 @@ namespace nbec::manipulator::test {
 
 inline void move(QWidget& window, const QPoint& place, Qt::MouseButton held = Qt::NoButton)
 {
-    QMouseEvent event(QEvent::MouseMove, place, Qt::NoButton, held, Qt::NoModifier);
+    QMouseEvent event(QEvent::MouseMove, place, window.mapToGlobal(place), Qt::NoButton, held,
+                      Qt::NoModifier);
     QApplication::sendEvent(&window, &event);
 }
 
