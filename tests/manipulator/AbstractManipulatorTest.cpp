@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/AbstractManipulator.h"
 
+#include "manipulator/ManipulatorInteractionContext.h"
 #include "tests/manipulator/support/RecordingManipulator.h"
 
+#include <nbInteraction/InteractionManager.h>
+#include <nbInteraction/Picker.h>
 #include <nbKernel/nbScenegraph.h>
 
 #include <OpenSG/OSGContainerCensus.h>
@@ -42,22 +45,6 @@ protected:
 };
 
 }  // namespace
-
-TEST_F(AbstractManipulatorTest, VisualisationHangsUnderTheRootExactlyWhileActive)
-{
-    manipulator.setVisualisationRoot(root.get());
-    EXPECT_EQ(childrenOf(root), 0U);
-
-    manipulator.activate(nullptr);
-    manipulator.activate(nullptr);
-    EXPECT_TRUE(manipulator.isActive());
-    ASSERT_EQ(childrenOf(root), 1U);
-    EXPECT_EQ(root->getChild(0), manipulator.getVisualisation());
-
-    manipulator.deactivate(nullptr);
-    EXPECT_FALSE(manipulator.isActive());
-    EXPECT_EQ(childrenOf(root), 0U);
-}
 
 TEST_F(AbstractManipulatorTest, AnActiveVisualisationFollowsItsRoot)
 {
@@ -103,27 +90,6 @@ TEST_F(AbstractManipulatorTest, HoldsOneCountOnTheRootAndCopiesHoldTheirOwn)
     EXPECT_EQ(root.get().getRefCount(), before);
 }
 
-TEST_F(AbstractManipulatorTest, PreselectionIsOffWhileAHandleIsHovered)
-{
-    manipulator.answer = true;
-    EXPECT_TRUE(manipulator.hover(nullptr, "select"));
-    EXPECT_FALSE(nbScenegraph::isPreselectionEnabled());
-
-    manipulator.answer = false;
-    EXPECT_FALSE(manipulator.hover(nullptr, "select"));
-    EXPECT_TRUE(nbScenegraph::isPreselectionEnabled());
-
-    manipulator.answer = true;
-    manipulator.hover(nullptr, "select");
-    EXPECT_TRUE(manipulator.reset(nullptr, "select"));
-    EXPECT_TRUE(nbScenegraph::isPreselectionEnabled());
-
-    manipulator.hover(nullptr, "select");
-    manipulator.activate(nullptr);
-    manipulator.deactivate(nullptr);
-    EXPECT_TRUE(nbScenegraph::isPreselectionEnabled());
-}
-
 TEST_F(AbstractManipulatorTest, PreselectionThatSomebodyElseSwitchedOffStaysOff)
 {
     nbScenegraph::setPreselectionEnabled(false);
@@ -139,16 +105,129 @@ TEST_F(AbstractManipulatorTest, PreselectionThatSomebodyElseSwitchedOffStaysOff)
     EXPECT_FALSE(nbScenegraph::isPreselectionEnabled());
 }
 
-TEST_F(AbstractManipulatorTest, DragOperationsAnswerTrueAndTheOthersFalseByDefault)
-{
-    PlainManipulator plain;
+namespace {
 
-    EXPECT_TRUE(plain.startManipulator(nullptr, "select"));
-    EXPECT_TRUE(plain.processManipulator(nullptr, "select"));
-    EXPECT_TRUE(plain.stopManipulator(nullptr, "select"));
-    EXPECT_FALSE(plain.hoverManipulator(nullptr, "select"));
-    EXPECT_FALSE(plain.resetManipulator(nullptr, "select"));
-    EXPECT_FALSE(plain.setManipulatorMode("precisionTool"));
+using interaction::InteractionEvent;
+using interaction::InteractionManager;
+using interaction::Picker;
+using Calls = std::vector<std::string>;
+
+}  // namespace
+
+TEST(ManipulatorInteractionContext, EventsReachTheManipulatorAsRouted)
+{
+    // calls: what reaches the manipulator
+    const std::tuple<const char*, const char*, const char*, Calls, bool> rows[] = {
+        { "start", "tool", "select", { "start select" }, true },
+        { "start", "tool", "toggle", { "start toggle" }, true },
+        { "process", "tool", "select", { "process select" }, true },
+        { "stop", "tool", "toggle", { "stop toggle" }, true },
+        { "hover", "tool", "select", { "hover select" }, true },
+        { "stopHover", "tool", "select", { "reset select" }, false },
+        { "Start", "tool", "select", {}, false },
+        { "start", "precisionTool", "select", {}, false },
+        { "start", "tool", "add", {}, false },
+        { "start", "tool", "selectThrough", { "reset selectThrough" }, false },
+        { "process", "tool", "selectThrough", {}, false },
+        { "start", "mode", "tool", { "hover tool", "mode tool" }, false },
+        { "stop", "mode", "tool", { "reset tool" }, false },
+        { "process", "mode", "tool", {}, false },
+        { "start", "mode", "zoom", { "mode zoom" }, false },
+        { "", "", "", {}, false },
+    };
+
+    for (const auto& [event, tool, hint, calls, answer] : rows) {
+        SCOPED_TRACE(std::string(event) + ' ' + tool + ' ' + hint);
+        ManipulatorInteractionContext context;
+        RecordingManipulator manipulator;
+        manipulator.answer = true;
+        context.setManipulator(&manipulator);
+        EXPECT_EQ(context.triggerEvent(nullptr, InteractionEvent(event, tool, hint)), answer);
+        EXPECT_EQ(manipulator.takeCalls(), calls);
+    }
+}
+
+TEST(ManipulatorInteractionContext, AModeIsTheSameHoweverItIsSet)
+{
+    InteractionManager manager;
+    ManipulatorInteractionContext context;
+    RecordingManipulator manipulator;
+    context.setManipulator(&manipulator);
+    manager.addContext(&context);
+    manager.selectMode("precisionTool");
+    manipulator.takeCalls();
+    manager.triggerEvent(InteractionEvent("start", "mode", "precisionTool"));
+    EXPECT_EQ(manipulator.takeCalls(), Calls {}) << "it has it already";
+    manager.triggerEvent(InteractionEvent("start", "mode", "zoom"));
+    EXPECT_EQ(manipulator.takeCalls(), Calls { "mode zoom" });
+    EXPECT_EQ(context.getMode(), manager.getMode());
+    manager.triggerEvent(InteractionEvent("stop", "mode", "zoom"));
+    EXPECT_EQ(manipulator.takeCalls(), Calls { "mode " });
+    EXPECT_EQ(manager.getMode(), "");
+}
+
+TEST(ManipulatorInteractionContext, PreselectionStaysOffWhenHoverGoesToAnUpperOne)
+{
+    InteractionManager manager;
+    ManipulatorInteractionContext upper(static_cast<interaction::PreferredPosition>(101));
+    ManipulatorInteractionContext lower;
+    nbScenegraph::setPreselectionEnabled(true);
+    RecordingManipulator manipulators[2];
+    upper.setManipulator(&manipulators[0]);
+    lower.setManipulator(&manipulators[1]);
+    manager.addContext(&upper);
+    manager.addContext(&lower);
+    manipulators[1].answer = true;
+    manager.triggerEvent(InteractionEvent("hover", "tool", "select"));
+    manipulators[0].answer = true;
+    manager.triggerEvent(InteractionEvent("hover", "tool", "select"));
+    EXPECT_FALSE(nbScenegraph::isPreselectionEnabled());
+    manager.triggerEvent(InteractionEvent("stopHover", "tool", "select"));
+    EXPECT_TRUE(nbScenegraph::isPreselectionEnabled());
+}
+
+TEST(ManipulatorInteractionContext, LifeCycleOfTheContextActivatesTheManipulator)
+{
+    InteractionManager manager;
+    ManipulatorInteractionContext context;
+    RecordingManipulator manipulator;
+    context.setManipulator(&manipulator);
+    context.enabled(&manager);
+    EXPECT_EQ(manipulator.takeCalls(), Calls {})
+        << "an enabled context that is in no manager stays idle";
+
+    manager.addContext(&context);
+    EXPECT_TRUE(manipulator.isActive());
+    manager.setEnabled(&context, false);
+    EXPECT_FALSE(manipulator.isActive());
+    manager.setEnabled(&context, true);
+    EXPECT_TRUE(manipulator.isActive());
+    manager.removeContext(&context);
+    EXPECT_FALSE(manipulator.isActive());
+}
+
+TEST(ManipulatorInteractionContext, PickerGetsTheColliderWhicheverComesFirst)
+{
+    RecordingManipulator manipulator;
+    Picker first;
+    Picker second;
+    ManipulatorInteractionContext context;
+
+    context.setManipulator(&manipulator);
+    context.setPicker(&first);
+    EXPECT_EQ(first.getPickNode(), manipulator.getCollider());
+
+    context.setPicker(&second);
+    EXPECT_EQ(first.getPickNode(), osg::NullFC);
+    EXPECT_EQ(second.getPickNode(), manipulator.getCollider());
+
+    context.setManipulator(nullptr);
+    EXPECT_EQ(second.getPickNode(), manipulator.getCollider()) << "null keeps the last collider";
+
+    context.setPicker(&first);
+    EXPECT_EQ(second.getPickNode(), osg::NullFC);
+    EXPECT_EQ(first.getPickNode(), osg::NullFC)
+        << "without a manipulator there is nothing to hand over";
 }
 
 }  // namespace nbec::manipulator::test

@@ -2,9 +2,6 @@
 // What becomes of a drag when the host fails in the middle of it, for every manipulator that drags.
 #include "tests/manipulator/support/AnyManipulator.h"
 
-#include <algorithm>
-#include <array>
-
 namespace nbec::manipulator::test {
 
 template <class Gizmo>

@@ -1,12 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The texture gizmos at an anchor: where they stand and what their drags send, with numbers worked
 // out by hand; drags of the tire's stand in TireProjectionManipulatorTest.
-#include "tests/manipulator/support/TextureScene.h"
 #include "tests/manipulator/support/TireScene.h"
 #include "tests/platform/support/Edited.h"
-
-#include <nbOpenSGUberCamera/UberCamera.h>
-#include <nbOpenSGUberMaterial/nbStateChunkBase.h>
 
 namespace nbec::manipulator::test {
 
@@ -132,17 +128,14 @@ TEST(AnchoredGizmos, StandAtTheAnchorAlongTheNodesAxesOrFacingTheViewer)
     });
     tire.look(Camera::Oblique, false);
 
-    const struct
-    {
-        const char* name;
-        Vec3f fromCenter;
-    } rows[] = { { "radiusShape", { 0, 0, -2 } },
-                 { "heightShape", { 1.5F, 2, 0 } },
-                 { "oppositeHeightShape", { -1.5F, 2, 0 } },
-                 { "scaleUShape", { 0, 2 * kSin45, 2 * kSin45 } } };
+    const std::pair<const char*, Vec3f> rows[] = { { "radiusShape", { 0, 0, -2 } },
+                                                   { "heightShape", { 1.5F, 2, 0 } },
+                                                   { "oppositeHeightShape", { -1.5F, 2, 0 } },
+                                                   { "scaleUShape",
+                                                     { 0, 2 * kSin45, 2 * kSin45 } } };
 
-    for (const auto& row : rows) {
-        EXPECT_TRUE(tire.originOf(row.name).equals(tire.inWorld(row.fromCenter), 2e-3F));
+    for (const auto& [name, fromCenter] : rows) {
+        EXPECT_TRUE(tire.originOf(name).equals(tire.inWorld(fromCenter), 2e-3F));
     }
     EXPECT_TRUE(tire.onHandle("xaShape", Vec3f()).equals(tire.inWorld(Vec3f()), 2e-3F));
     EXPECT_TRUE(tire.onHandle("radiusRingShape", Vec3f(0, 0, 1))
@@ -260,33 +253,29 @@ TEST(TriplanarTextureManipulator, ArrowsLowerTwoOffsetsAndScaleHandlesMultiplyTw
 
 TEST(TriplanarTextureManipulator, RingsSendRadiansWithTheirAsymmetryAndCanBeTilted)
 {
-    const struct
-    {
-        const char* handle;
-        Camera camera;
-        Vec3f grab;  ///< 45 degrees up to the right on screen
-        Vec3f perRadian;  ///< what a counter-clockwise turn on screen adds
-    } rows[] = {
+    // grab: 45 degrees up to the right on screen
+    // perRadian: what a counter-clockwise turn on screen adds
+    const std::tuple<const char*, Camera, Vec3f, Vec3f> rows[] = {
         { "rzShape", Camera::Front, { kDiagonal, kDiagonal, 0 }, { 0, 0, 1 } },
         { "rxShape", Camera::Side, { 0, kDiagonal, -kDiagonal }, { 1, 0, 0 } },
         { "ryShape", Camera::Top, { kDiagonal, 0, -kDiagonal }, { 0, -1, 0 } },
     };
 
-    for (const auto& row : rows) {
+    for (const auto& [handle, camera, grab, perRadian] : rows) {
         for (const bool isTilted : { false, true }) {
             Triplanar at;
             at.gizmo.setRingsTilted(isTilted);
             at.gizmo.activateRotateManipulator();
-            at.look(row.camera, false);
-            ASSERT_TRUE(at.grab(row.handle, row.grab)) << row.handle;
+            at.look(camera, false);
+            ASSERT_TRUE(at.grab(handle, grab)) << handle;
             const Vec2f from = at.drag.pressed - at.drag.rayPixelOf(Pnt3f(0, 0, 0));
             for (const Vec2f& offset : { Vec2f(-60, 0), Vec2f(40, 90), Vec2f(-150, 40) }) {
                 EXPECT_TRUE(at.drag.dragBy(offset));
                 const Vec2f to = from + offset;
                 const float turn = -std::atan2(from.x() * to.y() - from.y() * to.x(), from.dot(to));
                 EXPECT_EQ(at.last().message.names(), Names { "rotate" });
-                expectNear(attribute<Vec3f>(at.last(), "rotate"), kRotation + row.perRadian * turn,
-                           row.handle, 1e-3F);
+                expectNear(attribute<Vec3f>(at.last(), "rotate"), kRotation + perRadian * turn,
+                           handle, 1e-3F);
             }
         }
     }

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What every manipulator offers of a drag beside its events: cancel, listeners, typed values, fine
 // motion, limits, readout.
-#include "manipulator/course/DragControl.h"
 #include "tests/manipulator/support/AnyManipulator.h"
 
 namespace nbec::manipulator::test {

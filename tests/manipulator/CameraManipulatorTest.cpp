@@ -4,8 +4,6 @@
 #include "tests/manipulator/support/GizmoScene.h"
 
 #include <nbKernel/nbScenegraph.h>
-#include <nbOpenSGExt/Transform3D.h>
-#include <nbOpenSGUberCamera/UberCamera.h>
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/drag/DragGeometry.h"
 
+#include "manipulator/course/ValueText.h"
 #include "manipulator/drag/RingDrag.h"
+#include "manipulator/texture/TextureDragMath.h"
+#include "manipulator/transform/TransformDrag.h"
+
+#include <QtCore/QString>
 
 #include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
 
 namespace nbec::manipulator::test {
 
@@ -11,6 +19,8 @@ namespace {
 
 using osg::Pnt3f;
 using osg::Vec3f;
+
+constexpr float kInfinity = std::numeric_limits<float>::infinity();
 
 }  // namespace
 
@@ -56,6 +66,60 @@ TEST(Snapped, RoundsHalfAwayFromZero)
     EXPECT_EQ(snapped(-7.5, 15.0), -15.0);
     EXPECT_EQ(snapped(0.3, 0.0), 0.3);
     EXPECT_EQ(snapped(0.0, 1.0), 0.0);
+}
+
+TEST(TransformDrag, FactorsHaveAFloorAndAnglesASign)
+{
+    transform::TransformDrag drag;
+    drag.scaleAnchor = Vec3f(2, 4, 1e-7F);
+    const auto factor = [&drag](transform::ActiveMode handle, const Pnt3f& point) {
+        drag.handle = handle;
+        return factorAt(drag, point, 1);
+    };
+
+    EXPECT_EQ(factor(transform::ActiveMode::ScaleZ, Pnt3f(5, 8, 6)), 1) << "too near to divide by";
+    drag.unit = 1e-2F;
+    EXPECT_GT(factor(transform::ActiveMode::ScaleZ, Pnt3f(5, 8, 6)), 1e6) << "the gizmo is small";
+    EXPECT_FLOAT_EQ(factor(transform::ActiveMode::ScaleX, Pnt3f(-1, -2, -3)), 0.01);
+    EXPECT_FLOAT_EQ(factor(transform::ActiveMode::ScaleUniform, Pnt3f(-1, -90, -3)), 0.1);
+    EXPECT_NEAR(transform::computeRotation(Pnt3f(0, 2, 0), Pnt3f(5, 0, 3), 0), 1.5707963, 1e-6);
+    EXPECT_NEAR(transform::computeRotation(Pnt3f(0, 1, 0), Pnt3f(1, 0, 0), 2), -1.5707963, 1e-6);
+}
+
+TEST(TextureDragMath, FactorsNeverFallBelowAThousandthAndAreOtherwiseSentAsTheyAre)
+{
+    EXPECT_FLOAT_EQ(texture::axisScaleFactor(3, 2), 1.5F);
+    EXPECT_FLOAT_EQ(texture::axisScaleFactor(0, 2), 0.001F);
+    EXPECT_FLOAT_EQ(texture::axisScaleFactor(-1, 2), 0.001F);
+    EXPECT_FLOAT_EQ(texture::axisScaleFactor(-3, -2), 1.5F);
+    EXPECT_EQ(texture::axisScaleFactor(1, 0), kInfinity);
+    EXPECT_TRUE(std::isnan(texture::axisScaleFactor(0, 0)));
+
+    EXPECT_FLOAT_EQ(texture::uniformScaleFactor(3, 1), 1.02F);
+    EXPECT_FLOAT_EQ(texture::uniformScaleFactor(0, 1), 0.99F);
+    EXPECT_FLOAT_EQ(texture::uniformScaleFactor(-200, 1), 0.001F);
+    EXPECT_EQ(texture::uniformScaleFactor(1, 0), kInfinity);
+}
+
+TEST(TextureDragMath, AnAxisWithoutLengthStillGivesAFrame)
+{
+    osg::Matrix matrix;
+    matrix.setScale(Vec3f(1, 0, 1));
+    EXPECT_NEAR(texture::unitFrame(matrix, osg::Pnt3f()).det3(), 1.0F, 1e-6F);
+}
+
+TEST(ValueText, HasTwoDecimalsAndNoSignOnZero)
+{
+    const auto describe = [](float x, float y, float z) {
+        return describeValues("Scale (", Vec3f(x, y, z)).toStdString();
+    };
+    EXPECT_EQ(describe(0.0F, 1.0F, -2.5F), "Scale (0.00, 1.00, -2.50)");
+    EXPECT_EQ(describe(-0.0F, -0.004F, 0.005F), "Scale (0.00, 0.00, 0.00)");
+    EXPECT_EQ(describe(0.125F, -0.125F, 9.996F), "Scale (0.13, -0.13, 10.00)");
+    EXPECT_EQ(describe(16777216.0F, -1234567.9F, 0.05F), "Scale (16777216.00, -1234567.88, 0.05)");
+    EXPECT_EQ(describe(kInfinity, -kInfinity, 1e20F),
+              "Scale (inf, -inf, 100000002004087734272.00)");
+    EXPECT_EQ(describe(std::numeric_limits<float>::quiet_NaN(), 0, 0), "Scale (nan, 0.00, 0.00)");
 }
 
 }  // namespace nbec::manipulator::test

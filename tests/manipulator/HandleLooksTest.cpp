@@ -1,15 +1,11 @@
 // SPDX-License-Identifier: MIT
 // What hosts may change of how handles look: fading, palettes, the overlay of drags.
-#include "manipulator/course/DragOverlay.h"
 #include "manipulator/course/HandleFading.h"
 #include "manipulator/handles/HandlePalette.h"
 #include "tests/manipulator/support/AnyManipulator.h"
 #include "tests/manipulator/support/HandleScene.h"
 
 #include <OpenSG/OSGSimpleAttachments.h>
-#include <OpenSG/OSGSimpleMaterial.h>
-
-#include <array>
 
 namespace nbec::manipulator::test {
 

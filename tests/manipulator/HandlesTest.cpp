@@ -4,13 +4,9 @@
 
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
-#include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGLineChunk.h>
 #include <OpenSG/OSGMaterialGroup.h>
 #include <OpenSG/OSGSimpleAttachments.h>
-#include <OpenSG/OSGSimpleMaterial.h>
-
-#include <algorithm>
 
 namespace nbec::manipulator::test {
 

@@ -45,14 +45,7 @@ TEST(PerspectiveMatchLayout, EndsComeBeforeLinesAndTheNearestWins)
                                          { Line::ZLine1, line(0.4F, 0.1F, 0.4F, 0.9F) },
                                          { Line::YLine2, line(0.812F, 0.5F, 0.9F, 0.9F) } });
 
-    struct Row
-    {
-        const char* name;
-        float x, y;
-        MatchPart expected;
-    };
-
-    const Row rows[] = {
+    const std::tuple<const char*, float, float, MatchPart> rows[] = {
         { "first end", 200, 500, { Line::XLine1, kFirstEnd } },
         { "an end nearly 10 px away, the line under the pointer",
           209,
@@ -67,10 +60,9 @@ TEST(PerspectiveMatchLayout, EndsComeBeforeLinesAndTheNearestWins)
         { "on the course of the line, but beyond its end", 180, 500, {} },
         { "nothing near", 100, 900, {} }
     };
-    for (const Row& row : rows) {
-        EXPECT_EQ(partUnderPointer(lines, viewOf(1600, 1000, 1000), osg::Pnt2f(row.x, row.y)),
-                  row.expected)
-            << row.name;
+    for (const auto& [name, x, y, expected] : rows) {
+        EXPECT_EQ(partUnderPointer(lines, viewOf(1600, 1000, 1000), osg::Pnt2f(x, y)), expected)
+            << name;
     }
     EXPECT_EQ(partUnderPointer(lines, viewOf(1600, 1000, 1000, 2), osg::Pnt2f(600, 510)),
               (MatchPart { Line::XLine1, kLineBody }))
@@ -109,41 +101,11 @@ TEST(PerspectiveMatchLayout, OnlyLinesThatCanBeDrawnAreHit)
     EXPECT_FALSE(partUnderPointer(lines, view, osg::Pnt2f(0, 0)).isSet()) << "of an empty line";
 }
 
-TEST(PerspectiveMatchLayout, VanishingPoints)
-{
-    struct Row
-    {
-        const char* name;
-        osg::Line2D first, second;
-        osg::Vec3d place;
-    };
-
-    const Row rows[] = {
-        { "they meet at (2, 0.5)", line(0, 0, 1, 0.25F), line(0, 1, 1, 0.75F), { 2, 0.5, 1 } },
-        { "between their ends", line(0, 0, 1, 1), line(0, 1, 1, 0), { 0.5, 0.5, 1 } },
-        { "parallel", line(0, 0, 1, 0), line(0.5F, 1, 3, 1), { 1, 0, 0 } },
-        { "beyond what counts", line(0, 0, 1, 0), line(0, 1, 1, 0.999F), { 1, 0, 0 } },
-        { "one line twice", line(0, 0, 1, 0.5F), line(2, 1, 4, 2), {} },
-        { "no length", line(0.5F, 0.5F, 0.5F, 0.5F), line(0, 1, 1, 0), {} },
-        { "empty", osg::Line2D(), line(0, 1, 1, 0), {} },
-    };
-    for (const Row& row : rows) {
-        EXPECT_LT((vanishingPointOf(row.first, row.second) - row.place).length(), 1e-6) << row.name;
-    }
-}
-
 TEST(PerspectiveMatchLayout, GuidesStayInTheViewHoweverFarTheLinesReach)
 {
     using Line = PerspectiveMatchLine;
 
-    struct Row
-    {
-        const char* name;
-        osg::Line2D first, second;
-        bool isSeen;
-    };
-
-    const Row rows[] = {
+    const std::tuple<const char*, osg::Line2D, osg::Line2D, bool> rows[] = {
         { "a far point", line(0.1F, 0.1F, 0.3F, 0.1F), line(0.1F, 0.5F, 0.3F, 0.499F), true },
         { "parallel", line(0.4F, 0.4F, 0.5F, 0.4F), line(0.4F, 0.6F, 0.5F, 0.6F), true },
         { "ends far outside", line(-9e3F, 0.5F, -8e3F, 0.5F), line(-9e3F, 9, -8e3F, 8), true },
@@ -151,17 +113,16 @@ TEST(PerspectiveMatchLayout, GuidesStayInTheViewHoweverFarTheLinesReach)
         { "meeting between their ends", line(0, 0, 1, 1), line(0, 1, 1, 0), true },
     };
     const MatchView view = viewOf(900, 600, 600);
-    for (const Row& row : rows) {
-        const MatchLines lines =
-            linesWith({ { Line::ZLine1, row.first }, { Line::ZLine2, row.second } });
+    for (const auto& [name, first, second, isSeen] : rows) {
+        const MatchLines lines = linesWith({ { Line::ZLine1, first }, { Line::ZLine2, second } });
         const MatchSegments dashes = makeMatchGuides(lines, view, 1)[2];
-        EXPECT_EQ(!dashes.empty(), row.isSeen) << row.name;
-        EXPECT_LT(dashes.size(), 1000U) << row.name;
+        EXPECT_EQ(!dashes.empty(), isSeen) << name;
+        EXPECT_LT(dashes.size(), 1000U) << name;
         for (const osg::Pnt3f& point : dashes) {
-            EXPECT_GE(point.x(), -0.02F) << row.name;
-            EXPECT_LE(point.x(), 1.52F) << row.name;
-            EXPECT_GE(point.y(), -0.02F) << row.name;
-            EXPECT_LE(point.y(), 1.02F) << row.name;
+            EXPECT_GE(point.x(), -0.02F) << name;
+            EXPECT_LE(point.x(), 1.52F) << name;
+            EXPECT_GE(point.y(), -0.02F) << name;
+            EXPECT_LE(point.y(), 1.02F) << name;
         }
     }
 }

@@ -10,17 +10,11 @@
 #include <nbKernelServices/nbObjectService.h>
 #include <nbKernelServices/nbUndoService.h>
 #include <nbMagnifier/nbMagnifierRenderer.h>
-#include <nbOpenSGUberCamera/UberCamera.h>
 
 #include <QUndoStack>
 #include <QtCore/QSignalBlocker>
 
 #include <gtest/gtest.h>
-
-#include <array>
-#include <cmath>
-#include <memory>
-#include <vector>
 
 namespace nbec::manipulator::test {
 
@@ -92,33 +86,6 @@ protected:
 }  // namespace
 
 // == Dragging
-
-TEST_F(PerspectiveMatchManipulatorTest, EachPartMovesWhatBelongsToIt)
-{
-    struct Row
-    {
-        const char* name;
-        double place;  ///< where the line is grabbed, 0 its first end
-        bool movesFirst, movesSecond;
-    };
-
-    const Row rows[] = { { "body", 0.5, true, true },
-                         { "first end", 0.0, true, false },
-                         { "second end", 1.0, false, true } };
-    for (const Row& row : rows) {
-        scene.layLines();
-        const QLineF before = match().getXLine1();
-        const QPointF way(0.01, -0.02);
-
-        scene.drag(before.pointAt(row.place), osg::Vec2f(10, -20));
-
-        expectLine(match().getXLine1(),
-                   QLineF(row.movesFirst ? before.p1() + way : before.p1(),
-                          row.movesSecond ? before.p2() + way : before.p2()),
-                   row.name);
-        expectLine(drawnLine(gizmo, 1), match().getXLine1(), row.name);
-    }
-}
 
 TEST_F(PerspectiveMatchManipulatorTest, EveryLineIsReadAndWrittenUnderItsOwnNumber)
 {
@@ -204,22 +171,6 @@ TEST_F(PerspectiveMatchManipulatorTest, AViewResizedDuringADragMeasuresInItsNewS
     scene.send("stop", from);
 }
 
-TEST_F(PerspectiveMatchManipulatorTest, ALockedCameraRefusesSilently)
-{
-    scene.cameraNode().setLocked(true);
-    const QLineF before = match().getXLine1();
-    const osg::Pnt2f from = scene.pixelOf(before.p1());
-
-    ASSERT_TRUE(scene.grab(before.p1())) << "its lines can still be looked at";
-    EXPECT_TRUE(scene.send("process", from));
-    EXPECT_TRUE(scene.send("process", from + osg::Vec2f(50, 50)));
-    EXPECT_TRUE(scene.send("stop", from));
-
-    EXPECT_EQ(match().getXLine1(), before);
-    EXPECT_EQ(stepCount(), 0);
-    scene.cameraNode().setLocked(false);
-}
-
 TEST_F(PerspectiveMatchManipulatorTest, SessionsOfDragsEndWithTheCameraOfTheLines)
 {
     const osg::UberCameraPtr camera = scene.widget.getUberCamera();
@@ -241,36 +192,6 @@ TEST_F(PerspectiveMatchManipulatorTest, SessionsOfDragsEndWithTheCameraOfTheLine
             EXPECT_LT(matchtest::angleDeg(found, aim), 45) << row.name;
         };
         matchtest::forRandomCameras(row, 200, play);
-    }
-}
-
-TEST_F(PerspectiveMatchManipulatorTest, AnEndLedBackBringsCameraAndLinesBackToTheBit)
-{
-    const osg::UberCameraPtr camera = scene.widget.getUberCamera();
-    const auto values = [&] {
-        const CameraPose pose = camera->getPose();
-        std::vector<double> all { pose.fovDeg };
-        for (const int i : { 0, 1, 2 }) {
-            all.insert(all.end(), { pose.from[i], pose.at[i], pose.up[i] });
-        }
-        for (int i = 0; i < nbdPerspectiveMatch::kLineCount; ++i) {
-            const QLineF line = match().getLine(nbdPerspectiveMatch::Line(i));
-            all.insert(all.end(), { line.x1(), line.y1(), line.x2(), line.y2() });
-        }
-        return all;
-    };
-    scene.cameraNode().layLinesAsSeen();
-    for (int session = 0; session < 2; ++session) {
-        const std::vector<double> before = values();
-        const QPointF end = match().getZLine1().p2();
-        const osg::Pnt2f from = scene.pixelOf(end);
-        ASSERT_TRUE(scene.grab(end));
-        for (const float way : { 0.0F, 60.0F, -200.0F, 700.0F, 0.0F }) {
-            scene.send("process", from + osg::Vec2f(way, way / 2));
-            EXPECT_EQ(values() == before, way == 0.0F) << way;
-        }
-        scene.send("stop", from);
-        scene.drag(match().getXLine1().p1(), osg::Vec2f(30, 10));
     }
 }
 
@@ -404,15 +325,7 @@ TEST_F(PerspectiveMatchManipulatorTest, WhichPropertiesAreDrawnAnew)
     const osg::RefPtr<osg::UberCameraPtr> other(osg::UberCamera::create());
     const nbdCameraNode otherNode(other->getInternalParentNode().getFieldContainerId());
 
-    struct Row
-    {
-        const char* name;
-        nbdObject object;
-        const char* property;
-        bool redraws;
-    };
-
-    const Row rows[] = {
+    const std::tuple<const char*, nbdObject, const char*, bool> rows[] = {
         { "fov mode of the camera", scene.cameraNode(), "fovMode", true },
         { "another property of it", scene.cameraNode(), "fov", false },
         { "compared exactly", scene.cameraNode(), "FovMode", false },
@@ -423,11 +336,11 @@ TEST_F(PerspectiveMatchManipulatorTest, WhichPropertiesAreDrawnAnew)
         { "a node that is no camera", nbdNode(nbScenegraph::getRootNode().getFieldContainerId()),
           "fovMode", false },
     };
-    for (const Row& row : rows) {
+    for (const auto& [name, object, property, redraws] : rows) {
         const QLineF before = drawnLine(gizmo, 1);
         const QLineF changed = changeSilently();
-        nbObjectService::notify(row.object, row.property);
-        expectLine(drawnLine(gizmo, 1), row.redraws ? changed : before, row.name);
+        nbObjectService::notify(object, property);
+        expectLine(drawnLine(gizmo, 1), redraws ? changed : before, name);
         gizmo.update(true);
     }
 }

@@ -1,19 +1,15 @@
 // SPDX-License-Identifier: MIT
 // The perspective match overlay as it is drawn, at named pixels.
-#include "manipulator/PerspectiveMatchManipulator.h"
 #include "tests/manipulator/support/MatchScene.h"
 #include "tests/platform/support/Edited.h"
 
 #include <nbOpenSGRenderAction/nbOffscreenView.h>
-#include <nbOpenSGUberCamera/UberCamera.h>
 
 #include <QtCore/QSize>
-#include <QtGui/QImage>
 
 #include <gtest/gtest.h>
 
 #include <cstdlib>
-#include <memory>
 
 namespace nbec::manipulator::test {
 
@@ -126,25 +122,6 @@ TEST_F(PerspectiveMatchPictureTest, LinesOfAxesOutOfUseAreGreyAndThinAndRingsKee
     EXPECT_TRUE(isColor(at(half, 65, 20), kRed));
     EXPECT_TRUE(isColor(at(half, 30 - 6, 20), kRed)) << "ring";
     EXPECT_TRUE(isColor(at(half, 30 - 3, 20), kBlack)) << "inside it";
-}
-
-TEST_F(PerspectiveMatchPictureTest, AHeldEndIsSeenThroughTheMagnifier)
-{
-    scene.match().setXLine1(pixelLine(60, 240, 320, 240));
-    const auto litPixels = [this] {
-        const QImage picture = draw();
-        int count = 0;
-        for (int i = 0; i < 80 * 80; ++i) {
-            count += isColor(at(picture, 280 + i % 80, 200 + i / 80), kOrange) ? 1 : 0;
-        }
-        return count;
-    };
-
-    EXPECT_TRUE(scene.send("hover", scene.pixelOf(scene.match().getXLine1().p2())));
-    const int plain = litPixels();
-    EXPECT_GT(plain, 20);
-    ASSERT_TRUE(scene.grab(scene.match().getXLine1().p2()));
-    EXPECT_GT(litPixels(), 6 * plain);
 }
 
 TEST_F(PerspectiveMatchPictureTest, GuidesShowDuringADrag)

@@ -43,50 +43,19 @@ Pnt3f at(float x, float y, float z = 0)
 
 }  // namespace
 
-TEST(PlanarDrag, PlanesContainTheirAxisAndFaceTheViewer)
-{
-    const Vec3f sight(0.6F, 0, -0.8F);
-
-    const struct
-    {
-        Active handle;
-        Vec3f normal;
-    } rows[] = { { Active::TranslateX, { 0.6F, 0, -0.8F } },
-                 { Active::ScaleX, { 0.6F, 0, -0.8F } },
-                 { Active::TranslateY, { 0, 0, -1 } },
-                 { Active::ScaleY, { 0, 0, -1 } },
-                 { Active::TranslateZ, { 1, 0, 0 } },
-                 { Active::ScaleZ, sight },
-                 { Active::ScaleZPlane, sight },
-                 { Active::TranslateXY, { 0, 0, 1 } },
-                 { Active::Rotate, { 0, 0, 1 } },
-                 { Active::ScaleUniform, { 0, 0, 1 } } };
-
-    for (const auto& row : rows) {
-        const osg::Plane plane = dragPlaneOf(turnedFrame(), row.handle, sight);
-        EXPECT_NEAR(std::abs(plane.getNormal().dot(row.normal)), 1, 1e-5F)
-            << static_cast<int>(row.handle);
-        EXPECT_NEAR(plane.distance(Pnt3f(10, 0, 0)), 0, 1e-4F);
-    }
-}
-
 TEST(PlanarDrag, OffsetsAnglesAndFactorsRunInTheObjectsUnits)
 {
     const Pnt3f from = at(1, 1, 0.5F);
     const Pnt3f to = at(3, -1, 2);
 
-    const struct
-    {
-        Active handle;
-        Vec3f offset;
-    } offsets[] = { { Active::TranslateX, { 2, 0, 0 } },
-                    { Active::TranslateY, { 0, -2, 0 } },
-                    { Active::TranslateZ, { 0, 0, 1.5F } },
-                    { Active::TranslateXY, { 2, -2, 0 } } };
+    const std::pair<Active, Vec3f> offsets[] = { { Active::TranslateX, { 2, 0, 0 } },
+                                                 { Active::TranslateY, { 0, -2, 0 } },
+                                                 { Active::TranslateZ, { 0, 0, 1.5F } },
+                                                 { Active::TranslateXY, { 2, -2, 0 } } };
 
-    for (const auto& row : offsets) {
-        const ProjectionDrag drag = beginDrag(turnedFrame(), row.handle, kSight);
-        EXPECT_TRUE(isNear(offsetBetween(drag, from, to), row.offset));
+    for (const auto& [handle, offset] : offsets) {
+        const ProjectionDrag drag = beginDrag(turnedFrame(), handle, kSight);
+        EXPECT_TRUE(isNear(offsetBetween(drag, from, to), offset));
     }
 
     const ProjectionDrag ring = beginDrag(turnedFrame(), Active::Rotate, kSight);
@@ -119,21 +88,16 @@ TEST(PlanarDrag, OffsetsAnglesAndFactorsRunInTheObjectsUnits)
 
 TEST(PlanarDrag, AFactorScalesItsAxisOrAlsoTheOther)
 {
-    const struct
-    {
-        Active handle;
-        bool keepsRatio;
-        Vec3f scale;
-    } rows[] = {
+    const std::tuple<Active, bool, Vec3f> rows[] = {
         { Active::ScaleX, false, { 4, 3, 0.5F } },      { Active::ScaleX, true, { 4, 6, 0.5F } },
         { Active::ScaleY, false, { 2, 6, 0.5F } },      { Active::ScaleY, true, { 4, 6, 0.5F } },
         { Active::ScaleZ, false, { 2, 3, 1 } },         { Active::ScaleZ, true, { 2, 3, 1 } },
         { Active::ScaleUniform, false, { 4, 6, 0.5F } }
     };
 
-    for (const auto& row : rows) {
-        const ProjectionDrag drag = beginDrag(turnedFrame(), row.handle, kSight);
-        EXPECT_TRUE(isNear(scaledProjection(drag, 2, row.keepsRatio), row.scale));
+    for (const auto& [handle, keepsRatio, scale] : rows) {
+        const ProjectionDrag drag = beginDrag(turnedFrame(), handle, kSight);
+        EXPECT_TRUE(isNear(scaledProjection(drag, 2, keepsRatio), scale));
     }
 }
 
@@ -141,6 +105,7 @@ TEST(PlanarDrag, TabsMoveOneEndOfASideAndTheCentreHalfAsFar)
 {
     const Sights sights = { kSight, kSight, kSight };
 
+    // clang-format off
     const struct
     {
         const char* name;
@@ -152,38 +117,15 @@ TEST(PlanarDrag, TabsMoveOneEndOfASideAndTheCentreHalfAsFar)
         { "left", Active::ScaleLeft, false, { 1, 9, 0 }, { 1.5F, 3, 0.5F }, { 0.5F, 0, 0 } },
         { "upper", Active::ScaleUpper, false, { 9, 2, 0 }, { 2, 4, 0.5F }, { 0, 1, 0 } },
         { "lower", Active::ScaleLower, false, { 9, -2, 0 }, { 2, 4, 0.5F }, { 0, -1, 0 } },
-        { "corner",
-          Active::ScaleUpperRight,
-          false,
-          { 1, 2, 0 },
-          { 2.5F, 4, 0.5F },
-          { 0.5F, 1, 0 } },
-        { "other corner",
-          Active::ScaleUpperLeft,
-          false,
-          { 1, 2, 0 },
-          { 1.5F, 4, 0.5F },
-          { 0.5F, 1, 0 } },
-        { "edge with ratio",
-          Active::ScaleRight,
-          true,
-          { 2, 0, 0 },
-          { 3, 4.5F, 0.5F },
-          { 1, 0, 0 } },
+        { "corner", Active::ScaleUpperRight, false, { 1, 2, 0 }, { 2.5F, 4, 0.5F }, { 0.5F, 1, 0 } },
+        { "other corner", Active::ScaleUpperLeft, false, { 1, 2, 0 }, { 1.5F, 4, 0.5F }, { 0.5F, 1, 0 } },
+        { "edge with ratio", Active::ScaleRight, true, { 2, 0, 0 }, { 3, 4.5F, 0.5F }, { 1, 0, 0 } },
         // (1.5 * 4 + 1 * 9) / 13 of the sides, by the squares of their lengths.
-        { "corner with ratio",
-          Active::ScaleUpperRight,
-          true,
-          { 2, 0, 0 },
-          { 2 * 15.0F / 13, 3 * 15.0F / 13, 0.5F },
-          { 4.0F / 13, 6.0F / 13, 0 } },
-        { "never over",
-          Active::ScaleRight,
-          false,
-          { -99, 0, 0 },
-          { 0.02F, 3, 0.5F },
-          { -1.98F, 0, 0 } },
+        { "corner with ratio", Active::ScaleUpperRight, true, { 2, 0, 0 }, { 2 * 15.0F / 13, 3 * 15.0F / 13, 0.5F }, { 4.0F / 13, 6.0F / 13, 0 } },
+        { "never over", Active::ScaleRight, false, { -99, 0, 0 }, { 0.02F, 3, 0.5F }, { -1.98F, 0, 0 } },
     };
+
+    // clang-format on
 
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);

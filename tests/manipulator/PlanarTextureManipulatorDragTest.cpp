@@ -3,6 +3,11 @@
 #include "tests/manipulator/support/TextureScene.h"
 #include "tests/platform/support/Edited.h"
 
+#include <nbKernel/nbScenegraph.h>
+#include <nbNotification/NotificationManager.h>
+
+#include <OpenSG/OSGSimpleGeometry.h>
+
 namespace nbec::manipulator::test {
 
 namespace {
@@ -148,32 +153,27 @@ TEST(PlanarTextureManipulatorDrag, ScalesSendWhatTheirHandleHas)
 {
     const Names tab = { "clamping", "scale", "offset", "transVec" };
 
-    const struct
-    {
-        const char* handle;
-        Camera camera;
-        Vec3f grab;
-        Names names;
-        bool clamps;
-    } rows[] = { { "xsShape", Camera::Front, { 2.5F, 0, 0 }, { "scale" }, false },
-                 { "ysShape", Camera::Front, { 0, 2.5F, 0 }, { "scale" }, false },
-                 { "zsShape", Camera::Side, { 0, 0, -2.5F }, { "clamping", "scale" }, true },
-                 { "grid", Camera::Front, {}, { "scale" }, false },
-                 { "scaleXYURShape", Camera::Front, {}, tab, false },
-                 { "scaleXLShape", Camera::Front, {}, tab, false },
-                 { "scaleZPlaneShape", Camera::Oblique, { -0.17F, 0.17F, 0 }, tab, true } };
+    const std::tuple<const char*, Camera, Vec3f, Names, bool> rows[] = {
+        { "xsShape", Camera::Front, { 2.5F, 0, 0 }, { "scale" }, false },
+        { "ysShape", Camera::Front, { 0, 2.5F, 0 }, { "scale" }, false },
+        { "zsShape", Camera::Side, { 0, 0, -2.5F }, { "clamping", "scale" }, true },
+        { "grid", Camera::Front, {}, { "scale" }, false },
+        { "scaleXYURShape", Camera::Front, {}, tab, false },
+        { "scaleXLShape", Camera::Front, {}, tab, false },
+        { "scaleZPlaneShape", Camera::Oblique, { -0.17F, 0.17F, 0 }, tab, true }
+    };
 
-    for (const auto& row : rows) {
+    for (const auto& [handle, camera, grab, names, clamps] : rows) {
         PlanarScene planar;
         scaled(planar);
         planar.gizmo.activateScaleManipulator();
-        planar.look(row.camera, false);
-        ASSERT_TRUE(planar.grab(row.handle, row.grab)) << row.handle;
+        planar.look(camera, false);
+        ASSERT_TRUE(planar.grab(handle, grab)) << handle;
         EXPECT_TRUE(planar.drag.stepTo(Vec2f()));
-        EXPECT_EQ(planar.last().message.names(), row.names) << row.handle;
-        expectNear(attribute<Vec3f>(planar.last(), "scale"), Vec3f(2, 3, 0.5F), row.handle);
-        if (row.names.front() == "clamping") {
-            EXPECT_EQ(attribute<bool>(planar.last(), "clamping"), row.clamps) << row.handle;
+        EXPECT_EQ(planar.last().message.names(), names) << handle;
+        expectNear(attribute<Vec3f>(planar.last(), "scale"), Vec3f(2, 3, 0.5F), handle);
+        if (names.front() == "clamping") {
+            EXPECT_EQ(attribute<bool>(planar.last(), "clamping"), clamps) << handle;
         }
     }
 }
@@ -244,6 +244,112 @@ TEST(PlanarTextureManipulatorDrag, DepthIsClampedAndShownOnceItIsScaled)
         EXPECT_TRUE(planar.drag.dragBy(outwards * -10.0F));
         EXPECT_FLOAT_EQ(planar.projection->getScale().z(), 0.01F) << handle;
     }
+}
+
+namespace {
+
+using Gizmo = PlanarTextureManipulator;
+
+const Vec3f kTab(2.5F, 0, 0);
+
+}  // namespace
+
+TEST(PlanarTextureManipulatorDrag, SendsNothingWhileThePlaneIsMissed)
+{
+    PlanarScene planar;
+    planar.gizmo.activateRotateManipulator();
+    // Seen along the projection plane, every ray begins in it and looks away or along.
+    planar.look(Camera::Side, false);
+    ASSERT_TRUE(planar.drag.press(planar.onHandle("rotateShape", Vec3f(0.03F, 1, 0))));
+    planar.log.clear();
+    EXPECT_TRUE(planar.drag.dragBy(Vec2f(0, 30)));
+    EXPECT_EQ(planar.takeNames(), Names());
+    EXPECT_TRUE(planar.drag.release());
+
+    // An arrow that points at the viewer has no plane.
+    planar.gizmo.activateTranslateManipulator();
+    planar.look(Camera::Front, true);
+    ASSERT_TRUE(planar.drag.press(planar.onHandle("zaShape", Vec3f(-0.1F, -0.1F, -1))));
+    EXPECT_EQ(planar.gizmo.getActiveMode(), Gizmo::ActiveMode::TranslateZ);
+    planar.log.clear();
+    EXPECT_TRUE(planar.drag.dragBy(Vec2f(20, 30)));
+    EXPECT_EQ(planar.takeNames(), Names());
+}
+
+TEST(PlanarTextureManipulatorDrag, ASideWithoutLengthGrowsAgainByItsEdge)
+{
+    PlanarScene planar;
+    planar.edit(planar.projection,
+                [](const auto& projection) { projection->setScale(Vec3f(0, 1, 1)); });
+    planar.gizmo.activateScaleManipulator();
+    ASSERT_TRUE(planar.drag.press(planar.onHandle("scaleXYURShape", Vec3f(0.15F, 0, 0))));
+    EXPECT_TRUE(planar.drag.dragBy(Vec2f(72, 0)));
+    expectNear(attribute<Vec3f>(planar.last(), "scale"), Vec3f(kStep / 2, 1, 1), "scale");
+    expectNear(attribute<Vec3f>(planar.last(), "transVec"), Vec3f(kStep / 2, 0, 0), "transVec");
+}
+
+// == The object
+
+TEST(PlanarTextureManipulatorDrag, MakesTheObjectATransformWithPivots)
+{
+    PlanarScene planar;
+    const osg::NodePtr box = osg::makeBox(1, 1, 1, 1, 1, 1);
+    const osg::NodePtr group = osg::makeCoredNode<osg::Transform3D>();
+    const auto place = transformOf(group);
+    planar.edit(place, [](const auto& transform) { transform->setTranslation(Vec3f(0, 1, 0)); });
+    addChild(group, box);
+    const osg::NodePtr object = osg::makeCoredNode<osg::Group>();
+    addChild(object, group);
+    addChild(planar.parent, object);
+    planar.gizmo.setNode(object);
+
+    ASSERT_TRUE(planar.grab("xaShape", Vec3f(1.9F, 0, 0)));
+    EXPECT_TRUE(planar.drag.stepTo(Vec2f(72, 0)));
+    const auto core = transformOf(object);
+    ASSERT_NE(core, osg::NullFC);
+    expectNear(core->getRotatePivot(), Vec3f(0, 1, 0), "rotate pivot");
+    expectNear(core->getScalePivot(), Vec3f(0, 1, 0), "scale pivot");
+    expectNear(attribute<Vec3f>(planar.last(), "transVec"), Vec3f(kStep, 0, 0), "transVec");
+    EXPECT_TRUE(planar.drag.release());
+
+    planar.gizmo.setNode(nbScenegraph::getRootNode());
+    const osg::NodeCorePtr rootCore = nbScenegraph::getRootNode()->getCore();
+    ASSERT_TRUE(planar.grab("xaShape", Vec3f(1.9F, 0, 0)));
+    EXPECT_TRUE(planar.drag.stepTo(Vec2f(72, 0)));
+    EXPECT_EQ(nbScenegraph::getRootNode()->getCore(), rootCore) << "the scene's root stays";
+}
+
+TEST(PlanarTextureManipulatorDrag, TextSaysTheObjectsValuesExceptForZ)
+{
+    const std::tuple<const char*, Vec3f, const char*> rows[] = {
+        { "xaShape", { 1.9F, 0, 0 }, "Translation (0.25, -0.50, 0.00)" },
+        { "yaShape", { 0, 1.9F, 0 }, "Translation (0.25, -0.50, 0.00)" },
+        { "xyaShape", { 0.25F, 0.25F, 0 }, "Translation (0.25, -0.50, 0.00)" },
+        { "zaShape", { 0, 0, -1.9F }, "" },
+        { "xsShape", kTab, "Scale (1.00, 2.00, 1.00)" },
+        { "grid", { 0, 0, 0 }, "Scale (1.00, 2.00, 1.00)" },
+        { "zsShape", { 0, 0, -2.5F }, "" },
+        { "scaleXYURShape", { 0, 0, 0 }, "" },
+        { "rotateShape", { 0.6F, -0.8F, 0 }, "Rotation (0.00, 0.00, 10.00)" }
+    };
+
+    PlanarScene planar;
+    planar.edit(planar.core(), [](const auto& node) {
+        node->setTranslation(Vec3f(0.25F, -0.5F, 0));
+        node->setRotation(Vec3f(0, 0, 10));
+        node->setScale(Vec3f(1, 2, 1));
+    });
+    auto* const manager = notification::NotificationManager::getInstance();
+
+    for (const auto& [handle, grab, text] : rows) {
+        const std::string name = handle;
+        planar.look(name[0] == 'z' ? Camera::Side : Camera::Front, false);
+        ASSERT_TRUE(planar.grab(handle, grab)) << handle;
+        EXPECT_TRUE(planar.drag.stepTo(Vec2f(3, 3)));
+        EXPECT_EQ(HandleScene::texts(), *text != '\0' ? Names { text } : Names());
+        EXPECT_TRUE(planar.drag.release());
+    }
+    EXPECT_NE(manager->getNotifier("textureTransformInfo"), nullptr);
 }
 
 }  // namespace nbec::manipulator::test

@@ -4,8 +4,6 @@
 
 #include <nbOpenSGRenderAction/nbOffscreenView.h>
 
-#include <QtGui/QImage>
-
 #include <gtest/gtest.h>
 
 namespace nbec::manipulator::test {

@@ -4,6 +4,7 @@
 #include "tests/platform/support/Edited.h"
 #include "tests/platform/support/LogLines.h"
 
+#include <nbKernelServices/nbUndoService.h>
 #include <nbNotification/NotificationManager.h>
 #include <nbOpenSGUtils/nbNodePermission.h>
 #include <nbTransform/nbTransformModel.h>
@@ -193,49 +194,33 @@ TEST(SeveralNodes, ADestroyedOneIsPassedOverAndTheRestGoesOn)
 
 // == On-screen text
 
-TEST(DragText, ShowsTheEditedValuesAndGoesWithTheDrag)
+TEST(DragText, ShowsTheEditedValuesWhereTheModeHasAText)
 {
-    struct TextRow
-    {
-        Mode mode;
-        Vec3f grab;
-        Vec2f offsetPx;
-        const char* text;
-    };
-
-    const TextRow rows[] = {
+    const std::tuple<Mode, Vec3f, Vec2f, const char*> rows[] = {
         { Mode::Translate, kArrow, { 72, 0 }, "Translation (0.99, 0.00, 0.00)" },
         { Mode::TranslateRotateScale, kArrow, { 72, 0 }, "Translation (0.99, 0.00, 0.00)" },
         { Mode::Rotate, kRing, { -51, -22 }, "Rotation (0.00, 0.00, 45.00)" },
         { Mode::Scale, { 1.5F, 0, 0 }, { 73, 0 }, "Scale (2.00, 1.00, 1.00)" },
         { Mode::RotatePivot, kArrow, { 72, 0 }, "Rotate Pivot (0.99, 0.00, 0.00)" },
         { Mode::ScalePivot, kArrow, { 72, 0 }, "Scale Pivot (0.99, 0.00, 0.00)" },
+        { Mode::Universal, kArrow, { -9, 4 }, "" },
+        { Mode::TranslateRotate, kRing, { -9, 4 }, "" },
+        { Mode::TranslateRotateScale, { 1.5F, 0, 0 }, { -9, 4 }, "" },
+        { Mode::RotatePivot, kRing, { -9, 4 }, "" },
     };
-    for (const TextRow& row : rows) {
-        DragScene drags;
-        drags.activate(row.mode);
-        ASSERT_TRUE(drags.grab(row.grab));
-        EXPECT_THAT(HandleScene::texts(), IsEmpty());
-        EXPECT_TRUE(drags.dragBy(row.offsetPx));
-        EXPECT_THAT(HandleScene::texts(), ElementsAre(row.text));
-    }
-}
-
-TEST(DragText, IsEmptyWhereTheModeHasNoneAndWhenSwitchedOff)
-{
-    const std::pair<Mode, Vec3f> rows[] = { { Mode::Universal, kArrow },
-                                            { Mode::TranslateRotate, kRing },
-                                            { Mode::TranslateRotateScale, { 1.5F, 0, 0 } },
-                                            { Mode::RotatePivot, kRing },
-                                            { Mode::Translate, kArrow } };
-    for (const auto& [mode, grab] : rows) {
+    for (const auto& [mode, grab, offsetPx, text] : rows) {
         DragScene drags;
         drags.activate(mode);
-        drags.gizmo.setDescriptionEnabled(mode != Mode::Translate);
         ASSERT_TRUE(drags.grab(grab));
-        EXPECT_TRUE(drags.stepTo(Vec2f(-9, 4)));
-        EXPECT_THAT(HandleScene::texts(), IsEmpty()) << static_cast<int>(mode);
+        EXPECT_THAT(HandleScene::texts(), IsEmpty());
+        EXPECT_TRUE(drags.dragBy(offsetPx));
+        EXPECT_EQ(HandleScene::texts(), *text == '\0' ? Names() : Names { text });
     }
+    DragScene silent;
+    silent.gizmo.setDescriptionEnabled(false);
+    ASSERT_TRUE(silent.grab(kArrow));
+    EXPECT_TRUE(silent.stepTo(Vec2f(-9, 4)));
+    EXPECT_THAT(HandleScene::texts(), IsEmpty());
 }
 
 TEST(DragText, HasItsNotifierAndFollowsTheViewsShape)
@@ -293,6 +278,88 @@ TEST(BrokenDrags, ASelectionOrModeChangedMeanwhileIsHarmless)
     EXPECT_FALSE(drags.dragBy(Vec2f(60, 0)));
     EXPECT_FALSE(drags.release());
     EXPECT_TRUE(isFinite(other->getToWorld()));
+}
+
+namespace {
+
+/// The scene's node with a core that is no transform yet.
+void makeGroup(const osg::NodePtr& node)
+{
+    nbtest::edited(node, osg::Node::CoreFieldMask)->setCore(osg::Group::create());
+}
+
+}  // namespace
+
+TEST(DragUndo, ConversionAloneIsNoStepAndJoinsTheNextOne)
+{
+    DragScene drags;
+    makeGroup(drags.scene.node);
+    const osg::NodeCorePtr group = drags.scene.node->getCore();
+    const osg::RefPtr<osg::NodeCorePtr> held(group);
+    // The object's centre, where the new pivots will be, is not the node's origin.
+    const osg::NodePtr beside = drags.addFurther(Vec3f(2, 0, 0));
+    addChild(drags.scene.node, beside);
+    drags.gizmo.update(true);
+    const osg::Matrix before = drags.scene.node->getToWorld();
+    nbUndoService* const undo = nbUndoService::the();
+
+    ASSERT_TRUE(drags.grab(kArrow));
+    EXPECT_TRUE(drags.dragBy(Vec2f(40, 0)));
+    EXPECT_GT(greatestDifference(drags.scene.node->getToWorld(), before), 0.1F);
+    EXPECT_TRUE(drags.dragBy(Vec2f(0, 0)));
+    EXPECT_TRUE(drags.release());
+    EXPECT_FALSE(undo->undo());
+    EXPECT_EQ(drags.scene.node->getToWorld(), before);
+    EXPECT_NE(drags.core(), osg::NullFC) << "the node stays converted";
+
+    ASSERT_TRUE(drags.grab(kArrow));
+    EXPECT_TRUE(drags.dragBy(Vec2f(40, 0)));
+    EXPECT_TRUE(drags.release());
+    const osg::Matrix after = drags.scene.node->getToWorld();
+    EXPECT_TRUE(undo->undo());
+    EXPECT_FALSE(undo->undo()) << "one step";
+    EXPECT_EQ(drags.scene.node->getCore(), group);
+    EXPECT_EQ(drags.scene.node->getToWorld(), before);
+    EXPECT_TRUE(undo->redo());
+    EXPECT_EQ(drags.scene.node->getToWorld(), after);
+}
+
+TEST(DragUndo, OfAPivotTakesTheGizmoBackWithIt)
+{
+    DragScene drags;
+    UniversalTransformManipulator2::setLocalSpaceManipulator(true);
+    drags.activate(UniversalTransformManipulator2::ManipulatorMode::RotatePivot);
+    for (const Vec3f& handle : { kArrow, kRing }) {
+        const Pnt3f before = drags.onGizmo(handle);
+        ASSERT_TRUE(drags.grab(handle));
+        EXPECT_TRUE(drags.dragBy(Vec2f(-40, -20)));
+        EXPECT_TRUE(drags.release());
+        EXPECT_GT((drags.onGizmo(handle) - before).length(), 0.1F);
+        EXPECT_TRUE(nbUndoService::the()->undo());
+        drags.gizmo.update(false);
+        EXPECT_EQ(drags.onGizmo(handle), before);
+    }
+}
+
+TEST(DragUndo, AfterACancelTheHandleIsGrabbedAgainAtOnce)
+{
+    for (const bool isConverted : { false, true }) {
+        DragScene drags;
+        if (isConverted) {
+            makeGroup(drags.scene.node);
+            drags.gizmo.update(true);
+        }
+        const osg::Matrix before = drags.scene.node->getToWorld();
+        const Pnt3f place = drags.onGizmo(kArrow);
+        for (int i = 0; i < 4; ++i) {
+            ASSERT_TRUE(drags.drag.press(place)) << "drag " << i;
+            EXPECT_TRUE(drags.dragBy(Vec2f(60, 0)));
+            EXPECT_GT(greatestDifference(drags.scene.node->getToWorld(), before), 0.1F);
+            drags.scene.manager.cancelDrag();
+            EXPECT_EQ(drags.scene.node->getToWorld(), before);
+        }
+        EXPECT_FALSE(nbUndoService::the()->undo());
+    }
 }
 
 }  // namespace nbec::manipulator::test

@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What holds for every drag, over random cameras, hierarchies, handles and ways of the pointer.
-#include "manipulator/course/View.h"
 #include "manipulator/drag/DragGeometry.h"
 #include "tests/manipulator/support/HandleScene.h"
-
-#include <nbOpenSGUberCamera/UberCamera.h>
 
 #include <iterator>
 #include <random>

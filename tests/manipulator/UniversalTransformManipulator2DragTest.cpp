@@ -6,9 +6,6 @@
 
 #include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGExt/ClipPlane3D.h>
-#include <nbOpenSGUberCamera/UberCamera.h>
-
-#include <OpenSG/OSGNode.h>
 
 #include <iterator>
 

@@ -1,15 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/nbPlanarProjectionVisualization.h"
 
-#include "tests/platform/support/Edited.h"
-#include "tests/platform/support/RenderTest.h"
-
-#include <nbOpenSGExt/Transform3D.h>
-#include <nbOpenSGUberMaterial/ColorComponentSettings.h>
+#include "tests/manipulator/support/GizmoScene.h"
+#include "tests/platform/support/PictureTest.h"
 
 #include <OpenSG/OSGContainerCensus.h>
-
-#include <functional>
 
 namespace {
 
@@ -32,27 +27,17 @@ osg::ImagePtr makeImage(osg::UInt32 format, const std::vector<osg::UInt8>& pixel
     return image;
 }
 
-void visit(const osg::NodePtr& node, const std::function<void(const osg::NodePtr&)>& visitor)
-{
-    visitor(node);
-    for (osg::UInt32 i = 0; i < node->getNChildren(); ++i) {
-        visit(node->getChild(i), visitor);
-    }
-}
-
 /// Materials of the planes below a node, in tree order.
 std::vector<osg::SimpleMaterialPtr> planeMaterials(const osg::NodePtr& top)
 {
     std::vector<osg::SimpleMaterialPtr> found;
-    visit(top, [&found](const osg::NodePtr& node) {
-        const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(node->getCore());
-        if (geometry != osg::NullFC) {
-            const auto material = osg::SimpleMaterialPtr::dcast(geometry->getMaterial());
-            if (material->find(osg::TextureChunk::getClassType()) != osg::NullFC) {
-                found.push_back(material);
-            }
+    for (const osg::NodePtr& part : nbec::manipulator::test::partsOf(top)) {
+        found.push_back(
+            osg::SimpleMaterialPtr::dcast(osg::GeometryPtr::dcast(part->getCore())->getMaterial()));
+        if (found.back()->find(osg::TextureChunk::getClassType()) == osg::NullFC) {
+            found.pop_back();
         }
-    });
+    }
     return found;
 }
 
@@ -78,23 +63,6 @@ osg::NodePtr zExtentNode(const nbPlanarProjectionVisualization& visualization)
     return visualization.getProjectionTransformNode()->getChild(1);
 }
 
-osg::RefPtr<osg::ColorComponentSettingsPtr> makeSettings(const osg::Vec3f& translation,
-                                                         const osg::Quaternion& rotation,
-                                                         const osg::Vec3f& scale)
-{
-    osg::RefPtr<osg::ColorComponentSettingsPtr> settings(osg::ColorComponentSettings::create());
-    const osg::Transform3DPtr projection = osg::Transform3D::create();
-    {
-        const nbEdit edit(projection, osg::FieldBits::AllFields);
-        projection->setTranslation(translation);
-        projection->setRotation(rotation);
-        projection->setScale(scale);
-    }
-    const nbEdit edit(settings.get(), osg::FieldBits::AllFields);
-    settings->setPlanarProjection(projection);
-    return settings;
-}
-
 void expectBox(const osg::NodePtr& node, const osg::Pnt3f& low, const osg::Pnt3f& high)
 {
     osg::DynamicVolume volume;
@@ -107,24 +75,6 @@ void expectBox(const osg::NodePtr& node, const osg::Pnt3f& low, const osg::Pnt3f
 }
 
 // == The tree
-
-TEST(nbPlanarProjectionVisualization, TreeGoesFromTheObjectToTheProjectionToThePlane)
-{
-    const nbPlanarProjectionVisualization visualization;
-    const osg::NodePtr root = visualization.getRootNode();
-
-    EXPECT_TRUE(nbNodeUtils::isAuxiliaryNode(root));
-    EXPECT_FALSE(nbNodeUtils::isManipulatorNode(root));
-    EXPECT_NE(osg::NullFC, osg::GroupPtr::dcast(root->getCore()));
-    EXPECT_EQ(root, visualization.getVisualizationNode()->getParent());
-    EXPECT_EQ(visualization.getVisualizationNode(),
-              visualization.getProjectionTransformNode()->getParent());
-    EXPECT_EQ(visualization.getProjectionTransformNode(),
-              visualization.get2DTransformNode()->getParent());
-    EXPECT_EQ(osg::Vec3f(0, 0, -1), transform3D(zExtentNode(visualization))->getTranslation());
-    expectBox(visualization.get2DTransformNode(), { -1, -1, 0 }, { 1, 1, 0 });
-    expectBox(root, { -1, -1, -1 }, { 1, 1, 0 });
-}
 
 TEST(nbPlanarProjectionVisualization, ShowsAndHidesAsAWholeAndTheZExtentAlone)
 {
@@ -166,12 +116,12 @@ TEST(nbPlanarProjectionVisualization, FollowsTheObjectAndTheProjection)
     const osg::NodePtr object = group({});
     const osg::NodeRefPtr scene(placed(object, osg::Vec3f(10, 0, 0)));
     // The quarter turn takes the projection's x to y; half of it is the orientation.
-    const osg::Quaternion half(osg::Vec3f(0, 0, 1), osg::Pi / 4);
-    const auto settings = makeSettings(osg::Vec3f(0, 5, 0), half, osg::Vec3f(2, 3, 4));
-    nbtest::edited(settings->getPlanarProjection())->setRotationOrientation(half);
+    rendertest::PictureMaterial picture;
+    picture.place(osg::Vec3f(0, 5, 0), osg::Vec3f(2, 3, 4), osg::Vec3f(0, 0, 45));
+    picture.setOrientation(osg::Pi / 4);
 
     visualization.attachToNode(object);
-    visualization.updateProjectionTransform(settings.get());
+    visualization.updateProjectionTransform(picture.settings.get());
     visualization.setScale(2, 3);
 
     expectBox(visualization.get2DTransformNode(), { 7, 3, 0 }, { 13, 7, 0 });
@@ -189,8 +139,9 @@ TEST(nbPlanarProjectionVisualization, FollowsTheObjectAndTheProjection)
 TEST(nbPlanarProjectionVisualization, WithoutAProjectionNothingMoves)
 {
     nbPlanarProjectionVisualization visualization;
-    const auto settings = makeSettings(osg::Vec3f(1, 2, 3), osg::Quaternion(), osg::Vec3f(2, 2, 2));
-    visualization.updateProjectionTransform(settings.get());
+    rendertest::PictureMaterial picture;
+    picture.place(osg::Vec3f(1, 2, 3), osg::Vec3f(2, 2, 2));
+    visualization.updateProjectionTransform(picture.settings.get());
     const osg::RefPtr<osg::ColorComponentSettingsPtr> empty(osg::ColorComponentSettings::create());
 
     visualization.updateProjectionTransform(empty.get());
@@ -317,9 +268,9 @@ TEST_F(PlanarProjectionPictureTest, ThePictureShowsThroughTheObjectWithItsRightW
 TEST_F(PlanarProjectionPictureTest, OutlineAndZExtentAreLinesThatCanBeSeenFromTheSide)
 {
     camera->setFromAtUp({ 10.f, 0.f, 0.f }, { 0.f, 0.f, 0.f }, { 0.f, 1.f, 0.f });
-    const auto settings =
-        makeSettings(osg::Vec3f(0, 0, 0), osg::Quaternion(), osg::Vec3f(1, 1, 1.5f));
-    visualization.updateProjectionTransform(settings.get());
+    rendertest::PictureMaterial projected;
+    projected.place(osg::Vec3f(0, 0, 0), osg::Vec3f(1, 1, 1.5f));
+    visualization.updateProjectionTransform(projected.settings.get());
 
     // From the side, x on the picture is -z: the extent goes from 0 to 1.5, its edge at y = 1.
     const auto edgeIsSeen = [](const QImage& picture) {

@@ -1,20 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/nbSceneplateManipulator.h"
 
+#include "manipulator/nbSceneplatePickTool.h"
 #include "tests/manipulator/support/DragTest.h"
 #include "tests/manipulator/support/MessageLog.h"
 #include "tests/manipulator/support/PlateScene.h"
 
+#include <nbInteraction/ToolInteractionContext.h>
 #include <nbKernel/nbController.h>
 #include <nbKernel/nbScenegraph.h>
+#include <nbKernelServices/nbUndoService.h>
 #include <nbNotification/NotificationManager.h>
+#include <nbSceneplateModule/nbSceneplateModule.h>
 
 #include <QtGui/QVector2D>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <cmath>
 
 namespace nbec::manipulator::test {
 namespace {
@@ -92,77 +93,6 @@ TEST_F(SceneplateManipulatorTest, HandlesStandAtTheFrameForEveryCameraAndViewSiz
     }
     scene.widget.resize(1000, 400);
     isHandleAt("grid", 150, 200);  // without an update
-}
-
-TEST_F(SceneplateManipulatorTest, FrameTurnsWithOnePlateAndEnclosesSeveral)
-{
-    const osg::NodePtr turned = select({ 200, 300, 100, 60, 90 });
-    isHandleAt("scaleXYLLShape", 230, 350);
-    isHandleAt("rotateShape", 200 - 30 - 32, 300);
-
-    const osg::NodePtr other = scene.addPlate({ 500, 300, 40, 40 });
-    scene.manipulator.setNodes({ turned, other });
-    isHandleAt("scaleXYLLShape", 170, 350);
-    isHandleAt("scaleXYURShape", 520, 250);
-}
-
-TEST_F(SceneplateManipulatorTest, HandlesAreHitByTheirNames)
-{
-    struct Row
-    {
-        const char* name;
-        osg::Vec2f from;  ///< of the place where the handle is grabbed
-        Mode mode;
-    };
-
-    select({ 400, 300, 200, 100 });
-    const Row rows[] = {
-        { "scaleXYLLShape", { 4, -4 }, Mode::ScaleLowerLeft },
-        { "scaleXYULShape", { -4, -4 }, Mode::ScaleUpperLeft },
-        { "scaleXYLRShape", { 0, 0 }, Mode::ScaleLowerRight },
-        { "scaleXYURShape", { 8, 0 }, Mode::ScaleUpperRight },
-        { "rotateShape", { 0, 0 }, Mode::Rotate },
-        { "rotateShape", { 0, 20 }, Mode::Rotate },
-        { "grid", { 30, 20 }, Mode::Move },
-        { "grid", { 103, 0 }, Mode::Move },
-        { "grid", { 120, 0 }, Mode::None },
-    };
-    for (const Row& row : rows) {
-        const bool isHit = scene.send("hover", scene.handlePx(row.name) + row.from);
-        EXPECT_EQ(scene.manipulator.getActiveMode(), row.mode) << row.name;
-        EXPECT_EQ(isHit, row.mode != Mode::None);
-        EXPECT_EQ(nbScenegraph::isPreselectionEnabled(), !isHit);
-    }
-}
-
-TEST_F(SceneplateManipulatorTest, MovingSendsTheDistanceFromTheStart)
-{
-    select({ 400, 300, 200, 100 });
-
-    EXPECT_TRUE(scene.drag(osg::Pnt2f(450, 310), osg::Vec2f(60, -30)));
-
-    EXPECT_FLOAT_EQ(last.offset.x(), 60.0F / 600);
-    EXPECT_FLOAT_EQ(last.offset.y(), 30.0F / 600) << "heights of the view, y up";
-    EXPECT_EQ(last.scaleFactor, 1.0F);
-    EXPECT_EQ(last.rotation, 0.0F);
-}
-
-TEST_F(SceneplateManipulatorTest, ScalingAboutTheOppositeCornerIsAFactorAndAnOffset)
-{
-    select({ 400, 300, 200, 100 });
-
-    EXPECT_TRUE(scene.drag("scaleXYURShape", osg::Vec2f(100, -50), false));
-    EXPECT_FLOAT_EQ(last.scaleFactor, 1.5F);
-    EXPECT_FLOAT_EQ(last.offset.x(), 50.0F / 600) << "the centre goes half as far";
-    EXPECT_FLOAT_EQ(last.offset.y(), 25.0F / 600);
-
-    scene.manager.selectMode("precisionTool");
-    EXPECT_TRUE(scene.send("process", scene.widget.getMousePosition()));
-    EXPECT_FLOAT_EQ(last.scaleFactor, 2.0F);
-    EXPECT_EQ(last.offset, QVector2D(0, 0));
-    scene.manager.selectMode("tool");
-    EXPECT_TRUE(scene.send("process", scene.widget.getMousePosition()));
-    EXPECT_FLOAT_EQ(last.scaleFactor, 1.5F);
 }
 
 TEST_F(SceneplateManipulatorTest, TurningSendsTheAngleCounterClockwiseBeyondAWholeTurn)
@@ -286,19 +216,6 @@ TEST_F(SceneplateManipulatorTest, OfSeveralPlatesTheRestGoesOn)
     isHandleAt("grid", 500, 300);
 }
 
-TEST_F(SceneplateManipulatorTest, OutOfUseItShowsAndFindsNothing)
-{
-    select({ 400, 300, 200, 100 });
-    scene.manipulator.deactivate(&scene.context);
-    scene.manipulator.update(true);
-    EXPECT_FALSE(scene.isHandleShown("grid"));
-    EXPECT_FALSE(scene.send("hover", osg::Pnt2f(400, 300)));
-    select({ 400, 300, 100, 100 });
-    EXPECT_FALSE(scene.isHandleShown("grid"));
-    scene.manipulator.activate(&scene.context);
-    EXPECT_TRUE(scene.isHandleShown("grid"));
-}
-
 TEST_F(SceneplateManipulatorTest, AReceiverMayTakeItOutOfUse)
 {
     select({ 400, 300, 200, 100 });
@@ -324,20 +241,144 @@ TEST_F(SceneplateManipulatorTest, ShowsTheValuesOfTheDrag)
     EXPECT_EQ(shownText(), "");
 }
 
-TEST_F(SceneplateManipulatorTest, HandleSizeFollowsTheSettingAndThePixelRatio)
-{
-    select({ 400, 300, 200, 100 });
-    nbSceneplateManipulator::setManipulatorSize(64.0F);
-    nbSceneplateManipulator::setManipulatorSize(-1.0F);
-    EXPECT_EQ(nbSceneplateManipulator::getManipulatorSize(), 64.0F);
-    scene.manipulator.update(false);
-    isHandleAt("rotateShape", 400, 250 - 64);
-    nbSceneplateManipulator::setManipulatorSize(32.0F);
+using testing::ElementsAre;
 
-    scene.picker.setPixelRatio(3.0F);
-    scene.send("hover", osg::Pnt2f(0, 0));
-    isHandleAt("rotateShape", 400, 250 - 96);
+/// How far a grabbed point may be from the pointer, pixels: plates are drawn on whole pixels.
+constexpr float kDrawnTolerancePx = 0.6F;
+
+struct View
+{
+    const char* name;
+    int widthPx;
+    int heightPx;
+};
+
+class SceneplateDragTest : public testing::TestWithParam<View>
+{
+protected:
+    SceneplateDragTest() { nbUndoService::the()->clear(); }
+
+    ~SceneplateDragTest() override { nbUndoService::the()->clear(); }
+
+    osg::NodePtr addPlate(const platetest::PlatePx& place) { return scene.addPlate(place); }
+
+    void select(const std::vector<osg::NodePtr>& nodes)
+    {
+        module.select(nodes, "select");
+        scene.manipulator.setNodes(module.getSelection());
+    }
+
+    void expectNear(const osg::Pnt2f& px, const osg::Pnt2f& expected, const char* what) const
+    {
+        EXPECT_NEAR(px.x(), expected.x(), kDrawnTolerancePx) << what;
+        EXPECT_NEAR(px.y(), expected.y(), kDrawnTolerancePx) << what;
+    }
+
+    void begin() { nbUndoService::the()->beginGroup("Drag"); }
+
+    void release()
+    {
+        scene.send("stop", scene.widget.getMousePosition());
+        nbUndoService::the()->endGroup();
+        scene.manipulator.update(false);
+    }
+
+    PlateScene scene { GetParam().widthPx, GetParam().heightPx };
+    nbSceneplateModule module;
+};
+
+TEST_P(SceneplateDragTest, CornersFollowAndTheOppositeOneStays)
+{
+    const std::tuple<const char*, float, float> rows[] = { { "scaleXYLLShape", -1, -1 },
+                                                           { "scaleXYULShape", -1, 1 },
+                                                           { "scaleXYLRShape", 1, -1 },
+                                                           { "scaleXYURShape", 1, 1 } };
+    for (const float rotation : { 0.0F, 40.0F, -170.0F }) {
+        for (const auto& [handle, alongX, alongY] : rows) {
+            const osg::NodePtr node = addPlate({ 200, 150, 120, 80, rotation });
+            select({ node });
+            const osg::Pnt2f fixed = exactCorner(node, scene.widget, -alongX, -alongY);
+            const osg::Pnt2f corner = exactCorner(node, scene.widget, alongX, alongY);
+            const osg::Vec2f pull = (corner - fixed) * 0.3F;
+            begin();
+            EXPECT_TRUE(scene.drag(handle, pull, false)) << handle << rotation;
+
+            expectNear(exactCorner(node, scene.widget, -alongX, -alongY), fixed, "fixed");
+            expectNear(exactCorner(node, scene.widget, alongX, alongY), corner + pull, handle);
+            expectNear(scene.handlePx(handle), corner + pull, "box");
+            EXPECT_NEAR(platetest::plateOf(node)->getScale(), 1.3F, 0.01F);
+
+            scene.manager.selectMode("precisionTool");
+            scene.send("process", scene.widget.getMousePosition());
+            expectNear(nbSceneplateLayout::centre(platetest::plateOf(node), scene.widget.getWidth(),
+                                                  scene.widget.getHeight()),
+                       osg::Pnt2f(200, 150), "centre");
+            scene.manager.selectMode("tool");
+            release();
+            nbScenegraph::getSceneplateRoot()->subChild(node);
+        }
+    }
 }
+
+TEST_P(SceneplateDragTest, SeveralPlatesAreOneBodyDuringTheDrag)
+{
+    const osg::NodePtr left = addPlate({ 120, 150, 60, 60 });
+    const osg::NodePtr right = addPlate({ 280, 150, 60, 60, 45 });
+    select({ left, right });
+    const osg::Pnt2f centre = scene.handlePx("grid");
+    const osg::Vec2f arm = scene.handlePx("rotateShape") - centre;
+    begin();
+    EXPECT_TRUE(scene.drag("rotateShape", osg::Vec2f(-arm.y(), arm.x()) - arm, false));
+
+    // A quarter turn clockwise takes what is on the left to the top.
+    const osg::Vec2f toLeft = osg::Pnt2f(120, 150) - centre;
+    expectNear(exactCorner(left, scene.widget, 0, 0), centre + osg::Vec2f(-toLeft.y(), toLeft.x()),
+               "left plate");
+    EXPECT_NEAR(platetest::plateOf(left)->getRotation(), -90.0F, 0.1F);
+    EXPECT_NEAR(platetest::plateOf(right)->getRotation(), -45.0F, 0.1F);
+    expectNear(scene.handlePx("grid"), centre, "the frame turns with them");
+    release();
+
+    const auto frame =
+        nbSceneplateLayout::frame({ platetest::plateOf(left), platetest::plateOf(right) },
+                                  scene.widget.getWidth(), scene.widget.getHeight());
+    expectNear(scene.handlePx("grid"), frame.centre, "upright again");
+    expectNear(scene.handlePx("scaleXYURShape"),
+               frame.centre + osg::Vec2f(frame.size.x() / 2, -frame.size.y() / 2), "upright again");
+}
+
+TEST_P(SceneplateDragTest, HandlesWinOverThePickToolWhichSelectsBesideThem)
+{
+    const osg::NodePtr left = addPlate({ 100, 150, 80, 80 });
+    const osg::NodePtr right = addPlate({ 250, 150, 80, 80 });
+    nbSceneplatePickTool tool;
+    interaction::Picker platePicker;
+    platePicker.setFilter(interaction::Picker::SceneplateFilter);
+    interaction::ToolInteractionContext toolContext;
+    toolContext.setPicker(&platePicker);
+    toolContext.setTool(&tool);
+    scene.manager.addContext(&toolContext);
+    module.addChangedCallback([this] { scene.manipulator.setNodes(module.getSelection()); });
+
+    scene.send("start", osg::Pnt2f(100, 150));
+    scene.send("stop", osg::Pnt2f(100, 150));
+    EXPECT_THAT(module.getSelection(), ElementsAre(left));
+    EXPECT_TRUE(scene.isHandleShown("grid"));
+    scene.send("start", osg::Pnt2f(250, 150), "toggle");
+    scene.send("stop", osg::Pnt2f(250, 150), "toggle");
+    EXPECT_THAT(module.getSelection(), ElementsAre(left, right));
+
+    const osg::Vec2f before = platetest::plateOf(left)->getPosition();
+    EXPECT_TRUE(scene.drag(osg::Pnt2f(100, 150), osg::Vec2f(10, 0)));
+    EXPECT_NE(platetest::plateOf(left)->getPosition(), before) << "the body is dragged";
+    EXPECT_THAT(module.getSelection(), ElementsAre(left, right));
+    scene.manager.removeContext(&toolContext);
+}
+
+INSTANTIATE_TEST_SUITE_P(Views, SceneplateDragTest,
+                         testing::Values(View { "wide", 800, 600 }, View { "small", 400, 300 },
+                                         View { "high", 401, 1023 }),
+                         [](const testing::TestParamInfo<View>& row) { return row.param.name; });
 
 }  // namespace
 }  // namespace nbec::manipulator::test

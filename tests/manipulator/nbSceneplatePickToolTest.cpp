@@ -13,9 +13,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <string>
-#include <vector>
-
 namespace {
 
 using nbec::interaction::InteractionEvent;
@@ -201,42 +198,20 @@ TEST_F(SceneplatePickToolTest, LeavingModeToolWithoutAReportKeepsReporting)
     EXPECT_TRUE(sendAt(kLeftPx, "hover"));
 }
 
-TEST_F(SceneplatePickToolTest, ClickSelectsThePlateUnderThePointer)
-{
-    EXPECT_TRUE(sendAt(kLeftPx, "start", "toggle"));
-    EXPECT_EQ(selections, 0) << "only the release selects";
-    EXPECT_TRUE(sendAt(kLeftPx, "stop", "toggle"));
-    EXPECT_THAT(selected, ElementsAre(left));
-    EXPECT_EQ(selectedHint, "toggle");
-
-    EXPECT_FALSE(sendAt(kNothingPx, "start"));
-    EXPECT_FALSE(sendAt(kNothingPx, "stop"));
-    EXPECT_THAT(selected, IsEmpty());
-    EXPECT_EQ(selectedHint, "select");
-    EXPECT_EQ(selections, 2) << "nothing is told as well";
-}
-
 TEST_F(SceneplatePickToolTest, DragsOfThreePixelsBothWaysSelectByRectangle)
 {
-    struct Row
-    {
-        const char* name;
-        osg::Vec2f drag;
-        bool isRectangle;
-    };
-
     // A drag by n pixels spans n + 1.
-    const Row rows[] = {
+    const std::tuple<const char*, osg::Vec2f, bool> rows[] = {
         { "2 x 10", osg::Vec2f(1, 9), false }, { "10 x 2", osg::Vec2f(9, 1), false },
         { "3 x 3", osg::Vec2f(2, 2), true },   { "3 x 3 up left", osg::Vec2f(-2, -2), true },
         { "40 x 3", osg::Vec2f(39, 2), true }, { "none", osg::Vec2f(0, 0), false }
     };
-    for (const Row& row : rows) {
-        EXPECT_TRUE(dragTo(kLeftPx, kLeftPx + row.drag)) << row.name;
-        EXPECT_EQ(widget.getRectSelection(), row.isRectangle) << row.name;
-        sendAt(kLeftPx + row.drag, "stop");
-        EXPECT_FALSE(widget.getRectSelection()) << row.name;
-        EXPECT_EQ(selected.size(), row.isRectangle ? 0U : 1U) << row.name;
+    for (const auto& [name, drag, isRectangle] : rows) {
+        EXPECT_TRUE(dragTo(kLeftPx, kLeftPx + drag)) << name;
+        EXPECT_EQ(widget.getRectSelection(), isRectangle) << name;
+        sendAt(kLeftPx + drag, "stop");
+        EXPECT_FALSE(widget.getRectSelection()) << name;
+        EXPECT_EQ(selected.size(), isRectangle ? 0U : 1U) << name;
     }
 }
 
@@ -286,17 +261,6 @@ TEST_F(SceneplatePickToolTest, WithoutPickerOrContextNothingIsToldAndTheRectangl
     EXPECT_TRUE(tool.preselectionActive);
     EXPECT_THAT(preselected, IsEmpty());
     EXPECT_EQ(selections, 0);
-}
-
-TEST_F(SceneplatePickToolTest, SceneplateIsFoundByItsIdAndType)
-{
-    EXPECT_EQ(tool.getSceneplate(), osg::NullFC);
-    tool.sceneplateId = left.getFieldContainerId();
-    EXPECT_EQ(tool.getSceneplate(), osg::NullFC) << "a node is no plate";
-    tool.sceneplateId = left->getCore().getFieldContainerId();
-    EXPECT_EQ(tool.getSceneplate(), left->getCore());
-    left->getParent()->subChild(left);
-    EXPECT_EQ(tool.getSceneplate(), osg::NullFC) << "it no longer exists";
 }
 
 }  // namespace

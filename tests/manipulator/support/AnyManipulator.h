@@ -1,11 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "manipulator/ManipulatorInteractionContext.h"
-#include "manipulator/TireProjectionManipulator.h"
-#include "manipulator/TriplanarTextureManipulator.h"
-#include "manipulator/UVTextureManipulator.h"
-#include "manipulator/UniversalTransformManipulator2.h"
 #include "tests/fuzz/Equipment.h"
 #include "tests/manipulator/support/DragTest.h"
 #include "tests/manipulator/support/MatchScene.h"
@@ -16,14 +11,7 @@
 #include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbUndoService.h>
 #include <nbNotification/NotificationManager.h>
-#include <nbOpenSGExt/Transform3D.h>
-#include <nbOpenSGUberCamera/UberCamera.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
-#include <nbUtils/nbLog.h>
-
-#include <OpenSG/OSGGeometry.h>
-
-#include <memory>
 
 namespace nbec::manipulator::test {
 

@@ -3,14 +3,9 @@
 
 #include "tests/manipulator/support/HandleDrag.h"
 
-#include <OpenSG/OSGVector.h>
-
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <ostream>
-#include <string>
-#include <vector>
 
 // What tests of handles share: names, sizes in the view of GizmoScene, and comparisons.
 namespace nbec::manipulator::test {

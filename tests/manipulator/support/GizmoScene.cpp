@@ -4,10 +4,8 @@
 #include "tests/platform/support/Edited.h"
 
 #include <nbKernel/nbScenegraph.h>
-#include <nbOpenSGUberCamera/UberCamera.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
-#include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGSimpleAttachments.h>
 #include <OpenSG/OSGSimpleGeometry.h>
 #include <OpenSG/OSGSimpleMaterial.h>

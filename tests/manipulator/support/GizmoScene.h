@@ -9,12 +9,6 @@
 #include <nbKernel/nbOSGWidget.h>
 #include <nbOpenSGExt/Transform3D.h>
 
-#include <OpenSG/OSGMatrix.h>
-#include <OpenSG/OSGNode.h>
-
-#include <string>
-#include <vector>
-
 namespace nbec::manipulator::test {
 
 /// A view of 800 x 600 device pixels without a window: eye at (0, 0, 10), looking along -z at the

@@ -12,8 +12,6 @@
 
 #include <OpenSG/OSGSimpleGeometry.h>
 
-#include <algorithm>
-
 namespace nbec::manipulator::test {
 
 // == HandleScene

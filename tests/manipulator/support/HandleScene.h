@@ -5,11 +5,6 @@
 #include "tests/manipulator/support/DragTest.h"
 #include "tests/manipulator/support/MessageLog.h"
 
-#include <nbOpenSGExt/Transform3D.h>
-
-#include <functional>
-#include <string>
-
 namespace nbec::manipulator::test {
 
 /// A scene with a manipulator that is dragged by its handles as by HandleDrag. The node of the

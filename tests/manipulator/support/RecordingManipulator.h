@@ -5,9 +5,6 @@
 
 #include <OpenSG/OSGGroup.h>
 
-#include <string>
-#include <vector>
-
 namespace nbec::manipulator::test {
 
 /// A manipulator with an empty visualisation that writes down which of its operations ran and

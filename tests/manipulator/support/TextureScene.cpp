@@ -3,8 +3,6 @@
 
 #include "tests/platform/support/Edited.h"
 
-#include <OpenSG/OSGGeometry.h>
-
 namespace nbec::manipulator::test {
 
 using Settings = osg::ColorComponentSettings;

@@ -8,9 +8,6 @@
 #include "tests/manipulator/support/HandleScene.h"
 
 #include <nbMaterialEditor/nbMaterialEditor.h>
-#include <nbOpenSGUberMaterial/UberMaterial.h>
-
-#include <memory>
 
 namespace nbec::manipulator::test {
 

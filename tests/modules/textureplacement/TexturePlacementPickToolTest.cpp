@@ -8,11 +8,7 @@
 #include <nbKernel/nbController.h>
 #include <nbOpenSGUberMaterial/nbStateChunkBase.h>
 
-#include <OpenSG/OSGSimpleMaterial.h>
-
 #include <gmock/gmock.h>
-
-#include <vector>
 
 namespace nbec::modules::textureplacement {
 namespace {
@@ -119,18 +115,16 @@ TEST_F(TexturePlacementPickToolTest, APressBesideEveryObjectSendsANullNode)
 
 TEST_F(TexturePlacementPickToolTest, HintsOfOthersAreRefusedAndZoomIsTakenForNothing)
 {
-    const struct
-    {
-        const char* hint;
-        bool taken;
-    } rows[] = { { "add", false },      { "zoom", true },    { "", false },
-                 { "selected", false }, { "selec", false },  { "zoomed", false },
-                 { "toggle", false },   { "Select", false }, { "selectThrough", false } };
+    const std::pair<const char*, bool> rows[] = {
+        { "add", false },      { "zoom", true },    { "", false },
+        { "selected", false }, { "selec", false },  { "zoomed", false },
+        { "toggle", false },   { "Select", false }, { "selectThrough", false }
+    };
 
-    for (const auto& row : rows) {
-        EXPECT_EQ(row.taken, tool.startTool(&context, row.hint)) << row.hint;
-        EXPECT_EQ(row.taken, tool.processTool(&context, row.hint)) << row.hint;
-        EXPECT_EQ(row.taken, tool.stopTool(&context, row.hint)) << row.hint;
+    for (const auto& [hint, taken] : rows) {
+        EXPECT_EQ(taken, tool.startTool(&context, hint)) << hint;
+        EXPECT_EQ(taken, tool.processTool(&context, hint)) << hint;
+        EXPECT_EQ(taken, tool.stopTool(&context, hint)) << hint;
     }
     EXPECT_THAT(sent, IsEmpty());
 }
@@ -172,17 +166,14 @@ TEST_F(TexturePlacementPickToolTest, DescriptionShowsTheHitUnlessThatIsSwitchedO
 
 TEST_F(TexturePlacementPickToolTest, OnlyTheModeToolShowsTheCrossHair)
 {
-    const struct
-    {
-        const char* mode;
-        Qt::CursorShape cursor;
-    } rows[] = { { "tool", Qt::CrossCursor }, { "toolbox", Qt::ArrowCursor },
-                 { "tool", Qt::CrossCursor }, { "too", Qt::ArrowCursor },
-                 { "tool", Qt::CrossCursor }, { "", Qt::ArrowCursor } };
+    const std::pair<const char*, Qt::CursorShape> rows[] = {
+        { "tool", Qt::CrossCursor }, { "toolbox", Qt::ArrowCursor }, { "tool", Qt::CrossCursor },
+        { "too", Qt::ArrowCursor },  { "tool", Qt::CrossCursor },    { "", Qt::ArrowCursor }
+    };
 
-    for (const auto& row : rows) {
-        EXPECT_TRUE(tool.setToolMode(&context, row.mode));
-        EXPECT_EQ(row.cursor, widget.getCursor()) << row.mode;
+    for (const auto& [mode, cursor] : rows) {
+        EXPECT_TRUE(tool.setToolMode(&context, mode));
+        EXPECT_EQ(cursor, widget.getCursor()) << mode;
     }
 }
 
