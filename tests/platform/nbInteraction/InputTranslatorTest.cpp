@@ -156,14 +156,7 @@ TEST_F(InputTranslatorTest, WhateverComesBetweenEndsTheDragOnce)
         mouse(QEvent::MouseButtonPress, 10, 20, button, Qt::LeftButton | button);
     };
 
-    struct Row
-    {
-        const char* name;
-        std::function<void()> input;
-        bool isTakenBack;
-    };
-
-    const Row rows[] = {
+    const std::tuple<const char*, std::function<void()>, bool> rows[] = {
         { "Esc", [&] { EXPECT_TRUE(key(QEvent::KeyPress, Qt::Key_Escape)); }, true },
         { "right button", [&] { second(Qt::RightButton); }, true },
         { "middle button", [&] { second(Qt::MiddleButton); }, false },
@@ -173,15 +166,15 @@ TEST_F(InputTranslatorTest, WhateverComesBetweenEndsTheDragOnce)
         { "grab", [&] { plain(QEvent::UngrabMouse); }, false },
         { "call", [&] { translator.interruptDrag(); }, false },
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto& [name, input, isTakenBack] : rows) {
+        SCOPED_TRACE(name);
         press(Qt::LeftButton, Qt::ShiftModifier);
         takeEvents();
 
-        row.input();
+        input();
 
         Calls expected { "a stop tool/add" };
-        if (row.isTakenBack) {
+        if (isTakenBack) {
             expected.push_back("taken back");
         }
         EXPECT_EQ(expected, takeEvents());

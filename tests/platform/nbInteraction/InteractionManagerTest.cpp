@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "tests/platform/nbInteraction/Recording.h"
 #include "tests/platform/support/LogLines.h"
+#include "tests/platform/support/VirtualSlot.h"
+
+#include <nbInteraction/AbstractInteractionTool.h>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <memory>
 #include <stdexcept>
@@ -102,27 +104,19 @@ TEST_F(InteractionManagerTest, TakerEndsTheDeliveryAndDisabledContextsAreLeftOut
 
 TEST_F(InteractionManagerTest, DragEndedFromHereIsStoppedOnceAndItsRestIsDropped)
 {
-    struct Row
-    {
-        const char* name;
-        std::function<void(InteractionManager&, std::unique_ptr<RecordingContext>&)> end;
-        std::vector<std::string> calls;
-    };
-
-    const Row rows[] = {
-        { "ended", [](auto& owner, auto&) { owner.endDrag(); }, { "a stop tool/toggle" } },
-        { "removed",
-          [](auto& owner, auto& context) { owner.removeContext(context.get()); },
-          { "a stop tool/toggle", "a removed" } },
-        { "disabled",
-          [](auto& owner, auto& context) { owner.setEnabled(context.get(), false); },
-          { "a stop tool/toggle", "a disabled" } },
-        { "destroyed",
-          [](auto&, auto& context) { context.reset(); },
-          { "a stop tool/toggle", "a removed" } },
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+    const std::tuple<const char*,
+                     std::function<void(InteractionManager&, std::unique_ptr<RecordingContext>&)>,
+                     std::vector<std::string>>
+        // clang-format off
+        rows[] = {
+            { "ended", [](auto& owner, auto&) { owner.endDrag(); }, { "a stop tool/toggle" } },
+            { "removed", [](auto& owner, auto& context) { owner.removeContext(context.get()); }, { "a stop tool/toggle", "a removed" } },
+            { "disabled", [](auto& owner, auto& context) { owner.setEnabled(context.get(), false); }, { "a stop tool/toggle", "a disabled" } },
+            { "destroyed", [](auto&, auto& context) { context.reset(); }, { "a stop tool/toggle", "a removed" } },
+        };
+    // clang-format on
+    for (const auto& [name, end, calls] : rows) {
+        SCOPED_TRACE(name);
         RecordingContext other(log, "other", Background);
         auto context =
             std::make_unique<RecordingContext>(log, "a", Tool, std::set<std::string> { "start" });
@@ -131,9 +125,9 @@ TEST_F(InteractionManagerTest, DragEndedFromHereIsStoppedOnceAndItsRestIsDropped
         send("start", "tool", "toggle");
         log.clear();
 
-        row.end(manager, context);
+        end(manager, context);
 
-        EXPECT_THAT(takeLog(log), testing::ElementsAreArray(row.calls));
+        EXPECT_THAT(takeLog(log), testing::ElementsAreArray(calls));
         EXPECT_FALSE(manager.isDragging());
         send("process", "tool", "toggle");
         send("stop", "tool", "toggle");
@@ -269,6 +263,28 @@ TEST_F(InteractionManagerTest, EitherSideMayDieFirst)
         EXPECT_EQ(nullptr, second.getInteractionManager());
     }
     EXPECT_THAT(manager.getContexts(), IsEmpty());
+}
+
+using nbtest::expectSlotsFrom;
+using nbtest::virtualSlot;
+
+TEST(InteractionContext, VirtualOperationsKeepTheirSlots)
+{
+    using Context = InteractionContext;
+    expectSlotsFrom(0, &Context::getInteractionManager, &Context::enabled, &Context::disabled,
+                    &Context::contextAdded, &Context::contextRemoved, &Context::contextRaised,
+                    &Context::contextLowered, &Context::pointerMoved, &Context::cameraMoved,
+                    &Context::triggerEvent, &Context::isRaised, &Context::isActive,
+                    &Context::isEnabled, &Context::getPreferredPosition, &Context::selectMode);
+}
+
+TEST(AbstractInteractionTool, VirtualOperationsKeepTheirSlots)
+{
+    using Tool = AbstractInteractionTool;
+    expectSlotsFrom(0, &Tool::setToolMode, &Tool::activateTool, &Tool::deactivateTool,
+                    &Tool::isActive, &Tool::startTool, &Tool::processTool, &Tool::stopTool,
+                    &Tool::triggerTool, &Tool::hoverTool, &Tool::stopHoverTool, &Tool::isPickHint);
+    EXPECT_EQ(-1, virtualSlot(&Tool::setDescription));
 }
 
 }  // namespace

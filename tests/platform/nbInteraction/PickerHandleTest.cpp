@@ -106,19 +106,6 @@ TEST_F(PickerHandles, SceneInFrontDoesNotHideAHandle)
     EXPECT_EQ(nameAt(400.0f, 300.0f), "handle");
 }
 
-TEST_F(PickerHandles, InactiveHandlesAreNotHit)
-{
-    const osg::NodePtr handle = named("handle", box(1.0f));
-    const osg::NodePtr parent = placed(0.0f, 0.0f, 0.0f, handle);
-    hang(collider, parent);
-    for (const osg::NodePtr& node : { handle, parent, collider, nbScenegraph::getInternalRoot() }) {
-        setActive(node, false);
-        EXPECT_EQ(nameAt(400.0f, 300.0f), "");
-        setActive(node, true);
-        EXPECT_EQ(nameAt(400.0f, 300.0f), "handle");
-    }
-}
-
 TEST_F(PickerHandles, WithoutPickNodeMarkedSubtreesAreTested)
 {
     const osg::NodePtr manipulator = placed(-2.0f, 0.0f, 0.0f, named("manipulator", box(1.0f)));

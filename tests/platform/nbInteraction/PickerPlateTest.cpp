@@ -72,6 +72,8 @@ TEST_F(PickerPlateTest, RectangleTakesPlatesThatLieInsideAsFarAsTheyAreInView)
     add("half out", { 0.f, 300.f, 100.f, 40.f });
     add("outside", { -200.f, 300.f, 100.f, 40.f });
     add("hidden", { 100.f, 100.f, 10.f, 10.f }, [](const auto& p) { p->setVisible(false); });
+    hang(nbScenegraph::getSceneplateRoot(),
+         placed(0.f, 0.f, 0.f, add("below a transform", { 300.f, 100.f, 40.f, 40.f })));
 
     EXPECT_THAT(namesIn(QRect(70, 60, 200, 80)), ElementsAre("left", "turned"));
     EXPECT_THAT(namesIn(QRect(QPoint(269, 139), QPoint(70, 60))), ElementsAre("left", "turned"))

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "tests/platform/support/Edited.h"
+
+#include <nbOpenSGExt/ClipPlane3D.h>
 
 #include <OpenSG/OSGIntersectAction.h>
 #include <OpenSG/OSGLine.h>
@@ -8,9 +9,7 @@
 
 #include <cmath>
 #include <limits>
-#include <memory>
 #include <random>
-#include <vector>
 
 #include "PickerTestSupport.h"
 
@@ -37,20 +36,6 @@ osg::Matrix turnedAndScaled(const osg::Vec3f& axis, float deg, const osg::Vec3f&
     osg::Matrix matrix;
     matrix.setTransform(osg::Vec3f(), turn, scale);
     return matrix;
-}
-
-TEST_F(PickerScene, OrthographicViewHasParallelRays)
-{
-    const osg::UberCameraPtr camera = widget.getUberCamera();
-    nbtest::edited(camera, osg::UberCamera::OrthographicFieldMask)->setOrthographic(true);
-    const osg::NodePtr cube = box(2.0f);
-    hang(scene, cube);
-
-    // 20 units high: 30 pixels per unit at every depth.
-    EXPECT_EQ(pickAt(429.0f, 271.0f), cube);
-    expectNear(picker.getHitPoint().subZero(), { 29.5f / 30.0f, 28.5f / 30.0f, 1.0f });
-    EXPECT_EQ(pickAt(430.0f, 300.0f), osg::NullFC);
-    EXPECT_EQ(pickAt(400.0f, 269.0f), osg::NullFC);
 }
 
 TEST_F(PickerScene, WhatIsNotSeenOrAuxiliaryIsPassedThrough)
@@ -324,6 +309,60 @@ TEST_F(PickerScene, RectangleTakesWhatLiesWhollyInside)
     EXPECT_EQ(picker.pickRectangle({ 400, 300, 0, 0 }), Nodes {});
     setActive(right, false);
     EXPECT_EQ(picker.pickRectangle({ 500, 200, 200, 200 }), Nodes {});
+}
+
+}  // namespace
+
+namespace {
+
+/// A plane whose frame is a transform node of its own; the half with x below the frame's origin is
+/// cut away.
+class PickerClipping : public PickerTest
+{
+protected:
+    PickerClipping()
+        : frame(placed(0.0f, 0.0f, 0.0f, osg::makeCoredNode<osg::Group>()))
+        , cut(osg::makeCoredNode<osg::ClipPlane3D>(&plane))
+    {
+        hang(nbScenegraph::getRootNode(), frame);
+        hang(nbScenegraph::getRootNode(), cut);
+        const nbEdit edit(plane, osg::FieldBits::AllFields);
+        plane->setEquation(osg::Vec4f(1.0f, 0.0f, 0.0f, 0.0f));
+        plane->setTransformNode(frame);
+    }
+
+    osg::NodePtr frame;
+    osg::ClipPlane3DPtr plane;
+    osg::NodePtr cut;
+};
+
+TEST_F(PickerClipping, SwitchedOffOrLiftedItCutsNothing)
+{
+    const osg::NodePtr cube = box(4.0f);
+    hang(cut, cube);
+    ASSERT_EQ(pickAt(380.0f, 300.0f), osg::NullFC);
+
+    nbtest::edited(plane, osg::ClipPlane3D::EnableFieldMask)->setEnable(false);
+    EXPECT_EQ(pickAt(380.0f, 300.0f), cube);
+    nbtest::edited(plane, osg::ClipPlane3D::EnableFieldMask)->setEnable(true);
+    EXPECT_EQ(pickAt(380.0f, 300.0f), osg::NullFC);
+    hang(nbScenegraph::getRootNode(), cube);
+    EXPECT_EQ(pickAt(380.0f, 300.0f), cube);
+}
+
+TEST_F(PickerClipping, ManyItemsAreCutAlike)
+{
+    std::vector<osg::NodePtr> cubes;
+    for (int i = -4; i <= 4; ++i) {
+        cubes.push_back(box(0.8f));
+        hang(cut, placed(static_cast<float>(i), 0.0f, 0.0f, cubes.back()));
+    }
+
+    EXPECT_EQ(pickAt(400.0f + 60.0f, 300.0f), cubes[6]);
+    EXPECT_EQ(pickAt(400.0f - 60.0f, 300.0f), osg::NullFC);
+
+    // A rectangle takes what is seen of them.
+    EXPECT_EQ(picker.pickRectangle(QRect(0, 0, 800, 600)).size(), 5U);
 }
 
 }  // namespace

@@ -318,23 +318,4 @@ TEST_F(nbdPerspectiveMatchTest, LinesStayInPlaceOrWithTheMiddleWhenTheViewChange
     EXPECT_LT(missDeg(), 0.01);
 }
 
-TEST_F(nbdPerspectiveMatchTest, SizingByTheWidthKeepsWhatIsSeenAcrossIt)
-{
-    EXPECT_TRUE(nbCameraUtils::getVerticalSizing(camera, 1600, 1000));
-    EXPECT_TRUE(nbCameraUtils::getVerticalSizing(osg::NullFC, 1, 1));
-    nbtest::edited(camera, osg::UberCamera::HorizontalSizingFieldMask)->setHorizontalSizing(true);
-    EXPECT_FALSE(nbCameraUtils::getVerticalSizing(camera, 1600, 1000));
-    const float right = camera->getRight() / camera->getNear();
-    widget->resize(1600, 400);
-    EXPECT_NEAR(camera->getRight() / camera->getNear(), right, 1e-5);
-
-    photographed.fovDeg = camera->getFov();
-    node.layLinesAsSeen();
-    EXPECT_LT(match.getXLine1().y1(), 0.25);
-    stepAside();
-    EXPECT_EQ(node.updateFromPerspectiveMatch(), nbCameraTypes::Solved);
-    EXPECT_NEAR(camera->getFov(), photographed.fovDeg, 0.01);
-    EXPECT_LT(missDeg(), 0.01);
-}
-
 }  // namespace

@@ -2,8 +2,6 @@
 #include "tests/platform/nbMaterialEditor/EditorTest.h"
 #include "tests/platform/support/Edited.h"
 
-#include <nbOpenSGUtils/nbEdit.h>
-
 using namespace editortest;
 
 namespace {
@@ -177,30 +175,4 @@ TEST_F(TextureValuesTest, SwitchingTheProjectionFitsWhatWasNeverUsed)
     EXPECT_TRUE(editor->getProjection() != osg::NullFC);
     material->setComponentSettings(kDiffuse, osg::NullFC);
     EXPECT_FALSE(editor->setTextureProjectionType(Settings::UVProjection)) << "no settings";
-}
-
-TEST_F(TextureValuesTest, ValuesAreWrittenWithUndoUnlessTheyAreUnsound)
-{
-    nbTextureValues wanted;
-    wanted.offset = osg::Vec2f(1.f, 2.f);
-    wanted.triplanarRotation = osg::Vec3f(1.f, 2.f, 3.f);
-    wanted.tireScaleU = 0.5f;
-    wanted.tireAutoParameter = false;
-    ASSERT_TRUE(editor->setTextureValues(wanted));
-    EXPECT_EQ(values(), wanted);
-    nbTextureValues unsound = wanted;
-    unsound.repeat[1] = 0.f;
-    EXPECT_FALSE(editor->setTextureValues(unsound));
-    unsound = wanted;
-    unsound.triplanarOffsetV[2] = kNaN;
-    EXPECT_FALSE(editor->setTextureValues(unsound));
-    EXPECT_EQ(values(), wanted);
-    EXPECT_EQ(steps(), 1);
-
-    wanted.tireAutoParameter = true;
-    wanted.tireScaleRadius = 17.f;
-    ASSERT_TRUE(editor->setTextureValues(wanted));
-    EXPECT_EQ(values().tireScaleRadius, 1.f) << "fitted";
-    while (undo->undo()) { }
-    EXPECT_EQ(values(), nbTextureValues());
 }

@@ -3,7 +3,6 @@
 #include "tests/platform/support/Edited.h"
 
 #include <nbMaterialEditor/nbMaterialPreview.h>
-#include <nbOpenSGUtils/nbEdit.h>
 
 #include <cmath>
 
@@ -251,35 +250,6 @@ TEST_F(nbMaterialEditorTest, APictureForAPlainComponentGetsAFittingProjection)
     ASSERT_TRUE(undo->redo());
     expectNear(editor->getProjection()->getScale(), { 0.5f, 0.25f, 0.5f }, "again");
     EXPECT_TRUE(material->getImage(kDiffuse) == image.get());
-}
-
-TEST_F(nbMaterialEditorTest, SettingsAreEditedWithUndo)
-{
-    const osg::RefPtr<osg::ImagePtr> image(osg::Image::create());
-    image->set(osg::Image::OSG_RGB_PF, 20, 10);
-    material->setImage(kDiffuse, image.get());
-
-    EXPECT_TRUE(editor->setFlags(Settings::KeepAspectRatio | Settings::RepeatU));
-    expectNear(projection()->getScale(), { 1.f, 0.5f, 1.f }, "square pixels");
-    EXPECT_TRUE(editor->setCoverage(true, true));
-    EXPECT_TRUE(settings->getAsMask() && settings->getInvert());
-    EXPECT_TRUE(editor->setImage(osg::NullFC));
-    EXPECT_EQ(steps(), 3);
-    EXPECT_TRUE(editor->setCoverage(true, true));
-    EXPECT_TRUE(editor->setImage(osg::NullFC));
-    EXPECT_EQ(steps(), 3) << "nothing new";
-
-    nbTransformState state = nbTransformState::of(*projection());
-    state.translation = osg::Vec3f(1.f, 2.f, 3.f);
-    EXPECT_TRUE(editor->setProjection(state));
-    state.scale[1] = kNaN;
-    EXPECT_FALSE(editor->setProjection(state));
-    EXPECT_EQ(projection()->getTranslation(), osg::Vec3f(1.f, 2.f, 3.f));
-    while (undo->undo()) { }
-    EXPECT_EQ(settings->getPlanarProjectionFlags(), 0u);
-    EXPECT_FALSE(settings->getAsMask() || settings->getInvert());
-    EXPECT_TRUE(material->getImage(kDiffuse) == image.get());
-    expectNear(projection()->getScale(), { 1.f, 1.f, 1.f }, "as at the start");
 }
 
 // == The preview

@@ -1,47 +1,27 @@
 // SPDX-License-Identifier: MIT
-#include <nbOpenSGRenderAction/ItemList.h>
-#include <nbOpenSGUtils/nbEdit.h>
+#include "tests/platform/support/RenderTest.h"
 
-#include <OpenSG/OSGGroup.h>
-#include <OpenSG/OSGSimpleGeometry.h>
-#include <OpenSG/OSGSimpleMaterial.h>
+#include <nbOpenSGRenderAction/ItemList.h>
+
 #include <OpenSG/OSGSwitch.h>
 
 #include <gtest/gtest.h>
-
-#include <vector>
 
 using nbrender::ItemList;
 
 namespace {
 
-osg::SimpleMaterialPtr material(osg::Int32 key, float transparency = 0.f)
+osg::NodePtr keyed(int key)
 {
-    const osg::SimpleMaterialPtr result = osg::SimpleMaterial::create();
-    const nbEdit edit(result, osg::FieldBits::AllFields);
-    result->setSortKey(key);
-    result->setTransparency(transparency);
-    result->setDiffuse(osg::Color3f(1.f, 0.f, 0.f));
-    return result;
+    return rendertest::square(1.f, rendertest::unlit(rendertest::kRed, key));
 }
 
-osg::NodePtr box(const osg::MaterialPtr& look)
+osg::NodePtr chosen(osg::Int32 choice, const std::vector<osg::NodePtr>& children)
 {
-    const osg::NodePtr node = osg::makeBox(1.f, 1.f, 1.f, 1, 1, 1);
-    const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(node->getCore());
-    const nbEdit edit(geometry, osg::Geometry::MaterialFieldMask);
-    geometry->setMaterial(look);
-    return node;
-}
-
-template <class Core>
-osg::NodePtr over(const std::vector<osg::NodePtr>& children)
-{
-    const osg::NodePtr node = osg::makeCoredNode<Core>();
-    const nbEdit edit(node, osg::Node::ChildrenFieldMask);
-    for (const osg::NodePtr& child : children) {
-        node->addChild(child);
-    }
+    const osg::SwitchPtr core = osg::Switch::create();
+    core->setChoice(choice);
+    const osg::NodePtr node = rendertest::group(children);
+    node->setCore(core);
     return node;
 }
 
@@ -58,16 +38,15 @@ std::vector<osg::Int32> keysInOrder(ItemList& list)
 
 TEST(nbItemList, HiddenPartsAreLeftOut)
 {
-    const osg::NodePtr hidden = box(material(1));
+    const osg::NodePtr hidden = keyed(1);
     hidden->setActive(false);
-    const osg::NodePtr masked = box(material(7));
+    const osg::NodePtr masked = keyed(7);
     masked->setTravMask(4);
-    const osg::NodePtr choice = over<osg::Switch>({ box(material(2)), box(material(3)) });
-    osg::SwitchPtr::dcast(choice->getCore())->setChoice(1);
-    const osg::NodePtr none = over<osg::Switch>({ box(material(4)) });
-    const osg::NodePtr all = over<osg::Switch>({ box(material(5)), box(material(6)) });
-    osg::SwitchPtr::dcast(all->getCore())->setChoice(osg::Switch::ALL);
-    const osg::NodeRefPtr root(over<osg::Group>({ hidden, masked, choice, none, all }));
+    const osg::NodeRefPtr root(
+        rendertest::group({ hidden, masked, chosen(1, { keyed(2), keyed(3) }),
+                            chosen(osg::Switch::NONE, { keyed(4) }),
+                            chosen(osg::Switch::ALL, { keyed(5), keyed(6) }) }));
+
     ItemList list;
     list.update(root);
 

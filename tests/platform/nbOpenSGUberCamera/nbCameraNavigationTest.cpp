@@ -147,14 +147,7 @@ TEST(nbCameraNavigation, FrameFillsTheViewUpToItsMargin)
     // tan(fov / 2) is 1: the near corner at z = 1 plus its height 1, times 1.1.
     const Vec3f cube(1.f, 1.f, 1.f);
 
-    const struct
-    {
-        const char* name;
-        bool orthographic;
-        float aspect;
-        Vec3f halfSize;
-        float distance;
-    } rows[] = {
+    const std::tuple<const char*, bool, float, Vec3f, float> rows[] = {
         { "cube", false, 1.f, cube, 2.2f },
         { "cube in a wide view", false, 3.f, cube, 2.2f },
         { "cube in a narrow view", false, 0.5f, cube, 3.3f },
@@ -166,14 +159,14 @@ TEST(nbCameraNavigation, FrameFillsTheViewUpToItsMargin)
     };
 
     const Pnt3f centre(3.f, -4.f, 5.f);
-    for (const auto& row : rows) {
+    for (const auto& [name, orthographic, aspect, halfSize, distance] : rows) {
         CameraPose pose = frontPose();
-        pose.orthographic = row.orthographic;
+        pose.orthographic = orthographic;
         const CameraPose framed =
-            Navigation::frame(pose, centre - row.halfSize, centre + row.halfSize, row.aspect);
-        EXPECT_TRUE(isNear(framed.at, centre)) << row.name;
-        EXPECT_TRUE(isNear(framed.pivot, centre)) << row.name;
-        EXPECT_TRUE(isNear(framed.from, centre + kZ * row.distance)) << row.name;
+            Navigation::frame(pose, centre - halfSize, centre + halfSize, aspect);
+        EXPECT_TRUE(isNear(framed.at, centre)) << name;
+        EXPECT_TRUE(isNear(framed.pivot, centre)) << name;
+        EXPECT_TRUE(isNear(framed.from, centre + kZ * distance)) << name;
     }
 }
 
@@ -183,13 +176,7 @@ TEST(nbCameraNavigation, StandardViews)
     const Vec3f cornerZUp = (kX - kY) * std::sqrt(0.5f);
     const float cosine = std::sqrt(0.75f);  // of 30 degrees
 
-    const struct
-    {
-        const char* name;
-        View view;
-        bool zUp;
-        Vec3f back, up;
-    } rows[] = {
+    const std::tuple<const char*, View, bool, Vec3f, Vec3f> rows[] = {
         { "front", View::Front, false, kZ, kY },
         { "back", View::Back, false, -kZ, kY },
         { "right", View::Right, false, kX, kY },
@@ -205,15 +192,15 @@ TEST(nbCameraNavigation, StandardViews)
           kZ * cosine - cornerZUp * 0.5f },
     };
 
-    for (const auto& row : rows) {
+    for (const auto& [name, view, zUp, back, up] : rows) {
         CameraPose pose = frontPose();
-        pose.zUp = row.zUp;
+        pose.zUp = zUp;
         pose.pivot = Pnt3f(1.f, 2.f, 10.f);  // sqrt(5) from the eye
-        const CameraPose moved = Navigation::standardView(pose, row.view);
+        const CameraPose moved = Navigation::standardView(pose, view);
         const Navigation::Axes axes = Navigation::axes(moved);
-        EXPECT_TRUE(isNear(moved.from, pose.pivot + row.back * std::sqrt(5.f))) << row.name;
-        EXPECT_TRUE(axes.back.equals(row.back, kTolerance)) << row.name << ": " << axes.back;
-        EXPECT_TRUE(axes.up.equals(row.up, kTolerance)) << row.name << ": " << axes.up;
+        EXPECT_TRUE(isNear(moved.from, pose.pivot + back * std::sqrt(5.f))) << name;
+        EXPECT_TRUE(axes.back.equals(back, kTolerance)) << name << ": " << axes.back;
+        EXPECT_TRUE(axes.up.equals(up, kTolerance)) << name << ": " << axes.up;
     }
 }
 

@@ -2,14 +2,12 @@
 #include "tests/platform/support/Edited.h"
 
 #include <nbOpenSGExt/Transform3D.h>
-#include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <OpenSG/OSGComponentTransform.h>
 #include <OpenSG/OSGGroup.h>
 #include <OpenSG/OSGNodePtr.h>
 #include <OpenSG/OSGSimpleGeometry.h>
-#include <OpenSG/OSGTransform.h>
 
 #include <gtest/gtest.h>
 
@@ -85,23 +83,17 @@ TEST_F(ConversionTest, TransformWithoutShearBecomesOneTransform3D)
 
 TEST_F(ConversionTest, MirrorFlatAndShearKeepThePlaceOfTheChildren)
 {
-    struct Row
-    {
-        const char* name;
-        osg::Matrix matrix;
-    };
-
-    const Row rows[] = {
+    const std::pair<const char*, osg::Matrix> rows[] = {
         { "mirror in y", osg::Matrix(1, 0, 0, 4, 0, -2, 0, 5, 0, 0, 3, 6, 0, 0, 0, 1) },
         { "flat in x", osg::Matrix(0, 0, 0, 4, 0, 2, 0, 5, 0, 0, 3, 6, 0, 0, 0, 1) },
         { "all in one point", osg::Matrix(0, 0, 0, 4, 0, 0, 0, 5, 0, 0, 0, 6, 0, 0, 0, 1) },
         { "two columns alike", osg::Matrix(1, 1, 0, 4, 0, 0, 2, 5, 0, 0, 0, 6, 0, 0, 0, 1) },
         { "shear", osg::Matrix(1, .5, .25, 4, 0, 2, .75, 5, 0, 0, -3, 6, 0, 0, 0, 1) },
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto& [name, matrix] : rows) {
+        SCOPED_TRACE(name);
         SetUp();
-        setMatrix(row.matrix);
+        setMatrix(matrix);
 
         convertAndCompare();
 

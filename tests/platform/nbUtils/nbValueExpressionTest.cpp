@@ -12,12 +12,7 @@ using Fault = nbValueExpression::Fault;
 
 TEST(nbValueExpression, TextsAPersonTypes)
 {
-    const struct
-    {
-        const char* text;
-        Measure measure;
-        double value;
-    } rows[] = {
+    const std::tuple<const char*, Measure, double> rows[] = {
         { "1,5", Measure::Number, 1.5 },
         { " -.5 ", Measure::Number, -0.5 },
         { "2*1.5", Measure::Number, 3.0 },
@@ -31,22 +26,16 @@ TEST(nbValueExpression, TextsAPersonTypes)
         { "-45\u00b0", Measure::Angle, -45.0 },
     };
 
-    for (const auto& row : rows) {
-        const nbValueExpression found = nbValueExpression::evaluate(row.text, row.measure);
-        EXPECT_EQ(found.fault, Fault::None) << row.text;
-        EXPECT_NEAR(found.value, row.value, 1e-12) << row.text;
+    for (const auto& [text, measure, value] : rows) {
+        const nbValueExpression found = nbValueExpression::evaluate(text, measure);
+        EXPECT_EQ(found.fault, Fault::None) << text;
+        EXPECT_NEAR(found.value, value, 1e-12) << text;
     }
 }
 
 TEST(nbValueExpression, WhatIsNoValueIsRefusedWhereItGoesWrong)
 {
-    const struct
-    {
-        std::string text;
-        Measure measure;
-        Fault fault;
-        std::size_t place;
-    } rows[] = {
+    const std::tuple<std::string, Measure, Fault, std::size_t> rows[] = {
         { "", Measure::Number, Fault::NotUnderstood, 0 },
         { "1.234,5", Measure::Number, Fault::NotUnderstood, 5 },
         { "1 000", Measure::Number, Fault::NotUnderstood, 2 },
@@ -63,11 +52,11 @@ TEST(nbValueExpression, WhatIsNoValueIsRefusedWhereItGoesWrong)
         { std::string(100000, '('), Measure::Number, Fault::NotUnderstood, 33 },
     };
 
-    for (const auto& row : rows) {
-        const nbValueExpression found = nbValueExpression::evaluate(row.text, row.measure);
-        EXPECT_EQ(found.fault, row.fault) << row.text.substr(0, 20);
-        EXPECT_EQ(found.place, row.place) << row.text.substr(0, 20);
-        EXPECT_EQ(found.value, 0.0) << row.text.substr(0, 20);
+    for (const auto& [text, measure, fault, place] : rows) {
+        const nbValueExpression found = nbValueExpression::evaluate(text, measure);
+        EXPECT_EQ(found.fault, fault) << text.substr(0, 20);
+        EXPECT_EQ(found.place, place) << text.substr(0, 20);
+        EXPECT_EQ(found.value, 0.0) << text.substr(0, 20);
     }
 }
 
