@@ -2,7 +2,6 @@
 #include "viewer/commands/Commands.h"
 
 #include "tests/viewer/support/StageTest.h"
-#include "viewer/replay/SessionChecks.h"
 #include "viewer/stage/StageTool.h"
 
 namespace viewer {
@@ -52,72 +51,9 @@ TEST(Commands, NumbersAreNearWithinTheToleranceWhereverTheyStand)
     EXPECT_FALSE(isNear(QJsonValue("1"), 1, 1.0));
 }
 
-/// Writes down what the stage tells it.
-class RecordingTool : public StageTool
-{
-public:
-    const char* name() const override { return "recording"; }
+using Checkpoints = StageTest;
 
-    void activate() override { log.append("activate"); }
-
-    void deactivate() override { log.append("deactivate"); }
-
-    void sceneCleared() override { log.append("cleared"); }
-
-    void selectionChanged() override { log.append("selection"); }
-
-    void viewChanged() override { log.append("view"); }
-
-    std::string handleAt(const osg::Pnt2f&) override { return "knob"; }
-
-    QStringList log;
-};
-
-class StageToolTest : public StageTest
-{
-protected:
-    StageToolTest()
-    {
-        stage.addTool(tool);
-        tool.log.clear();
-    }
-
-    ~StageToolTest() override { stage.removeTool(tool); }
-
-    RecordingTool tool;
-};
-
-TEST_F(StageToolTest, AToolTakesThePlaceOfTheGizmoAndGivesItBack)
-{
-    stage.showGizmo(Gizmo::Scale);
-
-    EXPECT_TRUE(stage.showManipulator("recording"));
-    EXPECT_EQ(stage.gizmo().shown(), Gizmo::None);
-    EXPECT_EQ(stage.manipulatorName(), "recording");
-    EXPECT_EQ(stage.handleAt({ 0.0F, 0.0F }), "knob");
-    stage.setActiveTool(nullptr);
-
-    EXPECT_EQ(stage.gizmo().shown(), Gizmo::Scale);
-    EXPECT_EQ(tool.log, (QStringList { "activate", "deactivate" }));
-    EXPECT_FALSE(stage.showManipulator("nonsense"));
-    EXPECT_EQ(stage.manipulatorName(), "scale");
-
-    stage.setActiveTool(&tool);
-    stage.showGizmo(Gizmo::Rotate);
-    EXPECT_EQ(stage.activeTool(), nullptr);
-    EXPECT_EQ(stage.manipulatorName(), "rotate");
-}
-
-TEST_F(StageToolTest, AToolHearsOfSelectionViewAndEndOfTheScene)
-{
-    stage.select(osg::NullFC);
-    stage.resize(320, 240, 1.0F);
-    stage.clear();
-
-    EXPECT_EQ(tool.log, (QStringList { "selection", "view", "cleared" }));
-}
-
-TEST_F(StageToolTest, ACheckpointComparesNamedValues)
+TEST_F(Checkpoints, CompareNamedValues)
 {
     stage.commands().addValue("match.fov", [] { return QJsonValue(45.02); });
     SessionStep checkpoint;

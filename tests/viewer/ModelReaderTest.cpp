@@ -116,14 +116,8 @@ TEST_F(ModelReaderTest, BrokenFilesGiveOneLineWithTheirName)
 {
     write("lines.mtl", "");
 
-    struct Row
-    {
-        const char* name;
-        QByteArray bytes;
-    };
-
     const QByteArray noise(400, '\x91');
-    const Row rows[] = {
+    const std::pair<const char*, QByteArray> rows[] = {
         { "empty.obj", "" },
         { "noise.obj", noise },
         { "wild.obj", "v 0 0 0\nv 1 0 0\nv 0 1 0\nf 1 2 900\n" },
@@ -140,12 +134,12 @@ TEST_F(ModelReaderTest, BrokenFilesGiveOneLineWithTheirName)
         { "noise.png", noise },
         { "unknown.xyz123", noise },
     };
-    for (const Row& row : rows) {
+    for (const auto& [name, bytes] : rows) {
         error.clear();
 
-        EXPECT_FALSE(reader.read(write(row.name, row.bytes), {}, error)) << row.name;
+        EXPECT_FALSE(reader.read(write(name, bytes), {}, error)) << name;
 
-        EXPECT_TRUE(error.startsWith(folder.filePath(row.name) + ": ")) << error.toStdString();
+        EXPECT_TRUE(error.startsWith(folder.filePath(name) + ": ")) << error.toStdString();
         EXPECT_FALSE(error.contains('\n'));
     }
     EXPECT_FALSE(reader.read(folder.filePath("none.obj"), {}, error));

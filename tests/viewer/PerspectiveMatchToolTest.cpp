@@ -5,14 +5,11 @@
 #include "viewer/match/PerspectiveMatchCommands.h"
 
 #include <nbMagnifier/nbMagnifierRenderer.h>
-#include <nbOpenSGUberViewport/UberViewport.h>
 
-#include <QImage>
 #include <QTemporaryDir>
 
 #include <algorithm>
 #include <cmath>
-#include <string>
 
 namespace viewer {
 namespace {
@@ -47,20 +44,6 @@ protected:
 
     PerspectiveMatchTool tool;
 };
-
-TEST_F(PerspectiveMatchToolTest, TheLinesBeginWhereTheCameraSeesThem)
-{
-    const CameraPose before = stage.pose();
-
-    ASSERT_TRUE(run("match.setActive", true));
-    ASSERT_TRUE(run("match.solve"));
-
-    EXPECT_EQ(stage.manipulatorName(), "match");
-    EXPECT_LT(stage.pose().from.dist(before.from), 1e-3F);
-    EXPECT_NEAR(stage.pose().fovDeg, before.fovDeg, 1e-3F);
-    ASSERT_TRUE(run("match.setActive", false));
-    EXPECT_EQ(stage.manipulatorName(), "universal");
-}
 
 TEST_F(PerspectiveMatchToolTest, ADragIsOneStepAndMovesOneEndAndTheCamera)
 {

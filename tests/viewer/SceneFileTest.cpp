@@ -6,20 +6,13 @@
 #include "viewer/loading/BuiltModel.h"
 #include "viewer/loading/PictureFile.h"
 #include "viewer/scenes/Recovery.h"
-#include "viewer/scenes/SceneDocument.h"
 #include "viewer/textures/SurfaceMaterial.h"
 
-#include <nbKernel/nbScenegraph.h>
-#include <nbKernelServices/nbScopedUndo.h>
-#include <nbOpenSGUtils/nbNodeUtils.h>
-
-#include <QDir>
 #include <QJsonDocument>
 
 #include <csignal>
 #include <cstring>
 #include <limits>
-#include <random>
 
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -216,14 +209,8 @@ TEST_F(SceneFile, ModelsOfOneFileShareWhatIsNotEdited)
 
 TEST_F(SceneFile, ARefusedFileNamesThePlaceAndLeavesTheSceneAsItIs)
 {
-    struct Row
-    {
-        const char* part;  ///< of the sound scene
-        const char* instead;
-        const char* message;
-    };
-
-    const Row rows[] = {
+    // part: of the sound scene
+    const std::tuple<const char*, const char*, const char*> rows[] = {
         { "\"camera\"", "\"camera", "line 2, column" },
         { "\"scene\": 1", "\"scene\": 2", "scene: expected 1, the version of the format" },
         { "\"fov\": 40", "\"fov\": 1e39", "camera.fov: expected a number" },
@@ -265,17 +252,17 @@ TEST_F(SceneFile, ARefusedFileNamesThePlaceAndLeavesTheSceneAsItIs)
     const osg::NodePtr vase = stage.selectedObject();
     const QByteArray before = text();
     const QString path = fileIn("broken.nbscene");
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.message);
+    for (const auto& [part, instead, message] : rows) {
+        SCOPED_TRACE(message);
         QByteArray broken = richScene();
-        const int at = broken.indexOf(row.part);
+        const int at = broken.indexOf(part);
         ASSERT_GE(at, 0);
-        write(path, broken.replace(at, static_cast<int>(std::strlen(row.part)), row.instead));
+        write(path, broken.replace(at, static_cast<int>(std::strlen(part)), instead));
 
         EXPECT_FALSE(openScene(stage, path, error));
 
         EXPECT_TRUE(error.startsWith(path + ": ")) << error.toStdString();
-        EXPECT_TRUE(error.contains(row.message)) << error.toStdString();
+        EXPECT_TRUE(error.contains(message)) << error.toStdString();
         EXPECT_FALSE(error.contains('\n'));
         EXPECT_EQ(text(), before);
         EXPECT_EQ(stage.selectedObject(), vase);
@@ -384,16 +371,6 @@ TEST_F(SceneFile, WhatAKilledProgramKeptIsTakenUpOnceAndThatOfARunningOneNever)
         EXPECT_FALSE(recovery.find()) << "once";
     }
     EXPECT_EQ(kept.entryList(QDir::Files), QStringList()) << "this one ended regularly";
-}
-
-TEST_F(SceneFile, AFolderThatCannotBeWrittenGivesOneLine)
-{
-    for (const QString& path :
-         { fileIn("absent/scene.nbscene"), folder.path(), QStringLiteral("/proc/scene.nbscene") }) {
-        EXPECT_FALSE(saveScene(stage, path, error)) << path.toStdString();
-        EXPECT_TRUE(error.startsWith(path + ": ")) << error.toStdString();
-        EXPECT_FALSE(error.contains('\n'));
-    }
 }
 
 }  // namespace

@@ -11,71 +11,40 @@ QByteArray withSteps(const char* steps)
     return QByteArray(R"({"session": 1, "size": [640, 480], "steps": [)") + steps + "]}";
 }
 
-TEST(Session, SurvivesWritingAndReading)
+TEST(Session, IsReadAsItWasWritten)
 {
-    Session session;
-    session.sizePx = { 801, 603 };
-    session.camera.emplace();
-    session.camera->from = { 1.5, -2.25, 3.0 };
-    session.camera->pivot = std::array<double, 3> { 0.5, 0.0, 0.0 };
-    session.camera->orthographic = true;
-    session.selection = "Knot";
-    session.manipulator = "universal";
-    SessionStep press;
-    press.type = SessionStep::Type::Press;
-    press.button = Qt::RightButton;
-    press.modifiers = Qt::ShiftModifier | Qt::ControlModifier;
-    press.at = { SessionTarget::Kind::Handle, "xaShape", {}, { 2.5, -1.0 } };
-    SessionStep wheel;
-    wheel.type = SessionStep::Type::Wheel;
-    wheel.wheelDelta = -240;
-    wheel.afterMs = 40;
-    wheel.at = { SessionTarget::Kind::World, {}, { 1.0, 2.0, 3.0 }, {} };
-    SessionStep checkpoint;
-    checkpoint.type = SessionStep::Type::Checkpoint;
-    checkpoint.name = "over x";
-    checkpoint.screenshot = true;
-    checkpoint.expectation.hover = "xaShape";
-    checkpoint.expectation.orthographic = false;
-    checkpoint.expectation.undoSteps = 2;
-    checkpoint.expectation.nodes.resize(1);
-    checkpoint.expectation.nodes[0].node = "Knot";
-    checkpoint.expectation.nodes[0].rotationDeg = std::array<double, 3> { 0.0, 45.0, -1.5 };
-    SessionStep move;
-    move.at = { SessionTarget::Kind::Pointer, {}, {}, { 3.0, -4.5 } };
-    SessionStep command;
-    command.type = SessionStep::Type::Command;
-    command.name = "plates.addText";
-    command.value = QJsonObject { { "text", "Title" }, { "size", 0.25 } };
-    checkpoint.expectation.values = QJsonObject { { "plates.count", 1 } };
-    checkpoint.expectation.tolerance = 0.5;
-    session.steps = { press, wheel, checkpoint, move, command };
+    const QByteArray text = R"({
+    "session": 1,
+    "size": [801, 603],
+    "camera": {"from": [1.5, -2.25, 3], "at": [0, 0, 0], "up": [0, 1, 0], "pivot": [0.5, 0, 0], "fov": 45, "orthographic": true},
+    "selection": "Knot",
+    "manipulator": "universal",
+    "steps": [
+        {"type": "press", "at": {"handle": "xaShape", "offset": [2.5, -1]}, "button": "right", "modifiers": ["ctrl", "shift"]},
+        {"type": "wheel", "at": {"world": [1, 2, 3]}, "delta": -240, "after": 40},
+        {"type": "checkpoint", "name": "over x", "screenshot": true, "expect": {"hover": "xaShape", "nodes": {"Knot": {"rotation": [0, 45, -1.5]}}, "orthographic": false, "tolerance": 0.5, "undoSteps": 2, "values": {"plates.count": 1}}},
+        {"type": "move", "at": {"by": [3, -4.5]}},
+        {"type": "command", "command": "plates.addText", "value": {"size": 0.25, "text": "Title"}}
+    ]
+}
+)";
     QString error;
-
-    const std::optional<Session> read = parseSession(sessionText(session), error);
+    const std::optional<Session> read = parseSession(text, error);
 
     ASSERT_TRUE(read) << error.toStdString();
-    EXPECT_EQ(sessionText(*read), sessionText(session));
+    EXPECT_EQ(sessionText(*read), text);
     ASSERT_EQ(read->steps.size(), 5U);
+    EXPECT_EQ(read->steps[0].modifiers, Qt::ShiftModifier | Qt::ControlModifier);
     EXPECT_EQ(read->steps[0].at.offsetPx, QPointF(2.5, -1.0));
-    EXPECT_EQ(read->steps[0].modifiers, press.modifiers);
     EXPECT_EQ(read->steps[1].at.world[2], 3.0);
     EXPECT_FALSE(read->steps[2].expectation.selection);
-    EXPECT_EQ(read->steps[2].expectation.undoSteps, 2);
     EXPECT_EQ((*read->steps[2].expectation.nodes[0].rotationDeg)[2], -1.5);
     EXPECT_EQ(read->steps[3].at.kind, SessionTarget::Kind::Pointer);
-    EXPECT_EQ(read->steps[4].value, command.value);
 }
 
 TEST(Session, SaysWhatIsWrongAndWhere)
 {
-    struct Row
-    {
-        QByteArray text;
-        const char* message;
-    };
-
-    const Row rows[] = {
+    const std::pair<QByteArray, const char*> rows[] = {
         { "{\n  \"session\": 1,\n  oops\n}", "line 3, column" },
         { R"({"session": 2, "size": [640, 480], "steps": []})", "session: expected 1" },
         { R"({"session": 1, "size": [15, 480], "steps": []})",
@@ -118,13 +87,12 @@ TEST(Session, SaysWhatIsWrongAndWhere)
               R"({"type": "checkpoint", "name": "a", "expect": {"nodes": {"Knot": {"scale": [1,1,1], "tolerance": -1}}}})"),
           "steps[0].expect.nodes.Knot.tolerance: expected a number from 0" },
     };
-    for (const Row& row : rows) {
+    for (const auto& [text, message] : rows) {
         QString error;
 
-        EXPECT_FALSE(parseSession(row.text, error)) << row.message;
+        EXPECT_FALSE(parseSession(text, error)) << message;
 
-        EXPECT_TRUE(error.contains(row.message))
-            << error.toStdString() << " instead of " << row.message;
+        EXPECT_TRUE(error.contains(message)) << error.toStdString() << " instead of " << message;
     }
 }
 

@@ -56,32 +56,5 @@ TEST_F(StageWithStartScene, CursorsPointAlongTheAxesOnTheScreen)
     EXPECT_EQ(cursorOfHandle(stage, "").action, HandleAction::None);
 }
 
-TEST(SceneBuilder, NodesStandWhereTheModelPutsThem)
-{
-    ModelData model;
-    model.materials.resize(1);
-    MeshData mesh;
-    mesh.name = "Leaf";
-    mesh.positions = { { 0, 0, 0 }, { 1, 0, 0 }, { 0, 1, 0 } };
-    mesh.triangles = { 0, 1, 2 };
-    model.meshes = { mesh };
-    NodeData branch;
-    branch.name = "Branch";
-    branch.meshes = { 0 };
-    branch.matrix[12] = 5.0F;
-    model.root.name = "Tree";
-    model.root.matrix[13] = 2.0F;
-    model.root.children = { branch };
-
-    const osg::NodeRefPtr root(buildScene(model));
-
-    const osg::NodePtr node = root->getChild(0);
-    EXPECT_EQ(nbNodeUtils::getName(node), "Branch");
-    EXPECT_EQ(nbNodeUtils::getName(node->getChild(0)), "Leaf");
-    const osg::BoxVolume bounds = nbNodeUtils::getWorldBounds(node);
-    EXPECT_EQ(bounds.getMin(), osg::Pnt3f(5.0F, 2.0F, 0.0F));
-    EXPECT_EQ(bounds.getMax(), osg::Pnt3f(6.0F, 3.0F, 0.0F));
-}
-
 }  // namespace
 }  // namespace viewer

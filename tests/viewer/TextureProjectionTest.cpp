@@ -20,12 +20,7 @@ protected:
 
 TEST_F(TextureProjectionTest, SwitchingShowsTheHandlesOfTheProjectionAndIsOneStep)
 {
-    const struct
-    {
-        const char* projection;
-        const char* handle;
-        const char* missingGroup;
-    } rows[] = {
+    const std::tuple<const char*, const char*, const char*> rows[] = {
         { "triplanar", "ryShape", "scale" },
         { "uv", "rotateShape", "bend" },
         { "tire", "radiusRingShape", "rotate" },
@@ -33,16 +28,16 @@ TEST_F(TextureProjectionTest, SwitchingShowsTheHandlesOfTheProjectionAndIsOneSte
     };
 
     int expected = steps();
-    for (const auto& row : rows) {
+    for (const auto& [projection, handle, missingGroup] : rows) {
         ASSERT_TRUE(run("texture.handles", tool.hasGroup("rotate") ? "rotate" : "universal"));
-        ASSERT_TRUE(run("texture.projection", row.projection));
-        EXPECT_EQ(value("texture.projection"), QJsonValue(row.projection));
-        EXPECT_EQ(steps(), ++expected) << row.projection;
-        EXPECT_FALSE(run("texture.handles", row.missingGroup));
+        ASSERT_TRUE(run("texture.projection", projection));
+        EXPECT_EQ(value("texture.projection"), QJsonValue(projection));
+        EXPECT_EQ(steps(), ++expected) << projection;
+        EXPECT_FALSE(run("texture.handles", missingGroup));
         ASSERT_TRUE(run("texture.handles", "universal"));
         stage.update();
-        const osg::Pnt2f px = placeOf(SessionTarget::Kind::Handle, row.handle);
-        EXPECT_EQ(stage.handleAt(px), row.handle);
+        const osg::Pnt2f px = placeOf(SessionTarget::Kind::Handle, handle);
+        EXPECT_EQ(stage.handleAt(px), handle);
     }
     ASSERT_TRUE(stage.undo());
     stage.update();
