@@ -112,14 +112,7 @@ TEST(Iterators, SplitEveryKindOfPrimitive)
 {
     const std::vector<Pnt3f> points(6);
 
-    const struct
-    {
-        const char* name;
-        GLenum type;
-        UInt32 length;
-        Corners triangles;
-        Corners lines;
-    } cases[] = {
+    const std::tuple<const char*, GLenum, UInt32, Corners, Corners> cases[] = {
         { "quad strip",
           GL_QUAD_STRIP,
           6,
@@ -134,9 +127,9 @@ TEST(Iterators, SplitEveryKindOfPrimitive)
         { "points", GL_POINTS, 6, {}, {} },
     };
 
-    for (const auto& row : cases) {
-        const RefPtr<GeometryPtr> geometry(makeGeometry({ { row.type, row.length } }, points));
-        EXPECT_EQ(cornersFrom(geometry->beginTriangles()), row.triangles) << row.name;
-        EXPECT_EQ(cornersFrom(geometry->beginLines()), row.lines) << row.name;
+    for (const auto& [name, type, length, triangles, lines] : cases) {
+        const RefPtr<GeometryPtr> geometry(makeGeometry({ { type, length } }, points));
+        EXPECT_EQ(cornersFrom(geometry->beginTriangles()), triangles) << name;
+        EXPECT_EQ(cornersFrom(geometry->beginLines()), lines) << name;
     }
 }
