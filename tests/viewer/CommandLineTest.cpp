@@ -26,13 +26,7 @@ TEST(CommandLine, TakesFilesAndOptionsInAnyOrder)
 
 TEST(CommandLine, SaysInOneLineWhichArgumentIsWrong)
 {
-    struct Row
-    {
-        QStringList arguments;
-        const char* part;
-    };
-
-    const Row rows[] = {
+    const std::pair<QStringList, const char*> rows[] = {
         { { "--frobnicate=3" }, "unknown option 'frobnicate'" },
         { { "-x" }, "unknown option 'x'" },
         { { "--tour=3" }, "after '--tour'" },
@@ -45,13 +39,13 @@ TEST(CommandLine, SaysInOneLineWhichArgumentIsWrong)
         { { "--size", "16x8192x3" }, "--size 16x8192x3" },
         { { "--size", "99999999999x100" }, "--size 99999999999x100" },
     };
-    for (const Row& row : rows) {
+    for (const auto& [arguments, part] : rows) {
         CommandLine options;
         QString error;
 
-        EXPECT_FALSE(parseCommandLine(row.arguments, options, error)) << row.part;
+        EXPECT_FALSE(parseCommandLine(arguments, options, error)) << part;
 
-        EXPECT_TRUE(error.contains(row.part)) << error.toStdString();
+        EXPECT_TRUE(error.contains(part)) << error.toStdString();
         EXPECT_FALSE(error.contains('\n'));
     }
 }
@@ -62,13 +56,7 @@ TEST(CommandLine, FilesAndFoldersThatCannotBeThereAreNamed)
     const QString model = folder.filePath("model.obj");
     QFile(model).open(QIODevice::WriteOnly);
 
-    struct Row
-    {
-        QStringList arguments;
-        QString part;
-    };
-
-    const Row rows[] = {
+    const std::pair<QStringList, QString> rows[] = {
         { { folder.filePath("none.obj") }, "none.obj: no such file" },
         { { model, folder.path() }, ": not a file" },
         { { "--session", folder.filePath("none.json") }, "none.json: no such file" },
@@ -77,14 +65,14 @@ TEST(CommandLine, FilesAndFoldersThatCannotBeThereAreNamed)
         { { "--output", folder.filePath("none") }, "no such folder" },
         { { model, "--screenshot", folder.filePath("out.png"), "--output", folder.path() }, "" },
     };
-    for (const Row& row : rows) {
+    for (const auto& [arguments, part] : rows) {
         CommandLine options;
         QString error;
-        ASSERT_TRUE(parseCommandLine(row.arguments, options, error)) << error.toStdString();
+        ASSERT_TRUE(parseCommandLine(arguments, options, error)) << error.toStdString();
 
-        EXPECT_EQ(checkCommandLine(options, error), row.part.isEmpty());
+        EXPECT_EQ(checkCommandLine(options, error), part.isEmpty());
 
-        EXPECT_TRUE(error.contains(row.part)) << error.toStdString();
+        EXPECT_TRUE(error.contains(part)) << error.toStdString();
     }
 }
 

@@ -4,52 +4,15 @@
 #include "viewer/gui/SceneFileActions.h"
 #include "viewer/loading/StartScene.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 
 namespace viewer {
 namespace {
 
-using Kind = SessionTarget::Kind;
 using Type = SessionStep::Type;
-
-SessionStep checkpoint(const char* hover, const char* selection)
-{
-    SessionStep step;
-    step.type = SessionStep::Type::Checkpoint;
-    step.name = QStringLiteral("check");
-    step.expectation.hover = QLatin1String(hover);
-    step.expectation.selection = QLatin1String(selection);
-    return step;
-}
 
 class MainWindowTest : public ShownWindow
 { };
-
-TEST_F(MainWindowTest, ReplayedEventsTakeAPersonsWay)
-{
-    Session session;
-    session.sizePx = { 900, 601 };
-    session.selection = "";
-    SessionStep orthographic;
-    orthographic.type = SessionStep::Type::Key;
-    orthographic.key = "5";
-    session.steps = {
-        stepAt(Type::Click, Kind::Node, "Vase"),
-        stepAt(Type::Move, Kind::Handle, "yaShape"),
-        checkpoint("yaShape", "Vase"),
-        orthographic,
-        stepAt(Type::Move, Kind::Handle, "rzShape"),
-        checkpoint("rzShape", "Vase"),
-    };
-
-    replay(session);
-
-    EXPECT_EQ(problems, QStringList());
-    EXPECT_EQ(window.player().getFailures(), QStringList());
-    EXPECT_EQ(window.view().sizePx(), QSize(900, 601));
-    EXPECT_TRUE(stage().pose().orthographic) << "the shortcut was not found";
-}
 
 TEST_F(MainWindowTest, AKeyThatWouldAskOrEndTheReplayIsAFailure)
 {
@@ -70,35 +33,6 @@ TEST_F(MainWindowTest, AKeyThatWouldAskOrEndTheReplayIsAFailure)
     EXPECT_EQ(problems, QStringList());
     EXPECT_FALSE(window.scenes().save());
     EXPECT_EQ(problems, QStringList { "the scene has no file to be saved to" });
-}
-
-TEST_F(MainWindowTest, AWrongSessionLeavesEverythingAsItIs)
-{
-    Session session;
-    session.selection = "Nobody";
-
-    replay(session);
-
-    ASSERT_EQ(problems.size(), 1);
-    EXPECT_TRUE(problems[0].contains("\"Nobody\""));
-    EXPECT_EQ(stage().selectedName(), kStartSceneMainObject);
-    EXPECT_FALSE(window.isReplaying());
-}
-
-TEST_F(MainWindowTest, ABrokenModelGivesAMessageAndLosesNothing)
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath("broken.obj");
-    QFile(path).open(QIODevice::WriteOnly);
-    const std::size_t before = stage().triangleCount();
-
-    window.openFiles({ path }, MainWindow::Opening::Replace);
-    waitUntil([this] { return !problems.isEmpty(); });
-
-    ASSERT_EQ(problems.size(), 1);
-    EXPECT_TRUE(problems[0].startsWith(path + ": "));
-    EXPECT_EQ(stage().triangleCount(), before);
-    EXPECT_EQ(stage().selectedName(), kStartSceneMainObject);
 }
 
 TEST_F(MainWindowTest, AModelReplacesTheSceneAndIsSelectedAndInView)

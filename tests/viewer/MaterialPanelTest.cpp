@@ -8,7 +8,6 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDoubleSpinBox>
 #include <QDropEvent>
 #include <QLabel>
 #include <QMimeData>
@@ -129,16 +128,6 @@ TEST_F(MaterialPanelTest, APictureOnATexturedModelKeepsItsOwnColours)
         after.pixelColor(middle + QPoint(qMin(after.width(), after.height()) * 2 / 5, 0));
     EXPECT_EQ(beside.red(), 0);
     EXPECT_GT(beside.blue(), 150);
-}
-
-TEST_F(MaterialPanelTest, ABrokenPictureIsOneLineAndNothingElse)
-{
-    drop(QStringLiteral(NB_VIEWER_FOLDER "/models/missing.png"), "Vase");
-
-    ASSERT_EQ(problems.size(), 1);
-    EXPECT_TRUE(problems.first().contains("missing.png"));
-    EXPECT_FALSE(stage().canUndo());
-    EXPECT_FALSE(find<QWidget>("materialContent")->isEnabled()) << "nothing is selected";
 }
 
 TEST_F(MaterialPanelTest, TheProjectionIsSwitchedTypedAndDraggedAroundAClickedPlace)

@@ -2,8 +2,6 @@
 #include "tests/viewer/support/ShownWindow.h"
 #include "viewer/loading/StartScene.h"
 
-#include <nbOpenSGUtils/nbNodeUtils.h>
-
 #include <QCheckBox>
 #include <QDoubleSpinBox>
 #include <QTest>
@@ -15,23 +13,6 @@ namespace {
 
 class Panels : public ShownWindow
 { };
-
-TEST_F(Panels, NumbersTypedMoveTheObjectAndFollowIt)
-{
-    showPanel("objectDock");
-    const QList<QDoubleSpinBox*> boxes =
-        find<QWidget>("object.translation")->findChildren<QDoubleSpinBox*>();
-    ASSERT_EQ(boxes.size(), 3);
-
-    boxes[0]->setValue(2.5);
-
-    EXPECT_FLOAT_EQ(nbNodeUtils::getTransformNodeTranslation(stage().selectedObject())[0], 2.5F);
-    EXPECT_TRUE(stage().undo());
-    EXPECT_EQ(boxes[0]->value(), 0.0);
-    stage().select(osg::NullFC);
-    EXPECT_FALSE(boxes[0]->isEnabled());
-    EXPECT_EQ(problems, QStringList());
-}
 
 TEST_F(Panels, FieldsReadWhatIsTypedAndSayWhatTheyRefuse)
 {

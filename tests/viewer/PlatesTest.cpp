@@ -61,26 +61,6 @@ protected:
     }
 };
 
-TEST_F(Plates, BodyMovesTheSelectionInOneStepAndEscTakesItBack)
-{
-    drag({ 470, 350 }, { 90, 90 });
-    drag({ 280, 200 }, { 310, 220 });
-
-    expectCentre(430, 320);
-    EXPECT_EQ(steps(), 4);
-    press({ 280, 200 });
-    move({ 250, 200 });
-    move({ 200, 200 });
-    expectCentre(350, 320);
-    pressKey(window.view(), Qt::Key_Escape);
-    release({ 200, 200 });
-    expectCentre(430, 320);
-    EXPECT_EQ(steps(), 4);
-    EXPECT_TRUE(stage().undo());
-    expectCentre(400, 300);
-    EXPECT_EQ(selected(), QStringList({ "red", "blue" }));
-}
-
 TEST_F(Plates, TheToolTakesTurnsWithTheGizmoAndKeepsItsSelection)
 {
     click({ 150, 140 });

@@ -18,60 +18,6 @@ protected:
     }
 };
 
-TEST_F(TextureProjectionTest, SwitchingShowsTheHandlesOfTheProjectionAndIsOneStep)
-{
-    const std::tuple<const char*, const char*, const char*> rows[] = {
-        { "triplanar", "ryShape", "scale" },
-        { "uv", "rotateShape", "bend" },
-        { "tire", "radiusRingShape", "rotate" },
-        { "planar", "scaleXYURShape", "rotateScale" },
-    };
-
-    int expected = steps();
-    for (const auto& [projection, handle, missingGroup] : rows) {
-        ASSERT_TRUE(run("texture.handles", tool.hasGroup("rotate") ? "rotate" : "universal"));
-        ASSERT_TRUE(run("texture.projection", projection));
-        EXPECT_EQ(value("texture.projection"), QJsonValue(projection));
-        EXPECT_EQ(steps(), ++expected) << projection;
-        EXPECT_FALSE(run("texture.handles", missingGroup));
-        ASSERT_TRUE(run("texture.handles", "universal"));
-        stage.update();
-        const osg::Pnt2f px = placeOf(SessionTarget::Kind::Handle, handle);
-        EXPECT_EQ(stage.handleAt(px), handle);
-    }
-    ASSERT_TRUE(stage.undo());
-    stage.update();
-    EXPECT_EQ(value("texture.projection"), QJsonValue("tire"));
-    EXPECT_EQ(stage.handleAt(placeOf(SessionTarget::Kind::Handle, "heightShape")), "heightShape");
-    ASSERT_TRUE(run("texture.projection", "tire"));
-    EXPECT_EQ(steps(), expected - 1) << "no other projection";
-}
-
-TEST_F(TextureProjectionTest, DragsOfTheOtherGizmosArriveAndAreTold)
-{
-    ASSERT_TRUE(run("texture.projection", "uv"));
-    ASSERT_TRUE(run("texture.handles", "universal"));
-    stage.update();
-    const osg::Pnt2f arrow = placeOf(SessionTarget::Kind::Handle, "xaShape");
-    ASSERT_TRUE(send("start", arrow));
-    send("process", arrow + osg::Vec2f(64, 9));
-    EXPECT_EQ(stage.draggedValues(), "Picture offset (0.125, 0.000)");
-    send("stop", arrow + osg::Vec2f(64, 9));
-    EXPECT_EQ(value("texture.uvOffset"), QJsonValue(QJsonArray { 0.125, 0 }));
-
-    ASSERT_TRUE(run("texture.projection", "tire"));
-    stage.update();
-    EXPECT_EQ(value("texture.tireFit"), QJsonValue(true));
-    const osg::Pnt2f box = placeOf(SessionTarget::Kind::Handle, "heightShape");
-    ASSERT_TRUE(send("start", box));
-    send("process", box + osg::Vec2f(30, 0));
-    EXPECT_EQ(stage.draggedValues().rfind("Tire height, radius, part around (", 0), 0U);
-    send("stop", box + osg::Vec2f(30, 0));
-    EXPECT_EQ(value("texture.tireFit"), QJsonValue(false));
-    ASSERT_TRUE(stage.undo());
-    EXPECT_EQ(value("texture.tireFit"), QJsonValue(true)) << "the whole drag is one step";
-}
-
 TEST_F(TextureProjectionTest, ValuesAreWhatWasTypedAndEachEditIsAStep)
 {
     expectSteps(
