@@ -16,28 +16,12 @@ namespace nbec::manipulator::test {
 
 namespace {
 
-/// A manipulator that keeps every default of the base.
-class PlainManipulator : public NodeManipulator
-{
-public:
-    osg::NodePtr getVisualisation() override { return osg::NodePtr(); }
-
-    osg::NodePtr getCollider() override { return osg::NodePtr(); }
-
-    void update(bool /*force*/) override { }
-};
-
 class AbstractManipulatorTest : public testing::Test
 {
 protected:
     void SetUp() override { nbScenegraph::setPreselectionEnabled(true); }
 
     void TearDown() override { nbScenegraph::setPreselectionEnabled(true); }
-
-    osg::UInt32 childrenOf(const osg::RefPtr<osg::NodePtr>& parent)
-    {
-        return parent->getNChildren();
-    }
 
     osg::RefPtr<osg::NodePtr> root { osg::makeCoredNode<osg::Group>() };
     osg::RefPtr<osg::NodePtr> otherRoot { osg::makeCoredNode<osg::Group>() };
@@ -58,27 +42,27 @@ TEST_F(AbstractManipulatorTest, AnActiveVisualisationFollowsItsRoot)
         << "the same root must not re-hang it";
 
     manipulator.setVisualisationRoot(otherRoot.get());
-    EXPECT_EQ(childrenOf(root), 1U);
-    EXPECT_EQ(childrenOf(otherRoot), 1U);
+    EXPECT_EQ(root->getNChildren(), 1U);
+    EXPECT_EQ(otherRoot->getNChildren(), 1U);
 
     manipulator.setVisualisationRoot(osg::NodePtr());
-    EXPECT_EQ(childrenOf(otherRoot), 0U);
+    EXPECT_EQ(otherRoot->getNChildren(), 0U);
     EXPECT_EQ(manipulator.getVisualisationRoot(), osg::NullFC);
 
     manipulator.deactivate(nullptr);
     manipulator.setVisualisationRoot(root.get());
-    EXPECT_EQ(childrenOf(root), 1U) << "an inactive manipulator only stores the root";
+    EXPECT_EQ(root->getNChildren(), 1U) << "an inactive manipulator only stores the root";
 }
 
 TEST_F(AbstractManipulatorTest, HoldsOneCountOnTheRootAndCopiesHoldTheirOwn)
 {
     const osg::Int32 before = root.get().getRefCount();
     {
-        PlainManipulator original;
+        RecordingManipulator original;
         original.setVisualisationRoot(root.get());
         original.setMousePosition(osg::Pnt2f(3, 4));
-        PlainManipulator copy(original);
-        PlainManipulator assigned;
+        RecordingManipulator copy(original);
+        RecordingManipulator assigned;
         assigned.setVisualisationRoot(otherRoot.get());
         assigned = original;
 

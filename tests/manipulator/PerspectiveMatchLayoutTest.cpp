@@ -101,6 +101,22 @@ TEST(PerspectiveMatchLayout, OnlyLinesThatCanBeDrawnAreHit)
     EXPECT_FALSE(partUnderPointer(lines, view, osg::Pnt2f(0, 0)).isSet()) << "of an empty line";
 }
 
+TEST(PerspectiveMatchLayout, VanishingPoints)
+{
+    const std::tuple<const char*, osg::Line2D, osg::Line2D, osg::Vec3d> rows[] = {
+        { "they meet at (2, 0.5)", line(0, 0, 1, 0.25F), line(0, 1, 1, 0.75F), { 2, 0.5, 1 } },
+        { "between their ends", line(0, 0, 1, 1), line(0, 1, 1, 0), { 0.5, 0.5, 1 } },
+        { "parallel", line(0, 0, 1, 0), line(0.5F, 1, 3, 1), { 1, 0, 0 } },
+        { "beyond what counts", line(0, 0, 1, 0), line(0, 1, 1, 0.999F), { 1, 0, 0 } },
+        { "one line twice", line(0, 0, 1, 0.5F), line(2, 1, 4, 2), {} },
+        { "no length", line(0.5F, 0.5F, 0.5F, 0.5F), line(0, 1, 1, 0), {} },
+        { "empty", osg::Line2D(), line(0, 1, 1, 0), {} },
+    };
+    for (const auto& [name, first, second, place] : rows) {
+        EXPECT_LT((vanishingPointOf(first, second) - place).length(), 1e-6) << name;
+    }
+}
+
 TEST(PerspectiveMatchLayout, GuidesStayInTheViewHoweverFarTheLinesReach)
 {
     using Line = PerspectiveMatchLine;

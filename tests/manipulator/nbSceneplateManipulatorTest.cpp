@@ -95,6 +95,29 @@ TEST_F(SceneplateManipulatorTest, HandlesStandAtTheFrameForEveryCameraAndViewSiz
     isHandleAt("grid", 150, 200);  // without an update
 }
 
+TEST_F(SceneplateManipulatorTest, HandlesAreHitByTheirNames)
+{
+    select({ 400, 300, 200, 100 });
+    // A handle, how far from its place it is grabbed, and what that means.
+    const std::tuple<const char*, osg::Vec2f, Mode> rows[] = {
+        { "scaleXYLLShape", { 4, -4 }, Mode::ScaleLowerLeft },
+        { "scaleXYULShape", { -4, -4 }, Mode::ScaleUpperLeft },
+        { "scaleXYLRShape", { 0, 0 }, Mode::ScaleLowerRight },
+        { "scaleXYURShape", { 8, 0 }, Mode::ScaleUpperRight },
+        { "rotateShape", { 0, 0 }, Mode::Rotate },
+        { "rotateShape", { 0, 20 }, Mode::Rotate },
+        { "grid", { 30, 20 }, Mode::Move },
+        { "grid", { 103, 0 }, Mode::Move },
+        { "grid", { 120, 0 }, Mode::None },
+    };
+    for (const auto& [name, from, mode] : rows) {
+        const bool isHit = scene.send("hover", scene.handlePx(name) + from);
+        EXPECT_EQ(scene.manipulator.getActiveMode(), mode) << name;
+        EXPECT_EQ(isHit, mode != Mode::None);
+        EXPECT_EQ(nbScenegraph::isPreselectionEnabled(), !isHit);
+    }
+}
+
 TEST_F(SceneplateManipulatorTest, TurningSendsTheAngleCounterClockwiseBeyondAWholeTurn)
 {
     select({ 400, 300, 200, 100 });

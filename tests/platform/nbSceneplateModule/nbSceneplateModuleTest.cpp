@@ -240,38 +240,6 @@ TEST_F(nbSceneplateModuleTest, SeveralPlatesTurnAndScaleAboutTheCentreOfTheirFra
     expectPlace(c, -800.f / 1200.f + 0.1f - 0.1f, -0.4f - 0.05f, 2.f, 90.f);
 }
 
-TEST_F(nbSceneplateModuleTest, UndoRestoresBitForBitAndNoStepIsLeftWhereNothingChanged)
-{
-    const NodePtr a = add(0.1f, 1.f / 3.f, 200.f);
-    const NodePtr b = add(-0.7f, 0.01f);
-    select({ a, b });
-    const Vec2f before = platetest::plateOf(a)->getPosition();
-
-    undo->beginGroup();
-    change(1.37f, { 0.123f, 0.456f }, 77.7f);
-    change(1.f, { 0.f, 0.f }, 0.f);
-    undo->endGroup();
-    EXPECT_EQ(stepCount(), 0) << "ended where it began";
-    EXPECT_EQ(platetest::plateOf(a)->getRotation(), 200.f);
-
-    undo->beginGroup();
-    change(1.37f, { 0.123f, 0.456f }, 77.7f);
-    undo->endGroup();
-    const Vec2f after = platetest::plateOf(a)->getPosition();
-    ASSERT_TRUE(undo->undo());
-    EXPECT_EQ(platetest::plateOf(a)->getPosition().y(), before.y());
-    EXPECT_EQ(platetest::plateOf(a)->getScale(), 1.f);
-    EXPECT_EQ(markerOf(a), Sceneplate::SelectedMarker);
-    ASSERT_TRUE(undo->redo());
-    EXPECT_EQ(platetest::plateOf(a)->getPosition().y(), after.y());
-
-    undo->beginGroup();
-    change(1.f, { 0.5f, 0.f }, 0.f);
-    undo->cancelGroup();
-    EXPECT_EQ(platetest::plateOf(a)->getPosition().y(), after.y());
-    EXPECT_EQ(stepCount(), 1);
-}
-
 TEST_F(nbSceneplateModuleTest, DeletedPlatesLeaveTheSelectionAndComeBackWithUndo)
 {
     const NodePtr a = add(0.f, 0.f);
