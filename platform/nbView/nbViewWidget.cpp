@@ -312,11 +312,11 @@ bool nbViewWidget::event(QEvent* event)
         event->accept();
         return true;
     }
-    const bool taken = QOpenGLWidget::event(event);
+    const bool isDone = QOpenGLWidget::event(event);
     if (event->type() == QEvent::ScreenChangeInternal) {
         adoptSize();  // that may have other pixels
     }
-    return taken;
+    return isDone;
 }
 
 void nbViewWidget::redrawRequested()
