@@ -23,6 +23,9 @@ public:
 
     bool atEnd() const { return position >= size; }
 
+    /// The last one, which is read in its turn, too.
+    std::uint8_t last() const { return size == 0 ? std::uint8_t(0) : data[size - 1]; }
+
     std::uint8_t next() { return atEnd() ? std::uint8_t(0) : data[position++]; }
 
     /// True once in so many times.

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "tests/fuzz/FilePlay.h"
+#include "viewer/gui/CommandLine.h"
 #include "viewer/loading/BuiltModel.h"
 #include "viewer/loading/ModelRecords.h"
 #include "viewer/loading/PictureDecoding.h"
 #include "viewer/match/PerspectiveMatchTool.h"
 #include "viewer/plates/PlatesTool.h"
+#include "viewer/scenes/PreparedScene.h"
 #include "viewer/scenes/SceneCapture.h"
 #include "viewer/stage/Stage.h"
 #include "viewer/textures/TextureTool.h"
@@ -41,6 +43,25 @@ std::string playLine(Stage& stage, const QByteArray& line)
     return {};
 }
 
+std::string playArguments(Stage& stage, const QByteArray& line)
+{
+    CommandLine options;
+    QString error;
+    const QStringList arguments = QString::fromUtf8(line).split(QLatin1Char(' ')).mid(1);
+    const bool isTaken =
+        parseCommandLine(arguments, options, error) && checkCommandLine(options, error);
+    if (isTaken != error.isEmpty()) {
+        return "a command line is neither taken nor refused";
+    }
+    bool isRead = true;
+    if (isTaken && !options.session.isEmpty()) {
+        isRead = readSessionFile(options.session, error).has_value();
+    } else if (isTaken && options.files.size() == 1 && isSceneFileName(options.files.first())) {
+        isRead = openScene(stage, options.files.first(), error);
+    }
+    return isRead || !error.isEmpty() ? "" : "a file is refused without a word";
+}
+
 }  // namespace
 
 std::string playCommands(const std::uint8_t* data, std::size_t size)
@@ -55,7 +76,8 @@ std::string playCommands(const std::uint8_t* data, std::size_t size)
     stage.showStartScene();
     const QByteArray text(reinterpret_cast<const char*>(data), static_cast<int>(size));
     for (const QByteArray& line : text.split('\n').mid(0, kMostLines)) {
-        const std::string fault = playLine(stage, line);
+        const std::string fault =
+            line.startsWith("nbviewer ") ? playArguments(stage, line) : playLine(stage, line);
         if (!fault.empty()) {
             return fault;
         }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/fuzz/FilePlay.h"
 
+#include "viewer/loading/ModelRecords.h"
+#include "viewer/loading/PictureDecoding.h"
 #include "viewer/loading/Shapes.h"
 #include "viewer/match/PerspectiveMatchTool.h"
 #include "viewer/plates/PlatesTool.h"
@@ -11,9 +13,12 @@
 
 #include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbUndoService.h>
+#include <nbOpenSGRenderAction/nbImageConvert.h>
 
 #include <OpenSG/OSGContainerCensus.h>
 #include <OpenSG/OSGSimpleAttachments.h>
+
+#include <QBuffer>
 
 /// What Qt's reader of JSON has begun when a broken text stops it. Our own containers are counted.
 extern "C" const char* __lsan_default_suppressions()
@@ -44,22 +49,56 @@ ModelData standIn(const QString& file)
     return model;
 }
 
-SceneAssets standIns()
+/// A scene and the one model and picture that there are; stand-ins for those that are empty.
+struct Files
 {
-    return { [](const QString& file, QString& error) -> std::optional<BuiltModel> {
-                if (file.contains(QLatin1String("gone"))) {
-                    error = QStringLiteral("gone");
-                    return std::nullopt;
-                }
-                return buildModel(standIn(file));
-            },
-             [](const QString& file, QString&) {
-                 osg::RefPtr<osg::ImagePtr> image(osg::Image::create());
-                 image->set(osg::Image::OSG_RGB_PF, 2, 2);
-                 osg::setName(image.get(), file.toStdString());
-                 return image;
-             } };
-}
+    explicit Files(const QByteArray& all)
+    {
+        const QByteArray between(kBetweenFiles);
+        const int first = all.indexOf(between);
+        const int second = first < 0 ? -1 : all.indexOf(between, first + between.size());
+        scene = all.left(first);
+        model = second < 0 ? QByteArray() : all.mid(first + between.size(), second - first);
+        picture = second < 0 ? QByteArray() : all.mid(second + between.size());
+    }
+
+    SceneAssets assets() const
+    {
+        return { [this](const QString& file, QString& error) { return modelOf(file, error); },
+                 [this](const QString& file, QString& error) { return imageOf(file, error); } };
+    }
+
+    std::optional<BuiltModel> modelOf(const QString& file, QString& error) const
+    {
+        ModelAssembly assembly;
+        const bool isSound = !model.isEmpty() && assembly.take(model) && assembly.isComplete();
+        if (file.contains(QLatin1String("gone")) || (!model.isEmpty() && !isSound)) {
+            error = QStringLiteral("gone");
+            return std::nullopt;
+        }
+        ModelData data = isSound ? assembly.takeModel() : standIn(file);
+        data.file = file;
+        return buildModel(data);
+    }
+
+    osg::RefPtr<osg::ImagePtr> imageOf(const QString& file, QString& error) const
+    {
+        QBuffer buffer;
+        buffer.setData(picture);
+        buffer.open(QIODevice::ReadOnly);
+        const QImage pixels = picture.isEmpty() ? QImage(2, 2, QImage::Format_RGB888)
+                                                : decodePicture(buffer, file, error);
+        osg::RefPtr<osg::ImagePtr> image(nbImageConvert::toImage(pixels));
+        if (image != osg::NullFC) {
+            osg::setName(image.get(), file.toStdString());
+        }
+        return image;
+    }
+
+    QByteArray scene;
+    QByteArray model;
+    QByteArray picture;
+};
 
 std::string refusal(const char* reader, const QString& error)
 {
@@ -82,11 +121,12 @@ std::string playSession(const QByteArray& text)
     return sessionText(*again) == written ? std::string() : "a session is written in two ways";
 }
 
-std::string showAndSave(Stage& stage, const SceneDocument& document, QByteArray& text)
+std::string showAndSave(Stage& stage, const SceneDocument& document, const Files& files,
+                        QByteArray& text)
 {
     QString error;
     const std::unique_ptr<PreparedScene> scene =
-        PreparedScene::prepare(document, standIns(), error);
+        PreparedScene::prepare(document, files.assets(), error);
     if (!scene) {
         return refusal("the scene builder", error);
     }
@@ -102,9 +142,10 @@ std::string showAndSave(Stage& stage, const SceneDocument& document, QByteArray&
 
 std::string playScene(const QByteArray& text)
 {
+    const Files files(text);
     const QDir folder(QStringLiteral("/scenes"));
     QString error;
-    const std::optional<SceneDocument> document = parseScene(text, folder, error);
+    const std::optional<SceneDocument> document = parseScene(files.scene, folder, error);
     if (!document) {
         return refusal("the scene reader", error);
     }
@@ -122,7 +163,7 @@ std::string playScene(const QByteArray& text)
     const PlatesTool plates(stage);
     stage.resize(640, 480, 1.0F);
     QByteArray first;
-    std::string fault = showAndSave(stage, *document, first);
+    std::string fault = showAndSave(stage, *document, files, first);
     if (!fault.empty() || first.isEmpty()) {
         return fault;
     }
@@ -131,7 +172,7 @@ std::string playScene(const QByteArray& text)
         return "a saved scene is refused: " + error.toStdString();
     }
     QByteArray second;
-    fault = showAndSave(stage, *saved, second);
+    fault = showAndSave(stage, *saved, files, second);
     return fault.empty() && second != first ? "a scene changes when it is saved and opened" : fault;
 }
 

@@ -10,6 +10,7 @@
 
 #include <OpenSG/OSGSimpleGeometry.h>
 
+#include <QBuffer>
 #include <QByteArray>
 #include <QDir>
 #include <QFile>
@@ -95,9 +96,19 @@ TEST_F(FilePlay, CommandsInAnyOrderLeaveASceneThatCanBeOpened)
                                    "{\"text\":\"a\"}",
                                    "[9,9]",
                                    "[\"1\"]" };
+    const char* const arguments[] = {
+        "--session", "--size=9x9",   "640x480", "--output",
+        "/tmp",      "--screenshot", "a.png",   NB_SESSIONS "/camera.json",
+        "--",        "-h",           "",        "=",
+        "a.nbscene", "--size",       "\x80\xff"
+    };
     std::mt19937 random(7);
     for (int run = 0; run < 20; ++run) {
-        QByteArray lines;
+        QByteArray lines = "nbviewer";
+        for (unsigned i = random() % 5; i > 0; --i) {
+            lines += ' ' + QByteArray(arguments[random() % std::size(arguments)]);
+        }
+        lines += '\n';
         for (int i = 0; i < 40; ++i) {
             lines += names[random() % names.size()] + ' ' + values[random() % std::size(values)];
             lines += random() % 4 == 0 ? "\nundo\n" : "\n";
@@ -109,7 +120,7 @@ TEST_F(FilePlay, CommandsInAnyOrderLeaveASceneThatCanBeOpened)
     }
 }
 
-TEST(ModelPlay, DamagedRecordsAndPicturesBreakNothing)
+QByteArray soundRecords()
 {
     QByteArray sound = progressRecord(0.5);
     ModelData model;
@@ -118,6 +129,37 @@ TEST(ModelPlay, DamagedRecordsAndPicturesBreakNothing)
     model.root.meshes = { 0 };
     model.root.children.resize(2);
     writeModel(model, [&sound](const QByteArray& record) { sound += record; });
+    return sound;
+}
+
+TEST_F(FilePlay, SceneModelAndPictureOutOfFilesBreakNothingTogether)
+{
+    QByteArray picture;
+    QBuffer buffer(&picture);
+    ASSERT_TRUE(QImage(4, 3, QImage::Format_RGB32).save(&buffer, "PNG"));
+    const QByteArray sound = QByteArray(R"({"scene": 1,
+ "camera": {"from": [1,2,3], "at": [0,0,0], "up": [0,1,0], "pivot": [0,0,0], "fov": 40},
+ "models": [{"file": "a.obj"}, {"file": "a.obj", "nodes": [{"path": "1", "name": "", "newName": "b"}],
+   "surfaces": [{"object": "", "name": "", "ambient": [0,0,0], "diffuse": [1,0,0],
+     "specular": [0,0,0], "emission": [0,0,0], "shininess": 9,
+     "components": [{"name": "diffuse", "picture": "a.png", "settings": {}}]}]}],
+ "plates": [{"name": "p", "picture": "a.png", "position": [0,0], "size": [1,1]}]})") +
+        kBetweenFiles + soundRecords() + kBetweenFiles + picture;
+    ASSERT_EQ(play(sound), "");
+    std::mt19937 random(11);
+    for (int i = 0; i < 300; ++i) {
+        QByteArray damaged = sound;
+        for (unsigned n = random() % 3 + 1; n > 0; --n) {
+            damaged[static_cast<int>(random() % static_cast<unsigned>(damaged.size()))] =
+                static_cast<char>(random());
+        }
+        ASSERT_EQ(play(damaged), "");
+    }
+}
+
+TEST(ModelPlay, DamagedRecordsAndPicturesBreakNothing)
+{
+    const QByteArray sound = soundRecords();
     std::mt19937 random(9);
     for (int i = 0; i < 2000; ++i) {
         QByteArray damaged = sound;

@@ -10,6 +10,7 @@
 
 #include <iterator>
 #include <memory>
+#include <optional>
 #include <string>
 #include <type_traits>
 
@@ -24,15 +25,10 @@ public:
     explicit ManipulatorActor(Stage& joined)
         : stage(joined)
     {
-        context.setPicker(&stage.picker);
         replace(true);
     }
 
-    ~ManipulatorActor() override
-    {
-        replace(false);
-        stage.manager.removeContext(&context);
-    }
+    ~ManipulatorActor() override { end(); }
 
     void act(Bytes& bytes) override
     {
@@ -41,7 +37,7 @@ public:
             replace(!bytes.once(4));
         } else if (choice == 1) {
             release();
-            stage.manager.setEnabled(&context, bytes.flag());
+            stage.manager.setEnabled(&*context, bytes.flag());
         } else if (gizmo == nullptr) {
             stage.send(stage.aimAt(osg::NodePtr(), bytes), bytes);
         } else if (choice == 2) {
@@ -137,35 +133,46 @@ private:
     void release()
     {
         if (gizmo != nullptr && gizmo->isHeld) {
-            gizmo->stopManipulator(&context, "select");
+            gizmo->stopManipulator(&*context, "select");
         }
+    }
+
+    /// In one of the orders that hosts may have.
+    void end()
+    {
+        release();
+        if (stage.doContextsGoFirst()) {
+            context.reset();
+        } else if (stage.hasManager()) {
+            stage.manager.removeContext(&*context);
+        }
+        stage.picker.setPickNode(osg::NodePtr());
+        gizmo.reset();
     }
 
     void replace(bool makeNew)
     {
-        release();
-        stage.manager.removeContext(&context);
-        context.setManipulator(nullptr);
-        stage.picker.setPickNode(osg::NodePtr());
-        gizmo.reset();
+        end();
+        context.emplace();
+        context->setPicker(&stage.picker);
         if (makeNew) {
             gizmo = std::make_unique<Watched>(stage.preview);
             gizmo->setVisualisationRoot(nbScenegraph::getInternalRoot());
-            context.setManipulator(gizmo.get());
+            context->setManipulator(gizmo.get());
             Gizmo& plain = *gizmo;
             equip(plain, stage);
         }
-        stage.manager.addContext(&context);
+        stage.manager.addContext(&*context);
     }
 
     void rehang(Bytes& bytes)
     {
         const std::uint8_t choice = bytes.next() % 4;
         if (choice == 2) {
-            return context.setPicker(bytes.flag() ? nullptr : &stage.picker);
+            return context->setPicker(bytes.flag() ? nullptr : &stage.picker);
         }
         if (choice == 3) {
-            context.setPicker(&stage.picker);
+            context->setPicker(&stage.picker);
         }
         gizmo->setVisualisationRoot(choice == 0       ? osg::NodePtr()
                                         : choice == 1 ? stage.otherRoot.get()
@@ -175,7 +182,7 @@ private:
     /// Calls the interface without context or manager in between.
     void callDirectly(Bytes& bytes)
     {
-        ManipulatorInteractionContext* const ctx = bytes.once(6) ? nullptr : &context;
+        ManipulatorInteractionContext* const ctx = bytes.once(6) ? nullptr : &*context;
         const std::string hint = stage.hint(bytes);
         const osg::Pnt2f target = stage.aimAt(gizmo->getCollider(), bytes);
         stage.point(target);
@@ -246,14 +253,14 @@ private:
                 Gizmo copied(plain);
                 copied.update(true);
                 copied = plain;
-                copied.hoverManipulator(&context, "select");
+                copied.hoverManipulator(&*context, "select");
             }
         }
     }
 
     Stage& stage;
     std::unique_ptr<Watched> gizmo;
-    ManipulatorInteractionContext context;
+    std::optional<ManipulatorInteractionContext> context { std::in_place };
 };
 
 /// A tool with its context and a picker of its own.
@@ -275,7 +282,6 @@ public:
     {
         release();
         context.setTool(nullptr);
-        stage.manager.removeContext(&context);
     }
 
     void act(Bytes& bytes) override

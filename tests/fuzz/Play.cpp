@@ -62,12 +62,13 @@ std::string runSteps(const PlayTarget& target, Stage& stage, Bytes& bytes)
             return "step " + std::to_string(step) + ": " + fault;
         }
     }
+    stage.endEarly();
     return "";
 }
 
 std::string runOn(const PlayTarget& target, Bytes& bytes)
 {
-    Stage stage;
+    Stage stage(bytes.last());
     const std::string fault = runSteps(target, stage, bytes);
     if (!fault.empty()) {
         return fault;
@@ -109,7 +110,6 @@ const std::vector<PlayTarget>& playTargets()
             together.actors.push_back(one.actors.front());
         }
         all.push_back(together);
-        all.push_back({ "messages", { &makeMessageActor } });
         return all;
     }();
     return kTargets;

@@ -18,10 +18,8 @@ struct PlayTarget
 };
 
 std::unique_ptr<Actor> makeProjectionActor(Stage& stage);
-std::unique_ptr<Actor> makeMessageActor(Stage& stage);
 
-/// One target for each manipulator and tool, one for messages, and "together", in which all meet
-/// on one stage.
+/// One target for each manipulator and tool, and "together", in which all meet on one stage.
 const std::vector<PlayTarget>& playTargets();
 
 /// @return the target of a name; null for any other
@@ -33,7 +31,8 @@ void preparePlays();
 /// Plays bytes as hosts of a target would act: creating and destroying, all settings, events with
 /// known and unknown names in any order, nodes, materials, cameras and views deleted at any moment,
 /// views without area, cameras without a sound field of view, message handlers that delete what is
-/// edited or throw. Hosts keep their contract: a drag is stopped before its manipulator is
+/// edited or throw; at the end, manager, view, contexts and manipulators destroyed in any order.
+/// Hosts keep their contract: a drag is stopped before its manipulator is
 /// deactivated, and a manipulator is deactivated before it dies.
 ///
 /// After each step: what is visible hangs under its root exactly while active; preselection is on

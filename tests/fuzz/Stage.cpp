@@ -53,7 +53,8 @@ void leaveParent(const osg::NodePtr& node)
 
 // == The stage
 
-Stage::Stage()
+Stage::Stage(unsigned endOrder)
+    : endBits(endOrder)
 {
     for (const char* const name : kHarmed) {
         listen(name);
@@ -88,6 +89,16 @@ Stage::~Stage()
     nbUndoService::the()->clear();
     nbOSGWidget::setInteractionMode(0);
     nbController::setPresenterMode(false);
+}
+
+void Stage::endEarly()
+{
+    if ((endBits & 1U) != 0) {
+        ownManager.reset();
+    }
+    if ((endBits & 2U) != 0) {
+        view.reset();
+    }
 }
 
 void Stage::listen(const std::string& name)

@@ -21,6 +21,7 @@
 #include <array>
 #include <cstddef>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -48,10 +49,19 @@ public:
         Count
     };
 
-    Stage();
+    /// @param endOrder  bits of what goes before the manipulators at the end, and how they go
+    explicit Stage(unsigned endOrder = 0);
     Stage(const Stage&) = delete;
     Stage& operator=(const Stage&) = delete;
     ~Stage();
+
+    /// Destroys what hosts may destroy before their manipulators and tools.
+    void endEarly();
+
+    bool hasManager() const { return ownManager.has_value(); }
+
+    /// Whether contexts go before their manipulators.
+    bool doContextsGoFirst() const { return (endBits & 4U) != 0; }
 
     /// Does something that hosts do beside driving manipulators.
     void act(Bytes& bytes);
@@ -125,14 +135,13 @@ public:
 
     std::unique_ptr<nbOSGWidget> view;
     interaction::Picker picker;
-    interaction::InteractionManager manager;
+    std::optional<interaction::InteractionManager> ownManager { std::in_place };
+    interaction::InteractionManager& manager = *ownManager;
     std::unique_ptr<nbMaterialEditor> editor;
     nbMaterialPreview preview;
     std::unique_ptr<nbSceneplateModule> plateModule;
     /// A root of helpers beside the usual one, in the scene at first.
     osg::RefPtr<osg::NodePtr> otherRoot;
-    /// Whether hosts send only what the library itself would.
-    bool isPreviewOurs = true;
 
 private:
     static constexpr std::size_t kNodes = 4;
@@ -161,6 +170,7 @@ private:
     QObject listener;  ///< to the object service
     WildGui wildGui;
     osg::RefPtr<osg::ImagePtr> picture;  ///< made last
+    unsigned endBits;  ///< 1: manager, 2: view, 4: contexts
     Fault nextFault = Fault::None;  ///< of a handler that does harm
     std::size_t faultIndex = 0;
 };

@@ -300,8 +300,7 @@ std::string Stage::check() const
     if (nbUndoService::the()->isRecording() != nbUndoService::the()->isGroupOpen()) {
         return "a scope of undo was left open";
     }
-    if (isPreviewOurs && !preview.isPaused() &&
-        preview.getRefreshCount() != preview.getResumeCount()) {
+    if (!preview.isPaused() && preview.getRefreshCount() != preview.getResumeCount()) {
         return "the preview was resumed and not refreshed";
     }
     const std::vector<float> all = values();

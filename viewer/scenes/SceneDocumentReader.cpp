@@ -285,8 +285,8 @@ private:
     static int indexOf(const QJsonValue& word, const std::array<const char*, Count>& words)
     {
         const QString text = word.toString();
-        const auto found = std::find_if(words.begin(), words.end(), [&](const char* known) {
-            return text == QLatin1String(known);
+        const auto found = std::find_if(words.begin(), words.end(), [&](const char* one) {
+            return text == QLatin1String(one);
         });
         return found == words.end() ? -1 : static_cast<int>(found - words.begin());
     }
