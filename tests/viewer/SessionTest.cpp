@@ -76,7 +76,7 @@ TEST(Session, SaysWhatIsWrongAndWhere)
         { withSteps(R"({"type": "checkpoint", "name": "a", "expect": {"nodes": {"Knot": {}}}})"),
           "expected \"translation\", \"rotation\" or \"scale\"" },
         { R"({"session": 1, "size": [640, 480], "files": "a.obj", "steps": []})",
-          "files: expected an array of names" },
+          "files: expected an array" },
         { R"({"session": 1, "size": [640, 480], "camera": {"from": [0,0,1], "at": [0,0,0], "up": [0,1,0], "fov": "wide"}, "steps": []})",
           "camera.fov: expected a number from 1 to 179" },
         { withSteps(R"({"type": "move", "at": {"handle": "xaShape", "world": [0,0,0]}})"),

@@ -19,6 +19,7 @@ const char* const kRecentKey = "recentFiles";
 const char* const kLayoutKey = "windowLayout";
 const char* const kGeometryKey = "windowGeometry";
 const char* const kPictureKey = "pictureMebibytes";
+constexpr int kMostMebibytes = 2047;
 const char* const kThemeKey = "theme";
 const char* const kCoarseKey = "coarseWhileMoving";
 const char* const kLanguageKey = "language";
@@ -82,10 +83,8 @@ void keepCoarseWhileMoving(bool on)
 qint64 pictureBudget()
 {
     constexpr qint64 kMebibyte = 1024LL * 1024;
-    constexpr qint64 kMostMebibytes = 2047;
-    const qint64 usual = viewer::pictureBudget() / kMebibyte;
-    return qBound(qint64(1), QSettings().value(kPictureKey, usual).toLongLong(), kMostMebibytes) *
-        kMebibyte;
+    const int usual = static_cast<int>(viewer::pictureBudget() / kMebibyte);
+    return kMebibyte * qBound(1, QSettings().value(kPictureKey, usual).toInt(), kMostMebibytes);
 }
 
 QStringList recentFiles()

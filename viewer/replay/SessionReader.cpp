@@ -20,67 +20,96 @@ namespace {
 constexpr double kMostTolerance = 1e9;
 constexpr qint64 kMaxSessionBytes = 64LL * 1024 * 1024;
 
-QString placeOf(const QString& path, const char* key)
-{
-    return path.isEmpty() ? QString(key) : path + '.' + key;
-}
-
 /// Walks the JSON document of a session.
 class Reader : private JsonReader
 {
 public:
     using JsonReader::JsonReader;
 
-    bool readSession(const QJsonObject& object, Session& session);
+    bool readSession(const QJsonObject& all, Session& session);
     bool readTarget(const QJsonValue& value, const QString& path, SessionTarget& target);
 
 private:
-    bool readSize(const QJsonValue& value, QSize& sizePx);
-    bool readCamera(const QJsonValue& value, SessionCamera& camera);
-    bool readStep(const QJsonValue& value, const QString& path, SessionStep& step);
-    bool readNamedTarget(const QJsonObject& object, const QString& path, SessionTarget& target);
-
-    /// Each reads an entry of an object; one that is not there keeps its value.
-    bool take(const QJsonObject& object, const QString& path, const char* key, QString& text)
+    /// An object of the document.
+    struct Part
     {
-        return !object.contains(key) || readString(object.value(key), placeOf(path, key), text);
+        bool has(const char* key) const { return object.contains(QLatin1String(key)); }
+
+        QJsonValue value(const char* key) const { return object.value(QLatin1String(key)); }
+
+        QString place(const char* key) const { return path.isEmpty() ? key : path + '.' + key; }
+
+        QJsonObject object;
+        QString path;
+    };
+
+    /// Looks whether a value is an object without unknown entries.
+    bool open(const QJsonValue& value, const QString& path, const QStringList& keys, Part& part)
+    {
+        part = { value.toObject(), path };
+        return (value.isObject() || fail(path, QStringLiteral("expected an object"))) &&
+            checkKeys(part.object, path, keys);
     }
 
-    bool take(const QJsonObject& object, const QString& path, const char* key, bool& flag)
+    /// Each reads an entry of an object; one that is not there keeps its value.
+    bool take(const Part& part, const char* key, QString& text)
     {
-        return !object.contains(key) || readBool(object.value(key), placeOf(path, key), flag);
+        return !part.has(key) || readString(part.value(key), part.place(key), text);
+    }
+
+    bool take(const Part& part, const char* key, bool& flag)
+    {
+        return !part.has(key) || readBool(part.value(key), part.place(key), flag);
     }
 
     template <std::size_t count>
-    bool take(const QJsonObject& object, const QString& path, const char* key,
-              std::array<double, count>& numbers)
+    bool take(const Part& part, const char* key, std::array<double, count>& numbers)
     {
-        return !object.contains(key) ||
-            readNumbers(object.value(key), placeOf(path, key), numbers.data(), count);
+        return !part.has(key) || need(part, key, numbers);
     }
 
     template <class Value>
-    bool take(const QJsonObject& object, const QString& path, const char* key,
-              std::optional<Value>& value)
+    bool take(const Part& part, const char* key, std::optional<Value>& value)
     {
-        return !object.contains(key) || take(object, path, key, value.emplace());
+        return !part.has(key) || take(part, key, value.emplace());
     }
 
-    bool takeInt(const QJsonObject& object, const QString& path, const char* key, int most,
-                 int& number)
+    bool takeInt(const Part& part, const char* key, int most, int& number)
     {
-        return !object.contains(key) ||
-            readInt(object.value(key), placeOf(path, key), most, number);
+        return !part.has(key) || readInt(part.value(key), part.place(key), most, number);
     }
 
-    bool readInRange(const QJsonObject& object, const QString& path, const char* key, double least,
-                     double most, double& number);
-    bool readModifiers(const QJsonValue& value, const QString& path, SessionStep& step);
+    /// Reads entry by entry of an array, which may be left out.
+    template <class Read>
+    bool takeEach(const Part& part, const char* key, const Read& read)
+    {
+        const QJsonValue value = part.value(key);
+        const QJsonArray array = value.toArray();
+        for (int i = 0; i < array.size(); ++i) {
+            if (!read(array.at(i), part.place(key) + QStringLiteral("[%1]").arg(i))) {
+                return false;
+            }
+        }
+        return value.isUndefined() || value.isArray() ||
+            fail(part.place(key), QStringLiteral("expected an array"));
+    }
+
+    template <std::size_t count>
+    bool need(const Part& part, const char* key, std::array<double, count>& numbers)
+    {
+        return readNumbers(part.value(key), part.place(key), numbers.data(), count);
+    }
+
+    bool takeInRange(const Part& part, const char* key, double least, double most, double& number);
+    bool readSize(const QJsonValue& value, QSize& sizePx);
+    bool readCamera(const QJsonValue& value, SessionCamera& camera);
+    bool readStep(const QJsonValue& value, const QString& path, SessionStep& step);
+    bool readNamedTarget(const Part& part, SessionTarget& target);
     bool readExpectation(const QJsonValue& value, const QString& path,
                          SessionExpectation& expectation);
-    bool readNodeExpectations(const QJsonValue& value, const QString& path,
-                              std::vector<SessionNodeExpectation>& nodes);
-    bool checkStep(const QJsonObject& object, const QString& path, const SessionStep& step);
+    bool readNodeExpectation(const QJsonValue& value, const QString& path,
+                             SessionNodeExpectation& node);
+    bool checkStep(const Part& part, const SessionStep& step);
 };
 
 bool Reader::readSize(const QJsonValue& value, QSize& sizePx)
@@ -103,74 +132,60 @@ bool Reader::readSize(const QJsonValue& value, QSize& sizePx)
 
 bool Reader::readCamera(const QJsonValue& value, SessionCamera& camera)
 {
-    const QString path = QStringLiteral("camera");
-    const QJsonObject object = value.toObject();
-    if (!value.isObject()) {
-        return fail(path, QStringLiteral("expected an object"));
-    }
     constexpr double kMaxFovDeg = 179.0;
-    if (!checkKeys(object, path, sessionKeys(SessionPart::Camera)) ||
-        !readNumbers(object.value("from"), path + ".from", camera.from.data(), 3) ||
-        !readNumbers(object.value("at"), path + ".at", camera.at.data(), 3) ||
-        !readNumbers(object.value("up"), path + ".up", camera.up.data(), 3) ||
-        !take(object, path, "pivot", camera.pivot) ||
-        !readInRange(object, path, "fov", 1.0, kMaxFovDeg, camera.fovDeg)) {
-        return false;
-    }
-    if (camera.from == camera.at) {
-        return fail(path, QStringLiteral("from and at are the same point"));
-    }
-    return take(object, path, "orthographic", camera.orthographic) &&
-        take(object, path, "zUp", camera.zUp);
+    Part part;
+    return open(value, QStringLiteral("camera"), sessionKeys(SessionPart::Camera), part) &&
+        need(part, "from", camera.from) && need(part, "at", camera.at) &&
+        need(part, "up", camera.up) && take(part, "pivot", camera.pivot) &&
+        takeInRange(part, "fov", 1.0, kMaxFovDeg, camera.fovDeg) &&
+        (camera.from != camera.at ||
+         fail(part.path, QStringLiteral("from and at are the same point"))) &&
+        take(part, "orthographic", camera.orthographic) && take(part, "zUp", camera.zUp);
 }
 
-bool Reader::readInRange(const QJsonObject& object, const QString& path, const char* key,
-                         double least, double most, double& number)
+bool Reader::takeInRange(const Part& part, const char* key, double least, double most,
+                         double& number)
 {
-    const QJsonValue value = object.value(QLatin1String(key));
+    const QJsonValue value = part.value(key);
     number = value.toDouble(number);
     const bool isMeant = value.isDouble() || value.isUndefined();
     return (isMeant && number >= least && number <= most) ||
-        fail(path + '.' + key,
+        fail(part.place(key),
              QStringLiteral("expected a number from %1 to %2").arg(least).arg(most));
 }
 
-bool Reader::readNamedTarget(const QJsonObject& object, const QString& path, SessionTarget& target)
+bool Reader::readNamedTarget(const Part& part, SessionTarget& target)
 {
-    if (!checkKeys(object, path, sessionKeys(SessionPart::Target))) {
-        return false;
-    }
+    using Kind = SessionTarget::Kind;
     std::array<double, 2> offset { 0.0, 0.0 };
-    if (!take(object, path, object.contains("by") ? "by" : "offset", offset)) {
+    if (!take(part, part.has("by") ? "by" : "offset", offset)) {
         return false;
     }
     target.offsetPx = QPointF(offset[0], offset[1]);
-    if (object.size() > (object.contains("offset") ? 2 : 1)) {
-        return fail(path, QStringLiteral("names more than one place"));
+    if (part.object.size() > (part.has("offset") ? 2 : 1)) {
+        return fail(part.path, QStringLiteral("names more than one place"));
     }
-    if (object.contains("by")) {
-        target.kind = SessionTarget::Kind::Pointer;
-        return checkKeys(object, path, { "by" });
+    if (part.has("by")) {
+        target.kind = Kind::Pointer;
+        return checkKeys(part.object, part.path, { "by" });
     }
-    if (object.contains("handle")) {
-        target.kind = SessionTarget::Kind::Handle;
-        return readString(object.value("handle"), path + ".handle", target.name);
+    if (part.has("world")) {
+        target.kind = Kind::World;
+        return need(part, "world", target.world);
     }
-    if (object.contains("node")) {
-        target.kind = SessionTarget::Kind::Node;
-        return readString(object.value("node"), path + ".node", target.name);
-    }
-    if (object.contains("world")) {
-        target.kind = SessionTarget::Kind::World;
-        return readNumbers(object.value("world"), path + ".world", target.world.data(), 3);
-    }
-    return fail(path, QStringLiteral("expected \"handle\", \"node\", \"world\" or \"by\""));
+    target.kind = part.has("handle") ? Kind::Handle : Kind::Node;
+    return (part.has("handle") || part.has("node") ||
+            fail(part.path,
+                 QStringLiteral("expected \"handle\", \"node\", \"world\" or \"by\""))) &&
+        take(part, "handle", target.name) && take(part, "node", target.name);
 }
 
 bool Reader::readTarget(const QJsonValue& value, const QString& path, SessionTarget& target)
 {
     if (value.isObject()) {
-        return readNamedTarget(value.toObject(), path, target);
+        Part part;
+        return open(value, path, sessionKeys(SessionPart::Target), part) &&
+            readNamedTarget(part, target);
     }
     double px[2] = { 0.0, 0.0 };
     if (!readNumbers(value, path, px, 2)) {
@@ -181,97 +196,68 @@ bool Reader::readTarget(const QJsonValue& value, const QString& path, SessionTar
     return true;
 }
 
-bool Reader::readModifiers(const QJsonValue& value, const QString& path, SessionStep& step)
+bool Reader::readNodeExpectation(const QJsonValue& value, const QString& path,
+                                 SessionNodeExpectation& node)
 {
-    if (!value.isArray()) {
-        return fail(path, QStringLiteral("expected an array of names"));
-    }
-    const QJsonArray array = value.toArray();
-    for (const QJsonValue& entry : array) {
-        const auto modifier = modifierFromName(entry.toString());
-        if (!modifier) {
-            return fail(
-                path, QStringLiteral("unknown modifier \"%1\"").arg(entry.toVariant().toString()));
-        }
-        step.modifiers |= *modifier;
-    }
-    return true;
-}
-
-bool Reader::readNodeExpectations(const QJsonValue& value, const QString& path,
-                                  std::vector<SessionNodeExpectation>& nodes)
-{
-    if (!value.isObject()) {
-        return fail(path, QStringLiteral("expected an object"));
-    }
-    const QJsonObject all = value.toObject();
-    for (const QString& name : all.keys()) {
-        const QString nodePath = path + '.' + name;
-        const QJsonObject object = all.value(name).toObject();
-        SessionNodeExpectation node;
-        node.node = name;
-        if (!checkKeys(object, nodePath, sessionKeys(SessionPart::NodeExpectation)) ||
-            !take(object, nodePath, "translation", node.translation) ||
-            !take(object, nodePath, "rotation", node.rotationDeg) ||
-            !take(object, nodePath, "scale", node.scale) ||
-            !readInRange(object, nodePath, "tolerance", 0.0, kMostTolerance, node.tolerance)) {
-            return false;
-        }
-        if (!node.translation && !node.rotationDeg && !node.scale) {
-            return fail(nodePath,
-                        QStringLiteral("expected \"translation\", \"rotation\" or "
-                                       "\"scale\""));
-        }
-        nodes.push_back(node);
-    }
-    return true;
+    Part part;
+    return open(value, path, sessionKeys(SessionPart::NodeExpectation), part) &&
+        take(part, "translation", node.translation) && take(part, "rotation", node.rotationDeg) &&
+        take(part, "scale", node.scale) &&
+        takeInRange(part, "tolerance", 0.0, kMostTolerance, node.tolerance) &&
+        (node.translation || node.rotationDeg || node.scale ||
+         fail(path, QStringLiteral("expected \"translation\", \"rotation\" or \"scale\"")));
 }
 
 bool Reader::readExpectation(const QJsonValue& value, const QString& path,
                              SessionExpectation& expectation)
 {
-    if (!value.isObject()) {
-        return fail(path, QStringLiteral("expected an object"));
-    }
-    const QJsonObject object = value.toObject();
-    if (!checkKeys(object, path, sessionKeys(SessionPart::Expectation)) ||
-        !readInRange(object, path, "tolerance", 0.0, kMostTolerance, expectation.tolerance)) {
-        return false;
-    }
     constexpr int kMostSteps = 100000;
-    if (!take(object, path, "hover", expectation.hover) ||
-        !take(object, path, "selection", expectation.selection) ||
-        !take(object, path, "orthographic", expectation.orthographic)) {
+    Part part;
+    if (!open(value, path, sessionKeys(SessionPart::Expectation), part) ||
+        !takeInRange(part, "tolerance", 0.0, kMostTolerance, expectation.tolerance) ||
+        !take(part, "hover", expectation.hover) ||
+        !take(part, "selection", expectation.selection) ||
+        !take(part, "orthographic", expectation.orthographic)) {
         return false;
     }
-    if (object.contains("undoSteps") &&
-        !takeInt(object, path, "undoSteps", kMostSteps, expectation.undoSteps.emplace())) {
+    if (part.has("undoSteps") &&
+        !takeInt(part, "undoSteps", kMostSteps, expectation.undoSteps.emplace())) {
         return false;
     }
-    if (object.contains("values")) {
-        if (!object.value("values").isObject()) {
-            return fail(path + ".values", QStringLiteral("expected an object"));
+    for (const char* key : { "values", "nodes" }) {
+        if (part.has(key) && !part.value(key).isObject()) {
+            return fail(part.place(key), QStringLiteral("expected an object"));
         }
-        expectation.values = object.value("values").toObject();
     }
-    return !object.contains("nodes") ||
-        readNodeExpectations(object.value("nodes"), path + ".nodes", expectation.nodes);
+    expectation.values = part.value("values").toObject();
+    const QJsonObject nodes = part.value("nodes").toObject();
+    for (const QString& name : nodes.keys()) {
+        SessionNodeExpectation& node = expectation.nodes.emplace_back();
+        node.node = name;
+        if (!readNodeExpectation(nodes.value(name), part.place("nodes") + '.' + name, node)) {
+            return false;
+        }
+    }
+    return true;
 }
 
 /// Demands what a step of its type cannot do without.
-bool Reader::checkStep(const QJsonObject& object, const QString& path, const SessionStep& step)
+bool Reader::checkStep(const Part& part, const SessionStep& step)
 {
     using Type = SessionStep::Type;
+    const auto has = [&](const char* key) {
+        return part.has(key) || fail(part.path, QStringLiteral("\"%1\" is missing").arg(key));
+    };
     switch (step.type) {
     case Type::Move:
     case Type::Press:
     case Type::Release:
     case Type::Click:
     case Type::DoubleClick:
-        return object.contains("at") || fail(path, QStringLiteral("\"at\" is missing"));
+        return has("at");
     case Type::Wheel:
-        return (object.contains("at") || fail(path, QStringLiteral("\"at\" is missing"))) &&
-            (step.wheelDelta != 0 || fail(path, QStringLiteral("\"delta\" is missing or 0")));
+        return has("at") &&
+            (step.wheelDelta != 0 || fail(part.path, QStringLiteral("\"delta\" is missing or 0")));
     case Type::Key:
     case Type::KeyPress:
     case Type::KeyRelease: {
@@ -279,20 +265,20 @@ bool Reader::checkStep(const QJsonObject& object, const QString& path, const Ses
         const bool isOneKey = keys.count() == 1 && nbQt::firstKey(keys) != Qt::Key_unknown;
         const bool isModifier = step.key == "Ctrl" || step.key == "Shift" || step.key == "Alt";
         return isOneKey || isModifier ||
-            fail(path + ".key", QStringLiteral("unknown key \"%1\"").arg(step.key));
+            fail(part.place("key"), QStringLiteral("unknown key \"%1\"").arg(step.key));
     }
     case Type::Checkpoint: {
         // The name becomes that of a file in a folder that the person chose.
         const bool isPath = step.name.contains('/') || step.name.contains('\\') ||
             step.name.startsWith('.') || step.name != oneLine(step.name);
-        return (!step.name.isEmpty() || fail(path, QStringLiteral("\"name\" is missing"))) &&
-            (!isPath || fail(path + ".name", QStringLiteral("may not be a path")));
+        return (!step.name.isEmpty() || fail(part.path, QStringLiteral("\"name\" is missing"))) &&
+            (!isPath || fail(part.place("name"), QStringLiteral("may not be a path")));
     }
     case Type::Caption:
         return !step.name.isEmpty() || step.text.isEmpty() ||
-            fail(path, QStringLiteral("\"title\" is missing"));
+            fail(part.path, QStringLiteral("\"title\" is missing"));
     case Type::Command:
-        return object.contains("command") || fail(path, QStringLiteral("\"command\" is missing"));
+        return has("command");
     case Type::Leave:
         break;
     }
@@ -301,92 +287,74 @@ bool Reader::checkStep(const QJsonObject& object, const QString& path, const Ses
 
 bool Reader::readStep(const QJsonValue& value, const QString& path, SessionStep& step)
 {
-    if (!value.isObject()) {
-        return fail(path, QStringLiteral("expected an object"));
-    }
-    const QJsonObject object = value.toObject();
-    if (!checkKeys(object, path, sessionKeys(SessionPart::Step))) {
+    Part part;
+    if (!open(value, path, sessionKeys(SessionPart::Step), part)) {
         return false;
     }
-    const auto type = stepTypeFromName(object.value("type").toString());
+    const auto unknown = [&](const char* key, const char* what, const QJsonValue& found) {
+        return fail(part.place(key),
+                    QStringLiteral("unknown %1 \"%2\"").arg(what, found.toVariant().toString()));
+    };
+    const auto type = stepTypeFromName(part.value("type").toString());
     if (!type) {
-        return fail(
-            path + ".type",
-            QStringLiteral("unknown type \"%1\"").arg(object.value("type").toVariant().toString()));
+        return unknown("type", "type", part.value("type"));
     }
     step.type = *type;
-    if (object.contains("button")) {
-        const auto button = buttonFromName(object.value("button").toString());
+    if (part.has("button")) {
+        const auto button = buttonFromName(part.value("button").toString());
         if (!button) {
-            return fail(path + ".button",
+            return fail(part.place("button"),
                         QStringLiteral("expected \"left\", \"middle\" or \"right\""));
         }
         step.button = *button;
     }
-    if (object.contains("value")) {
-        step.value = object.value("value");
-    }
+    step.value = part.has("value") ? part.value("value") : step.value;
+    const auto readModifier = [&](const QJsonValue& entry, const QString&) {
+        const auto modifier = modifierFromName(entry.toString());
+        step.modifiers |= modifier.value_or(Qt::NoModifier);
+        return modifier || unknown("modifiers", "modifier", entry);
+    };
     constexpr int kMaxDelta = 120000;
     constexpr int kMaxPauseMs = 60000;
     const char* const nameKey = step.type == SessionStep::Type::Command ? "command"
         : step.type == SessionStep::Type::Caption                       ? "title"
                                                                         : "name";
-    return (!object.contains("at") || readTarget(object.value("at"), path + ".at", step.at)) &&
-        (!object.contains("modifiers") ||
-         readModifiers(object.value("modifiers"), path + ".modifiers", step)) &&
-        takeInt(object, path, "delta", kMaxDelta, step.wheelDelta) &&
-        takeInt(object, path, "after", kMaxPauseMs, step.afterMs) &&
-        take(object, path, "key", step.key) && take(object, path, nameKey, step.name) &&
-        take(object, path, "text", step.text) &&
-        take(object, path, "screenshot", step.screenshot) &&
-        (!object.contains("expect") ||
-         readExpectation(object.value("expect"), path + ".expect", step.expectation)) &&
-        checkStep(object, path, step);
+    return (!part.has("at") || readTarget(part.value("at"), part.place("at"), step.at)) &&
+        takeEach(part, "modifiers", readModifier) &&
+        takeInt(part, "delta", kMaxDelta, step.wheelDelta) &&
+        takeInt(part, "after", kMaxPauseMs, step.afterMs) && take(part, "key", step.key) &&
+        take(part, nameKey, step.name) && take(part, "text", step.text) &&
+        take(part, "screenshot", step.screenshot) &&
+        (!part.has("expect") ||
+         readExpectation(part.value("expect"), part.place("expect"), step.expectation)) &&
+        checkStep(part, step);
 }
 
-bool Reader::readSession(const QJsonObject& object, Session& session)
+bool Reader::readSession(const QJsonObject& all, Session& session)
 {
-    if (!checkKeys(object, {}, sessionKeys(SessionPart::Session))) {
+    Part part;
+    if (!open(all, {}, sessionKeys(SessionPart::Session), part)) {
         return false;
     }
-    if (object.value("session").toInt() != 1) {
+    if (part.value("session").toInt() != 1) {
         return fail(QStringLiteral("session"),
                     QStringLiteral("expected 1, the version of the format"));
     }
-    if (!readSize(object.value("size"), session.sizePx)) {
-        return false;
-    }
-    if (object.contains("files") && !object.value("files").isArray()) {
-        return fail(QStringLiteral("files"), QStringLiteral("expected an array of names"));
-    }
-    const QJsonArray files = object.value("files").toArray();
-    for (int i = 0; i < files.size(); ++i) {
+    const auto readFile = [&](const QJsonValue& value, const QString& path) {
         QString file;
-        if (!readString(files.at(i), QStringLiteral("files[%1]").arg(i), file)) {
-            return false;
-        }
+        const bool isRead = readString(value, path, file);
         session.files.append(file);
-    }
-    if (object.contains("camera") &&
-        !readCamera(object.value("camera"), session.camera.emplace())) {
-        return false;
-    }
-    if (!take(object, {}, "selection", session.selection) ||
-        !take(object, {}, "manipulator", session.manipulator)) {
-        return false;
-    }
-    if (!object.value("steps").isArray()) {
-        return fail(QStringLiteral("steps"), QStringLiteral("expected an array"));
-    }
-    const QJsonArray steps = object.value("steps").toArray();
-    for (int i = 0; i < steps.size(); ++i) {
-        SessionStep step;
-        if (!readStep(steps.at(i), QStringLiteral("steps[%1]").arg(i), step)) {
-            return false;
-        }
-        session.steps.push_back(step);
-    }
-    return true;
+        return isRead;
+    };
+    const auto readOne = [&](const QJsonValue& value, const QString& path) {
+        return readStep(value, path, session.steps.emplace_back());
+    };
+    return readSize(part.value("size"), session.sizePx) && takeEach(part, "files", readFile) &&
+        (!part.has("camera") || readCamera(part.value("camera"), session.camera.emplace())) &&
+        take(part, "selection", session.selection) &&
+        take(part, "manipulator", session.manipulator) &&
+        (part.has("steps") || fail(QStringLiteral("steps"), QStringLiteral("expected an array"))) &&
+        takeEach(part, "steps", readOne);
 }
 
 }  // namespace

@@ -49,18 +49,25 @@ QJsonValue jsonOf(const SessionTarget& target)
     return object;
 }
 
+QJsonValue jsonOf(const QJsonValue& value)
+{
+    return value;
+}
+
+template <class Value>
+void set(QJsonObject& object, const char* key, const std::optional<Value>& value)
+{
+    if (value) {
+        object[QLatin1String(key)] = jsonOf(*value);
+    }
+}
+
 QJsonObject jsonOf(const SessionNodeExpectation& node)
 {
     QJsonObject object;
-    if (node.translation) {
-        object["translation"] = jsonOf(*node.translation);
-    }
-    if (node.rotationDeg) {
-        object["rotation"] = jsonOf(*node.rotationDeg);
-    }
-    if (node.scale) {
-        object["scale"] = jsonOf(*node.scale);
-    }
+    set(object, "translation", node.translation);
+    set(object, "rotation", node.rotationDeg);
+    set(object, "scale", node.scale);
     if (node.tolerance != SessionNodeExpectation::kDefaultTolerance) {
         object["tolerance"] = node.tolerance;
     }
@@ -70,18 +77,10 @@ QJsonObject jsonOf(const SessionNodeExpectation& node)
 QJsonObject jsonOf(const SessionExpectation& expectation)
 {
     QJsonObject object;
-    if (expectation.hover) {
-        object["hover"] = *expectation.hover;
-    }
-    if (expectation.selection) {
-        object["selection"] = *expectation.selection;
-    }
-    if (expectation.orthographic) {
-        object["orthographic"] = *expectation.orthographic;
-    }
-    if (expectation.undoSteps) {
-        object["undoSteps"] = *expectation.undoSteps;
-    }
+    set(object, "hover", expectation.hover);
+    set(object, "selection", expectation.selection);
+    set(object, "orthographic", expectation.orthographic);
+    set(object, "undoSteps", expectation.undoSteps);
     QJsonObject nodes;
     for (const SessionNodeExpectation& node : expectation.nodes) {
         nodes[node.node] = jsonOf(node);

@@ -371,13 +371,13 @@ bool Stage::refuseMove() const
     return viewHeld;
 }
 
-bool Stage::HeldCamera::triggerEvent(nbec::interaction::InteractionManager* manager,
+bool Stage::HeldCamera::triggerEvent(nbec::interaction::InteractionManager* asked,
                                      const nbec::interaction::InteractionEvent& event)
 {
     namespace names = nbec::interaction::names;
     const bool isMove = event.getTool() == names::kCamera && event.getEvent() != names::kStop;
     return isMove && stage.refuseMove() ? event.getEvent() == names::kTrigger
-                                        : CameraInteractionContext::triggerEvent(manager, event);
+                                        : CameraInteractionContext::triggerEvent(asked, event);
 }
 
 void Stage::setPose(const CameraPose& wanted)
