@@ -254,7 +254,7 @@ PerspectiveDoubt doubtOf(const std::vector<VanishingPoint>& points, bool isFovFo
 {
     if (isFovFound) {
         return fovDeg > nbPerspectiveSolver::kDoubtfulFovDeg ? PerspectiveDoubt::AlmostParallelLines
-                                                             : PerspectiveDoubt::None;
+                                                             : PerspectiveDoubt::NoDoubt;
     }
     const auto meeting = std::count_if(points.begin(), points.end(),
                                        [](const auto& point) { return point.isFinite(); });
@@ -426,7 +426,7 @@ PerspectiveQuality nbPerspectiveSolver::judge(const PerspectiveProblem& problem,
     if (isFovFound || problem.fovMode == nbCameraTypes::SolvedFov) {
         const std::vector<VanishingPoint> points = findVanishingPoints(edges);
         quality.doubt = doubtOf(points, isFovFound, quality.fovDeg);
-        quality.doubtfulAxis = quality.doubt == PerspectiveDoubt::None
+        quality.doubtfulAxis = quality.doubt == PerspectiveDoubt::NoDoubt
             ? -1
             : std::max_element(points.begin(), points.end(), [](const auto& a, const auto& b) {
                   return isFarther(b, a);

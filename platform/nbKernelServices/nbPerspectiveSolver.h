@@ -53,7 +53,7 @@ struct PerspectiveSolution
 /// Why lines hardly tell, or do not tell, the field of view.
 enum class PerspectiveDoubt
 {
-    None,
+    NoDoubt,
     ParallelLines,  ///< fewer than two vanishing points: a level camera, or one along an axis
     AlmostParallelLines,  ///< solved, but with a deviation above kDoubtfulFovDeg
     NoFieldOfViewFits,  ///< two vanishing points that no right angle shows
@@ -69,7 +69,7 @@ struct PerspectiveQuality
     /// field of view is that across the height, 0 where it is kept.
     double fovDeg = 0.0;
     double rotationDeg = 0.0;
-    PerspectiveDoubt doubt = PerspectiveDoubt::None;
+    PerspectiveDoubt doubt = PerspectiveDoubt::NoDoubt;
     /// The used axis whose lines are most nearly parallel; -1 without a doubt.
     int doubtfulAxis = -1;
 };

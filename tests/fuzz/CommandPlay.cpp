@@ -15,6 +15,7 @@
 #include <nbKernelServices/nbUndoService.h>
 
 #include <QBuffer>
+#include <QGuiApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -62,10 +63,23 @@ std::string playArguments(Stage& stage, const QByteArray& line)
     return isRead || !error.isEmpty() ? "" : "a file is refused without a word";
 }
 
+/// Plates with texts need fonts, and these an application.
+void needFonts()
+{
+    static char name[] = "fuzz";
+    static char* arguments[] = { name, nullptr };
+    static int count = 1;
+    if (QCoreApplication::instance() == nullptr) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        static const QGuiApplication application(count, arguments);
+    }
+}
+
 }  // namespace
 
 std::string playCommands(const std::uint8_t* data, std::size_t size)
 {
+    needFonts();
     constexpr int kMostLines = 60;
     nbOSGWidget view;
     Stage stage(view);

@@ -18,7 +18,7 @@ UPPER = r"viewer/"
 LIBRARY = r"(manipulator|modules)/"
 PLATFORM = r"(platform/|nb[A-Z]\w*/)"
 FORBIDDEN = {
-    "opensg": [UPPER, LIBRARY, PLATFORM, r"Q[A-Z]\w*", r"Qt\w+/", r"GL/"],
+    "opensg": [UPPER, LIBRARY, PLATFORM, r"Q[A-Z]\w*", r"Qt\w+/", r"GL/(?!gl\.h)"],
     "platform": [UPPER, LIBRARY],
     "manipulator": [UPPER, r"modules/"],
     "modules": [UPPER],

@@ -25,6 +25,7 @@ public:
         : view(drawn)
     {
         view.installEventFilter(this);
+        view.setCoarseWhileMoving(false);  // a whole picture would follow each
     }
 
     /// Where a point of the x arrow is drawn, and how long the arrow is from the side; logical

@@ -130,13 +130,14 @@ void PerspectiveMatchPanel::addKnowledge(QBoxLayout& column)
     auto* form = new QFormLayout;
     form->setRowWrapPolicy(QFormLayout::WrapAllRows);
     column.addLayout(form);
-    const auto addNumber = [&](double start) {
+    const auto addNumber = [&](const QString& name, double start) {
         NumberBox::Style style;
         style.least = 0.01;
         style.most = 1e5;
         style.decimals = 2;
         auto* box = new NumberBox(style, this);
         box->display(start);
+        box->setAccessibleName(name);
         ofUnlocked.push_back(box);
         return box;
     };
@@ -151,8 +152,8 @@ void PerspectiveMatchPanel::addKnowledge(QBoxLayout& column)
     };
     constexpr double kUsualLens = 35.0;
     constexpr double kFullFrame = 36.0;
-    NumberBox* const focal = addNumber(kUsualLens);
-    NumberBox* const sensor = addNumber(kFullFrame);
+    NumberBox* const focal = addNumber(tr("Focal length"), kUsualLens);
+    NumberBox* const sensor = addNumber(tr("Sensor width"), kFullFrame);
     QPushButton* const lens =
         addButton(*addRow(tr("Lens, sensor (mm)"), { focal, sensor }), "match.setLens", tr("Set"));
     connect(lens, &QPushButton::clicked, this, [=] {
@@ -160,13 +161,14 @@ void PerspectiveMatchPanel::addKnowledge(QBoxLayout& column)
             QJsonObject { { "focalLength", focal->value() }, { "sensorWidth", sensor->value() } });
     });
     auto* line = new QComboBox(this);
+    line->setAccessibleName(tr("Line"));
     for (int i = 0; i < PerspectiveMatchTool::kLineCount; ++i) {
         line->addItem(QString(QLatin1String(PerspectiveMatchTool::lineName(i))).toUpper());
     }
-    NumberBox* const length = addNumber(1.0);
+    NumberBox* const length = addNumber(tr("Length"), 1.0);
     QPushButton* const place =
         addButton(*addRow(tr("A line from the origin, its length"), { line, length }),
-                  "match.placeByLine", tr("Place"));
+                  "match.placeByLine", tr("Move camera"));
     connect(place, &QPushButton::clicked, this, [=] {
         run(QStringLiteral("match.placeByLine"),
             QJsonObject { { "line", line->currentText().toLower() },

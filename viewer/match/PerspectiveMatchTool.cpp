@@ -320,7 +320,7 @@ QString PerspectiveMatchTool::qualityText() const
         parts.append(
             Text::tr("No camera sees right angles so: check which lines belong together."));
         break;
-    case PerspectiveDoubt::None:
+    case PerspectiveDoubt::NoDoubt:
         break;
     }
     return parts.join(QLatin1Char(' '));

@@ -123,6 +123,18 @@
         <source>Picture</source>
         <translation>Bild</translation>
     </message>
+    <message>
+        <source>Align scene plates</source>
+        <translation>Szenenplatten ausrichten</translation>
+    </message>
+    <message>
+        <source>Distribute scene plates</source>
+        <translation>Szenenplatten verteilen</translation>
+    </message>
+    <message>
+        <source>Duplicate scene plates</source>
+        <translation>Szenenplatten duplizieren</translation>
+    </message>
 </context>
 <context>
     <name>nbForegroundTextContext</name>
@@ -671,6 +683,59 @@
         <source>Rename</source>
         <translation>Umbenennen</translation>
     </message>
+    <message>
+        <source>Field of view ±%1°.</source>
+        <translation>Bildwinkel ±%1°.</translation>
+    </message>
+    <message>
+        <source>Orientation ±%1°.</source>
+        <translation>Ausrichtung ±%1°.</translation>
+    </message>
+    <message>
+        <source>Line %1 is off by %2 pixels.</source>
+        <translation>Linie %1 liegt um %2 Pixel daneben.</translation>
+    </message>
+    <message>
+        <source>The lines of %1 are parallel in the picture, so it does not tell the field of view: use lines of a third axis, or set the lens.</source>
+        <translation>Die Linien von %1 sind im Bild parallel, es sagt daher nichts über den Bildwinkel: Linien einer dritten Achse verwenden oder das Objektiv angeben.</translation>
+    </message>
+    <message>
+        <source>The lines of %1 are almost parallel in the picture, so it hardly tells the field of view: use lines of a third axis, or set the lens.</source>
+        <translation>Die Linien von %1 sind im Bild fast parallel, es sagt daher kaum etwas über den Bildwinkel: Linien einer dritten Achse verwenden oder das Objektiv angeben.</translation>
+    </message>
+    <message>
+        <source>No camera sees right angles so: check which lines belong together.</source>
+        <translation>Keine Kamera sieht rechte Winkel so: prüfen, welche Linien zusammengehören.</translation>
+    </message>
+    <message>
+        <source>Turn axes about %1</source>
+        <translation>Achsen um %1 drehen</translation>
+    </message>
+    <message>
+        <source>Place camera</source>
+        <translation>Kamera setzen</translation>
+    </message>
+    <message>
+        <source>line %1 tells no place: it must run along its axis and not be a point</source>
+        <translation>Linie %1 ergibt keinen Ort: sie muss entlang ihrer Achse verlaufen und darf kein Punkt sein</translation>
+    </message>
+    <message>
+        <source>Set lens</source>
+        <translation>Objektiv angeben</translation>
+    </message>
+    <message>
+        <source>%1: %2 px</source>
+        <comment>line, how far it is off</comment>
+        <translation>%1: %2 px</translation>
+    </message>
+    <message>
+        <source>at least three scene plates are needed</source>
+        <translation>es braucht mindestens drei Szenenplatten</translation>
+    </message>
+    <message>
+        <source>Anchor</source>
+        <translation type="unfinished">Anker</translation>
+    </message>
 </context>
 <context>
     <name>viewer::AboutBox</name>
@@ -1199,6 +1264,46 @@
         <comment>sentence, number</comment>
         <translation>%1 Bildwinkel %2°.</translation>
     </message>
+    <message>
+        <source>Focal length</source>
+        <translation>Brennweite</translation>
+    </message>
+    <message>
+        <source>Sensor width</source>
+        <translation>Sensorbreite</translation>
+    </message>
+    <message>
+        <source>Lens, sensor (mm)</source>
+        <translation>Objektiv, Sensor (mm)</translation>
+    </message>
+    <message>
+        <source>Set</source>
+        <translation>Angeben</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Linie</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Länge</translation>
+    </message>
+    <message>
+        <source>A line from the origin, its length</source>
+        <translation>Linie ab dem Ursprung, ihre Länge</translation>
+    </message>
+    <message>
+        <source>Move camera</source>
+        <translation>Kamera bewegen</translation>
+    </message>
+    <message>
+        <source>Turn axes about</source>
+        <translation>Achsen drehen um</translation>
+    </message>
+    <message>
+        <source>Lines snap to edges (Alt: not)</source>
+        <translation>Linien rasten an Kanten ein (Alt: nicht)</translation>
+    </message>
 </context>
 <context>
     <name>viewer::PlatesPanel</name>
@@ -1373,6 +1478,46 @@
     <message>
         <source>Add picture</source>
         <translation>Bild hinzufügen</translation>
+    </message>
+    <message>
+        <source>Align left</source>
+        <translation>Links ausrichten</translation>
+    </message>
+    <message>
+        <source>Align centres across</source>
+        <translation>Waagerecht mittig ausrichten</translation>
+    </message>
+    <message>
+        <source>Align right</source>
+        <translation>Rechts ausrichten</translation>
+    </message>
+    <message>
+        <source>Align top</source>
+        <translation>Oben ausrichten</translation>
+    </message>
+    <message>
+        <source>Align centres down</source>
+        <translation>Senkrecht mittig ausrichten</translation>
+    </message>
+    <message>
+        <source>Align bottom</source>
+        <translation>Unten ausrichten</translation>
+    </message>
+    <message>
+        <source>Equal gaps across</source>
+        <translation>Gleiche Abstände waagerecht</translation>
+    </message>
+    <message>
+        <source>Equal gaps down</source>
+        <translation>Gleiche Abstände senkrecht</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation type="unfinished">Duplizieren</translation>
+    </message>
+    <message>
+        <source>Arrange plates</source>
+        <translation>Platten anordnen</translation>
     </message>
 </context>
 <context>

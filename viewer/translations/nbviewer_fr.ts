@@ -123,6 +123,18 @@
         <source>Picture</source>
         <translation>Image</translation>
     </message>
+    <message>
+        <source>Align scene plates</source>
+        <translation>Aligner les plaques de scène</translation>
+    </message>
+    <message>
+        <source>Distribute scene plates</source>
+        <translation>Répartir les plaques de scène</translation>
+    </message>
+    <message>
+        <source>Duplicate scene plates</source>
+        <translation>Dupliquer les plaques de scène</translation>
+    </message>
 </context>
 <context>
     <name>nbForegroundTextContext</name>
@@ -671,6 +683,59 @@
         <source>Rename</source>
         <translation>Renommer</translation>
     </message>
+    <message>
+        <source>Field of view ±%1°.</source>
+        <translation>Champ de vision ±%1°.</translation>
+    </message>
+    <message>
+        <source>Orientation ±%1°.</source>
+        <translation>Orientation ± %1°.</translation>
+    </message>
+    <message>
+        <source>Line %1 is off by %2 pixels.</source>
+        <translation>La ligne %1 est décalée de %2 pixels.</translation>
+    </message>
+    <message>
+        <source>The lines of %1 are parallel in the picture, so it does not tell the field of view: use lines of a third axis, or set the lens.</source>
+        <translation>Les lignes de %1 sont parallèles dans l'image, qui ne dit donc rien du champ de vision : utilisez les lignes d'un troisième axe ou indiquez l'objectif.</translation>
+    </message>
+    <message>
+        <source>The lines of %1 are almost parallel in the picture, so it hardly tells the field of view: use lines of a third axis, or set the lens.</source>
+        <translation>Les lignes de %1 sont presque parallèles dans l'image, qui dit donc peu du champ de vision : utilisez les lignes d'un troisième axe ou indiquez l'objectif.</translation>
+    </message>
+    <message>
+        <source>No camera sees right angles so: check which lines belong together.</source>
+        <translation>Aucune caméra ne voit ainsi des angles droits : vérifiez quelles lignes vont ensemble.</translation>
+    </message>
+    <message>
+        <source>Turn axes about %1</source>
+        <translation>Tourner les axes autour de %1</translation>
+    </message>
+    <message>
+        <source>Place camera</source>
+        <translation>Placer la caméra</translation>
+    </message>
+    <message>
+        <source>line %1 tells no place: it must run along its axis and not be a point</source>
+        <translation>la ligne %1 n'indique aucun lieu : elle doit suivre son axe et ne pas être un point</translation>
+    </message>
+    <message>
+        <source>Set lens</source>
+        <translation>Indiquer l'objectif</translation>
+    </message>
+    <message>
+        <source>%1: %2 px</source>
+        <comment>line, how far it is off</comment>
+        <translation>%1 : %2 px</translation>
+    </message>
+    <message>
+        <source>at least three scene plates are needed</source>
+        <translation>il faut au moins trois plaques de scène</translation>
+    </message>
+    <message>
+        <source>Anchor</source>
+        <translation type="unfinished">Ancrage</translation>
+    </message>
 </context>
 <context>
     <name>viewer::AboutBox</name>
@@ -1199,6 +1264,46 @@
         <comment>sentence, number</comment>
         <translation>%1 Champ de vision %2°.</translation>
     </message>
+    <message>
+        <source>Focal length</source>
+        <translation>Distance focale</translation>
+    </message>
+    <message>
+        <source>Sensor width</source>
+        <translation>Largeur du capteur</translation>
+    </message>
+    <message>
+        <source>Lens, sensor (mm)</source>
+        <translation>Objectif, capteur (mm)</translation>
+    </message>
+    <message>
+        <source>Set</source>
+        <translation>Indiquer</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Ligne</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Longueur</translation>
+    </message>
+    <message>
+        <source>A line from the origin, its length</source>
+        <translation>Ligne partant de l'origine, sa longueur</translation>
+    </message>
+    <message>
+        <source>Move camera</source>
+        <translation>Déplacer la caméra</translation>
+    </message>
+    <message>
+        <source>Turn axes about</source>
+        <translation>Tourner les axes autour de</translation>
+    </message>
+    <message>
+        <source>Lines snap to edges (Alt: not)</source>
+        <translation>Les lignes se calent sur les arêtes (Alt : non)</translation>
+    </message>
 </context>
 <context>
     <name>viewer::PlatesPanel</name>
@@ -1373,6 +1478,46 @@
     <message>
         <source>Add picture</source>
         <translation>Ajouter une image</translation>
+    </message>
+    <message>
+        <source>Align left</source>
+        <translation>Aligner à gauche</translation>
+    </message>
+    <message>
+        <source>Align centres across</source>
+        <translation>Aligner les centres à l'horizontale</translation>
+    </message>
+    <message>
+        <source>Align right</source>
+        <translation>Aligner à droite</translation>
+    </message>
+    <message>
+        <source>Align top</source>
+        <translation>Aligner en haut</translation>
+    </message>
+    <message>
+        <source>Align centres down</source>
+        <translation>Aligner les centres à la verticale</translation>
+    </message>
+    <message>
+        <source>Align bottom</source>
+        <translation>Aligner en bas</translation>
+    </message>
+    <message>
+        <source>Equal gaps across</source>
+        <translation>Espacer également à l'horizontale</translation>
+    </message>
+    <message>
+        <source>Equal gaps down</source>
+        <translation>Espacer également à la verticale</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation type="unfinished">Dupliquer</translation>
+    </message>
+    <message>
+        <source>Arrange plates</source>
+        <translation>Disposer les plaques</translation>
     </message>
 </context>
 <context>

@@ -123,6 +123,18 @@
         <source>Picture</source>
         <translation>图片</translation>
     </message>
+    <message>
+        <source>Align scene plates</source>
+        <translation>对齐场景牌</translation>
+    </message>
+    <message>
+        <source>Distribute scene plates</source>
+        <translation>分布场景牌</translation>
+    </message>
+    <message>
+        <source>Duplicate scene plates</source>
+        <translation>复制场景牌</translation>
+    </message>
 </context>
 <context>
     <name>nbForegroundTextContext</name>
@@ -669,6 +681,59 @@
         <source>Rename</source>
         <translation>重命名</translation>
     </message>
+    <message>
+        <source>Field of view ±%1°.</source>
+        <translation>视角 ±%1°。</translation>
+    </message>
+    <message>
+        <source>Orientation ±%1°.</source>
+        <translation>方向 ±%1°。</translation>
+    </message>
+    <message>
+        <source>Line %1 is off by %2 pixels.</source>
+        <translation>线 %1 偏离 %2 像素。</translation>
+    </message>
+    <message>
+        <source>The lines of %1 are parallel in the picture, so it does not tell the field of view: use lines of a third axis, or set the lens.</source>
+        <translation>%1 的线在图片中平行，因此无法确定视角：请使用第三个轴的线，或设置镜头。</translation>
+    </message>
+    <message>
+        <source>The lines of %1 are almost parallel in the picture, so it hardly tells the field of view: use lines of a third axis, or set the lens.</source>
+        <translation>%1 的线在图片中几乎平行，因此难以确定视角：请使用第三个轴的线，或设置镜头。</translation>
+    </message>
+    <message>
+        <source>No camera sees right angles so: check which lines belong together.</source>
+        <translation>没有相机会这样看到直角：请检查哪些线属于同一轴。</translation>
+    </message>
+    <message>
+        <source>Turn axes about %1</source>
+        <translation>绕 %1 转动坐标轴</translation>
+    </message>
+    <message>
+        <source>Place camera</source>
+        <translation>放置相机</translation>
+    </message>
+    <message>
+        <source>line %1 tells no place: it must run along its axis and not be a point</source>
+        <translation>线 %1 无法确定位置：它必须沿其轴线且不能是一个点</translation>
+    </message>
+    <message>
+        <source>Set lens</source>
+        <translation>设置镜头</translation>
+    </message>
+    <message>
+        <source>%1: %2 px</source>
+        <comment>line, how far it is off</comment>
+        <translation>%1：%2 像素</translation>
+    </message>
+    <message>
+        <source>at least three scene plates are needed</source>
+        <translation>至少需要三个场景牌</translation>
+    </message>
+    <message>
+        <source>Anchor</source>
+        <translation type="unfinished">锚点</translation>
+    </message>
 </context>
 <context>
     <name>viewer::AboutBox</name>
@@ -1197,6 +1262,46 @@
         <comment>sentence, number</comment>
         <translation>%1视场 %2°。</translation>
     </message>
+    <message>
+        <source>Focal length</source>
+        <translation>焦距</translation>
+    </message>
+    <message>
+        <source>Sensor width</source>
+        <translation>传感器宽度</translation>
+    </message>
+    <message>
+        <source>Lens, sensor (mm)</source>
+        <translation>镜头、传感器（毫米）</translation>
+    </message>
+    <message>
+        <source>Set</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>线</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>长度</translation>
+    </message>
+    <message>
+        <source>A line from the origin, its length</source>
+        <translation>始于原点的线及其长度</translation>
+    </message>
+    <message>
+        <source>Move camera</source>
+        <translation>移动相机</translation>
+    </message>
+    <message>
+        <source>Turn axes about</source>
+        <translation>绕轴转动</translation>
+    </message>
+    <message>
+        <source>Lines snap to edges (Alt: not)</source>
+        <translation>线吸附到边缘（Alt：不吸附）</translation>
+    </message>
 </context>
 <context>
     <name>viewer::PlatesPanel</name>
@@ -1371,6 +1476,46 @@
     <message>
         <source>Add picture</source>
         <translation>添加图片</translation>
+    </message>
+    <message>
+        <source>Align left</source>
+        <translation>左对齐</translation>
+    </message>
+    <message>
+        <source>Align centres across</source>
+        <translation>水平居中对齐</translation>
+    </message>
+    <message>
+        <source>Align right</source>
+        <translation>右对齐</translation>
+    </message>
+    <message>
+        <source>Align top</source>
+        <translation>顶部对齐</translation>
+    </message>
+    <message>
+        <source>Align centres down</source>
+        <translation>垂直居中对齐</translation>
+    </message>
+    <message>
+        <source>Align bottom</source>
+        <translation>底部对齐</translation>
+    </message>
+    <message>
+        <source>Equal gaps across</source>
+        <translation>水平等距</translation>
+    </message>
+    <message>
+        <source>Equal gaps down</source>
+        <translation>垂直等距</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation type="unfinished">复制</translation>
+    </message>
+    <message>
+        <source>Arrange plates</source>
+        <translation>排列场景牌</translation>
     </message>
 </context>
 <context>

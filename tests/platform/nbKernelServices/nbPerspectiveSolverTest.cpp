@@ -130,7 +130,7 @@ TEST(nbPerspectiveSolver, QualityNamesTheLineThatIsOffAndTheAxisThatSaysLittle)
     const PerspectiveQuality off =
         nbPerspectiveSolver::judge(problem, nbPerspectiveSolver::solve(problem), kHalfPixel);
     EXPECT_EQ(std::max_element(off.residuals.begin(), off.residuals.end()), &off.residuals[3]);
-    EXPECT_EQ(off.doubt, PerspectiveDoubt::None);
+    EXPECT_EQ(off.doubt, PerspectiveDoubt::NoDoubt);
 
     struct Row
     {
