@@ -734,7 +734,7 @@
     </message>
     <message>
         <source>Anchor</source>
-        <translation type="unfinished">Anker</translation>
+        <translation>Anker</translation>
     </message>
 </context>
 <context>
@@ -1513,7 +1513,7 @@
     </message>
     <message>
         <source>Duplicate</source>
-        <translation type="unfinished">Duplizieren</translation>
+        <translation>Duplizieren</translation>
     </message>
     <message>
         <source>Arrange plates</source>

@@ -734,7 +734,7 @@
     </message>
     <message>
         <source>Anchor</source>
-        <translation type="unfinished">Ancrage</translation>
+        <translation>Ancrage</translation>
     </message>
 </context>
 <context>
@@ -1513,7 +1513,7 @@
     </message>
     <message>
         <source>Duplicate</source>
-        <translation type="unfinished">Dupliquer</translation>
+        <translation>Dupliquer</translation>
     </message>
     <message>
         <source>Arrange plates</source>

@@ -732,7 +732,7 @@
     </message>
     <message>
         <source>Anchor</source>
-        <translation type="unfinished">锚点</translation>
+        <translation>锚点</translation>
     </message>
 </context>
 <context>
@@ -1511,7 +1511,7 @@
     </message>
     <message>
         <source>Duplicate</source>
-        <translation type="unfinished">复制</translation>
+        <translation>复制</translation>
     </message>
     <message>
         <source>Arrange plates</source>
