@@ -13,13 +13,14 @@
 #include <nbOpenSGExt/Transform3D.h>
 #include <nbOpenSGUberCamera/UberCamera.h>
 
-#include <OpenSG/OSGChangeCount.h>
 #include <OpenSG/OSGSimpleGeometry.h>
 
 #include <benchmark/benchmark.h>
 
 #include <memory>
 #include <vector>
+
+#include <ChangeCount.h>
 
 namespace {
 

@@ -406,10 +406,10 @@ void buildTreeByEmbreeAlone(benchmark::State& state)
         const RTCGeometry mesh = rtcNewGeometry(device, RTC_GEOMETRY_TYPE_TRIANGLE);
         std::memcpy(rtcSetNewGeometryBuffer(mesh, RTC_BUFFER_TYPE_VERTEX, 0, RTC_FORMAT_FLOAT3,
                                             sizeof(osg::Pnt3f), positions.size()),
-                    positions.data(), positions.size() * sizeof(osg::Pnt3f));
+                    &positions[0], positions.size() * sizeof(osg::Pnt3f));
         std::memcpy(rtcSetNewGeometryBuffer(mesh, RTC_BUFFER_TYPE_INDEX, 0, RTC_FORMAT_UINT3,
                                             3 * sizeof(osg::UInt32), indices.size() / 3),
-                    indices.data(), indices.size() * sizeof(osg::UInt32));
+                    &indices[0], indices.size() * sizeof(osg::UInt32));
         rtcCommitGeometry(mesh);
         rtcAttachGeometry(scene, mesh);
         rtcReleaseGeometry(mesh);

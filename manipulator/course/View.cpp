@@ -8,6 +8,8 @@
 
 #include <cmath>
 
+#include <ViewRay.h>
+
 namespace nbec::manipulator {
 
 namespace {
@@ -87,7 +89,7 @@ std::optional<osg::Line> View::pointerRay() const
     const auto x = static_cast<osg::Int32>(pointer.x());
     const auto y = static_cast<osg::Int32>(pointer.y());
     const auto rayAt = [&](osg::Int32 column, osg::Int32 row, osg::Line& result) {
-        return widget->getCamera()->calcViewRay(result, column, row, *widget->getViewport());
+        return osg::glue::viewRay(result, widget->getCamera(), column, row, *widget->getViewport());
     };
     if (!rayAt(x, y, ray)) {
         return std::nullopt;

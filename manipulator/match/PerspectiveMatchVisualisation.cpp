@@ -113,6 +113,19 @@ PerspectiveMatchVisualisation::PerspectiveMatchVisualisation()
     show(false);
 }
 
+PerspectiveMatchVisualisation::~PerspectiveMatchVisualisation()
+{
+    for (const Pen& pen : pens) {
+        // A real OpenSG counts the parameters of a shader nowhere and would leave them behind.
+        for (const osg::ShaderParameterPtr& parameter : *pen.shader->getMFParameters()) {
+            if (parameter.getRefCount() == 0) {
+                osg::subRefCP(parameter);
+            }
+        }
+        pen.shader->getMFParameters()->clear();
+    }
+}
+
 /// Appends an empty set of lines to the root.
 osg::NodePtr PerspectiveMatchVisualisation::addLines() const
 {

@@ -36,6 +36,7 @@ class PerspectiveMatchVisualisation
 public:
     /// Builds the overlay, hidden, without lines.
     PerspectiveMatchVisualisation();
+    ~PerspectiveMatchVisualisation();
     PerspectiveMatchVisualisation(const PerspectiveMatchVisualisation&) = delete;
     PerspectiveMatchVisualisation& operator=(const PerspectiveMatchVisualisation&) = delete;
 

@@ -3,37 +3,15 @@
 /// A quick answer to "may anything have changed?", on both scene graphs.
 #pragma once
 
-#include <OpenSG/OSGBaseTypes.h>
-#include <OpenSG/OSGConfig.h>
-
-#if !defined(NBMANIPULATOR_SYSTEM_OPENSG)
-#include <OpenSG/OSGChangeCount.h>
-#endif
+#include <ChangeCount.h>
 
 namespace osg {
 namespace glue {
 
-/// Equal stamps mean that no edit ended between them. The bundled scene graph counts its edits; a
-/// real OpenSG does not, so there every stamp is new and the caller looks at the containers.
+/// Equal stamps mean that no edit ended between them.
 inline UInt64 editStamp()
 {
-#if defined(NBMANIPULATOR_SYSTEM_OPENSG)
-    static UInt64 calls = 0;
-    return ++calls;
-#else
     return getEditCount();
-#endif
-}
-
-/// Equal stamps mean that between them every node that has a parent stayed where it was, and all
-/// that is below it. New every time on a real OpenSG.
-inline UInt64 sceneStamp()
-{
-#if defined(NBMANIPULATOR_SYSTEM_OPENSG)
-    return editStamp();
-#else
-    return getSceneEditCount();
-#endif
 }
 
 /// How many edits have placed handles for one of several views alone; one number a process.

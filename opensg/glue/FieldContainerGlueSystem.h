@@ -1,32 +1,7 @@
 // SPDX-License-Identifier: MIT
 /// @file
-/// Containers of one's own, from one source for every scene graph underneath. This is the side for
-/// a real OpenSG 1.8. Used inside namespace osg, each line with a semicolon:
-///
-///     NB_CONTAINER_POINTER(Dial, TransformPtr);        // class Dial, DialPtr, DialRefPtr
-///
-///     #define DIAL_FIELDS(VALUE, OWNED, LINK) VALUE(Offset, offset, Vec3f, Vec3f(0.0F, 0.0F,
-///     0.0F))
-///     ...
-///         // VALUE(name for ids and functions, name of the field, type, start value):
-///         //     getOffset (a reference), setOffset, getSFOffset, OffsetFieldId, OffsetFieldMask
-///         // OWNED(Paint, paint, MaterialPtr): counted while it is held, copied along by deepClone
-///         // LINK(Target, target, NodePtr): neither counted nor followed; null in a deepClone
-///
-///     class Dial : public Transform
-///     {
-///         NB_CONTAINER(Dial, Transform, DIAL_FIELDS);  // create(), getClassType(), ...
-///
-///     public:
-///         void changed(BitVector whichField, UInt32 origin) override;  // calls Inherited::changed
-///     };
-///
-///     NB_CONTAINER_TYPE(Dial, Transform, DIAL_FIELDS); // in one source, loaded before osgInit
-///
-/// A state chunk says NB_STATE_CHUNK and NB_STATE_CHUNK_TYPE instead: it has a chunk class (a slot)
-/// of its own. NB_NO_FIELDS is the empty list. The macros make constructors and destructor; further
-/// data members need start values where they are declared, and a copy starts with those.
-/// Fields are not written to files and, apart from threads' aspects, not synchronised.
+/// The side of FieldContainerGlue.h for a real OpenSG 1.8. Fields are not written to files and,
+/// apart from threads' aspects, not synchronised.
 #pragma once
 
 #include <OpenSG/OSGBaseTypes.h>
@@ -133,7 +108,8 @@ void setOwned(SField<Pointer>& field, const Pointer& value)
     typedef FCPtr<BasePtr, Class> Class##Ptr;                                                      \
     typedef RefPtr<Class##Ptr> Class##RefPtr;                                                      \
     template <>                                                                                    \
-    struct FieldDataTraits<Class##Ptr> : public FieldTraitsRecurseMapper<Class##Ptr, true>         \
+    struct __attribute__((visibility("default"))) FieldDataTraits<Class##Ptr>                      \
+        : public FieldTraitsRecurseMapper<Class##Ptr, true>         \
     {                                                                                              \
         enum { StringConvertable = 0x00, bHasParent = 0x01 };                                      \
         static inline DataType _type{#Class "Ptr", #BasePtr};                                      \

@@ -63,7 +63,7 @@ void AttachmentContainer::addAttachment(const AttachmentPtr& attachment, UInt16 
     addRefCP(attachment);
     attachment->addParent(FieldContainerPtr(this));
     if (found == map.end()) {
-        map.emplace_back(key, attachment);
+        map.push_back({ key, attachment });
         return;
     }
     const AttachmentPtr old = found->second;

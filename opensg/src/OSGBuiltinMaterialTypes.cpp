@@ -22,7 +22,6 @@
 #include <OpenSG/OSGSimpleMaterial.h>
 #include <OpenSG/OSGSimpleTexturedMaterial.h>
 #include <OpenSG/OSGSolidBackground.h>
-#include <OpenSG/OSGState.h>
 #include <OpenSG/OSGTextureChunk.h>
 #include <OpenSG/OSGViewport.h>
 
@@ -56,7 +55,6 @@ void referenceMaterialTypes()
         &SimpleMaterial::getClassType(),
         &SimpleTexturedMaterial::getClassType(),
         &SolidBackground::getClassType(),
-        &State::getClassType(),
         &TextureChunk::getClassType(),
         &Viewport::getClassType(),
     });

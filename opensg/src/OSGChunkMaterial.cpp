@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include <OpenSG/OSGChunkMaterial.h>
-#include <OpenSG/OSGContentStamp.h>
 #include <OpenSG/OSGLog.h>
 
 #include <algorithm>
@@ -71,49 +70,6 @@ bool ChunkMaterial::isTransparent() const
     return std::any_of(mfChunks.begin(), mfChunks.end(), [](const StateChunkPtr& chunk) {
         return chunk != NullFC && chunk->isTransparent();
     });
-}
-
-StatePtr ChunkMaterial::makeState()
-{
-    const StatePtr result = State::create();
-    addChunks(result);
-    return result;
-}
-
-void ChunkMaterial::rebuildState()
-{
-    if (currentState == NullFC) {
-        currentState = State::create();
-    } else {
-        currentState->clearChunks();
-    }
-    addChunks(currentState);
-    stateStamp = getContentStamp();
-}
-
-StatePtr ChunkMaterial::getState()
-{
-    if (currentState == NullFC || stateStamp != getContentStamp()) {
-        rebuildState();
-    }
-    return currentState;
-}
-
-UInt64 ChunkMaterial::getContentStamp() const
-{
-    ContentStamp stamp(*this);
-    for (UInt32 i = 0; i < mfChunks.getSize(); ++i) {
-        stamp.add(mfChunks[i] != NullFC ? mfChunks[i]->getContentStamp() : 0);
-        stamp.add(static_cast<UInt64>(slotOf(i)));
-    }
-    return stamp.get();
-}
-
-void ChunkMaterial::addChunks(const StatePtr& target)
-{
-    for (UInt32 i = 0; i < mfChunks.getSize(); ++i) {
-        target->addChunk(mfChunks[i], slotOf(i));
-    }
 }
 
 Int32 ChunkMaterial::slotOf(UInt32 index) const

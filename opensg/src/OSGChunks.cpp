@@ -2,7 +2,6 @@
 /// @file
 /// The chunks that are little more than their fields.
 #include <OpenSG/OSGBlendChunk.h>
-#include <OpenSG/OSGContentStamp.h>
 #include <OpenSG/OSGDepthChunk.h>
 #include <OpenSG/OSGLineChunk.h>
 #include <OpenSG/OSGMaterialChunk.h>
@@ -23,13 +22,6 @@ StateChunkClass TextureChunk::chunkClass("TextureChunk", TextureChunk::kMaxTextu
 bool BlendChunk::isTransparent() const
 {
     return getDestFactor() != GL_ZERO;
-}
-
-UInt64 TextureChunk::getContentStamp() const
-{
-    ContentStamp stamp(*this);
-    stamp.add(getImage());
-    return stamp.get();
 }
 
 }  // namespace osg

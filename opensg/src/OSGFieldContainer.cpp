@@ -12,15 +12,9 @@ namespace osg {
 namespace detail {
 
 UInt64 editCount = 0;
-UInt64 sceneEditCount = 0;
-
-}  // namespace detail
-
-namespace {
-
 UInt64 sharedChangeCount = 0;
 
-}  // namespace
+}  // namespace detail
 
 FieldContainerType FieldContainer::classType("FieldContainer", nullptr, nullptr);
 
@@ -57,7 +51,7 @@ void FieldContainer::cloneReferences(ContainerCloner&) { }
 
 void FieldContainer::noteEdit()
 {
-    ++sharedChangeCount;
+    ++detail::sharedChangeCount;
 }
 
 bool FieldContainer::releaseOne()
@@ -132,21 +126,6 @@ void changedCP(const FieldContainerPtr& container, BitVector whichField, UInt32 
     ++container->changeCount;
     container->noteEdit();
     container->changed(whichField, origin);
-}
-
-UInt32 getChangeCount(const FieldContainerPtr& container)
-{
-    return container != NullFC ? container->getChangeCount() : 0;
-}
-
-UInt64 getTreeChangeCount(const NodePtr& node)
-{
-    return node != NullFC ? node->getSubtreeChangeCount() + sharedChangeCount : 0;
-}
-
-UInt64 getSharedChangeCount()
-{
-    return sharedChangeCount;
 }
 
 }  // namespace osg

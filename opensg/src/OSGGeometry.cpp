@@ -125,7 +125,7 @@ void openSource(const Property& source, const GeoProperty<Value>*& property, con
     property = source.getCPtr();
     size = source->getSize();
     if (source->getType() == Concrete::getClassType()) {
-        raw = static_cast<const Concrete*>(source.getCPtr())->getField().data();
+        raw = static_cast<const Concrete*>(source.getCPtr())->getField().getValues().data();
     }
 }
 

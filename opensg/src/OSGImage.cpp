@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <vector>
 
 #include "ImagePixels.h"
 
@@ -85,13 +86,13 @@ bool Image::set(UInt32 newFormat, Int32 newWidth, Int32 newHeight, Int32 newDept
     setSideCount(sideCount);
     setDataType(type);
     // The data may be those of this very image.
-    MField<UInt8> pixels;
+    std::vector<UInt8> pixels;
     if (allocMem && data != nullptr) {
         pixels.assign(data, data + getSize());
     } else if (allocMem) {
         pixels.assign(getSize(), 0);
     }
-    mfPixel.swap(pixels);
+    mfPixel.getValues().swap(pixels);
     endEditCP(self);
     return true;
 }
@@ -124,7 +125,7 @@ const UInt8* Image::getData(UInt32 mipmap, UInt32 frame, UInt32 side) const
     for (UInt32 level = 0; level < mipmap; ++level) {
         offset += levelBytes(level);
     }
-    return mfPixel.data() + offset;
+    return mfPixel.getValues().data() + offset;
 }
 
 std::size_t Image::levelBytes(UInt32 level) const
@@ -201,8 +202,8 @@ bool Image::reformat(PixelFormat format, ImagePtr destination)
     }
     const PixelLayout* const from = pixelLayout(getPixelFormat());
     const std::size_t count = mfPixel.size() / from->components;
-    MField<UInt8> pixels(count * to->components);
-    convertPixels(*from, mfPixel.data(), *to, pixels.data(), count);
+    std::vector<UInt8> pixels(count * to->components);
+    convertPixels(*from, mfPixel.getValues().data(), *to, pixels.data(), count);
     const ImagePtr target = inPlace ? ImagePtr(this) : destination;
     return target->set(format, getWidth(), getHeight(), getDepth(), getMipMapCount(),
                        getFrameCount(), getFrameDelay(), pixels.data(), getDataType(), true,
@@ -244,11 +245,12 @@ bool Image::resampleTo(Int32 newWidth, Int32 newHeight, Int32 newDepth, Int32 le
     };
     for (UInt32 frame = 0; frame < static_cast<UInt32>(getFrameCount()); ++frame) {
         for (UInt32 side = 0; side < static_cast<UInt32>(getSideCount()); ++side) {
-            resamplePixels(block(*this, 0), getData(0, frame, side), block(*result, 0),
+            resamplePixels(block(*this, 0), getData(0, frame, side), block(*result.getCPtr(), 0),
                            result->getData(0, frame, side));
             for (UInt32 level = 1; level < static_cast<UInt32>(levels); ++level) {
-                resamplePixels(block(*result, level - 1), result->getData(level - 1, frame, side),
-                               block(*result, level), result->getData(level, frame, side));
+                resamplePixels(
+                    block(*result.getCPtr(), level - 1), result->getData(level - 1, frame, side),
+                    block(*result.getCPtr(), level), result->getData(level, frame, side));
             }
         }
     }

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <OpenSG/OSGContentStamp.h>
 #include <OpenSG/OSGMaterial.h>
 
 namespace osg {
@@ -9,11 +8,6 @@ OSG_ABSTRACT_CONTAINER_TYPE(Material, AttachmentContainer);
 bool Material::isTransparent() const
 {
     return getTransparencyMode() == TransparencyForceTransparent;
-}
-
-UInt64 Material::getContentStamp() const
-{
-    return ContentStamp(*this).get();
 }
 
 }  // namespace osg

@@ -58,7 +58,6 @@ Node::Node(const Node& source)
 
 Node::~Node()
 {
-    ++detail::sceneEditCount;
     for (const NodePtr& child : mfChildren) {
         child->sfParent.setValue(NullFC);
         subRefCP(static_cast<const FieldContainerPtr&>(child));
@@ -89,7 +88,6 @@ void Node::setCore(const NodeCorePtr& core)
         subRefCP(static_cast<const FieldContainerPtr&>(old));
     }
     ++detail::editCount;
-    ++detail::sceneEditCount;
     noteSubtreeChange();
     invalidateVolume();
 }
@@ -151,7 +149,6 @@ void Node::removeAt(UInt32 index)
     child->sfParent.setValue(NullFC);
     endEditCP(child, ParentFieldMask);
     subRefCP(static_cast<const FieldContainerPtr&>(child));
-    ++detail::sceneEditCount;
     noteSubtreeChange();
     invalidateVolume();
 }
@@ -318,9 +315,6 @@ void Node::changed(BitVector whichField, UInt32 origin)
 
 void Node::noteEdit()
 {
-    if (getParent() != NullFC || getNChildren() > 0) {
-        ++detail::sceneEditCount;
-    }
     noteSubtreeChange();
 }
 

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <OpenSG/OSGChangeCount.h>
 #include <OpenSG/OSGCoredNodePtr.h>
 #include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGNodeCore.h>
@@ -13,14 +12,6 @@ NodeCore::NodeCore(const NodeCore& source)
 { }
 
 NodeCore::~NodeCore() = default;
-
-void NodeCore::accumulateMatrix(Matrix& matrix) const
-{
-    const Matrix* const local = getLocalMatrix();
-    if (local != nullptr) {
-        matrix.mult(*local);
-    }
-}
 
 void NodeCore::adjustVolume(Volume&) { }
 
@@ -37,9 +28,6 @@ void NodeCore::noteEdit()
         Inherited::noteEdit();
     }
     for (const NodePtr& node : mfParents) {
-        if (node->getParent() != NullFC || node->getNChildren() > 0) {
-            ++detail::sceneEditCount;
-        }
         node->noteSubtreeChange();
     }
 }

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include <OpenSG/OSGContentStamp.h>
 #include <OpenSG/OSGLog.h>
 #include <OpenSG/OSGSHLChunk.h>
 #include <OpenSG/OSGShaderChunk.h>
 #include <OpenSG/OSGShaderParameterBool.h>
 #include <OpenSG/OSGShaderParameterChunk.h>
 #include <OpenSG/OSGShaderParameterInt.h>
-#include <OpenSG/OSGShaderParameterMBool.h>
 #include <OpenSG/OSGShaderParameterMInt.h>
 #include <OpenSG/OSGShaderParameterMMatrix.h>
 #include <OpenSG/OSGShaderParameterMReal.h>
@@ -31,7 +29,6 @@ OSG_CONTAINER_TYPE(ShaderParameterVec2f, ShaderParameter);
 OSG_CONTAINER_TYPE(ShaderParameterVec3f, ShaderParameter);
 OSG_CONTAINER_TYPE(ShaderParameterVec4f, ShaderParameter);
 OSG_CONTAINER_TYPE(ShaderParameterMatrix, ShaderParameter);
-OSG_CONTAINER_TYPE(ShaderParameterMBool, ShaderParameter);
 OSG_CONTAINER_TYPE(ShaderParameterMInt, ShaderParameter);
 OSG_CONTAINER_TYPE(ShaderParameterMReal, ShaderParameter);
 OSG_CONTAINER_TYPE(ShaderParameterMVec2f, ShaderParameter);
@@ -50,7 +47,6 @@ template <class Value>
 struct ArrayParameter;
 
 // clang-format off
-template <> struct ArrayParameter<bool> { using Type = ShaderParameterMBool; };
 template <> struct ArrayParameter<Int32> { using Type = ShaderParameterMInt; };
 template <> struct ArrayParameter<Real32> { using Type = ShaderParameterMReal; };
 template <> struct ArrayParameter<Vec2f> { using Type = ShaderParameterMVec2f; };
@@ -196,7 +192,6 @@ bool ShaderParameterChunk::getUniformParameter(const Char8* name, MField<Value>&
     template bool ShaderParameterChunk::setUniformParameter(const Char8*, const MField<Value>&);   \
     template bool ShaderParameterChunk::getUniformParameter(const Char8*, MField<Value>&) const
 
-OSG_INSTANTIATE_ARRAYS_(bool);
 OSG_INSTANTIATE_ARRAYS_(Int32);
 OSG_INSTANTIATE_ARRAYS_(Real32);
 OSG_INSTANTIATE_ARRAYS_(Vec2f);
@@ -226,15 +221,6 @@ ShaderParameterPtr ShaderParameterChunk::findParameter(const Char8* name) const
         }
     }
     return NullFC;
-}
-
-UInt64 ShaderParameterChunk::getContentStamp() const
-{
-    ContentStamp stamp(*this);
-    for (const ShaderParameterPtr& parameter : mfParameters) {
-        stamp.add(parameter);
-    }
-    return stamp.get();
 }
 
 void ShaderParameterChunk::cloneReferences(ContainerCloner& cloner)

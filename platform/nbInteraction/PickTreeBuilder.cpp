@@ -15,6 +15,7 @@
 #include "detail/PickTree.h"
 #include "detail/PickTreeCache.h"
 #include "detail/TreeWalk.h"
+#include <ChangeCount.h>
 
 namespace nbec::interaction {
 
@@ -72,7 +73,7 @@ void collectJobs(const osg::NodePtr& root, std::set<osg::UInt32>& known, std::ve
             !detail::PickTreeCache::the().isCurrent(geometry)) {
             Job job;
             job.geometryId = geometry.getFieldContainerId();
-            job.changeCount = geometry->getChangeCount();
+            job.changeCount = osg::getChangeCount(geometry);
             job.soup = detail::extractGeometry(geometry);
             jobs.push_back(std::move(job));
         }
@@ -131,7 +132,7 @@ void PickTreeBuilder::adopt()
         const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(
             osg::FieldContainerFactory::the()->getContainer(job.geometryId));
         if (job.tree != nullptr && geometry != osg::NullFC &&
-            geometry->getChangeCount() == job.changeCount) {
+            osg::getChangeCount(geometry) == job.changeCount) {
             detail::PickTreeCache::the().adopt(job.geometryId, std::move(job.tree),
                                                job.changeCount);
         }

@@ -257,7 +257,7 @@ void SnapSearch::Scene::offerAll(const std::optional<Target>& held)
     ray = projection.rayThrough(pointer);
     see(pointer);
     constexpr int kDirections = 8;
-    constexpr float kTurn = 2.0F * osg::Pi / kDirections;
+    const float kTurn = 2.0F * osg::Pi / kDirections;
     for (int i = 0;
          i < 2 * kDirections && (kinds & ~(Kind::Face | Kind::Centre | Kind::Pivot)) != 0; ++i) {
         const float distance = i < kDirections ? reach / 2 : reach;

@@ -2,21 +2,15 @@
 #include "Transform3D.h"
 
 #include <nbOpenSGExt/nbEulerRotation.h>
+#include <nbOpenSGExt/nbSameBits.h>
 
 #include <array>
-#include <cstring>
 
 namespace osg {
 
 NB_CONTAINER_TYPE(Transform3D, Transform, NB_TRANSFORM3D_FIELDS);
 
 namespace {
-
-template <class Value>
-bool sameBits(const Value& a, const Value& b)
-{
-    return std::memcmp(a.getValues(), b.getValues(), sizeof(Value)) == 0;
-}
 
 bool isSameOrder(const Char8 (&kept)[3], const std::string& order)
 {
@@ -61,14 +55,14 @@ Quaternion Transform3D::getRotationAsQuaternion() const
 const Quaternion& Transform3D::currentTurn() const
 {
     const Quaternion& orientation = getRotationOrientation();
-    bool isCurrent = sameBits(cache.orientation, orientation);
+    bool isCurrent = nbSameBits(cache.orientation, orientation);
     if (getRotationMode() == QuaternionMode) {
         const Quaternion& turn = getRotationQuaternion();
-        isCurrent = isCurrent && sameBits(cache.turn, turn);
+        isCurrent = isCurrent && nbSameBits(cache.turn, turn);
         cache.turn = turn;
         cache.isOfAngles = false;
     } else if (const Vec3f& angles = getEulerRotation(); !cache.isOfAngles ||
-               !sameBits(cache.angles, angles) ||
+               !nbSameBits(cache.angles, angles) ||
                !isSameOrder(cache.order, getEulerRotationOrder())) {
         const std::string& order = getEulerRotationOrder();
         cache.turn = nbEulerRotation::toQuaternion(angles, order);
@@ -83,7 +77,7 @@ const Quaternion& Transform3D::currentTurn() const
         cache.orientation = orientation;
         const nbQuaterniond turn = nbRotationMath::toDouble(cache.turn);
         cache.rows = nbRotationMath::rotationRows(
-            sameBits(orientation, Quaternion())
+            nbSameBits(orientation, Quaternion())
                 ? turn
                 : nbRotationMath::product(turn, nbRotationMath::toDouble(orientation)));
     }

@@ -5,8 +5,9 @@
 #include <nbOpenSGRenderAction/GpuTextures.h>
 #include <nbOpenSGRenderAction/ShaderPrograms.h>
 
-#include <OpenSG/OSGContentStamp.h>
 #include <OpenSG/OSGViewport.h>
+
+#include <ContentStamp.h>
 
 namespace nbrender {
 

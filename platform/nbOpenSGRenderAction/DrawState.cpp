@@ -4,7 +4,6 @@
 #include <nbOpenSGExt/DepthTestChunk.h>
 
 #include <OpenSG/OSGBlendChunk.h>
-#include <OpenSG/OSGContentStamp.h>
 #include <OpenSG/OSGDepthChunk.h>
 #include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGLineChunk.h>
@@ -13,6 +12,8 @@
 #include <OpenSG/OSGSimpleMaterial.h>
 
 #include <algorithm>
+
+#include <ContentStamp.h>
 
 namespace nbrender {
 
@@ -140,12 +141,19 @@ void applyList(DrawState& state, const osg::ChunkMaterialPtr& material, bool wit
     }
 }
 
-/// Adds a texture or shader chunk by its container id.
+/// Adds a texture with its image, or a shader with its parameters, by the chunk's container id.
 void addChunk(osg::ContentStamp& stamp, osg::UInt32 id)
 {
-    const auto chunk =
-        osg::StateChunkPtr::dcast(osg::FieldContainerFactory::the()->getContainer(id));
-    stamp.add(chunk == osg::NullFC ? osg::UInt64(0) : chunk->getContentStamp());
+    const osg::FieldContainerPtr chunk = osg::FieldContainerFactory::the()->getContainer(id);
+    stamp.add(chunk);
+    if (const auto texture = osg::TextureChunkPtr::dcast(chunk); texture != osg::NullFC) {
+        stamp.add(texture->getImage());
+    }
+    if (const auto shader = osg::SHLChunkPtr::dcast(chunk); shader != osg::NullFC) {
+        for (const osg::ShaderParameterPtr& parameter : *shader->getMFParameters()) {
+            stamp.add(parameter);
+        }
+    }
 }
 
 void addColors(osg::ContentStamp& stamp, const DrawState& state)

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "FramePainter.h"
 
-#include <OpenSG/OSGContentStamp.h>
-
 #include <algorithm>
+
+#include <ContentStamp.h>
 
 namespace nbrender {
 

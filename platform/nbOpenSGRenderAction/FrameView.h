@@ -7,9 +7,10 @@
 #include <nbUtils/nbPlatformExport.h>
 
 #include <OpenSG/OSGCamera.h>
-#include <OpenSG/OSGContentStamp.h>
 #include <OpenSG/OSGMatrix.h>
 #include <OpenSG/OSGVector.h>
+
+#include <ContentStamp.h>
 
 namespace nbrender {
 

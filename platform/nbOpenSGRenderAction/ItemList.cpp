@@ -6,8 +6,6 @@
 #include <nbOpenSGSceneplate/nbSceneplateList.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
-#include <OpenSG/OSGChangeCount.h>
-#include <OpenSG/OSGContentStamp.h>
 #include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGMaterialGroup.h>
 #include <OpenSG/OSGSwitch.h>
@@ -18,6 +16,9 @@
 #include <limits>
 #include <set>
 #include <tuple>
+
+#include <ChangeCount.h>
+#include <ContentStamp.h>
 
 namespace nbrender {
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Mesh.h"
 
-#include <OpenSG/OSGContentStamp.h>
 #include <OpenSG/OSGLineIterator.h>
 #include <OpenSG/OSGPrimitiveIterator.h>
 #include <OpenSG/OSGTriangleIterator.h>
@@ -9,6 +8,8 @@
 #include <algorithm>
 #include <cmath>
 #include <unordered_map>
+
+#include <ContentStamp.h>
 
 namespace nbrender {
 
@@ -208,7 +209,7 @@ osg::UInt64 geometryStamp(const osg::GeometryPtr& geometry)
     if (geometry == osg::NullFC) {
         return 0;
     }
-    osg::ContentStamp stamp(*geometry->getType().getPrototype());
+    osg::ContentStamp stamp(geometry->getType().getPrototype());
     stamp.add(geometry->getTypes());
     stamp.add(geometry->getLengths());
     stamp.add(geometry->getPositions());

@@ -6,10 +6,10 @@
 #include <nbOpenSGUtils/nbShaderHeader.h>
 #include <nbUtils/nbLog.h>
 
-#include <OpenSG/OSGChangeCount.h>
-
 #include <algorithm>
 #include <cmath>
+
+#include <ChangeCount.h>
 
 namespace nbrender {
 

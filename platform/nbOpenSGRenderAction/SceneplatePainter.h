@@ -5,9 +5,9 @@
 #include <nbOpenSGRenderAction/GpuTextures.h>
 #include <nbOpenSGSceneplate/nbSceneplateList.h>
 
-#include <OpenSG/OSGContentStamp.h>
-
 #include <vector>
+
+#include <ContentStamp.h>
 
 namespace nbrender {
 

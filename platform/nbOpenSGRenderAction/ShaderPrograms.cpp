@@ -7,7 +7,6 @@
 #include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGShaderParameterBool.h>
 #include <OpenSG/OSGShaderParameterInt.h>
-#include <OpenSG/OSGShaderParameterMBool.h>
 #include <OpenSG/OSGShaderParameterMInt.h>
 #include <OpenSG/OSGShaderParameterMMatrix.h>
 #include <OpenSG/OSGShaderParameterMReal.h>
@@ -69,7 +68,7 @@ template <class Value>
 const GLfloat* numbersOf(const osg::MField<Value>& values)
 {
     static_assert(sizeof(Value) % sizeof(GLfloat) == 0);
-    return reinterpret_cast<const GLfloat*>(values.data());
+    return values.empty() ? nullptr : reinterpret_cast<const GLfloat*>(&values[0]);
 }
 
 void setArray(Gl& gl, const osg::ShaderParameterPtr& parameter, GLint location)
@@ -84,14 +83,13 @@ void setArray(Gl& gl, const osg::ShaderParameterPtr& parameter, GLint location)
                                                                    numbersOf(v));
                                          }) ||
         setAs<ShaderParameterMRealPtr>(
-            parameter, [&](const MFReal32& v) { gl.glUniform1fv(location, count(v), v.data()); }) ||
-        setAs<ShaderParameterMIntPtr>(
-            parameter, [&](const MFInt32& v) { gl.glUniform1iv(location, count(v), v.data()); }) ||
-        setAs<ShaderParameterMBoolPtr>(parameter,
-                                       [&](const MFBool& v) {
-                                           const std::vector<GLint> numbers(v.begin(), v.end());
-                                           gl.glUniform1iv(location, count(v), numbers.data());
-                                       }) ||
+            parameter,
+            [&](const MFReal32& v) { gl.glUniform1fv(location, count(v), numbersOf(v)); }) ||
+        setAs<ShaderParameterMIntPtr>(parameter,
+                                      [&](const MFInt32& v) {
+                                          gl.glUniform1iv(location, count(v),
+                                                          v.empty() ? nullptr : &v[0]);
+                                      }) ||
         setAs<ShaderParameterMVec3fPtr>(
             parameter,
             [&](const MFVec3f& v) { gl.glUniform3fv(location, count(v), numbersOf(v)); }) ||

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <OpenSG/OSGBaseTypes.h>
-#include <OpenSG/OSGContentStamp.h>
 #include <OpenSG/OSGMaterial.h>
 #include <OpenSG/OSGMatrix.h>
 #include <OpenSG/OSGVector.h>
@@ -10,6 +9,8 @@
 #include <array>
 #include <cstddef>
 #include <memory>
+
+#include <ContentStamp.h>
 
 namespace nbrender {
 

@@ -1,17 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "nbTransformState.h"
 
+#include <nbOpenSGExt/nbSameBits.h>
 #include <nbOpenSGUtils/nbEdit.h>
 
 #include <cstring>
 
 namespace {
-
-template <class Value>
-bool sameBits(const Value& a, const Value& b)
-{
-    return std::memcmp(a.getValues(), b.getValues(), sizeof(Value)) == 0;
-}
 
 /// Bit for bit, except that zeros of both signs count as one.
 template <std::size_t Count>
@@ -27,12 +22,12 @@ bool sameFloats(const osg::Real32* a, const osg::Real32* b)
 
 bool same(const osg::Vec3f& a, const osg::Vec3f& b)
 {
-    return sameBits(a, b) || sameFloats<3>(a.getValues(), b.getValues());
+    return nbSameBits(a, b) || sameFloats<3>(a.getValues(), b.getValues());
 }
 
 bool same(const osg::Quaternion& a, const osg::Quaternion& b)
 {
-    return sameBits(a, b) || sameFloats<4>(a.getValues(), b.getValues());
+    return nbSameBits(a, b) || sameFloats<4>(a.getValues(), b.getValues());
 }
 
 }  // namespace

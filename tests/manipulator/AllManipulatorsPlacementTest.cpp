@@ -6,8 +6,9 @@
 
 #include <nbOpenSGUberCamera/UberCamera.h>
 
-#include <OpenSG/OSGChangeCount.h>
 #include <OpenSG/OSGContainerCensus.h>
+
+#include <ChangeCount.h>
 
 namespace nbec::manipulator::test {
 

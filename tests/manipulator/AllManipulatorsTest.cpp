@@ -3,13 +3,14 @@
 #include "tests/manipulator/support/AnyManipulator.h"
 #include "tests/platform/support/Edited.h"
 
-#include <OpenSG/OSGChangeCount.h>
 #include <OpenSG/OSGSimpleGeometry.h>
 
 #include <QUndoStack>
 
 #include <cmath>
 #include <limits>
+
+#include <ChangeCount.h>
 
 namespace nbec::manipulator::test {
 

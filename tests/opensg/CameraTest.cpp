@@ -57,7 +57,7 @@ TEST_F(Cameras, RayKeepsItsDirectionFarFromTheOriginAndWithAWideDepthRange)
     place(Vec3f(4096.f, -2048.f, 8192.f));
     Line line;
 
-    ASSERT_TRUE(camera->calcViewRay(line, 600, 151, *viewport));
+    ASSERT_TRUE(camera->calcViewRay(line, 600, 151, *viewport.get()));
 
     // A quarter of the width right of the middle, of the height above it; the aspect is 4 : 3.
     const Real32 length = std::sqrt(4.f / 9.f + 0.25f + 1.f);
@@ -72,8 +72,8 @@ TEST_F(Cameras, ViewportOutsideAnyWindowHasNoRays)
     Line line(Pnt3f(1.f, 2.f, 3.f), Vec3f(0.f, 1.f, 0.f));
 
     EXPECT_TRUE(viewport->getParent() == NullFC);
-    EXPECT_FALSE(camera->calcViewRay(line, 400, 300, *viewport));
+    EXPECT_FALSE(camera->calcViewRay(line, 400, 300, *viewport.get()));
     EXPECT_FLOAT_EQ(line.getPosition()[2], 3.f);
     viewport->setSize(0.f, 0.f, 400.f, 300.f);
-    EXPECT_FALSE(camera->calcViewRay(line, 400, 300, *viewport));
+    EXPECT_FALSE(camera->calcViewRay(line, 400, 300, *viewport.get()));
 }

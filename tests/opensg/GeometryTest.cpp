@@ -27,13 +27,13 @@ GeometryPtr makeGeometry(const std::vector<std::pair<GLenum, UInt32>>& primitive
         lengths->addValue(primitive.second);
     }
     const GeoPositions3fPtr positions = GeoPositions3f::create();
-    positions->getField().assign(points.begin(), points.end());
+    positions->getField().getValues().assign(points.begin(), points.end());
     geometry->setTypes(types);
     geometry->setLengths(lengths);
     geometry->setPositions(positions);
     if (!indices.empty()) {
         const GeoIndicesUI32Ptr stored = GeoIndicesUI32::create();
-        stored->getField().assign(indices.begin(), indices.end());
+        stored->getField().getValues().assign(indices.begin(), indices.end());
         geometry->setIndices(stored);
     }
     return geometry;

@@ -141,32 +141,11 @@ TEST_F(TreeChangeCount, MovesForWhatIsAboveTheEditHoweverSeldomAnyoneLooks)
             }
             break;
         default:
-            ASSERT_EQ(node->getSubtreeChangeCount() != seen[index], isEdited[index]) << step;
-            seen[index] = node->getSubtreeChangeCount();
+            ASSERT_EQ(getSubtreeChangeCount(node) != seen[index], isEdited[index]) << step;
+            seen[index] = getSubtreeChangeCount(node);
             isEdited[index] = false;
         }
     }
-}
-
-TEST_F(TreeChangeCount, OfTheSceneMovesForAllThatHangsInATreeAndForNothingThatStandsAlone)
-{
-    const auto moves = [](const std::function<void()>& action) {
-        const UInt64 before = getSceneEditCount();
-        action();
-        return getSceneEditCount() != before;
-    };
-    const TransformPtr beacon = Transform::create();
-    const NodeRefPtr alone(makeNodeFor(beacon));
-    NodeRefPtr extra(makeCoredNode<Group>());
-
-    EXPECT_FALSE(moves([&] { endEditCP(beacon, Transform::MatrixFieldMask); }));
-    EXPECT_FALSE(moves([&] { endEditCP(materialGroup->getMaterial()); }));
-    EXPECT_TRUE(moves([&] { endEditCP(transform, Transform::MatrixFieldMask); }));
-    EXPECT_TRUE(moves([&] { alone->addChild(extra); }));
-    EXPECT_TRUE(moves([&] { endEditCP(beacon, Transform::MatrixFieldMask); })) << "moves its child";
-    EXPECT_TRUE(moves([&] { alone->subChild(extra); }));
-    EXPECT_TRUE(moves([&] { extra = NullFC; }));
-    EXPECT_TRUE(moves([&] { leaf->setCore(NullFC); }));
 }
 
 TEST_F(TreeChangeCount, MovesForMaterialsButNeitherForCamerasNorForReading)

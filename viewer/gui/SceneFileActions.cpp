@@ -10,8 +10,6 @@
 
 #include <nbKernelServices/nbUndoService.h>
 
-#include <OpenSG/OSGChangeCount.h>
-
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLocale>
@@ -21,6 +19,8 @@
 
 #include <array>
 #include <utility>
+
+#include <ChangeCount.h>
 
 namespace viewer {
 namespace {

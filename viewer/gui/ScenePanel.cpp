@@ -16,6 +16,8 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include <ChangeCount.h>
+
 namespace viewer {
 namespace {
 
@@ -56,7 +58,7 @@ ScenePanel::ScenePanel(Stage& stage, QWidget* parent)
 
 void ScenePanel::refresh()
 {
-    const osg::UInt64 changes = nbScenegraph::getRootNode()->getSubtreeChangeCount();
+    const osg::UInt64 changes = osg::getSubtreeChangeCount(nbScenegraph::getRootNode());
     if (changes != shownChanges && !stage().isDragging()) {
         shownChanges = changes;
         QList<quint64> shape;

@@ -6,7 +6,6 @@
 #include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
-#include <OpenSG/OSGContainerCloner.h>
 #include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGNodePtr.h>
 #include <OpenSG/OSGSimpleMaterial.h>
@@ -43,9 +42,9 @@ osg::MaterialPtr makeMaterial(const MaterialData& data)
 }
 
 template <class Property, class Value, class Source, class Convert>
-typename Property::Ptr makeProperty(const std::vector<Source>& source, Convert convert)
+auto makeProperty(const std::vector<Source>& source, Convert convert)
 {
-    typename Property::Ptr property = Property::create();
+    const auto property = Property::create();
     const nbEdit edit(property, osg::FieldBits::AllFields);
     auto& field = property->getField();
     field.reserve(source.size());

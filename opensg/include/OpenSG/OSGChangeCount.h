@@ -5,14 +5,14 @@
 #pragma once
 
 #include <OpenSG/OSGFieldContainerPtr.h>
-#include <OpenSG/OSGNodePtr.h>
+#include <OpenSG/OSGNode.h>
 
 namespace osg {
 
 namespace detail {
 
 extern UInt64 editCount;
-extern UInt64 sceneEditCount;
+extern UInt64 sharedChangeCount;
 
 }  // namespace detail
 
@@ -23,27 +23,28 @@ inline UInt64 getEditCount()
     return detail::editCount;
 }
 
-/// Moves with every edit of a node that has a parent or children, or of such a node's core, and
-/// when a node ends. While it stands still, all these are where they were, whatever cameras (with
-/// their beacons, which stand alone) and materials have gone through.
-inline UInt64 getSceneEditCount()
-{
-    return detail::sceneEditCount;
-}
-
 /// How often edits of the container ended with endEditCP or changedCP. 0 for null. Wraps after
 /// 2^32.
-UInt32 getChangeCount(const FieldContainerPtr& container);
+inline UInt32 getChangeCount(const FieldContainerPtr& container)
+{
+    return container != NullFC ? container->changeCount : 0;
+}
+
+/// A number that grows between two calls if a node or core of the subtree below a node, which must
+/// not be null, was edited. Constant time.
+inline UInt64 getSubtreeChangeCount(const NodePtr& node)
+{
+    return node->readChange();
+}
 
 /// A number that moves whenever something in the tree below a node (itself included) was edited:
 /// children, masks, cores, and whatever the cores own, such as geometry properties, materials and
 /// their chunks. What hangs in no node is counted for all trees together, so the number may move
 /// for a material of another tree as well; it never stands still wrongly. Constant time. 0 for
 /// null.
-UInt64 getTreeChangeCount(const NodePtr& node);
-
-/// Edits of containers that are neither nodes nor cores nor indifferent to drawing; part of the
-/// above.
-UInt64 getSharedChangeCount();
+inline UInt64 getTreeChangeCount(const NodePtr& node)
+{
+    return node != NullFC ? getSubtreeChangeCount(node) + detail::sharedChangeCount : 0;
+}
 
 }  // namespace osg

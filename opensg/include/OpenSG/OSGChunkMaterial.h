@@ -4,7 +4,6 @@
 #include <OpenSG/OSGConfig.h>
 #include <OpenSG/OSGContainerMacros.h>
 #include <OpenSG/OSGMaterial.h>
-#include <OpenSG/OSGRefPtr.h>
 #include <OpenSG/OSGState.h>
 #include <OpenSG/OSGStateChunk.h>
 
@@ -17,8 +16,8 @@ OSG_CONTAINER_POINTER(ChunkMaterial, MaterialPtr);
     VALUES(Slots, slots, Int32)
 
 /// A material that is a list of chunks; it counts each entry. The list keeps everything that was
-/// added, also several chunks of a kind: what replaces what is settled in the state, where a later
-/// chunk wins. The slot list stays empty as long as all chunks came with AutoSlotReplace.
+/// added, also several chunks of a kind, of which the last one is drawn. The slot list stays empty
+/// as long as all chunks came with AutoSlotReplace.
 class ChunkMaterial : public Material
 {
     OSG_MULTI_CONTAINER(ChunkMaterial, Material, OSG_CHUNK_MATERIAL_FIELDS);
@@ -46,21 +45,8 @@ public:
     /// Whether the mode says so or, with automatic detection, a chunk of the list is transparent.
     bool isTransparent() const override;
 
-    StatePtr makeState() override;
-    void rebuildState() override;
-    StatePtr getState() override;
-
-    UInt64 getContentStamp() const override;
-
-protected:
-    /// Puts the chunks of the material into a state. Overrides put their own ones in first.
-    virtual void addChunks(const StatePtr& target);
-
 private:
     Int32 slotOf(UInt32 index) const;
-
-    RefPtr<StatePtr> currentState;
-    UInt64 stateStamp = 0;
 };
 
 }  // namespace osg

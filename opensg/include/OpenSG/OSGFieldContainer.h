@@ -47,9 +47,6 @@ public:
 
     UInt32 getFieldContainerId() const { return id; }
 
-    /// How often an edit of this container has ended; see OSGChangeCount.h.
-    UInt32 getChangeCount() const { return changeCount; }
-
     /// A container begins to hold this one in a counted field. For classes that know who uses them
     /// (geometry properties); called by the field machinery.
     virtual void ownerAdded(FieldContainer& owner);
@@ -79,6 +76,7 @@ private:
     friend void addRefCP(const FieldContainerPtr& container);
     friend void subRefCP(const FieldContainerPtr& container);
     friend void subRefCP(FieldContainerPtr& container);
+    friend UInt32 getChangeCount(const FieldContainerPtr& container);
     friend void changedCP(const FieldContainerPtr& container, BitVector whichField, UInt32 origin);
 
     bool releaseOne();

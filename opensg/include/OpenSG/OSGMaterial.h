@@ -5,7 +5,6 @@
 #include <OpenSG/OSGConfig.h>
 #include <OpenSG/OSGContainerMacros.h>
 #include <OpenSG/OSGMaterialFields.h>
-#include <OpenSG/OSGState.h>
 
 namespace osg {
 
@@ -16,7 +15,7 @@ namespace osg {
 /// How a geometry looks. SortKey is the place in the drawing order, ascending, whatever the
 /// transparency; NoStateSorting as a key leaves the order within it to the tree.
 /// TransparencyMode is one of the three constants below.
-/// Left out of OpenSG's class: drawing (draw functors, several states).
+/// Left out of OpenSG's class: drawing (draw functors, states).
 class Material : public AttachmentContainer
 {
     OSG_ABSTRACT_CONTAINER(Material, AttachmentContainer, OSG_MATERIAL_FIELDS);
@@ -36,20 +35,6 @@ public:
 
     /// Whether the material blends: by its mode alone here, derived classes ask their parts.
     virtual bool isTransparent() const;
-
-    /// Differs when the material or a part of it was edited or replaced; see OSGContentStamp.h.
-    /// A class with further parts overrides it and adds these.
-    virtual UInt64 getContentStamp() const;
-
-    /// A fresh state, count 0, with the chunks that are in force.
-    virtual StatePtr makeState() = 0;
-
-    /// Brings the state that getState answers up to date, whether it looks stale or not.
-    virtual void rebuildState() = 0;
-
-    /// The material's own state, rebuilt if an edit or a change of the chunk list made it stale.
-    /// The material counts it.
-    virtual StatePtr getState() = 0;
 };
 
 }  // namespace osg

@@ -146,16 +146,6 @@ public:
     /// An edit of children, core or mask invalidates the volumes from here up.
     void changed(BitVector whichField, UInt32 origin) override;
 
-    /// A number that grows between two calls if something in this node's subtree was edited; see
-    /// getTreeChangeCount in OSGChangeCount.h.
-    UInt64 getSubtreeChangeCount() const
-    {
-        if (lastChange == presentStamp) {
-            ++presentStamp;
-        }
-        return lastChange;
-    }
-
 protected:
     Node();
 
@@ -169,7 +159,16 @@ protected:
 private:
     friend class NodeCore;
     friend class ContainerCloner;
+    friend UInt64 getSubtreeChangeCount(const NodePtr& node);
     struct WorldCache;
+
+    UInt64 readChange() const
+    {
+        if (lastChange == presentStamp) {
+            ++presentStamp;
+        }
+        return lastChange;
+    }
 
     void noteSubtreeChange()
     {

@@ -37,9 +37,6 @@ public:
 
     const MFNodePtr* getMFParents() const { return &mfParents; }
 
-    /// Puts the core's own matrix, if it has one, behind the matrix so far: matrix = matrix * own.
-    void accumulateMatrix(Matrix& matrix) const;
-
     /// The matrix between the frames below and above the core; null stands for the identity.
     virtual const Matrix* getLocalMatrix() const { return nullptr; }
 

@@ -42,8 +42,6 @@ public:
     /// Undefined when empty, as in OpenSG.
     const Pointer& operator->() const { return pointer; }
 
-    auto& operator*() const { return *pointer; }
-
     auto* getCPtr() const { return pointer.getCPtr(); }
 
     explicit operator bool() const { return pointer != NullFC; }

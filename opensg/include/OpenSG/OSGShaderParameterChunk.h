@@ -76,8 +76,6 @@ public:
     /// The variable of a name; null if there is none.
     ShaderParameterPtr findParameter(const Char8* name) const;
 
-    UInt64 getContentStamp() const override;
-
     void cloneReferences(ContainerCloner& cloner) override;
 
 protected:

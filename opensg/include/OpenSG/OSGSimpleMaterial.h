@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <OpenSG/OSGBlendChunk.h>
 #include <OpenSG/OSGChunkMaterial.h>
 #include <OpenSG/OSGColor.h>
 #include <OpenSG/OSGConfig.h>
 #include <OpenSG/OSGContainerMacros.h>
 #include <OpenSG/OSGGL.h>
-#include <OpenSG/OSGMaterialChunk.h>
 
 namespace osg {
 
@@ -24,8 +22,7 @@ OSG_CONTAINER_POINTER(SimpleMaterial, ChunkMaterialPtr);
     VALUE(ColorMaterial, colorMaterial, GLenum, GL_DIFFUSE)
 
 /// A material of a few colours, each 0 .. 1. Transparency 0 is opaque, 1 invisible; shininess
-/// 0 .. 128. Its state owns a material chunk made from these fields and, where the material is
-/// transparent, a blend chunk; chunks of the list come after both and replace them.
+/// 0 .. 128. Chunks of the list replace what these fields say.
 class SimpleMaterial : public ChunkMaterial
 {
     OSG_CONTAINER(SimpleMaterial, ChunkMaterial, OSG_SIMPLE_MATERIAL_FIELDS);
@@ -33,12 +30,6 @@ class SimpleMaterial : public ChunkMaterial
 public:
     /// Deliberate: TransparencyForceOpaque does not override a transparency above Eps.
     bool isTransparent() const override;
-
-protected:
-    void addChunks(const StatePtr& target) override;
-
-private:
-    MaterialChunkPtr makeMaterialChunk() const;
 };
 
 }  // namespace osg

@@ -17,7 +17,7 @@ OSG_CONTAINER_POINTER(SimpleTexturedMaterial, SimpleMaterialPtr);
     VALUE(MagFilter, magFilter, GLenum, GL_LINEAR)                                                 \
     VALUE(EnvMode, envMode, GLenum, GL_REPLACE)
 
-/// A simple material with one image on it, as a texture chunk in slot 0 of its state.
+/// A simple material with one image on it.
 /// Left out of OpenSG's class: the spherical environment map.
 class SimpleTexturedMaterial : public SimpleMaterial
 {
@@ -27,11 +27,6 @@ public:
     /// Deliberate: only a named variable is taken, see TextureChunk::setImage.
     void setImage(ImagePtr&& image) = delete;
     void setImage(const ImagePtr&& image) = delete;
-
-    UInt64 getContentStamp() const override;
-
-protected:
-    void addChunks(const StatePtr& target) override;
 };
 
 }  // namespace osg

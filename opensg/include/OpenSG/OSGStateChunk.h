@@ -13,27 +13,11 @@ namespace osg {
 class StateChunkClass
 {
 public:
-    /// @param name   name of the kind, kept as a copy
-    /// @param slots  how many chunks of the kind a state holds at a time, at least 1
+    /// @param slots  how many chunks of the kind may be in force at a time, at least 1
     explicit StateChunkClass(const Char8* name, UInt32 slots = 1);
 
     /// First id of the kind; slot s has the id getId() + s.
     UInt32 getId() const { return id; }
-
-    /// Name of the kind.
-    const Char8* getName() const;
-
-    /// Number of slots.
-    Int32 getNumSlots() const;
-
-    /// Name of the kind that an id belongs to; null for an id that was never given out.
-    static const Char8* getName(UInt32 anyId);
-
-    /// Number of slots of the kind that an id belongs to; 0 for an id that was never given out.
-    static Int32 getNumSlots(UInt32 anyId);
-
-    /// Number of ids given out so far: the length of a state's table.
-    static UInt32 getUsedSlots();
 
 private:
     UInt32 id;
@@ -55,9 +39,6 @@ public:
 
     /// Whether the chunk makes the material that holds it transparent.
     virtual bool isTransparent() const;
-
-    /// Differs when the chunk or a part of it was edited or replaced; see OSGContentStamp.h.
-    virtual UInt64 getContentStamp() const;
 };
 
 }  // namespace osg

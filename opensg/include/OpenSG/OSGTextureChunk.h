@@ -42,8 +42,6 @@ public:
     void setImage(ImagePtr&& image) = delete;
     void setImage(const ImagePtr&& image) = delete;
 
-    UInt64 getContentStamp() const override;
-
     /// Most textures that a state holds side by side.
     static constexpr UInt32 kMaxTextures = 8;
 };

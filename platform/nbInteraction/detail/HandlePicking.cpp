@@ -4,7 +4,6 @@
 #include <nbOpenSGExt/NodeFlags.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
-#include <OpenSG/OSGChangeCount.h>
 #include <OpenSG/OSGChunkMaterial.h>
 #include <OpenSG/OSGLineChunk.h>
 #include <OpenSG/OSGMaterialGroup.h>
@@ -14,6 +13,7 @@
 
 #include "GeometryExtraction.h"
 #include "TreeWalk.h"
+#include <ChangeCount.h>
 
 namespace nbec::interaction::detail {
 
@@ -123,9 +123,9 @@ void HandlePicking::fill(const osg::NodePtr& top)
 const GeometrySoup& HandlePicking::shapeOf(const osg::GeometryPtr& geometry)
 {
     Shape& shape = shapes[geometry.getFieldContainerId()];
-    if (shape.lastFill == 0 || shape.changeCount != geometry->getChangeCount()) {
+    if (shape.lastFill == 0 || shape.changeCount != osg::getChangeCount(geometry)) {
         shape.soup = extractGeometry(geometry);
-        shape.changeCount = geometry->getChangeCount();
+        shape.changeCount = osg::getChangeCount(geometry);
     }
     shape.lastFill = fillCount;
     return shape.soup;
@@ -158,7 +158,7 @@ void HandlePicking::collect(const osg::NodePtr& node, Inherited inherited)
     inherited.isBelowManipulator =
         inherited.isBelowManipulator || (flags & osg::NodeFlags::ManipulatorNode) != 0;
     if (const osg::NodeCorePtr core = node->getCore(); core != osg::NullFC) {
-        core->accumulateMatrix(inherited.tableFromParent);
+        accumulateMatrix(core, inherited.tableFromParent);
         const osg::MaterialGroupPtr group = osg::MaterialGroupPtr::dcast(core);
         if (group != osg::NullFC && inherited.outermostMaterial == osg::NullFC) {
             inherited.outermostMaterial = group->getMaterial();

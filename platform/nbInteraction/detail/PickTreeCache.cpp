@@ -7,6 +7,7 @@
 
 #include "GeometryExtraction.h"
 #include "TreeWalk.h"
+#include <ChangeCount.h>
 
 namespace nbec::interaction::detail {
 
@@ -21,7 +22,7 @@ std::shared_ptr<const PickTree> PickTreeCache::treeOf(const osg::GeometryPtr& ge
 {
     Entry& entry = entries[geometry.getFieldContainerId()];
     // Edits of a geometry's properties are counted by the geometry, too.
-    const osg::UInt32 changeCount = geometry->getChangeCount();
+    const osg::UInt32 changeCount = osg::getChangeCount(geometry);
     if (entry.tree == nullptr || entry.changeCount != changeCount) {
         if (entry.tree == nullptr) {
             entry.tree = std::make_shared<PickTree>();
@@ -42,7 +43,7 @@ bool PickTreeCache::isCurrent(const osg::GeometryPtr& geometry) const
 {
     const auto entry = entries.find(geometry.getFieldContainerId());
     return entry != entries.end() && entry->second.tree != nullptr &&
-        entry->second.changeCount == geometry->getChangeCount();
+        entry->second.changeCount == osg::getChangeCount(geometry);
 }
 
 void PickTreeCache::buildBelow(const osg::NodePtr& root)

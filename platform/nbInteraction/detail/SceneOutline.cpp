@@ -5,6 +5,7 @@
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include "TreeWalk.h"
+#include <ChangeCount.h>
 
 namespace nbec::interaction::detail {
 
@@ -19,13 +20,13 @@ SceneOutline::Record SceneOutline::recordOf(const osg::NodePtr& node, osg::UInt3
     const osg::NodeCorePtr core = node->getCore();
     Record record {};
     record.nodeId = node.getFieldContainerId();
-    record.nodeChanges = node->getChangeCount();
-    record.subtreeChanges = node->getSubtreeChangeCount();
+    record.nodeChanges = osg::getChangeCount(node);
+    record.subtreeChanges = osg::getSubtreeChangeCount(node);
     record.item = item;
     record.passedBy = isPassedBy(node);
     if (core != osg::NullFC) {
         record.coreId = core.getFieldContainerId();
-        record.coreChanges = item == kNoItem ? core->getChangeCount() : 0;
+        record.coreChanges = item == kNoItem ? osg::getChangeCount(core) : 0;
     }
     return record;
 }
@@ -59,7 +60,7 @@ bool SceneOutline::isNodeCurrent(const Open& one, std::vector<osg::UInt32>& touc
     if (one.node.getFieldContainerId() != noted.nodeId) {
         return false;
     }
-    if (one.node->getSubtreeChangeCount() == noted.subtreeChanges) {
+    if (osg::getSubtreeChangeCount(one.node) == noted.subtreeChanges) {
         return true;
     }
     const Record now = recordOf(one.node, noted.item);

@@ -10,6 +10,7 @@
 #include "PickTreeCache.h"
 #include "SurfaceNormal.h"
 #include "TreeWalk.h"
+#include <ChangeCount.h>
 
 namespace nbec::interaction::detail {
 
@@ -133,7 +134,7 @@ void ScenePicking::useView(const PickView& view)
 void ScenePicking::refresh(const osg::NodePtr& root)
 {
     const osg::UInt32 id = root.getFieldContainerId();
-    const osg::UInt64 changes = root->getSubtreeChangeCount();
+    const osg::UInt64 changes = osg::getSubtreeChangeCount(root);
     if (id == rootId && changes == rootChanges) {
         return;
     }
@@ -189,11 +190,11 @@ void ScenePicking::enter(Step step, std::vector<Step>& steps, std::vector<PickIt
     step.clipSet = tree.editClipSets().below(step.clipSet, node);
     osg::UInt32 item = SceneOutline::kNoItem;
     if (const osg::NodeCorePtr core = node->getCore(); core != osg::NullFC) {
-        core->accumulateMatrix(step.matrix);
+        accumulateMatrix(core, step.matrix);
         if (const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(core);
             geometry != osg::NullFC) {
             item = static_cast<osg::UInt32>(items.size());
-            sources.push_back({ geometry.getFieldContainerId(), geometry->getChangeCount() });
+            sources.push_back({ geometry.getFieldContainerId(), osg::getChangeCount(geometry) });
             items.emplace_back(node.getFieldContainerId(), PickTreeCache::the().treeOf(geometry),
                                step.matrix, step.clipSet);
         }
@@ -222,10 +223,10 @@ bool ScenePicking::refreshItem(std::size_t index)
 {
     const osg::GeometryPtr geometry =
         osg::GeometryPtr::dcast(containerOf(sources[index].geometryId));
-    if (geometry == osg::NullFC || geometry->getChangeCount() == sources[index].changeCount) {
+    if (geometry == osg::NullFC || osg::getChangeCount(geometry) == sources[index].changeCount) {
         return false;
     }
-    sources[index].changeCount = geometry->getChangeCount();
+    sources[index].changeCount = osg::getChangeCount(geometry);
     PickTreeCache::the().treeOf(geometry);
     PickItem& item = tree.editItems()[index];
     item.place(osg::Matrix(item.worldFromLocal));

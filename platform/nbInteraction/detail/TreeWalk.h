@@ -3,6 +3,7 @@
 
 #include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGSwitch.h>
+#include <OpenSG/OSGTransform.h>
 
 #include <vector>
 
@@ -31,6 +32,15 @@ bool forEachEnteredChild(const osg::NodePtr& node, Visit visit)
         }
     }
     return true;
+}
+
+/// Puts the matrix of a core, if it is a transform, behind the matrix so far: matrix = matrix *
+/// own.
+inline void accumulateMatrix(const osg::NodeCorePtr& core, osg::Matrix& matrix)
+{
+    if (const auto transform = osg::TransformPtr::dcast(core); transform != osg::NullFC) {
+        matrix.mult(transform->getMatrix());
+    }
 }
 
 /// Calls visit(node) for a node and all below it, parents first, however deep; nothing for null.

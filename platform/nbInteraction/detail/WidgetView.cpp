@@ -3,6 +3,8 @@
 
 #include <nbKernel/nbOSGWidget.h>
 
+#include <ChangeCount.h>
+
 namespace nbec::interaction::detail {
 
 const PickView* WidgetView::current()
@@ -21,7 +23,7 @@ const PickView* WidgetView::current()
         beacon->getToWorld(toWorld);
     }
     if (beacon != osg::NullFC && camera.getFieldContainerId() == cameraId &&
-        camera->getChangeCount() == cameraChanges && view.widthPx == widget->getWidth() &&
+        osg::getChangeCount(camera) == cameraChanges && view.widthPx == widget->getWidth() &&
         view.heightPx == widget->getHeight() && hasSameBits(toWorld, beaconToWorld)) {
         return &view;
     }
@@ -35,7 +37,7 @@ const PickView* WidgetView::current()
     view.projection.mult(translation);
     camera->getViewing(view.viewing, width, height);
     cameraId = camera.getFieldContainerId();
-    cameraChanges = camera->getChangeCount();
+    cameraChanges = osg::getChangeCount(camera);
     beaconToWorld = toWorld;
     return &view;
 }

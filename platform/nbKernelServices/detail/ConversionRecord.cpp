@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr osg::BitVector kStructure = osg::Node::CoreFieldMask | osg::Node::ChildrenFieldMask;
+const osg::BitVector kStructure = osg::Node::CoreFieldMask | osg::Node::ChildrenFieldMask;
 
 osg::NodePtr findNode(osg::UInt32 id)
 {

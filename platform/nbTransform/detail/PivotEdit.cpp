@@ -2,9 +2,9 @@
 #include "PivotEdit.h"
 
 #include <nbOpenSGExt/nbEulerRotation.h>
+#include <nbOpenSGExt/nbSameBits.h>
 #include <nbOpenSGUtils/nbEdit.h>
 
-#include <cstring>
 #include <string>
 
 using nbTransformMath::isFinite;
@@ -185,8 +185,7 @@ void turnPivot(const Subject& subject, const Vec3f& anglesDeg)
         setTurn(subject, anglesDeg);
         const nbTransformState present = nbTransformState::of(*subject.core);
         const bool isBack = isSame(present.eulerRotation, base.state.eulerRotation) &&
-            std::memcmp(present.rotationQuaternion.getValues(),
-                        base.state.rotationQuaternion.getValues(), 4 * sizeof(osg::Real32)) == 0;
+            nbSameBits(present.rotationQuaternion, base.state.rotationQuaternion);
         subject.core->setRotationOrientation(
             isBack ? base.state.rotationOrientation
                    : compensatingOrientation(base.state, subject.core->getRotationAsQuaternion()));

@@ -13,7 +13,7 @@ constexpr const char* kTire = "::changedTireManipulator";
 class TextureValuesTest : public EditorTest
 {
 protected:
-    nbTextureValues values() const { return nbTextureValues::of(*settings); }
+    nbTextureValues values() const { return nbTextureValues::of(*settings.get()); }
 
     void setImage(osg::Int32 width, osg::Int32 height)
     {

@@ -2,11 +2,11 @@
 // What of a frame is taken from a kept copy, and when one is made.
 #include "nbOpenSGRenderAction/SceneImage.h"
 
-#include <OpenSG/OSGContentStamp.h>
-
 #include <gtest/gtest.h>
 
 #include <vector>
+
+#include <ContentStamp.h>
 
 namespace {
 

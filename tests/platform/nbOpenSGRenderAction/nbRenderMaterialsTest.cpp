@@ -129,20 +129,27 @@ TEST_F(nbRenderMaterialsTest, ShaderChunkDrawsWithItsParameters)
 TEST_F(nbRenderMaterialsTest, ParametersThatAreArraysReachTheProgramWhole)
 {
     const osg::SHLChunkPtr chunk =
-        programOf("uniform bool flags[2]; uniform int picks[2]; uniform float weights[2];\n"
+        programOf("uniform int picks[2]; uniform float weights[2];\n"
                   "uniform vec2 places[2]; uniform vec3 axes[2]; uniform vec4 colors[3];\n"
                   "uniform mat4 turns[2];\n",
-                  "flags[1] ? turns[1] * vec4(weights[1], places[1].y, axes[1].z, "
-                  "colors[picks[1]].w) : vec4(1.0)");
+                  "turns[1] * vec4(weights[1], places[1].y, axes[1].z, colors[picks[1]].w)");
     osg::MFMatrix turns(2);
     turns[0].setScale(0.f);
-    chunk->setUniformParameter("flags", osg::MFBool { false, true });
-    chunk->setUniformParameter("picks", osg::MFInt32 { 0, 2 });
-    chunk->setUniformParameter("weights", osg::MFReal32 { 1.f, 0.f });
-    chunk->setUniformParameter("places", osg::MFVec2f { osg::Vec2f(1.f, 1.f), osg::Vec2f() });
-    chunk->setUniformParameter("axes", osg::MFVec3f { osg::Vec3f(), osg::Vec3f(0.f, 0.f, 1.f) });
-    chunk->setUniformParameter(
-        "colors", osg::MFVec4f { osg::Vec4f(), osg::Vec4f(), osg::Vec4f(0.f, 0.f, 0.f, 1.f) });
+    osg::MFInt32 picks(2);
+    picks[1] = 2;
+    osg::MFReal32 weights(2);
+    weights[0] = 1.f;
+    osg::MFVec2f places(2);
+    places[0].setValues(1.f, 1.f);
+    osg::MFVec3f axes(2);
+    axes[1].setValues(0.f, 0.f, 1.f);
+    osg::MFVec4f colors(3);
+    colors[2].setValues(0.f, 0.f, 0.f, 1.f);
+    chunk->setUniformParameter("picks", picks);
+    chunk->setUniformParameter("weights", weights);
+    chunk->setUniformParameter("places", places);
+    chunk->setUniformParameter("axes", axes);
+    chunk->setUniformParameter("colors", colors);
     chunk->setUniformParameter("turns", turns);
 
     const QImage picture =

@@ -17,7 +17,7 @@ protected:
     void edit(const Set& set)
     {
         const nbEdit edit(picture.settings, osg::FieldBits::AllFields);
-        set(*picture.settings);
+        set(*picture.settings.get());
     }
 
     void setKind(Settings::TextureProjection kind)

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include <nbOpenSGUtils/nbImage.h>
 
-#include <OpenSG/OSGChangeCount.h>
 #include <OpenSG/OSGRefPtr.h>
 
 #include <gtest/gtest.h>
 
 #include <vector>
+
+#include <ChangeCount.h>
 
 namespace {
 

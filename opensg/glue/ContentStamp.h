@@ -2,30 +2,26 @@
 #pragma once
 
 #include <OpenSG/OSGBaseTypes.h>
-#include <OpenSG/OSGFieldContainer.h>
 #include <OpenSG/OSGFieldContainerPtr.h>
 
 #include <cstddef>
 #include <cstring>
+
+#include <ChangeCount.h>
 
 namespace osg {
 
 /// Tells whether anything about a container and its parts changed since somebody looked: a number
 /// mixed from their ids and change counters. Equal stamps: nothing changed; otherwise something
 /// did. Stamps have no order. Ids are never reused, so a part that was replaced shows as well as
-/// one that was edited. Not in OpenSG.
-///
-/// A renderer keeps `material->getContentStamp()` with what it made from the material and compares:
-/// the stamp covers the material, its list of chunks, each chunk, a texture's image and a shader's
-/// parameters. `chunk->getContentStamp()` tells which chunk it was. As everywhere, a setter shows
-/// when its edit ends.
+/// one that was edited. A setter shows when its edit ends.
 class ContentStamp
 {
 public:
     /// Of nothing yet.
     ContentStamp() = default;
 
-    explicit ContentStamp(const FieldContainer& container) { add(container); }
+    explicit ContentStamp(const FieldContainerPtr& container) { add(container); }
 
     void add(UInt64 number)
     {
@@ -52,20 +48,12 @@ public:
         }
     }
 
-    void add(const FieldContainer& container)
-    {
-        constexpr UInt32 kIdShift = 32;
-        add((UInt64(container.getFieldContainerId()) << kIdShift) | container.getChangeCount());
-    }
-
     /// Null counts as a part, too.
     void add(const FieldContainerPtr& container)
     {
-        if (container != NullFC) {
-            add(*container);
-        } else {
-            add(UInt64(0));
-        }
+        constexpr UInt32 kIdShift = 32;
+        const UInt64 id = container != NullFC ? container.getFieldContainerId() : 0;
+        add((id << kIdShift) | getChangeCount(container));
     }
 
     UInt64 get() const { return value; }

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <OpenSG/OSGQuaternion.h>
+#include <OpenSG/OSGVector.h>
+
+#include <cstring>
+
+/// Whether the three numbers are the same bit for bit; zeros of both signs differ.
+inline bool nbSameBits(const osg::Vec3f& a, const osg::Vec3f& b)
+{
+    return std::memcmp(a.getValues(), b.getValues(), 3 * sizeof(osg::Real32)) == 0;
+}
+
+/// The same of four numbers. A quaternion of a real OpenSG is larger than these.
+inline bool nbSameBits(const osg::Quaternion& a, const osg::Quaternion& b)
+{
+    return std::memcmp(a.getValues(), b.getValues(), 4 * sizeof(osg::Real32)) == 0;
+}
