@@ -44,13 +44,18 @@ install(DIRECTORY ${PROJECT_SOURCE_DIR}/modules DESTINATION ${NBM_HEADERS} COMPO
         FILES_MATCHING PATTERN "*.h")
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/platform/ DESTINATION ${NBM_HEADERS} COMPONENT development
         FILES_MATCHING PATTERN "*.h" PATTERN "detail" EXCLUDE REGEX "/nbOpenSGRenderAction/[A-Z][^/]*$" EXCLUDE)
-if(NBMANIPULATOR_OPENSG STREQUAL "bundled")
-    set(NBM_OTHER_GLUE FieldContainerGlueSystem.h)
+# The scene graph's own headers with the bundled one alone, and of the glue what compiles with this one.
+if(NBMANIPULATOR_OPENSG STREQUAL "system")
+    install(DIRECTORY ${PROJECT_SOURCE_DIR}/opensg/glue/ DESTINATION ${NBM_HEADERS} COMPONENT development
+            FILES_MATCHING PATTERN "*.h" PATTERN "*Bundled.h" EXCLUDE)
+    install(FILES ${PROJECT_SOURCE_DIR}/opensg/SystemOpenSG.cmake DESTINATION ${NBM_PACKAGE} COMPONENT development)
+    get_filename_component(NBM_OPENSG_LIBRARIES ${OPENSG_SYSTEM_LIBRARY} DIRECTORY)
+    set(NBM_PC_LIBS " -L${NBM_OPENSG_LIBRARIES} -lOSGSystem -lOSGBase")
+    set(NBM_PC_CFLAGS " -DNBMANIPULATOR_SYSTEM_OPENSG -isystem ${OPENSG_INCLUDE_DIR} -isystem ${OPENSG_INCLUDE_DIR}/OpenSG -Wno-narrowing -Wno-deprecated")
 else()
-    set(NBM_OTHER_GLUE FieldContainerGlueBundled.h)
+    install(DIRECTORY ${PROJECT_SOURCE_DIR}/opensg/include/ ${PROJECT_SOURCE_DIR}/opensg/glue/
+            DESTINATION ${NBM_HEADERS} COMPONENT development FILES_MATCHING PATTERN "*.h" PATTERN "*System.h" EXCLUDE)
 endif()
-install(DIRECTORY ${PROJECT_SOURCE_DIR}/opensg/include/ ${PROJECT_SOURCE_DIR}/opensg/glue/
-        DESTINATION ${NBM_HEADERS} COMPONENT development FILES_MATCHING PATTERN "*.h" PATTERN ${NBM_OTHER_GLUE} EXCLUDE)
 
 # == CMake package and pkg-config file
 install(EXPORT nbManipulatorTargets NAMESPACE nbm:: DESTINATION ${NBM_PACKAGE} COMPONENT development)
@@ -67,6 +72,8 @@ list(JOIN NBM_QT_MODULES ", " NBM_QT_MODULES)
 # Written while installing, so that a prefix chosen then is the one named in it.
 install(CODE "set(CMAKE_INSTALL_LIBDIR \"${CMAKE_INSTALL_LIBDIR}\")
 set(CMAKE_INSTALL_INCLUDEDIR \"${CMAKE_INSTALL_INCLUDEDIR}\")
+set(NBM_PC_LIBS \"${NBM_PC_LIBS}\")
+set(NBM_PC_CFLAGS \"${NBM_PC_CFLAGS}\")
 set(PROJECT_DESCRIPTION \"${PROJECT_DESCRIPTION}\")
 set(PROJECT_VERSION \"${PROJECT_VERSION}\")
 set(NB_SUFFIX \"${NB_SUFFIX}\")
