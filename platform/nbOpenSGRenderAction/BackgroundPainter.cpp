@@ -4,8 +4,6 @@
 #include <nbOpenSGUberCamera/nbCameraUtils.h>
 #include <nbOpenSGUberViewport/UberViewport.h>
 #include <nbOpenSGUberViewport/nbPhotographFit.h>
-#include <nbOpenSGUtils/nbShaderHeader.h>
-#include <nbUtils/nbLog.h>
 
 #include <OpenSG/OSGSolidBackground.h>
 
@@ -15,6 +13,17 @@
 namespace nbrender {
 
 namespace {
+
+const char* const kGradientFragment = R"(
+in vec2 place;
+uniform vec4 topColor;
+uniform vec4 bottomColor;
+layout (location = 0) out vec4 colorBufferRGBA;
+void main()
+{
+    colorBufferRGBA = vec4(mix(bottomColor.rgb, topColor.rgb, place.y), 1.0);
+}
+)";
 
 const char* const kPhotographFragment = R"(
 in vec2 place;
@@ -88,24 +97,27 @@ void BackgroundPainter::draw(Gl& gl, const osg::ViewportPtr& viewport, const Fra
 {
     prepareState(gl);
     const Gradient gradient = gradientOf(viewport);
-    GlProgram& program = programs.getStandard(ShaderPrograms::Standard::Background);
-    program.use(gl);
+    GlProgram* const program =
+        programs.use(gl, "backgrounds", shaders::kFullScreenVertex, kGradientFragment);
+    if (program == nullptr) {
+        return;
+    }
     const osg::Color4f& top = gradient.top;
     const osg::Color4f& bottom = gradient.bottom;
-    program.set(gl, "topColor", top.red(), top.green(), top.blue(), top.alpha());
-    program.set(gl, "bottomColor", bottom.red(), bottom.green(), bottom.blue(), bottom.alpha());
+    program->set(gl, "topColor", top.red(), top.green(), top.blue(), top.alpha());
+    program->set(gl, "bottomColor", bottom.red(), bottom.green(), bottom.blue(), bottom.alpha());
     gl.glColorMaski(1, GL_FALSE, GL_FALSE, GL_FALSE, GL_FALSE);
     gl.glBindVertexArray(frame.emptyArray);
     gl.glDrawArrays(GL_TRIANGLES, 0, 3);
     frame.count->add(1);
     if (hasPhotograph(viewport)) {
-        drawPhotograph(gl, viewport, 1.0F, frame, textures);
+        drawPhotograph(gl, viewport, 1.0F, frame, programs, textures);
     }
     gl.glColorMaski(1, GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
 }
 
 void BackgroundPainter::drawVeil(Gl& gl, const osg::ViewportPtr& viewport, const Frame& frame,
-                                 GpuTextures& textures)
+                                 ShaderPrograms& programs, GpuTextures& textures)
 {
     if (!hasVeil(viewport)) {
         return;
@@ -114,7 +126,7 @@ void BackgroundPainter::drawVeil(Gl& gl, const osg::ViewportPtr& viewport, const
     const float veil = osg::UberViewportPtr::dcast(viewport)->getPhotographVeil();
     gl.glColorMaski(1, GL_FALSE, GL_FALSE, GL_FALSE, GL_FALSE);
     gl.glBindVertexArray(frame.emptyArray);
-    drawPhotograph(gl, viewport, std::min(veil, 1.0F), frame, textures);
+    drawPhotograph(gl, viewport, std::min(veil, 1.0F), frame, programs, textures);
     gl.glColorMaski(1, GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
 }
 
@@ -153,31 +165,23 @@ bool BackgroundPainter::hasVeil(const osg::ViewportPtr& viewport)
 }
 
 void BackgroundPainter::drawPhotograph(Gl& gl, const osg::ViewportPtr& viewport, float opacity,
-                                       const Frame& frame, GpuTextures& textures)
+                                       const Frame& frame, ShaderPrograms& programs,
+                                       GpuTextures& textures)
 {
-    if (!isTried) {
-        isTried = true;
-        const std::string preamble =
-            shaderHeaderString(nbShaderStage::Fragment, false, false, false);
-        std::string error;
-        if (!photograph.build(gl, shaders::fullScreenVertex(), std::string(),
-                              preamble + kPhotographFragment, error)) {
-            nbLog::error("the program for photographs does not compile on this driver: " + error);
-        }
-    }
     const osg::ImagePtr image = osg::UberViewportPtr::dcast(viewport)->getPhotograph();
     const GLuint texture = textures.get(gl, image, PixelForm::Plain).name;
-    if (!photograph.isUsable() || texture == 0) {
+    GlProgram* const program =
+        programs.use(gl, "photographs", shaders::kFullScreenVertex, kPhotographFragment);
+    if (program == nullptr || texture == 0) {
         return;
     }
     const nbPhotographFit fit = fitOf(viewport, frame);
-    photograph.use(gl);
-    photograph.set(gl, "picture", GLint(0));
-    photograph.set(gl, "area", fit.left + frame.shiftXPx, fit.bottom + frame.shiftYPx, fit.width,
-                   fit.height);
-    photograph.set(gl, "viewSize", static_cast<float>(frame.widthPx),
-                   static_cast<float>(frame.heightPx));
-    photograph.set(gl, "opacity", opacity);
+    program->set(gl, "picture", GLint(0));
+    program->set(gl, "area", fit.left + frame.shiftXPx, fit.bottom + frame.shiftYPx, fit.width,
+                 fit.height);
+    program->set(gl, "viewSize", static_cast<float>(frame.widthPx),
+                 static_cast<float>(frame.heightPx));
+    program->set(gl, "opacity", opacity);
     gl.glActiveTexture(GL_TEXTURE0);
     gl.glBindTexture(GL_TEXTURE_2D, texture);
     gl.glBindSampler(0, textures.getSampler(gl, false, false));
@@ -187,13 +191,6 @@ void BackgroundPainter::drawPhotograph(Gl& gl, const osg::ViewportPtr& viewport,
     frame.count->add(1);
     gl.glDisable(GL_BLEND);
     gl.glBindSampler(0, 0);
-    gl.glBindTexture(GL_TEXTURE_2D, 0);
-}
-
-void BackgroundPainter::release(Gl& gl)
-{
-    photograph.destroy(gl);
-    forget();
 }
 
 }  // namespace nbrender

@@ -13,17 +13,16 @@ namespace nbrender {
 
 /// Draws what lies behind the scene: the gradient or colour of a viewport, and over it the
 /// photograph of an UberViewport, where nbPhotographFit places it. Touches the colours alone.
-/// Needs the current context of its first use.
 class BackgroundPainter
 {
 public:
     /// @param viewport  null: black
-    void draw(Gl& gl, const osg::ViewportPtr& viewport, const Frame& frame,
-              ShaderPrograms& programs, GpuTextures& textures);
+    static void draw(Gl& gl, const osg::ViewportPtr& viewport, const Frame& frame,
+                     ShaderPrograms& programs, GpuTextures& textures);
 
     /// Draws the photograph once more, over the scene, as far as the viewport's veil says.
-    void drawVeil(Gl& gl, const osg::ViewportPtr& viewport, const Frame& frame,
-                  GpuTextures& textures);
+    static void drawVeil(Gl& gl, const osg::ViewportPtr& viewport, const Frame& frame,
+                         ShaderPrograms& programs, GpuTextures& textures);
 
     /// Adds what draw() depends on, the frame left out.
     static void addTo(osg::ContentStamp& stamp, const osg::ViewportPtr& viewport,
@@ -35,17 +34,10 @@ public:
     static bool hasPhotograph(const osg::ViewportPtr& viewport);
     static bool hasVeil(const osg::ViewportPtr& viewport);
 
-    void release(Gl& gl);
-
-    void forget() { *this = BackgroundPainter(); }
-
 private:
     /// @param opacity  0 .. 1
-    void drawPhotograph(Gl& gl, const osg::ViewportPtr& viewport, float opacity, const Frame& frame,
-                        GpuTextures& textures);
-
-    GlProgram photograph;
-    bool isTried = false;
+    static void drawPhotograph(Gl& gl, const osg::ViewportPtr& viewport, float opacity,
+                               const Frame& frame, ShaderPrograms& programs, GpuTextures& textures);
 };
 
 }  // namespace nbrender

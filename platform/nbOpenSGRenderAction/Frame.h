@@ -10,9 +10,12 @@
 
 namespace nbrender {
 
-/// What was given to the driver.
+/// What a frame took.
 struct DrawCount
 {
+    std::size_t items = 0;  ///< in the list
+    std::size_t inView = 0;
+    std::size_t reused = 0;  ///< of these not drawn but taken from a copy
     std::size_t calls = 0;
     std::size_t triangles = 0;  ///< those that lines are widened to included
 

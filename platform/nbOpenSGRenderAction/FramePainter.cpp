@@ -9,6 +9,16 @@ namespace nbrender {
 
 namespace {
 
+const char* const kPictureFragment = R"(
+in vec2 place;
+uniform sampler2D picture;
+layout (location = 0) out vec4 color;
+void main()
+{
+    color = vec4(texture(picture, place).rgb, 1.0);
+}
+)";
+
 void clear(Gl& gl, const DepthLayout& depth)
 {
     constexpr GLfloat kNothing[] = { 0.0F, 0.0F, 0.0F, 0.0F };
@@ -24,18 +34,22 @@ void clear(Gl& gl, const DepthLayout& depth)
 
 bool FramePainter::initialise(Gl& gl, std::string& error)
 {
-    if (!programs.initialise(gl, error)) {
-        programs.release(gl);
-        return false;
-    }
     depth = DepthLayout::choose();
-    return true;
+    const bool isReady = usePictureProgram(gl) != nullptr;
+    if (!isReady) {
+        error = "the driver refuses the renderer's programs";
+    }
+    return isReady;
+}
+
+GlProgram* FramePainter::usePictureProgram(Gl& gl)
+{
+    return programs.use(gl, "pictures", shaders::kFullScreenVertex, kPictureFragment);
 }
 
 void FramePainter::draw(Gl& gl, const Frame& frame, const osg::ViewportPtr& viewport,
                         FrameTargets& targets)
 {
-    taken.items = taken.inView = taken.reused = 0;
     gl.glViewport(0, 0, frame.widthPx, frame.heightPx);
     if (viewport == osg::NullFC || viewport->getCamera() == osg::NullFC) {
         begin(gl, frame, viewport, targets);
@@ -52,7 +66,7 @@ void FramePainter::draw(Gl& gl, const Frame& frame, const osg::ViewportPtr& view
         }
     } else {
         begin(gl, frame, viewport, targets);
-        plates.drawBack(gl, frame, textures);
+        plates.drawBack(gl, frame, programs, textures);
     }
     const std::size_t middle = std::max(plan.reused, plan.kept);
     drawSteps(gl, frame, viewport, view, steps, plan.reused, middle);
@@ -63,7 +77,6 @@ void FramePainter::draw(Gl& gl, const Frame& frame, const osg::ViewportPtr& view
         }
     }
     drawSteps(gl, frame, viewport, view, steps, middle, steps.size());
-    taken.items = list.getItems().size();
 }
 
 void FramePainter::drawScene(Gl& gl, const Frame& frame, const osg::ViewportPtr& viewport,
@@ -73,41 +86,26 @@ void FramePainter::drawScene(Gl& gl, const Frame& frame, const osg::ViewportPtr&
     const FrameView view = prepareView(frame, viewport);
     plates.update(viewport->getRoot());
     begin(gl, frame, viewport, targets);
-    plates.drawBack(gl, frame, textures);
-    taken = { list.getItems().size(), 0, 0, taken.listBuilds };
+    plates.drawBack(gl, frame, programs, textures);
     FrameSteps steps;
     osg::ContentStamp stamp;
-    addItems(steps, stamp, view, true, false);
+    addItems(steps, stamp, frame, view, true, false);
     drawItems(gl, frame, view, steps, 0, steps.size());
-    background.drawVeil(gl, viewport, frame, textures);
+    BackgroundPainter::drawVeil(gl, viewport, frame, programs, textures);
 }
 
-void FramePainter::drawHandles(Gl& gl, const Frame& frame, const osg::ViewportPtr& viewport,
-                               FrameTargets& targets)
-{
-    gl.glViewport(0, 0, frame.widthPx, frame.heightPx);
-    begin(gl, frame, viewport, targets);
-    if (viewport != osg::NullFC && viewport->getCamera() != osg::NullFC) {
-        const FrameView view = prepareView(frame, viewport);
-        FrameSteps steps;
-        osg::ContentStamp stamp;
-        addItems(steps, stamp, view, false, true);
-        drawItems(gl, frame, view, steps, 0, steps.size());
-    }
-}
-
-PixelBox FramePainter::drawOver(Gl& gl, const Frame& frame, const osg::ViewportPtr& viewport,
-                                FrameTargets& targets, GLuint scene)
+PixelBox FramePainter::drawHandles(Gl& gl, const Frame& frame, const osg::ViewportPtr& viewport,
+                                   FrameTargets& targets, GLuint scene)
 {
     gl.glViewport(0, 0, frame.widthPx, frame.heightPx);
     const FrameView view = prepareView(frame, viewport);
     FrameSteps steps;
-    if (plates.hasFront()) {
+    if (scene != 0 && plates.hasFront()) {
         steps.push_back({ FrameStep::Kind::FrontPlates, 0, true, 0 });
     }
     osg::ContentStamp stamp;
-    addItems(steps, stamp, view, false, true);
-    PixelBox box;
+    addItems(steps, stamp, frame, view, false, true);
+    PixelBox box = scene != 0 ? PixelBox() : wholeOf(frame);
     for (const FrameStep& step : steps) {
         box.unite(pixelsOf(step, frame, view));
     }
@@ -116,7 +114,11 @@ PixelBox FramePainter::drawOver(Gl& gl, const Frame& frame, const osg::ViewportP
     gl.glScissor(box.left, box.bottom, box.right - box.left, box.top - box.bottom);
     clear(gl, depth);
     gl.glColorMaski(1, GL_FALSE, GL_FALSE, GL_FALSE, GL_FALSE);
-    drawPicture(gl, frame, scene, GL_LINEAR);
+    if (scene != 0) {
+        drawPicture(gl, frame, scene, GL_LINEAR);
+    } else {
+        BackgroundPainter::draw(gl, viewport, frame, programs, textures);
+    }
     gl.glColorMaski(1, GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
     gl.glDisable(GL_SCISSOR_TEST);
     drawSteps(gl, frame, viewport, view, steps, 0, steps.size());
@@ -126,9 +128,7 @@ PixelBox FramePainter::drawOver(Gl& gl, const Frame& frame, const osg::ViewportP
 void FramePainter::drawPicture(Gl& gl, const Frame& frame, GLuint texture, GLint filter)
 {
     gl.glDisable(GL_DEPTH_TEST);
-    GlProgram& program = programs.getStandard(ShaderPrograms::Standard::Present);
-    program.use(gl);
-    program.set(gl, "picture", GLint(0));
+    usePictureProgram(gl)->set(gl, "picture", GLint(0));
     gl.glActiveTexture(GL_TEXTURE0);
     gl.glBindTexture(GL_TEXTURE_2D, texture);
     gl.glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, filter);
@@ -143,14 +143,15 @@ void FramePainter::begin(Gl& gl, const Frame& frame, const osg::ViewportPtr& vie
     targets.markDrawn(wholeOf(frame));
     gl.glDisable(GL_SCISSOR_TEST);
     clear(gl, depth);
-    background.draw(gl, viewport, frame, programs, textures);
+    BackgroundPainter::draw(gl, viewport, frame, programs, textures);
 }
 
 FrameView FramePainter::prepareView(const Frame& frame, const osg::ViewportPtr& viewport)
 {
     if (list.update(viewport->getRoot())) {
-        ++taken.listBuilds;
+        ++listBuilds;
     }
+    frame.count->items = list.getItems().size();
     osg::Matrix viewFromWorld;
     viewport->getCamera()->getViewing(viewFromWorld, static_cast<osg::UInt32>(frame.widthPx),
                                       static_cast<osg::UInt32>(frame.heightPx));
@@ -171,10 +172,10 @@ FrameSteps FramePainter::makeSteps(const Frame& frame, const osg::ViewportPtr& v
     plates.addBackTo(stamp, frame);
     const bool hasVeil = BackgroundPainter::hasVeil(viewport);
     if (!hasVeil && !plates.hasFront()) {
-        addItems(steps, stamp, view, true, true);
+        addItems(steps, stamp, frame, view, true, true);
         return steps;
     }
-    addItems(steps, stamp, view, true, false);
+    addItems(steps, stamp, frame, view, true, false);
     if (hasVeil) {
         BackgroundPainter::addVeilTo(stamp, viewport);
         steps.push_back({ FrameStep::Kind::Veil, 0, false, stamp.get() });
@@ -183,12 +184,12 @@ FrameSteps FramePainter::makeSteps(const Frame& frame, const osg::ViewportPtr& v
         plates.addFrontTo(stamp, frame);
         steps.push_back({ FrameStep::Kind::FrontPlates, 0, true, stamp.get() });
     }
-    addItems(steps, stamp, view, false, true);
+    addItems(steps, stamp, frame, view, false, true);
     return steps;
 }
 
-void FramePainter::addItems(FrameSteps& steps, osg::ContentStamp& stamp, const FrameView& view,
-                            bool scene, bool handles)
+void FramePainter::addItems(FrameSteps& steps, osg::ContentStamp& stamp, const Frame& frame,
+                            const FrameView& view, bool scene, bool handles)
 {
     for (const osg::UInt32 index : list.getOrder(view.viewFromWorld)) {
         const RenderItem& item = list.getItems()[index];
@@ -202,7 +203,7 @@ void FramePainter::addItems(FrameSteps& steps, osg::ContentStamp& stamp, const F
             stamp.add(plane.getValues(), 4);
         }
         steps.push_back({ FrameStep::Kind::Item, index, item.handle, stamp.get() });
-        ++taken.inView;
+        ++frame.count->inView;
     }
 }
 
@@ -227,7 +228,7 @@ SceneImage::Plan FramePainter::makePlan(const Frame& frame, const FrameView& vie
                      static_cast<std::size_t>(settled), pixels, triangles });
     const auto isItem = [](const FrameStep& step) { return step.kind == FrameStep::Kind::Item; };
     const auto begin = steps.begin();
-    taken.reused = static_cast<std::size_t>(
+    frame.count->reused = static_cast<std::size_t>(
         std::count_if(begin, begin + static_cast<std::ptrdiff_t>(plan.reused), isItem));
     return plan;
 }
@@ -251,10 +252,10 @@ void FramePainter::drawSteps(Gl& gl, const Frame& frame, const osg::ViewportPtr&
 {
     for (std::size_t i = first; i < last;) {
         if (steps[i].kind == FrameStep::Kind::Veil) {
-            background.drawVeil(gl, viewport, frame, textures);
+            BackgroundPainter::drawVeil(gl, viewport, frame, programs, textures);
             ++i;
         } else if (steps[i].kind == FrameStep::Kind::FrontPlates) {
-            plates.drawFront(gl, frame, textures);
+            plates.drawFront(gl, frame, programs, textures);
             ++i;
         } else {
             std::size_t end = i;
@@ -292,8 +293,6 @@ void FramePainter::release(Gl& gl)
     programs.release(gl);
     meshes.release(gl);
     textures.release(gl);
-    background.release(gl);
-    plates.release(gl);
     image.forget();
 }
 
@@ -302,8 +301,6 @@ void FramePainter::forget()
     programs.forget();
     meshes.forget();
     textures.forget();
-    background.forget();
-    plates.forget();
     image.forget();
 }
 

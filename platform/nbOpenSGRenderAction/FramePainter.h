@@ -18,15 +18,6 @@ namespace nbrender {
 class FramePainter
 {
 public:
-    /// What a frame took.
-    struct Taken
-    {
-        std::size_t items = 0;  ///< in the list
-        std::size_t inView = 0;
-        std::size_t reused = 0;  ///< of these not drawn but taken from a copy
-        std::size_t listBuilds = 0;  ///< since construction
-    };
-
     /// Makes ready for a context.
     /// @param error  receives a line on failure
     bool initialise(Gl& gl, std::string& error);
@@ -42,15 +33,12 @@ public:
     void drawScene(Gl& gl, const Frame& frame, const osg::ViewportPtr& viewport,
                    FrameTargets& targets);
 
-    /// Draws background and handles alone.
-    void drawHandles(Gl& gl, const Frame& frame, const osg::ViewportPtr& viewport,
-                     FrameTargets& targets);
-
-    /// Draws plates before the scene and handles over a picture of the scene, where they are.
-    /// @param scene  texture, spread over the frame
+    /// Draws background and handles alone, or the plates before the scene and handles over a
+    /// picture of the scene, where they are; of a viewport with a camera.
+    /// @param scene  texture, spread over the frame; 0 for the background
     /// @return outside of which nothing was drawn
-    PixelBox drawOver(Gl& gl, const Frame& frame, const osg::ViewportPtr& viewport,
-                      FrameTargets& targets, GLuint scene);
+    PixelBox drawHandles(Gl& gl, const Frame& frame, const osg::ViewportPtr& viewport,
+                         FrameTargets& targets, GLuint scene);
 
     /// Spreads a texture over what is bound. @param filter  of a texture that is smaller
     void drawPicture(Gl& gl, const Frame& frame, GLuint texture, GLint filter = GL_NEAREST);
@@ -59,7 +47,8 @@ public:
 
     void setMovedLast(bool on) { isMovedLast = on; }
 
-    const Taken& getTaken() const { return taken; }
+    /// How often the list of items was made since construction.
+    std::size_t getListBuilds() const { return listBuilds; }
 
     std::size_t getMeshCount() const { return meshes.size(); }
 
@@ -68,13 +57,14 @@ public:
     void forget();
 
 private:
+    GlProgram* usePictureProgram(Gl& gl);
     void begin(Gl& gl, const Frame& frame, const osg::ViewportPtr& viewport, FrameTargets& targets);
     FrameView prepareView(const Frame& frame, const osg::ViewportPtr& viewport);
     FrameSteps makeSteps(const Frame& frame, const osg::ViewportPtr& viewport,
                          const FrameView& view);
     /// Adds those items that are in view, of handles, of the scene or of both.
-    void addItems(FrameSteps& steps, osg::ContentStamp& stamp, const FrameView& view, bool scene,
-                  bool handles);
+    void addItems(FrameSteps& steps, osg::ContentStamp& stamp, const Frame& frame,
+                  const FrameView& view, bool scene, bool handles);
     SceneImage::Plan makePlan(const Frame& frame, const FrameView& view, const FrameSteps& steps,
                               const FrameTargets& targets);
     PixelBox pixelsOf(const FrameStep& step, const Frame& frame, const FrameView& view) const;
@@ -88,11 +78,10 @@ private:
     ShaderPrograms programs;
     GpuMeshes meshes;
     GpuTextures textures;
-    BackgroundPainter background;
     SceneplatePainter plates;
     ItemList list;
     SceneImage image;
-    Taken taken;
+    std::size_t listBuilds = 0;
     bool isMovedLast = false;
     osg::Matrix lastViewFromWorld;
 };

@@ -161,7 +161,7 @@ void FrameTargets::resolve(Gl& gl, Buffer buffer)
     box = PixelBox();
 }
 
-QImage FrameTargets::read(Gl& gl, Buffer buffer)
+QImage FrameTargets::readEffect(Gl& gl)
 {
     if (resolveFramebuffer == 0) {
         return {};
@@ -170,27 +170,14 @@ QImage FrameTargets::read(Gl& gl, Buffer buffer)
     GLint drawnBefore = 0;
     gl.glGetIntegerv(GL_READ_FRAMEBUFFER_BINDING, &readBefore);
     gl.glGetIntegerv(GL_DRAW_FRAMEBUFFER_BINDING, &drawnBefore);
-    resolve(gl, buffer);
+    resolve(gl, Buffer::Effect);
     QImage picture(madeWidth, madeHeight, QImage::Format_RGBA8888);
     gl.glBindFramebuffer(GL_READ_FRAMEBUFFER, resolveFramebuffer);
-    gl.glReadBuffer(kOutputs[buffer == Buffer::Color ? 0 : 1]);
+    gl.glReadBuffer(kOutputs[1]);
     gl.glReadPixels(0, 0, madeWidth, madeHeight, GL_RGBA, GL_UNSIGNED_BYTE, picture.bits());
     gl.glBindFramebuffer(GL_READ_FRAMEBUFFER, static_cast<GLuint>(readBefore));
     gl.glBindFramebuffer(GL_DRAW_FRAMEBUFFER, static_cast<GLuint>(drawnBefore));
-    QImage upright = picture.mirrored();
-    if (buffer == Buffer::Effect) {
-        return upright;
-    }
-    // Blending leaves fractions in the alpha of the colour buffer, which the picture does not have.
-    QImage opaque = upright.convertToFormat(QImage::Format_RGBX8888);
-    constexpr uchar kOpaque = 0xff;
-    for (int y = 0; y < opaque.height(); ++y) {
-        uchar* row = opaque.scanLine(y);
-        for (int x = 0; x < opaque.width(); ++x) {
-            row[4 * x + 3] = kOpaque;
-        }
-    }
-    return opaque;
+    return picture.mirrored();
 }
 
 void FrameTargets::release(Gl& gl, Layers& layers)

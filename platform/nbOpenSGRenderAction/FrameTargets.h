@@ -52,9 +52,8 @@ public:
     /// Framebuffer whose first buffer is the resolved colour, whose second the resolved effect.
     GLuint getResolved() const { return resolveFramebuffer; }
 
-    /// The resolved picture, rows from top to bottom: colour without alpha, effect with it. Null
-    /// before the first frame.
-    QImage read(Gl& gl, Buffer buffer);
+    /// The resolved effect, rows from top to bottom; null before the first frame.
+    QImage readEffect(Gl& gl);
 
     /// Samples per pixel that the driver really gave.
     int getSamples() const { return madeSamples; }

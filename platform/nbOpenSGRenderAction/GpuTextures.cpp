@@ -4,28 +4,18 @@
 #include <nbOpenSGRenderAction/nbImageConvert.h>
 #include <nbUtils/nbLog.h>
 
+#include <OpenSG/OSGContentStamp.h>
 #include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGImage.h>
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <string>
 #include <vector>
 
-#include <ContentStamp.h>
-
 namespace nbrender {
 
 namespace {
-
-using Swizzle = std::array<GLint, 4>;
-constexpr Swizzle kAlpha { GL_ONE, GL_ONE, GL_ONE, GL_RED };
-constexpr Swizzle kIntensity { GL_RED, GL_RED, GL_RED, GL_RED };
-constexpr Swizzle kGrey { GL_RED, GL_RED, GL_RED, GL_ONE };
-constexpr Swizzle kGreyAlpha { GL_RED, GL_RED, GL_RED, GL_GREEN };
-constexpr Swizzle kColour { GL_RED, GL_GREEN, GL_BLUE, GL_ONE };
-constexpr Swizzle kColourAlpha { GL_RED, GL_GREEN, GL_BLUE, GL_ALPHA };
 
 /// How an image format is kept: core profiles know red, green, blue and alpha alone; the old
 /// formats are made of these by swizzling.
@@ -33,22 +23,37 @@ struct Layout
 {
     osg::UInt32 format;
     GLenum external;
-    GLenum internalByte;
-    GLenum internalFloat;
-    Swizzle swizzle;
-    bool hasColor;
-    bool hasAlpha;
+    GLint swizzle[4];
+
+    bool hasColor() const { return format != osg::Image::OSG_A_PF; }
+
+    bool hasAlpha() const { return swizzle[3] != GL_ONE; }
+
+    GLenum internal(bool ofBytes) const
+    {
+        switch (external) {
+        case GL_RED:
+            return ofBytes ? GL_R8 : GL_R16F;
+        case GL_RG:
+            return ofBytes ? GL_RG8 : GL_RG16F;
+        case GL_RGB:
+        case GL_BGR:
+            return ofBytes ? GL_RGB8 : GL_RGB16F;
+        default:
+            return ofBytes ? GL_RGBA8 : GL_RGBA16F;
+        }
+    }
 };
 
 constexpr Layout kLayouts[] = {
-    { osg::Image::OSG_A_PF, GL_RED, GL_R8, GL_R16F, kAlpha, false, true },
-    { osg::Image::OSG_I_PF, GL_RED, GL_R8, GL_R16F, kIntensity, true, true },
-    { osg::Image::OSG_L_PF, GL_RED, GL_R8, GL_R16F, kGrey, true, false },
-    { osg::Image::OSG_LA_PF, GL_RG, GL_RG8, GL_RG16F, kGreyAlpha, true, true },
-    { osg::Image::OSG_RGB_PF, GL_RGB, GL_RGB8, GL_RGB16F, kColour, true, false },
-    { osg::Image::OSG_BGR_PF, GL_BGR, GL_RGB8, GL_RGB16F, kColour, true, false },
-    { osg::Image::OSG_RGBA_PF, GL_RGBA, GL_RGBA8, GL_RGBA16F, kColourAlpha, true, true },
-    { osg::Image::OSG_BGRA_PF, GL_BGRA, GL_RGBA8, GL_RGBA16F, kColourAlpha, true, true },
+    { osg::Image::OSG_A_PF, GL_RED, { GL_ONE, GL_ONE, GL_ONE, GL_RED } },
+    { osg::Image::OSG_I_PF, GL_RED, { GL_RED, GL_RED, GL_RED, GL_RED } },
+    { osg::Image::OSG_L_PF, GL_RED, { GL_RED, GL_RED, GL_RED, GL_ONE } },
+    { osg::Image::OSG_LA_PF, GL_RG, { GL_RED, GL_RED, GL_RED, GL_GREEN } },
+    { osg::Image::OSG_RGB_PF, GL_RGB, { GL_RED, GL_GREEN, GL_BLUE, GL_ONE } },
+    { osg::Image::OSG_BGR_PF, GL_BGR, { GL_RED, GL_GREEN, GL_BLUE, GL_ONE } },
+    { osg::Image::OSG_RGBA_PF, GL_RGBA, { GL_RED, GL_GREEN, GL_BLUE, GL_ALPHA } },
+    { osg::Image::OSG_BGRA_PF, GL_BGRA, { GL_RED, GL_GREEN, GL_BLUE, GL_ALPHA } },
 };
 
 const Layout* findLayout(osg::UInt32 format)
@@ -108,7 +113,7 @@ void uploadLevel(Gl& gl, const osg::ImagePtr& image, osg::Int32 level, const Lay
                  const UploadOptions& options)
 {
     const auto type = static_cast<GLenum>(image->getDataType());
-    const GLenum internal = type == GL_UNSIGNED_BYTE ? layout.internalByte : layout.internalFloat;
+    const GLenum internal = layout.internal(type == GL_UNSIGNED_BYTE);
     const GLsizei width = std::max(image->getWidth() >> level, 1);
     const GLsizei height = std::max(image->getHeight() >> level, 1);
     const osg::UInt8* data = image->getData(static_cast<osg::UInt32>(level), options.frame);
@@ -167,12 +172,12 @@ GpuTexture upload(Gl& gl, const osg::ImagePtr& image, UploadOptions options)
     const bool isIntensity = layout->format == osg::Image::OSG_I_PF;
     gl.glGenTextures(1, &result.name);
     gl.glBindTexture(GL_TEXTURE_2D, result.name);
-    gl.glTexParameteriv(GL_TEXTURE_2D, GL_TEXTURE_SWIZZLE_RGBA, layout->swizzle.data());
-    options.premultiplied = options.premultiplied && layout->hasAlpha && layout->hasColor &&
+    gl.glTexParameteriv(GL_TEXTURE_2D, GL_TEXTURE_SWIZZLE_RGBA, layout->swizzle);
+    options.premultiplied = options.premultiplied && layout->hasAlpha() && layout->hasColor() &&
         !isIntensity && image->getDataType() == osg::Image::OSG_UINT8_IMAGEDATA;
     uploadLevels(gl, image, *layout, options);
-    result.hasColor = layout->hasColor;
-    result.hasAlpha = layout->hasAlpha;
+    result.hasColor = layout->hasColor();
+    result.hasAlpha = layout->hasAlpha();
     result.isIntensity = isIntensity;
     result.isPremultiplied = options.premultiplied;
     return result;
@@ -233,12 +238,11 @@ void drop(Gl& gl, Entries& entries, bool all)
 const GpuTexture& GpuTextures::get(Gl& gl, const osg::TextureChunkPtr& chunk)
 {
     Entry& entry = chunkEntries[chunk.getFieldContainerId()];
-    osg::ContentStamp stamp(chunk);
-    stamp.add(chunk->getImage());
-    if (entry.stamp != stamp.get()) {
+    const osg::UInt64 stamp = chunk->getContentStamp();
+    if (entry.stamp != stamp) {
         gl.glDeleteTextures(1, &entry.texture.name);
         entry.texture = upload(gl, chunk);
-        entry.stamp = stamp.get();
+        entry.stamp = stamp;
     }
     return entry.texture;
 }
@@ -247,7 +251,7 @@ const GpuTexture& GpuTextures::get(Gl& gl, const osg::ImagePtr& image, PixelForm
 {
     Entries& entries = imageEntries[static_cast<std::size_t>(form)];
     Entry& entry = entries[image.getFieldContainerId()];
-    const osg::UInt64 stamp = osg::ContentStamp(image).get();
+    const osg::UInt64 stamp = osg::ContentStamp(*image).get();
     if (entry.stamp != stamp) {
         gl.glDeleteTextures(1, &entry.texture.name);
         entry.texture = upload(gl, image, form);

@@ -12,6 +12,8 @@
 #include <OpenSG/OSGVector.h>
 
 #include <cstddef>
+#include <map>
+#include <tuple>
 #include <unordered_map>
 #include <utility>
 #include <vector>
@@ -117,27 +119,8 @@ public:
 private:
     struct Place;
 
-    struct StateKey
-    {
-        osg::UInt32 material = 0;
-        osg::UInt32 group = 0;
-        bool handle = false;
-
-        bool operator==(const StateKey& other) const
-        {
-            return material == other.material && group == other.group && handle == other.handle;
-        }
-    };
-
-    struct StateKeyHash
-    {
-        std::size_t operator()(const StateKey& key) const
-        {
-            constexpr unsigned int kHalf = 32;
-            return (std::size_t(key.material) << kHalf) ^ (std::size_t(key.group) << 1U) ^
-                std::size_t(key.handle);
-        }
-    };
+    /// Ids of material and group, and whether it is a handle's.
+    using StateKey = std::tuple<osg::UInt32, osg::UInt32, bool>;
 
     struct LocalBounds
     {
@@ -168,7 +151,7 @@ private:
     Order order;
     nbClipSets clipSets;
     std::vector<SurfaceSpace> surfaceSpaces;
-    std::unordered_map<StateKey, osg::UInt32, StateKeyHash> stateIndices;
+    std::map<StateKey, osg::UInt32> stateIndices;
     std::unordered_map<osg::UInt32, LocalBounds> boundsById;
     std::vector<std::pair<osg::UInt32, osg::UInt64>> sceneStamps;  ///< by node, as in the tree
     std::vector<osg::UInt32> movedNodes;  ///< ascending

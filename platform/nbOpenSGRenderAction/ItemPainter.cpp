@@ -95,19 +95,9 @@ ItemPainter::~ItemPainter()
            GL_POLYGON_OFFSET_POINT, GL_DEPTH_CLAMP, GL_BLEND, GL_CULL_FACE }) {
         gl.glDisable(switchedOn);
     }
-    gl.glDepthFunc(GL_LESS);
-    gl.glDepthMask(GL_TRUE);
-    gl.glDepthRange(0.0, 1.0);
     gl.glColorMaski(kEffectBuffer, GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
-    gl.glBlendFunc(GL_ONE, GL_ZERO);
     gl.glBlendEquation(GL_FUNC_ADD);
     gl.glPolygonMode(GL_FRONT_AND_BACK, GL_FILL);
-    gl.glPolygonOffset(0.0F, 0.0F);
-    gl.glFrontFace(GL_CCW);
-    gl.glCullFace(GL_BACK);
-    gl.glBindTexture(GL_TEXTURE_2D, 0);
-    gl.glBindVertexArray(0);
-    gl.glUseProgram(0);
 }
 
 void ItemPainter::draw(const RenderItem& item, const ItemList& list)

@@ -21,7 +21,7 @@ public:
     ItemPainter(Gl& functions, GpuMeshes& meshCache, GpuTextures& textureCache,
                 ShaderPrograms& programCache, const FrameView& frameView, DrawCount& drawn);
 
-    /// Puts back the OpenGL state that a fresh context has.
+    /// Puts back the OpenGL state that what is drawn next relies on.
     ~ItemPainter();
 
     ItemPainter(const ItemPainter&) = delete;

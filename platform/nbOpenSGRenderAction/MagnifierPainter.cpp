@@ -4,8 +4,6 @@
 #include <nbKernel/nbOSGWidget.h>
 #include <nbMagnifier/nbMagnifierRenderer.h>
 #include <nbOpenSGRenderAction/StandardShaders.h>
-#include <nbOpenSGUtils/nbShaderHeader.h>
-#include <nbUtils/nbLog.h>
 
 #include <algorithm>
 #include <cmath>
@@ -78,19 +76,11 @@ void MagnifierPainter::keep(Gl& gl, GLuint picture, int widthPx, int heightPx, f
     gl.glBindTexture(GL_TEXTURE_2D, 0);
 }
 
-void MagnifierPainter::draw(Gl& gl, float pixelRatio, GLuint emptyArray)
+void MagnifierPainter::draw(Gl& gl, float pixelRatio, GLuint emptyArray, ShaderPrograms& programs)
 {
-    if (!isTried) {
-        isTried = true;
-        const std::string preamble =
-            shaderHeaderString(nbShaderStage::Fragment, false, false, false);
-        std::string error;
-        if (!lens.build(gl, shaders::fullScreenVertex(), std::string(), preamble + kLensFragment,
-                        error)) {
-            nbLog::error("the program for magnifiers does not compile on this driver: " + error);
-        }
-    }
-    if (!lens.isUsable() || texture == 0) {
+    GlProgram* const lens =
+        programs.use(gl, "magnifiers", shaders::kFullScreenVertex, kLensFragment);
+    if (lens == nullptr || texture == 0) {
         return;
     }
     const float radius = kRadius * pixelRatio;
@@ -98,13 +88,12 @@ void MagnifierPainter::draw(Gl& gl, float pixelRatio, GLuint emptyArray)
     const float x = static_cast<float>(nbMagnifierRenderer::getCursorX()) + 0.5F;
     const float y = static_cast<float>(pictureHeight) -
         static_cast<float>(nbMagnifierRenderer::getCursorY()) - 0.5F;
-    lens.use(gl);
-    lens.set(gl, "picture", GLint(0));
-    lens.set(gl, "origin", static_cast<float>(originX), static_cast<float>(originY));
-    lens.set(gl, "size", static_cast<float>(keptWidth), static_cast<float>(keptHeight));
-    lens.set(gl, "cursor", x, y);
-    lens.set(gl, "scale", nbMagnifierRenderer::getMagnificationScale());
-    lens.set(gl, "radii", radius - kRim * pixelRatio, radius);
+    lens->set(gl, "picture", GLint(0));
+    lens->set(gl, "origin", static_cast<float>(originX), static_cast<float>(originY));
+    lens->set(gl, "size", static_cast<float>(keptWidth), static_cast<float>(keptHeight));
+    lens->set(gl, "cursor", x, y);
+    lens->set(gl, "scale", nbMagnifierRenderer::getMagnificationScale());
+    lens->set(gl, "radii", radius - kRim * pixelRatio, radius);
     gl.glActiveTexture(GL_TEXTURE0);
     gl.glBindTexture(GL_TEXTURE_2D, texture);
     gl.glBindVertexArray(emptyArray);
@@ -126,7 +115,6 @@ void MagnifierPainter::draw(Gl& gl, float pixelRatio, GLuint emptyArray)
 
 void MagnifierPainter::release(Gl& gl)
 {
-    lens.destroy(gl);
     gl.glDeleteTextures(1, &texture);
     forget();
 }

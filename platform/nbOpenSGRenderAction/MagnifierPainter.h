@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <nbOpenSGRenderAction/GlProgram.h>
+#include <nbOpenSGRenderAction/ShaderPrograms.h>
 
 #include <OpenSG/OSGViewport.h>
 
@@ -33,15 +33,13 @@ public:
     /// from its lower left corner on.
     /// @param pixelRatio  device pixels per logical pixel
     /// @param emptyArray  vertex array of programs that have no attributes
-    void draw(Gl& gl, float pixelRatio, GLuint emptyArray);
+    void draw(Gl& gl, float pixelRatio, GLuint emptyArray, ShaderPrograms& programs);
 
     void release(Gl& gl);
 
     void forget() { *this = MagnifierPainter(); }
 
 private:
-    GlProgram lens;
-    bool isTried = false;
     GLuint texture = 0;
     // What is kept: a part of the picture, y up.
     int originX = 0;

@@ -3,8 +3,6 @@
 
 #include <nbOpenSGSceneplate/nbSceneplateLayout.h>
 #include <nbOpenSGSceneplate/nbSceneplatePicture.h>
-#include <nbOpenSGUtils/nbShaderHeader.h>
-#include <nbUtils/nbLog.h>
 
 #include <algorithm>
 #include <cmath>
@@ -111,14 +109,16 @@ void SceneplatePainter::update(const osg::NodePtr& root)
     });
 }
 
-void SceneplatePainter::drawBack(Gl& gl, const Frame& frame, GpuTextures& textures)
+void SceneplatePainter::drawBack(Gl& gl, const Frame& frame, ShaderPrograms& programs,
+                                 GpuTextures& textures)
 {
-    draw(gl, frame, backQuads(frame), textures);
+    draw(gl, frame, backQuads(frame), programs, textures);
 }
 
-void SceneplatePainter::drawFront(Gl& gl, const Frame& frame, GpuTextures& textures)
+void SceneplatePainter::drawFront(Gl& gl, const Frame& frame, ShaderPrograms& programs,
+                                  GpuTextures& textures)
 {
-    draw(gl, frame, frontQuads(frame), textures);
+    draw(gl, frame, frontQuads(frame), programs, textures);
 }
 
 void SceneplatePainter::addBackTo(osg::ContentStamp& stamp, const Frame& frame) const
@@ -175,41 +175,31 @@ SceneplatePainter::Quads SceneplatePainter::frontQuads(const Frame& frame) const
     return quads;
 }
 
-void SceneplatePainter::draw(Gl& gl, const Frame& frame, const Quads& quads, GpuTextures& textures)
+void SceneplatePainter::draw(Gl& gl, const Frame& frame, const Quads& quads,
+                             ShaderPrograms& programs, GpuTextures& textures)
 {
-    if (quads.empty() || !begin(gl, frame)) {
+    GlProgram* const program = quads.empty() ? nullptr : begin(gl, frame, programs);
+    if (program == nullptr) {
         return;
     }
     gl.glBindSampler(0, textures.getSampler(gl, false, false));
     for (const Quad& quad : quads) {
-        drawQuad(gl, quad, textures);
+        drawQuad(gl, *program, quad, textures);
         frame.count->add(2);
     }
     end(gl);
 }
 
-bool SceneplatePainter::begin(Gl& gl, const Frame& frame)
+GlProgram* SceneplatePainter::begin(Gl& gl, const Frame& frame, ShaderPrograms& programs)
 {
-    if (!programTried) {
-        programTried = true;
-        std::string error;
-        if (!program.build(gl,
-                           shaderHeaderString(nbShaderStage::Vertex, false, false, false) +
-                               kPlateVertexBody,
-                           std::string(),
-                           shaderHeaderString(nbShaderStage::Fragment, false, false, false) +
-                               kPlateFragmentBody,
-                           error)) {
-            nbLog::error("the program for scene plates does not compile on this driver: " + error);
-        }
+    GlProgram* const program =
+        programs.use(gl, "scene plates", kPlateVertexBody, kPlateFragmentBody);
+    if (program == nullptr) {
+        return nullptr;
     }
-    if (!program.isUsable()) {
-        return false;
-    }
-    program.use(gl);
-    program.set(gl, "picture", GLint(0));
-    program.set(gl, "viewSize", static_cast<float>(frame.widthPx),
-                static_cast<float>(frame.heightPx));
+    program->set(gl, "picture", GLint(0));
+    program->set(gl, "viewSize", static_cast<float>(frame.widthPx),
+                 static_cast<float>(frame.heightPx));
     gl.glColorMaski(kEffectBuffer, GL_FALSE, GL_FALSE, GL_FALSE, GL_FALSE);
     gl.glDisable(GL_DEPTH_TEST);
     gl.glDepthMask(GL_FALSE);
@@ -219,18 +209,13 @@ bool SceneplatePainter::begin(Gl& gl, const Frame& frame)
     gl.glBlendFunc(GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
     gl.glActiveTexture(GL_TEXTURE0);
     gl.glBindVertexArray(frame.emptyArray);
-    return true;
+    return program;
 }
 
 void SceneplatePainter::end(Gl& gl)
 {
     gl.glBindSampler(0, 0);
-    gl.glBindTexture(GL_TEXTURE_2D, 0);
-    gl.glBindVertexArray(0);
-    gl.glUseProgram(0);
     gl.glDisable(GL_BLEND);
-    gl.glBlendFunc(GL_ONE, GL_ZERO);
-    gl.glDepthMask(GL_TRUE);
     gl.glColorMaski(kEffectBuffer, GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
 }
 
@@ -281,7 +266,8 @@ void SceneplatePainter::addMarker(Quads& quads, const Frame& frame, const osg::S
     }
 }
 
-void SceneplatePainter::drawQuad(Gl& gl, const Quad& quad, GpuTextures& textures)
+void SceneplatePainter::drawQuad(Gl& gl, GlProgram& program, const Quad& quad,
+                                 GpuTextures& textures)
 {
     const osg::Color4f& color = quad.color;
     program.set(gl, "origin", quad.origin.x(), quad.origin.y());
@@ -293,18 +279,6 @@ void SceneplatePainter::drawQuad(Gl& gl, const Quad& quad, GpuTextures& textures
     program.set(gl, "textured", GLint(texture != 0 ? 1 : 0));
     gl.glBindTexture(GL_TEXTURE_2D, texture);
     gl.glDrawArrays(GL_TRIANGLE_STRIP, 0, kCorners);
-}
-
-void SceneplatePainter::release(Gl& gl)
-{
-    program.destroy(gl);
-    forget();
-}
-
-void SceneplatePainter::forget()
-{
-    program = GlProgram();
-    programTried = false;
 }
 
 }  // namespace nbrender

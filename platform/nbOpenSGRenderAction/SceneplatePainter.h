@@ -3,6 +3,7 @@
 
 #include <nbOpenSGRenderAction/Frame.h>
 #include <nbOpenSGRenderAction/GpuTextures.h>
+#include <nbOpenSGRenderAction/ShaderPrograms.h>
 #include <nbOpenSGSceneplate/nbSceneplateList.h>
 
 #include <vector>
@@ -28,10 +29,10 @@ public:
     bool hasFront() const { return frontBegin < plates.size() || hasMarkers; }
 
     /// Draws the plates behind the scene.
-    void drawBack(Gl& gl, const Frame& frame, GpuTextures& textures);
+    void drawBack(Gl& gl, const Frame& frame, ShaderPrograms& programs, GpuTextures& textures);
 
     /// Draws the plates in front of the scene, then the outlines of all marked ones.
-    void drawFront(Gl& gl, const Frame& frame, GpuTextures& textures);
+    void drawFront(Gl& gl, const Frame& frame, ShaderPrograms& programs, GpuTextures& textures);
 
     // Each adds what the operation above depends on.
 
@@ -40,9 +41,6 @@ public:
 
     /// Pixels outside of which drawFront() draws nothing.
     PixelBox frontPixels(const Frame& frame) const;
-
-    void release(Gl& gl);
-    void forget();
 
 private:
     struct Quad;
@@ -53,18 +51,18 @@ private:
     Quads frontQuads(const Frame& frame) const;
     static Quad plateQuad(const Frame& frame, const osg::SceneplatePtr& plate);
     static void addMarker(Quads& quads, const Frame& frame, const osg::SceneplatePtr& plate);
-    void draw(Gl& gl, const Frame& frame, const Quads& quads, GpuTextures& textures);
-    bool begin(Gl& gl, const Frame& frame);
+    static void draw(Gl& gl, const Frame& frame, const Quads& quads, ShaderPrograms& programs,
+                     GpuTextures& textures);
+    /// Sets what all quads share. @return the program in use; null without one
+    static GlProgram* begin(Gl& gl, const Frame& frame, ShaderPrograms& programs);
     static void end(Gl& gl);
-    void drawQuad(Gl& gl, const Quad& quad, GpuTextures& textures);
+    static void drawQuad(Gl& gl, GlProgram& program, const Quad& quad, GpuTextures& textures);
 
     std::vector<nbSceneplateList::Entry> plates;  ///< in drawing order
     osg::UInt32 rootId = 0;
     osg::UInt64 treeCount = 0;
     std::size_t frontBegin = 0;  ///< index of the first one in front of the scene
     bool hasMarkers = false;
-    GlProgram program;
-    bool programTried = false;
 };
 
 }  // namespace nbrender

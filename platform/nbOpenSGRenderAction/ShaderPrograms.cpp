@@ -2,6 +2,7 @@
 #include "ShaderPrograms.h"
 
 #include <nbOpenSGRenderAction/StandardShaders.h>
+#include <nbOpenSGUtils/nbShaderHeader.h>
 #include <nbUtils/nbLog.h>
 
 #include <OpenSG/OSGFieldContainerFactory.h>
@@ -100,14 +101,26 @@ void setArray(Gl& gl, const osg::ShaderParameterPtr& parameter, GLint location)
 
 }  // namespace
 
-bool ShaderPrograms::initialise(Gl& gl, std::string& error)
+GlProgram* ShaderPrograms::use(Gl& gl, const char* name, const char* vertexBody,
+                               const char* fragmentBody)
 {
-    using namespace shaders;
-    const auto build = [&](Standard which, const std::string& vertex, const std::string& fragment) {
-        return getStandard(which).build(gl, vertex, std::string(), fragment, error);
+    const auto [known, isNew] = own.try_emplace(name);
+    GlProgram& program = known->second;
+    const auto header = [](nbShaderStage stage) {
+        return shaderHeaderString(stage, false, false, false);
     };
-    return build(Standard::Background, fullScreenVertex(), gradientFragment()) &&
-        build(Standard::Present, fullScreenVertex(), presentFragment());
+    std::string error;
+    if (isNew &&
+        !program.build(gl, header(nbShaderStage::Vertex) + vertexBody, std::string(),
+                       header(nbShaderStage::Fragment) + fragmentBody, error)) {
+        nbLog::error(std::string("the program for ") + name +
+                     " does not compile on this driver: " + error);
+    }
+    if (!program.isUsable()) {
+        return nullptr;
+    }
+    program.use(gl);
+    return &program;
 }
 
 GlProgram* ShaderPrograms::getMaterialProgram(Gl& gl, Shape shape, shaders::Clipping clipping,
@@ -205,7 +218,7 @@ void ShaderPrograms::release(Gl& gl)
         entry.surface.destroy(gl);
         entry.line.destroy(gl);
     }
-    for (GlProgram& program : standard) {
+    for (auto& [name, program] : own) {
         program.destroy(gl);
     }
     for (const std::unique_ptr<GlProgram>& program : material) {

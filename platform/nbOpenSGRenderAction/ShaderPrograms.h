@@ -7,7 +7,9 @@
 #include <OpenSG/OSGSHLChunk.h>
 
 #include <array>
+#include <map>
 #include <memory>
+#include <string_view>
 #include <unordered_map>
 
 namespace nbrender {
@@ -17,12 +19,6 @@ namespace nbrender {
 class ShaderPrograms
 {
 public:
-    /// Programs that every frame needs.
-    enum class Standard
-    {
-        Background,
-        Present
-    };
     /// What a material is drawn on.
     enum class Shape
     {
@@ -30,11 +26,11 @@ public:
         Line
     };
 
-    /// Compiles the renderer's own programs, as far as every frame needs them.
-    /// @param error  receives a line on failure
-    bool initialise(Gl& gl, std::string& error);
-
-    GlProgram& getStandard(Standard which) { return standard[static_cast<std::size_t>(which)]; }
+    /// Program of the renderer's own, in use; compiled on first use.
+    /// @param name  differs for each; a literal
+    /// @param vertexBody, fragmentBody  what follows the header
+    /// @return null if the driver refuses it, of which the log has a line
+    GlProgram* use(Gl& gl, const char* name, const char* vertexBody, const char* fragmentBody);
 
     /// Program for materials, compiled on first use; null if the driver refuses it, of which the
     /// log has a line.
@@ -68,7 +64,7 @@ private:
     static constexpr std::size_t kPictureKinds = 5;
     static constexpr std::size_t kMaterialPrograms = kPlainPrograms * kPictureKinds * kPictureKinds;
 
-    std::array<GlProgram, 2> standard;
+    std::map<std::string_view, GlProgram> own;
     std::array<std::unique_ptr<GlProgram>, kMaterialPrograms> material;  ///< null until wanted
     std::unordered_map<osg::UInt32, Entry> entries;
 };

@@ -300,37 +300,6 @@ void main()
 }
 )";
 
-const char* const kFullScreenVertexBody = R"(
-out vec2 place;
-void main()
-{
-    vec2 corner = vec2(gl_VertexID == 1 ? 3.0 : -1.0, gl_VertexID == 2 ? 3.0 : -1.0);
-    place = 0.5 * corner + 0.5;
-    gl_Position = vec4(corner, 1.0, 1.0);
-}
-)";
-
-const char* const kGradientFragmentBody = R"(
-in vec2 place;
-uniform vec4 topColor;
-uniform vec4 bottomColor;
-layout (location = 0) out vec4 colorBufferRGBA;
-void main()
-{
-    colorBufferRGBA = vec4(mix(bottomColor.rgb, topColor.rgb, place.y), 1.0);
-}
-)";
-
-const char* const kPresentFragmentBody = R"(
-in vec2 place;
-uniform sampler2D picture;
-layout (location = 0) out vec4 color;
-void main()
-{
-    color = vec4(texture(picture, place).rgb, 1.0);
-}
-)";
-
 }  // namespace
 
 std::string surfaceVertex(Clipping clipping, bool projected)
@@ -366,19 +335,14 @@ std::string lineGeometry()
         kLineGeometryBody;
 }
 
-std::string fullScreenVertex()
+const char* const kFullScreenVertex = R"(
+out vec2 place;
+void main()
 {
-    return shaderHeaderString(nbShaderStage::Vertex, false, false, false) + kFullScreenVertexBody;
+    vec2 corner = vec2(gl_VertexID == 1 ? 3.0 : -1.0, gl_VertexID == 2 ? 3.0 : -1.0);
+    place = 0.5 * corner + 0.5;
+    gl_Position = vec4(corner, 1.0, 1.0);
 }
-
-std::string gradientFragment()
-{
-    return shaderHeaderString(nbShaderStage::Fragment, false, false, false) + kGradientFragmentBody;
-}
-
-std::string presentFragment()
-{
-    return shaderHeaderString(nbShaderStage::Fragment, false, false, false) + kPresentFragmentBody;
-}
+)";
 
 }  // namespace nbrender::shaders

@@ -44,8 +44,8 @@ std::string lineGeometry();
 /// Vertices of the polygon that lineVertex makes of a line, drawn as a triangle strip.
 constexpr int kLinePolygonVertices = 14;
 
-std::string fullScreenVertex();  ///< one triangle over everything, without attributes
-std::string gradientFragment();  ///< the background
-std::string presentFragment();  ///< copies a texture, opaque
+/// Body of a program of one triangle over everything, without attributes; tells the fragment
+/// program its "place", from (0, 0) to (1, 1).
+extern const char* const kFullScreenVertex;
 
 }  // namespace nbrender::shaders

@@ -126,11 +126,6 @@ QImage nbOffscreenView::render(const osg::ViewportPtr& viewport, int widthPx, in
         return {};
     }
     const CurrentContext current(*context, *surface);
-    return renderOnce(viewport, widthPx, heightPx);
-}
-
-QImage nbOffscreenView::renderOnce(const osg::ViewportPtr& viewport, int widthPx, int heightPx)
-{
     QOpenGLFramebufferObject target(widthPx, heightPx);
     if (!target.isValid() || !action.render(viewport, widthPx, heightPx, target.handle())) {
         error = "the driver cannot draw a picture of " + std::to_string(widthPx) + " x " +

@@ -54,8 +54,6 @@ public:
     nbRenderAction& getAction() { return action; }
 
 private:
-    QImage renderOnce(const osg::ViewportPtr& viewport, int widthPx, int heightPx);
-
     std::unique_ptr<QOpenGLContext> context;
     std::unique_ptr<QOffscreenSurface> surface;
     nbRenderAction action;

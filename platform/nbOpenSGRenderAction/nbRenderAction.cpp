@@ -30,8 +30,6 @@ using nbrender::DrawCount;
 using nbrender::Frame;
 using nbrender::FrameTargets;
 using nbrender::Gl;
-using nbrender::GlProgram;
-using nbrender::ShaderPrograms;
 
 }  // namespace
 
@@ -152,7 +150,7 @@ void nbRenderAction::Impl::present(const osg::ViewportPtr& viewport, const Frame
     painter.drawPicture(*gl, frame, targets.getTexture(shown));
     gl->glDisable(GL_SCISSOR_TEST);
     if (isLens) {
-        magnifier.draw(*gl, pixelRatio, emptyArray);
+        magnifier.draw(*gl, pixelRatio, emptyArray, painter.getPrograms());
         count.add(1);
     }
 }
@@ -169,13 +167,14 @@ bool nbRenderAction::Impl::drawCoarsely(const osg::ViewportPtr& viewport, const 
     std::string error;
     if (!coarseTargets.bind(*gl, coarse.widthPx, coarse.heightPx, 1, painter.getDepth().getFormat(),
                             error)) {
-        return bindTargets(frame.widthPx, frame.heightPx, error) && false;
+        bindTargets(frame.widthPx, frame.heightPx, error);
+        return false;
     }
     painter.drawScene(*gl, coarse, viewport, coarseTargets);
     coarseTargets.resolve(*gl, FrameTargets::Buffer::Color);
     bindTargets(frame.widthPx, frame.heightPx, error);
-    wholePixels = painter.drawOver(*gl, frame, viewport, targets,
-                                   coarseTargets.getTexture(FrameTargets::Buffer::Color));
+    wholePixels = painter.drawHandles(*gl, frame, viewport, targets,
+                                      coarseTargets.getTexture(FrameTargets::Buffer::Color));
     return true;
 }
 
@@ -242,13 +241,15 @@ bool nbRenderAction::render(const osg::ViewportPtr& viewport, int widthPx, int h
     impl->count = DrawCount();
     const Frame frame { widthPx,      heightPx,         impl->pixelRatio, impl->shiftX,
                         impl->shiftY, impl->emptyArray, &impl->count };
-    if (impl->isLensShown(viewport) && nbrender::BackgroundPainter::hasPhotograph(viewport)) {
-        impl->painter.drawHandles(*impl->gl, frame, viewport, impl->targets);
+    const bool hasCamera = viewport != osg::NullFC && viewport->getCamera() != osg::NullFC;
+    const bool isLens = impl->isLensShown(viewport);
+    if (isLens && hasCamera && nbrender::BackgroundPainter::hasPhotograph(viewport)) {
+        impl->painter.drawHandles(*impl->gl, frame, viewport, impl->targets, 0);
         impl->keepForLens(frame);
+        impl->count.inView = 0;
         impl->bindTargets(widthPx, heightPx, error);
     }
-    const bool isHurried = impl->isHurried && !impl->effectShown && !impl->isLensShown(viewport) &&
-        viewport != osg::NullFC && viewport->getCamera() != osg::NullFC;
+    const bool isHurried = impl->isHurried && !impl->effectShown && !isLens && hasCamera;
     impl->isCoarse = isHurried && impl->coarseness > 0 && impl->drawCoarsely(viewport, frame);
     if (!impl->isCoarse) {
         impl->painter.draw(*impl->gl, frame, viewport, impl->targets);
@@ -317,8 +318,7 @@ void nbRenderAction::setTimed(bool on)
 
 QImage nbRenderAction::readEffect()
 {
-    return impl->gl == nullptr ? QImage()
-                               : impl->targets.read(*impl->gl, FrameTargets::Buffer::Effect);
+    return impl->gl == nullptr ? QImage() : impl->targets.readEffect(*impl->gl);
 }
 
 void nbRenderAction::release()
@@ -335,13 +335,12 @@ void nbRenderAction::release()
 
 nbRenderAction::Statistics nbRenderAction::getStatistics() const
 {
-    const nbrender::FramePainter::Taken& taken = impl->painter.getTaken();
     Statistics result;
     result.frames = impl->frames;
-    result.items = taken.items;
-    result.drawn = taken.inView;
-    result.reused = taken.reused;
-    result.listBuilds = taken.listBuilds;
+    result.items = impl->count.items;
+    result.drawn = impl->count.inView;
+    result.reused = impl->count.reused;
+    result.listBuilds = impl->painter.getListBuilds();
     result.meshes = impl->painter.getMeshCount();
     result.drawCalls = impl->count.calls;
     result.triangles = impl->count.triangles;

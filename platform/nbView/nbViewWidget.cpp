@@ -4,7 +4,7 @@
 #include <nbView/nbViewWidget.h>
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QEvent>
+#include <QtGui/QInputEvent>
 #include <QtGui/QOpenGLContext>
 #include <QtGui/QOpenGLFunctions>
 #include <QtGui/QPainter>
@@ -37,20 +37,6 @@ QString graphicsText(QOpenGLFunctions& gl)
         return QString::fromLatin1(reinterpret_cast<const char*>(gl.glGetString(name)));
     };
     return QStringLiteral("%1, %2").arg(textOf(GL_VERSION), textOf(GL_RENDERER));
-}
-
-bool isInput(QEvent::Type type)
-{
-    switch (type) {
-    case QEvent::MouseMove:
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonRelease:
-    case QEvent::Wheel:
-    case QEvent::KeyPress:
-        return true;
-    default:
-        return false;
-    }
 }
 
 QSurfaceFormat openGlFormat()
@@ -215,14 +201,6 @@ void nbViewWidget::setExact(bool on)
     renderWidget.update();
 }
 
-bool nbViewWidget::followCamera()
-{
-    const osg::Matrix place = renderWidget.getUberCamera()->getInternalParentNode()->getToWorld();
-    const bool moved = !place.equals(lastPlace, 0.0F);
-    lastPlace = place;
-    return moved;
-}
-
 void nbViewWidget::showEffectBuffer(bool on)
 {
     renderAction.showEffectBuffer(on);
@@ -267,7 +245,9 @@ void nbViewWidget::paintGL()
         return;
     }
     const QSize size = sizePx();
-    const bool moved = followCamera();
+    const osg::Matrix place = renderWidget.getUberCamera()->getInternalParentNode()->getToWorld();
+    const bool moved = !place.equals(lastPlace, 0.0F);
+    lastPlace = place;
     renderAction.setHurried(coarseWhileMoving && !exact && (moved || sinceMove.isActive()));
     renderAction.render(renderWidget.getViewport(), size.width(), size.height(),
                         defaultFramebufferObject());
@@ -300,7 +280,7 @@ void nbViewWidget::releaseGraphics()
 
 bool nbViewWidget::event(QEvent* event)
 {
-    const bool isFirst = isInput(event->type()) && !sinceInput.isValid();
+    const bool isFirst = dynamic_cast<QInputEvent*>(event) != nullptr && !sinceInput.isValid();
     if (isFirst) {
         sinceInput.start();
     }

@@ -127,7 +127,6 @@ protected:
 private:
     void redrawRequested() override;
     void adoptSize();
-    bool followCamera();
     void releaseGraphics();
 
     nbOSGWidget renderWidget;

@@ -66,7 +66,7 @@ BoundsMarker::~BoundsMarker()
     }
 }
 
-bool BoundsMarker::mark(const std::vector<osg::NodePtr>& objects)
+void BoundsMarker::mark(const std::vector<osg::NodePtr>& objects)
 {
     std::vector<Box> current;
     for (const osg::NodePtr& object : objects) {
@@ -75,12 +75,10 @@ bool BoundsMarker::mark(const std::vector<osg::NodePtr>& objects)
             current.emplace_back(bounds.getMin(), bounds.getMax());
         }
     }
-    if (current == boxes) {
-        return false;
+    if (current != boxes) {
+        boxes = std::move(current);
+        rebuild();
     }
-    boxes = std::move(current);
-    rebuild();
-    return true;
 }
 
 void BoundsMarker::rebuild()

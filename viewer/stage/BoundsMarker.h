@@ -27,8 +27,7 @@ public:
 
     /// Marks the bounds that the objects have now; edits the lines only if these differ from the
     /// last time.
-    /// @return whether the lines changed
-    bool mark(const std::vector<osg::NodePtr>& objects);
+    void mark(const std::vector<osg::NodePtr>& objects);
 
 private:
     using Box = std::pair<osg::Pnt3f, osg::Pnt3f>;
