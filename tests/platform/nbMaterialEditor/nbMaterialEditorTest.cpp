@@ -252,6 +252,32 @@ TEST_F(nbMaterialEditorTest, APictureForAPlainComponentGetsAFittingProjection)
     EXPECT_TRUE(material->getImage(kDiffuse) == image.get());
 }
 
+TEST_F(nbMaterialEditorTest, SettingsAreEditedWithUndo)
+{
+    const osg::RefPtr<osg::ImagePtr> image(osg::Image::create());
+    image->set(osg::Image::OSG_RGB_PF, 20, 10);
+    material->setImage(kDiffuse, image.get());
+
+    EXPECT_TRUE(editor->setFlags(Settings::KeepAspectRatio | Settings::RepeatU));
+    EXPECT_EQ(settings->getPlanarProjectionFlags(), Settings::KeepAspectRatio | Settings::RepeatU);
+    expectNear(projection()->getScale(), { 1.f, 0.5f, 1.f }, "square pixels");
+    EXPECT_TRUE(editor->setCoverage(true, true));
+    EXPECT_TRUE(settings->getAsMask() && settings->getInvert());
+    for (int time = 0; time < 2; ++time) {
+        EXPECT_TRUE(editor->setImage(osg::NullFC));
+        EXPECT_TRUE(editor->setCoverage(true, true));
+        EXPECT_EQ(steps(), 3) << "nothing new";
+    }
+    nbTransformState broken = nbTransformState::of(*projection());
+    broken.scale[1] = kNaN;
+    EXPECT_FALSE(editor->setProjection(broken));
+    while (undo->undo()) { }
+    EXPECT_EQ(settings->getPlanarProjectionFlags(), 0u);
+    EXPECT_FALSE(settings->getAsMask() || settings->getInvert());
+    EXPECT_TRUE(material->getImage(kDiffuse) == image.get());
+    expectNear(projection()->getScale(), { 1.f, 1.f, 1.f }, "as at the start");
+}
+
 // == The preview
 
 TEST_F(nbMaterialEditorTest, PreviewPausesAndRefreshesOnceResumed)
