@@ -4,7 +4,7 @@
 #include <nbOpenSGRenderAction/nbImageConvert.h>
 #include <nbUtils/nbLog.h>
 
-#include <OpenSG/OSGContentStamp.h>
+#include <ContentStamp.h>
 #include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGImage.h>
 
@@ -238,11 +238,12 @@ void drop(Gl& gl, Entries& entries, bool all)
 const GpuTexture& GpuTextures::get(Gl& gl, const osg::TextureChunkPtr& chunk)
 {
     Entry& entry = chunkEntries[chunk.getFieldContainerId()];
-    const osg::UInt64 stamp = chunk->getContentStamp();
-    if (entry.stamp != stamp) {
+    osg::ContentStamp stamp(chunk);
+    stamp.add(chunk->getImage());
+    if (entry.stamp != stamp.get()) {
         gl.glDeleteTextures(1, &entry.texture.name);
         entry.texture = upload(gl, chunk);
-        entry.stamp = stamp;
+        entry.stamp = stamp.get();
     }
     return entry.texture;
 }
@@ -251,7 +252,7 @@ const GpuTexture& GpuTextures::get(Gl& gl, const osg::ImagePtr& image, PixelForm
 {
     Entries& entries = imageEntries[static_cast<std::size_t>(form)];
     Entry& entry = entries[image.getFieldContainerId()];
-    const osg::UInt64 stamp = osg::ContentStamp(*image).get();
+    const osg::UInt64 stamp = osg::ContentStamp(image).get();
     if (entry.stamp != stamp) {
         gl.glDeleteTextures(1, &entry.texture.name);
         entry.texture = upload(gl, image, form);
