@@ -1,43 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "viewer/commands/Commands.h"
-
 #include "tests/viewer/support/StageTest.h"
 #include "viewer/stage/StageTool.h"
 
 namespace viewer {
 namespace {
-
-TEST(Commands, RunTheirOperationAndTellTheListenerOnlyOfSuccess)
-{
-    Commands commands;
-    QStringList told;
-    commands.setListener(
-        [&](const QString& name, const QJsonValue&, Commands::Moment) { told.append(name); });
-    double size = 1.0;
-    commands.add("box.size", [&size](const QJsonValue& value, QString& error) {
-        if (!(value.toDouble() > 0.0)) {
-            error = "box.size: expected a number above 0";
-            return false;
-        }
-        size = value.toDouble();
-        return true;
-    });
-    commands.addValue("box.size", [&size] { return QJsonValue(size); });
-    QString error;
-
-    EXPECT_TRUE(commands.run("box.size", 2.5, error));
-    EXPECT_FALSE(commands.run("box.size", -1, error));
-    EXPECT_EQ(error, "box.size: expected a number above 0");
-    EXPECT_FALSE(commands.run("box.colour", 1, error));
-    EXPECT_EQ(error, "there is no command \"box.colour\"");
-
-    EXPECT_EQ(told, QStringList { "box.size" });
-    EXPECT_EQ(commands.value("box.size"), QJsonValue(2.5));
-    commands.remove("box.");
-    EXPECT_FALSE(commands.value("box.size"));
-    EXPECT_TRUE(commands.names().isEmpty());
-    EXPECT_TRUE(commands.valueNames().isEmpty());
-}
 
 TEST(Commands, NumbersAreNearWithinTheToleranceWhereverTheyStand)
 {

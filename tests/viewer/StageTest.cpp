@@ -2,14 +2,11 @@
 #include "viewer/stage/Stage.h"
 
 #include "tests/viewer/support/StageTest.h"
-#include "viewer/loading/BuiltModel.h"
 #include "viewer/stage/HandleCursor.h"
 
 #include <nbInteraction/EventNames.h>
 #include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
-
-#include <OpenSG/OSGTransform.h>
 
 #include <set>
 #include <string>
