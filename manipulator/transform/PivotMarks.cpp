@@ -58,7 +58,7 @@ void PivotMarks::draw(const Places& places, float reach)
     }
     const auto crosses = osg::GeometryPtr::dcast(node->getCore());
     const auto positions = osg::GeoPositions3fPtr::dcast(crosses->getPositions());
-    const nbEdit edit(positions, osg::GeoPositions3f::GeoPropDataFieldMask);
+    const nbEdit edit(positions, osg::FieldBits::AllFields);
     osg::Pnt3f* point = &positions->getField()[0];
     for (const std::optional<osg::Pnt3f>& place : places) {
         const osg::Pnt3f center = place.value_or(osg::Pnt3f());

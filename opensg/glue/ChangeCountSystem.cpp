@@ -101,14 +101,8 @@ void noteEdit(UInt32 id, BitVector whichField)
     }
 }
 
-}  // namespace
-
-void glue::leaveChangeListToHost(bool leave)
-{
-    counters().isListOfHost = leave;
-}
-
-void glue::noteChanges()
+/// Counts what the list has got since the last time.
+void readList()
 {
     Counters& all = counters();
     ChangeList* const list = Thread::getCurrentChangeList();
@@ -132,15 +126,28 @@ void glue::noteChanges()
     }
 }
 
+}  // namespace
+
+void glue::leaveChangeListToHost(bool leave)
+{
+    counters().isListOfHost = leave;
+}
+
+void glue::noteChanges()
+{
+    readList();
+    counters().entriesRead = 0;
+}
+
 UInt64 getEditCount()
 {
-    glue::noteChanges();
+    readList();
     return counters().edits;
 }
 
 UInt32 getChangeCount(const FieldContainerPtr& container)
 {
-    glue::noteChanges();
+    readList();
     const auto& known = counters().ofContainer;
     const auto found =
         container != NullFC ? known.find(container.getFieldContainerId()) : known.end();
@@ -149,7 +156,7 @@ UInt32 getChangeCount(const FieldContainerPtr& container)
 
 UInt64 getSubtreeChangeCount(const NodePtr& node)
 {
-    glue::noteChanges();
+    readList();
     const Counters& all = counters();
     const auto found = all.belowNode.find(node.getFieldContainerId());
     return all.moves + (found != all.belowNode.end() ? found->second : 0);

@@ -32,10 +32,10 @@ namespace glue {
 /// for it. As long as nothing else is said, the counters do so when they are first asked, and empty
 /// it each time they are. A host that needs the entries itself, for aspects of threads or a
 /// cluster, says so with true, before the first manipulator is made: it switches the list on
-/// (ChangeList::setReadWriteDefault), empties it, and calls noteChanges() each time before.
+/// (ChangeList::setReadWriteDefault), and calls noteChanges() each time before it empties it.
 NB_GLUE_API void leaveChangeListToHost(bool leave);
 
-/// Counts what the change list has got since the last time. All questions above do so first.
+/// Counts what the change list has got, which the host empties now.
 NB_GLUE_API void noteChanges();
 
 }  // namespace glue
