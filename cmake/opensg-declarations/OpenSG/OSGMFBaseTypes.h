@@ -1,0 +1,9 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+#include <OpenSG/OSGMField.h>
+#include <OpenSG/OSGColor.h>
+namespace osg {
+typedef MField<std::string> MFString;
+typedef MField<Color3f> MFColor3f;
+typedef MField<Color4f> MFColor4f;
+}  // namespace osg

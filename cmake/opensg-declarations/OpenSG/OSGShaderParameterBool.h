@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+#include <OpenSG/OSGShaderParameter.h>
+#include <OpenSG/OSGSFSysTypes.h>
+namespace osg {
+OSG_DECLARED_POINTER(ShaderParameterBool, ShaderParameterPtr);
+class ShaderParameterBool : public ShaderParameter
+{
+    OSG_DECLARED_CLASS(ShaderParameterBool, ShaderParameter)
+    OSG_DECLARED_VALUE(Value, bool)
+};
+}  // namespace osg

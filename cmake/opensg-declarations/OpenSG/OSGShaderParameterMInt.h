@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+#include <OpenSG/OSGShaderParameter.h>
+#include <OpenSG/OSGMFSysTypes.h>
+namespace osg {
+OSG_DECLARED_POINTER(ShaderParameterMInt, ShaderParameterPtr);
+class ShaderParameterMInt : public ShaderParameter
+{
+    OSG_DECLARED_CLASS(ShaderParameterMInt, ShaderParameter)
+    OSG_DECLARED_MASK(Value)
+    MField<Int32>& getValue();
+    const MField<Int32>& getValue() const;
+};
+}  // namespace osg

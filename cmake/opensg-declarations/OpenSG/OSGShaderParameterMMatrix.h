@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+#include <OpenSG/OSGShaderParameter.h>
+#include <OpenSG/OSGMFMathTypes.h>
+namespace osg {
+OSG_DECLARED_POINTER(ShaderParameterMMatrix, ShaderParameterPtr);
+class ShaderParameterMMatrix : public ShaderParameter
+{
+    OSG_DECLARED_CLASS(ShaderParameterMMatrix, ShaderParameter)
+    OSG_DECLARED_MASK(Value)
+    MField<osg::Matrix>& getValue();
+    const MField<osg::Matrix>& getValue() const;
+};
+}  // namespace osg

@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+#include <OpenSG/OSGShaderParameter.h>
+#include <OpenSG/OSGSFVecTypes.h>
+namespace osg {
+OSG_DECLARED_POINTER(ShaderParameterVec3f, ShaderParameterPtr);
+class ShaderParameterVec3f : public ShaderParameter
+{
+    OSG_DECLARED_CLASS(ShaderParameterVec3f, ShaderParameter)
+    OSG_DECLARED_VALUE(Value, Vec3f)
+};
+}  // namespace osg
