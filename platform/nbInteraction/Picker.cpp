@@ -6,6 +6,7 @@
 
 #include <OpenSG/OSGFieldContainerFactory.h>
 
+#include <algorithm>
 #include <cmath>
 
 #include "detail/EmbreeDevice.h"
@@ -132,16 +133,16 @@ osg::NodePtr Picker::pickAt(const osg::Pnt2f& px, const HandleRank& rankOf)
 
 std::vector<osg::NodePtr> Picker::pickRectangle(const QRect& rect)
 {
-    const QRect normalised = rect.normalized();
-    if (normalised.isEmpty()) {
+    if (rect.width() == 0 || rect.height() == 0) {
         return {};
     }
-    detail::ScreenBox box;
-    box.minX = static_cast<float>(normalised.left());
-    box.minY = static_cast<float>(normalised.top());
+    // Not QRect::normalized(): that of Qt 6 leaves out both corners of a rectangle drawn backwards.
+    const auto [left, right] = std::minmax({ rect.left(), rect.right() });
+    const auto [top, bottom] = std::minmax({ rect.top(), rect.bottom() });
     // Pixel n covers n .. n + 1.
-    box.maxX = static_cast<float>(normalised.right()) + 1.0F;
-    box.maxY = static_cast<float>(normalised.bottom()) + 1.0F;
+    const detail::ScreenBox box { static_cast<float>(left), static_cast<float>(top),
+                                  static_cast<float>(right) + 1.0F,
+                                  static_cast<float>(bottom) + 1.0F };
     if (filter == SceneplateFilter) {
         return detail::pickPlatesInside(nbScenegraph::getWorldRoot(), viewSize(), box);
     }
