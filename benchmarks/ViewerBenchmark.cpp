@@ -83,7 +83,8 @@ public:
     void send(QEvent::Type type, const QPointF& at, Qt::MouseButton button, Qt::MouseButtons held,
               Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
-        QMouseEvent event(type, at, button, held, modifiers);
+        const QPointF onScreen = at + window.view().mapToGlobal(QPoint());
+        QMouseEvent event(type, at, onScreen, button, held, modifiers);
         QCoreApplication::sendEvent(&window.view(), &event);
     }
 
