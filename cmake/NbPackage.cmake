@@ -22,7 +22,7 @@ endif()
 set(NBM_DEBIAN ${CMAKE_CURRENT_LIST_DIR}/debian)
 set(NBM_VIEWER_PACKAGE nbviewer${NB_SUFFIX})
 # Older than any that Debian makes of this version itself.
-set(CPACK_DEBIAN_PACKAGE_RELEASE 0)
+set(CPACK_DEBIAN_PACKAGE_RELEASE 0local1)
 string(TIMESTAMP NBM_DATE "%a, %d %b %Y %H:%M:%S +0000" UTC)
 configure_file(${NBM_DEBIAN}/changelog.in ${PROJECT_BINARY_DIR}/debian/changelog @ONLY)
 nb_compress(${PROJECT_BINARY_DIR}/debian/changelog ${PROJECT_BINARY_DIR}/debian/changelog.Debian.gz)
