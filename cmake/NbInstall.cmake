@@ -102,6 +102,8 @@ if(NBMANIPULATOR_VIEWER)
     install(TARGETS nbmodelreader RUNTIME DESTINATION ${CMAKE_INSTALL_LIBEXECDIR}/nbviewer COMPONENT viewer)
     install(DIRECTORY ${PROJECT_SOURCE_DIR}/viewer/models ${PROJECT_SOURCE_DIR}/viewer/sessions
             DESTINATION ${CMAKE_INSTALL_DATADIR}/nbviewer COMPONENT viewer PATTERN "*.py" EXCLUDE)
+    install(DIRECTORY $<TARGET_FILE_DIR:nbviewer>/../viewer/manual/ DESTINATION ${NBM_DOCUMENTS}/nbviewer/html
+            COMPONENT viewer)
     # What desktops know it by, and by which files it is started.
     set(NBM_DESKTOP ${PROJECT_SOURCE_DIR}/viewer/desktop)
     install(FILES ${NBM_DESKTOP}/nbviewer.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT viewer)

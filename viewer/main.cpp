@@ -4,7 +4,6 @@
 #include "viewer/gui/MainWindow.h"
 #include "viewer/gui/StartUp.h"
 #include "viewer/gui/WindowMemory.h"
-#include "viewer/loading/PictureDecoding.h"
 #include "viewer/replay/Session.h"
 #include "viewer/texts/Language.h"
 
@@ -102,9 +101,6 @@ int runWindow(QApplication& application, const CommandLine& options,
               const std::optional<viewer::Session>& session)
 {
     using Attendance = viewer::MainWindow::Attendance;
-    if (!options.isUnattended()) {
-        viewer::setPictureBudget(viewer::memory::pictureBudget());
-    }
     viewer::MainWindow window(options.isUnattended() ? Attendance::Unattended
                                                      : Attendance::Attended);
     StartUp startUp(window, options, session);

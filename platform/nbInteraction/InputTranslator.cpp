@@ -55,8 +55,23 @@ PressMeaning meaningOfRight(Qt::KeyboardModifiers modifiers)
     return { names::kCamera, modifiers & Qt::ShiftModifier ? names::kPan : names::kOrbit };
 }
 
-PressMeaning meaningOf(Qt::MouseButton button, Qt::KeyboardModifiers modifiers)
+PressMeaning meaningOfMiddle(Qt::KeyboardModifiers modifiers)
 {
+    if (modifiers & Qt::ControlModifier) {
+        return { names::kCamera, names::kZoom };
+    }
+    return { names::kCamera, modifiers & Qt::ShiftModifier ? names::kPan : names::kOrbit };
+}
+
+PressMeaning meaningOf(Qt::MouseButton button, Qt::KeyboardModifiers modifiers, bool middleOrbits)
+{
+    if (middleOrbits && button == Qt::MiddleButton) {
+        return meaningOfMiddle(modifiers);
+    }
+    if (middleOrbits && (modifiers & (Qt::AltModifier | Qt::ShiftModifier)) == 0 &&
+        button == Qt::RightButton) {
+        return {};
+    }
     switch (button) {
     case Qt::LeftButton:
         return meaningOfLeft(modifiers);
@@ -192,7 +207,7 @@ bool InputTranslator::press(const QMouseEvent& event)
     // A drag that still runs has lost its release.
     interruptDrag();
     buttonIsDown = true;
-    const PressMeaning meaning = meaningOf(event.button(), event.modifiers());
+    const PressMeaning meaning = meaningOf(event.button(), event.modifiers(), middleOrbits);
     if (!meaning.tool) {
         return false;
     }

@@ -30,6 +30,8 @@ class InteractionManager;
 ///   modifiers at the press: none "select", Ctrl "toggle", Shift "add", both "selectThrough".
 /// - Camera drags, the same three events with tool "camera": Alt + left and right "orbit"; middle
 ///   and Shift + right "pan"; Alt + right "zoom".
+///   With setMiddleOrbits(true) middle "orbit", Shift + middle "pan", Ctrl + middle "zoom"; the
+///   right button, but for Alt and Shift, means nothing.
 /// - Wheel and touchpad scroll: "trigger", tool "camera", hint "zoom", amount in wheel steps.
 /// - Ctrl held, released: mode "precisionTool", "tool".
 /// - During a drag with the left button keys go to the manager's DragKeys first, Shift makes the
@@ -49,6 +51,11 @@ public:
                              nbOSGWidget* renderWidget = nullptr);
     InputTranslator(const InputTranslator&) = delete;
     InputTranslator& operator=(const InputTranslator&) = delete;
+
+    /// Lets the middle button orbit instead of the right one; off at the start.
+    void setMiddleOrbits(bool on) { middleOrbits = on; }
+
+    bool doesMiddleOrbit() const { return middleOrbits; }
 
     /// Sets the device pixels per logical pixel. @param ratio  > 0, other values are ignored
     void setDevicePixelRatio(double ratio);
@@ -103,6 +110,7 @@ private:
     osg::Pnt2f pointerPx { 0.0F, 0.0F };
     bool pointerIsInside = false;
     bool precisionIsHeld = false;
+    bool middleOrbits = false;
     bool buttonIsDown = false;  ///< from the first press to the last release
     bool dragIsSent = false;  ///< a "start" was sent, its "stop" was not
     Qt::MouseButton dragButton = Qt::NoButton;

@@ -6,6 +6,7 @@
 #include <QKeySequence>
 #include <QLibraryInfo>
 #include <QMouseEvent>
+#include <QNativeGestureEvent>
 
 /// What Qt 5 and Qt 6 have under different names; OpenGL's functions are in GlProgram.h.
 /// - position: of the pointer in the widget, in logical pixels
@@ -19,6 +20,8 @@ struct nbQt
     static QPointF position(const QMouseEvent& event) { return event.position(); }
 
     static QPointF position(const QDropEvent& event) { return event.position(); }
+
+    static QPointF position(const QNativeGestureEvent& event) { return event.position(); }
 
     static int firstKey(const QKeySequence& keys) { return keys[0].toCombined(); }
 
@@ -35,6 +38,8 @@ struct nbQt
     static QPointF position(const QMouseEvent& event) { return event.localPos(); }
 
     static QPointF position(const QDropEvent& event) { return event.posF(); }
+
+    static QPointF position(const QNativeGestureEvent& event) { return event.localPos(); }
 
     static int firstKey(const QKeySequence& keys) { return keys[0]; }
 

@@ -90,6 +90,18 @@ void nbViewWidget::setInteractionManager(nbec::interaction::InteractionManager& 
     translator->setDevicePixelRatio(devicePixelRatioF());
 }
 
+void nbViewWidget::setMiddleOrbits(bool on)
+{
+    if (translator != nullptr) {
+        translator->setMiddleOrbits(on);
+    }
+}
+
+bool nbViewWidget::doesMiddleOrbit() const
+{
+    return translator != nullptr && translator->doesMiddleOrbit();
+}
+
 // == Size
 
 void nbViewWidget::fixSize(const QSize& newSizePx)

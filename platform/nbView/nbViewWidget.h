@@ -45,6 +45,11 @@ public:
     /// @param manager  not owned, outlives the events that come to this widget
     void setInteractionManager(nbec::interaction::InteractionManager& manager);
 
+    /// Whether the middle button orbits instead of the right one, see InputTranslator. Has no
+    /// effect before there is an interaction manager.
+    void setMiddleOrbits(bool on);
+    bool doesMiddleOrbit() const;
+
     /// Fixes the size of the view, device pixels; an invalid size lets the layout decide again.
     void fixSize(const QSize& sizePx);
 

@@ -29,7 +29,7 @@ PLATFORM_ORDER = ["nbUtils", "nbOpenSGExt", "nbOpenSGUtils", "nbOpenSGUberCamera
                   "nbOpenSGSceneplate", "nbOpenSGSelection", "nbNotification", "nbKernel", "nbKernelServices", "nbTransform",
                   "nbMaterialEditor", "nbInteraction", "nbSceneplateModule", "nbMagnifier", "nbOpenSGRenderAction",
                   "nbView"]
-VIEWER_ORDER = ["texts", "commands", "loading", "reader", "stage", "replay", "plates", "match", "textures", "scenes", "gui"]
+VIEWER_ORDER = ["texts", "commands", "loading", "reader", "stage", "replay", "plates", "match", "textures", "scenes", "gui", "manual"]
 INCLUDE = re.compile(r'^\s*#\s*include\s*[<"]([^>"]+)[>"]')
 
 

@@ -4,7 +4,9 @@
 
 #include <QCheckBox>
 #include <QDoubleSpinBox>
+#include <QLineEdit>
 #include <QTest>
+#include <QToolButton>
 #include <QTreeWidget>
 #include <QWheelEvent>
 
@@ -63,6 +65,24 @@ TEST_F(Panels, TheWheelAndUndoOfAFieldThatIsNotTypedInAreNotTheFields)
     QTest::keyClick(box, Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(box->text(), "0");
     EXPECT_EQ(steps(), 0);
+}
+
+TEST_F(Panels, ADragInAFieldStepsItAsOneStepAndLinkedScalesKeepTheirRatio)
+{
+    window.activateWindow();
+    showPanel("objectDock");
+    auto* scale = find<QWidget>("object.scale");
+    scale->findChild<QToolButton*>()->click();
+    auto* line = scale->findChild<QDoubleSpinBox*>()->findChild<QLineEdit*>();
+    QTest::mousePress(line, Qt::LeftButton, {}, { 5, 5 });
+    for (const int x : { 30, 65 }) {
+        QMouseEvent moved(QEvent::MouseMove, QPoint(x, 5), line->mapToGlobal({ x, 5 }),
+                          Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(line, &moved);
+    }
+    QTest::mouseRelease(line, Qt::LeftButton, {}, { 65, 5 });
+    EXPECT_EQ(nbNodeUtils::getTransformNodeScale(stage().selectedObject()), osg::Vec3f(2, 2, 2));
+    EXPECT_EQ(steps(), 1);
 }
 
 TEST_F(Panels, TheTreeSelectsAndShowsWhatIsSelected)

@@ -154,7 +154,12 @@ TEST_F(Plates, TextsBecomePicturesOfTheirColor)
     find<QToolButton>("plates.addText")->click();
 
     EXPECT_EQ(selected(), QStringList { "A title" });
-    EXPECT_EQ(find<QLineEdit>("plateText")->text(), "");
+    find<QLineEdit>("plateText")->setText("Another");
+    pressKey(*find<QLineEdit>("plateText"), Qt::Key_Return);
+    EXPECT_EQ(value("plates.text")["text"], QJsonValue("Another"));
+    EXPECT_TRUE(stage().undo());
+    EXPECT_EQ(value("plates.text")["text"], QJsonValue("A title"));
+    EXPECT_EQ(find<QLineEdit>("plateText")->text(), "A title") << "what is shown can be edited";
     run("plates.edit", false);
     const QImage shown = picture();
     int white = 0;
@@ -164,6 +169,7 @@ TEST_F(Plates, TextsBecomePicturesOfTheirColor)
         }
     }
     EXPECT_GT(white, 3000);
+    find<QLineEdit>("plateText")->clear();
     find<QToolButton>("plates.addText")->click();
     EXPECT_EQ(problems.size(), 1) << "an empty text is no plate";
 }

@@ -52,7 +52,7 @@ TEST_F(RedrawTest, NothingIsDrawnWhileNothingChanges)
 
 TEST_F(RedrawTest, AfterTheViewMovedAWholePictureComesByItself)
 {
-    window.setCoarseWhileMoving(true);
+    window.view().setCoarseWhileMoving(true);
     modifiers = Qt::AltModifier;
     bool wasCoarse = false;
     press({ 300, 500 });

@@ -59,7 +59,7 @@ protected:
         for (int i = 0; i < 4; ++i) {
             moveBy(x, y);
         }
-        EXPECT_NE(stage().gizmo().draggedValues(), "") << handle << " is not grabbed";
+        EXPECT_TRUE(stage().isDragging()) << handle << " is not grabbed";
     }
 
     void moveBy(double x, double y)
@@ -204,7 +204,7 @@ TEST_F(TransformTools, SettingsReachTheGizmo)
     }
     EXPECT_FALSE(action("gizmoClipping")->isEnabled()) << "no clip plane is selected";
 
-    find<QDoubleSpinBox>("translationStep")->setValue(0.25);
+    EXPECT_TRUE(run("settings.translationStep", 0.25));
     EXPECT_EQ(nbTransformModel::the()->getTranslationPrecision(), 0.25);
     const osg::Vec3f before = translationOf("Knot");
     play({ key("X"), key("W") });
@@ -214,7 +214,7 @@ TEST_F(TransformTools, SettingsReachTheGizmo)
     EXPECT_GE(steps, 1.0);
     EXPECT_NEAR(steps, std::round(steps), 1e-4);
 
-    find<QDoubleSpinBox>("gizmoSize")->setValue(60.0);
+    EXPECT_TRUE(run("settings.gizmoSize", 60));
     EXPECT_EQ(stage().gizmo().size(), 60.0F);
     play({ key("L") });
     EXPECT_TRUE(stage().gizmo().isLocalSpace());

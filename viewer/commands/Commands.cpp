@@ -73,6 +73,18 @@ void Commands::addSwitch(const QString& name, SetSwitch set, std::function<bool(
         });
 }
 
+void Commands::addChoice(const QString& name, const QStringList& words,
+                         std::function<bool(int place, QString& error)> choose)
+{
+    add(name, [name, words, choose = std::move(choose)](const QJsonValue& value, QString& error) {
+        const int place = value.isString() ? words.indexOf(value.toString()) : -1;
+        return place < 0
+            ? JsonReader(error).fail(
+                  name, QStringLiteral("expected one of: %1").arg(words.join(QStringLiteral(", "))))
+            : choose(place, error);
+    });
+}
+
 void Commands::addNumber(const QString& name, double least, double most, SetNumber set)
 {
     add(name, [name, least, most, set = std::move(set)](const QJsonValue& value, QString& error) {

@@ -45,6 +45,9 @@ public:
     /// Adds a command that takes true or false.
     /// @param isOn  tells how it is; then null does the other; empty: null is refused
     void addSwitch(const QString& name, SetSwitch set, std::function<bool()> isOn = {});
+    /// Adds a command that takes one of some words. @param choose  gets the place of the word
+    void addChoice(const QString& name, const QStringList& words,
+                   std::function<bool(int place, QString& error)> choose);
     /// Adds a command that takes a number from least to most.
     void addNumber(const QString& name, double least, double most, SetNumber set);
     /// Adds a value, or replaces that of the name.

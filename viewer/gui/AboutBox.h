@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QDialog>
+#include <QCoreApplication>
 #include <QString>
+
+class QWidget;
 
 namespace viewer {
 
@@ -11,16 +13,13 @@ const char* programVersion();
 
 /// Tells what the program is and the versions of the parts it stands on, with a button that copies
 /// them.
-class AboutBox : public QDialog
+class AboutBox
 {
-    Q_OBJECT
+    Q_DECLARE_TR_FUNCTIONS(viewer::AboutBox)
 
 public:
     /// @param graphics  what draws, such as "4.5, llvmpipe"; empty if nothing was drawn yet
-    AboutBox(const QString& graphics, QWidget* parent);
-
-    /// One line for each part, such as "Qt 5.15.8", as they are at run time.
-    static QString versions(const QString& graphics);
+    static void open(const QString& graphics, QWidget* parent);
 };
 
 }  // namespace viewer

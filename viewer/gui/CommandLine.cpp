@@ -2,6 +2,7 @@
 #include "viewer/gui/CommandLine.h"
 
 #include "viewer/scenes/SceneDocument.h"
+#include "viewer/texts/FileRules.h"
 
 #include <QCommandLineParser>
 #include <QDir>
@@ -81,21 +82,6 @@ bool readLanguage(const QString& value, CommandLine& options, QString& error)
     return true;
 }
 
-bool isReadableFile(const QString& path, QString& error)
-{
-    const QFileInfo info(path);
-    if (!info.exists()) {
-        error = QStringLiteral("%1: no such file").arg(path);
-    } else if (!info.isFile()) {
-        error = QStringLiteral("%1: not a file").arg(path);
-    } else if (!info.isReadable()) {
-        error = QStringLiteral("%1: may not be read").arg(path);
-    } else {
-        return true;
-    }
-    return false;
-}
-
 bool isWritablePicture(const QString& path, QString& error)
 {
     const QFileInfo info(path);
@@ -171,11 +157,11 @@ bool checkCommandLine(const CommandLine& options, QString& error)
         return false;
     }
     for (const QString& file : options.files) {
-        if (!isReadableFile(file, error)) {
+        if (!isReadable(file, error)) {
             return false;
         }
     }
-    if (!options.session.isEmpty() && !isReadableFile(options.session, error)) {
+    if (!options.session.isEmpty() && !isReadable(options.session, error)) {
         return false;
     }
     if (!options.outputFolder.isEmpty() && !QFileInfo(options.outputFolder).isDir()) {

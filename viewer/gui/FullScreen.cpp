@@ -7,15 +7,25 @@
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QStatusBar>
+#include <QTimer>
 #include <QToolBar>
 
 namespace viewer {
+namespace {
+
+/// Until the window manager has given the window its size.
+constexpr int kSettlingMs = 60;
+
+}  // namespace
 
 bool FullScreen::set(bool on)
 {
     if (on == isOn()) {
         return false;
     }
+    // Nothing of the steps in between is drawn.
+    window.setUpdatesEnabled(false);
+    QTimer::singleShot(kSettlingMs, &window, [this] { window.setUpdatesEnabled(true); });
     if (on) {
         stateBefore = memory::stateOf(window);
         for (QToolBar* bar : window.findChildren<QToolBar*>()) {

@@ -1,29 +1,28 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/gui/MainWindow.h"
 
-#include "viewer/gui/CaptionBar.h"
+#include "viewer/gui/AxesCorner.h"
 #include "viewer/gui/LogPanel.h"
 #include "viewer/gui/MessageBar.h"
 #include "viewer/gui/PanelDocks.h"
 #include "viewer/gui/SceneFileActions.h"
 #include "viewer/gui/SessionPlayer.h"
 #include "viewer/gui/SessionRecorder.h"
+#include "viewer/gui/SettingsPanel.h"
 #include "viewer/gui/StageTools.h"
 #include "viewer/gui/StatusLine.h"
 #include "viewer/gui/ToolBars.h"
 #include "viewer/gui/ViewWidget.h"
 #include "viewer/gui/WindowActions.h"
 #include "viewer/gui/WindowMemory.h"
-#include "viewer/loading/ModelReader.h"
-#include "viewer/loading/PictureFile.h"
 #include "viewer/stage/ObjectCommands.h"
 #include "viewer/stage/StageTool.h"
 
 #include <QCloseEvent>
-#include <QFileDialog>
+#include <QCoreApplication>
+#include <QDialog>
 #include <QFileInfo>
 #include <QGridLayout>
-#include <QImageReader>
 #include <QJsonArray>
 #include <QKeyEvent>
 #include <QMenu>
@@ -31,6 +30,7 @@
 #include <QScreen>
 #include <QSettings>
 #include <QStatusBar>
+#include <QTextBrowser>
 #include <QToolBar>
 
 #include <algorithm>
@@ -41,17 +41,7 @@ namespace {
 /// Size at the first start, logical pixels, and the part of the screen that it takes at most.
 constexpr QSize kFirstSize(1440, 900);
 constexpr double kMostOfScreen = 0.94;
-
-bool isSession(const QString& file)
-{
-    return file.endsWith(QLatin1String(".json"), Qt::CaseInsensitive);
-}
-
-bool isPicture(const QString& file)
-{
-    const QByteArray suffix = QFileInfo(file).suffix().toLatin1().toLower();
-    return QImageReader::supportedImageFormats().contains(suffix);
-}
+constexpr QSize kManualSize(900, 900);
 
 }  // namespace
 
@@ -72,25 +62,28 @@ MainWindow::MainWindow(Attendance attendance)
     layout->addWidget(viewWidget, 0, 0);
     setCentralWidget(centre);
     messageBar = new MessageBar(viewWidget);
-    viewWidget->setCoarseWhileMoving(mode == Attendance::Attended && memory::coarseWhileMoving());
-    if (mode == Attendance::Attended) {
-        shownTheme = memory::theme();
-        applyTheme(shownTheme);
-    }
+    viewWidget->setCoarseWhileMoving(mode == Attendance::Attended);
     sceneFiles = new SceneFileActions(*this, viewWidget->stage(), *loader);
+    settings = std::make_unique<Settings>(*this, mode == Attendance::Attended);
     addSurroundings();
     if (mode == Attendance::Attended) {
         connect(this, &MainWindow::problem, messageBar, &MessageBar::showMessage);
         sceneFiles->setQuestion(sceneFiles->dialog());
         sceneFiles->keepEdits(QFileInfo(QSettings().fileName()).dir(),
                               [this] { return viewWidget->lastFrame(); });
-        connect(sessionPlayer, &SessionPlayer::captionChanged, new CaptionBar(viewWidget),
-                &CaptionBar::showCaption);
+        sessionPlayer->setCaptionsShown(true);
         if (!memory::restoreLayout(*this)) {
             resize(kFirstSize.boundedTo(screen()->availableSize() * kMostOfScreen));
         }
     }
     connectParts();
+    if (mode == Attendance::Attended) {
+        auto* corner = new AxesCorner(viewWidget, viewWidget->stage());
+        connect(corner, &AxesCorner::viewAsked, this,
+                [this](auto side) { actions->lookFrom(side); });
+        connect(viewWidget, &ViewWidget::stateChanged, corner, &AxesCorner::refresh);
+        settings->restore();
+    }
     viewWidget->setFocus();
 }
 
@@ -125,7 +118,8 @@ void MainWindow::connectParts()
     connect(sessionPlayer, &SessionPlayer::finished, this, &MainWindow::concludeReplay);
     viewWidget->stage().commands().setListener(
         [this](const QString& name, const QJsonValue& value, Commands::Moment moment) {
-            if (moment == Commands::Moment::Final) {
+            // What a person sets for the program is no step of a session.
+            if (moment == Commands::Moment::Final && !name.startsWith(QLatin1String("settings."))) {
                 sessionRecorder->addCommand(name, value);
             }
             sceneFiles->noteCommand(name);
@@ -192,6 +186,10 @@ void MainWindow::renewSurroundings()
     showRecording();
     updateStatus();
     viewWidget->setFocus();
+    if (auto* dialog = findChild<QDialog*>(QStringLiteral("settings"))) {
+        dialog->deleteLater();
+        showSettings();
+    }
 }
 
 void MainWindow::changeEvent(QEvent* event)
@@ -215,166 +213,6 @@ void MainWindow::updateStatus()
     statusLine->update(stage, loader->isRunning());
     statusLine->showFrame(viewWidget->frameText());
     docks->refresh();
-}
-
-// == Files
-
-void MainWindow::showStartScene()
-{
-    if (!pendingSession && !sceneFiles->mayReplace()) {
-        return;
-    }
-    loader->cancel();
-    shownFiles.clear();
-    viewWidget->stage().showStartScene();
-    sceneFiles->replaced();
-    setShownTitle({});
-    updateStatus();
-}
-
-void MainWindow::openFiles(const QStringList& files, Opening opening)
-{
-    const bool isScene = std::any_of(files.begin(), files.end(), &isSceneFileName);
-    if (isScene && (files.size() > 1 || opening == Opening::Add)) {
-        emit problem(tr("%1: a scene can only be opened by itself").arg(files.first()));
-        return;
-    }
-    if (opening == Opening::Replace && !pendingSession && !sceneFiles->mayReplace()) {
-        return;
-    }
-    openingFiles = files;
-    openingMode = opening;
-    statusLine->setProgress(ModelLoader::Phase::Reading, files.value(0), 0);
-    sceneFiles->forget();
-    if (isScene) {
-        sceneFiles->open(files.first(), !pendingSession || pendingSession->areFilesChosen);
-    } else {
-        loader->start(files);
-    }
-    updateStatus();
-}
-
-void MainWindow::sceneOpened(const QString& path, bool byCommand)
-{
-    shownFiles = QStringList { path };
-    addRecentFiles(shownFiles);
-    setShownTitle(QFileInfo(path).fileName());
-    if (!byCommand) {
-        sessionRecorder->addCommand(QStringLiteral("scene.open"), path);
-    }
-    actions->update();
-    updateStatus();
-    if (pendingSession) {
-        beginReplay();
-    }
-    emit filesShown();
-}
-
-void MainWindow::showLoadedModels()
-{
-    if (sceneFiles->isOpening()) {
-        sceneFiles->conclude();
-        return;
-    }
-    Stage& stage = viewWidget->stage();
-    const bool replaced = openingMode == Opening::Replace || stage.isEmpty();
-    if (openingMode == Opening::Replace) {
-        stage.clear();
-        shownFiles.clear();
-    }
-    QStringList warnings;
-    osg::NodePtr last;
-    for (const BuiltModel& model : loader->takeModels()) {
-        last = stage.add(model);
-        warnings.append(model.warnings);
-    }
-    for (const QString& file : openingFiles) {
-        shownFiles.append(QFileInfo(file).absoluteFilePath());
-    }
-    addRecentFiles(openingFiles);
-    if (openingMode == Opening::Replace) {
-        sceneFiles->replaced();
-    } else {
-        sceneFiles->touch();
-    }
-    stage.frameAll(replaced);
-    stage.select(last);
-    if (stage.gizmo().shown() == Gizmo::None) {
-        stage.showGizmo(Gizmo::Universal);
-    }
-    actions->update();
-    updateStatus();
-    setShownTitle(QFileInfo(openingFiles.value(0)).fileName());
-    for (const QString& warning : warnings) {
-        docks->log().append(nbLog::Level::Warning, warning);
-    }
-    if (!warnings.isEmpty() && mode == Attendance::Attended) {
-        messageBar->showMessage(warnings.first());
-    }
-    if (pendingSession) {
-        beginReplay();
-    }
-    emit filesShown();
-}
-
-void MainWindow::addRecentFiles(const QStringList& files)
-{
-    if (mode == Attendance::Attended) {
-        actions->setRecentFiles(memory::addRecentFiles(files));
-    }
-}
-
-void MainWindow::stopLoading()
-{
-    loader->cancel();
-    sceneFiles->forget();
-    pendingSession.reset();
-    updateStatus();
-}
-
-void MainWindow::askForFiles(Opening opening)
-{
-    const QString scenes = opening == Opening::Replace
-        ? QStringLiteral("*.") + QLatin1String(kSceneSuffix)
-        : QString();
-    const QStringList files =
-        QFileDialog::getOpenFileNames(this, tr("Open"), {}, modelFileFilter(scenes));
-    if (!files.isEmpty()) {
-        openFiles(files, opening);
-    }
-}
-
-void MainWindow::askForPicture()
-{
-    const QString path = QFileDialog::getSaveFileName(
-        this, tr("Save picture"), QStringLiteral("view.png"), tr("Pictures (*.png *.jpg *.bmp)"));
-    QString error;
-    if (!path.isEmpty() && !savePicture(path, error)) {
-        emit problem(error);
-    }
-}
-
-bool MainWindow::savePicture(const QString& path, QString& error)
-{
-    const QImage picture = viewWidget->takePicture(error);
-    return !picture.isNull() && writePicture(path, picture, error);
-}
-
-void MainWindow::handleDroppedFiles(const QStringList& files, const osg::Pnt2f& px)
-{
-    const QString& file = files.first();
-    if (files.size() > 1 || (!isPicture(file) && !isSession(file))) {
-        openFiles(files, Opening::Replace);
-    } else if (isSession(file)) {
-        replayFile(file);
-    } else {
-        QString error;
-        if (viewWidget->stage().takePicture(file, px, error)) {
-            showPanelOfTool();
-        } else {
-            emit problem(error.isEmpty() ? tr("%1: drop pictures on an object").arg(file) : error);
-        }
-    }
 }
 
 // == View
@@ -418,25 +256,32 @@ void MainWindow::setTheme(Theme theme)
 {
     shownTheme = theme;
     applyTheme(theme);
-    if (mode == Attendance::Attended) {
-        memory::keepTheme(theme);
-    }
 }
 
-void MainWindow::setCoarseWhileMoving(bool on)
+void MainWindow::showSettings()
 {
-    viewWidget->setCoarseWhileMoving(on);
-    if (mode == Attendance::Attended) {
-        memory::keepCoarseWhileMoving(on);
-    }
+    SettingsPanel::open(viewWidget->stage(), *settings, *this);
 }
 
-void MainWindow::setLanguage(Language language)
+void MainWindow::showManual()
 {
-    applyLanguage(language);
-    if (mode == Attendance::Attended) {
-        memory::keepLanguage(language);
+    const QDir program(QCoreApplication::applicationDirPath());
+    for (const char* place :
+         { "../share/doc/nbviewer/html/README.html", "../viewer/manual/README.html" }) {
+        const QString file = program.absoluteFilePath(QLatin1String(place));
+        if (QFileInfo::exists(file)) {
+            auto* manual = new QTextBrowser;
+            manual->setAttribute(Qt::WA_DeleteOnClose);
+            manual->setWindowTitle(tr("Manual"));
+            manual->setOpenExternalLinks(true);
+            manual->resize(kManualSize);
+            manual->setSource(QUrl::fromLocalFile(QDir::cleanPath(file)));
+            manual->show();
+            connect(this, &QObject::destroyed, manual, &QObject::deleteLater);
+            return;
+        }
     }
+    emit problem(tr("The manual is not installed"));
 }
 
 void MainWindow::showPanelOfTool()

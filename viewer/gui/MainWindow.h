@@ -4,6 +4,7 @@
 #include "viewer/gui/FieldRules.h"
 #include "viewer/gui/FullScreen.h"
 #include "viewer/gui/ModelLoader.h"
+#include "viewer/gui/Settings.h"
 #include "viewer/gui/Theme.h"
 #include "viewer/replay/Session.h"
 #include "viewer/scenes/SceneDocument.h"
@@ -26,6 +27,7 @@ class PanelDocks;
 class SceneFileActions;
 class SessionPlayer;
 class SessionRecorder;
+class SessionTour;
 class StatusLine;
 class ViewWidget;
 struct StageTools;
@@ -78,22 +80,20 @@ public:
     // == View
 
     void showEffectBuffer(bool on);
-    /// Changes the colours of the program and, with a person there, remembers them.
+    /// Changes the colours of the program.
     void setTheme(Theme theme);
 
     Theme theme() const { return shownTheme; }
-
-    /// Lets the program speak a language and, with a person there, remembers it. The window follows
-    /// with the next events: everything around the view is made anew.
-    void setLanguage(Language language);
-
-    /// See nbViewWidget::setCoarseWhileMoving(); remembered with a person there.
-    void setCoarseWhileMoving(bool on);
 
     /// Lets the view alone fill the screen, or shows the window as it was before.
     void showWhole(bool on);
 
     bool isWhole() const { return fullScreen.isOn(); }
+
+    void showSettings();
+
+    /// Opens the manual in a window of its own.
+    void showManual();
 
     /// Brings the panel of the active tool to the front, if a person uses the window.
     void showPanelOfTool();
@@ -113,6 +113,11 @@ public:
     bool isRecording() const;
     void addCheckpoint();
     void askForSession();
+
+    /// Plays the sessions that come with the program, with their captions.
+    /// @param pictures  folder for pictures; nothing: none are written
+    /// @return ends by itself; null with a problem(), or where the scene may not go
+    SessionTour* goOnTour(const std::optional<QDir>& pictures = std::nullopt);
 
     SessionPlayer& player() { return *sessionPlayer; }
 
@@ -165,6 +170,7 @@ private:
     std::unique_ptr<StageTools> tools;
     PanelDocks* docks = nullptr;
     SceneFileActions* sceneFiles = nullptr;
+    std::unique_ptr<Settings> settings;
 
     Theme shownTheme = Theme::System;
     QStringList shownFiles;

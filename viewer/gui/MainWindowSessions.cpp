@@ -4,6 +4,7 @@
 #include "viewer/gui/SceneFileActions.h"
 #include "viewer/gui/SessionPlayer.h"
 #include "viewer/gui/SessionRecorder.h"
+#include "viewer/gui/SessionTour.h"
 #include "viewer/gui/ViewWidget.h"
 #include "viewer/gui/WindowActions.h"
 #include "viewer/replay/SessionStart.h"
@@ -73,6 +74,22 @@ void MainWindow::beginReplay()
     actions->update();
 }
 
+SessionTour* MainWindow::goOnTour(const std::optional<QDir>& pictures)
+{
+    QString error;
+    const QStringList sessions = SessionTour::readList(SessionTour::shippedSessions(), error);
+    if (sessions.isEmpty()) {
+        emit problem(error);
+    }
+    if (sessions.isEmpty() || !sceneFiles->mayReplace()) {
+        return nullptr;
+    }
+    auto* tour = new SessionTour(*this, sessions, pictures);
+    connect(tour, &SessionTour::finished, tour, &QObject::deleteLater);
+    tour->start();
+    return tour;
+}
+
 void MainWindow::stopReplay()
 {
     sessionPlayer->stop();
@@ -87,6 +104,8 @@ void MainWindow::concludeReplay()
 {
     if (mode == Attendance::Attended) {
         viewWidget->fixSize({});
+        // A session begins with the usual ones.
+        settings->restore();
     }
     actions->update();
     emit replayFinished();

@@ -1,9 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/gui/NumberBox.h"
 
+#include <nbUtils/nbQt.h>
+
+#include <QApplication>
+#include <QFocusEvent>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QRegularExpression>
 #include <QSignalBlocker>
+
+#include <utility>
 
 namespace viewer {
 namespace {
@@ -24,7 +31,8 @@ NumberBox::NumberBox(const Style& style, QWidget* parent)
     setSingleStep(style.step);
     // Half a number is no edit.
     setKeyboardTracking(false);
-    setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("-0000.000")));
+    setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("-000.00")));
+    lineEdit()->installEventFilter(this);
     connect(lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) {
         QPalette shown = palette();
         if (!faultOf(text).isEmpty()) {
@@ -34,6 +42,54 @@ NumberBox::NumberBox(const Style& style, QWidget* parent)
     });
     connect(this, &QAbstractSpinBox::editingFinished, this,
             [this] { lineEdit()->setPalette(palette()); });
+}
+
+void NumberBox::focusInEvent(QFocusEvent* event)
+{
+    isFocusNew = event->reason() == Qt::MouseFocusReason;
+    QDoubleSpinBox::focusInEvent(event);
+}
+
+bool NumberBox::eventFilter(QObject* watched, QEvent* event)
+{
+    const auto& mouse = static_cast<const QMouseEvent&>(*event);
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+        pressX = qRound(nbQt::position(mouse).x());
+        pressValue = number();
+        break;
+    case QEvent::MouseMove:
+        if (isFocusNew && mouse.buttons() == Qt::LeftButton) {
+            scrub(mouse);
+            return true;
+        }
+        break;
+    case QEvent::MouseButtonRelease:
+        isFocusNew = false;
+        if (std::exchange(isScrubbing, false)) {
+            emit scrubbed(false);
+            return true;
+        }
+        break;
+    default:
+        break;
+    }
+    return QDoubleSpinBox::eventFilter(watched, event);
+}
+
+void NumberBox::scrub(const QMouseEvent& event)
+{
+    constexpr int kPxOfStep = 6;
+    constexpr double kFinePart = 0.1;
+    const int way = qRound(nbQt::position(event).x()) - pressX;
+    if (!isScrubbing && qAbs(way) < QApplication::startDragDistance()) {
+        return;
+    }
+    if (!std::exchange(isScrubbing, true)) {
+        emit scrubbed(true);
+    }
+    const double step = singleStep() * ((event.modifiers() & Qt::ShiftModifier) ? kFinePart : 1.0);
+    setValue(pressValue + step * (way / kPxOfStep));
 }
 
 void NumberBox::display(double number)

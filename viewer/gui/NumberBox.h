@@ -9,7 +9,8 @@ namespace viewer {
 
 /// A number that a person types, as nbValueExpression reads it, or steps. What is no number, or
 /// lies outside the bounds, is red while it is typed; then it is refused, and the number before
-/// comes back. Decimals that are not shown are kept.
+/// comes back. Decimals that are not shown are kept. A drag that begins in a box without the keys
+/// steps it, with Shift in tenths.
 class NumberBox : public QDoubleSpinBox
 {
     Q_OBJECT
@@ -46,16 +47,29 @@ public:
 signals:
     /// A text was refused. @param reason  one line
     void refused(const QString& reason) const;
+    /// A drag that steps the number has begun, or ended.
+    void scrubbed(bool isOn);
+
+protected:
+    void focusInEvent(QFocusEvent* event) override;
+    /// Drags in the text.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     nbValueExpression read(const QString& text) const;
     /// Why a text is refused, one line; empty if it is not.
     QString faultOf(const QString& text) const;
 
+    void scrub(const QMouseEvent& event);
+
     int shownDecimals;
     nbValueExpression::Measure measure;
     double displayed = 0.0;
     double displayedValue = 0.0;  ///< what of it the box holds
+    bool isFocusNew = false;  ///< came with the press that is down
+    bool isScrubbing = false;
+    int pressX = 0;
+    double pressValue = 0.0;
 };
 
 }  // namespace viewer

@@ -44,8 +44,12 @@ ObjectPanel::ObjectPanel(Stage& stage, QWidget* parent)
         NumberBox::Style style;
         style.step = row.step;
         style.measure = row.measure;
-        form->addRow(tr(row.label),
-                     addNumbers(QLatin1String(row.command), { tr("X"), tr("Y"), tr("Z") }, style));
+        VectorEdit* edit =
+            addNumbers(QLatin1String(row.command), { tr("X"), tr("Y"), tr("Z") }, style);
+        form->addRow(tr(row.label), edit);
+        if (row.measure == Measure::Number) {
+            edit->addLink(tr("Keep proportions"));
+        }
     }
     form->addRow(addSwitch(QStringLiteral("object.visible"), tr("Visible")));
     form->addRow(addSwitch(QStringLiteral("object.locked"), tr("Locked")));

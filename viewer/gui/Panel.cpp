@@ -4,6 +4,8 @@
 #include "viewer/gui/VectorEdit.h"
 #include "viewer/stage/Stage.h"
 
+#include <nbKernelServices/nbUndoService.h>
+
 #include <QCheckBox>
 #include <QComboBox>
 #include <QJsonArray>
@@ -86,8 +88,13 @@ VectorEdit* Panel::addNumbers(const QString& command, const QStringList& names,
     auto* edit = new VectorEdit(names, style, this);
     edit->setObjectName(command);
     const bool isOne = names.size() == 1;
-    connect(edit, &VectorEdit::edited, this, [this, command, isOne](const QJsonArray& numbers) {
-        run(command, isOne ? numbers.first() : QJsonValue(numbers));
+    connect(edit, &VectorEdit::edited, this,
+            [this, command, isOne](const QJsonArray& numbers, Commands::Moment moment) {
+                run(command, isOne ? numbers.first() : QJsonValue(numbers), moment);
+            });
+    connect(edit, &VectorEdit::scrubbed, this, [](bool isOn) {
+        // The whole drag is one step.
+        isOn ? nbUndoService::the()->beginGroup() : nbUndoService::the()->endGroup();
     });
     bind(edit, value.isEmpty() ? command : value, [edit](const QJsonValue& numbers) {
         edit->display(numbers.isDouble() ? QJsonArray { numbers } : numbers.toArray());

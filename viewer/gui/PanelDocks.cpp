@@ -72,6 +72,13 @@ void PanelDocks::addPanels()
                  QStringLiteral("matchDock"));
     toolDocks[QStringLiteral("plates")] = addPanel(
         new PlatesPanel(stage, tools.plates), tr("Scene plates"), QStringLiteral("platesDock"));
+    // As wide from the start as any of them needs, so that the view keeps its size.
+    int widest = 0;
+    for (const QDockWidget* dock : docks) {
+        widest = qMax(widest, dock->widget()->minimumSizeHint().width());
+    }
+    sceneDock->widget()->setMinimumWidth(widest);
+    objectDock->widget()->setMinimumWidth(widest);
 }
 
 void PanelDocks::addLog()

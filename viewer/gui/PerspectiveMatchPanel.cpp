@@ -203,10 +203,11 @@ void PerspectiveMatchPanel::addLines(QFormLayout& form)
             style, this);
         edit->setObjectName(QStringLiteral("matchLine_") + word);
         form.addRow(name, edit);
-        connect(edit, &VectorEdit::edited, this, [this, word](const QJsonArray& ends) {
-            run(QStringLiteral("match.setLine"),
-                QJsonObject { { "line", word }, { "ends", ends } });
-        });
+        connect(edit, &VectorEdit::edited, this,
+                [this, word](const QJsonArray& ends, Commands::Moment moment) {
+                    run(QStringLiteral("match.setLine"),
+                        QJsonObject { { "line", word }, { "ends", ends } }, moment);
+                });
         bind(edit, QStringLiteral("match.lines"),
              [edit, word](const QJsonValue& lines) { edit->display(lines[word].toArray()); });
         ofUnlocked.push_back(edit);

@@ -226,7 +226,7 @@ QFormLayout* PlatesPanel::createProperties()
 
 QWidget* PlatesPanel::createTextBox()
 {
-    auto* box = new QGroupBox(tr("New text"), this);
+    auto* box = new QGroupBox(tr("Text"), this);
     auto* layout = new QVBoxLayout(box);
     textEdit = new QLineEdit(box);
     textEdit->setObjectName(QStringLiteral("plateText"));
@@ -259,9 +259,19 @@ QWidget* PlatesPanel::createTextBox()
         }
     });
     row->addStretch();
-    QToolButton* add = addButton(row, "plates.addText", tr("Add"), tr("Add the text as a plate"));
-    connect(add, &QToolButton::clicked, this, &PlatesPanel::addText);
-    connect(textEdit, &QLineEdit::returnPressed, this, &PlatesPanel::addText);
+    add = addButton(row, "plates.addText", tr("Add"), tr("Add the text as a plate"));
+    connect(add, &QToolButton::clicked, this,
+            [this] { run(QStringLiteral("plates.addText"), typedText()); });
+    change =
+        addButton(row, "plates.text", tr("Change"), tr("Change the text of the selected plate"));
+    connect(change, &QToolButton::clicked, this,
+            [this] { run(QStringLiteral("plates.text"), typedText()); });
+    connect(textEdit, &QLineEdit::returnPressed, this, [this] {
+        // As long as a text is selected Enter is for that.
+        (change->isEnabled() ? change : add)->click();
+    });
+    bind(change, QStringLiteral("plates.text"),
+         [this](const QJsonValue& text) { showText(text.toObject()); });
     showColor();
     return box;
 }
@@ -297,15 +307,33 @@ void PlatesPanel::askForColor()
     }
 }
 
-void PlatesPanel::addText()
+QJsonObject PlatesPanel::typedText() const
 {
-    const QJsonObject value { { QStringLiteral("text"), textEdit->text() },
-                              { QStringLiteral("font"), fontBox->currentFont().family() },
-                              { QStringLiteral("height"), textHeight->value() / kPercent },
-                              { QStringLiteral("bold"), bold->isChecked() },
-                              { QStringLiteral("color"), color.name(QColor::HexArgb) } };
-    if (run(QStringLiteral("plates.addText"), value)) {
-        textEdit->clear();
+    PlateText text;
+    text.text = textEdit->text();
+    text.font = fontBox->currentFont().family();
+    text.height = textHeight->value() / kPercent;
+    text.bold = bold->isChecked();
+    text.color = color;
+    return toJson(text);
+}
+
+/// Fills the fields with the text that has been selected, once.
+void PlatesPanel::showText(const QJsonObject& text)
+{
+    if (text == shownText) {
+        return;
+    }
+    shownText = text;
+    if (!text.isEmpty()) {
+        textEdit->setText(text[QLatin1String("text")].toString());
+        if (!text[QLatin1String("font")].toString().isEmpty()) {
+            fontBox->setCurrentFont(QFont(text[QLatin1String("font")].toString()));
+        }
+        textHeight->display(text[QLatin1String("height")].toDouble() * kPercent);
+        bold->setChecked(text[QLatin1String("bold")].toBool());
+        color = QColor(text[QLatin1String("color")].toString());
+        showColor();
     }
 }
 

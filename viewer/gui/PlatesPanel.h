@@ -5,6 +5,7 @@
 #include "viewer/plates/PlatesTool.h"
 
 #include <QColor>
+#include <QJsonObject>
 
 #include <vector>
 
@@ -43,7 +44,9 @@ private:
 
     void askForPicture();
     void askForColor();
-    void addText();
+    /// What the fields of the text say.
+    QJsonObject typedText() const;
+    void showText(const QJsonObject& text);
     void selectRows();
     void changeItem(QListWidgetItem* item);
     void refreshList();
@@ -57,6 +60,9 @@ private:
     NumberBox* textHeight = nullptr;
     QCheckBox* bold = nullptr;
     QToolButton* colorButton = nullptr;
+    QToolButton* add = nullptr;
+    QToolButton* change = nullptr;
+    QJsonObject shownText;  ///< of the selected plate
     QColor color { Qt::white };
 };
 

@@ -14,7 +14,6 @@
 #include <QFileInfo>
 #include <QLocale>
 #include <QSettings>
-#include <QTimer>
 #include <QUndoStack>
 
 #include <array>
@@ -33,6 +32,7 @@ constexpr std::array<const char*, 4> kUnrecorded { "match.setPhotograph", "match
                                                    "match.showLines", "match.setLocked" };
 
 constexpr int kMsOfASecond = 1000;
+constexpr int kUsualSeconds = 120;
 
 QUndoStack& steps()
 {
@@ -71,6 +71,7 @@ SceneFileActions::SceneFileActions(QWidget& targetWindow, Stage& targetStage,
     , stage(targetStage)
     , loader(modelLoader)
 {
+    setKeepSeconds(kUsualSeconds);
     addCommands();
     connect(&steps(), &QUndoStack::cleanChanged, this,
             [this] { emit modifiedChanged(isModified()); });
@@ -238,13 +239,12 @@ bool SceneFileActions::saveTo(const QString& path, QString& error)
 
 void SceneFileActions::keepEdits(const QDir& folder, std::function<QImage()> shown)
 {
-    constexpr int kUsualSeconds = 120;
     recovery = std::make_unique<Recovery>(folder);
     shownPicture = std::move(shown);
-    auto* timer = new QTimer(this);
-    connect(timer, &QTimer::timeout, this, &SceneFileActions::keepNow);
-    timer->start(kMsOfASecond *
-                 qMax(1, QSettings().value(QStringLiteral("keepSeconds"), kUsualSeconds).toInt()));
+    connect(&keepTimer, &QTimer::timeout, this, &SceneFileActions::keepNow);
+    keepTimer.start(
+        kMsOfASecond *
+        qMax(1, QSettings().value(QStringLiteral("keepSeconds"), kUsualSeconds).toInt()));
     connect(this, &SceneFileActions::modifiedChanged, this, [this](bool modified) {
         if (!modified) {
             recovery->forget();

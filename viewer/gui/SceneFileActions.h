@@ -7,6 +7,7 @@
 #include <QImage>
 #include <QMessageBox>
 #include <QObject>
+#include <QTimer>
 
 #include <functional>
 #include <memory>
@@ -96,6 +97,11 @@ public:
     /// Keeps edits in a file in that folder, every two minutes (the setting "keepSeconds") and
     /// before the scene is replaced. @param shown  gives the picture that is shown
     void keepEdits(const QDir& folder, std::function<QImage()> shown);
+
+    int keepSeconds() const { return keepTimer.interval() / 1000; }
+
+    void setKeepSeconds(int seconds) { keepTimer.setInterval(1000 * seconds); }
+
     /// Shows what a killed program kept, with its time and picture, and asks whether it is to be
     /// opened; what is neither opened nor discarded is offered again at the next start.
     void offerKept();
@@ -134,6 +140,7 @@ private:
     QString documentFile;
     bool isDocumentChosen = false;
     Stamp documentStamp;
+    QTimer keepTimer;
     std::unique_ptr<Recovery> recovery;  ///< null: nothing is kept
     std::function<QImage()> shownPicture;
     QString keepingFault;  ///< that was told last

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/gui/SessionPlayer.h"
 
-#include "viewer/gui/CaptionBar.h"
 #include "viewer/gui/ViewWidget.h"
 #include "viewer/loading/PictureFile.h"
 #include "viewer/replay/SessionChecks.h"
@@ -13,7 +12,8 @@
 #include <QAction>
 #include <QCoreApplication>
 #include <QKeyEvent>
-#include <QPainter>
+#include <QKeySequence>
+#include <QMouseEvent>
 #include <QTimer>
 #include <QWheelEvent>
 
@@ -67,7 +67,6 @@ void SessionPlayer::start(const Session& newSession, Pace newPace,
     pictureFolder = folder;
     nextStep = 0;
     failures.clear();
-    pictures.clear();
     heldButtons = Qt::NoButton;
     heldModifiers = Qt::NoModifier;
     playing = true;
@@ -109,10 +108,10 @@ void SessionPlayer::setPaused(bool on)
 
 void SessionPlayer::setCaption(const QString& title, const QString& text)
 {
-    if (title != captionTitle || text != captionText) {
-        captionTitle = title;
-        captionText = text;
-        emit captionChanged(title, text);
+    captionTitle = title;
+    captionText = text;
+    if (captionsShown) {
+        view.setCaption(title, text);
     }
 }
 
@@ -289,18 +288,13 @@ bool SessionPlayer::playCheckpoint(const SessionStep& step, QString& error)
     }
     const QString path = view.stage().commands().outputPath(step.name + QStringLiteral(".png"),
                                                             QStringLiteral(".png"), error);
-    QImage picture = path.isEmpty() ? QImage() : view.takePicture(error);
+    const QImage picture = path.isEmpty() ? QImage() : view.takePicture(error);
     if (picture.isNull()) {
         return false;
-    }
-    if (captionsInPictures && !captionTitle.isEmpty()) {
-        QPainter painter(&picture);
-        paintCaption(painter, picture.rect(), captionTitle, captionText);
     }
     if (!writePicture(path, picture, error)) {
         return false;
     }
-    pictures.append(path);
     emit pictureWritten(path);
     return true;
 }

@@ -52,18 +52,13 @@ public:
 
     bool isPaused() const { return paused; }
 
-    /// Lets pictures carry the caption that is shown at their time; not at the start.
-    void setCaptionsInPictures(bool on) { captionsInPictures = on; }
+    /// Shows captions over the view, and in its pictures; not at the start.
+    void setCaptionsShown(bool on) { captionsShown = on; }
 
     /// Checkpoints that were not met, one line each.
     const QStringList& getFailures() const { return failures; }
 
-    /// Files of the pictures written, in order.
-    const QStringList& getPictures() const { return pictures; }
-
 signals:
-    /// Another caption is to be shown; both "" for none.
-    void captionChanged(const QString& title, const QString& text);
     void pictureWritten(const QString& path);
     /// The last step was played, or a step could not be.
     void finished();
@@ -95,7 +90,7 @@ private:
     bool playing = false;
     bool paused = false;
     bool isStepHeld = false;  ///< a step came due while paused
-    bool captionsInPictures = false;
+    bool captionsShown = false;
     QString captionTitle;
     QString captionText;
     unsigned generation =
@@ -104,7 +99,6 @@ private:
     Qt::MouseButtons heldButtons = Qt::NoButton;
     Qt::KeyboardModifiers heldModifiers = Qt::NoModifier;
     QStringList failures;
-    QStringList pictures;
 };
 
 }  // namespace viewer

@@ -103,25 +103,23 @@ void SessionRecorder::addCheckpoint()
 
 void SessionRecorder::addShortcut(const QString& keys)
 {
-    if (!recording || keys.isEmpty()) {
-        return;
+    if (recording && !keys.isEmpty()) {
+        SessionStep step;
+        step.type = Type::Key;
+        step.key = keys;
+        add(step);
     }
-    SessionStep step;
-    step.type = Type::Key;
-    step.key = keys;
-    add(step);
 }
 
 void SessionRecorder::addCommand(const QString& name, const QJsonValue& value)
 {
-    if (!recording) {
-        return;
+    if (recording) {
+        SessionStep step;
+        step.type = Type::Command;
+        step.name = name;
+        step.value = value;
+        add(step);
     }
-    SessionStep step;
-    step.type = Type::Command;
-    step.name = name;
-    step.value = value;
-    add(step);
 }
 
 bool SessionRecorder::eventFilter(QObject* watched, QEvent* event)
@@ -205,7 +203,7 @@ void SessionRecorder::addMouse(Type type, const QMouseEvent& event)
 
 void SessionRecorder::addWheel(const QWheelEvent& event)
 {
-    if (event.angleDelta().y() == 0) {
+    if (event.angleDelta().y() == 0 || ViewWidget::isOfTouchpad(event)) {
         return;
     }
     SessionStep step;

@@ -70,7 +70,7 @@ SessionTour::SessionTour(MainWindow& targetWindow, const QStringList& sessions,
 
 void SessionTour::start()
 {
-    window.player().setCaptionsInPictures(pictureFolder.has_value());
+    window.player().setCaptionsShown(true);
     next = 0;
     running = true;
     playNext();
@@ -95,7 +95,6 @@ void SessionTour::end()
     }
     running = false;
     window.stopReplay();
-    window.player().setCaptionsInPictures(false);
     emit finished();
 }
 

@@ -90,25 +90,23 @@ void StartUp::playSession()
 
 void StartUp::goOnTour()
 {
-    QString error;
-    const QStringList sessions = SessionTour::readList(SessionTour::shippedSessions(), error);
-    if (sessions.isEmpty()) {
-        giveUp(error);
-        return;
-    }
+    connect(&window, &MainWindow::problem, this, &StartUp::giveUp);
     std::optional<QDir> pictures;
     if (options.isUnattended()) {
         pictures = QDir(options.outputFolder);
         connect(&window.player(), &SessionPlayer::pictureWritten, this, &announce);
     }
-    auto* tour = new SessionTour(window, sessions, pictures);
-    connect(tour, &SessionTour::finished, this, [tour] {
-        for (const QString& failure : tour->getFailures()) {
-            complain(failure);
-        }
-        QCoreApplication::exit(tour->getFailures().isEmpty() ? 0 : kCheckpointStatus);
-    });
-    tour->start();
+    SessionTour* const tour = window.goOnTour(pictures);
+    // What goes wrong from now on is the tour's to tell.
+    disconnect(&window, &MainWindow::problem, this, nullptr);
+    if (tour != nullptr) {
+        connect(tour, &SessionTour::finished, this, [tour] {
+            for (const QString& failure : tour->getFailures()) {
+                complain(failure);
+            }
+            QCoreApplication::exit(tour->getFailures().isEmpty() ? 0 : kCheckpointStatus);
+        });
+    }
 }
 
 void StartUp::concludeSession()

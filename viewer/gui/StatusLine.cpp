@@ -47,17 +47,13 @@ QString pointerText(Stage& stage)
 
 StatusLine::StatusLine(QStatusBar& bar)
     : QObject(&bar)
-    , handleLabel(new QLabel(&bar))
-    , valuesLabel(new QLabel(&bar))
-    , selectionLabel(new QLabel(&bar))
-    , axesLabel(new QLabel(&bar))
-    , frameLabel(new QLabel(&bar))
-    , sceneLabel(new QLabel(&bar))
     , progress(new QProgressBar(&bar))
     , cancelButton(new QToolButton(&bar))
 {
+    for (QLabel** label : { &selectionLabel, &handleLabel, &valuesLabel }) {
+        bar.addWidget(*label = new QLabel(&bar));
+    }
     valuesLabel->setObjectName(QStringLiteral("values"));
-    frameLabel->setObjectName(QStringLiteral("frame"));
     progress->setRange(0, kPercent);
     progress->setObjectName(QStringLiteral("progress"));
     progress->setAccessibleName(tr("Progress of loading"));
@@ -69,14 +65,12 @@ StatusLine::StatusLine(QStatusBar& bar)
     cancelButton->setAccessibleName(tr("Stop loading"));
     cancelButton->setToolTip(tr("Stop loading (Esc); the scene stays as it is"));
     connect(cancelButton, &QToolButton::clicked, this, &StatusLine::stopLoadingAsked);
-    bar.addWidget(selectionLabel);
-    bar.addWidget(handleLabel);
-    bar.addWidget(valuesLabel);
     bar.addPermanentWidget(progress);
     bar.addPermanentWidget(cancelButton);
-    bar.addPermanentWidget(axesLabel);
-    bar.addPermanentWidget(frameLabel);
-    bar.addPermanentWidget(sceneLabel);
+    for (QLabel** label : { &axesLabel, &frameLabel, &sceneLabel }) {
+        bar.addPermanentWidget(*label = new QLabel(&bar));
+    }
+    frameLabel->setObjectName(QStringLiteral("frame"));
     progress->hide();
     cancelButton->hide();
 }

@@ -35,12 +35,12 @@ signals:
     void stopLoadingAsked();
 
 private:
-    QLabel* handleLabel;
-    QLabel* valuesLabel;
-    QLabel* selectionLabel;
-    QLabel* axesLabel;
-    QLabel* frameLabel;
-    QLabel* sceneLabel;
+    QLabel* handleLabel = nullptr;
+    QLabel* valuesLabel = nullptr;
+    QLabel* selectionLabel = nullptr;
+    QLabel* axesLabel = nullptr;
+    QLabel* frameLabel = nullptr;
+    QLabel* sceneLabel = nullptr;
     QProgressBar* progress;
     QToolButton* cancelButton;
 };

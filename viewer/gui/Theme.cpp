@@ -13,17 +13,14 @@ namespace {
 
 constexpr std::array<const char*, 3> kNames { "system", "light", "dark" };
 
-/// The roles of a palette that make a theme.
+/// What makes a theme; Qt finds the other shades.
 struct Colors
 {
-    QRgb window, windowText, base, alternateBase, button, light, mid, dark, highlight,
-        highlightedText, disabledText, link;
+    QRgb window, button, base, alternateBase, highlight, link;
 };
 
-constexpr Colors kLight { 0xfff2f3f5, 0xff1d2126, 0xffffffff, 0xfff5f6f8, 0xffe7e9ec, 0xffffffff,
-                          0xffc3c7cd, 0xffa3a8b0, 0xff2f7fc4, 0xffffffff, 0xff9aa0a8, 0xff1f6fb2 };
-constexpr Colors kDark { 0xff2f3238, 0xffe4e6ea, 0xff1d2024, 0xff26292e, 0xff363a41, 0xff4a4f58,
-                         0xff1d1f23, 0xff17191c, 0xff3f88c8, 0xffffffff, 0xff777d86, 0xff6fb6ee };
+constexpr Colors kLight { 0xfff2f3f5, 0xffe7e9ec, 0xffffffff, 0xfff5f6f8, 0xff2f7fc4, 0xff1f6fb2 };
+constexpr Colors kDark { 0xff2f3238, 0xff363a41, 0xff1d2024, 0xff26292e, 0xff3f88c8, 0xff6fb6ee };
 
 constexpr QRgb kAccentOnLight = 0xff1a6db8;
 constexpr QRgb kAccentOnDark = 0xff62b0f0;
@@ -33,33 +30,16 @@ constexpr int kMiddleLightness = 128;
 
 QPalette paletteOf(const Colors& colors)
 {
-    QPalette palette;
-    const auto set = [&palette](QPalette::ColorRole role, QRgb rgb) {
+    QPalette palette(QColor::fromRgb(colors.button), QColor::fromRgb(colors.window));
+    for (const auto& [role, rgb] :
+         { std::pair(QPalette::Base, colors.base), std::pair(QPalette::ToolTipBase, colors.base),
+           std::pair(QPalette::AlternateBase, colors.alternateBase),
+           std::pair(QPalette::Highlight, colors.highlight),
+           std::pair(QPalette::Link, colors.link) }) {
         palette.setColor(role, QColor::fromRgb(rgb));
-    };
-    set(QPalette::Window, colors.window);
-    set(QPalette::WindowText, colors.windowText);
-    set(QPalette::Base, colors.base);
-    set(QPalette::AlternateBase, colors.alternateBase);
-    set(QPalette::Text, colors.windowText);
-    set(QPalette::Button, colors.button);
-    set(QPalette::ButtonText, colors.windowText);
-    set(QPalette::BrightText, colors.highlightedText);
-    set(QPalette::ToolTipBase, colors.base);
-    set(QPalette::ToolTipText, colors.windowText);
-    set(QPalette::PlaceholderText, colors.disabledText);
-    set(QPalette::Light, colors.light);
-    set(QPalette::Midlight, colors.button);
-    set(QPalette::Mid, colors.mid);
-    set(QPalette::Dark, colors.dark);
-    set(QPalette::Shadow, colors.dark);
-    set(QPalette::Highlight, colors.highlight);
-    set(QPalette::HighlightedText, colors.highlightedText);
-    set(QPalette::Link, colors.link);
-    for (const auto role : { QPalette::WindowText, QPalette::Text, QPalette::ButtonText }) {
-        palette.setColor(QPalette::Disabled, role, QColor::fromRgb(colors.disabledText));
     }
-    palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor::fromRgb(colors.mid));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::ToolTipText, palette.color(QPalette::WindowText));
     return palette;
 }
 

@@ -36,7 +36,7 @@ const std::vector<ToolBarRow>& toolBars()
         { "settingTools",
           QT_TRANSLATE_NOOP("viewer::ToolBars", "Handles"),
           Qt::TopToolBarArea,
-          { "localSpace", "snapping", "steps", "centerPivots" } },
+          { "localSpace", "snapping", "centerPivots", "settings" } },
         { "cameraTools",
           QT_TRANSLATE_NOOP("viewer::ToolBars", "Camera"),
           Qt::TopToolBarArea,
@@ -83,6 +83,10 @@ void addButton(QToolBar& bar, QAction* action)
     }
     button->setObjectName(bar.objectName() + QLatin1Char('.') + action->objectName());
     button->setAccessibleName(action->toolTip());
+    if (action->objectName() == QLatin1String("localSpace")) {
+        // Which axes they are is a word.
+        button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    }
     if (action->menu() != nullptr) {
         button->setPopupMode(QToolButton::InstantPopup);
     }

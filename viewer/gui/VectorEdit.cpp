@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/gui/VectorEdit.h"
 
+#include "viewer/gui/ThemeIcon.h"
+
 #include <QHBoxLayout>
 #include <QSignalBlocker>
+#include <QToolButton>
 
 namespace viewer {
 
@@ -16,25 +19,58 @@ VectorEdit::VectorEdit(const QStringList& names, const Style& style, QWidget* pa
         box->setAccessibleName(name);
         box->setToolTip(name);
         box->setButtonSymbols(QAbstractSpinBox::NoButtons);
-        connect(box, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, [this] {
-            QJsonArray values;
-            for (const NumberBox* each : boxes) {
-                values.append(each->number());
+        connect(box, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
+                [this, changed = boxes.size()] {
+                    tell(changed,
+                         isScrubbing ? Commands::Moment::Passing : Commands::Moment::Final);
+                });
+        connect(box, &NumberBox::scrubbed, this, [this, changed = boxes.size()](bool isOn) {
+            isScrubbing = isOn;
+            emit scrubbed(isOn);
+            if (!isOn) {
+                tell(changed, Commands::Moment::Final);
             }
-            emit edited(values);
         });
         layout->addWidget(box);
         boxes.push_back(box);
     }
 }
 
+void VectorEdit::addLink(const QString& tip)
+{
+    link = new QToolButton(this);
+    link->setCheckable(true);
+    link->setIcon(themeIcon(QStringLiteral("link")));
+    link->setToolTip(tip);
+    link->setAccessibleName(tip);
+    layout()->addWidget(link);
+}
+
+void VectorEdit::tell(std::size_t changed, Commands::Moment moment)
+{
+    const double number = boxes[changed]->number();
+    if (link != nullptr && link->isChecked() && changed < shown.size() && shown[changed] != 0.0) {
+        const double factor = number / shown[changed];
+        for (std::size_t i = 0; i < boxes.size(); ++i) {
+            boxes[i]->display(i == changed ? number : shown[i] * factor);
+        }
+    }
+    QJsonArray values;
+    for (const NumberBox* each : boxes) {
+        values.append(each->number());
+    }
+    emit edited(values, moment);
+}
+
 void VectorEdit::display(const QJsonArray& values)
 {
     const bool isKnown = values.size() == static_cast<int>(boxes.size());
+    shown.clear();
     for (std::size_t i = 0; i < boxes.size(); ++i) {
         boxes[i]->setEnabled(isKnown);
         if (isKnown) {
-            boxes[i]->display(values.at(static_cast<int>(i)).toDouble());
+            shown.push_back(values.at(static_cast<int>(i)).toDouble());
+            boxes[i]->display(shown.back());
         } else {
             const QSignalBlocker blocker(boxes[i]);
             boxes[i]->clear();

@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "viewer/commands/Commands.h"
 #include "viewer/gui/NumberBox.h"
 
 #include <QJsonArray>
 #include <QWidget>
 
 #include <vector>
+
+class QToolButton;
 
 namespace viewer {
 
@@ -25,12 +28,23 @@ public:
     /// @param values  as many as there are boxes; otherwise the boxes are empty and disabled
     void display(const QJsonArray& values);
 
+    /// Adds a switch: while it is on the numbers keep their ratios.
+    /// @param tip  what it is called
+    void addLink(const QString& tip);
+
 signals:
     /// A person changed a number. @param values  all of them
-    void edited(const QJsonArray& values);
+    void edited(const QJsonArray& values, Commands::Moment moment);
+    /// A drag that changes a number has begun, or ended.
+    void scrubbed(bool isOn);
 
 private:
+    void tell(std::size_t changed, Commands::Moment moment);
+
     std::vector<NumberBox*> boxes;
+    QToolButton* link = nullptr;
+    bool isScrubbing = false;
+    std::vector<double> shown;  ///< before the change
 };
 
 }  // namespace viewer

@@ -2,8 +2,8 @@
 #include "viewer/gui/ViewWidget.h"
 
 #include "viewer/commands/Commands.h"
+#include "viewer/gui/Caption.h"
 #include "viewer/gui/CursorShapes.h"
-#include "viewer/gui/SelectionRectangle.h"
 #include "viewer/stage/StageTool.h"
 
 #include <nbUtils/nbQt.h>
@@ -14,13 +14,22 @@
 #include <QJsonObject>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QNativeGestureEvent>
 #include <QOpenGLContext>
 #include <QOpenGLFunctions>
 #include <QPainter>
 #include <QUrl>
+#include <QWheelEvent>
+
+#include <cmath>
 
 namespace viewer {
 namespace {
+
+// Of the rectangle that selects; dashes of two colours show on any ground.
+const QColor kFill(255, 255, 255, 28);
+const QColor kDarkLine(20, 22, 26, 160);
+const QColor kLightLine(245, 246, 250);
 
 constexpr int kFar = 100000;  ///< from everything in a view, logical pixels
 
@@ -33,6 +42,29 @@ QStringList localFiles(const QMimeData* data)
         }
     }
     return files;
+}
+
+bool hasSelectionRectangle(const nbOSGWidget& view)
+{
+    return view.getRectSelection() && !view.getMouseRect().isEmpty();
+}
+
+void paintSelectionRectangle(QPainter& painter, const nbOSGWidget& view, double pixelRatio)
+{
+    if (!hasSelectionRectangle(view)) {
+        return;
+    }
+    const QRect px = view.getMouseRect();
+    const QRectF rectangle(px.left() / pixelRatio, px.top() / pixelRatio,
+                           (px.width() - 1) / pixelRatio, (px.height() - 1) / pixelRatio);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.fillRect(rectangle, kFill);
+    painter.setPen(QPen(kDarkLine, 0.0));
+    painter.drawRect(rectangle);
+    painter.setPen(QPen(kLightLine, 0.0, Qt::DashLine));
+    painter.drawRect(rectangle);
+    painter.restore();
 }
 
 }  // namespace
@@ -82,7 +114,7 @@ void ViewWidget::drawingIsImpossible(const std::string& reason)
 
 bool ViewWidget::hasOverlay() const
 {
-    return nbViewWidget::hasOverlay() || hasSelectionRectangle(view()) ||
+    return nbViewWidget::hasOverlay() || hasSelectionRectangle(view()) || !captionTitle.isEmpty() ||
         (viewStage.activeTool() != nullptr && !viewStage.activeTool()->labels().empty());
 }
 
@@ -95,6 +127,17 @@ void ViewWidget::paintOverlay(QPainter& painter) const
             nbTextPainter::paintLabel(painter, toLogical(label.px), label.text);
         }
     }
+    if (!captionTitle.isEmpty()) {
+        paintCaption(painter, QRect(QPoint(), logicalSize()), captionTitle, captionText);
+    }
+}
+
+void ViewWidget::setCaption(const QString& title, const QString& text)
+{
+    captionTitle = title;
+    captionText = text;
+    setAccessibleDescription(title.isEmpty() ? title : title + QStringLiteral(": ") + text);
+    viewStage.view().update();
 }
 
 void ViewWidget::updateCursor()
@@ -153,8 +196,53 @@ void ViewWidget::addCommands()
     });
 }
 
+bool ViewWidget::isOfTouchpad(const QWheelEvent& event)
+{
+    return event.phase() != Qt::NoScrollPhase && !event.pixelDelta().isNull() &&
+        (event.modifiers() & Qt::ControlModifier) == 0;
+}
+
+bool ViewWidget::followTouchpad(QEvent* event)
+{
+    if (event->type() == QEvent::Wheel && isOfTouchpad(static_cast<QWheelEvent&>(*event))) {
+        // As a drag of the middle button, so that it is recorded as one.
+        const auto& wheel = static_cast<const QWheelEvent&>(*event);
+        const Qt::KeyboardModifiers keys = doesMiddleOrbit() ? Qt::ShiftModifier : Qt::NoModifier;
+        const QPointF to = wheel.position() + wheel.pixelDelta();
+        const QPointF onScreen = wheel.globalPosition();
+        QMouseEvent press(QEvent::MouseButtonPress, wheel.position(), onScreen, Qt::MiddleButton,
+                          Qt::MiddleButton, keys);
+        QMouseEvent move(QEvent::MouseMove, to, onScreen, Qt::NoButton, Qt::MiddleButton, keys);
+        QMouseEvent release(QEvent::MouseButtonRelease, to, onScreen, Qt::MiddleButton,
+                            Qt::NoButton, keys);
+        for (QMouseEvent* step : { &press, &move, &release }) {
+            QCoreApplication::sendEvent(this, step);
+        }
+        return true;
+    }
+    if (event->type() != QEvent::NativeGesture) {
+        return false;
+    }
+    const auto& gesture = static_cast<const QNativeGestureEvent&>(*event);
+    if (gesture.gestureType() == Qt::ZoomNativeGesture && gesture.value() > -1.0) {
+        constexpr double kAngleOfStep = 120.0;
+        const double steps = -std::log1p(gesture.value()) /
+            std::log(nbec::interaction::CameraInteractionContext::kWheelFactor);
+        const QPointF at = nbQt::position(gesture);
+        QWheelEvent wheel(at, mapToGlobal(at.toPoint()), QPoint(),
+                          QPoint(0, qRound(kAngleOfStep * steps)), Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(this, &wheel);
+    }
+    return true;
+}
+
 bool ViewWidget::event(QEvent* event)
 {
+    if (followTouchpad(event)) {
+        event->accept();
+        return true;
+    }
     const QEvent::Type type = event->type();
     const bool wasDragging = viewStage.isDragging();
     const bool taken = nbViewWidget::event(event);

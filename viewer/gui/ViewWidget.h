@@ -8,6 +8,8 @@
 
 #include <QImage>
 
+class QWheelEvent;
+
 namespace viewer {
 
 /// The 3D view of the window: draws the stage and hands it the person's input.
@@ -25,6 +27,9 @@ public:
 
     /// Picture of what was drawn last, without drawing. @return null before the first frame
     QImage lastFrame();
+    /// Shows a caption over the lower part of the view: a title and below it what is being shown;
+    /// "" for none.
+    void setCaption(const QString& title, const QString& text);
 
     /// Whether each frame is timed until the driver is done, for frameText().
     void showFrameStatistics(bool on);
@@ -34,6 +39,9 @@ public:
 
     /// The same as a line of text; empty while it is not shown.
     QString frameText() const;
+
+    /// Whether a wheel event is two fingers on a touchpad, which pan; with Ctrl they zoom.
+    static bool isOfTouchpad(const QWheelEvent& event);
 
 signals:
     /// The pointer moved, the scene was drawn, or something else that a status line shows may have
@@ -62,12 +70,16 @@ private:
     void addCommands();
     void updateCursor();
     void followRightButton(const QMouseEvent& event);
+    /// Two fingers pan, a pinch zooms. @return whether it was one of these
+    bool followTouchpad(QEvent* event);
 
     Stage viewStage;
     QPoint rightPress;  ///< of the right button alone
     HandleCursor shownCursor;
     Qt::CursorShape hostCursor = Qt::ArrowCursor;
     bool frameStatisticsShown = false;
+    QString captionTitle;
+    QString captionText;
 };
 
 }  // namespace viewer

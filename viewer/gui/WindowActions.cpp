@@ -1,16 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/gui/WindowActions.h"
 
-#include "manipulator/course/DragOverlay.h"
-#include "manipulator/course/HandleFading.h"
-#include "manipulator/handles/HandlePalette.h"
 #include "viewer/gui/AboutBox.h"
 #include "viewer/gui/MainWindow.h"
 #include "viewer/gui/PanelDocks.h"
 #include "viewer/gui/SceneFileActions.h"
 #include "viewer/gui/SessionPlayer.h"
 #include "viewer/gui/ShortcutPage.h"
-#include "viewer/gui/StepsPanel.h"
 #include "viewer/gui/ThemeIcon.h"
 #include "viewer/gui/ViewWidget.h"
 #include "viewer/stage/Stage.h"
@@ -24,7 +20,8 @@
 #include <QMenuBar>
 #include <QRegularExpression>
 #include <QUndoStack>
-#include <QWidgetAction>
+
+#include <cctype>
 
 namespace viewer {
 namespace {
@@ -52,69 +49,27 @@ constexpr ViewRow kViews[] = {
 
 struct GizmoRow
 {
-    const char* name;
+    Gizmo gizmo;
     const char* text;
     const char* keys;
-    Gizmo gizmo;
-};
-
-struct ThemeRow
-{
-    const char* name;
-    const char* text;
-    Theme theme;
-};
-
-constexpr ThemeRow kThemes[] = {
-    { "themeSystem", QT_TRANSLATE_NOOP("viewer::WindowActions", "As the &desktop"), Theme::System },
-    { "themeLight", QT_TRANSLATE_NOOP("viewer::WindowActions", "&Light"), Theme::Light },
-    { "themeDark", QT_TRANSLATE_NOOP("viewer::WindowActions", "Dar&k"), Theme::Dark },
-};
-
-/// A palette of the handles.
-struct PaletteRow
-{
-    const char* name;
-    const char* text;
-    nbec::manipulator::BuiltInPalette palette;
-};
-
-using nbec::manipulator::BuiltInPalette;
-constexpr PaletteRow kPalettes[] = {
-    { "paletteClassic", QT_TRANSLATE_NOOP("viewer::WindowActions", "&Classic colours"),
-      BuiltInPalette::Classic },
-    { "paletteSoft", QT_TRANSLATE_NOOP("viewer::WindowActions", "&Soft colours"),
-      BuiltInPalette::Soft },
-    { "paletteContrast", QT_TRANSLATE_NOOP("viewer::WindowActions", "&High contrast"),
-      BuiltInPalette::HighContrast },
-    { "paletteColourBlind", QT_TRANSLATE_NOOP("viewer::WindowActions", "For &any colour vision"),
-      BuiltInPalette::ForColourBlind },
 };
 
 constexpr GizmoRow kGizmos[] = {
-    { "gizmoNone", QT_TRANSLATE_NOOP("viewer::WindowActions", "&None"), "Q", Gizmo::None },
-    { "gizmoTranslate", QT_TRANSLATE_NOOP("viewer::WindowActions", "&Translate"), "W",
-      Gizmo::Translate },
-    { "gizmoRotate", QT_TRANSLATE_NOOP("viewer::WindowActions", "&Rotate"), "E", Gizmo::Rotate },
-    { "gizmoScale", QT_TRANSLATE_NOOP("viewer::WindowActions", "&Scale"), "R", Gizmo::Scale },
-    { "gizmoUniversal", QT_TRANSLATE_NOOP("viewer::WindowActions", "&Universal"), "T",
-      Gizmo::Universal },
-    { "gizmoTranslateRotate", QT_TRANSLATE_NOOP("viewer::WindowActions", "Translate, r&otate"),
-      "Shift+W", Gizmo::TranslateRotate },
-    { "gizmoTranslateRotateScale",
-      QT_TRANSLATE_NOOP("viewer::WindowActions", "Translate, rotate, s&cale"), "Shift+Q",
-      Gizmo::TranslateRotateScale },
-    { "gizmoTranslateRotateYZ",
-      QT_TRANSLATE_NOOP("viewer::WindowActions", "Translate, rotate about &y and z"), "Shift+Y",
-      Gizmo::TranslateRotateYZ },
-    { "gizmoRotatePivot", QT_TRANSLATE_NOOP("viewer::WindowActions", "Rotate &pivot"), "Shift+E",
-      Gizmo::RotatePivot },
-    { "gizmoScalePivot", QT_TRANSLATE_NOOP("viewer::WindowActions", "Sca&le pivot"), "Shift+R",
-      Gizmo::ScalePivot },
-    { "gizmoClipping", QT_TRANSLATE_NOOP("viewer::WindowActions", "Clip plan&e"), "V",
-      Gizmo::Clipping },
-    { "gizmoCamera", QT_TRANSLATE_NOOP("viewer::WindowActions", "Ca&mera pivot"), "C",
-      Gizmo::CameraPivot },
+    { Gizmo::None, QT_TRANSLATE_NOOP("viewer::WindowActions", "&None"), "Q" },
+    { Gizmo::Translate, QT_TRANSLATE_NOOP("viewer::WindowActions", "&Translate"), "W" },
+    { Gizmo::Rotate, QT_TRANSLATE_NOOP("viewer::WindowActions", "&Rotate"), "E" },
+    { Gizmo::Scale, QT_TRANSLATE_NOOP("viewer::WindowActions", "&Scale"), "R" },
+    { Gizmo::Universal, QT_TRANSLATE_NOOP("viewer::WindowActions", "&Universal"), "T" },
+    { Gizmo::TranslateRotate, QT_TRANSLATE_NOOP("viewer::WindowActions", "Translate, r&otate"),
+      "Shift+W" },
+    { Gizmo::TranslateRotateScale,
+      QT_TRANSLATE_NOOP("viewer::WindowActions", "Translate, rotate, s&cale"), "Shift+Q" },
+    { Gizmo::TranslateRotateYZ,
+      QT_TRANSLATE_NOOP("viewer::WindowActions", "Translate, rotate about &y and z"), "Shift+Y" },
+    { Gizmo::RotatePivot, QT_TRANSLATE_NOOP("viewer::WindowActions", "Rotate &pivot"), "Shift+E" },
+    { Gizmo::ScalePivot, QT_TRANSLATE_NOOP("viewer::WindowActions", "Sca&le pivot"), "Shift+R" },
+    { Gizmo::Clipping, QT_TRANSLATE_NOOP("viewer::WindowActions", "Clip plan&e"), "V" },
+    { Gizmo::CameraPivot, QT_TRANSLATE_NOOP("viewer::WindowActions", "Ca&mera pivot"), "C" },
 };
 
 /// Chinese has the letter behind the text, as in "(&F)".
@@ -199,13 +154,15 @@ QAction* WindowActions::addSwitch(QMenu* menu, const char* name, const QString& 
 }
 
 QAction* WindowActions::addCommand(QMenu* menu, const char* command, const QString& text,
-                                   const QString& keys)
+                                   const QString& keys, bool isSwitch)
 {
     // A recording gets the command itself, so the shortcut is not told.
-    return addPlain(menu, command, text, keys, [this, command](bool) {
-        run(QLatin1String(command));
+    QAction* action = addPlain(menu, command, text, keys, [this, command, isSwitch](bool on) {
+        run(QLatin1String(command), isSwitch ? QJsonValue(on) : QJsonValue());
         window.showPanelOfTool();
     });
+    action->setCheckable(isSwitch);
+    return action;
 }
 
 void WindowActions::run(const QString& command, const QJsonValue& value)
@@ -249,6 +206,8 @@ void WindowActions::addEditMenu()
     add(menu, "selectNone", tr("Select &nothing"), "D", [this] { stage.select(osg::NullFC); });
     menu->addSeparator();
     addObjectActions(menu);
+    menu->addSeparator();
+    addUnplayed(menu, "settings", tr("Se&ttings…"), "Ctrl+,", [this] { window.showSettings(); });
 }
 
 void WindowActions::addObjectActions(QMenu* menu)
@@ -302,15 +261,9 @@ void WindowActions::addViewMenu()
     panels->addActions(window.panels().actions());
     addSwitch(menu, "effectBuffer", tr("Show &effect buffer"), "B",
               [this](bool on) { window.showEffectBuffer(on); });
-    addCommand(menu, "view.setFrameStatistics", tr("Frame stat&istics"), "")->setCheckable(true);
-    QAction* coarse = addPlain(menu, "coarseWhileMoving", tr("&Coarse while the view moves"), {},
-                               [this](bool on) { window.setCoarseWhileMoving(on); });
-    coarse->setCheckable(true);
-    coarse->setChecked(window.view().isCoarseWhileMoving());
+    addCommand(menu, "view.setFrameStatistics", tr("Frame stat&istics"), "", true);
     menu->addSeparator();
-    addThemes(menu->addMenu(tr("&Theme")));
-    addLanguages(menu->addMenu(tr("Lan&guage")));
-    addHandleLooks(menu->addMenu(tr("Ha&ndles")));
+    grid = addCommand(menu, "settings.grid", tr("&Grid on the ground"), "G", true);
     addPlain(menu, "nextPanel", tr("Ne&xt panel"), "F6",
              [this](bool) { window.panels().focusNext(&window.view()); });
     fullScreen = addPlain(menu, "fullScreen", tr("F&ull screen"), "F11",
@@ -318,69 +271,14 @@ void WindowActions::addViewMenu()
     fullScreen->setCheckable(true);
 }
 
-void WindowActions::addThemes(QMenu* menu)
-{
-    auto* group = new QActionGroup(this);
-    for (const ThemeRow& row : kThemes) {
-        QAction* action = addPlain(menu, row.name, tr(row.text), {},
-                                   [this, theme = row.theme](bool) { window.setTheme(theme); });
-        action->setCheckable(true);
-        group->addAction(action);
-        themeActions[row.theme] = action;
-    }
-}
-
-void WindowActions::addHandleLooks(QMenu* menu)
-{
-    using namespace nbec::manipulator;
-    auto* group = new QActionGroup(this);
-    for (const PaletteRow& row : kPalettes) {
-        const HandlePalette& palette = builtInPalette(row.palette);
-        QAction* action = addPlain(menu, row.name, tr(row.text), {}, [this, &palette](bool) {
-            setHandlePalette(palette);
-            stage.edited();
-        });
-        action->setCheckable(true);
-        action->setChecked(palette.isSame(getHandlePalette()));
-        group->addAction(action);
-    }
-    menu->addSeparator();
-    QAction* fading = addPlain(menu, "handleFading", tr("&Fade seen end-on"), {}, [this](bool on) {
-        HandleFading wanted;
-        wanted.isOn = on;
-        setHandleFading(wanted);
-        stage.gizmo().followCamera();
-        stage.edited();
-    });
-    fading->setCheckable(true);
-    fading->setChecked(getHandleFading().isOn);
-    QAction* overlay = addPlain(menu, "dragOverlay", tr("Draw what a &drag has come to"), {},
-                                [](bool on) { setDragOverlayShown(on); });
-    overlay->setCheckable(true);
-    overlay->setChecked(isDragOverlayShown());
-    // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): the group belongs to its parent
-}
-
-void WindowActions::addLanguages(QMenu* menu)
-{
-    auto* group = new QActionGroup(this);
-    for (const Language language : kLanguages) {
-        const QByteArray name = "language." + languageName(language).toLatin1();
-        QAction* action = addPlain(menu, name.constData(), languageTitle(language), {},
-                                   [this, language](bool) { window.setLanguage(language); });
-        action->setCheckable(true);
-        group->addAction(action);
-        languageActions[language] = action;
-    }
-    // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): the group belongs to its parent
-}
-
 void WindowActions::addManipulatorMenu()
 {
     QMenu* menu = window.menuBar()->addMenu(tr("&Manipulator"));
     gizmoGroup = new QActionGroup(this);
     for (const GizmoRow& row : kGizmos) {
-        QAction* action = addSwitch(menu, row.name, tr(row.text), row.keys,
+        QByteArray name = gizmoName(row.gizmo);
+        name[0] = static_cast<char>(std::toupper(name[0]));
+        QAction* action = addSwitch(menu, "gizmo" + name, tr(row.text), row.keys,
                                     [this, gizmo = row.gizmo](bool) { stage.showGizmo(gizmo); });
         gizmoGroup->addAction(action);
         gizmoActions[row.gizmo] = action;
@@ -389,15 +287,12 @@ void WindowActions::addManipulatorMenu()
     addCommand(menu, "scene.addClipPlane", tr("Add cl&ip plane"), "Shift+X");
     removeClipPlane = addCommand(menu, "scene.removeClipPlane", tr("Remo&ve clip plane"), "");
     menu->addSeparator();
-    matchCamera = addCommand(menu, "match.setActive", tr("Match a p&hotograph"), "Shift+M");
-    matchCamera->setCheckable(true);
-    holdView = addCommand(menu, "view.setHeld", tr("Hold the vie&w"), "Shift+H");
-    holdView->setCheckable(true);
+    matchCamera = addCommand(menu, "match.setActive", tr("Match a p&hotograph"), "Shift+M", true);
+    holdView = addCommand(menu, "view.setHeld", tr("Hold the vie&w"), "Shift+H", true);
     describe(holdView, tr("Hold the view: nothing moves the camera until this is lifted"));
-    editPlates = addCommand(menu, "plates.edit", tr("Edit scene pl&ates"), "Shift+P");
-    editPlates->setCheckable(true);
-    editPictures = addCommand(menu, "texture.edit", tr("Edit pictures on o&bjects"), "Shift+T");
-    editPictures->setCheckable(true);
+    editPlates = addCommand(menu, "plates.edit", tr("Edit scene pl&ates"), "Shift+P", true);
+    editPictures =
+        addCommand(menu, "texture.edit", tr("Edit pictures on o&bjects"), "Shift+T", true);
     menu->addSeparator();
     addTransformSettings(menu);
 }
@@ -416,15 +311,6 @@ void WindowActions::addTransformSettings(QMenu* menu)
     });
     describe(localSpace, tr("Axes of the object instead of the world's"));
     describe(snapping, tr("Advance in steps; hold Ctrl for a while"));
-    QMenu* stepsMenu = menu->addMenu(themeIcon(QStringLiteral("steps")), tr("Steps and si&ze"));
-    stepsMenu->menuAction()->setObjectName(QStringLiteral("steps"));
-    stepsMenu->menuAction()->setToolTip(tr("Steps of snapping, size of the gizmo"));
-    stepsPanel = new StepsPanel(stage.gizmo());
-    auto* panelAction = new QWidgetAction(stepsMenu);
-    panelAction->setDefaultWidget(stepsPanel);
-    stepsMenu->addAction(panelAction);
-    connect(stepsMenu, &QMenu::aboutToShow, stepsPanel, &StepsPanel::refresh);
-    connect(stepsPanel, &StepsPanel::edited, this, [this] { stage.edited(); });
 }
 
 void WindowActions::addSessionMenu()
@@ -446,11 +332,10 @@ void WindowActions::addHelpMenu()
 {
     QMenu* menu = window.menuBar()->addMenu(tr("&Help"));
     addPlain(menu, "shortcuts", tr("&Shortcuts…"), "F1", [this](bool) { showShortcuts(window); });
-    addPlain(menu, "about", tr("&About nbviewer…"), {}, [this](bool) {
-        auto* box = new AboutBox(window.view().graphics(), &window);
-        box->setAttribute(Qt::WA_DeleteOnClose);
-        box->open();
-    });
+    addUnplayed(menu, "manual", tr("&Manual"), "Shift+F1", [this] { window.showManual(); });
+    addUnplayed(menu, "tour", tr("&Tour"), {}, [this] { window.goOnTour(); });
+    addPlain(menu, "about", tr("&About nbviewer…"), {},
+             [this](bool) { AboutBox::open(window.view().graphics(), &window); });
 }
 
 void WindowActions::update()
@@ -465,8 +350,7 @@ void WindowActions::update()
     checkpoint->setEnabled(window.isRecording());
     stopReplay->setEnabled(window.isReplaying());
     fullScreen->setChecked(window.isWhole());
-    themeActions[window.theme()]->setChecked(true);
-    languageActions[appliedLanguage()]->setChecked(true);
+    grid->setChecked(stage.isGridShown());
 }
 
 void WindowActions::updateGizmos()
@@ -477,6 +361,7 @@ void WindowActions::updateGizmos()
     matchCamera->setChecked(isOn("match.active"));
     holdView->setChecked(stage.isViewHeld());
     editPlates->setChecked(isOn("plates.edit"));
+    editPictures->setChecked(isOn("texture.edit"));
     if (stage.activeTool() == nullptr) {
         gizmoActions[stage.gizmo().shown()]->setChecked(true);
         return;
@@ -500,8 +385,6 @@ void WindowActions::updateEditing()
     redo->setText(redoText.isEmpty() ? tr("&Redo") : tr("&Redo %1").arg(redoText));
     describe(undo, withoutMnemonic(undo->text()));
     describe(redo, withoutMnemonic(redo->text()));
-    const auto arePicturesEdited = stage.commands().value(QStringLiteral("texture.edit"));
-    editPictures->setChecked(arePicturesEdited && arePicturesEdited->toBool());
     const bool isSelected = stage.selectedObject() != osg::NullFC;
     centerPivots->setEnabled(isSelected && !stage.isDragging());
     for (QAction* action : forObjects) {
@@ -510,7 +393,17 @@ void WindowActions::updateEditing()
     gizmoActions[Gizmo::Clipping]->setEnabled(stage.isClipPlaneSelected());
     removeClipPlane->setEnabled(stage.isClipPlaneSelected() && !stage.isDragging());
     localSpace->setChecked(stage.gizmo().isLocalSpace());
+    localSpace->setIconText(localSpace->isChecked() ? tr("Object") : tr("World"));
     snapping->setChecked(stage.gizmo().isSnapping());
+}
+
+void WindowActions::lookFrom(View view)
+{
+    for (const ViewRow& row : kViews) {
+        if (row.view == view) {
+            window.findChild<QAction*>(QLatin1String(row.name))->trigger();
+        }
+    }
 }
 
 void WindowActions::setRecentFiles(const QStringList& files)

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "viewer/gui/Theme.h"
 #include "viewer/stage/GizmoController.h"
-#include "viewer/texts/Language.h"
+
+#include <nbOpenSGUberCamera/nbCameraNavigation.h>
 
 #include <QJsonValue>
 #include <QList>
@@ -22,7 +22,6 @@ namespace viewer {
 
 class MainWindow;
 class Stage;
-class StepsPanel;
 
 /// Menus and shortcuts of the window. An action is found by its object name, which is that of its
 /// icon.
@@ -39,6 +38,9 @@ public:
 
     /// What can be done with the selected objects, for menus of the view and the tree.
     const QList<QAction*>& objectActions() const { return forObjects; }
+
+    /// Does what the menu entry of a standard view does.
+    void lookFrom(nbCameraNavigation::StandardView view);
 
     /// Fills the menu of recent files.
     void setRecentFiles(const QStringList& files);
@@ -63,7 +65,9 @@ private:
     QAction* addSwitch(QMenu* menu, const char* name, const QString& text, const QString& keys,
                        std::function<void(bool)> run);
     /// An action that runs a command of the stage. @param command  literal
-    QAction* addCommand(QMenu* menu, const char* command, const QString& text, const QString& keys);
+    /// @param isSwitch  it takes true or false
+    QAction* addCommand(QMenu* menu, const char* command, const QString& text, const QString& keys,
+                        bool isSwitch = false);
     /// Runs a command of the stage; a refusal becomes a problem of the window.
     void run(const QString& command, const QJsonValue& value = {});
     void addFileMenu();
@@ -74,9 +78,6 @@ private:
     void addSessionMenu();
     void addTransformSettings(QMenu* menu);
     void addHelpMenu();
-    void addThemes(QMenu* menu);
-    void addHandleLooks(QMenu* menu);
-    void addLanguages(QMenu* menu);
     void updateGizmos();
     void updateEditing();
 
@@ -96,15 +97,13 @@ private:
     QAction* holdView = nullptr;
     QAction* editPlates = nullptr;
     QAction* editPictures = nullptr;
-    StepsPanel* stepsPanel = nullptr;
+    QAction* grid = nullptr;
     QAction* orthographic = nullptr;
     QAction* zUp = nullptr;
     QAction* record = nullptr;
     QAction* checkpoint = nullptr;
     QAction* stopReplay = nullptr;
     QAction* fullScreen = nullptr;
-    std::map<Theme, QAction*> themeActions;
-    std::map<Language, QAction*> languageActions;
 };
 
 }  // namespace viewer

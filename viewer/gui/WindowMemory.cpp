@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/gui/WindowMemory.h"
 
-#include "viewer/loading/PictureDecoding.h"
-
 #include <QFileInfo>
 #include <QMainWindow>
 #include <QSettings>
@@ -18,10 +16,6 @@ constexpr int kLayoutVersion = 2;
 const char* const kRecentKey = "recentFiles";
 const char* const kLayoutKey = "windowLayout";
 const char* const kGeometryKey = "windowGeometry";
-const char* const kPictureKey = "pictureMebibytes";
-constexpr int kMostMebibytes = 2047;
-const char* const kThemeKey = "theme";
-const char* const kCoarseKey = "coarseWhileMoving";
 const char* const kLanguageKey = "language";
 
 }  // namespace
@@ -50,41 +44,9 @@ bool restoreState(QMainWindow& window, const QByteArray& state)
     return window.restoreState(state, kLayoutVersion);
 }
 
-Theme theme()
-{
-    return themeFromName(QSettings().value(kThemeKey).toString());
-}
-
-void keepTheme(Theme theme)
-{
-    QSettings().setValue(kThemeKey, themeName(theme));
-}
-
 Language language()
 {
     return languageFromName(QSettings().value(kLanguageKey).toString()).value_or(Language::System);
-}
-
-void keepLanguage(Language language)
-{
-    QSettings().setValue(kLanguageKey, languageName(language));
-}
-
-bool coarseWhileMoving()
-{
-    return QSettings().value(kCoarseKey, true).toBool();
-}
-
-void keepCoarseWhileMoving(bool on)
-{
-    QSettings().setValue(kCoarseKey, on);
-}
-
-qint64 pictureBudget()
-{
-    constexpr qint64 kMebibyte = 1024LL * 1024;
-    const int usual = static_cast<int>(viewer::pictureBudget() / kMebibyte);
-    return kMebibyte * qBound(1, QSettings().value(kPictureKey, usual).toInt(), kMostMebibytes);
 }
 
 QStringList recentFiles()

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "viewer/gui/Theme.h"
 #include "viewer/texts/Language.h"
 
 #include <QByteArray>
@@ -9,8 +8,9 @@
 
 class QMainWindow;
 
-/// What the program remembers from one start to the next: place and layout of the window, the
-/// theme, the language, how large pictures may be and the files opened last.
+/// What the program remembers from one start to the next beside its settings: place and layout of
+/// the window and the files opened last; and the language, which is needed before there is a
+/// window.
 namespace viewer::memory {
 
 /// Gives a window the place and layout that it had, as far as the screen is still there.
@@ -23,17 +23,7 @@ QByteArray stateOf(const QMainWindow& window);
 /// @return false, with the window untouched, for a state of another arrangement
 bool restoreState(QMainWindow& window, const QByteArray& state);
 
-Theme theme();
-void keepTheme(Theme theme);
-
 Language language();
-void keepLanguage(Language language);
-
-bool coarseWhileMoving();
-void keepCoarseWhileMoving(bool on);
-
-/// Most bytes of a decoded picture: the setting "pictureMebibytes", from 1 to 2047.
-qint64 pictureBudget();
 
 /// Absolute paths, the newest first.
 QStringList recentFiles();

@@ -14,7 +14,6 @@ constexpr QChar kBetween = u'-';
 void ModelSources::add(const BuiltModel& model)
 {
     sources[model.root.get().getFieldContainerId()] = { model.file, model.builtIn };
-    triangles += model.triangles;
     addNames(model.root.get());
     addPlaces(model.root.get(), { model.root.get().getFieldContainerId(), QString() });
 }

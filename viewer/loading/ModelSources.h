@@ -49,9 +49,6 @@ public:
     /// What a node was called in its model; "" for one that came later.
     std::string nameOf(const osg::NodePtr& node) const;
 
-    /// Of all models.
-    std::size_t triangleCount() const { return triangles; }
-
 private:
     /// Where an object stands in a model as it was read.
     struct Place
@@ -72,7 +69,6 @@ private:
         members;  ///< objects that have a place, by root
     unsigned lastCopy = 0;
     std::map<osg::UInt32, std::string> names;
-    std::size_t triangles = 0;
 };
 
 }  // namespace viewer

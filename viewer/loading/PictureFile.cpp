@@ -11,6 +11,14 @@ namespace viewer {
 namespace {
 
 constexpr int kLargestSide = 8192;
+/// Begins the name of an image that comes from no file.
+const QString kSourcePrefix = QStringLiteral("source:");
+
+QString nameOf(const osg::ImagePtr& image)
+{
+    const char* name = image == osg::NullFC ? nullptr : osg::getName(image);
+    return QString::fromUtf8(name);
+}
 
 }  // namespace
 
@@ -31,8 +39,20 @@ osg::RefPtr<osg::ImagePtr> readPicture(const QString& file, QString& error)
 
 QString pictureFile(const osg::ImagePtr& image)
 {
-    const char* name = image == osg::NullFC ? nullptr : osg::getName(image);
-    return QString::fromUtf8(name);
+    const QString name = nameOf(image);
+    return name.startsWith(kSourcePrefix) ? QString() : name;
+}
+
+QString pictureSource(const osg::ImagePtr& image)
+{
+    const QString name = nameOf(image);
+    return name.startsWith(kSourcePrefix) ? name.mid(kSourcePrefix.size()) : QString();
+}
+
+void setPictureSource(const osg::ImagePtr& image, const QString& source)
+{
+    osg::setName(
+        image, source.isEmpty() ? std::string() : (kSourcePrefix + source).toUtf8().toStdString());
 }
 
 QString pictureName(const osg::ImagePtr& image)

@@ -12,72 +12,25 @@
 #include <QJsonArray>
 #include <QJsonObject>
 
-#include <functional>
-
 namespace viewer {
 namespace {
 
 constexpr int kCornerCount = 8;
 
-/// Adds the commands of one tool.
-class CommandTable
+QString named(const char* name)
 {
-public:
-    explicit CommandTable(Stage& stage)
-        : commands(stage.commands())
-    { }
+    return QStringLiteral("match.") + QLatin1String(name);
+}
 
-    using Refusable = bool(QString& error);
-
-    void addPlain(const char* name, std::function<Refusable> run)
-    {
-        commands.add(full(name), [run = std::move(run)](const QJsonValue&, QString& error) {
-            return run(error);
-        });
+template <std::size_t size>
+QStringList listOf(const std::array<const char*, size>& words)
+{
+    QStringList list;
+    for (const char* word : words) {
+        list.append(QLatin1String(word));
     }
-
-    void addSwitch(const char* name, Commands::SetSwitch set, std::function<bool()> isOn = {})
-    {
-        commands.addSwitch(full(name), std::move(set), std::move(isOn));
-    }
-
-    void addNumber(const char* name, double least, double most, Commands::SetNumber set)
-    {
-        commands.addNumber(full(name), least, most, std::move(set));
-    }
-
-    /// A choice of words; the command gets the place of the word.
-    template <std::size_t size>
-    void addChoice(const char* name, const std::array<const char*, size>& words,
-                   std::function<bool(int choice, QString& error)> run)
-    {
-        commands.add(full(name),
-                     [words, run = std::move(run)](const QJsonValue& value, QString& error) {
-                         QStringList known;
-                         for (const char* word : words) {
-                             known.append(QLatin1String(word));
-                         }
-                         const int choice = known.indexOf(value.toString());
-                         if (choice < 0) {
-                             error = QStringLiteral("expected one of: %1").arg(known.join(", "));
-                             return false;
-                         }
-                         return run(choice, error);
-                     });
-    }
-
-    void add(const char* name, Commands::Run run) { commands.add(full(name), std::move(run)); }
-
-    void addValue(const char* name, Commands::Read read)
-    {
-        commands.addValue(full(name), std::move(read));
-    }
-
-private:
-    static QString full(const char* name) { return QStringLiteral("match.") + QLatin1String(name); }
-
-    Commands& commands;
-};
+    return list;
+}
 
 QJsonArray endsOf(const QLineF& line)
 {
@@ -130,9 +83,9 @@ bool isAmount(double value)
     return value > 1.0 / kMost && value < kMost;
 }
 
-void addModes(CommandTable& table, PerspectiveMatchTool& tool, Stage& stage)
+void addModes(Commands& commands, PerspectiveMatchTool& tool, Stage& stage)
 {
-    table.add("setPhotograph", [&tool, &stage](const QJsonValue& value, QString& error) {
+    commands.add(named("setPhotograph"), [&tool, &stage](const QJsonValue& value, QString& error) {
         if (!value.isString()) {
             error = QStringLiteral("expected the name of a picture file, or \"\"");
             return false;
@@ -140,12 +93,12 @@ void addModes(CommandTable& table, PerspectiveMatchTool& tool, Stage& stage)
         const QString file = value.toString();
         return tool.setPhotograph(file.isEmpty() ? file : stage.commands().filePath(file), error);
     });
-    table.addNumber("setVeil", 0.0, 1.0, [&tool](double opacity, QString&) {
+    commands.addNumber(named("setVeil"), 0.0, 1.0, [&tool](double opacity, QString&) {
         tool.setVeil(opacity);
         return true;
     });
-    table.addSwitch(
-        "setActive",
+    commands.addSwitch(
+        named("setActive"),
         [&tool, &stage](bool on, QString& error) {
             if (on && stage.pose().orthographic) {
                 error = Text::tr("an orthographic view cannot be matched: switch to perspective");
@@ -155,37 +108,40 @@ void addModes(CommandTable& table, PerspectiveMatchTool& tool, Stage& stage)
             return true;
         },
         [&tool] { return tool.isActive(); });
-    table.addSwitch("showLines", [&tool](bool on, QString&) {
+    commands.addSwitch(named("showLines"), [&tool](bool on, QString&) {
         tool.showLines(on);
         return true;
     });
-    table.addSwitch("setEdgeSnapping", [&tool](bool on, QString&) {
+    commands.addSwitch(named("setEdgeSnapping"), [&tool](bool on, QString&) {
         tool.setSnapsToEdges(on);
         return true;
     });
-    table.addSwitch("setLocked", [&tool](bool on, QString&) {
+    commands.addSwitch(named("setLocked"), [&tool](bool on, QString&) {
         tool.camera().setLocked(on);
         return true;
     });
 }
 
-void addEdits(CommandTable& table, PerspectiveMatchTool& tool)
+void addEdits(Commands& commands, PerspectiveMatchTool& tool)
 {
-    table.addChoice("setLinesType", kLinesTypeNames, [&tool](int choice, QString& error) {
-        const auto type = static_cast<nbCameraTypes::VanishingLinesType>(choice);
-        return tool.edit([type](const auto& match) { match.setVanishingLinesType(type); }, error);
-    });
-    table.addChoice("setFovMode", kFovModeNames, [&tool](int choice, QString& error) {
-        const auto mode = static_cast<nbCameraTypes::FovMode>(choice);
-        return tool.edit([mode, &tool](const auto&) { tool.camera().setFovMode(mode); }, error);
-    });
-    table.addNumber("setMagnifyFactor",
-                    static_cast<double>(nbdPerspectiveMatch::kSmallestMagnifyFactor),
-                    static_cast<double>(nbdPerspectiveMatch::kLargestMagnifyFactor),
-                    [&tool](double factor, QString& error) {
-                        return tool.setMagnifyFactor(static_cast<float>(factor), error);
-                    });
-    table.add("setLine", [&tool](const QJsonValue& value, QString& error) {
+    commands.addChoice(
+        named("setLinesType"), listOf(kLinesTypeNames), [&tool](int choice, QString& error) {
+            const auto type = static_cast<nbCameraTypes::VanishingLinesType>(choice);
+            return tool.edit([type](const auto& match) { match.setVanishingLinesType(type); },
+                             error);
+        });
+    commands.addChoice(
+        named("setFovMode"), listOf(kFovModeNames), [&tool](int choice, QString& error) {
+            const auto mode = static_cast<nbCameraTypes::FovMode>(choice);
+            return tool.edit([mode, &tool](const auto&) { tool.camera().setFovMode(mode); }, error);
+        });
+    commands.addNumber(named("setMagnifyFactor"),
+                       static_cast<double>(nbdPerspectiveMatch::kSmallestMagnifyFactor),
+                       static_cast<double>(nbdPerspectiveMatch::kLargestMagnifyFactor),
+                       [&tool](double factor, QString& error) {
+                           return tool.setMagnifyFactor(static_cast<float>(factor), error);
+                       });
+    commands.add(named("setLine"), [&tool](const QJsonValue& value, QString& error) {
         int line = 0;
         QLineF ends;
         return readLine(value, line, ends, error) &&
@@ -195,9 +151,9 @@ void addEdits(CommandTable& table, PerspectiveMatchTool& tool)
                 },
                 error);
     });
-    table.addChoice("turn", kAxisNames,
-                    [&tool](int axis, QString& error) { return tool.turn(axis, error); });
-    table.add("placeByLine", [&tool](const QJsonValue& value, QString& error) {
+    commands.addChoice(named("turn"), listOf(kAxisNames),
+                       [&tool](int axis, QString& error) { return tool.turn(axis, error); });
+    commands.add(named("placeByLine"), [&tool](const QJsonValue& value, QString& error) {
         const int line = PerspectiveMatchTool::lineByName(value["line"].toString());
         const double length = value["length"].toDouble();
         if (line < 0 || !isAmount(length)) {
@@ -206,7 +162,7 @@ void addEdits(CommandTable& table, PerspectiveMatchTool& tool)
         }
         return tool.placeByLine(line, length, error);
     });
-    table.add("setLens", [&tool](const QJsonValue& value, QString& error) {
+    commands.add(named("setLens"), [&tool](const QJsonValue& value, QString& error) {
         const double focalLength = value["focalLength"].toDouble();
         const double sensorWidth = value["sensorWidth"].toDouble();
         if (!isAmount(focalLength) || !isAmount(sensorWidth)) {
@@ -215,27 +171,29 @@ void addEdits(CommandTable& table, PerspectiveMatchTool& tool)
         }
         return tool.setLens(focalLength, sensorWidth, error);
     });
-    table.addPlain("layLines", [&tool](QString& error) { return tool.layLines(error); });
-    table.addPlain("solve",
-                   [&tool](QString& error) { return tool.edit([](const auto&) {}, error); });
+    commands.add(named("layLines"),
+                 [&tool](const QJsonValue&, QString& error) { return tool.layLines(error); });
+    commands.add(named("solve"), [&tool](const QJsonValue&, QString& error) {
+        return tool.edit([](const auto&) {}, error);
+    });
 }
 
-void addValues(CommandTable& table, PerspectiveMatchTool& tool, Stage& stage)
+void addValues(Commands& commands, PerspectiveMatchTool& tool, Stage& stage)
 {
     const auto match = [&tool] { return tool.camera().getPerspectiveMatch(); };
-    table.addValue("photograph", [&tool] { return tool.photograph(); });
-    table.addValue("veil", [&tool] { return tool.veil(); });
-    table.addValue("active", [&tool] { return tool.isActive(); });
-    table.addValue("linesShown", [&tool] { return tool.areLinesShown(); });
-    table.addValue("locked", [&tool] { return tool.camera().isLocked(); });
-    table.addValue("linesType", [match] {
+    commands.addValue(named("photograph"), [&tool] { return tool.photograph(); });
+    commands.addValue(named("veil"), [&tool] { return tool.veil(); });
+    commands.addValue(named("active"), [&tool] { return tool.isActive(); });
+    commands.addValue(named("linesShown"), [&tool] { return tool.areLinesShown(); });
+    commands.addValue(named("locked"), [&tool] { return tool.camera().isLocked(); });
+    commands.addValue(named("linesType"), [match] {
         return QJsonValue(kLinesTypeNames[match().getVanishingLinesType()]);
     });
-    table.addValue("fovMode",
-                   [&tool] { return QJsonValue(kFovModeNames[tool.camera().getFovMode()]); });
-    table.addValue("magnifyFactor",
-                   [match] { return static_cast<double>(match().getMagnifyFactor()); });
-    table.addValue("lines", [match] {
+    commands.addValue(named("fovMode"),
+                      [&tool] { return QJsonValue(kFovModeNames[tool.camera().getFovMode()]); });
+    commands.addValue(named("magnifyFactor"),
+                      [match] { return static_cast<double>(match().getMagnifyFactor()); });
+    commands.addValue(named("lines"), [match] {
         QJsonObject lines;
         for (int line = 0; line < PerspectiveMatchTool::kLineCount; ++line) {
             lines[QLatin1String(PerspectiveMatchTool::lineName(line))] =
@@ -243,28 +201,28 @@ void addValues(CommandTable& table, PerspectiveMatchTool& tool, Stage& stage)
         }
         return lines;
     });
-    table.addValue("result", [&tool] { return tool.resultText(); });
-    table.addValue("quality", [&tool] { return tool.qualityText(); });
-    table.addValue("residuals", [&tool] {
+    commands.addValue(named("result"), [&tool] { return tool.resultText(); });
+    commands.addValue(named("quality"), [&tool] { return tool.qualityText(); });
+    commands.addValue(named("residuals"), [&tool] {
         QJsonArray residuals;
         for (const double residual : tool.residualsPx()) {
             residuals.append(residual);
         }
         return residuals;
     });
-    table.addValue("edgeSnapping", [&tool] { return tool.snapsToEdges(); });
-    table.addValue("fov", [&stage] { return static_cast<double>(stage.pose().fovDeg); });
-    table.addValue("corners", [&stage] { return cornersOf(stage); });
+    commands.addValue(named("edgeSnapping"), [&tool] { return tool.snapsToEdges(); });
+    commands.addValue(named("fov"), [&stage] { return static_cast<double>(stage.pose().fovDeg); });
+    commands.addValue(named("corners"), [&stage] { return cornersOf(stage); });
 }
 
 }  // namespace
 
 void addPerspectiveMatchCommands(PerspectiveMatchTool& tool, Stage& stage)
 {
-    CommandTable table(stage);
-    addModes(table, tool, stage);
-    addEdits(table, tool);
-    addValues(table, tool, stage);
+    Commands& commands = stage.commands();
+    addModes(commands, tool, stage);
+    addEdits(commands, tool);
+    addValues(commands, tool, stage);
 }
 
 }  // namespace viewer

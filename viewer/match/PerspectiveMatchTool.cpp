@@ -554,17 +554,6 @@ HandleAction PerspectiveMatchTool::actionOf(const std::string& handle) const
     return read(handle).line >= 0 ? HandleAction::MoveInPlane : HandleAction::None;
 }
 
-std::string PerspectiveMatchTool::draggedValues() const
-{
-    if (!active || !stage.isDragging()) {
-        return {};
-    }
-    constexpr int kDigits = 2;
-    return Text::tr("Field of view %1°")
-        .arg(static_cast<double>(stage.pose().fovDeg), 0, 'f', kDigits)
-        .toStdString();
-}
-
 bool PerspectiveMatchTool::takePicture(const QString& file, const osg::Pnt2f& /*px*/,
                                        QString& error)
 {

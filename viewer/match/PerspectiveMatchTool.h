@@ -130,7 +130,6 @@ public:
     HandleAction actionOf(const std::string& handle) const override;
     QString handleText(const std::string& handle) const override;
     std::vector<Label> labels() const override;
-    std::string draggedValues() const override;
     /// Moves the end, or line, that was held or under the pointer last by 0.1 pixels.
     bool nudge(const QPoint& way, bool coarse) override;
     /// Takes a picture that is dropped while this is active as the photograph.

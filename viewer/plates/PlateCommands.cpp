@@ -55,48 +55,32 @@ bool hasSelection(const PlatesTool& tool, const char* command, QString& error)
 const QStringList kPlacing { QStringLiteral("name"), QStringLiteral("front"),
                              QStringLiteral("anchor"), QStringLiteral("position") };
 
-bool readHeight(const QJsonObject& object, JsonReader& reader, const QString& path, double& height)
-{
-    constexpr double kMost = 10.0;
-    const QJsonValue value = object[QLatin1String("height")];
-    height = value.toDouble(height);
-    return value.isUndefined() || (value.isDouble() && height > 0.0 && height <= kMost) ||
-        reader.fail(path + QStringLiteral(".height"),
-                    QStringLiteral("expected a number above 0, at most 10"));
-}
-
 /// The part of a value that all kinds of plates share.
 bool readPlacing(const QJsonObject& object, const QString& path, JsonReader& reader,
                  NewPlate& plate)
 {
     QString name = QString::fromStdString(plate.name);
-    if (object.contains(QLatin1String("name")) &&
-        !reader.readString(object[QLatin1String("name")], path + QStringLiteral(".name"), name)) {
+    const auto value = [&object](const char* key) { return object[QLatin1String(key)]; };
+    if ((!value("name").isUndefined() &&
+         !reader.readString(value("name"), path + QStringLiteral(".name"), name)) ||
+        (!value("front").isUndefined() &&
+         !reader.readBool(value("front"), path + QStringLiteral(".front"), plate.front))) {
         return false;
     }
     plate.name = name.toStdString();
-    if (object.contains(QLatin1String("front")) &&
-        !reader.readBool(object[QLatin1String("front")], path + QStringLiteral(".front"),
-                         plate.front)) {
-        return false;
+    const std::optional<osg::Int32> anchor =
+        value("anchor").isUndefined() ? plate.anchor : anchorFromName(value("anchor").toString());
+    if (!anchor) {
+        return reader.fail(path + QStringLiteral(".anchor"), QStringLiteral("unknown place"));
     }
-    if (object.contains(QLatin1String("anchor"))) {
-        const std::optional<osg::Int32> anchor =
-            anchorFromName(object[QLatin1String("anchor")].toString());
-        if (!anchor) {
-            return reader.fail(path + QStringLiteral(".anchor"), QStringLiteral("unknown place"));
-        }
-        plate.anchor = *anchor;
-    }
-    if (object.contains(QLatin1String("position"))) {
-        osg::Vec2f position;
-        if (!readPair(object[QLatin1String("position")], position)) {
-            return reader.fail(path + QStringLiteral(".position"),
-                               QStringLiteral("expected an array of two numbers"));
-        }
+    plate.anchor = *anchor;
+    osg::Vec2f position;
+    if (readPair(value("position"), position)) {
         plate.position = position;
     }
-    return true;
+    return value("position").isUndefined() || plate.position ||
+        reader.fail(path + QStringLiteral(".position"),
+                    QStringLiteral("expected an array of two numbers"));
 }
 
 bool addPicture(Stage& stage, PlatesTool& tool, const QJsonValue& value, QString& error)
@@ -107,12 +91,18 @@ bool addPicture(Stage& stage, PlatesTool& tool, const QJsonValue& value, QString
     const QString file = stage.commands().filePath(object[QLatin1String("file")].toString());
     NewPlate plate;
     plate.name = QFileInfo(file).completeBaseName().toStdString();
-    double height = 0.0;
+    constexpr double kMostHeight = 10.0;
+    const QJsonValue wanted = object[QLatin1String("height")];
+    const double height = wanted.toDouble();
     if (!reader.checkKeys(object, path,
                           kPlacing +
                               QStringList { QStringLiteral("file"), QStringLiteral("height") }) ||
-        !readPlacing(object, path, reader, plate) || !readHeight(object, reader, path, height)) {
+        !readPlacing(object, path, reader, plate)) {
         return false;
+    }
+    if (!wanted.isUndefined() && !(height > 0.0 && height <= kMostHeight)) {
+        return reader.fail(path + QStringLiteral(".height"),
+                           QStringLiteral("expected a number above 0, at most 10"));
     }
     plate.image = readPicture(file, error);
     if (!plate.image) {
@@ -130,17 +120,23 @@ bool addPicture(Stage& stage, PlatesTool& tool, const QJsonValue& value, QString
     return true;
 }
 
-bool readLetters(const QJsonObject& object, const QString& path, JsonReader& reader,
-                 PlateText& text)
+const QStringList kOfText { QStringLiteral("text"), QStringLiteral("font"), QStringLiteral("color"),
+                            QStringLiteral("bold"), QStringLiteral("height") };
+
+/// Paints a text for a plate. @return false with one line of reason
+bool paint(const PlateText& text, Stage& stage, const QString& path, JsonReader& reader,
+           NewPlate& plate)
 {
-    const auto has = [&object](const char* key) { return object.contains(QLatin1String(key)); };
-    return reader.readString(object[QLatin1String("text")], path + QStringLiteral(".text"),
-                             text.text) &&
-        (!has("font") ||
-         reader.readString(object[QLatin1String("font")], path + QStringLiteral(".font"),
-                           text.font)) &&
-        (!has("bold") ||
-         reader.readBool(object[QLatin1String("bold")], path + QStringLiteral(".bold"), text.bold));
+    const QImage picture = paintPlateText(text, stage.view().getHeight());
+    if (picture.isNull()) {
+        return reader.fail(path + QStringLiteral(".text"),
+                           Text::tr("expected a text that fits into a picture"));
+    }
+    plate.image = osg::RefPtr<osg::ImagePtr>(nbImageConvert::toImage(picture));
+    setPictureSource(plate.image.get(), textOf(toJson(text)));
+    plate.sizePx = osg::Vec2f(static_cast<float>(picture.width()) / kTextOversampling,
+                              static_cast<float>(picture.height()) / kTextOversampling);
+    return true;
 }
 
 bool addText(Stage& stage, PlatesTool& tool, const QJsonValue& value, QString& error)
@@ -150,34 +146,54 @@ bool addText(Stage& stage, PlatesTool& tool, const QJsonValue& value, QString& e
     const QJsonObject object = value.toObject();
     PlateText text;
     NewPlate plate;
-    const QStringList known { QStringLiteral("text"), QStringLiteral("font"),
-                              QStringLiteral("color"), QStringLiteral("bold"),
-                              QStringLiteral("height") };
-    if (!reader.checkKeys(object, path, kPlacing + known) ||
-        !readLetters(object, path, reader, text)) {
+    if (!reader.checkKeys(object, path, kPlacing + kOfText) ||
+        !readPlateText(object, path, reader, text)) {
         return false;
     }
     plate.name = text.text.simplified().toStdString();
-    if (!readPlacing(object, path, reader, plate) ||
-        !readHeight(object, reader, path, text.height)) {
+    if (!readPlacing(object, path, reader, plate) || !paint(text, stage, path, reader, plate)) {
         return false;
     }
-    if (object.contains(QLatin1String("color"))) {
-        const std::optional<osg::Color4f> color = readPlateColor(object[QLatin1String("color")]);
-        if (!color) {
-            return reader.fail(path + QStringLiteral(".color"), QStringLiteral("unknown colour"));
-        }
-        text.color = colorOf(*color);
-    }
-    const QImage picture = paintPlateText(text, stage.view().getHeight());
-    if (picture.isNull()) {
-        return reader.fail(path + QStringLiteral(".text"),
-                           Text::tr("expected a text that fits into a picture"));
-    }
-    plate.image = osg::RefPtr<osg::ImagePtr>(nbImageConvert::toImage(picture));
-    plate.sizePx = osg::Vec2f(static_cast<float>(picture.width()) / kTextOversampling,
-                              static_cast<float>(picture.height()) / kTextOversampling);
     tool.add(plate);
+    return true;
+}
+
+/// The text of the plate selected last; nothing if it shows none.
+std::optional<PlateText> selectedText(const PlatesTool& tool)
+{
+    if (tool.selected().empty()) {
+        return std::nullopt;
+    }
+    const osg::ImagePtr image = nbSceneplateList::plateOf(tool.selected().back())->getImage();
+    QString error;
+    JsonReader reader(error);
+    PlateText text;
+    const std::optional<QJsonObject> source = parseJsonObject(pictureSource(image).toUtf8(), error);
+    return source && readPlateText(*source, {}, reader, text) ? std::make_optional(text)
+                                                              : std::nullopt;
+}
+
+bool changeText(Stage& stage, PlatesTool& tool, const QJsonValue& value, QString& error)
+{
+    JsonReader reader(error);
+    const QString path = QStringLiteral("plates.text");
+    std::optional<PlateText> text = selectedText(tool);
+    NewPlate painted;
+    if (!text) {
+        return reader.fail(path, Text::tr("no text is selected"));
+    }
+    if (!reader.checkKeys(value.toObject(), path, kOfText) ||
+        !readPlateText(value.toObject(), path, reader, *text) ||
+        !paint(*text, stage, path, reader, painted)) {
+        return false;
+    }
+    const osg::Vec2f size = painted.sizePx * (1.0F / static_cast<float>(stage.view().getHeight()));
+    nbSceneplateEditing::edit({ tool.selected().back() },
+                              QT_TRANSLATE_NOOP("Manipulator", "Change text"),
+                              [&](osg::Sceneplate& plate) {
+                                  plate.setImage(painted.image.get());
+                                  plate.setSize(size);
+                              });
     return true;
 }
 
@@ -346,6 +362,10 @@ void addSelectionCommands(Stage& stage, PlatesTool& tool)
 void addValues(Stage& stage, PlatesTool& tool)
 {
     Commands& commands = stage.commands();
+    commands.addValue(prefixed("text"), [&tool]() -> QJsonValue {
+        const std::optional<PlateText> text = selectedText(tool);
+        return text ? QJsonValue(toJson(*text)) : QJsonValue();
+    });
     commands.addValue(prefixed("list"), [] { return namesOf(PlatesTool::all()); });
     commands.addValue(prefixed("selected"), [&tool] { return namesOf(tool.selected()); });
     commands.addValue(prefixed("preselected"),
@@ -387,7 +407,8 @@ void addPlateCommands(Stage& stage, PlatesTool& tool)
     using Add = bool (*)(Stage&, PlatesTool&, const QJsonValue&, QString&);
     const std::pair<const char*, Add> kAdds[] = { { "addPicture", &addPicture },
                                                   { "addText", &addText },
-                                                  { "addColor", &addColor } };
+                                                  { "addColor", &addColor },
+                                                  { "text", &changeText } };
     for (const auto& [name, add] : kAdds) {
         stage.commands().add(prefixed(name),
                              [&stage, &tool, run = add](const QJsonValue& value, QString& error) {

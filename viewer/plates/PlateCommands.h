@@ -21,6 +21,8 @@ class Stage;
 ///   "visible": ...} for any plate), "plates.color", "plates.anchor" ("centre", "topLeft", ...; the
 ///   plate stays in place), "plates.position" and "plates.size" (heights of the view),
 ///   "plates.scale", "plates.rotation" (degrees).
+/// - "plates.text": as what "plates.addText" takes, of which all may be absent: changes the text
+///   selected last.
 /// - "plates.snapping": that of all manipulators.
 /// - Values besides: "plates.list" (names, the foremost first), "plates.selected",
 ///   "plates.preselected", "plates.centre" (device pixels).

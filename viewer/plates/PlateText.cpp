@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/plates/PlateText.h"
 
+#include "viewer/commands/JsonReader.h"
+
 #include <QFont>
 #include <QFontMetricsF>
 #include <QGuiApplication>
@@ -21,6 +23,42 @@ int evenUp(double length)
 }
 
 }  // namespace
+
+QJsonObject toJson(const PlateText& text)
+{
+    return { { QStringLiteral("text"), text.text },
+             { QStringLiteral("font"), text.font },
+             { QStringLiteral("color"), text.color.name(QColor::HexArgb) },
+             { QStringLiteral("bold"), text.bold },
+             { QStringLiteral("height"), text.height } };
+}
+
+bool readPlateText(const QJsonObject& object, const QString& path, JsonReader& reader,
+                   PlateText& text)
+{
+    constexpr double kMostHeight = 10.0;
+    const auto has = [&object](const char* key) { return object.contains(QLatin1String(key)); };
+    const auto value = [&object](const char* key) { return object[QLatin1String(key)]; };
+    const bool hasText = has("text") || text.text.isEmpty();
+    if ((hasText && !reader.readString(value("text"), path + QStringLiteral(".text"), text.text)) ||
+        (has("font") &&
+         !reader.readString(value("font"), path + QStringLiteral(".font"), text.font)) ||
+        (has("bold") &&
+         !reader.readBool(value("bold"), path + QStringLiteral(".bold"), text.bold))) {
+        return false;
+    }
+    if (has("color")) {
+        text.color = QColor(value("color").toString());
+        if (!text.color.isValid()) {
+            return reader.fail(path + QStringLiteral(".color"), QStringLiteral("unknown colour"));
+        }
+    }
+    text.height = value("height").toDouble(text.height);
+    const bool isHeight = value("height").isUndefined() || value("height").isDouble();
+    return (isHeight && text.height > 0.0 && text.height <= kMostHeight) ||
+        reader.fail(path + QStringLiteral(".height"),
+                    QStringLiteral("expected a number above 0, at most 10"));
+}
 
 QImage paintPlateText(const PlateText& text, int viewHeightPx)
 {

@@ -3,9 +3,12 @@
 
 #include <QColor>
 #include <QImage>
+#include <QJsonObject>
 #include <QString>
 
 namespace viewer {
+
+class JsonReader;
 
 /// How a text becomes a picture.
 struct PlateText
@@ -18,6 +21,12 @@ struct PlateText
     bool bold = false;
     double height = kUsualHeight;  ///< of a line, heights of the view
 };
+
+/// A text as JSON: "text", "font", "color", "bold" and "height".
+QJsonObject toJson(const PlateText& text);
+/// Reads these, of which all but the text may be absent. @return false with one line of reason
+bool readPlateText(const QJsonObject& object, const QString& path, JsonReader& reader,
+                   PlateText& text);
 
 /// Pixels of a text's picture per device pixel of the view that it is made for, so that it is sharp
 /// there and stays so in a larger one.

@@ -255,31 +255,6 @@ QString PlatesTool::handleText(const std::string& handle) const
     return handle == kBody ? Text::tr("Move") : StageTool::handleText(handle);
 }
 
-std::string PlatesTool::draggedValues() const
-{
-    const std::vector<osg::NodePtr> nodes = selected();
-    const std::string& handle = dragContext.grabbedHandle();
-    if (nodes.empty() || handle.empty()) {
-        return {};
-    }
-    const osg::SceneplatePtr plate = nbSceneplateList::plateOf(nodes.front());
-    const auto number = [](float value) {
-        constexpr int kDigits = 3;
-        // A negative zero would flicker.
-        return QString::number(static_cast<double>(value) + 0.0, 'f', kDigits);
-    };
-    switch (actionOf(handle)) {
-    case HandleAction::Turn:
-        return Text::tr("Rotation %1").arg(number(plate->getRotation())).toStdString();
-    case HandleAction::ScaleAll:
-        return Text::tr("Scale %1").arg(number(plate->getScale())).toStdString();
-    default:
-        return Text::tr("Position (%1, %2)")
-            .arg(number(plate->getPosition().x()), number(plate->getPosition().y()))
-            .toStdString();
-    }
-}
-
 QString PlatesTool::selectionText() const
 {
     const std::vector<osg::NodePtr> nodes = selected();

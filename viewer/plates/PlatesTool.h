@@ -71,7 +71,6 @@ public:
     bool findHandle(const std::string& handle, osg::Pnt2f& px) override;
     HandleAction actionOf(const std::string& handle) const override;
     QString handleText(const std::string& handle) const override;
-    std::string draggedValues() const override;
     /// The anchor of what is dragged.
     std::vector<Label> labels() const override;
     /// Moves the selected plates by a pixel.

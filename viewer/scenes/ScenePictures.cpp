@@ -9,6 +9,12 @@
 #include <QBuffer>
 
 namespace viewer {
+namespace {
+
+/// Of a text within a PNG.
+const QString kSourceKey = QStringLiteral("Source");
+
+}  // namespace
 
 bool capturePicture(const osg::ImagePtr& image, ScenePicture& picture, QString& error)
 {
@@ -20,6 +26,7 @@ bool capturePicture(const osg::ImagePtr& image, ScenePicture& picture, QString& 
         return true;
     }
     picture.pixels = nbImageConvert::toPicture(image);
+    picture.pixels.setText(kSourceKey, pictureSource(image));
     if (picture.pixels.isNull()) {
         error = Text::tr("a picture that came from no file cannot be saved");
         return false;
@@ -33,7 +40,12 @@ osg::ImagePtr imageOf(const QByteArray& png)
     buffer.setData(png);
     buffer.open(QIODevice::ReadOnly);
     QString error;
-    return nbImageConvert::toImage(decodePicture(buffer, QStringLiteral("png"), error));
+    const QImage pixels = decodePicture(buffer, QStringLiteral("png"), error);
+    const osg::ImagePtr image = nbImageConvert::toImage(pixels);
+    if (image != osg::NullFC && !pixels.text(kSourceKey).isEmpty()) {
+        setPictureSource(image, pixels.text(kSourceKey));
+    }
+    return image;
 }
 
 }  // namespace viewer

@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/stage/BoundsMarker.h"
 
-#include "viewer/stage/Lines.h"
-
-#include <nbKernel/nbScenegraph.h>
-#include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <OpenSG/OSGBoxVolume.h>
@@ -43,30 +39,7 @@ void addCornerLines(const osg::Pnt3f& low, const osg::Pnt3f& high,
 
 }  // namespace
 
-BoundsMarker::BoundsMarker(const osg::Color3f& color, float widthPx)
-    : node(osg::Node::create())
-    , lines(makeLines(GL_LINES, color, widthPx))
-{
-    const osg::NodePtr shown = node.get();
-    const nbEdit nodeEdit(shown, osg::FieldBits::AllFields);
-    shown->setCore(lines.get());
-    shown->setActive(false);
-    const osg::NodePtr root = nbScenegraph::getInternalRoot();
-    const nbEdit rootEdit(root, osg::Node::ChildrenFieldMask);
-    root->addChild(shown);
-}
-
-BoundsMarker::~BoundsMarker()
-{
-    const osg::NodePtr shown = node.get();
-    const osg::NodePtr parent = shown->getParent();
-    if (parent != osg::NullFC) {
-        const nbEdit edit(parent, osg::Node::ChildrenFieldMask);
-        parent->subChild(shown);
-    }
-}
-
-void BoundsMarker::mark(const std::vector<osg::NodePtr>& objects)
+bool BoundsMarker::mark(const std::vector<osg::NodePtr>& objects)
 {
     std::vector<Box> current;
     for (const osg::NodePtr& object : objects) {
@@ -75,23 +48,17 @@ void BoundsMarker::mark(const std::vector<osg::NodePtr>& objects)
             current.emplace_back(bounds.getMin(), bounds.getMax());
         }
     }
-    if (current != boxes) {
-        boxes = std::move(current);
-        rebuild();
+    if (current == boxes) {
+        return false;
     }
-}
-
-void BoundsMarker::rebuild()
-{
+    boxes = std::move(current);
     std::vector<osg::Pnt3f> corners;
     for (const auto& [low, high] : boxes) {
         const osg::Vec3f margin = (high - low) * (kMargin * 0.5F);
         addCornerLines(low - margin, high + margin, corners);
     }
-    setCorners(lines.get(), corners);
-    const osg::NodePtr shown = node.get();
-    const nbEdit edit(shown, osg::Node::TravMaskFieldMask);
-    shown->setActive(!boxes.empty());
+    lines.set(corners);
+    return true;
 }
 
 }  // namespace viewer

@@ -7,6 +7,7 @@
 #include <nbInteraction/InteractionEvent.h>
 #include <nbInteraction/InteractionManager.h>
 #include <nbInteraction/Picker.h>
+#include <nbKernelServices/nbScopedUndo.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <utility>
@@ -54,11 +55,15 @@ bool DragContext::start(InteractionManager* manager, const InteractionEvent& eve
     }
     isDragged = ManipulatorInteractionContext::triggerEvent(manager, event);
     if (isDragged) {
+        grabbed = getPicker() != nullptr ? nbNodeUtils::getName(getPicker()->getHitNode()) : "";
+        // The first title in a step is the step's.
+        if (const QString title = titles ? titles(grabbed) : QString(); !title.isEmpty()) {
+            const nbScopedUndo titled(title);
+        }
         // The manipulator measures from its first step on: one where the handle was grabbed keeps
         // the way to the next position from being lost.
         ManipulatorInteractionContext::triggerEvent(
             manager, InteractionEvent(names::kProcess, event.getTool(), event.getHint()));
-        grabbed = getPicker() != nullptr ? nbNodeUtils::getName(getPicker()->getHitNode()) : "";
         notify();
     }
     return isDragged;

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QString>
+
 #include <functional>
 #include <string>
+#include <utility>
 
 #include <manipulator/ManipulatorInteractionContext.h>
 
@@ -24,6 +27,13 @@ public:
     /// Sets what is called when a drag has begun and when it has ended; empty for nothing.
     void setDragCallback(std::function<void()> callback);
 
+    /// Sets what the step of a drag is called, by the name of the handle; "" for what the
+    /// manipulator calls it; empty: that for every handle.
+    void setTitles(std::function<QString(const std::string& handle)> newTitles)
+    {
+        titles = std::move(newTitles);
+    }
+
 private:
     bool start(nbec::interaction::InteractionManager* manager,
                const nbec::interaction::InteractionEvent& event);
@@ -32,6 +42,7 @@ private:
     void notify() const;
 
     std::function<void()> dragCallback;
+    std::function<QString(const std::string&)> titles;
     bool isDragged = false;
     std::string grabbed;
 };

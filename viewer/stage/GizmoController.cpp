@@ -3,9 +3,9 @@
 
 #include "viewer/stage/HandleCursor.h"
 #include "viewer/texts/Text.h"
-#include "viewer/texts/ValueLine.h"
 
 #include <nbInteraction/InteractionManager.h>
+#include <nbInteraction/SnapSearch.h>
 #include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbUndoService.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
@@ -89,6 +89,10 @@ GizmoController::GizmoController(nbec::interaction::InteractionManager& interact
     picker.setFilter(Picker::HandleFilter);
     probe.setFilter(Picker::HandleFilter);
     context.setPicker(&picker);
+    context.setTitles([this](const std::string& handle) {
+        const bool isPivot = current == Gizmo::RotatePivot || current == Gizmo::ScalePivot;
+        return isPivot ? QString() : textOfHandle(handle);
+    });
     const osg::NodePtr root = nbScenegraph::getInternalRoot();
     transform.setVisualisationRoot(root);
     transform.setSnapRule(nbec::manipulator::UniversalTransformManipulator2::SnapRule::Exact);
@@ -189,6 +193,15 @@ void GizmoController::setSnapping(bool on)
     transform.enableSnapping(on);
 }
 
+void GizmoController::setSnapToScene(bool on)
+{
+    using nbec::interaction::SnapSearch;
+    snapToScene = on;
+    Transform::SnapSettings settings;
+    settings.geometry = on ? SnapSearch::Vertex | SnapSearch::Edge : 0U;
+    transform.setSnapping(settings);
+}
+
 void GizmoController::setSize(float size)
 {
     Transform::setManipulatorSize(size);
@@ -204,6 +217,7 @@ void GizmoController::resetSettings()
 {
     setLocalSpace(false);
     setSnapping(false);
+    setSnapToScene(false);
     setSize(kUsualSize);
     nbTransformModel* model = nbTransformModel::the();
     model->setTranslationPrecision(kUsualTranslationStep);
@@ -260,39 +274,6 @@ std::string GizmoController::hoveredHandle()
     }
     const bool isPossible = pointerInside && current != Gizmo::None;
     return isPossible ? nbNodeUtils::getName(probe.pick()) : std::string();
-}
-
-std::string GizmoController::draggedValues() const
-{
-    const std::vector<osg::NodePtr> all = targets();
-    if (all.empty() || context.grabbedHandle().empty()) {
-        return {};
-    }
-    const osg::NodePtr& node = all.front();
-    switch (actionOfHandle(context.grabbedHandle())) {
-    case HandleAction::MoveAlong:
-    case HandleAction::MoveInPlane:
-        if (current == Gizmo::RotatePivot) {
-            return valueLine(QT_TRANSLATE_NOOP("viewer", "Rotate pivot"),
-                             nbTransformModel::getRotationPivot(node, !isLocalSpace()));
-        }
-        if (current == Gizmo::ScalePivot) {
-            return valueLine(QT_TRANSLATE_NOOP("viewer", "Scale pivot"),
-                             nbTransformModel::getScalePivot(node, !isLocalSpace()));
-        }
-        return valueLine(QT_TRANSLATE_NOOP("viewer", "Translation"),
-                         nbTransformModel::getTranslation(node, !isLocalSpace()));
-    case HandleAction::Turn:
-        return valueLine(QT_TRANSLATE_NOOP("viewer", "Rotation"),
-                         nbNodeUtils::getTransformNodeRotation(node));
-    case HandleAction::ScaleAlong:
-    case HandleAction::ScaleAll:
-        return valueLine(QT_TRANSLATE_NOOP("viewer", "Scale"),
-                         nbNodeUtils::getTransformNodeScale(node));
-    case HandleAction::None:
-        break;
-    }
-    return {};
 }
 
 std::string GizmoController::handleAt(const osg::Pnt2f& px)

@@ -73,10 +73,15 @@ public:
 
     bool isSnapping() const { return snapping; }
 
+    /// Brings what is moved to corners and edges of objects that are near the pointer.
+    void setSnapToScene(bool on);
+
+    bool snapsToScene() const { return snapToScene; }
+
     /// Size on screen. @param size  above 0, below 200
     void setSize(float size);
     float size() const;
-    /// World space, no snapping, usual size and steps: what the program starts with.
+    /// World space, no snapping of either kind, usual size and steps: what the program starts with.
     void resetSettings();
 
     /// Puts the pivots of all targets to the centres of their volumes, as one undo step. The
@@ -101,10 +106,6 @@ public:
     /// there is none, nothing is shown or the pointer is outside.
     std::string hoveredHandle();
 
-    /// What the handle that is dragged edits on the main target, such as "Rotation (0, 45, 0)"; ""
-    /// while nothing is dragged.
-    std::string draggedValues() const;
-
     /// Tree of the handles shown; null if there are none.
     osg::NodePtr handles();
 
@@ -128,6 +129,7 @@ private:
     std::vector<osg::UInt32> targetIds;  ///< the main one first
     Gizmo current = Gizmo::None;
     bool snapping = false;
+    bool snapToScene = false;
     bool pointerInside = true;
 };
 

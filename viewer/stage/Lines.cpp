@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/stage/Lines.h"
 
+#include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGUtils/nbEdit.h>
 
 #include <OpenSG/OSGLineChunk.h>
@@ -39,6 +40,37 @@ void setCorners(const osg::GeometryPtr& lines, const std::vector<osg::Pnt3f>& co
     const nbEdit edit(lines, osg::FieldBits::AllFields);
     lines->setPositions(positions);
     lines->setLengths(lengths);
+}
+
+HelperLines::HelperLines(const osg::Color3f& color, float widthPx)
+    : node(osg::Node::create())
+    , lines(makeLines(GL_LINES, color, widthPx))
+{
+    const osg::NodePtr shown = node.get();
+    const nbEdit edit(shown, osg::FieldBits::AllFields);
+    shown->setCore(lines.get());
+    shown->setActive(false);
+    const osg::NodePtr root = nbScenegraph::getInternalRoot();
+    const nbEdit rootEdit(root, osg::Node::ChildrenFieldMask);
+    root->addChild(shown);
+}
+
+HelperLines::~HelperLines()
+{
+    const osg::NodePtr shown = node.get();
+    const osg::NodePtr parent = shown->getParent();
+    if (parent != osg::NullFC) {
+        const nbEdit edit(parent, osg::Node::ChildrenFieldMask);
+        parent->subChild(shown);
+    }
+}
+
+void HelperLines::set(const std::vector<osg::Pnt3f>& corners)
+{
+    setCorners(lines.get(), corners);
+    const osg::NodePtr shown = node.get();
+    const nbEdit edit(shown, osg::Node::TravMaskFieldMask);
+    shown->setActive(!corners.empty());
 }
 
 }  // namespace viewer

@@ -65,12 +65,22 @@ struct ObjectVector
     bool areFactors = false;
 };
 
+/// In the frame of the parent.
+template <auto set>
+osg::UInt32 setInParent(osg::UInt32 count, nbTransformModel::ValueFunction values)
+{
+    return (nbTransformModel::the()->*set)(count, false, values);
+}
+
+template <auto get>
+osg::Vec3f getInParent(const osg::NodePtr& node)
+{
+    return get(node, false);
+}
+
 const ObjectVector kVectors[] = {
-    { "object.translation",
-      [](osg::UInt32 count, nbTransformModel::ValueFunction values) {
-          return nbTransformModel::the()->setTranslation(count, false, values);
-      },
-      [](const osg::NodePtr& node) { return nbTransformModel::getTranslation(node, false); } },
+    { "object.translation", &setInParent<&nbTransformModel::setTranslation>,
+      &getInParent<&nbTransformModel::getTranslation> },
     { "object.rotation",
       [](osg::UInt32 count, nbTransformModel::ValueFunction values) {
           return nbTransformModel::the()->setRotation(count, values);
@@ -81,16 +91,10 @@ const ObjectVector kVectors[] = {
           return nbTransformModel::the()->setScale(count, values);
       },
       [](const osg::NodePtr& node) { return nbNodeUtils::getTransformNodeScale(node); }, true },
-    { "object.rotatePivot",
-      [](osg::UInt32 count, nbTransformModel::ValueFunction values) {
-          return nbTransformModel::the()->setRotationPivot(count, false, values);
-      },
-      [](const osg::NodePtr& node) { return nbTransformModel::getRotationPivot(node, false); } },
-    { "object.scalePivot",
-      [](osg::UInt32 count, nbTransformModel::ValueFunction values) {
-          return nbTransformModel::the()->setScalePivot(count, false, values);
-      },
-      [](const osg::NodePtr& node) { return nbTransformModel::getScalePivot(node, false); } },
+    { "object.rotatePivot", &setInParent<&nbTransformModel::setRotationPivot>,
+      &getInParent<&nbTransformModel::getRotationPivot> },
+    { "object.scalePivot", &setInParent<&nbTransformModel::setScalePivot>,
+      &getInParent<&nbTransformModel::getScalePivot> },
 };
 
 bool readVector(const QJsonValue& value, osg::Vec3f& vector)

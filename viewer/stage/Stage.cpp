@@ -2,22 +2,16 @@
 #include "viewer/stage/Stage.h"
 
 #include "viewer/loading/BuiltModel.h"
-#include "viewer/loading/StartScene.h"
 #include "viewer/stage/ClipPlanes.h"
 #include "viewer/stage/ObjectCommands.h"
 #include "viewer/stage/SceneEdits.h"
 #include "viewer/stage/StageTool.h"
 
-#include <nbInteraction/EventNames.h>
-#include <nbInteraction/InteractionEvent.h>
 #include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbUndoService.h>
 #include <nbNotification/NotificationManager.h>
 #include <nbOpenSGSelection/nbSelection.h>
-#include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
-
-#include <OpenSG/OSGBoxVolume.h>
 
 #include <QUndoStack>
 
@@ -27,16 +21,9 @@
 namespace viewer {
 namespace {
 
-constexpr float kStartFovDeg = 32.0F;
-
 const osg::Color3f kSelectionColor { 0.95F, 0.96F, 0.98F };
 const osg::Color3f kPreselectionColor { 0.62F, 0.66F, 0.72F };
 constexpr float kMarkerWidthPx = 1.5F;
-
-osg::Pnt3f pointOf(const std::array<float, 3>& p)
-{
-    return { p[0], p[1], p[2] };
-}
 
 }  // namespace
 
@@ -190,7 +177,15 @@ std::string Stage::handleAt(const osg::Pnt2f& px)
 
 std::string Stage::draggedValues() const
 {
-    return toolInUse != nullptr ? toolInUse->draggedValues() : gizmoController.draggedValues();
+    if (!isDragging()) {
+        return {};
+    }
+    QStringList lines;
+    for (const auto& text : nbec::notification::NotificationManager::getInstance()->getVisibleTexts(
+             renderWidget.getWidth(), renderWidget.getHeight())) {
+        lines.append(text.text);
+    }
+    return lines.join(QStringLiteral("; ")).toStdString();
 }
 
 bool Stage::takePicture(const QString& file, const osg::Pnt2f& px, QString& error)
@@ -209,89 +204,7 @@ bool Stage::takePicture(const QString& file, const osg::Pnt2f& px, QString& erro
     return false;
 }
 
-// == Scene
-
-void Stage::clear()
-{
-    manager.endDrag();
-    viewHeld = false;
-    for (StageTool* tool : tools) {
-        tool->sceneCleared();
-    }
-    nbSelection::clear();
-    gizmoController.setTarget(osg::NullFC);
-    const osg::NodePtr root = nbScenegraph::getRootNode();
-    const nbEdit edit(root, osg::Node::ChildrenFieldMask);
-    while (root->getNChildren() > 0) {
-        root->subChild(root->getNChildren() - 1);
-    }
-    modelSources = {};
-    nbUndoService::the()->clear();
-    changed();
-}
-
-osg::NodePtr Stage::add(const ModelData& model)
-{
-    return add(buildModel(model));
-}
-
-osg::NodePtr Stage::add(const BuiltModel& model)
-{
-    const osg::NodePtr node = model.root.get();
-    const osg::NodePtr root = nbScenegraph::getRootNode();
-    {
-        const nbEdit edit(root, osg::Node::ChildrenFieldMask);
-        root->addChild(node);
-    }
-    modelSources.add(model);
-    nbec::interaction::Picker::buildTrees(node);
-    changed();
-    return node;
-}
-
-void Stage::addCopy(const osg::NodePtr& object, const osg::NodePtr& copy,
-                    const osg::NodePtr& parent)
-{
-    {
-        const nbEdit edit(parent, osg::Node::ChildrenFieldMask);
-        parent->addChild(copy);
-    }
-    modelSources.addCopy(object, copy);
-    nbec::interaction::Picker::buildTrees(copy);
-    changed();
-}
-
-void Stage::replace(const std::vector<osg::RefPtr<osg::NodePtr>>& top, ModelSources sources)
-{
-    clear();
-    const osg::NodePtr root = nbScenegraph::getRootNode();
-    {
-        const nbEdit edit(root, osg::Node::ChildrenFieldMask);
-        for (const osg::RefPtr<osg::NodePtr>& node : top) {
-            root->addChild(node.get());
-        }
-    }
-    modelSources = std::move(sources);
-    nbec::interaction::Picker::buildTrees(root);
-    changed();
-}
-
-void Stage::showStartScene()
-{
-    clear();
-    const osg::NodePtr node = add(makeStartScene());
-    CameraPose start;
-    start.at = pointOf(kStartSceneAt);
-    // In a narrow view the eye steps back, so that the table keeps its place.
-    const float aspect = renderWidget.getUberViewport()->getDeviceAspect();
-    const float retreat = aspect > 0.0F ? std::max(1.0F, kStartSceneAspect / aspect) : 1.0F;
-    start.from = start.at + (pointOf(kStartSceneFrom) - start.at) * retreat;
-    start.pivot = start.at;
-    start.fovDeg = kStartFovDeg;
-    setPose(start);
-    select(findObject(node, kStartSceneMainObject));
-    showGizmo(Gizmo::Universal);
-}
+// == Selection
 
 bool Stage::selectByName(const std::string& name)
 {
@@ -337,80 +250,10 @@ void Stage::selectAll()
     nbSelection::set(objectsWithSurface(nbScenegraph::getRootNode()));
 }
 
-void Stage::frame(const osg::NodePtr& node, const CameraPose& from)
+void Stage::showGrid(bool on)
 {
-    const osg::BoxVolume bounds = nbNodeUtils::getWorldBounds(node);
-    if (bounds.isEmpty()) {
-        return;
-    }
-    const float aspect = renderWidget.getUberViewport()->getDeviceAspect();
-    setPose(nbCameraNavigation::frame(from, bounds.getMin(), bounds.getMax(), aspect));
-}
-
-void Stage::frameAll(bool reset)
-{
-    CameraPose from = pose();
-    if (reset) {
-        from =
-            nbCameraNavigation::standardView(from, nbCameraNavigation::StandardView::ThreeQuarter);
-    }
-    frame(nbScenegraph::getRootNode(), from);
-}
-
-void Stage::frameSelection()
-{
-    const osg::NodePtr object = selectedObject();
-    frame(object != osg::NullFC ? object : nbScenegraph::getRootNode(), pose());
-}
-
-bool Stage::refuseMove() const
-{
-    if (viewHeld && heldCallback) {
-        heldCallback();
-    }
-    return viewHeld;
-}
-
-bool Stage::HeldCamera::triggerEvent(nbec::interaction::InteractionManager* asked,
-                                     const nbec::interaction::InteractionEvent& event)
-{
-    namespace names = nbec::interaction::names;
-    const bool isMove = event.getTool() == names::kCamera && event.getEvent() != names::kStop;
-    return isMove && stage.refuseMove() ? event.getEvent() == names::kTrigger
-                                        : CameraInteractionContext::triggerEvent(asked, event);
-}
-
-void Stage::setPose(const CameraPose& wanted)
-{
-    if (!refuseMove()) {
-        cameraContext.setPose(wanted);
-    }
-}
-
-void Stage::holdView(bool on)
-{
-    if (viewHeld != on) {
-        viewHeld = on;
-        tellEverybody();
-    }
-}
-
-void Stage::setStandardView(nbCameraNavigation::StandardView standardView)
-{
-    setPose(nbCameraNavigation::standardView(pose(), standardView));
-}
-
-void Stage::setOrthographic(bool on)
-{
-    setPose(nbCameraNavigation::withProjection(pose(), on));
-}
-
-void Stage::setZUp(bool on)
-{
-    CameraPose turned = pose();
-    turned.zUp = on;
-    setPose(
-        nbCameraNavigation::standardView(turned, nbCameraNavigation::StandardView::ThreeQuarter));
+    gridShown = on;
+    changed();
 }
 
 void Stage::resize(int widthPx, int heightPx, float pixelRatio)
@@ -443,6 +286,11 @@ void Stage::update()
     const osg::NodePtr preselected = selectionTool.getPreselected();
     const bool isNew = preselected != osg::NullFC &&
         std::find(selected.begin(), selected.end(), preselected) == selected.end();
+    if (!gridShown) {
+        grid.hide();
+    } else if (!isDragging()) {
+        grid.lay(nbNodeUtils::getWorldBounds(nbScenegraph::getRootNode()), pose().zUp ? 2 : 1);
+    }
     selectionMarker.mark(selected);
     preselectionMarker.mark(isNew ? std::vector<osg::NodePtr> { preselected }
                                   : std::vector<osg::NodePtr> {});

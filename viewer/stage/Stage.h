@@ -7,6 +7,7 @@
 #include "viewer/loading/ModelSources.h"
 #include "viewer/stage/BoundsMarker.h"
 #include "viewer/stage/GizmoController.h"
+#include "viewer/stage/GroundGrid.h"
 #include "viewer/stage/PreselectionTool.h"
 
 #include <nbInteraction/CameraInteractionContext.h>
@@ -84,7 +85,8 @@ public:
     std::string hoveredHandle();
     /// Name of the handle at a pixel, "" for none. @param px  device pixels, y from the top
     std::string handleAt(const osg::Pnt2f& px);
-    /// What a running drag edits, such as "Rotation (0, 45, 0)"; "" while nothing is dragged.
+    /// What a running drag says over the view, such as "Rotation (0, 45, 0)"; "" while nothing is
+    /// dragged.
     std::string draggedValues() const;
 
     // == Files
@@ -120,7 +122,9 @@ public:
 
     bool isEmpty() const { return nbScenegraph::getRootNode()->getNChildren() == 0; }
 
-    std::size_t triangleCount() const { return modelSources.triangleCount(); }
+    /// Of what is in the scene, each time that it is shown there; counted anew when nothing is
+    /// dragged.
+    std::size_t triangleCount();
 
     // == Selection
 
@@ -173,6 +177,11 @@ public:
     void setStandardView(nbCameraNavigation::StandardView standardView);
     void setOrthographic(bool on);
     void setZUp(bool on);
+
+    /// A grid on the ground; off at the start.
+    void showGrid(bool on);
+
+    bool isGridShown() const { return gridShown; }
 
     // == Undo
 
@@ -246,6 +255,8 @@ private:
     GizmoController gizmoController;
     BoundsMarker selectionMarker;
     BoundsMarker preselectionMarker;
+    GroundGrid grid;
+    bool gridShown = false;
     std::function<void()> changedCallback;
     Commands commandTable;
     std::vector<StageTool*> tools;
@@ -253,6 +264,8 @@ private:
     Gizmo gizmoBefore = Gizmo::None;  ///< the first tool
     int selectionCallback = 0;
     ModelSources modelSources;
+    std::size_t triangles = 0;
+    osg::UInt64 countedChanges = 0;  ///< of the scene, with which they were counted
 };
 
 }  // namespace viewer

@@ -78,9 +78,6 @@ public:
     /// The same in words of people; "" for none.
     virtual QString handleText(const std::string& handle) const { return textOfHandle(handle); }
 
-    /// What a running drag edits, for the status line; "" while nothing is dragged.
-    virtual std::string draggedValues() const { return {}; }
-
     /// What of its own an active tool has selected, for the status line; "" for the scene's
     /// selection.
     virtual QString selectionText() const { return {}; }

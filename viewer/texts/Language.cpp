@@ -28,11 +28,11 @@ struct LanguageRow
 
 /// In the order of the enumeration.
 constexpr std::array<LanguageRow, kLanguages.size()> kRows { {
-    { "system", QT_TRANSLATE_NOOP("viewer::Language", "&As the desktop") },
-    { "en", "&English" },
-    { "de", "&Deutsch" },
-    { "fr", "&Français" },
-    { "zh_CN", "简体中文(&Z)" },
+    { "system", QT_TRANSLATE_NOOP("viewer::Language", "As the desktop") },
+    { "en", "English" },
+    { "de", "Deutsch" },
+    { "fr", "Français" },
+    { "zh_CN", "简体中文" },
 } };
 
 const LanguageRow& rowOf(Language language)

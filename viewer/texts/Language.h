@@ -27,7 +27,7 @@ constexpr std::array<Language, 5> kLanguages { Language::System, Language::Engli
 /// "de" or "zh_CN".
 QString languageName(Language language);
 
-/// What a menu offers, with a mnemonic: the name of a language in itself, for Language::System a
+/// What a person chooses from: the name of a language in itself, for Language::System a
 /// text in the program's present one.
 QString languageTitle(Language language);
 

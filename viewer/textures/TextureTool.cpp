@@ -7,7 +7,6 @@
 #include "viewer/stage/Stage.h"
 #include "viewer/texts/Text.h"
 #include "viewer/textures/TextureCommands.h"
-#include "viewer/textures/TextureValueText.h"
 
 #include <nbKernel/nbController.h>
 #include <nbKernel/nbScenegraph.h>
@@ -397,15 +396,6 @@ std::string TextureTool::hoveredHandle()
 std::string TextureTool::handleAt(const osg::Pnt2f& px)
 {
     return active && !placing ? nbNodeUtils::getName(probe.pickAt(px)) : std::string();
-}
-
-std::string TextureTool::draggedValues() const
-{
-    if (isPlacing()) {
-        return placingTool.getDescription();
-    }
-    const std::string& handle = handleContext.grabbedHandle();
-    return handle.empty() ? std::string() : textureValueText(actionOf(handle), textureTarget);
 }
 
 // == The projection in the scene

@@ -135,7 +135,6 @@ public:
     osg::NodePtr handles() override;
     std::string hoveredHandle() override;
     std::string handleAt(const osg::Pnt2f& px) override;
-    std::string draggedValues() const override;
     /// Takes what falls on an object, as the command "texture.drop", so that it is recorded.
     bool takePicture(const QString& file, const osg::Pnt2f& px, QString& error) override;
 

@@ -135,6 +135,10 @@
         <source>Duplicate scene plates</source>
         <translation>Szenenplatten duplizieren</translation>
     </message>
+    <message>
+        <source>Change text</source>
+        <translation>Text ändern</translation>
+    </message>
 </context>
 <context>
     <name>nbForegroundTextContext</name>
@@ -196,22 +200,6 @@
     <message>
         <source>Centre pivot</source>
         <translation>Drehpunkt zur Mitte</translation>
-    </message>
-    <message>
-        <source>Rotate pivot</source>
-        <translation>Drehpunkt</translation>
-    </message>
-    <message>
-        <source>Scale pivot</source>
-        <translation>Skalierungspunkt</translation>
-    </message>
-    <message>
-        <source>Translation</source>
-        <translation>Verschiebung</translation>
-    </message>
-    <message>
-        <source>Rotation</source>
-        <translation>Drehung</translation>
     </message>
     <message>
         <source>Scale</source>
@@ -313,10 +301,6 @@
         <translation>Es gibt keine Kamera zum Abgleichen.</translation>
     </message>
     <message>
-        <source>Field of view %1°</source>
-        <translation>Bildwinkel %1°</translation>
-    </message>
-    <message>
         <source>Pictures (%1)</source>
         <translation>Bilder (%1)</translation>
     </message>
@@ -335,18 +319,6 @@
     <message>
         <source>there is no further plate on this side</source>
         <translation>auf dieser Seite gibt es keine weitere Tafel</translation>
-    </message>
-    <message>
-        <source>Rotation %1</source>
-        <translation>Drehung %1</translation>
-    </message>
-    <message>
-        <source>Scale %1</source>
-        <translation>Skalierung %1</translation>
-    </message>
-    <message>
-        <source>Position (%1, %2)</source>
-        <translation>Lage (%1, %2)</translation>
     </message>
     <message numerus="yes">
         <source>%n scene plates</source>
@@ -386,42 +358,6 @@
     <message>
         <source>the surface with the picture is not there</source>
         <translation>die Fläche mit dem Bild ist dort nicht</translation>
-    </message>
-    <message>
-        <source>Picture at</source>
-        <translation>Bild bei</translation>
-    </message>
-    <message>
-        <source>Picture turned</source>
-        <translation>Bild gedreht</translation>
-    </message>
-    <message>
-        <source>Picture scale</source>
-        <translation>Bildskalierung</translation>
-    </message>
-    <message>
-        <source>Offsets of x, y, z: u</source>
-        <translation>Versatz für x, y, z: u</translation>
-    </message>
-    <message>
-        <source>Repeats of x, y, z: u</source>
-        <translation>Wiederholungen für x, y, z: u</translation>
-    </message>
-    <message>
-        <source>Picture offset</source>
-        <translation>Bildversatz</translation>
-    </message>
-    <message>
-        <source>Picture repeats</source>
-        <translation>Bildwiederholungen</translation>
-    </message>
-    <message>
-        <source>Tire centre</source>
-        <translation>Reifenmitte</translation>
-    </message>
-    <message>
-        <source>Tire height, radius, part around</source>
-        <translation>Reifenhöhe, Radius, Anteil am Umfang</translation>
     </message>
     <message>
         <source>a clip plane has lost its frame</source>
@@ -736,6 +672,10 @@
         <source>Anchor</source>
         <translation>Anker</translation>
     </message>
+    <message>
+        <source>no text is selected</source>
+        <translation>es ist kein Text ausgewählt</translation>
+    </message>
 </context>
 <context>
     <name>viewer::AboutBox</name>
@@ -785,10 +725,21 @@
     </message>
 </context>
 <context>
+    <name>viewer::AxesCorner</name>
+    <message>
+        <source>Axes of the world</source>
+        <translation>Achsen der Welt</translation>
+    </message>
+    <message>
+        <source>Click on an axis to look along it</source>
+        <translation>Ein Klick auf eine Achse blickt an ihr entlang</translation>
+    </message>
+</context>
+<context>
     <name>viewer::Language</name>
     <message>
-        <source>&amp;As the desktop</source>
-        <translation>&amp;Wie die Arbeitsumgebung</translation>
+        <source>As the desktop</source>
+        <translation>Wie die Arbeitsumgebung</translation>
     </message>
 </context>
 <context>
@@ -859,6 +810,14 @@
     <message>
         <source>The view is held: &quot;Hold the view&quot; (Shift+H) lets it go</source>
         <translation>Die Ansicht ist festgehalten: „Ansicht festhalten“ (Umschalt+H) gibt sie frei</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Handbuch</translation>
+    </message>
+    <message>
+        <source>The manual is not installed</source>
+        <translation>Das Handbuch ist nicht installiert</translation>
     </message>
 </context>
 <context>
@@ -1124,6 +1083,10 @@
     <message>
         <source>Nothing selected</source>
         <translation>Nichts ausgewählt</translation>
+    </message>
+    <message>
+        <source>Keep proportions</source>
+        <translation>Verhältnisse beibehalten</translation>
     </message>
 </context>
 <context>
@@ -1448,10 +1411,6 @@
         <translation>An Kanten und Mitte einrasten</translation>
     </message>
     <message>
-        <source>New text</source>
-        <translation>Neuer Text</translation>
-    </message>
-    <message>
         <source>Title</source>
         <translation>Titel</translation>
     </message>
@@ -1519,6 +1478,18 @@
         <source>Arrange plates</source>
         <translation>Platten anordnen</translation>
     </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Ändern</translation>
+    </message>
+    <message>
+        <source>Change the text of the selected plate</source>
+        <translation>Den Text der ausgewählten Tafel ändern</translation>
+    </message>
 </context>
 <context>
     <name>viewer::SceneFileActions</name>
@@ -1576,6 +1547,112 @@
     <message>
         <source>Locked</source>
         <translation>Gesperrt</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::Settings</name>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>Farbschema</translation>
+    </message>
+    <message>
+        <source>As the desktop</source>
+        <translation>Wie die Arbeitsumgebung</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>Orbiting</source>
+        <translation>Umkreisen</translation>
+    </message>
+    <message>
+        <source>Right button; middle pans</source>
+        <translation>Rechte Taste; die mittlere verschiebt</translation>
+    </message>
+    <message>
+        <source>Middle button; with Shift pans</source>
+        <translation>Mittlere Taste; mit Umschalt verschiebt sie</translation>
+    </message>
+    <message>
+        <source>Grid on the ground</source>
+        <translation>Raster am Boden</translation>
+    </message>
+    <message>
+        <source>Coarse while the view moves</source>
+        <translation>Grob, solange sich die Ansicht bewegt</translation>
+    </message>
+    <message>
+        <source>Edits are kept every, s</source>
+        <translation>Bearbeitungen sichern alle, s</translation>
+    </message>
+    <message>
+        <source>Most that a picture may take, MiB</source>
+        <translation>Höchstens für ein Bild, MiB</translation>
+    </message>
+    <message>
+        <source>Colours of handles</source>
+        <translation>Farben der Griffe</translation>
+    </message>
+    <message>
+        <source>Classic</source>
+        <translation>Klassisch</translation>
+    </message>
+    <message>
+        <source>Soft</source>
+        <translation>Sanft</translation>
+    </message>
+    <message>
+        <source>High contrast</source>
+        <translation>Hoher Kontrast</translation>
+    </message>
+    <message>
+        <source>For any colour vision</source>
+        <translation>Für jedes Farbsehen</translation>
+    </message>
+    <message>
+        <source>Handles fade that are seen end-on</source>
+        <translation>Von vorn gesehene Griffe ausblenden</translation>
+    </message>
+    <message>
+        <source>Draw what a drag has come to</source>
+        <translation>Zurückgelegtes zeichnen</translation>
+    </message>
+    <message>
+        <source>Snap to corners and edges of objects</source>
+        <translation>An Ecken und Kanten von Objekten einrasten</translation>
+    </message>
+    <message>
+        <source>Size of the gizmo</source>
+        <translation>Größe des Gizmos</translation>
+    </message>
+    <message>
+        <source>Step of translation</source>
+        <translation>Schritt der Verschiebung</translation>
+    </message>
+    <message>
+        <source>Step of rotation, °</source>
+        <translation>Schritt der Drehung, °</translation>
+    </message>
+    <message>
+        <source>Step of scale</source>
+        <translation>Schritt der Skalierung</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::SettingsPanel</name>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
     </message>
 </context>
 <context>
@@ -1643,25 +1720,6 @@
     <message>
         <source>World axes</source>
         <translation>Weltachsen</translation>
-    </message>
-</context>
-<context>
-    <name>viewer::StepsPanel</name>
-    <message>
-        <source>Step of translation</source>
-        <translation>Schritt der Verschiebung</translation>
-    </message>
-    <message>
-        <source>Step of rotation, °</source>
-        <translation>Schritt der Drehung, °</translation>
-    </message>
-    <message>
-        <source>Step of scale</source>
-        <translation>Schritt der Skalierung</translation>
-    </message>
-    <message>
-        <source>Size of the gizmo</source>
-        <translation>Größe des Gizmos</translation>
     </message>
 </context>
 <context>
@@ -1735,18 +1793,6 @@
     <message>
         <source>Three-&amp;quarter</source>
         <translation>&amp;Dreiviertel</translation>
-    </message>
-    <message>
-        <source>As the &amp;desktop</source>
-        <translation>Wie die &amp;Arbeitsumgebung</translation>
-    </message>
-    <message>
-        <source>&amp;Light</source>
-        <translation>&amp;Hell</translation>
-    </message>
-    <message>
-        <source>Dar&amp;k</source>
-        <translation>&amp;Dunkel</translation>
     </message>
     <message>
         <source>&amp;None</source>
@@ -1882,14 +1928,6 @@
         <translation>&amp;Effektpuffer zeigen</translation>
     </message>
     <message>
-        <source>&amp;Theme</source>
-        <translation>&amp;Farbschema</translation>
-    </message>
-    <message>
-        <source>Lan&amp;guage</source>
-        <translation>Sp&amp;rache (Language)</translation>
-    </message>
-    <message>
         <source>Ne&amp;xt panel</source>
         <translation>&amp;Nächstes Bedienfeld</translation>
     </message>
@@ -1940,14 +1978,6 @@
     <message>
         <source>Advance in steps; hold Ctrl for a while</source>
         <translation>In Schritten vorgehen; Strg halten für eine Weile</translation>
-    </message>
-    <message>
-        <source>Steps and si&amp;ze</source>
-        <translation>Schritte und &amp;Größe</translation>
-    </message>
-    <message>
-        <source>Steps of snapping, size of the gizmo</source>
-        <translation>Schritte des Einrastens, Größe des Gizmos</translation>
     </message>
     <message>
         <source>&amp;Session</source>
@@ -2034,36 +2064,28 @@
         <translation>&amp;Tastenkürzel…</translation>
     </message>
     <message>
-        <source>&amp;Classic colours</source>
-        <translation>&amp;Klassische Farben</translation>
+        <source>Se&amp;ttings…</source>
+        <translation>E&amp;instellungen…</translation>
     </message>
     <message>
-        <source>&amp;Soft colours</source>
-        <translation>&amp;Sanfte Farben</translation>
+        <source>&amp;Grid on the ground</source>
+        <translation>&amp;Raster am Boden</translation>
     </message>
     <message>
-        <source>&amp;High contrast</source>
-        <translation>&amp;Hoher Kontrast</translation>
+        <source>&amp;Manual</source>
+        <translation>&amp;Handbuch</translation>
     </message>
     <message>
-        <source>For &amp;any colour vision</source>
-        <translation>Für &amp;jedes Farbsehen</translation>
+        <source>&amp;Tour</source>
+        <translation>&amp;Rundgang</translation>
     </message>
     <message>
-        <source>Ha&amp;ndles</source>
-        <translation>&amp;Griffe</translation>
+        <source>Object</source>
+        <translation>Objekt</translation>
     </message>
     <message>
-        <source>&amp;Fade seen end-on</source>
-        <translation>Von vorn gesehen &amp;ausblenden</translation>
-    </message>
-    <message>
-        <source>Draw what a &amp;drag has come to</source>
-        <translation>&amp;Zurückgelegtes zeichnen</translation>
-    </message>
-    <message>
-        <source>&amp;Coarse while the view moves</source>
-        <translation>Grob, so&amp;lange sich die Ansicht bewegt</translation>
+        <source>World</source>
+        <translation>Welt</translation>
     </message>
 </context>
 </TS>

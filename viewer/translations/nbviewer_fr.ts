@@ -135,6 +135,10 @@
         <source>Duplicate scene plates</source>
         <translation>Dupliquer les plaques de scène</translation>
     </message>
+    <message>
+        <source>Change text</source>
+        <translation>Modifier le texte</translation>
+    </message>
 </context>
 <context>
     <name>nbForegroundTextContext</name>
@@ -196,22 +200,6 @@
     <message>
         <source>Centre pivot</source>
         <translation>Centrer le pivot</translation>
-    </message>
-    <message>
-        <source>Rotate pivot</source>
-        <translation>Pivot de rotation</translation>
-    </message>
-    <message>
-        <source>Scale pivot</source>
-        <translation>Pivot d’échelle</translation>
-    </message>
-    <message>
-        <source>Translation</source>
-        <translation>Translation</translation>
-    </message>
-    <message>
-        <source>Rotation</source>
-        <translation>Rotation</translation>
     </message>
     <message>
         <source>Scale</source>
@@ -313,10 +301,6 @@
         <translation>Il n’y a pas de caméra à caler.</translation>
     </message>
     <message>
-        <source>Field of view %1°</source>
-        <translation>Champ de vision %1°</translation>
-    </message>
-    <message>
         <source>Pictures (%1)</source>
         <translation>Images (%1)</translation>
     </message>
@@ -335,18 +319,6 @@
     <message>
         <source>there is no further plate on this side</source>
         <translation>il n’y a pas d’autre plaque de ce côté</translation>
-    </message>
-    <message>
-        <source>Rotation %1</source>
-        <translation>Rotation %1</translation>
-    </message>
-    <message>
-        <source>Scale %1</source>
-        <translation>Échelle %1</translation>
-    </message>
-    <message>
-        <source>Position (%1, %2)</source>
-        <translation>Position (%1, %2)</translation>
     </message>
     <message numerus="yes">
         <source>%n scene plates</source>
@@ -386,42 +358,6 @@
     <message>
         <source>the surface with the picture is not there</source>
         <translation>la surface portant l’image n’est pas là</translation>
-    </message>
-    <message>
-        <source>Picture at</source>
-        <translation>Image en</translation>
-    </message>
-    <message>
-        <source>Picture turned</source>
-        <translation>Image tournée</translation>
-    </message>
-    <message>
-        <source>Picture scale</source>
-        <translation>Échelle de l’image</translation>
-    </message>
-    <message>
-        <source>Offsets of x, y, z: u</source>
-        <translation>Décalages en x, y, z&#xa0;: u</translation>
-    </message>
-    <message>
-        <source>Repeats of x, y, z: u</source>
-        <translation>Répétitions en x, y, z&#xa0;: u</translation>
-    </message>
-    <message>
-        <source>Picture offset</source>
-        <translation>Décalage de l’image</translation>
-    </message>
-    <message>
-        <source>Picture repeats</source>
-        <translation>Répétitions de l’image</translation>
-    </message>
-    <message>
-        <source>Tire centre</source>
-        <translation>Centre du pneu</translation>
-    </message>
-    <message>
-        <source>Tire height, radius, part around</source>
-        <translation>Hauteur, rayon et part du tour du pneu</translation>
     </message>
     <message>
         <source>a clip plane has lost its frame</source>
@@ -697,11 +633,11 @@
     </message>
     <message>
         <source>The lines of %1 are parallel in the picture, so it does not tell the field of view: use lines of a third axis, or set the lens.</source>
-        <translation>Les lignes de %1 sont parallèles dans l'image, qui ne dit donc rien du champ de vision : utilisez les lignes d'un troisième axe ou indiquez l'objectif.</translation>
+        <translation>Les lignes de %1 sont parallèles dans l&apos;image, qui ne dit donc rien du champ de vision : utilisez les lignes d&apos;un troisième axe ou indiquez l&apos;objectif.</translation>
     </message>
     <message>
         <source>The lines of %1 are almost parallel in the picture, so it hardly tells the field of view: use lines of a third axis, or set the lens.</source>
-        <translation>Les lignes de %1 sont presque parallèles dans l'image, qui dit donc peu du champ de vision : utilisez les lignes d'un troisième axe ou indiquez l'objectif.</translation>
+        <translation>Les lignes de %1 sont presque parallèles dans l&apos;image, qui dit donc peu du champ de vision : utilisez les lignes d&apos;un troisième axe ou indiquez l&apos;objectif.</translation>
     </message>
     <message>
         <source>No camera sees right angles so: check which lines belong together.</source>
@@ -717,11 +653,11 @@
     </message>
     <message>
         <source>line %1 tells no place: it must run along its axis and not be a point</source>
-        <translation>la ligne %1 n'indique aucun lieu : elle doit suivre son axe et ne pas être un point</translation>
+        <translation>la ligne %1 n&apos;indique aucun lieu : elle doit suivre son axe et ne pas être un point</translation>
     </message>
     <message>
         <source>Set lens</source>
-        <translation>Indiquer l'objectif</translation>
+        <translation>Indiquer l&apos;objectif</translation>
     </message>
     <message>
         <source>%1: %2 px</source>
@@ -735,6 +671,10 @@
     <message>
         <source>Anchor</source>
         <translation>Ancrage</translation>
+    </message>
+    <message>
+        <source>no text is selected</source>
+        <translation>aucun texte n’est sélectionné</translation>
     </message>
 </context>
 <context>
@@ -785,10 +725,21 @@
     </message>
 </context>
 <context>
+    <name>viewer::AxesCorner</name>
+    <message>
+        <source>Axes of the world</source>
+        <translation>Axes du monde</translation>
+    </message>
+    <message>
+        <source>Click on an axis to look along it</source>
+        <translation>Cliquer sur un axe pour regarder le long de celui-ci</translation>
+    </message>
+</context>
+<context>
     <name>viewer::Language</name>
     <message>
-        <source>&amp;As the desktop</source>
-        <translation>&amp;Comme le bureau</translation>
+        <source>As the desktop</source>
+        <translation>Comme le bureau</translation>
     </message>
 </context>
 <context>
@@ -859,6 +810,14 @@
     <message>
         <source>The view is held: &quot;Hold the view&quot; (Shift+H) lets it go</source>
         <translation>La vue est verrouillée : « Verrouiller la vue » (Maj+H) la libère</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Manuel</translation>
+    </message>
+    <message>
+        <source>The manual is not installed</source>
+        <translation>Le manuel n’est pas installé</translation>
     </message>
 </context>
 <context>
@@ -1125,6 +1084,10 @@
         <source>Nothing selected</source>
         <translation>Rien de sélectionné</translation>
     </message>
+    <message>
+        <source>Keep proportions</source>
+        <translation>Conserver les proportions</translation>
+    </message>
 </context>
 <context>
     <name>viewer::PanelDocks</name>
@@ -1290,7 +1253,7 @@
     </message>
     <message>
         <source>A line from the origin, its length</source>
-        <translation>Ligne partant de l'origine, sa longueur</translation>
+        <translation>Ligne partant de l&apos;origine, sa longueur</translation>
     </message>
     <message>
         <source>Move camera</source>
@@ -1448,10 +1411,6 @@
         <translation>Magnétisme aux bords et au centre</translation>
     </message>
     <message>
-        <source>New text</source>
-        <translation>Nouveau texte</translation>
-    </message>
-    <message>
         <source>Title</source>
         <translation>Titre</translation>
     </message>
@@ -1485,7 +1444,7 @@
     </message>
     <message>
         <source>Align centres across</source>
-        <translation>Aligner les centres à l'horizontale</translation>
+        <translation>Aligner les centres à l&apos;horizontale</translation>
     </message>
     <message>
         <source>Align right</source>
@@ -1505,7 +1464,7 @@
     </message>
     <message>
         <source>Equal gaps across</source>
-        <translation>Espacer également à l'horizontale</translation>
+        <translation>Espacer également à l&apos;horizontale</translation>
     </message>
     <message>
         <source>Equal gaps down</source>
@@ -1518,6 +1477,18 @@
     <message>
         <source>Arrange plates</source>
         <translation>Disposer les plaques</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Modifier</translation>
+    </message>
+    <message>
+        <source>Change the text of the selected plate</source>
+        <translation>Modifier le texte de la plaque sélectionnée</translation>
     </message>
 </context>
 <context>
@@ -1576,6 +1547,112 @@
     <message>
         <source>Locked</source>
         <translation>Verrouillé</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::Settings</name>
+    <message>
+        <source>Language</source>
+        <translation>Langue</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>Thème</translation>
+    </message>
+    <message>
+        <source>As the desktop</source>
+        <translation>Comme le bureau</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Clair</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Sombre</translation>
+    </message>
+    <message>
+        <source>Orbiting</source>
+        <translation>Rotation de la vue</translation>
+    </message>
+    <message>
+        <source>Right button; middle pans</source>
+        <translation>Bouton droit ; le milieu déplace</translation>
+    </message>
+    <message>
+        <source>Middle button; with Shift pans</source>
+        <translation>Bouton du milieu ; avec Maj il déplace</translation>
+    </message>
+    <message>
+        <source>Grid on the ground</source>
+        <translation>Grille au sol</translation>
+    </message>
+    <message>
+        <source>Coarse while the view moves</source>
+        <translation>Grossier pendant que la vue bouge</translation>
+    </message>
+    <message>
+        <source>Edits are kept every, s</source>
+        <translation>Conserver les modifications toutes les, s</translation>
+    </message>
+    <message>
+        <source>Most that a picture may take, MiB</source>
+        <translation>Maximum pour une image, Mio</translation>
+    </message>
+    <message>
+        <source>Colours of handles</source>
+        <translation>Couleurs des poignées</translation>
+    </message>
+    <message>
+        <source>Classic</source>
+        <translation>Classiques</translation>
+    </message>
+    <message>
+        <source>Soft</source>
+        <translation>Douces</translation>
+    </message>
+    <message>
+        <source>High contrast</source>
+        <translation>Contraste élevé</translation>
+    </message>
+    <message>
+        <source>For any colour vision</source>
+        <translation>Pour toute vision des couleurs</translation>
+    </message>
+    <message>
+        <source>Handles fade that are seen end-on</source>
+        <translation>Estomper les poignées vues de face</translation>
+    </message>
+    <message>
+        <source>Draw what a drag has come to</source>
+        <translation>Tracer le déplacement</translation>
+    </message>
+    <message>
+        <source>Snap to corners and edges of objects</source>
+        <translation>Magnétisme sur les sommets et arêtes des objets</translation>
+    </message>
+    <message>
+        <source>Size of the gizmo</source>
+        <translation>Taille du gizmo</translation>
+    </message>
+    <message>
+        <source>Step of translation</source>
+        <translation>Pas de translation</translation>
+    </message>
+    <message>
+        <source>Step of rotation, °</source>
+        <translation>Pas de rotation, °</translation>
+    </message>
+    <message>
+        <source>Step of scale</source>
+        <translation>Pas d’échelle</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::SettingsPanel</name>
+    <message>
+        <source>Settings</source>
+        <translation>Paramètres</translation>
     </message>
 </context>
 <context>
@@ -1643,25 +1720,6 @@
     <message>
         <source>World axes</source>
         <translation>Axes du monde</translation>
-    </message>
-</context>
-<context>
-    <name>viewer::StepsPanel</name>
-    <message>
-        <source>Step of translation</source>
-        <translation>Pas de translation</translation>
-    </message>
-    <message>
-        <source>Step of rotation, °</source>
-        <translation>Pas de rotation, °</translation>
-    </message>
-    <message>
-        <source>Step of scale</source>
-        <translation>Pas d’échelle</translation>
-    </message>
-    <message>
-        <source>Size of the gizmo</source>
-        <translation>Taille du gizmo</translation>
     </message>
 </context>
 <context>
@@ -1735,18 +1793,6 @@
     <message>
         <source>Three-&amp;quarter</source>
         <translation>&amp;Trois quarts</translation>
-    </message>
-    <message>
-        <source>As the &amp;desktop</source>
-        <translation>Comme le &amp;bureau</translation>
-    </message>
-    <message>
-        <source>&amp;Light</source>
-        <translation>&amp;Clair</translation>
-    </message>
-    <message>
-        <source>Dar&amp;k</source>
-        <translation>&amp;Sombre</translation>
     </message>
     <message>
         <source>&amp;None</source>
@@ -1882,14 +1928,6 @@
         <translation>Afficher le tampon d’&amp;effet</translation>
     </message>
     <message>
-        <source>&amp;Theme</source>
-        <translation>T&amp;hème</translation>
-    </message>
-    <message>
-        <source>Lan&amp;guage</source>
-        <translation>Lan&amp;gue (Language)</translation>
-    </message>
-    <message>
         <source>Ne&amp;xt panel</source>
         <translation>Panneau sui&amp;vant</translation>
     </message>
@@ -1940,14 +1978,6 @@
     <message>
         <source>Advance in steps; hold Ctrl for a while</source>
         <translation>Avancer par pas&#xa0;; maintenir Ctrl pour un moment</translation>
-    </message>
-    <message>
-        <source>Steps and si&amp;ze</source>
-        <translation>Pas et taille du &amp;gizmo</translation>
-    </message>
-    <message>
-        <source>Steps of snapping, size of the gizmo</source>
-        <translation>Pas du magnétisme, taille du gizmo</translation>
     </message>
     <message>
         <source>&amp;Session</source>
@@ -2034,36 +2064,28 @@
         <translation>Ra&amp;ccourcis…</translation>
     </message>
     <message>
-        <source>&amp;Classic colours</source>
-        <translation>Couleurs &amp;classiques</translation>
+        <source>Se&amp;ttings…</source>
+        <translation>&amp;Paramètres…</translation>
     </message>
     <message>
-        <source>&amp;Soft colours</source>
-        <translation>Couleurs &amp;douces</translation>
+        <source>&amp;Grid on the ground</source>
+        <translation>&amp;Grille au sol</translation>
     </message>
     <message>
-        <source>&amp;High contrast</source>
-        <translation>Contraste &amp;élevé</translation>
+        <source>&amp;Manual</source>
+        <translation>&amp;Manuel</translation>
     </message>
     <message>
-        <source>For &amp;any colour vision</source>
-        <translation>Pour &amp;toute vision des couleurs</translation>
+        <source>&amp;Tour</source>
+        <translation>&amp;Visite guidée</translation>
     </message>
     <message>
-        <source>Ha&amp;ndles</source>
-        <translation>&amp;Apparence des poignées</translation>
+        <source>Object</source>
+        <translation>Objet</translation>
     </message>
     <message>
-        <source>&amp;Fade seen end-on</source>
-        <translation>Est&amp;omper vues de face</translation>
-    </message>
-    <message>
-        <source>Draw what a &amp;drag has come to</source>
-        <translation>T&amp;racer le déplacement</translation>
-    </message>
-    <message>
-        <source>&amp;Coarse while the view moves</source>
-        <translation>&amp;Moins net pendant que la vue bouge</translation>
+        <source>World</source>
+        <translation>Monde</translation>
     </message>
 </context>
 </TS>

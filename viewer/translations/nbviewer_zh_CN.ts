@@ -135,6 +135,10 @@
         <source>Duplicate scene plates</source>
         <translation>复制场景牌</translation>
     </message>
+    <message>
+        <source>Change text</source>
+        <translation>更改文字</translation>
+    </message>
 </context>
 <context>
     <name>nbForegroundTextContext</name>
@@ -196,22 +200,6 @@
     <message>
         <source>Centre pivot</source>
         <translation>枢轴居中</translation>
-    </message>
-    <message>
-        <source>Rotate pivot</source>
-        <translation>旋转枢轴</translation>
-    </message>
-    <message>
-        <source>Scale pivot</source>
-        <translation>缩放枢轴</translation>
-    </message>
-    <message>
-        <source>Translation</source>
-        <translation>平移</translation>
-    </message>
-    <message>
-        <source>Rotation</source>
-        <translation>旋转</translation>
     </message>
     <message>
         <source>Scale</source>
@@ -312,10 +300,6 @@
         <translation>没有可匹配的相机。</translation>
     </message>
     <message>
-        <source>Field of view %1°</source>
-        <translation>视场 %1°</translation>
-    </message>
-    <message>
         <source>Pictures (%1)</source>
         <translation>图片 (%1)</translation>
     </message>
@@ -334,18 +318,6 @@
     <message>
         <source>there is no further plate on this side</source>
         <translation>这一侧没有更多场景板</translation>
-    </message>
-    <message>
-        <source>Rotation %1</source>
-        <translation>旋转 %1</translation>
-    </message>
-    <message>
-        <source>Scale %1</source>
-        <translation>缩放 %1</translation>
-    </message>
-    <message>
-        <source>Position (%1, %2)</source>
-        <translation>位置 (%1, %2)</translation>
     </message>
     <message numerus="yes">
         <source>%n scene plates</source>
@@ -384,42 +356,6 @@
     <message>
         <source>the surface with the picture is not there</source>
         <translation>此处没有带图片的表面</translation>
-    </message>
-    <message>
-        <source>Picture at</source>
-        <translation>图片位置</translation>
-    </message>
-    <message>
-        <source>Picture turned</source>
-        <translation>图片旋转</translation>
-    </message>
-    <message>
-        <source>Picture scale</source>
-        <translation>图片缩放</translation>
-    </message>
-    <message>
-        <source>Offsets of x, y, z: u</source>
-        <translation>x、y、z 偏移：u</translation>
-    </message>
-    <message>
-        <source>Repeats of x, y, z: u</source>
-        <translation>x、y、z 重复：u</translation>
-    </message>
-    <message>
-        <source>Picture offset</source>
-        <translation>图片偏移</translation>
-    </message>
-    <message>
-        <source>Picture repeats</source>
-        <translation>图片重复</translation>
-    </message>
-    <message>
-        <source>Tire centre</source>
-        <translation>轮胎中心</translation>
-    </message>
-    <message>
-        <source>Tire height, radius, part around</source>
-        <translation>轮胎高度、半径、周向比例</translation>
     </message>
     <message>
         <source>a clip plane has lost its frame</source>
@@ -734,6 +670,10 @@
         <source>Anchor</source>
         <translation>锚点</translation>
     </message>
+    <message>
+        <source>no text is selected</source>
+        <translation>未选择文字</translation>
+    </message>
 </context>
 <context>
     <name>viewer::AboutBox</name>
@@ -783,10 +723,21 @@
     </message>
 </context>
 <context>
+    <name>viewer::AxesCorner</name>
+    <message>
+        <source>Axes of the world</source>
+        <translation>世界坐标轴</translation>
+    </message>
+    <message>
+        <source>Click on an axis to look along it</source>
+        <translation>单击坐标轴即沿其观察</translation>
+    </message>
+</context>
+<context>
     <name>viewer::Language</name>
     <message>
-        <source>&amp;As the desktop</source>
-        <translation>跟随桌面(&amp;A)</translation>
+        <source>As the desktop</source>
+        <translation>跟随桌面</translation>
     </message>
 </context>
 <context>
@@ -857,6 +808,14 @@
     <message>
         <source>The view is held: &quot;Hold the view&quot; (Shift+H) lets it go</source>
         <translation>视图已锁定：“锁定视图”(Shift+H) 可解除</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>手册</translation>
+    </message>
+    <message>
+        <source>The manual is not installed</source>
+        <translation>未安装手册</translation>
     </message>
 </context>
 <context>
@@ -1122,6 +1081,10 @@
     <message>
         <source>Nothing selected</source>
         <translation>未选择</translation>
+    </message>
+    <message>
+        <source>Keep proportions</source>
+        <translation>保持比例</translation>
     </message>
 </context>
 <context>
@@ -1446,10 +1409,6 @@
         <translation>吸附到边缘和中心</translation>
     </message>
     <message>
-        <source>New text</source>
-        <translation>新文字</translation>
-    </message>
-    <message>
         <source>Title</source>
         <translation>标题</translation>
     </message>
@@ -1517,6 +1476,18 @@
         <source>Arrange plates</source>
         <translation>排列场景牌</translation>
     </message>
+    <message>
+        <source>Text</source>
+        <translation>文字</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>更改</translation>
+    </message>
+    <message>
+        <source>Change the text of the selected plate</source>
+        <translation>更改所选板的文字</translation>
+    </message>
 </context>
 <context>
     <name>viewer::SceneFileActions</name>
@@ -1574,6 +1545,112 @@
     <message>
         <source>Locked</source>
         <translation>已锁定</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::Settings</name>
+    <message>
+        <source>Language</source>
+        <translation>语言</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>主题</translation>
+    </message>
+    <message>
+        <source>As the desktop</source>
+        <translation>跟随桌面</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>浅色</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>深色</translation>
+    </message>
+    <message>
+        <source>Orbiting</source>
+        <translation>环绕</translation>
+    </message>
+    <message>
+        <source>Right button; middle pans</source>
+        <translation>右键；中键平移</translation>
+    </message>
+    <message>
+        <source>Middle button; with Shift pans</source>
+        <translation>中键；按住 Shift 平移</translation>
+    </message>
+    <message>
+        <source>Grid on the ground</source>
+        <translation>地面网格</translation>
+    </message>
+    <message>
+        <source>Coarse while the view moves</source>
+        <translation>视图移动时降低画质</translation>
+    </message>
+    <message>
+        <source>Edits are kept every, s</source>
+        <translation>自动保留间隔，秒</translation>
+    </message>
+    <message>
+        <source>Most that a picture may take, MiB</source>
+        <translation>单张图片内存上限，MiB</translation>
+    </message>
+    <message>
+        <source>Colours of handles</source>
+        <translation>手柄颜色</translation>
+    </message>
+    <message>
+        <source>Classic</source>
+        <translation>经典</translation>
+    </message>
+    <message>
+        <source>Soft</source>
+        <translation>柔和</translation>
+    </message>
+    <message>
+        <source>High contrast</source>
+        <translation>高对比度</translation>
+    </message>
+    <message>
+        <source>For any colour vision</source>
+        <translation>适合各类色觉</translation>
+    </message>
+    <message>
+        <source>Handles fade that are seen end-on</source>
+        <translation>正对视线的手柄淡出</translation>
+    </message>
+    <message>
+        <source>Draw what a drag has come to</source>
+        <translation>绘制拖动轨迹</translation>
+    </message>
+    <message>
+        <source>Snap to corners and edges of objects</source>
+        <translation>吸附到对象的角和边</translation>
+    </message>
+    <message>
+        <source>Size of the gizmo</source>
+        <translation>操纵器大小</translation>
+    </message>
+    <message>
+        <source>Step of translation</source>
+        <translation>平移步长</translation>
+    </message>
+    <message>
+        <source>Step of rotation, °</source>
+        <translation>旋转步长，°</translation>
+    </message>
+    <message>
+        <source>Step of scale</source>
+        <translation>缩放步长</translation>
+    </message>
+</context>
+<context>
+    <name>viewer::SettingsPanel</name>
+    <message>
+        <source>Settings</source>
+        <translation>设置</translation>
     </message>
 </context>
 <context>
@@ -1639,25 +1716,6 @@
     <message>
         <source>World axes</source>
         <translation>世界坐标轴</translation>
-    </message>
-</context>
-<context>
-    <name>viewer::StepsPanel</name>
-    <message>
-        <source>Step of translation</source>
-        <translation>平移步长</translation>
-    </message>
-    <message>
-        <source>Step of rotation, °</source>
-        <translation>旋转步长，°</translation>
-    </message>
-    <message>
-        <source>Step of scale</source>
-        <translation>缩放步长</translation>
-    </message>
-    <message>
-        <source>Size of the gizmo</source>
-        <translation>操纵器大小</translation>
     </message>
 </context>
 <context>
@@ -1731,18 +1789,6 @@
     <message>
         <source>Three-&amp;quarter</source>
         <translation>四分之三(&amp;Q)</translation>
-    </message>
-    <message>
-        <source>As the &amp;desktop</source>
-        <translation>跟随桌面(&amp;D)</translation>
-    </message>
-    <message>
-        <source>&amp;Light</source>
-        <translation>浅色(&amp;L)</translation>
-    </message>
-    <message>
-        <source>Dar&amp;k</source>
-        <translation>深色(&amp;K)</translation>
     </message>
     <message>
         <source>&amp;None</source>
@@ -1878,14 +1924,6 @@
         <translation>显示效果缓冲(&amp;E)</translation>
     </message>
     <message>
-        <source>&amp;Theme</source>
-        <translation>主题(&amp;T)</translation>
-    </message>
-    <message>
-        <source>Lan&amp;guage</source>
-        <translation>语言 Language(&amp;G)</translation>
-    </message>
-    <message>
         <source>Ne&amp;xt panel</source>
         <translation>下一个面板(&amp;X)</translation>
     </message>
@@ -1936,14 +1974,6 @@
     <message>
         <source>Advance in steps; hold Ctrl for a while</source>
         <translation>按步长移动；按住 Ctrl 可临时切换</translation>
-    </message>
-    <message>
-        <source>Steps and si&amp;ze</source>
-        <translation>步长和大小(&amp;Z)</translation>
-    </message>
-    <message>
-        <source>Steps of snapping, size of the gizmo</source>
-        <translation>吸附步长、操纵器大小</translation>
     </message>
     <message>
         <source>&amp;Session</source>
@@ -2030,36 +2060,28 @@
         <translation>快捷键(&amp;S)…</translation>
     </message>
     <message>
-        <source>&amp;Classic colours</source>
-        <translation>经典配色(&amp;C)</translation>
+        <source>Se&amp;ttings…</source>
+        <translation>设置(&amp;T)…</translation>
     </message>
     <message>
-        <source>&amp;Soft colours</source>
-        <translation>柔和配色(&amp;S)</translation>
+        <source>&amp;Grid on the ground</source>
+        <translation>地面网格(&amp;G)</translation>
     </message>
     <message>
-        <source>&amp;High contrast</source>
-        <translation>高对比度(&amp;H)</translation>
+        <source>&amp;Manual</source>
+        <translation>手册(&amp;M)</translation>
     </message>
     <message>
-        <source>For &amp;any colour vision</source>
-        <translation>适合各类色觉(&amp;A)</translation>
+        <source>&amp;Tour</source>
+        <translation>导览(&amp;T)</translation>
     </message>
     <message>
-        <source>Ha&amp;ndles</source>
-        <translation>手柄(&amp;N)</translation>
+        <source>Object</source>
+        <translation>对象</translation>
     </message>
     <message>
-        <source>&amp;Fade seen end-on</source>
-        <translation>正对视线时淡出(&amp;F)</translation>
-    </message>
-    <message>
-        <source>Draw what a &amp;drag has come to</source>
-        <translation>绘制拖动轨迹(&amp;D)</translation>
-    </message>
-    <message>
-        <source>&amp;Coarse while the view moves</source>
-        <translation>视图移动时降低精度(&amp;C)</translation>
+        <source>World</source>
+        <translation>世界</translation>
     </message>
 </context>
 </TS>

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "viewer/gui/CaptionBar.h"
+#include "viewer/gui/Caption.h"
 
-#include <QEvent>
 #include <QGuiApplication>
 #include <QPainter>
 #include <QTextDocument>
@@ -39,42 +38,6 @@ void paintCaption(QPainter& painter, const QRect& area, const QString& title, co
     painter.fillRect(QRectF(0.0, 0.0, margin / 4.0, caption.size().height()), kAccent);
     caption.drawContents(&painter);
     painter.restore();
-}
-
-CaptionBar::CaptionBar(QWidget* host)
-    : QWidget(host)
-{
-    setObjectName(QStringLiteral("captionBar"));
-    setAttribute(Qt::WA_TransparentForMouseEvents);
-    setFocusPolicy(Qt::NoFocus);
-    hide();
-    host->installEventFilter(this);
-}
-
-void CaptionBar::showCaption(const QString& newTitle, const QString& newText)
-{
-    shownTitle = newTitle;
-    shownText = newText;
-    setGeometry(parentWidget()->rect());
-    setVisible(!shownTitle.isEmpty());
-    setAccessibleName(shownTitle);
-    setAccessibleDescription(shownText);
-    raise();
-    update();
-}
-
-bool CaptionBar::eventFilter(QObject* watched, QEvent* event)
-{
-    if (event->type() == QEvent::Resize) {
-        setGeometry(parentWidget()->rect());
-    }
-    return QWidget::eventFilter(watched, event);
-}
-
-void CaptionBar::paintEvent(QPaintEvent*)
-{
-    QPainter painter(this);
-    paintCaption(painter, rect(), shownTitle, shownText);
 }
 
 }  // namespace viewer

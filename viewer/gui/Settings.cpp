@@ -1,0 +1,239 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/gui/Settings.h"
+
+#include "manipulator/course/DragOverlay.h"
+#include "manipulator/course/HandleFading.h"
+#include "manipulator/handles/HandlePalette.h"
+#include "viewer/commands/Commands.h"
+#include "viewer/gui/MainWindow.h"
+#include "viewer/gui/SceneFileActions.h"
+#include "viewer/gui/ViewWidget.h"
+#include "viewer/loading/PictureDecoding.h"
+
+#include <nbTransform/nbTransformModel.h>
+
+#include <QSettings>
+
+namespace viewer {
+namespace {
+
+using nbec::manipulator::BuiltInPalette;
+
+constexpr double kMebibyte = 1048576.0;
+const QString kPrefix = QStringLiteral("settings.");
+
+constexpr std::pair<const char*, BuiltInPalette> kPalettes[] = {
+    { "classic", BuiltInPalette::Classic },
+    { "soft", BuiltInPalette::Soft },
+    { "contrast", BuiltInPalette::HighContrast },
+    { "colourBlind", BuiltInPalette::ForColourBlind },
+};
+
+QJsonValue presentPalette()
+{
+    for (const auto& [word, palette] : kPalettes) {
+        if (nbec::manipulator::builtInPalette(palette).isSame(
+                nbec::manipulator::getHandlePalette())) {
+            return QLatin1String(word);
+        }
+    }
+    return {};
+}
+
+void setPalette(const QJsonValue& wanted)
+{
+    for (const auto& [word, palette] : kPalettes) {
+        if (wanted.toString() == QLatin1String(word)) {
+            nbec::manipulator::setHandlePalette(nbec::manipulator::builtInPalette(palette));
+        }
+    }
+}
+
+}  // namespace
+
+Settings::Settings(MainWindow& targetWindow, bool areKept)
+    : window(targetWindow)
+    , kept(areKept)
+{
+    addWindow();
+    addHandles();
+    addSteps();
+    for (const Setting& setting : settings) {
+        addCommand(setting);
+    }
+}
+
+void Settings::addWindow()
+{
+    Stage& stage = window.view().stage();
+    Setting languages {
+        "language", QT_TR_NOOP("Language"), [] { return languageName(appliedLanguage()); },
+        [this](const QJsonValue& name) { applyLanguage(*languageFromName(name.toString())); }
+    };
+    for (const Language language : kLanguages) {
+        languages.words.emplace_back(languageName(language), languageTitle(language));
+    }
+    settings = {
+        languages,
+        { "theme",
+          QT_TR_NOOP("Theme"),
+          [this] { return themeName(window.theme()); },
+          [this](const QJsonValue& name) { window.setTheme(themeFromName(name.toString())); },
+          { { "system", QT_TR_NOOP("As the desktop") },
+            { "light", QT_TR_NOOP("Light") },
+            { "dark", QT_TR_NOOP("Dark") } } },
+        { "navigation",
+          QT_TR_NOOP("Orbiting"),
+          [this] { return window.view().doesMiddleOrbit() ? "middle" : "right"; },
+          [this](const QJsonValue& name) {
+              window.view().setMiddleOrbits(name.toString() == QLatin1String("middle"));
+          },
+          { { "right", QT_TR_NOOP("Right button; middle pans") },
+            { "middle", QT_TR_NOOP("Middle button; with Shift pans") } } },
+        { "grid", QT_TR_NOOP("Grid on the ground"), [&stage] { return stage.isGridShown(); },
+          [&stage](const QJsonValue& on) { stage.showGrid(on.toBool()); } },
+        { "coarseWhileMoving", QT_TR_NOOP("Coarse while the view moves"),
+          [this] { return window.view().isCoarseWhileMoving(); },
+          [this](const QJsonValue& on) { window.view().setCoarseWhileMoving(on.toBool()); } },
+        { "keepSeconds",
+          QT_TR_NOOP("Edits are kept every, s"),
+          [this] { return window.scenes().keepSeconds(); },
+          [this](const QJsonValue& number) {
+              window.scenes().setKeepSeconds(qRound(number.toDouble()));
+          },
+          {},
+          10.0,
+          3600.0,
+          10.0 },
+        { "pictureMebibytes",
+          QT_TR_NOOP("Most that a picture may take, MiB"),
+          [] { return static_cast<double>(pictureBudget()) / kMebibyte; },
+          [](const QJsonValue& number) {
+              setPictureBudget(static_cast<qint64>(number.toDouble() * kMebibyte));
+          },
+          {},
+          1.0,
+          2047.0,
+          64.0 },
+    };
+}
+
+void Settings::addHandles()
+{
+    using namespace nbec::manipulator;
+    GizmoController& gizmo = window.view().stage().gizmo();
+    const Setting rows[] = {
+        { "palette",
+          QT_TR_NOOP("Colours of handles"),
+          &presentPalette,
+          &setPalette,
+          { { "classic", QT_TR_NOOP("Classic") },
+            { "soft", QT_TR_NOOP("Soft") },
+            { "contrast", QT_TR_NOOP("High contrast") },
+            { "colourBlind", QT_TR_NOOP("For any colour vision") } } },
+        { "handleFading", QT_TR_NOOP("Handles fade that are seen end-on"),
+          [] { return getHandleFading().isOn; },
+          [&gizmo](const QJsonValue& on) {
+              HandleFading wanted;
+              wanted.isOn = on.toBool();
+              setHandleFading(wanted);
+              gizmo.followCamera();
+          } },
+        { "dragOverlay", QT_TR_NOOP("Draw what a drag has come to"),
+          [] { return isDragOverlayShown(); },
+          [](const QJsonValue& on) { setDragOverlayShown(on.toBool()); } },
+        { "snapToScene", QT_TR_NOOP("Snap to corners and edges of objects"),
+          [&gizmo] { return gizmo.snapsToScene(); },
+          [&gizmo](const QJsonValue& on) { gizmo.setSnapToScene(on.toBool()); } },
+        { "gizmoSize",
+          QT_TR_NOOP("Size of the gizmo"),
+          [&gizmo] { return static_cast<double>(gizmo.size()); },
+          [&gizmo](const QJsonValue& size) { gizmo.setSize(static_cast<float>(size.toDouble())); },
+          {},
+          8.0,
+          199.0,
+          4.0 },
+    };
+    settings.insert(settings.end(), std::begin(rows), std::end(rows));
+}
+
+void Settings::addSteps()
+{
+    using Model = nbTransformModel;
+
+    const struct
+    {
+        const char* name;
+        const char* label;
+        double most;
+        double step;
+        double (Model::*get)() const;
+        void (Model::*set)(double);
+    } rows[] = {
+        { "translationStep", QT_TR_NOOP("Step of translation"), 1e6, 0.1,
+          &Model::getTranslationPrecision, &Model::setTranslationPrecision },
+        { "rotationStep", QT_TR_NOOP("Step of rotation, °"), 360.0, 5.0,
+          &Model::getRotationPrecision, &Model::setRotationPrecision },
+        { "scaleStep", QT_TR_NOOP("Step of scale"), 100.0, 0.05, &Model::getScalePrecision,
+          &Model::setScalePrecision },
+    };
+
+    for (const auto& row : rows) {
+        settings.push_back(
+            { row.name,
+              row.label,
+              [row] { return (Model::the()->*row.get)(); },
+              [row](const QJsonValue& step) { (Model::the()->*row.set)(step.toDouble()); },
+              {},
+              0.0,
+              row.most,
+              row.step });
+    }
+}
+
+void Settings::addCommand(const Setting& setting)
+{
+    Commands& commands = window.view().stage().commands();
+    const QString name = kPrefix + QLatin1String(setting.name);
+    const auto set = [this, setting](const QJsonValue& value) {
+        setting.set(value);
+        if (kept) {
+            QSettings().setValue(QLatin1String(setting.name), value.toVariant());
+        }
+        return true;
+    };
+    if (!setting.words.empty()) {
+        QStringList words;
+        for (const auto& word : setting.words) {
+            words.append(word.first);
+        }
+        commands.addChoice(name, words,
+                           [set, words](int place, QString&) { return set(words.at(place)); });
+    } else if (setting.most > 0.0) {
+        commands.addNumber(name, setting.least, setting.most,
+                           [set](double number, QString&) { return set(number); });
+    } else {
+        commands.addSwitch(name, [set](bool on, QString&) { return set(on); });
+    }
+    commands.addValue(name, setting.read);
+}
+
+void Settings::restore()
+{
+    const QSettings file;
+    for (const Setting& setting : settings) {
+        const QVariant value = file.value(QLatin1String(setting.name));
+        const QJsonValue present = setting.read();
+        // Files of settings know texts alone.
+        const QJsonValue wanted = present.isBool() ? QJsonValue(value.toBool())
+            : present.isDouble()                   ? QJsonValue(value.toDouble())
+                                                   : QJsonValue(value.toString());
+        QString error;
+        if (kept && value.isValid() && wanted != present) {
+            window.view().stage().commands().run(kPrefix + QLatin1String(setting.name), wanted,
+                                                 error);
+        }
+    }
+}
+
+}  // namespace viewer

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/gui/SettingsPanel.h"
+
+#include "viewer/gui/Settings.h"
+#include "viewer/gui/VectorEdit.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+
+namespace viewer {
+
+SettingsPanel::SettingsPanel(Stage& stage, const Settings& settings, QWidget* parent)
+    : Panel(stage, parent)
+{
+    auto* form = new QFormLayout(this);
+    for (const Setting& setting : settings.all()) {
+        const QString command = QStringLiteral("settings.") + QLatin1String(setting.name);
+        const QString label = Settings::tr(setting.label);
+        if (!setting.words.empty()) {
+            Choices choices;
+            for (const auto& [word, text] : setting.words) {
+                choices.emplace_back(word, Settings::tr(text.toUtf8()));
+            }
+            form->addRow(label, addChoice(command, choices));
+        } else if (setting.most > 0.0) {
+            NumberBox::Style style;
+            style.step = setting.step;
+            style.least = setting.least;
+            style.most = setting.most;
+            form->addRow(label, addNumbers(command, { label }, style));
+        } else {
+            form->addRow(addSwitch(command, label));
+        }
+    }
+}
+
+void SettingsPanel::showEvent(QShowEvent* event)
+{
+    refresh();
+    Panel::showEvent(event);
+}
+
+void SettingsPanel::open(Stage& stage, const Settings& settings, QWidget& window)
+{
+    auto* dialog = new QDialog(&window);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setObjectName(QStringLiteral("settings"));
+    dialog->setWindowTitle(tr("Settings"));
+    auto* column = new QVBoxLayout(dialog);
+    column->addWidget(new SettingsPanel(stage, settings, dialog));
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, dialog);
+    connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
+    column->addWidget(buttons);
+    dialog->show();
+}
+
+}  // namespace viewer

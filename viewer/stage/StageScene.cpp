@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: MIT
+// The models, the part of the stage that has to do with what the scene consists of.
+#include "viewer/loading/BuiltModel.h"
+#include "viewer/loading/StartScene.h"
+#include "viewer/stage/Stage.h"
+#include "viewer/stage/StageTool.h"
+
+#include <nbKernel/nbScenegraph.h>
+#include <nbKernelServices/nbUndoService.h>
+#include <nbOpenSGUtils/nbEdit.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
+
+#include <OpenSG/OSGGeometry.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace viewer {
+namespace {
+
+constexpr float kStartFovDeg = 32.0F;
+
+osg::Pnt3f pointOf(const std::array<float, 3>& p)
+{
+    return { p[0], p[1], p[2] };
+}
+
+std::size_t trianglesBelow(const osg::NodePtr& node)
+{
+    std::size_t count = 0;
+    const auto geometry = osg::GeometryPtr::dcast(node->getCore());
+    if (geometry != osg::NullFC && geometry->getLengths() != osg::NullFC &&
+        !nbNodeUtils::isAuxiliaryNode(node)) {
+        for (osg::UInt32 i = 0; i < geometry->getLengths()->getSize(); ++i) {
+            const bool areTriangles = geometry->getTypes()->getValue(i) == GL_TRIANGLES;
+            count += areTriangles ? geometry->getLengths()->getValue(i) / 3 : 0;
+        }
+    }
+    for (osg::UInt32 i = 0; i < node->getNChildren(); ++i) {
+        count += trianglesBelow(node->getChild(i));
+    }
+    return count;
+}
+
+}  // namespace
+
+void Stage::clear()
+{
+    manager.endDrag();
+    viewHeld = false;
+    for (StageTool* tool : tools) {
+        tool->sceneCleared();
+    }
+    nbSelection::clear();
+    gizmoController.setTarget(osg::NullFC);
+    const osg::NodePtr root = nbScenegraph::getRootNode();
+    const nbEdit edit(root, osg::Node::ChildrenFieldMask);
+    while (root->getNChildren() > 0) {
+        root->subChild(root->getNChildren() - 1);
+    }
+    modelSources = {};
+    nbUndoService::the()->clear();
+    changed();
+}
+
+osg::NodePtr Stage::add(const ModelData& model)
+{
+    return add(buildModel(model));
+}
+
+osg::NodePtr Stage::add(const BuiltModel& model)
+{
+    const osg::NodePtr node = model.root.get();
+    const osg::NodePtr root = nbScenegraph::getRootNode();
+    {
+        const nbEdit edit(root, osg::Node::ChildrenFieldMask);
+        root->addChild(node);
+    }
+    modelSources.add(model);
+    nbec::interaction::Picker::buildTrees(node);
+    changed();
+    return node;
+}
+
+void Stage::addCopy(const osg::NodePtr& object, const osg::NodePtr& copy,
+                    const osg::NodePtr& parent)
+{
+    {
+        const nbEdit edit(parent, osg::Node::ChildrenFieldMask);
+        parent->addChild(copy);
+    }
+    modelSources.addCopy(object, copy);
+    nbec::interaction::Picker::buildTrees(copy);
+    changed();
+}
+
+void Stage::replace(const std::vector<osg::RefPtr<osg::NodePtr>>& top, ModelSources sources)
+{
+    clear();
+    const osg::NodePtr root = nbScenegraph::getRootNode();
+    {
+        const nbEdit edit(root, osg::Node::ChildrenFieldMask);
+        for (const osg::RefPtr<osg::NodePtr>& node : top) {
+            root->addChild(node.get());
+        }
+    }
+    modelSources = std::move(sources);
+    nbec::interaction::Picker::buildTrees(root);
+    changed();
+}
+
+std::size_t Stage::triangleCount()
+{
+    const osg::NodePtr root = nbScenegraph::getRootNode();
+    const osg::UInt64 changes = root->getSubtreeChangeCount();
+    if (changes != countedChanges && !isDragging()) {
+        countedChanges = changes;
+        triangles = trianglesBelow(root);
+    }
+    return triangles;
+}
+
+void Stage::showStartScene()
+{
+    clear();
+    const osg::NodePtr node = add(makeStartScene());
+    CameraPose start;
+    start.at = pointOf(kStartSceneAt);
+    // In a narrow view the eye steps back, so that the table keeps its place.
+    const float aspect = renderWidget.getUberViewport()->getDeviceAspect();
+    const float retreat = aspect > 0.0F ? std::max(1.0F, kStartSceneAspect / aspect) : 1.0F;
+    start.from = start.at + (pointOf(kStartSceneFrom) - start.at) * retreat;
+    start.pivot = start.at;
+    start.fovDeg = kStartFovDeg;
+    setPose(start);
+    select(findObject(node, kStartSceneMainObject));
+    showGizmo(Gizmo::Universal);
+}
+
+}  // namespace viewer
