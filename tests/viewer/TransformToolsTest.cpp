@@ -150,7 +150,7 @@ TEST_F(TransformTools, ValuesAreShownOverTheViewAndInTheStatusLine)
     const QImage empty = window.view().grabFramebuffer().copy(corner);
     drag("xaShape", 8.0, 2.0);
 
-    EXPECT_TRUE(values->text().startsWith("Translation (")) << values->text().toStdString();
+    EXPECT_TRUE(values->text().contains("Translation (")) << values->text().toStdString();
     const QImage text = window.view().grabFramebuffer().copy(corner);
     int bright = 0;
     for (int y = 0; y < text.height(); ++y) {

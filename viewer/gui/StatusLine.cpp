@@ -67,7 +67,7 @@ StatusLine::StatusLine(QStatusBar& bar)
     connect(cancelButton, &QToolButton::clicked, this, &StatusLine::stopLoadingAsked);
     bar.addPermanentWidget(progress);
     bar.addPermanentWidget(cancelButton);
-    for (QLabel** label : { &axesLabel, &frameLabel, &sceneLabel }) {
+    for (QLabel** label : { &frameLabel, &sceneLabel }) {
         bar.addPermanentWidget(*label = new QLabel(&bar));
     }
     frameLabel->setObjectName(QStringLiteral("frame"));
@@ -82,8 +82,6 @@ void StatusLine::update(Stage& stage, bool isLoading)
     setTextOf(selectionLabel, ofTool.isEmpty() ? selectionText(stage) : ofTool);
     setTextOf(handleLabel, pointerText(stage));
     setTextOf(valuesLabel, QString::fromStdString(stage.draggedValues()));
-    setTextOf(axesLabel,
-              stage.gizmo().isLocalSpace() ? tr("Axes of the object") : tr("World axes"));
     setTextOf(sceneLabel, tr("%Ln triangles", nullptr, static_cast<int>(stage.triangleCount())));
     progress->setVisible(isLoading);
     cancelButton->setVisible(isLoading);

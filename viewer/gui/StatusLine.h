@@ -38,7 +38,6 @@ private:
     QLabel* handleLabel = nullptr;
     QLabel* valuesLabel = nullptr;
     QLabel* selectionLabel = nullptr;
-    QLabel* axesLabel = nullptr;
     QLabel* frameLabel = nullptr;
     QLabel* sceneLabel = nullptr;
     QProgressBar* progress;

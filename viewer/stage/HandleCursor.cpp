@@ -18,12 +18,12 @@ namespace {
 
 struct ActionRow
 {
-    const char* handle;
+    const char* handle;  ///< with which its name begins
     HandleAction action;
     const char* text;
 };
 
-constexpr std::array<ActionRow, 23> kActions { {
+constexpr std::array<ActionRow, 18> kActions { {
     { "xaShape", HandleAction::MoveAlong, QT_TRANSLATE_NOOP("viewer", "Move along x") },
     { "yaShape", HandleAction::MoveAlong, QT_TRANSLATE_NOOP("viewer", "Move along y") },
     { "zaShape", HandleAction::MoveAlong, QT_TRANSLATE_NOOP("viewer", "Move along z") },
@@ -41,18 +41,9 @@ constexpr std::array<ActionRow, 23> kActions { {
     { "yzaShape", HandleAction::MoveInPlane,
       QT_TRANSLATE_NOOP("viewer", "Move in the plane of y and z") },
     { "rotateShape", HandleAction::Turn, QT_TRANSLATE_NOOP("viewer", "Turn") },
-    { "scaleXYLLShape", HandleAction::ScaleAll,
-      QT_TRANSLATE_NOOP("viewer", "Scale from a corner") },
-    { "scaleXYULShape", HandleAction::ScaleAll,
-      QT_TRANSLATE_NOOP("viewer", "Scale from a corner") },
-    { "scaleXYLRShape", HandleAction::ScaleAll,
-      QT_TRANSLATE_NOOP("viewer", "Scale from a corner") },
-    { "scaleXYURShape", HandleAction::ScaleAll,
-      QT_TRANSLATE_NOOP("viewer", "Scale from a corner") },
-    { "scaleXLShape", HandleAction::ScaleAll, QT_TRANSLATE_NOOP("viewer", "Scale from an edge") },
-    { "scaleXRShape", HandleAction::ScaleAll, QT_TRANSLATE_NOOP("viewer", "Scale from an edge") },
-    { "scaleYLShape", HandleAction::ScaleAll, QT_TRANSLATE_NOOP("viewer", "Scale from an edge") },
-    { "scaleYUShape", HandleAction::ScaleAll, QT_TRANSLATE_NOOP("viewer", "Scale from an edge") },
+    { "scaleXY", HandleAction::ScaleAll, QT_TRANSLATE_NOOP("viewer", "Scale from a corner") },
+    { "scaleX", HandleAction::ScaleAll, QT_TRANSLATE_NOOP("viewer", "Scale from an edge") },
+    { "scaleY", HandleAction::ScaleAll, QT_TRANSLATE_NOOP("viewer", "Scale from an edge") },
     { "scaleZPlaneShape", HandleAction::ScaleAll, QT_TRANSLATE_NOOP("viewer", "Scale the depth") },
 } };
 
@@ -60,8 +51,9 @@ constexpr std::array<ActionRow, 23> kActions { {
 const ActionRow* rowOf(const std::string& handle)
 {
     const auto* const row =
-        std::find_if(kActions.begin(), kActions.end(),
-                     [&handle](const ActionRow& candidate) { return handle == candidate.handle; });
+        std::find_if(kActions.begin(), kActions.end(), [&handle](const ActionRow& candidate) {
+            return handle.rfind(candidate.handle, 0) == 0;
+        });
     return row == kActions.end() ? nullptr : row;
 }
 
