@@ -676,6 +676,18 @@
         <source>no text is selected</source>
         <translation>es ist kein Text ausgewählt</translation>
     </message>
+    <message>
+        <source>cannot be written</source>
+        <translation>kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>Models (%1)</source>
+        <translation>Modelle (%1)</translation>
+    </message>
+    <message>
+        <source>pictures that were put on objects are not exported</source>
+        <translation>auf Objekte gelegte Bilder werden nicht exportiert</translation>
+    </message>
 </context>
 <context>
     <name>viewer::AboutBox</name>
@@ -1713,14 +1725,6 @@
         <source>%1: Ctrl snaps, Shift slows, Esc cancels</source>
         <translation>%1: Strg rastet ein, Umschalt verlangsamt, Esc bricht ab</translation>
     </message>
-    <message>
-        <source>Axes of the object</source>
-        <translation>Achsen des Objekts</translation>
-    </message>
-    <message>
-        <source>World axes</source>
-        <translation>Weltachsen</translation>
-    </message>
 </context>
 <context>
     <name>viewer::ToolBars</name>
@@ -2086,6 +2090,14 @@
     <message>
         <source>World</source>
         <translation>Welt</translation>
+    </message>
+    <message>
+        <source>E&amp;xport model…</source>
+        <translation>Modell e&amp;xportieren…</translation>
+    </message>
+    <message>
+        <source>Export model</source>
+        <translation>Modell exportieren</translation>
     </message>
 </context>
 </TS>

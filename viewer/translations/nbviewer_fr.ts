@@ -676,6 +676,18 @@
         <source>no text is selected</source>
         <translation>aucun texte n’est sélectionné</translation>
     </message>
+    <message>
+        <source>cannot be written</source>
+        <translation>ne peut pas être écrit</translation>
+    </message>
+    <message>
+        <source>Models (%1)</source>
+        <translation>Modèles (%1)</translation>
+    </message>
+    <message>
+        <source>pictures that were put on objects are not exported</source>
+        <translation>les images posées sur des objets ne sont pas exportées</translation>
+    </message>
 </context>
 <context>
     <name>viewer::AboutBox</name>
@@ -1577,11 +1589,11 @@
     </message>
     <message>
         <source>Right button; middle pans</source>
-        <translation>Bouton droit ; le milieu déplace</translation>
+        <translation>Bouton droit&#xa0;; le milieu déplace</translation>
     </message>
     <message>
         <source>Middle button; with Shift pans</source>
-        <translation>Bouton du milieu ; avec Maj il déplace</translation>
+        <translation>Bouton du milieu&#xa0;; avec Maj il déplace</translation>
     </message>
     <message>
         <source>Grid on the ground</source>
@@ -1712,14 +1724,6 @@
     <message>
         <source>%1: Ctrl snaps, Shift slows, Esc cancels</source>
         <translation>%1 : Ctrl aligne, Maj ralentit, Échap annule</translation>
-    </message>
-    <message>
-        <source>Axes of the object</source>
-        <translation>Axes de l&apos;objet</translation>
-    </message>
-    <message>
-        <source>World axes</source>
-        <translation>Axes du monde</translation>
     </message>
 </context>
 <context>
@@ -2086,6 +2090,14 @@
     <message>
         <source>World</source>
         <translation>Monde</translation>
+    </message>
+    <message>
+        <source>E&amp;xport model…</source>
+        <translation>E&amp;xporter le modèle…</translation>
+    </message>
+    <message>
+        <source>Export model</source>
+        <translation>Exporter le modèle</translation>
     </message>
 </context>
 </TS>

@@ -674,6 +674,18 @@
         <source>no text is selected</source>
         <translation>未选择文字</translation>
     </message>
+    <message>
+        <source>cannot be written</source>
+        <translation>无法写入</translation>
+    </message>
+    <message>
+        <source>Models (%1)</source>
+        <translation>模型 (%1)</translation>
+    </message>
+    <message>
+        <source>pictures that were put on objects are not exported</source>
+        <translation>放在对象上的图片不会导出</translation>
+    </message>
 </context>
 <context>
     <name>viewer::AboutBox</name>
@@ -1709,14 +1721,6 @@
         <source>%1: Ctrl snaps, Shift slows, Esc cancels</source>
         <translation>%1：Ctrl 捕捉，Shift 减速，Esc 取消</translation>
     </message>
-    <message>
-        <source>Axes of the object</source>
-        <translation>对象坐标轴</translation>
-    </message>
-    <message>
-        <source>World axes</source>
-        <translation>世界坐标轴</translation>
-    </message>
 </context>
 <context>
     <name>viewer::ToolBars</name>
@@ -2082,6 +2086,14 @@
     <message>
         <source>World</source>
         <translation>世界</translation>
+    </message>
+    <message>
+        <source>E&amp;xport model…</source>
+        <translation>导出模型(&amp;X)…</translation>
+    </message>
+    <message>
+        <source>Export model</source>
+        <translation>导出模型</translation>
     </message>
 </context>
 </TS>
