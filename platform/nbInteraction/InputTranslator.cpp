@@ -2,6 +2,7 @@
 #include <nbInteraction/EventNames.h>
 #include <nbInteraction/InputTranslator.h>
 #include <nbInteraction/InteractionManager.h>
+#include <nbInteraction/Picker.h>
 #include <nbKernel/nbOSGWidget.h>
 #include <nbUtils/nbQt.h>
 
@@ -123,6 +124,7 @@ osg::Pnt2f InputTranslator::toDevicePixels(const QPointF& logical) const
 bool InputTranslator::handleEvent(QEvent& event)
 {
     const osg::UInt64 formerStamp = osg::glue::viewStamp();
+    takeDevice(event);
     const bool taken = translate(event);
     // Only what the event really changed is worth a redraw; handles light up without taking it.
     if (osg::glue::viewStamp() != formerStamp) {
@@ -153,6 +155,34 @@ bool InputTranslator::translate(QEvent& event)
     default:
         followView(event.type());
         return false;
+    }
+}
+
+/// Pens and fingers make mouse events, too, which say so; of a pen its own event comes before.
+void InputTranslator::takeDevice(const QEvent& event)
+{
+    switch (event.type()) {
+    case QEvent::TabletPress:
+    case QEvent::TabletMove:
+    case QEvent::TabletRelease:
+        penIsNear = true;
+        break;
+    case QEvent::TouchBegin:
+        penIsNear = false;
+        break;
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove: {
+        const bool isMouse =
+            static_cast<const QMouseEvent&>(event).source() == Qt::MouseEventNotSynthesized;
+        penIsNear = penIsNear && !isMouse;
+        Picker::setDevice(isMouse         ? PointerDevice::Mouse
+                              : penIsNear ? PointerDevice::Pen
+                                          : PointerDevice::Touch);
+        break;
+    }
+    default:
+        break;
     }
 }
 

@@ -34,6 +34,7 @@ class InteractionManager;
 ///   right button, but for Alt and Shift, means nothing.
 /// - Wheel and touchpad scroll: "trigger", tool "camera", hint "zoom", amount in wheel steps.
 /// - Ctrl held, released: mode "precisionTool", "tool".
+/// - Pickers are told what moves the pointer, mouse, pen or finger (Picker::setDevice).
 /// - During a drag with the left button keys go to the manager's DragKeys first, Shift makes the
 ///   motion fine.
 ///
@@ -76,6 +77,7 @@ public:
 private:
     bool translate(QEvent& event);
     void followView(int eventType);
+    void takeDevice(const QEvent& event);
 
     bool press(const QMouseEvent& event);
     bool pressSecond(Qt::MouseButton button);
@@ -109,6 +111,7 @@ private:
 
     osg::Pnt2f pointerPx { 0.0F, 0.0F };
     bool pointerIsInside = false;
+    bool penIsNear = false;  ///< the last event that no mouse event was made of came from a pen
     bool precisionIsHeld = false;
     bool middleOrbits = false;
     bool buttonIsDown = false;  ///< from the first press to the last release

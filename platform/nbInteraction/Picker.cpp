@@ -26,6 +26,30 @@ osg::NodePtr nodeOf(osg::UInt32 id)
                    : osg::NodePtr::dcast(osg::FieldContainerFactory::the()->getContainer(id));
 }
 
+/// What moves the pointer of the main widget, and what that means for handles.
+struct Pointer
+{
+    PointerDevice device = PointerDevice::Mouse;
+    std::optional<PickSlop> slop;
+
+    detail::HandleReach reach(float pixelRatio) const
+    {
+        float px = Picker::kTolerance;
+        if (slop) {
+            px = device == PointerDevice::Touch ? slop->touch
+                : device == PointerDevice::Pen  ? slop->pen
+                                                : slop->mouse;
+        }
+        return { (px >= 0.0F ? px : Picker::kTolerance) * pixelRatio, slop.has_value() };
+    }
+};
+
+Pointer& pointer()
+{
+    static Pointer state;
+    return state;
+}
+
 /// Size of the main widget's view, without area if there is none. Plates need no camera.
 detail::PlateView viewSize()
 {
@@ -64,6 +88,16 @@ void Picker::setFilter(int value)
 int Picker::getFilter() const
 {
     return filter;
+}
+
+void Picker::setSlop(const std::optional<PickSlop>& reach)
+{
+    pointer().slop = reach;
+}
+
+void Picker::setDevice(PointerDevice device)
+{
+    pointer().device = device;
 }
 
 void Picker::setPixelRatio(float ratio)
@@ -122,7 +156,7 @@ osg::NodePtr Picker::pickAt(const osg::Pnt2f& px, const HandleRank& rankOf)
             rankOfId = [&rankOf](osg::UInt32 id) { return rankOf(nodeOf(id)); };
         }
         if (handlePicking->pick(getPickNode(), root, *view, centre,
-                                kTolerance * nbOSGWidget::getPixelRatio(-1), rankOfId, hit)) {
+                                pointer().reach(nbOSGWidget::getPixelRatio(-1)), rankOfId, hit)) {
             const osg::NodePtr node = nodeOf(hit.nodeId);
             rememberHit(node, hit.point, hit.normal);
             return node;

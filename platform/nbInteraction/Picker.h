@@ -10,6 +10,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,6 +21,22 @@ class HandlePicking;
 class ScenePicking;
 class WidgetView;
 }  // namespace detail
+
+/// What moves the pointer.
+enum class PointerDevice
+{
+    Mouse,
+    Pen,
+    Touch
+};
+
+/// From how far handles are hit with each device, logical pixels, >= 0.
+struct PickSlop
+{
+    float mouse = 4.0F;
+    float pen = 6.0F;
+    float touch = 14.0F;
+};
 
 /// Finds what lies under a pixel of the main render widget: scene geometry, manipulator handles or
 /// scene plates.
@@ -72,6 +89,15 @@ public:
     /// Sets the filter. Values other than those of Filter are kept and pick nothing.
     void setFilter(int value);
     int getFilter() const;
+
+    /// Has handles hit from as far as suits the device, for example setSlop(PickSlop()): of those
+    /// within reach the nearest on screen, of several as near the smaller. Nothing, as at the
+    /// start: within kTolerance, and of several as near the foremost. For all pickers.
+    static void setSlop(const std::optional<PickSlop>& reach);
+
+    /// What moves the pointer from now on; a mouse at the start. An InputTranslator says so before
+    /// each event. For all pickers.
+    static void setDevice(PointerDevice device);
 
     /// Tells the main widget its device pixels per logical one, by which the tolerance counts; for
     /// programs whose window does not tell them. See nbOSGWidget::setPixelRatio().

@@ -74,8 +74,9 @@ bool isShown(osg::NodePtr node)
 }  // namespace
 
 bool HandlePicking::pick(const osg::NodePtr& pickNode, const osg::NodePtr& worldRoot,
-                         const PickView& view, const ScreenPoint& position, float tolerancePx,
-                         const std::function<int(osg::UInt32)>& rankOf, HandleHit& hit)
+                         const PickView& view, const ScreenPoint& position,
+                         const HandleReach& reach, const std::function<int(osg::UInt32)>& rankOf,
+                         HandleHit& hit)
 {
     const bool allCount = pickNode != osg::NullFC;
     const osg::NodePtr top = allCount ? pickNode : worldRoot;
@@ -83,8 +84,7 @@ bool HandlePicking::pick(const osg::NodePtr& pickNode, const osg::NodePtr& world
         return false;
     }
     refresh(top, allCount, view);
-    return rankOf ? table.pick(position, tolerancePx, rankOf, hit)
-                  : table.pick(position, tolerancePx, hit);
+    return rankOf ? table.pick(position, reach, rankOf, hit) : table.pick(position, reach, hit);
 }
 
 void HandlePicking::refresh(const osg::NodePtr& top, bool allCount, const PickView& view)

@@ -19,10 +19,9 @@ public:
     /// Finds the handle at a position on screen.
     /// @param pickNode     top of the handles; null: below worldRoot, what is marked manipulator or
     /// selectable auxiliary
-    /// @param tolerancePx  device pixels
     /// @param rankOf       see HandleTable::pick(); null: all alike
     bool pick(const osg::NodePtr& pickNode, const osg::NodePtr& worldRoot, const PickView& view,
-              const ScreenPoint& position, float tolerancePx,
+              const ScreenPoint& position, const HandleReach& reach,
               const std::function<int(osg::UInt32)>& rankOf, HandleHit& hit);
 
 private:

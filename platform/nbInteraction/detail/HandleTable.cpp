@@ -215,8 +215,9 @@ void HandleTable::closeRuns(std::size_t first)
 
 // == Picking
 
-bool HandleTable::pick(const ScreenPoint& position, float tolerancePx, HandleHit& hit)
+bool HandleTable::pick(const ScreenPoint& position, const HandleReach& reach, HandleHit& hit)
 {
+    const float tolerancePx = reach.px;
     if (!box.isNear(position, tolerancePx + largestHalfWidthPx)) {
         return false;
     }
@@ -227,13 +228,14 @@ bool HandleTable::pick(const ScreenPoint& position, float tolerancePx, HandleHit
             collect(static_cast<std::uint32_t>(i), position, tolerancePx, bestPx);
         }
     }
-    return choose(bestPx, hit);
+    return choose(bestPx, reach, hit);
 }
 
-bool HandleTable::pick(const ScreenPoint& position, float tolerancePx,
+bool HandleTable::pick(const ScreenPoint& position, const HandleReach& reach,
                        const std::function<int(osg::UInt32)>& rankOf, HandleHit& hit)
 {
-    if (!pick(position, tolerancePx, hit)) {
+    const float tolerancePx = reach.px;
+    if (!pick(position, reach, hit)) {
         return false;
     }
     int bestRank = rankOf(hit.nodeId);
@@ -263,23 +265,42 @@ bool HandleTable::pick(const ScreenPoint& position, float tolerancePx,
         bestRank = rank;
         bestPx = std::min(bestPx, ownPx);
     }
-    return choose(bestPx, hit);
+    return choose(bestPx, reach, hit);
+}
+
+/// How far the handle of a candidate reaches over the screen, both ways together.
+float HandleTable::sizeOf(const Candidate& candidate) const
+{
+    const ScreenBox& of = screenHandles[candidate.handle].box;
+    return of.maxX - of.minX + of.maxY - of.minY;
 }
 
 /// The one that wins of the collected candidates. @param bestPx  their least distance
-bool HandleTable::choose(float bestPx, HandleHit& hit) const
+bool HandleTable::choose(float bestPx, const HandleReach& reach, HandleHit& hit)
 {
-    // In three sieves rather than by one comparison: "nearly equal" is not transitive, so sorting
-    // by it has no meaning.
-    float leastDepth = ScreenBox::kFar;
-    for (const Candidate& candidate : candidates) {
-        if (candidate.distancePx <= bestPx + kDistanceTiePx) {
-            leastDepth = std::min(leastDepth, candidate.depth);
+    // In sieves rather than by one comparison: "nearly equal" is not transitive, so sorting by it
+    // has no meaning.
+    const auto keep = [this](const auto& isKept) {
+        candidates.erase(std::remove_if(candidates.begin(), candidates.end(),
+                                        [&](const Candidate& each) { return !isKept(each); }),
+                         candidates.end());
+    };
+    const auto leastOf = [this](const auto& valueOf) {
+        float least = ScreenBox::kFar;
+        for (const Candidate& each : candidates) {
+            least = std::min(least, valueOf(each));
         }
+        return least;
+    };
+    keep([&](const Candidate& each) { return each.distancePx <= bestPx + kDistanceTiePx; });
+    if (reach.isSmallerFirst) {
+        const float least = leastOf([this](const Candidate& each) { return sizeOf(each); });
+        keep([&](const Candidate& each) { return sizeOf(each) <= least + kDistanceTiePx; });
     }
+    const float leastDepth = leastOf([](const Candidate& each) { return each.depth; });
     const float depthLimit = leastDepth + kDepthTie * std::abs(leastDepth);
     for (const Candidate& candidate : candidates) {
-        if (candidate.distancePx <= bestPx + kDistanceTiePx && candidate.depth <= depthLimit) {
+        if (candidate.depth <= depthLimit) {
             hit = { handles[candidate.handle].nodeId,
                     projection.pointAt(candidate.nearest, candidate.depth), normalOf(candidate) };
             return true;

@@ -19,6 +19,13 @@ struct HandleHit
     osg::Vec3f normal;  ///< world space, unit length
 };
 
+/// From how far handles are hit, and which of several as near.
+struct HandleReach
+{
+    float px;  ///< device pixels, >= 0
+    bool isSmallerFirst = false;  ///< the one that takes less of the screen, then the foremost
+};
+
 /// The handles of a gizmo as plain shapes, and their picture on screen for one placement and one
 /// view.
 ///
@@ -43,17 +50,16 @@ public:
     void project(const osg::Matrix& worldFromTable, const PickView& view);
 
     /// Finds the handle at a position on screen.
-    /// The least distance beyond the drawn half width wins, then the least depth, then the first in
-    /// the tree.
-    /// @param position     device pixels
-    /// @param tolerancePx  device pixels, >= 0
-    /// @return false if nothing lies within the tolerance
-    bool pick(const ScreenPoint& position, float tolerancePx, HandleHit& hit);
+    /// The least distance beyond the drawn half width wins, then the smaller where that is asked
+    /// for, then the least depth, then the first in the tree.
+    /// @param position  device pixels
+    /// @return false if nothing lies within reach
+    bool pick(const ScreenPoint& position, const HandleReach& reach, HandleHit& hit);
 
     /// The same, but handles of a lesser rank win before those of a greater one, wherever within
     /// the tolerance they lie.
     /// @param rankOf  of a node by its id, from 0; asked only of nodes within the tolerance
-    bool pick(const ScreenPoint& position, float tolerancePx,
+    bool pick(const ScreenPoint& position, const HandleReach& reach,
               const std::function<int(osg::UInt32)>& rankOf, HandleHit& hit);
 
 private:
@@ -122,7 +128,8 @@ private:
     void addScreenPrimitive(const ScreenCorner& a, const ScreenCorner& b, const ScreenCorner& c,
                             std::uint32_t index);
     void closeRuns(std::size_t first);
-    bool choose(float bestPx, HandleHit& hit) const;
+    bool choose(float bestPx, const HandleReach& reach, HandleHit& hit);
+    float sizeOf(const Candidate& candidate) const;
 
     bool isNear(std::size_t handle, const ScreenPoint& position, float tolerancePx) const
     {

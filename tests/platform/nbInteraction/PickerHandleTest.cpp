@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
+#include <nbInteraction/InputTranslator.h>
+#include <nbInteraction/InteractionManager.h>
 #include <nbOpenSGUtils/nbGeoFactory.h>
 
 #include <OpenSG/OSGLineChunk.h>
 #include <OpenSG/OSGMaterialGroup.h>
 #include <OpenSG/OSGQuaternion.h>
 #include <OpenSG/OSGSimpleMaterial.h>
+
+#include <QMouseEvent>
 
 #include "PickerTestSupport.h"
 
@@ -138,6 +142,47 @@ TEST_F(PickerHandles, PartsBehindTheEyeAreCutOff)
     EXPECT_EQ(nameAt(699.0f, 300.0f), "line");
     EXPECT_EQ(nameAt(710.0f, 300.0f), "");
     EXPECT_EQ(nameAt(370.0f, 300.0f), "");
+}
+
+TEST_F(PickerHandles, WithASlopTheDeviceSaysFromHowFarAndTheSmallerIsHit)
+{
+    using nbec::interaction::Picker;
+    nbec::interaction::InteractionManager manager;
+    nbec::interaction::InputTranslator translator(manager, &widget);
+    const auto come = [&translator](QEvent::Type own, Qt::MouseEventSource source) {
+        QEvent before(own);
+        translator.handleEvent(before);
+        QMouseEvent move(QEvent::MouseMove, QPointF(1, 1), QPointF(1, 1), QPointF(1, 1),
+                         Qt::NoButton, Qt::NoButton, Qt::NoModifier, source);
+        translator.handleEvent(move);
+    };
+
+    const struct
+    {
+        QEvent::Type own;
+        Qt::MouseEventSource source;
+        float reach;
+    } rows[] = { { QEvent::None, Qt::MouseEventNotSynthesized, 405.0F },
+                 { QEvent::TabletMove, Qt::MouseEventSynthesizedByQt, 407.0F },
+                 { QEvent::None, Qt::MouseEventSynthesizedBySystem, 407.0F },
+                 { QEvent::TouchBegin, Qt::MouseEventSynthesizedByQt, 415.0F } };
+
+    // The half width is 1.
+    hang(collider, line("line", 2.0F));
+    Picker::setSlop(nbec::interaction::PickSlop());
+    for (const auto& row : rows) {
+        come(row.own, row.source);
+        EXPECT_EQ(nameAt(row.reach - 1.0F, 300.0F), "line") << row.reach;
+        EXPECT_EQ(nameAt(row.reach, 300.0F), "") << row.reach;
+    }
+    hang(collider, placed(3.0F, 0.0F, 0.0F, named("small", box(0.4F))));
+    hang(collider, placed(2.5F, 0.0F, 2.0F, named("large", box(2.0F))));
+    EXPECT_EQ(nameAt(490.0F, 300.0F), "small") << "which lies behind";
+    Picker::setSlop(std::nullopt);
+    EXPECT_EQ(nameAt(490.0F, 300.0F), "large");
+    EXPECT_EQ(nameAt(404.0F, 300.0F), "line");
+    EXPECT_EQ(nameAt(405.0F, 300.0F), "") << "as ever, also for a finger";
+    come(QEvent::None, Qt::MouseEventNotSynthesized);
 }
 
 TEST_F(PickerHandles, LineWidthIsThatOfTheMaterialInForce)
