@@ -73,10 +73,15 @@ void UniversalTransformManipulator2::setSnapping(const SnapSettings& what)
     course().snapSettings = what;
 }
 
+void UniversalTransformManipulator2::setFurtherHandles(const FurtherHandles& wanted)
+{
+    course().setFurther(wanted);
+}
+
 void UniversalTransformManipulator2::setAxes(GizmoAxes which, const osg::Quaternion& given)
 {
-    course().axes = which;
-    course().givenAxes = given;
+    course().stance.axes = which;
+    course().stance.givenAxes = given;
     updateManipulator();
 }
 
@@ -94,8 +99,8 @@ osg::Quaternion UniversalTransformManipulator2::axesOfFace(const osg::Vec3f& nor
 
 void UniversalTransformManipulator2::setPivot(GizmoPivot which, const osg::Pnt3f& given)
 {
-    course().pivot = which;
-    course().givenPivot = given;
+    course().stance.pivot = which;
+    course().stance.givenPivot = given;
     updateManipulator();
 }
 

@@ -52,6 +52,7 @@ public:
     using SnapSettings = transform::SnapSettings;
     using GizmoAxes = transform::GizmoAxes;
     using GizmoPivot = transform::GizmoPivot;
+    using FurtherHandles = transform::FurtherHandles;
 
     /// Builds the handles, hidden, in mode translate; joins the list of live instances.
     UniversalTransformManipulator2();
@@ -151,6 +152,10 @@ public:
     /// translation goes from grid to grid, and to corners and edges where the pointer is near one;
     /// a cross marks the place. A reach that is no number or negative finds nothing.
     void setSnapping(const SnapSettings& what);
+
+    /// Adds handles to the usual ones, or takes them away; none after construction. All of them:
+    /// setFurtherHandles({ true, true, true, true, true }).
+    void setFurtherHandles(const FurtherHandles& wanted);
 
     /// Stands the gizmo along other axes; GizmoAxes::Shared after construction. Those of a picked
     /// face: setAxes(GizmoAxes::Given, axesOfFace(picker.getHitNormal())).

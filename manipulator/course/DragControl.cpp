@@ -107,7 +107,8 @@ QString DragControl::getReadout() const
     if (!isBegun) {
         return QString();
     }
-    const QString value = describeDrag(event.action, event.parameters, decimals);
+    const QString value =
+        describeDrag(event.action, event.parameters, becomes(event.parameters), decimals);
     if (!typed.isActive()) {
         return value;
     }

@@ -61,7 +61,7 @@ public:
     /// Shows or hides a handle in every mode. @return false for an unknown name
     virtual bool setHandleVisible(const std::string& /*name*/, bool /*on*/) { return false; }
 
-    /// What the drag has come to, such as "+12.50 along x", or what is being typed; translated.
+    /// What the drag has come to, see describeDrag(), or what is being typed; translated.
     /// Empty without a drag.
     QString getReadout() const;
 
@@ -96,6 +96,11 @@ protected:
     /// Goes on with the handle that does the same along or about another axis, from the start.
     /// @return whether there is one
     virtual bool changeAxis(std::size_t /*axis*/) { return false; }
+
+    /// What is dragged, as parameters leave it: of an offset where it is along each axis, of a turn
+    /// its angle in degrees, of a factor its scale along each axis. Without a kind there is no such
+    /// number.
+    virtual DragParameters becomes(const DragParameters& /*parameters*/) const { return {}; }
 
     // == For its course
 

@@ -22,11 +22,14 @@ constexpr int kLineSortKey = 64018;
 constexpr float kFillTransparency = 0.7F;
 constexpr osg::UInt32 kPieces = 72;
 constexpr osg::UInt32 kMostTicks = 72;
+constexpr int kMostDashes = 12;
 constexpr double kFullTurnDeg = 360.0;
 constexpr double kUsualTickDeg = 15.0;
+constexpr double kDashDeg = 3.0;  ///< half of a dash for a whole turn
 constexpr double kRadPerDeg = 3.14159265358979324 / 180.0;
 /// Length of ticks and marks, by the distance from the centre to the grabbed point.
 constexpr float kTickPart = 0.08F;
+constexpr float kAxisUnits = 1.8F;  ///< half of the axis of a free turn
 
 bool& isShownNow()
 {
@@ -71,13 +74,31 @@ bool isDragOverlayShown()
 
 void DragOverlay::build(const osg::NodePtr& parent)
 {
-    constexpr osg::UInt32 kEnds = 2 * (2 + kMostTicks);
+    constexpr osg::UInt32 kEnds = 2 * (2 + kMostTicks + kMostDashes);
     lines = makeDrawn(GL_LINES, kEnds, kLineSortKey, kTraceOfTransparency);
     sector = makeDrawn(GL_TRIANGLES, 3 * kPieces, kFillSortKey, kFillTransparency);
     node = makeNode(osg::Transform::create());
     addChild(node.get(), makeNode(sector));
     addChild(node.get(), makeNode(lines));
+    ghost = makeGroupNode();
+    addChild(node.get(), ghost);
     addChild(parent, node.get());
+}
+
+/// The handle as it stands now.
+void DragOverlay::buildGhost()
+{
+    const nbEdit edit(ghost, osg::Node::ChildrenFieldMask);
+    while (ghost->getNChildren() > 0) {
+        ghost->subChild(0U);
+    }
+    for (const osg::NodePtr& part : start.parts) {
+        const osg::NodePtr place = makeNode(osg::Transform::create());
+        const osg::NodePtr copy = makeSharingNode(osg::GeometryPtr::dcast(part->getCore()));
+        setMatrix(place, part->getToWorld());
+        setGeometryMaterial(copy, sector->getMaterial());
+        ghost->addChild(addChild(place, copy));
+    }
 }
 
 void DragOverlay::begin(const osg::NodePtr& parent, const OverlayStart& from)
@@ -103,6 +124,10 @@ void DragOverlay::begin(const osg::NodePtr& parent, const OverlayStart& from)
     }
     radius = towards.length();
     towards.normalize();
+    if (start.action.kind == DragParameters::Kind::Offset) {
+        buildGhost();
+    }
+    start.parts.clear();
 }
 
 void DragOverlay::end()
@@ -135,12 +160,27 @@ void DragOverlay::drawTurn(double angleDeg)
     for (double each = tick; std::abs(each) <= std::abs(swept); each += tick) {
         addLine(onRing(each, radius), onRing(each, radius * (1.0F - kTickPart)));
     }
+    const int whole =
+        static_cast<int>(std::min<double>(std::abs(angleDeg / kFullTurnDeg), kMostDashes));
+    for (int i = 1; i <= whole; ++i) {
+        const float distance = radius * (1.0F + kTickPart * static_cast<float>(i));
+        addLine(onRing(-kDashDeg, distance), onRing(kDashDeg, distance));
+    }
     const nbEdit edit(sector->getPositions(), osg::FieldBits::AllFields);
     for (osg::UInt32 i = 0; i < kPieces; ++i) {
         sector->getPositions()->setValue(start.centre, 3 * i);
         sector->getPositions()->setValue(onRing(swept * i / kPieces, radius), 3 * i + 1);
         sector->getPositions()->setValue(onRing(swept * (i + 1) / kPieces, radius), 3 * i + 2);
     }
+}
+
+void DragOverlay::drawFreeTurn(const DragParameters& parameters)
+{
+    const osg::Vec2f turn = parameters.vec2();
+    osg::Vec3f axis = start.axis * turn.x() + start.axis.cross(start.sight) * turn.y();
+    axis.normalize();
+    axis *= kAxisUnits * start.unit;
+    addLine(start.centre - axis, start.centre + axis);
 }
 
 void DragOverlay::drawLength(double factor)
@@ -176,9 +216,12 @@ void DragOverlay::show(const DragParameters& parameters, const osg::Pnt3f& centr
         drawTurn(parameters.values[0]);
     } else if (parameters.kind == Kind::Factor) {
         drawLength(parameters.values[0]);
-    } else if (parameters.kind == Kind::Offset) {
+    } else if (parameters.kind == Kind::Turns) {
+        drawFreeTurn(parameters);
+    } else if (parameters.kind == Kind::Offset || parameters.kind == Kind::Pixels) {
         drawWay(centre);
     }
+    showNode(ghost, parameters.kind == Kind::Offset);
     setCount(lines, lineEnds);
     setCount(sector, isTurn ? 3 * kPieces : 0);
     osg::Matrix localFromWorld = node->getParent()->getToWorld();

@@ -9,7 +9,7 @@
 #include <OpenSG/OSGRefPtr.h>
 #include <OpenSG/OSGVector.h>
 
-#include <cstddef>
+#include <vector>
 
 namespace nbec::manipulator {
 
@@ -23,14 +23,17 @@ struct OverlayStart
     HandleAction action;
     osg::Pnt3f centre;  ///< of the gizmo
     osg::Pnt3f grabbed;
-    osg::Vec3f axis;  ///< of a turn, unit length
+    osg::Vec3f axis;  ///< of a turn, of a free one that to the right; unit length
     osg::Vec3f sight;  ///< unit length
+    float unit = 1.0F;  ///< length of the handles' unit
     double tickDeg = 0.0;  ///< step of snapping of a turn; 0: none
+    std::vector<osg::NodePtr> parts;  ///< geometries of the handle
 };
 
 /// What a drag has come to, drawn in the scene: of a turn the swept sector with its start and
-/// present leg and ticks, the rest of whole turns; of a motion the line from where the gizmo stood,
-/// with a mark there; of a scale handle its length and its length at the start. It follows the
+/// present leg and ticks, whole turns left out, and for each of these a dash beyond the start leg;
+/// of a free turn its axis; of a motion the line from where the gizmo stood, with a mark there and
+/// a ghost of the handle; of a scale handle its length and its length at the start. It follows the
 /// parameters, so what is snapped or typed. Nothing is allocated in a step.
 class DragOverlay
 {
@@ -54,6 +57,8 @@ public:
 
 private:
     void build(const osg::NodePtr& parent);
+    void buildGhost();
+    void drawFreeTurn(const DragParameters& parameters);
     void drawTurn(double angleDeg);
     void drawLength(double factor);
     void drawWay(const osg::Pnt3f& centre);
@@ -67,6 +72,7 @@ private:
     osg::RefPtr<osg::NodePtr> node;
     osg::GeometryPtr lines;  ///< below the node
     osg::GeometryPtr sector;
+    osg::NodePtr ghost;
     osg::UInt32 lineEnds = 0;  ///< that are drawn
 };
 

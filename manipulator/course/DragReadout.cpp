@@ -6,6 +6,8 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QStringList>
 
+#include <cmath>
+
 namespace nbec::manipulator {
 
 namespace {
@@ -25,54 +27,110 @@ QString number(double value, int decimals, bool isSigned)
     return isSigned && value > 0.0 && !isNothing ? QLatin1Char('+') + text : text;
 }
 
-/// The numbers that the handle changes.
-QString numbers(const HandleAction& action, const DragParameters& parameters, int decimals,
-                bool isSigned)
-{
-    QStringList parts;
-    for (const std::size_t i : freeNumbers(action)) {
-        parts << number(parameters.values[i], decimals, isSigned);
-    }
-    return parts.join(QStringLiteral(", "));
-}
-
-QString axesOf(const HandleAction& action)
-{
-    static const QString kNames = QStringLiteral("xyz");
-    QStringList parts;
-    for (const std::size_t i : freeNumbers(action)) {
-        parts << kNames.mid(static_cast<int>(i), 1);
-    }
-    return parts.join(QStringLiteral(", "));
-}
-
-QString tr(const char* text)
+QString translated(const char* text)
 {
     return QCoreApplication::translate("nbForegroundTextContext", text);
 }
 
-}  // namespace
+QString axisName(const HandleAction& action, std::size_t axis)
+{
+    if (action.isOfView) {
+        return translated(axis == 0 ? QT_TRANSLATE_NOOP("nbForegroundTextContext", "right")
+                                    : QT_TRANSLATE_NOOP("nbForegroundTextContext", "up"));
+    }
+    return QString(QLatin1Char("xyz"[axis]));
+}
 
-QString describeDrag(const HandleAction& action, const DragParameters& parameters, int decimals)
+/// Something of each number that the handle changes.
+template <class Function>
+QString listed(const HandleAction& action, const Function& textOf)
+{
+    QStringList parts;
+    for (const std::size_t i : freeNumbers(action)) {
+        parts << textOf(i);
+    }
+    return parts.join(QStringLiteral(", "));
+}
+
+QString numbers(const HandleAction& action, const DragParameters& parameters, int decimals,
+                bool isSigned)
+{
+    return listed(action,
+                  [&](std::size_t i) { return number(parameters.values[i], decimals, isSigned); });
+}
+
+/// Whole turns are told apart, as "765.0 = 2 x 360 + 45.0".
+QString turn(double degrees)
+{
+    constexpr double kWholeTurn = 360.0;
+    const double whole = std::trunc(degrees / kWholeTurn);
+    const QString text = number(degrees, kAngleDecimals, false);
+    const double rest = degrees - whole * kWholeTurn;
+    return whole == 0.0
+        ? text
+        : QStringLiteral("%1 = %2 x 360 %3 %4")
+              .arg(text, number(whole, 0, false), QLatin1String(rest < 0.0 ? "-" : "+"),
+                   number(std::abs(rest), kAngleDecimals, false));
+}
+
+QString withUnit(const char* unit, const QString& value)
+{
+    return translated(unit).arg(value);
+}
+
+/// What the drag changes, as it has become.
+QString present(const HandleAction& action, const DragParameters& value, int decimals)
+{
+    constexpr const char* kDegrees = QT_TRANSLATE_NOOP("nbForegroundTextContext", "%1 deg");
+    switch (value.kind) {
+    case Kind::Offset:
+        return listed(action, [&](std::size_t i) {
+            return axisName(action, i) + QLatin1Char(' ') +
+                number(value.values[i], decimals, false);
+        });
+    case Kind::Angle:
+        return withUnit(kDegrees, number(value.values[0], kAngleDecimals, false));
+    case Kind::Factor:
+        return listed({ Kind::Offset, action.axes }, [&](std::size_t i) {
+            return number(value.values[i], kFactorDecimals, false);
+        });
+    default:
+        return QString();
+    }
+}
+
+QString change(const HandleAction& action, const DragParameters& parameters, int decimals)
 {
     switch (action.kind) {
     case Kind::Offset:
-        return tr(QT_TRANSLATE_NOOP("nbForegroundTextContext", "%1 along %2"))
-            .arg(numbers(action, parameters, decimals, true), axesOf(action));
+        return translated(QT_TRANSLATE_NOOP("nbForegroundTextContext", "%1 along %2"))
+            .arg(numbers(action, parameters, decimals, true),
+                 listed(action, [&](std::size_t i) { return axisName(action, i); }));
     case Kind::Angle:
-        return tr(QT_TRANSLATE_NOOP("nbForegroundTextContext", "%1 deg"))
-            .arg(number(parameters.values[0], kAngleDecimals, false));
+        return withUnit("%1 deg", turn(parameters.values[0]));
+    case Kind::Turns:
+        return withUnit("%1 deg", numbers(action, parameters, kAngleDecimals, false));
     case Kind::Factor:
         return QStringLiteral("x ") + number(parameters.values[0], kFactorDecimals, false);
     case Kind::HalfSizes:
     case Kind::Length:
         return numbers(action, parameters, decimals, false);
     case Kind::Pixels:
-        return tr(QT_TRANSLATE_NOOP("nbForegroundTextContext", "%1 px"))
-            .arg(numbers(action, parameters, 0, true));
+        return withUnit(QT_TRANSLATE_NOOP("nbForegroundTextContext", "%1 px"),
+                        numbers(action, parameters, 0, true));
     default:
         return QString();
     }
+}
+
+}  // namespace
+
+QString describeDrag(const HandleAction& action, const DragParameters& parameters,
+                     const DragParameters& become, int decimals)
+{
+    const QString text = change(action, parameters, decimals);
+    const QString now = present(action, become, decimals);
+    return now.isEmpty() ? text : text + QStringLiteral(" (") + now + QLatin1Char(')');
 }
 
 }  // namespace nbec::manipulator

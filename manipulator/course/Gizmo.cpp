@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/course/Gizmo.h"
 
-#include "manipulator/course/HandleFading.h"
 #include "manipulator/course/ValueText.h"
 #include "manipulator/drag/DragGeometry.h"
 #include "manipulator/handles/HandleNodes.h"
@@ -45,27 +44,11 @@ osg::NodePtr Gizmo::pickHandle(interaction::Picker* picker,
 int Gizmo::detect(interaction::Picker* picker)
 {
     const osg::NodePtr hit = hasTarget()
-        ? pickHandle(picker, [this](const osg::NodePtr& part) { return rankSeen(part); })
+        ? pickHandle(picker,
+                     [this](const osg::NodePtr& part) { return rankSeen(handles, part, View()); })
         : osg::NodePtr();
     const int handle = handles.find(hit);
     return handle != 0 && nbNodeUtils::hasParent(hit, root.get()) ? handle : 0;
-}
-
-/// Rank by how a handle is seen: those whose motion can be seen come first, then what points at the
-/// viewer and planes seen edge-on, then rings seen edge-on, which lie over the arrows.
-int Gizmo::rankSeen(const osg::NodePtr& part) const
-{
-    constexpr float kLeastOpenness = 0.1F;
-    constexpr float kLeastOpennessOfPlane = 0.175F;
-    const HandleRow* const row = handles.findRow(part);
-    if (row == nullptr || !View().exists()) {
-        return 0;
-    }
-    const float openness = handles.openness(*row, View().sightAt(centreOfHandles()));
-    if (row->action.kind == DragParameters::Kind::Angle) {
-        return openness < kLeastOpenness ? 2 : 0;
-    }
-    return openness < (row->action.isPlane() ? kLeastOpennessOfPlane : kLeastOpenness) ? 1 : 0;
 }
 
 bool Gizmo::hover(interaction::Picker* picker)
@@ -185,15 +168,14 @@ void Gizmo::beginOverlay(const HandleRow& row, const View& view)
     }
     OverlayStart from;
     from.action = row.action;
-    from.centre = centreOfHandles();
+    from.centre = centreOfDrag();
     from.grabbed = grabbedPoint;
-    for (std::size_t axis = 0; axis < 3; ++axis) {
-        if (row.action.axes == axisBit(axis)) {
-            from.axis = handles.axisOf(row, axis);
-        }
-    }
+    const unsigned axes = row.action.axes;
+    from.axis = handles.axisOf(row, hasAxis(axes, 0) ? 0 : hasAxis(axes, 1) ? 1 : 2);
     from.sight = view.sightAt(from.centre);
+    from.unit = column(handles.getRoot()->getToWorld(), 0).length();
     from.tickDeg = turnStepDeg();
+    from.parts = handles.partsOf(row);
     overlay.begin(overlayParent(), from);
 }
 
@@ -206,10 +188,7 @@ void Gizmo::prepareAnew()
 
 void Gizmo::step(const View& view)
 {
-    if (isTyping()) {
-        return;
-    }
-    const DragStep next = parametersAt(view, track);
+    const DragStep next = isTyping() ? DragStep() : parametersAt(view, track);
     if (next.outcome == DragStep::Outcome::Missed) {
         return;
     }
@@ -230,11 +209,9 @@ void Gizmo::applyNow(const DragParameters& parameters)
     changed(parameters);
     showText(true);
     placeIn(View());  // that of the event may be gone, too
-    overlay.show(parameters, centreOfHandles());
+    overlay.show(parameters, centreOfDrag());
     announce();
 }
-
-// == Beside the pointer
 
 DragParameters Gizmo::startParameters() const
 {
@@ -272,25 +249,17 @@ void Gizmo::restoreNow()
 
 bool Gizmo::changeAxis(std::size_t axis)
 {
-    const HandleRow* const held = handles.findRow(armed);
-    if (held == nullptr) {
+    const HandleRow* const row = handles.findAlike(armed, axis, mode);
+    if (row == nullptr) {
         return false;
     }
-    for (const HandleRow& row : handles.getTable().rows) {
-        if (row.handle != 0 && row.action.kind == held->action.kind && row.family == held->family &&
-            row.action.axes == axisBit(axis) && isInModes(mode, row.visibleIn)) {
-            cancelNow();
-            armed = row.handle;
-            handles.light(rules.isGrabbedLit ? armed : 0, mode);
-            handles.show(mode, armed);
-            begin(View());
-            return true;
-        }
-    }
-    return false;
+    cancelNow();
+    armed = row->handle;
+    handles.light(rules.isGrabbedLit ? armed : 0, mode);
+    handles.show(mode, armed);
+    begin(View());
+    return true;
 }
-
-// == The end
 
 bool Gizmo::letGo()
 {
@@ -374,8 +343,6 @@ void Gizmo::showText(bool isOfDrag)
     }
 }
 
-// == Handles
-
 void Gizmo::showActive()
 {
     if (!hasTarget()) {
@@ -447,41 +414,14 @@ void Gizmo::placeIn(const View& view)
     handles.takePalette();
     const osg::glue::EditsForOneView placing(watch.isForOtherView());
     place(view);
-    fadeHandles(view);
+    if (looks.adapt(handles, view, mode, isHeld() ? armed : 0)) {
+        handles.show(mode, isHeld() ? armed : 0);
+    }
     watch.placed();
     if (const osg::Transform3DPtr placed = handles.getRootTransform(); placed != osg::NullFC) {
         placedAt = placed->getTranslation();
         placedScale = placed->getScale();
     }
-}
-
-/// Fades handles whose motion is hardly seen, all but the held one.
-void Gizmo::fadeHandles(const View& view)
-{
-    const HandleFading& fading = getHandleFading();
-    if ((!fading.isOn && !isAnyFaded) || !view.exists()) {
-        return;
-    }
-    const osg::Vec3f sight = view.sightAt(centreOfHandles());
-    bool hasOther = false;
-    isAnyFaded = false;
-    const std::vector<HandleRow>& rows = handles.getTable().rows;
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        const bool isFree = rows[i].handle != 0 && !(isHeld() && rows[i].handle == armed);
-        const float opacity = isFree && fading.isOn
-            ? fading.opacity(rows[i].action, handles.openness(rows[i], sight))
-            : 1.0F;
-        hasOther = handles.setOpacity(i, opacity, mode) || hasOther;
-        isAnyFaded = isAnyFaded || opacity < 1.0F;
-    }
-    if (hasOther) {
-        handles.show(mode, isHeld() ? armed : 0);
-    }
-}
-
-osg::Pnt3f Gizmo::centreOfHandles() const
-{
-    return osg::Pnt3f(column(handles.getRoot()->getToWorld(), 3));
 }
 
 void Gizmo::place(const View& view)

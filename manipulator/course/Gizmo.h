@@ -3,6 +3,7 @@
 
 #include "manipulator/course/DragControl.h"
 #include "manipulator/course/DragOverlay.h"
+#include "manipulator/course/HandleLooks.h"
 #include "manipulator/course/PlacementWatch.h"
 #include "manipulator/course/PreviewPause.h"
 #include "manipulator/handles/HandleSet.h"
@@ -157,6 +158,9 @@ protected:
     /// Below which node the overlay of a drag is drawn.
     virtual osg::NodePtr overlayParent() const { return root.get(); }
 
+    /// From where the overlay of a drag goes out, world.
+    virtual osg::Pnt3f centreOfDrag() const { return handles.centre(); }
+
     /// Step of snapping of a turn, degrees; 0 without.
     virtual double turnStepDeg() const { return 0.0; }
 
@@ -215,7 +219,6 @@ private:
     bool changeAxis(std::size_t axis) override;
 
     int detect(interaction::Picker* picker);
-    int rankSeen(const osg::NodePtr& part) const;
     bool startEvent(interaction::Picker* picker);
     bool processEvent(const View& view);
     bool stopEvent();
@@ -226,15 +229,13 @@ private:
     void endLostPause();
     void vanish();
     bool isTreeMoved() const;
-    osg::Pnt3f centreOfHandles() const;
     void beginOverlay(const HandleRow& row, const View& view);
-    void fadeHandles(const View& view);
 
     CourseRules rules;
     const float* classSize;
     int mode;
     int armed = 0;
-    bool isAnyFaded = false;
+    HandleLooks looks;
     DragOverlay overlay;
     bool grabbed = false;
     bool prepared = false;

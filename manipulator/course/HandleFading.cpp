@@ -13,6 +13,10 @@ HandleFading& current()
     return fading;
 }
 
+/// Openness of a ring from which on its back half is drawn more and more as the front.
+constexpr float kBackShown = 0.75F;
+constexpr float kBackFading = 0.2F;
+
 bool isRange(float gone, float full)
 {
     return gone >= 0.0F && gone < full && full <= 1.0F;
@@ -20,8 +24,11 @@ bool isRange(float gone, float full)
 
 }  // namespace
 
-float HandleFading::opacity(const HandleAction& action, float openness) const
+float HandleFading::opacity(const HandleAction& action, float openness, bool hasFront) const
 {
+    if (hasFront) {
+        return std::clamp((openness - kBackShown) / kBackFading, ringBack, 1.0F);
+    }
     if (!isOn || action.kind == DragParameters::Kind::Angle) {
         return 1.0F;
     }
@@ -32,8 +39,9 @@ float HandleFading::opacity(const HandleAction& action, float openness) const
 
 bool setHandleFading(const HandleFading& fading)
 {
-    const bool isRight =
-        isRange(fading.axisGone, fading.axisFull) && isRange(fading.planeGone, fading.planeFull);
+    const bool isRight = isRange(fading.axisGone, fading.axisFull) &&
+        isRange(fading.planeGone, fading.planeFull) && fading.ringBack > 0.0F &&
+        fading.ringBack <= 1.0F;
     if (isRight) {
         current() = fading;
     }

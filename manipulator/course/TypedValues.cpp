@@ -18,6 +18,7 @@ nbValueExpression::Measure measureOf(DragParameters::Kind kind)
     case Kind::Length:
         return nbValueExpression::Measure::Length;
     case Kind::Angle:
+    case Kind::Turns:
         return nbValueExpression::Measure::Angle;
     default:
         return nbValueExpression::Measure::Number;
@@ -39,7 +40,7 @@ std::vector<std::size_t> freeNumbers(const HandleAction& action)
     using Kind = DragParameters::Kind;
     std::vector<std::size_t> places;
     if (action.kind == Kind::Offset || action.kind == Kind::HalfSizes ||
-        action.kind == Kind::Pixels) {
+        action.kind == Kind::Pixels || action.kind == Kind::Turns) {
         for (std::size_t i = 0; i < DragParameters::kMostValues; ++i) {
             if (hasAxis(action.axes, i)) {
                 places.push_back(i);

@@ -30,7 +30,9 @@ struct DragParameters
         Factor,  ///< one, resulting size by the size at the start
         HalfSizes,  ///< half the sides of a rectangle or box, as they become
         Length,  ///< one, as it becomes
-        Pixels  ///< how far on screen, device pixels, x to the right, y as the gizmo says
+        Pixels,  ///< how far on screen, device pixels, x to the right, y as the gizmo says
+        Turns  ///< two: about the screen's axes to the right and up, degrees; together one turn
+               ///< about the axis between them
     };
 
     static constexpr std::size_t kMostValues = 3;
@@ -78,11 +80,13 @@ struct HandleAction
     DragParameters::Kind kind = DragParameters::Kind::None;
     /// Bit i for axis i: along it, or about it of a turn. All three for a change of all sides.
     unsigned axes = 0;
+    bool isOfView = false;  ///< the axes are those of the screen: to the right, up, to the viewer
 
-    /// Whether it moves in a plane of two axes.
+    /// Whether it moves in, or scales, a plane of two axes.
     bool isPlane() const
     {
-        return kind == DragParameters::Kind::Offset && (axes == 3 || axes == 5 || axes == 6);
+        return (kind == DragParameters::Kind::Offset || kind == DragParameters::Kind::Factor) &&
+            (axes == 3 || axes == 5 || axes == 6);
     }
 };
 

@@ -23,6 +23,16 @@ LineChunks makeLineChunks()
     return chunks;
 }
 
+osg::LineChunkPtr lineChunkOf(const osg::SimpleMaterialPtr& material)
+{
+    for (const osg::StateChunkPtr& chunk : *material->getMFChunks()) {
+        if (const auto line = osg::LineChunkPtr::dcast(chunk); line != osg::NullFC) {
+            return line;
+        }
+    }
+    return osg::LineChunkPtr();
+}
+
 osg::LineChunkPtr makeLineChunk(float widthPx)
 {
     const osg::LineChunkPtr chunk = osg::LineChunk::create();

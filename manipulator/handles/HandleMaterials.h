@@ -37,6 +37,9 @@ struct LineChunks
 
 NB_MANIPULATOR_API LineChunks makeLineChunks();
 
+/// The line chunk of a material; null without one.
+osg::LineChunkPtr lineChunkOf(const osg::SimpleMaterialPtr& material);
+
 /// A chunk of smooth lines, count 0. @param widthPx  logical pixels
 osg::LineChunkPtr makeLineChunk(float widthPx);
 

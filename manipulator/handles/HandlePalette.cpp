@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstddef>
 
 namespace nbec::manipulator {
@@ -67,7 +68,8 @@ const HandlePalette& builtInPalette(BuiltInPalette which)
                                                                 { 0.3F, 0.6F, 1.0F },
                                                                 { 1.0F, 1.0F, 0.0F },
                                                                 { 1.0F, 1.0F, 1.0F },
-                                                                { 1.0F, 0.3F, 1.0F } },
+                                                                { 1.0F, 0.3F, 1.0F },
+                                                                /*hasEdges*/ true },
                                                               { { 0.6F, 0.0F, 0.0F },
                                                                 { 0.13F, 0.62F, 0.48F },
                                                                 { 0.21F, 0.0F, 1.0F },
@@ -83,6 +85,9 @@ bool setHandlePalette(const HandlePalette& palette)
         if (!isColour(palette.*colour)) {
             return false;
         }
+    }
+    if (!(palette.lineWidth > 0.0F) || !std::isfinite(palette.lineWidth)) {
+        return false;
     }
     current().palette = palette;
     ++current().count;

@@ -18,6 +18,11 @@ struct HandlePalette
     osg::Color3f highlight { 1.0F, 0.5F, 0.0F };
     osg::Color3f pivot { 0.6F, 0.35F, 0.65F };
 
+    bool hasEdges = false;  ///< handles have a dark edge
+    bool hasLetters =
+        false;  ///< letters stand at the tips of arrows, or of what a mode has instead
+    float lineWidth = 1.0F;  ///< of lines, by their classic one, > 0
+
     /// Whether all colours are the same, exactly.
     NB_MANIPULATOR_API bool isSame(const HandlePalette& other) const;
 };
@@ -37,7 +42,7 @@ NB_MANIPULATOR_API const HandlePalette& builtInPalette(BuiltInPalette which);
 
 /// Sets the colours of all gizmos, which take them at their next update. Classic at the start. For
 /// example setHandlePalette(builtInPalette(BuiltInPalette::Soft)).
-/// @return false, and nothing is set, if a component does not lie in 0 to 1
+/// @return false, and nothing is set, if a component does not lie in 0 to 1, or lines have no width
 NB_MANIPULATOR_API bool setHandlePalette(const HandlePalette& palette);
 NB_MANIPULATOR_API const HandlePalette& getHandlePalette();
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/handles/HandleSet.h"
 
+#include "manipulator/drag/DragGeometry.h"
 #include "manipulator/handles/HandleMaterials.h"
 #include "manipulator/handles/HandleNodes.h"
 #include "manipulator/handles/HandlePalette.h"
@@ -20,6 +21,9 @@
 namespace nbec::manipulator {
 
 namespace {
+
+/// Logical pixels; lines are 2 wide.
+constexpr float kEdgeWidth = 5.0F;
 
 osg::Vec3f vectorOf(const std::array<float, 3>& values)
 {
@@ -62,22 +66,39 @@ HandleSet::HandleSet(const HandleTable& handleTable, Materials handleMaterials)
 {
     for (const osg::SimpleMaterialRefPtr& material : materials) {
         classicColours.push_back(material != osg::NullFC ? material->getDiffuse() : osg::Color3f());
+        const osg::LineChunkPtr line =
+            material != osg::NullFC ? lineChunkOf(material.get()) : osg::LineChunkPtr();
+        classicWidths.push_back(line != osg::NullFC ? line->getWidth() : 0.0F);
     }
     takePalette();
     for (std::size_t i = 0; i < table->groups.size(); ++i) {
         groups.push_back(makeTransform3DNode(osg::Vec3f()));
     }
-    for (std::size_t i = 0; i < table->rows.size(); ++i) {
+    build(osg::NodePtr());
+    for (const osg::NodePtr& group : groups) {
+        addChild(root.get(), group);
+    }
+}
+
+void HandleSet::build(const osg::NodePtr& copies)
+{
+    for (std::size_t i = handles.size(); i < table->rows.size(); ++i) {
         const HandleRow& row = table->rows[i];
         const bool isGrouped = row.family >= 0 && !groups.empty();
         handles.push_back(buildHandle(row));
         addChild(isGrouped ? groups[static_cast<std::size_t>(row.family)] : root.get(),
                  handles.back().top);
         colour(i, false, 0);
+        if (copies != osg::NullFC) {
+            addChild(copies, osg::cloneTree(handles.back().top));
+        }
     }
-    for (const osg::NodePtr& group : groups) {
-        addChild(root.get(), group);
-    }
+}
+
+void HandleSet::extend(const HandleTable& longer, const osg::NodePtr& copies)
+{
+    table = &longer;
+    build(copies);
 }
 
 HandleSet::Nodes HandleSet::buildHandle(const HandleRow& row)
@@ -123,6 +144,28 @@ const HandleRow* HandleSet::findRow(int handle) const
     const auto found =
         std::find_if(table->rows.begin(), table->rows.end(), [handle](const HandleRow& row) {
             return handle != 0 && row.handle == handle;
+        });
+    return found != table->rows.end() ? &*found : nullptr;
+}
+
+osg::Pnt3f HandleSet::centre() const
+{
+    return osg::Pnt3f(column(root->getToWorld(), 3));
+}
+
+const HandleRow* HandleSet::findAlike(int handle, std::size_t axis, int mode) const
+{
+    using Kind = DragParameters::Kind;
+    const HandleRow* const own = findRow(handle);
+    if (own == nullptr) {
+        return nullptr;
+    }
+    const Kind kind = own->action.kind == Kind::Turns ? Kind::Angle : own->action.kind;
+    const auto found =
+        std::find_if(table->rows.begin(), table->rows.end(), [&](const HandleRow& row) {
+            return row.handle != 0 && row.action.kind == kind && row.family == own->family &&
+                row.action.axes == axisBit(axis) && !row.action.isOfView &&
+                isInModes(mode, row.visibleIn);
         });
     return found != table->rows.end() ? &*found : nullptr;
 }
@@ -179,16 +222,17 @@ float HandleSet::openness(const HandleRow& row, const osg::Vec3f& sight) const
 
 // == Colours
 
-void HandleSet::colour(std::size_t row, bool isLit, int mode)
+void HandleSet::colour(std::size_t row, bool isHigh, int mode)
 {
     Nodes& nodes = handles[row];
-    const bool isFaded = !isLit && nodes.opacity > 0.0F && nodes.opacity < 1.0F;
+    const bool isFaded = !isHigh && nodes.opacity > 0.0F && nodes.opacity < 1.0F;
     for (std::size_t i = 0; i < nodes.parts.size(); ++i) {
         const HandleColors& colors = table->rows[row].parts[i].colors;
         const std::size_t idle = isInModes(mode, table->specialIn) ? colors.special : colors.idle;
         setGeometryMaterial(nodes.parts[i],
                             isFaded ? fadedMaterial(nodes, i, idle)
-                                    : materials[isLit ? colors.highlight : idle].get());
+                                    : materials[isHigh ? colors.highlight : idle].get());
+        nodes.trim.colourFront(materials[isHigh ? colors.highlight : idle].get());
     }
 }
 
@@ -217,9 +261,14 @@ bool HandleSet::setOpacity(std::size_t row, float opacity, int mode)
         return false;
     }
     handles[row].opacity = opacity;
-    const HandleRow& of = table->rows[row];
-    colour(row, lit != 0 && (of.handle == lit || of.litWith == lit), mode);
+    colour(row, isLit(row), mode);
     return true;
+}
+
+bool HandleSet::isLit(std::size_t row) const
+{
+    const HandleRow& of = table->rows[row];
+    return lit != 0 && (of.handle == lit || of.litWith == lit);
 }
 
 bool HandleSet::takePalette()
@@ -227,6 +276,7 @@ bool HandleSet::takePalette()
     if (paletteCount == handlePaletteCount()) {
         return false;
     }
+    const HandlePalette& palette = getHandlePalette();
     paletteCount = handlePaletteCount();
     for (std::size_t i = 0; i < materials.size(); ++i) {
         if (materials[i] == osg::NullFC) {
@@ -234,12 +284,50 @@ bool HandleSet::takePalette()
         }
         const nbEdit edit(materials[i].get(), osg::FieldBits::AllFields);
         materials[i]->setDiffuse(inHandlePalette(classicColours[i]));
+        if (const osg::LineChunkPtr line = lineChunkOf(materials[i].get()); line != osg::NullFC) {
+            const nbEdit lineEdit(line, osg::LineChunk::WidthFieldMask);
+            line->setWidth(classicWidths[i] * palette.lineWidth);
+        }
+    }
+    if (palette.hasEdges) {
+        dark = makeEdgeMaterial(kEdgeWidth * palette.lineWidth);
     }
     for (Nodes& nodes : handles) {
+        nodes.trim.showEdges(palette.hasEdges, nodes.parts, dark.get());
         // Seen with the placement that follows.
         nodes.opacity = nodes.opacity > 0.0F ? 1.0F : 0.0F;
     }
     return true;
+}
+
+bool HandleSet::hasFront(std::size_t row) const
+{
+    const HandleRow& of = table->rows[row];
+    const HandleShape shape = of.parts.front().shape;
+    return of.action.kind == DragParameters::Kind::Angle && !of.action.isOfView &&
+        (shape == HandleShape::Ring || shape == HandleShape::SolidBigRing);
+}
+
+void HandleSet::face(const osg::Vec3f& sight, const osg::Quaternion& facing, int mode)
+{
+    const bool hasLetters = getHandlePalette().hasLetters;
+    isFacing = hasLetters;
+    std::string seen;
+    for (std::size_t i = 0; i < handles.size(); ++i) {
+        const HandleRow& row = table->rows[i];
+        const HandlePart& first = row.parts.front();
+        Nodes& nodes = handles[i];
+        const bool hasLetter = hasLetters && row.letter != 0 && isInModes(mode, row.visibleIn) &&
+            !nodes.isHidden && seen.find(row.letter) == std::string::npos;
+        seen += hasLetter ? row.letter : '\0';
+        nodes.trim.showLetter(hasLetter, nodes.top, row.letter, row.tip,
+                              materials[first.colors.idle].get(), facing);
+        const bool isInFront = hasFront(i) && nodes.opacity < 1.0F;
+        isFacing = isFacing || isInFront;
+        nodes.trim.showFront(isInFront, nodes.parts.front(),
+                             first.shape == HandleShape::SolidBigRing, sight);
+        colour(i, isLit(i), mode);
+    }
 }
 
 void HandleSet::setDefaultMaterials(int mode)
@@ -264,9 +352,9 @@ void HandleSet::light(int handle, int mode)
         return by != 0 && (row.handle == by || row.litWith == by);
     };
     for (std::size_t i = 0; i < handles.size(); ++i) {
-        const bool isLit = isLitBy(table->rows[i], handle);
-        if (isLit || isLitBy(table->rows[i], lit)) {
-            colour(i, isLit, mode);
+        const bool isNew = isLitBy(table->rows[i], handle);
+        if (isNew || isLitBy(table->rows[i], lit)) {
+            colour(i, isNew, mode);
         }
     }
     lit = handle;

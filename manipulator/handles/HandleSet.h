@@ -2,6 +2,7 @@
 #pragma once
 
 #include "manipulator/handles/HandleTable.h"
+#include "manipulator/handles/HandleTrim.h"
 #include "manipulator/nbManipulatorExport.h"
 
 #include <nbOpenSGExt/Transform3D.h>
@@ -30,7 +31,14 @@ public:
     /// @param handleMaterials  those that the table names by their places
     HandleSet(const HandleTable& handleTable, Materials handleMaterials);
 
+    /// Goes on with a table that begins as the present one: builds what it has more, below the
+    /// root. @param copies  also gets unnamed copies of that, for a depth pass
+    void extend(const HandleTable& longer, const osg::NodePtr& copies);
+
     osg::NodePtr getRoot() const { return root.get(); }
+
+    /// Origin of the root, world.
+    osg::Pnt3f centre() const;
 
     /// Core of the root; null where the table's root has another one.
     osg::Transform3DPtr getRootTransform() const;
@@ -39,6 +47,12 @@ public:
     /// Top node of the handle of a row.
     osg::NodePtr getNode(std::size_t row) const { return handles[row].top; }
 
+    /// Geometries of the handle of a row of the table.
+    const std::vector<osg::NodePtr>& partsOf(const HandleRow& row) const
+    {
+        return handles[static_cast<std::size_t>(&row - table->rows.data())].parts;
+    }
+
     /// A material by its place in the list.
     osg::SimpleMaterialPtr getMaterial(std::size_t index) const { return materials[index].get(); }
 
@@ -46,6 +60,10 @@ public:
 
     /// The first row of a handle; null for 0.
     const HandleRow* findRow(int handle) const;
+
+    /// The row of the handle that does the same as another one along or about an axis of the gizmo,
+    /// if a mode shows it; null without one.
+    const HandleRow* findAlike(int handle, std::size_t axis, int mode) const;
 
     /// The row that a node is part of, as find(); null for any other node.
     const HandleRow* findRow(const osg::NodePtr& node) const;
@@ -78,9 +96,20 @@ public:
     /// Gives the materials the colours of the palette in force. @return whether they had others
     bool takePalette();
 
-    /// Draws the handle of a row in part, lit up or not as it is; at 0 it is hidden with the next
-    /// show(). @param opacity  0 to 1 @return whether it had another
+    /// Draws the handle of a row in part, lit up or not as it is, of a ring with a front the rest
+    /// of it; at 0 it is hidden with the next show(). @param opacity  0 to 1 @return whether it had
+    /// another
     bool setOpacity(std::size_t row, float opacity, int mode);
+
+    /// Turns letters and the fronts of faded rings to the viewer. @param sight  world, unit length
+    /// @param facing  turn of the camera
+    void face(const osg::Vec3f& sight, const osg::Quaternion& facing, int mode);
+
+    /// Whether the last face() has turned anything.
+    bool isTurned() const { return isFacing; }
+
+    /// Whether the handle of a row is a ring of which a half can be in front.
+    bool hasFront(std::size_t row) const;
 
     // == Visibility
 
@@ -101,13 +130,16 @@ private:
         osg::NodePtr top;
         std::vector<osg::NodePtr> parts;
         Materials faded;  ///< of parts, if it ever faded
+        HandleTrim trim;
         float opacity = 1.0F;
         bool isExcluded = false;
         bool isHidden = false;  ///< by the host
     };
 
+    void build(const osg::NodePtr& copies);
     static Nodes buildHandle(const HandleRow& row);
-    void colour(std::size_t row, bool isLit, int mode);
+    void colour(std::size_t row, bool isHigh, int mode);
+    bool isLit(std::size_t row) const;
     osg::SimpleMaterialPtr fadedMaterial(Nodes& of, std::size_t part, std::size_t color);
     bool isShown(std::size_t row, int mode, const HandleRow* held) const;
 
@@ -117,6 +149,9 @@ private:
     std::vector<osg::NodePtr> groups;
     std::vector<Nodes> handles;
     std::vector<osg::Color3f> classicColours;  ///< of the materials
+    std::vector<float> classicWidths;  ///< of their lines; 0 without
+    osg::RefPtr<osg::MaterialPtr> dark;  ///< of edges
+    bool isFacing = false;  ///< letters or fronts are shown
     unsigned paletteCount = 0;  ///< of the palette that they have
     int lit = 0;
 };

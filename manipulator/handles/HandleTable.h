@@ -34,6 +34,9 @@ constexpr bool isInModes(int mode, HandleModes set)
     return mode >= 0 && (set >> static_cast<unsigned>(mode) & 1U) != 0;
 }
 
+/// Place of the letter of an arrow, beyond its head.
+constexpr float kArrowTip = 1.4F;
+
 /// Node that places what is below it.
 enum class HandleHolder
 {
@@ -87,6 +90,8 @@ struct HandleRow
     HandleLeaves leaves = HandleLeaves::Nothing;
     bool staysInDrags = false;  ///< seen in drags of other handles, too
     HandleAction action {};
+    char letter = 0;  ///< X, Y, Z, U or V, which a palette may show at the tip; 0 none
+    float tip = 0.0F;  ///< place of the letter, along y in the frame of the handle
 };
 
 /// All handles of a class of gizmos as data.

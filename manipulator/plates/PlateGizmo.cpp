@@ -236,6 +236,11 @@ void PlateGizmo::placeGuides(const PlateView& view, const PlateGuides& guides) c
     }
 }
 
+osg::Pnt3f PlateGizmo::centreOfDrag() const
+{
+    return osg::Pnt3f(column(handles.getNode(BodyRow)->getToWorld(), 3));
+}
+
 // == Drags
 
 bool PlateGizmo::canStep(const View& view)

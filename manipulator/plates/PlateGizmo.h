@@ -46,6 +46,7 @@ protected:
     void finish() override { previewPause.end(); }
 
     void place(const View& view) override;
+    osg::Pnt3f centreOfDrag() const override;
 
     /// The camera, the view's size and every field of a plate count: placing is as quick as asking.
     bool isDisplaced(const View& /*view*/) const override { return true; }

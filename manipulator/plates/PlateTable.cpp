@@ -66,7 +66,7 @@ HandleAction actionOf(Active handle)
     constexpr unsigned kBoth = 3;
     return handle == Active::Rotate ? HandleAction { Kind::Angle, axisBit(2) }
         : handle == Active::Move    ? HandleAction { Kind::Pixels, kBoth }
-                                    : HandleAction { Kind::Factor, kBoth };
+                                    : HandleAction { Kind::Factor, kAllAxes };
 }
 
 HandleRow handleRow(const char* name, Active handle, const std::vector<HandlePart>& parts)

@@ -58,7 +58,7 @@ HandleAction actionOf(Active handle)
     if (handle < Active::ScaleLowerLeft) {
         return { Kind::Factor,
                  handle == Active::ScaleUniform
-                     ? kInPlane
+                     ? kAllAxes
                      : axisBit(number(handle) - number(Active::ScaleX)) };
     }
     const PlanarSide side = planarSideOf(handle);

@@ -96,6 +96,8 @@ HandleRow solidArrow(const char* name, int handle, int family, std::size_t color
                                 handlePart(HandleShape::SolidArrowHead, color) });
     row.place = place;
     row.turn = turn;
+    row.letter = "XYZ"[color];
+    row.tip = kArrowTip;
     return row;
 }
 
@@ -120,6 +122,8 @@ HandleRow axisArrow(const char* name, int handle, int family, std::size_t axis)
                         handlePart(HandleShape::ArrowHead, axis, HandleHolder::Component,
                                    { 0.0F, 1.0F, 0.0F }) } };
     row.place[axis] = 1.0F;
+    row.letter = "XYZ"[axis];
+    row.tip = kArrowTip;
     row.turn = kTurns[axis];
     row.action = { DragParameters::Kind::Offset, axisBit(axis) };
     return row;

@@ -50,7 +50,8 @@ HandlePart handlePart(HandleShape shape, std::size_t color,
 /// A row whose parts lie where they belong.
 HandleRow handleRow(const char* name, int handle, int family, std::vector<HandlePart> parts);
 
-/// The row of a solid arrow. @param place  of its middle
+/// The row of a solid arrow. @param color  of its axis, RedMaterial for x and so on
+/// @param place  of its middle
 HandleRow solidArrow(const char* name, int handle, int family, std::size_t color,
                      const std::array<float, 3>& place, Turn turn);
 

@@ -65,7 +65,7 @@ HandleAction actionOf(Handle handle)
     case Handle::ScaleV:
         return { Kind::Factor, axisBit(handle == Handle::ScaleV ? 1 : 0) };
     default:
-        return { Kind::Factor, kBoth };
+        return { Kind::Factor, kAllAxes };
     }
 }
 
@@ -90,6 +90,8 @@ HandleTable makeTable()
         handleRow("rotateShape", number(Handle::Rotate), kRotateGroup,
                   { handlePart(HandleShape::SolidRing, BlueMaterial) }),
     };
+    table.rows[0].letter = 'U';
+    table.rows[1].letter = 'V';
     for (HandleRow& row : table.rows) {
         row.action = actionOf(static_cast<Handle>(row.handle));
     }

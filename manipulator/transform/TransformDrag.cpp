@@ -40,28 +40,29 @@ void straighten(osg::Matrix& frame, osg::UInt32 axis)
     }
 }
 
+/// Keeps the components along some axes.
+osg::Vec3f masked(const osg::Vec3f& delta, unsigned axes)
+{
+    osg::Vec3f result;
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        result[i] = hasAxis(axes, i) ? delta[i] : 0.0F;
+    }
+    return result;
+}
+
 /// Keeps the components along which a handle moves; none of a handle that is no arrow or plane.
 osg::Vec3f maskedByHandle(const osg::Vec3f& delta, ActiveMode handle)
 {
-    const osg::UInt32 axis = isTranslation(handle) ? axisOf(handle) : kNoAxis;
-    const osg::UInt32 normal = planeNormalAxis(handle);
-    osg::Vec3f masked;
-    for (osg::UInt32 i = 0; i < 3; ++i) {
-        const bool isKept = normal < 3 ? i != normal : i == axis;
-        masked[i] = isKept ? delta[i] : 0.0F;
-    }
-    return masked;
+    return masked(delta, isTranslation(handle) ? axisSetOf(handle) : 0);
 }
 
-/// The axis that the frame of a node's parent maps onto that of the grabbed ring; a mirrored parent
-/// turns the other way.
-osg::Vec3f ringAxisAbove(const osg::NodePtr& node, const GrabbedGizmo& grabbed)
+/// The vector that the frame of a node's parent maps onto one of the world about which it is
+/// turned; a mirrored parent turns the other way.
+osg::Vec3f turnAxisAbove(const osg::NodePtr& node, osg::Vec3f axisWorld)
 {
     const osg::Matrix worldFromParent = parentToWorld(node);
-    osg::Vec3f ringAxis = column(grabbed.frame, axisOf(grabbed.handle));
-    inverted(worldFromParent).multMatrixVec(ringAxis);
-    ringAxis = unitVector(ringAxis);
-    return worldFromParent.det3() < 0.0F ? -ringAxis : ringAxis;
+    inverted(worldFromParent).multMatrixVec(axisWorld);
+    return worldFromParent.det3() < 0.0F ? -axisWorld : axisWorld;
 }
 
 /// A node's rotation, without the rotation orientation of a Transform3D.
@@ -171,12 +172,16 @@ TransformStart captureStart(const osg::NodePtr& node, const GrabbedGizmo& grabbe
         start.anchor = pivotWorld(node, transform, isScale(grabbed.handle));
     }
     start.rotation = turnOf(node);
-    if (isRing(grabbed.handle) && transform != osg::NullFC) {
+    if (isTurn(grabbed.handle) && transform != osg::NullFC) {
+        for (osg::UInt32 axis = 0; axis < 2; ++axis) {
+            start.screenAxes[axis] = turnAxisAbove(node, column(grabbed.frame, axis));
+        }
+        const osg::UInt32 axis = isRing(grabbed.handle) ? axisOf(grabbed.handle) : 0;
         captureRotation(start,
                         nbEulerUtils::fromDegrees(
                             transform->getRotation(),
                             nbEulerUtils::getOrderFromString(transform->getEulerRotationOrder())),
-                        ringAxisAbove(node, grabbed));
+                        unitVector(turnAxisAbove(node, column(grabbed.frame, axis))));
     }
     return start;
 }
@@ -189,7 +194,8 @@ TransformDrag prepareManipulator(const osg::NodePtr& node, const GrabbedGizmo& g
     drag.unit = grabbed.unit;
     drag.axes = grabbed.axes;
     drag.center = osg::Pnt3f(column(grabbed.frame, 3));
-    if (const osg::UInt32 axis = axisOf(grabbed.handle); axis != kNoAxis) {
+    const osg::UInt32 axis = std::min(axisOf(grabbed.handle), planeNormalAxis(grabbed.handle));
+    if (axis != kNoAxis) {
         drag.handleAxis = unitVector(column(grabbed.frame, axis));
     }
     updateManipulatorPlane(drag, node, grabbed, view);
@@ -239,12 +245,18 @@ osg::Vec3f offsetTo(const TransformDrag& drag, const osg::Pnt3f& point, bool isL
     return offsetBetween(drag, drag.center, point, isLocal);
 }
 
+osg::Vec3f startPlace(const TransformDrag& drag, bool isLocal, bool ofPivot)
+{
+    const TransformStart& start = drag.starts.front();
+    return isLocal
+        ? rotated(start.rotation.inverse(), ofPivot ? start.pivotLocal : start.translationLocal)
+        : rotated(drag.axes.inverse(), ofPivot ? start.pivotWorld : start.translationWorld);
+}
+
 osg::Vec3f withSnappedPlace(const TransformDrag& drag, const osg::Vec3f& offset, double step,
                             bool isLocal)
 {
-    const TransformStart& start = drag.starts.front();
-    const osg::Vec3f place = isLocal ? rotated(start.rotation.inverse(), start.translationLocal)
-                                     : rotated(drag.axes.inverse(), start.translationWorld);
+    const osg::Vec3f place = startPlace(drag, isLocal, false);
     osg::Vec3f result;
     for (osg::UInt32 i = 0; i < 3; ++i) {
         result[i] = static_cast<float>(snapped(place[i] + offset[i], step)) - place[i];
@@ -280,11 +292,19 @@ double turnAtStart(const TransformStart& start)
 double factorAt(const TransformDrag& drag, const osg::Pnt3f& point, osg::UInt32 upAxis)
 {
     const bool isUniform = drag.handle == ActiveMode::ScaleUniform;
+    const osg::Vec3f place = mapped(drag.inverseScaleFrame, point).subZero();
+    if (planeNormalAxis(drag.handle) != kNoAxis) {
+        const osg::Vec3f start = masked(drag.scaleAnchor, axisSetOf(drag.handle));
+        const float square = start.squareLength();
+        return square < kShortest * kShortest * drag.unit * drag.unit
+            ? 1.0
+            : std::max(place.dot(start) / square, kLeastAxisRatio);
+    }
     const osg::UInt32 axis = isUniform ? upAxis : axisOf(drag.handle);
     if (axis > 2 || std::abs(drag.scaleAnchor[axis]) < kShortest * drag.unit) {
         return 1.0;
     }
-    const float ratio = mapped(drag.inverseScaleFrame, point)[axis] / drag.scaleAnchor[axis];
+    const float ratio = place[axis] / drag.scaleAnchor[axis];
     if (!isUniform) {
         return std::max(ratio, kLeastAxisRatio);
     }
@@ -292,6 +312,13 @@ double factorAt(const TransformDrag& drag, const osg::Pnt3f& point, osg::UInt32 
     const float factor = ratio > 1.0F ? 1.0F + (ratio - 1.0F) * kUniformSpeed
                                       : 1.0F + (1.0F - ratio) * -kUniformSpeed;
     return std::max(factor, kLeastUniformFactor);
+}
+
+osg::Vec2d screenTurnAt(const TransformDrag& drag, const osg::Pnt3f& point)
+{
+    const osg::Vec3f way = rotated(drag.axes.inverse(), point - drag.dragStartWorld);
+    const double radius = kTrackballRadius * drag.unit;
+    return radius > 0.0 ? osg::Vec2d(-way.y() / radius, way.x() / radius) : osg::Vec2d();
 }
 
 // == From drag parameters to a target's value
@@ -307,19 +334,29 @@ osg::Vec3f movedPivot(const TransformStart& start, const osg::Vec3f& offset, boo
     return isLocal ? start.pivotLocal + rotated(start.rotation, offset) : start.pivotWorld + offset;
 }
 
-osg::Vec3f orbitedTranslation(const TransformDrag& drag, const TransformStart& start,
-                              double turnRad, float factor)
+osg::Vec3f turnedTranslation(const TransformDrag& drag, const TransformStart& start,
+                             const osg::Vec2d& turnRad)
 {
     const osg::Vec3f arm = start.anchor - drag.center;
-    osg::Vec3f moved = arm * factor;
-    if (isRing(drag.handle)) {
-        osg::Quaternion turn;
-        turn.setValueAsAxisRad(drag.handleAxis, static_cast<float>(turnRad));
-        moved = rotated(turn, arm);
-    } else if (drag.handle != ActiveMode::ScaleUniform) {
-        moved = arm + drag.handleAxis * (drag.handleAxis.dot(arm) * (factor - 1.0F));
+    osg::Vec3f axis = drag.handleAxis;
+    double angle = turnRad.x();
+    if (drag.handle == ActiveMode::RotateFree) {
+        angle = turnRad.length();
+        axis = unitVector(rotated(
+            drag.axes,
+            osg::Vec3f(static_cast<float>(turnRad.x()), static_cast<float>(turnRad.y()), 0.0F)));
     }
-    return start.translationWorld + (moved - arm);
+    osg::Quaternion turn;
+    turn.setValueAsAxisRad(axis, static_cast<float>(angle));
+    return start.translationWorld + (rotated(turn, arm) - arm);
+}
+
+osg::Vec3f scaledTranslation(const TransformDrag& drag, const TransformStart& start, float factor)
+{
+    const osg::Vec3f arm = start.anchor - drag.center;
+    const osg::Vec3f along = drag.handleAxis * drag.handleAxis.dot(arm);
+    const bool isAlong = axisOf(drag.handle) != kNoAxis;
+    return start.translationWorld + (isAlong ? along : arm - along) * (factor - 1.0F);
 }
 
 HalfTurn::HalfTurn(double turnRad)
@@ -353,13 +390,22 @@ nbEulerAngles turnedAngles(const TransformStart& start, const HalfTurn& turn,
     return nbEulerUtils::nearest(nbEulerUtils::EulFromQuat(turned, start.anglesRad.order), before);
 }
 
+nbEulerAngles turnedFreely(const TransformStart& start, const osg::Vec2d& turnRad,
+                           const nbEulerAngles& before)
+{
+    TransformStart about;
+    captureRotation(about, start.anglesRad,
+                    unitVector(start.screenAxes[0] * static_cast<float>(turnRad.x()) +
+                               start.screenAxes[1] * static_cast<float>(turnRad.y())));
+    return turnedAngles(about, HalfTurn(turnRad.length()), before);
+}
+
 osg::Vec3f scaledBy(const TransformStart& start, ActiveMode handle, float factor, double step,
                     SnapRule rule)
 {
-    const bool isUniform = handle == ActiveMode::ScaleUniform;
     osg::Vec3f scale = start.scale;
     for (osg::UInt32 i = 0; i < 3; ++i) {
-        if (isUniform || i == axisOf(handle)) {
+        if (hasAxis(axisSetOf(handle), i)) {
             const double wanted = scale[i] * factor;
             const double rounded = snapped(wanted, step);
             const bool isLost = rule == SnapRule::Exact && rounded == 0.0 && wanted != 0.0;

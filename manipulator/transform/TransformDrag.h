@@ -14,6 +14,7 @@
 #include <OpenSG/OSGQuaternion.h>
 #include <OpenSG/OSGVector.h>
 
+#include <array>
 #include <vector>
 
 /// Starts, frames and plane of a drag of the transform gizmo, and the five transformations: each a
@@ -35,6 +36,7 @@ struct TransformStart
     nbQuaterniond quaternion;  ///< of these angles
     bool isLocked = false;  ///< the target is left alone
     nbQuaterniond halfTurned;  ///< the same after a half turn about the grabbed ring's axis
+    std::array<osg::Vec3f, 2> screenAxes;  ///< those of a free turn, in the frame of the parent
 };
 
 /// The gizmo when a handle was grabbed.
@@ -59,7 +61,8 @@ struct TransformDrag
     osg::Matrix inverseDragFrame;  ///< world to the frame of translate and rotate
     osg::Matrix inverseScaleFrame;  ///< world to the frame of scale
     osg::Quaternion axes;  ///< along which offsets are counted outside local space
-    osg::Vec3f handleAxis;  ///< world, unit length; zero of a handle without one
+    /// Of a plane handle at right angles to it; world, unit length; zero of a handle without one.
+    osg::Vec3f handleAxis;
     osg::Pnt3f center;  ///< of the gizmo, world
     osg::Pnt3f dragStartWorld;
     osg::Pnt3f dragStartLocal;  ///< in the drag frame
@@ -87,6 +90,9 @@ osg::Vec3f offsetAt(const TransformDrag& drag, const osg::Pnt3f& point, bool isL
 /// world
 osg::Vec3f offsetTo(const TransformDrag& drag, const osg::Pnt3f& point, bool isLocal);
 
+/// Where the first target stands, or its pivot, counted along the axes of an offset.
+osg::Vec3f startPlace(const TransformDrag& drag, bool isLocal, bool ofPivot);
+
 /// An offset after which the first target stands at multiples of a step along the handle's axes.
 osg::Vec3f withSnappedPlace(const TransformDrag& drag, const osg::Vec3f& offset, double step,
                             bool isLocal);
@@ -102,9 +108,17 @@ double computeRotation(const osg::Pnt3f& from, const osg::Pnt3f& to, osg::UInt32
 /// parent, radians: its rotation is that turn after one at right angles to the axis.
 double turnAtStart(const TransformStart& start);
 
+/// Radius of the trackball, in gizmo units.
+constexpr float kTrackballRadius = 1.5F;
+
+/// A free turn to a point: how far its ball has rolled about the screen's axes to the right and up,
+/// radians. Both together are one turn about the axis between them.
+osg::Vec2d screenTurnAt(const TransformDrag& drag, const osg::Pnt3f& point);
+
 /// Factor of a scale handle at a point: the ratio of its distances from the centre along the
-/// handle's axis, at least 0.01; for the uniform one a tenth of the ratio's way from 1, at least
-/// 0.1. 1 where the start is too near the centre to divide by.
+/// handle's axis, or in its plane along the way to where it was grabbed, at least 0.01; for the
+/// uniform one a tenth of the ratio's way from 1, at least 0.1. 1 where the start is too near the
+/// centre to divide by.
 /// @param upAxis  along which the uniform one is measured, 1 or 2
 double factorAt(const TransformDrag& drag, const osg::Pnt3f& point, osg::UInt32 upAxis);
 
@@ -114,10 +128,12 @@ double factorAt(const TransformDrag& drag, const osg::Pnt3f& point, osg::UInt32 
 osg::Vec3f movedTranslation(const TransformStart& start, const osg::Vec3f& offset, bool isLocal);
 osg::Vec3f movedPivot(const TransformStart& start, const osg::Vec3f& offset, bool isLocal);
 
-/// World translation of a target after a turn about the drag's center, or a scale to and from it.
-/// @param turnRad  by a ring, 0 of scale handles  @param factor  by a scale handle
-osg::Vec3f orbitedTranslation(const TransformDrag& drag, const TransformStart& start,
-                              double turnRad, float factor);
+/// World translation of a target after a turn about the drag's center. @param turnRad  as
+/// screenTurnAt(); of a ring (turn, 0)
+osg::Vec3f turnedTranslation(const TransformDrag& drag, const TransformStart& start,
+                             const osg::Vec2d& turnRad);
+/// The same after a scale to and from it.
+osg::Vec3f scaledTranslation(const TransformDrag& drag, const TransformStart& start, float factor);
 
 /// A turn for all targets of a step: half its angle as sine and cosine.
 struct HalfTurn
@@ -138,7 +154,11 @@ void captureRotation(TransformStart& start, const nbEulerAngles& anglesRad,
 nbEulerAngles turnedAngles(const TransformStart& start, const HalfTurn& turn,
                            const nbEulerAngles& before);
 
-/// Scale times a factor along the axis of a handle, or all; these components are snapped to a step.
+/// The same after a free turn, see screenTurnAt().
+nbEulerAngles turnedFreely(const TransformStart& start, const osg::Vec2d& turnRad,
+                           const nbEulerAngles& before);
+
+/// Scale times a factor along the axes of a handle; these components are snapped to a step.
 osg::Vec3f scaledBy(const TransformStart& start, ActiveMode handle, float factor, double step,
                     SnapRule rule = SnapRule::Gathered);
 

@@ -3,23 +3,21 @@
 
 #include "manipulator/course/ValueText.h"
 #include "manipulator/drag/DragGeometry.h"
-#include "manipulator/handles/ContainerReference.h"
 #include "manipulator/handles/HandleGroup.h"
 #include "manipulator/handles/HandleNodes.h"
 #include "manipulator/scene/TargetFrame.h"
 #include "manipulator/transform/TransformHandles.h"
+#include "manipulator/transform/TransformText.h"
 
 #include <nbKernel/nbController.h>
 #include <nbKernelServices/nbScopedUndo.h>
 #include <nbOpenSGExt/Transform3D.h>
 #include <nbOpenSGUtils/nbEdit.h>
-#include <nbOpenSGUtils/nbNodePermission.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 #include <nbTransform/nbTransformModel.h>
 #include <nbUtils/nbLog.h>
 #include <nbUtils/nbMessage.h>
 
-#include <unordered_set>
 #include <utility>
 
 namespace nbec::manipulator::transform {
@@ -28,9 +26,8 @@ namespace {
 
 using Mode = ManipulatorMode;
 using Active = ActiveMode;
-using NodeIds = std::unordered_set<osg::UInt32>;
+using Kind = DragParameters::Kind;
 
-constexpr osg::Int32 kTransformPermission = 19;
 constexpr const char* kLockedWarning = "Selected node cannot be transformed.";
 constexpr const char* kOutsideWarning =
     "UniversalTransformManipulator2: the node is not moved, it hangs in no scene";
@@ -39,14 +36,10 @@ constexpr float kMarkReach = 0.15F;
 /// Deliberate: the rotation precision is turned into radians with this many digits.
 constexpr double kDegreeFactor = 3.1415927 / 360.0;
 
-bool hasSelectedAncestor(const osg::NodePtr& node, const NodeIds& selected)
+/// What a handle that turns has come to, radians; see screenTurnAt().
+osg::Vec2d turnOf(const DragParameters& parameters)
 {
-    for (osg::NodePtr above = node->getParent(); above != osg::NullFC; above = above->getParent()) {
-        if (selected.count(above.getFieldContainerId()) > 0) {
-            return true;
-        }
-    }
-    return false;
+    return { parameters.values[0] / kDegPerRad, parameters.values[1] / kDegPerRad };
 }
 
 osg::Vec3f toDegrees(const nbEulerAngles& anglesRad)
@@ -54,47 +47,11 @@ osg::Vec3f toDegrees(const nbEulerAngles& anglesRad)
     return nbEulerUtils::toVec3f(nbEulerUtils::toDegrees(anglesRad));
 }
 
-/// Text of the values that a handle edits in a mode. Deliberate: the universal mode shows none,
-/// whatever the handle, rings show theirs in mode rotate only, scale handles in mode scale only.
-/// @param anglesDeg  of the present rotation, as the drag has come to them
-QString textOf(const osg::NodePtr& node, Active handle, Mode mode, bool worldSpace,
-               const osg::Vec3f& anglesDeg)
-{
-    if (isRing(handle)) {
-        return mode == Mode::Rotate
-            ? describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Rotation ("), anglesDeg)
-            : QString();
-    }
-    if (isScale(handle)) {
-        return mode == Mode::Scale
-            ? describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Scale ("),
-                             nbNodeUtils::getTransformNodeScale(node))
-            : QString();
-    }
-    switch (mode) {
-    case Mode::Translate:
-    case Mode::Clipping:
-    case Mode::TranslateRotate:
-    case Mode::TranslateRotateYZ:
-    case Mode::TranslateRotateScale:
-        return describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Translation ("),
-                              nbTransformModel::getTranslation(node, worldSpace));
-    case Mode::RotatePivot:
-        return describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Rotate Pivot ("),
-                              nbTransformModel::getRotationPivot(node, worldSpace));
-    case Mode::ScalePivot:
-        return describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Scale Pivot ("),
-                              nbTransformModel::getScalePivot(node, worldSpace));
-    default:
-        return QString();
-    }
-}
-
 }  // namespace
 
 TransformGizmo::TransformGizmo(const TransformSettings& shared, const float& size)
     : Gizmo(CourseRules(), handleTable(), makeMaterials(), static_cast<int>(Mode::Translate), size)
-    , settings(&shared)
+    , stance { &shared }
     , multiselection(makeGroupNode())
     , additionalGeometry(makeGroupNode())
 {
@@ -108,77 +65,29 @@ TransformGizmo::TransformGizmo(const TransformSettings& shared, const float& siz
     handles.showRoot(false);
 }
 
-// == Targets
-
 void TransformGizmo::setNodes(const osg::NodePtr& node, const std::vector<osg::NodePtr>& further)
 {
     prepareAnew();  // a drag goes on from here with the new nodes
     watch.forget();
     marks.show(false);
     isOutsideTold = false;
-    targetIds = { containerId(node) };
-    if (node == osg::NullFC) {
-        return;
-    }
-    NodeIds selected = { node.getFieldContainerId() };
-    for (const osg::NodePtr& each : further) {
-        selected.insert(containerId(each));
-    }
-    NodeIds taken = { node.getFieldContainerId() };
-    for (const osg::NodePtr& each : further) {
-        if (each != osg::NullFC && !nbNodeUtils::hasParent(node, each) &&
-            !hasSelectedAncestor(each, selected) &&
-            taken.insert(each.getFieldContainerId()).second) {
-            targetIds.push_back(each.getFieldContainerId());
-        }
-    }
-    if (targetIds.size() > 1) {
-        marks.make(multiselection.get(), targetIds.size() - 1, handles.getMaterial(kYellowLine));
+    stance.heldFacing.reset();
+    targets.set(node, further);
+    if (targets.count() > 1) {
+        marks.make(multiselection.get(), targets.count() - 1, handles.getMaterial(kYellowLine));
     }
 }
 
-osg::NodePtr TransformGizmo::getNode() const
+void TransformGizmo::setFurther(const FurtherHandles& wanted)
 {
-    return targetIds.empty() ? osg::NodePtr() : resolveContainer<osg::NodePtr>(targetIds.front());
-}
-
-bool TransformGizmo::hasTarget() const
-{
-    return getNode() != osg::NullFC;
-}
-
-bool TransformGizmo::isLocked(std::size_t index) const
-{
-    const osg::NodePtr target = resolveContainer<osg::NodePtr>(targetIds[index]);
-    return target != osg::NullFC && !nbNodePermission::allows(target, kTransformPermission);
-}
-
-/// Makes a target a transform, unless it is locked. @return null for one that no longer exists or
-/// cannot be one
-osg::NodePtr TransformGizmo::getTransform(std::size_t index) const
-{
-    const osg::NodePtr target = resolveContainer<osg::NodePtr>(targetIds[index]);
-    if (target == osg::NullFC) {
-        return target;
-    }
-    const osg::NodePtr edited = index == 0 ? editedNode(target) : target;
-    return isLocked(index) ? edited : makeTransform(edited);
-}
-
-std::vector<osg::NodePtr> TransformGizmo::resolveTargets() const
-{
-    std::vector<osg::NodePtr> nodes;
-    nodes.reserve(targetIds.size());
-    for (const osg::UInt32 id : targetIds) {
-        nodes.push_back(resolveContainer<osg::NodePtr>(id));
-    }
-    nodes.front() = nodes.front() != osg::NullFC ? editedNode(nodes.front()) : nodes.front();
-    return nodes;
+    families.setFurther(handles, wanted, root->getChild(1)->getChild(0));
+    handles.show(getMode(), isHeld() ? getArmed() : 0);
+    placeIn(View());
 }
 
 bool TransformGizmo::centerPivot()
 {
-    const osg::NodePtr node = hasTarget() ? getTransform(0) : osg::NodePtr();
+    const osg::NodePtr node = hasTarget() ? targets.makeEditable(0) : osg::NodePtr();
     if (node == osg::NullFC) {
         return false;
     }
@@ -190,115 +99,49 @@ bool TransformGizmo::centerPivot()
 
 // == Placement
 
-bool TransformGizmo::isAtScalePivot() const
-{
-    return shownMode() == Mode::Scale || shownMode() == Mode::ScalePivot;
-}
-
-osg::Pnt3f TransformGizmo::anchorWorld(const osg::NodePtr& node) const
-{
-    const osg::Transform3DPtr transform = osg::Transform3DPtr::dcast(node->getCore());
-    return transform != osg::NullFC ? pivotWorld(node, transform, isAtScalePivot())
-                                    : objectCenter(node, true);
-}
-
 /// Where the gizmo stands. @param node  the first
 osg::Pnt3f TransformGizmo::centerWorld(const osg::NodePtr& node) const
 {
-    const osg::Pnt3f own = anchorWorld(node);
-    if (movesPivot() || pivot == GizmoPivot::Own || pivot == GizmoPivot::First) {
-        return own;
+    if (!hasBegun() || !stance.hasOnePoint(shownMode())) {
+        return stance.centre(node, shownMode(), targets);
     }
-    if (hasBegun()) {
-        return isTranslation(handle()) ? drag.center + (own - drag.starts.front().anchor)
-                                       : drag.center;
-    }
-    if (pivot == GizmoPivot::Given) {
-        return givenPivot;
-    }
-    osg::Vec3f sum;
-    float count = 0.0F;
-    for (const osg::NodePtr& each : resolveTargets()) {
-        if (each != osg::NullFC) {
-            sum += anchorWorld(each).subZero();
-            count += 1.0F;
-        }
-    }
-    return osg::Pnt3f(sum * (1.0F / count));
+    return isTranslation(handle())
+        ? drag.center + (stance.anchor(node, shownMode()) - drag.starts.front().anchor)
+        : drag.center;
 }
 
-/// The axes along which a handle is drawn and works. @param handle  None for the gizmo as a whole
-osg::Quaternion TransformGizmo::axesOf(Active handle, const osg::NodePtr& node) const
+osg::Quaternion TransformGizmo::axesOf(Active each, const osg::NodePtr& node) const
 {
-    if (isScale(handle) || (handle == Active::None && shownMode() == Mode::Scale)) {
-        return worldRotation(node);  // nothing can be scaled along other axes
-    }
-    if (!isLocal()) {
-        switch (axes) {
-        case GizmoAxes::Parent:
-            return osg::Quaternion(orthonormalised(parentToWorld(node)));
-        case GizmoAxes::View:
-            return hasBegun() ? facingAtStart : View().facing();
-        case GizmoAxes::Given:
-            return givenAxes;
-        default:
-            return osg::Quaternion();
-        }
-    }
-    const osg::Transform3DPtr transform = osg::Transform3DPtr::dcast(node->getCore());
-    if (transform == osg::NullFC) {
-        return worldRotation(node);
-    }
-    return isRing(handle) && transform->getRotationMode() == osg::Transform3D::AxisAlignedMode
-        ? osg::Quaternion(orthonormalised(parentToWorld(node)))
-        : pivotAxesInWorld(node, transform);
+    return stance.axesOf(each, shownMode(), node);
 }
 
 void TransformGizmo::place(const View& view)
 {
-    const osg::NodePtr node = editedNode(getNode());
+    const osg::NodePtr node = editedNode(targets.first());
     const osg::Pnt3f anchor = centerWorld(node);
     const float size = view.scaleAt(anchor, getSize(), ViewDiagonal::FrustumSides);
     watch.remember(node->getToWorld());
+    osg::Vec3f sight;
+    if (families.turnWithView()) {
+        watch.remember(view);
+        sight = view.sightAt(anchor);
+    }
     const osg::Quaternion worldFromGizmo = axesOf(Active::None, node);
     placeTransform(handles.getRootTransform(), anchor.subZero(), worldFromGizmo,
                    osg::Vec3f(size, size, size));
-    placeFamilies(worldFromGizmo.inverse(), node);
-    if (targetIds.size() > 1) {
+    families.place(handles, { stance, shownMode(), node, worldFromGizmo, sight, isHeld() });
+    if (targets.count() > 1) {
         placeMarks(size);
     }
     markTarget(size);
 }
 
-/// Turns the handles whose axes are others than those of the gizmo as a whole.
-void TransformGizmo::placeFamilies(const osg::Quaternion& gizmoFromWorld, const osg::NodePtr& node)
-{
-    std::optional<osg::Quaternion> scaleAxes;
-    std::optional<osg::Quaternion> ringAxes;
-    const std::vector<HandleRow>& rows = handleTable().rows;
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        const auto each = static_cast<Active>(rows[i].handle);
-        if ((isScale(each) || isRing(each)) && isInModes(getMode(), rows[i].visibleIn)) {
-            std::optional<osg::Quaternion>& family = isRing(each) ? ringAxes : scaleAxes;
-            if (!family) {
-                family = axesOf(each, node);
-            }
-            osg::Quaternion turn = gizmoFromWorld;
-            turn.mult(*family);
-            turn.mult(quaternionOf(rows[i].turn));
-            placeTransform(osg::Transform3DPtr::dcast(handles.getNode(i)->getCore()), osg::Vec3f(),
-                           turn, osg::Vec3f(1.0F, 1.0F, 1.0F));
-        }
-    }
-}
-
 void TransformGizmo::placeMarks(float size)
 {
-    PivotMarks::Places places(targetIds.size() - 1);
+    PivotMarks::Places places(targets.count() - 1);
     for (std::size_t i = 0; i < places.size(); ++i) {
-        if (const auto node = resolveContainer<osg::NodePtr>(targetIds[i + 1]);
-            node != osg::NullFC) {
-            places[i] = anchorWorld(node);
+        if (const osg::NodePtr node = targets.get(i + 1); node != osg::NullFC) {
+            places[i] = stance.anchor(node, shownMode());
         }
     }
     marks.draw(places, size * kMarkReach);
@@ -317,13 +160,15 @@ void TransformGizmo::markTarget(float size)
     }
 }
 
-/// Deliberate: the camera is not looked at, for which the host places all gizmos.
-bool TransformGizmo::isDisplaced(const View& /*view*/) const
+/// Deliberate: the camera is not looked at, for which the host places all gizmos, but where further
+/// handles turn with it.
+bool TransformGizmo::isDisplaced(const View& view) const
 {
-    const osg::NodePtr node = editedNode(getNode());
+    const osg::NodePtr node = editedNode(targets.first());
     const osg::Transform3DPtr placed = handles.getRootTransform();
     // Pivots move without the node.
     return watch.isElsewhere(node->getToWorld()) ||
+        (families.turnWithView() && watch.isSeenOtherwise(view)) ||
         (placed->getTranslation() - centerWorld(node).subZero()).length() > 0.0F ||
         placed->getRotationQuaternion() != axesOf(Active::None, node);
 }
@@ -332,7 +177,7 @@ bool TransformGizmo::isDisplaced(const View& /*view*/) const
 
 bool TransformGizmo::canStep(const View& view)
 {
-    const osg::NodePtr selected = getNode();
+    const osg::NodePtr selected = targets.first();
     if (selected == osg::NullFC) {
         return false;
     }
@@ -342,16 +187,16 @@ bool TransformGizmo::canStep(const View& view)
         }
         return false;
     }
-    if (targetIds.size() == 1 && isLocked(0)) {
+    if (targets.count() == 1 && targets.isLocked(0)) {
         nbLog::warning(kLockedWarning);
         return false;
     }
-    return view.exists() && getTransform(0) != osg::NullFC;
+    return view.exists() && targets.makeEditable(0) != osg::NullFC;
 }
 
 bool TransformGizmo::prepare(const View& view)
 {
-    facingAtStart = View().facing();
+    stance.heldFacing = View().facing();
     GrabbedGizmo held;
     held.handle = handle();
     held.mode = shownMode();
@@ -359,54 +204,44 @@ bool TransformGizmo::prepare(const View& view)
     held.grabbedPoint = grabbedPoint;
     const osg::Matrix placed = handles.getRoot()->getToWorld();
     held.unit = column(placed, 0).length();
-    held.axes = axesOf(handle(), getTransform(0));
+    const osg::NodePtr first = targets.makeEditable(0);
+    held.axes = axesOf(handle(), first);
     held.axes.getValue(held.frame);
     held.frame.setTranslate(column(placed, 3));
-    drag = prepareManipulator(getTransform(0), held, view, track);
-    startStates.clear();
-    for (const osg::NodePtr& node : resolveTargets()) {
-        const auto core = node != osg::NullFC ? osg::Transform3DPtr::dcast(node->getCore())
-                                              : osg::Transform3DPtr();
-        startStates.push_back(core != osg::NullFC ? nbTransformState::of(*core)
-                                                  : nbTransformState());
-    }
+    drag = prepareManipulator(first, held, view, track);
+    targets.capture();
     turned.clear();
     bool isAnyLocked = false;
-    for (std::size_t i = 0; i < targetIds.size(); ++i) {
+    for (std::size_t i = 0; i < targets.count(); ++i) {
         if (i > 0) {
-            drag.starts.push_back(captureStart(getTransform(i), held));
+            drag.starts.push_back(captureStart(targets.makeEditable(i), held));
         }
         turned.push_back(drag.starts[i].anglesRad);
-        drag.starts[i].isLocked = isLocked(i);
+        drag.starts[i].isLocked = targets.isLocked(i);
         isAnyLocked = isAnyLocked || drag.starts[i].isLocked;
     }
     if (isAnyLocked) {
         nbLog::warning(kLockedWarning);
     }
     if (snapSettings.geometry != 0 && isTranslation(handle())) {
-        targets.begin(movesPivot() ? std::vector<osg::NodePtr>() : resolveTargets());
+        snapSearch.begin(movesPivot() ? std::vector<osg::NodePtr>() : targets.edited());
     }
     return true;
 }
 
 void TransformGizmo::finish()
 {
-    targets.end();
+    snapSearch.end();
     track.target.reset();
+    stance.heldFacing.reset();
     markTarget(0.0F);
-}
-
-bool TransformGizmo::movesPivot() const
-{
-    return shownMode() == Mode::RotatePivot || shownMode() == Mode::ScalePivot;
 }
 
 DragStep TransformGizmo::parametersAt(const View& view, const DragTrack& before) const
 {
     DragTrack next = before;
     if (findTarget(view, next)) {
-        return { { DragParameters::Kind::Offset, offsetTo(drag, next.target->point, isLocal()) },
-                 next };
+        return { { Kind::Offset, offsetTo(drag, next.target->point, isLocal()) }, next };
     }
     const std::optional<osg::Line> ray = view.pointerRay();
     const std::optional<osg::Pnt3f> point =
@@ -417,18 +252,25 @@ DragStep TransformGizmo::parametersAt(const View& view, const DragTrack& before)
     if (isRing(handle())) {
         return turnAt(*point, next);
     }
-    if (isScale(handle()) && !movesPivot()) {
-        return { { DragParameters::Kind::Factor, factorAt(drag, *point, view.upAxis()) }, next };
+    if (isTurn(handle())) {
+        const osg::Vec2d turn = screenTurnAt(drag, *point) * kDegPerRad;
+        const double step = turnStepDeg();
+        DragParameters rolled(Kind::Turns, osg::Vec2f());
+        rolled.values = { snapped(turn.x(), step), snapped(turn.y(), step), 0.0 };
+        return { rolled, next };
     }
-    return { { DragParameters::Kind::Offset, snappedOffset(offsetAt(drag, *point, isLocal())) },
-             next };
+    if (isScale(handle()) && !movesPivot()) {
+        return { { Kind::Factor, factorAt(drag, *point, view.upAxis()) }, next };
+    }
+    return { { Kind::Offset, snappedOffset(offsetAt(drag, *point, isLocal())) }, next };
 }
 
 /// Looks for a place in the scene that the drag snaps to. @return whether there is one
 bool TransformGizmo::findTarget(const View& view, DragTrack& next) const
 {
     next.target = isSnapping() && isTranslation(handle())
-        ? targets.find(view.getPointer(), snapSettings.geometry, snapSettings.reachPx, next.target)
+        ? snapSearch.find(view.getPointer(), snapSettings.geometry, snapSettings.reachPx,
+                          next.target)
         : std::nullopt;
     return next.target.has_value();
 }
@@ -439,8 +281,9 @@ osg::Vec3f TransformGizmo::snappedOffset(const osg::Vec3f& offset) const
     if (!isSnapping() || movesPivot()) {  // Deliberate: no step holds pivots.
         return offset;
     }
-    return snapSettings.isAbsolute ? withSnappedPlace(drag, offset, step, isLocal())
-                                   : withSnappedLength(offset, step);
+    return snapSettings.isAbsolute && !isOfView(handle())
+        ? withSnappedPlace(drag, offset, step, isLocal())
+        : withSnappedLength(offset, step);
 }
 
 double TransformGizmo::turnStepDeg() const
@@ -454,17 +297,15 @@ DragStep TransformGizmo::turnAt(const osg::Pnt3f& point, const DragTrack& before
     const osg::Pnt3f place = mapped(drag.inverseDragFrame, point);
     if (movesPivot()) {
         next.turned = computeRotation(drag.dragStartLocal, place, axisOf(handle()));
-        return { { DragParameters::Kind::Angle, next.turned * kDegPerRad }, next };
+        return { { Kind::Angle, next.turned * kDegPerRad }, next };
     }
-    const double precision = isSnapping() ? nbTransformModel::the()->getRotationPrecision() : 0.0;
-    const double step = 2.0 * precision * kDegreeFactor;
+    const double step = 2.0 * turnStepDeg() * kDegreeFactor;
     double angle = computeRotation(before.last, place, axisOf(handle()));
     const bool isGathered = snapRule == SnapRule::Gathered && !snapSettings.isAbsolute;
     if (isGathered) {
         angle = snapped(angle, step);
         if (angle == 0.0 && isSnapping()) {
-            // Deliberate: the last point stays, so that small motions add up until they pass half a
-            // step.
+            // Deliberate: the last point stays, so that small motions add up to half a step.
             return DragStep(DragStep::Outcome::Waiting, before);
         }
     }
@@ -473,7 +314,7 @@ DragStep TransformGizmo::turnAt(const osg::Pnt3f& point, const DragTrack& before
     const double zero = snapSettings.isAbsolute ? turnAtStart(drag.starts.front()) : 0.0;
     const double total =
         isGathered || step == 0.0 ? next.turned : snapped(zero + next.turned, step) - zero;
-    return { { DragParameters::Kind::Angle, total * kDegPerRad }, next };
+    return { { Kind::Angle, total * kDegPerRad }, next };
 }
 
 /// New value of a target: one of the five transformations. @param turn  by a ring, for all
@@ -481,8 +322,9 @@ osg::Vec3f TransformGizmo::valueOf(std::size_t target, const DragParameters& par
                                    const HalfTurn& turn)
 {
     const TransformStart& start = drag.starts[target];
-    if (isRing(handle())) {
-        turned[target] = turnedAngles(start, turn, turned[target]);
+    if (isTurn(handle())) {
+        turned[target] = isRing(handle()) ? turnedAngles(start, turn, turned[target])
+                                          : turnedFreely(start, turnOf(parameters), turned[target]);
         return toDegrees(turned[target]);
     }
     const osg::Vec3f offset = isLocal() ? parameters.vec3() : rotated(drag.axes, parameters.vec3());
@@ -490,12 +332,17 @@ osg::Vec3f TransformGizmo::valueOf(std::size_t target, const DragParameters& par
         return movedPivot(start, offset, isLocal());
     }
     if (isScale(handle())) {
-        const double step = isSnapping() && !parameters.isExact
-            ? nbTransformModel::the()->getScalePrecision()
-            : 0.0;
-        return scaledBy(start, handle(), parameters.first(), step, snapRule);
+        return scaleOf(start, parameters);
     }
     return movedTranslation(start, offset, isLocal());
+}
+
+osg::Vec3f TransformGizmo::scaleOf(const TransformStart& start,
+                                   const DragParameters& parameters) const
+{
+    const double step =
+        isSnapping() && !parameters.isExact ? nbTransformModel::the()->getScalePrecision() : 0.0;
+    return scaledBy(start, handle(), parameters.first(), step, snapRule);
 }
 
 /// World translation of a target that is turned or scaled about the gizmo's centre. A snapped scale
@@ -503,62 +350,55 @@ osg::Vec3f TransformGizmo::valueOf(std::size_t target, const DragParameters& par
 osg::Vec3f TransformGizmo::orbitOf(std::size_t target, const DragParameters& parameters)
 {
     const TransformStart& start = drag.starts[target];
-    if (isRing(handle())) {
-        return orbitedTranslation(drag, start, parameters.values[0] / kDegPerRad, 1.0F);
+    if (isTurn(handle())) {
+        return turnedTranslation(drag, start, turnOf(parameters));
     }
-    const osg::UInt32 axis = handle() == Active::ScaleUniform ? 0 : axisOf(handle());
+    const osg::UInt32 axis = hasAxis(axisSetOf(handle()), 0) ? 0
+        : hasAxis(axisSetOf(handle()), 1)                    ? 1
+                                                             : 2;
     const float scale = valueOf(target, parameters, HalfTurn(0.0))[axis];
-    return orbitedTranslation(drag, start, 0.0,
-                              start.scale[axis] != 0.0F ? scale / start.scale[axis] : 1.0F);
+    return scaledTranslation(drag, start,
+                             start.scale[axis] != 0.0F ? scale / start.scale[axis] : 1.0F);
 }
 
 void TransformGizmo::apply(const DragParameters& parameters)
 {
     nbTransformModel* const model = nbTransformModel::the();
-    const std::vector<osg::NodePtr> nodes = resolveTargets();
+    const std::vector<osg::NodePtr> nodes = targets.edited();
     const auto count = static_cast<osg::UInt32>(nodes.size());
-    const HalfTurn turn(isRing(handle()) ? parameters.values[0] / kDegPerRad : 0.0);
-    const auto values = [&](osg::UInt32 i) {
-        return drag.starts[i].isLocked
-            ? nbTransformModel::Value()
-            : nbTransformModel::Value({ nodes[i], static_cast<osg::Int32>(i) },
-                                      valueOf(i, parameters, turn));
+    const HalfTurn turn(turnOf(parameters).x());
+    const auto valueFor = [&](osg::UInt32 i, const osg::Vec3f& value) {
+        return nbTransformModel::Value({ nodes[i], static_cast<osg::Int32>(i) }, value);
     };
-    const bool worldSpace = !isLocal();
+    const auto values = [&](osg::UInt32 i) {
+        return drag.starts[i].isLocked ? nbTransformModel::Value()
+                                       : valueFor(i, valueOf(i, parameters, turn));
+    };
     const nbScopedUndo scope;
-    if (pivot != GizmoPivot::Own && !movesPivot() && !isTranslation(handle())) {
+    if (stance.pivot != GizmoPivot::Own && !movesPivot() && !isTranslation(handle())) {
         model->setTranslation(count, true, [&](osg::UInt32 i) {
-            return drag.starts[i].isLocked
-                ? nbTransformModel::Value()
-                : nbTransformModel::Value({ nodes[i], static_cast<osg::Int32>(i) },
-                                          orbitOf(i, parameters));
+            return drag.starts[i].isLocked ? nbTransformModel::Value()
+                                           : valueFor(i, orbitOf(i, parameters));
         });
     }
-    if (isRing(handle())) {
+    if (isTurn(handle())) {
         movesPivot() ? model->setRotationPivotOrientation(count, values)
                      : model->setRotation(count, values);
     } else if (shownMode() == Mode::RotatePivot) {
-        model->setRotationPivot(count, worldSpace, values);
+        model->setRotationPivot(count, !isLocal(), values);
     } else if (shownMode() == Mode::ScalePivot) {
-        model->setScalePivot(count, worldSpace, values);
+        model->setScalePivot(count, !isLocal(), values);
     } else if (isScale(handle())) {
         model->setScale(count, values);
     } else {
-        model->setTranslation(count, worldSpace, values);
+        model->setTranslation(count, !isLocal(), values);
     }
 }
 
 void TransformGizmo::restore()
 {
     const nbScopedUndo scope;
-    const std::vector<osg::NodePtr> nodes = resolveTargets();
-    for (std::size_t i = 0; i < nodes.size() && i < startStates.size(); ++i) {
-        const auto core = nodes[i] != osg::NullFC ? osg::Transform3DPtr::dcast(nodes[i]->getCore())
-                                                  : osg::Transform3DPtr();
-        if (core != osg::NullFC) {
-            startStates[i].applyTo(core);
-        }
-    }
+    targets.restore();
 }
 
 void TransformGizmo::announce()
@@ -570,16 +410,33 @@ void TransformGizmo::announce()
     nbController::setModified(1);
 }
 
-// == On-screen text
+DragParameters TransformGizmo::becomes(const DragParameters& parameters) const
+{
+    if (isOfView(handle())) {
+        return {};
+    }
+    switch (parameters.kind) {
+    case Kind::Offset:
+        return { Kind::Offset, startPlace(drag, isLocal(), movesPivot()) + parameters.vec3() };
+    case Kind::Angle:
+        return { Kind::Angle,
+                 turnAtStart(drag.starts.front()) * kDegPerRad + parameters.values[0] };
+    case Kind::Factor:
+        return { Kind::Factor, scaleOf(drag.starts.front(), parameters) };
+    default:
+        return {};
+    }
+}
 
 std::optional<QString> TransformGizmo::describe() const
 {
-    if (movesPivot() && isRing(handle())) {
+    if (movesPivot() && isTurn(handle())) {
         return std::nullopt;  // Deliberate: the text of before stays.
     }
-    const osg::NodePtr node = getNode();
+    const osg::NodePtr node = targets.first();
     return node != osg::NullFC && descriptionEnabled
-        ? textOf(editedNode(node), handle(), shownMode(), !isLocal(), toDegrees(turned.front()))
+        ? describeTransform(editedNode(node), handle(), shownMode(), !isLocal(),
+                            toDegrees(turned.front()))
         : QString();
 }
 

@@ -2,24 +2,16 @@
 #pragma once
 
 #include "manipulator/course/Gizmo.h"
+#include "manipulator/transform/HandleFamilies.h"
 #include "manipulator/transform/PivotMarks.h"
 #include "manipulator/transform/TransformDrag.h"
-#include "manipulator/transform/TransformModes.h"
-
-#include <nbOpenSGUtils/nbTransformState.h>
+#include "manipulator/transform/TransformStance.h"
 
 #include <OpenSG/OSGNode.h>
 
 #include <vector>
 
 namespace nbec::manipulator::transform {
-
-/// What all transform gizmos share beside their size.
-struct TransformSettings
-{
-    bool m_LocalSpaceManipulator = false;
-    bool _temporary_snapping_active = false;
-};
 
 /// Course of the transform gizmo: the marks of further nodes, and drags that go through the
 /// transform model. See UniversalTransformManipulator2, its face.
@@ -29,26 +21,29 @@ public:
     /// @param shared, size  outlive the gizmo
     TransformGizmo(const TransformSettings& shared, const float& size);
 
-    /// Binds the gizmo to nodes. @param further  transformed along; of these left out are null,
-    /// what is given twice, and what is above or below another of the nodes
+    /// Binds the gizmo to nodes, see TransformTargets.
     void setNodes(const osg::NodePtr& node, const std::vector<osg::NodePtr>& further);
 
     /// See UniversalTransformManipulator2::centerPivot().
     bool centerPivot();
 
-    bool isSnapping() const { return snappingEnabled || settings->_temporary_snapping_active; }
+    /// Shows further handles, which are built when this is called first.
+    void setFurther(const FurtherHandles& wanted);
+
+    bool isSnapping() const
+    {
+        return snappingEnabled || stance.settings->_temporary_snapping_active;
+    }
 
     bool snappingEnabled = false;
     SnapRule snapRule = SnapRule::Gathered;
     SnapSettings snapSettings;
-    GizmoAxes axes = GizmoAxes::Shared;
-    osg::Quaternion givenAxes;
-    GizmoPivot pivot = GizmoPivot::Own;
-    osg::Pnt3f givenPivot;
+    TransformStance stance;
     bool descriptionEnabled = true;
 
 protected:
-    bool hasTarget() const override;
+    bool hasTarget() const override { return targets.first() != osg::NullFC; }
+
     bool canStep(const View& view) override;
     bool prepare(const View& view) override;
     DragStep parametersAt(const View& view, const DragTrack& before) const override;
@@ -56,7 +51,7 @@ protected:
     void restore() override;
     void finish() override;
 
-    std::vector<osg::NodePtr> editedNodes() const override { return resolveTargets(); }
+    std::vector<osg::NodePtr> editedNodes() const override { return targets.edited(); }
 
     void announce() override;
 
@@ -65,6 +60,7 @@ protected:
     double turnStepDeg() const override;
     void place(const View& view) override;
     bool isDisplaced(const View& view) const override;
+    DragParameters becomes(const DragParameters& parameters) const override;
     std::optional<QString> describe() const override;
     ValueText* getText() const override;
 
@@ -73,41 +69,31 @@ private:
 
     ManipulatorMode shownMode() const { return static_cast<ManipulatorMode>(getMode()); }
 
-    bool isLocal() const
-    {
-        return axes == GizmoAxes::Shared ? settings->m_LocalSpaceManipulator
-                                         : axes == GizmoAxes::Own;
-    }
+    /// Whether offsets are counted in the node's own space.
+    bool isLocal() const { return stance.isOwn() && !isOfView(handle()); }
 
-    bool movesPivot() const;
-    bool isAtScalePivot() const;
-    osg::NodePtr getNode() const;
-    bool isLocked(std::size_t index) const;
-    osg::NodePtr getTransform(std::size_t index) const;
-    std::vector<osg::NodePtr> resolveTargets() const;
-    osg::Pnt3f anchorWorld(const osg::NodePtr& node) const;
+    bool movesPivot() const { return transform::movesPivot(shownMode()); }
+
     osg::Pnt3f centerWorld(const osg::NodePtr& node) const;
-    osg::Quaternion axesOf(ActiveMode handle, const osg::NodePtr& node) const;
-    void placeFamilies(const osg::Quaternion& gizmoFromWorld, const osg::NodePtr& node);
+    osg::Quaternion axesOf(ActiveMode each, const osg::NodePtr& node) const;
     void placeMarks(float size);
     void markTarget(float size);
     bool findTarget(const View& view, DragTrack& next) const;
     osg::Vec3f snappedOffset(const osg::Vec3f& offset) const;
     DragStep turnAt(const osg::Pnt3f& point, const DragTrack& before) const;
+    osg::Vec3f scaleOf(const TransformStart& start, const DragParameters& parameters) const;
     osg::Vec3f orbitOf(std::size_t target, const DragParameters& parameters);
     osg::Vec3f valueOf(std::size_t target, const DragParameters& parameters, const HalfTurn& turn);
 
-    const TransformSettings* settings;
-    std::vector<osg::UInt32> targetIds;  ///< the dragged node, then the further ones
+    TransformTargets targets;
+    HandleFamilies families;
     bool isOutsideTold = false;  ///< that the node hangs in no scene
     osg::RefPtr<osg::NodePtr> multiselection;
     PivotMarks marks;  ///< of the further nodes
     osg::RefPtr<osg::NodePtr> additionalGeometry;
     PivotMarks targetMark;  ///< where a drag has snapped to
-    interaction::SnapSearch targets;
+    interaction::SnapSearch snapSearch;
     TransformDrag drag;
-    osg::Quaternion facingAtStart;  ///< of the view that the drag began in
-    std::vector<nbTransformState> startStates;  ///< of the targets at the drag's start
     std::vector<nbEulerAngles> turned;  ///< of the targets after the last turn, radians
 };
 

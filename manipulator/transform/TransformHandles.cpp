@@ -2,7 +2,7 @@
 #include "manipulator/transform/TransformHandles.h"
 
 #include "manipulator/handles/HandleMaterials.h"
-#include "manipulator/transform/TransformModes.h"
+#include "manipulator/transform/TransformDrag.h"
 
 #include <utility>
 
@@ -13,7 +13,7 @@ namespace {
 using Mode = ManipulatorMode;
 using Active = ActiveMode;
 
-/// Order of the materials of a kind; grey exists for lines only.
+/// Order of the materials of a kind; grey exists for lines only. After all of them the disc's.
 enum Color : std::size_t
 {
     Red,
@@ -26,6 +26,8 @@ enum Color : std::size_t
 };
 
 constexpr std::size_t kSolidCount = Grey;
+constexpr std::size_t kClear = kSolidCount + Grey + 1;
+constexpr std::size_t kFaint = kClear + 1;
 
 /// The turn that takes +y onto an axis.
 constexpr std::array<Turn, 3> kOntoAxis = { Turn::OntoX, Turn::None, Turn::OntoZ };
@@ -37,6 +39,7 @@ constexpr HandleModes kWithRotation =
     modes(Mode::Universal, Mode::Rotate, Mode::RotatePivot, Mode::Clipping, Mode::TranslateRotate,
           Mode::TranslateRotateYZ, Mode::TranslateRotateScale);
 constexpr HandleModes kWithRotationX = kWithRotation & ~modes(Mode::TranslateRotateYZ);
+constexpr HandleModes kWithFreeRotation = kWithRotation & ~modes(Mode::RotatePivot);
 constexpr HandleModes kWithScale = modes(Mode::Universal, Mode::Scale, Mode::TranslateRotateScale);
 constexpr HandleModes kWithUniformScale = modes(Mode::Universal, Mode::Scale);
 
@@ -74,14 +77,20 @@ HandleRow arrow(const char* name, Active handle, std::size_t axis)
     HandleRow placed = row(name, handle, Translation, { line(HandleShape::ArrowShaft, axis), head },
                            kWithTranslation, HandleHolder::Component, kOntoAxis[axis]);
     placed.place[axis] = 1.0F;
+    placed.letter = "XYZ"[axis];
+    placed.tip = kArrowTip;
     return placed;
 }
 
 HandleRow scaleHandle(const char* name, Active handle, std::size_t axis)
 {
-    return row(name, handle, Scaling,
-               { line(HandleShape::ScaleShaft, axis), solid(HandleShape::ScaleCube, axis) },
-               kWithScale, HandleHolder::Euler, kOntoAxis[axis]);
+    HandleRow placed =
+        row(name, handle, Scaling,
+            { line(HandleShape::ScaleShaft, axis), solid(HandleShape::ScaleCube, axis) },
+            kWithScale, HandleHolder::Euler, kOntoAxis[axis]);
+    placed.letter = "XYZ"[axis];
+    placed.tip = 1.75F;
+    return placed;
 }
 
 HandleRow ring(const char* name, Active handle, std::size_t axis, HandleModes visibleIn)
@@ -92,27 +101,70 @@ HandleRow ring(const char* name, Active handle, std::size_t axis, HandleModes vi
                HandleHolder::Euler, kOntoAxis[axis]);
 }
 
-/// @param turn  takes the xy plane onto the handle's
-HandleRow planeHandle(const char* name, Active handle, Turn turn,
-                      const std::array<std::size_t, 3>& colors)
+/// Of the squares that scale, so that the cube in the middle can be grabbed.
+constexpr float kBesideCube = 0.3F;
+
+/// A square that moves in its plane, or scales it.
+HandleRow planeHandle(const char* name, Active handle)
 {
-    return row(name, handle, Translation,
-               { solid(HandleShape::PlanePatch, colors[0]),
-                 solid(HandleShape::PlaneBarX, colors[1]),
-                 solid(HandleShape::PlaneBarY, colors[2]) },
-               kWithTranslation, HandleHolder::Component, turn);
+    // By the axis at right angles. Deliberate: the colours (patch, bar, bar) do not follow one
+    // rule: xz has two red bars, yz two blue ones.
+    constexpr Turn kTurns[] = { Turn::AboutY, Turn::OntoZ, Turn::None };
+    constexpr Color kColors[][3] = { { Green, Blue, Blue },
+                                     { Blue, Red, Red },
+                                     { Green, Red, Green } };
+    const Color(&colors)[3] = kColors[planeNormalAxis(handle)];
+    const bool scales = isScale(handle);
+    HandleRow placed = row(
+        name, handle, scales ? Scaling : Translation,
+        { solid(HandleShape::PlanePatch, colors[0]), solid(HandleShape::PlaneBarX, colors[1]),
+          solid(HandleShape::PlaneBarY, colors[2]) },
+        scales ? modes(Mode::Scale) : kWithTranslation,
+        scales ? HandleHolder::Euler : HandleHolder::Component, kTurns[planeNormalAxis(handle)]);
+    for (std::size_t axis = 0; axis < 3; ++axis) {
+        const bool isAside = scales && hasAxis(axisSetOf(handle), axis);
+        placed.place[axis] = isAside ? kBesideCube : 0.0F;
+    }
+    return placed;
+}
+
+HandlePart scaled(HandlePart part, float x, float y, float z)
+{
+    part.holder = HandleHolder::Component;
+    part.scale = { x, y, z };
+    return part;
+}
+
+/// Those in the frame of the screen: the middle, which in mode Universal is that of the cube; the
+/// outer ring; and a flat sphere.
+std::vector<HandleRow> screenHandles()
+{
+    constexpr float kSide = 0.35F;
+    constexpr float kLarger = 1.2F;
+    constexpr float kBall = kTrackballRadius / 0.125F;
+    const HandlePart fill { HandleShape::Square, { kFaint, kFaint, kFaint } };
+    const HandlePart ball { HandleShape::CentreSphere, { kClear, kFaint, kClear } };
+    return { row("vaShape", Active::TranslateView, Translation,
+                 { scaled(line(HandleShape::SquareOutline, Yellow), kSide, kSide, 1.0F),
+                   scaled(fill, kSide, kSide, 1.0F) },
+                 kWithTranslation & ~modes(Mode::Universal), HandleHolder::Euler, Turn::None),
+             row("rvShape", Active::RotateView, Rotation,
+                 { scaled(line(HandleShape::Ring, Yellow), kLarger, kLarger, kLarger) },
+                 kWithFreeRotation, HandleHolder::Euler, Turn::OntoZ),
+             row("rtShape", Active::RotateFree, Rotation, { scaled(ball, kBall, kBall, 0.1F) },
+                 kWithFreeRotation, HandleHolder::Euler, Turn::None) };
 }
 
 HandleAction actionOf(Active handle)
 {
     using Kind = DragParameters::Kind;
-    const std::size_t axis = axisOf(handle);
-    const unsigned axes = axis != kNoAxis ? axisBit(axis) : kAllAxes;
-    if (isTranslation(handle)) {
-        const std::size_t normal = planeNormalAxis(handle);
-        return { Kind::Offset, normal != kNoAxis ? axes & ~axisBit(normal) : axes };
+    if (handle == Active::RotateFree) {
+        return { Kind::Turns, axisBit(0) | axisBit(1), true };
     }
-    return { isRing(handle) ? Kind::Angle : Kind::Factor, axes };
+    return { isTranslation(handle) ? Kind::Offset
+                 : isRing(handle)  ? Kind::Angle
+                                   : Kind::Factor,
+             axisSetOf(handle), isOfView(handle) };
 }
 
 HandleRow marker(HandleShape shape, std::size_t color, HandleModes visibleIn)
@@ -120,9 +172,7 @@ HandleRow marker(HandleShape shape, std::size_t color, HandleModes visibleIn)
     return { nullptr, 0, NoFamily, { solid(shape, color) }, visibleIn, HandleHolder::None };
 }
 
-/// Deliberate: the plane handles' colours (patch, bar, bar) do not follow one rule: xz has two red
-/// bars, yz two blue ones.
-HandleTable makeTable()
+HandleTable makeTable(bool hasFurther)
 {
     HandleTable table;
     table.rows = {
@@ -137,12 +187,20 @@ HandleTable makeTable()
         ring("rxShape", Active::RotateX, 0, kWithRotationX),
         ring("ryShape", Active::RotateY, 1, kWithRotation),
         ring("rzShape", Active::RotateZ, 2, kWithRotation),
-        planeHandle("xyaShape", Active::TranslateXY, Turn::None, { Green, Red, Green }),
-        planeHandle("xzaShape", Active::TranslateXZ, Turn::OntoZ, { Blue, Red, Red }),
-        planeHandle("yzaShape", Active::TranslateYZ, Turn::AboutY, { Green, Blue, Blue }),
+        planeHandle("xyaShape", Active::TranslateXY),
+        planeHandle("xzaShape", Active::TranslateXZ),
+        planeHandle("yzaShape", Active::TranslateYZ),
         marker(HandleShape::CentreSphere, Yellow, modes(Mode::RotatePivot)),
         marker(HandleShape::Cube, Purple, modes(Mode::ScalePivot)),
     };
+    if (hasFurther) {
+        const std::vector<HandleRow> screen = screenHandles();
+        table.rows.insert(table.rows.end(), screen.begin(), screen.end());
+        table.rows.insert(table.rows.end(),
+                          { planeHandle("xysShape", Active::ScaleXY),
+                            planeHandle("xzsShape", Active::ScaleXZ),
+                            planeHandle("yzsShape", Active::ScaleYZ) });
+    }
     for (HandleRow& row : table.rows) {
         if (row.handle != 0) {
             row.action = actionOf(static_cast<Active>(row.handle));
@@ -165,7 +223,13 @@ const std::size_t kOrangeLine = kSolidCount + Orange;
 
 const HandleTable& handleTable()
 {
-    static const HandleTable table = makeTable();
+    static const HandleTable table = makeTable(false);
+    return table;
+}
+
+const HandleTable& furtherHandleTable()
+{
+    static const HandleTable table = makeTable(true);
     return table;
 }
 
@@ -185,6 +249,10 @@ HandleSet::Materials makeMaterials()
         // line materials.
         const int sortKey = i == Orange ? handleSortKey::kSolid : handleSortKey::kLine;
         materials.push_back(makeHandleMaterial(colors[i], sortKey, &chunks));
+    }
+    for (const float transparency : { 1.0F, 0.8F }) {
+        materials.push_back(
+            makeHandleMaterial(colors[Yellow], handleSortKey::kLine, nullptr, transparency));
     }
     return materials;
 }

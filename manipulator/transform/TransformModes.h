@@ -40,7 +40,32 @@ enum class ActiveMode : osg::UInt32
     ScaleX = 10,
     ScaleY = 11,
     ScaleZ = 12,
-    ScaleUniform = 13
+    ScaleUniform = 13,
+    // Those of FurtherHandles
+    TranslateView = 14,
+    RotateView = 15,
+    RotateFree = 16,
+    ScaleXY = 17,
+    ScaleXZ = 18,
+    ScaleYZ = 19
+};
+
+/// Handles of a transform gizmo beside the usual ones, and where these stand. Modes that move a
+/// pivot by turning it have no further rings.
+struct FurtherHandles
+{
+    /// "vaShape": the square in the middle moves in the plane of the screen; not in mode Universal.
+    bool centre = false;
+    bool viewRing = false;  ///< "rvShape": the outer ring turns about the view axis
+    bool trackball = false;  ///< "rtShape": the disc in the rings turns about any axis; it is hit
+                             ///< where nothing else is, and seen while it is hovered or held
+    bool planeScales = false;  ///< "xysShape", "xzsShape", "yzsShape": in mode Scale the plane
+                               ///< handles scale along two axes
+    /// Arrows, planes and scale handles stand on the viewer's side of their axes; not changed while
+    /// a handle is held.
+    bool facesViewer = false;
+
+    bool isAny() const { return centre || viewRing || trackball || planeScales || facesViewer; }
 };
 
 /// What snapping makes of turns and scales.
@@ -95,19 +120,39 @@ struct SnapSettings
     float reachPx = 12.0F;  ///< how near on screen such a place has to be, device pixels, >= 0
 };
 
+constexpr bool movesPivot(ManipulatorMode mode)
+{
+    return mode == ManipulatorMode::RotatePivot || mode == ManipulatorMode::ScalePivot;
+}
+
+/// Whether a handle works along the axes of the screen: x to the right, y up.
+constexpr bool isOfView(ActiveMode handle)
+{
+    return handle >= ActiveMode::TranslateView && handle <= ActiveMode::RotateFree;
+}
+
 constexpr bool isRing(ActiveMode handle)
 {
-    return handle >= ActiveMode::RotateX && handle <= ActiveMode::RotateZ;
+    return (handle >= ActiveMode::RotateX && handle <= ActiveMode::RotateZ) ||
+        handle == ActiveMode::RotateView;
+}
+
+/// Whether a handle turns.
+constexpr bool isTurn(ActiveMode handle)
+{
+    return isRing(handle) || handle == ActiveMode::RotateFree;
 }
 
 constexpr bool isTranslation(ActiveMode handle)
 {
-    return handle >= ActiveMode::TranslateX && handle <= ActiveMode::TranslateYZ;
+    return (handle >= ActiveMode::TranslateX && handle <= ActiveMode::TranslateYZ) ||
+        handle == ActiveMode::TranslateView;
 }
 
 constexpr bool isScale(ActiveMode handle)
 {
-    return handle >= ActiveMode::ScaleX && handle <= ActiveMode::ScaleUniform;
+    return (handle >= ActiveMode::ScaleX && handle <= ActiveMode::ScaleUniform) ||
+        handle >= ActiveMode::ScaleXY;
 }
 
 /// What axisOf() and planeNormalAxis() answer for handles that have none.
@@ -116,19 +161,32 @@ constexpr osg::UInt32 kNoAxis = 3;
 /// Axis of a handle of one axis, 0, 1 or 2.
 constexpr osg::UInt32 axisOf(ActiveMode handle)
 {
-    const bool hasAxis = isRing(handle) ||
-        (isTranslation(handle) && handle <= ActiveMode::TranslateZ) ||
-        (isScale(handle) && handle <= ActiveMode::ScaleZ);
+    if (handle == ActiveMode::RotateView) {
+        return 2;
+    }
+    const bool hasAxis = handle > ActiveMode::None && handle <= ActiveMode::ScaleZ &&
+        !(handle >= ActiveMode::TranslateXY && handle <= ActiveMode::TranslateYZ);
     return hasAxis ? (static_cast<osg::UInt32>(handle) - 1) % 3 : kNoAxis;
 }
 
-/// Axis at right angles to a plane handle: z of xy, y of xz, x of yz.
+/// Axis at right angles to a plane handle: z of xy and of the screen, y of xz, x of yz.
 constexpr osg::UInt32 planeNormalAxis(ActiveMode handle)
 {
-    const bool isPlane = isTranslation(handle) && handle >= ActiveMode::TranslateXY;
-    return isPlane
-        ? static_cast<osg::UInt32>(ActiveMode::TranslateYZ) - static_cast<osg::UInt32>(handle)
-        : kNoAxis;
+    if (handle == ActiveMode::TranslateView) {
+        return 2;
+    }
+    const ActiveMode last = isScale(handle) ? ActiveMode::ScaleYZ : ActiveMode::TranslateYZ;
+    const osg::UInt32 fromLast = static_cast<osg::UInt32>(last) - static_cast<osg::UInt32>(handle);
+    return (isScale(handle) || isTranslation(handle)) && fromLast < 3 ? fromLast : kNoAxis;
+}
+
+/// The axes along which a handle moves or scales, or about which it turns: bit i for axis i; all of
+/// one that acts in all directions.
+constexpr unsigned axisSetOf(ActiveMode handle)
+{
+    const osg::UInt32 axis = axisOf(handle);
+    const osg::UInt32 normal = planeNormalAxis(handle);
+    return axis != kNoAxis ? 1U << axis : normal != kNoAxis ? 7U & ~(1U << normal) : 7U;
 }
 
 }  // namespace nbec::manipulator::transform

@@ -95,6 +95,11 @@ void Picker::setSlop(const std::optional<PickSlop>& reach)
     pointer().slop = reach;
 }
 
+const std::optional<PickSlop>& Picker::getSlop()
+{
+    return pointer().slop;
+}
+
 void Picker::setDevice(PointerDevice device)
 {
     pointer().device = device;

@@ -94,6 +94,7 @@ public:
     /// within reach the nearest on screen, of several as near the smaller. Nothing, as at the
     /// start: within kTolerance, and of several as near the foremost. For all pickers.
     static void setSlop(const std::optional<PickSlop>& reach);
+    static const std::optional<PickSlop>& getSlop();
 
     /// What moves the pointer from now on; a mouse at the start. An InputTranslator says so before
     /// each event. For all pickers.

@@ -2,6 +2,9 @@
 #pragma once
 
 #include "manipulator/ManipulatorInteractionContext.h"
+#include "manipulator/course/DragOverlay.h"
+#include "manipulator/course/HandleFading.h"
+#include "manipulator/handles/HandlePalette.h"
 #include "tests/fuzz/Actor.h"
 #include "tests/fuzz/Equipment.h"
 
@@ -28,7 +31,13 @@ public:
         replace(true);
     }
 
-    ~ManipulatorActor() override { end(); }
+    ~ManipulatorActor() override
+    {
+        setDragOverlayShown(false);
+        setHandleFading({});
+        setHandlePalette({});
+        end();
+    }
 
     void act(Bytes& bytes) override
     {
@@ -233,6 +242,12 @@ private:
             break;
         case 4:
             gizmo->setReadoutShown(bytes.flag(), 1.0F);
+            setDragOverlayShown(bytes.flag());
+            setHandleFading(
+                { bytes.flag(), 0.1F, 0.02F, 0.25F, 0.175F, bytes.flag() ? 0.3F : 1.0F });
+            palette.hasLetters = bytes.flag();
+            palette.hasEdges = bytes.flag();
+            setHandlePalette(palette);
             break;
         default:
             for (const char key : bytes.text()) {
@@ -261,6 +276,7 @@ private:
     Stage& stage;
     std::unique_ptr<Watched> gizmo;
     std::optional<ManipulatorInteractionContext> context { std::in_place };
+    HandlePalette palette;
 };
 
 /// A tool with its context and a picker of its own.

@@ -52,6 +52,10 @@ void configure(Transform& gizmo, Stage& stage, Bytes& bytes)
         gizmo.setDescriptionEnabled(bytes.flag());
         return Transform::setLocalSpaceManipulator(bytes.flag());
     case 4:
+        if (bytes.flag()) {
+            return gizmo.setFurtherHandles(
+                { bytes.flag(), bytes.flag(), bytes.flag(), bytes.flag(), bytes.flag() });
+        }
         gizmo.centerPivot();
         return;
     case 5:

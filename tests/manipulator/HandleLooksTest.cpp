@@ -2,6 +2,7 @@
 // What hosts may change of how handles look: fading, palettes, the overlay of drags.
 #include "manipulator/course/HandleFading.h"
 #include "manipulator/handles/HandlePalette.h"
+#include "tests/manipulator/support/AllocationCount.h"
 #include "tests/manipulator/support/AnyManipulator.h"
 #include "tests/manipulator/support/HandleScene.h"
 
@@ -115,6 +116,67 @@ TYPED_TEST(HandleLooks, APaletteRecoloursAndTheClassicOneRestores)
     EXPECT_EQ(partColors(arrow), classic);
 }
 
+TYPED_TEST(HandleLooks, EdgesAndLettersAreNeverHitAndGoWithTheirPalette)
+{
+    const auto shown = [this] {
+        std::size_t named = 0;
+        std::size_t unnamed = 0;
+        for (const osg::NodePtr& part : partsOf(this->node(this->kTraits.handle))) {
+            ++(osg::getName(part) != nullptr ? named : unnamed) -= isShown(part) ? 0 : 1;
+        }
+        return std::pair(named, unnamed);
+    };
+    const auto before = shown();
+    ASSERT_EQ(before.second, 0U);
+    HandlePalette rich = builtInPalette(BuiltInPalette::HighContrast);
+    rich.hasLetters = true;
+    rich.lineWidth = 0.0F;
+    EXPECT_FALSE(setHandlePalette(rich));
+    rich.lineWidth = 2.0F;
+    ASSERT_TRUE(setHandlePalette(rich));
+    this->gizmo->update(false);
+    EXPECT_EQ(shown(), std::pair(before.first, before.first + 1)) << "an edge each, and a letter";
+    EXPECT_TRUE(this->drag());
+    setHandlePalette(HandlePalette());
+    this->gizmo->update(false);
+    EXPECT_EQ(shown(), before);
+}
+
+TEST(HandleFades, OfARingTheHalfBehindIsDim)
+{
+    DragScene at;
+    HandleFading fading;
+    fading.ringBack = 0.0F;
+    EXPECT_FALSE(setHandleFading(fading));
+    fading.ringBack = 0.3F;
+    ASSERT_TRUE(setHandleFading(fading));
+    at.activate(Transform::ManipulatorMode::Rotate);
+    const osg::NodePtr ring = partsOf(at.handle("rxShape"))[0];
+    const auto transparency = [](const osg::NodePtr& node) {
+        const auto core = osg::GeometryPtr::dcast(node->getCore());
+        return osg::SimpleMaterialPtr::dcast(core->getMaterial())->getTransparency();
+    };
+    for (const Pnt3f& eye : { Pnt3f(3, 4, 8), Pnt3f(-3, 4, -8), Pnt3f(0, -9, 3) }) {
+        at.scene.lookFrom(eye);
+        Transform::updateAllManipulators();
+        EXPECT_NEAR(transparency(ring), 0.7F, 1e-4F);
+        ASSERT_EQ(partsOf(ring).size(), 2U);
+        const osg::NodePtr front = partsOf(ring)[1];
+        EXPECT_EQ(transparency(front), 0.0F);
+        const auto positions = osg::GeometryPtr::dcast(front->getCore())->getPositions();
+        for (osg::UInt32 i = 0; i < positions->getSize(); ++i) {
+            Pnt3f place = positions->getValue(i);
+            front->getToWorld().multMatrixPnt(place);
+            EXPECT_GE((place - at.onGizmo({})).dot(eye.subZero()), -0.1F);
+        }
+    }
+    at.scene.lookFrom(Pnt3f(10, 0.1F, 0));
+    Transform::updateAllManipulators();
+    EXPECT_EQ(transparency(ring), 0.0F) << "seen from above nothing is behind";
+    EXPECT_FALSE(isShown(partsOf(ring)[1]));
+    setHandleFading(HandleFading());
+}
+
 TEST(HandleFades, HandlesSeenEndOnFadeAndCannotBeGrabbed)
 {
     DragScene at;
@@ -171,6 +233,26 @@ TYPED_TEST(HandleLooks, TheOverlayIsThereWhileSomethingIsDragged)
     EXPECT_EQ(points(), 6U) << "a line and a mark";
     this->gizmo->cancelDrag();
     EXPECT_EQ(points(), 0U);
+}
+
+TYPED_TEST(HandleLooks, TheOverlayAllocatesNothingInAStep)
+{
+    const auto allocationsOfSteps = [this] {
+        EXPECT_TRUE(this->press() && this->step() && this->step() && this->step());
+        const std::size_t before = allocationCount();
+        for (int i = 0; i < 20; ++i) {
+            this->step();
+        }
+        const std::size_t made = allocationCount() - before;
+        this->gizmo->cancelDrag();
+        return made;
+    };
+    ASSERT_TRUE(this->drag());
+    allocationsOfSteps();
+    const std::size_t without = allocationsOfSteps();
+    setDragOverlayShown(true);
+    allocationsOfSteps();
+    EXPECT_EQ(allocationsOfSteps(), without);
 }
 
 template <class Gizmo>

@@ -108,6 +108,8 @@ public:
     void replay(const Session& session, const std::optional<QDir>& pictures);
     void stopReplay();
     bool isReplaying() const;
+
+
     /// Begins to record, or ends it and asks where the session goes.
     void record(bool on);
     bool isRecording() const;

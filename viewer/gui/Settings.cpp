@@ -10,6 +10,7 @@
 #include "viewer/gui/ViewWidget.h"
 #include "viewer/loading/PictureDecoding.h"
 
+#include <nbInteraction/Picker.h>
 #include <nbTransform/nbTransformModel.h>
 
 #include <QSettings>
@@ -31,9 +32,10 @@ constexpr std::pair<const char*, BuiltInPalette> kPalettes[] = {
 
 QJsonValue presentPalette()
 {
+    nbec::manipulator::HandlePalette present = nbec::manipulator::getHandlePalette();
+    present.hasLetters = false;
     for (const auto& [word, palette] : kPalettes) {
-        if (nbec::manipulator::builtInPalette(palette).isSame(
-                nbec::manipulator::getHandlePalette())) {
+        if (nbec::manipulator::builtInPalette(palette).isSame(present)) {
             return QLatin1String(word);
         }
     }
@@ -44,7 +46,9 @@ void setPalette(const QJsonValue& wanted)
 {
     for (const auto& [word, palette] : kPalettes) {
         if (wanted.toString() == QLatin1String(word)) {
-            nbec::manipulator::setHandlePalette(nbec::manipulator::builtInPalette(palette));
+            nbec::manipulator::HandlePalette chosen = nbec::manipulator::builtInPalette(palette);
+            chosen.hasLetters = nbec::manipulator::getHandlePalette().hasLetters;
+            nbec::manipulator::setHandlePalette(chosen);
         }
     }
 }
@@ -121,6 +125,8 @@ void Settings::addWindow()
 void Settings::addHandles()
 {
     using namespace nbec::manipulator;
+    using nbec::interaction::Picker;
+    using nbec::interaction::PickSlop;
     GizmoController& gizmo = window.view().stage().gizmo();
     const Setting rows[] = {
         { "palette",
@@ -134,10 +140,31 @@ void Settings::addHandles()
         { "handleFading", QT_TR_NOOP("Handles fade that are seen end-on"),
           [] { return getHandleFading().isOn; },
           [&gizmo](const QJsonValue& on) {
-              HandleFading wanted;
+              HandleFading wanted = getHandleFading();
               wanted.isOn = on.toBool();
               setHandleFading(wanted);
               gizmo.followCamera();
+          } },
+        { "ringBacks", QT_TR_NOOP("Backs of rings are dim"),
+          [] { return getHandleFading().ringBack < 1.0F; },
+          [&gizmo](const QJsonValue& on) {
+              constexpr float kDim = 0.3F;
+              HandleFading wanted = getHandleFading();
+              wanted.ringBack = on.toBool() ? kDim : 1.0F;
+              setHandleFading(wanted);
+              gizmo.followCamera();
+          } },
+        { "handleLetters", QT_TR_NOOP("Letters at the tips of handles"),
+          [] { return getHandlePalette().hasLetters; },
+          [](const QJsonValue& on) {
+              HandlePalette wanted = getHandlePalette();
+              wanted.hasLetters = on.toBool();
+              setHandlePalette(wanted);
+          } },
+        { "pickSlop", QT_TR_NOOP("Hit handles from farther with pen or finger"),
+          [] { return Picker::getSlop().has_value(); },
+          [](const QJsonValue& on) {
+              Picker::setSlop(on.toBool() ? std::optional(PickSlop()) : std::nullopt);
           } },
         { "dragOverlay", QT_TR_NOOP("Draw what a drag has come to"),
           [] { return isDragOverlayShown(); },
@@ -155,6 +182,38 @@ void Settings::addHandles()
           4.0 },
     };
     settings.insert(settings.end(), std::begin(rows), std::end(rows));
+    addFurtherHandles();
+}
+
+void Settings::addFurtherHandles()
+{
+    using Further = GizmoController::FurtherHandles;
+    GizmoController& gizmo = window.view().stage().gizmo();
+
+    const struct
+    {
+        const char* name;
+        const char* label;
+        bool Further::*handle;
+    } rows[] = {
+        { "handleCentre", QT_TR_NOOP("A handle moves in the plane of the screen"),
+          &Further::centre },
+        { "viewRing", QT_TR_NOOP("A ring turns about the view axis"), &Further::viewRing },
+        { "trackball", QT_TR_NOOP("A disc turns freely"), &Further::trackball },
+        { "planeScales", QT_TR_NOOP("Planes scale in two axes"), &Further::planeScales },
+        { "facingHandles", QT_TR_NOOP("Handles stand on the viewer's side"),
+          &Further::facesViewer },
+    };
+
+    for (const auto& row : rows) {
+        settings.push_back({ row.name, row.label,
+                             [&gizmo, row] { return gizmo.furtherHandles().*row.handle; },
+                             [&gizmo, row](const QJsonValue& on) {
+                                 Further further = gizmo.furtherHandles();
+                                 further.*row.handle = on.toBool();
+                                 gizmo.setFurtherHandles(further);
+                             } });
+    }
 }
 
 void Settings::addSteps()

@@ -45,6 +45,7 @@ public:
 private:
     void addWindow();
     void addHandles();
+    void addFurtherHandles();
     void addSteps();
     void addCommand(const Setting& setting);
 

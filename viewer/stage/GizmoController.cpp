@@ -193,12 +193,21 @@ void GizmoController::setSnapping(bool on)
     transform.enableSnapping(on);
 }
 
+void GizmoController::setFurtherHandles(const FurtherHandles& handles)
+{
+    further = handles;
+    transform.setFurtherHandles(further);
+    followCamera();
+}
+
 void GizmoController::setSnapToScene(bool on)
 {
     using nbec::interaction::SnapSearch;
     snapToScene = on;
     Transform::SnapSettings settings;
-    settings.geometry = on ? SnapSearch::Vertex | SnapSearch::Edge : 0U;
+    settings.geometry = on ? SnapSearch::Vertex | SnapSearch::EdgeMiddle | SnapSearch::Centre |
+            SnapSearch::Edge | SnapSearch::Face
+                           : 0U;
     transform.setSnapping(settings);
 }
 
@@ -273,7 +282,11 @@ std::string GizmoController::hoveredHandle()
         return context.grabbedHandle();
     }
     const bool isPossible = pointerInside && current != Gizmo::None;
-    return isPossible ? nbNodeUtils::getName(probe.pick()) : std::string();
+    // The trackball lies below all others.
+    const auto rankOf = [](const osg::NodePtr& node) {
+        return nbNodeUtils::getName(node) == "rtShape" ? 1 : 0;
+    };
+    return isPossible ? nbNodeUtils::getName(probe.pick(rankOf)) : std::string();
 }
 
 std::string GizmoController::handleAt(const osg::Pnt2f& px)

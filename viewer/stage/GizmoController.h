@@ -48,6 +48,8 @@ bool gizmoFromName(const std::string& name, Gizmo& gizmo);
 class GizmoController
 {
 public:
+    using FurtherHandles = nbec::manipulator::transform::FurtherHandles;
+
     /// @param interactionManager  not owned, outlives this
     explicit GizmoController(nbec::interaction::InteractionManager& interactionManager);
     GizmoController(const GizmoController&) = delete;
@@ -73,7 +75,12 @@ public:
 
     bool isSnapping() const { return snapping; }
 
-    /// Brings what is moved to corners and edges of objects that are near the pointer.
+    /// Shows handles beyond the usual ones.
+    void setFurtherHandles(const FurtherHandles& handles);
+
+    const FurtherHandles& furtherHandles() const { return further; }
+
+    /// Brings what is moved to corners, edges, faces and centres of objects near the pointer.
     void setSnapToScene(bool on);
 
     bool snapsToScene() const { return snapToScene; }
@@ -130,6 +137,7 @@ private:
     Gizmo current = Gizmo::None;
     bool snapping = false;
     bool snapToScene = false;
+    FurtherHandles further;
     bool pointerInside = true;
 };
 

@@ -23,7 +23,7 @@ struct ActionRow
     const char* text;
 };
 
-constexpr std::array<ActionRow, 18> kActions { {
+constexpr std::array<ActionRow, 24> kActions { {
     { "xaShape", HandleAction::MoveAlong, QT_TRANSLATE_NOOP("viewer", "Move along x") },
     { "yaShape", HandleAction::MoveAlong, QT_TRANSLATE_NOOP("viewer", "Move along y") },
     { "zaShape", HandleAction::MoveAlong, QT_TRANSLATE_NOOP("viewer", "Move along z") },
@@ -40,6 +40,13 @@ constexpr std::array<ActionRow, 18> kActions { {
       QT_TRANSLATE_NOOP("viewer", "Move in the plane of x and z") },
     { "yzaShape", HandleAction::MoveInPlane,
       QT_TRANSLATE_NOOP("viewer", "Move in the plane of y and z") },
+    { "vaShape", HandleAction::MoveInPlane,
+      QT_TRANSLATE_NOOP("viewer", "Move in the plane of the screen") },
+    { "rvShape", HandleAction::Turn, QT_TRANSLATE_NOOP("viewer", "Turn about the view axis") },
+    { "rtShape", HandleAction::Turn, QT_TRANSLATE_NOOP("viewer", "Turn freely") },
+    { "xysShape", HandleAction::ScaleAll, QT_TRANSLATE_NOOP("viewer", "Scale along x and y") },
+    { "xzsShape", HandleAction::ScaleAll, QT_TRANSLATE_NOOP("viewer", "Scale along x and z") },
+    { "yzsShape", HandleAction::ScaleAll, QT_TRANSLATE_NOOP("viewer", "Scale along y and z") },
     { "rotateShape", HandleAction::Turn, QT_TRANSLATE_NOOP("viewer", "Turn") },
     { "scaleXY", HandleAction::ScaleAll, QT_TRANSLATE_NOOP("viewer", "Scale from a corner") },
     { "scaleX", HandleAction::ScaleAll, QT_TRANSLATE_NOOP("viewer", "Scale from an edge") },

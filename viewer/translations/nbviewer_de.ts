@@ -178,6 +178,26 @@
         <source>Set Texture Center Position</source>
         <translation>Mittelpunkt der Textur setzen</translation>
     </message>
+    <message>
+        <source>right</source>
+        <translation>rechts</translation>
+    </message>
+    <message>
+        <source>up</source>
+        <translation>oben</translation>
+    </message>
+    <message>
+        <source>%1 deg</source>
+        <translation>%1 Grad</translation>
+    </message>
+    <message>
+        <source>%1 along %2</source>
+        <translation>%1 entlang %2</translation>
+    </message>
+    <message>
+        <source>%1 px</source>
+        <translation>%1 px</translation>
+    </message>
 </context>
 <context>
     <name>viewer</name>

@@ -178,6 +178,26 @@
         <source>Set Texture Center Position</source>
         <translation>Définir la position du centre de la texture</translation>
     </message>
+    <message>
+        <source>right</source>
+        <translation>droite</translation>
+    </message>
+    <message>
+        <source>up</source>
+        <translation>haut</translation>
+    </message>
+    <message>
+        <source>%1 deg</source>
+        <translation>%1 deg</translation>
+    </message>
+    <message>
+        <source>%1 along %2</source>
+        <translation>%1 selon %2</translation>
+    </message>
+    <message>
+        <source>%1 px</source>
+        <translation>%1 px</translation>
+    </message>
 </context>
 <context>
     <name>viewer</name>

@@ -178,6 +178,26 @@
         <source>Set Texture Center Position</source>
         <translation>设置纹理中心位置</translation>
     </message>
+    <message>
+        <source>right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>up</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>%1 deg</source>
+        <translation>%1 度</translation>
+    </message>
+    <message>
+        <source>%1 along %2</source>
+        <translation>沿 %2 %1</translation>
+    </message>
+    <message>
+        <source>%1 px</source>
+        <translation>%1 像素</translation>
+    </message>
 </context>
 <context>
     <name>viewer</name>

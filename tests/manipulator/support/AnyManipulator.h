@@ -271,22 +271,25 @@ protected:
     nbLog::Sink formerSink;
 
 private:
-    /// Pixels of points within a handle's shapes.
+    /// Pixels of points within a handle's shapes, then of their corners.
     std::vector<Pnt2f> placesOf(const osg::NodePtr& top)
     {
         std::vector<Pnt2f> places;
         osg::Matrix clipFromWorld;
         stage.view->getCamera()->getWorldToScreen(clipFromWorld, *stage.view->getViewport());
-        for (const osg::NodePtr& shape : partsOf(top)) {
-            const auto positions = osg::GeometryPtr::dcast(shape->getCore())->getPositions();
-            const osg::UInt32 count = positions->getSize();
-            for (osg::UInt32 i = 0; i < count; ++i) {
-                const Pnt3f first = positions->getValue(i);
-                Pnt3f place = first + (positions->getValue((i + count / 2) % count) - first) * 0.5F;
-                shape->getToWorld().multMatrixPnt(place);
-                clipFromWorld.multFullMatrixPnt(place, place);
-                places.emplace_back((place.x() + 1) / 2 * stage.view->getWidth(),
-                                    (1 - place.y()) / 2 * stage.view->getHeight());
+        for (const float part : { 0.5F, 0.0F }) {
+            for (const osg::NodePtr& shape : partsOf(top)) {
+                const auto positions = osg::GeometryPtr::dcast(shape->getCore())->getPositions();
+                const osg::UInt32 count = positions->getSize();
+                for (osg::UInt32 i = 0; i < count; ++i) {
+                    const Pnt3f first = positions->getValue(i);
+                    Pnt3f place =
+                        first + (positions->getValue((i + count / 2) % count) - first) * part;
+                    shape->getToWorld().multMatrixPnt(place);
+                    clipFromWorld.multFullMatrixPnt(place, place);
+                    places.emplace_back((place.x() + 1) / 2 * stage.view->getWidth(),
+                                        (1 - place.y()) / 2 * stage.view->getHeight());
+                }
             }
         }
         return places;
