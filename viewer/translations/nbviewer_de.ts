@@ -708,6 +708,30 @@
         <source>pictures that were put on objects are not exported</source>
         <translation>auf Objekte gelegte Bilder werden nicht exportiert</translation>
     </message>
+    <message>
+        <source>Move in the plane of the screen</source>
+        <translation>In der Bildebene verschieben</translation>
+    </message>
+    <message>
+        <source>Turn about the view axis</source>
+        <translation>Um die Blickachse drehen</translation>
+    </message>
+    <message>
+        <source>Turn freely</source>
+        <translation>Frei drehen</translation>
+    </message>
+    <message>
+        <source>Scale along x and y</source>
+        <translation>Entlang x und y skalieren</translation>
+    </message>
+    <message>
+        <source>Scale along x and z</source>
+        <translation>Entlang x und z skalieren</translation>
+    </message>
+    <message>
+        <source>Scale along y and z</source>
+        <translation>Entlang y und z skalieren</translation>
+    </message>
 </context>
 <context>
     <name>viewer::AboutBox</name>
@@ -1678,6 +1702,38 @@
     <message>
         <source>Step of scale</source>
         <translation>Schritt der Skalierung</translation>
+    </message>
+    <message>
+        <source>Backs of rings are dim</source>
+        <translation>Rückseiten von Ringen sind matt</translation>
+    </message>
+    <message>
+        <source>Letters at the tips of handles</source>
+        <translation>Buchstaben an den Spitzen der Griffe</translation>
+    </message>
+    <message>
+        <source>Hit handles from farther with pen or finger</source>
+        <translation>Griffe mit Stift oder Finger von weiter weg treffen</translation>
+    </message>
+    <message>
+        <source>A handle moves in the plane of the screen</source>
+        <translation>Ein Griff bewegt in der Bildebene</translation>
+    </message>
+    <message>
+        <source>A ring turns about the view axis</source>
+        <translation>Ein Ring dreht um die Blickachse</translation>
+    </message>
+    <message>
+        <source>A disc turns freely</source>
+        <translation>Eine Scheibe dreht frei</translation>
+    </message>
+    <message>
+        <source>Planes scale in two axes</source>
+        <translation>Ebenen skalieren in zwei Achsen</translation>
+    </message>
+    <message>
+        <source>Handles stand on the viewer&apos;s side</source>
+        <translation>Griffe stehen auf der Seite des Betrachters</translation>
     </message>
 </context>
 <context>

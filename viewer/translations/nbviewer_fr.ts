@@ -708,6 +708,30 @@
         <source>pictures that were put on objects are not exported</source>
         <translation>les images posées sur des objets ne sont pas exportées</translation>
     </message>
+    <message>
+        <source>Move in the plane of the screen</source>
+        <translation>Déplacer dans le plan de l’écran</translation>
+    </message>
+    <message>
+        <source>Turn about the view axis</source>
+        <translation>Tourner autour de l’axe de vue</translation>
+    </message>
+    <message>
+        <source>Turn freely</source>
+        <translation>Tourner librement</translation>
+    </message>
+    <message>
+        <source>Scale along x and y</source>
+        <translation>Mettre à l’échelle selon x et y</translation>
+    </message>
+    <message>
+        <source>Scale along x and z</source>
+        <translation>Mettre à l’échelle selon x et z</translation>
+    </message>
+    <message>
+        <source>Scale along y and z</source>
+        <translation>Mettre à l’échelle selon y et z</translation>
+    </message>
 </context>
 <context>
     <name>viewer::AboutBox</name>
@@ -1678,6 +1702,38 @@
     <message>
         <source>Step of scale</source>
         <translation>Pas d’échelle</translation>
+    </message>
+    <message>
+        <source>Backs of rings are dim</source>
+        <translation>Les arrières des anneaux sont estompés</translation>
+    </message>
+    <message>
+        <source>Letters at the tips of handles</source>
+        <translation>Lettres aux pointes des poignées</translation>
+    </message>
+    <message>
+        <source>Hit handles from farther with pen or finger</source>
+        <translation>Atteindre les poignées de plus loin au stylet ou au doigt</translation>
+    </message>
+    <message>
+        <source>A handle moves in the plane of the screen</source>
+        <translation>Une poignée déplace dans le plan de l&apos;écran</translation>
+    </message>
+    <message>
+        <source>A ring turns about the view axis</source>
+        <translation>Un anneau tourne autour de l&apos;axe de vue</translation>
+    </message>
+    <message>
+        <source>A disc turns freely</source>
+        <translation>Un disque tourne librement</translation>
+    </message>
+    <message>
+        <source>Planes scale in two axes</source>
+        <translation>Les plans mettent à l’échelle selon deux axes</translation>
+    </message>
+    <message>
+        <source>Handles stand on the viewer&apos;s side</source>
+        <translation>Les poignées se tiennent du côté de l&apos;observateur</translation>
     </message>
 </context>
 <context>

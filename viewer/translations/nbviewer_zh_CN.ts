@@ -706,6 +706,30 @@
         <source>pictures that were put on objects are not exported</source>
         <translation>放在对象上的图片不会导出</translation>
     </message>
+    <message>
+        <source>Move in the plane of the screen</source>
+        <translation>在屏幕平面内移动</translation>
+    </message>
+    <message>
+        <source>Turn about the view axis</source>
+        <translation>绕视线轴旋转</translation>
+    </message>
+    <message>
+        <source>Turn freely</source>
+        <translation>自由旋转</translation>
+    </message>
+    <message>
+        <source>Scale along x and y</source>
+        <translation>沿 x 和 y 缩放</translation>
+    </message>
+    <message>
+        <source>Scale along x and z</source>
+        <translation>沿 x 和 z 缩放</translation>
+    </message>
+    <message>
+        <source>Scale along y and z</source>
+        <translation>沿 y 和 z 缩放</translation>
+    </message>
 </context>
 <context>
     <name>viewer::AboutBox</name>
@@ -1676,6 +1700,38 @@
     <message>
         <source>Step of scale</source>
         <translation>缩放步长</translation>
+    </message>
+    <message>
+        <source>Backs of rings are dim</source>
+        <translation>圆环背面变暗</translation>
+    </message>
+    <message>
+        <source>Letters at the tips of handles</source>
+        <translation>手柄末端显示字母</translation>
+    </message>
+    <message>
+        <source>Hit handles from farther with pen or finger</source>
+        <translation>用笔或手指时从更远处选中手柄</translation>
+    </message>
+    <message>
+        <source>A handle moves in the plane of the screen</source>
+        <translation>手柄在屏幕平面内移动</translation>
+    </message>
+    <message>
+        <source>A ring turns about the view axis</source>
+        <translation>圆环绕视线轴旋转</translation>
+    </message>
+    <message>
+        <source>A disc turns freely</source>
+        <translation>圆盘自由旋转</translation>
+    </message>
+    <message>
+        <source>Planes scale in two axes</source>
+        <translation>平面沿两个轴缩放</translation>
+    </message>
+    <message>
+        <source>Handles stand on the viewer&apos;s side</source>
+        <translation>手柄位于观察者一侧</translation>
     </message>
 </context>
 <context>
