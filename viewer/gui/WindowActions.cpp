@@ -9,15 +9,12 @@
 #include "viewer/gui/ShortcutPage.h"
 #include "viewer/gui/ThemeIcon.h"
 #include "viewer/gui/ViewWidget.h"
-#include "viewer/loading/ModelWriter.h"
-#include "viewer/stage/ModelCapture.h"
 #include "viewer/stage/Stage.h"
 
 #include <nbKernelServices/nbUndoService.h>
 
 #include <QAction>
 #include <QActionGroup>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QMenu>
 #include <QMenuBar>
@@ -192,22 +189,10 @@ void WindowActions::addFileMenu()
              [this](bool) { window.scenes().save(); });
     addUnplayed(menu, "sceneSaveAs", tr("Save sc&ene as…"), "Ctrl+Shift+S",
                 [this] { window.scenes().saveAs(); });
-    addUnplayed(menu, "fileExport", tr("E&xport model…"), {}, [this] { exportModel(); });
     addUnplayed(menu, "filePicture", tr("Sa&ve picture…"), "Ctrl+E",
                 [this] { window.askForPicture(); });
     menu->addSeparator();
     addUnplayed(menu, "fileQuit", tr("&Quit"), "Ctrl+Q", [this] { window.close(); });
-}
-
-void WindowActions::exportModel()
-{
-    const QString path = QFileDialog::getSaveFileName(
-        &window, tr("Export model"), QStringLiteral("model.glb"), exportFileFilter());
-    const ModelData model = path.isEmpty() ? ModelData() : captureModel();
-    QString error = model.warnings.join(QStringLiteral("; "));
-    if (!path.isEmpty() && (!writeModelFile(path, model, error) || !error.isEmpty())) {
-        emit window.problem(error);
-    }
 }
 
 void WindowActions::addEditMenu()

@@ -71,7 +71,6 @@ private:
     /// Runs a command of the stage; a refusal becomes a problem of the window.
     void run(const QString& command, const QJsonValue& value = {});
     void addFileMenu();
-    void exportModel();
     void addEditMenu();
     void addObjectActions(QMenu* menu);
     void addViewMenu();

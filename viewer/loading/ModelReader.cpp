@@ -3,7 +3,6 @@
 
 #include "viewer/loading/ModelRecords.h"
 #include "viewer/loading/PictureDecoding.h"
-#include "viewer/loading/ReaderProgram.h"
 #include "viewer/texts/FileRules.h"
 #include "viewer/texts/Language.h"
 #include "viewer/texts/Text.h"
@@ -24,6 +23,16 @@ constexpr qint64 kBytesOfASecond = 1000000;
 constexpr qint64 kMsOfASecond = 1000;
 constexpr int kGoodbyeMs = 1000;
 
+/// Beside the program, as when both have just been built, or where it is installed to.
+QString readerProgram()
+{
+    const QDir folder = QFileInfo(QFile::symLinkTarget(QStringLiteral("/proc/self/exe"))).dir();
+    const QString beside = folder.filePath(QStringLiteral("nbmodelreader"));
+    return QFileInfo::exists(beside)
+        ? beside
+        : QDir::cleanPath(folder.filePath(QStringLiteral(NB_READER_FROM_PROGRAM)));
+}
+
 /// Memory that a process has in use; 0 where it cannot be told.
 qint64 residentBytes(qint64 processId)
 {
@@ -34,15 +43,6 @@ qint64 residentBytes(qint64 processId)
 }
 
 }  // namespace
-
-QString readerProgram()
-{
-    const QDir folder = QFileInfo(QFile::symLinkTarget(QStringLiteral("/proc/self/exe"))).dir();
-    const QString beside = folder.filePath(QStringLiteral("nbmodelreader"));
-    return QFileInfo::exists(beside)
-        ? beside
-        : QDir::cleanPath(folder.filePath(QStringLiteral(NB_READER_FROM_PROGRAM)));
-}
 
 /// The reading of one file.
 class ModelReader::Reading

@@ -253,11 +253,6 @@ QByteArray textRecord(ModelRecord kind, const QString& text)
     return record(kind, [&text](QDataStream& out) { out << text; });
 }
 
-QByteArray doneRecord()
-{
-    return record(ModelRecord::Done, [](QDataStream&) {});
-}
-
 void writeModel(const ModelData& model, const std::function<void(const QByteArray&)>& write)
 {
     for (const QString& warning : model.warnings) {
@@ -273,7 +268,7 @@ void writeModel(const ModelData& model, const std::function<void(const QByteArra
         quint32 next = 0;
         putNodes(out, model.root, 0, next);
     }));
-    write(doneRecord());
+    write(record(ModelRecord::Done, [](QDataStream&) {}));
 }
 
 bool ModelAssembly::take(const QByteArray& bytes)

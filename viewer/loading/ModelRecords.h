@@ -31,7 +31,6 @@ constexpr qint64 kMostRecordBytes = 1LL << 30;
 QByteArray progressRecord(double fraction);
 /// @param kind  Warning, or Failure
 QByteArray textRecord(ModelRecord kind, const QString& text);
-QByteArray doneRecord();
 /// Hands out the records of a model one after the other, up to Done.
 void writeModel(const ModelData& model, const std::function<void(const QByteArray&)>& write);
 

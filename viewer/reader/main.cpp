@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Reads model files for the viewer, which trusts neither this program nor what it tells.
 //   nbmodelreader MEMORY PICTURE LANGUAGE
-//   nbmodelreader FILE
 // MEMORY: most bytes to be used. PICTURE: most bytes of a decoded picture. LANGUAGE: of messages.
 // Standard input: absolute paths, each ended by a byte 0. Standard output: see ModelRecords.h.
-// FILE: to be written; the model comes as records in standard input, the answer is one.
 #include "viewer/loading/ModelRecords.h"
 #include "viewer/loading/PictureDecoding.h"
-#include "viewer/reader/ModelExport.h"
 #include "viewer/reader/ModelImport.h"
 #include "viewer/texts/Language.h"
 
@@ -71,19 +68,6 @@ void answer(const QString& path, QFile& output)
     }
 }
 
-/// Writes the model that standard input brings.
-void writeOut(const QString& path, QFile& output)
-{
-    QFile input;
-    viewer::ModelAssembly assembly;
-    QString error = QStringLiteral("damaged");
-    const bool isWhole = input.open(stdin, QIODevice::ReadOnly) && assembly.take(input.readAll()) &&
-        assembly.isComplete();
-    const bool isDone = isWhole && viewer::exportModel(assembly.takeModel(), path, error);
-    output.write(isDone ? viewer::doneRecord()
-                        : viewer::textRecord(viewer::ModelRecord::Failure, error));
-}
-
 }  // namespace
 
 int main(int argc, char** argv)
@@ -91,27 +75,20 @@ int main(int argc, char** argv)
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     constexpr int kArguments = 4;
-    const bool isWriting = arguments.size() == 2;
-    if (arguments.size() != kArguments && !isWriting) {
-        std::fputs("nbmodelreader: started by nbviewer to read and write models\n", stderr);
+    if (arguments.size() != kArguments) {
+        std::fputs("nbmodelreader: started by nbviewer to read models\n", stderr);
         return 2;
     }
-    if (!isWriting) {
-        giveUpRights(arguments[1]);
-        viewer::setPictureBudget(arguments[2].toLongLong());
-        viewer::applyLanguage(
-            viewer::languageFromName(arguments[3]).value_or(viewer::Language::English));
-    }
+    giveUpRights(arguments[1]);
+    viewer::setPictureBudget(arguments[2].toLongLong());
+    viewer::applyLanguage(
+        viewer::languageFromName(arguments[3]).value_or(viewer::Language::English));
     // Whatever a library prints is no record.
     QFile output;
     const bool isOpen =
         output.open(dup(STDOUT_FILENO), QIODevice::WriteOnly | QIODevice::Unbuffered,
                     QFileDevice::AutoCloseHandle);
     dup2(STDERR_FILENO, STDOUT_FILENO);
-    if (isWriting) {
-        writeOut(arguments[1], output);
-        return 0;
-    }
     for (std::string path; isOpen && std::getline(std::cin, path, '\0');) {
         answer(QString::fromStdString(path), output);
     }

@@ -2,9 +2,7 @@
 #include "viewer/stage/SceneEdits.h"
 
 #include "viewer/loading/BuiltModel.h"
-#include "viewer/loading/ModelWriter.h"
 #include "viewer/stage/ClipPlanes.h"
-#include "viewer/stage/ModelCapture.h"
 #include "viewer/stage/Stage.h"
 #include "viewer/stage/ValueRecord.h"
 #include "viewer/texts/Text.h"
@@ -141,10 +139,6 @@ bool rename(Stage& stage, const QJsonValue& value, QString& error)
 void addSceneEdits(Stage& stage)
 {
     Commands& commands = stage.commands();
-    commands.add(QStringLiteral("scene.export"), [&stage](const QJsonValue& value, QString& error) {
-        const QString path = stage.commands().outputPath(value.toString(), QString(), error);
-        return !path.isEmpty() && writeModelFile(path, captureModel(), error);
-    });
     commands.add(QStringLiteral("scene.delete"), [&stage](const QJsonValue&, QString& error) {
         return deleteSelected(stage, error);
     });
