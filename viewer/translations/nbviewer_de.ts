@@ -697,18 +697,6 @@
         <translation>es ist kein Text ausgewählt</translation>
     </message>
     <message>
-        <source>cannot be written</source>
-        <translation>kann nicht geschrieben werden</translation>
-    </message>
-    <message>
-        <source>Models (%1)</source>
-        <translation>Modelle (%1)</translation>
-    </message>
-    <message>
-        <source>pictures that were put on objects are not exported</source>
-        <translation>auf Objekte gelegte Bilder werden nicht exportiert</translation>
-    </message>
-    <message>
         <source>Move in the plane of the screen</source>
         <translation>In der Bildebene verschieben</translation>
     </message>
@@ -2166,14 +2154,6 @@
     <message>
         <source>World</source>
         <translation>Welt</translation>
-    </message>
-    <message>
-        <source>E&amp;xport model…</source>
-        <translation>Modell e&amp;xportieren…</translation>
-    </message>
-    <message>
-        <source>Export model</source>
-        <translation>Modell exportieren</translation>
     </message>
 </context>
 </TS>

@@ -697,18 +697,6 @@
         <translation>aucun texte n’est sélectionné</translation>
     </message>
     <message>
-        <source>cannot be written</source>
-        <translation>ne peut pas être écrit</translation>
-    </message>
-    <message>
-        <source>Models (%1)</source>
-        <translation>Modèles (%1)</translation>
-    </message>
-    <message>
-        <source>pictures that were put on objects are not exported</source>
-        <translation>les images posées sur des objets ne sont pas exportées</translation>
-    </message>
-    <message>
         <source>Move in the plane of the screen</source>
         <translation>Déplacer dans le plan de l’écran</translation>
     </message>
@@ -2166,14 +2154,6 @@
     <message>
         <source>World</source>
         <translation>Monde</translation>
-    </message>
-    <message>
-        <source>E&amp;xport model…</source>
-        <translation>E&amp;xporter le modèle…</translation>
-    </message>
-    <message>
-        <source>Export model</source>
-        <translation>Exporter le modèle</translation>
     </message>
 </context>
 </TS>

@@ -695,18 +695,6 @@
         <translation>未选择文字</translation>
     </message>
     <message>
-        <source>cannot be written</source>
-        <translation>无法写入</translation>
-    </message>
-    <message>
-        <source>Models (%1)</source>
-        <translation>模型 (%1)</translation>
-    </message>
-    <message>
-        <source>pictures that were put on objects are not exported</source>
-        <translation>放在对象上的图片不会导出</translation>
-    </message>
-    <message>
         <source>Move in the plane of the screen</source>
         <translation>在屏幕平面内移动</translation>
     </message>
@@ -2162,14 +2150,6 @@
     <message>
         <source>World</source>
         <translation>世界</translation>
-    </message>
-    <message>
-        <source>E&amp;xport model…</source>
-        <translation>导出模型(&amp;X)…</translation>
-    </message>
-    <message>
-        <source>Export model</source>
-        <translation>导出模型</translation>
     </message>
 </context>
 </TS>
