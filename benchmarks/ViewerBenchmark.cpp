@@ -54,7 +54,7 @@ public:
     {
         window.view().fixSize(QSize(1280, 800));
         // As with a person there.
-        window.setCoarseWhileMoving(true);
+        window.view().setCoarseWhileMoving(true);
         window.show();
         window.showStartScene();
         if (moreTriangles > 0) {

@@ -150,9 +150,9 @@ void GizmoController::setTarget(const osg::NodePtr& node, const std::vector<osg:
     if (node != osg::NullFC) {
         targetIds.push_back(node.getFieldContainerId());
     }
-    for (const osg::NodePtr& further : all) {
-        if (further != osg::NullFC && further != node) {
-            targetIds.push_back(further.getFieldContainerId());
+    for (const osg::NodePtr& each : all) {
+        if (each != osg::NullFC && each != node) {
+            targetIds.push_back(each.getFieldContainerId());
         }
     }
     transform.setNode(node, targets());

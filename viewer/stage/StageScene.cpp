@@ -15,6 +15,8 @@
 #include <algorithm>
 #include <utility>
 
+#include <ChangeCount.h>
+
 namespace viewer {
 namespace {
 
@@ -112,7 +114,7 @@ void Stage::replace(const std::vector<osg::RefPtr<osg::NodePtr>>& top, ModelSour
 std::size_t Stage::triangleCount()
 {
     const osg::NodePtr root = nbScenegraph::getRootNode();
-    const osg::UInt64 changes = root->getSubtreeChangeCount();
+    const osg::UInt64 changes = osg::getSubtreeChangeCount(root);
     if (changes != countedChanges && !isDragging()) {
         countedChanges = changes;
         triangles = trianglesBelow(root);
