@@ -9,7 +9,6 @@ namespace {
 struct LogState
 {
     nbLog::Sink sink;
-    nbLog::Level level = nbLog::Level::Info;
     bool insideSink = false;
 };
 
@@ -42,9 +41,6 @@ public:
 
 void nbLog::write(Level level, const std::string& text)
 {
-    if (level < state().level) {
-        return;
-    }
     if (!state().sink || state().insideSink) {
         writeToStandardError(level, text);
         return;
@@ -60,9 +56,7 @@ void nbLog::write(Level level, const std::string& text)
 
 void nbLog::write(Level level, const char* text)
 {
-    if (level >= state().level) {
-        write(level, std::string(text == nullptr ? "" : text));
-    }
+    write(level, std::string(text == nullptr ? "" : text));
 }
 
 nbLog::Sink nbLog::setSink(Sink sink)
@@ -70,27 +64,8 @@ nbLog::Sink nbLog::setSink(Sink sink)
     return std::exchange(state().sink, std::move(sink));
 }
 
-void nbLog::setLevel(Level level)
-{
-    state().level = level;
-}
-
-nbLog::Level nbLog::getLevel()
-{
-    return state().level;
-}
-
 const char* nbLog::getLevelName(Level level)
 {
-    switch (level) {
-    case Level::Debug:
-        return "debug";
-    case Level::Info:
-        return "info";
-    case Level::Warning:
-        return "warning";
-    case Level::Error:
-        break;
-    }
-    return "error";
+    constexpr const char* kNames[] = { "debug", "info", "warning", "error" };
+    return kNames[static_cast<int>(level)];
 }

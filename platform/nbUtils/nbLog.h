@@ -9,8 +9,8 @@
 #include <string>
 
 /// Log of the host: one line of text per entry, with a level.
-/// Entries below the current level are dropped; the others go to the sink, which is standard error
-/// until it is replaced. Belongs to the user-interface thread. Never throws.
+/// Entries go to the sink, which is standard error until it is replaced. Belongs to the
+/// user-interface thread. Never throws.
 class NB_PLATFORM_API nbLog
 {
 public:
@@ -23,10 +23,8 @@ public:
         Error = 3
     };
 
-    /// Receives each entry that passes the level; the text has no line end.
+    /// Receives each entry; the text has no line end.
     using Sink = std::function<void(Level, const std::string&)>;
-
-    static void debug(const std::string& text) { write(Level::Debug, text); }
 
     static void info(const std::string& text) { write(Level::Info, text); }
 
@@ -35,8 +33,6 @@ public:
     static void error(const std::string& text) { write(Level::Error, text); }
 
     /// The same for literals; null is an empty text.
-    static void debug(const char* text) { write(Level::Debug, text); }
-
     static void info(const char* text) { write(Level::Info, text); }
 
     static void warning(const char* text) { write(Level::Warning, text); }
@@ -44,8 +40,6 @@ public:
     static void error(const char* text) { write(Level::Error, text); }
 
     /// The same for Qt's texts, written as UTF-8.
-    static void debug(const QString& text) { write(Level::Debug, text.toStdString()); }
-
     static void info(const QString& text) { write(Level::Info, text.toStdString()); }
 
     static void warning(const QString& text) { write(Level::Warning, text.toStdString()); }
@@ -60,10 +54,6 @@ public:
     /// Replaces the sink; an empty function stands for standard error.
     /// @return the sink that was set before, empty for standard error
     static Sink setSink(Sink sink);
-
-    /// Lowest level that is written; at the start Level::Info.
-    static void setLevel(Level level);
-    static Level getLevel();
 
     /// "debug", "info", "warning" or "error".
     static const char* getLevelName(Level level);
