@@ -308,6 +308,12 @@ bool nbUndoService::isRecording() const
     return internals->isRecording();
 }
 
+osg::UInt64 nbUndoService::getOpenStep() const
+{
+    const bool isOpen = internals->openScopes > 0 || internals->isGroupOpen;
+    return isOpen && !internals->restoreState.isActive ? internals->step.getNumber() : 0;
+}
+
 void nbUndoService::record(std::unique_ptr<nbUndoRecord> entry)
 {
     if (entry != nullptr && internals->isRecording()) {

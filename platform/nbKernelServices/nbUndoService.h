@@ -85,6 +85,10 @@ public:
     /// Whether a group, or a scope that records, is open.
     bool isRecording() const;
 
+    /// Number of the step that is open, no two steps having the same; 0 outside of every group and
+    /// scope and while steps are being taken back.
+    osg::UInt64 getOpenStep() const;
+
     /// Adds a record to the open step. Without one, or while steps are being taken back, it is
     /// dropped: the edit cannot be undone.
     void record(std::unique_ptr<nbUndoRecord> entry);

@@ -230,11 +230,6 @@ osg::Transform3DPtr nbMaterialEditor::getProjection() const
     return impl->projection();
 }
 
-nbStateChunkBase* nbMaterialEditor::getStateChunk()
-{
-    return &impl->values();
-}
-
 // == Edits
 
 bool nbMaterialEditor::setImage(const osg::ImagePtr& image)

@@ -74,10 +74,6 @@ public:
     osg::UberMaterialPtr getMaterial() const;
     const std::string& getComponent() const;
 
-    /// Delivers the values of the material's components, for who reads them by that interface. The
-    /// editor's own; changes are told to the `gui` of setMaterial, not to this.
-    nbStateChunkBase* getStateChunk();
-
     /// Settings and projection of the component; null where there are none.
     osg::ColorComponentSettingsPtr getSettings() const;
     osg::Transform3DPtr getProjection() const;

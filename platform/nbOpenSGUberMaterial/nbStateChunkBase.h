@@ -25,27 +25,50 @@ public:
 
     /// Called after an editor changed values of a component, for a manipulator or otherwise; undo
     /// and redo are not told. Does nothing here.
-    virtual void componentChanged(const std::string& component);
+    virtual void componentChanged(const std::string& /*component*/) { }
 
     /// Whether the values below are known for a component; false here.
-    virtual bool hasComponent(const std::string& component) const;
+    virtual bool hasComponent(const std::string& /*component*/) const { return false; }
 
     // == Triplanar projection; axis 0, 1, 2 for the projections along x, y, z
 
-    virtual osg::Vec3f getTriplanarRotation(const std::string& component) const;  ///< radians
-    virtual osg::Vec2f getTriplanarOffset(const std::string& component, osg::UInt32 axis) const;
-    virtual osg::Vec2f getTriplanarRepeat(const std::string& component, osg::UInt32 axis) const;
+    /// Radians.
+    virtual osg::Vec3f getTriplanarRotation(const std::string& /*component*/) const
+    {
+        return { 0.0F, 0.0F, 0.0F };
+    }
+
+    virtual osg::Vec2f getTriplanarOffset(const std::string& /*component*/,
+                                          osg::UInt32 /*axis*/) const
+    {
+        return { 0.0F, 0.0F };
+    }
+
+    virtual osg::Vec2f getTriplanarRepeat(const std::string& /*component*/,
+                                          osg::UInt32 /*axis*/) const
+    {
+        return { 1.0F, 1.0F };
+    }
 
     // == UV projection
 
-    virtual osg::Real32 getRotate(const std::string& component) const;  ///< degrees
-    virtual osg::Vec2f getOffset(const std::string& component) const;
-    virtual osg::Vec2f getRepeat(const std::string& component) const;
+    /// Degrees.
+    virtual osg::Real32 getRotate(const std::string& /*component*/) const { return 0.0F; }
+
+    virtual osg::Vec2f getOffset(const std::string& /*component*/) const { return { 0.0F, 0.0F }; }
+
+    virtual osg::Vec2f getRepeat(const std::string& /*component*/) const { return { 1.0F, 1.0F }; }
 
     // == Tire projection; lengths in the object's space
 
-    virtual osg::Vec3f getTireCenter(const std::string& component) const;
-    virtual osg::Real32 getTireScaleU(const std::string& component) const;
-    virtual osg::Real32 getTireScaleHeight(const std::string& component) const;
-    virtual osg::Real32 getTireScaleRadius(const std::string& component) const;
+    virtual osg::Vec3f getTireCenter(const std::string& /*component*/) const
+    {
+        return { 0.0F, 0.0F, 0.0F };
+    }
+
+    virtual osg::Real32 getTireScaleU(const std::string& /*component*/) const { return 1.0F; }
+
+    virtual osg::Real32 getTireScaleHeight(const std::string& /*component*/) const { return 1.0F; }
+
+    virtual osg::Real32 getTireScaleRadius(const std::string& /*component*/) const { return 1.0F; }
 };

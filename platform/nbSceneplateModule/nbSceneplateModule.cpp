@@ -6,6 +6,7 @@
 #include <nbKernel/nbOSGWidget.h>
 #include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbScopedUndo.h>
+#include <nbKernelServices/nbUndoService.h>
 #include <nbOpenSGSceneplate/nbSceneplateList.h>
 #include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
@@ -194,7 +195,7 @@ void nbSceneplateModule::change(const nbSceneplateChange& wanted)
         ? std::optional<nbScopedUndo>(std::in_place)
         : std::optional<nbScopedUndo>(std::in_place, wanted.getTitle());
     nbSceneplateUndo::notePlates(plates);
-    const osg::UInt64 step = nbSceneplateUndo::getOpenStep();
+    const osg::UInt64 step = nbUndoService::the()->getOpenStep();
     const bool isGoingOn = step != 0 && step == startStep;
     if (!isGoingOn || !start.isOf(plates)) {
         const nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1);

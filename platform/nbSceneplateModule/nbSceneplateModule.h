@@ -84,5 +84,5 @@ private:
     nbNodeSet marked;
     nbCallbackList callbacks;
     nbSceneplateStart start;
-    osg::UInt64 startStep = 0;  ///< of nbSceneplateUndo, for which `start` holds
+    osg::UInt64 startStep = 0;  ///< of nbUndoService, for which `start` holds
 };

@@ -2,132 +2,30 @@
 #include "nbSceneplateUndo.h"
 
 #include <nbKernelServices/nbChildrenRecord.h>
-#include <nbKernelServices/nbUndoRecord.h>
+#include <nbKernelServices/nbStateRecord.h>
 #include <nbKernelServices/nbUndoService.h>
 #include <nbOpenSGSceneplate/nbSceneplateList.h>
 #include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
-#include <OpenSG/OSGFieldContainerFactory.h>
-
 #include <algorithm>
-#include <cstring>
+#include <array>
+#include <cmath>
 #include <memory>
-#include <utility>
 
 namespace {
 
-osg::NodePtr findNode(osg::UInt32 id)
+auto numbersOf(const nbSceneplateState& s)
 {
-    return osg::NodePtr::dcast(osg::FieldContainerFactory::the()->getContainer(id));
+    return std::array { s.color.red(),  s.color.green(), s.color.blue(), s.color.alpha(),
+                        s.position.x(), s.position.y(),  s.size.x(),     s.size.y(),
+                        s.scale,        s.rotation,      s.opacity };
 }
 
-/// Bit for bit, except that zeros of both signs count as one.
-bool same(float a, float b)
+bool isSameNumber(float a, float b)
 {
-    return a == b || std::memcmp(&a, &b, sizeof(float)) == 0;
+    return a == b || (std::isnan(a) && std::isnan(b));
 }
-
-bool same(const osg::Vec2f& a, const osg::Vec2f& b)
-{
-    return same(a.x(), b.x()) && same(a.y(), b.y());
-}
-
-bool same(const osg::Color4f& a, const osg::Color4f& b)
-{
-    return same(a.red(), b.red()) && same(a.green(), b.green()) && same(a.blue(), b.blue()) &&
-        same(a.alpha(), b.alpha());
-}
-
-/// The plates that the open step has noted.
-class PlatesRecord : public nbUndoRecord
-{
-public:
-    PlatesRecord()
-        : number(++lastNumber)
-    {
-        open = this;
-    }
-
-    ~PlatesRecord() override { leave(); }
-
-    /// The record of the step that is open now; a new one if need be, null where nothing records.
-    static PlatesRecord* current()
-    {
-        nbUndoService* const service = nbUndoService::the();
-        if (!service->isRecording()) {
-            return nullptr;
-        }
-        if (open == nullptr) {
-            service->record(std::make_unique<PlatesRecord>());
-        }
-        return open;
-    }
-
-    /// Number of the record of the open step, 0 without one.
-    static osg::UInt64 getOpenNumber() { return open == nullptr ? 0 : open->number; }
-
-    void note(const osg::NodePtr& node)
-    {
-        const osg::UInt32 id = node.getFieldContainerId();
-        const bool isKnown = std::any_of(changes.begin(), changes.end(),
-                                         [id](const Change& change) { return change.id == id; });
-        if (!isKnown) {
-            changes.push_back({ id, nbSceneplateState::of(node), {} });
-        }
-    }
-
-    bool close() override
-    {
-        leave();
-        for (Change& change : changes) {
-            const osg::NodePtr node = findNode(change.id);
-            change.after = nbSceneplateList::plateOf(node) == osg::NullFC
-                ? change.before
-                : nbSceneplateState::of(node);
-        }
-        changes.erase(
-            std::remove_if(changes.begin(), changes.end(),
-                           [](const Change& change) { return change.after.isSame(change.before); }),
-            changes.end());
-        return !changes.empty();
-    }
-
-    void undo() override
-    {
-        leave();
-        for (const Change& change : changes) {
-            change.before.applyTo(findNode(change.id));
-        }
-    }
-
-    void redo() override
-    {
-        for (const Change& change : changes) {
-            change.after.applyTo(findNode(change.id));
-        }
-    }
-
-private:
-    struct Change
-    {
-        osg::UInt32 id;
-        nbSceneplateState before;
-        nbSceneplateState after;
-    };
-
-    void leave()
-    {
-        if (open == this) {
-            open = nullptr;
-        }
-    }
-
-    static inline PlatesRecord* open = nullptr;
-    static inline osg::UInt64 lastNumber = 0;
-    osg::UInt64 number;
-    std::vector<Change> changes;
-};
 
 }  // namespace
 
@@ -175,33 +73,28 @@ void nbSceneplateState::applyTo(const osg::NodePtr& node) const
 
 bool nbSceneplateState::isSame(const nbSceneplateState& other) const
 {
-    return name == other.name && image == other.image && same(color, other.color) &&
-        anchor == other.anchor && same(position, other.position) && same(size, other.size) &&
-        same(scale, other.scale) && same(rotation, other.rotation) && front == other.front &&
-        order == other.order && same(opacity, other.opacity) && visible == other.visible;
+    const auto numbers = numbersOf(*this);
+    const auto others = numbersOf(other);
+    return name == other.name && image == other.image && anchor == other.anchor &&
+        front == other.front && order == other.order && visible == other.visible &&
+        std::equal(numbers.begin(), numbers.end(), others.begin(), &isSameNumber);
 }
 
 void nbSceneplateUndo::notePlates(const std::vector<osg::NodePtr>& nodes)
 {
-    PlatesRecord* const record = PlatesRecord::current();
-    if (record == nullptr) {
-        return;
-    }
+    nbUndoService* const service = nbUndoService::the();
     for (const osg::NodePtr& node : nodes) {
-        if (nbSceneplateList::plateOf(node) != osg::NullFC) {
-            record->note(node);
+        if (nbSceneplateList::plateOf(node) != osg::NullFC &&
+            service->isNewInStep(node.getFieldContainerId())) {
+            service->record(std::make_unique<nbStateRecord<nbSceneplateState, osg::NodePtr>>(
+                node, nbSceneplateState::of(node)));
         }
     }
 }
 
-osg::UInt64 nbSceneplateUndo::getOpenStep()
-{
-    return PlatesRecord::getOpenNumber();
-}
-
 void nbSceneplateUndo::noteChildren(const osg::NodePtr& parent)
 {
-    if (parent != osg::NullFC && nbUndoService::the()->isRecording()) {
+    if (parent != osg::NullFC) {
         nbUndoService::the()->record(
             std::make_unique<nbChildrenRecord>(std::vector<osg::NodePtr> { parent }));
     }

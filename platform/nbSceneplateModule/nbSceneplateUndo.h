@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <nbOpenSGSceneplate/Sceneplate.h>
+#include <nbOpenSGSceneplate/nbSceneplateList.h>
 #include <nbUtils/nbPlatformExport.h>
 
 #include <OpenSG/OSGNode.h>
@@ -29,10 +29,16 @@ struct NB_PLATFORM_API nbSceneplateState
     /// @param node  with a Sceneplate core
     static nbSceneplateState of(const osg::NodePtr& node);
 
+    /// The plate of a node as it is now; this state where the node is no plate any more.
+    nbSceneplateState now(const osg::NodePtr& node) const
+    {
+        return nbSceneplateList::plateOf(node) == osg::NullFC ? *this : of(node);
+    }
+
     /// Writes all back, as one edit. Does nothing for a node without a Sceneplate core.
     void applyTo(const osg::NodePtr& node) const;
 
-    /// Whether all is the same, numbers bit for bit, zeros of both signs counting as one.
+    /// Whether all is the same, numbers exactly.
     bool isSame(const nbSceneplateState& other) const;
 };
 
@@ -46,10 +52,6 @@ public:
 
     /// Notes the states of plates. Nodes that are no plates are passed over.
     static void notePlates(const std::vector<osg::NodePtr>& nodes);
-
-    /// A number of the open step that has noted plates, never the same for two steps; 0 if there is
-    /// none.
-    static osg::UInt64 getOpenStep();
 
     /// Notes which children a node has and in which order. Children that are taken away are kept
     /// alive as long as the step can bring them back.

@@ -160,8 +160,7 @@ osg::ImagePtr Stage::image(Bytes& bytes)
 
 nbStateChunkBase* Stage::gui(Bytes& bytes)
 {
-    const std::uint8_t choice = bytes.next() % 3;
-    return choice == 0 ? &wildGui : choice == 1 ? editor->getStateChunk() : nullptr;
+    return bytes.next() % 3 == 0 ? &wildGui : nullptr;
 }
 
 std::string Stage::receiver(Bytes& bytes) const

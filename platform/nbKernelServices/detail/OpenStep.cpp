@@ -64,6 +64,7 @@ void OpenStep::clear()
     met.clear();
     title.clear();
     literalTitle = nullptr;
+    ++number;
 }
 
 void undoAll(const StepRecords& records)

@@ -31,6 +31,9 @@ public:
     /// The name; a general one if none was offered.
     QString getTitle() const;
 
+    /// Never 0; another one after each clear.
+    osg::UInt64 getNumber() const { return number; }
+
     bool isEmpty() const { return records.empty() && transforms.isEmpty(); }
 
     /// Closes all records and hands over those that hold a change; to be followed by clear.
@@ -47,6 +50,7 @@ private:
     std::unordered_set<osg::UInt32> met;
     QString title;
     const char* literalTitle = nullptr;
+    osg::UInt64 number = 1;
 };
 
 /// Undoes or redoes records in the right order.

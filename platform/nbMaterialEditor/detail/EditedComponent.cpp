@@ -3,8 +3,9 @@
 
 #include <nbKernel/nbController.h>
 #include <nbKernelServices/nbScopedUndo.h>
+#include <nbKernelServices/nbStateRecord.h>
 #include <nbKernelServices/nbUndoService.h>
-#include <nbMaterialEditor/detail/ComponentRecord.h>
+#include <nbMaterialEditor/detail/ComponentState.h>
 #include <nbMaterialEditor/detail/ProjectionPlacing.h>
 #include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
@@ -52,12 +53,17 @@ float aspectOf(const osg::ImagePtr& image)
 void EditedComponent::setTarget(const osg::MaterialPtr& material, const osg::NodePtr& object,
                                 const std::string& component, nbStateChunkBase* told)
 {
-    stateChunk.setMaterial(osg::UberMaterialPtr::dcast(material));
+    materialId = idOf(material);
     objectId = idOf(object);
     componentName = component;
     gui = told;
-    recordedGroup = 0;
+    recordedStep = 0;
     endDrag();
+}
+
+osg::UberMaterialPtr EditedComponent::material() const
+{
+    return osg::UberMaterialPtr::dcast(osg::FieldContainerFactory::the()->getContainer(materialId));
 }
 
 osg::NodePtr EditedComponent::object() const
@@ -184,16 +190,15 @@ nbTextureValues EditedComponent::fitted(nbTextureValues values, osg::Int32 proje
 
 // == Around edits
 
-/// A group closes with one state, so one record is enough for all edits in it.
+/// A step closes with one state, so one record is enough for all edits in it.
 void EditedComponent::record()
 {
     nbUndoService* const undo = nbUndoService::the();
-    const osg::UInt64 group = undo->isGroupOpen() ? undo->getGroupChangeCount() : 0;
-    if (!undo->isRecording() || (group != 0 && group == recordedGroup)) {
-        return;
+    if (undo->isRecording() && recordedStep != undo->getOpenStep()) {
+        recordedStep = undo->getOpenStep();
+        undo->record(std::make_unique<nbStateRecord<ComponentState, osg::UberMaterialPtr>>(
+            material(), ComponentState::of(material(), componentName)));
     }
-    recordedGroup = group;
-    undo->record(std::make_unique<ComponentRecord>(material(), componentName));
 }
 
 void EditedComponent::makeEdit(const char* title, nbFunctionRef<void()> edit)
@@ -203,7 +208,7 @@ void EditedComponent::makeEdit(const char* title, nbFunctionRef<void()> edit)
     const ComponentState before = ComponentState::of(material(), componentName);
     record();
     edit();
-    if (!(before == ComponentState::of(material(), componentName))) {
+    if (!before.isSame(before.now(material()))) {
         announce();
     }
 }

@@ -3,7 +3,7 @@
 
 #include <nbMaterialEditor/detail/PreviewMessages.h>
 #include <nbOpenSGUberMaterial/UberMaterial.h>
-#include <nbOpenSGUberMaterial/nbMaterialStateChunk.h>
+#include <nbOpenSGUberMaterial/nbStateChunkBase.h>
 #include <nbOpenSGUberMaterial/nbTextureValues.h>
 #include <nbOpenSGUtils/nbTransformState.h>
 #include <nbUtils/nbFunctionRef.h>
@@ -39,15 +39,12 @@ public:
                    const std::string& component, nbStateChunkBase* gui);
 
     // Null for what is gone or missing.
-    osg::UberMaterialPtr material() const { return stateChunk.getMaterial(); }
-
+    osg::UberMaterialPtr material() const;
     osg::NodePtr object() const;
     osg::ColorComponentSettingsPtr settings() const;
     osg::Transform3DPtr projection() const;
 
     const std::string& component() const { return componentName; }
-
-    nbMaterialStateChunk& values() { return stateChunk; }
 
     /// Of the drag that runs, or begins with this. With settings only; valid until the next call.
     const DragStart& start();
@@ -85,11 +82,11 @@ public:
 private:
     void record();
 
-    nbMaterialStateChunk stateChunk;
+    osg::UInt32 materialId = 0;
     osg::UInt32 objectId = 0;
     std::string componentName;
     nbStateChunkBase* gui = nullptr;
     std::optional<DragStart> dragStart;
-    /// The group of the undo service that has a record of the component; 0 for none.
-    osg::UInt64 recordedGroup = 0;
+    /// The step of the undo service that has a record of the component; 0 for none.
+    osg::UInt64 recordedStep = 0;
 };
