@@ -17,21 +17,36 @@ public:
     AbstractInteractionContext(const AbstractInteractionContext& other);
     AbstractInteractionContext& operator=(const AbstractInteractionContext& other);
 
-    InteractionManager* getInteractionManager() const override;
-    void enabled(InteractionManager* manager) override;
+    InteractionManager* getInteractionManager() const override { return interactionManager; }
+
+    void enabled(InteractionManager* /*manager*/) override { contextIsEnabled = true; }
+
     void disabled(InteractionManager* manager) override;
     void contextAdded(InteractionManager* manager) override;
     void contextRemoved(InteractionManager* manager) override;
-    void contextRaised(InteractionManager* manager) override;
-    void contextLowered(InteractionManager* manager) override;
-    void pointerMoved(const osg::Pnt2f& positionPx) override;
-    void cameraMoved(const osg::TransformationMatrix<float>& worldFromCamera) override;
-    bool triggerEvent(InteractionManager* manager, const InteractionEvent& event) override;
-    bool isRaised() const override;
-    bool isActive() const override;
-    bool isEnabled() const override;
-    PreferredPosition getPreferredPosition() override;
-    bool selectMode(const std::string& mode) override;
+
+    void contextRaised(InteractionManager* /*manager*/) override { contextIsRaised = true; }
+
+    void contextLowered(InteractionManager* /*manager*/) override { contextIsRaised = false; }
+
+    void pointerMoved(const osg::Pnt2f& /*positionPx*/) override { }
+
+    void cameraMoved(const osg::TransformationMatrix<float>& /*worldFromCamera*/) override { }
+
+    bool triggerEvent(InteractionManager* /*manager*/, const InteractionEvent& /*event*/) override
+    {
+        return false;
+    }
+
+    bool isRaised() const override { return contextIsRaised; }
+
+    bool isActive() const override { return contextIsAdded; }
+
+    bool isEnabled() const override { return contextIsEnabled; }
+
+    PreferredPosition getPreferredPosition() override { return Background; }
+
+    bool selectMode(const std::string& /*mode*/) override { return false; }
 
     ~AbstractInteractionContext() override;
 

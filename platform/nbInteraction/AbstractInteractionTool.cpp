@@ -19,56 +19,6 @@ AbstractInteractionTool& AbstractInteractionTool::operator=(const AbstractIntera
 
 AbstractInteractionTool::~AbstractInteractionTool() = default;
 
-bool AbstractInteractionTool::setToolMode(ToolInteractionContext*, const std::string&)
-{
-    return false;
-}
-
-void AbstractInteractionTool::activateTool(ToolInteractionContext*)
-{
-    active = true;
-}
-
-void AbstractInteractionTool::deactivateTool(ToolInteractionContext*)
-{
-    active = false;
-}
-
-bool AbstractInteractionTool::isActive() const
-{
-    return active;
-}
-
-bool AbstractInteractionTool::startTool(ToolInteractionContext*, const std::string&)
-{
-    return false;
-}
-
-bool AbstractInteractionTool::processTool(ToolInteractionContext*, const std::string&)
-{
-    return false;
-}
-
-bool AbstractInteractionTool::stopTool(ToolInteractionContext*, const std::string&)
-{
-    return false;
-}
-
-bool AbstractInteractionTool::triggerTool(ToolInteractionContext*, const std::string&)
-{
-    return false;
-}
-
-bool AbstractInteractionTool::hoverTool(ToolInteractionContext*, const std::string&)
-{
-    return false;
-}
-
-bool AbstractInteractionTool::stopHoverTool(ToolInteractionContext*, const std::string&)
-{
-    return false;
-}
-
 bool AbstractInteractionTool::isPickHint(const std::string& hint) const
 {
     static constexpr const char* kPickHints[] = { names::kSelect, names::kDeselect,
@@ -76,16 +26,6 @@ bool AbstractInteractionTool::isPickHint(const std::string& hint) const
                                                   names::kToggle, names::kSelectThrough };
     return std::any_of(std::begin(kPickHints), std::end(kPickHints),
                        [&hint](const char* pickHint) { return hint == pickHint; });
-}
-
-void AbstractInteractionTool::setDescription(const std::string& text)
-{
-    description = text;
-}
-
-const std::string& AbstractInteractionTool::getDescription() const
-{
-    return description;
 }
 
 }  // namespace nbec::interaction

@@ -27,25 +27,56 @@ public:
 
     /// Slot 0. The interaction mode is now `mode`; "" when the tool is being left.
     /// @return whether the tool knows the mode; false here
-    virtual bool setToolMode(ToolInteractionContext* context, const std::string& mode);
+    virtual bool setToolMode(ToolInteractionContext* /*context*/, const std::string& /*mode*/)
+    {
+        return false;
+    }
+
     /// Slot 1. The tool comes into use.
-    virtual void activateTool(ToolInteractionContext* context);
+    virtual void activateTool(ToolInteractionContext* /*context*/) { active = true; }
+
     /// Slot 2. The tool goes out of use.
-    virtual void deactivateTool(ToolInteractionContext* context);
+    virtual void deactivateTool(ToolInteractionContext* /*context*/) { active = false; }
+
     /// Slot 3. @return whether the tool is in use
-    virtual bool isActive() const;
+    virtual bool isActive() const { return active; }
+
     /// Slot 4. A drag begins. @return whether the tool takes the drag; false here
-    virtual bool startTool(ToolInteractionContext* context, const std::string& hint);
+    virtual bool startTool(ToolInteractionContext* /*context*/, const std::string& /*hint*/)
+    {
+        return false;
+    }
+
     /// Slot 5. The pointer moved within a drag. @return whether the tool handled it; false here
-    virtual bool processTool(ToolInteractionContext* context, const std::string& hint);
+    virtual bool processTool(ToolInteractionContext* /*context*/, const std::string& /*hint*/)
+    {
+        return false;
+    }
+
     /// Slot 6. A drag ends. @return whether the tool handled it; false here
-    virtual bool stopTool(ToolInteractionContext* context, const std::string& hint);
+    virtual bool stopTool(ToolInteractionContext* /*context*/, const std::string& /*hint*/)
+    {
+        return false;
+    }
+
     /// Slot 7. A single action without a drag. @return whether the tool handled it; false here
-    virtual bool triggerTool(ToolInteractionContext* context, const std::string& hint);
+    virtual bool triggerTool(ToolInteractionContext* /*context*/, const std::string& /*hint*/)
+    {
+        return false;
+    }
+
     /// Slot 8. The pointer moved without a button. @return whether the tool took it; false here
-    virtual bool hoverTool(ToolInteractionContext* context, const std::string& hint);
+    virtual bool hoverTool(ToolInteractionContext* /*context*/, const std::string& /*hint*/)
+    {
+        return false;
+    }
+
     /// Slot 9. The pointer no longer hovers. @return whether the tool handled it; false here
-    virtual bool stopHoverTool(ToolInteractionContext* context, const std::string& hint);
+    virtual bool stopHoverTool(ToolInteractionContext* /*context*/, const std::string& /*hint*/)
+    {
+        return false;
+    }
+
     /// Slot 10. @return whether the context's picker is to pick under the pointer before startTool
     /// and processTool with this hint, so that they find the hit in it. Here true for "select",
     /// "deselect", "add", "sub", "toggle" and "selectThrough".
@@ -54,8 +85,9 @@ public:
     virtual ~AbstractInteractionTool();
 
     /// Sets the line of text that tells the user what the tool does or did; "" for none.
-    void setDescription(const std::string& text);
-    const std::string& getDescription() const;
+    void setDescription(const std::string& text) { description = text; }
+
+    const std::string& getDescription() const { return description; }
 
 private:
     std::string description;

@@ -66,21 +66,6 @@ CameraInteractionContext::~CameraInteractionContext()
     leaveManager();
 }
 
-void CameraInteractionContext::setPicker(Picker* newPicker)
-{
-    picker = newPicker;
-}
-
-Picker* CameraInteractionContext::getPicker() const
-{
-    return picker;
-}
-
-void CameraInteractionContext::setChangedCallback(std::function<void()> callback)
-{
-    changedCallback = std::move(callback);
-}
-
 bool CameraInteractionContext::setPose(const CameraPose& pose)
 {
     nbOSGWidget* const view = nbOSGWidget::getMGLW(-1);
@@ -95,11 +80,6 @@ void CameraInteractionContext::contextRemoved(InteractionManager* manager)
 {
     drag.reset();
     AbstractInteractionContext::contextRemoved(manager);
-}
-
-void CameraInteractionContext::pointerMoved(const osg::Pnt2f& positionPx)
-{
-    pointerPosition = positionPx;
 }
 
 bool CameraInteractionContext::triggerEvent(InteractionManager* manager,
@@ -122,11 +102,6 @@ bool CameraInteractionContext::triggerEvent(InteractionManager* manager,
         return zoomBySteps(event.getAmount());
     }
     return false;
-}
-
-PreferredPosition CameraInteractionContext::getPreferredPosition()
-{
-    return Camera;
 }
 
 bool CameraInteractionContext::startDrag(const std::string& hint)

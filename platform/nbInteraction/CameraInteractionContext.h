@@ -36,12 +36,16 @@ public:
     /// Sets what finds the scene point under the pointer to zoom to; its filter is kept. Without
     /// one that point is taken at the pivot's depth.
     /// @param newPicker  not owned; null for none
-    void setPicker(Picker* newPicker);
-    Picker* getPicker() const;
+    void setPicker(Picker* newPicker) { picker = newPicker; }
+
+    Picker* getPicker() const { return picker; }
 
     /// Sets what is called after each change of the camera made from here, when the contexts of the
     /// manager have been told and a redraw was asked for; null for nothing.
-    void setChangedCallback(std::function<void()> callback);
+    void setChangedCallback(std::function<void()> callback)
+    {
+        changedCallback = std::move(callback);
+    }
 
     /// Places the main widget's camera and tells everybody as a navigation from here does. A drag
     /// that runs goes on from there.
@@ -49,10 +53,13 @@ public:
     bool setPose(const CameraPose& pose);
 
     void contextRemoved(InteractionManager* manager) override;
-    void pointerMoved(const osg::Pnt2f& positionPx) override;
+
+    void pointerMoved(const osg::Pnt2f& positionPx) override { pointerPosition = positionPx; }
+
     bool triggerEvent(InteractionManager* manager, const InteractionEvent& event) override;
+
     /// @return Camera
-    PreferredPosition getPreferredPosition() override;
+    PreferredPosition getPreferredPosition() override { return Camera; }
 
     ~CameraInteractionContext() override;
 

@@ -18,12 +18,20 @@ public:
     /// @param amountValue  extent of a stepless action, such as wheel steps (positive away from the
     /// user); 0 where the event has none
     InteractionEvent(const std::string& eventName, const std::string& toolName,
-                     const std::string& hintText, double amountValue = 0.0);
+                     const std::string& hintText, double amountValue = 0.0)
+        : event(eventName)
+        , tool(toolName)
+        , hint(hintText)
+        , amount(amountValue)
+    { }
 
-    const std::string& getEvent() const;
-    const std::string& getTool() const;
-    const std::string& getHint() const;
-    double getAmount() const;
+    const std::string& getEvent() const { return event; }
+
+    const std::string& getTool() const { return tool; }
+
+    const std::string& getHint() const { return hint; }
+
+    double getAmount() const { return amount; }
 
 private:
     std::string event;

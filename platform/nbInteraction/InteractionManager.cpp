@@ -87,11 +87,6 @@ bool InteractionManager::removeContext(InteractionContext* context)
     return true;
 }
 
-bool InteractionManager::hasContext(const InteractionContext* context) const
-{
-    return findEntry(context) != entries.end();
-}
-
 std::vector<InteractionContext*> InteractionManager::getContexts() const
 {
     std::vector<InteractionContext*> contexts;
@@ -207,32 +202,7 @@ bool InteractionManager::selectMode(const std::string& newMode)
         [&told](InteractionContext& context) { return context.selectMode(told); });
 }
 
-const std::string& InteractionManager::getMode() const
-{
-    return mode;
-}
-
 // == Drags
-
-bool InteractionManager::isDragging() const
-{
-    return dragState == DragState::Running;
-}
-
-InteractionContext* InteractionManager::getDragContext() const
-{
-    return contextOf(dragOwner);
-}
-
-DragEnd InteractionManager::getDragEnd() const
-{
-    return dragEnd;
-}
-
-void InteractionManager::endDrag()
-{
-    breakDrag(DragEnd::Interrupted);
-}
 
 void InteractionManager::cancelDrag()
 {
@@ -248,26 +218,11 @@ void InteractionManager::cancelDrag()
     }
 }
 
-void InteractionManager::setDragKeys(DragKeys keys)
-{
-    dragKeys = std::move(keys);
-}
-
-bool InteractionManager::typeKey(QChar key)
-{
-    return dragKeys.typed && getDragContext() != nullptr && dragKeys.typed(key);
-}
-
 void InteractionManager::setFineMotion(bool on)
 {
     if (dragKeys.fine && getDragContext() != nullptr) {
         dragKeys.fine(on);
     }
-}
-
-void InteractionManager::setCancelHandler(std::function<void()> handler)
-{
-    cancelHandler = std::move(handler);
 }
 
 bool InteractionManager::startDrag(const InteractionEvent& event)

@@ -73,7 +73,12 @@ public:
     bool addContext(InteractionContext* context);
     /// Removes a context; a drag that it took is stopped first. @return whether it was here
     bool removeContext(InteractionContext* context);
-    bool hasContext(const InteractionContext* context) const;
+
+    bool hasContext(const InteractionContext* context) const
+    {
+        return findEntry(context) != entries.end();
+    }
+
     /// @return all contexts, enabled or not, in the order in which they are asked; not owned
     std::vector<InteractionContext*> getContexts() const;
 
@@ -94,31 +99,42 @@ public:
     bool triggerEvent(const InteractionEvent& event);
     /// Switches the mode of all enabled contexts. @return whether one of them knows the mode
     bool selectMode(const std::string& mode);
+
     /// @return the mode last selected, "tool" at first
-    const std::string& getMode() const;
+    const std::string& getMode() const { return mode; }
 
     /// @return whether a drag is running, taken by a context or not
-    bool isDragging() const;
+    bool isDragging() const { return dragState == DragState::Running; }
+
     /// @return the context that took the running drag; null if there is none
-    InteractionContext* getDragContext() const;
+    InteractionContext* getDragContext() const { return contextOf(dragOwner); }
+
     /// @return how the drag ends whose "stop" event a context is just handling
-    DragEnd getDragEnd() const;
+    DragEnd getDragEnd() const { return dragEnd; }
+
     /// Ends a running drag early with a "stop" event; what it did stays.
-    void endDrag();
+    void endDrag() { breakDrag(DragEnd::Interrupted); }
+
     /// Ends a running drag early with a "stop" event and takes it back: its group of undo, and then
     /// by the cancel handler, if a context had taken the drag. Drags of the tool "camera" are taken
     /// back by their context alone, so that no edit of the scene is lost for them.
     void cancelDrag();
+
     /// Sets what takes back what undo does not know of a cancelled drag; null for nothing. A drag
     /// may have made no edit; then the handler must change nothing.
-    void setCancelHandler(std::function<void()> handler);
+    void setCancelHandler(std::function<void()> handler) { cancelHandler = std::move(handler); }
 
     /// Sets who takes the keys of running drags.
-    void setDragKeys(DragKeys keys);
+    void setDragKeys(DragKeys keys) { dragKeys = std::move(keys); }
+
     /// Brings a key to who takes them while a context has taken a drag; a character as QKeyEvent
     /// has it, control characters for Return, Tab, Backspace and Escape. @return whether it was
     /// taken
-    bool typeKey(QChar key);
+    bool typeKey(QChar key)
+    {
+        return dragKeys.typed && getDragContext() != nullptr && dragKeys.typed(key);
+    }
+
     /// Tells who takes keys whether Shift is held.
     void setFineMotion(bool on);
 

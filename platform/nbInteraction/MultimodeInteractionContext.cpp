@@ -27,20 +27,10 @@ bool MultimodeInteractionContext::triggerEvent(InteractionManager*, const Intera
     return false;
 }
 
-PreferredPosition MultimodeInteractionContext::getPreferredPosition()
-{
-    return preferredPosition;
-}
-
 bool MultimodeInteractionContext::selectMode(const std::string& mode)
 {
     currentMode = mode;
     return true;
-}
-
-const std::string& MultimodeInteractionContext::getMode() const
-{
-    return currentMode;
 }
 
 }  // namespace nbec::interaction

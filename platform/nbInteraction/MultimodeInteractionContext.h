@@ -21,13 +21,13 @@ public:
     /// @return false always: a mode concerns every context, and no other event is handled
     bool triggerEvent(InteractionManager* manager, const InteractionEvent& event) override;
 
-    PreferredPosition getPreferredPosition() override;
+    PreferredPosition getPreferredPosition() override { return preferredPosition; }
 
     /// Keeps the mode. Overriding operations need not call it. @return true
     bool selectMode(const std::string& mode) override;
 
     /// @return the mode last entered through an event or kept by selectMode; "" at first
-    const std::string& getMode() const;
+    const std::string& getMode() const { return currentMode; }
 
     ~MultimodeInteractionContext() override;
 

@@ -70,24 +70,9 @@ Picker::~Picker() = default;
 
 // == Settings
 
-void Picker::setPickNode(const osg::NodePtr& node)
-{
-    pickNodeId = node == osg::NullFC ? 0 : node.getFieldContainerId();
-}
-
 osg::NodePtr Picker::getPickNode() const
 {
     return nodeOf(pickNodeId);
-}
-
-void Picker::setFilter(int value)
-{
-    filter = value;
-}
-
-int Picker::getFilter() const
-{
-    return filter;
 }
 
 void Picker::setSlop(const std::optional<PickSlop>& reach)
@@ -112,12 +97,12 @@ void Picker::setPixelRatio(float ratio)
     }
 }
 
-// == Picking
-
-osg::NodePtr Picker::pick()
+void Picker::setDevice(PointerDevice device)
 {
-    return pick(HandleRank());
+    pointer().device = device;
 }
+
+// == Picking
 
 osg::NodePtr Picker::pick(const HandleRank& rankOf)
 {
@@ -127,11 +112,6 @@ osg::NodePtr Picker::pick(const HandleRank& rankOf)
         return {};
     }
     return pickAt(widget->getMousePosition(), rankOf);
-}
-
-osg::NodePtr Picker::pickAt(const osg::Pnt2f& px)
-{
-    return pickAt(px, HandleRank());
 }
 
 osg::NodePtr Picker::pickAt(const osg::Pnt2f& px, const HandleRank& rankOf)
@@ -213,16 +193,6 @@ void Picker::forgetHit()
 osg::NodePtr Picker::getHitNode() const
 {
     return nodeOf(hitNodeId);
-}
-
-osg::Pnt3f Picker::getHitPoint() const
-{
-    return hitPoint;
-}
-
-osg::Vec3f Picker::getHitNormal() const
-{
-    return hitNormal;
 }
 
 void Picker::buildTrees(const osg::NodePtr& root)

@@ -82,13 +82,18 @@ public:
     Picker& operator=(const Picker&) = delete;
 
     /// Sets the top of the handles to test (a manipulator's collider); null clears. Not owned.
-    void setPickNode(const osg::NodePtr& node);
+    void setPickNode(const osg::NodePtr& node)
+    {
+        pickNodeId = node == osg::NullFC ? 0 : node.getFieldContainerId();
+    }
+
     /// @return the pick node; null if none was set or it no longer exists
     osg::NodePtr getPickNode() const;
 
     /// Sets the filter. Values other than those of Filter are kept and pick nothing.
-    void setFilter(int value);
-    int getFilter() const;
+    void setFilter(int value) { filter = value; }
+
+    int getFilter() const { return filter; }
 
     /// Has handles hit from as far as suits the device, for example setSlop(PickSlop()): of those
     /// within reach the nearest on screen, of several as near the smaller. Nothing, as at the
@@ -106,7 +111,7 @@ public:
 
     /// Picks under the main widget's pointer and remembers the hit.
     /// @return the hit geometry node; null if there is none, no widget, no camera or no area
-    osg::NodePtr pick();
+    osg::NodePtr pick() { return pick(HandleRank()); }
 
     /// Rank of a handle by its node; 0 before 1, and so on.
     using HandleRank = std::function<int(const osg::NodePtr&)>;
@@ -119,17 +124,19 @@ public:
     /// Picks at a pixel of the main widget and remembers the hit.
     /// The ray goes through the centre of the pixel that holds the position.
     /// @param px  device pixels, y from the top; outside the view or NaN: no hit
-    osg::NodePtr pickAt(const osg::Pnt2f& px);
+    osg::NodePtr pickAt(const osg::Pnt2f& px) { return pickAt(px, HandleRank()); }
 
     /// @return the node of the last pick; null if it missed or the node no longer exists
     osg::NodePtr getHitNode() const;
+
     /// @return the point of the last hit, world space; the origin after a miss.
     /// On a handle hit beside its edge: the point of the handle nearest to the pointer on screen.
-    osg::Pnt3f getHitPoint() const;
+    osg::Pnt3f getHitPoint() const { return hitPoint; }
+
     /// @return the surface normal of the last hit as it is shaded (mixed from the triangle's
     /// vertices, if they have normals), world space, unit length, on the front side of the triangle
     /// as its vertices wind; on a line or point towards the eye; zero after a miss
-    osg::Vec3f getHitNormal() const;
+    osg::Vec3f getHitNormal() const { return hitNormal; }
 
     /// Collects the scene's geometry nodes that lie wholly inside a rectangle of the main widget:
     /// every position of the geometry is projected inside it and in front of the near plane.

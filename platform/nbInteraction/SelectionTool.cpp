@@ -47,11 +47,6 @@ bool SelectionTool::startTool(ToolInteractionContext* context, const std::string
     return pressed;
 }
 
-bool SelectionTool::processTool(ToolInteractionContext*, const std::string&)
-{
-    return pressed;
-}
-
 bool SelectionTool::stopTool(ToolInteractionContext* context, const std::string& hint)
 {
     if (!pressed) {
@@ -63,11 +58,6 @@ bool SelectionTool::stopTool(ToolInteractionContext* context, const std::string&
         applyClick(detail::pickScene(*picker), hint);
     }
     return true;
-}
-
-bool SelectionTool::isPickHint(const std::string&) const
-{
-    return false;
 }
 
 bool SelectionTool::isClick(const osg::Pnt2f& releasePx) const

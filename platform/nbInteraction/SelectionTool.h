@@ -21,10 +21,16 @@ public:
     static constexpr float kClickTolerance = 4.0F;
 
     bool startTool(ToolInteractionContext* context, const std::string& hint) override;
-    bool processTool(ToolInteractionContext* context, const std::string& hint) override;
+
+    bool processTool(ToolInteractionContext* /*context*/, const std::string& /*hint*/) override
+    {
+        return pressed;
+    }
+
     bool stopTool(ToolInteractionContext* context, const std::string& hint) override;
+
     /// The tool picks by itself, once per click. @return false
-    bool isPickHint(const std::string& hint) const override;
+    bool isPickHint(const std::string& /*hint*/) const override { return false; }
 
 private:
     bool isClick(const osg::Pnt2f& releasePx) const;

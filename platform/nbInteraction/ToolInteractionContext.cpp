@@ -49,26 +49,6 @@ void ToolInteractionContext::setTool(AbstractInteractionTool* newTool)
     }
 }
 
-AbstractInteractionTool* ToolInteractionContext::getTool() const
-{
-    return tool;
-}
-
-void ToolInteractionContext::setPicker(Picker* newPicker)
-{
-    picker = newPicker;
-}
-
-Picker* ToolInteractionContext::getPicker() const
-{
-    return picker;
-}
-
-const osg::Pnt2f& ToolInteractionContext::getPointerPosition() const
-{
-    return pointerPosition;
-}
-
 void ToolInteractionContext::enabled(InteractionManager* manager)
 {
     MultimodeInteractionContext::enabled(manager);

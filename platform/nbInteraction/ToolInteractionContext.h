@@ -26,17 +26,19 @@ public:
     /// Changes the tool; the former one is deactivated first, after the stop of its running drag.
     /// @param newTool  not owned; null for none
     void setTool(AbstractInteractionTool* newTool);
-    AbstractInteractionTool* getTool() const;
+
+    AbstractInteractionTool* getTool() const { return tool; }
 
     /// @param newPicker  not owned; null for none
-    void setPicker(Picker* newPicker);
-    Picker* getPicker() const;
+    void setPicker(Picker* newPicker) { picker = newPicker; }
+
+    Picker* getPicker() const { return picker; }
 
     /// The tool name of the events that reach the tool: "tool".
     static const char* getToolName() { return names::kTool; }
 
     /// @return the last pointer position, device pixels, y from the top; (0, 0) at first
-    const osg::Pnt2f& getPointerPosition() const;
+    const osg::Pnt2f& getPointerPosition() const { return pointerPosition; }
 
     void enabled(InteractionManager* manager) override;
     void disabled(InteractionManager* manager) override;

@@ -135,11 +135,6 @@ struct ItemTree::Query : RTCIntersectContext
     Hit hit;
 };
 
-ItemTree::~ItemTree()
-{
-    dropTree();
-}
-
 void ItemTree::assign(std::vector<PickItem> newItems)
 {
     dropTree();

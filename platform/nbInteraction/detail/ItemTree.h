@@ -50,7 +50,9 @@ public:
     };
 
     ItemTree() = default;
-    ~ItemTree();
+
+    ~ItemTree() { dropTree(); }
+
     ItemTree(const ItemTree&) = delete;
     ItemTree& operator=(const ItemTree&) = delete;
 

@@ -65,11 +65,6 @@ void PickBounds::extend(const osg::Pnt3f& p)
     }
 }
 
-PickTree::~PickTree()
-{
-    dropTree();
-}
-
 bool PickTree::assign(GeometrySoup newSoup, const BuildMonitor& monitor)
 {
     const bool sameTopology =

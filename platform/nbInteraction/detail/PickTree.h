@@ -43,7 +43,9 @@ public:
     static constexpr std::size_t kDirectTriangles = 16;
 
     PickTree() = default;
-    ~PickTree();
+
+    ~PickTree() { dropTree(); }
+
     PickTree(const PickTree&) = delete;
     PickTree& operator=(const PickTree&) = delete;
 

@@ -33,12 +33,6 @@ std::shared_ptr<const PickTree> PickTreeCache::treeOf(const osg::GeometryPtr& ge
     return entry.tree;
 }
 
-void PickTreeCache::adopt(osg::UInt32 geometryId, std::shared_ptr<PickTree> tree,
-                          osg::UInt32 changeCount)
-{
-    entries[geometryId] = { std::move(tree), changeCount };
-}
-
 bool PickTreeCache::isCurrent(const osg::GeometryPtr& geometry) const
 {
     const auto entry = entries.find(geometry.getFieldContainerId());

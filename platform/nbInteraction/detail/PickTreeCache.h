@@ -24,7 +24,10 @@ public:
 
     /// Takes over a tree that was built elsewhere.
     /// @param changeCount  that of the geometry when its triangles were read
-    void adopt(osg::UInt32 geometryId, std::shared_ptr<PickTree> tree, osg::UInt32 changeCount);
+    void adopt(osg::UInt32 geometryId, std::shared_ptr<PickTree> tree, osg::UInt32 changeCount)
+    {
+        entries[geometryId] = { std::move(tree), changeCount };
+    }
 
     /// Whether the tree of a geometry is there and up to date. @param geometry  not null
     bool isCurrent(const osg::GeometryPtr& geometry) const;
