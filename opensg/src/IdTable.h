@@ -42,8 +42,6 @@ public:
 
     std::size_t size() const;
 
-    std::size_t bytes() const { return slots.capacity() * sizeof(Slot); }
-
     template <class Visitor>
     void forEach(Visitor visit) const
     {

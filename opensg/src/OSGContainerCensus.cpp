@@ -20,11 +20,6 @@ ContainerCensus ContainerCensus::take()
     return census;
 }
 
-std::size_t ContainerCensus::idTableBytes()
-{
-    return FieldContainerFactory::the()->tables->living.bytes();
-}
-
 UInt32 ContainerCensus::total() const
 {
     UInt32 sum = 0;

@@ -106,75 +106,23 @@ bool ShaderParameterChunk::setParameter(const Char8* name, const Value& value)
     return true;
 }
 
-bool ShaderParameterChunk::setUniformParameter(const Char8* name, bool value)
-{
-    return setParameter<ShaderParameterBool>(name, value);
-}
+#define OSG_UNIFORM_ACCESS_(Type, Value, Argument)                                                 \
+    bool ShaderParameterChunk::setUniformParameter(const Char8* name, Argument value)              \
+    {                                                                                              \
+        return setParameter<ShaderParameter##Type>(name, value);                                   \
+    }                                                                                              \
+    bool ShaderParameterChunk::getUniformParameter(const Char8* name, Value& value) const          \
+    {                                                                                              \
+        return readParameter<ShaderParameter##Type>(findParameter(name), value);                   \
+    }
 
-bool ShaderParameterChunk::setUniformParameter(const Char8* name, Int32 value)
-{
-    return setParameter<ShaderParameterInt>(name, value);
-}
-
-bool ShaderParameterChunk::setUniformParameter(const Char8* name, Real32 value)
-{
-    return setParameter<ShaderParameterReal>(name, value);
-}
-
-bool ShaderParameterChunk::setUniformParameter(const Char8* name, const Vec2f& value)
-{
-    return setParameter<ShaderParameterVec2f>(name, value);
-}
-
-bool ShaderParameterChunk::setUniformParameter(const Char8* name, const Vec3f& value)
-{
-    return setParameter<ShaderParameterVec3f>(name, value);
-}
-
-bool ShaderParameterChunk::setUniformParameter(const Char8* name, const Vec4f& value)
-{
-    return setParameter<ShaderParameterVec4f>(name, value);
-}
-
-bool ShaderParameterChunk::setUniformParameter(const Char8* name, const Matrix& value)
-{
-    return setParameter<ShaderParameterMatrix>(name, value);
-}
-
-bool ShaderParameterChunk::getUniformParameter(const Char8* name, bool& value) const
-{
-    return readParameter<ShaderParameterBool>(findParameter(name), value);
-}
-
-bool ShaderParameterChunk::getUniformParameter(const Char8* name, Int32& value) const
-{
-    return readParameter<ShaderParameterInt>(findParameter(name), value);
-}
-
-bool ShaderParameterChunk::getUniformParameter(const Char8* name, Real32& value) const
-{
-    return readParameter<ShaderParameterReal>(findParameter(name), value);
-}
-
-bool ShaderParameterChunk::getUniformParameter(const Char8* name, Vec2f& value) const
-{
-    return readParameter<ShaderParameterVec2f>(findParameter(name), value);
-}
-
-bool ShaderParameterChunk::getUniformParameter(const Char8* name, Vec3f& value) const
-{
-    return readParameter<ShaderParameterVec3f>(findParameter(name), value);
-}
-
-bool ShaderParameterChunk::getUniformParameter(const Char8* name, Vec4f& value) const
-{
-    return readParameter<ShaderParameterVec4f>(findParameter(name), value);
-}
-
-bool ShaderParameterChunk::getUniformParameter(const Char8* name, Matrix& value) const
-{
-    return readParameter<ShaderParameterMatrix>(findParameter(name), value);
-}
+OSG_UNIFORM_ACCESS_(Bool, bool, bool)
+OSG_UNIFORM_ACCESS_(Int, Int32, Int32)
+OSG_UNIFORM_ACCESS_(Real, Real32, Real32)
+OSG_UNIFORM_ACCESS_(Vec2f, Vec2f, const Vec2f&)
+OSG_UNIFORM_ACCESS_(Vec3f, Vec3f, const Vec3f&)
+OSG_UNIFORM_ACCESS_(Vec4f, Vec4f, const Vec4f&)
+OSG_UNIFORM_ACCESS_(Matrix, Matrix, const Matrix&)
 
 template <class Value>
 bool ShaderParameterChunk::setUniformParameter(const Char8* name, const MField<Value>& values)

@@ -20,9 +20,6 @@ class ContainerCensus
 public:
     static ContainerCensus take();
 
-    /// Bytes that the table of ids takes at present.
-    static std::size_t idTableBytes();
-
     UInt32 total() const;
 
     /// Of exactly this type.

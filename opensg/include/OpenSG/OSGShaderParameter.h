@@ -22,4 +22,27 @@ class ShaderParameter : public Attachment
     OSG_ABSTRACT_CONTAINER(ShaderParameter, Attachment, OSG_SHADER_PARAMETER_FIELDS);
 };
 
+#define OSG_SHADER_PARAMETER_VALUE_FIELDS(VALUE, OWNED, LINK)                                      \
+    VALUE(Value, value, ValueType, ValueType())
+#define OSG_SHADER_PARAMETER_ARRAY_FIELDS(VALUE, OWNED, LINK, VALUES, OWNEDS, LINKS)               \
+    VALUES(Value, value, ValueType)
+
+/// Declares the class of the variables of a type.
+#define OSG_SHADER_PARAMETER_(Class, Type)                                                         \
+    OSG_CONTAINER_POINTER(Class, ShaderParameterPtr);                                              \
+    class Class : public ShaderParameter                                                           \
+    {                                                                                              \
+        typedef Type ValueType;                                                                    \
+        OSG_CONTAINER(Class, ShaderParameter, OSG_SHADER_PARAMETER_VALUE_FIELDS);                  \
+    }
+
+/// Declares the class of the variables that are arrays of a type.
+#define OSG_SHADER_PARAMETER_ARRAY_(Class, Type)                                                   \
+    OSG_CONTAINER_POINTER(Class, ShaderParameterPtr);                                              \
+    class Class : public ShaderParameter                                                           \
+    {                                                                                              \
+        typedef Type ValueType;                                                                    \
+        OSG_MULTI_CONTAINER(Class, ShaderParameter, OSG_SHADER_PARAMETER_ARRAY_FIELDS);            \
+    }
+
 }  // namespace osg
