@@ -189,10 +189,7 @@ bool CameraInteractionContext::apply(nbOSGWidget& view, const CameraPose& pose)
     if (changedCallback) {
         // A copy, as the callback may replace itself.
         const std::function<void()> callback = changedCallback;
-        nbGuarded("CameraInteractionContext: the changed callback", [&callback] {
-            callback();
-            return true;
-        });
+        nbGuarded("CameraInteractionContext: the changed callback", callback);
     }
     return true;
 }

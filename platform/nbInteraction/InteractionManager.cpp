@@ -80,10 +80,8 @@ bool InteractionManager::removeContext(InteractionContext* context)
     if (hoverOwner == serial) {
         hoverOwner = 0;
     }
-    nbGuarded("InteractionManager: a removed context", [this, context] {
-        context->contextRemoved(this);
-        return true;
-    });
+    nbGuarded("InteractionManager: a removed context",
+              [this, context] { context->contextRemoved(this); });
     return true;
 }
 
@@ -211,10 +209,7 @@ void InteractionManager::cancelDrag()
     if (editsMayExist && cancelHandler) {
         // A copy, as the handler may replace itself.
         const std::function<void()> handler = cancelHandler;
-        nbGuarded("InteractionManager: the cancel handler", [&handler] {
-            handler();
-            return true;
-        });
+        nbGuarded("InteractionManager: the cancel handler", handler);
     }
 }
 
@@ -369,10 +364,7 @@ template <class Call>
 void InteractionManager::notify(std::uint64_t serial, Call call)
 {
     if (InteractionContext* const context = contextOf(serial)) {
-        nbGuarded("InteractionManager: a context", [context, &call] {
-            call(*context);
-            return true;
-        });
+        nbGuarded("InteractionManager: a context", [context, &call] { call(*context); });
     }
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <nbKernel/nbOSGWidget.h>
 #include <nbKernel/nbScenegraph.h>
+#include <nbOpenSGExt/nbIsFinite.h>
 #include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 #include <nbUtils/nbLog.h>
@@ -46,11 +47,6 @@ std::vector<CountedCallback>::iterator findCallback(nbOSGWidget::ResizeCallback 
     return std::find_if(all.begin(), all.end(), [callback](const CountedCallback& entry) {
         return entry.callback == callback;
     });
-}
-
-bool isFinitePosition(const osg::Pnt2f& position)
-{
-    return std::isfinite(position.x()) && std::isfinite(position.y());
 }
 
 /// A position limited to what the arithmetic of rectangles and rays can take in whole pixels.
@@ -267,14 +263,14 @@ void nbOSGWidget::setPixelRatio(float ratio)
 
 void nbOSGWidget::setMousePosition(const osg::Pnt2f& position)
 {
-    if (isFinitePosition(position)) {
+    if (nbIsFinite(position)) {
         mousePositionPx = nearPosition(position);
     }
 }
 
 void nbOSGWidget::setPressPosition(const osg::Pnt2f& position)
 {
-    if (isFinitePosition(position)) {
+    if (nbIsFinite(position)) {
         pressPositionPx = nearPosition(position);
         pressed = true;
     }

@@ -31,17 +31,6 @@ double focalLengthOf(double fovDeg)
     return 0.5 / std::tan(fovDeg * kPi / 360.0);
 }
 
-osg::Vec3d toDouble(const osg::Pnt3f& point)
-{
-    return { point[0], point[1], point[2] };
-}
-
-osg::Pnt3f toPoint(const osg::Vec3d& vector)
-{
-    return { static_cast<osg::Real32>(vector[0]), static_cast<osg::Real32>(vector[1]),
-             static_cast<osg::Real32>(vector[2]) };
-}
-
 osg::Vec3d toCamera(const PerspectiveAim& aim, const osg::Vec3d& way)
 {
     return { aim.right.dot(way), aim.up.dot(way), aim.back.dot(way) };
@@ -55,9 +44,9 @@ osg::Vec3d toWorld(const PerspectiveAim& aim, const osg::Vec3d& way)
 /// What a pose turns about, world space: the pivot, or at if the pivot is not before the eye.
 osg::Vec3d turningPoint(const CameraPose& pose, const PerspectiveAim& aim)
 {
-    const osg::Vec3d pivot = toDouble(pose.pivot);
-    const double depth = -toCamera(aim, pivot - toDouble(pose.from))[2];
-    return depth >= nbCameraNavigation::kNearestDistance ? pivot : toDouble(pose.at);
+    const osg::Vec3d pivot = osg::Vec3d(pose.pivot);
+    const double depth = -toCamera(aim, pivot - osg::Vec3d(pose.from))[2];
+    return depth >= nbCameraNavigation::kNearestDistance ? pivot : osg::Vec3d(pose.at);
 }
 
 /// How much two edges tell about a vanishing point: the areas between them, roughly.
@@ -155,14 +144,14 @@ CameraPose nbPerspectiveSolver::turned(const CameraPose& start, const Perspectiv
                                        double height)
 {
     const PerspectiveAim before = aimOf(start, height);
-    const osg::Vec3d eye = toDouble(start.from);
+    const osg::Vec3d eye = osg::Vec3d(start.from);
     const osg::Vec3d centre = turningPoint(start, before);
     const osg::Vec3d newEye = centre - toWorld(aim, toCamera(before, centre - eye));
-    const double distance = (toDouble(start.at) - eye).length();
+    const double distance = (osg::Vec3d(start.at) - eye).length();
     CameraPose result = start;
-    result.from = toPoint(newEye);
+    result.from = osg::Pnt3f(newEye);
     // Eye and centre in one point would leave the camera without a direction.
-    result.at = toPoint(newEye - aim.back * (distance > 0.0 ? distance : 1.0));
+    result.at = osg::Pnt3f(newEye - aim.back * (distance > 0.0 ? distance : 1.0));
     result.up = osg::Vec3f(aim.up);
     result.fovDeg =
         static_cast<osg::Real32>(2.0 * std::atan(0.5 * height / aim.focalLength) * 180.0 / kPi);
@@ -195,8 +184,8 @@ std::optional<CameraPose> nbPerspectiveSolver::placedBy(const CameraPose& pose, 
     }
     const Vector3 eye = -first * (length * std::abs(near) / determinant);
     CameraPose result = pose;
-    result.from = toPoint(fromEigen(eye));
-    result.at = toPoint(fromEigen(eye) - aim.back * eye.norm());
+    result.from = osg::Pnt3f(fromEigen(eye));
+    result.at = osg::Pnt3f(fromEigen(eye) - aim.back * eye.norm());
     return nbCameraNavigation::isFinite(result) ? std::optional(result) : std::nullopt;
 }
 
@@ -222,7 +211,8 @@ PerspectiveLines nbPerspectiveSolver::linesOf(const CameraPose& pose, double wid
     constexpr double kPartOfDepth = 0.3;
     constexpr double kPartOfPicture = 0.5;
     BoxPicture box { aimOf(pose, height), width, height, 0.0, 0.0 };
-    const osg::Vec3d centre = toCamera(box.aim, turningPoint(pose, box.aim) - toDouble(pose.from));
+    const osg::Vec3d centre =
+        toCamera(box.aim, turningPoint(pose, box.aim) - osg::Vec3d(pose.from));
     box.depth = std::max<double>(-centre[2], nbCameraNavigation::kNearestDistance);
     const double halfPicture = 0.5 * std::min(width, height) * box.depth / box.aim.focalLength;
     box.halfSize = std::min(kPartOfDepth * box.depth, kPartOfPicture * halfPicture);

@@ -33,10 +33,7 @@ struct nbMaterialPreview::Impl final : public PreviewMessages
         }
         ++refreshes;
         if (callback) {
-            nbGuarded("nbMaterialPreview: the refresh callback", [this] {
-                callback();
-                return true;
-            });
+            nbGuarded("nbMaterialPreview: the refresh callback", callback);
         }
     }
 };

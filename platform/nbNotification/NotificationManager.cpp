@@ -126,10 +126,7 @@ void NotificationManager::noteChange()
     }
     // A copy: the listener may replace itself.
     const std::function<void()> listener = changeListener;
-    nbGuarded("NotificationManager: the change listener", [&listener] {
-        listener();
-        return true;
-    });
+    nbGuarded("NotificationManager: the change listener", listener);
 }
 
 }  // namespace nbec::notification

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <nbOpenSGExt/nbIsFinite.h>
 #include <nbOpenSGUberCamera/UberCamera.h>
 #include <nbOpenSGUberCamera/nbUberCameraPool.h>
 #include <nbOpenSGUtils/nbEdit.h>
@@ -30,14 +31,9 @@ constexpr Real64 kLargestHalfHeight = 1e18;
 constexpr Real64 kDepthMarginPart = 0.01;
 constexpr int kCornerCount = 8;
 
-bool isFinitePoint(const Pnt3f& point)
-{
-    return std::isfinite(point.x()) && std::isfinite(point.y()) && std::isfinite(point.z());
-}
-
 bool isBox(const Pnt3f& boundsMin, const Pnt3f& boundsMax)
 {
-    return isFinitePoint(boundsMin) && isFinitePoint(boundsMax) && boundsMin.x() <= boundsMax.x() &&
+    return nbIsFinite(boundsMin) && nbIsFinite(boundsMax) && boundsMin.x() <= boundsMax.x() &&
         boundsMin.y() <= boundsMax.y() && boundsMin.z() <= boundsMax.z();
 }
 
@@ -71,7 +67,7 @@ Vec3f UberCamera::getUp(Int32 /*index*/) const
 
 bool UberCamera::setFromAtUp(const Pnt3f& newFrom, const Pnt3f& newAt, const Vec3f& newUp)
 {
-    if (!isFinitePoint(newFrom) || !isFinitePoint(newAt) || !isFinitePoint(newUp)) {
+    if (!nbIsFinite(newFrom) || !nbIsFinite(newAt) || !nbIsFinite(newUp)) {
         return false;
     }
     const nbEdit edit(UberCameraPtr(*this), FromFieldMask | AtFieldMask | UpFieldMask);
@@ -255,7 +251,7 @@ void UberCamera::updateBeacon()
         setBeacon(internalParentNode);
     }
     const CameraPose pose = getPose();
-    if (!isFinitePoint(pose.from) || !isFinitePoint(pose.at) || !isFinitePoint(pose.up)) {
+    if (!nbIsFinite(pose.from) || !nbIsFinite(pose.at) || !nbIsFinite(pose.up)) {
         return;
     }
     const nbCameraNavigation::Axes axes = nbCameraNavigation::axes(pose);

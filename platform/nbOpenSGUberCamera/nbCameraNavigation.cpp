@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <nbOpenSGExt/nbIsFinite.h>
 #include <nbOpenSGUberCamera/nbCameraNavigation.h>
 
 #include <algorithm>
@@ -34,31 +35,9 @@ struct Basis
     Vec3d back;
 };
 
-Vec3d toDouble(const Pnt3f& value)
-{
-    return Vec3d(value.x(), value.y(), value.z());
-}
-
-Pnt3f toPoint(const Vec3d& value)
-{
-    return Pnt3f(static_cast<Real32>(value.x()), static_cast<Real32>(value.y()),
-                 static_cast<Real32>(value.z()));
-}
-
-Vec3f toVector(const Vec3d& value)
-{
-    return Vec3f(static_cast<Real32>(value.x()), static_cast<Real32>(value.y()),
-                 static_cast<Real32>(value.z()));
-}
-
 Real64 largestComponent(const Vec3d& value)
 {
     return std::max({ std::abs(value.x()), std::abs(value.y()), std::abs(value.z()) });
-}
-
-bool isFinitePoint(const Pnt3f& value)
-{
-    return std::isfinite(value.x()) && std::isfinite(value.y()) && std::isfinite(value.z());
 }
 
 /// Direction of a vector of any length; nothing for the zero vector.
@@ -95,10 +74,9 @@ std::optional<Vec3d> rightOf(const Vec3d& up, const Vec3d& back)
 Basis basisOf(const CameraPose& pose)
 {
     Basis result;
-    result.back = direction(toDouble(pose.from) - toDouble(pose.at)).value_or(frontBack(pose));
+    result.back = direction(Vec3d(pose.from) - Vec3d(pose.at)).value_or(frontBack(pose));
     const Vec3d worldUp = worldUpOf(pose);
-    std::optional<Vec3d> right =
-        rightOf(direction(toDouble(pose.up)).value_or(worldUp), result.back);
+    std::optional<Vec3d> right = rightOf(direction(Vec3d(pose.up)).value_or(worldUp), result.back);
     if (!right) {
         right = rightOf(worldUp, result.back);
     }
@@ -116,13 +94,13 @@ Real64 tanHalfFov(const CameraPose& pose)
 
 Real64 distanceOf(const CameraPose& pose)
 {
-    const Vec3d way = toDouble(pose.at) - toDouble(pose.from);
+    const Vec3d way = Vec3d(pose.at) - Vec3d(pose.from);
     return std::sqrt(way.dot(way));
 }
 
 Real64 depthOf(const CameraPose& pose, const Basis& basis, const Vec3d& point)
 {
-    return (toDouble(pose.from) - point).dot(basis.back);
+    return (Vec3d(pose.from) - point).dot(basis.back);
 }
 
 Real64 viewHeightOf(const CameraPose& pose, Real64 atDepth)
@@ -134,7 +112,7 @@ Real64 viewHeightOf(const CameraPose& pose, Real64 atDepth)
 Real64 nearestDistanceOf(const CameraPose& pose)
 {
     return std::max<Real64>(nbCameraNavigation::kNearestDistance,
-                            kCoordinateResolution * largestComponent(toDouble(pose.pivot)));
+                            kCoordinateResolution * largestComponent(Vec3d(pose.pivot)));
 }
 
 /// Vector turned about a unit axis, counter-clockwise seen against the axis (Rodrigues' formula).
@@ -162,8 +140,8 @@ Real64 limitedFactor(const CameraPose& pose, Real64 distance, Real64 factor)
 /// Point that a zoom leaves where it is in the view; see nbCameraNavigation::zoom.
 Vec3d zoomCentre(const CameraPose& pose, const Basis& basis, const Vec3d& target)
 {
-    const Vec3d eye = toDouble(pose.from);
-    const Real64 pivotDepth = depthOf(pose, basis, toDouble(pose.pivot));
+    const Vec3d eye = Vec3d(pose.from);
+    const Real64 pivotDepth = depthOf(pose, basis, Vec3d(pose.pivot));
     const Real64 targetDepth = depthOf(pose, basis, target);
     const Real64 lastDepth = pivotDepth > 0.0 ? pivotDepth : distanceOf(pose);
     if (pose.orthographic) {
@@ -224,13 +202,13 @@ Vec3d standardBack(const CameraPose& pose, nbCameraNavigation::StandardView view
 
 Vec3f nbCameraNavigation::worldUp(const CameraPose& pose)
 {
-    return toVector(worldUpOf(pose));
+    return Vec3f(worldUpOf(pose));
 }
 
 nbCameraNavigation::Axes nbCameraNavigation::axes(const CameraPose& pose)
 {
     const Basis basis = basisOf(pose);
-    return Axes { toVector(basis.right), toVector(basis.up), toVector(basis.back) };
+    return Axes { Vec3f(basis.right), Vec3f(basis.up), Vec3f(basis.back) };
 }
 
 Real32 nbCameraNavigation::usableFovDeg(Real32 fovDeg)
@@ -243,7 +221,7 @@ Real32 nbCameraNavigation::usableFovDeg(Real32 fovDeg)
 
 Real32 nbCameraNavigation::depth(const CameraPose& pose, const Pnt3f& point)
 {
-    return static_cast<Real32>(depthOf(pose, basisOf(pose), toDouble(point)));
+    return static_cast<Real32>(depthOf(pose, basisOf(pose), Vec3d(point)));
 }
 
 Real32 nbCameraNavigation::viewHeight(const CameraPose& pose, Real32 atDepth)
@@ -279,11 +257,11 @@ CameraPose nbCameraNavigation::orbitByAngles(const CameraPose& start, Real64 tur
     const auto apply = [&](const Vec3d& vector) {
         return turned(turned(vector, across, elevation - newElevation), worldUp, turnRad);
     };
-    const Vec3d pivot = toDouble(start.pivot);
+    const Vec3d pivot = Vec3d(start.pivot);
     CameraPose result = start;
-    result.from = toPoint(pivot + apply(toDouble(start.from) - pivot));
-    result.at = toPoint(pivot + apply(toDouble(start.at) - pivot));
-    result.up = toVector(apply(basis.up));
+    result.from = Pnt3f(pivot + apply(Vec3d(start.from) - pivot));
+    result.at = Pnt3f(pivot + apply(Vec3d(start.at) - pivot));
+    result.up = Vec3f(apply(basis.up));
     return checked(start, result);
 }
 
@@ -294,30 +272,30 @@ CameraPose nbCameraNavigation::pan(const CameraPose& start, Real32 dxPx, Real32 
         return start;
     }
     const Basis basis = basisOf(start);
-    const Real64 pivotDepth = depthOf(start, basis, toDouble(start.pivot));
+    const Real64 pivotDepth = depthOf(start, basis, Vec3d(start.pivot));
     const Real64 worldPerPx =
         viewHeightOf(start, pivotDepth > 0.0 ? pivotDepth : distanceOf(start)) / viewHeightPx;
     const Vec3d way = (basis.up * Real64(dyPx) - basis.right * Real64(dxPx)) * worldPerPx;
     CameraPose result = start;
-    result.from = toPoint(toDouble(start.from) + way);
-    result.at = toPoint(toDouble(start.at) + way);
-    result.pivot = toPoint(toDouble(start.pivot) + way);
+    result.from = Pnt3f(Vec3d(start.from) + way);
+    result.at = Pnt3f(Vec3d(start.at) + way);
+    result.pivot = Pnt3f(Vec3d(start.pivot) + way);
     return checked(start, result);
 }
 
 CameraPose nbCameraNavigation::zoom(const CameraPose& start, Real32 factor, const Pnt3f& target)
 {
-    if (!std::isfinite(factor) || factor <= 0.0F || !isFinitePoint(target) || !isFinite(start)) {
+    if (!std::isfinite(factor) || factor <= 0.0F || !nbIsFinite(target) || !isFinite(start)) {
         return start;
     }
     const Basis basis = basisOf(start);
     const Real64 distance = distanceOf(start);
     const Real64 limited =
         distance > 0.0 ? limitedFactor(start, distance, factor) : static_cast<Real64>(factor);
-    const Vec3d centre = zoomCentre(start, basis, toDouble(target));
+    const Vec3d centre = zoomCentre(start, basis, Vec3d(target));
     CameraPose result = start;
-    result.from = toPoint(centre + (toDouble(start.from) - centre) * limited);
-    result.at = toPoint(centre + (toDouble(start.at) - centre) * limited);
+    result.from = Pnt3f(centre + (Vec3d(start.from) - centre) * limited);
+    result.at = Pnt3f(centre + (Vec3d(start.at) - centre) * limited);
     return checked(start, result);
 }
 
@@ -329,24 +307,24 @@ CameraPose nbCameraNavigation::zoom(const CameraPose& start, Real32 factor)
 CameraPose nbCameraNavigation::frame(const CameraPose& start, const Pnt3f& boundsMin,
                                      const Pnt3f& boundsMax, Real32 aspect)
 {
-    const Vec3d halfSize = (toDouble(boundsMax) - toDouble(boundsMin)) * 0.5;
-    const bool isBox = isFinitePoint(boundsMin) && isFinitePoint(boundsMax) &&
-        halfSize.x() >= 0.0 && halfSize.y() >= 0.0 && halfSize.z() >= 0.0;
+    const Vec3d halfSize = (Vec3d(boundsMax) - Vec3d(boundsMin)) * 0.5;
+    const bool isBox = nbIsFinite(boundsMin) && nbIsFinite(boundsMax) && halfSize.x() >= 0.0 &&
+        halfSize.y() >= 0.0 && halfSize.z() >= 0.0;
     if (!isBox || !isFinite(start)) {
         return start;
     }
-    const Vec3d centre = (toDouble(boundsMin) + toDouble(boundsMax)) * 0.5;
+    const Vec3d centre = (Vec3d(boundsMin) + Vec3d(boundsMax)) * 0.5;
     const Basis basis = basisOf(start);
     const Real64 usableAspect = std::isfinite(aspect) && aspect > 0.0F ? aspect : 1.0;
     const Real64 tightest = tightestDistance(start, basis, halfSize, usableAspect);
     CameraPose result = start;
-    result.at = toPoint(centre);
+    result.at = Pnt3f(centre);
     result.pivot = result.at;
     const Real64 wanted =
         tightest > 0.0 ? tightest * static_cast<Real64>(kFrameMargin) : distanceOf(start);
     const Real64 distance = std::clamp<Real64>(wanted, nearestDistanceOf(result),
                                                std::max<Real64>(wanted, kFarthestDistance));
-    result.from = toPoint(centre + basis.back * distance);
+    result.from = Pnt3f(centre + basis.back * distance);
     return checked(start, result);
 }
 
@@ -355,14 +333,14 @@ CameraPose nbCameraNavigation::standardView(const CameraPose& start, StandardVie
     if (!isFinite(start)) {
         return start;
     }
-    const Vec3d pivot = toDouble(start.pivot);
-    const Vec3d way = toDouble(start.from) - pivot;
+    const Vec3d pivot = Vec3d(start.pivot);
+    const Vec3d way = Vec3d(start.from) - pivot;
     const Real64 wanted = start.orthographic ? distanceOf(start) : std::sqrt(way.dot(way));
     const Vec3d back = standardBack(start, view);
     CameraPose result = start;
     result.at = start.pivot;
-    result.from = toPoint(pivot + back * std::max(wanted, nearestDistanceOf(start)));
-    result.up = toVector(worldUpOf(start));
+    result.from = Pnt3f(pivot + back * std::max(wanted, nearestDistanceOf(start)));
+    result.up = Vec3f(worldUpOf(start));
     result.up = axes(result).up;
     return checked(start, result);
 }
@@ -375,17 +353,17 @@ CameraPose nbCameraNavigation::withProjection(const CameraPose& start, bool orth
         return result;
     }
     const Basis basis = basisOf(start);
-    const Real64 pivotDepth = depthOf(start, basis, toDouble(start.pivot));
-    const Vec3d eye = toDouble(start.from);
+    const Real64 pivotDepth = depthOf(start, basis, Vec3d(start.pivot));
+    const Vec3d eye = Vec3d(start.from);
     if (orthographic) {
         // With the pivot beside or behind the eye there is no size to keep.
         if (pivotDepth >= nearestDistanceOf(start)) {
-            result.at = toPoint(eye - basis.back * pivotDepth);
+            result.at = Pnt3f(eye - basis.back * pivotDepth);
         }
     } else {
         const Vec3d way = basis.back * (distanceOf(start) - pivotDepth);
-        result.from = toPoint(eye + way);
-        result.at = toPoint(toDouble(start.at) + way);
+        result.from = Pnt3f(eye + way);
+        result.at = Pnt3f(Vec3d(start.at) + way);
     }
     return isFinite(result) ? result : start;
 }
@@ -397,7 +375,7 @@ bool nbCameraNavigation::project(const CameraPose& pose, const Pnt3f& point, Int
         return false;
     }
     const Basis basis = basisOf(pose);
-    const Vec3d way = toDouble(point) - toDouble(pose.from);
+    const Vec3d way = Vec3d(point) - Vec3d(pose.from);
     const Real64 height = viewHeightOf(pose, -way.dot(basis.back));
     if (!(height > 0.0)) {
         return false;
@@ -413,13 +391,13 @@ Pnt3f nbCameraNavigation::unproject(const CameraPose& pose, const Pnt2f& pixel, 
 {
     const Basis basis = basisOf(pose);
     const Real64 worldPerPx = viewHeightOf(pose, atDepth) / std::max(viewHeightPx, Int32(1));
-    return toPoint(toDouble(pose.from) - basis.back * Real64(atDepth) +
-                   basis.right * ((pixel.x() - 0.5 * viewWidthPx) * worldPerPx) +
-                   basis.up * ((0.5 * viewHeightPx - pixel.y()) * worldPerPx));
+    return Pnt3f(Vec3d(pose.from) - basis.back * Real64(atDepth) +
+                 basis.right * ((pixel.x() - 0.5 * viewWidthPx) * worldPerPx) +
+                 basis.up * ((0.5 * viewHeightPx - pixel.y()) * worldPerPx));
 }
 
 bool nbCameraNavigation::isFinite(const CameraPose& pose)
 {
-    return isFinitePoint(pose.from) && isFinitePoint(pose.at) && isFinitePoint(pose.up) &&
-        isFinitePoint(pose.pivot) && std::isfinite(pose.fovDeg);
+    return nbIsFinite(pose.from) && nbIsFinite(pose.at) && nbIsFinite(pose.up) &&
+        nbIsFinite(pose.pivot) && std::isfinite(pose.fovDeg);
 }

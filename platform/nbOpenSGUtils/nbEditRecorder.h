@@ -28,11 +28,14 @@ public:
     virtual void nodeConverted(const nbNodeConversion& conversion) = 0;
 
     /// The recorder; null at the start.
-    static nbEditRecorder* get();
+    static nbEditRecorder* get() { return current; }
 
     /// @param recorder  not owned; null for none
-    static void set(nbEditRecorder* recorder);
+    static void set(nbEditRecorder* recorder) { current = recorder; }
 
 protected:
     ~nbEditRecorder() = default;
+
+private:
+    static inline nbEditRecorder* current = nullptr;
 };

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "nbEulerUtils.h"
 
-#include <nbOpenSGExt/nbRotationMath.h>
-
 #include <array>
 #include <cmath>
 
@@ -64,19 +62,9 @@ Angles nearestLocked(Angles angles, const Angles& reference, const nbEulerRotati
 
 }  // namespace
 
-int nbEulerUtils::getOrderFromString(const std::string& order)
-{
-    return nbEulerRotation::getOrderNumber(order);
-}
-
 nbEulerAngles nbEulerUtils::EulFromQuat(const nbQuaterniond& rotation, int order)
 {
     return makeAngles(nbEulerRotation::fromQuaternion(rotation, order), order);
-}
-
-nbEulerAngles nbEulerUtils::EulFromQuat(const osg::Quaternion& rotation, int order)
-{
-    return EulFromQuat(nbRotationMath::toDouble(rotation), order);
 }
 
 nbQuaterniond nbEulerUtils::QuatFromEul(const nbEulerAngles& angles)
@@ -107,9 +95,4 @@ nbEulerAngles nbEulerUtils::nearest(const nbEulerAngles& angles, const nbEulerAn
     return makeAngles(squaredDistance(turned, wanted) < squaredDistance(same, wanted) ? turned
                                                                                       : same,
                       angles.order);
-}
-
-nbEulerAngles nbEulerUtils::fromDegrees(const osg::Vec3f& anglesDeg, int order)
-{
-    return toRadians({ anglesDeg[0], anglesDeg[1], anglesDeg[2], order });
 }

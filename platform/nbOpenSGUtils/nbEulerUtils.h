@@ -2,6 +2,7 @@
 #pragma once
 
 #include <nbOpenSGExt/nbEulerRotation.h>
+#include <nbOpenSGExt/nbRotationMath.h>
 #include <nbUtils/nbPlatformExport.h>
 
 #include <OpenSG/OSGQuaternion.h>
@@ -29,7 +30,10 @@ public:
 
     /// Number of an order; 0 for a text that is no permutation of x, y, z. Upper case counts as
     /// lower case.
-    static int getOrderFromString(const std::string& order);
+    static int getOrderFromString(const std::string& order)
+    {
+        return nbEulerRotation::getOrderNumber(order);
+    }
 
     // NOLINTBEGIN(readability-identifier-naming): names that hosts know
 
@@ -37,7 +41,11 @@ public:
     /// within 1e-10 of the ends (cosine), the last angle is 0 and the first takes the whole turn.
     /// @param rotation  any length but 0, which gives zero angles
     static nbEulerAngles EulFromQuat(const nbQuaterniond& rotation, int order);
-    static nbEulerAngles EulFromQuat(const osg::Quaternion& rotation, int order);
+
+    static nbEulerAngles EulFromQuat(const osg::Quaternion& rotation, int order)
+    {
+        return EulFromQuat(nbRotationMath::toDouble(rotation), order);
+    }
 
     /// Unit quaternion of the angles.
     static nbQuaterniond QuatFromEul(const nbEulerAngles& angles);
@@ -66,7 +74,10 @@ public:
     }
 
     /// Angles from degrees as nodes have them.
-    static nbEulerAngles fromDegrees(const osg::Vec3f& anglesDeg, int order);
+    static nbEulerAngles fromDegrees(const osg::Vec3f& anglesDeg, int order)
+    {
+        return toRadians({ anglesDeg[0], anglesDeg[1], anglesDeg[2], order });
+    }
 
 private:
     static constexpr double kDegPerRad = 180.0 / 3.14159265358979323846;

@@ -15,32 +15,22 @@
 
 namespace {
 
-using Column = std::array<double, 3>;
-using Columns = std::array<Column, 3>;
-
-double dot(const Column& a, const Column& b)
-{
-    return a[0] * b[0] + a[1] * b[1] + a[2] * b[2];
-}
-
-Column cross(const Column& a, const Column& b)
-{
-    return { a[1] * b[2] - a[2] * b[1], a[2] * b[0] - a[0] * b[2], a[0] * b[1] - a[1] * b[0] };
-}
+using osg::Vec3d;
+using Columns = std::array<Vec3d, 3>;
 
 /// A 3x3 matrix as rotation, scale along the axes and shear: A = R S H, H upper triangular with
 /// ones.
 struct Factors
 {
-    Columns rotation { { { 1, 0, 0 }, { 0, 1, 0 }, { 0, 0, 1 } } };
-    Column scale { 0, 0, 0 };
-    Column shear { 0, 0, 0 };  ///< above the diagonal: x by y, x by z, y by z
+    Columns rotation { Vec3d(1, 0, 0), Vec3d(0, 1, 0), Vec3d(0, 0, 1) };
+    Vec3d scale;
+    Vec3d shear;  ///< above the diagonal: x by y, x by z, y by z
 
     bool hasShear() const
     {
         constexpr double kShearTolerance = 1e-6;
-        return std::any_of(shear.begin(), shear.end(),
-                           [](double part) { return std::fabs(part) > kShearTolerance; });
+        return std::max({ std::fabs(shear[0]), std::fabs(shear[1]), std::fabs(shear[2]) }) >
+            kShearTolerance;
     }
 };
 
@@ -51,28 +41,20 @@ void completeFrame(Columns& axes, const std::array<bool, 3>& known)
         if (known[i]) {
             continue;
         }
-        Column best {};
-        double bestSquare = 0.0;
-        for (std::size_t unit = 0; unit < 3; ++unit) {
-            Column candidate {};
+        Vec3d best;
+        for (osg::UInt32 unit = 0; unit < 3; ++unit) {
+            Vec3d candidate;
             candidate[unit] = 1.0;
             for (std::size_t k = 0; k < 3; ++k) {
-                if (!known[k] && k >= i) {
-                    continue;
-                }
-                const double along = dot(axes[k], candidate);
-                for (std::size_t row = 0; row < 3; ++row) {
-                    candidate[row] -= along * axes[k][row];
+                if (known[k] || k < i) {
+                    candidate -= axes[k] * axes[k].dot(candidate);
                 }
             }
-            if (dot(candidate, candidate) > bestSquare) {
+            if (candidate.squareLength() > best.squareLength()) {
                 best = candidate;
-                bestSquare = dot(candidate, candidate);
             }
         }
-        for (std::size_t row = 0; row < 3; ++row) {
-            axes[i][row] = best[row] / std::sqrt(bestSquare);
-        }
+        axes[i] = best * (1.0 / best.length());
     }
 }
 
@@ -80,18 +62,16 @@ void completeFrame(Columns& axes, const std::array<bool, 3>& known)
 void unmirror(Factors& factors)
 {
     Columns& axes = factors.rotation;
-    if (dot(cross(axes[0], axes[1]), axes[2]) >= 0.0) {
+    if (axes[0].cross(axes[1]).dot(axes[2]) >= 0.0) {
         return;
     }
-    std::size_t flipped = 0;
-    for (std::size_t i = 1; i < 3; ++i) {
+    osg::UInt32 flipped = 0;
+    for (osg::UInt32 i = 1; i < 3; ++i) {
         if (axes[i][i] < axes[flipped][flipped]) {
             flipped = i;
         }
     }
-    for (double& component : axes[flipped]) {
-        component = -component;
-    }
+    axes[flipped] = -axes[flipped];
     factors.scale[flipped] = -factors.scale[flipped];
 }
 
@@ -100,48 +80,26 @@ Factors factorise(const osg::Matrix& matrix)
     constexpr double kSingular = 1e-12;
     Factors factors;
     std::array<bool, 3> known { false, false, false };
-    for (std::size_t i = 0; i < 3; ++i) {
-        const osg::Vec4f& source = matrix[static_cast<osg::UInt32>(i)];
-        Column rest { source[0], source[1], source[2] };
-        const double fullSquare = dot(rest, rest);
-        for (std::size_t k = 0; k < i; ++k) {
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        Vec3d rest(matrix[i][0], matrix[i][1], matrix[i][2]);
+        const double fullSquare = rest.squareLength();
+        for (osg::UInt32 k = 0; k < i; ++k) {
             if (known[k]) {
-                const double along = dot(factors.rotation[k], rest);
+                const double along = factors.rotation[k].dot(rest);
                 factors.shear[i + k - 1] = along / factors.scale[k];
-                for (std::size_t row = 0; row < 3; ++row) {
-                    rest[row] -= along * factors.rotation[k][row];
-                }
+                rest -= factors.rotation[k] * along;
             }
         }
-        const double square = dot(rest, rest);
+        const double square = rest.squareLength();
         known[i] = square > kSingular * fullSquare && square > 0.0;
         if (known[i]) {
             factors.scale[i] = std::sqrt(square);
-            for (std::size_t row = 0; row < 3; ++row) {
-                factors.rotation[i][row] = rest[row] / factors.scale[i];
-            }
+            factors.rotation[i] = rest * (1.0 / factors.scale[i]);
         }
     }
     completeFrame(factors.rotation, known);
     unmirror(factors);
     return factors;
-}
-
-osg::Matrix toMatrix(const Columns& columns)
-{
-    osg::Matrix result;
-    for (osg::UInt32 column = 0; column < 3; ++column) {
-        for (osg::UInt32 row = 0; row < 3; ++row) {
-            result[column][row] = static_cast<osg::Real32>(columns[column][row]);
-        }
-    }
-    return result;
-}
-
-osg::Vec3f toVector(const Column& values)
-{
-    return { static_cast<osg::Real32>(values[0]), static_cast<osg::Real32>(values[1]),
-             static_cast<osg::Real32>(values[2]) };
 }
 
 osg::Vec3f translationOf(const osg::Matrix& matrix)
@@ -188,15 +146,18 @@ void splitMatrix(const osg::Matrix& matrix, const osg::Vec3f& pivot,
                  const osg::Transform3DPtr& target)
 {
     const Factors factors = factorise(matrix);
+    osg::Matrix rotation(osg::Vec3f(factors.rotation[0]), osg::Vec3f(factors.rotation[1]),
+                         osg::Vec3f(factors.rotation[2]));
+    rotation[3][3] = 1.0F;
     osg::Vec3f movedPivot;
     matrix.multMatrixVec(pivot, movedPivot);
     target->setTranslation(translationOf(matrix) + movedPivot - pivot);
     target->setRotatePivot(pivot);
     target->setScalePivot(pivot);
-    target->setRotation(osg::Quaternion(toMatrix(factors.rotation)));
-    target->setScale(toVector(factors.scale));
+    target->setRotation(osg::Quaternion(rotation));
+    target->setScale(osg::Vec3f(factors.scale));
     if (factors.hasShear()) {
-        target->setShear(toVector(factors.shear));
+        target->setShear(osg::Vec3f(factors.shear));
     }
 }
 

@@ -24,10 +24,9 @@ osg::Vec3f compensated(const osg::Transform3DPtr& core, const osg::Vec3f& from,
                        const osg::Vec3f& to, Compensation compensation)
 {
     const nbTransformState state = nbTransformState::of(*core);
-    const Vec3d delta = nbTransformMath::toDouble(to) - nbTransformMath::toDouble(from);
-    return nbTransformMath::toFloat(
-        nbTransformMath::toDouble(state.translation) +
-        compensation(state, nbTransformMath::wholeRotation(*core), delta));
+    const Vec3d delta = Vec3d(to) - Vec3d(from);
+    return osg::Vec3f(Vec3d(state.translation) +
+                      compensation(state, nbTransformMath::wholeRotation(*core), delta));
 }
 
 /// What tells one pivot of a Transform3D from the other.

@@ -13,7 +13,7 @@ constexpr double kSingular = 1e-12;
 /// S v
 Vec3d scaledBy(const nbTransformState& state, const Vec3d& v)
 {
-    const Vec3d shear = toDouble(state.shear);
+    const Vec3d shear = Vec3d(state.shear);
     return { (v[0] + shear[0] * v[1] + shear[1] * v[2]) * state.scale[0],
              (v[1] + shear[2] * v[2]) * state.scale[1], v[2] * state.scale[2] };
 }
@@ -21,7 +21,7 @@ Vec3d scaledBy(const nbTransformState& state, const Vec3d& v)
 /// What S takes to v, 0 along an axis of scale 0.
 Vec3d unscaledBy(const nbTransformState& state, const Vec3d& v)
 {
-    const Vec3d shear = toDouble(state.shear);
+    const Vec3d shear = Vec3d(state.shear);
     Vec3d result;
     for (osg::UInt32 i = 0; i < 3; ++i) {
         const double factor = state.scale[i];
@@ -36,21 +36,21 @@ Vec3d unscaledBy(const nbTransformState& state, const Vec3d& v)
 
 Vec3d rotatePivotPlace(const nbTransformState& state, const Matrix3d&)
 {
-    return toDouble(state.translation) + toDouble(state.rotatePivot);
+    return Vec3d(state.translation) + Vec3d(state.rotatePivot);
 }
 
 Vec3d scalePivotPlace(const nbTransformState& state, const Matrix3d& rotation)
 {
     return rotatePivotPlace(state, rotation) +
-        rotation * (toDouble(state.scalePivot) - toDouble(state.rotatePivot));
+        rotation * (Vec3d(state.scalePivot) - Vec3d(state.rotatePivot));
 }
 
 MovedPivots moveRotatePivot(const nbTransformState& state, const Matrix3d& rotation,
                             const Vec3d& delta)
 {
     const Vec3d pivotDelta = rotation.transposedTimes(delta);
-    return { toDouble(state.translation) + (delta - pivotDelta),
-             toDouble(state.rotatePivot) + pivotDelta, toDouble(state.scalePivot) };
+    return { Vec3d(state.translation) + (delta - pivotDelta), Vec3d(state.rotatePivot) + pivotDelta,
+             Vec3d(state.scalePivot) };
 }
 
 MovedPivots moveScalePivot(const nbTransformState& state, const Matrix3d& rotation,
@@ -60,8 +60,8 @@ MovedPivots moveScalePivot(const nbTransformState& state, const Matrix3d& rotati
     // opposite, t + p and o stay.
     const Vec3d pivotDelta = unscaledBy(state, rotation.transposedTimes(delta));
     const Vec3d shift = pivotDelta - scaledBy(state, pivotDelta);
-    return { toDouble(state.translation) - shift, toDouble(state.rotatePivot) + shift,
-             toDouble(state.scalePivot) + pivotDelta };
+    return { Vec3d(state.translation) - shift, Vec3d(state.rotatePivot) + shift,
+             Vec3d(state.scalePivot) + pivotDelta };
 }
 
 Vec3d rotatePivotCompensation(const nbTransformState&, const Matrix3d& rotation,

@@ -38,17 +38,6 @@ struct Matrix3d
     }
 };
 
-inline Vec3d toDouble(const osg::Vec3f& v)
-{
-    return { v[0], v[1], v[2] };
-}
-
-inline osg::Vec3f toFloat(const Vec3d& v)
-{
-    return { static_cast<osg::Real32>(v[0]), static_cast<osg::Real32>(v[1]),
-             static_cast<osg::Real32>(v[2]) };
-}
-
 inline bool isFinite(const osg::Vec3f& v)
 {
     // Only what is finite is nothing when taken from itself.

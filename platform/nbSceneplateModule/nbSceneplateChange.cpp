@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "nbSceneplateChange.h"
 
+#include <nbOpenSGExt/nbIsFinite.h>
 #include <nbOpenSGSceneplate/nbSceneplateLayout.h>
 #include <nbOpenSGSceneplate/nbSceneplateList.h>
 #include <nbOpenSGUtils/nbEdit.h>
@@ -43,11 +44,6 @@ float wrapped(double degrees)
     return static_cast<float>(std::remainder(degrees, kWhole));
 }
 
-bool isFinite(const osg::Vec2f& vector)
-{
-    return std::isfinite(vector.x()) && std::isfinite(vector.y());
-}
-
 osg::SceneplatePtr findPlate(osg::UInt32 nodeId)
 {
     return nbSceneplateList::plateOf(
@@ -69,7 +65,7 @@ bool nbSceneplateChange::read(const nbMessage& message, nbSceneplateChange& chan
     if (!std::isfinite(found.scaleFactor) || !(found.scaleFactor > 0.0F)) {
         return refuse("a \"scaleFactor\" of " + std::to_string(found.scaleFactor));
     }
-    if (!isFinite(found.offset) || !std::isfinite(found.rotation)) {
+    if (!nbIsFinite(found.offset) || !std::isfinite(found.rotation)) {
         return refuse("an \"offset\" or a \"rotation\" that is not finite");
     }
     change = found;
@@ -128,7 +124,7 @@ bool nbSceneplateStart::apply(const nbSceneplateChange& change) const
         targets.push_back(changed(start, change));
     }
     const bool isPossible = std::all_of(targets.begin(), targets.end(), [](const Plate& target) {
-        return isFinite(target.position) && std::isfinite(target.scale) && target.scale > 0.0F;
+        return nbIsFinite(target.position) && std::isfinite(target.scale) && target.scale > 0.0F;
     });
     if (!isPossible) {
         return refuse("too large a change");

@@ -24,8 +24,6 @@ using nbtransform::Faults;
 using nbtransform::Subject;
 using nbTransformMath::isFinite;
 using nbTransformMath::isSame;
-using nbTransformMath::toDouble;
-using nbTransformMath::toFloat;
 using osg::Transform3D;
 using osg::Transform3DPtr;
 using osg::Vec3d;
@@ -164,8 +162,8 @@ bool moveInWorld(const Subject& subject, const nbTransformMath::Frame& frame, co
     if (!frame.isIdentity) {
         const Vec3f& start = subject.entry != nullptr ? subject.entry->start.translation
                                                       : subject.core->getTranslation();
-        const bool isStart = isSame(value, toFloat(frame.toOuter(toDouble(start))));
-        translation = isStart ? start : toFloat(frame.toInner(toDouble(value)));
+        const bool isStart = isSame(value, Vec3f(frame.toOuter(Vec3d(start))));
+        translation = isStart ? start : Vec3f(frame.toInner(Vec3d(value)));
         if (!isFinite(translation)) {
             ++faults.notFinite;
             return false;
@@ -189,7 +187,7 @@ void assignStep(double& step, double value, const char* what)
 Vec3f inSpace(const osg::NodePtr& node, bool worldSpace, const Vec3d& place)
 {
     ParentFrames frames(worldSpace && node != osg::NullFC);
-    return toFloat(frames.of(node, osg::NullFC).toOuter(place));
+    return Vec3f(frames.of(node, osg::NullFC).toOuter(place));
 }
 
 Transform3DPtr findTransform(const osg::NodePtr& node)
@@ -273,14 +271,14 @@ osg::UInt32 nbTransformModel::setRotationPivotOrientation(osg::UInt32 count,
 Vec3f nbTransformModel::getTranslation(const osg::NodePtr& node, bool worldSpace)
 {
     const Vec3f local = nbNodeUtils::getTransformNodeTranslation(node);
-    return worldSpace ? inSpace(node, true, toDouble(local)) : local;
+    return worldSpace ? inSpace(node, true, Vec3d(local)) : local;
 }
 
 Vec3f nbTransformModel::getRotationPivot(const osg::NodePtr& node, bool worldSpace)
 {
     return inSpace(node, worldSpace,
-                   toDouble(nbNodeUtils::getTransformNodeTranslation(node)) +
-                       toDouble(nbNodeUtils::getTransformNodeRotatePivot(node)));
+                   Vec3d(nbNodeUtils::getTransformNodeTranslation(node)) +
+                       Vec3d(nbNodeUtils::getTransformNodeRotatePivot(node)));
 }
 
 Vec3f nbTransformModel::getScalePivot(const osg::NodePtr& node, bool worldSpace)

@@ -53,10 +53,7 @@ public:
             if (found != callbacks.end()) {
                 // A copy: the callback may remove itself.
                 const Callback callback = found->callback;
-                nbGuarded(who, [&callback] {
-                    callback();
-                    return true;
-                });
+                nbGuarded(who, callback);
             }
         }
     }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "HandleTable.h"
 
+#include <nbOpenSGExt/nbIsFinite.h>
+
 #include <algorithm>
 #include <cmath>
 
@@ -16,11 +18,6 @@ constexpr float kDepthTie = 1e-4F;
 /// Primitives that share one box: few enough to test one by one, many enough that the boxes are
 /// few.
 constexpr std::size_t kRunLength = 8;
-
-bool isFinite(const osg::Pnt3f& p)
-{
-    return std::isfinite(p[0]) && std::isfinite(p[1]) && std::isfinite(p[2]);
-}
 
 ScreenProjection::Projected interpolate(const ScreenProjection::Projected& a,
                                         const ScreenProjection::Projected& b, double s)
@@ -153,8 +150,8 @@ void HandleTable::projectPrimitive(std::uint32_t index)
     const std::uint32_t* v = primitives[index].vertices;
     if (corners[v[0]].isVisible && corners[v[1]].isVisible && corners[v[2]].isVisible) {
         addScreenPrimitive(corners[v[0]], corners[v[1]], corners[v[2]], index);
-    } else if (isFinite(positions[v[0]]) && isFinite(positions[v[1]]) &&
-               isFinite(positions[v[2]])) {
+    } else if (nbIsFinite(positions[v[0]]) && nbIsFinite(positions[v[1]]) &&
+               nbIsFinite(positions[v[2]])) {
         projectCut(index);
     }
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "PickTree.h"
 
+#include <nbOpenSGExt/nbIsFinite.h>
+
 #include <algorithm>
 #include <cmath>
 #include <cstring>
@@ -14,11 +16,6 @@ namespace {
 
 /// A refitted tree keeps the shape it had, which suits the positions less and less.
 constexpr std::size_t kRefitsBeforeRebuild = 64;
-
-bool isFinite(const osg::Pnt3f& p)
-{
-    return std::isfinite(p[0]) && std::isfinite(p[1]) && std::isfinite(p[2]);
-}
 
 /// Bit by bit: what compares as equal within a tolerance may still have moved.
 bool haveSameValues(const std::vector<osg::Pnt3f>& a, const std::vector<osg::Pnt3f>& b)
@@ -50,7 +47,7 @@ bool intersectTriangle(const PickRay& ray, const osg::Pnt3f& p0, const osg::Vec3
 
 void PickBounds::extend(const osg::Pnt3f& p)
 {
-    if (!isFinite(p)) {
+    if (!nbIsFinite(p)) {
         return;
     }
     if (isEmpty) {
@@ -89,15 +86,19 @@ bool PickTree::assign(GeometrySoup newSoup, const BuildMonitor& monitor)
     return isBuilt;
 }
 
-void PickTree::makeRoom()
+void PickTree::shareArrays()
 {
     // Embree reads 16 bytes at each position, 4 beyond the last one.
     soup.positions.reserve(soup.positions.size() + 1);
+    rtcSetSharedGeometryBuffer(mesh, RTC_BUFFER_TYPE_VERTEX, 0, RTC_FORMAT_FLOAT3,
+                               soup.positions.data(), 0, sizeof(osg::Pnt3f), soup.positions.size());
+    rtcSetSharedGeometryBuffer(mesh, RTC_BUFFER_TYPE_INDEX, 0, RTC_FORMAT_UINT3,
+                               soup.triangles.data(), 0, 3 * sizeof(std::uint32_t),
+                               getTriangleCount());
 }
 
 bool PickTree::buildTree(bool expectsRefits, const BuildMonitor& monitor)
 {
-    makeRoom();
     isRefittable = expectsRefits;
     refitsSinceBuild = 0;
     scene = rtcNewScene(embreeDevice());
@@ -106,11 +107,7 @@ bool PickTree::buildTree(bool expectsRefits, const BuildMonitor& monitor)
     rtcSetSceneFlags(scene,
                      expectsRefits ? RTC_SCENE_FLAG_ROBUST | RTC_SCENE_FLAG_DYNAMIC
                                    : RTC_SCENE_FLAG_ROBUST);
-    rtcSetSharedGeometryBuffer(mesh, RTC_BUFFER_TYPE_VERTEX, 0, RTC_FORMAT_FLOAT3,
-                               soup.positions.data(), 0, sizeof(osg::Pnt3f), soup.positions.size());
-    rtcSetSharedGeometryBuffer(mesh, RTC_BUFFER_TYPE_INDEX, 0, RTC_FORMAT_UINT3,
-                               soup.triangles.data(), 0, 3 * sizeof(std::uint32_t),
-                               getTriangleCount());
+    shareArrays();
     rtcCommitGeometry(mesh);
     rtcAttachGeometry(scene, mesh);
     rtcReleaseGeometry(mesh);
@@ -123,12 +120,7 @@ bool PickTree::buildTree(bool expectsRefits, const BuildMonitor& monitor)
 
 bool PickTree::refitTree()
 {
-    makeRoom();
-    rtcSetSharedGeometryBuffer(mesh, RTC_BUFFER_TYPE_VERTEX, 0, RTC_FORMAT_FLOAT3,
-                               soup.positions.data(), 0, sizeof(osg::Pnt3f), soup.positions.size());
-    rtcSetSharedGeometryBuffer(mesh, RTC_BUFFER_TYPE_INDEX, 0, RTC_FORMAT_UINT3,
-                               soup.triangles.data(), 0, 3 * sizeof(std::uint32_t),
-                               getTriangleCount());
+    shareArrays();
     rtcSetGeometryBuildQuality(mesh, RTC_BUILD_QUALITY_REFIT);
     rtcCommitGeometry(mesh);
     if (!commitScene(scene)) {

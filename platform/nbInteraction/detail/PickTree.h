@@ -79,7 +79,7 @@ public:
     std::size_t getTriangleCount() const { return soup.triangles.size() / 3; }
 
 private:
-    void makeRoom();
+    void shareArrays();
     bool buildTree(bool expectsRefits, const BuildMonitor& monitor);
     bool refitTree();
     void dropTree();

@@ -4,25 +4,34 @@
 #include <cmath>
 #include <cstring>
 
+#include <Eigen/Geometry>
 #include <Eigen/LU>
 
 namespace nbec::interaction::detail {
 
 namespace {
 
-osg::Vec3f unit(double x, double y, double z)
+using Eigen::Vector3d;
+using Eigen::Vector4d;
+
+Eigen::Matrix4d toEigen(const osg::Matrix& matrix)
 {
-    const double length = std::sqrt(x * x + y * y + z * z);
+    return Eigen::Map<const Eigen::Matrix4f>(matrix.getValues()).cast<double>();
+}
+
+osg::Vec3f unit(const Vector3d& v)
+{
+    const double length = v.norm();
     if (!(length > 0.0) || !std::isfinite(length)) {
         return {};
     }
-    return { static_cast<float>(x / length), static_cast<float>(y / length),
-             static_cast<float>(z / length) };
+    return { static_cast<float>(v.x() / length), static_cast<float>(v.y() / length),
+             static_cast<float>(v.z() / length) };
 }
 
-osg::Pnt3f toPoint(const std::array<double, 3>& p)
+osg::Pnt3f toPoint(const Vector3d& p)
 {
-    return { static_cast<float>(p[0]), static_cast<float>(p[1]), static_cast<float>(p[2]) };
+    return { static_cast<float>(p.x()), static_cast<float>(p.y()), static_cast<float>(p.z()) };
 }
 
 }  // namespace
@@ -55,34 +64,18 @@ ScreenProjection::ScreenProjection(const PickView& view)
     : halfWidth(0.5 * view.widthPx)
     , halfHeight(0.5 * view.heightPx)
 {
-    const float* viewing = view.viewing.getValues();
-    const float* projection = view.projection.getValues();
-    for (std::size_t column = 0; column < 4; ++column) {
-        for (std::size_t row = 0; row < 4; ++row) {
-            double sum = 0.0;
-            for (std::size_t k = 0; k < 4; ++k) {
-                sum += static_cast<double>(projection[4 * k + row]) * viewing[4 * column + k];
-            }
-            clipFromWorld[4 * column + row] = sum;
-        }
-        depthRow[column] = -static_cast<double>(viewing[4 * column + 2]);
-    }
-    valid = view.widthPx > 0 && view.heightPx > 0 && invert(clipFromWorld, worldFromClip);
+    const Eigen::Matrix4d viewing = toEigen(view.viewing);
+    clipFromWorld = toEigen(view.projection) * viewing;
+    worldFromClip = clipFromWorld.inverse();
+    depthRow = -viewing.row(2);
+    valid = view.widthPx > 0 && view.heightPx > 0 && worldFromClip.allFinite();
 }
 
 ScreenProjection::Projected ScreenProjection::project(const osg::Pnt3f& world) const
 {
-    const double x = world[0];
-    const double y = world[1];
-    const double z = world[2];
-    Projected result {};
-    constexpr std::size_t kColumn = 4;
-    for (std::size_t row = 0; row < 4; ++row) {
-        result.clip[row] = clipFromWorld[row] * x + clipFromWorld[kColumn + row] * y +
-            clipFromWorld[2 * kColumn + row] * z + clipFromWorld[3 * kColumn + row];
-    }
-    result.depth = depthRow[0] * x + depthRow[1] * y + depthRow[2] * z + depthRow[3];
-    return result;
+    const Vector4d point(world[0], world[1], world[2], 1.0);
+    const Vector4d clip = clipFromWorld * point;
+    return { { clip[0], clip[1], clip[2], clip[3] }, depthRow.dot(point) };
 }
 
 ScreenPoint ScreenProjection::toScreen(const Projected& p) const
@@ -93,87 +86,42 @@ ScreenPoint ScreenProjection::toScreen(const Projected& p) const
 
 PickRay ScreenProjection::rayThrough(const ScreenPoint& position) const
 {
-    const auto start = unproject(position, -1.0);
-    const auto end = unproject(position, 1.0);
-    const double dx = end[0] - start[0];
-    const double dy = end[1] - start[1];
-    const double dz = end[2] - start[2];
-    return { toPoint(start), unit(dx, dy, dz),
-             static_cast<float>(std::sqrt(dx * dx + dy * dy + dz * dz)) };
+    const Vector3d start = unproject(position, -1.0);
+    const Vector3d way = unproject(position, 1.0) - start;
+    return { toPoint(start), unit(way), static_cast<float>(way.norm()) };
 }
 
 osg::Pnt3f ScreenProjection::pointAt(const ScreenPoint& position, double depth) const
 {
-    const auto start = unproject(position, -1.0);
-    const auto end = unproject(position, 1.0);
-    const double startDepth = depthOf(start);
-    const double range = depthOf(end) - startDepth;
+    const Vector3d start = unproject(position, -1.0);
+    const Vector3d way = unproject(position, 1.0) - start;
+    const double range = depthRow.head<3>().dot(way);
     // The depth grows linearly along the ray, in perspective and orthographic views alike.
-    const double s = range != 0.0 ? (depth - startDepth) / range : 0.0;
-    return toPoint({ start[0] + s * (end[0] - start[0]), start[1] + s * (end[1] - start[1]),
-                     start[2] + s * (end[2] - start[2]) });
+    const double s = range != 0.0 ? (depth - depthRow.dot(start.homogeneous())) / range : 0.0;
+    return toPoint(start + s * way);
 }
 
-std::array<double, 3> ScreenProjection::unproject(const ScreenPoint& position, double clipZ) const
+Vector3d ScreenProjection::unproject(const ScreenPoint& position, double clipZ) const
 {
-    const double clip[4] = { position.x / halfWidth - 1.0, 1.0 - position.y / halfHeight, clipZ,
-                             1.0 };
-    double result[4] = {};
-    for (std::size_t row = 0; row < 4; ++row) {
-        for (std::size_t column = 0; column < 4; ++column) {
-            result[row] += worldFromClip[4 * column + row] * clip[column];
-        }
-    }
-    return { result[0] / result[3], result[1] / result[3], result[2] / result[3] };
-}
-
-double ScreenProjection::depthOf(const std::array<double, 3>& world) const
-{
-    return depthRow[0] * world[0] + depthRow[1] * world[1] + depthRow[2] * world[2] + depthRow[3];
-}
-
-bool ScreenProjection::invert(const Matrix4& m, Matrix4& result)
-{
-    const Eigen::Map<const Eigen::Matrix4d> source(m.data());
-    const Eigen::Matrix4d inverse = source.inverse();
-    if (!inverse.allFinite()) {
-        return false;
-    }
-    Eigen::Map<Eigen::Matrix4d>(result.data()) = inverse;
-    return true;
+    const Vector4d clip(position.x / halfWidth - 1.0, 1.0 - position.y / halfHeight, clipZ, 1.0);
+    return (worldFromClip * clip).hnormalized();
 }
 
 osg::Vec3f transformNormal(const osg::Matrix& worldFromLocal, const osg::Vec3f& localNormal)
 {
-    double m[3][3];  // m[column][row]
-    for (osg::UInt32 column = 0; column < 3; ++column) {
-        for (osg::UInt32 row = 0; row < 3; ++row) {
-            m[column][row] = worldFromLocal[column][row];
-        }
+    const Eigen::Matrix3d m = toEigen(worldFromLocal).topLeftCorner<3, 3>();
+    const double sign = m.determinant() < 0.0 ? -1.0 : 1.0;
+    Vector3d normal = Vector3d::Zero();
+    for (int i = 0; i < 3; ++i) {
+        const double component = sign * localNormal[static_cast<osg::UInt32>(i)];
+        normal += component * m.col((i + 1) % 3).cross(m.col((i + 2) % 3));
     }
-    const double sign = linearDeterminant(worldFromLocal) < 0.0 ? -1.0 : 1.0;
-    double normal[3] = {};
-    for (std::size_t column = 0; column < 3; ++column) {
-        const double* const next = m[(column + 1) % 3];
-        const double* const afterNext = m[(column + 2) % 3];
-        const double component = sign * localNormal[static_cast<osg::UInt32>(column)];
-        for (std::size_t row = 0; row < 3; ++row) {
-            const std::size_t r1 = (row + 1) % 3;
-            const std::size_t r2 = (row + 2) % 3;
-            normal[row] += component * (next[r1] * afterNext[r2] - next[r2] * afterNext[r1]);
-        }
-    }
-    return unit(normal[0], normal[1], normal[2]);
+    return unit(normal);
 }
 
 double linearDeterminant(const osg::Matrix& m)
 {
-    const auto at = [&m](osg::UInt32 row, osg::UInt32 column) {
-        return static_cast<double>(m[column][row]);
-    };
-    return at(0, 0) * (at(1, 1) * at(2, 2) - at(1, 2) * at(2, 1)) -
-        at(0, 1) * (at(1, 0) * at(2, 2) - at(1, 2) * at(2, 0)) +
-        at(0, 2) * (at(1, 0) * at(2, 1) - at(1, 1) * at(2, 0));
+    return toEigen(m).topLeftCorner<3, 3>().determinant();
 }
 
 }  // namespace nbec::interaction::detail

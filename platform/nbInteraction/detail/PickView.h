@@ -4,9 +4,8 @@
 #include <OpenSG/OSGMatrix.h>
 #include <OpenSG/OSGVector.h>
 
-#include <array>
-
 #include "ScreenGeometry.h"
+#include <Eigen/Core>
 
 namespace nbec::interaction::detail {
 
@@ -75,16 +74,11 @@ public:
     osg::Pnt3f pointAt(const ScreenPoint& position, double depth) const;
 
 private:
-    static constexpr std::size_t kMatrixSize = 16;
-    using Matrix4 = std::array<double, kMatrixSize>;  ///< column after column
+    Eigen::Vector3d unproject(const ScreenPoint& position, double clipZ) const;
 
-    std::array<double, 3> unproject(const ScreenPoint& position, double clipZ) const;
-    double depthOf(const std::array<double, 3>& world) const;
-    static bool invert(const Matrix4& m, Matrix4& result);
-
-    Matrix4 clipFromWorld {};
-    Matrix4 worldFromClip {};
-    std::array<double, 4> depthRow {};  ///< view depth = depthRow . (world, 1)
+    Eigen::Matrix4d clipFromWorld = Eigen::Matrix4d::Zero();
+    Eigen::Matrix4d worldFromClip = Eigen::Matrix4d::Zero();
+    Eigen::Vector4d depthRow = Eigen::Vector4d::Zero();  ///< view depth = depthRow . (world, 1)
     double halfWidth = 0.0;
     double halfHeight = 0.0;
     bool valid = false;

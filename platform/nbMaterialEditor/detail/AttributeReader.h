@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <nbOpenSGExt/nbIsFinite.h>
 #include <nbUtils/nbMessage.h>
 
-#include <algorithm>
 #include <cmath>
 #include <optional>
 #include <string>
@@ -64,9 +64,7 @@ private:
     template <class Vector>
     static bool isFinite(const Vector& value)
     {
-        const auto* const values = value.getValues();
-        return std::all_of(values, values + sizeof(Vector) / sizeof(*values),
-                           [](float v) { return std::isfinite(v); });
+        return nbIsFinite(value);
     }
 
     const nbMessage& message;

@@ -7,14 +7,12 @@
 #include <nbKernelServices/nbUndoService.h>
 #include <nbMaterialEditor/detail/ComponentState.h>
 #include <nbMaterialEditor/detail/ProjectionPlacing.h>
+#include <nbOpenSGExt/nbIsFinite.h>
 #include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGGeometry.h>
-
-#include <algorithm>
-#include <cmath>
 
 namespace {
 
@@ -25,22 +23,14 @@ osg::UInt32 idOf(const osg::FieldContainerPtr& container)
     return container == osg::NullFC ? 0 : container.getFieldContainerId();
 }
 
-template <class Vector>
-bool isFiniteVector(const Vector& vector)
-{
-    const float* const values = vector.getValues();
-    return std::all_of(values, values + sizeof(Vector) / sizeof(float),
-                       [](float v) { return std::isfinite(v); });
-}
-
 }  // namespace
 
 bool isFinite(const nbTransformState& state)
 {
-    return isFiniteVector(state.translation) && isFiniteVector(state.rotatePivot) &&
-        isFiniteVector(state.scalePivot) && isFiniteVector(state.eulerRotation) &&
-        isFiniteVector(state.scale) && isFiniteVector(state.rotationQuaternion) &&
-        isFiniteVector(state.rotationOrientation);
+    return nbIsFinite(state.translation) && nbIsFinite(state.rotatePivot) &&
+        nbIsFinite(state.scalePivot) && nbIsFinite(state.eulerRotation) &&
+        nbIsFinite(state.scale) && nbIsFinite(state.rotationQuaternion) &&
+        nbIsFinite(state.rotationOrientation);
 }
 
 float aspectOf(const osg::ImagePtr& image)

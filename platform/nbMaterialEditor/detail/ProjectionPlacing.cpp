@@ -2,8 +2,8 @@
 #include "ProjectionPlacing.h"
 
 #include <nbOpenSGExt/nbEulerRotation.h>
+#include <nbOpenSGExt/nbIsFinite.h>
 #include <nbOpenSGExt/nbRotationMath.h>
-#include <nbOpenSGUtils/nbTransformMath.h>
 
 #include <OpenSG/OSGRefPtr.h>
 
@@ -15,8 +15,6 @@ namespace {
 using nbRotationMath::product;
 using nbRotationMath::toDouble;
 using nbRotationMath::toFloat;
-using nbTransformMath::toDouble;
-using nbTransformMath::toFloat;
 
 /// R of a Transform3D, which is what its matrix turns by before the rotation orientation.
 nbQuaterniond rotationOf(const nbTransformState& state)
@@ -114,7 +112,7 @@ nbQuaterniond uprightTurn(const osg::Matrix& worldFromObject, osg::Vec3d normal,
     const osg::Vec3d y = across(mapped(objectFromWorld, wayUp(inWorld, isZUp)), normal);
     const osg::Vec3d x = y.cross(normal);
     osg::Matrix axes;
-    axes.setValue(toFloat(x), toFloat(y), toFloat(normal));
+    axes.setValue(osg::Vec3f(x), osg::Vec3f(y), osg::Vec3f(normal));
     axes[3][3] = 1.0F;
     return toDouble(osg::Quaternion(axes));
 }
@@ -128,11 +126,6 @@ void takeRotation(const nbTransformState& start, nbTransformState& result)
     result.rotationOrientation = start.rotationOrientation;
 }
 
-bool isFinite(const osg::Vec3d& v)
-{
-    return std::isfinite(v.x()) && std::isfinite(v.y()) && std::isfinite(v.z());
-}
-
 }  // namespace
 
 osg::Vec3f turned(const nbTransformState& projection, const osg::Vec3f& vector)
@@ -141,8 +134,7 @@ osg::Vec3f turned(const nbTransformState& projection, const osg::Vec3f& vector)
     for (osg::UInt32 i = 0; i < 3; ++i) {
         sum += axis(projection, i) * double(vector[i]);
     }
-    return { static_cast<float>(sum.x()), static_cast<float>(sum.y()),
-             static_cast<float>(sum.z()) };
+    return osg::Vec3f(sum);
 }
 
 void turnAboutOwnZ(const nbTransformState& start, float angle, nbTransformState& result)
@@ -162,7 +154,7 @@ void standOn(const osg::Matrix& worldFromObject, const osg::Vec3f& normal, bool 
              const nbTransformState& start, nbTransformState& result)
 {
     const osg::Vec3d before = axis(start, 2);
-    const nbQuaterniond turn = product(uprightTurn(worldFromObject, toDouble(normal), isZUp),
+    const nbQuaterniond turn = product(uprightTurn(worldFromObject, osg::Vec3d(normal), isZUp),
                                        inverse(uprightTurn(worldFromObject, before, isZUp)));
     takeRotation(start, result);
     setRotation(product(turn, rotationOf(start)), result);
@@ -194,9 +186,8 @@ bool toObject(const osg::Matrix& worldFromObject, const osg::Pnt3f& worldPoint,
     if (length > 0.0) {
         back *= 1.0 / length;
     }
-    normal = osg::Vec3f(static_cast<float>(back.x()), static_cast<float>(back.y()),
-                        static_cast<float>(back.z()));
-    return isFinite(back) && isFinite(osg::Vec3d(point.x(), point.y(), point.z()));
+    normal = osg::Vec3f(back);
+    return nbIsFinite(back) && nbIsFinite(point);
 }
 
 osg::Vec3f naturalScale(float aspect)

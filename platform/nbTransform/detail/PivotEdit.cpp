@@ -9,8 +9,6 @@
 
 using nbTransformMath::isFinite;
 using nbTransformMath::isSame;
-using nbTransformMath::toDouble;
-using nbTransformMath::toFloat;
 using osg::Transform3D;
 using osg::Vec3d;
 using osg::Vec3f;
@@ -78,14 +76,14 @@ nbTransformState withPivotAt(const PivotKind& kind, const nbTransformState& base
 {
     nbTransformState result = base;
     const Vec3d start = kind.place(base, rotation);
-    if (isSame(place, toFloat(frame.toOuter(start)))) {
+    if (isSame(place, Vec3f(frame.toOuter(start)))) {
         return result;
     }
     const nbTransformMath::MovedPivots moved =
-        kind.move(base, rotation, frame.toInner(toDouble(place)) - start);
-    result.translation = toFloat(moved.translation);
-    result.rotatePivot = toFloat(moved.rotatePivot);
-    result.scalePivot = toFloat(moved.scalePivot);
+        kind.move(base, rotation, frame.toInner(Vec3d(place)) - start);
+    result.translation = Vec3f(moved.translation);
+    result.rotatePivot = Vec3f(moved.rotatePivot);
+    result.scalePivot = Vec3f(moved.scalePivot);
     return result;
 }
 
