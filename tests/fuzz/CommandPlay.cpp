@@ -86,7 +86,7 @@ std::string playCommands(const std::uint8_t* data, std::size_t size)
     TextureTool textures(stage);
     const PerspectiveMatchTool match(stage);
     const PlatesTool plates(stage);
-    stage.resize(640, 480, 1.0F);
+    stage.resize(640, 480);
     stage.showStartScene();
     const QByteArray text(reinterpret_cast<const char*>(data), static_cast<int>(size));
     for (const QByteArray& line : text.split('\n').mid(0, kMostLines)) {

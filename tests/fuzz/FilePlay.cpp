@@ -161,7 +161,7 @@ std::string playScene(const QByteArray& text)
     Stage stage(view);
     const PerspectiveMatchTool match(stage);
     const PlatesTool plates(stage);
-    stage.resize(640, 480, 1.0F);
+    stage.resize(640, 480);
     QByteArray first;
     std::string fault = showAndSave(stage, *document, files, first);
     if (!fault.empty() || first.isEmpty()) {

@@ -79,9 +79,9 @@ ViewWidget::ViewWidget(QWidget* parent)
     addCommands();
 }
 
-void ViewWidget::viewResized(const QSize& size, float pixelRatio)
+void ViewWidget::viewResized(const QSize& size, float /*pixelRatio*/)
 {
-    viewStage.resize(size.width(), size.height(), pixelRatio);
+    viewStage.resize(size.width(), size.height());
 }
 
 QImage ViewWidget::takePicture(QString& error)

@@ -481,11 +481,6 @@ void PerspectiveMatchTool::update()
     }
 }
 
-void PerspectiveMatchTool::setPixelRatio(float ratio)
-{
-    picker.setPixelRatio(ratio);
-}
-
 osg::NodePtr PerspectiveMatchTool::handles()
 {
     return active && linesShown ? manipulator.getVisualisation() : osg::NodePtr();

@@ -123,7 +123,6 @@ public:
     void deactivate() override;
     void sceneCleared() final;
     void update() override;
-    void setPixelRatio(float ratio) override;
     osg::NodePtr handles() override;
     std::string hoveredHandle() override;
     bool findHandle(const std::string& handle, osg::Pnt2f& px) override;

@@ -33,7 +33,8 @@ bool PlateDragContext::triggerEvent(InteractionManager* manager, const Interacti
     const bool isTool = event.getTool() == names::kTool;
     const bool isStop = isTool && event.getEvent() == names::kStop;
     if (isTool && event.getEvent() == names::kProcess) {
-        isClick = isClick && (pointer() - pressPx).length() <= kClickTolerance * pixelRatio;
+        isClick = isClick &&
+            (pointer() - pressPx).length() <= kClickTolerance * nbOSGWidget::getPixelRatio(-1);
     }
     const bool isReleased = manager == nullptr || manager->getDragEnd() == DragEnd::Released;
     const bool isClickOnBody =

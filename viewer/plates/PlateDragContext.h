@@ -24,14 +24,10 @@ public:
     /// Sets what a click on the body calls, with its hint.
     void setClickCallback(std::function<void(const std::string& hint)> callback);
 
-    /// Sets the device pixels per logical one.
-    void setPixelRatio(float ratio) { pixelRatio = ratio; }
-
 private:
     std::function<void(const std::string&)> clickCallback;
     osg::Pnt2f pressPx;
     bool isClick = false;
-    float pixelRatio = 1.0F;
 };
 
 }  // namespace viewer

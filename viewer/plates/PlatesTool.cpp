@@ -170,13 +170,6 @@ void PlatesTool::update()
     }
 }
 
-void PlatesTool::setPixelRatio(float ratio)
-{
-    handlePicker.setPixelRatio(ratio);
-    probe.setPixelRatio(ratio);
-    dragContext.setPixelRatio(ratio);
-}
-
 void PlatesTool::selectionHasChanged()
 {
     update();

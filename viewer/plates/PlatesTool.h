@@ -62,7 +62,6 @@ public:
 
     void sceneCleared() final;
     void update() override;
-    void setPixelRatio(float ratio) override;
 
     osg::NodePtr handles() override;
     std::string hoveredHandle() override;

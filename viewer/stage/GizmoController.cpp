@@ -294,10 +294,4 @@ std::string GizmoController::handleAt(const osg::Pnt2f& px)
     return current == Gizmo::None ? std::string() : nbNodeUtils::getName(probe.pickAt(px));
 }
 
-void GizmoController::setPixelRatio(float ratio)
-{
-    picker.setPixelRatio(ratio);
-    probe.setPixelRatio(ratio);
-}
-
 }  // namespace viewer

@@ -119,9 +119,6 @@ public:
     /// Name of the handle at a pixel, "" for none. @param px  device pixels, y from the top
     std::string handleAt(const osg::Pnt2f& px);
 
-    /// Device pixels per logical pixel, for the tolerance of picking.
-    void setPixelRatio(float ratio);
-
 private:
     nbec::manipulator::Manipulator* manipulatorOf(Gizmo gizmo);
     void applyMode(Gizmo gizmo);

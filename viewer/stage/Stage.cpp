@@ -256,13 +256,8 @@ void Stage::showGrid(bool on)
     changed();
 }
 
-void Stage::resize(int widthPx, int heightPx, float pixelRatio)
+void Stage::resize(int widthPx, int heightPx)
 {
-    scenePicker.setPixelRatio(pixelRatio);
-    gizmoController.setPixelRatio(pixelRatio);
-    for (StageTool* tool : tools) {
-        tool->setPixelRatio(pixelRatio);
-    }
     renderWidget.resize(widthPx, heightPx);
     viewChanged();
     renderWidget.update();

@@ -211,8 +211,8 @@ public:
         changed();
     }
 
-    /// Tells the size of the view, device pixels, and the device pixels per logical one.
-    void resize(int widthPx, int heightPx, float pixelRatio);
+    /// Tells the size of the view, device pixels.
+    void resize(int widthPx, int heightPx);
     /// Brings gizmo and markers up to date; call before each picture.
     void update();
     /// Sets what is called when selection, camera or scene changed; empty for nothing.

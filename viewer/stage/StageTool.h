@@ -51,9 +51,6 @@ public:
     /// Brings what is drawn up to date; called before each picture.
     virtual void update() { }
 
-    /// Sets the device pixels per logical one.
-    virtual void setPixelRatio(float) { }
-
     // == Handles of an active tool
 
     /// Tree of the handles shown; null if there are none in the scene.

@@ -372,13 +372,6 @@ void TextureTool::update()
     }
 }
 
-void TextureTool::setPixelRatio(float ratio)
-{
-    handlePicker.setPixelRatio(ratio);
-    probe.setPixelRatio(ratio);
-    scenePicker.setPixelRatio(ratio);
-}
-
 osg::NodePtr TextureTool::handles()
 {
     return isPlacing() ? osg::NodePtr() : gizmos.current().getCollider();

@@ -131,7 +131,6 @@ public:
     void selectionChanged() override;
     void viewChanged() override;
     void update() override;
-    void setPixelRatio(float ratio) override;
     osg::NodePtr handles() override;
     std::string hoveredHandle() override;
     std::string handleAt(const osg::Pnt2f& px) override;

@@ -39,7 +39,7 @@ protected:
     explicit StageTest(int width = 1200, int height = 800)
         : stage(view)
     {
-        stage.resize(width, height, 1.0F);
+        stage.resize(width, height);
         stage.showStartScene();
         stage.update();
     }
