@@ -11,6 +11,16 @@ namespace {
 
 constexpr float kTolerance = 1e-6F;
 
+/// Length of an arrow by the height of the main view, for a size in pixels; 0 for the classic rule.
+float arrowPart()
+{
+    const SizePolicy& policy = getSizePolicy();
+    const int height = policy.arrowPx > 0.0F ? View().getHeight() : 0;
+    return height > 0 ? policy.arrowPx * nbOSGWidget::getPixelRatio(-1, policy.pixelRatio) /
+            static_cast<float>(height)
+                      : 0.0F;
+}
+
 /// Size of gizmos in an orthographic view; 0 in any other.
 float orthographicSize(const View& view)
 {
@@ -23,22 +33,23 @@ float orthographicSize(const View& view)
 bool PlacementWatch::mayHaveChanged(float own) const
 {
     return !isKnown || osg::glue::editStamp() != editStamp || own != ownNumber ||
-        nbOSGWidget::getMGLW(-1) != widget || View().arrowPart() != arrowPart;
+        nbOSGWidget::getMGLW(-1) != placedFor || isSizedOtherwise();
 }
 
 bool PlacementWatch::isSizedOtherwise() const
 {
-    return View().arrowPart() != placedArrowPart;
+    return arrowPart() != placedArrowPart;
 }
 
 bool PlacementWatch::isForOtherView() const
 {
-    return placedFor != nullptr && placedFor != nbOSGWidget::getMGLW(-1);
+    const nbOSGWidget* const view = nbOSGWidget::getMGLW(-1);
+    return view != nullptr && placedFor != nullptr && view != placedFor;
 }
 
 void PlacementWatch::placed()
 {
-    placedArrowPart = View().arrowPart();
+    placedArrowPart = arrowPart();
     placedFor = nbOSGWidget::getMGLW(-1);
 }
 
@@ -47,8 +58,6 @@ void PlacementWatch::note(float own)
     isKnown = true;
     editStamp = osg::glue::editStamp();
     ownNumber = own;
-    widget = nbOSGWidget::getMGLW(-1);
-    arrowPart = View().arrowPart();
 }
 
 bool PlacementWatch::isElsewhere(const osg::Matrix& target) const

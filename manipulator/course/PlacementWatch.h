@@ -47,9 +47,7 @@ private:
     bool isKnown = false;
     bool isPlaceKnown = false;
     osg::UInt64 editStamp = 0;  ///< see EditStamp.h
-    const nbOSGWidget* widget = nullptr;  ///< for comparison only
     float ownNumber = 0.0F;
-    float arrowPart = 0.0F;
 
     osg::Matrix cachedAnchorMatrix;
     osg::Pnt3f cachedCameraFrom;

@@ -219,14 +219,6 @@ float View::scaleAt(const osg::Pnt3f& anchor, float size, ViewDiagonal diagonal)
                             : perspectiveScale(anchor.dist(getEye()), getFov(), size);
 }
 
-float View::arrowPart() const
-{
-    const SizePolicy& policy = getSizePolicy();
-    return getHeight() > 0 ? policy.arrowPx * nbOSGWidget::getPixelRatio(kMain, policy.pixelRatio) /
-            static_cast<float>(getHeight())
-                           : 0.0F;
-}
-
 double View::unitsPerPixel(const osg::Pnt3f& point) const
 {
     if (getHeight() <= 0) {

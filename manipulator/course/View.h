@@ -130,9 +130,6 @@ public:
     /// @param size  class-wide size setting, for the classic rule
     float scaleAt(const osg::Pnt3f& anchor, float size, ViewDiagonal diagonal) const;
 
-    /// Length of an arrow by the height of the view, for a size in pixels; 0 for the classic rule.
-    float arrowPart() const;
-
     /// World units of a device pixel at a point; 0 in a view without height.
     double unitsPerPixel(const osg::Pnt3f& point) const;
 
