@@ -5,6 +5,8 @@
 #include <OpenSG/OSGBaseFunctions.h>
 #include <OpenSG/OSGSimpleGeometry.h>
 
+#include <QGuiApplication>
+
 #include <cstdio>
 #include <cstdlib>
 
@@ -23,6 +25,9 @@ void warmUp()
 
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
 {
+    // Texts of plates are painted, which needs fonts. It ends with the process, as its screens do.
+    static const auto* const kApplication = new QGuiApplication(*argc, *argv);
+    (void)kApplication;
     osg::osgInit(*argc, *argv);
     osg::getDefaultMaterial();
     warmUp();

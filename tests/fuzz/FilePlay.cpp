@@ -57,7 +57,7 @@ struct Files
         const QByteArray between(kBetweenFiles);
         const int first = all.indexOf(between);
         const int second = first < 0 ? -1 : all.indexOf(between, first + between.size());
-        scene = all.left(first);
+        scene = first < 0 ? all : all.left(first);
         model = second < 0 ? QByteArray() : all.mid(first + between.size(), second - first);
         picture = second < 0 ? QByteArray() : all.mid(second + between.size());
     }

@@ -79,7 +79,7 @@ TEST_F(KilledSession, LosesNoMoreThanTheTimeBetweenTwoWritingsAndLeavesNothingBr
     constexpr int kUsualKills = 4;
     constexpr int kLongestMs = 4 * kMsOfASecond;
     constexpr int kLostMs = 2 * kMsOfASecond;  // the setting, and a second for writing
-    constexpr std::size_t kAlive = 20;
+    constexpr std::size_t kAlive = 4;
     const int kills = qMax(kUsualKills, qEnvironmentVariableIntValue("NB_KILLS"));
     std::mt19937 random(20);
     for (int kill = 0; kill < kills; ++kill) {
