@@ -92,11 +92,6 @@ void Picker::setPixelRatio(float ratio)
     }
 }
 
-void Picker::setDevice(PointerDevice device)
-{
-    pointer().device = device;
-}
-
 // == Picking
 
 osg::NodePtr Picker::pick(const HandleRank& rankOf)
