@@ -28,9 +28,4 @@ CameraNotifier::~CameraNotifier()
     }
 }
 
-bool CameraNotifier::isVisible() const
-{
-    return node->getActive();
-}
-
 }  // namespace nbec::notification

@@ -21,7 +21,7 @@ public:
     ~CameraNotifier() override;
 
     /// While the node is active.
-    bool isVisible() const override;
+    bool isVisible() const override { return node->getActive(); }
 
     osg::NodePtr getNode() const { return node; }
 

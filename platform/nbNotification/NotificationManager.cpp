@@ -99,11 +99,6 @@ std::vector<VisibleText> NotificationManager::getVisibleTexts(int width, int hei
     return visible;
 }
 
-void NotificationManager::setChangeListener(std::function<void()> listener)
-{
-    changeListener = std::move(listener);
-}
-
 void NotificationManager::clear()
 {
     changeListener = nullptr;

@@ -81,7 +81,7 @@ public:
     osg::UInt64 getChangeCount() const { return changeCount; }
 
     /// Called after each change, so that the view can redraw. An empty function for none.
-    void setChangeListener(std::function<void()> listener);
+    void setChangeListener(std::function<void()> listener) { changeListener = std::move(listener); }
 
     /// Forgets texts, notifiers and listener.
     void clear();

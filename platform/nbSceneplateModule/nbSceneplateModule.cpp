@@ -150,16 +150,6 @@ void nbSceneplateModule::clear()
     }
 }
 
-int nbSceneplateModule::addChangedCallback(nbCallbackList::Callback callback)
-{
-    return callbacks.add(std::move(callback));
-}
-
-void nbSceneplateModule::removeChangedCallback(int number)
-{
-    callbacks.remove(number);
-}
-
 void nbSceneplateModule::showMarkers()
 {
     for (const osg::NodePtr& node : marked.getNodes()) {

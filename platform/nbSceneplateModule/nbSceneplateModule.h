@@ -64,8 +64,12 @@ public:
     /// Registers a callback for changes of selection and preselection and for plates changed by
     /// "sceneplateChanged"; it may read and change everything here. What it throws is logged.
     /// @return a number for removeChangedCallback, never 0; 0 for an empty callback
-    int addChangedCallback(nbCallbackList::Callback callback);
-    void removeChangedCallback(int number);
+    int addChangedCallback(nbCallbackList::Callback callback)
+    {
+        return callbacks.add(std::move(callback));
+    }
+
+    void removeChangedCallback(int number) { callbacks.remove(number); }
 
     // == Changes
 

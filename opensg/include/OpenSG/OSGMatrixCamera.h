@@ -20,8 +20,15 @@ class MatrixCamera : public Camera
     OSG_CONTAINER(MatrixCamera, Camera, OSG_MATRIX_CAMERA_FIELDS);
 
 public:
-    void getProjection(Matrix& result, UInt32 width, UInt32 height) override;
-    void getViewing(Matrix& result, UInt32 width, UInt32 height) override;
+    void getProjection(Matrix& result, UInt32 /*width*/, UInt32 /*height*/) override
+    {
+        result = getProjectionMatrix();
+    }
+
+    void getViewing(Matrix& result, UInt32 /*width*/, UInt32 /*height*/) override
+    {
+        result = getModelviewMatrix();
+    }
 };
 
 }  // namespace osg
