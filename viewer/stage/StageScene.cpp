@@ -10,6 +10,7 @@
 #include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
+#include <OpenSG/OSGChangeCount.h>
 #include <OpenSG/OSGGeometry.h>
 
 #include <algorithm>
