@@ -46,91 +46,66 @@ QJsonArray namesOf(const std::vector<osg::NodePtr>& nodes)
 
 bool hasSelection(const PlatesTool& tool, const char* command, QString& error)
 {
-    return !tool.selected().empty() ||
-        refuse(command, Text::tr("no scene plate is selected"), error);
+    return tool.hasSelection(error) || refuse(command, error, error);
 }
 
 // == Adding
 
-const QStringList kPlacing { QStringLiteral("name"), QStringLiteral("front"),
-                             QStringLiteral("anchor"), QStringLiteral("position") };
+/// The value of a command that adds a plate or paints one, while it is read. Each operation answers
+/// false with one line of reason.
+struct Adding : JsonReader
+{
+    Adding(const char* command, const QJsonValue& value, QString& errorText)
+        : JsonReader(errorText)
+        , path(prefixed(command))
+        , object(value.toObject())
+    { }
 
-/// The part of a value that all kinds of plates share.
-bool readPlacing(const QJsonObject& object, const QString& path, JsonReader& reader,
-                 NewPlate& plate)
+    bool fail(const char* key, const QString& what) { return JsonReader::fail(path + key, what); }
+
+    /// @param known  entries beside those that all kinds of plates share
+    bool checkKeys(const QStringList& known)
+    {
+        const QStringList shared { "name", "front", "anchor", "position" };
+        return JsonReader::checkKeys(object, path, shared + known);
+    }
+
+    bool readPlacing();
+    bool paint(const PlateText& text, int viewHeightPx);
+
+    QString path;
+    QJsonObject object;
+    NewPlate plate;
+};
+
+/// Reads what all kinds of plates share.
+bool Adding::readPlacing()
 {
     QString name = QString::fromStdString(plate.name);
-    const auto value = [&object](const char* key) { return object[QLatin1String(key)]; };
-    if ((!value("name").isUndefined() &&
-         !reader.readString(value("name"), path + QStringLiteral(".name"), name)) ||
-        (!value("front").isUndefined() &&
-         !reader.readBool(value("front"), path + QStringLiteral(".front"), plate.front))) {
+    if ((object.contains("name") && !readString(object["name"], path + ".name", name)) ||
+        (object.contains("front") && !readBool(object["front"], path + ".front", plate.front))) {
         return false;
     }
     plate.name = name.toStdString();
     const std::optional<osg::Int32> anchor =
-        value("anchor").isUndefined() ? plate.anchor : anchorFromName(value("anchor").toString());
+        object.contains("anchor") ? anchorFromName(object["anchor"].toString()) : plate.anchor;
     if (!anchor) {
-        return reader.fail(path + QStringLiteral(".anchor"), QStringLiteral("unknown place"));
+        return fail(".anchor", "unknown place");
     }
     plate.anchor = *anchor;
     osg::Vec2f position;
-    if (readPair(value("position"), position)) {
+    if (readPair(object["position"], position)) {
         plate.position = position;
     }
-    return value("position").isUndefined() || plate.position ||
-        reader.fail(path + QStringLiteral(".position"),
-                    QStringLiteral("expected an array of two numbers"));
+    return !object.contains("position") || plate.position ||
+        fail(".position", "expected an array of two numbers");
 }
 
-bool addPicture(Stage& stage, PlatesTool& tool, const QJsonValue& value, QString& error)
+bool Adding::paint(const PlateText& text, int viewHeightPx)
 {
-    JsonReader reader(error);
-    const QString path = QStringLiteral("plates.addPicture");
-    const QJsonObject object = value.toObject();
-    const QString file = stage.commands().filePath(object[QLatin1String("file")].toString());
-    NewPlate plate;
-    plate.name = QFileInfo(file).completeBaseName().toStdString();
-    constexpr double kMostHeight = 10.0;
-    const QJsonValue wanted = object[QLatin1String("height")];
-    const double height = wanted.toDouble();
-    if (!reader.checkKeys(object, path,
-                          kPlacing +
-                              QStringList { QStringLiteral("file"), QStringLiteral("height") }) ||
-        !readPlacing(object, path, reader, plate)) {
-        return false;
-    }
-    if (!wanted.isUndefined() && !(height > 0.0 && height <= kMostHeight)) {
-        return reader.fail(path + QStringLiteral(".height"),
-                           QStringLiteral("expected a number above 0, at most 10"));
-    }
-    plate.image = readPicture(file, error);
-    if (!plate.image) {
-        return false;
-    }
-    if (height > 0.0) {
-        const double heightPx = height * stage.view().getHeight();
-        plate.sizePx = osg::Vec2f(
-            static_cast<float>(heightPx * plate.image->getWidth() / plate.image->getHeight()),
-            static_cast<float>(heightPx));
-        tool.add(plate);
-    } else {
-        tool.addPicture(plate);
-    }
-    return true;
-}
-
-const QStringList kOfText { QStringLiteral("text"), QStringLiteral("font"), QStringLiteral("color"),
-                            QStringLiteral("bold"), QStringLiteral("height") };
-
-/// Paints a text for a plate. @return false with one line of reason
-bool paint(const PlateText& text, Stage& stage, const QString& path, JsonReader& reader,
-           NewPlate& plate)
-{
-    const QImage picture = paintPlateText(text, stage.view().getHeight());
+    const QImage picture = paintPlateText(text, viewHeightPx);
     if (picture.isNull()) {
-        return reader.fail(path + QStringLiteral(".text"),
-                           Text::tr("expected a text that fits into a picture"));
+        return fail(".text", Text::tr("expected a text that fits into a picture"));
     }
     plate.image = osg::RefPtr<osg::ImagePtr>(nbImageConvert::toImage(picture));
     setPictureSource(plate.image.get(), textOf(toJson(text)));
@@ -139,22 +114,51 @@ bool paint(const PlateText& text, Stage& stage, const QString& path, JsonReader&
     return true;
 }
 
+bool addPicture(Stage& stage, PlatesTool& tool, const QJsonValue& value, QString& error)
+{
+    constexpr double kMostHeight = 10.0;
+    Adding adding("addPicture", value, error);
+    NewPlate& plate = adding.plate;
+    const QString file = stage.commands().filePath(value["file"].toString());
+    plate.name = QFileInfo(file).completeBaseName().toStdString();
+    const bool hasHeight = adding.object.contains("height");
+    const double height = value["height"].toDouble();
+    if (!adding.checkKeys({ "file", "height" }) || !adding.readPlacing()) {
+        return false;
+    }
+    if (hasHeight && !(height > 0.0 && height <= kMostHeight)) {
+        return adding.fail(".height", "expected a number above 0, at most 10");
+    }
+    plate.image = readPicture(file, error);
+    if (!plate.image) {
+        return false;
+    }
+    if (!hasHeight) {
+        tool.addPicture(plate);
+        return true;
+    }
+    const double heightPx = height * stage.view().getHeight();
+    plate.sizePx = osg::Vec2f(
+        static_cast<float>(heightPx * plate.image->getWidth() / plate.image->getHeight()),
+        static_cast<float>(heightPx));
+    tool.add(plate);
+    return true;
+}
+
+const QStringList kOfText { "text", "font", "color", "bold", "height" };
+
 bool addText(Stage& stage, PlatesTool& tool, const QJsonValue& value, QString& error)
 {
-    JsonReader reader(error);
-    const QString path = QStringLiteral("plates.addText");
-    const QJsonObject object = value.toObject();
+    Adding adding("addText", value, error);
     PlateText text;
-    NewPlate plate;
-    if (!reader.checkKeys(object, path, kPlacing + kOfText) ||
-        !readPlateText(object, path, reader, text)) {
+    if (!adding.checkKeys(kOfText) || !readPlateText(adding.object, adding.path, adding, text)) {
         return false;
     }
-    plate.name = text.text.simplified().toStdString();
-    if (!readPlacing(object, path, reader, plate) || !paint(text, stage, path, reader, plate)) {
+    adding.plate.name = text.text.simplified().toStdString();
+    if (!adding.readPlacing() || !adding.paint(text, stage.view().getHeight())) {
         return false;
     }
-    tool.add(plate);
+    tool.add(adding.plate);
     return true;
 }
 
@@ -175,16 +179,15 @@ std::optional<PlateText> selectedText(const PlatesTool& tool)
 
 bool changeText(Stage& stage, PlatesTool& tool, const QJsonValue& value, QString& error)
 {
-    JsonReader reader(error);
-    const QString path = QStringLiteral("plates.text");
+    Adding adding("text", value, error);
     std::optional<PlateText> text = selectedText(tool);
-    NewPlate painted;
+    const NewPlate& painted = adding.plate;
     if (!text) {
-        return reader.fail(path, Text::tr("no text is selected"));
+        return adding.fail("", Text::tr("no text is selected"));
     }
-    if (!reader.checkKeys(value.toObject(), path, kOfText) ||
-        !readPlateText(value.toObject(), path, reader, *text) ||
-        !paint(*text, stage, path, reader, painted)) {
+    if (!adding.JsonReader::checkKeys(adding.object, adding.path, kOfText) ||
+        !readPlateText(adding.object, adding.path, adding, *text) ||
+        !adding.paint(*text, stage.view().getHeight())) {
         return false;
     }
     const osg::Vec2f size = painted.sizePx * (1.0F / static_cast<float>(stage.view().getHeight()));
@@ -199,48 +202,50 @@ bool changeText(Stage& stage, PlatesTool& tool, const QJsonValue& value, QString
 
 bool addColor(Stage& stage, PlatesTool& tool, const QJsonValue& value, QString& error)
 {
-    JsonReader reader(error);
-    const QString path = QStringLiteral("plates.addColor");
-    const QJsonObject object = value.toObject();
-    NewPlate plate;
-    plate.name = "Colour";
+    Adding adding("addColor", value, error);
+    adding.plate.name = "Colour";
     osg::Vec2f size(osg::kSceneplateSize, osg::kSceneplateSize);
-    const QStringList known { QStringLiteral("color"), QStringLiteral("size") };
-    if (!reader.checkKeys(object, path, kPlacing + known) ||
-        !readPlacing(object, path, reader, plate)) {
+    if (!adding.checkKeys({ "color", "size" }) || !adding.readPlacing()) {
         return false;
     }
-    const std::optional<osg::Color4f> color = readPlateColor(object[QLatin1String("color")]);
+    const std::optional<osg::Color4f> color = readPlateColor(value["color"]);
     if (!color) {
-        return reader.fail(path + QStringLiteral(".color"), QStringLiteral("unknown colour"));
+        return adding.fail(".color", "unknown colour");
     }
-    if (object.contains(QLatin1String("size")) &&
-        (!readPair(object[QLatin1String("size")], size) || !(size.x() > 0.0F) ||
-         !(size.y() > 0.0F))) {
-        return reader.fail(path + QStringLiteral(".size"),
-                           QStringLiteral("expected two numbers above 0"));
+    if (adding.object.contains("size") &&
+        (!readPair(value["size"], size) || !(size.x() > 0.0F) || !(size.y() > 0.0F))) {
+        return adding.fail(".size", "expected two numbers above 0");
     }
-    plate.color = *color;
-    plate.sizePx = size * static_cast<float>(stage.view().getHeight());
-    tool.add(plate);
+    adding.plate.color = *color;
+    adding.plate.sizePx = size * static_cast<float>(stage.view().getHeight());
+    tool.add(adding.plate);
     return true;
 }
 
 // == The selected ones
 
-bool select(PlatesTool& tool, const QJsonValue& value, QString& error)
+/// @return null, with one line in `error`, if there is none
+osg::NodePtr findPlate(const char* command, const QJsonValue& name, QString& error)
+{
+    const osg::NodePtr node = PlatesTool::plateByName(name.toString().toStdString());
+    if (node == osg::NullFC) {
+        refuse(command, QStringLiteral("there is no scene plate \"%1\"").arg(name.toString()),
+               error);
+    }
+    return node;
+}
+
+bool select(Stage& /*stage*/, PlatesTool& tool, const QJsonValue& value, QString& error)
 {
     if (!value.isArray()) {
-        return refuse("select", QStringLiteral("expected an array of names"), error);
+        return refuse("select", "expected an array of names", error);
     }
     std::vector<osg::NodePtr> nodes;
     const QJsonArray names = value.toArray();
     for (const QJsonValue& name : names) {
-        nodes.push_back(PlatesTool::plateByName(name.toString().toStdString()));
+        nodes.push_back(findPlate("select", name, error));
         if (nodes.back() == osg::NullFC) {
-            return refuse("select",
-                          QStringLiteral("there is no scene plate \"%1\"").arg(name.toString()),
-                          error);
+            return false;
         }
     }
     tool.select(nodes);
@@ -261,18 +266,24 @@ bool setField(const std::vector<osg::NodePtr>& nodes, const PlateField& field,
 /// Shows or hides a plate that need not be selected.
 bool setVisible(const PlateField& field, const QJsonObject& value, QString& error)
 {
-    const QString name = value[QLatin1String("name")].toString();
-    const osg::NodePtr node = PlatesTool::plateByName(name.toStdString());
-    if (node == osg::NullFC) {
-        return refuse(field.name, QStringLiteral("there is no scene plate \"%1\"").arg(name),
-                      error);
-    }
-    return setField({ node }, field, value[QLatin1String("visible")], error);
+    const osg::NodePtr node = findPlate(field.name, value["name"], error);
+    return node != osg::NullFC && setField({ node }, field, value["visible"], error);
+}
+
+/// Adds a value of the plate selected last, null without one.
+/// @param read  QJsonValue (const osg::NodePtr&)
+template <class Read>
+void addValueOfLast(Stage& stage, const PlatesTool& tool, const char* name, Read read)
+{
+    stage.commands().addValue(prefixed(name), [&tool, read] {
+        const std::vector<osg::NodePtr> nodes = tool.selected();
+        return nodes.empty() ? QJsonValue() : QJsonValue(read(nodes.back()));
+    });
 }
 
 void addField(Stage& stage, PlatesTool& tool, const PlateField& field)
 {
-    const bool isVisible = QLatin1String(field.name) == QLatin1String("visible");
+    const bool isVisible = QLatin1String(field.name) == "visible";
     stage.commands().add(prefixed(field.name),
                          [&tool, &field, isVisible](const QJsonValue& value, QString& error) {
                              if (isVisible && value.isObject()) {
@@ -281,27 +292,26 @@ void addField(Stage& stage, PlatesTool& tool, const PlateField& field)
                              return hasSelection(tool, field.name, error) &&
                                  setField(tool.selected(), field, value, error);
                          });
-    stage.commands().addValue(prefixed(field.name), [&tool, &field] {
-        const std::vector<osg::NodePtr> nodes = tool.selected();
-        return nodes.empty() ? QJsonValue() : field.read(*nbSceneplateList::plateOf(nodes.back()));
+    addValueOfLast(stage, tool, field.name, [&field](const osg::NodePtr& node) {
+        return field.read(*nbSceneplateList::plateOf(node));
     });
 }
 
-bool setAnchor(Stage& stage, const PlatesTool& tool, const QJsonValue& value, QString& error)
+bool setAnchor(Stage& stage, PlatesTool& tool, const QJsonValue& value, QString& error)
 {
     const std::optional<osg::Int32> anchor = anchorFromName(value.toString());
     if (!hasSelection(tool, "anchor", error)) {
         return false;
     }
     if (!anchor) {
-        return refuse("anchor", QStringLiteral("expected a place such as \"topLeft\""), error);
+        return refuse("anchor", "expected a place such as \"topLeft\"", error);
     }
     nbSceneplateEditing::setAnchor(tool.selected(), *anchor, stage.view().getWidth(),
                                    stage.view().getHeight());
     return true;
 }
 
-bool rename(const PlatesTool& tool, const QJsonValue& value, QString& error)
+bool rename(Stage& /*stage*/, PlatesTool& tool, const QJsonValue& value, QString& error)
 {
     if (!hasSelection(tool, "name", error)) {
         return false;
@@ -316,46 +326,17 @@ bool rename(const PlatesTool& tool, const QJsonValue& value, QString& error)
     return true;
 }
 
+bool remove(Stage& /*stage*/, PlatesTool& tool, const QJsonValue& /*value*/, QString& error)
+{
+    return hasSelection(tool, "remove", error) && nbSceneplateEditing::remove(tool.selected()) > 0;
+}
+
 void addRestacking(Stage& stage, PlatesTool& tool, const char* name, int steps)
 {
     stage.commands().add(prefixed(name), [&tool, name, steps](const QJsonValue&, QString& error) {
         return hasSelection(tool, name, error) &&
             (nbSceneplateEditing::restack(tool.selected(), steps) ||
              refuse(name, Text::tr("there is no further plate on this side"), error));
-    });
-}
-
-QJsonValue centreOf(Stage& stage, const PlatesTool& tool)
-{
-    const std::vector<osg::NodePtr> nodes = tool.selected();
-    if (nodes.empty()) {
-        return {};
-    }
-    const osg::Pnt2f centre = nbSceneplateLayout::centre(
-        nbSceneplateList::plateOf(nodes.back()), stage.view().getWidth(), stage.view().getHeight());
-    return QJsonArray { static_cast<double>(centre.x()), static_cast<double>(centre.y()) };
-}
-
-void addSelectionCommands(Stage& stage, PlatesTool& tool)
-{
-    Commands& commands = stage.commands();
-    commands.add(prefixed("select"), [&tool](const QJsonValue& value, QString& error) {
-        return select(tool, value, error);
-    });
-    commands.add(prefixed("remove"), [&tool](const QJsonValue&, QString& error) {
-        return hasSelection(tool, "remove", error) &&
-            nbSceneplateEditing::remove(tool.selected()) > 0;
-    });
-    addRestacking(stage, tool, "forward", 1);
-    addRestacking(stage, tool, "backward", -1);
-    for (const PlateField& field : plateFields()) {
-        addField(stage, tool, field);
-    }
-    commands.add(prefixed("name"), [&tool](const QJsonValue& value, QString& error) {
-        return rename(tool, value, error);
-    });
-    commands.add(prefixed("anchor"), [&stage, &tool](const QJsonValue& value, QString& error) {
-        return setAnchor(stage, tool, value, error);
     });
 }
 
@@ -372,16 +353,16 @@ void addValues(Stage& stage, PlatesTool& tool)
                       [&tool] { return QString::fromStdString(tool.preselectedName()); });
     commands.addValue(prefixed("edit"), [&tool] { return tool.isActive(); });
     commands.addValue(prefixed("snapping"), [&stage] { return stage.gizmo().isSnapping(); });
-    commands.addValue(prefixed("centre"), [&stage, &tool] { return centreOf(stage, tool); });
-    commands.addValue(prefixed("name"), [&tool] {
-        const QJsonArray names = namesOf(tool.selected());
-        return names.isEmpty() ? QJsonValue() : names.last();
+    addValueOfLast(stage, tool, "centre", [&stage](const osg::NodePtr& node) {
+        const osg::Pnt2f centre = nbSceneplateLayout::centre(
+            nbSceneplateList::plateOf(node), stage.view().getWidth(), stage.view().getHeight());
+        return QJsonArray { centre.x(), centre.y() };
     });
-    commands.addValue(prefixed("anchor"), [&tool] {
-        const std::vector<osg::NodePtr> nodes = tool.selected();
-        return nodes.empty()
-            ? QJsonValue()
-            : QJsonValue(anchorName(nbSceneplateList::plateOf(nodes.back())->getAnchor()));
+    addValueOfLast(stage, tool, "name", [](const osg::NodePtr& node) {
+        return QString::fromStdString(nbNodeUtils::getName(node));
+    });
+    addValueOfLast(stage, tool, "anchor", [](const osg::NodePtr& node) {
+        return anchorName(nbSceneplateList::plateOf(node)->getAnchor());
     });
 }
 
@@ -404,18 +385,23 @@ void addModes(Stage& stage, PlatesTool& tool)
 
 void addPlateCommands(Stage& stage, PlatesTool& tool)
 {
-    using Add = bool (*)(Stage&, PlatesTool&, const QJsonValue&, QString&);
-    const std::pair<const char*, Add> kAdds[] = { { "addPicture", &addPicture },
-                                                  { "addText", &addText },
-                                                  { "addColor", &addColor },
-                                                  { "text", &changeText } };
-    for (const auto& [name, add] : kAdds) {
+    using Run = bool (*)(Stage&, PlatesTool&, const QJsonValue&, QString&);
+    const std::pair<const char*, Run> kRows[] = {
+        { "addPicture", &addPicture }, { "addText", &addText },  { "addColor", &addColor },
+        { "text", &changeText },       { "select", &select },    { "remove", &remove },
+        { "name", &rename },           { "anchor", &setAnchor },
+    };
+    for (const auto& [name, run] : kRows) {
         stage.commands().add(prefixed(name),
-                             [&stage, &tool, run = add](const QJsonValue& value, QString& error) {
-                                 return run(stage, tool, value, error);
+                             [&stage, &tool, doIt = run](const QJsonValue& value, QString& error) {
+                                 return doIt(stage, tool, value, error);
                              });
     }
-    addSelectionCommands(stage, tool);
+    addRestacking(stage, tool, "forward", 1);
+    addRestacking(stage, tool, "backward", -1);
+    for (const PlateField& field : plateFields()) {
+        addField(stage, tool, field);
+    }
     addModes(stage, tool);
     addValues(stage, tool);
 }

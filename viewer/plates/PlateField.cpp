@@ -3,6 +3,7 @@
 
 #include <QJsonArray>
 
+#include <algorithm>
 #include <cmath>
 
 namespace viewer {
@@ -12,116 +13,95 @@ using osg::Sceneplate;
 
 /// Larger numbers are no plates that a person could see.
 constexpr double kMost = 1000.0;
-constexpr double kThousand = 1000.0;
 
-bool isNumber(const QJsonValue& value, double least)
+constexpr double kNoLeast = -kMost;
+/// What is smaller cannot be grabbed any more.
+constexpr double kLeastSize = 0.001;
+
+std::optional<bool> readSwitch(const QJsonValue& value)
 {
-    return value.isDouble() && value.toDouble() >= least && value.toDouble() <= kMost;
+    return value.isBool() ? std::make_optional(value.toBool()) : std::nullopt;
 }
 
-bool acceptPair(const QJsonValue& value, double least, osg::Vec2f& pair)
+auto numberReader(double least, double most = kMost)
 {
-    return readPair(value, pair) && static_cast<double>(pair.x()) >= least &&
-        static_cast<double>(pair.y()) >= least && static_cast<double>(pair.x()) <= kMost &&
-        static_cast<double>(pair.y()) <= kMost;
+    return [least, most](const QJsonValue& value) {
+        const double number = value.toDouble(NAN);
+        return number >= least && number <= most ? std::make_optional(static_cast<float>(number))
+                                                 : std::nullopt;
+    };
 }
 
-QJsonArray pairOf(const osg::Vec2f& pair)
+auto pairReader(double least)
 {
-    return { static_cast<double>(pair.x()), static_cast<double>(pair.y()) };
+    return [least](const QJsonValue& value) {
+        osg::Vec2f pair;
+        const bool isPair = readPair(value, pair) && std::min(pair.x(), pair.y()) >= least &&
+            std::max(pair.x(), pair.y()) <= kMost;
+        return isPair ? std::make_optional(pair) : std::nullopt;
+    };
 }
 
-template <class Type>
-using Setter = void (Sceneplate::*)(const Type&);
-template <class Type>
-using Getter = const Type& (Sceneplate::*)() const;
-
-template <Setter<bool> set, Getter<bool> get>
-PlateField switchField(const char* name, const char* title)
+QJsonValue jsonOf(bool on)
 {
-    return { name, title, "expected true or false",
-             [](const QJsonValue& value, Sceneplate* plate) {
-                 if (plate != nullptr) {
-                     (plate->*set)(value.toBool());
-                 }
-                 return value.isBool();
-             },
-             [](const Sceneplate& plate) { return QJsonValue((plate.*get)()); } };
+    return on;
 }
 
-/// @param least  in thousandths
-template <Setter<osg::Real32> set, Getter<osg::Real32> get, int least>
-PlateField numberField(const char* name, const char* title, const char* expected)
+QJsonValue jsonOf(float number)
+{
+    return number;
+}
+
+QJsonValue jsonOf(const osg::Vec2f& pair)
+{
+    return QJsonArray { pair.x(), pair.y() };
+}
+
+QJsonValue jsonOf(const osg::Color4f& color)
+{
+    return colorOf(color).name(QColor::HexArgb);
+}
+
+/// @param readValue  std::optional<Type> (const QJsonValue&)
+template <class Type, class ReadValue>
+PlateField field(const char* name, const char* title, const char* expected,
+                 void (Sceneplate::*set)(const Type&), const Type& (Sceneplate::*get)() const,
+                 ReadValue readValue)
 {
     return { name, title, expected,
-             [](const QJsonValue& value, Sceneplate* plate) {
-                 if (plate != nullptr) {
-                     (plate->*set)(static_cast<float>(value.toDouble()));
+             [=](const QJsonValue& value, Sceneplate* plate) {
+                 const std::optional<Type> found = readValue(value);
+                 if (plate != nullptr && found) {
+                     (plate->*set)(*found);
                  }
-                 return isNumber(value, least / kThousand);
+                 return found.has_value();
              },
-             [](const Sceneplate& plate) {
-                 return QJsonValue(static_cast<double>((plate.*get)()));
-             } };
+             [get](const Sceneplate& plate) { return jsonOf((plate.*get)()); } };
 }
-
-template <Setter<osg::Vec2f> set, Getter<osg::Vec2f> get, int least>
-PlateField pairField(const char* name, const char* title, const char* expected)
-{
-    return { name, title, expected,
-             [](const QJsonValue& value, Sceneplate* plate) {
-                 osg::Vec2f pair;
-                 const bool isPair = acceptPair(value, least / kThousand, pair);
-                 if (plate != nullptr) {
-                     (plate->*set)(pair);
-                 }
-                 return isPair;
-             },
-             [](const Sceneplate& plate) { return QJsonValue(pairOf((plate.*get)())); } };
-}
-
-/// In thousandths; what is smaller cannot be grabbed any more.
-constexpr int kLeastSize = 1;
-constexpr int kNoLeast = -1000000;
 
 const std::vector<PlateField> kFields {
-    switchField<&Sceneplate::setFront, &Sceneplate::getFront>(
-        "front", QT_TRANSLATE_NOOP("Manipulator", "Scene plates to the front or back")),
-    switchField<&Sceneplate::setVisible, &Sceneplate::getVisible>(
-        "visible", QT_TRANSLATE_NOOP("Manipulator", "Show or hide scene plates")),
-    { "opacity", QT_TRANSLATE_NOOP("Manipulator", "Opacity of scene plates"),
-      "expected a number from 0 to 1",
-      [](const QJsonValue& value, Sceneplate* plate) {
-          if (plate != nullptr) {
-              plate->setOpacity(static_cast<float>(value.toDouble()));
-          }
-          return isNumber(value, 0.0) && value.toDouble() <= 1.0;
-      },
-      [](const Sceneplate& plate) { return QJsonValue(static_cast<double>(plate.getOpacity())); } },
-    pairField<&Sceneplate::setPosition, &Sceneplate::getPosition, kNoLeast>(
-        "position", QT_TRANSLATE_NOOP("Manipulator", "Move scene plates"),
-        "expected an array of two numbers"),
-    pairField<&Sceneplate::setSize, &Sceneplate::getSize, kLeastSize>(
-        "size", QT_TRANSLATE_NOOP("Manipulator", "Size of scene plates"),
-        "expected an array of two numbers, at least 0.001"),
-    numberField<&Sceneplate::setScale, &Sceneplate::getScale, kLeastSize>(
-        "scale", QT_TRANSLATE_NOOP("Manipulator", "Scale scene plates"),
-        "expected a number of at least 0.001"),
-    numberField<&Sceneplate::setRotation, &Sceneplate::getRotation, kNoLeast>(
-        "rotation", QT_TRANSLATE_NOOP("Manipulator", "Turn scene plates"),
-        "expected a number of degrees"),
-    { "color", QT_TRANSLATE_NOOP("Manipulator", "Colour of scene plates"),
-      "expected a colour such as \"#ff8000\"",
-      [](const QJsonValue& value, Sceneplate* plate) {
-          const std::optional<osg::Color4f> color = readPlateColor(value);
-          if (plate != nullptr && color) {
-              plate->setColor(*color);
-          }
-          return color.has_value();
-      },
-      [](const Sceneplate& plate) {
-          return QJsonValue(colorOf(plate.getColor()).name(QColor::HexArgb));
-      } },
+    field("front", QT_TRANSLATE_NOOP("Manipulator", "Scene plates to the front or back"),
+          "expected true or false", &Sceneplate::setFront, &Sceneplate::getFront, &readSwitch),
+    field("visible", QT_TRANSLATE_NOOP("Manipulator", "Show or hide scene plates"),
+          "expected true or false", &Sceneplate::setVisible, &Sceneplate::getVisible, &readSwitch),
+    field("opacity", QT_TRANSLATE_NOOP("Manipulator", "Opacity of scene plates"),
+          "expected a number from 0 to 1", &Sceneplate::setOpacity, &Sceneplate::getOpacity,
+          numberReader(0.0, 1.0)),
+    field("position", QT_TRANSLATE_NOOP("Manipulator", "Move scene plates"),
+          "expected an array of two numbers", &Sceneplate::setPosition, &Sceneplate::getPosition,
+          pairReader(kNoLeast)),
+    field("size", QT_TRANSLATE_NOOP("Manipulator", "Size of scene plates"),
+          "expected an array of two numbers, at least 0.001", &Sceneplate::setSize,
+          &Sceneplate::getSize, pairReader(kLeastSize)),
+    field("scale", QT_TRANSLATE_NOOP("Manipulator", "Scale scene plates"),
+          "expected a number of at least 0.001", &Sceneplate::setScale, &Sceneplate::getScale,
+          numberReader(kLeastSize)),
+    field("rotation", QT_TRANSLATE_NOOP("Manipulator", "Turn scene plates"),
+          "expected a number of degrees", &Sceneplate::setRotation, &Sceneplate::getRotation,
+          numberReader(kNoLeast)),
+    field("color", QT_TRANSLATE_NOOP("Manipulator", "Colour of scene plates"),
+          "expected a colour such as \"#ff8000\"", &Sceneplate::setColor, &Sceneplate::getColor,
+          &readPlateColor),
 };
 
 }  // namespace
@@ -140,12 +120,10 @@ QString anchorName(osg::Int32 anchor)
 
 std::optional<osg::Int32> anchorFromName(const QString& name)
 {
-    for (std::size_t i = 0; i < kAnchorNames.size(); ++i) {
-        if (name == QLatin1String(kAnchorNames.at(i))) {
-            return static_cast<osg::Int32>(i);
-        }
-    }
-    return std::nullopt;
+    const auto found = std::find(kAnchorNames.begin(), kAnchorNames.end(), name);
+    return found == kAnchorNames.end()
+        ? std::nullopt
+        : std::make_optional(static_cast<osg::Int32>(found - kAnchorNames.begin()));
 }
 
 bool readPair(const QJsonValue& value, osg::Vec2f& pair)
@@ -156,11 +134,9 @@ bool readPair(const QJsonValue& value, osg::Vec2f& pair)
     }
     const osg::Vec2f found(static_cast<float>(array.at(0).toDouble()),
                            static_cast<float>(array.at(1).toDouble()));
-    if (!std::isfinite(found.x()) || !std::isfinite(found.y())) {
-        return false;
-    }
-    pair = found;
-    return true;
+    const bool isFinite = std::isfinite(found.x()) && std::isfinite(found.y());
+    pair = isFinite ? found : pair;
+    return isFinite;
 }
 
 std::optional<osg::Color4f> readPlateColor(const QJsonValue& value)
@@ -175,7 +151,7 @@ std::optional<osg::Color4f> readPlateColor(const QJsonValue& value)
 
 QColor colorOf(const osg::Color4f& color)
 {
-    const auto bounded = [](float part) { return qBound(0.0, static_cast<double>(part), 1.0); };
+    const auto bounded = [](float part) { return qBound(0.0, double(part), 1.0); };
     return QColor::fromRgbF(bounded(color.red()), bounded(color.green()), bounded(color.blue()),
                             bounded(color.alpha()));
 }

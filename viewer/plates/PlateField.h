@@ -8,6 +8,7 @@
 #include <QString>
 
 #include <array>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -20,8 +21,8 @@ struct PlateField
     const char* title;  ///< of the step of undo
     const char* expected;  ///< what a value has to be
     /// Whether a value is one; with a plate, also sets it.
-    bool (*accept)(const QJsonValue& value, osg::Sceneplate* plate);
-    QJsonValue (*read)(const osg::Sceneplate& plate);
+    std::function<bool(const QJsonValue& value, osg::Sceneplate* plate)> accept;
+    std::function<QJsonValue(const osg::Sceneplate& plate)> read;
 };
 
 /// All that are set by themselves, in the order of a panel; name and anchor are not among them.

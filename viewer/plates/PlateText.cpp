@@ -26,11 +26,11 @@ int evenUp(double length)
 
 QJsonObject toJson(const PlateText& text)
 {
-    return { { QStringLiteral("text"), text.text },
-             { QStringLiteral("font"), text.font },
-             { QStringLiteral("color"), text.color.name(QColor::HexArgb) },
-             { QStringLiteral("bold"), text.bold },
-             { QStringLiteral("height"), text.height } };
+    return { { "text", text.text },
+             { "font", text.font },
+             { "color", text.color.name(QColor::HexArgb) },
+             { "bold", text.bold },
+             { "height", text.height } };
 }
 
 bool readPlateText(const QJsonObject& object, const QString& path, JsonReader& reader,
@@ -40,24 +40,21 @@ bool readPlateText(const QJsonObject& object, const QString& path, JsonReader& r
     const auto has = [&object](const char* key) { return object.contains(QLatin1String(key)); };
     const auto value = [&object](const char* key) { return object[QLatin1String(key)]; };
     const bool hasText = has("text") || text.text.isEmpty();
-    if ((hasText && !reader.readString(value("text"), path + QStringLiteral(".text"), text.text)) ||
-        (has("font") &&
-         !reader.readString(value("font"), path + QStringLiteral(".font"), text.font)) ||
-        (has("bold") &&
-         !reader.readBool(value("bold"), path + QStringLiteral(".bold"), text.bold))) {
+    if ((hasText && !reader.readString(value("text"), path + ".text", text.text)) ||
+        (has("font") && !reader.readString(value("font"), path + ".font", text.font)) ||
+        (has("bold") && !reader.readBool(value("bold"), path + ".bold", text.bold))) {
         return false;
     }
     if (has("color")) {
         text.color = QColor(value("color").toString());
         if (!text.color.isValid()) {
-            return reader.fail(path + QStringLiteral(".color"), QStringLiteral("unknown colour"));
+            return reader.fail(path + ".color", "unknown colour");
         }
     }
     text.height = value("height").toDouble(text.height);
     const bool isHeight = value("height").isUndefined() || value("height").isDouble();
     return (isHeight && text.height > 0.0 && text.height <= kMostHeight) ||
-        reader.fail(path + QStringLiteral(".height"),
-                    QStringLiteral("expected a number above 0, at most 10"));
+        reader.fail(path + ".height", "expected a number above 0, at most 10");
 }
 
 QImage paintPlateText(const PlateText& text, int viewHeightPx)

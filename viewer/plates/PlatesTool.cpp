@@ -53,15 +53,6 @@ osg::Int32 nearestAnchor(const osg::Pnt2f& px, const nbOSGWidget& view)
     return kThirds * row + third(px.x(), view.getWidth());
 }
 
-std::string unusedName(const std::string& wanted)
-{
-    std::string name = wanted;
-    for (int number = 2; PlatesTool::plateByName(name) != osg::NullFC; ++number) {
-        name = wanted + " " + std::to_string(number);
-    }
-    return name;
-}
-
 void place(const osg::SceneplatePtr& plate, const NewPlate& wanted, const nbOSGWidget& view)
 {
     const int width = view.getWidth();
@@ -98,7 +89,7 @@ PlatesTool::PlatesTool(Stage& targetStage)
 
 PlatesTool::~PlatesTool()
 {
-    stage.commands().remove(QStringLiteral("plates."));
+    stage.commands().remove("plates.");
     stage.removeTool(*this);
     sceneCleared();
     dragContext.setManipulator(nullptr);
@@ -158,7 +149,7 @@ bool PlatesTool::nudge(const QPoint& way, bool coarse)
     const QPoint px = way * (coarse ? kCoarsePx : 1);
     QString error;
     return active && !selected().empty() &&
-        stage.commands().run(QStringLiteral("plates.move"), QJsonArray { px.x(), px.y() }, error);
+        stage.commands().run("plates.move", QJsonArray { px.x(), px.y() }, error);
 }
 
 void PlatesTool::update()
@@ -219,10 +210,8 @@ bool PlatesTool::findHandle(const std::string& handle, osg::Pnt2f& px)
     constexpr int kSteps = 24;
     for (int i = 0; i < kSteps * kSteps; ++i) {
         const int step = (i + kSteps * kSteps / 2 + kSteps / 2) % (kSteps * kSteps);
-        const int column = step % kSteps;
-        const int row = step / kSteps;
-        const float x = (static_cast<float>(column) + 0.5F) / kSteps;
-        const float y = (static_cast<float>(row) + 0.5F) / kSteps;
+        const float x = (static_cast<float>(step % kSteps) + 0.5F) / kSteps;
+        const float y = (static_cast<float>(step / kSteps) + 0.5F) / kSteps;
         const osg::Pnt2f candidate = corners[0] + sideX * x + sideY * y;
         if (platePicker.pickAt(candidate) == node) {
             px = candidate;
@@ -276,9 +265,25 @@ osg::NodePtr PlatesTool::plateByName(const std::string& wanted)
     return {};
 }
 
+std::string PlatesTool::unusedName(const std::string& wanted)
+{
+    std::string name = wanted;
+    for (int number = 2; plateByName(name) != osg::NullFC; ++number) {
+        name = wanted + " " + std::to_string(number);
+    }
+    return name;
+}
+
 std::vector<osg::NodePtr> PlatesTool::selected() const
 {
     return module.getSelection();
+}
+
+bool PlatesTool::hasSelection(QString& error) const
+{
+    const bool isAny = !selected().empty();
+    error = isAny ? error : Text::tr("no scene plate is selected");
+    return isAny;
 }
 
 void PlatesTool::select(const std::vector<osg::NodePtr>& nodes)
@@ -333,12 +338,10 @@ bool PlatesTool::takePicture(const QString& file, const osg::Pnt2f& px, QString&
         nbSceneplateLayout::positionAt(anchor, px, view.getWidth(), view.getHeight());
     // As a command, so that it becomes part of a recording.
     return stage.commands().run(
-        QStringLiteral("plates.addPicture"),
-        QJsonObject { { QStringLiteral("file"), file },
-                      { QStringLiteral("anchor"), anchorName(anchor) },
-                      { QStringLiteral("position"),
-                        QJsonArray { static_cast<double>(position.x()),
-                                     static_cast<double>(position.y()) } } },
+        "plates.addPicture",
+        QJsonObject { { "file", file },
+                      { "anchor", anchorName(anchor) },
+                      { "position", QJsonArray { position.x(), position.y() } } },
         error);
 }
 

@@ -85,8 +85,12 @@ public:
     static std::vector<osg::NodePtr> all();
     /// @return the plate of that name; null if there is none
     static osg::NodePtr plateByName(const std::string& wanted);
+    /// The name itself if no plate has it, else such as "Title 2".
+    static std::string unusedName(const std::string& wanted);
     /// The selected plates.
     std::vector<osg::NodePtr> selected() const;
+    /// Whether any is selected. @return false with one line in `error`
+    bool hasSelection(QString& error) const;
     /// Selects plates and, if there are any, becomes the active tool.
     void select(const std::vector<osg::NodePtr>& nodes);
     /// Name of the plate under the pointer; "" for none.
