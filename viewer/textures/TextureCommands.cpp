@@ -21,6 +21,8 @@ namespace viewer {
 namespace {
 
 using Settings = TextureTarget::Settings;
+using Triplanar = nbec::manipulator::TriplanarTextureManipulator;
+using UvGizmo = nbec::manipulator::UVTextureManipulator;
 
 constexpr double kDegPerRad = 57.295779513082323;
 constexpr int kMostNumbers = 3;
@@ -34,22 +36,30 @@ QString named(const char* name)
 struct VectorRow
 {
     const char* name;
-    bool (TextureTarget::*write)(const osg::Vec3f&);
-    osg::Vec3f (*read)(const osg::Transform3DPtr&);
+    bool (*write)(TextureTarget&, const osg::Vec3f&);
+    osg::Vec3f (*read)(const osg::Transform3D&);
     bool mustBePositive = false;
 };
 
 constexpr std::array<VectorRow, 3> kVectors { {
-    { "translation", &TextureTarget::setTranslation,
-      [](const osg::Transform3DPtr& projection) -> osg::Vec3f {
-          return projection->getTranslation();
+    { "translation",
+      [](TextureTarget& target, const osg::Vec3f& wanted) {
+          return target.editProjection([&](auto& state) { state.translation = wanted; });
+      },
+      [](const osg::Transform3D& projection) -> osg::Vec3f {
+          return projection.getTranslation();
       } },
-    { "rotation", &TextureTarget::setRotation,
-      [](const osg::Transform3DPtr& projection) -> osg::Vec3f {
-          return projection->getRotation();
-      } },
-    { "scale", &TextureTarget::setScale,
-      [](const osg::Transform3DPtr& projection) -> osg::Vec3f { return projection->getScale(); },
+    { "rotation",
+      [](TextureTarget& target, const osg::Vec3f& anglesDeg) {
+          return target.editProjection([&](auto& state) {
+              state.rotationMode = osg::Transform3D::EulerMode;
+              state.eulerRotation = anglesDeg;
+          });
+      },
+      [](const osg::Transform3D& projection) -> osg::Vec3f { return projection.getRotation(); } },
+    { "scale",
+      [](TextureTarget& target, const osg::Vec3f& wanted) { return target.setScale(wanted); },
+      [](const osg::Transform3D& projection) -> osg::Vec3f { return projection.getScale(); },
       true },
 } };
 
@@ -115,7 +125,7 @@ QJsonValue jsonOf(const float* numbers, int count, double shown = 1.0)
 {
     QJsonArray array;
     for (int i = 0; i < count; ++i) {
-        array.append(static_cast<double>(numbers[i]) * shown);
+        array.append(numbers[i] * shown);
     }
     return count == 1 ? array.first() : QJsonValue(array);
 }
@@ -151,15 +161,16 @@ void addSetting(const Owner& owner, const char* name, Write write, Read read)
     addSettingValue(owner, name, read);
 }
 
-/// Adds true or false of the tool itself.
-template <class Write, class Read>
-void addOwn(const Owner& owner, const char* name, Write write, Read read)
+/// Adds true or false of the tool, or of a gizmo.
+template <class Of>
+void addOwn(const Owner& owner, const char* name, Of& of, void (Of::*write)(bool),
+            bool (Of::*read)() const)
 {
-    owner.commands().addSwitch(named(name), [write](bool on, QString&) {
-        write(on);
+    owner.commands().addSwitch(named(name), [&of, write](bool on, QString&) {
+        (of.*write)(on);
         return true;
     });
-    owner.commands().addValue(named(name), [read]() -> QJsonValue { return read(); });
+    owner.commands().addValue(named(name), [&of, read] { return (of.*read)(); });
 }
 
 // == Pictures
@@ -241,24 +252,18 @@ void addHandles(const Owner& owner)
         const TextureGizmos::Size size = tool.handleSize();
         const auto wanted = static_cast<float>(value.toDouble(-1.0));
         if (wanted < size.least || wanted > size.most) {
-            return JsonReader(error).fail(named("handleSize"),
-                                          QStringLiteral("must be from %1 to %2")
-                                              .arg(static_cast<double>(size.least))
-                                              .arg(static_cast<double>(size.most)));
+            return JsonReader(error).fail(
+                named("handleSize"),
+                QStringLiteral("must be from %1 to %2").arg(size.least).arg(size.most));
         }
         tool.setHandleSize(wanted);
         return true;
     });
-    commands.addValue(named("handleSize"),
-                      [&tool] { return static_cast<double>(tool.handleSize().present); });
-    auto& uv = tool.allGizmos().uvGizmo();
-    addOwn(
-        owner, "uvKeepAspect", [&uv](bool on) { uv.setKeepAspectRatio(on); },
-        [&uv] { return uv.getKeepAspectRatio(); });
-    auto& triplanar = tool.allGizmos().triplanarGizmo();
-    addOwn(
-        owner, "ringsTilted", [&triplanar](bool on) { triplanar.setRingsTilted(on); },
-        [&triplanar] { return triplanar.areRingsTilted(); });
+    commands.addValue(named("handleSize"), [&tool] { return tool.handleSize().present; });
+    addOwn(owner, "uvKeepAspect", tool.allGizmos().uvGizmo(), &UvGizmo::setKeepAspectRatio,
+           &UvGizmo::getKeepAspectRatio);
+    addOwn(owner, "ringsTilted", tool.allGizmos().triplanarGizmo(), &Triplanar::setRingsTilted,
+           &Triplanar::areRingsTilted);
 }
 
 void addHandlePlace(const Owner& owner)
@@ -290,7 +295,7 @@ bool setVector(const VectorRow& row, TextureTarget& target, const QJsonValue& va
     }
     const osg::Vec3f vector(static_cast<float>(numbers[0]), static_cast<float>(numbers[1]),
                             static_cast<float>(numbers[2]));
-    return orNoPicture((target.*row.write)(vector), error);
+    return orNoPicture(row.write(target, vector), error);
 }
 
 bool setNumbers(const NumbersRow& row, TextureTarget& target, const QJsonValue& value,
@@ -323,7 +328,7 @@ void addNumbers(const Owner& owner)
         owner.commands().addValue(named(row.name), [&]() -> QJsonValue {
             const osg::Transform3DPtr projection = target.projection();
             return projection == osg::NullFC ? QJsonValue()
-                                             : jsonOf(row.read(projection).getValues(), 3);
+                                             : jsonOf(row.read(*projection).getValues(), 3);
         });
     }
     for (const NumbersRow& row : kNumbers) {
@@ -342,7 +347,7 @@ void addProjection(const Owner& owner)
     TextureTool& tool = owner.tool;
     owner.commands().add(named("projection"), [&tool](const QJsonValue& value, QString& error) {
         for (const auto& [word, type] : kTypes) {
-            if (value.toString() == QLatin1String(word)) {
+            if (value.toString() == word) {
                 return orNoPicture(tool.setProjectionType(type), error);
             }
         }
@@ -381,19 +386,16 @@ void addProjection(const Owner& owner)
 void addDisplay(const Owner& owner)
 {
     TextureTool& tool = owner.tool;
-    addOwn(
-        owner, "showProjection", [&tool](bool on) { tool.showProjection(on); },
-        [&tool] { return tool.isProjectionShown(); });
-    addOwn(
-        owner, "showDepth", [&tool](bool on) { tool.showDepth(on); },
-        [&tool] { return tool.isDepthShown(); });
+    addOwn(owner, "showProjection", tool, &TextureTool::showProjection,
+           &TextureTool::isProjectionShown);
+    addOwn(owner, "showDepth", tool, &TextureTool::showDepth, &TextureTool::isDepthShown);
     owner.commands().addNumber(named("planeTransparency"), 0.0, 1.0,
                                [&tool](double wanted, QString&) {
                                    tool.setPlaneTransparency(static_cast<float>(wanted));
                                    return true;
                                });
     owner.commands().addValue(named("planeTransparency"),
-                              [&tool] { return static_cast<double>(tool.planeTransparency()); });
+                              [&tool] { return tool.planeTransparency(); });
 }
 
 }  // namespace

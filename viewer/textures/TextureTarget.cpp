@@ -135,23 +135,15 @@ bool TextureTarget::setImage(const osg::ImagePtr& image, const ProjectionPose& p
         return false;
     }
     connect();
-    return !isFirst || (setFirstFlags() && setPose(pose));
-}
-
-bool TextureTarget::setFirstFlags()
-{
-    return editor.setFlags(Settings::KeepAspectRatio | Settings::ClampZ);
-}
-
-bool TextureTarget::setPose(const ProjectionPose& pose)
-{
-    return editProjection([&pose](nbTransformState& state) {
-        state.translation = pose.translation;
-        state.rotationMode = osg::Transform3D::QuaternionMode;
-        state.rotationQuaternion = pose.rotation;
-        state.rotationOrientation = osg::Quaternion();
-        state.scale = pose.scale;
-    });
+    return !isFirst ||
+        (editor.setFlags(Settings::KeepAspectRatio | Settings::ClampZ) &&
+         editProjection([&pose](nbTransformState& state) {
+             state.translation = pose.translation;
+             state.rotationMode = osg::Transform3D::QuaternionMode;
+             state.rotationQuaternion = pose.rotation;
+             state.rotationOrientation = osg::Quaternion();
+             state.scale = pose.scale;
+         }));
 }
 
 bool TextureTarget::removeImage()
@@ -159,8 +151,7 @@ bool TextureTarget::removeImage()
     return image() != osg::NullFC && editor.setImage(osg::ImagePtr());
 }
 
-template <class Edit>
-bool TextureTarget::editProjection(Edit edit)
+bool TextureTarget::editProjection(const EditState& edit)
 {
     const osg::Transform3DPtr edited = projection();
     if (edited == osg::NullFC) {
@@ -169,20 +160,6 @@ bool TextureTarget::editProjection(Edit edit)
     nbTransformState state = nbTransformState::of(*edited);
     edit(state);
     return editor.setProjection(state);
-}
-
-bool TextureTarget::setTranslation(const osg::Vec3f& translation)
-{
-    return editProjection(
-        [&translation](nbTransformState& state) { state.translation = translation; });
-}
-
-bool TextureTarget::setRotation(const osg::Vec3f& anglesDeg)
-{
-    return editProjection([&anglesDeg](nbTransformState& state) {
-        state.rotationMode = osg::Transform3D::EulerMode;
-        state.eulerRotation = anglesDeg;
-    });
 }
 
 bool TextureTarget::setScale(const osg::Vec3f& scale)

@@ -8,6 +8,7 @@
 #include <OpenSG/OSGConfig.h>
 #include <OpenSG/OSGNode.h>
 
+#include <functional>
 #include <string>
 
 namespace viewer {
@@ -61,9 +62,9 @@ public:
     bool setImage(const osg::ImagePtr& image, const ProjectionPose& pose);
     bool removeImage();
 
-    bool setTranslation(const osg::Vec3f& translation);
-    /// @param anglesDeg  about x, y, z, degrees
-    bool setRotation(const osg::Vec3f& anglesDeg);
+    using EditState = std::function<void(nbTransformState&)>;
+    /// Edits what the picture is laid on by. @return false without a projection
+    bool editProjection(const EditState& edit);
     /// Keeps the ratio of x to y if the projection is to keep it.
     bool setScale(const osg::Vec3f& scale);
     bool setFlag(Flag flag, bool on);
@@ -84,11 +85,6 @@ private:
 
         bool operator==(const Connection& other) const;
     };
-
-    bool setFirstFlags();
-    bool setPose(const ProjectionPose& pose);
-    template <class Edit>
-    bool editProjection(Edit edit);
 
     nbMaterialEditor editor;
     nbStateChunkBase& observer;

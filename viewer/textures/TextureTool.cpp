@@ -81,14 +81,13 @@ TextureTool::TextureTool(Stage& targetStage)
 
 TextureTool::~TextureTool()
 {
-    stage.commands().remove(QStringLiteral("texture."));
+    stage.commands().remove("texture.");
     stage.removeTool(*this);
     handleContext.setManipulator(nullptr);
     handleContext.setPicker(nullptr);
     placingContext.setPicker(nullptr);
     const osg::NodePtr root = visualization.getRootNode();
-    const osg::NodePtr parent = root->getParent();
-    if (parent != osg::NullFC) {
+    if (const osg::NodePtr parent = root->getParent(); parent != osg::NullFC) {
         const nbEdit edit(parent, osg::Node::ChildrenFieldMask);
         parent->subChild(root);
     }
@@ -171,9 +170,9 @@ bool TextureTool::takePicture(const QString& file, const osg::Pnt2f& px, QString
     if (objectOf(scenePicker.pickAt(px)) == osg::NullFC) {
         return false;
     }
-    const QJsonArray place { static_cast<double>(px[0]), static_cast<double>(px[1]) };
-    return stage.commands().run(QStringLiteral("texture.drop"),
-                                QJsonObject { { "file", file }, { "at", place } }, error);
+    const QJsonArray place { px[0], px[1] };
+    return stage.commands().run("texture.drop", QJsonObject { { "file", file }, { "at", place } },
+                                error);
 }
 
 // == Connection with gizmo, editor and placing tool
