@@ -15,38 +15,18 @@
 namespace viewer {
 namespace {
 
-constexpr int kCornerCount = 8;
-
-QString named(const char* name)
-{
-    return QStringLiteral("match.") + QLatin1String(name);
-}
-
-template <std::size_t size>
-QStringList listOf(const std::array<const char*, size>& words)
-{
-    QStringList list;
-    for (const char* word : words) {
-        list.append(QLatin1String(word));
-    }
-    return list;
-}
-
-QJsonArray endsOf(const QLineF& line)
-{
-    return { line.x1(), line.y1(), line.x2(), line.y2() };
-}
+constexpr unsigned kCornerCount = 8;
 
 bool readLine(const QJsonValue& value, int& line, QLineF& ends, QString& error)
 {
-    line = PerspectiveMatchTool::lineByName(value[QStringLiteral("line")].toString());
-    const QJsonArray numbers = value[QStringLiteral("ends")].toArray();
+    line = PerspectiveMatchTool::lineByName(value["line"].toString());
+    const QJsonArray numbers = value["ends"].toArray();
     bool areNumbers = numbers.size() == 4;
     for (const QJsonValue& number : numbers) {
         areNumbers = areNumbers && number.isDouble();
     }
     if (line < 0 || !areNumbers) {
-        error = QStringLiteral("expected \"line\", one of x1 to z2, and \"ends\", four numbers");
+        error = "expected \"line\", one of x1 to z2, and \"ends\", four numbers";
         return false;
     }
     ends = QLineF(numbers[0].toDouble(), numbers[1].toDouble(), numbers[2].toDouble(),
@@ -61,21 +41,19 @@ QJsonArray cornersOf(Stage& stage)
     if (stage.selectedObject() == osg::NullFC || bounds.isEmpty()) {
         return corners;
     }
-    for (int corner = 0; corner < kCornerCount; ++corner) {
-        const osg::Pnt3f point(((corner & 4) != 0 ? bounds.getMax() : bounds.getMin())[0],
-                               ((corner & 2) != 0 ? bounds.getMax() : bounds.getMin())[1],
-                               ((corner & 1) != 0 ? bounds.getMax() : bounds.getMin())[2]);
+    const osg::Pnt3f ends[] = { bounds.getMin(), bounds.getMax() };
+    for (unsigned corner = 0; corner < kCornerCount; ++corner) {
+        const osg::Pnt3f point(ends[corner >> 2U & 1U][0], ends[corner >> 1U & 1U][1],
+                               ends[corner & 1U][2]);
         osg::Pnt2f px;
         if (!nbCameraNavigation::project(stage.pose(), point, stage.view().getWidth(),
                                          stage.view().getHeight(), px)) {
             return {};
         }
-        corners.append(QJsonArray { static_cast<double>(px[0]), static_cast<double>(px[1]) });
+        corners.append(QJsonArray { px[0], px[1] });
     }
     return corners;
 }
-
-constexpr std::array<const char*, 3> kAxisNames { "x", "y", "z" };
 
 bool isAmount(double value)
 {
@@ -85,20 +63,20 @@ bool isAmount(double value)
 
 void addModes(Commands& commands, PerspectiveMatchTool& tool, Stage& stage)
 {
-    commands.add(named("setPhotograph"), [&tool, &stage](const QJsonValue& value, QString& error) {
+    commands.add("match.setPhotograph", [&tool, &stage](const QJsonValue& value, QString& error) {
         if (!value.isString()) {
-            error = QStringLiteral("expected the name of a picture file, or \"\"");
+            error = "expected the name of a picture file, or \"\"";
             return false;
         }
         const QString file = value.toString();
         return tool.setPhotograph(file.isEmpty() ? file : stage.commands().filePath(file), error);
     });
-    commands.addNumber(named("setVeil"), 0.0, 1.0, [&tool](double opacity, QString&) {
+    commands.addNumber("match.setVeil", 0.0, 1.0, [&tool](double opacity, QString&) {
         tool.setVeil(opacity);
         return true;
     });
     commands.addSwitch(
-        named("setActive"),
+        "match.setActive",
         [&tool, &stage](bool on, QString& error) {
             if (on && stage.pose().orthographic) {
                 error = Text::tr("an orthographic view cannot be matched: switch to perspective");
@@ -108,40 +86,41 @@ void addModes(Commands& commands, PerspectiveMatchTool& tool, Stage& stage)
             return true;
         },
         [&tool] { return tool.isActive(); });
-    commands.addSwitch(named("showLines"), [&tool](bool on, QString&) {
-        tool.showLines(on);
-        return true;
-    });
-    commands.addSwitch(named("setEdgeSnapping"), [&tool](bool on, QString&) {
-        tool.setSnapsToEdges(on);
-        return true;
-    });
-    commands.addSwitch(named("setLocked"), [&tool](bool on, QString&) {
-        tool.camera().setLocked(on);
-        return true;
-    });
+    const std::pair<const char*, void (*)(PerspectiveMatchTool&, bool)> switches[] = {
+        { "match.showLines", [](PerspectiveMatchTool& t, bool on) { t.showLines(on); } },
+        { "match.setEdgeSnapping",
+          [](PerspectiveMatchTool& t, bool on) { t.setSnapsToEdges(on); } },
+        { "match.setLocked", [](PerspectiveMatchTool& t, bool on) { t.camera().setLocked(on); } },
+    };
+    for (const auto& [name, set] : switches) {
+        commands.addSwitch(name, [&tool, write = set](bool on, QString&) {
+            write(tool, on);
+            return true;
+        });
+    }
 }
 
 void addEdits(Commands& commands, PerspectiveMatchTool& tool)
 {
     commands.addChoice(
-        named("setLinesType"), listOf(kLinesTypeNames), [&tool](int choice, QString& error) {
+        "match.setLinesType", QStringList(kLinesTypeNames.begin(), kLinesTypeNames.end()),
+        [&tool](int choice, QString& error) {
             const auto type = static_cast<nbCameraTypes::VanishingLinesType>(choice);
             return tool.edit([type](const auto& match) { match.setVanishingLinesType(type); },
                              error);
         });
     commands.addChoice(
-        named("setFovMode"), listOf(kFovModeNames), [&tool](int choice, QString& error) {
+        "match.setFovMode", QStringList(kFovModeNames.begin(), kFovModeNames.end()),
+        [&tool](int choice, QString& error) {
             const auto mode = static_cast<nbCameraTypes::FovMode>(choice);
             return tool.edit([mode, &tool](const auto&) { tool.camera().setFovMode(mode); }, error);
         });
-    commands.addNumber(named("setMagnifyFactor"),
-                       static_cast<double>(nbdPerspectiveMatch::kSmallestMagnifyFactor),
-                       static_cast<double>(nbdPerspectiveMatch::kLargestMagnifyFactor),
+    commands.addNumber("match.setMagnifyFactor", nbdPerspectiveMatch::kSmallestMagnifyFactor,
+                       nbdPerspectiveMatch::kLargestMagnifyFactor,
                        [&tool](double factor, QString& error) {
                            return tool.setMagnifyFactor(static_cast<float>(factor), error);
                        });
-    commands.add(named("setLine"), [&tool](const QJsonValue& value, QString& error) {
+    commands.add("match.setLine", [&tool](const QJsonValue& value, QString& error) {
         int line = 0;
         QLineF ends;
         return readLine(value, line, ends, error) &&
@@ -151,29 +130,29 @@ void addEdits(Commands& commands, PerspectiveMatchTool& tool)
                 },
                 error);
     });
-    commands.addChoice(named("turn"), listOf(kAxisNames),
+    commands.addChoice("match.turn", { "x", "y", "z" },
                        [&tool](int axis, QString& error) { return tool.turn(axis, error); });
-    commands.add(named("placeByLine"), [&tool](const QJsonValue& value, QString& error) {
+    commands.add("match.placeByLine", [&tool](const QJsonValue& value, QString& error) {
         const int line = PerspectiveMatchTool::lineByName(value["line"].toString());
         const double length = value["length"].toDouble();
         if (line < 0 || !isAmount(length)) {
-            error = QStringLiteral("expected a line from x1 to z2 and a length above 0");
+            error = "expected a line from x1 to z2 and a length above 0";
             return false;
         }
         return tool.placeByLine(line, length, error);
     });
-    commands.add(named("setLens"), [&tool](const QJsonValue& value, QString& error) {
+    commands.add("match.setLens", [&tool](const QJsonValue& value, QString& error) {
         const double focalLength = value["focalLength"].toDouble();
         const double sensorWidth = value["sensorWidth"].toDouble();
         if (!isAmount(focalLength) || !isAmount(sensorWidth)) {
-            error = QStringLiteral("expected focalLength and sensorWidth above 0");
+            error = "expected focalLength and sensorWidth above 0";
             return false;
         }
         return tool.setLens(focalLength, sensorWidth, error);
     });
-    commands.add(named("layLines"),
+    commands.add("match.layLines",
                  [&tool](const QJsonValue&, QString& error) { return tool.layLines(error); });
-    commands.add(named("solve"), [&tool](const QJsonValue&, QString& error) {
+    commands.add("match.solve", [&tool](const QJsonValue&, QString& error) {
         return tool.edit([](const auto&) {}, error);
     });
 }
@@ -181,38 +160,38 @@ void addEdits(Commands& commands, PerspectiveMatchTool& tool)
 void addValues(Commands& commands, PerspectiveMatchTool& tool, Stage& stage)
 {
     const auto match = [&tool] { return tool.camera().getPerspectiveMatch(); };
-    commands.addValue(named("photograph"), [&tool] { return tool.photograph(); });
-    commands.addValue(named("veil"), [&tool] { return tool.veil(); });
-    commands.addValue(named("active"), [&tool] { return tool.isActive(); });
-    commands.addValue(named("linesShown"), [&tool] { return tool.areLinesShown(); });
-    commands.addValue(named("locked"), [&tool] { return tool.camera().isLocked(); });
-    commands.addValue(named("linesType"), [match] {
+    commands.addValue("match.photograph", [&tool] { return tool.photograph(); });
+    commands.addValue("match.veil", [&tool] { return tool.veil(); });
+    commands.addValue("match.active", [&tool] { return tool.isActive(); });
+    commands.addValue("match.linesShown", [&tool] { return tool.areLinesShown(); });
+    commands.addValue("match.locked", [&tool] { return tool.camera().isLocked(); });
+    commands.addValue("match.linesType", [match] {
         return QJsonValue(kLinesTypeNames[match().getVanishingLinesType()]);
     });
-    commands.addValue(named("fovMode"),
+    commands.addValue("match.fovMode",
                       [&tool] { return QJsonValue(kFovModeNames[tool.camera().getFovMode()]); });
-    commands.addValue(named("magnifyFactor"),
-                      [match] { return static_cast<double>(match().getMagnifyFactor()); });
-    commands.addValue(named("lines"), [match] {
+    commands.addValue("match.magnifyFactor", [match] { return match().getMagnifyFactor(); });
+    commands.addValue("match.lines", [match] {
         QJsonObject lines;
         for (int line = 0; line < PerspectiveMatchTool::kLineCount; ++line) {
-            lines[QLatin1String(PerspectiveMatchTool::lineName(line))] =
-                endsOf(match().getLine(static_cast<nbdPerspectiveMatch::Line>(line)));
+            const QLineF at = match().getLine(static_cast<nbdPerspectiveMatch::Line>(line));
+            lines[PerspectiveMatchTool::lineName(line)] =
+                QJsonArray { at.x1(), at.y1(), at.x2(), at.y2() };
         }
         return lines;
     });
-    commands.addValue(named("result"), [&tool] { return tool.resultText(); });
-    commands.addValue(named("quality"), [&tool] { return tool.qualityText(); });
-    commands.addValue(named("residuals"), [&tool] {
+    commands.addValue("match.result", [&tool] { return tool.resultText(); });
+    commands.addValue("match.quality", [&tool] { return tool.qualityText(); });
+    commands.addValue("match.residuals", [&tool] {
         QJsonArray residuals;
         for (const double residual : tool.residualsPx()) {
             residuals.append(residual);
         }
         return residuals;
     });
-    commands.addValue(named("edgeSnapping"), [&tool] { return tool.snapsToEdges(); });
-    commands.addValue(named("fov"), [&stage] { return static_cast<double>(stage.pose().fovDeg); });
-    commands.addValue(named("corners"), [&stage] { return cornersOf(stage); });
+    commands.addValue("match.edgeSnapping", [&tool] { return tool.snapsToEdges(); });
+    commands.addValue("match.fov", [&stage] { return stage.pose().fovDeg; });
+    commands.addValue("match.corners", [&stage] { return cornersOf(stage); });
 }
 
 }  // namespace

@@ -22,7 +22,6 @@
 #include <QJsonObject>
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 namespace viewer {
@@ -77,6 +76,12 @@ nbdPerspectiveMatch::Line lineOf(int index)
     return static_cast<nbdPerspectiveMatch::Line>(index);
 }
 
+/// Such as "X1".
+QString lineTitle(int line)
+{
+    return QString(PerspectiveMatchTool::lineName(line)).toUpper();
+}
+
 }  // namespace
 
 PerspectiveMatchTool::PerspectiveMatchTool(Stage& targetStage)
@@ -101,7 +106,7 @@ PerspectiveMatchTool::PerspectiveMatchTool(Stage& targetStage)
 PerspectiveMatchTool::~PerspectiveMatchTool()
 {
     stage.removeTool(*this);
-    stage.commands().remove(QStringLiteral("match."));
+    stage.commands().remove("match.");
     context.setManipulator(nullptr);
     context.setPicker(nullptr);
 }
@@ -116,15 +121,13 @@ nbdCameraNode PerspectiveMatchTool::camera() const
 
 bool PerspectiveMatchTool::setPhotograph(const QString& file, QString& error)
 {
-    osg::RefPtr<osg::ImagePtr> image;
-    if (!file.isEmpty()) {
-        image = readPicture(file, error);
-        if (image == osg::NullFC) {
-            return false;
-        }
+    const osg::RefPtr<osg::ImagePtr> image =
+        file.isEmpty() ? osg::RefPtr<osg::ImagePtr>() : readPicture(file, error);
+    const bool isShown = file.isEmpty() || image != osg::NullFC;
+    if (isShown) {
+        setPhotograph(image.get());
     }
-    setPhotograph(image.get());
-    return true;
+    return isShown;
 }
 
 void PerspectiveMatchTool::setPhotograph(const osg::ImagePtr& image)
@@ -178,47 +181,43 @@ void PerspectiveMatchTool::showLines(bool on)
     stage.view().update();
 }
 
-bool PerspectiveMatchTool::isRefused(QString& error) const
+bool PerspectiveMatchTool::asStep(const QString& title, QString& error,
+                                  const std::function<bool()>& change)
 {
     if (camera().isLocked()) {
         error = Text::tr("the camera is locked");
-        return true;
+        return false;
     }
-    return false;
+    const nbScopedMultiCommand step(title);
+    return change();
 }
 
 bool PerspectiveMatchTool::layLines(QString& error)
 {
-    if (isRefused(error)) {
-        return false;
-    }
-    const nbScopedMultiCommand step(Text::tr("Lay lines as seen"));
-    camera().layLinesAsSeen();
-    linesLaid = true;
-    return true;
+    return asStep(Text::tr("Lay lines as seen"), error, [this] {
+        camera().layLinesAsSeen();
+        linesLaid = true;
+        return true;
+    });
 }
 
 bool PerspectiveMatchTool::edit(const std::function<void(const nbdPerspectiveMatch&)>& change,
                                 QString& error)
 {
-    if (isRefused(error)) {
-        return false;
-    }
-    const nbScopedMultiCommand step(Text::tr("Change perspective match"));
-    change(camera().getPerspectiveMatch());
-    camera().updateFromPerspectiveMatch();
-    linesLaid = true;
-    return true;
+    return asStep(Text::tr("Change perspective match"), error, [&] {
+        change(camera().getPerspectiveMatch());
+        camera().updateFromPerspectiveMatch();
+        linesLaid = true;
+        return true;
+    });
 }
 
 bool PerspectiveMatchTool::setMagnifyFactor(float factor, QString& error)
 {
-    if (isRefused(error)) {
-        return false;
-    }
-    const nbScopedMultiCommand step(Text::tr("Change magnifier"));
-    camera().getPerspectiveMatch().setMagnifyFactor(factor);
-    return true;
+    return asStep(Text::tr("Change magnifier"), error, [&] {
+        camera().getPerspectiveMatch().setMagnifyFactor(factor);
+        return true;
+    });
 }
 
 const char* PerspectiveMatchTool::lineName(int line)
@@ -228,12 +227,8 @@ const char* PerspectiveMatchTool::lineName(int line)
 
 int PerspectiveMatchTool::lineByName(const QString& word)
 {
-    for (int line = 0; line < kLineCount; ++line) {
-        if (word == QLatin1String(lineName(line))) {
-            return line;
-        }
-    }
-    return -1;
+    const auto found = std::find(kLineNames.begin(), kLineNames.end(), word);
+    return found == kLineNames.end() ? -1 : static_cast<int>(found - kLineNames.begin());
 }
 
 QString PerspectiveMatchTool::resultText() const
@@ -297,9 +292,9 @@ QString PerspectiveMatchTool::qualityText() const
         parts.append(Text::tr("Orientation ±%1°.").arg(number(told.rotationDeg)));
     }
     if (*worst >= 1.0) {
-        const int line = static_cast<int>(worst - residuals.begin());
-        parts.append(Text::tr("Line %1 is off by %2 pixels.")
-                         .arg(QString(QLatin1String(lineName(line))).toUpper(), number(*worst)));
+        parts.append(
+            Text::tr("Line %1 is off by %2 pixels.")
+                .arg(lineTitle(static_cast<int>(worst - residuals.begin())), number(*worst)));
     }
     const QString axis =
         told.doubtfulAxis < 0 ? QString() : QString(QChar('X' + told.doubtfulAxis));
@@ -323,49 +318,44 @@ QString PerspectiveMatchTool::qualityText() const
     case PerspectiveDoubt::NoDoubt:
         break;
     }
-    return parts.join(QLatin1Char(' '));
+    return parts.join(' ');
 }
 
 bool PerspectiveMatchTool::turn(int axis, QString& error)
 {
-    if (isRefused(error)) {
-        return false;
-    }
-    const nbScopedMultiCommand step(Text::tr("Turn axes about %1").arg(QChar('X' + axis)));
-    camera().turnMatch(axis);
-    camera().updateFromPerspectiveMatch();
-    return true;
+    return asStep(Text::tr("Turn axes about %1").arg(QChar('X' + axis)), error, [&] {
+        camera().turnMatch(axis);
+        camera().updateFromPerspectiveMatch();
+        return true;
+    });
 }
 
 bool PerspectiveMatchTool::placeByLine(int line, double length, QString& error)
 {
-    if (isRefused(error)) {
-        return false;
-    }
-    const nbScopedMultiCommand step(Text::tr("Place camera"));
-    if (!camera().placeByLine(lineOf(line), length)) {
-        error = Text::tr("line %1 tells no place: it must run along its axis and not be a point")
-                    .arg(QString(QLatin1String(lineName(line))).toUpper());
-        return false;
-    }
-    return true;
+    return asStep(Text::tr("Place camera"), error, [&] {
+        const bool isPlaced = camera().placeByLine(lineOf(line), length);
+        if (!isPlaced) {
+            error =
+                Text::tr("line %1 tells no place: it must run along its axis and not be a point")
+                    .arg(lineTitle(line));
+        }
+        return isPlaced;
+    });
 }
 
 bool PerspectiveMatchTool::setLens(double focalLength, double sensorWidth, QString& error)
 {
-    if (isRefused(error)) {
-        return false;
-    }
+    constexpr double kDegPerRad = 180.0 / 3.14159265358979323846;
     const osg::ImagePtr image = stage.view().getUberViewport()->getPhotograph();
     const nbOSGWidget& view = stage.view();
     const double widthPx = image != osg::NullFC ? fitOf(view, image).width : view.getWidth();
     const double focalPx = focalLength / sensorWidth * widthPx;
-    constexpr double kDegPerRad = 180.0 / 3.14159265358979323846;
-    const nbScopedMultiCommand step(Text::tr("Set lens"));
-    camera().setFovMode(nbCameraTypes::FixedFov);
-    camera().setFov(2.0 * std::atan(0.5 * view.getHeight() / focalPx) * kDegPerRad);
-    camera().updateFromPerspectiveMatch();
-    return true;
+    return asStep(Text::tr("Set lens"), error, [&] {
+        camera().setFovMode(nbCameraTypes::FixedFov);
+        camera().setFov(2.0 * std::atan(0.5 * view.getHeight() / focalPx) * kDegPerRad);
+        camera().updateFromPerspectiveMatch();
+        return true;
+    });
 }
 
 osg::Line2D PerspectiveMatchTool::onEdge(const osg::Line2D& line, osg::UInt32 part) const
@@ -390,17 +380,13 @@ bool PerspectiveMatchTool::nudge(const QPoint& way, bool coarse)
         return false;
     }
     const QPointF step = QPointF(way) * ((coarse ? 10.0 : 1.0) * kFinePx / referencePx());
-    QLineF line = camera().getPerspectiveMatch().getLine(lineOf(name.line));
-    if (name.part != kSecondEnd) {
-        line.setP1(line.p1() + step);
-    }
-    if (name.part != kFirstEnd) {
-        line.setP2(line.p2() + step);
-    }
+    const QLineF former = camera().getPerspectiveMatch().getLine(lineOf(name.line));
+    const QLineF line(name.part != kSecondEnd ? former.p1() + step : former.p1(),
+                      name.part != kFirstEnd ? former.p2() + step : former.p2());
     // As a command, so that it becomes part of a recording.
     QString error;
     return stage.commands().run(
-        QStringLiteral("match.setLine"),
+        "match.setLine",
         QJsonObject { { "line", lineName(name.line) },
                       { "ends", QJsonArray { line.x1(), line.y1(), line.x2(), line.y2() } } },
         error);
@@ -526,7 +512,7 @@ std::vector<StageTool::Label> PerspectiveMatchTool::labels() const
     const auto residuals = residualsPx();
     for (int line = 0; line < kLineCount; ++line) {
         const double residual = residuals[static_cast<std::size_t>(line)];
-        const QString name = QString(QLatin1String(lineName(line))).toUpper();
+        const QString name = lineTitle(line);
         all.push_back({ placeOf(line, kBody),
                         residual < 1.0 ? name
                                        : Text::tr("%1: %2 px", "line, how far it is off")
@@ -538,8 +524,7 @@ std::vector<StageTool::Label> PerspectiveMatchTool::labels() const
 QString PerspectiveMatchTool::handleText(const std::string& handle) const
 {
     const HandleName name = read(handle);
-    const QString line =
-        name.line < 0 ? QString() : QString(QLatin1String(lineName(name.line))).toUpper();
+    const QString line = name.line < 0 ? QString() : lineTitle(name.line);
     return name.part == kBody ? Text::tr("Line %1").arg(line)
                               : Text::tr("End of line %1").arg(line);
 }
@@ -553,7 +538,7 @@ bool PerspectiveMatchTool::takePicture(const QString& file, const osg::Pnt2f& /*
                                        QString& error)
 {
     // As a command, so that it becomes part of a recording.
-    return active && stage.commands().run(QStringLiteral("match.setPhotograph"), file, error);
+    return active && stage.commands().run("match.setPhotograph", file, error);
 }
 
 }  // namespace viewer

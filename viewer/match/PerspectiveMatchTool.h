@@ -139,7 +139,9 @@ private:
     void takePointer();
     void leavePointer();
     void applyVeil();
-    bool isRefused(QString& error) const;
+    /// Edits the camera or its match as one step. @return false, with one line in `error` if the
+    /// camera is locked, or what the edit answered
+    bool asStep(const QString& title, QString& error, const std::function<bool()>& change);
     osg::Line2D onEdge(const osg::Line2D& line, osg::UInt32 part) const;
     /// Device pixels of a unit of line coordinates.
     double referencePx() const;
