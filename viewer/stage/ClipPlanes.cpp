@@ -192,7 +192,7 @@ bool isClipPlaneOrFrame(const osg::NodePtr& node)
 void addClipPlaneCommands(Stage& stage)
 {
     Commands& commands = stage.commands();
-    commands.add(QStringLiteral("scene.addClipPlane"), [&stage](const QJsonValue&, QString& error) {
+    commands.add("scene.addClipPlane", [&stage](const QJsonValue&, QString& error) {
         const osg::NodePtr frame = addClipPlane(stage.pose().from - stage.pose().at);
         if (frame == osg::NullFC) {
             error = Text::tr("there is nothing to be cut");
@@ -202,18 +202,17 @@ void addClipPlaneCommands(Stage& stage)
         stage.showGizmo(Gizmo::Clipping);
         return true;
     });
-    commands.add(QStringLiteral("scene.removeClipPlane"),
-                 [&stage](const QJsonValue&, QString& error) {
-                     const osg::NodePtr frame = stage.selectedObject();
-                     stage.select(osg::NullFC);
-                     if (!removeClipPlane(frame)) {
-                         stage.select(frame);
-                         error = Text::tr("select a clip plane first");
-                         return false;
-                     }
-                     stage.showGizmo(Gizmo::Universal);
-                     return true;
-                 });
+    commands.add("scene.removeClipPlane", [&stage](const QJsonValue&, QString& error) {
+        const osg::NodePtr frame = stage.selectedObject();
+        stage.select(osg::NullFC);
+        if (!removeClipPlane(frame)) {
+            stage.select(frame);
+            error = Text::tr("select a clip plane first");
+            return false;
+        }
+        stage.showGizmo(Gizmo::Universal);
+        return true;
+    });
 }
 
 }  // namespace viewer

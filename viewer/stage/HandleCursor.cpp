@@ -16,6 +16,8 @@
 namespace viewer {
 namespace {
 
+using Action = HandleAction;
+
 struct ActionRow
 {
     const char* handle;  ///< with which its name begins
@@ -24,34 +26,34 @@ struct ActionRow
 };
 
 constexpr std::array<ActionRow, 24> kActions { {
-    { "xaShape", HandleAction::MoveAlong, QT_TRANSLATE_NOOP("viewer", "Move along x") },
-    { "yaShape", HandleAction::MoveAlong, QT_TRANSLATE_NOOP("viewer", "Move along y") },
-    { "zaShape", HandleAction::MoveAlong, QT_TRANSLATE_NOOP("viewer", "Move along z") },
-    { "xsShape", HandleAction::ScaleAlong, QT_TRANSLATE_NOOP("viewer", "Scale along x") },
-    { "ysShape", HandleAction::ScaleAlong, QT_TRANSLATE_NOOP("viewer", "Scale along y") },
-    { "zsShape", HandleAction::ScaleAlong, QT_TRANSLATE_NOOP("viewer", "Scale along z") },
-    { "grid", HandleAction::ScaleAll, QT_TRANSLATE_NOOP("viewer", "Scale") },
-    { "rxShape", HandleAction::Turn, QT_TRANSLATE_NOOP("viewer", "Turn about x") },
-    { "ryShape", HandleAction::Turn, QT_TRANSLATE_NOOP("viewer", "Turn about y") },
-    { "rzShape", HandleAction::Turn, QT_TRANSLATE_NOOP("viewer", "Turn about z") },
-    { "xyaShape", HandleAction::MoveInPlane,
+    { "xaShape", Action::MoveAlong, QT_TRANSLATE_NOOP("viewer", "Move along x") },
+    { "yaShape", Action::MoveAlong, QT_TRANSLATE_NOOP("viewer", "Move along y") },
+    { "zaShape", Action::MoveAlong, QT_TRANSLATE_NOOP("viewer", "Move along z") },
+    { "xsShape", Action::ScaleAlong, QT_TRANSLATE_NOOP("viewer", "Scale along x") },
+    { "ysShape", Action::ScaleAlong, QT_TRANSLATE_NOOP("viewer", "Scale along y") },
+    { "zsShape", Action::ScaleAlong, QT_TRANSLATE_NOOP("viewer", "Scale along z") },
+    { "grid", Action::ScaleAll, QT_TRANSLATE_NOOP("viewer", "Scale") },
+    { "rxShape", Action::Turn, QT_TRANSLATE_NOOP("viewer", "Turn about x") },
+    { "ryShape", Action::Turn, QT_TRANSLATE_NOOP("viewer", "Turn about y") },
+    { "rzShape", Action::Turn, QT_TRANSLATE_NOOP("viewer", "Turn about z") },
+    { "xyaShape", Action::MoveInPlane,
       QT_TRANSLATE_NOOP("viewer", "Move in the plane of x and y") },
-    { "xzaShape", HandleAction::MoveInPlane,
+    { "xzaShape", Action::MoveInPlane,
       QT_TRANSLATE_NOOP("viewer", "Move in the plane of x and z") },
-    { "yzaShape", HandleAction::MoveInPlane,
+    { "yzaShape", Action::MoveInPlane,
       QT_TRANSLATE_NOOP("viewer", "Move in the plane of y and z") },
-    { "vaShape", HandleAction::MoveInPlane,
+    { "vaShape", Action::MoveInPlane,
       QT_TRANSLATE_NOOP("viewer", "Move in the plane of the screen") },
-    { "rvShape", HandleAction::Turn, QT_TRANSLATE_NOOP("viewer", "Turn about the view axis") },
-    { "rtShape", HandleAction::Turn, QT_TRANSLATE_NOOP("viewer", "Turn freely") },
-    { "xysShape", HandleAction::ScaleAll, QT_TRANSLATE_NOOP("viewer", "Scale along x and y") },
-    { "xzsShape", HandleAction::ScaleAll, QT_TRANSLATE_NOOP("viewer", "Scale along x and z") },
-    { "yzsShape", HandleAction::ScaleAll, QT_TRANSLATE_NOOP("viewer", "Scale along y and z") },
-    { "rotateShape", HandleAction::Turn, QT_TRANSLATE_NOOP("viewer", "Turn") },
-    { "scaleXY", HandleAction::ScaleAll, QT_TRANSLATE_NOOP("viewer", "Scale from a corner") },
-    { "scaleX", HandleAction::ScaleAll, QT_TRANSLATE_NOOP("viewer", "Scale from an edge") },
-    { "scaleY", HandleAction::ScaleAll, QT_TRANSLATE_NOOP("viewer", "Scale from an edge") },
-    { "scaleZPlaneShape", HandleAction::ScaleAll, QT_TRANSLATE_NOOP("viewer", "Scale the depth") },
+    { "rvShape", Action::Turn, QT_TRANSLATE_NOOP("viewer", "Turn about the view axis") },
+    { "rtShape", Action::Turn, QT_TRANSLATE_NOOP("viewer", "Turn freely") },
+    { "xysShape", Action::ScaleAll, QT_TRANSLATE_NOOP("viewer", "Scale along x and y") },
+    { "xzsShape", Action::ScaleAll, QT_TRANSLATE_NOOP("viewer", "Scale along x and z") },
+    { "yzsShape", Action::ScaleAll, QT_TRANSLATE_NOOP("viewer", "Scale along y and z") },
+    { "rotateShape", Action::Turn, QT_TRANSLATE_NOOP("viewer", "Turn") },
+    { "scaleXY", Action::ScaleAll, QT_TRANSLATE_NOOP("viewer", "Scale from a corner") },
+    { "scaleX", Action::ScaleAll, QT_TRANSLATE_NOOP("viewer", "Scale from an edge") },
+    { "scaleY", Action::ScaleAll, QT_TRANSLATE_NOOP("viewer", "Scale from an edge") },
+    { "scaleZPlaneShape", Action::ScaleAll, QT_TRANSLATE_NOOP("viewer", "Scale the depth") },
 } };
 
 /// Null for an unknown handle.
@@ -105,8 +107,8 @@ bool findAngle(Stage& stage, const std::string& handle, double& angleDeg)
             return false;
         }
     }
-    const double right = static_cast<double>(px[1][0]) - static_cast<double>(px[0][0]);
-    const double up = static_cast<double>(px[0][1]) - static_cast<double>(px[1][1]);
+    const double right = double(px[1][0]) - double(px[0][0]);
+    const double up = double(px[0][1]) - double(px[1][1]);
     angleDeg = std::atan2(up, right) * kDegPerRad;
     angleDeg = angleDeg < 0.0 ? angleDeg + kHalfTurnDeg : angleDeg;
     angleDeg = angleDeg >= kHalfTurnDeg ? 0.0 : angleDeg;
@@ -118,7 +120,7 @@ bool findAngle(Stage& stage, const std::string& handle, double& angleDeg)
 HandleAction actionOfHandle(const std::string& handle)
 {
     const ActionRow* row = rowOf(handle);
-    return row != nullptr ? row->action : HandleAction::None;
+    return row != nullptr ? row->action : Action::None;
 }
 
 QString textOfHandle(const std::string& handle)
@@ -132,12 +134,10 @@ HandleCursor cursorOfHandle(Stage& stage, const std::string& handle)
     HandleCursor cursor;
     const StageTool* tool = stage.activeTool();
     cursor.action = tool != nullptr ? tool->actionOf(handle) : actionOfHandle(handle);
-    const bool isAlong =
-        cursor.action == HandleAction::MoveAlong || cursor.action == HandleAction::ScaleAlong;
+    const bool isAlong = cursor.action == Action::MoveAlong || cursor.action == Action::ScaleAlong;
     if (isAlong && !findAngle(stage, handle, cursor.angleDeg)) {
         cursor.angleDeg = 0.0;
-        cursor.action = cursor.action == HandleAction::MoveAlong ? HandleAction::MoveInPlane
-                                                                 : HandleAction::ScaleAll;
+        cursor.action = cursor.action == Action::MoveAlong ? Action::MoveInPlane : Action::ScaleAll;
     }
     return cursor;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/stage/ObjectCommands.h"
 
+#include "viewer/commands/JsonReader.h"
 #include "viewer/commands/SceneLimits.h"
 #include "viewer/loading/BuiltModel.h"
 #include "viewer/stage/Stage.h"
@@ -24,12 +25,6 @@
 
 namespace viewer {
 namespace {
-
-/// Nearest object above an object; null at the top.
-osg::NodePtr parentObject(const osg::NodePtr& object)
-{
-    return objectOf(object->getParent());
-}
 
 /// A switch of objects: visible, locked.
 struct ObjectSwitch
@@ -116,13 +111,12 @@ bool setVector(Stage& stage, const ObjectVector& row, const QJsonValue& value, Q
         error = Text::tr("nothing is selected");
         return false;
     }
+    JsonReader reader(error);
     if (!readVector(value, vector)) {
-        error = QStringLiteral("%1: expected an array of 3 numbers").arg(QLatin1String(row.name));
-        return false;
+        return reader.fail(row.name, "expected an array of 3 numbers");
     }
     if (row.areFactors && !(isScale(vector[0]) && isScale(vector[1]) && isScale(vector[2]))) {
-        error = QStringLiteral("%1: expected numbers other than 0").arg(QLatin1String(row.name));
-        return false;
+        return reader.fail(row.name, "expected numbers other than 0");
     }
     const osg::UInt32 count =
         row.set(static_cast<osg::UInt32>(objects.size()), [&objects, &vector](osg::UInt32 i) {
@@ -134,36 +128,34 @@ bool setVector(Stage& stage, const ObjectVector& row, const QJsonValue& value, Q
     return count > 0;
 }
 
-bool setSwitch(Stage& stage, const ObjectSwitch& row, const QJsonValue& value, QString& error)
+bool setSwitch(Stage& stage, const ObjectSwitch& row, bool on, QString& error)
 {
     const std::vector<osg::NodePtr> objects = stage.selectedObjects();
-    if (objects.empty() || !value.isBool()) {
-        error = objects.empty()
-            ? Text::tr("nothing is selected")
-            : QStringLiteral("%1: expected true or false").arg(QLatin1String(row.name));
+    if (objects.empty()) {
+        error = Text::tr("nothing is selected");
         return false;
     }
     const nbScopedUndo scope(row.title);
     for (const osg::NodePtr& object : objects) {
         recordValue(object, row.get, row.set);
-        row.set(object, value.toBool());
+        row.set(object, on);
     }
     return true;
 }
 
 bool selectPaths(const QJsonValue& value, QString& error)
 {
+    JsonReader reader(error);
     if (!value.isArray()) {
-        error = QStringLiteral("scene.select: expected an array of paths");
-        return false;
+        return reader.fail("scene.select", "expected an array of paths");
     }
     std::vector<osg::NodePtr> objects;
     const QJsonArray paths = value.toArray();
     for (const QJsonValue& path : paths) {
         objects.push_back(objectAt(path.toString()));
         if (objects.back() == osg::NullFC) {
-            error = QStringLiteral("scene.select: there is no object \"%1\"").arg(path.toString());
-            return false;
+            return reader.fail("scene.select",
+                               QStringLiteral("there is no object \"%1\"").arg(path.toString()));
         }
     }
     nbSelection::set(objects);
@@ -187,7 +179,7 @@ QString pathOf(const osg::NodePtr& object)
     QStringList numbers;
     osg::NodePtr at = object;
     while (at != osg::NullFC) {
-        const osg::NodePtr parent = parentObject(at);
+        const osg::NodePtr parent = objectOf(at->getParent());
         const std::vector<osg::NodePtr> siblings = childObjects(parent);
         const auto place = std::find(siblings.begin(), siblings.end(), at);
         if (place == siblings.end()) {
@@ -196,13 +188,13 @@ QString pathOf(const osg::NodePtr& object)
         numbers.prepend(QString::number(place - siblings.begin()));
         at = parent;
     }
-    return numbers.join(QLatin1Char('/'));
+    return numbers.join('/');
 }
 
 osg::NodePtr objectAt(const QString& path)
 {
     osg::NodePtr at;
-    for (const QString& number : path.split(QLatin1Char('/'))) {
+    for (const QString& number : path.split('/')) {
         const std::vector<osg::NodePtr> children = childObjects(at);
         bool isNumber = false;
         const std::size_t i = number.toUInt(&isNumber);
@@ -217,30 +209,24 @@ osg::NodePtr objectAt(const QString& path)
 void addObjectCommands(Stage& stage)
 {
     Commands& commands = stage.commands();
-    commands.add(QStringLiteral("scene.select"),
-                 [](const QJsonValue& value, QString& error) { return selectPaths(value, error); });
-    commands.addValue(QStringLiteral("object.name"),
-                      ofSelected(stage, [](const osg::NodePtr& node) {
+    commands.add("scene.select", &selectPaths);
+    commands.addValue("object.name", ofSelected(stage, [](const osg::NodePtr& node) {
                           return QString::fromStdString(nbNodeUtils::getName(node));
                       }));
     for (const ObjectVector& row : kVectors) {
-        commands.add(QLatin1String(row.name),
-                     [&stage, &row](const QJsonValue& value, QString& error) {
-                         return setVector(stage, row, value, error);
-                     });
-        commands.addValue(
-            QLatin1String(row.name), ofSelected(stage, [&row](const osg::NodePtr& node) {
-                const osg::Vec3f v = row.get(node);
-                return QJsonArray { static_cast<double>(v[0]), static_cast<double>(v[1]),
-                                    static_cast<double>(v[2]) };
-            }));
+        commands.add(row.name, [&stage, &row](const QJsonValue& value, QString& error) {
+            return setVector(stage, row, value, error);
+        });
+        commands.addValue(row.name, ofSelected(stage, [&row](const osg::NodePtr& node) {
+                              const osg::Vec3f v = row.get(node);
+                              return QJsonArray { v[0], v[1], v[2] };
+                          }));
     }
     for (const ObjectSwitch& row : kSwitches) {
-        commands.add(QLatin1String(row.name),
-                     [&stage, &row](const QJsonValue& value, QString& error) {
-                         return setSwitch(stage, row, value, error);
-                     });
-        commands.addValue(QLatin1String(row.name), ofSelected(stage, row.get));
+        commands.addSwitch(row.name, [&stage, &row](bool on, QString& error) {
+            return setSwitch(stage, row, on, error);
+        });
+        commands.addValue(row.name, ofSelected(stage, row.get));
     }
 }
 

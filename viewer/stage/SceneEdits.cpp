@@ -62,7 +62,7 @@ void recordChildren(const osg::NodePtr& parent)
         std::make_unique<nbChildrenRecord>(std::vector<osg::NodePtr> { parent }));
 }
 
-bool deleteSelected(Stage& stage, QString& error)
+bool deleteSelected(Stage& stage, const QJsonValue& /*value*/, QString& error)
 {
     const std::vector<osg::NodePtr> objects = topmost(stage);
     if (!mayEdit(objects, error)) {
@@ -85,7 +85,7 @@ bool deleteSelected(Stage& stage, QString& error)
 /// Such as "Vase 2": the first number that no object has.
 std::string nameOfCopy(const std::string& original)
 {
-    static const QRegularExpression kNumber(QStringLiteral(" [0-9]+$"));
+    static const QRegularExpression kNumber(" [0-9]+$");
     const std::string stem = QString::fromStdString(original).remove(kNumber).toStdString();
     int number = 2;
     std::string name;
@@ -95,7 +95,7 @@ std::string nameOfCopy(const std::string& original)
     return name;
 }
 
-bool duplicateSelected(Stage& stage, QString& error)
+bool duplicateSelected(Stage& stage, const QJsonValue& /*value*/, QString& error)
 {
     const std::vector<osg::NodePtr> objects = topmost(stage);
     if (objects.empty() || std::any_of(objects.begin(), objects.end(), &isClipPlaneOrFrame)) {
@@ -126,11 +126,13 @@ bool rename(Stage& stage, const QJsonValue& value, QString& error)
                                       : Text::tr("a name has at least one letter");
         return false;
     }
+    const auto set = [](const osg::NodePtr& node, const std::string& to) {
+        nbNodeUtils::setName(node, to);
+    };
     const nbScopedUndo scope(Text::tr("Rename"));
     recordValue(
-        object, [](const osg::NodePtr& node) { return nbNodeUtils::getName(node); },
-        [](const osg::NodePtr& node, const std::string& to) { nbNodeUtils::setName(node, to); });
-    nbNodeUtils::setName(object, name.toStdString());
+        object, [](const osg::NodePtr& node) { return nbNodeUtils::getName(node); }, set);
+    set(object, name.toStdString());
     return true;
 }
 
@@ -138,16 +140,14 @@ bool rename(Stage& stage, const QJsonValue& value, QString& error)
 
 void addSceneEdits(Stage& stage)
 {
-    Commands& commands = stage.commands();
-    commands.add(QStringLiteral("scene.delete"), [&stage](const QJsonValue&, QString& error) {
-        return deleteSelected(stage, error);
-    });
-    commands.add(QStringLiteral("scene.duplicate"), [&stage](const QJsonValue&, QString& error) {
-        return duplicateSelected(stage, error);
-    });
-    commands.add(QStringLiteral("object.name"), [&stage](const QJsonValue& value, QString& error) {
-        return rename(stage, value, error);
-    });
+    const auto add = [&stage](const char* name, auto edit) {
+        stage.commands().add(name, [&stage, edit](const QJsonValue& value, QString& error) {
+            return edit(stage, value, error);
+        });
+    };
+    add("scene.delete", &deleteSelected);
+    add("scene.duplicate", &duplicateSelected);
+    add("object.name", &rename);
 }
 
 }  // namespace viewer

@@ -54,13 +54,13 @@ Stage::Stage(nbOSGWidget& view)
     manager.addContext(&cameraContext);
     selectionCallback = nbSelection::addChangedCallback([this] { selectionChanged(); });
     commandTable.addSwitch(
-        QStringLiteral("view.setHeld"),
+        "view.setHeld",
         [this](bool on, QString&) {
             holdView(on);
             return true;
         },
         [this] { return viewHeld; });
-    commandTable.addValue(QStringLiteral("view.held"), [this] { return viewHeld; });
+    commandTable.addValue("view.held", [this] { return viewHeld; });
     addClipPlaneCommands(*this);
     addObjectCommands(*this);
     addSceneEdits(*this);
@@ -185,7 +185,7 @@ std::string Stage::draggedValues() const
              renderWidget.getWidth(), renderWidget.getHeight())) {
         lines.append(text.text);
     }
-    return lines.join(QStringLiteral("; ")).toStdString();
+    return lines.join("; ").toStdString();
 }
 
 bool Stage::takePicture(const QString& file, const osg::Pnt2f& px, QString& error)

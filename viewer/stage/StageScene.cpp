@@ -10,7 +10,6 @@
 #include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
-#include <OpenSG/OSGChangeCount.h>
 #include <OpenSG/OSGGeometry.h>
 
 #include <algorithm>
