@@ -12,6 +12,9 @@
 #include <OpenSG/OSGTextureChunk.h>
 #include <OpenSG/OSGTransform.h>
 
+#include <tuple>
+#include <type_traits>
+
 namespace viewer {
 namespace {
 
@@ -41,36 +44,23 @@ osg::MaterialPtr makeMaterial(const MaterialData& data)
     return material;
 }
 
-template <class Property, class Value, class Source, class Convert>
-auto makeProperty(const std::vector<Source>& source, Convert convert)
+/// An array of a geometry. @param source  arrays of the parts of its values, or the values
+template <class Property, class Source>
+auto makeProperty(const std::vector<Source>& source)
 {
     const auto property = Property::create();
     const nbEdit edit(property, osg::FieldBits::AllFields);
     auto& field = property->getField();
+    using Value = std::decay_t<decltype(field[0])>;
     field.reserve(source.size());
     for (const Source& value : source) {
-        field.push_back(Value(convert(value)));
+        if constexpr (std::is_integral_v<Source>) {
+            field.push_back(value);
+        } else {
+            field.push_back(std::apply([](auto... part) { return Value(part...); }, value));
+        }
     }
     return property;
-}
-
-void setOptionalProperties(const MeshData& mesh, const osg::GeometryPtr& geometry)
-{
-    const std::size_t count = mesh.positions.size();
-    if (mesh.normals.size() == count) {
-        geometry->setNormals(makeProperty<osg::GeoNormals3f, osg::Vec3f>(
-            mesh.normals, [](const Vec3& n) { return osg::Vec3f(n[0], n[1], n[2]); }));
-    }
-    if (mesh.texCoords.size() == count) {
-        geometry->setTexCoords(makeProperty<osg::GeoTexCoords2f, osg::Vec2f>(
-            mesh.texCoords, [](const std::array<float, 2>& t) { return osg::Vec2f(t[0], t[1]); }));
-    }
-    if (mesh.colors.size() == count) {
-        geometry->setColors(makeProperty<osg::GeoColors4ub, osg::Color4ub>(
-            mesh.colors, [](const std::array<std::uint8_t, 4>& c) {
-                return osg::Color4ub(c[0], c[1], c[2], c[3]);
-            }));
-    }
 }
 
 osg::GeometryPtr makeGeometry(const MeshData& mesh, const osg::MaterialPtr& material)
@@ -83,11 +73,18 @@ osg::GeometryPtr makeGeometry(const MeshData& mesh, const osg::MaterialPtr& mate
     lengths->push_back(static_cast<osg::UInt32>(mesh.triangles.size()));
     geometry->setTypes(types);
     geometry->setLengths(lengths);
-    geometry->setPositions(makeProperty<osg::GeoPositions3f, osg::Pnt3f>(
-        mesh.positions, [](const Vec3& p) { return osg::Pnt3f(p[0], p[1], p[2]); }));
-    setOptionalProperties(mesh, geometry);
-    geometry->setIndices(makeProperty<osg::GeoIndicesUI32, osg::UInt32>(
-        mesh.triangles, [](std::uint32_t index) { return index; }));
+    const std::size_t count = mesh.positions.size();
+    geometry->setPositions(makeProperty<osg::GeoPositions3f>(mesh.positions));
+    if (mesh.normals.size() == count) {
+        geometry->setNormals(makeProperty<osg::GeoNormals3f>(mesh.normals));
+    }
+    if (mesh.texCoords.size() == count) {
+        geometry->setTexCoords(makeProperty<osg::GeoTexCoords2f>(mesh.texCoords));
+    }
+    if (mesh.colors.size() == count) {
+        geometry->setColors(makeProperty<osg::GeoColors4ub>(mesh.colors));
+    }
+    geometry->setIndices(makeProperty<osg::GeoIndicesUI32>(mesh.triangles));
     geometry->setMaterial(material);
     return geometry;
 }

@@ -26,8 +26,8 @@ constexpr int kGoodbyeMs = 1000;
 /// Beside the program, as when both have just been built, or where it is installed to.
 QString readerProgram()
 {
-    const QDir folder = QFileInfo(QFile::symLinkTarget(QStringLiteral("/proc/self/exe"))).dir();
-    const QString beside = folder.filePath(QStringLiteral("nbmodelreader"));
+    const QDir folder = QFileInfo(QFile::symLinkTarget("/proc/self/exe")).dir();
+    const QString beside = folder.filePath("nbmodelreader");
     return QFileInfo::exists(beside)
         ? beside
         : QDir::cleanPath(folder.filePath(QStringLiteral(NB_READER_FROM_PROGRAM)));
@@ -154,7 +154,7 @@ std::optional<ModelData> ModelReader::read(const QString& path, const ReadProgre
     }
     if (!isModelFileName(path)) {
         return fail(Text::tr("cannot be read as a model: %1 is no kind that is known")
-                        .arg(QLatin1Char('.') + QFileInfo(path).suffix()));
+                        .arg('.' + QFileInfo(path).suffix()));
     }
     QString problem;
     if (!start(problem)) {

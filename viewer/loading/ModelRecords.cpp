@@ -55,16 +55,18 @@ bool get(QDataStream& in, std::vector<Value>& values)
     return in.readRawData(reinterpret_cast<char*>(values.data()), static_cast<int>(bytes)) == bytes;
 }
 
-template <class Value>
-void putPlain(QDataStream& out, const Value& value)
+template <class... Values>
+void putPlain(QDataStream& out, const Values&... values)
 {
-    out.writeRawData(reinterpret_cast<const char*>(&value), sizeof(Value));
+    (out.writeRawData(reinterpret_cast<const char*>(&values), sizeof(Values)), ...);
 }
 
-template <class Value>
-bool getPlain(QDataStream& in, Value& value)
+template <class... Values>
+bool getPlain(QDataStream& in, Values&... values)
 {
-    return in.readRawData(reinterpret_cast<char*>(&value), sizeof(Value)) == int(sizeof(Value));
+    return (
+        (in.readRawData(reinterpret_cast<char*>(&values), sizeof(Values)) == int(sizeof(Values))) &&
+        ...);
 }
 
 /// Whether a record held what it should and nothing else.
@@ -76,8 +78,7 @@ bool isOver(QDataStream& in)
 template <class Numbers>
 bool areSceneNumbers(const Numbers& numbers)
 {
-    return std::all_of(numbers.begin(), numbers.end(),
-                       [](float number) { return isSceneNumber(number); });
+    return std::all_of(numbers.begin(), numbers.end(), isSceneNumber<float>);
 }
 
 template <class Value>
@@ -102,11 +103,8 @@ QByteArray materialRecord(const MaterialData& material)
 {
     return record(ModelRecord::Material, [&material](QDataStream& out) {
         out << material.name;
-        putPlain(out, material.diffuse);
-        putPlain(out, material.specular);
-        putPlain(out, material.emission);
-        putPlain(out, material.shininess);
-        putPlain(out, material.opacity);
+        putPlain(out, material.diffuse, material.specular, material.emission, material.shininess,
+                 material.opacity);
         const bool hasAlpha = material.texture.hasAlphaChannel();
         const QImage picture = material.texture.convertToFormat(formatOf(hasAlpha));
         out << hasAlpha << qint32(picture.width()) << qint32(picture.height());
@@ -138,12 +136,12 @@ bool readTexture(QDataStream& in, QImage& texture)
 bool readMaterial(QDataStream& in, MaterialData& material)
 {
     in >> material.name;
-    return getPlain(in, material.diffuse) && getPlain(in, material.specular) &&
-        getPlain(in, material.emission) && getPlain(in, material.shininess) &&
-        getPlain(in, material.opacity) && isColor(material.diffuse) && isColor(material.specular) &&
-        isColor(material.emission) && material.shininess >= 1.0F &&
-        material.shininess <= kMostShininess && material.opacity >= 0.0F &&
-        material.opacity <= 1.0F && readTexture(in, material.texture) && isOver(in);
+    return getPlain(in, material.diffuse, material.specular, material.emission, material.shininess,
+                    material.opacity) &&
+        isColor(material.diffuse) && isColor(material.specular) && isColor(material.emission) &&
+        material.shininess >= 1.0F && material.shininess <= kMostShininess &&
+        material.opacity >= 0.0F && material.opacity <= 1.0F && readTexture(in, material.texture) &&
+        isOver(in);
 }
 
 QByteArray meshRecord(const MeshData& mesh)
@@ -210,12 +208,10 @@ bool readNode(QDataStream& in, std::size_t meshes, std::vector<ReadNode>& nodes)
         return false;
     }
     read.node.meshes.assign(shown.begin(), shown.end());
-    if (!nodes.empty()) {
-        if (read.parent >= nodes.size()) {
-            return false;
-        }
-        read.depth = nodes[read.parent].depth + 1;
+    if (!nodes.empty() && read.parent >= nodes.size()) {
+        return false;
     }
+    read.depth = nodes.empty() ? 0 : nodes[read.parent].depth + 1;
     nodes.push_back(std::move(read));
     return nodes.back().depth <= kDeepestNode;
 }

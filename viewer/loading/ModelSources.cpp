@@ -29,7 +29,7 @@ void ModelSources::addPlaces(const osg::NodePtr& object, const Place& place)
     setPlace(object, place);
     int number = 0;
     for (const osg::NodePtr& child : childObjects(object)) {
-        const QString above = place.path.isEmpty() ? QString() : place.path + QLatin1Char('/');
+        const QString above = place.path.isEmpty() ? QString() : place.path + '/';
         addPlaces(child, { place.root, above + QString::number(number++) });
     }
 }
@@ -49,11 +49,11 @@ void ModelSources::addCopy(const osg::NodePtr& original, const osg::NodePtr& cop
     }
     QString own = path;
     if (own.isEmpty()) {
-        const int last = found->second.path.lastIndexOf(QLatin1Char('/')) + 1;
-        const int mark = found->second.path.indexOf(QLatin1Char('+'), last);
-        own = found->second.path.left(mark) + QLatin1Char('+') + QString::number(lastCopy + 1);
+        const int last = found->second.path.lastIndexOf('/') + 1;
+        const int mark = found->second.path.indexOf('+', last);
+        own = found->second.path.left(mark) + '+' + QString::number(lastCopy + 1);
     }
-    lastCopy = qMax(lastCopy, own.section(QLatin1Char('+'), -1).toUInt());
+    lastCopy = qMax(lastCopy, own.section('+', -1).toUInt());
     copyPlaces(original, copy, found->second.path, { found->second.root, own });
 }
 
@@ -78,7 +78,7 @@ QString ModelSources::pathOf(const osg::NodePtr& object) const
     }
     const osg::NodePtr above = nbNodeUtils::resolveToTransformNode(object->getParent());
     const QString path = above == osg::NullFC ? QString() : pathOf(above);
-    return path.isEmpty() ? QString(kBetween) : path + QLatin1Char('/') + kBetween;
+    return path.isEmpty() ? QString(kBetween) : path + '/' + kBetween;
 }
 
 osg::NodePtr ModelSources::objectBelow(const osg::NodePtr& object, const QString& path) const
@@ -88,7 +88,7 @@ osg::NodePtr ModelSources::objectBelow(const osg::NodePtr& object, const QString
         if (own == path) {
             return child;
         }
-        if (own.endsWith(kBetween) || path.startsWith(own + QLatin1Char('/'))) {
+        if (own.endsWith(kBetween) || path.startsWith(own + '/')) {
             if (const osg::NodePtr found = objectBelow(child, path); found != osg::NullFC) {
                 return found;
             }

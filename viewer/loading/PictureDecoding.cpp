@@ -87,7 +87,7 @@ QString pictureFileFilter()
             patterns.append(QStringLiteral("*.") + QString::fromLatin1(format));
         }
     }
-    return Text::tr("Pictures (%1)").arg(patterns.join(QLatin1Char(' ')));
+    return Text::tr("Pictures (%1)").arg(patterns.join(' '));
 }
 
 }  // namespace viewer

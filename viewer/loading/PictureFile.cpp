@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kLargestSide = 8192;
 /// Begins the name of an image that comes from no file.
-const QString kSourcePrefix = QStringLiteral("source:");
+const QString kSourcePrefix = "source:";
 
 QString nameOf(const osg::ImagePtr& image)
 {

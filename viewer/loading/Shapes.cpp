@@ -49,15 +49,10 @@ Vec3 cross(const Vec3& a, const Vec3& b)
     return { a[1] * b[2] - a[2] * b[1], a[2] * b[0] - a[0] * b[2], a[0] * b[1] - a[1] * b[0] };
 }
 
-float length(const Vec3& a)
-{
-    return std::sqrt(a[0] * a[0] + a[1] * a[1] + a[2] * a[2]);
-}
-
 /// Unit vector; a vector without length comes back as it is.
 Vec3 unit(const Vec3& a)
 {
-    const float size = length(a);
+    const float size = std::sqrt(a[0] * a[0] + a[1] * a[1] + a[2] * a[2]);
     return size > 0.0F ? (1.0F / size) * a : a;
 }
 
@@ -149,6 +144,28 @@ void addSurface(const SurfaceFunction& surface, const SurfaceGrid& grid, MeshDat
     }
 }
 
+MeshData meshOf(const SurfaceFunction& surface, const SurfaceGrid& grid)
+{
+    MeshData mesh;
+    addSurface(surface, grid, mesh);
+    return mesh;
+}
+
+/// A closed surface around the origin. @param size  its distance at a turn about y and a rise, both
+/// radians
+MeshData makeRound(unsigned around, unsigned upwards,
+                   const std::function<float(float turn, float rise)>& size)
+{
+    const auto place = [&size](float u, float v) {
+        const float turn = kTwoPi * u;
+        const float rise = kPi * (v - 0.5F);
+        const float ring = size(turn, rise) * std::cos(rise);
+        return Vec3 { ring * std::sin(turn), size(turn, rise) * std::sin(rise),
+                      ring * std::cos(turn) };
+    };
+    return meshOf(place, { around, upwards, true, false });
+}
+
 }  // namespace
 
 MeshData makeLathe(const std::vector<Vec2>& profile, unsigned steps)
@@ -160,8 +177,7 @@ MeshData makeLathe(const std::vector<Vec2>& profile, unsigned steps)
             continue;
         }
         const bool straight = part.size() == 2;
-        const auto vSteps =
-            straight ? 1U : kStepsPerCorner * static_cast<unsigned>(part.size() - 1);
+        const unsigned vSteps = straight ? 1U : kStepsPerCorner * unsigned(part.size() - 1);
         const auto turned = [&part](float u, float v) {
             const Vec2 point = curvePoint(part, v);
             const float radius = std::max(point[0], 0.0F);
@@ -195,53 +211,29 @@ MeshData makeTorusKnot(float ringRadius, float tubeRadius)
         return centre + (tubeRadius * std::cos(angle)) * top +
             (tubeRadius * std::sin(angle)) * side;
     };
-    constexpr unsigned kAround = 40;
-    constexpr unsigned kAlong = 360;
-    MeshData mesh;
-    addSurface(tube, { kAround, kAlong, true, true }, mesh);
-    return mesh;
+    return meshOf(tube, { 40, 360, true, true });
 }
 
 MeshData makeBlob(float radius)
 {
-    constexpr unsigned kAround = 128;
-    constexpr unsigned kUpwards = 72;
-    const auto dented = [radius](float u, float v) {
-        const float turn = kTwoPi * u;
-        const float rise = kPi * (v - 0.5F);
+    return makeRound(128, 72, [radius](float turn, float rise) {
         const float y = std::sin(rise);
         const float around = std::cos(rise);
         // Waves that vanish at the poles, so that the surface stays closed there.
         const float waves = 0.16F * around * around * std::sin(3.0F * turn + 2.4F * y) +
             0.09F * around * around * around * std::cos(2.0F * turn - 4.0F * y) +
             0.08F * std::sin(3.1F * y);
-        const float size = radius * (1.0F + waves);
-        return Vec3 { size * around * std::sin(turn), size * y, size * around * std::cos(turn) };
-    };
-    MeshData mesh;
-    addSurface(dented, { kAround, kUpwards, true, false }, mesh);
-    return mesh;
+        return radius * (1.0F + waves);
+    });
 }
 
 MeshData makeBall(float radius)
 {
-    constexpr unsigned kAround = 64;
-    constexpr unsigned kUpwards = 32;
-    const auto round = [radius](float u, float v) {
-        const float rise = kPi * (v - 0.5F);
-        const float ring = radius * std::cos(rise);
-        return Vec3 { ring * std::sin(kTwoPi * u), radius * std::sin(rise),
-                      ring * std::cos(kTwoPi * u) };
-    };
-    MeshData mesh;
-    addSurface(round, { kAround, kUpwards, true, false }, mesh);
-    return mesh;
+    return makeRound(64, 32, [radius](float, float) { return radius; });
 }
 
 MeshData makeTwistedColumn(float halfWidth, float height)
 {
-    constexpr unsigned kAround = 96;
-    constexpr unsigned kUpwards = 96;
     constexpr float kTwist = 0.75F * kPi;
     // A superellipse: the higher the power, the sharper the edges.
     constexpr float kPower = 5.0F;
@@ -260,9 +252,8 @@ MeshData makeTwistedColumn(float halfWidth, float height)
         const Vec3 rim = side(u, 1.0F);
         return Vec3 { rim[0] * (1.0F - v), height, rim[2] * (1.0F - v) };
     };
-    MeshData mesh;
-    addSurface(side, { kAround, kUpwards, true, false }, mesh);
-    addSurface(lid, { kAround, 1, true, false }, mesh);
+    MeshData mesh = meshOf(side, { 96, 96, true, false });
+    addSurface(lid, { 96, 1, true, false }, mesh);
     return mesh;
 }
 

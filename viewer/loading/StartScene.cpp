@@ -16,9 +16,8 @@ constexpr unsigned kVeryFine = 160;
 using Profile = std::vector<std::array<float, 2>>;
 
 /// Collects objects: each a mesh with a material of its own under a node of its own.
-class Composition
+struct Composition
 {
-public:
     void place(const char* name, MeshData mesh, const MaterialData& material, const Vec3& position)
     {
         mesh.name = QLatin1String(name);
@@ -35,26 +34,13 @@ public:
         model.root.children.push_back(node);
     }
 
-    ModelData take()
-    {
-        model.root.name = QStringLiteral("Still life");
-        return std::move(model);
-    }
-
-private:
     ModelData model;
 };
 
-MaterialData matt(const Rgb& color)
+MaterialData glossy(const Rgb& color, float strength, float shininess)
 {
     MaterialData material;
     material.diffuse = color;
-    return material;
-}
-
-MaterialData glossy(const Rgb& color, float strength, float shininess)
-{
-    MaterialData material = matt(color);
     material.specular = { strength, strength, strength };
     material.shininess = shininess;
     return material;
@@ -128,8 +114,8 @@ void placeObjects(Composition& scene)
                 glossy({ 0.74F, 0.36F, 0.24F }, 0.30F, 28.0F), { -2.75F, 0.2F, -0.75F });
     scene.place("Pebble", makeBlob(0.62F), glossy({ 0.83F, 0.67F, 0.34F }, 0.25F, 24.0F),
                 { 3.05F, 0.6F, -0.85F });
-    scene.place("Column", makeTwistedColumn(0.62F, 2.9F), matt({ 0.52F, 0.56F, 0.66F }),
-                { 1.6F, 0.5F, -2.9F });
+    scene.place("Column", makeTwistedColumn(0.62F, 2.9F),
+                glossy({ 0.52F, 0.56F, 0.66F }, 0.0F, 1.0F), { 1.6F, 0.5F, -2.9F });
     scene.place("Bowl", makeLathe(bowlProfile(), kFine),
                 glossy({ 0.33F, 0.42F, 0.30F }, 0.35F, 40.0F), { -1.35F, 0, 2.55F });
     scene.place("Ball", makeBall(0.42F), glossy({ 0.78F, 0.20F, 0.22F }, 0.60F, 64.0F),
@@ -145,9 +131,9 @@ ModelData makeStartScene()
     Composition scene;
     placeTable(scene);
     placeObjects(scene);
-    ModelData model = scene.take();
-    model.builtIn = QLatin1String(kStartSceneName);
-    return model;
+    scene.model.root.name = "Still life";
+    scene.model.builtIn = kStartSceneName;
+    return std::move(scene.model);
 }
 
 }  // namespace viewer
