@@ -37,9 +37,7 @@ public:
     {
         if (expected) {
             expect(what, QJsonArray { (*expected)[0], (*expected)[1], (*expected)[2] },
-                   QJsonArray { static_cast<double>(found[0]), static_cast<double>(found[1]),
-                                static_cast<double>(found[2]) },
-                   tolerance);
+                   QJsonArray { found[0], found[1], found[2] }, tolerance);
         }
     }
 
@@ -88,22 +86,16 @@ QStringList findFailures(const SessionStep& checkpoint, Stage& stage)
 {
     const SessionExpectation& expectation = checkpoint.expectation;
     Checker checker(checkpoint.name);
-    if (expectation.hover) {
-        checker.expect(QStringLiteral("hover"), *expectation.hover,
-                       QString::fromStdString(stage.hoveredHandle()));
-    }
-    if (expectation.selection) {
-        checker.expect(QStringLiteral("selection"), *expectation.selection,
-                       QString::fromStdString(stage.selectedName()));
-    }
-    if (expectation.orthographic) {
-        checker.expect(QStringLiteral("orthographic"), *expectation.orthographic,
-                       stage.pose().orthographic);
-    }
-    if (expectation.undoSteps) {
-        checker.expect(QStringLiteral("undoSteps"), *expectation.undoSteps,
-                       nbUndoService::the()->getStack()->index());
-    }
+    const auto expect = [&checker](const char* what, const auto& expected,
+                                   const QJsonValue& found) {
+        if (expected) {
+            checker.expect(what, *expected, found);
+        }
+    };
+    expect("hover", expectation.hover, QString::fromStdString(stage.hoveredHandle()));
+    expect("selection", expectation.selection, QString::fromStdString(stage.selectedName()));
+    expect("orthographic", expectation.orthographic, stage.pose().orthographic);
+    expect("undoSteps", expectation.undoSteps, nbUndoService::the()->getStack()->index());
     for (const SessionNodeExpectation& node : expectation.nodes) {
         checkNode(checker, node);
     }

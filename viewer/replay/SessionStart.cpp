@@ -37,13 +37,12 @@ bool beginSession(Stage& stage, const Session& session, QString& error)
                     .arg(*session.selection);
         return false;
     }
-    if (!session.manipulator.isEmpty()) {
-        if (!stage.showManipulator(session.manipulator.toStdString())) {
-            error = QStringLiteral("manipulator: unknown name \"%1\"").arg(session.manipulator);
-            return false;
-        }
+    const bool isKnown =
+        session.manipulator.isEmpty() || stage.showManipulator(session.manipulator.toStdString());
+    if (!isKnown) {
+        error = QStringLiteral("manipulator: unknown name \"%1\"").arg(session.manipulator);
     }
-    return true;
+    return isKnown;
 }
 
 }  // namespace viewer

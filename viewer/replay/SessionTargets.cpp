@@ -18,6 +18,12 @@
 namespace viewer {
 namespace {
 
+bool fail(const QString& reason, QString& error)
+{
+    error = reason;
+    return false;
+}
+
 bool project(Stage& stage, const osg::Pnt3f& world, osg::Pnt2f& px)
 {
     const nbOSGWidget& view = stage.view();
@@ -89,8 +95,7 @@ bool resolveHandle(const QString& name, Stage& stage, osg::Pnt2f& px, QString& e
     std::vector<osg::Pnt2f> pixels;
     collectHandle(stage, stage.handles(), handle, pixels);
     if (pixels.empty()) {
-        error = QStringLiteral("there is no handle \"%1\"").arg(name);
-        return false;
+        return fail(QStringLiteral("there is no handle \"%1\"").arg(name), error);
     }
     sortFromTheMiddle(pixels);
     for (const osg::Pnt2f& candidate : pixels) {
@@ -99,8 +104,7 @@ bool resolveHandle(const QString& name, Stage& stage, osg::Pnt2f& px, QString& e
             return true;
         }
     }
-    error = QStringLiteral("handle \"%1\" cannot be hit from here").arg(name);
-    return false;
+    return fail(QStringLiteral("handle \"%1\" cannot be hit from here").arg(name), error);
 }
 
 bool resolveNode(const QString& name, Stage& stage, osg::Pnt2f& px, QString& error)
@@ -108,21 +112,18 @@ bool resolveNode(const QString& name, Stage& stage, osg::Pnt2f& px, QString& err
     const osg::NodePtr node = findObject(nbScenegraph::getRootNode(), name.toStdString());
     const osg::BoxVolume bounds = nbNodeUtils::getWorldBounds(node);
     if (node == osg::NullFC || bounds.isEmpty()) {
-        error = QStringLiteral("there is no node \"%1\" with a surface").arg(name);
-        return false;
+        return fail(QStringLiteral("there is no node \"%1\" with a surface").arg(name), error);
     }
     const osg::Pnt3f centre = bounds.getMin() + (bounds.getMax() - bounds.getMin()) * 0.5F;
-    if (!project(stage, centre, px)) {
-        error = QStringLiteral("node \"%1\" lies behind the eye").arg(name);
-        return false;
-    }
-    return true;
+    return project(stage, centre, px) ||
+        fail(QStringLiteral("node \"%1\" lies behind the eye").arg(name), error);
 }
 
 }  // namespace
 
 bool resolveTarget(const SessionTarget& target, Stage& stage, osg::Pnt2f& px, QString& error)
 {
+    bool isFound = true;
     osg::Pnt2f place(0.0F, 0.0F);
     switch (target.kind) {
     case SessionTarget::Kind::Pixel:
@@ -131,29 +132,24 @@ bool resolveTarget(const SessionTarget& target, Stage& stage, osg::Pnt2f& px, QS
         place = stage.view().getMousePosition();
         break;
     case SessionTarget::Kind::Handle:
-        if (!resolveHandle(target.name, stage, place, error)) {
-            return false;
-        }
+        isFound = resolveHandle(target.name, stage, place, error);
         break;
     case SessionTarget::Kind::Node:
-        if (!resolveNode(target.name, stage, place, error)) {
-            return false;
-        }
+        isFound = resolveNode(target.name, stage, place, error);
         break;
     case SessionTarget::Kind::World: {
         const auto& p = target.world;
         const osg::Pnt3f world(static_cast<float>(p[0]), static_cast<float>(p[1]),
                                static_cast<float>(p[2]));
-        if (!project(stage, world, place)) {
-            error = QStringLiteral("the point lies behind the eye");
-            return false;
-        }
+        isFound = project(stage, world, place) || fail("the point lies behind the eye", error);
         break;
     }
     }
-    px = osg::Pnt2f(place[0] + static_cast<float>(target.offsetPx.x()),
-                    place[1] + static_cast<float>(target.offsetPx.y()));
-    return true;
+    if (isFound) {
+        px = osg::Pnt2f(place[0] + static_cast<float>(target.offsetPx.x()),
+                        place[1] + static_cast<float>(target.offsetPx.y()));
+    }
+    return isFound;
 }
 
 }  // namespace viewer

@@ -54,59 +54,11 @@ QJsonValue jsonOf(const QJsonValue& value)
     return value;
 }
 
-template <class Value>
-void set(QJsonObject& object, const char* key, const std::optional<Value>& value)
+void put(QJsonObject& object, const char* key, const QJsonValue& value, bool isWanted)
 {
-    if (value) {
-        object[QLatin1String(key)] = jsonOf(*value);
+    if (isWanted) {
+        object[QLatin1String(key)] = value;
     }
-}
-
-QJsonObject jsonOf(const SessionNodeExpectation& node)
-{
-    QJsonObject object;
-    set(object, "translation", node.translation);
-    set(object, "rotation", node.rotationDeg);
-    set(object, "scale", node.scale);
-    if (node.tolerance != SessionNodeExpectation::kDefaultTolerance) {
-        object["tolerance"] = node.tolerance;
-    }
-    return object;
-}
-
-QJsonObject jsonOf(const SessionExpectation& expectation)
-{
-    QJsonObject object;
-    set(object, "hover", expectation.hover);
-    set(object, "selection", expectation.selection);
-    set(object, "orthographic", expectation.orthographic);
-    set(object, "undoSteps", expectation.undoSteps);
-    QJsonObject nodes;
-    for (const SessionNodeExpectation& node : expectation.nodes) {
-        nodes[node.node] = jsonOf(node);
-    }
-    if (!nodes.isEmpty()) {
-        object["nodes"] = nodes;
-    }
-    if (!expectation.values.isEmpty()) {
-        object["values"] = expectation.values;
-    }
-    if (expectation.tolerance != SessionExpectation().tolerance) {
-        object["tolerance"] = expectation.tolerance;
-    }
-    return object;
-}
-
-bool hasPlace(Type type)
-{
-    return type == Type::Move || type == Type::Press || type == Type::Release ||
-        type == Type::Click || type == Type::DoubleClick || type == Type::Wheel;
-}
-
-bool hasButton(Type type)
-{
-    return type == Type::Press || type == Type::Release || type == Type::Click ||
-        type == Type::DoubleClick;
 }
 
 QJsonObject jsonOf(const SessionCamera& camera)
@@ -115,43 +67,76 @@ QJsonObject jsonOf(const SessionCamera& camera)
                          { "at", jsonOf(camera.at) },
                          { "up", jsonOf(camera.up) },
                          { "fov", camera.fovDeg } };
-    if (camera.pivot && camera.pivot != camera.at) {
-        object["pivot"] = jsonOf(*camera.pivot);
-    }
-    if (camera.orthographic) {
-        object["orthographic"] = true;
-    }
-    if (camera.zUp) {
-        object["zUp"] = true;
-    }
+    const auto pivot = camera.pivot.value_or(camera.at);
+    put(object, "pivot", jsonOf(pivot), pivot != camera.at);
+    put(object, "orthographic", true, camera.orthographic);
+    put(object, "zUp", true, camera.zUp);
     return object;
+}
+
+template <class Value>
+void put(QJsonObject& object, const char* key, const std::optional<Value>& value)
+{
+    put(object, key, value ? jsonOf(*value) : QJsonValue(), value.has_value());
+}
+
+QJsonObject jsonOf(const SessionNodeExpectation& node)
+{
+    QJsonObject object;
+    put(object, "translation", node.translation);
+    put(object, "rotation", node.rotationDeg);
+    put(object, "scale", node.scale);
+    put(object, "tolerance", node.tolerance,
+        node.tolerance != SessionNodeExpectation::kDefaultTolerance);
+    return object;
+}
+
+QJsonObject jsonOf(const SessionExpectation& expectation)
+{
+    QJsonObject object;
+    put(object, "hover", expectation.hover);
+    put(object, "selection", expectation.selection);
+    put(object, "orthographic", expectation.orthographic);
+    put(object, "undoSteps", expectation.undoSteps);
+    QJsonObject nodes;
+    for (const SessionNodeExpectation& node : expectation.nodes) {
+        nodes[node.node] = jsonOf(node);
+    }
+    put(object, "nodes", nodes, !nodes.isEmpty());
+    put(object, "values", expectation.values, !expectation.values.isEmpty());
+    put(object, "tolerance", expectation.tolerance,
+        expectation.tolerance != SessionExpectation::kUsualTolerance);
+    return object;
+}
+
+bool hasButton(Type type)
+{
+    return type == Type::Press || type == Type::Release || type == Type::Click ||
+        type == Type::DoubleClick;
 }
 
 QJsonObject jsonOf(const SessionStep& step)
 {
     QJsonObject object { { "type", stepTypeName(step.type) } };
-    const auto put = [&object](const char* key, const QJsonValue& value, bool isWanted) {
-        if (isWanted) {
-            object[QLatin1String(key)] = value;
-        }
-    };
-    put("title", step.name, step.type == Type::Caption);
-    put("text", step.text, step.type == Type::Caption && !step.text.isEmpty());
-    put("command", step.name, step.type == Type::Command);
-    put("value", step.value, step.type == Type::Command && !step.value.isNull());
-    put("name", step.name, step.type == Type::Checkpoint);
-    put("at", jsonOf(step.at), hasPlace(step.type));
-    put("button", buttonName(step.button), hasButton(step.type) && step.button != Qt::LeftButton);
-    put("delta", step.wheelDelta, step.type == Type::Wheel);
-    put("key", step.key, !step.key.isEmpty());
-    put("modifiers", QJsonArray::fromStringList(modifierNames(step.modifiers)),
+    const Type type = step.type;
+    const bool isCaption = type == Type::Caption;
+    put(object, "title", step.name, isCaption);
+    put(object, "text", step.text, isCaption && !step.text.isEmpty());
+    put(object, "command", step.name, type == Type::Command);
+    put(object, "value", step.value, type == Type::Command && !step.value.isNull());
+    put(object, "name", step.name, type == Type::Checkpoint);
+    put(object, "at", jsonOf(step.at),
+        hasButton(type) || type == Type::Move || type == Type::Wheel);
+    put(object, "button", buttonName(step.button),
+        hasButton(type) && step.button != Qt::LeftButton);
+    put(object, "delta", step.wheelDelta, type == Type::Wheel);
+    put(object, "key", step.key, !step.key.isEmpty());
+    put(object, "modifiers", QJsonArray::fromStringList(modifierNames(step.modifiers)),
         step.modifiers != Qt::NoModifier);
-    put("after", step.afterMs, step.afterMs != 0);
-    if (step.type == Type::Checkpoint) {
-        put("screenshot", true, step.screenshot);
-        const QJsonObject expectation = jsonOf(step.expectation);
-        put("expect", expectation, !expectation.isEmpty());
-    }
+    put(object, "after", step.afterMs, step.afterMs != 0);
+    put(object, "screenshot", true, type == Type::Checkpoint && step.screenshot);
+    const QJsonObject expectation = jsonOf(step.expectation);
+    put(object, "expect", expectation, type == Type::Checkpoint && !expectation.isEmpty());
     return object;
 }
 
@@ -180,18 +165,10 @@ QByteArray sessionText(const Session& session)
     QJsonObject object {
         { "session", 1 }, { "size", QJsonArray { session.sizePx.width(), session.sizePx.height() } }
     };
-    if (!session.files.isEmpty()) {
-        object["files"] = QJsonArray::fromStringList(session.files);
-    }
-    if (session.camera) {
-        object["camera"] = jsonOf(*session.camera);
-    }
-    if (session.selection) {
-        object["selection"] = *session.selection;
-    }
-    if (!session.manipulator.isEmpty()) {
-        object["manipulator"] = session.manipulator;
-    }
+    put(object, "files", QJsonArray::fromStringList(session.files), !session.files.isEmpty());
+    put(object, "camera", session.camera);
+    put(object, "selection", session.selection);
+    put(object, "manipulator", session.manipulator, !session.manipulator.isEmpty());
     QJsonArray steps;
     for (const SessionStep& step : session.steps) {
         steps.append(jsonOf(step));
