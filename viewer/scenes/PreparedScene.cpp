@@ -61,8 +61,7 @@ public:
         buildTree(document);
         return buildPlates(document.plates) &&
             (!document.match ||
-             readPicture(document.match->photograph, QStringLiteral("match.photograph"),
-                         scene.photograph));
+             readPicture(document.match->photograph, "match.photograph", scene.photograph));
     }
 
 private:
@@ -94,21 +93,31 @@ private:
 
     // == Models
 
-    bool buildModels(const std::vector<SceneModel>& wanted)
+    /// Does something with each; the first failure ends it.
+    /// @param run  bool (const Value&, const QString& place)
+    template <class Value, class Run>
+    static bool forEach(const std::vector<Value>& all, const QString& place, Run run)
     {
-        // All are there before the first is edited: those of one file share their geometries.
-        std::map<QString, BuiltModel> known;
-        for (std::size_t i = 0; i < wanted.size(); ++i) {
-            if (!obtainModel(wanted[i], QStringLiteral("models[%1]").arg(i), known)) {
-                return false;
-            }
-        }
-        for (std::size_t i = 0; i < wanted.size(); ++i) {
-            if (!editModel(models[i].get(), wanted[i], QStringLiteral("models[%1]").arg(i))) {
+        for (std::size_t i = 0; i < all.size(); ++i) {
+            if (!run(all[i], place + QStringLiteral("[%1]").arg(i))) {
                 return false;
             }
         }
         return true;
+    }
+
+    bool buildModels(const std::vector<SceneModel>& wanted)
+    {
+        // All are there before the first is edited: those of one file share their geometries.
+        std::map<QString, BuiltModel> known;
+        std::size_t edited = 0;
+        return forEach(wanted, "models",
+                       [&](const SceneModel& model, const QString& place) {
+                           return obtainModel(model, place, known);
+                       }) &&
+            forEach(wanted, "models", [&](const SceneModel& model, const QString& place) {
+                   return editModel(models[edited++].get(), model, place);
+               });
     }
 
     bool obtainModel(const SceneModel& wanted, const QString& place,
@@ -140,16 +149,15 @@ private:
         for (const SceneNode& node : wanted.nodes) {
             copyObject(root, node.path);
         }
-        for (std::size_t i = 0; i < wanted.nodes.size(); ++i) {
-            if (!editObject(root, wanted.nodes[i], place + QStringLiteral(".nodes[%1]").arg(i))) {
-                return false;
-            }
-        }
-        for (std::size_t i = 0; i < wanted.surfaces.size(); ++i) {
-            if (!editSurface(root, wanted.surfaces[i],
-                             place + QStringLiteral(".surfaces[%1]").arg(i))) {
-                return false;
-            }
+        const auto editOne = [&](const SceneNode& node, const QString& at) {
+            return editObject(root, node, at);
+        };
+        const auto editPart = [&](const SceneSurface& surface, const QString& at) {
+            return editSurface(root, surface, at);
+        };
+        if (!forEach(wanted.nodes, place + ".nodes", editOne) ||
+            !forEach(wanted.surfaces, place + ".surfaces", editPart)) {
+            return false;
         }
         for (const SceneNode& node : wanted.nodes) {
             const osg::NodePtr gone =
@@ -165,8 +173,8 @@ private:
     /// Makes the copy that a path stands for, as its original was read; nothing for other paths.
     void copyObject(const osg::NodePtr& root, const QString& path)
     {
-        const int mark = path.lastIndexOf(QLatin1Char('+'));
-        if (mark < 0 || path.indexOf(QLatin1Char('/'), mark) >= 0) {
+        const int mark = path.lastIndexOf('+');
+        if (mark < 0 || path.indexOf('/', mark) >= 0) {
             return;
         }
         const osg::NodePtr original = objectBelow(scene.sources, root, path.left(mark));
@@ -212,10 +220,9 @@ private:
             const nbEdit edit(node, osg::Node::TravMaskFieldMask);
             node->setActive(false);
         }
-        for (osg::Int32 permission = 0; wanted.denied >> permission != 0; ++permission) {
-            nbNodePermission::setAllowed(node, permission, (wanted.denied >> permission & 1U) == 0);
-            if (permission == kLastPermission) {
-                break;
+        for (osg::Int32 permission = 0; permission < kPermissions; ++permission) {
+            if ((wanted.denied >> permission & 1U) != 0) {
+                nbNodePermission::setAllowed(node, permission, false);
             }
         }
         if (wanted.newName) {
@@ -244,20 +251,17 @@ private:
             material->setShininess(wanted.shininess);
             material->setTransparency(wanted.transparency);
         }
-        for (std::size_t i = 0; i < wanted.components.size(); ++i) {
-            if (!addComponent(material, wanted.components[i],
-                              place + QStringLiteral(".components[%1]").arg(i))) {
-                return false;
-            }
-        }
-        return true;
+        return forEach(wanted.components, place + ".components",
+                       [&](const SceneComponent& component, const QString& at) {
+                           return addComponent(material, component, at);
+                       });
     }
 
     bool addComponent(const osg::UberMaterialPtr& material, const SceneComponent& wanted,
                       const QString& place)
     {
         osg::RefPtr<osg::ImagePtr> image;
-        if (!readPicture(wanted.picture, place + QStringLiteral(".picture"), image)) {
+        if (!readPicture(wanted.picture, place + ".picture", image)) {
             return false;
         }
         const std::string name = wanted.name.toStdString();
@@ -291,16 +295,16 @@ private:
 
     void buildPlanes(const std::vector<SceneClipPlane>& wanted)
     {
-        for (std::size_t i = 0; i < wanted.size(); ++i) {
-            frames.emplace_back(makeClipFrame(wanted[i].outline));
+        for (const SceneClipPlane& plane : wanted) {
+            frames.emplace_back(makeClipFrame(plane.outline));
             const osg::NodePtr frame = frames.back().get();
-            nbNodeUtils::setName(frame, wanted[i].frame.name.toStdString());
-            editNode(frame, wanted[i].frame);
+            nbNodeUtils::setName(frame, plane.frame.name.toStdString());
+            editNode(frame, plane.frame);
             planes.emplace_back(makeClipPlane(frame));
             const auto core = osg::ClipPlane3DPtr::dcast(planes.back()->getCore());
             const nbEdit edit(core, osg::FieldBits::AllFields);
-            core->setEquation(wanted[i].equation);
-            core->setEnable(wanted[i].enabled);
+            core->setEquation(plane.equation);
+            core->setEnable(plane.enabled);
         }
     }
 
@@ -337,32 +341,31 @@ private:
 
     bool buildPlates(const std::vector<ScenePlate>& wanted)
     {
-        for (std::size_t i = 0; i < wanted.size(); ++i) {
+        return forEach(wanted, "plates", [this](const ScenePlate& read, const QString& place) {
             osg::RefPtr<osg::ImagePtr> image;
-            if (!readPicture(wanted[i].picture, QStringLiteral("plates[%1].picture").arg(i),
-                             image)) {
+            if (!readPicture(read.picture, place + ".picture", image)) {
                 return false;
             }
             osg::SceneplatePtr plate;
             scene.plates.emplace_back(osg::makeCoredNode<osg::Sceneplate>(&plate));
-            nbNodeUtils::setName(scene.plates.back().get(), wanted[i].name.toStdString());
+            nbNodeUtils::setName(scene.plates.back().get(), read.name.toStdString());
             const nbEdit edit(plate, osg::FieldBits::AllFields);
             plate->setImage(image.get());
-            plate->setColor(wanted[i].color);
-            plate->setAnchor(wanted[i].anchor);
-            plate->setPosition(wanted[i].position);
-            plate->setSize(wanted[i].size);
-            plate->setScale(wanted[i].scale);
-            plate->setRotation(wanted[i].rotationDeg);
-            plate->setFront(wanted[i].front);
-            plate->setOrder(wanted[i].order);
-            plate->setOpacity(wanted[i].opacity);
-            plate->setVisible(wanted[i].visible);
-        }
-        return true;
+            plate->setColor(read.color);
+            plate->setAnchor(read.anchor);
+            plate->setPosition(read.position);
+            plate->setSize(read.size);
+            plate->setScale(read.scale);
+            plate->setRotation(read.rotationDeg);
+            plate->setFront(read.front);
+            plate->setOrder(read.order);
+            plate->setOpacity(read.opacity);
+            plate->setVisible(read.visible);
+            return true;
+        });
     }
 
-    static constexpr osg::Int32 kLastPermission = 31;
+    static constexpr osg::Int32 kPermissions = 32;
 
     PreparedScene& scene;
     const SceneAssets& assets;

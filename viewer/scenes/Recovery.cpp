@@ -12,8 +12,8 @@
 namespace viewer {
 namespace {
 
-const QString kScenes = QStringLiteral("recovery-*.nbscene");
-const QString kLocks = QStringLiteral("recovery-*.lock");
+const QString kScenes = "recovery-*.nbscene";
+const QString kLocks = "recovery-*.lock";
 constexpr int kMostProcesses = 1000;
 constexpr QSize kPicturePx(320, 200);
 
@@ -58,7 +58,7 @@ std::shared_ptr<QFile> lockOf(const QString& file)
 Recovery::Recovery(const QDir& wanted)
     : folder(wanted)
 {
-    folder.mkpath(QStringLiteral("."));
+    folder.mkpath(".");
     for (int number = 1; !lock && number <= kMostProcesses; ++number) {
         ownFile = folder.absoluteFilePath(QStringLiteral("recovery-%1.nbscene").arg(number));
         lock = QFile::exists(ownFile) ? nullptr : lockOf(ownFile);

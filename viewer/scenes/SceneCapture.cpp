@@ -17,6 +17,7 @@
 
 #include <map>
 #include <set>
+#include <tuple>
 
 namespace viewer {
 namespace {
@@ -100,8 +101,8 @@ private:
             plane.outline = clipOutlineEdge(frame);
             plane.frame = nodeOf(frame, nameOf(frame));
             const int number = static_cast<int>(document.clipPlanes.size());
-            planes[top.getFieldContainerId()] = number;
-            frames[frame.getFieldContainerId()] = number;
+            planeParts[top.getFieldContainerId()] = { SceneBranch::Kind::Plane, number };
+            planeParts[frame.getFieldContainerId()] = { SceneBranch::Kind::Frame, number };
             document.clipPlanes.push_back(plane);
         }
         for (osg::UInt32 i = 0; i < top->getNChildren(); ++i) {
@@ -128,15 +129,10 @@ private:
     bool captureBranch(const osg::NodePtr& node, SceneDocument& document, SceneBranch& branch)
     {
         const osg::UInt32 id = node.getFieldContainerId();
-        if (const auto plane = planes.find(id); plane != planes.end()) {
-            branch.kind = SceneBranch::Kind::Plane;
-            branch.number = plane->second;
-            return captureBranches(node, document, branch.children);
-        }
-        if (const auto frame = frames.find(id); frame != frames.end()) {
-            branch.kind = SceneBranch::Kind::Frame;
-            branch.number = frame->second;
-            return true;
+        if (const auto found = planeParts.find(id); found != planeParts.end()) {
+            std::tie(branch.kind, branch.number) = found->second;
+            return branch.kind == SceneBranch::Kind::Frame ||
+                captureBranches(node, document, branch.children);
         }
         branch.number = static_cast<int>(document.models.size());
         return captureModel(node, document.models.emplace_back());
@@ -166,8 +162,8 @@ private:
     void captureRemoved(const osg::NodePtr& root, SceneModel& model)
     {
         for (const auto& [path, name] : stage.sources().objectsOf(root)) {
-            const int last = path.lastIndexOf(QLatin1Char('/'));
-            const bool isCopy = path.indexOf(QLatin1Char('+'), last + 1) >= 0;
+            const int last = path.lastIndexOf('/');
+            const bool isCopy = path.indexOf('+', last + 1) >= 0;
             if (!isCopy && present.count(path) == 0 &&
                 present.count(path.left(qMax(last, 0))) > 0) {
                 SceneNode& node = model.nodes.emplace_back();
@@ -181,7 +177,7 @@ private:
     bool captureObject(const osg::NodePtr& object, SceneModel& model)
     {
         const QString path = stage.sources().pathOf(object);
-        const bool isCopy = path.section(QLatin1Char('/'), -1).contains(QLatin1Char('+'));
+        const bool isCopy = path.section('/', -1).contains('+');
         present.insert(path);
         SceneNode node = nodeOf(object, QString::fromStdString(stage.sources().nameOf(object)));
         if (isCopy || node.transform || !node.visible || node.denied != 0 || node.newName) {
@@ -265,8 +261,8 @@ private:
     Stage& stage;
     QString& error;
     std::set<QString> present;  ///< paths of the objects of a model
-    std::map<osg::UInt32, int> planes;  ///< numbers of clip planes by the ids of their nodes
-    std::map<osg::UInt32, int> frames;  ///< the same by the ids of their frames
+    /// Nodes and frames of clip planes by their ids, and the numbers of the planes.
+    std::map<osg::UInt32, std::pair<SceneBranch::Kind, int>> planeParts;
 };
 
 }  // namespace
@@ -274,10 +270,8 @@ private:
 std::optional<SceneDocument> captureScene(Stage& stage, QString& error)
 {
     SceneDocument document;
-    if (!Capture(stage, error).captureAll(document)) {
-        return std::nullopt;
-    }
-    return document;
+    const bool isWhole = Capture(stage, error).captureAll(document);
+    return isWhole ? std::make_optional(document) : std::nullopt;
 }
 
 bool saveScene(Stage& stage, const QString& path, QString& error)

@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <type_traits>
 #include <utility>
 
 namespace viewer {
@@ -90,7 +91,7 @@ public:
             int bit = 0;
             const bool isBit = readInt(entry, path, kMaskBits - 1, bit) && bit >= 0;
             mask |= isBit ? 1U << static_cast<unsigned>(bit) : 0U;
-            return isBit || fail(path, QStringLiteral("expected a number from 0 to 31"));
+            return isBit || fail(path, "expected a number from 0 to 31");
         });
     }
 
@@ -142,8 +143,7 @@ private:
 
     QString pathOf(const char* key) const
     {
-        return place.isEmpty() ? QString(QLatin1String(key))
-                               : place + QLatin1Char('.') + QLatin1String(key);
+        return place.isEmpty() ? QString(QLatin1String(key)) : place + '.' + QLatin1String(key);
     }
 
     /// Reads an array, which may be left out, entry by entry.
@@ -158,15 +158,14 @@ private:
                 return false;
             }
         }
-        return value.isUndefined() || value.isArray() ||
-            fail(path, QStringLiteral("expected an array"));
+        return value.isUndefined() || value.isArray() || fail(path, "expected an array");
     }
 
     template <class Value>
     bool getObject(const QJsonValue& json, const QString& path, Value& value)
     {
         if (!json.isObject()) {
-            return fail(path, QStringLiteral("expected an object"));
+            return fail(path, "expected an object");
         }
         const QJsonObject outer = std::exchange(current, json.toObject());
         const QString outerPlace = std::exchange(place, path);
@@ -190,6 +189,15 @@ private:
                 readExact(json, path, numbers.data(), static_cast<int>(numbers.size()));
             SceneNumbers<Value>::assign(value, numbers);
             return isRead && areSceneNumbers(numbers, path);
+        } else if constexpr (std::is_same_v<Value, bool>) {
+            return readBool(json, path, value);
+        } else if constexpr (std::is_same_v<Value, int>) {
+            return readInt(json, path, std::numeric_limits<int>::max(), value);
+        } else if constexpr (std::is_same_v<Value, float>) {
+            return readExact(json, path, value) && areSceneNumbers(std::array { value }, path);
+        } else if constexpr (std::is_same_v<Value, double>) {
+            return readExact(QJsonArray { json }, path, &value, 1) &&
+                areSceneNumbers(std::array { value }, path);
         } else {
             return getPlain(json, path, value);
         }
@@ -201,27 +209,6 @@ private:
         const auto isOne = [](auto number) { return isSceneNumber(number); };
         return std::all_of(numbers.begin(), numbers.end(), isOne) ||
             fail(path, QStringLiteral("expected numbers up to %1").arg(kLargestNumber));
-    }
-
-    bool getPlain(const QJsonValue& json, const QString& path, bool& flag)
-    {
-        return readBool(json, path, flag);
-    }
-
-    bool getPlain(const QJsonValue& json, const QString& path, float& number)
-    {
-        return readExact(json, path, number) && areSceneNumbers(std::array { number }, path);
-    }
-
-    bool getPlain(const QJsonValue& json, const QString& path, double& number)
-    {
-        return readExact(QJsonArray { json }, path, &number, 1) &&
-            areSceneNumbers(std::array { number }, path);
-    }
-
-    bool getPlain(const QJsonValue& json, const QString& path, int& number)
-    {
-        return readInt(json, path, std::numeric_limits<int>::max(), number);
     }
 
     bool getPlain(const QJsonValue& json, const QString& path, QString& text)
@@ -242,7 +229,7 @@ private:
     {
         const QJsonArray array = json.toArray();
         if (array.size() != nbdPerspectiveMatch::kLineCount) {
-            return fail(path, QStringLiteral("expected an array of 6 lines"));
+            return fail(path, "expected an array of 6 lines");
         }
         for (int i = 0; i < array.size(); ++i) {
             std::array<double, 4> ends {};
@@ -260,8 +247,7 @@ private:
         QString name;
         const bool isRead = readString(json, path, name);
         file = QDir::cleanPath(folder.absoluteFilePath(name));
-        return isRead &&
-            (!name.isEmpty() || fail(path, QStringLiteral("expected the name of a file")));
+        return isRead && (!name.isEmpty() || fail(path, "expected the name of a file"));
     }
 
     bool getPicture(const QJsonValue& json, const QString& path, ScenePicture& picture)
@@ -270,41 +256,37 @@ private:
             return getFile(json, path, picture.file);
         }
         const QJsonObject pixels = json.toObject();
-        const QString at = path + QStringLiteral(".png");
+        const QString at = path + ".png";
         QString text;
-        if (!checkKeys(pixels, path, { QStringLiteral("png") }) ||
-            !readString(pixels.value(QLatin1String("png")), at, text)) {
+        if (!checkKeys(pixels, path, { "png" }) || !readString(pixels.value("png"), at, text)) {
             return false;
         }
         picture.png = *QByteArray::fromBase64Encoding(text.toLatin1(),
                                                       QByteArray::AbortOnBase64DecodingErrors);
-        return !picture.png.isEmpty() || fail(at, QStringLiteral("expected a picture in base 64"));
+        return !picture.png.isEmpty() || fail(at, "expected a picture in base 64");
     }
 
     template <std::size_t Count>
     static int indexOf(const QJsonValue& word, const std::array<const char*, Count>& words)
     {
         const QString text = word.toString();
-        const auto found = std::find_if(words.begin(), words.end(), [&](const char* one) {
-            return text == QLatin1String(one);
-        });
+        const auto found = std::find(words.begin(), words.end(), text);
         return found == words.end() ? -1 : static_cast<int>(found - words.begin());
     }
 
     template <std::size_t Count>
     bool failWords(const QString& path, const std::array<const char*, Count>& words)
     {
-        const QString all = QStringList(words.begin(), words.end()).join(QStringLiteral(", "));
+        const QString all = QStringList(words.begin(), words.end()).join(", ");
         return fail(path, QStringLiteral("expected one of: %1").arg(all));
     }
 
     bool checkNodePath(const char* key, const QString& path)
     {
         static const QRegularExpression kPattern(
-            QStringLiteral("^(N(/N)*)?\\z")
-                .replace('N', QStringLiteral("([0-9]{1,9}(\\+[0-9]{1,9})?|-)")));
+            QStringLiteral("^(N(/N)*)?\\z").replace('N', "([0-9]{1,9}(\\+[0-9]{1,9})?|-)"));
         return kPattern.match(path).hasMatch() ||
-            fail(pathOf(key), QStringLiteral("expected numbers such as \"0/3\""));
+            fail(pathOf(key), "expected numbers such as \"0/3\"");
     }
 
     // == What values mean together; the object is still the current one
@@ -318,18 +300,18 @@ private:
     bool check(const CameraPose& pose)
     {
         return (pose.fovDeg > 0.0F && pose.fovDeg < 180.0F) ||
-            fail(pathOf("fov"), QStringLiteral("expected a number between 0 and 180"));
+            fail(pathOf("fov"), "expected a number between 0 and 180");
     }
 
     bool check(const nbTransformState& state)
     {
         if (!isScale(state.scale[0]) || !isScale(state.scale[1]) || !isScale(state.scale[2])) {
-            return fail(pathOf("scale"), QStringLiteral("expected numbers other than 0"));
+            return fail(pathOf("scale"), "expected numbers other than 0");
         }
         const QString order = QString::fromStdString(state.eulerRotationOrder);
         const int number = nbEulerRotation::getOrderNumber(state.eulerRotationOrder);
         return order.toLower() == QLatin1String(nbEulerRotation::getOrderName(number)) ||
-            fail(pathOf("order"), QStringLiteral("expected the letters x, y and z"));
+            fail(pathOf("order"), "expected the letters x, y and z");
     }
 
     bool check(const SceneNode& node) { return checkNodePath("path", node.path); }
@@ -338,21 +320,19 @@ private:
     {
         return checkNodePath("object", surface.object) &&
             ((surface.part >= 0 && surface.part < kMostOfAKind) ||
-             fail(pathOf("part"), QStringLiteral("expected a place, counted from 0")));
+             fail(pathOf("part"), "expected a place, counted from 0"));
     }
 
     bool check(const SceneModel& model)
     {
         return model.file.isEmpty() != model.builtIn.isEmpty() ||
-            fail(place, QStringLiteral("expected either \"file\" or \"builtIn\""));
+            fail(place, "expected either \"file\" or \"builtIn\"");
     }
 
     bool check(const SceneClipPlane& plane)
     {
-        return (plane.outline > 0.0F ||
-                fail(pathOf("outline"), QStringLiteral("expected a number above 0"))) &&
-            (plane.frame.transform ||
-             fail(pathOf("frame"), QStringLiteral("\"transform\" is missing")));
+        return (plane.outline > 0.0F || fail(pathOf("outline"), "expected a number above 0")) &&
+            (plane.frame.transform || fail(pathOf("frame"), "\"transform\" is missing"));
     }
 
     bool check(const ScenePlate& plate) { return checkShare("opacity", plate.opacity); }
@@ -361,8 +341,7 @@ private:
 
     bool checkShare(const char* key, double share)
     {
-        return (share >= 0.0 && share <= 1.0) ||
-            fail(pathOf(key), QStringLiteral("expected a number from 0 to 1"));
+        return (share >= 0.0 && share <= 1.0) || fail(pathOf(key), "expected a number from 0 to 1");
     }
 
     // == The tree
@@ -372,10 +351,9 @@ private:
 
     bool checkTree(const SceneDocument& document)
     {
-        const QString path = QStringLiteral("tree");
+        const QString path = "tree";
         if (document.tree.empty()) {
-            return document.clipPlanes.empty() ||
-                fail(path, QStringLiteral("clip planes need one"));
+            return document.clipPlanes.empty() || fail(path, "clip planes need one");
         }
         const std::vector<bool> planes(document.clipPlanes.size());
         Met met { std::vector<bool>(document.models.size()), planes, planes };
@@ -386,7 +364,7 @@ private:
                            [](const std::vector<bool>& all) {
                                return std::find(all.begin(), all.end(), false) == all.end();
                            }) ||
-            fail(path, QStringLiteral("a model, frame or plane is missing"));
+            fail(path, "a model, frame or plane is missing");
     }
 
     bool meet(const std::vector<SceneBranch>& branches, const QString& path, Met& met)
@@ -397,13 +375,13 @@ private:
             std::vector<bool>& all = met[static_cast<std::size_t>(branch.kind)];
             const auto number = static_cast<std::size_t>(branch.number);
             if (branch.number < 0 || number >= all.size() || all[number]) {
-                return fail(at, QStringLiteral("there is none of this number, or it came before"));
+                return fail(at, "there is none of this number, or it came before");
             }
             all[number] = true;
             if (branch.kind != SceneBranch::Kind::Plane && !branch.children.empty()) {
-                return fail(at, QStringLiteral("only a plane has children"));
+                return fail(at, "only a plane has children");
             }
-            if (!meet(branch.children, at + QStringLiteral(".children"), met)) {
+            if (!meet(branch.children, at + ".children", met)) {
                 return false;
             }
         }

@@ -86,9 +86,9 @@ void showMatch(const SceneMatch& match, const osg::ImagePtr& photograph, Stage& 
     target.setMagnifyFactor(match.magnifyFactor);
     if (match.lines) {
         // The photograph stays in the middle, so the lines keep their place relative to that.
-        const double aspectNow = static_cast<double>(stage.view().getUberCamera()->getViewAspect());
-        const QPointF shift = middleOf(aspectNow, isHeightKept(stage)) -
-            middleOf(static_cast<double>(match.aspect), isHeightKept(stage));
+        const double aspectNow = stage.view().getUberCamera()->getViewAspect();
+        const QPointF shift =
+            middleOf(aspectNow, isHeightKept(stage)) - middleOf(match.aspect, isHeightKept(stage));
         for (std::size_t i = 0; i < match.lines->size(); ++i) {
             // A match keeps further digits of a line that it has already; so it must not have it.
             target.setLine(lineAt(i), QLineF());

@@ -12,7 +12,7 @@ namespace viewer {
 namespace {
 
 /// Of a text within a PNG.
-const QString kSourceKey = QStringLiteral("Source");
+const QString kSourceKey = "Source";
 
 }  // namespace
 
@@ -40,7 +40,7 @@ osg::ImagePtr imageOf(const QByteArray& png)
     buffer.setData(png);
     buffer.open(QIODevice::ReadOnly);
     QString error;
-    const QImage pixels = decodePicture(buffer, QStringLiteral("png"), error);
+    const QImage pixels = decodePicture(buffer, "png", error);
     const osg::ImagePtr image = nbImageConvert::toImage(pixels);
     if (image != osg::NullFC && !pixels.text(kSourceKey).isEmpty()) {
         setPictureSource(image, pixels.text(kSourceKey));
