@@ -78,10 +78,9 @@ void Commands::addChoice(const QString& name, const QStringList& words,
 {
     add(name, [name, words, choose = std::move(choose)](const QJsonValue& value, QString& error) {
         const int place = value.isString() ? words.indexOf(value.toString()) : -1;
-        return place < 0
-            ? JsonReader(error).fail(
-                  name, QStringLiteral("expected one of: %1").arg(words.join(QStringLiteral(", "))))
-            : choose(place, error);
+        return place < 0 ? JsonReader(error).fail(
+                               name, QStringLiteral("expected one of: %1").arg(words.join(", ")))
+                         : choose(place, error);
     });
 }
 

@@ -31,8 +31,7 @@ double shortDouble(float value)
 
 QJsonValue exactJson(double value)
 {
-    return value == 0.0 && std::signbit(value) ? QJsonValue(QStringLiteral("-0"))
-                                               : QJsonValue(value);
+    return value == 0.0 && std::signbit(value) ? QJsonValue("-0") : QJsonValue(value);
 }
 
 }  // namespace viewer

@@ -27,7 +27,7 @@ QString placeInText(const QByteArray& text, int offset)
 template <class Number>
 Number exactNumber(const QJsonValue& value)
 {
-    if (value == QJsonValue(QStringLiteral("-0"))) {
+    if (value == QJsonValue("-0")) {
         return Number(-0.0);
     }
     const double read = value.isDouble() ? value.toDouble() : NAN;
@@ -54,7 +54,7 @@ bool JsonReader::fail(const QString& path, const QString& what)
     constexpr int kLongest = 400;
     error = oneLine(path.isEmpty() ? what : path + QStringLiteral(": ") + what);
     if (error.size() > kLongest) {
-        error = error.left(kLongest) + QStringLiteral("...");
+        error = error.left(kLongest) + "...";
     }
     return false;
 }
@@ -100,13 +100,13 @@ bool JsonReader::readExact(const QJsonValue& value, const QString& path, double*
 bool JsonReader::readExact(const QJsonValue& value, const QString& path, float& number)
 {
     number = exactNumber<float>(value);
-    return std::isfinite(number) || fail(path, QStringLiteral("expected a number"));
+    return std::isfinite(number) || fail(path, "expected a number");
 }
 
 bool JsonReader::readString(const QJsonValue& value, const QString& path, QString& text)
 {
     if (!value.isString()) {
-        return fail(path, QStringLiteral("expected a text"));
+        return fail(path, "expected a text");
     }
     text = value.toString();
     return true;
@@ -115,7 +115,7 @@ bool JsonReader::readString(const QJsonValue& value, const QString& path, QStrin
 bool JsonReader::readBool(const QJsonValue& value, const QString& path, bool& flag)
 {
     if (!value.isBool()) {
-        return fail(path, QStringLiteral("expected true or false"));
+        return fail(path, "expected true or false");
     }
     flag = value.toBool();
     return true;
@@ -141,7 +141,7 @@ std::optional<QJsonObject> parseJsonObject(const QByteArray& text, QString& erro
         return std::nullopt;
     }
     if (!document.isObject()) {
-        error = QStringLiteral("expected a JSON object");
+        error = "expected a JSON object";
         return std::nullopt;
     }
     return document.object();
