@@ -202,6 +202,11 @@ bool InteractionManager::selectMode(const std::string& newMode)
 
 // == Drags
 
+InteractionContext* InteractionManager::getDragContext() const
+{
+    return contextOf(dragOwner);
+}
+
 void InteractionManager::cancelDrag()
 {
     const bool editsMayExist = dragOwner != 0 && dragTool != names::kCamera;

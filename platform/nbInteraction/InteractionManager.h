@@ -107,7 +107,7 @@ public:
     bool isDragging() const { return dragState == DragState::Running; }
 
     /// @return the context that took the running drag; null if there is none
-    InteractionContext* getDragContext() const { return contextOf(dragOwner); }
+    InteractionContext* getDragContext() const;
 
     /// @return how the drag ends whose "stop" event a context is just handling
     DragEnd getDragEnd() const { return dragEnd; }

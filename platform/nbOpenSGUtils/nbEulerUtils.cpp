@@ -62,6 +62,11 @@ Angles nearestLocked(Angles angles, const Angles& reference, const nbEulerRotati
 
 }  // namespace
 
+int nbEulerUtils::getOrderFromString(const std::string& order)
+{
+    return nbEulerRotation::getOrderNumber(order);
+}
+
 nbEulerAngles nbEulerUtils::EulFromQuat(const nbQuaterniond& rotation, int order)
 {
     return makeAngles(nbEulerRotation::fromQuaternion(rotation, order), order);

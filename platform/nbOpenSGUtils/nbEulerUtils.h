@@ -30,10 +30,7 @@ public:
 
     /// Number of an order; 0 for a text that is no permutation of x, y, z. Upper case counts as
     /// lower case.
-    static int getOrderFromString(const std::string& order)
-    {
-        return nbEulerRotation::getOrderNumber(order);
-    }
+    static int getOrderFromString(const std::string& order);
 
     // NOLINTBEGIN(readability-identifier-naming): names that hosts know
 
