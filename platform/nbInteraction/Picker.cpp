@@ -85,6 +85,11 @@ const std::optional<PickSlop>& Picker::getSlop()
     return pointer().slop;
 }
 
+void Picker::setDevice(PointerDevice device)
+{
+    pointer().device = device;
+}
+
 void Picker::setPixelRatio(float ratio)
 {
     if (nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1)) {
