@@ -19,8 +19,6 @@
 #include <QJsonArray>
 #include <QJsonObject>
 
-#include <cmath>
-
 namespace viewer {
 namespace {
 
@@ -74,7 +72,7 @@ struct Adding : JsonReader
     bool paint(const PlateText& text, int viewHeightPx);
 
     QString path;
-    QJsonObject object;
+    const QJsonObject object;  ///< its operator [] would add entries
     NewPlate plate;
 };
 
