@@ -2,7 +2,6 @@
 #include "viewer/commands/JsonNumbers.h"
 
 #include <QByteArray>
-#include <QString>
 
 #include <array>
 #include <charconv>

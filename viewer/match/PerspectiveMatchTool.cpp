@@ -6,7 +6,6 @@
 #include "viewer/stage/Stage.h"
 #include "viewer/texts/Text.h"
 
-#include <nbInteraction/InteractionManager.h>
 #include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbKernelServiceFactory.h>
 #include <nbKernelServices/nbObjectService.h>

@@ -7,8 +7,6 @@
 
 #include <nbSceneplateModule/nbSceneplateArranging.h>
 
-#include <QJsonArray>
-
 #include <cmath>
 
 namespace viewer {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/plates/PlatesTool.h"
 
+#include "viewer/loading/NodeChildren.h"
 #include "viewer/plates/PlateArranging.h"
 #include "viewer/plates/PlateCommands.h"
 #include "viewer/plates/PlateField.h"
@@ -124,11 +125,7 @@ void PlatesTool::sceneCleared()
 {
     module.clear();
     remembered.clear();
-    const osg::NodePtr root = nbScenegraph::getSceneplateRoot();
-    const nbEdit edit(root, osg::Node::ChildrenFieldMask);
-    while (root->getNChildren() > 0) {
-        root->subChild(root->getNChildren() - 1);
-    }
+    removeChildren(nbScenegraph::getSceneplateRoot());
 }
 
 std::vector<StageTool::Label> PlatesTool::labels() const

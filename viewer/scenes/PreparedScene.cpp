@@ -3,6 +3,7 @@
 
 #include "viewer/commands/JsonReader.h"
 #include "viewer/loading/ModelReader.h"
+#include "viewer/loading/NodeChildren.h"
 #include "viewer/loading/PictureFile.h"
 #include "viewer/loading/StartScene.h"
 #include "viewer/scenes/SceneMatchState.h"
@@ -163,8 +164,7 @@ private:
             const osg::NodePtr gone =
                 node.removed ? objectBelow(scene.sources, root, node.path) : osg::NodePtr();
             if (gone != osg::NullFC && gone != root) {
-                const nbEdit edit(gone->getParent(), osg::Node::ChildrenFieldMask);
-                gone->getParent()->subChild(gone);
+                takeFromParent(gone);
             }
         }
         return true;
@@ -180,9 +180,7 @@ private:
         const osg::NodePtr original = objectBelow(scene.sources, root, path.left(mark));
         if (original != osg::NullFC && original != root) {
             const osg::NodePtr copy = copyOfObject(original);
-            const osg::NodePtr parent = original->getParent();
-            const nbEdit edit(parent, osg::Node::ChildrenFieldMask);
-            parent->addChild(copy);
+            addChild(original->getParent(), copy);
             scene.sources.addCopy(original, copy, path);
         }
     }
@@ -330,9 +328,8 @@ private:
     void hangChildren(const SceneBranch& branch)
     {
         const osg::NodePtr node = nodeOf(branch).get();
-        const nbEdit edit(node, osg::Node::ChildrenFieldMask);
         for (const SceneBranch& child : branch.children) {
-            node->addChild(nodeOf(child).get());
+            addChild(node, nodeOf(child).get());
             hangChildren(child);
         }
     }
@@ -398,12 +395,8 @@ void PreparedScene::show(Stage& stage)
         const nbScopedUndo muted(false);
         stage.setActiveTool(nullptr);
         stage.replace(top, std::move(sources));
-        const osg::NodePtr plateRoot = nbScenegraph::getSceneplateRoot();
-        {
-            const nbEdit edit(plateRoot, osg::Node::ChildrenFieldMask);
-            for (const osg::RefPtr<osg::NodePtr>& plate : plates) {
-                plateRoot->addChild(plate.get());
-            }
+        for (const osg::RefPtr<osg::NodePtr>& plate : plates) {
+            addChild(nbScenegraph::getSceneplateRoot(), plate.get());
         }
         stage.setPose(camera);
         if (match) {

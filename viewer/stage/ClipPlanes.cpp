@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/stage/ClipPlanes.h"
 
+#include "viewer/loading/NodeChildren.h"
 #include "viewer/stage/Lines.h"
 #include "viewer/stage/Stage.h"
 #include "viewer/texts/Text.h"
@@ -103,10 +104,9 @@ void moveChildren(const osg::NodePtr& from, const osg::NodePtr& to)
             moved.push_back(from->getChild(i));
         }
     }
-    const nbEdit fromEdit(from, osg::Node::ChildrenFieldMask);
-    const nbEdit toEdit(to, osg::Node::ChildrenFieldMask);
+    const nbEdit edit(from, osg::Node::ChildrenFieldMask);
     for (const osg::NodePtr& child : moved) {
-        to->addChild(child);
+        addChild(to, child);
     }
 }
 
@@ -127,9 +127,8 @@ osg::NodePtr addClipPlane(const osg::Vec3f& away)
     nbUndoService::the()->record(
         std::make_unique<nbChildrenRecord>(std::vector<osg::NodePtr> { root, plane }));
     moveChildren(root, plane);
-    const nbEdit edit(root, osg::Node::ChildrenFieldMask);
-    root->addChild(plane);
-    root->addChild(frame);
+    addChild(root, plane);
+    addChild(root, frame);
     return frame;
 }
 
@@ -141,15 +140,12 @@ bool removeClipPlane(const osg::NodePtr& frame)
         return false;
     }
     const osg::NodePtr parent = plane->getParent();
-    const osg::NodePtr frameParent = frame->getParent();
     const nbScopedUndo scope(Text::tr("Remove clip plane"));
     nbUndoService::the()->record(std::make_unique<nbChildrenRecord>(
-        std::vector<osg::NodePtr> { parent, plane, frameParent }));
+        std::vector<osg::NodePtr> { parent, plane, frame->getParent() }));
     moveChildren(plane, parent);
-    const nbEdit parentEdit(parent, osg::Node::ChildrenFieldMask);
-    parent->subChild(plane);
-    const nbEdit frameEdit(frameParent, osg::Node::ChildrenFieldMask);
-    frameParent->subChild(frame);
+    takeFromParent(plane);
+    takeFromParent(frame);
     return true;
 }
 
@@ -159,8 +155,7 @@ osg::NodePtr makeClipFrame(float outlineEdge)
     nbNodeUtils::setName(frame, kName);
     const osg::NodePtr outline = makeOutline(outlineEdge);
     nbNodeUtils::setIsAuxiliaryNode(outline, true);
-    const nbEdit edit(frame, osg::Node::ChildrenFieldMask);
-    frame->addChild(outline);
+    addChild(frame, outline);
     return frame;
 }
 

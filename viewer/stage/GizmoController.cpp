@@ -21,6 +21,7 @@
 namespace viewer {
 namespace {
 
+using nbec::interaction::Picker;
 using Transform = nbec::manipulator::UniversalTransformManipulator2;
 
 /// One row for each manipulator: its word, and how the transform gizmo gets into that mode.
@@ -65,8 +66,6 @@ constexpr double kUsualScaleStep = 0.1;
 
 }  // namespace
 
-using nbec::interaction::Picker;
-
 const char* gizmoName(Gizmo gizmo)
 {
     return rowOf(gizmo).name;
@@ -95,7 +94,7 @@ GizmoController::GizmoController(nbec::interaction::InteractionManager& interact
     });
     const osg::NodePtr root = nbScenegraph::getInternalRoot();
     transform.setVisualisationRoot(root);
-    transform.setSnapRule(nbec::manipulator::UniversalTransformManipulator2::SnapRule::Exact);
+    transform.setSnapRule(Transform::SnapRule::Exact);
     camera.setVisualisationRoot(root);
 }
 
@@ -266,7 +265,7 @@ void GizmoController::update()
 
 void GizmoController::followCamera()
 {
-    nbec::manipulator::UniversalTransformManipulator2::updateAllManipulators();
+    Transform::updateAllManipulators();
     nbec::manipulator::CameraManipulator::updateAllManipulators();
 }
 

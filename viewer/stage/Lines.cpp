@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/stage/Lines.h"
 
+#include "viewer/loading/NodeChildren.h"
+
 #include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGUtils/nbEdit.h>
 
@@ -50,19 +52,12 @@ HelperLines::HelperLines(const osg::Color3f& color, float widthPx)
     const nbEdit edit(shown, osg::FieldBits::AllFields);
     shown->setCore(lines.get());
     shown->setActive(false);
-    const osg::NodePtr root = nbScenegraph::getInternalRoot();
-    const nbEdit rootEdit(root, osg::Node::ChildrenFieldMask);
-    root->addChild(shown);
+    addChild(nbScenegraph::getInternalRoot(), shown);
 }
 
 HelperLines::~HelperLines()
 {
-    const osg::NodePtr shown = node.get();
-    const osg::NodePtr parent = shown->getParent();
-    if (parent != osg::NullFC) {
-        const nbEdit edit(parent, osg::Node::ChildrenFieldMask);
-        parent->subChild(shown);
-    }
+    takeFromParent(node.get());
 }
 
 void HelperLines::set(const std::vector<osg::Pnt3f>& corners)

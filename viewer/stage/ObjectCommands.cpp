@@ -8,7 +8,6 @@
 #include "viewer/stage/ValueRecord.h"
 #include "viewer/texts/Text.h"
 
-#include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbScopedUndo.h>
 #include <nbOpenSGSelection/nbSelection.h>
 #include <nbOpenSGUtils/nbEdit.h>
@@ -21,7 +20,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <functional>
 
 namespace viewer {
 namespace {

@@ -2,6 +2,7 @@
 #include "viewer/stage/SceneEdits.h"
 
 #include "viewer/loading/BuiltModel.h"
+#include "viewer/loading/NodeChildren.h"
 #include "viewer/stage/ClipPlanes.h"
 #include "viewer/stage/Stage.h"
 #include "viewer/stage/ValueRecord.h"
@@ -11,7 +12,6 @@
 #include <nbKernelServices/nbChildrenRecord.h>
 #include <nbKernelServices/nbScopedUndo.h>
 #include <nbOpenSGSelection/nbSelection.h>
-#include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodePermission.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
@@ -74,10 +74,8 @@ bool deleteSelected(Stage& stage, const QJsonValue& /*value*/, QString& error)
         if (removeClipPlane(object)) {
             continue;
         }
-        const osg::NodePtr parent = object->getParent();
-        recordChildren(parent);
-        const nbEdit edit(parent, osg::Node::ChildrenFieldMask);
-        parent->subChild(object);
+        recordChildren(object->getParent());
+        takeFromParent(object);
     }
     return true;
 }

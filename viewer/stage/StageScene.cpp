@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 // The models, the part of the stage that has to do with what the scene consists of.
 #include "viewer/loading/BuiltModel.h"
+#include "viewer/loading/NodeChildren.h"
 #include "viewer/loading/StartScene.h"
 #include "viewer/stage/Stage.h"
 #include "viewer/stage/StageTool.h"
 
 #include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbUndoService.h>
-#include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <OpenSG/OSGGeometry.h>
@@ -55,11 +55,7 @@ void Stage::clear()
     }
     nbSelection::clear();
     gizmoController.setTarget(osg::NullFC);
-    const osg::NodePtr root = nbScenegraph::getRootNode();
-    const nbEdit edit(root, osg::Node::ChildrenFieldMask);
-    while (root->getNChildren() > 0) {
-        root->subChild(root->getNChildren() - 1);
-    }
+    removeChildren(nbScenegraph::getRootNode());
     modelSources = {};
     nbUndoService::the()->clear();
     changed();
@@ -73,11 +69,7 @@ osg::NodePtr Stage::add(const ModelData& model)
 osg::NodePtr Stage::add(const BuiltModel& model)
 {
     const osg::NodePtr node = model.root.get();
-    const osg::NodePtr root = nbScenegraph::getRootNode();
-    {
-        const nbEdit edit(root, osg::Node::ChildrenFieldMask);
-        root->addChild(node);
-    }
+    addChild(nbScenegraph::getRootNode(), node);
     modelSources.add(model);
     nbec::interaction::Picker::buildTrees(node);
     changed();
@@ -87,10 +79,7 @@ osg::NodePtr Stage::add(const BuiltModel& model)
 void Stage::addCopy(const osg::NodePtr& object, const osg::NodePtr& copy,
                     const osg::NodePtr& parent)
 {
-    {
-        const nbEdit edit(parent, osg::Node::ChildrenFieldMask);
-        parent->addChild(copy);
-    }
+    addChild(parent, copy);
     modelSources.addCopy(object, copy);
     nbec::interaction::Picker::buildTrees(copy);
     changed();
@@ -100,11 +89,8 @@ void Stage::replace(const std::vector<osg::RefPtr<osg::NodePtr>>& top, ModelSour
 {
     clear();
     const osg::NodePtr root = nbScenegraph::getRootNode();
-    {
-        const nbEdit edit(root, osg::Node::ChildrenFieldMask);
-        for (const osg::RefPtr<osg::NodePtr>& node : top) {
-            root->addChild(node.get());
-        }
+    for (const osg::RefPtr<osg::NodePtr>& node : top) {
+        addChild(root, node.get());
     }
     modelSources = std::move(sources);
     nbec::interaction::Picker::buildTrees(root);

@@ -70,12 +70,10 @@ constexpr std::pair<const char*, TextureTarget::Flag> kFlags[] = {
     { "endInDepth", Settings::ClampZ },
 };
 
-constexpr std::array<std::pair<const char*, Settings::TextureProjection>, 4> kTypes { {
-    { "uv", Settings::UVProjection },
-    { "planar", Settings::PlanarProjection },
-    { "triplanar", Settings::TriplanarProjection },
-    { "tire", Settings::TireProjection },
-} };
+/// By TextureProjection.
+constexpr std::array<const char*, 4> kTypes { "uv", "planar", "triplanar", "tire" };
+
+using Values = nbTextureValues;
 
 /// Numbers among the values of a projection.
 struct NumbersRow
@@ -83,29 +81,26 @@ struct NumbersRow
     const char* name;
     int count;
     /// The first of them.
-    float* (*find)(nbTextureValues&);
+    float* (*find)(Values&);
     double shown = 1.0;  ///< what a 1 among the values is shown as
     bool mustNotBeZero = false;
     bool endsFitting = false;  ///< of the tire projection
 };
 
 constexpr std::array<NumbersRow, 12> kNumbers { {
-    { "uvOffset", 2, [](nbTextureValues& v) { return v.offset.getValues(); } },
-    { "uvRepeat", 2, [](nbTextureValues& v) { return v.repeat.getValues(); }, 1.0, true },
-    { "uvRotate", 1, [](nbTextureValues& v) { return &v.rotate; } },
-    { "triplanarRotation", 3, [](nbTextureValues& v) { return v.triplanarRotation.getValues(); },
+    { "uvOffset", 2, [](Values& v) { return v.offset.getValues(); } },
+    { "uvRepeat", 2, [](Values& v) { return v.repeat.getValues(); }, 1.0, true },
+    { "uvRotate", 1, [](Values& v) { return &v.rotate; } },
+    { "triplanarRotation", 3, [](Values& v) { return v.triplanarRotation.getValues(); },
       kDegPerRad },
-    { "triplanarOffsetU", 3, [](nbTextureValues& v) { return v.triplanarOffsetU.getValues(); } },
-    { "triplanarOffsetV", 3, [](nbTextureValues& v) { return v.triplanarOffsetV.getValues(); } },
-    { "triplanarRepeatU", 3, [](nbTextureValues& v) { return v.triplanarRepeatU.getValues(); }, 1.0,
-      true },
-    { "triplanarRepeatV", 3, [](nbTextureValues& v) { return v.triplanarRepeatV.getValues(); }, 1.0,
-      true },
-    { "tireCenter", 3, [](nbTextureValues& v) { return v.tireCenter.getValues(); }, 1.0, false,
-      true },
-    { "tireHeight", 1, [](nbTextureValues& v) { return &v.tireScaleHeight; }, 1.0, true, true },
-    { "tireRadius", 1, [](nbTextureValues& v) { return &v.tireScaleRadius; }, 1.0, true, true },
-    { "tireScaleU", 1, [](nbTextureValues& v) { return &v.tireScaleU; }, 1.0, true },
+    { "triplanarOffsetU", 3, [](Values& v) { return v.triplanarOffsetU.getValues(); } },
+    { "triplanarOffsetV", 3, [](Values& v) { return v.triplanarOffsetV.getValues(); } },
+    { "triplanarRepeatU", 3, [](Values& v) { return v.triplanarRepeatU.getValues(); }, 1.0, true },
+    { "triplanarRepeatV", 3, [](Values& v) { return v.triplanarRepeatV.getValues(); }, 1.0, true },
+    { "tireCenter", 3, [](Values& v) { return v.tireCenter.getValues(); }, 1.0, false, true },
+    { "tireHeight", 1, [](Values& v) { return &v.tireScaleHeight; }, 1.0, true, true },
+    { "tireRadius", 1, [](Values& v) { return &v.tireScaleRadius; }, 1.0, true, true },
+    { "tireScaleU", 1, [](Values& v) { return &v.tireScaleU; }, 1.0, true },
 } };
 
 /// Gives the reason where something was not done.
@@ -345,20 +340,14 @@ void addNumbers(const Owner& owner)
 void addProjection(const Owner& owner)
 {
     TextureTool& tool = owner.tool;
-    owner.commands().add(named("projection"), [&tool](const QJsonValue& value, QString& error) {
-        for (const auto& [word, type] : kTypes) {
-            if (value.toString() == word) {
-                return orNoPicture(tool.setProjectionType(type), error);
-            }
-        }
-        error = QStringLiteral("there is no projection %1").arg(textOf(value));
-        return false;
-    });
-    addSettingValue(owner, "projection", [&tool](const Settings&) {
-        return QLatin1String(std::find_if(kTypes.begin(), kTypes.end(), [&tool](const auto& row) {
-                                 return row.second == tool.target().projectionType();
-                             })->first);
-    });
+    owner.commands().addChoice(
+        named("projection"), QStringList(kTypes.begin(), kTypes.end()),
+        [&tool](int type, QString& error) {
+            return orNoPicture(
+                tool.setProjectionType(static_cast<Settings::TextureProjection>(type)), error);
+        });
+    addSettingValue(owner, "projection",
+                    [&tool](const Settings&) { return kTypes[tool.target().projectionType()]; });
     addSetting(
         owner, "tireFit",
         [](TextureTarget& target, bool on) {

@@ -2,6 +2,7 @@
 #include "viewer/textures/TextureTool.h"
 
 #include "viewer/loading/BuiltModel.h"
+#include "viewer/loading/NodeChildren.h"
 #include "viewer/loading/PictureFile.h"
 #include "viewer/stage/HandleCursor.h"
 #include "viewer/stage/Stage.h"
@@ -12,7 +13,6 @@
 #include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbUndoService.h>
 #include <nbOpenSGSelection/nbSelection.h>
-#include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <QJsonArray>
@@ -65,11 +65,7 @@ TextureTool::TextureTool(Stage& targetStage)
 {
     handlePicker.setFilter(Picker::HandleFilter);
     probe.setFilter(Picker::HandleFilter);
-    const osg::NodePtr helpers = nbScenegraph::getInternalRoot();
-    {
-        const nbEdit edit(helpers, osg::Node::ChildrenFieldMask);
-        helpers->addChild(visualization.getRootNode());
-    }
+    addChild(nbScenegraph::getInternalRoot(), visualization.getRootNode());
     visualization.setVisible(false);
     handleContext.setPicker(&handlePicker);
     handleContext.setDragCallback([this] { stage.edited(); });
@@ -86,11 +82,7 @@ TextureTool::~TextureTool()
     handleContext.setManipulator(nullptr);
     handleContext.setPicker(nullptr);
     placingContext.setPicker(nullptr);
-    const osg::NodePtr root = visualization.getRootNode();
-    if (const osg::NodePtr parent = root->getParent(); parent != osg::NullFC) {
-        const nbEdit edit(parent, osg::Node::ChildrenFieldMask);
-        parent->subChild(root);
-    }
+    takeFromParent(visualization.getRootNode());
 }
 
 // == What is edited
