@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/drag/DragGeometry.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace nbec::manipulator {

@@ -6,8 +6,6 @@
 
 #include <array>
 #include <cstddef>
-#include <initializer_list>
-#include <string>
 #include <vector>
 
 // Of X11's headers.

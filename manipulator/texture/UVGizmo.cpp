@@ -11,7 +11,6 @@
 #include <nbOpenSGUtils/nbNodeUtils.h>
 #include <nbUtils/nbMessage.h>
 
-#include <utility>
 
 namespace nbec::manipulator::texture {
 

@@ -8,7 +8,6 @@
 #include <nbUtils/nbGuard.h>
 
 #include <cmath>
-#include <utility>
 
 namespace nbec::interaction {
 

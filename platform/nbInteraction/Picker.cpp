@@ -7,7 +7,6 @@
 #include <OpenSG/OSGFieldContainerFactory.h>
 
 #include <algorithm>
-#include <cmath>
 
 #include "detail/EmbreeDevice.h"
 #include "detail/HandlePicking.h"

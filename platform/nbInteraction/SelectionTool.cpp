@@ -8,7 +8,6 @@
 #include <nbKernel/nbOSGWidget.h>
 #include <nbOpenSGSelection/nbSelection.h>
 
-#include <algorithm>
 #include <cmath>
 
 namespace nbec::interaction {

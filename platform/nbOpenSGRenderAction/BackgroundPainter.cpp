@@ -8,7 +8,6 @@
 #include <OpenSG/OSGSolidBackground.h>
 
 #include <algorithm>
-#include <string>
 
 namespace nbrender {
 

@@ -3,7 +3,6 @@
 #include <nbOpenSGUberCamera/nbCameraNavigation.h>
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <optional>
 

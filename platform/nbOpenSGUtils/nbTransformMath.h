@@ -11,7 +11,6 @@
 
 #include <OpenSG/OSGMatrix.h>
 
-#include <cmath>
 
 namespace nbTransformMath {
 

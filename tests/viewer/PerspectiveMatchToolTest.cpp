@@ -167,36 +167,6 @@ TEST_F(PerspectiveMatchToolTest, TellsHowSureItIsAndTakesWhatElseIsKnown)
     EXPECT_NEAR(nudged.x() - begin.x(), 1.0F, 0.01F);
 }
 
-TEST_F(PerspectiveMatchToolTest, ADraggedEndGoesToTheEdgeOfThePhotographNearby)
-{
-    QTemporaryDir folder;
-    QImage picture(stage.view().getWidth(), stage.view().getHeight(), QImage::Format_RGB32);
-    picture.fill(Qt::black);
-    ASSERT_TRUE(run("match.setActive", true));
-    osg::Pnt2f fixed;
-    osg::Pnt2f end;
-    ASSERT_TRUE(tool.findHandle("x1a", fixed) && tool.findHandle("x1b", end));
-    // Bright below the line from the first end to 20 pixels under the second one.
-    for (int x = 0; x < picture.width(); ++x) {
-        const double part = (x - fixed.x()) / static_cast<double>(end.x() - fixed.x());
-        const double edge = fixed.y() + part * static_cast<double>(end.y() + 20.F - fixed.y());
-        for (int y = std::max(0, qRound(edge)); y < picture.height(); ++y) {
-            picture.setPixel(x, y, 0xffffffffU);
-        }
-    }
-    const QString file = folder.filePath("edge.png");
-    ASSERT_TRUE(picture.save(file));
-    ASSERT_TRUE(run("match.setPhotograph", file));
-    ASSERT_TRUE(run("match.setEdgeSnapping", true));
-
-    send(names::kStop, dragOut("x1b", 0.0F, 16.0F));
-
-    osg::Pnt2f laid;
-    ASSERT_TRUE(tool.findHandle("x1b", laid));
-    EXPECT_NEAR(laid.y(), end.y() + 20.F, 1.5F);
-    EXPECT_TRUE(run("match.setEdgeSnapping", false));
-}
-
 TEST_F(PerspectiveMatchToolTest, RefusesWhatItCannotDoInOneLine)
 {
     const QJsonObject threeNumbers { { "line", "x1" }, { "ends", QJsonArray { 1, 2, 3 } } };

@@ -7,10 +7,7 @@
 
 #include <OpenSG/OSGConfig.h>
 
-#include <QApplication>
-#include <QClipboard>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QSysInfo>
 
 namespace viewer {
@@ -41,12 +38,6 @@ void AboutBox::open(const QString& graphics, QWidget* parent)
     box->setObjectName(QStringLiteral("aboutBox"));
     box->setInformativeText(lines.join(QLatin1Char('\n')));
     box->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    QPushButton* copy = box->addButton(tr("C&opy"), QMessageBox::ActionRole);
-    // Which does not close the box.
-    copy->disconnect();
-    QObject::connect(copy, &QPushButton::clicked, [lines] {
-        QApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
-    });
     box->open();
 }
 

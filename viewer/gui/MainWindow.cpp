@@ -7,7 +7,6 @@
 #include "viewer/gui/PanelDocks.h"
 #include "viewer/gui/SceneFileActions.h"
 #include "viewer/gui/SessionPlayer.h"
-#include "viewer/gui/SessionRecorder.h"
 #include "viewer/gui/SettingsPanel.h"
 #include "viewer/gui/StageTools.h"
 #include "viewer/gui/StatusLine.h"
@@ -50,7 +49,6 @@ MainWindow::MainWindow(Attendance attendance)
     , viewWidget(new ViewWidget)
     , loader(new ModelLoader(this))
     , sessionPlayer(new SessionPlayer(*viewWidget, *this, this))
-    , sessionRecorder(new SessionRecorder(*viewWidget, this))
     , fullScreen(*this)
     , fieldRules(*viewWidget)
     , tools(std::make_unique<StageTools>(viewWidget->stage()))
@@ -117,11 +115,7 @@ void MainWindow::connectParts()
     });
     connect(sessionPlayer, &SessionPlayer::finished, this, &MainWindow::concludeReplay);
     viewWidget->stage().commands().setListener(
-        [this](const QString& name, const QJsonValue& value, Commands::Moment moment) {
-            // What a person sets for the program is no step of a session.
-            if (moment == Commands::Moment::Final && !name.startsWith(QLatin1String("settings."))) {
-                sessionRecorder->addCommand(name, value);
-            }
+        [this](const QString& name, const QJsonValue&, Commands::Moment) {
             sceneFiles->noteCommand(name);
             viewWidget->stage().edited();
         });
@@ -142,7 +136,6 @@ MainWindow::~MainWindow()
     delete docks;
     // The view is needed by what the window owns besides it.
     delete sessionPlayer;
-    delete sessionRecorder;
 }
 
 // == Around the view
@@ -161,7 +154,6 @@ void MainWindow::addSurroundings()
     if (mode == Attendance::Attended) {
         actions->setRecentFiles(memory::recentFiles());
     }
-    connect(actions, &WindowActions::shortcutUsed, sessionRecorder, &SessionRecorder::addShortcut);
     connect(loader, &ModelLoader::progressed, statusLine, &StatusLine::setProgress);
     connect(statusLine, &StatusLine::stopLoadingAsked, this, &MainWindow::stopLoading);
     connect(docks, &PanelDocks::problem, this, &MainWindow::problem);
@@ -183,7 +175,6 @@ void MainWindow::renewSurroundings()
     memory::restoreState(*this, layout);
     menuBar()->setVisible(!isWhole());
     statusBar()->setVisible(!isWhole());
-    showRecording();
     updateStatus();
     viewWidget->setFocus();
     if (auto* dialog = findChild<QDialog*>(QStringLiteral("settings"))) {

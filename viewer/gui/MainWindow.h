@@ -26,14 +26,13 @@ class MessageBar;
 class PanelDocks;
 class SceneFileActions;
 class SessionPlayer;
-class SessionRecorder;
 class SessionTour;
 class StatusLine;
 class ViewWidget;
 struct StageTools;
 class WindowActions;
 
-/// The viewer's window: view, menus, status line, opening of files, recording and replaying.
+/// The viewer's window: view, menus, status line, opening of files, replaying.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -109,11 +108,6 @@ public:
     void stopReplay();
     bool isReplaying() const;
 
-
-    /// Begins to record, or ends it and asks where the session goes.
-    void record(bool on);
-    bool isRecording() const;
-    void addCheckpoint();
     void askForSession();
 
     /// Plays the sessions that come with the program, with their captions.
@@ -143,27 +137,23 @@ private:
     void connectParts();
     /// Makes them anew in the present language, arranged as they are.
     void renewSurroundings();
-    void showRecording();
     void setShownTitle(const QString& name);
     void updateStatus();
     void showLoadedModels();
     void showObjectMenu(const osg::Pnt2f& px, const QPoint& screenPlace);
-    void sceneOpened(const QString& path, bool byCommand);
+    void sceneOpened(const QString& path);
     void addRecentFiles(const QStringList& files);
     void stopLoading();
     void handleDroppedFiles(const QStringList& files, const osg::Pnt2f& px);
     void replayFile(const QString& path);
     void beginReplay();
     void concludeReplay();
-    void saveRecording();
-    bool writeRecording(const QString& path, Session& session, QString& error);
 
     Attendance mode;
     ViewWidget* viewWidget = nullptr;
     MessageBar* messageBar = nullptr;
     ModelLoader* loader = nullptr;
     SessionPlayer* sessionPlayer = nullptr;
-    SessionRecorder* sessionRecorder = nullptr;
     WindowActions* actions = nullptr;
 
     StatusLine* statusLine = nullptr;
@@ -178,7 +168,6 @@ private:
     QStringList shownFiles;
     QStringList openingFiles;
     Opening openingMode = Opening::Replace;
-    std::optional<SceneDocument> recordedScene;  ///< in which a recording began, if it was edited
     std::optional<Session> pendingSession;
     std::optional<QDir> pendingPictures;
     int sizeChecks = 0;

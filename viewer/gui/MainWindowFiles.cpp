@@ -5,7 +5,6 @@
 #include "viewer/gui/MessageBar.h"
 #include "viewer/gui/PanelDocks.h"
 #include "viewer/gui/SceneFileActions.h"
-#include "viewer/gui/SessionRecorder.h"
 #include "viewer/gui/StatusLine.h"
 #include "viewer/gui/ViewWidget.h"
 #include "viewer/gui/WindowActions.h"
@@ -72,14 +71,11 @@ void MainWindow::openFiles(const QStringList& files, Opening opening)
     updateStatus();
 }
 
-void MainWindow::sceneOpened(const QString& path, bool byCommand)
+void MainWindow::sceneOpened(const QString& path)
 {
     shownFiles = QStringList { path };
     addRecentFiles(shownFiles);
     setShownTitle(QFileInfo(path).fileName());
-    if (!byCommand) {
-        sessionRecorder->addCommand(QStringLiteral("scene.open"), path);
-    }
     actions->update();
     updateStatus();
     if (pendingSession) {

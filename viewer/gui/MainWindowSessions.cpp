@@ -1,18 +1,14 @@
 // SPDX-License-Identifier: MIT
-// Replaying and recording, the part of the window that has to do with sessions.
+// Replaying, the part of the window that has to do with sessions.
 #include "viewer/gui/MainWindow.h"
 #include "viewer/gui/SceneFileActions.h"
 #include "viewer/gui/SessionPlayer.h"
-#include "viewer/gui/SessionRecorder.h"
 #include "viewer/gui/SessionTour.h"
 #include "viewer/gui/ViewWidget.h"
 #include "viewer/gui/WindowActions.h"
 #include "viewer/replay/SessionStart.h"
-#include "viewer/scenes/SceneCapture.h"
 
 #include <QFileDialog>
-#include <QFileInfo>
-#include <QStatusBar>
 #include <QTimer>
 
 namespace viewer {
@@ -112,68 +108,6 @@ void MainWindow::concludeReplay()
     if (!sessionPlayer->getFailures().isEmpty() && mode == Attendance::Attended) {
         emit problem(sessionPlayer->getFailures().first());
     }
-}
-
-void MainWindow::record(bool on)
-{
-    if (on && !sessionRecorder->isRecording()) {
-        recordedScene.reset();
-        QString error;
-        if (sceneFiles->isModified()) {
-            recordedScene = captureScene(viewWidget->stage(), error);
-        }
-        if (!error.isEmpty()) {
-            emit problem(error);
-        }
-        sessionRecorder->start(shownFiles);
-        showRecording();
-    } else if (!on && sessionRecorder->isRecording()) {
-        statusBar()->clearMessage();
-        saveRecording();
-    }
-}
-
-void MainWindow::showRecording()
-{
-    if (isRecording()) {
-        statusBar()->showMessage(tr("Recording"));
-    }
-}
-
-bool MainWindow::isRecording() const
-{
-    return sessionRecorder->isRecording();
-}
-
-void MainWindow::addCheckpoint()
-{
-    sessionRecorder->addCheckpoint();
-}
-
-void MainWindow::saveRecording()
-{
-    Session session = sessionRecorder->stop();
-    const QString path = QFileDialog::getSaveFileName(
-        this, tr("Save session"), QStringLiteral("session.json"), tr(kSessionFilter));
-    QString error;
-    if (!path.isEmpty() && !writeRecording(path, session, error)) {
-        emit problem(error);
-    }
-}
-
-/// Writes a recording and, where the scene had been edited before it began, that scene beside it.
-bool MainWindow::writeRecording(const QString& path, Session& session, QString& error)
-{
-    if (recordedScene) {
-        const QFileInfo info(path);
-        const QString scene = info.absoluteDir().filePath(
-            info.completeBaseName() + QLatin1Char('.') + QLatin1String(kSceneSuffix));
-        session.files = QStringList { scene };
-        if (!writeSceneFile(scene, *recordedScene, error)) {
-            return false;
-        }
-    }
-    return writeSessionFile(path, session, error);
 }
 
 void MainWindow::askForSession()

@@ -182,9 +182,6 @@ void PerspectiveMatchPanel::addKnowledge(QBoxLayout& column)
                 [this, axis] { run(QStringLiteral("match.turn"), QLatin1String(axis)); });
         ofUnlocked.push_back(turn);
     }
-    form->addRow(addSwitch(QStringLiteral("match.setEdgeSnapping"),
-                           tr("Lines snap to edges (Alt: not)"),
-                           QStringLiteral("match.edgeSnapping")));
 }
 
 void PerspectiveMatchPanel::addLines(QFormLayout& form)
@@ -218,8 +215,8 @@ void PerspectiveMatchPanel::askForPhotograph()
 {
     const QString file =
         QFileDialog::getOpenFileName(this, tr("Open photograph"), {}, pictureFileFilter());
-    if (!file.isEmpty() && run(QStringLiteral("match.setPhotograph"), file)) {
-        run(QStringLiteral("match.setEdgeSnapping"), true);
+    if (!file.isEmpty()) {
+        run(QStringLiteral("match.setPhotograph"), file);
     }
 }
 

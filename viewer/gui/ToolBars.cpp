@@ -46,7 +46,7 @@ const std::vector<ToolBarRow>& toolBars()
         { "sessionTools",
           QT_TRANSLATE_NOOP("viewer::ToolBars", "Session"),
           Qt::TopToolBarArea,
-          { "record", "checkpoint", "replay", "stopReplay" } },
+          { "replay", "stopReplay" } },
         { "tools",
           QT_TRANSLATE_NOOP("viewer::ToolBars", "Manipulators"),
           Qt::LeftToolBarArea,

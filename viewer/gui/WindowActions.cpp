@@ -128,10 +128,7 @@ QAction* WindowActions::addPlain(QMenu* menu, const char* name, const QString& t
 QAction* WindowActions::add(QMenu* menu, const char* name, const QString& text, const QString& keys,
                             std::function<void()> run)
 {
-    return addPlain(menu, name, text, keys, [this, keys, run = std::move(run)](bool) {
-        emit shortcutUsed(keys);
-        run();
-    });
+    return addPlain(menu, name, text, keys, [run = std::move(run)](bool) { run(); });
 }
 
 QAction* WindowActions::addUnplayed(QMenu* menu, const char* name, const QString& text,
@@ -145,10 +142,7 @@ QAction* WindowActions::addUnplayed(QMenu* menu, const char* name, const QString
 QAction* WindowActions::addSwitch(QMenu* menu, const char* name, const QString& text,
                                   const QString& keys, std::function<void(bool)> run)
 {
-    QAction* action = addPlain(menu, name, text, keys, [this, keys, run = std::move(run)](bool on) {
-        emit shortcutUsed(keys);
-        run(on);
-    });
+    QAction* action = addPlain(menu, name, text, keys, std::move(run));
     action->setCheckable(true);
     return action;
 }
@@ -156,7 +150,6 @@ QAction* WindowActions::addSwitch(QMenu* menu, const char* name, const QString& 
 QAction* WindowActions::addCommand(QMenu* menu, const char* command, const QString& text,
                                    const QString& keys, bool isSwitch)
 {
-    // A recording gets the command itself, so the shortcut is not told.
     QAction* action = addPlain(menu, command, text, keys, [this, command, isSwitch](bool on) {
         run(QLatin1String(command), isSwitch ? QJsonValue(on) : QJsonValue());
         window.showPanelOfTool();
@@ -316,13 +309,7 @@ void WindowActions::addTransformSettings(QMenu* menu)
 void WindowActions::addSessionMenu()
 {
     QMenu* menu = window.menuBar()->addMenu(tr("&Session"));
-    // Recording and replaying are no steps of a session.
-    record =
-        addPlain(menu, "record", tr("&Record"), "Ctrl+R", [this](bool on) { window.record(on); });
-    record->setCheckable(true);
-    checkpoint = addPlain(menu, "checkpoint", tr("Add &checkpoint"), "Ctrl+K",
-                          [this](bool) { window.addCheckpoint(); });
-    menu->addSeparator();
+    // Replaying is no step of a session.
     addUnplayed(menu, "replay", tr("Re&play…"), "Ctrl+P", [this] { window.askForSession(); });
     stopReplay = addUnplayed(menu, "stopReplay", tr("&Stop replay"), "Ctrl+.",
                              [this] { window.stopReplay(); });
@@ -345,9 +332,6 @@ void WindowActions::update()
     zUp->setChecked(pose.zUp);
     updateGizmos();
     updateEditing();
-    record->setChecked(window.isRecording());
-    record->setEnabled(!window.isReplaying());
-    checkpoint->setEnabled(window.isRecording());
     stopReplay->setEnabled(window.isReplaying());
     fullScreen->setChecked(window.isWhole());
     grid->setChecked(stage.isGridShown());

@@ -46,8 +46,6 @@ public:
     void setRecentFiles(const QStringList& files);
 
 signals:
-    /// An action with a shortcut was triggered. @param keys  portable name
-    void shortcutUsed(const QString& keys);
 
 private:
     QAction* make(QMenu* menu, const char* name, const QString& text, const QString& keys);
@@ -100,8 +98,6 @@ private:
     QAction* grid = nullptr;
     QAction* orthographic = nullptr;
     QAction* zUp = nullptr;
-    QAction* record = nullptr;
-    QAction* checkpoint = nullptr;
     QAction* stopReplay = nullptr;
     QAction* fullScreen = nullptr;
 };

@@ -6,7 +6,6 @@
 #include <QByteArray>
 
 #include <functional>
-#include <vector>
 
 namespace viewer {
 

@@ -88,8 +88,6 @@ void addModes(Commands& commands, PerspectiveMatchTool& tool, Stage& stage)
         [&tool] { return tool.isActive(); });
     const std::pair<const char*, void (*)(PerspectiveMatchTool&, bool)> switches[] = {
         { "match.showLines", [](PerspectiveMatchTool& t, bool on) { t.showLines(on); } },
-        { "match.setEdgeSnapping",
-          [](PerspectiveMatchTool& t, bool on) { t.setSnapsToEdges(on); } },
         { "match.setLocked", [](PerspectiveMatchTool& t, bool on) { t.camera().setLocked(on); } },
     };
     for (const auto& [name, set] : switches) {
@@ -189,7 +187,6 @@ void addValues(Commands& commands, PerspectiveMatchTool& tool, Stage& stage)
         }
         return residuals;
     });
-    commands.addValue("match.edgeSnapping", [&tool] { return tool.snapsToEdges(); });
     commands.addValue("match.fov", [&stage] { return stage.pose().fovDeg; });
     commands.addValue("match.corners", [&stage] { return cornersOf(stage); });
 }

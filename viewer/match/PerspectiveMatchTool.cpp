@@ -13,10 +13,9 @@
 #include <nbKernelServices/nbScopedMultiCommand.h>
 #include <nbKernelServices/nbScopedUndo.h>
 #include <nbOpenSGUberCamera/nbCameraUtils.h>
-#include <nbOpenSGUberViewport/nbEdgeSnap.h>
+#include <nbOpenSGUberViewport/nbPhotographFit.h>
 #include <nbOpenSGUtils/nbEdit.h>
 
-#include <QGuiApplication>
 #include <QJsonArray>
 #include <QJsonObject>
 
@@ -87,8 +86,6 @@ PerspectiveMatchTool::PerspectiveMatchTool(Stage& targetStage)
     : stage(targetStage)
 {
     context.setPicker(&picker);
-    manipulator.setLineRule(
-        [this](const osg::Line2D& line, osg::UInt32 part) { return onEdge(line, part); });
     manipulator.setVisualisationRoot(nbScenegraph::getInternalRoot());
     stage.addTool(*this);
     addPerspectiveMatchCommands(*this, stage);
@@ -297,25 +294,14 @@ QString PerspectiveMatchTool::qualityText() const
     }
     const QString axis =
         told.doubtfulAxis < 0 ? QString() : QString(QChar('X' + told.doubtfulAxis));
-    switch (told.doubt) {
-    case PerspectiveDoubt::ParallelLines:
+    if (told.doubt == PerspectiveDoubt::NoFieldOfViewFits) {
         parts.append(
-            Text::tr("The lines of %1 are parallel in the picture, so it does not tell the "
-                     "field of view: use lines of a third axis, or set the lens.")
-                .arg(axis));
-        break;
-    case PerspectiveDoubt::AlmostParallelLines:
+            Text::tr("No camera sees right angles so: check which lines belong together."));
+    } else if (told.doubt != PerspectiveDoubt::NoDoubt) {
         parts.append(
             Text::tr("The lines of %1 are almost parallel in the picture, so it hardly "
                      "tells the field of view: use lines of a third axis, or set the lens.")
                 .arg(axis));
-        break;
-    case PerspectiveDoubt::NoFieldOfViewFits:
-        parts.append(
-            Text::tr("No camera sees right angles so: check which lines belong together."));
-        break;
-    case PerspectiveDoubt::NoDoubt:
-        break;
     }
     return parts.join(' ');
 }
@@ -355,20 +341,6 @@ bool PerspectiveMatchTool::setLens(double focalLength, double sensorWidth, QStri
         camera().updateFromPerspectiveMatch();
         return true;
     });
-}
-
-osg::Line2D PerspectiveMatchTool::onEdge(const osg::Line2D& line, osg::UInt32 part) const
-{
-    const osg::ImagePtr image = stage.view().getUberViewport()->getPhotograph();
-    if (!edgeSnapping || image == osg::NullFC ||
-        QGuiApplication::keyboardModifiers().testFlag(Qt::AltModifier)) {
-        return line;
-    }
-    const auto unit = static_cast<float>(referencePx());
-    const nbViewLine laid = nbEdgeSnap::onto(image, fitOf(stage.view(), image),
-                                             { line.getFirst() * unit, line.getSecond() * unit },
-                                             part != kSecondEnd, part != kFirstEnd);
-    return { laid.first * (1.0F / unit), laid.second * (1.0F / unit) };
 }
 
 bool PerspectiveMatchTool::nudge(const QPoint& way, bool coarse)
@@ -440,7 +412,6 @@ void PerspectiveMatchTool::sceneCleared()
     match.setVanishingLinesType(nbCameraTypes::XYZLines);
     match.setMagnifyFactor(nbdPerspectiveMatch::kDefaultMagnifyFactor);
     linesLaid = false;
-    edgeSnapping = false;
     lastHandle.clear();
 }
 

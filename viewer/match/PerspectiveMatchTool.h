@@ -110,11 +110,6 @@ public:
     ///                                  without one as the view
     bool setLens(double focalLength, double sensorWidth, QString& error);
 
-    /// Whether dragged lines go to edges of the photograph within 6 pixels; not while Alt is held.
-    bool snapsToEdges() const { return edgeSnapping; }
-
-    void setSnapsToEdges(bool on) { edgeSnapping = on; }
-
     // == As a tool of the stage
 
     const char* name() const override { return "match"; }
@@ -142,7 +137,6 @@ private:
     /// Edits the camera or its match as one step. @return false, with one line in `error` if the
     /// camera is locked, or what the edit answered
     bool asStep(const QString& title, QString& error, const std::function<bool()>& change);
-    osg::Line2D onEdge(const osg::Line2D& line, osg::UInt32 part) const;
     /// Device pixels of a unit of line coordinates.
     double referencePx() const;
     PerspectiveQuality quality() const;
@@ -159,7 +153,6 @@ private:
     bool linesShown = true;
     bool linesLaid = false;
     bool cameraMoved = false;
-    bool edgeSnapping = false;
     std::string lastHandle;
 };
 

@@ -23,6 +23,9 @@ class Stage;
 ///   "plates.scale", "plates.rotation" (degrees).
 /// - "plates.text": as what "plates.addText" takes, of which all may be absent: changes the text
 ///   selected last.
+/// - "plates.align": "left", "centre", "right", "top", "middle" or "bottom" of the box around the
+///   selected plates, of one plate in the view; "plates.distribute": "across" or "down", with equal
+///   gaps; "plates.move": [across, up], device pixels; "plates.duplicate": selects the copies.
 /// - "plates.snapping": that of all manipulators.
 /// - Values besides: "plates.list" (names, the foremost first), "plates.selected",
 ///   "plates.preselected", "plates.centre" (device pixels).

@@ -2,7 +2,6 @@
 #include "viewer/plates/PlatesTool.h"
 
 #include "viewer/loading/NodeChildren.h"
-#include "viewer/plates/PlateArranging.h"
 #include "viewer/plates/PlateCommands.h"
 #include "viewer/plates/PlateField.h"
 #include "viewer/stage/Stage.h"
@@ -84,7 +83,6 @@ PlatesTool::PlatesTool(Stage& targetStage)
     module.addChangedCallback([this] { selectionHasChanged(); });
     stage.addTool(*this);
     addPlateCommands(stage, *this);
-    addPlateArranging(stage, *this);
     manipulator.setSnapToPlates(true);
 }
 

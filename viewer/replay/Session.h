@@ -145,15 +145,4 @@ bool readSessionTarget(const QJsonValue& value, const QString& path, SessionTarg
 /// @param error  one line that begins with the file's name
 std::optional<Session> readSessionFile(const QString& path, QString& error);
 
-/// Text of a session as parseSession() reads it; ends with a newline. Each step is one line, and
-/// numbers have as few digits as give them back, so that the same session gives the same bytes and
-/// an edit of it changes its own lines alone.
-QByteArray sessionText(const Session& session);
-
-/// Writes a session file; an existing one is replaced only when everything was written. Models, and
-/// files that are named in commands, are named from its folder, so that the session can be handed
-/// on with them.
-/// @return false with one line in `error`
-bool writeSessionFile(const QString& path, const Session& session, QString& error);
-
 }  // namespace viewer

@@ -13,33 +13,27 @@ struct Word
 
 using Type = SessionStep::Type;
 
-constexpr Word<Type> kTypes[] = {
-    { "move", Type::Move },
-    { "press", Type::Press },
-    { "release", Type::Release },
-    { "click", Type::Click },
-    { "doubleClick", Type::DoubleClick },
-    { "wheel", Type::Wheel },
-    { "leave", Type::Leave },
-    { "key", Type::Key },
-    { "keyPress", Type::KeyPress },
-    { "keyRelease", Type::KeyRelease },
-    { "command", Type::Command },
-    { "caption", Type::Caption },
-    { "checkpoint", Type::Checkpoint },
-};
+constexpr Word<Type> kTypes[] = { { "move", Type::Move },
+                                  { "press", Type::Press },
+                                  { "release", Type::Release },
+                                  { "click", Type::Click },
+                                  { "doubleClick", Type::DoubleClick },
+                                  { "wheel", Type::Wheel },
+                                  { "leave", Type::Leave },
+                                  { "key", Type::Key },
+                                  { "keyPress", Type::KeyPress },
+                                  { "keyRelease", Type::KeyRelease },
+                                  { "command", Type::Command },
+                                  { "caption", Type::Caption },
+                                  { "checkpoint", Type::Checkpoint } };
 
-constexpr Word<Qt::MouseButton> kButtons[] = {
-    { "left", Qt::LeftButton },
-    { "middle", Qt::MiddleButton },
-    { "right", Qt::RightButton },
-};
+constexpr Word<Qt::MouseButton> kButtons[] = { { "left", Qt::LeftButton },
+                                               { "middle", Qt::MiddleButton },
+                                               { "right", Qt::RightButton } };
 
-constexpr Word<Qt::KeyboardModifier> kModifiers[] = {
-    { "ctrl", Qt::ControlModifier },
-    { "shift", Qt::ShiftModifier },
-    { "alt", Qt::AltModifier },
-};
+constexpr Word<Qt::KeyboardModifier> kModifiers[] = { { "ctrl", Qt::ControlModifier },
+                                                      { "shift", Qt::ShiftModifier },
+                                                      { "alt", Qt::AltModifier } };
 
 template <class Value, std::size_t Count>
 std::optional<Value> find(const Word<Value> (&words)[Count], const QString& name)
@@ -50,17 +44,6 @@ std::optional<Value> find(const Word<Value> (&words)[Count], const QString& name
         }
     }
     return std::nullopt;
-}
-
-template <class Value, std::size_t Count>
-QString find(const Word<Value> (&words)[Count], Value value)
-{
-    for (const Word<Value>& word : words) {
-        if (value == word.value) {
-            return QLatin1String(word.name);
-        }
-    }
-    return QLatin1String(words[0].name);
 }
 
 }  // namespace
@@ -96,35 +79,14 @@ QStringList stepTypeNames()
     return names;
 }
 
-QString stepTypeName(SessionStep::Type type)
-{
-    return find(kTypes, type);
-}
-
 std::optional<SessionStep::Type> stepTypeFromName(const QString& name)
 {
     return find(kTypes, name);
 }
 
-QString buttonName(Qt::MouseButton button)
-{
-    return find(kButtons, button);
-}
-
 std::optional<Qt::MouseButton> buttonFromName(const QString& name)
 {
     return find(kButtons, name);
-}
-
-QStringList modifierNames(Qt::KeyboardModifiers modifiers)
-{
-    QStringList names;
-    for (const Word<Qt::KeyboardModifier>& word : kModifiers) {
-        if (modifiers.testFlag(word.value)) {
-            names.append(QLatin1String(word.name));
-        }
-    }
-    return names;
 }
 
 std::optional<Qt::KeyboardModifier> modifierFromName(const QString& name)

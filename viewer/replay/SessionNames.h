@@ -22,20 +22,11 @@ QStringList sessionKeys(SessionPart part);
 /// Words of a session file for the types of steps.
 QStringList stepTypeNames();
 
-/// Word of a session file for a step's type, such as "press".
-QString stepTypeName(SessionStep::Type type);
-
 /// @return nothing for an unknown word
 std::optional<SessionStep::Type> stepTypeFromName(const QString& name);
 
-/// Word of a session file for a mouse button; "left" for an unknown one.
-QString buttonName(Qt::MouseButton button);
-
 /// @return nothing for an unknown word
 std::optional<Qt::MouseButton> buttonFromName(const QString& name);
-
-/// Words for the held modifiers, such as { "ctrl", "shift" }.
-QStringList modifierNames(Qt::KeyboardModifiers modifiers);
 
 /// @return nothing for an unknown word
 std::optional<Qt::KeyboardModifier> modifierFromName(const QString& name);

@@ -15,7 +15,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 
 namespace viewer {
 namespace {
@@ -67,7 +66,7 @@ constexpr std::pair<const char*, TextureTarget::Flag> kFlags[] = {
     { "keepAspect", Settings::KeepAspectRatio },
     { "repeatU", Settings::RepeatU },
     { "repeatV", Settings::RepeatV },
-    { "endInDepth", Settings::ClampZ },
+    { "endInDepth", Settings::ClampZ }
 };
 
 /// By TextureProjection.

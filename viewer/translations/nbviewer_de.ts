@@ -652,10 +652,6 @@
         <translation>Linie %1 liegt um %2 Pixel daneben.</translation>
     </message>
     <message>
-        <source>The lines of %1 are parallel in the picture, so it does not tell the field of view: use lines of a third axis, or set the lens.</source>
-        <translation>Die Linien von %1 sind im Bild parallel, es sagt daher nichts über den Bildwinkel: Linien einer dritten Achse verwenden oder das Objektiv angeben.</translation>
-    </message>
-    <message>
         <source>The lines of %1 are almost parallel in the picture, so it hardly tells the field of view: use lines of a third axis, or set the lens.</source>
         <translation>Die Linien von %1 sind im Bild fast parallel, es sagt daher kaum etwas über den Bildwinkel: Linien einer dritten Achse verwenden oder das Objektiv angeben.</translation>
     </message>
@@ -763,10 +759,6 @@
         <source>Interactive manipulators for 3D scenes</source>
         <translation>Interaktive Manipulatoren für 3D-Szenen</translation>
     </message>
-    <message>
-        <source>C&amp;opy</source>
-        <translation>&amp;Kopieren</translation>
-    </message>
 </context>
 <context>
     <name>viewer::AxesCorner</name>
@@ -834,14 +826,6 @@
     <message>
         <source>%1: drop pictures on an object</source>
         <translation>%1: Bilder auf einem Objekt ablegen</translation>
-    </message>
-    <message>
-        <source>Recording</source>
-        <translation>Aufzeichnung läuft</translation>
-    </message>
-    <message>
-        <source>Save session</source>
-        <translation>Sitzung speichern</translation>
     </message>
     <message>
         <source>Replay session</source>
@@ -1306,10 +1290,6 @@
     <message>
         <source>Turn axes about</source>
         <translation>Achsen drehen um</translation>
-    </message>
-    <message>
-        <source>Lines snap to edges (Alt: not)</source>
-        <translation>Linien rasten an Kanten ein (Alt: nicht)</translation>
     </message>
 </context>
 <context>
@@ -2050,14 +2030,6 @@
     <message>
         <source>&amp;Session</source>
         <translation>&amp;Sitzung</translation>
-    </message>
-    <message>
-        <source>&amp;Record</source>
-        <translation>&amp;Aufzeichnen</translation>
-    </message>
-    <message>
-        <source>Add &amp;checkpoint</source>
-        <translation>&amp;Prüfpunkt hinzufügen</translation>
     </message>
     <message>
         <source>Re&amp;play…</source>

@@ -652,10 +652,6 @@
         <translation>La ligne %1 est décalée de %2 pixels.</translation>
     </message>
     <message>
-        <source>The lines of %1 are parallel in the picture, so it does not tell the field of view: use lines of a third axis, or set the lens.</source>
-        <translation>Les lignes de %1 sont parallèles dans l&apos;image, qui ne dit donc rien du champ de vision : utilisez les lignes d&apos;un troisième axe ou indiquez l&apos;objectif.</translation>
-    </message>
-    <message>
         <source>The lines of %1 are almost parallel in the picture, so it hardly tells the field of view: use lines of a third axis, or set the lens.</source>
         <translation>Les lignes de %1 sont presque parallèles dans l&apos;image, qui dit donc peu du champ de vision : utilisez les lignes d&apos;un troisième axe ou indiquez l&apos;objectif.</translation>
     </message>
@@ -763,10 +759,6 @@
         <source>Interactive manipulators for 3D scenes</source>
         <translation>Manipulateurs interactifs pour scènes 3D</translation>
     </message>
-    <message>
-        <source>C&amp;opy</source>
-        <translation>C&amp;opier</translation>
-    </message>
 </context>
 <context>
     <name>viewer::AxesCorner</name>
@@ -834,14 +826,6 @@
     <message>
         <source>%1: drop pictures on an object</source>
         <translation>%1&#xa0;: déposer les images sur un objet</translation>
-    </message>
-    <message>
-        <source>Recording</source>
-        <translation>Enregistrement en cours</translation>
-    </message>
-    <message>
-        <source>Save session</source>
-        <translation>Enregistrer la session</translation>
     </message>
     <message>
         <source>Replay session</source>
@@ -1306,10 +1290,6 @@
     <message>
         <source>Turn axes about</source>
         <translation>Tourner les axes autour de</translation>
-    </message>
-    <message>
-        <source>Lines snap to edges (Alt: not)</source>
-        <translation>Les lignes se calent sur les arêtes (Alt : non)</translation>
     </message>
 </context>
 <context>
@@ -2050,14 +2030,6 @@
     <message>
         <source>&amp;Session</source>
         <translation>&amp;Session</translation>
-    </message>
-    <message>
-        <source>&amp;Record</source>
-        <translation>&amp;Enregistrer</translation>
-    </message>
-    <message>
-        <source>Add &amp;checkpoint</source>
-        <translation>Ajouter un &amp;point de contrôle</translation>
     </message>
     <message>
         <source>Re&amp;play…</source>

@@ -650,10 +650,6 @@
         <translation>线 %1 偏离 %2 像素。</translation>
     </message>
     <message>
-        <source>The lines of %1 are parallel in the picture, so it does not tell the field of view: use lines of a third axis, or set the lens.</source>
-        <translation>%1 的线在图片中平行，因此无法确定视角：请使用第三个轴的线，或设置镜头。</translation>
-    </message>
-    <message>
         <source>The lines of %1 are almost parallel in the picture, so it hardly tells the field of view: use lines of a third axis, or set the lens.</source>
         <translation>%1 的线在图片中几乎平行，因此难以确定视角：请使用第三个轴的线，或设置镜头。</translation>
     </message>
@@ -761,10 +757,6 @@
         <source>Interactive manipulators for 3D scenes</source>
         <translation>三维场景的交互式操纵器</translation>
     </message>
-    <message>
-        <source>C&amp;opy</source>
-        <translation>复制(&amp;O)</translation>
-    </message>
 </context>
 <context>
     <name>viewer::AxesCorner</name>
@@ -832,14 +824,6 @@
     <message>
         <source>%1: drop pictures on an object</source>
         <translation>%1：请将图片拖放到对象上</translation>
-    </message>
-    <message>
-        <source>Recording</source>
-        <translation>正在录制</translation>
-    </message>
-    <message>
-        <source>Save session</source>
-        <translation>保存会话</translation>
     </message>
     <message>
         <source>Replay session</source>
@@ -1304,10 +1288,6 @@
     <message>
         <source>Turn axes about</source>
         <translation>绕轴转动</translation>
-    </message>
-    <message>
-        <source>Lines snap to edges (Alt: not)</source>
-        <translation>线吸附到边缘（Alt：不吸附）</translation>
     </message>
 </context>
 <context>
@@ -2046,14 +2026,6 @@
     <message>
         <source>&amp;Session</source>
         <translation>会话(&amp;S)</translation>
-    </message>
-    <message>
-        <source>&amp;Record</source>
-        <translation>录制(&amp;R)</translation>
-    </message>
-    <message>
-        <source>Add &amp;checkpoint</source>
-        <translation>添加检查点(&amp;C)</translation>
     </message>
     <message>
         <source>Re&amp;play…</source>

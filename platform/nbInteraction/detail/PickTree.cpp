@@ -4,7 +4,6 @@
 #include <nbOpenSGExt/nbIsFinite.h>
 
 #include <algorithm>
-#include <cmath>
 #include <cstring>
 #include <utility>
 

@@ -3,7 +3,6 @@
 
 #include <OpenSG/OSGFieldContainerFactory.h>
 
-#include <utility>
 
 #include "GeometryExtraction.h"
 #include "TreeWalk.h"

@@ -3,7 +3,6 @@
 #include <nbKernel/nbScenegraph.h>
 #include <nbMagnifier/nbMagnifierRenderer.h>
 #include <nbOpenSGRenderAction/nbImageConvert.h>
-#include <nbOpenSGUberViewport/nbEdgeSnap.h>
 #include <nbOpenSGUberViewport/nbPhotographFit.h>
 
 #include <cstdlib>
@@ -32,40 +31,6 @@ int difference(const QColor& a, const QColor& b)
 {
     return std::abs(a.red() - b.red()) + std::abs(a.green() - b.green()) +
         std::abs(a.blue() - b.blue());
-}
-
-TEST(nbEdgeSnap, LaysEndsOntoTheStrongestEdgeWithinReach)
-{
-    // A slanted edge and, beyond its reach, a stronger one; rows from below.
-    constexpr int kSize = 200;
-    const auto edgeAt = [](float y) { return 60.f + 0.1f * y; };
-    std::vector<osg::UInt8> pixels;
-    for (int y = 0; y < kSize; ++y) {
-        for (int x = 0; x < kSize; ++x) {
-            const float place = static_cast<float>(x) + 0.5f - edgeAt(static_cast<float>(y) + 0.5f);
-            const osg::UInt8 value = place < 0.f ? 80 : place < 30.f ? 120 : 255;
-            pixels.insert(pixels.end(), { value, value, value });
-        }
-    }
-    const osg::RefPtr<osg::ImagePtr> image(osg::Image::create());
-    image->set(osg::Image::OSG_RGB_PF, kSize, kSize, 1, 1, 1, 0.0, pixels.data());
-    const nbPhotographFit fit = nbPhotographFit::of(kSize, kSize, 2 * kSize, 2 * kSize, true);
-    const nbViewLine onEdge { { 2.f * edgeAt(20.f), 40.f }, { 2.f * edgeAt(180.f), 360.f } };
-    const nbViewLine near { onEdge.first + osg::Vec2f(4.f, 0.f), onEdge.second };
-    const nbViewLine aside { near.first, onEdge.second + osg::Vec2f(4.f, 0.f) };
-    const nbViewLine far { onEdge.first + osg::Vec2f(16.f, 0.f),
-                           onEdge.second + osg::Vec2f(16.f, 0.f) };
-    const auto distance = [&](const nbViewLine& line) {
-        return std::max(line.first.dist(onEdge.first), line.second.dist(onEdge.second));
-    };
-
-    EXPECT_LT(distance(nbEdgeSnap::onto(image, fit, near, true, false)), 1.2f);
-    EXPECT_LT(distance(nbEdgeSnap::onto(image, fit, aside, true, true)), 1.2f);
-    EXPECT_EQ(nbEdgeSnap::onto(image, fit, near, false, true).first, near.first);
-    EXPECT_EQ(nbEdgeSnap::onto(image, fit, far, true, true).second, far.second);
-    const nbViewLine point { near.first, near.first };
-    EXPECT_EQ(nbEdgeSnap::onto(image, fit, point, true, true).second, near.first);
-    EXPECT_EQ(nbEdgeSnap::onto(osg::NullFC, fit, near, true, true).first, near.first);
 }
 
 TEST(nbPhotographFit, KeepsTheReferenceSideAndTheMiddle)

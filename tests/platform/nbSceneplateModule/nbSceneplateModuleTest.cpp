@@ -8,7 +8,6 @@
 #include <nbKernelServices/nbUndoService.h>
 #include <nbOpenSGSceneplate/nbSceneplateLayout.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
-#include <nbSceneplateModule/nbSceneplateArranging.h>
 #include <nbSceneplateModule/nbSceneplateEditing.h>
 #include <nbSceneplateModule/nbSceneplateModule.h>
 
@@ -302,7 +301,7 @@ TEST_F(nbSceneplateModuleTest, AddedPlatesLieInFrontAndRestackAsBlocks)
 
 TEST_F(nbSceneplateModuleTest, PlatesAreAlignedDistributedMovedAndDuplicatedAsOneStepEach)
 {
-    using Side = nbSceneplateArranging::Side;
+    using Side = nbSceneplateEditing::Side;
     const NodePtr other(osg::makeNodeFor(osg::Group::create()));
     const osg::NodeRefPtr held(other);
     const NodePtr left = add(-0.3f, 0.2f);
@@ -317,21 +316,21 @@ TEST_F(nbSceneplateModuleTest, PlatesAreAlignedDistributedMovedAndDuplicatedAsOn
     const std::pair<float, float> above = box(left, 1);
     const std::pair<float, float> outer(box(left, 0).first, box(right, 0).second);
 
-    nbSceneplateArranging::align(all, 1, Side::Low, 800, 600);
+    nbSceneplateEditing::align(all, 1, Side::Low, 800, 600);
     for (const NodePtr& node : { left, turned, right }) {
         EXPECT_NEAR(box(node, 1).first, above.first, 0.51f) << "rounded to whole pixels";
     }
-    EXPECT_TRUE(nbSceneplateArranging::distribute(all, 0, 800, 600));
+    EXPECT_TRUE(nbSceneplateEditing::distribute(all, 0, 800, 600));
     EXPECT_NEAR(box(turned, 0).first - box(left, 0).second,
                 box(right, 0).first - box(turned, 0).second, 1.f);
     EXPECT_EQ(box(left, 0).first, outer.first);
     EXPECT_EQ(box(right, 0).second, outer.second);
-    EXPECT_FALSE(nbSceneplateArranging::distribute({ left, right, other }, 0, 800, 600));
-    nbSceneplateArranging::move({ right }, Vec2f(12.f, 6.f), 600);
+    EXPECT_FALSE(nbSceneplateEditing::distribute({ left, right, other }, 0, 800, 600));
+    nbSceneplateEditing::move({ right }, Vec2f(12.f, 6.f), 600);
     EXPECT_NEAR(box(right, 0).second, outer.second + 12.f, 0.51f);
-    nbSceneplateArranging::align({ right }, 0, Side::High, 800, 600);
+    nbSceneplateEditing::align({ right }, 0, Side::High, 800, 600);
     EXPECT_NEAR(box(right, 0).second, 800.f, 0.51f) << "one alone: in the view";
-    const auto copies = nbSceneplateArranging::duplicate(
+    const auto copies = nbSceneplateEditing::duplicate(
         { other, right }, [](const auto& name) { return name + "+"; });
     ASSERT_EQ(copies.size(), 1U);
     EXPECT_EQ(platetest::plateOf(copies[0])->getSize(), platetest::plateOf(right)->getSize());
