@@ -279,9 +279,13 @@ void Settings::addCommand(const Setting& setting)
 
 void Settings::restore()
 {
+    // What the library leaves off and a person wants.
+    static const QStringList kOnAtFirst { "handleFading", "ringBacks", "dragOverlay", "pickSlop" };
     const QSettings file;
     for (const Setting& setting : settings) {
-        const QVariant value = file.value(QLatin1String(setting.name));
+        const QString name = QLatin1String(setting.name);
+        const QVariant value =
+            file.value(name, kOnAtFirst.contains(name) ? QVariant(true) : QVariant());
         const QJsonValue present = setting.read();
         // Files of settings know texts alone.
         const QJsonValue wanted = present.isBool() ? QJsonValue(value.toBool())
@@ -289,8 +293,7 @@ void Settings::restore()
                                                    : QJsonValue(value.toString());
         QString error;
         if (kept && value.isValid() && wanted != present) {
-            window.view().stage().commands().run(kPrefix + QLatin1String(setting.name), wanted,
-                                                 error);
+            window.view().stage().commands().run(kPrefix + name, wanted, error);
         }
     }
 }
