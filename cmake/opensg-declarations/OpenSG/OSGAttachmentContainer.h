@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include <OpenSG/OSGFieldContainer.h>
+
 #include <map>
+
 namespace osg {
 class AttachmentPtr;
 typedef std::map<UInt32, AttachmentPtr> AttachmentMap;
 typedef SField<AttachmentMap> SFAttachmentMap;
 OSG_DECLARED_POINTER_CLASS(AttachmentContainer, FieldContainerPtr);
+
 class AttachmentContainer : public FieldContainer
 {
     OSG_DECLARED_TYPE(AttachmentContainer, FieldContainer)

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include <OpenSG/OSGConfig.h>
+
 #include <cstddef>
 #include <cstdint>
 #include <string>
+
 namespace osg {
 typedef std::int8_t Int8;
 typedef std::uint8_t UInt8;
@@ -23,5 +25,10 @@ extern const Real32 Eps;
 extern const Real32 Pi;
 extern const Real32 Inf;
 extern const Real32 NegInf;
-template <class Value> struct TypeTraits { static const Value One; };
+
+template <class Value>
+struct TypeTraits
+{
+    static const Value One;
+};
 }  // namespace osg

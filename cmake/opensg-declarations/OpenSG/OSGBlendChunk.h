@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
-#include <OpenSG/OSGStateChunk.h>
 #include <OpenSG/OSGColor.h>
+#include <OpenSG/OSGStateChunk.h>
+
 namespace osg {
 OSG_DECLARED_POINTER(BlendChunk, StateChunkPtr);
+
 class BlendChunk : public StateChunk
 {
     OSG_DECLARED_CLASS(BlendChunk, StateChunk)

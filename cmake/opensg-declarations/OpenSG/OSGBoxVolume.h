@@ -2,6 +2,7 @@
 #pragma once
 #include <OpenSG/OSGMatrix.h>
 #include <OpenSG/OSGVolume.h>
+
 namespace osg {
 class BoxVolume : public Volume
 {

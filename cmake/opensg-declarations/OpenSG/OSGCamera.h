@@ -3,9 +3,11 @@
 #include <OpenSG/OSGLine.h>
 #include <OpenSG/OSGMatrix.h>
 #include <OpenSG/OSGNodePtr.h>
+
 namespace osg {
 class Viewport;
 OSG_DECLARED_POINTER(Camera, AttachmentContainerPtr);
+
 class Camera : public AttachmentContainer
 {
     OSG_DECLARED_TYPE(Camera, AttachmentContainer)

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include <OpenSG/OSGFieldContainerPtr.h>
+
 #include <utility>
 #include <vector>
+
 namespace osg {
 class ChangeList
 {

@@ -3,8 +3,10 @@
 #include <OpenSG/OSGMaterial.h>
 #include <OpenSG/OSGState.h>
 #include <OpenSG/OSGStateChunk.h>
+
 namespace osg {
 OSG_DECLARED_POINTER(ChunkMaterial, MaterialPtr);
+
 class ChunkMaterial : public Material
 {
     OSG_DECLARED_CLASS(ChunkMaterial, Material)

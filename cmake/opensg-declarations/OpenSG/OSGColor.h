@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include <OpenSG/OSGBaseTypes.h>
+
 namespace osg {
-template <class V> class Color3
+template <class V>
+class Color3
 {
 public:
     Color3();
@@ -24,9 +26,12 @@ public:
 private:
     V numbers[3];
 };
+
 typedef Color3<Real32> Color3f;
 typedef Color3<UInt8> Color3ub;
-template <class V> class Color4
+
+template <class V>
+class Color4
 {
 public:
     Color4();
@@ -49,6 +54,7 @@ public:
 private:
     V numbers[4];
 };
+
 typedef Color4<Real32> Color4f;
 typedef Color4<UInt8> Color4ub;
 }  // namespace osg

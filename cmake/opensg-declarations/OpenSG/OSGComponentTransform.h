@@ -2,8 +2,10 @@
 #pragma once
 #include <OpenSG/OSGQuaternion.h>
 #include <OpenSG/OSGTransform.h>
+
 namespace osg {
 OSG_DECLARED_POINTER(ComponentTransform, TransformPtr);
+
 class ComponentTransform : public Transform
 {
     OSG_DECLARED_CLASS(ComponentTransform, Transform)

@@ -7,5 +7,5 @@
 #define OSG_MAJOR_VERSION 1
 #define OSG_MINOR_VERSION 8
 #define OSG_RELEASE_VERSION 0
-namespace osg {
-}
+
+namespace osg { }

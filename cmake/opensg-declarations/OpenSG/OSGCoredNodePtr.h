@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include <OpenSG/OSGNodePtr.h>
+
 namespace osg {
-template <class Core> class CoredNodePtr
+template <class Core>
+class CoredNodePtr
 {
 public:
     static CoredNodePtr create();

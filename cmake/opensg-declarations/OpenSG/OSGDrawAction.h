@@ -2,6 +2,7 @@
 #pragma once
 #include <OpenSG/OSGAction.h>
 #include <OpenSG/OSGFieldContainerType.h>
+
 namespace osg {
 class DrawAction : public Action
 {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include <OpenSG/OSGBoxVolume.h>
+
 namespace osg {
 class DynamicVolume : public Volume
 {

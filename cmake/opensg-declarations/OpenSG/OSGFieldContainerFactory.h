@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include <OpenSG/OSGFieldContainer.h>
+
 namespace osg {
 class NodePtr;
 class NodeCorePtr;
+
 class FieldContainerFactory
 {
 public:

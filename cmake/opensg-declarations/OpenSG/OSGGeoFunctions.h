@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include <OpenSG/OSGGeometry.h>
+
 namespace osg {
 void calcVertexNormals(GeometryPtr geometry);
 void calcVertexNormals(GeometryPtr geometry, Real32 creaseAngle);

@@ -5,35 +5,38 @@
 #include <OpenSG/OSGVector.h>
 
 // Deliberately without Ptr: the property classes have none.
-#define OSG_DECLARED_PROPERTY(Class, Base, BasePtr) \
-    class Class; \
-    typedef FCPtr<BasePtr, Class> Class##Ptr; \
-    class Class : public Base \
-    { \
-    public: \
-        static FieldContainerType& getClassType(); \
+#define OSG_DECLARED_PROPERTY(Class, Base, BasePtr)                                                \
+    class Class;                                                                                   \
+    typedef FCPtr<BasePtr, Class> Class##Ptr;                                                      \
+    class Class : public Base                                                                      \
+    {                                                                                              \
+    public:                                                                                        \
+        static FieldContainerType& getClassType();                                                 \
         static Class##Ptr create();
-#define OSG_DECLARED_KIND(Class, Value) \
-    OSG_DECLARED_PROPERTY(Class, Attachment, AttachmentPtr) \
-        virtual UInt32 getSize() const; \
-        UInt32 size() const; \
-        virtual Value getValue(const UInt32 index) const; \
-        virtual void getValue(Value& result, const UInt32 index) const; \
-        virtual void setValue(const Value& value, const UInt32 index); \
-        virtual void addValue(const Value& value); \
-        void push_back(const Value& value); \
-        virtual void clear(); \
-        virtual void resize(std::size_t size); \
-    }; \
+#define OSG_DECLARED_KIND(Class, Value)                                                            \
+    OSG_DECLARED_PROPERTY(Class, Attachment, AttachmentPtr)                                        \
+    virtual UInt32 getSize() const;                                                                \
+    UInt32 size() const;                                                                           \
+    virtual Value getValue(const UInt32 index) const;                                              \
+    virtual void getValue(Value& result, const UInt32 index) const;                                \
+    virtual void setValue(const Value& value, const UInt32 index);                                 \
+    virtual void addValue(const Value& value);                                                     \
+    void push_back(const Value& value);                                                            \
+    virtual void clear();                                                                          \
+    virtual void resize(std::size_t size);                                                         \
+    }                                                                                              \
+    ;                                                                                              \
     typedef RefPtr<Class##Ptr> Class##RefPtr
-#define OSG_DECLARED_STORED(Class, Base, Value) \
-    OSG_DECLARED_PROPERTY(Class, Base, Base##Ptr) \
-        typedef MField<Value> StoredFieldType; \
-        StoredFieldType& getField(); \
-        const StoredFieldType& getField() const; \
-        StoredFieldType* getFieldPtr(); \
-    }; \
+#define OSG_DECLARED_STORED(Class, Base, Value)                                                    \
+    OSG_DECLARED_PROPERTY(Class, Base, Base##Ptr)                                                  \
+    typedef MField<Value> StoredFieldType;                                                         \
+    StoredFieldType& getField();                                                                   \
+    const StoredFieldType& getField() const;                                                       \
+    StoredFieldType* getFieldPtr();                                                                \
+    }                                                                                              \
+    ;                                                                                              \
     typedef RefPtr<Class##Ptr> Class##RefPtr
+
 namespace osg {
 OSG_DECLARED_KIND(GeoPTypes, UInt32);
 OSG_DECLARED_STORED(GeoPTypesUI8, GeoPTypes, UInt8);

@@ -3,16 +3,26 @@
 #include <OpenSG/OSGGeoProperty.h>
 #include <OpenSG/OSGNodeCore.h>
 #include <OpenSG/OSGVolume.h>
+
 namespace osg {
 class LineIterator;
 class PrimitiveIterator;
 class TriangleIterator;
 OSG_DECLARED_POINTER(Material, AttachmentContainerPtr);
 OSG_DECLARED_POINTER(Geometry, NodeCorePtr);
+
 class Geometry : public NodeCore
 {
     OSG_DECLARED_CLASS(Geometry, NodeCore)
-    enum { MapPosition = 1, MapNormal = 2, MapColor = 4, MapSecondaryColor = 8, MapTexCoords = 16 };
+
+    enum
+    {
+        MapPosition = 1,
+        MapNormal = 2,
+        MapColor = 4,
+        MapSecondaryColor = 8,
+        MapTexCoords = 16
+    };
     OSG_DECLARED_VALUE(Types, GeoPTypesPtr)
     OSG_DECLARED_VALUE(Lengths, GeoPLengthsPtr)
     OSG_DECLARED_VALUE(Positions, GeoPositionsPtr)

@@ -2,8 +2,10 @@
 #pragma once
 #include <OpenSG/OSGAction.h>
 #include <OpenSG/OSGNodeCore.h>
+
 namespace osg {
 OSG_DECLARED_POINTER(Group, NodeCorePtr);
+
 class Group : public NodeCore
 {
     OSG_DECLARED_CLASS(Group, NodeCore)

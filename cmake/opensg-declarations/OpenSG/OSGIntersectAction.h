@@ -3,6 +3,7 @@
 #include <OpenSG/OSGAction.h>
 #include <OpenSG/OSGFieldContainerType.h>
 #include <OpenSG/OSGLine.h>
+
 namespace osg {
 class IntersectAction : public Action
 {

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include <OpenSG/OSGStateChunk.h>
+
 namespace osg {
 OSG_DECLARED_POINTER(LineChunk, StateChunkPtr);
+
 class LineChunk : public StateChunk
 {
     OSG_DECLARED_CLASS(LineChunk, StateChunk)

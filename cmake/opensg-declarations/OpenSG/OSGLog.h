@@ -1,10 +1,22 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include <OpenSG/OSGBaseTypes.h>
+
 #include <iostream>
 #include <ostream>
+
 namespace osg {
-enum LogLevel { LOG_NONE, LOG_LOG, LOG_FATAL, LOG_WARNING, LOG_NOTICE, LOG_INFO, LOG_DEBUG };
+enum LogLevel
+{
+    LOG_NONE,
+    LOG_LOG,
+    LOG_FATAL,
+    LOG_WARNING,
+    LOG_NOTICE,
+    LOG_INFO,
+    LOG_DEBUG
+};
+
 class Log
 {
 public:
@@ -13,6 +25,7 @@ public:
     std::ostream& stream(LogLevel level);
     void doLog(const char* format, ...);
 };
+
 Log& osgLog();
 }  // namespace osg
 

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
-#include <OpenSG/OSGMField.h>
 #include <OpenSG/OSGColor.h>
+#include <OpenSG/OSGMField.h>
+
 namespace osg {
 typedef MField<std::string> MFString;
 typedef MField<Color3f> MFColor3f;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include <OpenSG/OSGMField.h>
+
 namespace osg {
 typedef MField<bool> MFBool;
 typedef MField<Int32> MFInt32;

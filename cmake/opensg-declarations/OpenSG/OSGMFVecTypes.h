@@ -2,6 +2,7 @@
 #pragma once
 #include <OpenSG/OSGMField.h>
 #include <OpenSG/OSGVector.h>
+
 namespace osg {
 typedef MField<Vec2f> MFVec2f;
 typedef MField<Vec3f> MFVec3f;

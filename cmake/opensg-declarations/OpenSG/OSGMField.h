@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include <OpenSG/OSGSField.h>
+
 #include <vector>
+
 namespace osg {
-template <class Value, Int32 space = 0> class MField : public Field
+template <class Value, Int32 space = 0>
+class MField : public Field
 {
 public:
     typedef typename std::vector<Value>::iterator iterator;

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include <OpenSG/OSGGroup.h>
+
 namespace osg {
 OSG_DECLARED_POINTER(Material, AttachmentContainerPtr);
 OSG_DECLARED_POINTER(MaterialGroup, GroupPtr);
+
 class MaterialGroup : public Group
 {
     OSG_DECLARED_CLASS(MaterialGroup, Group)

@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include <OpenSG/OSGVector.h>
+
 namespace osg {
-template <class V> class QuaternionBase;
-template <class V> class TransformationMatrix
+template <class V>
+class QuaternionBase;
+
+template <class V>
+class TransformationMatrix
 {
     typedef VectorOf<V, 3> Vec;
     typedef PointOf<V, 3> Pnt;
@@ -69,6 +73,7 @@ public:
 private:
     V numbers[16];
 };
+
 typedef TransformationMatrix<Real32> Matrix;
 typedef TransformationMatrix<Real32> Matrix4f;
 typedef TransformationMatrix<Real64> Matrix4d;

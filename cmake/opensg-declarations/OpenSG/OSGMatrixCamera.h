@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include <OpenSG/OSGCamera.h>
+
 namespace osg {
 OSG_DECLARED_POINTER(MatrixCamera, CameraPtr);
+
 class MatrixCamera : public Camera
 {
     OSG_DECLARED_CLASS(MatrixCamera, Camera)

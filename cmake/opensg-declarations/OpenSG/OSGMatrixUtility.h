@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include <OpenSG/OSGMatrix.h>
+
 namespace osg {
 bool MatrixPerspective(Matrix& result, Real32 halfFov, Real32 aspect, Real32 near, Real32 far);
 bool MatrixFrustum(Matrix& result, Real32 l, Real32 r, Real32 b, Real32 t, Real32 n, Real32 f);

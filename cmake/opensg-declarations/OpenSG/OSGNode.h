@@ -3,6 +3,7 @@
 #include <OpenSG/OSGDynamicVolume.h>
 #include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGNodePtr.h>
+
 namespace osg {
 class Node : public AttachmentContainer
 {
@@ -38,6 +39,7 @@ class Node : public AttachmentContainer
     SFNodeCorePtr* getSFCore();
     SFNodePtr* getSFParent();
 };
+
 NodePtr cloneTree(const NodePtr& root);
 FieldContainerPtr deepClone(const FieldContainerPtr& source, const std::string& shareTypes = "");
 NodePtr deepCloneTree(const NodePtr& root, const std::string& shareTypes = "");

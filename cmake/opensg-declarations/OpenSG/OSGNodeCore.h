@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include <OpenSG/OSGNodePtr.h>
+
 namespace osg {
 class NodeCore : public AttachmentContainer
 {

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include <OpenSG/OSGCamera.h>
+
 namespace osg {
 OSG_DECLARED_POINTER(OrthographicCamera, CameraPtr);
+
 class OrthographicCamera : public Camera
 {
     OSG_DECLARED_CLASS(OrthographicCamera, Camera)

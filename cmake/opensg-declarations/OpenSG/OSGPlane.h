@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
-#include <OpenSG/OSGVector.h>
 #include <OpenSG/OSGMatrix.h>
+#include <OpenSG/OSGVector.h>
+
 namespace osg {
 class Line;
+
 class Plane
 {
 public:

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include <OpenSG/OSGStateChunk.h>
+
 namespace osg {
 OSG_DECLARED_POINTER(PolygonChunk, StateChunkPtr);
+
 class PolygonChunk : public StateChunk
 {
     OSG_DECLARED_CLASS(PolygonChunk, StateChunk)

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include <OpenSG/OSGMatrix.h>
+
 namespace osg {
-template <class V> class QuaternionBase
+template <class V>
+class QuaternionBase
 {
     typedef VectorOf<V, 3> Vec;
     typedef TransformationMatrix<V> Mat;

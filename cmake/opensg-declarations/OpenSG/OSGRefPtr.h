@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include <OpenSG/OSGFieldContainerPtr.h>
+
 namespace osg {
-template <class Pointer> class RefPtr
+template <class Pointer>
+class RefPtr
 {
 public:
     typedef const Pointer RefPtr::*unspecified_bool_type;

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
-#include <OpenSG/OSGSField.h>
 #include <OpenSG/OSGColor.h>
+#include <OpenSG/OSGSField.h>
+
 namespace osg {
 typedef SField<std::string> SFString;
 typedef SField<Color3f> SFColor3f;

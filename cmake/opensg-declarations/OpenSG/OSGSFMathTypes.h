@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
-#include <OpenSG/OSGSField.h>
 #include <OpenSG/OSGQuaternion.h>
+#include <OpenSG/OSGSField.h>
+
 namespace osg {
 typedef SField<Matrix> SFMatrix;
 typedef SField<Quaternion> SFQuaternion;

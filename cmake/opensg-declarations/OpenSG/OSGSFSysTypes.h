@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include <OpenSG/OSGSField.h>
+
 namespace osg {
 typedef SField<bool, 2> SFBool;
 typedef SField<Int32> SFInt32;

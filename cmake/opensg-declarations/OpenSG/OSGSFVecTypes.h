@@ -2,6 +2,7 @@
 #pragma once
 #include <OpenSG/OSGSField.h>
 #include <OpenSG/OSGVector.h>
+
 namespace osg {
 typedef SField<Vec2f> SFVec2f;
 typedef SField<Vec3f> SFVec3f;

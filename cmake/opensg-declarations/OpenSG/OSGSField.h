@@ -1,34 +1,49 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include <OpenSG/OSGFieldContainerPtr.h>
+
 namespace osg {
 class DataType
 {
 public:
     DataType(const Char8* name, const Char8* parentName);
 };
+
 class Field
 {
 public:
     virtual ~Field();
 };
+
 class FieldType
 {
 public:
-    enum Cardinality { SINGLE_FIELD, MULTI_FIELD };
-    FieldType(const Char8* name, const Char8* parentName, const DataType& content, Field* (*create)(), Cardinality cardinality);
+    enum Cardinality
+    {
+        SINGLE_FIELD,
+        MULTI_FIELD
+    };
+
+    FieldType(const Char8* name, const Char8* parentName, const DataType& content,
+              Field* (*create)(), Cardinality cardinality);
 };
-template <class Value> struct FieldDataTraits
+
+template <class Value>
+struct FieldDataTraits
 {
     static DataType& getType();
     static const char* getSName();
     static const char* getPName();
 };
-template <class Value, bool isPointer> struct FieldTraitsRecurseMapper
+
+template <class Value, bool isPointer>
+struct FieldTraitsRecurseMapper
 {
     static const char* getPName();
 };
-template <class Value, Int32 space = 0> class SField : public Field
+
+template <class Value, Int32 space = 0>
+class SField : public Field
 {
 public:
     typedef Value StoredType;

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include <OpenSG/OSGShaderParameterChunk.h>
+
 namespace osg {
 OSG_DECLARED_POINTER(ShaderChunk, ShaderParameterChunkPtr);
+
 class ShaderChunk : public ShaderParameterChunk
 {
     OSG_DECLARED_TYPE(ShaderChunk, ShaderParameterChunk)

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include <OpenSG/OSGAttachment.h>
+
 namespace osg {
 OSG_DECLARED_POINTER(ShaderParameter, AttachmentPtr);
+
 class ShaderParameter : public Attachment
 {
     OSG_DECLARED_TYPE(ShaderParameter, Attachment)

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
-#include <OpenSG/OSGShaderParameter.h>
 #include <OpenSG/OSGSFSysTypes.h>
+#include <OpenSG/OSGShaderParameter.h>
+
 namespace osg {
 OSG_DECLARED_POINTER(ShaderParameterBool, ShaderParameterPtr);
+
 class ShaderParameterBool : public ShaderParameter
 {
     OSG_DECLARED_CLASS(ShaderParameterBool, ShaderParameter)

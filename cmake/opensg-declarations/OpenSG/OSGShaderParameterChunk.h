@@ -5,8 +5,10 @@
 #include <OpenSG/OSGMFVecTypes.h>
 #include <OpenSG/OSGShaderParameter.h>
 #include <OpenSG/OSGStateChunk.h>
+
 namespace osg {
 OSG_DECLARED_POINTER(ShaderParameterChunk, StateChunkPtr);
+
 class ShaderParameterChunk : public StateChunk
 {
     OSG_DECLARED_TYPE(ShaderParameterChunk, StateChunk)

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
-#include <OpenSG/OSGShaderParameter.h>
 #include <OpenSG/OSGSFSysTypes.h>
+#include <OpenSG/OSGShaderParameter.h>
+
 namespace osg {
 OSG_DECLARED_POINTER(ShaderParameterInt, ShaderParameterPtr);
+
 class ShaderParameterInt : public ShaderParameter
 {
     OSG_DECLARED_CLASS(ShaderParameterInt, ShaderParameter)

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
-#include <OpenSG/OSGShaderParameter.h>
 #include <OpenSG/OSGMFSysTypes.h>
+#include <OpenSG/OSGShaderParameter.h>
+
 namespace osg {
 OSG_DECLARED_POINTER(ShaderParameterMInt, ShaderParameterPtr);
+
 class ShaderParameterMInt : public ShaderParameter
 {
     OSG_DECLARED_CLASS(ShaderParameterMInt, ShaderParameter)

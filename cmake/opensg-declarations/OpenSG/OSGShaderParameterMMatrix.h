@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
-#include <OpenSG/OSGShaderParameter.h>
 #include <OpenSG/OSGMFMathTypes.h>
+#include <OpenSG/OSGShaderParameter.h>
+
 namespace osg {
 OSG_DECLARED_POINTER(ShaderParameterMMatrix, ShaderParameterPtr);
+
 class ShaderParameterMMatrix : public ShaderParameter
 {
     OSG_DECLARED_CLASS(ShaderParameterMMatrix, ShaderParameter)

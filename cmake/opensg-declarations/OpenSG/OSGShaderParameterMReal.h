@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
-#include <OpenSG/OSGShaderParameter.h>
 #include <OpenSG/OSGMFSysTypes.h>
+#include <OpenSG/OSGShaderParameter.h>
+
 namespace osg {
 OSG_DECLARED_POINTER(ShaderParameterMReal, ShaderParameterPtr);
+
 class ShaderParameterMReal : public ShaderParameter
 {
     OSG_DECLARED_CLASS(ShaderParameterMReal, ShaderParameter)

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
-#include <OpenSG/OSGShaderParameter.h>
 #include <OpenSG/OSGMFVecTypes.h>
+#include <OpenSG/OSGShaderParameter.h>
+
 namespace osg {
 OSG_DECLARED_POINTER(ShaderParameterMVec2f, ShaderParameterPtr);
+
 class ShaderParameterMVec2f : public ShaderParameter
 {
     OSG_DECLARED_CLASS(ShaderParameterMVec2f, ShaderParameter)

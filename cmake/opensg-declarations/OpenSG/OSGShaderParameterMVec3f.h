@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
-#include <OpenSG/OSGShaderParameter.h>
 #include <OpenSG/OSGMFVecTypes.h>
+#include <OpenSG/OSGShaderParameter.h>
+
 namespace osg {
 OSG_DECLARED_POINTER(ShaderParameterMVec3f, ShaderParameterPtr);
+
 class ShaderParameterMVec3f : public ShaderParameter
 {
     OSG_DECLARED_CLASS(ShaderParameterMVec3f, ShaderParameter)

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
-#include <OpenSG/OSGShaderParameter.h>
 #include <OpenSG/OSGMFVecTypes.h>
+#include <OpenSG/OSGShaderParameter.h>
+
 namespace osg {
 OSG_DECLARED_POINTER(ShaderParameterMVec4f, ShaderParameterPtr);
+
 class ShaderParameterMVec4f : public ShaderParameter
 {
     OSG_DECLARED_CLASS(ShaderParameterMVec4f, ShaderParameter)

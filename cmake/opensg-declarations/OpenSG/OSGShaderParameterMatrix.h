@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
-#include <OpenSG/OSGShaderParameter.h>
 #include <OpenSG/OSGSFMathTypes.h>
+#include <OpenSG/OSGShaderParameter.h>
+
 namespace osg {
 OSG_DECLARED_POINTER(ShaderParameterMatrix, ShaderParameterPtr);
+
 class ShaderParameterMatrix : public ShaderParameter
 {
     OSG_DECLARED_CLASS(ShaderParameterMatrix, ShaderParameter)

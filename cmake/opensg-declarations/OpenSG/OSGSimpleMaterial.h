@@ -2,8 +2,10 @@
 #pragma once
 #include <OpenSG/OSGChunkMaterial.h>
 #include <OpenSG/OSGColor.h>
+
 namespace osg {
 OSG_DECLARED_POINTER(SimpleMaterial, ChunkMaterialPtr);
+
 class SimpleMaterial : public ChunkMaterial
 {
     OSG_DECLARED_CLASS(SimpleMaterial, ChunkMaterial)

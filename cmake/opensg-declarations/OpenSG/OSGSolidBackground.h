@@ -2,8 +2,10 @@
 #pragma once
 #include <OpenSG/OSGBackground.h>
 #include <OpenSG/OSGColor.h>
+
 namespace osg {
 OSG_DECLARED_POINTER(SolidBackground, BackgroundPtr);
+
 class SolidBackground : public Background
 {
     OSG_DECLARED_CLASS(SolidBackground, Background)

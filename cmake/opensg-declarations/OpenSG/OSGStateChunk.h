@@ -1,15 +1,19 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include <OpenSG/OSGAttachment.h>
+
 namespace osg {
 class DrawActionBase;
+
 class StateChunkClass
 {
 public:
     StateChunkClass(Char8* name, UInt32 slots = 1);
     UInt32 getId() const;
 };
+
 OSG_DECLARED_POINTER(StateChunk, AttachmentPtr);
+
 class StateChunk : public Attachment
 {
     OSG_DECLARED_TYPE(StateChunk, Attachment)

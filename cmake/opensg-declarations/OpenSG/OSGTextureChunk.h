@@ -3,9 +3,11 @@
 #include <OpenSG/OSGAttachmentContainer.h>
 #include <OpenSG/OSGColor.h>
 #include <OpenSG/OSGStateChunk.h>
+
 namespace osg {
 OSG_DECLARED_POINTER(Image, AttachmentContainerPtr);
 OSG_DECLARED_POINTER(TextureChunk, StateChunkPtr);
+
 class TextureChunk : public StateChunk
 {
     OSG_DECLARED_CLASS(TextureChunk, StateChunk)

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include <OpenSG/OSGBaseTypes.h>
+
 namespace osg {
 class ChangeList;
+
 class Thread
 {
 public:

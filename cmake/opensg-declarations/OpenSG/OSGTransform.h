@@ -2,8 +2,10 @@
 #pragma once
 #include <OpenSG/OSGGroup.h>
 #include <OpenSG/OSGMatrix.h>
+
 namespace osg {
 OSG_DECLARED_POINTER(Transform, GroupPtr);
+
 class Transform : public Group
 {
     OSG_DECLARED_CLASS(Transform, Group)

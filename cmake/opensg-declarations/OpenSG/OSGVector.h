@@ -1,18 +1,31 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include <OpenSG/OSGBaseTypes.h>
+
 #include <ostream>
+
 namespace osg {
-template <UInt32 N> struct osgWith4 {};
-template <> struct osgWith4<4> { typedef void Type; };
-template <class V, UInt32 N> class VectorOf;
-template <class V, UInt32 N> class PointOf
+template <UInt32 N>
+struct osgWith4
+{ };
+
+template <>
+struct osgWith4<4>
+{
+    typedef void Type;
+};
+template <class V, UInt32 N>
+class VectorOf;
+
+template <class V, UInt32 N>
+class PointOf
 {
 public:
     static const PointOf Null;
     PointOf();
     explicit PointOf(const V* values);
-    template <class O, UInt32 M> explicit PointOf(const PointOf<O, M>& source);
+    template <class O, UInt32 M>
+    explicit PointOf(const PointOf<O, M>& source);
     explicit PointOf(V x);
     PointOf(V x, V y);
     PointOf(V x, V y, V z);
@@ -28,7 +41,8 @@ public:
     V x() const;
     V y() const;
     V z() const;
-    template <UInt32 M = N, class = typename osgWith4<M>::Type> V w() const;
+    template <UInt32 M = N, class = typename osgWith4<M>::Type>
+    V w() const;
     V& operator[](UInt32 index);
     const V& operator[](UInt32 index) const;
     V dist(const PointOf& other) const;
@@ -52,7 +66,9 @@ public:
 private:
     V numbers[N];
 };
-template <class V, UInt32 N> class VectorOf : public PointOf<V, N>
+
+template <class V, UInt32 N>
+class VectorOf : public PointOf<V, N>
 {
 public:
     static const VectorOf Null;
@@ -76,8 +92,10 @@ public:
     VectorOf operator*(V factor) const;
     VectorOf operator-() const;
 };
-template <class V, UInt32 N> VectorOf<V, N> operator*(V factor, const VectorOf<V, N>& vector);
-template <class V, UInt32 N> std::ostream& operator<<(std::ostream& out, const PointOf<V, N>& point);
+template <class V, UInt32 N>
+VectorOf<V, N> operator*(V factor, const VectorOf<V, N>& vector);
+template <class V, UInt32 N>
+std::ostream& operator<<(std::ostream& out, const PointOf<V, N>& point);
 typedef PointOf<Real32, 2> Pnt2f;
 typedef PointOf<Real32, 3> Pnt3f;
 typedef PointOf<Real32, 4> Pnt4f;

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include <OpenSG/OSGNodePtr.h>
+
 namespace osg {
 OSG_DECLARED_POINTER(Background, AttachmentContainerPtr);
 OSG_DECLARED_POINTER(Camera, AttachmentContainerPtr);
 OSG_DECLARED_POINTER(Window, AttachmentContainerPtr);
 OSG_DECLARED_POINTER(Viewport, AttachmentContainerPtr);
+
 class Viewport : public AttachmentContainer
 {
     OSG_DECLARED_CLASS(Viewport, AttachmentContainer)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include <OpenSG/OSGVector.h>
+
 namespace osg {
 class Volume
 {

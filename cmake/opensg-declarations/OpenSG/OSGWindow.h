@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include <OpenSG/OSGAttachmentContainer.h>
+
 namespace osg {
 OSG_DECLARED_POINTER(Viewport, AttachmentContainerPtr);
 OSG_DECLARED_POINTER(Window, AttachmentContainerPtr);
+
 class Window : public AttachmentContainer
 {
     OSG_DECLARED_TYPE(Window, AttachmentContainer)
