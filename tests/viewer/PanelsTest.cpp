@@ -76,7 +76,7 @@ TEST_F(Panels, ADragInAFieldStepsItAsOneStepAndLinkedScalesKeepTheirRatio)
     auto* line = scale->findChild<QDoubleSpinBox*>()->findChild<QLineEdit*>();
     QTest::mousePress(line, Qt::LeftButton, {}, { 5, 5 });
     for (const int x : { 30, 65 }) {
-        QMouseEvent moved(QEvent::MouseMove, QPoint(x, 5), line->mapToGlobal({ x, 5 }),
+        QMouseEvent moved(QEvent::MouseMove, QPoint(x, 5), line->mapToGlobal(QPoint(x, 5)),
                           Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(line, &moved);
     }

@@ -23,7 +23,8 @@ QByteArray htmlOf(const QString& page)
     document.setDefaultFont(QFont(QStringLiteral("sans-serif")));
     document.setMarkdown(
         QString::fromUtf8(file.readAll()).replace(kLink, QStringLiteral("](\\1.html)")));
-    return document.toHtml("utf-8").toUtf8();
+    // Qt 5 names no encoding of its own accord.
+    return document.toHtml().replace("<head>", "<head><meta charset=\"utf-8\" />").toUtf8();
 }
 
 }  // namespace
