@@ -49,7 +49,7 @@ run(${COMPILER} ${flags} ${cflags} ${CMAKE_CURRENT_LIST_DIR}/drag/drag_gizmo.cpp
 run(${SCRATCH}/drag_gizmo)
 
 # == Every header, behind those of X11 with their macros, which Qt's own must precede
-run(pkg-config --variable=includedir nbManipulator)
+run(pkg-config --variable=includedir nbManipulator${SUFFIX})
 string(STRIP "${output}" includedir)
 file(GLOB_RECURSE headers RELATIVE ${includedir} ${includedir}/*.h)
 foreach(header FrameTargets.h FieldContainerGlueSystem.h PickView.h)
