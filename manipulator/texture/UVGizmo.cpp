@@ -11,7 +11,6 @@
 #include <nbOpenSGUtils/nbNodeUtils.h>
 #include <nbUtils/nbMessage.h>
 
-
 namespace nbec::manipulator::texture {
 
 namespace {

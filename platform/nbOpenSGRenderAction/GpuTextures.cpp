@@ -4,7 +4,6 @@
 #include <nbOpenSGRenderAction/nbImageConvert.h>
 #include <nbUtils/nbLog.h>
 
-#include <ContentStamp.h>
 #include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGImage.h>
 
@@ -12,6 +11,8 @@
 #include <cstddef>
 #include <string>
 #include <vector>
+
+#include <ContentStamp.h>
 
 namespace nbrender {
 

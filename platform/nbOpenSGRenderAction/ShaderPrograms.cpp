@@ -20,7 +20,6 @@
 #include <OpenSG/OSGShaderParameterVec3f.h>
 #include <OpenSG/OSGShaderParameterVec4f.h>
 
-
 namespace nbrender {
 
 namespace {

@@ -11,7 +11,6 @@
 
 #include <OpenSG/OSGMatrix.h>
 
-
 namespace nbTransformMath {
 
 using osg::Vec3d;

@@ -3,7 +3,6 @@
 
 #include <OpenSG/OSGFieldContainerFactory.h>
 
-
 #include "GeometryExtraction.h"
 #include "TreeWalk.h"
 #include <ChangeCount.h>

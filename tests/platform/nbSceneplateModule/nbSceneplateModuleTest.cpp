@@ -330,8 +330,8 @@ TEST_F(nbSceneplateModuleTest, PlatesAreAlignedDistributedMovedAndDuplicatedAsOn
     EXPECT_NEAR(box(right, 0).second, outer.second + 12.f, 0.51f);
     nbSceneplateEditing::align({ right }, 0, Side::High, 800, 600);
     EXPECT_NEAR(box(right, 0).second, 800.f, 0.51f) << "one alone: in the view";
-    const auto copies = nbSceneplateEditing::duplicate(
-        { other, right }, [](const auto& name) { return name + "+"; });
+    const auto copies = nbSceneplateEditing::duplicate({ other, right },
+                                                       [](const auto& name) { return name + "+"; });
     ASSERT_EQ(copies.size(), 1U);
     EXPECT_EQ(platetest::plateOf(copies[0])->getSize(), platetest::plateOf(right)->getSize());
     EXPECT_EQ(nbSceneplateEditing::getStack().front(), copies[0]);
