@@ -2,11 +2,18 @@
 #include "viewer/stage/Stage.h"
 
 #include "tests/viewer/support/StageTest.h"
+#include "viewer/loading/BuiltModel.h"
+#include "viewer/loading/ModelReader.h"
 #include "viewer/stage/HandleCursor.h"
 
 #include <nbInteraction/EventNames.h>
 #include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
+
+#include <OpenSG/OSGTransform.h>
+
+#include <QJsonArray>
+#include <QTemporaryDir>
 
 #include <set>
 #include <string>
@@ -34,6 +41,28 @@ TEST_F(StageWithStartScene, ADragFromEmptySpaceSelectsWhatLiesInTheRectangle)
     EXPECT_EQ(found.count("Vase") + found.count("Knot") + found.count("Pawn"), 3U);
     EXPECT_EQ(found.count("Table"), 0U) << "it reaches out of the view";
     view.clearPressPosition();
+}
+
+TEST_F(StageWithStartScene, WhatIsExportedIsReadAgainWhereItStands)
+{
+    const QTemporaryDir folder;
+    stage.commands().setOutputFolder(folder.path());
+    ASSERT_TRUE(stage.commands().run("object.translation", QJsonArray { 1, 2, 3 }, error));
+    const osg::BoxVolume bounds = nbNodeUtils::getWorldBounds(stage.selectedObject());
+    const std::size_t triangles = stage.triangleCount();
+    for (const char* name : { "a.glb", "b.obj" }) {
+        ASSERT_TRUE(stage.commands().run("scene.export", name, error)) << error.toStdString();
+        const std::optional<ModelData> model = readModelFile(folder.filePath(name), {}, error);
+        ASSERT_TRUE(model) << error.toStdString();
+        EXPECT_EQ(model->triangleCount(), triangles);
+        stage.clear();
+        stage.add(*model);
+        ASSERT_TRUE(stage.selectByName("Knot")) << name;
+        const osg::BoxVolume again = nbNodeUtils::getWorldBounds(stage.selectedObject());
+        EXPECT_NEAR((again.getMin() - bounds.getMin()).length(), 0.0F, 1e-4F) << name;
+    }
+    EXPECT_FALSE(stage.commands().run("scene.export", "c.none", error));
+    EXPECT_TRUE(error.contains("c.none")) << error.toStdString();
 }
 
 TEST_F(StageWithStartScene, CursorsPointAlongTheAxesOnTheScreen)

@@ -9,12 +9,14 @@
 #include "viewer/gui/ShortcutPage.h"
 #include "viewer/gui/ThemeIcon.h"
 #include "viewer/gui/ViewWidget.h"
+#include "viewer/loading/ModelExport.h"
 #include "viewer/stage/Stage.h"
 
 #include <nbKernelServices/nbUndoService.h>
 
 #include <QAction>
 #include <QActionGroup>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QMenu>
 #include <QMenuBar>
@@ -182,10 +184,22 @@ void WindowActions::addFileMenu()
              [this](bool) { window.scenes().save(); });
     addUnplayed(menu, "sceneSaveAs", tr("Save sc&ene as…"), "Ctrl+Shift+S",
                 [this] { window.scenes().saveAs(); });
+    addUnplayed(menu, "fileExport", tr("E&xport models…"), {}, [this] { exportAsked(); });
     addUnplayed(menu, "filePicture", tr("Sa&ve picture…"), "Ctrl+E",
                 [this] { window.askForPicture(); });
     menu->addSeparator();
     addUnplayed(menu, "fileQuit", tr("&Quit"), "Ctrl+Q", [this] { window.close(); });
+}
+
+void WindowActions::exportAsked()
+{
+    const QString kinds = QStringLiteral("*.") + exportEndings().join(QStringLiteral(" *."));
+    const QString path = QFileDialog::getSaveFileName(
+        &window, tr("Export models"), QStringLiteral("models.glb"), tr("Models (%1)").arg(kinds));
+    QString error;
+    if (!path.isEmpty() && !exportModels(path, error)) {
+        emit window.problem(error);
+    }
 }
 
 void WindowActions::addEditMenu()

@@ -69,6 +69,7 @@ private:
     /// Runs a command of the stage; a refusal becomes a problem of the window.
     void run(const QString& command, const QJsonValue& value = {});
     void addFileMenu();
+    void exportAsked();
     void addEditMenu();
     void addObjectActions(QMenu* menu);
     void addViewMenu();

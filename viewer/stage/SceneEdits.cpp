@@ -2,6 +2,7 @@
 #include "viewer/stage/SceneEdits.h"
 
 #include "viewer/loading/BuiltModel.h"
+#include "viewer/loading/ModelExport.h"
 #include "viewer/loading/NodeChildren.h"
 #include "viewer/stage/ClipPlanes.h"
 #include "viewer/stage/Stage.h"
@@ -143,6 +144,10 @@ void addSceneEdits(Stage& stage)
             return edit(stage, value, error);
         });
     };
+    stage.commands().add("scene.export", [&stage](const QJsonValue& value, QString& error) {
+        const QString path = stage.commands().outputPath(value.toString(), QString(), error);
+        return !path.isEmpty() && exportModels(path, error);
+    });
     add("scene.delete", &deleteSelected);
     add("scene.duplicate", &duplicateSelected);
     add("object.name", &rename);
