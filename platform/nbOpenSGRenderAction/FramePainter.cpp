@@ -52,7 +52,7 @@ void FramePainter::draw(Gl& gl, const Frame& frame, const osg::ViewportPtr& view
 {
     gl.glViewport(0, 0, frame.widthPx, frame.heightPx);
     if (viewport == osg::NullFC || viewport->getCamera() == osg::NullFC) {
-        begin(gl, frame, viewport, targets);
+        drawBackground(gl, frame, viewport, targets);
         return;
     }
     const FrameView view = prepareView(frame, viewport);
@@ -65,7 +65,7 @@ void FramePainter::draw(Gl& gl, const Frame& frame, const osg::ViewportPtr& view
             targets.markDrawn(pixelsOf(steps[i], frame, view));
         }
     } else {
-        begin(gl, frame, viewport, targets);
+        drawBackground(gl, frame, viewport, targets);
         plates.drawBack(gl, frame, programs, textures);
     }
     const std::size_t middle = std::max(plan.reused, plan.kept);
@@ -85,7 +85,7 @@ void FramePainter::drawScene(Gl& gl, const Frame& frame, const osg::ViewportPtr&
     gl.glViewport(0, 0, frame.widthPx, frame.heightPx);
     const FrameView view = prepareView(frame, viewport);
     plates.update(viewport->getRoot());
-    begin(gl, frame, viewport, targets);
+    drawBackground(gl, frame, viewport, targets);
     plates.drawBack(gl, frame, programs, textures);
     FrameSteps steps;
     osg::ContentStamp stamp;
@@ -100,12 +100,12 @@ PixelBox FramePainter::drawHandles(Gl& gl, const Frame& frame, const osg::Viewpo
     gl.glViewport(0, 0, frame.widthPx, frame.heightPx);
     const FrameView view = prepareView(frame, viewport);
     FrameSteps steps;
-    if (scene != 0 && plates.hasFront()) {
+    if (plates.hasFront()) {
         steps.push_back({ FrameStep::Kind::FrontPlates, 0, true, 0 });
     }
     osg::ContentStamp stamp;
     addItems(steps, stamp, frame, view, false, true);
-    PixelBox box = scene != 0 ? PixelBox() : wholeOf(frame);
+    PixelBox box;
     for (const FrameStep& step : steps) {
         box.unite(pixelsOf(step, frame, view));
     }
@@ -114,11 +114,7 @@ PixelBox FramePainter::drawHandles(Gl& gl, const Frame& frame, const osg::Viewpo
     gl.glScissor(box.left, box.bottom, box.right - box.left, box.top - box.bottom);
     clear(gl, depth);
     gl.glColorMaski(1, GL_FALSE, GL_FALSE, GL_FALSE, GL_FALSE);
-    if (scene != 0) {
-        drawPicture(gl, frame, scene, GL_LINEAR);
-    } else {
-        BackgroundPainter::draw(gl, viewport, frame, programs, textures);
-    }
+    drawPicture(gl, frame, scene, GL_LINEAR);
     gl.glColorMaski(1, GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
     gl.glDisable(GL_SCISSOR_TEST);
     drawSteps(gl, frame, viewport, view, steps, 0, steps.size());
@@ -137,9 +133,10 @@ void FramePainter::drawPicture(Gl& gl, const Frame& frame, GLuint texture, GLint
     frame.count->add(1);
 }
 
-void FramePainter::begin(Gl& gl, const Frame& frame, const osg::ViewportPtr& viewport,
-                         FrameTargets& targets)
+void FramePainter::drawBackground(Gl& gl, const Frame& frame, const osg::ViewportPtr& viewport,
+                                  FrameTargets& targets)
 {
+    gl.glViewport(0, 0, frame.widthPx, frame.heightPx);
     targets.markDrawn(wholeOf(frame));
     gl.glDisable(GL_SCISSOR_TEST);
     clear(gl, depth);

@@ -33,9 +33,13 @@ public:
     void drawScene(Gl& gl, const Frame& frame, const osg::ViewportPtr& viewport,
                    FrameTargets& targets);
 
-    /// Draws background and handles alone, or the plates before the scene and handles over a
-    /// picture of the scene, where they are; of a viewport with a camera.
-    /// @param scene  texture, spread over the frame; 0 for the background
+    /// Draws background and photograph alone.
+    void drawBackground(Gl& gl, const Frame& frame, const osg::ViewportPtr& viewport,
+                        FrameTargets& targets);
+
+    /// Draws the plates before the scene and handles over a picture of the scene, where they are;
+    /// of a viewport with a camera.
+    /// @param scene  texture, spread over the frame
     /// @return outside of which nothing was drawn
     PixelBox drawHandles(Gl& gl, const Frame& frame, const osg::ViewportPtr& viewport,
                          FrameTargets& targets, GLuint scene);
@@ -58,7 +62,6 @@ public:
 
 private:
     GlProgram* usePictureProgram(Gl& gl);
-    void begin(Gl& gl, const Frame& frame, const osg::ViewportPtr& viewport, FrameTargets& targets);
     FrameView prepareView(const Frame& frame, const osg::ViewportPtr& viewport);
     FrameSteps makeSteps(const Frame& frame, const osg::ViewportPtr& viewport,
                          const FrameView& view);

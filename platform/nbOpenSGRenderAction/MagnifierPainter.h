@@ -9,10 +9,12 @@ namespace nbrender {
 
 /// Draws the lens of nbMagnifierRenderer over the pictures of the main render widget.
 ///
-/// The lens is a disc about the cursor's pixel, whose middle stays in its place, with a rim that is
-/// seen on any ground. Within it every pixel of the picture is a square, as large as the scale is,
-/// without smoothing, so that a whole scale shows pixels exactly. Beyond the picture its outermost
-/// pixels go on. Needs the current context of its first use.
+/// The lens is a disc about the cursor's pixel, moved as far as it takes to lie within the picture,
+/// with a rim that is seen on any ground and, if it is asked for, a thin cross that leaves the
+/// middle free; there is none about a cursor outside of the picture. Within it every pixel of the
+/// picture is a square, as large as the scale is, without smoothing, so that a whole scale shows
+/// pixels exactly. Beyond the picture its outermost pixels go on. Needs the current context of its
+/// first use.
 class MagnifierPainter
 {
 public:
@@ -27,7 +29,8 @@ public:
     /// Keeps what the lens shows of a picture, until draw().
     /// @param picture  framebuffer that holds it from its lower left corner on, widthPx x heightPx,
     ///                 in its first buffer
-    void keep(Gl& gl, GLuint picture, int widthPx, int heightPx, float pixelRatio);
+    /// @param crossed  whether there is a cross
+    void keep(Gl& gl, GLuint picture, int widthPx, int heightPx, float pixelRatio, bool crossed);
 
     /// Draws into the bound framebuffer, in which a picture of the size that keep() was given lies
     /// from its lower left corner on.
@@ -46,7 +49,9 @@ private:
     int originY = 0;
     int keptWidth = 0;
     int keptHeight = 0;
+    int pictureWidth = 0;
     int pictureHeight = 0;
+    bool hasCross = false;
 };
 
 }  // namespace nbrender

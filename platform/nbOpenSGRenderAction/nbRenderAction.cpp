@@ -40,7 +40,7 @@ struct nbRenderAction::Impl
     void forgetContext();
     bool bindTargets(int widthPx, int heightPx, std::string& error);
     bool isLensShown(const osg::ViewportPtr& viewport) const;
-    void keepForLens(const Frame& frame);
+    void keepForLens(const Frame& frame, bool crossed);
     void present(const osg::ViewportPtr& viewport, const Frame& frame,
                  osg::UInt32 targetFramebuffer);
     /// Draws the scene with fewer pixels below handles with all of them.
@@ -123,10 +123,10 @@ bool nbRenderAction::Impl::isLensShown(const osg::ViewportPtr& viewport) const
     return !effectShown && nbrender::MagnifierPainter::isShown(viewport);
 }
 
-void nbRenderAction::Impl::keepForLens(const Frame& frame)
+void nbRenderAction::Impl::keepForLens(const Frame& frame, bool crossed)
 {
     targets.resolve(*gl, FrameTargets::Buffer::Color);
-    magnifier.keep(*gl, targets.getResolved(), frame.widthPx, frame.heightPx, pixelRatio);
+    magnifier.keep(*gl, targets.getResolved(), frame.widthPx, frame.heightPx, pixelRatio, crossed);
 }
 
 void nbRenderAction::Impl::present(const osg::ViewportPtr& viewport, const Frame& frame,
@@ -135,7 +135,7 @@ void nbRenderAction::Impl::present(const osg::ViewportPtr& viewport, const Frame
     const auto shown = effectShown ? FrameTargets::Buffer::Effect : FrameTargets::Buffer::Color;
     const bool isLens = isLensShown(viewport);
     if (isLens && !nbrender::BackgroundPainter::hasPhotograph(viewport)) {
-        keepForLens(frame);
+        keepForLens(frame, false);
     } else {
         targets.resolve(*gl, shown);
     }
@@ -244,9 +244,8 @@ bool nbRenderAction::render(const osg::ViewportPtr& viewport, int widthPx, int h
     const bool hasCamera = viewport != osg::NullFC && viewport->getCamera() != osg::NullFC;
     const bool isLens = impl->isLensShown(viewport);
     if (isLens && hasCamera && nbrender::BackgroundPainter::hasPhotograph(viewport)) {
-        impl->painter.drawHandles(*impl->gl, frame, viewport, impl->targets, 0);
-        impl->keepForLens(frame);
-        impl->count.inView = 0;
+        impl->painter.drawBackground(*impl->gl, frame, viewport, impl->targets);
+        impl->keepForLens(frame, true);
         impl->bindTargets(widthPx, heightPx, error);
     }
     const bool isHurried = impl->isHurried && !impl->effectShown && !isLens && hasCamera;

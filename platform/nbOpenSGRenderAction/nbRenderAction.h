@@ -51,7 +51,7 @@
 ///
 /// Over pictures of the main render widget lies the lens of nbMagnifierRenderer while that is
 /// shown; the buffers that can be read do not have it. It enlarges the picture or, if there is a
-/// photograph, that and the handles without the scene, which could hide what is to be seen.
+/// photograph, that alone, as scene and handles could hide what is to be seen, under a thin cross.
 ///
 /// What was drawn before the first handle is kept, colours, effect buffer and depth of all samples,
 /// from the second frame on in which it is the same: a frame in which only handles, or things drawn
