@@ -143,6 +143,8 @@ TEST_F(ModelReaderTest, BrokenFilesGiveOneLineWithTheirName)
         { "noise.png", noise },
         { "unknown.xyz123", noise },
     });
+    EXPECT_FALSE(reader.read(folder.filePath("wild.obj"), {}, error));
+    EXPECT_TRUE(error.contains("line 4")) << error.toStdString();
     EXPECT_FALSE(reader.read(folder.filePath("none.obj"), {}, error));
     EXPECT_TRUE(error.endsWith("none.obj: no such file"));
 }

@@ -11,6 +11,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <cstdlib>
 #include <cstring>
 #include <exception>
 #include <functional>
@@ -109,6 +110,30 @@ bool isPlyHeaderWhole(const QString& path)
     return false;
 }
 
+/// Number of the first line of an OBJ file that names a vertex that there is not; 0 for none.
+int findLostCorner(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return 0;
+    }
+    QByteArrayList lines = file.readAll().split('\n');
+    const auto vertices = std::count_if(lines.begin(), lines.end(), [](const QByteArray& line) {
+        return line.startsWith("v ") || line.startsWith("v\t");
+    });
+    const auto isLost = [vertices](const QByteArray& corner) {
+        const int index = corner.split('/').first().toInt();
+        return index == 0 || std::abs(index) > vertices;
+    };
+    for (int i = 0; i < lines.size(); ++i) {
+        const QByteArrayList words = lines[i].simplified().split(' ');
+        if (words.first() == "f" && std::any_of(words.begin() + 1, words.end(), isLost)) {
+            return i + 1;
+        }
+    }
+    return 0;
+}
+
 /// Files that are cut short may have faces without corners, which end the importer's program.
 bool hasEmptyFaces(const aiScene& scene)
 {
@@ -141,7 +166,11 @@ std::optional<ModelData> readWithImporter(const QString& path,
         if (std::strstr(importer.GetErrorString(), "bad_alloc") != nullptr) {
             throw std::bad_alloc();
         }
-        const QString reason = QString::fromUtf8(importer.GetErrorString()).section('\n', 0, 0);
+        QString reason = QString::fromUtf8(importer.GetErrorString()).section('\n', 0, 0);
+        const int line = hasEnding(path, "obj") ? findLostCorner(path) : 0;
+        if (line > 0) {
+            reason = Text::tr("line %1 names a vertex that there is not").arg(line);
+        }
         return fail(Text::tr("cannot be read as a model: %1").arg(reason), error);
     }
     QString problem;
