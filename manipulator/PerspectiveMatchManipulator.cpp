@@ -376,10 +376,15 @@ bool PerspectiveMatchManipulator::updateMode()
     return found.isSet();
 }
 
-/// How far the pointer has come since the drag's start, line coordinates.
+/// How far the pointer, or the line by its rule, has come since the drag's start, line coordinates.
 DragParameters PerspectiveMatchManipulator::parametersAt(const View& view) const
 {
-    const osg::Vec2f way = visualisation->toLineUnits(pointerFromBelow(view) - dragStart);
+    osg::Vec2f way = visualisation->toLineUnits(pointerFromBelow(view) - dragStart);
+    if (lineRule) {
+        const osg::Line2D laid = lineRule(movedLine(way), handle);
+        way = handle == match::kSecondEnd ? laid.getSecond() - lineAtDragStart.getSecond()
+                                          : laid.getFirst() - lineAtDragStart.getFirst();
+    }
     return { DragParameters::Kind::Offset, osg::Vec3f(way.x(), way.y(), 0.0F) };
 }
 
@@ -392,10 +397,9 @@ void PerspectiveMatchManipulator::applyNow(const DragParameters& parameters)
     updateManipulator();
 }
 
-/// Moves what is held to an offset from the drag's start.
-void PerspectiveMatchManipulator::apply(const DragParameters& parameters)
+/// The line as it was at the drag's start with what is held moved.
+osg::Line2D PerspectiveMatchManipulator::movedLine(const osg::Vec2f& way) const
 {
-    const osg::Vec2f way = parameters.vec2();
     osg::Pnt2f first = lineAtDragStart.getFirst();
     osg::Pnt2f second = lineAtDragStart.getSecond();
     if (handle == match::kLineBody || handle == match::kFirstEnd) {
@@ -404,7 +408,13 @@ void PerspectiveMatchManipulator::apply(const DragParameters& parameters)
     if (handle == match::kLineBody || handle == match::kSecondEnd) {
         second += way;
     }
-    setLine(line, osg::Line2D(first, second));
+    return { first, second };
+}
+
+/// Moves what is held to an offset from the drag's start.
+void PerspectiveMatchManipulator::apply(const DragParameters& parameters)
+{
+    setLine(line, movedLine(parameters.vec2()));
 }
 
 // == Magnifier

@@ -14,8 +14,10 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QObject>
 
+#include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 
 namespace nbec::manipulator {
 
@@ -85,6 +87,14 @@ public:
     /// Sets the camera whose lines are shown. @param camera  null shows none; no count is held
     void setCamera(osg::UberCameraPtr camera);
 
+    /// Where a line is laid instead of where the pointer has it, such as on an edge of the host's
+    /// photograph. Asked at each step of a drag; typed values are taken as they are.
+    /// @param part  1 the line between the ends, 2 the first end, 3 the second: what may move
+    using LineRule = std::function<osg::Line2D(const osg::Line2D& line, osg::UInt32 part)>;
+
+    /// Sets the rule; empty, as at the start: none.
+    void setLineRule(LineRule rule) { lineRule = std::move(rule); }
+
     /// The line under the pointer or grabbed, as of the last event; NoLine for none.
     PerspectiveMatchLine getHoveredLine() const
     {
@@ -108,6 +118,7 @@ private:
     void endDrag();
     bool updateMode();
     DragParameters parametersAt(const View& view) const;
+    osg::Line2D movedLine(const osg::Vec2f& way) const;
     void apply(const DragParameters& parameters);
     void applyNow(const DragParameters& parameters);
     void followView();
@@ -128,6 +139,7 @@ private:
     bool hovered = false;
     bool grabbed = false;
     bool dragging = false;
+    LineRule lineRule;
     std::unique_ptr<Drag> drag;
 };
 

@@ -167,6 +167,70 @@ TEST_F(PerspectiveMatchToolTest, TellsHowSureItIsAndTakesWhatElseIsKnown)
     EXPECT_NEAR(nudged.x() - begin.x(), 1.0F, 0.01F);
 }
 
+TEST_F(PerspectiveMatchToolTest, APhotographFitsByWidthUnderLinesAndModelsThatStayOnIt)
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath("wide.png");
+    QImage wide(900, 300, QImage::Format_RGB32);
+    wide.fill(Qt::gray);
+    ASSERT_TRUE(wide.save(file) && run("match.setActive", true) && !run("match.fit", "width"));
+    ASSERT_TRUE(run("match.setPhotograph", file));
+    const auto onPhotograph = [this](const osg::Pnt2f& px) {
+        const nbPhotographFit place = tool.photograph().place();
+        return osg::Vec2f((px.x() - place.left) / place.width,
+                          (stage.view().getHeight() - px.y() - place.bottom) / place.height);
+    };
+    const auto places = [&] {
+        osg::Pnt2f end;
+        EXPECT_TRUE(tool.findHandle("x1b", end));
+        const float middle = stage.view().getHeight() * 0.5F;
+        const float up = middle / std::tan(0.5F * stage.pose().fovDeg / 57.29578F);
+        return std::pair(onPhotograph(end), onPhotograph(osg::Pnt2f(0.0F, middle - 0.1F * up)));
+    };
+    const auto before = places();
+    const CameraPose pose = stage.pose();
+
+    ASSERT_TRUE(run("match.fit", "width"));
+    EXPECT_FLOAT_EQ(tool.photograph().place().width, static_cast<float>(stage.view().getWidth()));
+    EXPECT_LT((places().first - before.first).length(), 1e-5F);
+    EXPECT_NEAR(places().second.y(), before.second.y(), 1e-4F);
+
+    nbUndoService::the()->undo();
+    EXPECT_FALSE(tool.photograph().fitsWidth());
+    EXPECT_LT((places().first - before.first).length(), 1e-5F);
+    EXPECT_FLOAT_EQ(stage.pose().fovDeg, pose.fovDeg);
+}
+
+TEST_F(PerspectiveMatchToolTest, ADraggedEndGoesToTheEdgeOfThePhotographNearby)
+{
+    QTemporaryDir folder;
+    QImage picture(stage.view().getWidth(), stage.view().getHeight(), QImage::Format_RGB32);
+    picture.fill(Qt::black);
+    ASSERT_TRUE(run("match.setActive", true));
+    osg::Pnt2f fixed;
+    osg::Pnt2f end;
+    ASSERT_TRUE(tool.findHandle("x1a", fixed) && tool.findHandle("x1b", end));
+    // Bright below the line from the first end to 20 pixels under the second one.
+    for (int x = 0; x < picture.width(); ++x) {
+        const double part = (x - fixed.x()) / static_cast<double>(end.x() - fixed.x());
+        const double edge = fixed.y() + part * static_cast<double>(end.y() + 20.F - fixed.y());
+        for (int y = std::max(0, qRound(edge)); y < picture.height(); ++y) {
+            picture.setPixel(x, y, 0xffffffffU);
+        }
+    }
+    const QString file = folder.filePath("edge.png");
+    ASSERT_TRUE(picture.save(file));
+    ASSERT_TRUE(run("match.setPhotograph", file));
+    ASSERT_TRUE(run("match.setEdgeSnapping", true));
+
+    send(names::kStop, dragOut("x1b", 0.0F, 16.0F));
+
+    osg::Pnt2f laid;
+    ASSERT_TRUE(tool.findHandle("x1b", laid));
+    EXPECT_NEAR(laid.y(), end.y() + 20.F, 1.5F);
+    EXPECT_TRUE(run("match.setEdgeSnapping", false));
+}
+
 TEST_F(PerspectiveMatchToolTest, RefusesWhatItCannotDoInOneLine)
 {
     const QJsonObject threeNumbers { { "line", "x1" }, { "ends", QJsonArray { 1, 2, 3 } } };

@@ -3,6 +3,7 @@
 
 #include "viewer/gui/VectorEdit.h"
 #include "viewer/loading/PictureFile.h"
+#include "viewer/match/MatchWords.h"
 #include "viewer/match/PerspectiveMatchCommands.h"
 #include "viewer/stage/Stage.h"
 
@@ -92,6 +93,11 @@ void PerspectiveMatchPanel::addPhotograph(QFormLayout& form)
     remove = addButton(*buttons, "matchRemove", tr("Remove"));
     connect(remove, &QPushButton::clicked, this,
             [this] { run(QStringLiteral("match.setPhotograph"), QString()); });
+    fit = addChoice(QStringLiteral("match.fit"),
+                    { { QLatin1String("height"), tr("Height of the view") },
+                      { QLatin1String("width"), tr("Width of the view") } },
+                    QStringLiteral("match.fitted"));
+    form.addRow(tr("Fills"), fit);
     form.addRow(tr("Over the models"),
                 addSlider(
                     QStringLiteral("match.setVeil"), [] { return std::pair(0.0, 1.0); },
@@ -182,6 +188,9 @@ void PerspectiveMatchPanel::addKnowledge(QBoxLayout& column)
                 [this, axis] { run(QStringLiteral("match.turn"), QLatin1String(axis)); });
         ofUnlocked.push_back(turn);
     }
+    form->addRow(addSwitch(QStringLiteral("match.setEdgeSnapping"),
+                           tr("Lines snap to edges (Alt: not)"),
+                           QStringLiteral("match.edgeSnapping")));
 }
 
 void PerspectiveMatchPanel::addLines(QFormLayout& form)
@@ -215,25 +224,26 @@ void PerspectiveMatchPanel::askForPhotograph()
 {
     const QString file =
         QFileDialog::getOpenFileName(this, tr("Open photograph"), {}, pictureFileFilter());
-    if (!file.isEmpty()) {
-        run(QStringLiteral("match.setPhotograph"), file);
+    if (!file.isEmpty() && run(QStringLiteral("match.setPhotograph"), file)) {
+        run(QStringLiteral("match.setEdgeSnapping"), true);
     }
 }
 
 void PerspectiveMatchPanel::refresh()
 {
     Panel::refresh();
-    const QString name = tool.photograph();
+    const QString name = tool.photograph().name();
     setTextOf(photograph, name.isEmpty() ? tr("none") : name);
     remove->setEnabled(!name.isEmpty());
     for (QWidget* widget : ofUnlocked) {
         widget->setEnabled(!tool.camera().isLocked());
     }
+    fit->setEnabled(!name.isEmpty() && !tool.camera().isLocked());
     const auto fovDeg = static_cast<double>(stage().pose().fovDeg);
     setTextOf(result,
               tr("%1 Field of view %2°.", "sentence, number")
-                      .arg(tool.resultText(), QString::number(fovDeg, 'f', 2)) +
-                  QLatin1Char(' ') + tool.qualityText());
+                      .arg(resultText(tool), QString::number(fovDeg, 'f', 2)) +
+                  QLatin1Char(' ') + qualityText(tool));
 }
 
 }  // namespace viewer

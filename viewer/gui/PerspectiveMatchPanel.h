@@ -36,6 +36,7 @@ private:
     QLabel* result = nullptr;
     QLabel* photograph = nullptr;
     QPushButton* remove = nullptr;
+    QWidget* fit = nullptr;
     std::vector<QWidget*> ofUnlocked;  ///< what a locked camera cannot take
 };
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/match/PerspectiveMatchCommands.h"
 
+#include "viewer/match/MatchWords.h"
 #include "viewer/match/PerspectiveMatchTool.h"
 #include "viewer/stage/Stage.h"
 #include "viewer/texts/Text.h"
@@ -69,7 +70,8 @@ void addModes(Commands& commands, PerspectiveMatchTool& tool, Stage& stage)
             return false;
         }
         const QString file = value.toString();
-        return tool.setPhotograph(file.isEmpty() ? file : stage.commands().filePath(file), error);
+        return tool.photograph().set(file.isEmpty() ? file : stage.commands().filePath(file),
+                                     error);
     });
     commands.addNumber("match.setVeil", 0.0, 1.0, [&tool](double opacity, QString&) {
         tool.setVeil(opacity);
@@ -88,6 +90,8 @@ void addModes(Commands& commands, PerspectiveMatchTool& tool, Stage& stage)
         [&tool] { return tool.isActive(); });
     const std::pair<const char*, void (*)(PerspectiveMatchTool&, bool)> switches[] = {
         { "match.showLines", [](PerspectiveMatchTool& t, bool on) { t.showLines(on); } },
+        { "match.setEdgeSnapping",
+          [](PerspectiveMatchTool& t, bool on) { t.setSnapsToEdges(on); } },
         { "match.setLocked", [](PerspectiveMatchTool& t, bool on) { t.camera().setLocked(on); } },
     };
     for (const auto& [name, set] : switches) {
@@ -113,6 +117,9 @@ void addEdits(Commands& commands, PerspectiveMatchTool& tool)
             const auto mode = static_cast<nbCameraTypes::FovMode>(choice);
             return tool.edit([mode, &tool](const auto&) { tool.camera().setFovMode(mode); }, error);
         });
+    commands.addChoice("match.fit", { "height", "width" }, [&tool](int choice, QString& error) {
+        return tool.fitPhotograph(choice == 1, error);
+    });
     commands.addNumber("match.setMagnifyFactor", nbdPerspectiveMatch::kSmallestMagnifyFactor,
                        nbdPerspectiveMatch::kLargestMagnifyFactor,
                        [&tool](double factor, QString& error) {
@@ -158,7 +165,9 @@ void addEdits(Commands& commands, PerspectiveMatchTool& tool)
 void addValues(Commands& commands, PerspectiveMatchTool& tool, Stage& stage)
 {
     const auto match = [&tool] { return tool.camera().getPerspectiveMatch(); };
-    commands.addValue("match.photograph", [&tool] { return tool.photograph(); });
+    commands.addValue("match.photograph", [&tool] { return tool.photograph().name(); });
+    commands.addValue("match.fitted",
+                      [&tool] { return tool.photograph().fitsWidth() ? "width" : "height"; });
     commands.addValue("match.veil", [&tool] { return tool.veil(); });
     commands.addValue("match.active", [&tool] { return tool.isActive(); });
     commands.addValue("match.linesShown", [&tool] { return tool.areLinesShown(); });
@@ -178,15 +187,16 @@ void addValues(Commands& commands, PerspectiveMatchTool& tool, Stage& stage)
         }
         return lines;
     });
-    commands.addValue("match.result", [&tool] { return tool.resultText(); });
-    commands.addValue("match.quality", [&tool] { return tool.qualityText(); });
+    commands.addValue("match.result", [&tool] { return resultText(tool); });
+    commands.addValue("match.quality", [&tool] { return qualityText(tool); });
     commands.addValue("match.residuals", [&tool] {
         QJsonArray residuals;
-        for (const double residual : tool.residualsPx()) {
+        for (const double residual : residualsPx(tool)) {
             residuals.append(residual);
         }
         return residuals;
     });
+    commands.addValue("match.edgeSnapping", [&tool] { return tool.snapsToEdges(); });
     commands.addValue("match.fov", [&stage] { return stage.pose().fovDeg; });
     commands.addValue("match.corners", [&stage] { return cornersOf(stage); });
 }

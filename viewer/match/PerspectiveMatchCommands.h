@@ -33,9 +33,10 @@ constexpr std::array<const char*, 2> kFovModeNames { "solved", "fixed" };
 /// | turn | "x", "y" or "z": the lines of the other two axes change places, the camera follows |
 /// | placeByLine | {"line": "x1", "length": 2.5}: it begins at the origin and is so long |
 /// | setLens | {"focalLength": 35, "sensorWidth": 36}, any unit |
+/// | setEdgeSnapping | true or false |
 ///
 /// Values: photograph, veil, active, linesShown, locked, linesType, fovMode, magnifyFactor, lines,
-/// result, quality, residuals (device pixels by lines), fov (degrees), and corners:
+/// result, quality, residuals (device pixels by lines), edgeSnapping, fov (degrees), and corners:
 /// the corners of the selected object's bounds as [x, y], device pixels from the upper left, in the
 /// order of x, then y, then z, small before large.
 void addPerspectiveMatchCommands(PerspectiveMatchTool& tool, Stage& stage);

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/match/PerspectiveMatchTool.h"
 
-#include "viewer/loading/PictureFile.h"
+#include "viewer/match/MatchWords.h"
 #include "viewer/match/PerspectiveMatchCommands.h"
 #include "viewer/stage/Stage.h"
+#include "viewer/stage/ValueRecord.h"
 #include "viewer/texts/Text.h"
 
 #include <nbKernel/nbScenegraph.h>
@@ -12,10 +13,8 @@
 #include <nbKernelServices/nbQRPCConverter.h>
 #include <nbKernelServices/nbScopedMultiCommand.h>
 #include <nbKernelServices/nbScopedUndo.h>
-#include <nbOpenSGUberCamera/nbCameraUtils.h>
-#include <nbOpenSGUberViewport/nbPhotographFit.h>
-#include <nbOpenSGUtils/nbEdit.h>
 
+#include <QGuiApplication>
 #include <QJsonArray>
 #include <QJsonObject>
 
@@ -32,6 +31,8 @@ constexpr std::array<const char*, PerspectiveMatchTool::kLineCount> kLineNames {
 constexpr osg::UInt32 kBody = 1;
 constexpr osg::UInt32 kFirstEnd = 2;
 constexpr osg::UInt32 kSecondEnd = 3;
+
+constexpr double kDegPerRad = 180.0 / 3.14159265358979323846;
 
 const char* suffixOf(osg::UInt32 part)
 {
@@ -61,32 +62,24 @@ HandleName read(const std::string& handle)
     return {};
 }
 
-nbPhotographFit fitOf(const nbOSGWidget& view, const osg::ImagePtr& image)
-{
-    const int width = view.getWidth();
-    const int height = view.getHeight();
-    return nbPhotographFit::of(image->getWidth(), image->getHeight(), width, height,
-                               nbCameraUtils::getVerticalSizing(view.getCamera(), width, height));
-}
-
 nbdPerspectiveMatch::Line lineOf(int index)
 {
     return static_cast<nbdPerspectiveMatch::Line>(index);
-}
-
-/// Such as "X1".
-QString lineTitle(int line)
-{
-    return QString(PerspectiveMatchTool::lineName(line)).toUpper();
 }
 
 }  // namespace
 
 PerspectiveMatchTool::PerspectiveMatchTool(Stage& targetStage)
     : stage(targetStage)
+    , behind(targetStage.view())
 {
     context.setPicker(&picker);
     manipulator.setVisualisationRoot(nbScenegraph::getInternalRoot());
+    manipulator.setLineRule([this](const osg::Line2D& line, osg::UInt32 part) {
+        const bool isFree = QGuiApplication::keyboardModifiers().testFlag(Qt::AltModifier);
+        return edgeSnapping && !isFree ? behind.onEdge(line, part != kSecondEnd, part != kFirstEnd)
+                                       : line;
+    });
     stage.addTool(*this);
     addPerspectiveMatchCommands(*this, stage);
     const auto* service = nbKernelServiceFactory::the().find<nbObjectService>();
@@ -115,47 +108,46 @@ nbdCameraNode PerspectiveMatchTool::camera() const
 
 // == The photograph
 
-bool PerspectiveMatchTool::setPhotograph(const QString& file, QString& error)
+bool PerspectiveMatchTool::fitPhotograph(bool byWidth, QString& error)
 {
-    const osg::RefPtr<osg::ImagePtr> image =
-        file.isEmpty() ? osg::RefPtr<osg::ImagePtr>() : readPicture(file, error);
-    const bool isShown = file.isEmpty() || image != osg::NullFC;
-    if (isShown) {
-        setPhotograph(image.get());
+    if (behind.image() == osg::NullFC) {
+        error = Text::tr("there is no photograph");
+        return false;
     }
-    return isShown;
-}
-
-void PerspectiveMatchTool::setPhotograph(const osg::ImagePtr& image)
-{
-    const osg::UberViewportPtr viewport = stage.view().getUberViewport();
-    {
-        const nbEdit edit(viewport, osg::UberViewport::PhotographFieldMask);
-        viewport->setPhotograph(image);
-    }
-    stage.view().update();
-}
-
-QString PerspectiveMatchTool::photograph() const
-{
-    return pictureName(stage.view().getUberViewport()->getPhotograph());
+    return byWidth == behind.fitsWidth() || asStep(Text::tr("Fit photograph"), error, [&] {
+               const nbdPerspectiveMatch match = camera().getPerspectiveMatch();
+               const QPointF middlePx(0.5 * stage.view().getWidth(),
+                                      0.5 * stage.view().getHeight());
+               const double formerPx = behind.unitPx();
+               const float formerWidth = behind.place().width;
+               std::array<QLineF, kLineCount> lines;
+               for (int i = 0; i < kLineCount; ++i) {
+                   lines[static_cast<std::size_t>(i)] = match.getLine(lineOf(i));
+               }
+               recordValue(
+                   stage.view().getUberCamera()->getInternalParentNode(),
+                   [this](const osg::NodePtr&) { return behind.fitsWidth(); },
+                   [this](const osg::NodePtr&, bool on) { behind.setFitsWidth(on); });
+               behind.setFitsWidth(byWidth);
+               // What is seen over a place of the photograph stays there.
+               const double larger = static_cast<double>(behind.place().width / formerWidth);
+               const auto moved = [&](const QPointF& end) {
+                   return (middlePx + (end * formerPx - middlePx) * larger) / behind.unitPx();
+               };
+               for (int i = 0; i < kLineCount; ++i) {
+                   const QLineF& line = lines[static_cast<std::size_t>(i)];
+                   match.setLine(lineOf(i), QLineF(moved(line.p1()), moved(line.p2())));
+               }
+               const double half = std::tan(0.5 * stage.pose().fovDeg / kDegPerRad) / larger;
+               camera().setFov(2.0 * std::atan(half) * kDegPerRad);
+               return true;
+           });
 }
 
 void PerspectiveMatchTool::setVeil(double opacity)
 {
     photographVeil = opacity;
-    applyVeil();
-}
-
-void PerspectiveMatchTool::applyVeil()
-{
-    const osg::UberViewportPtr viewport = stage.view().getUberViewport();
-    const auto wanted = static_cast<float>(active ? photographVeil : 0.0);
-    if (viewport->getPhotographVeil() != wanted) {
-        const nbEdit edit(viewport, osg::UberViewport::PhotographVeilFieldMask);
-        viewport->setPhotographVeil(wanted);
-        stage.view().update();
-    }
+    behind.cover(active ? opacity : 0.0);
 }
 
 // == The lines
@@ -227,85 +219,6 @@ int PerspectiveMatchTool::lineByName(const QString& word)
     return found == kLineNames.end() ? -1 : static_cast<int>(found - kLineNames.begin());
 }
 
-QString PerspectiveMatchTool::resultText() const
-{
-    switch (camera().checkPerspectiveMatch()) {
-    case nbCameraTypes::Solved:
-        return Text::tr("Orientation and field of view follow the lines.");
-    case nbCameraTypes::SolvedWithKeptFov:
-        return Text::tr("The orientation follows the lines; the field of view is kept.");
-    case nbCameraTypes::OrthographicCamera:
-        return Text::tr("An orthographic view cannot be matched: switch to perspective.");
-    case nbCameraTypes::UnusableLine:
-        return Text::tr("A line is too short: the camera stays.");
-    case nbCameraTypes::IdenticalLines:
-        return Text::tr("Two lines of an axis lie on each other: the camera stays.");
-    case nbCameraTypes::ContradictingLines:
-        return Text::tr("The lines contradict each other: the camera stays.");
-    case nbCameraTypes::NoCamera:
-        break;
-    }
-    return Text::tr("There is no camera to be matched.");
-}
-
-double PerspectiveMatchTool::referencePx() const
-{
-    const nbOSGWidget& view = stage.view();
-    const bool byHeight =
-        nbCameraUtils::getVerticalSizing(view.getCamera(), view.getWidth(), view.getHeight());
-    return std::max(byHeight ? view.getHeight() : view.getWidth(), 1);
-}
-
-PerspectiveQuality PerspectiveMatchTool::quality() const
-{
-    constexpr double kHandPx = 0.5;  // how well a person lays an end
-    return camera().judgePerspectiveMatch(kHandPx / referencePx());
-}
-
-std::array<double, PerspectiveMatchTool::kLineCount> PerspectiveMatchTool::residualsPx() const
-{
-    std::array<double, kLineCount> result = quality().residuals;
-    for (double& residual : result) {
-        residual *= referencePx();
-    }
-    return result;
-}
-
-QString PerspectiveMatchTool::qualityText() const
-{
-    if (!nbCameraTypes::isSolved(camera().checkPerspectiveMatch())) {
-        return {};
-    }
-    const PerspectiveQuality told = quality();
-    const auto number = [](double value) { return QString::number(value, 'f', 1); };
-    const auto residuals = residualsPx();
-    const auto worst = std::max_element(residuals.begin(), residuals.end());
-    QStringList parts;
-    if (std::isfinite(told.fovDeg) && told.fovDeg > 0.0) {
-        parts.append(Text::tr("Field of view ±%1°.").arg(number(told.fovDeg)));
-    }
-    if (std::isfinite(told.rotationDeg)) {
-        parts.append(Text::tr("Orientation ±%1°.").arg(number(told.rotationDeg)));
-    }
-    if (*worst >= 1.0) {
-        parts.append(
-            Text::tr("Line %1 is off by %2 pixels.")
-                .arg(lineTitle(static_cast<int>(worst - residuals.begin())), number(*worst)));
-    }
-    const QString axis =
-        told.doubtfulAxis < 0 ? QString() : QString(QChar('X' + told.doubtfulAxis));
-    if (told.doubt == PerspectiveDoubt::NoFieldOfViewFits) {
-        parts.append(
-            Text::tr("No camera sees right angles so: check which lines belong together."));
-    } else if (told.doubt != PerspectiveDoubt::NoDoubt) {
-        parts.append(
-            Text::tr("The lines of %1 are almost parallel in the picture, so it hardly "
-                     "tells the field of view: use lines of a third axis, or set the lens.")
-                .arg(axis));
-    }
-    return parts.join(' ');
-}
-
 bool PerspectiveMatchTool::turn(int axis, QString& error)
 {
     return asStep(Text::tr("Turn axes about %1").arg(QChar('X' + axis)), error, [&] {
@@ -330,10 +243,9 @@ bool PerspectiveMatchTool::placeByLine(int line, double length, QString& error)
 
 bool PerspectiveMatchTool::setLens(double focalLength, double sensorWidth, QString& error)
 {
-    constexpr double kDegPerRad = 180.0 / 3.14159265358979323846;
-    const osg::ImagePtr image = stage.view().getUberViewport()->getPhotograph();
     const nbOSGWidget& view = stage.view();
-    const double widthPx = image != osg::NullFC ? fitOf(view, image).width : view.getWidth();
+    const auto photographPx = static_cast<double>(behind.place().width);
+    const double widthPx = photographPx > 0.0 ? photographPx : view.getWidth();
     const double focalPx = focalLength / sensorWidth * widthPx;
     return asStep(Text::tr("Set lens"), error, [&] {
         camera().setFovMode(nbCameraTypes::FixedFov);
@@ -350,7 +262,7 @@ bool PerspectiveMatchTool::nudge(const QPoint& way, bool coarse)
     if (!active || !linesShown || name.line < 0) {
         return false;
     }
-    const QPointF step = QPointF(way) * ((coarse ? 10.0 : 1.0) * kFinePx / referencePx());
+    const QPointF step = QPointF(way) * ((coarse ? 10.0 : 1.0) * kFinePx / behind.unitPx());
     const QLineF former = camera().getPerspectiveMatch().getLine(lineOf(name.line));
     const QLineF line(name.part != kSecondEnd ? former.p1() + step : former.p1(),
                       name.part != kFirstEnd ? former.p2() + step : former.p2());
@@ -368,7 +280,7 @@ bool PerspectiveMatchTool::nudge(const QPoint& way, bool coarse)
 void PerspectiveMatchTool::activate()
 {
     active = true;
-    applyVeil();
+    behind.cover(photographVeil);
     if (!linesLaid) {
         const nbScopedUndo muted(false);
         camera().layLinesAsSeen();
@@ -383,7 +295,7 @@ void PerspectiveMatchTool::deactivate()
 {
     leavePointer();
     active = false;
-    applyVeil();
+    behind.cover(0.0);
 }
 
 void PerspectiveMatchTool::takePointer()
@@ -402,9 +314,11 @@ void PerspectiveMatchTool::leavePointer()
 
 void PerspectiveMatchTool::sceneCleared()
 {
-    setPhotograph(osg::ImagePtr());
+    behind.set(osg::ImagePtr());
+    behind.setFitsWidth(false);
     setVeil(kUsualVeil);
     showLines(true);
+    edgeSnapping = false;
     const nbScopedUndo muted(false);
     const nbdPerspectiveMatch match = camera().getPerspectiveMatch();
     camera().setLocked(false);
@@ -469,8 +383,8 @@ osg::Pnt2f PerspectiveMatchTool::placeOf(int index, osg::UInt32 part) const
     const QPointF place = part == kFirstEnd ? line.p1()
         : part == kSecondEnd                ? line.p2()
                                             : line.center();
-    return { static_cast<float>(place.x() * referencePx()),
-             static_cast<float>(stage.view().getHeight() - place.y() * referencePx()) };
+    return { static_cast<float>(place.x() * behind.unitPx()),
+             static_cast<float>(stage.view().getHeight() - place.y() * behind.unitPx()) };
 }
 
 std::vector<StageTool::Label> PerspectiveMatchTool::labels() const
@@ -479,7 +393,7 @@ std::vector<StageTool::Label> PerspectiveMatchTool::labels() const
     if (!active || !linesShown) {
         return all;
     }
-    const auto residuals = residualsPx();
+    const auto residuals = residualsPx(*this);
     for (int line = 0; line < kLineCount; ++line) {
         const double residual = residuals[static_cast<std::size_t>(line)];
         const QString name = lineTitle(line);

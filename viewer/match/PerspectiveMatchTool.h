@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "viewer/match/MatchPhotograph.h"
 #include "viewer/stage/DragContext.h"
 #include "viewer/stage/StageTool.h"
 
 #include <nbInteraction/Picker.h>
 #include <nbKernelServices/nbdCameraNode.h>
-
-#include <OpenSG/OSGImage.h>
 
 #include <QObject>
 
@@ -45,13 +44,14 @@ public:
 
     // == The photograph
 
-    /// Shows a picture file behind the scene; "" shows none.
-    /// @return false with one line in `error`, nothing changed
-    bool setPhotograph(const QString& file, QString& error);
-    /// Shows an image; null shows none.
-    void setPhotograph(const osg::ImagePtr& image);
-    /// Its name without folder, "" for none.
-    QString photograph() const;
+    MatchPhotograph& photograph() { return behind; }
+
+    const MatchPhotograph& photograph() const { return behind; }
+
+    /// Lets the photograph be as wide as the view, or as high, as one step: the lines and what the
+    /// camera shows keep their places on it.
+    /// @return false with one line in `error` if there is none or the camera is locked
+    bool fitPhotograph(bool byWidth, QString& error);
 
     /// How much the photograph also covers the models while this is active, so that its edges are
     /// seen through them.
@@ -90,15 +90,6 @@ public:
     /// @return -1 for an unknown word
     static int lineByName(const QString& word);
 
-    /// What the lines say about the camera, one line for a person.
-    QString resultText() const;
-
-    /// How well the lines tell the camera, for a person; "" for a camera that they do not give.
-    QString qualityText() const;
-
-    /// How far each line misses its vanishing point, device pixels, see PerspectiveQuality.
-    std::array<double, kLineCount> residualsPx() const;
-
     /// Gives the lines of two axes to each other, see nbdCameraNode::turnMatch(), as one step.
     bool turn(int axis, QString& error);
 
@@ -109,6 +100,11 @@ public:
     /// @param focalLength, sensorWidth  same unit, > 0; the sensor is as wide as the photograph, or
     ///                                  without one as the view
     bool setLens(double focalLength, double sensorWidth, QString& error);
+
+    /// Whether dragged lines go to edges of the photograph within 6 pixels; not while Alt is held.
+    bool snapsToEdges() const { return edgeSnapping; }
+
+    void setSnapsToEdges(bool on) { edgeSnapping = on; }
 
     // == As a tool of the stage
 
@@ -133,17 +129,14 @@ private:
     void follow(const nbdObject& object, const QByteArray& property);
     void takePointer();
     void leavePointer();
-    void applyVeil();
     /// Edits the camera or its match as one step. @return false, with one line in `error` if the
     /// camera is locked, or what the edit answered
     bool asStep(const QString& title, QString& error, const std::function<bool()>& change);
-    /// Device pixels of a unit of line coordinates.
-    double referencePx() const;
-    PerspectiveQuality quality() const;
     /// Device pixels of a line's middle or end.
     osg::Pnt2f placeOf(int index, osg::UInt32 part) const;
 
     Stage& stage;
+    MatchPhotograph behind;
     nbec::interaction::Picker picker;
     nbec::manipulator::PerspectiveMatchManipulator manipulator;
     DragContext context;
@@ -153,6 +146,7 @@ private:
     bool linesShown = true;
     bool linesLaid = false;
     bool cameraMoved = false;
+    bool edgeSnapping = false;
     std::string lastHandle;
 };
 

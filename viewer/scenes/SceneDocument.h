@@ -137,6 +137,7 @@ struct SceneMatch
 
     ScenePicture photograph;
     double veil = kUsualVeil;
+    bool fitsWidth = false;  ///< the photograph is as wide as the view, rather than as high
     bool linesShown = true;
     bool locked = false;
     int linesType = 0;  ///< nbCameraTypes::VanishingLinesType

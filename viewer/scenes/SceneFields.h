@@ -159,6 +159,7 @@ bool describe(Archive& archive, SceneMatch& match)
 {
     return archive.field("photograph", match.photograph) &&
         archive.field("veil", match.veil, SceneMatch::kUsualVeil) &&
+        archive.field("fitsWidth", match.fitsWidth, false) &&
         archive.field("linesShown", match.linesShown, true) &&
         archive.field("locked", match.locked, false) &&
         archive.words("linesType", match.linesType, kLinesTypeNames, 0) &&

@@ -6,7 +6,6 @@
 #include "viewer/stage/Stage.h"
 
 #include <nbKernelServices/nbScopedUndo.h>
-#include <nbOpenSGUberCamera/nbCameraUtils.h>
 
 namespace viewer {
 namespace {
@@ -22,19 +21,14 @@ QPointF middleOf(double aspect, bool isHeightKept)
     return isHeightKept ? QPointF(0.5 * aspect, 0.5) : QPointF(0.5, 0.5 / aspect);
 }
 
-bool isHeightKept(Stage& stage)
-{
-    const nbOSGWidget& view = stage.view();
-    return nbCameraUtils::getVerticalSizing(view.getCamera(), view.getWidth(), view.getHeight());
-}
-
 bool isAsInANewScene(const SceneMatch& match)
 {
     const SceneMatch usual;
     return match.photograph.isNull() && match.veil == usual.veil &&
-        match.linesShown == usual.linesShown && match.locked == usual.locked &&
-        match.linesType == usual.linesType && match.fovMode == usual.fovMode &&
-        match.magnifyFactor == usual.magnifyFactor && !match.lines;
+        match.fitsWidth == usual.fitsWidth && match.linesShown == usual.linesShown &&
+        match.locked == usual.locked && match.linesType == usual.linesType &&
+        match.fovMode == usual.fovMode && match.magnifyFactor == usual.magnifyFactor &&
+        !match.lines;
 }
 
 nbdPerspectiveMatch::Line lineAt(std::size_t number)
@@ -53,8 +47,9 @@ std::optional<SceneMatch> matchOf(Stage& stage)
     const nbdPerspectiveMatch source = tool->camera().getPerspectiveMatch();
     SceneMatch match;
     QString none;
-    capturePicture(stage.view().getUberViewport()->getPhotograph(), match.photograph, none);
+    capturePicture(tool->photograph().image(), match.photograph, none);
     match.veil = tool->veil();
+    match.fitsWidth = tool->photograph().fitsWidth();
     match.linesShown = tool->areLinesShown();
     match.locked = tool->camera().isLocked();
     match.linesType = source.getVanishingLinesType();
@@ -65,6 +60,8 @@ std::optional<SceneMatch> matchOf(Stage& stage)
         for (std::size_t i = 0; i < match.lines->size(); ++i) {
             (*match.lines)[i] = source.getLine(lineAt(i));
         }
+    }
+    if (match.lines || match.fitsWidth) {
         match.aspect = stage.view().getUberCamera()->getViewAspect();
     }
     return isAsInANewScene(match) ? std::nullopt : std::make_optional(match);
@@ -78,7 +75,15 @@ void showMatch(const SceneMatch& match, const osg::ImagePtr& photograph, Stage& 
     }
     const nbScopedUndo muted(false);
     const nbdPerspectiveMatch target = tool->camera().getPerspectiveMatch();
-    tool->setPhotograph(photograph);
+    tool->photograph().set(photograph);
+    if (match.fitsWidth) {
+        // The camera's field of view is that of the view it was saved in.
+        const osg::UberCameraPtr camera = stage.view().getUberCamera();
+        const float aspectNow = camera->getViewAspect();
+        camera->resizeView(match.aspect);
+        tool->photograph().setFitsWidth(true);
+        camera->resizeView(aspectNow);
+    }
     tool->setVeil(match.veil);
     tool->showLines(match.linesShown);
     target.setVanishingLinesType(static_cast<nbCameraTypes::VanishingLinesType>(match.linesType));
@@ -88,7 +93,7 @@ void showMatch(const SceneMatch& match, const osg::ImagePtr& photograph, Stage& 
         // The photograph stays in the middle, so the lines keep their place relative to that.
         const double aspectNow = stage.view().getUberCamera()->getViewAspect();
         const QPointF shift =
-            middleOf(aspectNow, isHeightKept(stage)) - middleOf(match.aspect, isHeightKept(stage));
+            middleOf(aspectNow, !match.fitsWidth) - middleOf(match.aspect, !match.fitsWidth);
         for (std::size_t i = 0; i < match.lines->size(); ++i) {
             // A match keeps further digits of a line that it has already; so it must not have it.
             target.setLine(lineAt(i), QLineF());

@@ -716,6 +716,26 @@
         <source>Scale along y and z</source>
         <translation>Entlang y und z skalieren</translation>
     </message>
+    <message>
+        <source>%1: models are exported to %2</source>
+        <translation>%1: Modelle werden als %2 exportiert</translation>
+    </message>
+    <message>
+        <source>there is nothing to export</source>
+        <translation>es gibt nichts zu exportieren</translation>
+    </message>
+    <message>
+        <source>there is no photograph</source>
+        <translation>es gibt kein Foto</translation>
+    </message>
+    <message>
+        <source>Fit photograph</source>
+        <translation>Foto einpassen</translation>
+    </message>
+    <message>
+        <source>line %1 names a vertex that there is not</source>
+        <translation>Zeile %1 nennt einen Eckpunkt, den es nicht gibt</translation>
+    </message>
 </context>
 <context>
     <name>viewer::AboutBox</name>
@@ -1290,6 +1310,22 @@
     <message>
         <source>Turn axes about</source>
         <translation>Achsen drehen um</translation>
+    </message>
+    <message>
+        <source>Height of the view</source>
+        <translation>Höhe der Ansicht</translation>
+    </message>
+    <message>
+        <source>Width of the view</source>
+        <translation>Breite der Ansicht</translation>
+    </message>
+    <message>
+        <source>Fills</source>
+        <translation>Füllt</translation>
+    </message>
+    <message>
+        <source>Lines snap to edges (Alt: not)</source>
+        <translation>Linien rasten an Kanten ein (Alt: nicht)</translation>
     </message>
 </context>
 <context>
@@ -2126,6 +2162,18 @@
     <message>
         <source>World</source>
         <translation>Welt</translation>
+    </message>
+    <message>
+        <source>E&amp;xport models…</source>
+        <translation>Modelle e&amp;xportieren…</translation>
+    </message>
+    <message>
+        <source>Export models</source>
+        <translation>Modelle exportieren</translation>
+    </message>
+    <message>
+        <source>Models (%1)</source>
+        <translation>Modelle (%1)</translation>
     </message>
 </context>
 </TS>

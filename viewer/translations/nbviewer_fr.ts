@@ -716,6 +716,26 @@
         <source>Scale along y and z</source>
         <translation>Mettre à l’échelle selon y et z</translation>
     </message>
+    <message>
+        <source>%1: models are exported to %2</source>
+        <translation>%1 : les modèles sont exportés en %2</translation>
+    </message>
+    <message>
+        <source>there is nothing to export</source>
+        <translation>il n&apos;y a rien à exporter</translation>
+    </message>
+    <message>
+        <source>there is no photograph</source>
+        <translation>il n&apos;y a pas de photographie</translation>
+    </message>
+    <message>
+        <source>Fit photograph</source>
+        <translation>Ajuster la photographie</translation>
+    </message>
+    <message>
+        <source>line %1 names a vertex that there is not</source>
+        <translation>la ligne %1 cite un sommet qui n&apos;existe pas</translation>
+    </message>
 </context>
 <context>
     <name>viewer::AboutBox</name>
@@ -1290,6 +1310,22 @@
     <message>
         <source>Turn axes about</source>
         <translation>Tourner les axes autour de</translation>
+    </message>
+    <message>
+        <source>Height of the view</source>
+        <translation>Hauteur de la vue</translation>
+    </message>
+    <message>
+        <source>Width of the view</source>
+        <translation>Largeur de la vue</translation>
+    </message>
+    <message>
+        <source>Fills</source>
+        <translation>Remplit</translation>
+    </message>
+    <message>
+        <source>Lines snap to edges (Alt: not)</source>
+        <translation>Les lignes se calent sur les arêtes (Alt : non)</translation>
     </message>
 </context>
 <context>
@@ -2126,6 +2162,18 @@
     <message>
         <source>World</source>
         <translation>Monde</translation>
+    </message>
+    <message>
+        <source>E&amp;xport models…</source>
+        <translation>E&amp;xporter les modèles…</translation>
+    </message>
+    <message>
+        <source>Export models</source>
+        <translation>Exporter les modèles</translation>
+    </message>
+    <message>
+        <source>Models (%1)</source>
+        <translation>Modèles (%1)</translation>
     </message>
 </context>
 </TS>

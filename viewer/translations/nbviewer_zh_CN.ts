@@ -714,6 +714,26 @@
         <source>Scale along y and z</source>
         <translation>沿 y 和 z 缩放</translation>
     </message>
+    <message>
+        <source>%1: models are exported to %2</source>
+        <translation>%1：模型可导出为 %2</translation>
+    </message>
+    <message>
+        <source>there is nothing to export</source>
+        <translation>没有可导出的内容</translation>
+    </message>
+    <message>
+        <source>there is no photograph</source>
+        <translation>没有照片</translation>
+    </message>
+    <message>
+        <source>Fit photograph</source>
+        <translation>适配照片</translation>
+    </message>
+    <message>
+        <source>line %1 names a vertex that there is not</source>
+        <translation>第 %1 行引用了不存在的顶点</translation>
+    </message>
 </context>
 <context>
     <name>viewer::AboutBox</name>
@@ -1288,6 +1308,22 @@
     <message>
         <source>Turn axes about</source>
         <translation>绕轴转动</translation>
+    </message>
+    <message>
+        <source>Height of the view</source>
+        <translation>视图高度</translation>
+    </message>
+    <message>
+        <source>Width of the view</source>
+        <translation>视图宽度</translation>
+    </message>
+    <message>
+        <source>Fills</source>
+        <translation>填满</translation>
+    </message>
+    <message>
+        <source>Lines snap to edges (Alt: not)</source>
+        <translation>线吸附到边缘（Alt：不吸附）</translation>
     </message>
 </context>
 <context>
@@ -2122,6 +2158,18 @@
     <message>
         <source>World</source>
         <translation>世界</translation>
+    </message>
+    <message>
+        <source>E&amp;xport models…</source>
+        <translation>导出模型(&amp;X)…</translation>
+    </message>
+    <message>
+        <source>Export models</source>
+        <translation>导出模型</translation>
+    </message>
+    <message>
+        <source>Models (%1)</source>
+        <translation>模型 (%1)</translation>
     </message>
 </context>
 </TS>
