@@ -4,7 +4,6 @@
 #include "tests/viewer/support/ShownWindow.h"
 #include "viewer/gui/CommandLine.h"
 #include "viewer/replay/Session.h"
-#include "viewer/replay/SessionNames.h"
 
 #include <QFile>
 #include <QRegularExpression>
@@ -134,28 +133,46 @@ TEST_F(ViewerPages, SayWhichValuesTheirCommandsTake)
     EXPECT_GT(count, 40);
 }
 
-TEST(ViewerPage, NamesTheKeysOfSessionsAndTheTypesOfSteps)
+QString withStep(const QString& step)
 {
-    const std::pair<const char*, SessionPart> parts[] = {
-        { "### The session", SessionPart::Session },
-        { "### Camera", SessionPart::Camera },
-        { "### Steps", SessionPart::Step },
-        { "### Places in the view", SessionPart::Target },
-        { "### Checkpoints", SessionPart::Expectation },
-        { "### Objects at a checkpoint", SessionPart::NodeExpectation },
+    return QStringLiteral(R"({"session": 1, "size": [640, 480], "steps": [%1]})").arg(step);
+}
+
+TEST(ViewerPage, NamesKeysOfSessionsAndTypesOfStepsThatThereAre)
+{
+    // Sound without the key.
+    const std::pair<const char*, QString> parts[] = {
+        { "### The session", R"({"%1": null, "session": 1, "size": [640, 480], "steps": []})" },
+        { "### Camera",
+          R"({"session": 1, "size": [640, 480], "steps": [], "camera":
+              {"%1": null, "from": [0, 0, 1], "at": [0, 0, 0], "up": [0, 1, 0]}})" },
+        { "### Steps", withStep(R"({"%1": null, "type": "leave"})") },
+        { "### Places in the view",
+          withStep(R"({"type": "move", "at": {"%1": null, "node": "Knot"}})") },
+        { "### Checkpoints",
+          withStep(R"({"type": "checkpoint", "name": "a", "expect": {"%1": null}})") },
+        { "### Objects at a checkpoint", withStep(R"({"type": "checkpoint", "name": "a", "expect":
+                       {"nodes": {"Knot": {"%1": null, "scale": [1, 1, 1]}}}})") },
     };
-    for (const auto& [heading, part] : parts) {
-        QStringList keys;
+    for (const auto& [heading, text] : parts) {
         for (const QStringList& cells : rowsOf(section("viewer.md", heading))) {
-            keys += codesIn(cells.value(0));
+            for (const QString& key : codesIn(cells.value(0))) {
+                QString error;
+                parseSession(QString(text).arg(key).toUtf8(), error);
+                EXPECT_FALSE(error.contains("unknown entry")) << error.toStdString();
+            }
         }
-        EXPECT_EQ(listOf(keys), listOf(sessionKeys(part))) << heading;
     }
-    QStringList types;
+    int count = 0;
     for (const QStringList& cells : rowsOf(section("viewer.md", "### Steps"))) {
-        types += matches(cells.value(0), "\"(\\w+)\"");
+        for (const QString& type : matches(cells.value(0), "\"(\\w+)\"")) {
+            QString error;
+            parseSession(withStep(QStringLiteral(R"({"type": "%1"})").arg(type)).toUtf8(), error);
+            EXPECT_FALSE(error.contains("unknown type")) << error.toStdString();
+            ++count;
+        }
     }
-    EXPECT_EQ(listOf(types), listOf(stepTypeNames()));
+    EXPECT_EQ(count, static_cast<int>(SessionStep::Type::Checkpoint) + 1);
 }
 
 TEST(ViewerPage, NamesTheOptions)

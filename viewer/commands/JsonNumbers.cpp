@@ -12,11 +12,6 @@ namespace viewer {
 
 QJsonValue exactJson(float value)
 {
-    return exactJson(shortDouble(value));
-}
-
-double shortDouble(float value)
-{
     constexpr std::size_t kMostDigits = 64;
     std::array<char, kMostDigits> digits {};
     char* const end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
@@ -25,7 +20,7 @@ double shortDouble(float value)
     // What is read in double precision first may be rounded the other way, or be out of range.
     const bool isGivenBack = std::abs(found) <= double(std::numeric_limits<float>::max()) &&
         static_cast<float>(found) == value;
-    return isGivenBack ? found : static_cast<double>(value);
+    return exactJson(isGivenBack ? found : static_cast<double>(value));
 }
 
 QJsonValue exactJson(double value)

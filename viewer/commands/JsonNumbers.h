@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <OpenSG/OSGColor.h>
+#include <OpenSG/OSGQuaternion.h>
+#include <OpenSG/OSGVector.h>
+
 #include <QJsonValue>
 
 namespace viewer {
@@ -12,9 +16,23 @@ namespace viewer {
 QJsonValue exactJson(float value);
 QJsonValue exactJson(double value);
 
-/// The number of double precision that is written with the fewest digits that give a number of
-/// single precision back, such as 0.1 for the nearest float to it.
-/// @param value  finite
-double shortDouble(float value);
+/// How many numbers of single precision, told by [], make a vector, colour or rotation (x, y, z,
+/// w); 0 for other types.
+template <class Value>
+constexpr int kNumberCount = 0;
+template <>
+constexpr int kNumberCount<osg::Vec2f> = 2;
+template <>
+constexpr int kNumberCount<osg::Vec3f> = 3;
+template <>
+constexpr int kNumberCount<osg::Vec4f> = 4;
+template <>
+constexpr int kNumberCount<osg::Pnt3f> = 3;
+template <>
+constexpr int kNumberCount<osg::Color3f> = 3;
+template <>
+constexpr int kNumberCount<osg::Color4f> = 4;
+template <>
+constexpr int kNumberCount<osg::Quaternion> = 4;
 
 }  // namespace viewer

@@ -35,18 +35,6 @@ Number exactNumber(const QJsonValue& value)
     return isInRange ? static_cast<Number>(read) : std::numeric_limits<Number>::quiet_NaN();
 }
 
-template <class Number>
-bool readExactArray(const QJsonValue& value, Number* numbers, int count)
-{
-    const QJsonArray array = value.toArray();
-    bool areNumbers = value.isArray() && array.size() == count;
-    for (int i = 0; areNumbers && i < count; ++i) {
-        numbers[i] = exactNumber<Number>(array.at(i));
-        areNumbers = std::isfinite(numbers[i]);
-    }
-    return areNumbers;
-}
-
 }  // namespace
 
 bool JsonReader::fail(const QString& path, const QString& what)
@@ -73,35 +61,37 @@ bool JsonReader::readNumbers(const QJsonValue& value, const QString& path, doubl
                              int count)
 {
     const QJsonArray array = value.toArray();
-    if (!value.isArray() || array.size() != count) {
-        return fail(path, QStringLiteral("expected an array of %1 numbers").arg(count));
-    }
-    for (int i = 0; i < count; ++i) {
+    bool areNumbers = value.isArray() && array.size() == count;
+    for (int i = 0; areNumbers && i < count; ++i) {
         numbers[i] = array.at(i).toDouble(NAN);
-        if (!array.at(i).isDouble() || !(std::abs(numbers[i]) <= kMaxCoordinate)) {
-            return fail(path, QStringLiteral("expected an array of %1 numbers").arg(count));
-        }
+        areNumbers = std::abs(numbers[i]) <= kMaxCoordinate;
     }
-    return true;
+    return areNumbers || fail(path, QStringLiteral("expected an array of %1 numbers").arg(count));
 }
 
-bool JsonReader::readExact(const QJsonValue& value, const QString& path, float* numbers, int count)
+template <class Number>
+bool JsonReader::readExact(const QJsonValue& value, const QString& path, Number* numbers, int count)
 {
-    return readExactArray(value, numbers, count) ||
-        fail(path, QStringLiteral("expected an array of %1 numbers").arg(count));
+    const QJsonArray array = value.toArray();
+    bool areNumbers = value.isArray() && array.size() == count;
+    for (int i = 0; areNumbers && i < count; ++i) {
+        numbers[i] = exactNumber<Number>(array.at(i));
+        areNumbers = std::isfinite(numbers[i]);
+    }
+    return areNumbers || fail(path, QStringLiteral("expected an array of %1 numbers").arg(count));
 }
 
-bool JsonReader::readExact(const QJsonValue& value, const QString& path, double* numbers, int count)
+template <class Number>
+bool JsonReader::readExact(const QJsonValue& value, const QString& path, Number& number)
 {
-    return readExactArray(value, numbers, count) ||
-        fail(path, QStringLiteral("expected an array of %1 numbers").arg(count));
-}
-
-bool JsonReader::readExact(const QJsonValue& value, const QString& path, float& number)
-{
-    number = exactNumber<float>(value);
+    number = exactNumber<Number>(value);
     return std::isfinite(number) || fail(path, "expected a number");
 }
+
+template bool JsonReader::readExact(const QJsonValue&, const QString&, float*, int);
+template bool JsonReader::readExact(const QJsonValue&, const QString&, double*, int);
+template bool JsonReader::readExact(const QJsonValue&, const QString&, float&);
+template bool JsonReader::readExact(const QJsonValue&, const QString&, double&);
 
 bool JsonReader::readString(const QJsonValue& value, const QString& path, QString& text)
 {

@@ -28,10 +28,11 @@ public:
     bool readNumbers(const QJsonValue& value, const QString& path, double* numbers, int count);
     /// Reads an array of exactly so many numbers of single or double precision as exactJson()
     /// writes them; one outside of the type's range is none.
-    bool readExact(const QJsonValue& value, const QString& path, float* numbers, int count);
-    bool readExact(const QJsonValue& value, const QString& path, double* numbers, int count);
+    template <class Number>
+    bool readExact(const QJsonValue& value, const QString& path, Number* numbers, int count);
     /// Reads one such number, which is no array.
-    bool readExact(const QJsonValue& value, const QString& path, float& number);
+    template <class Number>
+    bool readExact(const QJsonValue& value, const QString& path, Number& number);
     bool readString(const QJsonValue& value, const QString& path, QString& text);
     bool readBool(const QJsonValue& value, const QString& path, bool& flag);
     /// Reads a whole number from -limit to limit.

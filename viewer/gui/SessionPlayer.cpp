@@ -4,7 +4,6 @@
 #include "viewer/gui/ViewWidget.h"
 #include "viewer/loading/PictureFile.h"
 #include "viewer/replay/SessionChecks.h"
-#include "viewer/replay/SessionNames.h"
 #include "viewer/replay/SessionTargets.h"
 
 #include <nbUtils/nbQt.h>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/plates/PlateCommands.h"
 
-#include "viewer/commands/JsonReader.h"
+#include "viewer/commands/JsonInput.h"
 #include "viewer/loading/PictureFile.h"
 #include "viewer/plates/PlateField.h"
 #include "viewer/plates/PlateText.h"
@@ -22,6 +22,60 @@
 #include <cmath>
 
 namespace viewer {
+
+// == What commands that add a plate take
+
+struct NewPicture
+{
+    NewPlate plate;
+    QString file;
+    std::optional<double> height;  ///< heights of the view
+};
+
+struct NewText
+{
+    NewPlate plate;
+    PlateText text;
+};
+
+struct NewColor
+{
+    NewPlate plate;
+    QColor color;
+    osg::Vec2f size { osg::kSceneplateSize, osg::kSceneplateSize };
+};
+
+/// Reads what all kinds of plates share.
+static bool describe(JsonInput& in, NewPlate& plate)
+{
+    return in.maybe("name", plate.name) && in.maybe("front", plate.front) &&
+        in.words("anchor", plate.anchor, kAnchorNames, plate.anchor) &&
+        in.field("position", plate.position);
+}
+
+static bool describe(JsonInput& in, NewPicture& picture)
+{
+    constexpr double kMostHeight = 10.0;
+    const std::optional<double>& height = picture.height;
+    return in.field("file", picture.file) && in.field("height", picture.height) &&
+        in.demand(!height || (*height > 0.0 && *height <= kMostHeight), "height",
+                  "expected a number above 0, at most 10") &&
+        describe(in, picture.plate);
+}
+
+static bool describe(JsonInput& in, NewText& text)
+{
+    return describe(in, text.text) && describe(in, text.plate);
+}
+
+static bool describe(JsonInput& in, NewColor& color)
+{
+    return in.field("color", color.color) && in.maybe("size", color.size) &&
+        in.demand(color.size.x() > 0.0F && color.size.y() > 0.0F, "size",
+                  "expected two numbers above 0") &&
+        describe(in, color.plate);
+}
+
 namespace {
 
 QString prefixed(const char* name)
@@ -51,61 +105,12 @@ bool hasSelection(const PlatesTool& tool, const char* command, QString& error)
 
 // == Adding
 
-/// The value of a command that adds a plate or paints one, while it is read. Each operation answers
-/// false with one line of reason.
-struct Adding : JsonReader
-{
-    Adding(const char* command, const QJsonValue& value, QString& errorText)
-        : JsonReader(errorText)
-        , path(prefixed(command))
-        , object(value.toObject())
-    { }
-
-    bool fail(const char* key, const QString& what) { return JsonReader::fail(path + key, what); }
-
-    /// @param known  entries beside those that all kinds of plates share
-    bool checkKeys(const QStringList& known)
-    {
-        const QStringList shared { "name", "front", "anchor", "position" };
-        return JsonReader::checkKeys(object, path, shared + known);
-    }
-
-    bool readPlacing();
-    bool paint(const PlateText& text, int viewHeightPx);
-
-    QString path;
-    const QJsonObject object;  ///< its operator [] would add entries
-    NewPlate plate;
-};
-
-/// Reads what all kinds of plates share.
-bool Adding::readPlacing()
-{
-    QString name = QString::fromStdString(plate.name);
-    if ((object.contains("name") && !readString(object["name"], path + ".name", name)) ||
-        (object.contains("front") && !readBool(object["front"], path + ".front", plate.front))) {
-        return false;
-    }
-    plate.name = name.toStdString();
-    const std::optional<osg::Int32> anchor =
-        object.contains("anchor") ? anchorFromName(object["anchor"].toString()) : plate.anchor;
-    if (!anchor) {
-        return fail(".anchor", "unknown place");
-    }
-    plate.anchor = *anchor;
-    osg::Vec2f position;
-    if (readPair(object["position"], position)) {
-        plate.position = position;
-    }
-    return !object.contains("position") || plate.position ||
-        fail(".position", "expected an array of two numbers");
-}
-
-bool Adding::paint(const PlateText& text, int viewHeightPx)
+bool paint(const PlateText& text, int viewHeightPx, NewPlate& plate, QString& error)
 {
     const QImage picture = paintPlateText(text, viewHeightPx);
     if (picture.isNull()) {
-        return fail(".text", Text::tr("expected a text that fits into a picture"));
+        error = Text::tr("expected a text that fits into a picture");
+        return false;
     }
     plate.image = osg::RefPtr<osg::ImagePtr>(nbImageConvert::toImage(picture));
     setPictureSource(plate.image.get(), textOf(toJson(text)));
@@ -116,28 +121,22 @@ bool Adding::paint(const PlateText& text, int viewHeightPx)
 
 bool addPicture(Stage& stage, PlatesTool& tool, const QJsonValue& value, QString& error)
 {
-    constexpr double kMostHeight = 10.0;
-    Adding adding("addPicture", value, error);
-    NewPlate& plate = adding.plate;
+    NewPicture wanted;
     const QString file = stage.commands().filePath(value["file"].toString());
+    NewPlate& plate = wanted.plate;
     plate.name = QFileInfo(file).completeBaseName().toStdString();
-    const bool hasHeight = adding.object.contains("height");
-    const double height = value["height"].toDouble();
-    if (!adding.checkKeys({ "file", "height" }) || !adding.readPlacing()) {
+    if (!JsonInput(error).readObject(value, prefixed("addPicture"), wanted)) {
         return false;
-    }
-    if (hasHeight && !(height > 0.0 && height <= kMostHeight)) {
-        return adding.fail(".height", "expected a number above 0, at most 10");
     }
     plate.image = readPicture(file, error);
     if (!plate.image) {
         return false;
     }
-    if (!hasHeight) {
+    if (!wanted.height) {
         tool.addPicture(plate);
         return true;
     }
-    const double heightPx = height * stage.view().getHeight();
+    const double heightPx = *wanted.height * stage.view().getHeight();
     plate.sizePx = osg::Vec2f(
         static_cast<float>(heightPx * plate.image->getWidth() / plate.image->getHeight()),
         static_cast<float>(heightPx));
@@ -145,21 +144,17 @@ bool addPicture(Stage& stage, PlatesTool& tool, const QJsonValue& value, QString
     return true;
 }
 
-const QStringList kOfText { "text", "font", "color", "bold", "height" };
-
 bool addText(Stage& stage, PlatesTool& tool, const QJsonValue& value, QString& error)
 {
-    Adding adding("addText", value, error);
-    PlateText text;
-    if (!adding.checkKeys(kOfText) || !readPlateText(adding.object, adding.path, adding, text)) {
-        return false;
+    NewText wanted;
+    wanted.plate.name = value["text"].toString().simplified().toStdString();
+    const bool isPainted = JsonInput(error).readObject(value, prefixed("addText"), wanted) &&
+        (paint(wanted.text, stage.view().getHeight(), wanted.plate, error) ||
+         refuse("addText.text", error, error));
+    if (isPainted) {
+        tool.add(wanted.plate);
     }
-    adding.plate.name = text.text.simplified().toStdString();
-    if (!adding.readPlacing() || !adding.paint(text, stage.view().getHeight())) {
-        return false;
-    }
-    tool.add(adding.plate);
-    return true;
+    return isPainted;
 }
 
 /// The text of the plate selected last; nothing if it shows none.
@@ -170,55 +165,45 @@ std::optional<PlateText> selectedText(const PlatesTool& tool)
     }
     const osg::ImagePtr image = nbSceneplateList::plateOf(tool.selected().back())->getImage();
     QString error;
-    JsonReader reader(error);
     PlateText text;
     const std::optional<QJsonObject> source = parseJsonObject(pictureSource(image).toUtf8(), error);
-    return source && readPlateText(*source, {}, reader, text) ? std::make_optional(text)
-                                                              : std::nullopt;
+    return source && JsonInput(error).readObject(*source, {}, text) ? std::make_optional(text)
+                                                                    : std::nullopt;
 }
 
 bool changeText(Stage& stage, PlatesTool& tool, const QJsonValue& value, QString& error)
 {
-    Adding adding("text", value, error);
     std::optional<PlateText> text = selectedText(tool);
-    const NewPlate& painted = adding.plate;
+    NewPlate painted;
     if (!text) {
-        return adding.fail("", Text::tr("no text is selected"));
+        return refuse("text", Text::tr("no text is selected"), error);
     }
-    if (!adding.JsonReader::checkKeys(adding.object, adding.path, kOfText) ||
-        !readPlateText(adding.object, adding.path, adding, *text) ||
-        !adding.paint(*text, stage.view().getHeight())) {
+    const auto height = static_cast<float>(stage.view().getHeight());
+    if (!JsonInput(error).readObject(value, prefixed("text"), *text)) {
         return false;
     }
-    const osg::Vec2f size = painted.sizePx * (1.0F / static_cast<float>(stage.view().getHeight()));
+    if (!paint(*text, stage.view().getHeight(), painted, error)) {
+        return refuse("text.text", error, error);
+    }
     nbSceneplateEditing::edit({ tool.selected().back() },
                               QT_TRANSLATE_NOOP("Manipulator", "Change text"),
                               [&](osg::Sceneplate& plate) {
                                   plate.setImage(painted.image.get());
-                                  plate.setSize(size);
+                                  plate.setSize(painted.sizePx * (1.0F / height));
                               });
     return true;
 }
 
 bool addColor(Stage& stage, PlatesTool& tool, const QJsonValue& value, QString& error)
 {
-    Adding adding("addColor", value, error);
-    adding.plate.name = "Colour";
-    osg::Vec2f size(osg::kSceneplateSize, osg::kSceneplateSize);
-    if (!adding.checkKeys({ "color", "size" }) || !adding.readPlacing()) {
+    NewColor wanted;
+    wanted.plate.name = "Colour";
+    if (!JsonInput(error).readObject(value, prefixed("addColor"), wanted)) {
         return false;
     }
-    const std::optional<osg::Color4f> color = readPlateColor(value["color"]);
-    if (!color) {
-        return adding.fail(".color", "unknown colour");
-    }
-    if (adding.object.contains("size") &&
-        (!readPair(value["size"], size) || !(size.x() > 0.0F) || !(size.y() > 0.0F))) {
-        return adding.fail(".size", "expected two numbers above 0");
-    }
-    adding.plate.color = *color;
-    adding.plate.sizePx = size * static_cast<float>(stage.view().getHeight());
-    tool.add(adding.plate);
+    wanted.plate.color = colorOf(wanted.color);
+    wanted.plate.sizePx = wanted.size * static_cast<float>(stage.view().getHeight());
+    tool.add(wanted.plate);
     return true;
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/plates/PlateField.h"
 
+#include "viewer/commands/JsonInput.h"
+
 #include <QJsonArray>
 
 #include <algorithm>
@@ -21,6 +23,12 @@ constexpr double kLeastSize = 0.001;
 std::optional<bool> readSwitch(const QJsonValue& value)
 {
     return value.isBool() ? std::make_optional(value.toBool()) : std::nullopt;
+}
+
+std::optional<osg::Color4f> readColor(const QJsonValue& value)
+{
+    const QColor color(value.toString());
+    return color.isValid() ? std::make_optional(colorOf(color)) : std::nullopt;
 }
 
 auto numberReader(double least, double most = kMost)
@@ -101,7 +109,7 @@ const std::vector<PlateField> kFields {
           numberReader(kNoLeast)),
     field("color", QT_TRANSLATE_NOOP("Manipulator", "Colour of scene plates"),
           "expected a colour such as \"#ff8000\"", &Sceneplate::setColor, &Sceneplate::getColor,
-          &readPlateColor),
+          &readColor),
 };
 
 }  // namespace
@@ -139,14 +147,16 @@ bool readPair(const QJsonValue& value, osg::Vec2f& pair)
     return isFinite;
 }
 
-std::optional<osg::Color4f> readPlateColor(const QJsonValue& value)
+bool readJson(JsonInput& in, const QJsonValue& json, const QString& path, QColor& color)
 {
-    const QColor color(value.toString());
-    if (!color.isValid()) {
-        return std::nullopt;
-    }
-    return osg::Color4f(static_cast<float>(color.redF()), static_cast<float>(color.greenF()),
-                        static_cast<float>(color.blueF()), static_cast<float>(color.alphaF()));
+    color = QColor(json.toString());
+    return color.isValid() || in.fail(path, "unknown colour");
+}
+
+osg::Color4f colorOf(const QColor& color)
+{
+    return { static_cast<float>(color.redF()), static_cast<float>(color.greenF()),
+             static_cast<float>(color.blueF()), static_cast<float>(color.alphaF()) };
 }
 
 QColor colorOf(const osg::Color4f& color)

@@ -14,6 +14,8 @@
 
 namespace viewer {
 
+class JsonInput;
+
 /// One property of a plate as commands name it.
 struct PlateField
 {
@@ -42,7 +44,8 @@ std::optional<osg::Int32> anchorFromName(const QString& name);
 bool readPair(const QJsonValue& value, osg::Vec2f& pair);
 
 /// "#rrggbb" or "#aarrggbb" or the name of a colour.
-std::optional<osg::Color4f> readPlateColor(const QJsonValue& value);
+bool readJson(JsonInput& in, const QJsonValue& json, const QString& path, QColor& color);
 QColor colorOf(const osg::Color4f& color);
+osg::Color4f colorOf(const QColor& color);
 
 }  // namespace viewer

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/plates/PlateText.h"
 
-#include "viewer/commands/JsonReader.h"
+#include "viewer/commands/JsonInput.h"
+#include "viewer/plates/PlateField.h"
 
 #include <QFont>
 #include <QFontMetricsF>
@@ -33,28 +34,14 @@ QJsonObject toJson(const PlateText& text)
              { "height", text.height } };
 }
 
-bool readPlateText(const QJsonObject& object, const QString& path, JsonReader& reader,
-                   PlateText& text)
+bool describe(JsonInput& in, PlateText& text)
 {
     constexpr double kMostHeight = 10.0;
-    const auto has = [&object](const char* key) { return object.contains(QLatin1String(key)); };
-    const auto value = [&object](const char* key) { return object[QLatin1String(key)]; };
-    const bool hasText = has("text") || text.text.isEmpty();
-    if ((hasText && !reader.readString(value("text"), path + ".text", text.text)) ||
-        (has("font") && !reader.readString(value("font"), path + ".font", text.font)) ||
-        (has("bold") && !reader.readBool(value("bold"), path + ".bold", text.bold))) {
-        return false;
-    }
-    if (has("color")) {
-        text.color = QColor(value("color").toString());
-        if (!text.color.isValid()) {
-            return reader.fail(path + ".color", "unknown colour");
-        }
-    }
-    text.height = value("height").toDouble(text.height);
-    const bool isHeight = value("height").isUndefined() || value("height").isDouble();
-    return (isHeight && text.height > 0.0 && text.height <= kMostHeight) ||
-        reader.fail(path + ".height", "expected a number above 0, at most 10");
+    return (text.text.isEmpty() ? in.field("text", text.text) : in.maybe("text", text.text)) &&
+        in.maybe("font", text.font) && in.maybe("bold", text.bold) &&
+        in.maybe("color", text.color) && in.maybe("height", text.height) &&
+        in.demand(text.height > 0.0 && text.height <= kMostHeight, "height",
+                  "expected a number above 0, at most 10");
 }
 
 QImage paintPlateText(const PlateText& text, int viewHeightPx)

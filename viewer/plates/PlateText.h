@@ -8,7 +8,7 @@
 
 namespace viewer {
 
-class JsonReader;
+class JsonInput;
 
 /// How a text becomes a picture.
 struct PlateText
@@ -24,9 +24,8 @@ struct PlateText
 
 /// A text as JSON: "text", "font", "color", "bold" and "height".
 QJsonObject toJson(const PlateText& text);
-/// Reads these, of which all but the text may be absent. @return false with one line of reason
-bool readPlateText(const QJsonObject& object, const QString& path, JsonReader& reader,
-                   PlateText& text);
+/// Reads these, of which all but the text may be absent; what is absent stays as it is.
+bool describe(JsonInput& in, PlateText& text);
 
 /// Pixels of a text's picture per device pixel of the view that it is made for, so that it is sharp
 /// there and stays so in a larger one.

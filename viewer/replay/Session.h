@@ -97,6 +97,18 @@ struct SessionStep
     SessionExpectation expectation;
 };
 
+/// A key that is a modifier, by the name that it has in a session file.
+struct ModifierKey
+{
+    const char* name;
+    int key;
+    Qt::KeyboardModifier flag;
+};
+
+constexpr ModifierKey kModifierKeys[] = { { "Ctrl", Qt::Key_Control, Qt::ControlModifier },
+                                          { "Shift", Qt::Key_Shift, Qt::ShiftModifier },
+                                          { "Alt", Qt::Key_Alt, Qt::AltModifier } };
+
 /// Camera of a session's start; world space.
 struct SessionCamera
 {

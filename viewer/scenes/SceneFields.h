@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "viewer/commands/SceneLimits.h"
 #include "viewer/match/PerspectiveMatchCommands.h"
 #include "viewer/plates/PlateField.h"
 #include "viewer/scenes/SceneDocument.h"
+
+#include <nbOpenSGExt/nbEulerRotation.h>
+
+#include <QRegularExpression>
 
 #include <array>
 
@@ -15,9 +20,11 @@
 /// - words(key, number, names, usual): a number, by its word;
 /// - bits(key, mask): a mask, as the numbers of its bits; names(key, mask, names): as their words;
 /// - path(key, file): the name of a file, left out when empty;
-/// - part(key, optional) and list(key, values): what has entries of its own, left out when empty.
-namespace viewer::scenefields {
+/// - part(key, optional) and list(key, values): what has entries of its own, left out when empty;
+/// - demand(isMet, key, what): what has to be true of entries that were read.
+namespace viewer {
 
+constexpr int kMostOfAKind = 1000000;
 constexpr std::array<const char*, 3> kRotationModes { "euler", "quaternion", "axisAligned" };
 constexpr std::array<const char*, 4> kProjections { "uv", "planar", "triplanar", "tire" };
 constexpr std::array<const char*, 4> kFlags { "keepAspect", "repeatU", "repeatV", "endInDepth" };
@@ -31,6 +38,28 @@ inline nbTransformState usualTransform()
     return state;
 }
 
+inline bool isEulerOrder(const std::string& order)
+{
+    const int number = nbEulerRotation::getOrderNumber(order);
+    return QString::fromStdString(order).toLower() ==
+        QLatin1String(nbEulerRotation::getOrderName(number));
+}
+
+/// Demands a path such as SceneNode::path.
+template <class Archive>
+bool demandNodePath(Archive& archive, const char* key, const QString& path)
+{
+    static const QRegularExpression kPattern(
+        QStringLiteral("^(N(/N)*)?\\z").replace('N', "([0-9]{1,9}(\\+[0-9]{1,9})?|-)"));
+    return archive.demand(kPattern.match(path).hasMatch(), key, "expected numbers such as \"0/3\"");
+}
+
+template <class Archive>
+bool demandShare(Archive& archive, const char* key, double share)
+{
+    return archive.demand(share >= 0.0 && share <= 1.0, key, "expected a number from 0 to 1");
+}
+
 template <class Archive>
 bool describe(Archive& archive, CameraPose& pose)
 {
@@ -38,7 +67,9 @@ bool describe(Archive& archive, CameraPose& pose)
         archive.field("up", pose.up) && archive.field("pivot", pose.pivot) &&
         archive.field("fov", pose.fovDeg) &&
         archive.field("orthographic", pose.orthographic, false) &&
-        archive.field("zUp", pose.zUp, false);
+        archive.field("zUp", pose.zUp, false) &&
+        archive.demand(pose.fovDeg > 0.0F && pose.fovDeg < 180.0F, "fov",
+                       "expected a number between 0 and 180");
 }
 
 template <class Archive>
@@ -54,7 +85,12 @@ bool describe(Archive& archive, nbTransformState& state)
         archive.words("mode", state.rotationMode, kRotationModes, 0) &&
         field("angles", &State::eulerRotation) && field("order", &State::eulerRotationOrder) &&
         field("quaternion", &State::rotationQuaternion) &&
-        field("orientation", &State::rotationOrientation) && field("scale", &State::scale);
+        field("orientation", &State::rotationOrientation) && field("scale", &State::scale) &&
+        archive.demand(isScale(state.scale[0]) && isScale(state.scale[1]) &&
+                           isScale(state.scale[2]),
+                       "scale", "expected numbers other than 0") &&
+        archive.demand(isEulerOrder(state.eulerRotationOrder), "order",
+                       "expected the letters x, y and z");
 }
 
 template <class Archive>
@@ -63,7 +99,7 @@ bool describe(Archive& archive, SceneNode& node)
     return archive.field("path", node.path, QString()) && archive.field("name", node.name) &&
         archive.field("newName", node.newName) && archive.field("removed", node.removed, false) &&
         archive.field("visible", node.visible, true) && archive.bits("denied", node.denied) &&
-        archive.part("transform", node.transform);
+        archive.part("transform", node.transform) && demandNodePath(archive, "path", node.path);
 }
 
 template <class Archive>
@@ -100,7 +136,8 @@ bool describe(Archive& archive, SceneSettings& settings)
 template <class Archive>
 bool describe(Archive& archive, SceneComponent& component)
 {
-    return archive.field("name", component.name) && archive.field("picture", component.picture) &&
+    return archive.field("name", component.name) &&
+        archive.field("picture", component.picture, {}) &&
         archive.part("settings", component.settings);
 }
 
@@ -114,14 +151,19 @@ bool describe(Archive& archive, SceneSurface& surface)
         archive.field("emission", surface.emission) &&
         archive.field("shininess", surface.shininess) &&
         archive.field("transparency", surface.transparency, 0.0F) &&
-        archive.list("components", surface.components);
+        archive.list("components", surface.components) &&
+        demandNodePath(archive, "object", surface.object) &&
+        archive.demand(surface.part >= 0 && surface.part < kMostOfAKind, "part",
+                       "expected a place, counted from 0");
 }
 
 template <class Archive>
 bool describe(Archive& archive, SceneModel& model)
 {
     return archive.path("file", model.file) && archive.field("builtIn", model.builtIn, QString()) &&
-        archive.list("nodes", model.nodes) && archive.list("surfaces", model.surfaces);
+        archive.list("nodes", model.nodes) && archive.list("surfaces", model.surfaces) &&
+        archive.demand(model.file.isEmpty() != model.builtIn.isEmpty(), "",
+                       "expected either \"file\" or \"builtIn\"");
 }
 
 template <class Archive>
@@ -129,7 +171,9 @@ bool describe(Archive& archive, SceneClipPlane& plane)
 {
     return archive.field("equation", plane.equation, SceneClipPlane().equation) &&
         archive.field("enabled", plane.enabled, true) && archive.field("outline", plane.outline) &&
-        archive.object("frame", plane.frame);
+        archive.object("frame", plane.frame) &&
+        archive.demand(plane.outline > 0.0F, "outline", "expected a number above 0") &&
+        archive.demand(plane.frame.transform.has_value(), "frame", "\"transform\" is missing");
 }
 
 template <class Archive>
@@ -143,7 +187,7 @@ bool describe(Archive& archive, SceneBranch& branch)
 template <class Archive>
 bool describe(Archive& archive, ScenePlate& plate)
 {
-    return archive.field("name", plate.name) && archive.field("picture", plate.picture) &&
+    return archive.field("name", plate.name) && archive.field("picture", plate.picture, {}) &&
         archive.field("color", plate.color, ScenePlate().color) &&
         archive.words("anchor", plate.anchor, kAnchorNames, 4) &&
         archive.field("position", plate.position) && archive.field("size", plate.size) &&
@@ -151,13 +195,14 @@ bool describe(Archive& archive, ScenePlate& plate)
         archive.field("rotation", plate.rotationDeg, 0.0F) &&
         archive.field("front", plate.front, true) && archive.field("order", plate.order, 0) &&
         archive.field("opacity", plate.opacity, 1.0F) &&
-        archive.field("visible", plate.visible, true);
+        archive.field("visible", plate.visible, true) &&
+        demandShare(archive, "opacity", plate.opacity);
 }
 
 template <class Archive>
 bool describe(Archive& archive, SceneMatch& match)
 {
-    return archive.field("photograph", match.photograph) &&
+    return archive.field("photograph", match.photograph, {}) &&
         archive.field("veil", match.veil, SceneMatch::kUsualVeil) &&
         archive.field("fitsWidth", match.fitsWidth, false) &&
         archive.field("linesShown", match.linesShown, true) &&
@@ -166,7 +211,8 @@ bool describe(Archive& archive, SceneMatch& match)
         archive.words("fovMode", match.fovMode, kFovModeNames, 0) &&
         archive.field("magnifyFactor", match.magnifyFactor,
                       nbdPerspectiveMatch::kDefaultMagnifyFactor) &&
-        archive.field("aspect", match.aspect, 1.0F) && archive.field("lines", match.lines);
+        archive.field("aspect", match.aspect, 1.0F) && archive.field("lines", match.lines) &&
+        demandShare(archive, "veil", match.veil);
 }
 
 template <class Archive>
@@ -178,4 +224,4 @@ bool describe(Archive& archive, SceneDocument& document)
         archive.list("plates", document.plates) && archive.part("match", document.match);
 }
 
-}  // namespace viewer::scenefields
+}  // namespace viewer

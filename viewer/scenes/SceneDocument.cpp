@@ -1,31 +1,112 @@
 // SPDX-License-Identifier: MIT
-#include "viewer/commands/JsonNumbers.h"
 #include "viewer/scenes/SceneDocument.h"
+
+#include "viewer/commands/JsonInput.h"
 #include "viewer/scenes/SceneFields.h"
-#include "viewer/scenes/SceneNumbers.h"
 #include "viewer/texts/Text.h"
 #include "viewer/texts/TextFile.h"
 
 #include <QBuffer>
 #include <QFileInfo>
-#include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonObject>
 
 #include <cstring>
-#include <type_traits>
 
 namespace viewer {
+
+// == What a JsonInput finds here of values that are no objects
+
+using MatchLines = std::array<QLineF, nbdPerspectiveMatch::kLineCount>;
+
+static bool readJson(JsonInput& in, const QJsonValue& json, const QString& path, MatchLines& lines)
+{
+    const QJsonArray array = json.toArray();
+    if (array.size() != nbdPerspectiveMatch::kLineCount) {
+        return in.fail(path, "expected an array of 6 lines");
+    }
+    for (int i = 0; i < array.size(); ++i) {
+        std::array<double, 4> ends {};
+        const QString at = path + QStringLiteral("[%1]").arg(i);
+        if (!in.readExact(array.at(i), at, ends.data(), 4) || !in.areSceneNumbers(ends, at)) {
+            return false;
+        }
+        lines[static_cast<std::size_t>(i)] = QLineF(ends[0], ends[1], ends[2], ends[3]);
+    }
+    return true;
+}
+
+static bool readJson(JsonInput& in, const QJsonValue& json, const QString& path,
+                     ScenePicture& picture)
+{
+    if (!json.isObject()) {
+        return in.readFile(json, path, picture.file);
+    }
+    const QJsonObject pixels = json.toObject();
+    const QString at = path + ".png";
+    QString text;
+    if (!in.checkKeys(pixels, path, { "png" }) || !in.readString(pixels.value("png"), at, text)) {
+        return false;
+    }
+    picture.png =
+        *QByteArray::fromBase64Encoding(text.toLatin1(), QByteArray::AbortOnBase64DecodingErrors);
+    return !picture.png.isEmpty() || in.fail(at, "expected a picture in base 64");
+}
+
 namespace {
+
+constexpr qint64 kMaxSceneBytes = 256LL * 1024 * 1024;
+
+// == The tree
+
+/// What of the document has been met in the tree: models, frames, planes.
+using Met = std::array<std::vector<bool>, 3>;
+
+bool meet(const std::vector<SceneBranch>& branches, const QString& path, Met& met,
+          JsonReader& reader)
+{
+    for (std::size_t i = 0; i < branches.size(); ++i) {
+        const SceneBranch& branch = branches[i];
+        const QString at = path + QStringLiteral("[%1]").arg(i);
+        std::vector<bool>& all = met[static_cast<std::size_t>(branch.kind)];
+        const auto number = static_cast<std::size_t>(branch.number);
+        if (branch.number < 0 || number >= all.size() || all[number]) {
+            return reader.fail(at, "there is none of this number, or it came before");
+        }
+        all[number] = true;
+        if (branch.kind != SceneBranch::Kind::Plane && !branch.children.empty()) {
+            return reader.fail(at, "only a plane has children");
+        }
+        if (!meet(branch.children, at + ".children", met, reader)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool checkTree(const SceneDocument& document, JsonReader reader)
+{
+    const QString path = "tree";
+    if (document.tree.empty()) {
+        return document.clipPlanes.empty() || reader.fail(path, "clip planes need one");
+    }
+    const std::vector<bool> planes(document.clipPlanes.size());
+    Met met { std::vector<bool>(document.models.size()), planes, planes };
+    if (!meet(document.tree, path, met, reader)) {
+        return false;
+    }
+    return std::all_of(met.begin(), met.end(),
+                       [](const std::vector<bool>& all) {
+                           return std::find(all.begin(), all.end(), false) == all.end();
+                       }) ||
+        reader.fail(path, "a model, frame or plane is missing");
+}
+
+// == Writing
 
 template <class Value>
 bool isSame(const Value& a, const Value& b)
 {
-    if constexpr (SceneNumbers<Value>::kCount > 0) {
-        const auto ofA = SceneNumbers<Value>::of(a);
-        const auto ofB = SceneNumbers<Value>::of(b);
-        return std::memcmp(ofA.data(), ofB.data(), sizeof(ofA)) == 0;
-    } else if constexpr (std::is_floating_point_v<Value>) {
+    if constexpr (kNumberCount < Value >> 0 || std::is_floating_point_v<Value>) {
         return std::memcmp(&a, &b, sizeof(Value)) == 0;
     } else {
         return a == b;
@@ -58,7 +139,7 @@ public:
         return !value || field(key, *value);
     }
 
-    bool field(const char* key, const ScenePicture& picture)
+    bool field(const char* key, const ScenePicture& picture, const ScenePicture& /*usual*/)
     {
         QByteArray png = picture.png;
         if (png.isEmpty() && picture.pixels.isNull()) {
@@ -72,6 +153,9 @@ public:
     }
 
     bool version(const char* key, int number) { return field(key, number); }
+
+    /// What is written is read before it is kept.
+    bool demand(bool /*isMet*/, const char* /*key*/, const QString& /*what*/) { return true; }
 
     template <class Number, std::size_t Count>
     bool words(const char* key, Number number, const std::array<const char*, Count>& names)
@@ -139,7 +223,7 @@ public:
     QJsonObject objectOf(Value& value) const
     {
         Output part(folder);
-        scenefields::describe(part, value);
+        describe(part, value);
         return part.entries;
     }
 
@@ -153,8 +237,10 @@ private:
     template <class Value>
     static QJsonValue jsonOf(const Value& value)
     {
-        if constexpr (SceneNumbers<Value>::kCount > 0) {
-            return arrayOf(SceneNumbers<Value>::of(value));
+        if constexpr (kNumberCount < Value >> 0) {
+            std::array<float, kNumberCount<Value>> numbers {};
+            std::copy_n(&value[0], numbers.size(), numbers.begin());
+            return arrayOf(numbers);
         } else if constexpr (std::is_floating_point_v<Value>) {
             return exactJson(value);
         } else if constexpr (std::is_same_v<Value, std::string>) {
@@ -164,7 +250,7 @@ private:
         }
     }
 
-    static QJsonValue jsonOf(const std::array<QLineF, nbdPerspectiveMatch::kLineCount>& lines)
+    static QJsonValue jsonOf(const MatchLines& lines)
     {
         QJsonArray array;
         for (const QLineF& line : lines) {
@@ -188,6 +274,34 @@ private:
 };
 
 }  // namespace
+
+bool isSceneFileName(const QString& path)
+{
+    return QFileInfo(path).suffix().compare(QLatin1String(kSceneSuffix), Qt::CaseInsensitive) == 0;
+}
+
+std::optional<SceneDocument> parseScene(const QByteArray& text, const QDir& folder, QString& error)
+{
+    const std::optional<QJsonObject> object = parseJsonObject(text, error);
+    SceneDocument document;
+    const bool isRead = object && JsonInput(error, folder).readObject(*object, {}, document) &&
+        checkTree(document, JsonReader(error));
+    return isRead ? std::make_optional(document) : std::nullopt;
+}
+
+std::optional<SceneDocument> readSceneFile(const QString& path, QString& error)
+{
+    QByteArray text;
+    if (!readWhole(path, kMaxSceneBytes, text, error)) {
+        return std::nullopt;
+    }
+    QString problem;
+    auto document = parseScene(text, QFileInfo(path).absoluteDir(), problem);
+    if (!document) {
+        error = QStringLiteral("%1: %2").arg(path, problem);
+    }
+    return document;
+}
 
 QByteArray sceneText(const SceneDocument& document, const QDir& folder)
 {
