@@ -132,7 +132,7 @@ TEST_F(WindowTest, EveryToolHasAnIconThatIsSeenInEveryTheme)
     constexpr int kSize = 40;
     const QList<QToolBar*> bars = window.findChildren<QToolBar*>();
     for (const Theme theme : { Theme::Light, Theme::Dark }) {
-        window.setTheme(theme);
+        applyTheme(theme);
         EXPECT_EQ(isDarkPalette(), theme == Theme::Dark);
         const QColor ground = QApplication::palette().color(QPalette::Window);
         int icons = 0;
@@ -148,7 +148,7 @@ TEST_F(WindowTest, EveryToolHasAnIconThatIsSeenInEveryTheme)
         }
         EXPECT_GT(icons, 35);
     }
-    window.setTheme(Theme::System);
+    applyTheme(Theme::System);
     EXPECT_TRUE(themeIcon(QStringLiteral("no such")).isNull());
 }
 

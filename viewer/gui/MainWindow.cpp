@@ -6,6 +6,7 @@
 #include "viewer/gui/MessageBar.h"
 #include "viewer/gui/PanelDocks.h"
 #include "viewer/gui/SceneFileActions.h"
+#include "viewer/gui/ScenePanel.h"
 #include "viewer/gui/SessionPlayer.h"
 #include "viewer/gui/SettingsPanel.h"
 #include "viewer/gui/StageTools.h"
@@ -78,7 +79,7 @@ MainWindow::MainWindow(Attendance attendance)
     if (mode == Attendance::Attended) {
         auto* corner = new AxesCorner(viewWidget, viewWidget->stage());
         connect(corner, &AxesCorner::viewAsked, this,
-                [this](auto side) { actions->lookFrom(side); });
+                [this](auto side) { viewWidget->stage().setStandardView(side); });
         connect(viewWidget, &ViewWidget::stateChanged, corner, &AxesCorner::refresh);
         settings->restore();
     }
@@ -149,7 +150,7 @@ void MainWindow::addSurroundings()
         docks->arrange();
     }
     actions = new WindowActions(*this, viewWidget->stage());
-    docks->setObjectActions(actions->objectActions());
+    docks->objects().addObjectActions(actions->objectActions());
     addToolBars(*this);
     if (mode == Attendance::Attended) {
         actions->setRecentFiles(memory::recentFiles());
@@ -227,11 +228,6 @@ void MainWindow::showObjectMenu(const osg::Pnt2f& px, const QPoint& screenPlace)
     menu->popup(screenPlace);
 }
 
-void MainWindow::showEffectBuffer(bool on)
-{
-    viewWidget->showEffectBuffer(on);
-}
-
 void MainWindow::suggestViewSize(const QSize& sizePx)
 {
     viewWidget->fixSize(sizePx);
@@ -241,12 +237,6 @@ void MainWindow::suggestViewSize(const QSize& sizePx)
         viewWidget->fixSize({});
         resize(wanted);
     });
-}
-
-void MainWindow::setTheme(Theme theme)
-{
-    shownTheme = theme;
-    applyTheme(theme);
 }
 
 void MainWindow::showSettings()

@@ -5,7 +5,6 @@
 #include "viewer/gui/FullScreen.h"
 #include "viewer/gui/ModelLoader.h"
 #include "viewer/gui/Settings.h"
-#include "viewer/gui/Theme.h"
 #include "viewer/replay/Session.h"
 #include "viewer/scenes/SceneDocument.h"
 #include "viewer/stage/GizmoController.h"
@@ -78,12 +77,6 @@ public:
 
     // == View
 
-    void showEffectBuffer(bool on);
-    /// Changes the colours of the program.
-    void setTheme(Theme theme);
-
-    Theme theme() const { return shownTheme; }
-
     /// Lets the view alone fill the screen, or shows the window as it was before.
     void showWhole(bool on);
 
@@ -130,9 +123,9 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    /// Makes docks, menus, toolbars and the status line.
     /// Moves what the active tool has by an arrow key. @return false if there is nothing
     bool nudge(const QKeyEvent& key);
+    /// Makes docks, menus, toolbars and the status line.
     void addSurroundings();
     void connectParts();
     /// Makes them anew in the present language, arranged as they are.
@@ -164,7 +157,6 @@ private:
     SceneFileActions* sceneFiles = nullptr;
     std::unique_ptr<Settings> settings;
 
-    Theme shownTheme = Theme::System;
     QStringList shownFiles;
     QStringList openingFiles;
     Opening openingMode = Opening::Replace;

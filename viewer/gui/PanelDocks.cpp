@@ -146,11 +146,6 @@ void PanelDocks::renameSelected()
     scenePanel->renameSelected();
 }
 
-void PanelDocks::setObjectActions(const QList<QAction*>& objectActions)
-{
-    scenePanel->setObjectActions(objectActions);
-}
-
 void PanelDocks::showPanelOf(const QString& tool)
 {
     if (QDockWidget* dock = toolDocks.value(tool)) {

@@ -52,8 +52,7 @@ public:
     /// Lets a person type another name for the selected object, in the tree.
     void renameSelected();
 
-    /// Puts actions into the menu of the tree.
-    void setObjectActions(const QList<QAction*>& objectActions);
+    ScenePanel& objects() { return *scenePanel; }
 
     LogPanel& log() { return *logPanel; }
 

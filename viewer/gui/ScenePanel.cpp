@@ -133,9 +133,9 @@ void ScenePanel::renameSelected()
     }
 }
 
-void ScenePanel::setObjectActions(const QList<QAction*>& objectActions)
+void ScenePanel::addObjectActions(const QList<QAction*>& actions)
 {
-    tree->addActions(objectActions);
+    tree->addActions(actions);
 }
 
 void ScenePanel::showSelection()

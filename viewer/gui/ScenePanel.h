@@ -30,7 +30,7 @@ public:
     void renameSelected();
 
     /// Puts actions into the menu of the tree.
-    void setObjectActions(const QList<QAction*>& objectActions);
+    void addObjectActions(const QList<QAction*>& actions);
 
 private:
     void rebuild();

@@ -7,6 +7,7 @@
 #include "viewer/commands/Commands.h"
 #include "viewer/gui/MainWindow.h"
 #include "viewer/gui/SceneFileActions.h"
+#include "viewer/gui/Theme.h"
 #include "viewer/gui/ViewWidget.h"
 #include "viewer/loading/PictureDecoding.h"
 
@@ -81,8 +82,8 @@ void Settings::addWindow()
         languages,
         { "theme",
           QT_TR_NOOP("Theme"),
-          [this] { return themeName(window.theme()); },
-          [this](const QJsonValue& name) { window.setTheme(themeFromName(name.toString())); },
+          [] { return themeName(appliedTheme()); },
+          [](const QJsonValue& name) { applyTheme(themeFromName(name.toString())); },
           { { "system", QT_TR_NOOP("As the desktop") },
             { "light", QT_TR_NOOP("Light") },
             { "dark", QT_TR_NOOP("Dark") } } },

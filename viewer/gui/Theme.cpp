@@ -28,6 +28,8 @@ constexpr QRgb kAccentOnDark = 0xff62b0f0;
 /// Half of the values that a lightness can have.
 constexpr int kMiddleLightness = 128;
 
+Theme applied = Theme::System;
+
 QPalette paletteOf(const Colors& colors)
 {
     QPalette palette(QColor::fromRgb(colors.button), QColor::fromRgb(colors.window));
@@ -74,6 +76,7 @@ Theme themeFromName(const QString& name)
 
 void applyTheme(Theme theme)
 {
+    applied = theme;
     const Desktop& given = desktop();
     const bool isSystem = theme == Theme::System;
     // Styles of desktops draw with colours of their own, so a palette shows as meant in Qt's only.
@@ -85,6 +88,11 @@ void applyTheme(Theme theme)
         isSystem ? given.palette : paletteOf(theme == Theme::Dark ? kDark : kLight);
     QApplication::setPalette(palette);
     QToolTip::setPalette(palette);
+}
+
+Theme appliedTheme()
+{
+    return applied;
 }
 
 bool isDarkPalette()

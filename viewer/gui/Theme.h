@@ -23,6 +23,8 @@ Theme themeFromName(const QString& name);
 /// Gives the application, which must exist, the style and palette of a theme. What is shown follows
 /// at once. The first call remembers what the desktop gave.
 void applyTheme(Theme theme);
+/// What applyTheme() was called with last; at first Theme::System.
+Theme appliedTheme();
 
 /// Whether the application's palette has light text on a dark ground.
 bool isDarkPalette();

@@ -116,48 +116,64 @@ void WindowActions::describe(QAction* action, const QString& tip)
     action->setToolTip(keys.isEmpty() ? tip : tr("%1 (%2)", "tip, shortcut").arg(tip, keys));
 }
 
-QAction* WindowActions::addPlain(QMenu* menu, const char* name, const QString& text,
-                                 const QString& keys, std::function<void(bool)> run)
+QAction* WindowActions::add(QMenu* menu, const char* name, const QString& text, const QString& keys,
+                            std::function<void()> run)
 {
     QAction* action = make(menu, name, text, keys);
-    connect(action, &QAction::triggered, this, [this, run = std::move(run)](bool on) {
-        run(on);
+    connect(action, &QAction::triggered, this, [this, run = std::move(run)] {
+        run();
         update();
     });
     return action;
 }
 
-QAction* WindowActions::add(QMenu* menu, const char* name, const QString& text, const QString& keys,
-                            std::function<void()> run)
-{
-    return addPlain(menu, name, text, keys, [run = std::move(run)](bool) { run(); });
-}
-
 QAction* WindowActions::addUnplayed(QMenu* menu, const char* name, const QString& text,
                                     const QString& keys, std::function<void()> run)
 {
-    QAction* action = addPlain(menu, name, text, keys, [run = std::move(run)](bool) { run(); });
+    QAction* action = add(menu, name, text, keys, std::move(run));
     action->setProperty(SessionPlayer::kUnplayedProperty, true);
     return action;
 }
 
 QAction* WindowActions::addSwitch(QMenu* menu, const char* name, const QString& text,
-                                  const QString& keys, std::function<void(bool)> run)
+                                  const QString& keys, const Condition& isOn,
+                                  std::function<void(bool)> set)
 {
-    QAction* action = addPlain(menu, name, text, keys, std::move(run));
+    QAction* action = make(menu, name, text, keys);
     action->setCheckable(true);
+    connect(action, &QAction::triggered, this, [this, set = std::move(set)](bool on) {
+        set(on);
+        update();
+    });
+    if (isOn) {
+        ticks.emplace_back(action, isOn);
+    }
     return action;
 }
 
 QAction* WindowActions::addCommand(QMenu* menu, const char* command, const QString& text,
-                                   const QString& keys, bool isSwitch)
+                                   const QString& keys)
 {
-    QAction* action = addPlain(menu, command, text, keys, [this, command, isSwitch](bool on) {
-        run(QLatin1String(command), isSwitch ? QJsonValue(on) : QJsonValue());
+    return add(menu, command, text, keys, [this, command] {
+        run(command);
         window.showPanelOfTool();
     });
-    action->setCheckable(isSwitch);
-    return action;
+}
+
+QAction* WindowActions::addCommandSwitch(QMenu* menu, const char* command, const char* value,
+                                         const QString& text, const QString& keys)
+{
+    return addSwitch(
+        menu, command, text, keys, [this, value] { return isOn(value); },
+        [this, command](bool on) {
+            run(command, on);
+            window.showPanelOfTool();
+        });
+}
+
+bool WindowActions::isOn(const char* value) const
+{
+    return stage.commands().value(value).value_or(false).toBool();
 }
 
 void WindowActions::run(const QString& command, const QJsonValue& value)
@@ -180,8 +196,7 @@ void WindowActions::addFileMenu()
     setRecentFiles({});
     add(menu, "fileStartScene", tr("S&tart scene"), "Ctrl+N", [this] { window.showStartScene(); });
     menu->addSeparator();
-    addPlain(menu, "sceneSave", tr("&Save scene"), "Ctrl+S",
-             [this](bool) { window.scenes().save(); });
+    add(menu, "sceneSave", tr("&Save scene"), "Ctrl+S", [this] { window.scenes().save(); });
     addUnplayed(menu, "sceneSaveAs", tr("Save sc&ene as…"), "Ctrl+Shift+S",
                 [this] { window.scenes().saveAs(); });
     addUnplayed(menu, "fileExport", tr("E&xport models…"), {}, [this] { exportAsked(); });
@@ -208,6 +223,8 @@ void WindowActions::addEditMenu()
     undo = add(menu, "undo", tr("&Undo"), "Ctrl+Z", [this] { stage.undo(); });
     redo = add(menu, "redo", tr("&Redo"), "Ctrl+Shift+Z", [this] { stage.redo(); });
     redo->setShortcuts({ redo->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Y) });
+    conditions.emplace_back(undo, [this] { return stage.canUndo(); });
+    conditions.emplace_back(redo, [this] { return stage.canRedo(); });
     menu->addSeparator();
     add(menu, "selectAll", tr("Select &all"), "Ctrl+A", [this] { stage.selectAll(); });
     add(menu, "selectNone", tr("Select &nothing"), "D", [this] { stage.select(osg::NullFC); });
@@ -219,31 +236,26 @@ void WindowActions::addEditMenu()
 
 void WindowActions::addObjectActions(QMenu* menu)
 {
-    const auto toggle = [this](const char* name) {
-        const QString command = QLatin1String(name);
-        run(command, !stage.commands().value(command).value_or(QJsonValue()).toBool());
-    };
-    const auto isEditingPlates = [this] {
-        return stage.commands().value(QStringLiteral("plates.edit")).value_or(false).toBool();
+    const auto toggle = [this](const char* command) { run(command, !isOn(command)); };
+    // What is selected, be it objects or scene plates.
+    const auto runOn = [this](const char* ofObjects, const char* ofPlates) {
+        run(isOn("plates.edit") ? ofPlates : ofObjects);
     };
     forObjects = {
-        addPlain(menu, "duplicate", tr("Dup&licate"), "Ctrl+D",
-                 [this, isEditingPlates](bool) {
-                     run(isEditingPlates() ? QStringLiteral("plates.duplicate")
-                                           : QStringLiteral("scene.duplicate"));
-                 }),
-        addPlain(menu, "delete", tr("&Delete"), "Del",
-                 [this, isEditingPlates](bool) {
-                     run(isEditingPlates() ? QStringLiteral("plates.remove")
-                                           : QStringLiteral("scene.delete"));
-                 }),
-        addPlain(menu, "rename", tr("Rena&me"), "F2",
-                 [this](bool) { window.panels().renameSelected(); }),
-        addPlain(menu, "hide", tr("&Hide or show"), "H",
-                 [toggle](bool) { toggle("object.visible"); }),
-        addPlain(menu, "lock", tr("Loc&k or unlock"), {},
-                 [toggle](bool) { toggle("object.locked"); }),
+        add(menu, "duplicate", tr("Dup&licate"), "Ctrl+D",
+            [runOn] { runOn("scene.duplicate", "plates.duplicate"); }),
+        add(menu, "delete", tr("&Delete"), "Del",
+            [runOn] { runOn("scene.delete", "plates.remove"); }),
+        add(menu, "rename", tr("Rena&me"), "F2", [this] { window.panels().renameSelected(); }),
+        add(menu, "hide", tr("&Hide or show"), "H", [toggle] { toggle("object.visible"); }),
+        add(menu, "lock", tr("Loc&k or unlock"), {}, [toggle] { toggle("object.locked"); }),
     };
+    for (QAction* action : forObjects) {
+        conditions.emplace_back(action, [this] {
+            return (stage.selectedObject() != osg::NullFC || isOn("plates.edit")) &&
+                !stage.isDragging();
+        });
+    }
 }
 
 void WindowActions::addViewMenu()
@@ -260,62 +272,84 @@ void WindowActions::addViewMenu()
             [this, view = row.view] { stage.setStandardView(view); });
     }
     menu->addSeparator();
-    orthographic = addSwitch(menu, "orthographic", tr("Ort&hographic"), "5",
-                             [this](bool on) { stage.setOrthographic(on); });
-    zUp = addSwitch(menu, "zUp", tr("&Z is up"), "Z", [this](bool on) { stage.setZUp(on); });
+    addSwitch(
+        menu, "orthographic", tr("Ort&hographic"), "5",
+        [this] { return stage.pose().orthographic; },
+        [this](bool on) { stage.setOrthographic(on); });
+    addSwitch(
+        menu, "zUp", tr("&Z is up"), "Z", [this] { return stage.pose().zUp; },
+        [this](bool on) { stage.setZUp(on); });
     menu->addSeparator();
     QMenu* panels = menu->addMenu(tr("&Panels"));
     panels->addActions(window.panels().actions());
-    addSwitch(menu, "effectBuffer", tr("Show &effect buffer"), "B",
-              [this](bool on) { window.showEffectBuffer(on); });
-    addCommand(menu, "view.setFrameStatistics", tr("Frame stat&istics"), "", true);
+    addSwitch(menu, "effectBuffer", tr("Show &effect buffer"), "B", {},
+              [this](bool on) { window.view().showEffectBuffer(on); });
+    addSwitch(
+        menu, "view.setFrameStatistics", tr("Frame stat&istics"), "",
+        [this] { return !window.view().frameText().isEmpty(); },
+        [this](bool on) { run("view.setFrameStatistics", on); });
     menu->addSeparator();
-    grid = addCommand(menu, "settings.grid", tr("&Grid on the ground"), "G", true);
-    addPlain(menu, "nextPanel", tr("Ne&xt panel"), "F6",
-             [this](bool) { window.panels().focusNext(&window.view()); });
-    fullScreen = addPlain(menu, "fullScreen", tr("F&ull screen"), "F11",
-                          [this](bool on) { window.showWhole(on); });
-    fullScreen->setCheckable(true);
+    addCommandSwitch(menu, "settings.grid", "settings.grid", tr("&Grid on the ground"), "G");
+    add(menu, "nextPanel", tr("Ne&xt panel"), "F6",
+        [this] { window.panels().focusNext(&window.view()); });
+    addSwitch(
+        menu, "fullScreen", tr("F&ull screen"), "F11", [this] { return window.isWhole(); },
+        [this](bool on) { window.showWhole(on); });
 }
 
 void WindowActions::addManipulatorMenu()
 {
     QMenu* menu = window.menuBar()->addMenu(tr("&Manipulator"));
-    gizmoGroup = new QActionGroup(this);
+    auto* group = new QActionGroup(this);
     for (const GizmoRow& row : kGizmos) {
         QByteArray name = gizmoName(row.gizmo);
         name[0] = static_cast<char>(std::toupper(name[0]));
-        QAction* action = addSwitch(menu, "gizmo" + name, tr(row.text), row.keys,
-                                    [this, gizmo = row.gizmo](bool) { stage.showGizmo(gizmo); });
-        gizmoGroup->addAction(action);
-        gizmoActions[row.gizmo] = action;
+        const Gizmo gizmo = row.gizmo;
+        QAction* action = addSwitch(
+            menu, "gizmo" + name, tr(row.text), row.keys,
+            [this, gizmo] {
+                return stage.activeTool() == nullptr && stage.gizmo().shown() == gizmo;
+            },
+            [this, gizmo](bool) { stage.showGizmo(gizmo); });
+        group->addAction(action);
+        if (gizmo == Gizmo::Clipping) {
+            conditions.emplace_back(action, [this] { return stage.isClipPlaneSelected(); });
+        }
     }
     menu->addSeparator();
     addCommand(menu, "scene.addClipPlane", tr("Add cl&ip plane"), "Shift+X");
-    removeClipPlane = addCommand(menu, "scene.removeClipPlane", tr("Remo&ve clip plane"), "");
+    conditions.emplace_back(addCommand(menu, "scene.removeClipPlane", tr("Remo&ve clip plane"), ""),
+                            [this] { return stage.isClipPlaneSelected() && !stage.isDragging(); });
     menu->addSeparator();
-    matchCamera = addCommand(menu, "match.setActive", tr("Match a p&hotograph"), "Shift+M", true);
-    holdView = addCommand(menu, "view.setHeld", tr("Hold the vie&w"), "Shift+H", true);
-    describe(holdView, tr("Hold the view: nothing moves the camera until this is lifted"));
-    editPlates = addCommand(menu, "plates.edit", tr("Edit scene pl&ates"), "Shift+P", true);
-    editPictures =
-        addCommand(menu, "texture.edit", tr("Edit pictures on o&bjects"), "Shift+T", true);
+    addCommandSwitch(menu, "match.setActive", "match.active", tr("Match a p&hotograph"), "Shift+M");
+    QAction* hold =
+        addCommandSwitch(menu, "view.setHeld", "view.held", tr("Hold the vie&w"), "Shift+H");
+    describe(hold, tr("Hold the view: nothing moves the camera until this is lifted"));
+    addCommandSwitch(menu, "plates.edit", "plates.edit", tr("Edit scene pl&ates"), "Shift+P");
+    addCommandSwitch(menu, "texture.edit", "texture.edit", tr("Edit pictures on o&bjects"),
+                     "Shift+T");
     menu->addSeparator();
     addTransformSettings(menu);
 }
 
 void WindowActions::addTransformSettings(QMenu* menu)
 {
-    localSpace = addSwitch(menu, "localSpace", tr("Axes o&f the object"), "L", [this](bool on) {
-        stage.gizmo().setLocalSpace(on);
-        stage.edited();
-    });
-    snapping = addSwitch(menu, "snapping", tr("Snappin&g"), "X",
-                         [this](bool on) { stage.gizmo().setSnapping(on); });
-    centerPivots = add(menu, "centerPivots", tr("Pivot bac&k to the centre"), "Shift+C", [this] {
+    localSpace = addSwitch(
+        menu, "localSpace", tr("Axes o&f the object"), "L",
+        [this] { return stage.gizmo().isLocalSpace(); },
+        [this](bool on) {
+            stage.gizmo().setLocalSpace(on);
+            stage.edited();
+        });
+    QAction* snapping = addSwitch(
+        menu, "snapping", tr("Snappin&g"), "X", [this] { return stage.gizmo().isSnapping(); },
+        [this](bool on) { stage.gizmo().setSnapping(on); });
+    QAction* centre = add(menu, "centerPivots", tr("Pivot bac&k to the centre"), "Shift+C", [this] {
         stage.gizmo().centerPivots();
         stage.edited();
     });
+    conditions.emplace_back(
+        centre, [this] { return stage.selectedObject() != osg::NullFC && !stage.isDragging(); });
     describe(localSpace, tr("Axes of the object instead of the world's"));
     describe(snapping, tr("Advance in steps; hold Ctrl for a while"));
 }
@@ -325,83 +359,37 @@ void WindowActions::addSessionMenu()
     QMenu* menu = window.menuBar()->addMenu(tr("&Session"));
     // Replaying is no step of a session.
     addUnplayed(menu, "replay", tr("Re&play…"), "Ctrl+P", [this] { window.askForSession(); });
-    stopReplay = addUnplayed(menu, "stopReplay", tr("&Stop replay"), "Ctrl+.",
-                             [this] { window.stopReplay(); });
+    conditions.emplace_back(addUnplayed(menu, "stopReplay", tr("&Stop replay"), "Ctrl+.",
+                                        [this] { window.stopReplay(); }),
+                            [this] { return window.isReplaying(); });
 }
 
 void WindowActions::addHelpMenu()
 {
     QMenu* menu = window.menuBar()->addMenu(tr("&Help"));
-    addPlain(menu, "shortcuts", tr("&Shortcuts…"), "F1", [this](bool) { showShortcuts(window); });
+    add(menu, "shortcuts", tr("&Shortcuts…"), "F1", [this] { showShortcuts(window); });
     addUnplayed(menu, "manual", tr("&Manual"), "Shift+F1", [this] { window.showManual(); });
     addUnplayed(menu, "tour", tr("&Tour"), {}, [this] { window.goOnTour(); });
-    addPlain(menu, "about", tr("&About nbviewer…"), {},
-             [this](bool) { AboutBox::open(window.view().graphics(), &window); });
+    add(menu, "about", tr("&About nbviewer…"), {},
+        [this] { AboutBox::open(window.view().graphics(), &window); });
 }
 
 void WindowActions::update()
 {
-    const CameraPose pose = stage.pose();
-    orthographic->setChecked(pose.orthographic);
-    zUp->setChecked(pose.zUp);
-    updateGizmos();
-    updateEditing();
-    stopReplay->setEnabled(window.isReplaying());
-    fullScreen->setChecked(window.isWhole());
-    grid->setChecked(stage.isGridShown());
-}
-
-void WindowActions::updateGizmos()
-{
-    const auto isOn = [this](const char* value) {
-        return stage.commands().value(QLatin1String(value)).value_or(false).toBool();
-    };
-    matchCamera->setChecked(isOn("match.active"));
-    holdView->setChecked(stage.isViewHeld());
-    editPlates->setChecked(isOn("plates.edit"));
-    editPictures->setChecked(isOn("texture.edit"));
-    if (stage.activeTool() == nullptr) {
-        gizmoActions[stage.gizmo().shown()]->setChecked(true);
-        return;
+    for (const auto& [action, isOn] : ticks) {
+        action->setChecked(isOn());
     }
-    // An exclusive group lets go of its last choice only when it is not exclusive.
-    gizmoGroup->setExclusive(false);
-    for (const auto& [gizmo, action] : gizmoActions) {
-        action->setChecked(false);
+    for (const auto& [action, isPossible] : conditions) {
+        action->setEnabled(isPossible());
     }
-    gizmoGroup->setExclusive(true);
-}
-
-void WindowActions::updateEditing()
-{
     const QUndoStack* stack = nbUndoService::the()->getStack();
-    undo->setEnabled(stage.canUndo());
-    redo->setEnabled(stage.canRedo());
     const QString undoText = stack->undoText();
     const QString redoText = stack->redoText();
     undo->setText(undoText.isEmpty() ? tr("&Undo") : tr("&Undo %1").arg(undoText));
     redo->setText(redoText.isEmpty() ? tr("&Redo") : tr("&Redo %1").arg(redoText));
     describe(undo, withoutMnemonic(undo->text()));
     describe(redo, withoutMnemonic(redo->text()));
-    const bool isSelected = stage.selectedObject() != osg::NullFC;
-    centerPivots->setEnabled(isSelected && !stage.isDragging());
-    for (QAction* action : forObjects) {
-        action->setEnabled((isSelected || editPlates->isChecked()) && !stage.isDragging());
-    }
-    gizmoActions[Gizmo::Clipping]->setEnabled(stage.isClipPlaneSelected());
-    removeClipPlane->setEnabled(stage.isClipPlaneSelected() && !stage.isDragging());
-    localSpace->setChecked(stage.gizmo().isLocalSpace());
     localSpace->setIconText(localSpace->isChecked() ? tr("Object") : tr("World"));
-    snapping->setChecked(stage.gizmo().isSnapping());
-}
-
-void WindowActions::lookFrom(View view)
-{
-    for (const ViewRow& row : kViews) {
-        if (row.view == view) {
-            window.findChild<QAction*>(QLatin1String(row.name))->trigger();
-        }
-    }
 }
 
 void WindowActions::setRecentFiles(const QStringList& files)

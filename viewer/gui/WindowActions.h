@@ -1,20 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "viewer/stage/GizmoController.h"
-
-#include <nbOpenSGUberCamera/nbCameraNavigation.h>
-
 #include <QJsonValue>
 #include <QList>
 #include <QObject>
 #include <QStringList>
 
 #include <functional>
-#include <map>
+#include <utility>
+#include <vector>
 
 class QAction;
-class QActionGroup;
 class QMainWindow;
 class QMenu;
 
@@ -39,35 +35,33 @@ public:
     /// What can be done with the selected objects, for menus of the view and the tree.
     const QList<QAction*>& objectActions() const { return forObjects; }
 
-    /// Does what the menu entry of a standard view does.
-    void lookFrom(nbCameraNavigation::StandardView view);
-
     /// Fills the menu of recent files.
     void setRecentFiles(const QStringList& files);
 
-signals:
-
 private:
+    using Condition = std::function<bool()>;
+
     QAction* make(QMenu* menu, const char* name, const QString& text, const QString& keys);
     /// Sets the tip, with the shortcut if there is one.
     void describe(QAction* action, const QString& tip);
-    /// An action that is no step of a session.
-    QAction* addPlain(QMenu* menu, const char* name, const QString& text, const QString& keys,
-                      std::function<void(bool)> run);
-    /// One whose shortcut cannot be played either: it opens a dialog or ends the replay.
-    QAction* addUnplayed(QMenu* menu, const char* name, const QString& text, const QString& keys,
-                         std::function<void()> run);
-    /// An action whose shortcut is a step of a session.
     QAction* add(QMenu* menu, const char* name, const QString& text, const QString& keys,
                  std::function<void()> run);
+    /// One whose shortcut cannot be played: it opens a dialog or ends the replay.
+    QAction* addUnplayed(QMenu* menu, const char* name, const QString& text, const QString& keys,
+                         std::function<void()> run);
+    /// One that is ticked while something is on. @param isOn  empty: while it has been chosen
     QAction* addSwitch(QMenu* menu, const char* name, const QString& text, const QString& keys,
-                       std::function<void(bool)> run);
-    /// An action that runs a command of the stage. @param command  literal
-    /// @param isSwitch  it takes true or false
-    QAction* addCommand(QMenu* menu, const char* command, const QString& text, const QString& keys,
-                        bool isSwitch = false);
+                       const Condition& isOn, std::function<void(bool)> set);
+    /// One that runs a command of the stage. @param command  literal
+    QAction* addCommand(QMenu* menu, const char* command, const QString& text, const QString& keys);
+    /// One that runs a command which takes true or false. @param value  that tells it, literal
+    QAction* addCommandSwitch(QMenu* menu, const char* command, const char* value,
+                              const QString& text, const QString& keys);
     /// Runs a command of the stage; a refusal becomes a problem of the window.
     void run(const QString& command, const QJsonValue& value = {});
+    /// Whether a value of the stage is true.
+    bool isOn(const char* value) const;
+
     void addFileMenu();
     void exportAsked();
     void addEditMenu();
@@ -77,30 +71,16 @@ private:
     void addSessionMenu();
     void addTransformSettings(QMenu* menu);
     void addHelpMenu();
-    void updateGizmos();
-    void updateEditing();
 
     MainWindow& window;
     Stage& stage;
     QList<QAction*> forObjects;
     QMenu* recentMenu = nullptr;
-    QActionGroup* gizmoGroup = nullptr;
-    std::map<Gizmo, QAction*> gizmoActions;
     QAction* undo = nullptr;
     QAction* redo = nullptr;
     QAction* localSpace = nullptr;
-    QAction* snapping = nullptr;
-    QAction* centerPivots = nullptr;
-    QAction* removeClipPlane = nullptr;
-    QAction* matchCamera = nullptr;
-    QAction* holdView = nullptr;
-    QAction* editPlates = nullptr;
-    QAction* editPictures = nullptr;
-    QAction* grid = nullptr;
-    QAction* orthographic = nullptr;
-    QAction* zUp = nullptr;
-    QAction* stopReplay = nullptr;
-    QAction* fullScreen = nullptr;
+    std::vector<std::pair<QAction*, Condition>> ticks;
+    std::vector<std::pair<QAction*, Condition>> conditions;  ///< of being enabled
 };
 
 }  // namespace viewer
