@@ -7,7 +7,7 @@
 #include "benchmarks/WavySphere.h"
 #include "viewer/gui/MainWindow.h"
 #include "viewer/gui/ViewWidget.h"
-#include "viewer/replay/SessionTargets.h"
+#include "viewer/replay/SessionStage.h"
 #include "viewer/stage/Stage.h"
 
 #include <nbKernel/nbScenegraph.h>

@@ -4,7 +4,6 @@
 
 #include "tests/viewer/support/SceneTest.h"
 #include "viewer/loading/PictureFile.h"
-#include "viewer/texts/TextFile.h"
 
 #include <QFileInfo>
 

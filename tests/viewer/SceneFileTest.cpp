@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/viewer/support/SceneEdits.h"
 #include "tests/viewer/support/SceneTest.h"
-#include "viewer/commands/JsonNumbers.h"
 #include "viewer/commands/JsonReader.h"
 #include "viewer/loading/BuiltModel.h"
 #include "viewer/loading/PictureFile.h"

@@ -37,7 +37,7 @@ TEST(Session, IsReadAsItWasWritten)
     ASSERT_EQ(read->steps.size(), 5U);
     EXPECT_EQ(read->steps[0].modifiers, Qt::ShiftModifier | Qt::ControlModifier);
     EXPECT_EQ(read->steps[0].at.offsetPx, QPointF(2.5, -1.0));
-    EXPECT_EQ(read->steps[1].at.world[2], 3.0);
+    EXPECT_EQ(read->steps[1].at.world[2], 3.0F);
     EXPECT_FALSE(read->steps[2].expectation.selection);
     EXPECT_EQ((*read->steps[2].expectation.nodes[0].rotationDeg)[2], -1.5);
     EXPECT_EQ(read->steps[3].at.kind, SessionTarget::Kind::Pointer);

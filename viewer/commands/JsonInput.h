@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "viewer/commands/JsonNumbers.h"
 #include "viewer/commands/JsonReader.h"
 #include "viewer/commands/SceneLimits.h"
+
+#include <OpenSG/OSGColor.h>
+#include <OpenSG/OSGQuaternion.h>
+#include <OpenSG/OSGVector.h>
 
 #include <QDir>
 #include <QJsonArray>
@@ -18,8 +21,28 @@
 
 namespace viewer {
 
+/// How many numbers of single precision, told by [], make a vector, colour or rotation (x, y, z,
+/// w); 0 for other types.
+template <class Value>
+constexpr int kNumberCount = 0;
+template <>
+constexpr int kNumberCount<osg::Vec2f> = 2;
+template <>
+constexpr int kNumberCount<osg::Vec3f> = 3;
+template <>
+constexpr int kNumberCount<osg::Vec4f> = 4;
+template <>
+constexpr int kNumberCount<osg::Pnt3f> = 3;
+template <>
+constexpr int kNumberCount<osg::Color3f> = 3;
+template <>
+constexpr int kNumberCount<osg::Color4f> = 4;
+template <>
+constexpr int kNumberCount<osg::Quaternion> = 4;
+
 /// Reads objects of JSON as functions bool describe(JsonInput&, Value&) tell, which name the
-/// entries that a Value has one after the other; other entries are refused. A type that is no
+/// entries that a Value has one after the other; other entries are refused. There is one for each
+/// type in the program. A type that is no
 /// object and none of those below has a function bool readJson(JsonInput&, const QJsonValue&,
 /// const QString& path, Type&). Everything answers whether to go on.
 class JsonInput : public JsonReader

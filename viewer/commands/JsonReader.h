@@ -46,4 +46,11 @@ private:
 /// @param error  one line with the place of the fault ("line 3, column 7: ...")
 std::optional<QJsonObject> parseJsonObject(const QByteArray& text, QString& error);
 
+/// What gives a number back, bit for bit, when it is read in double precision and brought back to
+/// this type, written with the fewest digits. JSON knows no negative zero: it becomes the text
+/// "-0".
+/// @param value  finite
+QJsonValue exactJson(float value);
+QJsonValue exactJson(double value);
+
 }  // namespace viewer

@@ -6,7 +6,7 @@
 #include "viewer/gui/SessionTour.h"
 #include "viewer/gui/ViewWidget.h"
 #include "viewer/gui/WindowActions.h"
-#include "viewer/replay/SessionStart.h"
+#include "viewer/replay/SessionStage.h"
 
 #include <QFileDialog>
 #include <QTimer>

@@ -3,8 +3,7 @@
 
 #include "viewer/gui/ViewWidget.h"
 #include "viewer/loading/PictureFile.h"
-#include "viewer/replay/SessionChecks.h"
-#include "viewer/replay/SessionTargets.h"
+#include "viewer/replay/SessionStage.h"
 
 #include <nbUtils/nbQt.h>
 

@@ -4,7 +4,7 @@
 #include "viewer/gui/MainWindow.h"
 #include "viewer/gui/SessionPlayer.h"
 #include "viewer/replay/Session.h"
-#include "viewer/texts/TextFile.h"
+#include "viewer/texts/FileRules.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "viewer/stage/HandleCursor.h"
+
+#include <QCursor>
 #include <QIcon>
 #include <QString>
 
@@ -11,5 +14,9 @@ namespace viewer {
 /// application's palette has at that moment, so that it is sharp and legible in every theme.
 /// @return null for a name without icon
 QIcon themeIcon(const QString& name);
+
+/// Cursor that shows what a handle does: double arrows along its direction, with squares at the
+/// ends where it scales, a turning arrow for rings; the usual arrow for no handle.
+QCursor cursorShape(const HandleCursor& cursor);
 
 }  // namespace viewer

@@ -3,7 +3,7 @@
 
 #include "viewer/commands/Commands.h"
 #include "viewer/gui/Caption.h"
-#include "viewer/gui/CursorShapes.h"
+#include "viewer/gui/ThemeIcon.h"
 #include "viewer/stage/StageTool.h"
 
 #include <nbUtils/nbQt.h>

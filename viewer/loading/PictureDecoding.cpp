@@ -3,7 +3,6 @@
 
 #include "viewer/texts/FileRules.h"
 #include "viewer/texts/Text.h"
-#include "viewer/texts/TextFile.h"
 
 #include <QBuffer>
 #include <QFileInfo>

@@ -47,8 +47,7 @@ QJsonArray cornersOf(Stage& stage)
         const osg::Pnt3f point(ends[corner >> 2U & 1U][0], ends[corner >> 1U & 1U][1],
                                ends[corner & 1U][2]);
         osg::Pnt2f px;
-        if (!nbCameraNavigation::project(stage.pose(), point, stage.view().getWidth(),
-                                         stage.view().getHeight(), px)) {
+        if (!stage.project(point, px)) {
             return {};
         }
         corners.append(QJsonArray { px[0], px[1] });

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "viewer/plates/PlateDragContext.h"
-#include "viewer/plates/PlatePickContext.h"
+#include "viewer/plates/PlateContexts.h"
 #include "viewer/stage/StageTool.h"
 
 #include <nbInteraction/Picker.h>

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <nbOpenSGUberCamera/nbCameraNavigation.h>
+
 #include <QJsonObject>
 #include <QJsonValue>
 #include <QPointF>
@@ -33,7 +35,7 @@ struct SessionTarget
 
     Kind kind = Kind::Pixel;
     QString name;
-    std::array<double, 3> world { 0.0, 0.0, 0.0 };  ///< world space
+    osg::Pnt3f world { 0.0F, 0.0F, 0.0F };  ///< world space
     QPointF offsetPx;  ///< device pixels, y down
 };
 
@@ -109,20 +111,6 @@ constexpr ModifierKey kModifierKeys[] = { { "Ctrl", Qt::Key_Control, Qt::Control
                                           { "Shift", Qt::Key_Shift, Qt::ShiftModifier },
                                           { "Alt", Qt::Key_Alt, Qt::AltModifier } };
 
-/// Camera of a session's start; world space.
-struct SessionCamera
-{
-    static constexpr double kDefaultFovDeg = 45.0;
-
-    std::array<double, 3> from { 0.0, 0.0, 0.0 };
-    std::array<double, 3> at { 0.0, 0.0, 0.0 };
-    std::array<double, 3> up { 0.0, 1.0, 0.0 };
-    std::optional<std::array<double, 3>> pivot;  ///< what the view turns about; absent: `at`
-    double fovDeg = kDefaultFovDeg;  ///< vertical opening angle, degrees
-    bool orthographic = false;
-    bool zUp = false;
-};
-
 /// A recorded or written series of events with everything that makes its replay give the same
 /// picture.
 struct Session
@@ -133,7 +121,7 @@ struct Session
     QSize sizePx { kDefaultWidthPx, kDefaultHeightPx };  ///< of the 3D view, device pixels
     bool areFilesChosen = false;  ///< by the command line, instead of the session's own
     QStringList files;  ///< models to open, relative to the session file; empty: the start scene
-    std::optional<SessionCamera> camera;  ///< absent: the camera that the scene starts with
+    std::optional<CameraPose> camera;  ///< absent: the camera that the scene starts with
     std::optional<QString>
         selection;  ///< name of the node selected at the start, "" for none; absent: as it starts
     QString manipulator;  ///< command name of the manipulator or tool at the start; empty: as it

@@ -2,7 +2,6 @@
 #include "viewer/commands/JsonInput.h"
 #include "viewer/replay/Session.h"
 #include "viewer/texts/FileRules.h"
-#include "viewer/texts/TextFile.h"
 
 #include <nbUtils/nbQt.h>
 
@@ -210,18 +209,27 @@ static bool describe(JsonInput& in, SessionStep& step)
         (!in.has("expect") || in.object("expect", step.expectation)) && checkStep(in, step);
 }
 
+/// Turns about `at` unless a pivot is told. A type of its own, since scenes describe theirs
+/// otherwise.
+struct SessionCamera : CameraPose
+{ };
+
 static bool describe(JsonInput& in, SessionCamera& camera)
 {
     constexpr double kMaxFovDeg = 179.0;
-    return in.field("from", camera.from) && in.field("at", camera.at) &&
-        in.field("up", camera.up) && in.field("pivot", camera.pivot) &&
-        in.number("fov", camera.fovDeg, 1.0, kMaxFovDeg) &&
+    auto fovDeg = static_cast<double>(camera.fovDeg);
+    const bool isRead = in.field("from", camera.from) && in.field("at", camera.at) &&
+        in.field("up", camera.up) && in.field("pivot", camera.pivot, camera.at) &&
+        in.number("fov", fovDeg, 1.0, kMaxFovDeg) &&
         in.demand(camera.from != camera.at, "", "from and at are the same point") &&
-        in.maybe("orthographic", camera.orthographic) && in.maybe("zUp", camera.zUp);
+        in.field("orthographic", camera.orthographic, false) && in.field("zUp", camera.zUp, false);
+    camera.fovDeg = static_cast<float>(fovDeg);
+    return isRead;
 }
 
 static bool describe(JsonInput& in, Session& session)
 {
+    std::optional<SessionCamera> camera;
     std::array<double, 2> size { 0.0, 0.0 };
     const auto isEdge = [](double edge) {
         return edge == std::floor(edge) && edge >= kMinViewEdgePx && edge <= kMaxViewEdgePx;
@@ -235,9 +243,10 @@ static bool describe(JsonInput& in, Session& session)
                   QStringLiteral("expected two whole numbers from %1 to %2")
                       .arg(kMinViewEdgePx)
                       .arg(kMaxViewEdgePx)) &&
-        in.each("files", readFile) && in.part("camera", session.camera) &&
+        in.each("files", readFile) && in.part("camera", camera) &&
         in.field("selection", session.selection) && in.maybe("manipulator", session.manipulator) &&
         in.needs("steps") && in.list("steps", session.steps);
+    session.camera = camera;
     if (isRead) {
         session.sizePx = QSize(static_cast<int>(size[0]), static_cast<int>(size[1]));
     }

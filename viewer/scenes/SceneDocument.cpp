@@ -3,8 +3,8 @@
 
 #include "viewer/commands/JsonInput.h"
 #include "viewer/scenes/SceneFields.h"
+#include "viewer/texts/FileRules.h"
 #include "viewer/texts/Text.h"
-#include "viewer/texts/TextFile.h"
 
 #include <QBuffer>
 #include <QFileInfo>

@@ -101,9 +101,7 @@ bool findAngle(Stage& stage, const std::string& handle, double& angleDeg)
     for (std::size_t i = 0; i < px.size(); ++i) {
         osg::Pnt3f world;
         toWorld.multFullMatrixPnt(osg::Pnt3f(0.0F, static_cast<float>(i), 0.0F), world);
-        const nbOSGWidget& view = stage.view();
-        if (!nbCameraNavigation::project(stage.pose(), world, view.getWidth(), view.getHeight(),
-                                         px[i])) {
+        if (!stage.project(world, px[i])) {
             return false;
         }
     }

@@ -5,11 +5,52 @@
 
 #include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGUtils/nbEdit.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <OpenSG/OSGLineChunk.h>
 #include <OpenSG/OSGSimpleMaterial.h>
 
+#include <cmath>
+
 namespace viewer {
+namespace {
+
+/// Part of a box's edge that is drawn at each of its ends.
+constexpr float kCornerLength = 0.18F;
+
+/// Part of the box's size by which it is drawn larger than it is, so that the lines are clear of
+/// the surface.
+constexpr float kMargin = 0.02F;
+
+constexpr osg::UInt32 kCorners = 8;
+
+/// Corner i of a box: bit 0, 1, 2 of i choose the far side in x, y, z.
+osg::Pnt3f cornerOf(const osg::Pnt3f& low, const osg::Pnt3f& high, osg::UInt32 i)
+{
+    return { (i & 1U) != 0 ? high[0] : low[0], (i & 2U) != 0 ? high[1] : low[1],
+             (i & 4U) != 0 ? high[2] : low[2] };
+}
+
+void addCornerLines(const osg::Pnt3f& low, const osg::Pnt3f& high,
+                    std::vector<osg::Pnt3f>& positions)
+{
+    for (osg::UInt32 i = 0; i < kCorners; ++i) {
+        const osg::Pnt3f corner = cornerOf(low, high, i);
+        for (osg::UInt32 axis = 0; axis < 3; ++axis) {
+            const osg::Pnt3f other = cornerOf(low, high, i ^ (1U << axis));
+            positions.push_back(corner);
+            positions.push_back(corner + (other - corner) * kCornerLength);
+        }
+    }
+}
+
+const osg::Color3f kGridColor { 0.46F, 0.49F, 0.54F };
+constexpr float kGridWidthPx = 1.0F;
+constexpr int kCells = 10;  ///< of the grid, to each side
+/// Cells in the diagonal of a scene, at least.
+constexpr float kLeastCells = 3.0F;
+
+}  // namespace
 
 osg::GeometryPtr makeLines(osg::UInt32 mode, const osg::Color3f& color, float widthPx)
 {
@@ -66,6 +107,75 @@ void HelperLines::set(const std::vector<osg::Pnt3f>& corners)
     const osg::NodePtr shown = node.get();
     const nbEdit edit(shown, osg::Node::TravMaskFieldMask);
     shown->setActive(!corners.empty());
+}
+
+bool BoundsMarker::mark(const std::vector<osg::NodePtr>& objects)
+{
+    std::vector<Box> current;
+    for (const osg::NodePtr& object : objects) {
+        const osg::BoxVolume bounds = nbNodeUtils::getWorldBounds(object);
+        if (!bounds.isEmpty()) {
+            current.emplace_back(bounds.getMin(), bounds.getMax());
+        }
+    }
+    if (current == boxes) {
+        return false;
+    }
+    boxes = std::move(current);
+    std::vector<osg::Pnt3f> corners;
+    for (const auto& [low, high] : boxes) {
+        const osg::Vec3f margin = (high - low) * (kMargin * 0.5F);
+        addCornerLines(low - margin, high + margin, corners);
+    }
+    lines.set(corners);
+    return true;
+}
+
+GroundGrid::GroundGrid()
+    : lines(kGridColor, kGridWidthPx)
+{ }
+
+void GroundGrid::hide()
+{
+    if (cell > 0.0F) {
+        cell = 0.0F;
+        lines.set({});
+    }
+}
+
+void GroundGrid::lay(const osg::BoxVolume& bounds, osg::UInt32 upAxis)
+{
+    if (bounds.isEmpty()) {
+        hide();
+        return;
+    }
+    const osg::Vec3f size = bounds.getMax() - bounds.getMin();
+    const float length = std::max(size.length(), 1e-6F);
+    const float newCell = std::pow(10.0F, std::floor(std::log10(length / kLeastCells)));
+    osg::Pnt3f newMiddle = bounds.getMin() + size * 0.5F;
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        newMiddle[i] = i == upAxis ? 0.0F : std::round(newMiddle[i] / newCell) * newCell;
+    }
+    if (newCell == cell && newMiddle == middle && upAxis == up) {
+        return;
+    }
+    cell = newCell;
+    middle = newMiddle;
+    up = upAxis;
+    std::vector<osg::Pnt3f> corners;
+    const osg::UInt32 axes[] = { 0, 3 - up };
+    for (const osg::UInt32 along : axes) {
+        const osg::UInt32 across = 3 - up - along;
+        for (int i = -kCells; i <= kCells; ++i) {
+            for (const int end : { -kCells, kCells }) {
+                osg::Pnt3f corner = middle;
+                corner[across] += static_cast<float>(i) * cell;
+                corner[along] += static_cast<float>(end) * cell;
+                corners.push_back(corner);
+            }
+        }
+    }
+    lines.set(corners);
 }
 
 }  // namespace viewer

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <OpenSG/OSGConfig.h>
+#include <OpenSG/OSGBoxVolume.h>
 #include <OpenSG/OSGGeometry.h>
-#include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGNodePtr.h>
 #include <OpenSG/OSGRefPtr.h>
-#include <OpenSG/OSGVector.h>
 
+#include <utility>
 #include <vector>
 
 namespace viewer {
@@ -35,6 +34,49 @@ public:
 private:
     osg::NodeRefPtr node;
     osg::RefPtr<osg::GeometryPtr> lines;
+};
+
+/// Short lines at the corners of objects' bounding boxes, in one colour.
+class BoundsMarker
+{
+public:
+    /// @param color  red, green, blue, 0 .. 1
+    /// @param widthPx  of the lines, logical pixels
+    BoundsMarker(const osg::Color3f& color, float widthPx)
+        : lines(color, widthPx)
+    { }
+
+    /// Marks the bounds that the objects have now; edits the lines only if these differ from the
+    /// last time.
+    /// @return whether the lines changed
+    bool mark(const std::vector<osg::NodePtr>& objects);
+
+private:
+    using Box = std::pair<osg::Pnt3f, osg::Pnt3f>;
+
+    std::vector<Box> boxes;
+    HelperLines lines;
+};
+
+/// A grid on the ground, the plane through the origin across the upward axis: cells of 1, 10, 0.1
+/// or another power of ten, as the scene is large.
+class GroundGrid
+{
+public:
+    GroundGrid();
+
+    /// Lays the grid below a scene; edits the lines only if they are others than before.
+    /// @param bounds  of the scene, world; empty: no grid
+    /// @param upAxis  1 for y, 2 for z
+    void lay(const osg::BoxVolume& bounds, osg::UInt32 upAxis);
+
+    void hide();
+
+private:
+    HelperLines lines;
+    osg::Pnt3f middle;
+    float cell = 0.0F;  ///< 0: hidden
+    osg::UInt32 up = 1;
 };
 
 }  // namespace viewer

@@ -8,7 +8,6 @@
 
 namespace viewer {
 
-class Commands;
 class Stage;
 
 /// Place of an object in the tree of objects, such as "0/2": the third object below the first one
@@ -19,11 +18,13 @@ QString pathOf(const osg::NodePtr& object);
 osg::NodePtr objectAt(const QString& path);
 
 /// Adds the commands and values that concern the selected objects:
-/// "scene.select" (array of paths), "object.name", "object.translation", "object.rotation",
+/// "scene.select" (array of paths), "object.translation", "object.rotation",
 /// "object.scale", "object.rotatePivot", "object.scalePivot" (arrays of three numbers, in the frame
 /// of the parent, degrees), "object.visible", "object.locked" (true or false). Vectors and switches
 /// act on every selected object as one undo step; values are those of the object selected last,
 /// null without one.
+/// "scene.delete" and "scene.duplicate" take the selected objects with all below them; clip planes
+/// can be deleted. "object.name" is that of the object selected last.
 /// @param stage  outlives the commands
 void addObjectCommands(Stage& stage);
 

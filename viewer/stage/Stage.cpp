@@ -4,7 +4,6 @@
 #include "viewer/loading/BuiltModel.h"
 #include "viewer/stage/ClipPlanes.h"
 #include "viewer/stage/ObjectCommands.h"
-#include "viewer/stage/SceneEdits.h"
 #include "viewer/stage/StageTool.h"
 
 #include <nbKernel/nbScenegraph.h>
@@ -63,7 +62,6 @@ Stage::Stage(nbOSGWidget& view)
     commandTable.addValue("view.held", [this] { return viewHeld; });
     addClipPlaneCommands(*this);
     addObjectCommands(*this);
-    addSceneEdits(*this);
 }
 
 Stage::~Stage()

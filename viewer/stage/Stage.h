@@ -5,9 +5,8 @@
 #include "viewer/loading/BuiltModel.h"
 #include "viewer/loading/ModelData.h"
 #include "viewer/loading/ModelSources.h"
-#include "viewer/stage/BoundsMarker.h"
 #include "viewer/stage/GizmoController.h"
-#include "viewer/stage/GroundGrid.h"
+#include "viewer/stage/Lines.h"
 #include "viewer/stage/PreselectionTool.h"
 
 #include <nbInteraction/CameraInteractionContext.h>
@@ -156,6 +155,13 @@ public:
     // == Camera
 
     CameraPose pose() const { return renderWidget.getUberCamera()->getPose(); }
+
+    /// Pixel at which a place of the world is seen. @return false if it lies behind the eye
+    bool project(const osg::Pnt3f& world, osg::Pnt2f& px) const
+    {
+        return nbCameraNavigation::project(pose(), world, renderWidget.getWidth(),
+                                           renderWidget.getHeight(), px);
+    }
 
     /// Nothing while the view is held.
     void setPose(const CameraPose& wanted);

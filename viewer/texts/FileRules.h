@@ -7,7 +7,7 @@
 
 namespace viewer {
 
-/// What may be done with files; docs/safety.md says why. A path may come from a stranger's file.
+// What may be done with files; docs/safety.md says why. A path may come from a stranger's file.
 
 /// What is quoted may have several lines: each control character becomes a space.
 QString oneLine(QString text);
@@ -28,5 +28,15 @@ bool isReplaceable(const QString& path, QString& error);
 /// @param ending  such as ".png"
 /// @return "" with one line in `error`
 QString pathInside(const QDir& folder, const QString& name, const QString& ending, QString& error);
+
+/// Reads a whole regular file.
+/// @param mostBytes  a larger one is refused
+/// @return false with one line in `error` that begins with the file's name
+bool readWhole(const QString& path, qint64 mostBytes, QByteArray& text, QString& error);
+
+/// Writes a whole file; an existing one is replaced only when everything is on the disk. A folder
+/// that may not be written and a full disk leave no trace.
+/// @return false with one line in `error` that begins with the file's name
+bool writeWhole(const QString& path, const QByteArray& text, QString& error);
 
 }  // namespace viewer

@@ -3,7 +3,7 @@
 
 #include "viewer/commands/JsonReader.h"
 #include "viewer/loading/PictureFile.h"
-#include "viewer/replay/SessionTargets.h"
+#include "viewer/replay/SessionStage.h"
 #include "viewer/stage/Stage.h"
 #include "viewer/texts/Text.h"
 #include "viewer/textures/TextureTool.h"

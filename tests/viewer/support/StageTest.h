@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "viewer/replay/SessionChecks.h"
-#include "viewer/replay/SessionTargets.h"
+#include "viewer/replay/SessionStage.h"
 #include "viewer/stage/Stage.h"
 
 #include <nbInteraction/EventNames.h>

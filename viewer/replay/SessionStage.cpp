@@ -1,18 +1,24 @@
 // SPDX-License-Identifier: MIT
-#include "viewer/replay/SessionTargets.h"
+#include "viewer/replay/SessionStage.h"
 
+#include "viewer/commands/Commands.h"
 #include "viewer/loading/BuiltModel.h"
 #include "viewer/stage/Stage.h"
 #include "viewer/stage/StageTool.h"
 
 #include <nbKernel/nbScenegraph.h>
+#include <nbKernelServices/nbUndoService.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <OpenSG/OSGBoxVolume.h>
 #include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGPrimitiveIterator.h>
 
+#include <QJsonArray>
+#include <QUndoStack>
+
 #include <algorithm>
+#include <tuple>
 #include <vector>
 
 namespace viewer {
@@ -22,12 +28,6 @@ bool fail(const QString& reason, QString& error)
 {
     error = reason;
     return false;
-}
-
-bool project(Stage& stage, const osg::Pnt3f& world, osg::Pnt2f& px)
-{
-    const nbOSGWidget& view = stage.view();
-    return nbCameraNavigation::project(stage.pose(), world, view.getWidth(), view.getHeight(), px);
 }
 
 /// Adds the pixels of a geometry's vertices and of the middles between neighbours.
@@ -48,7 +48,7 @@ void addPixels(Stage& stage, const osg::NodePtr& node, std::vector<osg::Pnt2f>& 
                 osg::Pnt3f world = local;
                 toWorld.multMatrixPnt(local, world);
                 osg::Pnt2f px;
-                if (project(stage, world, px)) {
+                if (stage.project(world, px)) {
                     pixels.push_back(px);
                 }
             }
@@ -115,11 +115,75 @@ bool resolveNode(const QString& name, Stage& stage, osg::Pnt2f& px, QString& err
         return fail(QStringLiteral("there is no node \"%1\" with a surface").arg(name), error);
     }
     const osg::Pnt3f centre = bounds.getMin() + (bounds.getMax() - bounds.getMin()) * 0.5F;
-    return project(stage, centre, px) ||
+    return stage.project(centre, px) ||
         fail(QStringLiteral("node \"%1\" lies behind the eye").arg(name), error);
 }
 
+// == Checkpoints
+
+void expect(const QString& what, const QJsonValue& expected, const QJsonValue& found,
+            double tolerance, QStringList& failures)
+{
+    if (!isNear(found, expected, tolerance)) {
+        failures.append(
+            QStringLiteral("%1 is %2 instead of %3").arg(what, textOf(found), textOf(expected)));
+    }
+}
+
+void checkNode(const SessionNodeExpectation& node, QStringList& failures)
+{
+    const osg::NodePtr found = findObject(nbScenegraph::getRootNode(), node.node.toStdString());
+    if (found == osg::NullFC) {
+        failures.append(QStringLiteral("there is no node \"%1\"").arg(node.node));
+        return;
+    }
+    const std::tuple<const char*, std::optional<std::array<double, 3>>, osg::Vec3f> rows[] = {
+        { "translation", node.translation, nbNodeUtils::getTransformNodeTranslation(found) },
+        { "rotation", node.rotationDeg, nbNodeUtils::getTransformNodeRotation(found) },
+        { "scale", node.scale, nbNodeUtils::getTransformNodeScale(found) },
+    };
+    for (const auto& [what, wanted, is] : rows) {
+        if (wanted) {
+            expect(QStringLiteral("%1 of \"%2\"").arg(what, node.node),
+                   QJsonArray { (*wanted)[0], (*wanted)[1], (*wanted)[2] },
+                   QJsonArray { is[0], is[1], is[2] }, node.tolerance, failures);
+        }
+    }
+}
+
+void checkValues(const SessionExpectation& expectation, const Commands& commands,
+                 QStringList& failures)
+{
+    for (auto entry = expectation.values.begin(); entry != expectation.values.end(); ++entry) {
+        const std::optional<QJsonValue> found = commands.value(entry.key());
+        if (found) {
+            expect(entry.key(), entry.value(), *found, expectation.tolerance, failures);
+        } else {
+            failures.append(QStringLiteral("there is no value \"%1\"").arg(entry.key()));
+        }
+    }
+}
+
 }  // namespace
+
+bool beginSession(Stage& stage, const Session& session, QString& error)
+{
+    stage.gizmo().resetSettings();
+    if (session.camera) {
+        stage.setPose(*session.camera);
+    }
+    if (session.selection && !stage.selectByName(session.selection->toStdString())) {
+        error = QStringLiteral("the session begins with \"%1\" selected, which is not there")
+                    .arg(*session.selection);
+        return false;
+    }
+    const bool isKnown =
+        session.manipulator.isEmpty() || stage.showManipulator(session.manipulator.toStdString());
+    if (!isKnown) {
+        error = QStringLiteral("manipulator: unknown name \"%1\"").arg(session.manipulator);
+    }
+    return isKnown;
+}
 
 bool resolveTarget(const SessionTarget& target, Stage& stage, osg::Pnt2f& px, QString& error)
 {
@@ -137,19 +201,40 @@ bool resolveTarget(const SessionTarget& target, Stage& stage, osg::Pnt2f& px, QS
     case SessionTarget::Kind::Node:
         isFound = resolveNode(target.name, stage, place, error);
         break;
-    case SessionTarget::Kind::World: {
-        const auto& p = target.world;
-        const osg::Pnt3f world(static_cast<float>(p[0]), static_cast<float>(p[1]),
-                               static_cast<float>(p[2]));
-        isFound = project(stage, world, place) || fail("the point lies behind the eye", error);
+    case SessionTarget::Kind::World:
+        isFound =
+            stage.project(target.world, place) || fail("the point lies behind the eye", error);
         break;
-    }
     }
     if (isFound) {
         px = osg::Pnt2f(place[0] + static_cast<float>(target.offsetPx.x()),
                         place[1] + static_cast<float>(target.offsetPx.y()));
     }
     return isFound;
+}
+
+QStringList findFailures(const SessionStep& checkpoint, Stage& stage)
+{
+    const SessionExpectation& expectation = checkpoint.expectation;
+    QStringList failures;
+    const auto compare = [&failures](const char* what, const auto& expected,
+                                     const QJsonValue& found) {
+        if (expected) {
+            expect(what, *expected, found, 0.0, failures);
+        }
+    };
+    compare("hover", expectation.hover, QString::fromStdString(stage.hoveredHandle()));
+    compare("selection", expectation.selection, QString::fromStdString(stage.selectedName()));
+    compare("orthographic", expectation.orthographic, stage.pose().orthographic);
+    compare("undoSteps", expectation.undoSteps, nbUndoService::the()->getStack()->index());
+    for (const SessionNodeExpectation& node : expectation.nodes) {
+        checkNode(node, failures);
+    }
+    checkValues(expectation, stage.commands(), failures);
+    for (QString& failure : failures) {
+        failure.prepend(QStringLiteral("checkpoint \"%1\": ").arg(checkpoint.name));
+    }
+    return failures;
 }
 
 }  // namespace viewer
