@@ -9,7 +9,6 @@
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QFileDialog>
 #include <QFormLayout>
 #include <QGridLayout>
 #include <QLabel>
@@ -117,17 +116,15 @@ MaterialPanel::MaterialPanel(Stage& targetStage, TextureTool& targetTool, QWidge
 {
     auto* column = new QVBoxLayout(this);
     hint = new QLabel(this);
-    hint->setObjectName(QStringLiteral("materialHint"));
+    hint->setObjectName("materialHint");
     hint->setWordWrap(true);
     column->addWidget(hint);
-    threeSides = new QPushButton(tr("Put it on from three sides"), this);
-    threeSides->setObjectName(QStringLiteral("materialThreeSides"));
-    connect(threeSides, &QPushButton::clicked, this,
-            [this] { run(QStringLiteral("texture.projection"), QStringLiteral("triplanar")); });
-    column->addWidget(threeSides);
+    threeSides = addButton(column, new QPushButton(this), "materialThreeSides",
+                           tr("Put it on from three sides"),
+                           [this] { run("texture.projection", "triplanar"); });
 
     content = new QWidget(this);
-    content->setObjectName(QStringLiteral("materialContent"));
+    content->setObjectName("materialContent");
     column->addWidget(content);
     column->addStretch();
     auto* rows = new QVBoxLayout(content);
@@ -162,38 +159,33 @@ void MaterialPanel::addPictureRows(QFormLayout& form)
 {
     form.addRow(
         tr("Component"),
-        addChoice(QStringLiteral("texture.component"),
+        addChoice("texture.component",
                   { { QLatin1String(osg::UberMaterial::kDiffuseComponent), tr("Colour") },
                     { QLatin1String(osg::UberMaterial::kTransparencyComponent), tr("Opacity") } }));
 
     auto* row = new QHBoxLayout;
     fileName = new QLabel(this);
-    fileName->setObjectName(QStringLiteral("textureFile"));
+    fileName->setObjectName("textureFile");
     row->addWidget(fileName, 1);
-    auto* choose = new QPushButton(tr("Choose…"), this);
-    choose->setObjectName(QStringLiteral("textureChoose"));
-    connect(choose, &QPushButton::clicked, this, &MaterialPanel::askForPicture);
-    row->addWidget(choose);
-    removeButton = new QPushButton(tr("Remove"), this);
-    removeButton->setObjectName(QStringLiteral("textureRemove"));
-    connect(removeButton, &QPushButton::clicked, this,
-            [this] { run(QStringLiteral("texture.picture"), QJsonValue()); });
-    row->addWidget(removeButton);
+    addButton(row, new QPushButton(this), "textureChoose", tr("Choose…"), [this] {
+        const QString file = askForPicture(tr("Choose picture"));
+        if (!file.isEmpty()) {
+            run("texture.picture", file);
+        }
+    });
+    removeButton = addButton(row, new QPushButton(this), "textureRemove", tr("Remove"),
+                             [this] { run("texture.picture"); });
     form.addRow(tr("Picture"), row);
 }
 
-QAbstractButton* MaterialPanel::addHandleButton(QBoxLayout& row, const char* group,
-                                                const QString& label)
+QAbstractButton* MaterialPanel::addHandleButton(QBoxLayout* row, const char* group,
+                                                const QString& label, std::function<void()> press)
 {
-    auto* button = new QToolButton(this);
-    button->setObjectName(QLatin1String("texture-") + QLatin1String(group));
-    button->setText(label);
+    QAbstractButton* button =
+        addButton(row, new QToolButton(this), QString("texture-") + group, label, std::move(press));
     button->setCheckable(true);
     button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    // Keys are for the view, whatever was clicked last.
-    button->setFocusPolicy(Qt::TabFocus);
     handleButtons->addButton(button);
-    row.addWidget(button);
     return button;
 }
 
@@ -201,11 +193,11 @@ void MaterialPanel::addProjectionRow(QBoxLayout& column)
 {
     auto* form = new QFormLayout;
     form->addRow(tr("Projection"),
-                 addChoice(QStringLiteral("texture.projection"),
-                           { { QStringLiteral("planar"), tr("From one side") },
-                             { QStringLiteral("uv"), tr("Texture coordinates") },
-                             { QStringLiteral("triplanar"), tr("From three sides") },
-                             { QStringLiteral("tire"), tr("Around a tire") } }));
+                 addChoice("texture.projection",
+                           { { "planar", tr("From one side") },
+                             { "uv", tr("Texture coordinates") },
+                             { "triplanar", tr("From three sides") },
+                             { "tire", tr("Around a tire") } }));
     column.addLayout(form);
 }
 
@@ -221,20 +213,16 @@ void MaterialPanel::addHandleRows(QBoxLayout& column)
                                                        { "rotateScale", tr("Turn + scale") },
                                                        { "universal", tr("All") } };
     for (const auto& [group, label] : groups) {
-        QAbstractButton* button = addHandleButton(*row, group, label);
-        connect(button, &QAbstractButton::clicked, this, [this, word = QString::fromLatin1(group)] {
-            run(QStringLiteral("texture.handles"), word);
-        });
+        addHandleButton(row, group, label, [this, word = group] { run("texture.handles", word); });
     }
     auto* form = new QFormLayout;
     column.addLayout(form);
     auto* placeRow = new QHBoxLayout;
-    QAbstractButton* place = addHandleButton(*placeRow, "place", tr("By click"));
-    place->setToolTip(tr("Clicks on the object place the picture, or its handles, until Esc"));
-    connect(place, &QAbstractButton::clicked, this,
-            [this] { run(QStringLiteral("texture.place"), !tool.isPlacing()); });
+    addHandleButton(placeRow, "place", tr("By click"), [this] {
+        run("texture.place", !tool.isPlacing());
+    })->setToolTip(tr("Clicks on the object place the picture, or its handles, until Esc"));
     form->addRow(tr("Placing"), placeRow);
-    form->addRow(tr("Handle size"), addSlider(QStringLiteral("texture.handleSize"), [this] {
+    form->addRow(tr("Handle size"), addSlider("texture.handleSize", [this] {
                      const TextureGizmos::Size size = tool.handleSize();
                      return std::pair<double, double>(size.least, size.most);
                  }));
@@ -253,21 +241,17 @@ void MaterialPanel::addValueRows(QBoxLayout& column, const char* word)
         if (QLatin1String(row.projection) != QLatin1String(word)) {
             continue;
         }
-        NumberBox::Style style;
-        style.step = row.step;
-        style.least = row.least;
-        style.decimals = row.decimals;
-        style.measure = row.measure;
+        const NumberBox::Style style { row.step, row.least, kMostUnits, row.decimals, row.measure };
         const QString label = tr(row.label);
         const QStringList names = row.naming == Naming::Axes ? QStringList { "X", "Y", "Z" }
             : row.naming == Naming::Picture                  ? QStringList { "U", "V" }
                                                              : QStringList { label };
-        form->addRow(label, addNumbers(QLatin1String(row.command), names, style));
+        form->addRow(label, addNumbers(row.command, names, style));
     }
     addSwitches(*itsColumn, word);
     if (QLatin1String(word) == QLatin1String("planar")) {
-        auto* transparency = addSlider(QStringLiteral("texture.planeTransparency"),
-                                       [] { return std::pair(0.0, 1.0); });
+        auto* transparency =
+            addSlider("texture.planeTransparency", [] { return std::pair(0.0, 1.0); });
         transparency->setToolTip(tr("How far one sees through the shown projection"));
         auto* last = new QFormLayout;
         last->addRow(tr("Transparency"), transparency);
@@ -282,21 +266,9 @@ void MaterialPanel::addSwitches(QBoxLayout& column, const char* word)
     int place = 0;
     for (const SwitchRow& row : kSwitchRows) {
         if (QLatin1String(row.projection) == QLatin1String(word)) {
-            grid->addWidget(addSwitch(QLatin1String(row.command), tr(row.label)), place / 2,
-                            place % 2);
+            grid->addWidget(addSwitch(row.command, tr(row.label)), place / 2, place % 2);
             ++place;
         }
-    }
-}
-
-// == What a person does
-
-void MaterialPanel::askForPicture()
-{
-    const QString file =
-        QFileDialog::getOpenFileName(this, tr("Choose picture"), {}, pictureFileFilter());
-    if (!file.isEmpty()) {
-        run(QStringLiteral("texture.picture"), file);
     }
 }
 
@@ -306,7 +278,7 @@ void MaterialPanel::refresh()
 {
     Panel::refresh();
     const QString hindrance = tool.hindrance();
-    const QString name = value(QStringLiteral("texture.surface")).toString();
+    const QString name = value("texture.surface").toString();
     const bool lacksCoordinates = tool.target().settings() != osg::NullFC &&
         !tool.target().hasCoordinates() &&
         tool.target().projectionType() == TextureTarget::Settings::UVProjection;
@@ -331,13 +303,11 @@ void MaterialPanel::refreshHandles()
     const QString name = pictureName(image);
     setTextOf(fileName, name.isEmpty() ? tr("No picture") : name);
     removeButton->setEnabled(image != osg::NullFC);
-    const QString projection = value(QStringLiteral("texture.projection")).toString();
+    const QString projection = value("texture.projection").toString();
     for (auto rows = valueRows.begin(); rows != valueRows.end(); ++rows) {
-        rows.value()->setVisible(rows.key() ==
-                                 (projection.isEmpty() ? QStringLiteral("planar") : projection));
+        rows.value()->setVisible(rows.key() == (projection.isEmpty() ? "planar" : projection));
     }
-    const QString shown = tool.isPlacing() ? QStringLiteral("place")
-                                           : value(QStringLiteral("texture.handles")).toString();
+    const QString shown = tool.isPlacing() ? "place" : value("texture.handles").toString();
     handleButtons->setExclusive(false);
     for (QAbstractButton* button : handleButtons->buttons()) {
         const std::string group =

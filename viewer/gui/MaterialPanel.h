@@ -12,7 +12,6 @@ class QBoxLayout;
 class QButtonGroup;
 class QFormLayout;
 class QLabel;
-class QPushButton;
 
 namespace viewer {
 
@@ -37,15 +36,15 @@ private:
     /// Rows of one projection, by its word in commands.
     void addValueRows(QBoxLayout& column, const char* word);
     void addSwitches(QBoxLayout& column, const char* word);
-    QAbstractButton* addHandleButton(QBoxLayout& row, const char* group, const QString& label);
+    QAbstractButton* addHandleButton(QBoxLayout* row, const char* group, const QString& label,
+                                     std::function<void()> press);
 
-    void askForPicture();
     void refreshHandles();
     void refreshPicture();
 
     TextureTool& tool;
 
-    QPushButton* threeSides = nullptr;
+    QAbstractButton* threeSides = nullptr;
     QLabel* hint = nullptr;
     MaterialPicture* picture = nullptr;
     QWidget* content = nullptr;  ///< everything that needs a surface

@@ -44,21 +44,20 @@ ObjectPanel::ObjectPanel(Stage& stage, QWidget* parent)
         NumberBox::Style style;
         style.step = row.step;
         style.measure = row.measure;
-        VectorEdit* edit =
-            addNumbers(QLatin1String(row.command), { tr("X"), tr("Y"), tr("Z") }, style);
+        VectorEdit* edit = addNumbers(row.command, { tr("X"), tr("Y"), tr("Z") }, style);
         form->addRow(tr(row.label), edit);
         if (row.measure == Measure::Number) {
             edit->addLink(tr("Keep proportions"));
         }
     }
-    form->addRow(addSwitch(QStringLiteral("object.visible"), tr("Visible")));
-    form->addRow(addSwitch(QStringLiteral("object.locked"), tr("Locked")));
+    form->addRow(addSwitch("object.visible", tr("Visible")));
+    form->addRow(addSwitch("object.locked", tr("Locked")));
 }
 
 void ObjectPanel::refresh()
 {
     Panel::refresh();
-    const QString name = value(QStringLiteral("object.name")).toString();
+    const QString name = value("object.name").toString();
     nameLabel->setText(name.isEmpty() ? tr("Nothing selected") : name);
 }
 

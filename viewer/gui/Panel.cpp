@@ -2,12 +2,16 @@
 #include "viewer/gui/Panel.h"
 
 #include "viewer/gui/VectorEdit.h"
+#include "viewer/loading/PictureDecoding.h"
 #include "viewer/stage/Stage.h"
 
 #include <nbKernelServices/nbUndoService.h>
 
+#include <QAbstractButton>
+#include <QBoxLayout>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFileDialog>
 #include <QJsonArray>
 #include <QSignalBlocker>
 #include <QSlider>
@@ -57,15 +61,14 @@ void Panel::refresh()
 void Panel::bind(QWidget* field, const QString& value,
                  std::function<void(const QJsonValue&)> display)
 {
-    fields.push_back({ field, value, std::move(display) });
+    fields.push_back({ field, value.isEmpty() ? field->objectName() : value, std::move(display) });
 }
 
 QCheckBox* Panel::addSwitch(const QString& command, const QString& label, const QString& value)
 {
     auto* box = named(new QCheckBox(label, this), command);
     connect(box, &QCheckBox::clicked, this, [this, command](bool on) { run(command, on); });
-    bind(box, value.isEmpty() ? command : value,
-         [box](const QJsonValue& on) { box->setChecked(on.toBool()); });
+    bind(box, value, [box](const QJsonValue& on) { box->setChecked(on.toBool()); });
     return box;
 }
 
@@ -77,7 +80,7 @@ QComboBox* Panel::addChoice(const QString& command, const Choices& choices, cons
     }
     connect(box, QOverload<int>::of(&QComboBox::activated), this,
             [this, box, command] { run(command, QJsonValue::fromVariant(box->currentData())); });
-    bind(box, value.isEmpty() ? command : value,
+    bind(box, value,
          [box](const QJsonValue& word) { box->setCurrentIndex(box->findData(word.toVariant())); });
     return box;
 }
@@ -96,7 +99,7 @@ VectorEdit* Panel::addNumbers(const QString& command, const QStringList& names,
         // The whole drag is one step.
         isOn ? nbUndoService::the()->beginGroup() : nbUndoService::the()->endGroup();
     });
-    bind(edit, value.isEmpty() ? command : value, [edit](const QJsonValue& numbers) {
+    bind(edit, value, [edit](const QJsonValue& numbers) {
         edit->display(numbers.isDouble() ? QJsonArray { numbers } : numbers.toArray());
     });
     return edit;
@@ -114,11 +117,25 @@ QSlider* Panel::addSlider(const QString& command, Range range, const QString& va
         tell(slider->isSliderDown() ? Commands::Moment::Passing : Commands::Moment::Final);
     });
     connect(slider, &QSlider::sliderReleased, this, [tell] { tell(Commands::Moment::Final); });
-    bind(slider, value.isEmpty() ? command : value, [slider, range](const QJsonValue& number) {
+    bind(slider, value, [slider, range](const QJsonValue& number) {
         const auto [least, most] = range();
         slider->setValue(qRound((number.toDouble() - least) / (most - least) * kPercent));
     });
     return slider;
+}
+
+QAbstractButton* Panel::addButton(QBoxLayout* row, QAbstractButton* button, const QString& name,
+                                  const QString& text, std::function<void()> press)
+{
+    named(button, name)->setText(text);
+    connect(button, &QAbstractButton::clicked, this, std::move(press));
+    row->addWidget(button);
+    return button;
+}
+
+QString Panel::askForPicture(const QString& title)
+{
+    return QFileDialog::getOpenFileName(this, title, {}, pictureFileFilter());
 }
 
 }  // namespace viewer

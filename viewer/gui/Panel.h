@@ -11,6 +11,8 @@
 #include <utility>
 #include <vector>
 
+class QAbstractButton;
+class QBoxLayout;
 class QCheckBox;
 class QComboBox;
 class QSlider;
@@ -72,8 +74,13 @@ protected:
                            const NumberBox::Style& style, const QString& value = {});
     /// A slider, of whose numbers only the last one of a drag is final.
     QSlider* addSlider(const QString& command, Range range, const QString& value = {});
-    /// Has a widget show a value.
+    /// Has a widget show a value; "" for that of its name.
     void bind(QWidget* field, const QString& value, std::function<void(const QJsonValue&)> display);
+    /// Puts a button into a row.
+    QAbstractButton* addButton(QBoxLayout* row, QAbstractButton* button, const QString& name,
+                               const QString& text, std::function<void()> press);
+    /// Asks for a picture. @return "" for none
+    QString askForPicture(const QString& title);
 
 private:
     struct Field

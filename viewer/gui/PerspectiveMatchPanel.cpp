@@ -2,14 +2,12 @@
 #include "viewer/gui/PerspectiveMatchPanel.h"
 
 #include "viewer/gui/VectorEdit.h"
-#include "viewer/loading/PictureFile.h"
 #include "viewer/match/MatchWords.h"
 #include "viewer/match/PerspectiveMatchCommands.h"
 #include "viewer/stage/Stage.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QFileDialog>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QJsonArray>
@@ -46,19 +44,15 @@ PerspectiveMatchPanel::PerspectiveMatchPanel(Stage& targetStage, PerspectiveMatc
 {
     auto* column = new QVBoxLayout(this);
     result = new QLabel(this);
-    result->setObjectName(QStringLiteral("matchResult"));
+    result->setObjectName("matchResult");
     result->setWordWrap(true);
     column->addWidget(result);
-    column->addWidget(addSwitch(QStringLiteral("match.setActive"), tr("Match mode"),
-                                QStringLiteral("match.active")));
+    column->addWidget(addSwitch("match.setActive", tr("Match mode"), "match.active"));
     auto* buttons = new QHBoxLayout;
     column->addLayout(buttons);
     for (const auto& [command, text] : { std::pair("match.layLines", tr("Lay lines as seen")),
                                          std::pair("match.solve", tr("Turn camera")) }) {
-        QPushButton* button = addButton(*buttons, command, text);
-        connect(button, &QPushButton::clicked, this,
-                [this, name = QLatin1String(command)] { run(name); });
-        ofUnlocked.push_back(button);
+        addEdit(buttons, command, text, [this, name = command] { run(name); });
     }
     auto* form = new QFormLayout;
     column->addLayout(form);
@@ -71,62 +65,56 @@ PerspectiveMatchPanel::PerspectiveMatchPanel(Stage& targetStage, PerspectiveMatc
     column->addStretch();
 }
 
-QPushButton* PerspectiveMatchPanel::addButton(QBoxLayout& row, const char* name,
-                                              const QString& text)
+void PerspectiveMatchPanel::addEdit(QBoxLayout* row, const char* name, const QString& text,
+                                    std::function<void()> press)
 {
-    auto* button = new QPushButton(text, this);
-    button->setObjectName(QLatin1String(name));
-    button->setFocusPolicy(Qt::TabFocus);
-    row.addWidget(button);
-    return button;
+    ofUnlocked.push_back(addButton(row, new QPushButton(this), name, text, std::move(press)));
 }
 
 void PerspectiveMatchPanel::addPhotograph(QFormLayout& form)
 {
     photograph = new QLabel(this);
-    photograph->setObjectName(QStringLiteral("matchPhotograph"));
+    photograph->setObjectName("matchPhotograph");
     form.addRow(tr("Photograph"), photograph);
     auto* buttons = new QHBoxLayout;
     form.addRow(buttons);
-    connect(addButton(*buttons, "matchOpen", tr("Open…")), &QPushButton::clicked, this,
-            &PerspectiveMatchPanel::askForPhotograph);
-    remove = addButton(*buttons, "matchRemove", tr("Remove"));
-    connect(remove, &QPushButton::clicked, this,
-            [this] { run(QStringLiteral("match.setPhotograph"), QString()); });
-    fit = addChoice(QStringLiteral("match.fit"),
-                    { { QLatin1String("height"), tr("Height of the view") },
-                      { QLatin1String("width"), tr("Width of the view") } },
-                    QStringLiteral("match.fitted"));
+    addButton(buttons, new QPushButton(this), "matchOpen", tr("Open…"), [this] {
+        const QString file = askForPicture(tr("Open photograph"));
+        if (!file.isEmpty() && run("match.setPhotograph", file)) {
+            run("match.setEdgeSnapping", true);
+        }
+    });
+    remove = addButton(buttons, new QPushButton(this), "matchRemove", tr("Remove"),
+                       [this] { run("match.setPhotograph", QString()); });
+    fit = addChoice("match.fit",
+                    { { "height", tr("Height of the view") }, { "width", tr("Width of the view") } },
+                    "match.fitted");
     form.addRow(tr("Fills"), fit);
     form.addRow(tr("Over the models"),
                 addSlider(
-                    QStringLiteral("match.setVeil"), [] { return std::pair(0.0, 1.0); },
-                    QStringLiteral("match.veil")));
+                    "match.setVeil", [] { return std::pair(0.0, 1.0); }, "match.veil"));
 }
 
 void PerspectiveMatchPanel::addSettings(QFormLayout& form)
 {
-    form.addRow(addSwitch(QStringLiteral("match.showLines"), tr("Lines"),
-                          QStringLiteral("match.linesShown")));
-    form.addRow(addSwitch(QStringLiteral("match.setLocked"), tr("Camera locked"),
-                          QStringLiteral("match.locked")));
+    form.addRow(addSwitch("match.showLines", tr("Lines"), "match.linesShown"));
+    form.addRow(addSwitch("match.setLocked", tr("Camera locked"), "match.locked"));
     ofUnlocked.push_back(
-        addChoice(QStringLiteral("match.setLinesType"),
+        addChoice("match.setLinesType",
                   choicesOf(kLinesTypeNames,
                             { tr("X, Y and Z"), tr("X and Y"), tr("X and Z"), tr("Y and Z") }),
-                  QStringLiteral("match.linesType")));
+                  "match.linesType"));
     form.addRow(tr("Lines used"), ofUnlocked.back());
-    ofUnlocked.push_back(addChoice(QStringLiteral("match.setFovMode"),
+    ofUnlocked.push_back(addChoice("match.setFovMode",
                                    choicesOf(kFovModeNames, { tr("From the lines"), tr("Fixed") }),
-                                   QStringLiteral("match.fovMode")));
+                                   "match.fovMode"));
     form.addRow(tr("Field of view"), ofUnlocked.back());
-    NumberBox::Style style;
-    style.step = 1.0;
-    style.least = static_cast<double>(nbdPerspectiveMatch::kSmallestMagnifyFactor);
-    style.most = static_cast<double>(nbdPerspectiveMatch::kLargestMagnifyFactor);
-    style.decimals = 1;
-    ofUnlocked.push_back(addNumbers(QStringLiteral("match.setMagnifyFactor"), { tr("Magnifier") },
-                                    style, QStringLiteral("match.magnifyFactor")));
+    const NumberBox::Style style { 1.0,
+                                   static_cast<double>(nbdPerspectiveMatch::kSmallestMagnifyFactor),
+                                   static_cast<double>(nbdPerspectiveMatch::kLargestMagnifyFactor),
+                                   1 };
+    ofUnlocked.push_back(
+        addNumbers("match.setMagnifyFactor", { tr("Magnifier") }, style, "match.magnifyFactor"));
     form.addRow(tr("Magnifier"), ofUnlocked.back());
 }
 
@@ -137,11 +125,7 @@ void PerspectiveMatchPanel::addKnowledge(QBoxLayout& column)
     form->setRowWrapPolicy(QFormLayout::WrapAllRows);
     column.addLayout(form);
     const auto addNumber = [&](const QString& name, double start) {
-        NumberBox::Style style;
-        style.least = 0.01;
-        style.most = 1e5;
-        style.decimals = 2;
-        auto* box = new NumberBox(style, this);
+        auto* box = new NumberBox({ NumberBox::Style::kUsualStep, 0.01, 1e5, 2 }, this);
         box->display(start);
         box->setAccessibleName(name);
         ofUnlocked.push_back(box);
@@ -160,10 +144,8 @@ void PerspectiveMatchPanel::addKnowledge(QBoxLayout& column)
     constexpr double kFullFrame = 36.0;
     NumberBox* const focal = addNumber(tr("Focal length"), kUsualLens);
     NumberBox* const sensor = addNumber(tr("Sensor width"), kFullFrame);
-    QPushButton* const lens =
-        addButton(*addRow(tr("Lens, sensor (mm)"), { focal, sensor }), "match.setLens", tr("Set"));
-    connect(lens, &QPushButton::clicked, this, [=] {
-        run(QStringLiteral("match.setLens"),
+    addEdit(addRow(tr("Lens, sensor (mm)"), { focal, sensor }), "match.setLens", tr("Set"), [=] {
+        run("match.setLens",
             QJsonObject { { "focalLength", focal->value() }, { "sensorWidth", sensor->value() } });
     });
     auto* line = new QComboBox(this);
@@ -172,34 +154,23 @@ void PerspectiveMatchPanel::addKnowledge(QBoxLayout& column)
         line->addItem(QString(QLatin1String(PerspectiveMatchTool::lineName(i))).toUpper());
     }
     NumberBox* const length = addNumber(tr("Length"), 1.0);
-    QPushButton* const place =
-        addButton(*addRow(tr("A line from the origin, its length"), { line, length }),
-                  "match.placeByLine", tr("Move camera"));
-    connect(place, &QPushButton::clicked, this, [=] {
-        run(QStringLiteral("match.placeByLine"),
-            QJsonObject { { "line", line->currentText().toLower() },
-                          { "length", length->value() } });
-    });
+    addEdit(addRow(tr("A line from the origin, its length"), { line, length }), "match.placeByLine",
+            tr("Move camera"), [=] {
+                run("match.placeByLine",
+                    QJsonObject { { "line", line->currentText().toLower() },
+                                  { "length", length->value() } });
+            });
     QHBoxLayout* const turns = addRow(tr("Turn axes about"), {});
-    ofUnlocked.insert(ofUnlocked.end(), { lens, place });
     for (const char* axis : { "x", "y", "z" }) {
-        QPushButton* const turn = addButton(*turns, axis, QString(QLatin1String(axis)).toUpper());
-        connect(turn, &QPushButton::clicked, this,
-                [this, axis] { run(QStringLiteral("match.turn"), QLatin1String(axis)); });
-        ofUnlocked.push_back(turn);
+        addEdit(turns, axis, QString(axis).toUpper(), [this, axis] { run("match.turn", axis); });
     }
-    form->addRow(addSwitch(QStringLiteral("match.setEdgeSnapping"),
-                           tr("Lines snap to edges (Alt: not)"),
-                           QStringLiteral("match.edgeSnapping")));
+    form->addRow(addSwitch("match.setEdgeSnapping", tr("Lines snap to edges (Alt: not)"),
+                           "match.edgeSnapping"));
 }
 
 void PerspectiveMatchPanel::addLines(QFormLayout& form)
 {
-    NumberBox::Style style;
-    style.step = kStep;
-    style.least = -kMostCoordinate;
-    style.most = kMostCoordinate;
-    style.decimals = kDecimals;
+    const NumberBox::Style style { kStep, -kMostCoordinate, kMostCoordinate, kDecimals };
     for (int line = 0; line < PerspectiveMatchTool::kLineCount; ++line) {
         const QString word = QLatin1String(PerspectiveMatchTool::lineName(line));
         const QString name = word.toUpper();
@@ -207,25 +178,16 @@ void PerspectiveMatchPanel::addLines(QFormLayout& form)
             { tr("Line %1, start, across").arg(name), tr("Line %1, start, up").arg(name),
               tr("Line %1, end, across").arg(name), tr("Line %1, end, up").arg(name) },
             style, this);
-        edit->setObjectName(QStringLiteral("matchLine_") + word);
+        edit->setObjectName("matchLine_" + word);
         form.addRow(name, edit);
-        connect(edit, &VectorEdit::edited, this,
-                [this, word](const QJsonArray& ends, Commands::Moment moment) {
-                    run(QStringLiteral("match.setLine"),
-                        QJsonObject { { "line", word }, { "ends", ends } }, moment);
-                });
-        bind(edit, QStringLiteral("match.lines"),
+        connect(
+            edit, &VectorEdit::edited, this,
+            [this, word](const QJsonArray& ends, Commands::Moment moment) {
+                run("match.setLine", QJsonObject { { "line", word }, { "ends", ends } }, moment);
+            });
+        bind(edit, "match.lines",
              [edit, word](const QJsonValue& lines) { edit->display(lines[word].toArray()); });
         ofUnlocked.push_back(edit);
-    }
-}
-
-void PerspectiveMatchPanel::askForPhotograph()
-{
-    const QString file =
-        QFileDialog::getOpenFileName(this, tr("Open photograph"), {}, pictureFileFilter());
-    if (!file.isEmpty() && run(QStringLiteral("match.setPhotograph"), file)) {
-        run(QStringLiteral("match.setEdgeSnapping"), true);
     }
 }
 

@@ -7,7 +7,6 @@
 class QBoxLayout;
 class QFormLayout;
 class QLabel;
-class QPushButton;
 
 namespace viewer {
 
@@ -25,17 +24,18 @@ public:
     void refresh() final;
 
 private:
-    QPushButton* addButton(QBoxLayout& row, const char* name, const QString& text);
+    /// A button of what a locked camera cannot take.
+    void addEdit(QBoxLayout* row, const char* name, const QString& text,
+                 std::function<void()> press);
     void addPhotograph(QFormLayout& form);
     void addSettings(QFormLayout& form);
     void addKnowledge(QBoxLayout& column);
     void addLines(QFormLayout& form);
-    void askForPhotograph();
 
     PerspectiveMatchTool& tool;
     QLabel* result = nullptr;
     QLabel* photograph = nullptr;
-    QPushButton* remove = nullptr;
+    QAbstractButton* remove = nullptr;
     QWidget* fit = nullptr;
     std::vector<QWidget*> ofUnlocked;  ///< what a locked camera cannot take
 };

@@ -3,7 +3,6 @@
 
 #include "viewer/gui/ThemeIcon.h"
 #include "viewer/gui/VectorEdit.h"
-#include "viewer/loading/PictureFile.h"
 #include "viewer/plates/PlateField.h"
 #include "viewer/plates/PlateText.h"
 #include "viewer/stage/Stage.h"
@@ -14,7 +13,6 @@
 #include <QCheckBox>
 #include <QColorDialog>
 #include <QComboBox>
-#include <QFileDialog>
 #include <QFontComboBox>
 #include <QFormLayout>
 #include <QGroupBox>
@@ -61,12 +59,7 @@ constexpr AnchorText kAnchorTexts[] = {
 
 NumberBox::Style percentStyle(double least)
 {
-    NumberBox::Style style;
-    style.step = kPercentStep;
-    style.least = least;
-    style.most = kPercent;
-    style.decimals = 1;
-    return style;
+    return { kPercentStep, least, kPercent, 1 };
 }
 
 }  // namespace
@@ -85,30 +78,34 @@ PlatesPanel::PlatesPanel(Stage& targetStage, PlatesTool& targetTool, QWidget* pa
 
 // == Making
 
-QToolButton* PlatesPanel::addButton(QBoxLayout* row, const char* name, const QString& text,
-                                    const QString& tip)
+QToolButton* PlatesPanel::addTool(QBoxLayout* row, const char* name, const QString& text,
+                                  const QString& tip, std::function<void()> press)
 {
     auto* button = new QToolButton(this);
-    button->setObjectName(QLatin1String(name));
-    button->setText(text);
+    addButton(row, button, name, text, std::move(press));
     button->setToolTip(tip);
-    row->addWidget(button);
     return button;
 }
 
 QBoxLayout* PlatesPanel::createButtons()
 {
     auto* row = new QHBoxLayout;
-    edit = addButton(row, "plates.edit", tr("Edit"), tr("Select and edit plates in the view"));
+    edit = addTool(row, "plates.edit", tr("Edit"), tr("Select and edit plates in the view"),
+                   [this] { run("plates.edit", edit->isChecked()); });
     edit->setCheckable(true);
-    connect(edit, &QToolButton::clicked, this,
-            [this](bool on) { run(QStringLiteral("plates.edit"), on); });
-    QToolButton* picture =
-        addButton(row, "plates.addPicture", tr("Picture…"), tr("Add a picture from a file"));
-    connect(picture, &QToolButton::clicked, this, &PlatesPanel::askForPicture);
-    QToolButton* plain =
-        addButton(row, "plates.addColor", tr("Colour…"), tr("Add a plate of plain colour"));
-    connect(plain, &QToolButton::clicked, this, &PlatesPanel::askForColor);
+    addTool(row, "plates.addPicture", tr("Picture…"), tr("Add a picture from a file"), [this] {
+        const QString file = askForPicture(tr("Add picture"));
+        if (!file.isEmpty()) {
+            run("plates.addPicture", QJsonObject { { "file", file } });
+        }
+    });
+    addTool(row, "plates.addColor", tr("Colour…"), tr("Add a plate of plain colour"), [this] {
+        const QColor chosen =
+            QColorDialog::getColor(Qt::black, this, {}, QColorDialog::ShowAlphaChannel);
+        if (chosen.isValid()) {
+            run("plates.addColor", QJsonObject { { "color", chosen.name(QColor::HexArgb) } });
+        }
+    });
     row->addStretch();
 
     const struct
@@ -123,11 +120,10 @@ QBoxLayout* PlatesPanel::createButtons()
     };
 
     for (const auto& entry : rows) {
-        QToolButton* button = addButton(row, entry.command, {}, entry.tip);
-        button->setIcon(themeIcon(QLatin1String(entry.icon)));
+        QToolButton* button = addTool(row, entry.command, {}, entry.tip,
+                                      [this, command = entry.command] { run(command); });
+        button->setIcon(themeIcon(entry.icon));
         button->setAccessibleName(entry.tip);
-        connect(button, &QToolButton::clicked, this,
-                [this, command = entry.command] { run(QLatin1String(command)); });
         selectionButtons.push_back(button);
     }
     addArranging(row);
@@ -154,13 +150,13 @@ void PlatesPanel::addArranging(QBoxLayout* row)
     };
 
     QToolButton* const button =
-        addButton(row, "platesArrange", QStringLiteral("≡"), tr("Arrange plates"));
+        addTool(row, "platesArrange", QStringLiteral("≡"), tr("Arrange plates"), [] {});
     button->setPopupMode(QToolButton::InstantPopup);
     auto* menu = new QMenu(button);
     button->setMenu(menu);
     for (const auto& entry : rows) {
         menu->addAction(entry.text, this, [this, command = entry.command, value = entry.value] {
-            run(QLatin1String(command), QLatin1String(value));
+            run(command, value);
         });
     }
     selectionButtons.push_back(button);
@@ -169,7 +165,7 @@ void PlatesPanel::addArranging(QBoxLayout* row)
 void PlatesPanel::createList()
 {
     list = new QListWidget(this);
-    list->setObjectName(QStringLiteral("plateList"));
+    list->setObjectName("plateList");
     list->setAccessibleName(tr("Scene plates, the foremost first"));
     list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     list->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
@@ -184,21 +180,21 @@ QFormLayout* PlatesPanel::createProperties()
     auto* form = new QFormLayout;
     form->addRow(
         tr("Lies"),
-        addChoice(QStringLiteral("plates.front"),
+        addChoice("plates.front",
                   { { true, tr("In front of the scene") }, { false, tr("Behind the scene") } }));
     auto* opacity = new NumberBox(percentStyle(0.0), this);
-    opacity->setObjectName(QStringLiteral("plates.opacity"));
+    opacity->setObjectName("plates.opacity");
     opacity->setSuffix(QStringLiteral(" %"));
     connect(opacity, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
-            [this](double percent) { run(QStringLiteral("plates.opacity"), percent / kPercent); });
-    bind(opacity, QStringLiteral("plates.opacity"),
+            [this](double percent) { run("plates.opacity", percent / kPercent); });
+    bind(opacity, {},
          [opacity](const QJsonValue& part) { opacity->display(part.toDouble() * kPercent); });
     form->addRow(tr("Opacity"), opacity);
     Choices anchors;
     for (const AnchorText& entry : kAnchorTexts) {
         anchors.emplace_back(QLatin1String(entry.word), tr(entry.text));
     }
-    QWidget* anchor = addChoice(QStringLiteral("plates.anchor"), anchors);
+    QWidget* anchor = addChoice("plates.anchor", anchors);
     anchor->setToolTip(tr("The place of the window that the plate follows"));
     form->addRow(tr("Anchor"), anchor);
 
@@ -216,11 +212,9 @@ QFormLayout* PlatesPanel::createProperties()
     };
 
     for (const auto& row : rows) {
-        NumberBox::Style style;
-        style.step = row.step;
-        form->addRow(row.label, addNumbers(QLatin1String(row.command), row.names, style));
+        form->addRow(row.label, addNumbers(row.command, row.names, { row.step }));
     }
-    form->addRow(addSwitch(QStringLiteral("plates.snapping"), tr("Snap to edges and centre")));
+    form->addRow(addSwitch("plates.snapping", tr("Snap to edges and centre")));
     return form;
 }
 
@@ -229,28 +223,26 @@ QWidget* PlatesPanel::createTextBox()
     auto* box = new QGroupBox(tr("Text"), this);
     auto* layout = new QVBoxLayout(box);
     textEdit = new QLineEdit(box);
-    textEdit->setObjectName(QStringLiteral("plateText"));
+    textEdit->setObjectName("plateText");
     textEdit->setPlaceholderText(tr("Title"));
     layout->addWidget(textEdit);
     fontBox = new QFontComboBox(box);
-    fontBox->setObjectName(QStringLiteral("plateFont"));
+    fontBox->setObjectName("plateFont");
     fontBox->setMinimumContentsLength(kLeastFontLetters);
     fontBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     layout->addWidget(fontBox);
     auto* row = new QHBoxLayout;
     layout->addLayout(row);
     textHeight = new NumberBox(percentStyle(1.0), box);
-    textHeight->setObjectName(QStringLiteral("plateTextHeight"));
+    textHeight->setObjectName("plateTextHeight");
     textHeight->setSuffix(QStringLiteral(" %"));
     textHeight->setToolTip(tr("Height of a line, of the view's"));
     textHeight->setValue(PlateText::kUsualHeight * kPercent);
     row->addWidget(textHeight);
     bold = new QCheckBox(tr("Bold"), box);
-    bold->setObjectName(QStringLiteral("plateTextBold"));
+    bold->setObjectName("plateTextBold");
     row->addWidget(bold);
-    colorButton = addButton(row, "plateTextColor", {}, tr("Colour of the text"));
-    colorButton->setAccessibleName(tr("Colour of the text"));
-    connect(colorButton, &QToolButton::clicked, this, [this] {
+    colorButton = addTool(row, "plateTextColor", {}, tr("Colour of the text"), [this] {
         const QColor chosen =
             QColorDialog::getColor(color, this, {}, QColorDialog::ShowAlphaChannel);
         if (chosen.isValid()) {
@@ -258,20 +250,17 @@ QWidget* PlatesPanel::createTextBox()
             showColor();
         }
     });
+    colorButton->setAccessibleName(tr("Colour of the text"));
     row->addStretch();
-    add = addButton(row, "plates.addText", tr("Add"), tr("Add the text as a plate"));
-    connect(add, &QToolButton::clicked, this,
-            [this] { run(QStringLiteral("plates.addText"), typedText()); });
-    change =
-        addButton(row, "plates.text", tr("Change"), tr("Change the text of the selected plate"));
-    connect(change, &QToolButton::clicked, this,
-            [this] { run(QStringLiteral("plates.text"), typedText()); });
+    add = addTool(row, "plates.addText", tr("Add"), tr("Add the text as a plate"),
+                  [this] { run("plates.addText", typedText()); });
+    change = addTool(row, "plates.text", tr("Change"), tr("Change the text of the selected plate"),
+                     [this] { run("plates.text", typedText()); });
     connect(textEdit, &QLineEdit::returnPressed, this, [this] {
         // As long as a text is selected Enter is for that.
         (change->isEnabled() ? change : add)->click();
     });
-    bind(change, QStringLiteral("plates.text"),
-         [this](const QJsonValue& text) { showText(text.toObject()); });
+    bind(change, {}, [this](const QJsonValue& text) { showText(text.toObject()); });
     showColor();
     return box;
 }
@@ -287,25 +276,6 @@ void PlatesPanel::showColor()
 }
 
 // == What a person does
-
-void PlatesPanel::askForPicture()
-{
-    const QString file =
-        QFileDialog::getOpenFileName(this, tr("Add picture"), {}, pictureFileFilter());
-    if (!file.isEmpty()) {
-        run(QStringLiteral("plates.addPicture"), QJsonObject { { QStringLiteral("file"), file } });
-    }
-}
-
-void PlatesPanel::askForColor()
-{
-    const QColor chosen =
-        QColorDialog::getColor(Qt::black, this, {}, QColorDialog::ShowAlphaChannel);
-    if (chosen.isValid()) {
-        run(QStringLiteral("plates.addColor"),
-            QJsonObject { { QStringLiteral("color"), chosen.name(QColor::HexArgb) } });
-    }
-}
 
 QJsonObject PlatesPanel::typedText() const
 {
@@ -326,13 +296,13 @@ void PlatesPanel::showText(const QJsonObject& text)
     }
     shownText = text;
     if (!text.isEmpty()) {
-        textEdit->setText(text[QLatin1String("text")].toString());
-        if (!text[QLatin1String("font")].toString().isEmpty()) {
-            fontBox->setCurrentFont(QFont(text[QLatin1String("font")].toString()));
+        textEdit->setText(text["text"].toString());
+        if (!text["font"].toString().isEmpty()) {
+            fontBox->setCurrentFont(QFont(text["font"].toString()));
         }
-        textHeight->display(text[QLatin1String("height")].toDouble() * kPercent);
-        bold->setChecked(text[QLatin1String("bold")].toBool());
-        color = QColor(text[QLatin1String("color")].toString());
+        textHeight->display(text["height"].toDouble() * kPercent);
+        bold->setChecked(text["bold"].toBool());
+        color = QColor(text["color"].toString());
         showColor();
     }
 }
@@ -345,7 +315,7 @@ void PlatesPanel::selectRows()
             names.append(list->item(row)->data(kNameRole).toString());
         }
     }
-    run(QStringLiteral("plates.select"), names);
+    run("plates.select", names);
 }
 
 void PlatesPanel::changeItem(QListWidgetItem* item)
@@ -354,14 +324,13 @@ void PlatesPanel::changeItem(QListWidgetItem* item)
     if (item->text() != name) {
         // A command shows the list anew.
         const QString wanted = item->text();
-        if (run(QStringLiteral("plates.select"), QJsonArray { name })) {
-            run(QStringLiteral("plates.name"), wanted);
+        if (run("plates.select", QJsonArray { name })) {
+            run("plates.name", wanted);
         }
         return;
     }
-    run(QStringLiteral("plates.visible"),
-        QJsonObject { { QStringLiteral("name"), name },
-                      { QStringLiteral("visible"), item->checkState() == Qt::Checked } });
+    run("plates.visible",
+        QJsonObject { { "name", name }, { "visible", item->checkState() == Qt::Checked } });
 }
 
 // == Showing how things are
@@ -380,7 +349,7 @@ void PlatesPanel::refreshList()
 {
     const QSignalBlocker blocker(list);
     const std::vector<osg::NodePtr> plates = PlatesTool::all();
-    const QJsonArray selected = value(QStringLiteral("plates.selected")).toArray();
+    const QJsonArray selected = value("plates.selected").toArray();
     while (list->count() > static_cast<int>(plates.size())) {
         delete list->takeItem(list->count() - 1);
     }

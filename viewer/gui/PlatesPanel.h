@@ -9,8 +9,6 @@
 
 #include <vector>
 
-class QBoxLayout;
-class QCheckBox;
 class QFontComboBox;
 class QFormLayout;
 class QLineEdit;
@@ -33,8 +31,8 @@ public:
     void refresh() final;
 
 private:
-    QToolButton* addButton(QBoxLayout* row, const char* name, const QString& text,
-                           const QString& tip);
+    QToolButton* addTool(QBoxLayout* row, const char* name, const QString& text, const QString& tip,
+                         std::function<void()> press);
     QBoxLayout* createButtons();
     void addArranging(QBoxLayout* row);
     void createList();
@@ -42,8 +40,6 @@ private:
     QWidget* createTextBox();
     void showColor();
 
-    void askForPicture();
-    void askForColor();
     /// What the fields of the text say.
     QJsonObject typedText() const;
     void showText(const QJsonObject& text);
