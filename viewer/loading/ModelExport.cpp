@@ -3,7 +3,6 @@
 
 #include "viewer/texts/FileRules.h"
 #include "viewer/texts/Text.h"
-#include "viewer/texts/TextFile.h"
 
 #include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGRenderAction/Mesh.h>
