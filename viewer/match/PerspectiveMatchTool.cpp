@@ -334,7 +334,8 @@ void PerspectiveMatchTool::follow(const nbdObject& object, const QByteArray& pro
     if (object.getId() != camera().getId()) {
         return;
     }
-    cameraMoved = cameraMoved || property == "orientation" || property == "fov";
+    cameraTurned = cameraTurned || property == "orientation";
+    cameraMoved = cameraMoved || cameraTurned || property == "fov";
     stage.view().update();
 }
 
@@ -344,10 +345,11 @@ void PerspectiveMatchTool::update()
         cameraMoved = false;
         stage.cameraMoved();
         const auto result = camera().checkPerspectiveMatch();
-        if (active &&
+        if (active && cameraTurned &&
             (result == nbCameraTypes::Solved || result == nbCameraTypes::SolvedWithKeptFov)) {
             stage.holdView(true);
         }
+        cameraTurned = false;
     }
 }
 

@@ -146,6 +146,7 @@ private:
     bool linesShown = true;
     bool linesLaid = false;
     bool cameraMoved = false;
+    bool cameraTurned = false;
     bool edgeSnapping = false;
     std::string lastHandle;
 };
