@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/stage/Stage.h"
 
-#include "tests/viewer/support/StageTest.h"
+#include "tests/viewer/support/SceneTest.h"
 #include "viewer/loading/BuiltModel.h"
 #include "viewer/loading/ModelReader.h"
 #include "viewer/stage/HandleCursor.h"
@@ -17,6 +17,8 @@
 
 #include <set>
 #include <string>
+
+#include <malloc.h>
 
 namespace viewer {
 namespace {
@@ -80,6 +82,38 @@ TEST_F(StageWithStartScene, CursorsPointAlongTheAxesOnTheScreen)
         << "the axis points at the eye";
     EXPECT_EQ(cursorOfHandle(stage, "rxShape").action, HandleAction::Turn);
     EXPECT_EQ(cursorOfHandle(stage, "").action, HandleAction::None);
+}
+
+using LongSession = SceneTest;
+
+TEST_F(LongSession, LeavesMemoryWhereItWasAfterItsFirstTenth)
+{
+    constexpr int kModels = 200;
+    constexpr int kDragsOfEach = 25;
+    constexpr double kMostGrowth = 1.05;
+    const auto bytesInUse = [] { return mallinfo2().uordblks + mallinfo2().hblkhd; };
+    std::size_t afterTheFirstTenth = 0;
+    for (int i = 0; i < kModels; ++i) {
+        stage.clear();
+        addModel(model("boxes.obj"));
+        stage.frameAll(true);
+        ASSERT_TRUE(stage.selectByName("Crate"));
+        stage.update();
+        const osg::Pnt2f arrow = placeOf(SessionTarget::Kind::Handle, "yaShape");
+        for (int drag = 0; drag < kDragsOfEach; ++drag) {
+            send(names::kHover, arrow);
+            ASSERT_TRUE(send(names::kStart, arrow));
+            send(names::kProcess, arrow + osg::Vec2f(0.0F, 10.0F));
+            send(names::kProcess, arrow + osg::Vec2f(0.0F, 20.0F + static_cast<float>(drag)));
+            send(names::kStop, arrow);
+            ASSERT_EQ(steps(), 1);
+            ASSERT_TRUE(stage.undo());
+        }
+        afterTheFirstTenth = i < kModels / 10 ? bytesInUse() : afterTheFirstTenth;
+    }
+    // A sanitizer that has the heap tells nothing of it, and looks for leaks itself.
+    EXPECT_LE(static_cast<double>(bytesInUse()),
+              kMostGrowth * static_cast<double>(afterTheFirstTenth));
 }
 
 }  // namespace
