@@ -75,7 +75,7 @@ set(CPACK_DEBIAN_VIEWER_PACKAGE_RECOMMENDS "qttranslations5-l10n")
 set(CPACK_DEBIAN_VIEWER_DESCRIPTION "viewer that arranges, projects and places things in a 3D scene
 It opens models (OBJ, PLY, STL, glTF, 3DS), edits them with handles that are
 dragged in the view, places pictures on them, matches the perspective of
-photographs, and records what is done as sessions that can be played.")
+photographs, and plays sessions that are written as text.")
 
 if(NBMANIPULATOR_QT STREQUAL "6")
     set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "qt6-base-dev, libqt6opengl6-dev, libboost-dev")
