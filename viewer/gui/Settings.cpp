@@ -283,6 +283,8 @@ void Settings::restore()
     // What the library leaves off and a person wants.
     static const QStringList kOnAtFirst { "handleFading", "ringBacks", "dragOverlay", "pickSlop" };
     const QSettings file;
+    // What is read is not written again, each time to the disk.
+    const bool areKept = std::exchange(kept, false);
     for (const Setting& setting : settings) {
         const QString name = QLatin1String(setting.name);
         const QVariant value =
@@ -293,10 +295,11 @@ void Settings::restore()
             : present.isDouble()                   ? QJsonValue(value.toDouble())
                                                    : QJsonValue(value.toString());
         QString error;
-        if (kept && value.isValid() && wanted != present) {
+        if (areKept && value.isValid() && wanted != present) {
             window.view().stage().commands().run(kPrefix + name, wanted, error);
         }
     }
+    kept = areKept;
 }
 
 }  // namespace viewer
