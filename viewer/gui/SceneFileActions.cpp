@@ -297,7 +297,7 @@ void SceneFileActions::offerKept()
     }
     const int answer = box.exec();
     if (answer == QMessageBox::Discard) {
-        Recovery::discard(*kept);
+        Recovery::discard(kept->file);
     } else if (answer == QMessageBox::Yes && recovery->takeUp(*kept)) {
         // Before it is opened: what counts as saved is no longer kept.
         touch();

@@ -5,7 +5,8 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QThread>
+
+#include <chrono>
 
 #include <sys/file.h>
 
@@ -27,12 +28,6 @@ QString beside(const QString& file, const char* ending)
 QString pictureOf(const QString& file)
 {
     return beside(file, ".png");
-}
-
-void removeKept(const QString& file)
-{
-    QFile::remove(file);
-    QFile::remove(pictureOf(file));
 }
 
 /// Takes the lock of a scene's file. The system lets go of it when a process ends, however it does;
@@ -76,37 +71,38 @@ bool Recovery::keep(SceneDocument document, const QImage& frame)
         return false;
     }
     wait();
-    writing.reset(QThread::create([this, kept = std::move(document), frame] {
+    auto write = [file = ownFile, kept = std::move(document), frame] {
+        QString error;
         if (!frame.isNull()) {
-            writePicture(pictureOf(ownFile),
+            writePicture(pictureOf(file),
                          frame.scaled(kPicturePx, Qt::KeepAspectRatio, Qt::SmoothTransformation),
-                         fault);
+                         error);
         }
-        fault.clear();
-        writeSceneFile(ownFile, kept, fault);
-    }));
-    writing->start();
+        return writeSceneFile(file, kept, error) ? QString() : error;
+    };
+    // Where the system has no thread left, wait() writes.
+    writing = std::async(std::launch::async | std::launch::deferred, std::move(write));
     return true;
 }
 
 bool Recovery::isWriting() const
 {
-    return writing && writing->isRunning();
+    return writing.valid() &&
+        writing.wait_for(std::chrono::seconds(0)) == std::future_status::timeout;
 }
 
 void Recovery::forget()
 {
     wait();
     if (lock) {
-        removeKept(ownFile);
+        discard(ownFile);
     }
 }
 
 QString Recovery::wait()
 {
-    if (writing) {
-        writing->wait();
-        writing.reset();
+    if (writing.valid()) {
+        fault = writing.get();
     }
     return fault;
 }
@@ -132,9 +128,10 @@ bool Recovery::takeUp(const Kept& kept)
     return QFile::rename(kept.file, ownFile);
 }
 
-void Recovery::discard(const Kept& kept)
+void Recovery::discard(const QString& file)
 {
-    removeKept(kept.file);
+    QFile::remove(file);
+    QFile::remove(pictureOf(file));
 }
 
 }  // namespace viewer

@@ -6,10 +6,10 @@
 #include <QDateTime>
 #include <QImage>
 
+#include <future>
 #include <memory>
 
 class QFile;
-class QThread;
 
 namespace viewer {
 
@@ -48,8 +48,8 @@ public:
     std::optional<Kept> find();
     /// Makes what was found that of this process. @return false if it is gone
     bool takeUp(const Kept& kept);
-    /// Removes what was found.
-    static void discard(const Kept& kept);
+    /// Removes a scene and its picture.
+    static void discard(const QString& file);
 
     /// Absolute path of this process's file, whether there is one or not.
     const QString& file() const { return ownFile; }
@@ -58,8 +58,8 @@ private:
     QDir folder;
     QString ownFile;
     std::shared_ptr<QFile> lock;  ///< null where the folder cannot be written to
-    std::unique_ptr<QThread> writing;
-    QString fault;  ///< belongs to the thread while it runs
+    std::future<QString> writing;  ///< why it is not on the disk, "" if it is
+    QString fault;  ///< of the last one written
 };
 
 }  // namespace viewer
