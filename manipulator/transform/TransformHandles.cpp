@@ -113,14 +113,15 @@ HandleRow planeHandle(const char* name, Active handle)
     constexpr Color kColors[][3] = { { Green, Blue, Blue },
                                      { Blue, Red, Red },
                                      { Green, Red, Green } };
-    const Color(&colors)[3] = kColors[planeNormalAxis(handle)];
+    const osg::UInt32 normal = planeNormalAxis(handle) % 3;  // of these handles always an axis
+    const Color(&colors)[3] = kColors[normal];
     const bool scales = isScale(handle);
-    HandleRow placed = row(
-        name, handle, scales ? Scaling : Translation,
-        { solid(HandleShape::PlanePatch, colors[0]), solid(HandleShape::PlaneBarX, colors[1]),
-          solid(HandleShape::PlaneBarY, colors[2]) },
-        scales ? modes(Mode::Scale) : kWithTranslation,
-        scales ? HandleHolder::Euler : HandleHolder::Component, kTurns[planeNormalAxis(handle)]);
+    HandleRow placed =
+        row(name, handle, scales ? Scaling : Translation,
+            { solid(HandleShape::PlanePatch, colors[0]), solid(HandleShape::PlaneBarX, colors[1]),
+              solid(HandleShape::PlaneBarY, colors[2]) },
+            scales ? modes(Mode::Scale) : kWithTranslation,
+            scales ? HandleHolder::Euler : HandleHolder::Component, kTurns[normal]);
     for (std::size_t axis = 0; axis < 3; ++axis) {
         const bool isAside = scales && hasAxis(axisSetOf(handle), axis);
         placed.place[axis] = isAside ? kBesideCube : 0.0F;
