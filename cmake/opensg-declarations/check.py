@@ -4,6 +4,7 @@
 
 They hold what a real OpenSG 1.8 has, so a use of anything else is an error here: check.py BUILD_FOLDER [SOURCE ...]
 """
+import collections
 import concurrent.futures
 import json
 import os
@@ -38,11 +39,11 @@ def common_flags(commands):
         for word in steps:
             if word == "-isystem":
                 flags[(word, next(steps))] = True
-            elif word.startswith(("-I", "-D", "-W", "-std", "-f")) and not word.endswith("/opensg/include"):
+            elif word.startswith(("-I", "-D", "-std", "-f")) and not word.endswith("/opensg/include"):
                 flags[(word,)] = True
     compiler = next(word for word in next(iter(commands)) if re.search(r"(\+\+|clang)[-.\d]*$", word))
     return [compiler] + [word for flag in flags for word in flag] + [
-        "-fPIC", "-DNBMANIPULATOR_SYSTEM_OPENSG", f"-isystem{HERE}", "-fsyntax-only", "-fno-diagnostics-color"]
+        "-fPIC", "-DNBMANIPULATOR_SYSTEM_OPENSG", f"-isystem{HERE}", "-fsyntax-only", "-w", "-fno-diagnostics-color"]
 
 
 def main():
@@ -52,11 +53,11 @@ def main():
     sources = sys.argv[2:] or sorted(commands) + ["opensg/glue/ChangeCountSystem.cpp", "opensg/glue/ViewRay.cpp"]
 
     with tempfile.TemporaryDirectory() as folder:
-        # What others wrote is read once. OpenSG's headers are not, so that a forgotten one shows.
-        foreign = {line for name in commands for line in re.findall(r"^#include <Q\w+>$|^#include <[a-z_]+>$",
-                                                                    (ROOT / name).read_text(encoding="utf-8"), re.M)}
+        # What others wrote and many include is read once. OpenSG's headers are not, so that a forgotten one shows.
+        foreign = collections.Counter(line for name in commands for line in re.findall(
+            r"^#include <Q\w+>$|^#include <[a-z_]+>$", (ROOT / name).read_text(encoding="utf-8"), re.M))
         header = pathlib.Path(folder, "foreign.h")
-        header.write_text("\n".join(sorted(foreign)) + "\n")
+        header.write_text("\n".join(sorted(line for line, count in foreign.items() if count >= 4)) + "\n")
         making = [flag for flag in flags if flag != "-fsyntax-only"]
         subprocess.run(making + ["-x", "c++-header", str(header), "-o", f"{header}.gch"], check=True)
 

@@ -42,16 +42,6 @@ public:
 
     std::size_t size() const;
 
-    template <class Visitor>
-    void forEach(Visitor visit) const
-    {
-        for (const Slot& slot : slots) {
-            if (slot.container != nullptr) {
-                visit(slot.container);
-            }
-        }
-    }
-
 private:
     struct Slot
     {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/fuzz/FilePlay.h"
 
+#include "tests/support/ContainerCensus.h"
 #include "viewer/loading/ModelRecords.h"
 #include "viewer/loading/PictureDecoding.h"
 #include "viewer/loading/Shapes.h"
@@ -15,7 +16,6 @@
 #include <nbKernelServices/nbUndoService.h>
 #include <nbOpenSGRenderAction/nbImageConvert.h>
 
-#include <OpenSG/OSGContainerCensus.h>
 #include <OpenSG/OSGSimpleAttachments.h>
 
 #include <QBuffer>
@@ -171,7 +171,7 @@ std::string playScene(const QByteArray& text)
 
 std::string playFile(const std::uint8_t* data, std::size_t size)
 {
-    const osg::ContainerCensus before = osg::ContainerCensus::take();
+    const nbtest::ContainerCensus before;
     const QByteArray text(reinterpret_cast<const char*>(data), static_cast<int>(size));
     std::string fault = playSession(text);
     if (fault.empty()) {
@@ -179,7 +179,7 @@ std::string playFile(const std::uint8_t* data, std::size_t size)
     }
     nbUndoService::the()->clear();
     nbScenegraph::clear();
-    const std::string leaked = osg::ContainerCensus::take().differenceTo(before);
+    const std::string leaked = nbtest::ContainerCensus().differenceTo(before);
     return fault.empty() && !leaked.empty() ? "left behind: " + leaked : fault;
 }
 

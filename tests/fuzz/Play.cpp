@@ -3,6 +3,7 @@
 
 #include "manipulator/nbPlanarProjectionVisualization.h"
 #include "tests/fuzz/ManipulatorActor.h"
+#include "tests/support/ContainerCensus.h"
 
 #include <nbKernel/nbController.h>
 #include <nbKernel/nbScenegraph.h>
@@ -10,7 +11,6 @@
 #include <nbNotification/NotificationManager.h>
 #include <nbUtils/nbLog.h>
 
-#include <OpenSG/OSGContainerCensus.h>
 #include <OpenSG/OSGSimpleGeometry.h>
 
 #include <algorithm>
@@ -143,7 +143,7 @@ std::string play(const PlayTarget& target, const std::uint8_t* data, std::size_t
 {
     nbController::clear();
     const nbLog::Sink formerSink = nbLog::setSink([](nbLog::Level, const std::string&) {});
-    const osg::ContainerCensus before = osg::ContainerCensus::take();
+    const nbtest::ContainerCensus before;
     Bytes bytes(data, size);
     std::string fault = runOn(target, bytes);
     resetClasses();
@@ -152,7 +152,7 @@ std::string play(const PlayTarget& target, const std::uint8_t* data, std::size_t
     nbController::clear();
     nbScenegraph::clear();
     nbLog::setSink(formerSink);
-    const std::string leaked = osg::ContainerCensus::take().differenceTo(before);
+    const std::string leaked = nbtest::ContainerCensus().differenceTo(before);
     return fault.empty() && !leaked.empty() ? "left behind: " + leaked : fault;
 }
 

@@ -8,8 +8,6 @@
 #include <nbInteraction/Picker.h>
 #include <nbKernel/nbScenegraph.h>
 
-#include <OpenSG/OSGContainerCensus.h>
-
 #include <gtest/gtest.h>
 
 namespace nbec::manipulator::test {

@@ -3,10 +3,9 @@
 #include "manipulator/CameraManipulator.h"
 #include "tests/manipulator/support/AnyManipulator.h"
 #include "tests/platform/support/Edited.h"
+#include "tests/support/ContainerCensus.h"
 
 #include <nbOpenSGUberCamera/UberCamera.h>
-
-#include <OpenSG/OSGContainerCensus.h>
 
 #include <ChangeCount.h>
 
@@ -201,7 +200,7 @@ TYPED_TEST(Constructed, AndDestroyedTheyLeaveNothing)
     {
         const TypeParam first;  // makes the geometry that all share
     }
-    const osg::ContainerCensus before = osg::ContainerCensus::take();
+    const nbtest::ContainerCensus before;
     {
         TypeParam one;
         TypeParam other;
@@ -209,7 +208,7 @@ TYPED_TEST(Constructed, AndDestroyedTheyLeaveNothing)
         expectManipulatorRoot(one.getVisualisation());
         EXPECT_EQ(one.getCollider(), one.getVisualisation());
     }
-    EXPECT_EQ(osg::ContainerCensus::take().differenceTo(before), "");
+    EXPECT_EQ(nbtest::ContainerCensus().differenceTo(before), "");
     nbOSGWidget widget;
     widget.resize(100, 100);  // calls nobody who is gone
 }

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/nbManipulatorMaterials.h"
 
-#include <OpenSG/OSGContainerCensus.h>
 #include <OpenSG/OSGSHLChunk.h>
 
 #include <gtest/gtest.h>

@@ -3,8 +3,7 @@
 
 #include "tests/manipulator/support/GizmoScene.h"
 #include "tests/platform/support/PictureTest.h"
-
-#include <OpenSG/OSGContainerCensus.h>
+#include "tests/support/ContainerCensus.h"
 
 namespace {
 
@@ -98,14 +97,14 @@ TEST(nbPlanarProjectionVisualization, ShowsAndHidesAsAWholeAndTheZExtentAlone)
 
 TEST(nbPlanarProjectionVisualization, NothingIsLeftBehind)
 {
-    const osg::ContainerCensus before = osg::ContainerCensus::take();
+    const nbtest::ContainerCensus before;
     {
         const osg::RefPtr<osg::ImagePtr> image(makeImage(osg::Image::OSG_RGB_PF, { 9, 9, 9 }));
         nbPlanarProjectionVisualization visualization;
         visualization.setTexture(image.get(), true, true);
         const nbPlanarProjectionVisualization copy(visualization);
     }
-    EXPECT_EQ(osg::ContainerCensus::take().differenceTo(before), "");
+    EXPECT_EQ(nbtest::ContainerCensus().differenceTo(before), "");
 }
 
 // == Placement

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include <OpenSG/OSGContainerCensus.h>
+#include "tests/support/ContainerCensus.h"
+
 #include <OpenSG/OSGRefPtr.h>
 #include <OpenSG/OSGSHLChunk.h>
 
@@ -13,9 +14,9 @@ namespace {
 class Materials : public testing::Test
 {
 protected:
-    ~Materials() override { EXPECT_EQ(ContainerCensus::take().differenceTo(before), ""); }
+    ~Materials() override { EXPECT_EQ(nbtest::ContainerCensus().differenceTo(before), ""); }
 
-    ContainerCensus before = ContainerCensus::take();
+    nbtest::ContainerCensus before;
 };
 
 }  // namespace
@@ -29,7 +30,7 @@ TEST_F(Materials, UniformsClearedDirectlyAreFreed)
     shader->getMFParameters()->clear();
     shader->setUniformParameter("c", Int32(3));
 
-    EXPECT_EQ(ContainerCensus::take().count("ShaderParameterReal"),
+    EXPECT_EQ(nbtest::ContainerCensus().count("ShaderParameterReal"),
               before.count("ShaderParameterReal"));
     Int32 value = 0;
     EXPECT_TRUE(shader->getUniformParameter("c", value));

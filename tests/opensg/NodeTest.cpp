@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "tests/support/ContainerCensus.h"
+
 #include <OpenSG/OSGChangeCount.h>
 #include <OpenSG/OSGComponentTransform.h>
-#include <OpenSG/OSGContainerCensus.h>
 #include <OpenSG/OSGGroup.h>
 #include <OpenSG/OSGMaterialGroup.h>
 #include <OpenSG/OSGNode.h>
@@ -247,7 +248,7 @@ TEST(NodeVolume, FollowsEditsBelowNodesThatWereInactiveMeanwhile)
 
 TEST(NodeChildren, CoreHeldByNobodyElseLeavesWithTheNodeAndClonesLeakNothing)
 {
-    const ContainerCensus before = ContainerCensus::take();
+    const nbtest::ContainerCensus before;
     {
         const NodeRefPtr root(makeCoredNode<Group>());
         root->addChild(makeCoredNode<ComponentTransform>());
@@ -258,5 +259,5 @@ TEST(NodeChildren, CoreHeldByNobodyElseLeavesWithTheNodeAndClonesLeakNothing)
         EXPECT_EQ(shallow->getNChildren(), 0u);
         EXPECT_NE(copying->getChild(0)->getCore(), root->getChild(0)->getCore());
     }
-    EXPECT_EQ(ContainerCensus::take().differenceTo(before), "");
+    EXPECT_EQ(nbtest::ContainerCensus().differenceTo(before), "");
 }
