@@ -67,6 +67,25 @@ public:
 
     void setGUI(nbStateChunkBase* gui) { edited().setGUI(gui); }
 
+    // == The picture itself; the tire gizmo leaves it alone
+
+    /// Has a press beside the handles grab the picture where it is seen, as a handle "picture" of
+    /// number 100: the texel under the pointer stays under it, on curved surfaces too. In a mode
+    /// that shows the handles that turn alone the picture turns about that texel, half a degree for
+    /// each logical pixel to the right, clockwise; in one for scaling it grows about it, to the
+    /// double in 150 pixels to the right or up. Off at the start.
+    void setGrabsPicture(bool on) { textureGizmo().grabsPicture = on; }
+
+    bool grabsPicture() const { return textureGizmo().grabsPicture; }
+
+    /// Has turns and scales keep the texel where the handles stand, by sending the offset along;
+    /// off at the start: they are about where the projection has its origin. Of the planar gizmo,
+    /// whose handles stand there, nothing changes; of the UV gizmo it is the texel that is seen
+    /// there, and nothing without one.
+    void setPivotsAtHandles(bool on) { textureGizmo().pivotsAtHandles = on; }
+
+    bool pivotsAtHandles() const { return textureGizmo().pivotsAtHandles; }
+
     // == Handles shown
 
     /// Shows the handles of the current mode; the planar gizmo's are hidden without a node.

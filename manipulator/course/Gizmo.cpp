@@ -97,13 +97,17 @@ bool Gizmo::startEvent(interaction::Picker* picker)
         handles.light(0, mode);  // lines are hit by the width in which they are drawn
     }
     armed = detect(picker);
+    if (armed != 0) {
+        grabbedPoint = picker->getHitPoint();
+    } else if (picker != nullptr && hasTarget()) {
+        armed = grabBeside(grabbedPoint);
+    }
     if (rules.isGrabbedLit) {
         handles.light(armed, mode);
     }
     if (armed == 0) {
         return false;
     }
-    grabbedPoint = picker->getHitPoint();
     if (rules.isPreparedAtStart && !begin(View())) {
         return false;
     }
@@ -150,9 +154,11 @@ void Gizmo::beganAnew(const View& view)
 {
     DragEvent what;
     what.handle = armed;
-    if (const HandleRow* const row = handles.findRow(armed); row != nullptr) {
+    if (const HandleRow* const row = armedRow(); row != nullptr) {
         what.handleName = row->name;
         what.action = row->action;
+    }
+    if (const HandleRow* const row = handles.findRow(armed); row != nullptr) {
         beginOverlay(*row, view);
     }
     if (!listeners.isEmpty()) {
@@ -215,7 +221,7 @@ void Gizmo::applyNow(const DragParameters& parameters)
 
 DragParameters Gizmo::startParameters() const
 {
-    const HandleRow* const row = handles.findRow(armed);
+    const HandleRow* const row = armedRow();
     const HandleAction action = row != nullptr ? row->action : HandleAction();
     DragParameters start(action.kind, osg::Vec3f());
     start.values[0] = action.kind == DragParameters::Kind::Factor ? 1.0 : 0.0;

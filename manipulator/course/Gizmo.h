@@ -130,6 +130,13 @@ protected:
     /// Before each step: whether it can be made now, and whatever has to be done for it.
     virtual bool canStep(const View& view) { return view.exists(); }
 
+    /// What a press beside all handles grabs: a number that the table need not have, 0 for nothing.
+    /// @param place  receives where it was grabbed, world
+    virtual int grabBeside(osg::Pnt3f& /*place*/) { return 0; }
+
+    /// What the armed handle is and does; null for none.
+    virtual const HandleRow* armedRow() const { return handles.findRow(armed); }
+
     /// Captures the start of a drag of the armed handle, and what of the track it begins with.
     /// @return false if it cannot
     virtual bool prepare(const View& view) = 0;

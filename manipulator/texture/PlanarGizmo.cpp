@@ -31,7 +31,6 @@ constexpr CourseRules kRules = { /*isPreparedAtStart*/ true, /*isHoverKept*/ fal
 constexpr float kShortestQuaternion = 1e-6F;
 /// Below this size on screen nothing can be placed relative to the gizmo.
 constexpr float kLeastSize = 1e-20F;
-constexpr std::size_t kMatrixElements = 16;
 constexpr const char* kChangedSuffix = "::changedPlanarManipulator";
 
 osg::Quaternion normalisedRotation(osg::Quaternion rotation)
@@ -41,12 +40,6 @@ osg::Quaternion normalisedRotation(osg::Quaternion rotation)
     }
     rotation.normalize();
     return rotation;
-}
-
-bool isFinite(const osg::Matrix& matrix)
-{
-    return std::all_of(matrix.getValues(), matrix.getValues() + kMatrixElements,
-                       [](float value) { return std::isfinite(value); });
 }
 
 osg::Vec3f objectPivot(const osg::NodePtr& node, bool scalePivot)
@@ -150,22 +143,20 @@ void PlanarGizmo::readProjection(const osg::NodePtr& node)
     if (settings.useObjectScale) {
         frame.scale = nbNodeUtils::getTransformNodeScale(node);
     }
-    const osg::ColorComponentSettingsPtr material = component.getSettings();
-    const osg::Transform3DPtr projection =
-        material != osg::NullFC ? material->getPlanarProjection() : osg::Transform3DPtr();
-    if (projection == osg::NullFC || !isFinite(projection->getMatrix())) {
+    const osg::Transform3DPtr present = projection();
+    if (present == osg::NullFC) {
         return;
     }
-    frame.projectionScale = projection->getScale();
+    frame.projectionScale = present->getScale();
     if (!settings.useObjectTranslation) {
         // The image of the origin: the translation, where no pivot of the projection moves it.
-        frame.translation = column(projection->getMatrix(), 3);
+        frame.translation = column(present->getMatrix(), 3);
     }
     if (!settings.useObjectScale) {
         frame.scale = frame.projectionScale;
     }
-    frame.rotation = projection->getRotationAsQuaternion();
-    frame.rotation.mult(projection->getRotationOrientation());
+    frame.rotation = present->getRotationAsQuaternion();
+    frame.rotation.mult(present->getRotationOrientation());
     frame.rotation = normalisedRotation(frame.rotation);
 }
 
@@ -228,11 +219,14 @@ bool PlanarGizmo::prepare(const View& /*view*/)
 void PlanarGizmo::capture(const View& view)
 {
     isTargetReady = false;
-    drag = beginDrag(frame, getActiveMode(), view.sight());
+    drag = beginDrag(frame, actingHandle(), view.sight());
     track = DragTrack();
     ring = RingDrag::begin(osg::Pnt3f(column(frame.worldFromAxes(), 3)), drag.plane.getNormal(),
                            grabbedPoint, view.getSight());
     follow(view, track);
+    if (holdsPicture()) {
+        capturePicture(view);
+    }
 }
 
 std::optional<osg::Pnt3f> PlanarGizmo::follow(const View& view, DragTrack& next) const
@@ -250,6 +244,9 @@ void PlanarGizmo::updateManipulatorPlane()
 DragStep PlanarGizmo::parametersAt(const View& view, const DragTrack& before) const
 {
     using Kind = DragParameters::Kind;
+    if (holdsPicture()) {
+        return pictureStep(view, before);
+    }
     DragTrack next = before;
     const std::optional<osg::Pnt3f> hit = follow(view, next);
     if (!hit) {
@@ -288,7 +285,12 @@ void PlanarGizmo::apply(const DragParameters& parameters)
     nbMessage message;
     if (parameters.kind == Kind::Angle) {
         // Deliberate: the receiver's rotation runs opposite to the gizmo's.
-        message.set("rotate", -static_cast<float>(parameters.values[0] / kDegPerRad), true);
+        const auto angle = static_cast<float>(parameters.values[0] / kDegPerRad);
+        message.set("rotate", -angle, true);
+        if (holdsPicture()) {
+            const osg::Quaternion turn(osg::Vec3f(0.0F, 0.0F, 1.0F), angle);
+            setTranslationIn(message, pivot - rotated(turn, pivot));
+        }
     } else if (parameters.kind == Kind::Offset) {
         setTranslationIn(message, parameters.vec3());
     } else if (parameters.kind == Kind::Factor) {
@@ -298,6 +300,9 @@ void PlanarGizmo::apply(const DragParameters& parameters)
         }
         message.set("scale", scaledProjection(drag, parameters.first(), settings.keepAspectRatio),
                     true);
+        if (holdsPicture()) {
+            setTranslationIn(message, pivot * (1.0F - parameters.first()));
+        }
     } else {
         const bool isZPlane = drag.handle == Active::ScaleZPlane;
         message.set("clamping", isZPlane, true);

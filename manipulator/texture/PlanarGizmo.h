@@ -56,6 +56,10 @@ protected:
     DragParameters startParameters() const override;
     void apply(const DragParameters& parameters) override;
 
+    HandleAction pictureAction() const override;
+    bool isPictureAt(const SurfacePlace& place) const override;
+    osg::Vec3f pictureOffset(const SurfacePlace& from, const SurfacePlace& to) const override;
+
     std::vector<osg::NodePtr> editedNodes() const override { return { getNode() }; }
 
     void place(const View& view) override;
@@ -73,7 +77,10 @@ private:
 
     void readProjection(const osg::NodePtr& node);
     void askScaleValues();
+    osg::Transform3DPtr projection() const;
     void capture(const View& view);
+    void capturePicture(const View& view);
+    PlanarActiveMode actingHandle() const;
     std::optional<osg::Pnt3f> follow(const View& view, DragTrack& next) const;
     void showElements();
     void placeRows(const osg::Matrix& worldFromAxes, const osg::Matrix& axes,
@@ -85,6 +92,8 @@ private:
     bool zScaleValueShown = true;
     ProjectionFrame frame;
     ProjectionDrag drag;
+    osg::Vec3f pivot;  ///< texel that a turn or scale of the picture keeps, from its centre, along
+                       ///< the axes; object units
     RingDrag ring;  ///< of a drag that turns
     bool isTargetReady = false;  ///< whether the object has been made a transform in this drag
 };

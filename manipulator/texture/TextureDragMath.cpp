@@ -3,6 +3,8 @@
 
 #include "manipulator/drag/DragGeometry.h"
 
+#include <nbOpenSGExt/nbEulerRotation.h>
+
 #include <algorithm>
 #include <cmath>
 
@@ -17,6 +19,7 @@ constexpr float kUniformShare = 0.01F;
 /// Deliberate: as many digits as the receivers of angles in degrees count with.
 constexpr double kHalfTurn = 3.14159265358;
 constexpr double kHalfTurnDeg = 180.0;
+constexpr const char* kOrder = "xyz";
 constexpr double kPi = 3.14159265358979324;
 
 float atLeastLeast(float factor)
@@ -110,6 +113,58 @@ osg::Vec3f turnedTriplanar(const osg::Vec3f& start, osg::UInt32 axis, double tur
     osg::Vec3f rotation = start;
     rotation[axis] += axis == 1 ? -turn : turn;
     return rotation;
+}
+
+osg::Quaternion triplanarTurn(const osg::Vec3f& rotation)
+{
+    const auto degPerRad = static_cast<float>(kDegPerRad);
+    return nbEulerRotation::toQuaternion(
+        osg::Vec3f(rotation.x(), -rotation.y(), rotation.z()) * degPerRad, kOrder);
+}
+
+osg::Vec3f triplanarRotation(const osg::Quaternion& turn)
+{
+    const osg::Vec3f angles = nbEulerRotation::fromQuaternion(turn, kOrder);
+    return osg::Vec3f(angles.x(), -angles.y(), angles.z()) * static_cast<float>(1.0 / kDegPerRad);
+}
+
+osg::Vec3f triplanarOffset(const TriplanarPairs& offsets, osg::UInt32 projection)
+{
+    constexpr float kHalf = 0.5F;
+    osg::Vec3f offset;
+    for (osg::UInt32 axis = 0; axis < 3; ++axis) {
+        const auto of = [&](osg::UInt32 i) { return offsets[i][triplanarComponent(i, axis)]; };
+        const auto [first, second] = projectionsWith(axis);
+        offset[axis] = projection == first ? of(first)
+            : projection == second         ? of(second)
+                                           : kHalf * (of(first) + of(second));
+    }
+    return offset;
+}
+
+osg::Vec3f shiftKeeping(const osg::Vec3f& place, const osg::Quaternion& before,
+                        const osg::Quaternion& after, const osg::Vec3f& growth)
+{
+    osg::Vec3f inFrame = rotated(before.inverse(), place);
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        inFrame[i] *= growth[i];
+    }
+    return place - rotated(after, inFrame);
+}
+
+osg::Vec2f offsetKeeping(const osg::Vec2f& place, const UVPlacing& before, const UVPlacing& after)
+{
+    const osg::Vec2f middle(0.5F, 0.5F);
+    const auto turned = [](const osg::Vec2f& way, double angleDeg) {
+        const auto cosine = static_cast<float>(std::cos(angleDeg / kDegPerRad));
+        const auto sine = static_cast<float>(std::sin(angleDeg / kDegPerRad));
+        return osg::Vec2f(cosine * way.x() - sine * way.y(), sine * way.x() + cosine * way.y());
+    };
+    osg::Vec2f texel = turned(place - before.offset - middle, before.rotateDeg) + middle;
+    for (osg::UInt32 i = 0; i < 2; ++i) {
+        texel[i] *= after.scale[i] / before.scale[i];
+    }
+    return place - middle - turned(texel - middle, -after.rotateDeg);
 }
 
 osg::Matrix unitFrame(const osg::Matrix& matrix, const osg::Pnt3f& origin)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <OpenSG/OSGMatrix.h>
+#include <OpenSG/OSGQuaternion.h>
 #include <OpenSG/OSGVector.h>
 
 #include <array>
@@ -42,6 +43,32 @@ std::optional<double> turnAbout(const osg::Vec3f& from, const osg::Vec3f& to, os
 /// those about x and z.
 /// @param start  angles about x, y and z when the drag began, radians
 osg::Vec3f turnedTriplanar(const osg::Vec3f& start, osg::UInt32 axis, double turnDeg);
+
+/// Turn of the frame that a rotation of the triplanar projection stands for, and the other way
+/// round; radians. Deliberate: as in turnedTriplanar() the angle about y runs the other way.
+osg::Quaternion triplanarTurn(const osg::Vec3f& rotation);
+osg::Vec3f triplanarRotation(const osg::Quaternion& turn);
+
+/// Offset of a projection along all three axes: across its plane it has the mean of the others'.
+/// @param projection  3 for the mean of all
+osg::Vec3f triplanarOffset(const TriplanarPairs& offsets, osg::UInt32 projection);
+
+/// Shift of all offsets, units of the frame, with which a place keeps its texel while the frame
+/// turns and its pictures grow. @param place  from where the picture begins, same units
+/// @param growth  factors of the scales along the axes of the frame
+osg::Vec3f shiftKeeping(const osg::Vec3f& place, const osg::Quaternion& before,
+                        const osg::Quaternion& after, const osg::Vec3f& growth);
+
+/// How a picture lies in the texture coordinates.
+struct UVPlacing
+{
+    osg::Vec2f offset;
+    osg::Vec2f scale { 1.0F, 1.0F };
+    float rotateDeg = 0.0F;  ///< clockwise, about the middle of the unit square
+};
+
+/// Offset with which a place keeps its texel while the picture takes another turn and scale.
+osg::Vec2f offsetKeeping(const osg::Vec2f& place, const UVPlacing& before, const UVPlacing& after);
 
 /// The axes of a matrix, each of unit length, and the given origin. A mirrored or skewed matrix has
 /// mirrored or skewed axes.

@@ -3,12 +3,14 @@
 
 #include "manipulator/course/Gizmo.h"
 #include "manipulator/texture/MaterialComponent.h"
+#include "manipulator/texture/PictureSurface.h"
 
 #include <memory>
 
 namespace nbec::manipulator::texture {
 
-/// What the faces of the texture gizmos know of them; see TextureFace.
+/// What the faces of the texture gizmos know of them, see TextureFace, and how the picture itself
+/// is dragged: a press on it holds the texel that was hit.
 class TextureGizmo : public Gizmo
 {
 public:
@@ -19,9 +21,49 @@ public:
                               nbStateChunkBase* gui) = 0;
 
     MaterialComponent component;
+    bool grabsPicture = false;
+    bool pivotsAtHandles = false;
 
 protected:
-    using Gizmo::Gizmo;
+    TextureGizmo(const CourseRules& courseRules, const HandleTable& table,
+                 HandleSet::Materials materials, int startMode, const float& size);
+    TextureGizmo(const TextureGizmo&) = default;
+
+    /// Grabs the picture, if it is to be grabbed and seen there.
+    int grabBeside(osg::Pnt3f& place) override;
+    const HandleRow* armedRow() const override;
+
+    /// What a drag of the picture does in the present mode; without a kind it is not grabbed.
+    virtual HandleAction pictureAction() const { return {}; }
+
+    /// Whether the picture is shown at a place of its surface.
+    virtual bool isPictureAt(const SurfacePlace& /*place*/) const { return true; }
+
+    /// The offset that brings what is seen at one place to another one.
+    virtual osg::Vec3f pictureOffset(const SurfacePlace& /*from*/, const SurfacePlace& /*to*/) const
+    {
+        return {};
+    }
+
+    bool holdsPicture() const;
+    /// A step of a drag of the picture: the texel goes with the pointer, or the picture turns as
+    /// the pointer goes to the right, or grows as it goes to the right and up.
+    DragStep pictureStep(const View& view, const DragTrack& before) const;
+
+    /// What lies at a pixel of the surface that wears the material.
+    std::optional<SurfacePlace> surfaceAt(const osg::Pnt2f& px) const
+    {
+        return surface->under(px, component.getMaterial());
+    }
+
+    std::optional<SurfacePlace> grabbed;  ///< of the picture
+    /// Of a turn of the picture: 1 where a growing angle is seen counter-clockwise, else -1.
+    float turnSense = 1.0F;
+
+private:
+    std::shared_ptr<PictureSurface> surface;
+    HandleRow pictureRow;
+    osg::Pnt2f pressed;  ///< pointer when the picture was grabbed
 };
 
 }  // namespace nbec::manipulator::texture

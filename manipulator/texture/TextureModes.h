@@ -9,6 +9,9 @@
 
 namespace nbec::manipulator::texture {
 
+/// Number of the picture itself among the handles of each gizmo that can grab it.
+constexpr int kPictureHandle = 100;
+
 /// The handle of the planar gizmo that is hovered or dragged.
 enum class PlanarActiveMode : osg::UInt32
 {
@@ -30,7 +33,8 @@ enum class PlanarActiveMode : osg::UInt32
     ScaleRight = 15,
     ScaleLower = 16,
     ScaleUpper = 17,
-    ScaleZPlane = 18
+    ScaleZPlane = 18,
+    Picture = kPictureHandle
 };
 
 /// Which handles of the planar gizmo are shown.
@@ -65,7 +69,8 @@ enum class TriplanarHandle : osg::UInt32
     ScaleX = 7,
     ScaleY = 8,
     ScaleZ = 9,
-    ScaleUniform = 10
+    ScaleUniform = 10,
+    Picture = kPictureHandle
 };
 
 /// Which handles of the UV gizmo are shown.
@@ -89,7 +94,8 @@ enum class UVHandle : osg::UInt32
     TranslateUV = 4,
     ScaleU = 5,
     ScaleV = 6,
-    ScaleUniform = 7
+    ScaleUniform = 7,
+    Picture = kPictureHandle
 };
 
 /// Which handles of the tire gizmo are shown.

@@ -10,6 +10,8 @@
 #include <nbOpenSGUberMaterial/nbStateChunkBase.h>
 #include <nbUtils/nbMessage.h>
 
+#include <cmath>
+
 namespace nbec::manipulator::texture {
 
 namespace {
@@ -22,6 +24,7 @@ constexpr int kTranslateGroup = 0;
 constexpr int kRotateGroup = 1;
 constexpr int kScaleGroup = 2;
 constexpr float kHandleEnd = 2.5F;
+constexpr float kUnitsPerOffset = 100.0F;
 constexpr const char* kChangedSuffix = "::changedTriplanarManipulator";
 constexpr std::array<const char*, 3> kOffsetNames = { "XOffset", "YOffset", "ZOffset" };
 constexpr std::array<const char*, 3> kScaleNames = { "XScale", "YScale", "ZScale" };
@@ -104,6 +107,18 @@ osg::Vec2f reciprocals(const osg::Vec2f& pair)
     return osg::Vec2f(1.0F / pair.x(), 1.0F / pair.y());
 }
 
+/// The axes of a space, of the world's unit length, at its origin.
+osg::Matrix unitAxes(const osg::Matrix& worldFromSpace)
+{
+    return unitFrame(worldFromSpace, osg::Pnt3f(column(worldFromSpace, 3)));
+}
+
+/// A place in a space whose axes have the world's unit length.
+osg::Vec3f inUnits(const osg::Matrix& worldFromSpace, const osg::Pnt3f& world)
+{
+    return mapped(inverted(unitAxes(worldFromSpace)), world).subZero();
+}
+
 }  // namespace
 
 TriplanarGizmo::TriplanarGizmo(const float& size)
@@ -141,7 +156,7 @@ bool TriplanarGizmo::isRing() const
 
 osg::UInt32 TriplanarGizmo::axis() const
 {
-    return getArmed() == number(Handle::ScaleUniform)
+    return getArmed() >= number(Handle::ScaleUniform)
         ? 3
         : static_cast<osg::UInt32>(getArmed() - 1) % 3;
 }
@@ -159,7 +174,60 @@ bool TriplanarGizmo::capture(const View& view)
     readValues();
     choosePlane(view, unitFrame(worldFromAnchor, getAnchorPosition()));
     follow(view, track);
+    startTurn = triplanarTurn(startRotation);
+    pivot.reset();
+    if (holdsPicture()) {
+        capturePicture(view);
+    } else if (pivotsAtHandles) {
+        pivot = inUnits(worldFromAnchor, getAnchorPosition()) +
+            triplanarOffset(startOffsets, 3) * kUnitsPerOffset;
+    }
     return true;
+}
+
+void TriplanarGizmo::capturePicture(const View& view)
+{
+    const osg::Matrix axes = unitAxes(grabbed->worldFromSurface);
+    osg::Vec3f normal;
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        normal[i] = column(axes, i).dot(grabbed->normal);
+    }
+    normal = rotated(startTurn.inverse(), normal);
+    main = 0;
+    for (osg::UInt32 i = 1; i < 3; ++i) {
+        main = std::abs(normal[i]) > std::abs(normal[main]) ? i : main;
+    }
+    pivot = inUnits(grabbed->worldFromSurface, grabbed->world) +
+        triplanarOffset(startOffsets, main) * kUnitsPerOffset;
+    osg::Vec3f about;
+    about[main] = 1.0F;
+    about = rotated(startTurn, about);
+    axes.multMatrixVec(about);
+    turnSense = about.dot(view.sightAt(grabbed->world)) * axes.det3() < 0.0F ? 1.0F : -1.0F;
+}
+
+HandleAction TriplanarGizmo::pictureAction() const
+{
+    switch (static_cast<Mode>(getMode())) {
+    case Mode::Rotate:
+        return { Kind::Angle, axisBit(2) };
+    case Mode::RotateScale:
+        return { Kind::Factor, kAllAxes };
+    case Mode::Hidden:
+        return {};
+    default:
+        return { Kind::Offset, kAllAxes };
+    }
+}
+
+/// Across the plane of the projection that was grabbed the offset stays as it is.
+osg::Vec3f TriplanarGizmo::pictureOffset(const SurfacePlace& from, const SurfacePlace& to) const
+{
+    osg::Vec3f inFrame = rotated(startTurn.inverse(),
+                                 inUnits(to.worldFromSurface, to.world) -
+                                     inUnits(from.worldFromSurface, from.world));
+    inFrame[main] = 0.0F;
+    return rotated(startTurn, inFrame);
 }
 
 void TriplanarGizmo::readValues()
@@ -215,6 +283,9 @@ std::optional<osg::Pnt3f> TriplanarGizmo::follow(const View& view, DragTrack& ne
 
 DragStep TriplanarGizmo::parametersAt(const View& view, const DragTrack& before) const
 {
+    if (holdsPicture()) {
+        return pictureStep(view, before);
+    }
     DragTrack next = before;
     const std::optional<osg::Pnt3f> hit = follow(view, next);
     if (!hit) {
@@ -242,22 +313,56 @@ void TriplanarGizmo::apply(const DragParameters& parameters)
 {
     nbMessage message;
     const float value = parameters.first();
-    if (parameters.kind == Kind::Angle) {
-        message.set("rotate", turnedTriplanar(startRotation, axis(), parameters.values[0]), true);
+    osg::Vec3f shift;
+    if (parameters.kind == Kind::Offset) {
+        shift = parameters.vec3();
+    } else {
+        osg::Quaternion turn = startTurn;
+        osg::Vec3f growth(1.0F, 1.0F, 1.0F);
+        if (parameters.kind == Kind::Angle) {
+            turn = setTurn(message, parameters.values[0]);
+        } else {
+            const TriplanarPairs scales = scaledAlong(startScales, axis(), value);
+            for (osg::UInt32 i = 0; i < 3; ++i) {
+                growth[i] = axis() > 2 || i == axis() ? value : 1.0F;
+                if (i != axis()) {
+                    message.set(kScaleNames[i], scales[i], true);
+                }
+            }
+        }
+        // Taken back, offsets are to be the same to the bit.
+        const bool isOther = value != (parameters.kind == Kind::Angle ? 0.0F : 1.0F);
+        shift = pivot && isOther ? shiftKeeping(*pivot, startTurn, turn, growth) : osg::Vec3f();
     }
-    const bool isOffset = parameters.kind == Kind::Offset;
-    const float offset = isOffset ? parameters.vec3()[axis()] : 0.0F;
-    const TriplanarPairs pairs = isOffset ? shiftedOffsets(startOffsets, axis(), offset)
-                                          : scaledAlong(startScales, axis(), value);
-    // All but that of the projection along the handle's axis.
-    for (osg::UInt32 i = 0; i < 3 && parameters.kind != Kind::Angle; ++i) {
-        if (i != axis() && isOffset) {
-            message.set(kOffsetNames[i], pairs[i], true);
-        } else if (i != axis()) {
-            message.set(kScaleNames[i], pairs[i], true);
+    if (parameters.kind == Kind::Offset || pivot) {
+        TriplanarPairs offsets = startOffsets;
+        for (osg::UInt32 i = 0; i < 3; ++i) {
+            offsets = shiftedOffsets(offsets, i, shift[i]);
+        }
+        for (osg::UInt32 i = 0; i < 3; ++i) {
+            if (parameters.kind != Kind::Offset || i != axis()) {
+                message.set(kOffsetNames[i], offsets[i], true);
+            }
         }
     }
     component.send(kChangedSuffix, message);
+}
+
+/// Has a message turn the frame, about the armed ring or across the picture that was grabbed.
+osg::Quaternion TriplanarGizmo::setTurn(nbMessage& message, double turnDeg) const
+{
+    osg::Vec3f rotation = startRotation;
+    if (!holdsPicture()) {
+        rotation = turnedTriplanar(startRotation, axis(), turnDeg);
+    } else if (turnDeg != 0.0) {
+        osg::Vec3f about;
+        about[main] = 1.0F;
+        osg::Quaternion turn = startTurn;
+        turn.mult(osg::Quaternion(about, static_cast<float>(turnDeg / kDegPerRad)));
+        rotation = triplanarRotation(turn);
+    }
+    message.set("rotate", rotation, true);
+    return triplanarTurn(rotation);
 }
 
 void TriplanarGizmo::announce()

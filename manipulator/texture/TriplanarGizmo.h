@@ -7,6 +7,8 @@
 
 #include <OpenSG/OSGPlane.h>
 
+class nbMessage;
+
 namespace nbec::manipulator::texture {
 
 /// Handles and drags of the triplanar gizmo. Parameters of a drag: how far along the axis, frame
@@ -27,6 +29,9 @@ public:
     bool areRingsTilted = false;
 
 protected:
+    HandleAction pictureAction() const override;
+    osg::Vec3f pictureOffset(const SurfacePlace& from, const SurfacePlace& to) const override;
+
     bool capture(const View& view) override;
     DragStep parametersAt(const View& view, const DragTrack& before) const override;
     void apply(const DragParameters& parameters) override;
@@ -39,6 +44,8 @@ private:
     /// Axis of the armed handle, 0 .. 2; 3 for the uniform one.
     osg::UInt32 axis() const;
     void readValues();
+    void capturePicture(const View& view);
+    osg::Quaternion setTurn(nbMessage& message, double turnDeg) const;
     void choosePlane(const View& view, const osg::Matrix& worldFromFrame);
 
     osg::Plane plane;
@@ -47,6 +54,9 @@ private:
     osg::Vec3f startRotation;
     TriplanarPairs startOffsets;
     TriplanarPairs startScales;
+    osg::Quaternion startTurn;
+    std::optional<osg::Vec3f> pivot;  ///< place that keeps its texel, from where the picture begins
+    osg::UInt32 main = 0;  ///< projection with the greatest weight where the picture was grabbed
 };
 
 }  // namespace nbec::manipulator::texture

@@ -160,7 +160,36 @@ bool UVGizmo::capture(const View& view)
     readValues();
     dragStartPixel = view.pointerFromBelow();
     anchorPixel = view.project(getAnchorPosition());
+    constexpr float kHalf = 0.5F;  // to the middle of a pixel
+    const osg::Pnt2f anchorPx(anchorPixel.x() - kHalf,
+                              static_cast<float>(view.getHeight()) - anchorPixel.y() - kHalf);
+    const std::optional<SurfacePlace> held = holdsPicture() ? grabbed
+        : pivotsAtHandles                                   ? surfaceAt(anchorPx)
+                                                            : std::nullopt;
+    pivot = held ? held->texCoord : std::nullopt;
     return true;
+}
+
+HandleAction UVGizmo::pictureAction() const
+{
+    switch (static_cast<Mode>(getMode())) {
+    case Mode::Rotate:
+        return { Kind::Angle, axisBit(2) };
+    case Mode::Scale:
+    case Mode::RotateScale:
+        return { Kind::Factor, kAllAxes };
+    case Mode::Hidden:
+        return {};
+    default:
+        return { Kind::Offset, axisBit(0) | axisBit(1) };
+    }
+}
+
+osg::Vec3f UVGizmo::pictureOffset(const SurfacePlace& from, const SurfacePlace& to) const
+{
+    const osg::Vec2f way =
+        to.texCoord && from.texCoord ? *to.texCoord - *from.texCoord : osg::Vec2f();
+    return osg::Vec3f(way.x(), way.y(), 0.0F);
 }
 
 void UVGizmo::readValues()
@@ -170,20 +199,19 @@ void UVGizmo::readValues()
     const nbStateChunkBase* const gui = component.getGUI();
     const std::string& name = component.getName();
     osg::Vec2f repeat(1.0F, 1.0F);
-    startRotate = 0.0F;
-    startOffset = osg::Vec2f();
+    start = UVPlacing();
     if (settings != osg::NullFC) {
-        startRotate = settings->getRotate();
-        startOffset = settings->getOffset();
+        start.rotateDeg = settings->getRotate();
+        start.offset = settings->getOffset();
         repeat = settings->getRepeat();
     } else if (gui != nullptr && gui->hasComponent(name)) {
-        startRotate = gui->getRotate(name);
-        startOffset = gui->getOffset(name);
+        start.rotateDeg = gui->getRotate(name);
+        start.offset = gui->getOffset(name);
         repeat = gui->getRepeat(name);
     } else if (material != osg::NullFC) {
         repeat = material->getRepeat(name);
     }
-    startScale = osg::Vec2f(1.0F / repeat.x(), 1.0F / repeat.y());
+    start.scale = osg::Vec2f(1.0F / repeat.x(), 1.0F / repeat.y());
 }
 
 ScreenScaling UVGizmo::axes() const
@@ -195,6 +223,9 @@ ScreenScaling UVGizmo::axes() const
 
 DragStep UVGizmo::parametersAt(const View& view, const DragTrack& before) const
 {
+    if (holdsPicture()) {
+        return pictureStep(view, before);
+    }
     DragTrack next = before;
     const osg::Vec2f from = dragStartPixel - anchorPixel;
     const osg::Vec2f to = view.pointerFromBelow() - anchorPixel;
@@ -216,14 +247,21 @@ DragStep UVGizmo::parametersAt(const View& view, const DragTrack& before) const
 void UVGizmo::apply(const DragParameters& parameters)
 {
     nbMessage message;
+    UVPlacing after = start;
     if (parameters.kind == Kind::Angle) {
         // Deliberate: a counter-clockwise turn of the pointer subtracts.
-        message.set("rotate", startRotate - parameters.first(), true);
+        after.rotateDeg -= parameters.first();
+        message.set("rotate", after.rotateDeg, true);
     } else if (parameters.kind == Kind::Factor) {
-        message.set("scale", scaledPicture(startScale, parameters.first(), axes(), keepAspectRatio),
-                    true);
+        after.scale = scaledPicture(start.scale, parameters.first(), axes(), keepAspectRatio);
+        message.set("scale", after.scale, true);
     } else {
-        message.set("offset", startOffset + parameters.vec2(), true);
+        message.set("offset", start.offset + parameters.vec2(), true);
+    }
+    if (pivot && parameters.kind != Kind::Offset) {
+        // Taken back, it is to be the same to the bit.
+        const bool isOther = after.rotateDeg != start.rotateDeg || after.scale != start.scale;
+        message.set("offset", isOther ? offsetKeeping(*pivot, start, after) : start.offset, true);
     }
     component.send(kChangedSuffix, message);
 }

@@ -28,6 +28,15 @@ protected:
     /// Without the material, too.
     bool canStep(const View& view) override { return view.exists(); }
 
+    HandleAction pictureAction() const override;
+
+    bool isPictureAt(const SurfacePlace& place) const override
+    {
+        return place.texCoord.has_value();
+    }
+
+    osg::Vec3f pictureOffset(const SurfacePlace& from, const SurfacePlace& to) const override;
+
     bool capture(const View& view) override;
     DragStep parametersAt(const View& view, const DragTrack& before) const override;
     void apply(const DragParameters& parameters) override;
@@ -40,9 +49,8 @@ private:
     ScreenScaling axes() const;
     void readValues();
 
-    float startRotate = 0.0F;  ///< degrees
-    osg::Vec2f startScale;
-    osg::Vec2f startOffset;
+    UVPlacing start;
+    std::optional<osg::Vec2f> pivot;  ///< texture coordinates that keep their texel
     osg::Vec2f dragStartPixel;  ///< y from the bottom
     osg::Vec2f anchorPixel;  ///< y from the bottom
 };

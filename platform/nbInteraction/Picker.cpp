@@ -126,6 +126,7 @@ osg::NodePtr Picker::pickAt(const osg::Pnt2f& px, const HandleRank& rankOf)
         detail::SceneHit hit;
         if (scenePicking->pick(root, *view, centre, hit)) {
             rememberHit(hit.node, hit.point, hit.normal);
+            hitTexCoord = hit.texCoord;
             return hit.node;
         }
     } else if (filter == HandleFilter) {
@@ -180,6 +181,7 @@ void Picker::forgetHit()
     hitNodeId = 0;
     hitPoint = osg::Pnt3f();
     hitNormal = osg::Vec3f();
+    hitTexCoord.reset();
 }
 
 // == The last hit

@@ -138,6 +138,10 @@ public:
     /// as its vertices wind; on a line or point towards the eye; zero after a miss
     osg::Vec3f getHitNormal() const { return hitNormal; }
 
+    /// @return the first texture coordinates where the last hit of the scene was; nothing without
+    /// such a hit or for a geometry that has none
+    const std::optional<osg::Vec2f>& getHitTexCoord() const { return hitTexCoord; }
+
     /// Collects the scene's geometry nodes that lie wholly inside a rectangle of the main widget:
     /// every position of the geometry is projected inside it and in front of the near plane.
     /// Occluded nodes count. Auxiliary and inactive subtrees, filter and pick node as in
@@ -170,6 +174,7 @@ private:
     osg::UInt32 hitNodeId = 0;
     osg::Pnt3f hitPoint;
     osg::Vec3f hitNormal;
+    std::optional<osg::Vec2f> hitTexCoord;
 
     std::unique_ptr<detail::WidgetView> widgetView;
     std::unique_ptr<detail::ScenePicking> scenePicking;

@@ -24,7 +24,8 @@ constexpr std::array<void (Planar::*)(), 13> kPlanarCalls = { &Planar::activateT
                                                               &Planar::highlightControlElement,
                                                               &Planar::updateManipulator,
                                                               &Planar::updateManipulatorPlane };
-constexpr std::array<void (Planar::*)(bool), 7> kPlanarSwitches = {
+constexpr std::array<void (Planar::*)(bool), 8> kPlanarSwitches = {
+    &Planar::setGrabsPicture,
     &Planar::setKeepAspectRatio,
     &Planar::setUseTextureScale,
     &Planar::setUseObjectScale,
@@ -70,6 +71,8 @@ template <class Gizmo, class Table>
 void configureAnchored(Gizmo& gizmo, const Table& calls, Stage& stage, Bytes& bytes)
 {
     const osg::Pnt3f place(bytes.flag() ? bytes.plain3() : bytes.number3());
+    gizmo.setGrabsPicture(bytes.flag());
+    gizmo.setPivotsAtHandles(bytes.flag());
     switch (bytes.next() % 8) {
     case 0:
     case 1:

@@ -103,7 +103,12 @@ constexpr SwitchRow kSwitchRows[] = {
     { "uv", "texture.uvKeepAspect", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Keep aspect") },
     { "triplanar", "texture.ringsTilted",
       QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Turn rings seen edge-on") },
+    { "uv", "texture.pivotAtHandles",
+      QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Turn about the handles") },
+    { "triplanar", "texture.pivotAtHandles",
+      QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Turn about the handles") },
     { "tire", "texture.tireFit", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Fit to the object") },
+    { "", "texture.grabPicture", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Grab the picture") },
     { "", "texture.mask", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Picture is a mask") },
     { "", "texture.invert", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Invert") },
 };

@@ -254,6 +254,11 @@ void addHandles(const Owner& owner)
         return true;
     });
     commands.addValue(named("handleSize"), [&tool] { return tool.handleSize().present; });
+    TextureGizmos& gizmos = tool.allGizmos();
+    addOwn(owner, "grabPicture", gizmos, &TextureGizmos::setGrabsPicture,
+           &TextureGizmos::grabsPicture);
+    addOwn(owner, "pivotAtHandles", gizmos, &TextureGizmos::setPivotsAtHandles,
+           &TextureGizmos::pivotsAtHandles);
     addOwn(owner, "uvKeepAspect", tool.allGizmos().uvGizmo(), &UvGizmo::setKeepAspectRatio,
            &UvGizmo::getKeepAspectRatio);
     addOwn(owner, "ringsTilted", tool.allGizmos().triplanarGizmo(), &Triplanar::setRingsTilted,

@@ -27,6 +27,8 @@ class TextureTool;
 ///   the first three are fitted to the object, until one of them is set;
 /// - anchor PLACE, of the view as steps of sessions have it: puts the handles there;
 /// - handleSize NUMBER, in units of the handles in use;
+/// - grabPicture BOOL: a press on the picture grabs it; pivotAtHandles BOOL: turns and scales are
+///   about the handles;
 /// - uvKeepAspect BOOL: the scale handles of u and v scale both; ringsTilted BOOL: rings of the
 ///   triplanar handles that are seen edge-on are turned to the eye for a drag.
 /// Each is a value of the same name, except drop; picture is the name of the file alone, anchor is

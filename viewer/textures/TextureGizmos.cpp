@@ -71,6 +71,8 @@ TextureGizmos::TextureGizmos(const std::string& receiver, const osg::NodePtr& ro
     for (const Kind& each : kinds) {
         each.gizmo->setVisualisationRoot(root);
     }
+    setGrabsPicture(true);
+    setPivotsAtHandles(true);
 }
 
 TextureGizmos::~TextureGizmos()
@@ -119,6 +121,19 @@ void TextureGizmos::setAnchor(const osg::NodePtr& node, const osg::Pnt3f& place)
     triplanar.setAnchor(node, place);
     uv.setAnchor(node, place);
     tire.setAnchor(node, place);
+}
+
+void TextureGizmos::setGrabsPicture(bool on)
+{
+    planar.setGrabsPicture(on);
+    triplanar.setGrabsPicture(on);
+    uv.setGrabsPicture(on);
+}
+
+void TextureGizmos::setPivotsAtHandles(bool on)
+{
+    triplanar.setPivotsAtHandles(on);
+    uv.setPivotsAtHandles(on);
 }
 
 bool TextureGizmos::hasGroup(const std::string& word) const

@@ -67,6 +67,16 @@ public:
     /// Shows one that it has.
     void showGroup(const std::string& word);
 
+    /// Whether a press on the picture grabs it, and whether it turns and grows about where the
+    /// handles stand; see TextureFace. Both are so at the start.
+    void setGrabsPicture(bool on);
+
+    bool grabsPicture() const { return planar.grabsPicture(); }
+
+    void setPivotsAtHandles(bool on);
+
+    bool pivotsAtHandles() const { return uv.pivotsAtHandles(); }
+
     /// Places the handles of the gizmo in use anew.
     void place();
     /// The same after an edit, as far as it matters to them.

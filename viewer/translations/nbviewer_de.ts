@@ -1062,6 +1062,14 @@
         <source>&quot;%1&quot; has no texture coordinates, so the picture is not seen</source>
         <translation>„%1“ hat keine Texturkoordinaten, daher ist das Bild nicht zu sehen</translation>
     </message>
+    <message>
+        <source>Turn about the handles</source>
+        <translation>Um die Griffe drehen</translation>
+    </message>
+    <message>
+        <source>Grab the picture</source>
+        <translation>Bild greifen</translation>
+    </message>
 </context>
 <context>
     <name>viewer::NumberBox</name>

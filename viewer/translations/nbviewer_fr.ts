@@ -1062,6 +1062,14 @@
         <source>&quot;%1&quot; has no texture coordinates, so the picture is not seen</source>
         <translation>« %1 » n&apos;a pas de coordonnées de texture, l&apos;image n&apos;est donc pas visible</translation>
     </message>
+    <message>
+        <source>Turn about the handles</source>
+        <translation>Tourner autour des poignées</translation>
+    </message>
+    <message>
+        <source>Grab the picture</source>
+        <translation>Saisir l’image</translation>
+    </message>
 </context>
 <context>
     <name>viewer::NumberBox</name>

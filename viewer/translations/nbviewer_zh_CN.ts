@@ -1060,6 +1060,14 @@
         <source>&quot;%1&quot; has no texture coordinates, so the picture is not seen</source>
         <translation>“%1”没有纹理坐标，因此看不到图片</translation>
     </message>
+    <message>
+        <source>Turn about the handles</source>
+        <translation>绕手柄旋转</translation>
+    </message>
+    <message>
+        <source>Grab the picture</source>
+        <translation>抓取图片</translation>
+    </message>
 </context>
 <context>
     <name>viewer::NumberBox</name>

@@ -62,9 +62,10 @@ bool ScenePicking::pick(const osg::NodePtr& root, const PickView& view, const Sc
     }
     osg::Pnt3f place;
     found.item->localFromWorld.multMatrixPnt(hit.point, place);
-    hit.normal = transformNormal(
-        found.item->worldFromLocal,
-        surfaceNormal(osg::GeometryPtr::dcast(hit.node->getCore()), found.local, place));
+    const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(hit.node->getCore());
+    hit.normal =
+        transformNormal(found.item->worldFromLocal, surfaceNormal(geometry, found.local, place));
+    hit.texCoord = surfaceTexCoord(geometry, found.local, place);
     return true;
 }
 

@@ -3,6 +3,7 @@
 
 #include <OpenSG/OSGNode.h>
 
+#include <optional>
 #include <vector>
 
 #include "ItemTree.h"
@@ -17,6 +18,7 @@ struct SceneHit
     osg::NodePtr node;
     osg::Pnt3f point;  ///< world space
     osg::Vec3f normal;  ///< world space, unit length
+    std::optional<osg::Vec2f> texCoord;  ///< nothing for a geometry without
 };
 
 /// Picks the geometry of a scene from a flat list of what is drawn in it, which follows the scene's

@@ -3,6 +3,8 @@
 
 #include <OpenSG/OSGGeometry.h>
 
+#include <optional>
+
 #include "PickTree.h"
 
 namespace nbec::interaction::detail {
@@ -14,5 +16,10 @@ namespace nbec::interaction::detail {
 /// @return in that frame, any length
 osg::Vec3f surfaceNormal(const osg::GeometryPtr& geometry, const TreeHit& hit,
                          const osg::Pnt3f& place);
+
+/// First texture coordinates at that place, those of the corners mixed; nothing where they have
+/// none.
+std::optional<osg::Vec2f> surfaceTexCoord(const osg::GeometryPtr& geometry, const TreeHit& hit,
+                                          const osg::Pnt3f& place);
 
 }  // namespace nbec::interaction::detail

@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+// How the planar gizmo drags the picture itself.
+#include "manipulator/drag/DragGeometry.h"
+#include "manipulator/texture/PlanarGizmo.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace nbec::manipulator::texture {
+
+using Active = PlanarActiveMode;
+using Kind = DragParameters::Kind;
+
+/// Null if there is none or it is not finite.
+osg::Transform3DPtr PlanarGizmo::projection() const
+{
+    constexpr std::size_t kMatrixElements = 16;
+    const osg::ColorComponentSettingsPtr material = component.getSettings();
+    const osg::Transform3DPtr present =
+        material != osg::NullFC ? material->getPlanarProjection() : osg::Transform3DPtr();
+    const bool isFinite = present != osg::NullFC &&
+        std::all_of(present->getMatrix().getValues(),
+                    present->getMatrix().getValues() + kMatrixElements,
+                    [](float value) { return std::isfinite(value); });
+    return isFinite ? present : osg::Transform3DPtr();
+}
+
+void PlanarGizmo::capturePicture(const View& view)
+{
+    const osg::Matrix axes = frame.worldFromAxes();
+    const osg::Vec3f front = column(axes, 0).cross(column(axes, 1));
+    turnSense = front.dot(view.sightAt(grabbed->world)) < 0.0F ? 1.0F : -1.0F;
+    const osg::Transform3DPtr present = projection();
+    const osg::Vec3f centre =
+        present != osg::NullFC ? column(present->getMatrix(), 3) : osg::Vec3f();
+    pivot = rotated(frame.rotation.inverse(), grabbed->inSurface() - centre);
+    pivot[2] = 0.0F;
+}
+
+/// The handle that does the same as the armed one: of the picture that of its mode.
+Active PlanarGizmo::actingHandle() const
+{
+    if (!holdsPicture()) {
+        return getActiveMode();
+    }
+    switch (armedRow()->action.kind) {
+    case Kind::Angle:
+        return Active::Rotate;
+    case Kind::Factor:
+        return Active::ScaleUniform;
+    default:
+        return Active::TranslateXY;
+    }
+}
+
+HandleAction PlanarGizmo::pictureAction() const
+{
+    switch (static_cast<PlanarManipulatorMode>(getMode())) {
+    case PlanarManipulatorMode::Rotate:
+        return { Kind::Angle, axisBit(2) };
+    case PlanarManipulatorMode::Scale:
+        return { Kind::Factor, kAllAxes };
+    default:
+        return { Kind::Offset, axisBit(0) | axisBit(1) };
+    }
+}
+
+bool PlanarGizmo::isPictureAt(const SurfacePlace& place) const
+{
+    using Settings = osg::ColorComponentSettings;
+    const osg::ColorComponentSettingsPtr shown = component.getSettings();
+    const osg::Transform3DPtr present = projection();
+    if (present == osg::NullFC) {
+        return false;
+    }
+    const osg::Pnt3f inPicture =
+        mapped(inverted(present->getMatrix()), osg::Pnt3f(place.inSurface()));
+    const auto isInside = [&](osg::UInt32 axis, Settings::PlanarProjectionFlag repeats) {
+        return std::abs(inPicture[axis]) <= 1.0F || shown->hasPlanarProjectionFlag(repeats);
+    };
+    constexpr float kEndSlack = 0.001F;
+    return isInside(0, Settings::RepeatU) && isInside(1, Settings::RepeatV) &&
+        (!shown->hasPlanarProjectionFlag(Settings::ClampZ) ||
+         std::abs(inPicture.z() + 0.5F) <= 0.5F + kEndSlack);
+}
+
+osg::Vec3f PlanarGizmo::pictureOffset(const SurfacePlace& from, const SurfacePlace& to) const
+{
+    osg::Vec3f way = rotated(drag.frame.rotation.inverse(), to.inSurface() - from.inSurface());
+    way[2] = 0.0F;
+    return way;
+}
+
+}  // namespace nbec::manipulator::texture

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#include "manipulator/texture/TextureGizmo.h"
+
+#include "manipulator/texture/TextureModes.h"
+
+#include <nbKernel/nbOSGWidget.h>
+
+#include <cmath>
+#include <utility>
+
+namespace nbec::manipulator::texture {
+
+using Kind = DragParameters::Kind;
+
+TextureGizmo::TextureGizmo(const CourseRules& courseRules, const HandleTable& table,
+                           HandleSet::Materials materials, int startMode, const float& size)
+    : Gizmo(courseRules, table, std::move(materials), startMode, size)
+    , surface(std::make_shared<PictureSurface>())
+    , pictureRow { "picture", kPictureHandle, -1, {} }
+{ }
+
+int TextureGizmo::grabBeside(osg::Pnt3f& place)
+{
+    const osg::UberMaterialPtr material = component.getUberMaterial();
+    pictureRow.action = pictureAction();
+    if (!grabsPicture || pictureRow.action.kind == Kind::None || material == osg::NullFC ||
+        material->getImage(component.getName()) == osg::NullFC) {
+        return 0;
+    }
+    pressed = View().getPointer();
+    grabbed = surfaceAt(pressed);
+    if (!grabbed || !isPictureAt(*grabbed)) {
+        return 0;
+    }
+    place = grabbed->world;
+    return kPictureHandle;
+}
+
+const HandleRow* TextureGizmo::armedRow() const
+{
+    return holdsPicture() ? &pictureRow : Gizmo::armedRow();
+}
+
+bool TextureGizmo::holdsPicture() const
+{
+    return getArmed() == kPictureHandle;
+}
+
+DragStep TextureGizmo::pictureStep(const View& view, const DragTrack& before) const
+{
+    constexpr float kDegPerPixel = 0.5F;
+    constexpr float kPixelsPerDoubling = 150.0F;
+    const Kind kind = pictureRow.action.kind;
+    if (kind == Kind::Offset) {
+        const std::optional<SurfacePlace> now = surfaceAt(view.getPointer());
+        return now ? DragStep({ kind, pictureOffset(*grabbed, *now) }, before) : DragStep();
+    }
+    const osg::Vec2f way =
+        (view.getPointer() - pressed) * (1.0F / nbOSGWidget::getPixelRatio(-1, 1.0F));
+    return { { kind,
+               kind == Kind::Angle ? -turnSense * kDegPerPixel * way.x()
+                                   : std::exp2((way.x() - way.y()) / kPixelsPerDoubling) },
+             before };
+}
+
+}  // namespace nbec::manipulator::texture
