@@ -12,22 +12,18 @@ namespace nbec::manipulator {
 
 namespace {
 
-void attach(const osg::NodePtr& root, const osg::NodePtr& visualisation, osg::BitVector mask)
+/// Hangs a visualisation below a root or takes it off, if both exist.
+void hang(bool on, const osg::NodePtr& root, const osg::NodePtr& visualisation)
 {
     if (root == osg::NullFC || visualisation == osg::NullFC) {
         return;
     }
-    const nbEdit edit(root, mask);
-    root->addChild(visualisation);
-}
-
-void detach(const osg::NodePtr& root, const osg::NodePtr& visualisation)
-{
-    if (root == osg::NullFC || visualisation == osg::NullFC) {
-        return;
+    const nbEdit edit(root, osg::Node::ChildrenFieldMask);
+    if (on) {
+        root->addChild(visualisation);
+    } else {
+        root->subChild(visualisation);
     }
-    const nbEdit edit(root, osg::FieldBits::AllFields);
-    root->subChild(visualisation);
 }
 
 }  // namespace
@@ -38,7 +34,7 @@ void AbstractManipulator::activate(ManipulatorInteractionContext* /*ctx*/)
         return;
     }
     active = true;
-    attach(getVisualisationRoot(), getVisualisation(), osg::Node::ChildrenFieldMask);
+    hang(true, getVisualisationRoot(), getVisualisation());
 }
 
 void AbstractManipulator::deactivate(ManipulatorInteractionContext* /*ctx*/)
@@ -47,7 +43,7 @@ void AbstractManipulator::deactivate(ManipulatorInteractionContext* /*ctx*/)
         return;
     }
     active = false;
-    detach(getVisualisationRoot(), getVisualisation());
+    hang(false, getVisualisationRoot(), getVisualisation());
     reenablePreselection();
 }
 
@@ -78,11 +74,11 @@ void AbstractManipulator::setVisualisationRoot(const osg::NodePtr& root)
     if (isActive()) {
         // The visualisation is held by the concrete manipulator, so taking it from the old root
         // does not destroy it.
-        detach(previous, getVisualisation());
+        hang(false, previous, getVisualisation());
     }
     visualisationRoot = root;
     if (isActive()) {
-        attach(root, getVisualisation(), osg::FieldBits::AllFields);
+        hang(true, root, getVisualisation());
     }
 }
 

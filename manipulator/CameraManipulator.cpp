@@ -11,6 +11,7 @@
 #include <nbKernel/nbOSGWidget.h>
 #include <nbOpenSGUberCamera/UberCamera.h>
 #include <nbOpenSGUtils/nbEdit.h>
+#include <nbOpenSGUtils/nbGeoFactory.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
 namespace nbec::manipulator {
@@ -30,7 +31,7 @@ osg::GeometryPtr makeCross()
             ends.back()[axis] = reach;
         }
     }
-    return makeLineGeometry(ends, { 0, 1, 2, 3, 4, 5 });
+    return nbGeoFactory::makeGeo(GL_LINES, ends, { 0, 1, 2, 3, 4, 5 });
 }
 
 osg::SimpleMaterialRefPtr makeMaterial(const osg::Color3f& diffuse, const osg::Color3f& specular,
@@ -63,7 +64,7 @@ osg::NodePtr CameraManipulator::createManipulatorGeo()
     highlightMaterial =
         makeMaterial(osg::Color3f(0.25F, 0.25F, 0.25F), osg::Color3f(1.0F, 1.0F, 1.0F),
                      handleSortKey::kLine, nullptr, 0.01F);
-    geometryNode = makeNode(makeCross());
+    geometryNode = osg::makeNodeFor(makeCross());
     setGeometryMaterial(geometryNode.get(), normalMaterial.get());
     const osg::NodePtr transform = makeTransform3DNode(osg::Vec3f());
     addChild(transform, geometryNode.get());
@@ -133,11 +134,6 @@ void CameraManipulator::setNode(const osg::NodePtr& node)
 }
 
 // == Placement
-
-osg::NodePtr CameraManipulator::resolveTransformNode(const osg::NodePtr& node)
-{
-    return nbNodeUtils::resolveToTransformNode(node);
-}
 
 void CameraManipulator::showForSelection()
 {

@@ -93,8 +93,6 @@ private:
     friend struct Instances<CameraManipulator>;
 
     osg::NodePtr createManipulatorGeo();
-    /// The nearest node upwards that is a transform, null without one.
-    static osg::NodePtr resolveTransformNode(const osg::NodePtr& node);
     void showForSelection();
     void updateManipulator();
     void showAllElements(bool isVisible);

@@ -2,7 +2,8 @@
 #pragma once
 
 #include "manipulator/AbstractManipulator.h"
-#include "manipulator/handles/ContainerReference.h"
+
+#include <nbOpenSGExt/nbContainerId.h>
 
 namespace nbec::manipulator {
 

@@ -3,7 +3,6 @@
 
 #include "manipulator/ManipulatorInteractionContext.h"
 #include "manipulator/course/DragControl.h"
-#include "manipulator/handles/ContainerReference.h"
 #include "manipulator/match/PerspectiveMatchVisualisation.h"
 
 #include <nbKernel/nbOSGWidget.h>
@@ -14,6 +13,7 @@
 #include <nbKernelServices/nbScopedUndo.h>
 #include <nbKernelServices/nbdPerspectiveMatch.h>
 #include <nbMagnifier/nbMagnifierRenderer.h>
+#include <nbOpenSGExt/nbContainerId.h>
 #include <nbOpenSGUberCamera/nbUberCameraPool.h>
 
 #include <QtCore/QCoreApplication>
@@ -277,11 +277,6 @@ nbdCameraNode PerspectiveMatchManipulator::getNbdCameraNode() const
         : nbdCameraNode();
 }
 
-osg::Line2D PerspectiveMatchManipulator::getLine(PerspectiveMatchLine which) const
-{
-    return linesOf(getNbdCameraNode()).lines[match::matchLineIndex(which)];
-}
-
 void PerspectiveMatchManipulator::setLine(PerspectiveMatchLine which, const osg::Line2D& value)
 {
     const nbdCameraNode camera = getNbdCameraNode();
@@ -341,8 +336,9 @@ void PerspectiveMatchManipulator::followView()
 void PerspectiveMatchManipulator::beginDrag(const View& view)
 {
     dragStart = pointerFromBelow(view);
-    lineAtDragStart = getLine(line);
-    getNbdCameraNode().beginMatchDrag();
+    const nbdCameraNode camera = getNbdCameraNode();
+    lineAtDragStart = linesOf(camera).lines[match::matchLineIndex(line)];
+    camera.beginMatchDrag();
     dragging = true;
     drag->begin(view);
 }
@@ -388,10 +384,10 @@ DragParameters PerspectiveMatchManipulator::parametersAt(const View& view) const
     return { DragParameters::Kind::Offset, osg::Vec3f(way.x(), way.y(), 0.0F) };
 }
 
-/// The same with what follows.
+/// Moves what is held to an offset from the drag's start, with all that follows.
 void PerspectiveMatchManipulator::applyNow(const DragParameters& parameters)
 {
-    apply(parameters);
+    setLine(line, movedLine(parameters.vec2()));
     drag->changed(parameters);
     updateMagnifier();
     updateManipulator();
@@ -409,12 +405,6 @@ osg::Line2D PerspectiveMatchManipulator::movedLine(const osg::Vec2f& way) const
         second += way;
     }
     return { first, second };
-}
-
-/// Moves what is held to an offset from the drag's start.
-void PerspectiveMatchManipulator::apply(const DragParameters& parameters)
-{
-    setLine(line, movedLine(parameters.vec2()));
 }
 
 // == Magnifier

@@ -111,7 +111,6 @@ private:
     Q_SLOT void propertyChanged(const nbdObject& object, const QByteArray& property);
     void updateManipulator();
     nbdCameraNode getNbdCameraNode() const;
-    osg::Line2D getLine(PerspectiveMatchLine which) const;
     void setLine(PerspectiveMatchLine which, const osg::Line2D& value);
 
     void beginDrag(const View& view);
@@ -119,7 +118,6 @@ private:
     bool updateMode();
     DragParameters parametersAt(const View& view) const;
     osg::Line2D movedLine(const osg::Vec2f& way) const;
-    void apply(const DragParameters& parameters);
     void applyNow(const DragParameters& parameters);
     void followView();
 

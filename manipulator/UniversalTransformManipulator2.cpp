@@ -38,11 +38,11 @@ void UniversalTransformManipulator2::activate(ManipulatorInteractionContext* ctx
 bool UniversalTransformManipulator2::stopManipulator(ManipulatorInteractionContext* /*ctx*/,
                                                      const std::string& /*hint*/)
 {
+    const ToldLast last(gizmo->listeners);
     const bool isHandled = gizmo->letGo();
     if (isHandled) {
         showActiveManipulator();
     }
-    gizmo->listeners.deliver();
     return isHandled;
 }
 
@@ -51,11 +51,6 @@ bool UniversalTransformManipulator2::setManipulatorMode(const std::string& newMo
     settings._temporary_snapping_active = newMode == "precisionTool";
     // Deliberate: "tool" answers false although it has ended temporary snapping.
     return newMode == "precisionTool" || newMode.empty();
-}
-
-bool UniversalTransformManipulator2::snappingActive() const
-{
-    return course().isSnapping();
 }
 
 void UniversalTransformManipulator2::enableSnapping(bool on)

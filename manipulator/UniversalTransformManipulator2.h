@@ -180,7 +180,6 @@ private:
 
     void activateMode(ManipulatorMode newMode) { gizmo->activateMode(static_cast<int>(newMode)); }
 
-    bool snappingActive() const;
     transform::TransformGizmo& course() const;
 
     static Instances<UniversalTransformManipulator2> instances;

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/nbPlanarProjectionVisualization.h"
 
-#include "manipulator/handles/ContainerReference.h"
 #include "manipulator/handles/HandleMaterials.h"
 #include "manipulator/handles/HandleNodes.h"
 
 #include <nbOpenSGExt/Transform3D.h>
+#include <nbOpenSGExt/nbContainerId.h>
 #include <nbOpenSGUtils/nbEdit.h>
+#include <nbOpenSGUtils/nbGeoFactory.h>
 #include <nbOpenSGUtils/nbImage.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
@@ -96,7 +97,7 @@ osg::NodePtr makeLines(std::initializer_list<float> heights, const std::vector<o
                        { osg::Pnt3f(-1.0F, -1.0F, z), osg::Pnt3f(1.0F, -1.0F, z),
                          osg::Pnt3f(1.0F, 1.0F, z), osg::Pnt3f(-1.0F, 1.0F, z) });
     }
-    const osg::NodePtr lines = makeNode(makeLineGeometry(corners, edges));
+    const osg::NodePtr lines = osg::makeNodeFor(nbGeoFactory::makeGeo(GL_LINES, corners, edges));
     setGeometryMaterial(lines, material);
     return lines;
 }
@@ -112,7 +113,7 @@ osg::NodePtr makeZExtentTransform()
     core->setTranslation(end);
     core->setRotationOrientation(halfTurn);
     core->setScalePivot(end);
-    return makeNode(core);
+    return osg::makeNodeFor(core);
 }
 
 osg::Transform3DPtr transform3DOf(const osg::NodePtr& node)
@@ -153,9 +154,9 @@ nbPlanarProjectionVisualization::nbPlanarProjectionVisualization()
 
 void nbPlanarProjectionVisualization::createGeo()
 {
-    root = makeGroupNode();
+    root = osg::makeCoredNode<osg::Group>();
     nbNodeUtils::setIsAuxiliaryNode(root.get(), true);
-    objectTransformNode = makeNode(osg::Transform::create());
+    objectTransformNode = osg::makeNodeFor(osg::Transform::create());
     projectionTransformNode = makeTransform3DNode(osg::Vec3f());
     transform2DNode = makeTransform3DNode(osg::Vec3f());
     zExtentTransformNode = makeZExtentTransform();

@@ -2,13 +2,13 @@
 #include "manipulator/nbSceneplatePickTool.h"
 
 #include "manipulator/course/PickerOf.h"
-#include "manipulator/handles/ContainerReference.h"
 
 #include <nbInteraction/Picker.h>
 #include <nbInteraction/ToolInteractionContext.h>
 #include <nbKernel/nbController.h>
 #include <nbKernel/nbOSGWidget.h>
 #include <nbKernel/nbScenegraph.h>
+#include <nbOpenSGExt/nbContainerId.h>
 #include <nbUtils/nbMessage.h>
 
 #include <vector>
@@ -88,7 +88,7 @@ bool nbSceneplatePickTool::stopHoverTool(ToolInteractionContext* /*context*/,
 
 osg::SceneplatePtr nbSceneplatePickTool::getSceneplate() const
 {
-    return nbec::manipulator::resolveContainer<osg::SceneplatePtr>(sceneplateId);
+    return resolveContainer<osg::SceneplatePtr>(sceneplateId);
 }
 
 // == Preselection and selection

@@ -30,9 +30,9 @@ struct DragLimits
     double most;
 };
 
-/// What every manipulator offers of a drag beside its events: taking it back, listeners, typed
-/// numbers, fine motion, limits, and the readout. A manipulator's class says how its start and
-/// parameters are applied, and tells when a drag begins, changes and ends.
+/// What every manipulator offers of a drag beside its events, for the operations of
+/// AbstractManipulator with the same names. A manipulator's class says how its start and parameters
+/// are applied, and tells when a drag begins, changes and ends.
 class NB_MANIPULATOR_API DragControl
 {
 public:
@@ -43,30 +43,23 @@ public:
     /// is a cancelled one. @return whether there is a drag
     bool takeBack();
 
-    /// See AbstractManipulator::typeKey().
     TypedKey typeKey(QChar key);
 
-    /// Whether a number is being typed; the pointer changes nothing meanwhile.
+    /// The pointer changes nothing meanwhile.
     bool isTyping() const { return typed.isActive(); }
 
-    /// While on the pointer counts for a tenth; it does not jump when that is switched.
     void setFineMotion(bool on) { isFine = on; }
 
-    /// Keeps each number of a handle's parameters that it changes within a range; offsets along an
-    /// axis, angles in degrees, factors and so on, see DragParameters::Kind.
+    /// Each number of its parameters that the handle changes, see DragParameters::Kind.
     void setLimits(int handle, const DragLimits& limits) { limitsOf[handle] = limits; }
 
     void clearLimits(int handle) { limitsOf.erase(handle); }
 
-    /// Shows or hides a handle in every mode. @return false for an unknown name
     virtual bool setHandleVisible(const std::string& /*name*/, bool /*on*/) { return false; }
 
-    /// What the drag has come to, see describeDrag(), or what is being typed; translated.
-    /// Empty without a drag.
+    /// See describeDrag(); empty without a drag.
     QString getReadout() const;
 
-    /// Shows the readout beside the pointer during drags, with a notifier "dragReadout".
-    /// @param ratio  device pixels per logical pixel of a view that does not tell it, > 0
     void setReadoutShown(bool on, float ratio)
     {
         isReadoutShown = on;

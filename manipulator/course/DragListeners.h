@@ -76,4 +76,21 @@ private:
     std::shared_ptr<State> state;
 };
 
+/// Has listeners told of what an event did, the last thing before its answer.
+class ToldLast
+{
+public:
+    explicit ToldLast(DragListeners& ofEvent)
+        : listeners(ofEvent)
+    { }
+
+    ToldLast(const ToldLast&) = delete;
+    ToldLast& operator=(const ToldLast&) = delete;
+
+    ~ToldLast() { listeners.deliver(); }
+
+private:
+    DragListeners& listeners;
+};
+
 }  // namespace nbec::manipulator

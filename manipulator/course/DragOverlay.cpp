@@ -5,6 +5,7 @@
 #include "manipulator/handles/HandleNodes.h"
 
 #include <nbOpenSGUtils/nbEdit.h>
+#include <nbOpenSGUtils/nbGeoFactory.h>
 
 #include <OpenSG/OSGGL.h>
 #include <OpenSG/OSGTransform.h>
@@ -31,16 +32,13 @@ constexpr double kRadPerDeg = 3.14159265358979324 / 180.0;
 constexpr float kTickPart = 0.08F;
 constexpr float kAxisUnits = 1.8F;  ///< half of the axis of a free turn
 
-bool& isShownNow()
-{
-    static bool isShown = false;
-    return isShown;
-}
+bool isShown = false;
 
 /// A geometry with room for points of which none is drawn.
 osg::GeometryPtr makeDrawn(osg::UInt8 type, osg::UInt32 room, int sortKey, float transparency)
 {
-    const osg::GeometryPtr geometry = makeLineGeometry(std::vector<osg::Pnt3f>(room));
+    const osg::GeometryPtr geometry =
+        nbGeoFactory::makeGeo(GL_LINES, std::vector<osg::Pnt3f>(room));
     const LineChunks chunks = makeLineChunks();
     const nbEdit typesEdit(geometry->getTypes(), osg::FieldBits::AllFields);
     const nbEdit lengthsEdit(geometry->getLengths(), osg::FieldBits::AllFields);
@@ -64,12 +62,12 @@ void setCount(const osg::GeometryPtr& geometry, osg::UInt32 count)
 
 void setDragOverlayShown(bool on)
 {
-    isShownNow() = on;
+    isShown = on;
 }
 
 bool isDragOverlayShown()
 {
-    return isShownNow();
+    return isShown;
 }
 
 void DragOverlay::build(const osg::NodePtr& parent)
@@ -77,10 +75,10 @@ void DragOverlay::build(const osg::NodePtr& parent)
     constexpr osg::UInt32 kEnds = 2 * (2 + kMostTicks + kMostDashes);
     lines = makeDrawn(GL_LINES, kEnds, kLineSortKey, kTraceOfTransparency);
     sector = makeDrawn(GL_TRIANGLES, 3 * kPieces, kFillSortKey, kFillTransparency);
-    node = makeNode(osg::Transform::create());
-    addChild(node.get(), makeNode(sector));
-    addChild(node.get(), makeNode(lines));
-    ghost = makeGroupNode();
+    node = osg::makeNodeFor(osg::Transform::create());
+    addChild(node.get(), osg::makeNodeFor(sector));
+    addChild(node.get(), osg::makeNodeFor(lines));
+    ghost = osg::makeCoredNode<osg::Group>();
     addChild(node.get(), ghost);
     addChild(parent, node.get());
 }
@@ -93,7 +91,7 @@ void DragOverlay::buildGhost()
         ghost->subChild(0U);
     }
     for (const osg::NodePtr& part : start.parts) {
-        const osg::NodePtr place = makeNode(osg::Transform::create());
+        const osg::NodePtr place = osg::makeNodeFor(osg::Transform::create());
         const osg::NodePtr copy = makeSharingNode(osg::GeometryPtr::dcast(part->getCore()));
         setMatrix(place, part->getToWorld());
         setGeometryMaterial(copy, sector->getMaterial());

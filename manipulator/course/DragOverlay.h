@@ -46,7 +46,6 @@ public:
     { }
 
     DragOverlay& operator=(const DragOverlay&) = delete;
-    ~DragOverlay() = default;
 
     /// Nothing is drawn before the first show(). @param parent  of its nodes, which are made with
     /// the first drag; not null

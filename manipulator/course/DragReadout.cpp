@@ -2,6 +2,7 @@
 #include "manipulator/course/DragReadout.h"
 
 #include "manipulator/course/TypedValues.h"
+#include "manipulator/course/ValueText.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QStringList>
@@ -16,16 +17,6 @@ using Kind = DragParameters::Kind;
 
 constexpr int kAngleDecimals = 1;
 constexpr int kFactorDecimals = 2;
-
-QString number(double value, int decimals, bool isSigned)
-{
-    QString text = QString::number(value, 'f', decimals);
-    const bool isNothing = text.toDouble() == 0.0;
-    if (isNothing && text.startsWith(QLatin1Char('-'))) {
-        text.remove(0, 1);
-    }
-    return isSigned && value > 0.0 && !isNothing ? QLatin1Char('+') + text : text;
-}
 
 QString translated(const char* text)
 {
@@ -55,8 +46,12 @@ QString listed(const HandleAction& action, const Function& textOf)
 QString numbers(const HandleAction& action, const DragParameters& parameters, int decimals,
                 bool isSigned)
 {
-    return listed(action,
-                  [&](std::size_t i) { return number(parameters.values[i], decimals, isSigned); });
+    return listed(action, [&](std::size_t i) {
+        const double value = parameters.values[i];
+        const QString text = describeNumber(value, decimals);
+        const bool isMore = isSigned && value > 0.0 && text.toDouble() != 0.0;
+        return isMore ? QLatin1Char('+') + text : text;
+    });
 }
 
 /// Whole turns are told apart, as "765.0 = 2 x 360 + 45.0".
@@ -64,13 +59,13 @@ QString turn(double degrees)
 {
     constexpr double kWholeTurn = 360.0;
     const double whole = std::trunc(degrees / kWholeTurn);
-    const QString text = number(degrees, kAngleDecimals, false);
+    const QString text = describeNumber(degrees, kAngleDecimals);
     const double rest = degrees - whole * kWholeTurn;
     return whole == 0.0
         ? text
         : QStringLiteral("%1 = %2 x 360 %3 %4")
-              .arg(text, number(whole, 0, false), QLatin1String(rest < 0.0 ? "-" : "+"),
-                   number(std::abs(rest), kAngleDecimals, false));
+              .arg(text, describeNumber(whole, 0), QLatin1String(rest < 0.0 ? "-" : "+"),
+                   describeNumber(std::abs(rest), kAngleDecimals));
 }
 
 QString withUnit(const char* unit, const QString& value)
@@ -86,13 +81,13 @@ QString present(const HandleAction& action, const DragParameters& value, int dec
     case Kind::Offset:
         return listed(action, [&](std::size_t i) {
             return axisName(action, i) + QLatin1Char(' ') +
-                number(value.values[i], decimals, false);
+                describeNumber(value.values[i], decimals);
         });
     case Kind::Angle:
-        return withUnit(kDegrees, number(value.values[0], kAngleDecimals, false));
+        return withUnit(kDegrees, describeNumber(value.values[0], kAngleDecimals));
     case Kind::Factor:
         return listed({ Kind::Offset, action.axes }, [&](std::size_t i) {
-            return number(value.values[i], kFactorDecimals, false);
+            return describeNumber(value.values[i], kFactorDecimals);
         });
     default:
         return QString();
@@ -111,7 +106,7 @@ QString change(const HandleAction& action, const DragParameters& parameters, int
     case Kind::Turns:
         return withUnit("%1 deg", numbers(action, parameters, kAngleDecimals, false));
     case Kind::Factor:
-        return QStringLiteral("x ") + number(parameters.values[0], kFactorDecimals, false);
+        return QStringLiteral("x ") + describeNumber(parameters.values[0], kFactorDecimals);
     case Kind::HalfSizes:
     case Kind::Length:
         return numbers(action, parameters, decimals, false);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/course/Gizmo.h"
 
+#include "manipulator/course/HandleFading.h"
 #include "manipulator/course/ValueText.h"
 #include "manipulator/drag/DragGeometry.h"
 #include "manipulator/handles/HandleNodes.h"
@@ -23,8 +24,6 @@ Gizmo::Gizmo(const CourseRules& courseRules, const HandleTable& table,
 {
     handles.show(mode, 0);
 }
-
-Gizmo::~Gizmo() = default;
 
 // == Events
 
@@ -75,20 +74,9 @@ bool Gizmo::reset()
     return true;
 }
 
-/// Has listeners told of an event, the last thing that it does. @return its answer
-bool Gizmo::told(bool answer)
-{
-    listeners.deliver();
-    return answer;
-}
-
 bool Gizmo::start(interaction::Picker* picker)
 {
-    return told(startEvent(picker));
-}
-
-bool Gizmo::startEvent(interaction::Picker* picker)
-{
+    const ToldLast last(listeners);
     if (isHeld()) {
         endDrag();  // whose stop was lost
     }
@@ -118,11 +106,7 @@ bool Gizmo::startEvent(interaction::Picker* picker)
 
 bool Gizmo::process(const View& view)
 {
-    return told(processEvent(view));
-}
-
-bool Gizmo::processEvent(const View& view)
-{
+    const ToldLast last(listeners);
     endLostPause();
     if (armed == 0 || !canStep(view)) {
         return false;
@@ -176,8 +160,7 @@ void Gizmo::beginOverlay(const HandleRow& row, const View& view)
     from.action = row.action;
     from.centre = centreOfDrag();
     from.grabbed = grabbedPoint;
-    const unsigned axes = row.action.axes;
-    from.axis = handles.axisOf(row, hasAxis(axes, 0) ? 0 : hasAxis(axes, 1) ? 1 : 2);
+    from.axis = handles.axisOf(row, firstAxis(row.action.axes));
     from.sight = view.sightAt(from.centre);
     from.unit = column(handles.getRoot()->getToWorld(), 0).length();
     from.tickDeg = turnStepDeg();
@@ -283,11 +266,7 @@ bool Gizmo::letGo()
 
 bool Gizmo::stop()
 {
-    return told(stopEvent());
-}
-
-bool Gizmo::stopEvent()
-{
+    const ToldLast last(listeners);
     if (!letGo()) {
         return false;
     }
@@ -360,11 +339,6 @@ void Gizmo::showActive()
     placeIn(View());
 }
 
-void Gizmo::hide()
-{
-    handles.showRoot(false);
-}
-
 void Gizmo::vanish()
 {
     if (rules.isHiddenWithoutTarget) {
@@ -420,7 +394,7 @@ void Gizmo::placeIn(const View& view)
     handles.takePalette();
     const osg::glue::EditsForOneView placing(watch.isForOtherView());
     place(view);
-    if (looks.adapt(handles, view, mode, isHeld() ? armed : 0)) {
+    if (adaptToView(handles, view, mode, isHeld() ? armed : 0)) {
         handles.show(mode, isHeld() ? armed : 0);
     }
     watch.placed();

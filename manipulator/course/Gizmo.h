@@ -3,7 +3,6 @@
 
 #include "manipulator/course/DragControl.h"
 #include "manipulator/course/DragOverlay.h"
-#include "manipulator/course/HandleLooks.h"
 #include "manipulator/course/PlacementWatch.h"
 #include "manipulator/course/PreviewPause.h"
 #include "manipulator/handles/HandleSet.h"
@@ -60,8 +59,6 @@ struct CourseRules
 class NB_MANIPULATOR_API Gizmo : public DragControl
 {
 public:
-    ~Gizmo() override;
-
     Gizmo& operator=(const Gizmo&) = delete;
 
     // == Events. Each answers as the operation of Manipulator with its name.
@@ -86,7 +83,9 @@ public:
 
     /// Shows what the mode shows and places it; hides all without something to edit.
     virtual void showActive();
-    void hide();
+
+    void hide() { handles.showRoot(false); }
+
     /// Shows another mode in its idle colours and places the gizmo.
     void activateMode(int newMode);
 
@@ -226,10 +225,6 @@ private:
     bool changeAxis(std::size_t axis) override;
 
     int detect(interaction::Picker* picker);
-    bool startEvent(interaction::Picker* picker);
-    bool processEvent(const View& view);
-    bool stopEvent();
-    bool told(bool answer);
     bool begin(const View& view);
     void step(const View& view);
     void release();
@@ -242,7 +237,6 @@ private:
     const float* classSize;
     int mode;
     int armed = 0;
-    HandleLooks looks;
     DragOverlay overlay;
     bool grabbed = false;
     bool prepared = false;

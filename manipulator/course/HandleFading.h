@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "manipulator/course/View.h"
 #include "manipulator/handles/HandleSet.h"
 #include "manipulator/nbManipulatorExport.h"
 
@@ -34,5 +35,14 @@ struct HandleFading
 /// @return false, and nothing is set, unless 0 <= gone < full <= 1 for both and 0 < ringBack <= 1
 NB_MANIPULATOR_API bool setHandleFading(const HandleFading& fading);
 NB_MANIPULATOR_API const HandleFading& getHandleFading();
+
+/// Rank of a handle under the pointer by how it is seen: those whose motion can be seen come first,
+/// then what points at the viewer and planes seen edge-on, then rings seen edge-on, which lie over
+/// the arrows, then what lies behind all others.
+int rankSeen(const HandleSet& handles, const osg::NodePtr& part, const View& view);
+
+/// Adapts handles to the view as far as they follow it: by fading, letters and the backs of rings.
+/// @param held  which never fades; 0 for none @return whether handles come or go
+bool adaptToView(HandleSet& handles, const View& view, int mode, int held);
 
 }  // namespace nbec::manipulator

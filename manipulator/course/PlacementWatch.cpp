@@ -70,7 +70,7 @@ bool PlacementWatch::isSeenOtherwise(const View& view) const
     osg::Pnt3f from;
     osg::Pnt3f at;
     osg::Vec3f up;
-    view.getFromAtUp(from, at, up);
+    nbOSGWidget::getFromAtUp(-1, from, at, up);
     return !from.equals(cachedCameraFrom, kTolerance) || !at.equals(cachedCameraAt, kTolerance) ||
         !up.equals(cachedCameraUp, kTolerance) || view.getFov() != cachedFov ||
         orthographicSize(view) != cachedOrthoSize;
@@ -84,7 +84,7 @@ void PlacementWatch::remember(const osg::Matrix& target)
 
 void PlacementWatch::remember(const View& view)
 {
-    view.getFromAtUp(cachedCameraFrom, cachedCameraAt, cachedCameraUp);
+    nbOSGWidget::getFromAtUp(-1, cachedCameraFrom, cachedCameraAt, cachedCameraUp);
     cachedFov = view.getFov();
     cachedOrthoSize = orthographicSize(view);
 }

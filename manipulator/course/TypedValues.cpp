@@ -66,16 +66,6 @@ bool TypedValues::add(QChar key)
     return true;
 }
 
-void TypedValues::removeLast()
-{
-    texts[current].chop(1);
-}
-
-void TypedValues::goToNext(std::size_t count)
-{
-    current = (current + 1) % count;
-}
-
 std::optional<DragParameters> TypedValues::in(const DragParameters& dragged,
                                               const HandleAction& action)
 {

@@ -30,9 +30,11 @@ public:
 
     /// Takes a character of an expression, see nbValueExpression. @return false for another one
     bool add(QChar key);
-    void removeLast();
+
+    void removeLast() { texts[current].chop(1); }
+
     /// Goes on to the next number. @param count  of numbers that can be typed
-    void goToNext(std::size_t count);
+    void goToNext(std::size_t count) { current = (current + 1) % count; }
 
     void clear() { *this = TypedValues(); }
 

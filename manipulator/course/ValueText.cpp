@@ -50,13 +50,6 @@ float viewAspect()
         static_cast<float>(widget->getWidth()) / static_cast<float>(widget->getHeight()), 1.0F);
 }
 
-/// Two decimals, halves rounded as printf does. What rounds to zero has no sign.
-QString number(double value)
-{
-    const QString text = QString::number(value, 'f', kDecimals);
-    return text == QLatin1String("-0.00") ? text.mid(1) : text;
-}
-
 }  // namespace
 
 ValueText::ValueText(const char* notifier)
@@ -99,6 +92,12 @@ void ValueText::put(const QString& text, const osg::Vec2f& place, float edge)
     }
 }
 
+QString describeNumber(double value, int decimals)
+{
+    const QString text = QString::number(value, 'f', decimals);
+    return text.startsWith(QLatin1Char('-')) && text.toDouble() == 0.0 ? text.mid(1) : text;
+}
+
 QString describeValues(const char* title, const osg::Vec3f& values)
 {
     return describeValues(title, { values.x(), values.y(), values.z() });
@@ -113,7 +112,7 @@ QString describeValues(const char* title, std::initializer_list<float> values)
             text += QLatin1String(", ");
         }
         isFirst = false;
-        text += number(static_cast<double>(value));
+        text += describeNumber(static_cast<double>(value), kDecimals);
     }
     text += QLatin1Char(')');
     return text;

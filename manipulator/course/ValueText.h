@@ -40,7 +40,11 @@ private:
     notification::TextNotification* shown = nullptr;
 };
 
-/// "title x, y, z)" with two decimals each and ".", whatever the locale.
+/// A number with ".", whatever the locale, halves rounded as printf does. What rounds to zero has
+/// no sign.
+QString describeNumber(double value, int decimals);
+
+/// "title x, y, z)" with two decimals each, see describeNumber().
 /// @param title  untranslated text of the context "nbForegroundTextContext", such as "Scale ("
 NB_MANIPULATOR_API QString describeValues(const char* title, const osg::Vec3f& values);
 

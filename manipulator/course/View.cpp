@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/course/View.h"
 
-#include <nbKernel/nbOSGWidget.h>
 #include <nbOpenSGUberCamera/UberCamera.h>
 #include <nbOpenSGUberCamera/nbCameraNavigation.h>
 #include <nbOpenSGUberCamera/nbUberCameraUtils.h>
@@ -23,11 +22,7 @@ constexpr double kArrowUnits = 2.0;
 /// Index of the main widget.
 constexpr int kMain = -1;
 
-SizePolicy& currentPolicy()
-{
-    static SizePolicy policy;
-    return policy;
-}
+SizePolicy sizePolicy;
 
 float diagonalOf(const osg::UberCameraPtr& camera, ViewDiagonal diagonal)
 {
@@ -63,16 +58,6 @@ View::View(const osg::Pnt2f& pointerPx)
 { }
 
 // == Size and pointer
-
-int View::getWidth() const
-{
-    return widget != nullptr ? widget->getWidth() : 0;
-}
-
-int View::getHeight() const
-{
-    return widget != nullptr ? widget->getHeight() : 0;
-}
 
 osg::Vec2f View::pointerFromBelow() const
 {
@@ -115,34 +100,9 @@ std::optional<osg::Line> View::pointerRay() const
 
 // == Camera
 
-osg::Pnt3f View::getEye() const
-{
-    return nbOSGWidget::getFrom(kMain);
-}
-
-osg::Pnt3f View::getPivot() const
-{
-    return nbOSGWidget::getPivot(kMain);
-}
-
-float View::getFov() const
-{
-    return nbOSGWidget::getFov(kMain);
-}
-
-void View::getFromAtUp(osg::Pnt3f& from, osg::Pnt3f& at, osg::Vec3f& up) const
-{
-    nbOSGWidget::getFromAtUp(kMain, from, at, up);
-}
-
 bool View::isOrthographic() const
 {
     return widget != nullptr && nbUberCameraUtils::isOrthographicCamera(widget->getUberCamera());
-}
-
-bool View::isZUp() const
-{
-    return nbOSGWidget::isCameraZUp();
 }
 
 osg::Vec3f View::sight() const
@@ -150,7 +110,7 @@ osg::Vec3f View::sight() const
     osg::Pnt3f from;
     osg::Pnt3f at;
     osg::Vec3f up;
-    getFromAtUp(from, at, up);
+    nbOSGWidget::getFromAtUp(kMain, from, at, up);
     osg::Vec3f direction = at - from;
     direction.normalize();
     return direction;
@@ -198,14 +158,14 @@ bool setSizePolicy(const SizePolicy& policy)
     const bool isRight = std::isfinite(policy.arrowPx) && policy.arrowPx >= 0.0F &&
         std::isfinite(policy.pixelRatio) && policy.pixelRatio > 0.0F;
     if (isRight) {
-        currentPolicy() = policy;
+        sizePolicy = policy;
     }
     return isRight;
 }
 
 const SizePolicy& getSizePolicy()
 {
-    return currentPolicy();
+    return sizePolicy;
 }
 
 float View::scaleAt(const osg::Pnt3f& anchor, float size, ViewDiagonal diagonal) const

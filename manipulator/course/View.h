@@ -4,13 +4,13 @@
 #include "manipulator/drag/RingDrag.h"
 #include "manipulator/nbManipulatorExport.h"
 
+#include <nbKernel/nbOSGWidget.h>
+
 #include <OpenSG/OSGLine.h>
 #include <OpenSG/OSGQuaternion.h>
 #include <OpenSG/OSGVector.h>
 
 #include <optional>
-
-class nbOSGWidget;
 
 namespace nbec::manipulator {
 
@@ -84,8 +84,9 @@ public:
 
     // == Size and pointer; of a view without a widget 0
 
-    int getWidth() const;
-    int getHeight() const;
+    int getWidth() const { return widget != nullptr ? widget->getWidth() : 0; }
+
+    int getHeight() const { return widget != nullptr ? widget->getHeight() : 0; }
 
     /// Device pixels, y from the top.
     const osg::Pnt2f& getPointer() const { return pointer; }
@@ -99,17 +100,18 @@ public:
 
     // == Camera, world space
 
-    osg::Pnt3f getEye() const;
+    osg::Pnt3f getEye() const { return nbOSGWidget::getFrom(-1); }
+
     /// Point that the camera orbits.
-    osg::Pnt3f getPivot() const;
+    osg::Pnt3f getPivot() const { return nbOSGWidget::getPivot(-1); }
+
     /// Degrees.
-    float getFov() const;
-    void getFromAtUp(osg::Pnt3f& from, osg::Pnt3f& at, osg::Vec3f& up) const;
+    float getFov() const { return nbOSGWidget::getFov(-1); }
+
     bool isOrthographic() const;
-    bool isZUp() const;
 
     /// Axis that points up in the scene: 2 for z, 1 for y.
-    osg::UInt32 upAxis() const { return isZUp() ? 2 : 1; }
+    osg::UInt32 upAxis() const { return nbOSGWidget::isCameraZUp() ? 2 : 1; }
 
     /// From the eye to the point looked at, unit length.
     osg::Vec3f sight() const;

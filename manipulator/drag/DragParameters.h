@@ -74,23 +74,9 @@ struct DragParameters
     bool isExact = false;
 };
 
-/// What a handle changes.
-struct HandleAction
-{
-    DragParameters::Kind kind = DragParameters::Kind::None;
-    /// Bit i for axis i: along it, or about it of a turn. All three for a change of all sides.
-    unsigned axes = 0;
-    bool isOfView = false;  ///< the axes are those of the screen: to the right, up, to the viewer
-
-    /// Whether it moves in, or scales, a plane of two axes.
-    bool isPlane() const
-    {
-        return (kind == DragParameters::Kind::Offset || kind == DragParameters::Kind::Factor) &&
-            (axes == 3 || axes == 5 || axes == 6);
-    }
-};
-
 constexpr unsigned kAllAxes = 7;
+/// What is answered for an axis where there is none.
+constexpr unsigned kNoAxis = 3;
 
 /// The set of one axis. @param axis  0, 1 or 2
 constexpr unsigned axisBit(std::size_t axis)
@@ -102,6 +88,42 @@ constexpr bool hasAxis(unsigned axes, std::size_t axis)
 {
     return (axes >> axis & 1U) != 0;
 }
+
+/// The only axis of a set; kNoAxis of a set with none or several.
+constexpr unsigned onlyAxis(unsigned axes)
+{
+    return axes == 1 || axes == 2 ? axes - 1 : axes == 4 ? 2 : kNoAxis;
+}
+
+/// The first axis of a set; 2 of an empty one.
+constexpr unsigned firstAxis(unsigned axes)
+{
+    return hasAxis(axes, 0) ? 0 : hasAxis(axes, 1) ? 1 : 2;
+}
+
+/// What a handle changes.
+struct HandleAction
+{
+    using Kind = DragParameters::Kind;
+
+    Kind kind = Kind::None;
+    /// Bit i for axis i: along it, or about it of a turn. All three for a change of all sides.
+    unsigned axes = 0;
+    bool isOfView = false;  ///< the axes are those of the screen: to the right, up, to the viewer
+
+    bool isTurn() const { return kind == Kind::Angle || kind == Kind::Turns; }
+
+    /// The one axis along or about which it works, or kNoAxis.
+    unsigned axis() const { return onlyAxis(axes); }
+
+    /// The axis at right angles to the plane in which it moves or scales, or kNoAxis.
+    unsigned planeNormal() const
+    {
+        return kind == Kind::Offset || kind == Kind::Factor ? onlyAxis(kAllAxes & ~axes) : kNoAxis;
+    }
+
+    bool isPlane() const { return planeNormal() != kNoAxis; }
+};
 
 /// What a step of a drag hands on to the next one. Everything else of a drag is captured at its
 /// start and stays.

@@ -15,11 +15,6 @@ constexpr double kWireCosine = 0.3420201433256687;
 constexpr double kFirstStep = 0.02;
 constexpr double kLastStep = 1e-5;
 
-osg::Vec3d toDouble(const osg::Vec3f& vector)
-{
-    return osg::Vec3d(vector.x(), vector.y(), vector.z());
-}
-
 /// Any unit vector at right angles to a unit vector.
 osg::Vec3f anyPerpendicular(const osg::Vec3f& axis)
 {
@@ -66,7 +61,7 @@ std::optional<osg::Pnt3f> RingDrag::follow(const std::optional<osg::Line>& ray,
     DragTrack next = track;
     std::optional<osg::Pnt3f> hit = followPlane(plane(), ray, next);
     if (hit && isWire) {
-        track.bead = beadAt(toDouble(*hit - center), track.bead);
+        track.bead = beadAt(osg::Vec3d(*hit - center), track.bead);
         const osg::Vec3d arm = armAt(track.bead);
         hit = center +
             osg::Vec3f(static_cast<float>(arm.x()), static_cast<float>(arm.y()),
@@ -81,7 +76,7 @@ std::optional<osg::Pnt3f> RingDrag::follow(const std::optional<osg::Line>& ray,
 /// From the centre to the ring's point at an angle from the grabbed one.
 osg::Vec3d RingDrag::armAt(double angle) const
 {
-    return (toDouble(radial) * std::cos(angle) + toDouble(tangent) * std::sin(angle)) *
+    return (osg::Vec3d(radial) * std::cos(angle) + osg::Vec3d(tangent) * std::sin(angle)) *
         static_cast<double>(radius);
 }
 
@@ -89,9 +84,9 @@ osg::Vec3d RingDrag::armAt(double angle) const
 /// ring is seen in it.
 double RingDrag::distanceOnScreen(double angle, const osg::Vec3d& hit) const
 {
-    const osg::Vec3d ahead = toDouble(sight.ahead);
+    const osg::Vec3d ahead = osg::Vec3d(sight.ahead);
     const osg::Vec3d arm = armAt(angle);
-    const osg::Vec3d line = sight.eye ? arm - toDouble(*sight.eye - center) : ahead;
+    const osg::Vec3d line = sight.eye ? arm - osg::Vec3d(*sight.eye - center) : ahead;
     return (arm - line * (ahead.dot(arm) / ahead.dot(line)) - hit).squareLength();
 }
 

@@ -26,7 +26,7 @@ osg::NodePtr makePass(const osg::NodePtr& tree, const osg::DepthTestChunkPtr& de
         const nbEdit edit(core, osg::MaterialGroup::MaterialFieldMask);
         core->setMaterial(material.get());
     }
-    const osg::NodePtr group = addChild(makeNode(core), tree);
+    const osg::NodePtr group = addChild(osg::makeNodeFor(core), tree);
     // Deliberate: both passes bear the same name.
     nbNodeUtils::setName(group, "ManipulatorDepthPassMaterialGroup");
     nbNodeUtils::setIsAuxiliaryNode(group, true);

@@ -11,7 +11,7 @@ namespace nbec::manipulator {
 /// Makes a node a gizmo's root: it is named "Manipulatorgroup" and marked as auxiliary, selectable
 /// auxiliary (the picker may hit it while the scene's selection ignores it) and manipulator node.
 /// @return the node
-osg::NodePtr makeHandleRoot(const osg::NodePtr& node = makeGroupNode());
+osg::NodePtr makeHandleRoot(const osg::NodePtr& node = osg::makeCoredNode<osg::Group>());
 
 /// Makes a gizmo root over a complete handle tree and, after it, an unnamed copy of the tree that
 /// is drawn first, with sort key 64014. The tree is marked auxiliary and selectable auxiliary.

@@ -1,47 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/handles/HandleNodes.h"
 
-#include <nbOpenSGExt/Transform3D.h>
+#include <nbOpenSGExt/nbSameBits.h>
 #include <nbOpenSGUtils/nbEdit.h>
 
 #include <OpenSG/OSGComponentTransform.h>
-#include <OpenSG/OSGGL.h>
-#include <OpenSG/OSGGeometry.h>
-#include <OpenSG/OSGGroup.h>
 #include <OpenSG/OSGTransform.h>
 
 #include <algorithm>
 
 namespace nbec::manipulator {
-
-namespace {
-
-/// Exactly equal numbers; the operators of vectors allow for a tolerance, which small scenes feel.
-template <class Values>
-bool isSame(const Values& left, const Values& right, osg::UInt32 count)
-{
-    for (osg::UInt32 i = 0; i < count; ++i) {
-        if (left[i] != right[i]) {
-            return false;
-        }
-    }
-    return true;
-}
-
-}  // namespace
-
-osg::NodePtr makeNode(const osg::NodeCorePtr& core)
-{
-    const osg::NodePtr node = osg::Node::create();
-    const nbEdit edit(node, osg::Node::CoreFieldMask);
-    node->setCore(core);
-    return node;
-}
-
-osg::NodePtr makeGroupNode()
-{
-    return makeNode(osg::Group::create());
-}
 
 osg::NodePtr makePlacedNode(const osg::Vec3f& translation, const osg::Quaternion& rotation)
 {
@@ -53,7 +21,7 @@ osg::NodePtr makePlacedNode(const osg::Vec3f& translation, const osg::Quaternion
         core->setTranslation(translation);
         core->setRotation(rotation);
     }
-    return makeNode(core);
+    return osg::makeNodeFor(core);
 }
 
 osg::NodePtr makeTransform3DNode(const osg::Vec3f& eulerDeg)
@@ -63,16 +31,16 @@ osg::NodePtr makeTransform3DNode(const osg::Vec3f& eulerDeg)
         const nbEdit edit(core, osg::FieldBits::AllFields);
         core->setRotation(eulerDeg);
     }
-    return makeNode(core);
+    return osg::makeNodeFor(core);
 }
 
 void placeTransform(const osg::Transform3DPtr& transform, const osg::Vec3f& translation,
                     const osg::Quaternion& rotation, const osg::Vec3f& scale)
 {
     if (transform->getRotationMode() == osg::Transform3D::QuaternionMode &&
-        isSame(transform->getTranslation(), translation, 3) &&
-        isSame(transform->getScale(), scale, 3) &&
-        isSame(transform->getRotationQuaternion(), rotation, 4)) {
+        nbSameBits(transform->getTranslation(), translation) &&
+        nbSameBits(transform->getScale(), scale) &&
+        nbSameBits(transform->getRotationQuaternion(), rotation)) {
         return;
     }
     const nbEdit edit(transform,
@@ -88,8 +56,8 @@ void moveNode(const osg::NodePtr& node, const osg::Vec3f& translation,
 {
     const osg::ComponentTransformPtr core = osg::ComponentTransformPtr::dcast(node->getCore());
     if (core == osg::NullFC ||
-        (isSame(core->getTranslation(), translation, 3) &&
-         isSame(core->getRotation(), rotation, 4))) {
+        (nbSameBits(core->getTranslation(), translation) &&
+         nbSameBits(core->getRotation(), rotation))) {
         return;
     }
     const nbEdit edit(core,
@@ -142,36 +110,6 @@ void showNode(const osg::NodePtr& node, bool visible)
     }
 }
 
-osg::GeometryPtr makeLineGeometry(const std::vector<osg::Pnt3f>& points,
-                                  const std::vector<osg::UInt32>& indices)
-{
-    const osg::GeoPTypesPtr types = osg::GeoPTypesUI8::create();
-    const osg::GeoPLengthsPtr lengths = osg::GeoPLengthsUI32::create();
-    const osg::GeoPositionsPtr positions = osg::GeoPositions3f::create();
-    const osg::GeometryPtr lines = osg::Geometry::create();
-    const nbEdit typesEdit(types, osg::FieldBits::AllFields);
-    const nbEdit lengthsEdit(lengths, osg::FieldBits::AllFields);
-    const nbEdit positionsEdit(positions, osg::FieldBits::AllFields);
-    const nbEdit edit(lines, osg::FieldBits::AllFields);
-    types->push_back(GL_LINES);
-    lengths->push_back(static_cast<osg::UInt32>(indices.empty() ? points.size() : indices.size()));
-    for (const osg::Pnt3f& point : points) {
-        positions->push_back(point);
-    }
-    lines->setTypes(types);
-    lines->setLengths(lengths);
-    lines->setPositions(positions);
-    if (!indices.empty()) {
-        const osg::GeoIndicesPtr order = osg::GeoIndicesUI32::create();
-        const nbEdit orderEdit(order, osg::FieldBits::AllFields);
-        for (const osg::UInt32 index : indices) {
-            order->push_back(index);
-        }
-        lines->setIndices(order);
-    }
-    return lines;
-}
-
 osg::NodePtr makeSharingNode(const osg::GeometryPtr& prototype)
 {
     const osg::GeometryPtr geometry = osg::Geometry::create();
@@ -184,7 +122,7 @@ osg::NodePtr makeSharingNode(const osg::GeometryPtr& prototype)
         geometry->setIndices(prototype->getIndices());
         geometry->getIndexMapping() = prototype->getIndexMapping();
     }
-    return makeNode(geometry);
+    return osg::makeNodeFor(geometry);
 }
 
 }  // namespace nbec::manipulator

@@ -6,21 +6,17 @@
 #include <nbOpenSGExt/Transform3D.h>
 
 #include <OpenSG/OSGGeometry.h>
+#include <OpenSG/OSGGroup.h>
 #include <OpenSG/OSGMaterial.h>
 #include <OpenSG/OSGMatrix.h>
 #include <OpenSG/OSGNode.h>
+#include <OpenSG/OSGNodePtr.h>
 #include <OpenSG/OSGQuaternion.h>
 #include <OpenSG/OSGVector.h>
 
 #include <vector>
 
 namespace nbec::manipulator {
-
-/// A new node with a core; no parent, count 0.
-osg::NodePtr makeNode(const osg::NodeCorePtr& core);
-
-/// A new node with a Group core.
-NB_MANIPULATOR_API osg::NodePtr makeGroupNode();
 
 /// A new node with a ComponentTransform core.
 osg::NodePtr makePlacedNode(const osg::Vec3f& translation, const osg::Quaternion& rotation);
@@ -52,13 +48,7 @@ void setGeometryMaterial(const osg::NodePtr& node, const osg::MaterialPtr& mater
 /// the given node's core, because the depth-pass copy shares the cores of the handles. Nodes that
 /// are so already are not edited.
 /// @param node  null or a node without a core does nothing
-void showNode(const osg::NodePtr& node, bool visible);
-
-/// A new geometry of separate lines, count 0, without material.
-/// @param points   their ends, pair by pair, or in any order if there are indices
-/// @param indices  of the ends, pair by pair; empty: the geometry has none
-osg::GeometryPtr makeLineGeometry(const std::vector<osg::Pnt3f>& points,
-                                  const std::vector<osg::UInt32>& indices = {});
+NB_MANIPULATOR_API void showNode(const osg::NodePtr& node, bool visible);
 
 /// A new node with a Geometry core of its own that shares all properties of another one, so that
 /// the two differ in material and visibility only. No material is set.

@@ -23,7 +23,7 @@ struct HandlePalette
         false;  ///< letters stand at the tips of arrows, or of what a mode has instead
     float lineWidth = 1.0F;  ///< of lines, by their classic one, > 0
 
-    /// Whether all colours are the same, exactly.
+    /// Whether all colours are the same.
     NB_MANIPULATOR_API bool isSame(const HandlePalette& other) const;
 };
 

@@ -34,7 +34,7 @@ osg::NodePtr makeHolder(HandleHolder holder, const std::array<float, 3>& place, 
                         const std::array<float, 3>& scale = { 1.0F, 1.0F, 1.0F })
 {
     if (holder == HandleHolder::Matrix) {
-        return makeNode(osg::Transform::create());
+        return osg::makeNodeFor(osg::Transform::create());
     }
     if (holder == HandleHolder::Component) {
         const osg::NodePtr node = makePlacedNode(vectorOf(place), quaternionOf(turn));
@@ -129,16 +129,6 @@ HandleSet::Nodes HandleSet::buildHandle(const HandleRow& row)
     return nodes;
 }
 
-osg::Transform3DPtr HandleSet::getRootTransform() const
-{
-    return osg::Transform3DPtr::dcast(root->getCore());
-}
-
-osg::Transform3DPtr HandleSet::getGroupTransform(std::size_t group) const
-{
-    return osg::Transform3DPtr::dcast(groups[group]->getCore());
-}
-
 const HandleRow* HandleSet::findRow(int handle) const
 {
     const auto found =
@@ -203,21 +193,17 @@ osg::Vec3f HandleSet::axisOf(const HandleRow& row, std::size_t axis) const
 
 float HandleSet::openness(const HandleRow& row, const osg::Vec3f& sight) const
 {
-    const bool isTurn = row.action.kind == DragParameters::Kind::Angle;
-    if (row.action.isPlane()) {
-        const std::size_t first = hasAxis(row.action.axes, 0) ? 0 : 1;
-        const std::size_t second = hasAxis(row.action.axes, 2) ? 2 : 1;
-        osg::Vec3f normal = axisOf(row, first).cross(axisOf(row, second));
+    if (const unsigned across = row.action.planeNormal(); across != kNoAxis) {
+        osg::Vec3f normal = axisOf(row, (across + 1) % 3).cross(axisOf(row, (across + 2) % 3));
         normal.normalize();
         return std::abs(normal.dot(sight));
     }
-    for (std::size_t axis = 0; axis < 3; ++axis) {
-        if (row.action.axes == axisBit(axis)) {
-            const osg::Vec3f along = axisOf(row, axis);
-            return isTurn ? std::abs(along.dot(sight)) : along.cross(sight).length();
-        }
+    if (row.action.axis() == kNoAxis) {
+        return 1.0F;
     }
-    return 1.0F;
+    const osg::Vec3f along = axisOf(row, row.action.axis());
+    return row.action.kind == DragParameters::Kind::Angle ? std::abs(along.dot(sight))
+                                                          : along.cross(sight).length();
 }
 
 // == Colours
@@ -261,14 +247,21 @@ bool HandleSet::setOpacity(std::size_t row, float opacity, int mode)
         return false;
     }
     handles[row].opacity = opacity;
-    colour(row, isLit(row), mode);
+    colour(row, isLitBy(row, lit), mode);
     return true;
 }
 
-bool HandleSet::isLit(std::size_t row) const
+bool HandleSet::isFaded() const
+{
+    return std::any_of(handles.begin(), handles.end(),
+                       [](const Nodes& nodes) { return nodes.opacity < 1.0F; });
+}
+
+/// Whether a row is lit up with a handle.
+bool HandleSet::isLitBy(std::size_t row, int handle) const
 {
     const HandleRow& of = table->rows[row];
-    return lit != 0 && (of.handle == lit || of.litWith == lit);
+    return handle != 0 && (of.handle == handle || of.litWith == handle);
 }
 
 bool HandleSet::takePalette()
@@ -326,7 +319,7 @@ void HandleSet::face(const osg::Vec3f& sight, const osg::Quaternion& facing, int
         isFacing = isFacing || isInFront;
         nodes.trim.showFront(isInFront, nodes.parts.front(),
                              first.shape == HandleShape::SolidBigRing, sight);
-        colour(i, isLit(i), mode);
+        colour(i, isLitBy(i, lit), mode);
     }
 }
 
@@ -348,12 +341,9 @@ void HandleSet::light(int handle, int mode)
     if (handle == lit) {
         return;
     }
-    const auto isLitBy = [](const HandleRow& row, int by) {
-        return by != 0 && (row.handle == by || row.litWith == by);
-    };
     for (std::size_t i = 0; i < handles.size(); ++i) {
-        const bool isNew = isLitBy(table->rows[i], handle);
-        if (isNew || isLitBy(table->rows[i], lit)) {
+        const bool isNew = isLitBy(i, handle);
+        if (isNew || isLitBy(i, lit)) {
             colour(i, isNew, mode);
         }
     }
@@ -361,11 +351,6 @@ void HandleSet::light(int handle, int mode)
 }
 
 // == Visibility
-
-void HandleSet::showRoot(bool isVisible)
-{
-    showNode(root.get(), isVisible);
-}
 
 bool HandleSet::isShown(std::size_t row, int mode, const HandleRow* held) const
 {

@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "manipulator/handles/HandleNodes.h"
 #include "manipulator/handles/HandleTable.h"
 #include "manipulator/handles/HandleTrim.h"
 #include "manipulator/nbManipulatorExport.h"
 
-#include <nbOpenSGExt/Transform3D.h>
-
-#include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGRefPtr.h>
 #include <OpenSG/OSGSimpleMaterial.h>
 
@@ -41,8 +39,15 @@ public:
     osg::Pnt3f centre() const;
 
     /// Core of the root; null where the table's root has another one.
-    osg::Transform3DPtr getRootTransform() const;
-    osg::Transform3DPtr getGroupTransform(std::size_t group) const;
+    osg::Transform3DPtr getRootTransform() const
+    {
+        return osg::Transform3DPtr::dcast(root->getCore());
+    }
+
+    osg::Transform3DPtr getGroupTransform(std::size_t group) const
+    {
+        return osg::Transform3DPtr::dcast(groups[group]->getCore());
+    }
 
     /// Top node of the handle of a row.
     osg::NodePtr getNode(std::size_t row) const { return handles[row].top; }
@@ -101,6 +106,9 @@ public:
     /// another
     bool setOpacity(std::size_t row, float opacity, int mode);
 
+    /// Whether a handle is drawn in part, or not at all for that.
+    bool isFaded() const;
+
     /// Turns letters and the fronts of faded rings to the viewer. @param sight  world, unit length
     /// @param facing  turn of the camera
     void face(const osg::Vec3f& sight, const osg::Quaternion& facing, int mode);
@@ -113,7 +121,8 @@ public:
 
     // == Visibility
 
-    void showRoot(bool isVisible);
+    void showRoot(bool isVisible) { showNode(root.get(), isVisible); }
+
     /// Shows what a mode shows. @param held  of that only what the drag of this handle leaves; 0
     /// for no drag
     void show(int mode, int held);
@@ -139,7 +148,7 @@ private:
     void build(const osg::NodePtr& copies);
     static Nodes buildHandle(const HandleRow& row);
     void colour(std::size_t row, bool isHigh, int mode);
-    bool isLit(std::size_t row) const;
+    bool isLitBy(std::size_t row, int handle) const;
     osg::SimpleMaterialPtr fadedMaterial(Nodes& of, std::size_t part, std::size_t color);
     bool isShown(std::size_t row, int mode, const HandleRow* held) const;
 

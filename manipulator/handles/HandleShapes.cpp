@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/handles/HandleShapes.h"
 
-#include "manipulator/handles/ContainerReference.h"
 #include "manipulator/handles/HandleNodes.h"
 
+#include <nbOpenSGExt/nbContainerId.h>
 #include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbGeoFactory.h>
 
@@ -112,7 +112,7 @@ osg::NodePtr buildOutline(float halfX, float halfY)
         ends.push_back(corners[i]);
         ends.push_back(corners[(i + 1) % corners.size()]);
     }
-    return makeNode(makeLineGeometry(ends));
+    return osg::makeNodeFor(nbGeoFactory::makeGeo(GL_LINES, ends));
 }
 
 osg::NodePtr build(const ShapeRow& row)
@@ -186,28 +186,15 @@ osg::GeometryPtr prototypeOf(HandleShape shape)
 
 osg::Quaternion quaternionOf(Turn turn)
 {
+    // About which axes, in the order of the enumerators.
+    constexpr float kAxes[][3] = { { 0.0F, 0.0F, 0.0F },  { 0.0F, 0.0F, -1.0F },
+                                   { 1.0F, 0.0F, 0.0F },  { 0.0F, 0.0F, 1.0F },
+                                   { -1.0F, 0.0F, 0.0F }, { 0.0F, -1.0F, 0.0F },
+                                   { 0.0F, 1.0F, 0.0F } };
+    const auto& [x, y, z] = kAxes[static_cast<std::size_t>(turn)];
     osg::Quaternion result;
-    switch (turn) {
-    case Turn::None:
-        break;
-    case Turn::OntoX:
-        result.setValueAsQuat(0.0F, 0.0F, -kHalfSqrt2, kHalfSqrt2);
-        break;
-    case Turn::OntoZ:
-        result.setValueAsQuat(kHalfSqrt2, 0.0F, 0.0F, kHalfSqrt2);
-        break;
-    case Turn::OntoMinusX:
-        result.setValueAsQuat(0.0F, 0.0F, kHalfSqrt2, kHalfSqrt2);
-        break;
-    case Turn::OntoMinusZ:
-        result.setValueAsQuat(-kHalfSqrt2, 0.0F, 0.0F, kHalfSqrt2);
-        break;
-    case Turn::AboutY:
-        result.setValueAsQuat(0.0F, -kHalfSqrt2, 0.0F, kHalfSqrt2);
-        break;
-    case Turn::ZOntoX:
-        result.setValueAsQuat(0.0F, kHalfSqrt2, 0.0F, kHalfSqrt2);
-        break;
+    if (turn != Turn::None) {
+        result.setValueAsQuat(x * kHalfSqrt2, y * kHalfSqrt2, z * kHalfSqrt2, kHalfSqrt2);
     }
     return result;
 }

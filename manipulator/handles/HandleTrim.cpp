@@ -6,6 +6,7 @@
 #include "manipulator/handles/HandleNodes.h"
 
 #include <nbOpenSGUtils/nbEdit.h>
+#include <nbOpenSGUtils/nbGeoFactory.h>
 
 #include <OpenSG/OSGGL.h>
 #include <OpenSG/OSGPolygonChunk.h>
@@ -61,8 +62,8 @@ std::vector<osg::Pnt3f> halfCircle()
 /// New lines at a place of their own.
 osg::NodePtr addLines(const osg::NodePtr& parent, const std::vector<osg::Pnt3f>& ends)
 {
-    const osg::NodePtr place =
-        addChild(makePlacedNode(osg::Vec3f(), osg::Quaternion()), makeNode(makeLineGeometry(ends)));
+    const osg::NodePtr place = addChild(makePlacedNode(osg::Vec3f(), osg::Quaternion()),
+                                        osg::makeNodeFor(nbGeoFactory::makeGeo(GL_LINES, ends)));
     addChild(parent, place);
     return place;
 }

@@ -3,11 +3,13 @@
 
 #include "manipulator/handles/HandleGroup.h"
 #include "manipulator/handles/HandleMaterials.h"
+#include "manipulator/handles/HandleShapes.h"
 #include "manipulator/nbManipulatorMaterials.h"
 
 #include <nbMagnifier/nbMagnifierRenderer.h>
 #include <nbOpenSGUberCamera/nbCameraUtils.h>
 #include <nbOpenSGUtils/nbEdit.h>
+#include <nbOpenSGUtils/nbGeoFactory.h>
 
 #include <algorithm>
 #include <cmath>
@@ -18,7 +20,7 @@ namespace {
 
 /// Reference size before a camera is known, device pixels.
 constexpr float kStartReferencePx = 1080.0F;
-constexpr std::size_t kRingSegments = 32;
+constexpr osg::UInt16 kRingSegments = 32;
 /// Farthest place of the magnifier: beyond every view, and what an int can hold.
 constexpr float kFarthestPx = 1e6F;
 
@@ -43,20 +45,6 @@ constexpr PenRow kPens[] = { { 1.0F, 0.2F, 0.2F, kLineWidthPx, handleSortKey::kS
                              { 0.25F, 0.5F, 1.0F, kLineWidthPx, handleSortKey::kSolid },
                              { 1.0F, 0.6F, 0.0F, kHighlightWidthPx, handleSortKey::kHandlePass } };
 constexpr std::size_t kHighlightPen = kMatchAxisCount;
-
-/// A circle of radius 1 around the origin in the xy plane, as pairs of ends.
-MatchSegments unitCircle()
-{
-    constexpr double kFullTurn = 6.28318530717958647692;
-    MatchSegments segments;
-    for (std::size_t i = 0; i < 2 * kRingSegments; ++i) {
-        const std::size_t corner = (i + 1) / 2 % kRingSegments;
-        const double angle = kFullTurn * static_cast<double>(corner) / kRingSegments;
-        segments.emplace_back(static_cast<float>(std::cos(angle)),
-                              static_cast<float>(std::sin(angle)), 0.0F);
-    }
-    return segments;
-}
 
 void setSegments(const osg::NodePtr& node, const MatchSegments& segments)
 {
@@ -102,7 +90,8 @@ PerspectiveMatchVisualisation::PerspectiveMatchVisualisation()
         guideNodes[i] = addLines();
         setGeometryMaterial(guideNodes[i], pen.material.get());
     }
-    const osg::RefPtr<osg::GeometryPtr> ring(makeLineGeometry(unitCircle()));
+    const osg::RefPtr<osg::GeometryPtr> ring(
+        nbGeoFactory::makeLineTorusGeo(1.0F, kRingSegments, false));
     for (LineNodes& nodes : lineNodes) {
         buildLine(nodes, ring.get());
     }
@@ -128,7 +117,7 @@ PerspectiveMatchVisualisation::~PerspectiveMatchVisualisation()
 /// Appends an empty set of lines to the root.
 osg::NodePtr PerspectiveMatchVisualisation::addLines() const
 {
-    const osg::NodePtr lines = makeNode(makeLineGeometry({}));
+    const osg::NodePtr lines = osg::makeNodeFor(nbGeoFactory::makeGeo(GL_LINES, {}));
     addChild(root.get(), lines);
     return lines;
 }
@@ -138,7 +127,7 @@ void PerspectiveMatchVisualisation::buildLine(LineNodes& nodes, const osg::Geome
     nodes.parts[0] = addLines();
     for (std::size_t end = 0; end < nodes.places.size(); ++end) {
         nodes.parts[1 + end] = makeSharingNode(ring);
-        const osg::NodePtr place = makePlacedNode(osg::Vec3f(), osg::Quaternion());
+        const osg::NodePtr place = makePlacedNode(osg::Vec3f(), quaternionOf(Turn::OntoZ));
         nodes.places[end] = osg::ComponentTransformPtr::dcast(place->getCore());
         addChild(root.get(), addChild(place, nodes.parts[1 + end]));
     }
@@ -222,7 +211,7 @@ void PerspectiveMatchVisualisation::placeLine(std::size_t index)
                           osg::ComponentTransform::TranslationFieldMask |
                               osg::ComponentTransform::ScaleFieldMask);
         nodes.places[end]->setTranslation(inPlane(point).subZero());
-        nodes.places[end]->setScale(osg::Vec3f(radius, radius, 1.0F));
+        nodes.places[end]->setScale(osg::Vec3f(radius, 1.0F, radius));
     }
 }
 

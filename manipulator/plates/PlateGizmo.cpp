@@ -3,13 +3,13 @@
 
 #include "manipulator/course/ValueText.h"
 #include "manipulator/drag/DragGeometry.h"
-#include "manipulator/handles/ContainerReference.h"
 #include "manipulator/handles/HandleGroup.h"
 #include "manipulator/plates/PlateTable.h"
 
 #include <nbKernel/nbController.h>
 #include <nbKernel/nbOSGWidget.h>
 #include <nbKernel/nbScenegraph.h>
+#include <nbOpenSGExt/nbContainerId.h>
 #include <nbOpenSGSceneplate/nbSceneplateList.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 #include <nbUtils/nbMessage.h>

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "manipulator/handles/ContainerReference.h"
-
+#include <nbOpenSGExt/nbContainerId.h>
 #include <nbOpenSGUberMaterial/ColorComponentSettings.h>
 #include <nbOpenSGUberMaterial/UberMaterial.h>
 

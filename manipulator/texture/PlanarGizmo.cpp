@@ -3,7 +3,6 @@
 
 #include "manipulator/course/ValueText.h"
 #include "manipulator/drag/DragGeometry.h"
-#include "manipulator/handles/ContainerReference.h"
 #include "manipulator/handles/HandleGroup.h"
 #include "manipulator/handles/HandleNodes.h"
 #include "manipulator/scene/TargetFrame.h"
@@ -11,6 +10,7 @@
 
 #include <nbKernel/nbController.h>
 #include <nbKernel/nbScenegraph.h>
+#include <nbOpenSGExt/nbContainerId.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 #include <nbUtils/nbMessage.h>
 

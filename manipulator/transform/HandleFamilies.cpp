@@ -14,6 +14,7 @@ namespace nbec::manipulator::transform {
 namespace {
 
 using Active = ActiveMode;
+using Kind = DragParameters::Kind;
 
 /// Sine of the angle beyond which an axis points away from the viewer.
 constexpr float kLeastAway = 1e-3F;
@@ -47,18 +48,19 @@ void HandleFamilies::place(HandleSet& handles, const Frame& frame)
     const std::vector<HandleRow>& rows = handles.getTable().rows;
     std::array<std::optional<osg::Quaternion>, 4> families;
     for (std::size_t i = 0; i < rows.size(); ++i) {
-        const auto each = static_cast<Active>(rows[i].handle);
-        if (each == Active::None || !isInModes(static_cast<int>(frame.mode), rows[i].visibleIn)) {
+        const HandleAction& each = rows[i].action;
+        if (each.kind == Kind::None ||
+            !isInModes(static_cast<int>(frame.mode), rows[i].visibleIn)) {
             continue;
         }
-        const bool isFixed = isTranslation(each) && !isOfView(each);
+        const bool isFixed = each.kind == Kind::Offset && !each.isOfView;
         if (isFixed && sides.empty()) {
             continue;
         }
-        std::optional<osg::Quaternion>& family = families[isOfView(each)      ? 0
-                                                              : isRing(each)  ? 1
-                                                              : isScale(each) ? 2
-                                                                              : 3];
+        std::optional<osg::Quaternion>& family = families[each.isOfView                   ? 0
+                                                              : each.kind == Kind::Angle  ? 1
+                                                              : each.kind == Kind::Factor ? 2
+                                                                                          : 3];
         if (!family) {
             family =
                 isFixed ? frame.worldFromGizmo : frame.stance.axesOf(each, frame.mode, frame.node);
@@ -69,7 +71,7 @@ void HandleFamilies::place(HandleSet& handles, const Frame& frame)
         if (!sides.empty()) {
             const osg::Quaternion side = sideOf(handles, i, *family, frame);
             turn.mult(side);
-            place = each == Active::TranslateView
+            place = each.isOfView && each.kind == Kind::Offset
                 ? rotated(gizmoFromWorld, frame.sight * -kInFront)
                 : rotated(side, osg::Vec3f(rows[i].place[0], rows[i].place[1], rows[i].place[2]));
         }

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/transform/PivotMarks.h"
 
-#include "manipulator/handles/HandleNodes.h"
-
+#include <nbOpenSGExt/nbSameBits.h>
 #include <nbOpenSGUtils/nbEdit.h>
+#include <nbOpenSGUtils/nbGeoFactory.h>
 
 #include <OpenSG/OSGGeometry.h>
 
@@ -19,13 +19,11 @@ constexpr std::size_t kPoints = 6;
 /// Exactly the same; the operators of points allow for a tolerance, which small scenes feel.
 bool isSame(const PivotMarks::Places& left, const PivotMarks::Places& right)
 {
-    return std::equal(
-        left.begin(), left.end(), right.begin(), right.end(),
-        [](const auto& one, const auto& other) {
-            return one.has_value() == other.has_value() &&
-                (!one ||
-                 (one->x() == other->x() && one->y() == other->y() && one->z() == other->z()));
-        });
+    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
+                      [](const auto& one, const auto& other) {
+                          return one.has_value() == other.has_value() &&
+                              (!one || nbSameBits(one->subZero(), other->subZero()));
+                      });
 }
 
 }  // namespace
@@ -37,18 +35,12 @@ void PivotMarks::make(const osg::NodePtr& parent, std::size_t count,
     if (node != osg::NullFC) {
         parent->subChild(node.get());
     }
-    node = makeNode(makeLineGeometry(std::vector<osg::Pnt3f>(count * kPoints)));
+    node =
+        osg::makeNodeFor(nbGeoFactory::makeGeo(GL_LINES, std::vector<osg::Pnt3f>(count * kPoints)));
     setGeometryMaterial(node.get(), material);
     parent->addChild(node.get());
     drawn.assign(count, std::nullopt);
     drawnReach = 0.0F;
-}
-
-void PivotMarks::show(bool on)
-{
-    if (node != osg::NullFC) {
-        showNode(node.get(), on);
-    }
 }
 
 void PivotMarks::draw(const Places& places, float reach)

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <OpenSG/OSGMaterial.h>
-#include <OpenSG/OSGNode.h>
+#include "manipulator/handles/HandleNodes.h"
+
 #include <OpenSG/OSGRefPtr.h>
-#include <OpenSG/OSGVector.h>
 
 #include <cstddef>
 #include <optional>
@@ -25,7 +24,7 @@ public:
     bool exists() const { return node != osg::NullFC; }
 
     /// Shows or hides all; nothing before the first make(), which shows them.
-    void show(bool on);
+    void show(bool on) { showNode(node.get(), on); }
 
     /// Brings the geometry into step with as many places as were made; one edit, and none if
     /// nothing is to look different.

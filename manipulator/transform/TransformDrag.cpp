@@ -16,6 +16,8 @@ namespace nbec::manipulator::transform {
 
 namespace {
 
+using Kind = DragParameters::Kind;
+
 constexpr float kShortest = 1e-6F;
 constexpr float kLeastAxisRatio = 0.01F;
 constexpr float kLeastUniformFactor = 0.1F;
@@ -50,12 +52,6 @@ osg::Vec3f masked(const osg::Vec3f& delta, unsigned axes)
     return result;
 }
 
-/// Keeps the components along which a handle moves; none of a handle that is no arrow or plane.
-osg::Vec3f maskedByHandle(const osg::Vec3f& delta, ActiveMode handle)
-{
-    return masked(delta, isTranslation(handle) ? axisSetOf(handle) : 0);
-}
-
 /// The vector that the frame of a node's parent maps onto one of the world about which it is
 /// turned; a mirrored parent turns the other way.
 osg::Vec3f turnAxisAbove(const osg::NodePtr& node, osg::Vec3f axisWorld)
@@ -79,7 +75,7 @@ osg::Quaternion turnOf(const osg::NodePtr& node)
 osg::Vec3f movementAxis(const osg::NodePtr& node, const GrabbedGizmo& grabbed, osg::UInt32 axis)
 {
     const osg::Vec3f drawn = column(grabbed.frame, axis);
-    if (!grabbed.isLocal || !isTranslation(grabbed.handle)) {
+    if (!grabbed.isLocal || grabbed.action.kind != Kind::Offset) {
         return unitVector(drawn);
     }
     // Below a parent with different scales the node's own axes are not at right angles, as the
@@ -93,16 +89,16 @@ osg::Vec3f movementAxis(const osg::NodePtr& node, const GrabbedGizmo& grabbed, o
 
 /// Frame in which translation is measured: the node's own, without scale and pivots.
 osg::Matrix translationFrame(const osg::NodePtr& node, const TransformStart& start,
-                             ActiveMode handle)
+                             const HandleAction& action)
 {
     osg::Matrix own;
-    own.setTransform(start.translationLocal, start.rotation);
+    own.setTransform(start.translation.local, start.rotation);
     osg::Matrix frame = parentToWorld(node);
     frame.mult(own);
-    if (const osg::UInt32 axis = axisOf(handle); isTranslation(handle) && axis < 3) {
+    if (action.kind == Kind::Offset && action.axis() != kNoAxis) {
         // Below a parent with different scales the axes are not at right angles. Without this a
         // pointer that leaves the arrow's line sideways would pull the node along the arrow.
-        straighten(frame, axis);
+        straighten(frame, action.axis());
     }
     return frame;
 }
@@ -110,14 +106,14 @@ osg::Matrix translationFrame(const osg::NodePtr& node, const TransformStart& sta
 /// Frame in which scaling is measured.
 osg::Matrix scaleFrame(const GrabbedGizmo& grabbed, const osg::Pnt3f& start, const View& view)
 {
-    if (grabbed.handle != ActiveMode::ScaleUniform) {
+    if (grabbed.action.axes != kAllAxes) {
         return grabbed.frame;
     }
     // Up the screen is more, wherever the cube is grabbed: the origin lies one gizmo unit below.
     osg::Matrix frame;
     view.facing().getValue(frame);
     const osg::Vec3f up = column(frame, 1);
-    if (view.isZUp()) {
+    if (view.upAxis() == 2) {
         std::swap(frame[1], frame[2]);
         frame[1] *= -1.0F;
     }
@@ -130,18 +126,18 @@ void updateManipulatorPlane(TransformDrag& drag, const osg::NodePtr& node,
                             const GrabbedGizmo& grabbed, const View& view)
 {
     const osg::Pnt3f center(column(grabbed.frame, 3));
-    const osg::UInt32 axis = axisOf(grabbed.handle);
-    const osg::UInt32 normalAxis = planeNormalAxis(grabbed.handle);
-    if (isRing(grabbed.handle)) {
+    const osg::UInt32 axis = grabbed.action.axis();
+    const osg::UInt32 normalAxis = grabbed.action.planeNormal();
+    if (grabbed.action.kind == Kind::Angle) {
         drag.ring = RingDrag::begin(center, column(grabbed.frame, axis), grabbed.grabbedPoint,
                                     view.getSight());
         drag.inverseDragFrame = inverted(drag.ring.frame(axis));
-    } else if (normalAxis < 3) {
+    } else if (normalAxis != kNoAxis) {
         drag.plane =
             osg::Plane(unitVector(movementAxis(node, grabbed, (normalAxis + 1) % 3)
                                       .cross(movementAxis(node, grabbed, (normalAxis + 2) % 3))),
                        center);
-    } else if (axis < 3) {
+    } else if (axis != kNoAxis) {
         drag.plane = osg::Plane(
             axisPlaneNormal(movementAxis(node, grabbed, axis), view.sightAt(center)), center);
     } else {
@@ -163,20 +159,19 @@ TransformStart captureStart(const osg::NodePtr& node, const GrabbedGizmo& grabbe
     const bool isScalePivot = grabbed.mode == ManipulatorMode::ScalePivot;
     const auto pivot =
         isScalePivot ? &nbTransformModel::getScalePivot : &nbTransformModel::getRotationPivot;
-    start.translationLocal = nbTransformModel::getTranslation(node, false);
-    start.translationWorld = nbTransformModel::getTranslation(node, true);
+    start.translation = { nbTransformModel::getTranslation(node, false),
+                          nbTransformModel::getTranslation(node, true) };
     start.scale = nbNodeUtils::getTransformNodeScale(node);
-    start.pivotLocal = pivot(node, false);
-    start.pivotWorld = pivot(node, true);
+    start.pivot = { pivot(node, false), pivot(node, true) };
     if (transform != osg::NullFC) {
-        start.anchor = pivotWorld(node, transform, isScale(grabbed.handle));
+        start.anchor = pivotWorld(node, transform, grabbed.action.kind == Kind::Factor);
     }
     start.rotation = turnOf(node);
-    if (isTurn(grabbed.handle) && transform != osg::NullFC) {
+    if (grabbed.action.isTurn() && transform != osg::NullFC) {
         for (osg::UInt32 axis = 0; axis < 2; ++axis) {
             start.screenAxes[axis] = turnAxisAbove(node, column(grabbed.frame, axis));
         }
-        const osg::UInt32 axis = isRing(grabbed.handle) ? axisOf(grabbed.handle) : 0;
+        const osg::UInt32 axis = grabbed.action.kind == Kind::Angle ? grabbed.action.axis() : 0;
         captureRotation(start,
                         nbEulerUtils::fromDegrees(
                             transform->getRotation(),
@@ -190,11 +185,12 @@ TransformDrag prepareManipulator(const osg::NodePtr& node, const GrabbedGizmo& g
                                  const View& view, DragTrack& track)
 {
     TransformDrag drag;
-    drag.handle = grabbed.handle;
+    drag.action = grabbed.action;
     drag.unit = grabbed.unit;
     drag.axes = grabbed.axes;
     drag.center = osg::Pnt3f(column(grabbed.frame, 3));
-    const osg::UInt32 axis = std::min(axisOf(grabbed.handle), planeNormalAxis(grabbed.handle));
+    const osg::UInt32 axis = std::min(grabbed.action.axis(), grabbed.action.planeNormal());
+    const bool isRing = grabbed.action.kind == Kind::Angle;
     if (axis != kNoAxis) {
         drag.handleAxis = unitVector(column(grabbed.frame, axis));
     }
@@ -203,15 +199,15 @@ TransformDrag prepareManipulator(const osg::NodePtr& node, const GrabbedGizmo& g
 
     drag.dragStartWorld = grabbed.grabbedPoint;
     const std::optional<osg::Line> ray = view.pointerRay();
-    if (isRing(grabbed.handle)) {
+    if (isRing) {
         drag.dragStartWorld = drag.ring.follow(ray, track).value_or(grabbed.grabbedPoint);
     } else if (ray && !intersectPlane(drag.plane, *ray, drag.dragStartWorld)) {
         // The handle was hit this side of the plane's horizon, the plane is met beyond it.
         drag.plane = osg::Plane(drag.plane.getNormal(), grabbed.grabbedPoint);
         intersectPlane(drag.plane, *ray, drag.dragStartWorld);
     }
-    if (!isRing(grabbed.handle)) {
-        drag.inverseDragFrame = inverted(translationFrame(node, drag.starts[0], grabbed.handle));
+    if (!isRing) {
+        drag.inverseDragFrame = inverted(translationFrame(node, drag.starts[0], grabbed.action));
     }
     drag.inverseScaleFrame = inverted(scaleFrame(grabbed, drag.dragStartWorld, view));
     drag.dragStartLocal = mapped(drag.inverseDragFrame, drag.dragStartWorld);
@@ -222,35 +218,22 @@ TransformDrag prepareManipulator(const osg::NodePtr& node, const GrabbedGizmo& g
 
 // == From a point in the drag's plane to drag parameters
 
-namespace {
-
 osg::Vec3f offsetBetween(const TransformDrag& drag, const osg::Pnt3f& from, const osg::Pnt3f& to,
                          bool isLocal)
 {
-    return maskedByHandle(isLocal ? mapped(drag.inverseDragFrame, to) -
-                                  mapped(drag.inverseDragFrame, from)
-                                  : rotated(drag.axes.inverse(), to - from),
-                          drag.handle);
-}
-
-}  // namespace
-
-osg::Vec3f offsetAt(const TransformDrag& drag, const osg::Pnt3f& point, bool isLocal)
-{
-    return offsetBetween(drag, drag.dragStartWorld, point, isLocal);
-}
-
-osg::Vec3f offsetTo(const TransformDrag& drag, const osg::Pnt3f& point, bool isLocal)
-{
-    return offsetBetween(drag, drag.center, point, isLocal);
+    // A scale handle that is held while the mode goes over to pivots moves none.
+    const unsigned axes = drag.action.kind == Kind::Offset ? drag.action.axes : 0;
+    return masked(isLocal ? mapped(drag.inverseDragFrame, to) - mapped(drag.inverseDragFrame, from)
+                          : rotated(drag.axes.inverse(), to - from),
+                  axes);
 }
 
 osg::Vec3f startPlace(const TransformDrag& drag, bool isLocal, bool ofPivot)
 {
     const TransformStart& start = drag.starts.front();
-    return isLocal
-        ? rotated(start.rotation.inverse(), ofPivot ? start.pivotLocal : start.translationLocal)
-        : rotated(drag.axes.inverse(), ofPivot ? start.pivotWorld : start.translationWorld);
+    const Place& place = ofPivot ? start.pivot : start.translation;
+    return isLocal ? rotated(start.rotation.inverse(), place.local)
+                   : rotated(drag.axes.inverse(), place.world);
 }
 
 osg::Vec3f withSnappedPlace(const TransformDrag& drag, const osg::Vec3f& offset, double step,
@@ -261,7 +244,7 @@ osg::Vec3f withSnappedPlace(const TransformDrag& drag, const osg::Vec3f& offset,
     for (osg::UInt32 i = 0; i < 3; ++i) {
         result[i] = static_cast<float>(snapped(place[i] + offset[i], step)) - place[i];
     }
-    return maskedByHandle(result, drag.handle);
+    return masked(result, drag.action.axes);
 }
 
 osg::Vec3f withSnappedLength(const osg::Vec3f& offset, double step)
@@ -291,17 +274,17 @@ double turnAtStart(const TransformStart& start)
 
 double factorAt(const TransformDrag& drag, const osg::Pnt3f& point, osg::UInt32 upAxis)
 {
-    const bool isUniform = drag.handle == ActiveMode::ScaleUniform;
+    const bool isUniform = drag.action.axes == kAllAxes;
     const osg::Vec3f place = mapped(drag.inverseScaleFrame, point).subZero();
-    if (planeNormalAxis(drag.handle) != kNoAxis) {
-        const osg::Vec3f start = masked(drag.scaleAnchor, axisSetOf(drag.handle));
+    if (drag.action.isPlane()) {
+        const osg::Vec3f start = masked(drag.scaleAnchor, drag.action.axes);
         const float square = start.squareLength();
         return square < kShortest * kShortest * drag.unit * drag.unit
             ? 1.0
             : std::max(place.dot(start) / square, kLeastAxisRatio);
     }
-    const osg::UInt32 axis = isUniform ? upAxis : axisOf(drag.handle);
-    if (axis > 2 || std::abs(drag.scaleAnchor[axis]) < kShortest * drag.unit) {
+    const osg::UInt32 axis = isUniform ? upAxis : drag.action.axis();
+    if (axis == kNoAxis || std::abs(drag.scaleAnchor[axis]) < kShortest * drag.unit) {
         return 1.0;
     }
     const float ratio = place[axis] / drag.scaleAnchor[axis];
@@ -323,15 +306,10 @@ osg::Vec2d screenTurnAt(const TransformDrag& drag, const osg::Pnt3f& point)
 
 // == From drag parameters to a target's value
 
-osg::Vec3f movedTranslation(const TransformStart& start, const osg::Vec3f& offset, bool isLocal)
+osg::Vec3f moved(const TransformStart& start, const Place& place, const osg::Vec3f& offset,
+                 bool isLocal)
 {
-    return isLocal ? start.translationLocal + rotated(start.rotation, offset)
-                   : start.translationWorld + offset;
-}
-
-osg::Vec3f movedPivot(const TransformStart& start, const osg::Vec3f& offset, bool isLocal)
-{
-    return isLocal ? start.pivotLocal + rotated(start.rotation, offset) : start.pivotWorld + offset;
+    return isLocal ? place.local + rotated(start.rotation, offset) : place.world + offset;
 }
 
 osg::Vec3f turnedTranslation(const TransformDrag& drag, const TransformStart& start,
@@ -340,7 +318,7 @@ osg::Vec3f turnedTranslation(const TransformDrag& drag, const TransformStart& st
     const osg::Vec3f arm = start.anchor - drag.center;
     osg::Vec3f axis = drag.handleAxis;
     double angle = turnRad.x();
-    if (drag.handle == ActiveMode::RotateFree) {
+    if (drag.action.kind == Kind::Turns) {
         angle = turnRad.length();
         axis = unitVector(rotated(
             drag.axes,
@@ -348,15 +326,15 @@ osg::Vec3f turnedTranslation(const TransformDrag& drag, const TransformStart& st
     }
     osg::Quaternion turn;
     turn.setValueAsAxisRad(axis, static_cast<float>(angle));
-    return start.translationWorld + (rotated(turn, arm) - arm);
+    return start.translation.world + (rotated(turn, arm) - arm);
 }
 
 osg::Vec3f scaledTranslation(const TransformDrag& drag, const TransformStart& start, float factor)
 {
     const osg::Vec3f arm = start.anchor - drag.center;
     const osg::Vec3f along = drag.handleAxis * drag.handleAxis.dot(arm);
-    const bool isAlong = axisOf(drag.handle) != kNoAxis;
-    return start.translationWorld + (isAlong ? along : arm - along) * (factor - 1.0F);
+    const bool isAlong = drag.action.axis() != kNoAxis;
+    return start.translation.world + (isAlong ? along : arm - along) * (factor - 1.0F);
 }
 
 HalfTurn::HalfTurn(double turnRad)
@@ -400,12 +378,12 @@ nbEulerAngles turnedFreely(const TransformStart& start, const osg::Vec2d& turnRa
     return turnedAngles(about, HalfTurn(turnRad.length()), before);
 }
 
-osg::Vec3f scaledBy(const TransformStart& start, ActiveMode handle, float factor, double step,
+osg::Vec3f scaledBy(const TransformStart& start, unsigned axes, float factor, double step,
                     SnapRule rule)
 {
     osg::Vec3f scale = start.scale;
     for (osg::UInt32 i = 0; i < 3; ++i) {
-        if (hasAxis(axisSetOf(handle), i)) {
+        if (hasAxis(axes, i)) {
             const double wanted = scale[i] * factor;
             const double rounded = snapped(wanted, step);
             const bool isLost = rule == SnapRule::Exact && rounded == 0.0 && wanted != 0.0;

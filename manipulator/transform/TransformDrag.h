@@ -22,14 +22,19 @@
 /// target's new value. No widget, and no node but in the two functions that capture.
 namespace nbec::manipulator::transform {
 
+/// A place in two frames.
+struct Place
+{
+    osg::Vec3f local;  ///< frame of the parent
+    osg::Vec3f world;
+};
+
 /// What a drag keeps of one target from its first step; every later step computes from this.
 struct TransformStart
 {
-    osg::Vec3f translationLocal;  ///< frame of the parent
-    osg::Vec3f translationWorld;
+    Place translation;
     osg::Vec3f scale;
-    osg::Vec3f pivotLocal;  ///< rotate or scale pivot, as the mode moves; frame of the parent
-    osg::Vec3f pivotWorld;
+    Place pivot;  ///< rotate or scale pivot, as the mode moves
     osg::Pnt3f anchor;  ///< pivot of turns, or of scales for a scale handle; world
     osg::Quaternion rotation;  ///< without the rotation orientation
     nbEulerAngles anglesRad;  ///< of the same, in the node's order
@@ -42,7 +47,7 @@ struct TransformStart
 /// The gizmo when a handle was grabbed.
 struct GrabbedGizmo
 {
-    ActiveMode handle = ActiveMode::None;
+    HandleAction action;
     ManipulatorMode mode = ManipulatorMode::Translate;
     bool isLocal = false;  ///< in the node's own space
     osg::Matrix frame;  ///< world from the axes of the handle's family, of unit length
@@ -54,7 +59,7 @@ struct GrabbedGizmo
 /// State of one drag. Nothing of it changes after the first step.
 struct TransformDrag
 {
-    ActiveMode handle = ActiveMode::None;
+    HandleAction action;
     float unit = 1.0F;  ///< world units of the handles' unit frame
     osg::Plane plane;  ///< in which the pointer's ray is intersected, world; not of a ring
     RingDrag ring;  ///< the grabbed one
@@ -82,13 +87,10 @@ TransformDrag prepareManipulator(const osg::NodePtr& node, const GrabbedGizmo& g
 
 // == From a point in the drag's plane to drag parameters
 
-/// How far a point has gone from the start along the axes of the drag's handle: world units, in
-/// local space those of the node's own frame, scale left out. @param point  world
-osg::Vec3f offsetAt(const TransformDrag& drag, const osg::Pnt3f& point, bool isLocal);
-
-/// The offset that takes the gizmo's centre to a point, as near as the handle can. @param point
-/// world
-osg::Vec3f offsetTo(const TransformDrag& drag, const osg::Pnt3f& point, bool isLocal);
+/// The way from a point to another along the axes of the drag's handle: world units, in local space
+/// those of the node's own frame, scale left out. @param from, to  world
+osg::Vec3f offsetBetween(const TransformDrag& drag, const osg::Pnt3f& from, const osg::Pnt3f& to,
+                         bool isLocal);
 
 /// Where the first target stands, or its pivot, counted along the axes of an offset.
 osg::Vec3f startPlace(const TransformDrag& drag, bool isLocal, bool ofPivot);
@@ -124,9 +126,10 @@ double factorAt(const TransformDrag& drag, const osg::Pnt3f& point, osg::UInt32 
 
 // == From drag parameters to a target's value
 
-/// @param isLocal  the space of the offset and of the answer: own frame and parent's, or world
-osg::Vec3f movedTranslation(const TransformStart& start, const osg::Vec3f& offset, bool isLocal);
-osg::Vec3f movedPivot(const TransformStart& start, const osg::Vec3f& offset, bool isLocal);
+/// Translation or pivot after an offset. @param isLocal  the space of the offset and of the answer:
+/// own frame and parent's, or world
+osg::Vec3f moved(const TransformStart& start, const Place& place, const osg::Vec3f& offset,
+                 bool isLocal);
 
 /// World translation of a target after a turn about the drag's center. @param turnRad  as
 /// screenTurnAt(); of a ring (turn, 0)
@@ -158,8 +161,8 @@ nbEulerAngles turnedAngles(const TransformStart& start, const HalfTurn& turn,
 nbEulerAngles turnedFreely(const TransformStart& start, const osg::Vec2d& turnRad,
                            const nbEulerAngles& before);
 
-/// Scale times a factor along the axes of a handle; these components are snapped to a step.
-osg::Vec3f scaledBy(const TransformStart& start, ActiveMode handle, float factor, double step,
-                    SnapRule rule = SnapRule::Gathered);
+/// Scale times a factor along a set of axes; these components are snapped to a step.
+osg::Vec3f scaledBy(const TransformStart& start, unsigned axes, float factor, double step,
+                    SnapRule rule);
 
 }  // namespace nbec::manipulator::transform

@@ -25,7 +25,6 @@ namespace nbec::manipulator::transform {
 namespace {
 
 using Mode = ManipulatorMode;
-using Active = ActiveMode;
 using Kind = DragParameters::Kind;
 
 constexpr const char* kLockedWarning = "Selected node cannot be transformed.";
@@ -52,8 +51,8 @@ osg::Vec3f toDegrees(const nbEulerAngles& anglesRad)
 TransformGizmo::TransformGizmo(const TransformSettings& shared, const float& size)
     : Gizmo(CourseRules(), handleTable(), makeMaterials(), static_cast<int>(Mode::Translate), size)
     , stance { &shared }
-    , multiselection(makeGroupNode())
-    , additionalGeometry(makeGroupNode())
+    , multiselection(osg::makeCoredNode<osg::Group>())
+    , additionalGeometry(osg::makeCoredNode<osg::Group>())
 {
     nbNodeUtils::setIsAuxiliaryNode(handles.getRoot(), true);
     nbNodeUtils::setIsAuxiliaryNode(multiselection.get(), true);
@@ -105,14 +104,9 @@ osg::Pnt3f TransformGizmo::centerWorld(const osg::NodePtr& node) const
     if (!hasBegun() || !stance.hasOnePoint(shownMode())) {
         return stance.centre(node, shownMode(), targets);
     }
-    return isTranslation(handle())
+    return drag.action.kind == Kind::Offset
         ? drag.center + (stance.anchor(node, shownMode()) - drag.starts.front().anchor)
         : drag.center;
-}
-
-osg::Quaternion TransformGizmo::axesOf(Active each, const osg::NodePtr& node) const
-{
-    return stance.axesOf(each, shownMode(), node);
 }
 
 void TransformGizmo::place(const View& view)
@@ -126,7 +120,7 @@ void TransformGizmo::place(const View& view)
         watch.remember(view);
         sight = view.sightAt(anchor);
     }
-    const osg::Quaternion worldFromGizmo = axesOf(Active::None, node);
+    const osg::Quaternion worldFromGizmo = stance.axesOf({}, shownMode(), node);
     placeTransform(handles.getRootTransform(), anchor.subZero(), worldFromGizmo,
                    osg::Vec3f(size, size, size));
     families.place(handles, { stance, shownMode(), node, worldFromGizmo, sight, isHeld() });
@@ -170,7 +164,7 @@ bool TransformGizmo::isDisplaced(const View& view) const
     return watch.isElsewhere(node->getToWorld()) ||
         (families.turnWithView() && watch.isSeenOtherwise(view)) ||
         (placed->getTranslation() - centerWorld(node).subZero()).length() > 0.0F ||
-        placed->getRotationQuaternion() != axesOf(Active::None, node);
+        placed->getRotationQuaternion() != stance.axesOf({}, shownMode(), node);
 }
 
 // == Drags
@@ -198,14 +192,14 @@ bool TransformGizmo::prepare(const View& view)
 {
     stance.heldFacing = View().facing();
     GrabbedGizmo held;
-    held.handle = handle();
+    held.action = handles.findRow(getArmed())->action;
     held.mode = shownMode();
-    held.isLocal = isLocal();
+    held.isLocal = stance.isOwn() && !held.action.isOfView;
     held.grabbedPoint = grabbedPoint;
     const osg::Matrix placed = handles.getRoot()->getToWorld();
     held.unit = column(placed, 0).length();
     const osg::NodePtr first = targets.makeEditable(0);
-    held.axes = axesOf(handle(), first);
+    held.axes = stance.axesOf(held.action, shownMode(), first);
     held.axes.getValue(held.frame);
     held.frame.setTranslate(column(placed, 3));
     drag = prepareManipulator(first, held, view, track);
@@ -223,7 +217,7 @@ bool TransformGizmo::prepare(const View& view)
     if (isAnyLocked) {
         nbLog::warning(kLockedWarning);
     }
-    if (snapSettings.geometry != 0 && isTranslation(handle())) {
+    if (snapSettings.geometry != 0 && drag.action.kind == Kind::Offset) {
         snapSearch.begin(movesPivot() ? std::vector<osg::NodePtr>() : targets.edited());
     }
     return true;
@@ -241,34 +235,37 @@ DragStep TransformGizmo::parametersAt(const View& view, const DragTrack& before)
 {
     DragTrack next = before;
     if (findTarget(view, next)) {
-        return { { Kind::Offset, offsetTo(drag, next.target->point, isLocal()) }, next };
+        return { { Kind::Offset, offsetBetween(drag, drag.center, next.target->point, isLocal()) },
+                 next };
     }
     const std::optional<osg::Line> ray = view.pointerRay();
+    const bool isRing = drag.action.kind == Kind::Angle;
     const std::optional<osg::Pnt3f> point =
-        isRing(handle()) ? drag.ring.follow(ray, next) : followPlane(drag.plane, ray, next);
+        isRing ? drag.ring.follow(ray, next) : followPlane(drag.plane, ray, next);
     if (!point) {
         return DragStep();
     }
-    if (isRing(handle())) {
+    if (isRing) {
         return turnAt(*point, next);
     }
-    if (isTurn(handle())) {
+    if (drag.action.kind == Kind::Turns) {
         const osg::Vec2d turn = screenTurnAt(drag, *point) * kDegPerRad;
         const double step = turnStepDeg();
         DragParameters rolled(Kind::Turns, osg::Vec2f());
         rolled.values = { snapped(turn.x(), step), snapped(turn.y(), step), 0.0 };
         return { rolled, next };
     }
-    if (isScale(handle()) && !movesPivot()) {
+    if (drag.action.kind == Kind::Factor && !movesPivot()) {
         return { { Kind::Factor, factorAt(drag, *point, view.upAxis()) }, next };
     }
-    return { { Kind::Offset, snappedOffset(offsetAt(drag, *point, isLocal())) }, next };
+    const osg::Vec3f offset = offsetBetween(drag, drag.dragStartWorld, *point, isLocal());
+    return { { Kind::Offset, snappedOffset(offset) }, next };
 }
 
 /// Looks for a place in the scene that the drag snaps to. @return whether there is one
 bool TransformGizmo::findTarget(const View& view, DragTrack& next) const
 {
-    next.target = isSnapping() && isTranslation(handle())
+    next.target = isSnapping() && drag.action.kind == Kind::Offset
         ? snapSearch.find(view.getPointer(), snapSettings.geometry, snapSettings.reachPx,
                           next.target)
         : std::nullopt;
@@ -281,7 +278,7 @@ osg::Vec3f TransformGizmo::snappedOffset(const osg::Vec3f& offset) const
     if (!isSnapping() || movesPivot()) {  // Deliberate: no step holds pivots.
         return offset;
     }
-    return snapSettings.isAbsolute && !isOfView(handle())
+    return snapSettings.isAbsolute && !drag.action.isOfView
         ? withSnappedPlace(drag, offset, step, isLocal())
         : withSnappedLength(offset, step);
 }
@@ -296,11 +293,11 @@ DragStep TransformGizmo::turnAt(const osg::Pnt3f& point, const DragTrack& before
     DragTrack next = before;
     const osg::Pnt3f place = mapped(drag.inverseDragFrame, point);
     if (movesPivot()) {
-        next.turned = computeRotation(drag.dragStartLocal, place, axisOf(handle()));
+        next.turned = computeRotation(drag.dragStartLocal, place, drag.action.axis());
         return { { Kind::Angle, next.turned * kDegPerRad }, next };
     }
     const double step = 2.0 * turnStepDeg() * kDegreeFactor;
-    double angle = computeRotation(before.last, place, axisOf(handle()));
+    double angle = computeRotation(before.last, place, drag.action.axis());
     const bool isGathered = snapRule == SnapRule::Gathered && !snapSettings.isAbsolute;
     if (isGathered) {
         angle = snapped(angle, step);
@@ -322,19 +319,17 @@ osg::Vec3f TransformGizmo::valueOf(std::size_t target, const DragParameters& par
                                    const HalfTurn& turn)
 {
     const TransformStart& start = drag.starts[target];
-    if (isTurn(handle())) {
-        turned[target] = isRing(handle()) ? turnedAngles(start, turn, turned[target])
-                                          : turnedFreely(start, turnOf(parameters), turned[target]);
+    if (drag.action.isTurn()) {
+        turned[target] = drag.action.kind == Kind::Angle
+            ? turnedAngles(start, turn, turned[target])
+            : turnedFreely(start, turnOf(parameters), turned[target]);
         return toDegrees(turned[target]);
     }
-    const osg::Vec3f offset = isLocal() ? parameters.vec3() : rotated(drag.axes, parameters.vec3());
-    if (movesPivot()) {
-        return movedPivot(start, offset, isLocal());
-    }
-    if (isScale(handle())) {
+    if (drag.action.kind == Kind::Factor && !movesPivot()) {
         return scaleOf(start, parameters);
     }
-    return movedTranslation(start, offset, isLocal());
+    const osg::Vec3f offset = isLocal() ? parameters.vec3() : rotated(drag.axes, parameters.vec3());
+    return moved(start, movesPivot() ? start.pivot : start.translation, offset, isLocal());
 }
 
 osg::Vec3f TransformGizmo::scaleOf(const TransformStart& start,
@@ -342,7 +337,7 @@ osg::Vec3f TransformGizmo::scaleOf(const TransformStart& start,
 {
     const double step =
         isSnapping() && !parameters.isExact ? nbTransformModel::the()->getScalePrecision() : 0.0;
-    return scaledBy(start, handle(), parameters.first(), step, snapRule);
+    return scaledBy(start, drag.action.axes, parameters.first(), step, snapRule);
 }
 
 /// World translation of a target that is turned or scaled about the gizmo's centre. A snapped scale
@@ -350,12 +345,10 @@ osg::Vec3f TransformGizmo::scaleOf(const TransformStart& start,
 osg::Vec3f TransformGizmo::orbitOf(std::size_t target, const DragParameters& parameters)
 {
     const TransformStart& start = drag.starts[target];
-    if (isTurn(handle())) {
+    if (drag.action.isTurn()) {
         return turnedTranslation(drag, start, turnOf(parameters));
     }
-    const osg::UInt32 axis = hasAxis(axisSetOf(handle()), 0) ? 0
-        : hasAxis(axisSetOf(handle()), 1)                    ? 1
-                                                             : 2;
+    const osg::UInt32 axis = firstAxis(drag.action.axes);
     const float scale = valueOf(target, parameters, HalfTurn(0.0))[axis];
     return scaledTranslation(drag, start,
                              start.scale[axis] != 0.0F ? scale / start.scale[axis] : 1.0F);
@@ -375,20 +368,20 @@ void TransformGizmo::apply(const DragParameters& parameters)
                                        : valueFor(i, valueOf(i, parameters, turn));
     };
     const nbScopedUndo scope;
-    if (stance.pivot != GizmoPivot::Own && !movesPivot() && !isTranslation(handle())) {
+    if (stance.pivot != GizmoPivot::Own && !movesPivot() && drag.action.kind != Kind::Offset) {
         model->setTranslation(count, true, [&](osg::UInt32 i) {
             return drag.starts[i].isLocked ? nbTransformModel::Value()
                                            : valueFor(i, orbitOf(i, parameters));
         });
     }
-    if (isTurn(handle())) {
+    if (drag.action.isTurn()) {
         movesPivot() ? model->setRotationPivotOrientation(count, values)
                      : model->setRotation(count, values);
     } else if (shownMode() == Mode::RotatePivot) {
         model->setRotationPivot(count, !isLocal(), values);
     } else if (shownMode() == Mode::ScalePivot) {
         model->setScalePivot(count, !isLocal(), values);
-    } else if (isScale(handle())) {
+    } else if (drag.action.kind == Kind::Factor) {
         model->setScale(count, values);
     } else {
         model->setTranslation(count, !isLocal(), values);
@@ -412,7 +405,7 @@ void TransformGizmo::announce()
 
 DragParameters TransformGizmo::becomes(const DragParameters& parameters) const
 {
-    if (isOfView(handle())) {
+    if (drag.action.isOfView) {
         return {};
     }
     switch (parameters.kind) {
@@ -430,12 +423,12 @@ DragParameters TransformGizmo::becomes(const DragParameters& parameters) const
 
 std::optional<QString> TransformGizmo::describe() const
 {
-    if (movesPivot() && isTurn(handle())) {
+    if (movesPivot() && drag.action.isTurn()) {
         return std::nullopt;  // Deliberate: the text of before stays.
     }
     const osg::NodePtr node = targets.first();
     return node != osg::NullFC && descriptionEnabled
-        ? describeTransform(editedNode(node), handle(), shownMode(), !isLocal(),
+        ? describeTransform(editedNode(node), drag.action, shownMode(), !isLocal(),
                             toDegrees(turned.front()))
         : QString();
 }

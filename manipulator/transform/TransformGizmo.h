@@ -65,17 +65,14 @@ protected:
     ValueText* getText() const override;
 
 private:
-    ActiveMode handle() const { return static_cast<ActiveMode>(getArmed()); }
-
     ManipulatorMode shownMode() const { return static_cast<ManipulatorMode>(getMode()); }
 
     /// Whether offsets are counted in the node's own space.
-    bool isLocal() const { return stance.isOwn() && !isOfView(handle()); }
+    bool isLocal() const { return stance.isOwn() && !drag.action.isOfView; }
 
     bool movesPivot() const { return transform::movesPivot(shownMode()); }
 
     osg::Pnt3f centerWorld(const osg::NodePtr& node) const;
-    osg::Quaternion axesOf(ActiveMode each, const osg::NodePtr& node) const;
     void placeMarks(float size);
     void markTarget(float size);
     bool findTarget(const View& view, DragTrack& next) const;

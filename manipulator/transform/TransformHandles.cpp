@@ -12,6 +12,7 @@ namespace {
 
 using Mode = ManipulatorMode;
 using Active = ActiveMode;
+using Kind = DragParameters::Kind;
 
 /// Order of the materials of a kind; grey exists for lines only. After all of them the disc's.
 enum Color : std::size_t
@@ -61,12 +62,17 @@ HandlePart line(HandleShape shape, std::size_t color)
     return { shape, { kSolidCount + color, kSolidCount + Orange, kSolidCount + color } };
 }
 
-HandleRow row(const char* name, Active handle, Family family, std::vector<HandlePart> parts,
-              HandleModes visibleIn, HandleHolder holder, Turn turn)
+HandleRow row(const char* name, Active handle, const HandleAction& action,
+              std::vector<HandlePart> parts, HandleModes visibleIn, HandleHolder holder, Turn turn)
 {
-    return {
+    const Family family = action.kind == Kind::Offset ? Translation
+        : action.kind == Kind::Factor                 ? Scaling
+                                                      : Rotation;
+    HandleRow made {
         name, static_cast<int>(handle), family, std::move(parts), visibleIn, holder, {}, turn
     };
+    made.action = action;
+    return made;
 }
 
 HandleRow arrow(const char* name, Active handle, std::size_t axis)
@@ -74,8 +80,9 @@ HandleRow arrow(const char* name, Active handle, std::size_t axis)
     HandlePart head = solid(HandleShape::ArrowHead, axis);
     head.holder = HandleHolder::Component;
     head.place = { 0.0F, 1.0F, 0.0F };
-    HandleRow placed = row(name, handle, Translation, { line(HandleShape::ArrowShaft, axis), head },
-                           kWithTranslation, HandleHolder::Component, kOntoAxis[axis]);
+    HandleRow placed = row(name, handle, { Kind::Offset, axisBit(axis) },
+                           { line(HandleShape::ArrowShaft, axis), head }, kWithTranslation,
+                           HandleHolder::Component, kOntoAxis[axis]);
     placed.place[axis] = 1.0F;
     placed.letter = "XYZ"[axis];
     placed.tip = kArrowTip;
@@ -85,7 +92,7 @@ HandleRow arrow(const char* name, Active handle, std::size_t axis)
 HandleRow scaleHandle(const char* name, Active handle, std::size_t axis)
 {
     HandleRow placed =
-        row(name, handle, Scaling,
+        row(name, handle, { Kind::Factor, axisBit(axis) },
             { line(HandleShape::ScaleShaft, axis), solid(HandleShape::ScaleCube, axis) },
             kWithScale, HandleHolder::Euler, kOntoAxis[axis]);
     placed.letter = "XYZ"[axis];
@@ -97,15 +104,16 @@ HandleRow ring(const char* name, Active handle, std::size_t axis, HandleModes vi
 {
     HandlePart axisLine = line(HandleShape::RingAxis, axis);
     axisLine.isOfDrag = true;
-    return row(name, handle, Rotation, { line(HandleShape::Ring, axis), axisLine }, visibleIn,
-               HandleHolder::Euler, kOntoAxis[axis]);
+    return row(name, handle, { Kind::Angle, axisBit(axis) },
+               { line(HandleShape::Ring, axis), axisLine }, visibleIn, HandleHolder::Euler,
+               kOntoAxis[axis]);
 }
 
 /// Of the squares that scale, so that the cube in the middle can be grabbed.
 constexpr float kBesideCube = 0.3F;
 
-/// A square that moves in its plane, or scales it.
-HandleRow planeHandle(const char* name, Active handle)
+/// A square that moves in its plane, or scales it. @param normal  axis at right angles
+HandleRow planeHandle(const char* name, Active handle, Kind kind, std::size_t normal)
 {
     // By the axis at right angles. Deliberate: the colours (patch, bar, bar) do not follow one
     // rule: xz has two red bars, yz two blue ones.
@@ -113,18 +121,16 @@ HandleRow planeHandle(const char* name, Active handle)
     constexpr Color kColors[][3] = { { Green, Blue, Blue },
                                      { Blue, Red, Red },
                                      { Green, Red, Green } };
-    const osg::UInt32 normal = planeNormalAxis(handle) % 3;  // of these handles always an axis
     const Color(&colors)[3] = kColors[normal];
-    const bool scales = isScale(handle);
+    const bool scales = kind == Kind::Factor;
     HandleRow placed =
-        row(name, handle, scales ? Scaling : Translation,
+        row(name, handle, { kind, kAllAxes & ~axisBit(normal) },
             { solid(HandleShape::PlanePatch, colors[0]), solid(HandleShape::PlaneBarX, colors[1]),
               solid(HandleShape::PlaneBarY, colors[2]) },
             scales ? modes(Mode::Scale) : kWithTranslation,
             scales ? HandleHolder::Euler : HandleHolder::Component, kTurns[normal]);
     for (std::size_t axis = 0; axis < 3; ++axis) {
-        const bool isAside = scales && hasAxis(axisSetOf(handle), axis);
-        placed.place[axis] = isAside ? kBesideCube : 0.0F;
+        placed.place[axis] = scales && axis != normal ? kBesideCube : 0.0F;
     }
     return placed;
 }
@@ -140,32 +146,22 @@ HandlePart scaled(HandlePart part, float x, float y, float z)
 /// outer ring; and a flat sphere.
 std::vector<HandleRow> screenHandles()
 {
+    constexpr unsigned kAcross = axisBit(0) | axisBit(1);
     constexpr float kSide = 0.35F;
     constexpr float kLarger = 1.2F;
     constexpr float kBall = kTrackballRadius / 0.125F;
     const HandlePart fill { HandleShape::Square, { kFaint, kFaint, kFaint } };
     const HandlePart ball { HandleShape::CentreSphere, { kClear, kFaint, kClear } };
-    return { row("vaShape", Active::TranslateView, Translation,
+    return { row("vaShape", Active::TranslateView, { Kind::Offset, kAcross, true },
                  { scaled(line(HandleShape::SquareOutline, Yellow), kSide, kSide, 1.0F),
                    scaled(fill, kSide, kSide, 1.0F) },
                  kWithTranslation & ~modes(Mode::Universal), HandleHolder::Euler, Turn::None),
-             row("rvShape", Active::RotateView, Rotation,
+             row("rvShape", Active::RotateView, { Kind::Angle, axisBit(2), true },
                  { scaled(line(HandleShape::Ring, Yellow), kLarger, kLarger, kLarger) },
                  kWithFreeRotation, HandleHolder::Euler, Turn::OntoZ),
-             row("rtShape", Active::RotateFree, Rotation, { scaled(ball, kBall, kBall, 0.1F) },
-                 kWithFreeRotation, HandleHolder::Euler, Turn::None) };
-}
-
-HandleAction actionOf(Active handle)
-{
-    using Kind = DragParameters::Kind;
-    if (handle == Active::RotateFree) {
-        return { Kind::Turns, axisBit(0) | axisBit(1), true };
-    }
-    return { isTranslation(handle) ? Kind::Offset
-                 : isRing(handle)  ? Kind::Angle
-                                   : Kind::Factor,
-             axisSetOf(handle), isOfView(handle) };
+             row("rtShape", Active::RotateFree, { Kind::Turns, kAcross, true },
+                 { scaled(ball, kBall, kBall, 0.1F) }, kWithFreeRotation, HandleHolder::Euler,
+                 Turn::None) };
 }
 
 HandleRow marker(HandleShape shape, std::size_t color, HandleModes visibleIn)
@@ -183,14 +179,15 @@ HandleTable makeTable(bool hasFurther)
         scaleHandle("xsShape", Active::ScaleX, 0),
         scaleHandle("ysShape", Active::ScaleY, 1),
         scaleHandle("zsShape", Active::ScaleZ, 2),
-        row("grid", Active::ScaleUniform, Scaling, { solid(HandleShape::Cube, Yellow) },
-            kWithUniformScale, HandleHolder::Euler, Turn::None),
+        row("grid", Active::ScaleUniform, { Kind::Factor, kAllAxes },
+            { solid(HandleShape::Cube, Yellow) }, kWithUniformScale, HandleHolder::Euler,
+            Turn::None),
         ring("rxShape", Active::RotateX, 0, kWithRotationX),
         ring("ryShape", Active::RotateY, 1, kWithRotation),
         ring("rzShape", Active::RotateZ, 2, kWithRotation),
-        planeHandle("xyaShape", Active::TranslateXY),
-        planeHandle("xzaShape", Active::TranslateXZ),
-        planeHandle("yzaShape", Active::TranslateYZ),
+        planeHandle("xyaShape", Active::TranslateXY, Kind::Offset, 2),
+        planeHandle("xzaShape", Active::TranslateXZ, Kind::Offset, 1),
+        planeHandle("yzaShape", Active::TranslateYZ, Kind::Offset, 0),
         marker(HandleShape::CentreSphere, Yellow, modes(Mode::RotatePivot)),
         marker(HandleShape::Cube, Purple, modes(Mode::ScalePivot)),
     };
@@ -198,14 +195,9 @@ HandleTable makeTable(bool hasFurther)
         const std::vector<HandleRow> screen = screenHandles();
         table.rows.insert(table.rows.end(), screen.begin(), screen.end());
         table.rows.insert(table.rows.end(),
-                          { planeHandle("xysShape", Active::ScaleXY),
-                            planeHandle("xzsShape", Active::ScaleXZ),
-                            planeHandle("yzsShape", Active::ScaleYZ) });
-    }
-    for (HandleRow& row : table.rows) {
-        if (row.handle != 0) {
-            row.action = actionOf(static_cast<Active>(row.handle));
-        }
+                          { planeHandle("xysShape", Active::ScaleXY, Kind::Factor, 2),
+                            planeHandle("xzsShape", Active::ScaleXZ, Kind::Factor, 1),
+                            planeHandle("yzsShape", Active::ScaleYZ, Kind::Factor, 0) });
     }
     // In the order of the modes' values.
     constexpr unsigned kBoth = modes(Translation, Rotation);

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/transform/TransformStance.h"
 
-#include "manipulator/course/View.h"
 #include "manipulator/drag/DragGeometry.h"
 #include "manipulator/scene/TargetFrame.h"
 
@@ -38,18 +37,15 @@ osg::Pnt3f TransformStance::centre(const osg::NodePtr& node, ManipulatorMode mod
     return osg::Pnt3f(sum * (1.0F / count));
 }
 
-osg::Quaternion TransformStance::facing() const
-{
-    return heldFacing ? *heldFacing : View().facing();
-}
-
-osg::Quaternion TransformStance::axesOf(ActiveMode handle, ManipulatorMode mode,
+osg::Quaternion TransformStance::axesOf(const HandleAction& action, ManipulatorMode mode,
                                         const osg::NodePtr& node) const
 {
-    if (isOfView(handle)) {
+    using Kind = DragParameters::Kind;
+    if (action.isOfView) {
         return facing();
     }
-    if (isScale(handle) || (handle == ActiveMode::None && mode == ManipulatorMode::Scale)) {
+    if (action.kind == Kind::Factor ||
+        (action.kind == Kind::None && mode == ManipulatorMode::Scale)) {
         return worldRotation(node);  // nothing can be scaled along other axes
     }
     if (!isOwn()) {
@@ -68,7 +64,8 @@ osg::Quaternion TransformStance::axesOf(ActiveMode handle, ManipulatorMode mode,
     if (transform == osg::NullFC) {
         return worldRotation(node);
     }
-    return isRing(handle) && transform->getRotationMode() == osg::Transform3D::AxisAlignedMode
+    return action.kind == Kind::Angle &&
+            transform->getRotationMode() == osg::Transform3D::AxisAlignedMode
         ? osg::Quaternion(orthonormalised(parentToWorld(node)))
         : pivotAxesInWorld(node, transform);
 }

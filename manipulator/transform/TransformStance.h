@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "manipulator/course/View.h"
+#include "manipulator/drag/DragParameters.h"
 #include "manipulator/transform/TransformModes.h"
 #include "manipulator/transform/TransformTargets.h"
 
@@ -50,11 +52,12 @@ struct TransformStance
                       const TransformTargets& targets) const;
 
     /// Turn of the camera, or as it was when the drag began.
-    osg::Quaternion facing() const;
+    osg::Quaternion facing() const { return heldFacing ? *heldFacing : View().facing(); }
 
-    /// The axes along which a handle is drawn and works. @param handle  None for the gizmo as a
-    /// whole
-    osg::Quaternion axesOf(ActiveMode handle, ManipulatorMode mode, const osg::NodePtr& node) const;
+    /// The axes along which a handle is drawn and works. @param action  of no kind for the gizmo as
+    /// a whole
+    osg::Quaternion axesOf(const HandleAction& action, ManipulatorMode mode,
+                           const osg::NodePtr& node) const;
 };
 
 }  // namespace nbec::manipulator::transform

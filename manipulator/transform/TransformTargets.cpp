@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/transform/TransformTargets.h"
 
-#include "manipulator/handles/ContainerReference.h"
 #include "manipulator/scene/TargetFrame.h"
 
 #include <nbOpenSGExt/Transform3D.h>
+#include <nbOpenSGExt/nbContainerId.h>
 #include <nbOpenSGUtils/nbNodePermission.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 

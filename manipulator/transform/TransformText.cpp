@@ -16,15 +16,15 @@ using Mode = ManipulatorMode;
 
 }  // namespace
 
-QString describeTransform(const osg::NodePtr& node, ActiveMode handle, ManipulatorMode mode,
-                          bool worldSpace, const osg::Vec3f& anglesDeg)
+QString describeTransform(const osg::NodePtr& node, const HandleAction& action,
+                          ManipulatorMode mode, bool worldSpace, const osg::Vec3f& anglesDeg)
 {
-    if (isTurn(handle)) {
+    if (action.isTurn()) {
         return mode == Mode::Rotate
             ? describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Rotation ("), anglesDeg)
             : QString();
     }
-    if (isScale(handle)) {
+    if (action.kind == DragParameters::Kind::Factor) {
         return mode == Mode::Scale
             ? describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Scale ("),
                              nbNodeUtils::getTransformNodeScale(node))

@@ -3,8 +3,7 @@
 
 #include <nbKernel/nbOSGWidget.h>
 #include <nbKernel/nbScenegraph.h>
-
-#include <OpenSG/OSGFieldContainerFactory.h>
+#include <nbOpenSGExt/nbContainerId.h>
 
 #include <algorithm>
 
@@ -18,12 +17,6 @@
 namespace nbec::interaction {
 
 namespace {
-
-osg::NodePtr nodeOf(osg::UInt32 id)
-{
-    return id == 0 ? osg::NodePtr()
-                   : osg::NodePtr::dcast(osg::FieldContainerFactory::the()->getContainer(id));
-}
 
 /// What moves the pointer of the main widget, and what that means for handles.
 struct Pointer
@@ -71,7 +64,7 @@ Picker::~Picker() = default;
 
 osg::NodePtr Picker::getPickNode() const
 {
-    return nodeOf(pickNodeId);
+    return resolveContainer<osg::NodePtr>(pickNodeId);
 }
 
 void Picker::setSlop(const std::optional<PickSlop>& reach)
@@ -133,11 +126,13 @@ osg::NodePtr Picker::pickAt(const osg::Pnt2f& px, const HandleRank& rankOf)
         detail::HandleHit hit;
         std::function<int(osg::UInt32)> rankOfId;
         if (rankOf) {
-            rankOfId = [&rankOf](osg::UInt32 id) { return rankOf(nodeOf(id)); };
+            rankOfId = [&rankOf](osg::UInt32 id) {
+                return rankOf(resolveContainer<osg::NodePtr>(id));
+            };
         }
         if (handlePicking->pick(getPickNode(), root, *view, centre,
                                 pointer().reach(nbOSGWidget::getPixelRatio(-1)), rankOfId, hit)) {
-            const osg::NodePtr node = nodeOf(hit.nodeId);
+            const osg::NodePtr node = resolveContainer<osg::NodePtr>(hit.nodeId);
             rememberHit(node, hit.point, hit.normal);
             return node;
         }
@@ -188,7 +183,7 @@ void Picker::forgetHit()
 
 osg::NodePtr Picker::getHitNode() const
 {
-    return nodeOf(hitNodeId);
+    return resolveContainer<osg::NodePtr>(hitNodeId);
 }
 
 void Picker::buildTrees(const osg::NodePtr& root)

@@ -3,8 +3,7 @@
 
 #include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGExt/Transform3D.h>
-
-#include <OpenSG/OSGFieldContainerFactory.h>
+#include <nbOpenSGExt/nbContainerId.h>
 
 #include <algorithm>
 #include <cmath>
@@ -145,7 +144,7 @@ void SnapSearch::Scene::addMarks(const detail::PickItem& item,
             { Kind::Centre,
               item.worldBounds.min + (item.worldBounds.max - item.worldBounds.min) * 0.5F });
     }
-    auto node = osg::NodePtr::dcast(osg::FieldContainerFactory::the()->getContainer(item.nodeId));
+    auto node = resolveContainer<osg::NodePtr>(item.nodeId);
     for (; node != osg::NullFC && known.insert(node.getFieldContainerId()).second;
          node = node->getParent()) {
         if (const auto transform = osg::Transform3DPtr::dcast(node->getCore());

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "nbTransformTable.h"
 
-#include <OpenSG/OSGFieldContainerFactory.h>
+#include <nbOpenSGExt/nbContainerId.h>
 
 #include <utility>
 
@@ -15,14 +15,9 @@ struct TransformChange
     nbTransformState after;
 };
 
-osg::Transform3DPtr findCore(osg::UInt32 id)
-{
-    return osg::Transform3DPtr::dcast(osg::FieldContainerFactory::the()->getContainer(id));
-}
-
 void restore(osg::UInt32 id, const nbTransformState& state)
 {
-    const osg::Transform3DPtr core = findCore(id);
+    const osg::Transform3DPtr core = resolveContainer<osg::Transform3DPtr>(id);
     if (core != osg::NullFC) {
         state.applyTo(core);
     }
@@ -72,7 +67,7 @@ std::unique_ptr<nbUndoRecord> nbTransformTable::makeRecord() const
 {
     std::vector<TransformChange> changes;
     for (std::size_t i = 0; i < ids.size(); ++i) {
-        const osg::Transform3DPtr core = findCore(ids[i]);
+        const osg::Transform3DPtr core = resolveContainer<osg::Transform3DPtr>(ids[i]);
         if (core == osg::NullFC) {
             continue;
         }

@@ -2,10 +2,9 @@
 #include "nbdNode.h"
 
 #include <nbKernelServices/nbObjectService.h>
+#include <nbOpenSGExt/nbContainerId.h>
 #include <nbOpenSGUtils/nbNodePermission.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
-
-#include <OpenSG/OSGFieldContainerFactory.h>
 
 nbdNode::nbdNode(const nbdObject& object)
     : nbdObject(object.getKind() != Kind::PerspectiveMatch ? object : nbdObject())
@@ -13,10 +12,7 @@ nbdNode::nbdNode(const nbdObject& object)
 
 osg::NodePtr nbdNode::getNode() const
 {
-    if (isNull()) {
-        return osg::NullFC;
-    }
-    return osg::NodePtr::dcast(osg::FieldContainerFactory::the()->getContainer(getId()));
+    return isNull() ? osg::NodePtr() : resolveContainer<osg::NodePtr>(getId());
 }
 
 QString nbdNode::getName() const

@@ -1,17 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "nbdObject.h"
 
+#include <nbOpenSGExt/nbContainerId.h>
 #include <nbOpenSGUberCamera/nbUberCameraPool.h>
 
-#include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGNode.h>
 
 bool nbdObject::isNull() const
 {
     switch (kind) {
     case Kind::Node:
-        return osg::NodePtr::dcast(osg::FieldContainerFactory::the()->getContainer(id)) ==
-            osg::NullFC;
+        return resolveContainer<osg::NodePtr>(id) == osg::NullFC;
     case Kind::CameraNode:
     case Kind::PerspectiveMatch:
         return nbUberCameraPool::getByNode(id) == osg::NullFC;

@@ -1,17 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include <nbOpenSGExt/nbContainerId.h>
 #include <nbOpenSGSelection/nbNodeSet.h>
-
-#include <OpenSG/OSGFieldContainerFactory.h>
 
 #include <algorithm>
 #include <utility>
 
 namespace {
-
-osg::NodePtr nodeOf(osg::UInt32 id)
-{
-    return osg::NodePtr::dcast(osg::FieldContainerFactory::the()->getContainer(id));
-}
 
 bool hasId(const std::vector<osg::UInt32>& ids, osg::UInt32 id)
 {
@@ -84,7 +78,7 @@ std::vector<osg::NodePtr> nbNodeSet::getNodes() const
 {
     std::vector<osg::NodePtr> nodes;
     for (const osg::UInt32 id : livingIds()) {
-        nodes.push_back(nodeOf(id));
+        nodes.push_back(resolveContainer<osg::NodePtr>(id));
     }
     return nodes;
 }
@@ -98,7 +92,7 @@ nbNodeSet::Ids nbNodeSet::livingIds() const
 {
     Ids living;
     std::copy_if(ids.begin(), ids.end(), std::back_inserter(living),
-                 [](osg::UInt32 id) { return nodeOf(id) != osg::NullFC; });
+                 [](osg::UInt32 id) { return resolveContainer<osg::NodePtr>(id) != osg::NullFC; });
     return living;
 }
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <nbOpenSGExt/nbContainerId.h>
 #include <nbOpenSGUberCamera/nbUberCameraPool.h>
-
-#include <OpenSG/OSGFieldContainerFactory.h>
 
 #include <algorithm>
 #include <vector>
@@ -25,10 +24,7 @@ std::vector<PoolEntry>& entries()
 
 osg::UberCameraPtr nbUberCameraPool::get(osg::UInt32 id)
 {
-    if (id == 0) {
-        return osg::NullFC;
-    }
-    return osg::UberCameraPtr::dcast(osg::FieldContainerFactory::the()->getContainer(id));
+    return resolveContainer<osg::UberCameraPtr>(id);
 }
 
 osg::UberCameraPtr nbUberCameraPool::getByNode(osg::UInt32 nodeId)

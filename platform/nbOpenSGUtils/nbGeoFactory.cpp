@@ -62,29 +62,29 @@ osg::GeometryPtr nbGeoFactory::makeGeo(GLenum type, const std::vector<osg::Pnt3f
                                        const std::vector<osg::UInt32>& pointIndices)
 {
     const osg::GeoPositions3fPtr positions = osg::GeoPositions3f::create();
-    const osg::GeoIndicesUI32Ptr indices = osg::GeoIndicesUI32::create();
     const osg::GeoPTypesUI8Ptr types = osg::GeoPTypesUI8::create();
     const osg::GeoPLengthsUI32Ptr lengths = osg::GeoPLengthsUI32::create();
-    {
-        const nbEdit positionEdit(positions, osg::FieldBits::AllFields);
-        const nbEdit indexEdit(indices, osg::FieldBits::AllFields);
-        const nbEdit typeEdit(types, osg::FieldBits::AllFields);
-        const nbEdit lengthEdit(lengths, osg::FieldBits::AllFields);
-        for (const osg::Pnt3f& point : points) {
-            positions->addValue(point);
-        }
-        for (const osg::UInt32 index : pointIndices) {
-            indices->addValue(index);
-        }
-        types->addValue(type);
-        lengths->addValue(static_cast<osg::UInt32>(pointIndices.size()));
-    }
-
     const osg::GeometryPtr geometry = osg::Geometry::create();
+    const nbEdit positionEdit(positions, osg::FieldBits::AllFields);
+    const nbEdit typeEdit(types, osg::FieldBits::AllFields);
+    const nbEdit lengthEdit(lengths, osg::FieldBits::AllFields);
     const nbEdit edit(geometry, osg::FieldBits::AllFields);
+    for (const osg::Pnt3f& point : points) {
+        positions->addValue(point);
+    }
+    types->addValue(type);
+    lengths->addValue(
+        static_cast<osg::UInt32>(pointIndices.empty() ? points.size() : pointIndices.size()));
     geometry->setTypes(types);
     geometry->setLengths(lengths);
     geometry->setPositions(positions);
-    geometry->setIndices(indices);
+    if (!pointIndices.empty()) {
+        const osg::GeoIndicesUI32Ptr indices = osg::GeoIndicesUI32::create();
+        const nbEdit indexEdit(indices, osg::FieldBits::AllFields);
+        for (const osg::UInt32 index : pointIndices) {
+            indices->addValue(index);
+        }
+        geometry->setIndices(indices);
+    }
     return geometry;
 }

@@ -8,7 +8,7 @@
 
 #include <vector>
 
-/// Makes geometry, most of it of lines, with indices, no normals, material null.
+/// Makes geometry, most of it of lines, no normals, material null.
 /// Results have reference count 0 and belong to the caller. Arguments that make no shape give null.
 class NB_PLATFORM_API nbGeoFactory
 {
@@ -31,7 +31,8 @@ public:
 
     /// A geometry of one primitive over shared points.
     /// @param type          such as GL_LINES or GL_TRIANGLES
-    /// @param pointIndices  of the primitive's corners
+    /// @param pointIndices  of the primitive's corners; empty: the points in their order, and the
+    /// geometry has no indices
     static osg::GeometryPtr makeGeo(GLenum type, const std::vector<osg::Pnt3f>& points,
-                                    const std::vector<osg::UInt32>& pointIndices);
+                                    const std::vector<osg::UInt32>& pointIndices = {});
 };

@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "nbSceneplateChange.h"
 
+#include <nbOpenSGExt/nbContainerId.h>
 #include <nbOpenSGExt/nbIsFinite.h>
 #include <nbOpenSGSceneplate/nbSceneplateLayout.h>
 #include <nbOpenSGSceneplate/nbSceneplateList.h>
 #include <nbOpenSGUtils/nbEdit.h>
 #include <nbUtils/nbLog.h>
 #include <nbUtils/nbMessage.h>
-
-#include <OpenSG/OSGFieldContainerFactory.h>
 
 #include <QtGui/QVector2D>
 
@@ -45,8 +44,7 @@ float wrapped(double degrees)
 
 osg::SceneplatePtr findPlate(osg::UInt32 nodeId)
 {
-    return nbSceneplateList::plateOf(
-        osg::NodePtr::dcast(osg::FieldContainerFactory::the()->getContainer(nodeId)));
+    return nbSceneplateList::plateOf(resolveContainer<osg::NodePtr>(nodeId));
 }
 
 }  // namespace

@@ -72,16 +72,16 @@ TEST(TransformDrag, FactorsHaveAFloorAndAnglesASign)
 {
     transform::TransformDrag drag;
     drag.scaleAnchor = Vec3f(2, 4, 1e-7F);
-    const auto factor = [&drag](transform::ActiveMode handle, const Pnt3f& point) {
-        drag.handle = handle;
+    const auto factor = [&drag](unsigned axes, const Pnt3f& point) {
+        drag.action = { DragParameters::Kind::Factor, axes };
         return factorAt(drag, point, 1);
     };
 
-    EXPECT_EQ(factor(transform::ActiveMode::ScaleZ, Pnt3f(5, 8, 6)), 1) << "too near to divide by";
+    EXPECT_EQ(factor(axisBit(2), Pnt3f(5, 8, 6)), 1) << "too near to divide by";
     drag.unit = 1e-2F;
-    EXPECT_GT(factor(transform::ActiveMode::ScaleZ, Pnt3f(5, 8, 6)), 1e6) << "the gizmo is small";
-    EXPECT_FLOAT_EQ(factor(transform::ActiveMode::ScaleX, Pnt3f(-1, -2, -3)), 0.01);
-    EXPECT_FLOAT_EQ(factor(transform::ActiveMode::ScaleUniform, Pnt3f(-1, -90, -3)), 0.1);
+    EXPECT_GT(factor(axisBit(2), Pnt3f(5, 8, 6)), 1e6) << "the gizmo is small";
+    EXPECT_FLOAT_EQ(factor(axisBit(0), Pnt3f(-1, -2, -3)), 0.01);
+    EXPECT_FLOAT_EQ(factor(kAllAxes, Pnt3f(-1, -90, -3)), 0.1);
     EXPECT_NEAR(transform::computeRotation(Pnt3f(0, 2, 0), Pnt3f(5, 0, 3), 0), 1.5707963, 1e-6);
     EXPECT_NEAR(transform::computeRotation(Pnt3f(0, 1, 0), Pnt3f(1, 0, 0), 2), -1.5707963, 1e-6);
 }

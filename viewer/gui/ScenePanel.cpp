@@ -6,10 +6,9 @@
 #include "viewer/stage/Stage.h"
 
 #include <nbKernel/nbScenegraph.h>
+#include <nbOpenSGExt/nbContainerId.h>
 #include <nbOpenSGUtils/nbNodePermission.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
-
-#include <OpenSG/OSGFieldContainerFactory.h>
 
 #include <QJsonArray>
 #include <QSignalBlocker>
@@ -98,8 +97,7 @@ void ScenePanel::showStates()
 {
     const QSignalBlocker blocker(tree);
     for (QTreeWidgetItemIterator item(tree); *item != nullptr; ++item) {
-        const auto node = osg::NodePtr::dcast(
-            osg::FieldContainerFactory::the()->getContainer((*item)->data(0, kIdRole).toUInt()));
+        const auto node = resolveContainer<osg::NodePtr>((*item)->data(0, kIdRole).toUInt());
         const QString name = QString::fromStdString(nbNodeUtils::getName(node));
         const bool isLocked = !nbNodePermission::allows(node, nbNodePermission::Transform);
         (*item)->setText(0, name.isEmpty() ? tr("(no name)") : name);

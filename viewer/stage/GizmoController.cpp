@@ -8,10 +8,9 @@
 #include <nbInteraction/SnapSearch.h>
 #include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbUndoService.h>
+#include <nbOpenSGExt/nbContainerId.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 #include <nbTransform/nbTransformModel.h>
-
-#include <OpenSG/OSGFieldContainerFactory.h>
 
 #include <QString>
 
@@ -165,7 +164,7 @@ std::vector<osg::NodePtr> GizmoController::targets() const
 {
     std::vector<osg::NodePtr> nodes;
     for (const osg::UInt32 id : targetIds) {
-        const auto node = osg::NodePtr::dcast(osg::FieldContainerFactory::the()->getContainer(id));
+        const auto node = resolveContainer<osg::NodePtr>(id);
         if (node != osg::NullFC) {
             nodes.push_back(node);
         }

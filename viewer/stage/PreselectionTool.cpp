@@ -9,9 +9,8 @@
 #include <nbInteraction/ToolInteractionContext.h>
 #include <nbKernel/nbOSGWidget.h>
 #include <nbKernel/nbScenegraph.h>
+#include <nbOpenSGExt/nbContainerId.h>
 #include <nbOpenSGSelection/nbSelection.h>
-
-#include <OpenSG/OSGFieldContainerFactory.h>
 
 #include <algorithm>
 #include <vector>
@@ -104,7 +103,7 @@ osg::NodePtr PreselectionTool::getPreselected() const
     if (preselectedId == 0 || !nbScenegraph::isPreselectionEnabled()) {
         return {};
     }
-    return osg::NodePtr::dcast(osg::FieldContainerFactory::the()->getContainer(preselectedId));
+    return resolveContainer<osg::NodePtr>(preselectedId);
 }
 
 }  // namespace viewer

@@ -1,18 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "ConversionRecord.h"
 
+#include <nbOpenSGExt/nbContainerId.h>
 #include <nbOpenSGUtils/nbEdit.h>
-
-#include <OpenSG/OSGFieldContainerFactory.h>
 
 namespace {
 
 const osg::BitVector kStructure = osg::Node::CoreFieldMask | osg::Node::ChildrenFieldMask;
-
-osg::NodePtr findNode(osg::UInt32 id)
-{
-    return osg::NodePtr::dcast(osg::FieldContainerFactory::the()->getContainer(id));
-}
 
 void moveChildren(const osg::NodePtr& from, const osg::NodePtr& to)
 {
@@ -36,7 +30,7 @@ ConversionRecord::ConversionRecord(const nbNodeConversion& done)
 
 void ConversionRecord::undo()
 {
-    const osg::NodePtr node = findNode(nodeId);
+    const osg::NodePtr node = resolveContainer<osg::NodePtr>(nodeId);
     if (node == osg::NullFC || node->getCore() != newCore) {
         return;
     }
@@ -53,7 +47,7 @@ void ConversionRecord::undo()
 
 void ConversionRecord::redo()
 {
-    const osg::NodePtr node = findNode(nodeId);
+    const osg::NodePtr node = resolveContainer<osg::NodePtr>(nodeId);
     if (node == osg::NullFC || node->getCore() != oldCore) {
         return;
     }

@@ -7,11 +7,11 @@
 #include <nbKernelServices/nbUndoService.h>
 #include <nbMaterialEditor/detail/ComponentState.h>
 #include <nbMaterialEditor/detail/ProjectionPlacing.h>
+#include <nbOpenSGExt/nbContainerId.h>
 #include <nbOpenSGExt/nbIsFinite.h>
 #include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
-#include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGGeometry.h>
 
 namespace {
@@ -53,12 +53,12 @@ void EditedComponent::setTarget(const osg::MaterialPtr& material, const osg::Nod
 
 osg::UberMaterialPtr EditedComponent::material() const
 {
-    return osg::UberMaterialPtr::dcast(osg::FieldContainerFactory::the()->getContainer(materialId));
+    return resolveContainer<osg::UberMaterialPtr>(materialId);
 }
 
 osg::NodePtr EditedComponent::object() const
 {
-    return osg::NodePtr::dcast(osg::FieldContainerFactory::the()->getContainer(objectId));
+    return resolveContainer<osg::NodePtr>(objectId);
 }
 
 osg::ColorComponentSettingsPtr EditedComponent::settings() const

@@ -4,8 +4,6 @@
 #include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGFieldContainerPtr.h>
 
-namespace nbec::manipulator {
-
 /// Id under which a container can be found again without keeping it alive. @return 0 for null
 template <class Pointer>
 osg::UInt32 containerId(const Pointer& container)
@@ -13,17 +11,11 @@ osg::UInt32 containerId(const Pointer& container)
     return container != osg::NullFC ? container.getFieldContainerId() : 0;
 }
 
-/// The container with an id from containerId(), if it still exists and is of the pointer's class or
-/// derived from it.
-/// @param id  container id, 0 = none @return null for 0, a destroyed container or one of another
-/// class
+/// The container with an id from containerId(). @return null for 0, a destroyed container, or one
+/// that is neither of the pointer's class nor derived from it
 template <class Pointer>
 Pointer resolveContainer(osg::UInt32 id)
 {
-    if (id == 0) {
-        return Pointer();
-    }
-    return Pointer::dcast(osg::FieldContainerFactory::the()->getContainer(id));
+    return id != 0 ? Pointer::dcast(osg::FieldContainerFactory::the()->getContainer(id))
+                   : Pointer();
 }
-
-}  // namespace nbec::manipulator
