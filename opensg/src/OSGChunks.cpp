@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// @file
-/// The chunks that are little more than their fields.
+/// The base of chunks, and those that are little more than their fields.
 #include <OpenSG/OSGBlendChunk.h>
 #include <OpenSG/OSGDepthChunk.h>
 #include <OpenSG/OSGLineChunk.h>
@@ -9,6 +9,20 @@
 #include <OpenSG/OSGTextureChunk.h>
 
 namespace osg {
+
+OSG_ABSTRACT_CONTAINER_TYPE(StateChunk, Attachment);
+
+StateChunkClass::StateChunkClass(const Char8* /*name*/, UInt32 slots)
+{
+    static UInt32 usedIds = 0;
+    id = usedIds;
+    usedIds += slots;
+}
+
+bool StateChunk::isTransparent() const
+{
+    return false;
+}
 
 OSG_STATE_CHUNK_TYPE(BlendChunk, StateChunk);
 OSG_STATE_CHUNK_TYPE(DepthChunk, StateChunk);

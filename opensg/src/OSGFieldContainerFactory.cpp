@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <OpenSG/OSGAttachment.h>
+#include <OpenSG/OSGBaseFunctions.h>
 #include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGLog.h>
 #include <OpenSG/OSGNode.h>
@@ -147,6 +148,18 @@ AttachmentPtr FieldContainerFactory::createAttachment(const Char8* name) const
     const FieldContainerType* const type = findType(name);
     return type != nullptr && type->isAttachment() ? AttachmentPtr::dcast(type->createContainer())
                                                    : AttachmentPtr();
+}
+
+bool osgInit(Int32, Char8**, UInt16, UInt16, UInt16)
+{
+    FieldContainerFactory::the()->initializePendingTypes();
+    return true;
+}
+
+bool osgExit()
+{
+    FieldContainerFactory::the()->terminate();
+    return true;
 }
 
 }  // namespace osg

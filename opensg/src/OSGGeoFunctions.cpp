@@ -31,13 +31,15 @@ void scaleToUnit(Vec3f& normal)
     normal = length > 0.0F ? normal * (1.0F / length) : Vec3f(0.0F, 0.0F, 1.0F);
 }
 
-/// All triangles whose positions exist.
+/// All triangles whose positions exist; none of a null geometry.
 std::vector<Triangle> trianglesOf(const GeometryPtr& geometry)
 {
     std::vector<Triangle> result;
+    if (geometry == NullFC || geometry->getPositions() == NullFC) {
+        return result;
+    }
     const GeometryView view(geometry);
-    const UInt32 positionCount =
-        geometry->getPositions() != NullFC ? geometry->getPositions()->getSize() : 0;
+    const UInt32 positionCount = geometry->getPositions()->getSize();
     UInt32 first = 0;
     for (UInt32 i = 0; i < view.getPrimitiveCount(); ++i) {
         const UInt32 type = view.getType(i);
@@ -178,9 +180,6 @@ struct Neighbourhood
 
 void calcVertexNormals(GeometryPtr geometry)
 {
-    if (geometry == NullFC) {
-        return;
-    }
     const std::vector<Triangle> triangles = trianglesOf(geometry);
     if (triangles.empty()) {
         return;
@@ -211,10 +210,7 @@ void calcVertexNormals(GeometryPtr geometry)
 
 void calcVertexNormals(GeometryPtr geometry, Real32 creaseAngle)
 {
-    if (geometry == NullFC) {
-        return;
-    }
-    std::vector<Triangle> triangles = trianglesOf(geometry);
+    const std::vector<Triangle> triangles = trianglesOf(geometry);
     if (triangles.empty()) {
         return;
     }
@@ -250,9 +246,6 @@ void calcVertexNormals(GeometryPtr geometry, Real32 creaseAngle)
 
 void calcFaceNormals(GeometryPtr geometry)
 {
-    if (geometry == NullFC) {
-        return;
-    }
     const std::vector<Triangle> triangles = trianglesOf(geometry);
     if (triangles.empty()) {
         return;

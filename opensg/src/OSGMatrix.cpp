@@ -3,38 +3,17 @@
 #include <OpenSG/OSGQuaternion.h>
 
 #include "MatrixDecomposition.h"
+#include <Eigen/LU>
 
 namespace osg {
 
 namespace {
 
-/// Determinants of the 2x2 blocks in the upper two and the lower two rows, for all pairs of
-/// columns.
-struct Minors
+template <class ValueT>
+Eigen::Matrix4d toEigen(const TransformationMatrix<ValueT>& m)
 {
-    template <class ValueT>
-    explicit Minors(const TransformationMatrix<ValueT>& m)
-    {
-        constexpr UInt32 kPairs[6][2] = {
-            { 0, 1 }, { 0, 2 }, { 0, 3 }, { 1, 2 }, { 1, 3 }, { 2, 3 }
-        };
-        for (UInt32 i = 0; i < 6; ++i) {
-            const UInt32 a = kPairs[i][0];
-            const UInt32 b = kPairs[i][1];
-            upper[i] = Real64(m[a][0]) * m[b][1] - Real64(m[b][0]) * m[a][1];
-            lower[i] = Real64(m[a][2]) * m[b][3] - Real64(m[b][2]) * m[a][3];
-        }
-    }
-
-    Real64 determinant() const
-    {
-        return upper[0] * lower[5] - upper[1] * lower[4] + upper[2] * lower[3] +
-            upper[3] * lower[2] - upper[4] * lower[1] + upper[5] * lower[0];
-    }
-
-    Real64 upper[6];
-    Real64 lower[6];
-};
+    return Eigen::Map<const Eigen::Matrix<ValueT, 4, 4>>(m.getValues()).template cast<Real64>();
+}
 
 }  // namespace
 
@@ -123,14 +102,8 @@ void TransformationMatrix<ValueT>::getTransform(VectorType& translation, Quatern
     rotation.setIdentity();
     scaleOrientation.setIdentity();
 
-    detail::Linear linear;
-    for (UInt32 i = 0; i < 3; ++i) {
-        for (UInt32 j = 0; j < 3; ++j) {
-            linear.element[i][j] = columns[j][i];
-        }
-    }
     detail::PolarParts parts;
-    if (!detail::decomposePolar(linear, parts)) {
+    if (!detail::decomposePolar(toEigen(*this).template topLeftCorner<3, 3>(), parts)) {
         return;
     }
     TransformationMatrix turn;
@@ -138,8 +111,8 @@ void TransformationMatrix<ValueT>::getTransform(VectorType& translation, Quatern
     for (UInt32 i = 0; i < 3; ++i) {
         scale[i] = static_cast<ValueT>(parts.scale[i]);
         for (UInt32 j = 0; j < 3; ++j) {
-            turn[j][i] = static_cast<ValueT>(parts.rotation.element[i][j]);
-            axes[j][i] = static_cast<ValueT>(parts.axes.element[j][i]);
+            turn[j][i] = static_cast<ValueT>(parts.rotation(i, j));
+            axes[j][i] = static_cast<ValueT>(parts.axes(j, i));
         }
     }
     rotation.setValue(turn);
@@ -189,39 +162,14 @@ void TransformationMatrix<ValueT>::multPntFullMatrix(const PointType& source,
 template <class ValueT>
 bool TransformationMatrix<ValueT>::inverse(TransformationMatrix& result) const
 {
-    const Minors minors(*this);
-    const Real64 determinant = minors.determinant();
+    const Eigen::Matrix4d matrix = toEigen(*this);
+    const Real64 determinant = matrix.determinant();
     if (determinant == 0. || !std::isfinite(determinant)) {
         result.setIdentity();
         return false;
     }
-
-    const auto m = [this](UInt32 row, UInt32 column) { return Real64(columns[column][row]); };
-    const Real64* const s = minors.upper;
-    const Real64* const c = minors.lower;
-    const Real64 adjugate[4][4] = {
-        { m(1, 1) * c[5] - m(1, 2) * c[4] + m(1, 3) * c[3],
-          -m(0, 1) * c[5] + m(0, 2) * c[4] - m(0, 3) * c[3],
-          m(3, 1) * s[5] - m(3, 2) * s[4] + m(3, 3) * s[3],
-          -m(2, 1) * s[5] + m(2, 2) * s[4] - m(2, 3) * s[3] },
-        { -m(1, 0) * c[5] + m(1, 2) * c[2] - m(1, 3) * c[1],
-          m(0, 0) * c[5] - m(0, 2) * c[2] + m(0, 3) * c[1],
-          -m(3, 0) * s[5] + m(3, 2) * s[2] - m(3, 3) * s[1],
-          m(2, 0) * s[5] - m(2, 2) * s[2] + m(2, 3) * s[1] },
-        { m(1, 0) * c[4] - m(1, 1) * c[2] + m(1, 3) * c[0],
-          -m(0, 0) * c[4] + m(0, 1) * c[2] - m(0, 3) * c[0],
-          m(3, 0) * s[4] - m(3, 1) * s[2] + m(3, 3) * s[0],
-          -m(2, 0) * s[4] + m(2, 1) * s[2] - m(2, 3) * s[0] },
-        { -m(1, 0) * c[3] + m(1, 1) * c[1] - m(1, 2) * c[0],
-          m(0, 0) * c[3] - m(0, 1) * c[1] + m(0, 2) * c[0],
-          -m(3, 0) * s[3] + m(3, 1) * s[1] - m(3, 2) * s[0],
-          m(2, 0) * s[3] - m(2, 1) * s[1] + m(2, 2) * s[0] },
-    };
-    for (UInt32 row = 0; row < 4; ++row) {
-        for (UInt32 column = 0; column < 4; ++column) {
-            result[column][row] = static_cast<ValueT>(adjugate[row][column] / determinant);
-        }
-    }
+    Eigen::Map<Eigen::Matrix<ValueT, 4, 4>>(result.getValues()) =
+        matrix.inverse().template cast<ValueT>();
     return true;
 }
 
@@ -236,7 +184,7 @@ bool TransformationMatrix<ValueT>::transposed(TransformationMatrix& result) cons
 template <class ValueT>
 ValueT TransformationMatrix<ValueT>::det() const
 {
-    return static_cast<ValueT>(Minors(*this).determinant());
+    return static_cast<ValueT>(toEigen(*this).determinant());
 }
 
 template <class ValueT>

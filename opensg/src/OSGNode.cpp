@@ -5,6 +5,8 @@
 #include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGNodeCore.h>
 
+#include <boost/container/small_vector.hpp>
+
 #include <cassert>
 #include <cstring>
 #include <utility>
@@ -194,25 +196,16 @@ void Node::subChild(UInt32 index)
 
 const Node::WorldCache* Node::findWorld()
 {
-    constexpr UInt32 kUsualDepth = 64;
-    Node* usual[kUsualDepth];
-    std::vector<Node*> deep;
-    UInt32 count = 0;
+    constexpr std::size_t kUsualDepth = 64;
+    boost::container::small_vector<Node*, kUsualDepth> placed;
     for (Node* node = this; node != nullptr; node = node->getParent().getCPtr()) {
         if (node->getCore() != NullFC && node->getCore()->getLocalMatrix() != nullptr) {
-            if (count < kUsualDepth) {
-                usual[count] = node;
-            } else {
-                deep.push_back(node);
-            }
-            ++count;
+            placed.push_back(node);
         }
     }
     const WorldCache* above = nullptr;
-    while (count > 0) {
-        --count;
-        Node* const node = count < kUsualDepth ? usual[count] : deep[count - kUsualDepth];
-        above = &node->worldCacheBelow(above, *node->getCore()->getLocalMatrix());
+    for (auto node = placed.rbegin(); node != placed.rend(); ++node) {
+        above = &(*node)->worldCacheBelow(above, *(*node)->getCore()->getLocalMatrix());
     }
     return above;
 }

@@ -33,9 +33,8 @@
 ///
 ///     OSG_STATE_CHUNK_TYPE(LineChunk, StateChunk);
 ///
-/// or OSG_CONTAINER_TYPE, OSG_ABSTRACT_CONTAINER_TYPE; and one line in the table of
-/// OSGBuiltinCoreTypes.cpp, OSGBuiltinGeometryTypes.cpp or OSGBuiltinMaterialTypes.cpp, so that
-/// osgInit makes the type known to the factory by name.
+/// or OSG_CONTAINER_TYPE, OSG_ABSTRACT_CONTAINER_TYPE; osgInit makes the type known to the factory
+/// by name.
 ///
 /// == What a class gets
 ///

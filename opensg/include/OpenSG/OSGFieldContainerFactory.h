@@ -53,7 +53,6 @@ public:
 private:
     friend class FieldContainer;
     friend class FieldContainerType;
-    friend class ContainerCensus;
 
     struct Tables;
 

@@ -1,10 +1,17 @@
 // SPDX-License-Identifier: MIT
-#include <OpenSG/OSGChunkMaterial.h>
 #include <OpenSG/OSGLog.h>
+#include <OpenSG/OSGSimpleTexturedMaterial.h>
 
 #include <algorithm>
 
 namespace osg {
+
+OSG_ABSTRACT_CONTAINER_TYPE(Material, AttachmentContainer);
+
+bool Material::isTransparent() const
+{
+    return getTransparencyMode() == TransparencyForceTransparent;
+}
 
 OSG_CONTAINER_TYPE(ChunkMaterial, Material);
 
@@ -75,6 +82,14 @@ bool ChunkMaterial::isTransparent() const
 Int32 ChunkMaterial::slotOf(UInt32 index) const
 {
     return index < mfSlots.getSize() ? mfSlots[index] : Int32(State::AutoSlotReplace);
+}
+
+OSG_CONTAINER_TYPE(SimpleMaterial, ChunkMaterial);
+OSG_CONTAINER_TYPE(SimpleTexturedMaterial, SimpleMaterial);
+
+bool SimpleMaterial::isTransparent() const
+{
+    return getTransparency() > Eps || Inherited::isTransparent();
 }
 
 }  // namespace osg

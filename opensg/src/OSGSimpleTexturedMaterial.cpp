@@ -1,8 +1,0 @@
-// SPDX-License-Identifier: MIT
-#include <OpenSG/OSGSimpleTexturedMaterial.h>
-
-namespace osg {
-
-OSG_CONTAINER_TYPE(SimpleTexturedMaterial, SimpleMaterial);
-
-}  // namespace osg
