@@ -130,7 +130,7 @@ protected:
     virtual bool canStep(const View& view) { return view.exists(); }
 
     /// What a press beside all handles grabs: a number that the table need not have, 0 for nothing.
-    /// @param place  receives where it was grabbed, world
+    /// Then it tells where, in world space.
     virtual int grabBeside(osg::Pnt3f& /*place*/) { return 0; }
 
     /// What the armed handle is and does; null for none.
