@@ -20,11 +20,21 @@ import zlib
 HERE = pathlib.Path(__file__).resolve().parent
 SESSIONS = HERE.parents[1] / "viewer" / "sessions"
 
-# Picture: session, checkpoint, left and upper edge of the part, width and height. That of the README is a whole screenshot.
+# Picture: session, checkpoint (or several, side by side), left and upper edge of the part, width and height. That of the README is a whole
+# screenshot.
 README_PICTURE = "first-light"
 PICTURES = {
     README_PICTURE: ("first-light", "3-x-arrow"),
     "transform": ("first-light", "3-x-arrow", 210, 140, 800, 500),
+    "taken-back": ("beyond", ("1-dragged", "2-taken-back"), 240, 130, 400, 230),
+    "typed": ("beyond", "3-typed", 20, 20, 620, 320),
+    "fine-motion": ("beyond", ("1-dragged", "5-fine"), 240, 130, 400, 230),
+    "snapping": ("beyond", "6-at-a-rim", 20, 0, 600, 300),
+    "axes": ("beyond", ("7-world-axes", "8-own-axes"), 150, 120, 340, 240),
+    "palettes": ("beyond", ("9-classic", "9-soft", "9-contrast", "9-colourBlind"), 222, 145, 200, 200),
+    "further-handles": ("handles", "3-trackball", 290, 180, 640, 420),
+    "handle-looks": ("handles", "4-looks", 290, 180, 640, 420),
+    "drag-overlay": ("handles", ("5-sector", "6-ghost"), 520, 230, 400, 320),
     "camera": ("pivot", "2-turned-about", 190, 160, 800, 500),
     "planar": ("label", "2-dropped", 180, 80, 800, 500),
     "placement": ("label", "3-placing", 180, 170, 800, 500),
@@ -144,14 +154,22 @@ def replay(viewer, session, folder):
     return run.returncode == 0
 
 
+def checkpoints_of(name):
+    checkpoints = PICTURES[name][1]
+    return (checkpoints,) if isinstance(checkpoints, str) else checkpoints
+
+
 def make(name, folder):
     """Makes a picture from the screenshots in a folder. @return its path"""
-    _, checkpoint, *part = PICTURES[name]
-    screenshot = folder / f"{checkpoint}.png"
+    screenshots = [folder / f"{checkpoint}.png" for checkpoint in checkpoints_of(name)]
     if name == README_PICTURE:
-        return shutil.copyfile(screenshot, HERE.parent / f"{name}.png")
-    palette, indices = reduce_colours(read_part(screenshot, *part))
-    write_with_palette(HERE / f"{name}.png", indices, palette, *part[2:])
+        return shutil.copyfile(screenshots[0], HERE.parent / f"{name}.png")
+    part = PICTURES[name][2:]
+    parts = [read_part(screenshot, *part) for screenshot in screenshots]
+    width, height = part[2:]
+    rows = range(0, width * height, width)
+    palette, indices = reduce_colours([pixel for row in rows for each in parts for pixel in each[row:row + width]])
+    write_with_palette(HERE / f"{name}.png", indices, palette, width * len(parts), height)
     return HERE / f"{name}.png"
 
 

@@ -31,11 +31,11 @@ def targets(page):
 
 
 def pictures(root):
-    """The table of the script that makes the pictures."""
+    """For each picture the session and checkpoints of which the script makes it."""
     spec = importlib.util.spec_from_file_location("make_pictures", root / "docs" / "pictures" / "make_pictures.py")
     module = importlib.util.module_from_spec(spec)
     spec.loader.exec_module(module)
-    return module.PICTURES
+    return {name: (row[0], module.checkpoints_of(name)) for name, row in module.PICTURES.items()}
 
 
 def screenshots(session):
@@ -102,8 +102,8 @@ def faults(root):
         if page.name != "README.md" and page not in index:
             yield f"docs/README.md does not lead to {page.name}"
     table = pictures(root)
-    for name, (session, checkpoint, *_) in table.items():
-        if checkpoint not in screenshots(root / "viewer" / "sessions" / f"{session}.json"):
+    for name, (session, checkpoints) in table.items():
+        for checkpoint in set(checkpoints) - screenshots(root / "viewer" / "sessions" / f"{session}.json"):
             yield f"picture {name}: the session {session} takes no screenshot at {checkpoint}"
     for picture in sorted((root / "docs" / "pictures").glob("*.png")):
         if picture.stem not in table or picture not in linked:

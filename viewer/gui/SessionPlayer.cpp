@@ -15,6 +15,8 @@
 #include <QTimer>
 #include <QWheelEvent>
 
+#include <utility>
+
 namespace viewer {
 namespace {
 
@@ -35,6 +37,21 @@ int keyOf(const QString& name, Qt::KeyboardModifiers& modifiers)
     const int combined = nbQt::firstKey(QKeySequence(name, QKeySequence::PortableText));
     modifiers |= Qt::KeyboardModifiers(combined & static_cast<int>(Qt::KeyboardModifierMask));
     return combined & ~static_cast<int>(Qt::KeyboardModifierMask);
+}
+
+/// The text that the window system gives a key's events; of letters the small one.
+QString textOfKey(int key)
+{
+    constexpr std::pair<int, char> kControls[] = { { Qt::Key_Return, '\r' },
+                                                   { Qt::Key_Tab, '\t' },
+                                                   { Qt::Key_Backspace, '\b' },
+                                                   { Qt::Key_Escape, 27 } };
+    for (const auto& [control, text] : kControls) {
+        if (key == control) {
+            return QString(QLatin1Char(text));
+        }
+    }
+    return key < Qt::Key_Escape ? QString(QChar(key).toLower()) : QString();
 }
 
 Qt::KeyboardModifiers modifierOfKey(int key)
@@ -255,7 +272,7 @@ void SessionPlayer::sendKey(QEvent::Type type, int key)
     // As in events from the window system, a modifier key's own flag is set from its press on.
     const Qt::KeyboardModifiers modifiers =
         type == QEvent::KeyPress ? heldModifiers | own : heldModifiers & ~own;
-    QKeyEvent event(type, key, modifiers);
+    QKeyEvent event(type, key, modifiers, textOfKey(key));
     QCoreApplication::sendEvent(&view, &event);
 }
 
@@ -263,7 +280,7 @@ void SessionPlayer::sendKey(QEvent::Type type, int key)
 /// @return null if the view wants the key itself, or no action has it
 QAction* SessionPlayer::findShortcut(int key, Qt::KeyboardModifiers modifiers)
 {
-    QKeyEvent ask(QEvent::ShortcutOverride, key, modifiers);
+    QKeyEvent ask(QEvent::ShortcutOverride, key, modifiers, textOfKey(key));
     ask.ignore();
     QCoreApplication::sendEvent(&view, &ask);
     if (ask.isAccepted()) {
