@@ -89,14 +89,16 @@ void oneNode(benchmark::State& state, const Drag& drag, bool withText)
     runSteps(state, stage, drag);
 }
 
-/// With text, readout and a listener.
+/// With text, overlay, readout and a listener.
 void oneNodeWatched(benchmark::State& state, const Drag& drag)
 {
     Stage stage(0);
     std::size_t heard = 0;
+    nbec::manipulator::setDragOverlayShown(true);
     stage.gizmo.setReadoutShown(true);
     stage.gizmo.addDragListener([&heard](const nbec::manipulator::DragEvent&) { ++heard; });
     runSteps(state, stage, drag);
+    nbec::manipulator::setDragOverlayShown(false);
     state.counters["heard"] = static_cast<double>(heard);
 }
 
@@ -187,7 +189,7 @@ BENCHMARK_CAPTURE(oneNode, rotateText, kRotate, true)->Name("drag/one node, rota
 BENCHMARK_CAPTURE(oneNode, scale, kScale, false)->Name("drag/one node, scale");
 BENCHMARK_CAPTURE(oneNode, scaleText, kScale, true)->Name("drag/one node, scale, with text");
 BENCHMARK_CAPTURE(oneNodeWatched, translate, kTranslate)
-    ->Name("drag/one node, translate, with text, readout and listener");
+    ->Name("drag/one node, translate, with text, overlay, readout and listener");
 BENCHMARK(snapToGeometry)->Name("drag/one node, snapping to geometry")->Arg(1)->Arg(100);
 BENCHMARK_CAPTURE(manyNodes, translate, kTranslate)->Name("drag/many, translate")->Arg(kManyNodes);
 BENCHMARK_CAPTURE(plainLoop, translate, &osg::Transform3D::setTranslation,

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "manipulator/nbManipulatorExport.h"
+#include <nbKernel/nbController.h>
+#include <nbUtils/nbMessage.h>
 
 namespace nbec::manipulator {
 
@@ -11,7 +12,7 @@ namespace nbec::manipulator {
 ///
 /// A pause that nobody has ended is owed; it ends with the object. A copy owes nothing: the pause
 /// stays with who began it.
-class NB_MANIPULATOR_API PreviewPause
+class PreviewPause
 {
 public:
     PreviewPause() = default;
@@ -24,15 +25,38 @@ public:
     ~PreviewPause() { end(); }
 
     /// Pauses the preview, each time it is called.
-    void begin();
+    void begin()
+    {
+        setEnabled(false);
+        isOwed = true;
+    }
+
     /// Resumes the preview in any case.
-    void resume();
+    void resume()
+    {
+        setEnabled(true);
+        nbController::call("updateMatRender", 0);
+        isOwed = false;
+    }
+
     /// Resumes the preview if a pause is owed.
-    void end();
+    void end()
+    {
+        if (isOwed) {
+            resume();
+        }
+    }
 
     bool isPausing() const { return isOwed; }
 
 private:
+    static void setEnabled(bool on)
+    {
+        nbMessage message;
+        message.set("enabled", on, true);
+        nbController::call("setMatRenderEnabled", message, 0);
+    }
+
     bool isOwed = false;
 };
 

@@ -103,16 +103,11 @@ static_assert(isInOrder(), "rows stand in the order of the enumerators");
 /// The sides of a rectangle in the xy plane as lines.
 osg::NodePtr buildOutline(float halfX, float halfY)
 {
-    const std::array<osg::Pnt3f, 4> corners = { osg::Pnt3f(-halfX, -halfY, 0.0F),
-                                                osg::Pnt3f(halfX, -halfY, 0.0F),
-                                                osg::Pnt3f(halfX, halfY, 0.0F),
-                                                osg::Pnt3f(-halfX, halfY, 0.0F) };
-    std::vector<osg::Pnt3f> ends;
-    for (std::size_t i = 0; i < corners.size(); ++i) {
-        ends.push_back(corners[i]);
-        ends.push_back(corners[(i + 1) % corners.size()]);
-    }
-    return osg::makeNodeFor(nbGeoFactory::makeGeo(GL_LINES, ends));
+    return osg::makeNodeFor(
+        nbGeoFactory::makeGeo(GL_LINES,
+                              { osg::Pnt3f(-halfX, -halfY, 0.0F), osg::Pnt3f(halfX, -halfY, 0.0F),
+                                osg::Pnt3f(halfX, halfY, 0.0F), osg::Pnt3f(-halfX, halfY, 0.0F) },
+                              { 0, 1, 1, 2, 2, 3, 3, 0 }));
 }
 
 osg::NodePtr build(const ShapeRow& row)

@@ -88,14 +88,12 @@ double snapBox(double centre, double half, const PlateView& view, osg::UInt32 ax
     offer(centre + half, length);
     offer(centre - half, 0.5 * length);
     offer(centre + half, 0.5 * length);
-    if (view.neighbours != nullptr) {
-        for (const float line : view.neighbours->centres[axis]) {
-            offer(centre, line);
-        }
-        for (const float line : view.neighbours->edges[axis]) {
-            offer(centre - half, line);
-            offer(centre + half, line);
-        }
+    for (const float line : view.neighbours.centres[axis]) {
+        offer(centre, line);
+    }
+    for (const float line : view.neighbours.edges[axis]) {
+        offer(centre - half, line);
+        offer(centre + half, line);
     }
     nearest.show(guides);
     return nearest.value - nearest.from;
@@ -119,10 +117,8 @@ double snapFactor(double factor, const osg::Pnt2f& anchor, const osg::Vec2f& dia
         for (const double part : { 1.0, 0.5, 0.0 }) {
             offer(part * lengthOf(view, axis));
         }
-        if (view.neighbours != nullptr) {
-            const auto& edges = view.neighbours->edges[axis];
-            std::for_each(edges.begin(), edges.end(), offer);
-        }
+        const std::vector<float>& edges = view.neighbours.edges[axis];
+        std::for_each(edges.begin(), edges.end(), offer);
     }
     nearest.show(guides);
     return nearest.found ? nearest.value : factor;

@@ -33,7 +33,7 @@ struct PlateView
     int widthPx = 0;
     int heightPx = 0;
     float unitPx = 1.0F;  ///< pixels per unit of the handle sizes below
-    const PlateNeighbours* neighbours = nullptr;  ///< null: none to snap to
+    PlateNeighbours neighbours {};  ///< to snap to
 };
 
 /// Sizes of handles; a unit is a logical pixel at the default size of manipulators.

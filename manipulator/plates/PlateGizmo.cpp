@@ -259,8 +259,7 @@ bool PlateGizmo::prepare(const View& view)
     drag.stance = chooseStance(drag.start, drag.view);
     drag.pressedPx = view.getPointer();
     if (snapsToPlates) {
-        drag.neighbours = findNeighbours();
-        drag.view.neighbours = &drag.neighbours;
+        drag.view.neighbours = findNeighbours();
     }
     previewPause.begin();
     return true;

@@ -64,7 +64,6 @@ private:
         osg::Pnt2f pressedPx;
         PlateStance stance;
         PlateView view;
-        PlateNeighbours neighbours;
         bool isBroken = false;  ///< other plates were set
         PlateChange change;  ///< sent last
         PlateGuides guides;

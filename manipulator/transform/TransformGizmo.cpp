@@ -7,7 +7,6 @@
 #include "manipulator/handles/HandleNodes.h"
 #include "manipulator/scene/TargetFrame.h"
 #include "manipulator/transform/TransformHandles.h"
-#include "manipulator/transform/TransformText.h"
 
 #include <nbKernel/nbController.h>
 #include <nbKernelServices/nbScopedUndo.h>
@@ -426,10 +425,8 @@ std::optional<QString> TransformGizmo::describe() const
     if (movesPivot() && drag.action.isTurn()) {
         return std::nullopt;  // Deliberate: the text of before stays.
     }
-    const osg::NodePtr node = targets.first();
-    return node != osg::NullFC && descriptionEnabled
-        ? describeTransform(editedNode(node), drag.action, shownMode(), !isLocal(),
-                            toDegrees(turned.front()))
+    return descriptionEnabled
+        ? targets.describe(drag.action, shownMode(), !isLocal(), toDegrees(turned.front()))
         : QString();
 }
 

@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/transform/TransformTargets.h"
 
+#include "manipulator/course/ValueText.h"
 #include "manipulator/scene/TargetFrame.h"
 
 #include <nbOpenSGExt/Transform3D.h>
 #include <nbOpenSGExt/nbContainerId.h>
 #include <nbOpenSGUtils/nbNodePermission.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
+#include <nbTransform/nbTransformModel.h>
+
+#include <QtCore/QCoreApplication>
 
 #include <unordered_set>
 
@@ -104,6 +108,44 @@ void TransformTargets::restore() const
         if (const osg::Transform3DPtr core = transformOf(nodes[i]); core != osg::NullFC) {
             captured[i].applyTo(core);
         }
+    }
+}
+
+QString TransformTargets::describe(const HandleAction& action, ManipulatorMode mode,
+                                   bool worldSpace, const osg::Vec3f& anglesDeg) const
+{
+    using Mode = ManipulatorMode;
+    if (first() == osg::NullFC) {
+        return QString();
+    }
+    const osg::NodePtr node = editedNode(first());
+    if (action.isTurn()) {
+        return mode == Mode::Rotate
+            ? describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Rotation ("), anglesDeg)
+            : QString();
+    }
+    if (action.kind == DragParameters::Kind::Factor) {
+        return mode == Mode::Scale
+            ? describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Scale ("),
+                             nbNodeUtils::getTransformNodeScale(node))
+            : QString();
+    }
+    switch (mode) {
+    case Mode::Translate:
+    case Mode::Clipping:
+    case Mode::TranslateRotate:
+    case Mode::TranslateRotateYZ:
+    case Mode::TranslateRotateScale:
+        return describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Translation ("),
+                              nbTransformModel::getTranslation(node, worldSpace));
+    case Mode::RotatePivot:
+        return describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Rotate Pivot ("),
+                              nbTransformModel::getRotationPivot(node, worldSpace));
+    case Mode::ScalePivot:
+        return describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Scale Pivot ("),
+                              nbTransformModel::getScalePivot(node, worldSpace));
+    default:
+        return QString();
     }
 }
 

@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "manipulator/drag/DragParameters.h"
+#include "manipulator/transform/TransformModes.h"
+
 #include <nbOpenSGUtils/nbTransformState.h>
 
 #include <OpenSG/OSGNode.h>
+
+#include <QtCore/QString>
 
 #include <vector>
 
@@ -37,6 +42,13 @@ public:
     void capture();
     /// Sets them again, to the bit.
     void restore() const;
+
+    /// Text of the values that a handle edits in a mode; empty without the first node. Deliberate:
+    /// the universal mode shows none, whatever the handle, rings show theirs in mode rotate only,
+    /// scale handles in mode scale only.
+    /// @param anglesDeg  of the present rotation, as the drag has come to them
+    QString describe(const HandleAction& action, ManipulatorMode mode, bool worldSpace,
+                     const osg::Vec3f& anglesDeg) const;
 
 private:
     std::vector<osg::UInt32> ids;

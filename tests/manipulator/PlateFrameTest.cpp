@@ -9,7 +9,7 @@
 namespace nbec::manipulator::plates {
 namespace {
 
-constexpr PlateView kView { 800, 600, 1.0F };
+const PlateView kView { 800, 600, 1.0F };
 constexpr float kTolerancePx = 1e-3F;
 
 PlateFrame makeFrame(float x, float y, float width, float height, float rotation = 0.0F)
@@ -121,11 +121,9 @@ TEST(PlateFrame, MovingSnapsBoxesToEdgesAndCentreLines)
 
 TEST(PlateFrame, BoxesAndCornersSnapToOtherPlates)
 {
-    PlateNeighbours neighbours;
-    neighbours.edges[0] = { 505.F, 600.F };
-    neighbours.centres = { { { 550.F }, { 120.F } } };
     PlateView view = kView;
-    view.neighbours = &neighbours;
+    view.neighbours.edges[0] = { 505.F, 600.F };
+    view.neighbours.centres = { { { 550.F }, { 120.F } } };
     const PlateFrame flat = makeFrame(200, 200, 100, 60);
     PlateGuides guides;
     EXPECT_EQ(moveFrame(flat, { 351, -84 }, view, &guides).offsetPx, osg::Vec2f(350, -80));
