@@ -18,6 +18,7 @@
 #include <QUndoStack>
 
 #include <algorithm>
+#include <cmath>
 #include <tuple>
 #include <vector>
 
@@ -70,8 +71,8 @@ void collectHandle(Stage& stage, const osg::NodePtr& node, const std::string& na
     }
 }
 
-/// Sorts by the distance to the middle of all; ties keep their order, so that the answer is always
-/// the same.
+/// Sorts by the distance to the middle of all, in sixteenths of a pixel; ties keep their order. So
+/// the answer is always the same, also for a ring, of which rounding alone would choose a point.
 void sortFromTheMiddle(std::vector<osg::Pnt2f>& pixels)
 {
     osg::Vec2f sum(0.0F, 0.0F);
@@ -80,9 +81,12 @@ void sortFromTheMiddle(std::vector<osg::Pnt2f>& pixels)
     }
     const float share = 1.0F / static_cast<float>(std::max<std::size_t>(pixels.size(), 1));
     const osg::Pnt2f middle(sum[0] * share, sum[1] * share);
+    const auto distance = [&middle](const osg::Pnt2f& px) {
+        return std::lround(middle.dist(px) * 16.0F);
+    };
     std::stable_sort(pixels.begin(), pixels.end(),
-                     [&middle](const osg::Pnt2f& a, const osg::Pnt2f& b) {
-                         return middle.dist2(a) < middle.dist2(b);
+                     [&distance](const osg::Pnt2f& a, const osg::Pnt2f& b) {
+                         return distance(a) < distance(b);
                      });
 }
 
