@@ -151,7 +151,7 @@ void PerspectiveMatchPanel::addKnowledge(QBoxLayout& column)
     auto* line = new QComboBox(this);
     line->setAccessibleName(tr("Line"));
     for (int i = 0; i < PerspectiveMatchTool::kLineCount; ++i) {
-        line->addItem(QString(QLatin1String(PerspectiveMatchTool::lineName(i))).toUpper());
+        line->addItem(lineTitle(i));
     }
     NumberBox* const length = addNumber(tr("Length"), 1.0);
     addEdit(addRow(tr("A line from the origin, its length"), { line, length }), "match.placeByLine",
@@ -173,7 +173,7 @@ void PerspectiveMatchPanel::addLines(QFormLayout& form)
     const NumberBox::Style style { kStep, -kMostCoordinate, kMostCoordinate, kDecimals };
     for (int line = 0; line < PerspectiveMatchTool::kLineCount; ++line) {
         const QString word = QLatin1String(PerspectiveMatchTool::lineName(line));
-        const QString name = word.toUpper();
+        const QString name = lineTitle(line);
         auto* edit = new VectorEdit(
             { tr("Line %1, start, across").arg(name), tr("Line %1, start, up").arg(name),
               tr("Line %1, end, across").arg(name), tr("Line %1, end, up").arg(name) },

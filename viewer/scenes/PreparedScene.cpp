@@ -339,25 +339,12 @@ private:
     bool buildPlates(const std::vector<ScenePlate>& wanted)
     {
         return forEach(wanted, "plates", [this](const ScenePlate& read, const QString& place) {
-            osg::RefPtr<osg::ImagePtr> image;
-            if (!readPicture(read.picture, place + ".picture", image)) {
+            nbSceneplateState state = read.state;
+            if (!readPicture(read.picture, place + ".picture", state.image)) {
                 return false;
             }
-            osg::SceneplatePtr plate;
-            scene.plates.emplace_back(osg::makeCoredNode<osg::Sceneplate>(&plate));
-            nbNodeUtils::setName(scene.plates.back().get(), read.name.toStdString());
-            const nbEdit edit(plate, osg::FieldBits::AllFields);
-            plate->setImage(image.get());
-            plate->setColor(read.color);
-            plate->setAnchor(read.anchor);
-            plate->setPosition(read.position);
-            plate->setSize(read.size);
-            plate->setScale(read.scale);
-            plate->setRotation(read.rotationDeg);
-            plate->setFront(read.front);
-            plate->setOrder(read.order);
-            plate->setOpacity(read.opacity);
-            plate->setVisible(read.visible);
+            scene.plates.emplace_back(osg::makeNodeFor(osg::Sceneplate::create()));
+            state.applyTo(scene.plates.back().get());
             return true;
         });
     }

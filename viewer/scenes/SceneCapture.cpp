@@ -12,12 +12,13 @@
 #include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGExt/ClipPlane3D.h>
 #include <nbOpenSGExt/NodePermissions.h>
-#include <nbOpenSGSceneplate/Sceneplate.h>
+#include <nbOpenSGSceneplate/nbSceneplateList.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <map>
 #include <set>
 #include <tuple>
+#include <utility>
 
 namespace viewer {
 namespace {
@@ -235,23 +236,13 @@ private:
         const osg::NodePtr root = nbScenegraph::getSceneplateRoot();
         for (osg::UInt32 i = 0; i < root->getNChildren(); ++i) {
             const osg::NodePtr node = root->getChild(i);
-            const auto core = osg::SceneplatePtr::dcast(node->getCore());
-            if (core == osg::NullFC) {
+            if (nbSceneplateList::plateOf(node) == osg::NullFC) {
                 continue;
             }
             ScenePlate& plate = document.plates.emplace_back();
-            plate.name = nameOf(node);
-            plate.color = core->getColor();
-            plate.anchor = core->getAnchor();
-            plate.position = core->getPosition();
-            plate.size = core->getSize();
-            plate.scale = core->getScale();
-            plate.rotationDeg = core->getRotation();
-            plate.front = core->getFront();
-            plate.order = core->getOrder();
-            plate.opacity = core->getOpacity();
-            plate.visible = core->getVisible();
-            if (!capturePicture(core->getImage(), plate.picture, error)) {
+            plate.state = nbSceneplateState::of(node);
+            const osg::RefPtr<osg::ImagePtr> image = std::exchange(plate.state.image, {});
+            if (!capturePicture(image.get(), plate.picture, error)) {
                 return false;
             }
         }

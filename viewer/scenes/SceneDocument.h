@@ -5,6 +5,7 @@
 #include <nbOpenSGUberCamera/nbCameraNavigation.h>
 #include <nbOpenSGUberMaterial/nbTextureValues.h>
 #include <nbOpenSGUtils/nbTransformState.h>
+#include <nbSceneplateModule/nbSceneplateUndo.h>
 
 #include <OpenSG/OSGColor.h>
 
@@ -116,18 +117,8 @@ struct SceneBranch
 
 struct ScenePlate
 {
-    QString name;
+    nbSceneplateState state;  ///< without its image
     ScenePicture picture;
-    osg::Color4f color { 1.0F, 1.0F, 1.0F, 1.0F };
-    int anchor = 4;  ///< Sceneplate::AnchorPlace
-    osg::Vec2f position;
-    osg::Vec2f size;
-    float scale = 1.0F;
-    float rotationDeg = 0.0F;
-    bool front = true;
-    int order = 0;
-    float opacity = 1.0F;
-    bool visible = true;
 };
 
 /// The photograph behind the scene, and the lines that say how the camera stands to it.

@@ -187,16 +187,18 @@ bool describe(Archive& archive, SceneBranch& branch)
 template <class Archive>
 bool describe(Archive& archive, ScenePlate& plate)
 {
-    return archive.field("name", plate.name) && archive.field("picture", plate.picture, {}) &&
-        archive.field("color", plate.color, ScenePlate().color) &&
-        archive.words("anchor", plate.anchor, kAnchorNames, 4) &&
-        archive.field("position", plate.position) && archive.field("size", plate.size) &&
-        archive.field("scale", plate.scale, 1.0F) &&
-        archive.field("rotation", plate.rotationDeg, 0.0F) &&
-        archive.field("front", plate.front, true) && archive.field("order", plate.order, 0) &&
-        archive.field("opacity", plate.opacity, 1.0F) &&
-        archive.field("visible", plate.visible, true) &&
-        demandShare(archive, "opacity", plate.opacity);
+    nbSceneplateState& state = plate.state;
+    const osg::Color4f white(1.0F, 1.0F, 1.0F, 1.0F);
+    return archive.field("name", state.name) && archive.field("picture", plate.picture, {}) &&
+        archive.field("color", state.color, white) &&
+        archive.words("anchor", state.anchor, kAnchorNames, osg::Sceneplate::Centre) &&
+        archive.field("position", state.position) && archive.field("size", state.size) &&
+        archive.field("scale", state.scale, 1.0F) &&
+        archive.field("rotation", state.rotation, 0.0F) &&
+        archive.field("front", state.front, true) && archive.field("order", state.order, 0) &&
+        archive.field("opacity", state.opacity, 1.0F) &&
+        archive.field("visible", state.visible, true) &&
+        demandShare(archive, "opacity", state.opacity);
 }
 
 template <class Archive>
