@@ -115,8 +115,8 @@ constexpr SwitchRow kSwitchRows[] = {
 
 }  // namespace
 
-MaterialPanel::MaterialPanel(Stage& targetStage, TextureTool& targetTool, QWidget* parent)
-    : Panel(targetStage, parent)
+MaterialPanel::MaterialPanel(Stage& targetStage, TextureTool& targetTool)
+    : Panel(targetStage)
     , tool(targetTool)
 {
     auto* column = new QVBoxLayout(this);

@@ -24,7 +24,7 @@ class MaterialPanel final : public Panel
 
 public:
     /// @param targetStage, targetTool  outlive this
-    MaterialPanel(Stage& targetStage, TextureTool& targetTool, QWidget* parent = nullptr);
+    MaterialPanel(Stage& targetStage, TextureTool& targetTool);
     ~MaterialPanel() override;
 
     void refresh() final;

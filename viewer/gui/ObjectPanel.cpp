@@ -34,8 +34,8 @@ constexpr RowTable kRows[] = {
 
 }  // namespace
 
-ObjectPanel::ObjectPanel(Stage& stage, QWidget* parent)
-    : Panel(stage, parent)
+ObjectPanel::ObjectPanel(Stage& stage)
+    : Panel(stage)
     , nameLabel(new QLabel(this))
 {
     auto* form = new QFormLayout(this);

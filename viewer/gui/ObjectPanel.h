@@ -14,7 +14,7 @@ class ObjectPanel : public Panel
     Q_OBJECT
 
 public:
-    explicit ObjectPanel(Stage& stage, QWidget* parent = nullptr);
+    explicit ObjectPanel(Stage& stage);
 
     void refresh() final;
 

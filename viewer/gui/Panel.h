@@ -33,9 +33,8 @@ class Panel : public QWidget
 
 public:
     /// @param targetStage  outlives this
-    Panel(Stage& targetStage, QWidget* parent = nullptr)
-        : QWidget(parent)
-        , shownStage(targetStage)
+    explicit Panel(Stage& targetStage)
+        : shownStage(targetStage)
     { }
 
     /// Shows how things are; called when it is shown and after everything that may have changed

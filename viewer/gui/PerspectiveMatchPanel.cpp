@@ -37,9 +37,8 @@ std::vector<std::pair<QJsonValue, QString>> choicesOf(const std::array<const cha
 
 }  // namespace
 
-PerspectiveMatchPanel::PerspectiveMatchPanel(Stage& targetStage, PerspectiveMatchTool& targetTool,
-                                             QWidget* parent)
-    : Panel(targetStage, parent)
+PerspectiveMatchPanel::PerspectiveMatchPanel(Stage& targetStage, PerspectiveMatchTool& targetTool)
+    : Panel(targetStage)
     , tool(targetTool)
 {
     auto* column = new QVBoxLayout(this);

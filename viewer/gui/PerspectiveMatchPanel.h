@@ -18,8 +18,7 @@ class PerspectiveMatchPanel : public Panel
 
 public:
     /// @param targetStage, targetTool  outlive this
-    PerspectiveMatchPanel(Stage& targetStage, PerspectiveMatchTool& targetTool,
-                          QWidget* parent = nullptr);
+    PerspectiveMatchPanel(Stage& targetStage, PerspectiveMatchTool& targetTool);
 
     void refresh() final;
 

@@ -64,8 +64,8 @@ NumberBox::Style percentStyle(double least)
 
 }  // namespace
 
-PlatesPanel::PlatesPanel(Stage& targetStage, PlatesTool& targetTool, QWidget* parent)
-    : Panel(targetStage, parent)
+PlatesPanel::PlatesPanel(Stage& targetStage, PlatesTool& targetTool)
+    : Panel(targetStage)
     , tool(targetTool)
 {
     auto* layout = new QVBoxLayout(this);

@@ -26,7 +26,7 @@ class PlatesPanel : public Panel
 
 public:
     /// @param targetStage, targetTool  outlive this
-    PlatesPanel(Stage& targetStage, PlatesTool& targetTool, QWidget* parent = nullptr);
+    PlatesPanel(Stage& targetStage, PlatesTool& targetTool);
 
     void refresh() final;
 

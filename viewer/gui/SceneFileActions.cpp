@@ -174,11 +174,15 @@ bool SceneFileActions::save()
         }
         mayWrite = true;
     }
-    if (!mayWrite || !saveTo(sceneFile, error)) {
+    return tell(mayWrite && saveTo(sceneFile, error), error);
+}
+
+bool SceneFileActions::tell(bool isDone, const QString& error)
+{
+    if (!isDone) {
         emit problem(error);
-        return false;
     }
-    return true;
+    return isDone;
 }
 
 SceneFileActions::Stamp SceneFileActions::stampOf(const QString& path)
@@ -199,8 +203,7 @@ bool SceneFileActions::isAsLeft(QString& error) const
 bool SceneFileActions::saveAs()
 {
     if (!question) {
-        emit problem(QStringLiteral("the scene has no file to be saved to"));
-        return false;
+        return tell(false, "the scene has no file to be saved to");
     }
     const QString suggested =
         sceneFile.isEmpty() ? QStringLiteral("scene.") + QLatin1String(kSceneSuffix) : sceneFile;
@@ -213,11 +216,7 @@ bool SceneFileActions::saveAs()
         path += QLatin1Char('.') + QLatin1String(kSceneSuffix);
     }
     QString error;
-    if (!saveTo(path, error)) {
-        emit problem(error);
-        return false;
-    }
-    return true;
+    return tell(saveTo(path, error), error);
 }
 
 bool SceneFileActions::saveTo(const QString& path, QString& error)
@@ -302,9 +301,7 @@ void SceneFileActions::offerKept()
         // Before it is opened: what counts as saved is no longer kept.
         touch();
         QString error;
-        if (!openScene(stage, recovery->file(), error)) {
-            emit problem(error);
-        }
+        tell(openScene(stage, recovery->file(), error), error);
     }
 }
 

@@ -123,6 +123,8 @@ private:
     static Stamp stampOf(const QString& path);
 
     void addCommands();
+    /// Tells what could not be done. @return isDone
+    bool tell(bool isDone, const QString& error);
     /// @return false with one line in `error`: another program has changed the scene's file
     bool isAsLeft(QString& error) const;
     void keepNow();

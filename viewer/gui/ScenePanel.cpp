@@ -35,8 +35,8 @@ void collectShape(const osg::NodePtr& parent, quint64 depth, QList<quint64>& sha
 
 }  // namespace
 
-ScenePanel::ScenePanel(Stage& stage, QWidget* parent)
-    : Panel(stage, parent)
+ScenePanel::ScenePanel(Stage& stage)
+    : Panel(stage)
     , tree(new QTreeWidget(this))
 {
     auto* layout = new QVBoxLayout(this);

@@ -20,7 +20,7 @@ class ScenePanel : public Panel
     Q_OBJECT
 
 public:
-    explicit ScenePanel(Stage& stage, QWidget* parent = nullptr);
+    explicit ScenePanel(Stage& stage);
 
     void refresh() final;
 

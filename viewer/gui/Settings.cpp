@@ -54,6 +54,13 @@ void setPalette(const QJsonValue& wanted)
     }
 }
 
+Setting choice(const char* name, const char* label, std::function<QJsonValue()> read,
+               std::function<void(const QJsonValue&)> set,
+               std::vector<std::pair<QString, QString>> words)
+{
+    return { name, label, std::move(read), std::move(set), 0.0, 0.0, 0.0, std::move(words) };
+}
+
 }  // namespace
 
 Settings::Settings(MainWindow& targetWindow, bool areKept)
@@ -71,55 +78,46 @@ Settings::Settings(MainWindow& targetWindow, bool areKept)
 void Settings::addWindow()
 {
     Stage& stage = window.view().stage();
-    Setting languages {
-        "language", QT_TR_NOOP("Language"), [] { return languageName(appliedLanguage()); },
-        [this](const QJsonValue& name) { applyLanguage(*languageFromName(name.toString())); }
-    };
+    std::vector<std::pair<QString, QString>> languages;
     for (const Language language : kLanguages) {
-        languages.words.emplace_back(languageName(language), languageTitle(language));
+        languages.emplace_back(languageName(language), languageTitle(language));
     }
     settings = {
-        languages,
-        { "theme",
-          QT_TR_NOOP("Theme"),
-          [] { return themeName(appliedTheme()); },
-          [](const QJsonValue& name) { applyTheme(themeFromName(name.toString())); },
-          { { "system", QT_TR_NOOP("As the desktop") },
-            { "light", QT_TR_NOOP("Light") },
-            { "dark", QT_TR_NOOP("Dark") } } },
-        { "navigation",
-          QT_TR_NOOP("Orbiting"),
-          [this] { return window.view().doesMiddleOrbit() ? "middle" : "right"; },
-          [this](const QJsonValue& name) {
-              window.view().setMiddleOrbits(name.toString() == QLatin1String("middle"));
-          },
-          { { "right", QT_TR_NOOP("Right button; middle pans") },
-            { "middle", QT_TR_NOOP("Middle button; with Shift pans") } } },
+        choice(
+            "language", QT_TR_NOOP("Language"), [] { return languageName(appliedLanguage()); },
+            [](const QJsonValue& name) { applyLanguage(*languageFromName(name.toString())); },
+            languages),
+        choice(
+            "theme", QT_TR_NOOP("Theme"), [] { return themeName(appliedTheme()); },
+            [](const QJsonValue& name) { applyTheme(themeFromName(name.toString())); },
+            { { "system", QT_TR_NOOP("As the desktop") },
+              { "light", QT_TR_NOOP("Light") },
+              { "dark", QT_TR_NOOP("Dark") } }),
+        choice(
+            "navigation", QT_TR_NOOP("Orbiting"),
+            [this] { return window.view().doesMiddleOrbit() ? "middle" : "right"; },
+            [this](const QJsonValue& name) {
+                window.view().setMiddleOrbits(name.toString() == QLatin1String("middle"));
+            },
+            { { "right", QT_TR_NOOP("Right button; middle pans") },
+              { "middle", QT_TR_NOOP("Middle button; with Shift pans") } }),
         { "grid", QT_TR_NOOP("Grid on the ground"), [&stage] { return stage.isGridShown(); },
           [&stage](const QJsonValue& on) { stage.showGrid(on.toBool()); } },
         { "coarseWhileMoving", QT_TR_NOOP("Coarse while the view moves"),
           [this] { return window.view().isCoarseWhileMoving(); },
           [this](const QJsonValue& on) { window.view().setCoarseWhileMoving(on.toBool()); } },
-        { "keepSeconds",
-          QT_TR_NOOP("Edits are kept every, s"),
+        { "keepSeconds", QT_TR_NOOP("Edits are kept every, s"),
           [this] { return window.scenes().keepSeconds(); },
           [this](const QJsonValue& number) {
               window.scenes().setKeepSeconds(qRound(number.toDouble()));
           },
-          {},
-          10.0,
-          3600.0,
-          10.0 },
-        { "pictureMebibytes",
-          QT_TR_NOOP("Most that a picture may take, MiB"),
+          10.0, 3600.0, 10.0 },
+        { "pictureMebibytes", QT_TR_NOOP("Most that a picture may take, MiB"),
           [] { return static_cast<double>(pictureBudget()) / kMebibyte; },
           [](const QJsonValue& number) {
               setPictureBudget(static_cast<qint64>(number.toDouble() * kMebibyte));
           },
-          {},
-          1.0,
-          2047.0,
-          64.0 },
+          1.0, 2047.0, 64.0 },
     };
 }
 
@@ -130,14 +128,11 @@ void Settings::addHandles()
     using nbec::interaction::PickSlop;
     GizmoController& gizmo = window.view().stage().gizmo();
     const Setting rows[] = {
-        { "palette",
-          QT_TR_NOOP("Colours of handles"),
-          &presentPalette,
-          &setPalette,
-          { { "classic", QT_TR_NOOP("Classic") },
-            { "soft", QT_TR_NOOP("Soft") },
-            { "contrast", QT_TR_NOOP("High contrast") },
-            { "colourBlind", QT_TR_NOOP("For any colour vision") } } },
+        choice("palette", QT_TR_NOOP("Colours of handles"), &presentPalette, &setPalette,
+               { { "classic", QT_TR_NOOP("Classic") },
+                 { "soft", QT_TR_NOOP("Soft") },
+                 { "contrast", QT_TR_NOOP("High contrast") },
+                 { "colourBlind", QT_TR_NOOP("For any colour vision") } }),
         { "handleFading", QT_TR_NOOP("Handles fade that are seen end-on"),
           [] { return getHandleFading().isOn; },
           [&gizmo](const QJsonValue& on) {
@@ -173,14 +168,10 @@ void Settings::addHandles()
         { "snapToScene", QT_TR_NOOP("Snap to corners and edges of objects"),
           [&gizmo] { return gizmo.snapsToScene(); },
           [&gizmo](const QJsonValue& on) { gizmo.setSnapToScene(on.toBool()); } },
-        { "gizmoSize",
-          QT_TR_NOOP("Size of the gizmo"),
+        { "gizmoSize", QT_TR_NOOP("Size of the gizmo"),
           [&gizmo] { return static_cast<double>(gizmo.size()); },
           [&gizmo](const QJsonValue& size) { gizmo.setSize(static_cast<float>(size.toDouble())); },
-          {},
-          8.0,
-          199.0,
-          4.0 },
+          8.0, 199.0, 4.0 },
     };
     settings.insert(settings.end(), std::begin(rows), std::end(rows));
     addFurtherHandles();
@@ -240,14 +231,9 @@ void Settings::addSteps()
 
     for (const auto& row : rows) {
         settings.push_back(
-            { row.name,
-              row.label,
-              [row] { return (Model::the()->*row.get)(); },
-              [row](const QJsonValue& step) { (Model::the()->*row.set)(step.toDouble()); },
-              {},
-              0.0,
-              row.most,
-              row.step });
+            { row.name, row.label, [row] { return (Model::the()->*row.get)(); },
+              [row](const QJsonValue& step) { (Model::the()->*row.set)(step.toDouble()); }, 0.0,
+              row.most, row.step });
     }
 }
 

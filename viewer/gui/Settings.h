@@ -20,11 +20,11 @@ struct Setting
     const char* label;  ///< untranslated
     std::function<QJsonValue()> read;
     std::function<void(const QJsonValue&)> set;
-    /// Of a choice, with their untranslated texts; else empty.
-    std::vector<std::pair<QString, QString>> words = {};
     double least = 0.0;  ///< of a number
     double most = 0.0;  ///< of a number; else 0
     double step = 0.0;
+    /// Of a choice, with their untranslated texts; else empty.
+    std::vector<std::pair<QString, QString>> words = {};
 };
 
 /// The settings of the program, each a command and a value, see docs/commands.md. With a person

@@ -12,8 +12,8 @@
 
 namespace viewer {
 
-SettingsPanel::SettingsPanel(Stage& stage, const Settings& settings, QWidget* parent)
-    : Panel(stage, parent)
+SettingsPanel::SettingsPanel(Stage& stage, const Settings& settings)
+    : Panel(stage)
 {
     auto* form = new QFormLayout(this);
     for (const Setting& setting : settings.all()) {
@@ -26,11 +26,9 @@ SettingsPanel::SettingsPanel(Stage& stage, const Settings& settings, QWidget* pa
             }
             form->addRow(label, addChoice(command, choices));
         } else if (setting.most > 0.0) {
-            NumberBox::Style style;
-            style.step = setting.step;
-            style.least = setting.least;
-            style.most = setting.most;
-            form->addRow(label, addNumbers(command, { label }, style));
+            form->addRow(
+                label,
+                addNumbers(command, { label }, { setting.step, setting.least, setting.most }));
         } else {
             form->addRow(addSwitch(command, label));
         }
@@ -50,7 +48,7 @@ void SettingsPanel::open(Stage& stage, const Settings& settings, QWidget& window
     dialog->setObjectName(QStringLiteral("settings"));
     dialog->setWindowTitle(tr("Settings"));
     auto* column = new QVBoxLayout(dialog);
-    column->addWidget(new SettingsPanel(stage, settings, dialog));
+    column->addWidget(new SettingsPanel(stage, settings));
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, dialog);
     connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
     column->addWidget(buttons);

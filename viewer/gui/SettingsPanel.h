@@ -13,7 +13,7 @@ class SettingsPanel : public Panel
     Q_OBJECT
 
 public:
-    SettingsPanel(Stage& stage, const Settings& settings, QWidget* parent = nullptr);
+    SettingsPanel(Stage& stage, const Settings& settings);
 
     /// Opens a dialogue with them.
     static void open(Stage& stage, const Settings& settings, QWidget& window);

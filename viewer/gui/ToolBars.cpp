@@ -8,71 +8,35 @@
 #include <QToolBar>
 #include <QToolButton>
 
-#include <vector>
-
 namespace viewer {
 namespace {
 
 constexpr int kIconSize = 20;  ///< logical pixels
-
-/// Between groups of buttons.
-const char* const kGap = "";
 
 struct ToolBarRow
 {
     const char* name;
     const char* title;
     Qt::ToolBarArea area;
-    std::vector<const char*> actions;
+    const char* actions;  ///< their names; | between groups of buttons
 };
 
-const std::vector<ToolBarRow>& toolBars()
-{
-    static const std::vector<ToolBarRow> rows {
-        { "fileTools",
-          QT_TRANSLATE_NOOP("viewer::ToolBars", "Files and steps"),
-          Qt::TopToolBarArea,
-          { "fileOpen", "fileAdd", "sceneSave", "filePicture", kGap, "undo", "redo" } },
-        { "settingTools",
-          QT_TRANSLATE_NOOP("viewer::ToolBars", "Handles"),
-          Qt::TopToolBarArea,
-          { "localSpace", "snapping", "centerPivots", "settings" } },
-        { "cameraTools",
-          QT_TRANSLATE_NOOP("viewer::ToolBars", "Camera"),
-          Qt::TopToolBarArea,
-          { "frameAll", "frameSelection", kGap, "viewFront", "viewBack", "viewLeft", "viewRight",
-            "viewTop", "viewBottom", "viewThreeQuarter", kGap, "orthographic", "zUp",
-            "fullScreen" } },
-        { "sessionTools",
-          QT_TRANSLATE_NOOP("viewer::ToolBars", "Session"),
-          Qt::TopToolBarArea,
-          { "replay", "stopReplay" } },
-        { "tools",
-          QT_TRANSLATE_NOOP("viewer::ToolBars", "Manipulators"),
-          Qt::LeftToolBarArea,
-          { "gizmoNone",
-            "gizmoTranslate",
-            "gizmoRotate",
-            "gizmoScale",
-            "gizmoUniversal",
-            "gizmoTranslateRotate",
-            "gizmoTranslateRotateScale",
-            "gizmoTranslateRotateYZ",
-            kGap,
-            "gizmoRotatePivot",
-            "gizmoScalePivot",
-            "gizmoCamera",
-            kGap,
-            "gizmoClipping",
-            "scene.addClipPlane",
-            kGap,
-            "texture.edit",
-            "match.setActive",
-            "view.setHeld",
-            "plates.edit" } },
-    };
-    return rows;
-}
+constexpr ToolBarRow kToolBars[] = {
+    { "fileTools", QT_TRANSLATE_NOOP("viewer::ToolBars", "Files and steps"), Qt::TopToolBarArea,
+      "fileOpen fileAdd sceneSave filePicture | undo redo" },
+    { "settingTools", QT_TRANSLATE_NOOP("viewer::ToolBars", "Handles"), Qt::TopToolBarArea,
+      "localSpace snapping centerPivots settings" },
+    { "cameraTools", QT_TRANSLATE_NOOP("viewer::ToolBars", "Camera"), Qt::TopToolBarArea,
+      "frameAll frameSelection | viewFront viewBack viewLeft viewRight viewTop viewBottom "
+      "viewThreeQuarter | orthographic zUp fullScreen" },
+    { "sessionTools", QT_TRANSLATE_NOOP("viewer::ToolBars", "Session"), Qt::TopToolBarArea,
+      "replay stopReplay" },
+    { "tools", QT_TRANSLATE_NOOP("viewer::ToolBars", "Manipulators"), Qt::LeftToolBarArea,
+      "gizmoNone gizmoTranslate gizmoRotate gizmoScale gizmoUniversal gizmoTranslateRotate "
+      "gizmoTranslateRotateScale gizmoTranslateRotateYZ | gizmoRotatePivot gizmoScalePivot "
+      "gizmoCamera | gizmoClipping scene.addClipPlane | texture.edit match.setActive view.setHeld "
+      "plates.edit" },
+};
 
 void addButton(QToolBar& bar, QAction* action)
 {
@@ -96,16 +60,16 @@ void addButton(QToolBar& bar, QAction* action)
 
 void addToolBars(QMainWindow& window)
 {
-    for (const ToolBarRow& row : toolBars()) {
+    for (const ToolBarRow& row : kToolBars) {
         auto* bar =
             new QToolBar(QCoreApplication::translate("viewer::ToolBars", row.title), &window);
         window.addToolBar(row.area, bar);
         bar->setObjectName(QLatin1String(row.name));
         bar->setIconSize({ kIconSize, kIconSize });
-        for (const char* name : row.actions) {
-            if (name == kGap) {
+        for (const QString& name : QString(row.actions).split(' ')) {
+            if (name == "|") {
                 bar->addSeparator();
-            } else if (auto* action = window.findChild<QAction*>(QLatin1String(name))) {
+            } else if (auto* action = window.findChild<QAction*>(name)) {
                 addButton(*bar, action);
             }
         }

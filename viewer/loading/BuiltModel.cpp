@@ -190,15 +190,10 @@ void collectChildObjects(const osg::NodePtr& node, std::vector<osg::NodePtr>& ob
 
 }  // namespace
 
-osg::NodePtr buildScene(const ModelData& model)
-{
-    return Builder(model).build(model.root);
-}
-
 BuiltModel buildModel(const ModelData& model)
 {
-    return { osg::RefPtr<osg::NodePtr>(buildScene(model)), model.triangleCount(), model.warnings,
-             model.file, model.builtIn };
+    return { osg::RefPtr<osg::NodePtr>(Builder(model).build(model.root)), model.triangleCount(),
+             model.warnings, model.file, model.builtIn };
 }
 
 BuiltModel anotherOf(const BuiltModel& model)

@@ -12,11 +12,6 @@
 
 namespace viewer {
 
-/// Makes scene graph nodes of a model: a node with a Transform core for each node of the model,
-/// below it a named node with a Geometry core for each mesh. Belongs to the user-interface thread.
-/// @return the root, reference count 0; never null
-osg::NodePtr buildScene(const ModelData& model);
-
 /// A model as nodes that are not in the scene yet. Belongs to the user-interface thread.
 struct BuiltModel
 {
@@ -27,7 +22,8 @@ struct BuiltModel
     QString builtIn;  ///< as ModelData::builtIn
 };
 
-/// Makes the nodes of a model, as buildScene(), and keeps what else is to be known of it.
+/// Makes scene graph nodes of a model: a node with a Transform core for each node of the model,
+/// below it a named node with a Geometry core for each mesh. Belongs to the user-interface thread.
 BuiltModel buildModel(const ModelData& model);
 /// The same model once more, of which nothing has been edited yet: nodes of its own, geometries
 /// shared.

@@ -85,8 +85,7 @@ QString prefixed(const char* name)
 
 bool refuse(const char* command, const QString& reason, QString& error)
 {
-    error = prefixed(command) + QStringLiteral(": ") + reason;
-    return false;
+    return JsonReader(error).fail(prefixed(command), reason);
 }
 
 QJsonArray namesOf(const std::vector<osg::NodePtr>& nodes)

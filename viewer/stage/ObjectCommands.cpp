@@ -100,6 +100,14 @@ const ObjectVector kVectors[] = {
       &getInParent<&nbTransformModel::getScalePivot> },
 };
 
+/// The selected objects. @return empty with one line in `error` if there are none
+std::vector<osg::NodePtr> selectedIn(const Stage& stage, QString& error)
+{
+    const std::vector<osg::NodePtr> objects = stage.selectedObjects();
+    error = objects.empty() ? Text::tr("nothing is selected") : error;
+    return objects;
+}
+
 bool readVector(const QJsonValue& value, osg::Vec3f& vector)
 {
     const QJsonArray array = value.toArray();
@@ -113,10 +121,9 @@ bool readVector(const QJsonValue& value, osg::Vec3f& vector)
 
 bool setVector(Stage& stage, const ObjectVector& row, const QJsonValue& value, QString& error)
 {
-    const std::vector<osg::NodePtr> objects = stage.selectedObjects();
+    const std::vector<osg::NodePtr> objects = selectedIn(stage, error);
     osg::Vec3f vector;
     if (objects.empty()) {
-        error = Text::tr("nothing is selected");
         return false;
     }
     JsonReader reader(error);
@@ -138,9 +145,8 @@ bool setVector(Stage& stage, const ObjectVector& row, const QJsonValue& value, Q
 
 bool setSwitch(Stage& stage, const ObjectSwitch& row, bool on, QString& error)
 {
-    const std::vector<osg::NodePtr> objects = stage.selectedObjects();
+    const std::vector<osg::NodePtr> objects = selectedIn(stage, error);
     if (objects.empty()) {
-        error = Text::tr("nothing is selected");
         return false;
     }
     const nbScopedUndo scope(row.title);
@@ -183,9 +189,9 @@ Commands::Read ofSelected(Stage& stage, Function read)
 // == Which objects there are
 
 /// The selected objects without those below others of them.
-std::vector<osg::NodePtr> topmost(const Stage& stage)
+std::vector<osg::NodePtr> topmost(const Stage& stage, QString& error)
 {
-    const std::vector<osg::NodePtr> selected = stage.selectedObjects();
+    const std::vector<osg::NodePtr> selected = selectedIn(stage, error);
     std::vector<osg::NodePtr> top;
     std::copy_if(selected.begin(), selected.end(), std::back_inserter(top),
                  [&selected](const osg::NodePtr& node) {
@@ -206,9 +212,6 @@ bool mayEdit(const std::vector<osg::NodePtr>& objects, QString& error)
             return false;
         }
     }
-    if (objects.empty()) {
-        error = Text::tr("nothing is selected");
-    }
     return !objects.empty();
 }
 
@@ -220,7 +223,7 @@ void recordChildren(const osg::NodePtr& parent)
 
 bool deleteSelected(Stage& stage, const QJsonValue& /*value*/, QString& error)
 {
-    const std::vector<osg::NodePtr> objects = topmost(stage);
+    const std::vector<osg::NodePtr> objects = topmost(stage, error);
     if (!mayEdit(objects, error)) {
         return false;
     }
@@ -251,10 +254,12 @@ std::string nameOfCopy(const std::string& original)
 
 bool duplicateSelected(Stage& stage, const QJsonValue& /*value*/, QString& error)
 {
-    const std::vector<osg::NodePtr> objects = topmost(stage);
-    if (objects.empty() || std::any_of(objects.begin(), objects.end(), &isClipPlaneOrFrame)) {
-        error = objects.empty() ? Text::tr("nothing is selected")
-                                : Text::tr("a clip plane cannot be duplicated");
+    const std::vector<osg::NodePtr> objects = topmost(stage, error);
+    if (std::any_of(objects.begin(), objects.end(), &isClipPlaneOrFrame)) {
+        error = Text::tr("a clip plane cannot be duplicated");
+        return false;
+    }
+    if (objects.empty()) {
         return false;
     }
     const nbScopedUndo scope(Text::tr("Duplicate"));
