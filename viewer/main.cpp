@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "viewer/gui/AboutBox.h"
 #include "viewer/gui/CommandLine.h"
+#include "viewer/gui/HelpPages.h"
 #include "viewer/gui/MainWindow.h"
 #include "viewer/gui/StartUp.h"
 #include "viewer/gui/WindowMemory.h"

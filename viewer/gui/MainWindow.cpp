@@ -21,6 +21,7 @@
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QDialog>
+#include <QDockWidget>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QJsonArray>
@@ -31,6 +32,7 @@
 #include <QSettings>
 #include <QStatusBar>
 #include <QTextBrowser>
+#include <QTimer>
 #include <QToolBar>
 
 #include <algorithm>
@@ -42,6 +44,8 @@ namespace {
 constexpr QSize kFirstSize(1440, 900);
 constexpr double kMostOfScreen = 0.94;
 constexpr QSize kManualSize(900, 900);
+/// Until the window manager has given the window its size.
+constexpr int kSettlingMs = 60;
 
 }  // namespace
 
@@ -50,7 +54,6 @@ MainWindow::MainWindow(Attendance attendance)
     , viewWidget(new ViewWidget)
     , loader(new ModelLoader(this))
     , sessionPlayer(new SessionPlayer(*viewWidget, *this, this))
-    , fullScreen(*this)
     , fieldRules(*viewWidget)
     , tools(std::make_unique<StageTools>(viewWidget->stage()))
 {
@@ -275,10 +278,30 @@ void MainWindow::showPanelOfTool()
 
 void MainWindow::showWhole(bool on)
 {
-    if (fullScreen.set(on)) {
-        viewWidget->setFocus();
-        actions->update();
+    if (on == isWhole()) {
+        return;
     }
+    // Nothing of the steps in between is drawn.
+    setUpdatesEnabled(false);
+    QTimer::singleShot(kSettlingMs, this, [this] { setUpdatesEnabled(true); });
+    if (on) {
+        stateBeforeWhole = memory::stateOf(*this);
+        for (QToolBar* bar : findChildren<QToolBar*>()) {
+            bar->hide();
+        }
+        for (QDockWidget* dock : findChildren<QDockWidget*>()) {
+            dock->hide();
+        }
+        setWindowState(windowState() | Qt::WindowFullScreen);
+    } else {
+        setWindowState(windowState() & ~Qt::WindowFullScreen);
+        memory::restoreState(*this, stateBeforeWhole);
+        stateBeforeWhole.clear();
+    }
+    menuBar()->setVisible(!on);
+    statusBar()->setVisible(!on);
+    viewWidget->setFocus();
+    actions->update();
 }
 
 void MainWindow::keyPressEvent(QKeyEvent* event)

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "viewer/gui/FieldRules.h"
-#include "viewer/gui/FullScreen.h"
 #include "viewer/gui/ModelLoader.h"
 #include "viewer/gui/Settings.h"
 #include "viewer/replay/Session.h"
@@ -80,7 +79,7 @@ public:
     /// Lets the view alone fill the screen, or shows the window as it was before.
     void showWhole(bool on);
 
-    bool isWhole() const { return fullScreen.isOn(); }
+    bool isWhole() const { return !stateBeforeWhole.isEmpty(); }
 
     void showSettings();
 
@@ -150,7 +149,7 @@ private:
     WindowActions* actions = nullptr;
 
     StatusLine* statusLine = nullptr;
-    FullScreen fullScreen;
+    QByteArray stateBeforeWhole;  ///< of toolbars and docks; empty while the window is as usual
     FieldRules fieldRules;
     std::unique_ptr<StageTools> tools;
     PanelDocks* docks = nullptr;

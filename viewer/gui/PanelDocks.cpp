@@ -4,7 +4,6 @@
 #include "viewer/gui/LogPanel.h"
 #include "viewer/gui/MaterialPanel.h"
 #include "viewer/gui/ObjectPanel.h"
-#include "viewer/gui/PanelScrollArea.h"
 #include "viewer/gui/PerspectiveMatchPanel.h"
 #include "viewer/gui/PlatesPanel.h"
 #include "viewer/gui/ScenePanel.h"
@@ -15,7 +14,10 @@
 
 #include <QAction>
 #include <QDockWidget>
+#include <QEvent>
 #include <QMainWindow>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QUndoStack>
 #include <QUndoView>
 
@@ -28,6 +30,72 @@ constexpr int kShareOfProperties = 4;
 constexpr int kShareOfSteps = 2;
 
 constexpr int kMessagesHeight = 150;  ///< logical pixels, at first
+
+/// Lines of text that are seen at least.
+constexpr int kLeastLines = 4;
+
+/// Frame around the content of a dock: scrolls it up and down where there is no room, so that a
+/// window can be small. It is as wide as the content has ever needed, so that rows which come and
+/// go do not make the view beside it change its size.
+class PanelScrollArea : public QScrollArea
+{
+public:
+    /// @param content  becomes a child
+    explicit PanelScrollArea(QWidget* content);
+
+    QSize minimumSizeHint() const override;
+    QSize sizeHint() const override;
+
+protected:
+    /// Follows the content when its rows change.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    /// Takes note of the width that the content needs now.
+    void measure();
+
+    int widest = 0;
+};
+
+PanelScrollArea::PanelScrollArea(QWidget* content)
+{
+    setWidgetResizable(true);
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    // Keys are for what is in it.
+    setFocusPolicy(Qt::NoFocus);
+    setWidget(content);
+    content->installEventFilter(this);
+    measure();
+}
+
+void PanelScrollArea::measure()
+{
+    const int needed = widget()->minimumSizeHint().width();
+    if (needed > widest) {
+        widest = needed;
+        updateGeometry();
+    }
+}
+
+QSize PanelScrollArea::minimumSizeHint() const
+{
+    const int bar = verticalScrollBar()->sizeHint().width();
+    return { widest + bar, kLeastLines * fontMetrics().lineSpacing() };
+}
+
+QSize PanelScrollArea::sizeHint() const
+{
+    return { minimumSizeHint().width(), widget()->sizeHint().height() };
+}
+
+bool PanelScrollArea::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == widget() && event->type() == QEvent::LayoutRequest) {
+        measure();
+    }
+    return QScrollArea::eventFilter(watched, event);
+}
 
 }  // namespace
 

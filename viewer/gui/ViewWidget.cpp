@@ -2,7 +2,6 @@
 #include "viewer/gui/ViewWidget.h"
 
 #include "viewer/commands/Commands.h"
-#include "viewer/gui/Caption.h"
 #include "viewer/gui/ThemeIcon.h"
 #include "viewer/stage/StageTool.h"
 
@@ -18,6 +17,7 @@
 #include <QOpenGLContext>
 #include <QOpenGLFunctions>
 #include <QPainter>
+#include <QTextDocument>
 #include <QUrl>
 #include <QWheelEvent>
 
@@ -64,6 +64,40 @@ void paintSelectionRectangle(QPainter& painter, const nbOSGWidget& view, double 
     painter.drawRect(rectangle);
     painter.setPen(QPen(kLightLine, 0.0, Qt::DashLine));
     painter.drawRect(rectangle);
+    painter.restore();
+}
+
+// Of captions, by the smaller side of the view.
+constexpr double kTextPart = 0.026;
+constexpr double kMarginPart = 0.03;
+constexpr int kLeastTextPx = 11;
+
+const QColor kCaptionGround(16, 20, 26, 215);
+const QColor kCaptionAccent(0xe8, 0xb0, 0x4a);
+
+/// Paints a caption over the lower part of an area: a title and below it what is being shown, on a
+/// dark ground that lets the picture through.
+/// @param area   whose size decides that of the letters
+/// @param title  not empty
+void paintCaption(QPainter& painter, const QRect& area, const QString& title, const QString& text)
+{
+    const int side = qMin(area.width(), area.height());
+    const int margin = qRound(kMarginPart * side);
+    QFont font = QApplication::font();
+    font.setPixelSize(qMax(kLeastTextPx, qRound(kTextPart * side)));
+    QTextDocument caption;
+    caption.setDefaultFont(font);
+    caption.setDocumentMargin(margin);
+    caption.setHtml(QStringLiteral("<div style='color: #d6dce4'><big style='color: white'><b>%1</b>"
+                                   "</big><br/>%2</div>")
+                        .arg(title.toHtmlEscaped(), text.toHtmlEscaped()));
+    caption.setTextWidth(
+        qMin(caption.idealWidth(), static_cast<double>(area.width() - 2 * margin)));
+    painter.save();
+    painter.translate(area.left() + margin, area.bottom() - margin - caption.size().height());
+    painter.fillRect(QRectF({ 0.0, 0.0 }, caption.size()), kCaptionGround);
+    painter.fillRect(QRectF(0.0, 0.0, margin / 4.0, caption.size().height()), kCaptionAccent);
+    caption.drawContents(&painter);
     painter.restore();
 }
 

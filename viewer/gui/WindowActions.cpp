@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/gui/WindowActions.h"
 
-#include "viewer/gui/AboutBox.h"
+#include "viewer/gui/HelpPages.h"
 #include "viewer/gui/MainWindow.h"
 #include "viewer/gui/PanelDocks.h"
 #include "viewer/gui/SceneFileActions.h"
 #include "viewer/gui/SessionPlayer.h"
-#include "viewer/gui/ShortcutPage.h"
 #include "viewer/gui/ThemeIcon.h"
 #include "viewer/gui/ViewWidget.h"
 #include "viewer/loading/ModelExport.h"

@@ -22,4 +22,8 @@ public:
     static void open(const QString& graphics, QWidget* parent);
 };
 
+/// Shows a page with what pointer and keys do in a window: every action that has a shortcut. Stays
+/// until it is closed.
+void showShortcuts(QWidget& window);
+
 }  // namespace viewer
