@@ -8,8 +8,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <algorithm>
 #include <cmath>
-#include <utility>
 
 namespace viewer {
 namespace {
@@ -34,33 +34,20 @@ QStringList namesIn(const Map& map)
 
 bool areNear(const QJsonArray& found, const QJsonArray& expected, double tolerance)
 {
-    if (found.size() != expected.size()) {
-        return false;
-    }
-    for (int i = 0; i < found.size(); ++i) {
-        if (!isNear(found.at(i), expected.at(i), tolerance)) {
-            return false;
-        }
-    }
-    return true;
+    return std::equal(
+        found.begin(), found.end(), expected.begin(), expected.end(),
+        [tolerance](const QJsonValue& a, const QJsonValue& b) { return isNear(a, b, tolerance); });
 }
 
 bool areNear(const QJsonObject& found, const QJsonObject& expected, double tolerance)
 {
-    for (auto entry = expected.begin(); entry != expected.end(); ++entry) {
-        if (!isNear(found.value(entry.key()), entry.value(), tolerance)) {
-            return false;
-        }
-    }
-    return true;
+    const QStringList keys = expected.keys();
+    return std::all_of(keys.begin(), keys.end(), [&](const QString& key) {
+        return isNear(found.value(key), expected.value(key), tolerance);
+    });
 }
 
 }  // namespace
-
-void Commands::add(const QString& name, Run run)
-{
-    commands[name] = std::move(run);
-}
 
 void Commands::addSwitch(const QString& name, SetSwitch set, std::function<bool()> isOn)
 {
@@ -93,11 +80,6 @@ void Commands::addNumber(const QString& name, double least, double most, SetNumb
             : JsonReader(error).fail(
                   name, QStringLiteral("expected a number from %1 to %2").arg(least).arg(most));
     });
-}
-
-void Commands::addValue(const QString& name, Read read)
-{
-    values[name] = std::move(read);
 }
 
 void Commands::remove(const QString& prefix)
@@ -142,16 +124,6 @@ QStringList Commands::names() const
 QStringList Commands::valueNames() const
 {
     return namesIn(values);
-}
-
-void Commands::setListener(Listener newListener)
-{
-    listener = std::move(newListener);
-}
-
-void Commands::setFolder(const QDir& newFolder)
-{
-    folder = newFolder;
 }
 
 QString Commands::filePath(const QString& name) const

@@ -11,6 +11,7 @@
 #include <functional>
 #include <map>
 #include <optional>
+#include <utility>
 
 namespace viewer {
 
@@ -37,7 +38,8 @@ public:
         std::function<void(const QString& name, const QJsonValue& value, Moment moment)>;
 
     /// Adds a command, or replaces that of the name.
-    void add(const QString& name, Run run);
+    void add(const QString& name, Run run) { commands[name] = std::move(run); }
+
     /// Sets a switch or a number. @return false with one line in `error`, nothing changed
     using SetSwitch = std::function<bool(bool on, QString& error)>;
     using SetNumber = std::function<bool(double number, QString& error)>;
@@ -50,8 +52,10 @@ public:
                    std::function<bool(int place, QString& error)> choose);
     /// Adds a command that takes a number from least to most.
     void addNumber(const QString& name, double least, double most, SetNumber set);
+
     /// Adds a value, or replaces that of the name.
-    void addValue(const QString& name, Read read);
+    void addValue(const QString& name, Read read) { values[name] = std::move(read); }
+
     /// Removes every command and value whose name begins so; for owners that end before this.
     void remove(const QString& prefix);
 
@@ -69,11 +73,12 @@ public:
     QStringList valueNames() const;
 
     /// Sets who is told of every command that was done, such as a recorder; empty for nobody.
-    void setListener(Listener newListener);
+    void setListener(Listener newListener) { listener = std::move(newListener); }
 
     /// Sets the folder that relative file names in values are looked up in; the current one at
     /// first.
-    void setFolder(const QDir& newFolder);
+    void setFolder(const QDir& newFolder) { folder = newFolder; }
+
     /// Absolute path of a file named in a value.
     QString filePath(const QString& name) const;
 

@@ -60,28 +60,6 @@ void addOptions(QCommandLineParser& parser)
     });
 }
 
-bool readSize(const QString& value, CommandLine& options, QString& error)
-{
-    if (!value.isEmpty() && !parseSize(value, options.sizePx)) {
-        error = QStringLiteral("--size %1: expected WIDTHxHEIGHT, each from %2 to %3 pixels")
-                    .arg(value)
-                    .arg(kMinViewEdgePx)
-                    .arg(kMaxViewEdgePx);
-        return false;
-    }
-    return true;
-}
-
-bool readLanguage(const QString& value, CommandLine& options, QString& error)
-{
-    options.language = languageFromName(value);
-    if (!value.isEmpty() && !options.language) {
-        error = QStringLiteral("--language %1: expected %2").arg(value, languageNames());
-        return false;
-    }
-    return true;
-}
-
 bool isWritablePicture(const QString& path, QString& error)
 {
     const QFileInfo info(path);
@@ -144,8 +122,21 @@ bool parseCommandLine(const QStringList& arguments, CommandLine& options, QStrin
     options.tourWanted = parser.isSet(kTour);
     options.helpWanted = parser.isSet(kHelp);
     options.versionWanted = parser.isSet(kVersion);
-    return readSize(parser.value(kSize), options, error) &&
-        readLanguage(parser.value(kLanguage), options, error);
+    const QString size = parser.value(kSize);
+    if (!size.isEmpty() && !parseSize(size, options.sizePx)) {
+        error = QStringLiteral("--size %1: expected WIDTHxHEIGHT, each from %2 to %3 pixels")
+                    .arg(size)
+                    .arg(kMinViewEdgePx)
+                    .arg(kMaxViewEdgePx);
+        return false;
+    }
+    const QString language = parser.value(kLanguage);
+    options.language = languageFromName(language);
+    if (!language.isEmpty() && !options.language) {
+        error = QStringLiteral("--language %1: expected %2").arg(language, languageNames());
+        return false;
+    }
+    return true;
 }
 
 bool checkCommandLine(const CommandLine& options, QString& error)

@@ -55,16 +55,6 @@ void ModelLoader::cancel()
     }
 }
 
-bool ModelLoader::isRunning() const
-{
-    return current != nullptr;
-}
-
-std::vector<BuiltModel> ModelLoader::takeModels()
-{
-    return std::move(models);
-}
-
 void ModelLoader::runThread(const Shared& loading, std::function<void()> work,
                             std::function<void()> then)
 {

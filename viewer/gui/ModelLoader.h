@@ -50,10 +50,12 @@ public:
     void start(const QStringList& files);
     /// Gives a running loading up; neither finished() nor failed() comes.
     void cancel();
-    bool isRunning() const;
+
+    bool isRunning() const { return current != nullptr; }
+
     /// Hands over what the last successful loading gave, one model for each file, with search
     /// trees; empties the store.
-    std::vector<BuiltModel> takeModels();
+    std::vector<BuiltModel> takeModels() { return std::move(models); }
 
 signals:
     /// @param file  that is being read or prepared

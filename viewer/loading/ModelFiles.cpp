@@ -8,16 +8,13 @@
 namespace viewer {
 namespace {
 
-const char* const kModelEndings[] = { "obj", "ply", "stl", "gltf", "glb",
-                                      "3ds", "dae", "fbx", "off",  "x3d" };
-const char* const kPictureEndings[] = { "png", "jpg", "jpeg", "bmp", "gif", "ppm" };
+const QStringList kModelEndings { "obj", "ply", "stl", "gltf", "glb",
+                                  "3ds", "dae", "fbx", "off",  "x3d" };
+const QStringList kPictureEndings { "png", "jpg", "jpeg", "bmp", "gif", "ppm" };
 
-template <std::size_t Count>
-bool endsWithOne(const QString& path, const char* const (&endings)[Count])
+bool endsWithOne(const QString& path, const QStringList& endings)
 {
-    const QString ending = QFileInfo(path).suffix().toLower();
-    return std::any_of(endings, endings + Count,
-                       [&ending](const char* known) { return ending == QLatin1String(known); });
+    return endings.contains(QFileInfo(path).suffix(), Qt::CaseInsensitive);
 }
 
 }  // namespace
@@ -28,11 +25,8 @@ QString modelFileFilter(const QString& further)
     if (!further.isEmpty()) {
         patterns.append(further);
     }
-    for (const char* ending : kModelEndings) {
-        patterns.append(QStringLiteral("*.") + QLatin1String(ending));
-    }
-    for (const char* ending : kPictureEndings) {
-        patterns.append(QStringLiteral("*.") + QLatin1String(ending));
+    for (const QString& ending : kModelEndings + kPictureEndings) {
+        patterns.append("*." + ending);
     }
     return Text::tr("Models, scenes and pictures (%1);;All files (*)").arg(patterns.join(' '));
 }

@@ -50,11 +50,6 @@ bool PlateDragContext::triggerEvent(InteractionManager* manager, const Interacti
     return answer;
 }
 
-void PlateDragContext::setClickCallback(std::function<void(const std::string&)> callback)
-{
-    clickCallback = std::move(callback);
-}
-
 PlatePickContext::PlatePickContext()
     : ToolInteractionContext(nbec::interaction::Tool)
 { }

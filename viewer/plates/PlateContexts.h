@@ -24,7 +24,10 @@ public:
                       const nbec::interaction::InteractionEvent& event) override;
 
     /// Sets what a click on the body calls, with its hint.
-    void setClickCallback(std::function<void(const std::string& hint)> callback);
+    void setClickCallback(std::function<void(const std::string& hint)> callback)
+    {
+        clickCallback = std::move(callback);
+    }
 
 private:
     std::function<void(const std::string&)> clickCallback;

@@ -78,9 +78,13 @@ PlatesTool::PlatesTool(Stage& targetStage)
     dragContext.setPicker(&handlePicker);
     dragContext.setManipulator(&manipulator);
     dragContext.setDragCallback([this] { stage.edited(); });
-    dragContext.setClickCallback([this](const std::string& hint) { clickBody(hint); });
+    dragContext.setClickCallback(
+        [this](const std::string& hint) { pickTool.stopTool(&pickContext, hint); });
     manipulator.setVisualisationRoot(nbScenegraph::getInternalRoot());
-    module.addChangedCallback([this] { selectionHasChanged(); });
+    module.addChangedCallback([this] {
+        update();
+        stage.edited();
+    });
     stage.addTool(*this);
     addPlateCommands(stage, *this);
     manipulator.setSnapToPlates(true);
@@ -154,17 +158,6 @@ void PlatesTool::update()
         manipulator.setNodes(module.getSelection());
         manipulator.update(false);
     }
-}
-
-void PlatesTool::selectionHasChanged()
-{
-    update();
-    stage.edited();
-}
-
-void PlatesTool::clickBody(const std::string& hint)
-{
-    pickTool.stopTool(&pickContext, hint);
 }
 
 // == Handles
@@ -267,11 +260,6 @@ std::string PlatesTool::unusedName(const std::string& wanted)
         name = wanted + " " + std::to_string(number);
     }
     return name;
-}
-
-std::vector<osg::NodePtr> PlatesTool::selected() const
-{
-    return module.getSelection();
 }
 
 bool PlatesTool::hasSelection(QString& error) const

@@ -86,8 +86,10 @@ public:
     static osg::NodePtr plateByName(const std::string& wanted);
     /// The name itself if no plate has it, else such as "Title 2".
     static std::string unusedName(const std::string& wanted);
+
     /// The selected plates.
-    std::vector<osg::NodePtr> selected() const;
+    std::vector<osg::NodePtr> selected() const { return module.getSelection(); }
+
     /// Whether any is selected. @return false with one line in `error`
     bool hasSelection(QString& error) const;
     /// Selects plates and, if there are any, becomes the active tool.
@@ -102,9 +104,6 @@ public:
     void addPicture(NewPlate wanted);
 
 private:
-    void selectionHasChanged();
-    void clickBody(const std::string& hint);
-
     Stage& stage;
     nbSceneplateModule module;
     nbNodeSet remembered;  ///< selection while not active

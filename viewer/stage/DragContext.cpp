@@ -24,11 +24,6 @@ DragContext::DragContext()
     : ManipulatorInteractionContext(nbec::interaction::Manipulator)
 { }
 
-void DragContext::setDragCallback(std::function<void()> callback)
-{
-    dragCallback = std::move(callback);
-}
-
 void DragContext::notify() const
 {
     if (dragCallback) {

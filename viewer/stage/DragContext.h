@@ -25,7 +25,7 @@ public:
     const std::string& grabbedHandle() const { return grabbed; }
 
     /// Sets what is called when a drag has begun and when it has ended; empty for nothing.
-    void setDragCallback(std::function<void()> callback);
+    void setDragCallback(std::function<void()> callback) { dragCallback = std::move(callback); }
 
     /// Sets what the step of a drag is called, by the name of the handle; "" for what the
     /// manipulator calls it; empty: that for every handle.

@@ -180,11 +180,6 @@ void GizmoController::setLocalSpace(bool on)
     followCamera();
 }
 
-bool GizmoController::isLocalSpace() const
-{
-    return Transform::isLocalSpaceManipulator();
-}
-
 void GizmoController::setSnapping(bool on)
 {
     snapping = on;
@@ -215,11 +210,6 @@ void GizmoController::setSize(float size)
     followCamera();
 }
 
-float GizmoController::size() const
-{
-    return Transform::getManipulatorSize();
-}
-
 void GizmoController::resetSettings()
 {
     setLocalSpace(false);
@@ -246,11 +236,6 @@ bool GizmoController::centerPivots()
     undo->endGroup();
     setTarget(all.empty() ? osg::NodePtr() : all.front(), all);
     return isDone;
-}
-
-void GizmoController::setDragCallback(std::function<void()> callback)
-{
-    context.setDragCallback(std::move(callback));
 }
 
 // == Keeping in step

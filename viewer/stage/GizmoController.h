@@ -69,7 +69,9 @@ public:
 
     /// Aligns the handles with the axes of the target instead of the world's.
     void setLocalSpace(bool on);
-    bool isLocalSpace() const;
+
+    bool isLocalSpace() const { return transform.isLocalSpaceManipulator(); }
+
     /// Lets drags advance in the steps of the transform model.
     void setSnapping(bool on);
 
@@ -87,7 +89,9 @@ public:
 
     /// Size on screen. @param size  above 0, below 200
     void setSize(float size);
-    float size() const;
+
+    float size() const { return transform.getManipulatorSize(); }
+
     /// World space, no snapping of either kind, usual size and steps: what the program starts with.
     void resetSettings();
 
@@ -96,7 +100,10 @@ public:
     bool centerPivots();
 
     /// Sets what is called when a drag of a handle begins and when it has ended.
-    void setDragCallback(std::function<void()> callback);
+    void setDragCallback(std::function<void()> callback)
+    {
+        context.setDragCallback(std::move(callback));
+    }
 
     /// Follows the target: call before each picture.
     void update();

@@ -349,11 +349,6 @@ void Stage::tellEverybody()
     }
 }
 
-void Stage::setChangedCallback(std::function<void()> callback)
-{
-    changedCallback = std::move(callback);
-}
-
 void Stage::selectionChanged()
 {
     gizmoController.setTarget(selectedObject(), selectedObjects());

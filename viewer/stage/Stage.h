@@ -221,8 +221,12 @@ public:
     void resize(int widthPx, int heightPx);
     /// Brings gizmo and markers up to date; call before each picture.
     void update();
+
     /// Sets what is called when selection, camera or scene changed; empty for nothing.
-    void setChangedCallback(std::function<void()> callback);
+    void setChangedCallback(std::function<void()> callback)
+    {
+        changedCallback = std::move(callback);
+    }
 
 private:
     void selectionChanged();
