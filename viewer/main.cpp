@@ -52,9 +52,12 @@ std::optional<int> prepare(const QStringList& arguments, CommandLine& options,
                            std::optional<viewer::Session>& session)
 {
     QString error;
-    if (!viewer::parseCommandLine(arguments, options, error)) {
+    const auto refuse = [&error] {
         StartUp::complain(error);
         return StartUp::kBadInputStatus;
+    };
+    if (!viewer::parseCommandLine(arguments, options, error)) {
+        return refuse();
     }
     if (options.helpWanted) {
         // The text takes the program's name from the application.
@@ -70,20 +73,18 @@ std::optional<int> prepare(const QStringList& arguments, CommandLine& options,
         return 0;
     }
     if (!viewer::checkCommandLine(options, error)) {
-        StartUp::complain(error);
-        return StartUp::kBadInputStatus;
+        return refuse();
     }
     if (!options.session.isEmpty()) {
         session = viewer::readSessionFile(options.session, error);
         if (!session) {
-            StartUp::complain(error);
-            return StartUp::kBadInputStatus;
+            return refuse();
         }
     }
     if (!qEnvironmentVariableIsSet("DISPLAY") && !qEnvironmentVariableIsSet("WAYLAND_DISPLAY") &&
         !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-        StartUp::complain(QStringLiteral("there is no display; ./nb run brings its own"));
-        return StartUp::kBadInputStatus;
+        error = "there is no display; ./nb run brings its own";
+        return refuse();
     }
     return std::nullopt;
 }

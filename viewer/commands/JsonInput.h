@@ -200,6 +200,14 @@ public:
 
     bool readFile(const QJsonValue& json, const QString& path, QString& file);
 
+    /// Place of a word among others; -1 for none.
+    template <std::size_t Count>
+    static int indexOf(const QJsonValue& word, const std::array<const char*, Count>& words)
+    {
+        const auto found = std::find(words.begin(), words.end(), word.toString());
+        return found == words.end() ? -1 : static_cast<int>(found - words.begin());
+    }
+
     template <class Numbers>
     bool areSceneNumbers(const Numbers& numbers, const QString& path)
     {
@@ -228,13 +236,6 @@ private:
         } else {
             return readJson(*this, json, path, value);
         }
-    }
-
-    template <std::size_t Count>
-    static int indexOf(const QJsonValue& word, const std::array<const char*, Count>& words)
-    {
-        const auto found = std::find(words.begin(), words.end(), word.toString());
-        return found == words.end() ? -1 : static_cast<int>(found - words.begin());
     }
 
     template <std::size_t Count>

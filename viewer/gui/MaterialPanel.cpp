@@ -144,7 +144,14 @@ MaterialPanel::MaterialPanel(Stage& targetStage, TextureTool& targetTool)
     rows->addWidget(projectionContent);
     auto* projectionRows = new QVBoxLayout(projectionContent);
     projectionRows->setContentsMargins(0, 0, 0, 0);
-    addProjectionRow(*projectionRows);
+    auto* projections = new QFormLayout;
+    projections->addRow(tr("Projection"),
+                        addChoice("texture.projection",
+                                  { { "planar", tr("From one side") },
+                                    { "uv", tr("Texture coordinates") },
+                                    { "triplanar", tr("From three sides") },
+                                    { "tire", tr("Around a tire") } }));
+    projectionRows->addLayout(projections);
     addHandleRows(*projectionRows);
     for (const char* word : { "planar", "uv", "triplanar", "tire" }) {
         addValueRows(*projectionRows, word);
@@ -192,18 +199,6 @@ QAbstractButton* MaterialPanel::addHandleButton(QBoxLayout* row, const char* gro
     button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     handleButtons->addButton(button);
     return button;
-}
-
-void MaterialPanel::addProjectionRow(QBoxLayout& column)
-{
-    auto* form = new QFormLayout;
-    form->addRow(tr("Projection"),
-                 addChoice("texture.projection",
-                           { { "planar", tr("From one side") },
-                             { "uv", tr("Texture coordinates") },
-                             { "triplanar", tr("From three sides") },
-                             { "tire", tr("Around a tire") } }));
-    column.addLayout(form);
 }
 
 void MaterialPanel::addHandleRows(QBoxLayout& column)

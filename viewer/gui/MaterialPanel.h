@@ -31,7 +31,6 @@ public:
 
 private:
     void addPictureRows(QFormLayout& form);
-    void addProjectionRow(QBoxLayout& column);
     void addHandleRows(QBoxLayout& column);
     /// Rows of one projection, by its word in commands.
     void addValueRows(QBoxLayout& column, const char* word);

@@ -24,19 +24,11 @@ struct Word
     Value value;
 };
 
-constexpr Word<Type> kTypes[] = { { "move", Type::Move },
-                                  { "press", Type::Press },
-                                  { "release", Type::Release },
-                                  { "click", Type::Click },
-                                  { "doubleClick", Type::DoubleClick },
-                                  { "wheel", Type::Wheel },
-                                  { "leave", Type::Leave },
-                                  { "key", Type::Key },
-                                  { "keyPress", Type::KeyPress },
-                                  { "keyRelease", Type::KeyRelease },
-                                  { "command", Type::Command },
-                                  { "caption", Type::Caption },
-                                  { "checkpoint", Type::Checkpoint } };
+/// In the order of SessionStep::Type.
+constexpr std::array<const char*, 13> kTypes { "move",        "press",      "release", "click",
+                                               "doubleClick", "wheel",      "leave",   "key",
+                                               "keyPress",    "keyRelease", "command", "caption",
+                                               "checkpoint" };
 
 constexpr Word<Qt::MouseButton> kButtons[] = { { "left", Qt::LeftButton },
                                                { "middle", Qt::MiddleButton },
@@ -180,11 +172,11 @@ static bool describe(JsonInput& in, SessionStep& step)
             QStringLiteral("unknown %1 \"%2\"").arg(what, found.toVariant().toString()));
     };
     const QJsonValue typeName = in.take("type");
-    const auto type = find(kTypes, typeName);
-    if (!type) {
+    const int type = JsonInput::indexOf(typeName, kTypes);
+    if (type < 0) {
         return unknown("type", "type", typeName);
     }
-    step.type = *type;
+    step.type = static_cast<Type>(type);
     const auto button = in.has("button") ? find(kButtons, in.take("button")) : step.button;
     step.button = button.value_or(step.button);
     step.value = in.has("value") ? in.take("value") : step.value;

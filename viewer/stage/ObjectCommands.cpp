@@ -276,6 +276,11 @@ bool duplicateSelected(Stage& stage, const QJsonValue& /*value*/, QString& error
     return true;
 }
 
+void setName(const osg::NodePtr& node, const std::string& name)
+{
+    nbNodeUtils::setName(node, name);
+}
+
 bool rename(Stage& stage, const QJsonValue& value, QString& error)
 {
     const osg::NodePtr object = stage.selectedObject();
@@ -285,13 +290,9 @@ bool rename(Stage& stage, const QJsonValue& value, QString& error)
                                       : Text::tr("a name has at least one letter");
         return false;
     }
-    const auto set = [](const osg::NodePtr& node, const std::string& to) {
-        nbNodeUtils::setName(node, to);
-    };
     const nbScopedUndo scope(Text::tr("Rename"));
-    recordValue(
-        object, [](const osg::NodePtr& node) { return nbNodeUtils::getName(node); }, set);
-    set(object, name.toStdString());
+    recordValue(object, &nbNodeUtils::getName, &setName);
+    setName(object, name.toStdString());
     return true;
 }
 

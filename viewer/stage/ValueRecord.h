@@ -1,55 +1,41 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <nbKernelServices/nbUndoRecord.h>
+#include <nbKernelServices/nbStateRecord.h>
 #include <nbKernelServices/nbUndoService.h>
 
 #include <OpenSG/OSGNode.h>
-#include <OpenSG/OSGNodePtr.h>
 
+#include <functional>
 #include <memory>
+#include <type_traits>
 
 namespace viewer {
 
-/// Undo record of something of a node that two functions tell and set. Made before the edit.
-/// @tparam Get  Value (const osg::NodePtr&)  @tparam Set  void (const osg::NodePtr&, const Value&)
-template <class Get, class Set>
-class ValueRecord : public nbUndoRecord
+/// Something of a node that two functions tell and set, as nbStateRecord keeps it.
+template <class Value>
+struct NodeValue
 {
-public:
-    ValueRecord(const osg::NodePtr& edited, Get getter, Set setter)
-        : node(edited)
-        , get(getter)
-        , set(setter)
-        , before(getter(edited))
-        , after(before)
-    { }
+    std::function<Value(const osg::NodePtr&)> get;
+    std::function<void(const osg::NodePtr&, const Value&)> set;
+    Value value;
 
-    bool close() override
-    {
-        after = get(node.get());
-        return after != before;
-    }
+    NodeValue now(const osg::NodePtr& node) const { return { get, set, get(node) }; }
 
-    void undo() override { set(node.get(), before); }
+    void applyTo(const osg::NodePtr& node) const { set(node, value); }
 
-    void redo() override { set(node.get(), after); }
-
-private:
-    using Value = decltype(std::declval<Get>()(osg::NodePtr()));
-
-    osg::NodeRefPtr node;
-    Get get;
-    Set set;
-    Value before;
-    Value after;
+    bool isSame(const NodeValue& other) const { return !(value != other.value); }
 };
 
 /// Records what is edited now in the open step of undo.
+/// @param get  Value (const osg::NodePtr&)
+/// @param set  void (const osg::NodePtr&, const Value&)
 template <class Get, class Set>
 void recordValue(const osg::NodePtr& node, Get get, Set set)
 {
-    nbUndoService::the()->record(std::make_unique<ValueRecord<Get, Set>>(node, get, set));
+    using Value = std::decay_t<std::invoke_result_t<Get, const osg::NodePtr&>>;
+    nbUndoService::the()->record(std::make_unique<nbStateRecord<NodeValue<Value>, osg::NodePtr>>(
+        node, NodeValue<Value> { get, set, get(node) }));
 }
 
 }  // namespace viewer
