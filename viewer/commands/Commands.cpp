@@ -88,7 +88,7 @@ void Commands::remove(const QString& prefix)
     removeWithPrefix(values, prefix);
 }
 
-bool Commands::run(const QString& name, const QJsonValue& value, QString& error, Moment moment)
+bool Commands::run(const QString& name, const QJsonValue& value, QString& error)
 {
     const auto found = commands.find(name);
     if (found == commands.end()) {
@@ -105,7 +105,7 @@ bool Commands::run(const QString& name, const QJsonValue& value, QString& error,
         return false;
     }
     if (listener) {
-        listener(name, value, moment);
+        listener(name);
     }
     return true;
 }

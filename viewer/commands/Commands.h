@@ -27,15 +27,7 @@ public:
     using Run = std::function<bool(const QJsonValue& value, QString& error)>;
     using Read = std::function<QJsonValue()>;
 
-    /// What a value is to whoever gives it.
-    enum class Moment
-    {
-        Final,
-        Passing  ///< one of many on the way to the final one, as while a slider is dragged
-    };
-
-    using Listener =
-        std::function<void(const QString& name, const QJsonValue& value, Moment moment)>;
+    using Listener = std::function<void(const QString& name)>;
 
     /// Adds a command, or replaces that of the name.
     void add(const QString& name, Run run) { commands[name] = std::move(run); }
@@ -63,8 +55,7 @@ public:
     /// @return false with one line in `error` for an unknown name, a command that refused, and
     /// while
     ///         something is dragged
-    bool run(const QString& name, const QJsonValue& value, QString& error,
-             Moment moment = Moment::Final);
+    bool run(const QString& name, const QJsonValue& value, QString& error);
     /// @return nothing for an unknown name
     std::optional<QJsonValue> value(const QString& name) const;
     /// Names of all commands, sorted.
@@ -72,7 +63,7 @@ public:
     /// Names of all values, sorted.
     QStringList valueNames() const;
 
-    /// Sets who is told of every command that was done, such as a recorder; empty for nobody.
+    /// Sets who is told of every command that was done; empty for nobody.
     void setListener(Listener newListener) { listener = std::move(newListener); }
 
     /// Sets the folder that relative file names in values are looked up in; the current one at

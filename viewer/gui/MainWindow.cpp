@@ -113,16 +113,14 @@ void MainWindow::connectParts()
     });
     connect(sceneFiles, &SceneFileActions::opened, this, &MainWindow::sceneOpened);
     connect(sceneFiles, &SceneFileActions::saved, this, [this](const QString& path) {
-        shownFiles = QStringList { path };
-        setShownTitle(QFileInfo(path).fileName());
-        addRecentFiles(shownFiles);
+        setShownTitle(path);
+        addRecentFiles({ path });
     });
     connect(sessionPlayer, &SessionPlayer::finished, this, &MainWindow::concludeReplay);
-    viewWidget->stage().commands().setListener(
-        [this](const QString& name, const QJsonValue&, Commands::Moment) {
-            sceneFiles->noteCommand(name);
-            viewWidget->stage().edited();
-        });
+    viewWidget->stage().commands().setListener([this](const QString& name) {
+        sceneFiles->noteCommand(name);
+        viewWidget->stage().edited();
+    });
     viewWidget->stage().setHeldCallback(
         [this] { emit problem(tr("The view is held: \"Hold the view\" (Shift+H) lets it go")); });
     viewWidget->stage().setChangedCallback([this] {
@@ -196,8 +194,9 @@ void MainWindow::changeEvent(QEvent* event)
     QMainWindow::changeEvent(event);
 }
 
-void MainWindow::setShownTitle(const QString& name)
+void MainWindow::setShownTitle(const QString& file)
 {
+    const QString name = QFileInfo(file).fileName();
     setWindowTitle(name.isEmpty() ? QStringLiteral("nbviewer[*]")
                                   : name + QStringLiteral("[*] - nbviewer"));
 }

@@ -129,7 +129,9 @@ private:
     void connectParts();
     /// Makes them anew in the present language, arranged as they are.
     void renewSurroundings();
-    void setShownTitle(const QString& name);
+    void setShownTitle(const QString& file);
+    /// Tells of what a file gave, and goes on with the session that asked for it.
+    void concludeOpening(const QString& file);
     void updateStatus();
     void showLoadedModels();
     void showObjectMenu(const osg::Pnt2f& px, const QPoint& screenPlace);
@@ -156,7 +158,6 @@ private:
     SceneFileActions* sceneFiles = nullptr;
     std::unique_ptr<Settings> settings;
 
-    QStringList shownFiles;
     QStringList openingFiles;
     Opening openingMode = Opening::Replace;
     std::optional<Session> pendingSession;

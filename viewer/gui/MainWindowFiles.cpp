@@ -52,7 +52,6 @@ void MainWindow::showStartScene()
         return;
     }
     loader->cancel();
-    shownFiles.clear();
     viewWidget->stage().showStartScene();
     sceneFiles->replaced();
     setShownTitle({});
@@ -83,9 +82,13 @@ void MainWindow::openFiles(const QStringList& files, Opening opening)
 
 void MainWindow::sceneOpened(const QString& path)
 {
-    shownFiles = QStringList { path };
-    addRecentFiles(shownFiles);
-    setShownTitle(QFileInfo(path).fileName());
+    addRecentFiles({ path });
+    concludeOpening(path);
+}
+
+void MainWindow::concludeOpening(const QString& file)
+{
+    setShownTitle(file);
     actions->update();
     updateStatus();
     if (pendingSession) {
@@ -104,16 +107,12 @@ void MainWindow::showLoadedModels()
     const bool replaced = openingMode == Opening::Replace || stage.isEmpty();
     if (openingMode == Opening::Replace) {
         stage.clear();
-        shownFiles.clear();
     }
     QStringList warnings;
     osg::NodePtr last;
     for (const BuiltModel& model : loader->takeModels()) {
         last = stage.add(model);
         warnings.append(model.warnings);
-    }
-    for (const QString& file : openingFiles) {
-        shownFiles.append(QFileInfo(file).absoluteFilePath());
     }
     addRecentFiles(openingFiles);
     if (openingMode == Opening::Replace) {
@@ -126,19 +125,13 @@ void MainWindow::showLoadedModels()
     if (stage.gizmo().shown() == Gizmo::None) {
         stage.showGizmo(Gizmo::Universal);
     }
-    actions->update();
-    updateStatus();
-    setShownTitle(QFileInfo(openingFiles.value(0)).fileName());
     for (const QString& warning : warnings) {
         docks->log().append(nbLog::Level::Warning, warning);
     }
     if (!warnings.isEmpty() && mode == Attendance::Attended) {
         messageBar->showMessage(warnings.first());
     }
-    if (pendingSession) {
-        beginReplay();
-    }
-    emit filesShown();
+    concludeOpening(openingFiles.value(0));
 }
 
 void MainWindow::addRecentFiles(const QStringList& files)

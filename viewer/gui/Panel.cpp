@@ -32,10 +32,10 @@ Widget* named(Widget* widget, const QString& command)
 
 }  // namespace
 
-bool Panel::run(const QString& command, const QJsonValue& value, Commands::Moment moment)
+bool Panel::run(const QString& command, const QJsonValue& value)
 {
     QString error;
-    const bool isDone = shownStage.commands().run(command, value, error, moment);
+    const bool isDone = shownStage.commands().run(command, value, error);
     if (!isDone) {
         emit problem(error);
         refresh();
@@ -91,10 +91,9 @@ VectorEdit* Panel::addNumbers(const QString& command, const QStringList& names,
     auto* edit = new VectorEdit(names, style, this);
     edit->setObjectName(command);
     const bool isOne = names.size() == 1;
-    connect(edit, &VectorEdit::edited, this,
-            [this, command, isOne](const QJsonArray& numbers, Commands::Moment moment) {
-                run(command, isOne ? numbers.first() : QJsonValue(numbers), moment);
-            });
+    connect(edit, &VectorEdit::edited, this, [this, command, isOne](const QJsonArray& numbers) {
+        run(command, isOne ? numbers.first() : QJsonValue(numbers));
+    });
     connect(edit, &VectorEdit::scrubbed, this, [](bool isOn) {
         // The whole drag is one step.
         isOn ? nbUndoService::the()->beginGroup() : nbUndoService::the()->endGroup();
@@ -109,14 +108,10 @@ QSlider* Panel::addSlider(const QString& command, Range range, const QString& va
 {
     auto* slider = named(new QSlider(Qt::Horizontal, this), command);
     slider->setRange(0, static_cast<int>(kPercent));
-    const auto tell = [this, slider, command, range](Commands::Moment moment) {
+    connect(slider, &QSlider::valueChanged, this, [this, slider, command, range] {
         const auto [least, most] = range();
-        run(command, least + (most - least) * slider->value() / kPercent, moment);
-    };
-    connect(slider, &QSlider::valueChanged, this, [slider, tell] {
-        tell(slider->isSliderDown() ? Commands::Moment::Passing : Commands::Moment::Final);
+        run(command, least + (most - least) * slider->value() / kPercent);
     });
-    connect(slider, &QSlider::sliderReleased, this, [tell] { tell(Commands::Moment::Final); });
     bind(slider, value, [slider, range](const QJsonValue& number) {
         const auto [least, most] = range();
         slider->setValue(qRound((number.toDouble() - least) / (most - least) * kPercent));

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "viewer/commands/Commands.h"
 #include "viewer/gui/NumberBox.h"
 
 #include <QJsonValue>
@@ -57,8 +56,7 @@ protected:
 
     /// Runs a command of the stage; a refusal becomes a problem(), and the panel shows again what
     /// is. @return whether it was done
-    bool run(const QString& command, const QJsonValue& value = {},
-             Commands::Moment moment = Commands::Moment::Final);
+    bool run(const QString& command, const QJsonValue& value = {});
     /// Null for an unknown name.
     QJsonValue value(const QString& name) const;
 
@@ -71,7 +69,7 @@ protected:
     /// Numbers, as an array; one is no array.
     VectorEdit* addNumbers(const QString& command, const QStringList& names,
                            const NumberBox::Style& style, const QString& value = {});
-    /// A slider, of whose numbers only the last one of a drag is final.
+    /// A slider.
     QSlider* addSlider(const QString& command, Range range, const QString& value = {});
     /// Has a widget show a value; "" for that of its name.
     void bind(QWidget* field, const QString& value, std::function<void(const QJsonValue&)> display);

@@ -179,11 +179,9 @@ void PerspectiveMatchPanel::addLines(QFormLayout& form)
             style, this);
         edit->setObjectName("matchLine_" + word);
         form.addRow(name, edit);
-        connect(
-            edit, &VectorEdit::edited, this,
-            [this, word](const QJsonArray& ends, Commands::Moment moment) {
-                run("match.setLine", QJsonObject { { "line", word }, { "ends", ends } }, moment);
-            });
+        connect(edit, &VectorEdit::edited, this, [this, word](const QJsonArray& ends) {
+            run("match.setLine", QJsonObject { { "line", word }, { "ends", ends } });
+        });
         bind(edit, "match.lines",
              [edit, word](const QJsonValue& lines) { edit->display(lines[word].toArray()); });
         ofUnlocked.push_back(edit);

@@ -98,7 +98,7 @@ void SceneFileActions::addCommands()
             return false;
         }
         adopt(path, false, read);
-        emit opened(path, true);
+        emit opened(path);
         return true;
     });
     commands.add(QStringLiteral("scene.save"), [this](const QJsonValue& value, QString& error) {
@@ -154,7 +154,7 @@ void SceneFileActions::conclude()
     }
     scene->show(stage);
     adopt(documentFile, isDocumentChosen, documentStamp);
-    emit opened(documentFile, false);
+    emit opened(documentFile);
 }
 
 // == Saving

@@ -111,7 +111,7 @@ public:
 
 signals:
     /// A scene is shown that came from this file.
-    void opened(const QString& path, bool byCommand);
+    void opened(const QString& path);
     void saved(const QString& path);
     void modifiedChanged(bool modified);
     /// What could not be done, one line; everything is as it was.

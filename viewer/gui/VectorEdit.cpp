@@ -20,17 +20,8 @@ VectorEdit::VectorEdit(const QStringList& names, const Style& style, QWidget* pa
         box->setToolTip(name);
         box->setButtonSymbols(QAbstractSpinBox::NoButtons);
         connect(box, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
-                [this, changed = boxes.size()] {
-                    tell(changed,
-                         isScrubbing ? Commands::Moment::Passing : Commands::Moment::Final);
-                });
-        connect(box, &NumberBox::scrubbed, this, [this, changed = boxes.size()](bool isOn) {
-            isScrubbing = isOn;
-            emit scrubbed(isOn);
-            if (!isOn) {
-                tell(changed, Commands::Moment::Final);
-            }
-        });
+                [this, changed = boxes.size()] { tell(changed); });
+        connect(box, &NumberBox::scrubbed, this, &VectorEdit::scrubbed);
         layout->addWidget(box);
         boxes.push_back(box);
     }
@@ -46,7 +37,7 @@ void VectorEdit::addLink(const QString& tip)
     layout()->addWidget(link);
 }
 
-void VectorEdit::tell(std::size_t changed, Commands::Moment moment)
+void VectorEdit::tell(std::size_t changed)
 {
     const double number = boxes[changed]->number();
     if (link != nullptr && link->isChecked() && changed < shown.size() && shown[changed] != 0.0) {
@@ -59,7 +50,7 @@ void VectorEdit::tell(std::size_t changed, Commands::Moment moment)
     for (const NumberBox* each : boxes) {
         values.append(each->number());
     }
-    emit edited(values, moment);
+    emit edited(values);
 }
 
 void VectorEdit::display(const QJsonArray& values)

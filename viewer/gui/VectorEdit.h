@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "viewer/commands/Commands.h"
 #include "viewer/gui/NumberBox.h"
 
 #include <QJsonArray>
@@ -34,16 +33,15 @@ public:
 
 signals:
     /// A person changed a number. @param values  all of them
-    void edited(const QJsonArray& values, Commands::Moment moment);
+    void edited(const QJsonArray& values);
     /// A drag that changes a number has begun, or ended.
     void scrubbed(bool isOn);
 
 private:
-    void tell(std::size_t changed, Commands::Moment moment);
+    void tell(std::size_t changed);
 
     std::vector<NumberBox*> boxes;
     QToolButton* link = nullptr;
-    bool isScrubbing = false;
     std::vector<double> shown;  ///< before the change
 };
 
