@@ -60,6 +60,16 @@ void Commands::addSwitch(const QString& name, SetSwitch set, std::function<bool(
         });
 }
 
+void Commands::addSwitch(const QString& name, std::function<void(bool on)> set,
+                         std::function<bool()> isOn)
+{
+    const SetSwitch always = [set = std::move(set)](bool on, QString&) {
+        set(on);
+        return true;
+    };
+    addSwitch(name, always, std::move(isOn));
+}
+
 void Commands::addChoice(const QString& name, const QStringList& words,
                          std::function<bool(int place, QString& error)> choose)
 {

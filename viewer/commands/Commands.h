@@ -39,6 +39,9 @@ public:
     /// Adds a command that takes true or false.
     /// @param isOn  tells how it is; then null does the other; empty: null is refused
     void addSwitch(const QString& name, SetSwitch set, std::function<bool()> isOn = {});
+    /// The same of one that nothing hinders.
+    void addSwitch(const QString& name, std::function<void(bool on)> set,
+                   std::function<bool()> isOn = {});
     /// Adds a command that takes one of some words. @param choose  gets the place of the word
     void addChoice(const QString& name, const QStringList& words,
                    std::function<bool(int place, QString& error)> choose);

@@ -29,7 +29,7 @@ AxesCorner::AxesCorner(QWidget* host, Stage& targetStage)
     : QWidget(host)
     , stage(targetStage)
 {
-    setObjectName(QStringLiteral("axesCorner"));
+    setObjectName("axesCorner");
     setAccessibleName(tr("Axes of the world"));
     setToolTip(tr("Click on an axis to look along it"));
     setCursor(Qt::PointingHandCursor);

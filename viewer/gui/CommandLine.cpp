@@ -15,14 +15,14 @@
 namespace viewer {
 namespace {
 
-const QString kSession = QStringLiteral("session");
-const QString kTour = QStringLiteral("tour");
-const QString kScreenshot = QStringLiteral("screenshot");
-const QString kOutput = QStringLiteral("output");
-const QString kSize = QStringLiteral("size");
-const QString kLanguage = QStringLiteral("language");
-const QString kHelp = QStringLiteral("help");
-const QString kVersion = QStringLiteral("version");
+const QString kSession = "session";
+const QString kTour = "tour";
+const QString kScreenshot = "screenshot";
+const QString kOutput = "output";
+const QString kSize = "size";
+const QString kLanguage = "language";
+const QString kHelp = "help";
+const QString kVersion = "version";
 
 QString languageNames()
 {
@@ -30,7 +30,7 @@ QString languageNames()
     for (const Language language : kLanguages) {
         names.append(languageName(language));
     }
-    return names.join(QStringLiteral(", "));
+    return names.join(", ");
 }
 
 void addOptions(QCommandLineParser& parser)
@@ -82,7 +82,7 @@ bool isWritablePicture(const QString& path, QString& error)
 
 bool parseSize(const QString& text, QSize& sizePx)
 {
-    static const QRegularExpression kPattern(QStringLiteral("^([0-9]{1,6})[xX]([0-9]{1,6})$"));
+    static const QRegularExpression kPattern("^([0-9]{1,6})[xX]([0-9]{1,6})$");
     const QRegularExpressionMatch match = kPattern.match(text);
     if (!match.hasMatch()) {
         return false;

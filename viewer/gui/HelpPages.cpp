@@ -75,8 +75,8 @@ void AboutBox::open(const QString& graphics, QWidget* parent)
         new QMessageBox(QMessageBox::NoIcon, tr("About nbviewer"),
                         tr("Interactive manipulators for 3D scenes"), QMessageBox::Close, parent);
     box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setObjectName(QStringLiteral("aboutBox"));
-    box->setInformativeText(lines.join(QLatin1Char('\n')));
+    box->setObjectName("aboutBox");
+    box->setInformativeText(lines.join('\n'));
     box->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     box->open();
 }
@@ -90,12 +90,12 @@ void showShortcuts(QWidget& window)
     for (const QAction* action : window.findChildren<QAction*>()) {
         if (!action->shortcut().isEmpty() && !action->objectName().isEmpty()) {
             rows += row(QKeySequence::listToString(action->shortcuts(), QKeySequence::NativeText),
-                        action->toolTip().section(QStringLiteral(" ("), 0, -2));
+                        action->toolTip().section(" (", 0, -2));
         }
     }
     auto* page = new QDialog(&window);
     page->setAttribute(Qt::WA_DeleteOnClose);
-    page->setObjectName(QStringLiteral("shortcutPage"));
+    page->setObjectName("shortcutPage");
     page->setWindowTitle(Text::tr("Shortcuts"));
     page->resize(kSize);
     auto* column = new QVBoxLayout(page);

@@ -20,7 +20,7 @@ constexpr const char* kLevels[] = {
 LogPanel::LogPanel(QWidget* parent)
     : QPlainTextEdit(parent)
 {
-    setObjectName(QStringLiteral("logList"));
+    setObjectName("logList");
     setAccessibleName(tr("Messages"));
     setReadOnly(true);
     setTabChangesFocus(true);
@@ -43,9 +43,9 @@ LogPanel::~LogPanel()
 
 void LogPanel::append(Level level, const QString& text)
 {
-    appendPlainText(QStringList { QTime::currentTime().toString(QStringLiteral("HH:mm:ss")),
+    appendPlainText(QStringList { QTime::currentTime().toString("HH:mm:ss"),
                                   tr(kLevels[static_cast<std::size_t>(level)]), text }
-                        .join(QLatin1Char('\t')));
+                        .join('\t'));
 }
 
 }  // namespace viewer

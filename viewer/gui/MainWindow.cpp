@@ -111,7 +111,10 @@ void MainWindow::connectParts()
         updateStatus();
         emit problem(text);
     });
-    connect(sceneFiles, &SceneFileActions::opened, this, &MainWindow::sceneOpened);
+    connect(sceneFiles, &SceneFileActions::opened, this, [this](const QString& path) {
+        addRecentFiles({ path });
+        concludeOpening(path);
+    });
     connect(sceneFiles, &SceneFileActions::saved, this, [this](const QString& path) {
         setShownTitle(path);
         addRecentFiles({ path });
@@ -179,7 +182,7 @@ void MainWindow::renewSurroundings()
     statusBar()->setVisible(!isWhole());
     updateStatus();
     viewWidget->setFocus();
-    if (auto* dialog = findChild<QDialog*>(QStringLiteral("settings"))) {
+    if (auto* dialog = findChild<QDialog*>("settings")) {
         dialog->deleteLater();
         showSettings();
     }
@@ -197,8 +200,7 @@ void MainWindow::changeEvent(QEvent* event)
 void MainWindow::setShownTitle(const QString& file)
 {
     const QString name = QFileInfo(file).fileName();
-    setWindowTitle(name.isEmpty() ? QStringLiteral("nbviewer[*]")
-                                  : name + QStringLiteral("[*] - nbviewer"));
+    setWindowTitle(name.isEmpty() ? "nbviewer[*]" : name + QStringLiteral("[*] - nbviewer"));
 }
 
 void MainWindow::updateStatus()
@@ -222,7 +224,7 @@ void MainWindow::showObjectMenu(const osg::Pnt2f& px, const QPoint& screenPlace)
     }
     QString error;
     if (std::find(selected.begin(), selected.end(), object) == selected.end()) {
-        stage.commands().run(QStringLiteral("scene.select"), QJsonArray { pathOf(object) }, error);
+        stage.commands().run("scene.select", QJsonArray { pathOf(object) }, error);
     }
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);

@@ -135,7 +135,6 @@ private:
     void updateStatus();
     void showLoadedModels();
     void showObjectMenu(const osg::Pnt2f& px, const QPoint& screenPlace);
-    void sceneOpened(const QString& path);
     void addRecentFiles(const QStringList& files);
     void stopLoading();
     void handleDroppedFiles(const QStringList& files, const osg::Pnt2f& px);

@@ -27,7 +27,7 @@ namespace {
 
 bool isSession(const QString& file)
 {
-    return file.endsWith(QLatin1String(".json"), Qt::CaseInsensitive);
+    return file.endsWith(".json", Qt::CaseInsensitive);
 }
 
 bool isPicture(const QString& file)
@@ -78,12 +78,6 @@ void MainWindow::openFiles(const QStringList& files, Opening opening)
         loader->start(files);
     }
     updateStatus();
-}
-
-void MainWindow::sceneOpened(const QString& path)
-{
-    addRecentFiles({ path });
-    concludeOpening(path);
 }
 
 void MainWindow::concludeOpening(const QString& file)
@@ -163,8 +157,8 @@ void MainWindow::askForFiles(Opening opening)
 
 void MainWindow::askForPicture()
 {
-    const QString path = QFileDialog::getSaveFileName(
-        this, tr("Save picture"), QStringLiteral("view.png"), tr("Pictures (*.png *.jpg *.bmp)"));
+    const QString path = QFileDialog::getSaveFileName(this, tr("Save picture"), "view.png",
+                                                      tr("Pictures (*.png *.jpg *.bmp)"));
     QString error;
     if (!path.isEmpty() && !savePicture(path, error)) {
         emit problem(error);

@@ -249,7 +249,7 @@ void MaterialPanel::addValueRows(QBoxLayout& column, const char* word)
         form->addRow(label, addNumbers(row.command, names, style));
     }
     addSwitches(*itsColumn, word);
-    if (QLatin1String(word) == QLatin1String("planar")) {
+    if (QLatin1String(word) == "planar") {
         auto* transparency =
             addSlider("texture.planeTransparency", [] { return std::pair(0.0, 1.0); });
         transparency->setToolTip(tr("How far one sees through the shown projection"));

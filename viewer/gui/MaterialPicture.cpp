@@ -24,7 +24,7 @@ MaterialPicture::MaterialPicture(QWidget* parent)
     , camera(osg::UberCamera::create())
     , viewport(osg::UberViewport::create())
 {
-    setObjectName(QStringLiteral("materialPicture"));
+    setObjectName("materialPicture");
     setFixedHeight(kSide);
     const nbEdit edit(viewport.get(), osg::FieldBits::AllFields);
     viewport->setCamera(camera.get());

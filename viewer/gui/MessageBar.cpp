@@ -14,7 +14,7 @@ constexpr int kMarginPx = 12;
 MessageBar::MessageBar(QWidget* host)
     : QLabel(host)
 {
-    setObjectName(QStringLiteral("messageBar"));
+    setObjectName("messageBar");
     setWordWrap(true);
     setTextFormat(Qt::PlainText);
     setStyleSheet(QStringLiteral(

@@ -31,7 +31,7 @@ NumberBox::NumberBox(const Style& style, QWidget* parent)
     setSingleStep(style.step);
     // Half a number is no edit.
     setKeyboardTracking(false);
-    setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("-000.00")));
+    setMinimumWidth(fontMetrics().horizontalAdvance("-000.00"));
     lineEdit()->installEventFilter(this);
     connect(lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) {
         QPalette shown = palette();
@@ -104,12 +104,12 @@ void NumberBox::display(double number)
 
 QString NumberBox::textFromValue(double number) const
 {
-    static const QRegularExpression kNothing(QStringLiteral("\\.?0+$"));
+    static const QRegularExpression kNothing("\\.?0+$");
     QString text = QString::number(number, 'f', shownDecimals);
     if (shownDecimals > 0) {
         text.remove(kNothing);
     }
-    return text == QLatin1String("-0") ? QStringLiteral("0") : text;
+    return text == "-0" ? "0" : text;
 }
 
 nbValueExpression NumberBox::read(const QString& text) const

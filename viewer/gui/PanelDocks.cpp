@@ -119,27 +119,26 @@ void PanelDocks::addSteps()
 {
     QUndoStack* stack = nbUndoService::the()->getStack();
     undoView = new QUndoView(stack);
-    undoView->setObjectName(QStringLiteral("undoList"));
+    undoView->setObjectName("undoList");
     undoView->setEmptyLabel(tr("As opened"));
     // Keys are for the view, whatever was clicked last.
     undoView->setFocusPolicy(Qt::TabFocus);
     undoView->setAccessibleName(tr("Steps"));
-    stepsDock = addDock(undoView, tr("Steps"), QStringLiteral("undoDock"));
+    stepsDock = addDock(undoView, tr("Steps"), "undoDock");
     connect(stack, &QUndoStack::indexChanged, this, [this] { stage.edited(); });
 }
 
 void PanelDocks::addPanels()
 {
     scenePanel = new ScenePanel(stage);
-    sceneDock = addPanel(scenePanel, tr("Objects"), QStringLiteral("sceneDock"));
-    objectDock = addPanel(new ObjectPanel(stage), tr("Properties"), QStringLiteral("objectDock"));
-    toolDocks[QStringLiteral("texture")] = addPanel(new MaterialPanel(stage, tools.texture),
-                                                    tr("Material"), QStringLiteral("materialDock"));
-    toolDocks[QStringLiteral("match")] =
-        addPanel(new PerspectiveMatchPanel(stage, tools.match), tr("Perspective match"),
-                 QStringLiteral("matchDock"));
-    toolDocks[QStringLiteral("plates")] = addPanel(
-        new PlatesPanel(stage, tools.plates), tr("Scene plates"), QStringLiteral("platesDock"));
+    sceneDock = addPanel(scenePanel, tr("Objects"), "sceneDock");
+    objectDock = addPanel(new ObjectPanel(stage), tr("Properties"), "objectDock");
+    toolDocks["texture"] =
+        addPanel(new MaterialPanel(stage, tools.texture), tr("Material"), "materialDock");
+    toolDocks["match"] = addPanel(new PerspectiveMatchPanel(stage, tools.match),
+                                  tr("Perspective match"), "matchDock");
+    toolDocks["plates"] =
+        addPanel(new PlatesPanel(stage, tools.plates), tr("Scene plates"), "platesDock");
     // As wide from the start as any of them needs, so that the view keeps its size.
     int widest = 0;
     for (const QDockWidget* dock : docks) {
@@ -152,7 +151,7 @@ void PanelDocks::addPanels()
 void PanelDocks::addLog()
 {
     logPanel = new LogPanel;
-    logDock = addDock(logPanel, tr("Messages"), QStringLiteral("logDock"));
+    logDock = addDock(logPanel, tr("Messages"), "logDock");
     window.addDockWidget(Qt::BottomDockWidgetArea, logDock);
     logDock->hide();
 }

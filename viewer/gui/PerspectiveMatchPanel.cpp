@@ -202,7 +202,7 @@ void PerspectiveMatchPanel::refresh()
     setTextOf(result,
               tr("%1 Field of view %2°.", "sentence, number")
                       .arg(resultText(tool), QString::number(fovDeg, 'f', 2)) +
-                  QLatin1Char(' ') + qualityText(tool));
+                  ' ' + qualityText(tool));
 }
 
 }  // namespace viewer

@@ -149,8 +149,7 @@ void PlatesPanel::addArranging(QBoxLayout* row)
         { "plates.duplicate", "", tr("Duplicate") },
     };
 
-    QToolButton* const button =
-        addTool(row, "platesArrange", QStringLiteral("≡"), tr("Arrange plates"), [] {});
+    QToolButton* const button = addTool(row, "platesArrange", "≡", tr("Arrange plates"), [] {});
     button->setPopupMode(QToolButton::InstantPopup);
     auto* menu = new QMenu(button);
     button->setMenu(menu);
@@ -184,7 +183,7 @@ QFormLayout* PlatesPanel::createProperties()
                   { { true, tr("In front of the scene") }, { false, tr("Behind the scene") } }));
     auto* opacity = new NumberBox(percentStyle(0.0), this);
     opacity->setObjectName("plates.opacity");
-    opacity->setSuffix(QStringLiteral(" %"));
+    opacity->setSuffix(" %");
     connect(opacity, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
             [this](double percent) { run("plates.opacity", percent / kPercent); });
     bind(opacity, {},
@@ -235,7 +234,7 @@ QWidget* PlatesPanel::createTextBox()
     layout->addLayout(row);
     textHeight = new NumberBox(percentStyle(1.0), box);
     textHeight->setObjectName("plateTextHeight");
-    textHeight->setSuffix(QStringLiteral(" %"));
+    textHeight->setSuffix(" %");
     textHeight->setToolTip(tr("Height of a line, of the view's"));
     textHeight->setValue(PlateText::kUsualHeight * kPercent);
     row->addWidget(textHeight);

@@ -87,9 +87,9 @@ SceneFileActions::~SceneFileActions()
 void SceneFileActions::addCommands()
 {
     Commands& commands = stage.commands();
-    commands.add(QStringLiteral("scene.open"), [this](const QJsonValue& value, QString& error) {
+    commands.add("scene.open", [this](const QJsonValue& value, QString& error) {
         QString name;
-        if (!JsonReader(error).readString(value, QStringLiteral("scene.open"), name)) {
+        if (!JsonReader(error).readString(value, "scene.open", name)) {
             return false;
         }
         const QString path = stage.commands().filePath(name);
@@ -101,21 +101,20 @@ void SceneFileActions::addCommands()
         emit opened(path);
         return true;
     });
-    commands.add(QStringLiteral("scene.save"), [this](const QJsonValue& value, QString& error) {
+    commands.add("scene.save", [this](const QJsonValue& value, QString& error) {
         if (value.isNull() && isChosen) {
             return isAsLeft(error) && saveTo(sceneFile, error);
         }
         QString name;
-        if (!JsonReader(error).readString(value, QStringLiteral("scene.save"), name)) {
+        if (!JsonReader(error).readString(value, "scene.save", name)) {
             return false;
         }
-        const QString path = stage.commands().outputPath(
-            name, QLatin1Char('.') + QLatin1String(kSceneSuffix), error);
+        const QString path =
+            stage.commands().outputPath(name, '.' + QLatin1String(kSceneSuffix), error);
         return !path.isEmpty() && saveTo(path, error);
     });
-    commands.addValue(QStringLiteral("scene.file"),
-                      [this] { return QFileInfo(sceneFile).fileName(); });
-    commands.addValue(QStringLiteral("scene.modified"), [this] { return isModified(); });
+    commands.addValue("scene.file", [this] { return QFileInfo(sceneFile).fileName(); });
+    commands.addValue("scene.modified", [this] { return isModified(); });
 }
 
 // == Opening
@@ -213,7 +212,7 @@ bool SceneFileActions::saveAs()
         return false;
     }
     if (!isSceneFileName(path)) {
-        path += QLatin1Char('.') + QLatin1String(kSceneSuffix);
+        path += '.' + QLatin1String(kSceneSuffix);
     }
     QString error;
     return tell(saveTo(path, error), error);
@@ -241,9 +240,8 @@ void SceneFileActions::keepEdits(const QDir& folder, std::function<QImage()> sho
     recovery = std::make_unique<Recovery>(folder);
     shownPicture = std::move(shown);
     connect(&keepTimer, &QTimer::timeout, this, &SceneFileActions::keepNow);
-    keepTimer.start(
-        kMsOfASecond *
-        qMax(1, QSettings().value(QStringLiteral("keepSeconds"), kUsualSeconds).toInt()));
+    keepTimer.start(kMsOfASecond *
+                    qMax(1, QSettings().value("keepSeconds", kUsualSeconds).toInt()));
     connect(this, &SceneFileActions::modifiedChanged, this, [this](bool modified) {
         if (!modified) {
             recovery->forget();

@@ -42,7 +42,7 @@ ScenePanel::ScenePanel(Stage& stage)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(tree);
-    tree->setObjectName(QStringLiteral("sceneTree"));
+    tree->setObjectName("sceneTree");
     tree->setAccessibleName(tr("Objects of the scene"));
     tree->setHeaderHidden(true);
     tree->setSelectionMode(QAbstractItemView::ExtendedSelection);
@@ -89,7 +89,7 @@ void ScenePanel::addObjects(const osg::NodePtr& parent, const QString& parentPat
         child->setFlags(child->flags() | Qt::ItemIsEditable | Qt::ItemIsUserCheckable);
         child->setData(0, kPathRole, path);
         child->setData(0, kIdRole, object.getFieldContainerId());
-        addObjects(object, path + QLatin1Char('/'), child);
+        addObjects(object, path + '/', child);
     }
 }
 
@@ -104,19 +104,19 @@ void ScenePanel::showStates()
         (*item)->setData(0, kNameRole, (*item)->text(0));
         (*item)->setCheckState(0, node->getActive() ? Qt::Checked : Qt::Unchecked);
         (*item)->setToolTip(0, isLocked ? tr("Locked") : QString());
-        (*item)->setIcon(0, isLocked ? themeIcon(QStringLiteral("view.setHeld")) : QIcon());
+        (*item)->setIcon(0, isLocked ? themeIcon("view.setHeld") : QIcon());
     }
 }
 
 void ScenePanel::change(const QTreeWidgetItem& item)
 {
-    if (!run(QStringLiteral("scene.select"), QJsonArray { item.data(0, kPathRole).toString() })) {
+    if (!run("scene.select", QJsonArray { item.data(0, kPathRole).toString() })) {
         return;
     }
     if (item.text(0) != item.data(0, kNameRole).toString()) {
-        run(QStringLiteral("object.name"), item.text(0));
+        run("object.name", item.text(0));
     } else {
-        run(QStringLiteral("object.visible"), item.checkState(0) == Qt::Checked);
+        run("object.visible", item.checkState(0) == Qt::Checked);
     }
 }
 
@@ -162,7 +162,7 @@ void ScenePanel::select()
     for (const QTreeWidgetItem* item : tree->selectedItems()) {
         paths.append(item->data(0, kPathRole).toString());
     }
-    run(QStringLiteral("scene.select"), paths);
+    run("scene.select", paths);
 }
 
 }  // namespace viewer

@@ -301,8 +301,8 @@ bool SessionPlayer::playCheckpoint(const SessionStep& step, QString& error)
     if (!step.screenshot || !pictureFolder) {
         return true;
     }
-    const QString path = view.stage().commands().outputPath(step.name + QStringLiteral(".png"),
-                                                            QStringLiteral(".png"), error);
+    const QString path =
+        view.stage().commands().outputPath(step.name + QStringLiteral(".png"), ".png", error);
     const QImage picture = path.isEmpty() ? QImage() : view.takePicture(error);
     if (picture.isNull()) {
         return false;

@@ -19,15 +19,15 @@ constexpr qint64 kMostListBytes = 100000;
 
 QStringList SessionTour::readList(const QDir& folder, QString& error)
 {
-    const QString list = folder.filePath(QStringLiteral("tour.txt"));
+    const QString list = folder.filePath("tour.txt");
     QByteArray text;
     if (!readWhole(list, kMostListBytes, text, error)) {
         return {};
     }
     QStringList sessions;
-    for (const QString& line : QString::fromUtf8(text).split(QLatin1Char('\n'))) {
+    for (const QString& line : QString::fromUtf8(text).split('\n')) {
         const QString name = line.trimmed();
-        if (!name.isEmpty() && !name.startsWith(QLatin1Char('#'))) {
+        if (!name.isEmpty() && !name.startsWith('#')) {
             sessions.append(folder.absoluteFilePath(name));
         }
     }

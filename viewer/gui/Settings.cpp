@@ -22,7 +22,7 @@ namespace {
 using nbec::manipulator::BuiltInPalette;
 
 constexpr double kMebibyte = 1048576.0;
-const QString kPrefix = QStringLiteral("settings.");
+const QString kPrefix = "settings.";
 
 constexpr std::pair<const char*, BuiltInPalette> kPalettes[] = {
     { "classic", BuiltInPalette::Classic },
@@ -97,7 +97,7 @@ void Settings::addWindow()
             "navigation", QT_TR_NOOP("Orbiting"),
             [this] { return window.view().doesMiddleOrbit() ? "middle" : "right"; },
             [this](const QJsonValue& name) {
-                window.view().setMiddleOrbits(name.toString() == QLatin1String("middle"));
+                window.view().setMiddleOrbits(name.toString() == "middle");
             },
             { { "right", QT_TR_NOOP("Right button; middle pans") },
               { "middle", QT_TR_NOOP("Middle button; with Shift pans") } }),
@@ -259,7 +259,7 @@ void Settings::addCommand(const Setting& setting)
         commands.addNumber(name, setting.least, setting.most,
                            [set](double number, QString&) { return set(number); });
     } else {
-        commands.addSwitch(name, [set](bool on, QString&) { return set(on); });
+        commands.addSwitch(name, [set](bool on) { set(on); });
     }
     commands.addValue(name, setting.read);
 }

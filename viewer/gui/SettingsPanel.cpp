@@ -45,7 +45,7 @@ void SettingsPanel::open(Stage& stage, const Settings& settings, QWidget& window
 {
     auto* dialog = new QDialog(&window);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setObjectName(QStringLiteral("settings"));
+    dialog->setObjectName("settings");
     dialog->setWindowTitle(tr("Settings"));
     auto* column = new QVBoxLayout(dialog);
     column->addWidget(new SettingsPanel(stage, settings));

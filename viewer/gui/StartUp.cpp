@@ -83,9 +83,7 @@ void StartUp::playSession()
 {
     connect(&window.player(), &SessionPlayer::pictureWritten, this, &announce);
     connect(&window, &MainWindow::replayFinished, this, &StartUp::concludeSession);
-    window.replay(
-        *session,
-        QDir(options.outputFolder.isEmpty() ? QStringLiteral(".") : options.outputFolder));
+    window.replay(*session, QDir(options.outputFolder.isEmpty() ? "." : options.outputFolder));
 }
 
 void StartUp::goOnTour()

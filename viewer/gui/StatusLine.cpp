@@ -53,14 +53,14 @@ StatusLine::StatusLine(QStatusBar& bar)
     for (QLabel** label : { &selectionLabel, &handleLabel, &valuesLabel }) {
         bar.addWidget(*label = new QLabel(&bar));
     }
-    valuesLabel->setObjectName(QStringLiteral("values"));
+    valuesLabel->setObjectName("values");
     progress->setRange(0, kPercent);
-    progress->setObjectName(QStringLiteral("progress"));
+    progress->setObjectName("progress");
     progress->setAccessibleName(tr("Progress of loading"));
     progress->setAlignment(Qt::AlignCenter);
-    cancelButton->setObjectName(QStringLiteral("stopLoading"));
+    cancelButton->setObjectName("stopLoading");
     cancelButton->setText(tr("Stop"));
-    cancelButton->setIcon(themeIcon(QStringLiteral("cancel")));
+    cancelButton->setIcon(themeIcon("cancel"));
     cancelButton->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     cancelButton->setAccessibleName(tr("Stop loading"));
     cancelButton->setToolTip(tr("Stop loading (Esc); the scene stays as it is"));
@@ -70,7 +70,7 @@ StatusLine::StatusLine(QStatusBar& bar)
     for (QLabel** label : { &frameLabel, &sceneLabel }) {
         bar.addPermanentWidget(*label = new QLabel(&bar));
     }
-    frameLabel->setObjectName(QStringLiteral("frame"));
+    frameLabel->setObjectName("frame");
     progress->hide();
     cancelButton->hide();
 }
@@ -97,7 +97,7 @@ void StatusLine::setProgress(ModelLoader::Phase phase, const QString& file, int 
     const QString name =
         progress->fontMetrics().elidedText(QFileInfo(file).fileName(), Qt::ElideMiddle, kNameWidth);
     // A percent sign of a name is not one of the format.
-    const QString shown = QString(name).replace(QLatin1Char('%'), QStringLiteral("％"));
+    const QString shown = QString(name).replace('%', "％");
     const QString format = phase == ModelLoader::Phase::Reading
         ? tr("Reading %1: %p%", "%p is the number").arg(shown)
         : tr("Preparing %1: %p%", "%p is the number").arg(shown);

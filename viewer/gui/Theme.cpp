@@ -80,7 +80,7 @@ void applyTheme(Theme theme)
     const Desktop& given = desktop();
     const bool isSystem = theme == Theme::System;
     // Styles of desktops draw with colours of their own, so a palette shows as meant in Qt's only.
-    const QString style = isSystem ? given.style : QStringLiteral("fusion");
+    const QString style = isSystem ? given.style : "fusion";
     if (QApplication::style()->objectName().compare(style, Qt::CaseInsensitive) != 0) {
         QApplication::setStyle(style);
     }

@@ -45,9 +45,9 @@ void addButton(QToolBar& bar, QAction* action)
     if (button == nullptr) {
         return;
     }
-    button->setObjectName(bar.objectName() + QLatin1Char('.') + action->objectName());
+    button->setObjectName(bar.objectName() + '.' + action->objectName());
     button->setAccessibleName(action->toolTip());
-    if (action->objectName() == QLatin1String("localSpace")) {
+    if (action->objectName() == "localSpace") {
         // Which axes they are is a word.
         button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     }

@@ -31,7 +31,7 @@ void VectorEdit::addLink(const QString& tip)
 {
     link = new QToolButton(this);
     link->setCheckable(true);
-    link->setIcon(themeIcon(QStringLiteral("link")));
+    link->setIcon(themeIcon("link"));
     link->setToolTip(tip);
     link->setAccessibleName(tip);
     layout()->addWidget(link);

@@ -107,7 +107,7 @@ ViewWidget::ViewWidget(QWidget* parent)
     : nbViewWidget(parent)
     , viewStage(view())
 {
-    setObjectName(QStringLiteral("view"));
+    setObjectName("view");
     setAcceptDrops(true);
     setInteractionManager(viewStage.interaction());
     addCommands();
@@ -211,13 +211,9 @@ void ViewWidget::addCommands()
 {
     Commands& commands = viewStage.commands();
     commands.addSwitch(
-        QStringLiteral("view.setFrameStatistics"),
-        [this](bool on, QString&) {
-            showFrameStatistics(on);
-            return true;
-        },
+        "view.setFrameStatistics", [this](bool on) { showFrameStatistics(on); },
         [this] { return frameStatisticsShown; });
-    commands.addValue(QStringLiteral("view.frameStatistics"), [this]() -> QJsonValue {
+    commands.addValue("view.frameStatistics", [this]() -> QJsonValue {
         const nbRenderAction::Statistics frame = frameStatistics();
         return QJsonObject { { "shown", frameStatisticsShown },
                              { "frames", static_cast<double>(frame.frames) },
@@ -239,7 +235,7 @@ bool ViewWidget::isOfTouchpad(const QWheelEvent& event)
 bool ViewWidget::followTouchpad(QEvent* event)
 {
     if (event->type() == QEvent::Wheel && isOfTouchpad(static_cast<QWheelEvent&>(*event))) {
-        // As a drag of the middle button, so that it is recorded as one.
+        // As a drag of the middle button.
         const auto& wheel = static_cast<const QWheelEvent&>(*event);
         const Qt::KeyboardModifiers keys = doesMiddleOrbit() ? Qt::ShiftModifier : Qt::NoModifier;
         const QPointF to = wheel.position() + wheel.pixelDelta();

@@ -76,9 +76,9 @@ constexpr GizmoRow kGizmos[] = {
 /// Chinese has the letter behind the text, as in "(&F)".
 QString withoutMnemonic(const QString& text)
 {
-    static const QRegularExpression kBehind(QStringLiteral("\\(&.\\)"));
+    static const QRegularExpression kBehind("\\(&.\\)");
     QString plain = text;
-    return plain.remove(kBehind).remove(QLatin1Char('&'));
+    return plain.remove(kBehind).remove('&');
 }
 
 }  // namespace
@@ -263,8 +263,8 @@ void WindowActions::addViewMenu()
     add(menu, "frameAll", tr("Frame &all"), "A", [this] { stage.frameAll(); });
     add(menu, "frameSelection", tr("Frame &selection"), "F", [this] { stage.frameSelection(); });
     menu->addSeparator();
-    QMenu* views = menu->addMenu(themeIcon(QStringLiteral("views")), tr("Look &from"));
-    views->menuAction()->setObjectName(QStringLiteral("views"));
+    QMenu* views = menu->addMenu(themeIcon("views"), tr("Look &from"));
+    views->menuAction()->setObjectName("views");
     views->menuAction()->setToolTip(tr("Look from a side"));
     for (const ViewRow& row : kViews) {
         add(views, row.name, tr(row.text), row.keys,
@@ -397,8 +397,7 @@ void WindowActions::setRecentFiles(const QStringList& files)
     recentMenu->setEnabled(!files.isEmpty());
     for (const QString& file : files) {
         // In a name an ampersand is one.
-        const QString name =
-            QFileInfo(file).fileName().replace(QLatin1Char('&'), QLatin1String("&&"));
+        const QString name = QFileInfo(file).fileName().replace('&', "&&");
         QAction* action = recentMenu->addAction(name);
         action->setToolTip(file);
         connect(action, &QAction::triggered, this,

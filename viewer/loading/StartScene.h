@@ -3,7 +3,7 @@
 
 #include "viewer/loading/ModelData.h"
 
-#include <array>
+#include <OpenSG/OSGVector.h>
 
 namespace viewer {
 
@@ -14,8 +14,8 @@ constexpr const char* kStartSceneMainObject = "Knot";
 constexpr const char* kStartSceneName = "start scene";
 
 /// Eye and point looked at from which the start scene is composed; world space, y up.
-constexpr std::array<float, 3> kStartSceneFrom { 6.4F, 5.3F, 9.6F };
-constexpr std::array<float, 3> kStartSceneAt { 0.0F, 1.25F, 0.0F };
+const osg::Pnt3f kStartSceneFrom { 6.4F, 5.3F, 9.6F };
+const osg::Pnt3f kStartSceneAt { 0.0F, 1.25F, 0.0F };
 
 /// Narrowest view that shows all of the start scene from there, width by height.
 constexpr float kStartSceneAspect = 1.3F;

@@ -87,18 +87,9 @@ void addModes(Commands& commands, PerspectiveMatchTool& tool, Stage& stage)
             return true;
         },
         [&tool] { return tool.isActive(); });
-    const std::pair<const char*, void (*)(PerspectiveMatchTool&, bool)> switches[] = {
-        { "match.showLines", [](PerspectiveMatchTool& t, bool on) { t.showLines(on); } },
-        { "match.setEdgeSnapping",
-          [](PerspectiveMatchTool& t, bool on) { t.setSnapsToEdges(on); } },
-        { "match.setLocked", [](PerspectiveMatchTool& t, bool on) { t.camera().setLocked(on); } },
-    };
-    for (const auto& [name, set] : switches) {
-        commands.addSwitch(name, [&tool, write = set](bool on, QString&) {
-            write(tool, on);
-            return true;
-        });
-    }
+    commands.addSwitch("match.showLines", [&tool](bool on) { tool.showLines(on); });
+    commands.addSwitch("match.setEdgeSnapping", [&tool](bool on) { tool.setSnapsToEdges(on); });
+    commands.addSwitch("match.setLocked", [&tool](bool on) { tool.camera().setLocked(on); });
 }
 
 void addEdits(Commands& commands, PerspectiveMatchTool& tool)

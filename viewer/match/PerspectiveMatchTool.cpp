@@ -266,7 +266,7 @@ bool PerspectiveMatchTool::nudge(const QPoint& way, bool coarse)
     const QLineF former = camera().getPerspectiveMatch().getLine(lineOf(name.line));
     const QLineF line(name.part != kSecondEnd ? former.p1() + step : former.p1(),
                       name.part != kFirstEnd ? former.p2() + step : former.p2());
-    // As a command, so that it becomes part of a recording.
+    // As a command, so that it is refused and undone like others.
     QString error;
     return stage.commands().run(
         "match.setLine",
@@ -423,7 +423,7 @@ HandleAction PerspectiveMatchTool::actionOf(const std::string& handle) const
 bool PerspectiveMatchTool::takePicture(const QString& file, const osg::Pnt2f& /*px*/,
                                        QString& error)
 {
-    // As a command, so that it becomes part of a recording.
+    // As a command, so that it is refused and undone like others.
     return active && stage.commands().run("match.setPhotograph", file, error);
 }
 

@@ -353,16 +353,10 @@ void addValues(Stage& stage, PlatesTool& tool)
 void addModes(Stage& stage, PlatesTool& tool)
 {
     stage.commands().addSwitch(
-        prefixed("edit"),
-        [&stage, &tool](bool on, QString&) {
-            stage.useTool(tool, on);
-            return true;
-        },
+        prefixed("edit"), [&stage, &tool](bool on) { stage.useTool(tool, on); },
         [&tool] { return tool.isActive(); });
-    stage.commands().addSwitch(prefixed("snapping"), [&stage](bool on, QString&) {
-        stage.gizmo().setSnapping(on);
-        return true;
-    });
+    stage.commands().addSwitch(prefixed("snapping"),
+                               [&stage](bool on) { stage.gizmo().setSnapping(on); });
 }
 
 using Side = nbSceneplateEditing::Side;

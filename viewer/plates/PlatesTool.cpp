@@ -319,7 +319,7 @@ bool PlatesTool::takePicture(const QString& file, const osg::Pnt2f& px, QString&
     const osg::Int32 anchor = nearestAnchor(px, view);
     const osg::Vec2f position =
         nbSceneplateLayout::positionAt(anchor, px, view.getWidth(), view.getHeight());
-    // As a command, so that it becomes part of a recording.
+    // As a command, so that it is refused and undone like others.
     return stage.commands().run(
         "plates.addPicture",
         QJsonObject { { "file", file },

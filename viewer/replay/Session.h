@@ -111,7 +111,7 @@ constexpr ModifierKey kModifierKeys[] = { { "Ctrl", Qt::Key_Control, Qt::Control
                                           { "Shift", Qt::Key_Shift, Qt::ShiftModifier },
                                           { "Alt", Qt::Key_Alt, Qt::AltModifier } };
 
-/// A recorded or written series of events with everything that makes its replay give the same
+/// A series of events with everything that makes its replay give the same
 /// picture.
 struct Session
 {

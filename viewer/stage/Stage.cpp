@@ -53,12 +53,7 @@ Stage::Stage(nbOSGWidget& view)
     manager.addContext(&cameraContext);
     selectionCallback = nbSelection::addChangedCallback([this] { selectionChanged(); });
     commandTable.addSwitch(
-        "view.setHeld",
-        [this](bool on, QString&) {
-            holdView(on);
-            return true;
-        },
-        [this] { return viewHeld; });
+        "view.setHeld", [this](bool on) { holdView(on); }, [this] { return viewHeld; });
     commandTable.addValue("view.held", [this] { return viewHeld; });
     addClipPlaneCommands(*this);
     addObjectCommands(*this);

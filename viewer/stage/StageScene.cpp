@@ -25,11 +25,6 @@ namespace {
 
 constexpr float kStartFovDeg = 32.0F;
 
-osg::Pnt3f pointOf(const std::array<float, 3>& p)
-{
-    return { p[0], p[1], p[2] };
-}
-
 std::size_t trianglesBelow(const osg::NodePtr& node)
 {
     std::size_t count = 0;
@@ -116,11 +111,11 @@ void Stage::showStartScene()
     clear();
     const osg::NodePtr node = add(makeStartScene());
     CameraPose start;
-    start.at = pointOf(kStartSceneAt);
+    start.at = kStartSceneAt;
     // In a narrow view the eye steps back, so that the table keeps its place.
     const float aspect = renderWidget.getUberViewport()->getDeviceAspect();
     const float retreat = aspect > 0.0F ? std::max(1.0F, kStartSceneAspect / aspect) : 1.0F;
-    start.from = start.at + (pointOf(kStartSceneFrom) - start.at) * retreat;
+    start.from = start.at + (kStartSceneFrom - start.at) * retreat;
     start.pivot = start.at;
     start.fovDeg = kStartFovDeg;
     setPose(start);
