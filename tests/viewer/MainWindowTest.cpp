@@ -52,9 +52,7 @@ TEST_F(MainWindowTest, AModelReplacesTheSceneAndIsSelectedAndInView)
     EXPECT_EQ(stage().triangleCount(), 4U);
     EXPECT_EQ(stage().selectedName(), "far away");
     osg::Pnt2f px;
-    ASSERT_TRUE(nbCameraNavigation::project(stage().pose(), osg::Pnt3f(1025.0F, 1025.0F, 1025.0F),
-                                            stage().view().getWidth(), stage().view().getHeight(),
-                                            px));
+    ASSERT_TRUE(stage().project(osg::Pnt3f(1025.0F, 1025.0F, 1025.0F), px));
     EXPECT_TRUE(QRect({ 0, 0 }, window.view().sizePx()).contains(int(px[0]), int(px[1])));
 }
 

@@ -58,8 +58,7 @@ TEST_F(MaterialPanelTest, ADroppedPictureIsSeenWhereItFellAndTheObjectKeepsItsCo
 {
     const QImage before = picture();
     QString recorded;
-    stage().commands().setListener(
-        [&recorded](const QString& name, const QJsonValue&, Commands::Moment) { recorded = name; });
+    stage().commands().setListener([&recorded](const QString& name) { recorded = name; });
     drop(kLabel, "Vase");
     EXPECT_EQ(recorded, "texture.drop");
     EXPECT_EQ(find<QLabel>("textureFile")->text(), "label.png");
@@ -201,31 +200,6 @@ TEST_F(MaterialPanelTest, TheProjectionIsSwitchedTypedAndDraggedAroundAClickedPl
     }
     EXPECT_EQ(projection->currentData().toString(), "planar");
     EXPECT_EQ(problems, QStringList());
-}
-
-TEST_F(MaterialPanelTest, ADraggedSliderIsOneCommand)
-{
-    drop(kLabel, "Vase");
-    QStringList told;
-    stage().commands().setListener(
-        [&told](const QString& name, const QJsonValue& value, Commands::Moment moment) {
-            if (moment == Commands::Moment::Final) {
-                told.append(name + QLatin1Char(' ') + QString::number(value.toDouble()));
-            }
-        });
-    auto* slider = find<QSlider>("texture.planeTransparency");
-    slider->setValue(10);
-    told.clear();
-
-    slider->setSliderDown(true);
-    for (const int position : { 20, 40, 60 }) {
-        slider->setValue(position);
-        EXPECT_NEAR(value("texture.planeTransparency").toDouble(), position / 100.0, 1e-6);
-    }
-    EXPECT_EQ(told, QStringList());
-    slider->setSliderDown(false);
-
-    EXPECT_EQ(told, QStringList { "texture.planeTransparency 0.6" });
 }
 
 }  // namespace

@@ -151,9 +151,7 @@ TEST_F(PerspectiveMatchToolTest, TellsHowSureItIsAndTakesWhatElseIsKnown)
     EXPECT_TRUE(run("match.placeByLine", QJsonObject { { "line", "x1" }, { "length", 2.0 } }));
     EXPECT_GT(stage.pose().from.dist(before.from), 0.1F);
     osg::Pnt2f origin;
-    ASSERT_TRUE(nbCameraNavigation::project(stage.pose(), osg::Pnt3f(0.F, 0.F, 0.F),
-                                            stage.view().getWidth(), stage.view().getHeight(),
-                                            origin));
+    ASSERT_TRUE(stage.project(osg::Pnt3f(0.F, 0.F, 0.F), origin));
     osg::Pnt2f begin;
     ASSERT_TRUE(tool.findHandle("x1a", begin));
     EXPECT_LT(origin.dist(begin), 0.2F);
