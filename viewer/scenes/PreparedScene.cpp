@@ -319,10 +319,9 @@ private:
 
     const osg::RefPtr<osg::NodePtr>& nodeOf(const SceneBranch& branch) const
     {
-        const auto& all = branch.kind == SceneBranch::Kind::Model ? models
-            : branch.kind == SceneBranch::Kind::Frame             ? frames
-                                                                  : planes;
-        return all[static_cast<std::size_t>(branch.number)];
+        const std::vector<osg::RefPtr<osg::NodePtr>>* const parts[] = { &models, &frames, &planes };
+        return parts[static_cast<std::size_t>(branch.kind)]->at(
+            static_cast<std::size_t>(branch.number));
     }
 
     void hangChildren(const SceneBranch& branch)
