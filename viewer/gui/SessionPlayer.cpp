@@ -304,10 +304,7 @@ bool SessionPlayer::playCheckpoint(const SessionStep& step, QString& error)
     const QString path =
         view.stage().commands().outputPath(step.name + QStringLiteral(".png"), ".png", error);
     const QImage picture = path.isEmpty() ? QImage() : view.takePicture(error);
-    if (picture.isNull()) {
-        return false;
-    }
-    if (!writePicture(path, picture, error)) {
+    if (picture.isNull() || !writePicture(path, picture, error)) {
         return false;
     }
     emit pictureWritten(path);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/loading/Shapes.h"
 
+#include <OpenSG/OSGVector.h>
+
 #include <algorithm>
 #include <cmath>
 #include <functional>
@@ -18,7 +20,7 @@ constexpr float kDifference = 1e-3F;
 using Vec2 = std::array<float, 2>;
 
 /// A point of a curved surface for parameters u and v, each 0 .. 1.
-using SurfaceFunction = std::function<Vec3(float u, float v)>;
+using SurfaceFunction = std::function<osg::Vec3f(float u, float v)>;
 
 /// How finely a surface is cut, and where its ends meet.
 struct SurfaceGrid
@@ -29,31 +31,11 @@ struct SurfaceGrid
     bool vCloses = false;
 };
 
-Vec3 operator-(const Vec3& a, const Vec3& b)
-{
-    return { a[0] - b[0], a[1] - b[1], a[2] - b[2] };
-}
-
-Vec3 operator+(const Vec3& a, const Vec3& b)
-{
-    return { a[0] + b[0], a[1] + b[1], a[2] + b[2] };
-}
-
-Vec3 operator*(float s, const Vec3& a)
-{
-    return { s * a[0], s * a[1], s * a[2] };
-}
-
-Vec3 cross(const Vec3& a, const Vec3& b)
-{
-    return { a[1] * b[2] - a[2] * b[1], a[2] * b[0] - a[0] * b[2], a[0] * b[1] - a[1] * b[0] };
-}
-
 /// Unit vector; a vector without length comes back as it is.
-Vec3 unit(const Vec3& a)
+osg::Vec3f unit(const osg::Vec3f& a)
 {
     const float size = std::sqrt(a[0] * a[0] + a[1] * a[1] + a[2] * a[2]);
-    return size > 0.0F ? (1.0F / size) * a : a;
+    return size > 0.0F ? a * (1.0F / size) : a;
 }
 
 /// Parameter beside another one, on the surface still.
@@ -63,7 +45,7 @@ float beside(float at, float step, bool closes)
     return closes ? moved - std::floor(moved) : std::clamp(moved, 0.0F, 1.0F);
 }
 
-Vec3 tangent(const SurfaceFunction& surface, const SurfaceGrid& grid, Vec2 at, bool alongU)
+osg::Vec3f tangent(const SurfaceFunction& surface, const SurfaceGrid& grid, Vec2 at, bool alongU)
 {
     const bool closes = alongU ? grid.uCloses : grid.vCloses;
     const auto place = [&](float step) {
@@ -73,12 +55,12 @@ Vec3 tangent(const SurfaceFunction& surface, const SurfaceGrid& grid, Vec2 at, b
     return place(kDifference) - place(-kDifference);
 }
 
-Vec3 normalAt(const SurfaceFunction& surface, const SurfaceGrid& grid, float u, float v)
+osg::Vec3f normalAt(const SurfaceFunction& surface, const SurfaceGrid& grid, float u, float v)
 {
     // At a pole, where all u are one place, the normal is that of a place just beside it.
     const float margin = grid.vCloses ? 0.0F : 2.0F * kDifference;
     const Vec2 at { u, std::clamp(v, margin, 1.0F - margin) };
-    return unit(cross(tangent(surface, grid, at, true), tangent(surface, grid, at, false)));
+    return unit(tangent(surface, grid, at, true).cross(tangent(surface, grid, at, false)));
 }
 
 /// Point of the curve through four corners between the second and the third (Catmull-Rom), per
@@ -129,8 +111,10 @@ void addSurface(const SurfaceFunction& surface, const SurfaceGrid& grid, MeshDat
         for (unsigned i = 0; i <= grid.uSteps; ++i) {
             const float u = static_cast<float>(i) / static_cast<float>(grid.uSteps);
             const float v = static_cast<float>(j) / static_cast<float>(grid.vSteps);
-            mesh.positions.push_back(surface(u, v));
-            mesh.normals.push_back(normalAt(surface, grid, u, v));
+            const osg::Vec3f place = surface(u, v);
+            const osg::Vec3f normal = normalAt(surface, grid, u, v);
+            mesh.positions.push_back({ place[0], place[1], place[2] });
+            mesh.normals.push_back({ normal[0], normal[1], normal[2] });
         }
     }
     const std::uint32_t row = grid.uSteps + 1;
@@ -160,8 +144,8 @@ MeshData makeRound(unsigned around, unsigned upwards,
         const float turn = kTwoPi * u;
         const float rise = kPi * (v - 0.5F);
         const float ring = size(turn, rise) * std::cos(rise);
-        return Vec3 { ring * std::sin(turn), size(turn, rise) * std::sin(rise),
-                      ring * std::cos(turn) };
+        return osg::Vec3f { ring * std::sin(turn), size(turn, rise) * std::sin(rise),
+                            ring * std::cos(turn) };
     };
     return meshOf(place, { around, upwards, true, false });
 }
@@ -181,7 +165,8 @@ MeshData makeLathe(const std::vector<Vec2>& profile, unsigned steps)
         const auto turned = [&part](float u, float v) {
             const Vec2 point = curvePoint(part, v);
             const float radius = std::max(point[0], 0.0F);
-            return Vec3 { radius * std::sin(kTwoPi * u), point[1], radius * std::cos(kTwoPi * u) };
+            return osg::Vec3f { radius * std::sin(kTwoPi * u), point[1],
+                                radius * std::cos(kTwoPi * u) };
         };
         addSurface(turned, { steps, vSteps, true, false }, mesh);
     }
@@ -197,19 +182,20 @@ MeshData makeTorusKnot(float ringRadius, float tubeRadius)
         const float turn = kTwoPi * kTurns * t;
         const float winding = kTwoPi * kWindings * t;
         const float radius = ringRadius * (1.0F + kDepth * std::cos(winding));
-        return Vec3 { radius * std::cos(turn), ringRadius * kDepth * 1.25F * std::sin(winding),
-                      radius * std::sin(turn) };
+        return osg::Vec3f { radius * std::cos(turn),
+                            ringRadius * kDepth * 1.25F * std::sin(winding),
+                            radius * std::sin(turn) };
     };
     const auto tube = [&](float u, float v) {
-        const Vec3 centre = spine(v);
-        const Vec3 along = unit(spine(v + kDifference) - spine(v - kDifference));
+        const osg::Vec3f centre = spine(v);
+        const osg::Vec3f along = unit(spine(v + kDifference) - spine(v - kDifference));
         // The spine never runs along the way to the axis, so this frame has no twist and no gap.
-        const Vec3 outwards = unit(Vec3 { centre[0], 0.0F, centre[2] });
-        const Vec3 side = unit(cross(along, outwards));
-        const Vec3 top = cross(side, along);
+        const osg::Vec3f outwards = unit(osg::Vec3f { centre[0], 0.0F, centre[2] });
+        const osg::Vec3f side = unit(along.cross(outwards));
+        const osg::Vec3f top = side.cross(along);
         const float angle = kTwoPi * u;
-        return centre + (tubeRadius * std::cos(angle)) * top +
-            (tubeRadius * std::sin(angle)) * side;
+        return centre + top * (tubeRadius * std::cos(angle)) +
+            side * (tubeRadius * std::sin(angle));
     };
     return meshOf(tube, { 40, 360, true, true });
 }
@@ -246,11 +232,11 @@ MeshData makeTwistedColumn(float halfWidth, float height)
         const float angle = kTwoPi * u;
         const float size = section(angle) * (1.0F - 0.28F * v);
         const float turned = angle + kTwist * v;
-        return Vec3 { size * std::sin(turned), height * v, size * std::cos(turned) };
+        return osg::Vec3f { size * std::sin(turned), height * v, size * std::cos(turned) };
     };
     const auto lid = [&](float u, float v) {
-        const Vec3 rim = side(u, 1.0F);
-        return Vec3 { rim[0] * (1.0F - v), height, rim[2] * (1.0F - v) };
+        const osg::Vec3f rim = side(u, 1.0F);
+        return osg::Vec3f { rim[0] * (1.0F - v), height, rim[2] * (1.0F - v) };
     };
     MeshData mesh = meshOf(side, { 96, 96, true, false });
     addSurface(lid, { 96, 1, true, false }, mesh);

@@ -96,8 +96,7 @@ bool readWhole(const QString& path, qint64 mostBytes, QByteArray& text, QString&
     // One byte more shows a file that grows.
     text = file.read(mostBytes + 1);
     if (file.error() != QFileDevice::NoError) {
-        error = QStringLiteral("%1: %2").arg(path, file.errorString());
-        return false;
+        return fail(path, file.errorString(), error);
     }
     if (text.size() > mostBytes) {
         error = Text::tr("%1: too large").arg(path);
@@ -115,7 +114,7 @@ bool writeWhole(const QString& path, const QByteArray& text, QString& error)
     // A buffer would tell of a full disk only when its text is lost.
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) ||
         file.write(text) != text.size() || !file.commit()) {
-        error = QStringLiteral("%1: %2").arg(path, file.errorString());
+        fail(path, file.errorString(), error);
         file.cancelWriting();
         return false;
     }
