@@ -12,6 +12,7 @@
 #include <QFormLayout>
 #include <QGridLayout>
 #include <QLabel>
+#include <QMenu>
 #include <QPushButton>
 #include <QSlider>
 #include <QToolButton>
@@ -73,6 +74,12 @@ constexpr ValueRow kValueRows[] = {
       QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Repeat across"), Naming::Axes, 5.0 },
     { "triplanar", "texture.triplanarRepeatV",
       QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Repeat upwards"), Naming::Axes, 5.0 },
+    { "planar", "texture.texelsPerUnit",
+      QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Pixels per unit"), Naming::None, 1.0,
+      Measure::Number, kLeastScale },
+    { "triplanar", "texture.texelsPerUnit",
+      QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Pixels per unit"), Naming::None, 1.0,
+      Measure::Number, kLeastScale },
     { "tire", "texture.tireCenter", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Centre"),
       Naming::Axes, 0.05, Measure::Length },
     { "tire", "texture.tireHeight", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Width of tread"),
@@ -111,6 +118,31 @@ constexpr SwitchRow kSwitchRows[] = {
     { "", "texture.grabPicture", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Grab the picture") },
     { "", "texture.mask", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Picture is a mask") },
     { "", "texture.invert", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Invert") },
+};
+
+/// What is done with the picture as a whole.
+struct ArrangeRow
+{
+    const char* command;
+    const char* word;
+    const char* label;
+    int turns = 0;  ///< instead of the word
+};
+
+constexpr ArrangeRow kArrangeRows[] = {
+    { "texture.fit", "object", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Fit to the object") },
+    { "texture.fit", "face", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Fit to the face") },
+    { "texture.fit", "view", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Fit as seen") },
+    { "texture.centre", "", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Centre") },
+    { "texture.align", "normal",
+      QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Align to the surface") },
+    { "texture.align", "up", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Align upright") },
+    { "texture.align", "view", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Align to the view") },
+    { "texture.turnBy", "", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Quarter turn left"), 1 },
+    { "texture.turnBy", "", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Quarter turn right"), -1 },
+    { "texture.flip", "u", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Flip across") },
+    { "texture.flip", "v", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Flip upwards") },
+    { "texture.ownAspect", "", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Own aspect") },
 };
 
 }  // namespace
@@ -221,11 +253,30 @@ void MaterialPanel::addHandleRows(QBoxLayout& column)
     addHandleButton(placeRow, "place", tr("By click"), [this] {
         run("texture.place", !tool.isPlacing());
     })->setToolTip(tr("Clicks on the object place the picture, or its handles, until Esc"));
+    placeRow->addWidget(makeArrangeButton());
     form->addRow(tr("Placing"), placeRow);
     form->addRow(tr("Handle size"), addSlider("texture.handleSize", [this] {
                      const TextureGizmos::Size size = tool.handleSize();
                      return std::pair<double, double>(size.least, size.most);
                  }));
+}
+
+QWidget* MaterialPanel::makeArrangeButton()
+{
+    auto* button = new QToolButton(this);
+    button->setObjectName(QStringLiteral("texture-arrange"));
+    button->setText(tr("Arrange"));
+    button->setPopupMode(QToolButton::InstantPopup);
+    button->setFocusPolicy(Qt::TabFocus);
+    button->setMenu(new QMenu(button));
+    for (const ArrangeRow& row : kArrangeRows) {
+        button->menu()->addAction(tr(row.label), this, [this, &row] {
+            const QString word = QLatin1String(row.word);
+            run(QLatin1String(row.command),
+                row.turns != 0 ? QJsonValue(row.turns) : QJsonValue(word));
+        });
+    }
+    return button;
 }
 
 void MaterialPanel::addValueRows(QBoxLayout& column, const char* word)

@@ -33,6 +33,7 @@ private:
     void addPictureRows(QFormLayout& form);
     void addHandleRows(QBoxLayout& column);
     /// Rows of one projection, by its word in commands.
+    QWidget* makeArrangeButton();
     void addValueRows(QBoxLayout& column, const char* word);
     void addSwitches(QBoxLayout& column, const char* word);
     QAbstractButton* addHandleButton(QBoxLayout* row, const char* group, const QString& label,

@@ -56,19 +56,6 @@ osg::Vec3f vectorIn(const osg::NodePtr& node, const osg::Vec3f& world)
     return vector;
 }
 
-/// A normal of the world in the space of a node, any length: it goes by the transposed matrix.
-osg::Vec3f normalIn(const osg::NodePtr& node, const osg::Vec3f& world)
-{
-    const osg::Matrix worldFromNode = node->getToWorld();
-    osg::Vec3f normal;
-    for (osg::UInt32 axis = 0; axis < 3; ++axis) {
-        for (osg::UInt32 row = 0; row < 3; ++row) {
-            normal[axis] += worldFromNode[axis][row] * world[row];
-        }
-    }
-    return normal;
-}
-
 }  // namespace
 
 ProjectionPose poseOnFront(const osg::BoxVolume& bounds, const osg::Vec3f& toEye,
@@ -92,24 +79,6 @@ ProjectionPose poseOnFront(const osg::BoxVolume& bounds, const osg::Vec3f& toEye
     const float halfWidth = share * std::min(half[width], half[height] * aspect);
     pose.scale = osg::Vec3f(halfWidth, halfWidth / aspect, half[depth]);
     return pose;
-}
-
-osg::Quaternion uprightRotation(const osg::Vec3f& normal, const osg::Vec3f& up,
-                                const osg::Vec3f& other)
-{
-    constexpr float kFlat = 0.1F;
-    osg::Vec3f z = normal;
-    z.normalize();
-    for (const osg::Vec3f& wanted : { up, other, unit(longestAxis(z, 3) == 1 ? 2 : 1, 1.0F) }) {
-        osg::Vec3f y = wanted;
-        y.normalize();
-        y -= z * z.dot(y);
-        if (y.length() > kFlat) {
-            y.normalize();
-            return rotationOf(y, z);
-        }
-    }
-    return {};
 }
 
 osg::Vec3f scaleKeepingAspect(const osg::Vec3f& before, const osg::Vec3f& wanted)
@@ -156,20 +125,6 @@ osg::Vec3f scaleOfAspect(const osg::NodePtr& surface, const ProjectionPose& pose
         scale[wide > 1.0F ? 0 : 1] *= wide > 1.0F ? 1.0F / wide : wide;
     }
     return scale;
-}
-
-osg::Quaternion uprightOn(const osg::NodePtr& surface, const CameraPose& eye,
-                          const osg::Vec3f& normal)
-{
-    // Upright is meant in the world, where the surface's space may have unequal scales.
-    const auto alongSurface = [&](const osg::Vec3f& wanted) {
-        constexpr float kFlat = 0.1F;
-        const osg::Vec3f along = wanted - normal * normal.dot(wanted);
-        return along.length() > kFlat ? vectorIn(surface, along) : osg::Vec3f();
-    };
-    return uprightRotation(normalIn(surface, normal),
-                           alongSurface(nbCameraNavigation::worldUp(eye)),
-                           alongSurface(nbCameraNavigation::axes(eye).up));
 }
 
 }  // namespace viewer

@@ -34,17 +34,6 @@ ProjectionPose poseOnFront(const osg::BoxVolume& bounds, const osg::Vec3f& toEye
 ProjectionPose poseFacingTheEye(const osg::NodePtr& surface, const CameraPose& eye, float aspect,
                                 float share);
 
-/// Rotation of a projection that lies on a surface and is upright on it.
-/// @param normal  of the surface, any length; z of the projection
-/// @param up      what y of the projection is to point to
-/// @param other   what it points to on a surface that faces up or down
-osg::Quaternion uprightRotation(const osg::Vec3f& normal, const osg::Vec3f& up,
-                                const osg::Vec3f& other);
-
-/// The same for the geometry of a node, seen by a camera. @param normal  world space, unit length
-osg::Quaternion uprightOn(const osg::NodePtr& surface, const CameraPose& eye,
-                          const osg::Vec3f& normal);
-
 /// Scale of a projection on a surface, made smaller in x or y so that the picture has its own
 /// aspect in the world. @param aspect  width by height of the picture, > 0
 osg::Vec3f scaleOfAspect(const osg::NodePtr& surface, const ProjectionPose& pose, float aspect);

@@ -1,18 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/textures/TextureAnchor.h"
 
+#include "manipulator/handles/ContainerReference.h"
 #include "viewer/stage/Stage.h"
 
 #include <nbInteraction/Picker.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
-#include <OpenSG/OSGFieldContainerFactory.h>
-
 namespace viewer {
 
 void TextureAnchor::set(const osg::NodePtr& surface, const osg::Pnt3f& point)
 {
-    surfaceId = surface == osg::NullFC ? 0 : surface.getFieldContainerId();
+    surfaceId = nbec::manipulator::containerId(surface);
     localPlace = point;
     osg::Matrix surfaceFromWorld;
     if (surface != osg::NullFC && surface->getToWorld().inverse(surfaceFromWorld)) {
@@ -27,9 +26,7 @@ bool TextureAnchor::isOn(const osg::NodePtr& surface) const
 
 std::optional<osg::Pnt3f> TextureAnchor::worldPlace() const
 {
-    const osg::NodePtr surface = surfaceId == 0
-        ? osg::NodePtr()
-        : osg::NodePtr::dcast(osg::FieldContainerFactory::the()->getContainer(surfaceId));
+    const auto surface = nbec::manipulator::resolveContainer<osg::NodePtr>(surfaceId);
     if (surface == osg::NullFC) {
         return std::nullopt;
     }

@@ -58,7 +58,11 @@ constexpr std::array<VectorRow, 3> kVectors { {
       [](const osg::Transform3D& projection) -> osg::Vec3f { return projection.getRotation(); } },
     { "scale",
       [](TextureTarget& target, const osg::Vec3f& wanted) { return target.setScale(wanted); },
-      [](const osg::Transform3D& projection) -> osg::Vec3f { return projection.getScale(); },
+      // Mirrored ones have negative ones.
+      [](const osg::Transform3D& projection) -> osg::Vec3f {
+          const osg::Vec3f& scale = projection.getScale();
+          return { std::abs(scale.x()), std::abs(scale.y()), std::abs(scale.z()) };
+      },
       true },
 } };
 

@@ -1,29 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/textures/TextureTarget.h"
 
+#include "manipulator/handles/ContainerReference.h"
 #include "viewer/textures/SurfaceMaterial.h"
 
 #include <nbKernelServices/nbScopedUndo.h>
 
-#include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGGeometry.h>
 
+#include <cmath>
+
 namespace viewer {
-namespace {
 
-osg::NodePtr findNode(osg::UInt32 id)
-{
-    return id == 0 ? osg::NodePtr()
-                   : osg::NodePtr::dcast(osg::FieldContainerFactory::the()->getContainer(id));
-}
-
-template <class Pointer>
-osg::UInt32 idOf(const Pointer& container)
-{
-    return container == osg::NullFC ? 0 : container.getFieldContainerId();
-}
-
-}  // namespace
+using nbec::manipulator::containerId;
+using nbec::manipulator::resolveContainer;
 
 TextureTarget::TextureTarget(const std::string& receiverName, nbStateChunkBase& gui)
     : editor(receiverName)
@@ -38,13 +28,14 @@ bool TextureTarget::Connection::operator==(const Connection& other) const
 
 void TextureTarget::follow(const osg::NodePtr& object, const osg::NodePtr& part)
 {
-    objectId = idOf(object);
-    surfaceId = idOf(surfaceOf(object, part));
+    objectId = containerId(object);
+    surfaceId = containerId(surfaceOf(object, part));
 }
 
 bool TextureTarget::connect()
 {
-    const Connection wanted { idOf(object()), idOf(material()), idOf(projection()), componentName };
+    const Connection wanted { containerId(object()), containerId(material()),
+                              containerId(projection()), componentName };
     if (wanted == connected) {
         return false;
     }
@@ -55,12 +46,12 @@ bool TextureTarget::connect()
 
 osg::NodePtr TextureTarget::object() const
 {
-    return findNode(objectId);
+    return resolveContainer<osg::NodePtr>(objectId);
 }
 
 osg::NodePtr TextureTarget::surface() const
 {
-    return findNode(surfaceId);
+    return resolveContainer<osg::NodePtr>(surfaceId);
 }
 
 osg::UberMaterialPtr TextureTarget::material() const
@@ -166,7 +157,11 @@ bool TextureTarget::setScale(const osg::Vec3f& scale)
 {
     return editProjection([this, &scale](nbTransformState& state) {
         const bool keeps = settings()->hasPlanarProjectionFlag(Settings::KeepAspectRatio);
-        state.scale = keeps ? scaleKeepingAspect(state.scale, scale) : scale;
+        osg::Vec3f size;
+        for (osg::UInt32 i = 0; i < 3; ++i) {
+            size[i] = std::copysign(scale[i], state.scale[i]);
+        }
+        state.scale = keeps ? scaleKeepingAspect(state.scale, size) : size;
     });
 }
 

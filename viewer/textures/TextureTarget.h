@@ -3,7 +3,7 @@
 
 #include "viewer/textures/ProjectionPose.h"
 
-#include <nbMaterialEditor/nbMaterialEditor.h>
+#include <nbMaterialEditor/nbPicturePlacing.h>
 
 #include <OpenSG/OSGConfig.h>
 #include <OpenSG/OSGNode.h>
@@ -65,12 +65,17 @@ public:
     using EditState = std::function<void(nbTransformState&)>;
     /// Edits what the picture is laid on by. @return false without a projection
     bool editProjection(const EditState& edit);
-    /// Keeps the ratio of x to y if the projection is to keep it.
+    /// Keeps the ratio of x to y if the projection is to keep it, and what is mirrored.
+    /// @param scale  all > 0
     bool setScale(const osg::Vec3f& scale);
     bool setFlag(Flag flag, bool on);
     bool setCoverage(bool asMask, bool invert);
     /// Switches to another projection, which is fitted to the object if it was never used.
     bool setProjectionType(Settings::TextureProjection type);
+
+    /// For edits of the place as a whole.
+    nbPicturePlacing placing() { return nbPicturePlacing(editor, surface()); }
+
     /// Also false for values that are not finite, or zero where they must not be.
     bool setValues(const nbTextureValues& values);
 

@@ -7,6 +7,7 @@
 #include "viewer/stage/HandleCursor.h"
 #include "viewer/stage/Stage.h"
 #include "viewer/texts/Text.h"
+#include "viewer/textures/ArrangeCommands.h"
 #include "viewer/textures/TextureCommands.h"
 
 #include <nbKernel/nbController.h>
@@ -73,6 +74,7 @@ TextureTool::TextureTool(Stage& targetStage)
     placingContext.setPicker(&scenePicker);
     stage.addTool(*this);
     addTextureCommands(stage, *this);
+    addArrangeCommands(stage, *this);
 }
 
 TextureTool::~TextureTool()
@@ -144,17 +146,22 @@ bool TextureTool::dropPicture(const QString& file, const osg::Pnt2f& px, QString
     nbUndoService* const undo = nbUndoService::the();
     undo->beginGroup(Text::tr("Place picture"));
     const osg::NodePtr surface = textureTarget.surface();
-    ProjectionPose pose =
-        poseFacingTheEye(surface, stage.pose(), aspectOf(image.get()), kDroppedShare);
-    pose.rotation = uprightOn(surface, stage.pose(), scenePicker.getHitNormal());
-    pose.scale = scaleOfAspect(surface, pose, aspectOf(image.get()));
-    textureTarget.setImage(image.get(), pose);
+    textureTarget.setImage(
+        image.get(), poseFacingTheEye(surface, stage.pose(), aspectOf(image.get()), kDroppedShare));
+    alignTo(scenePicker.getHitNormal());
     refresh();
     sendPlace(scenePicker);
     undo->endGroup();
     placing = false;
     stage.setActiveTool(this);
     return true;
+}
+
+bool TextureTool::alignTo(const std::optional<osg::Vec3f>& normal)
+{
+    const CameraPose& eye = stage.pose();
+    return textureTarget.placing().alignTo(normal, nbCameraNavigation::worldUp(eye),
+                                           nbCameraNavigation::axes(eye).up);
 }
 
 bool TextureTool::takePicture(const QString& file, const osg::Pnt2f& px, QString& error)

@@ -60,6 +60,10 @@ public:
     /// handles. @return false with one line in `error`; nothing changed
     bool dropPicture(const QString& file, const osg::Pnt2f& px, QString& error);
 
+    /// Has a planar picture face along a direction of the world, upright there or, where it lies
+    /// flat, in the view. @param normal  nothing: as it faces now  @return false without a picture
+    bool alignTo(const std::optional<osg::Vec3f>& normal);
+
     // == The pointer
 
     /// Word of the handles shown, see TextureGizmos.

@@ -736,6 +736,10 @@
         <source>line %1 names a vertex that there is not</source>
         <translation>Zeile %1 nennt einen Eckpunkt, den es nicht gibt</translation>
     </message>
+    <message>
+        <source>the picture does not lie so that this could be done</source>
+        <translation>das Bild liegt nicht so, dass das möglich wäre</translation>
+    </message>
 </context>
 <context>
     <name>viewer::AboutBox</name>
@@ -1069,6 +1073,54 @@
     <message>
         <source>Grab the picture</source>
         <translation>Bild greifen</translation>
+    </message>
+    <message>
+        <source>Pixels per unit</source>
+        <translation>Pixel je Einheit</translation>
+    </message>
+    <message>
+        <source>Fit to the face</source>
+        <translation>Auf die Fläche einpassen</translation>
+    </message>
+    <message>
+        <source>Fit as seen</source>
+        <translation>Wie gesehen einpassen</translation>
+    </message>
+    <message>
+        <source>Align to the surface</source>
+        <translation>An der Oberfläche ausrichten</translation>
+    </message>
+    <message>
+        <source>Align upright</source>
+        <translation>Aufrecht ausrichten</translation>
+    </message>
+    <message>
+        <source>Align to the view</source>
+        <translation>Zur Ansicht ausrichten</translation>
+    </message>
+    <message>
+        <source>Quarter turn left</source>
+        <translation>Vierteldrehung nach links</translation>
+    </message>
+    <message>
+        <source>Quarter turn right</source>
+        <translation>Vierteldrehung nach rechts</translation>
+    </message>
+    <message>
+        <source>Flip across</source>
+        <translation>Waagerecht spiegeln</translation>
+    </message>
+    <message>
+        <source>Flip upwards</source>
+        <translation>Senkrecht spiegeln</translation>
+    </message>
+    <message>
+        <source>Own aspect</source>
+        <translation>Eigenes Seitenverhältnis</translation>
+    </message>
+    <message>
+        <source>Arrange</source>
+        <translation>Anordnen</translation>
     </message>
 </context>
 <context>

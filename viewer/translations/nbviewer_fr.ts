@@ -736,6 +736,10 @@
         <source>line %1 names a vertex that there is not</source>
         <translation>la ligne %1 cite un sommet qui n&apos;existe pas</translation>
     </message>
+    <message>
+        <source>the picture does not lie so that this could be done</source>
+        <translation>l’image n’est pas posée de façon à permettre cela</translation>
+    </message>
 </context>
 <context>
     <name>viewer::AboutBox</name>
@@ -1069,6 +1073,54 @@
     <message>
         <source>Grab the picture</source>
         <translation>Saisir l’image</translation>
+    </message>
+    <message>
+        <source>Pixels per unit</source>
+        <translation>Pixels par unité</translation>
+    </message>
+    <message>
+        <source>Fit to the face</source>
+        <translation>Ajuster à la face</translation>
+    </message>
+    <message>
+        <source>Fit as seen</source>
+        <translation>Ajuster selon la vue</translation>
+    </message>
+    <message>
+        <source>Align to the surface</source>
+        <translation>Aligner sur la surface</translation>
+    </message>
+    <message>
+        <source>Align upright</source>
+        <translation>Aligner à la verticale</translation>
+    </message>
+    <message>
+        <source>Align to the view</source>
+        <translation>Aligner sur la vue</translation>
+    </message>
+    <message>
+        <source>Quarter turn left</source>
+        <translation>Quart de tour à gauche</translation>
+    </message>
+    <message>
+        <source>Quarter turn right</source>
+        <translation>Quart de tour à droite</translation>
+    </message>
+    <message>
+        <source>Flip across</source>
+        <translation>Retourner horizontalement</translation>
+    </message>
+    <message>
+        <source>Flip upwards</source>
+        <translation>Retourner verticalement</translation>
+    </message>
+    <message>
+        <source>Own aspect</source>
+        <translation>Proportions d’origine</translation>
+    </message>
+    <message>
+        <source>Arrange</source>
+        <translation>Disposer</translation>
     </message>
 </context>
 <context>

@@ -734,6 +734,10 @@
         <source>line %1 names a vertex that there is not</source>
         <translation>第 %1 行引用了不存在的顶点</translation>
     </message>
+    <message>
+        <source>the picture does not lie so that this could be done</source>
+        <translation>图片的放置方式不允许此操作</translation>
+    </message>
 </context>
 <context>
     <name>viewer::AboutBox</name>
@@ -1067,6 +1071,54 @@
     <message>
         <source>Grab the picture</source>
         <translation>抓取图片</translation>
+    </message>
+    <message>
+        <source>Pixels per unit</source>
+        <translation>每单位像素</translation>
+    </message>
+    <message>
+        <source>Fit to the face</source>
+        <translation>适合所在面</translation>
+    </message>
+    <message>
+        <source>Fit as seen</source>
+        <translation>按视图适合</translation>
+    </message>
+    <message>
+        <source>Align to the surface</source>
+        <translation>对齐到表面</translation>
+    </message>
+    <message>
+        <source>Align upright</source>
+        <translation>对齐为直立</translation>
+    </message>
+    <message>
+        <source>Align to the view</source>
+        <translation>对齐到视图</translation>
+    </message>
+    <message>
+        <source>Quarter turn left</source>
+        <translation>左转四分之一圈</translation>
+    </message>
+    <message>
+        <source>Quarter turn right</source>
+        <translation>右转四分之一圈</translation>
+    </message>
+    <message>
+        <source>Flip across</source>
+        <translation>水平翻转</translation>
+    </message>
+    <message>
+        <source>Flip upwards</source>
+        <translation>垂直翻转</translation>
+    </message>
+    <message>
+        <source>Own aspect</source>
+        <translation>原始宽高比</translation>
+    </message>
+    <message>
+        <source>Arrange</source>
+        <translation>排列</translation>
     </message>
 </context>
 <context>

@@ -96,6 +96,15 @@ osg::Vec3d wayUp(const osg::Vec3d& normal, bool isZUp)
                   normal);
 }
 
+/// Rotation with the axes y and z, of unit length and at right angles.
+nbQuaterniond turnOnto(const osg::Vec3d& z, const osg::Vec3d& y)
+{
+    osg::Matrix axes;
+    axes.setValue(osg::Vec3f(y.cross(z)), osg::Vec3f(y), osg::Vec3f(z));
+    axes[3][3] = 1.0F;
+    return toDouble(osg::Quaternion(axes));
+}
+
 /// Rotation of a projection that stands upright on a surface. @param normal  in the object's space
 nbQuaterniond uprightTurn(const osg::Matrix& worldFromObject, osg::Vec3d normal, bool isZUp)
 {
@@ -109,12 +118,19 @@ nbQuaterniond uprightTurn(const osg::Matrix& worldFromObject, osg::Vec3d normal,
         }
     }
     inWorld.normalize();
-    const osg::Vec3d y = across(mapped(objectFromWorld, wayUp(inWorld, isZUp)), normal);
-    const osg::Vec3d x = y.cross(normal);
-    osg::Matrix axes;
-    axes.setValue(osg::Vec3f(x), osg::Vec3f(y), osg::Vec3f(normal));
-    axes[3][3] = 1.0F;
-    return toDouble(osg::Quaternion(axes));
+    return turnOnto(normal, across(mapped(objectFromWorld, wayUp(inWorld, isZUp)), normal));
+}
+
+/// Takes the size over that a projection has had in the world.
+void keepSize(const osg::Matrix& worldFromObject, const nbTransformState& start,
+              nbTransformState& result)
+{
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        const double ratio = mapped(worldFromObject, axis(start, i)).length() /
+            mapped(worldFromObject, axis(result, i)).length();
+        result.scale[i] =
+            std::isnormal(ratio) ? static_cast<float>(start.scale[i] * ratio) : start.scale[i];
+    }
 }
 
 void takeRotation(const nbTransformState& start, nbTransformState& result)
@@ -158,11 +174,27 @@ void standOn(const osg::Matrix& worldFromObject, const osg::Vec3f& normal, bool 
                                        inverse(uprightTurn(worldFromObject, before, isZUp)));
     takeRotation(start, result);
     setRotation(product(turn, rotationOf(start)), result);
-    for (osg::UInt32 i = 0; i < 3; ++i) {
-        const double ratio = mapped(worldFromObject, axis(start, i)).length() /
-            mapped(worldFromObject, axis(result, i)).length();
-        result.scale[i] =
-            std::isnormal(ratio) ? static_cast<float>(start.scale[i] * ratio) : start.scale[i];
+    keepSize(worldFromObject, start, result);
+}
+
+void lieAlong(const osg::Matrix& worldFromObject, const osg::Vec3f& normal, const osg::Vec3f& up,
+              const osg::Vec3f& otherUp, nbTransformState& state)
+{
+    constexpr double kFlat = 0.1;
+    const nbTransformState start = state;
+    osg::Matrix objectFromWorld;
+    worldFromObject.inverse(objectFromWorld);
+    osg::Vec3d z(normal);
+    z.normalize();
+    for (const osg::Vec3f& wanted : { up, otherUp, osg::Vec3f(0, 1, 0), osg::Vec3f(1, 0, 0) }) {
+        osg::Vec3d y = mapped(objectFromWorld, osg::Vec3d(wanted));
+        y.normalize();
+        if (y.cross(z).length() > kFlat) {
+            state.rotationOrientation = osg::Quaternion();
+            setRotation(turnOnto(z, across(y, z)), state);
+            keepSize(worldFromObject, start, state);
+            return;
+        }
     }
 }
 

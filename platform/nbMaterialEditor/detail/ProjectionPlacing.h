@@ -25,6 +25,12 @@ void turnAboutOwnZ(const nbTransformState& start, float angle, nbTransformState&
 void standOn(const osg::Matrix& worldFromObject, const osg::Vec3f& normal, bool isZUp,
              const nbTransformState& start, nbTransformState& result);
 
+/// Gives a projection the rotation in which it faces along a normal and up is a direction of the
+/// world, or another one where that goes along the normal. It keeps its size in the world.
+/// @param normal  of any length > 0, in the object's space
+void lieAlong(const osg::Matrix& worldFromObject, const osg::Vec3f& normal, const osg::Vec3f& up,
+              const osg::Vec3f& otherUp, nbTransformState& state);
+
 /// Brings a surface point and normal of the world to an object's space.
 /// @return false if the object is flattened or something is not finite; a normal without length is
 /// answered as zero
