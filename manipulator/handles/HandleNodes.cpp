@@ -13,25 +13,18 @@ namespace nbec::manipulator {
 
 osg::NodePtr makePlacedNode(const osg::Vec3f& translation, const osg::Quaternion& rotation)
 {
-    const osg::ComponentTransformPtr core = osg::ComponentTransform::create();
-    {
-        const nbEdit edit(core,
-                          osg::ComponentTransform::TranslationFieldMask |
-                              osg::ComponentTransform::RotationFieldMask);
-        core->setTranslation(translation);
-        core->setRotation(rotation);
-    }
-    return osg::makeNodeFor(core);
+    const osg::NodePtr node = osg::makeCoredNode<osg::ComponentTransform>();
+    moveNode(node, translation, rotation);
+    return node;
 }
 
 osg::NodePtr makeTransform3DNode(const osg::Vec3f& eulerDeg)
 {
-    const osg::Transform3DPtr core = osg::Transform3D::create();
-    {
-        const nbEdit edit(core, osg::FieldBits::AllFields);
-        core->setRotation(eulerDeg);
-    }
-    return osg::makeNodeFor(core);
+    osg::Transform3DPtr core;
+    const osg::NodePtr node = osg::makeCoredNode<osg::Transform3D>(&core);
+    const nbEdit edit(core, osg::Transform3D::RotationFieldMask);
+    core->setRotation(eulerDeg);
+    return node;
 }
 
 void placeTransform(const osg::Transform3DPtr& transform, const osg::Vec3f& translation,
