@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/textures/TextureAnchor.h"
 
-#include "manipulator/handles/ContainerReference.h"
 #include "viewer/stage/Stage.h"
 
 #include <nbInteraction/Picker.h>
+#include <nbOpenSGExt/nbContainerId.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
 namespace viewer {
 
 void TextureAnchor::set(const osg::NodePtr& surface, const osg::Pnt3f& point)
 {
-    surfaceId = nbec::manipulator::containerId(surface);
+    surfaceId = containerId(surface);
     localPlace = point;
     osg::Matrix surfaceFromWorld;
     if (surface != osg::NullFC && surface->getToWorld().inverse(surfaceFromWorld)) {
@@ -26,7 +26,7 @@ bool TextureAnchor::isOn(const osg::NodePtr& surface) const
 
 std::optional<osg::Pnt3f> TextureAnchor::worldPlace() const
 {
-    const auto surface = nbec::manipulator::resolveContainer<osg::NodePtr>(surfaceId);
+    const auto surface = resolveContainer<osg::NodePtr>(surfaceId);
     if (surface == osg::NullFC) {
         return std::nullopt;
     }

@@ -1,19 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/textures/TextureTarget.h"
 
-#include "manipulator/handles/ContainerReference.h"
 #include "viewer/textures/SurfaceMaterial.h"
 
 #include <nbKernelServices/nbScopedUndo.h>
+#include <nbOpenSGExt/nbContainerId.h>
 
 #include <OpenSG/OSGGeometry.h>
 
 #include <cmath>
 
 namespace viewer {
-
-using nbec::manipulator::containerId;
-using nbec::manipulator::resolveContainer;
 
 TextureTarget::TextureTarget(const std::string& receiverName, nbStateChunkBase& gui)
     : editor(receiverName)
