@@ -56,7 +56,6 @@ protected:
     DragParameters startParameters() const override;
     void apply(const DragParameters& parameters) override;
 
-    HandleAction pictureAction() const override;
     bool isPictureAt(const SurfacePlace& place) const override;
     osg::Vec3f pictureOffset(const SurfacePlace& from, const SurfacePlace& to) const override;
 

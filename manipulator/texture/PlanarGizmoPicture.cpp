@@ -43,26 +43,10 @@ Active PlanarGizmo::actingHandle() const
     if (!holdsPicture()) {
         return getActiveMode();
     }
-    switch (armedRow()->action.kind) {
-    case Kind::Angle:
-        return Active::Rotate;
-    case Kind::Factor:
-        return Active::ScaleUniform;
-    default:
-        return Active::TranslateXY;
-    }
-}
-
-HandleAction PlanarGizmo::pictureAction() const
-{
-    switch (static_cast<PlanarManipulatorMode>(getMode())) {
-    case PlanarManipulatorMode::Rotate:
-        return { Kind::Angle, axisBit(2) };
-    case PlanarManipulatorMode::Scale:
-        return { Kind::Factor, kAllAxes };
-    default:
-        return { Kind::Offset, axisBit(0) | axisBit(1) };
-    }
+    const Kind kind = armedRow()->action.kind;
+    return kind == Kind::Angle ? Active::Rotate
+        : kind == Kind::Factor ? Active::ScaleUniform
+                               : Active::TranslateXY;
 }
 
 bool PlanarGizmo::isPictureAt(const SurfacePlace& place) const

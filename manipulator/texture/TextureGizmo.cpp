@@ -22,7 +22,11 @@ TextureGizmo::TextureGizmo(const CourseRules& courseRules, const HandleTable& ta
 int TextureGizmo::grabBeside(osg::Pnt3f& place)
 {
     const osg::UberMaterialPtr material = component.getUberMaterial();
-    pictureRow.action = pictureAction();
+    const Kind kind = pictureKind();
+    pictureRow.action = { kind,
+                          kind == Kind::Angle        ? axisBit(2)
+                              : kind == Kind::Offset ? offsetAxes
+                                                     : kAllAxes };
     if (!grabsPicture || pictureRow.action.kind == Kind::None || material == osg::NullFC ||
         material->getImage(component.getName()) == osg::NullFC) {
         return 0;
@@ -34,6 +38,22 @@ int TextureGizmo::grabBeside(osg::Pnt3f& place)
     }
     place = grabbed->world;
     return kPictureHandle;
+}
+
+/// What a drag of the picture does in the present mode; their numbers say the same for all gizmos.
+Kind TextureGizmo::pictureKind() const
+{
+    switch (static_cast<UVMode>(getMode())) {
+    case UVMode::Hidden:
+        return Kind::None;
+    case UVMode::Rotate:
+        return Kind::Angle;
+    case UVMode::Scale:
+    case UVMode::RotateScale:
+        return Kind::Factor;
+    default:
+        return Kind::Offset;
+    }
 }
 
 const HandleRow* TextureGizmo::armedRow() const

@@ -33,11 +33,8 @@ protected:
     int grabBeside(osg::Pnt3f& place) override;
     const HandleRow* armedRow() const override;
 
-    /// What a drag of the picture does in the present mode; without a kind it is not grabbed.
-    virtual HandleAction pictureAction() const { return {}; }
-
-    /// Whether the picture is shown at a place of its surface.
-    virtual bool isPictureAt(const SurfacePlace& /*place*/) const { return true; }
+    /// Whether the picture is shown at a place of its surface, and can be grabbed.
+    virtual bool isPictureAt(const SurfacePlace& /*place*/) const { return false; }
 
     /// The offset that brings what is seen at one place to another one.
     virtual osg::Vec3f pictureOffset(const SurfacePlace& /*from*/, const SurfacePlace& /*to*/) const
@@ -56,11 +53,14 @@ protected:
         return surface->under(px, component.getMaterial());
     }
 
+    unsigned offsetAxes = axisBit(0) | axisBit(1);  ///< that the picture moves along
     std::optional<SurfacePlace> grabbed;  ///< of the picture
     /// Of a turn of the picture: 1 where a growing angle is seen counter-clockwise, else -1.
     float turnSense = 1.0F;
 
 private:
+    DragParameters::Kind pictureKind() const;
+
     std::shared_ptr<PictureSurface> surface;
     HandleRow pictureRow;
     osg::Pnt2f pressed;  ///< pointer when the picture was grabbed

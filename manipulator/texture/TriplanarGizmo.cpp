@@ -125,6 +125,7 @@ TriplanarGizmo::TriplanarGizmo(const float& size)
     : AnchoredGizmo(handleTable(), makeAxisMaterials(false), number(Mode::Initial), size)
 {
     root = makeHandleRootOver(handles.getRoot());
+    offsetAxes = kAllAxes;
 }
 
 void TriplanarGizmo::showActive()
@@ -204,20 +205,6 @@ void TriplanarGizmo::capturePicture(const View& view)
     about = rotated(startTurn, about);
     axes.multMatrixVec(about);
     turnSense = about.dot(view.sightAt(grabbed->world)) * axes.det3() < 0.0F ? 1.0F : -1.0F;
-}
-
-HandleAction TriplanarGizmo::pictureAction() const
-{
-    switch (static_cast<Mode>(getMode())) {
-    case Mode::Rotate:
-        return { Kind::Angle, axisBit(2) };
-    case Mode::RotateScale:
-        return { Kind::Factor, kAllAxes };
-    case Mode::Hidden:
-        return {};
-    default:
-        return { Kind::Offset, kAllAxes };
-    }
 }
 
 /// Across the plane of the projection that was grabbed the offset stays as it is.

@@ -29,7 +29,8 @@ public:
     bool areRingsTilted = false;
 
 protected:
-    HandleAction pictureAction() const override;
+    bool isPictureAt(const SurfacePlace& /*place*/) const override { return true; }
+
     osg::Vec3f pictureOffset(const SurfacePlace& from, const SurfacePlace& to) const override;
 
     bool capture(const View& view) override;

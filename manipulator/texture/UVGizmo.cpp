@@ -170,21 +170,6 @@ bool UVGizmo::capture(const View& view)
     return true;
 }
 
-HandleAction UVGizmo::pictureAction() const
-{
-    switch (static_cast<Mode>(getMode())) {
-    case Mode::Rotate:
-        return { Kind::Angle, axisBit(2) };
-    case Mode::Scale:
-    case Mode::RotateScale:
-        return { Kind::Factor, kAllAxes };
-    case Mode::Hidden:
-        return {};
-    default:
-        return { Kind::Offset, axisBit(0) | axisBit(1) };
-    }
-}
-
 osg::Vec3f UVGizmo::pictureOffset(const SurfacePlace& from, const SurfacePlace& to) const
 {
     const osg::Vec2f way =

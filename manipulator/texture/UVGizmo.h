@@ -28,8 +28,6 @@ protected:
     /// Without the material, too.
     bool canStep(const View& view) override { return view.exists(); }
 
-    HandleAction pictureAction() const override;
-
     bool isPictureAt(const SurfacePlace& place) const override
     {
         return place.texCoord.has_value();

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/textures/ProjectionPose.h"
 
+#include <nbOpenSGUtils/nbNodeUtils.h>
+
 #include <OpenSG/OSGMatrix.h>
 
 #include <algorithm>
@@ -98,14 +100,9 @@ ProjectionPose poseFacingTheEye(const osg::NodePtr& surface, const CameraPose& e
                                 float share)
 {
     const nbCameraNavigation::Axes axes = nbCameraNavigation::axes(eye);
-    surface->updateVolume();
-    osg::BoxVolume bounds;
-    osg::Pnt3f low;
-    osg::Pnt3f high;
-    surface->getVolume().getBounds(low, high);
-    bounds.setBounds(low, high);
-    ProjectionPose pose = poseOnFront(bounds, vectorIn(surface, axes.back),
-                                      vectorIn(surface, axes.up), aspect, share);
+    ProjectionPose pose =
+        poseOnFront(nbNodeUtils::getOwnBounds(surface), vectorIn(surface, axes.back),
+                    vectorIn(surface, axes.up), aspect, share);
     pose.scale = scaleOfAspect(surface, pose, aspect);
     return pose;
 }
