@@ -105,20 +105,27 @@ nbQuaterniond turnOnto(const osg::Vec3d& z, const osg::Vec3d& y)
     return toDouble(osg::Quaternion(axes));
 }
 
-/// Rotation of a projection that stands upright on a surface. @param normal  in the object's space
-nbQuaterniond uprightTurn(const osg::Matrix& worldFromObject, osg::Vec3d normal, bool isZUp)
+/// Of unit length: normals go by the transposed inverse.
+osg::Vec3d normalInWorld(const osg::Matrix& objectFromWorld, const osg::Vec3d& normal)
 {
-    normal.normalize();
-    osg::Matrix objectFromWorld;
-    worldFromObject.inverse(objectFromWorld);
-    osg::Vec3d inWorld;  // normals go by the transposed inverse
+    osg::Vec3d inWorld;
     for (osg::UInt32 row = 0; row < 3; ++row) {
         for (osg::UInt32 i = 0; i < 3; ++i) {
             inWorld[row] += double(objectFromWorld[row][i]) * normal[i];
         }
     }
     inWorld.normalize();
-    return turnOnto(normal, across(mapped(objectFromWorld, wayUp(inWorld, isZUp)), normal));
+    return inWorld;
+}
+
+/// Rotation of a projection that stands upright on a surface. @param normal  in the object's space
+nbQuaterniond uprightTurn(const osg::Matrix& worldFromObject, osg::Vec3d normal, bool isZUp)
+{
+    normal.normalize();
+    osg::Matrix objectFromWorld;
+    worldFromObject.inverse(objectFromWorld);
+    const osg::Vec3d way = wayUp(normalInWorld(objectFromWorld, normal), isZUp);
+    return turnOnto(normal, across(mapped(objectFromWorld, way), normal));
 }
 
 /// Takes the size over that a projection has had in the world.
@@ -186,12 +193,15 @@ void lieAlong(const osg::Matrix& worldFromObject, const osg::Vec3f& normal, cons
     worldFromObject.inverse(objectFromWorld);
     osg::Vec3d z(normal);
     z.normalize();
+    // Upright is meant in the world, where the object may have unequal scales.
+    const osg::Vec3d inWorld = normalInWorld(objectFromWorld, z);
     for (const osg::Vec3f& wanted : { up, otherUp, osg::Vec3f(0, 1, 0), osg::Vec3f(1, 0, 0) }) {
-        osg::Vec3d y = mapped(objectFromWorld, osg::Vec3d(wanted));
-        y.normalize();
-        if (y.cross(z).length() > kFlat) {
+        osg::Vec3d along(wanted);
+        along.normalize();
+        if (along.cross(inWorld).length() > kFlat) {
+            along = mapped(objectFromWorld, across(along, inWorld));
             state.rotationOrientation = osg::Quaternion();
-            setRotation(turnOnto(z, across(y, z)), state);
+            setRotation(turnOnto(z, across(along, z)), state);
             keepSize(worldFromObject, start, state);
             return;
         }
