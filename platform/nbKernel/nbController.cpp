@@ -3,22 +3,17 @@
 #include <nbUtils/nbLog.h>
 
 #include <exception>
-#include <map>
 #include <memory>
 #include <utility>
 
 namespace {
 
-/// Transparent comparison: names are looked up without making a string of them.
-template <class Value>
-using NameMap = std::map<std::string, Value, std::less<>>;
-
 struct ControllerState
 {
-    /// Shared, so that a receiver that is removed while it runs lives to its end.
-    NameMap<std::shared_ptr<const nbController::Receiver>> receivers;
-    NameMap<std::size_t> lostCalls;
-    std::size_t lostCallCount = 0;
+    /// Shared, so that a receiver that is removed while it runs lives to its end. Transparent
+    /// comparison: names are looked up without making a string of them.
+    std::map<std::string, std::shared_ptr<const nbController::Receiver>, std::less<>> receivers;
+    nbController::LostCalls lostCalls;
     int modified = 0;
     bool presenterMode = false;
 };
@@ -32,7 +27,6 @@ ControllerState& state()
 
 void countLostCall(std::string_view name)
 {
-    ++state().lostCallCount;
     const auto found = state().lostCalls.find(name);
     if (found != state().lostCalls.end()) {
         ++found->second;
@@ -94,25 +88,9 @@ bool nbController::hasReceiver(std::string_view name)
     return state().receivers.find(name) != state().receivers.end();
 }
 
-std::size_t nbController::getLostCallCount()
+nbController::LostCalls nbController::getLostCalls()
 {
-    return state().lostCallCount;
-}
-
-std::size_t nbController::getLostCallCount(std::string_view name)
-{
-    const auto found = state().lostCalls.find(name);
-    return found == state().lostCalls.end() ? 0 : found->second;
-}
-
-std::vector<std::string> nbController::getLostCallNames()
-{
-    std::vector<std::string> result;
-    result.reserve(state().lostCalls.size());
-    for (const auto& [name, count] : state().lostCalls) {
-        result.push_back(name);
-    }
-    return result;
+    return state().lostCalls;
 }
 
 void nbController::setModified(int modified)

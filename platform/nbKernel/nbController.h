@@ -6,9 +6,9 @@
 
 #include <cstddef>
 #include <functional>
+#include <map>
 #include <string>
 #include <string_view>
-#include <vector>
 
 /// Delivers messages by name to the parts of the application, synchronously.
 /// Belongs to the user-interface thread. Receivers may call, add and remove receivers, themselves
@@ -40,12 +40,10 @@ public:
     /// Whether a name has a receiver.
     static bool hasReceiver(std::string_view name);
 
-    /// Calls that found no receiver since the start or the last clear().
-    static std::size_t getLostCallCount();
-    /// The same of one name.
-    static std::size_t getLostCallCount(std::string_view name);
-    /// Names of lost calls, sorted; to look for typing mistakes.
-    static std::vector<std::string> getLostCallNames();
+    /// How often names were called that had no receiver, since the start or the last clear(); to
+    /// look for typing mistakes.
+    using LostCalls = std::map<std::string, std::size_t, std::less<>>;
+    static LostCalls getLostCalls();
 
     /// Marks the scene as modified (other than 0) or saved (0).
     static void setModified(int modified);

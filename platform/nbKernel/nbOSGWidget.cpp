@@ -4,7 +4,7 @@
 #include <nbOpenSGExt/nbIsFinite.h>
 #include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
-#include <nbUtils/nbLog.h>
+#include <nbUtils/nbGuard.h>
 
 #include <algorithm>
 #include <cmath>
@@ -215,26 +215,6 @@ void nbOSGWidget::subMGLWResizeCB(ResizeCallback callback)
     }
 }
 
-osg::UberCameraPtr nbOSGWidget::getUberCamera() const
-{
-    return camera;
-}
-
-osg::CameraPtr nbOSGWidget::getCamera() const
-{
-    return camera.get();
-}
-
-osg::ViewportPtr nbOSGWidget::getViewport() const
-{
-    return viewport.get();
-}
-
-osg::UberViewportPtr nbOSGWidget::getUberViewport() const
-{
-    return viewport;
-}
-
 void nbOSGWidget::resize(int width, int height)
 {
     const int newWidth = std::clamp(width, 0, kLargestSidePx);
@@ -274,11 +254,6 @@ void nbOSGWidget::setPressPosition(const osg::Pnt2f& position)
         pressPositionPx = nearPosition(position);
         pressed = true;
     }
-}
-
-void nbOSGWidget::clearPressPosition()
-{
-    pressed = false;
 }
 
 QRect nbOSGWidget::getMouseRect() const
@@ -346,10 +321,6 @@ void nbOSGWidget::callResizeCallbacks()
         if (findCallback(entry.callback) == registry().resizeCallbacks.end()) {
             continue;  // removed by one that was called before it
         }
-        try {
-            entry.callback();
-        } catch (...) {
-            nbLog::error("nbOSGWidget: a resize callback failed with an exception");
-        }
+        nbGuarded("nbOSGWidget: a resize callback", entry.callback);
     }
 }

@@ -121,11 +121,14 @@ public:
 
     // == Parts. The widget owns them; they live as long as it does.
 
-    osg::UberCameraPtr getUberCamera() const;
-    osg::CameraPtr getCamera() const;
+    osg::UberCameraPtr getUberCamera() const { return camera; }
+
+    osg::CameraPtr getCamera() const { return camera.get(); }
+
     /// Always inside a window of the widget's size, so that calcViewRay() may be used.
-    osg::ViewportPtr getViewport() const;
-    osg::UberViewportPtr getUberViewport() const;
+    osg::ViewportPtr getViewport() const { return viewport.get(); }
+
+    osg::UberViewportPtr getUberViewport() const { return viewport; }
 
     // == Size
 
@@ -152,8 +155,9 @@ public:
 
     /// Where the button went down; opens the rectangle. A position that is not finite is ignored.
     void setPressPosition(const osg::Pnt2f& position);
+
     /// Closes the rectangle, when the button is up again.
-    void clearPressPosition();
+    void clearPressPosition() { pressed = false; }
 
     /// Whether the rectangle from press to pointer is being used to select.
     bool getRectSelection() const { return rectSelection; }

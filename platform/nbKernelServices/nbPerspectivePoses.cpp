@@ -11,25 +11,7 @@
 
 namespace {
 
-using nbmatch::Vector3;
-
-constexpr double kPi = 3.14159265358979323846;
-constexpr int kAxisCount = 3;
-
-Vector3 toEigen(const osg::Vec3d& vector)
-{
-    return { vector[0], vector[1], vector[2] };
-}
-
-osg::Vec3d fromEigen(const Vector3& vector)
-{
-    return { vector.x(), vector.y(), vector.z() };
-}
-
-double focalLengthOf(double fovDeg)
-{
-    return 0.5 / std::tan(fovDeg * kPi / 360.0);
-}
+using namespace nbmatch;
 
 osg::Vec3d toCamera(const PerspectiveAim& aim, const osg::Vec3d& way)
 {

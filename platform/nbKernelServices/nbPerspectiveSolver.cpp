@@ -13,28 +13,7 @@
 
 namespace {
 
-using nbmatch::Aim;
-using nbmatch::Edge;
-using nbmatch::Matrix3;
-using nbmatch::Vector3;
-
-constexpr double kPi = 3.14159265358979323846;
-constexpr int kAxisCount = 3;
-
-Vector3 toEigen(const osg::Vec3d& vector)
-{
-    return { vector[0], vector[1], vector[2] };
-}
-
-osg::Vec3d fromEigen(const Vector3& vector)
-{
-    return { vector.x(), vector.y(), vector.z() };
-}
-
-double focalLengthOf(double fovDeg)
-{
-    return 0.5 / std::tan(fovDeg * kPi / 360.0);
-}
+using namespace nbmatch;
 
 bool isFovInRange(double focalLength)
 {
@@ -78,7 +57,7 @@ bool isUsable(const QLineF& line)
 double distanceFrom(const Edge& line, const Edge& edge)
 {
     const Vector3 through = line.throughLine();
-    const auto distance = [&](const nbmatch::Vector2& point) {
+    const auto distance = [&](const Vector2& point) {
         return std::abs(through.dot(Vector3(point.x(), point.y(), 1.0)));
     };
     return std::max(distance(edge.middle + edge.halfLength * edge.direction),
@@ -114,7 +93,7 @@ nbCameraTypes::MatchResult readEdges(const PerspectiveProblem& problem, std::vec
             if (!isUsable(problem.lines[i])) {
                 return nbCameraTypes::UnusableLine;
             }
-            edges.push_back(nbmatch::makeEdge(axis, problem.lines[i].translated(-middle)));
+            edges.push_back(makeEdge(axis, problem.lines[i].translated(-middle)));
         }
         if (areIdentical(edges[edges.size() - 2], edges.back())) {
             return nbCameraTypes::IdenticalLines;
@@ -199,7 +178,7 @@ std::optional<Matrix3> orient(const std::vector<VanishingPoint>& points, double 
         if (candidate.determinant() < 0.0) {
             continue;  // left-handed
         }
-        const Matrix3 rotation = nbmatch::nearestRotation(candidate);
+        const Matrix3 rotation = nearestRotation(candidate);
         // The trace of the turn from one to the other grows as its angle falls.
         if (!best || rotation.cwiseProduct(reference).sum() > best->cwiseProduct(reference).sum()) {
             best = rotation;
@@ -208,21 +187,24 @@ std::optional<Matrix3> orient(const std::vector<VanishingPoint>& points, double 
     return best;
 }
 
-/// The best fit of all that the vanishing points propose for the focal length; none if there is no
-/// usable one.
-std::optional<Aim> fitWithFov(const std::vector<Edge>& edges,
-                              const std::vector<VanishingPoint>& points, const Matrix3& reference)
+/// The best of the fits that start from these focal lengths; none if there is no usable one.
+/// @param isFovFree  whether the focal length is fitted too
+std::optional<Aim> bestFit(const std::vector<Edge>& edges,
+                           const std::vector<VanishingPoint>& points,
+                           const std::vector<double>& focalLengths, bool isFovFree,
+                           const Matrix3& reference)
 {
     std::optional<Aim> best;
     double bestError = 0.0;
-    for (const double focalLength : proposeFocalLengths(points)) {
+    for (const double focalLength : focalLengths) {
         const std::optional<Matrix3> orientation = orient(points, focalLength, reference);
         if (!orientation) {
             continue;
         }
-        const Aim aim = nbmatch::fit(edges, Aim { *orientation, focalLength }, true);
-        const double error = nbmatch::squaredError(edges, aim);
-        if (isFovInRange(aim.focalLength) && std::isfinite(error) && (!best || error < bestError)) {
+        const Aim aim = fit(edges, Aim { *orientation, focalLength }, isFovFree);
+        const double error = squaredError(edges, aim);
+        const bool isInRange = !isFovFree || isFovInRange(aim.focalLength);
+        if (isInRange && std::isfinite(error) && (!best || error < bestError)) {
             best = aim;
             bestError = error;
         }
@@ -230,25 +212,7 @@ std::optional<Aim> fitWithFov(const std::vector<Edge>& edges,
     return best;
 }
 
-std::optional<Aim> fitWithoutFov(const std::vector<Edge>& edges,
-                                 const std::vector<VanishingPoint>& points, double focalLength,
-                                 const Matrix3& reference)
-{
-    const std::optional<Matrix3> orientation = orient(points, focalLength, reference);
-    if (!orientation) {
-        return std::nullopt;
-    }
-    const Aim aim = nbmatch::fit(edges, Aim { *orientation, focalLength }, false);
-    return std::isfinite(nbmatch::squaredError(edges, aim)) ? std::optional(aim) : std::nullopt;
-}
-
 // == Quality
-
-/// The farther of two vanishing points is that of the more nearly parallel lines.
-bool isFarther(const VanishingPoint& a, const VanishingPoint& b)
-{
-    return std::abs(a.point.z()) < std::abs(b.point.z());
-}
 
 PerspectiveDoubt doubtOf(const std::vector<VanishingPoint>& points, bool isFovFound, double fovDeg)
 {
@@ -276,11 +240,11 @@ PerspectiveSolution nbPerspectiveSolver::solve(const PerspectiveProblem& problem
     const std::vector<VanishingPoint> points = findVanishingPoints(edges);
     std::optional<Aim> aim;
     if (problem.fovMode == nbCameraTypes::SolvedFov) {
-        aim = fitWithFov(edges, points, reference);
+        aim = bestFit(edges, points, proposeFocalLengths(points), true, reference);
     }
     if (!aim) {
         solution.result = nbCameraTypes::SolvedWithKeptFov;
-        aim = fitWithoutFov(edges, points, problem.start.focalLength, reference);
+        aim = bestFit(edges, points, { problem.start.focalLength }, false, reference);
     }
     if (aim) {
         solution.aim = fromAim(*aim);
@@ -304,24 +268,24 @@ PerspectiveQuality nbPerspectiveSolver::judge(const PerspectiveProblem& problem,
     const bool isFovFound = solution.result == nbCameraTypes::Solved;
     for (std::size_t i = 0; i < edges.size(); ++i) {
         quality.residuals[static_cast<std::size_t>(2 * edges[i].axis) + i % 2] =
-            std::abs(nbmatch::missOf(edges[i], aim));
+            std::abs(missOf(edges[i], aim));
     }
     const int spare = static_cast<int>(edges.size()) - (isFovFound ? 4 : 3);
-    const double seen =
-        spare > 0 ? std::sqrt(2.0 * nbmatch::squaredError(edges, aim) / spare) : 0.0;
-    const nbmatch::Deviation deviation =
-        nbmatch::deviationOf(edges, aim, isFovFound, std::max(endDeviation, seen));
+    const double seen = spare > 0 ? std::sqrt(2.0 * squaredError(edges, aim) / spare) : 0.0;
+    const Deviation deviation = deviationOf(edges, aim, isFovFound, std::max(endDeviation, seen));
     const double fov = 2.0 * std::atan(0.5 * problem.height / aim.focalLength);
     quality.rotationDeg = deviation.angle * 180.0 / kPi;
     quality.fovDeg = std::sin(fov) * deviation.focalLength * 180.0 / kPi;
     if (isFovFound || problem.fovMode == nbCameraTypes::SolvedFov) {
         const std::vector<VanishingPoint> points = findVanishingPoints(edges);
         quality.doubt = doubtOf(points, isFovFound, quality.fovDeg);
-        quality.doubtfulAxis = quality.doubt == PerspectiveDoubt::NoDoubt
-            ? -1
-            : std::max_element(points.begin(), points.end(), [](const auto& a, const auto& b) {
-                  return isFarther(b, a);
-              })->axis;
+        if (quality.doubt != PerspectiveDoubt::NoDoubt) {
+            // The farthest vanishing point is that of the most nearly parallel lines.
+            const auto isFarther = [](const VanishingPoint& a, const VanishingPoint& b) {
+                return std::abs(a.point.z()) < std::abs(b.point.z());
+            };
+            quality.doubtfulAxis = std::min_element(points.begin(), points.end(), isFarther)->axis;
+        }
     }
     return quality;
 }

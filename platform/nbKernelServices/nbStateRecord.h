@@ -2,8 +2,7 @@
 #pragma once
 
 #include <nbKernelServices/nbUndoRecord.h>
-
-#include <OpenSG/OSGFieldContainerFactory.h>
+#include <nbOpenSGExt/nbContainerId.h>
 
 #include <utility>
 
@@ -25,7 +24,7 @@ public:
 
     bool close() override
     {
-        const Pointer container = find();
+        const auto container = resolveContainer<Pointer>(id);
         if (container != osg::NullFC) {
             after = before.now(container);
         }
@@ -37,14 +36,9 @@ public:
     void redo() override { restore(after); }
 
 private:
-    Pointer find() const
-    {
-        return Pointer::dcast(osg::FieldContainerFactory::the()->getContainer(id));
-    }
-
     void restore(const State& state) const
     {
-        if (const Pointer container = find(); container != osg::NullFC) {
+        if (const auto container = resolveContainer<Pointer>(id); container != osg::NullFC) {
             state.applyTo(container);
         }
     }

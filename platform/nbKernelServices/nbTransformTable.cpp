@@ -17,7 +17,7 @@ struct TransformChange
 
 void restore(osg::UInt32 id, const nbTransformState& state)
 {
-    const osg::Transform3DPtr core = resolveContainer<osg::Transform3DPtr>(id);
+    const auto core = resolveContainer<osg::Transform3DPtr>(id);
     if (core != osg::NullFC) {
         state.applyTo(core);
     }
@@ -67,7 +67,7 @@ std::unique_ptr<nbUndoRecord> nbTransformTable::makeRecord() const
 {
     std::vector<TransformChange> changes;
     for (std::size_t i = 0; i < ids.size(); ++i) {
-        const osg::Transform3DPtr core = resolveContainer<osg::Transform3DPtr>(ids[i]);
+        const auto core = resolveContainer<osg::Transform3DPtr>(ids[i]);
         if (core == osg::NullFC) {
             continue;
         }

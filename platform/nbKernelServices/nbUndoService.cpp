@@ -7,6 +7,7 @@
 
 #include <QUndoStack>
 #include <QtCore/QPointer>
+#include <QtCore/QScopedValueRollback>
 
 #include <algorithm>
 #include <iterator>
@@ -14,31 +15,12 @@
 
 namespace {
 
-/// Whether the service itself is editing, and how often it has restored a state.
+/// Whether the service itself is editing, and how often it has restored a state. Those who are told
+/// of its edits may edit in turn: that is not recorded and ends no step.
 struct RestoreState
 {
     bool isActive = false;
     osg::UInt64 count = 0;
-};
-
-/// Time in which edits are the service's own. Those who are told of them may edit in turn: that is
-/// not recorded and ends no step.
-class Restoring
-{
-public:
-    [[nodiscard]] explicit Restoring(RestoreState& wanted)
-        : state(wanted)
-    {
-        state.isActive = true;
-    }
-
-    ~Restoring() { state.isActive = false; }
-
-    Restoring(const Restoring&) = delete;
-    Restoring& operator=(const Restoring&) = delete;
-
-private:
-    RestoreState& state;
 };
 
 /// One step on the stack. Its edits have been made already when it gets there.
@@ -53,7 +35,7 @@ public:
 
     void undo() override
     {
-        const Restoring restoring(restoreState);
+        const QScopedValueRollback<bool> restoring(restoreState.isActive, true);
         ++restoreState.count;
         undoAll(records);
         isDone = false;
@@ -64,7 +46,7 @@ public:
         if (isDone) {
             return;
         }
-        const Restoring restoring(restoreState);
+        const QScopedValueRollback<bool> restoring(restoreState.isActive, true);
         ++restoreState.count;
         redoAll(records);
         isDone = true;
@@ -144,7 +126,7 @@ void nbUndoService::Internals::finishStep()
     StepRecords records;
     {
         // What was led back but for rounding is put right now.
-        const Restoring restoring(restoreState);
+        const QScopedValueRollback<bool> restoring(restoreState.isActive, true);
         records = step.close();
     }
     const bool isStep = std::any_of(records.begin(), records.end(),
@@ -174,7 +156,7 @@ void nbUndoService::Internals::finishGroup(GroupEnd end)
         return;
     }
     if (!step.isEmpty()) {
-        const Restoring restoring(restoreState);
+        const QScopedValueRollback<bool> restoring(restoreState.isActive, true);
         ++restoreState.count;
         step.cancel();
     }

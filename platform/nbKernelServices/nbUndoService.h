@@ -112,7 +112,6 @@ public:
 
 private:
     friend class nbScopedUndo;
-    friend class nbScopedMultiCommand;
     struct Internals;
 
     nbUndoService();

@@ -1,30 +1,25 @@
 // SPDX-License-Identifier: MIT
 #include "Notifier.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace nbec::notification {
 
 namespace {
 
-bool isFinite(const osg::Vec2f& value)
+/// Of a vector or colour.
+template <class Value>
+bool isFinite(const Value& value)
 {
-    return std::isfinite(value[0]) && std::isfinite(value[1]);
+    return std::all_of(&value[0], &value[0] + sizeof(Value) / sizeof(value[0]),
+                       [](float number) { return std::isfinite(number); });
 }
 
-bool isFinite(const osg::Color3f& value)
+template <class Value>
+bool same(const Value& a, const Value& b)
 {
-    return std::isfinite(value[0]) && std::isfinite(value[1]) && std::isfinite(value[2]);
-}
-
-bool same(const osg::Vec2f& a, const osg::Vec2f& b)
-{
-    return a[0] == b[0] && a[1] == b[1];
-}
-
-bool same(const osg::Color3f& a, const osg::Color3f& b)
-{
-    return a[0] == b[0] && a[1] == b[1] && a[2] == b[2];
+    return std::equal(&a[0], &a[0] + sizeof(Value) / sizeof(a[0]), &b[0]);
 }
 
 template <class Value>

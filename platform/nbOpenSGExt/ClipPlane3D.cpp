@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ClipPlane3D.h"
 
-#include <OpenSG/OSGFieldContainerFactory.h>
+#include <nbOpenSGExt/nbContainerId.h>
+
 #include <OpenSG/OSGNode.h>
 
 #include <array>
@@ -38,7 +39,7 @@ Vec3d worldNormal(const Matrix& world, const Vec4f& equation)
 
 NodePtr ClipPlane3D::getTransformNode() const
 {
-    return NodePtr::dcast(FieldContainerFactory::the()->getContainer(getTransformNodeId()));
+    return resolveContainer<NodePtr>(getTransformNodeId());
 }
 
 void ClipPlane3D::setTransformNode(const NodePtr& node)

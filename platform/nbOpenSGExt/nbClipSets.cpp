@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "nbClipSets.h"
 
-#include <OpenSG/OSGFieldContainerFactory.h>
+#include <nbOpenSGExt/nbContainerId.h>
 
 #include <utility>
 
@@ -28,12 +28,11 @@ osg::UInt32 nbClipSets::below(osg::UInt32 above, const osg::NodePtr& node)
 
 void nbClipSets::update()
 {
-    const osg::FieldContainerFactory& factory = *osg::FieldContainerFactory::the();
     for (std::size_t set = 1; set < sources.size(); ++set) {
         planes[set].clear();
         for (const Source& source : sources[set]) {
-            const auto core = osg::ClipPlane3DPtr::dcast(factory.getContainer(source.coreId));
-            const auto node = osg::NodePtr::dcast(factory.getContainer(source.nodeId));
+            const auto core = resolveContainer<osg::ClipPlane3DPtr>(source.coreId);
+            const auto node = resolveContainer<osg::NodePtr>(source.nodeId);
             osg::Vec4f plane;
             if (core != osg::NullFC && planes[set].size() < kMostPlanes &&
                 core->getWorldEquation(node, plane)) {

@@ -17,3 +17,11 @@ inline bool nbSameBits(const osg::Quaternion& a, const osg::Quaternion& b)
 {
     return std::memcmp(a.getValues(), b.getValues(), 4 * sizeof(osg::Real32)) == 0;
 }
+
+/// Whether the three numbers of points or vectors have the same values; their operators allow for a
+/// tolerance, which small scenes feel.
+template <class Triple>
+bool nbSameValues(const Triple& a, const Triple& b)
+{
+    return a[0] == b[0] && a[1] == b[1] && a[2] == b[2];
+}

@@ -1,27 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "nbSceneplatePicture.h"
 
+#include <nbOpenSGUtils/nbImage.h>
+
 #include <algorithm>
 #include <cstddef>
 
 namespace {
-
-/// Place of the alpha among the components of a pixel; -1 without alpha.
-int alphaComponent(osg::UInt32 format)
-{
-    switch (format) {
-    case osg::Image::OSG_A_PF:
-    case osg::Image::OSG_I_PF:
-        return 0;
-    case osg::Image::OSG_LA_PF:
-        return 1;
-    case osg::Image::OSG_RGBA_PF:
-    case osg::Image::OSG_BGRA_PF:
-        return 3;
-    default:
-        return -1;
-    }
-}
 
 osg::Int32 pixelAt(float part, osg::Int32 count)
 {
@@ -47,7 +32,7 @@ osg::Real32 nbSceneplatePicture::alphaAt(const osg::SceneplatePtr& plate,
     if (image == osg::NullFC) {
         return plate->getColor().alpha();
     }
-    const int component = alphaComponent(image->getPixelFormat());
+    const int component = nbImage::alphaPlace(image);
     if (component < 0) {
         return 1.0F;
     }

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <nbOpenSGExt/nbBoxCorners.h>
 #include <nbOpenSGExt/nbIsFinite.h>
 #include <nbOpenSGUberCamera/UberCamera.h>
 #include <nbOpenSGUberCamera/nbUberCameraPool.h>
@@ -29,7 +30,6 @@ constexpr Real64 kSmallestHalfHeight = 1e-9;
 constexpr Real64 kLargestHalfHeight = 1e18;
 /// Part of its depth by which an orthographic range is extended at both ends.
 constexpr Real64 kDepthMarginPart = 0.01;
-constexpr int kCornerCount = 8;
 
 bool isBox(const Pnt3f& boundsMin, const Pnt3f& boundsMax)
 {
@@ -161,16 +161,14 @@ void UberCamera::setNearFarFromBounds(const Pnt3f& boundsMin, const Pnt3f& bound
     if (!nbCameraNavigation::isFinite(pose)) {
         return;
     }
-    const bool usable = isBox(boundsMin, boundsMax);
     Real64 nearest = nbCameraNavigation::depth(pose, pose.pivot);
     Real64 farthest = nearest;
-    for (int corner = 0; usable && corner < kCornerCount; ++corner) {
-        const Pnt3f point((corner & 1) != 0 ? boundsMax.x() : boundsMin.x(),
-                          (corner & 2) != 0 ? boundsMax.y() : boundsMin.y(),
-                          (corner & 4) != 0 ? boundsMax.z() : boundsMin.z());
-        const Real64 depth = nbCameraNavigation::depth(pose, point);
-        nearest = std::min(nearest, depth);
-        farthest = std::max(farthest, depth);
+    if (isBox(boundsMin, boundsMax)) {
+        for (const Pnt3f& point : nbBoxCorners(boundsMin, boundsMax)) {
+            const Real64 depth = nbCameraNavigation::depth(pose, point);
+            nearest = std::min(nearest, depth);
+            farthest = std::max(farthest, depth);
+        }
     }
     if (getOrthographic()) {
         const Real64 margin =

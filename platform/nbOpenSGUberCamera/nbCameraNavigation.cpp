@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <nbOpenSGExt/nbBoxCorners.h>
 #include <nbOpenSGExt/nbIsFinite.h>
 #include <nbOpenSGUberCamera/nbCameraNavigation.h>
 
@@ -25,7 +26,6 @@ constexpr Real64 kCoordinateResolution = 1e-5;
 /// Where the three-quarter view stands.
 constexpr Real64 kThreeQuarterAzimuthRad = 45.0 * kRadPerDeg;
 constexpr Real64 kThreeQuarterElevationRad = 30.0 * kRadPerDeg;
-constexpr int kCornerCount = 8;
 
 struct Basis
 {
@@ -158,10 +158,7 @@ Real64 tightestDistance(const CameraPose& pose, const Basis& basis, const Vec3d&
 {
     const Real64 tanVertical = tanHalfFov(pose);
     Real64 result = 0.0;
-    for (int corner = 0; corner < kCornerCount; ++corner) {
-        const Vec3d point((corner & 1) != 0 ? halfSize.x() : -halfSize.x(),
-                          (corner & 2) != 0 ? halfSize.y() : -halfSize.y(),
-                          (corner & 4) != 0 ? halfSize.z() : -halfSize.z());
+    for (const Vec3d& point : nbBoxCorners(-halfSize, halfSize)) {
         const Real64 needed = std::max(std::abs(point.dot(basis.up)) / tanVertical,
                                        std::abs(point.dot(basis.right)) / (aspect * tanVertical));
         const Real64 towardsEye = pose.orthographic ? 0.0 : point.dot(basis.back);

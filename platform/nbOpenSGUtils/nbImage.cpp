@@ -9,29 +9,6 @@
 
 namespace {
 
-/// Where alpha is among the components of a pixel.
-struct AlphaPlace
-{
-    std::size_t index = 0;
-    std::size_t components = 0;  ///< 0: there is none
-};
-
-AlphaPlace findAlpha(osg::UInt32 format)
-{
-    switch (format) {
-    case osg::Image::OSG_A_PF:
-    case osg::Image::OSG_I_PF:
-        return { 0, 1 };
-    case osg::Image::OSG_LA_PF:
-        return { 1, 2 };
-    case osg::Image::OSG_RGBA_PF:
-    case osg::Image::OSG_BGRA_PF:
-        return { 3, 4 };
-    default:
-        return {};
-    }
-}
-
 template <class Value>
 Value full()
 {
@@ -39,11 +16,13 @@ Value full()
 }
 
 template <class Value>
-void invert(osg::UInt8* pixels, std::size_t bytes, const AlphaPlace& place)
+void invert(const osg::ImagePtr& image)
 {
     // Copied in and out: the bytes of an image need not be aligned for its values.
-    for (std::size_t at = place.index * sizeof(Value); at < bytes;
-         at += place.components * sizeof(Value)) {
+    const std::size_t bytes = image->getSize();
+    osg::UInt8* const pixels = image->getData();
+    const auto first = static_cast<std::size_t>(nbImage::alphaPlace(image)) * sizeof(Value);
+    for (std::size_t at = first; at < bytes; at += image->getComponents() * sizeof(Value)) {
         Value value {};
         std::memcpy(&value, pixels + at, sizeof(Value));
         value = static_cast<Value>(full<Value>() - value);
@@ -53,29 +32,37 @@ void invert(osg::UInt8* pixels, std::size_t bytes, const AlphaPlace& place)
 
 }  // namespace
 
+int nbImage::alphaPlace(const osg::ImagePtr& image)
+{
+    switch (image->getPixelFormat()) {
+    case osg::Image::OSG_L_PF:
+    case osg::Image::OSG_RGB_PF:
+    case osg::Image::OSG_BGR_PF:
+        return -1;
+    default:
+        return image->getComponents() - 1;
+    }
+}
+
 bool nbImage::invertAlpha(const osg::ImagePtr& image)
 {
-    if (image == osg::NullFC || !image->isValid() || image->getData() == nullptr) {
-        return false;
-    }
-    const AlphaPlace place = findAlpha(image->getPixelFormat());
-    if (place.components == 0) {
+    if (image == osg::NullFC || !image->isValid() || image->getData() == nullptr ||
+        alphaPlace(image) < 0) {
         return false;
     }
     const nbEdit edit(image, osg::Image::PixelFieldMask);
-    const std::size_t bytes = image->getSize();
     switch (image->getDataType()) {
     case osg::Image::OSG_UINT8_IMAGEDATA:
-        invert<osg::UInt8>(image->getData(), bytes, place);
+        invert<osg::UInt8>(image);
         return true;
     case osg::Image::OSG_UINT16_IMAGEDATA:
-        invert<osg::UInt16>(image->getData(), bytes, place);
+        invert<osg::UInt16>(image);
         return true;
     case osg::Image::OSG_UINT32_IMAGEDATA:
-        invert<osg::UInt32>(image->getData(), bytes, place);
+        invert<osg::UInt32>(image);
         return true;
     case osg::Image::OSG_FLOAT32_IMAGEDATA:
-        invert<osg::Real32>(image->getData(), bytes, place);
+        invert<osg::Real32>(image);
         return true;
     default:
         return false;

@@ -9,6 +9,9 @@
 class NB_PLATFORM_API nbImage
 {
 public:
+    /// Place of the alpha among the components of a pixel; it is the last one. -1 without alpha.
+    static int alphaPlace(const osg::ImagePtr& image);
+
     /// Turns the alpha of every pixel over (full becomes none), in all frames, sides and mipmaps;
     /// colours stay. Opens its own edit. An image of intensity, whose one value is colour and
     /// alpha, is inverted as a whole.

@@ -3,6 +3,7 @@
 
 #include <nbOpenSGExt/NodeFlags.h>
 #include <nbOpenSGExt/Transform3D.h>
+#include <nbOpenSGExt/nbBoxCorners.h>
 #include <nbOpenSGExt/nbEulerRotation.h>
 #include <nbOpenSGUtils/nbEdit.h>
 
@@ -91,11 +92,7 @@ void extendByCorners(osg::BoxVolume& bounds, const osg::BoxVolume& local,
     osg::Pnt3f low;
     osg::Pnt3f high;
     local.getBounds(low, high);
-    constexpr int kCorners = 8;
-    for (int corner = 0; corner < kCorners; ++corner) {
-        osg::Pnt3f point((corner & 1) != 0 ? high.x() : low.x(),
-                         (corner & 2) != 0 ? high.y() : low.y(),
-                         (corner & 4) != 0 ? high.z() : low.z());
+    for (osg::Pnt3f point : nbBoxCorners(low, high)) {
         toWorld.multMatrixPnt(point);
         bounds.extendBy(point);
     }
@@ -179,19 +176,9 @@ void nbNodeUtils::setIsSelectableAuxiliaryNode(const osg::NodePtr& node, bool on
     setFlag(node, osg::NodeFlags::SelectableAuxiliary, on);
 }
 
-bool nbNodeUtils::isSelectableAuxiliaryNode(const osg::NodePtr& node)
-{
-    return (getNodeFlags(node) & osg::NodeFlags::SelectableAuxiliary) != 0;
-}
-
 void nbNodeUtils::setIsManipulatorNode(const osg::NodePtr& node, bool on)
 {
     setFlag(node, osg::NodeFlags::ManipulatorNode, on);
-}
-
-bool nbNodeUtils::isManipulatorNode(const osg::NodePtr& node)
-{
-    return (getNodeFlags(node) & osg::NodeFlags::ManipulatorNode) != 0;
 }
 
 osg::UInt32 nbNodeUtils::getNodeFlags(const osg::NodePtr& node)

@@ -30,11 +30,9 @@ public:
 
     /// Marks helper geometry that the picker of handles may hit.
     static void setIsSelectableAuxiliaryNode(const osg::NodePtr& node, bool on);
-    static bool isSelectableAuxiliaryNode(const osg::NodePtr& node);
 
     /// Marks the root of a manipulator's handles, which are drawn over the scene.
     static void setIsManipulatorNode(const osg::NodePtr& node, bool on);
-    static bool isManipulatorNode(const osg::NodePtr& node);
 
     /// The three marks of the node itself, as bits of osg::NodeFlags::Flag.
     static osg::UInt32 getNodeFlags(const osg::NodePtr& node);

@@ -102,11 +102,6 @@ Factors factorise(const osg::Matrix& matrix)
     return factors;
 }
 
-osg::Vec3f translationOf(const osg::Matrix& matrix)
-{
-    return { matrix[3][0], matrix[3][1], matrix[3][2] };
-}
-
 /// Whether the scale of a component transform acts along the axes of its rotation.
 bool scalesAlongAxes(const osg::ComponentTransformPtr& source)
 {
@@ -149,9 +144,10 @@ void splitMatrix(const osg::Matrix& matrix, const osg::Vec3f& pivot,
     osg::Matrix rotation(osg::Vec3f(factors.rotation[0]), osg::Vec3f(factors.rotation[1]),
                          osg::Vec3f(factors.rotation[2]));
     rotation[3][3] = 1.0F;
+    const osg::Vec3f translation(matrix[3][0], matrix[3][1], matrix[3][2]);
     osg::Vec3f movedPivot;
     matrix.multMatrixVec(pivot, movedPivot);
-    target->setTranslation(translationOf(matrix) + movedPivot - pivot);
+    target->setTranslation(translation + movedPivot - pivot);
     target->setRotatePivot(pivot);
     target->setScalePivot(pivot);
     target->setRotation(osg::Quaternion(rotation));

@@ -36,18 +36,6 @@ struct Matrix3d
     }
 };
 
-inline bool isFinite(const osg::Vec3f& v)
-{
-    // Only what is finite is nothing when taken from itself.
-    return (v[0] - v[0]) + (v[1] - v[1]) + (v[2] - v[2]) == 0.0F;
-}
-
-/// The three floats have the same values.
-inline bool isSame(const osg::Vec3f& a, const osg::Vec3f& b)
-{
-    return a[0] == b[0] && a[1] == b[1] && a[2] == b[2];
-}
-
 /// The whole rotation, with the orientation.
 inline Matrix3d wholeRotation(const osg::Transform3D& core)
 {

@@ -70,13 +70,3 @@ bool nbTransformState::isSame(const nbTransformState& other) const
         same(rotationOrientation, other.rotationOrientation) &&
         rotationMode == other.rotationMode && eulerRotationOrder == other.eulerRotationOrder;
 }
-
-bool nbTransformState::isSame(const osg::Transform3D& core) const
-{
-    return same(translation, core.getTranslation()) && same(rotatePivot, core.getRotatePivot()) &&
-        same(scalePivot, core.getScalePivot()) && same(eulerRotation, core.getEulerRotation()) &&
-        same(scale, core.getScale()) && same(rotationQuaternion, core.getRotationQuaternion()) &&
-        same(rotationOrientation, core.getRotationOrientation()) &&
-        rotationMode == core.getRotationMode() &&
-        eulerRotationOrder == core.getEulerRotationOrder();
-}

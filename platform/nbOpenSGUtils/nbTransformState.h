@@ -27,7 +27,4 @@ struct NB_PLATFORM_API nbTransformState
 
     /// Whether all parts are the same bit for bit, zeros of both signs counting as one.
     bool isSame(const nbTransformState& other) const;
-
-    /// The same with the present parts of a core.
-    bool isSame(const osg::Transform3D& core) const;
 };

@@ -35,18 +35,6 @@ bool refuse(const std::string& what)
     return false;
 }
 
-/// Into -180 .. 180.
-float wrapped(double degrees)
-{
-    constexpr double kWhole = 360.0;
-    return static_cast<float>(std::remainder(degrees, kWhole));
-}
-
-osg::SceneplatePtr findPlate(osg::UInt32 nodeId)
-{
-    return nbSceneplateList::plateOf(resolveContainer<osg::NodePtr>(nodeId));
-}
-
 }  // namespace
 
 bool nbSceneplateChange::read(const nbMessage& message, nbSceneplateChange& change)
@@ -148,14 +136,17 @@ nbSceneplateStart::Plate nbSceneplateStart::changed(const Plate& start,
                    static_cast<float>(start.position.y() + change.offset.y() + shiftY));
     target.scale = start.scale * change.scaleFactor;
     if (change.rotation != 0.0F) {
-        target.rotation = wrapped(static_cast<double>(start.rotation) + change.rotation);
+        constexpr double kWholeTurnDeg = 360.0;
+        const double turned = static_cast<double>(start.rotation) + change.rotation;
+        target.rotation = static_cast<float>(std::remainder(turned, kWholeTurnDeg));
     }
     return target;
 }
 
 bool nbSceneplateStart::write(const Plate& target)
 {
-    const osg::SceneplatePtr plate = findPlate(target.nodeId);
+    const osg::SceneplatePtr plate =
+        nbSceneplateList::plateOf(resolveContainer<osg::NodePtr>(target.nodeId));
     if (plate == osg::NullFC) {
         return false;
     }

@@ -30,6 +30,15 @@ std::vector<Entry> collectSorted()
     return entries;
 }
 
+std::vector<osg::NodePtr> nodesOf(const std::vector<Entry>& entries)
+{
+    std::vector<osg::NodePtr> nodes;
+    for (const Entry& entry : entries) {
+        nodes.push_back(entry.node);
+    }
+    return nodes;
+}
+
 /// Those of one side.
 std::vector<Entry> collectSide(bool isFront)
 {
@@ -71,12 +80,7 @@ bool restackSide(const std::vector<osg::NodePtr>& nodes, int steps, bool isFront
     if (steps == 0 || !shift(entries, nodes, steps > 0)) {
         return false;
     }
-    std::vector<osg::NodePtr> side;
-    side.reserve(entries.size());
-    for (const Entry& entry : entries) {
-        side.push_back(entry.node);
-    }
-    nbSceneplateUndo::notePlates(side);
+    nbSceneplateUndo::notePlates(nodesOf(entries));
     for (std::size_t i = 0; i < entries.size(); ++i) {
         setOrder(entries[i].plate, static_cast<osg::Int32>(i));
     }
@@ -127,10 +131,7 @@ void moveEach(const std::vector<Span>& spans, osg::UInt32 axis, int heightPx, co
 
 std::vector<osg::NodePtr> nbSceneplateEditing::getStack()
 {
-    std::vector<osg::NodePtr> nodes;
-    for (const Entry& entry : collectSorted()) {
-        nodes.push_back(entry.node);
-    }
+    std::vector<osg::NodePtr> nodes = nodesOf(collectSorted());
     std::reverse(nodes.begin(), nodes.end());
     return nodes;
 }

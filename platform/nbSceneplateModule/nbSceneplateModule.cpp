@@ -24,16 +24,12 @@ constexpr const char* kPreselectedMessage = "sceneplatePreselected";
 constexpr const char* kSelectedMessage = "sceneplateSelected";
 constexpr const char* kChangedMessage = "sceneplateChanged";
 
-bool isInWorld(const osg::NodePtr& node)
-{
-    return nbNodeUtils::hasParent(node, nbScenegraph::getWorldRoot());
-}
-
 std::vector<osg::NodePtr> inWorld(std::vector<osg::NodePtr> nodes)
 {
-    nodes.erase(std::remove_if(nodes.begin(), nodes.end(),
-                               [](const osg::NodePtr& node) { return !isInWorld(node); }),
-                nodes.end());
+    const auto isOutside = [](const osg::NodePtr& node) {
+        return !nbNodeUtils::hasParent(node, nbScenegraph::getWorldRoot());
+    };
+    nodes.erase(std::remove_if(nodes.begin(), nodes.end(), isOutside), nodes.end());
     return nodes;
 }
 

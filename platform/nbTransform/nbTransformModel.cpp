@@ -5,6 +5,8 @@
 #include <nbKernelServices/nbScopedUndo.h>
 #include <nbKernelServices/nbTransformTable.h>
 #include <nbKernelServices/nbUndoService.h>
+#include <nbOpenSGExt/nbIsFinite.h>
+#include <nbOpenSGExt/nbSameBits.h>
 #include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodePermission.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
@@ -22,8 +24,6 @@
 
 using nbtransform::Faults;
 using nbtransform::Subject;
-using nbTransformMath::isFinite;
-using nbTransformMath::isSame;
 using osg::Transform3D;
 using osg::Transform3DPtr;
 using osg::Vec3d;
@@ -124,7 +124,7 @@ osg::UInt32 editAll(const char* title, osg::UInt32 count, nbTransformModel::Valu
         if (node == osg::NullFC || !mayTransform(node)) {
             continue;
         }
-        if (!isFinite(value.second)) {
+        if (!nbIsFinite(value.second)) {
             ++faults.notFinite;
             continue;
         }
@@ -162,9 +162,9 @@ bool moveInWorld(const Subject& subject, const nbTransformMath::Frame& frame, co
     if (!frame.isIdentity) {
         const Vec3f& start = subject.entry != nullptr ? subject.entry->start.translation
                                                       : subject.core->getTranslation();
-        const bool isStart = isSame(value, Vec3f(frame.toOuter(Vec3d(start))));
+        const bool isStart = nbSameValues(value, Vec3f(frame.toOuter(Vec3d(start))));
         translation = isStart ? start : Vec3f(frame.toInner(Vec3d(value)));
-        if (!isFinite(translation)) {
+        if (!nbIsFinite(translation)) {
             ++faults.notFinite;
             return false;
         }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <nbUtils/nbLog.h>
 
+#include <QtCore/QScopedValueRollback>
+
 #include <cstdio>
 #include <utility>
 
@@ -9,7 +11,7 @@ namespace {
 struct LogState
 {
     nbLog::Sink sink;
-    bool insideSink = false;
+    bool insideSink = false;  ///< its own entries do not come back to it
 };
 
 /// Made on first use, so that static objects of other sources can log; never destroyed, so that
@@ -25,18 +27,6 @@ void writeToStandardError(nbLog::Level level, const std::string& text)
     std::fprintf(stderr, "%s: %s\n", nbLog::getLevelName(level), text.c_str());
 }
 
-/// Marks that the sink runs, so that its own entries do not come back to it.
-class SinkRun
-{
-public:
-    SinkRun() { state().insideSink = true; }
-
-    SinkRun(const SinkRun&) = delete;
-    SinkRun& operator=(const SinkRun&) = delete;
-
-    ~SinkRun() { state().insideSink = false; }
-};
-
 }  // namespace
 
 void nbLog::write(Level level, const std::string& text)
@@ -46,7 +36,7 @@ void nbLog::write(Level level, const std::string& text)
         return;
     }
     const Sink current = state().sink;  // the sink may replace itself while it runs
-    const SinkRun run;
+    const QScopedValueRollback<bool> run(state().insideSink, true);
     try {
         current(level, text);
     } catch (...) {

@@ -2,6 +2,7 @@
 // The handles of the gizmos of nodes and textures: names, places, colours, modes, sets, trees.
 #include "tests/manipulator/support/TextureScene.h"
 
+#include <nbOpenSGExt/NodeFlags.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <OpenSG/OSGLineChunk.h>
@@ -341,7 +342,7 @@ TEST(HandleTrees, HaveTheirChildrenInTheirOrder)
 
     TextureSceneOf<Triplanar> triplanar;
     const osg::NodePtr tree = triplanar.gizmo.getVisualisation()->getChild(0);
-    EXPECT_TRUE(nbNodeUtils::isSelectableAuxiliaryNode(tree));
+    EXPECT_TRUE(nbNodeUtils::getNodeFlags(tree) & osg::NodeFlags::SelectableAuxiliary);
     EXPECT_EQ(namesOf(tree).front(), "grid");
     EXPECT_EQ(namesOf(tree->getChild(1)), (Names { "xaShape", "yaShape", "zaShape" }));
     EXPECT_EQ(namesOf(tree->getChild(2)), (Names { "rxShape", "ryShape", "rzShape" }));

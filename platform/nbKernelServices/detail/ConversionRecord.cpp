@@ -30,7 +30,7 @@ ConversionRecord::ConversionRecord(const nbNodeConversion& done)
 
 void ConversionRecord::undo()
 {
-    const osg::NodePtr node = resolveContainer<osg::NodePtr>(nodeId);
+    const auto node = resolveContainer<osg::NodePtr>(nodeId);
     if (node == osg::NullFC || node->getCore() != newCore) {
         return;
     }
@@ -47,7 +47,7 @@ void ConversionRecord::undo()
 
 void ConversionRecord::redo()
 {
-    const osg::NodePtr node = resolveContainer<osg::NodePtr>(nodeId);
+    const auto node = resolveContainer<osg::NodePtr>(nodeId);
     if (node == osg::NullFC || node->getCore() != oldCore) {
         return;
     }

@@ -5,6 +5,7 @@
 #include <nbKernelServices/nbUndoRecord.h>
 #include <nbKernelServices/nbUndoService.h>
 #include <nbKernelServices/nbdCameraNode.h>
+#include <nbOpenSGExt/nbSameBits.h>
 #include <nbOpenSGUberCamera/nbUberCameraPool.h>
 
 #include <memory>
@@ -15,16 +16,9 @@ namespace {
 constexpr const char* kLineProperties[] = { "xLine1", "xLine2", "yLine1",
                                             "yLine2", "zLine1", "zLine2" };
 
-template <class Values>
-bool areSame(const Values& a, const Values& b)
-{
-    // Unlike the comparison of points, which forgives small differences.
-    return a[0] == b[0] && a[1] == b[1] && a[2] == b[2];
-}
-
 bool isOrientationSame(const CameraPose& a, const CameraPose& b)
 {
-    return areSame(a.from, b.from) && areSame(a.at, b.at) && areSame(a.up, b.up);
+    return nbSameValues(a.from, b.from) && nbSameValues(a.at, b.at) && nbSameValues(a.up, b.up);
 }
 
 void announce(const nbdCameraNode& camera, const MatchState& before, const MatchState& after)

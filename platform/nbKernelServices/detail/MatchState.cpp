@@ -3,10 +3,10 @@
 
 #include <nbKernelServices/nbQRPCConverter.h>
 #include <nbOpenSGUberCamera/nbUberCameraPool.h>
+#include <nbOpenSGUtils/nbDropDead.h>
 
 #include <cmath>
 #include <cstring>
-#include <iterator>
 #include <unordered_map>
 
 namespace {
@@ -18,15 +18,6 @@ States& states()
 {
     static States all;
     return all;
-}
-
-void dropLostCameras()
-{
-    States& all = states();
-    for (auto state = all.begin(); state != all.end();) {
-        state = nbUberCameraPool::get(state->first) == osg::NullFC ? all.erase(state)
-                                                                   : std::next(state);
-    }
 }
 
 }  // namespace
@@ -87,7 +78,7 @@ MatchState& MatchTable::of(const osg::UberCameraPtr& camera)
     auto found = states().find(id);
     if (found == states().end()) {
         // Ids are never used again, so entries that are left over only cost memory.
-        dropLostCameras();
+        nbDropDead(states());
         found = states().emplace(id, MatchState()).first;
         MatchState& made = found->second;
         made.shape = ViewShape::of(*camera);

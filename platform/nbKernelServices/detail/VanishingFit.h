@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <OpenSG/OSGVector.h>
+
 #include <QtCore/QLineF>
 
+#include <cmath>
 #include <vector>
 
 #include <Eigen/Core>
@@ -14,6 +17,25 @@ namespace nbmatch {
 using Vector2 = Eigen::Vector2d;
 using Vector3 = Eigen::Vector3d;
 using Matrix3 = Eigen::Matrix3d;
+
+constexpr double kPi = 3.14159265358979323846;
+constexpr int kAxisCount = 3;
+
+inline Vector3 toEigen(const osg::Vec3d& vector)
+{
+    return { vector[0], vector[1], vector[2] };
+}
+
+inline osg::Vec3d fromEigen(const Vector3& vector)
+{
+    return { vector.x(), vector.y(), vector.z() };
+}
+
+/// Of a picture with a height of 1. @param fovDeg  vertical opening angle
+inline double focalLengthOf(double fovDeg)
+{
+    return 0.5 / std::tan(fovDeg * kPi / 360.0);
+}
 
 /// A line of the picture that runs along an axis of the world.
 struct Edge

@@ -113,7 +113,7 @@ osg::NodePtr EditedComponent::spaceOf(const osg::NodePtr& hit) const
 
 bool EditedComponent::write(const osg::Transform3DPtr& core, const nbTransformState& state)
 {
-    if (state.isSame(*core)) {
+    if (state.isSame(nbTransformState::of(*core))) {
         return false;
     }
     nbUndoService::the()->noteTransform(core);

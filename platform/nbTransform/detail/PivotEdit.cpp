@@ -2,13 +2,12 @@
 #include "PivotEdit.h"
 
 #include <nbOpenSGExt/nbEulerRotation.h>
+#include <nbOpenSGExt/nbIsFinite.h>
 #include <nbOpenSGExt/nbSameBits.h>
 #include <nbOpenSGUtils/nbEdit.h>
 
 #include <string>
 
-using nbTransformMath::isFinite;
-using nbTransformMath::isSame;
 using osg::Transform3D;
 using osg::Vec3d;
 using osg::Vec3f;
@@ -37,10 +36,11 @@ struct Base
 Base baseOf(const Subject& subject, EditKind kind)
 {
     const nbTransformEntry* const entry = subject.entry;
+    const nbTransformState present = nbTransformState::of(*subject.core);
     const bool isStart = entry != nullptr &&
-        (entry->start.isSame(*subject.core) ||
-         (entry->writtenKind == kind && entry->written.isSame(*subject.core)));
-    return { isStart ? entry->start : nbTransformState::of(*subject.core), isStart };
+        (entry->start.isSame(present) ||
+         (entry->writtenKind == kind && entry->written.isSame(present)));
+    return { isStart ? entry->start : present, isStart };
 }
 
 /// Notes what an edit of a kind left, for the next baseOf.
@@ -76,7 +76,7 @@ nbTransformState withPivotAt(const PivotKind& kind, const nbTransformState& base
 {
     nbTransformState result = base;
     const Vec3d start = kind.place(base, rotation);
-    if (isSame(place, Vec3f(frame.toOuter(start)))) {
+    if (nbSameValues(place, Vec3f(frame.toOuter(start)))) {
         return result;
     }
     const nbTransformMath::MovedPivots moved =
@@ -98,8 +98,8 @@ bool movePivot(const PivotKind& kind, const Subject& subject, const nbTransformM
     // Edits of a kind leave the rotation as it was at the start.
     const nbTransformState moved =
         withPivotAt(kind, base.state, nbTransformMath::wholeRotation(*subject.core), frame, place);
-    if (!isFinite(moved.translation) || !isFinite(moved.rotatePivot) ||
-        !isFinite(moved.scalePivot)) {
+    if (!nbIsFinite(moved.translation) || !nbIsFinite(moved.rotatePivot) ||
+        !nbIsFinite(moved.scalePivot)) {
         ++faults.notFinite;
         return false;
     }
@@ -121,7 +121,7 @@ osg::Quaternion quaternionFor(const Subject& subject, const Vec3f& anglesDeg)
     const std::string& order = subject.core->getEulerRotationOrder();
     if (subject.entry != nullptr) {
         const osg::Quaternion& start = subject.entry->start.rotationQuaternion;
-        if (isSame(anglesDeg, nbEulerRotation::fromQuaternion(start, order))) {
+        if (nbSameValues(anglesDeg, nbEulerRotation::fromQuaternion(start, order))) {
             return start;
         }
     }
@@ -182,7 +182,7 @@ void turnPivot(const Subject& subject, const Vec3f& anglesDeg)
                               Transform3D::RotationOrientationFieldMask);
         setTurn(subject, anglesDeg);
         const nbTransformState present = nbTransformState::of(*subject.core);
-        const bool isBack = isSame(present.eulerRotation, base.state.eulerRotation) &&
+        const bool isBack = nbSameValues(present.eulerRotation, base.state.eulerRotation) &&
             nbSameBits(present.rotationQuaternion, base.state.rotationQuaternion);
         subject.core->setRotationOrientation(
             isBack ? base.state.rotationOrientation

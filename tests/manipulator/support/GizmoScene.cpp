@@ -4,6 +4,7 @@
 #include "tests/platform/support/Edited.h"
 
 #include <nbKernel/nbScenegraph.h>
+#include <nbOpenSGExt/NodeFlags.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <OpenSG/OSGSimpleAttachments.h>
@@ -84,9 +85,9 @@ osg::Transform3DPtr transformOf(const osg::NodePtr& node)
 void expectManipulatorRoot(const osg::NodePtr& root)
 {
     EXPECT_EQ(nbNodeUtils::getName(root), "Manipulatorgroup");
-    EXPECT_TRUE(nbNodeUtils::isAuxiliaryNode(root));
-    EXPECT_TRUE(nbNodeUtils::isSelectableAuxiliaryNode(root));
-    EXPECT_TRUE(nbNodeUtils::isManipulatorNode(root));
+    using osg::NodeFlags;
+    EXPECT_EQ(nbNodeUtils::getNodeFlags(root),
+              NodeFlags::Auxiliary | NodeFlags::SelectableAuxiliary | NodeFlags::ManipulatorNode);
 }
 
 osg::NodePtr findNode(const osg::NodePtr& tree, const std::string& name)

@@ -183,7 +183,7 @@ TEST_F(TexturePlacementPickToolTest, WithoutAReceiverTheBareSuffixIsSent)
 
     send("start", 400.0f, 300.0f);
 
-    EXPECT_EQ(1U, nbController::getLostCallCount("::placeTexture"));
+    EXPECT_EQ(1U, nbController::getLostCalls()["::placeTexture"]);
 }
 
 TEST(TexturePlacementPickTool, KnowsItsMaterialAndComponentAndCopiesThem)

@@ -100,7 +100,7 @@ TEST_F(nbMaterialEditorTest, WrongMessagesLeaveEverythingAndCostOneLine)
         log.clear();
         change(row);
         EXPECT_EQ(log.size(), 1u) << testing::PrintToString(log);
-        EXPECT_TRUE(before.isSame(*projection())) << log.front();
+        EXPECT_TRUE(before.isSame(nbTransformState::of(*projection()))) << log.front();
     }
     log.clear();
     projection()->setTranslation(osg::Vec3f(3e38f, 0.f, 0.f));
@@ -217,7 +217,7 @@ TEST_F(nbMaterialEditorTest, PlacingNeedsAHitOnWhatIsEdited)
     nbtest::edited(place, osg::Transform3D::PartsFieldMask)->setScale(osg::Vec3f(1.f, 0.f, 1.f));
     placeTexture(object, osg::Pnt3f(1.f, 0.f, 1.f), osg::Vec3f(0.f, 1.f, 0.f));
     EXPECT_EQ(log.size(), 1u) << "a flat object";
-    EXPECT_TRUE(before.isSame(*projection()));
+    EXPECT_TRUE(before.isSame(nbTransformState::of(*projection())));
 
     osg::GeometryPtr::dcast(other->getCore())->setMaterial(material.get());
     placeTexture(other.get(), osg::Pnt3f(0.5f, 0.f, 0.f), osg::Vec3f(1.f, 0.f, 0.f));

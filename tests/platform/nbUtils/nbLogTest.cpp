@@ -12,20 +12,11 @@ using testing::ElementsAre;
 
 namespace {
 
-/// Collects entries as "level: text" and puts the log back to its start afterwards.
+/// Puts the log back to its start afterwards.
 class nbLogTest : public testing::Test
 {
 protected:
-    nbLogTest()
-    {
-        nbLog::setSink([this](nbLog::Level level, const std::string& text) {
-            entries.push_back(std::string(nbLog::getLevelName(level)) + ": " + text);
-        });
-    }
-
     ~nbLogTest() override { nbLog::setSink(nbLog::Sink()); }
-
-    std::vector<std::string> entries;
 };
 
 }  // namespace
@@ -43,7 +34,8 @@ TEST_F(nbLogTest, SinkThatThrowsLosesNothingAndReachesNobody)
 
 TEST_F(nbLogTest, SinkMayLogAndReplaceItself)
 {
-    nbLog::setSink([this](nbLog::Level, const std::string& text) {
+    std::vector<std::string> entries;
+    nbLog::setSink([&entries](nbLog::Level, const std::string& text) {
         nbLog::setSink(nbLog::Sink());
         nbLog::info("inside");
         entries.push_back(text);
