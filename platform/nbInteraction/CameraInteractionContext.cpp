@@ -44,22 +44,6 @@ float dragFactor(float dxPx, float dyPx, int heightPx)
 
 }  // namespace
 
-CameraInteractionContext::CameraInteractionContext(const CameraInteractionContext& other)
-    : AbstractInteractionContext(other)
-    , pointerPosition(other.pointerPosition)
-    , picker(other.picker)
-{ }
-
-CameraInteractionContext& CameraInteractionContext::operator=(const CameraInteractionContext& other)
-{
-    if (this != &other) {
-        AbstractInteractionContext::operator=(other);
-        pointerPosition = other.pointerPosition;
-        picker = other.picker;
-    }
-    return *this;
-}
-
 CameraInteractionContext::~CameraInteractionContext()
 {
     leaveManager();

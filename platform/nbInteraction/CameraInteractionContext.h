@@ -29,9 +29,8 @@ public:
     static constexpr double kWheelFactor = 0.85;
 
     CameraInteractionContext() = default;
-    /// A copy takes over picker and pointer, but neither callback nor running drag.
-    CameraInteractionContext(const CameraInteractionContext& other);
-    CameraInteractionContext& operator=(const CameraInteractionContext& other);
+    CameraInteractionContext(const CameraInteractionContext&) = delete;
+    CameraInteractionContext& operator=(const CameraInteractionContext&) = delete;
 
     /// Sets what finds the scene point under the pointer to zoom to; its filter is kept. Without
     /// one that point is taken at the pivot's depth.

@@ -48,17 +48,10 @@ PressMeaning meaningOfLeft(Qt::KeyboardModifiers modifiers)
     return { names::kTool, isShift ? names::kAdd : names::kSelect };
 }
 
-PressMeaning meaningOfRight(Qt::KeyboardModifiers modifiers)
+/// Of the button that orbits.
+PressMeaning meaningOfOrbit(Qt::KeyboardModifiers modifiers, Qt::KeyboardModifier zooming)
 {
-    if (modifiers & Qt::AltModifier) {
-        return { names::kCamera, names::kZoom };
-    }
-    return { names::kCamera, modifiers & Qt::ShiftModifier ? names::kPan : names::kOrbit };
-}
-
-PressMeaning meaningOfMiddle(Qt::KeyboardModifiers modifiers)
-{
-    if (modifiers & Qt::ControlModifier) {
+    if (modifiers & zooming) {
         return { names::kCamera, names::kZoom };
     }
     return { names::kCamera, modifiers & Qt::ShiftModifier ? names::kPan : names::kOrbit };
@@ -67,7 +60,7 @@ PressMeaning meaningOfMiddle(Qt::KeyboardModifiers modifiers)
 PressMeaning meaningOf(Qt::MouseButton button, Qt::KeyboardModifiers modifiers, bool middleOrbits)
 {
     if (middleOrbits && button == Qt::MiddleButton) {
-        return meaningOfMiddle(modifiers);
+        return meaningOfOrbit(modifiers, Qt::ControlModifier);
     }
     if (middleOrbits && (modifiers & (Qt::AltModifier | Qt::ShiftModifier)) == 0 &&
         button == Qt::RightButton) {
@@ -77,7 +70,7 @@ PressMeaning meaningOf(Qt::MouseButton button, Qt::KeyboardModifiers modifiers, 
     case Qt::LeftButton:
         return meaningOfLeft(modifiers);
     case Qt::RightButton:
-        return meaningOfRight(modifiers);
+        return meaningOfOrbit(modifiers, Qt::AltModifier);
     case Qt::MiddleButton:
         return { names::kCamera, names::kPan };
     default:

@@ -4,35 +4,13 @@
 #include <nbKernelServices/nbUndoService.h>
 #include <nbUtils/nbGuard.h>
 
+#include <QtCore/QScopedValueRollback>
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
 
 namespace nbec::interaction {
-
-namespace {
-
-/// Sets a value for the time of a scope.
-template <class Value>
-class ScopedValue
-{
-public:
-    [[nodiscard]] ScopedValue(Value& variable, Value value)
-        : target(variable)
-        , former(std::exchange(variable, value))
-    { }
-
-    ScopedValue(const ScopedValue&) = delete;
-    ScopedValue& operator=(const ScopedValue&) = delete;
-
-    ~ScopedValue() { target = former; }
-
-private:
-    Value& target;
-    Value former;
-};
-
-}  // namespace
 
 InteractionManager::~InteractionManager()
 {
@@ -47,7 +25,7 @@ InteractionManager::~InteractionManager()
 
 bool InteractionManager::addContext(InteractionContext* context)
 {
-    if (!context || closing || hasContext(context)) {
+    if (!context || closing || findEntry(context) != entries.end()) {
         return false;
     }
     InteractionManager* const former = context->getInteractionManager();
@@ -83,16 +61,6 @@ bool InteractionManager::removeContext(InteractionContext* context)
     nbGuarded("InteractionManager: a removed context",
               [this, context] { context->contextRemoved(this); });
     return true;
-}
-
-std::vector<InteractionContext*> InteractionManager::getContexts() const
-{
-    std::vector<InteractionContext*> contexts;
-    contexts.reserve(entries.size());
-    for (const Entry& entry : entries) {
-        contexts.push_back(entry.context);
-    }
-    return contexts;
 }
 
 void InteractionManager::raise(InteractionContext* context)
@@ -263,7 +231,7 @@ bool InteractionManager::finishDrag(const InteractionEvent& event, DragEnd end)
     if (formerState == DragState::Over) {
         return false;
     }
-    const ScopedValue<DragEnd> reason(dragEnd, end);
+    const QScopedValueRollback<DragEnd> reason(dragEnd, end);
     const bool answer = owner != 0 ? offerTo(owner, event) : offer(event) != 0;
     if (dragNumber == number) {
         closeUndoGroup(end);
@@ -386,13 +354,6 @@ void InteractionManager::tellMode(std::uint64_t serial)
 
 std::vector<InteractionManager::Entry>::iterator
 InteractionManager::findEntry(const InteractionContext* context)
-{
-    return std::find_if(entries.begin(), entries.end(),
-                        [context](const Entry& entry) { return entry.context == context; });
-}
-
-std::vector<InteractionManager::Entry>::const_iterator
-InteractionManager::findEntry(const InteractionContext* context) const
 {
     return std::find_if(entries.begin(), entries.end(),
                         [context](const Entry& entry) { return entry.context == context; });

@@ -74,14 +74,6 @@ public:
     /// Removes a context; a drag that it took is stopped first. @return whether it was here
     bool removeContext(InteractionContext* context);
 
-    bool hasContext(const InteractionContext* context) const
-    {
-        return findEntry(context) != entries.end();
-    }
-
-    /// @return all contexts, enabled or not, in the order in which they are asked; not owned
-    std::vector<InteractionContext*> getContexts() const;
-
     /// Puts a context before all others. Unknown ones: nothing.
     void raise(InteractionContext* context);
     /// Puts a raised context back to its preferred position. Others: nothing.
@@ -176,7 +168,6 @@ private:
     void tellMode(std::uint64_t serial);
 
     std::vector<Entry>::iterator findEntry(const InteractionContext* context);
-    std::vector<Entry>::const_iterator findEntry(const InteractionContext* context) const;
     InteractionContext* contextOf(std::uint64_t serial) const;
     /// Contexts are visited by serial, so that one that goes meanwhile is left out.
     std::vector<std::uint64_t> serials() const;

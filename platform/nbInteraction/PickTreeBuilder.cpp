@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "PickTreeBuilder.h"
 
-#include <OpenSG/OSGFieldContainerFactory.h>
+#include <nbOpenSGExt/nbContainerId.h>
+
 #include <OpenSG/OSGGeometry.h>
 
 #include <algorithm>
@@ -19,16 +20,22 @@
 
 namespace nbec::interaction {
 
-namespace {
-
 /// A geometry's way from its triangles to its tree.
-struct Job
+struct PickTreeBuilder::Job
 {
     osg::UInt32 geometryId = 0;
     osg::UInt32 changeCount = 0;
     detail::GeometrySoup soup;
     std::shared_ptr<detail::PickTree> tree;  ///< null until it is built
+
+    double triangleCount() const
+    {
+        const std::size_t count = soup.triangles.size() / 3;
+        return static_cast<double>(count);
+    }
 };
+
+namespace {
 
 /// Makes one rising fraction of those that several trees and threads report.
 class Reporter
@@ -59,15 +66,14 @@ private:
     bool goesOn = true;
 };
 
-double triangleCount(const Job& job)
-{
-    const std::size_t count = job.soup.triangles.size() / 3;
-    return static_cast<double>(count);
-}
+}  // namespace
 
-void collectJobs(const osg::NodePtr& root, std::set<osg::UInt32>& known, std::vector<Job>& jobs)
+PickTreeBuilder::PickTreeBuilder(const std::vector<osg::NodePtr>& roots)
 {
-    detail::forEachBelow(root, [&](const osg::NodePtr& node) {
+    // A device that cannot be made is told in the log, which belongs to this thread.
+    detail::embreeDevice();
+    std::set<osg::UInt32> known;
+    const auto collect = [&](const osg::NodePtr& node) {
         const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(node->getCore());
         if (geometry != osg::NullFC && known.insert(geometry.getFieldContainerId()).second &&
             !detail::PickTreeCache::the().isCurrent(geometry)) {
@@ -77,24 +83,9 @@ void collectJobs(const osg::NodePtr& root, std::set<osg::UInt32>& known, std::ve
             job.soup = detail::extractGeometry(geometry);
             jobs.push_back(std::move(job));
         }
-    });
-}
-
-}  // namespace
-
-struct PickTreeBuilder::Internals
-{
-    std::vector<Job> jobs;
-};
-
-PickTreeBuilder::PickTreeBuilder(const std::vector<osg::NodePtr>& roots)
-    : internals(std::make_unique<Internals>())
-{
-    // A device that cannot be made is told in the log, which belongs to this thread.
-    detail::embreeDevice();
-    std::set<osg::UInt32> known;
+    };
     for (const osg::NodePtr& root : roots) {
-        collectJobs(root, known, internals->jobs);
+        detail::forEachBelow(root, collect);
     }
 }
 
@@ -103,19 +94,19 @@ PickTreeBuilder::~PickTreeBuilder() = default;
 bool PickTreeBuilder::build(const Progress& progress)
 {
     double total = 0.0;
-    for (const Job& job : internals->jobs) {
-        total += triangleCount(job);
+    for (const Job& job : jobs) {
+        total += job.triangleCount();
     }
     Reporter reporter(progress, total);
     double done = 0.0;
-    for (Job& job : internals->jobs) {
-        const double share = triangleCount(job);
+    for (Job& job : jobs) {
+        const double share = job.triangleCount();
         const auto monitor = [&](double fraction) { return reporter.tell(done, share, fraction); };
         const auto tree = std::make_shared<detail::PickTree>();
         const bool isBuilt = tree->assign(std::move(job.soup), monitor);
         done += share;
         if (!reporter.tell(done, 0.0, 0.0)) {
-            internals->jobs.clear();
+            jobs.clear();
             return false;
         }
         // Without tree the first pick tries again, and says what is wrong.
@@ -128,16 +119,15 @@ bool PickTreeBuilder::build(const Progress& progress)
 
 void PickTreeBuilder::adopt()
 {
-    for (Job& job : internals->jobs) {
-        const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(
-            osg::FieldContainerFactory::the()->getContainer(job.geometryId));
+    for (Job& job : jobs) {
+        const auto geometry = resolveContainer<osg::GeometryPtr>(job.geometryId);
         if (job.tree != nullptr && geometry != osg::NullFC &&
             osg::getChangeCount(geometry) == job.changeCount) {
             detail::PickTreeCache::the().adopt(job.geometryId, std::move(job.tree),
                                                job.changeCount);
         }
     }
-    internals->jobs.clear();
+    jobs.clear();
 }
 
 }  // namespace nbec::interaction

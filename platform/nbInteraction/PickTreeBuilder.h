@@ -7,7 +7,6 @@
 #include <OpenSG/OSGNode.h>
 
 #include <functional>
-#include <memory>
 #include <vector>
 
 namespace nbec::interaction {
@@ -44,8 +43,8 @@ public:
     void adopt();
 
 private:
-    struct Internals;
-    std::unique_ptr<Internals> internals;
+    struct Job;
+    std::vector<Job> jobs;
 };
 
 }  // namespace nbec::interaction

@@ -43,11 +43,14 @@ Pointer& pointer()
 }
 
 /// Size of the main widget's view, without area if there is none. Plates need no camera.
-detail::PlateView viewSize()
+detail::PickView viewSize()
 {
-    const nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1);
-    return widget == nullptr ? detail::PlateView()
-                             : detail::PlateView { widget->getWidth(), widget->getHeight() };
+    detail::PickView view;
+    if (const nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1)) {
+        view.widthPx = widget->getWidth();
+        view.heightPx = widget->getHeight();
+    }
+    return view;
 }
 
 }  // namespace
@@ -132,7 +135,7 @@ osg::NodePtr Picker::pickAt(const osg::Pnt2f& px, const HandleRank& rankOf)
         }
         if (handlePicking->pick(getPickNode(), root, *view, centre,
                                 pointer().reach(nbOSGWidget::getPixelRatio(-1)), rankOfId, hit)) {
-            const osg::NodePtr node = resolveContainer<osg::NodePtr>(hit.nodeId);
+            const auto node = resolveContainer<osg::NodePtr>(hit.nodeId);
             rememberHit(node, hit.point, hit.normal);
             return node;
         }

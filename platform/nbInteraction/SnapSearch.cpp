@@ -4,6 +4,7 @@
 #include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGExt/Transform3D.h>
 #include <nbOpenSGExt/nbContainerId.h>
+#include <nbOpenSGExt/nbSameBits.h>
 
 #include <algorithm>
 #include <cmath>
@@ -28,16 +29,10 @@ struct SeenTriangle
     std::uint32_t number;
 };
 
-/// The operators of points allow for a tolerance, which small scenes feel.
-bool isSame(const osg::Pnt3f& a, const osg::Pnt3f& b)
-{
-    return a.x() == b.x() && a.y() == b.y() && a.z() == b.z();
-}
-
 bool hasCorner(const SeenTriangle& triangle, const osg::Pnt3f& corner)
 {
     return std::any_of(triangle.corners.begin(), triangle.corners.end(),
-                       [&](const osg::Pnt3f& own) { return isSame(own, corner); });
+                       [&](const osg::Pnt3f& own) { return nbSameValues(own, corner); });
 }
 
 /// Rank of a kind; lower ones go first.

@@ -10,22 +10,6 @@ ToolInteractionContext::ToolInteractionContext(PreferredPosition position)
     : MultimodeInteractionContext(position)
 { }
 
-ToolInteractionContext::ToolInteractionContext(const ToolInteractionContext& other)
-    : MultimodeInteractionContext(other)
-    , picker(other.picker)
-    , pointerPosition(other.pointerPosition)
-{ }
-
-ToolInteractionContext& ToolInteractionContext::operator=(const ToolInteractionContext& other)
-{
-    if (this != &other) {
-        MultimodeInteractionContext::operator=(other);
-        picker = other.picker;
-        pointerPosition = other.pointerPosition;
-    }
-    return *this;
-}
-
 ToolInteractionContext::~ToolInteractionContext()
 {
     leaveManager();

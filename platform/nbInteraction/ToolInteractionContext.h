@@ -18,10 +18,9 @@ class NB_PLATFORM_API ToolInteractionContext : public MultimodeInteractionContex
 {
 public:
     explicit ToolInteractionContext(PreferredPosition position = Tool);
-    /// A copy takes over picker and tool name, but neither the tool nor any membership: a tool has
-    /// one context.
-    ToolInteractionContext(const ToolInteractionContext& other);
-    ToolInteractionContext& operator=(const ToolInteractionContext& other);
+    /// A tool has one context, so there are no copies.
+    ToolInteractionContext(const ToolInteractionContext&) = delete;
+    ToolInteractionContext& operator=(const ToolInteractionContext&) = delete;
 
     /// Changes the tool; the former one is deactivated first, after the stop of its running drag.
     /// @param newTool  not owned; null for none

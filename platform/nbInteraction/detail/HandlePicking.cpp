@@ -2,6 +2,7 @@
 #include "HandlePicking.h"
 
 #include <nbOpenSGExt/NodeFlags.h>
+#include <nbOpenSGUtils/nbEnteredChildren.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <OpenSG/OSGChunkMaterial.h>
@@ -165,7 +166,7 @@ void HandlePicking::collect(const osg::NodePtr& node, Inherited inherited)
         }
     }
     addHandle(node, inherited);
-    forEachEnteredChild(node, [&](const osg::NodePtr& child) {
+    nbForEachEnteredChild(node, [&](const osg::NodePtr& child) {
         collect(child, inherited);
         return true;
     });

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ItemTree.h"
 
+#include <nbOpenSGExt/nbBoxCorners.h>
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -16,27 +18,6 @@ constexpr std::size_t kDirectItems = 4;
 /// Bounds grow by this part of their largest coordinate, since the ray is rounded when it goes to
 /// local space.
 constexpr float kBoundsSlack = 4e-6F;
-
-/// @return whether the ray meets the box with 0 <= t <= tFar (slab by slab)
-bool meetsBox(const PickRay& ray, const PickBounds& box)
-{
-    float enter = 0.0F;
-    float leave = ray.tFar;
-    for (osg::UInt32 i = 0; i < 3; ++i) {
-        if (ray.direction[i] == 0.0F) {
-            if (ray.origin[i] < box.min[i] || ray.origin[i] > box.max[i]) {
-                return false;
-            }
-            continue;
-        }
-        const float inverse = 1.0F / ray.direction[i];
-        const float t0 = (box.min[i] - ray.origin[i]) * inverse;
-        const float t1 = (box.max[i] - ray.origin[i]) * inverse;
-        enter = std::max(enter, std::min(t0, t1));
-        leave = std::min(leave, std::max(t0, t1));
-    }
-    return enter <= leave;
-}
 
 /// The part of a ray that is left of it, t from begin to end.
 struct Stretch
@@ -66,14 +47,9 @@ PickBounds transformBounds(const PickBounds& local, const osg::Matrix& worldFrom
     if (local.isEmpty) {
         return result;
     }
-    constexpr unsigned kCorners = 8;
-    for (unsigned corner = 0; corner < kCorners; ++corner) {
-        const osg::Pnt3f p((corner & 1u) != 0 ? local.max[0] : local.min[0],
-                           (corner & 2u) != 0 ? local.max[1] : local.min[1],
-                           (corner & 4u) != 0 ? local.max[2] : local.min[2]);
-        osg::Pnt3f world;
-        worldFromLocal.multMatrixPnt(p, world);
-        result.extend(world);
+    for (osg::Pnt3f corner : nbBoxCorners(local.min, local.max)) {
+        worldFromLocal.multMatrixPnt(corner);
+        result.extend(corner);
     }
     float largest = 0.0F;
     for (osg::UInt32 i = 0; i < 3; ++i) {
@@ -186,8 +162,7 @@ bool ItemTree::intersect(PickRay& ray, Hit& hit) const
     if (scene == nullptr) {
         bool isHit = false;
         for (const PickItem& item : items) {
-            if (!item.worldBounds.isEmpty && meetsBox(ray, item.worldBounds) &&
-                item.intersect(ray, clipSets.planesOf(item.clipSet), hit.local)) {
+            if (item.intersect(ray, clipSets.planesOf(item.clipSet), hit.local)) {
                 hit.item = &item;
                 isHit = true;
             }

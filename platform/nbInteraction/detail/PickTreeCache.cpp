@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "PickTreeCache.h"
 
-#include <OpenSG/OSGFieldContainerFactory.h>
+#include <nbOpenSGUtils/nbDropDead.h>
 
 #include "GeometryExtraction.h"
 #include "TreeWalk.h"
@@ -50,11 +50,7 @@ void PickTreeCache::buildBelow(const osg::NodePtr& root)
 
 void PickTreeCache::dropDead()
 {
-    for (auto entry = entries.begin(); entry != entries.end();) {
-        const bool lives =
-            osg::FieldContainerFactory::the()->getContainer(entry->first) != osg::NullFC;
-        entry = lives ? std::next(entry) : entries.erase(entry);
-    }
+    nbDropDead(entries);
 }
 
 }  // namespace nbec::interaction::detail

@@ -8,13 +8,11 @@
 
 #include <algorithm>
 
-#include "PickView.h"
-
 namespace nbec::interaction::detail {
 
 namespace {
 
-bool isHit(const osg::SceneplatePtr& plate, const PlateView& view, const osg::Pnt2f& px)
+bool isHit(const osg::SceneplatePtr& plate, const PickView& view, const osg::Pnt2f& px)
 {
     osg::Pnt2f position;
     return nbSceneplateLayout::contains(plate, px, view.widthPx, view.heightPx, &position) &&
@@ -22,7 +20,7 @@ bool isHit(const osg::SceneplatePtr& plate, const PlateView& view, const osg::Pn
 }
 
 /// What of a plate's bounds on screen is in view.
-ScreenBox visibleBounds(const osg::SceneplatePtr& plate, const PlateView& view)
+ScreenBox visibleBounds(const osg::SceneplatePtr& plate, const PickView& view)
 {
     ScreenBox bounds;
     for (const osg::Pnt2f& corner :
@@ -45,13 +43,10 @@ bool liesInside(const ScreenBox& bounds, const ScreenBox& box)
 
 }  // namespace
 
-osg::NodePtr pickPlate(const osg::NodePtr& root, const PlateView& view, const osg::Pnt2f& px)
+osg::NodePtr pickPlate(const osg::NodePtr& root, const PickView& view, const osg::Pnt2f& px)
 {
-    PickView pixels;
-    pixels.widthPx = view.widthPx;
-    pixels.heightPx = view.heightPx;
     ScreenPoint centre;
-    if (!pixels.pixelCentre(px, centre)) {
+    if (!view.pixelCentre(px, centre)) {
         return {};
     }
     const std::vector<nbSceneplateList::Entry> plates = nbSceneplateList::collectShown(root);
@@ -61,7 +56,7 @@ osg::NodePtr pickPlate(const osg::NodePtr& root, const PlateView& view, const os
     return hit == plates.rend() ? osg::NodePtr() : hit->node;
 }
 
-std::vector<osg::NodePtr> pickPlatesInside(const osg::NodePtr& root, const PlateView& view,
+std::vector<osg::NodePtr> pickPlatesInside(const osg::NodePtr& root, const PickView& view,
                                            const ScreenBox& box)
 {
     std::vector<osg::NodePtr> nodes;

@@ -1,18 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "SceneOutline.h"
 
-#include <nbOpenSGExt/NodeFlags.h>
+#include <nbOpenSGUtils/nbEnteredChildren.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
-#include "TreeWalk.h"
 #include <ChangeCount.h>
 
 namespace nbec::interaction::detail {
 
 bool SceneOutline::isPassedBy(const osg::NodePtr& node)
 {
-    return node->getTravMask() == 0 ||
-        (nbNodeUtils::getNodeFlags(node) & osg::NodeFlags::Auxiliary) != 0;
+    return node->getTravMask() == 0 || nbNodeUtils::isAuxiliaryNode(node);
 }
 
 SceneOutline::Record SceneOutline::recordOf(const osg::NodePtr& node, osg::UInt32 item)
@@ -84,7 +82,7 @@ bool SceneOutline::openChildren(const Open& one, std::vector<Open>& open) const
 {
     const std::size_t end = records[one.record].end;
     std::size_t next = one.record + 1;
-    const bool fits = forEachEnteredChild(one.node, [&](const osg::NodePtr& child) {
+    const bool fits = nbForEachEnteredChild(one.node, [&](const osg::NodePtr& child) {
         if (next >= end) {
             return false;
         }

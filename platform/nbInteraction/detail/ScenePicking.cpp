@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ScenePicking.h"
 
-#include <OpenSG/OSGFieldContainerFactory.h>
+#include <nbOpenSGExt/nbContainerId.h>
+#include <nbOpenSGUtils/nbEnteredChildren.h>
 
 #include <algorithm>
 #include <cmath>
@@ -15,11 +16,6 @@
 namespace nbec::interaction::detail {
 
 namespace {
-
-osg::FieldContainerPtr containerOf(osg::UInt32 id)
-{
-    return osg::FieldContainerFactory::the()->getContainer(id);
-}
 
 bool isCutAway(const osg::Pnt3f& world, const nbClipSets::Planes& planes)
 {
@@ -55,7 +51,7 @@ bool ScenePicking::pick(const osg::NodePtr& root, const PickView& view, const Sc
     if (!tree.intersect(ray, found)) {
         return false;
     }
-    hit.node = osg::NodePtr::dcast(containerOf(found.item->nodeId));
+    hit.node = resolveContainer<osg::NodePtr>(found.item->nodeId);
     hit.point = ray.origin + ray.direction * ray.tFar;
     if (hit.node == osg::NullFC) {
         return false;
@@ -82,8 +78,7 @@ std::vector<osg::NodePtr> ScenePicking::pickInside(const osg::NodePtr& root, con
         if (!isInside(item, box)) {
             continue;
         }
-        if (const osg::NodePtr node = osg::NodePtr::dcast(containerOf(item.nodeId));
-            node != osg::NullFC) {
+        if (const auto node = resolveContainer<osg::NodePtr>(item.nodeId); node != osg::NullFC) {
             nodes.push_back(node);
         }
     }
@@ -202,7 +197,7 @@ void ScenePicking::enter(Step step, std::vector<Step>& steps, std::vector<PickIt
     }
     steps.push_back({ {}, {}, 0, outline.openNode(node, item) });
     const auto firstChild = static_cast<std::ptrdiff_t>(steps.size());
-    forEachEnteredChild(node, [&](const osg::NodePtr& child) {
+    nbForEachEnteredChild(node, [&](const osg::NodePtr& child) {
         steps.push_back({ child, step.matrix, step.clipSet, 0 });
         return true;
     });
@@ -222,8 +217,7 @@ void ScenePicking::refreshItems(const std::vector<osg::UInt32>& touched)
 
 bool ScenePicking::refreshItem(std::size_t index)
 {
-    const osg::GeometryPtr geometry =
-        osg::GeometryPtr::dcast(containerOf(sources[index].geometryId));
+    const auto geometry = resolveContainer<osg::GeometryPtr>(sources[index].geometryId);
     if (geometry == osg::NullFC || osg::getChangeCount(geometry) == sources[index].changeCount) {
         return false;
     }
