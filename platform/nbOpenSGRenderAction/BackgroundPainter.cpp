@@ -108,7 +108,7 @@ void BackgroundPainter::draw(Gl& gl, const osg::ViewportPtr& viewport, const Fra
     gl.glColorMaski(1, GL_FALSE, GL_FALSE, GL_FALSE, GL_FALSE);
     gl.glBindVertexArray(frame.emptyArray);
     gl.glDrawArrays(GL_TRIANGLES, 0, 3);
-    frame.count->add(1);
+    frame.drew(1);
     if (hasPhotograph(viewport)) {
         drawPhotograph(gl, viewport, 1.0F, frame, programs, textures);
     }
@@ -187,7 +187,7 @@ void BackgroundPainter::drawPhotograph(Gl& gl, const osg::ViewportPtr& viewport,
     gl.glEnable(GL_BLEND);
     gl.glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ZERO, GL_ONE);
     gl.glDrawArrays(GL_TRIANGLES, 0, 3);
-    frame.count->add(1);
+    frame.drew(1);
     gl.glDisable(GL_BLEND);
     gl.glBindSampler(0, 0);
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <nbOpenSGRenderAction/GlProgram.h>
+#include <nbOpenSGRenderAction/nbRenderAction.h>
 
 #include <OpenSG/OSGVector.h>
 
@@ -9,22 +10,6 @@
 #include <cstddef>
 
 namespace nbrender {
-
-/// What a frame took.
-struct DrawCount
-{
-    std::size_t items = 0;  ///< in the list
-    std::size_t inView = 0;
-    std::size_t reused = 0;  ///< of these not drawn but taken from a copy
-    std::size_t calls = 0;
-    std::size_t triangles = 0;  ///< those that lines are widened to included
-
-    void add(std::size_t moreTriangles)
-    {
-        ++calls;
-        triangles += moreTriangles;
-    }
-};
 
 /// One frame to be drawn, device pixels.
 struct Frame
@@ -35,7 +20,14 @@ struct Frame
     float shiftXPx = 0.0F;  ///< of the picture, to the right
     float shiftYPx = 0.0F;  ///< of the picture, up
     GLuint emptyArray = 0;  ///< vertex array of programs that have no attributes
-    DrawCount* count = nullptr;  ///< receives what was drawn; never null while drawing
+    nbRenderAction::Statistics* count = nullptr;  ///< of what is drawn; never null while drawing
+
+    /// Counts a call that draws.
+    void drew(std::size_t triangles) const
+    {
+        ++count->drawCalls;
+        count->triangles += triangles;
+    }
 };
 
 /// A rectangle of whole device pixels, x to the right and y up, without the right column and the

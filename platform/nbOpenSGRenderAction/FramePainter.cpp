@@ -66,7 +66,7 @@ void FramePainter::draw(Gl& gl, const Frame& frame, const osg::ViewportPtr& view
         }
     } else {
         drawBackground(gl, frame, viewport, targets);
-        plates.drawBack(gl, frame, programs, textures);
+        plates.draw(gl, frame, SceneplatePainter::Side::Back, programs, textures);
     }
     const std::size_t middle = std::max(plan.reused, plan.kept);
     drawSteps(gl, frame, viewport, view, steps, plan.reused, middle);
@@ -86,7 +86,7 @@ void FramePainter::drawScene(Gl& gl, const Frame& frame, const osg::ViewportPtr&
     const FrameView view = prepareView(frame, viewport);
     plates.update(viewport->getRoot());
     drawBackground(gl, frame, viewport, targets);
-    plates.drawBack(gl, frame, programs, textures);
+    plates.draw(gl, frame, SceneplatePainter::Side::Back, programs, textures);
     FrameSteps steps;
     osg::ContentStamp stamp;
     addItems(steps, stamp, frame, view, true, false);
@@ -130,7 +130,7 @@ void FramePainter::drawPicture(Gl& gl, const Frame& frame, GLuint texture, GLint
     gl.glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, filter);
     gl.glBindVertexArray(frame.emptyArray);
     gl.glDrawArrays(GL_TRIANGLES, 0, 3);
-    frame.count->add(1);
+    frame.drew(1);
 }
 
 void FramePainter::drawBackground(Gl& gl, const Frame& frame, const osg::ViewportPtr& viewport,
@@ -146,7 +146,7 @@ void FramePainter::drawBackground(Gl& gl, const Frame& frame, const osg::Viewpor
 FrameView FramePainter::prepareView(const Frame& frame, const osg::ViewportPtr& viewport)
 {
     if (list.update(viewport->getRoot())) {
-        ++listBuilds;
+        ++frame.count->listBuilds;
     }
     frame.count->items = list.getItems().size();
     osg::Matrix viewFromWorld;
@@ -166,7 +166,7 @@ FrameSteps FramePainter::makeSteps(const Frame& frame, const osg::ViewportPtr& v
     osg::ContentStamp stamp;
     addTo(stamp, view);
     BackgroundPainter::addTo(stamp, viewport, frame);
-    plates.addBackTo(stamp, frame);
+    plates.addTo(stamp, frame, SceneplatePainter::Side::Back);
     const bool hasVeil = BackgroundPainter::hasVeil(viewport);
     if (!hasVeil && !plates.hasFront()) {
         addItems(steps, stamp, frame, view, true, true);
@@ -178,7 +178,7 @@ FrameSteps FramePainter::makeSteps(const Frame& frame, const osg::ViewportPtr& v
         steps.push_back({ FrameStep::Kind::Veil, 0, false, stamp.get() });
     }
     if (plates.hasFront()) {
-        plates.addFrontTo(stamp, frame);
+        plates.addTo(stamp, frame, SceneplatePainter::Side::Front);
         steps.push_back({ FrameStep::Kind::FrontPlates, 0, true, stamp.get() });
     }
     addItems(steps, stamp, frame, view, false, true);
@@ -200,7 +200,7 @@ void FramePainter::addItems(FrameSteps& steps, osg::ContentStamp& stamp, const F
             stamp.add(plane.getValues(), 4);
         }
         steps.push_back({ FrameStep::Kind::Item, index, item.handle, stamp.get() });
-        ++frame.count->inView;
+        ++frame.count->drawn;
     }
 }
 
@@ -252,7 +252,7 @@ void FramePainter::drawSteps(Gl& gl, const Frame& frame, const osg::ViewportPtr&
             BackgroundPainter::drawVeil(gl, viewport, frame, programs, textures);
             ++i;
         } else if (steps[i].kind == FrameStep::Kind::FrontPlates) {
-            plates.drawFront(gl, frame, programs, textures);
+            plates.draw(gl, frame, SceneplatePainter::Side::Front, programs, textures);
             ++i;
         } else {
             std::size_t end = i;
@@ -270,7 +270,7 @@ void FramePainter::drawItems(Gl& gl, const Frame& frame, const FrameView& view,
 {
     depth.enter();
     {
-        ItemPainter painter(gl, meshes, textures, programs, view, *frame.count);
+        ItemPainter painter(gl, meshes, textures, programs, view, frame);
         for (std::size_t i = first; i < last; ++i) {
             painter.draw(list.getItems()[steps[i].item], list);
         }

@@ -51,9 +51,6 @@ public:
 
     void setMovedLast(bool on) { isMovedLast = on; }
 
-    /// How often the list of items was made since construction.
-    std::size_t getListBuilds() const { return listBuilds; }
-
     std::size_t getMeshCount() const { return meshes.size(); }
 
     void collect(Gl& gl);
@@ -84,7 +81,6 @@ private:
     SceneplatePainter plates;
     ItemList list;
     SceneImage image;
-    std::size_t listBuilds = 0;
     bool isMovedLast = false;
     osg::Matrix lastViewFromWorld;
 };

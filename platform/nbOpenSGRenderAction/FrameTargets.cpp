@@ -161,25 +161,6 @@ void FrameTargets::resolve(Gl& gl, Buffer buffer)
     box = PixelBox();
 }
 
-QImage FrameTargets::readEffect(Gl& gl)
-{
-    if (resolveFramebuffer == 0) {
-        return {};
-    }
-    GLint readBefore = 0;
-    GLint drawnBefore = 0;
-    gl.glGetIntegerv(GL_READ_FRAMEBUFFER_BINDING, &readBefore);
-    gl.glGetIntegerv(GL_DRAW_FRAMEBUFFER_BINDING, &drawnBefore);
-    resolve(gl, Buffer::Effect);
-    QImage picture(madeWidth, madeHeight, QImage::Format_RGBA8888);
-    gl.glBindFramebuffer(GL_READ_FRAMEBUFFER, resolveFramebuffer);
-    gl.glReadBuffer(kOutputs[1]);
-    gl.glReadPixels(0, 0, madeWidth, madeHeight, GL_RGBA, GL_UNSIGNED_BYTE, picture.bits());
-    gl.glBindFramebuffer(GL_READ_FRAMEBUFFER, static_cast<GLuint>(readBefore));
-    gl.glBindFramebuffer(GL_DRAW_FRAMEBUFFER, static_cast<GLuint>(drawnBefore));
-    return picture.mirrored();
-}
-
 void FrameTargets::release(Gl& gl, Layers& layers)
 {
     gl.glDeleteFramebuffers(1, &layers.framebuffer);

@@ -3,8 +3,6 @@
 
 #include <nbOpenSGRenderAction/Frame.h>
 
-#include <QtGui/QImage>
-
 namespace nbrender {
 
 /// Where a frame is drawn: colour, effect and depth with several samples per pixel, and two
@@ -51,12 +49,6 @@ public:
 
     /// Framebuffer whose first buffer is the resolved colour, whose second the resolved effect.
     GLuint getResolved() const { return resolveFramebuffer; }
-
-    /// The resolved effect, rows from top to bottom; null before the first frame.
-    QImage readEffect(Gl& gl);
-
-    /// Samples per pixel that the driver really gave.
-    int getSamples() const { return madeSamples; }
 
     void release(Gl& gl);
 

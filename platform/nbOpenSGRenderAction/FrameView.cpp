@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "FrameView.h"
 
+#include <nbOpenSGExt/nbBoxCorners.h>
 #include <nbOpenSGUberCamera/UberCamera.h>
 #include <nbOpenSGUberCamera/nbUberCameraUtils.h>
 
@@ -14,13 +15,9 @@ namespace {
 
 constexpr int kCorners = 8;
 
-osg::Vec4f clipCorner(const osg::BoxVolume& bounds, const osg::Matrix& clipFromWorld, int corner)
+osg::Vec4f toClip(const osg::Pnt3f& corner, const osg::Matrix& clipFromWorld)
 {
-    const osg::Pnt3f& low = bounds.getMin();
-    const osg::Pnt3f& high = bounds.getMax();
-    const osg::Vec4f point((corner & 1) != 0 ? high.x() : low.x(),
-                           (corner & 2) != 0 ? high.y() : low.y(),
-                           (corner & 4) != 0 ? high.z() : low.z(), 1.0F);
+    const osg::Vec4f point(corner.x(), corner.y(), corner.z(), 1.0F);
     osg::Vec4f clip;
     clipFromWorld.multMatrixVec(point, clip);
     return clip;
@@ -163,8 +160,8 @@ bool isInView(const osg::BoxVolume& bounds, const osg::Matrix& clipFromWorld, bo
     constexpr std::size_t kPlanes = 6;
     constexpr std::size_t kSidePlanes = 4;
     std::array<int, kPlanes> outside {};
-    for (int corner = 0; corner < kCorners; ++corner) {
-        const osg::Vec4f clip = clipCorner(bounds, clipFromWorld, corner);
+    for (const osg::Pnt3f& corner : nbBoxCorners(bounds.getMin(), bounds.getMax())) {
+        const osg::Vec4f clip = toClip(corner, clipFromWorld);
         // Wide lines reach a little beyond their bounds.
         constexpr float kMargin = 1.05F;
         const float w = clip.w() * (clip.w() > 0.0F ? kMargin : 1.0F);
@@ -195,8 +192,8 @@ PixelBox pixelsOf(const RenderItem& item, const ItemList& list, const FrameView&
     constexpr float kFarthest = std::numeric_limits<float>::max();
     osg::Pnt2f low(kFarthest, kFarthest);
     osg::Pnt2f high(-kFarthest, -kFarthest);
-    for (int corner = 0; corner < kCorners; ++corner) {
-        const osg::Vec4f clip = clipCorner(item.bounds, view.usualClipFromWorld, corner);
+    for (const osg::Pnt3f& corner : nbBoxCorners(item.bounds.getMin(), item.bounds.getMax())) {
+        const osg::Vec4f clip = toClip(corner, view.usualClipFromWorld);
         if (!(clip.w() > kLeastW)) {
             return wholeOf(frame);
         }

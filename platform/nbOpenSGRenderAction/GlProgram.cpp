@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "GlProgram.h"
 
+#include <QtCore/QString>
+
 #include <vector>
 
 namespace nbrender {
@@ -10,17 +12,8 @@ namespace {
 /// Logs have many lines and often a trailing zero; one is what a reader gets.
 std::string firstLine(const std::vector<char>& log)
 {
-    std::string line;
-    for (const char c : log) {
-        if (c == '\n' || c == '\r' || c == '\0') {
-            if (!line.empty()) {
-                break;
-            }
-            continue;
-        }
-        line += c;
-    }
-    return line.empty() ? "the driver gives no reason" : line;
+    const QString line = QString::fromUtf8(log.data()).trimmed().section('\n', 0, 0).trimmed();
+    return line.isEmpty() ? "the driver gives no reason" : line.toStdString();
 }
 
 GLuint compile(Gl& gl, GLenum stage, const std::string& text, std::string& error)
@@ -43,14 +36,6 @@ GLuint compile(Gl& gl, GLenum stage, const std::string& text, std::string& error
     return 0;
 }
 
-void bindAttributes(Gl& gl, GLuint program)
-{
-    const char* const names[] = { "nbPosition", "nbNormal", "nbColor", "nbTexCoord" };
-    for (GLuint location = 0; location < 4; ++location) {
-        gl.glBindAttribLocation(program, location, names[location]);
-    }
-}
-
 }  // namespace
 
 bool GlProgram::build(Gl& gl, const std::string& vertexText, const std::string& geometryText,
@@ -68,34 +53,35 @@ bool GlProgram::build(Gl& gl, const std::string& vertexText, const std::string& 
                              { GL_GEOMETRY_SHADER, geometryText },
                              { GL_FRAGMENT_SHADER, fragmentText } };
     const GLuint program = gl.glCreateProgram();
-    bool good = true;
-    for (const Stage& stage : stages) {
-        if (good && !stage.text.empty()) {
-            const GLuint shader = compile(gl, stage.kind, stage.text, error);
-            good = shader != 0;
-            if (good) {
-                gl.glAttachShader(program, shader);
-                gl.glDeleteShader(shader);  // lives as long as it is attached
-            }
-        }
-    }
-    if (good) {
-        bindAttributes(gl, program);
-        gl.glLinkProgram(program);
-        GLint linked = GL_FALSE;
-        gl.glGetProgramiv(program, GL_LINK_STATUS, &linked);
-        good = linked == GL_TRUE;
-        if (!good) {
-            GLint length = 0;
-            gl.glGetProgramiv(program, GL_INFO_LOG_LENGTH, &length);
-            std::vector<char> log(static_cast<std::size_t>(length) + 1, '\0');
-            gl.glGetProgramInfoLog(program, length, nullptr, log.data());
-            error = firstLine(log);
-        }
-    }
-    if (!good) {
+    const auto giveUp = [&gl, program] {
         gl.glDeleteProgram(program);
         return false;
+    };
+    for (const Stage& stage : stages) {
+        if (stage.text.empty()) {
+            continue;
+        }
+        const GLuint shader = compile(gl, stage.kind, stage.text, error);
+        if (shader == 0) {
+            return giveUp();
+        }
+        gl.glAttachShader(program, shader);
+        gl.glDeleteShader(shader);  // lives as long as it is attached
+    }
+    GLuint location = 0;
+    for (const char* const attribute : { "nbPosition", "nbNormal", "nbColor", "nbTexCoord" }) {
+        gl.glBindAttribLocation(program, location++, attribute);
+    }
+    gl.glLinkProgram(program);
+    GLint linked = GL_FALSE;
+    gl.glGetProgramiv(program, GL_LINK_STATUS, &linked);
+    if (linked != GL_TRUE) {
+        GLint length = 0;
+        gl.glGetProgramiv(program, GL_INFO_LOG_LENGTH, &length);
+        std::vector<char> log(static_cast<std::size_t>(length) + 1, '\0');
+        gl.glGetProgramInfoLog(program, length, nullptr, log.data());
+        error = firstLine(log);
+        return giveUp();
     }
     id = program;
     return true;
@@ -150,6 +136,18 @@ void GlProgram::set(Gl& gl, const char* name, float x, float y, float z)
 void GlProgram::set(Gl& gl, const char* name, float x, float y, float z, float w)
 {
     gl.glUniform4f(locate(gl, name), x, y, z, w);
+}
+
+osg::Matrix normalMatrix(const osg::Matrix& matrix)
+{
+    osg::Matrix linear = matrix;
+    linear.setTranslate(0.0F, 0.0F, 0.0F);
+    osg::Matrix result;
+    if (!linear.inverse(result)) {
+        return linear;
+    }
+    result.transpose();
+    return result;
 }
 
 }  // namespace nbrender

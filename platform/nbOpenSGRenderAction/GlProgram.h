@@ -65,4 +65,8 @@ private:
     std::map<std::string, GLint, std::less<>> locations;
 };
 
+/// Transposed inverse of the 3x3: it keeps normals upright under uneven scales. A singular matrix
+/// gives itself. Without the translation in either case.
+osg::Matrix normalMatrix(const osg::Matrix& matrix);
+
 }  // namespace nbrender

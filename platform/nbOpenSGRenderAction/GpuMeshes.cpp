@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "GpuMeshes.h"
 
-#include <OpenSG/OSGFieldContainerFactory.h>
+#include <nbOpenSGUtils/nbDropDead.h>
 
 #include <cstddef>
 
@@ -133,14 +133,7 @@ std::size_t GpuMeshes::getTriangles(osg::UInt32 geometryId) const
 
 void GpuMeshes::collect(Gl& gl)
 {
-    for (auto it = entries.begin(); it != entries.end();) {
-        if (osg::FieldContainerFactory::the()->getContainer(it->first) == osg::NullFC) {
-            destroy(gl, it->second);
-            it = entries.erase(it);
-        } else {
-            ++it;
-        }
-    }
+    nbDropDead(entries, [&gl](Entry& entry) { destroy(gl, entry); });
 }
 
 void GpuMeshes::release(Gl& gl)

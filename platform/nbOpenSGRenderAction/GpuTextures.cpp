@@ -2,9 +2,9 @@
 #include "GpuTextures.h"
 
 #include <nbOpenSGRenderAction/nbImageConvert.h>
+#include <nbOpenSGUtils/nbDropDead.h>
 #include <nbUtils/nbLog.h>
 
-#include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGImage.h>
 
 #include <algorithm>
@@ -62,11 +62,6 @@ const Layout* findLayout(osg::UInt32 format)
     const auto found = std::find_if(std::begin(kLayouts), std::end(kLayouts),
                                     [format](const Layout& l) { return l.format == format; });
     return found == std::end(kLayouts) ? nullptr : found;
-}
-
-bool wantsMipmaps(GLenum minFilter)
-{
-    return minFilter != GL_NEAREST && minFilter != GL_LINEAR;
 }
 
 /// GL_CLAMP mixed with a border that core profiles do not have.
@@ -186,7 +181,8 @@ GpuTexture upload(Gl& gl, const osg::ImagePtr& image, UploadOptions options)
 
 GpuTexture upload(Gl& gl, const osg::TextureChunkPtr& chunk)
 {
-    const bool wholeChain = wantsMipmaps(chunk->getMinFilter());
+    const GLenum filter = chunk->getMinFilter();
+    const bool wholeChain = filter != GL_NEAREST && filter != GL_LINEAR;
     const GpuTexture result =
         upload(gl, chunk->getImage(), UploadOptions { chunk->getFrame(), wholeChain, false });
     if (result.name != 0) {
@@ -218,20 +214,6 @@ GpuTexture upload(Gl& gl, const osg::ImagePtr& image, PixelForm form)
     return form == PixelForm::Plate
         ? uploadPlate(gl, image)
         : upload(gl, image, UploadOptions { 0, true, form == PixelForm::Premultiplied });
-}
-
-/// Deletes the textures of what is gone, or all.
-template <class Entries>
-void drop(Gl& gl, Entries& entries, bool all)
-{
-    for (auto it = entries.begin(); it != entries.end();) {
-        if (all || osg::FieldContainerFactory::the()->getContainer(it->first) == osg::NullFC) {
-            gl.glDeleteTextures(1, &it->second.texture.name);
-            it = entries.erase(it);
-        } else {
-            ++it;
-        }
-    }
 }
 
 }  // namespace
@@ -277,17 +259,22 @@ GLuint GpuTextures::getSampler(Gl& gl, bool repeatU, bool repeatV)
 
 void GpuTextures::collect(Gl& gl)
 {
-    drop(gl, chunkEntries, false);
+    const auto destroy = [&gl](Entry& entry) { gl.glDeleteTextures(1, &entry.texture.name); };
+    nbDropDead(chunkEntries, destroy);
     for (Entries& entries : imageEntries) {
-        drop(gl, entries, false);
+        nbDropDead(entries, destroy);
     }
 }
 
 void GpuTextures::release(Gl& gl)
 {
-    drop(gl, chunkEntries, true);
+    for (auto& [id, entry] : chunkEntries) {
+        gl.glDeleteTextures(1, &entry.texture.name);
+    }
     for (Entries& entries : imageEntries) {
-        drop(gl, entries, true);
+        for (auto& [id, entry] : entries) {
+            gl.glDeleteTextures(1, &entry.texture.name);
+        }
     }
     gl.glDeleteSamplers(static_cast<GLsizei>(samplers.size()), samplers.data());
     forget();

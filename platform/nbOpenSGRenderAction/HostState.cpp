@@ -35,55 +35,6 @@ constexpr GLenum kCapabilities[] = { GL_MULTISAMPLE,
                                      GL_CLIP_DISTANCE1,
                                      GL_TEXTURE_CUBE_MAP_SEAMLESS };
 
-/// Places in HostState::numbers.
-enum Number : std::size_t
-{
-    DepthFunction,
-    DepthMask,
-    BlendSource,
-    BlendDestination,
-    BlendSourceAlpha,
-    BlendDestinationAlpha,
-    BlendEquation,
-    BlendEquationAlpha,
-    CulledFace,
-    FrontFace,
-    PolygonMode,
-    PolygonModeEnd,  ///< drivers answer with one number or two
-    Alignment,
-    DrawFramebuffer,
-    ReadFramebuffer,
-    Program,
-    VertexArray,
-    ArrayBuffer,
-    Unit,
-    Texture,
-    Sampler,
-    NumberCount
-};
-
-constexpr GLenum kNames[NumberCount] = { GL_DEPTH_FUNC,
-                                         GL_DEPTH_WRITEMASK,
-                                         GL_BLEND_SRC_RGB,
-                                         GL_BLEND_DST_RGB,
-                                         GL_BLEND_SRC_ALPHA,
-                                         GL_BLEND_DST_ALPHA,
-                                         GL_BLEND_EQUATION_RGB,
-                                         GL_BLEND_EQUATION_ALPHA,
-                                         GL_CULL_FACE_MODE,
-                                         GL_FRONT_FACE,
-                                         GL_POLYGON_MODE,
-                                         0,
-                                         GL_UNPACK_ALIGNMENT,
-                                         GL_DRAW_FRAMEBUFFER_BINDING,
-                                         GL_READ_FRAMEBUFFER_BINDING,
-                                         GL_CURRENT_PROGRAM,
-                                         GL_VERTEX_ARRAY_BINDING,
-                                         GL_ARRAY_BUFFER_BINDING,
-                                         GL_ACTIVE_TEXTURE,
-                                         GL_TEXTURE_BINDING_2D,
-                                         GL_SAMPLER_BINDING };
-
 void switchTo(Gl& gl, GLenum capability, bool on)
 {
     if (on) {
@@ -98,18 +49,10 @@ void switchTo(Gl& gl, GLenum capability, bool on)
 HostState::HostState(Gl& context)
     : gl(context)
 {
-    static_assert(std::size(kCapabilities) == kCapabilityCount && NumberCount == kNumbers);
+    static_assert(std::size(kCapabilities) == kCapabilityCount);
     for (std::size_t i = 0; i < kCapabilityCount; ++i) {
         wasOn[i] = gl.glIsEnabled(kCapabilities[i]) == GL_TRUE;
         switchTo(gl, kCapabilities[i], i < kOnCount);
-    }
-    for (std::size_t i = 0; i < kNumbers; ++i) {
-        if (i == Texture) {
-            gl.glActiveTexture(GL_TEXTURE0);
-        }
-        if (kNames[i] != 0) {
-            gl.glGetIntegerv(kNames[i], &numbers[i]);
-        }
     }
     gl.glGetIntegerv(GL_VIEWPORT, viewport.data());
     gl.glGetIntegerv(GL_SCISSOR_BOX, scissor.data());
@@ -133,38 +76,48 @@ HostState::~HostState()
     restoreBindings();
 }
 
+GLuint HostState::read(GLenum name) const
+{
+    std::array<GLint, 2> numbers {};  // of the polygon mode drivers tell one or two
+    gl.glGetIntegerv(name, numbers.data());
+    return static_cast<GLuint>(numbers[0]);
+}
+
+GLuint HostState::readOfFirstUnit(GLenum name) const
+{
+    gl.glActiveTexture(GL_TEXTURE0);
+    return read(name);
+}
+
 void HostState::restoreFunctions() const
 {
-    const auto name = [this](Number number) { return static_cast<GLenum>(numbers[number]); };
-    gl.glDepthFunc(name(DepthFunction));
-    gl.glDepthMask(static_cast<GLboolean>(numbers[DepthMask]));
+    gl.glDepthFunc(depthFunction);
+    gl.glDepthMask(static_cast<GLboolean>(depthMask));
     gl.glDepthRange(depthRange[0], depthRange[1]);
-    gl.glBlendFuncSeparate(name(BlendSource), name(BlendDestination), name(BlendSourceAlpha),
-                           name(BlendDestinationAlpha));
-    gl.glBlendEquationSeparate(name(BlendEquation), name(BlendEquationAlpha));
+    gl.glBlendFuncSeparate(blendSource, blendDestination, blendSourceAlpha, blendDestinationAlpha);
+    gl.glBlendEquationSeparate(blendEquation, blendEquationAlpha);
     gl.glBlendColor(blendColor[0], blendColor[1], blendColor[2], blendColor[3]);
     gl.glColorMask(colorMask[0], colorMask[1], colorMask[2], colorMask[3]);
-    gl.glCullFace(name(CulledFace));
-    gl.glFrontFace(name(FrontFace));
-    gl.glPolygonMode(GL_FRONT_AND_BACK, name(PolygonMode));
+    gl.glCullFace(culledFace);
+    gl.glFrontFace(frontFace);
+    gl.glPolygonMode(GL_FRONT_AND_BACK, polygonMode);
     gl.glPolygonOffset(offset[0], offset[1]);
     gl.glViewport(viewport[0], viewport[1], viewport[2], viewport[3]);
     gl.glScissor(scissor[0], scissor[1], scissor[2], scissor[3]);
-    gl.glPixelStorei(GL_UNPACK_ALIGNMENT, numbers[Alignment]);
+    gl.glPixelStorei(GL_UNPACK_ALIGNMENT, static_cast<GLint>(alignment));
 }
 
 void HostState::restoreBindings() const
 {
-    const auto id = [this](Number number) { return static_cast<GLuint>(numbers[number]); };
-    gl.glBindFramebuffer(GL_DRAW_FRAMEBUFFER, id(DrawFramebuffer));
-    gl.glBindFramebuffer(GL_READ_FRAMEBUFFER, id(ReadFramebuffer));
-    gl.glUseProgram(id(Program));
-    gl.glBindVertexArray(id(VertexArray));
-    gl.glBindBuffer(GL_ARRAY_BUFFER, id(ArrayBuffer));
+    gl.glBindFramebuffer(GL_DRAW_FRAMEBUFFER, drawFramebuffer);
+    gl.glBindFramebuffer(GL_READ_FRAMEBUFFER, readFramebuffer);
+    gl.glUseProgram(program);
+    gl.glBindVertexArray(vertexArray);
+    gl.glBindBuffer(GL_ARRAY_BUFFER, arrayBuffer);
     gl.glActiveTexture(GL_TEXTURE0);
-    gl.glBindTexture(GL_TEXTURE_2D, id(Texture));
-    gl.glBindSampler(0, id(Sampler));
-    gl.glActiveTexture(id(Unit));
+    gl.glBindTexture(GL_TEXTURE_2D, texture);
+    gl.glBindSampler(0, sampler);
+    gl.glActiveTexture(unit);
 }
 
 }  // namespace nbrender

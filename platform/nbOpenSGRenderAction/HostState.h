@@ -23,15 +23,37 @@ public:
     ~HostState();
 
 private:
+    /// A number of the context, as it is when the member is made that keeps it.
+    GLuint read(GLenum name) const;
+    /// The same of texture unit 0, which becomes the active one.
+    GLuint readOfFirstUnit(GLenum name) const;
     void restoreFunctions() const;
     void restoreBindings() const;
 
     static constexpr std::size_t kCapabilityCount = 25;
-    static constexpr std::size_t kNumbers = 21;
 
     Gl& gl;
     std::array<bool, kCapabilityCount> wasOn {};
-    std::array<GLint, kNumbers> numbers {};
+    GLenum depthFunction = read(GL_DEPTH_FUNC);
+    GLuint depthMask = read(GL_DEPTH_WRITEMASK);
+    GLenum blendSource = read(GL_BLEND_SRC_RGB);
+    GLenum blendDestination = read(GL_BLEND_DST_RGB);
+    GLenum blendSourceAlpha = read(GL_BLEND_SRC_ALPHA);
+    GLenum blendDestinationAlpha = read(GL_BLEND_DST_ALPHA);
+    GLenum blendEquation = read(GL_BLEND_EQUATION_RGB);
+    GLenum blendEquationAlpha = read(GL_BLEND_EQUATION_ALPHA);
+    GLenum culledFace = read(GL_CULL_FACE_MODE);
+    GLenum frontFace = read(GL_FRONT_FACE);
+    GLenum polygonMode = read(GL_POLYGON_MODE);
+    GLuint alignment = read(GL_UNPACK_ALIGNMENT);
+    GLuint drawFramebuffer = read(GL_DRAW_FRAMEBUFFER_BINDING);
+    GLuint readFramebuffer = read(GL_READ_FRAMEBUFFER_BINDING);
+    GLuint program = read(GL_CURRENT_PROGRAM);
+    GLuint vertexArray = read(GL_VERTEX_ARRAY_BINDING);
+    GLuint arrayBuffer = read(GL_ARRAY_BUFFER_BINDING);
+    GLenum unit = read(GL_ACTIVE_TEXTURE);
+    GLuint texture = readOfFirstUnit(GL_TEXTURE_BINDING_2D);
+    GLuint sampler = readOfFirstUnit(GL_SAMPLER_BINDING);
     std::array<GLint, 4> viewport {};
     std::array<GLint, 4> scissor {};
     std::array<GLboolean, 4> colorMask {};

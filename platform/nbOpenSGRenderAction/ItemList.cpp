@@ -2,13 +2,14 @@
 #include "ItemList.h"
 
 #include <nbOpenSGExt/NodeFlags.h>
+#include <nbOpenSGExt/nbContainerId.h>
 #include <nbOpenSGRenderAction/Mesh.h>
 #include <nbOpenSGSceneplate/nbSceneplateList.h>
+#include <nbOpenSGUtils/nbDropDead.h>
+#include <nbOpenSGUtils/nbEnteredChildren.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
-#include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGMaterialGroup.h>
-#include <OpenSG/OSGSwitch.h>
 #include <OpenSG/OSGTransform.h>
 
 #include <algorithm>
@@ -106,7 +107,7 @@ bool ItemList::update(const osg::NodePtr& root)
     sortItems();
     dropCopies();
     measure();
-    forgetDeadBounds();
+    nbDropDead(boundsById);
     return true;
 }
 
@@ -135,23 +136,10 @@ void ItemList::visit(const osg::NodePtr& node, const Place& above)
     } else if (const auto geometry = osg::GeometryPtr::dcast(core); geometry != osg::NullFC) {
         addItem(node, geometry, place);
     }
-    visitChildren(node, place);
-}
-
-void ItemList::visitChildren(const osg::NodePtr& node, const Place& place)
-{
-    osg::UInt32 first = 0;
-    osg::UInt32 end = node->getNChildren();
-    const auto choice = osg::SwitchPtr::dcast(node->getCore());
-    if (choice != osg::NullFC && choice->getChoice() != osg::Switch::ALL) {
-        const osg::Int32 index = choice->getChoice();
-        const bool exists = index >= 0 && index < static_cast<osg::Int32>(end);
-        first = exists ? static_cast<osg::UInt32>(index) : 0;
-        end = exists ? first + 1 : 0;
-    }
-    for (osg::UInt32 i = first; i < end; ++i) {
-        visit(node->getChild(i), place);
-    }
+    nbForEachEnteredChild(node, [&](const osg::NodePtr& child) {
+        visit(child, place);
+        return true;
+    });
 }
 
 void ItemList::addItem(const osg::NodePtr& node, const osg::GeometryPtr& geometry,
@@ -293,8 +281,7 @@ void ItemList::dropCopies()
         if (item->handle) {
             MatrixValues place {};
             std::memcpy(place.data(), item->worldFromObject.getValues(), sizeof(MatrixValues));
-            const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(
-                osg::FieldContainerFactory::the()->getContainer(item->geometryId));
+            const auto geometry = resolveContainer<osg::GeometryPtr>(item->geometryId);
             if (!seen.emplace(item->manipulator, item->geometryId, idOf(geometry->getMaterial()),
                               place)
                      .second) {
@@ -365,15 +352,6 @@ void ItemList::forgetMoved()
         item.moved = false;
     }
     measure();
-}
-
-void ItemList::forgetDeadBounds()
-{
-    for (auto known = boundsById.begin(); known != boundsById.end();) {
-        const bool alive =
-            osg::FieldContainerFactory::the()->getContainer(known->first) != osg::NullFC;
-        known = alive ? std::next(known) : boundsById.erase(known);
-    }
 }
 
 void ItemList::sortFromBack(Order::iterator first, Order::iterator last,

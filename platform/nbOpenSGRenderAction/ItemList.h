@@ -129,7 +129,6 @@ private:
     };
 
     void visit(const osg::NodePtr& node, const Place& above);
-    void visitChildren(const osg::NodePtr& node, const Place& place);
     void addItem(const osg::NodePtr& node, const osg::GeometryPtr& geometry, const Place& place);
     void placePictures(RenderItem& item, const Place& place);
     osg::UInt64 stampOf(const RenderItem& item, osg::UInt64 geometry) const;
@@ -143,7 +142,6 @@ private:
                       const osg::Matrix& viewFromWorld) const;
     void noteMoved();
     void measure();
-    void forgetDeadBounds();
 
     std::vector<RenderItem> items;
     std::vector<DrawState> states;

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "ItemPainter.h"
 
-#include <nbOpenSGRenderAction/NormalMatrix.h>
+#include <nbOpenSGExt/nbContainerId.h>
 #include <nbOpenSGRenderAction/StandardShaders.h>
 #include <nbOpenSGRenderAction/UberMaterialBinding.h>
-
-#include <OpenSG/OSGFieldContainerFactory.h>
 
 #include <array>
 
@@ -20,11 +18,6 @@ constexpr double kHandleDepth = 0.1;
 constexpr float kUnitsPerDepthStep = 16.0F;
 constexpr GLuint kEffectBuffer = 1;
 constexpr float kPointSize = 1.0F;  ///< logical pixels
-
-osg::FieldContainerPtr resolve(osg::UInt32 id)
-{
-    return osg::FieldContainerFactory::the()->getContainer(id);
-}
 
 /// Numbers that the fragment program knows texture environments by; others count as replacing.
 GLint textureModeNumber(GLenum mode)
@@ -69,13 +62,14 @@ osg::Vec4f inView(const osg::Vec4f& plane, const osg::Matrix& viewFromWorld)
 }  // namespace
 
 ItemPainter::ItemPainter(Gl& functions, GpuMeshes& meshCache, GpuTextures& textureCache,
-                         ShaderPrograms& programCache, const FrameView& frameView, DrawCount& drawn)
+                         ShaderPrograms& programCache, const FrameView& frameView,
+                         const Frame& drawnFrame)
     : gl(functions)
     , meshes(meshCache)
     , textures(textureCache)
     , programs(programCache)
     , view(frameView)
-    , drawCount(drawn)
+    , frame(drawnFrame)
 {
     gl.glEnable(GL_DEPTH_TEST);
     gl.glEnable(GL_PROGRAM_POINT_SIZE);
@@ -102,7 +96,7 @@ ItemPainter::~ItemPainter()
 
 void ItemPainter::draw(const RenderItem& item, const ItemList& list)
 {
-    const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(resolve(item.geometryId));
+    const auto geometry = resolveContainer<osg::GeometryPtr>(item.geometryId);
     if (geometry == osg::NullFC) {
         return;
     }
@@ -282,7 +276,7 @@ void ItemPainter::setMaterial(GlProgram& program, const RenderItem& item, const 
 
 bool ItemPainter::bindTexture(const DrawState& state)
 {
-    boundChunk = osg::TextureChunkPtr::dcast(resolve(state.textureId));
+    boundChunk = resolveContainer<osg::TextureChunkPtr>(state.textureId);
     boundTexture = boundChunk == osg::NullFC ? GpuTexture() : textures.get(gl, boundChunk);
     gl.glActiveTexture(GL_TEXTURE0);
     gl.glBindTexture(GL_TEXTURE_2D, boundTexture.name);
@@ -308,7 +302,7 @@ DrawState ItemPainter::plainState(const DrawState& state)
 {
     DrawState plain = state;
     plain.lit = false;
-    const auto chunk = osg::SHLChunkPtr::dcast(resolve(state.shaderId));
+    const auto chunk = resolveContainer<osg::SHLChunkPtr>(state.shaderId);
     osg::Vec4f color;
     if (chunk != osg::NullFC && chunk->getUniformParameter("color", color)) {
         plain.diffuse = osg::Color3f(color.x(), color.y(), color.z());
@@ -356,7 +350,7 @@ GlProgram* ItemPainter::prepareMaterial(const RenderItem& item, const DrawState&
 GlProgram* ItemPainter::prepareShaderChunk(const RenderItem& item, const DrawState& state,
                                            bool lines)
 {
-    const auto chunk = osg::SHLChunkPtr::dcast(resolve(state.shaderId));
+    const auto chunk = resolveContainer<osg::SHLChunkPtr>(state.shaderId);
     GlProgram* program = chunk == osg::NullFC ? nullptr : programs.use(gl, chunk, lines);
     if (program != nullptr) {
         switchClipping(0);
@@ -377,7 +371,7 @@ void ItemPainter::drawSurfaces(const RenderItem& item, const DrawState& state, c
     }
     gl.glBindVertexArray(mesh.surfaces);
     gl.glDrawElements(GL_TRIANGLES, mesh.triangleIndexCount, GL_UNSIGNED_INT, nullptr);
-    drawCount.add(static_cast<std::size_t>(mesh.triangleIndexCount) / 3);
+    frame.drew(static_cast<std::size_t>(mesh.triangleIndexCount) / 3);
 }
 
 void ItemPainter::drawLines(const RenderItem& item, const DrawState& state, const GpuMesh& mesh)
@@ -388,7 +382,7 @@ void ItemPainter::drawLines(const RenderItem& item, const DrawState& state, cons
     if (prepareShaderChunk(item, state, true) != nullptr) {
         gl.glBindVertexArray(mesh.plainLines);
         gl.glDrawArrays(GL_LINES, 0, 2 * mesh.lineCount);
-        drawCount.add(0);
+        frame.drew(0);
         return;
     }
     constexpr auto kShape = ShaderPrograms::Shape::Line;
@@ -397,7 +391,7 @@ void ItemPainter::drawLines(const RenderItem& item, const DrawState& state, cons
         gl.glDrawArraysInstanced(GL_TRIANGLE_STRIP, 0, shaders::kLinePolygonVertices,
                                  mesh.lineCount);
         constexpr std::size_t kTriangles = shaders::kLinePolygonVertices - 2;
-        drawCount.add(kTriangles * static_cast<std::size_t>(mesh.lineCount));
+        frame.drew(kTriangles * static_cast<std::size_t>(mesh.lineCount));
     }
 }
 
@@ -410,7 +404,7 @@ void ItemPainter::drawPoints(const RenderItem& item, const DrawState& state, con
     }
     gl.glBindVertexArray(mesh.points);
     gl.glDrawArrays(GL_POINTS, 0, mesh.pointCount);
-    drawCount.add(0);
+    frame.drew(0);
 }
 
 }  // namespace nbrender

@@ -19,7 +19,7 @@ class ItemPainter
 public:
     /// @param drawn  receives what is drawn
     ItemPainter(Gl& functions, GpuMeshes& meshCache, GpuTextures& textureCache,
-                ShaderPrograms& programCache, const FrameView& frameView, DrawCount& drawn);
+                ShaderPrograms& programCache, const FrameView& frameView, const Frame& drawnFrame);
 
     /// Puts back the OpenGL state that what is drawn next relies on.
     ~ItemPainter();
@@ -64,7 +64,7 @@ private:
     GpuTextures& textures;
     ShaderPrograms& programs;
     const FrameView& view;
-    DrawCount& drawCount;
+    const Frame& frame;
     nbClipSets::Planes viewClipPlanes;  ///< of the item that is being drawn, in view space
     SurfaceSpace surfaceSpace;  ///< of the same item
     bool boundPictures = false;

@@ -5,6 +5,8 @@
 #include <OpenSG/OSGPrimitiveIterator.h>
 #include <OpenSG/OSGTriangleIterator.h>
 
+#include <boost/functional/hash.hpp>
+
 #include <algorithm>
 #include <cmath>
 #include <unordered_map>
@@ -46,20 +48,6 @@ ColorBytes readColor(const osg::GeoColorsPtr& colors, osg::Int32 index)
 
 /// Where a corner's values come from: index of position, normal, colour, texture coordinates.
 using Sources = std::array<osg::Int32, 4>;
-
-struct SourcesHash
-{
-    std::size_t operator()(const Sources& sources) const
-    {
-        constexpr std::size_t kPrime = 1099511628211ULL;
-        constexpr std::size_t kOffsetBasis = 14695981039346656037ULL;
-        std::size_t result = kOffsetBasis;
-        for (const osg::Int32 source : sources) {
-            result = (result ^ static_cast<osg::UInt32>(source)) * kPrime;
-        }
-        return result;
-    }
-};
 
 /// Collects the triangles of one geometry; corners with the same sources share a vertex.
 class TriangleCollector
@@ -158,7 +146,7 @@ private:
     osg::GeometryPtr geometry;
     Mesh& mesh;
     bool flat;
-    std::unordered_map<Sources, osg::UInt32, SourcesHash> known;
+    std::unordered_map<Sources, osg::UInt32, boost::hash<Sources>> known;
     std::vector<osg::UInt32> byPosition;
 };
 

@@ -109,28 +109,9 @@ void SceneplatePainter::update(const osg::NodePtr& root)
     });
 }
 
-void SceneplatePainter::drawBack(Gl& gl, const Frame& frame, ShaderPrograms& programs,
-                                 GpuTextures& textures)
+void SceneplatePainter::addTo(osg::ContentStamp& stamp, const Frame& frame, Side side) const
 {
-    draw(gl, frame, backQuads(frame), programs, textures);
-}
-
-void SceneplatePainter::drawFront(Gl& gl, const Frame& frame, ShaderPrograms& programs,
-                                  GpuTextures& textures)
-{
-    draw(gl, frame, frontQuads(frame), programs, textures);
-}
-
-void SceneplatePainter::addBackTo(osg::ContentStamp& stamp, const Frame& frame) const
-{
-    for (const Quad& quad : backQuads(frame)) {
-        quad.addTo(stamp);
-    }
-}
-
-void SceneplatePainter::addFrontTo(osg::ContentStamp& stamp, const Frame& frame) const
-{
-    for (const Quad& quad : frontQuads(frame)) {
+    for (const Quad& quad : quadsOf(frame, side)) {
         quad.addTo(stamp);
     }
 }
@@ -139,7 +120,7 @@ PixelBox SceneplatePainter::frontPixels(const Frame& frame) const
 {
     constexpr float kMarginPx = 2.0F;
     PixelBox box;
-    for (const Quad& quad : frontQuads(frame)) {
+    for (const Quad& quad : quadsOf(frame, Side::Front)) {
         const osg::Pnt2f far = quad.origin + quad.x + quad.y;
         const osg::Pnt2f sideX = quad.origin + quad.x;
         const osg::Pnt2f sideY = quad.origin + quad.y;
@@ -152,32 +133,26 @@ PixelBox SceneplatePainter::frontPixels(const Frame& frame) const
     return box;
 }
 
-SceneplatePainter::Quads SceneplatePainter::backQuads(const Frame& frame) const
+SceneplatePainter::Quads SceneplatePainter::quadsOf(const Frame& frame, Side side) const
 {
+    const bool isFront = side == Side::Front;
+    const std::size_t end = isFront ? plates.size() : frontBegin;
     Quads quads;
-    for (std::size_t i = 0; i < frontBegin; ++i) {
-        quads.push_back(plateQuad(frame, plates[i].plate));
-    }
-    return quads;
-}
-
-SceneplatePainter::Quads SceneplatePainter::frontQuads(const Frame& frame) const
-{
-    Quads quads;
-    for (std::size_t i = frontBegin; i < plates.size(); ++i) {
+    for (std::size_t i = isFront ? frontBegin : 0; i < end; ++i) {
         quads.push_back(plateQuad(frame, plates[i].plate));
     }
     for (const nbSceneplateList::Entry& entry : plates) {
-        if (entry.plate->getMarker() != osg::Sceneplate::NoMarker) {
+        if (isFront && entry.plate->getMarker() != osg::Sceneplate::NoMarker) {
             addMarker(quads, frame, entry.plate);
         }
     }
     return quads;
 }
 
-void SceneplatePainter::draw(Gl& gl, const Frame& frame, const Quads& quads,
-                             ShaderPrograms& programs, GpuTextures& textures)
+void SceneplatePainter::draw(Gl& gl, const Frame& frame, Side side, ShaderPrograms& programs,
+                             GpuTextures& textures) const
 {
+    const Quads quads = quadsOf(frame, side);
     GlProgram* const program = quads.empty() ? nullptr : begin(gl, frame, programs);
     if (program == nullptr) {
         return;
@@ -185,7 +160,7 @@ void SceneplatePainter::draw(Gl& gl, const Frame& frame, const Quads& quads,
     gl.glBindSampler(0, textures.getSampler(gl, false, false));
     for (const Quad& quad : quads) {
         drawQuad(gl, *program, quad, textures);
-        frame.count->add(2);
+        frame.drew(2);
     }
     end(gl);
 }

@@ -25,21 +25,24 @@ public:
     /// Looks for the plates of a tree, if it has changed; to be called once per frame.
     void update(const osg::NodePtr& root);
 
-    /// Whether drawFront has anything to draw.
+    /// Whether there is anything to draw in front of the scene.
     bool hasFront() const { return frontBegin < plates.size() || hasMarkers; }
 
-    /// Draws the plates behind the scene.
-    void drawBack(Gl& gl, const Frame& frame, ShaderPrograms& programs, GpuTextures& textures);
+    /// Which plates: those behind the scene, or those in front of it with the outlines of all
+    /// marked ones.
+    enum class Side
+    {
+        Back,
+        Front
+    };
 
-    /// Draws the plates in front of the scene, then the outlines of all marked ones.
-    void drawFront(Gl& gl, const Frame& frame, ShaderPrograms& programs, GpuTextures& textures);
+    void draw(Gl& gl, const Frame& frame, Side side, ShaderPrograms& programs,
+              GpuTextures& textures) const;
 
-    // Each adds what the operation above depends on.
+    /// Adds what draw() depends on.
+    void addTo(osg::ContentStamp& stamp, const Frame& frame, Side side) const;
 
-    void addBackTo(osg::ContentStamp& stamp, const Frame& frame) const;
-    void addFrontTo(osg::ContentStamp& stamp, const Frame& frame) const;
-
-    /// Pixels outside of which drawFront() draws nothing.
+    /// Pixels outside of which nothing is drawn in front of the scene.
     PixelBox frontPixels(const Frame& frame) const;
 
 private:
@@ -47,12 +50,9 @@ private:
 
     using Quads = std::vector<Quad>;
 
-    Quads backQuads(const Frame& frame) const;
-    Quads frontQuads(const Frame& frame) const;
+    Quads quadsOf(const Frame& frame, Side side) const;
     static Quad plateQuad(const Frame& frame, const osg::SceneplatePtr& plate);
     static void addMarker(Quads& quads, const Frame& frame, const osg::SceneplatePtr& plate);
-    static void draw(Gl& gl, const Frame& frame, const Quads& quads, ShaderPrograms& programs,
-                     GpuTextures& textures);
     /// Sets what all quads share. @return the program in use; null without one
     static GlProgram* begin(Gl& gl, const Frame& frame, ShaderPrograms& programs);
     static void end(Gl& gl);

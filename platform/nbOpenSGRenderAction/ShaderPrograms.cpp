@@ -2,10 +2,10 @@
 #include "ShaderPrograms.h"
 
 #include <nbOpenSGRenderAction/StandardShaders.h>
+#include <nbOpenSGUtils/nbDropDead.h>
 #include <nbOpenSGUtils/nbShaderHeader.h>
 #include <nbUtils/nbLog.h>
 
-#include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGShaderParameterBool.h>
 #include <OpenSG/OSGShaderParameterInt.h>
 #include <OpenSG/OSGShaderParameterMInt.h>
@@ -29,72 +29,53 @@ std::string orDefault(const std::string& text, const std::string& standard)
     return text.empty() ? standard : text;
 }
 
-/// Sets one parameter if it is of the class that the pointer type names.
-template <class ParameterPtr, class Setter>
+/// Hands a parameter's value, or its values if it is an array, to setter(count, values), if it is
+/// of one of the two classes that the pointer types name.
+template <class SinglePtr, class ArrayPtr, class Setter>
 bool setAs(const osg::ShaderParameterPtr& parameter, const Setter& setter)
 {
-    const ParameterPtr typed = ParameterPtr::dcast(parameter);
-    if (typed == osg::NullFC) {
-        return false;
+    if (const auto single = SinglePtr::dcast(parameter); single != osg::NullFC) {
+        const auto& value = single->getValue();
+        setter(1, &value);
+        return true;
     }
-    setter(typed->getValue());
-    return true;
+    const auto array = ArrayPtr::dcast(parameter);
+    if (array != osg::NullFC && !array->getValue().empty()) {
+        setter(static_cast<GLsizei>(array->getValue().size()), &array->getValue()[0]);
+    }
+    return array != osg::NullFC;
 }
 
-bool setValue(Gl& gl, const osg::ShaderParameterPtr& parameter, GLint location)
+void setValue(Gl& gl, const osg::ShaderParameterPtr& parameter, GLint location)
 {
     using namespace osg;  // NOLINT: the long list of classes below
-    return setAs<ShaderParameterVec4fPtr>(
-               parameter,
-               [&](const Vec4f& v) { gl.glUniform4f(location, v.x(), v.y(), v.z(), v.w()); }) ||
-        setAs<ShaderParameterMatrixPtr>(parameter,
-                                        [&](const Matrix& m) {
-                                            gl.glUniformMatrix4fv(location, 1, GL_FALSE,
-                                                                  m.getValues());
-                                        }) ||
-        setAs<ShaderParameterRealPtr>(parameter, [&](Real32 v) { gl.glUniform1f(location, v); }) ||
-        setAs<ShaderParameterIntPtr>(parameter, [&](Int32 v) { gl.glUniform1i(location, v); }) ||
-        setAs<ShaderParameterBoolPtr>(parameter,
-                                      [&](bool v) { gl.glUniform1i(location, v ? 1 : 0); }) ||
-        setAs<ShaderParameterVec3fPtr>(
-               parameter, [&](const Vec3f& v) { gl.glUniform3f(location, v.x(), v.y(), v.z()); }) ||
-        setAs<ShaderParameterVec2fPtr>(
-               parameter, [&](const Vec2f& v) { gl.glUniform2f(location, v.x(), v.y()); });
-}
-
-/// The numbers of an array of numbers, vectors or matrices, one after the other.
-template <class Value>
-const GLfloat* numbersOf(const osg::MField<Value>& values)
-{
-    static_assert(sizeof(Value) % sizeof(GLfloat) == 0);
-    return values.empty() ? nullptr : reinterpret_cast<const GLfloat*>(&values[0]);
-}
-
-void setArray(Gl& gl, const osg::ShaderParameterPtr& parameter, GLint location)
-{
-    using namespace osg;  // NOLINT: the long list of classes below
-    const auto count = [](const auto& v) { return static_cast<GLsizei>(v.size()); };
-    setAs<ShaderParameterMVec4fPtr>(
-        parameter, [&](const MFVec4f& v) { gl.glUniform4fv(location, count(v), numbersOf(v)); }) ||
-        setAs<ShaderParameterMMatrixPtr>(parameter,
-                                         [&](const MFMatrix& v) {
-                                             gl.glUniformMatrix4fv(location, count(v), GL_FALSE,
-                                                                   numbersOf(v));
-                                         }) ||
-        setAs<ShaderParameterMRealPtr>(
+    if (const auto flag = ShaderParameterBoolPtr::dcast(parameter); flag != NullFC) {
+        gl.glUniform1i(location, flag->getValue() ? 1 : 0);
+        return;
+    }
+    setAs<ShaderParameterVec4fPtr, ShaderParameterMVec4fPtr>(
+        parameter,
+        [&](GLsizei count, const Vec4f* v) { gl.glUniform4fv(location, count, v->getValues()); }) ||
+        setAs<ShaderParameterMatrixPtr, ShaderParameterMMatrixPtr>(
             parameter,
-            [&](const MFReal32& v) { gl.glUniform1fv(location, count(v), numbersOf(v)); }) ||
-        setAs<ShaderParameterMIntPtr>(parameter,
-                                      [&](const MFInt32& v) {
-                                          gl.glUniform1iv(location, count(v),
-                                                          v.empty() ? nullptr : &v[0]);
-                                      }) ||
-        setAs<ShaderParameterMVec3fPtr>(
+            [&](GLsizei count, const Matrix* m) {
+                gl.glUniformMatrix4fv(location, count, GL_FALSE, m->getValues());
+            }) ||
+        setAs<ShaderParameterRealPtr, ShaderParameterMRealPtr>(
             parameter,
-            [&](const MFVec3f& v) { gl.glUniform3fv(location, count(v), numbersOf(v)); }) ||
-        setAs<ShaderParameterMVec2fPtr>(parameter, [&](const MFVec2f& v) {
-            gl.glUniform2fv(location, count(v), numbersOf(v));
-        });
+            [&](GLsizei count, const Real32* v) { gl.glUniform1fv(location, count, v); }) ||
+        setAs<ShaderParameterIntPtr, ShaderParameterMIntPtr>(
+            parameter,
+            [&](GLsizei count, const Int32* v) { gl.glUniform1iv(location, count, v); }) ||
+        setAs<ShaderParameterVec3fPtr, ShaderParameterMVec3fPtr>(
+            parameter,
+            [&](GLsizei count, const Vec3f* v) {
+                gl.glUniform3fv(location, count, v->getValues());
+            }) ||
+        setAs<ShaderParameterVec2fPtr, ShaderParameterMVec2fPtr>(
+            parameter, [&](GLsizei count, const Vec2f* v) {
+                gl.glUniform2fv(location, count, v->getValues());
+            });
 }
 
 }  // namespace
@@ -162,7 +143,11 @@ GlProgram* ShaderPrograms::use(Gl& gl, const osg::SHLChunkPtr& chunk, bool lines
         return nullptr;
     }
     program.use(gl);
-    setParameters(gl, chunk, program);
+    for (const osg::ShaderParameterPtr& parameter : chunk->getParameters()) {
+        if (parameter != osg::NullFC) {
+            setValue(gl, parameter, program.locate(gl, parameter->getName()));
+        }
+    }
     return &program;
 }
 
@@ -185,29 +170,12 @@ void ShaderPrograms::build(Gl& gl, const osg::SHLChunkPtr& chunk, Entry& entry)
     }
 }
 
-void ShaderPrograms::setParameters(Gl& gl, const osg::SHLChunkPtr& chunk, GlProgram& program)
-{
-    for (const osg::ShaderParameterPtr& parameter : chunk->getParameters()) {
-        if (parameter != osg::NullFC) {
-            const GLint location = program.locate(gl, parameter->getName());
-            if (!setValue(gl, parameter, location)) {
-                setArray(gl, parameter, location);
-            }
-        }
-    }
-}
-
 void ShaderPrograms::collect(Gl& gl)
 {
-    for (auto it = entries.begin(); it != entries.end();) {
-        if (osg::FieldContainerFactory::the()->getContainer(it->first) == osg::NullFC) {
-            it->second.surface.destroy(gl);
-            it->second.line.destroy(gl);
-            it = entries.erase(it);
-        } else {
-            ++it;
-        }
-    }
+    nbDropDead(entries, [&gl](Entry& entry) {
+        entry.surface.destroy(gl);
+        entry.line.destroy(gl);
+    });
 }
 
 void ShaderPrograms::release(Gl& gl)

@@ -57,7 +57,6 @@ private:
     };
 
     static void build(Gl& gl, const osg::SHLChunkPtr& chunk, Entry& entry);
-    static void setParameters(Gl& gl, const osg::SHLChunkPtr& chunk, GlProgram& program);
 
     /// Without projected pictures, and each component with none or one of four kinds.
     static constexpr std::size_t kPlainPrograms = 32;

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "UberMaterialBinding.h"
 
-#include <nbOpenSGRenderAction/NormalMatrix.h>
+#include <nbOpenSGExt/nbContainerId.h>
 #include <nbOpenSGUberMaterial/ColorComponentSettings.h>
-
-#include <OpenSG/OSGFieldContainerFactory.h>
 
 namespace nbrender {
 
@@ -54,8 +52,7 @@ GLint flagsOf(const ProjectedPicture& picture, const GpuTexture& texture)
 GpuTexture bindPicture(Gl& gl, GpuTextures& textures, const ProjectedPicture& picture, GLuint unit)
 {
     gl.glActiveTexture(GL_TEXTURE0 + unit);
-    const auto image =
-        osg::ImagePtr::dcast(osg::FieldContainerFactory::the()->getContainer(picture.imageId));
+    const auto image = resolveContainer<osg::ImagePtr>(picture.imageId);
     // The colours of pixels that alpha hides count only where it is not alpha that covers.
     const PixelForm form =
         picture.asMask || picture.invert ? PixelForm::Plain : PixelForm::Premultiplied;

@@ -2,6 +2,7 @@
 #include "UberMaterialState.h"
 
 #include <nbOpenSGExt/nbEulerRotation.h>
+#include <nbOpenSGExt/nbIsFinite.h>
 #include <nbOpenSGExt/nbRotationMath.h>
 #include <nbOpenSGUberMaterial/UberMaterial.h>
 
@@ -15,12 +16,6 @@ namespace nbrender {
 namespace {
 
 constexpr std::size_t kMatrixSize = 16;
-
-bool isFinite(const osg::Matrix& matrix)
-{
-    const float* const values = matrix.getValues();
-    return std::all_of(values, values + kMatrixSize, [](float v) { return std::isfinite(v); });
-}
 
 /// Whether the picture says anything about the component: a colour needs colours, a transparency
 /// needs something to cover with.
@@ -50,11 +45,6 @@ osg::Matrix matrixOf(const osg::Vec3f& x, const osg::Vec3f& y, const osg::Vec3f&
         }
     }
     return matrix;
-}
-
-bool isFinite(const osg::Vec3f& vector)
-{
-    return std::isfinite(vector.x()) && std::isfinite(vector.y()) && std::isfinite(vector.z());
 }
 
 /// Whether a tile is neither without end nor without size.
@@ -93,7 +83,7 @@ bool resolveTriplanar(const osg::ColorComponentSettingsPtr& settings, ProjectedP
 {
     constexpr float kHundredth = 0.01F;
     const osg::Vec3f& rotation = settings->getTriplanarRotation();
-    if (!isFinite(rotation)) {
+    if (!nbIsFinite(rotation)) {
         return false;
     }
     // Deliberate: the angle about y runs the other way round.
@@ -183,7 +173,7 @@ ProjectedPicture resolvePicture(const osg::UberMaterialPtr& material, const char
     picture.repeatU = picture.repeatV = true;
     picture.asMask = settings->getAsMask();
     picture.invert = settings->getInvert();
-    if (!resolvePlacing(settings, picture) || !isFinite(picture.pictureFromSurface)) {
+    if (!resolvePlacing(settings, picture) || !nbIsFinite(picture.pictureFromSurface)) {
         return ProjectedPicture();
     }
     picture.imageId = image.getFieldContainerId();

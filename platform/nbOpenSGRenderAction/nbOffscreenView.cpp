@@ -165,12 +165,3 @@ QImage nbOffscreenView::render(const osg::ViewportPtr& viewport, int widthPx, in
     }
     return average;
 }
-
-QImage nbOffscreenView::readEffect()
-{
-    if (!open()) {
-        return {};
-    }
-    const CurrentContext current(*context, *surface);
-    return action.readEffect();
-}

@@ -47,9 +47,6 @@ public:
     /// @param passes  1 .. 64, 1 is render() without passes
     QImage render(const osg::ViewportPtr& viewport, int widthPx, int heightPx, int passes);
 
-    /// Effect buffer of the last picture, with alpha; null before.
-    QImage readEffect();
-
     /// The action that draws, for its settings and statistics.
     nbRenderAction& getAction() { return action; }
 

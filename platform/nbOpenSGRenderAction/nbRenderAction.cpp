@@ -11,6 +11,7 @@
 #include <QtCore/QPointer>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -26,7 +27,6 @@ constexpr int kMostCoarseness = 2;
 /// frames.
 constexpr unsigned int kFramesPerCollection = 64;
 
-using nbrender::DrawCount;
 using nbrender::Frame;
 using nbrender::FrameTargets;
 using nbrender::Gl;
@@ -58,7 +58,6 @@ struct nbRenderAction::Impl
     bool isTimed = false;
     bool isHurried = false;
     int coarseness = 0;  ///< 0: all samples; otherwise one, and pixels to a side of it
-    bool isCoarse = false;  ///< the last frame
     nbrender::PixelBox wholePixels;  ///< of a coarse frame
 
     QPointer<QOpenGLContext> context;
@@ -68,9 +67,7 @@ struct nbRenderAction::Impl
     FrameTargets coarseTargets;
     nbrender::FramePainter painter;
     nbrender::MagnifierPainter magnifier;
-    std::size_t frames = 0;
-    DrawCount count;
-    double milliseconds = 0.0;
+    Statistics statistics;
     unsigned int framesSinceCollection = 0;
     std::string lastFailure;
 };
@@ -141,7 +138,7 @@ void nbRenderAction::Impl::present(const osg::ViewportPtr& viewport, const Frame
     }
     gl->glBindFramebuffer(GL_FRAMEBUFFER, targetFramebuffer);
     gl->glViewport(0, 0, frame.widthPx, frame.heightPx);
-    if (isCoarse) {
+    if (statistics.coarse) {
         painter.drawPicture(*gl, frame, coarseTargets.getTexture(shown), GL_LINEAR);
         const nbrender::PixelBox& box = wholePixels;
         gl->glEnable(GL_SCISSOR_TEST);
@@ -151,7 +148,7 @@ void nbRenderAction::Impl::present(const osg::ViewportPtr& viewport, const Frame
     gl->glDisable(GL_SCISSOR_TEST);
     if (isLens) {
         magnifier.draw(*gl, pixelRatio, emptyArray, painter.getPrograms());
-        count.add(1);
+        frame.drew(1);
     }
 }
 
@@ -180,9 +177,9 @@ bool nbRenderAction::Impl::drawCoarsely(const osg::ViewportPtr& viewport, const 
 
 void nbRenderAction::Impl::adaptCoarseness()
 {
-    if (milliseconds > kSmoothMilliseconds) {
+    if (statistics.milliseconds > kSmoothMilliseconds) {
         coarseness = std::min(coarseness + 1, kMostCoarseness);
-    } else if (milliseconds < kFinerPart * kSmoothMilliseconds) {
+    } else if (statistics.milliseconds < kFinerPart * kSmoothMilliseconds) {
         coarseness = std::max(coarseness - 1, 0);
     }
 }
@@ -238,9 +235,12 @@ bool nbRenderAction::render(const osg::ViewportPtr& viewport, int widthPx, int h
     impl->lastFailure.clear();
     QElapsedTimer clock;
     clock.start();
-    impl->count = DrawCount();
+    Statistics& statistics = impl->statistics;
+    const Statistics former = std::exchange(statistics, {});
+    statistics.frames = former.frames + 1;
+    statistics.listBuilds = former.listBuilds;
     const Frame frame { widthPx,      heightPx,         impl->pixelRatio, impl->shiftX,
-                        impl->shiftY, impl->emptyArray, &impl->count };
+                        impl->shiftY, impl->emptyArray, &statistics };
     const bool hasCamera = viewport != osg::NullFC && viewport->getCamera() != osg::NullFC;
     const bool isLens = impl->isLensShown(viewport);
     if (isLens && hasCamera && nbrender::BackgroundPainter::hasPhotograph(viewport)) {
@@ -249,19 +249,19 @@ bool nbRenderAction::render(const osg::ViewportPtr& viewport, int widthPx, int h
         impl->bindTargets(widthPx, heightPx, error);
     }
     const bool isHurried = impl->isHurried && !impl->effectShown && !isLens && hasCamera;
-    impl->isCoarse = isHurried && impl->coarseness > 0 && impl->drawCoarsely(viewport, frame);
-    if (!impl->isCoarse) {
+    statistics.coarse = isHurried && impl->coarseness > 0 && impl->drawCoarsely(viewport, frame);
+    if (!statistics.coarse) {
         impl->painter.draw(*impl->gl, frame, viewport, impl->targets);
     }
     impl->present(viewport, frame, targetFramebuffer);
     if (impl->isTimed || isHurried) {
         impl->gl->glFinish();
     }
-    impl->milliseconds = static_cast<double>(clock.nsecsElapsed()) / kNanosecondsPerMillisecond;
+    statistics.milliseconds =
+        static_cast<double>(clock.nsecsElapsed()) / kNanosecondsPerMillisecond;
     if (isHurried) {
         impl->adaptCoarseness();
     }
-    ++impl->frames;
     impl->collect();
     return true;
 }
@@ -269,12 +269,6 @@ bool nbRenderAction::render(const osg::ViewportPtr& viewport, int widthPx, int h
 void nbRenderAction::setSamples(int samples)
 {
     impl->samples = std::max(samples, 1);
-}
-
-int nbRenderAction::getSamples() const
-{
-    const int made = impl->targets.getSamples();
-    return made > 0 ? made : impl->samples;
 }
 
 void nbRenderAction::setPixelRatio(float ratio)
@@ -315,11 +309,6 @@ void nbRenderAction::setTimed(bool on)
     impl->isTimed = on;
 }
 
-QImage nbRenderAction::readEffect()
-{
-    return impl->gl == nullptr ? QImage() : impl->targets.readEffect(*impl->gl);
-}
-
 void nbRenderAction::release()
 {
     if (impl->gl != nullptr && QOpenGLContext::currentContext() == impl->context) {
@@ -334,16 +323,7 @@ void nbRenderAction::release()
 
 nbRenderAction::Statistics nbRenderAction::getStatistics() const
 {
-    Statistics result;
-    result.frames = impl->frames;
-    result.items = impl->count.items;
-    result.drawn = impl->count.inView;
-    result.reused = impl->count.reused;
-    result.listBuilds = impl->painter.getListBuilds();
+    Statistics result = impl->statistics;
     result.meshes = impl->painter.getMeshCount();
-    result.drawCalls = impl->count.calls;
-    result.triangles = impl->count.triangles;
-    result.coarse = impl->isCoarse;
-    result.milliseconds = impl->milliseconds;
     return result;
 }

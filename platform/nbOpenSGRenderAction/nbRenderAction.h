@@ -6,8 +6,6 @@
 #include <OpenSG/OSGBaseTypes.h>
 #include <OpenSG/OSGViewport.h>
 
-#include <QtGui/QImage>
-
 #include <cstddef>
 #include <memory>
 #include <string>
@@ -106,8 +104,6 @@ public:
 
     /// Samples per pixel, 1 to what the driver has; 8 at the start.
     void setSamples(int samples);
-    /// The number that the driver gave for the last frame, before the first one the wish.
-    int getSamples() const;
 
     /// Device pixels per logical pixel, > 0; 1 at the start. Lines and points follow it.
     void setPixelRatio(float ratio);
@@ -139,10 +135,6 @@ public:
     /// Whether render() waits until the driver has done everything, so that its time is told
     /// wholly; it does not at the start.
     void setTimed(bool on);
-
-    /// The last frame's effect buffer with its alpha, rows from the top; null before the first
-    /// frame.
-    QImage readEffect();
 
     /// Gives everything on the graphics card back; the next frame makes it anew.
     void release();

@@ -203,6 +203,15 @@ protected:
         return picture;
     }
 
+    /// The effect buffer instead of the colours, black where there is none.
+    QImage redrawEffect()
+    {
+        view->getAction().showEffectBuffer(true);
+        const QImage effect = redraw();
+        view->getAction().showEffectBuffer(false);
+        return effect;
+    }
+
     /// Colour at a place in world units, for a camera on the z axis.
     static QColor at(const QImage& picture, float x, float y)
     {
