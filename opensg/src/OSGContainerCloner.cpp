@@ -6,23 +6,22 @@
 #include <OpenSG/OSGOwnedFields.h>
 
 #include <algorithm>
+#include <sstream>
 
 namespace osg {
 
 ContainerCloner::ContainerCloner(const std::string& shareTypes)
 {
-    const char* const separators = ", \t\n";
-    std::string::size_type begin = shareTypes.find_first_not_of(separators);
-    while (begin != std::string::npos) {
-        const std::string::size_type end = shareTypes.find_first_of(separators, begin);
-        const std::string name = shareTypes.substr(begin, end - begin);
+    std::string words(shareTypes);
+    std::replace(words.begin(), words.end(), ',', ' ');
+    std::istringstream names(words);
+    for (std::string name; names >> name;) {
         const FieldContainerType* const type = FieldContainerFactory::the()->findType(name.c_str());
         if (type != nullptr) {
             sharedTypes.push_back(type);
         } else {
             SWARNING << "deepClone: no type is called " << name << std::endl;
         }
-        begin = shareTypes.find_first_not_of(separators, end);
     }
 }
 

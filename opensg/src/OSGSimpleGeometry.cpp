@@ -42,11 +42,7 @@ void addRectangle(detail::ShapeBuilder& shape, const Rectangle& rectangle)
     }
     const UInt32 width = rectangle.columns + 1u;
     for (UInt32 row = 0; row < rectangle.rows; ++row) {
-        shape.beginPrimitive(GL_TRIANGLE_STRIP);
-        for (UInt32 column = 0; column < width; ++column) {
-            shape.addIndex(first + (row + 1) * width + column);
-            shape.addIndex(first + row * width + column);
-        }
+        shape.addStrip(width, first + (row + 1) * width, first + row * width, 1);
     }
 }
 

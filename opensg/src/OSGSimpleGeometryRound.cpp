@@ -53,11 +53,7 @@ void addSide(ShapeBuilder& shape, const Frustum& frustum)
                             Vec2f(1.0F - Real32(i) / Real32(frustum.sides), top ? 1.0F : 0.0F));
         }
     }
-    shape.beginPrimitive(GL_TRIANGLE_STRIP);
-    for (UInt32 i = 0; i <= frustum.sides; ++i) {
-        shape.addIndex(frustum.sides + 1u + i);
-        shape.addIndex(i);
-    }
+    shape.addStrip(frustum.sides + 1u, frustum.sides + 1u, 0, 1);
 }
 
 /// A ring from the last angle to the first; the top polygon takes it so, the bottom one in reverse.
@@ -231,11 +227,7 @@ GeometryPtr makeTorusGeo(Real32 innerRadius, Real32 outerRadius, UInt16 sides, U
         }
     }
     for (UInt32 side = 0; side < sides; ++side) {
-        shape.beginPrimitive(GL_TRIANGLE_STRIP);
-        for (UInt32 ring = 0; ring <= rings; ++ring) {
-            shape.addIndex(ring * width + side);
-            shape.addIndex(ring * width + side + 1);
-        }
+        shape.addStrip(rings + 1u, side, side + 1, width);
     }
     return shape.build();
 }
@@ -289,11 +281,7 @@ GeometryPtr makeLatLongSphereGeo(UInt16 latres, UInt16 longres, Real32 radius)
         }
     }
     for (UInt32 row = 0; row < latres; ++row) {
-        shape.beginPrimitive(GL_TRIANGLE_STRIP);
-        for (UInt32 column = 0; column < width; ++column) {
-            shape.addIndex((row + 1) * width + column);
-            shape.addIndex(row * width + column);
-        }
+        shape.addStrip(width, (row + 1) * width, row * width, 1);
     }
     return shape.build();
 }

@@ -36,7 +36,7 @@ void ShapeBuilder::beginPrimitive(GLenum type)
 void ShapeBuilder::addIndex(UInt32 index)
 {
     indices->getField().push_back(index);
-    countIndex();
+    ++lengths->getField().back();
 }
 
 void ShapeBuilder::addIndex(UInt32 index, const Vec2f& texCoords)
@@ -45,12 +45,16 @@ void ShapeBuilder::addIndex(UInt32 index, const Vec2f& texCoords)
     indices->getField().push_back(index);
     indices->getField().push_back(texCoords2->getSize());
     texCoords2->getField().push_back(texCoords);
-    countIndex();
+    ++lengths->getField().back();
 }
 
-void ShapeBuilder::countIndex()
+void ShapeBuilder::addStrip(UInt32 count, UInt32 first, UInt32 second, UInt32 step)
 {
-    ++lengths->getField().back();
+    beginPrimitive(GL_TRIANGLE_STRIP);
+    for (UInt32 i = 0; i < count; ++i) {
+        addIndex(first + i * step);
+        addIndex(second + i * step);
+    }
 }
 
 GeometryPtr ShapeBuilder::build() const

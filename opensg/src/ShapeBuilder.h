@@ -28,14 +28,18 @@ public:
     /// For shapes with separate texture coordinates, which are added with the index.
     void addIndex(UInt32 index, const Vec2f& texCoords);
 
+    /// A strip of triangles between two lines of vertices.
+    /// @param count  vertices of a line
+    /// @param first, second  where the lines begin
+    /// @param step   from one vertex of a line to its next
+    void addStrip(UInt32 count, UInt32 first, UInt32 second, UInt32 step);
+
     UInt32 getVertexCount() const { return positions->getSize(); }
 
     /// The geometry with the default material; count 0. To be called once.
     GeometryPtr build() const;
 
 private:
-    void countIndex();
-
     GeoPTypesUI8Ptr types = GeoPTypesUI8::create();
     GeoPLengthsUI32Ptr lengths = GeoPLengthsUI32::create();
     GeoPositions3fPtr positions = GeoPositions3f::create();
