@@ -17,7 +17,7 @@ namespace nbrender {
 class ItemPainter
 {
 public:
-    /// @param drawn  receives what is drawn
+    /// @param drawnFrame  receives what is drawn
     ItemPainter(Gl& functions, GpuMeshes& meshCache, GpuTextures& textureCache,
                 ShaderPrograms& programCache, const FrameView& frameView, const Frame& drawnFrame);
 
