@@ -85,9 +85,10 @@ void PerspectiveMatchPanel::addPhotograph(QFormLayout& form)
     });
     remove = addButton(buttons, new QPushButton(this), "matchRemove", tr("Remove"),
                        [this] { run("match.setPhotograph", QString()); });
-    fit = addChoice("match.fit",
-                    { { "height", tr("Height of the view") }, { "width", tr("Width of the view") } },
-                    "match.fitted");
+    fit =
+        addChoice("match.fit",
+                  { { "height", tr("Height of the view") }, { "width", tr("Width of the view") } },
+                  "match.fitted");
     form.addRow(tr("Fills"), fit);
     form.addRow(tr("Over the models"),
                 addSlider(

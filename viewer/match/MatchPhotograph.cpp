@@ -1,12 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/match/MatchPhotograph.h"
 
-#include "viewer/loading/PictureFile.h"
-
 #include <nbOpenSGUberViewport/nbEdgeSnap.h>
 #include <nbOpenSGUtils/nbEdit.h>
-
-#include <algorithm>
 
 namespace viewer {
 
@@ -31,27 +27,12 @@ void MatchPhotograph::set(const osg::ImagePtr& image)
     view.update();
 }
 
-osg::ImagePtr MatchPhotograph::image() const
-{
-    return view.getUberViewport()->getPhotograph();
-}
-
-QString MatchPhotograph::name() const
-{
-    return pictureName(image());
-}
-
 nbPhotographFit MatchPhotograph::place() const
 {
     return image() == osg::NullFC
         ? nbPhotographFit()
         : nbPhotographFit::of(image()->getWidth(), image()->getHeight(), view.getWidth(),
                               view.getHeight(), !fitsWidth());
-}
-
-bool MatchPhotograph::fitsWidth() const
-{
-    return view.getUberCamera()->getHorizontalSizing();
 }
 
 void MatchPhotograph::setFitsWidth(bool on)
@@ -70,11 +51,6 @@ void MatchPhotograph::cover(double opacity)
         viewport->setPhotographVeil(wanted);
         view.update();
     }
-}
-
-double MatchPhotograph::unitPx() const
-{
-    return std::max(fitsWidth() ? view.getWidth() : view.getHeight(), 1);
 }
 
 osg::Line2D MatchPhotograph::onEdge(const osg::Line2D& line, bool movesFirst,

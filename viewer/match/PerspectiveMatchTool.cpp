@@ -20,6 +20,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace viewer {
 namespace {
@@ -154,11 +155,7 @@ void PerspectiveMatchTool::setVeil(double opacity)
 
 void PerspectiveMatchTool::showLines(bool on)
 {
-    if (linesShown == on) {
-        return;
-    }
-    linesShown = on;
-    if (!active) {
+    if (std::exchange(linesShown, on) == on || !active) {
         return;
     }
     if (on) {
@@ -344,9 +341,7 @@ void PerspectiveMatchTool::update()
     if (cameraMoved) {
         cameraMoved = false;
         stage.cameraMoved();
-        const auto result = camera().checkPerspectiveMatch();
-        if (active && cameraTurned &&
-            (result == nbCameraTypes::Solved || result == nbCameraTypes::SolvedWithKeptFov)) {
+        if (active && cameraTurned && nbCameraTypes::isSolved(camera().checkPerspectiveMatch())) {
             stage.holdView(true);
         }
         cameraTurned = false;
