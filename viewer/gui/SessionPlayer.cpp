@@ -54,7 +54,7 @@ QString textOfKey(int key)
     return key < Qt::Key_Escape ? QString(QChar(key).toLower()) : QString();
 }
 
-Qt::KeyboardModifiers modifierOfKey(int key)
+Qt::KeyboardModifier modifierOfKey(int key)
 {
     for (const ModifierKey& each : kModifierKeys) {
         if (key == each.key) {
@@ -257,21 +257,17 @@ bool SessionPlayer::playKey(const SessionStep& step, QString& error)
     }
     // Modifiers of a step end with it; only a modifier key of its own is held on.
     heldModifiers = before;
-    const Qt::KeyboardModifiers own = modifierOfKey(key);
-    if (step.type == Type::KeyPress) {
-        heldModifiers |= own;
-    } else if (step.type == Type::KeyRelease) {
-        heldModifiers &= ~own;
+    if (step.type != Type::Key) {
+        heldModifiers.setFlag(modifierOfKey(key), step.type == Type::KeyPress);
     }
     return true;
 }
 
 void SessionPlayer::sendKey(QEvent::Type type, int key)
 {
-    const Qt::KeyboardModifiers own = modifierOfKey(key);
     // As in events from the window system, a modifier key's own flag is set from its press on.
-    const Qt::KeyboardModifiers modifiers =
-        type == QEvent::KeyPress ? heldModifiers | own : heldModifiers & ~own;
+    Qt::KeyboardModifiers modifiers = heldModifiers;
+    modifiers.setFlag(modifierOfKey(key), type == QEvent::KeyPress);
     QKeyEvent event(type, key, modifiers, textOfKey(key));
     QCoreApplication::sendEvent(&view, &event);
 }
