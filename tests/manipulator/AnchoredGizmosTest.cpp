@@ -310,9 +310,9 @@ TEST(TriplanarTextureManipulator, TheBoxInTheMiddleScalesAllAHundredTimesMoreGen
         EXPECT_TRUE(at.scene.send("process", Pnt2f(411, 287)));
         const float factor = 1.0F + 0.01F * ((from + 10.0F) / from - 1.0F);
         EXPECT_EQ(at.last().message.names(), (Names { "XScale", "YScale", "ZScale" }));
-        expectPair(at.last(), "XScale", Vec2f(0.5F, 0.125F) * factor, 1e-5F);
-        expectPair(at.last(), "YScale", Vec2f(0.25F, 0.1F) * factor, 1e-5F);
-        expectPair(at.last(), "ZScale", Vec2f(0.2F, 2) * factor, 1e-5F);
+        expectPair(at.last(), "XScale", Vec2f(0.5F, 0.125F) * factor, 2e-5F);
+        expectPair(at.last(), "YScale", Vec2f(0.25F, 0.1F) * factor, 2e-5F);
+        expectPair(at.last(), "ZScale", Vec2f(0.2F, 2) * factor, 2e-5F);
     }
 }
 

@@ -246,6 +246,12 @@ TEST_F(PickerScene, TreesOfAnyDepthArePicked)
     EXPECT_EQ(pickAt(400.0f, 300.0f), cube);
     nbNodeUtils::setName(cube, "cube");  // compares the tree with what was noted of it
     EXPECT_EQ(nameAt(400.0f, 300.0f), "cube");
+    // From below, because a real OpenSG destroys trees by recursion.
+    for (osg::NodePtr at = cube; at != top;) {
+        const osg::NodePtr leaf = at;
+        at = leaf->getParent();
+        at->subChild(leaf);
+    }
 }
 
 TEST_F(PickerScene, AgreesWithTheSceneGraphsOwnActionOnARandomScene)

@@ -167,7 +167,7 @@ std::vector<KeptPictureTest::Change> KeptPictureTest::materialChanges()
         { "item that is drawn late", [this] { setDiffuse(materialOf(show.late), nextColor()); } },
         { "image of a texture",
           [this] {
-              const osg::ImagePtr image = nbImageConvert::toImage(
+              osg::ImagePtr image = nbImageConvert::toImage(
                   quarters(nextColor(), nextColor(), nextColor(), nextColor()));
               const nbEdit edit(show.texture, osg::FieldBits::AllFields);
               show.texture->setImage(image);

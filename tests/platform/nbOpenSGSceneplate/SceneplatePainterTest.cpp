@@ -134,8 +134,8 @@ TEST_F(nbSceneplatePainterTest, ClearRimsOfALogoStayClean)
 
 TEST_F(nbSceneplatePainterTest, FollowsEditsOfPlateAndImage)
 {
-    osg::NodePtr node;
-    draw(group({ node = front({ 100.f, 100.f, 40.f, 40.f }, kRed4) }));
+    const osg::NodePtr node = front({ 100.f, 100.f, 40.f, 40.f }, kRed4);
+    draw(group({ node }));
     const osg::SceneplatePtr plate = plateOf(node);
     const auto edited = [&](const std::function<void()>& change) {
         {
@@ -159,8 +159,8 @@ TEST_F(nbSceneplatePainterTest, FollowsEditsOfPlateAndImage)
 TEST_F(nbSceneplatePainterTest, EffectBufferAndSceneBoundsDoNotKnowPlates)
 {
     const osg::NodePtr below = square(4.f, unlit(kBlue));
-    osg::NodePtr plate;
-    draw(group({ plate = front({ 100.f, 100.f, 100.f, 100.f }, kRed4) }));
+    const osg::NodePtr plate = front({ 100.f, 100.f, 100.f, 100.f }, kRed4);
+    draw(group({ plate }));
     const nbEdit edit(plate, osg::Node::ChildrenFieldMask);
     plate->addChild(below);
 

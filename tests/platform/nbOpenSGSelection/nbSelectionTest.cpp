@@ -3,7 +3,7 @@
 
 #include <nbOpenSGSelection/nbSelection.h>
 
-#include <OpenSG/OSGRefPtr.h>
+#include <OpenSG/OSGNodePtr.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -46,7 +46,7 @@ inline osg::SHLChunkPtr shaderChunk()
 inline osg::TextureChunkPtr textureChunk()
 {
     const osg::TextureChunkPtr chunk = osg::TextureChunk::create();
-    const osg::ImagePtr image = nbImageConvert::toImage(colorQuarters());
+    osg::ImagePtr image = nbImageConvert::toImage(colorQuarters());
     const nbEdit edit(chunk, osg::FieldBits::AllFields);
     chunk->setImage(image);
     chunk->setEnvMode(GL_MODULATE);
