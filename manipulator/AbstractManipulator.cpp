@@ -50,11 +50,7 @@ void AbstractManipulator::deactivate(ManipulatorInteractionContext* /*ctx*/)
 bool AbstractManipulator::hover(ManipulatorInteractionContext* ctx, const std::string& hint)
 {
     const bool handled = hoverManipulator(ctx, hint);
-    if (handled) {
-        disablePreselection();
-    } else {
-        reenablePreselection();
-    }
+    handled ? disablePreselection() : reenablePreselection();
     return handled;
 }
 

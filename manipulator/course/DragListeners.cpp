@@ -3,9 +3,9 @@
 
 #include <nbUtils/nbLog.h>
 
-#include <algorithm>
 #include <deque>
 #include <exception>
+#include <map>
 #include <utility>
 
 namespace nbec::manipulator {
@@ -14,7 +14,6 @@ namespace {
 
 struct Entry
 {
-    int number = 0;
     DragListener listener;
     bool hasBegun = false;  ///< has heard of the drag that runs
 };
@@ -43,23 +42,17 @@ void tell(const DragListener& listener, const DragEvent& event)
 
 struct DragListeners::State
 {
-    std::vector<Entry> entries;
+    std::map<int, Entry> entries;  ///< by their numbers, so as they came
     std::deque<DragEvent> noted;
     DragEvent current;  ///< which is being delivered
     int lastNumber = 0;
     bool isDelivering = false;
 
-    std::vector<Entry>::iterator find(int number)
-    {
-        return std::find_if(entries.begin(), entries.end(),
-                            [number](const Entry& each) { return each.number == number; });
-    }
-
     void deliverTo(int number)
     {
-        const auto entry = find(number);
-        if (entry != entries.end() && takes(*entry, current.phase)) {
-            const DragListener listener = entry->listener;  // which may take itself away
+        const auto entry = entries.find(number);
+        if (entry != entries.end() && takes(entry->second, current.phase)) {
+            const DragListener listener = entry->second.listener;  // which may take itself away
             tell(listener, current);
         }
     }
@@ -71,8 +64,8 @@ struct DragListeners::State
             current = std::move(noted.front());
             noted.pop_front();
             std::vector<int> numbers;
-            for (const Entry& each : entries) {
-                numbers.push_back(each.number);
+            for (const auto& [number, entry] : entries) {
+                numbers.push_back(number);
             }
             for (const int number : numbers) {
                 deliverTo(number);
@@ -97,15 +90,13 @@ DragListeners::~DragListeners()
 
 int DragListeners::add(DragListener listener)
 {
-    state->entries.push_back({ ++state->lastNumber, std::move(listener) });
+    state->entries[++state->lastNumber].listener = std::move(listener);
     return state->lastNumber;
 }
 
 void DragListeners::remove(int number)
 {
-    if (const auto entry = state->find(number); entry != state->entries.end()) {
-        state->entries.erase(entry);
-    }
+    state->entries.erase(number);
 }
 
 bool DragListeners::isEmpty() const

@@ -12,17 +12,11 @@ namespace {
 nbValueExpression::Measure measureOf(DragParameters::Kind kind)
 {
     using Kind = DragParameters::Kind;
-    switch (kind) {
-    case Kind::Offset:
-    case Kind::HalfSizes:
-    case Kind::Length:
-        return nbValueExpression::Measure::Length;
-    case Kind::Angle:
-    case Kind::Turns:
-        return nbValueExpression::Measure::Angle;
-    default:
-        return nbValueExpression::Measure::Number;
-    }
+    const bool isAngle = kind == Kind::Angle || kind == Kind::Turns;
+    const bool isLength = kind == Kind::Offset || kind == Kind::HalfSizes || kind == Kind::Length;
+    return isAngle ? nbValueExpression::Measure::Angle
+        : isLength ? nbValueExpression::Measure::Length
+                   : nbValueExpression::Measure::Number;
 }
 
 std::optional<double> valueOf(const QString& text, DragParameters::Kind kind)
