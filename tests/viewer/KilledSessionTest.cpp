@@ -107,7 +107,7 @@ TEST_F(KilledSession, LosesNoMoreThanTheTimeBetweenTwoWritingsAndLeavesNothingBr
             }
         }
         program.kill();
-        ASSERT_TRUE(program.waitForFinished());
+        ASSERT_TRUE(program.waitForFinished(kPatienceMs));
 
         Recovery recovery(QDir(folder.filePath("killed")));
         const std::optional<Recovery::Kept> kept = recovery.find();
