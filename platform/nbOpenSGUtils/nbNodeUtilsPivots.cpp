@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <nbOpenSGExt/nbIsFinite.h>
 #include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbEditRecorder.h>
 #include <nbOpenSGUtils/nbTransformMath.h>
@@ -43,14 +42,14 @@ bool setPivot(const osg::NodePtr& node, const osg::Vec3f& pivot, bool keepInPlac
               const PivotField& field)
 {
     const osg::Transform3DPtr core = transformOf(node);
-    if (core == osg::NullFC || !nbIsFinite(pivot)) {
+    if (core == osg::NullFC || !nbTransformMath::isFinite(pivot)) {
         return false;
     }
     const osg::Transform3D& transform = *core;
     const osg::Vec3f translation = keepInPlace
         ? compensated(core, (transform.*field.get)(), pivot, field.compensation)
         : transform.getTranslation();
-    if (!nbIsFinite(translation)) {
+    if (!nbTransformMath::isFinite(translation)) {
         return false;
     }
     if (nbEditRecorder* const recorder = nbEditRecorder::get(); recorder != nullptr) {

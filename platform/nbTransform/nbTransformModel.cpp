@@ -5,7 +5,6 @@
 #include <nbKernelServices/nbScopedUndo.h>
 #include <nbKernelServices/nbTransformTable.h>
 #include <nbKernelServices/nbUndoService.h>
-#include <nbOpenSGExt/nbIsFinite.h>
 #include <nbOpenSGExt/nbSameBits.h>
 #include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodePermission.h>
@@ -24,6 +23,7 @@
 
 using nbtransform::Faults;
 using nbtransform::Subject;
+using nbTransformMath::isFinite;
 using osg::Transform3D;
 using osg::Transform3DPtr;
 using osg::Vec3d;
@@ -124,7 +124,7 @@ osg::UInt32 editAll(const char* title, osg::UInt32 count, nbTransformModel::Valu
         if (node == osg::NullFC || !mayTransform(node)) {
             continue;
         }
-        if (!nbIsFinite(value.second)) {
+        if (!isFinite(value.second)) {
             ++faults.notFinite;
             continue;
         }
@@ -164,7 +164,7 @@ bool moveInWorld(const Subject& subject, const nbTransformMath::Frame& frame, co
                                                       : subject.core->getTranslation();
         const bool isStart = nbSameValues(value, Vec3f(frame.toOuter(Vec3d(start))));
         translation = isStart ? start : Vec3f(frame.toInner(Vec3d(value)));
-        if (!nbIsFinite(translation)) {
+        if (!isFinite(translation)) {
             ++faults.notFinite;
             return false;
         }

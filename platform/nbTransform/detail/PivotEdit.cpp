@@ -2,12 +2,12 @@
 #include "PivotEdit.h"
 
 #include <nbOpenSGExt/nbEulerRotation.h>
-#include <nbOpenSGExt/nbIsFinite.h>
 #include <nbOpenSGExt/nbSameBits.h>
 #include <nbOpenSGUtils/nbEdit.h>
 
 #include <string>
 
+using nbTransformMath::isFinite;
 using osg::Transform3D;
 using osg::Vec3d;
 using osg::Vec3f;
@@ -98,8 +98,8 @@ bool movePivot(const PivotKind& kind, const Subject& subject, const nbTransformM
     // Edits of a kind leave the rotation as it was at the start.
     const nbTransformState moved =
         withPivotAt(kind, base.state, nbTransformMath::wholeRotation(*subject.core), frame, place);
-    if (!nbIsFinite(moved.translation) || !nbIsFinite(moved.rotatePivot) ||
-        !nbIsFinite(moved.scalePivot)) {
+    if (!isFinite(moved.translation) || !isFinite(moved.rotatePivot) ||
+        !isFinite(moved.scalePivot)) {
         ++faults.notFinite;
         return false;
     }
