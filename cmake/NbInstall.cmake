@@ -28,6 +28,8 @@ install(TARGETS nbManipulator nbplatform EXPORT nbManipulatorTargets
 set_target_properties(nbManipulator PROPERTIES OUTPUT_NAME nbManipulator${NB_SUFFIX})
 set_target_properties(nbplatform PROPERTIES OUTPUT_NAME nbplatform${NB_SUFFIX})
 set_target_properties(nbManipulator nbplatform PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${NBM_SOVERSION})
+# A system OpenSG may lie where the loader does not look.
+set_target_properties(nbManipulator nbplatform PROPERTIES INSTALL_RPATH_USE_LINK_PATH ON)
 # In /usr the loader finds the libraries, and packages may name no path.
 if(NOT CMAKE_INSTALL_PREFIX STREQUAL "/usr")
     set_target_properties(nbManipulator nbplatform PROPERTIES INSTALL_RPATH "$ORIGIN")
@@ -50,7 +52,7 @@ if(NBMANIPULATOR_OPENSG STREQUAL "system")
             FILES_MATCHING PATTERN "*.h" PATTERN "*Bundled.h" EXCLUDE)
     install(FILES ${PROJECT_SOURCE_DIR}/opensg/SystemOpenSG.cmake DESTINATION ${NBM_PACKAGE} COMPONENT development)
     get_filename_component(NBM_OPENSG_LIBRARIES ${OPENSG_SYSTEM_LIBRARY} DIRECTORY)
-    set(NBM_PC_LIBS " -L${NBM_OPENSG_LIBRARIES} -lOSGSystem -lOSGBase")
+    set(NBM_PC_LIBS " -L${NBM_OPENSG_LIBRARIES} -Wl,-rpath,${NBM_OPENSG_LIBRARIES} -lOSGSystem -lOSGBase")
     set(NBM_PC_CFLAGS " -DNBMANIPULATOR_SYSTEM_OPENSG -isystem ${OPENSG_INCLUDE_DIR} -isystem ${OPENSG_INCLUDE_DIR}/OpenSG -Wno-narrowing -Wno-deprecated")
 else()
     install(DIRECTORY ${PROJECT_SOURCE_DIR}/opensg/include/ ${PROJECT_SOURCE_DIR}/opensg/glue/
@@ -98,6 +100,7 @@ if(NBMANIPULATOR_VIEWER)
         file(RELATIVE_PATH NBM_LIBRARIES_FROM_PROGRAM /${CMAKE_INSTALL_BINDIR} /${CMAKE_INSTALL_LIBDIR})
         set_target_properties(nbviewer PROPERTIES INSTALL_RPATH "$ORIGIN/${NBM_LIBRARIES_FROM_PROGRAM}")
     endif()
+    set_target_properties(nbviewer PROPERTIES INSTALL_RPATH_USE_LINK_PATH ON)
     install(TARGETS nbviewer RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT viewer)
     install(TARGETS nbmodelreader RUNTIME DESTINATION ${CMAKE_INSTALL_LIBEXECDIR}/nbviewer COMPONENT viewer)
     install(DIRECTORY ${PROJECT_SOURCE_DIR}/viewer/models ${PROJECT_SOURCE_DIR}/viewer/sessions
