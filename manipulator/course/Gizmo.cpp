@@ -46,8 +46,7 @@ int Gizmo::detect(interaction::Picker* picker)
         ? pickHandle(picker,
                      [this](const osg::NodePtr& part) { return rankSeen(handles, part, View()); })
         : osg::NodePtr();
-    const int handle = handles.find(hit);
-    return handle != 0 && nbNodeUtils::hasParent(hit, root.get()) ? handle : 0;
+    return nbNodeUtils::hasParent(hit, root.get()) ? handles.find(hit) : 0;
 }
 
 bool Gizmo::hover(interaction::Picker* picker)
@@ -90,13 +89,8 @@ bool Gizmo::start(interaction::Picker* picker)
     } else if (picker != nullptr && hasTarget()) {
         armed = grabBeside(grabbedPoint);
     }
-    if (rules.isGrabbedLit) {
-        handles.light(armed, mode);
-    }
-    if (armed == 0) {
-        return false;
-    }
-    if (rules.isPreparedAtStart && !begin(View())) {
+    handles.light(rules.isGrabbedLit ? armed : 0, mode);
+    if (armed == 0 || (rules.isPreparedAtStart && !begin(View()))) {
         return false;
     }
     grabbed = true;
@@ -141,9 +135,9 @@ void Gizmo::beganAnew(const View& view)
     if (const HandleRow* const row = armedRow(); row != nullptr) {
         what.handleName = row->name;
         what.action = row->action;
-    }
-    if (const HandleRow* const row = handles.findRow(armed); row != nullptr) {
-        beginOverlay(*row, view);
+        if (row == handles.findRow(armed)) {
+            beginOverlay(*row, view);
+        }
     }
     if (!listeners.isEmpty()) {
         what.targets = editedNodes();

@@ -25,14 +25,10 @@ constexpr std::array<void (Planar::*)(), 13> kPlanarCalls = { &Planar::activateT
                                                               &Planar::updateManipulator,
                                                               &Planar::updateManipulatorPlane };
 constexpr std::array<void (Planar::*)(bool), 8> kPlanarSwitches = {
-    &Planar::setGrabsPicture,
-    &Planar::setKeepAspectRatio,
-    &Planar::setUseTextureScale,
-    &Planar::setUseObjectScale,
-    &Planar::setUseObjectTranslation,
-    &Planar::setApplyProjectionRotationToTranslation,
-    &Planar::setZScaleVisible,
-    &Planar::showZScaleValue
+    &Planar::setGrabsPicture,         &Planar::setKeepAspectRatio,
+    &Planar::setUseTextureScale,      &Planar::setUseObjectScale,
+    &Planar::setUseObjectTranslation, &Planar::setApplyProjectionRotationToTranslation,
+    &Planar::setZScaleVisible,        &Planar::showZScaleValue
 };
 constexpr std::array<void (Triplanar::*)(), 3> kTriplanarCalls = {
     &Triplanar::activateUniversalManipulator, &Triplanar::activateRotateManipulator,
