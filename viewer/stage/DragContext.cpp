@@ -51,6 +51,9 @@ bool DragContext::start(InteractionManager* manager, const InteractionEvent& eve
     isDragged = ManipulatorInteractionContext::triggerEvent(manager, event);
     if (isDragged) {
         grabbed = getPicker() != nullptr ? nbNodeUtils::getName(getPicker()->getHitNode()) : "";
+        if (grabbed.empty()) {
+            grabbed = "picture";  // beside all handles nothing else can be grabbed
+        }
         // The first title in a step is the step's.
         if (const QString title = titles ? titles(grabbed) : QString(); !title.isEmpty()) {
             const nbScopedUndo titled(title);

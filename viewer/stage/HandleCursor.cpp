@@ -25,7 +25,7 @@ struct ActionRow
     const char* text;
 };
 
-constexpr std::array<ActionRow, 24> kActions { {
+constexpr std::array<ActionRow, 25> kActions { {
     { "xaShape", Action::MoveAlong, QT_TRANSLATE_NOOP("viewer", "Move along x") },
     { "yaShape", Action::MoveAlong, QT_TRANSLATE_NOOP("viewer", "Move along y") },
     { "zaShape", Action::MoveAlong, QT_TRANSLATE_NOOP("viewer", "Move along z") },
@@ -54,6 +54,7 @@ constexpr std::array<ActionRow, 24> kActions { {
     { "scaleX", Action::ScaleAll, QT_TRANSLATE_NOOP("viewer", "Scale from an edge") },
     { "scaleY", Action::ScaleAll, QT_TRANSLATE_NOOP("viewer", "Scale from an edge") },
     { "scaleZPlaneShape", Action::ScaleAll, QT_TRANSLATE_NOOP("viewer", "Scale the depth") },
+    { "picture", Action::MoveInPlane, QT_TRANSLATE_NOOP("viewer", "Drag the picture") },
 } };
 
 /// Null for an unknown handle.

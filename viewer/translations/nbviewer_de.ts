@@ -740,6 +740,10 @@
         <source>the picture does not lie so that this could be done</source>
         <translation>das Bild liegt nicht so, dass das möglich wäre</translation>
     </message>
+    <message>
+        <source>Drag the picture</source>
+        <translation>Bild ziehen</translation>
+    </message>
 </context>
 <context>
     <name>viewer::AboutBox</name>

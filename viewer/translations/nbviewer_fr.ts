@@ -740,6 +740,10 @@
         <source>the picture does not lie so that this could be done</source>
         <translation>l’image n’est pas posée de façon à permettre cela</translation>
     </message>
+    <message>
+        <source>Drag the picture</source>
+        <translation>Faire glisser l&apos;image</translation>
+    </message>
 </context>
 <context>
     <name>viewer::AboutBox</name>

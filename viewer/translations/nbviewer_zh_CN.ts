@@ -738,6 +738,10 @@
         <source>the picture does not lie so that this could be done</source>
         <translation>图片的放置方式不允许此操作</translation>
     </message>
+    <message>
+        <source>Drag the picture</source>
+        <translation>拖动图片</translation>
+    </message>
 </context>
 <context>
     <name>viewer::AboutBox</name>
