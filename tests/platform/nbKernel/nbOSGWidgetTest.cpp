@@ -149,18 +149,3 @@ TEST(nbOSGWidget, TellsItsObserverNoMoreThanNeeded)
     EXPECT_THAT(observer.cursors, ElementsAre(Qt::CrossCursor, Qt::ArrowCursor));
 }
 
-TEST(nbOSGWidget, GivesEverythingBack)
-{
-    nbScenegraph::getWorldRoot();
-    osg::UInt32 ids[3];
-    {
-        nbOSGWidget widget;
-        widget.resize(10, 10);
-        ids[0] = widget.getUberCamera().getFieldContainerId();
-        ids[1] = widget.getViewport().getFieldContainerId();
-        ids[2] = widget.getUberCamera()->getInternalParentNode().getFieldContainerId();
-    }
-    for (const osg::UInt32 id : ids) {
-        EXPECT_EQ(osg::FieldContainerFactory::the()->getContainer(id), osg::NullFC);
-    }
-}

@@ -73,27 +73,6 @@ QLineF moved(const QLineF& line, int coordinate, double way)
     return QLineF(values[0], values[1], values[2], values[3]);
 }
 
-TEST(nbPerspectiveSolver, ThreeAxesAreFittedTogetherAndAverageNoise)
-{
-    Studio studio(3);
-    double errorOfAll = 0.0;
-    double errorOfTwo = 0.0;
-    const PerspectiveAim aim = threeQuarterAim();
-    for (int i = 0; i < 200; ++i) {
-        PerspectiveProblem problem = threeQuarterProblem();
-        for (QLineF& line : problem.lines) {
-            for (int coordinate = 0; coordinate < 4; ++coordinate) {
-                line = moved(line, coordinate, studio.between(-kHalfPixel, kHalfPixel));
-            }
-        }
-        errorOfAll += angleDeg(nbPerspectiveSolver::solve(problem).aim, aim);
-        problem.type = nbCameraTypes::XZLines;
-        errorOfTwo += angleDeg(nbPerspectiveSolver::solve(problem).aim, aim);
-    }
-
-    EXPECT_LT(errorOfAll, 0.8 * errorOfTwo);
-}
-
 TEST(nbPerspectiveSolver, ErrorsAreAsLargeAsTheQualitySays)
 {
     for (const TypeRow& row : kTypeRows) {

@@ -107,18 +107,6 @@ TEST_F(nbUndoServiceTest, UndoAndRedoAreRefusedWithinGroupsAndScopes)
     EXPECT_TRUE(undo->redo());
 }
 
-TEST_F(nbUndoServiceTest, ALostStopEndsTheGroupWithTheNextOne)
-{
-    undo->beginGroup();
-    moveTo(1.f);
-    undo->beginGroup();
-    moveTo(2.f);
-    undo->endGroup();
-    undo->endGroup();
-
-    EXPECT_EQ(2, undo->getStack()->count());
-}
-
 TEST_F(nbUndoServiceTest, EndsWithinAScopeWaitForTheScope)
 {
     undo->beginGroup();

@@ -218,43 +218,6 @@ TEST_F(nbdPerspectiveMatchTest, ALineOfKnownLengthTellsTheCamerasPlaceAndTheScal
     EXPECT_TRUE(isSamePlace(camera->getPose(), placed));
 }
 
-TEST_F(nbdPerspectiveMatchTest, AGroupIsOneStepOrNoneAndCanBeTakenBack)
-{
-    stepAside();
-    const CameraPose startPose = camera->getPose();
-    const QLineF startLine = match.getXLine1();
-
-    undo->beginGroup();
-    for (int i = 0; i < 20; ++i) {
-        dragLine(0.001);
-    }
-    undo->endGroup();
-    EXPECT_EQ(undo->getStack()->count(), 1);
-    EXPECT_TRUE(undo->undo());
-    EXPECT_TRUE(isSamePlace(camera->getPose(), startPose));
-    EXPECT_TRUE(undo->redo());
-
-    // There and back again in a drag.
-    const CameraPose solvedPose = camera->getPose();
-    const QLineF solvedLine = match.getXLine1();
-    undo->beginGroup();
-    node.beginMatchDrag();
-    dragLine(0.05);
-    match.setXLine1(nbQRPCConverter::fromLine2D(nbQRPCConverter::toLine2D(solvedLine)));
-    node.updateFromPerspectiveMatch();
-    node.endMatchDrag();
-    undo->endGroup();
-    EXPECT_EQ(undo->getStack()->count(), 1);
-    EXPECT_TRUE(isSamePlace(camera->getPose(), solvedPose));
-
-    undo->undo();
-    undo->beginGroup();
-    dragLine(0.05);
-    undo->cancelGroup();
-    EXPECT_TRUE(isSamePlace(camera->getPose(), startPose));
-    EXPECT_TRUE(isSameLine(match.getXLine1(), startLine));
-}
-
 // Found by fuzzing: a camera that a listener destroys is told of no more.
 TEST_F(nbdPerspectiveMatchTest, AListenerMayDestroyTheCamera)
 {

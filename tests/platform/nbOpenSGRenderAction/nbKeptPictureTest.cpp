@@ -4,7 +4,6 @@
 #include "tests/platform/support/Showcase.h"
 
 #include <functional>
-#include <random>
 
 namespace {
 
@@ -111,15 +110,6 @@ protected:
     std::vector<Change> materialChanges();
     std::vector<Change> placeChanges();
     std::vector<Change> viewChanges();
-
-    std::vector<Change> allChanges()
-    {
-        std::vector<Change> all = handleChanges();
-        for (const auto& more : { materialChanges(), placeChanges(), viewChanges() }) {
-            all.insert(all.end(), more.begin(), more.end());
-        }
-        return all;
-    }
 
     QColor nextColor()
     {
@@ -304,25 +294,6 @@ TEST_F(KeptPictureTest, EveryOtherChangeIsSeenInTheNextPicture)
             compare(std::string("highlight after ") + change.name);
         }
     }
-}
-
-TEST_F(KeptPictureTest, PicturesAreTheSameAfterAnyOrderOfChanges)
-{
-    constexpr int kChanges = 300;
-    const std::vector<Change> all = allChanges();
-    const std::vector<Change> handles = handleChanges();
-    std::mt19937 random(7);
-    std::string history;
-    std::size_t used = 0;
-    for (int i = 0; i < kChanges && !HasFailure(); ++i) {
-        const std::vector<Change>& choice = random() % 4 == 0 ? all : handles;
-        const Change& change = choice[random() % choice.size()];
-        change.make();
-        history += std::string(", ") + change.name;
-        compare(history);
-        used += reused() > 0 ? 1 : 0;
-    }
-    EXPECT_GT(used, static_cast<std::size_t>(kChanges / 3));
 }
 
 TEST_F(KeptPictureTest, EffectBufferAndSamplesChangeNothing)

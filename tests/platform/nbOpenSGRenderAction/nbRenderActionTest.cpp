@@ -72,19 +72,6 @@ TEST_F(nbRenderActionTest, MaterialGroupBelowAManipulatorKeepsColors)
     EXPECT_EQ(at(draw(group({ handles(2, 1) })), 0.f, 0.f), kRed) << "the group's key comes first";
 }
 
-TEST_F(nbRenderActionTest, HandleShowsThroughABoxBeforeIt)
-{
-    const osg::NodePtr handle =
-        square(0.5f, with(with(unlit(kGreen, 64015), blendChunk()), alwaysChunk()));
-    const osg::NodePtr box = placed(colored(osg::makeBox(1.f, 1.f, 1.f, 1, 1, 1), unlit(kRed)),
-                                    osg::Vec3f(0.f, 0.f, 2.f));
-
-    const QImage picture = draw(group({ manipulator({ handle }), box }));
-
-    EXPECT_EQ(at(picture, 0.f, 0.f), kGreen);
-    EXPECT_EQ(at(picture, 0.4f, 0.4f), kRed);
-}
-
 TEST_F(nbRenderActionTest, HandlesHideEachOtherByDepthFromBothSides)
 {
     // A cone before a part of a ring, as a gizmo has them: own copies in two passes, chunks

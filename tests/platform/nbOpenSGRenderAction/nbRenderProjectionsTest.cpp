@@ -132,38 +132,6 @@ TEST_F(nbRenderProjectionsTest, TriplanarPictureMovesAgainstTheOffsetAndTurnsWit
                  "counter-clockwise about z");
 }
 
-TEST_F(nbRenderProjectionsTest, TriplanarOffsetsShiftAlongTheObjectsAxesHoweverTheFrameIsTurned)
-{
-    setKind(Settings::TriplanarProjection);
-    setTriplanarSize(2.f);
-    const osg::NodePtr root = wall();
-    const osg::Vec3f turns[] = { { 0.f, 0.f, 0.5f * kPi },
-                                 { 0.f, 0.5f * kPi, 0.f },
-                                 { 0.5f * kPi, 0.f, 0.f },
-                                 { 0.3f, 0.4f, 0.5f } };
-    for (const osg::Vec3f& turn : turns) {
-        edit([&turn](Settings& s) {
-            s.setTriplanarRotation(turn);
-            s.setTriplanarOffsetU(osg::Vec3f());
-            s.setTriplanarOffsetV(osg::Vec3f());
-        });
-        const QImage before = draw(root).copy();
-        // What drags of the arrows of x by 0.5 and of y by -0.25 send.
-        edit([](Settings& s) {
-            s.setTriplanarOffsetU(osg::Vec3f(0.0025f, -0.005f, -0.005f));
-            s.setTriplanarOffsetV(osg::Vec3f(0.f, 0.f, 0.0025f));
-        });
-        const QImage after = redraw();
-        int alike = 0;
-        for (float x = -1.05f; x < 1.2f; x += 0.3f) {
-            for (float y = -1.05f; y < 1.2f; y += 0.3f) {
-                alike += at(after, x + 0.5f, y - 0.25f) == at(before, x, y) ? 1 : 0;
-            }
-        }
-        EXPECT_GE(alike, 58) << "of 64, turned by " << turn;
-    }
-}
-
 TEST_F(nbRenderProjectionsTest, TriplanarProjectionsAreSeenFromTheirAxes)
 {
     setKind(Settings::TriplanarProjection);
@@ -234,13 +202,6 @@ TEST_F(nbRenderProjectionsTest, TriplanarSizesAreTheWorldsAlongTheObjectsAxes)
           { -0.4f, 1.05f, kGreen },
           { 1.f, 0.5f, kBlue } },
         "uneven scale");
-
-    // A group's material is measured along the group's axes.
-    const osg::NodePtr moved = placed(osg::makePlane(4.f, 4.f, 1, 1), { 0.7f, 0.7f, 0.f });
-    expectColors(draw(transformed(materialGroup(picture.material.get(), moved), { 0.f, 0.f, 0.f },
-                                  { 0.f, 0.f, 180.f }, { 3.f, 3.f, 3.f })),
-                 { { -0.5f, -0.5f, kRed }, { -1.5f, -0.5f, kGreen }, { 0.5f, -0.5f, kGreen } },
-                 "a group's material");
 
     // A slope of 1 in 3 that the scale makes one of 45 degrees.
     setOneColorPerAxis();

@@ -63,19 +63,6 @@ protected:
     }
 };
 
-TEST_F(nbSceneplatePainterTest, UnturnedPlateCoversExactlyItsPixels)
-{
-    const QImage picture = draw(group({ front({ 70.f, 45.f, 100.f, 50.f }, kRed4) }));
-
-    EXPECT_EQ(count(picture, kRed), 100 * 50);
-    EXPECT_EQ(count(picture, kBlack), kSize * kSize - 100 * 50);
-    EXPECT_EQ(picture.pixelColor(20, 20), kRed);
-    EXPECT_EQ(picture.pixelColor(119, 69), kRed);
-    EXPECT_EQ(picture.pixelColor(19, 20), kBlack);
-    EXPECT_EQ(picture.pixelColor(120, 69), kBlack);
-    EXPECT_EQ(picture.pixelColor(119, 70), kBlack);
-}
-
 TEST_F(nbSceneplatePainterTest, LiesBeforeOrBehindTheSceneAndBelowHandles)
 {
     const PlatePx all { 100.f, 100.f, 200.f, 200.f };
@@ -112,24 +99,6 @@ TEST_F(nbSceneplatePainterTest, AlphaAndOpacityMixWithWhatIsBehind)
         at(draw(group({ transparent(0.5f), square(4.f, unlit(kGreen)) })), 0.f, 0.f);
     EXPECT_NEAR(faint.red(), 64, 2);
     EXPECT_NEAR(faint.green(), 191, 2);
-}
-
-TEST_F(nbSceneplatePainterTest, ClearRimsOfALogoStayClean)
-{
-    // Clear pixels are black; enlarged, the white next to them must not get a dark rim.
-    QImage logo(8, 8, QImage::Format_ARGB32);
-    logo.fill(Qt::transparent);
-    for (int y = 0; y < 8; ++y) {
-        for (int x = 0; x < 4; ++x) {
-            logo.setPixelColor(x, y, Qt::white);
-        }
-    }
-    const QImage picture =
-        draw(group({ makePlate({ 100.f, 100.f, 160.f, 160.f }, kSize, kRed4,
-                               [&](const auto& plate) { setImage(plate, logo); }),
-                     square(4.f, unlit(Qt::white)) }));
-
-    EXPECT_EQ(count(picture, Qt::white), kSize * kSize);
 }
 
 TEST_F(nbSceneplatePainterTest, FollowsEditsOfPlateAndImage)

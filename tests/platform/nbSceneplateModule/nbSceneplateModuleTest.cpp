@@ -219,26 +219,6 @@ TEST_F(nbSceneplateModuleTest, ValuesAreAbsoluteFromTheStartOfTheGroup)
     EXPECT_EQ(stepCount(), 4) << "outside of a group each is a change of its own";
 }
 
-TEST_F(nbSceneplateModuleTest, SeveralPlatesTurnAndScaleAboutTheCentreOfTheirFrame)
-{
-    const NodePtr a = add(-0.2f, 0.f);
-    const NodePtr b = add(0.2f, 0.f);
-    // Anchored elsewhere, but at (0, 0.1) from the centre of this view.
-    const NodePtr c = add(0.f, 0.f);
-    nbSceneplateEditing::edit({ c }, "place", [](osg::Sceneplate& plate) {
-        plate.setAnchor(Sceneplate::TopRight);
-        plate.setPosition(Vec2f(-800.f / 1200.f, -0.4f));
-    });
-    select({ a, b, c });
-
-    // The frame reaches from -0.05 to 0.15 in y: its centre is (0, 0.05).
-    change(2.f, { 0.1f, 0.f }, 90.f);
-
-    expectPlace(a, 0.1f + 0.1f, 0.05f - 0.4f, 2.f, 90.f);
-    expectPlace(b, 0.1f + 0.1f, 0.05f + 0.4f, 2.f, 90.f);
-    expectPlace(c, -800.f / 1200.f + 0.1f - 0.1f, -0.4f - 0.05f, 2.f, 90.f);
-}
-
 TEST_F(nbSceneplateModuleTest, DeletedPlatesLeaveTheSelectionAndComeBackWithUndo)
 {
     const NodePtr a = add(0.f, 0.f);
@@ -341,21 +321,3 @@ TEST_F(nbSceneplateModuleTest, PlatesAreAlignedDistributedMovedAndDuplicatedAsOn
     EXPECT_EQ(nbSceneplateEditing::getStack().size(), 3U);
 }
 
-TEST_F(nbSceneplateModuleTest, ANewAnchorLeavesThePlateInPlace)
-{
-    const NodePtr a = add(0.1f, 0.2f);
-    const osg::SceneplatePtr plate = platetest::plateOf(a);
-    const osg::Pnt2f place = nbSceneplateLayout::centre(plate, 800, 600);
-
-    nbSceneplateEditing::setAnchor({ a }, Sceneplate::TopLeft, 800, 600);
-
-    EXPECT_NEAR(nbSceneplateLayout::centre(plate, 800, 600).x(), place.x(), 1e-3f);
-    EXPECT_NEAR(nbSceneplateLayout::centre(plate, 800, 600).y(), place.y(), 1e-3f);
-    EXPECT_NEAR(nbSceneplateLayout::centre(plate, 1600, 600).x(), place.x(), 1e-3f)
-        << "now it follows the left edge";
-    nbSceneplateEditing::rename(a, "Title");
-    undo->undo();
-    EXPECT_EQ(nbNodeUtils::getName(a), "");
-    undo->undo();
-    EXPECT_EQ(plate->getAnchor(), Sceneplate::Centre);
-}
