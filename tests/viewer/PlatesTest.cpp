@@ -46,19 +46,7 @@ protected:
         return names;
     }
 
-    QPointF centre()
-    {
-        const QJsonArray place = value("plates.centre").toArray();
-        return { place.at(0).toDouble(), place.at(1).toDouble() };
-    }
-
     QColor colorAt(int x, int y) { return picture().pixelColor(x, y); }
-
-    void expectCentre(double x, double y)
-    {
-        EXPECT_NEAR(centre().x(), x, 1e-3);
-        EXPECT_NEAR(centre().y(), y, 1e-3);
-    }
 };
 
 TEST_F(Plates, TheToolTakesTurnsWithTheGizmoAndKeepsItsSelection)

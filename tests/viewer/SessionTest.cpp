@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/replay/Session.h"
 
-#include <QJsonDocument>
-
 #include <gtest/gtest.h>
 
 namespace viewer {
@@ -11,36 +9,6 @@ namespace {
 QByteArray withSteps(const char* steps)
 {
     return QByteArray(R"({"session": 1, "size": [640, 480], "steps": [)") + steps + "]}";
-}
-
-TEST(Session, IsReadAsItWasWritten)
-{
-    const QByteArray text = R"({
-    "session": 1,
-    "size": [801, 603],
-    "camera": {"from": [1.5, -2.25, 3], "at": [0, 0, 0], "up": [0, 1, 0], "pivot": [0.5, 0, 0], "fov": 45, "orthographic": true},
-    "selection": "Knot",
-    "manipulator": "universal",
-    "steps": [
-        {"type": "press", "at": {"handle": "xaShape", "offset": [2.5, -1]}, "button": "right", "modifiers": ["ctrl", "shift"]},
-        {"type": "wheel", "at": {"world": [1, 2, 3]}, "delta": -240, "after": 40},
-        {"type": "checkpoint", "name": "over x", "screenshot": true, "expect": {"hover": "xaShape", "nodes": {"Knot": {"rotation": [0, 45, -1.5]}}, "orthographic": false, "tolerance": 0.5, "undoSteps": 2, "values": {"plates.count": 1}}},
-        {"type": "move", "at": {"by": [3, -4.5]}},
-        {"type": "command", "command": "plates.addText", "value": {"size": 0.25, "text": "Title"}}
-    ]
-}
-)";
-    QString error;
-    const std::optional<Session> read = parseSession(text, error);
-
-    ASSERT_TRUE(read) << error.toStdString();
-    ASSERT_EQ(read->steps.size(), 5U);
-    EXPECT_EQ(read->steps[0].modifiers, Qt::ShiftModifier | Qt::ControlModifier);
-    EXPECT_EQ(read->steps[0].at.offsetPx, QPointF(2.5, -1.0));
-    EXPECT_EQ(read->steps[1].at.world[2], 3.0F);
-    EXPECT_FALSE(read->steps[2].expectation.selection);
-    EXPECT_EQ((*read->steps[2].expectation.nodes[0].rotationDeg)[2], -1.5);
-    EXPECT_EQ(read->steps[3].at.kind, SessionTarget::Kind::Pointer);
 }
 
 TEST(Session, SaysWhatIsWrongAndWhere)

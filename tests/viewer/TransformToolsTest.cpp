@@ -119,29 +119,6 @@ TEST_F(TransformTools, ADragIsOneStepThatCanBeTakenBackOnceItIsOver)
     EXPECT_FALSE(action("undo")->isEnabled()) << "steps of a scene that is gone";
 }
 
-TEST_F(TransformTools, EscAndTheRightButtonTakeADragBack)
-{
-    const osg::Vec3f before = translationOf("Knot");
-    drag("yaShape", 0.0, -10.0);
-    play({ key("Esc") });
-    moveBy(0.0, -10.0);
-    letGo();
-    EXPECT_EQ(translationOf("Knot"), before);
-    EXPECT_FALSE(action("undo")->isEnabled());
-    EXPECT_FALSE(action("redo")->isEnabled());
-
-    drag("yaShape", 0.0, -10.0);
-    send(QEvent::MouseButtonPress, position, Qt::RightButton, Qt::LeftButton | Qt::RightButton);
-    send(QEvent::MouseButtonRelease, position, Qt::RightButton, Qt::LeftButton);
-    letGo();
-    EXPECT_EQ(translationOf("Knot"), before);
-
-    // At once again, before a picture was drawn.
-    drag("yaShape", 0.0, -10.0);
-    EXPECT_NE(translationOf("Knot"), before);
-    letGo();
-}
-
 TEST_F(TransformTools, ValuesAreShownOverTheViewAndInTheStatusLine)
 {
     action("gizmoTranslate")->trigger();

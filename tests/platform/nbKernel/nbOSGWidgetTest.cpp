@@ -2,7 +2,6 @@
 #include <nbKernel/nbOSGWidget.h>
 #include <nbKernel/nbScenegraph.h>
 
-#include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGLine.h>
 
 #include <gmock/gmock.h>
@@ -148,4 +147,3 @@ TEST(nbOSGWidget, TellsItsObserverNoMoreThanNeeded)
     widget.setCursor(Qt::ArrowCursor);
     EXPECT_THAT(observer.cursors, ElementsAre(Qt::CrossCursor, Qt::ArrowCursor));
 }
-

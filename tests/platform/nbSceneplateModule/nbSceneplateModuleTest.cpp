@@ -320,4 +320,3 @@ TEST_F(nbSceneplateModuleTest, PlatesAreAlignedDistributedMovedAndDuplicatedAsOn
     EXPECT_EQ(platetest::plateOf(right)->getPosition(), Vec2f(0.4f, -0.25f));
     EXPECT_EQ(nbSceneplateEditing::getStack().size(), 3U);
 }
-
