@@ -88,21 +88,6 @@ TYPED_TEST(Gizmos, OnlyNodesOfTheOwnTreeWithExactNamesAreHandles)
 
 // == Grab and stop
 
-TYPED_TEST(Gizmos, AGrabHidesTheOthersAndAStopShowsThemAgain)
-{
-    const Traits& traits = this->kTraits;
-    const auto shows = [this](const char* name) { return isShown(this->node(name)); };
-    ASSERT_TRUE(this->press());
-    EXPECT_TRUE(shows(traits.handle));
-    EXPECT_FALSE(shows(traits.other));
-    EXPECT_EQ(this->isLit(traits.handle), traits.hasGrabbedLit);
-    EXPECT_TRUE(this->step());
-    EXPECT_TRUE(this->step());
-    EXPECT_TRUE(this->say("stop"));
-    EXPECT_TRUE(shows(traits.other));
-    EXPECT_FALSE(this->isLit(traits.handle));
-}
-
 TYPED_TEST(Manipulators, ADragBeginsWithTheFirstStepThatItsKindHas)
 {
     const std::vector<float> before = this->edited();

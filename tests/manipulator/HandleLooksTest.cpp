@@ -2,7 +2,6 @@
 // What hosts may change of how handles look: fading, palettes, the overlay of drags.
 #include "manipulator/course/HandleFading.h"
 #include "manipulator/handles/HandlePalette.h"
-#include "tests/manipulator/support/AllocationCount.h"
 #include "tests/manipulator/support/AnyManipulator.h"
 #include "tests/manipulator/support/HandleScene.h"
 
@@ -61,6 +60,12 @@ Triple labOf(const osg::Color3f& colour, const Rows& vision)
         f[i] = part > 216.0 / 24389 ? std::cbrt(part) : (24389.0 / 27 * part + 16) / 116;
     }
     return { 116 * f[1] - 16, 500 * (f[0] - f[1]), 200 * (f[1] - f[2]) };
+}
+
+float transparency(const osg::NodePtr& node)
+{
+    const auto core = osg::GeometryPtr::dcast(node->getCore());
+    return osg::SimpleMaterialPtr::dcast(core->getMaterial())->getTransparency();
 }
 
 }  // namespace
@@ -152,10 +157,6 @@ TEST(HandleFades, OfARingTheHalfBehindIsDim)
     ASSERT_TRUE(setHandleFading(fading));
     at.activate(Transform::ManipulatorMode::Rotate);
     const osg::NodePtr ring = partsOf(at.handle("rxShape"))[0];
-    const auto transparency = [](const osg::NodePtr& node) {
-        const auto core = osg::GeometryPtr::dcast(node->getCore());
-        return osg::SimpleMaterialPtr::dcast(core->getMaterial())->getTransparency();
-    };
     for (const Pnt3f& eye : { Pnt3f(3, 4, 8), Pnt3f(-3, 4, -8), Pnt3f(0, -9, 3) }) {
         at.scene.lookFrom(eye);
         Transform::updateAllManipulators();
@@ -188,8 +189,7 @@ TEST(HandleFades, HandlesSeenEndOnFadeAndCannotBeGrabbed)
     ASSERT_TRUE(setHandleFading(fading));
     at.activate(Transform::ManipulatorMode::TranslateRotate);
     const auto transparencyOf = [&at](const char* name) {
-        const auto core = osg::GeometryPtr::dcast(partsOf(at.handle(name))[0]->getCore());
-        return osg::SimpleMaterialPtr::dcast(core->getMaterial())->getTransparency();
+        return transparency(partsOf(at.handle(name))[0]);
     };
     const auto lookAlongZ = [&at](float sine) {
         at.scene.lookFrom(Pnt3f(10 * sine, 0, 10 * std::sqrt(1 - sine * sine)));
@@ -235,49 +235,9 @@ TYPED_TEST(HandleLooks, TheOverlayIsThereWhileSomethingIsDragged)
     EXPECT_EQ(points(), 0U);
 }
 
-TYPED_TEST(HandleLooks, TheOverlayAllocatesNothingInAStep)
-{
-    const auto allocationsOfSteps = [this] {
-        EXPECT_TRUE(this->press() && this->step() && this->step() && this->step());
-        const std::size_t before = allocationCount();
-        for (int i = 0; i < 20; ++i) {
-            this->step();
-        }
-        const std::size_t made = allocationCount() - before;
-        this->gizmo->cancelDrag();
-        return made;
-    };
-    ASSERT_TRUE(this->drag());
-    allocationsOfSteps();
-    const std::size_t without = allocationsOfSteps();
-    setDragOverlayShown(true);
-    allocationsOfSteps();
-    EXPECT_EQ(allocationsOfSteps(), without);
-}
-
 template <class Gizmo>
 class TurnOverlay : public HandleLooks<Gizmo>
-{
-protected:
-    bool pressRing(const char* name)
-    {
-        this->gizmo->update(true);
-        const osg::NodePtr ring = partsOf(this->node(name))[0];
-        const auto positions = osg::GeometryPtr::dcast(ring->getCore())->getPositions();
-        for (osg::UInt32 i = 0; i < positions->getSize(); ++i) {
-            Pnt3f world = positions->getValue(i);
-            ring->getToWorld().multMatrixPnt(world);
-            const View view;
-            const Vec2f px = view.project(world);
-            this->point(Pnt2f(px.x(), static_cast<float>(view.getHeight()) - px.y()));
-            if (this->say("hover") &&
-                nbNodeUtils::getName(this->stage.picker.getHitNode()) == name) {
-                return this->say("start");
-            }
-        }
-        return false;
-    }
-};
+{ };
 
 using KindsThatTurn = testing::Types<Transform, Planar, Triplanar, UV>;
 TYPED_TEST_SUITE(TurnOverlay, KindsThatTurn, );
@@ -290,7 +250,7 @@ TYPED_TEST(TurnOverlay, ThePresentLegOfASectorPointsToThePointer)
         this->gizmo->activateRotateManipulator();
     }
     setDragOverlayShown(true);
-    ASSERT_TRUE(this->pressRing(kHasThree ? "rzShape" : "rotateShape"));
+    ASSERT_TRUE(this->press(kHasThree ? "rzShape" : "rotateShape"));
     const View view;
     const auto legs = [this] {
         for (const osg::NodePtr& part : partsOf(this->gizmo->getVisualisation())) {

@@ -43,20 +43,10 @@ Pnt3f at(float x, float y, float z = 0)
 
 }  // namespace
 
-TEST(PlanarDrag, OffsetsAnglesAndFactorsRunInTheObjectsUnits)
+TEST(PlanarDrag, AnglesAndFactorsRunInTheObjectsUnits)
 {
     const Pnt3f from = at(1, 1, 0.5F);
     const Pnt3f to = at(3, -1, 2);
-
-    const std::pair<Active, Vec3f> offsets[] = { { Active::TranslateX, { 2, 0, 0 } },
-                                                 { Active::TranslateY, { 0, -2, 0 } },
-                                                 { Active::TranslateZ, { 0, 0, 1.5F } },
-                                                 { Active::TranslateXY, { 2, -2, 0 } } };
-
-    for (const auto& [handle, offset] : offsets) {
-        const ProjectionDrag drag = beginDrag(turnedFrame(), handle, kSight);
-        EXPECT_TRUE(isNear(offsetBetween(drag, from, to), offset));
-    }
 
     const ProjectionDrag ring = beginDrag(turnedFrame(), Active::Rotate, kSight);
     const ProjectionDrag plain = beginDrag(ProjectionFrame(), Active::Rotate, kSight);

@@ -5,7 +5,7 @@
 
 namespace nbec::manipulator::test {
 
-using Gizmo = PlanarTextureManipulator;
+constexpr float kTolerance = 1e-4F;
 
 TEST(PlanarTextureManipulator, HidesTheHandlesOfDepthOnDemand)
 {
@@ -92,14 +92,6 @@ TEST(PlanarTextureManipulator, KnowsWhatItIsConnectedTo)
     check(planar.gizmo, planar.material.get());
 }
 
-namespace {
-
-using Gizmo = PlanarTextureManipulator;
-
-constexpr float kTolerance = 1e-4F;
-
-}  // namespace
-
 TEST(PlanarTextureManipulator, EndsAPauseThatIsOwed)
 {
     PlanarScene planar;
@@ -108,9 +100,9 @@ TEST(PlanarTextureManipulator, EndsAPauseThatIsOwed)
     planar.gizmo.setNode(osg::NodePtr());
     EXPECT_EQ(planar.takeNames(), kResume);
     {
-        Gizmo other;
+        PlanarTextureManipulator other;
         other.setNode(planar.scene.node);
-        const Gizmo copy(other);
+        const PlanarTextureManipulator copy(other);
         planar.log.clear();
     }
     EXPECT_EQ(planar.takeNames(), kResume) << "once, not for the copy too";

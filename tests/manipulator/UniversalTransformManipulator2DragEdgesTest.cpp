@@ -280,20 +280,10 @@ TEST(BrokenDrags, ASelectionOrModeChangedMeanwhileIsHarmless)
     EXPECT_TRUE(isFinite(other->getToWorld()));
 }
 
-namespace {
-
-/// The scene's node with a core that is no transform yet.
-void makeGroup(const osg::NodePtr& node)
-{
-    nbtest::edited(node, osg::Node::CoreFieldMask)->setCore(osg::Group::create());
-}
-
-}  // namespace
-
 TEST(DragUndo, ConversionAloneIsNoStepAndJoinsTheNextOne)
 {
     DragScene drags;
-    makeGroup(drags.scene.node);
+    setCore(drags.scene.node, osg::Group::create());
     const osg::NodeCorePtr group = drags.scene.node->getCore();
     const osg::RefPtr<osg::NodeCorePtr> held(group);
     // The object's centre, where the new pivots will be, is not the node's origin.
@@ -328,7 +318,7 @@ TEST(DragUndo, OfAPivotTakesTheGizmoBackWithIt)
 {
     DragScene drags;
     UniversalTransformManipulator2::setLocalSpaceManipulator(true);
-    drags.activate(UniversalTransformManipulator2::ManipulatorMode::RotatePivot);
+    drags.activate(Mode::RotatePivot);
     for (const Vec3f& handle : { kArrow, kRing }) {
         const Pnt3f before = drags.onGizmo(handle);
         ASSERT_TRUE(drags.grab(handle));
@@ -346,7 +336,7 @@ TEST(DragUndo, AfterACancelTheHandleIsGrabbedAgainAtOnce)
     for (const bool isConverted : { false, true }) {
         DragScene drags;
         if (isConverted) {
-            makeGroup(drags.scene.node);
+            setCore(drags.scene.node, osg::Group::create());
             drags.gizmo.update(true);
         }
         const osg::Matrix before = drags.scene.node->getToWorld();

@@ -83,9 +83,6 @@ TEST(UniversalTransformManipulator2, ThePivotGoesToTheCentreOfTheObject)
 
 namespace {
 
-using Gizmo = UniversalTransformManipulator2;
-using Mode = Gizmo::ManipulatorMode;
-
 /// A gizmo on one node, with two further ones: one turned, with pivots apart, and one below a
 /// turned and scaled parent.
 class Marks : public testing::Test
@@ -157,13 +154,6 @@ protected:
         }
     }
 
-    void moveCore(const osg::NodePtr& node)
-    {
-        const auto core = transformOf(node);
-        nbtest::edited(core, osg::Transform3D::TranslationFieldMask)
-            ->setTranslation(core->getTranslation() + Vec3f(0, 0, 1));
-    }
-
     DragScene drags;
     osg::NodePtr turned;
     osg::NodePtr below;
@@ -203,7 +193,7 @@ TEST_F(Marks, GrowWithTheCamerasDistanceAndFollowANodeThatMovesMeanwhile)
         camera->setFromAtUp(Pnt3f(0, 0, 10.0F + static_cast<float>(i)), Pnt3f(0, 0, 0),
                             Vec3f(0, 1, 0));
         if (i == 3) {
-            moveCore(turned);
+            nbtest::edited(transformOf(turned))->setTranslation(Vec3f(3, 0, 1));
         }
         Gizmo::updateAllManipulators();
         expectMarksAtPivots(false);

@@ -3,7 +3,6 @@
 
 #include "tests/manipulator/support/GizmoScene.h"
 #include "tests/platform/support/PictureTest.h"
-#include "tests/support/ContainerCensus.h"
 
 namespace {
 
@@ -93,18 +92,6 @@ TEST(nbPlanarProjectionVisualization, ShowsAndHidesAsAWholeAndTheZExtentAlone)
     visualization.getRootNode()->setTravMask(1);
     visualization.setVisible(false);
     EXPECT_EQ(0U, visualization.getRootNode()->getTravMask());
-}
-
-TEST(nbPlanarProjectionVisualization, NothingIsLeftBehind)
-{
-    const nbtest::ContainerCensus before;
-    {
-        const osg::RefPtr<osg::ImagePtr> image(makeImage(osg::Image::OSG_RGB_PF, { 9, 9, 9 }));
-        nbPlanarProjectionVisualization visualization;
-        visualization.setTexture(image.get(), true, true);
-        const nbPlanarProjectionVisualization copy(visualization);
-    }
-    EXPECT_EQ(nbtest::ContainerCensus().differenceTo(before), "");
 }
 
 // == Placement

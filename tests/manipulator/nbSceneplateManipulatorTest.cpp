@@ -1,16 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/nbSceneplateManipulator.h"
 
-#include "manipulator/nbSceneplatePickTool.h"
-#include "tests/manipulator/support/DragTest.h"
-#include "tests/manipulator/support/MessageLog.h"
+#include "tests/manipulator/support/HandleScene.h"
 #include "tests/manipulator/support/PlateScene.h"
 
-#include <nbInteraction/ToolInteractionContext.h>
 #include <nbKernel/nbController.h>
 #include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbUndoService.h>
-#include <nbNotification/NotificationManager.h>
 #include <nbSceneplateModule/nbSceneplateModule.h>
 
 #include <QtGui/QVector2D>
@@ -185,40 +181,29 @@ TEST_F(SceneplateManipulatorTest, NothingIsSentUntilSomethingChanges)
     EXPECT_FALSE(scene.isHandleShown("rotateShape"));
     scene.send("process", osg::Pnt2f(400, 300));
     EXPECT_EQ(last.offset, QVector2D(0, 0)) << "the way back is told";
+    scene.send("stop", osg::Pnt2f(400, 300));
+    EXPECT_TRUE(scene.isHandleShown("rotateShape"));
 }
 
-TEST_F(SceneplateManipulatorTest, ADragWhosePlatesOrViewChangeSendsNoMore)
+TEST_F(SceneplateManipulatorTest, ADragWhoseViewIsResizedOrWhichGetsOtherPlatesSendsNoMore)
 {
-    enum class Event
-    {
-        Deleted,
-        Resized,
-        OthersSet
-    };
-    for (const Event event : { Event::Deleted, Event::Resized, Event::OthersSet }) {
+    for (const bool isResized : { true, false }) {
         scene.widget.resize(800, 600);
-        const osg::NodePtr node = select({ 400, 300, 200, 100 });
+        select({ 400, 300, 200, 100 });
         EXPECT_TRUE(scene.drag(osg::Pnt2f(400, 300), osg::Vec2f(10, 0), false));
         messages.log.clear();
-        switch (event) {
-        case Event::Deleted:
-            nbScenegraph::getSceneplateRoot()->subChild(node);
-            break;
-        case Event::Resized:
+        if (isResized) {
             scene.widget.resize(600, 800);
-            break;
-        default:
-            scene.manipulator.setNodes({ scene.addPlate({ 100, 100, 50, 50 }) });
-            break;
+        } else {
+            select({ 100, 100, 50, 50 });
         }
 
         EXPECT_FALSE(scene.manipulator.processManipulator(&scene.context, "select"));
-        EXPECT_EQ(messages.takeNames(), event == Event::Deleted ? kResume : Names());
-        EXPECT_EQ(scene.manipulator.stopManipulator(&scene.context, "select"),
-                  event != Event::Deleted);
-        EXPECT_EQ(messages.takeNames(), event == Event::Deleted ? Names() : kResume);
+        EXPECT_EQ(messages.takeNames(), Names());
+        EXPECT_TRUE(scene.manipulator.stopManipulator(&scene.context, "select"));
+        EXPECT_EQ(messages.takeNames(), kResume);
         scene.manager.endDrag();
-        EXPECT_EQ(scene.isHandleShown("grid"), event != Event::Deleted);
+        EXPECT_TRUE(scene.isHandleShown("grid"));
     }
 }
 
@@ -249,22 +234,15 @@ TEST_F(SceneplateManipulatorTest, AReceiverMayTakeItOutOfUse)
 
 TEST_F(SceneplateManipulatorTest, ShowsTheValuesOfTheDrag)
 {
-    const auto shownText = [] {
-        const auto texts =
-            notification::NotificationManager::getInstance()->getVisibleTexts(800, 600);
-        return texts.empty() ? QString() : texts.front().text;
-    };
     select({ 400, 300, 200, 100, 10 });
     scene.drag(osg::Pnt2f(400, 300), osg::Vec2f(12, -3), false);
-    EXPECT_EQ(shownText(), "Translation (12.00, 3.00)");
+    EXPECT_EQ(HandleScene::texts(), Names { "Translation (12.00, 3.00)" });
     scene.send("stop", osg::Pnt2f(412, 297));
-    EXPECT_EQ(shownText(), "");
+    EXPECT_EQ(HandleScene::texts(), Names());
     scene.manipulator.setDescriptionEnabled(false);
     scene.drag(osg::Pnt2f(400, 300), osg::Vec2f(12, -3), false);
-    EXPECT_EQ(shownText(), "");
+    EXPECT_EQ(HandleScene::texts(), Names());
 }
-
-using testing::ElementsAre;
 
 /// How far a grabbed point may be from the pointer, pixels: plates are drawn on whole pixels.
 constexpr float kDrawnTolerancePx = 0.6F;
@@ -283,8 +261,6 @@ protected:
 
     ~SceneplateDragTest() override { nbUndoService::the()->clear(); }
 
-    osg::NodePtr addPlate(const platetest::PlatePx& place) { return scene.addPlate(place); }
-
     void select(const std::vector<osg::NodePtr>& nodes)
     {
         module.select(nodes, "select");
@@ -296,8 +272,6 @@ protected:
         EXPECT_NEAR(px.x(), expected.x(), kDrawnTolerancePx) << what;
         EXPECT_NEAR(px.y(), expected.y(), kDrawnTolerancePx) << what;
     }
-
-    void begin() { nbUndoService::the()->beginGroup("Drag"); }
 
     void release()
     {
@@ -318,12 +292,12 @@ TEST_P(SceneplateDragTest, CornersFollowAndTheOppositeOneStays)
                                                            { "scaleXYURShape", 1, 1 } };
     for (const float rotation : { 0.0F, 40.0F, -170.0F }) {
         for (const auto& [handle, alongX, alongY] : rows) {
-            const osg::NodePtr node = addPlate({ 200, 150, 120, 80, rotation });
+            const osg::NodePtr node = scene.addPlate({ 200, 150, 120, 80, rotation });
             select({ node });
             const osg::Pnt2f fixed = exactCorner(node, scene.widget, -alongX, -alongY);
             const osg::Pnt2f corner = exactCorner(node, scene.widget, alongX, alongY);
             const osg::Vec2f pull = (corner - fixed) * 0.3F;
-            begin();
+            nbUndoService::the()->beginGroup();
             EXPECT_TRUE(scene.drag(handle, pull, false)) << handle << rotation;
 
             expectNear(exactCorner(node, scene.widget, -alongX, -alongY), fixed, "fixed");
@@ -345,12 +319,12 @@ TEST_P(SceneplateDragTest, CornersFollowAndTheOppositeOneStays)
 
 TEST_P(SceneplateDragTest, SeveralPlatesAreOneBodyDuringTheDrag)
 {
-    const osg::NodePtr left = addPlate({ 120, 150, 60, 60 });
-    const osg::NodePtr right = addPlate({ 280, 150, 60, 60, 45 });
+    const osg::NodePtr left = scene.addPlate({ 120, 150, 60, 60 });
+    const osg::NodePtr right = scene.addPlate({ 280, 150, 60, 60, 45 });
     select({ left, right });
     const osg::Pnt2f centre = scene.handlePx("grid");
     const osg::Vec2f arm = scene.handlePx("rotateShape") - centre;
-    begin();
+    nbUndoService::the()->beginGroup();
     EXPECT_TRUE(scene.drag("rotateShape", osg::Vec2f(-arm.y(), arm.x()) - arm, false));
 
     // A quarter turn clockwise takes what is on the left to the top.
@@ -368,34 +342,6 @@ TEST_P(SceneplateDragTest, SeveralPlatesAreOneBodyDuringTheDrag)
     expectNear(scene.handlePx("grid"), frame.centre, "upright again");
     expectNear(scene.handlePx("scaleXYURShape"),
                frame.centre + osg::Vec2f(frame.size.x() / 2, -frame.size.y() / 2), "upright again");
-}
-
-TEST_P(SceneplateDragTest, HandlesWinOverThePickToolWhichSelectsBesideThem)
-{
-    const osg::NodePtr left = addPlate({ 100, 150, 80, 80 });
-    const osg::NodePtr right = addPlate({ 250, 150, 80, 80 });
-    nbSceneplatePickTool tool;
-    interaction::Picker platePicker;
-    platePicker.setFilter(interaction::Picker::SceneplateFilter);
-    interaction::ToolInteractionContext toolContext;
-    toolContext.setPicker(&platePicker);
-    toolContext.setTool(&tool);
-    scene.manager.addContext(&toolContext);
-    module.addChangedCallback([this] { scene.manipulator.setNodes(module.getSelection()); });
-
-    scene.send("start", osg::Pnt2f(100, 150));
-    scene.send("stop", osg::Pnt2f(100, 150));
-    EXPECT_THAT(module.getSelection(), ElementsAre(left));
-    EXPECT_TRUE(scene.isHandleShown("grid"));
-    scene.send("start", osg::Pnt2f(250, 150), "toggle");
-    scene.send("stop", osg::Pnt2f(250, 150), "toggle");
-    EXPECT_THAT(module.getSelection(), ElementsAre(left, right));
-
-    const osg::Vec2f before = platetest::plateOf(left)->getPosition();
-    EXPECT_TRUE(scene.drag(osg::Pnt2f(100, 150), osg::Vec2f(10, 0)));
-    EXPECT_NE(platetest::plateOf(left)->getPosition(), before) << "the body is dragged";
-    EXPECT_THAT(module.getSelection(), ElementsAre(left, right));
-    scene.manager.removeContext(&toolContext);
 }
 
 INSTANTIATE_TEST_SUITE_P(Views, SceneplateDragTest,

@@ -17,18 +17,6 @@ public:
         , collider(osg::makeCoredNode<osg::Group>())
     { }
 
-    void activate(ManipulatorInteractionContext* ctx) override
-    {
-        calls.emplace_back("activate");
-        NodeManipulator::activate(ctx);
-    }
-
-    void deactivate(ManipulatorInteractionContext* ctx) override
-    {
-        calls.emplace_back("deactivate");
-        NodeManipulator::deactivate(ctx);
-    }
-
     osg::NodePtr getVisualisation() override { return visualisation.get(); }
 
     osg::NodePtr getCollider() override { return collider.get(); }

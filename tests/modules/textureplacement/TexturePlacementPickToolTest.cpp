@@ -6,7 +6,6 @@
 #include <nbInteraction/InteractionManager.h>
 #include <nbInteraction/ToolInteractionContext.h>
 #include <nbKernel/nbController.h>
-#include <nbOpenSGUberMaterial/nbStateChunkBase.h>
 
 #include <gmock/gmock.h>
 
@@ -184,32 +183,6 @@ TEST_F(TexturePlacementPickToolTest, WithoutAReceiverTheBareSuffixIsSent)
     send("start", 400.0f, 300.0f);
 
     EXPECT_EQ(1U, nbController::getLostCalls()["::placeTexture"]);
-}
-
-TEST(TexturePlacementPickTool, KnowsItsMaterialAndComponentAndCopiesThem)
-{
-    osg::RefPtr<osg::MaterialPtr> material(osg::SimpleMaterial::create());
-    const osg::RefPtr<osg::MaterialPtr> other(osg::SimpleMaterial::create());
-    nbStateChunkBase editor;
-    TexturePlacementPickTool tool;
-    tool.setMaterialComponent(material.get(), "diffuse", &editor);
-    tool.setDescriptionText("Click");
-
-    TexturePlacementPickTool assigned;
-    assigned = tool;
-    for (TexturePlacementPickTool copy : { TexturePlacementPickTool(tool), assigned }) {
-        EXPECT_TRUE(copy.isConnectedToMaterial(material.get()));
-        EXPECT_FALSE(copy.isConnectedToMaterial(other.get()));
-        EXPECT_TRUE(copy.isConnectedTo(material.get(), "diffuse"));
-        EXPECT_FALSE(copy.isConnectedTo(material.get(), "transparency"));
-        EXPECT_FALSE(copy.isConnectedTo(other.get(), "diffuse"));
-        EXPECT_EQ(&editor, copy.getGUI());
-        copy.activateTool(nullptr);
-        EXPECT_EQ("Click", copy.getDescription());
-    }
-
-    material = osg::RefPtr<osg::MaterialPtr>();
-    EXPECT_EQ(osg::NullFC, tool.getMaterial());
 }
 
 }  // namespace
