@@ -125,6 +125,8 @@ public:
     std::vector<float> values() const;
 
     // == Input
+    /// Pixel of a place in the world, y from the top; needs the view.
+    osg::Pnt2f pixelOf(const osg::Pnt3f& world) const;
     /// A place on screen: one on what is shown below a node, as a rule, or any other.
     osg::Pnt2f aimAt(const osg::NodePtr& tree, Bytes& bytes) const;
     void point(const osg::Pnt2f& px);

@@ -185,6 +185,16 @@ std::string Stage::mode(Bytes& bytes) const
 
 // == Input
 
+osg::Pnt2f Stage::pixelOf(const osg::Pnt3f& world) const
+{
+    osg::Matrix clipFromWorld;
+    view->getCamera()->getWorldToScreen(clipFromWorld, *view->getViewport());
+    osg::Pnt3f device;
+    clipFromWorld.multFullMatrixPnt(world, device);
+    return osg::Pnt2f((device.x() + 1.0F) * 0.5F * static_cast<float>(view->getWidth()),
+                      (1.0F - device.y()) * 0.5F * static_cast<float>(view->getHeight()));
+}
+
 osg::Pnt2f Stage::aimAt(const osg::NodePtr& tree, Bytes& bytes) const
 {
     const std::uint8_t choice = bytes.next();
@@ -205,12 +215,7 @@ osg::Pnt2f Stage::aimAt(const osg::NodePtr& tree, Bytes& bytes) const
     }
     osg::Pnt3f point = positions->getValue(corner % positions->getSize());
     target->getToWorld().multMatrixPnt(point);
-    osg::Matrix clipFromWorld;
-    view->getCamera()->getWorldToScreen(clipFromWorld, *view->getViewport());
-    osg::Pnt3f device;
-    clipFromWorld.multFullMatrixPnt(point, device);
-    const osg::Pnt2f px((device.x() + 1.0F) * 0.5F * static_cast<float>(view->getWidth()),
-                        (1.0F - device.y()) * 0.5F * static_cast<float>(view->getHeight()));
+    const osg::Pnt2f px = pixelOf(point);
     return std::isfinite(px.x()) && std::isfinite(px.y()) ? px : anywhere;
 }
 

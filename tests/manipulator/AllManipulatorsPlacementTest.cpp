@@ -3,7 +3,6 @@
 #include "manipulator/CameraManipulator.h"
 #include "tests/manipulator/support/AnyManipulator.h"
 #include "tests/platform/support/Edited.h"
-#include "tests/support/ContainerCensus.h"
 
 #include <nbOpenSGUberCamera/UberCamera.h>
 
@@ -195,22 +194,15 @@ class Constructed : public testing::Test
 using All = testing::Types<CameraManipulator, Transform, Planar, Triplanar, UV, Tire, Plate, Match>;
 TYPED_TEST_SUITE(Constructed, All, );
 
-TYPED_TEST(Constructed, AndDestroyedTheyLeaveNothing)
+TYPED_TEST(Constructed, TheyAreManipulatorsAndDestroyedTheyAreCalledByNobody)
 {
     {
-        const TypeParam first;  // makes the geometry that all share
-    }
-    const nbtest::ContainerCensus before;
-    {
         TypeParam one;
-        TypeParam other;
-        other.update(true);
         expectManipulatorRoot(one.getVisualisation());
         EXPECT_EQ(one.getCollider(), one.getVisualisation());
     }
-    EXPECT_EQ(nbtest::ContainerCensus().differenceTo(before), "");
     nbOSGWidget widget;
-    widget.resize(100, 100);  // calls nobody who is gone
+    widget.resize(100, 100);
 }
 
 template <class Gizmo>

@@ -53,12 +53,6 @@ protected:
         const QImage picture = view->render(scene.widget.getViewport(), scene.widget.getWidth(),
                                             scene.widget.getHeight());
         EXPECT_FALSE(picture.isNull()) << view->getError();
-        // For looking at what was drawn: a directory that gets every picture as a PNG file.
-        const char* const directory = std::getenv("NB_TEST_PICTURES");
-        if (directory != nullptr) {
-            const auto* const info = testing::UnitTest::GetInstance()->current_test_info();
-            picture.save(QString("%1/%2_%3.png").arg(directory, info->name()).arg(pictureCount++));
-        }
         return picture;
     }
 
@@ -78,7 +72,6 @@ protected:
     static inline std::unique_ptr<nbOffscreenView> view;
     PerspectiveMatchManipulator gizmo;  // outlives the scene, which deactivates it
     MatchScene scene;
-    int pictureCount = 0;
 };
 
 }  // namespace
@@ -110,18 +103,13 @@ TEST_F(PerspectiveMatchPictureTest, LinesStandInTheirPixelsWhateverTheViewAndThe
     }
 }
 
-TEST_F(PerspectiveMatchPictureTest, LinesOfAxesOutOfUseAreGreyAndThinAndRingsKeepTheirSize)
+TEST_F(PerspectiveMatchPictureTest, LinesOfAxesOutOfUseAreGreyAndThin)
 {
     scene.match().setXLine1(pixelLine(60, 40, 200, 40));
     scene.match().setVanishingLinesType(nbCameraTypes::YZLines);
     EXPECT_TRUE(isColor(at(draw(), 130, 40), QColor::fromRgbF(0.8, 0.4, 0.4)));
     scene.match().setVanishingLinesType(nbCameraTypes::XYZLines);
     EXPECT_TRUE(isColor(at(draw(), 130, 40), kRed));
-    scene.widget.resize(320, 240);
-    const QImage half = draw();
-    EXPECT_TRUE(isColor(at(half, 65, 20), kRed));
-    EXPECT_TRUE(isColor(at(half, 30 - 6, 20), kRed)) << "ring";
-    EXPECT_TRUE(isColor(at(half, 30 - 3, 20), kBlack)) << "inside it";
 }
 
 TEST_F(PerspectiveMatchPictureTest, GuidesShowDuringADrag)

@@ -70,9 +70,7 @@ public:
     /// Whole pixels.
     Vec2f offset(float reachPx)
     {
-        const float right = std::round(number(-reachPx, reachPx));
-        const float up = std::round(number(-reachPx, reachPx));
-        return Vec2f(right, up);
+        return { std::round(number(-reachPx, reachPx)), std::round(number(-reachPx, reachPx)) };
     }
 
     /// False where another handle covers the chosen one.
@@ -105,15 +103,10 @@ private:
         return std::uniform_int_distribution<std::size_t>(0, count - 1)(random);
     }
 
-    // Numbers are drawn one statement after the other: the order in which arguments are worked out
-    // is the compiler's choice.
-
+    // Braces work numbers out in their order; that of arguments is the compiler's choice.
     Vec3f vectorOf(float least, float most)
     {
-        const float x = number(least, most);
-        const float y = number(least, most);
-        const float z = number(least, most);
-        return Vec3f(x, y, z);
+        return { number(least, most), number(least, most), number(least, most) };
     }
 
     Vec3f factors() { return vectorOf(0.5F, 2.0F); }

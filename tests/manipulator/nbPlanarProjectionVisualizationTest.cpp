@@ -6,6 +6,7 @@
 
 namespace {
 
+using nbec::manipulator::test::transformOf;
 using rendertest::group;
 using rendertest::placed;
 
@@ -49,11 +50,6 @@ osg::ImagePtr shownImage(const nbPlanarProjectionVisualization& visualization)
 {
     const auto materials = planeMaterials(visualization.get2DTransformNode());
     return chunkOf<osg::TextureChunk>(materials.at(0))->getImage();
-}
-
-osg::Transform3DPtr transform3D(const osg::NodePtr& node)
-{
-    return osg::Transform3DPtr::dcast(node->getCore());
 }
 
 osg::NodePtr zExtentNode(const nbPlanarProjectionVisualization& visualization)
@@ -113,7 +109,7 @@ TEST(nbPlanarProjectionVisualization, FollowsTheObjectAndTheProjection)
     expectBox(visualization.get2DTransformNode(), { 7, 3, 0 }, { 13, 7, 0 });
     // The box in which the projection shows when it ends in z.
     expectBox(zExtentNode(visualization), { 7, 3, -4 }, { 13, 7, 0 });
-    EXPECT_EQ(osg::Vec3f(2, 3, 4), transform3D(zExtentNode(visualization))->getScale());
+    EXPECT_EQ(osg::Vec3f(2, 3, 4), transformOf(zExtentNode(visualization))->getScale());
 
     visualization.setRotate(90);
     expectBox(visualization.get2DTransformNode(), { 8, 2, 0 }, { 12, 8, 0 });
@@ -134,7 +130,7 @@ TEST(nbPlanarProjectionVisualization, WithoutAProjectionNothingMoves)
     visualization.updateProjectionTransform(osg::ColorComponentSettingsPtr());
 
     EXPECT_EQ(osg::Vec3f(1, 2, 3),
-              transform3D(visualization.getProjectionTransformNode())->getTranslation());
+              transformOf(visualization.getProjectionTransformNode())->getTranslation());
 }
 
 // == Textures

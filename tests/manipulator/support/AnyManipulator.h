@@ -275,8 +275,6 @@ private:
     std::vector<Pnt2f> placesOf(const osg::NodePtr& top)
     {
         std::vector<Pnt2f> places;
-        osg::Matrix clipFromWorld;
-        stage.view->getCamera()->getWorldToScreen(clipFromWorld, *stage.view->getViewport());
         for (const float part : { 0.5F, 0.0F }) {
             for (const osg::NodePtr& shape : partsOf(top)) {
                 const auto positions = osg::GeometryPtr::dcast(shape->getCore())->getPositions();
@@ -286,9 +284,7 @@ private:
                     Pnt3f place =
                         first + (positions->getValue((i + count / 2) % count) - first) * part;
                     shape->getToWorld().multMatrixPnt(place);
-                    clipFromWorld.multFullMatrixPnt(place, place);
-                    places.emplace_back((place.x() + 1) / 2 * stage.view->getWidth(),
-                                        (1 - place.y()) / 2 * stage.view->getHeight());
+                    places.push_back(stage.pixelOf(place));
                 }
             }
         }
