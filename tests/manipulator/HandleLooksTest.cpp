@@ -2,6 +2,7 @@
 // What hosts may change of how handles look: fading, palettes, the overlay of drags.
 #include "manipulator/course/HandleFading.h"
 #include "manipulator/handles/HandlePalette.h"
+#include "tests/manipulator/support/AllocationCount.h"
 #include "tests/manipulator/support/AnyManipulator.h"
 #include "tests/manipulator/support/HandleScene.h"
 
@@ -233,6 +234,26 @@ TYPED_TEST(HandleLooks, TheOverlayIsThereWhileSomethingIsDragged)
     EXPECT_EQ(points(), 6U) << "a line and a mark";
     this->gizmo->cancelDrag();
     EXPECT_EQ(points(), 0U);
+}
+
+TYPED_TEST(HandleLooks, TheOverlayAllocatesNothingInAStep)
+{
+    const auto allocationsOfSteps = [this] {
+        EXPECT_TRUE(this->press() && this->step() && this->step() && this->step());
+        const std::size_t before = allocationCount();
+        for (int i = 0; i < 20; ++i) {
+            this->step();
+        }
+        const std::size_t made = allocationCount() - before;
+        this->gizmo->cancelDrag();
+        return made;
+    };
+    ASSERT_TRUE(this->drag());
+    allocationsOfSteps();
+    const std::size_t without = allocationsOfSteps();
+    setDragOverlayShown(true);
+    allocationsOfSteps();
+    EXPECT_EQ(allocationsOfSteps(), without);
 }
 
 template <class Gizmo>
