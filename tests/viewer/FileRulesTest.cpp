@@ -44,7 +44,7 @@ TEST_F(FileRules, WhatASessionWritesLiesInItsFolderAndIsOfItsKind)
 {
     const QDir out(fileIn("out"));
     ASSERT_TRUE(QDir(folder.path()).mkpath("out/deep"));
-    write(fileIn("out/kept.sh"), "echo");
+    writeFile(fileIn("out/kept.sh"), "echo");
     ASSERT_TRUE(QFile::link(fileIn("victim.nbscene"), out.filePath("link.nbscene")));
     ASSERT_TRUE(QFile::link(folder.path(), out.filePath("way")));
     ASSERT_EQ(mkfifo(out.filePath("pipe.nbscene").toLocal8Bit().constData(), 0600), 0);
@@ -66,17 +66,17 @@ TEST_F(FileRules, WhatASessionWritesLiesInItsFolderAndIsOfItsKind)
 TEST_F(FileRules, APictureTellsItsSizeBeforeItIsDecoded)
 {
     // 30,000 x 30,000 pixels of one bit: small on the disk, 3.6 GB when decoded.
-    write(fileIn("huge.pbm"), "P4\n30000 30000\n" + QByteArray(100, '\0'));
-    write(fileIn("drawn.png"), "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>");
+    writeFile(fileIn("huge.pbm"), "P4\n30000 30000\n" + QByteArray(100, '\0'));
+    writeFile(fileIn("drawn.png"),
+              "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>");
     EXPECT_TRUE(decodePictureFile(fileIn("huge.pbm"), error).isNull());
     EXPECT_TRUE(error.contains("huge.pbm: the picture has 30000 x 30000")) << error.toStdString();
     EXPECT_TRUE(decodePictureFile(fileIn("drawn.png"), error).isNull());
     EXPECT_TRUE(error.contains("is no picture")) << "kinds that lead to other files";
 
-    QImage picture(100, 50, QImage::Format_RGB32);
-    picture.fill(Qt::red);
-    ASSERT_TRUE(writePicture(fileIn("a.png"), picture, error)) << error.toStdString();
-    EXPECT_EQ(decodePictureFile(fileIn("a.png"), error).size(), picture.size());
+    const QSize size(100, 50);
+    writePlainPicture(fileIn("a.png"), size, Qt::red);
+    EXPECT_EQ(decodePictureFile(fileIn("a.png"), error).size(), size);
     setPictureBudget(100 * 50 * 4 - 1);
     EXPECT_EQ(readPicture(fileIn("a.png"), error), osg::NullFC);
     EXPECT_FALSE(readModelFile(fileIn("a.png"), {}, error));

@@ -10,7 +10,6 @@
 #include <nbNotification/NotificationManager.h>
 
 #include <QAction>
-#include <QFile>
 #include <QMenu>
 #include <QMenuBar>
 #include <QStatusBar>
@@ -34,11 +33,10 @@ struct Texts
 
 Texts readTexts(Language language)
 {
-    QFile file(QStringLiteral(NB_VIEWER_FOLDER "/translations/nbviewer_%1.ts")
-                   .arg(languageName(language)));
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    const QString path = QStringLiteral(NB_VIEWER_FOLDER "/translations/nbviewer_%1.ts");
     Texts texts;
-    for (QXmlStreamReader xml(&file); !xml.atEnd(); xml.readNext()) {
+    for (QXmlStreamReader xml(readFile(path.arg(languageName(language)))); !xml.atEnd();
+         xml.readNext()) {
         if (xml.isStartElement() && xml.name() == QLatin1String("source")) {
             texts.english.insert(xml.readElementText());
         } else if (xml.isStartElement() && xml.name() == QLatin1String("translation")) {

@@ -38,15 +38,14 @@ TEST_F(MainWindowTest, AKeyThatWouldAskOrEndTheReplayIsAFailure)
 TEST_F(MainWindowTest, AModelReplacesTheSceneAndIsSelectedAndInView)
 {
     const QTemporaryDir folder;
-    QFile file(folder.filePath("far away.obj"));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("v 1000 1000 1000\nv 1100 1000 1000\nv 1000 1100 1000\nv 1000 1000 1100\nf 1 3 2\nf "
-               "1 2 4\nf 1 4 3\nf 2 3 4\n");
-    file.close();
+    const QString file = writeFile(
+        folder.filePath("far away.obj"),
+        "v 1000 1000 1000\nv 1100 1000 1000\nv 1000 1100 1000\nv 1000 1000 1100\nf 1 3 2\nf "
+        "1 2 4\nf 1 4 3\nf 2 3 4\n");
     bool shown = false;
     QObject::connect(&window, &MainWindow::filesShown, [&shown] { shown = true; });
 
-    window.openFiles({ file.fileName() }, MainWindow::Opening::Replace);
+    window.openFiles({ file }, MainWindow::Opening::Replace);
     waitUntil([&shown] { return shown; });
 
     EXPECT_EQ(stage().triangleCount(), 4U);

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/loading/ModelReader.h"
 
+#include "tests/viewer/support/Files.h"
 #include "viewer/loading/ModelRecords.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -17,11 +17,7 @@ class ModelReaderTest : public testing::Test
 protected:
     QString write(const char* name, const QByteArray& bytes) const
     {
-        const QString path = folder.filePath(name);
-        QFile file(path);
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        EXPECT_EQ(file.write(bytes), bytes.size());
-        return path;
+        return writeFile(folder.filePath(name), bytes);
     }
 
     /// What cannot be read is one line that begins with the file.
@@ -83,40 +79,10 @@ TEST_F(ModelReaderTest, PlyAndStlAreRead)
     EXPECT_EQ(plain->meshes.at(0).normals.at(0), (Vec3 { 0, 0, 1 }));
 }
 
-TEST_F(ModelReaderTest, GltfKeepsItsHierarchy)
-{
-    // Three corners of a triangle as base64, under a node moved by (5, 6, 7) under a node moved by
-    // (1, 0, 0).
-    const float corners[9] = { 0, 0, 0, 1, 0, 0, 0, 1, 0 };
-    const QByteArray bytes(reinterpret_cast<const char*>(corners), sizeof corners);
-    const QByteArray gltf = R"({"asset":{"version":"2.0"},"scene":0,"scenes":[{"nodes":[0]}],
-        "nodes":[{"name":"Arm","translation":[1,0,0],"children":[1]},{"name":"Hand","translation":[5,6,7],"mesh":0}],
-        "meshes":[{"name":"Glove","primitives":[{"attributes":{"POSITION":0}}]}],
-        "accessors":[{"bufferView":0,"componentType":5126,"count":3,"type":"VEC3","min":[0,0,0],"max":[1,1,0]}],
-        "bufferViews":[{"buffer":0,"byteOffset":0,"byteLength":36}],
-        "buffers":[{"byteLength":36,"uri":"data:application/octet-stream;base64,)" +
-        bytes.toBase64() + "\"}]}";
-
-    const auto model = reader.read(write("arm.gltf", gltf), {}, error);
-
-    ASSERT_TRUE(model) << error.toStdString();
-    const NodeData* node = &model->root;
-    while (node->name != "Hand" && !node->children.empty()) {
-        node = &node->children.front();
-    }
-    EXPECT_EQ(node->name, "Hand");
-    EXPECT_EQ(node->meshes.size(), 1U);
-    EXPECT_EQ((Vec3 { node->matrix[12], node->matrix[13], node->matrix[14] }), (Vec3 { 5, 6, 7 }));
-}
-
 TEST_F(ModelReaderTest, APictureBecomesARectangleOfItsShape)
 {
-    QImage picture(40, 20, QImage::Format_RGB32);
-    picture.fill(Qt::red);
-    const QString path = folder.filePath("wide.png");
-    ASSERT_TRUE(picture.save(path));
-
-    const auto model = reader.read(path, {}, error);
+    const auto model =
+        reader.read(writePlainPicture(folder.filePath("wide.png"), { 40, 20 }, Qt::red), {}, error);
 
     ASSERT_TRUE(model) << error.toStdString();
     EXPECT_EQ(model->materials.at(0).texture.size(), QSize(40, 20));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/match/PerspectiveMatchTool.h"
 
+#include "tests/viewer/support/Files.h"
 #include "tests/viewer/support/StageTest.h"
 #include "viewer/match/PerspectiveMatchCommands.h"
 
@@ -157,10 +158,8 @@ TEST_F(PerspectiveMatchToolTest, TellsHowSureItIsAndTakesWhatElseIsKnown)
 TEST_F(PerspectiveMatchToolTest, APhotographFitsByWidthUnderLinesAndModelsThatStayOnIt)
 {
     const QTemporaryDir folder;
-    const QString file = folder.filePath("wide.png");
-    QImage wide(900, 300, QImage::Format_RGB32);
-    wide.fill(Qt::gray);
-    ASSERT_TRUE(wide.save(file) && run("match.setActive", true) && !run("match.fit", "width"));
+    const QString file = writePlainPicture(folder.filePath("wide.png"), { 900, 300 }, Qt::gray);
+    ASSERT_TRUE(run("match.setActive", true) && !run("match.fit", "width"));
     ASSERT_TRUE(run("match.setPhotograph", file));
     const auto onPhotograph = [this](const osg::Pnt2f& px) {
         const nbPhotographFit place = tool.photograph().place();
@@ -268,10 +267,7 @@ TEST_F(PerspectiveMatchToolTest, ALockedCameraStaysAndHiddenLinesCannotBeGrabbed
 TEST_F(PerspectiveMatchToolTest, APhotographIsTakenWhenItIsDroppedAndGoesWithTheScene)
 {
     QTemporaryDir folder;
-    const QString file = folder.filePath(QStringLiteral("street.png"));
-    QImage photograph(30, 20, QImage::Format_RGB32);
-    photograph.fill(Qt::gray);
-    ASSERT_TRUE(photograph.save(file));
+    const QString file = writePlainPicture(folder.filePath("street.png"), { 30, 20 }, Qt::gray);
     EXPECT_FALSE(stage.takePicture(file, osg::Pnt2f(10.0F, 10.0F), error));
     ASSERT_TRUE(run("match.setActive", true));
 

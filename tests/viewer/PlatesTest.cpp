@@ -72,10 +72,7 @@ TEST_F(Plates, TheToolTakesTurnsWithTheGizmoAndKeepsItsSelection)
 TEST_F(Plates, ADroppedPictureBecomesAPlateThere)
 {
     QTemporaryDir folder;
-    const QString file = folder.filePath("green.png");
-    QImage picture(60, 40, QImage::Format_RGB32);
-    picture.fill(Qt::green);
-    ASSERT_TRUE(picture.save(file));
+    const QString file = writePlainPicture(folder.filePath("green.png"), { 60, 40 }, Qt::green);
     const auto drop = [&](const QString& dropped) {
         emit window.view().filesDropped({ dropped }, { 700.0F, 500.0F });
     };

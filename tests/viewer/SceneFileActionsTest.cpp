@@ -86,10 +86,7 @@ TEST_F(SceneFileActionsTest, WhatCannotBeOpenedLeavesEverything)
 {
     moveVase();
     const QByteArray before = text();
-    QFile file(scene);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("{\"scene\": 1,\n \"camera\": }");
-    file.close();
+    writeFile(scene, "{\"scene\": 1,\n \"camera\": }");
 
     window.openFiles({ scene }, MainWindow::Opening::Replace);
     window.openFiles({ scene }, MainWindow::Opening::Add);
@@ -142,10 +139,7 @@ TEST_F(SceneFileActionsTest, AFileThatAnotherProgramChangedIsNotReplacedWithoutA
 {
     ASSERT_TRUE(run("scene.save", scene));
     moveVase();
-    QFile file(scene);
-    ASSERT_TRUE(file.open(QIODevice::Append));
-    file.write("\n");
-    file.close();
+    writeFile(scene, readFile(scene) + '\n');
 
     EXPECT_FALSE(run("scene.save", QJsonValue()));
     EXPECT_FALSE(window.scenes().save()) << "nobody is there";

@@ -88,7 +88,7 @@ TEST_F(SceneFile, SavedOpenedAndSavedAgainIsTheSameWhateverWasEdited)
         ASSERT_TRUE(openScene(stage, first, error)) << "seed " << seed << error.toStdString();
         ASSERT_TRUE(saveScene(stage, second, error)) << error.toStdString();
 
-        ASSERT_EQ(read(second), read(first)) << "seed " << seed;
+        ASSERT_EQ(readFile(second), readFile(first)) << "seed " << seed;
         EXPECT_EQ(steps(), 0);
     }
 }
@@ -96,8 +96,8 @@ TEST_F(SceneFile, SavedOpenedAndSavedAgainIsTheSameWhateverWasEdited)
 TEST_F(SceneFile, KeepsTheWorldMatricesOfAShearedModel)
 {
     // The shear of the upper node comes from the model alone.
-    write(fileIn("sheared.gltf"),
-          R"({"asset": {"version": "2.0"}, "scene": 0, "scenes": [{"nodes": [0]}],
+    writeFile(fileIn("sheared.gltf"),
+              R"({"asset": {"version": "2.0"}, "scene": 0, "scenes": [{"nodes": [0]}],
   "nodes": [{"name": "Top", "matrix": [1,0,0,0, 0.5,2,0,0, 0,0.25,1,0, 3,4,5,1], "children": [1]},
             {"name": "Leaf", "translation": [1, 0, 2], "mesh": 0}],
   "meshes": [{"primitives": [{"attributes": {"POSITION": 0}}]}],
@@ -155,7 +155,7 @@ TEST_F(SceneFile, FindsItsFilesAfterTheFolderMoved)
     stage.selectAll();
     ASSERT_TRUE(run("texture.picture", base.filePath("here/label.png"))) << error.toStdString();
     ASSERT_TRUE(saveScene(stage, base.filePath("here/scene.nbscene"), error));
-    EXPECT_TRUE(read(base.filePath("here/scene.nbscene")).contains("\"parts/boxes.obj\""));
+    EXPECT_TRUE(readFile(base.filePath("here/scene.nbscene")).contains("\"parts/boxes.obj\""));
     ASSERT_TRUE(QDir(folder.path()).rename("here", "there"));
 
     EXPECT_TRUE(openScene(stage, base.filePath("there/scene.nbscene"), error))
@@ -184,7 +184,7 @@ QByteArray richScene()
 
 TEST_F(SceneFile, ModelsOfOneFileShareWhatIsNotEdited)
 {
-    write(fileIn("many.nbscene"), R"({"scene": 1,
+    writeFile(fileIn("many.nbscene"), R"({"scene": 1,
  "camera": {"from": [1,2,3], "at": [0,0,0], "up": [0,1,0], "pivot": [0,0,0], "fov": 40},
  "models": [{"builtIn": "start scene"}, {"builtIn": "start scene",
    "nodes": [{"path": "4", "name": "Knot", "newName": "Other", "transform": {"scale": [2,2,2]}}],
@@ -201,7 +201,7 @@ TEST_F(SceneFile, ModelsOfOneFileShareWhatIsNotEdited)
     EXPECT_NE(surfaceAt(0, "Vase"), surfaceAt(1, "Vase")) << "has a material of its own";
     EXPECT_EQ(findObject(root->getChild(1), "Knot"), osg::NullFC);
     const QByteArray saved = text();
-    write(fileIn("again.nbscene"), saved);
+    writeFile(fileIn("again.nbscene"), saved);
     ASSERT_TRUE(openScene(stage, fileIn("again.nbscene"), error)) << error.toStdString();
     EXPECT_EQ(text(), saved);
 }
@@ -256,7 +256,7 @@ TEST_F(SceneFile, ARefusedFileNamesThePlaceAndLeavesTheSceneAsItIs)
         QByteArray broken = richScene();
         const int at = broken.indexOf(part);
         ASSERT_GE(at, 0);
-        write(path, broken.replace(at, static_cast<int>(std::strlen(part)), instead));
+        writeFile(path, broken.replace(at, static_cast<int>(std::strlen(part)), instead));
 
         EXPECT_FALSE(openScene(stage, path, error));
 
@@ -267,7 +267,7 @@ TEST_F(SceneFile, ARefusedFileNamesThePlaceAndLeavesTheSceneAsItIs)
         EXPECT_EQ(stage.selectedObject(), vase);
         EXPECT_EQ(steps(), 1);
     }
-    write(path, richScene());
+    writeFile(path, richScene());
     EXPECT_TRUE(openScene(stage, path, error)) << error.toStdString();
     EXPECT_EQ(steps(), 0);
     EXPECT_FALSE(openScene(stage, fileIn("absent.nbscene"), error));
@@ -288,54 +288,32 @@ TEST_F(SceneFile, WhatCannotBeFoundAgainIsNotSaved)
 
 // == Saving
 
-/// Files of this process stay below a size, as on a full disk.
-class SmallDisk
-{
-public:
-    explicit SmallDisk(rlim_t bytes)
-    {
-        formerHandler = std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &former);
-        rlimit small = former;
-        small.rlim_cur = bytes;
-        setrlimit(RLIMIT_FSIZE, &small);
-    }
-
-    SmallDisk(const SmallDisk&) = delete;
-    SmallDisk& operator=(const SmallDisk&) = delete;
-
-    ~SmallDisk()
-    {
-        setrlimit(RLIMIT_FSIZE, &former);
-        std::signal(SIGXFSZ, formerHandler);
-    }
-
-private:
-    rlimit former {};
-    void (*formerHandler)(int) = nullptr;
-};
-
 TEST_F(SceneFile, AFullDiskLeavesTheOldFileAndNoOther)
 {
     const QString path = fileIn("scene.nbscene");
     ASSERT_TRUE(saveScene(stage, path, error));
-    const QByteArray before = read(path);
+    const QByteArray before = readFile(path);
     ASSERT_TRUE(stage.selectByName("Vase"));
     ASSERT_TRUE(run("object.translation", QJsonArray { 1, 2, 3 }));
-    bool isSaved = true;
-    {
-        const SmallDisk disk(100);
-        EXPECT_FALSE(writePicture(fileIn("a.png"), QImage(90, 90, QImage::Format_RGB32), error));
-        isSaved = saveScene(stage, path, error);
-    }
+    // Files of this process stay below 100 bytes.
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit former {};
+    getrlimit(RLIMIT_FSIZE, &former);
+    rlimit small = former;
+    small.rlim_cur = 100;
+    setrlimit(RLIMIT_FSIZE, &small);
 
-    EXPECT_FALSE(isSaved);
+    EXPECT_FALSE(writePicture(fileIn("a.png"), QImage(90, 90, QImage::Format_RGB32), error));
+    EXPECT_FALSE(saveScene(stage, path, error));
+
+    setrlimit(RLIMIT_FSIZE, &former);
+    std::signal(SIGXFSZ, handler);
     EXPECT_TRUE(error.startsWith(path + ": ")) << error.toStdString();
     EXPECT_FALSE(error.contains('\n'));
-    EXPECT_EQ(read(path), before);
+    EXPECT_EQ(readFile(path), before);
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList({ "scene.nbscene" }));
     EXPECT_TRUE(saveScene(stage, path, error)) << "there is room again";
-    EXPECT_NE(read(path), before);
+    EXPECT_NE(readFile(path), before);
 }
 
 TEST_F(SceneFile, WhatAKilledProgramKeptIsTakenUpOnceAndThatOfARunningOneNever)

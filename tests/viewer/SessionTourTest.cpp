@@ -3,7 +3,6 @@
 
 #include "tests/viewer/support/ShownWindow.h"
 
-#include <QFile>
 #include <QImage>
 #include <QTemporaryDir>
 
@@ -17,11 +16,9 @@ class SessionTourTest : public ShownWindow
 protected:
     QString write(const char* name, const char* steps)
     {
-        const QString path = folder.filePath(QLatin1String(name));
-        QFile file(path);
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(QByteArray(R"({"session": 1, "size": [400, 300], "steps": [)") + steps + "]}");
-        return path;
+        return writeFile(folder.filePath(QLatin1String(name)),
+                         QByteArray(R"({"session": 1, "size": [400, 300], "steps": [)") + steps +
+                             "]}");
     }
 
     QStringList take(const QStringList& sessions, const std::optional<QDir>& pictures)
@@ -82,11 +79,9 @@ TEST_F(SessionTourTest, GoesOnAfterASessionThatFails)
     const QString unmet = write(
         "unmet.json", R"({"type": "checkpoint", "name": "a", "expect": {"selection": "Nobody"}})");
     const QString broken = write("broken.json", R"({"type": "jump"})");
-    const QString lost = write("lost.json", R"({"type": "leave"})");
-    QFile file(lost);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(R"({"session": 1, "size": [400, 300], "files": ["gone.obj"], "steps": []})");
-    file.close();
+    const QString lost =
+        writeFile(folder.filePath("lost.json"),
+                  R"({"session": 1, "size": [400, 300], "files": ["gone.obj"], "steps": []})");
 
     const QStringList failures = take({ unmet, broken, lost, sound }, std::nullopt);
 

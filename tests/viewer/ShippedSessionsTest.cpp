@@ -7,9 +7,9 @@
 #include <nbOpenSGRenderAction/nbOffscreenView.h>
 
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 
+#include "support/Files.h"
 #include "support/GuiTest.h"
 
 namespace viewer {
@@ -63,13 +63,6 @@ private:
     std::size_t lastFrame = 0;
 };
 
-QByteArray textOf(const QString& path)
-{
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
-    return file.readAll();
-}
-
 /// What a session made looks the same, and is the same, after saving and opening.
 void checkThatTheSceneSurvivesSaving(MainWindow& window)
 {
@@ -95,7 +88,7 @@ void checkThatTheSceneSurvivesSaving(MainWindow& window)
 
     EXPECT_EQ(plainPicture(), before);
     ASSERT_TRUE(stage.commands().run("scene.save", second, error)) << error.toStdString();
-    EXPECT_EQ(textOf(second), textOf(first));
+    EXPECT_EQ(readFile(second), readFile(first));
 }
 
 class ShippedSessions : public GuiTest, public testing::WithParamInterface<std::string>

@@ -5,9 +5,9 @@
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 
+#include "support/Files.h"
 #include "support/TextureTest.h"
 
 namespace viewer {
@@ -159,10 +159,7 @@ TEST_F(TextureToolTest, BadInputIsOneLineAndChangesNothing)
 {
     QTemporaryDir folder;
     stage.commands().setFolder(QDir(folder.path()));
-    QFile broken(folder.filePath("broken.png"));
-    ASSERT_TRUE(broken.open(QIODevice::WriteOnly));
-    broken.write("\x89PNG\r\n\x1a\nand no more");
-    broken.close();
+    writeFile(folder.filePath("broken.png"), "\x89PNG\r\n\x1a\nand no more");
 
     expectRefusals({
         { "texture.picture", "missing.png" },

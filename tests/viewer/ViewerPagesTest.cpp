@@ -5,7 +5,6 @@
 #include "viewer/gui/CommandLine.h"
 #include "viewer/replay/Session.h"
 
-#include <QFile>
 #include <QRegularExpression>
 
 #include <utility>
@@ -17,9 +16,7 @@ const QString kPages = QStringLiteral(NB_VIEWER_FOLDER "/../docs/");
 
 QString textOf(const QString& page)
 {
-    QFile file(kPages + page);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << page.toStdString();
-    return QString::fromUtf8(file.readAll());
+    return QString::fromUtf8(readFile(kPages + page));
 }
 
 /// What stands between a heading and the next one.

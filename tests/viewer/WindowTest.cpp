@@ -8,20 +8,12 @@
 #include "viewer/gui/Theme.h"
 #include "viewer/gui/ThemeIcon.h"
 
-#include <QAbstractButton>
-#include <QAbstractItemView>
-#include <QAbstractSlider>
-#include <QAbstractSpinBox>
 #include <QAccessible>
 #include <QAction>
 #include <QApplication>
-#include <QComboBox>
-#include <QLineEdit>
 #include <QMenuBar>
-#include <QProgressBar>
 #include <QStatusBar>
 #include <QToolBar>
-#include <QToolButton>
 
 #include <set>
 
@@ -43,22 +35,17 @@ protected:
 /// Parts that Qt makes inside its widgets have names of Qt, or none.
 bool isOwnControl(const QWidget* widget)
 {
-    if (widget->objectName().startsWith(QLatin1String("qt_")) ||
-        qobject_cast<const QAbstractSpinBox*>(widget->parent()) != nullptr ||
-        qobject_cast<const QComboBox*>(widget->parent()) != nullptr ||
-        widget->inherits("QDockWidgetTitleButton") || widget->inherits("QToolBarExtension") ||
-        widget->inherits("QScrollBar") || widget->inherits("QHeaderView") ||
-        widget->inherits("QComboBoxListView")) {
-        return false;
-    }
-    return qobject_cast<const QAbstractButton*>(widget) != nullptr ||
-        qobject_cast<const QAbstractSpinBox*>(widget) != nullptr ||
-        qobject_cast<const QComboBox*>(widget) != nullptr ||
-        qobject_cast<const QLineEdit*>(widget) != nullptr ||
-        qobject_cast<const QAbstractSlider*>(widget) != nullptr ||
-        qobject_cast<const QAbstractItemView*>(widget) != nullptr ||
-        qobject_cast<const QProgressBar*>(widget) != nullptr ||
-        qobject_cast<const ViewWidget*>(widget) != nullptr;
+    const auto isOneOf = [widget](std::initializer_list<const char*> kinds) {
+        return std::any_of(kinds.begin(), kinds.end(),
+                           [widget](const char* kind) { return widget->inherits(kind); });
+    };
+    return !widget->objectName().startsWith(QLatin1String("qt_")) &&
+        !widget->parent()->inherits("QAbstractSpinBox") &&
+        !widget->parent()->inherits("QComboBox") &&
+        !isOneOf({ "QDockWidgetTitleButton", "QToolBarExtension", "QScrollBar", "QHeaderView",
+                   "QComboBoxListView" }) &&
+        isOneOf({ "QAbstractButton", "QAbstractSpinBox", "QComboBox", "QLineEdit",
+                  "QAbstractSlider", "QAbstractItemView", "QProgressBar", "viewer::ViewWidget" });
 }
 
 TEST_F(WindowTest, EveryControlHasANameForThoseWhoDoNotSeeItAndIsReachedByTab)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tests/viewer/support/Files.h"
 #include "tests/viewer/support/StageTest.h"
 #include "viewer/loading/ModelReader.h"
 #include "viewer/match/PerspectiveMatchTool.h"
@@ -9,7 +10,6 @@
 #include "viewer/scenes/SceneCapture.h"
 #include "viewer/textures/TextureTool.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 
 namespace viewer {
@@ -36,19 +36,6 @@ protected:
         const std::optional<ModelData> data = readModelFile(file, {}, error);
         ASSERT_TRUE(data) << error.toStdString();
         stage.add(*data);
-    }
-
-    void write(const QString& path, const QByteArray& text)
-    {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
-    }
-
-    static QByteArray read(const QString& path)
-    {
-        QFile file(path);
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
-        return file.readAll();
     }
 
     /// What would be saved into the folder now.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tests/viewer/support/Files.h"
 #include "tests/viewer/support/GuiTest.h"
 #include "tests/viewer/support/StageTest.h"
 #include "viewer/gui/MainWindow.h"
@@ -113,14 +114,6 @@ protected:
     {
         press(place);
         release(place);
-    }
-
-    void drag(const QPointF& from, const QPointF& to)
-    {
-        press(from);
-        move(from + 0.3 * (to - from));
-        move(to);
-        release(to);
     }
 
     static void pressKey(QWidget& receiver, int key)
