@@ -35,12 +35,6 @@ protected:
         camera->setFar(100.f);
     }
 
-    void place(const Vec3f& position)
-    {
-        beaconCore->getMatrix().setTranslate(position);
-        changedCP(beaconCore, Transform::MatrixFieldMask);
-    }
-
     TransformPtr beaconCore;
     RefPtr<PassiveWindowPtr> window;
     RefPtr<ViewportPtr> viewport;
@@ -54,7 +48,8 @@ TEST_F(Cameras, RayKeepsItsDirectionFarFromTheOriginAndWithAWideDepthRange)
 {
     camera->setNear(0.001f);
     camera->setFar(1e6f);
-    place(Vec3f(4096.f, -2048.f, 8192.f));
+    beaconCore->getMatrix().setTranslate(Vec3f(4096.f, -2048.f, 8192.f));
+    changedCP(beaconCore, Transform::MatrixFieldMask);
     Line line;
 
     ASSERT_TRUE(camera->calcViewRay(line, 600, 151, *viewport.get()));

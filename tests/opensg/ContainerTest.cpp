@@ -7,7 +7,6 @@
 #include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGNodePtr.h>
 #include <OpenSG/OSGRefPtr.h>
-#include <OpenSG/OSGSimpleAttachments.h>
 #include <OpenSG/OSGTransform.h>
 
 #include <gtest/gtest.h>
@@ -73,23 +72,6 @@ TEST(IdTable, ResolvesExactlyTheLivingThroughRandomLifeAndDeath)
         destroy(entry.second);
     }
     EXPECT_EQ(resolve(lastId), NullFC);
-}
-
-// == Census
-
-TEST(ContainerCensus, NamesWhatCameAndWentByType)
-{
-    const NodeRefPtr old = hold(makeCoredNode<Group>());
-    const nbtest::ContainerCensus before;
-
-    const NodeRefPtr node = hold(makeCoredNode<Transform>());
-    setName(node, "named");
-    const nbtest::ContainerCensus between;
-    old->setCore(NullFC);
-
-    EXPECT_EQ(between.differenceTo(before), "Name +1, Node +1, Transform +1");
-    EXPECT_EQ(nbtest::ContainerCensus().differenceTo(between), "Group -1");
-    EXPECT_EQ(between.differenceTo(between), "");
 }
 
 // == Pointers and counts

@@ -8,31 +8,22 @@
 
 OSG_USING_NAMESPACE
 
-namespace {
-
-/// Counts the containers alive before and after a test.
-class Materials : public testing::Test
+TEST(Materials, UniformsClearedDirectlyAreFreed)
 {
-protected:
-    ~Materials() override { EXPECT_EQ(nbtest::ContainerCensus().differenceTo(before), ""); }
+    const nbtest::ContainerCensus before;
+    {
+        const RefPtr<SHLChunkPtr> shader(SHLChunk::create());
+        shader->setUniformParameter("a", Real32(1.f));
+        shader->setUniformParameter("b", Real32(2.f));
 
-    nbtest::ContainerCensus before;
-};
+        shader->getMFParameters()->clear();
+        shader->setUniformParameter("c", Int32(3));
 
-}  // namespace
-
-TEST_F(Materials, UniformsClearedDirectlyAreFreed)
-{
-    const RefPtr<SHLChunkPtr> shader(SHLChunk::create());
-    shader->setUniformParameter("a", Real32(1.f));
-    shader->setUniformParameter("b", Real32(2.f));
-
-    shader->getMFParameters()->clear();
-    shader->setUniformParameter("c", Int32(3));
-
-    EXPECT_EQ(nbtest::ContainerCensus().count("ShaderParameterReal"),
-              before.count("ShaderParameterReal"));
-    Int32 value = 0;
-    EXPECT_TRUE(shader->getUniformParameter("c", value));
-    EXPECT_EQ(value, 3);
+        EXPECT_EQ(nbtest::ContainerCensus().count("ShaderParameterReal"),
+                  before.count("ShaderParameterReal"));
+        Int32 value = 0;
+        EXPECT_TRUE(shader->getUniformParameter("c", value));
+        EXPECT_EQ(value, 3);
+    }
+    EXPECT_EQ(nbtest::ContainerCensus().differenceTo(before), "");
 }

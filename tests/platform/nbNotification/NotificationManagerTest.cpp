@@ -76,18 +76,6 @@ TEST_F(NotificationManagerTest, WhatCannotBeSeenIsLeftOut)
     EXPECT_TRUE(manager->getVisibleTexts(800, 600).empty());
 }
 
-TEST_F(NotificationManagerTest, TheNodeOfACameraNotifierGoesWithIt)
-{
-    auto notifier = addNotifier("a");
-    ASSERT_EQ(1u, root->getNChildren());
-    EXPECT_TRUE(nbNodeUtils::isAuxiliaryNode(root->getChild(0)));
-
-    manager->registerNotifier("a", nullptr);
-    notifier.reset();
-
-    EXPECT_EQ(0u, root->getNChildren());
-}
-
 TEST_F(NotificationManagerTest, ListenersHearOfChangesAndMayThrow)
 {
     const nbtest::LogLines log;

@@ -13,19 +13,19 @@ using nbrender::Mesh;
 
 namespace {
 
-/// One primitive of a kind over points (i, i * i, 0), without indices and normals.
-osg::GeometryPtr parabola(GLenum kind, osg::UInt32 count)
+/// Triangles over four points (i, i * i, 0), without indices and normals.
+osg::GeometryPtr parabola(osg::UInt32 corners)
 {
     const osg::GeometryPtr geometry = osg::Geometry::create();
     const osg::GeoPositions3fPtr positions = osg::GeoPositions3f::create();
     const osg::GeoPTypesUI8Ptr types = osg::GeoPTypesUI8::create();
     const osg::GeoPLengthsUI32Ptr lengths = osg::GeoPLengthsUI32::create();
-    for (osg::UInt32 i = 0; i < count; ++i) {
+    for (osg::UInt32 i = 0; i < 4; ++i) {
         const auto x = static_cast<float>(i);
         positions->addValue(osg::Pnt3f(x, x * x, 0.f));
     }
-    types->addValue(kind);
-    lengths->addValue(count);
+    types->addValue(GL_TRIANGLES);
+    lengths->addValue(corners);
     geometry->setPositions(positions);
     geometry->setTypes(types);
     geometry->setLengths(lengths);
@@ -41,8 +41,7 @@ TEST(nbMesh, CornersWithTheSameSourcesShareAVertex)
     EXPECT_EQ(buildMesh(box).triangles.size(), 36u);
 
     // A square of two triangles; the last corner has a normal of its own.
-    const osg::GeometryRefPtr geometry(parabola(GL_TRIANGLES, 4));
-    geometry->getLengths()->setValue(6, 0);
+    const osg::GeometryRefPtr geometry(parabola(6));
     const osg::GeoNormals3fPtr normals = osg::GeoNormals3f::create();
     normals->addValue(osg::Vec3f(0.f, 0.f, 1.f));
     normals->addValue(osg::Vec3f(1.f, 0.f, 0.f));

@@ -57,16 +57,6 @@ protected:
     bool driverKeeps = true;
 };
 
-TEST_F(SceneImageTest, TheSecondFrameKeepsWhatPrecedesTheFirstHandleAndFurtherOnesUseIt)
-{
-    EXPECT_EQ(plan({ 1, 2, 3, -4, 5 }).kept, 0U) << "nothing is known of the scene yet";
-    EXPECT_EQ(plan({ 1, 2, 3, -5, 5 }).kept, 3U);
-
-    const SceneImage::Plan third = plan({ 1, 2, 3, -6, -7, 5 });
-    EXPECT_EQ(third.reused, 3U);
-    EXPECT_EQ(third.kept, 0U);
-}
-
 TEST_F(SceneImageTest, AChangedBeginningIsDrawnAndKeptWhenItStandsStill)
 {
     plan({ 1, 2, -4 });

@@ -92,18 +92,7 @@ protected:
 
     static std::size_t reused() { return view->getAction().getStatistics().reused; }
 
-    void setViewport(const std::function<void(const osg::UberViewportPtr&)>& set)
-    {
-        const nbEdit edit(viewport, osg::FieldBits::AllFields);
-        set(viewport.get());
-    }
-
-    static void setPlate(const osg::NodePtr& node,
-                         const std::function<void(const osg::SceneplatePtr&)>& set)
-    {
-        const nbEdit edit(platetest::plateOf(node), osg::FieldBits::AllFields);
-        set(platetest::plateOf(node));
-    }
+    osg::SceneplatePtr frontPlate() const { return platetest::plateOf(show.frontPlate); }
 
     /// Those that leave the scene as it is.
     std::vector<Change> handleChanges();
@@ -131,21 +120,15 @@ std::vector<KeptPictureTest::Change> KeptPictureTest::handleChanges()
         { "highlight", [this] { setDiffuse(materialOf(show.handle), nextColor()); } },
         { "handle moved", [this] { turn(show.handle, 0.1f); } },
         { "handle hidden or shown",
-          [this] {
-              const nbEdit edit(show.lineHandle, osg::Node::TravMaskFieldMask);
-              show.lineHandle->setActive(!show.lineHandle->getActive());
-          } },
+          [this] { nbtest::edited(show.lineHandle)->setActive(!show.lineHandle->getActive()); } },
         { "plate before the scene marked",
           [this] {
-              setPlate(show.frontPlate, [](const osg::SceneplatePtr& plate) {
-                  plate->setMarker((plate->getMarker() + 1) % 3);
-              });
+              nbtest::edited(frontPlate())->setMarker((frontPlate()->getMarker() + 1) % 3);
           } },
         { "plate before the scene moved",
           [this] {
-              setPlate(show.frontPlate, [](const osg::SceneplatePtr& plate) {
-                  plate->setPosition(plate->getPosition() - osg::Vec2f(0.02f, 0.01f));
-              });
+              const osg::Vec2f place = frontPlate()->getPosition();
+              nbtest::edited(frontPlate())->setPosition(place - osg::Vec2f(0.02f, 0.01f));
           } },
     };
 }
@@ -159,8 +142,7 @@ std::vector<KeptPictureTest::Change> KeptPictureTest::materialChanges()
           [this] {
               osg::ImagePtr image = nbImageConvert::toImage(
                   quarters(nextColor(), nextColor(), nextColor(), nextColor()));
-              const nbEdit edit(show.texture, osg::FieldBits::AllFields);
-              show.texture->setImage(image);
+              nbtest::edited(show.texture)->setImage(image);
           } },
         { "pixels of a texture's image",
           [this] {
@@ -188,9 +170,8 @@ std::vector<KeptPictureTest::Change> KeptPictureTest::materialChanges()
         { "plate behind the scene",
           [this] {
               const osg::Color3f c = color(nextColor());
-              setPlate(show.backPlate, [c](const osg::SceneplatePtr& plate) {
-                  plate->setColor(osg::Color4f(c.red(), c.green(), c.blue(), 1.f));
-              });
+              nbtest::edited(platetest::plateOf(show.backPlate))
+                  ->setColor(osg::Color4f(c.red(), c.green(), c.blue(), 1.f));
           } },
     };
 }
@@ -204,21 +185,18 @@ std::vector<KeptPictureTest::Change> KeptPictureTest::placeChanges()
         { "clip plane's place, which is not in the tree",
           [this] {
               const auto core = osg::ComponentTransformPtr::dcast(show.clipPlace->getCore());
-              const nbEdit edit(core, osg::FieldBits::AllFields);
-              core->setTranslation(core->getTranslation() + osg::Vec3f(0.05f, 0.f, 0.f));
+              const osg::Vec3f way(0.05f, 0.f, 0.f);
+              nbtest::edited(core)->setTranslation(core->getTranslation() + way);
           } },
         { "corner of a geometry",
           [this] {
               const auto geometry = osg::GeometryPtr::dcast(show.card->getChild(0)->getCore());
-              const osg::GeoPositionsPtr positions = geometry->getPositions();
-              const nbEdit edit(positions, osg::FieldBits::AllFields);
-              positions->setValue(positions->getValue(0) - osg::Vec3f(0.05f, 0.f, 0.f), 0);
+              const osg::Pnt3f corner = geometry->getPositions()->getValue(0);
+              nbtest::edited(geometry->getPositions())
+                  ->setValue(corner - osg::Vec3f(0.05f, 0.f, 0.f), 0);
           } },
         { "object hidden or shown",
-          [this] {
-              const nbEdit edit(show.textured, osg::Node::TravMaskFieldMask);
-              show.textured->setActive(!show.textured->getActive());
-          } },
+          [this] { nbtest::edited(show.textured)->setActive(!show.textured->getActive()); } },
     };
 }
 
@@ -229,32 +207,23 @@ std::vector<KeptPictureTest::Change> KeptPictureTest::viewChanges()
           [this] { lookFrom(osg::Pnt3f(2.f + 0.001f * static_cast<float>(++hue), 3.f, 6.f)); } },
         { "width", [this] { widthPx = widthPx == kSize ? kSize + 60 : kSize; } },
         { "plate before the scene hidden or shown",
-          [this] {
-              setPlate(show.frontPlate, [](const osg::SceneplatePtr& plate) {
-                  plate->setVisible(!plate->getVisible());
-              });
-          } },
+          [this] { nbtest::edited(frontPlate())->setVisible(!frontPlate()->getVisible()); } },
         { "background",
           [this] {
               const osg::Color3f c = color(nextColor());
-              setViewport([c](const osg::UberViewportPtr& port) {
-                  port->setBackgroundColor(osg::Color4f(c.red(), c.green(), c.blue(), 1.f));
-              });
+              nbtest::edited(viewport)->setBackgroundColor(
+                  osg::Color4f(c.red(), c.green(), c.blue(), 1.f));
           } },
         { "photograph",
           [this] {
               const QImage picture = quarters(nextColor(), kWhite, kYellow, nextColor());
-              setViewport([&picture](const osg::UberViewportPtr& port) {
-                  port->setPhotograph(nbImageConvert::toImage(picture));
-              });
+              nbtest::edited(viewport)->setPhotograph(nbImageConvert::toImage(picture));
           } },
         { "veil",
           [this] {
-              const QImage picture = colorQuarters();
-              setViewport([&picture](const osg::UberViewportPtr& port) {
-                  port->setPhotograph(nbImageConvert::toImage(picture));
-                  port->setPhotographVeil(port->getPhotographVeil() > 0.4f ? 0.2f : 0.5f);
-              });
+              nbtest::edited(viewport)->setPhotograph(nbImageConvert::toImage(colorQuarters()));
+              nbtest::edited(viewport)->setPhotographVeil(
+                  viewport->getPhotographVeil() > 0.4f ? 0.2f : 0.5f);
           } },
         { "pixel ratio",
           [this] {

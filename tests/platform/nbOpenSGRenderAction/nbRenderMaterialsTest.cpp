@@ -21,7 +21,6 @@ namespace {
 osg::SHLChunkPtr programOf(const std::string& uniforms, const std::string& color)
 {
     const osg::SHLChunkPtr chunk = osg::SHLChunk::create();
-    const nbEdit edit(chunk, osg::FieldBits::AllFields);
     chunk->setVertexProgram(shaderHeaderString(nbShaderStage::Vertex, true, false, false) +
                             "uniform mat4 viewProjectionMatrix;\n"
                             "void main() { gl_Position = viewProjectionMatrix * "
@@ -161,11 +160,8 @@ TEST_F(nbRenderMaterialsTest, BrokenShaderCostsOneLineAndIsDrawnInPlainColor)
 {
     const nbtest::LogLines log;
     const osg::SHLChunkPtr chunk = osg::SHLChunk::create();
-    {
-        const nbEdit edit(chunk, osg::FieldBits::AllFields);
-        chunk->setFragmentProgram("#version 330 core\nvoid main() { this is no program; }\n");
-        chunk->setUniformParameter("color", osg::Vec4f(0.f, 0.f, 1.f, 1.f));
-    }
+    chunk->setFragmentProgram("#version 330 core\nvoid main() { this is no program; }\n");
+    chunk->setUniformParameter("color", osg::Vec4f(0.f, 0.f, 1.f, 1.f));
 
     draw(group({ square(1.f, with(unlit(kGreen), osg::StateChunkPtr(chunk))) }));
     const QImage picture = redraw();

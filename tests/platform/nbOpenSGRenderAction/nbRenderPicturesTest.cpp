@@ -28,24 +28,18 @@ protected:
 
 TEST_F(nbRenderPicturesTest, PictureIsWhereTheProjectionSaysInBothKindsOfView)
 {
-    const osg::Vec3f kNoTurn(0.f, 0.f, 0.f);
-
     struct Row
     {
         const char* what;
-        osg::Vec3f translation;
-        osg::Vec3f rotationDeg;
-        float orientation;
-        osg::Vec3f scale;
         std::vector<Probe> probes;
+        osg::Vec3f translation {};
+        osg::Vec3f scale { 1.f, 1.f, 1.f };
+        osg::Vec3f rotationDeg {};
+        float orientation = 0.f;
     };
 
     const Row rows[] = {
         { "as made",
-          { 0.f, 0.f, 0.f },
-          kNoTurn,
-          0.f,
-          { 1.f, 1.f, 1.f },
           { { -0.5f, 0.5f, kBlue },
             { 0.5f, 0.5f, kYellow },
             { -0.5f, -0.5f, kRed },
@@ -54,44 +48,33 @@ TEST_F(nbRenderPicturesTest, PictureIsWhereTheProjectionSaysInBothKindsOfView)
             { 1.06f, 0.5f, kGrey },
             { -0.5f, -1.06f, kGrey } } },
         { "translated",
-          { 0.8f, -0.4f, 3.f },
-          kNoTurn,
-          0.f,
-          { 1.f, 1.f, 1.f },
           { { 0.3f, 0.1f, kBlue },
             { 1.3f, -0.9f, kGreen },
             { -0.26f, 0.f, kGrey },
-            { 0.5f, 0.66f, kGrey } } },
+            { 0.5f, 0.66f, kGrey } },
+          { 0.8f, -0.4f, 3.f } },
         { "scaled",
-          { 0.f, 0.f, 0.f },
-          kNoTurn,
-          0.f,
-          { 0.5f, 1.8f, 1.f },
-          { { -0.25f, 1.7f, kBlue }, { 0.44f, -1.7f, kGreen }, { 0.56f, 0.f, kGrey } } },
-        { "mirrored",
-          { 0.f, 0.f, 0.f },
-          kNoTurn,
-          0.f,
-          { -1.f, 1.f, 1.f },
-          { { -0.5f, 0.5f, kYellow }, { 0.5f, -0.5f, kRed } } },
+          { { -0.25f, 1.7f, kBlue }, { 0.44f, -1.7f, kGreen }, { 0.56f, 0.f, kGrey } },
+          {},
+          { 0.5f, 1.8f, 1.f } },
+        { "mirrored", { { -0.5f, 0.5f, kYellow }, { 0.5f, -0.5f, kRed } }, {}, { -1.f, 1.f, 1.f } },
         { "turned by its angles and its orientation, 45 degrees each",
-          { 0.f, 0.f, 0.f },
-          { 0.f, 0.f, 45.f },
-          0.25f * kPi,
-          { 1.f, 0.5f, 1.f },
           { { 0.25f, 0.5f, kGreen },
             { -0.25f, 0.5f, kYellow },
             { -0.25f, -0.5f, kBlue },
             { 0.25f, -0.5f, kRed },
             { 0.6f, 0.f, kGrey },
-            { -0.4f, 0.94f, kYellow } } },
+            { -0.4f, 0.94f, kYellow } },
+          {},
+          { 1.f, 0.5f, 1.f },
+          { 0.f, 0.f, 45.f },
+          0.25f * kPi },
+        // What lies at y on the wall is at y cos 60 along the picture.
         { "turned about x, so that it is seen shortened",
-          { 0.f, 0.f, 0.f },
-          { 60.f, 0.f, 0.f },
-          0.f,
+          { { -0.5f, 1.8f, kBlue }, { 0.5f, -1.8f, kGreen }, { 1.06f, 0.5f, kGrey } },
+          {},
           { 1.f, 1.f, 1.f },
-          // What lies at y on the wall is at y cos 60 along the picture.
-          { { -0.5f, 1.8f, kBlue }, { 0.5f, -1.8f, kGreen }, { 1.06f, 0.5f, kGrey } } },
+          { 60.f, 0.f, 0.f } },
     };
     for (const bool orthographic : { true, false }) {
         setOrthographic(orthographic);
@@ -133,18 +116,9 @@ TEST_F(nbRenderPicturesTest, ZExtentReachesFromThePlaneOneUnitBehindIt)
     for (int i = 0; i < 5; ++i) {
         // The material's space is each square's own: the transform above moves the square, so the
         // square itself has to be at the height.
-        const osg::NodePtr plane = osg::makePlane(0.6f, 0.6f, 1, 1);
-        const osg::GeometryPtr geometry =
-            osg::GeometryPtr::dcast(colored(plane, picture.material.get())->getCore());
-        const osg::GeoPositionsPtr positions = geometry->getPositions();
-        const nbEdit edit(positions, osg::FieldBits::AllFields);
-        for (osg::UInt32 k = 0; k < positions->getSize(); ++k) {
-            positions->setValue(
-                positions->getValue(k) +
-                    osg::Vec3f(-1.6f + 0.8f * static_cast<float>(i), 0.5f, places[i]),
-                k);
-        }
-        walls.push_back(plane);
+        const osg::Vec3f way(-1.6f + 0.8f * static_cast<float>(i), 0.5f, places[i]);
+        walls.push_back(colored(osg::makePlane(0.6f, 0.6f, 1, 1), picture.material.get()));
+        nbtest::changePoints(walls.back(), [&way](const osg::Pnt3f& p) { return p + way; });
     }
     const osg::NodePtr root = group(walls);
 
@@ -177,17 +151,6 @@ TEST_F(nbRenderPicturesTest, LiesInTheSpaceOfTheNodeThatCarriesTheMaterial)
           { 1.1f, 1.5f, kGrey },
           { 0.5f, -0.5f, kGrey } },
         "a geometry's own material");
-
-    // A group's material lies in the group's space, whatever moves what is below.
-    const osg::NodePtr moved = placed(osg::makePlane(4.f, 4.f, 1, 1), { 0.7f, 0.7f, 0.f });
-    expectColors(draw(transformed(materialGroup(picture.material.get(), moved), { 0.f, 0.f, 0.f },
-                                  { 0.f, 0.f, 180.f }, { 2.f, 2.f, 2.f })),
-                 { { -0.5f, 0.5f, kRed },
-                   { -1.5f, 0.5f, kGreen },
-                   { -0.5f, -0.5f, kBlue },
-                   { -1.5f, -0.5f, kYellow },
-                   { 0.2f, 0.2f, kGrey } },
-                 "a group's material");
 }
 
 // == How it covers

@@ -72,12 +72,8 @@ protected:
         const osg::NodePtr cylinder =
             colored(osg::makeCylinder(width, radius, 64, true, true, true), picture.material.get());
         const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(cylinder->getCore());
-        const nbEdit edit(geometry->getPositions(), osg::FieldBits::AllFields);
-        const nbEdit normalEdit(geometry->getNormals(), osg::FieldBits::AllFields);
-        for (osg::UInt32 i = 0; i < geometry->getPositions()->getSize(); ++i) {
-            const osg::Pnt3f p = geometry->getPositions()->getValue(i);
-            geometry->getPositions()->setValue(osg::Pnt3f(p.y(), p.z(), p.x()), i);
-        }
+        nbtest::changePoints(cylinder,
+                             [](const osg::Pnt3f& p) { return osg::Pnt3f(p.y(), p.z(), p.x()); });
         for (osg::UInt32 i = 0; i < geometry->getNormals()->getSize(); ++i) {
             const osg::Vec3f n = geometry->getNormals()->getValue(i);
             geometry->getNormals()->setValue(osg::Vec3f(n.y(), n.z(), n.x()), i);

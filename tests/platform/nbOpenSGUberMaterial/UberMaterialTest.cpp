@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <nbOpenSGUberMaterial/UberMaterial.h>
+#include "tests/support/ContainerCensus.h"
 
-#include <OpenSG/OSGFieldContainerFactory.h>
+#include <nbOpenSGUberMaterial/UberMaterial.h>
 
 #include <gtest/gtest.h>
 
@@ -22,27 +22,20 @@ protected:
 
 }  // namespace
 
-TEST_F(UberMaterialTest, CountsWhatItHoldsAndGivesItBack)
+TEST_F(UberMaterialTest, HoldsWhatItWasGivenAndGivesItBack)
 {
-    const osg::FieldContainerFactory* const factory = osg::FieldContainerFactory::the();
-    const osg::ImagePtr image = makeImage(osg::Image::OSG_RGB_PF);
+    const nbtest::ContainerCensus before;
     const osg::ColorComponentSettingsPtr settings = osg::ColorComponentSettings::create();
     settings->setPlanarProjection(osg::Transform3D::create());
-    const osg::UInt32 ids[] = { image.getFieldContainerId(), settings.getFieldContainerId(),
-                                settings->getPlanarProjection().getFieldContainerId() };
-
-    material->setImage("diffuse", image);
+    material->setImage("diffuse", makeImage(osg::Image::OSG_RGB_PF));
     material->setComponentSettings("diffuse", settings);
     material->setComponentSettings("transparency", settings);
-    for (const osg::UInt32 id : ids) {
-        EXPECT_TRUE(factory->getContainer(id) != osg::NullFC);
-    }
+    const nbtest::ContainerCensus filled;
+
     material->setComponentSettings("diffuse", osg::NullFC);
-    EXPECT_TRUE(factory->getContainer(ids[1]) != osg::NullFC);
+    EXPECT_EQ(nbtest::ContainerCensus().differenceTo(filled), "") << "held by the other component";
     material = osg::NullFC;
-    for (const osg::UInt32 id : ids) {
-        EXPECT_TRUE(factory->getContainer(id) == osg::NullFC);
-    }
+    EXPECT_EQ(nbtest::ContainerCensus().differenceTo(before), "UberMaterial -1");
 }
 
 TEST_F(UberMaterialTest, IsTransparentWithAPictureThatCanMakeItSo)

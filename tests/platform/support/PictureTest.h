@@ -59,19 +59,10 @@ struct PictureMaterial
     explicit PictureMaterial(const std::string& name = osg::UberMaterial::kDiffuseComponent)
         : component(name)
     {
-        {
-            const nbEdit edit(material, osg::FieldBits::AllFields);
-            material->setDiffuse(color(kGrey));
-            material->setLit(false);
-        }
-        addComponent(component, settings, projection);
-    }
-
-    void addComponent(const std::string& name, const osg::ColorComponentSettingsPtr& added,
-                      const osg::Transform3DPtr& itsProjection)
-    {
-        nbtest::edited(added)->setPlanarProjection(itsProjection);
-        material->setComponentSettings(name, added);
+        material->setDiffuse(color(kGrey));
+        material->setLit(false);
+        settings->setPlanarProjection(projection.get());
+        material->setComponentSettings(component, settings.get());
     }
 
     void setPicture(const QImage& picture)

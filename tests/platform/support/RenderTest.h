@@ -54,7 +54,6 @@ inline osg::Color3f color(const QColor& c)
 inline osg::SimpleMaterialPtr unlit(const QColor& c, int sortKey = 0, float transparency = 0.f)
 {
     const osg::SimpleMaterialPtr material = osg::SimpleMaterial::create();
-    const nbEdit edit(material, osg::FieldBits::AllFields);
     material->setDiffuse(color(c));
     material->setLit(false);
     material->setSortKey(sortKey);
@@ -65,7 +64,6 @@ inline osg::SimpleMaterialPtr unlit(const QColor& c, int sortKey = 0, float tran
 template <class MaterialPtr>
 MaterialPtr with(const MaterialPtr& material, const osg::StateChunkPtr& chunk)
 {
-    const nbEdit edit(material, osg::FieldBits::AllFields);
     material->addChunk(chunk);
     return material;
 }
@@ -73,7 +71,6 @@ MaterialPtr with(const MaterialPtr& material, const osg::StateChunkPtr& chunk)
 inline osg::StateChunkPtr lineChunk(float width)
 {
     const osg::LineChunkPtr chunk = osg::LineChunk::create();
-    const nbEdit edit(chunk, osg::FieldBits::AllFields);
     chunk->setWidth(width);
     chunk->setSmooth(true);
     return chunk;
@@ -82,7 +79,6 @@ inline osg::StateChunkPtr lineChunk(float width)
 inline osg::StateChunkPtr alwaysChunk()
 {
     const osg::DepthTestChunkPtr chunk = osg::DepthTestChunk::create();
-    const nbEdit edit(chunk, osg::FieldBits::AllFields);
     chunk->setFunc(GL_ALWAYS);
     return chunk;
 }
@@ -90,7 +86,6 @@ inline osg::StateChunkPtr alwaysChunk()
 inline osg::StateChunkPtr blendChunk()
 {
     const osg::BlendChunkPtr chunk = osg::BlendChunk::create();
-    const nbEdit edit(chunk, osg::FieldBits::AllFields);
     chunk->setSrcFactor(GL_SRC_ALPHA);
     chunk->setDestFactor(GL_ONE_MINUS_SRC_ALPHA);
     return chunk;
@@ -99,7 +94,6 @@ inline osg::StateChunkPtr blendChunk()
 inline osg::NodePtr colored(const osg::NodePtr& node, const osg::MaterialPtr& material)
 {
     const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(node->getCore());
-    const nbEdit edit(geometry, osg::Geometry::MaterialFieldMask);
     geometry->setMaterial(material);
     return node;
 }
@@ -107,7 +101,6 @@ inline osg::NodePtr colored(const osg::NodePtr& node, const osg::MaterialPtr& ma
 inline osg::NodePtr group(const std::vector<osg::NodePtr>& children)
 {
     const osg::NodePtr node = osg::makeCoredNode<osg::Group>();
-    const nbEdit edit(node, osg::Node::ChildrenFieldMask);
     for (const osg::NodePtr& child : children) {
         node->addChild(child);
     }
@@ -118,8 +111,7 @@ inline osg::NodePtr materialGroup(const osg::MaterialPtr& material, const osg::N
 {
     osg::MaterialGroupPtr core;
     const osg::NodePtr node = osg::makeCoredNode<osg::MaterialGroup>(&core);
-    nbtest::edited(core, osg::MaterialGroup::MaterialFieldMask)->setMaterial(material);
-    const nbEdit edit(node, osg::Node::ChildrenFieldMask);
+    core->setMaterial(material);
     node->addChild(child);
     return node;
 }
@@ -134,7 +126,6 @@ inline osg::NodePtr placed(const osg::NodePtr& child, const osg::Vec3f& translat
         core->setTranslation(translation);
         core->setRotation(rotation);
     }
-    const nbEdit edit(node, osg::Node::ChildrenFieldMask);
     node->addChild(child);
     return node;
 }

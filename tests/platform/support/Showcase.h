@@ -23,7 +23,6 @@ inline osg::MaterialPtr materialOf(const osg::NodePtr& placedGeometry)
 inline osg::SimpleMaterialPtr lit(const QColor& c, float transparency = 0.f)
 {
     const osg::SimpleMaterialPtr material = unlit(c, 0, transparency);
-    const nbEdit edit(material, osg::SimpleMaterial::LitFieldMask);
     material->setLit(true);
     return material;
 }
@@ -31,14 +30,11 @@ inline osg::SimpleMaterialPtr lit(const QColor& c, float transparency = 0.f)
 inline osg::SHLChunkPtr shaderChunk()
 {
     const osg::SHLChunkPtr chunk = osg::SHLChunk::create();
-    {
-        const nbEdit edit(chunk, osg::FieldBits::AllFields);
-        chunk->setFragmentProgram("#version 330 core\n"
-                                  "uniform vec4 tint;\n"
-                                  "layout (location = 0) out vec4 color;\n"
-                                  "layout (location = 1) out vec4 effect;\n"
-                                  "void main() { color = tint; effect = vec4(1.0); }\n");
-    }
+    chunk->setFragmentProgram("#version 330 core\n"
+                              "uniform vec4 tint;\n"
+                              "layout (location = 0) out vec4 color;\n"
+                              "layout (location = 1) out vec4 effect;\n"
+                              "void main() { color = tint; effect = vec4(1.0); }\n");
     chunk->setUniformParameter("tint", osg::Vec4f(0.5f, 0.f, 0.5f, 1.f));
     return chunk;
 }
@@ -47,7 +43,6 @@ inline osg::TextureChunkPtr textureChunk()
 {
     const osg::TextureChunkPtr chunk = osg::TextureChunk::create();
     osg::ImagePtr image = nbImageConvert::toImage(colorQuarters());
-    const nbEdit edit(chunk, osg::FieldBits::AllFields);
     chunk->setImage(image);
     chunk->setEnvMode(GL_MODULATE);
     return chunk;
@@ -66,11 +61,8 @@ struct Showcase
     Showcase()
     {
         pictured.setPicture(colorQuarters());
-        {
-            const nbEdit edit(clip, osg::FieldBits::AllFields);
-            clip->setEquation(osg::Vec4f(1.f, 0.f, 0.f, 0.f));
-            clip->setTransformNode(clipPlace.get());
-        }
+        clip->setEquation(osg::Vec4f(1.f, 0.f, 0.f, 0.f));
+        clip->setTransformNode(clipPlace.get());
         const osg::NodePtr cut = osg::makeNodeFor(osg::NodeCorePtr(clip.get()));
         cut->addChild(ball);
         const osg::NodePtr helper = colored(nbGeoFactory::makeLine(2.f), unlit(kYellow));
