@@ -28,7 +28,8 @@
 
 namespace {
 
-constexpr int kEvents = 15;
+/// Even, so that a hovering pointer that comes and goes ends off the handle, and comes again.
+constexpr int kEvents = 16;
 constexpr double kMillisecondsPerSecond = 1e3;
 constexpr qint64 kPatienceMs = 20'000;
 
