@@ -5,6 +5,8 @@
 
 #include <nbKernel/nbOSGWidget.h>
 
+#include <utility>
+
 using nbec::manipulator::Instances;
 using nbec::manipulator::plates::PlateGizmo;
 
@@ -70,6 +72,11 @@ void nbSceneplateManipulator::enableSnapping(bool on)
 void nbSceneplateManipulator::setSnapToPlates(bool on)
 {
     course().snapsToPlates = on;
+}
+
+void nbSceneplateManipulator::setSideHandles(Resize resize)
+{
+    course().setResize(std::move(resize));
 }
 
 void nbSceneplateManipulator::setDescriptionEnabled(bool on)

@@ -5,6 +5,7 @@
 #include "manipulator/course/Instances.h"
 #include "manipulator/plates/PlateModes.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -88,6 +89,28 @@ public:
     /// Whether snapping also goes to edges and centres of the other plates that are seen; off at
     /// first. With 2,000 plates a step costs about 20 us more.
     void setSnapToPlates(bool on);
+
+    /// A person's wish for a plate's width or height alone.
+    /// @param factors  of width and height along the plate's own axes; one of them is 1
+    /// @param offset   of the plate's centre, heights of the view, y up
+    using Resize = std::function<void(const osg::Vec2f& factors, const osg::Vec2f& offset)>;
+
+    /// Shows boxes on the middles of the sides as well, while one plate is set: "scaleXLShape",
+    /// "scaleYUShape", "scaleYLShape" and "scaleXRShape" (left, upper, lower, right) drag a side,
+    /// the opposite one stays (mode "precisionTool": the centre). "sceneplateChanged" has one
+    /// factor for both directions, so that these drags go to a function of the host's instead.
+    /// Snapping, typed values and cancel as for corners; cancel calls with factors 1 and offset 0.
+    /// @code
+    /// manipulator.setSideHandles([&module](const osg::Vec2f& factors, const osg::Vec2f& offset) {
+    ///     nbSceneplateChange change;
+    ///     change.sizeFactors = factors;
+    ///     change.offset = offset;
+    ///     module.change(change);
+    /// });
+    /// @endcode
+    /// @param resize  called with values that are absolute from the drag's start; what it throws is
+    /// logged; empty, as at first: no such boxes
+    void setSideHandles(Resize resize);
 
     /// Switches the on-screen text of this manipulator; on at first.
     void setDescriptionEnabled(bool on);

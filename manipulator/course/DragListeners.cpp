@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/course/DragListeners.h"
 
-#include <nbUtils/nbLog.h>
+#include <nbUtils/nbGuard.h>
 
 #include <deque>
-#include <exception>
 #include <map>
 #include <utility>
 
@@ -27,17 +26,6 @@ bool takes(Entry& entry, DragEvent::Phase phase)
     return isHeard;
 }
 
-void tell(const DragListener& listener, const DragEvent& event)
-{
-    try {
-        listener(event);
-    } catch (const std::exception& fault) {
-        nbLog::error(std::string("A listener of drags has thrown: ") + fault.what());
-    } catch (...) {
-        nbLog::error("A listener of drags has thrown.");
-    }
-}
-
 }  // namespace
 
 struct DragListeners::State
@@ -53,7 +41,7 @@ struct DragListeners::State
         const auto entry = entries.find(number);
         if (entry != entries.end() && takes(entry->second, current.phase)) {
             const DragListener listener = entry->second.listener;  // which may take itself away
-            tell(listener, current);
+            nbGuarded("a listener of drags", [&] { listener(current); });
         }
     }
 

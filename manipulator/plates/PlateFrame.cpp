@@ -25,15 +25,16 @@ constexpr double kArmFeet[][2] = { { 0.0, 1.0 }, { 0.0, -1.0 }, { 1.0, 0.0 }, { 
 constexpr float kFittedMargin = kPlateArmLength + kPlateKnobRadius;
 constexpr float kFittedLeast = 1.5F * kPlateLeastSide;
 
-/// Places of the corners, in half sides from the centre, y up.
-constexpr double kCornerPlaces[kPlateCornerCount][2] = {
-    { -1.0, -1.0 }, { -1.0, 1.0 }, { 1.0, -1.0 }, { 1.0, 1.0 }
-};
+/// Places of the boxes, in half sides from the centre, y up.
+constexpr double kBoxPlaces[kPlateBoxCount][2] = { { -1.0, -1.0 }, { -1.0, 1.0 }, { 1.0, -1.0 },
+                                                   { 1.0, 1.0 },   { -1.0, 0.0 }, { 0.0, 1.0 },
+                                                   { 0.0, -1.0 },  { 1.0, 0.0 } };
 
-/// What stays when a frame is scaled at a corner.
-osg::Pnt2f anchorOf(const PlateFrame& frame, std::size_t corner, bool aboutCentre)
+/// What stays when a frame is scaled at a box.
+osg::Pnt2f anchorOf(const PlateFrame& frame, std::size_t box, bool aboutCentre)
 {
-    return aboutCentre ? frame.centre : cornerOfFrame(frame, kPlateCornerCount - 1 - corner);
+    const auto& [alongX, alongY] = kBoxPlaces[box];
+    return aboutCentre ? frame.centre : pointOfFrame(frame, -alongX, -alongY);
 }
 
 /// Half sides of the upright box around a frame.
@@ -99,15 +100,15 @@ double snapBox(double centre, double half, const PlateView& view, osg::UInt32 ax
     return nearest.value - nearest.from;
 }
 
-/// Factor at which a corner that goes along a diagonal meets an edge or centre line of the view or
+/// Factor at which a box that goes along its way meets an edge or centre line of the view or
 /// an edge of a neighbour, the nearest within reach; otherwise the given one.
-double snapFactor(double factor, const osg::Pnt2f& anchor, const osg::Vec2f& diagonal,
+double snapFactor(double factor, const osg::Pnt2f& anchor, const osg::Vec2f& way,
                   const PlateView& view, PlateGuides& guides)
 {
     const double reachPx = kPlateSnapReach * view.unitPx;
-    Nearest nearest { reachPx / diagonal.length() };
+    Nearest nearest { reachPx / way.length() };
     for (const osg::UInt32 axis : { 1U, 0U }) {
-        const double along = diagonal[axis];
+        const double along = way[axis];
         if (std::abs(along) < kShortest) {
             continue;
         }
@@ -220,9 +221,9 @@ osg::Pnt2f pointOfFrame(const PlateFrame& frame, double alongX, double alongY)
                       static_cast<float>(frame.centre.y() - sine * x - cosine * y));
 }
 
-osg::Pnt2f cornerOfFrame(const PlateFrame& frame, std::size_t corner)
+osg::Pnt2f boxOfFrame(const PlateFrame& frame, std::size_t box)
 {
-    const auto& [alongX, alongY] = kCornerPlaces[corner];
+    const auto& [alongX, alongY] = kBoxPlaces[box];
     return pointOfFrame(frame, alongX, alongY);
 }
 
@@ -250,8 +251,8 @@ PlateHandles layOutHandles(const PlateFrame& frame, const PlateStance& stance, P
     PlateHandles handles;
     handles.unitPx = view.unitPx;
     handles.frame = stance.isFitted ? fittedFrame(frame, view) : grabbableFrame(frame, view);
-    for (std::size_t i = 0; i < kPlateCornerCount; ++i) {
-        handles.corners[i] = cornerOfFrame(handles.frame, i);
+    for (std::size_t i = 0; i < kPlateBoxCount; ++i) {
+        handles.boxes[i] = boxOfFrame(handles.frame, i);
     }
     handles.knob = armEnd(handles.frame, stance.arm, view);
     handles.armRotation = armRotation(handles.frame, stance.arm);
@@ -262,7 +263,9 @@ PlateFrame changedFrame(const PlateFrame& frame, const PlateChange& change)
 {
     PlateFrame result = frame;
     result.centre += change.offsetPx;
-    result.size *= change.scaleFactor;
+    for (const osg::UInt32 axis : { 0U, 1U }) {
+        result.size[axis] *= change.scaleFactor * change.sizeFactors[axis];
+    }
     result.rotation += change.rotation;
     return result;
 }
@@ -284,28 +287,30 @@ PlateChange moveFrame(const PlateFrame& start, const osg::Vec2f& distancePx, con
     return change;
 }
 
-double cornerFactor(const PlateFrame& start, std::size_t corner, bool aboutCentre,
-                    const osg::Vec2f& distancePx)
+double boxFactor(const PlateFrame& start, std::size_t box, bool aboutCentre,
+                 const osg::Vec2f& distancePx)
 {
-    const osg::Vec2f diagonal = cornerOfFrame(start, corner) - anchorOf(start, corner, aboutCentre);
-    const double square = diagonal.dot(diagonal);
-    return square > kShortest * kShortest ? 1.0 + distancePx.dot(diagonal) / square : 1.0;
+    const osg::Vec2f way = boxOfFrame(start, box) - anchorOf(start, box, aboutCentre);
+    const double square = way.dot(way);
+    return square > kShortest * kShortest ? 1.0 + distancePx.dot(way) / square : 1.0;
 }
 
-PlateChange scaleFrame(const PlateFrame& start, std::size_t corner, bool aboutCentre, double factor,
+PlateChange scaleFrame(const PlateFrame& start, std::size_t box, bool aboutCentre, double factor,
                        const PlateView& view, PlateGuides* guides)
 {
-    const osg::Pnt2f anchor = anchorOf(start, corner, aboutCentre);
-    const osg::Vec2f diagonal = cornerOfFrame(start, corner) - anchor;
+    const osg::Pnt2f anchor = anchorOf(start, box, aboutCentre);
+    const osg::Vec2f way = boxOfFrame(start, box) - anchor;
     PlateChange change;
-    if (!(diagonal.dot(diagonal) > kShortest * kShortest)) {
+    if (!(way.dot(way) > kShortest * kShortest)) {
         return change;
     }
-    const double longer = std::max(start.size.x(), start.size.y());
+    const bool isCorner = box < kPlateCornerCount;
+    const osg::UInt32 axis = kBoxPlaces[box][0] == 0.0 ? 1 : 0;
+    const double side = isCorner ? std::max(start.size.x(), start.size.y()) : start.size[axis];
     const double wanted =
-        guides != nullptr ? snapFactor(factor, anchor, diagonal, view, *guides) : factor;
-    const double reached = std::max(wanted, std::min(kLeastScaledSide / longer, 1.0));
-    change.scaleFactor = static_cast<float>(reached);
+        guides != nullptr ? snapFactor(factor, anchor, way, view, *guides) : factor;
+    const double reached = std::max(wanted, std::min(kLeastScaledSide / side, 1.0));
+    (isCorner ? change.scaleFactor : change.sizeFactors[axis]) = static_cast<float>(reached);
     change.offsetPx = (start.centre - anchor) * static_cast<float>(reached - 1.0);
     return change;
 }

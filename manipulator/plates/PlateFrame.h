@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <nbOpenSGExt/nbSameBits.h>
 #include <nbOpenSGSceneplate/nbSceneplateLayout.h>
 
 #include <OpenSG/OSGVector.h>
@@ -16,8 +17,10 @@ namespace nbec::manipulator::plates {
 
 using PlateFrame = nbSceneplateLayout::Frame;
 
-/// Corners of a frame in its own axes: lower left, upper left, lower right, upper right.
+/// Where boxes stand on a frame in its own axes: at the corners lower left, upper left, lower
+/// right, upper right; then on the middles of the sides left, upper, lower, right.
 constexpr std::size_t kPlateCornerCount = 4;
+constexpr std::size_t kPlateBoxCount = 8;
 
 /// Places that other plates offer to snap to, by axis: edges and centres of the upright boxes
 /// around them, pixels.
@@ -67,7 +70,7 @@ struct PlateStance
 struct PlateHandles
 {
     PlateFrame frame;
-    std::array<osg::Pnt2f, kPlateCornerCount> corners;
+    std::array<osg::Pnt2f, kPlateBoxCount> boxes;
     osg::Pnt2f knob;
     float armRotation = 0.0F;  ///< of the way from the frame to the knob; 0 is up
     float unitPx = 1.0F;  ///< as of the view; less where that is too small for handles
@@ -77,13 +80,14 @@ struct PlateHandles
 struct PlateChange
 {
     float scaleFactor = 1.0F;  ///< about the centre of the frame
+    osg::Vec2f sizeFactors { 1.0F, 1.0F };  ///< of width and height alone, about the centre
     osg::Vec2f offsetPx { 0.0F, 0.0F };  ///< of the centre
     float rotation = 0.0F;
 
     bool operator==(const PlateChange& other) const
     {
-        return scaleFactor == other.scaleFactor && offsetPx == other.offsetPx &&
-            rotation == other.rotation;
+        return scaleFactor == other.scaleFactor && nbSameValues(sizeFactors, other.sizeFactors) &&
+            nbSameValues(offsetPx, other.offsetPx) && rotation == other.rotation;
     }
 };
 
@@ -93,7 +97,8 @@ using PlateGuides = std::array<std::optional<float>, 2>;
 /// Pixel position of a place of a frame. @param alongX, alongY  in half sides from the centre, y up
 osg::Pnt2f pointOfFrame(const PlateFrame& frame, double alongX, double alongY);
 
-osg::Pnt2f cornerOfFrame(const PlateFrame& frame, std::size_t corner);
+/// Where a box stands.
+osg::Pnt2f boxOfFrame(const PlateFrame& frame, std::size_t box);
 
 /// The first place of the arm, in the order of PlateArm, at which the whole knob is in the view.
 /// Fitted if there is none, or if the frame reaches beyond opposite edges of the view.
@@ -113,17 +118,17 @@ PlateFrame changedFrame(const PlateFrame& frame, const PlateChange& change);
 PlateChange moveFrame(const PlateFrame& start, const osg::Vec2f& distancePx, const PlateView& view,
                       PlateGuides* guides);
 
-/// Factor by which a frame is scaled when a corner follows the pointer along the diagonal:
-/// 1 + distance . diagonal / |diagonal|^2, where the diagonal goes from the opposite corner, which
-/// stays, or from the centre. 1 for a frame without size.
-double cornerFactor(const PlateFrame& start, std::size_t corner, bool aboutCentre,
-                    const osg::Vec2f& distancePx);
+/// Factor by which a frame is scaled when a box follows the pointer along its way:
+/// 1 + distance . way / |way|^2, where the way goes from the opposite corner or side, which stays,
+/// or from the centre. 1 for a frame without size.
+double boxFactor(const PlateFrame& start, std::size_t box, bool aboutCentre,
+                 const osg::Vec2f& distancePx);
 
-/// Scales a frame by a factor at a corner, see cornerFactor(). With guides the corner snaps to
-/// edges and centre lines of the view and edges of neighbours where its way along the diagonal
-/// meets them. The longer side never gets less than 4 pixels by it. A frame without size does not
-/// change.
-PlateChange scaleFrame(const PlateFrame& start, std::size_t corner, bool aboutCentre, double factor,
+/// Scales a frame by a factor at a box, see boxFactor(): at a corner as a whole, at a side its
+/// width or height alone. With guides the box snaps to edges and centre lines of the view and edges
+/// of neighbours where its way meets them. The longer side, or the only one that changes, never
+/// gets less than 4 pixels by it. A frame without size does not change.
+PlateChange scaleFrame(const PlateFrame& start, std::size_t box, bool aboutCentre, double factor,
                        const PlateView& view, PlateGuides* guides);
 
 /// Angle by which the way from a centre to a point turns when the point moves.

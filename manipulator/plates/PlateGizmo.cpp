@@ -12,6 +12,7 @@
 #include <nbOpenSGExt/nbContainerId.h>
 #include <nbOpenSGSceneplate/nbSceneplateList.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
+#include <nbUtils/nbGuard.h>
 #include <nbUtils/nbMessage.h>
 
 #include <QtGui/QVector2D>
@@ -118,7 +119,24 @@ void PlateGizmo::setNodes(const std::vector<osg::NodePtr>& nodes)
     }
     drag.isBroken = drag.isBroken || ids != nodeIds;
     nodeIds = std::move(ids);
-    placeIn(View());
+    showBoxes();
+}
+
+void PlateGizmo::setResize(PlateResize function)
+{
+    resize = std::move(function);
+    showBoxes();
+}
+
+/// A frame around several plates has sides that are not theirs.
+void PlateGizmo::showBoxes()
+{
+    const int wanted = resize && getNodes().size() == 1 ? CornersAndSides : Corners;
+    if (wanted != getMode()) {
+        activateMode(wanted);
+    } else {
+        placeIn(View());
+    }
 }
 
 std::vector<osg::NodePtr> PlateGizmo::getNodes() const
@@ -213,8 +231,8 @@ void PlateGizmo::put(std::size_t row, const osg::Pnt2f& centrePx, float rotation
 void PlateGizmo::placeHandles(const PlateHandles& layout) const
 {
     const osg::Vec2f unitSize(layout.unitPx, layout.unitPx);
-    for (std::size_t i = 0; i < kPlateCornerCount; ++i) {
-        put(i, layout.corners[i], layout.frame.rotation, unitSize * kPlateBoxSize, kHandleLayer);
+    for (std::size_t i = 0; i < kPlateBoxCount; ++i) {
+        put(i, layout.boxes[i], layout.frame.rotation, unitSize * kPlateBoxSize, kHandleLayer);
     }
     put(ArmRow, layout.knob, layout.armRotation, unitSize, kHandleLayer);
     put(BodyRow, layout.frame.centre, layout.frame.rotation, layout.frame.size, kFrameLayer);
@@ -265,6 +283,14 @@ bool PlateGizmo::prepare(const View& view)
     return true;
 }
 
+std::size_t PlateGizmo::box() const
+{
+    const int first = handle() < Active::SizeLeft
+        ? static_cast<int>(Active::ScaleLowerLeft)
+        : static_cast<int>(Active::SizeLeft) - static_cast<int>(kPlateCornerCount);
+    return static_cast<std::size_t>(getArmed() - first);
+}
+
 DragStep PlateGizmo::parametersAt(const View& view, const DragTrack& before) const
 {
     const osg::Vec2f distancePx = view.getPointer() - drag.pressedPx;
@@ -277,7 +303,7 @@ DragStep PlateGizmo::parametersAt(const View& view, const DragTrack& before) con
             ? DragStep({ Kind::Angle, next.turned }, next)
             : DragStep(DragStep::Outcome::Waiting, before);
     default:
-        return { { Kind::Factor, cornerFactor(drag.start, corner(), precisionActive, distancePx) },
+        return { { Kind::Factor, boxFactor(drag.start, box(), precisionActive, distancePx) },
                  next };
     }
 }
@@ -294,7 +320,7 @@ PlateChange PlateGizmo::changeOf(const DragParameters& parameters, PlateGuides& 
     case Kind::Angle:
         return turnFrame(drag.start, parameters.values[0], isSnapping() && snapped != nullptr);
     default:
-        return scaleFrame(drag.start, corner(), precisionActive, parameters.values[0], drag.view,
+        return scaleFrame(drag.start, box(), precisionActive, parameters.values[0], drag.view,
                           snappingEnabled ? snapped : nullptr);
     }
 }
@@ -308,7 +334,18 @@ void PlateGizmo::apply(const DragParameters& parameters)
         return;
     }
     drag.change = change;
+    send(change);
+}
+
+void PlateGizmo::send(const PlateChange& change) const
+{
     const osg::Vec2f offset = nbSceneplateLayout::toOffset(change.offsetPx, drag.view.heightPx);
+    if (handle() >= Active::SizeLeft) {
+        const PlateResize call = resize;  // which may set another one
+        nbGuarded("nbSceneplateManipulator: the function that sizes a plate",
+                  [&] { call(change.sizeFactors, offset); });
+        return;
+    }
     nbMessage message;
     message.set("scaleFactor", change.scaleFactor, true);
     message.set("offset", QVector2D(offset.x(), offset.y()), true);
@@ -332,7 +369,8 @@ std::optional<QString> PlateGizmo::describe() const
                               { drag.start.rotation + drag.change.rotation });
     default:
         return describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Scale ("),
-                              { drag.change.scaleFactor });
+                              { drag.change.scaleFactor * drag.change.sizeFactors.x() *
+                                drag.change.sizeFactors.y() });
     }
 }
 

@@ -5,9 +5,13 @@
 #include "manipulator/plates/PlateFrame.h"
 #include "manipulator/plates/PlateModes.h"
 
+#include <functional>
 #include <vector>
 
 namespace nbec::manipulator::plates {
+
+/// Told of the factors of a plate's width and height, and of the offset of its centre.
+using PlateResize = std::function<void(const osg::Vec2f& factors, const osg::Vec2f& offset)>;
 
 /// Course of the scene-plate gizmo, whose drags go out as "sceneplateChanged". See
 /// nbSceneplateManipulator, its face.
@@ -19,6 +23,8 @@ public:
 
     /// See nbSceneplateManipulator::setNodes().
     void setNodes(const std::vector<osg::NodePtr>& nodes);
+    /// See nbSceneplateManipulator::setSideHandles().
+    void setResize(PlateResize function);
     std::vector<osg::NodePtr> getNodes() const;
 
     /// Handles are shown and hit only while the gizmo is in use.
@@ -71,8 +77,8 @@ private:
 
     ActiveMode handle() const { return static_cast<ActiveMode>(getArmed()); }
 
-    /// Of the armed box.
-    std::size_t corner() const { return static_cast<std::size_t>(getArmed() - 1); }
+    /// Place of the armed box.
+    std::size_t box() const;
 
     bool isSnapping() const { return precisionActive || snappingEnabled; }
 
@@ -87,7 +93,11 @@ private:
     void placeHandles(const PlateHandles& layout) const;
     void placeGuides(const PlateView& view, const PlateGuides& guides) const;
 
+    void showBoxes();
+    void send(const PlateChange& change) const;
+
     std::vector<osg::UInt32> nodeIds;
+    PlateResize resize;
     bool isInUse = false;
     Drag drag;
 };

@@ -9,8 +9,8 @@
 
 namespace nbec::manipulator::plates {
 
-/// The handle of the scene-plate gizmo that is hovered or grabbed; first the boxes, in the order of
-/// their corners.
+/// The handle of the scene-plate gizmo that is hovered or grabbed; first the boxes of the corners,
+/// in their order; last those of the sides.
 enum class ActiveMode : osg::UInt32
 {
     None = 0,
@@ -19,7 +19,11 @@ enum class ActiveMode : osg::UInt32
     ScaleLowerRight = 3,
     ScaleUpperRight = 4,
     Rotate = 5,
-    Move = 6
+    Move = 6,
+    SizeLeft = 7,
+    SizeUpper = 8,
+    SizeLower = 9,
+    SizeRight = 10
 };
 
 }  // namespace nbec::manipulator::plates

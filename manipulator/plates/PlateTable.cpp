@@ -64,9 +64,20 @@ HandleAction actionOf(Active handle)
 {
     using Kind = DragParameters::Kind;
     constexpr unsigned kBoth = 3;
-    return handle == Active::Rotate ? HandleAction { Kind::Angle, axisBit(2) }
-        : handle == Active::Move    ? HandleAction { Kind::Pixels, kBoth }
-                                    : HandleAction { Kind::Factor, kAllAxes };
+    switch (handle) {
+    case Active::Rotate:
+        return { Kind::Angle, axisBit(2) };
+    case Active::Move:
+        return { Kind::Pixels, kBoth };
+    case Active::SizeLeft:
+    case Active::SizeRight:
+        return { Kind::Factor, axisBit(0) };
+    case Active::SizeLower:
+    case Active::SizeUpper:
+        return { Kind::Factor, axisBit(1) };
+    default:
+        return { Kind::Factor, kAllAxes };
+    }
 }
 
 HandleRow handleRow(const char* name, Active handle, const std::vector<HandlePart>& parts)
@@ -82,6 +93,13 @@ HandleRow box(const char* name, Active handle)
     return handleRow(name, handle,
                      { { HandleShape::Square, { Yellow, Orange, Yellow } },
                        shadow(HandleShape::Square, Shadow, { kScale, kScale, 1.0F }) });
+}
+
+HandleRow sideBox(const char* name, Active handle)
+{
+    HandleRow row = box(name, handle);
+    row.visibleIn = modes(CornersAndSides);
+    return row;
 }
 
 /// Scale of the sphere that makes a knob. It is flat, one layer thick to each side.
@@ -136,6 +154,10 @@ const HandleTable& handleTable()
                       box("scaleXYULShape", Active::ScaleUpperLeft),
                       box("scaleXYLRShape", Active::ScaleLowerRight),
                       box("scaleXYURShape", Active::ScaleUpperRight),
+                      sideBox("scaleXLShape", Active::SizeLeft),
+                      sideBox("scaleYUShape", Active::SizeUpper),
+                      sideBox("scaleYLShape", Active::SizeLower),
+                      sideBox("scaleXRShape", Active::SizeRight),
                       arm(),
                       body(),
                       guide(),

@@ -9,10 +9,17 @@ namespace nbec::manipulator::plates {
 /// Length of a guide's line, along y, before it is placed.
 constexpr float kShaftLength = 2.0F;
 
-/// Places of the rows after those of the four boxes, which stand in the order of their corners.
+/// What is seen of the boxes.
+enum BoxMode : int
+{
+    Corners,
+    CornersAndSides
+};
+
+/// Places of the rows after those of the boxes, which stand in their order.
 enum Row : std::size_t
 {
-    ArmRow = kPlateCornerCount,
+    ArmRow = kPlateBoxCount,
     BodyRow,
     VerticalRow,
     HorizontalRow

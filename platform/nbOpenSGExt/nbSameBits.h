@@ -25,3 +25,9 @@ bool nbSameValues(const Triple& a, const Triple& b)
 {
     return a[0] == b[0] && a[1] == b[1] && a[2] == b[2];
 }
+
+/// The same of two numbers.
+inline bool nbSameValues(const osg::Vec2f& a, const osg::Vec2f& b)
+{
+    return a[0] == b[0] && a[1] == b[1];
+}

@@ -3,6 +3,7 @@
 
 #include <nbOpenSGExt/nbContainerId.h>
 #include <nbOpenSGExt/nbIsFinite.h>
+#include <nbOpenSGExt/nbSameBits.h>
 #include <nbOpenSGSceneplate/nbSceneplateLayout.h>
 #include <nbOpenSGSceneplate/nbSceneplateList.h>
 #include <nbOpenSGUtils/nbEdit.h>
@@ -59,7 +60,12 @@ bool nbSceneplateChange::read(const nbMessage& message, nbSceneplateChange& chan
 
 bool nbSceneplateChange::isNone() const
 {
-    return scaleFactor == 1.0F && offset.x() == 0.0F && offset.y() == 0.0F && rotation == 0.0F;
+    return !isScaling() && offset.x() == 0.0F && offset.y() == 0.0F && rotation == 0.0F;
+}
+
+bool nbSceneplateChange::isScaling() const
+{
+    return scaleFactor != 1.0F || sizeFactors.x() != 1.0F || sizeFactors.y() != 1.0F;
 }
 
 const char* nbSceneplateChange::getTitle() const
@@ -67,8 +73,8 @@ const char* nbSceneplateChange::getTitle() const
     if (rotation != 0.0F) {
         return QT_TRANSLATE_NOOP("Manipulator", "Turn scene plates");
     }
-    return scaleFactor != 1.0F ? QT_TRANSLATE_NOOP("Manipulator", "Scale scene plates")
-                               : QT_TRANSLATE_NOOP("Manipulator", "Move scene plates");
+    return isScaling() ? QT_TRANSLATE_NOOP("Manipulator", "Scale scene plates")
+                       : QT_TRANSLATE_NOOP("Manipulator", "Move scene plates");
 }
 
 nbSceneplateStart::nbSceneplateStart(const std::vector<osg::NodePtr>& plates, int widthPx,
@@ -89,7 +95,7 @@ nbSceneplateStart::nbSceneplateStart(const std::vector<osg::NodePtr>& plates, in
         }
         const osg::Vec2f armPx = nbSceneplateLayout::centre(cores[i], width, height) - pivot;
         starts.push_back({ plates[i].getFieldContainerId(), cores[i]->getPosition(),
-                           cores[i]->getScale(), cores[i]->getRotation(),
+                           cores[i]->getSize(), cores[i]->getScale(), cores[i]->getRotation(),
                            nbSceneplateLayout::toOffset(armPx, height) });
     }
 }
@@ -109,7 +115,8 @@ bool nbSceneplateStart::apply(const nbSceneplateChange& change) const
         targets.push_back(changed(start, change));
     }
     const bool isPossible = std::all_of(targets.begin(), targets.end(), [](const Plate& target) {
-        return nbIsFinite(target.position) && std::isfinite(target.scale) && target.scale > 0.0F;
+        return nbIsFinite(target.position) && nbIsFinite(target.size) && target.size.x() > 0.0F &&
+            target.size.y() > 0.0F && std::isfinite(target.scale) && target.scale > 0.0F;
     });
     if (!isPossible) {
         return refuse("too large a change");
@@ -135,6 +142,8 @@ nbSceneplateStart::Plate nbSceneplateStart::changed(const Plate& start,
         osg::Vec2f(static_cast<float>(start.position.x() + change.offset.x() + shiftX),
                    static_cast<float>(start.position.y() + change.offset.y() + shiftY));
     target.scale = start.scale * change.scaleFactor;
+    target.size = osg::Vec2f(start.size.x() * change.sizeFactors.x(),
+                             start.size.y() * change.sizeFactors.y());
     if (change.rotation != 0.0F) {
         constexpr double kWholeTurnDeg = 360.0;
         const double turned = static_cast<double>(start.rotation) + change.rotation;
@@ -150,16 +159,16 @@ bool nbSceneplateStart::write(const Plate& target)
     if (plate == osg::NullFC) {
         return false;
     }
-    const osg::Vec2f& position = plate->getPosition();
-    // Not the vectors' own comparison, which has a tolerance.
-    if (position.x() == target.position.x() && position.y() == target.position.y() &&
-        plate->getScale() == target.scale && plate->getRotation() == target.rotation) {
+    if (nbSameValues(plate->getPosition(), target.position) &&
+        nbSameValues(plate->getSize(), target.size) && plate->getScale() == target.scale &&
+        plate->getRotation() == target.rotation) {
         return false;
     }
     const nbEdit edit(plate,
-                      osg::Sceneplate::PositionFieldMask | osg::Sceneplate::ScaleFieldMask |
-                          osg::Sceneplate::RotationFieldMask);
+                      osg::Sceneplate::PositionFieldMask | osg::Sceneplate::SizeFieldMask |
+                          osg::Sceneplate::ScaleFieldMask | osg::Sceneplate::RotationFieldMask);
     plate->setPosition(target.position);
+    plate->setSize(target.size);
     plate->setScale(target.scale);
     plate->setRotation(target.rotation);
     return true;

@@ -18,6 +18,8 @@ struct NB_PLATFORM_API nbSceneplateChange
     float scaleFactor = 1.0F;  ///< > 0, about the centre of the frame around the plates
     osg::Vec2f offset { 0.0F, 0.0F };  ///< heights of the view, y up
     float rotation = 0.0F;  ///< degrees, counter-clockwise on screen, about that centre
+    /// Of each plate's width and height along its own axes, > 0; in no message.
+    osg::Vec2f sizeFactors { 1.0F, 1.0F };
 
     /// Reads "scaleFactor" (float), "offset" (QVector2D) and "rotation" (float); what is missing
     /// changes nothing.
@@ -26,6 +28,7 @@ struct NB_PLATFORM_API nbSceneplateChange
     static bool read(const nbMessage& message, nbSceneplateChange& change);
 
     bool isNone() const;
+    bool isScaling() const;
 
     /// What a person calls it, for a step of undo.
     const char* getTitle() const;
@@ -55,6 +58,7 @@ private:
     {
         osg::UInt32 nodeId = 0;
         osg::Vec2f position;
+        osg::Vec2f size;
         float scale = 1.0F;
         float rotation = 0.0F;
         /// From the centre of the frame to the plate's, heights of the view, y up.

@@ -9,6 +9,7 @@ void configure(nbSceneplateManipulator& gizmo, Stage& stage, Bytes& bytes)
     switch (bytes.next() % 6) {
     case 0:
         gizmo.enableSnapping(bytes.flag());
+        gizmo.setSideHandles([&gizmo](const auto&, const auto&) { gizmo.setSideHandles({}); });
         return gizmo.setDescriptionEnabled(bytes.flag());
     case 1:
         nbSceneplateManipulator::setManipulatorSize(bytes.once(4) ? bytes.number() : 32.0F);

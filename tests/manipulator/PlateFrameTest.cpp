@@ -26,8 +26,7 @@ PlateChange pullCorner(const PlateFrame& start, const osg::Vec2f& pull, PlateGui
                        const PlateView& view = kView)
 {
     constexpr std::size_t kCorner = 3;
-    return scaleFrame(start, kCorner, false, cornerFactor(start, kCorner, false, pull), view,
-                      guides);
+    return scaleFrame(start, kCorner, false, boxFactor(start, kCorner, false, pull), view, guides);
 }
 
 TEST(PlateFrame, ArmAndBoxesAreFreeInEveryView)
@@ -60,9 +59,9 @@ TEST(PlateFrame, ArmAndBoxesAreFreeInEveryView)
             EXPECT_GE(std::hypot(found.knob.x() - top.x(), found.knob.y() - top.y()),
                       std::min(found.frame.size.x(), found.frame.size.y()) / 2 + 2 * box);
             for (std::size_t one = 0; one < kPlateCornerCount; ++one) {
-                EXPECT_TRUE(!stance.isFitted || isSeen(found.corners[one], kPlateBoxSize / 2));
+                EXPECT_TRUE(!stance.isFitted || isSeen(found.boxes[one], kPlateBoxSize / 2));
                 for (std::size_t other = 0; other < one; ++other) {
-                    EXPECT_GE((found.corners[one] - found.corners[other]).length(), 2 * box);
+                    EXPECT_GE((found.boxes[one] - found.boxes[other]).length(), 2 * box);
                 }
             }
         }

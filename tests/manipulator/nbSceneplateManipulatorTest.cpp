@@ -284,12 +284,19 @@ protected:
     nbSceneplateModule module;
 };
 
-TEST_P(SceneplateDragTest, CornersFollowAndTheOppositeOneStays)
+TEST_P(SceneplateDragTest, BoxesFollowAndTheOppositeOneStays)
 {
-    const std::tuple<const char*, float, float> rows[] = { { "scaleXYLLShape", -1, -1 },
-                                                           { "scaleXYULShape", -1, 1 },
-                                                           { "scaleXYLRShape", 1, -1 },
-                                                           { "scaleXYURShape", 1, 1 } };
+    const std::tuple<const char*, float, float> rows[] = {
+        { "scaleXYLLShape", -1, -1 }, { "scaleXYULShape", -1, 1 }, { "scaleXYLRShape", 1, -1 },
+        { "scaleXYURShape", 1, 1 },   { "scaleXLShape", -1, 0 },   { "scaleYUShape", 0, 1 },
+        { "scaleYLShape", 0, -1 },    { "scaleXRShape", 1, 0 },
+    };
+    scene.manipulator.setSideHandles([&](const osg::Vec2f& factors, const osg::Vec2f& offset) {
+        nbSceneplateChange change;
+        change.sizeFactors = factors;
+        change.offset = offset;
+        module.change(change);
+    });
     for (const float rotation : { 0.0F, 40.0F, -170.0F }) {
         for (const auto& [handle, alongX, alongY] : rows) {
             const osg::NodePtr node = scene.addPlate({ 200, 150, 120, 80, rotation });
@@ -303,7 +310,12 @@ TEST_P(SceneplateDragTest, CornersFollowAndTheOppositeOneStays)
             expectNear(exactCorner(node, scene.widget, -alongX, -alongY), fixed, "fixed");
             expectNear(exactCorner(node, scene.widget, alongX, alongY), corner + pull, handle);
             expectNear(scene.handlePx(handle), corner + pull, "box");
-            EXPECT_NEAR(platetest::plateOf(node)->getScale(), 1.3F, 0.01F);
+            const osg::SceneplatePtr plate = platetest::plateOf(node);
+            const bool isCorner = alongX != 0 && alongY != 0;
+            EXPECT_NEAR(plate->getScale(), isCorner ? 1.3F : 1.0F, 0.01F);
+            const osg::Vec2f size = plate->getSize() * static_cast<float>(scene.widget.getHeight());
+            EXPECT_NEAR(size.x(), isCorner || alongX == 0 ? 120.0F : 156.0F, 1.0F) << handle;
+            EXPECT_NEAR(size.y(), isCorner || alongY == 0 ? 80.0F : 104.0F, 1.0F) << handle;
 
             scene.manager.selectMode("precisionTool");
             scene.send("process", scene.widget.getMousePosition());
@@ -311,6 +323,8 @@ TEST_P(SceneplateDragTest, CornersFollowAndTheOppositeOneStays)
                                                   scene.widget.getHeight()),
                        osg::Pnt2f(200, 150), "centre");
             scene.manager.selectMode("tool");
+            scene.manipulator.cancelDrag();
+            expectNear(exactCorner(node, scene.widget, alongX, alongY), corner, "taken back");
             release();
             nbScenegraph::getSceneplateRoot()->subChild(node);
         }
@@ -321,10 +335,12 @@ TEST_P(SceneplateDragTest, SeveralPlatesAreOneBodyDuringTheDrag)
 {
     const osg::NodePtr left = scene.addPlate({ 120, 150, 60, 60 });
     const osg::NodePtr right = scene.addPlate({ 280, 150, 60, 60, 45 });
+    scene.manipulator.setSideHandles([](const auto&, const auto&) {});
     select({ left, right });
     const osg::Pnt2f centre = scene.handlePx("grid");
     const osg::Vec2f arm = scene.handlePx("rotateShape") - centre;
     nbUndoService::the()->beginGroup();
+    EXPECT_FALSE(scene.isHandleShown("scaleXLShape"));
     EXPECT_TRUE(scene.drag("rotateShape", osg::Vec2f(-arm.y(), arm.x()) - arm, false));
 
     // A quarter turn clockwise takes what is on the left to the top.

@@ -31,7 +31,7 @@ using nbec::interaction::Picker;
 const char* const kPlatePrefix = "plate:";
 const char* const kBody = "grid";
 const char* const kArm = "rotateShape";
-const char* const kCornerPrefix = "scaleXY";
+const char* const kBoxPrefix = "scale";
 
 /// A picture is at most so large when it is added, parts of the view.
 constexpr float kLargestPart = 0.5F;
@@ -88,6 +88,12 @@ PlatesTool::PlatesTool(Stage& targetStage)
     stage.addTool(*this);
     addPlateCommands(stage, *this);
     manipulator.setSnapToPlates(true);
+    manipulator.setSideHandles([this](const osg::Vec2f& factors, const osg::Vec2f& offset) {
+        nbSceneplateChange change;
+        change.sizeFactors = factors;
+        change.offset = offset;
+        module.change(change);
+    });
 }
 
 PlatesTool::~PlatesTool()
@@ -217,7 +223,7 @@ HandleAction PlatesTool::actionOf(const std::string& handle) const
     if (handle == kArm) {
         return HandleAction::Turn;
     }
-    return beginsWith(handle, kCornerPrefix) ? HandleAction::ScaleAll : HandleAction::None;
+    return beginsWith(handle, kBoxPrefix) ? HandleAction::ScaleAll : HandleAction::None;
 }
 
 QString PlatesTool::handleText(const std::string& handle) const
