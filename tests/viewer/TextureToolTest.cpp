@@ -4,6 +4,8 @@
 
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
+#include <OpenSG/OSGTriangleIterator.h>
+
 #include <QDir>
 #include <QTemporaryDir>
 
@@ -54,6 +56,30 @@ TEST_F(TextureToolTest, APlacingThatIsCancelledLeavesThePictureWhereItWas)
     stage.showGizmo(Gizmo::Universal);
     EXPECT_FALSE(tool.isPlacing());
     EXPECT_EQ(view.getCursor(), Qt::ArrowCursor);
+}
+
+TEST_F(TextureToolTest, WhatHasNoTextureCoordinatesGetsThoseOfABox)
+{
+    ASSERT_TRUE(drop("Pawn"));
+    const osg::GeometryPtr geometry = geometryOf(tool.target().surface());
+    ASSERT_TRUE(geometry->getTexCoords() == osg::NullFC);
+    const osg::Vec3f sides = nbNodeUtils::getOwnBounds(tool.target().surface()).getMax() -
+        nbNodeUtils::getOwnBounds(tool.target().surface()).getMin();
+    const float unit = std::max({ sides.x(), sides.y(), sides.z() });
+    ASSERT_TRUE(run("texture.projection", "uv"));
+    std::size_t triangles = 0;
+    for (auto it = geometry->beginTriangles(); it != geometry->endTriangles(); ++it) {
+        const osg::Vec3f across =
+            (it.getPosition(1) - it.getPosition(0)).cross(it.getPosition(2) - it.getPosition(0));
+        const float most =
+            std::max({ std::abs(across.x()), std::abs(across.y()), std::abs(across.z()) });
+        const osg::Vec2f a = it.getTexCoords(1) - it.getTexCoords(0);
+        const osg::Vec2f b = it.getTexCoords(2) - it.getTexCoords(0);
+        // Seen along an axis it is as large as there, and not mirrored.
+        EXPECT_NEAR((a.x() * b.y() - a.y() * b.x()) * unit * unit, most, 1e-5F * unit * unit);
+        ++triangles;
+    }
+    EXPECT_GT(triangles, 100U);
 }
 
 TEST_F(TextureToolTest, ASharedGeometryGetsThePictureOnOneOfItsObjectsAlone)

@@ -5,6 +5,8 @@
 #include "viewer/gui/VectorEdit.h"
 #include "viewer/loading/PictureFile.h"
 #include "viewer/stage/Stage.h"
+#include "viewer/textures/BoxCoordinates.h"
+#include "viewer/textures/SurfaceMaterial.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -156,9 +158,6 @@ MaterialPanel::MaterialPanel(Stage& targetStage, TextureTool& targetTool)
     hint->setObjectName("materialHint");
     hint->setWordWrap(true);
     column->addWidget(hint);
-    threeSides = addButton(column, new QPushButton(this), "materialThreeSides",
-                           tr("Put it on from three sides"),
-                           [this] { run("texture.projection", "triplanar"); });
 
     content = new QWidget(this);
     content->setObjectName("materialContent");
@@ -330,15 +329,14 @@ void MaterialPanel::refresh()
     Panel::refresh();
     const QString hindrance = tool.hindrance();
     const QString name = value("texture.surface").toString();
-    const bool lacksCoordinates = tool.target().settings() != osg::NullFC &&
-        !tool.target().hasCoordinates() &&
+    const bool isOfBox = hasBoxCoordinates(geometryOf(tool.target().surface())) &&
         tool.target().projectionType() == TextureTarget::Settings::UVProjection;
-    setTextOf(hint,
-              !hindrance.isEmpty() ? hindrance
-                  : lacksCoordinates
-                  ? tr("\"%1\" has no texture coordinates, so the picture is not seen").arg(name)
-                  : tr("On \"%1\"").arg(name));
-    threeSides->setVisible(lacksCoordinates);
+    setTextOf(
+        hint,
+        !hindrance.isEmpty() ? hindrance
+            : isOfBox
+            ? tr("\"%1\" has no texture coordinates of its own: it has those of a box").arg(name)
+            : tr("On \"%1\"").arg(name));
     content->setEnabled(hindrance.isEmpty());
     projectionContent->setEnabled(tool.target().settings() != osg::NullFC);
     refreshHandles();

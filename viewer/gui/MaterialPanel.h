@@ -44,7 +44,6 @@ private:
 
     TextureTool& tool;
 
-    QAbstractButton* threeSides = nullptr;
     QLabel* hint = nullptr;
     MaterialPicture* picture = nullptr;
     QWidget* content = nullptr;  ///< everything that needs a surface

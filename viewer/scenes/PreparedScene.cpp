@@ -12,6 +12,7 @@
 #include "viewer/stage/ObjectCommands.h"
 #include "viewer/stage/Stage.h"
 #include "viewer/texts/Text.h"
+#include "viewer/textures/BoxCoordinates.h"
 #include "viewer/textures/SurfaceMaterial.h"
 
 #include <nbKernel/nbScenegraph.h>
@@ -251,6 +252,11 @@ private:
         }
         return forEach(wanted.components, place + ".components",
                        [&](const SceneComponent& component, const QString& at) {
+                           if (component.settings &&
+                               component.settings->type ==
+                                   osg::ColorComponentSettings::UVProjection) {
+                               layBoxCoordinates(geometryOf(node));
+                           }
                            return addComponent(material, component, at);
                        });
     }

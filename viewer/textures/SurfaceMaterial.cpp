@@ -17,11 +17,6 @@ namespace {
 
 constexpr float kPlainGrey = 0.7F;
 
-osg::GeometryPtr geometryOf(const osg::NodePtr& node)
-{
-    return node == osg::NullFC ? osg::GeometryPtr() : osg::GeometryPtr::dcast(node->getCore());
-}
-
 void setMaterialOf(const osg::GeometryPtr& geometry, const osg::MaterialPtr& material)
 {
     const nbEdit edit(geometry, osg::Geometry::MaterialFieldMask);
@@ -123,6 +118,11 @@ std::vector<osg::NodePtr> ownSurfaces(const osg::NodePtr& object)
         }
     }
     return surfaces;
+}
+
+osg::GeometryPtr geometryOf(const osg::NodePtr& node)
+{
+    return node == osg::NullFC ? osg::GeometryPtr() : osg::GeometryPtr::dcast(node->getCore());
 }
 
 osg::UberMaterialPtr uberMaterialOf(const osg::NodePtr& surface)

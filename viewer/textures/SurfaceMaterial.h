@@ -3,6 +3,7 @@
 
 #include <nbOpenSGUberMaterial/UberMaterial.h>
 
+#include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGNode.h>
 
 #include <vector>
@@ -17,6 +18,9 @@ osg::NodePtr surfaceOf(const osg::NodePtr& object, const osg::NodePtr& preferred
 
 /// All such surfaces of an object, in tree order; none for null.
 std::vector<osg::NodePtr> ownSurfaces(const osg::NodePtr& object);
+
+/// Null for a node with another core, and for null.
+osg::GeometryPtr geometryOf(const osg::NodePtr& node);
 
 /// Material of a surface that can carry pictures; null if it has another one or none.
 osg::UberMaterialPtr uberMaterialOf(const osg::NodePtr& surface);

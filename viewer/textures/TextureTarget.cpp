@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/textures/TextureTarget.h"
 
+#include "viewer/textures/BoxCoordinates.h"
 #include "viewer/textures/SurfaceMaterial.h"
 
 #include <nbKernelServices/nbScopedUndo.h>
 #include <nbOpenSGExt/nbContainerId.h>
-
-#include <OpenSG/OSGGeometry.h>
 
 #include <cmath>
 
@@ -73,14 +72,6 @@ osg::ImagePtr TextureTarget::image() const
 {
     const osg::UberMaterialPtr found = material();
     return found == osg::NullFC ? osg::ImagePtr() : found->getImage(componentName);
-}
-
-bool TextureTarget::hasCoordinates() const
-{
-    const osg::NodePtr node = surface();
-    const auto geometry =
-        node == osg::NullFC ? osg::GeometryPtr() : osg::GeometryPtr::dcast(node->getCore());
-    return geometry != osg::NullFC && geometry->getTexCoords() != osg::NullFC;
 }
 
 TextureTarget::Settings::TextureProjection TextureTarget::projectionType() const
@@ -179,6 +170,9 @@ bool TextureTarget::setCoverage(bool asMask, bool invert)
 
 bool TextureTarget::setProjectionType(Settings::TextureProjection type)
 {
+    if (type == Settings::UVProjection) {
+        layBoxCoordinates(geometryOf(surface()));
+    }
     return editor.setTextureProjectionType(type);
 }
 

@@ -41,8 +41,6 @@ public:
     osg::ColorComponentSettingsPtr settings() const;
     osg::Transform3DPtr projection() const;
     osg::ImagePtr image() const;
-    /// Whether the surface has texture coordinates.
-    bool hasCoordinates() const;
     /// How the picture lies on the surface; planar without settings.
     Settings::TextureProjection projectionType() const;
     /// Of the other projections; those of fresh settings without any.
@@ -70,7 +68,8 @@ public:
     bool setScale(const osg::Vec3f& scale);
     bool setFlag(Flag flag, bool on);
     bool setCoverage(bool asMask, bool invert);
-    /// Switches to another projection, which is fitted to the object if it was never used.
+    /// Switches to another projection, which is fitted to the object if it was never used. A
+    /// surface without texture coordinates gets those of a box when they are first needed.
     bool setProjectionType(Settings::TextureProjection type);
 
     /// For edits of the place as a whole.

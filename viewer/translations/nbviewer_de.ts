@@ -1059,16 +1059,8 @@
         <translation>Auf „%1“</translation>
     </message>
     <message>
-        <source>Put it on from three sides</source>
-        <translation>Von drei Seiten auftragen</translation>
-    </message>
-    <message>
         <source>Clicks on the object place the picture, or its handles, until Esc</source>
         <translation>Klicks auf das Objekt setzen das Bild oder seine Griffe, bis Esc</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; has no texture coordinates, so the picture is not seen</source>
-        <translation>„%1“ hat keine Texturkoordinaten, daher ist das Bild nicht zu sehen</translation>
     </message>
     <message>
         <source>Turn about the handles</source>
@@ -1125,6 +1117,10 @@
     <message>
         <source>Arrange</source>
         <translation>Anordnen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no texture coordinates of its own: it has those of a box</source>
+        <translation>„%1“ hat keine eigenen Texturkoordinaten: es bekommt die eines Quaders</translation>
     </message>
 </context>
 <context>

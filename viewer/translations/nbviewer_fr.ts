@@ -1059,16 +1059,8 @@
         <translation>Sur «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
-        <source>Put it on from three sides</source>
-        <translation>L&apos;appliquer de trois côtés</translation>
-    </message>
-    <message>
         <source>Clicks on the object place the picture, or its handles, until Esc</source>
         <translation>Les clics sur l&apos;objet placent l&apos;image, ou ses poignées, jusqu&apos;à Échap</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; has no texture coordinates, so the picture is not seen</source>
-        <translation>« %1 » n&apos;a pas de coordonnées de texture, l&apos;image n&apos;est donc pas visible</translation>
     </message>
     <message>
         <source>Turn about the handles</source>
@@ -1125,6 +1117,10 @@
     <message>
         <source>Arrange</source>
         <translation>Disposer</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no texture coordinates of its own: it has those of a box</source>
+        <translation>« %1 » n&apos;a pas de coordonnées de texture propres : il a celles d&apos;une boîte</translation>
     </message>
 </context>
 <context>

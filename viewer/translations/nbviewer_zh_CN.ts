@@ -1057,16 +1057,8 @@
         <translation>位于“%1”</translation>
     </message>
     <message>
-        <source>Put it on from three sides</source>
-        <translation>从三个方向投影</translation>
-    </message>
-    <message>
         <source>Clicks on the object place the picture, or its handles, until Esc</source>
         <translation>单击对象以放置图片或其手柄，按 Esc 结束</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; has no texture coordinates, so the picture is not seen</source>
-        <translation>“%1”没有纹理坐标，因此看不到图片</translation>
     </message>
     <message>
         <source>Turn about the handles</source>
@@ -1123,6 +1115,10 @@
     <message>
         <source>Arrange</source>
         <translation>排列</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no texture coordinates of its own: it has those of a box</source>
+        <translation>“%1”没有自己的纹理坐标：使用盒形坐标</translation>
     </message>
 </context>
 <context>
