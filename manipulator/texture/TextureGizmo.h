@@ -11,7 +11,7 @@ namespace nbec::manipulator::texture {
 
 /// What the faces of the texture gizmos know of them, see TextureFace, and how the picture itself
 /// is dragged: a press on it holds the texel that was hit.
-class TextureGizmo : public Gizmo
+class NB_MANIPULATOR_API TextureGizmo : public Gizmo
 {
 public:
     /// A copy with all fields, that shares the nodes and materials.

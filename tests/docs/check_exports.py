@@ -36,7 +36,7 @@ def outermost(scope):
     """The class or namespace below our namespaces that a scope lies in: what is nested goes with it."""
     parts = scope.split("::")
     for count, part in enumerate(parts, 1):
-        if part not in ("nbec", "manipulator", "modules", "textureplacement", "interaction", "notification", "nbrender", "osg"):
+        if part not in ("nbec", "manipulator", "modules", "textureplacement", "texture", "interaction", "notification", "nbrender", "osg"):
             return "::".join(parts[:count])
     return scope
 
