@@ -320,8 +320,9 @@ bool InputTranslator::wheel(const QWheelEvent& event)
     if (steps == 0.0) {
         return false;
     }
-    const bool taken = manager.triggerEvent(
-        InteractionEvent(names::kTrigger, names::kCamera, names::kZoom, steps));
+    const bool taken =
+        manager.triggerEvent(InteractionEvent(names::kTrigger, names::kCamera, names::kZoom, steps,
+                                              event.modifiers().testFlag(Qt::ShiftModifier)));
     if (taken) {
         refreshHover();
     }

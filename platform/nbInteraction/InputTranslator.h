@@ -32,7 +32,8 @@ class InteractionManager;
 ///   and Shift + right "pan"; Alt + right "zoom".
 ///   With setMiddleOrbits(true) middle "orbit", Shift + middle "pan", Ctrl + middle "zoom"; the
 ///   right button, but for Alt and Shift, means nothing.
-/// - Wheel and touchpad scroll: "trigger", tool "camera", hint "zoom", amount in wheel steps.
+/// - Wheel and touchpad scroll: "trigger", tool "camera", hint "zoom", amount in wheel steps, fine
+///   with Shift.
 /// - Ctrl held, released: mode "precisionTool", "tool".
 /// - Pickers are told what moves the pointer, mouse, pen or finger (Picker::setDevice).
 /// - During a drag with the left button keys go to the manager's DragKeys first, Shift makes the

@@ -17,12 +17,14 @@ public:
     /// @param hintText   how it is meant ("select", "toggle", "orbit", ...)
     /// @param amountValue  extent of a stepless action, such as wheel steps (positive away from the
     /// user); 0 where the event has none
+    /// @param fine  whether Shift was held, for small steps of such an action
     InteractionEvent(const std::string& eventName, const std::string& toolName,
-                     const std::string& hintText, double amountValue = 0.0)
+                     const std::string& hintText, double amountValue = 0.0, bool fine = false)
         : event(eventName)
         , tool(toolName)
         , hint(hintText)
         , amount(amountValue)
+        , isFineStep(fine)
     { }
 
     const std::string& getEvent() const { return event; }
@@ -33,11 +35,14 @@ public:
 
     double getAmount() const { return amount; }
 
+    bool isFine() const { return isFineStep; }
+
 private:
     std::string event;
     std::string tool;
     std::string hint;
     double amount = 0.0;
+    bool isFineStep = false;
 };
 
 }  // namespace nbec::interaction

@@ -13,6 +13,7 @@
 
 #include <QtCore/QCoreApplication>
 
+#include <cmath>
 #include <map>
 #include <optional>
 
@@ -61,6 +62,14 @@ struct nbMaterialEditor::Impl final : public EditedComponent
     void changeValues(const char* name, nbValueChange::Read read, const nbMessage& message);
     void place(const nbMessage& message);
     void placeAt(const osg::NodePtr& space, const osg::Pnt3f& point, const osg::Vec3f& normal);
+    /// The projection after a placing. With a projection only.
+    /// @return nothing if the place is not finite or the object is flat
+    std::optional<nbTransformState> placed(const osg::NodePtr& space, const osg::Pnt3f& point,
+                                           const osg::Vec3f& normal,
+                                           const nbTransformState& from) const;
+
+    float placingAngle = 0.0F;
+    float placingSize = 1.0F;
 };
 
 void nbMaterialEditor::Impl::refuse(const char* message, const std::string& reason) const
@@ -140,26 +149,41 @@ void nbMaterialEditor::Impl::place(const nbMessage& message)
     }
 }
 
+std::optional<nbTransformState> nbMaterialEditor::Impl::placed(const osg::NodePtr& space,
+                                                               const osg::Pnt3f& point,
+                                                               const osg::Vec3f& normal,
+                                                               const nbTransformState& from) const
+{
+    osg::Pnt3f ownPoint;
+    osg::Vec3f ownNormal;
+    const osg::Matrix worldFromSpace = space->getToWorld();
+    if (!toObject(worldFromSpace, point, normal, ownPoint, ownNormal)) {
+        return std::nullopt;
+    }
+    nbTransformState state = nbTransformState::of(*projection());
+    state.translation = osg::Vec3f(ownPoint.x(), ownPoint.y(), ownPoint.z());
+    if (ownNormal.length() > 0.0F) {
+        standOn(worldFromSpace, ownNormal, nbOSGWidget::isCameraZUp(), placingAngle, from, state);
+        state.scale[0] *= placingSize;
+        state.scale[1] *= placingSize;
+    }
+    return isFinite(state) ? std::optional(state) : std::nullopt;
+}
+
 void nbMaterialEditor::Impl::placeAt(const osg::NodePtr& space, const osg::Pnt3f& point,
                                      const osg::Vec3f& normal)
 {
     const osg::Transform3DPtr core = projection();
-    osg::Pnt3f ownPoint;
-    osg::Vec3f ownNormal;
-    const osg::Matrix worldFromSpace = space->getToWorld();
-    if (core == osg::NullFC || !toObject(worldFromSpace, point, normal, ownPoint, ownNormal)) {
+    const std::optional<nbTransformState> state =
+        core == osg::NullFC ? std::nullopt : placed(space, point, normal, start().projection);
+    if (!state) {
         refuse(kPlace,
                core == osg::NullFC ? "there is no projection"
                                    : "the place is not finite or the object is flat");
         return;
     }
-    nbTransformState state = nbTransformState::of(*core);
-    state.translation = osg::Vec3f(ownPoint.x(), ownPoint.y(), ownPoint.z());
-    if (ownNormal.length() > 0.0F) {
-        standOn(worldFromSpace, ownNormal, nbOSGWidget::isCameraZUp(), start().projection, state);
-    }
     const nbScopedUndo scope(kPlaceTitle);
-    if (write(core, state)) {
+    if (write(core, *state)) {
         announce();
     }
 }
@@ -228,6 +252,28 @@ osg::ColorComponentSettingsPtr nbMaterialEditor::getSettings() const
 osg::Transform3DPtr nbMaterialEditor::getProjection() const
 {
     return impl->projection();
+}
+
+// == Placing
+
+void nbMaterialEditor::setPlacingTurn(float angle, float size)
+{
+    if (std::isfinite(angle) && std::isnormal(size)) {
+        impl->placingAngle = angle;
+        impl->placingSize = size;
+    }
+}
+
+bool nbMaterialEditor::showPlacing(const osg::NodePtr& hitNode, const osg::Pnt3f& hitPoint,
+                                   const osg::Vec3f& hitNormal)
+{
+    const osg::Transform3DPtr core = impl->projection();
+    const osg::NodePtr space = impl->spaceOf(hitNode);
+    const std::optional<nbTransformState> state = core == osg::NullFC || space == osg::NullFC
+        ? std::nullopt
+        : impl->placed(space, hitPoint, hitNormal, nbTransformState::of(*core));
+    impl->showPlacing(state);
+    return state.has_value();
 }
 
 // == Edits

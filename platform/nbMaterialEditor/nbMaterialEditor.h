@@ -78,6 +78,19 @@ public:
     osg::ColorComponentSettingsPtr getSettings() const;
     osg::Transform3DPtr getProjection() const;
 
+    // == Placing by "R::placeTexture"
+
+    /// Has what is placed from now on be turned and sized beside that, about its place.
+    /// @param angle  radians, counter-clockwise for who looks at the picture; 0 at first
+    /// @param size   of width and height, > 0; 1 at first. Numbers that are not finite: nothing
+    void setPlacingTurn(float angle, float size);
+
+    /// Has the picture drawn as "R::placeTexture" with these would place it, until the next call,
+    /// the next edit by this editor, or another material: nothing is edited, recorded or told.
+    /// @return false, and it is drawn where it is, where that message would do nothing
+    bool showPlacing(const osg::NodePtr& hitNode, const osg::Pnt3f& hitPoint,
+                     const osg::Vec3f& hitNormal);
+
     // == Edits; each can be undone, marks the scene as modified, and answers whether it was
     // possible
 

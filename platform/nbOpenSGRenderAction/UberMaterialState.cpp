@@ -58,7 +58,7 @@ bool isTile(const osg::Vec4f& tile)
 
 bool resolvePlanar(const osg::ColorComponentSettingsPtr& settings, ProjectedPicture& picture)
 {
-    const osg::Transform3DPtr projection = settings->getPlanarProjection();
+    const osg::Transform3DPtr projection = settings->getShownProjection();
     if (projection == osg::NullFC || !projection->getMatrix().inverse(picture.pictureFromSurface)) {
         return false;
     }

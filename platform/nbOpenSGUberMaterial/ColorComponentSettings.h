@@ -32,7 +32,8 @@ NB_CONTAINER_POINTER(ColorComponentSettings, AttachmentContainerPtr);
     VALUE(TireScaleU, tireScaleU, Real32, 1.0F)                                                     \
     VALUE(TireScaleHeight, tireScaleHeight, Real32, 1.0F)                                           \
     VALUE(TireScaleRadius, tireScaleRadius, Real32, 1.0F)                                           \
-    VALUE(TireAutoParameter, tireAutoParameter, bool, true)
+    VALUE(TireAutoParameter, tireAutoParameter, bool, true)                                         \
+    VALUE(PlacingId, placingId, UInt32, 0)
 
 // clang-format on
 
@@ -70,6 +71,10 @@ NB_CONTAINER_POINTER(ColorComponentSettings, AttachmentContainerPtr);
 /// TireAutoParameter an nbMaterialEditor fits the centre, height and radius to the object; nobody
 /// else looks at this.
 ///
+/// While somebody looks for a place for a planar picture, PlacingId is the container id of a
+/// projection that is drawn instead, as long as that lives; nobody keeps it or takes it for an
+/// edit.
+///
 /// A projection that is null, flattened (a scale or repeat of 0, say) or not finite shows no
 /// picture, nor does a UV projection of a geometry without texture coordinates.
 ///
@@ -99,6 +104,9 @@ public:
         TriplanarProjection = 2,
         TireProjection = 3
     };
+
+    /// The planar projection that is drawn; null if there is none.
+    Transform3DPtr getShownProjection() const;
 
     /// Whether all bits of a flag are set.
     bool hasPlanarProjectionFlag(PlanarProjectionFlag flag) const;

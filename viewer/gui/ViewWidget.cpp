@@ -260,8 +260,8 @@ bool ViewWidget::followTouchpad(QEvent* event)
             std::log(nbec::interaction::CameraInteractionContext::kWheelFactor);
         const QPointF at = nbQt::position(gesture);
         QWheelEvent wheel(at, mapToGlobal(at.toPoint()), QPoint(),
-                          QPoint(0, qRound(kAngleOfStep * steps)), Qt::NoButton, Qt::NoModifier,
-                          Qt::NoScrollPhase, false);
+                          QPoint(0, qRound(kAngleOfStep * steps)), Qt::NoButton,
+                          Qt::ControlModifier, Qt::NoScrollPhase, false);
         QCoreApplication::sendEvent(this, &wheel);
     }
     return true;

@@ -43,10 +43,7 @@ bool pick(const Owner& owner, Picker& picker, QString& error)
         target.surface()->getToWorld().multMatrixPnt(middle);
     }
     osg::Pnt2f px;
-    const nbOSGWidget& view = owner.stage.view();
-    const bool isHit = projection != osg::NullFC &&
-        nbCameraNavigation::project(owner.stage.pose(), middle, view.getWidth(), view.getHeight(),
-                                    px) &&
+    const bool isHit = projection != osg::NullFC && owner.stage.project(middle, px) &&
         picker.pickAt(px) == target.surface();
     if (!isHit) {
         error = Text::tr("the surface with the picture is not there");

@@ -58,6 +58,25 @@ osg::Vec3f vectorIn(const osg::NodePtr& node, const osg::Vec3f& world)
     return vector;
 }
 
+/// Scale of a projection on a surface, made smaller in x or y so that the picture has its own
+/// aspect in the world.
+osg::Vec3f scaleOfAspect(const osg::NodePtr& surface, const ProjectionPose& pose, float aspect)
+{
+    osg::Vec3f x(1.0F, 0.0F, 0.0F);
+    osg::Vec3f y(0.0F, 1.0F, 0.0F);
+    pose.rotation.multVec(x, x);
+    pose.rotation.multVec(y, y);
+    const osg::Matrix worldFromSurface = surface->getToWorld();
+    worldFromSurface.multMatrixVec(x);
+    worldFromSurface.multMatrixVec(y);
+    osg::Vec3f scale = pose.scale;
+    const float wide = scale.x() * x.length() / (scale.y() * y.length() * aspect);
+    if (std::isnormal(wide)) {
+        scale[wide > 1.0F ? 0 : 1] *= wide > 1.0F ? 1.0F / wide : wide;
+    }
+    return scale;
+}
+
 }  // namespace
 
 ProjectionPose poseOnFront(const osg::BoxVolume& bounds, const osg::Vec3f& toEye,
@@ -105,23 +124,6 @@ ProjectionPose poseFacingTheEye(const osg::NodePtr& surface, const CameraPose& e
                     vectorIn(surface, axes.up), aspect, share);
     pose.scale = scaleOfAspect(surface, pose, aspect);
     return pose;
-}
-
-osg::Vec3f scaleOfAspect(const osg::NodePtr& surface, const ProjectionPose& pose, float aspect)
-{
-    osg::Vec3f x(1.0F, 0.0F, 0.0F);
-    osg::Vec3f y(0.0F, 1.0F, 0.0F);
-    pose.rotation.multVec(x, x);
-    pose.rotation.multVec(y, y);
-    const osg::Matrix worldFromSurface = surface->getToWorld();
-    worldFromSurface.multMatrixVec(x);
-    worldFromSurface.multMatrixVec(y);
-    osg::Vec3f scale = pose.scale;
-    const float wide = scale.x() * x.length() / (scale.y() * y.length() * aspect);
-    if (std::isnormal(wide)) {
-        scale[wide > 1.0F ? 0 : 1] *= wide > 1.0F ? 1.0F / wide : wide;
-    }
-    return scale;
 }
 
 }  // namespace viewer

@@ -34,10 +34,6 @@ ProjectionPose poseOnFront(const osg::BoxVolume& bounds, const osg::Vec3f& toEye
 ProjectionPose poseFacingTheEye(const osg::NodePtr& surface, const CameraPose& eye, float aspect,
                                 float share);
 
-/// Scale of a projection on a surface, made smaller in x or y so that the picture has its own
-/// aspect in the world. @param aspect  width by height of the picture, > 0
-osg::Vec3f scaleOfAspect(const osg::NodePtr& surface, const ProjectionPose& pose, float aspect);
-
 /// Scale after an edit of which the ratio of x to y is kept: a side that alone has changed takes
 /// the other along.
 osg::Vec3f scaleKeepingAspect(const osg::Vec3f& before, const osg::Vec3f& wanted);

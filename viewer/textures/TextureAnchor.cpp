@@ -40,12 +40,9 @@ osg::Pnt3f visiblePointOf(const osg::NodePtr& surface, Stage& stage)
     osg::Pnt3f middle;
     nbNodeUtils::getWorldBounds(surface).getCenter(middle);
     osg::Pnt2f px;
-    const nbOSGWidget& view = stage.view();
-    if (!nbCameraNavigation::project(stage.pose(), middle, view.getWidth(), view.getHeight(), px)) {
-        return middle;
-    }
     nbec::interaction::Picker picker;
-    return picker.pickAt(px) == surface ? picker.getHitPoint() : middle;
+    const bool isSeen = stage.project(middle, px) && picker.pickAt(px) == surface;
+    return isSeen ? picker.getHitPoint() : middle;
 }
 
 }  // namespace viewer

@@ -24,7 +24,7 @@ TextureGizmos::makeKind(Gizmo& gizmo, std::vector<std::pair<const char*, void (G
     Kind made;
     made.gizmo = &gizmo;
     for (const auto& [word, show] : groups) {
-        made.groups.emplace_back(word, [&gizmo, show = show] { (gizmo.*show)(); });
+        made.groups[word] = [&gizmo, show = show] { (gizmo.*show)(); };
     }
     made.place = &Gizmo::updateAllManipulators;
     made.size = &Gizmo::getManipulatorSize;
@@ -138,21 +138,12 @@ void TextureGizmos::setPivotsAtHandles(bool on)
 
 bool TextureGizmos::hasGroup(const std::string& word) const
 {
-    for (const auto& group : kind().groups) {
-        if (word == group.first) {
-            return true;
-        }
-    }
-    return false;
+    return kind().groups.count(word) != 0;
 }
 
 void TextureGizmos::showGroup(const std::string& word)
 {
-    for (const auto& [name, show] : kind().groups) {
-        if (word == name) {
-            show();
-        }
-    }
+    kind().groups.at(word)();
 }
 
 void TextureGizmos::place()

@@ -8,6 +8,7 @@
 
 #include <array>
 #include <functional>
+#include <map>
 #include <string>
 #include <utility>
 #include <vector>
@@ -91,7 +92,7 @@ private:
     struct Kind
     {
         nbec::manipulator::AbstractManipulator* gizmo = nullptr;
-        std::vector<std::pair<const char*, std::function<void()>>> groups;
+        std::map<std::string, std::function<void()>> groups;
         std::function<void()> place;
         std::function<float()> size;
         std::function<void(float)> setSize;

@@ -72,6 +72,15 @@ public:
     /// surface without texture coordinates gets those of a box when they are first needed.
     bool setProjectionType(Settings::TextureProjection type);
 
+    /// Draws the picture as a click would place it, see nbMaterialEditor.
+    void showPlacing(const osg::NodePtr& hit, const osg::Pnt3f& point, const osg::Vec3f& normal)
+    {
+        editor.showPlacing(hit, point, normal);
+    }
+
+    /// How clicks turn and size it beside that.
+    void setPlacingTurn(float angle, float size) { editor.setPlacingTurn(angle, size); }
+
     /// For edits of the place as a whole.
     nbPicturePlacing placing() { return nbPicturePlacing(editor, surface()); }
 

@@ -63,6 +63,7 @@ TextureTool::TextureTool(Stage& targetStage)
     : stage(targetStage)
     , gizmos(kReceiver, nbScenegraph::getInternalRoot())
     , textureTarget(kReceiver, *this)
+    , placingContext(*this)
 {
     handlePicker.setFilter(Picker::HandleFilter);
     probe.setFilter(Picker::HandleFilter);
@@ -294,11 +295,7 @@ void TextureTool::takePointer()
         const bool isPicture =
             textureTarget.projectionType() == TextureTarget::Settings::PlanarProjection;
         placingContext.setTool(isPicture ? &placingTool : nullptr);
-        if (!isPicture) {
-            placingContext.setAnchoring([this](const osg::Pnt2f& px) { return setAnchor(px); },
-                                        [this] { setPlacing(false); });
-            stage.view().setCursor(Qt::CrossCursor);
-        }
+        stage.view().setCursor(Qt::CrossCursor);
         manager.addContext(&placingContext);
         return;
     }
@@ -314,7 +311,6 @@ void TextureTool::leavePointer()
     manager.removeContext(&handleContext);
     manager.removeContext(&placingContext);
     placingContext.setTool(nullptr);
-    placingContext.setAnchoring(nullptr, nullptr);
     if (placing) {
         stage.view().setCursor(Qt::ArrowCursor);
     }
@@ -365,6 +361,9 @@ void TextureTool::update()
     if (active && osg::glue::editStamp() != shownStamp) {
         connect();
         gizmos.update();
+        if (placing) {
+            placingContext.showAgain();
+        }
         showInScene();
         shownStamp = osg::glue::editStamp();
     }
@@ -420,9 +419,12 @@ void TextureTool::showInScene()
         return;
     }
     const bool ends = settings->hasPlanarProjectionFlag(TextureTarget::Settings::ClampZ);
-    const osg::Vec3f scale = projection->getScale();
+    // The display takes what it shows from settings.
+    const osg::ColorComponentSettingsRefPtr shown(TextureTarget::Settings::create());
+    shown->setPlanarProjection(settings->getShownProjection());
+    const osg::Vec3f scale = shown->getPlanarProjection()->getScale();
     visualization.attachToNode(textureTarget.surface());
-    visualization.updateProjectionTransform(settings);
+    visualization.updateProjectionTransform(shown.get());
     visualization.setScale(scale[0], scale[1]);
     visualization.setZScaleVisible(ends && depthShown);
     visualization.setTexture(textureTarget.image(), settings->getAsMask(), settings->getInvert());

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "viewer/stage/DragContext.h"
-#include "viewer/stage/PlacingContext.h"
 #include "viewer/stage/StageTool.h"
+#include "viewer/textures/PlacingContext.h"
 #include "viewer/textures/TextureAnchor.h"
 #include "viewer/textures/TextureGizmos.h"
 #include "viewer/textures/TextureTarget.h"
@@ -138,6 +138,12 @@ public:
     osg::NodePtr handles() override;
     std::string hoveredHandle() override;
     std::string handleAt(const osg::Pnt2f& px) override;
+
+    QString selectionText() const override
+    {
+        return isPlacing() ? placingContext.text() : QString();
+    }
+
     /// Takes what falls on an object, as the command "texture.drop", so that it is recorded.
     bool takePicture(const QString& file, const osg::Pnt2f& px, QString& error) override;
 
@@ -166,9 +172,8 @@ private:
     TextureAnchor handlePlace;
     nbec::modules::textureplacement::TexturePlacementPickTool placingTool;
     DragContext handleContext;
-    PlacingContext placingContext;
-
     TextureTarget textureTarget;
+    PlacingContext placingContext;
     std::string shownGroup = "universal";
     bool active = false;
     bool placing = false;

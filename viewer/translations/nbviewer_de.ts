@@ -744,6 +744,14 @@
         <source>Drag the picture</source>
         <translation>Bild ziehen</translation>
     </message>
+    <message>
+        <source>A click places the handles; Esc ends</source>
+        <translation>Ein Klick setzt die Griffe; Esc beendet</translation>
+    </message>
+    <message>
+        <source>A click places the picture, the wheel turns it (%1°), Ctrl and the wheel size it (%2%); Shift slows, Esc ends</source>
+        <translation>Ein Klick setzt das Bild, das Rad dreht es (%1°), Strg und Rad ändern seine Größe (%2 %); Umschalt verlangsamt, Esc beendet</translation>
+    </message>
 </context>
 <context>
     <name>viewer::AboutBox</name>

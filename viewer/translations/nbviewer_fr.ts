@@ -744,6 +744,14 @@
         <source>Drag the picture</source>
         <translation>Faire glisser l&apos;image</translation>
     </message>
+    <message>
+        <source>A click places the handles; Esc ends</source>
+        <translation>Un clic place les poignées ; Échap termine</translation>
+    </message>
+    <message>
+        <source>A click places the picture, the wheel turns it (%1°), Ctrl and the wheel size it (%2%); Shift slows, Esc ends</source>
+        <translation>Un clic place l’image, la molette la tourne (%1°), Ctrl et la molette changent sa taille (%2 %) ; Maj ralentit, Échap termine</translation>
+    </message>
 </context>
 <context>
     <name>viewer::AboutBox</name>

@@ -742,6 +742,14 @@
         <source>Drag the picture</source>
         <translation>拖动图片</translation>
     </message>
+    <message>
+        <source>A click places the handles; Esc ends</source>
+        <translation>单击放置手柄；Esc 结束</translation>
+    </message>
+    <message>
+        <source>A click places the picture, the wheel turns it (%1°), Ctrl and the wheel size it (%2%); Shift slows, Esc ends</source>
+        <translation>单击放置图片，滚轮旋转（%1°），Ctrl 加滚轮缩放（%2%）；Shift 减速，Esc 结束</translation>
+    </message>
 </context>
 <context>
     <name>viewer::AboutBox</name>

@@ -23,6 +23,14 @@ osg::UInt32 idOf(const osg::FieldContainerPtr& container)
     return container == osg::NullFC ? 0 : container.getFieldContainerId();
 }
 
+void setPlacing(const osg::ColorComponentSettingsPtr& settings, osg::UInt32 id)
+{
+    if (settings != osg::NullFC) {
+        const nbEdit edit(settings, Settings::PlacingIdFieldMask);
+        settings->setPlacingId(id);
+    }
+}
+
 }  // namespace
 
 bool isFinite(const nbTransformState& state)
@@ -49,6 +57,7 @@ void EditedComponent::setTarget(const osg::MaterialPtr& material, const osg::Nod
     gui = told;
     recordedStep = 0;
     endDrag();
+    showPlacing(std::nullopt);
 }
 
 osg::UberMaterialPtr EditedComponent::material() const
@@ -89,6 +98,27 @@ const EditedComponent::DragStart& EditedComponent::start()
                         edited == osg::NullFC ? nbTextureValues() : nbTextureValues::of(*edited) };
     }
     return *dragStart;
+}
+
+void EditedComponent::showPlacing(const std::optional<nbTransformState>& state)
+{
+    const osg::ColorComponentSettingsPtr wanted =
+        state ? settings() : osg::ColorComponentSettingsPtr();
+    const auto shown = resolveContainer<osg::ColorComponentSettingsPtr>(placingSettingsId);
+    if (wanted == shown &&
+        (wanted == osg::NullFC || state->isSame(nbTransformState::of(*placing.get())))) {
+        return;
+    }
+    if (wanted != shown) {
+        setPlacing(shown, 0);
+    }
+    placing = osg::RefPtr<osg::Transform3DPtr>();
+    if (wanted != osg::NullFC) {
+        placing = osg::RefPtr<osg::Transform3DPtr>(osg::Transform3D::create());
+        state->applyTo(placing.get());
+        setPlacing(wanted, idOf(placing.get()));
+    }
+    placingSettingsId = idOf(wanted);
 }
 
 osg::BoxVolume EditedComponent::objectBounds() const
@@ -205,6 +235,7 @@ void EditedComponent::makeEdit(const char* title, nbFunctionRef<void()> edit)
 
 void EditedComponent::announce()
 {
+    showPlacing(std::nullopt);
     nbController::setModified(1);
     if (gui != nullptr) {
         gui->componentChanged(componentName);

@@ -33,6 +33,10 @@ public:
         nbTextureValues values;
     };
 
+    EditedComponent() = default;
+
+    ~EditedComponent() override { showPlacing(std::nullopt); }
+
     void previewEnabled(bool) override { endDrag(); }
 
     void setTarget(const osg::MaterialPtr& material, const osg::NodePtr& object,
@@ -57,6 +61,10 @@ public:
     /// The node in whose space the projection is for a hit: the object, if that was hit, or else
     /// another node with the same material. Null if it has nothing to do with the material.
     osg::NodePtr spaceOf(const osg::NodePtr& hit) const;
+
+    /// Has another projection drawn, which is no edit; nothing: the component's own again. Ends
+    /// with the next edit that announces itself and with another target.
+    void showPlacing(const std::optional<nbTransformState>& state);
 
     // == Edits within a scope of undo that is open; each answers whether anything is different now
 
@@ -87,6 +95,8 @@ private:
     std::string componentName;
     nbStateChunkBase* gui = nullptr;
     std::optional<DragStart> dragStart;
+    osg::RefPtr<osg::Transform3DPtr> placing;  ///< what is drawn instead; null for none
+    osg::UInt32 placingSettingsId = 0;
     /// The step of the undo service that has a record of the component; 0 for none.
     osg::UInt64 recordedStep = 0;
 };

@@ -173,7 +173,7 @@ void turnAboutOwnZ(const nbTransformState& start, float angle, nbTransformState&
         result);
 }
 
-void standOn(const osg::Matrix& worldFromObject, const osg::Vec3f& normal, bool isZUp,
+void standOn(const osg::Matrix& worldFromObject, const osg::Vec3f& normal, bool isZUp, float angle,
              const nbTransformState& start, nbTransformState& result)
 {
     const osg::Vec3d before = axis(start, 2);
@@ -181,6 +181,7 @@ void standOn(const osg::Matrix& worldFromObject, const osg::Vec3f& normal, bool 
                                        inverse(uprightTurn(worldFromObject, before, isZUp)));
     takeRotation(start, result);
     setRotation(product(turn, rotationOf(start)), result);
+    turnAboutOwnZ(nbTransformState(result), angle, result);
     keepSize(worldFromObject, start, result);
 }
 

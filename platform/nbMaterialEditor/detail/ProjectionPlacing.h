@@ -22,7 +22,8 @@ void turnAboutOwnZ(const nbTransformState& start, float angle, nbTransformState&
 /// lies flat, up is away from who looks from the front. It keeps its size in the world, too.
 /// @param normal  of any length > 0, in the object's space
 /// @param isZUp   whether z is up in the world, or y
-void standOn(const osg::Matrix& worldFromObject, const osg::Vec3f& normal, bool isZUp,
+/// @param angle   further turn about its own Z axis
+void standOn(const osg::Matrix& worldFromObject, const osg::Vec3f& normal, bool isZUp, float angle,
              const nbTransformState& start, nbTransformState& result);
 
 /// Gives a projection the rotation in which it faces along a normal and up is a direction of the
