@@ -45,7 +45,6 @@ osg::SimpleMaterialRefPtr makeMaterial(const osg::Color3f& diffuse, const osg::C
 
 }  // namespace
 
-Instances<CameraManipulator> CameraManipulator::instances;
 bool CameraManipulator::m_LocalSpaceManipulator = false;
 
 CameraManipulator::CameraManipulator()

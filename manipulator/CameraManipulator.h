@@ -20,7 +20,7 @@ namespace nbec::manipulator {
 /// registered.
 ///
 /// It is no Gizmo: without handles and drags there is nothing of that course to take.
-class NB_MANIPULATOR_API CameraManipulator : public NodeManipulator
+class NB_MANIPULATOR_API CameraManipulator : public Instanced<CameraManipulator, NodeManipulator>
 {
 public:
     /// Builds the cross, hidden, and appends the instance to the list of live ones.
@@ -67,12 +67,6 @@ public:
     /// Stores the flag, which nothing reads.
     void setDescriptionEnabled(bool on) { descriptionEnabled = on; }
 
-    /// Size on screen of all crosses in perspective views, default 32; shows when the camera moves
-    /// the next time. Deliberate: a size of 200 makes the scale infinite.
-    static void setManipulatorSize(float size) { instances.setSize(size); }
-
-    static float getManipulatorSize() { return instances.m_ManipulatorSize; }
-
     static void setLocalSpaceManipulator(bool local)
     {
         m_LocalSpaceManipulator = local;
@@ -81,23 +75,19 @@ public:
 
     static bool isLocalSpaceManipulator() { return m_LocalSpaceManipulator; }
 
-    /// Re-places every registered cross, in the order of construction.
-    static void updateAllManipulators() { instances.updateAll(); }
-
     /// Creates a manipulator that lives in the list of live ones only. Deliberate: it does not
     /// become the current instance, which nothing in this library sets, so that a new size waits
     /// for the next movement of the camera.
     static void createInstance() { new CameraManipulator; }
 
 private:
-    friend struct Instances<CameraManipulator>;
+    friend Instances<CameraManipulator>;
 
     osg::NodePtr createManipulatorGeo();
     void showForSelection();
     void updateManipulator();
     void showAllElements(bool isVisible);
 
-    static Instances<CameraManipulator> instances;
     static bool m_LocalSpaceManipulator;
 
     osg::SimpleMaterialRefPtr normalMaterial;

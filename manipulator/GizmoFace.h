@@ -46,6 +46,9 @@ public:
         }
     }
 
+    /// Places the handles, as what is edited is now; nothing without what they stand at.
+    void updateManipulator() { gizmo->placeIn(View()); }
+
     /// Grabs the handle under the pointer and hides the others. @return whether there is one
     bool startManipulator(ManipulatorInteractionContext* ctx, const std::string& /*hint*/) override
     {

@@ -8,10 +8,8 @@ namespace nbec::manipulator {
 
 using texture::PlanarGizmo;
 
-Instances<PlanarTextureManipulator> PlanarTextureManipulator::instances;
-
 PlanarTextureManipulator::PlanarTextureManipulator(bool withDepthPass)
-    : TextureFace(std::make_unique<PlanarGizmo>(withDepthPass, instances.m_ManipulatorSize))
+    : Instanced(std::make_unique<PlanarGizmo>(withDepthPass, instances.m_ManipulatorSize))
 {
     instances.add(this);
 }

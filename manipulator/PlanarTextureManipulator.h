@@ -43,7 +43,8 @@ class PlanarGizmo;
 ///   nothing until it stops. Deactivating ends it, and a pause of the preview that is still owed.
 /// - The first step makes the node a transform, with pivots at its centre if it has none.
 /// - update(false) places the handles anew if anything was edited, or the size was set.
-class NB_MANIPULATOR_API PlanarTextureManipulator : public TextureFace<NodeManipulator>
+class NB_MANIPULATOR_API PlanarTextureManipulator
+    : public Instanced<PlanarTextureManipulator, TextureFace<NodeManipulator>>
 {
 public:
     using ActiveMode = texture::PlanarActiveMode;
@@ -141,8 +142,6 @@ public:
     /// Chooses the drag plane of the active handle, through the origin of the handle frame.
     void updateManipulatorPlane();
 
-    // == All instances
-
     /// Creates a gizmo and makes it the shared instance, in place of an earlier one.
     /// @param destroy  only destroys the shared instance
     static void createInstance(bool destroy)
@@ -150,26 +149,11 @@ public:
         instances.share(destroy ? nullptr : new PlanarTextureManipulator);
     }
 
-    /// The shared instance, or null.
-    static PlanarTextureManipulator* getInstance() { return instances._the; }
-
-    /// Size of all gizmos in perspective views, 0 <= size < 200, default 32. The shared instance is
-    /// re-placed at once, others at their next update.
-    static void setManipulatorSize(float size) { instances.setSize(size); }
-
-    static float getManipulatorSize() { return instances.m_ManipulatorSize; }
-
-    /// Re-places every live gizmo, in the order of construction. The host calls it when the camera
-    /// has moved.
-    static void updateAllManipulators() { instances.updateAll(); }
-
 private:
     void activateMode(ManipulatorMode mode) { gizmo->activateMode(static_cast<int>(mode)); }
 
     texture::PlanarGizmo& course() const;
     texture::PlanarSettings& settings() const;
-
-    static Instances<PlanarTextureManipulator> instances;
 };
 
 }  // namespace nbec::manipulator

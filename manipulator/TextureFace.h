@@ -94,9 +94,6 @@ public:
     /// Hides all handles.
     void hideManipulator() { this->gizmo->hide(); }
 
-    /// Reads the material again and places the handles; nothing without what they stand at.
-    void updateManipulator() { this->gizmo->placeIn(View()); }
-
 protected:
     explicit TextureFace(std::unique_ptr<texture::TextureGizmo> owned)
         : GizmoFace<Base>(std::move(owned))

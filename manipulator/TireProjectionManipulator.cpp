@@ -5,10 +5,8 @@
 
 namespace nbec::manipulator {
 
-Instances<TireProjectionManipulator> TireProjectionManipulator::instances;
-
 TireProjectionManipulator::TireProjectionManipulator()
-    : AnchoredTextureManipulator(std::make_unique<texture::TireGizmo>(instances.m_ManipulatorSize))
+    : Instanced(std::make_unique<texture::TireGizmo>(instances.m_ManipulatorSize))
 {
     instances.add(this);
 }

@@ -36,7 +36,8 @@ namespace nbec::manipulator {
 ///   scale follows the angle about the axle in the object's space, whole turns counted, with the
 ///   transform gizmo's rule for rings seen at a grazing angle.
 /// - Everything is shown at the start. On-screen text tells the value while it is dragged.
-class NB_MANIPULATOR_API TireProjectionManipulator : public AnchoredTextureManipulator
+class NB_MANIPULATOR_API TireProjectionManipulator
+    : public Instanced<TireProjectionManipulator, AnchoredTextureManipulator>
 {
 public:
     using ManipulatorMode = texture::TireMode;
@@ -60,26 +61,8 @@ public:
 
     ActiveMode getActiveMode() const { return static_cast<ActiveMode>(gizmo->getArmed()); }
 
-    // == All instances
-
-    /// Makes the shared instance, in place of an earlier one, which is destroyed.
-    static void createInstance() { instances.share(new TireProjectionManipulator); }
-
-    /// The shared instance, or null. Whoever deletes it takes it away.
-    static TireProjectionManipulator* getInstance() { return instances._the; }
-
-    /// Size on screen, 0 <= size < 200, default 32. The shared instance is placed anew.
-    static void setManipulatorSize(float size) { instances.setSize(size); }
-
-    static float getManipulatorSize() { return instances.m_ManipulatorSize; }
-
-    /// Places every live gizmo anew, in the order of construction.
-    static void updateAllManipulators() { instances.updateAll(); }
-
 private:
     void activateMode(ManipulatorMode mode) { gizmo->activateMode(static_cast<int>(mode)); }
-
-    static Instances<TireProjectionManipulator> instances;
 };
 
 }  // namespace nbec::manipulator

@@ -5,11 +5,8 @@
 
 namespace nbec::manipulator {
 
-Instances<TriplanarTextureManipulator> TriplanarTextureManipulator::instances;
-
 TriplanarTextureManipulator::TriplanarTextureManipulator()
-    : AnchoredTextureManipulator(
-          std::make_unique<texture::TriplanarGizmo>(instances.m_ManipulatorSize))
+    : Instanced(std::make_unique<texture::TriplanarGizmo>(instances.m_ManipulatorSize))
 {
     instances.add(this);
 }

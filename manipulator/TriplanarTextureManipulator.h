@@ -30,7 +30,8 @@ namespace nbec::manipulator {
 ///   the projection is triplanar; else a drag starts from no rotation and offset and from scale 1.
 /// - The size of a drag's handles follows only what update() compares: setManipulatorSize() places
 ///   the shared instance, hosts call updateAllManipulators() for the others.
-class NB_MANIPULATOR_API TriplanarTextureManipulator : public AnchoredTextureManipulator
+class NB_MANIPULATOR_API TriplanarTextureManipulator
+    : public Instanced<TriplanarTextureManipulator, AnchoredTextureManipulator>
 {
 public:
     using ManipulatorMode = texture::TriplanarMode;
@@ -59,27 +60,8 @@ public:
     void setRingsTilted(bool on);
     bool areRingsTilted() const;
 
-    // == All instances
-
-    /// Makes the shared instance, in place of an earlier one, which is destroyed.
-    static void createInstance() { instances.share(new TriplanarTextureManipulator); }
-
-    /// The shared instance, or null. Whoever deletes it takes it away.
-    static TriplanarTextureManipulator* getInstance() { return instances._the; }
-
-    /// Size on screen, 0 <= size < 200, default 32. Deliberate: 200 makes the size infinite in
-    /// perspective views. The shared instance is placed anew.
-    static void setManipulatorSize(float size) { instances.setSize(size); }
-
-    static float getManipulatorSize() { return instances.m_ManipulatorSize; }
-
-    /// Places every live gizmo anew, in the order of construction.
-    static void updateAllManipulators() { instances.updateAll(); }
-
 private:
     void activateMode(ManipulatorMode mode) { gizmo->activateMode(static_cast<int>(mode)); }
-
-    static Instances<TriplanarTextureManipulator> instances;
 };
 
 }  // namespace nbec::manipulator

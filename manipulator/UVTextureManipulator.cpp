@@ -7,8 +7,6 @@ namespace nbec::manipulator {
 
 namespace {
 
-constexpr float kDefaultSize = 0.03F;
-
 texture::UVGizmo& uvGizmo(Gizmo& gizmo)
 {
     return static_cast<texture::UVGizmo&>(gizmo);
@@ -16,10 +14,8 @@ texture::UVGizmo& uvGizmo(Gizmo& gizmo)
 
 }  // namespace
 
-Instances<UVTextureManipulator> UVTextureManipulator::instances = { {}, nullptr, kDefaultSize };
-
 UVTextureManipulator::UVTextureManipulator()
-    : AnchoredTextureManipulator(std::make_unique<texture::UVGizmo>(instances.m_ManipulatorSize))
+    : Instanced(std::make_unique<texture::UVGizmo>(instances.m_ManipulatorSize))
 {
     instances.add(this);
 }

@@ -34,11 +34,14 @@ namespace nbec::manipulator {
 /// - A pointer on the anchor has no direction and keeps the last angle.
 /// - A drag goes on without its material; the messages go to the receiver all the same.
 /// - The aspect ratio is kept for the host; nothing here depends on it.
-class NB_MANIPULATOR_API UVTextureManipulator : public AnchoredTextureManipulator
+class NB_MANIPULATOR_API UVTextureManipulator
+    : public Instanced<UVTextureManipulator, AnchoredTextureManipulator>
 {
 public:
     using ManipulatorMode = texture::UVMode;
     using ActiveMode = texture::UVHandle;
+
+    static constexpr float kDefaultSize = 0.03F;
 
     /// Builds the handles and appends the instance to the list of live ones.
     UVTextureManipulator();
@@ -69,21 +72,8 @@ public:
     void setAspectRatio(float ratio);
     float getAspectRatio() const;
 
-    // == All instances
-
-    /// Size on screen, default 0.03. Gizmos take it when they are placed the next time; see
-    /// updateAllManipulators().
-    static void setManipulatorSize(float size) { instances.setSize(size); }
-
-    static float getManipulatorSize() { return instances.m_ManipulatorSize; }
-
-    /// Places every live gizmo anew, in the order of construction.
-    static void updateAllManipulators() { instances.updateAll(); }
-
 private:
     void activateMode(ManipulatorMode mode) { gizmo->activateMode(static_cast<int>(mode)); }
-
-    static Instances<UVTextureManipulator> instances;
 };
 
 }  // namespace nbec::manipulator

@@ -8,11 +8,10 @@
 
 namespace nbec::manipulator {
 
-Instances<UniversalTransformManipulator2> UniversalTransformManipulator2::instances;
 transform::TransformSettings UniversalTransformManipulator2::settings;
 
 UniversalTransformManipulator2::UniversalTransformManipulator2()
-    : GizmoFace(std::make_unique<transform::TransformGizmo>(settings, instances.m_ManipulatorSize))
+    : Instanced(std::make_unique<transform::TransformGizmo>(settings, instances.m_ManipulatorSize))
 {
     instances.add(this);
 }

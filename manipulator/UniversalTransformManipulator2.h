@@ -43,7 +43,8 @@ struct TransformSettings;
 ///   updateAllManipulators(). An edit of the node shows once it is closed with endEditCP.
 ///
 /// All instances share the size and the space setting. Belongs to the user-interface thread.
-class NB_MANIPULATOR_API UniversalTransformManipulator2 : public GizmoFace<NodeManipulator>
+class NB_MANIPULATOR_API UniversalTransformManipulator2
+    : public Instanced<UniversalTransformManipulator2, GizmoFace<NodeManipulator>>
 {
 public:
     using ManipulatorMode = transform::ManipulatorMode;
@@ -122,21 +123,9 @@ public:
     /// Hides all handles.
     virtual void hideManipulator() { gizmo->hide(); }
 
-    /// Creates a gizmo and makes it the shared instance; an earlier shared instance is destroyed.
-    static void createInstance() { instances.share(new UniversalTransformManipulator2); }
-
-    /// Size of all gizmos in perspective views, 0 <= size < 200, default 32. The shared instance is
-    /// re-placed at once, others by updateAllManipulators() or update(true).
-    static void setManipulatorSize(float size) { instances.setSize(size); }
-
-    static float getManipulatorSize() { return instances.m_ManipulatorSize; }
-
     /// Aligns gizmos with the node's own axes or the world's; re-placed as by setManipulatorSize().
     static void setLocalSpaceManipulator(bool local);
     static bool isLocalSpaceManipulator();
-
-    /// Re-places every live gizmo in the order of construction; for hosts whose camera has moved.
-    static void updateAllManipulators() { instances.updateAll(); }
 
     /// The family of handles shown; Translate after construction.
     ManipulatorMode getMode() const { return static_cast<ManipulatorMode>(gizmo->getMode()); }
@@ -174,15 +163,10 @@ public:
     void setDescriptionEnabled(bool on);
 
 private:
-    friend struct Instances<UniversalTransformManipulator2>;
-
-    void updateManipulator() { gizmo->placeIn(View()); }
-
     void activateMode(ManipulatorMode newMode) { gizmo->activateMode(static_cast<int>(newMode)); }
 
     transform::TransformGizmo& course() const;
 
-    static Instances<UniversalTransformManipulator2> instances;
     static transform::TransformSettings settings;
 };
 

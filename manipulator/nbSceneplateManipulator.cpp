@@ -7,13 +7,10 @@
 
 #include <utility>
 
-using nbec::manipulator::Instances;
 using nbec::manipulator::plates::PlateGizmo;
 
-Instances<nbSceneplateManipulator> nbSceneplateManipulator::instances;
-
 nbSceneplateManipulator::nbSceneplateManipulator()
-    : GizmoFace(std::make_unique<PlateGizmo>(instances.m_ManipulatorSize))
+    : Instanced(std::make_unique<PlateGizmo>(instances.m_ManipulatorSize))
 {
     instances.add(this);
     nbOSGWidget::addMGLWResizeCB(&nbSceneplateManipulator::updateAllManipulators);

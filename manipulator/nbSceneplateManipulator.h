@@ -51,7 +51,9 @@ class PlateGizmo;
 /// or area nothing is shown and every event answers false. All instances share the size. Everything
 /// runs on the user-interface thread.
 class NB_MANIPULATOR_API nbSceneplateManipulator
-    : public nbec::manipulator::GizmoFace<nbec::manipulator::AbstractManipulator>
+    : public nbec::manipulator::Instanced<
+          nbSceneplateManipulator,
+          nbec::manipulator::GizmoFace<nbec::manipulator::AbstractManipulator>>
 {
 public:
     using ManipulatorInteractionContext = nbec::manipulator::ManipulatorInteractionContext;
@@ -115,26 +117,10 @@ public:
     /// Switches the on-screen text of this manipulator; on at first.
     void setDescriptionEnabled(bool on);
 
-    /// Creates a manipulator and makes it the shared instance; an earlier shared instance is
-    /// destroyed.
-    static void createInstance() { instances.share(new nbSceneplateManipulator); }
-
     /// Size of all handles, default 32. The shared instance is placed at once, others at their next
     /// update. @param size  above 0, others are ignored
     static void setManipulatorSize(float size);
 
-    static float getManipulatorSize() { return instances.m_ManipulatorSize; }
-
-    /// Places the handles of every live manipulator, in the order of construction. Also called by
-    /// the widgets after a resize.
-    static void updateAllManipulators() { instances.updateAll(); }
-
 private:
-    friend struct nbec::manipulator::Instances<nbSceneplateManipulator>;
-
-    void updateManipulator() { gizmo->placeIn(nbec::manipulator::View()); }
-
     nbec::manipulator::plates::PlateGizmo& course() const;
-
-    static nbec::manipulator::Instances<nbSceneplateManipulator> instances;
 };

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "manipulator/course/View.h"
+#include "manipulator/nbManipulatorExport.h"
 
 #include <algorithm>
 #include <vector>
@@ -12,7 +13,7 @@ namespace nbec::manipulator {
 /// size. Belongs to the user-interface thread.
 /// @tparam Class  has an operation updateManipulator(), which places it
 template <class Class>
-struct Instances
+struct NB_MANIPULATOR_API Instances
 {
     /// A constructor's last step.
     void add(Class* instance) { _allManipulators.push_back(instance); }
@@ -63,6 +64,43 @@ struct Instances
     std::vector<Class*> _allManipulators;  ///< in the order of construction
     Class* _the = nullptr;
     float m_ManipulatorSize = kDefaultManipulatorSize;
+
+    /// Those of an Instanced class, the same in all libraries and programs of a process.
+    inline static Instances ofClass { {}, nullptr, Class::kDefaultSize };
+};
+
+/// A class of manipulators, one of whose instances is shared and all of whose instances have one
+/// size. Its constructor adds them to the list, last, and its destructor takes them out.
+/// @tparam Class  what derives from this, see Instances
+/// @tparam Base   of which it is a manipulator
+template <class Class, class Base>
+class Instanced : public Base
+{
+public:
+    /// Size before anybody sets one.
+    static constexpr float kDefaultSize = kDefaultManipulatorSize;
+
+    /// Makes the shared instance, in place of an earlier one, which is destroyed.
+    static void createInstance() { instances.share(new Class); }
+
+    /// The shared instance, or null. Whoever deletes it takes it away.
+    static Class* getInstance() { return instances._the; }
+
+    /// Size on screen of all, 0 <= size < 200. The shared instance is placed at once, others at
+    /// their next update. Deliberate: where the size follows from perspectiveScale(), 200 makes it
+    /// infinite.
+    static void setManipulatorSize(float size) { instances.setSize(size); }
+
+    static float getManipulatorSize() { return instances.m_ManipulatorSize; }
+
+    /// Places every live one anew, in the order of construction. The host calls it when the camera
+    /// has moved.
+    static void updateAllManipulators() { instances.updateAll(); }
+
+protected:
+    using Base::Base;
+
+    static constexpr Instances<Class>& instances = Instances<Class>::ofClass;
 };
 
 }  // namespace nbec::manipulator
