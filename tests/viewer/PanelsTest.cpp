@@ -96,10 +96,13 @@ TEST_F(Panels, TheTreeSelectsAndShowsWhatIsSelected)
     ASSERT_EQ(vases.size(), 1);
     tree->setCurrentItem(vases.first());
     EXPECT_EQ(stage().selectedName(), "Vase");
+    vases.first()->setText(0, " ");
+    EXPECT_EQ(vases.first()->text(0), "Vase") << "a name that is refused is not shown";
+    EXPECT_EQ(problems.size(), 1);
 
     stage().clear();
     EXPECT_EQ(tree->topLevelItemCount(), 0);
-    EXPECT_EQ(problems, QStringList());
+    EXPECT_EQ(problems.size(), 1);
 }
 
 TEST_F(Panels, NumbersOfTheMatchMoveALineAndTheCameraAndAreDrawn)

@@ -118,6 +118,8 @@ void ScenePanel::change(const QTreeWidgetItem& item)
     } else {
         run("object.visible", item.checkState(0) == Qt::Checked);
     }
+    // What was typed may be refused or have become another name.
+    showStates();
 }
 
 void ScenePanel::renameSelected()
