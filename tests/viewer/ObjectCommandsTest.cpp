@@ -50,6 +50,22 @@ TEST_F(ObjectCommands, EveryVectorIsSetAsOneStepAndReadBack)
                   { "object.rotatePivot", numbers },
                   { "object.scalePivot", numbers } },
                 1e-4);
+
+    ASSERT_TRUE(stage.selectByName("Vase"));
+    const QJsonArray at = value("object.translation").toArray();
+    const QJsonArray pivot = value("object.rotatePivot").toArray();
+    ASSERT_EQ(refusal("object.translation", QJsonArray { at[0].toDouble() + 1, at[1], at[2] }), "");
+    EXPECT_NEAR(value("object.rotatePivot")[0].toDouble(), pivot[0].toDouble() + 1, 1e-5)
+        << "the pivot was already said to be where the first edit has put it";
+    EXPECT_EQ(value("object.rotatePivot")[1], pivot[1]);
+    const QJsonArray paths { pathOf(findObject(nbScenegraph::getRootNode(), "Ball")),
+                             pathOf(stage.selectedObject()) };
+    ASSERT_EQ(refusal("scene.select", paths), "");
+    ASSERT_EQ(refusal("object.translation", QJsonArray { 7, QJsonValue(), QJsonValue() }), "");
+    EXPECT_EQ(value("object.translation"), (QJsonArray { 7, at[1], at[2] }));
+    stage.selectByName("Ball");
+    EXPECT_EQ(value("object.translation")[0], 7.0);
+    EXPECT_NE(value("object.translation")[1], at[1]) << "each keeps its own";
 }
 
 TEST_F(ObjectCommands, ASwitchActsOnAllSelectedObjectsAndIsTakenBack)

@@ -139,6 +139,20 @@ std::optional<QJsonObject> parseJsonObject(const QByteArray& text, QString& erro
     return document.object();
 }
 
+QJsonValue withoutGaps(const QJsonValue& value, const QJsonArray& present)
+{
+    if (!value.isArray()) {
+        return value;
+    }
+    QJsonArray whole = value.toArray();
+    for (int i = 0; i < qMin(whole.size(), present.size()); ++i) {
+        if (whole.at(i).isNull()) {
+            whole[i] = present.at(i);
+        }
+    }
+    return whole;
+}
+
 QJsonValue exactJson(float value)
 {
     constexpr std::size_t kMostDigits = 64;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QJsonArray>
 #include <QJsonObject>
 #include <QJsonValue>
 #include <QString>
@@ -45,6 +46,10 @@ private:
 /// Parses a text that is one JSON object.
 /// @param error  one line with the place of the fault ("line 3, column 7: ...")
 std::optional<QJsonObject> parseJsonObject(const QByteArray& text, QString& error);
+
+/// An array in which each null has become what another one has in its place; anything else as it
+/// is.
+QJsonValue withoutGaps(const QJsonValue& value, const QJsonArray& present);
 
 /// What gives a number back, bit for bit, when it is read in double precision and brought back to
 /// this type, written with the fewest digits. JSON knows no negative zero: it becomes the text

@@ -39,12 +39,14 @@ ObjectPanel::ObjectPanel(Stage& stage)
     , nameLabel(new QLabel(this))
 {
     auto* form = new QFormLayout(this);
+    nameLabel->setTextFormat(Qt::PlainText);
     form->addRow(nameLabel);
     for (const RowTable& row : kRows) {
         NumberBox::Style style;
         style.step = row.step;
         style.measure = row.measure;
         VectorEdit* edit = addNumbers(row.command, { tr("X"), tr("Y"), tr("Z") }, style);
+        edit->tellChangesAlone();
         form->addRow(tr(row.label), edit);
         if (row.measure == Measure::Number) {
             edit->addLink(tr("Keep proportions"));
@@ -58,7 +60,7 @@ void ObjectPanel::refresh()
 {
     Panel::refresh();
     const QString name = value("object.name").toString();
-    nameLabel->setText(name.isEmpty() ? tr("Nothing selected") : name);
+    nameLabel->setText(name.isEmpty() ? tr("Nothing selected") : shownName(name));
 }
 
 }  // namespace viewer

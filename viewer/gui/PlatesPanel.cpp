@@ -72,8 +72,8 @@ PlatesPanel::PlatesPanel(Stage& targetStage, PlatesTool& targetTool)
     layout->addLayout(createButtons());
     createList();
     layout->addWidget(list, 1);
-    layout->addLayout(createProperties());
     layout->addWidget(createTextBox());
+    layout->addLayout(createProperties());
 }
 
 // == Making
@@ -211,7 +211,9 @@ QFormLayout* PlatesPanel::createProperties()
     };
 
     for (const auto& row : rows) {
-        form->addRow(row.label, addNumbers(row.command, row.names, { row.step }));
+        VectorEdit* numbers = addNumbers(row.command, row.names, { row.step });
+        numbers->tellChangesAlone();
+        form->addRow(row.label, numbers);
     }
     form->addRow(addSwitch("plates.snapping", tr("Snap to edges and centre")));
     return form;

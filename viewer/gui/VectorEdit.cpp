@@ -47,8 +47,10 @@ void VectorEdit::tell(std::size_t changed)
         }
     }
     QJsonArray values;
-    for (const NumberBox* each : boxes) {
-        values.append(each->number());
+    for (std::size_t i = 0; i < boxes.size(); ++i) {
+        const double each = boxes[i]->number();
+        const bool isKept = changesAlone && i != changed && i < shown.size() && each == shown[i];
+        values.append(isKept ? QJsonValue() : QJsonValue(each));
     }
     emit edited(values);
 }

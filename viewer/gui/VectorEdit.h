@@ -27,6 +27,9 @@ public:
     /// @param values  as many as there are boxes; otherwise the boxes are empty and disabled
     void display(const QJsonArray& values);
 
+    /// From now on edited() has null for what was not changed.
+    void tellChangesAlone() { changesAlone = true; }
+
     /// Adds a switch: while it is on the numbers keep their ratios.
     /// @param tip  what it is called
     void addLink(const QString& tip);
@@ -42,6 +45,7 @@ private:
 
     std::vector<NumberBox*> boxes;
     QToolButton* link = nullptr;
+    bool changesAlone = false;
     std::vector<double> shown;  ///< before the change
 };
 

@@ -2,6 +2,7 @@
 #include "viewer/plates/PlateCommands.h"
 
 #include "viewer/commands/JsonInput.h"
+#include "viewer/commands/JsonReader.h"
 #include "viewer/loading/PictureFile.h"
 #include "viewer/plates/PlateField.h"
 #include "viewer/plates/PlateText.h"
@@ -239,11 +240,14 @@ bool select(Stage& /*stage*/, PlatesTool& tool, const QJsonValue& value, QString
 bool setField(const std::vector<osg::NodePtr>& nodes, const PlateField& field,
               const QJsonValue& value, QString& error)
 {
-    if (!field.accept(value, nullptr)) {
+    const auto valueOf = [&](const osg::Sceneplate& plate) {
+        return withoutGaps(value, field.read(plate).toArray());
+    };
+    if (!field.accept(valueOf(*nbSceneplateList::plateOf(nodes.front())), nullptr)) {
         return refuse(field.name, QLatin1String(field.expected), error);
     }
-    nbSceneplateEditing::edit(nodes, field.title,
-                              [&](osg::Sceneplate& plate) { field.accept(value, &plate); });
+    nbSceneplateEditing::edit(
+        nodes, field.title, [&](osg::Sceneplate& plate) { field.accept(valueOf(plate), &plate); });
     return true;
 }
 

@@ -75,15 +75,23 @@ osg::UInt32 setInParent(osg::UInt32 count, nbTransformModel::ValueFunction value
     return (nbTransformModel::the()->*set)(count, false, values);
 }
 
+/// Until the first edit the pivots of an object are where that will put them, and where the gizmo
+/// stands: in the middle of its bounds.
 template <auto get>
-osg::Vec3f getInParent(const osg::NodePtr& node)
+osg::Vec3f pivotInParent(const osg::NodePtr& node)
 {
-    return get(node, false);
+    const osg::DynamicVolume& volume = node->getVolume(true);
+    if (osg::Transform3DPtr::dcast(node->getCore()) != osg::NullFC || volume.isEmpty()) {
+        return get(node, false);
+    }
+    osg::Pnt3f middle;
+    volume.getCenter(middle);
+    return middle - osg::Pnt3f();
 }
 
 const ObjectVector kVectors[] = {
     { "object.translation", &setInParent<&nbTransformModel::setTranslation>,
-      &getInParent<&nbTransformModel::getTranslation> },
+      [](const osg::NodePtr& node) { return nbTransformModel::getTranslation(node, false); } },
     { "object.rotation",
       [](osg::UInt32 count, nbTransformModel::ValueFunction values) {
           return nbTransformModel::the()->setRotation(count, values);
@@ -95,9 +103,9 @@ const ObjectVector kVectors[] = {
       },
       [](const osg::NodePtr& node) { return nbNodeUtils::getTransformNodeScale(node); }, true },
     { "object.rotatePivot", &setInParent<&nbTransformModel::setRotationPivot>,
-      &getInParent<&nbTransformModel::getRotationPivot> },
+      &pivotInParent<&nbTransformModel::getRotationPivot> },
     { "object.scalePivot", &setInParent<&nbTransformModel::setScalePivot>,
-      &getInParent<&nbTransformModel::getScalePivot> },
+      &pivotInParent<&nbTransformModel::getScalePivot> },
 };
 
 /// The selected objects. @return empty with one line in `error` if there are none
@@ -106,6 +114,11 @@ std::vector<osg::NodePtr> selectedIn(const Stage& stage, QString& error)
     const std::vector<osg::NodePtr> objects = stage.selectedObjects();
     error = objects.empty() ? Text::tr("nothing is selected") : error;
     return objects;
+}
+
+QJsonArray jsonOf(const osg::Vec3f& v)
+{
+    return { v[0], v[1], v[2] };
 }
 
 bool readVector(const QJsonValue& value, osg::Vec3f& vector)
@@ -122,20 +135,24 @@ bool readVector(const QJsonValue& value, osg::Vec3f& vector)
 bool setVector(Stage& stage, const ObjectVector& row, const QJsonValue& value, QString& error)
 {
     const std::vector<osg::NodePtr> objects = selectedIn(stage, error);
-    osg::Vec3f vector;
+    JsonReader reader(error);
+    std::vector<osg::Vec3f> vectors;
+    for (const osg::NodePtr& object : objects) {
+        osg::Vec3f v;
+        if (!readVector(withoutGaps(value, jsonOf(row.get(object))), v)) {
+            return reader.fail(row.name, "expected an array of 3 numbers");
+        }
+        if (row.areFactors && !(isScale(v[0]) && isScale(v[1]) && isScale(v[2]))) {
+            return reader.fail(row.name, "expected numbers other than 0");
+        }
+        vectors.push_back(v);
+    }
     if (objects.empty()) {
         return false;
     }
-    JsonReader reader(error);
-    if (!readVector(value, vector)) {
-        return reader.fail(row.name, "expected an array of 3 numbers");
-    }
-    if (row.areFactors && !(isScale(vector[0]) && isScale(vector[1]) && isScale(vector[2]))) {
-        return reader.fail(row.name, "expected numbers other than 0");
-    }
     const osg::UInt32 count =
-        row.set(static_cast<osg::UInt32>(objects.size()), [&objects, &vector](osg::UInt32 i) {
-            return nbTransformModel::Value { { objects[i], -1 }, vector };
+        row.set(static_cast<osg::UInt32>(objects.size()), [&objects, &vectors](osg::UInt32 i) {
+            return nbTransformModel::Value { { objects[i], -1 }, vectors[i] };
         });
     if (count == 0) {
         error = Text::tr("the selected object is locked or cannot take this value");
@@ -355,8 +372,7 @@ void addObjectCommands(Stage& stage)
             return setVector(stage, row, value, error);
         });
         commands.addValue(row.name, ofSelected(stage, [&row](const osg::NodePtr& node) {
-                              const osg::Vec3f v = row.get(node);
-                              return QJsonArray { v[0], v[1], v[2] };
+                              return jsonOf(row.get(node));
                           }));
     }
     for (const ObjectSwitch& row : kSwitches) {
