@@ -130,7 +130,14 @@ TEST_F(SceneFileActionsTest, EditsAreNotLostWithoutAQuestion)
     ASSERT_TRUE(run("scene.open", scene));
     EXPECT_EQ(text(), edited) << "it was saved";
 
-    moveVase();
+    stage().selectByName("Vase");
+    const QPointF arrow = placeOf(SessionTarget::Kind::Handle, "xaShape");
+    press(arrow);
+    move(arrow + QPointF(10, 0));
+    move(arrow + QPointF(20, 0));
+    answer = QMessageBox::Cancel;
+    EXPECT_FALSE(window.close()) << "what is dragged now is an edit";
+    EXPECT_EQ(steps(), 1);
     answer = QMessageBox::Discard;
     EXPECT_TRUE(window.close());
 }

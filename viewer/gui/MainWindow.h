@@ -71,6 +71,8 @@ public:
     void openFiles(const QStringList& files, Opening opening);
     void askForFiles(Opening opening);
     void askForPicture();
+    /// Tells a person of a file that was written, or of what hindered it.
+    void tellWritten(const QString& path, bool isWritten, const QString& error);
     /// Writes a picture of the view. @return false with one line in `error`
     bool savePicture(const QString& path, QString& error);
 

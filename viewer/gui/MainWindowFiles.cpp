@@ -18,6 +18,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QImageReader>
+#include <QStatusBar>
 #include <QTimer>
 
 #include <algorithm>
@@ -39,6 +40,8 @@ bool isPicture(const QString& file)
 /// A window that a window manager refuses the wanted size is waited for this often.
 constexpr int kMaxSizeChecks = 200;
 constexpr int kSizeCheckMs = 10;
+
+constexpr int kToldMs = 8000;  ///< how long a file that was written is told of
 
 const char* const kSessionFilter = QT_TRANSLATE_NOOP("viewer::MainWindow", "Sessions (*.json)");
 
@@ -157,10 +160,19 @@ void MainWindow::askForFiles(Opening opening)
 
 void MainWindow::askForPicture()
 {
-    const QString path = QFileDialog::getSaveFileName(this, tr("Save picture"), "view.png",
-                                                      tr("Pictures (*.png *.jpg *.bmp)"));
+    const QString path =
+        askWhereToSave(*this, tr("Save picture"), "view.png", tr("Pictures (*.png *.jpg *.bmp)"));
     QString error;
-    if (!path.isEmpty() && !savePicture(path, error)) {
+    if (!path.isEmpty()) {
+        tellWritten(path, savePicture(path, error), error);
+    }
+}
+
+void MainWindow::tellWritten(const QString& path, bool isWritten, const QString& error)
+{
+    if (isWritten) {
+        statusBar()->showMessage(tr("%1 has been written").arg(path), kToldMs);
+    } else {
         emit problem(error);
     }
 }

@@ -64,6 +64,17 @@ SceneAssets assetsOf(std::vector<BuiltModel> models)
 
 }  // namespace
 
+QString askWhereToSave(QWidget& window, const QString& title, const QString& suggested,
+                       const QString& filter)
+{
+    QFileDialog dialog(&window, title, {}, filter);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    // Completes the name before it asks whether a file may be replaced.
+    dialog.setDefaultSuffix(QFileInfo(suggested).suffix());
+    dialog.selectFile(suggested);
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
 SceneFileActions::SceneFileActions(QWidget& targetWindow, Stage& targetStage,
                                    ModelLoader& modelLoader)
     : QObject(&targetWindow)
@@ -206,8 +217,7 @@ bool SceneFileActions::saveAs()
     }
     const QString suggested =
         sceneFile.isEmpty() ? QStringLiteral("scene.") + QLatin1String(kSceneSuffix) : sceneFile;
-    QString path =
-        QFileDialog::getSaveFileName(&window, tr("Save scene"), suggested, tr(kSceneFilter));
+    QString path = askWhereToSave(window, tr("Save scene"), suggested, tr(kSceneFilter));
     if (path.isEmpty()) {
         return false;
     }
@@ -312,6 +322,8 @@ bool SceneFileActions::isModified() const
 
 bool SceneFileActions::mayReplace()
 {
+    // What is dragged now is an edit, too.
+    stage.interaction().endDrag();
     keepNow();
     if (!isModified() || !question) {
         return true;

@@ -19,6 +19,11 @@ class ModelLoader;
 class Recovery;
 class Stage;
 
+/// Asks a person for a file to write. @param suggested  its ending completes a name without one
+/// @return "" for none
+QString askWhereToSave(QWidget& window, const QString& title, const QString& suggested,
+                       const QString& filter);
+
 /// Opening and saving of scene files in the window, and what has not been saved.
 ///
 /// A scene counts as modified after every step of undo that was not taken back, and after edits

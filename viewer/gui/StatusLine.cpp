@@ -20,7 +20,7 @@ constexpr int kPercent = 100;
 
 QString selectionText(const Stage& stage)
 {
-    const QString selected = QString::fromStdString(stage.selectedName());
+    const QString selected = shownName(QString::fromStdString(stage.selectedName()));
     const auto further = static_cast<int>(stage.selectedObjects().size()) - 1;
     if (selected.isEmpty()) {
         return StatusLine::tr("Nothing selected");
@@ -36,10 +36,10 @@ QString pointerText(Stage& stage)
         const StageTool* tool = stage.activeTool();
         const QString text = tool != nullptr ? tool->handleText(handle) : textOfHandle(handle);
         return stage.isDragging()
-            ? StatusLine::tr("%1: Ctrl snaps, Shift slows, Esc cancels").arg(text)
+            ? StatusLine::tr("%1: Ctrl snaps, Shift slows, type a number, Esc cancels").arg(text)
             : text;
     }
-    const QString hovered = QString::fromStdString(stage.preselectedName());
+    const QString hovered = shownName(QString::fromStdString(stage.preselectedName()));
     return hovered.isEmpty() ? QString() : StatusLine::tr("Under the pointer: %1").arg(hovered);
 }
 
@@ -52,6 +52,7 @@ StatusLine::StatusLine(QStatusBar& bar)
 {
     for (QLabel** label : { &selectionLabel, &handleLabel, &valuesLabel }) {
         bar.addWidget(*label = new QLabel(&bar));
+        (*label)->setTextFormat(Qt::PlainText);
     }
     valuesLabel->setObjectName("values");
     progress->setRange(0, kPercent);

@@ -15,7 +15,6 @@
 
 #include <QAction>
 #include <QActionGroup>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QMenu>
 #include <QMenuBar>
@@ -208,11 +207,11 @@ void WindowActions::addFileMenu()
 void WindowActions::exportAsked()
 {
     const QString kinds = QStringLiteral("*.") + exportEndings().join(QStringLiteral(" *."));
-    const QString path = QFileDialog::getSaveFileName(
-        &window, tr("Export models"), QStringLiteral("models.glb"), tr("Models (%1)").arg(kinds));
+    const QString path = askWhereToSave(window, tr("Export models"), QStringLiteral("models.glb"),
+                                        tr("Models (%1)").arg(kinds));
     QString error;
-    if (!path.isEmpty() && !exportModels(path, error)) {
-        emit window.problem(error);
+    if (!path.isEmpty()) {
+        window.tellWritten(path, exportModels(path, error), error);
     }
 }
 

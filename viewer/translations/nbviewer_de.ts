@@ -883,6 +883,10 @@
         <source>The manual is not installed</source>
         <translation>Das Handbuch ist nicht installiert</translation>
     </message>
+    <message>
+        <source>%1 has been written</source>
+        <translation>%1 wurde geschrieben</translation>
+    </message>
 </context>
 <context>
     <name>viewer::MaterialPanel</name>
@@ -1870,8 +1874,8 @@
         <translation>%1 wird vorbereitet: %p&#xa0;%</translation>
     </message>
     <message>
-        <source>%1: Ctrl snaps, Shift slows, Esc cancels</source>
-        <translation>%1: Strg rastet ein, Umschalt verlangsamt, Esc bricht ab</translation>
+        <source>%1: Ctrl snaps, Shift slows, type a number, Esc cancels</source>
+        <translation>%1: Strg rastet ein, Umschalt verlangsamt, Zahlen lassen sich eintippen, Esc bricht ab</translation>
     </message>
 </context>
 <context>

@@ -883,6 +883,10 @@
         <source>The manual is not installed</source>
         <translation>Le manuel n’est pas installé</translation>
     </message>
+    <message>
+        <source>%1 has been written</source>
+        <translation>%1 a été écrit</translation>
+    </message>
 </context>
 <context>
     <name>viewer::MaterialPanel</name>
@@ -1870,8 +1874,8 @@
         <translation>Préparation de %1&#xa0;: %p&#xa0;%</translation>
     </message>
     <message>
-        <source>%1: Ctrl snaps, Shift slows, Esc cancels</source>
-        <translation>%1 : Ctrl aligne, Maj ralentit, Échap annule</translation>
+        <source>%1: Ctrl snaps, Shift slows, type a number, Esc cancels</source>
+        <translation>%1 : Ctrl aligne, Maj ralentit, saisir un nombre, Échap annule</translation>
     </message>
 </context>
 <context>

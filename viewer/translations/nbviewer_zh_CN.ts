@@ -881,6 +881,10 @@
         <source>The manual is not installed</source>
         <translation>未安装手册</translation>
     </message>
+    <message>
+        <source>%1 has been written</source>
+        <translation>%1 已写入</translation>
+    </message>
 </context>
 <context>
     <name>viewer::MaterialPanel</name>
@@ -1866,8 +1870,8 @@
         <translation>正在准备 %1：%p%</translation>
     </message>
     <message>
-        <source>%1: Ctrl snaps, Shift slows, Esc cancels</source>
-        <translation>%1：Ctrl 捕捉，Shift 减速，Esc 取消</translation>
+        <source>%1: Ctrl snaps, Shift slows, type a number, Esc cancels</source>
+        <translation>%1：Ctrl 捕捉，Shift 减速，可输入数值，Esc 取消</translation>
     </message>
 </context>
 <context>
