@@ -52,6 +52,11 @@ TEST_F(PerspectiveMatchToolTest, ADragIsOneStepAndMovesOneEndAndTheCamera)
     const CameraPose before = stage.pose();
     const QLineF lineBefore = line(nbdPerspectiveMatch::XLine1);
 
+    stage.update();
+    dragOut("x1b", 0.0F, -40.0F);
+    stage.interaction().cancelDrag();
+    stage.update();
+    EXPECT_FALSE(stage.isViewHeld()) << "nothing was matched";
     const osg::Pnt2f end = dragOut("x1b", 0.0F, -40.0F);
     EXPECT_TRUE(nbMagnifierRenderer::isVisible());
     EXPECT_TRUE(stage.isDragging());

@@ -341,10 +341,21 @@ void PerspectiveMatchTool::update()
     if (cameraMoved) {
         cameraMoved = false;
         stage.cameraMoved();
-        if (active && cameraTurned && nbCameraTypes::isSolved(camera().checkPerspectiveMatch())) {
-            stage.holdView(true);
-        }
-        cameraTurned = false;
+    }
+    if (!stage.isDragging()) {
+        holdWhatIsSolved();
+    }
+}
+
+void PerspectiveMatchTool::holdWhatIsSolved()
+{
+    const CameraPose pose = stage.pose();
+    // A drag that was cancelled has turned the camera back.
+    const bool isNew = pose.at - pose.from != resting.at - resting.from || pose.up != resting.up;
+    resting = pose;
+    if (std::exchange(cameraTurned, false) && isNew && active &&
+        nbCameraTypes::isSolved(camera().checkPerspectiveMatch())) {
+        stage.holdView(true);
     }
 }
 

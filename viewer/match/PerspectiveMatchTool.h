@@ -127,6 +127,8 @@ public:
 
 private:
     void follow(const nbdObject& object, const QByteArray& property);
+    /// Holds the view once the lines have turned the camera for good.
+    void holdWhatIsSolved();
     void takePointer();
     void leavePointer();
     /// Edits the camera or its match as one step. @return false, with one line in `error` if the
@@ -147,6 +149,7 @@ private:
     bool linesLaid = false;
     bool cameraMoved = false;
     bool cameraTurned = false;
+    CameraPose resting;  ///< of the camera when nothing was dragged last
     bool edgeSnapping = false;
     std::string lastHandle;
 };
