@@ -37,18 +37,22 @@ QFont fontOf(const NotifierSettings& settings)
     return font;
 }
 
+/// @param view     what does not fit into it beside its place moves back
 /// @param offsetY  how far down earlier texts of the same place reach
 /// @return height taken
-double paintText(QPainter& painter, const VisibleText& text, double offsetY)
+double paintText(QPainter& painter, const VisibleText& text, const QSize& view, double offsetY)
 {
     const QFont font = fontOf(text.settings);
     const QFontMetricsF metrics(font);
     const QRectF textArea =
         metrics.boundingRect(QRectF(0.0, 0.0, text.area.width(), 0.0), Qt::AlignLeft, text.text);
-    const QRectF box(text.area.left(), text.area.top() + offsetY,
-                     textArea.width() + 2.0 * kPaddingX, textArea.height() + 2.0 * kPaddingY);
+    QRectF box(text.area.left(), text.area.top() + offsetY, textArea.width() + 2.0 * kPaddingX,
+               textArea.height() + 2.0 * kPaddingY);
+    const QPointF back(qMin(0.0, view.width() - box.right()),
+                       qMin(0.0, view.height() - box.bottom()));
+    box.translate(back);
     painter.save();
-    painter.setClipRect(text.area);
+    painter.setClipRect(back.isNull() ? text.area : box);
     painter.setRenderHint(QPainter::Antialiasing, false);
     painter.fillRect(box, colorOf(text.settings.backColor, kBackOpacity));
     painter.setPen(colorOf(text.settings.lineColor));
@@ -88,6 +92,6 @@ void nbTextPainter::paintTexts(QPainter& painter, const QSize& logicalSize)
     for (const VisibleText& text : NotificationManager::getInstance()->getVisibleTexts(
              logicalSize.width(), logicalSize.height())) {
         double& offset = taken[{ text.area.left(), text.area.top() }];
-        offset += paintText(painter, text, offset);
+        offset += paintText(painter, text, logicalSize, offset);
     }
 }

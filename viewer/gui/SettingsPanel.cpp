@@ -9,6 +9,9 @@
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QFormLayout>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
 
 namespace viewer {
 
@@ -48,10 +51,20 @@ void SettingsPanel::open(Stage& stage, const Settings& settings, QWidget& window
     dialog->setObjectName("settings");
     dialog->setWindowTitle(tr("Settings"));
     auto* column = new QVBoxLayout(dialog);
-    column->addWidget(new SettingsPanel(stage, settings));
+    auto* scroll = new QScrollArea(dialog);
+    scroll->setWidget(new SettingsPanel(stage, settings));
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    column->addWidget(scroll);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, dialog);
+    // Enter is for the field that one types in.
+    buttons->button(QDialogButtonBox::Close)->setAutoDefault(false);
     connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
     column->addWidget(buttons);
+    constexpr QSize kAround(60, 70);
+    constexpr double kMostOfScreen = 0.9;
+    dialog->resize((scroll->widget()->sizeHint() + kAround)
+                       .boundedTo(window.screen()->availableSize() * kMostOfScreen));
     dialog->show();
 }
 

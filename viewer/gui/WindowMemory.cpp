@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QMainWindow>
 #include <QSettings>
+#include <QTimer>
 
 namespace viewer::memory {
 namespace {
@@ -23,7 +24,10 @@ const char* const kLanguageKey = "language";
 bool restoreLayout(QMainWindow& window)
 {
     const QSettings settings;
-    restoreState(window, settings.value(kLayoutKey).toByteArray());
+    const QByteArray state = settings.value(kLayoutKey).toByteArray();
+    restoreState(window, state);
+    // When it is first shown the window shares itself out over the docks anew.
+    QTimer::singleShot(0, &window, [&window, state] { restoreState(window, state); });
     return window.restoreGeometry(settings.value(kGeometryKey).toByteArray());
 }
 
