@@ -198,10 +198,9 @@ void Gizmo::applyNow(const DragParameters& parameters)
 
 DragParameters Gizmo::startParameters() const
 {
-    const HandleRow* const row = armedRow();
-    const HandleAction action = row != nullptr ? row->action : HandleAction();
-    DragParameters start(action.kind, osg::Vec3f());
-    start.values[0] = action.kind == DragParameters::Kind::Factor ? 1.0 : 0.0;
+    const DragParameters::Kind kind = armedAction().kind;
+    DragParameters start(kind, osg::Vec3f());
+    start.values[0] = kind == DragParameters::Kind::Factor ? 1.0 : 0.0;
     return start;
 }
 

@@ -192,6 +192,13 @@ protected:
 
     // == For gizmos
 
+    /// What the armed handle does; of no kind without one.
+    HandleAction armedAction() const
+    {
+        const HandleRow* const row = armedRow();
+        return row != nullptr ? row->action : HandleAction();
+    }
+
     /// Whether a handle is held or a drag under way.
     bool isHeld() const { return grabbed || prepared; }
 

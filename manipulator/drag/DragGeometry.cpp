@@ -46,6 +46,15 @@ osg::Vec3f unitVector(const osg::Vec3f& vector)
                         : osg::Vec3f();
 }
 
+osg::Vec3f masked(const osg::Vec3f& vector, unsigned axes)
+{
+    osg::Vec3f result;
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        result[i] = hasAxis(axes, i) ? vector[i] : 0.0F;
+    }
+    return result;
+}
+
 bool intersectPlane(const osg::Plane& plane, const osg::Line& ray, osg::Pnt3f& point)
 {
     if (plane.getNormal().length() < kShortest ||

@@ -32,6 +32,9 @@ NB_MANIPULATOR_API osg::Vec3f rotated(const osg::Quaternion& rotation, osg::Vec3
 /// The vector at length 1, however short it is; zero stays.
 NB_MANIPULATOR_API osg::Vec3f unitVector(const osg::Vec3f& vector);
 
+/// A vector without its components along axes that are not in a set, see axisBit().
+NB_MANIPULATOR_API osg::Vec3f masked(const osg::Vec3f& vector, unsigned axes);
+
 /// Where a ray meets a plane in front of its start.
 /// @return false, and the point untouched, for a plane whose normal is shorter than 1e-6 (none is
 ///         chosen), a ray with |normal . direction| < 1e-6, or a plane behind the ray's start

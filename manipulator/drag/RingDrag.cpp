@@ -43,6 +43,14 @@ RingDrag RingDrag::begin(const osg::Pnt3f& center, const osg::Vec3f& axis,
     return ring;
 }
 
+RingDrag RingDrag::flat(const osg::Vec3f& normal, const osg::Pnt3f& place)
+{
+    RingDrag plane;
+    plane.normal = normal;
+    plane.center = place;
+    return plane;
+}
+
 osg::Matrix RingDrag::frame(osg::UInt32 axis) const
 {
     osg::Matrix result;

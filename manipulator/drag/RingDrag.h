@@ -43,6 +43,9 @@ struct NB_MANIPULATOR_API RingDrag
     static RingDrag begin(const osg::Pnt3f& center, const osg::Vec3f& axis,
                           const osg::Pnt3f& grabbed, const Sight& sight);
 
+    /// No ring: the pointer is followed in the plane through a place.
+    static RingDrag flat(const osg::Vec3f& normal, const osg::Pnt3f& place);
+
     /// The plane in which the pointer is followed.
     osg::Plane plane() const { return osg::Plane(isWire ? sight.ahead : normal, center); }
 

@@ -41,7 +41,7 @@ NB_MANIPULATOR_API LineChunks makeLineChunks();
 osg::LineChunkPtr lineChunkOf(const osg::SimpleMaterialPtr& material);
 
 /// A chunk of smooth lines, count 0. @param widthPx  logical pixels
-osg::LineChunkPtr makeLineChunk(float widthPx);
+NB_MANIPULATOR_API osg::LineChunkPtr makeLineChunk(float widthPx);
 
 /// A chunk that blends by alpha, GL_SRC_ALPHA and GL_ONE_MINUS_SRC_ALPHA, count 0.
 osg::BlendChunkPtr makeBlendChunk();

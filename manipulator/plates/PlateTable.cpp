@@ -9,6 +9,7 @@ namespace nbec::manipulator::plates {
 namespace {
 
 using Active = ActiveMode;
+using Kind = DragParameters::Kind;
 
 /// Drawn before the handles that it surrounds.
 constexpr int kShadowSortKey = 64014;
@@ -60,44 +61,25 @@ HandlePart shadow(HandleShape shape, std::size_t color, const std::array<float, 
     return placed(shape, { color, color, color }, scale, y, kShadowLayer);
 }
 
-HandleAction actionOf(Active handle)
-{
-    using Kind = DragParameters::Kind;
-    constexpr unsigned kBoth = 3;
-    switch (handle) {
-    case Active::Rotate:
-        return { Kind::Angle, axisBit(2) };
-    case Active::Move:
-        return { Kind::Pixels, kBoth };
-    case Active::SizeLeft:
-    case Active::SizeRight:
-        return { Kind::Factor, axisBit(0) };
-    case Active::SizeLower:
-    case Active::SizeUpper:
-        return { Kind::Factor, axisBit(1) };
-    default:
-        return { Kind::Factor, kAllAxes };
-    }
-}
-
-HandleRow handleRow(const char* name, Active handle, const std::vector<HandlePart>& parts)
+HandleRow handleRow(const char* name, Active handle, const HandleAction& action,
+                    const std::vector<HandlePart>& parts)
 {
     HandleRow row { name, static_cast<int>(handle), -1, parts, kAllModes, HandleHolder::Matrix };
-    row.action = actionOf(handle);
+    row.action = action;
     return row;
 }
 
-HandleRow box(const char* name, Active handle)
+HandleRow box(const char* name, Active handle, unsigned axes = kAllAxes)
 {
     constexpr float kScale = 1.0F + 2.0F * kShadowWidth / kPlateBoxSize;
-    return handleRow(name, handle,
+    return handleRow(name, handle, { Kind::Factor, axes },
                      { { HandleShape::Square, { Yellow, Orange, Yellow } },
                        shadow(HandleShape::Square, Shadow, { kScale, kScale, 1.0F }) });
 }
 
-HandleRow sideBox(const char* name, Active handle)
+HandleRow sideBox(const char* name, Active handle, std::size_t axis)
 {
-    HandleRow row = box(name, handle);
+    HandleRow row = box(name, handle, axisBit(axis));
     row.visibleIn = modes(CornersAndSides);
     return row;
 }
@@ -115,7 +97,7 @@ HandleRow arm()
     constexpr float kShaftCentre = -kPlateKnobRadius - kLength / 2;
     constexpr std::array<float, 3> kShaftScale = { 1.0F, kLength / kShaftLength, 1.0F };
     return handleRow(
-        "rotateShape", Active::Rotate,
+        "rotateShape", Active::Rotate, { Kind::Angle, axisBit(2) },
         { placed(HandleShape::CentreSphere, { Blue, Orange, Blue }, knobScale(kPlateKnobRadius)),
           placed(HandleShape::ArrowShaft, { line(Blue), line(Orange), line(Blue) }, kShaftScale,
                  kShaftCentre),
@@ -126,7 +108,7 @@ HandleRow arm()
 HandleRow body()
 {
     HandleRow row =
-        handleRow("grid", Active::Move,
+        handleRow("grid", Active::Move, { Kind::Pixels, axisBit(0) | axisBit(1) },
                   { { HandleShape::SquareOutline, { line(Yellow), line(Orange), line(Yellow) } },
                     shadow(HandleShape::SquareOutline, line(Shadow), { 1.0F, 1.0F, 1.0F }),
                     { HandleShape::Square, { kClear, kClear, kClear } } });
@@ -138,7 +120,7 @@ HandleRow body()
 HandleRow guide()
 {
     constexpr std::size_t kColor = line(Purple);
-    HandleRow row = handleRow(nullptr, Active::None,
+    HandleRow row = handleRow(nullptr, Active::None, {},
                               { { HandleShape::ArrowShaft, { kColor, kColor, kColor } } });
     row.visibleIn = 0;
     return row;
@@ -154,10 +136,10 @@ const HandleTable& handleTable()
                       box("scaleXYULShape", Active::ScaleUpperLeft),
                       box("scaleXYLRShape", Active::ScaleLowerRight),
                       box("scaleXYURShape", Active::ScaleUpperRight),
-                      sideBox("scaleXLShape", Active::SizeLeft),
-                      sideBox("scaleYUShape", Active::SizeUpper),
-                      sideBox("scaleYLShape", Active::SizeLower),
-                      sideBox("scaleXRShape", Active::SizeRight),
+                      sideBox("scaleXLShape", Active::SizeLeft, 0),
+                      sideBox("scaleYUShape", Active::SizeUpper, 1),
+                      sideBox("scaleYLShape", Active::SizeLower, 1),
+                      sideBox("scaleXRShape", Active::SizeRight, 0),
                       arm(),
                       body(),
                       guide(),

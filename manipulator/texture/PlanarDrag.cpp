@@ -11,17 +11,11 @@ namespace nbec::manipulator::texture {
 
 namespace {
 
-using Active = PlanarActiveMode;
+using Kind = DragParameters::Kind;
 
 constexpr float kShortest = 1e-6F;
 constexpr float kLeastAxisFactor = 0.01F;
 constexpr float kLeastUniformFactor = 0.001F;
-
-osg::Vec3f unitVector(osg::Vec3f vector)
-{
-    const float length = vector.length();
-    return length > 0.0F ? vector * (1.0F / length) : osg::Vec3f();
-}
 
 /// Signed half of a side after one of its ends has moved; never less than a hundredth. A side
 /// without length has no least one, and grows whichever way its end goes.
@@ -34,15 +28,15 @@ float draggedHalf(float half, float outwards)
 
 /// Gives two halves the ratio that they had: a corner goes along the diagonal, an edge takes the
 /// other side along. Sides without length have no ratio.
-void keepRatio(const osg::Vec3f& from, osg::Vec3f& to, const PlanarSide& side)
+void keepRatio(const osg::Vec3f& from, osg::Vec3f& to, const osg::Vec3f& side)
 {
     if (!hasLength(from.x()) || !hasLength(from.y())) {
         return;
     }
     const float x = to.x() / from.x();
     const float y = to.y() / from.y();
-    const float xWeight = side[0] != 0 ? from.x() * from.x() : 0.0F;
-    const float yWeight = side[1] != 0 ? from.y() * from.y() : 0.0F;
+    const float xWeight = side[0] != 0.0F ? from.x() * from.x() : 0.0F;
+    const float yWeight = side[1] != 0.0F ? from.y() * from.y() : 0.0F;
     const float factor = (x * xWeight + y * yWeight) / (xWeight + yWeight);
     to[0] = from.x() * factor;
     to[1] = from.y() * factor;
@@ -93,47 +87,34 @@ osg::Vec3f ProjectionDrag::motion(const osg::Pnt3f& from, const osg::Pnt3f& to) 
     return mapped(axesFromWorld, to) - mapped(axesFromWorld, from);
 }
 
-osg::Plane dragPlaneOf(const ProjectionFrame& frame, PlanarActiveMode handle,
+osg::Plane dragPlaneOf(const ProjectionFrame& frame, const HandleAction& action,
                        const osg::Vec3f& sight)
 {
     const osg::Matrix worldFromAxes = frame.worldFromAxes();
-    const auto facing = [&](osg::UInt32 axis) {
-        return axisPlaneNormal(unitVector(column(worldFromAxes, axis)), sight);
-    };
-    osg::Vec3f normal = sight;
-    switch (handle) {
-    case Active::TranslateX:
-    case Active::ScaleX:
-        normal = facing(0);
-        break;
-    case Active::TranslateY:
-    case Active::ScaleY:
-        normal = facing(1);
-        break;
-    case Active::TranslateZ:
-        normal = facing(2);
-        break;
-    case Active::None:
-    case Active::ScaleZ:
-    case Active::ScaleZPlane:
-        break;
-    default:
-        // At right angles to x and y, which a skewed object's z need not be.
-        normal = unitVector(
-            unitVector(column(worldFromAxes, 0)).cross(unitVector(column(worldFromAxes, 1))));
-        break;
+    const osg::Pnt3f center(column(worldFromAxes, 3));
+    const bool isResizing = action.kind == Kind::Factor || action.kind == Kind::HalfSizes;
+    if (action.kind == Kind::None || (isResizing && action.axis() == 2)) {
+        return osg::Plane(sight, center);
     }
-    return osg::Plane(normal, osg::Pnt3f(column(worldFromAxes, 3)));
+    if (action.axis() != kNoAxis && (action.kind == Kind::Offset || action.kind == Kind::Factor)) {
+        const osg::Vec3f along = unitVector(column(worldFromAxes, action.axis()));
+        return osg::Plane(axisPlaneNormal(along, sight), center);
+    }
+    // At right angles to x and y, which a skewed object's z need not be.
+    const osg::Vec3f normal =
+        unitVector(column(worldFromAxes, 0)).cross(unitVector(column(worldFromAxes, 1)));
+    return osg::Plane(unitVector(normal), center);
 }
 
-ProjectionDrag beginDrag(const ProjectionFrame& frame, PlanarActiveMode handle,
+ProjectionDrag beginDrag(const ProjectionFrame& frame, const HandleRow& handle,
                          const osg::Vec3f& sight)
 {
     ProjectionDrag drag;
-    drag.handle = handle;
+    drag.action = handle.action;
+    drag.side = planarSideOf(handle);
     drag.frame = frame;
     drag.axesFromWorld = inverted(frame.worldFromAxes());
-    drag.plane = dragPlaneOf(frame, handle, sight);
+    drag.plane = dragPlaneOf(frame, handle.action, sight);
     return drag;
 }
 
@@ -141,18 +122,7 @@ ProjectionDrag beginDrag(const ProjectionFrame& frame, PlanarActiveMode handle,
 
 osg::Vec3f offsetBetween(const ProjectionDrag& drag, const osg::Pnt3f& from, const osg::Pnt3f& to)
 {
-    const osg::Vec3f motion = drag.motion(from, to);
-    osg::Vec3f offset;
-    if (drag.handle == Active::TranslateX || drag.handle == Active::TranslateXY) {
-        offset[0] = motion.x();
-    }
-    if (drag.handle == Active::TranslateY || drag.handle == Active::TranslateXY) {
-        offset[1] = motion.y();
-    }
-    if (drag.handle == Active::TranslateZ) {
-        offset[2] = motion.z();
-    }
-    return offset;
+    return masked(drag.motion(from, to), drag.action.axes);
 }
 
 float turnAboutZ(const osg::Vec3f& from, const osg::Vec3f& to)
@@ -173,15 +143,14 @@ std::optional<float> angleBetween(const ProjectionDrag& drag, const osg::Pnt3f& 
 
 float factorBetween(const ProjectionDrag& drag, const osg::Pnt3f& from, const osg::Pnt3f& to)
 {
-    if (drag.handle == Active::ScaleUniform) {
+    const osg::UInt32 axis = drag.action.axis();
+    if (axis == kNoAxis) {
         const osg::Vec3f motion = drag.motion(from, to);
         const osg::Vec3f& projection = drag.frame.projectionScale;
         const float greatest = std::max(motion.x() / usableLength(projection.x()),
                                         motion.y() / usableLength(projection.y()));
         return std::max(greatest + 1.0F, kLeastUniformFactor);
     }
-    const osg::UInt32 axis =
-        static_cast<osg::UInt32>(drag.handle) - static_cast<osg::UInt32>(Active::ScaleX);
     const float start = mapped(drag.axesFromWorld, from)[axis];
     // Nothing can be divided by a start at the centre.
     const float least = kShortest * std::abs(usableLength(drag.frame.scale[axis]));
@@ -194,8 +163,8 @@ float factorBetween(const ProjectionDrag& drag, const osg::Pnt3f& from, const os
 osg::Vec3f halfSizesBetween(const ProjectionDrag& drag, const osg::Pnt3f& from,
                             const osg::Pnt3f& to, const Sights& sights, bool keepsRatio)
 {
-    const PlanarSide side = planarSideOf(drag.handle);
-    const bool isZPlane = drag.handle == Active::ScaleZPlane;
+    const osg::Vec3f& side = drag.side;
+    const bool isZPlane = side[2] != 0.0F;
     osg::Vec3f motion = drag.motion(from, to);
     if (isZPlane) {
         const osg::Matrix axes = drag.frame.worldFromAxes();
@@ -209,8 +178,8 @@ osg::Vec3f halfSizesBetween(const ProjectionDrag& drag, const osg::Pnt3f& from,
     for (osg::UInt32 i = 0; i < 3; ++i) {
         // Of a side only one end moves, the depth is counted from the projection plane.
         const float share = i < 2 ? 0.5F : 1.0F;
-        if (side[i] != 0) {
-            after[i] = draggedHalf(before[i], share * motion[i] * static_cast<float>(side[i]));
+        if (side[i] != 0.0F) {
+            after[i] = draggedHalf(before[i], share * motion[i] * side[i]);
         }
     }
     if (keepsRatio && !isZPlane) {
@@ -224,13 +193,10 @@ osg::Vec3f halfSizesBetween(const ProjectionDrag& drag, const osg::Pnt3f& from,
 osg::Vec3f scaledProjection(const ProjectionDrag& drag, float factor, bool keepsRatio)
 {
     osg::Vec3f scale = drag.frame.scale;
-    const bool isUniform = drag.handle == Active::ScaleUniform;
+    const bool isDepth = drag.action.axis() == 2;
     for (osg::UInt32 i = 0; i < 3; ++i) {
-        const bool isOwn =
-            static_cast<osg::UInt32>(drag.handle) == static_cast<osg::UInt32>(Active::ScaleX) + i;
-        const bool goesAlong =
-            (isUniform || (keepsRatio && drag.handle != Active::ScaleZ)) && i < 2;
-        if (isOwn || goesAlong) {
+        const bool isOwn = keepsRatio || hasAxis(drag.action.axes, i);
+        if (isDepth ? i == 2 : i < 2 && isOwn) {
             scale[i] *= factor;
         }
     }
@@ -252,10 +218,8 @@ osg::Vec3f scaleOfHalfSizes(const ProjectionDrag& drag, const osg::Vec3f& halfSi
 
 osg::Vec3f shiftOfHalfSizes(const ProjectionDrag& drag, const osg::Vec3f& halfSizes)
 {
-    const PlanarSide side = planarSideOf(drag.handle);
     const osg::Vec3f growth = halfSizes - drag.frame.halfExtents();
-    return osg::Vec3f(growth.x() * static_cast<float>(side[0]),
-                      growth.y() * static_cast<float>(side[1]), 0.0F);
+    return osg::Vec3f(growth.x() * drag.side.x(), growth.y() * drag.side.y(), 0.0F);
 }
 
 }  // namespace nbec::manipulator::texture

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "manipulator/drag/DragParameters.h"
-#include "manipulator/texture/TextureModes.h"
+#include "manipulator/handles/HandleTable.h"
 
 #include <OpenSG/OSGMatrix.h>
 #include <OpenSG/OSGPlane.h>
@@ -41,7 +41,8 @@ struct ProjectionFrame
 /// What a drag has captured at its start.
 struct ProjectionDrag
 {
-    PlanarActiveMode handle = PlanarActiveMode::None;
+    HandleAction action;
+    osg::Vec3f side;  ///< of a tab, see planarSideOf()
     osg::Plane plane;  ///< world
     ProjectionFrame frame;
     osg::Matrix axesFromWorld;  ///< the axes at the centre, object units
@@ -51,11 +52,11 @@ struct ProjectionDrag
 };
 
 /// Plane of a handle's drag, through the centre. @param sight  direction of the camera, unit length
-osg::Plane dragPlaneOf(const ProjectionFrame& frame, PlanarActiveMode handle,
+osg::Plane dragPlaneOf(const ProjectionFrame& frame, const HandleAction& action,
                        const osg::Vec3f& sight);
 
 /// Captures the start of a drag.
-ProjectionDrag beginDrag(const ProjectionFrame& frame, PlanarActiveMode handle,
+ProjectionDrag beginDrag(const ProjectionFrame& frame, const HandleRow& handle,
                          const osg::Vec3f& sight);
 
 // == From two points of the drag's plane to drag parameters

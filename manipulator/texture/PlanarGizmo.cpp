@@ -24,6 +24,7 @@ namespace nbec::manipulator::texture {
 namespace {
 
 using Active = PlanarActiveMode;
+using Kind = DragParameters::Kind;
 
 constexpr CourseRules kRules = { /*isPreparedAtStart*/ true, /*isHoverKept*/ false,
                                  /*isGrabbedLit*/ true, /*isEndedByDeactivation*/ true,
@@ -53,20 +54,19 @@ osg::Vec3f objectPivot(const osg::NodePtr& node, bool scalePivot)
 
 /// What the on-screen text says. Deliberate: the values are those of the object's transform, and
 /// the z handles show none.
-QString textOf(const osg::NodePtr& node, Active handle)
+QString textOf(const osg::NodePtr& node, const HandleAction& action)
 {
-    switch (handle) {
-    case Active::TranslateX:
-    case Active::TranslateY:
-    case Active::TranslateXY:
+    if (action.kind != Kind::Angle && action.axis() == 2) {
+        return QString();
+    }
+    switch (action.kind) {
+    case Kind::Offset:
         return describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Translation ("),
                               nbNodeUtils::getTransformNodeTranslation(node));
-    case Active::ScaleX:
-    case Active::ScaleY:
-    case Active::ScaleUniform:
+    case Kind::Factor:
         return describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Scale ("),
                               nbNodeUtils::getTransformNodeScale(node));
-    case Active::Rotate:
+    case Kind::Angle:
         return describeValues(QT_TRANSLATE_NOOP("nbForegroundTextContext", "Rotation ("),
                               nbNodeUtils::getTransformNodeRotation(node));
     default:
@@ -219,50 +219,50 @@ bool PlanarGizmo::prepare(const View& /*view*/)
 void PlanarGizmo::capture(const View& view)
 {
     isTargetReady = false;
-    drag = beginDrag(frame, actingHandle(), view.sight());
+    drag = beginDrag(frame, *armedRow(), view.sight());
     track = DragTrack();
-    ring = RingDrag::begin(osg::Pnt3f(column(frame.worldFromAxes(), 3)), drag.plane.getNormal(),
-                           grabbedPoint, view.getSight());
-    follow(view, track);
+    choosePath(view);
+    path.follow(view.pointerRay(), track);
     if (holdsPicture()) {
         capturePicture(view);
     }
 }
 
-std::optional<osg::Pnt3f> PlanarGizmo::follow(const View& view, DragTrack& next) const
+void PlanarGizmo::choosePath(const View& view)
 {
-    const bool isBead = drag.handle == Active::Rotate && settings.areRingsTilted && ring.isWire;
-    return isBead ? ring.follow(view.pointerRay(), next)
-                  : followPlane(drag.plane, view.pointerRay(), next);
+    path = RingDrag::begin(osg::Pnt3f(column(drag.frame.worldFromAxes(), 3)),
+                           drag.plane.getNormal(), grabbedPoint, view.getSight());
+    path.isWire = path.isWire && drag.action.kind == Kind::Angle && settings.areRingsTilted;
 }
 
 void PlanarGizmo::updateManipulatorPlane()
 {
-    drag.plane = dragPlaneOf(frame, getActiveMode(), View().sight());
+    const View view;
+    drag.plane = dragPlaneOf(frame, armedAction(), view.sight());
+    choosePath(view);
 }
 
 DragStep PlanarGizmo::parametersAt(const View& view, const DragTrack& before) const
 {
-    using Kind = DragParameters::Kind;
     if (holdsPicture()) {
         return pictureStep(view, before);
     }
     DragTrack next = before;
-    const std::optional<osg::Pnt3f> hit = follow(view, next);
+    const std::optional<osg::Pnt3f> hit = path.follow(view.pointerRay(), next);
     if (!hit) {
         return DragStep();
     }
     const osg::Pnt3f& from = *next.start;
-    if (drag.handle == Active::Rotate) {
+    if (drag.action.kind == Kind::Angle) {
         if (const std::optional<float> angleRad = angleBetween(drag, from, *hit)) {
             next.turned = static_cast<double>(*angleRad) * kDegPerRad;
         }
         return { { Kind::Angle, next.turned }, next };
     }
-    if (drag.handle <= Active::TranslateXY) {
+    if (drag.action.kind == Kind::Offset) {
         return { { Kind::Offset, offsetBetween(drag, from, *hit) }, next };
     }
-    if (drag.handle <= Active::ScaleUniform) {
+    if (drag.action.kind == Kind::Factor) {
         return { { Kind::Factor, factorBetween(drag, from, *hit) }, next };
     }
     const osg::Pnt3f center(column(drag.frame.worldFromAxes(), 3));
@@ -274,14 +274,13 @@ DragStep PlanarGizmo::parametersAt(const View& view, const DragTrack& before) co
 
 DragParameters PlanarGizmo::startParameters() const
 {
-    return drag.handle < Active::ScaleLowerLeft
-        ? Gizmo::startParameters()
-        : DragParameters(DragParameters::Kind::HalfSizes, drag.frame.halfExtents());
+    return drag.action.kind == Kind::HalfSizes
+        ? DragParameters(Kind::HalfSizes, drag.frame.halfExtents())
+        : Gizmo::startParameters();
 }
 
 void PlanarGizmo::apply(const DragParameters& parameters)
 {
-    using Kind = DragParameters::Kind;
     nbMessage message;
     if (parameters.kind == Kind::Angle) {
         // Deliberate: the receiver's rotation runs opposite to the gizmo's.
@@ -294,7 +293,7 @@ void PlanarGizmo::apply(const DragParameters& parameters)
     } else if (parameters.kind == Kind::Offset) {
         setTranslationIn(message, parameters.vec3());
     } else if (parameters.kind == Kind::Factor) {
-        if (drag.handle == Active::ScaleZ) {
+        if (drag.action.axis() == 2) {
             showZScaleValue(true);
             message.set("clamping", true, true);
         }
@@ -304,7 +303,7 @@ void PlanarGizmo::apply(const DragParameters& parameters)
             setTranslationIn(message, pivot * (1.0F - parameters.first()));
         }
     } else {
-        const bool isZPlane = drag.handle == Active::ScaleZPlane;
+        const bool isZPlane = drag.action.axis() == 2;
         message.set("clamping", isZPlane, true);
         message.set("scale", scaleOfHalfSizes(drag, parameters.vec3()), true);
         setTranslationIn(message, shiftOfHalfSizes(drag, parameters.vec3()));
@@ -326,7 +325,8 @@ void PlanarGizmo::setTranslationIn(nbMessage& message, const osg::Vec3f& shift) 
 std::optional<QString> PlanarGizmo::describe() const
 {
     const osg::NodePtr node = getNode();
-    return node != osg::NullFC ? textOf(node, getActiveMode()) : QString();
+    return node != osg::NullFC ? textOf(node, holdsPicture() ? HandleAction() : armedAction())
+                               : QString();
 }
 
 ValueText* PlanarGizmo::getText() const
@@ -408,18 +408,19 @@ void PlanarGizmo::placeRows(const osg::Matrix& worldFromAxes, const osg::Matrix&
     }
     const std::vector<HandleRow>& rows = planarHandleTable().rows;
     for (std::size_t i = 0; i < rows.size(); ++i) {
-        const auto handle = static_cast<Active>(rows[i].handle);
-        const PlanarSide side = planarSideOf(handle);
-        if (side != PlanarSide()) {
+        const HandleAction& action = rows[i].action;
+        const osg::UInt32 axis = action.axis();
+        if (action.kind == Kind::HalfSizes) {
+            const osg::Vec3f side = planarSideOf(rows[i]);
             osg::Vec3f place;
-            for (osg::UInt32 axis = 0; axis < 3; ++axis) {
-                place += ways[axis] * (extents[axis] * static_cast<float>(side[axis]));
+            for (osg::UInt32 each = 0; each < 3; ++each) {
+                place += ways[each] * (extents[each] * side[each]);
             }
             moveNode(handles.getNode(i), place);
-        } else if (const std::optional<osg::UInt32> axis = planarAxisOf(handle)) {
+        } else if (action.kind != Kind::Angle && axis != kNoAxis) {
             osg::Vec3f unit;
-            unit[*axis] = 1.0F;
-            const osg::Vec3f& way = ways[*axis];
+            unit[axis] = 1.0F;
+            const osg::Vec3f& way = ways[axis];
             const osg::Quaternion turn =
                 way.length() > 0.0F ? osg::Quaternion(unit, way) : osg::Quaternion();
             osg::Quaternion whole = turn;

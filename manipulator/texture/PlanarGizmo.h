@@ -4,6 +4,7 @@
 #include "manipulator/texture/PlanarDrag.h"
 #include "manipulator/texture/PlanarSettings.h"
 #include "manipulator/texture/TextureGizmo.h"
+#include "manipulator/texture/TextureModes.h"
 
 namespace nbec::manipulator::texture {
 
@@ -79,8 +80,7 @@ private:
     osg::Transform3DPtr projection() const;
     void capture(const View& view);
     void capturePicture(const View& view);
-    PlanarActiveMode actingHandle() const;
-    std::optional<osg::Pnt3f> follow(const View& view, DragTrack& next) const;
+    void choosePath(const View& view);
     void showElements();
     void placeRows(const osg::Matrix& worldFromAxes, const osg::Matrix& axes,
                    const osg::Vec3f& scales);
@@ -93,7 +93,7 @@ private:
     ProjectionDrag drag;
     osg::Vec3f pivot;  ///< texel that a turn or scale of the picture keeps, from its centre, along
                        ///< the axes; object units
-    RingDrag ring;  ///< of a drag that turns
+    RingDrag path;
     bool isTargetReady = false;  ///< whether the object has been made a transform in this drag
 };
 

@@ -8,9 +8,6 @@
 
 namespace nbec::manipulator::texture {
 
-using Active = PlanarActiveMode;
-using Kind = DragParameters::Kind;
-
 /// Null if there is none or it is not finite.
 osg::Transform3DPtr PlanarGizmo::projection() const
 {
@@ -35,18 +32,6 @@ void PlanarGizmo::capturePicture(const View& view)
         present != osg::NullFC ? column(present->getMatrix(), 3) : osg::Vec3f();
     pivot = rotated(frame.rotation.inverse(), grabbed->inSurface() - centre);
     pivot[2] = 0.0F;
-}
-
-/// The handle that does the same as the armed one: of the picture that of its mode.
-Active PlanarGizmo::actingHandle() const
-{
-    if (!holdsPicture()) {
-        return getActiveMode();
-    }
-    const Kind kind = armedRow()->action.kind;
-    return kind == Kind::Angle ? Active::Rotate
-        : kind == Kind::Factor ? Active::ScaleUniform
-                               : Active::TranslateXY;
 }
 
 bool PlanarGizmo::isPictureAt(const SurfacePlace& place) const

@@ -8,6 +8,7 @@ namespace nbec::manipulator::texture {
 namespace {
 
 using Active = PlanarActiveMode;
+using Kind = DragParameters::Kind;
 using Mode = PlanarManipulatorMode;
 
 constexpr std::size_t kAccent = OwnMaterial;
@@ -23,50 +24,31 @@ constexpr std::array<HandleModes, 3> kVisibleIn = { modes(Mode::Universal, Mode:
                                                     modes(Mode::Universal, Mode::Rotate),
                                                     modes(Mode::Universal, Mode::Scale) };
 
-HandleRow arrow(const char* name, Active active, std::size_t color,
+HandleRow arrow(const char* name, Active active, std::size_t axis,
                 const std::array<float, 3>& place, Turn turn)
 {
-    return solidArrow(name, number(active), Translation, color, place, turn);
+    return solidArrow(name, number(active), Translation, axis, place, turn);
 }
 
-HandleRow scaleAxis(const char* name, Active active, std::size_t color, HandleShape shaft,
+HandleRow scaleAxis(const char* name, Active active, std::size_t axis, HandleShape shaft,
                     HandleShape box)
 {
-    return handleRow(name, number(active), Scaling,
+    const std::size_t color = LightRedMaterial + axis;
+    return handleRow(name, number(active), Scaling, { Kind::Factor, axisBit(axis) },
                      { handlePart(shaft, color), handlePart(box, color) });
 }
 
-/// A tab at an edge, a corner, the centre or the end of the Z extent.
-HandleRow tab(const char* name, Active active, HandleShape shape, std::size_t color)
+/// A tab at an edge, a corner or the end of the Z extent. @param side  see planarSideOf()
+HandleRow tab(const char* name, Active active, HandleShape shape, std::size_t color,
+              const std::array<float, 3>& side)
 {
-    return handleRow(name, number(active), Scaling, { handlePart(shape, color) });
-}
-
-HandleAction actionOf(Active handle)
-{
-    using Kind = DragParameters::Kind;
-    constexpr unsigned kInPlane = 3;
-    if (handle == Active::Rotate) {
-        return { Kind::Angle, axisBit(2) };
-    }
-    if (handle < Active::ScaleX) {
-        return { Kind::Offset,
-                 handle == Active::TranslateXY
-                     ? kInPlane
-                     : axisBit(number(handle) - number(Active::TranslateX)) };
-    }
-    if (handle < Active::ScaleLowerLeft) {
-        return { Kind::Factor,
-                 handle == Active::ScaleUniform
-                     ? kAllAxes
-                     : axisBit(number(handle) - number(Active::ScaleX)) };
-    }
-    const PlanarSide side = planarSideOf(handle);
     HandleAction action { Kind::HalfSizes };
     for (std::size_t i = 0; i < side.size(); ++i) {
-        action.axes |= side[i] != 0 ? axisBit(i) : 0;
+        action.axes |= side[i] != 0.0F ? axisBit(i) : 0;
     }
-    return action;
+    HandleRow row = handleRow(name, number(active), Scaling, action, { handlePart(shape, color) });
+    row.place = side;
+    return row;
 }
 
 /// Deliberate: the arrow and the scale axis of z point to -z, where the projection looks, unlike
@@ -79,31 +61,40 @@ HandleTable makeTable()
         arrow("xaShape", Active::TranslateX, RedMaterial, { 1.0F, 0.0F, 0.0F }, Turn::OntoX),
         arrow("zaShape", Active::TranslateZ, BlueMaterial, { 0.0F, 0.0F, -1.0F }, Turn::OntoMinusZ),
         solidSquare("xyaShape", number(Active::TranslateXY), Translation, BlueMaterial),
-        scaleAxis("zsShape", Active::ScaleZ, LightBlueMaterial, HandleShape::SolidScaleShaftMinusZ,
+        scaleAxis("zsShape", Active::ScaleZ, 2, HandleShape::SolidScaleShaftMinusZ,
                   HandleShape::ScaleTabMinusZ),
-        scaleAxis("ysShape", Active::ScaleY, LightGreenMaterial, HandleShape::SolidScaleShaftY,
+        scaleAxis("ysShape", Active::ScaleY, 1, HandleShape::SolidScaleShaftY,
                   HandleShape::ScaleTabY),
-        scaleAxis("xsShape", Active::ScaleX, LightRedMaterial, HandleShape::SolidScaleShaftX,
+        scaleAxis("xsShape", Active::ScaleX, 0, HandleShape::SolidScaleShaftX,
                   HandleShape::ScaleTabX),
-        tab("grid", Active::ScaleUniform, HandleShape::BigCube, YellowMaterial),
-        handleRow("rotateShape", number(Active::Rotate), Rotation,
+        handleRow("grid", number(Active::ScaleUniform), Scaling, { Kind::Factor, kAllAxes },
+                  { handlePart(HandleShape::BigCube, YellowMaterial) }),
+        handleRow("rotateShape", number(Active::Rotate), Rotation, { Kind::Angle, axisBit(2) },
                   { handlePart(HandleShape::SolidRing, BlueMaterial),
                     handlePart(HandleShape::RingGrip, kAccent) }),
-        tab("scaleXYLLShape", Active::ScaleLowerLeft, HandleShape::SquareTab, YellowMaterial),
-        tab("scaleXYULShape", Active::ScaleUpperLeft, HandleShape::SquareTab, YellowMaterial),
-        tab("scaleXYLRShape", Active::ScaleLowerRight, HandleShape::SquareTab, YellowMaterial),
-        tab("scaleXYURShape", Active::ScaleUpperRight, HandleShape::SquareTab, YellowMaterial),
-        tab("scaleXLShape", Active::ScaleLeft, HandleShape::UprightTab, LightRedMaterial),
-        tab("scaleXRShape", Active::ScaleRight, HandleShape::UprightTab, LightRedMaterial),
-        tab("scaleYLShape", Active::ScaleLower, HandleShape::LyingTab, LightGreenMaterial),
-        tab("scaleYUShape", Active::ScaleUpper, HandleShape::LyingTab, LightGreenMaterial),
-        tab("scaleZPlaneShape", Active::ScaleZPlane, HandleShape::SquareTab, LightBlueMaterial),
+        tab("scaleXYLLShape", Active::ScaleLowerLeft, HandleShape::SquareTab, YellowMaterial,
+            { -1.0F, -1.0F, 0.0F }),
+        tab("scaleXYULShape", Active::ScaleUpperLeft, HandleShape::SquareTab, YellowMaterial,
+            { -1.0F, 1.0F, 0.0F }),
+        tab("scaleXYLRShape", Active::ScaleLowerRight, HandleShape::SquareTab, YellowMaterial,
+            { 1.0F, -1.0F, 0.0F }),
+        tab("scaleXYURShape", Active::ScaleUpperRight, HandleShape::SquareTab, YellowMaterial,
+            { 1.0F, 1.0F, 0.0F }),
+        tab("scaleXLShape", Active::ScaleLeft, HandleShape::UprightTab, LightRedMaterial,
+            { -1.0F, 0.0F, 0.0F }),
+        tab("scaleXRShape", Active::ScaleRight, HandleShape::UprightTab, LightRedMaterial,
+            { 1.0F, 0.0F, 0.0F }),
+        tab("scaleYLShape", Active::ScaleLower, HandleShape::LyingTab, LightGreenMaterial,
+            { 0.0F, -1.0F, 0.0F }),
+        tab("scaleYUShape", Active::ScaleUpper, HandleShape::LyingTab, LightGreenMaterial,
+            { 0.0F, 1.0F, 0.0F }),
+        tab("scaleZPlaneShape", Active::ScaleZPlane, HandleShape::SquareTab, LightBlueMaterial,
+            { 0.0F, 0.0F, -1.0F }),
     };
     for (HandleRow& row : table.rows) {
         const auto active = static_cast<Active>(row.handle);
         const bool isFree = active == Active::TranslateX || active == Active::TranslateXY;
         row.leaves = isFree ? HandleLeaves::Everything : HandleLeaves::Family;
-        row.action = actionOf(active);
         row.visibleIn = kVisibleIn[static_cast<std::size_t>(row.family)];
     }
     return table;
@@ -125,32 +116,10 @@ HandleSet::Materials makePlanarMaterials()
                                   { 0.953F, 0.525F, 0.184F, 0.0F, handleSortKey::kSolid } });
 }
 
-std::optional<osg::UInt32> planarAxisOf(PlanarActiveMode handle)
+osg::Vec3f planarSideOf(const HandleRow& row)
 {
-    for (const Active first : { Active::TranslateX, Active::ScaleX }) {
-        const int axis = number(handle) - number(first);
-        if (axis >= 0 && axis < 3) {
-            return static_cast<osg::UInt32>(axis);
-        }
-    }
-    return std::nullopt;
-}
-
-PlanarSide planarSideOf(PlanarActiveMode handle)
-{
-    // From ScaleLowerLeft on.
-    constexpr std::array<PlanarSide, 9> kSides = { { { -1, -1, 0 },
-                                                     { -1, 1, 0 },
-                                                     { 1, -1, 0 },
-                                                     { 1, 1, 0 },
-                                                     { -1, 0, 0 },
-                                                     { 1, 0, 0 },
-                                                     { 0, -1, 0 },
-                                                     { 0, 1, 0 },
-                                                     { 0, 0, -1 } } };
-    return handle < Active::ScaleLowerLeft
-        ? PlanarSide()
-        : kSides[static_cast<std::size_t>(number(handle) - number(Active::ScaleLowerLeft))];
+    return row.action.kind == Kind::HalfSizes ? osg::Vec3f(row.place[0], row.place[1], row.place[2])
+                                              : osg::Vec3f();
 }
 
 }  // namespace nbec::manipulator::texture

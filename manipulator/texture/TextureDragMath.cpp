@@ -196,28 +196,19 @@ std::optional<float> turnOnScreen(const osg::Vec2f& from, const osg::Vec2f& to)
     return from.x() * to.y() - from.y() * to.x() < 0.0F ? -angleDeg : angleDeg;
 }
 
-float pictureFactor(const osg::Vec2f& from, const osg::Vec2f& to, ScreenScaling axes)
+float pictureFactor(const osg::Vec2f& from, const osg::Vec2f& to, unsigned axis)
 {
     const osg::Vec2f ratio(to.x() / from.x(), to.y() / from.y());
-    switch (axes) {
-    case ScreenScaling::U:
-        return ratio.x();
-    case ScreenScaling::V:
-        return ratio.y();
-    case ScreenScaling::Both:
-        break;
-    }
-    return std::max(ratio.x(), ratio.y());
+    return axis == kNoAxis ? std::max(ratio.x(), ratio.y()) : ratio[axis];
 }
 
-osg::Vec2f scaledPicture(const osg::Vec2f& start, float factor, ScreenScaling axes,
-                         bool isProportional)
+osg::Vec2f scaledPicture(const osg::Vec2f& start, float factor, unsigned axis, bool isProportional)
 {
-    if (isProportional || axes == ScreenScaling::Both) {
-        return start * factor;
+    osg::Vec2f scale = start;
+    for (osg::UInt32 i = 0; i < 2; ++i) {
+        scale[i] *= isProportional || axis == kNoAxis || axis == i ? factor : 1.0F;
     }
-    return axes == ScreenScaling::U ? osg::Vec2f(start.x() * factor, start.y())
-                                    : osg::Vec2f(start.x(), start.y() * factor);
+    return scale;
 }
 
 float grownCircumferencePart(float start, double turnRad)

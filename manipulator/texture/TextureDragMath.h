@@ -80,21 +80,13 @@ osg::Matrix unitFrame(const osg::Matrix& matrix, const osg::Pnt3f& origin);
 /// @param from, to  from the centre
 std::optional<float> turnOnScreen(const osg::Vec2f& from, const osg::Vec2f& to);
 
-/// Axes that a picture on screen is scaled along.
-enum class ScreenScaling
-{
-    U,
-    V,
-    Both
-};
+/// Ratio of two ways from the centre along an axis, 0 or 1, or for kNoAxis the greater of the
+/// ratios. Deliberate: neither limited nor kept from being infinite or undefined.
+float pictureFactor(const osg::Vec2f& from, const osg::Vec2f& to, unsigned axis);
 
-/// Ratio of two ways from the centre along an axis, or for both the greater of the ratios.
-/// Deliberate: neither limited nor kept from being infinite or undefined.
-float pictureFactor(const osg::Vec2f& from, const osg::Vec2f& to, ScreenScaling axes);
-
-/// Scale of a picture on screen. @param isProportional  the other component goes along
-osg::Vec2f scaledPicture(const osg::Vec2f& start, float factor, ScreenScaling axes,
-                         bool isProportional);
+/// Scale of a picture on screen along an axis, for kNoAxis along both.
+/// @param isProportional  the other component goes along
+osg::Vec2f scaledPicture(const osg::Vec2f& start, float factor, unsigned axis, bool isProportional);
 
 /// Part of a tire's circumference after a drag about its axle: an end of the picture goes with the
 /// pointer, the other one the opposite way. Never below 0.001.

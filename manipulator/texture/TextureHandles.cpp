@@ -38,9 +38,8 @@ osg::RefPtr<osg::StateChunkPtr> makeDepthChunk()
 
 osg::RefPtr<osg::StateChunkPtr> makeWideLineChunk()
 {
-    const osg::LineChunkPtr chunk = osg::LineChunk::create();
-    const nbEdit edit(chunk, osg::FieldBits::AllFields);
-    chunk->setWidth(kLineWidth);
+    const osg::LineChunkPtr chunk = makeLineChunk(kLineWidth);
+    const nbEdit edit(chunk, osg::LineChunk::SmoothFieldMask);
     chunk->setSmooth(false);
     return osg::RefPtr<osg::StateChunkPtr>(chunk);
 }
@@ -83,17 +82,21 @@ HandlePart handlePart(HandleShape shape, std::size_t color, HandleHolder holder,
     return { shape, { color, HighlightMaterial, color }, holder, place, turn };
 }
 
-HandleRow handleRow(const char* name, int handle, int family, std::vector<HandlePart> parts)
+HandleRow handleRow(const char* name, int handle, int family, const HandleAction& action,
+                    std::vector<HandlePart> parts)
 {
-    return { name, handle, family, std::move(parts) };
+    HandleRow row { name, handle, family, std::move(parts) };
+    row.action = action;
+    return row;
 }
 
 HandleRow solidArrow(const char* name, int handle, int family, std::size_t color,
                      const std::array<float, 3>& place, Turn turn)
 {
-    HandleRow row = handleRow(name, handle, family,
-                              { handlePart(HandleShape::SolidArrowShaft, color),
-                                handlePart(HandleShape::SolidArrowHead, color) });
+    HandleRow row =
+        handleRow(name, handle, family, { DragParameters::Kind::Offset, axisBit(color) },
+                  { handlePart(HandleShape::SolidArrowShaft, color),
+                    handlePart(HandleShape::SolidArrowHead, color) });
     row.place = place;
     row.turn = turn;
     row.letter = "XYZ"[color];
@@ -104,6 +107,7 @@ HandleRow solidArrow(const char* name, int handle, int family, std::size_t color
 HandleRow solidSquare(const char* name, int handle, int family, std::size_t color)
 {
     return handleRow(name, handle, family,
+                     { DragParameters::Kind::Offset, axisBit(0) | axisBit(1) },
                      { handlePart(HandleShape::SolidPatch, color),
                        handlePart(HandleShape::SolidBarX, RedMaterial),
                        handlePart(HandleShape::SolidBarY, GreenMaterial) });
@@ -114,18 +118,15 @@ HandleRow axisArrow(const char* name, int handle, int family, std::size_t axis)
     constexpr std::array<Turn, 3> kTurns = { Turn::OntoX, Turn::None, Turn::OntoZ };
     // Of a shaft that ends where the head stands, 1 from the centre.
     constexpr float kShaftMiddle = 0.04375F;
-    HandleRow row = { name,
-                      handle,
-                      family,
-                      { handlePart(HandleShape::SlimArrowShaft, axis, HandleHolder::Euler,
-                                   { 0.0F, kShaftMiddle, 0.0F }),
-                        handlePart(HandleShape::ArrowHead, axis, HandleHolder::Component,
-                                   { 0.0F, 1.0F, 0.0F }) } };
+    HandleRow row = handleRow(name, handle, family, { DragParameters::Kind::Offset, axisBit(axis) },
+                              { handlePart(HandleShape::SlimArrowShaft, axis, HandleHolder::Euler,
+                                           { 0.0F, kShaftMiddle, 0.0F }),
+                                handlePart(HandleShape::ArrowHead, axis, HandleHolder::Component,
+                                           { 0.0F, 1.0F, 0.0F }) });
     row.place[axis] = 1.0F;
     row.letter = "XYZ"[axis];
     row.tip = kArrowTip;
     row.turn = kTurns[axis];
-    row.action = { DragParameters::Kind::Offset, axisBit(axis) };
     return row;
 }
 

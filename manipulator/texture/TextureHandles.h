@@ -48,7 +48,8 @@ HandlePart handlePart(HandleShape shape, std::size_t color,
                       const std::array<float, 3>& place = {}, Turn turn = Turn::None);
 
 /// A row whose parts lie where they belong.
-HandleRow handleRow(const char* name, int handle, int family, std::vector<HandlePart> parts);
+HandleRow handleRow(const char* name, int handle, int family, const HandleAction& action,
+                    std::vector<HandlePart> parts);
 
 /// The row of a solid arrow. @param color  of its axis, RedMaterial for x and so on
 /// @param place  of its middle

@@ -2,6 +2,7 @@
 #include "manipulator/texture/TireGizmo.h"
 
 #include "manipulator/course/ValueText.h"
+#include "manipulator/drag/DragGeometry.h"
 #include "manipulator/handles/HandleGroup.h"
 #include "manipulator/handles/HandleNodes.h"
 #include "manipulator/texture/TextureDragMath.h"
@@ -34,7 +35,7 @@ constexpr const char* kChangedSuffix = "::changedTireManipulator";
 
 HandleRow single(const char* name, Handle handle, int group, HandleShape shape, std::size_t color)
 {
-    return { name, number(handle), group, { handlePart(shape, color) } };
+    return handleRow(name, number(handle), group, { Kind::Length }, { handlePart(shape, color) });
 }
 
 /// Rows of the handles that are moved to where the projection ends.
@@ -45,13 +46,6 @@ enum Row : std::size_t
     OtherHeightRow,
     PictureEndRow
 };
-
-HandleAction actionOf(Handle handle)
-{
-    return handle > Handle::TranslateZ
-        ? HandleAction { Kind::Length }
-        : HandleAction { Kind::Offset, axisBit(number(handle) - number(Handle::TranslateX)) };
-}
 
 HandleTable makeTable()
 {
@@ -70,9 +64,6 @@ HandleTable makeTable()
                LightBlueMaterial),
         single("scaleUShape", Handle::ScaleU, kScaleGroup, HandleShape::BigCube, YellowMaterial),
     };
-    for (HandleRow& row : table.rows) {
-        row.action = actionOf(static_cast<Handle>(row.handle));
-    }
     table.groups = { modes(Mode::Universal, Mode::Translate), modes(Mode::Universal, Mode::Scale),
                      modes(Mode::Universal, Mode::Scale) };
     return table;
@@ -195,7 +186,7 @@ bool TireGizmo::capture(const View& view)
     sent = DragParameters();
     direction = chooseDirection();
     choosePlane(view, worldFromObject);
-    follow(view, track);
+    path.follow(view.pointerRay(), track);
     return true;
 }
 
@@ -204,13 +195,11 @@ osg::Vec3f TireGizmo::chooseDirection() const
     const osg::Vec3f arm = mapped(objectFromWorld, grabbedPoint).subZero() - start.center;
     osg::Vec3f along;
     if (isShift()) {
-        along[static_cast<osg::UInt32>(getArmed() - number(Handle::TranslateX))] = 1.0F;
+        along[armedAction().axis()] = 1.0F;
     } else if (handle() == Handle::ScaleHeight) {
         along[0] = arm.x() < 0.0F ? -1.0F : 1.0F;
     } else {
-        along = osg::Vec3f(0.0F, arm.y(), arm.z());
-        const float length = along.length();
-        along *= length > 0.0F ? 1.0F / length : 0.0F;
+        along = unitVector(osg::Vec3f(0.0F, arm.y(), arm.z()));
     }
     return along;
 }
@@ -225,22 +214,15 @@ void TireGizmo::choosePlane(const View& view, const osg::Matrix& worldFromObject
         const osg::Vec3f y = column(worldFromObject, 1);
         osg::Vec3f axle = y.cross(column(worldFromObject, 2)) * side;
         axle.normalize();
-        ring = RingDrag::begin(center, axle, grabbedPoint, view.getSight());
+        path = RingDrag::begin(center, axle, grabbedPoint, view.getSight());
         return;
     }
-    osg::Vec3f along = mapped(worldFromObject, osg::Pnt3f(start.center + direction)) - center;
-    const float length = along.length();
-    along *= length > 0.0F ? 1.0F / length : 0.0F;
-    plane = osg::Plane(axisPlaneNormal(along, sight), grabbedPoint);
+    const osg::Vec3f along =
+        unitVector(mapped(worldFromObject, osg::Pnt3f(start.center + direction)) - center);
+    path = RingDrag::flat(axisPlaneNormal(along, sight), grabbedPoint);
 }
 
 // == Steps
-
-std::optional<osg::Pnt3f> TireGizmo::follow(const View& view, DragTrack& next) const
-{
-    return handle() == Handle::ScaleU ? ring.follow(view.pointerRay(), next)
-                                      : followPlane(plane, view.pointerRay(), next);
-}
 
 /// Angle about the axle from +y towards +z, radians, in the object's space, where the picture lies.
 double TireGizmo::angleAt(const osg::Pnt3f& world) const
@@ -252,7 +234,7 @@ double TireGizmo::angleAt(const osg::Pnt3f& world) const
 DragStep TireGizmo::parametersAt(const View& view, const DragTrack& before) const
 {
     DragTrack next = before;
-    const std::optional<osg::Pnt3f> hit = follow(view, next);
+    const std::optional<osg::Pnt3f> hit = path.follow(view.pointerRay(), next);
     if (!hit) {
         return DragStep();
     }

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "manipulator/drag/DragGeometry.h"
+#include "manipulator/drag/RingDrag.h"
 #include "manipulator/texture/AnchoredGizmo.h"
 #include "manipulator/texture/TextureModes.h"
-
-#include <OpenSG/OSGPlane.h>
 
 namespace nbec::manipulator::texture {
 
@@ -50,7 +48,6 @@ private:
 
     TireValues readValues() const;
     osg::Vec3f chooseDirection() const;
-    std::optional<osg::Pnt3f> follow(const View& view, DragTrack& next) const;
     double angleAt(const osg::Pnt3f& world) const;
     void choosePlane(const View& view, const osg::Matrix& worldFromObject);
 
@@ -59,9 +56,8 @@ private:
     TireValues start;
     bool wasFitted = false;  ///< the setting "autoParameter" at the start
     osg::Matrix objectFromWorld;  ///< at the drag's start
-    osg::Plane plane;
     osg::Vec3f direction;  ///< unit vector that a linear drag goes along, object space
-    RingDrag ring;  ///< of a drag about the axle
+    RingDrag path;  ///< a ring about the axle for the part of the circumference
     DragParameters sent;  ///< by the last step
 };
 

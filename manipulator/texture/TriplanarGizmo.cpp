@@ -31,13 +31,11 @@ constexpr std::array<const char*, 3> kScaleNames = { "XScale", "YScale", "ZScale
 
 HandleRow uniformScale()
 {
-    HandleRow row = { "grid",
-                      number(Handle::ScaleUniform),
-                      -1,
-                      { handlePart(HandleShape::Cube, YellowMaterial, HandleHolder::Euler) },
-                      kAllModes & ~modes(Mode::Rotate) };
+    HandleRow row =
+        handleRow("grid", number(Handle::ScaleUniform), -1, { Kind::Factor, kAllAxes },
+                  { handlePart(HandleShape::Cube, YellowMaterial, HandleHolder::Euler) });
+    row.visibleIn = kAllModes & ~modes(Mode::Rotate);
     row.holder = HandleHolder::Euler;
-    row.action = { Kind::Factor, kAllAxes };
     return row;
 }
 
@@ -51,26 +49,21 @@ HandleRow scaleHandle(const char* name, Handle handle, std::size_t axis)
     HandlePart box =
         handlePart(HandleShape::Cube, LightRedMaterial + axis, HandleHolder::Euler, end);
     box.colors.special = axis;
-    HandleRow row = { name,
-                      number(handle),
-                      kScaleGroup,
-                      { handlePart(HandleShape::LongScaleShaft, RedLineMaterial + axis,
-                                   HandleHolder::Euler, middle, kTurns[axis]),
-                        box } };
+    HandleRow row = handleRow(name, number(handle), kScaleGroup, { Kind::Factor, axisBit(axis) },
+                              { handlePart(HandleShape::LongScaleShaft, RedLineMaterial + axis,
+                                           HandleHolder::Euler, middle, kTurns[axis]),
+                                box });
     row.holder = HandleHolder::Euler;
     row.litWith = number(Handle::ScaleUniform);
-    row.action = { Kind::Factor, axisBit(axis) };
     return row;
 }
 
 HandleRow ringRow(const char* name, Handle handle, std::size_t axis)
 {
     constexpr std::array<Turn, 3> kTurns = { Turn::ZOntoX, Turn::OntoZ, Turn::None };
-    HandleRow row = {
-        name, number(handle), kRotateGroup, { handlePart(HandleShape::SolidBigRing, axis) }
-    };
+    HandleRow row = handleRow(name, number(handle), kRotateGroup, { Kind::Angle, axisBit(axis) },
+                              { handlePart(HandleShape::SolidBigRing, axis) });
     row.turn = kTurns[axis];
-    row.action = { Kind::Angle, axisBit(axis) };
     return row;
 }
 
@@ -150,18 +143,6 @@ void TriplanarGizmo::placeHandles(const View& view, const osg::Matrix& worldFrom
     }
 }
 
-bool TriplanarGizmo::isRing() const
-{
-    return getArmed() >= number(Handle::RotateX) && getArmed() <= number(Handle::RotateZ);
-}
-
-osg::UInt32 TriplanarGizmo::axis() const
-{
-    return getArmed() >= number(Handle::ScaleUniform)
-        ? 3
-        : static_cast<osg::UInt32>(getArmed() - 1) % 3;
-}
-
 // == Start of a drag
 
 bool TriplanarGizmo::capture(const View& view)
@@ -174,7 +155,7 @@ bool TriplanarGizmo::capture(const View& view)
     followAnchor(worldFromAnchor);
     readValues();
     choosePlane(view, unitFrame(worldFromAnchor, getAnchorPosition()));
-    follow(view, track);
+    path.follow(view.pointerRay(), track);
     startTurn = triplanarTurn(startRotation);
     pivot.reset();
     if (holdsPicture()) {
@@ -248,25 +229,20 @@ void TriplanarGizmo::choosePlane(const View& view, const osg::Matrix& worldFromF
 {
     const osg::Pnt3f& center = getAnchorPosition();
     frameFromWorld = inverted(worldFromFrame);
-    if (axis() > 2) {
-        plane = osg::Plane(view.sight(), center);
+    if (axis() == kNoAxis) {
+        path = RingDrag::flat(view.sight(), center);
         return;
     }
     const osg::Vec3f along = column(worldFromFrame, axis());
-    plane = osg::Plane(axisPlaneNormal(along, view.sight()), center);
-    if (isRing()) {
-        ring = RingDrag::begin(center, along, grabbedPoint, view.getSight());
-        ring.isWire = ring.isWire && areRingsTilted;
+    if (armedAction().kind == Kind::Angle) {
+        path = RingDrag::begin(center, along, grabbedPoint, view.getSight());
+        path.isWire = path.isWire && areRingsTilted;
+    } else {
+        path = RingDrag::flat(axisPlaneNormal(along, view.sight()), center);
     }
 }
 
 // == Steps
-
-std::optional<osg::Pnt3f> TriplanarGizmo::follow(const View& view, DragTrack& next) const
-{
-    return isRing() ? ring.follow(view.pointerRay(), next)
-                    : followPlane(plane, view.pointerRay(), next);
-}
 
 DragStep TriplanarGizmo::parametersAt(const View& view, const DragTrack& before) const
 {
@@ -274,26 +250,24 @@ DragStep TriplanarGizmo::parametersAt(const View& view, const DragTrack& before)
         return pictureStep(view, before);
     }
     DragTrack next = before;
-    const std::optional<osg::Pnt3f> hit = follow(view, next);
+    const std::optional<osg::Pnt3f> hit = path.follow(view.pointerRay(), next);
     if (!hit) {
         return DragStep();
     }
     const osg::Pnt3f from = mapped(frameFromWorld, *next.start);
     const osg::Pnt3f to = mapped(frameFromWorld, *hit);
-    if (isRing()) {
+    const Kind kind = armedAction().kind;
+    if (kind == Kind::Angle) {
         next.turned = turnAbout(from.subZero(), to.subZero(), axis()).value_or(before.turned);
         return { { Kind::Angle, next.turned }, next };
     }
-    if (axis() > 2) {
+    if (axis() == kNoAxis) {
         const osg::UInt32 up = view.upAxis();
         return { { Kind::Factor, uniformScaleFactor(to[up], from[up]) }, next };
     }
-    if (getArmed() >= number(Handle::ScaleX)) {
-        return { { Kind::Factor, axisScaleFactor(to[axis()], from[axis()]) }, next };
-    }
-    osg::Vec3f offset;
-    offset[axis()] = to[axis()] - from[axis()];
-    return { { Kind::Offset, offset }, next };
+    return kind == Kind::Factor
+        ? DragStep({ kind, axisScaleFactor(to[axis()], from[axis()]) }, next)
+        : DragStep({ kind, masked(to - from, axisBit(axis())) }, next);
 }
 
 void TriplanarGizmo::apply(const DragParameters& parameters)

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "manipulator/drag/RingDrag.h"
 #include "manipulator/texture/AnchoredGizmo.h"
 #include "manipulator/texture/TextureDragMath.h"
 #include "manipulator/texture/TextureModes.h"
-
-#include <OpenSG/OSGPlane.h>
 
 class nbMessage;
 
@@ -40,17 +39,15 @@ protected:
     void placeHandles(const View& view, const osg::Matrix& worldFromAnchor) override;
 
 private:
-    bool isRing() const;
-    std::optional<osg::Pnt3f> follow(const View& view, DragTrack& next) const;
-    /// Axis of the armed handle, 0 .. 2; 3 for the uniform one.
-    osg::UInt32 axis() const;
+    /// Axis of the armed handle; kNoAxis for the uniform one.
+    osg::UInt32 axis() const { return armedAction().axis(); }
+
     void readValues();
     void capturePicture(const View& view);
     osg::Quaternion setTurn(nbMessage& message, double turnDeg) const;
     void choosePlane(const View& view, const osg::Matrix& worldFromFrame);
 
-    osg::Plane plane;
-    RingDrag ring;  ///< of a drag that turns
+    RingDrag path;
     osg::Matrix frameFromWorld;  ///< at the drag's start
     osg::Vec3f startRotation;
     TriplanarPairs startOffsets;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/texture/UVGizmo.h"
 
+#include "manipulator/drag/DragGeometry.h"
 #include "manipulator/handles/HandleGroup.h"
 #include "manipulator/handles/HandleNodes.h"
 #include "manipulator/texture/TextureHandles.h"
@@ -41,36 +42,17 @@ HandlePart switching(HandleShape shape, std::size_t idle, std::size_t special)
 HandleRow scaleRow(const char* name, Handle handle, HandleShape shaft, HandleShape tab,
                    std::size_t axis)
 {
-    HandleRow row = handleRow(name, number(handle), kScaleGroup,
+    HandleRow row = handleRow(name, number(handle), kScaleGroup, { Kind::Factor, axisBit(axis) },
                               { switching(shaft, LightRedMaterial + axis, axis),
                                 switching(tab, LightRedMaterial + axis, axis) });
     row.litWith = number(Handle::ScaleUniform);
     return row;
 }
 
-HandleAction actionOf(Handle handle)
-{
-    constexpr unsigned kBoth = 3;
-    switch (handle) {
-    case Handle::Rotate:
-        return { Kind::Angle, axisBit(2) };
-    case Handle::TranslateU:
-    case Handle::TranslateV:
-        return { Kind::Offset, axisBit(handle == Handle::TranslateV ? 1 : 0) };
-    case Handle::TranslateUV:
-        return { Kind::Offset, kBoth };
-    case Handle::ScaleU:
-    case Handle::ScaleV:
-        return { Kind::Factor, axisBit(handle == Handle::ScaleV ? 1 : 0) };
-    default:
-        return { Kind::Factor, kAllAxes };
-    }
-}
-
 HandleTable makeTable()
 {
     HandleRow grid =
-        handleRow("grid", number(Handle::ScaleUniform), kScaleGroup,
+        handleRow("grid", number(Handle::ScaleUniform), kScaleGroup, { Kind::Factor, kAllAxes },
                   { switching(HandleShape::ScaleTabXY, kLightYellow, YellowMaterial) });
     grid.visibleIn = kAllModes & ~modes(Mode::Rotate);
     HandleTable table;
@@ -85,14 +67,11 @@ HandleTable makeTable()
         scaleRow("ysShape", Handle::ScaleV, HandleShape::SolidScaleShaftY, HandleShape::ScaleTabY,
                  1),
         grid,
-        handleRow("rotateShape", number(Handle::Rotate), kRotateGroup,
+        handleRow("rotateShape", number(Handle::Rotate), kRotateGroup, { Kind::Angle, axisBit(2) },
                   { handlePart(HandleShape::SolidRing, BlueMaterial) }),
     };
     table.rows[0].letter = 'U';
     table.rows[1].letter = 'V';
-    for (HandleRow& row : table.rows) {
-        row.action = actionOf(static_cast<Handle>(row.handle));
-    }
     table.groups = { modes(Mode::Universal, Mode::Translate),
                      modes(Mode::Universal, Mode::Rotate, Mode::RotateScale),
                      modes(Mode::Universal, Mode::Scale, Mode::RotateScale) };
@@ -199,33 +178,24 @@ void UVGizmo::readValues()
     start.scale = osg::Vec2f(1.0F / repeat.x(), 1.0F / repeat.y());
 }
 
-ScreenScaling UVGizmo::axes() const
-{
-    return handle() == Handle::ScaleU ? ScreenScaling::U
-        : handle() == Handle::ScaleV  ? ScreenScaling::V
-                                      : ScreenScaling::Both;
-}
-
 DragStep UVGizmo::parametersAt(const View& view, const DragTrack& before) const
 {
     if (holdsPicture()) {
         return pictureStep(view, before);
     }
     DragTrack next = before;
+    const HandleAction action = armedAction();
     const osg::Vec2f from = dragStartPixel - anchorPixel;
     const osg::Vec2f to = view.pointerFromBelow() - anchorPixel;
-    if (handle() == Handle::Rotate) {
+    if (action.kind == Kind::Angle) {
         next.turned = turnOnScreen(from, to).value_or(static_cast<float>(before.turned));
         return { { Kind::Angle, next.turned }, next };
     }
-    if (handle() >= Handle::ScaleU) {
-        return { { Kind::Factor, pictureFactor(from, to, axes()) }, next };
+    if (action.kind == Kind::Factor) {
+        return { { Kind::Factor, pictureFactor(from, to, action.axis()) }, next };
     }
     const osg::Vec2f way = view.pointerFromBelow() - dragStartPixel;
-    osg::Vec3f motion(way.x(), way.y(), 0.0F);
-    if (handle() != Handle::TranslateUV) {
-        motion[handle() == Handle::TranslateU ? 1 : 0] = 0.0F;
-    }
+    const osg::Vec3f motion = masked(osg::Vec3f(way.x(), way.y(), 0.0F), action.axes);
     return { { Kind::Offset, motion * kOffsetPerPixel }, next };
 }
 
@@ -238,7 +208,8 @@ void UVGizmo::apply(const DragParameters& parameters)
         after.rotateDeg -= parameters.first();
         message.set("rotate", after.rotateDeg, true);
     } else if (parameters.kind == Kind::Factor) {
-        after.scale = scaledPicture(start.scale, parameters.first(), axes(), keepAspectRatio);
+        after.scale =
+            scaledPicture(start.scale, parameters.first(), armedAction().axis(), keepAspectRatio);
         message.set("scale", after.scale, true);
     } else {
         message.set("offset", start.offset + parameters.vec2(), true);

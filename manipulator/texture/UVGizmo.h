@@ -41,10 +41,6 @@ protected:
     void placeHandles(const View& view, const osg::Matrix& worldFromAnchor) override;
 
 private:
-    UVHandle handle() const { return static_cast<UVHandle>(getArmed()); }
-
-    /// Of a scale handle.
-    ScreenScaling axes() const;
     void readValues();
 
     UVPlacing start;

@@ -42,16 +42,6 @@ void straighten(osg::Matrix& frame, osg::UInt32 axis)
     }
 }
 
-/// Keeps the components along some axes.
-osg::Vec3f masked(const osg::Vec3f& delta, unsigned axes)
-{
-    osg::Vec3f result;
-    for (osg::UInt32 i = 0; i < 3; ++i) {
-        result[i] = hasAxis(axes, i) ? delta[i] : 0.0F;
-    }
-    return result;
-}
-
 /// The vector that the frame of a node's parent maps onto one of the world about which it is
 /// turned; a mirrored parent turns the other way.
 osg::Vec3f turnAxisAbove(const osg::NodePtr& node, osg::Vec3f axisWorld)

@@ -2,8 +2,11 @@
 // What drags of the planar gizmo compute, with numbers worked out by hand.
 #include "manipulator/texture/PlanarDrag.h"
 
+#include "manipulator/texture/PlanarHandles.h"
+
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace nbec::manipulator::texture::test {
@@ -35,6 +38,15 @@ Pnt3f at(float x, float y, float z = 0)
     return Pnt3f(10 - 2 * y, 2 * x, 2 * z);
 }
 
+ProjectionDrag beginDrag(const ProjectionFrame& frame, Active handle)
+{
+    const std::vector<HandleRow>& rows = planarHandleTable().rows;
+    const auto row = std::find_if(rows.begin(), rows.end(), [handle](const HandleRow& each) {
+        return each.handle == static_cast<int>(handle);
+    });
+    return texture::beginDrag(frame, *row, kSight);
+}
+
 ::testing::AssertionResult isNear(const Vec3f& found, const Vec3f& expected)
 {
     return found.equals(expected, 1e-4F) ? ::testing::AssertionSuccess()
@@ -48,15 +60,15 @@ TEST(PlanarDrag, AnglesAndFactorsRunInTheObjectsUnits)
     const Pnt3f from = at(1, 1, 0.5F);
     const Pnt3f to = at(3, -1, 2);
 
-    const ProjectionDrag ring = beginDrag(turnedFrame(), Active::Rotate, kSight);
-    const ProjectionDrag plain = beginDrag(ProjectionFrame(), Active::Rotate, kSight);
+    const ProjectionDrag ring = beginDrag(turnedFrame(), Active::Rotate);
+    const ProjectionDrag plain = beginDrag(ProjectionFrame(), Active::Rotate);
     EXPECT_EQ(angleBetween(plain, Pnt3f(0, 0, 1), Pnt3f(1, 0, 0)), std::nullopt);
     EXPECT_EQ(angleBetween(plain, Pnt3f(1, 0, 0), Pnt3f(0, 0, 1)), std::nullopt);
     EXPECT_NEAR(angleBetween(ring, at(3, 0), at(0, 2)).value(), kHalfPi, 1e-5F);
     EXPECT_NEAR(angleBetween(ring, at(1, 1), at(1, -1)).value(), -kHalfPi, 1e-5F);
 
     const auto factor = [](Active handle, const Pnt3f& first, const Pnt3f& second) {
-        return factorBetween(beginDrag(turnedFrame(), handle, kSight), first, second);
+        return factorBetween(beginDrag(turnedFrame(), handle), first, second);
     };
     EXPECT_NEAR(factor(Active::ScaleX, from, to), 3, 1e-5F);
     EXPECT_NEAR(factor(Active::ScaleY, at(0, 2), at(0, 3)), 1.5F, 1e-5F);
@@ -64,7 +76,7 @@ TEST(PlanarDrag, AnglesAndFactorsRunInTheObjectsUnits)
     // Past the centre nothing is mirrored. Deliberate: z does not accept 0.
     for (const Active handle : { Active::ScaleX, Active::ScaleY }) {
         EXPECT_FLOAT_EQ(factor(handle, at(1, 1, 1), at(-1, -1, -1)), 0.01F);
-        const ProjectionDrag unturned = beginDrag(ProjectionFrame(), handle, kSight);
+        const ProjectionDrag unturned = beginDrag(ProjectionFrame(), handle);
         EXPECT_EQ(factorBetween(unturned, Pnt3f(1, 1, 1), Pnt3f()), 0);
     }
     EXPECT_FLOAT_EQ(factor(Active::ScaleZ, at(1, 1, 1), at(0, 0, 0)), 0.01F);
@@ -86,7 +98,7 @@ TEST(PlanarDrag, AFactorScalesItsAxisOrAlsoTheOther)
     };
 
     for (const auto& [handle, keepsRatio, scale] : rows) {
-        const ProjectionDrag drag = beginDrag(turnedFrame(), handle, kSight);
+        const ProjectionDrag drag = beginDrag(turnedFrame(), handle);
         EXPECT_TRUE(isNear(scaledProjection(drag, 2, keepsRatio), scale));
     }
 }
@@ -119,7 +131,7 @@ TEST(PlanarDrag, TabsMoveOneEndOfASideAndTheCentreHalfAsFar)
 
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
-        const ProjectionDrag drag = beginDrag(turnedFrame(), row.handle, kSight);
+        const ProjectionDrag drag = beginDrag(turnedFrame(), row.handle);
         const Vec3f halfSizes = halfSizesBetween(
             drag, at(1, 1), at(1 + row.motion.x(), 1 + row.motion.y()), sights, row.keepsRatio);
         EXPECT_TRUE(isNear(halfSizes, row.halfSizes));
@@ -131,13 +143,12 @@ TEST(PlanarDrag, TabsMoveOneEndOfASideAndTheCentreHalfAsFar)
     ProjectionFrame flat = turnedFrame();
     flat.scale = Vec3f(0, 3, 0.5F);
     flat.extentPerScale = Vec3f(1, 2, 1);
-    const ProjectionDrag drag = beginDrag(flat, Active::ScaleLowerLeft, kSight);
+    const ProjectionDrag drag = beginDrag(flat, Active::ScaleLowerLeft);
     const Vec3f halfSizes = halfSizesBetween(drag, at(1, 1), at(3, -1), sights, true);
     EXPECT_TRUE(isNear(halfSizes, Vec3f(-1, 7, 0.5F)));
     EXPECT_TRUE(isNear(scaleOfHalfSizes(drag, halfSizes), Vec3f(1, 3.5F, 0.5F)));
     flat.projectionScale[0] = 0;
-    EXPECT_NEAR(factorBetween(beginDrag(flat, Active::ScaleUniform, kSight), at(0, 0), at(2, 0)), 3,
-                1e-5F);
+    EXPECT_NEAR(factorBetween(beginDrag(flat, Active::ScaleUniform), at(0, 0), at(2, 0)), 3, 1e-5F);
 }
 
 }  // namespace nbec::manipulator::texture::test
