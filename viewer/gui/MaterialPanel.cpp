@@ -5,8 +5,9 @@
 #include "viewer/gui/VectorEdit.h"
 #include "viewer/loading/PictureFile.h"
 #include "viewer/stage/Stage.h"
-#include "viewer/textures/BoxCoordinates.h"
 #include "viewer/textures/SurfaceMaterial.h"
+
+#include <nbMaterialEditor/nbBoxCoordinates.h>
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -329,7 +330,7 @@ void MaterialPanel::refresh()
     Panel::refresh();
     const QString hindrance = tool.hindrance();
     const QString name = value("texture.surface").toString();
-    const bool isOfBox = hasBoxCoordinates(geometryOf(tool.target().surface())) &&
+    const bool isOfBox = nbBoxCoordinates::lieOn(geometryOf(tool.target().surface())) &&
         tool.target().projectionType() == TextureTarget::Settings::UVProjection;
     setTextOf(
         hint,

@@ -12,12 +12,12 @@
 #include "viewer/stage/ObjectCommands.h"
 #include "viewer/stage/Stage.h"
 #include "viewer/texts/Text.h"
-#include "viewer/textures/BoxCoordinates.h"
 #include "viewer/textures/SurfaceMaterial.h"
 
 #include <nbKernel/nbScenegraph.h>
 #include <nbKernelServices/nbScopedUndo.h>
 #include <nbKernelServices/nbUndoService.h>
+#include <nbMaterialEditor/nbBoxCoordinates.h>
 #include <nbOpenSGExt/ClipPlane3D.h>
 #include <nbOpenSGSceneplate/Sceneplate.h>
 #include <nbOpenSGUtils/nbEdit.h>
@@ -255,7 +255,7 @@ private:
                            if (component.settings &&
                                component.settings->type ==
                                    osg::ColorComponentSettings::UVProjection) {
-                               layBoxCoordinates(geometryOf(node));
+                               nbBoxCoordinates::layOn(geometryOf(node));
                            }
                            return addComponent(material, component, at);
                        });

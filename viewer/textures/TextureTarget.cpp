@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/textures/TextureTarget.h"
 
-#include "viewer/textures/BoxCoordinates.h"
 #include "viewer/textures/SurfaceMaterial.h"
 
 #include <nbKernelServices/nbScopedUndo.h>
+#include <nbMaterialEditor/nbBoxCoordinates.h>
 #include <nbOpenSGExt/nbContainerId.h>
 
 #include <cmath>
@@ -171,7 +171,7 @@ bool TextureTarget::setCoverage(bool asMask, bool invert)
 bool TextureTarget::setProjectionType(Settings::TextureProjection type)
 {
     if (type == Settings::UVProjection) {
-        layBoxCoordinates(geometryOf(surface()));
+        nbBoxCoordinates::layOn(geometryOf(surface()));
     }
     return editor.setTextureProjectionType(type);
 }

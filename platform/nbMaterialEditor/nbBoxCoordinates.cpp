@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "viewer/textures/BoxCoordinates.h"
+#include "nbBoxCoordinates.h"
 
 #include <nbOpenSGUtils/nbEdit.h>
 
@@ -12,7 +12,6 @@
 #include <string_view>
 #include <vector>
 
-namespace viewer {
 namespace {
 
 constexpr const char* kName = "box coordinates";
@@ -145,7 +144,7 @@ private:
 
 }  // namespace
 
-void layBoxCoordinates(const osg::GeometryPtr& geometry)
+void nbBoxCoordinates::layOn(const osg::GeometryPtr& geometry)
 {
     if (geometry != osg::NullFC && geometry->getPositions() != osg::NullFC &&
         geometry->getTexCoords() == osg::NullFC) {
@@ -153,10 +152,8 @@ void layBoxCoordinates(const osg::GeometryPtr& geometry)
     }
 }
 
-bool hasBoxCoordinates(const osg::GeometryPtr& geometry)
+bool nbBoxCoordinates::lieOn(const osg::GeometryPtr& geometry)
 {
     const char* const name = geometry != osg::NullFC ? osg::getName(geometry) : nullptr;
     return name != nullptr && std::string_view(name) == kName;
 }
-
-}  // namespace viewer
