@@ -6,6 +6,7 @@
 #include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
+#include <OpenSG/OSGBlendChunk.h>
 #include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGNodePtr.h>
 #include <OpenSG/OSGSimpleMaterial.h>
@@ -21,6 +22,24 @@ namespace {
 osg::Color3f colorOf(const Rgb& rgb)
 {
     return { rgb[0], rgb[1], rgb[2] };
+}
+
+/// Less than this is nothing, and hides nothing behind it.
+constexpr float kLeastAlpha = 0.02F;
+
+bool isSeenThrough(const QImage& picture)
+{
+    if (!picture.hasAlphaChannel()) {
+        return false;
+    }
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (qAlpha(picture.pixel(x, y)) < 255) {
+                return true;
+            }
+        }
+    }
+    return false;
 }
 
 osg::MaterialPtr makeMaterial(const MaterialData& data)
@@ -40,6 +59,15 @@ osg::MaterialPtr makeMaterial(const MaterialData& data)
         texture->setImage(image);
         texture->setEnvMode(GL_MODULATE);
         material->addChunk(texture);
+        if (isSeenThrough(data.texture)) {
+            osg::BlendChunkPtr blend = osg::BlendChunk::create();
+            const nbEdit blendEdit(blend, osg::FieldBits::AllFields);
+            blend->setSrcFactor(GL_SRC_ALPHA);
+            blend->setDestFactor(GL_ONE_MINUS_SRC_ALPHA);
+            blend->setAlphaFunc(GL_GREATER);
+            blend->setAlphaValue(kLeastAlpha);
+            material->addChunk(blend);
+        }
     }
     return material;
 }
