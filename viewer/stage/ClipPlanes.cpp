@@ -2,7 +2,6 @@
 #include "viewer/stage/ClipPlanes.h"
 
 #include "viewer/loading/NodeChildren.h"
-#include "viewer/stage/Lines.h"
 #include "viewer/stage/Stage.h"
 #include "viewer/texts/Text.h"
 
@@ -14,6 +13,7 @@
 #include <nbOpenSGExt/Transform3D.h>
 #include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
+#include <nbView/nbSceneLines.h>
 
 #include <OpenSG/OSGBoxVolume.h>
 #include <OpenSG/OSGCoredNodePtr.h>
@@ -48,12 +48,13 @@ osg::Vec3f nearestAxis(const osg::Vec3f& direction)
 osg::NodePtr makeOutline(float edge)
 {
     const float half = 0.5F * edge;
-    const osg::GeometryPtr outline = makeLines(GL_LINE_LOOP, kOutlineColor, kOutlineWidthPx);
-    setCorners(outline,
-               { { -half, 0.0F, -half },
-                 { half, 0.0F, -half },
-                 { half, 0.0F, half },
-                 { -half, 0.0F, half } });
+    const osg::GeometryPtr outline =
+        nbSceneLines::makeGeometry(GL_LINE_LOOP, kOutlineColor, kOutlineWidthPx);
+    nbSceneLines::setCorners(outline,
+                             { { -half, 0.0F, -half },
+                               { half, 0.0F, -half },
+                               { half, 0.0F, half },
+                               { -half, 0.0F, half } });
     return osg::makeNodeFor(outline);
 }
 

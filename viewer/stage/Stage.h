@@ -6,7 +6,6 @@
 #include "viewer/loading/ModelData.h"
 #include "viewer/loading/ModelSources.h"
 #include "viewer/stage/GizmoController.h"
-#include "viewer/stage/Lines.h"
 #include "viewer/stage/PreselectionTool.h"
 
 #include <nbInteraction/CameraInteractionContext.h>
@@ -18,6 +17,7 @@
 #include <nbOpenSGSelection/nbSelection.h>
 #include <nbOpenSGUberCamera/nbCameraNavigation.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
+#include <nbView/nbSceneLines.h>
 
 #include <functional>
 #include <string>
@@ -263,9 +263,9 @@ private:
     std::function<void()> heldCallback;
     HeldCamera cameraContext;
     GizmoController gizmoController;
-    BoundsMarker selectionMarker;
-    BoundsMarker preselectionMarker;
-    GroundGrid grid;
+    nbBoundsMarker selectionMarker;
+    nbBoundsMarker preselectionMarker;
+    nbGroundGrid grid;
     bool gridShown = false;
     std::function<void()> changedCallback;
     Commands commandTable;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <nbUtils/nbPlatformExport.h>
+
 #include <OpenSG/OSGBoxVolume.h>
 #include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGNodePtr.h>
@@ -9,40 +11,40 @@
 #include <utility>
 #include <vector>
 
-namespace viewer {
-
-/// Lines of one colour that no light changes.
-/// @param mode  GL_LINES or GL_LINE_LOOP  @param widthPx  logical pixels
-osg::GeometryPtr makeLines(osg::UInt32 mode, const osg::Color3f& color, float widthPx);
-
-/// Sets their corners.
-void setCorners(const osg::GeometryPtr& lines, const std::vector<osg::Pnt3f>& corners);
-
-/// Lines of the world that belong to no object, two corners each, under the scene graph's internal
-/// root.
-class HelperLines
+/// Lines of the world that belong to no object, two corners each, under the internal root: drawn in
+/// every view of the scene, never picked.
+class NB_PLATFORM_API nbSceneLines
 {
 public:
-    HelperLines(const osg::Color3f& color, float widthPx);
-    HelperLines(const HelperLines&) = delete;
-    HelperLines& operator=(const HelperLines&) = delete;
+    /// @param color  red, green, blue, 0 .. 1, which no light changes  @param widthPx  logical
+    /// pixels
+    nbSceneLines(const osg::Color3f& color, float widthPx);
+    nbSceneLines(const nbSceneLines&) = delete;
+    nbSceneLines& operator=(const nbSceneLines&) = delete;
     /// Takes the lines out of the scene graph.
-    ~HelperLines();
+    ~nbSceneLines();
 
+    /// @param corners  world; none: hidden
     void set(const std::vector<osg::Pnt3f>& corners);
 
+    /// Geometry for such lines anywhere else. @param mode  GL_LINES or GL_LINE_LOOP
+    static osg::GeometryPtr makeGeometry(osg::UInt32 mode, const osg::Color3f& color,
+                                         float widthPx);
+    /// Sets the corners of such a geometry, in its space.
+    static void setCorners(const osg::GeometryPtr& lines, const std::vector<osg::Pnt3f>& corners);
+
 private:
-    osg::NodeRefPtr node;
+    osg::RefPtr<osg::NodePtr> node;
     osg::RefPtr<osg::GeometryPtr> lines;
 };
 
 /// Short lines at the corners of objects' bounding boxes, in one colour.
-class BoundsMarker
+class NB_PLATFORM_API nbBoundsMarker
 {
 public:
     /// @param color  red, green, blue, 0 .. 1
     /// @param widthPx  of the lines, logical pixels
-    BoundsMarker(const osg::Color3f& color, float widthPx)
+    nbBoundsMarker(const osg::Color3f& color, float widthPx)
         : lines(color, widthPx)
     { }
 
@@ -55,15 +57,15 @@ private:
     using Box = std::pair<osg::Pnt3f, osg::Pnt3f>;
 
     std::vector<Box> boxes;
-    HelperLines lines;
+    nbSceneLines lines;
 };
 
 /// A grid on the ground, the plane through the origin across the upward axis: cells of 1, 10, 0.1
 /// or another power of ten, as the scene is large.
-class GroundGrid
+class NB_PLATFORM_API nbGroundGrid
 {
 public:
-    GroundGrid();
+    nbGroundGrid();
 
     /// Lays the grid below a scene; edits the lines only if they are others than before.
     /// @param bounds  of the scene, world; empty: no grid
@@ -73,10 +75,8 @@ public:
     void hide();
 
 private:
-    HelperLines lines;
+    nbSceneLines lines;
     osg::Pnt3f middle;
     float cell = 0.0F;  ///< 0: hidden
     osg::UInt32 up = 1;
 };
-
-}  // namespace viewer

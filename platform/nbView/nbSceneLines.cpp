@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "viewer/stage/Lines.h"
-
-#include "viewer/loading/NodeChildren.h"
+#include "nbSceneLines.h"
 
 #include <nbKernel/nbScenegraph.h>
+#include <nbOpenSGExt/nbBoxCorners.h>
 #include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
@@ -12,7 +11,6 @@
 
 #include <cmath>
 
-namespace viewer {
 namespace {
 
 /// Part of a box's edge that is drawn at each of its ends.
@@ -22,24 +20,15 @@ constexpr float kCornerLength = 0.18F;
 /// the surface.
 constexpr float kMargin = 0.02F;
 
-constexpr osg::UInt32 kCorners = 8;
-
-/// Corner i of a box: bit 0, 1, 2 of i choose the far side in x, y, z.
-osg::Pnt3f cornerOf(const osg::Pnt3f& low, const osg::Pnt3f& high, osg::UInt32 i)
-{
-    return { (i & 1U) != 0 ? high[0] : low[0], (i & 2U) != 0 ? high[1] : low[1],
-             (i & 4U) != 0 ? high[2] : low[2] };
-}
-
 void addCornerLines(const osg::Pnt3f& low, const osg::Pnt3f& high,
                     std::vector<osg::Pnt3f>& positions)
 {
-    for (osg::UInt32 i = 0; i < kCorners; ++i) {
-        const osg::Pnt3f corner = cornerOf(low, high, i);
-        for (osg::UInt32 axis = 0; axis < 3; ++axis) {
-            const osg::Pnt3f other = cornerOf(low, high, i ^ (1U << axis));
-            positions.push_back(corner);
-            positions.push_back(corner + (other - corner) * kCornerLength);
+    const auto corners = nbBoxCorners(low, high);
+    for (std::size_t i = 0; i < corners.size(); ++i) {
+        for (std::size_t axis = 0; axis < 3; ++axis) {
+            const osg::Pnt3f& other = corners[i ^ (std::size_t(1) << axis)];
+            positions.push_back(corners[i]);
+            positions.push_back(corners[i] + (other - corners[i]) * kCornerLength);
         }
     }
 }
@@ -52,7 +41,8 @@ constexpr float kLeastCells = 3.0F;
 
 }  // namespace
 
-osg::GeometryPtr makeLines(osg::UInt32 mode, const osg::Color3f& color, float widthPx)
+osg::GeometryPtr nbSceneLines::makeGeometry(osg::UInt32 mode, const osg::Color3f& color,
+                                            float widthPx)
 {
     const osg::LineChunkPtr line = osg::LineChunk::create();
     const nbEdit lineEdit(line, osg::FieldBits::AllFields);
@@ -72,7 +62,7 @@ osg::GeometryPtr makeLines(osg::UInt32 mode, const osg::Color3f& color, float wi
     return lines;
 }
 
-void setCorners(const osg::GeometryPtr& lines, const std::vector<osg::Pnt3f>& corners)
+void nbSceneLines::setCorners(const osg::GeometryPtr& lines, const std::vector<osg::Pnt3f>& corners)
 {
     const osg::GeoPositions3fPtr positions = osg::GeoPositions3f::create();
     for (const osg::Pnt3f& corner : corners) {
@@ -85,23 +75,28 @@ void setCorners(const osg::GeometryPtr& lines, const std::vector<osg::Pnt3f>& co
     lines->setLengths(lengths);
 }
 
-HelperLines::HelperLines(const osg::Color3f& color, float widthPx)
+nbSceneLines::nbSceneLines(const osg::Color3f& color, float widthPx)
     : node(osg::Node::create())
-    , lines(makeLines(GL_LINES, color, widthPx))
+    , lines(makeGeometry(GL_LINES, color, widthPx))
 {
     const osg::NodePtr shown = node.get();
     const nbEdit edit(shown, osg::FieldBits::AllFields);
     shown->setCore(lines.get());
     shown->setActive(false);
-    addChild(nbScenegraph::getInternalRoot(), shown);
+    const osg::NodePtr root = nbScenegraph::getInternalRoot();
+    const nbEdit rootEdit(root, osg::Node::ChildrenFieldMask);
+    root->addChild(shown);
 }
 
-HelperLines::~HelperLines()
+nbSceneLines::~nbSceneLines()
 {
-    takeFromParent(node.get());
+    if (const osg::NodePtr root = node->getParent(); root != osg::NullFC) {
+        const nbEdit edit(root, osg::Node::ChildrenFieldMask);
+        root->subChild(node.get());
+    }
 }
 
-void HelperLines::set(const std::vector<osg::Pnt3f>& corners)
+void nbSceneLines::set(const std::vector<osg::Pnt3f>& corners)
 {
     setCorners(lines.get(), corners);
     const osg::NodePtr shown = node.get();
@@ -109,7 +104,7 @@ void HelperLines::set(const std::vector<osg::Pnt3f>& corners)
     shown->setActive(!corners.empty());
 }
 
-bool BoundsMarker::mark(const std::vector<osg::NodePtr>& objects)
+bool nbBoundsMarker::mark(const std::vector<osg::NodePtr>& objects)
 {
     std::vector<Box> current;
     for (const osg::NodePtr& object : objects) {
@@ -131,11 +126,11 @@ bool BoundsMarker::mark(const std::vector<osg::NodePtr>& objects)
     return true;
 }
 
-GroundGrid::GroundGrid()
+nbGroundGrid::nbGroundGrid()
     : lines(kGridColor, kGridWidthPx)
 { }
 
-void GroundGrid::hide()
+void nbGroundGrid::hide()
 {
     if (cell > 0.0F) {
         cell = 0.0F;
@@ -143,7 +138,7 @@ void GroundGrid::hide()
     }
 }
 
-void GroundGrid::lay(const osg::BoxVolume& bounds, osg::UInt32 upAxis)
+void nbGroundGrid::lay(const osg::BoxVolume& bounds, osg::UInt32 upAxis)
 {
     if (bounds.isEmpty()) {
         hide();
@@ -177,5 +172,3 @@ void GroundGrid::lay(const osg::BoxVolume& bounds, osg::UInt32 upAxis)
     }
     lines.set(corners);
 }
-
-}  // namespace viewer
