@@ -151,8 +151,7 @@ TEST_F(MaterialPanelTest, TheProjectionIsSwitchedTypedAndDraggedAroundAClickedPl
     EXPECT_FALSE(find<QAbstractButton>("texture-scale")->isEnabled());
     EXPECT_TRUE(find<QAbstractButton>("texture-rotateScale")->isEnabled());
 
-    const auto isPlacing = [this] {
-        return value("texture.place").toBool(); };
+    const auto isPlacing = [this] { return value("texture.place").toBool(); };
     find<QAbstractButton>("texture-place")->click();
     EXPECT_TRUE(isPlacing());
     pressKey(window.view(), Qt::Key_Escape);
