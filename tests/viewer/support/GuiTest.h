@@ -19,7 +19,7 @@ protected:
     template <class Condition>
     static void waitUntil(Condition condition)
     {
-        constexpr qint64 kPatienceMs = 60000;
+        constexpr qint64 kPatienceMs = 300000;  // sessions on a busy machine take minutes
         QElapsedTimer clock;
         clock.start();
         while (!condition()) {
