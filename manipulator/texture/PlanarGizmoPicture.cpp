@@ -3,8 +3,8 @@
 #include "manipulator/drag/DragGeometry.h"
 #include "manipulator/texture/PlanarGizmo.h"
 
-#include <algorithm>
 #include <cmath>
+#include <numeric>
 
 namespace nbec::manipulator::texture {
 
@@ -15,10 +15,9 @@ osg::Transform3DPtr PlanarGizmo::projection() const
     const osg::ColorComponentSettingsPtr material = component.getSettings();
     const osg::Transform3DPtr present =
         material != osg::NullFC ? material->getPlanarProjection() : osg::Transform3DPtr();
-    const bool isFinite = present != osg::NullFC &&
-        std::all_of(present->getMatrix().getValues(),
-                    present->getMatrix().getValues() + kMatrixElements,
-                    [](float value) { return std::isfinite(value); });
+    const float* const values = present != osg::NullFC ? present->getMatrix().getValues() : nullptr;
+    const bool isFinite =
+        values != nullptr && std::isfinite(std::accumulate(values, values + kMatrixElements, 0.0));
     return isFinite ? present : osg::Transform3DPtr();
 }
 
@@ -47,8 +46,13 @@ bool PlanarGizmo::isPictureAt(const SurfacePlace& place) const
     const auto isInside = [&](osg::UInt32 axis, Settings::PlanarProjectionFlag repeats) {
         return std::abs(inPicture[axis]) <= 1.0F || shown->hasPlanarProjectionFlag(repeats);
     };
+    osg::Vec3f from = column(present->getMatrix(), 2);
+    place.worldFromSurface.multMatrixVec(from);
+    const osg::Vec2f& angles = shown->getPlanarAngles();
+    const double most = std::fmin(angles.x() + angles.y(), 180.0F) / kDegPerRad;
     constexpr float kEndSlack = 0.001F;
-    return isInside(0, Settings::RepeatU) && isInside(1, Settings::RepeatV) &&
+    return unitVector(from).dot(place.normal) >= std::cos(most) - kEndSlack &&
+        isInside(0, Settings::RepeatU) && isInside(1, Settings::RepeatV) &&
         (!shown->hasPlanarProjectionFlag(Settings::ClampZ) ||
          std::abs(inPicture.z() + 0.5F) <= 0.5F + kEndSlack);
 }

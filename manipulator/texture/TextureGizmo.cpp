@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/texture/TextureGizmo.h"
 
-#include "manipulator/texture/TextureModes.h"
-
 #include <nbKernel/nbOSGWidget.h>
 
 #include <cmath>
@@ -59,11 +57,6 @@ Kind TextureGizmo::pictureKind() const
 const HandleRow* TextureGizmo::armedRow() const
 {
     return holdsPicture() ? &pictureRow : Gizmo::armedRow();
-}
-
-bool TextureGizmo::holdsPicture() const
-{
-    return getArmed() == kPictureHandle;
 }
 
 DragStep TextureGizmo::pictureStep(const View& view, const DragTrack& before) const

@@ -4,6 +4,7 @@
 #include "manipulator/course/Gizmo.h"
 #include "manipulator/texture/MaterialComponent.h"
 #include "manipulator/texture/PictureSurface.h"
+#include "manipulator/texture/TextureModes.h"
 
 #include <memory>
 
@@ -42,7 +43,8 @@ protected:
         return {};
     }
 
-    bool holdsPicture() const;
+    bool holdsPicture() const { return getArmed() == kPictureHandle; }
+
     /// A step of a drag of the picture: the texel goes with the pointer, or the picture turns as
     /// the pointer goes to the right, or grows as it goes to the right and up.
     DragStep pictureStep(const View& view, const DragTrack& before) const;

@@ -241,6 +241,22 @@ bool nbPicturePlacing::turn(int quarters)
         Settings::TriplanarProjection);
 }
 
+bool nbPicturePlacing::isBody() const
+{
+    constexpr float kLeastShare = 0.1F;
+    osg::Pnt3f middle;
+    nbNodeUtils::getOwnBounds(surface).getCenter(middle);
+    float outwards = 0.0F;
+    float whole = 0.0F;
+    for (const Triangle& each : triangles()) {
+        const osg::Vec3f area = each.area();
+        const osg::Vec3f way = each.places[0] - middle;
+        outwards += area.dot(way);
+        whole += area.length() * way.length();
+    }
+    return outwards > kLeastShare * whole;
+}
+
 // == Size
 
 bool nbPicturePlacing::flip(osg::UInt32 axis)

@@ -42,6 +42,11 @@ public:
     /// Turns by right angles, counter-clockwise, about the middle of the picture (planar, UV).
     bool turn(int quarters);
 
+    /// Whether the surface is that of a body, of which the front sides of triangles as they wind
+    /// look outwards: only then faces that turn away from a picture are told from those that do
+    /// not.
+    bool isBody() const;
+
     /// Mirrors the picture (planar, UV, triplanar). @param axis  0 across, 1 upwards
     bool flip(osg::UInt32 axis);
 

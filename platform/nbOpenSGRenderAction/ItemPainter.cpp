@@ -340,7 +340,7 @@ GlProgram* ItemPainter::prepareMaterial(const RenderItem& item, const DrawState&
             setTexture(*program);
         }
         if (shaders::hasPicture(features.pictures)) {
-            bindUberMaterial(gl, textures, *program, *state.uber, surfaceSpace);
+            bindUberMaterial(gl, textures, *program, *state.uber, surfaceSpace, view.viewFromWorld);
             boundPictures = true;
         }
     }

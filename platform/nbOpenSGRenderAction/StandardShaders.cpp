@@ -194,20 +194,23 @@ uniform vec3 viewUp;          // the world's up in view space
 uniform int leavesNoEffect;
 uniform int stipplePattern;   // 16 bits, lowest first
 uniform float stippleRepeat;  // device pixels per bit
+vec3 toEye()
+{
+    return orthographic != 0 ? vec3(0.0, 0.0, 1.0) : normalize(-viewPosition);
+}
 vec3 facingNormal()
 {
-    vec3 toEye = orthographic != 0 ? vec3(0.0, 0.0, 1.0) : normalize(-viewPosition);
     float size = length(viewNormal);
-    vec3 normal = size > 0.0 ? viewNormal / size : toEye;
-    float towardsEye = dot(normal, toEye);
+    vec3 normal = size > 0.0 ? viewNormal / size : toEye();
+    float towardsEye = dot(normal, toEye());
     if (towardsEye >= 0.0) {
         return normal;
     }
     // On a front side the shading normal points away only at a silhouette, where the surface is
     // flatter than it is shaded: there it is bent back to the edge, not turned to the other side.
     vec3 flatNormal = cross(dFdx(viewPosition), dFdy(viewPosition));
-    flatNormal = dot(flatNormal, toEye) < 0.0 ? -flatNormal : flatNormal;
-    return dot(normal, flatNormal) > 0.0 ? normalize(normal - towardsEye * toEye) : -normal;
+    flatNormal = dot(flatNormal, toEye()) < 0.0 ? -flatNormal : flatNormal;
+    return dot(normal, flatNormal) > 0.0 ? normalize(normal - towardsEye * toEye()) : -normal;
 }
 vec3 shade(vec3 normal, vec3 diffuse)
 {
@@ -215,11 +218,10 @@ vec3 shade(vec3 normal, vec3 diffuse)
     const vec3 kGround = vec3(0.20, 0.19, 0.18);
     const vec3 kKeyDirection = vec3(-0.2873, 0.4104, 0.8655);
     const float kKeyStrength = 0.68;
-    vec3 toEye = orthographic != 0 ? vec3(0.0, 0.0, 1.0) : normalize(-viewPosition);
     vec3 sky = mix(kGround, kSky, 0.5 + 0.5 * dot(normal, viewUp));
     float key = max(dot(normal, kKeyDirection), 0.0);
     float highlight = key > 0.0
-        ? pow(max(dot(normal, normalize(kKeyDirection + toEye)), 0.0), max(shininess, 1.0)) : 0.0;
+        ? pow(max(dot(normal, normalize(kKeyDirection + toEye())), 0.0), max(shininess, 1.0)) : 0.0;
     return emissionColor + ambientColor * sky + diffuse * (sky + kKeyStrength * key)
         + specularColor * (kKeyStrength * highlight);
 }

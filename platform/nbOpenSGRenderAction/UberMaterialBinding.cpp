@@ -36,6 +36,13 @@ constexpr std::array<Names, UberMaterialState::ComponentCount> kNames { {
       "pictureFlags[1]" },
 } };
 
+/// Whether a picture shows on some faces only, by where they look.
+bool hasAngles(const ProjectedPicture& picture)
+{
+    constexpr float kAllFaces = 3.1415F;
+    return picture.kind == Settings::PlanarProjection && picture.tiles.front().x() < kAllFaces;
+}
+
 GLint flagsOf(const ProjectedPicture& picture, const GpuTexture& texture)
 {
     const auto bit = [](bool on, shaders::PictureFlag flag) { return on ? int(flag) : 0; };
@@ -46,7 +53,8 @@ GLint flagsOf(const ProjectedPicture& picture, const GpuTexture& texture)
         bit(picture.clampZ, shaders::PictureClampsZ) |
         bit(picture.asMask && texture.hasColor, shaders::PictureByBrightness) |
         bit(picture.invert && (picture.asMask || texture.hasAlpha), shaders::PictureInverted) |
-        bit(texture.isPremultiplied, shaders::PicturePremultiplied);
+        bit(texture.isPremultiplied, shaders::PicturePremultiplied) |
+        bit(hasAngles(picture), shaders::PictureHasAngles);
 }
 
 GpuTexture bindPicture(Gl& gl, GpuTextures& textures, const ProjectedPicture& picture, GLuint unit)
@@ -73,8 +81,25 @@ osg::Matrix axisLengths(const osg::Matrix& worldFromSurface)
     return lengths;
 }
 
+void setTile(Gl& gl, GlProgram& program, const char* name, const osg::Vec4f& tile)
+{
+    program.set(gl, name, tile.x(), tile.y(), tile.z(), tile.w());
+}
+
+/// The direction that a planar picture comes from, in view space.
+osg::Vec4f directionOf(const ProjectedPicture& picture, const SurfaceSpace& space,
+                       const osg::Matrix& viewFromWorld)
+{
+    osg::Matrix viewFromPicture = viewFromWorld;
+    viewFromPicture.mult(space.worldFromSurface);
+    osg::Matrix surfaceFromPicture;
+    picture.pictureFromSurface.inverse(surfaceFromPicture);
+    viewFromPicture.mult(surfaceFromPicture);
+    return viewFromPicture[2];
+}
+
 void setPlacing(Gl& gl, GlProgram& program, const Names& names, const ProjectedPicture& picture,
-                const SurfaceSpace& space)
+                const SurfaceSpace& space, const osg::Matrix& viewFromWorld)
 {
     osg::Matrix pictureFromObject = picture.pictureFromSurface;
     if (picture.kind == Settings::TriplanarProjection) {
@@ -84,6 +109,10 @@ void setPlacing(Gl& gl, GlProgram& program, const Names& names, const ProjectedP
         pictureFromObject.mult(space.surfaceFromItem);
     }
     program.set(gl, names.matrix, pictureFromObject);
+    if (hasAngles(picture)) {
+        setTile(gl, program, names.tiles[0], picture.tiles[0]);
+        setTile(gl, program, names.tiles[1], directionOf(picture, space, viewFromWorld));
+    }
     if (picture.kind != Settings::TriplanarProjection && picture.kind != Settings::TireProjection) {
         return;
     }
@@ -92,8 +121,7 @@ void setPlacing(Gl& gl, GlProgram& program, const Names& names, const ProjectedP
                 normalMatrix(picture.kind == Settings::TireProjection ? space.surfaceFromItem
                                                                       : pictureFromObject));
     for (std::size_t i = 0; i < picture.tiles.size(); ++i) {
-        const osg::Vec4f& tile = picture.tiles[i];
-        program.set(gl, names.tiles[i], tile.x(), tile.y(), tile.z(), tile.w());
+        setTile(gl, program, names.tiles[i], picture.tiles[i]);
     }
 }
 
@@ -111,7 +139,8 @@ shaders::PictureKinds pictureKinds(const UberMaterialState& state, bool hasTexCo
 }
 
 void bindUberMaterial(Gl& gl, GpuTextures& textures, GlProgram& program,
-                      const UberMaterialState& state, const SurfaceSpace& space)
+                      const UberMaterialState& state, const SurfaceSpace& space,
+                      const osg::Matrix& viewFromWorld)
 {
     for (std::size_t component = 0; component < kNames.size(); ++component) {
         const ProjectedPicture& picture = state.pictures[component];
@@ -123,7 +152,7 @@ void bindUberMaterial(Gl& gl, GpuTextures& textures, GlProgram& program,
         const GpuTexture texture = bindPicture(gl, textures, picture, unit);
         program.set(gl, names.picture, static_cast<GLint>(unit));
         program.set(gl, names.flags, flagsOf(picture, texture));
-        setPlacing(gl, program, names, picture, space);
+        setPlacing(gl, program, names, picture, space, viewFromWorld);
     }
     gl.glActiveTexture(GL_TEXTURE0);
 }

@@ -16,8 +16,10 @@ shaders::PictureKinds pictureKinds(const UberMaterialState& state, bool hasTexCo
 /// shaders::uberMaterialFunctions() wants. Leaves texture unit 0 active.
 /// @param program  in use, for pictureKinds()
 /// @param space    of the projections
+/// @param viewFromWorld  4x4, column vectors
 void bindUberMaterial(Gl& gl, GpuTextures& textures, GlProgram& program,
-                      const UberMaterialState& state, const SurfaceSpace& space);
+                      const UberMaterialState& state, const SurfaceSpace& space,
+                      const osg::Matrix& viewFromWorld);
 
 /// Puts the texture units back that bindUberMaterial uses.
 void unbindUberMaterial(Gl& gl);

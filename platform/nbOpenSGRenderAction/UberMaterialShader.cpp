@@ -34,6 +34,17 @@ float insideRange(float value, float low, float high)
 {
     return insideEdge(min(value - low, high - value));
 }
+/// How far a surface looks to where a planar picture comes from, 0 .. 1.
+float facingPicture(int component)
+{
+    vec3 front = cross(dFdx(viewPosition), dFdy(viewPosition));
+    front = (dot(front, toEye()) > 0.0) == gl_FrontFacing ? front : -front;
+    vec3 normal = viewNormal == vec3(0.0) ? front : viewNormal;
+    float cosine = dot(normalize(normal), normalize(pictureTiles[3 * component + 1].xyz));
+    float angle = acos(clamp(dot(normal, front) < 0.0 ? -cosine : cosine, -1.0, 1.0));
+    vec2 angles = pictureTiles[3 * component].xy;
+    return clamp((angles.x - angle) / max(angles.y, 1e-3) + 1.0, 0.0, 1.0);
+}
 /// How far a place is inside of the component's picture, 0 .. 1.
 float insidePicture(int component, vec3 place)
 {
@@ -42,6 +53,7 @@ float insidePicture(int component, vec3 place)
         inside *= hasFlag(component, 2) ? 1.0 : insideRange(place.x, -1.0, 1.0);
         inside *= hasFlag(component, 4) ? 1.0 : insideRange(place.y, -1.0, 1.0);
         inside *= hasFlag(component, 8) ? insideRange(place.z, -1.001, 0.001) : 1.0;
+        inside *= hasFlag(component, 128) ? facingPicture(component) : 1.0;
     }
     return inside;
 }

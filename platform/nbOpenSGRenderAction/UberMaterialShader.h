@@ -20,10 +20,12 @@ constexpr bool hasPicture(const PictureKinds& kinds)
 /// Part of a fragment program: the function `vec4 withPictures(vec4 surface)` puts the pictures of
 /// an UberMaterial over a surface's colour and opacity.
 ///
-/// Wants the inputs objectPosition, objectNormal and texCoord, of which the last one is declared
-/// before; per component c with a picture the uniforms pictureFromObject[c] and pictureFlags[c]
-/// (bits of PictureFlag), for the triplanar and the tire projection pictureNormalFromObject[c] and
-/// pictureTiles[3 c .. 3 c + 2]; and the samplers diffusePicture and transparencyPicture.
+/// Wants the function toEye() and the inputs viewPosition, viewNormal and texCoord to be declared
+/// before, and the inputs objectPosition and objectNormal; per component c with a picture the
+/// uniforms pictureFromObject[c] and pictureFlags[c] (bits of PictureFlag), for the triplanar and
+/// the tire projection pictureNormalFromObject[c] and pictureTiles[3 c .. 3 c + 2], for the planar
+/// one with angles the first, these, and the second, the direction in view space that the picture
+/// comes from; and the samplers diffusePicture and transparencyPicture.
 /// @param kinds  what the program can show: drivers take long to compile what it does not
 std::string uberMaterialFunctions(const PictureKinds& kinds);
 
@@ -36,7 +38,8 @@ enum PictureFlag : int
     PictureClampsZ = 8,
     PictureByBrightness = 16,  ///< covers by brightness, otherwise by alpha
     PictureInverted = 32,
-    PicturePremultiplied = 64  ///< colours are times alpha
+    PicturePremultiplied = 64,  ///< colours are times alpha
+    PictureHasAngles = 128  ///< shows on some faces only
 };
 
 }  // namespace nbrender::shaders

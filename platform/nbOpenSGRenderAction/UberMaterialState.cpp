@@ -33,6 +33,8 @@ bool isUseful(const osg::ImagePtr& image, const osg::ColorComponentSettingsPtr& 
 
 using Settings = osg::ColorComponentSettings;
 
+constexpr float kRadiansPerDegree = 0.017453293F;
+
 /// A matrix of the first three columns and the last one.
 osg::Matrix matrixOf(const osg::Vec3f& x, const osg::Vec3f& y, const osg::Vec3f& z,
                      const osg::Vec3f& origin)
@@ -65,7 +67,9 @@ bool resolvePlanar(const osg::ColorComponentSettingsPtr& settings, ProjectedPict
     picture.repeatU = settings->hasPlanarProjectionFlag(Settings::RepeatU);
     picture.repeatV = settings->hasPlanarProjectionFlag(Settings::RepeatV);
     picture.clampZ = settings->hasPlanarProjectionFlag(Settings::ClampZ);
-    return true;
+    const osg::Vec2f angles = settings->getPlanarAngles() * kRadiansPerDegree;
+    picture.tiles.front() = osg::Vec4f(angles.x(), angles.y(), 0.0F, 0.0F);
+    return nbIsFinite(angles);
 }
 
 /// Offsets of the projections along x, y and z as vectors of the object's axes. Across its plane,
@@ -114,11 +118,10 @@ bool resolveTriplanar(const osg::ColorComponentSettingsPtr& settings, ProjectedP
 
 bool resolveUv(const osg::ColorComponentSettingsPtr& settings, ProjectedPicture& picture)
 {
-    constexpr double kRadiansPerDegree = 0.017453292519943295;
     constexpr float kHalf = 0.5F;
     const osg::Vec2f& offset = settings->getOffset();
     const osg::Vec2f& repeat = settings->getRepeat();
-    const double angle = settings->getRotate() * kRadiansPerDegree;
+    const double angle = double(settings->getRotate()) * kRadiansPerDegree;
     const auto cosine = static_cast<float>(std::cos(angle));
     const auto sine = static_cast<float>(std::sin(angle));
     // A picture that turns clockwise is looked up counter-clockwise.

@@ -30,7 +30,7 @@ struct ProjectedPicture
     osg::Matrix pictureFromSurface;
     /// Triplanar: scale and offset in the frame of u and v of the projections along x, y, z. Tire:
     /// the first one those of the turn around the axle, in whole ones from y to z, and of the place
-    /// along it.
+    /// along it. Planar: in the first one the angles of PlanarAngles, radians.
     std::array<osg::Vec4f, kTileCount> tiles;
     bool repeatU = false;
     bool repeatV = false;

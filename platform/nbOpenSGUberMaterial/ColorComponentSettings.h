@@ -33,6 +33,7 @@ NB_CONTAINER_POINTER(ColorComponentSettings, AttachmentContainerPtr);
     VALUE(TireScaleHeight, tireScaleHeight, Real32, 1.0F)                                           \
     VALUE(TireScaleRadius, tireScaleRadius, Real32, 1.0F)                                           \
     VALUE(TireAutoParameter, tireAutoParameter, bool, true)                                         \
+    VALUE(PlanarAngles, planarAngles, Vec2f, Vec2f(180.0F, 0.0F))                                    \
     VALUE(PlacingId, placingId, UInt32, 0)
 
 // clang-format on
@@ -44,7 +45,10 @@ NB_CONTAINER_POINTER(ColorComponentSettings, AttachmentContainerPtr);
 /// Planar: the projection lies in the object's space: world = node.toWorld *
 /// projection.getMatrix(). In its own frame the picture covers x and y from -1 to 1, its left lower
 /// corner at (-1, -1), and is projected along z through the whole object, onto surfaces of either
-/// side. With ClampZ it shows only where z is from -1 to 0, the Z extent.
+/// side. With ClampZ it shows only where z is from -1 to 0, the Z extent. PlanarAngles, in degrees:
+/// up to the first between the world's normal of the surface, on the front side of triangles as
+/// they wind, and the direction that the picture comes from (+z) it shows, and fades over the
+/// second. From 180 on it shows on all faces.
 ///
 /// Triplanar: three projections along the axes of a frame, which is that of the object, its axes of
 /// the world's unit length, turned by TriplanarRotation: radians about the object's own x, then y,

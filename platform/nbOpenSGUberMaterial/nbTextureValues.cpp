@@ -28,9 +28,10 @@ std::array<float, kTriplanarNumbers> triplanarOf(const nbTextureValues& v)
 
 auto othersOf(const nbTextureValues& v)
 {
-    return std::array { v.offset.x(), v.offset.y(),      v.repeat.x(),     v.repeat.y(),
-                        v.rotate,     v.tireCenter.x(),  v.tireCenter.y(), v.tireCenter.z(),
-                        v.tireScaleU, v.tireScaleHeight, v.tireScaleRadius };
+    return std::array { v.offset.x(),      v.offset.y(),      v.repeat.x(),      v.repeat.y(),
+                        v.rotate,          v.tireCenter.x(),  v.tireCenter.y(),  v.tireCenter.z(),
+                        v.tireScaleU,      v.tireScaleHeight, v.tireScaleRadius, v.planarAngles.x(),
+                        v.planarAngles.y() };
 }
 
 /// What must not be zero.
@@ -68,6 +69,7 @@ nbTextureValues nbTextureValues::of(const osg::ColorComponentSettings& settings)
     values.tireScaleHeight = settings.getTireScaleHeight();
     values.tireScaleRadius = settings.getTireScaleRadius();
     values.tireAutoParameter = settings.getTireAutoParameter();
+    values.planarAngles = settings.getPlanarAngles();
     return values;
 }
 
@@ -87,6 +89,7 @@ void nbTextureValues::applyTo(const osg::ColorComponentSettingsPtr& settings) co
     settings->setTireScaleHeight(tireScaleHeight);
     settings->setTireScaleRadius(tireScaleRadius);
     settings->setTireAutoParameter(tireAutoParameter);
+    settings->setPlanarAngles(planarAngles);
 }
 
 bool nbTextureValues::isSound() const

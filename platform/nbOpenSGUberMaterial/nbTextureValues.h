@@ -7,8 +7,8 @@
 #include <OpenSG/OSGBaseTypes.h>
 #include <OpenSG/OSGVector.h>
 
-/// The UV, triplanar and tire projection of a component as plain values, which
-/// ColorComponentSettings explains. A fresh one has the values of fresh settings.
+/// The UV, triplanar and tire projection of a component as plain values, and the angles of the
+/// planar one, which ColorComponentSettings explains. A fresh one has the values of fresh settings.
 struct NB_PLATFORM_API nbTextureValues
 {
     osg::Vec2f offset { 0.0F, 0.0F };
@@ -26,6 +26,8 @@ struct NB_PLATFORM_API nbTextureValues
     osg::Real32 tireScaleHeight = 1.0F;
     osg::Real32 tireScaleRadius = 1.0F;
     bool tireAutoParameter = true;
+
+    osg::Vec2f planarAngles { 180.0F, 0.0F };  ///< degrees
 
     static nbTextureValues of(const osg::ColorComponentSettings& settings);
 

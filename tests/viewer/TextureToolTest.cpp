@@ -87,6 +87,7 @@ TEST_F(TextureToolTest, WhatHasNoTextureCoordinatesGetsThoseOfABox)
 TEST_F(TextureToolTest, APictureIsShownAsAClickWouldPlaceItAndNothingIsEditedBefore)
 {
     ASSERT_TRUE(drop("Vase"));
+    EXPECT_EQ(value("texture.angles"), QJsonValue(QJsonArray { 75, 15 }));
     ASSERT_TRUE(run("texture.place", true));
     const osg::ColorComponentSettingsPtr settings = tool.target().settings();
     const auto shown = [&] { return nbTransformState::of(*settings->getShownProjection()); };
@@ -154,6 +155,7 @@ TEST_F(TextureToolTest, ASharedGeometryGetsThePictureOnOneOfItsObjectsAlone)
     stage.select(root->getChild(0));
     ASSERT_TRUE(run("texture.picture", kLabel));
 
+    EXPECT_EQ(value("texture.angles"), QJsonValue(QJsonArray { 180, 0 })) << "no body";
     EXPECT_NE(uberMaterialOf(first), osg::NullFC);
     EXPECT_EQ(uberMaterialOf(second), osg::NullFC);
     EXPECT_EQ(geometryOf(first)->getPositions(), geometryOf(second)->getPositions());
@@ -178,6 +180,7 @@ TEST_F(TextureToolTest, ValuesAreWhatWasTypedAndEachEditIsAStep)
             { "texture.endInDepth", false },
             { "texture.mask", true },
             { "texture.invert", true },
+            { "texture.angles", QJsonArray { 60, 20 } },
             { "texture.uvOffset", QJsonArray { 0.5, -1 } },
             { "texture.uvRepeat", QJsonArray { 2, -3 } },
             { "texture.uvRotate", 30 },

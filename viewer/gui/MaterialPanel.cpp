@@ -30,13 +30,9 @@ constexpr double kLeastScale = 1e-3;
 
 using Measure = nbValueExpression::Measure;
 
-/// What numbers are named by.
-enum class Naming
-{
-    Axes,
-    Picture,  ///< u and v
-    None  ///< one number
-};
+constexpr const char* kAxes = "X|Y|Z";
+constexpr const char* kPicture = "U|V";
+constexpr const char* kOne = nullptr;
 
 /// Numbers of a projection that a person can type, in the order in which rows name them.
 // NOLINTNEXTLINE(clang-analyzer-optin.performance.Padding)
@@ -45,7 +41,7 @@ struct ValueRow
     const char* projection;
     const char* command;
     const char* label;
-    Naming naming;
+    const char* names;  ///< of each; kOne: as the label
     double step;
     Measure measure = Measure::Number;
     double least = -kMostUnits;
@@ -53,44 +49,47 @@ struct ValueRow
 };
 
 constexpr ValueRow kValueRows[] = {
-    { "planar", "texture.translation", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Place"),
-      Naming::Axes, 0.05, Measure::Length },
-    { "planar", "texture.rotation", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Turn, °"),
-      Naming::Axes, 5.0, Measure::Angle },
-    { "planar", "texture.scale", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Half size"),
-      Naming::Axes, 0.05, Measure::Length, kLeastScale },
-    { "uv", "texture.uvOffset", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Offset"),
-      Naming::Picture, 0.05 },
-    { "uv", "texture.uvRotate", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Turn, °"), Naming::None,
+    { "planar", "texture.translation", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Place"), kAxes,
+      0.05, Measure::Length },
+    { "planar", "texture.rotation", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Turn, °"), kAxes,
       5.0, Measure::Angle },
-    { "uv", "texture.uvRepeat", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Repeat"),
-      Naming::Picture, 0.5 },
+    { "planar", "texture.scale", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Half size"), kAxes,
+      0.05, Measure::Length, kLeastScale },
+    { "planar", "texture.angles", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "On faces up to, °"),
+      QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Shown up to, °|Fading over, °"), 5.0,
+      Measure::Angle, 0.0 },
+    { "uv", "texture.uvOffset", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Offset"), kPicture,
+      0.05 },
+    { "uv", "texture.uvRotate", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Turn, °"), kOne, 5.0,
+      Measure::Angle },
+    { "uv", "texture.uvRepeat", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Repeat"), kPicture,
+      0.5 },
     { "triplanar", "texture.triplanarRotation",
-      QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Turn, °"), Naming::Axes, 5.0, Measure::Angle },
+      QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Turn, °"), kAxes, 5.0, Measure::Angle },
     { "triplanar", "texture.triplanarOffsetU",
-      QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Offset across"), Naming::Axes, 0.001,
-      Measure::Number, -kMostUnits, kFineDecimals },
+      QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Offset across"), kAxes, 0.001, Measure::Number,
+      -kMostUnits, kFineDecimals },
     { "triplanar", "texture.triplanarOffsetV",
-      QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Offset upwards"), Naming::Axes, 0.001,
-      Measure::Number, -kMostUnits, kFineDecimals },
+      QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Offset upwards"), kAxes, 0.001, Measure::Number,
+      -kMostUnits, kFineDecimals },
     { "triplanar", "texture.triplanarRepeatU",
-      QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Repeat across"), Naming::Axes, 5.0 },
+      QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Repeat across"), kAxes, 5.0 },
     { "triplanar", "texture.triplanarRepeatV",
-      QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Repeat upwards"), Naming::Axes, 5.0 },
+      QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Repeat upwards"), kAxes, 5.0 },
     { "planar", "texture.texelsPerUnit",
-      QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Pixels per unit"), Naming::None, 1.0,
-      Measure::Number, kLeastScale },
+      QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Pixels per unit"), kOne, 1.0, Measure::Number,
+      kLeastScale },
     { "triplanar", "texture.texelsPerUnit",
-      QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Pixels per unit"), Naming::None, 1.0,
-      Measure::Number, kLeastScale },
-    { "tire", "texture.tireCenter", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Centre"),
-      Naming::Axes, 0.05, Measure::Length },
+      QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Pixels per unit"), kOne, 1.0, Measure::Number,
+      kLeastScale },
+    { "tire", "texture.tireCenter", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Centre"), kAxes,
+      0.05, Measure::Length },
     { "tire", "texture.tireHeight", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Width of tread"),
-      Naming::None, 0.05, Measure::Length },
-    { "tire", "texture.tireRadius", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Radius"),
-      Naming::None, 0.05, Measure::Length },
-    { "tire", "texture.tireScaleU", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Part around"),
-      Naming::None, 0.05 },
+      kOne, 0.05, Measure::Length },
+    { "tire", "texture.tireRadius", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Radius"), kOne,
+      0.05, Measure::Length },
+    { "tire", "texture.tireScaleU", QT_TRANSLATE_NOOP("viewer::MaterialPanel", "Part around"), kOne,
+      0.05 },
 };
 
 /// A switch, of one projection or of every one.
@@ -294,9 +293,8 @@ void MaterialPanel::addValueRows(QBoxLayout& column, const char* word)
         }
         const NumberBox::Style style { row.step, row.least, kMostUnits, row.decimals, row.measure };
         const QString label = tr(row.label);
-        const QStringList names = row.naming == Naming::Axes ? QStringList { "X", "Y", "Z" }
-            : row.naming == Naming::Picture                  ? QStringList { "U", "V" }
-                                                             : QStringList { label };
+        const QStringList names =
+            row.names == kOne ? QStringList { label } : tr(row.names).split(QLatin1Char('|'));
         form->addRow(label, addNumbers(row.command, names, style));
     }
     addSwitches(*itsColumn, word);

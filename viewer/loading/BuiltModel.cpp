@@ -246,9 +246,7 @@ std::vector<osg::NodePtr> childObjects(const osg::NodePtr& object)
 
 osg::NodePtr copyOfObject(const osg::NodePtr& object)
 {
-    return osg::deepCloneTree(object,
-                              "GeoPTypes, GeoPLengths, GeoPositions, GeoNormals, GeoColors, "
-                              "GeoTexCoords, GeoIndices, Image");
+    return osg::deepCloneTree(object, kSharedByCopies);
 }
 
 osg::NodePtr findObject(const osg::NodePtr& root, const std::string& name)

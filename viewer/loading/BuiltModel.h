@@ -38,6 +38,10 @@ osg::NodePtr objectOf(const osg::NodePtr& node);
 /// and other nodes between them are passed through.
 std::vector<osg::NodePtr> childObjects(const osg::NodePtr& object);
 
+/// What copies share with their originals, for osg::deepClone: nobody edits it.
+constexpr const char* kSharedByCopies = "GeoPTypes, GeoPLengths, GeoPositions, GeoNormals, "
+                                        "GeoColors, GeoTexCoords, GeoIndices, Image";
+
 /// A copy of an object with all below it; has nothing in common with it that can be edited.
 osg::NodePtr copyOfObject(const osg::NodePtr& object);
 

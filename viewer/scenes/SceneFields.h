@@ -120,7 +120,8 @@ bool describe(Archive& archive, nbTextureValues& values)
         field("tireCenter", &Values::tireCenter) && field("tireScaleU", &Values::tireScaleU) &&
         field("tireHeight", &Values::tireScaleHeight) &&
         field("tireRadius", &Values::tireScaleRadius) &&
-        field("tireFit", &Values::tireAutoParameter);
+        field("tireFit", &Values::tireAutoParameter) &&
+        field("planarAngles", &Values::planarAngles);
 }
 
 template <class Archive>

@@ -27,16 +27,12 @@ osg::UInt32 longestAxis(const osg::Vec3f& vector, osg::UInt32 except)
     return longest;
 }
 
-osg::Vec3f unit(osg::UInt32 axis, float sign)
+/// Along an axis, to the side where another vector goes.
+osg::Vec3f unitTowards(osg::UInt32 axis, const osg::Vec3f& way)
 {
     osg::Vec3f vector;
-    vector[axis] = sign;
+    vector[axis] = way[axis] < 0.0F ? -1.0F : 1.0F;
     return vector;
-}
-
-float signOf(float value)
-{
-    return value < 0.0F ? -1.0F : 1.0F;
 }
 
 /// Rotation with the axes y and z, both of unit length and at right angles.
@@ -90,8 +86,8 @@ ProjectionPose poseOnFront(const osg::BoxVolume& bounds, const osg::Vec3f& toEye
     const osg::UInt32 depth = longestAxis(toEye, kNoAxis);
     const osg::UInt32 height = longestAxis(up, depth);
     const osg::UInt32 width = kNoAxis - depth - height;
-    const osg::Vec3f z = unit(depth, signOf(toEye[depth]));
-    const osg::Vec3f y = unit(height, signOf(up[height]));
+    const osg::Vec3f z = unitTowards(depth, toEye);
+    const osg::Vec3f y = unitTowards(height, up);
 
     ProjectionPose pose;
     const osg::Pnt3f centre = bounds.getMin() + size * 0.5F;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/textures/SurfaceMaterial.h"
 
+#include "viewer/loading/BuiltModel.h"
 #include "viewer/stage/ValueRecord.h"
 
 #include <nbKernelServices/nbScopedUndo.h>
@@ -43,23 +44,6 @@ void show(const osg::NodePtr& surface, const Shown& shown)
 {
     setMaterialOf(shown.first.get(), shown.second.get());
     setCoreOf(surface, shown.first.get());
-}
-
-/// A geometry core of its own for a node, with the arrays of the one that it shares with others.
-osg::GeometryPtr detachedGeometry(const osg::GeometryPtr& source)
-{
-    const osg::GeometryPtr geometry = osg::Geometry::create();
-    const nbEdit edit(geometry, osg::FieldBits::AllFields);
-    geometry->setTypes(source->getTypes());
-    geometry->setLengths(source->getLengths());
-    geometry->setPositions(source->getPositions());
-    geometry->setNormals(source->getNormals());
-    geometry->setColors(source->getColors());
-    geometry->setTexCoords(source->getTexCoords());
-    geometry->setIndices(source->getIndices());
-    *geometry->getMFIndexMapping() = *source->getMFIndexMapping();
-    geometry->setMaterial(source->getMaterial());
-    return geometry;
 }
 
 void copyLook(const osg::SimpleMaterialPtr& source, const osg::UberMaterialPtr& target)
@@ -143,7 +127,8 @@ osg::UberMaterialPtr makeUberMaterial(const osg::NodePtr& surface)
     osg::GeometryPtr geometry = geometryOf(surface);
     const osg::UberMaterialPtr material = makeLikeness(geometry->getMaterial());
     if (geometry->getParents().size() > 1) {
-        geometry = detachedGeometry(geometry);
+        geometry = osg::GeometryPtr::dcast(
+            osg::deepClone(geometry, std::string("Material, ") + kSharedByCopies));
         setCoreOf(surface, geometry);
     }
     setMaterialOf(geometry, material);

@@ -90,7 +90,8 @@ struct NumbersRow
     bool endsFitting = false;  ///< of the tire projection
 };
 
-constexpr std::array<NumbersRow, 12> kNumbers { {
+constexpr std::array<NumbersRow, 13> kNumbers { {
+    { "angles", 2, [](Values& v) { return v.planarAngles.getValues(); } },
     { "uvOffset", 2, [](Values& v) { return v.offset.getValues(); } },
     { "uvRepeat", 2, [](Values& v) { return v.repeat.getValues(); }, 1.0, true },
     { "uvRotate", 1, [](Values& v) { return &v.rotate; } },

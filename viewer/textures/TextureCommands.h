@@ -17,6 +17,7 @@ class TextureTool;
 /// - edit BOOL: gives the pointer to the tool or back; null: the other way round;
 /// - translation, rotation (degrees), scale [x, y, z] of the planar projection, in the object's
 ///   space;
+/// - angles [most, fading], degrees: on which faces it shows, see ColorComponentSettings;
 /// - keepAspect, repeatU, repeatV, endInDepth, mask, invert BOOL;
 /// - showProjection, showDepth BOOL and planeTransparency 0 .. 1: the projection in the scene;
 /// - projection "uv", "planar", "triplanar" or "tire";

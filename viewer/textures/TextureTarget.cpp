@@ -10,17 +10,17 @@
 #include <cmath>
 
 namespace viewer {
+namespace {
+
+/// Of a picture on a body, degrees: up to there and over that it fades.
+const osg::Vec2f kUsualAngles(75.0F, 15.0F);
+
+}  // namespace
 
 TextureTarget::TextureTarget(const std::string& receiverName, nbStateChunkBase& gui)
     : editor(receiverName)
     , observer(gui)
 { }
-
-bool TextureTarget::Connection::operator==(const Connection& other) const
-{
-    return objectId == other.objectId && materialId == other.materialId &&
-        projectionId == other.projectionId && component == other.component;
-}
 
 void TextureTarget::follow(const osg::NodePtr& object, const osg::NodePtr& part)
 {
@@ -30,8 +30,8 @@ void TextureTarget::follow(const osg::NodePtr& object, const osg::NodePtr& part)
 
 bool TextureTarget::connect()
 {
-    const Connection wanted { containerId(object()), containerId(material()),
-                              containerId(projection()), componentName };
+    const Connection wanted(containerId(object()), containerId(material()),
+                            containerId(projection()), componentName);
     if (wanted == connected) {
         return false;
     }
@@ -114,15 +114,20 @@ bool TextureTarget::setImage(const osg::ImagePtr& image, const ProjectionPose& p
         return false;
     }
     connect();
-    return !isFirst ||
-        (editor.setFlags(Settings::KeepAspectRatio | Settings::ClampZ) &&
-         editProjection([&pose](nbTransformState& state) {
-             state.translation = pose.translation;
-             state.rotationMode = osg::Transform3D::QuaternionMode;
-             state.rotationQuaternion = pose.rotation;
-             state.rotationOrientation = osg::Quaternion();
-             state.scale = pose.scale;
-         }));
+    if (!isFirst) {
+        return true;
+    }
+    nbTextureValues angles = values();
+    angles.planarAngles = placing().isBody() ? kUsualAngles : angles.planarAngles;
+    return editor.setTextureValues(angles) &&
+        editor.setFlags(Settings::KeepAspectRatio | Settings::ClampZ) &&
+        editProjection([&pose](nbTransformState& state) {
+               state.translation = pose.translation;
+               state.rotationMode = osg::Transform3D::QuaternionMode;
+               state.rotationQuaternion = pose.rotation;
+               state.rotationOrientation = osg::Quaternion();
+               state.scale = pose.scale;
+           });
 }
 
 bool TextureTarget::removeImage()

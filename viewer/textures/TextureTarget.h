@@ -10,6 +10,7 @@
 
 #include <functional>
 #include <string>
+#include <tuple>
 
 namespace viewer {
 
@@ -54,8 +55,9 @@ public:
 
     // == Edits
 
-    /// Puts a picture on the component. The first one gets a projection that ends in z and keeps
-    /// its aspect; the surface's material is made one for pictures before.
+    /// Puts a picture on the component. The first one gets a projection that ends in z, keeps its
+    /// aspect and, on a body, leaves out faces that turn away; the surface's material is made one
+    /// for pictures before.
     /// @param pose  of a new projection
     bool setImage(const osg::ImagePtr& image, const ProjectionPose& pose);
     bool removeImage();
@@ -88,16 +90,8 @@ public:
     bool setValues(const nbTextureValues& values);
 
 private:
-    /// What the editor works on, by ids.
-    struct Connection
-    {
-        osg::UInt32 objectId = 0;
-        osg::UInt32 materialId = 0;
-        osg::UInt32 projectionId = 0;
-        std::string component;
-
-        bool operator==(const Connection& other) const;
-    };
+    /// What the editor works on: ids of object, material and projection; the component.
+    using Connection = std::tuple<osg::UInt32, osg::UInt32, osg::UInt32, std::string>;
 
     nbMaterialEditor editor;
     nbStateChunkBase& observer;

@@ -1134,6 +1134,14 @@
         <source>&quot;%1&quot; has no texture coordinates of its own: it has those of a box</source>
         <translation>„%1“ hat keine eigenen Texturkoordinaten: es bekommt die eines Quaders</translation>
     </message>
+    <message>
+        <source>On faces up to, °</source>
+        <translation>Auf Flächen bis, °</translation>
+    </message>
+    <message>
+        <source>Shown up to, °|Fading over, °</source>
+        <translation>Gezeigt bis, °|Ausblendend über, °</translation>
+    </message>
 </context>
 <context>
     <name>viewer::NumberBox</name>

@@ -1134,6 +1134,14 @@
         <source>&quot;%1&quot; has no texture coordinates of its own: it has those of a box</source>
         <translation>« %1 » n&apos;a pas de coordonnées de texture propres : il a celles d&apos;une boîte</translation>
     </message>
+    <message>
+        <source>On faces up to, °</source>
+        <translation>Sur les faces jusqu’à, °</translation>
+    </message>
+    <message>
+        <source>Shown up to, °|Fading over, °</source>
+        <translation>Affichée jusqu’à, °|Fondu sur, °</translation>
+    </message>
 </context>
 <context>
     <name>viewer::NumberBox</name>

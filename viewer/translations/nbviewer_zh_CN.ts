@@ -1132,6 +1132,14 @@
         <source>&quot;%1&quot; has no texture coordinates of its own: it has those of a box</source>
         <translation>“%1”没有自己的纹理坐标：使用盒形坐标</translation>
     </message>
+    <message>
+        <source>On faces up to, °</source>
+        <translation>面的角度上限, °</translation>
+    </message>
+    <message>
+        <source>Shown up to, °|Fading over, °</source>
+        <translation>显示至, °|渐隐范围, °</translation>
+    </message>
 </context>
 <context>
     <name>viewer::NumberBox</name>
