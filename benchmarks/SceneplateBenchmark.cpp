@@ -71,7 +71,19 @@ const bool isAdded = [] {
 
 }  // namespace
 
-BENCHMARK_CAPTURE(dragStep, move, osg::Vec2f(0, 20))->Name("plates/move")->Arg(1)->Arg(100);
-BENCHMARK_CAPTURE(dragStep, turn, osg::Vec2f(0, -132))->Name("plates/turn")->Arg(1)->Arg(100);
-BENCHMARK_CAPTURE(dragStep, scale, osg::Vec2f(160, -100))->Name("plates/scale")->Arg(1)->Arg(100);
+BENCHMARK_CAPTURE(dragStep, move, osg::Vec2f(0, 20))
+    ->Name("plates/move")
+    ->Arg(1)
+    ->Arg(100)
+    ->Arg(2000);
+BENCHMARK_CAPTURE(dragStep, turn, osg::Vec2f(0, -132))
+    ->Name("plates/turn")
+    ->Arg(1)
+    ->Arg(100)
+    ->Arg(2000);
+BENCHMARK_CAPTURE(dragStep, scale, osg::Vec2f(160, -100))
+    ->Name("plates/scale")
+    ->Arg(1)
+    ->Arg(100)
+    ->Arg(2000);
 BENCHMARK(plainMove)->Name("plates/move, plainly")->Arg(1)->Arg(100);

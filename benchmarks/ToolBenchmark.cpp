@@ -15,9 +15,8 @@ using nbec::interaction::Picker;
 using nbec::modules::textureplacement::TexturePlacementPickTool;
 namespace bench = nbec::manipulator::bench;
 
-constexpr int kPlates = 100;
-
-/// Plates of 64 x 40 pixels in rows of ten.
+/// Plates of 64 x 40 pixels in ten rows of ten, in as many layers as it takes.
+template <int kPlates>
 struct PlateStage : bench::GizmoStage<nbSceneplatePickTool>
 {
     PlateStage()
@@ -28,7 +27,7 @@ struct PlateStage : bench::GizmoStage<nbSceneplatePickTool>
             const nbEdit edit(plate, osg::FieldBits::AllFields);
             plate->setSize(osg::Vec2f(0.08F, 0.05F));
             plate->setPosition(osg::Vec2f(static_cast<float>(i % 10) * 0.1F - 0.45F,
-                                          static_cast<float>(i / 10) * 0.1F - 0.45F));
+                                          static_cast<float>(i / 10 % 10) * 0.1F - 0.45F));
             nbScenegraph::getSceneplateRoot()->addChild(node);
         }
         nbOSGWidget::setInteractionMode(1);
@@ -90,9 +89,10 @@ const bool isAdded = [] {
         return benchmark::RegisterBenchmark(name, measure...);
     };
     add("plate tool/create and destroy", bench::createAndDestroy<nbSceneplatePickTool>);
-    add("plate tool/hover", eventsAlong<PlateStage>, false);
-    add("plate tool/step of a rectangle", eventsAlong<PlateStage>, true);
-    add("plate tool/hover, plainly", picksAlong<PlateStage>);
+    add("plate tool/hover", eventsAlong<PlateStage<100>>, false);
+    add("plate tool/hover/2000", eventsAlong<PlateStage<2000>>, false);
+    add("plate tool/step of a rectangle", eventsAlong<PlateStage<100>>, true);
+    add("plate tool/hover, plainly", picksAlong<PlateStage<100>>);
     add("placement tool/create and destroy", bench::createAndDestroy<TexturePlacementPickTool>);
     add("placement tool/step of a drag", eventsAlong<PlacementStage>, true);
     add("placement tool/step of a drag, plainly", picksAlong<PlacementStage>);
