@@ -38,7 +38,7 @@ endif()
 # == Headers. Of the library: the classes, the modes of their handles, and what a manipulator of one's own is made of (course, handles,
 # drag). What lies in a folder "detail" of the platform is not for users, nor are the parts of the renderer.
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/manipulator DESTINATION ${NBM_HEADERS} COMPONENT development
-        FILES_MATCHING REGEX "/manipulator/[^/]*\\.h$" REGEX "/manipulator/(course|drag|handles)/[^/]*\\.h$" REGEX "(Modes|MaterialComponent|PictureSurface|PlanarSettings|TextureGizmo)\\.h$"
+        FILES_MATCHING REGEX "/manipulator/[^/]*\\.h$" REGEX "/manipulator/(course|drag|handles)/[^/]*\\.h$" REGEX "(Modes|MaterialComponent|PictureSurface|TextureGizmo|AnchoredGizmo)\\.h$"
         PATTERN "scene" EXCLUDE PATTERN "match" EXCLUDE)
 install(FILES ${PROJECT_BINARY_DIR}/generated/manipulator/nbManipulatorExport.h DESTINATION ${NBM_HEADERS}/manipulator
         COMPONENT development)

@@ -6,8 +6,8 @@
 #include <memory>
 
 #include <manipulator/drag/DragGeometry.h>
-#include <manipulator/handles/HandleGroup.h>
 #include <manipulator/handles/HandleMaterials.h>
+#include <manipulator/handles/HandleNodes.h>
 
 using namespace nbec::manipulator;
 

@@ -2,12 +2,9 @@
 #pragma once
 
 #include "manipulator/TextureFace.h"
+#include "manipulator/texture/AnchoredGizmo.h"
 
 namespace nbec::manipulator {
-
-namespace texture {
-class AnchoredGizmo;
-}  // namespace texture
 
 /// A gizmo at an anchor point on a node that edits how the picture of one component of a material
 /// lies on the surface. Base of the triplanar, UV and tire gizmos; appends no virtual operations.
@@ -27,20 +24,40 @@ class NB_MANIPULATOR_API AnchoredTextureManipulator : public TextureFace<Abstrac
 {
 public:
     /// Also shows the handles if there is a material, and hides them if not.
-    void activate(ManipulatorInteractionContext* ctx) override;
+    void activate(ManipulatorInteractionContext* ctx) override
+    {
+        AbstractManipulator::activate(ctx);
+        if (getMaterial() != osg::NullFC) {
+            showActiveManipulator();
+            updateManipulator();
+        } else {
+            hideManipulator();
+        }
+    }
 
     /// @param node      held by its id; null: the position is one of the world
     /// @param position  in the node's coordinates
-    void setAnchor(const osg::NodePtr& node, const osg::Pnt3f& position);
+    void setAnchor(const osg::NodePtr& node, const osg::Pnt3f& position)
+    {
+        anchored().setAnchor(node, position);
+    }
+
     /// World position of the anchor as it was looked at last.
-    osg::Pnt3f getAnchorPosition() const;
+    osg::Pnt3f getAnchorPosition() const { return anchored().getAnchorPosition(); }
+
     /// The anchor's node; null if there is none or it no longer exists.
-    osg::NodePtr getAnchorNode() const;
+    osg::NodePtr getAnchorNode() const { return anchored().getAnchorNode(); }
 
 protected:
-    explicit AnchoredTextureManipulator(std::unique_ptr<texture::AnchoredGizmo> owned);
+    explicit AnchoredTextureManipulator(std::unique_ptr<texture::AnchoredGizmo> owned)
+        : TextureFace(std::move(owned))
+    { }
 
-    texture::AnchoredGizmo& course() const;
+private:
+    texture::AnchoredGizmo& anchored() const
+    {
+        return static_cast<texture::AnchoredGizmo&>(*gizmo);
+    }
 };
 
 }  // namespace nbec::manipulator

@@ -4,7 +4,6 @@
 #include "manipulator/ManipulatorInteractionContext.h"
 #include "manipulator/course/Gizmo.h"
 #include "manipulator/course/PickerOf.h"
-#include "manipulator/handles/HandleGroup.h"
 #include "manipulator/handles/HandleMaterials.h"
 #include "manipulator/handles/HandleNodes.h"
 

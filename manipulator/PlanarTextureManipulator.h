@@ -4,7 +4,6 @@
 #include "manipulator/NodeManipulator.h"
 #include "manipulator/TextureFace.h"
 #include "manipulator/course/Instances.h"
-#include "manipulator/texture/PlanarSettings.h"
 #include "manipulator/texture/TextureModes.h"
 
 namespace nbec::manipulator {
@@ -70,14 +69,14 @@ public:
     // == Settings; all off at the start but the two about Z
 
     /// Overridden by the material's flag whenever the gizmo prepares.
-    void setKeepAspectRatio(bool on) { settings().keepAspectRatio = on; }
+    void setKeepAspectRatio(bool on) { textureGizmo().keepAspectRatio = on; }
 
-    bool getKeepAspectRatio() const { return settings().keepAspectRatio; }
+    bool getKeepAspectRatio() const { return textureGizmo().keepAspectRatio; }
 
     /// Width by height of the picture, 1 at the start; overridden by the component's image.
-    void setAspectRatio(float ratio) { settings().aspectRatio = ratio; }
+    void setAspectRatio(float ratio) { textureGizmo().aspectRatio = ratio; }
 
-    float getAspectRatio() const { return settings().aspectRatio; }
+    float getAspectRatio() const { return textureGizmo().aspectRatio; }
 
     void setUseTextureScale(bool on) { settings().useTextureScale = on; }
 
@@ -87,7 +86,7 @@ public:
     osg::Vec2f getProjectionSize() const { return settings().projectionSize; }
 
     /// As TriplanarTextureManipulator::setRingsTilted().
-    void setRingsTilted(bool on) { settings().areRingsTilted = on; }
+    void setRingsTilted(bool on) { textureGizmo().areRingsTilted = on; }
 
     void setUseObjectScale(bool on) { settings().useObjectScale = on; }
 

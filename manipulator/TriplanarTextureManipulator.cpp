@@ -16,14 +16,4 @@ TriplanarTextureManipulator::~TriplanarTextureManipulator()
     instances.remove(this);
 }
 
-void TriplanarTextureManipulator::setRingsTilted(bool on)
-{
-    static_cast<texture::TriplanarGizmo&>(*gizmo).areRingsTilted = on;
-}
-
-bool TriplanarTextureManipulator::areRingsTilted() const
-{
-    return static_cast<const texture::TriplanarGizmo&>(*gizmo).areRingsTilted;
-}
-
 }  // namespace nbec::manipulator

@@ -57,8 +57,9 @@ public:
 
     /// Has drags of rings that are seen nearly edge-on follow the drawn ring, as those of the
     /// transform gizmo, see RingDrag, instead of the ring's own plane. Off at the start.
-    void setRingsTilted(bool on);
-    bool areRingsTilted() const;
+    void setRingsTilted(bool on) { textureGizmo().areRingsTilted = on; }
+
+    bool areRingsTilted() const { return textureGizmo().areRingsTilted; }
 
 private:
     void activateMode(ManipulatorMode mode) { gizmo->activateMode(static_cast<int>(mode)); }

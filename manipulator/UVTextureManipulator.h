@@ -66,11 +66,14 @@ public:
     ActiveMode getActiveMode() const { return static_cast<ActiveMode>(gizmo->getArmed()); }
 
     /// Has the scale handles of u and v scale both components. Off at the start.
-    void setKeepAspectRatio(bool on);
-    bool getKeepAspectRatio() const;
+    void setKeepAspectRatio(bool on) { textureGizmo().keepAspectRatio = on; }
+
+    bool getKeepAspectRatio() const { return textureGizmo().keepAspectRatio; }
+
     /// Width by height of the picture, 1 at the start.
-    void setAspectRatio(float ratio);
-    float getAspectRatio() const;
+    void setAspectRatio(float ratio) { textureGizmo().aspectRatio = ratio; }
+
+    float getAspectRatio() const { return textureGizmo().aspectRatio; }
 
 private:
     void activateMode(ManipulatorMode mode) { gizmo->activateMode(static_cast<int>(mode)); }

@@ -187,16 +187,10 @@ void nbPlanarProjectionVisualization::createGeo()
 
 void nbPlanarProjectionVisualization::attachToNode(osg::NodePtr node)
 {
-    const osg::TransformPtr core = osg::TransformPtr::dcast(objectTransformNode->getCore());
-    if (core == osg::NullFC) {
-        return;
+    if (osg::TransformPtr::dcast(objectTransformNode->getCore()) != osg::NullFC) {
+        setMatrix(objectTransformNode.get(),
+                  node != osg::NullFC ? node->getToWorld() : osg::Matrix::identity());
     }
-    osg::Matrix worldFromNode;
-    if (node != osg::NullFC) {
-        node->getToWorld(worldFromNode);
-    }
-    const nbEdit edit(core, osg::Transform::MatrixFieldMask);
-    core->setMatrix(worldFromNode);
 }
 
 void nbPlanarProjectionVisualization::updateProjectionTransform(

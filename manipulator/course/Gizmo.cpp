@@ -9,6 +9,7 @@
 #include <nbInteraction/Picker.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
+#include <map>
 #include <utility>
 
 #include <EditStamp.h>
@@ -312,12 +313,13 @@ void Gizmo::endDrag()
 
 void Gizmo::showText(bool isOfDrag)
 {
-    ValueText* const text = getText();
-    if (text == nullptr) {
+    static std::map<std::string, ValueText> texts;  // of all gizmos, by their notifiers
+    const char* const name = notifier();
+    if (name == nullptr) {
         return;
     }
     if (const std::optional<QString> said = isOfDrag ? describe() : QString()) {
-        text->show(*said);
+        texts.try_emplace(name, name).first->second.show(*said);
     }
 }
 

@@ -24,8 +24,6 @@ class Picker;
 
 namespace nbec::manipulator {
 
-class ValueText;
-
 /// In what the course of a gizmo differs from that of others.
 struct CourseRules
 {
@@ -187,8 +185,8 @@ protected:
     /// Text of the present values during a drag, empty for none; nothing: the shown one stays.
     virtual std::optional<QString> describe() const { return QString(); }
 
-    /// Where the text is shown; null for a gizmo without one.
-    virtual ValueText* getText() const { return nullptr; }
+    /// Name of the notifier that shows the text, see ValueText; null for a gizmo without one.
+    virtual const char* notifier() const { return nullptr; }
 
     // == For gizmos
 

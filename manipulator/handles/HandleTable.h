@@ -35,6 +35,15 @@ constexpr bool isInModes(int mode, HandleModes set)
 /// Place of the letter of an arrow, beyond its head.
 constexpr float kArrowTip = 1.4F;
 
+/// Families of handles that a table may have.
+enum HandleFamily : int
+{
+    NoFamily = -1,
+    Translation,
+    Rotation,
+    Scaling
+};
+
 /// Node that places what is below it.
 enum class HandleHolder
 {
@@ -78,7 +87,7 @@ struct HandleRow
 {
     const char* name;  ///< by which a pick tells the handle; null for a marker, which is never hit
     int handle;  ///< number, not 0; 0 for a marker
-    int family;  ///< from 0; -1 none
+    int family;  ///< from 0, such as a HandleFamily; -1 none
     std::vector<HandlePart> parts;
     HandleModes visibleIn = kAllModes;
     HandleHolder holder = HandleHolder::Component;  ///< None: the only part is the top

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/match/PerspectiveMatchVisualisation.h"
 
-#include "manipulator/handles/HandleGroup.h"
 #include "manipulator/handles/HandleMaterials.h"
+#include "manipulator/handles/HandleNodes.h"
 #include "manipulator/handles/HandleShapes.h"
 #include "manipulator/nbManipulatorMaterials.h"
 

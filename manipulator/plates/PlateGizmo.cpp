@@ -3,7 +3,7 @@
 
 #include "manipulator/course/ValueText.h"
 #include "manipulator/drag/DragGeometry.h"
-#include "manipulator/handles/HandleGroup.h"
+#include "manipulator/handles/HandleNodes.h"
 #include "manipulator/plates/PlateTable.h"
 
 #include <nbKernel/nbController.h>
@@ -34,13 +34,11 @@ constexpr float kHandleLayer = 2.0F;
 /// A guide on the view's edge is drawn this far inside, so that all of its width is seen.
 constexpr float kGuideInset = 1.0F;
 
-CourseRules courseRules()
-{
-    CourseRules rules;
-    rules.isPreparedAtStart = true;
-    rules.isHiddenWithoutTarget = true;
-    return rules;
-}
+constexpr CourseRules kRules = {
+    /*isPreparedAtStart*/ true, /*isHoverKept*/ false,
+    /*isGrabbedLit*/ true,      /*isEndedByDeactivation*/ true,
+    /*isPreviewPaused*/ false,  /*isHiddenWithoutTarget*/ true
+};
 
 // == The plane of the screen
 
@@ -98,7 +96,7 @@ std::optional<osg::Matrix> worldFromPixels(const View& view)
 }  // namespace
 
 PlateGizmo::PlateGizmo(const float& size)
-    : Gizmo(courseRules(), handleTable(), makeMaterials(), 0, size)
+    : Gizmo(kRules, handleTable(), makeMaterials(), 0, size)
 {
     nbNodeUtils::setIsAuxiliaryNode(handles.getRoot(), true);
     root = makeHandleRootOfPasses(handles.getRoot());
@@ -372,12 +370,6 @@ std::optional<QString> PlateGizmo::describe() const
                               { drag.change.scaleFactor * drag.change.sizeFactors.x() *
                                 drag.change.sizeFactors.y() });
     }
-}
-
-ValueText* PlateGizmo::getText() const
-{
-    static ValueText notifier("sceneplateInfo");
-    return &notifier;
 }
 
 }  // namespace nbec::manipulator::plates

@@ -60,7 +60,8 @@ protected:
     float placementNumber() const override { return unitPx(); }
 
     std::optional<QString> describe() const override;
-    ValueText* getText() const override;
+
+    const char* notifier() const override { return "sceneplateInfo"; }
 
 private:
     /// What a drag knows of its start, and how far it has come.

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/texture/AnchoredGizmo.h"
 
-#include "manipulator/drag/DragGeometry.h"
-
 #include <utility>
 
 namespace nbec::manipulator::texture {
@@ -36,22 +34,6 @@ void AnchoredGizmo::setComponent(const osg::MaterialPtr& material, const std::st
     } else {
         hide();
     }
-}
-
-void AnchoredGizmo::setAnchor(const osg::NodePtr& node, const osg::Pnt3f& position)
-{
-    anchorId = containerId(node);
-    anchorInNode = position;
-    anchorPosition = position;
-    if (node != osg::NullFC) {
-        followAnchor(node->getToWorld());
-    }
-    watch.forget();
-}
-
-void AnchoredGizmo::followAnchor(const osg::Matrix& worldFromAnchor)
-{
-    anchorPosition = mapped(worldFromAnchor, anchorInNode);
 }
 
 void AnchoredGizmo::showActive()

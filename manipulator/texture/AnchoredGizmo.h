@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "manipulator/drag/DragGeometry.h"
 #include "manipulator/texture/TextureGizmo.h"
 
 #include <OpenSG/OSGMatrix.h>
@@ -22,7 +23,13 @@ public:
 
     /// @param node      null: the position is one of the world
     /// @param position  in the node's coordinates
-    void setAnchor(const osg::NodePtr& node, const osg::Pnt3f& position);
+    void setAnchor(const osg::NodePtr& node, const osg::Pnt3f& position)
+    {
+        anchorId = containerId(node);
+        anchorInNode = position;
+        followAnchor(node != osg::NullFC ? node->getToWorld() : osg::Matrix::identity());
+        watch.forget();
+    }
 
     /// The node; null if there is none or it no longer exists.
     osg::NodePtr getAnchorNode() const { return resolveContainer<osg::NodePtr>(anchorId); }
@@ -56,7 +63,10 @@ protected:
     virtual void placeHandles(const View& view, const osg::Matrix& worldFromAnchor) = 0;
 
     /// Looks where the node has brought the anchor. @param worldFromAnchor  its world matrix
-    void followAnchor(const osg::Matrix& worldFromAnchor);
+    void followAnchor(const osg::Matrix& worldFromAnchor)
+    {
+        anchorPosition = mapped(worldFromAnchor, anchorInNode);
+    }
 
 private:
     osg::UInt32 anchorId = 0;

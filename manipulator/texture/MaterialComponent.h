@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <nbKernel/nbController.h>
 #include <nbOpenSGExt/nbContainerId.h>
 #include <nbOpenSGUberMaterial/ColorComponentSettings.h>
 #include <nbOpenSGUberMaterial/UberMaterial.h>
+#include <nbUtils/nbMessage.h>
 
 #include <OpenSG/OSGMaterial.h>
 
 #include <string>
 
-class nbMessage;
 class nbStateChunkBase;
 
 namespace nbec::manipulator::texture {
@@ -70,7 +71,10 @@ public:
     /// Sends a message to the host's editor, which may write replies into it. Afterwards nothing
     /// that was edited need exist any more (see Manipulator): it is looked up by its id again.
     /// @param suffix  follows the receiver's name directly, begins with "::"
-    void send(const char* suffix, nbMessage& message) const;
+    void send(const char* suffix, nbMessage& message) const
+    {
+        nbController::call((receiver + suffix).c_str(), message, 0);
+    }
 
 private:
     std::string receiver;

@@ -3,7 +3,6 @@
 
 #include "manipulator/course/ValueText.h"
 #include "manipulator/drag/DragGeometry.h"
-#include "manipulator/handles/HandleGroup.h"
 #include "manipulator/handles/HandleNodes.h"
 #include "manipulator/scene/TargetFrame.h"
 #include "manipulator/texture/PlanarHandles.h"
@@ -122,11 +121,11 @@ void PlanarGizmo::prepareManipulator(const osg::NodePtr& node)
     readProjection(node);
     const osg::ColorComponentSettingsPtr material = component.getSettings();
     if (material != osg::NullFC && material->getPlanarProjection() != osg::NullFC) {
-        settings.keepAspectRatio =
+        keepAspectRatio =
             material->hasPlanarProjectionFlag(osg::ColorComponentSettings::KeepAspectRatio);
         const osg::ImagePtr image = component.getUberMaterial()->getImage(component.getName());
         if (image != osg::NullFC && image->getHeight() > 0) {
-            settings.aspectRatio =
+            aspectRatio =
                 static_cast<float>(image->getWidth()) / static_cast<float>(image->getHeight());
         }
         askScaleValues();
@@ -232,7 +231,7 @@ void PlanarGizmo::choosePath(const View& view)
 {
     path = RingDrag::begin(osg::Pnt3f(column(drag.frame.worldFromAxes(), 3)),
                            drag.plane.getNormal(), grabbedPoint, view.getSight());
-    path.isWire = path.isWire && drag.action.kind == Kind::Angle && settings.areRingsTilted;
+    path.isWire = path.isWire && drag.action.kind == Kind::Angle && areRingsTilted;
 }
 
 void PlanarGizmo::updateManipulatorPlane()
@@ -267,8 +266,7 @@ DragStep PlanarGizmo::parametersAt(const View& view, const DragTrack& before) co
     }
     const osg::Pnt3f center(column(drag.frame.worldFromAxes(), 3));
     const Sights sights = { view.sightAt(center), view.sightAt(from), view.sightAt(*hit) };
-    return { { Kind::HalfSizes,
-               halfSizesBetween(drag, from, *hit, sights, settings.keepAspectRatio) },
+    return { { Kind::HalfSizes, halfSizesBetween(drag, from, *hit, sights, keepAspectRatio) },
              next };
 }
 
@@ -297,8 +295,7 @@ void PlanarGizmo::apply(const DragParameters& parameters)
             showZScaleValue(true);
             message.set("clamping", true, true);
         }
-        message.set("scale", scaledProjection(drag, parameters.first(), settings.keepAspectRatio),
-                    true);
+        message.set("scale", scaledProjection(drag, parameters.first(), keepAspectRatio), true);
         if (holdsPicture()) {
             setTranslationIn(message, pivot * (1.0F - parameters.first()));
         }
@@ -327,12 +324,6 @@ std::optional<QString> PlanarGizmo::describe() const
     const osg::NodePtr node = getNode();
     return node != osg::NullFC ? textOf(node, holdsPicture() ? HandleAction() : armedAction())
                                : QString();
-}
-
-ValueText* PlanarGizmo::getText() const
-{
-    static ValueText text("textureTransformInfo");
-    return &text;
 }
 
 // == Handles shown

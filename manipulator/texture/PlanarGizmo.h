@@ -2,7 +2,6 @@
 #pragma once
 
 #include "manipulator/texture/PlanarDrag.h"
-#include "manipulator/texture/PlanarSettings.h"
 #include "manipulator/texture/TextureGizmo.h"
 #include "manipulator/texture/TextureModes.h"
 
@@ -70,7 +69,8 @@ protected:
     float placementNumber() const override { return getSize(); }
 
     std::optional<QString> describe() const override;
-    ValueText* getText() const override;
+
+    const char* notifier() const override { return "textureTransformInfo"; }
 
 private:
     osg::NodePtr getNode() const { return resolveContainer<osg::NodePtr>(nodeId); }

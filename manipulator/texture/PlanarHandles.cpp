@@ -13,13 +13,6 @@ using Mode = PlanarManipulatorMode;
 
 constexpr std::size_t kAccent = OwnMaterial;
 
-enum Family : int
-{
-    Translation,
-    Rotation,
-    Scaling
-};
-
 constexpr std::array<HandleModes, 3> kVisibleIn = { modes(Mode::Universal, Mode::Translate),
                                                     modes(Mode::Universal, Mode::Rotate),
                                                     modes(Mode::Universal, Mode::Scale) };

@@ -24,6 +24,10 @@ public:
     MaterialComponent component;
     bool grabsPicture = false;
     bool pivotsAtHandles = false;
+    // Of gizmos whose faces set them
+    bool keepAspectRatio = false;
+    float aspectRatio = 1.0F;
+    bool areRingsTilted = false;
 
 protected:
     TextureGizmo(const CourseRules& courseRules, const HandleTable& table,

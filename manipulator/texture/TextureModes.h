@@ -2,6 +2,7 @@
 #pragma once
 
 #include <OpenSG/OSGBaseTypes.h>
+#include <OpenSG/OSGVector.h>
 
 // Of X11's headers.
 #pragma push_macro("None")
@@ -44,6 +45,18 @@ enum class PlanarManipulatorMode : osg::UInt32
     Translate = 1,  ///< arrows and plane handle
     Scale = 2,  ///< scale axes, edges, corners, grid
     Rotate = 3  ///< ring
+};
+
+/// Settings of one planar gizmo; see PlanarTextureManipulator.
+struct PlanarSettings
+{
+    bool useTextureScale = false;
+    bool useObjectScale = false;
+    bool useObjectTranslation = false;
+    bool applyRotationToTranslation = false;
+    // What the receiver answers
+    osg::Vec3f initialTextureScale { 1.0F, 1.0F, 1.0F };
+    osg::Vec2f projectionSize;
 };
 
 /// Which handles of the triplanar gizmo are shown.

@@ -3,7 +3,6 @@
 
 #include "manipulator/course/ValueText.h"
 #include "manipulator/drag/DragGeometry.h"
-#include "manipulator/handles/HandleGroup.h"
 #include "manipulator/handles/HandleNodes.h"
 #include "manipulator/texture/TextureDragMath.h"
 #include "manipulator/texture/TextureHandles.h"
@@ -75,24 +74,29 @@ const HandleTable& handleTable()
     return table;
 }
 
-/// What a handle changes: the attribute that is sent, and how the on-screen text begins.
-struct TireWords
+/// What a handle changes: the attribute that is sent, how the on-screen text begins, and the length
+/// as it is read; null of the centre.
+struct TireLength
 {
     const char* attribute;
     const char* title;
+    float TireValues::*value;
 };
 
-TireWords wordsOf(Handle handle)
+TireLength lengthOf(Handle handle)
 {
     switch (handle) {
     case Handle::ScaleHeight:
-        return { "ScaleHeight", QT_TRANSLATE_NOOP("nbForegroundTextContext", "Height (") };
+        return { "ScaleHeight", QT_TRANSLATE_NOOP("nbForegroundTextContext", "Height ("),
+                 &TireValues::height };
     case Handle::ScaleRadius:
-        return { "ScaleRadius", QT_TRANSLATE_NOOP("nbForegroundTextContext", "Radius (") };
+        return { "ScaleRadius", QT_TRANSLATE_NOOP("nbForegroundTextContext", "Radius ("),
+                 &TireValues::radius };
     case Handle::ScaleU:
-        return { "ScaleU", QT_TRANSLATE_NOOP("nbForegroundTextContext", "Scale (") };
+        return { "ScaleU", QT_TRANSLATE_NOOP("nbForegroundTextContext", "Scale ("),
+                 &TireValues::scaleU };
     default:
-        return { "center", QT_TRANSLATE_NOOP("nbForegroundTextContext", "Center (") };
+        return { "center", QT_TRANSLATE_NOOP("nbForegroundTextContext", "Center ("), nullptr };
     }
 }
 
@@ -256,16 +260,8 @@ DragStep TireGizmo::parametersAt(const View& view, const DragTrack& before) cons
 
 DragParameters TireGizmo::startParameters() const
 {
-    switch (handle()) {
-    case Handle::ScaleHeight:
-        return { Kind::Length, start.height };
-    case Handle::ScaleRadius:
-        return { Kind::Length, start.radius };
-    case Handle::ScaleU:
-        return { Kind::Length, start.scaleU };
-    default:
-        return Gizmo::startParameters();
-    }
+    const auto value = lengthOf(handle()).value;
+    return value != nullptr ? DragParameters(Kind::Length, start.*value) : Gizmo::startParameters();
 }
 
 void TireGizmo::apply(const DragParameters& parameters)
@@ -273,9 +269,9 @@ void TireGizmo::apply(const DragParameters& parameters)
     sent = parameters;
     nbMessage message;
     if (isShift()) {
-        message.set(wordsOf(handle()).attribute, sentCenter(), true);
+        message.set(lengthOf(handle()).attribute, sentCenter(), true);
     } else {
-        message.set(wordsOf(handle()).attribute, sent.first(), true);
+        message.set(lengthOf(handle()).attribute, sent.first(), true);
     }
     component.send(kChangedSuffix, message);
 }
@@ -305,15 +301,9 @@ void TireGizmo::finish()
 /// Of what was sent, whatever the receiver has made of it.
 std::optional<QString> TireGizmo::describe() const
 {
-    const char* const title = wordsOf(handle()).title;
+    const char* const title = lengthOf(handle()).title;
     return isShift() ? describeValues(title, sentCenter())
                      : describeValues(title, { sent.first() });
-}
-
-ValueText* TireGizmo::getText() const
-{
-    static ValueText text("tireTransformInfo");
-    return &text;
 }
 
 }  // namespace nbec::manipulator::texture

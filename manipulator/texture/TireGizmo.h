@@ -38,7 +38,8 @@ protected:
     void finish() override;
     void placeHandles(const View& view, const osg::Matrix& worldFromAnchor) override;
     std::optional<QString> describe() const override;
-    ValueText* getText() const override;
+
+    const char* notifier() const override { return "tireTransformInfo"; }
 
 private:
     TireHandle handle() const { return static_cast<TireHandle>(getArmed()); }

@@ -2,7 +2,6 @@
 #include "manipulator/texture/TriplanarGizmo.h"
 
 #include "manipulator/drag/DragGeometry.h"
-#include "manipulator/handles/HandleGroup.h"
 #include "manipulator/handles/HandleNodes.h"
 #include "manipulator/texture/TextureHandles.h"
 
@@ -20,9 +19,6 @@ using Mode = TriplanarMode;
 using Handle = TriplanarHandle;
 using Kind = DragParameters::Kind;
 
-constexpr int kTranslateGroup = 0;
-constexpr int kRotateGroup = 1;
-constexpr int kScaleGroup = 2;
 constexpr float kHandleEnd = 2.5F;
 constexpr float kUnitsPerOffset = 100.0F;
 constexpr const char* kChangedSuffix = "::changedTriplanarManipulator";
@@ -49,7 +45,7 @@ HandleRow scaleHandle(const char* name, Handle handle, std::size_t axis)
     HandlePart box =
         handlePart(HandleShape::Cube, LightRedMaterial + axis, HandleHolder::Euler, end);
     box.colors.special = axis;
-    HandleRow row = handleRow(name, number(handle), kScaleGroup, { Kind::Factor, axisBit(axis) },
+    HandleRow row = handleRow(name, number(handle), Scaling, { Kind::Factor, axisBit(axis) },
                               { handlePart(HandleShape::LongScaleShaft, RedLineMaterial + axis,
                                            HandleHolder::Euler, middle, kTurns[axis]),
                                 box });
@@ -61,7 +57,7 @@ HandleRow scaleHandle(const char* name, Handle handle, std::size_t axis)
 HandleRow ringRow(const char* name, Handle handle, std::size_t axis)
 {
     constexpr std::array<Turn, 3> kTurns = { Turn::ZOntoX, Turn::OntoZ, Turn::None };
-    HandleRow row = handleRow(name, number(handle), kRotateGroup, { Kind::Angle, axisBit(axis) },
+    HandleRow row = handleRow(name, number(handle), Rotation, { Kind::Angle, axisBit(axis) },
                               { handlePart(HandleShape::SolidBigRing, axis) });
     row.turn = kTurns[axis];
     return row;
@@ -71,9 +67,9 @@ HandleTable makeTable()
 {
     HandleTable table;
     table.rows = {
-        axisArrow("xaShape", number(Handle::TranslateX), kTranslateGroup, 0),
-        axisArrow("yaShape", number(Handle::TranslateY), kTranslateGroup, 1),
-        axisArrow("zaShape", number(Handle::TranslateZ), kTranslateGroup, 2),
+        axisArrow("xaShape", number(Handle::TranslateX), Translation, 0),
+        axisArrow("yaShape", number(Handle::TranslateY), Translation, 1),
+        axisArrow("zaShape", number(Handle::TranslateZ), Translation, 2),
         uniformScale(),
         scaleHandle("xsShape", Handle::ScaleX, 0),
         scaleHandle("ysShape", Handle::ScaleY, 1),

@@ -25,8 +25,6 @@ public:
     /// Mode Initial leaves the handles as they are.
     void showActive() override;
 
-    bool areRingsTilted = false;
-
 protected:
     bool isPictureAt(const SurfacePlace& /*place*/) const override { return true; }
 

@@ -2,7 +2,6 @@
 #include "manipulator/texture/UVGizmo.h"
 
 #include "manipulator/drag/DragGeometry.h"
-#include "manipulator/handles/HandleGroup.h"
 #include "manipulator/handles/HandleNodes.h"
 #include "manipulator/texture/TextureHandles.h"
 
@@ -20,9 +19,6 @@ using Mode = UVMode;
 using Handle = UVHandle;
 using Kind = DragParameters::Kind;
 
-constexpr int kTranslateGroup = 0;
-constexpr int kRotateGroup = 1;
-constexpr int kScaleGroup = 2;
 constexpr std::size_t kLightYellow = OwnMaterial;
 constexpr float kOrthographicRootScale = 1.25F;
 /// With these the handles are as large as a triplanar gizmo's: 20.16 = 672 * 0.03, 25 = 20 * 1.25.
@@ -42,7 +38,7 @@ HandlePart switching(HandleShape shape, std::size_t idle, std::size_t special)
 HandleRow scaleRow(const char* name, Handle handle, HandleShape shaft, HandleShape tab,
                    std::size_t axis)
 {
-    HandleRow row = handleRow(name, number(handle), kScaleGroup, { Kind::Factor, axisBit(axis) },
+    HandleRow row = handleRow(name, number(handle), Scaling, { Kind::Factor, axisBit(axis) },
                               { switching(shaft, LightRedMaterial + axis, axis),
                                 switching(tab, LightRedMaterial + axis, axis) });
     row.litWith = number(Handle::ScaleUniform);
@@ -52,22 +48,22 @@ HandleRow scaleRow(const char* name, Handle handle, HandleShape shaft, HandleSha
 HandleTable makeTable()
 {
     HandleRow grid =
-        handleRow("grid", number(Handle::ScaleUniform), kScaleGroup, { Kind::Factor, kAllAxes },
+        handleRow("grid", number(Handle::ScaleUniform), Scaling, { Kind::Factor, kAllAxes },
                   { switching(HandleShape::ScaleTabXY, kLightYellow, YellowMaterial) });
     grid.visibleIn = kAllModes & ~modes(Mode::Rotate);
     HandleTable table;
     table.rows = {
-        solidArrow("xaShape", number(Handle::TranslateU), kTranslateGroup, RedMaterial,
+        solidArrow("xaShape", number(Handle::TranslateU), Translation, RedMaterial,
                    { 1.0F, 0.0F, 0.0F }, Turn::OntoX),
-        solidArrow("yaShape", number(Handle::TranslateV), kTranslateGroup, GreenMaterial,
+        solidArrow("yaShape", number(Handle::TranslateV), Translation, GreenMaterial,
                    { 0.0F, 1.0F, 0.0F }, Turn::None),
-        solidSquare("xyaShape", number(Handle::TranslateUV), kTranslateGroup, YellowMaterial),
+        solidSquare("xyaShape", number(Handle::TranslateUV), Translation, YellowMaterial),
         scaleRow("xsShape", Handle::ScaleU, HandleShape::SolidScaleShaftX, HandleShape::ScaleTabX,
                  0),
         scaleRow("ysShape", Handle::ScaleV, HandleShape::SolidScaleShaftY, HandleShape::ScaleTabY,
                  1),
         grid,
-        handleRow("rotateShape", number(Handle::Rotate), kRotateGroup, { Kind::Angle, axisBit(2) },
+        handleRow("rotateShape", number(Handle::Rotate), Rotation, { Kind::Angle, axisBit(2) },
                   { handlePart(HandleShape::SolidRing, BlueMaterial) }),
     };
     table.rows[0].letter = 'U';

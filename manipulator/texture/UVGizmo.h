@@ -21,9 +21,6 @@ public:
         return std::make_unique<UVGizmo>(*this);
     }
 
-    bool keepAspectRatio = false;
-    float aspectRatio = 1.0F;
-
 protected:
     /// Without the material, too.
     bool canStep(const View& view) override { return view.exists(); }

@@ -111,7 +111,7 @@ osg::Matrix scaleFrame(const GrabbedGizmo& grabbed, const osg::Pnt3f& start, con
     return frame;
 }
 
-/// Chooses the plane, and for a ring its frame.
+/// Chooses the path, and for a ring its frame.
 void updateManipulatorPlane(TransformDrag& drag, const osg::NodePtr& node,
                             const GrabbedGizmo& grabbed, const View& view)
 {
@@ -119,19 +119,19 @@ void updateManipulatorPlane(TransformDrag& drag, const osg::NodePtr& node,
     const osg::UInt32 axis = grabbed.action.axis();
     const osg::UInt32 normalAxis = grabbed.action.planeNormal();
     if (grabbed.action.kind == Kind::Angle) {
-        drag.ring = RingDrag::begin(center, column(grabbed.frame, axis), grabbed.grabbedPoint,
+        drag.path = RingDrag::begin(center, column(grabbed.frame, axis), grabbed.grabbedPoint,
                                     view.getSight());
-        drag.inverseDragFrame = inverted(drag.ring.frame(axis));
+        drag.inverseDragFrame = inverted(drag.path.frame(axis));
     } else if (normalAxis != kNoAxis) {
-        drag.plane =
-            osg::Plane(unitVector(movementAxis(node, grabbed, (normalAxis + 1) % 3)
-                                      .cross(movementAxis(node, grabbed, (normalAxis + 2) % 3))),
-                       center);
+        drag.path = RingDrag::flat(
+            unitVector(movementAxis(node, grabbed, (normalAxis + 1) % 3)
+                           .cross(movementAxis(node, grabbed, (normalAxis + 2) % 3))),
+            center);
     } else if (axis != kNoAxis) {
-        drag.plane = osg::Plane(
+        drag.path = RingDrag::flat(
             axisPlaneNormal(movementAxis(node, grabbed, axis), view.sightAt(center)), center);
     } else {
-        drag.plane = osg::Plane(view.sightAt(grabbed.grabbedPoint), grabbed.grabbedPoint);
+        drag.path = RingDrag::flat(view.sightAt(grabbed.grabbedPoint), grabbed.grabbedPoint);
     }
 }
 
@@ -187,15 +187,14 @@ TransformDrag prepareManipulator(const osg::NodePtr& node, const GrabbedGizmo& g
     updateManipulatorPlane(drag, node, grabbed, view);
     drag.starts.push_back(captureStart(node, grabbed));
 
-    drag.dragStartWorld = grabbed.grabbedPoint;
     const std::optional<osg::Line> ray = view.pointerRay();
-    if (isRing) {
-        drag.dragStartWorld = drag.ring.follow(ray, track).value_or(grabbed.grabbedPoint);
-    } else if (ray && !intersectPlane(drag.plane, *ray, drag.dragStartWorld)) {
+    std::optional<osg::Pnt3f> met = drag.path.follow(ray, track);
+    if (!met && !isRing) {
         // The handle was hit this side of the plane's horizon, the plane is met beyond it.
-        drag.plane = osg::Plane(drag.plane.getNormal(), grabbed.grabbedPoint);
-        intersectPlane(drag.plane, *ray, drag.dragStartWorld);
+        drag.path.center = grabbed.grabbedPoint;
+        met = drag.path.follow(ray, track);
     }
+    drag.dragStartWorld = met.value_or(grabbed.grabbedPoint);
     if (!isRing) {
         drag.inverseDragFrame = inverted(translationFrame(node, drag.starts[0], grabbed.action));
     }

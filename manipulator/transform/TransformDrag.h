@@ -61,8 +61,7 @@ struct TransformDrag
 {
     HandleAction action;
     float unit = 1.0F;  ///< world units of the handles' unit frame
-    osg::Plane plane;  ///< in which the pointer's ray is intersected, world; not of a ring
-    RingDrag ring;  ///< the grabbed one
+    RingDrag path;  ///< the grabbed ring, or the plane in which the pointer is followed
     osg::Matrix inverseDragFrame;  ///< world to the frame of translate and rotate
     osg::Matrix inverseScaleFrame;  ///< world to the frame of scale
     osg::Quaternion axes;  ///< along which offsets are counted outside local space

@@ -3,7 +3,6 @@
 
 #include "manipulator/course/ValueText.h"
 #include "manipulator/drag/DragGeometry.h"
-#include "manipulator/handles/HandleGroup.h"
 #include "manipulator/handles/HandleNodes.h"
 #include "manipulator/scene/TargetFrame.h"
 #include "manipulator/transform/TransformHandles.h"
@@ -237,14 +236,11 @@ DragStep TransformGizmo::parametersAt(const View& view, const DragTrack& before)
         return { { Kind::Offset, offsetBetween(drag, drag.center, next.target->point, isLocal()) },
                  next };
     }
-    const std::optional<osg::Line> ray = view.pointerRay();
-    const bool isRing = drag.action.kind == Kind::Angle;
-    const std::optional<osg::Pnt3f> point =
-        isRing ? drag.ring.follow(ray, next) : followPlane(drag.plane, ray, next);
+    const std::optional<osg::Pnt3f> point = drag.path.follow(view.pointerRay(), next);
     if (!point) {
         return DragStep();
     }
-    if (isRing) {
+    if (drag.action.kind == Kind::Angle) {
         return turnAt(*point, next);
     }
     if (drag.action.kind == Kind::Turns) {
@@ -428,12 +424,6 @@ std::optional<QString> TransformGizmo::describe() const
     return descriptionEnabled
         ? targets.describe(drag.action, shownMode(), !isLocal(), toDegrees(turned.front()))
         : QString();
-}
-
-ValueText* TransformGizmo::getText() const
-{
-    static ValueText notifier("transformInfo");
-    return &notifier;
 }
 
 }  // namespace nbec::manipulator::transform

@@ -62,7 +62,8 @@ protected:
     bool isDisplaced(const View& view) const override;
     DragParameters becomes(const DragParameters& parameters) const override;
     std::optional<QString> describe() const override;
-    ValueText* getText() const override;
+
+    const char* notifier() const override { return "transformInfo"; }
 
 private:
     ManipulatorMode shownMode() const { return static_cast<ManipulatorMode>(getMode()); }

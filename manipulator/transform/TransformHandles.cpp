@@ -44,14 +44,6 @@ constexpr HandleModes kWithFreeRotation = kWithRotation & ~modes(Mode::RotatePiv
 constexpr HandleModes kWithScale = modes(Mode::Universal, Mode::Scale, Mode::TranslateRotateScale);
 constexpr HandleModes kWithUniformScale = modes(Mode::Universal, Mode::Scale);
 
-enum Family : int
-{
-    NoFamily = -1,
-    Translation,
-    Rotation,
-    Scaling
-};
-
 HandlePart solid(HandleShape shape, std::size_t color)
 {
     return { shape, { color, Orange, color } };
@@ -65,9 +57,9 @@ HandlePart line(HandleShape shape, std::size_t color)
 HandleRow row(const char* name, Active handle, const HandleAction& action,
               std::vector<HandlePart> parts, HandleModes visibleIn, HandleHolder holder, Turn turn)
 {
-    const Family family = action.kind == Kind::Offset ? Translation
-        : action.kind == Kind::Factor                 ? Scaling
-                                                      : Rotation;
+    const HandleFamily family = action.kind == Kind::Offset ? Translation
+        : action.kind == Kind::Factor                       ? Scaling
+                                                            : Rotation;
     HandleRow made {
         name, static_cast<int>(handle), family, std::move(parts), visibleIn, holder, {}, turn
     };
