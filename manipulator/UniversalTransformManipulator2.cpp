@@ -74,8 +74,12 @@ void UniversalTransformManipulator2::setFurtherHandles(const FurtherHandles& wan
 
 void UniversalTransformManipulator2::setAxes(GizmoAxes which, const osg::Quaternion& given)
 {
+    if (!(given.length() > 0.0F && std::isfinite(given.length()))) {
+        return;
+    }
     course().stance.axes = which;
     course().stance.givenAxes = given;
+    course().stance.givenAxes.normalize();
     updateManipulator();
 }
 
@@ -93,6 +97,9 @@ osg::Quaternion UniversalTransformManipulator2::axesOfFace(const osg::Vec3f& nor
 
 void UniversalTransformManipulator2::setPivot(GizmoPivot which, const osg::Pnt3f& given)
 {
+    if (!std::isfinite(given.x() + given.y() + given.z())) {
+        return;
+    }
     course().stance.pivot = which;
     course().stance.givenPivot = given;
     updateManipulator();

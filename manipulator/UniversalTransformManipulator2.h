@@ -148,7 +148,7 @@ public:
 
     /// Stands the gizmo along other axes; GizmoAxes::Shared after construction. Those of a picked
     /// face: setAxes(GizmoAxes::Given, axesOfFace(picker.getHitNormal())).
-    /// @param given  turn of the given frame in the world, unit length
+    /// @param given  turn of the given frame in the world; one without a length changes nothing
     void setAxes(GizmoAxes which, const osg::Quaternion& given = osg::Quaternion());
 
     /// Axes of a surface: z along its normal, x level where y is up.
@@ -156,7 +156,7 @@ public:
     static osg::Quaternion axesOfFace(const osg::Vec3f& normal);
 
     /// Turns and scales about another point; GizmoPivot::Own after construction. Modes that move
-    /// pivots stay at the node's own. @param given  world, finite
+    /// pivots stay at the node's own. @param given  world; one that is not finite changes nothing
     void setPivot(GizmoPivot which, const osg::Pnt3f& given = osg::Pnt3f());
 
     /// Switches the on-screen text of this gizmo.

@@ -17,12 +17,6 @@ constexpr std::array<HandleModes, 3> kVisibleIn = { modes(Mode::Universal, Mode:
                                                     modes(Mode::Universal, Mode::Rotate),
                                                     modes(Mode::Universal, Mode::Scale) };
 
-HandleRow arrow(const char* name, Active active, std::size_t axis,
-                const std::array<float, 3>& place, Turn turn)
-{
-    return solidArrow(name, number(active), Translation, axis, place, turn);
-}
-
 HandleRow scaleAxis(const char* name, Active active, std::size_t axis, HandleShape shaft,
                     HandleShape box)
 {
@@ -50,9 +44,12 @@ HandleTable makeTable()
 {
     HandleTable table;
     table.rows = {
-        arrow("yaShape", Active::TranslateY, GreenMaterial, { 0.0F, 1.0F, 0.0F }, Turn::None),
-        arrow("xaShape", Active::TranslateX, RedMaterial, { 1.0F, 0.0F, 0.0F }, Turn::OntoX),
-        arrow("zaShape", Active::TranslateZ, BlueMaterial, { 0.0F, 0.0F, -1.0F }, Turn::OntoMinusZ),
+        solidArrow("yaShape", number(Active::TranslateY), Translation, GreenMaterial,
+                   { 0.0F, 1.0F, 0.0F }, Turn::None),
+        solidArrow("xaShape", number(Active::TranslateX), Translation, RedMaterial,
+                   { 1.0F, 0.0F, 0.0F }, Turn::OntoX),
+        solidArrow("zaShape", number(Active::TranslateZ), Translation, BlueMaterial,
+                   { 0.0F, 0.0F, -1.0F }, Turn::OntoMinusZ),
         solidSquare("xyaShape", number(Active::TranslateXY), Translation, BlueMaterial),
         scaleAxis("zsShape", Active::ScaleZ, 2, HandleShape::SolidScaleShaftMinusZ,
                   HandleShape::ScaleTabMinusZ),

@@ -98,6 +98,8 @@ TEST(GizmoFrames, NodesTurnAndScaleAboutTheChosenPoint)
         drags.look(Camera::Front, true);
         drags.gizmo.setNode(nodes[0], { nodes[1] });
         drags.gizmo.setPivot(row.pivot, Pnt3f(row.point));
+        drags.gizmo.setPivot(Pivot::Given, Pnt3f(NAN, 0, 0));  // changes nothing, as no axes do
+        drags.gizmo.setAxes(Axes::Given, osg::Quaternion(Vec3f(NAN, 0, 0), 1));
         expectNear(drags.onGizmo(Vec3f()).subZero(), row.point, "the gizmo", kTolerance);
         const auto check = [&](float turnDeg, const Vec3f& factors) {
             for (const osg::NodePtr& node : nodes) {
