@@ -13,7 +13,7 @@ namespace nbec::manipulator::texture {
 ///
 /// Deliberate: a stop resumes the preview even if no step has paused it; without a material only
 /// what is owed.
-class AnchoredGizmo : public TextureGizmo
+class NB_MANIPULATOR_API AnchoredGizmo : public TextureGizmo
 {
 public:
     /// Shows the handles if there are a material and a component, else hides them. Another material

@@ -9,7 +9,6 @@
 
 #include <nbKernel/nbController.h>
 #include <nbKernel/nbScenegraph.h>
-#include <nbOpenSGExt/nbContainerId.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 #include <nbUtils/nbMessage.h>
 
@@ -218,7 +217,11 @@ bool PlanarGizmo::prepare(const View& /*view*/)
 void PlanarGizmo::capture(const View& view)
 {
     isTargetReady = false;
-    drag = beginDrag(frame, *armedRow(), view.sight());
+    const HandleRow* const handle = armedRow();
+    if (handle == nullptr) {
+        return;  // who was asked has ended the drag
+    }
+    drag = beginDrag(frame, *handle, view.sight());
     track = DragTrack();
     choosePath(view);
     path.follow(view.pointerRay(), track);

@@ -3,22 +3,20 @@
 #include "manipulator/drag/DragGeometry.h"
 #include "manipulator/texture/PlanarGizmo.h"
 
+#include <nbOpenSGExt/nbIsFinite.h>
+
 #include <cmath>
-#include <numeric>
 
 namespace nbec::manipulator::texture {
 
 /// Null if there is none or it is not finite.
 osg::Transform3DPtr PlanarGizmo::projection() const
 {
-    constexpr std::size_t kMatrixElements = 16;
     const osg::ColorComponentSettingsPtr material = component.getSettings();
     const osg::Transform3DPtr present =
         material != osg::NullFC ? material->getPlanarProjection() : osg::Transform3DPtr();
-    const float* const values = present != osg::NullFC ? present->getMatrix().getValues() : nullptr;
-    const bool isFinite =
-        values != nullptr && std::isfinite(std::accumulate(values, values + kMatrixElements, 0.0));
-    return isFinite ? present : osg::Transform3DPtr();
+    return present != osg::NullFC && nbIsFinite(present->getMatrix()) ? present
+                                                                      : osg::Transform3DPtr();
 }
 
 void PlanarGizmo::capturePicture(const View& view)

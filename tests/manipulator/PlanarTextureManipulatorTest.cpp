@@ -149,6 +149,9 @@ TEST(PlanarTextureManipulator, AsksForScaleValuesOnlyIfTheyAreUsed)
         EXPECT_TRUE(
             planar.onHandle("scaleXYURShape", Vec3f()).equals(Pnt3f(2, 1.5F, 0), kTolerance));
     }
+    // Who is asked at a grab may take the object away.
+    planar.scaleReply = [&planar](nbMessage&) { planar.gizmo.setNode(osg::NodePtr()); };
+    EXPECT_FALSE(planar.grab("xaShape", Vec3f(1.9F, 0, 0)));
 }
 
 TEST(PlanarTextureManipulator, ReadsFlagAndPictureOfTheComponent)
