@@ -29,12 +29,6 @@ void destroy(NodePtr node)
     subRefCP(node);
 }
 
-/// Takes the count of a fresh container and gives it back with the end of the scope.
-NodeRefPtr hold(const NodePtr& node)
-{
-    return NodeRefPtr(node);
-}
-
 }  // namespace
 
 // == Ids
@@ -78,7 +72,7 @@ TEST(IdTable, ResolvesExactlyTheLivingThroughRandomLifeAndDeath)
 
 TEST(RefPtr, ReplacingTheLastHolderOfAParentByItsChildKeepsTheChild)
 {
-    NodeRefPtr held = hold(makeCoredNode<Group>());
+    NodeRefPtr held(makeCoredNode<Group>());
     held->addChild(makeCoredNode<Group>());
     const UInt32 parentId = held->getFieldContainerId();
 

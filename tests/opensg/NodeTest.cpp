@@ -244,6 +244,14 @@ TEST(NodeVolume, FollowsEditsBelowNodesThatWereInactiveMeanwhile)
     move(8.f);
     move(9.f);
     EXPECT_FLOAT_EQ(right(), 10.f);
+    const NodePtr wide = makeBox(30, 1, 1, 1, 1, 1);
+    root->addChild(wide);
+    endEditCP(root, Node::ChildrenFieldMask);
+    EXPECT_FLOAT_EQ(right(), 15.f);
+    root->subChild(wide);
+    root->subChild(hidden);
+    root->updateVolume();
+    EXPECT_TRUE(root->getVolume().isEmpty());
 }
 
 TEST(NodeChildren, CoreHeldByNobodyElseLeavesWithTheNodeAndClonesLeakNothing)
