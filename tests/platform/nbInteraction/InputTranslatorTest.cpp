@@ -11,7 +11,6 @@
 #include <QWheelEvent>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <EditStamp.h>
 

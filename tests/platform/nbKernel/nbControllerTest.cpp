@@ -4,7 +4,6 @@
 #include <nbKernel/nbController.h>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <memory>
 #include <stdexcept>

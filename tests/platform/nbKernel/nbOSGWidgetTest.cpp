@@ -5,7 +5,6 @@
 #include <OpenSG/OSGLine.h>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <memory>
 #include <utility>

@@ -22,28 +22,21 @@ constexpr double kExactDeg = 0.01;
 /// Half a pixel in a view of 1000 pixels.
 constexpr double kHalfPixel = 0.0005;
 
-/// A camera that sees all three axes well: from above, from the right and the front.
-PerspectiveAim threeQuarterAim()
+/// A camera without roll: about its right, then about the world's y.
+PerspectiveAim uprightAim(double pitchRad, double yawRad)
 {
-    PerspectiveAim aim = turned(PerspectiveAim(), Vec3d(1.0, 0.0, 0.0), -0.5);
-    aim = turned(aim, Vec3d(0.0, 1.0, 0.0), 0.7);
-    aim.focalLength = 1.2;
-    return aim;
+    const PerspectiveAim aim = turned(PerspectiveAim(), Vec3d(1.0, 0.0, 0.0), pitchRad);
+    return turned(aim, Vec3d(0.0, 1.0, 0.0), yawRad);
 }
 
+/// A camera that sees all three axes well: from above, from the right and the front.
 PerspectiveProblem threeQuarterProblem()
 {
-    CameraPose pose;
-    const PerspectiveAim aim = threeQuarterAim();
-    pose.from =
-        osg::Pnt3f(static_cast<float>(8.0 * aim.back[0]), static_cast<float>(8.0 * aim.back[1]),
-                   static_cast<float>(8.0 * aim.back[2]));
-    pose.at = pose.pivot = osg::Pnt3f(0.f, 0.f, 0.f);
-    pose.fovDeg = static_cast<float>(fovDeg(aim, 1.0));
     PerspectiveProblem problem;
     problem.width = 1.5;
-    problem.lines = nbPerspectiveSolver::linesOf(pose, problem.width, problem.height);
-    problem.start = aim;
+    problem.start = uprightAim(-0.5, 0.7);
+    problem.start.focalLength = 1.2;
+    layEdges(problem, problem.start);
     return problem;
 }
 
@@ -122,8 +115,7 @@ TEST(nbPerspectiveSolver, QualityNamesTheLineThatIsOffAndTheAxisThatSaysLittle)
                             Row { -0.01, 0.6, PerspectiveDoubt::AlmostParallelLines, 1 },
                             Row { -0.6, 0.01, PerspectiveDoubt::AlmostParallelLines, 0 } }) {
         const bool isLevel = row.axis == 1;
-        PerspectiveAim aim = turned(PerspectiveAim(), Vec3d(1.0, 0.0, 0.0), row.pitchRad);
-        aim = turned(aim, Vec3d(0.0, 1.0, 0.0), row.yawRad);
+        const PerspectiveAim aim = uprightAim(row.pitchRad, row.yawRad);
         problem.type = isLevel ? nbCameraTypes::XYLines : nbCameraTypes::XZLines;
         problem.start = aim;
         layEdges(problem, aim);
@@ -134,63 +126,46 @@ TEST(nbPerspectiveSolver, QualityNamesTheLineThatIsOffAndTheAxisThatSaysLittle)
     }
 }
 
-struct ParallelRow
-{
-    const char* name;
-    nbCameraTypes::VanishingLinesType type;
-    double pitchRad;  ///< about the camera's right
-    double yawRad;  ///< about the world's y
-    bool isFovFound;
-};
-
 TEST(nbPerspectiveSolver, ParallelLinesKeepTheFieldOfViewUnlessTwoOthersMeet)
 {
-    const ParallelRow rows[] = {
-        { "level view, all axes: x and z give it", nbCameraTypes::XYZLines, 0.0, 0.6, true },
-        { "level view, x and y", nbCameraTypes::XYLines, 0.0, 0.6, false },
-        { "level view, y and z", nbCameraTypes::YZLines, 0.0, -0.9, false },
-        { "along z, x and y both parallel", nbCameraTypes::XYLines, 0.0, 0.0, false },
-        { "along z from above, x parallel", nbCameraTypes::XYZLines, -0.4, 0.0, true },
-        { "along z from above, x and z", nbCameraTypes::XZLines, -0.4, 0.0, false },
-    };
-    for (const ParallelRow& row : rows) {
-        SCOPED_TRACE(row.name);
-        PerspectiveAim aim = turned(PerspectiveAim(), Vec3d(1.0, 0.0, 0.0), row.pitchRad);
-        aim = turned(aim, Vec3d(0.0, 1.0, 0.0), row.yawRad);
+    const std::tuple<const char*, nbCameraTypes::VanishingLinesType, double, double, bool>
+        rows[] = {
+            { "level view, all axes: x and z give it", nbCameraTypes::XYZLines, 0.0, 0.6, true },
+            { "level view, x and y", nbCameraTypes::XYLines, 0.0, 0.6, false },
+            { "level view, y and z", nbCameraTypes::YZLines, 0.0, -0.9, false },
+            { "along z, x and y both parallel", nbCameraTypes::XYLines, 0.0, 0.0, false },
+            { "along z from above, x parallel", nbCameraTypes::XYZLines, -0.4, 0.0, true },
+            { "along z from above, x and z", nbCameraTypes::XZLines, -0.4, 0.0, false },
+        };
+    for (const auto& [name, type, pitchRad, yawRad, isFovFound] : rows) {
+        SCOPED_TRACE(name);
+        PerspectiveAim aim = uprightAim(pitchRad, yawRad);
         aim.focalLength = 1.1;
         PerspectiveProblem problem;
-        problem.type = row.type;
+        problem.type = type;
         problem.width = 1.4;
         layEdges(problem, aim);
         for (const double tremble : { 0.0, 1e-9, 1e-7 }) {
             problem.lines[2].setP2(problem.lines[2].p2() + QPointF(tremble, 0.0));
             problem.start = turned(aim, Vec3d(0.6, 0.0, 0.8), 0.2);
-            problem.start.focalLength = row.isFovFound ? 2.0 : aim.focalLength;
+            problem.start.focalLength = isFovFound ? 2.0 : aim.focalLength;
 
             const PerspectiveSolution solution = nbPerspectiveSolver::solve(problem);
 
             EXPECT_EQ(solution.result,
-                      row.isFovFound ? nbCameraTypes::Solved : nbCameraTypes::SolvedWithKeptFov);
+                      isFovFound ? nbCameraTypes::Solved : nbCameraTypes::SolvedWithKeptFov);
             EXPECT_LT(angleDeg(solution.aim, aim), kExactDeg);
             EXPECT_NEAR(fovDeg(solution.aim, 1.0), fovDeg(aim, 1.0), kExactDeg);
         }
     }
 }
 
-struct RefusedRow
-{
-    const char* name;
-    int line;
-    QLineF value;
-    nbCameraTypes::MatchResult result;
-};
-
 TEST(nbPerspectiveSolver, RefusesLinesThatSayNothingAndLeavesTheCamera)
 {
     const double nan = std::numeric_limits<double>::quiet_NaN();
     const PerspectiveProblem good = threeQuarterProblem();
     const QLineF first = good.lines[0];
-    const RefusedRow rows[] = {
+    const std::tuple<const char*, int, QLineF, nbCameraTypes::MatchResult> rows[] = {
         { "no length", 3, QLineF(0.4, 0.4, 0.4, 0.4), nbCameraTypes::UnusableLine },
         { "not a number", 5, QLineF(0.4, nan, 0.7, 0.4), nbCameraTypes::UnusableLine },
         { "out of all bounds", 2, QLineF(0.4, 0.1, 1e30, 0.4), nbCameraTypes::UnusableLine },
@@ -200,14 +175,14 @@ TEST(nbPerspectiveSolver, RefusesLinesThatSayNothingAndLeavesTheCamera)
         { "on the other's extension", 1, QLineF(first.p2(), first.pointAt(1.7)),
           nbCameraTypes::IdenticalLines },
     };
-    for (const RefusedRow& row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto& [name, line, value, result] : rows) {
+        SCOPED_TRACE(name);
         PerspectiveProblem problem = good;
-        problem.lines[row.line] = row.value;
+        problem.lines[line] = value;
 
         const PerspectiveSolution solution = nbPerspectiveSolver::solve(problem);
 
-        EXPECT_EQ(solution.result, row.result);
+        EXPECT_EQ(solution.result, result);
         EXPECT_EQ(solution.aim.focalLength, problem.start.focalLength);
         EXPECT_EQ(angleDeg(solution.aim, problem.start), 0.0);
     }

@@ -17,7 +17,6 @@
 #include <QUndoStack>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <cmath>
 #include <functional>

@@ -173,6 +173,16 @@ std::vector<KeptPictureTest::Change> KeptPictureTest::materialChanges()
               nbtest::edited(platetest::plateOf(show.backPlate))
                   ->setColor(osg::Color4f(c.red(), c.green(), c.blue(), 1.f));
           } },
+        { "picture of a plate",
+          [this] {
+              nbtest::edited(platetest::plateOf(show.backPlate))
+                  ->setImage(nbImageConvert::toImage(colorQuarters()));
+          } },
+        { "pixels of a plate's picture",
+          [this] {
+              const osg::ImagePtr image = platetest::plateOf(show.backPlate)->getImage();
+              std::fill_n(nbtest::edited(image)->getData(), 3 * 64 * 32, osg::UInt8(99));
+          } },
     };
 }
 

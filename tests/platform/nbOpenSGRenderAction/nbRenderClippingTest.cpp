@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tests/platform/support/Edited.h"
-#include "tests/platform/support/RenderTest.h"
+#include "tests/platform/support/PictureTest.h"
 
 #include <nbOpenSGExt/ClipPlane3D.h>
 #include <nbOpenSGExt/Transform3D.h>
@@ -80,4 +79,17 @@ TEST_F(nbRenderClippingTest, MovingTheTransformNodeMovesTheCut)
     EXPECT_EQ(at(after, 0.4f, 0.5f), kRed);
     EXPECT_EQ(at(after, 0.4f, -0.5f), kRed);
     EXPECT_NE(at(after, 0.6f, 0.5f), kRed);
+}
+
+TEST_F(nbRenderClippingTest, TheSameSideStaysUnderMirrorsAndUnevenScales)
+{
+    const osg::NodeRefPtr mover(transformed(group({}), {}, {}, osg::Vec3f(-2.f, 1.f, 1.f)));
+    // What stays are the points beyond (1, 0) and (0, 1), now at (-2, 0) and (0, 1).
+    const osg::Vec4f slanted(1.f, 1.f, 0.f, -1.f);
+    expectColors(draw(group({ cutBy(slanted, square(3.9f, unlit(kRed)), mover) })),
+                 { { -1.f, 0.55f, kRed },
+                   { -1.f, 0.45f, kBlack },
+                   { 1.f, 1.55f, kRed },
+                   { 1.f, 1.45f, kBlack } },
+                 "cut");
 }

@@ -6,6 +6,8 @@
 #include <nbOpenSGRenderAction/nbImageConvert.h>
 #include <nbOpenSGUtils/nbShaderHeader.h>
 
+#include <OpenSG/OSGSwitch.h>
+
 #include <QOpenGLFramebufferObject>
 #include <QOpenGLPaintDevice>
 #include <QtGui/QOffscreenSurface>
@@ -180,12 +182,31 @@ TEST_F(nbRenderMaterialsTest, AMovingCameraCostsNoRebuild)
     EXPECT_EQ(view->getAction().getStatistics().listBuilds, builds);
 }
 
-TEST_F(nbRenderMaterialsTest, WhatIsOutOfViewIsNotDrawn)
+TEST_F(nbRenderMaterialsTest, WhatIsHiddenOrOutOfViewIsNotDrawn)
 {
-    draw(group({ square(1.f, unlit(kRed)), square(1.f, unlit(kRed), 0.f, 50.f) }));
+    const auto shown = [](float x) { return square(0.2f, unlit(kRed), 0.f, x); };
+    const auto chosen = [](osg::Int32 choice, const std::vector<osg::NodePtr>& children) {
+        const osg::SwitchPtr core = osg::Switch::create();
+        core->setChoice(choice);
+        const osg::NodePtr node = group(children);
+        node->setCore(core);
+        return node;
+    };
+    const osg::NodePtr hidden = shown(-1.8f);
+    hidden->setActive(false);
+    const osg::NodePtr masked = shown(-1.5f);
+    masked->setTravMask(4);
 
-    EXPECT_EQ(view->getAction().getStatistics().items, 2u);
-    EXPECT_EQ(view->getAction().getStatistics().drawn, 1u);
+    const QImage picture =
+        draw(group({ hidden, masked, chosen(1, { shown(-1.f), shown(-0.5f) }),
+                     chosen(osg::Switch::NONE, { shown(0.f) }),
+                     chosen(osg::Switch::ALL, { shown(0.5f), shown(1.f) }), shown(50.f) }));
+
+    EXPECT_EQ(view->getAction().getStatistics().items, 5u);
+    EXPECT_EQ(view->getAction().getStatistics().drawn, 4u);
+    for (const float x : { -1.5f, -0.5f, 0.5f, 1.f }) {
+        EXPECT_EQ(at(picture, x, 0.f), kRed) << x;
+    }
 }
 
 TEST_F(nbRenderMaterialsTest, SeveralPassesSmoothEdgesAndKeepSurfaces)

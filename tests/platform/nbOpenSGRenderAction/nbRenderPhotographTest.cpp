@@ -61,13 +61,9 @@ TEST(nbPhotographFit, KeepsTheReferenceSideAndTheMiddle)
 }
 
 /// A main render widget with a photograph and nothing in its scene.
-class nbRenderPhotographTest : public testing::Test
+class nbRenderPhotographTest : public RenderTest
 {
 protected:
-    static void SetUpTestSuite() { view = std::make_unique<nbOffscreenView>(); }
-
-    static void TearDownTestSuite() { view.reset(); }
-
     nbRenderPhotographTest()
     {
         widget.setMain();
@@ -95,7 +91,6 @@ protected:
         return picture;
     }
 
-    static inline std::unique_ptr<nbOffscreenView> view;
     nbOSGWidget widget;
 };
 

@@ -39,14 +39,6 @@ TEST_F(nbRenderPicturesTest, PictureIsWhereTheProjectionSaysInBothKindsOfView)
     };
 
     const Row rows[] = {
-        { "as made",
-          { { -0.5f, 0.5f, kBlue },
-            { 0.5f, 0.5f, kYellow },
-            { -0.5f, -0.5f, kRed },
-            { 0.5f, -0.5f, kGreen },
-            { 0.94f, 0.94f, kYellow },
-            { 1.06f, 0.5f, kGrey },
-            { -0.5f, -1.06f, kGrey } } },
         { "translated",
           { { 0.3f, 0.1f, kBlue },
             { 1.3f, -0.9f, kGreen },
@@ -227,6 +219,11 @@ TEST_F(nbRenderPicturesTest, TransparencyPictureCutsTheSurfaceOut)
                    { 0.5f, -0.5f, kBlue },
                    { 1.5f, 0.5f, kGrey } },
                  "inverted mask");
+    cutout.setMask(false, false);
+    cutout.setPicture(QImage(2, 2, QImage::Format_ARGB32));
+    EXPECT_TRUE(cutout.material->isTransparent()) << "by alpha";
+    cutout.material->setImage(cutout.component, osg::Image::create());
+    EXPECT_FALSE(cutout.material->isTransparent());
 }
 
 TEST_F(nbRenderPicturesTest, OpaquePartsOfACutOutBodyHideWhatIsBehindThem)

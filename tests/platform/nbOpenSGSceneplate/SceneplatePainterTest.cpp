@@ -89,32 +89,6 @@ TEST_F(nbSceneplatePainterTest, AlphaAndOpacityMixWithWhatIsBehind)
     EXPECT_NEAR(faint.green(), 191, 2);
 }
 
-TEST_F(nbSceneplatePainterTest, FollowsEditsOfPlateAndImage)
-{
-    const osg::NodePtr node = front({ 100.f, 100.f, 40.f, 40.f }, kRed4);
-    draw(group({ node }));
-    const osg::SceneplatePtr plate = plateOf(node);
-    QImage black(1, 1, QImage::Format_RGB32);
-    black.fill(kBlack);
-    const auto edited = [&](const std::function<void()>& change) {
-        {
-            const nbEdit edit(plate, osg::FieldBits::AllFields);
-            change();
-        }
-        return at(redraw(), 0.f, 0.f);
-    };
-
-    EXPECT_EQ(edited([&] { plate->setColor(kBlue4); }), kBlue);
-    EXPECT_EQ(edited([&] { setImage(plate, black); }), kBlack);
-    {
-        const osg::ImagePtr image = plate->getImage();
-        const nbEdit edit(image, osg::FieldBits::AllFields);
-        image->getData()[1] = 255;
-    }
-    EXPECT_EQ(at(redraw(), 0.f, 0.f), kGreen);
-    EXPECT_EQ(edited([&] { plate->setVisible(false); }), kBlack);
-}
-
 TEST_F(nbSceneplatePainterTest, EffectBufferAndSceneBoundsDoNotKnowPlates)
 {
     const osg::NodePtr below = square(4.f, unlit(kBlue));

@@ -6,7 +6,6 @@
 #include <OpenSG/OSGNodePtr.h>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <stdexcept>
 

@@ -67,23 +67,13 @@ protected:
 
 }  // namespace
 
-TEST_F(ConversionTest, TransformWithoutShearBecomesOneTransform3D)
+TEST_F(ConversionTest, AnyMatrixKeepsThePlaceOfTheChildren)
 {
-    osg::Matrix matrix;
-    matrix.setTransform(osg::Vec3f(1.f, 2.f, 3.f), osg::Quaternion(osg::Vec3f(1.f, 2.f, 3.f), 1.f),
+    osg::Matrix turned;
+    turned.setTransform(osg::Vec3f(1.f, 2.f, 3.f), osg::Quaternion(osg::Vec3f(1.f, 2.f, 3.f), 1.f),
                         osg::Vec3f(2.f, 3.f, 4.f));
-    setMatrix(matrix);
-
-    convertAndCompare();
-
-    EXPECT_TRUE(leaf->getParent() == node);
-    EXPECT_TRUE(
-        nbNodeUtils::getTransformNodeScale(node).equals(osg::Vec3f(2.f, 3.f, 4.f), kTolerance));
-}
-
-TEST_F(ConversionTest, MirrorFlatAndShearKeepThePlaceOfTheChildren)
-{
     const std::pair<const char*, osg::Matrix> rows[] = {
+        { "turned and scaled", turned },
         { "mirror in y", osg::Matrix(1, 0, 0, 4, 0, -2, 0, 5, 0, 0, 3, 6, 0, 0, 0, 1) },
         { "flat in x", osg::Matrix(0, 0, 0, 4, 0, 2, 0, 5, 0, 0, 3, 6, 0, 0, 0, 1) },
         { "all in one point", osg::Matrix(0, 0, 0, 4, 0, 0, 0, 5, 0, 0, 0, 6, 0, 0, 0, 1) },

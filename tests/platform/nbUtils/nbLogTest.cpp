@@ -1,28 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include <nbUtils/nbLog.h>
+#include "tests/platform/support/LogLines.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <stdexcept>
-#include <string>
-#include <vector>
 
 using testing::ElementsAre;
 
-namespace {
-
-/// Puts the log back to its start afterwards.
-class nbLogTest : public testing::Test
+TEST(nbLog, SinkThatThrowsLosesNothingAndReachesNobody)
 {
-protected:
-    ~nbLogTest() override { nbLog::setSink(nbLog::Sink()); }
-};
-
-}  // namespace
-
-TEST_F(nbLogTest, SinkThatThrowsLosesNothingAndReachesNobody)
-{
+    const nbtest::LogLines restoring;
     nbLog::setSink([](nbLog::Level, const std::string&) { throw std::runtime_error("full"); });
 
     testing::internal::CaptureStderr();
@@ -32,7 +19,7 @@ TEST_F(nbLogTest, SinkThatThrowsLosesNothingAndReachesNobody)
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "error: disk\nerror: again\n");
 }
 
-TEST_F(nbLogTest, SinkMayLogAndReplaceItself)
+TEST(nbLog, SinkMayLogAndReplaceItself)
 {
     std::vector<std::string> entries;
     nbLog::setSink([&entries](nbLog::Level, const std::string& text) {

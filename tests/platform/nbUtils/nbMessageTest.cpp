@@ -4,7 +4,6 @@
 #include <OpenSG/OSGVector.h>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <string>
 #include <typeinfo>
