@@ -14,7 +14,6 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <random>
 #include <vector>
 
@@ -53,36 +52,6 @@ bool isBelow(const NodePtr& node, const NodePtr& ancestor)
     return at != NullFC;
 }
 
-/// A root with a chain transform - group - leaf below it.
-class TreeChangeCount : public testing::Test
-{
-protected:
-    TreeChangeCount()
-        : root(makeCoredNode<Group>())
-    {
-        const NodePtr moved = makeCoredNode<Transform>(&transform);
-        const NodePtr painted = makeCoredNode<MaterialGroup>(&materialGroup);
-        leaf = makeCoredNode<Group>();
-        root->addChild(moved);
-        moved->addChild(painted);
-        painted->addChild(leaf);
-        materialGroup->setMaterial(SimpleMaterial::create());
-    }
-
-    /// Whether the tree's count moves.
-    bool isMovedBy(const std::function<void()>& action) const
-    {
-        const UInt64 before = getTreeChangeCount(root);
-        action();
-        return getTreeChangeCount(root) != before;
-    }
-
-    NodeRefPtr root;
-    NodePtr leaf;
-    TransformPtr transform;
-    MaterialGroupPtr materialGroup;
-};
-
 }  // namespace
 
 // == Change counters
@@ -102,15 +71,34 @@ TEST(ChangeCount, CountsEndedEditsOnly)
     EXPECT_EQ(getTreeChangeCount(NullFC), 0u);
 }
 
-TEST_F(TreeChangeCount, MovesForWhatIsAboveTheEditHoweverSeldomAnyoneLooks)
+TEST(ChangeCount, OfATreeMovesForMaterialsButNeitherForCamerasNorForReading)
+{
+    MaterialGroupPtr materialGroup;
+    const NodeRefPtr root(makeCoredNode<MaterialGroup>(&materialGroup));
+    const NodePtr leaf = makeCoredNode<Transform>();
+    root->addChild(leaf);
+    materialGroup->setMaterial(SimpleMaterial::create());
+    const RefPtr<CameraPtr> camera(PerspectiveCamera::create());
+
+    const UInt64 before = getTreeChangeCount(root);
+    endEditCP(camera.get());
+    root->updateVolume();
+    leaf->getToWorld();
+    EXPECT_EQ(getTreeChangeCount(root), before);
+    endEditCP(materialGroup->getMaterial());
+    EXPECT_NE(getTreeChangeCount(root), before);
+}
+
+TEST(Nodes, CountsAndWorldMatricesHoldThroughRandomEditsMovesAndSharedCores)
 {
     std::mt19937 random(5);
-    std::vector<NodeRefPtr> nodes { root };
-    for (int i = 1; i < 60; ++i) {
-        const bool sharesCore = i % 5 == 0;
-        nodes.emplace_back(sharesCore ? makeNodeFor(nodes[random() % nodes.size()]->getCore())
-                                      : makeCoredNode<Group>());
-        nodes[random() % (nodes.size() - 1)]->addChild(nodes.back());
+    std::vector<NodeRefPtr> nodes { NodeRefPtr(makeCoredNode<Transform>()) };
+    for (int i = 1; i < 100; ++i) {
+        const std::size_t parent = random() % 4 == 0 ? random() % nodes.size() : nodes.size() - 1;
+        nodes.emplace_back(i % 5 == 0       ? makeNodeFor(nodes[random() % nodes.size()]->getCore())
+                               : i % 3 == 0 ? makeCoredNode<Group>()
+                                            : makeCoredNode<Transform>());
+        nodes[parent]->addChild(nodes.back());
     }
     std::vector<UInt64> seen(nodes.size(), 0);
     std::vector<bool> isEdited(nodes.size(), true);
@@ -123,7 +111,8 @@ TEST_F(TreeChangeCount, MovesForWhatIsAboveTheEditHoweverSeldomAnyoneLooks)
         const std::size_t index = random() % nodes.size();
         const NodePtr node = nodes[index];
         const NodePtr target = nodes[random() % nodes.size()];
-        switch (random() % 6) {
+        const TransformPtr transform = TransformPtr::dcast(node->getCore());
+        switch (random() % 8) {
         case 0:
             for (const NodePtr& user : node->getCore()->getParents()) {
                 noteEdit(user);
@@ -135,77 +124,36 @@ TEST_F(TreeChangeCount, MovesForWhatIsAboveTheEditHoweverSeldomAnyoneLooks)
             endEditCP(node);
             break;
         case 2:
-            if (node != root && !isBelow(target, node)) {
+            if (index != 0 && !isBelow(target, node)) {
                 noteEdit(node);
                 target->addChild(node);
                 noteEdit(node);
             }
             break;
-        default:
-            ASSERT_EQ(getSubtreeChangeCount(node) != seen[index], isEdited[index]) << step;
-            seen[index] = getSubtreeChangeCount(node);
-            isEdited[index] = false;
-        }
-    }
-}
-
-TEST_F(TreeChangeCount, MovesForMaterialsButNeitherForCamerasNorForReading)
-{
-    const CameraPtr camera = PerspectiveCamera::create();
-    const RefPtr<CameraPtr> held(camera);
-
-    EXPECT_TRUE(isMovedBy([&] { endEditCP(materialGroup->getMaterial()); }));
-    EXPECT_FALSE(isMovedBy([&] { endEditCP(camera); }));
-    EXPECT_FALSE(isMovedBy([&] {
-        root->updateVolume();
-        leaf->getToWorld();
-    }));
-}
-
-// == World matrices
-
-TEST(NodeToWorld, EqualsTheProductThroughRandomEditsMovesAndSharedCores)
-{
-    std::mt19937 random(11);
-    const NodeRefPtr root(makeCoredNode<Transform>());
-    std::vector<NodePtr> nodes { root };
-    for (int i = 1; i < 150; ++i) {
-        NodePtr node;
-        if (i % 7 == 0) {
-            node = makeNodeFor(nodes[random() % nodes.size()]->getCore());
-        } else {
-            node = i % 3 == 0 ? makeCoredNode<Group>() : makeCoredNode<Transform>();
-        }
-        nodes[random() % 4 == 0 ? 0 : nodes.size() - 1]->addChild(node);
-        nodes.push_back(node);
-    }
-
-    for (int step = 0; step < 4000; ++step) {
-        const NodePtr node = nodes[random() % nodes.size()];
-        const NodePtr target = nodes[random() % nodes.size()];
-        const TransformPtr transform = TransformPtr::dcast(node->getCore());
-        switch (random() % 4) {
-        case 0:
+        case 3:
             if (transform != NullFC) {
                 transform->setMatrix(randomMatrix(random));
             }
             break;
-        case 1:
+        case 4:
             if (transform != NullFC) {
                 transform->getMatrix()[3][0] += 1.f;
             }
             break;
-        case 2:
-            if (node != root.get() && !isBelow(target, node)) {
-                target->addChild(node);
+        case 5: {
+            const NodeCorePtr core = random() % 2 == 0 ? Transform::create() : target->getCore();
+            if (core != node->getCore()) {
+                noteEdit(node);
             }
+            node->setCore(core);
             break;
-        default:
-            node->setCore(random() % 2 == 0 ? NodeCorePtr(Transform::create())
-                                            : NodeCorePtr(target->getCore()));
         }
-        const NodePtr asked = nodes[random() % nodes.size()];
-        ASSERT_TRUE(asked->getToWorld().equals(productFromRoot(asked), 1e-4f)) << "step " << step;
+        default:
+            ASSERT_TRUE(node->getToWorld().equals(productFromRoot(node), 1e-4f)) << step;
+            ASSERT_EQ(getSubtreeChangeCount(node) != seen[index], isEdited[index]) << step;
+            seen[index] = getSubtreeChangeCount(node);
+            isEdited[index] = false;
+        }
     }
 }
 

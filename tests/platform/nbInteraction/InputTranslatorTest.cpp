@@ -109,14 +109,7 @@ TEST_F(InputTranslatorTest, PointerGoesOutInDevicePixelsBeforeTheEvent)
 
 TEST_F(InputTranslatorTest, PressesMeanToolOrCameraByButtonAndModifiers)
 {
-    struct Row
-    {
-        Qt::MouseButton button;
-        Qt::KeyboardModifiers modifiers;
-        const char* start;
-    };
-
-    const Row rows[] = {
+    const std::tuple<Qt::MouseButton, Qt::KeyboardModifiers, const char*> rows[] = {
         { Qt::LeftButton, kNone, "a start tool/select" },
         { Qt::LeftButton, Qt::ControlModifier, "a start tool/toggle" },
         { Qt::LeftButton, Qt::ShiftModifier, "a start tool/add" },
@@ -128,20 +121,20 @@ TEST_F(InputTranslatorTest, PressesMeanToolOrCameraByButtonAndModifiers)
         { Qt::MiddleButton, kNone, "a start camera/pan" },
         { Qt::MiddleButton, Qt::AltModifier, "a start camera/pan" },
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.start);
-        press(row.button, row.modifiers);
+    for (const auto& [button, modifiers, start] : rows) {
+        SCOPED_TRACE(start);
+        press(button, modifiers);
         const CallLog pressed = takeEvents();
-        release(row.button);
+        release(button);
         const CallLog released = takeEvents();
 
-        EXPECT_THAT(pressed, testing::Contains(row.start));
+        EXPECT_THAT(pressed, testing::Contains(start));
         // Drag events keep tool and hint although the modifiers are up again.
-        std::string stop = row.start;
+        std::string stop = start;
         stop.replace(stop.find("start"), 5, "stop");
         EXPECT_THAT(released, testing::Contains(stop));
         EXPECT_EQ("a hover tool/select", released.back());
-        const bool isCamera = std::string(row.start).find("camera") != std::string::npos;
+        const bool isCamera = std::string(start).find("camera") != std::string::npos;
         EXPECT_EQ(isCamera, pressed.front() == "a stopHover tool/select");
     }
     EXPECT_FALSE(press(Qt::BackButton));
@@ -256,15 +249,7 @@ TEST_F(InputTranslatorTest, EscIsTakenFromShortcutsOnlyDuringADrag)
 
 TEST_F(InputTranslatorTest, WheelAndTouchpadZoomInSteps)
 {
-    struct Row
-    {
-        const char* name;
-        QPoint pixels;
-        QPoint angle;
-        double steps;
-    };
-
-    const Row rows[] = {
+    const std::tuple<const char*, QPoint, QPoint, double> rows[] = {
         { "one step", QPoint(), QPoint(0, 120), 1.0 },
         { "fine wheel", QPoint(), QPoint(0, -30), -0.25 },
         { "Alt exchanges the axes", QPoint(), QPoint(240, 0), 2.0 },
@@ -276,14 +261,14 @@ TEST_F(InputTranslatorTest, WheelAndTouchpadZoomInSteps)
     context.onEvent = [&steps](const InteractionEvent& event) {
         steps = event.getEvent() == "trigger" ? event.getAmount() : steps;
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        QWheelEvent event(QPointF(7, 8), QPointF(7, 8), row.pixels, row.angle, Qt::NoButton, kNone,
+    for (const auto& [name, pixels, angle, expected] : rows) {
+        SCOPED_TRACE(name);
+        QWheelEvent event(QPointF(7, 8), QPointF(7, 8), pixels, angle, Qt::NoButton, kNone,
                           Qt::NoScrollPhase, false);
         EXPECT_TRUE(translator.handleEvent(event));
         EXPECT_THAT(takeLog(log),
                     ElementsAre("a pointer 7 8", "a trigger camera/zoom", "a hover tool/select"));
-        EXPECT_DOUBLE_EQ(row.steps, steps);
+        EXPECT_DOUBLE_EQ(expected, steps);
     }
     QWheelEvent empty(QPointF(7, 8), QPointF(7, 8), QPoint(), QPoint(), Qt::NoButton, kNone,
                       Qt::ScrollBegin, false);

@@ -157,23 +157,20 @@ TEST_F(PickerHandles, WithASlopTheDeviceSaysFromHowFarAndTheSmallerIsHit)
         translator.handleEvent(move);
     };
 
-    const struct
-    {
-        QEvent::Type own;
-        Qt::MouseEventSource source;
-        float reach;
-    } rows[] = { { QEvent::None, Qt::MouseEventNotSynthesized, 405.0F },
-                 { QEvent::TabletMove, Qt::MouseEventSynthesizedByQt, 407.0F },
-                 { QEvent::None, Qt::MouseEventSynthesizedBySystem, 407.0F },
-                 { QEvent::TouchBegin, Qt::MouseEventSynthesizedByQt, 415.0F } };
+    const std::tuple<QEvent::Type, Qt::MouseEventSource, float> rows[] = {
+        { QEvent::None, Qt::MouseEventNotSynthesized, 405.0F },
+        { QEvent::TabletMove, Qt::MouseEventSynthesizedByQt, 407.0F },
+        { QEvent::None, Qt::MouseEventSynthesizedBySystem, 407.0F },
+        { QEvent::TouchBegin, Qt::MouseEventSynthesizedByQt, 415.0F }
+    };
 
     // The half width is 1.
     hang(collider, line("line", 2.0F));
     Picker::setSlop(nbec::interaction::PickSlop());
-    for (const auto& row : rows) {
-        come(row.own, row.source);
-        EXPECT_EQ(nameAt(row.reach - 1.0F, 300.0F), "line") << row.reach;
-        EXPECT_EQ(nameAt(row.reach, 300.0F), "") << row.reach;
+    for (const auto& [own, source, reach] : rows) {
+        come(own, source);
+        EXPECT_EQ(nameAt(reach - 1.0F, 300.0F), "line") << reach;
+        EXPECT_EQ(nameAt(reach, 300.0F), "") << reach;
     }
     hang(collider, placed(3.0F, 0.0F, 0.0F, named("small", box(0.4F))));
     hang(collider, placed(2.5F, 0.0F, 2.0F, named("large", box(2.0F))));

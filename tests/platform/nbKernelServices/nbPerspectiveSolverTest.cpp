@@ -104,25 +104,21 @@ TEST(nbPerspectiveSolver, QualityNamesTheLineThatIsOffAndTheAxisThatSaysLittle)
     EXPECT_EQ(std::max_element(off.residuals.begin(), off.residuals.end()), &off.residuals[3]);
     EXPECT_EQ(off.doubt, PerspectiveDoubt::NoDoubt);
 
-    struct Row
-    {
-        double pitchRad, yawRad;
-        PerspectiveDoubt doubt;
-        int axis;
+    const std::tuple<double, double, PerspectiveDoubt, int> rows[] = {
+        { 0.0, 0.6, PerspectiveDoubt::ParallelLines, 1 },
+        { -0.01, 0.6, PerspectiveDoubt::AlmostParallelLines, 1 },
+        { -0.6, 0.01, PerspectiveDoubt::AlmostParallelLines, 0 },
     };
-
-    for (const Row& row : { Row { 0.0, 0.6, PerspectiveDoubt::ParallelLines, 1 },
-                            Row { -0.01, 0.6, PerspectiveDoubt::AlmostParallelLines, 1 },
-                            Row { -0.6, 0.01, PerspectiveDoubt::AlmostParallelLines, 0 } }) {
-        const bool isLevel = row.axis == 1;
-        const PerspectiveAim aim = uprightAim(row.pitchRad, row.yawRad);
+    for (const auto& [pitchRad, yawRad, doubt, axis] : rows) {
+        const bool isLevel = axis == 1;
+        const PerspectiveAim aim = uprightAim(pitchRad, yawRad);
         problem.type = isLevel ? nbCameraTypes::XYLines : nbCameraTypes::XZLines;
         problem.start = aim;
         layEdges(problem, aim);
         const PerspectiveQuality quality =
             nbPerspectiveSolver::judge(problem, nbPerspectiveSolver::solve(problem), kHalfPixel);
-        EXPECT_EQ(quality.doubt, row.doubt) << row.pitchRad;
-        EXPECT_EQ(quality.doubtfulAxis, row.axis) << row.pitchRad;
+        EXPECT_EQ(quality.doubt, doubt) << pitchRad;
+        EXPECT_EQ(quality.doubtfulAxis, axis) << pitchRad;
     }
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "tests/platform/support/Edited.h"
+
 #include <nbOpenSGExt/Transform3D.h>
-#include <nbOpenSGUtils/nbEdit.h>
 
 #include <OpenSG/OSGRefPtr.h>
 
@@ -13,25 +14,19 @@ namespace {
 constexpr float kTolerance = 2e-6f;
 constexpr float kAngleToleranceDeg = 2e-3f;
 
-osg::Transform3DRefPtr makeTransform()
+/// Where the matrix takes (1, 1, 1).
+osg::Pnt3f image(const osg::Transform3DRefPtr& transform)
 {
-    return osg::Transform3DRefPtr(osg::Transform3D::create());
-}
-
-void expectImage(const osg::Matrix& matrix, const osg::Pnt3f& point, const osg::Pnt3f& expected)
-{
-    osg::Pnt3f image;
-    matrix.multMatrixPnt(point, image);
-    for (osg::UInt32 i = 0; i < 3; ++i) {
-        EXPECT_NEAR(image[i], expected[i], kTolerance) << "component " << i;
-    }
+    osg::Pnt3f point(1.f, 1.f, 1.f);
+    transform->getMatrix().multMatrixPnt(point);
+    return point;
 }
 
 }  // namespace
 
 TEST(Transform3D, MatrixTakesItsPartsInOrder)
 {
-    const osg::Transform3DRefPtr transform = makeTransform();
+    const osg::Transform3DRefPtr transform(osg::Transform3D::create());
     {
         const nbEdit edit(transform.get(), osg::FieldBits::AllFields);
         transform->setTranslation(osg::Vec3f(1.f, 2.f, 3.f));
@@ -42,21 +37,19 @@ TEST(Transform3D, MatrixTakesItsPartsInOrder)
     }
 
     // (1,1,1): about the scale pivot (2,1,4), about the rotate pivot (0,1,4), moved (1,3,7).
-    expectImage(transform->getMatrix(), osg::Pnt3f(1.f, 1.f, 1.f), osg::Pnt3f(1.f, 3.f, 7.f));
+    EXPECT_TRUE(image(transform).equals(osg::Pnt3f(1.f, 3.f, 7.f), kTolerance));
 
-    {
-        const nbEdit edit(transform.get(), osg::Transform3D::RotationOrientationFieldMask);
-        transform->setRotationOrientation(osg::Quaternion(osg::Vec3f(1.f, 0.f, 0.f), osg::Pi / 2));
-    }
+    nbtest::edited(transform)->setRotationOrientation(
+        osg::Quaternion(osg::Vec3f(1.f, 0.f, 0.f), osg::Pi / 2));
 
     // From the rotate pivot (1,1,4): the orientation turns first, (1,-4,1), then the rotation,
     // (4,1,1).
-    expectImage(transform->getMatrix(), osg::Pnt3f(1.f, 1.f, 1.f), osg::Pnt3f(6.f, 3.f, 4.f));
+    EXPECT_TRUE(image(transform).equals(osg::Pnt3f(6.f, 3.f, 4.f), kTolerance));
 }
 
 TEST(Transform3D, RotationModesShareOneRotation)
 {
-    const osg::Transform3DRefPtr transform = makeTransform();
+    const osg::Transform3DRefPtr transform(osg::Transform3D::create());
     const osg::Quaternion quarterTurn(osg::Vec3f(0.f, 1.f, 0.f), osg::Pi / 2);
 
     transform->setRotation(quarterTurn);

@@ -13,11 +13,7 @@ using namespace rendertest;
 class KeptPictureTest : public RenderTest
 {
 protected:
-    struct Change
-    {
-        const char* name;
-        std::function<void()> make;
-    };
+    using Change = std::pair<const char*, std::function<void()>>;
 
     static void SetUpTestSuite()
     {
@@ -107,6 +103,12 @@ protected:
         return QColor::fromHsv(hue, 200, 200);
     }
 
+    osg::Color4f nextRgba()
+    {
+        const osg::Color3f next = color(nextColor());
+        return osg::Color4f(next.red(), next.green(), next.blue(), 1.f);
+    }
+
     Showcase show;
     int widthPx = kSize;
     float pixelRatio = 1.f;
@@ -152,9 +154,7 @@ std::vector<KeptPictureTest::Change> KeptPictureTest::materialChanges()
           } },
         { "parameter of a shader",
           [this] {
-              const osg::Color3f tint = color(nextColor());
-              show.shader->setUniformParameter(
-                  "tint", osg::Vec4f(tint.red(), tint.green(), tint.blue(), 1.f));
+              show.shader->setUniformParameter("tint", osg::Vec4f(nextRgba().getValuesRGBA()));
           } },
         { "projected picture",
           [this] {
@@ -168,11 +168,7 @@ std::vector<KeptPictureTest::Change> KeptPictureTest::materialChanges()
                                   osg::Vec3f(0.5f, 0.5f, 1.f));
           } },
         { "plate behind the scene",
-          [this] {
-              const osg::Color3f c = color(nextColor());
-              nbtest::edited(platetest::plateOf(show.backPlate))
-                  ->setColor(osg::Color4f(c.red(), c.green(), c.blue(), 1.f));
-          } },
+          [this] { nbtest::edited(platetest::plateOf(show.backPlate))->setColor(nextRgba()); } },
         { "picture of a plate",
           [this] {
               nbtest::edited(platetest::plateOf(show.backPlate))
@@ -218,12 +214,7 @@ std::vector<KeptPictureTest::Change> KeptPictureTest::viewChanges()
         { "width", [this] { widthPx = widthPx == kSize ? kSize + 60 : kSize; } },
         { "plate before the scene hidden or shown",
           [this] { nbtest::edited(frontPlate())->setVisible(!frontPlate()->getVisible()); } },
-        { "background",
-          [this] {
-              const osg::Color3f c = color(nextColor());
-              nbtest::edited(viewport)->setBackgroundColor(
-                  osg::Color4f(c.red(), c.green(), c.blue(), 1.f));
-          } },
+        { "background", [this] { nbtest::edited(viewport)->setBackgroundColor(nextRgba()); } },
         { "photograph",
           [this] {
               const QImage picture = quarters(nextColor(), kWhite, kYellow, nextColor());
@@ -252,25 +243,25 @@ std::vector<KeptPictureTest::Change> KeptPictureTest::viewChanges()
 
 TEST_F(KeptPictureTest, ChangesOfHandlesAndPlatesUseTheImageOfTheScene)
 {
-    for (const Change& change : handleChanges()) {
+    for (const auto& [name, make] : handleChanges()) {
         const QImage before = settle();
-        change.make();
-        const QImage after = compare(change.name);
-        EXPECT_NE(before, after) << change.name << " is not seen";
-        EXPECT_GE(reused(), 4U) << change.name;
+        make();
+        const QImage after = compare(name);
+        EXPECT_NE(before, after) << name << " is not seen";
+        EXPECT_GE(reused(), 4U) << name;
     }
 }
 
 TEST_F(KeptPictureTest, EveryOtherChangeIsSeenInTheNextPicture)
 {
     for (const auto& changes : { materialChanges(), placeChanges(), viewChanges() }) {
-        for (const Change& change : changes) {
+        for (const auto& [name, make] : changes) {
             const QImage before = settle();
-            EXPECT_GE(reused(), 1U) << "before " << change.name;
-            change.make();
-            EXPECT_NE(before, compare(change.name)) << change.name << " is not seen";
+            EXPECT_GE(reused(), 1U) << "before " << name;
+            make();
+            EXPECT_NE(before, compare(name)) << name << " is not seen";
             setDiffuse(materialOf(show.handle), nextColor());
-            compare(std::string("highlight after ") + change.name);
+            compare(std::string("highlight after ") + name);
         }
     }
 }

@@ -75,15 +75,7 @@ TEST_F(nbRenderMaterialsTest, TextureEnvironmentsMixAsTheirNamesSay)
     halves.setPixelColor(1, 0, QColor(255, 255, 255, 0));  // top right, without coverage
     osg::ImagePtr image = nbImageConvert::toImage(halves);
 
-    struct Row
-    {
-        GLenum mode;
-        QColor bottom;
-        QColor topLeft;
-        QColor topRight;
-    };
-
-    const Row rows[] = {
+    const std::tuple<GLenum, QColor, QColor, QColor> rows[] = {
         { GL_REPLACE, QColor(0, 255, 0), QColor(255, 255, 255), kBlack },
         { GL_MODULATE, QColor(0, 100, 0), QColor(200, 100, 50), kBlack },
         { GL_DECAL, QColor(0, 255, 0), QColor(255, 255, 255), QColor(200, 100, 50) },
@@ -92,20 +84,20 @@ TEST_F(nbRenderMaterialsTest, TextureEnvironmentsMixAsTheirNamesSay)
     const osg::TextureChunkPtr texture = osg::TextureChunk::create();
     const osg::NodePtr root = group({ square(
         2.f, with(with(unlit(QColor(200, 100, 50)), blendChunk()), osg::StateChunkPtr(texture))) });
-    for (const Row& row : rows) {
+    for (const auto& [mode, bottom, topLeft, topRight] : rows) {
         {
             const nbEdit edit(texture, osg::FieldBits::AllFields);
             texture->setImage(image);
             texture->setMinFilter(GL_NEAREST);
             texture->setMagFilter(GL_NEAREST);
-            texture->setEnvMode(row.mode);
+            texture->setEnvMode(mode);
             texture->setEnvColor(osg::Color4f(0.f, 0.f, 1.f, 1.f));
         }
         const QImage picture = draw(root);
 
-        EXPECT_EQ(at(picture, -0.5f, 0.5f), row.topLeft) << row.mode;
-        EXPECT_EQ(at(picture, 0.5f, 0.5f), row.topRight) << row.mode;
-        EXPECT_EQ(at(picture, 0.5f, -0.5f), row.bottom) << row.mode;
+        EXPECT_EQ(at(picture, -0.5f, 0.5f), topLeft) << mode;
+        EXPECT_EQ(at(picture, 0.5f, 0.5f), topRight) << mode;
+        EXPECT_EQ(at(picture, 0.5f, -0.5f), bottom) << mode;
     }
 }
 
@@ -132,25 +124,18 @@ TEST_F(nbRenderMaterialsTest, ParametersThatAreArraysReachTheProgramWhole)
         programOf("uniform int picks[2]; uniform float weights[2];\n"
                   "uniform vec2 places[2]; uniform vec3 axes[2]; uniform vec4 colors[3];\n"
                   "uniform mat4 turns[2];\n",
-                  "turns[1] * vec4(weights[1], places[1].y, axes[1].z, colors[picks[1]].w)");
-    osg::MFMatrix turns(2);
-    turns[0].setScale(0.f);
-    osg::MFInt32 picks(2);
-    picks[1] = 2;
-    osg::MFReal32 weights(2);
-    weights[0] = 1.f;
-    osg::MFVec2f places(2);
-    places[0].setValues(1.f, 1.f);
-    osg::MFVec3f axes(2);
-    axes[1].setValues(0.f, 0.f, 1.f);
-    osg::MFVec4f colors(3);
-    colors[2].setValues(0.f, 0.f, 0.f, 1.f);
-    chunk->setUniformParameter("picks", picks);
-    chunk->setUniformParameter("weights", weights);
-    chunk->setUniformParameter("places", places);
-    chunk->setUniformParameter("axes", axes);
-    chunk->setUniformParameter("colors", colors);
-    chunk->setUniformParameter("turns", turns);
+                  "turns[1] * vec4(1.0 - weights[1], 1.0 - places[1].y, axes[1].z,"
+                  " colors[picks[1]].w)");
+    const auto give = [&chunk](const char* name, auto values, const auto& last) {
+        values[values.size() - 1] = last;
+        chunk->setUniformParameter(name, values);
+    };
+    give("picks", osg::MFInt32(2), 2);
+    give("weights", osg::MFReal32(2), 1.f);
+    give("places", osg::MFVec2f(2), osg::Vec2f(1.f, 1.f));
+    give("axes", osg::MFVec3f(2), osg::Vec3f(0.f, 0.f, 1.f));
+    give("colors", osg::MFVec4f(3), osg::Vec4f(0.f, 0.f, 0.f, 1.f));
+    give("turns", osg::MFMatrix(2), osg::Matrix::identity());
 
     const QImage picture =
         draw(group({ manipulator({ square(1.f, with(osg::ChunkMaterial::create(), chunk)) }) }));

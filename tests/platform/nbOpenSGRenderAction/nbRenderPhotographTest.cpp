@@ -35,28 +35,17 @@ int difference(const QColor& a, const QColor& b)
 
 TEST(nbPhotographFit, KeepsTheReferenceSideAndTheMiddle)
 {
-    struct Row
-    {
-        const char* name;
-        int view[2];
-        bool verticalSizing;
-        float expected[4];
+    const std::tuple<const char*, QSize, bool, QRectF> rows[] = {
+        { "wider view, by the height", QSize(2000, 500), true, QRectF(625., 0., 750., 500.) },
+        { "narrower view, by the height", QSize(500, 500), true, QRectF(-125., 0., 750., 500.) },
+        { "wider view, by the width", QSize(600, 100), false, QRectF(0., -150., 600., 400.) },
+        { "no area", QSize(600, 0), false, QRectF(0., 0., 0., 0.) },
     };
-
-    const Row rows[] = {
-        { "wider view, by the height", { 2000, 500 }, true, { 625.f, 0.f, 750.f, 500.f } },
-        { "narrower view, by the height", { 500, 500 }, true, { -125.f, 0.f, 750.f, 500.f } },
-        { "wider view, by the width", { 600, 100 }, false, { 0.f, -150.f, 600.f, 400.f } },
-        { "no area", { 600, 0 }, false, { 0.f, 0.f, 0.f, 0.f } },
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto& [name, size, verticalSizing, expected] : rows) {
+        SCOPED_TRACE(name);
         const nbPhotographFit fit =
-            nbPhotographFit::of(300, 200, row.view[0], row.view[1], row.verticalSizing);
-        EXPECT_FLOAT_EQ(fit.left, row.expected[0]);
-        EXPECT_FLOAT_EQ(fit.bottom, row.expected[1]);
-        EXPECT_FLOAT_EQ(fit.width, row.expected[2]);
-        EXPECT_FLOAT_EQ(fit.height, row.expected[3]);
+            nbPhotographFit::of(300, 200, size.width(), size.height(), verticalSizing);
+        EXPECT_EQ(QRectF(fit.left, fit.bottom, fit.width, fit.height), expected);
     }
 }
 
@@ -158,21 +147,16 @@ TEST_F(nbRenderPhotographTest, TheMagnifierShowsPixelsAsSquaresAboutTheCursor)
     const QImage plain = draw(kWidth, kHeight);
     nbMagnifierRenderer::setVisible(true);
 
-    struct Row
-    {
-        int x;
-        int y;
-        int scale;
+    const std::tuple<int, int, int> rows[] = {
+        { 150, 100, 5 }, { 151, 121, 4 }, { 0, 0, 4 }, { 299, 239, 3 }
     };
-
-    for (const Row& row :
-         { Row { 150, 100, 5 }, Row { 151, 121, 4 }, Row { 0, 0, 4 }, Row { 299, 239, 3 } }) {
-        SCOPED_TRACE(testing::Message() << row.x << ", " << row.y << " by " << row.scale);
-        nbMagnifierRenderer::setCursorPosition(row.x, row.y);
-        nbMagnifierRenderer::setMagnificationScale(static_cast<float>(row.scale));
+    for (const auto& [cursorX, cursorY, scale] : rows) {
+        SCOPED_TRACE(testing::Message() << cursorX << ", " << cursorY << " by " << scale);
+        nbMagnifierRenderer::setCursorPosition(cursorX, cursorY);
+        nbMagnifierRenderer::setMagnificationScale(static_cast<float>(scale));
         const QImage picture = draw(kWidth, kHeight);
-        const QPoint middle(std::clamp(row.x, 80, kWidth - 81),
-                            std::clamp(row.y, 80, kHeight - 81));
+        const QPoint middle(std::clamp(cursorX, 80, kWidth - 81),
+                            std::clamp(cursorY, 80, kHeight - 81));
         int compared = 0;
         int wrong = 0;
         for (int y = 0; y < kHeight; ++y) {
@@ -186,10 +170,10 @@ TEST_F(nbRenderPhotographTest, TheMagnifierShowsPixelsAsSquaresAboutTheCursor)
                 } else if (radius < 80.0 - 3.0 - 1.0 && !isCross) {
                     // In the form of whole numbers: y runs down here and up in the lens.
                     const int fromX =
-                        static_cast<int>(std::floor(row.x + 0.5 + double(offX) / row.scale));
+                        static_cast<int>(std::floor(cursorX + 0.5 + double(offX) / scale));
                     const int fromY = kHeight - 1 -
-                        static_cast<int>(std::floor(kHeight - row.y - 0.5 -
-                                                    double(offY) / row.scale));
+                        static_cast<int>(std::floor(kHeight - cursorY - 0.5 -
+                                                    double(offY) / scale));
                     ++compared;
                     wrong += picture.pixelColor(x, y) !=
                         plain.pixelColor(std::clamp(fromX, 0, kWidth - 1),

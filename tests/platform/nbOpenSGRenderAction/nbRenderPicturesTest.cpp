@@ -262,14 +262,7 @@ TEST_F(nbRenderPicturesTest, WithoutAnImageOrAnAreaTheSurfaceIsPlain)
 
 TEST_F(nbRenderPicturesTest, ShowsPicturesOfEveryFormat)
 {
-    struct Row
-    {
-        osg::Image::PixelFormat format;
-        std::vector<osg::UInt8> pixel;
-        QColor shown;
-    };
-
-    const Row rows[] = {
+    const std::tuple<osg::Image::PixelFormat, std::vector<osg::UInt8>, QColor> rows[] = {
         { osg::Image::OSG_L_PF, { 200 }, QColor(200, 200, 200) },
         { osg::Image::OSG_I_PF, { 255 }, kWhite },
         { osg::Image::OSG_LA_PF, { 10, 255 }, QColor(10, 10, 10) },
@@ -279,11 +272,11 @@ TEST_F(nbRenderPicturesTest, ShowsPicturesOfEveryFormat)
         { osg::Image::OSG_RGBA_PF, { 10, 20, 30, 255 }, QColor(10, 20, 30) },
         { osg::Image::OSG_BGRA_PF, { 10, 20, 30, 255 }, QColor(30, 20, 10) },
     };
-    for (const Row& row : rows) {
+    for (const auto& [format, pixel, shown] : rows) {
         PictureMaterial picture;
         const osg::ImagePtr image = osg::Image::create();
-        image->set(row.format, 1, 1, 1, 1, 1, 0.0, row.pixel.data());
+        image->set(format, 1, 1, 1, 1, 1, 0.0, pixel.data());
         picture.material->setImage(picture.component, image);
-        expectColors(draw(wall(picture)), { { 0.f, 0.f, row.shown } }, "format");
+        expectColors(draw(wall(picture)), { { 0.f, 0.f, shown } }, "format");
     }
 }

@@ -94,13 +94,7 @@ TEST(UberCamera, DepthRangeEnclosesBoxPivotAndHandles)
     const Pnt3f wide(1e3f, 1e3f, 1e3f);
     const Pnt3f broken(kNan, 0.f, 0.f);
 
-    const struct
-    {
-        const char* name;
-        Pnt3f boundsMin, boundsMax, pivot;
-        bool orthographic;
-        float nearPlane, farPlane;
-    } rows[] = {
+    const std::tuple<const char*, Pnt3f, Pnt3f, Pnt3f, bool, float, float> rows[] = {
         { "before the eye", -1.f * one, one, origin, false, 4.5f, 16.5f },
         { "pivot beyond", -1.f * one, one, far, false, 4.5f, 150.f },
         { "eye inside", -1.f * wide, wide, origin, false, 0.01515f, 1515.f },
@@ -110,14 +104,15 @@ TEST(UberCamera, DepthRangeEnclosesBoxPivotAndHandles)
         { "flat view", -1.f * one, one, origin, true, -5.162136f, 25.162136f },
     };
 
-    for (const auto& row : rows) {
+    for (const auto& [name, boundsMin, boundsMax, pivot, orthographic, nearPlane, farPlane] :
+         rows) {
         const UberCameraRefPtr camera = makeCamera();
-        camera->setPivot(row.pivot);
-        camera->setOrthographic(row.orthographic);
+        camera->setPivot(pivot);
+        camera->setOrthographic(orthographic);
 
-        camera->setNearFarFromBounds(row.boundsMin, row.boundsMax);
+        camera->setNearFarFromBounds(boundsMin, boundsMax);
 
-        EXPECT_NEAR(camera->getNear(), row.nearPlane, 1e-4f) << row.name;
-        EXPECT_NEAR(camera->getFar(), row.farPlane, 1e-2f) << row.name;
+        EXPECT_NEAR(camera->getNear(), nearPlane, 1e-4f) << name;
+        EXPECT_NEAR(camera->getFar(), farPlane, 1e-2f) << name;
     }
 }
