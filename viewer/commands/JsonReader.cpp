@@ -97,20 +97,14 @@ template bool JsonReader::readExact(const QJsonValue&, const QString&, double&);
 
 bool JsonReader::readString(const QJsonValue& value, const QString& path, QString& text)
 {
-    if (!value.isString()) {
-        return fail(path, "expected a text");
-    }
     text = value.toString();
-    return true;
+    return value.isString() || fail(path, "expected a text");
 }
 
 bool JsonReader::readBool(const QJsonValue& value, const QString& path, bool& flag)
 {
-    if (!value.isBool()) {
-        return fail(path, "expected true or false");
-    }
     flag = value.toBool();
-    return true;
+    return value.isBool() || fail(path, "expected true or false");
 }
 
 bool JsonReader::readInt(const QJsonValue& value, const QString& path, int limit, int& number)
@@ -127,30 +121,23 @@ std::optional<QJsonObject> parseJsonObject(const QByteArray& text, QString& erro
 {
     QJsonParseError jsonError;
     const QJsonDocument document = QJsonDocument::fromJson(text, &jsonError);
-    if (document.isNull()) {
-        error = QStringLiteral("%1: %2").arg(placeInText(text, jsonError.offset),
-                                             jsonError.errorString());
-        return std::nullopt;
+    if (document.isObject()) {
+        return document.object();
     }
-    if (!document.isObject()) {
-        error = "expected a JSON object";
-        return std::nullopt;
-    }
-    return document.object();
+    error = document.isNull() ? placeInText(text, jsonError.offset) + ": " + jsonError.errorString()
+                              : QStringLiteral("expected a JSON object");
+    return std::nullopt;
 }
 
 QJsonValue withoutGaps(const QJsonValue& value, const QJsonArray& present)
 {
-    if (!value.isArray()) {
-        return value;
-    }
     QJsonArray whole = value.toArray();
     for (int i = 0; i < qMin(whole.size(), present.size()); ++i) {
         if (whole.at(i).isNull()) {
             whole[i] = present.at(i);
         }
     }
-    return whole;
+    return value.isArray() ? whole : value;
 }
 
 QJsonValue exactJson(float value)

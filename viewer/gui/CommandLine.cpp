@@ -83,19 +83,13 @@ bool isWritablePicture(const QString& path, QString& error)
 bool parseSize(const QString& text, QSize& sizePx)
 {
     static const QRegularExpression kPattern("^([0-9]{1,6})[xX]([0-9]{1,6})$");
+    // Without a match both are 0.
     const QRegularExpressionMatch match = kPattern.match(text);
-    if (!match.hasMatch()) {
-        return false;
-    }
     const QSize size(match.captured(1).toInt(), match.captured(2).toInt());
-    const auto isInRange = [](int edge) {
-        return edge >= kMinViewEdgePx && edge <= kMaxViewEdgePx;
-    };
-    if (!isInRange(size.width()) || !isInRange(size.height())) {
-        return false;
-    }
-    sizePx = size;
-    return true;
+    const bool isInRange = qMin(size.width(), size.height()) >= kMinViewEdgePx &&
+        qMax(size.width(), size.height()) <= kMaxViewEdgePx;
+    sizePx = isInRange ? size : sizePx;
+    return isInRange;
 }
 
 bool parseCommandLine(const QStringList& arguments, CommandLine& options, QString& error)

@@ -11,8 +11,7 @@ namespace viewer {
 /// Version of the program, such as "0.1.0".
 const char* programVersion();
 
-/// Tells what the program is and the versions of the parts it stands on, with a button that copies
-/// them.
+/// Tells what the program is and the versions of the parts it stands on, which can be copied.
 class AboutBox
 {
     Q_DECLARE_TR_FUNCTIONS(viewer::AboutBox)

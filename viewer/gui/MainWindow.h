@@ -15,6 +15,7 @@
 #include <QDir>
 #include <QMainWindow>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -71,8 +72,10 @@ public:
     void openFiles(const QStringList& files, Opening opening);
     void askForFiles(Opening opening);
     void askForPicture();
-    /// Tells a person of a file that was written, or of what hindered it.
-    void tellWritten(const QString& path, bool isWritten, const QString& error);
+    /// Has a person name a file and writes it; tells of it, or of what hindered it.
+    /// @param suggested  its ending completes a name without one
+    void askAndWrite(const QString& title, const QString& suggested, const QString& filter,
+                     const std::function<bool(const QString& path, QString& error)>& write);
     /// Writes a picture of the view. @return false with one line in `error`
     bool savePicture(const QString& path, QString& error);
 

@@ -40,7 +40,6 @@ bool isPicture(const QString& file)
 /// A window that a window manager refuses the wanted size is waited for this often.
 constexpr int kMaxSizeChecks = 200;
 constexpr int kSizeCheckMs = 10;
-
 constexpr int kToldMs = 8000;  ///< how long a file that was written is told of
 
 const char* const kSessionFilter = QT_TRANSLATE_NOOP("viewer::MainWindow", "Sessions (*.json)");
@@ -160,19 +159,18 @@ void MainWindow::askForFiles(Opening opening)
 
 void MainWindow::askForPicture()
 {
-    const QString path =
-        askWhereToSave(*this, tr("Save picture"), "view.png", tr("Pictures (*.png *.jpg *.bmp)"));
-    QString error;
-    if (!path.isEmpty()) {
-        tellWritten(path, savePicture(path, error), error);
-    }
+    askAndWrite(tr("Save picture"), "view.png", tr("Pictures (*.png *.jpg *.bmp)"),
+                [this](auto& path, auto& error) { return savePicture(path, error); });
 }
 
-void MainWindow::tellWritten(const QString& path, bool isWritten, const QString& error)
+void MainWindow::askAndWrite(const QString& title, const QString& suggested, const QString& filter,
+                             const std::function<bool(const QString&, QString&)>& write)
 {
-    if (isWritten) {
+    const QString path = askWhereToSave(*this, title, suggested, filter);
+    QString error;
+    if (!path.isEmpty() && write(path, error)) {
         statusBar()->showMessage(tr("%1 has been written").arg(path), kToldMs);
-    } else {
+    } else if (!path.isEmpty()) {
         emit problem(error);
     }
 }

@@ -53,7 +53,7 @@ void MessageBar::place()
     const QRect area = parentWidget()->rect();
     const int widest = qMax(area.width() - 2 * kMarginPx, 1);
     const int width = qMin(fontMetrics().horizontalAdvance(text()) + 3 * kMarginPx, widest);
-    const int height = qMax(heightForWidth(width), sizeHint().height());
+    const int height = heightForWidth(width);
     setGeometry((area.width() - width) / 2, qMax(area.height() - height - kMarginPx, 0), width,
                 height);
 }

@@ -41,61 +41,52 @@ class PanelScrollArea : public QScrollArea
 {
 public:
     /// @param content  becomes a child
-    explicit PanelScrollArea(QWidget* content);
+    explicit PanelScrollArea(QWidget* content)
+    {
+        setWidgetResizable(true);
+        setFrameShape(QFrame::NoFrame);
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        // Keys are for what is in it.
+        setFocusPolicy(Qt::NoFocus);
+        setWidget(content);
+        content->installEventFilter(this);
+        measure();
+    }
 
-    QSize minimumSizeHint() const override;
-    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override
+    {
+        const int bar = verticalScrollBar()->sizeHint().width();
+        return { widest + bar, kLeastLines * fontMetrics().lineSpacing() };
+    }
+
+    QSize sizeHint() const override
+    {
+        return { minimumSizeHint().width(), widget()->sizeHint().height() };
+    }
 
 protected:
     /// Follows the content when its rows change.
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (watched == widget() && event->type() == QEvent::LayoutRequest) {
+            measure();
+        }
+        return QScrollArea::eventFilter(watched, event);
+    }
 
 private:
     /// Takes note of the width that the content needs now.
-    void measure();
+    void measure()
+    {
+        const int needed = widget()->minimumSizeHint().width();
+        if (needed > widest) {
+            widest = needed;
+            updateGeometry();
+        }
+    }
 
     int widest = 0;
 };
-
-PanelScrollArea::PanelScrollArea(QWidget* content)
-{
-    setWidgetResizable(true);
-    setFrameShape(QFrame::NoFrame);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    // Keys are for what is in it.
-    setFocusPolicy(Qt::NoFocus);
-    setWidget(content);
-    content->installEventFilter(this);
-    measure();
-}
-
-void PanelScrollArea::measure()
-{
-    const int needed = widget()->minimumSizeHint().width();
-    if (needed > widest) {
-        widest = needed;
-        updateGeometry();
-    }
-}
-
-QSize PanelScrollArea::minimumSizeHint() const
-{
-    const int bar = verticalScrollBar()->sizeHint().width();
-    return { widest + bar, kLeastLines * fontMetrics().lineSpacing() };
-}
-
-QSize PanelScrollArea::sizeHint() const
-{
-    return { minimumSizeHint().width(), widget()->sizeHint().height() };
-}
-
-bool PanelScrollArea::eventFilter(QObject* watched, QEvent* event)
-{
-    if (watched == widget() && event->type() == QEvent::LayoutRequest) {
-        measure();
-    }
-    return QScrollArea::eventFilter(watched, event);
-}
 
 }  // namespace
 
@@ -107,7 +98,6 @@ PanelDocks::PanelDocks(QMainWindow& targetWindow, Stage& targetStage, StageTools
 {
     addSteps();
     addPanels();
-    addLog();
 }
 
 PanelDocks::~PanelDocks()
@@ -146,14 +136,9 @@ void PanelDocks::addPanels()
     }
     sceneDock->widget()->setMinimumWidth(widest);
     objectDock->widget()->setMinimumWidth(widest);
-}
-
-void PanelDocks::addLog()
-{
     logPanel = new LogPanel;
     logDock = addDock(logPanel, tr("Messages"), "logDock");
     window.addDockWidget(Qt::BottomDockWidgetArea, logDock);
-    logDock->hide();
 }
 
 QDockWidget* PanelDocks::addDock(QWidget* content, const QString& title, const QString& name)

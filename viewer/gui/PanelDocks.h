@@ -63,7 +63,6 @@ signals:
 private:
     void addSteps();
     void addPanels();
-    void addLog();
     QDockWidget* addDock(QWidget* content, const QString& title, const QString& name);
     QDockWidget* addPanel(Panel* panel, const QString& title, const QString& name);
 

@@ -16,6 +16,7 @@
 #include <QSettings>
 #include <QUndoStack>
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -360,10 +361,8 @@ void SceneFileActions::touch()
 
 void SceneFileActions::noteCommand(const QString& name)
 {
-    for (const char* unrecorded : kUnrecorded) {
-        if (name == QLatin1String(unrecorded)) {
-            touch();
-        }
+    if (std::find(kUnrecorded.begin(), kUnrecorded.end(), name) != kUnrecorded.end()) {
+        touch();
     }
 }
 

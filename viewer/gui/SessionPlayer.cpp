@@ -213,7 +213,10 @@ bool SessionPlayer::playPointer(const SessionStep& step, QString& error)
         sendMouse(QEvent::MouseButtonRelease, step.button, modifiers);
     }
     if (step.type == Type::Wheel) {
-        sendWheel(step.wheelDelta, modifiers);
+        QWheelEvent event(position, view.mapToGlobal(QPoint(0, 0)) + position, QPoint(),
+                          QPoint(0, step.wheelDelta), heldButtons, modifiers, Qt::NoScrollPhase,
+                          false);
+        QCoreApplication::sendEvent(&view, &event);
     }
     return true;
 }
@@ -224,14 +227,6 @@ void SessionPlayer::sendMouse(QEvent::Type type, Qt::MouseButton button,
     const QPointF inWindow = view.mapTo(view.window(), QPoint(0, 0)) + position;
     const QPointF onScreen = view.mapToGlobal(QPoint(0, 0)) + position;
     QMouseEvent event(type, position, inWindow, onScreen, button, heldButtons, modifiers);
-    QCoreApplication::sendEvent(&view, &event);
-}
-
-void SessionPlayer::sendWheel(int delta, Qt::KeyboardModifiers modifiers)
-{
-    const QPointF onScreen = view.mapToGlobal(QPoint(0, 0)) + position;
-    QWheelEvent event(position, onScreen, QPoint(), QPoint(0, delta), heldButtons, modifiers,
-                      Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(&view, &event);
 }
 

@@ -69,7 +69,6 @@ private:
     bool play(const SessionStep& step, QString& error);
     bool playPointer(const SessionStep& step, QString& error);
     void sendMouse(QEvent::Type type, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
-    void sendWheel(int delta, Qt::KeyboardModifiers modifiers);
     bool playKey(const SessionStep& step, QString& error);
     void sendKey(QEvent::Type type, int key);
     QAction* findShortcut(int key, Qt::KeyboardModifiers modifiers);
@@ -93,8 +92,7 @@ private:
     bool captionsShown = false;
     QString captionTitle;
     QString captionText;
-    unsigned generation =
-        0;  ///< counts starts and stops, so that a step scheduled before is dropped
+    unsigned generation = 0;  ///< of starts and stops; a step scheduled before is dropped
     QPointF position;  ///< of the pointer, logical pixels in the view
     Qt::MouseButtons heldButtons = Qt::NoButton;
     Qt::KeyboardModifiers heldModifiers = Qt::NoModifier;

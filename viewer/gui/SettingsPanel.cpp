@@ -36,12 +36,7 @@ SettingsPanel::SettingsPanel(Stage& stage, const Settings& settings)
             form->addRow(addSwitch(command, label));
         }
     }
-}
-
-void SettingsPanel::showEvent(QShowEvent* event)
-{
     refresh();
-    Panel::showEvent(event);
 }
 
 void SettingsPanel::open(Stage& stage, const Settings& settings, QWidget& window)
@@ -63,8 +58,8 @@ void SettingsPanel::open(Stage& stage, const Settings& settings, QWidget& window
     column->addWidget(buttons);
     constexpr QSize kAround(60, 70);
     constexpr double kMostOfScreen = 0.9;
-    dialog->resize((scroll->widget()->sizeHint() + kAround)
-                       .boundedTo(window.screen()->availableSize() * kMostOfScreen));
+    const QSize most = window.screen()->availableSize() * kMostOfScreen;
+    dialog->resize((scroll->widget()->sizeHint() + kAround).boundedTo(most));
     dialog->show();
 }
 

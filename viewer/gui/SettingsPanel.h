@@ -17,9 +17,6 @@ public:
 
     /// Opens a dialogue with them.
     static void open(Stage& stage, const Settings& settings, QWidget& window);
-
-protected:
-    void showEvent(QShowEvent* event) override;
 };
 
 }  // namespace viewer

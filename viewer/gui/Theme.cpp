@@ -66,12 +66,9 @@ QString themeName(Theme theme)
 
 Theme themeFromName(const QString& name)
 {
-    for (const Theme theme : { Theme::Light, Theme::Dark }) {
-        if (name == themeName(theme)) {
-            return theme;
-        }
-    }
-    return Theme::System;
+    return name == themeName(Theme::Light) ? Theme::Light
+        : name == themeName(Theme::Dark)   ? Theme::Dark
+                                           : Theme::System;
 }
 
 void applyTheme(Theme theme)
@@ -97,8 +94,7 @@ Theme appliedTheme()
 
 bool isDarkPalette()
 {
-    const QPalette palette = QApplication::palette();
-    return palette.color(QPalette::Window).lightness() < kMiddleLightness;
+    return QApplication::palette().color(QPalette::Window).lightness() < kMiddleLightness;
 }
 
 QColor accentColor()

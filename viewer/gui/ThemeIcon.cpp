@@ -29,15 +29,9 @@ constexpr double kDisabledAccent = 0.35;
 
 QColor textColor(QIcon::Mode mode)
 {
-    const QPalette palette = QGuiApplication::palette();
-    switch (mode) {
-    case QIcon::Disabled:
-        return palette.color(QPalette::Disabled, QPalette::ButtonText);
-    case QIcon::Selected:
-        return palette.color(QPalette::Active, QPalette::HighlightedText);
-    default:
-        return palette.color(QPalette::Active, QPalette::ButtonText);
-    }
+    return QGuiApplication::palette().color(
+        mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active,
+        mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::ButtonText);
 }
 
 QColor mixed(const QColor& a, const QColor& b, double share)
@@ -48,14 +42,9 @@ QColor mixed(const QColor& a, const QColor& b, double share)
 
 QColor accentFor(QIcon::Mode mode)
 {
-    switch (mode) {
-    case QIcon::Disabled:
-        return mixed(textColor(mode), accentColor(), kDisabledAccent);
-    case QIcon::Selected:
-        return textColor(mode);
-    default:
-        return accentColor();
-    }
+    return mode == QIcon::Selected ? textColor(mode)
+        : mode == QIcon::Disabled  ? mixed(textColor(mode), accentColor(), kDisabledAccent)
+                                   : accentColor();
 }
 
 /// Draws an SVG whose colours are two words, currentColor and accentColor.

@@ -33,6 +33,13 @@ const QColor kLightLine(245, 246, 250);
 
 constexpr int kFar = 100000;  ///< from everything in a view, logical pixels
 
+/// Whether a wheel event is two fingers on a touchpad, which pan; with Ctrl they zoom.
+bool isOfTouchpad(const QWheelEvent& event)
+{
+    return event.phase() != Qt::NoScrollPhase && !event.pixelDelta().isNull() &&
+        (event.modifiers() & Qt::ControlModifier) == 0;
+}
+
 QStringList localFiles(const QMimeData* data)
 {
     QStringList files;
@@ -183,13 +190,6 @@ void ViewWidget::updateCursor()
     }
 }
 
-void ViewWidget::showFrameStatistics(bool on)
-{
-    frameStatisticsShown = on;
-    getAction().setTimed(on);
-    emit stateChanged();
-}
-
 QString ViewWidget::frameText() const
 {
     if (!frameStatisticsShown) {
@@ -211,7 +211,13 @@ void ViewWidget::addCommands()
 {
     Commands& commands = viewStage.commands();
     commands.addSwitch(
-        "view.setFrameStatistics", [this](bool on) { showFrameStatistics(on); },
+        "view.setFrameStatistics",
+        [this](bool on) {
+            frameStatisticsShown = on;
+            // Until the driver is done.
+            getAction().setTimed(on);
+            emit stateChanged();
+        },
         [this] { return frameStatisticsShown; });
     commands.addValue("view.frameStatistics", [this]() -> QJsonValue {
         const nbRenderAction::Statistics frame = frameStatistics();
@@ -224,12 +230,6 @@ void ViewWidget::addCommands()
                              { "coarse", frame.coarse },
                              { "inputToPicture", inputToPictureMs() } };
     });
-}
-
-bool ViewWidget::isOfTouchpad(const QWheelEvent& event)
-{
-    return event.phase() != Qt::NoScrollPhase && !event.pixelDelta().isNull() &&
-        (event.modifiers() & Qt::ControlModifier) == 0;
 }
 
 bool ViewWidget::followTouchpad(QEvent* event)

@@ -8,8 +8,6 @@
 
 #include <QImage>
 
-class QWheelEvent;
-
 namespace viewer {
 
 /// The 3D view of the window: draws the stage and hands it the person's input.
@@ -31,17 +29,11 @@ public:
     /// "" for none.
     void setCaption(const QString& title, const QString& text);
 
-    /// Whether each frame is timed until the driver is done, for frameText().
-    void showFrameStatistics(bool on);
-
     /// What the last frame took; what it says of the time is whole only while that is shown.
     nbRenderAction::Statistics frameStatistics() const { return getAction().getStatistics(); }
 
     /// The same as a line of text; empty while it is not shown.
     QString frameText() const;
-
-    /// Whether a wheel event is two fingers on a touchpad, which pan; with Ctrl they zoom.
-    static bool isOfTouchpad(const QWheelEvent& event);
 
 signals:
     /// The pointer moved, the scene was drawn, or something else that a status line shows may have

@@ -197,22 +197,15 @@ void WindowActions::addFileMenu()
     add(menu, "sceneSave", tr("&Save scene"), "Ctrl+S", [this] { window.scenes().save(); });
     addUnplayed(menu, "sceneSaveAs", tr("Save sc&ene as…"), "Ctrl+Shift+S",
                 [this] { window.scenes().saveAs(); });
-    addUnplayed(menu, "fileExport", tr("E&xport models…"), {}, [this] { exportAsked(); });
+    addUnplayed(menu, "fileExport", tr("E&xport models…"), {}, [this] {
+        const QString kinds = "*." + exportEndings().join(" *.");
+        window.askAndWrite(tr("Export models"), "models.glb", tr("Models (%1)").arg(kinds),
+                           &exportModels);
+    });
     addUnplayed(menu, "filePicture", tr("Sa&ve picture…"), "Ctrl+E",
                 [this] { window.askForPicture(); });
     menu->addSeparator();
     addUnplayed(menu, "fileQuit", tr("&Quit"), "Ctrl+Q", [this] { window.close(); });
-}
-
-void WindowActions::exportAsked()
-{
-    const QString kinds = QStringLiteral("*.") + exportEndings().join(QStringLiteral(" *."));
-    const QString path = askWhereToSave(window, tr("Export models"), QStringLiteral("models.glb"),
-                                        tr("Models (%1)").arg(kinds));
-    QString error;
-    if (!path.isEmpty()) {
-        window.tellWritten(path, exportModels(path, error), error);
-    }
 }
 
 void WindowActions::addEditMenu()

@@ -63,7 +63,6 @@ private:
     bool isOn(const char* value) const;
 
     void addFileMenu();
-    void exportAsked();
     void addEditMenu();
     void addObjectActions(QMenu* menu);
     void addViewMenu();

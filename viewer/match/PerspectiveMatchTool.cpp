@@ -342,15 +342,11 @@ void PerspectiveMatchTool::update()
         cameraMoved = false;
         stage.cameraMoved();
     }
-    if (!stage.isDragging()) {
-        holdWhatIsSolved();
+    if (stage.isDragging()) {
+        return;
     }
-}
-
-void PerspectiveMatchTool::holdWhatIsSolved()
-{
-    const CameraPose pose = stage.pose();
     // A drag that was cancelled has turned the camera back.
+    const CameraPose pose = stage.pose();
     const bool isNew = pose.at - pose.from != resting.at - resting.from || pose.up != resting.up;
     resting = pose;
     if (std::exchange(cameraTurned, false) && isNew && active &&

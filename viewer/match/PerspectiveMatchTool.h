@@ -127,8 +127,6 @@ public:
 
 private:
     void follow(const nbdObject& object, const QByteArray& property);
-    /// Holds the view once the lines have turned the camera for good.
-    void holdWhatIsSolved();
     void takePointer();
     void leavePointer();
     /// Edits the camera or its match as one step. @return false, with one line in `error` if the
