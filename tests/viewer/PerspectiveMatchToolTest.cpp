@@ -70,7 +70,7 @@ TEST_F(PerspectiveMatchToolTest, ADragIsOneStepAndMovesOneEndAndTheCamera)
     stage.update();
     ASSERT_TRUE(stage.isViewHeld()) << "a match is not lost by chance";
     int refused = 0;
-    stage.setHeldCallback([&refused] { ++refused; });
+    stage.setRefusalCallback([&refused](auto&) { ++refused; });
     const CameraPose matched = stage.pose();
     stage.frameAll();
     stage.interaction().triggerEvent(

@@ -5,7 +5,6 @@
 
 #include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
-#include <nbTransform/nbTransformModel.h>
 
 #include <QAction>
 #include <QDoubleSpinBox>
@@ -98,8 +97,6 @@ TEST_F(TransformTools, ADragIsOneStepThatCanBeTakenBackOnceItIsOver)
     const osg::Vec3f after = translationOf("Knot");
     EXPECT_GT(after[1], before[1] + 0.1F);
     EXPECT_TRUE(window.isWindowModified());
-    EXPECT_TRUE(list->isEnabled());
-    EXPECT_EQ(list->model()->rowCount(), 2);
 
     send(QEvent::MouseButtonPress, position, Qt::RightButton, Qt::RightButton);
     send(QEvent::MouseMove, position + QPointF(20, 0), Qt::NoButton, Qt::RightButton);
@@ -164,6 +161,10 @@ TEST_F(TransformTools, AllSelectedObjectsGoAlongInOneStep)
     play({ key("Ctrl+Z") });
     EXPECT_EQ(translationOf("Knot"), knot);
     EXPECT_EQ(translationOf("Pawn"), pawnPlace);
+    run("object.locked", true);
+    drag("yaShape", 0.0, -10.0);
+    letGo();
+    EXPECT_EQ(problems.size(), 1) << "nobody sees why nothing moves";
 
     play({ key("Ctrl+A") });
     EXPECT_GT(stage().selectedObjects().size(), 8U);
@@ -182,7 +183,6 @@ TEST_F(TransformTools, SettingsReachTheGizmo)
     EXPECT_FALSE(action("gizmoClipping")->isEnabled()) << "no clip plane is selected";
 
     EXPECT_TRUE(run("settings.translationStep", 0.25));
-    EXPECT_EQ(nbTransformModel::the()->getTranslationPrecision(), 0.25);
     const osg::Vec3f before = translationOf("Knot");
     play({ key("X"), key("W") });
     drag("yaShape", 0.0, -13.0);
@@ -197,7 +197,6 @@ TEST_F(TransformTools, SettingsReachTheGizmo)
     EXPECT_TRUE(stage().gizmo().isLocalSpace());
     stage().gizmo().resetSettings();
     EXPECT_FALSE(stage().gizmo().isLocalSpace());
-    EXPECT_FALSE(stage().gizmo().isSnapping());
 }
 
 }  // namespace

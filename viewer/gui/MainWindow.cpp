@@ -124,8 +124,7 @@ void MainWindow::connectParts()
         sceneFiles->noteCommand(name);
         viewWidget->stage().edited();
     });
-    viewWidget->stage().setHeldCallback(
-        [this] { emit problem(tr("The view is held: \"Hold the view\" (Shift+H) lets it go")); });
+    viewWidget->stage().setRefusalCallback([this](const QString& text) { emit problem(text); });
     viewWidget->stage().setChangedCallback([this] {
         actions->update();
         updateStatus();
@@ -205,9 +204,7 @@ void MainWindow::setShownTitle(const QString& file)
 
 void MainWindow::updateStatus()
 {
-    Stage& stage = viewWidget->stage();
-    statusLine->update(stage, loader->isRunning());
-    statusLine->showFrame(viewWidget->frameText());
+    statusLine->update(viewWidget->stage(), loader->isRunning(), viewWidget->frameText());
     docks->refresh();
 }
 

@@ -59,8 +59,8 @@ ObjectPanel::ObjectPanel(Stage& stage)
 void ObjectPanel::refresh()
 {
     Panel::refresh();
-    const QString name = value("object.name").toString();
-    nameLabel->setText(name.isEmpty() ? tr("Nothing selected") : shownName(name));
+    const QJsonValue name = value("object.name");
+    nameLabel->setText(name.isNull() ? tr("Nothing selected") : shownName(name.toString()));
 }
 
 }  // namespace viewer

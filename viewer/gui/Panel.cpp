@@ -4,6 +4,7 @@
 #include "viewer/gui/VectorEdit.h"
 #include "viewer/loading/PictureDecoding.h"
 #include "viewer/stage/Stage.h"
+#include "viewer/texts/Text.h"
 
 #include <nbKernelServices/nbUndoService.h>
 
@@ -31,6 +32,15 @@ Widget* named(Widget* widget, const QString& command)
 }
 
 }  // namespace
+
+QString shownName(const QString& name)
+{
+    constexpr int kMost = 40;
+    const QString line = name.simplified();
+    return line.isEmpty()     ? Text::tr("(no name)")
+        : line.size() > kMost ? line.left(kMost - 1) + QChar(0x2026)
+                              : line;
+}
 
 bool Panel::run(const QString& command, const QJsonValue& value)
 {

@@ -91,13 +91,8 @@ private:
     std::vector<Field> fields;
 };
 
-/// A name as a label shows it: one line that is no wider than a panel.
-inline QString shownName(const QString& name)
-{
-    constexpr int kMost = 40;
-    const QString line = name.simplified();
-    return line.size() > kMost ? line.left(kMost - 1) + QChar(0x2026) : line;
-}
+/// A name as a label shows it: one line that is no wider than a panel; a word for none.
+QString shownName(const QString& name);
 
 /// Sets a text that may be there already.
 template <class Label>

@@ -64,19 +64,14 @@ void ScenePanel::refresh()
         collectShape({}, 0, shape);
         if (shape != shown) {
             shown = shape;
-            rebuild();
+            const QSignalBlocker blocker(tree);
+            tree->clear();
+            addObjects({}, {}, tree->invisibleRootItem());
+            tree->expandToDepth(1);
         }
         showStates();
     }
     showSelection();
-}
-
-void ScenePanel::rebuild()
-{
-    const QSignalBlocker blocker(tree);
-    tree->clear();
-    addObjects({}, {}, tree->invisibleRootItem());
-    tree->expandToDepth(1);
 }
 
 void ScenePanel::addObjects(const osg::NodePtr& parent, const QString& parentPath,
@@ -100,7 +95,7 @@ void ScenePanel::showStates()
         const auto node = resolveContainer<osg::NodePtr>((*item)->data(0, kIdRole).toUInt());
         const QString name = QString::fromStdString(nbNodeUtils::getName(node));
         const bool isLocked = !nbNodePermission::allows(node, nbNodePermission::Transform);
-        (*item)->setText(0, name.isEmpty() ? tr("(no name)") : name);
+        (*item)->setText(0, name.isEmpty() ? shownName(name) : name);
         (*item)->setData(0, kNameRole, (*item)->text(0));
         (*item)->setCheckState(0, node->getActive() ? Qt::Checked : Qt::Unchecked);
         (*item)->setToolTip(0, isLocked ? tr("Locked") : QString());

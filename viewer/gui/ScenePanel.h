@@ -33,7 +33,6 @@ public:
     void addObjectActions(const QList<QAction*>& actions);
 
 private:
-    void rebuild();
     void addObjects(const osg::NodePtr& parent, const QString& parentPath, QTreeWidgetItem* item);
     void showStates();
     void showSelection();

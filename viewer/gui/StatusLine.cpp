@@ -22,10 +22,8 @@ QString selectionText(const Stage& stage)
 {
     const QString selected = shownName(QString::fromStdString(stage.selectedName()));
     const auto further = static_cast<int>(stage.selectedObjects().size()) - 1;
-    if (selected.isEmpty()) {
-        return StatusLine::tr("Nothing selected");
-    }
-    return further > 0 ? StatusLine::tr("Selected: %1 and %n more", nullptr, further).arg(selected)
+    return further < 0 ? StatusLine::tr("Nothing selected")
+        : further > 0  ? StatusLine::tr("Selected: %1 and %n more", nullptr, further).arg(selected)
                        : StatusLine::tr("Selected: %1").arg(selected);
 }
 
@@ -39,8 +37,9 @@ QString pointerText(Stage& stage)
             ? StatusLine::tr("%1: Ctrl snaps, Shift slows, type a number, Esc cancels").arg(text)
             : text;
     }
-    const QString hovered = shownName(QString::fromStdString(stage.preselectedName()));
-    return hovered.isEmpty() ? QString() : StatusLine::tr("Under the pointer: %1").arg(hovered);
+    const auto hovered = QString::fromStdString(stage.preselectedName());
+    return hovered.isEmpty() ? hovered
+                             : StatusLine::tr("Under the pointer: %1").arg(shownName(hovered));
 }
 
 }  // namespace
@@ -76,7 +75,7 @@ StatusLine::StatusLine(QStatusBar& bar)
     cancelButton->hide();
 }
 
-void StatusLine::update(Stage& stage, bool isLoading)
+void StatusLine::update(Stage& stage, bool isLoading, const QString& frame)
 {
     const QString ofTool =
         stage.activeTool() != nullptr ? stage.activeTool()->selectionText() : QString();
@@ -84,13 +83,9 @@ void StatusLine::update(Stage& stage, bool isLoading)
     setTextOf(handleLabel, pointerText(stage));
     setTextOf(valuesLabel, QString::fromStdString(stage.draggedValues()));
     setTextOf(sceneLabel, tr("%Ln triangles", nullptr, static_cast<int>(stage.triangleCount())));
+    setTextOf(frameLabel, frame);
     progress->setVisible(isLoading);
     cancelButton->setVisible(isLoading);
-}
-
-void StatusLine::showFrame(const QString& text)
-{
-    setTextOf(frameLabel, text);
 }
 
 void StatusLine::setProgress(ModelLoader::Phase phase, const QString& file, int percent)

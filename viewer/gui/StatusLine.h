@@ -24,10 +24,8 @@ public:
     /// @param bar  gets the labels; outlives this
     explicit StatusLine(QStatusBar& bar);
 
-    /// Shows how it stands now.
-    void update(Stage& stage, bool isLoading);
-    /// Shows a line about the last frame; nothing for an empty one.
-    void showFrame(const QString& text);
+    /// Shows how it stands now. @param frame  line about the last frame, "" for none
+    void update(Stage& stage, bool isLoading, const QString& frame);
     /// @param percent  0 .. 100
     void setProgress(ModelLoader::Phase phase, const QString& file, int percent);
 

@@ -220,18 +220,6 @@ std::vector<osg::NodePtr> topmost(const Stage& stage, QString& error)
     return top;
 }
 
-bool mayEdit(const std::vector<osg::NodePtr>& objects, QString& error)
-{
-    for (const osg::NodePtr& object : objects) {
-        if (!nbNodePermission::allows(object, nbNodePermission::Transform)) {
-            error = Text::tr("\"%1\" is locked")
-                        .arg(QString::fromStdString(nbNodeUtils::getName(object)));
-            return false;
-        }
-    }
-    return !objects.empty();
-}
-
 void recordChildren(const osg::NodePtr& parent)
 {
     nbUndoService::the()->record(
@@ -314,6 +302,18 @@ bool rename(Stage& stage, const QJsonValue& value, QString& error)
 }
 
 }  // namespace
+
+bool mayEdit(const std::vector<osg::NodePtr>& objects, QString& error)
+{
+    for (const osg::NodePtr& object : objects) {
+        if (!nbNodePermission::allows(object, nbNodePermission::Transform)) {
+            error = Text::tr("\"%1\" is locked")
+                        .arg(QString::fromStdString(nbNodeUtils::getName(object)));
+            return false;
+        }
+    }
+    return !objects.empty();
+}
 
 QString pathOf(const osg::NodePtr& object)
 {

@@ -6,6 +6,8 @@
 
 #include <QString>
 
+#include <vector>
+
 namespace viewer {
 
 class Stage;
@@ -16,6 +18,9 @@ QString pathOf(const osg::NodePtr& object);
 
 /// @return null if there is no object at a path
 osg::NodePtr objectAt(const QString& path);
+
+/// Whether there are objects and none of them is locked. @param error  gets the name of one that is
+bool mayEdit(const std::vector<osg::NodePtr>& objects, QString& error);
 
 /// Adds the commands and values that concern the selected objects:
 /// "scene.select" (array of paths), "object.translation", "object.rotation",

@@ -46,7 +46,14 @@ Stage::Stage(nbOSGWidget& view)
     manager.setCancelHandler([this] { edited(); });
     commandTable.setBusy([this] { return isDragging(); });
     nbec::manipulator::ManipulatorInteractionContext::connectDragKeys(manager);
-    gizmoController.setDragCallback([this] { changed(); });
+    gizmoController.setDragCallback([this] {
+        QString error;
+        const bool isEdit = isDragging() && gizmoController.shown() != Gizmo::CameraPivot;
+        if (isEdit && refusalCallback && !mayEdit(selectedObjects(), error)) {
+            refusalCallback(error);
+        }
+        changed();
+    });
     nbec::notification::NotificationManager::getInstance()->setChangeListener(
         [this] { renderWidget.update(); });
     manager.addContext(&selectionContext);

@@ -172,8 +172,11 @@ public:
 
     bool isViewHeld() const { return viewHeld; }
 
-    /// Sets what is called when somebody tries to move a view that is held.
-    void setHeldCallback(std::function<void()> callback) { heldCallback = std::move(callback); }
+    /// Sets what is told when somebody drags what is held or locked, one line.
+    void setRefusalCallback(std::function<void(const QString& text)> callback)
+    {
+        refusalCallback = std::move(callback);
+    }
 
     /// Shows all models from where the camera looks; the start view with the default direction if
     /// `reset` is set.
@@ -260,7 +263,7 @@ private:
     bool refuseMove() const;
 
     bool viewHeld = false;
-    std::function<void()> heldCallback;
+    std::function<void(const QString&)> refusalCallback;
     HeldCamera cameraContext;
     GizmoController gizmoController;
     nbBoundsMarker selectionMarker;

@@ -5,6 +5,7 @@
 #include "viewer/loading/StartScene.h"
 #include "viewer/stage/Stage.h"
 #include "viewer/stage/StageTool.h"
+#include "viewer/texts/Text.h"
 
 #include <nbInteraction/EventNames.h>
 #include <nbInteraction/InteractionEvent.h>
@@ -151,8 +152,8 @@ void Stage::frameSelection()
 
 bool Stage::refuseMove() const
 {
-    if (viewHeld && heldCallback) {
-        heldCallback();
+    if (viewHeld && refusalCallback) {
+        refusalCallback(Text::tr("The view is held: \"Hold the view\" (Shift+H) lets it go"));
     }
     return viewHeld;
 }

@@ -752,6 +752,14 @@
         <source>A click places the picture, the wheel turns it (%1°), Ctrl and the wheel size it (%2%); Shift slows, Esc ends</source>
         <translation>Ein Klick setzt das Bild, das Rad dreht es (%1°), Strg und Rad ändern seine Größe (%2 %); Umschalt verlangsamt, Esc beendet</translation>
     </message>
+    <message>
+        <source>The view is held: &quot;Hold the view&quot; (Shift+H) lets it go</source>
+        <translation>Die Ansicht ist festgehalten: „Ansicht festhalten“ (Umschalt+H) gibt sie frei</translation>
+    </message>
+    <message>
+        <source>(no name)</source>
+        <translation>(ohne Namen)</translation>
+    </message>
 </context>
 <context>
     <name>viewer::AboutBox</name>
@@ -870,10 +878,6 @@
     <message>
         <source>%1: a scene can only be opened by itself</source>
         <translation>%1: eine Szene kann nur allein geöffnet werden</translation>
-    </message>
-    <message>
-        <source>The view is held: &quot;Hold the view&quot; (Shift+H) lets it go</source>
-        <translation>Die Ansicht ist festgehalten: „Ansicht festhalten“ (Umschalt+H) gibt sie frei</translation>
     </message>
     <message>
         <source>Manual</source>
@@ -1679,10 +1683,6 @@
     <message>
         <source>Objects of the scene</source>
         <translation>Objekte der Szene</translation>
-    </message>
-    <message>
-        <source>(no name)</source>
-        <translation>(ohne Namen)</translation>
     </message>
     <message>
         <source>Locked</source>

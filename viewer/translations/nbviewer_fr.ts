@@ -752,6 +752,14 @@
         <source>A click places the picture, the wheel turns it (%1°), Ctrl and the wheel size it (%2%); Shift slows, Esc ends</source>
         <translation>Un clic place l’image, la molette la tourne (%1°), Ctrl et la molette changent sa taille (%2 %) ; Maj ralentit, Échap termine</translation>
     </message>
+    <message>
+        <source>The view is held: &quot;Hold the view&quot; (Shift+H) lets it go</source>
+        <translation>La vue est verrouillée : « Verrouiller la vue » (Maj+H) la libère</translation>
+    </message>
+    <message>
+        <source>(no name)</source>
+        <translation>(sans nom)</translation>
+    </message>
 </context>
 <context>
     <name>viewer::AboutBox</name>
@@ -870,10 +878,6 @@
     <message>
         <source>%1: a scene can only be opened by itself</source>
         <translation>%1&#xa0;: une scène ne peut être ouverte que seule</translation>
-    </message>
-    <message>
-        <source>The view is held: &quot;Hold the view&quot; (Shift+H) lets it go</source>
-        <translation>La vue est verrouillée : « Verrouiller la vue » (Maj+H) la libère</translation>
     </message>
     <message>
         <source>Manual</source>
@@ -1679,10 +1683,6 @@
     <message>
         <source>Objects of the scene</source>
         <translation>Objets de la scène</translation>
-    </message>
-    <message>
-        <source>(no name)</source>
-        <translation>(sans nom)</translation>
     </message>
     <message>
         <source>Locked</source>

@@ -750,6 +750,14 @@
         <source>A click places the picture, the wheel turns it (%1°), Ctrl and the wheel size it (%2%); Shift slows, Esc ends</source>
         <translation>单击放置图片，滚轮旋转（%1°），Ctrl 加滚轮缩放（%2%）；Shift 减速，Esc 结束</translation>
     </message>
+    <message>
+        <source>The view is held: &quot;Hold the view&quot; (Shift+H) lets it go</source>
+        <translation>视图已锁定：“锁定视图”(Shift+H) 可解除</translation>
+    </message>
+    <message>
+        <source>(no name)</source>
+        <translation>（无名称）</translation>
+    </message>
 </context>
 <context>
     <name>viewer::AboutBox</name>
@@ -868,10 +876,6 @@
     <message>
         <source>%1: a scene can only be opened by itself</source>
         <translation>%1：场景只能单独打开</translation>
-    </message>
-    <message>
-        <source>The view is held: &quot;Hold the view&quot; (Shift+H) lets it go</source>
-        <translation>视图已锁定：“锁定视图”(Shift+H) 可解除</translation>
     </message>
     <message>
         <source>Manual</source>
@@ -1677,10 +1681,6 @@
     <message>
         <source>Objects of the scene</source>
         <translation>场景中的对象</translation>
-    </message>
-    <message>
-        <source>(no name)</source>
-        <translation>（无名称）</translation>
     </message>
     <message>
         <source>Locked</source>
