@@ -38,6 +38,7 @@ PICTURES = {
     "camera": ("pivot", "2-turned-about", 190, 160, 800, 500),
     "planar": ("label", "2-dropped", 180, 80, 800, 500),
     "grab": ("label", "8-grabbing", 180, 120, 800, 500),
+    "preview": ("label", "2-before-the-click", 180, 170, 800, 500),
     "placement": ("label", "3-placing", 180, 170, 800, 500),
     "triplanar": ("triplanar", "2-from-three-sides", 170, 130, 800, 500),
     "uv": ("uv", "1-by-texture-coordinates", 200, 150, 800, 500),
