@@ -3,6 +3,7 @@
 
 #include <nbKernel/nbOSGWidget.h>
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -63,6 +64,7 @@ DragStep TextureGizmo::pictureStep(const View& view, const DragTrack& before) co
 {
     constexpr float kDegPerPixel = 0.5F;
     constexpr float kPixelsPerDoubling = 150.0F;
+    constexpr float kMostDoublings = 30.0F;  // beyond any screen, and finite both ways
     const Kind kind = pictureRow.action.kind;
     if (kind == Kind::Offset) {
         const std::optional<SurfacePlace> now = surfaceAt(view.getPointer());
@@ -72,7 +74,8 @@ DragStep TextureGizmo::pictureStep(const View& view, const DragTrack& before) co
         (view.getPointer() - pressed) * (1.0F / nbOSGWidget::getPixelRatio(-1, 1.0F));
     return { { kind,
                kind == Kind::Angle ? -turnSense * kDegPerPixel * way.x()
-                                   : std::exp2((way.x() - way.y()) / kPixelsPerDoubling) },
+                                   : std::exp2(std::clamp((way.x() - way.y()) / kPixelsPerDoubling,
+                                                          -kMostDoublings, kMostDoublings)) },
              before };
 }
 

@@ -229,6 +229,8 @@ TYPED_TEST(PictureGrab, ThePictureTurnsAndGrowsAboutTheTexel)
         ASSERT_TRUE(this->scene.send("process", from + Vec2f(120, 20))) << round;
         EXPECT_LT(this->pixelsBeside(from, before), 0.1F) << round;
         EXPECT_GT((this->seenAt(from + Vec2f(1, 0)) - beside).length(), 0);
+        this->scene.send("process", Pnt2f(round % 2 == 0 ? 1e6F : -1e6F, 20));
+        EXPECT_TRUE(std::isfinite(this->seenAt(from).length())) << round;
         this->scene.send("stop", from);
     }
 }
