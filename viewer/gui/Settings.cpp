@@ -16,6 +16,8 @@
 
 #include <QSettings>
 
+#include <algorithm>
+
 namespace viewer {
 namespace {
 
@@ -31,6 +33,41 @@ constexpr std::pair<const char*, BuiltInPalette> kPalettes[] = {
     { "colourBlind", BuiltInPalette::ForColourBlind },
 };
 
+using Axes = GizmoController::Axes;
+using Pivot = GizmoController::Pivot;
+
+constexpr std::pair<const char*, Axes> kAxes[] = {
+    { "world", Axes::World },
+    { "object", Axes::Own },
+    { "parent", Axes::Parent },
+    { "view", Axes::View },
+};
+
+constexpr std::pair<const char*, Pivot> kPivots[] = {
+    { "own", Pivot::Own },
+    { "first", Pivot::First },
+    { "common", Pivot::Common },
+};
+
+template <class Rows, class Value>
+QJsonValue wordOf(const Rows& rows, Value value)
+{
+    const auto* const row =
+        std::find_if(std::begin(rows), std::end(rows),
+                     [value](const auto& each) { return each.second == value; });
+    return row == std::end(rows) ? QJsonValue() : QJsonValue(QLatin1String(row->first));
+}
+
+/// @param word  of one of the rows
+template <class Rows>
+auto valueOf(const Rows& rows, const QJsonValue& word)
+{
+    return std::find_if(
+               std::begin(rows), std::end(rows),
+               [&word](const auto& each) { return word.toString() == QLatin1String(each.first); })
+        ->second;
+}
+
 QJsonValue presentPalette()
 {
     nbec::manipulator::HandlePalette present = nbec::manipulator::getHandlePalette();
@@ -45,13 +82,10 @@ QJsonValue presentPalette()
 
 void setPalette(const QJsonValue& wanted)
 {
-    for (const auto& [word, palette] : kPalettes) {
-        if (wanted.toString() == QLatin1String(word)) {
-            nbec::manipulator::HandlePalette chosen = nbec::manipulator::builtInPalette(palette);
-            chosen.hasLetters = nbec::manipulator::getHandlePalette().hasLetters;
-            nbec::manipulator::setHandlePalette(chosen);
-        }
-    }
+    nbec::manipulator::HandlePalette chosen =
+        nbec::manipulator::builtInPalette(valueOf(kPalettes, wanted));
+    chosen.hasLetters = nbec::manipulator::getHandlePalette().hasLetters;
+    nbec::manipulator::setHandlePalette(chosen);
 }
 
 Setting choice(const char* name, const char* label, std::function<QJsonValue()> read,
@@ -128,6 +162,24 @@ void Settings::addHandles()
     using nbec::interaction::PickSlop;
     GizmoController& gizmo = window.view().stage().gizmo();
     const Setting rows[] = {
+        choice(
+            "axes", QT_TR_NOOP("Axes of the handles"),
+            [&gizmo] { return wordOf(kAxes, gizmo.axes()); },
+            [this, &gizmo](const QJsonValue& word) {
+                gizmo.setAxes(valueOf(kAxes, word));
+                window.view().stage().edited();
+            },
+            { { "world", QT_TR_NOOP("World") },
+              { "object", QT_TR_NOOP("Object") },
+              { "parent", QT_TR_NOOP("Object above") },
+              { "view", QT_TR_NOOP("Screen") } }),
+        choice(
+            "pivot", QT_TR_NOOP("Several objects turn and scale"),
+            [&gizmo] { return wordOf(kPivots, gizmo.pivot()); },
+            [&gizmo](const QJsonValue& word) { gizmo.setPivot(valueOf(kPivots, word)); },
+            { { "own", QT_TR_NOOP("Each about its own pivot") },
+              { "first", QT_TR_NOOP("About the first one's pivot") },
+              { "common", QT_TR_NOOP("About the middle of their pivots") } }),
         choice("palette", QT_TR_NOOP("Colours of handles"), &presentPalette, &setPalette,
                { { "classic", QT_TR_NOOP("Classic") },
                  { "soft", QT_TR_NOOP("Soft") },
@@ -172,6 +224,13 @@ void Settings::addHandles()
           [&gizmo] { return static_cast<double>(gizmo.size()); },
           [&gizmo](const QJsonValue& size) { gizmo.setSize(static_cast<float>(size.toDouble())); },
           8.0, 199.0, 4.0 },
+        { "handlePixels", QT_TR_NOOP("Length of arrows in pixels, 0 by that size"),
+          [] { return static_cast<double>(getSizePolicy().arrowPx); },
+          [&gizmo](const QJsonValue& pixels) {
+              setSizePolicy({ static_cast<float>(pixels.toDouble()), 1.0F });
+              gizmo.followCamera();
+          },
+          0.0, 400.0, 8.0 },
     };
     settings.insert(settings.end(), std::begin(rows), std::end(rows));
     addFurtherHandles();

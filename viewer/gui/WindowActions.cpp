@@ -380,7 +380,11 @@ void WindowActions::update()
     redo->setText(redoText.isEmpty() ? tr("&Redo") : tr("&Redo %1").arg(redoText));
     describe(undo, withoutMnemonic(undo->text()));
     describe(redo, withoutMnemonic(redo->text()));
-    localSpace->setIconText(localSpace->isChecked() ? tr("Object") : tr("World"));
+    const GizmoController::Axes axes = stage.gizmo().axes();
+    localSpace->setIconText(axes == GizmoController::Axes::Own          ? tr("Object")
+                                : axes == GizmoController::Axes::Parent ? tr("Object above")
+                                : axes == GizmoController::Axes::View   ? tr("Screen")
+                                                                        : tr("World"));
 }
 
 void WindowActions::setRecentFiles(const QStringList& files)

@@ -176,7 +176,29 @@ std::vector<osg::NodePtr> GizmoController::targets() const
 
 void GizmoController::setLocalSpace(bool on)
 {
-    Transform::setLocalSpaceManipulator(on);
+    setAxes(on ? Axes::Own : Axes::World);
+}
+
+void GizmoController::setAxes(Axes which)
+{
+    const bool isShared = which == Axes::World || which == Axes::Own;
+    ownAxes = isShared ? Axes::Shared : which;
+    Transform::setLocalSpaceManipulator(which == Axes::Own);
+    transform.setAxes(ownAxes);
+    followCamera();
+}
+
+GizmoController::Axes GizmoController::axes() const
+{
+    return ownAxes != Axes::Shared            ? ownAxes
+        : transform.isLocalSpaceManipulator() ? Axes::Own
+                                              : Axes::World;
+}
+
+void GizmoController::setPivot(Pivot which)
+{
+    turnedAbout = which;
+    transform.setPivot(which);
     followCamera();
 }
 
@@ -213,6 +235,7 @@ void GizmoController::setSize(float size)
 void GizmoController::resetSettings()
 {
     setLocalSpace(false);
+    setPivot(Pivot::Own);
     setSnapping(false);
     setSnapToScene(false);
     setSize(kUsualSize);

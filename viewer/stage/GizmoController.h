@@ -70,7 +70,19 @@ public:
     /// Aligns the handles with the axes of the target instead of the world's.
     void setLocalSpace(bool on);
 
-    bool isLocalSpace() const { return transform.isLocalSpaceManipulator(); }
+    bool isLocalSpace() const { return axes() == Axes::Own; }
+
+    using Axes = nbec::manipulator::transform::GizmoAxes;
+    using Pivot = nbec::manipulator::transform::GizmoPivot;
+
+    /// Along what the handles stand: World, Own (as setLocalSpace()), Parent or View.
+    void setAxes(Axes which);
+    Axes axes() const;
+
+    /// About what several objects are turned and scaled: Own, First or Common.
+    void setPivot(Pivot which);
+
+    Pivot pivot() const { return turnedAbout; }
 
     /// Lets drags advance in the steps of the transform model.
     void setSnapping(bool on);
@@ -92,7 +104,8 @@ public:
 
     float size() const { return transform.getManipulatorSize(); }
 
-    /// World space, no snapping of either kind, usual size and steps: what the program starts with.
+    /// World space, pivots of their own, no snapping of either kind, usual size and steps: what the
+    /// program starts with.
     void resetSettings();
 
     /// Puts the pivots of all targets to the centres of their volumes, as one undo step. The
@@ -142,6 +155,8 @@ private:
     bool snapping = false;
     bool snapToScene = false;
     FurtherHandles further;
+    Axes ownAxes = Axes::Shared;
+    Pivot turnedAbout = Pivot::Own;
     bool pointerInside = true;
 };
 

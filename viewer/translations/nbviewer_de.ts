@@ -1819,6 +1819,46 @@
         <source>Handles stand on the viewer&apos;s side</source>
         <translation>Griffe stehen auf der Seite des Betrachters</translation>
     </message>
+    <message>
+        <source>Axes of the handles</source>
+        <translation>Achsen der Griffe</translation>
+    </message>
+    <message>
+        <source>World</source>
+        <translation>Welt</translation>
+    </message>
+    <message>
+        <source>Object</source>
+        <translation>Objekt</translation>
+    </message>
+    <message>
+        <source>Object above</source>
+        <translation>Objekt darüber</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>Bildschirm</translation>
+    </message>
+    <message>
+        <source>Several objects turn and scale</source>
+        <translation>Mehrere Objekte drehen und skalieren sich</translation>
+    </message>
+    <message>
+        <source>Each about its own pivot</source>
+        <translation>Jedes um seinen Drehpunkt</translation>
+    </message>
+    <message>
+        <source>About the first one&apos;s pivot</source>
+        <translation>Um den Drehpunkt des ersten</translation>
+    </message>
+    <message>
+        <source>About the middle of their pivots</source>
+        <translation>Um die Mitte ihrer Drehpunkte</translation>
+    </message>
+    <message>
+        <source>Length of arrows in pixels, 0 by that size</source>
+        <translation>Länge der Pfeile in Pixeln, 0 nach dieser Größe</translation>
+    </message>
 </context>
 <context>
     <name>viewer::SettingsPanel</name>
@@ -2254,6 +2294,14 @@
     <message>
         <source>Models (%1)</source>
         <translation>Modelle (%1)</translation>
+    </message>
+    <message>
+        <source>Object above</source>
+        <translation>Objekt darüber</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>Bildschirm</translation>
     </message>
 </context>
 </TS>

@@ -1819,6 +1819,46 @@
         <source>Handles stand on the viewer&apos;s side</source>
         <translation>Les poignées se tiennent du côté de l&apos;observateur</translation>
     </message>
+    <message>
+        <source>Axes of the handles</source>
+        <translation>Axes des poignées</translation>
+    </message>
+    <message>
+        <source>World</source>
+        <translation>Monde</translation>
+    </message>
+    <message>
+        <source>Object</source>
+        <translation>Objet</translation>
+    </message>
+    <message>
+        <source>Object above</source>
+        <translation>Objet parent</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>Écran</translation>
+    </message>
+    <message>
+        <source>Several objects turn and scale</source>
+        <translation>Plusieurs objets tournent et changent d&apos;échelle</translation>
+    </message>
+    <message>
+        <source>Each about its own pivot</source>
+        <translation>Chacun autour de son pivot</translation>
+    </message>
+    <message>
+        <source>About the first one&apos;s pivot</source>
+        <translation>Autour du pivot du premier</translation>
+    </message>
+    <message>
+        <source>About the middle of their pivots</source>
+        <translation>Autour du milieu de leurs pivots</translation>
+    </message>
+    <message>
+        <source>Length of arrows in pixels, 0 by that size</source>
+        <translation>Longueur des flèches en pixels, 0 selon cette taille</translation>
+    </message>
 </context>
 <context>
     <name>viewer::SettingsPanel</name>
@@ -2254,6 +2294,14 @@
     <message>
         <source>Models (%1)</source>
         <translation>Modèles (%1)</translation>
+    </message>
+    <message>
+        <source>Object above</source>
+        <translation>Objet parent</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>Écran</translation>
     </message>
 </context>
 </TS>

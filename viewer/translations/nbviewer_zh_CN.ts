@@ -1817,6 +1817,46 @@
         <source>Handles stand on the viewer&apos;s side</source>
         <translation>手柄位于观察者一侧</translation>
     </message>
+    <message>
+        <source>Axes of the handles</source>
+        <translation>控制柄的轴</translation>
+    </message>
+    <message>
+        <source>World</source>
+        <translation>世界</translation>
+    </message>
+    <message>
+        <source>Object</source>
+        <translation>对象</translation>
+    </message>
+    <message>
+        <source>Object above</source>
+        <translation>上级对象</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>屏幕</translation>
+    </message>
+    <message>
+        <source>Several objects turn and scale</source>
+        <translation>多个对象旋转和缩放</translation>
+    </message>
+    <message>
+        <source>Each about its own pivot</source>
+        <translation>各绕自身枢轴</translation>
+    </message>
+    <message>
+        <source>About the first one&apos;s pivot</source>
+        <translation>绕第一个对象的枢轴</translation>
+    </message>
+    <message>
+        <source>About the middle of their pivots</source>
+        <translation>绕各枢轴的中点</translation>
+    </message>
+    <message>
+        <source>Length of arrows in pixels, 0 by that size</source>
+        <translation>箭头长度（像素），0 表示按上述大小</translation>
+    </message>
 </context>
 <context>
     <name>viewer::SettingsPanel</name>
@@ -2250,6 +2290,14 @@
     <message>
         <source>Models (%1)</source>
         <translation>模型 (%1)</translation>
+    </message>
+    <message>
+        <source>Object above</source>
+        <translation>上级对象</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>屏幕</translation>
     </message>
 </context>
 </TS>
