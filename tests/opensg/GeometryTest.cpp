@@ -47,6 +47,7 @@ std::vector<std::vector<Int32>> cornersFrom(Iterator it)
 {
     std::vector<std::vector<Int32>> result;
     for (; !it.isAtEnd(); ++it) {
+        EXPECT_EQ(it.getIndex(), static_cast<Int32>(result.size()));
         result.emplace_back();
         for (UInt32 k = 0; k < it.getLength(); ++k) {
             result.back().push_back(it.getPositionIndex(static_cast<Int32>(k)));
@@ -113,6 +114,9 @@ TEST(Iterators, SplitEveryKindOfPrimitive)
     const std::vector<Pnt3f> points(6);
 
     const std::tuple<const char*, GLenum, UInt32, Corners, Corners> cases[] = {
+        { "strip", GL_TRIANGLE_STRIP, 5, { { 0, 1, 2 }, { 2, 1, 3 }, { 2, 3, 4 } }, {} },
+        { "fan", GL_TRIANGLE_FAN, 5, { { 0, 1, 2 }, { 0, 2, 3 }, { 0, 3, 4 } }, {} },
+        { "polygon", GL_POLYGON, 5, { { 0, 1, 2 }, { 0, 2, 3 }, { 0, 3, 4 } }, {} },
         { "quad strip",
           GL_QUAD_STRIP,
           6,

@@ -38,7 +38,8 @@ protected:
     InteractionManager manager;
 };
 
-TEST_F(InteractionManagerTest, AsksHigherPositionsFirstAndAmongEqualsTheLaterAdded)
+TEST_F(InteractionManagerTest,
+       AsksRaisedContextsFirstThenHigherPositionsAndAmongEqualsTheLaterAdded)
 {
     RecordingContext low(log, "low", Camera);
     RecordingContext early(log, "early", Manipulator);
@@ -47,41 +48,31 @@ TEST_F(InteractionManagerTest, AsksHigherPositionsFirstAndAmongEqualsTheLaterAdd
     for (RecordingContext* context : { &early, &low, &between, &late }) {
         add(*context);
     }
-
-    EXPECT_FALSE(send("custom", "any tool", "any hint"));
-
-    EXPECT_THAT(log,
-                ElementsAre("late custom any tool/any hint", "early custom any tool/any hint",
-                            "between custom any tool/any hint", "low custom any tool/any hint"));
-}
-
-TEST_F(InteractionManagerTest, RaisedContextsComeFirstTheLatestBeforeTheOthers)
-{
-    RecordingContext top(log, "top", Overlay);
-    RecordingContext first(log, "first", Tool);
-    RecordingContext second(log, "second", Camera);
-    for (RecordingContext* context : { &top, &first, &second }) {
-        add(*context);
-    }
-
     const auto asked = [&] {
         log.clear();
-        send("custom", "t", "h");
+        EXPECT_FALSE(send("custom", "t", "h"));
         return log;
     };
-    manager.raise(&first);
-    manager.raise(&second);
-    EXPECT_THAT(asked(), ElementsAre("second custom t/h", "first custom t/h", "top custom t/h"));
-    EXPECT_TRUE(first.isRaised());
+    const CallLog inOrder { "late custom t/h", "early custom t/h", "between custom t/h",
+                            "low custom t/h" };
+    EXPECT_EQ(asked(), inOrder);
+    manager.raise(&between);
+    manager.raise(&low);
+    EXPECT_THAT(
+        asked(),
+        ElementsAre("low custom t/h", "between custom t/h", "late custom t/h", "early custom t/h"));
+    EXPECT_TRUE(between.isRaised());
 
-    manager.lower(&second);
-    EXPECT_THAT(asked(), ElementsAre("first custom t/h", "top custom t/h", "second custom t/h"));
-    EXPECT_FALSE(second.isRaised());
+    manager.lower(&low);
+    EXPECT_THAT(
+        asked(),
+        ElementsAre("between custom t/h", "late custom t/h", "early custom t/h", "low custom t/h"));
+    EXPECT_FALSE(low.isRaised());
 
-    manager.removeContext(&first);
-    EXPECT_FALSE(first.isRaised());
-    manager.addContext(&first);
-    EXPECT_THAT(asked(), ElementsAre("top custom t/h", "first custom t/h", "second custom t/h"));
+    manager.removeContext(&between);
+    EXPECT_FALSE(between.isRaised());
+    manager.addContext(&between);
+    EXPECT_EQ(asked(), inOrder);
 }
 
 TEST_F(InteractionManagerTest, TakerEndsTheDeliveryAndDisabledContextsAreLeftOut)
@@ -275,7 +266,7 @@ TEST_F(InteractionManagerTest, EitherSideMayDieFirst)
 using nbtest::expectSlotsFrom;
 using nbtest::virtualSlot;
 
-TEST(InteractionContext, VirtualOperationsKeepTheirSlots)
+TEST(Interaction, VirtualOperationsKeepTheirSlots)
 {
     using Context = InteractionContext;
     expectSlotsFrom(0, &Context::getInteractionManager, &Context::enabled, &Context::disabled,
@@ -283,10 +274,6 @@ TEST(InteractionContext, VirtualOperationsKeepTheirSlots)
                     &Context::contextLowered, &Context::pointerMoved, &Context::cameraMoved,
                     &Context::triggerEvent, &Context::isRaised, &Context::isActive,
                     &Context::isEnabled, &Context::getPreferredPosition, &Context::selectMode);
-}
-
-TEST(AbstractInteractionTool, VirtualOperationsKeepTheirSlots)
-{
     using Tool = AbstractInteractionTool;
     expectSlotsFrom(0, &Tool::setToolMode, &Tool::activateTool, &Tool::deactivateTool,
                     &Tool::isActive, &Tool::startTool, &Tool::processTool, &Tool::stopTool,

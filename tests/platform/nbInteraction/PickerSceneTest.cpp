@@ -137,9 +137,10 @@ TEST_F(PickerScene, NormalOfASmoothMeshIsMixedFromThatOfItsVertices)
     }
 }
 
-TEST_F(PickerScene, MissLeavesNoHitData)
+TEST_F(PickerScene, MissesAndDestroyedNodesLeaveNoHitData)
 {
-    hang(scene, box(2.0f));
+    const osg::NodePtr cube = box(2.0f);
+    hang(scene, cube);
     const osg::Pnt2f misses[] = { { 100.0f, 100.0f }, { -1.0f, 300.0f }, { 800.0f, 300.0f } };
     for (const osg::Pnt2f& miss : misses) {
         ASSERT_NE(pickAt(400.0f, 300.0f), osg::NullFC);
@@ -147,18 +148,10 @@ TEST_F(PickerScene, MissLeavesNoHitData)
         EXPECT_EQ(picker.getHitNode(), osg::NullFC);
         EXPECT_EQ(picker.getHitNormal(), osg::Vec3f());
     }
-}
-
-TEST_F(PickerScene, DestroyedNodesReadAsNull)
-{
-    const osg::NodePtr cube = box(2.0f);
     const osg::NodePtr behind = placed(0.0f, 0.0f, -3.0f, box(3.0f));
-    hang(scene, cube);
     hang(scene, behind);
     ASSERT_EQ(pickAt(400.0f, 300.0f), cube);
-
     scene->subChild(cube);
-
     EXPECT_EQ(picker.getHitNode(), osg::NullFC);
     EXPECT_EQ(pickAt(400.0f, 300.0f), behind->getChild(0));
 }
@@ -290,52 +283,36 @@ TEST_F(PickerScene, RectangleTakesWhatLiesWhollyInside)
     EXPECT_EQ(picker.pickRectangle({ 500, 200, 200, 200 }), Nodes {});
 }
 
-/// A plane whose frame is a transform node of its own; the half with x below the frame's origin is
-/// cut away.
-class PickerClipping : public PickerTest
+/// A clip plane whose frame is a transform node of its own cuts away what has x below the frame's
+/// origin, from one item and from many.
+TEST_F(PickerScene, WhatIsCutAwayIsPassedThrough)
 {
-protected:
-    PickerClipping()
-        : frame(placed(0.0f, 0.0f, 0.0f, osg::makeCoredNode<osg::Group>()))
-        , cut(osg::makeCoredNode<osg::ClipPlane3D>(&plane))
-    {
-        hang(nbScenegraph::getRootNode(), frame);
-        hang(nbScenegraph::getRootNode(), cut);
-        const nbEdit edit(plane, osg::FieldBits::AllFields);
-        plane->setEquation(osg::Vec4f(1.0f, 0.0f, 0.0f, 0.0f));
-        plane->setTransformNode(frame);
-    }
-
-    osg::NodePtr frame;
     osg::ClipPlane3DPtr plane;
-    osg::NodePtr cut;
-};
-
-TEST_F(PickerClipping, SwitchedOffOrLiftedItCutsNothing)
-{
+    const osg::NodePtr cut = osg::makeCoredNode<osg::ClipPlane3D>(&plane);
+    const osg::NodePtr frame = placed(0.0f, 0.0f, 0.0f, osg::makeCoredNode<osg::Group>());
+    hang(scene, frame);
+    hang(scene, cut);
+    nbtest::edited(plane)->setEquation(osg::Vec4f(1.0f, 0.0f, 0.0f, 0.0f));
+    nbtest::edited(plane)->setTransformNode(frame);
     const osg::NodePtr cube = box(4.0f);
     hang(cut, cube);
-    ASSERT_EQ(pickAt(380.0f, 300.0f), osg::NullFC);
+    EXPECT_EQ(pickAt(380.0f, 300.0f), osg::NullFC);
 
     nbtest::edited(plane, osg::ClipPlane3D::EnableFieldMask)->setEnable(false);
     EXPECT_EQ(pickAt(380.0f, 300.0f), cube);
     nbtest::edited(plane, osg::ClipPlane3D::EnableFieldMask)->setEnable(true);
     EXPECT_EQ(pickAt(380.0f, 300.0f), osg::NullFC);
-    hang(nbScenegraph::getRootNode(), cube);
+    hang(scene, cube);
     EXPECT_EQ(pickAt(380.0f, 300.0f), cube);
-}
 
-TEST_F(PickerClipping, ManyItemsAreCutAlike)
-{
+    scene->subChild(cube);
     std::vector<osg::NodePtr> cubes;
     for (int i = -4; i <= 4; ++i) {
         cubes.push_back(box(0.8f));
         hang(cut, placed(static_cast<float>(i), 0.0f, 0.0f, cubes.back()));
     }
-
     EXPECT_EQ(pickAt(400.0f + 60.0f, 300.0f), cubes[6]);
     EXPECT_EQ(pickAt(400.0f - 60.0f, 300.0f), osg::NullFC);
-
     // A rectangle takes what is seen of them.
     EXPECT_EQ(picker.pickRectangle(QRect(0, 0, 800, 600)).size(), 5U);
 }

@@ -28,7 +28,6 @@ using Attributes = std::vector<std::pair<const char*, boost::any>>;
 
 constexpr float kTolerance = 1e-5f;
 constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
-constexpr float kInfinity = std::numeric_limits<float>::infinity();
 inline const std::string kDiffuse = osg::UberMaterial::kDiffuseComponent;
 
 inline void expectNear(const osg::Vec3f& found, const osg::Vec3f& expected, const char* what)

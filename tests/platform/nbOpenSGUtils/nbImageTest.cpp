@@ -9,24 +9,8 @@
 
 #include <ChangeCount.h>
 
-namespace {
-
-using Image = osg::Image;
+using osg::Image;
 using Bytes = std::vector<osg::UInt8>;
-
-osg::RefPtr<osg::ImagePtr> makeImage(osg::UInt32 format, const Bytes& pixels, int width)
-{
-    osg::RefPtr<osg::ImagePtr> image(Image::create());
-    EXPECT_TRUE(image->set(format, width, 1, 1, 1, 1, 0.0, pixels.data()));
-    return image;
-}
-
-Bytes bytesOf(const osg::ImagePtr& image)
-{
-    return { image->getData(), image->getData() + image->getSize() };
-}
-
-}  // namespace
 
 TEST(nbImage, InvertsAlphaOfAllFormatsThatHaveItAndLeavesColors)
 {
@@ -38,12 +22,13 @@ TEST(nbImage, InvertsAlphaOfAllFormatsThatHaveItAndLeavesColors)
         { Image::OSG_BGRA_PF, { 1, 2, 3, 4, 5, 6, 7, 8 }, { 1, 2, 3, 251, 5, 6, 7, 247 } },
     };
     for (const auto& [format, before, after] : rows) {
-        const auto image = makeImage(format, before, 2);
+        const osg::RefPtr<osg::ImagePtr> image(Image::create());
+        ASSERT_TRUE(image->set(format, 2, 1, 1, 1, 1, 0.0, before.data()));
         const osg::UInt32 edits = osg::getChangeCount(image.get());
 
         EXPECT_TRUE(nbImage::invertAlpha(image.get()));
 
-        EXPECT_EQ(bytesOf(image.get()), after) << format;
+        EXPECT_EQ(Bytes(image->getData(), image->getData() + image->getSize()), after) << format;
         EXPECT_GT(osg::getChangeCount(image.get()), edits) << "who shows the image must see it";
     }
 }
