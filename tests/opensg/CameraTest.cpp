@@ -15,37 +15,18 @@
 
 OSG_USING_NAMESPACE
 
-namespace {
-
-class Cameras : public testing::Test
+TEST(Cameras, RaysKeepTheirDirectionFarFromTheOriginAndNeedAWindow)
 {
-protected:
-    Cameras()
-        : window(PassiveWindow::create())
-        , viewport(Viewport::create())
-        , camera(PerspectiveCamera::create())
-        , beacon(makeCoredNode<Transform>(&beaconCore))
-    {
-        viewport->setSize(0.f, 0.f, 1.f, 1.f);
-        window->setSize(800, 600);
-        window->addPort(viewport);
-        camera->setBeacon(beacon);
-        camera->setFov(osgdegree2rad(90.f));
-        camera->setNear(1.f);
-        camera->setFar(100.f);
-    }
-
+    const RefPtr<PassiveWindowPtr> window(PassiveWindow::create());
+    const RefPtr<ViewportPtr> viewport(Viewport::create());
+    const RefPtr<PerspectiveCameraPtr> camera(PerspectiveCamera::create());
     TransformPtr beaconCore;
-    RefPtr<PassiveWindowPtr> window;
-    RefPtr<ViewportPtr> viewport;
-    RefPtr<PerspectiveCameraPtr> camera;
-    RefPtr<NodePtr> beacon;
-};
-
-}  // namespace
-
-TEST_F(Cameras, RayKeepsItsDirectionFarFromTheOriginAndWithAWideDepthRange)
-{
+    const RefPtr<NodePtr> beacon(makeCoredNode<Transform>(&beaconCore));
+    viewport->setSize(0.f, 0.f, 1.f, 1.f);
+    window->setSize(800, 600);
+    window->addPort(viewport);
+    camera->setBeacon(beacon);
+    camera->setFov(osgdegree2rad(90.f));
     camera->setNear(0.001f);
     camera->setFar(1e6f);
     beaconCore->getMatrix().setTranslate(Vec3f(4096.f, -2048.f, 8192.f));
@@ -59,13 +40,9 @@ TEST_F(Cameras, RayKeepsItsDirectionFarFromTheOriginAndWithAWideDepthRange)
     EXPECT_NEAR(line.getDirection()[0], 2.f / 3.f / length, 1e-5f);
     EXPECT_NEAR(line.getDirection()[1], 0.5f / length, 1e-5f);
     EXPECT_NEAR(line.getDirection()[2], -1.f / length, 1e-5f);
-}
 
-TEST_F(Cameras, ViewportOutsideAnyWindowHasNoRays)
-{
     window->subPort(viewport);
-    Line line(Pnt3f(1.f, 2.f, 3.f), Vec3f(0.f, 1.f, 0.f));
-
+    line = Line(Pnt3f(1.f, 2.f, 3.f), Vec3f(0.f, 1.f, 0.f));
     EXPECT_TRUE(viewport->getParent() == NullFC);
     EXPECT_FALSE(camera->calcViewRay(line, 400, 300, *viewport.get()));
     EXPECT_FLOAT_EQ(line.getPosition()[2], 3.f);

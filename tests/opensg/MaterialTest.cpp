@@ -19,8 +19,8 @@ TEST(Materials, UniformsClearedDirectlyAreFreed)
         shader->getMFParameters()->clear();
         shader->setUniformParameter("c", Int32(3));
 
-        EXPECT_EQ(nbtest::ContainerCensus().count("ShaderParameterReal"),
-                  before.count("ShaderParameterReal"));
+        EXPECT_EQ(nbtest::ContainerCensus().differenceTo(before),
+                  "SHLChunk +1, ShaderParameterInt +1");
         Int32 value = 0;
         EXPECT_TRUE(shader->getUniformParameter("c", value));
         EXPECT_EQ(value, 3);

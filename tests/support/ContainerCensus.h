@@ -35,13 +35,6 @@ public:
         }
     }
 
-    /// Of exactly this type.
-    long count(const std::string& typeName) const
-    {
-        const auto found = countByType.find(typeName);
-        return found != countByType.end() ? found->second : 0;
-    }
-
     /// What is more or less than in an earlier census: "Group +1, Node -2"; empty if nothing is.
     std::string differenceTo(const ContainerCensus& earlier) const
     {

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include <nbKernel/nbOSGWidget.h>
-#include <nbKernel/nbScenegraph.h>
 
 #include <OpenSG/OSGLine.h>
 

@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "tests/platform/support/Edited.h"
-
 #include <nbKernel/nbOSGWidget.h>
 #include <nbKernelServices/nbKernelServiceFactory.h>
 #include <nbKernelServices/nbObjectService.h>

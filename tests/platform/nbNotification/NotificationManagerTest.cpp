@@ -3,7 +3,6 @@
 
 #include <nbNotification/CameraNotifier.h>
 #include <nbNotification/NotificationManager.h>
-#include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGRefPtr.h>

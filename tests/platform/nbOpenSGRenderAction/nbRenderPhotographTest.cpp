@@ -7,7 +7,6 @@
 
 #include <cstdlib>
 #include <limits>
-#include <memory>
 
 #include <tests/platform/support/RenderTest.h>
 

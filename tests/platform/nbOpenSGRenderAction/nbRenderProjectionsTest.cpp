@@ -41,8 +41,10 @@ protected:
         });
     }
 
-    /// As below, with the frame turned about an axis of the object.
-    void setOneColorPerAxis(const osg::Vec3f& rotation, const osg::Vec3f& axis, float angle)
+    /// Each projection shows the middle of one quarter only: that along x red, y green, z blue. The
+    /// frame may be turned about an axis of the object.
+    void setOneColorPerAxis(const osg::Vec3f& rotation = {},
+                            const osg::Vec3f& axis = { 1.f, 0.f, 0.f }, float angle = 0.f)
     {
         osg::Vec3f offset(0.25f, 0.25f, 0.25f);  // in the frame
         osg::Quaternion(axis, angle).multVec(offset, offset);
@@ -52,15 +54,6 @@ protected:
             s.setTriplanarOffsetV(osg::Vec3f(offset.z(), offset.z(), offset.y()));
             s.setTriplanarRepeatU(osg::Vec3f(1.f, 3.f, 1.f));
             s.setTriplanarRepeatV(osg::Vec3f(1.f, 1.f, 3.f));
-        });
-    }
-
-    /// Each projection shows the middle of one quarter only: that along x red, y green, z blue.
-    void setOneColorPerAxis()
-    {
-        edit([](Settings& s) {
-            s.setTriplanarOffsetU(osg::Vec3f(0.25f, 0.75f, 0.25f));
-            s.setTriplanarOffsetV(osg::Vec3f(0.25f, 0.25f, 0.75f));
         });
     }
 
@@ -231,7 +224,6 @@ TEST_F(nbRenderProjectionsTest, TriplanarSizesAreTheWorldsAlongTheObjectsAxes)
 
     // A slope of 1 in 3 that the scale makes one of 45 degrees.
     setOneColorPerAxis();
-    setTriplanarSize(100.f);
     const osg::NodePtr slope = transformed(osg::makePlane(8.f, 1.f, 1, 1), { 0.f, 0.f, 0.f },
                                            { 0.f, 18.43495f, 0.f }, { 1.f, 1.f, 1.f });
     const QColor half =

@@ -52,11 +52,6 @@ void expectNear(const Axes& actual, const Axes& expected, double tolerance = kTo
     }
 }
 
-nbEulerAngles anglesDeg(double x, double y, double z, int order = 0)
-{
-    return nbEulerUtils::toRadians({ x, y, z, order });
-}
-
 }  // namespace
 
 TEST(nbEulerUtils, AnglesAndQuaternionsGiveOneMatrixInAllOrders)
@@ -84,7 +79,8 @@ TEST(nbEulerUtils, TheMiddleAngleAtItsEndsLosesNothing)
             for (std::size_t middle = 0; middle < 3; ++middle) {
                 std::array<double, 3> values { 20.0, 35.0, -70.0 };
                 values[middle] = end;
-                const nbEulerAngles angles = anglesDeg(values[0], values[1], values[2], order);
+                const nbEulerAngles angles =
+                    nbEulerUtils::toRadians({ values[0], values[1], values[2], order });
                 const nbEulerAngles found =
                     nbEulerUtils::EulFromQuat(nbEulerUtils::QuatFromEul(angles), order);
                 expectNear(turned(found), turned(angles), 1e-7);
