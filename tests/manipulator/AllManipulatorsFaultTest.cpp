@@ -4,19 +4,7 @@
 
 namespace nbec::manipulator::test {
 
-template <class Gizmo>
-class Drags : public AnyManipulator<Gizmo>
-{ };
-
-TYPED_TEST_SUITE(Drags, AllKinds, );
-
-template <class Gizmo>
-class Senders : public AnyManipulator<Gizmo>
-{ };
-
-TYPED_TEST_SUITE(Senders, KindsWithHandles, );
-
-TYPED_TEST(Senders, AHandlerThatFailsInEachStepStopsNoDrag)
+TYPED_TEST(Gizmos, AHandlerThatFailsInEachStepStopsNoDrag)
 {
     for (const Fault fault : { Fault::Throw, Fault::ThrowNumber }) {
         int received = 0;
@@ -36,7 +24,7 @@ TYPED_TEST(Senders, AHandlerThatFailsInEachStepStopsNoDrag)
     }
 }
 
-TYPED_TEST(Senders, AHandlerMayDestroyWhatIsEditedWithinTheMessage)
+TYPED_TEST(Gizmos, AHandlerMayDestroyWhatIsEditedWithinTheMessage)
 {
     for (const Fault fault : { Fault::DropNode, Fault::DropMaterial, Fault::DropSettings,
                                Fault::DropPlate, Fault::DropView, Fault::ClearTexts }) {
@@ -60,7 +48,7 @@ TYPED_TEST(Senders, AHandlerMayDestroyWhatIsEditedWithinTheMessage)
     }
 }
 
-TYPED_TEST(Drags, AViewThatVanishesWithItsCameraInADragLosesNothing)
+TYPED_TEST(Manipulators, AViewThatVanishesWithItsCameraInADragLosesNothing)
 {
     for (const bool isReplaced : { false, true }) {
         ASSERT_TRUE(this->press());
@@ -79,7 +67,7 @@ TYPED_TEST(Drags, AViewThatVanishesWithItsCameraInADragLosesNothing)
     }
 }
 
-TYPED_TEST(Drags, NoOrderOfDestructionDoesHarm)
+TYPED_TEST(Manipulators, NoOrderOfDestructionDoesHarm)
 {
     ASSERT_TRUE(this->hover(this->kTraits.handle));
     const osg::Pnt2f place = this->pointer;
@@ -123,7 +111,7 @@ TYPED_TEST(Drags, NoOrderOfDestructionDoesHarm)
     this->expectUsable();
 }
 
-using MatchDrags = Drags<PerspectiveMatchManipulator>;
+using MatchDrags = Manipulators<PerspectiveMatchManipulator>;
 
 TEST_F(MatchDrags, WhoHearsOfALineMayDestroyItsCamera)
 {
@@ -150,7 +138,7 @@ TEST_F(MatchDrags, WhoHearsOfALineMayDestroyItsCamera)
     }
 }
 
-TYPED_TEST(Drags, AGroupOfUndoThatIsNeverClosedLosesNoStep)
+TYPED_TEST(Manipulators, AGroupOfUndoThatIsNeverClosedLosesNoStep)
 {
     std::vector<std::vector<float>> states { this->edited() };
     for (int i = 0; i < 2; ++i) {

@@ -4,6 +4,7 @@
 #include "tests/manipulator/support/AnyManipulator.h"
 #include "tests/platform/support/Edited.h"
 
+#include <nbOpenSGExt/NodeFlags.h>
 #include <nbOpenSGUberCamera/UberCamera.h>
 
 #include <ChangeCount.h>
@@ -11,18 +12,12 @@
 namespace nbec::manipulator::test {
 
 template <class Gizmo>
-class PlacedGizmos : public AnyManipulator<Gizmo>
-{ };
-
-TYPED_TEST_SUITE(PlacedGizmos, KindsWithHandles, );
-
-template <class Gizmo>
 class Copied : public AnyManipulator<Gizmo>
 { };
 
 TYPED_TEST_SUITE(Copied, KindsToCopy, );
 
-TYPED_TEST(PlacedGizmos, AnUpdateAfterNoChangeEditsNothingAndFollowsWhatMoved)
+TYPED_TEST(Gizmos, AnUpdateAfterNoChangeEditsNothingAndFollowsWhatMoved)
 {
     const osg::NodePtr root = this->gizmo->getVisualisation();
     this->gizmo->update(false);
@@ -66,7 +61,7 @@ TYPED_TEST(PlacedGizmos, AnUpdateAfterNoChangeEditsNothingAndFollowsWhatMoved)
     EXPECT_EQ(osg::getTreeChangeCount(this->gizmo->getVisualisation()), atRest) << "not in use";
 }
 
-TYPED_TEST(PlacedGizmos, HandlesKeepTheirSizeOnScreen)
+TYPED_TEST(Gizmos, HandlesKeepTheirSizeOnScreen)
 {
     if (std::is_same_v<TypeParam, Plate>) {
         return;  // in pixels, see nbSceneplateManipulatorTest
@@ -86,7 +81,7 @@ TYPED_TEST(PlacedGizmos, HandlesKeepTheirSizeOnScreen)
     EXPECT_NEAR(this->size(), 2 * 20 * 0.41421356F * 5 / 3 / 20, 1e-4F) << "at any distance";
 }
 
-TYPED_TEST(PlacedGizmos, TheSizeSettingIsTakenAtTheNextPlacement)
+TYPED_TEST(Gizmos, TheSizeSettingIsTakenAtTheNextPlacement)
 {
     const auto reach = [this] {
         const osg::Matrix place = this->node(this->kTraits.handle)->getToWorld();
@@ -137,7 +132,7 @@ TYPED_TEST(Copied, ShareTheHandlesAndAnotherOnesMoveIsNoticed)
     EXPECT_TRUE(this->drag());
 }
 
-TYPED_TEST(PlacedGizmos, OfSeveralInstancesTheRestIsPlacedWhenOneIsGone)
+TYPED_TEST(Gizmos, OfSeveralInstancesTheRestIsPlacedWhenOneIsGone)
 {
     auto first = std::make_unique<TypeParam>();
     equip(*first, this->stage);
@@ -198,7 +193,11 @@ TYPED_TEST(Constructed, TheyAreManipulatorsAndDestroyedTheyAreCalledByNobody)
 {
     {
         TypeParam one;
-        expectManipulatorRoot(one.getVisualisation());
+        EXPECT_EQ(nbNodeUtils::getName(one.getVisualisation()), "Manipulatorgroup");
+        using osg::NodeFlags;
+        EXPECT_EQ(nbNodeUtils::getNodeFlags(one.getVisualisation()),
+                  NodeFlags::Auxiliary | NodeFlags::SelectableAuxiliary |
+                      NodeFlags::ManipulatorNode);
         EXPECT_EQ(one.getCollider(), one.getVisualisation());
     }
     nbOSGWidget widget;

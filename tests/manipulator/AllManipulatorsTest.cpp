@@ -15,18 +15,6 @@
 namespace nbec::manipulator::test {
 
 template <class Gizmo>
-class Manipulators : public AnyManipulator<Gizmo>
-{ };
-
-TYPED_TEST_SUITE(Manipulators, AllKinds, );
-
-template <class Gizmo>
-class Gizmos : public AnyManipulator<Gizmo>
-{ };
-
-TYPED_TEST_SUITE(Gizmos, KindsWithHandles, );
-
-template <class Gizmo>
 class Pausing : public AnyManipulator<Gizmo>
 { };
 

@@ -149,8 +149,8 @@ TEST(AnchoredGizmos, ValuesComeFromMaterialOrEditorObjectInTheOrderOfTheKind)
         at.gizmo.setMaterialComponent(at.material.get(), component, &panel);
         EXPECT_EQ(at.gizmo.getGUI(), &panel);
         EXPECT_TRUE(at.grab("yaShape", Vec3f(0, 1.9F, 0)));
-        EXPECT_TRUE(at.drag.stepTo(Vec2f()));
-        EXPECT_TRUE(at.drag.release());
+        EXPECT_TRUE(at.stepTo(Vec2f()));
+        EXPECT_TRUE(at.release());
         for (const SentMessage& sent : at.log) {
             if (sent.message.has(name)) {
                 const SentMessage found = sent;
@@ -184,17 +184,17 @@ TEST(AnchoredGizmos, AnAnchorThatIsDeletedDuringADragLeavesTheHandlesWhereTheyAr
     at.look(Camera::Oblique, true);
     ASSERT_TRUE(at.grab("yaShape", Vec3f(0, 1.9F, 0)));
     nbtest::edited(transformOf(passing.get()))->setTranslation(Vec3f(0, 1, 0));
-    EXPECT_TRUE(at.drag.stepTo(Vec2f()));
+    EXPECT_TRUE(at.stepTo(Vec2f()));
     EXPECT_EQ(at.gizmo.getAnchorPosition(), Pnt3f(0.5F, 1, 0)) << "moved before the first step";
     const Pnt3f place = at.onHandle("yaShape", Vec3f());
     passing = osg::NullFC;
     EXPECT_EQ(at.gizmo.getAnchorNode(), osg::NullFC);
-    EXPECT_TRUE(at.drag.stepTo(Vec2f(0, -9))) << "the frame was captured";
+    EXPECT_TRUE(at.stepTo(Vec2f(0, -9))) << "the frame was captured";
     EXPECT_EQ(at.last().name, "label::changedTriplanarManipulator");
-    EXPECT_TRUE(at.drag.release());
+    EXPECT_TRUE(at.release());
     EXPECT_EQ(at.onHandle("yaShape", Vec3f()), place);
-    ASSERT_TRUE(at.drag.press(at.onHandle("yaShape", Vec3f(0, 1.9F, 0))));
-    EXPECT_FALSE(at.drag.stepTo(Vec2f(9, 0))) << "no frame without the anchor's node";
+    ASSERT_TRUE(at.press(at.onHandle("yaShape", Vec3f(0, 1.9F, 0))));
+    EXPECT_FALSE(at.stepTo(Vec2f(9, 0))) << "no frame without the anchor's node";
 }
 
 // == Triplanar
@@ -231,10 +231,10 @@ TEST(TriplanarTextureManipulator, ArrowsLowerTwoOffsetsAndScaleHandlesMultiplyTw
             Triplanar at;
             at.look(row.camera, orthographic);
             ASSERT_TRUE(at.grab(row.handle, row.grab));
-            EXPECT_TRUE(at.drag.dragBy(row.offsetPx));
+            EXPECT_TRUE(at.dragBy(row.offsetPx));
             EXPECT_EQ(at.last().message.names(),
                       (Names { row.changes[0].name, row.changes[1].name }));
-            const Vec2f from = at.drag.pressed - at.drag.rayPixelOf(Pnt3f(0, 0, 0));
+            const Vec2f from = at.pressed - at.rayPixelOf(Pnt3f(0, 0, 0));
             const float factor = (from + row.offsetPx).dot(row.offsetPx) / from.dot(row.offsetPx);
             for (const auto& change : row.changes) {
                 const bool scales = change.name[1] == 'S';
@@ -244,7 +244,7 @@ TEST(TriplanarTextureManipulator, ArrowsLowerTwoOffsetsAndScaleHandlesMultiplyTw
                 expectPair(at.last(), change.name, expected, scales ? 1e-3F : 1e-5F);
             }
             // Absolute values: back at the start they are those of the start.
-            EXPECT_TRUE(at.drag.dragBy(Vec2f()));
+            EXPECT_TRUE(at.dragBy(Vec2f()));
             expectPair(at.last(), row.changes[0].name, row.changes[0].start, 1e-6F);
             expectPair(at.last(), row.changes[1].name, row.changes[1].start, 1e-6F);
         }
@@ -268,9 +268,9 @@ TEST(TriplanarTextureManipulator, RingsSendRadiansWithTheirAsymmetryAndCanBeTilt
             at.gizmo.activateRotateManipulator();
             at.look(camera, false);
             ASSERT_TRUE(at.grab(handle, grab)) << handle;
-            const Vec2f from = at.drag.pressed - at.drag.rayPixelOf(Pnt3f(0, 0, 0));
+            const Vec2f from = at.pressed - at.rayPixelOf(Pnt3f(0, 0, 0));
             for (const Vec2f& offset : { Vec2f(-60, 0), Vec2f(40, 90), Vec2f(-150, 40) }) {
-                EXPECT_TRUE(at.drag.dragBy(offset));
+                EXPECT_TRUE(at.dragBy(offset));
                 const Vec2f to = from + offset;
                 const float turn = -std::atan2(from.x() * to.y() - from.y() * to.x(), from.dot(to));
                 EXPECT_EQ(at.last().message.names(), Names { "rotate" });
@@ -285,7 +285,7 @@ TEST(TriplanarTextureManipulator, RingsSendRadiansWithTheirAsymmetryAndCanBeTilt
     at.gizmo.activateRotateManipulator();
     at.gizmo.setRingsTilted(true);
     ASSERT_TRUE(at.grab("ryShape", Vec3f(0.5F, 0, 1.41421F)));
-    EXPECT_TRUE(at.drag.dragBy(Vec2f(40, 0)));
+    EXPECT_TRUE(at.dragBy(Vec2f(40, 0)));
     // The bead goes from 19.5 to 60.8 degrees: there the ring, of radius 1.5 * 0.67 and seen from
     // 10 away, covers a place 40 px further to the right.
     EXPECT_NEAR(kRotation.y() - attribute<Vec3f>(at.last(), "rotate").y(), 0.72F, 0.02F);
@@ -304,7 +304,7 @@ TEST(TriplanarTextureManipulator, TheBoxInTheMiddleScalesAllAHundredTimesMoreGen
         }
         at.gizmo.update(false);
         // The upward axis is upright on screen, so its coordinate goes by the pixels up.
-        const float from = at.drag.rayPixelOf(Pnt3f(0, 0, 0)).y() - 297.0F;
+        const float from = at.rayPixelOf(Pnt3f(0, 0, 0)).y() - 297.0F;
         ASSERT_TRUE(at.scene.send("start", Pnt2f(401, 297)));
         EXPECT_TRUE(at.scene.send("process", Pnt2f(401, 297)));
         EXPECT_TRUE(at.scene.send("process", Pnt2f(411, 287)));

@@ -209,8 +209,7 @@ protected:
         const osg::Matrix place = this->node(this->kTraits.handle)->getParent()->getToWorld();
         const Pnt3f center(place[3][0], place[3][1], place[3][2]);
         const View view;
-        const Vec3f up(0, 1, 0);
-        const Pnt3f tip = center + up * Vec3f(place[0][0], place[0][1], place[0][2]).length();
+        const Pnt3f tip = center + Vec3f(0, this->size(), 0);
         return (view.project(tip) - view.project(center)).length() / pixelRatio;
     }
 };

@@ -12,55 +12,43 @@ namespace nbec::manipulator::test {
 
 namespace {
 
-using Triple = std::array<double, 3>;
-using Rows = std::array<Triple, 3>;
-
-Triple times(const Rows& matrix, const Triple& vector)
-{
-    Triple result {};
-    for (std::size_t i = 0; i < 3; ++i) {
-        for (std::size_t j = 0; j < 3; ++j) {
-            result[i] += matrix[i][j] * vector[j];
-        }
-    }
-    return result;
-}
-
 /// Machado, Oliveira and Fernandes 2009, in linear RGB: normal vision, and without red, green and
 /// blue cones.
-constexpr std::array<Rows, 4> kVisions = { { { { { 1, 0, 0 }, { 0, 1, 0 }, { 0, 0, 1 } } },
-                                             { { { 0.152286, 1.052583, -0.204868 },
-                                                 { 0.114503, 0.786281, 0.099216 },
-                                                 { -0.003882, -0.048116, 1.051998 } } },
-                                             { { { 0.367322, 0.860646, -0.227968 },
-                                                 { 0.280085, 0.672501, 0.047413 },
-                                                 { -0.011820, 0.042940, 0.968881 } } },
-                                             { { { 1.255528, -0.076749, -0.178779 },
-                                                 { -0.078411, 0.930809, 0.147602 },
-                                                 { 0.004733, 0.691367, 0.303900 } } } } };
+const osg::Matrix kVisions[] = {
+    osg::Matrix::identity(),
+    { { 0.152286F, 0.114503F, -0.003882F },
+      { 1.052583F, 0.786281F, -0.048116F },
+      { -0.204868F, 0.099216F, 1.051998F } },
+    { { 0.367322F, 0.280085F, -0.011820F },
+      { 0.860646F, 0.672501F, 0.042940F },
+      { -0.227968F, 0.047413F, 0.968881F } },
+    { { 1.255528F, -0.078411F, 0.004733F },
+      { -0.076749F, 0.930809F, 0.691367F },
+      { -0.178779F, 0.147602F, 0.303900F } },
+};
 
 /// CIE L*a*b* under D65 of an sRGB colour, as seen.
-Triple labOf(const osg::Color3f& colour, const Rows& vision)
+Vec3f labOf(const osg::Color3f& colour, const osg::Matrix& vision)
 {
-    constexpr Rows kXyz = { { { 0.4124564, 0.3575761, 0.1804375 },
-                              { 0.2126729, 0.7151522, 0.0721750 },
-                              { 0.0193339, 0.1191920, 0.9503041 } } };
-    constexpr Triple kWhite = { 0.95047, 1, 1.08883 };
-    Triple linear {};
+    // Divided by the white.
+    const osg::Matrix xyz({ 0.4339531F, 0.2126729F, 0.0177566F },
+                          { 0.3762098F, 0.7151522F, 0.1094680F },
+                          { 0.1898407F, 0.0721750F, 0.8727755F });
+    Vec3f linear;
     for (osg::UInt32 i = 0; i < 3; ++i) {
-        const double c = colour[i];
-        linear[i] = c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+        const float c = colour[i];
+        linear[i] = c <= 0.04045F ? c / 12.92F : std::pow((c + 0.055F) / 1.055F, 2.4F);
     }
-    linear = times(vision, linear);
-    for (double& each : linear) {
-        each = std::min(std::max(each, 0.0), 1.0);
+    vision.multMatrixVec(linear);
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        linear[i] = std::clamp(linear[i], 0.0F, 1.0F);
     }
-    Triple f = times(kXyz, linear);
-    for (std::size_t i = 0; i < 3; ++i) {
-        const double part = f[i] / kWhite[i];
-        f[i] = part > 216.0 / 24389 ? std::cbrt(part) : (24389.0 / 27 * part + 16) / 116;
+    xyz.multMatrixVec(linear);
+    for (osg::UInt32 i = 0; i < 3; ++i) {
+        const float part = linear[i];
+        linear[i] = part > 216.0F / 24389 ? std::cbrt(part) : (24389.0F / 27 * part + 16) / 116;
     }
-    return { 116 * f[1] - 16, 500 * (f[0] - f[1]), 200 * (f[1] - f[2]) };
+    return { 116 * linear[1] - 16, 500 * (linear[0] - linear[1]), 200 * (linear[1] - linear[2]) };
 }
 
 float transparency(const osg::NodePtr& node)
@@ -76,13 +64,11 @@ TEST(HandlePalettes, ThatForColourBlindTellsAnyTwoColoursApartForEveryEye)
     const HandlePalette& safe = builtInPalette(BuiltInPalette::ForColourBlind);
     const std::array<osg::Color3f, 6> colours = { safe.x,   safe.y,         safe.z,
                                                   safe.all, safe.highlight, safe.pivot };
-    for (std::size_t vision = 0; vision < kVisions.size(); ++vision) {
+    for (const osg::Matrix& vision : kVisions) {
         for (std::size_t i = 0; i < colours.size(); ++i) {
             for (std::size_t j = 0; j < i; ++j) {
-                const Triple a = labOf(colours[i], kVisions[vision]);
-                const Triple b = labOf(colours[j], kVisions[vision]);
-                EXPECT_GE(std::hypot(a[0] - b[0], a[1] - b[1], a[2] - b[2]), 40.0)
-                    << vision << ": " << i << ' ' << j;
+                EXPECT_GE((labOf(colours[i], vision) - labOf(colours[j], vision)).length(), 40.0F)
+                    << &vision - kVisions << ": " << i << ' ' << j;
             }
         }
     }
@@ -97,6 +83,19 @@ protected:
         setHandlePalette(HandlePalette());
         setHandleFading(HandleFading());
         setDragOverlayShown(false);
+    }
+
+    /// The geometry of the overlay while it is shown.
+    osg::GeometryPtr overlay()
+    {
+        for (const osg::NodePtr& part : partsOf(this->gizmo->getVisualisation())) {
+            const auto core = osg::GeometryPtr::dcast(part->getCore());
+            if (isShown(part) && osg::getName(part) == nullptr &&
+                core->getMaterial()->getSortKey() == 64018) {
+                return core;
+            }
+        }
+        return osg::GeometryPtr();
     }
 };
 
@@ -216,24 +215,14 @@ TEST(HandleFades, HandlesSeenEndOnFadeAndCannotBeGrabbed)
 
 TYPED_TEST(HandleLooks, TheOverlayIsThereWhileSomethingIsDragged)
 {
-    const auto points = [this] {
-        osg::UInt32 count = 0;
-        for (const osg::NodePtr& part : partsOf(this->gizmo->getVisualisation())) {
-            const auto core = osg::GeometryPtr::dcast(part->getCore());
-            if (isShown(part) && osg::getName(part) == nullptr &&
-                core->getMaterial()->getSortKey() == 64018) {
-                count += core->getLengths()->getValue(0);
-            }
-        }
-        return count;
-    };
     ASSERT_TRUE(this->drag());
-    EXPECT_EQ(points(), 0U) << "off";
+    EXPECT_EQ(this->overlay(), osg::NullFC) << "off";
     setDragOverlayShown(true);
     ASSERT_TRUE(this->press() && this->step() && this->step());
-    EXPECT_EQ(points(), 6U) << "a line and a mark";
+    ASSERT_NE(this->overlay(), osg::NullFC);
+    EXPECT_EQ(this->overlay()->getLengths()->getValue(0), 6U) << "a line and a mark";
     this->gizmo->cancelDrag();
-    EXPECT_EQ(points(), 0U);
+    EXPECT_EQ(this->overlay(), osg::NullFC);
 }
 
 TYPED_TEST(HandleLooks, TheOverlayAllocatesNothingInAStep)
@@ -273,20 +262,12 @@ TYPED_TEST(TurnOverlay, ThePresentLegOfASectorPointsToThePointer)
     setDragOverlayShown(true);
     ASSERT_TRUE(this->press(kHasThree ? "rzShape" : "rotateShape"));
     const View view;
-    const auto legs = [this] {
-        for (const osg::NodePtr& part : partsOf(this->gizmo->getVisualisation())) {
-            const auto core = osg::GeometryPtr::dcast(part->getCore());
-            if (core->getMaterial()->getSortKey() == 64018) {
-                return core->getPositions();
-            }
-        }
-        return osg::GeoPositionsPtr();
-    };
     ASSERT_TRUE(this->say("process") && this->step() && this->step() && this->step());
-    ASSERT_NE(legs(), osg::NullFC);
-    const Vec2f centre = view.project(legs()->getValue(0));
-    const Vec2f end = view.project(legs()->getValue(3)) - centre;
-    const Vec2f start = view.project(legs()->getValue(1)) - centre;
+    ASSERT_NE(this->overlay(), osg::NullFC);
+    const osg::GeoPositionsPtr legs = this->overlay()->getPositions();
+    const Vec2f centre = view.project(legs->getValue(0));
+    const Vec2f end = view.project(legs->getValue(3)) - centre;
+    const Vec2f start = view.project(legs->getValue(1)) - centre;
     const Vec2f toPointer =
         Vec2f(this->pointer.x(), static_cast<float>(view.getHeight()) - this->pointer.y()) - centre;
     const auto angle = [](const Vec2f& of) { return std::atan2(of.y(), of.x()); };

@@ -215,8 +215,8 @@ TYPED_TEST(Handles, AreHitByTheirNamesLightUpAndHideTheOthers)
             SCOPED_TRACE(std::string(row.name) + (isOrthographic ? ", orthographic" : ""));
             scene.look(row.camera, isOrthographic);
             const bool isAtOrigin = row.unit == Vec3f();
-            const Pnt2f pixel = scene.drag.rayPixelOf(
-                isAtOrigin ? scene.originOf(row.name) : scene.onHandle(row.name, row.unit));
+            const Pnt2f pixel = scene.rayPixelOf(isAtOrigin ? scene.originOf(row.name)
+                                                            : scene.onHandle(row.name, row.unit));
             EXPECT_TRUE(scene.scene.send("hover", pixel));
             if constexpr (!std::is_same_v<TypeParam, Transform>) {
                 EXPECT_EQ(static_cast<unsigned>(scene.gizmo.getActiveMode()), row.mode);

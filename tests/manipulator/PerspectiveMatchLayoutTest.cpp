@@ -15,16 +15,6 @@ osg::Line2D line(float x1, float y1, float x2, float y2)
     return osg::Line2D(osg::Pnt2f(x1, y1), osg::Pnt2f(x2, y2));
 }
 
-MatchView viewOf(int widthPx, int heightPx, float referencePx, float pixelRatio = 1.0F)
-{
-    MatchView view;
-    view.widthPx = widthPx;
-    view.heightPx = heightPx;
-    view.referencePx = referencePx;
-    view.pixelRatio = pixelRatio;
-    return view;
-}
-
 /// All lines empty but the given ones.
 MatchLines linesWith(std::initializer_list<std::pair<PerspectiveMatchLine, osg::Line2D>> given)
 {
@@ -61,10 +51,11 @@ TEST(PerspectiveMatchLayout, EndsComeBeforeLinesAndTheNearestWins)
         { "nothing near", 100, 900, {} }
     };
     for (const auto& [name, x, y, expected] : rows) {
-        EXPECT_EQ(partUnderPointer(lines, viewOf(1600, 1000, 1000), osg::Pnt2f(x, y)), expected)
+        EXPECT_EQ(partUnderPointer(lines, MatchView { 1600, 1000, 1000 }, osg::Pnt2f(x, y)),
+                  expected)
             << name;
     }
-    EXPECT_EQ(partUnderPointer(lines, viewOf(1600, 1000, 1000, 2), osg::Pnt2f(600, 510)),
+    EXPECT_EQ(partUnderPointer(lines, MatchView { 1600, 1000, 1000, 2 }, osg::Pnt2f(600, 510)),
               (MatchPart { Line::XLine1, kLineBody }))
         << "two device pixels per logical pixel";
     EXPECT_FALSE(partUnderPointer(lines, MatchView(), osg::Pnt2f(0, 0)).isSet()) << "no view";
@@ -75,7 +66,7 @@ TEST(PerspectiveMatchLayout, OfPartsAtOneDistanceThatOfAUsedAxisWins)
     using Line = PerspectiveMatchLine;
     const osg::Line2D same = line(0.2F, 0.2F, 0.6F, 0.6F);
     MatchLines lines = linesWith({ { Line::XLine2, same }, { Line::YLine1, same } });
-    const MatchView view = viewOf(1000, 1000, 1000);
+    const MatchView view { 1000, 1000, 1000 };
 
     EXPECT_EQ(partUnderPointer(lines, view, osg::Pnt2f(200, 200)).line, Line::XLine2);
     lines.isAxisUsed = { false, true, true };
@@ -94,7 +85,7 @@ TEST(PerspectiveMatchLayout, OnlyLinesThatCanBeDrawnAreHit)
     const osg::Line2D collapsed = line(0.3F, 0.3F, 0.3F, 0.3F);
     EXPECT_TRUE(isMatchLineShown(collapsed)) << "its ends can be pulled apart";
 
-    const MatchView view = viewOf(1000, 1000, 1000);
+    const MatchView view { 1000, 1000, 1000 };
     const MatchLines lines = linesWith({ { PerspectiveMatchLine::ZLine2, collapsed } });
     EXPECT_EQ(partUnderPointer(lines, view, osg::Pnt2f(303, 300)),
               (MatchPart { PerspectiveMatchLine::ZLine2, kFirstEnd }));
@@ -128,7 +119,7 @@ TEST(PerspectiveMatchLayout, GuidesStayInTheViewHoweverFarTheLinesReach)
         { "away from the view", line(5, 5, 6, 6), line(5, 6, 6, 6.5F), false },
         { "meeting between their ends", line(0, 0, 1, 1), line(0, 1, 1, 0), true },
     };
-    const MatchView view = viewOf(900, 600, 600);
+    const MatchView view { 900, 600, 600 };
     for (const auto& [name, first, second, isSeen] : rows) {
         const MatchLines lines = linesWith({ { Line::ZLine1, first }, { Line::ZLine2, second } });
         const MatchSegments dashes = makeMatchGuides(lines, view, 1)[2];

@@ -235,11 +235,21 @@ TEST_F(PerspectiveMatchManipulatorTest, HoverHighlightsALineWithItsEndsOrAnEndAn
     EXPECT_TRUE(gizmo.resetManipulator(&scene.context, "select"));
     EXPECT_FALSE(scene.send("start", scene.pixelOf(x1.p2()))) << "reset ends hovering";
 
+    const auto guides = [this] {
+        std::array<bool, kGuideCount> shown {};
+        for (osg::UInt32 i = 0; i < kGuideCount; ++i) {
+            shown[i] = isShown(gizmo.getVisualisation()->getChild(i));
+        }
+        return shown;
+    };
+    EXPECT_EQ(guides(), (std::array<bool, kGuideCount> {}));
     ASSERT_TRUE(scene.grab(x1.p1()));
+    EXPECT_EQ(guides(), (std::array<bool, kGuideCount> { true, true, true, true }));
     EXPECT_FALSE(scene.send("hover", scene.pixelOf(match().getZLine1().center())));
     EXPECT_FALSE(isHighlighted(gizmo, 5, 1));
     EXPECT_TRUE(isHighlighted(gizmo, 1, 2)) << "what is held stays highlighted";
     scene.send("stop", scene.pixelOf(x1.p1()));
+    EXPECT_EQ(guides(), (std::array<bool, kGuideCount> {}));
 }
 
 TEST_F(PerspectiveMatchManipulatorTest, TheMagnifierShowsExactlyWhileAnEndIsHeld)

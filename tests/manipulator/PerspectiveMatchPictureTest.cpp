@@ -17,7 +17,6 @@ namespace {
 
 const QColor kRed = QColor::fromRgbF(1.0, 0.2, 0.2);
 const QColor kGreen = QColor::fromRgbF(0.1, 0.75, 0.15);
-const QColor kOrange = QColor::fromRgbF(1.0, 0.6, 0.0);
 const QColor kBlack(0, 0, 0);
 
 ::testing::AssertionResult isColor(const QColor& actual, const QColor& expected)
@@ -110,31 +109,6 @@ TEST_F(PerspectiveMatchPictureTest, LinesOfAxesOutOfUseAreGreyAndThin)
     EXPECT_TRUE(isColor(at(draw(), 130, 40), QColor::fromRgbF(0.8, 0.4, 0.4)));
     scene.match().setVanishingLinesType(nbCameraTypes::XYZLines);
     EXPECT_TRUE(isColor(at(draw(), 130, 40), kRed));
-}
-
-TEST_F(PerspectiveMatchPictureTest, GuidesShowDuringADrag)
-{
-    // x vanishes to the right and z to the left, both at the height of row 300.
-    scene.match().setXLine1(pixelLine(200, 300, 260, 300));
-    scene.match().setXLine2(pixelLine(200, 100, 260, 130));
-    scene.match().setZLine1(pixelLine(440, 300, 400, 300));
-    scene.match().setZLine2(pixelLine(440, 100, 400, 120));
-    const QPointF grabbed = scene.match().getXLine2().center();
-    const auto grey = [](const QColor& color) { return color.value() < 40; };
-
-    EXPECT_TRUE(grey(at(draw(), 268, 134)));
-    ASSERT_TRUE(scene.grab(grabbed));
-    const QImage picture = draw();
-    EXPECT_TRUE(isColor(at(picture, 262, 131), kRed)) << "the first dash";
-    int horizonPixels = 0;
-    for (int x = 0; x < 190; ++x) {
-        horizonPixels += isColor(at(picture, x, 300), kOrange) ? 1 : 0;
-    }
-    EXPECT_GT(horizonPixels, 100) << "dashes across the view";
-    EXPECT_LT(horizonPixels, 170) << "with gaps";
-
-    scene.send("stop", scene.pixelOf(grabbed));
-    EXPECT_TRUE(grey(at(draw(), 262, 131)));
 }
 
 }  // namespace nbec::manipulator::test

@@ -96,7 +96,7 @@ TEST(PlanarTextureManipulatorDrag, TranslationsSendOffsetAndVectorSinceTheStart)
         EXPECT_EQ(planar.last().name, kChanged);
         EXPECT_EQ(planar.last().message.names(), (Names { "offset", "transVec" }));
         expectNear(attribute<Vec3f>(planar.last(), "transVec"), Vec3f(), "at the start");
-        EXPECT_TRUE(planar.drag.dragBy(row.offsetPx));
+        EXPECT_TRUE(planar.dragBy(row.offsetPx));
         const Vec2f offset = attribute<Vec2f>(planar.last(), "offset");
         EXPECT_NEAR(offset.x(), row.offset.x(), kTolerance);
         EXPECT_NEAR(offset.y(), row.offset.y(), kTolerance);
@@ -105,8 +105,8 @@ TEST(PlanarTextureManipulatorDrag, TranslationsSendOffsetAndVectorSinceTheStart)
         // The host may move the projection while the drag goes on; the totals stay.
         planar.edit(planar.projection,
                     [](const auto& projection) { projection->setTranslation(Vec3f(1, 1, 0)); });
-        EXPECT_TRUE(planar.drag.stepTo(Vec2f(-30, 70)));
-        EXPECT_TRUE(planar.drag.stepTo(row.offsetPx));
+        EXPECT_TRUE(planar.stepTo(Vec2f(-30, 70)));
+        EXPECT_TRUE(planar.stepTo(row.offsetPx));
         expectNear(attribute<Vec3f>(planar.last(), "transVec"), row.transVec, "again");
     }
 }
@@ -140,7 +140,7 @@ TEST(PlanarTextureManipulatorDrag, HandlesLieAlongTheWayThatTheyMoveThePictureAn
             const Vec3f drawn = arrow(0.9F) - arrow(0);
             ASSERT_TRUE(planar.grabAt(name, arrow(0.9F)));
             const Pnt3f beyond = arrow(0.9F) + drawn;
-            EXPECT_TRUE(planar.drag.stepTo(planar.drag.rayPixelOf(beyond) - planar.drag.pressed));
+            EXPECT_TRUE(planar.stepTo(planar.rayPixelOf(beyond) - planar.pressed));
             const Vec3f moved = planar.inWorld(Vec3f()) - from;
             EXPECT_LT((moved - drawn).length(), 0.05F * drawn.length());
             EXPECT_TRUE(planar.scene.node->getToWorld().equals(matrix, kTolerance));
@@ -169,7 +169,7 @@ TEST(PlanarTextureManipulatorDrag, ScalesSendWhatTheirHandleHas)
         planar.gizmo.activateScaleManipulator();
         planar.look(camera, false);
         ASSERT_TRUE(planar.grab(handle, grab)) << handle;
-        EXPECT_TRUE(planar.drag.stepTo(Vec2f()));
+        EXPECT_TRUE(planar.stepTo(Vec2f()));
         EXPECT_EQ(planar.last().message.names(), names) << handle;
         expectNear(attribute<Vec3f>(planar.last(), "scale"), Vec3f(2, 3, 0.5F), handle);
         if (names.front() == "clamping") {
@@ -185,12 +185,12 @@ TEST(PlanarTextureManipulatorDrag, RotateSendsTheNegatedAngleSinceTheStart)
         arrange(planar);
         planar.gizmo.activateRotateManipulator();
         ASSERT_TRUE(planar.grab("rotateShape", Vec3f(0.6F, 0.8F, 0)));
-        const Pnt2f center = planar.drag.rayPixelOf(Pnt3f(0, 0, 0));
-        const Pnt2f from = planar.drag.pressed;
+        const Pnt2f center = planar.rayPixelOf(Pnt3f(0, 0, 0));
+        const Pnt2f from = planar.pressed;
         // A whole turn in steps: totals, within half a turn either way.
         for (const Vec2f& offset : { Vec2f(-20, -5), Vec2f(-60, 30), Vec2f(-90, 30), Vec2f(-70, 60),
                                      Vec2f(-20, 90), Vec2f(10, 5), Vec2f(0, 0) }) {
-            EXPECT_TRUE(planar.drag.stepTo(offset));
+            EXPECT_TRUE(planar.stepTo(offset));
             EXPECT_EQ(planar.last().message.names(), Names { "rotate" });
             EXPECT_NEAR(attribute<float>(planar.last(), "rotate"),
                         -screenAngle(center, from, from + offset), 1e-3F)
@@ -231,17 +231,17 @@ TEST(PlanarTextureManipulatorDrag, DepthIsClampedAndShownOnceItIsScaled)
         const bool isPlane = std::string(handle) == "scaleZPlaneShape";
         planar.gizmo.showZScaleValue(isPlane);
         ASSERT_TRUE(planar.grab(handle, isPlane ? Vec3f(-0.17F, 0.17F, 0) : Vec3f(0, 0, -2.5F)));
-        const Pnt2f center = planar.drag.rayPixelOf(Pnt3f(0, 0, 0));
-        const Vec2f outwards = planar.drag.rayPixelOf(Pnt3f(0, 0, -1)) - center;
+        const Pnt2f center = planar.rayPixelOf(Pnt3f(0, 0, 0));
+        const Vec2f outwards = planar.rayPixelOf(Pnt3f(0, 0, -1)) - center;
 
-        EXPECT_TRUE(planar.drag.dragBy(outwards * 0.5F));
+        EXPECT_TRUE(planar.dragBy(outwards * 0.5F));
         EXPECT_TRUE(planar.settings->hasPlanarProjectionFlag(osg::ColorComponentSettings::ClampZ))
             << handle;
         EXPECT_TRUE(isShown(planar.handle("scaleZPlaneShape"))) << handle;
         EXPECT_GT(planar.projection->getScale().z(), 1.1F) << handle;
         EXPECT_EQ(planar.projection->getScale().x(), 1.0F) << handle;
         EXPECT_EQ(planar.projection->getTranslation(), Vec3f()) << handle;
-        EXPECT_TRUE(planar.drag.dragBy(outwards * -10.0F));
+        EXPECT_TRUE(planar.dragBy(outwards * -10.0F));
         EXPECT_FLOAT_EQ(planar.projection->getScale().z(), 0.01F) << handle;
     }
 }
@@ -252,19 +252,19 @@ TEST(PlanarTextureManipulatorDrag, SendsNothingWhileThePlaneIsMissed)
     planar.gizmo.activateRotateManipulator();
     // Seen along the projection plane, every ray begins in it and looks away or along.
     planar.look(Camera::Side, false);
-    ASSERT_TRUE(planar.drag.press(planar.onHandle("rotateShape", Vec3f(0.03F, 1, 0))));
+    ASSERT_TRUE(planar.press(planar.onHandle("rotateShape", Vec3f(0.03F, 1, 0))));
     planar.log.clear();
-    EXPECT_TRUE(planar.drag.dragBy(Vec2f(0, 30)));
+    EXPECT_TRUE(planar.dragBy(Vec2f(0, 30)));
     EXPECT_EQ(planar.takeNames(), Names());
-    EXPECT_TRUE(planar.drag.release());
+    EXPECT_TRUE(planar.release());
 
     // An arrow that points at the viewer has no plane.
     planar.gizmo.activateTranslateManipulator();
     planar.look(Camera::Front, true);
-    ASSERT_TRUE(planar.drag.press(planar.onHandle("zaShape", Vec3f(-0.1F, -0.1F, -1))));
+    ASSERT_TRUE(planar.press(planar.onHandle("zaShape", Vec3f(-0.1F, -0.1F, -1))));
     EXPECT_EQ(planar.gizmo.getActiveMode(), Gizmo::ActiveMode::TranslateZ);
     planar.log.clear();
-    EXPECT_TRUE(planar.drag.dragBy(Vec2f(20, 30)));
+    EXPECT_TRUE(planar.dragBy(Vec2f(20, 30)));
     EXPECT_EQ(planar.takeNames(), Names());
 }
 
@@ -284,18 +284,18 @@ TEST(PlanarTextureManipulatorDrag, MakesTheObjectATransformWithPivots)
     planar.gizmo.setNode(object);
 
     ASSERT_TRUE(planar.grab("xaShape", Vec3f(1.9F, 0, 0)));
-    EXPECT_TRUE(planar.drag.stepTo(Vec2f(72, 0)));
+    EXPECT_TRUE(planar.stepTo(Vec2f(72, 0)));
     const auto core = transformOf(object);
     ASSERT_NE(core, osg::NullFC);
     expectNear(core->getRotatePivot(), Vec3f(0, 1, 0), "rotate pivot");
     expectNear(core->getScalePivot(), Vec3f(0, 1, 0), "scale pivot");
     expectNear(attribute<Vec3f>(planar.last(), "transVec"), Vec3f(kStep, 0, 0), "transVec");
-    EXPECT_TRUE(planar.drag.release());
+    EXPECT_TRUE(planar.release());
 
     planar.gizmo.setNode(nbScenegraph::getRootNode());
     const osg::NodeCorePtr rootCore = nbScenegraph::getRootNode()->getCore();
     ASSERT_TRUE(planar.grab("xaShape", Vec3f(1.9F, 0, 0)));
-    EXPECT_TRUE(planar.drag.stepTo(Vec2f(72, 0)));
+    EXPECT_TRUE(planar.stepTo(Vec2f(72, 0)));
     EXPECT_EQ(nbScenegraph::getRootNode()->getCore(), rootCore) << "the scene's root stays";
 }
 
@@ -325,9 +325,9 @@ TEST(PlanarTextureManipulatorDrag, TextSaysTheObjectsValuesExceptForZ)
         const std::string name = handle;
         planar.look(name[0] == 'z' ? Camera::Side : Camera::Front, false);
         ASSERT_TRUE(planar.grab(handle, grab)) << handle;
-        EXPECT_TRUE(planar.drag.stepTo(Vec2f(3, 3)));
+        EXPECT_TRUE(planar.stepTo(Vec2f(3, 3)));
         EXPECT_EQ(HandleScene::texts(), *text != '\0' ? Names { text } : Names());
-        EXPECT_TRUE(planar.drag.release());
+        EXPECT_TRUE(planar.release());
     }
     EXPECT_NE(manager->getNotifier("textureTransformInfo"), nullptr);
 }

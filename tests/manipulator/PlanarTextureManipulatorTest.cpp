@@ -31,7 +31,7 @@ TEST(PlanarTextureManipulator, HidesTheHandlesOfDepthOnDemand)
     EXPECT_EQ(shown().size(), 4U);
 
     planar.gizmo.setNode(planar.scene.node);
-    EXPECT_TRUE(planar.scene.send("hover", planar.drag.rayPixelOf(planar.onHandle("grid", {}))));
+    EXPECT_TRUE(planar.scene.send("hover", planar.rayPixelOf(planar.onHandle("grid", {}))));
     planar.gizmo.setDefaultMaterials();
     EXPECT_NE(partColor(planar.handle("grid"), 0), kHighlight);
     planar.gizmo.highlightControlElement();
@@ -112,8 +112,8 @@ TEST(PlanarTextureManipulator, EndsAPauseThatIsOwed)
     planar.log.clear();
     planar.gizmo.setNode(osg::NodePtr());
     EXPECT_EQ(planar.takeNames(), kResume);
-    EXPECT_FALSE(planar.drag.stepTo(Vec2f(5, 0)));
-    EXPECT_FALSE(planar.drag.release());
+    EXPECT_FALSE(planar.stepTo(Vec2f(5, 0)));
+    EXPECT_FALSE(planar.release());
     EXPECT_EQ(planar.takeNames(), Names());
 }
 

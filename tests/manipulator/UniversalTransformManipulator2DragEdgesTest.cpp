@@ -277,7 +277,7 @@ TEST(BrokenDrags, ASelectionOrModeChangedMeanwhileIsHarmless)
     drags.gizmo.setNode(osg::NodePtr());
     EXPECT_FALSE(drags.dragBy(Vec2f(60, 0)));
     EXPECT_FALSE(drags.release());
-    EXPECT_TRUE(isFinite(other->getToWorld()));
+    EXPECT_LT(greatestDifference(other->getToWorld(), osg::Matrix()), 1e3F) << "and finite";
 }
 
 TEST(DragUndo, ConversionAloneIsNoStepAndJoinsTheNextOne)
@@ -342,7 +342,7 @@ TEST(DragUndo, AfterACancelTheHandleIsGrabbedAgainAtOnce)
         const osg::Matrix before = drags.scene.node->getToWorld();
         const Pnt3f place = drags.onGizmo(kArrow);
         for (int i = 0; i < 4; ++i) {
-            ASSERT_TRUE(drags.drag.press(place)) << "drag " << i;
+            ASSERT_TRUE(drags.press(place)) << "drag " << i;
             EXPECT_TRUE(drags.dragBy(Vec2f(60, 0)));
             EXPECT_GT(greatestDifference(drags.scene.node->getToWorld(), before), 0.1F);
             drags.scene.manager.cancelDrag();

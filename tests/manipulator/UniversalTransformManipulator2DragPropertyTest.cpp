@@ -172,7 +172,7 @@ TEST(DragProperties, PlanesAndArrowsKeepTheGrabbedPointUnderThePointer)
         Pnt3f held;
         ray = View().pointerRay().value();
         ASSERT_TRUE(intersectPlane(osg::Plane(normal, origin), ray, held));
-        const Vec2f gap = drags.rayPixelOf(held) - drags.drag.pressed;
+        const Vec2f gap = drags.rayPixelOf(held) - drags.pressed;
 
         const Pnt2f ahead = drags.rayPixelOf(held + axis * 0.1F);
         Vec2f along = ahead - drags.rayPixelOf(held);
@@ -193,7 +193,7 @@ TEST(DragProperties, PlanesAndArrowsKeepTheGrabbedPointUnderThePointer)
                 continue;  // behind the near plane, where nothing moves
             }
             const Vec3f moved = drags.onGizmo(Vec3f(0, 0, 0)) - origin;
-            const Vec2f now = drags.rayPixelOf(held + moved) - (drags.drag.pressed + offset);
+            const Vec2f now = drags.rayPixelOf(held + moved) - (drags.pressed + offset);
             const Vec2f drift = now - gap;
             ASSERT_LT(isPlane ? drift.length() : std::abs(drift.dot(along)), 0.6F);
         }

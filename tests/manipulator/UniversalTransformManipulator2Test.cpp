@@ -4,6 +4,7 @@
 #include "tests/platform/support/Edited.h"
 
 #include <nbKernel/nbScenegraph.h>
+#include <nbTransform/nbTransformModel.h>
 
 namespace nbec::manipulator::test {
 
@@ -109,20 +110,8 @@ protected:
         drags.gizmo.setNode(drags.scene.node, { turned, below });
     }
 
-    Pnt3f pivotOf(const osg::NodePtr& node, bool scalePivot) const
-    {
-        const auto core = transformOf(node);
-        Pnt3f pivot(core->getTranslation() + core->getRotatePivot());
-        if (scalePivot) {
-            pivot = Pnt3f(core->getScalePivot());
-            core->computeMatrix().multMatrixPnt(pivot);
-        }
-        node->getParent()->getToWorld().multMatrixPnt(pivot);
-        return pivot;
-    }
-
     /// The middle of a mark's lines. @param length  receives that of its first line
-    Pnt3f markAt(osg::UInt32 index, float& length)
+    Vec3f markAt(osg::UInt32 index, float& length)
     {
         const osg::NodePtr marks = drags.gizmo.getVisualisation()->getChild(0)->getChild(0);
         const auto geometry = osg::GeometryPtr::dcast(marks->getCore());
@@ -138,18 +127,19 @@ protected:
             sum += points->getValue(6 * index + i).subZero();
         }
         length = (points->getValue(6 * index + 1) - points->getValue(6 * index)).length();
-        return Pnt3f(sum * (1.0F / 6.0F));
+        return sum * (1.0F / 6.0F);
     }
 
     void expectMarksAtPivots(bool scalePivot)
     {
         const osg::NodePtr frame = drags.gizmo.getVisualisation()->getChild(3)->getChild(0);
         const float size = transformOf(frame)->getScale().x();
+        const auto pivotOf =
+            scalePivot ? nbTransformModel::getScalePivot : nbTransformModel::getRotationPivot;
         osg::UInt32 index = 0;
         for (const osg::NodePtr& node : { turned, below }) {
             float length = 0.0F;
-            const Pnt3f mark = markAt(index++, length);
-            EXPECT_LT((mark - pivotOf(node, scalePivot)).length(), 1e-4F);
+            expectNear(markAt(index++, length), pivotOf(node, true), "mark", 1e-4F);
             EXPECT_NEAR(length, 0.3F * size, 1e-5F);
         }
     }

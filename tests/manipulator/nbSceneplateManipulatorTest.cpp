@@ -47,12 +47,11 @@ protected:
         return node;
     }
 
-    bool isHandleAt(const std::string& name, float x, float y)
+    void expectHandleAt(const std::string& name, float x, float y)
     {
         const osg::Pnt2f px = scene.handlePx(name);
         EXPECT_NEAR(px.x(), x, kTolerancePx) << name;
         EXPECT_NEAR(px.y(), y, kTolerancePx) << name;
-        return true;
     }
 
     MessageLog messages;
@@ -79,16 +78,16 @@ TEST_F(SceneplateManipulatorTest, HandlesStandAtTheFrameForEveryCameraAndViewSiz
             select({ 150, 200, 160, 100 });
             scene.manipulator.update(false);
 
-            isHandleAt("grid", 150, 200);
-            isHandleAt("scaleXYLLShape", 70, 250);
-            isHandleAt("scaleXYULShape", 70, 150);
-            isHandleAt("scaleXYLRShape", 230, 250);
-            isHandleAt("scaleXYURShape", 230, 150);
-            isHandleAt("rotateShape", 150, 150 - 32);
+            expectHandleAt("grid", 150, 200);
+            expectHandleAt("scaleXYLLShape", 70, 250);
+            expectHandleAt("scaleXYULShape", 70, 150);
+            expectHandleAt("scaleXYLRShape", 230, 250);
+            expectHandleAt("scaleXYURShape", 230, 150);
+            expectHandleAt("rotateShape", 150, 150 - 32);
         }
     }
     scene.widget.resize(1000, 400);
-    isHandleAt("grid", 150, 200);  // without an update
+    expectHandleAt("grid", 150, 200);  // without an update
 }
 
 TEST_F(SceneplateManipulatorTest, HandlesAreHitByTheirNames)
@@ -221,7 +220,7 @@ TEST_F(SceneplateManipulatorTest, OfSeveralPlatesTheRestGoesOn)
     EXPECT_FLOAT_EQ(last.offset.x(), 30.0F / 600);
     EXPECT_TRUE(scene.send("stop", osg::Pnt2f(430, 300)));
     EXPECT_THAT(scene.manipulator.getNodes(), ElementsAre(second));
-    isHandleAt("grid", 500, 300);
+    expectHandleAt("grid", 500, 300);
 }
 
 TEST_F(SceneplateManipulatorTest, AReceiverMayTakeItOutOfUse)

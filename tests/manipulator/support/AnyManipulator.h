@@ -294,6 +294,19 @@ private:
 
 using AllKinds = testing::Types<Transform, Planar, Triplanar, UV, Tire, Plate, Match>;
 using KindsWithHandles = testing::Types<Transform, Planar, Triplanar, UV, Tire, Plate>;
+
+template <class Gizmo>
+class Manipulators : public AnyManipulator<Gizmo>
+{ };
+
+TYPED_TEST_SUITE(Manipulators, AllKinds, );
+
+template <class Gizmo>
+class Gizmos : public AnyManipulator<Gizmo>
+{ };
+
+TYPED_TEST_SUITE(Gizmos, KindsWithHandles, );
+
 using KindsThatPause = testing::Types<Planar, Triplanar, UV, Tire, Plate>;
 using KindsToCopy = testing::Types<Planar, Triplanar, UV, Tire>;
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "tests/manipulator/support/HandleDrag.h"
+#include "tests/manipulator/support/GizmoScene.h"
 
 #include <gtest/gtest.h>
 

@@ -4,8 +4,6 @@
 #include "tests/platform/support/Edited.h"
 
 #include <nbKernel/nbScenegraph.h>
-#include <nbOpenSGExt/NodeFlags.h>
-#include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <OpenSG/OSGSimpleAttachments.h>
 #include <OpenSG/OSGSimpleGeometry.h>
@@ -80,14 +78,6 @@ void addChild(const osg::NodePtr& above, const osg::NodePtr& child)
 osg::Transform3DPtr transformOf(const osg::NodePtr& node)
 {
     return osg::Transform3DPtr::dcast(node->getCore());
-}
-
-void expectManipulatorRoot(const osg::NodePtr& root)
-{
-    EXPECT_EQ(nbNodeUtils::getName(root), "Manipulatorgroup");
-    using osg::NodeFlags;
-    EXPECT_EQ(nbNodeUtils::getNodeFlags(root),
-              NodeFlags::Auxiliary | NodeFlags::SelectableAuxiliary | NodeFlags::ManipulatorNode);
 }
 
 osg::NodePtr findNode(const osg::NodePtr& tree, const std::string& name)

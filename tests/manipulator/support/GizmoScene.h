@@ -51,9 +51,6 @@ void addChild(const osg::NodePtr& above, const osg::NodePtr& child);
 /// The Transform3D of a node; null if it has none.
 osg::Transform3DPtr transformOf(const osg::NodePtr& node);
 
-/// That a manipulator's root is named and marked as one.
-void expectManipulatorRoot(const osg::NodePtr& root);
-
 /// The first node of a name in a tree, depth first; null if there is none.
 osg::NodePtr findNode(const osg::NodePtr& tree, const std::string& name);
 

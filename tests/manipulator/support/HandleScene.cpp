@@ -35,7 +35,13 @@ HandleScene::~HandleScene()
 
 void HandleScene::look(Camera from, bool orthographic)
 {
-    drag.look(from, orthographic);
+    scene.setOrthographic(orthographic);
+    static const osg::Pnt3f kEyes[] = {
+        { 0, 0, 10 }, { 10, 0, 0 }, { 0, 10, 0 }, { 20.0F / 7, 30.0F / 7, 60.0F / 7 }
+    };
+    const osg::Pnt3f& eye = kEyes[static_cast<std::size_t>(from)];
+    const osg::Vec3f up = from == Camera::Top ? osg::Vec3f(0, 0, -1) : osg::Vec3f(0, 1, 0);
+    scene.widget.getUberCamera()->setFromAtUp(eye, osg::Pnt3f(0, 0, 0), up);
     manipulator.update(true);
 }
 
@@ -88,8 +94,8 @@ Names HandleScene::texts()
 
 bool HandleScene::grabAt(const std::string& name, const osg::Pnt3f& world)
 {
-    return drag.press(world) && nbNodeUtils::getName(scene.picker.getHitNode()) == name &&
-        drag.stepTo(osg::Vec2f());
+    return press(world) && nbNodeUtils::getName(scene.picker.getHitNode()) == name &&
+        stepTo(osg::Vec2f());
 }
 
 // == DragScene
@@ -151,7 +157,7 @@ osg::Pnt3f DragScene::onGizmo(const osg::Vec3f& unit)
 
 bool DragScene::grab(const osg::Vec3f& unit)
 {
-    return drag.press(onGizmo(unit)) && drag.stepTo(osg::Vec2f());
+    return press(onGizmo(unit)) && stepTo(osg::Vec2f());
 }
 
 osg::NodePtr DragScene::addFurther(const osg::Vec3f& translation)
@@ -171,12 +177,6 @@ float greatestDifference(const osg::Matrix& left, const osg::Matrix& right)
         greatest = std::isnan(difference) ? difference : std::max(greatest, difference);
     }
     return greatest;
-}
-
-bool isFinite(const osg::Matrix& matrix)
-{
-    return std::all_of(matrix.getValues(), matrix.getValues() + 16,
-                       [](float value) { return std::isfinite(value); });
 }
 
 }  // namespace nbec::manipulator::test

@@ -5,10 +5,25 @@
 #include "tests/manipulator/support/DragTest.h"
 #include "tests/manipulator/support/MessageLog.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace nbec::manipulator::test {
 
-/// A scene with a manipulator that is dragged by its handles as by HandleDrag. The node of the
-/// GizmoScene stands below a parent with a Transform3D.
+/// Side from which the scene is seen, 10 units from the origin. On screen, right and up are x and y
+/// (front), -z and y (side, from +x), x and -z (top, from +y); oblique is from
+/// (2, 3, 6) / 7.
+enum class Camera
+{
+    Front,
+    Side,
+    Top,
+    Oblique
+};
+
+/// A scene with a manipulator that is dragged by its handles: the pointer goes in steps through the
+/// interaction manager, pixels are whole as those of a mouse. The node of the GizmoScene stands
+/// below a parent with a Transform3D.
 class HandleScene : public MessageLog
 {
 public:
@@ -16,6 +31,7 @@ public:
     explicit HandleScene(AbstractManipulator& installed);
     ~HandleScene();
 
+    /// Places camera and handles.
     void look(Camera from, bool orthographic);
     /// Edits a transform and places the handles anew.
     void edit(const osg::Transform3DPtr& transform,
@@ -46,10 +62,60 @@ public:
         return grabAt(name, onHandle(name, unit));
     }
 
+    /// Pixel of the ray that meets a world point: as GizmoScene::pixelOf, with the constant pixel
+    /// by which view rays are displaced.
+    osg::Pnt2f rayPixelOf(const osg::Pnt3f& world) const
+    {
+        const osg::Pnt2f middle(400.0F, 300.0F);
+        osg::Line ray;
+        scene.widget.getCamera()->calcViewRay(ray, 400, 300, *scene.widget.getViewport());
+        const osg::Pnt3f onRay = ray.getPosition() + ray.getDirection() * 10.0F;
+        return scene.pixelOf(world) + (middle - scene.pixelOf(onRay));
+    }
+
+    /// Presses on a world point. @return whether a handle was there
+    bool press(const osg::Pnt3f& world)
+    {
+        const osg::Pnt2f pixel = rayPixelOf(world);
+        pressed = osg::Pnt2f(std::round(pixel.x()), std::round(pixel.y()));
+        reached = osg::Vec2f();
+        return scene.send("start", pressed);
+    }
+
+    /// Goes by an offset from the pressed pixel, in steps of at most one pixel. @return whether all
+    /// steps were handled
+    bool dragBy(const osg::Vec2f& offsetPx)
+    {
+        const osg::Vec2f from = reached;
+        const osg::Vec2f way = offsetPx - from;
+        const int steps = std::max(1, static_cast<int>(std::ceil(way.length())));
+        bool isHandled = true;
+        for (int i = 1; i <= steps; ++i) {
+            isHandled = stepTo(from + way * (static_cast<float>(i) / static_cast<float>(steps))) &&
+                isHandled;
+        }
+        return isHandled;
+    }
+
+    /// One step to an offset from the pressed pixel.
+    bool stepTo(const osg::Vec2f& offsetPx)
+    {
+        reached = offsetPx;
+        return scene.send("process",
+                          osg::Pnt2f(std::round(pressed.x() + offsetPx.x()),
+                                     std::round(pressed.y() + offsetPx.y())));
+    }
+
+    bool release()
+    {
+        return scene.send("stop", osg::Pnt2f(pressed.x() + reached.x(), pressed.y() + reached.y()));
+    }
+
     AbstractManipulator& manipulator;
     GizmoScene scene;
-    HandleDrag drag { scene };
     osg::NodePtr parent;
+    osg::Pnt2f pressed;  ///< pixel of the last press
+    osg::Vec2f reached;  ///< offset of the last step
 };
 
 /// For scenes whose manipulator has to outlive them.
@@ -74,8 +140,6 @@ public:
 
     void activate(UniversalTransformManipulator2::ManipulatorMode mode);
 
-    osg::Pnt2f rayPixelOf(const osg::Pnt3f& world) const { return drag.rayPixelOf(world); }
-
     /// World position of a point in the gizmo's unit frame.
     osg::Pnt3f onGizmo(const osg::Vec3f& unit);
 
@@ -83,20 +147,11 @@ public:
     /// both were handled
     bool grab(const osg::Vec3f& unit);
 
-    bool dragBy(const osg::Vec2f& offsetPx) { return drag.dragBy(offsetPx); }
-
-    bool stepTo(const osg::Vec2f& offsetPx) { return drag.stepTo(offsetPx); }
-
-    bool release() { return drag.release(); }
-
     /// A further 2 x 2 x 2 box with a Transform3D, below the scene's root.
     osg::NodePtr addFurther(const osg::Vec3f& translation);
 };
 
 /// Greatest difference of two matrices' elements.
 float greatestDifference(const osg::Matrix& left, const osg::Matrix& right);
-
-/// Whether all elements are finite.
-bool isFinite(const osg::Matrix& matrix);
 
 }  // namespace nbec::manipulator::test

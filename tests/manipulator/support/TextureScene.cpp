@@ -5,7 +5,21 @@
 
 namespace nbec::manipulator::test {
 
+namespace {
+
 using Settings = osg::ColorComponentSettings;
+
+/// Message of a step, and type of the projection.
+std::pair<const char*, int> rowOf(AnchoredTextureManipulator& gizmo)
+{
+    return dynamic_cast<UVTextureManipulator*>(&gizmo) != nullptr
+        ? std::pair("label::changedUVManipulator", Settings::UVProjection)
+        : dynamic_cast<TireProjectionManipulator*>(&gizmo) != nullptr
+        ? std::pair("label::changedTireManipulator", Settings::TireProjection)
+        : std::pair("label::changedTriplanarManipulator", Settings::TriplanarProjection);
+}
+
+}  // namespace
 
 TextureScene::TextureScene(AbstractManipulator& gizmo, Receiver receiver, const char* changed,
                            int type)
@@ -44,26 +58,8 @@ TextureScene::TextureScene(PlanarTextureManipulator& planar, Receiver receiver)
     log.clear();
 }
 
-TextureScene::TextureScene(TriplanarTextureManipulator& gizmo, Receiver receiver)
-    : TextureScene(gizmo, receiver, "label::changedTriplanarManipulator",
-                   Settings::TriplanarProjection)
-{
-    anchor(gizmo);
-}
-
-TextureScene::TextureScene(UVTextureManipulator& gizmo, Receiver receiver)
-    : TextureScene(gizmo, receiver, "label::changedUVManipulator", Settings::UVProjection)
-{
-    anchor(gizmo);
-}
-
-TextureScene::TextureScene(TireProjectionManipulator& gizmo, Receiver receiver)
-    : TextureScene(gizmo, receiver, "label::changedTireManipulator", Settings::TireProjection)
-{
-    anchor(gizmo);
-}
-
-void TextureScene::anchor(AnchoredTextureManipulator& gizmo)
+TextureScene::TextureScene(AnchoredTextureManipulator& gizmo, Receiver receiver)
+    : TextureScene(gizmo, receiver, rowOf(gizmo).first, rowOf(gizmo).second)
 {
     gizmo.setMessageReceiver("label");
     gizmo.setAnchor(scene.node, osg::Pnt3f(0, 0, 0));
@@ -81,17 +77,11 @@ void TextureScene::editSettings(
     manipulator.update(true);
 }
 
-osg::Matrix PlanarScene::worldFromProjection() const
-{
-    osg::Matrix result = scene.node->getToWorld();
-    result.mult(projection->getMatrix());
-    return result;
-}
-
 osg::Pnt3f PlanarScene::inWorld(const osg::Vec3f& inProjection) const
 {
     osg::Pnt3f point(inProjection);
-    worldFromProjection().multMatrixPnt(point);
+    projection->getMatrix().multMatrixPnt(point);
+    scene.node->getToWorld().multMatrixPnt(point);
     return point;
 }
 

@@ -24,9 +24,7 @@ public:
     };
 
     explicit TextureScene(PlanarTextureManipulator& planar, Receiver receiver = Receiver::Log);
-    explicit TextureScene(TriplanarTextureManipulator& gizmo, Receiver receiver = Receiver::Log);
-    explicit TextureScene(UVTextureManipulator& gizmo, Receiver receiver = Receiver::Log);
-    explicit TextureScene(TireProjectionManipulator& gizmo, Receiver receiver = Receiver::Log);
+    explicit TextureScene(AnchoredTextureManipulator& gizmo, Receiver receiver = Receiver::Log);
 
     void editSettings(const std::function<void(const osg::ColorComponentSettingsPtr&)>& change);
 
@@ -40,7 +38,6 @@ public:
 
 private:
     TextureScene(AbstractManipulator& gizmo, Receiver receiver, const char* changed, int type);
-    void anchor(AnchoredTextureManipulator& gizmo);
 };
 
 /// A scene with its gizmo, which is seen from the front with all its handles.
@@ -58,8 +55,6 @@ class PlanarScene : public TextureSceneOf<PlanarTextureManipulator>
 public:
     using TextureSceneOf<PlanarTextureManipulator>::TextureSceneOf;
 
-    /// World from projection space.
-    osg::Matrix worldFromProjection() const;
     osg::Pnt3f inWorld(const osg::Vec3f& inProjection) const;
 };
 
