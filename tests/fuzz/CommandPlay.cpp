@@ -77,7 +77,7 @@ void needFonts()
 
 }  // namespace
 
-std::string playCommands(const std::uint8_t* data, std::size_t size)
+std::string playCommands(const QByteArray& text)
 {
     needFonts();
     constexpr int kMostLines = 60;
@@ -88,7 +88,6 @@ std::string playCommands(const std::uint8_t* data, std::size_t size)
     const PlatesTool plates(stage);
     stage.resize(640, 480);
     stage.showStartScene();
-    const QByteArray text(reinterpret_cast<const char*>(data), static_cast<int>(size));
     for (const QByteArray& line : text.split('\n').mid(0, kMostLines)) {
         const std::string fault =
             line.startsWith("nbviewer ") ? playArguments(stage, line) : playLine(stage, line);
@@ -107,10 +106,9 @@ std::string playCommands(const std::uint8_t* data, std::size_t size)
         : "a scene that commands made cannot be opened: " + error.toStdString();
 }
 
-std::string playModel(const std::uint8_t* data, std::size_t size)
+std::string playModel(const QByteArray& bytes)
 {
     ModelAssembly assembly;
-    const QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<int>(size));
     if (assembly.take(bytes) && assembly.isComplete() && assembly.failure().isEmpty()) {
         const BuiltModel built = buildModel(assembly.takeModel());
         if (built.root == osg::NullFC) {

@@ -15,10 +15,9 @@ namespace {
 /// Makes what is made once per process and kept.
 void warmUp()
 {
-    const char* const scene =
+    viewer::test::playFile(
         R"({"scene": 1, "camera": {"from": [0,0,9], "at": [0,0,0], "up": [0,1,0], "pivot": [0,0,0],
-        "fov": 40}, "models": [{"file": "a"}]})";
-    viewer::test::playFile(reinterpret_cast<const std::uint8_t*>(scene), std::string(scene).size());
+        "fov": 40}, "models": [{"file": "a"}]})");
 }
 
 }  // namespace
@@ -38,9 +37,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 {
     using namespace viewer::test;
     const std::string target = NB_FUZZ_TARGET;
-    const std::string fault = target == "commands" ? playCommands(data, size)
-        : target == "models"                       ? playModel(data, size)
-                                                   : playFile(data, size);
+    const QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<int>(size));
+    const std::string fault = target == "commands" ? playCommands(bytes)
+        : target == "models"                       ? playModel(bytes)
+                                                   : playFile(bytes);
     if (!fault.empty()) {
         std::fprintf(stderr, "%s\n", fault.c_str());
         std::abort();

@@ -169,10 +169,9 @@ std::string playScene(const QByteArray& text)
 
 }  // namespace
 
-std::string playFile(const std::uint8_t* data, std::size_t size)
+std::string playFile(const QByteArray& text)
 {
     const nbtest::ContainerCensus before;
-    const QByteArray text(reinterpret_cast<const char*>(data), static_cast<int>(size));
     std::string fault = playSession(text);
     if (fault.empty()) {
         fault = playScene(text);

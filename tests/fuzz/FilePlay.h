@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
+#include <QtCore/QByteArray>
+
 #include <string>
 
 namespace viewer::test {
@@ -16,14 +16,14 @@ constexpr const char* kBetweenFiles = "\n%%\n";
 /// beside the one that is shown, without reading any file, and what it then shows must be the same
 /// again after saving and opening. What they refuse must give one line. Nothing may be left behind.
 /// @return the first of these that did not hold; empty if all did
-std::string playFile(const std::uint8_t* data, std::size_t size);
+std::string playFile(const QByteArray& text);
 
 /// Plays bytes as lines of commands on the start scene; a first line "nbviewer ..." is the command
 /// line of the program, whose scenes and sessions are read. Each is done or refused in one line,
 /// and what they leave can be opened when it can be saved.
-std::string playCommands(const std::uint8_t* data, std::size_t size);
+std::string playCommands(const QByteArray& text);
 
 /// Plays bytes as records of a model, and as a picture: nothing but a sound one is taken.
-std::string playModel(const std::uint8_t* data, std::size_t size);
+std::string playModel(const QByteArray& bytes);
 
 }  // namespace viewer::test

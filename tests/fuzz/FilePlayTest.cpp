@@ -22,12 +22,6 @@
 namespace viewer::test {
 namespace {
 
-std::string play(const QByteArray& text)
-{
-    return playFile(reinterpret_cast<const std::uint8_t*>(text.constData()),
-                    static_cast<std::size_t>(text.size()));
-}
-
 /// The corpus and the shipped sessions, by name.
 std::vector<std::pair<std::string, QByteArray>> allTexts()
 {
@@ -65,7 +59,7 @@ protected:
         // What is made once per process and kept.
         osg::getDefaultMaterial();
         for (const auto& [name, text] : allTexts()) {
-            play(text);
+            playFile(text);
         }
     }
 };
@@ -74,7 +68,7 @@ TEST_F(FilePlay, TheCorpusBreaksNothing)
 {
     ASSERT_GT(allTexts().size(), 10U);
     for (const auto& [name, text] : allTexts()) {
-        EXPECT_EQ(play(text), "") << name;
+        EXPECT_EQ(playFile(text), "") << name;
     }
 }
 
@@ -113,10 +107,7 @@ TEST_F(FilePlay, CommandsInAnyOrderLeaveASceneThatCanBeOpened)
             lines += names[random() % names.size()] + ' ' + values[random() % std::size(values)];
             lines += random() % 4 == 0 ? "\nundo\n" : "\n";
         }
-        ASSERT_EQ(playCommands(reinterpret_cast<const std::uint8_t*>(lines.constData()),
-                               static_cast<std::size_t>(lines.size())),
-                  "")
-            << lines.toStdString();
+        ASSERT_EQ(playCommands(lines), "") << lines.toStdString();
     }
 }
 
@@ -145,7 +136,7 @@ TEST_F(FilePlay, SceneModelAndPictureOutOfFilesBreakNothingTogether)
      "components": [{"name": "diffuse", "picture": "a.png", "settings": {}}]}]}],
  "plates": [{"name": "p", "picture": "a.png", "position": [0,0], "size": [1,1]}]})") +
         kBetweenFiles + soundRecords() + kBetweenFiles + picture;
-    ASSERT_EQ(play(sound), "");
+    ASSERT_EQ(playFile(sound), "");
     std::mt19937 random(11);
     for (int i = 0; i < 300; ++i) {
         QByteArray damaged = sound;
@@ -153,7 +144,7 @@ TEST_F(FilePlay, SceneModelAndPictureOutOfFilesBreakNothingTogether)
             damaged[static_cast<int>(random() % static_cast<unsigned>(damaged.size()))] =
                 static_cast<char>(random());
         }
-        ASSERT_EQ(play(damaged), "");
+        ASSERT_EQ(playFile(damaged), "");
     }
 }
 
@@ -168,9 +159,7 @@ TEST(ModelPlay, DamagedRecordsAndPicturesBreakNothing)
             damaged[static_cast<int>(random() % static_cast<unsigned>(most))] =
                 static_cast<char>(random());
         }
-        ASSERT_EQ(playModel(reinterpret_cast<const std::uint8_t*>(damaged.constData()),
-                            static_cast<std::size_t>(damaged.size())),
-                  "");
+        ASSERT_EQ(playModel(damaged), "");
     }
 }
 
@@ -187,7 +176,7 @@ TEST_F(FilePlay, DamagedFilesBreakNothing)
             if (random() % 3 == 0) {
                 damaged.truncate(static_cast<int>(random() % 100000) % damaged.size());
             }
-            ASSERT_EQ(play(damaged), "") << name << '\n' << damaged.toStdString();
+            ASSERT_EQ(playFile(damaged), "") << name << '\n' << damaged.toStdString();
         }
     }
 }

@@ -115,14 +115,6 @@ const std::vector<PlayTarget>& playTargets()
     return kTargets;
 }
 
-const PlayTarget* findPlayTarget(const std::string& name)
-{
-    const std::vector<PlayTarget>& targets = playTargets();
-    const auto found = std::find_if(targets.begin(), targets.end(),
-                                    [&](const PlayTarget& target) { return target.name == name; });
-    return found == targets.end() ? nullptr : &*found;
-}
-
 void preparePlays()
 {
     {

@@ -22,9 +22,6 @@ std::unique_ptr<Actor> makeProjectionActor(Stage& stage);
 /// One target for each manipulator and tool, and "together", in which all meet on one stage.
 const std::vector<PlayTarget>& playTargets();
 
-/// @return the target of a name; null for any other
-const PlayTarget* findPlayTarget(const std::string& name);
-
 /// Makes what is made once in a process and kept, so that it is no leak of the first play.
 void preparePlays();
 

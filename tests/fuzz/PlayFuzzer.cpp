@@ -4,6 +4,7 @@
 
 #include <OpenSG/OSGBaseFunctions.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 
@@ -18,7 +19,9 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    static const test::PlayTarget* const kTarget = test::findPlayTarget(NB_FUZZ_TARGET);
+    static const auto kTarget =
+        std::find_if(test::playTargets().begin(), test::playTargets().end(),
+                     [](const auto& target) { return target.name == NB_FUZZ_TARGET; });
     const std::string fault = test::play(*kTarget, data, size);
     if (!fault.empty()) {
         std::fprintf(stderr, "%s\n", fault.c_str());

@@ -39,15 +39,19 @@ public:
         case 4:
         case 5:
             return showProjection(bytes);
-        case 6:
+        case 6: {
             shown->setRotate(bytes.number());
-            return scale(bytes.number2());
+            const osg::Vec2f sides = bytes.number2();
+            return shown->setScale(sides.x(), sides.y());
+        }
         case 7:
             shown->setVisible(bytes.flag());
             shown->setZScaleVisible(bytes.flag());
             return shown->setPlaneTransparency(bytes.number());
         default:
-            return showPicture(stage.image(bytes), bytes.next());
+            const osg::ImagePtr image = stage.image(bytes);
+            const unsigned flags = bytes.next();
+            return shown->setTexture(image, flags % 2 != 0, flags % 4 >= 2);
         }
     }
 
@@ -68,13 +72,6 @@ private:
         }
         const nbEdit edit(above, osg::Node::ChildrenFieldMask);
         on ? above->addChild(root) : above->subChild(root);
-    }
-
-    void scale(const osg::Vec2f& sides) { shown->setScale(sides.x(), sides.y()); }
-
-    void showPicture(const osg::ImagePtr& image, unsigned flags)
-    {
-        shown->setTexture(image, flags % 2 != 0, flags % 4 >= 2);
     }
 
     void showProjection(Bytes& bytes)
