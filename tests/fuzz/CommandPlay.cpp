@@ -71,7 +71,9 @@ void needFonts()
     static int count = 1;
     if (QCoreApplication::instance() == nullptr) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
-        static const QGuiApplication application(count, arguments);
+        // It ends with the process, as its screens do.
+        static const auto* const kApplication = new QGuiApplication(count, arguments);
+        (void)kApplication;
     }
 }
 
