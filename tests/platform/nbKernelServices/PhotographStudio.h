@@ -93,10 +93,8 @@ public:
 
     Vec3d direction()
     {
-        Vec3d result;
-        do {
-            result = Vec3d(between(-1.0, 1.0), between(-1.0, 1.0), between(-1.0, 1.0));
-        } while (result.length() < 0.1 || result.length() > 1.0);
+        std::normal_distribution<double> any;
+        const Vec3d result(any(generator), any(generator), any(generator));
         return result * (1.0 / result.length());
     }
 
