@@ -93,8 +93,10 @@ public:
 
     Vec3d direction()
     {
-        std::normal_distribution<double> any;
-        const Vec3d result(any(generator), any(generator), any(generator));
+        Vec3d result;
+        do {
+            result = Vec3d(between(-1.0, 1.0), between(-1.0, 1.0), between(-1.0, 1.0));
+        } while (result.length() < 0.1 || result.length() > 1.0);
         return result * (1.0 / result.length());
     }
 
