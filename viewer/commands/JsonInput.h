@@ -21,24 +21,17 @@
 
 namespace viewer {
 
+/// Whether a type is one of those listed.
+template <class Value, class... Listed>
+constexpr bool kIsOneOf = (std::is_same_v<Value, Listed> || ...);
+
 /// How many numbers of single precision, told by [], make a vector, colour or rotation (x, y, z,
-/// w); 0 for other types.
+/// w); 0 for other types. A quaternion of a real OpenSG is larger than its numbers.
 template <class Value>
-constexpr int kNumberCount = 0;
-template <>
-constexpr int kNumberCount<osg::Vec2f> = 2;
-template <>
-constexpr int kNumberCount<osg::Vec3f> = 3;
-template <>
-constexpr int kNumberCount<osg::Vec4f> = 4;
-template <>
-constexpr int kNumberCount<osg::Pnt3f> = 3;
-template <>
-constexpr int kNumberCount<osg::Color3f> = 3;
-template <>
-constexpr int kNumberCount<osg::Color4f> = 4;
-template <>
-constexpr int kNumberCount<osg::Quaternion> = 4;
+constexpr int kNumberCount = std::is_same_v<Value, osg::Quaternion> ? 4
+    : kIsOneOf<Value, osg::Vec2f, osg::Vec3f, osg::Vec4f, osg::Pnt3f, osg::Color3f, osg::Color4f>
+    ? static_cast<int>(sizeof(Value) / sizeof(float))
+    : 0;
 
 /// Reads objects of JSON as functions bool describe(JsonInput&, Value&) tell, which name the
 /// entries that a Value has one after the other; other entries are refused. There is one for each

@@ -54,17 +54,17 @@ struct Traits
 };
 
 // clang-format off
-template <class Gizmo> constexpr Traits kTraits {};
+template <class Gizmo> inline constexpr Traits kTraits {};
 //                                                                                                                                            first  after  after  hover  lit    ends   marks  text   camera
 //                                                                                                                                            step   hover  hover  kept
-template <> constexpr Traits kTraits<Transform> { Fault::DropNode, "nbTransform::changedTransformation", 0, "xaShape", "yaShape", Pause::Never, false, true, true, false, true, true, true, true, false };
-template <> constexpr Traits kTraits<Planar> { Fault::DropNode, "editor::changedPlanarManipulator", 0, "yaShape", "xsShape", Pause::AtStart, true, true, false, false, true, true, false, true, true };
-template <> constexpr Traits kTraits<Triplanar> { Fault::DropMaterial, "editor::changedTriplanarManipulator", 1, "xaShape", "yaShape", Pause::AtFirstStep, false, true, true, true, false, false, true, false, true };
-template <> constexpr Traits kTraits<UV> { Fault::DropMaterial, "editor::changedUVManipulator", 1, "xaShape", "yaShape", Pause::AtFirstStep, false, true, true, true, false, false, false, false, true, true };
-template <> constexpr Traits kTraits<Tire> { Fault::DropMaterial, "editor::changedTireManipulator", 2, "yaShape", "scaleUShape", Pause::AtFirstStep, false, true, true, true, false, false, true, true, true };
-template <> constexpr Traits kTraits<Plate> { Fault::DropPlate, "sceneplateChanged", 0, "scaleXYURShape", "rotateShape", Pause::AtStart, true, false, false, false, true, true, false, true, true };
+template <> inline constexpr Traits kTraits<Transform> { Fault::DropNode, "nbTransform::changedTransformation", 0, "xaShape", "yaShape", Pause::Never, false, true, true, false, true, true, true, true, false };
+template <> inline constexpr Traits kTraits<Planar> { Fault::DropNode, "editor::changedPlanarManipulator", 0, "yaShape", "xsShape", Pause::AtStart, true, true, false, false, true, true, false, true, true };
+template <> inline constexpr Traits kTraits<Triplanar> { Fault::DropMaterial, "editor::changedTriplanarManipulator", 1, "xaShape", "yaShape", Pause::AtFirstStep, false, true, true, true, false, false, true, false, true };
+template <> inline constexpr Traits kTraits<UV> { Fault::DropMaterial, "editor::changedUVManipulator", 1, "xaShape", "yaShape", Pause::AtFirstStep, false, true, true, true, false, false, false, false, true, true };
+template <> inline constexpr Traits kTraits<Tire> { Fault::DropMaterial, "editor::changedTireManipulator", 2, "yaShape", "scaleUShape", Pause::AtFirstStep, false, true, true, true, false, false, true, true, true };
+template <> inline constexpr Traits kTraits<Plate> { Fault::DropPlate, "sceneplateChanged", 0, "scaleXYURShape", "rotateShape", Pause::AtStart, true, false, false, false, true, true, false, true, true };
 // Edits its camera's match without a message.
-template <> constexpr Traits kTraits<Match> { Fault::DropView, "", 0, "1", "2", Pause::Never, false, true, true, true, true, true, false, false, false };
+template <> inline constexpr Traits kTraits<Match> { Fault::DropView, "", 0, "1", "2", Pause::Never, false, true, true, true, true, true, false, false, false };
 
 // clang-format on
 

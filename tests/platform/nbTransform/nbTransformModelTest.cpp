@@ -174,8 +174,8 @@ TEST_F(nbTransformModelTest, AGroupThatGoesBackToItsStartLeavesNoStep)
 
     for (int row = 0; row < 36; ++row) {
         SCOPED_TRACE(row);
-        constexpr const char* kOrders[] = { "xyz", "yzx", "zxy", "xzy", "yxz", "zyx" };
-        const auto turn = [row, &kOrders](Transform3D& of) {
+        static constexpr const char* kOrders[] = { "xyz", "yzx", "zxy", "xzy", "yxz", "zyx" };
+        const auto turn = [row](Transform3D& of) {
             of.setEulerRotationOrder(kOrders[row % 6]);
             of.setTranslation(Vec3f(1.f, -2.f, 3.f));
             of.setEulerRotation(Vec3f(25.f, -50.f, 110.f));
