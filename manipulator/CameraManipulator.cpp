@@ -3,7 +3,6 @@
 
 #include "manipulator/ManipulatorInteractionContext.h"
 #include "manipulator/course/Gizmo.h"
-#include "manipulator/course/PickerOf.h"
 #include "manipulator/handles/HandleMaterials.h"
 #include "manipulator/handles/HandleNodes.h"
 

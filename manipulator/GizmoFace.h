@@ -4,7 +4,6 @@
 #include "manipulator/AbstractManipulator.h"
 #include "manipulator/ManipulatorInteractionContext.h"
 #include "manipulator/course/Gizmo.h"
-#include "manipulator/course/PickerOf.h"
 
 #include <memory>
 #include <string>

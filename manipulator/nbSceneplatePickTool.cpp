@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/nbSceneplatePickTool.h"
 
-#include "manipulator/course/PickerOf.h"
+#include "manipulator/course/View.h"
 
 #include <nbInteraction/Picker.h>
 #include <nbInteraction/ToolInteractionContext.h>

@@ -12,7 +12,18 @@
 
 #include <optional>
 
+namespace nbec::interaction {
+class Picker;
+}  // namespace nbec::interaction
+
 namespace nbec::manipulator {
+
+/// The picker of an interaction context of any class, null without one.
+template <class Context>
+interaction::Picker* pickerOf(const Context* context)
+{
+    return context != nullptr ? context->getPicker() : nullptr;
+}
 
 /// Size setting of a class of gizmos before anybody sets one.
 constexpr float kDefaultManipulatorSize = 32.0F;
