@@ -35,6 +35,10 @@ TEST_F(FileRules, OnlyRegularFilesOfThisMachineAreOpened)
             EXPECT_TRUE(error.startsWith(path + ": ")) << error.toStdString();
         }
     }
+    ModelReader::Limits hasty;
+    hasty.patienceMs = 5000;
+    writeFile(fileIn("a.obj"), "mtllib pipe.png\nv 0 0 0\nv 1 0 0\nv 0 1 0\nf 1 2 3\n");
+    EXPECT_TRUE(ModelReader(hasty).read(fileIn("a.obj"), {}, error)) << error.toStdString();
     EXPECT_FALSE(saveScene(stage, "/dev/full", error));
     EXPECT_FALSE(writePicture("/dev/null", QImage(2, 2, QImage::Format_RGB32), error));
     EXPECT_FALSE(saveScene(stage, pipe, error));

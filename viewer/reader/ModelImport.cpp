@@ -84,11 +84,16 @@ std::optional<ModelData> fail(const QString& what, QString& error)
 class Files : public Assimp::DefaultIOSystem
 {
 public:
-    Assimp::IOStream* Open(const char* file, const char* mode) override
+    /// The importer's own opens the file, which waits at a pipe.
+    bool Exists(const char* file) const override
     {
         QString error;
-        const bool isAllowed =
-            std::strchr(mode, 'r') != nullptr && isReadable(QFile::decodeName(file), error);
+        return isReadable(QFile::decodeName(file), error);
+    }
+
+    Assimp::IOStream* Open(const char* file, const char* mode) override
+    {
+        const bool isAllowed = std::strchr(mode, 'r') != nullptr && Exists(file);
         return isAllowed ? Assimp::DefaultIOSystem::Open(file, mode) : nullptr;
     }
 };
