@@ -57,12 +57,13 @@ TEST_F(FileRules, WhatASessionWritesLiesInItsFolderAndIsOfItsKind)
         EXPECT_TRUE(pathInside(out, name, ".nbscene", error).startsWith(out.path() + '/')) << name;
     }
     EXPECT_NE(pathInside(QDir("/"), "tmp/a.png", ".png", error), "");
-    for (const char* name :
-         { "../a.nbscene", "/tmp/a.nbscene", "kept.sh", "a.nbscene.sh", "", "link.nbscene",
-           "way/a.nbscene", "pipe.nbscene", "none/a.nbscene", "deep", "../out-of-it/a.nbscene" }) {
+    for (const QString& name : std::initializer_list<QString> {
+             "../a.nbscene", "/tmp/a.nbscene", "kept.sh", "a.nbscene.sh", "", "link.nbscene",
+             "way/a.nbscene", "pipe.nbscene", "none/a.nbscene", "deep", "../out-of-it/a.nbscene",
+             QString("kept.sh%1.nbscene").arg(QChar(0)), "a\x1b[2J.nbscene" }) {
         error.clear();
-        EXPECT_EQ(pathInside(out, name, ".nbscene", error), "") << name;
-        EXPECT_NE(error, "") << name;
+        EXPECT_EQ(pathInside(out, name, ".nbscene", error), "") << name.toStdString();
+        EXPECT_NE(error, "") << name.toStdString();
     }
     EXPECT_EQ(oneLine("a\nb\x1b[2J"), "a b [2J");
 }

@@ -46,7 +46,7 @@ bool isReadable(const QString& path, QString& error)
     if (isOfAnotherMachine(path)) {
         return fail(path, Text::tr("is not on this machine"), error);
     }
-    if (!info.exists()) {
+    if (path.contains(QChar::Null) || !info.exists()) {
         return fail(path, Text::tr("no such file"), error);
     }
     return (info.isFile() && !isOfTheSystem(info)) || fail(path, Text::tr("not a file"), error);
@@ -70,7 +70,10 @@ QString pathInside(const QDir& folder, const QString& name, const QString& endin
     const QFileInfo info(path);
     const QString own = info.dir().canonicalPath();
     const QString allowed = folder.canonicalPath();
-    if (own.isEmpty()) {
+    if (oneLine(name) != name) {
+        // The system ends a name at a zero, and so would not see the ending.
+        fail(path, QStringLiteral("has control characters"), error);
+    } else if (own.isEmpty()) {
         fail(path, Text::tr("no such folder"), error);
     } else if (allowed.isEmpty() ||
                !(own + '/').startsWith(allowed.endsWith('/') ? allowed : allowed + '/')) {

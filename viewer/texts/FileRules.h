@@ -23,7 +23,7 @@ bool openForReading(QFile& file, QString& error);
 bool isReplaceable(const QString& path, QString& error);
 
 /// Path of a file that a stranger's session may write: it lies in the folder or below, links
-/// included, ends as said, and is new or a regular file.
+/// included, ends as said, has no control characters, and is new or a regular file.
 /// @param name    from the folder, or the whole path
 /// @param ending  such as ".png"
 /// @return "" with one line in `error`
