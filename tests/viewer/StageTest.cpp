@@ -65,6 +65,15 @@ TEST_F(StageWithStartScene, WhatIsExportedIsReadAgainWhereItStands)
     }
     EXPECT_FALSE(stage.commands().run("scene.export", "c.none", error));
     EXPECT_TRUE(error.contains("c.none")) << error.toStdString();
+
+    // What goes beside a model neither leads out of the folder nor replaces what belongs to others.
+    ASSERT_TRUE(QFile::link(folder.filePath("a.glb"), folder.filePath("d.mtl")));
+    ASSERT_TRUE(QFile::copy(folder.filePath("a.glb"), folder.filePath("e.bin")));
+    for (const char* name : { "d.obj", "e.gltf" }) {
+        EXPECT_FALSE(stage.commands().run("scene.export", name, error)) << name;
+        EXPECT_FALSE(QFile::exists(folder.filePath(name)));
+    }
+    EXPECT_TRUE(stage.commands().run("scene.export", "b.obj", error)) << error.toStdString();
 }
 
 TEST_F(StageWithStartScene, CursorsPointAlongTheAxesOnTheScreen)

@@ -15,14 +15,13 @@
 
 #include <QBuffer>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QImage>
-#include <QTemporaryDir>
 
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <limits>
 #include <map>
 #include <memory>
 #include <vector>
@@ -58,8 +57,8 @@ Value* arrayOf(const std::vector<Value>& values)
 class Export
 {
 public:
-    explicit Export(const QString& path)
-        : file(path)
+    explicit Export(const QFileInfo& target)
+        : file(target)
         , isGltf(file.suffix().startsWith(QLatin1String("gl")))
     { }
 
@@ -75,6 +74,9 @@ public:
         made->mTextures = arrayOf(textures);
         return made;
     }
+
+    /// Files of pictures that go beside that of the models, by name; once.
+    std::map<QString, QByteArray> takePictures() { return std::move(pictures); }
 
 private:
     aiNode* convert(const osg::NodePtr& node)
@@ -207,15 +209,15 @@ private:
     /// @return what a material calls the picture
     QString addPicture(const QImage& picture)
     {
-        if (!isGltf) {
-            const QString name =
-                QStringLiteral("%1-%2.png").arg(file.completeBaseName()).arg(materials.size());
-            picture.save(file.dir().filePath(name));
-            return name;
-        }
         QBuffer png;
         png.open(QIODevice::WriteOnly);
         picture.save(&png, "PNG");
+        if (!isGltf) {
+            const QString name =
+                QStringLiteral("%1-%2.png").arg(file.completeBaseName()).arg(materials.size());
+            pictures[name] = png.data();
+            return name;
+        }
         const auto size = static_cast<std::size_t>(png.size());
         textures.push_back(new aiTexture);
         textures.back()->mWidth = static_cast<unsigned>(size);
@@ -230,9 +232,23 @@ private:
     std::vector<aiMesh*> meshes;
     std::vector<aiMaterial*> materials;
     std::vector<aiTexture*> textures;
+    std::map<QString, QByteArray> pictures;  ///< beside the file, by name
     std::map<osg::UInt32, unsigned> meshNumbers;  ///< by the ids of geometries
     std::map<osg::UInt32, unsigned> materialNumbers;  ///< by their ids
 };
+
+/// Whether a file that goes with that of the models is new or came with it before: nobody was asked
+/// about another one, and a link leads elsewhere.
+bool isOwn(const QFileInfo& models, const QString& name, QString& error)
+{
+    const QFileInfo part(models.dir(), name);
+    if (name == models.fileName() || (!part.isSymLink() && (models.exists() || !part.exists()))) {
+        return true;
+    }
+    error =
+        oneLine(Text::tr("%1: is there already and belongs to another file").arg(part.filePath()));
+    return false;
+}
 
 }  // namespace
 
@@ -250,27 +266,37 @@ bool exportModels(const QString& path, QString& error)
                             .arg(path, exportEndings().join(QStringLiteral(", "))));
         return false;
     }
-    // Made elsewhere and moved as a whole: a full disk leaves what was there.
-    const QTemporaryDir folder;
-    const QString file = folder.filePath(target.fileName());
+    // Made in memory and written when all of it is there: a full disk leaves what was there.
     Assimp::Exporter exporter;
-    const std::unique_ptr<aiScene> scene = Export(file).scene();
+    Assimp::ExportProperties properties;
+    properties.SetPropertyString(AI_CONFIG_EXPORT_BLOB_NAME, target.fileName().toStdString());
+    Export models(target);
+    const std::unique_ptr<aiScene> scene = models.scene();
     static constexpr const char* kKinds[] = { "glb2", "gltf2", "obj", "ply", "stl" };
-    if (scene->mNumMeshes == 0 ||
-        exporter.Export(scene.get(), kKinds[kind], file.toStdString()) != AI_SUCCESS) {
+    const aiExportDataBlob* made = scene->mNumMeshes == 0
+        ? nullptr
+        : exporter.ExportToBlob(scene.get(), kKinds[kind], 0U, &properties);
+    if (made == nullptr) {
         error = scene->mNumMeshes == 0
             ? Text::tr("there is nothing to export")
             : oneLine(QStringLiteral("%1: %2").arg(path, exporter.GetErrorString()));
         return false;
     }
-    for (const QFileInfo& part : QDir(folder.path()).entryInfoList(QDir::Files)) {
-        QFile written(part.filePath());
-        if (!written.open(QIODevice::ReadOnly) ||
-            !writeWhole(target.dir().filePath(part.fileName()), written.readAll(), error)) {
+    std::map<QString, QByteArray> parts = models.takePictures();
+    for (; made != nullptr; made = made->next) {
+        if (made->size > std::size_t(std::numeric_limits<int>::max())) {
+            error = oneLine(Text::tr("%1: cannot be written").arg(path));
             return false;
         }
+        const QString ending = QFileInfo(made->name.C_Str()).suffix();
+        parts[ending.isEmpty() ? target.fileName() : target.completeBaseName() + '.' + ending] =
+            QByteArray(static_cast<const char*>(made->data), static_cast<int>(made->size));
     }
-    return true;
+    const auto mayBeWritten = [&](const auto& part) { return isOwn(target, part.first, error); };
+    return std::all_of(parts.begin(), parts.end(), mayBeWritten) &&
+        std::all_of(parts.begin(), parts.end(), [&](const auto& part) {
+               return writeWhole(target.dir().filePath(part.first), part.second, error);
+           });
 }
 
 }  // namespace viewer

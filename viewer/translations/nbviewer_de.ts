@@ -717,6 +717,10 @@
         <translation>Entlang y und z skalieren</translation>
     </message>
     <message>
+        <source>%1: is there already and belongs to another file</source>
+        <translation>%1: ist schon da und gehört zu einer anderen Datei</translation>
+    </message>
+    <message>
         <source>%1: models are exported to %2</source>
         <translation>%1: Modelle werden als %2 exportiert</translation>
     </message>

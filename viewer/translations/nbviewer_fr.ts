@@ -717,6 +717,10 @@
         <translation>Mettre à l’échelle selon y et z</translation>
     </message>
     <message>
+        <source>%1: is there already and belongs to another file</source>
+        <translation>%1 : existe déjà et appartient à un autre fichier</translation>
+    </message>
+    <message>
         <source>%1: models are exported to %2</source>
         <translation>%1 : les modèles sont exportés en %2</translation>
     </message>

@@ -715,6 +715,10 @@
         <translation>沿 y 和 z 缩放</translation>
     </message>
     <message>
+        <source>%1: is there already and belongs to another file</source>
+        <translation>%1：已存在，并属于另一个文件</translation>
+    </message>
+    <message>
         <source>%1: models are exported to %2</source>
         <translation>%1：模型可导出为 %2</translation>
     </message>
