@@ -190,6 +190,12 @@ TEST_F(SceneFileActionsTest, WhatWasKeptIsOfferedWithItsPictureUntilItIsTakenOrD
 
     offer(QMessageBox::Cancel);
     EXPECT_NE(text(), edited);
+    ASSERT_TRUE(QFile::copy(left, folder.filePath("sound")));
+    writeFile(left, "{");
+    offer(QMessageBox::Yes);
+    EXPECT_TRUE(QFile::exists(left)) << "what cannot be opened today is offered again";
+    EXPECT_FALSE(window.isWindowModified());
+    ASSERT_TRUE(QFile::remove(left) && QFile::rename(folder.filePath("sound"), left));
     offer(QMessageBox::Yes);
     EXPECT_EQ(text(), edited);
     EXPECT_TRUE(window.isWindowModified());
@@ -197,7 +203,7 @@ TEST_F(SceneFileActionsTest, WhatWasKeptIsOfferedWithItsPictureUntilItIsTakenOrD
     ASSERT_TRUE(saveScene(stage(), left, error));
     ASSERT_TRUE(window.view().lastFrame().save(folder.filePath("recovery-7.png")));
     offer(QMessageBox::Discard);
-    EXPECT_EQ(asked, 3);
+    EXPECT_EQ(asked, 4);
     EXPECT_EQ(QDir(folder.path()).entryList({ "recovery-7.*" }), QStringList());
 }
 

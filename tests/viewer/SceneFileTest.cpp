@@ -340,6 +340,7 @@ TEST_F(SceneFile, WhatAKilledProgramKeptIsTakenUpOnceAndThatOfARunningOneNever)
         EXPECT_FALSE(recovery.find()) << "it still runs";
         kill(other, SIGKILL);
         waitpid(other, nullptr, 0);
+        ASSERT_EQ(mkfifo(kept.filePath("recovery-1.png").toLocal8Bit().constData(), 0600), 0);
         const std::optional<Recovery::Kept> found = recovery.find();
         ASSERT_TRUE(found);
         EXPECT_FALSE(recovery.find()) << "it is being offered";

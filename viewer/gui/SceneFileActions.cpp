@@ -34,6 +34,7 @@ constexpr std::array<const char*, 4> kUnrecorded { "match.setPhotograph", "match
 
 constexpr int kMsOfASecond = 1000;
 constexpr int kUsualSeconds = 120;
+constexpr int kMostSeconds = 3600;
 
 QUndoStack& steps()
 {
@@ -251,8 +252,9 @@ void SceneFileActions::keepEdits(const QDir& folder, std::function<QImage()> sho
     recovery = std::make_unique<Recovery>(folder);
     shownPicture = std::move(shown);
     connect(&keepTimer, &QTimer::timeout, this, &SceneFileActions::keepNow);
-    keepTimer.start(kMsOfASecond *
-                    qMax(1, QSettings().value("keepSeconds", kUsualSeconds).toInt()));
+    keepTimer.start(
+        kMsOfASecond *
+        qBound(1, QSettings().value("keepSeconds", kUsualSeconds).toInt(), kMostSeconds));
     connect(this, &SceneFileActions::modifiedChanged, this, [this](bool modified) {
         if (!modified) {
             recovery->forget();
@@ -306,11 +308,11 @@ void SceneFileActions::offerKept()
     const int answer = box.exec();
     if (answer == QMessageBox::Discard) {
         Recovery::discard(kept->file);
-    } else if (answer == QMessageBox::Yes && recovery->takeUp(*kept)) {
-        // Before it is opened: what counts as saved is no longer kept.
+    } else if (QString error;
+               answer == QMessageBox::Yes && tell(openScene(stage, kept->file, error), error)) {
+        // Only now: what cannot be opened, as when a disk with a model is away, is offered again.
+        recovery->takeUp(*kept);
         touch();
-        QString error;
-        tell(openScene(stage, recovery->file(), error), error);
     }
 }
 

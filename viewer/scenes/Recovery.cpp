@@ -2,6 +2,7 @@
 #include "viewer/scenes/Recovery.h"
 
 #include "viewer/loading/PictureDecoding.h"
+#include "viewer/texts/Text.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -36,8 +37,9 @@ QString pictureOf(const QString& file)
 std::shared_ptr<QFile> lockOf(const QString& file)
 {
     auto lock = std::make_unique<QFile>(beside(file, ".lock"));
-    // One that is there no more was that of a process that has just ended.
-    if (!lock->open(QIODevice::WriteOnly) || flock(lock->handle(), LOCK_EX | LOCK_NB) != 0 ||
+    // Read and written: neither waits at a pipe nor empties what a link leads to. One that is there
+    // no more was that of a process that has just ended.
+    if (!lock->open(QIODevice::ReadWrite) || flock(lock->handle(), LOCK_EX | LOCK_NB) != 0 ||
         !lock->exists()) {
         return nullptr;
     }
@@ -58,6 +60,7 @@ Recovery::Recovery(const QDir& wanted)
         ownFile = folder.absoluteFilePath(QStringLiteral("recovery-%1.nbscene").arg(number));
         lock = QFile::exists(ownFile) ? nullptr : lockOf(ownFile);
     }
+    fault = lock ? QString() : Text::tr("%1: cannot be written").arg(ownFile);
 }
 
 Recovery::~Recovery()
@@ -115,7 +118,9 @@ std::optional<Recovery::Kept> Recovery::find()
     for (const QFileInfo& left : folder.entryInfoList({ kScenes }, QDir::Files, QDir::Time)) {
         const QString file = left.absoluteFilePath();
         if (auto held = lockOf(file)) {
-            return Kept { file, left.lastModified(), QImage(pictureOf(file)), std::move(held) };
+            QString error;
+            return Kept { file, left.lastModified(), decodePictureFile(pictureOf(file), error),
+                          std::move(held) };
         }
     }
     return std::nullopt;
