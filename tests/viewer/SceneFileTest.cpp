@@ -2,6 +2,7 @@
 #include "tests/viewer/support/SceneEdits.h"
 #include "tests/viewer/support/SceneTest.h"
 #include "viewer/commands/JsonReader.h"
+#include "viewer/commands/SceneLimits.h"
 #include "viewer/loading/BuiltModel.h"
 #include "viewer/loading/PictureFile.h"
 #include "viewer/scenes/Recovery.h"
@@ -287,6 +288,29 @@ TEST_F(SceneFile, WhatCannotBeFoundAgainIsNotSaved)
 }
 
 // == Saving
+
+TEST_F(SceneFile, WhatLiesBeyondTheLimitsIsSavedAtThem)
+{
+    ASSERT_TRUE(stage.selectByName("Vase"));
+    ASSERT_TRUE(run("object.translation", QJsonArray { 1, 2, 3 }));
+    const auto vase = osg::Transform3DPtr::dcast(stage.selectedObject()->getCore());
+    vase->setTranslation(osg::Vec3f(NAN, -INFINITY, 1.0F));
+    vase->setScale(osg::Vec3f(0.0F, -1e-30F, 1e30F));
+    ASSERT_TRUE(run("scene.addClipPlane")) << "of all that there is";
+    CameraPose far = stage.pose();
+    far.from = osg::Pnt3f(0.0F, 0.0F, 1e20F);
+    stage.setPose(far);
+
+    ASSERT_TRUE(saveScene(stage, fileIn("a.nbscene"), error)) << error.toStdString();
+    ASSERT_TRUE(openScene(stage, fileIn("a.nbscene"), error)) << error.toStdString();
+
+    ASSERT_TRUE(stage.selectByName("Vase"));
+    const nbTransformState saved = nbTransformState::of(
+        *osg::Transform3DPtr::dcast(stage.selectedObject()->getCore()).operator->());
+    EXPECT_EQ(saved.translation, osg::Vec3f(0.0F, -kLargestNumber, 1.0F));
+    EXPECT_EQ(saved.scale, osg::Vec3f(kSmallestScale, -kSmallestScale, kLargestNumber));
+    EXPECT_EQ(stage.pose().from[2], kLargestNumber);
+}
 
 TEST_F(SceneFile, AFullDiskLeavesTheOldFileAndNoOther)
 {

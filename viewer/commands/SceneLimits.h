@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <algorithm>
 #include <cmath>
 
 namespace viewer {
@@ -21,6 +22,20 @@ template <class Number>
 bool isSceneNumber(Number number)
 {
     return std::abs(number) <= Number(kLargestNumber);
+}
+
+/// The nearest number that a scene can have, 0 for none: what models and drags add up to beyond the
+/// limits is saved at the limit, as otherwise nothing could be saved.
+template <class Number>
+Number nearestSceneNumber(Number number)
+{
+    const Number most(kLargestNumber);
+    return std::isnan(number) ? Number(0) : std::clamp(number, -most, most);
+}
+
+inline float nearestScale(float factor)
+{
+    return std::copysign(std::max(kSmallestScale, std::abs(factor)), factor);
 }
 
 }  // namespace viewer

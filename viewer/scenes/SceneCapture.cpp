@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/scenes/SceneCapture.h"
 
+#include "viewer/commands/SceneLimits.h"
 #include "viewer/scenes/SceneMatchState.h"
 #include "viewer/scenes/ScenePictures.h"
 #include "viewer/stage/ClipPlanes.h"
@@ -30,7 +31,13 @@ QString nameOf(const osg::NodePtr& node)
 
 std::optional<nbTransformState> stateOf(const osg::Transform3DPtr& core)
 {
-    return core == osg::NullFC ? std::nullopt : std::make_optional(nbTransformState::of(*core));
+    if (core == osg::NullFC) {
+        return std::nullopt;
+    }
+    nbTransformState state = nbTransformState::of(*core);
+    osg::Vec3f& scale = state.scale;
+    scale.setValues(nearestScale(scale[0]), nearestScale(scale[1]), nearestScale(scale[2]));
+    return state;
 }
 
 /// Everything that may be edited of a node with a transform.
@@ -99,7 +106,7 @@ private:
             SceneClipPlane plane;
             plane.equation = core->getEquation();
             plane.enabled = core->getEnable();
-            plane.outline = clipOutlineEdge(frame);
+            plane.outline = nearestScale(clipOutlineEdge(frame));
             plane.frame = nodeOf(frame, nameOf(frame));
             const int number = static_cast<int>(document.clipPlanes.size());
             planeParts[top.getFieldContainerId()] = { SceneBranch::Kind::Plane, number };

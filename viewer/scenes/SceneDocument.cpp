@@ -242,7 +242,7 @@ private:
             std::copy_n(&value[0], numbers.size(), numbers.begin());
             return arrayOf(numbers);
         } else if constexpr (std::is_floating_point_v<Value>) {
-            return exactJson(value);
+            return exactJson(nearestSceneNumber(value));
         } else if constexpr (std::is_same_v<Value, std::string>) {
             return QString::fromStdString(value);
         } else {
@@ -264,7 +264,7 @@ private:
     {
         QJsonArray array;
         for (const auto number : numbers) {
-            array.append(exactJson(number));
+            array.append(exactJson(nearestSceneNumber(number)));
         }
         return array;
     }
