@@ -4,6 +4,7 @@
 #include "tests/viewer/support/Files.h"
 #include "viewer/loading/ModelRecords.h"
 
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -169,6 +170,19 @@ TEST_F(ModelReaderTest, NeitherTimeNorMemoryIsTakenWithoutEnd)
               "cannot be read as a model: it would take too much memory");
     EXPECT_EQ(refusal({ 1024 * kMegabyte, -60000 }, {}), "has no end: reading was given up");
     EXPECT_EQ(refusal({}, [](double) { return false; }), "reading was stopped");
+
+    // Programs that were taken over tell of progress for ever, at once and now and then.
+    const QByteArray progress = R"(#!/bin/sh
+while printf '\0\0\0\0\010\0\0\0\0\0\0\0\0')";
+    const QString flood = write("flood", progress + "; do :; done");
+    const QString drip = write("drip", progress + " && sleep 0.01; do :; done");
+    const auto mine = QFile::ReadOwner | QFile::ExeOwner;
+    ASSERT_TRUE(QFile::setPermissions(flood, mine) && QFile::setPermissions(drip, mine));
+    EXPECT_EQ(refusal({ 1 << 20, 30000, flood }, {}),
+              "cannot be read as a model: it would take too much memory");
+    const int ofItsSize = static_cast<int>(QFileInfo(large).size() / 1000);
+    EXPECT_EQ(refusal({ 1024 * kMegabyte, 60 - ofItsSize, drip }, {}),
+              "has no end: reading was given up");
 }
 
 /// Records of a model with everything in it.

@@ -22,6 +22,8 @@ constexpr int kTickMs = 50;
 constexpr qint64 kBytesOfASecond = 1000000;
 constexpr qint64 kMsOfASecond = 1000;
 constexpr int kGoodbyeMs = 1000;
+/// What tells something again and again has to end, too.
+constexpr int kMostPatiences = 20;
 
 /// Beside the program, as when both have just been built, or where it is installed to.
 QString readerProgram()
@@ -55,6 +57,7 @@ public:
                      kMsOfASecond * QFileInfo(file).size() / kBytesOfASecond)
     {
         clock.start();
+        wholeClock.start();
         program.write(file.toUtf8() + '\0');
     }
 
@@ -66,6 +69,7 @@ public:
             const QByteArray bytes = program.readAllStandardOutput();
             if (!bytes.isEmpty()) {
                 clock.restart();
+                toldBytes += bytes.size();
             }
             if (!assembly.take(bytes)) {
                 return Text::tr("cannot be read as a model: what was read of it is damaged");
@@ -89,17 +93,20 @@ private:
         if (program.state() == QProcess::NotRunning && program.bytesAvailable() == 0) {
             return Text::tr("cannot be read as a model: reading it ended with a fault");
         }
-        if (residentBytes(program.processId()) > limits.memoryBytes) {
+        if (qMax(toldBytes, residentBytes(program.processId())) > limits.memoryBytes) {
             return Text::tr("cannot be read as a model: it would take too much memory");
         }
-        return clock.elapsed() > patienceMs ? Text::tr("has no end: reading was given up")
-                                            : QString();
+        const bool isEndless =
+            clock.elapsed() > patienceMs || wholeClock.elapsed() > kMostPatiences * patienceMs;
+        return isEndless ? Text::tr("has no end: reading was given up") : QString();
     }
 
     QProcess& program;
     const Limits& limits;
     qint64 patienceMs;
-    QElapsedTimer clock;
+    QElapsedTimer clock;  ///< since something was told
+    QElapsedTimer wholeClock;
+    qint64 toldBytes = 0;
 };
 
 ModelReader::ModelReader()
@@ -122,7 +129,7 @@ bool ModelReader::start(QString& error)
     }
     program = std::make_unique<QProcess>();
     program->setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    program->start(readerProgram(),
+    program->start(limits.program.isEmpty() ? readerProgram() : limits.program,
                    { QString::number(limits.memoryBytes), QString::number(pictureBudget()),
                      languageName(appliedLanguage()) });
     if (!program->waitForStarted()) {

@@ -26,7 +26,9 @@ public:
         static constexpr int kUsualPatienceMs = 30000;
 
         qint64 memoryBytes = kUsualMemory;
-        int patienceMs = kUsualPatienceMs;  ///< without progress; a second for each MB comes on top
+        /// Without progress; a second for each MB comes on top. The whole may take 20 times that.
+        int patienceMs = kUsualPatienceMs;
+        QString program {};  ///< that reads; empty for that of this system
     };
 
     ModelReader();
