@@ -59,12 +59,12 @@ void PlanarTextureManipulator::showZScaleValue(bool on)
 
 void PlanarTextureManipulator::showAllElements()
 {
-    course().showAllElements();
+    course().showAll(true);
 }
 
 void PlanarTextureManipulator::hideAllElements()
 {
-    course().hideAllElements();
+    course().showAll(false);
 }
 
 void PlanarTextureManipulator::setDefaultMaterials()

@@ -14,8 +14,20 @@ namespace {
 using Kind = DragParameters::Kind;
 
 constexpr float kShortest = 1e-6F;
+constexpr float kLeastLength = 1e-12F;
 constexpr float kLeastAxisFactor = 0.01F;
 constexpr float kLeastUniformFactor = 0.001F;
+
+/// Whether a length can be divided by.
+bool hasLength(float length)
+{
+    return std::abs(length) >= kLeastLength;
+}
+
+float usableLength(float length)
+{
+    return hasLength(length) ? length : 1.0F;
+}
 
 /// Signed half of a side after one of its ends has moved; never less than a hundredth. A side
 /// without length has no least one, and grows whichever way its end goes.
@@ -50,22 +62,11 @@ osg::Pnt3f onDepthAxis(const osg::Matrix& worldFromAxes, const osg::Pnt3f& hit,
     const osg::Pnt3f center(column(worldFromAxes, 3));
     const osg::Vec3f normal = axisPlaneNormal(unitVector(column(worldFromAxes, 2)), sightAtCenter);
     const float slope = normal.dot(sightAtHit);
-    return std::abs(slope) < kShortest ? hit
-                                       : hit + sightAtHit * (normal.dot(center - hit) / slope);
+    return std::abs(slope) >= kShortest ? hit + sightAtHit * (normal.dot(center - hit) / slope)
+                                        : hit;
 }
 
 }  // namespace
-
-bool hasLength(float length)
-{
-    constexpr float kLeastLength = 1e-12F;
-    return std::abs(length) >= kLeastLength;
-}
-
-float usableLength(float length)
-{
-    return hasLength(length) ? length : 1.0F;
-}
 
 osg::Matrix ProjectionFrame::worldFromAxes() const
 {
@@ -127,7 +128,10 @@ osg::Vec3f offsetBetween(const ProjectionDrag& drag, const osg::Pnt3f& from, con
 
 float turnAboutZ(const osg::Vec3f& from, const osg::Vec3f& to)
 {
-    return std::atan2(from.x() * to.y() - from.y() * to.x(), from.x() * to.x() + from.y() * to.y());
+    const osg::Vec3d start(from);  // in double, for tiny and huge objects
+    const osg::Vec3d end(to);
+    return static_cast<float>(std::atan2(start.x() * end.y() - start.y() * end.x(),
+                                         start.x() * end.x() + start.y() * end.y()));
 }
 
 std::optional<float> angleBetween(const ProjectionDrag& drag, const osg::Pnt3f& from,

@@ -15,12 +15,6 @@
 /// of the projection. Numbers only.
 namespace nbec::manipulator::texture {
 
-/// Whether a length can be divided by.
-bool hasLength(float length);
-
-/// The length, or 1 for one that cannot be divided by.
-float usableLength(float length);
-
 /// Where a projection is. Its axes are the object's, turned; its extents go both ways from the
 /// centre in x and y, to -z only.
 struct ProjectionFrame

@@ -14,7 +14,6 @@
 
 #include <OpenSG/OSGImage.h>
 
-#include <algorithm>
 #include <cmath>
 
 namespace nbec::manipulator::texture {
@@ -136,7 +135,7 @@ void PlanarGizmo::readProjection(const osg::NodePtr& node)
 {
     frame.worldFromObject = node->getToWorld();
     if (settings.useObjectTranslation) {
-        frame.translation = objectPivot(node, getActiveMode() >= Active::ScaleX);
+        frame.translation = objectPivot(node, getArmed() >= static_cast<int>(Active::ScaleX));
     }
     if (settings.useObjectScale) {
         frame.scale = nbNodeUtils::getTransformNodeScale(node);
@@ -357,16 +356,10 @@ void PlanarGizmo::showZScaleValue(bool on)
     showElements();
 }
 
-void PlanarGizmo::showAllElements()
+void PlanarGizmo::showAll(bool on)
 {
-    handles.showAll(true);
-    handles.showRoot(true);
-}
-
-void PlanarGizmo::hideAllElements()
-{
-    handles.showAll(false);
-    handles.showRoot(false);
+    handles.showAll(on);
+    handles.showRoot(on);
 }
 
 // == Placement

@@ -38,12 +38,9 @@ public:
     void highlightMode() { handles.light(getArmed(), getMode()); }
 
     void highlightControlElement();
-    void showAllElements();
-    void hideAllElements();
+    void showAll(bool on);
     void setZScaleVisible(bool on);
     void showZScaleValue(bool on);
-
-    PlanarActiveMode getActiveMode() const { return static_cast<PlanarActiveMode>(getArmed()); }
 
     PlanarSettings settings;
 

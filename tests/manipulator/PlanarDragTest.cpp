@@ -66,6 +66,8 @@ TEST(PlanarDrag, AnglesAndFactorsRunInTheObjectsUnits)
     EXPECT_EQ(angleBetween(plain, Pnt3f(1, 0, 0), Pnt3f(0, 0, 1)), std::nullopt);
     EXPECT_NEAR(angleBetween(ring, at(3, 0), at(0, 2)).value(), kHalfPi, 1e-5F);
     EXPECT_NEAR(angleBetween(ring, at(1, 1), at(1, -1)).value(), -kHalfPi, 1e-5F);
+    EXPECT_NEAR(turnAboutZ(Vec3f(1e25F, 0, 0), Vec3f(1, 1e25F, 0)), kHalfPi, 1e-5F)
+        << "tiny object";
 
     const auto factor = [](Active handle, const Pnt3f& first, const Pnt3f& second) {
         return factorBetween(beginDrag(turnedFrame(), handle), first, second);
@@ -138,6 +140,12 @@ TEST(PlanarDrag, TabsMoveOneEndOfASideAndTheCentreHalfAsFar)
         EXPECT_TRUE(isNear(scaleOfHalfSizes(drag, halfSizes), row.halfSizes));
         EXPECT_TRUE(isNear(shiftOfHalfSizes(drag, halfSizes), row.shift));
     }
+
+    // A camera without a place.
+    const Vec3f nowhere(NAN, NAN, NAN);
+    EXPECT_EQ(halfSizesBetween(beginDrag(turnedFrame(), Active::ScaleZPlane), at(0, 0), at(0, 0),
+                               { nowhere, nowhere, nowhere }, false),
+              Vec3f(2, 3, 0.5F));
 
     // A side without length grows whichever way its end goes; a picture has its own extents.
     ProjectionFrame flat = turnedFrame();
