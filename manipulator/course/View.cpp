@@ -175,8 +175,9 @@ float View::scaleAt(const osg::Pnt3f& anchor, float size, ViewDiagonal diagonal)
         return static_cast<float>(static_cast<double>(arrowPx) * unitsPerPixel(anchor) /
                                   kArrowUnits);
     }
-    return isOrthographic() ? orthographicScale(diagonalOf(widget->getUberCamera(), diagonal))
-                            : perspectiveScale(anchor.dist(getEye()), getFov(), size);
+    return isOrthographic()
+        ? orthographicScale(diagonalOf(widget->getUberCamera(), diagonal))
+        : perspectiveScale(osg::Vec3d(anchor - getEye()).length(), getFov(), size);
 }
 
 double View::unitsPerPixel(const osg::Pnt3f& point) const

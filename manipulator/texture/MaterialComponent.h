@@ -5,13 +5,14 @@
 #include <nbOpenSGExt/nbContainerId.h>
 #include <nbOpenSGUberMaterial/ColorComponentSettings.h>
 #include <nbOpenSGUberMaterial/UberMaterial.h>
+#include <nbOpenSGUberMaterial/nbStateChunkBase.h>
+#include <nbUtils/nbFunctionRef.h>
+#include <nbUtils/nbGuard.h>
 #include <nbUtils/nbMessage.h>
 
 #include <OpenSG/OSGMaterial.h>
 
 #include <string>
-
-class nbStateChunkBase;
 
 namespace nbec::manipulator::texture {
 
@@ -65,6 +66,19 @@ public:
     nbStateChunkBase* getGUI() const { return gui; }
 
     void setGUI(nbStateChunkBase* editor) { gui = editor; }
+
+    /// Has values read from the host's object, if that has the component; what it throws is logged.
+    /// @return whether all were read
+    bool readGUI(nbFunctionRef<void(const nbStateChunkBase&)> read) const
+    {
+        return gui != nullptr && nbGuarded("The editor object of a component", [&] {
+                   const bool isKnown = gui->hasComponent(name);
+                   if (isKnown) {
+                       read(*gui);
+                   }
+                   return isKnown;
+               });
+    }
 
     void setReceiver(const std::string& prefix) { receiver = prefix; }
 

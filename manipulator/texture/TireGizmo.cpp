@@ -8,7 +8,6 @@
 #include "manipulator/texture/TextureHandles.h"
 
 #include <nbKernel/nbController.h>
-#include <nbOpenSGUberMaterial/nbStateChunkBase.h>
 #include <nbUtils/nbMessage.h>
 
 #include <cmath>
@@ -126,14 +125,13 @@ TireValues TireGizmo::readValues() const
 {
     TireValues values;
     const osg::ColorComponentSettingsPtr settings = component.getSettings();
-    const nbStateChunkBase* const gui = component.getGUI();
     const std::string& name = component.getName();
-    if (gui != nullptr && gui->hasComponent(name)) {
-        values = { gui->getTireCenter(name), gui->getTireScaleU(name),
-                   gui->getTireScaleHeight(name), gui->getTireScaleRadius(name) };
-    } else if (settings != osg::NullFC &&
-               settings->getTextureProjectionType() ==
-                   osg::ColorComponentSettings::TireProjection) {
+    const bool isRead = component.readGUI([&](const nbStateChunkBase& gui) {
+        values = { gui.getTireCenter(name), gui.getTireScaleU(name), gui.getTireScaleHeight(name),
+                   gui.getTireScaleRadius(name) };
+    });
+    if (!isRead && settings != osg::NullFC &&
+        settings->getTextureProjectionType() == osg::ColorComponentSettings::TireProjection) {
         values = { settings->getTireCenter(), settings->getTireScaleU(),
                    settings->getTireScaleHeight(), settings->getTireScaleRadius() };
     }

@@ -6,7 +6,6 @@
 #include "manipulator/texture/TextureHandles.h"
 
 #include <nbKernel/nbController.h>
-#include <nbOpenSGUberMaterial/nbStateChunkBase.h>
 #include <nbUtils/nbMessage.h>
 
 #include <cmath>
@@ -196,21 +195,23 @@ osg::Vec3f TriplanarGizmo::pictureOffset(const SurfacePlace& from, const Surface
 
 void TriplanarGizmo::readValues()
 {
+    const std::string& name = component.getName();
+    const bool isRead = component.readGUI([&](const nbStateChunkBase& gui) {
+        startRotation = gui.getTriplanarRotation(name);
+        for (osg::UInt32 i = 0; i < 3; ++i) {
+            startOffsets[i] = gui.getTriplanarOffset(name, i);
+            startScales[i] = reciprocals(gui.getTriplanarRepeat(name, i));
+        }
+    });
+    if (isRead) {
+        return;
+    }
     startRotation = osg::Vec3f();
     startOffsets = TriplanarPairs();
     startScales.fill(osg::Vec2f(1.0F, 1.0F));
     const osg::ColorComponentSettingsPtr settings = component.getSettings();
-    const nbStateChunkBase* const gui = component.getGUI();
-    const std::string& name = component.getName();
-    if (gui != nullptr && gui->hasComponent(name)) {
-        startRotation = gui->getTriplanarRotation(name);
-        for (osg::UInt32 i = 0; i < 3; ++i) {
-            startOffsets[i] = gui->getTriplanarOffset(name, i);
-            startScales[i] = reciprocals(gui->getTriplanarRepeat(name, i));
-        }
-    } else if (settings != osg::NullFC &&
-               settings->getTextureProjectionType() ==
-                   osg::ColorComponentSettings::TriplanarProjection) {
+    if (settings != osg::NullFC &&
+        settings->getTextureProjectionType() == osg::ColorComponentSettings::TriplanarProjection) {
         startRotation = settings->getTriplanarRotation();
         for (osg::UInt32 i = 0; i < 3; ++i) {
             startOffsets[i] =

@@ -6,7 +6,6 @@
 #include "manipulator/texture/TextureHandles.h"
 
 #include <nbKernel/nbOSGWidget.h>
-#include <nbOpenSGUberMaterial/nbStateChunkBase.h>
 #include <nbOpenSGUtils/nbEdit.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 #include <nbUtils/nbMessage.h>
@@ -106,7 +105,7 @@ void UVGizmo::placeHandles(const View& view, const osg::Matrix& /*worldFromAncho
     const float rootScale = isInPixels ? 1.0F
         : diagonal                     ? kOrthographicRootScale
                                        : view.getFov() * getSize();
-    const double distance = getAnchorPosition().dist(view.getEye());
+    const double distance = osg::Vec3d(getAnchorPosition() - view.getEye()).length();
     const float viewScale = isInPixels
         ? view.scaleAt(getAnchorPosition(), getSize(), ViewDiagonal::NearPlane)
         : diagonal ? *diagonal / kDiagonalsPerScale
@@ -156,19 +155,18 @@ void UVGizmo::readValues()
 {
     const osg::UberMaterialPtr material = component.getUberMaterial();
     const osg::ColorComponentSettingsPtr settings = component.getSettings();
-    const nbStateChunkBase* const gui = component.getGUI();
     const std::string& name = component.getName();
     osg::Vec2f repeat(1.0F, 1.0F);
+    const auto fromGUI = [&](const nbStateChunkBase& gui) {
+        repeat = gui.getRepeat(name);
+        start = { gui.getOffset(name), start.scale, gui.getRotate(name) };
+    };
     start = UVPlacing();
     if (settings != osg::NullFC) {
         start.rotateDeg = settings->getRotate();
         start.offset = settings->getOffset();
         repeat = settings->getRepeat();
-    } else if (gui != nullptr && gui->hasComponent(name)) {
-        start.rotateDeg = gui->getRotate(name);
-        start.offset = gui->getOffset(name);
-        repeat = gui->getRepeat(name);
-    } else if (material != osg::NullFC) {
+    } else if (!component.readGUI(fromGUI) && material != osg::NullFC) {
         repeat = material->getRepeat(name);
     }
     start.scale = osg::Vec2f(1.0F / repeat.x(), 1.0F / repeat.y());

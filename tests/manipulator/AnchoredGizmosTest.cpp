@@ -46,11 +46,14 @@ struct UV : TextureSceneOf<UVTextureManipulator>
 
 using Tire = TireScene;
 
-/// Editor object of a host with values of its own for the component "mine".
+/// Editor object of a host with values of its own for the component "mine"; throws for "torn".
 class Panel : public nbStateChunkBase
 {
 public:
-    bool hasComponent(const std::string& component) const override { return component == "mine"; }
+    bool hasComponent(const std::string& component) const override
+    {
+        return component == "torn" ? throw component : component == "mine";
+    }
 
     Vec2f getTriplanarOffset(const std::string& /*component*/, osg::UInt32 axis) const override
     {
@@ -97,6 +100,10 @@ TEST(AnchoredGizmos, StandAtTheAnchorAlongTheNodesAxesOrFacingTheViewer)
         triplanar.onHandle("xaShape", Vec3f(1, 0, 0)).equals(Pnt3f(1, 0.5F + unit, 0), kTolerance));
     EXPECT_TRUE(
         triplanar.onHandle("ysShape", Vec3f(0, 1, 0)).equals(Pnt3f(1 - unit, 0.5F, 0), kTolerance));
+    // A distance whose square is no float.
+    triplanar.gizmo.setAnchor(triplanar.scene.node, Pnt3f(0, 1e20F, 0));
+    triplanar.gizmo.update(false);
+    EXPECT_GT(1e20F, transformOf(triplanar.handle("grid")->getParent())->getScale().x());
 
     UV uv;
     uv.edit(uv.core(), [](const auto& node) {
@@ -164,6 +171,7 @@ TEST(AnchoredGizmos, ValuesComeFromMaterialOrEditorObjectInTheOrderOfTheKind)
     expectPair(first(triplanar, "diffuse", "XOffset"), "XOffset", Vec2f(0.1F, 0.4F));
     expectPair(first(triplanar, "mine", "ZOffset"), "ZOffset", Vec2f(2, 9));
     expectPair(first(triplanar, "nobody's", "ZOffset"), "ZOffset", Vec2f());
+    expectPair(first(triplanar, "torn", "ZOffset"), "ZOffset", Vec2f());
     // Settings of another projection do not count.
     triplanar.editSettings([](const auto& values) { values->setTextureProjectionType(1); });
     expectPair(first(triplanar, "diffuse", "XOffset"), "XOffset", Vec2f());
