@@ -47,8 +47,7 @@ TexturePlacementPickTool::TexturePlacementPickTool()
 bool TexturePlacementPickTool::setToolMode(ToolInteractionContext* /*context*/,
                                            const std::string& mode)
 {
-    nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1);
-    if (widget != nullptr) {
+    if (nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1)) {
         widget->setCursor(mode == "tool" ? Qt::CrossCursor : Qt::ArrowCursor);
     }
     return true;
@@ -64,6 +63,7 @@ void TexturePlacementPickTool::deactivateTool(ToolInteractionContext* context)
 {
     AbstractInteractionTool::deactivateTool(context);
     setDescription("");
+    pause.end();  // whose stop was lost
 }
 
 bool TexturePlacementPickTool::startTool(ToolInteractionContext* context, const std::string& event)
@@ -94,8 +94,7 @@ bool TexturePlacementPickTool::stopTool(ToolInteractionContext* /*context*/,
     if (event != kActionName) {
         return event == kZoomName;
     }
-    nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1);
-    if (widget != nullptr) {
+    if (nbOSGWidget* const widget = nbOSGWidget::getMGLW(-1)) {
         widget->cancelAntialiasing();
     }
     pause.resume();

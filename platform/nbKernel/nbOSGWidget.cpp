@@ -18,6 +18,7 @@ constexpr int kLargestSidePx = std::numeric_limits<osg::UInt16>::max();
 constexpr float kStartDistance = 10.0F;
 /// Of a new camera's internal parent node.
 constexpr char kCameraName[] = "Camera";
+constexpr char kObserver[] = "nbOSGWidget: an observer";
 
 struct CountedCallback
 {
@@ -276,7 +277,7 @@ void nbOSGWidget::update()
     }
     redrawPending = true;
     if (observer != nullptr) {
-        observer->redrawRequested();
+        nbGuarded(kObserver, [this] { observer->redrawRequested(); });
     }
 }
 
@@ -287,14 +288,14 @@ void nbOSGWidget::setCursor(Qt::CursorShape shape)
     }
     cursor = shape;
     if (observer != nullptr) {
-        observer->cursorChanged(shape);
+        nbGuarded(kObserver, [this, shape] { observer->cursorChanged(shape); });
     }
 }
 
 void nbOSGWidget::cancelAntialiasing()
 {
     if (observer != nullptr) {
-        observer->antialiasingCancelled();
+        nbGuarded(kObserver, [this] { observer->antialiasingCancelled(); });
     }
 }
 
@@ -302,7 +303,7 @@ void nbOSGWidget::setObserver(Observer* newObserver)
 {
     observer = newObserver;
     if (observer != nullptr && redrawPending) {
-        observer->redrawRequested();
+        nbGuarded(kObserver, [this] { observer->redrawRequested(); });
     }
 }
 

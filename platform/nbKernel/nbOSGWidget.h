@@ -31,7 +31,8 @@
 class NB_PLATFORM_API nbOSGWidget
 {
 public:
-    /// Told by a widget what its window has to do. The widget does not own it.
+    /// Told by a widget what its window has to do; what it throws is logged. The widget does not
+    /// own it.
     class NB_PLATFORM_API Observer
     {
     public:

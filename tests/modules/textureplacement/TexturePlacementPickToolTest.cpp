@@ -55,7 +55,7 @@ protected:
         nbController::clear();
     }
 
-    void antialiasingCancelled() override { sent.push_back("cancelAntialiasing"); }
+    void antialiasingCancelled() override { throw sent.emplace_back("cancelAntialiasing"); }
 
     /// An event with the pointer at a pixel; the plane z = 0 has 30 pixels a unit, (400, 300) is
     /// its origin.
@@ -99,6 +99,11 @@ TEST_F(TexturePlacementPickToolTest, APressPlacesAndSoDoesEveryMoveUntilTheRelea
     EXPECT_TRUE(send("stop", 437.0f, 300.0f));
     EXPECT_THAT(takeSent(),
                 ElementsAre("cancelAntialiasing", "setMatRenderEnabled true", "updateMatRender"));
+
+    send("start", 400.0f, 300.0f);
+    takeSent();
+    tool.deactivateTool(&context);
+    EXPECT_THAT(takeSent(), ElementsAre("setMatRenderEnabled true", "updateMatRender")) << "lost";
 }
 
 TEST_F(TexturePlacementPickToolTest, APressBesideEveryObjectSendsANullNode)
