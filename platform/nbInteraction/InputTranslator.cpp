@@ -275,12 +275,17 @@ bool InputTranslator::move(const QMouseEvent& event)
 
 bool InputTranslator::release(const QMouseEvent& event)
 {
+    const osg::Pnt2f formerPx = pointerPx;
     pointTo(nbQt::position(event), event.modifiers());
     if (!buttonIsDown) {
         return false;
     }
     bool taken = false;
     if (dragIsSent && event.button() == dragButton) {
+        // Of motions that pile up behind a slow picture the last before the release may be dropped.
+        if (pointerPx != formerPx) {
+            sendDrag(names::kProcess);
+        }
         dragIsSent = false;
         taken = sendDrag(names::kStop);
     }

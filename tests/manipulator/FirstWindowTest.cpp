@@ -144,7 +144,7 @@ TEST_F(WindowsOfTheManual, FirstOneSelectsDragsCancelsTakesBackAndOrbits)
 
     const osg::Pnt3f eye = nbOSGWidget::getFrom(-1);
     drag(window, Qt::RightButton, arrow);
-    QTest::mouseRelease(&window, Qt::RightButton, Qt::NoModifier, arrow);
+    QTest::mouseRelease(&window, Qt::RightButton, Qt::NoModifier, arrow + QPoint(80, 0));
     EXPECT_GT((nbOSGWidget::getFrom(-1) - eye).length(), 1.0F);
 }
 
