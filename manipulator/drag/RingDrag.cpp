@@ -11,8 +11,9 @@ namespace {
 
 /// Cosine of 70 degrees.
 constexpr double kWireCosine = 0.3420201433256687;
-/// Radians. A bead goes in steps that are too short to leap over the ring's ends on screen.
-constexpr double kFirstStep = 0.02;
+/// Radians. A bead goes in steps that are too short to leap over the ring's ends on screen; of
+/// powers of two sums are exact, so that the way back ends where the way there began.
+constexpr double kFirstStep = 1.0 / 64;
 constexpr double kLastStep = 1e-5;
 
 /// Any unit vector at right angles to a unit vector.

@@ -347,6 +347,9 @@ void captureRotation(TransformStart& start, const nbEulerAngles& anglesRad,
 nbEulerAngles turnedAngles(const TransformStart& start, const HalfTurn& turn,
                            const nbEulerAngles& before)
 {
+    if (turn.sine == 0.0) {
+        return start.anglesRad;  // to the bit
+    }
     const nbQuaterniond& from = start.quaternion;
     const nbQuaterniond& over = start.halfTurned;
     nbQuaterniond turned;

@@ -33,6 +33,10 @@ constexpr float kMarkReach = 0.15F;
 /// Deliberate: the rotation precision is turned into radians with this many digits.
 constexpr double kDegreeFactor = 3.1415927 / 360.0;
 
+constexpr double kWholeTurnRad = 360.0 / kDegPerRad;
+/// By which a sum of small turns may be off its true value, radians.
+constexpr double kSumRounding = 1e-9;
+
 /// What a handle that turns has come to, radians; see screenTurnAt().
 osg::Vec2d turnOf(const DragParameters& parameters)
 {
@@ -303,6 +307,10 @@ DragStep TransformGizmo::turnAt(const osg::Pnt3f& point, const DragTrack& before
     }
     next.last = place;
     next.turned += angle;
+    // A sum of steps is off by its rounding, and would be back at the start as well.
+    const double direct = computeRotation(drag.dragStartLocal, place, drag.action.axis());
+    const double off = std::remainder(next.turned - direct, kWholeTurnRad);
+    next.turned -= std::abs(off) < kSumRounding ? off : 0.0;
     const double zero = snapSettings.isAbsolute ? turnAtStart(drag.starts.front()) : 0.0;
     const double total =
         isGathered || step == 0.0 ? next.turned : snapped(zero + next.turned, step) - zero;
