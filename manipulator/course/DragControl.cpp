@@ -144,17 +144,26 @@ void DragControl::changed(const DragParameters& parameters)
     note(DragEvent::Phase::Change);
 }
 
-/// Beside the pointer, below to the right.
+/// Beside the pointer: below to the right, above it at the view's lower edge. At the right edge it
+/// begins in the last pixel, from where it is moved back into the view.
 void DragControl::showReadout() const
 {
     static ValueText text("dragReadout");
     constexpr float kBesidePx = 16.0F;
-    if (isReadoutShown) {
-        text.showAt(getReadout(),
-                    osg::Vec2f(lastPointer.x(), lastPointer.y()) *
-                            (1.0F / nbOSGWidget::getPixelRatio(-1, pixelRatio)) +
-                        osg::Vec2f(kBesidePx, kBesidePx));
+    constexpr float kHeightPx = 26.0F;
+    if (!isReadoutShown) {
+        return;
     }
+    const View view;
+    const float ratio = nbOSGWidget::getPixelRatio(-1, pixelRatio);
+    const float width = static_cast<float>(view.getWidth()) / ratio;
+    const float height = static_cast<float>(view.getHeight()) / ratio;
+    const osg::Pnt2f pointer = lastPointer * (1.0F / ratio);
+    const float below = pointer.y() + kBesidePx;
+    text.showAt(getReadout(),
+                { std::min(pointer.x() + kBesidePx, width - 1.0F),
+                  below + kHeightPx > height ? std::min(pointer.y(), height) - kBesidePx - kHeightPx
+                                             : below });
 }
 
 void DragControl::ended()

@@ -4,6 +4,7 @@
 #include "manipulator/course/DragControl.h"
 #include "manipulator/drag/DragGeometry.h"
 #include "tests/manipulator/support/AnyManipulator.h"
+#include "tests/manipulator/support/HandleScene.h"
 
 #include <cmath>
 
@@ -238,6 +239,15 @@ TEST_F(FurtherHandles, TheReadoutSaysWhatComesOfIt)
     EXPECT_EQ(typed("rvShape", "765"), "765.0 = 2 x 360 + 45.0 deg");
     nbtest::edited(transform())->setRotation(Vec3f(0, 0, 30));
     EXPECT_EQ(typed("rzShape", "-405"), "-405.0 = -1 x 360 - 45.0 deg (-375.0 deg)");
+    gizmo->activateUniversalManipulator();
+    gizmo->setReadoutShown(true, 1.0F);
+    ASSERT_TRUE(press("yaShape") && say("process"));
+    for (const Pnt2f& px : { Pnt2f(799, 300), Pnt2f(400, 599), Pnt2f(900, 700), Pnt2f(-90, -9) }) {
+        point(px);
+        EXPECT_TRUE(say("process"));
+        EXPECT_EQ(HandleScene::texts().size(), 1U) << "in the view at its edges";
+    }
+    gizmo->cancelDrag();
 }
 
 }  // namespace nbec::manipulator::test
