@@ -108,6 +108,7 @@ public:
 
     using DragControl::changed;
     using DragControl::ended;
+    using DragControl::isTakenBack;
     using DragControl::limited;
     using DragControl::seen;
 
@@ -351,6 +352,10 @@ void PerspectiveMatchManipulator::endDrag()
     }
     if (dragging) {
         getNbdCameraNode().endMatchDrag();
+    }
+    if (drag->isTakenBack()) {
+        // The line has gone back from under the pointer.
+        visualisation->highlight(visualisation->pick(pointerFromBelow(View(getMousePosition()))));
     }
     drag->ended();
     grabbed = false;

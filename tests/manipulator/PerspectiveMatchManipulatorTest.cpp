@@ -133,6 +133,11 @@ TEST_F(PerspectiveMatchManipulatorTest, EveryStepButTheFirstIsAnUndoStepWithATit
     nbUndoService::the()->undo();
     expectLine(match().getYLine2(), QLineF(before.p1(), before.p2() - QPointF(0, 0.012)));
     expectLine(drawnLine(gizmo, 4), match().getYLine2(), "an undo is drawn");
+    ASSERT_TRUE(scene.grab(match().getYLine2().p2()));
+    scene.send("process", from);
+    scene.send("process", from + osg::Vec2f(0, 90));
+    gizmo.cancelDrag();
+    EXPECT_FALSE(isHighlighted(gizmo, 4, 3)) << "it has gone back from under the pointer";
 }
 
 TEST_F(PerspectiveMatchManipulatorTest, ThePointerIsCountedFromTheLowestRow)

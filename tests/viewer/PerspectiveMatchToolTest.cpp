@@ -5,9 +5,11 @@
 #include "tests/viewer/support/StageTest.h"
 #include "viewer/match/PerspectiveMatchCommands.h"
 
+#include <nbKernelServices/nbUndoService.h>
 #include <nbMagnifier/nbMagnifierRenderer.h>
 
 #include <QTemporaryDir>
+#include <QUndoStack>
 
 #include <algorithm>
 #include <cmath>
@@ -67,6 +69,7 @@ TEST_F(PerspectiveMatchToolTest, ADragIsOneStepAndMovesOneEndAndTheCamera)
     EXPECT_NEAR(line(nbdPerspectiveMatch::XLine1).y2(), lineBefore.y2() + 40.0 / 800.0, 1e-6);
     EXPECT_GT(stage.pose().from.dist(before.from), 0.01F);
     EXPECT_EQ(steps(), 1);
+    EXPECT_EQ(nbUndoService::the()->getStack()->undoText(), "Move end of line X1");
     stage.update();
     ASSERT_TRUE(stage.isViewHeld()) << "a match is not lost by chance";
     int refused = 0;

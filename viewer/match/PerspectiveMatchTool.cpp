@@ -75,6 +75,8 @@ PerspectiveMatchTool::PerspectiveMatchTool(Stage& targetStage)
     , behind(targetStage.view())
 {
     context.setPicker(&picker);
+    context.setTitles(
+        [this](const std::string& /*handle*/) { return handleText(hoveredHandle()); });
     manipulator.setVisualisationRoot(nbScenegraph::getInternalRoot());
     manipulator.setLineRule([this](const osg::Line2D& line, osg::UInt32 part) {
         const bool isFree = QGuiApplication::keyboardModifiers().testFlag(Qt::AltModifier);
@@ -413,8 +415,8 @@ QString PerspectiveMatchTool::handleText(const std::string& handle) const
 {
     const HandleName name = read(handle);
     const QString line = name.line < 0 ? QString() : lineTitle(name.line);
-    return name.part == kBody ? Text::tr("Line %1").arg(line)
-                              : Text::tr("End of line %1").arg(line);
+    return name.part == kBody ? Text::tr("Move line %1").arg(line)
+                              : Text::tr("Move end of line %1").arg(line);
 }
 
 HandleAction PerspectiveMatchTool::actionOf(const std::string& handle) const

@@ -472,12 +472,12 @@
         <translation>Modelle, Szenen und Bilder (%1);;Alle Dateien (*)</translation>
     </message>
     <message>
-        <source>Line %1</source>
-        <translation>Linie %1</translation>
+        <source>Move line %1</source>
+        <translation>Linie %1 verschieben</translation>
     </message>
     <message>
-        <source>End of line %1</source>
-        <translation>Ende der Linie %1</translation>
+        <source>Move end of line %1</source>
+        <translation>Ende der Linie %1 verschieben</translation>
     </message>
     <message>
         <source>Move</source>

@@ -472,12 +472,12 @@
         <translation>Modèles, scènes et images (%1);;Tous les fichiers (*)</translation>
     </message>
     <message>
-        <source>Line %1</source>
-        <translation>Ligne %1</translation>
+        <source>Move line %1</source>
+        <translation>Déplacer la ligne %1</translation>
     </message>
     <message>
-        <source>End of line %1</source>
-        <translation>Extrémité de la ligne %1</translation>
+        <source>Move end of line %1</source>
+        <translation>Déplacer l’extrémité de la ligne %1</translation>
     </message>
     <message>
         <source>Move</source>

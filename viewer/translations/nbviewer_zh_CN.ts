@@ -470,12 +470,12 @@
         <translation>模型、场景和图片 (%1);;所有文件 (*)</translation>
     </message>
     <message>
-        <source>Line %1</source>
-        <translation>直线 %1</translation>
+        <source>Move line %1</source>
+        <translation>移动直线 %1</translation>
     </message>
     <message>
-        <source>End of line %1</source>
-        <translation>直线 %1 的端点</translation>
+        <source>Move end of line %1</source>
+        <translation>移动直线 %1 的端点</translation>
     </message>
     <message>
         <source>Move</source>
