@@ -142,7 +142,9 @@ TEST_F(Plates, TextsBecomePicturesOfTheirColor)
     find<QLineEdit>("plateText")->setText("Another");
     pressKey(*find<QLineEdit>("plateText"), Qt::Key_Return);
     EXPECT_EQ(value("plates.text")["text"], QJsonValue("Another"));
+    EXPECT_EQ(selected(), QStringList { "Another" }) << "its text had named it";
     EXPECT_TRUE(stage().undo());
+    EXPECT_EQ(selected(), QStringList { "A title" });
     EXPECT_EQ(value("plates.text")["text"], QJsonValue("A title"));
     EXPECT_EQ(find<QLineEdit>("plateText")->text(), "A title") << "what is shown can be edited";
     run("plates.edit", false);

@@ -10,6 +10,7 @@
 #include "viewer/stage/Stage.h"
 #include "viewer/texts/Text.h"
 
+#include <nbKernelServices/nbScopedUndo.h>
 #include <nbOpenSGRenderAction/nbImageConvert.h>
 #include <nbOpenSGSceneplate/nbSceneplateLayout.h>
 #include <nbOpenSGSceneplate/nbSceneplateList.h>
@@ -19,6 +20,7 @@
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonObject>
+#include <QRegularExpression>
 
 #include <cmath>
 
@@ -178,6 +180,7 @@ bool changeText(Stage& stage, PlatesTool& tool, const QJsonValue& value, QString
     if (!text) {
         return refuse("text", Text::tr("no text is selected"), error);
     }
+    const QString former = text->text.simplified();
     const auto height = static_cast<float>(stage.view().getHeight());
     if (!JsonInput(error).readObject(value, prefixed("text"), *text)) {
         return false;
@@ -185,12 +188,20 @@ bool changeText(Stage& stage, PlatesTool& tool, const QJsonValue& value, QString
     if (!paint(*text, stage.view().getHeight(), painted, error)) {
         return refuse("text.text", error, error);
     }
-    nbSceneplateEditing::edit({ tool.selected().back() },
-                              QT_TRANSLATE_NOOP("Manipulator", "Change text"),
+    const osg::NodePtr node = tool.selected().back();
+    const nbScopedUndo step(QT_TRANSLATE_NOOP("Manipulator", "Change text"));
+    nbSceneplateEditing::edit({ node }, QT_TRANSLATE_NOOP("Manipulator", "Change text"),
                               [&](osg::Sceneplate& plate) {
                                   plate.setImage(painted.image.get());
                                   plate.setSize(painted.sizePx * (1.0F / height));
                               });
+    // A name that the text has given, such as "Title" or "Title 2", goes with it.
+    static const QRegularExpression kNumber(" [0-9]+$");
+    const QString name = QString::fromStdString(nbNodeUtils::getName(node));
+    const QString wanted = text->text.simplified();
+    if (wanted != former && (name == former || QString(name).remove(kNumber) == former)) {
+        nbSceneplateEditing::rename(node, PlatesTool::unusedName(wanted.toStdString()));
+    }
     return true;
 }
 
