@@ -108,11 +108,12 @@ TEST_F(ObjectCommands, ObjectsAreDuplicatedRenamedAndDeletedInOneStepEach)
     EXPECT_EQ(stage.selectedObject(), osg::NodePtr());
 
     EXPECT_TRUE(stage.undo());
-    EXPECT_NE(find("Urn"), osg::NodePtr());
+    EXPECT_EQ(stage.selectedName(), "Urn");
     EXPECT_TRUE(stage.undo());
     EXPECT_NE(find("Vase 2"), osg::NodePtr());
     EXPECT_TRUE(stage.undo() && stage.undo());
     EXPECT_EQ(find("Vase 2"), osg::NodePtr());
+    EXPECT_EQ(stage.selectedName(), "Vase");
     ASSERT_TRUE(stage.selectByName("Vase"));
     EXPECT_EQ(refusal("object.locked", true), "");
     EXPECT_EQ(refusal("scene.delete", {}), "\"Vase\" is locked");

@@ -226,6 +226,21 @@ void recordChildren(const osg::NodePtr& parent)
         std::make_unique<nbChildrenRecord>(std::vector<osg::NodePtr> { parent }));
 }
 
+/// What is selected comes back with the step that is taken back.
+void recordSelection()
+{
+    using Nodes = std::vector<osg::NodeRefPtr>;
+    recordValue(
+        nbScenegraph::getRootNode(),
+        [](const osg::NodePtr& /*root*/) {
+            const std::vector<osg::NodePtr> nodes = nbSelection::getNodes();
+            return Nodes(nodes.begin(), nodes.end());
+        },
+        [](const osg::NodePtr& /*root*/, const Nodes& nodes) {
+            nbSelection::set(std::vector<osg::NodePtr>(nodes.begin(), nodes.end()));
+        });
+}
+
 bool deleteSelected(Stage& stage, const QJsonValue& /*value*/, QString& error)
 {
     const std::vector<osg::NodePtr> objects = topmost(stage, error);
@@ -233,6 +248,7 @@ bool deleteSelected(Stage& stage, const QJsonValue& /*value*/, QString& error)
         return false;
     }
     const nbScopedUndo scope(Text::tr("Delete"));
+    recordSelection();
     stage.select(osg::NullFC);
     for (const osg::NodePtr& object : objects) {
         if (removeClipPlane(object)) {
@@ -268,6 +284,7 @@ bool duplicateSelected(Stage& stage, const QJsonValue& /*value*/, QString& error
         return false;
     }
     const nbScopedUndo scope(Text::tr("Duplicate"));
+    recordSelection();
     std::vector<osg::NodePtr> copies;
     for (const osg::NodePtr& object : objects) {
         const osg::NodePtr copy = copyOfObject(object);

@@ -11,6 +11,7 @@
 #include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGExt/nbContainerId.h>
 #include <nbOpenSGSelection/nbSelection.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <algorithm>
 #include <vector>
@@ -103,7 +104,9 @@ osg::NodePtr PreselectionTool::getPreselected() const
     if (preselectedId == 0 || !nbScenegraph::isPreselectionEnabled()) {
         return {};
     }
-    return resolveContainer<osg::NodePtr>(preselectedId);
+    const auto node = resolveContainer<osg::NodePtr>(preselectedId);
+    const bool isThere = nbNodeUtils::hasParent(node, nbScenegraph::getRootNode());
+    return isThere ? node : osg::NodePtr();  // it may have been deleted under the pointer
 }
 
 }  // namespace viewer
