@@ -5,6 +5,7 @@
 
 #include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGUtils/nbEdit.h>
+#include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <utility>
 
@@ -12,13 +13,15 @@ namespace nbec::manipulator {
 
 namespace {
 
-/// Hangs a visualisation below a root or takes it off, if both exist.
-void hang(bool on, const osg::NodePtr& root, const osg::NodePtr& visualisation)
+/// Hangs a visualisation below a root or takes it off, if both exist and the root is no part of it.
+void hang(bool on, const osg::NodePtr& root, const osg::NodePtr& visualisation,
+          osg::BitVector mask = osg::FieldBits::AllFields)
 {
-    if (root == osg::NullFC || visualisation == osg::NullFC) {
+    if (root == osg::NullFC || nbNodeUtils::hasParent(root, visualisation) ||
+        visualisation == osg::NullFC) {
         return;
     }
-    const nbEdit edit(root, osg::Node::ChildrenFieldMask);
+    const nbEdit edit(root, mask);
     if (on) {
         root->addChild(visualisation);
     } else {
@@ -34,7 +37,7 @@ void AbstractManipulator::activate(ManipulatorInteractionContext* /*ctx*/)
         return;
     }
     active = true;
-    hang(true, getVisualisationRoot(), getVisualisation());
+    hang(true, getVisualisationRoot(), getVisualisation(), osg::Node::ChildrenFieldMask);
 }
 
 void AbstractManipulator::deactivate(ManipulatorInteractionContext* /*ctx*/)
@@ -98,7 +101,7 @@ void AbstractManipulator::reenablePreselection()
 
 bool AbstractManipulator::cancelDrag()
 {
-    if (control == nullptr || !control->takeBack()) {
+    if (control.part == nullptr || !control.part->takeBack()) {
         return false;
     }
     stopManipulator(nullptr, std::string());
@@ -107,17 +110,17 @@ bool AbstractManipulator::cancelDrag()
 
 bool AbstractManipulator::typeKey(QChar key)
 {
-    if (control == nullptr) {
+    if (control.part == nullptr) {
         return false;
     }
-    switch (control->typeKey(key)) {
+    switch (control.part->typeKey(key)) {
     case TypedKey::Commit:
         stopManipulator(nullptr, std::string());
         return true;
     case TypedKey::Cancel:
         return cancelDrag();
     case TypedKey::Taken:
-        control->listeners.deliver();
+        control.part->listeners.deliver();
         return true;
     default:
         return false;
@@ -126,64 +129,64 @@ bool AbstractManipulator::typeKey(QChar key)
 
 bool AbstractManipulator::isTyping() const
 {
-    return control != nullptr && control->isTyping();
+    return control.part != nullptr && control.part->isTyping();
 }
 
 QString AbstractManipulator::getReadout() const
 {
-    return control != nullptr ? control->getReadout() : QString();
+    return control.part != nullptr ? control.part->getReadout() : QString();
 }
 
 void AbstractManipulator::setReadoutShown(bool on, float pixelRatio)
 {
-    if (control != nullptr) {
-        control->setReadoutShown(on, pixelRatio);
+    if (control.part != nullptr) {
+        control.part->setReadoutShown(on, pixelRatio);
     }
 }
 
 void AbstractManipulator::setFineMotion(bool on)
 {
-    if (control != nullptr) {
-        control->setFineMotion(on);
+    if (control.part != nullptr) {
+        control.part->setFineMotion(on);
     }
 }
 
 int AbstractManipulator::addDragListener(DragListener listener)
 {
-    return control != nullptr ? control->listeners.add(std::move(listener)) : 0;
+    return control.part != nullptr ? control.part->listeners.add(std::move(listener)) : 0;
 }
 
 void AbstractManipulator::removeDragListener(int number)
 {
-    if (control != nullptr) {
-        control->listeners.remove(number);
+    if (control.part != nullptr) {
+        control.part->listeners.remove(number);
     }
 }
 
 bool AbstractManipulator::setHandleVisible(const std::string& name, bool on)
 {
-    return control != nullptr && control->setHandleVisible(name, on);
+    return control.part != nullptr && control.part->setHandleVisible(name, on);
 }
 
 bool AbstractManipulator::setDragLimits(int handle, const DragLimits& limits)
 {
-    if (control != nullptr) {
-        control->setLimits(handle, limits);
+    if (control.part != nullptr) {
+        control.part->setLimits(handle, limits);
     }
-    return control != nullptr;
+    return control.part != nullptr;
 }
 
 bool AbstractManipulator::clearDragLimits(int handle)
 {
-    if (control != nullptr) {
-        control->clearLimits(handle);
+    if (control.part != nullptr) {
+        control.part->clearLimits(handle);
     }
-    return control != nullptr;
+    return control.part != nullptr;
 }
 
 void AbstractManipulator::setDragControl(DragControl& part)
 {
-    control = &part;
+    control.part = &part;
     part.setFace(this);
 }
 

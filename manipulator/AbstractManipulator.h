@@ -24,16 +24,11 @@ struct DragLimits;
 ///
 /// The visualisation hangs under the root exactly while the manipulator is active. While a handle
 /// is hovered the scene's own hover highlighting (preselection) is off; a manipulator switches on
-/// only what it has switched off. All operations run on the user-interface thread.
+/// only what it has switched off. A copy holds the same root. A manipulator is deactivated before it
+/// dies: the destructor detaches nothing. All operations run on the user-interface thread.
 class NB_MANIPULATOR_API AbstractManipulator : public Manipulator
 {
 public:
-    AbstractManipulator() = default;
-
-    /// Copies all fields; both manipulators then hold the same root.
-    AbstractManipulator(const AbstractManipulator&) = default;
-    AbstractManipulator& operator=(const AbstractManipulator&) = default;
-
     /// Appends the visualisation to the root, if both exist; nothing if already active.
     void activate(ManipulatorInteractionContext* ctx) override;
 
@@ -44,20 +39,17 @@ public:
 
     /// Deliberate: the three drag operations answer true (handled) by default, hoverManipulator,
     /// resetManipulator and setManipulatorMode answer false.
-    bool startManipulator(ManipulatorInteractionContext* /*ctx*/,
-                          const std::string& /*hint*/) override
+    bool startManipulator(ManipulatorInteractionContext*, const std::string&) override
     {
         return true;
     }
 
-    bool processManipulator(ManipulatorInteractionContext* /*ctx*/,
-                            const std::string& /*hint*/) override
+    bool processManipulator(ManipulatorInteractionContext*, const std::string&) override
     {
         return true;
     }
 
-    bool stopManipulator(ManipulatorInteractionContext* /*ctx*/,
-                         const std::string& /*hint*/) override
+    bool stopManipulator(ManipulatorInteractionContext*, const std::string&) override
     {
         return true;
     }
@@ -69,14 +61,12 @@ public:
     /// Calls resetManipulator() and gives preselection back. @return its answer
     bool reset(ManipulatorInteractionContext* ctx, const std::string& hint) override;
 
-    bool hoverManipulator(ManipulatorInteractionContext* /*ctx*/,
-                          const std::string& /*hint*/) override
+    bool hoverManipulator(ManipulatorInteractionContext*, const std::string&) override
     {
         return false;
     }
 
-    bool resetManipulator(ManipulatorInteractionContext* /*ctx*/,
-                          const std::string& /*hint*/) override
+    bool resetManipulator(ManipulatorInteractionContext*, const std::string&) override
     {
         return false;
     }
@@ -92,10 +82,6 @@ public:
     osg::Pnt2f getMousePosition() const override { return mousePosition; }
 
     bool setManipulatorMode(const std::string& /*mode*/) override { return false; }
-
-    /// Releases the visualisation root. Does not detach the visualisation: a manipulator is
-    /// deactivated before it dies.
-    ~AbstractManipulator() override = default;
 
     /// Sets the node under which the visualisation hangs while active; an active one moves along.
     /// @param root  a count is held on it; null detaches
@@ -161,11 +147,23 @@ protected:
     void reenablePreselection();
 
 private:
+    /// What a class with drags has set. It is never copied, as each has its own.
+    struct Control
+    {
+        Control() = default;
+
+        Control(const Control&) { }
+
+        Control& operator=(const Control&) { return *this; }
+
+        DragControl* part = nullptr;
+    };
+
     bool active = false;
     osg::RefPtr<osg::NodePtr> visualisationRoot;
     osg::Pnt2f mousePosition;
     bool preselectionSuppressed = false;
-    DragControl* control = nullptr;
+    Control control;
 };
 
 }  // namespace nbec::manipulator

@@ -90,14 +90,12 @@ bool CameraManipulator::startManipulator(ManipulatorInteractionContext* ctx,
     return CameraManipulator::hoverManipulator(ctx, tool);
 }
 
-bool CameraManipulator::processManipulator(ManipulatorInteractionContext* /*ctx*/,
-                                           const std::string& /*tool*/)
+bool CameraManipulator::processManipulator(ManipulatorInteractionContext*, const std::string&)
 {
     return false;
 }
 
-bool CameraManipulator::stopManipulator(ManipulatorInteractionContext* /*ctx*/,
-                                        const std::string& /*tool*/)
+bool CameraManipulator::stopManipulator(ManipulatorInteractionContext*, const std::string&)
 {
     return false;
 }
@@ -111,8 +109,7 @@ bool CameraManipulator::hoverManipulator(ManipulatorInteractionContext* ctx,
     return false;
 }
 
-bool CameraManipulator::resetManipulator(ManipulatorInteractionContext* /*ctx*/,
-                                         const std::string& /*tool*/)
+bool CameraManipulator::resetManipulator(ManipulatorInteractionContext*, const std::string&)
 {
     return true;
 }

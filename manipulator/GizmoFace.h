@@ -55,15 +55,13 @@ public:
     }
 
     /// One step of a drag. @return whether there is a handle to drag and what it edits
-    bool processManipulator(ManipulatorInteractionContext* /*ctx*/,
-                            const std::string& /*hint*/) override
+    bool processManipulator(ManipulatorInteractionContext*, const std::string&) override
     {
         return gizmo->process(View());
     }
 
     /// Lets go of the handle. @return whether one was held and there is still what it edits
-    bool stopManipulator(ManipulatorInteractionContext* /*ctx*/,
-                         const std::string& /*hint*/) override
+    bool stopManipulator(ManipulatorInteractionContext*, const std::string&) override
     {
         return gizmo->stop();
     }
@@ -75,8 +73,7 @@ public:
     }
 
     /// Takes the light away. @return true
-    bool resetManipulator(ManipulatorInteractionContext* /*ctx*/,
-                          const std::string& /*hint*/) override
+    bool resetManipulator(ManipulatorInteractionContext*, const std::string&) override
     {
         return gizmo->reset();
     }

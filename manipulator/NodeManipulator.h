@@ -14,11 +14,6 @@ namespace nbec::manipulator {
 class NB_MANIPULATOR_API NodeManipulator : public AbstractManipulator
 {
 public:
-    NodeManipulator() = default;
-    NodeManipulator(const NodeManipulator&) = default;
-    NodeManipulator& operator=(const NodeManipulator&) = default;
-    ~NodeManipulator() override = default;
-
     /// Binds the manipulator to a node. @param node  not owned; null unbinds
     virtual void setNode(const osg::NodePtr& node) { nodeId = containerId(node); }
 

@@ -21,13 +21,6 @@ float arrowPart()
                       : 0.0F;
 }
 
-/// Size of gizmos in an orthographic view; 0 in any other.
-float orthographicSize(const View& view)
-{
-    const std::optional<float> diagonal = view.orthographicDiagonal();
-    return diagonal ? orthographicScale(*diagonal) : 0.0F;
-}
-
 }  // namespace
 
 bool PlacementWatch::mayHaveChanged(float own) const
@@ -73,7 +66,7 @@ bool PlacementWatch::isSeenOtherwise(const View& view) const
     nbOSGWidget::getFromAtUp(-1, from, at, up);
     return !from.equals(cachedCameraFrom, kTolerance) || !at.equals(cachedCameraAt, kTolerance) ||
         !up.equals(cachedCameraUp, kTolerance) || view.getFov() != cachedFov ||
-        orthographicSize(view) != cachedOrthoSize;
+        view.orthographicDiagonal() != cachedOrthoSize;
 }
 
 void PlacementWatch::remember(const osg::Matrix& target)
@@ -86,7 +79,7 @@ void PlacementWatch::remember(const View& view)
 {
     nbOSGWidget::getFromAtUp(-1, cachedCameraFrom, cachedCameraAt, cachedCameraUp);
     cachedFov = view.getFov();
-    cachedOrthoSize = orthographicSize(view);
+    cachedOrthoSize = view.orthographicDiagonal();
 }
 
 }  // namespace nbec::manipulator

@@ -56,7 +56,7 @@ private:
     float cachedFov = 0.0F;
     float placedArrowPart = 0.0F;
     const nbOSGWidget* placedFor = nullptr;  ///< for comparison only
-    float cachedOrthoSize = 0.0F;  ///< 0 under a perspective camera
+    std::optional<float> cachedOrthoSize;  ///< near-plane diagonal; none under a perspective camera
 };
 
 }  // namespace nbec::manipulator

@@ -67,17 +67,15 @@ osg::Matrix RingDrag::frame(osg::UInt32 axis) const
 std::optional<osg::Pnt3f> RingDrag::follow(const std::optional<osg::Line>& ray,
                                            DragTrack& track) const
 {
-    DragTrack next = track;
-    std::optional<osg::Pnt3f> hit = followPlane(plane(), ray, next);
+    const bool isFirst = !track.start;
+    std::optional<osg::Pnt3f> hit = followPlane(plane(), ray, track);
     if (hit && isWire) {
         track.bead = beadAt(osg::Vec3d(*hit - center), track.bead);
         const osg::Vec3d arm = armAt(track.bead);
         hit = center +
             osg::Vec3f(static_cast<float>(arm.x()), static_cast<float>(arm.y()),
                        static_cast<float>(arm.z()));
-    }
-    if (hit && !track.start) {
-        track.start = hit;
+        track.start = isFirst ? hit : track.start;
     }
     return hit;
 }

@@ -142,14 +142,16 @@ void moveGeometry(const osg::GeometryPtr& geometry, const ShapeRow& row)
     osg::Matrix place;
     place.setTransform(osg::Vec3f(row.place[0], row.place[1], row.place[2]),
                        quaternionOf(row.turn));
-    const nbEdit edit(geometry, osg::FieldBits::AllFields);
     const osg::GeoPositionsPtr positions = geometry->getPositions();
+    const osg::GeoNormalsPtr normals = geometry->getNormals();
+    const nbEdit edit(geometry, osg::FieldBits::AllFields);
+    const nbEdit positionsEdit(positions, osg::FieldBits::AllFields);
+    const nbEdit normalsEdit(normals, osg::FieldBits::AllFields);
     for (osg::UInt32 i = 0; i < positions->getSize(); ++i) {
         osg::Pnt3f point = positions->getValue(i);
         place.multMatrixPnt(point);
         positions->setValue(point, i);
     }
-    const osg::GeoNormalsPtr normals = geometry->getNormals();
     for (osg::UInt32 i = 0; normals != osg::NullFC && i < normals->getSize(); ++i) {
         osg::Vec3f normal = normals->getValue(i);
         place.multMatrixVec(normal);

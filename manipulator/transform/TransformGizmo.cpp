@@ -100,7 +100,6 @@ bool TransformGizmo::centerPivot()
 
 // == Placement
 
-/// Where the gizmo stands. @param node  the first
 osg::Pnt3f TransformGizmo::centerWorld(const osg::NodePtr& node) const
 {
     if (!hasBegun() || !stance.hasOnePoint(shownMode())) {
