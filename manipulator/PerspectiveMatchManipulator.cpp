@@ -14,7 +14,9 @@
 #include <nbKernelServices/nbdPerspectiveMatch.h>
 #include <nbMagnifier/nbMagnifierRenderer.h>
 #include <nbOpenSGExt/nbContainerId.h>
+#include <nbOpenSGExt/nbIsFinite.h>
 #include <nbOpenSGUberCamera/nbUberCameraPool.h>
+#include <nbUtils/nbGuard.h>
 
 #include <QtCore/QCoreApplication>
 
@@ -281,7 +283,7 @@ nbdCameraNode PerspectiveMatchManipulator::getNbdCameraNode() const
 void PerspectiveMatchManipulator::setLine(PerspectiveMatchLine which, const osg::Line2D& value)
 {
     const nbdCameraNode camera = getNbdCameraNode();
-    if (camera.isNull() || camera.isLocked()) {
+    if (which == PerspectiveMatchLine::NoLine || camera.isNull() || camera.isLocked()) {
         return;
     }
     const QString title =
@@ -381,10 +383,14 @@ bool PerspectiveMatchManipulator::updateMode()
 DragParameters PerspectiveMatchManipulator::parametersAt(const View& view) const
 {
     osg::Vec2f way = visualisation->toLineUnits(pointerFromBelow(view) - dragStart);
-    if (lineRule) {
-        const osg::Line2D laid = lineRule(movedLine(way), handle);
-        way = handle == match::kSecondEnd ? laid.getSecond() - lineAtDragStart.getSecond()
-                                          : laid.getFirst() - lineAtDragStart.getFirst();
+    osg::Line2D laid;
+    const LineRule rule = lineRule;  // which may replace itself
+    const auto lay = [&] { laid = rule(movedLine(way), handle); };
+    if (rule && nbGuarded("PerspectiveMatchManipulator: the rule of lines", lay)) {
+        const osg::Vec2f ruled = handle == match::kSecondEnd
+            ? laid.getSecond() - lineAtDragStart.getSecond()
+            : laid.getFirst() - lineAtDragStart.getFirst();
+        way = nbIsFinite(ruled) ? ruled : way;
     }
     return { DragParameters::Kind::Offset, osg::Vec3f(way.x(), way.y(), 0.0F) };
 }

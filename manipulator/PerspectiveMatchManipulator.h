@@ -88,7 +88,8 @@ public:
     void setCamera(osg::UberCameraPtr camera);
 
     /// Where a line is laid instead of where the pointer has it, such as on an edge of the host's
-    /// photograph. Asked at each step of a drag; typed values are taken as they are.
+    /// photograph. Asked at each step of a drag; typed values are taken as they are. One that
+    /// throws, which is logged, or answers no number leaves the line to the pointer.
     /// @param part  1 the line between the ends, 2 the first end, 3 the second: what may move
     using LineRule = std::function<osg::Line2D(const osg::Line2D& line, osg::UInt32 part)>;
 
