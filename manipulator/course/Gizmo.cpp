@@ -26,6 +26,13 @@ Gizmo::Gizmo(const CourseRules& courseRules, const HandleTable& table,
     handles.show(mode, 0);
 }
 
+Gizmo::~Gizmo()
+{
+    if (shownText != nullptr) {
+        shownText->show(QString());
+    }
+}
+
 // == Events
 
 osg::NodePtr Gizmo::pickHandle(interaction::Picker* picker,
@@ -319,7 +326,9 @@ void Gizmo::showText(bool isOfDrag)
         return;
     }
     if (const std::optional<QString> said = isOfDrag ? describe() : QString()) {
-        texts.try_emplace(name, name).first->second.show(*said);
+        ValueText& text = texts.try_emplace(name, name).first->second;
+        text.show(*said);
+        shownText = isOfDrag ? &text : nullptr;
     }
 }
 

@@ -24,6 +24,8 @@ class Picker;
 
 namespace nbec::manipulator {
 
+class ValueText;
+
 /// In what the course of a gizmo differs from that of others.
 struct CourseRules
 {
@@ -58,6 +60,9 @@ class NB_MANIPULATOR_API Gizmo : public DragControl
 {
 public:
     Gizmo& operator=(const Gizmo&) = delete;
+
+    /// Takes away the text that a drag has left.
+    ~Gizmo() override;
 
     // == Events. Each answers as the operation of Manipulator with its name.
 
@@ -245,6 +250,7 @@ private:
     DragOverlay overlay;
     bool grabbed = false;
     bool prepared = false;
+    ValueText* shownText = nullptr;  ///< that of a drag
     osg::Vec3f placedAt;  ///< where the last placement has left the handles; a copy may move them
     osg::Vec3f placedScale;
 };

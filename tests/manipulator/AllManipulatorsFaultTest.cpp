@@ -103,6 +103,7 @@ TYPED_TEST(Manipulators, NoOrderOfDestructionDoesHarm)
         }
         EXPECT_EQ(copy->getManipulator(), nullptr);
         this->stage.renewReceivers();
+        EXPECT_EQ(this->textCount(), 0U) << "of drags that nobody goes on with";
     } while (std::next_permutation(order.begin(), order.end()));
     EXPECT_EQ(this->stage.check(), "");
     nbScenegraph::setPreselectionEnabled(true);  // who has died in a hover owes it
