@@ -73,6 +73,7 @@ void TransformGizmo::setNodes(const osg::NodePtr& node, const std::vector<osg::N
     marks.show(false);
     isOutsideTold = false;
     stance.heldFacing.reset();
+    drag.starts.clear();  // also if the host sets nodes while the former ones are captured
     targets.set(node, further);
     if (targets.count() > 1) {
         marks.make(multiselection.get(), targets.count() - 1, handles.getMaterial(kYellowLine));
@@ -221,7 +222,7 @@ bool TransformGizmo::prepare(const View& view)
     if (snapSettings.geometry != 0 && drag.action.kind == Kind::Offset) {
         snapSearch.begin(movesPivot() ? std::vector<osg::NodePtr>() : targets.edited());
     }
-    return true;
+    return !drag.starts.empty();
 }
 
 void TransformGizmo::finish()
