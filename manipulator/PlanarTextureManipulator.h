@@ -149,8 +149,6 @@ public:
     }
 
 private:
-    void activateMode(ManipulatorMode mode) { gizmo->activateMode(static_cast<int>(mode)); }
-
     texture::PlanarGizmo& course() const;
     texture::PlanarSettings& settings() const;
 };

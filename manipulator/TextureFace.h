@@ -101,6 +101,12 @@ protected:
 
     ~TextureFace() override = default;
 
+    template <class Mode>
+    void activateMode(Mode mode)
+    {
+        this->gizmo->activateMode(static_cast<int>(mode));
+    }
+
     texture::TextureGizmo& textureGizmo() const
     {
         return static_cast<texture::TextureGizmo&>(*this->gizmo);

@@ -60,9 +60,6 @@ public:
     ManipulatorMode getMode() const { return static_cast<ManipulatorMode>(gizmo->getMode()); }
 
     ActiveMode getActiveMode() const { return static_cast<ActiveMode>(gizmo->getArmed()); }
-
-private:
-    void activateMode(ManipulatorMode mode) { gizmo->activateMode(static_cast<int>(mode)); }
 };
 
 }  // namespace nbec::manipulator

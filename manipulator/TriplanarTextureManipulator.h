@@ -60,9 +60,6 @@ public:
     void setRingsTilted(bool on) { textureGizmo().areRingsTilted = on; }
 
     bool areRingsTilted() const { return textureGizmo().areRingsTilted; }
-
-private:
-    void activateMode(ManipulatorMode mode) { gizmo->activateMode(static_cast<int>(mode)); }
 };
 
 }  // namespace nbec::manipulator

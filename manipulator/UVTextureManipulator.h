@@ -74,9 +74,6 @@ public:
     void setAspectRatio(float ratio) { textureGizmo().aspectRatio = ratio; }
 
     float getAspectRatio() const { return textureGizmo().aspectRatio; }
-
-private:
-    void activateMode(ManipulatorMode mode) { gizmo->activateMode(static_cast<int>(mode)); }
 };
 
 }  // namespace nbec::manipulator

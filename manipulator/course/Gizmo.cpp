@@ -50,6 +50,9 @@ osg::NodePtr Gizmo::pickHandle(interaction::Picker* picker,
 
 int Gizmo::detect(interaction::Picker* picker)
 {
+    if (handles.isLitThinner()) {
+        handles.light(0, mode);  // or else one moment it is hit, the next one not
+    }
     const osg::NodePtr hit = hasTarget()
         ? pickHandle(picker,
                      [this](const osg::NodePtr& part) { return rankSeen(handles, part, View()); })
@@ -88,9 +91,6 @@ bool Gizmo::start(interaction::Picker* picker)
         endDrag();  // whose stop was lost
     }
     update(false);
-    if (!rules.isGrabbedLit) {
-        handles.light(0, mode);  // lines are hit by the width in which they are drawn
-    }
     armed = detect(picker);
     if (armed != 0) {
         grabbedPoint = picker->getHitPoint();

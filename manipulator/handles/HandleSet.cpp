@@ -264,6 +264,19 @@ bool HandleSet::isLitBy(std::size_t row, int handle) const
     return handle != 0 && (of.handle == handle || of.litWith == handle);
 }
 
+bool HandleSet::isLitThinner() const
+{
+    bool isThinner = false;
+    for (std::size_t i = 0; i < handles.size(); ++i) {
+        for (const HandlePart& part : table->rows[i].parts) {
+            isThinner = isThinner ||
+                (isLitBy(i, lit) &&
+                 classicWidths[part.colors.highlight] < classicWidths[part.colors.idle]);
+        }
+    }
+    return isThinner;
+}
+
 bool HandleSet::takePalette()
 {
     if (paletteCount == handlePaletteCount()) {

@@ -96,7 +96,8 @@ public:
     /// colours. @param handle  0 for none @param mode  as for setDefaultMaterials()
     void light(int handle, int mode);
 
-    int getLit() const { return lit; }
+    /// Whether what is lit up has lines of another width than idle, by which it is hit otherwise.
+    bool isLitThinner() const;
 
     /// Gives the materials the colours of the palette in force. @return whether they had others
     bool takePalette();

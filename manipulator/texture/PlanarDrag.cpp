@@ -128,10 +128,9 @@ osg::Vec3f offsetBetween(const ProjectionDrag& drag, const osg::Pnt3f& from, con
 
 float turnAboutZ(const osg::Vec3f& from, const osg::Vec3f& to)
 {
-    const osg::Vec3d start(from);  // in double, for tiny and huge objects
-    const osg::Vec3d end(to);
-    return static_cast<float>(std::atan2(start.x() * end.y() - start.y() * end.x(),
-                                         start.x() * end.x() + start.y() * end.y()));
+    const osg::Vec3d start(from.x(), from.y(), 0.0);  // in double, for tiny and huge objects
+    const osg::Vec3d end(to.x(), to.y(), 0.0);
+    return static_cast<float>(std::atan2(start.cross(end).z(), start.dot(end)));
 }
 
 std::optional<float> angleBetween(const ProjectionDrag& drag, const osg::Pnt3f& from,

@@ -3,7 +3,6 @@
 
 #include "manipulator/texture/PlanarDrag.h"
 #include "manipulator/texture/TextureGizmo.h"
-#include "manipulator/texture/TextureModes.h"
 
 namespace nbec::manipulator::texture {
 

@@ -4,7 +4,6 @@
 #include "manipulator/drag/RingDrag.h"
 #include "manipulator/texture/AnchoredGizmo.h"
 #include "manipulator/texture/TextureDragMath.h"
-#include "manipulator/texture/TextureModes.h"
 
 class nbMessage;
 

@@ -3,7 +3,6 @@
 
 #include "manipulator/texture/AnchoredGizmo.h"
 #include "manipulator/texture/TextureDragMath.h"
-#include "manipulator/texture/TextureModes.h"
 
 #include <OpenSG/OSGVector.h>
 

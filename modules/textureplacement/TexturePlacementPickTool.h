@@ -34,8 +34,7 @@ public:
     /// widget nothing changes. @return true
     bool setToolMode(interaction::ToolInteractionContext* context,
                      const std::string& mode) override;
-    /// Shows the description text; deactivation clears it, and resumes a preview whose stop was
-    /// lost.
+    /// Shows the description text; deactivation clears it, and ends a pause whose stop was lost.
     void activateTool(interaction::ToolInteractionContext* context) override;
     void deactivateTool(interaction::ToolInteractionContext* context) override;
 

@@ -299,6 +299,16 @@ TEST(TriplanarTextureManipulator, RingsSendRadiansWithTheirAsymmetryAndCanBeTilt
     EXPECT_NEAR(kRotation.y() - attribute<Vec3f>(at.last(), "rotate").y(), 0.72F, 0.02F);
 }
 
+TEST(TriplanarTextureManipulator, AShaftIsHitAllTheSameWhileItIsLitAndThinner)
+{
+    Triplanar at;
+    const Pnt2f shaft = at.rayPixelOf(at.onHandle("xsShape", Vec3f(2.3F, 0, 0)));
+    for (float px = 0; px < 8; ++px) {
+        const bool isHit = at.scene.send("hover", shaft + Vec2f(0, px));
+        EXPECT_EQ(at.scene.send("hover", shaft + Vec2f(0, px)), isHit) << px;
+    }
+}
+
 TEST(TriplanarTextureManipulator, TheBoxInTheMiddleScalesAllAHundredTimesMoreGently)
 {
     for (const bool isZUp : { false, true }) {
