@@ -36,12 +36,12 @@ constexpr std::array<HandleMaterialRow, Orange + 1> kMaterials = {
 };
 
 /// The handles: everything that differs between them stands in their rows.
-const HandleTable& handleTable()
+HandleTable makeTable()
 {
-    static const HandleColors green = { Green, Orange, Green };
-    static const HandleColors violet = { Violet, Orange, Violet };
-    static const HandleAction upwards = { DragParameters::Kind::Offset, axisBit(1) };
-    static const HandleTable table = {
+    const HandleColors green = { Green, Orange, Green };
+    const HandleColors violet = { Violet, Orange, Violet };
+    const HandleAction upwards = { DragParameters::Kind::Offset, axisBit(1) };
+    return {
         { { "liftShape",
             LiftArrow,
             0,
@@ -67,7 +67,6 @@ const HandleTable& handleTable()
             false,
             upwards } }
     };
-    return table;
 }
 
 DragParameters along(double height)
@@ -79,7 +78,7 @@ class LiftGizmo : public Gizmo
 {
 public:
     explicit LiftGizmo(Lift& edited)
-        : Gizmo(CourseRules(), handleTable(), makeHandleMaterials(kMaterials), 0, kSize)
+        : Gizmo(CourseRules(), makeTable(), makeHandleMaterials(kMaterials), 0, kSize)
         , lift(edited)
     {
         root = makeHandleRootOfPasses(handles.getRoot());

@@ -16,9 +16,9 @@
 
 namespace nbec::manipulator {
 
-Gizmo::Gizmo(const CourseRules& courseRules, const HandleTable& table,
-             HandleSet::Materials materials, int startMode, const float& size)
-    : handles(table, std::move(materials))
+Gizmo::Gizmo(const CourseRules& courseRules, HandleTable table, HandleSet::Materials materials,
+             int startMode, const float& size)
+    : handles(std::move(table), std::move(materials))
     , rules(courseRules)
     , classSize(&size)
     , mode(startMode)

@@ -119,7 +119,7 @@ protected:
     /// @param materials  see HandleSet
     /// @param startMode  number of a mode of the table
     /// @param size       setting of the gizmo's class, which outlives the gizmo
-    Gizmo(const CourseRules& courseRules, const HandleTable& table, HandleSet::Materials materials,
+    Gizmo(const CourseRules& courseRules, HandleTable table, HandleSet::Materials materials,
           int startMode, const float& size);
     /// A copy shares nodes and materials; a pause of the preview stays with the original.
     Gizmo(const Gizmo&) = default;

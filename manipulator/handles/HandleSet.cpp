@@ -59,8 +59,8 @@ void nameNode(const osg::NodePtr& node, const HandleRow& row)
 
 }  // namespace
 
-HandleSet::HandleSet(const HandleTable& handleTable, Materials handleMaterials)
-    : table(&handleTable)
+HandleSet::HandleSet(HandleTable handleTable, Materials handleMaterials)
+    : table(std::make_shared<HandleTable>(std::move(handleTable)))
     , materials(std::move(handleMaterials))
     , root(makeHolder(table->root, {}, Turn::None))
 {
@@ -95,9 +95,9 @@ void HandleSet::build(const osg::NodePtr& copies)
     }
 }
 
-void HandleSet::extend(const HandleTable& longer, const osg::NodePtr& copies)
+void HandleSet::extend(HandleTable longer, const osg::NodePtr& copies)
 {
-    table = &longer;
+    table = std::make_shared<HandleTable>(std::move(longer));
     build(copies);
 }
 
@@ -266,15 +266,15 @@ bool HandleSet::isLitBy(std::size_t row, int handle) const
 
 bool HandleSet::isLitThinner() const
 {
-    bool isThinner = false;
     for (std::size_t i = 0; i < handles.size(); ++i) {
         for (const HandlePart& part : table->rows[i].parts) {
-            isThinner = isThinner ||
-                (isLitBy(i, lit) &&
-                 classicWidths[part.colors.highlight] < classicWidths[part.colors.idle]);
+            if (isLitBy(i, lit) &&
+                classicWidths[part.colors.highlight] < classicWidths[part.colors.idle]) {
+                return true;
+            }
         }
     }
-    return isThinner;
+    return false;
 }
 
 bool HandleSet::takePalette()

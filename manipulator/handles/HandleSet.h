@@ -10,6 +10,7 @@
 #include <OpenSG/OSGSimpleMaterial.h>
 
 #include <cstddef>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -25,13 +26,12 @@ class NB_MANIPULATOR_API HandleSet
 public:
     using Materials = std::vector<osg::SimpleMaterialRefPtr>;
 
-    /// @param handleTable  outlives the set
     /// @param handleMaterials  those that the table names by their places
-    HandleSet(const HandleTable& handleTable, Materials handleMaterials);
+    HandleSet(HandleTable handleTable, Materials handleMaterials);
 
     /// Goes on with a table that begins as the present one: builds what it has more, below the
     /// root. @param copies  also gets unnamed copies of that, for a depth pass
-    void extend(const HandleTable& longer, const osg::NodePtr& copies);
+    void extend(HandleTable longer, const osg::NodePtr& copies);
 
     osg::NodePtr getRoot() const { return root.get(); }
 
@@ -153,7 +153,7 @@ private:
     osg::SimpleMaterialPtr fadedMaterial(Nodes& of, std::size_t part, std::size_t color);
     bool isShown(std::size_t row, int mode, const HandleRow* held) const;
 
-    const HandleTable* table;
+    std::shared_ptr<const HandleTable> table;
     Materials materials;
     osg::RefPtr<osg::NodePtr> root;
     std::vector<osg::NodePtr> groups;

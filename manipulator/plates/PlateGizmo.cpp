@@ -96,7 +96,7 @@ std::optional<osg::Matrix> worldFromPixels(const View& view)
 }  // namespace
 
 PlateGizmo::PlateGizmo(const float& size)
-    : Gizmo(kRules, handleTable(), makeMaterials(), 0, size)
+    : Gizmo(kRules, makeTable(), makeMaterials(), 0, size)
 {
     nbNodeUtils::setIsAuxiliaryNode(handles.getRoot(), true);
     root = makeHandleRootOfPasses(handles.getRoot());

@@ -128,25 +128,22 @@ HandleRow guide()
 
 }  // namespace
 
-const HandleTable& handleTable()
+HandleTable makeTable()
 {
-    static const HandleTable table = [] {
-        HandleTable made;
-        made.rows = { box("scaleXYLLShape", Active::ScaleLowerLeft),
-                      box("scaleXYULShape", Active::ScaleUpperLeft),
-                      box("scaleXYLRShape", Active::ScaleLowerRight),
-                      box("scaleXYURShape", Active::ScaleUpperRight),
-                      sideBox("scaleXLShape", Active::SizeLeft, 0),
-                      sideBox("scaleYUShape", Active::SizeUpper, 1),
-                      sideBox("scaleYLShape", Active::SizeLower, 1),
-                      sideBox("scaleXRShape", Active::SizeRight, 0),
-                      arm(),
-                      body(),
-                      guide(),
-                      guide() };
-        made.root = HandleHolder::Matrix;
-        return made;
-    }();
+    HandleTable table;
+    table.rows = { box("scaleXYLLShape", Active::ScaleLowerLeft),
+                   box("scaleXYULShape", Active::ScaleUpperLeft),
+                   box("scaleXYLRShape", Active::ScaleLowerRight),
+                   box("scaleXYURShape", Active::ScaleUpperRight),
+                   sideBox("scaleXLShape", Active::SizeLeft, 0),
+                   sideBox("scaleYUShape", Active::SizeUpper, 1),
+                   sideBox("scaleYLShape", Active::SizeLower, 1),
+                   sideBox("scaleXRShape", Active::SizeRight, 0),
+                   arm(),
+                   body(),
+                   guide(),
+                   guide() };
+    table.root = HandleHolder::Matrix;
     return table;
 }
 

@@ -28,7 +28,7 @@ enum Row : std::size_t
 /// The handles and guides of the scene-plate gizmo. Boxes are of size 1, the body has sides of 1;
 /// of the arm a unit is one of handle sizes, see PlateFrame.h, and its origin the knob. Of two
 /// handles at one place the first is hit.
-const HandleTable& handleTable();
+HandleTable makeTable();
 
 /// Their materials, in the order that the table counts in.
 HandleSet::Materials makeMaterials();

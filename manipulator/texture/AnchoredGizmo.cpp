@@ -14,9 +14,9 @@ constexpr CourseRules kRules = { /*isPreparedAtStart*/ false, /*isHoverKept*/ tr
 
 }  // namespace
 
-AnchoredGizmo::AnchoredGizmo(const HandleTable& table, HandleSet::Materials materials,
-                             int startMode, const float& size)
-    : TextureGizmo(kRules, table, std::move(materials), startMode, size)
+AnchoredGizmo::AnchoredGizmo(HandleTable table, HandleSet::Materials materials, int startMode,
+                             const float& size)
+    : TextureGizmo(kRules, std::move(table), std::move(materials), startMode, size)
 { }
 
 // == What is edited

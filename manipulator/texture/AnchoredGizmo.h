@@ -42,7 +42,7 @@ public:
     void showActive() override;
 
 protected:
-    AnchoredGizmo(const HandleTable& table, HandleSet::Materials materials, int startMode,
+    AnchoredGizmo(HandleTable table, HandleSet::Materials materials, int startMode,
                   const float& size);
     AnchoredGizmo(const AnchoredGizmo&) = default;
 

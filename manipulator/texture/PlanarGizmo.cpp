@@ -74,7 +74,7 @@ QString textOf(const osg::NodePtr& node, const HandleAction& action)
 }  // namespace
 
 PlanarGizmo::PlanarGizmo(bool withDepthPass, const float& size)
-    : TextureGizmo(kRules, planarHandleTable(), makePlanarMaterials(),
+    : TextureGizmo(kRules, makePlanarTable(), makePlanarMaterials(),
                    static_cast<int>(PlanarManipulatorMode::Universal), size)
 {
     const osg::NodePtr tree = handles.getRoot();
@@ -393,7 +393,7 @@ void PlanarGizmo::placeRows(const osg::Matrix& worldFromAxes, const osg::Matrix&
             ways[i][axis] = world.dot(column(axes, axis)) / scales[axis];
         }
     }
-    const std::vector<HandleRow>& rows = planarHandleTable().rows;
+    const std::vector<HandleRow>& rows = handles.getTable().rows;
     for (std::size_t i = 0; i < rows.size(); ++i) {
         const HandleAction& action = rows[i].action;
         const osg::UInt32 axis = action.axis();

@@ -38,9 +38,11 @@ HandleRow tab(const char* name, Active active, HandleShape shape, std::size_t co
     return row;
 }
 
+}  // namespace
+
 /// Deliberate: the arrow and the scale axis of z point to -z, where the projection looks, unlike
 /// those of x and y. A drag of the x arrow or the plane handle hides nothing.
-HandleTable makeTable()
+HandleTable makePlanarTable()
 {
     HandleTable table;
     table.rows = {
@@ -87,14 +89,6 @@ HandleTable makeTable()
         row.leaves = isFree ? HandleLeaves::Everything : HandleLeaves::Family;
         row.visibleIn = kVisibleIn[static_cast<std::size_t>(row.family)];
     }
-    return table;
-}
-
-}  // namespace
-
-const HandleTable& planarHandleTable()
-{
-    static const HandleTable table = makeTable();
     return table;
 }
 

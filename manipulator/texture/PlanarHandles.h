@@ -7,7 +7,7 @@
 namespace nbec::manipulator::texture {
 
 /// The handles of the planar gizmo.
-const HandleTable& planarHandleTable();
+HandleTable makePlanarTable();
 
 /// Their materials, in the order that the table counts in.
 HandleSet::Materials makePlanarMaterials();

@@ -11,9 +11,9 @@ namespace nbec::manipulator::texture {
 
 using Kind = DragParameters::Kind;
 
-TextureGizmo::TextureGizmo(const CourseRules& courseRules, const HandleTable& table,
+TextureGizmo::TextureGizmo(const CourseRules& courseRules, HandleTable table,
                            HandleSet::Materials materials, int startMode, const float& size)
-    : Gizmo(courseRules, table, std::move(materials), startMode, size)
+    : Gizmo(courseRules, std::move(table), std::move(materials), startMode, size)
     , surface(std::make_shared<PictureSurface>())
     , pictureRow { "picture", kPictureHandle, -1, {} }
 { }

@@ -30,8 +30,8 @@ public:
     bool areRingsTilted = false;
 
 protected:
-    TextureGizmo(const CourseRules& courseRules, const HandleTable& table,
-                 HandleSet::Materials materials, int startMode, const float& size);
+    TextureGizmo(const CourseRules& courseRules, HandleTable table, HandleSet::Materials materials,
+                 int startMode, const float& size);
     TextureGizmo(const TextureGizmo&) = default;
 
     /// Grabs the picture, if it is to be grabbed and seen there.

@@ -7,7 +7,6 @@
 #include "manipulator/texture/TextureDragMath.h"
 #include "manipulator/texture/TextureHandles.h"
 
-#include <nbKernel/nbController.h>
 #include <nbUtils/nbMessage.h>
 
 #include <cmath>
@@ -67,12 +66,6 @@ HandleTable makeTable()
     return table;
 }
 
-const HandleTable& handleTable()
-{
-    static const HandleTable table = makeTable();
-    return table;
-}
-
 /// What a handle changes: the attribute that is sent, how the on-screen text begins, and the length
 /// as it is read; null of the centre.
 struct TireLength
@@ -116,7 +109,7 @@ osg::Vec3f pictureEnd(const TireValues& values)
 }  // namespace
 
 TireGizmo::TireGizmo(const float& size)
-    : AnchoredGizmo(handleTable(), makeAxisMaterials(true), number(Mode::Universal), size)
+    : AnchoredGizmo(makeTable(), makeAxisMaterials(true), number(Mode::Universal), size)
 {
     root = makeHandleRootOver(handles.getRoot());
 }
@@ -272,11 +265,6 @@ void TireGizmo::apply(const DragParameters& parameters)
         message.set(lengthOf(handle()).attribute, sent.first(), true);
     }
     component.send(kChangedSuffix, message);
-}
-
-void TireGizmo::announce()
-{
-    nbController::setModified(1);
 }
 
 void TireGizmo::finish()

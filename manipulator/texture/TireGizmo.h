@@ -5,6 +5,8 @@
 #include "manipulator/texture/AnchoredGizmo.h"
 #include "manipulator/texture/TextureModes.h"
 
+#include <nbKernel/nbController.h>
+
 namespace nbec::manipulator::texture {
 
 /// A tire projection in the space of its object, axle along x.
@@ -34,7 +36,9 @@ protected:
     DragStep parametersAt(const View& view, const DragTrack& before) const override;
     DragParameters startParameters() const override;
     void apply(const DragParameters& parameters) override;
-    void announce() override;
+
+    void announce() override { nbController::setModified(1); }
+
     void finish() override;
     void placeHandles(const View& view, const osg::Matrix& worldFromAnchor) override;
     std::optional<QString> describe() const override;

@@ -5,7 +5,6 @@
 #include "manipulator/handles/HandleNodes.h"
 #include "manipulator/texture/TextureHandles.h"
 
-#include <nbKernel/nbController.h>
 #include <nbUtils/nbMessage.h>
 
 #include <cmath>
@@ -83,12 +82,6 @@ HandleTable makeTable()
     return table;
 }
 
-const HandleTable& handleTable()
-{
-    static const HandleTable table = makeTable();
-    return table;
-}
-
 /// The reciprocals of a pair.
 osg::Vec2f reciprocals(const osg::Vec2f& pair)
 {
@@ -110,7 +103,7 @@ osg::Vec3f inUnits(const osg::Matrix& worldFromSpace, const osg::Pnt3f& world)
 }  // namespace
 
 TriplanarGizmo::TriplanarGizmo(const float& size)
-    : AnchoredGizmo(handleTable(), makeAxisMaterials(false), number(Mode::Initial), size)
+    : AnchoredGizmo(makeTable(), makeAxisMaterials(false), number(Mode::Initial), size)
 {
     root = makeHandleRootOver(handles.getRoot());
     offsetAxes = kAllAxes;
@@ -321,11 +314,6 @@ osg::Quaternion TriplanarGizmo::setTurn(nbMessage& message, double turnDeg) cons
     }
     message.set("rotate", rotation, true);
     return triplanarTurn(rotation);
-}
-
-void TriplanarGizmo::announce()
-{
-    nbController::setModified(1);
 }
 
 }  // namespace nbec::manipulator::texture

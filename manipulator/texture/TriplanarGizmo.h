@@ -5,6 +5,8 @@
 #include "manipulator/texture/AnchoredGizmo.h"
 #include "manipulator/texture/TextureDragMath.h"
 
+#include <nbKernel/nbController.h>
+
 class nbMessage;
 
 namespace nbec::manipulator::texture {
@@ -32,7 +34,9 @@ protected:
     bool capture(const View& view) override;
     DragStep parametersAt(const View& view, const DragTrack& before) const override;
     void apply(const DragParameters& parameters) override;
-    void announce() override;
+
+    void announce() override { nbController::setModified(1); }
+
     void placeHandles(const View& view, const osg::Matrix& worldFromAnchor) override;
 
 private:

@@ -74,12 +74,6 @@ HandleTable makeTable()
     return table;
 }
 
-const HandleTable& handleTable()
-{
-    static const HandleTable table = makeTable();
-    return table;
-}
-
 HandleSet::Materials makeMaterials()
 {
     constexpr float kTrace = kTraceOfTransparency;
@@ -91,7 +85,7 @@ HandleSet::Materials makeMaterials()
 }  // namespace
 
 UVGizmo::UVGizmo(const float& size)
-    : AnchoredGizmo(handleTable(), makeMaterials(), number(Mode::Universal), size)
+    : AnchoredGizmo(makeTable(), makeMaterials(), number(Mode::Universal), size)
 {
     root = makeHandleRoot(makeTransform3DNode(osg::Vec3f()));
     addChild(root.get(), handles.getRoot());

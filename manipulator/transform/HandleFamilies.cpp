@@ -30,7 +30,7 @@ void HandleFamilies::setFurther(HandleSet& handles, const FurtherHandles& wanted
         return;
     }
     further = wanted;
-    handles.extend(furtherHandleTable(), copies);
+    handles.extend(makeTable(true), copies);
     sides.resize(handles.getTable().rows.size());
     const std::pair<Active, bool> switches[] = {
         { Active::TranslateView, wanted.centre }, { Active::RotateView, wanted.viewRing },

@@ -51,7 +51,8 @@ osg::Vec3f toDegrees(const nbEulerAngles& anglesRad)
 }  // namespace
 
 TransformGizmo::TransformGizmo(const TransformSettings& shared, const float& size)
-    : Gizmo(CourseRules(), handleTable(), makeMaterials(), static_cast<int>(Mode::Translate), size)
+    : Gizmo(CourseRules(), makeTable(false), makeMaterials(), static_cast<int>(Mode::Translate),
+            size)
     , stance { &shared }
     , multiselection(osg::makeCoredNode<osg::Group>())
     , additionalGeometry(osg::makeCoredNode<osg::Group>())

@@ -161,6 +161,8 @@ HandleRow marker(HandleShape shape, std::size_t color, HandleModes visibleIn)
     return { nullptr, 0, NoFamily, { solid(shape, color) }, visibleIn, HandleHolder::None };
 }
 
+}  // namespace
+
 HandleTable makeTable(bool hasFurther)
 {
     HandleTable table;
@@ -201,22 +203,8 @@ HandleTable makeTable(bool hasFurther)
     return table;
 }
 
-}  // namespace
-
 const std::size_t kYellowLine = kSolidCount + Yellow;
 const std::size_t kOrangeLine = kSolidCount + Orange;
-
-const HandleTable& handleTable()
-{
-    static const HandleTable table = makeTable(false);
-    return table;
-}
-
-const HandleTable& furtherHandleTable()
-{
-    static const HandleTable table = makeTable(true);
-    return table;
-}
 
 HandleSet::Materials makeMaterials()
 {

@@ -5,13 +5,11 @@
 
 namespace nbec::manipulator::transform {
 
-/// The handles of the transform gizmo, in the unit frame.
-const HandleTable& handleTable();
+/// The handles of the transform gizmo, in the unit frame. @param hasFurther  with those of
+/// FurtherHandles after them
+HandleTable makeTable(bool hasFurther);
 
-/// The same and those of FurtherHandles after them.
-const HandleTable& furtherHandleTable();
-
-/// Materials of both, in the order that the tables count in: six solid ones, seven for lines, and
+/// Their materials, in the order that the table counts in: six solid ones, seven for lines, and
 /// a clear and a faint one.
 HandleSet::Materials makeMaterials();
 

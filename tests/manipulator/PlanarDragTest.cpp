@@ -40,7 +40,7 @@ Pnt3f at(float x, float y, float z = 0)
 
 ProjectionDrag beginDrag(const ProjectionFrame& frame, Active handle)
 {
-    const std::vector<HandleRow>& rows = planarHandleTable().rows;
+    const std::vector<HandleRow> rows = makePlanarTable().rows;
     const auto row = std::find_if(rows.begin(), rows.end(), [handle](const HandleRow& each) {
         return each.handle == static_cast<int>(handle);
     });
