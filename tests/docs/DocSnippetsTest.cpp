@@ -63,11 +63,7 @@ TEST_P(DocSnippets, LeaveNothingBehind)
     }
 }
 
-std::string snippetName(const testing::TestParamInfo<DocSnippet>& info)
-{
-    return info.param.name;
-}
-
-INSTANTIATE_TEST_SUITE_P(Manual, DocSnippets, testing::ValuesIn(docSnippets()), snippetName);
+INSTANTIATE_TEST_SUITE_P(Manual, DocSnippets, testing::ValuesIn(docSnippets()),
+                         [](const auto& row) { return row.param.name; });
 
 }  // namespace

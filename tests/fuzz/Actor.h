@@ -4,7 +4,6 @@
 #include "tests/fuzz/Bytes.h"
 #include "tests/fuzz/Stage.h"
 
-#include <memory>
 #include <string>
 
 namespace nbec::manipulator::test {

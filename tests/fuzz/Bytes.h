@@ -3,7 +3,6 @@
 
 #include <OpenSG/OSGVector.h>
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <limits>

@@ -11,9 +11,6 @@
 #include "viewer/stage/Stage.h"
 #include "viewer/textures/TextureTool.h"
 
-#include <nbKernel/nbScenegraph.h>
-#include <nbKernelServices/nbUndoService.h>
-
 #include <QBuffer>
 #include <QGuiApplication>
 #include <QJsonArray>

@@ -11,8 +11,6 @@ namespace nbec::manipulator::test {
 
 namespace {
 
-using Transform = UniversalTransformManipulator2;
-
 constexpr std::array<void (Transform::*)(), 13> kTransformCalls = {
     &Transform::activateUniversalManipulator,
     &Transform::activateTranslateManipulator,
@@ -42,8 +40,6 @@ void select(Gizmo& gizmo, const Stage& stage, Bytes& bytes)
     }
     gizmo.setNode(stage.node(bytes), more);
 }
-
-using Match = PerspectiveMatchManipulator;
 
 nbdCameraNode cameraNodeOf(const osg::UberCameraPtr& camera)
 {

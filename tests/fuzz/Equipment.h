@@ -16,6 +16,13 @@
 namespace nbec::manipulator::test {
 
 using modules::textureplacement::TexturePlacementPickTool;
+using Transform = UniversalTransformManipulator2;
+using Planar = PlanarTextureManipulator;
+using Triplanar = TriplanarTextureManipulator;
+using UV = UVTextureManipulator;
+using Tire = TireProjectionManipulator;
+using Plate = nbSceneplateManipulator;
+using Match = PerspectiveMatchManipulator;
 
 // What hosts give each kind of manipulator so that it is of use on a stage.
 void equip(NodeManipulator& gizmo, Stage& stage);

@@ -10,18 +10,6 @@
 #include <cstdio>
 #include <cstdlib>
 
-namespace {
-
-/// Makes what is made once per process and kept.
-void warmUp()
-{
-    viewer::test::playFile(
-        R"({"scene": 1, "camera": {"from": [0,0,9], "at": [0,0,0], "up": [0,1,0], "pivot": [0,0,0],
-        "fov": 40}, "models": [{"file": "a"}]})");
-}
-
-}  // namespace
-
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
 {
     // Texts of plates are painted, which needs fonts. It ends with the process, as its screens do.
@@ -29,7 +17,10 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
     (void)kApplication;
     osg::osgInit(*argc, *argv);
     osg::getDefaultMaterial();
-    warmUp();
+    // What is made once per process and kept.
+    viewer::test::playFile(
+        R"({"scene": 1, "camera": {"from": [0,0,9], "at": [0,0,0], "up": [0,1,0], "pivot": [0,0,0],
+        "fov": 40}, "models": [{"file": "a"}]})");
     return 0;
 }
 

@@ -22,8 +22,8 @@ namespace {
 /// Puts back what all instances of the classes share.
 void resetClasses()
 {
-    UniversalTransformManipulator2::setLocalSpaceManipulator(false);
-    UniversalTransformManipulator2::setManipulatorSize(32.0F);
+    Transform::setLocalSpaceManipulator(false);
+    Transform::setManipulatorSize(32.0F);
     CameraManipulator::setLocalSpaceManipulator(false);
     CameraManipulator::setManipulatorSize(32.0F);
     PlanarTextureManipulator::createInstance(true);

@@ -6,11 +6,6 @@ namespace nbec::manipulator::test {
 
 namespace {
 
-using Planar = PlanarTextureManipulator;
-using Triplanar = TriplanarTextureManipulator;
-using UV = UVTextureManipulator;
-using Tire = TireProjectionManipulator;
-
 constexpr std::array<void (Planar::*)(), 13> kPlanarCalls = { &Planar::activateTranslateManipulator,
                                                               &Planar::activateRotateManipulator,
                                                               &Planar::activateScaleManipulator,

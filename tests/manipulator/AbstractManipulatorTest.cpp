@@ -12,6 +12,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace nbec::manipulator::test {
 
 namespace {
@@ -32,43 +34,22 @@ public:
 
     void update(bool /*force*/) override { }
 
-    bool startManipulator(ManipulatorInteractionContext* /*ctx*/, const std::string& hint) override
-    {
-        return record("start " + hint);
-    }
+    using Context = ManipulatorInteractionContext*;
+    using Hint = const std::string&;
 
-    bool processManipulator(ManipulatorInteractionContext* /*ctx*/,
-                            const std::string& hint) override
-    {
-        return record("process " + hint);
-    }
+    bool startManipulator(Context, Hint hint) override { return record("start " + hint); }
 
-    bool stopManipulator(ManipulatorInteractionContext* /*ctx*/, const std::string& hint) override
-    {
-        return record("stop " + hint);
-    }
+    bool processManipulator(Context, Hint hint) override { return record("process " + hint); }
 
-    bool hoverManipulator(ManipulatorInteractionContext* /*ctx*/, const std::string& hint) override
-    {
-        return record("hover " + hint);
-    }
+    bool stopManipulator(Context, Hint hint) override { return record("stop " + hint); }
 
-    bool resetManipulator(ManipulatorInteractionContext* /*ctx*/, const std::string& hint) override
-    {
-        return record("reset " + hint);
-    }
+    bool hoverManipulator(Context, Hint hint) override { return record("hover " + hint); }
 
-    bool setManipulatorMode(const std::string& newMode) override
-    {
-        return record("mode " + newMode);
-    }
+    bool resetManipulator(Context, Hint hint) override { return record("reset " + hint); }
 
-    std::vector<std::string> takeCalls()
-    {
-        std::vector<std::string> taken;
-        taken.swap(calls);
-        return taken;
-    }
+    bool setManipulatorMode(Hint newMode) override { return record("mode " + newMode); }
+
+    std::vector<std::string> takeCalls() { return std::exchange(calls, {}); }
 
     bool answer = false;
 
@@ -84,20 +65,13 @@ private:
     std::vector<std::string> calls;
 };
 
-class AbstractManipulatorTest : public testing::Test
-{
-protected:
-    void TearDown() override { nbScenegraph::setPreselectionEnabled(true); }
-
-    osg::RefPtr<osg::NodePtr> root { osg::makeCoredNode<osg::Group>() };
-    osg::RefPtr<osg::NodePtr> otherRoot { osg::makeCoredNode<osg::Group>() };
-    RecordingManipulator manipulator;
-};
-
 }  // namespace
 
-TEST_F(AbstractManipulatorTest, AnActiveVisualisationFollowsItsRoot)
+TEST(AbstractManipulator, AnActiveVisualisationFollowsItsRoot)
 {
+    const osg::NodeRefPtr root(osg::makeCoredNode<osg::Group>());
+    const osg::NodeRefPtr otherRoot(osg::makeCoredNode<osg::Group>());
+    RecordingManipulator manipulator;
     manipulator.setVisualisationRoot(root.get());
     manipulator.activate(nullptr);
     const osg::NodePtr sibling = osg::makeCoredNode<osg::Group>();
@@ -122,9 +96,10 @@ TEST_F(AbstractManipulatorTest, AnActiveVisualisationFollowsItsRoot)
     EXPECT_EQ(root->getNChildren(), 1U) << "an inactive manipulator only stores the root";
 }
 
-TEST_F(AbstractManipulatorTest, PreselectionThatSomebodyElseSwitchedOffStaysOff)
+TEST(AbstractManipulator, PreselectionThatSomebodyElseSwitchedOffStaysOff)
 {
     nbScenegraph::setPreselectionEnabled(false);
+    RecordingManipulator manipulator;
 
     manipulator.answer = true;
     manipulator.hover(nullptr, "select");
@@ -135,6 +110,7 @@ TEST_F(AbstractManipulatorTest, PreselectionThatSomebodyElseSwitchedOffStaysOff)
     manipulator.deactivate(nullptr);
 
     EXPECT_FALSE(nbScenegraph::isPreselectionEnabled());
+    nbScenegraph::setPreselectionEnabled(true);
 }
 
 namespace {

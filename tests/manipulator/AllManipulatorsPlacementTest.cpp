@@ -12,8 +12,7 @@
 namespace nbec::manipulator::test {
 
 template <class Gizmo>
-class Copied : public AnyManipulator<Gizmo>
-{ };
+using Copied = AnyManipulator<Gizmo>;
 
 TYPED_TEST_SUITE(Copied, KindsToCopy, );
 
@@ -27,7 +26,7 @@ TYPED_TEST(Gizmos, AnUpdateAfterNoChangeEditsNothingAndFollowsWhatMoved)
 
     if (!std::is_same_v<TypeParam, Plate>) {
         const Pnt3f before = this->place();
-        this->moveTarget(1);
+        nbtest::edited(transformOf(this->stage.firstNode()))->setTranslation(Vec3f(1, 0, 0));
         this->gizmo->update(false);
         EXPECT_NEAR(this->place().x(), before.x() + 1, 0.02F);
     }
@@ -146,8 +145,7 @@ TYPED_TEST(Gizmos, OfSeveralInstancesTheRestIsPlacedWhenOneIsGone)
 }
 
 template <class Gizmo>
-class Shared : public AnyManipulator<Gizmo>
-{ };
+using Shared = AnyManipulator<Gizmo>;
 
 using KindsWithAnInstance = testing::Types<Planar, Triplanar, Tire>;
 TYPED_TEST_SUITE(Shared, KindsWithAnInstance, );
@@ -183,8 +181,7 @@ TYPED_TEST(Shared, TheSharedInstanceTakesANewSizeAtOnce)
 }
 
 template <class Gizmo>
-class Constructed : public testing::Test
-{ };
+using Constructed = testing::Test;
 
 using All = testing::Types<CameraManipulator, Transform, Planar, Triplanar, UV, Tire, Plate, Match>;
 TYPED_TEST_SUITE(Constructed, All, );
@@ -207,8 +204,7 @@ TYPED_TEST(Constructed, TheyAreManipulatorsAndDestroyedTheyAreCalledByNobody)
 }
 
 template <class Gizmo>
-class ManipulatorsWithModes : public testing::Test
-{ };
+using ManipulatorsWithModes = testing::Test;
 
 using WithModes = testing::Types<CameraManipulator, Transform, Plate>;
 TYPED_TEST_SUITE(ManipulatorsWithModes, WithModes, );

@@ -15,8 +15,7 @@
 namespace nbec::manipulator::test {
 
 template <class Gizmo>
-class Pausing : public AnyManipulator<Gizmo>
-{ };
+using Pausing = AnyManipulator<Gizmo>;
 
 TYPED_TEST_SUITE(Pausing, KindsThatPause, );
 

@@ -50,27 +50,23 @@ using Tire = TireScene;
 class Panel : public nbStateChunkBase
 {
 public:
-    bool hasComponent(const std::string& component) const override
+    using Name = const std::string&;
+
+    bool hasComponent(Name component) const override
     {
         return component == "torn" ? throw component : component == "mine";
     }
 
-    Vec2f getTriplanarOffset(const std::string& /*component*/, osg::UInt32 axis) const override
+    Vec2f getTriplanarOffset(Name, osg::UInt32 axis) const override
     {
         return Vec2f(static_cast<float>(axis), 9);
     }
 
-    Vec2f getTriplanarRepeat(const std::string& /*component*/, osg::UInt32 /*axis*/) const override
-    {
-        return Vec2f(0.5F, 4);
-    }
+    Vec2f getTriplanarRepeat(Name, osg::UInt32) const override { return Vec2f(0.5F, 4); }
 
-    Vec2f getOffset(const std::string& /*component*/) const override { return Vec2f(3, 4); }
+    Vec2f getOffset(Name) const override { return Vec2f(3, 4); }
 
-    Vec3f getTireCenter(const std::string& /*component*/) const override
-    {
-        return Vec3f(1, 0.5F, 0);
-    }
+    Vec3f getTireCenter(Name) const override { return Vec3f(1, 0.5F, 0); }
 };
 
 void expectPair(const SentMessage& sent, const std::string& name, const Vec2f& expected,

@@ -56,12 +56,14 @@ protected:
         look(kEyes[0]);
     }
 
-    /// The turn that a world matrix has made since another one; none is scaled.
-    static osg::Quaternion turnBetween(const osg::Matrix& before, const osg::Matrix& after)
+    /// Axis and angle of the turn that the node has made since it had a world matrix.
+    std::pair<Vec3f, float> turnSince(const osg::Matrix& before)
     {
-        osg::Quaternion turn(orthonormalised(after));
+        osg::Quaternion turn(orthonormalised(toWorld()));
         turn.mult(osg::Quaternion(orthonormalised(before)).inverse());
-        return turn;
+        std::pair<Vec3f, float> found;
+        turn.getValueAsAxisRad(found.first, found.second);
+        return found;
     }
 
     DragEvent last;
@@ -101,9 +103,7 @@ TEST_F(FurtherHandles, TheOuterRingTurnsAboutTheViewAxis)
     gizmo->activateRotateManipulator();
     dragFromEverySide("rvShape", [this](const osg::Matrix& before, const Pnt2f& from) {
         const View view;
-        Vec3f axis;
-        float angle = 0.0F;
-        turnBetween(before, toWorld()).getValueAsAxisRad(axis, angle);
+        const auto [axis, angle] = turnSince(before);
         EXPECT_NEAR(std::abs(axis.dot(view.sight())), 1.0F, 2e-3F);
         const Vec2f centre = view.project(Pnt3f(column(before, 3)));
         const auto angleOf = [&](const Pnt2f& px) {
@@ -115,8 +115,7 @@ TEST_F(FurtherHandles, TheOuterRingTurnsAboutTheViewAxis)
         EXPECT_NEAR(std::remainder(turned - swept, 6.2831853F), 0.0F, 0.03F);
         gizmo->typeKey(QLatin1Char('9'));
         gizmo->typeKey(QLatin1Char('0'));
-        turnBetween(before, toWorld()).getValueAsAxisRad(axis, angle);
-        EXPECT_NEAR(angle, 1.5707963F, 1e-3F);
+        EXPECT_NEAR(turnSince(before).second, 1.5707963F, 1e-3F);
     });
 }
 
@@ -126,9 +125,7 @@ TEST_F(FurtherHandles, TheTrackballRollsWithThePointerWhereNothingElseIsHit)
     ASSERT_TRUE(hover("rxShape")) << "over the disc";
     dragFromEverySide("rtShape", [this](const osg::Matrix& before, const Pnt2f&) {
         const View view;
-        Vec3f axis;
-        float angle = 0.0F;
-        turnBetween(before, toWorld()).getValueAsAxisRad(axis, angle);
+        const auto [axis, angle] = turnSince(before);
         // Rolled to the right by 40 and up by 25 pixels.
         Vec3f expected = rotated(view.facing(), Vec3f(-25, 40, 0));
         expected.normalize();
@@ -138,9 +135,9 @@ TEST_F(FurtherHandles, TheTrackballRollsWithThePointerWhereNothingElseIsHit)
         for (const char key : { '0', '\t', '4', '5' }) {
             EXPECT_TRUE(gizmo->typeKey(QLatin1Char(key)));
         }
-        turnBetween(before, toWorld()).getValueAsAxisRad(axis, angle);
-        EXPECT_NEAR(angle, 0.7853982F, 1e-3F);
-        EXPECT_NEAR(axis.dot(rotated(view.facing(), Vec3f(0, 1, 0))), 1.0F, 1e-3F);
+        const auto [typedAxis, typedAngle] = turnSince(before);
+        EXPECT_NEAR(typedAngle, 0.7853982F, 1e-3F);
+        EXPECT_NEAR(typedAxis.dot(rotated(view.facing(), Vec3f(0, 1, 0))), 1.0F, 1e-3F);
     });
     ASSERT_TRUE(press("rtShape"));
     EXPECT_TRUE(gizmo->typeKey(QLatin1Char('y')));

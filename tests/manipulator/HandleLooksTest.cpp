@@ -246,8 +246,7 @@ TYPED_TEST(HandleLooks, TheOverlayAllocatesNothingInAStep)
 }
 
 template <class Gizmo>
-class TurnOverlay : public HandleLooks<Gizmo>
-{ };
+using TurnOverlay = HandleLooks<Gizmo>;
 
 using KindsThatTurn = testing::Types<Transform, Planar, Triplanar, UV>;
 TYPED_TEST_SUITE(TurnOverlay, KindsThatTurn, );

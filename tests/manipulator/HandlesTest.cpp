@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The handles of the gizmos of nodes and textures: names, places, colours, modes, sets, trees.
+#include "tests/fuzz/Equipment.h"
 #include "tests/manipulator/support/TextureScene.h"
 
 #include <nbOpenSGExt/NodeFlags.h>
@@ -12,12 +13,6 @@
 namespace nbec::manipulator::test {
 
 namespace {
-
-using Transform = UniversalTransformManipulator2;
-using Planar = PlanarTextureManipulator;
-using Triplanar = TriplanarTextureManipulator;
-using UV = UVTextureManipulator;
-using Tire = TireProjectionManipulator;
 
 /// A handle, where it is grabbed, and the idle colours of its parts.
 struct HandleRow
@@ -171,12 +166,6 @@ protected:
         return all;
     }
 
-    /// Whether a handle is lit when another is hovered: the box in the middle takes others along.
-    static bool isLitWith(const HandleRow& row, const HandleRow& hovered)
-    {
-        return row.mode == hovered.mode || std::string(row.group) == hovered.name;
-    }
-
     /// Whether it is shown while another is dragged.
     static bool isShownWith(const HandleRow& row, const HandleRow& dragged)
     {
@@ -192,7 +181,9 @@ protected:
 
     void expectColors(const HandleRow& of, const HandleRow* hovered)
     {
-        const bool isLit = hovered != nullptr && isLitWith(of, *hovered);
+        // The box in the middle takes others along.
+        const bool isLit = hovered != nullptr &&
+            (of.mode == hovered->mode || std::string(of.group) == hovered->name);
         EXPECT_EQ(partColors(at.handle(of.name)),
                   isLit ? Names(of.idle.size(), kHighlight) : of.idle)
             << of.name;

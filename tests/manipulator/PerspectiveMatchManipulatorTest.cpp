@@ -154,7 +154,7 @@ TEST_F(PerspectiveMatchManipulatorTest, ARuleOfLinesThatFailsOrEndsTheDragDoesNo
     }
 }
 
-TEST_F(PerspectiveMatchManipulatorTest, ThePointerIsCountedFromTheLowestRow)
+TEST_F(PerspectiveMatchManipulatorTest, ThePointerIsCountedFromTheLowestRowInLogicalPixels)
 {
     // In a view of odd height the line lies exactly in its lowest row.
     scene.widget.resize(801, 601);
@@ -163,6 +163,9 @@ TEST_F(PerspectiveMatchManipulatorTest, ThePointerIsCountedFromTheLowestRow)
     EXPECT_TRUE(isHighlighted(gizmo, 6, 2));
     EXPECT_TRUE(scene.send("hover", osg::Pnt2f(100, 590))) << "9.5 px above the end";
     EXPECT_FALSE(scene.send("hover", osg::Pnt2f(100, 589))) << "11 px above the end";
+    scene.picker.setPixelRatio(2.0F);
+    EXPECT_TRUE(scene.send("hover", osg::Pnt2f(100, 589))) << "5.5 logical ones";
+    scene.picker.setPixelRatio(1.0F);
     EXPECT_FALSE(scene.send("hover", osg::Pnt2f(100, 0))) << "the top row is the other edge";
 
     ASSERT_TRUE(scene.send("hover", osg::Pnt2f(100, 600)));
@@ -316,14 +319,6 @@ TEST_F(PerspectiveMatchManipulatorTest, TheMagnifierShowsExactlyWhileAnEndIsHeld
         EXPECT_FALSE(nbMagnifierRenderer::isVisible()) << isDeleted;
         scene.context.setManipulator(nullptr);
     }
-}
-
-TEST_F(PerspectiveMatchManipulatorTest, ThePickerTellsTheSizeOfALogicalPixel)
-{
-    const osg::Pnt2f beside = scene.pixelOf(match().getXLine1().p1()) - osg::Vec2f(16, 0);
-    EXPECT_FALSE(scene.send("hover", beside));
-    scene.picker.setPixelRatio(2.0F);
-    EXPECT_TRUE(scene.send("hover", beside));
 }
 
 // == What is drawn

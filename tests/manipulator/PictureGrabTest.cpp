@@ -236,8 +236,7 @@ TYPED_TEST(PictureGrab, ThePictureTurnsAndGrowsAboutTheTexel)
 }
 
 template <class Gizmo>
-class PivotAtHandles : public PictureGrab<Gizmo>
-{ };
+using PivotAtHandles = PictureGrab<Gizmo>;
 
 using TurningKinds = testing::Types<TriplanarTextureManipulator, UVTextureManipulator>;
 TYPED_TEST_SUITE(PivotAtHandles, TurningKinds, );

@@ -48,14 +48,6 @@ void enlarged(PlanarScene& planar)
     planar.edit(planar.core(), [](const auto& node) { node->setScale(Vec3f(2, 2, 2)); });
 }
 
-/// A ring's drag in a plane that faces the viewer: angle on screen between the two pixels.
-float screenAngle(const Pnt2f& center, const Pnt2f& from, const Pnt2f& to)
-{
-    const Vec2f a = from - center;
-    const Vec2f b = to - center;
-    return std::atan2(-(a.x() * b.y() - a.y() * b.x()), a.dot(b));
-}
-
 }  // namespace
 
 TEST(PlanarTextureManipulatorDrag, TranslationsSendOffsetAndVectorSinceTheStart)
@@ -185,15 +177,15 @@ TEST(PlanarTextureManipulatorDrag, RotateSendsTheNegatedAngleSinceTheStart)
         arrange(planar);
         planar.gizmo.activateRotateManipulator();
         ASSERT_TRUE(planar.grab("rotateShape", Vec3f(0.6F, 0.8F, 0)));
-        const Pnt2f center = planar.rayPixelOf(Pnt3f(0, 0, 0));
-        const Pnt2f from = planar.pressed;
+        const Vec2f from = planar.pressed - planar.rayPixelOf(Pnt3f(0, 0, 0));
         // A whole turn in steps: totals, within half a turn either way.
         for (const Vec2f& offset : { Vec2f(-20, -5), Vec2f(-60, 30), Vec2f(-90, 30), Vec2f(-70, 60),
                                      Vec2f(-20, 90), Vec2f(10, 5), Vec2f(0, 0) }) {
             EXPECT_TRUE(planar.stepTo(offset));
             EXPECT_EQ(planar.last().message.names(), Names { "rotate" });
+            const Vec2f to = from + offset;
             EXPECT_NEAR(attribute<float>(planar.last(), "rotate"),
-                        -screenAngle(center, from, from + offset), 1e-3F)
+                        std::atan2(from.x() * to.y() - from.y() * to.x(), from.dot(to)), 1e-3F)
                 << offset.x() << ' ' << offset.y();
         }
     }
@@ -319,7 +311,6 @@ TEST(PlanarTextureManipulatorDrag, TextSaysTheObjectsValuesExceptForZ)
         node->setRotation(Vec3f(0, 0, 10));
         node->setScale(Vec3f(1, 2, 1));
     });
-    auto* const manager = notification::NotificationManager::getInstance();
 
     for (const auto& [handle, grab, text] : rows) {
         const std::string name = handle;
@@ -329,7 +320,8 @@ TEST(PlanarTextureManipulatorDrag, TextSaysTheObjectsValuesExceptForZ)
         EXPECT_EQ(HandleScene::texts(), *text != '\0' ? Names { text } : Names());
         EXPECT_TRUE(planar.release());
     }
-    EXPECT_NE(manager->getNotifier("textureTransformInfo"), nullptr);
+    EXPECT_NE(notification::NotificationManager::getInstance()->getNotifier("textureTransformInfo"),
+              nullptr);
 }
 
 }  // namespace nbec::manipulator::test

@@ -12,7 +12,7 @@ TEST(PlatePicture, HandlesHaveTheirColoursAndADarkEdgeBehindThem)
 {
     PlateScene scene(400, 300);
     // Lines run along the middles of pixels.
-    scene.manipulator.setNodes({ scene.addPlate({ 200, 160, 201, 101 }) });
+    scene.gizmo.setNodes({ scene.addPlate({ 200, 160, 201, 101 }) });
     nbOffscreenView view;
     ASSERT_TRUE(view.open()) << view.getError();
     const auto draw = [&] { return view.render(scene.widget.getViewport(), 400, 300); };

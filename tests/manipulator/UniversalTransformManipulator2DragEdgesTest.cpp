@@ -9,7 +9,6 @@
 #include <nbOpenSGUtils/nbNodePermission.h>
 #include <nbTransform/nbTransformModel.h>
 
-#include <OpenSG/OSGGroup.h>
 #include <OpenSG/OSGSimpleGeometry.h>
 
 #include <gmock/gmock.h>
@@ -74,37 +73,26 @@ TEST(DragSteps, AnArrowThatPointsAtTheEyeMovesNothing)
 
 // == Refusals
 
-TEST(DragRefusals, ALockedNodeIsNeitherConvertedNorMovedAndEveryStepIsLogged)
+TEST(DragRefusals, NodesThatAreLockedOrHangInNoSceneStayAndOnlyTheFormerAreToldOfInEachStep)
 {
-    DragScene drags;
-    setCore(drags.scene.node, osg::Group::create());
-    drags.gizmo.update(true);
-    nbNodePermission::setAllowed(drags.scene.node, kTransformPermission, false);
-    const nbtest::LogLines log;
-    const Pnt2f pixel = drags.rayPixelOf(drags.onGizmo(kArrow));
-    ASSERT_TRUE(drags.scene.send("start", pixel));
-    EXPECT_FALSE(drags.scene.send("process", pixel));
-    EXPECT_FALSE(drags.scene.send("process", pixel + Vec2f(9, 0)));
-    EXPECT_THAT(log.lines,
-                ElementsAre("Selected node cannot be transformed.",
-                            "Selected node cannot be transformed."));
-    EXPECT_EQ(transformOf(drags.scene.node), osg::NullFC);
-}
-
-TEST(DragRefusals, ANodeThatHangsInNoSceneIsNotMovedWhichIsSaidOnce)
-{
-    DragScene drags;
-    const osg::RefPtr<osg::NodePtr> box(osg::makeBox(1, 1, 1, 1, 1, 1));
-    drags.gizmo.setNode(box.get());
-    drags.gizmo.update(true);
-    const nbtest::LogLines log;
-    const Pnt2f pixel = drags.rayPixelOf(drags.onGizmo(kArrow));
-    ASSERT_TRUE(drags.scene.send("start", pixel));
-    EXPECT_FALSE(drags.scene.send("process", pixel));
-    EXPECT_FALSE(drags.scene.send("process", pixel + Vec2f(9, 0)));
-    EXPECT_THAT(log.lines,
-                ElementsAre("UniversalTransformManipulator2: the node is not moved, it hangs in no "
-                            "scene"));
+    for (const bool isLocked : { true, false }) {
+        DragScene drags;
+        const osg::RefPtr<osg::NodePtr> box(osg::makeBox(1, 1, 1, 1, 1, 1));
+        setCore(drags.scene.node, osg::Group::create());
+        nbNodePermission::setAllowed(drags.scene.node, kTransformPermission, false);
+        drags.gizmo.setNode(isLocked ? drags.scene.node : box.get());
+        drags.gizmo.update(true);
+        const nbtest::LogLines log;
+        const Pnt2f pixel = drags.rayPixelOf(drags.onGizmo(kArrow));
+        ASSERT_TRUE(drags.scene.send("start", pixel));
+        EXPECT_FALSE(drags.scene.send("process", pixel));
+        EXPECT_FALSE(drags.scene.send("process", pixel + Vec2f(9, 0)));
+        EXPECT_EQ(log.lines,
+                  isLocked ? Names(2, "Selected node cannot be transformed.")
+                           : Names { "UniversalTransformManipulator2: the node is not moved, it "
+                                     "hangs in no scene" });
+        EXPECT_EQ(transformOf(drags.scene.node), osg::NullFC) << "nor is it converted";
+    }
 }
 
 TEST(DragRefusals, OfSeveralNodesTheLockedOnesAreNeitherMovedNorConverted)
@@ -120,8 +108,7 @@ TEST(DragRefusals, OfSeveralNodesTheLockedOnesAreNeitherMovedNorConverted)
         }
         drags.gizmo.setNode(drags.scene.node, { locked, free });
         const nbtest::LogLines log;
-        ASSERT_TRUE(drags.grab(kArrow));
-        EXPECT_TRUE(drags.dragBy(Vec2f(72, 0)));
+        ASSERT_TRUE(drags.drag(kArrow, Vec2f(72, 0)));
         EXPECT_TRUE(drags.release());
         EXPECT_NEAR(translationOf(free).x(), 3.0F + kStep, 2e-4F);
         EXPECT_EQ(transformOf(drags.scene.node), osg::NullFC);
@@ -138,13 +125,9 @@ TEST(DragConversion, AGroupBecomesATransformWithItsPivotsAtTheObjectsCentre)
     const osg::NodePtr node = drags.scene.node;
     setCore(node, osg::Group::create());
     const osg::NodePtr holder = osg::makeCoredNode<osg::Transform3D>();
-    const auto place = transformOf(holder);
-    nbtest::edited(place)->setTranslation(Vec3f(1, 0.5F, 0));
+    nbtest::edited(transformOf(holder))->setTranslation(Vec3f(1, 0.5F, 0));
     const osg::RefPtr<osg::NodePtr> box(node->getChild(0));
-    osg::beginEditCP(node, osg::Node::ChildrenFieldMask);
-    node->subChild(box.get());
-    node->addChild(holder);
-    osg::endEditCP(node, osg::Node::ChildrenFieldMask);
+    nbtest::edited(node, osg::Node::ChildrenFieldMask)->replaceChild(0, holder);
     holder->addChild(box.get());
     drags.activate(Mode::Rotate);
     EXPECT_LT((drags.onGizmo(Vec3f(0, 0, 0)) - Pnt3f(1, 0.5F, 0)).length(), 1e-5F);
@@ -180,8 +163,7 @@ TEST(SeveralNodes, ADestroyedOneIsPassedOverAndTheRestGoesOn)
     drags.gizmo.setNode(drags.scene.node, { gone, stays });
     for (const Mode mode : { Mode::Translate, Mode::Scale, Mode::RotatePivot }) {
         drags.activate(mode);
-        ASSERT_TRUE(drags.grab(mode == Mode::Scale ? Vec3f(1.5F, 0, 0) : kArrow));
-        EXPECT_TRUE(drags.dragBy(Vec2f(36, 0)));
+        ASSERT_TRUE(drags.drag(mode == Mode::Scale ? Vec3f(1.5F, 0, 0) : kArrow, Vec2f(36, 0)));
         if (mode == Mode::Translate) {
             destroy(gone);
         }
@@ -250,8 +232,7 @@ TEST(BrokenDrags, ANodeTakenOutOfTheSceneStays)
 {
     DragScene drags;
     const osg::RefPtr<osg::NodePtr> kept(drags.scene.node);
-    ASSERT_TRUE(drags.grab(kArrow));
-    EXPECT_TRUE(drags.dragBy(Vec2f(10, 0)));
+    ASSERT_TRUE(drags.drag(kArrow, Vec2f(10, 0)));
     destroy(drags.scene.node);
     const Vec3f before = drags.core()->getTranslation();
     EXPECT_FALSE(drags.dragBy(Vec2f(20, 0)));
@@ -263,8 +244,7 @@ TEST(BrokenDrags, ASelectionOrModeChangedMeanwhileIsHarmless)
 {
     DragScene drags;
     const osg::NodePtr other = drags.addFurther(Vec3f(3, 0, 0));
-    ASSERT_TRUE(drags.grab(kArrow));
-    EXPECT_TRUE(drags.dragBy(Vec2f(20, 0)));
+    ASSERT_TRUE(drags.drag(kArrow, Vec2f(20, 0)));
     drags.gizmo.setNode(drags.scene.node, { other });
     drags.dragBy(Vec2f(30, 0));
     EXPECT_LT((translationOf(other) - Vec3f(3, 0, 0)).length(), 1.0F)
@@ -293,8 +273,7 @@ TEST(DragUndo, ConversionAloneIsNoStepAndJoinsTheNextOne)
     const osg::Matrix before = drags.scene.node->getToWorld();
     nbUndoService* const undo = nbUndoService::the();
 
-    ASSERT_TRUE(drags.grab(kArrow));
-    EXPECT_TRUE(drags.dragBy(Vec2f(40, 0)));
+    ASSERT_TRUE(drags.drag(kArrow, Vec2f(40, 0)));
     EXPECT_GT(greatestDifference(drags.scene.node->getToWorld(), before), 0.1F);
     EXPECT_TRUE(drags.dragBy(Vec2f(0, 0)));
     EXPECT_TRUE(drags.release());
@@ -302,8 +281,7 @@ TEST(DragUndo, ConversionAloneIsNoStepAndJoinsTheNextOne)
     EXPECT_EQ(drags.scene.node->getToWorld(), before);
     EXPECT_NE(drags.core(), osg::NullFC) << "the node stays converted";
 
-    ASSERT_TRUE(drags.grab(kArrow));
-    EXPECT_TRUE(drags.dragBy(Vec2f(40, 0)));
+    ASSERT_TRUE(drags.drag(kArrow, Vec2f(40, 0)));
     EXPECT_TRUE(drags.release());
     const osg::Matrix after = drags.scene.node->getToWorld();
     EXPECT_TRUE(undo->undo());
@@ -321,8 +299,7 @@ TEST(DragUndo, OfAPivotTakesTheGizmoBackWithIt)
     drags.activate(Mode::RotatePivot);
     for (const Vec3f& handle : { kArrow, kRing }) {
         const Pnt3f before = drags.onGizmo(handle);
-        ASSERT_TRUE(drags.grab(handle));
-        EXPECT_TRUE(drags.dragBy(Vec2f(-40, -20)));
+        ASSERT_TRUE(drags.drag(handle, Vec2f(-40, -20)));
         EXPECT_TRUE(drags.release());
         EXPECT_GT((drags.onGizmo(handle) - before).length(), 0.1F);
         EXPECT_TRUE(nbUndoService::the()->undo());

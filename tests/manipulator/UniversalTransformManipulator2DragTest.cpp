@@ -46,75 +46,65 @@ struct DragRow
     Vec3f scale;
 };
 
-void PrintTo(const DragRow& row, std::ostream* out)
-{
-    *out << row.name;
-}
-
-class DragRows : public testing::TestWithParam<DragRow>
-{ };
-
 const Vec3f kNone(0, 0, 0);
 const Vec3f kOne(1, 1, 1);
 const Vec3f kTwo(2, 2, 2);
 const Vec3f kQuarterTurn(0, 0, 90);
 
+// clang-format off
+const DragRow kDragRows[] = {
+    // Rings, from the point at 45 degrees on screen, 73 or 75 pixels from the centre, to the one above or beside the centre.
+    { "z", Mode::Rotate, Camera::Front, kPerspective, kWorld, Setting::Plain, { kDiagonal, kDiagonal, 0 }, { -51, -22 }, kNone, { 0, 0, 45 }, kOne },
+    { "x", Mode::Rotate, Camera::Side, kPerspective, kWorld, Setting::Plain, { 0, kDiagonal, -kDiagonal }, { -51, -22 }, kNone, { 45, 0, 0 }, kOne },
+    { "y", Mode::Universal, Camera::Top, kPerspective, kWorld, Setting::Plain, { kDiagonal, 0, -kDiagonal }, { -51, -22 }, kNone, { 0, 45, 0 }, kOne },
+    { "z orthographic, turned node", Mode::TranslateRotate, Camera::Front, kOrthographic, kWorld, Setting::TurnedNode, { kDiagonal, kDiagonal, 0 }, { -53, -22 }, kNone, { 0, 0, 135 }, kTwo },
+    { "y orthographic, local, turned node", Mode::Rotate, Camera::Side, kOrthographic, kLocal, Setting::TurnedNode, { kDiagonal, 0, -kDiagonal }, { 22, 53 }, kNone, { 0, 45, 90 }, kTwo },
+    { "x local, turned parent", Mode::Rotate, Camera::Top, kPerspective, kLocal, Setting::TurnedParent, { 0, -kDiagonal, -kDiagonal }, { 22, 51 }, kNone, { -45, 0, 0 }, kOne },
+    { "x world, turned parent", Mode::TranslateRotateScale, Camera::Side, kPerspective, kWorld, Setting::TurnedParent, { 0, kDiagonal, -kDiagonal }, { -51, -22 }, kNone, { 0, -45, 0 }, kOne },
+    { "z below a mirrored parent, 45 in the world", Mode::Rotate, Camera::Front, kPerspective, kWorld, Setting::MirroredParent, { kDiagonal, kDiagonal, 0 }, { -51, -22 }, kNone, { 0, 0, -45 }, kOne },
+    { "z world, turned parent", Mode::TranslateRotateYZ, Camera::Front, kPerspective, kWorld, Setting::TurnedParent, { kDiagonal, kDiagonal, 0 }, { -51, -22 }, kNone, { 0, 0, 45 }, kOne },
+    // Scale handles: a box is 73 or 75 pixels from the centre; 97 or 100 pixels are two gizmo units.
+    { "x", Mode::Scale, Camera::Front, kPerspective, kWorld, Setting::Plain, { 1.5F, 0, 0 }, { 73, 20 }, kNone, kNone, { 2, 1, 1 } },
+    { "y", Mode::Scale, Camera::Front, kPerspective, kWorld, Setting::Plain, { 0, 1.5F, 0 }, { 20, -73 }, kNone, kNone, { 1, 2, 1 } },
+    { "z", Mode::Scale, Camera::Side, kPerspective, kWorld, Setting::Plain, { 0, 0, 1.5F }, { -73, 4 }, kNone, kNone, { 1, 1, 2 } },
+    { "x orthographic, turned node", Mode::Scale, Camera::Front, kOrthographic, kWorld, Setting::TurnedNode, { 1.5F, 0, 0 }, { 0, -75 }, kNone, kQuarterTurn, { 4, 2, 2 } },
+    { "z orthographic, turned parent", Mode::Scale, Camera::Top, kOrthographic, kLocal, Setting::TurnedParent, { 0, 0, 1.5F }, { 0, 150 }, kNone, kNone, { 1, 1, 3 } },
+    { "x to the far side", Mode::Scale, Camera::Front, kPerspective, kWorld, Setting::Plain, { 1.5F, 0, 0 }, { -160, 0 }, kNone, kNone, { 0.01F, 1, 1 } },
+    { "uniform up", Mode::Scale, Camera::Oblique, kPerspective, kWorld, Setting::Plain, kNone, { 30, -97 }, kNone, kNone, { 1.2F, 1.2F, 1.2F } },
+    { "uniform down", Mode::Scale, Camera::Oblique, kOrthographic, kWorld, Setting::TurnedNode, kNone, { 30, 100 }, kNone, kQuarterTurn, { 1.6F, 1.6F, 1.6F } },
+    { "uniform to its least", Mode::Scale, Camera::Oblique, kOrthographic, kWorld, Setting::TurnedParent, kNone, { 0, 600 }, kNone, kNone, { 0.1F, 0.1F, 0.1F } },
+};
+// clang-format on
+
 }  // namespace
 
-TEST_P(DragRows, EndsWhereItWasWorkedOut)
+TEST(Drags, EndWhereItWasWorkedOut)
 {
-    const DragRow& row = GetParam();
-    DragScene drags;
-    UniversalTransformManipulator2::setLocalSpaceManipulator(row.local);
-    const auto turnAndScale = [](const osg::Transform3DPtr& transform) {
-        transform->setRotation(kQuarterTurn);
-        transform->setScale(kTwo);
-    };
-    if (row.setting == Setting::TurnedNode) {
-        drags.edit(drags.core(), turnAndScale);
-    } else if (row.setting == Setting::TurnedParent) {
-        drags.edit(drags.parentCore(), turnAndScale);
-    } else if (row.setting == Setting::MirroredParent) {
-        drags.edit(drags.parentCore(), [](const auto& of) { of->setScale(Vec3f(-1, 1, 1)); });
+    for (const DragRow& row : kDragRows) {
+        SCOPED_TRACE(row.name);
+        DragScene drags;
+        UniversalTransformManipulator2::setLocalSpaceManipulator(row.local);
+        const auto turnAndScale = [](const osg::Transform3DPtr& transform) {
+            transform->setRotation(kQuarterTurn);
+            transform->setScale(kTwo);
+        };
+        if (row.setting == Setting::TurnedNode) {
+            drags.edit(drags.core(), turnAndScale);
+        } else if (row.setting == Setting::TurnedParent) {
+            drags.edit(drags.parentCore(), turnAndScale);
+        } else if (row.setting == Setting::MirroredParent) {
+            drags.edit(drags.parentCore(), [](const auto& of) { of->setScale(Vec3f(-1, 1, 1)); });
+        }
+        drags.activate(row.mode);
+        drags.look(row.camera, row.orthographic);
+
+        ASSERT_TRUE(drags.drag(row.grab, row.offsetPx));
+        EXPECT_TRUE(drags.release());
+        expectNear(drags.core()->getTranslation(), row.translation, "translation");
+        expectNear(drags.core()->getRotation(), row.rotation, "rotation", 0.01F);
+        expectNear(drags.core()->getScale(), row.scale, "scale", 2e-3F);
     }
-    drags.activate(row.mode);
-    drags.look(row.camera, row.orthographic);
-
-    ASSERT_TRUE(drags.grab(row.grab));
-    EXPECT_TRUE(drags.dragBy(row.offsetPx));
-    EXPECT_TRUE(drags.release());
-    expectNear(drags.core()->getTranslation(), row.translation, "translation");
-    expectNear(drags.core()->getRotation(), row.rotation, "rotation", 0.01F);
-    expectNear(drags.core()->getScale(), row.scale, "scale", 2e-3F);
 }
-
-// clang-format off
-// From the point at 45 degrees on screen, 73 or 75 pixels from the centre, to the one above or beside
-// the centre.
-INSTANTIATE_TEST_SUITE_P(Rings, DragRows, testing::Values(
-    DragRow { "z", Mode::Rotate, Camera::Front, kPerspective, kWorld, Setting::Plain, { kDiagonal, kDiagonal, 0 }, { -51, -22 }, kNone, { 0, 0, 45 }, kOne },
-    DragRow { "x", Mode::Rotate, Camera::Side, kPerspective, kWorld, Setting::Plain, { 0, kDiagonal, -kDiagonal }, { -51, -22 }, kNone, { 45, 0, 0 }, kOne },
-    DragRow { "y", Mode::Universal, Camera::Top, kPerspective, kWorld, Setting::Plain, { kDiagonal, 0, -kDiagonal }, { -51, -22 }, kNone, { 0, 45, 0 }, kOne },
-    DragRow { "z orthographic, turned node", Mode::TranslateRotate, Camera::Front, kOrthographic, kWorld, Setting::TurnedNode, { kDiagonal, kDiagonal, 0 }, { -53, -22 }, kNone, { 0, 0, 135 }, kTwo },
-    DragRow { "y orthographic, local, turned node", Mode::Rotate, Camera::Side, kOrthographic, kLocal, Setting::TurnedNode, { kDiagonal, 0, -kDiagonal }, { 22, 53 }, kNone, { 0, 45, 90 }, kTwo },
-    DragRow { "x local, turned parent", Mode::Rotate, Camera::Top, kPerspective, kLocal, Setting::TurnedParent, { 0, -kDiagonal, -kDiagonal }, { 22, 51 }, kNone, { -45, 0, 0 }, kOne },
-    DragRow { "x world, turned parent", Mode::TranslateRotateScale, Camera::Side, kPerspective, kWorld, Setting::TurnedParent, { 0, kDiagonal, -kDiagonal }, { -51, -22 }, kNone, { 0, -45, 0 }, kOne },
-    DragRow { "z below a mirrored parent, 45 in the world", Mode::Rotate, Camera::Front, kPerspective, kWorld, Setting::MirroredParent, { kDiagonal, kDiagonal, 0 }, { -51, -22 }, kNone, { 0, 0, -45 }, kOne },
-    DragRow { "z world, turned parent", Mode::TranslateRotateYZ, Camera::Front, kPerspective, kWorld, Setting::TurnedParent, { kDiagonal, kDiagonal, 0 }, { -51, -22 }, kNone, { 0, 0, 45 }, kOne }));
-
-// A box is 73 or 75 pixels from the centre; 97 or 100 pixels are two gizmo units.
-INSTANTIATE_TEST_SUITE_P(ScaleHandles, DragRows, testing::Values(
-    DragRow { "x", Mode::Scale, Camera::Front, kPerspective, kWorld, Setting::Plain, { 1.5F, 0, 0 }, { 73, 20 }, kNone, kNone, { 2, 1, 1 } },
-    DragRow { "y", Mode::Scale, Camera::Front, kPerspective, kWorld, Setting::Plain, { 0, 1.5F, 0 }, { 20, -73 }, kNone, kNone, { 1, 2, 1 } },
-    DragRow { "z", Mode::Scale, Camera::Side, kPerspective, kWorld, Setting::Plain, { 0, 0, 1.5F }, { -73, 4 }, kNone, kNone, { 1, 1, 2 } },
-    DragRow { "x orthographic, turned node", Mode::Scale, Camera::Front, kOrthographic, kWorld, Setting::TurnedNode, { 1.5F, 0, 0 }, { 0, -75 }, kNone, kQuarterTurn, { 4, 2, 2 } },
-    DragRow { "z orthographic, turned parent", Mode::Scale, Camera::Top, kOrthographic, kLocal, Setting::TurnedParent, { 0, 0, 1.5F }, { 0, 150 }, kNone, kNone, { 1, 1, 3 } },
-    DragRow { "x to the far side", Mode::Scale, Camera::Front, kPerspective, kWorld, Setting::Plain, { 1.5F, 0, 0 }, { -160, 0 }, kNone, kNone, { 0.01F, 1, 1 } },
-    DragRow { "uniform up", Mode::Scale, Camera::Oblique, kPerspective, kWorld, Setting::Plain, kNone, { 30, -97 }, kNone, kNone, { 1.2F, 1.2F, 1.2F } },
-    DragRow { "uniform down", Mode::Scale, Camera::Oblique, kOrthographic, kWorld, Setting::TurnedNode, kNone, { 30, 100 }, kNone, kQuarterTurn, { 1.6F, 1.6F, 1.6F } },
-    DragRow { "uniform to its least", Mode::Scale, Camera::Oblique, kOrthographic, kWorld, Setting::TurnedParent, kNone, { 0, 600 }, kNone, kNone, { 0.1F, 0.1F, 0.1F } }));
-
-// clang-format on
 
 TEST(Drags, UniformFactorGrowsUpTheScreenWhereZIsUp)
 {
@@ -124,8 +114,7 @@ TEST(Drags, UniformFactorGrowsUpTheScreenWhereZIsUp)
     nbtest::edited(camera)->setZUp(true);
     camera->setFromAtUp(Pnt3f(0, -10, 0), Pnt3f(0, 0, 0), Vec3f(0, 0, 1));
     UniversalTransformManipulator2::updateAllManipulators();
-    ASSERT_TRUE(drags.grab(kNone));
-    EXPECT_TRUE(drags.dragBy(Vec2f(0, -97)));
+    ASSERT_TRUE(drags.drag(kNone, Vec2f(0, -97)));
     expectNear(drags.core()->getScale(), Vec3f(1.2F, 1.2F, 1.2F), "scale", 2e-3F);
 }
 
@@ -145,18 +134,15 @@ TEST(Drags, TinyScenesAreDraggedAsLargeOnes)
                        });
             const float unit = isParentTiny ? 1.0F : kTiny;
             drags.activate(Mode::Universal);
-            ASSERT_TRUE(drags.grab(kArrow));
-            EXPECT_TRUE(drags.dragBy(Vec2f(72, 0)));
+            ASSERT_TRUE(drags.drag(kArrow, Vec2f(72, 0)));
             EXPECT_NEAR(drags.core()->getTranslation().x() / unit, kStep, 2e-3F);
             EXPECT_TRUE(drags.dragBy(Vec2f()));
             EXPECT_TRUE(drags.release());
-            ASSERT_TRUE(drags.grab(kRing));
-            EXPECT_TRUE(drags.dragBy(Vec2f(-51, -22)));
+            ASSERT_TRUE(drags.drag(kRing, Vec2f(-51, -22)));
             EXPECT_NEAR(drags.core()->getRotation().z(), 45, 0.1F);
             EXPECT_TRUE(drags.dragBy(Vec2f()));
             EXPECT_TRUE(drags.release());
-            ASSERT_TRUE(drags.grab(kScaleHandle));
-            EXPECT_TRUE(drags.dragBy(Vec2f(73, 0)));
+            ASSERT_TRUE(drags.drag(kScaleHandle, Vec2f(73, 0)));
             EXPECT_NEAR(drags.core()->getScale().x() / unit, 2, 0.01F);
         }
     }
@@ -223,8 +209,7 @@ TEST(Drags, AClipPlaneIsMovedByItsTransformNode)
     nbtest::edited(plane)->setTransformNode(drags.scene.node);
     drags.gizmo.setNode(cut);
     drags.activate(Mode::Clipping);
-    ASSERT_TRUE(drags.grab(Vec3f(1.9F, 0, 0)));
-    EXPECT_TRUE(drags.dragBy(Vec2f(72, 0)));
+    ASSERT_TRUE(drags.drag(Vec3f(1.9F, 0, 0), Vec2f(72, 0)));
     expectNear(drags.core()->getTranslation(), Vec3f(kStep, 0, 0), "translation");
 }
 
@@ -248,8 +233,7 @@ TEST(PivotDrags, MoveThePivotAndLeaveTheObject)
             drags.gizmo.enableSnapping(true);  // pivots never snap
             const osg::Matrix before = drags.scene.node->getToWorld();
             // The gizmo's x axis is the world's, or the node's: 90 degrees further on screen.
-            ASSERT_TRUE(drags.grab(Vec3f(1.9F, 0, 0)));
-            EXPECT_TRUE(drags.dragBy(local ? Vec2f(0, -36) : Vec2f(36, 0)));
+            ASSERT_TRUE(drags.drag(Vec3f(1.9F, 0, 0), local ? Vec2f(0, -36) : Vec2f(36, 0)));
             EXPECT_TRUE(drags.release());
             EXPECT_LT(greatestDifference(before, drags.scene.node->getToWorld()), 1e-5F);
             const Pnt3f expected = local ? Pnt3f(0, kStep / 2, 0) : Pnt3f(kStep / 2, 0, 0);
@@ -276,8 +260,7 @@ TEST(PivotDrags, TurnThePivotAndLeaveTheObject)
         });
         drags.activate(Mode::RotatePivot);
         const osg::Matrix before = drags.scene.node->getToWorld();
-        ASSERT_TRUE(drags.grab(Vec3f(kDiagonal, kDiagonal, 0)));
-        EXPECT_TRUE(drags.dragBy(Vec2f(-51, -22)));
+        ASSERT_TRUE(drags.drag(Vec3f(kDiagonal, kDiagonal, 0), Vec2f(-51, -22)));
         EXPECT_TRUE(drags.release());
         EXPECT_LT(greatestDifference(before, drags.scene.node->getToWorld()), 1e-5F);
         expectNear(drags.core()->getRotation(), Vec3f(0, 0, 65), "pivot", 0.01F);
@@ -298,8 +281,7 @@ TEST(PivotDrags, AnglesGoOnFromWhereTheyWere)
             });
             drags.activate(mode);
             drags.look(Camera::Top, false);
-            ASSERT_TRUE(drags.grab(Vec3f(kDiagonal, 0, kDiagonal)));
-            EXPECT_TRUE(drags.dragBy(Vec2f(22, -51)));
+            ASSERT_TRUE(drags.drag(Vec3f(kDiagonal, 0, kDiagonal), Vec2f(22, -51)));
             if (mode == Mode::Rotate) {
                 EXPECT_EQ(HandleScene::texts(), Names { "Rotation (0.00, 125.00, 0.00)" });
             }
@@ -386,8 +368,7 @@ TEST(SnappingDrags, TranslationsAndScalesEndOnMultiples)
     DragScene drags;
     drags.activate(Mode::Universal);
     drags.gizmo.setManipulatorMode("precisionTool");
-    ASSERT_TRUE(drags.grab(Vec3f(1.9F, 0, 0)));
-    EXPECT_TRUE(drags.dragBy(Vec2f(36, 0)));
+    ASSERT_TRUE(drags.drag(Vec3f(1.9F, 0, 0), Vec2f(36, 0)));
     EXPECT_EQ(drags.core()->getTranslation(), kNone);  // 0.497 units
     EXPECT_TRUE(drags.dragBy(Vec2f(37, 0)));
     expectNear(drags.core()->getTranslation(), Vec3f(1, 0, 0), "just past the half", 1e-6F);
@@ -398,8 +379,7 @@ TEST(SnappingDrags, TranslationsAndScalesEndOnMultiples)
 
     drags.gizmo.setManipulatorMode("tool");
     drags.gizmo.enableSnapping(true);
-    ASSERT_TRUE(drags.grab(Vec3f(1.5F, 0, 0)));
-    EXPECT_TRUE(drags.dragBy(Vec2f(20, 0)));  // factor 93 / 73 = 1.274
+    ASSERT_TRUE(drags.drag(Vec3f(1.5F, 0, 0), Vec2f(20, 0)));  // factor 93 / 73 = 1.274
     expectNear(drags.core()->getScale(), Vec3f(1.3F, 1, 1), "scale", 1e-6F);
     EXPECT_TRUE(drags.dragBy(Vec2f(-71, 0)));  // 2 / 73 = 0.027
     expectNear(drags.core()->getScale(), Vec3f(0, 1, 1), "scale", 1e-6F);

@@ -54,8 +54,7 @@ TEST(GizmoFrames, ArrowsRingsAndPivotsFollowTheChosenAxes)
             const auto read = mode == Mode::Translate ? &nbTransformModel::getTranslation
                                                       : &nbTransformModel::getRotationPivot;
             const Vec3f before = read(drags.scene.node, true);
-            ASSERT_TRUE(drags.grab(kArrow));
-            EXPECT_TRUE(drags.dragBy(Vec2f(60, 25)));
+            ASSERT_TRUE(drags.drag(kArrow, Vec2f(60, 25)));
             EXPECT_TRUE(drags.release());
             const Vec3f moved = read(drags.scene.node, true) - before;
             EXPECT_GT(moved.length(), 0.1F);
@@ -121,27 +120,23 @@ TEST(GizmoFrames, NodesTurnAndScaleAboutTheChosenPoint)
             expectNear(transformOf(nodes[1])->getTranslation(), Vec3f(3, 2, 0), "taken back", 0.0F);
         };
         drags.activate(Mode::Rotate);
-        ASSERT_TRUE(drags.grab(kRing));
-        EXPECT_TRUE(drags.dragBy(Vec2f(-51, -22)));
+        ASSERT_TRUE(drags.drag(kRing, Vec2f(-51, -22)));
         const float turnDeg = drags.core()->getRotation().z();
         EXPECT_GT(turnDeg, 30.0F);
         check(turnDeg, Vec3f(1, 1, 1));
         drags.activate(Mode::Scale);
         drags.gizmo.enableSnapping(true);
-        ASSERT_TRUE(drags.grab(kScaleHandle));
-        EXPECT_TRUE(drags.dragBy(Vec2f(75, 0)));
+        ASSERT_TRUE(drags.drag(kScaleHandle, Vec2f(75, 0)));
         expectNear(drags.core()->getScale(), Vec3f(2, 1, 1), "scale", kTolerance);
         check(0.0F, Vec3f(2, 1, 1));
         drags.look(Camera::Oblique, true);
-        ASSERT_TRUE(drags.grab(Vec3f()));
-        EXPECT_TRUE(drags.dragBy(Vec2f(0, -100)));
+        ASSERT_TRUE(drags.drag(Vec3f(), Vec2f(0, -100)));
         expectNear(drags.core()->getScale(), Vec3f(1.2F, 1.2F, 1.2F), "scale", kTolerance);
         check(0.0F, Vec3f(1.2F, 1.2F, 1.2F));
 
         drags.look(Camera::Front, true);
         drags.activate(Mode::Translate);  // the gizmo goes along
-        ASSERT_TRUE(drags.grab(kArrow));
-        EXPECT_TRUE(drags.dragBy(Vec2f(150, 0)));
+        ASSERT_TRUE(drags.drag(kArrow, Vec2f(150, 0)));
         const Vec3f moved = drags.core()->getTranslation();
         EXPECT_GT(moved.x(), 0.5F);
         expectNear(drags.onGizmo(Vec3f()).subZero(), row.point + moved, "the gizmo", kTolerance);
@@ -204,13 +199,11 @@ TEST_F(Snapping, AbsoluteGridTakesEachAxisOfAPlaneByItself)
             core->setTranslation(Vec3f(0.3F, 0.2F, 0.1F));
             core->setRotation(Vec3f(0, 0, 90));
         });
-        ASSERT_TRUE(drags.grab(kPlaneXY));
-        EXPECT_TRUE(drags.dragBy(Vec2f(70, -130)));
+        ASSERT_TRUE(drags.drag(kPlaneXY, Vec2f(70, -130)));
         EXPECT_TRUE(drags.release());
         expectNear(place(), Vec3f(1, 2, 0.1F), "translation", kTolerance);
         const Vec3f before = place();
-        ASSERT_TRUE(drags.grab(kArrow));
-        EXPECT_TRUE(drags.dragBy(Vec2f(-180, 40)));
+        ASSERT_TRUE(drags.drag(kArrow, Vec2f(-180, 40)));
         EXPECT_TRUE(drags.gizmo.cancelDrag());
         expectNear(place(), before, "taken back", 0.0F);
     }

@@ -62,8 +62,7 @@ TEST(UniversalTransformManipulator2, TargetsBelowOthersAndTwiceNamedOnesAreLeftO
     addChild(beside, below);
     drags.gizmo.setNode(drags.scene.node,
                         { beside, beside, osg::NodePtr(), drags.scene.node, below, drags.parent });
-    ASSERT_TRUE(drags.grab(kArrow));
-    EXPECT_TRUE(drags.dragBy(Vec2f(72, 0)));
+    ASSERT_TRUE(drags.drag(kArrow, Vec2f(72, 0)));
     EXPECT_NEAR(transformOf(beside)->getTranslation().x(), 3 + kStep, 2e-4F);
     EXPECT_EQ(transformOf(below)->getTranslation(), Vec3f(0, 3, 0));
     EXPECT_EQ(drags.parentCore()->getTranslation(), Vec3f());
@@ -98,12 +97,11 @@ protected:
         holder->addChild(below);
         const auto change = [](const osg::NodePtr& node, const Vec3f& scale) {
             const auto core = transformOf(node);
-            osg::beginEditCP(core);
+            const nbEdit edit(core, osg::FieldBits::AllFields);
             core->setRotation(Vec3f(10, 20, 30));
             core->setScale(scale);
             core->setRotatePivot(Vec3f(0.5F, 0.25F, 0));
             core->setScalePivot(Vec3f(-0.5F, 0, 0.75F));
-            osg::endEditCP(core);
         };
         change(turned, Vec3f(1, 2, 1));
         change(holder, Vec3f(2, 1, 1));
@@ -151,7 +149,7 @@ protected:
 
 }  // namespace
 
-TEST_F(Marks, StandAtThePivotsAfterEveryStep)
+TEST_F(Marks, StandAtThePivotsAfterEveryStepAndGrowWithTheCamerasDistance)
 {
     const std::pair<Mode, Vec3f> rows[] = { { Mode::Translate, kArrow },
                                             { Mode::Rotate, kRing },
@@ -174,17 +172,11 @@ TEST_F(Marks, StandAtThePivotsAfterEveryStep)
             expectMarksAtPivots(scalePivot);
         }
     }
-}
-
-TEST_F(Marks, GrowWithTheCamerasDistanceAndFollowANodeThatMovesMeanwhile)
-{
-    const osg::UberCameraPtr camera = drags.scene.widget.getUberCamera();
-    for (int i = 1; i < 6; ++i) {
-        camera->setFromAtUp(Pnt3f(0, 0, 10.0F + static_cast<float>(i)), Pnt3f(0, 0, 0),
-                            Vec3f(0, 1, 0));
-        if (i == 3) {
-            nbtest::edited(transformOf(turned))->setTranslation(Vec3f(3, 0, 1));
-        }
+    drags.activate(Mode::Translate);
+    for (float distance = 11; distance < 16; ++distance) {
+        drags.scene.lookFrom(Pnt3f(0, 0, distance));
+        // One of them moves meanwhile.
+        nbtest::edited(transformOf(turned))->setTranslation(Vec3f(3, 0, distance < 13 ? 0 : 1));
         Gizmo::updateAllManipulators();
         expectMarksAtPivots(false);
     }

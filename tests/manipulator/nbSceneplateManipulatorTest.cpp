@@ -43,7 +43,7 @@ protected:
     osg::NodePtr select(const platetest::PlatePx& place)
     {
         const osg::NodePtr node = scene.addPlate(place);
-        scene.manipulator.setNodes({ node });
+        scene.gizmo.setNodes({ node });
         return node;
     }
 
@@ -76,7 +76,7 @@ TEST_F(SceneplateManipulatorTest, HandlesStandAtTheFrameForEveryCameraAndViewSiz
                                 osg::Vec3f(0, 0, 1));
             camera->setOrthographic(isOrthographic);
             select({ 150, 200, 160, 100 });
-            scene.manipulator.update(false);
+            scene.gizmo.update(false);
 
             expectHandleAt("grid", 150, 200);
             expectHandleAt("scaleXYLLShape", 70, 250);
@@ -107,7 +107,7 @@ TEST_F(SceneplateManipulatorTest, HandlesAreHitByTheirNames)
     };
     for (const auto& [name, from, mode] : rows) {
         const bool isHit = scene.send("hover", scene.handlePx(name) + from);
-        EXPECT_EQ(scene.manipulator.getActiveMode(), mode) << name;
+        EXPECT_EQ(scene.gizmo.getActiveMode(), mode) << name;
         EXPECT_EQ(isHit, mode != Mode::None);
         EXPECT_EQ(nbScenegraph::isPreselectionEnabled(), !isHit);
     }
@@ -132,8 +132,8 @@ TEST_F(SceneplateManipulatorTest, TurningSendsTheAngleCounterClockwiseBeyondAWho
 TEST_F(SceneplateManipulatorTest, SnappingShowsGuidesWhileItHolds)
 {
     select({ 300, 200, 100, 60 });
-    scene.manipulator.enableSnapping(true);
-    const osg::NodePtr tree = findNode(scene.manipulator.getVisualisation(), "grid")->getParent();
+    scene.gizmo.enableSnapping(true);
+    const osg::NodePtr tree = findNode(scene.gizmo.getVisualisation(), "grid")->getParent();
     const osg::NodePtr vertical = tree->getChild(tree->getNChildren() - 2);
     const osg::NodePtr horizontal = tree->getChild(tree->getNChildren() - 1);
 
@@ -197,9 +197,9 @@ TEST_F(SceneplateManipulatorTest, ADragWhoseViewIsResizedOrWhichGetsOtherPlatesS
             select({ 100, 100, 50, 50 });
         }
 
-        EXPECT_FALSE(scene.manipulator.processManipulator(&scene.context, "select"));
+        EXPECT_FALSE(scene.gizmo.processManipulator(&scene.context, "select"));
         EXPECT_EQ(messages.takeNames(), Names());
-        EXPECT_TRUE(scene.manipulator.stopManipulator(&scene.context, "select"));
+        EXPECT_TRUE(scene.gizmo.stopManipulator(&scene.context, "select"));
         EXPECT_EQ(messages.takeNames(), kResume);
         scene.manager.endDrag();
         EXPECT_TRUE(scene.isHandleShown("grid"));
@@ -210,16 +210,15 @@ TEST_F(SceneplateManipulatorTest, OfSeveralPlatesTheRestGoesOn)
 {
     const osg::NodePtr first = scene.addPlate({ 300, 300, 100, 100 });
     const osg::NodePtr second = scene.addPlate({ 500, 300, 100, 100 });
-    scene.manipulator.setNodes(
-        { first, osg::NodePtr(), nbScenegraph::getRootNode(), second, first });
-    EXPECT_THAT(scene.manipulator.getNodes(), ElementsAre(first, second));
+    scene.gizmo.setNodes({ first, osg::NodePtr(), nbScenegraph::getRootNode(), second, first });
+    EXPECT_THAT(scene.gizmo.getNodes(), ElementsAre(first, second));
 
     scene.drag(osg::Pnt2f(400, 300), osg::Vec2f(10, 0), false);
     nbScenegraph::getSceneplateRoot()->subChild(first);
     EXPECT_TRUE(scene.send("process", osg::Pnt2f(430, 300)));
     EXPECT_FLOAT_EQ(last.offset.x(), 30.0F / 600);
     EXPECT_TRUE(scene.send("stop", osg::Pnt2f(430, 300)));
-    EXPECT_THAT(scene.manipulator.getNodes(), ElementsAre(second));
+    EXPECT_THAT(scene.gizmo.getNodes(), ElementsAre(second));
     expectHandleAt("grid", 500, 300);
 }
 
@@ -227,7 +226,7 @@ TEST_F(SceneplateManipulatorTest, AReceiverMayTakeItOutOfUse)
 {
     select({ 400, 300, 200, 100 });
     nbController::addReceiver("sceneplateChanged",
-                              [this](nbMessage&) { scene.manipulator.deactivate(nullptr); });
+                              [this](nbMessage&) { scene.gizmo.deactivate(nullptr); });
     EXPECT_FALSE(scene.drag(osg::Pnt2f(400, 300), osg::Vec2f(4, 0), false));
 }
 
@@ -238,7 +237,7 @@ TEST_F(SceneplateManipulatorTest, ShowsTheValuesOfTheDrag)
     EXPECT_EQ(HandleScene::texts(), Names { "Translation (12.00, 3.00)" });
     scene.send("stop", osg::Pnt2f(412, 297));
     EXPECT_EQ(HandleScene::texts(), Names());
-    scene.manipulator.setDescriptionEnabled(false);
+    scene.gizmo.setDescriptionEnabled(false);
     scene.drag(osg::Pnt2f(400, 300), osg::Vec2f(12, -3), false);
     EXPECT_EQ(HandleScene::texts(), Names());
 }
@@ -246,14 +245,7 @@ TEST_F(SceneplateManipulatorTest, ShowsTheValuesOfTheDrag)
 /// How far a grabbed point may be from the pointer, pixels: plates are drawn on whole pixels.
 constexpr float kDrawnTolerancePx = 0.6F;
 
-struct View
-{
-    const char* name;
-    int widthPx;
-    int heightPx;
-};
-
-class SceneplateDragTest : public testing::TestWithParam<View>
+class SceneplateDragTest : public testing::TestWithParam<std::pair<int, int>>
 {
 protected:
     SceneplateDragTest() { nbUndoService::the()->clear(); }
@@ -263,7 +255,7 @@ protected:
     void select(const std::vector<osg::NodePtr>& nodes)
     {
         module.select(nodes, "select");
-        scene.manipulator.setNodes(module.getSelection());
+        scene.gizmo.setNodes(module.getSelection());
     }
 
     void expectNear(const osg::Pnt2f& px, const osg::Pnt2f& expected, const char* what) const
@@ -276,10 +268,10 @@ protected:
     {
         scene.send("stop", scene.widget.getMousePosition());
         nbUndoService::the()->endGroup();
-        scene.manipulator.update(false);
+        scene.gizmo.update(false);
     }
 
-    PlateScene scene { GetParam().widthPx, GetParam().heightPx };
+    PlateScene scene { GetParam().first, GetParam().second };
     nbSceneplateModule module;
 };
 
@@ -290,7 +282,7 @@ TEST_P(SceneplateDragTest, BoxesFollowAndTheOppositeOneStays)
         { "scaleXYURShape", 1, 1 },   { "scaleXLShape", -1, 0 },   { "scaleYUShape", 0, 1 },
         { "scaleYLShape", 0, -1 },    { "scaleXRShape", 1, 0 },
     };
-    scene.manipulator.setSideHandles([&](const osg::Vec2f& factors, const osg::Vec2f& offset) {
+    scene.gizmo.setSideHandles([&](const osg::Vec2f& factors, const osg::Vec2f& offset) {
         nbSceneplateChange change;
         change.sizeFactors = factors;
         change.offset = offset;
@@ -322,7 +314,7 @@ TEST_P(SceneplateDragTest, BoxesFollowAndTheOppositeOneStays)
                                                   scene.widget.getHeight()),
                        osg::Pnt2f(200, 150), "centre");
             scene.manager.selectMode("tool");
-            scene.manipulator.cancelDrag();
+            scene.gizmo.cancelDrag();
             expectNear(exactCorner(node, scene.widget, alongX, alongY), corner, "taken back");
             release();
             nbScenegraph::getSceneplateRoot()->subChild(node);
@@ -334,7 +326,7 @@ TEST_P(SceneplateDragTest, SeveralPlatesAreOneBodyDuringTheDrag)
 {
     const osg::NodePtr left = scene.addPlate({ 120, 150, 60, 60 });
     const osg::NodePtr right = scene.addPlate({ 280, 150, 60, 60, 45 });
-    scene.manipulator.setSideHandles([](const auto&, const auto&) {});
+    scene.gizmo.setSideHandles([](const auto&, const auto&) {});
     select({ left, right });
     const osg::Pnt2f centre = scene.handlePx("grid");
     const osg::Vec2f arm = scene.handlePx("rotateShape") - centre;
@@ -360,9 +352,8 @@ TEST_P(SceneplateDragTest, SeveralPlatesAreOneBodyDuringTheDrag)
 }
 
 INSTANTIATE_TEST_SUITE_P(Views, SceneplateDragTest,
-                         testing::Values(View { "wide", 800, 600 }, View { "small", 400, 300 },
-                                         View { "high", 401, 1023 }),
-                         [](const testing::TestParamInfo<View>& row) { return row.param.name; });
+                         testing::Values(std::pair(800, 600), std::pair(400, 300),
+                                         std::pair(401, 1023)));
 
 }  // namespace
 }  // namespace nbec::manipulator::test

@@ -16,13 +16,6 @@
 namespace nbec::manipulator::test {
 
 using Fault = Stage::Fault;
-using Transform = UniversalTransformManipulator2;
-using Planar = PlanarTextureManipulator;
-using Triplanar = TriplanarTextureManipulator;
-using UV = UVTextureManipulator;
-using Tire = TireProjectionManipulator;
-using Plate = nbSceneplateManipulator;
-using Match = PerspectiveMatchManipulator;
 
 /// When a drag pauses the material's preview.
 enum class Pause
@@ -252,11 +245,6 @@ protected:
         nbtest::edited(camera)->setOrthographic(isOrthographic);
     }
 
-    void moveTarget(float x)
-    {
-        nbtest::edited(transformOf(stage.firstNode()))->setTranslation(Vec3f(x, 0, 0));
-    }
-
     static std::size_t textCount()
     {
         return notification::NotificationManager::getInstance()->getTextCount();
@@ -296,14 +284,12 @@ using AllKinds = testing::Types<Transform, Planar, Triplanar, UV, Tire, Plate, M
 using KindsWithHandles = testing::Types<Transform, Planar, Triplanar, UV, Tire, Plate>;
 
 template <class Gizmo>
-class Manipulators : public AnyManipulator<Gizmo>
-{ };
+using Manipulators = AnyManipulator<Gizmo>;
 
 TYPED_TEST_SUITE(Manipulators, AllKinds, );
 
 template <class Gizmo>
-class Gizmos : public AnyManipulator<Gizmo>
-{ };
+using Gizmos = AnyManipulator<Gizmo>;
 
 TYPED_TEST_SUITE(Gizmos, KindsWithHandles, );
 

@@ -5,8 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <ostream>
-
 // What tests of handles share: names, sizes in the view of GizmoScene, and comparisons.
 namespace nbec::manipulator::test {
 

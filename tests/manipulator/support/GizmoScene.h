@@ -46,6 +46,13 @@ public:
     osg::NodePtr node;  ///< a 2 x 2 x 2 box with a Transform3D above it, at the origin
 };
 
+/// For scenes whose manipulator has to outlive them.
+template <class Gizmo>
+struct Owned
+{
+    Gizmo gizmo;
+};
+
 void addChild(const osg::NodePtr& above, const osg::NodePtr& child);
 
 /// The Transform3D of a node; null if it has none.

@@ -118,13 +118,6 @@ public:
     osg::Vec2f reached;  ///< offset of the last step
 };
 
-/// For scenes whose manipulator has to outlive them.
-template <class Gizmo>
-struct Owned
-{
-    Gizmo gizmo;
-};
-
 // Where handles of a transform gizmo are grabbed, in its units.
 inline constexpr float kDiagonal = 1.5F * 0.70710678F;  ///< both coordinates of a ring's point
 inline const Vec3f kArrow(1.9F, 0, 0);
@@ -146,6 +139,12 @@ public:
     /// Presses on a point of the gizmo and sends the first step, which prepares. @return whether
     /// both were handled
     bool grab(const osg::Vec3f& unit);
+
+    /// Grabs a point of the gizmo and goes by an offset from there, without letting go.
+    bool drag(const osg::Vec3f& unit, const osg::Vec2f& offsetPx)
+    {
+        return grab(unit) && dragBy(offsetPx);
+    }
 
     /// A further 2 x 2 x 2 box with a Transform3D, below the scene's root.
     osg::NodePtr addFurther(const osg::Vec3f& translation);

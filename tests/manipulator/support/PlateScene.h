@@ -11,20 +11,14 @@
 
 namespace nbec::manipulator::test {
 
-/// For scenes whose manipulator has to outlive them.
-struct PlateOwner
-{
-    nbSceneplateManipulator manipulator;
-};
-
 /// A view in which a scene-plate manipulator is dragged by its handles.
-class PlateScene : public PlateOwner, public GizmoScene
+class PlateScene : public Owned<nbSceneplateManipulator>, public GizmoScene
 {
 public:
     PlateScene(int widthPx, int heightPx)
     {
         widget.resize(widthPx, heightPx);
-        install(manipulator);
+        install(gizmo);
     }
 
     /// Adds a plate, see platetest::PlatePx; the manipulator is not told.
@@ -41,14 +35,14 @@ public:
     osg::Pnt2f handlePx(const std::string& name)
     {
         osg::Pnt3f origin;
-        findNode(manipulator.getVisualisation(), name)->getToWorld().multMatrixPnt(origin);
+        findNode(gizmo.getVisualisation(), name)->getToWorld().multMatrixPnt(origin);
         return pixelOf(origin);
     }
 
     /// Whether it is shown.
     bool isHandleShown(const std::string& name)
     {
-        const osg::NodePtr handle = findNode(manipulator.getVisualisation(), name);
+        const osg::NodePtr handle = findNode(gizmo.getVisualisation(), name);
         return handle != osg::NullFC && isShown(handle);
     }
 
