@@ -180,16 +180,10 @@ TEST_F(PickerScene, RaysThatAreNotFiniteOrComeFromTooFarHitNothing)
     }
     ASSERT_NE(pickAt(400.0f, 300.0f), osg::NullFC);
     const osg::UberCameraPtr camera = widget.getUberCamera();
-    {
-        const nbEdit edit(camera, osg::FieldBits::AllFields);
-        camera->setNear(1e19f);
-        camera->setFar(1e20f);
-    }
-    EXPECT_EQ(pickAt(400.0f, 300.0f), osg::NullFC);
-    {
-        const nbEdit edit(camera, osg::FieldBits::AllFields);
-        camera->setNear(1.0f);
-        camera->setFar(100.0f);
+    for (const float nearest : { 1e19f, 1.0f }) {
+        nbtest::edited(camera)->setNear(nearest);
+        nbtest::edited(camera)->setFar(nearest * 100.0f);
+        EXPECT_EQ(pickAt(400.0f, 300.0f) == osg::NullFC, nearest > 1e18f);
     }
     // The world's ray is as usual, that in the frame of a sphere pressed flat is not.
     camera->setFromAtUp({ 10.0f, 0.0f, 0.0f }, {}, { 0.0f, 1.0f, 0.0f });

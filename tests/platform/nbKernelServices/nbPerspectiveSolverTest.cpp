@@ -59,13 +59,6 @@ TEST(nbPerspectiveSolver, GivesTheCameraOfExactLinesBack)
     }
 }
 
-QLineF moved(const QLineF& line, int coordinate, double way)
-{
-    double values[] = { line.x1(), line.y1(), line.x2(), line.y2() };
-    values[coordinate] += way;
-    return QLineF(values[0], values[1], values[2], values[3]);
-}
-
 TEST(nbPerspectiveSolver, ErrorsAreAsLargeAsTheQualitySays)
 {
     for (const TypeRow& row : kTypeRows) {
@@ -98,7 +91,7 @@ TEST(nbPerspectiveSolver, ErrorsAreAsLargeAsTheQualitySays)
 TEST(nbPerspectiveSolver, QualityNamesTheLineThatIsOffAndTheAxisThatSaysLittle)
 {
     PerspectiveProblem problem = threeQuarterProblem();
-    problem.lines[3] = moved(problem.lines[3], 1, 0.01);
+    problem.lines[3].setP1(problem.lines[3].p1() + QPointF(0.0, 0.01));
     const PerspectiveQuality off =
         nbPerspectiveSolver::judge(problem, nbPerspectiveSolver::solve(problem), kHalfPixel);
     EXPECT_EQ(std::max_element(off.residuals.begin(), off.residuals.end()), &off.residuals[3]);

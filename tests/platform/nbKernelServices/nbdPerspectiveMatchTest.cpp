@@ -7,7 +7,6 @@
 #include <nbKernelServices/nbScopedUndo.h>
 #include <nbKernelServices/nbUndoService.h>
 #include <nbKernelServices/nbdCameraNode.h>
-#include <nbOpenSGUberCamera/nbCameraUtils.h>
 
 #include <OpenSG/OSGGroup.h>
 #include <OpenSG/OSGNodePtr.h>

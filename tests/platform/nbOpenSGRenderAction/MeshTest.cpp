@@ -11,29 +11,6 @@
 using nbrender::buildMesh;
 using nbrender::Mesh;
 
-namespace {
-
-/// Triangles over four points (i, i * i, 0), without indices and normals.
-osg::GeometryPtr parabola(osg::UInt32 corners)
-{
-    const osg::GeometryPtr geometry = osg::Geometry::create();
-    const osg::GeoPositions3fPtr positions = osg::GeoPositions3f::create();
-    const osg::GeoPTypesUI8Ptr types = osg::GeoPTypesUI8::create();
-    const osg::GeoPLengthsUI32Ptr lengths = osg::GeoPLengthsUI32::create();
-    for (osg::UInt32 i = 0; i < 4; ++i) {
-        const auto x = static_cast<float>(i);
-        positions->addValue(osg::Pnt3f(x, x * x, 0.f));
-    }
-    types->addValue(GL_TRIANGLES);
-    lengths->addValue(corners);
-    geometry->setPositions(positions);
-    geometry->setTypes(types);
-    geometry->setLengths(lengths);
-    return geometry;
-}
-
-}  // namespace
-
 TEST(nbMesh, CornersWithTheSameSourcesShareAVertex)
 {
     const osg::GeometryRefPtr box(osg::makeBoxGeo(1.f, 1.f, 1.f, 1, 1, 1));
@@ -41,7 +18,18 @@ TEST(nbMesh, CornersWithTheSameSourcesShareAVertex)
     EXPECT_EQ(buildMesh(box).triangles.size(), 36u);
 
     // A square of two triangles; the last corner has a normal of its own.
-    const osg::GeometryRefPtr geometry(parabola(6));
+    const osg::GeometryRefPtr geometry(osg::Geometry::create());
+    const osg::GeoPositions3fPtr positions = osg::GeoPositions3f::create();
+    const osg::GeoPTypesUI8Ptr types = osg::GeoPTypesUI8::create();
+    const osg::GeoPLengthsUI32Ptr lengths = osg::GeoPLengthsUI32::create();
+    for (const float x : { 0.f, 1.f, 2.f, 3.f }) {
+        positions->addValue(osg::Pnt3f(x, x * x, 0.f));
+    }
+    types->addValue(GL_TRIANGLES);
+    lengths->addValue(6);
+    geometry->setPositions(positions);
+    geometry->setTypes(types);
+    geometry->setLengths(lengths);
     const osg::GeoNormals3fPtr normals = osg::GeoNormals3f::create();
     normals->addValue(osg::Vec3f(0.f, 0.f, 1.f));
     normals->addValue(osg::Vec3f(1.f, 0.f, 0.f));

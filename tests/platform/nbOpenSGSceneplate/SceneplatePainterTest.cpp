@@ -29,11 +29,6 @@ int count(const QImage& picture, const QColor& color)
     return found;
 }
 
-void setImage(const osg::SceneplatePtr& plate, const QImage& picture)
-{
-    plate->setImage(nbImageConvert::toImage(picture));
-}
-
 }  // namespace
 
 class nbSceneplatePainterTest : public RenderTest
@@ -74,7 +69,7 @@ TEST_F(nbSceneplatePainterTest, AlphaAndOpacityMixWithWhatIsBehind)
     half.fill(QColor(255, 0, 0, 128));
     const auto transparent = [&](float opacity) {
         return makePlate({ 100.f, 100.f, 40.f, 40.f }, kSize, kRed4, [&](const auto& plate) {
-            setImage(plate, half);
+            plate->setImage(nbImageConvert::toImage(half));
             plate->setOpacity(opacity);
         });
     };
@@ -141,9 +136,7 @@ TEST_F(nbSceneplatePainterTest, ThePickerHitsExactlyWhatIsDrawn)
     const auto add = [](const PlatePx& place, const QImage& picture) {
         nbScenegraph::getSceneplateRoot()->addChild(
             makePlate(place, kSize, kRed4, [&](const auto& plate) {
-                if (!picture.isNull()) {
-                    setImage(plate, picture);
-                }
+                plate->setImage(nbImageConvert::toImage(picture));
             }));
     };
     add({ 60.f, 60.f, 90.f, 37.f, 17.f }, QImage());

@@ -13,7 +13,6 @@
 
 #include <OpenSG/OSGBlendChunk.h>
 #include <OpenSG/OSGComponentTransform.h>
-#include <OpenSG/OSGDepthChunk.h>
 #include <OpenSG/OSGGroup.h>
 #include <OpenSG/OSGImage.h>
 #include <OpenSG/OSGLineChunk.h>
@@ -22,7 +21,6 @@
 #include <OpenSG/OSGSimpleGeometry.h>
 #include <OpenSG/OSGSimpleMaterial.h>
 #include <OpenSG/OSGTextureChunk.h>
-#include <OpenSG/OSGTransform.h>
 
 #include <gtest/gtest.h>
 
