@@ -18,6 +18,11 @@ namespace nbec::manipulator::test {
 
 namespace {
 
+using interaction::InteractionEvent;
+using interaction::InteractionManager;
+using interaction::Picker;
+using Calls = std::vector<std::string>;
+
 /// A manipulator with an empty visualisation that writes down which of its operations ran and
 /// answers as told.
 class RecordingManipulator : public NodeManipulator
@@ -49,7 +54,7 @@ public:
 
     bool setManipulatorMode(Hint newMode) override { return record("mode " + newMode); }
 
-    std::vector<std::string> takeCalls() { return std::exchange(calls, {}); }
+    Calls takeCalls() { return std::exchange(calls, {}); }
 
     bool answer = false;
 
@@ -62,7 +67,7 @@ private:
 
     osg::RefPtr<osg::NodePtr> visualisation;
     osg::RefPtr<osg::NodePtr> collider;
-    std::vector<std::string> calls;
+    Calls calls;
 };
 
 }  // namespace
@@ -112,15 +117,6 @@ TEST(AbstractManipulator, PreselectionThatSomebodyElseSwitchedOffStaysOff)
     EXPECT_FALSE(nbScenegraph::isPreselectionEnabled());
     nbScenegraph::setPreselectionEnabled(true);
 }
-
-namespace {
-
-using interaction::InteractionEvent;
-using interaction::InteractionManager;
-using interaction::Picker;
-using Calls = std::vector<std::string>;
-
-}  // namespace
 
 TEST(ManipulatorInteractionContext, EventsReachTheManipulatorAsRouted)
 {

@@ -2,6 +2,7 @@
 #include "manipulator/CameraManipulator.h"
 
 #include "tests/manipulator/support/GizmoScene.h"
+#include "tests/platform/support/Edited.h"
 
 #include <nbKernel/nbScenegraph.h>
 
@@ -26,10 +27,8 @@ protected:
     {
         const osg::UberCameraPtr camera = scene.widget.getUberCamera();
         scene.lookFrom(osg::Pnt3f(0, 0, distance));
-        osg::beginEditCP(camera);
-        camera->setFov(fovDeg);
-        camera->setPivot(osg::Pnt3f(0, 0, 0));
-        osg::endEditCP(camera);
+        nbtest::edited(camera)->setFov(fovDeg);
+        nbtest::edited(camera)->setPivot(osg::Pnt3f(0, 0, 0));
     }
 
     CameraManipulator cross;  // outlives the scene, which deactivates it
@@ -65,10 +64,8 @@ TEST_F(CameraManipulatorTest, StandsAtThePivotInConstantSize)
     EXPECT_NEAR(placement()->getScale().z(), 0.5F, 1e-6F);
 
     const osg::UberCameraPtr camera = scene.widget.getUberCamera();
-    osg::beginEditCP(camera);
-    camera->setOrthographic(true);
-    camera->setPivot(osg::Pnt3f(1, 2, 3));
-    osg::endEditCP(camera);
+    nbtest::edited(camera)->setOrthographic(true);
+    nbtest::edited(camera)->setPivot(osg::Pnt3f(1, 2, 3));
     CameraManipulator::updateAllManipulators();
     EXPECT_NEAR(placement()->getScale().x(), camera->getNearPlaneDiagonal() / 20, 1e-6F);
     {

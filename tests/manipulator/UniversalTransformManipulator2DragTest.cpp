@@ -74,7 +74,16 @@ const DragRow kDragRows[] = {
     { "uniform down", Mode::Scale, Camera::Oblique, kOrthographic, kWorld, Setting::TurnedNode, kNone, { 30, 100 }, kNone, kQuarterTurn, { 1.6F, 1.6F, 1.6F } },
     { "uniform to its least", Mode::Scale, Camera::Oblique, kOrthographic, kWorld, Setting::TurnedParent, kNone, { 0, 600 }, kNone, kNone, { 0.1F, 0.1F, 0.1F } },
 };
+
 // clang-format on
+
+/// Offset by which a ring that was grabbed at 45 degrees is turned: far out on the ray through its
+/// centre, where whole pixels are fine enough.
+Vec2f turnedBy(float degrees)
+{
+    const float angle = (45.0F + degrees) * kRadiansPerDegree;
+    return { 250.0F * std::cos(angle) - 51.0F, 51.0F - 250.0F * std::sin(angle) };
+}
 
 }  // namespace
 
@@ -311,18 +320,6 @@ TEST(Drags, RingsOfAnAxisAlignedNodeTurnAboutItsParentsAxes)
 }
 
 // == Snapping
-
-namespace {
-
-/// Offset by which a ring that was grabbed at 45 degrees is turned: far out on the ray through its
-/// centre, where whole pixels are fine enough.
-Vec2f turnedBy(float degrees)
-{
-    const float angle = (45.0F + degrees) * kRadiansPerDegree;
-    return { 250.0F * std::cos(angle) - 51.0F, 51.0F - 250.0F * std::sin(angle) };
-}
-
-}  // namespace
 
 TEST(SnappingDrags, RotationGathersSmallSteps)
 {

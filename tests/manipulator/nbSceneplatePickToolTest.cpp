@@ -1,21 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/nbSceneplatePickTool.h"
 
+#include "tests/platform/nbInteraction/ToolTest.h"
 #include "tests/platform/support/Plates.h"
 
-#include <nbInteraction/InteractionManager.h>
-#include <nbInteraction/Picker.h>
-#include <nbInteraction/ToolInteractionContext.h>
 #include <nbKernel/nbController.h>
-#include <nbKernel/nbOSGWidget.h>
-#include <nbKernel/nbScenegraph.h>
 
 #include <gmock/gmock.h>
 
 namespace {
 
-using nbec::interaction::InteractionEvent;
-using nbec::interaction::InteractionManager;
 using nbec::interaction::Picker;
 using nbec::interaction::ToolInteractionContext;
 using testing::ElementsAre;
@@ -38,7 +32,7 @@ public:
     using nbSceneplatePickTool::stopPreselection;
 };
 
-class SceneplatePickToolTest : public testing::Test
+class SceneplatePickToolTest : public ToolTest<HostTool>
 {
 protected:
     SceneplatePickToolTest()
@@ -47,9 +41,6 @@ protected:
         left = addPlate({ kLeftPx.x(), kLeftPx.y(), 60, 60 });
         right = addPlate({ kRightPx.x(), kRightPx.y(), 60, 60 });
         picker.setFilter(Picker::SceneplateFilter);
-        context.setPicker(&picker);
-        context.setTool(&tool);
-        manager.addContext(&context);
         nbOSGWidget::setInteractionMode(1);
         nbController::addReceiver("sceneplatePreselected", [this](nbMessage& message) {
             osg::NodePtr node;
@@ -72,10 +63,8 @@ protected:
 
     ~SceneplatePickToolTest() override
     {
-        manager.removeContext(&context);
         nbController::clear();
         nbOSGWidget::setInteractionMode(0);
-        nbScenegraph::clear();
     }
 
     static osg::NodePtr addPlate(const platetest::PlatePx& place)
@@ -88,12 +77,10 @@ protected:
 
     bool sendAt(const osg::Pnt2f& px, const std::string& event, const std::string& hint = "select")
     {
-        widget.setMousePosition(px);
-        manager.pointerMoved(px);
         if (event == "start") {
             widget.setPressPosition(px);
         }
-        const bool handled = manager.triggerEvent(InteractionEvent(event, "tool", hint));
+        const bool handled = ToolTest::sendAt(px, event, hint);
         if (event == "stop") {
             widget.clearPressPosition();
         }
@@ -107,13 +94,8 @@ protected:
         return sendAt(to, "process");
     }
 
-    nbOSGWidget widget;
     osg::NodePtr left;
     osg::NodePtr right;
-    Picker picker;
-    HostTool tool;
-    ToolInteractionContext context;
-    InteractionManager manager;
     std::vector<osg::NodePtr> preselected;
     std::vector<osg::NodePtr> selected;
     std::string selectedHint;

@@ -23,11 +23,6 @@ FieldContainerPtr resolve(UInt32 id)
     return FieldContainerFactory::the()->getContainer(id);
 }
 
-void destroy(NodePtr node)
-{
-    subRefCP(node);
-}
-
 }  // namespace
 
 // == Ids
@@ -50,7 +45,7 @@ TEST(IdTable, ResolvesExactlyTheLivingThroughRandomLifeAndDeath)
             const auto victim =
                 std::next(alive.begin(), random() % std::min<std::size_t>(alive.size(), 50));
             dead.push_back(victim->first);
-            destroy(victim->second);
+            subRefCP(victim->second);
             alive.erase(victim);
         }
     }
@@ -61,8 +56,8 @@ TEST(IdTable, ResolvesExactlyTheLivingThroughRandomLifeAndDeath)
     for (const UInt32 id : dead) {
         ASSERT_EQ(resolve(id), NullFC) << id;
     }
-    for (const auto& entry : alive) {
-        destroy(entry.second);
+    for (auto& entry : alive) {
+        subRefCP(entry.second);
     }
     EXPECT_EQ(resolve(lastId), NullFC);
 }
@@ -99,8 +94,8 @@ TEST(FieldContainer, OfADeepTreeAllIsGoneWhenTheRootIs)
     NodePtr copy = deepCloneTree(root);
     EXPECT_EQ(nbtest::ContainerCensus().differenceTo(before), "Node +100002, Transform +100002");
 
-    destroy(root);
-    destroy(copy);
+    subRefCP(root);
+    subRefCP(copy);
 
     EXPECT_EQ(nbtest::ContainerCensus().differenceTo(before), "");
 }

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "modules/textureplacement/TexturePlacementPickTool.h"
 
-#include "tests/platform/nbInteraction/PickerTestSupport.h"
+#include "tests/platform/nbInteraction/ToolTest.h"
 
-#include <nbInteraction/InteractionManager.h>
-#include <nbInteraction/ToolInteractionContext.h>
 #include <nbKernel/nbController.h>
 
 #include <gmock/gmock.h>
@@ -12,7 +10,6 @@
 namespace nbec::modules::textureplacement {
 namespace {
 
-using interaction::InteractionEvent;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -21,7 +18,8 @@ constexpr const char* kPlainText = "Set Texture Center Position";
 
 /// A tool on a context in front of a box of 4 units around the origin; what it sends is written
 /// down as "name" or, for the preview, "name enabled".
-class TexturePlacementPickToolTest : public PickerTest, public nbOSGWidget::Observer
+class TexturePlacementPickToolTest : public ToolTest<TexturePlacementPickTool>,
+                                     public nbOSGWidget::Observer
 {
 protected:
     TexturePlacementPickToolTest()
@@ -43,34 +41,18 @@ protected:
         nbController::addReceiver("updateMatRender",
                                   [this](nbMessage&) { sent.push_back("updateMatRender"); });
         tool.setMessageReceiver("editor");
-        context.setPicker(&picker);
-        context.setTool(&tool);
-        manager.addContext(&context);
     }
 
     ~TexturePlacementPickToolTest() override
     {
-        manager.removeContext(&context);
         widget.setObserver(nullptr);
         nbController::clear();
     }
 
     void antialiasingCancelled() override { throw sent.emplace_back("cancelAntialiasing"); }
 
-    /// An event with the pointer at a pixel; the plane z = 0 has 30 pixels a unit, (400, 300) is
-    /// its origin.
-    bool send(const std::string& event, float x, float y, const std::string& hint = "select")
-    {
-        widget.setMousePosition({ x, y });
-        manager.pointerMoved({ x, y });
-        return manager.triggerEvent(InteractionEvent(event, "tool", hint));
-    }
-
     std::vector<std::string> takeSent() { return std::exchange(sent, {}); }
 
-    interaction::InteractionManager manager;
-    interaction::ToolInteractionContext context;
-    TexturePlacementPickTool tool;
     std::vector<std::string> sent;
     osg::NodePtr hitNode;
     osg::Pnt3f hitPoint;
@@ -79,7 +61,7 @@ protected:
 
 TEST_F(TexturePlacementPickToolTest, APressPlacesAndSoDoesEveryMoveUntilTheRelease)
 {
-    EXPECT_TRUE(send("start", 400.0f, 300.0f));
+    EXPECT_TRUE(sendAt({ 400.0f, 300.0f }, "start"));
 
     EXPECT_THAT(takeSent(), ElementsAre("setMatRenderEnabled false", "editor::placeTexture"));
     EXPECT_EQ("box", nbNodeUtils::getName(hitNode));
@@ -87,11 +69,11 @@ TEST_F(TexturePlacementPickToolTest, APressPlacesAndSoDoesEveryMoveUntilTheRelea
     EXPECT_NEAR(1.0f, hitNormal.z(), kTolerance);
 
     // The front face lies at depth 8: 37.5 pixels a unit; rays go through centres of pixels.
-    EXPECT_TRUE(send("process", 437.0f, 300.0f));
+    EXPECT_TRUE(sendAt({ 437.0f, 300.0f }, "process"));
     EXPECT_NEAR(1.0f, hitPoint.x(), kTolerance);
     EXPECT_THAT(takeSent(), ElementsAre("editor::placeTexture"));
 
-    EXPECT_TRUE(send("stop", 437.0f, 300.0f));
+    EXPECT_TRUE(sendAt({ 437.0f, 300.0f }, "stop"));
     EXPECT_THAT(takeSent(),
                 ElementsAre("cancelAntialiasing", "setMatRenderEnabled true", "updateMatRender"));
 
@@ -105,13 +87,13 @@ TEST_F(TexturePlacementPickToolTest, APressBesideEveryObjectSendsANullNode)
 {
     hitNode = nbScenegraph::getRootNode();
 
-    EXPECT_TRUE(send("start", 10.0f, 10.0f));
+    EXPECT_TRUE(sendAt({ 10.0f, 10.0f }, "start"));
 
     EXPECT_THAT(sent, ElementsAre("setMatRenderEnabled false", "editor::placeTexture"));
     EXPECT_EQ(osg::NullFC, hitNode);
     EXPECT_EQ(kPlainText, tool.getDescription());
     tool.setMessageReceiver("");
-    send("process", 10.0f, 10.0f);
+    sendAt({ 10.0f, 10.0f }, "process");
     EXPECT_EQ(1U, nbController::getLostCalls()["::placeTexture"]) << "the bare suffix";
 }
 
@@ -150,19 +132,19 @@ TEST_F(TexturePlacementPickToolTest, DescriptionShowsTheHitUnlessThatIsSwitchedO
     EXPECT_EQ(kPlainText, tool.getDescription());
     picker.pickAt({ 400.0f, 300.0f });
     const osg::Pnt3f point = picker.getHitPoint();
-    send("start", 400.0f, 300.0f);
+    sendAt({ 400.0f, 300.0f }, "start");
     std::ostringstream expected;
     expected << "Position: [" << point.x() << ", " << point.y() << ", " << point.z()
              << "] Direction: [0, 0, 1]";
     EXPECT_EQ(expected.str(), tool.getDescription());
-    send("stop", 400.0f, 300.0f);
+    sendAt({ 400.0f, 300.0f }, "stop");
 
     manager.setEnabled(&context, false);
     EXPECT_EQ("", tool.getDescription());
     tool.setDescriptionText("Click");
     tool.setShowHitData(false);
     manager.setEnabled(&context, true);
-    send("start", 400.0f, 300.0f);
+    sendAt({ 400.0f, 300.0f }, "start");
     EXPECT_EQ("Click", tool.getDescription());
 }
 

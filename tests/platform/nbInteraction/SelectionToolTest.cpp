@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include <nbInteraction/InteractionManager.h>
 #include <nbInteraction/SelectionTool.h>
-#include <nbInteraction/ToolInteractionContext.h>
 #include <nbOpenSGSelection/nbSelection.h>
 
 #include <gmock/gmock.h>
 
 #include <memory>
 
-#include "PickerTestSupport.h"
+#include "ToolTest.h"
 
 namespace nbec::interaction {
 namespace {
@@ -21,26 +19,16 @@ const osg::Pnt2f kLeftPx(310, 300);
 const osg::Pnt2f kRightPx(490, 300);
 const osg::Pnt2f kNothingPx(400, 20);
 
-class SelectionToolTest : public PickerTest
+class SelectionToolTest : public ToolTest<SelectionTool>
 {
 protected:
     SelectionToolTest()
     {
         hang(nbScenegraph::getRootNode(), placed(-3.0f, 0.0f, 0.0f, left));
         hang(nbScenegraph::getRootNode(), placed(3.0f, 0.0f, 0.0f, right));
-        context.setTool(&tool);
-        context.setPicker(&picker);
-        manager.addContext(&context);
     }
 
     ~SelectionToolTest() override { nbSelection::clear(); }
-
-    bool sendAt(const osg::Pnt2f& px, const std::string& event, const std::string& hint)
-    {
-        widget.setMousePosition(px);
-        manager.pointerMoved(px);
-        return manager.triggerEvent(InteractionEvent(event, "tool", hint));
-    }
 
     void click(const osg::Pnt2f& px, const std::string& hint)
     {
@@ -50,9 +38,6 @@ protected:
 
     osg::NodePtr left = box(1.0f);
     osg::NodePtr right = box(1.0f);
-    SelectionTool tool;
-    ToolInteractionContext context { Selection };
-    InteractionManager manager;
 };
 
 TEST_F(SelectionToolTest, HintSaysWhatAClickDoesToTheSelection)
