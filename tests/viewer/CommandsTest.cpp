@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "tests/viewer/support/StageTest.h"
-#include "viewer/stage/StageTool.h"
 
 namespace viewer {
 namespace {

@@ -9,10 +9,8 @@
 
 #include <nbNotification/NotificationManager.h>
 
-#include <QAction>
 #include <QMenu>
 #include <QMenuBar>
-#include <QStatusBar>
 #include <QToolBar>
 #include <QXmlStreamReader>
 
@@ -105,8 +103,6 @@ protected:
         run("settings.language", languageName(language));
         waitForQuiet();
     }
-
-    QAction* action(const char* name) { return find<QAction>(name); }
 
     void dragDown(QPointF from, double y)
     {

@@ -11,8 +11,7 @@ namespace {
 
 using Type = SessionStep::Type;
 
-class MainWindowTest : public ShownWindow
-{ };
+using MainWindowTest = ShownWindow;
 
 TEST_F(MainWindowTest, AKeyThatWouldAskOrEndTheReplayIsAFailure)
 {

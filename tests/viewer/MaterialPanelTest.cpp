@@ -5,7 +5,6 @@
 #include "viewer/gui/VectorEdit.h"
 
 #include <QAbstractButton>
-#include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDropEvent>
@@ -63,7 +62,7 @@ TEST_F(MaterialPanelTest, ADroppedPictureIsSeenWhereItFellAndTheObjectKeepsItsCo
     EXPECT_EQ(recorded, "texture.drop");
     EXPECT_EQ(find<QLabel>("textureFile")->text(), "label.png");
     EXPECT_EQ(value("texture.handles"), QJsonValue("universal"));
-    find<QAction>("texture.edit")->trigger();
+    action("texture.edit")->trigger();
     EXPECT_EQ(value("texture.edit"), QJsonValue(false));
     EXPECT_EQ(stage().gizmo().shown(), Gizmo::Universal) << "the gizmo before is back";
 

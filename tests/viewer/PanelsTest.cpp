@@ -14,13 +14,20 @@ namespace viewer {
 namespace {
 
 class Panels : public ShownWindow
-{ };
+{
+protected:
+    /// A row of fields of the object's panel, which is shown.
+    QWidget* fields(const char* name)
+    {
+        window.activateWindow();
+        showPanel("objectDock");
+        return find<QWidget>(name);
+    }
+};
 
 TEST_F(Panels, FieldsReadWhatIsTypedAndSayWhatTheyRefuse)
 {
-    window.activateWindow();
-    showPanel("objectDock");
-    auto* box = find<QWidget>("object.translation")->findChild<QDoubleSpinBox*>();
+    auto* box = fields("object.translation")->findChild<QDoubleSpinBox*>();
     const auto type = [&](const char* text) {
         box->setFocus();
         box->selectAll();
@@ -46,9 +53,7 @@ TEST_F(Panels, FieldsReadWhatIsTypedAndSayWhatTheyRefuse)
 
 TEST_F(Panels, TheWheelAndUndoOfAFieldThatIsNotTypedInAreNotTheFields)
 {
-    window.activateWindow();
-    showPanel("objectDock");
-    auto* box = find<QWidget>("object.translation")->findChild<QDoubleSpinBox*>();
+    auto* box = fields("object.translation")->findChild<QDoubleSpinBox*>();
     const QPointF middle = box->rect().center();
     QWheelEvent wheel(middle, box->mapToGlobal(middle.toPoint()), {}, { 0, 120 }, Qt::NoButton,
                       Qt::NoModifier, Qt::NoScrollPhase, false);
@@ -69,9 +74,7 @@ TEST_F(Panels, TheWheelAndUndoOfAFieldThatIsNotTypedInAreNotTheFields)
 
 TEST_F(Panels, ADragInAFieldStepsItAsOneStepAndLinkedScalesKeepTheirRatio)
 {
-    window.activateWindow();
-    showPanel("objectDock");
-    auto* scale = find<QWidget>("object.scale");
+    auto* scale = fields("object.scale");
     scale->findChild<QToolButton*>()->click();
     auto* line = scale->findChild<QDoubleSpinBox*>()->findChild<QLineEdit*>();
     QTest::mousePress(line, Qt::LeftButton, {}, { 5, 5 });

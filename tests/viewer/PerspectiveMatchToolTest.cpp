@@ -3,7 +3,6 @@
 
 #include "tests/viewer/support/Files.h"
 #include "tests/viewer/support/StageTest.h"
-#include "viewer/match/PerspectiveMatchCommands.h"
 
 #include <nbKernelServices/nbUndoService.h>
 #include <nbMagnifier/nbMagnifierRenderer.h>

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "tests/viewer/support/ShownWindow.h"
-#include "viewer/plates/PlatesTool.h"
 
 #include <QDoubleSpinBox>
 #include <QLineEdit>

@@ -5,7 +5,6 @@
 #include "tests/viewer/support/ShownWindow.h"
 #include "viewer/scenes/SceneCapture.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QFile>
 #include <QPushButton>
@@ -53,7 +52,7 @@ TEST_F(SceneFileActionsTest, TheTitleTellsWhatIsNotSaved)
     EXPECT_EQ(stage().commands().value("scene.file"), QJsonValue("table.nbscene"));
     stage().undo();
     EXPECT_TRUE(window.isWindowModified()) << "no longer as saved";
-    find<QAction>("sceneSave")->trigger();
+    action("sceneSave")->trigger();
     EXPECT_FALSE(window.isWindowModified());
     ASSERT_TRUE(run("match.setVeil", 0.75));
     EXPECT_TRUE(window.isWindowModified()) << "an edit that is no step";

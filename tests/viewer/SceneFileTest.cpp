@@ -21,13 +21,6 @@
 namespace viewer {
 namespace {
 
-float floatOf(std::uint32_t bits)
-{
-    float number = 0.0F;
-    std::memcpy(&number, &bits, sizeof(number));
-    return number;
-}
-
 template <class Number>
 Number readBack(Number number)
 {
@@ -47,7 +40,9 @@ TEST(ExactJson, GivesEveryFiniteNumberBackBitForBit)
     };
     std::vector<double> doubles { -0.0, 0.1, 9007199254740993.0, 5e-324, 1e22, -1.5 };
     for (int i = 0; i < 5000; ++i) {
-        const float single = floatOf(static_cast<std::uint32_t>(random()));
+        const auto bits = static_cast<std::uint32_t>(random());
+        float single = 0.0F;
+        std::memcpy(&single, &bits, sizeof(single));
         floats.push_back(std::isfinite(single) ? single : 1.0F);
         doubles.push_back(std::ldexp(static_cast<double>(random()) * 0x1p-64,
                                      static_cast<int>(random() % 200) - 100));
@@ -65,8 +60,7 @@ TEST(ExactJson, GivesEveryFiniteNumberBackBitForBit)
               "[0.1]");
 }
 
-class SceneFile : public SceneTest
-{ };
+using SceneFile = SceneTest;
 
 TEST_F(SceneFile, SavedOpenedAndSavedAgainIsTheSameWhateverWasEdited)
 {

@@ -10,8 +10,6 @@
 #include <nbKernel/nbScenegraph.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
-#include <OpenSG/OSGTransform.h>
-
 #include <QJsonArray>
 #include <QTemporaryDir>
 

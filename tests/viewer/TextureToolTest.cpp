@@ -17,8 +17,7 @@
 namespace viewer {
 namespace {
 
-class TextureToolTest : public TextureTest
-{ };
+using TextureToolTest = TextureTest;
 
 TEST_F(TextureToolTest, ADropOnAStretchedObjectIsUprightAndInThePicturesAspect)
 {

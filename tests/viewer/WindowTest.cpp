@@ -8,7 +8,6 @@
 #include "viewer/gui/Theme.h"
 
 #include <QAccessible>
-#include <QAction>
 #include <QApplication>
 #include <QMenuBar>
 #include <QStatusBar>
@@ -27,8 +26,6 @@ protected:
         applyTheme(Theme::System);
         applyLanguage(Language::English);
     }
-
-    QAction* action(const char* name) { return find<QAction>(name); }
 };
 
 /// Parts that Qt makes inside its widgets have names of Qt, or none.

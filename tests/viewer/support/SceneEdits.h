@@ -30,50 +30,40 @@ public:
     /// Makes one edit; whether it was possible does not matter.
     void make()
     {
+        select();
         switch (random() % 13) {
         case 0:
         case 1:
         case 2:
-            run(oneOf({ "object.translation", "object.rotation", "object.scale",
-                        "object.rotatePivot", "object.scalePivot" }),
-                vector());
-            break;
+            return run(oneOf({ "object.translation", "object.rotation", "object.scale",
+                               "object.rotatePivot", "object.scalePivot" }),
+                       vector());
         case 3:
-            run(oneOf({ "object.visible", "object.locked" }), random() % 2 == 0);
-            break;
+            return run(oneOf({ "object.visible", "object.locked" }), random() % 2 == 0);
         case 4:
             run("texture.picture",
                 oneOf({ NB_VIEWER_FOLDER "/models/label.png",
                         NB_VIEWER_FOLDER "/models/tiles.png" }));
-            run("texture.projection", oneOf({ "uv", "planar", "triplanar", "tire" }));
-            break;
+            return run("texture.projection", oneOf({ "uv", "planar", "triplanar", "tire" }));
         case 5:
-            editPicture();
-            break;
+            return editPicture();
         case 6:
-            addPlate();
-            break;
+            return addPlate();
         case 7:
-            editMatch();
-            break;
+            return editMatch();
         case 8:
-            run(oneOf({ "scene.addClipPlane", "scene.removeClipPlane" }), {});
-            break;
+            return run(oneOf({ "scene.addClipPlane", "scene.removeClipPlane" }), {});
         case 9:
-            editState();
-            break;
+            return editState();
         case 10:
             stage.undo();
-            break;
+            return;
         case 11:
             run(oneOf({ "scene.delete", "scene.duplicate", "scene.duplicate" }), {});
-            run("object.name", oneOf({ "Urn", "Box" }));
-            break;
+            return run("object.name", oneOf({ "Urn", "Box" }));
         default:
-            moveCamera();
-            break;
+            return moveCamera();
         }
-        select();
     }
 
 private:

@@ -8,6 +8,7 @@
 #include "viewer/gui/SessionPlayer.h"
 #include "viewer/gui/ViewWidget.h"
 
+#include <QAction>
 #include <QDockWidget>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -52,6 +53,8 @@ protected:
         EXPECT_NE(found, nullptr) << name;
         return found;
     }
+
+    QAction* action(const char* name) { return find<QAction>(name); }
 
     void showPanel(const char* name)
     {
