@@ -130,6 +130,7 @@ struct HandleAction
 struct DragTrack
 {
     std::optional<osg::Pnt3f> start;  ///< where the pointer met the drag's plane first
+    std::optional<osg::Pnt3f> grabbed;  ///< the same before a bead was followed from there
     osg::Pnt3f last;  ///< where a turn was measured last
     double bead = 0.0;  ///< where the pointer is on a ring seen edge-on, see RingDrag; radians
     double turned = 0.0;  ///< since the start, whole turns counted; radians or degrees

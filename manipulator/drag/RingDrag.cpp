@@ -15,6 +15,7 @@ constexpr double kWireCosine = 0.3420201433256687;
 /// powers of two sums are exact, so that the way back ends where the way there began.
 constexpr double kFirstStep = 1.0 / 64;
 constexpr double kLastStep = 1e-5;
+constexpr double kWholeTurn = 2.0 * 3.14159265358979323846;
 
 /// Any unit vector at right angles to a unit vector.
 osg::Vec3f anyPerpendicular(const osg::Vec3f& axis)
@@ -70,7 +71,11 @@ std::optional<osg::Pnt3f> RingDrag::follow(const std::optional<osg::Line>& ray,
     const bool isFirst = !track.start;
     std::optional<osg::Pnt3f> hit = followPlane(plane(), ray, track);
     if (hit && isWire) {
-        track.bead = beadAt(osg::Vec3d(*hit - center), track.bead);
+        // Back where it was grabbed the bead is as well, whichever way the pointer has come.
+        const double from =
+            track.grabbed == hit ? kWholeTurn * std::round(track.bead / kWholeTurn) : track.bead;
+        track.grabbed = track.grabbed ? track.grabbed : hit;
+        track.bead = beadAt(osg::Vec3d(*hit - center), from);
         const osg::Vec3d arm = armAt(track.bead);
         hit = center +
             osg::Vec3f(static_cast<float>(arm.x()), static_cast<float>(arm.y()),

@@ -26,8 +26,8 @@ struct Sight
 /// Nearer to edge-on a pointer ray meets that plane at a grazing angle, so that a pixel would mean
 /// anything. There the drawn ring is a wire and the grabbed point a bead on it: the pointer is
 /// followed in a plane that faces the viewer, and the bead goes to the nearest point of the ring on
-/// screen, downhill from where it was, so that it never jumps to the ring's other side. Either way
-/// the pointer comes to a point in the ring's own plane.
+/// screen, downhill from where it was, so that it does not jump to the ring's other side but where
+/// it was grabbed. Either way the pointer comes to a point in the ring's own plane.
 struct NB_MANIPULATOR_API RingDrag
 {
     osg::Pnt3f center;

@@ -205,6 +205,8 @@ TEST(Drags, ARingTurnsByWhatIsSweptAlongItAtEveryTilt)
             }
             ASSERT_TRUE(drags.stepTo(Vec2f()));
             EXPECT_EQ(turned(), 0) << tiltDeg << ' ' << isOrthographic;
+            ASSERT_TRUE(drags.stepTo(Vec2f(-90, -300)) && drags.stepTo(Vec2f()));
+            EXPECT_NEAR(std::remainder(turned(), 360), 0, 1e-3) << "over the ring and back";
         }
     }
 }
