@@ -48,6 +48,10 @@ TEST_F(RedrawTest, NothingIsDrawnWhileNothingChanges)
         moveTo(handle + QPointF(0, 0.01 * i));
     }
     EXPECT_EQ(frame().frames, highlighted) << "the same handle is highlighted";
+    moveTo(placeOf(SessionTarget::Kind::Node, "Pawn"));
+    const std::size_t marked = frame().frames;
+    moveTo({ 3, 3 });
+    EXPECT_GT(frame().frames, marked) << "the object that was under the pointer is unmarked";
 }
 
 TEST_F(RedrawTest, AfterTheViewMovedAWholePictureComesByItself)

@@ -14,6 +14,7 @@
 #include <nbOpenSGUtils/nbNodeUtils.h>
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace viewer {
@@ -28,23 +29,24 @@ bool PreselectionTool::hoverTool(nbec::interaction::ToolInteractionContext* cont
                                  const std::string& hint)
 {
     SelectionTool::hoverTool(context, hint);
-    preselectedId = 0;
     nbec::interaction::Picker* picker = context->getPicker();
-    if (picker == nullptr || !nbScenegraph::isPreselectionEnabled()) {
-        return false;
+    const bool isPossible = picker != nullptr && nbScenegraph::isPreselectionEnabled();
+    preselect(isPossible ? objectOf(picker->pick()) : osg::NodePtr());
+    return preselectedId != 0;
+}
+
+/// The mark of an object is no edit, for which the view would be drawn anew.
+void PreselectionTool::preselect(const osg::NodePtr& object)
+{
+    if (std::exchange(preselectedId, containerId(object)) != preselectedId) {
+        nbOSGWidget::updateAll();
     }
-    const osg::NodePtr object = objectOf(picker->pick());
-    if (object == osg::NullFC) {
-        return false;
-    }
-    preselectedId = object.getFieldContainerId();
-    return true;
 }
 
 bool PreselectionTool::stopHoverTool(nbec::interaction::ToolInteractionContext* context,
                                      const std::string& hint)
 {
-    preselectedId = 0;
+    preselect({});
     return SelectionTool::stopHoverTool(context, hint);
 }
 

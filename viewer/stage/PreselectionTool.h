@@ -30,6 +30,8 @@ public:
     osg::NodePtr getPreselected() const;
 
 private:
+    void preselect(const osg::NodePtr& object);
+
     osg::UInt32 preselectedId = 0;
     bool isBesideAll = false;  ///< the press
 };
