@@ -16,6 +16,7 @@
 #include <nbKernelServices/nbScopedUndo.h>
 #include <nbOpenSGSelection/nbSelection.h>
 #include <nbOpenSGUtils/nbEdit.h>
+#include <nbOpenSGUtils/nbEulerUtils.h>
 #include <nbOpenSGUtils/nbNodePermission.h>
 #include <nbOpenSGUtils/nbNodeUtils.h>
 #include <nbTransform/nbTransformModel.h>
@@ -89,6 +90,20 @@ osg::Vec3f pivotInParent(const osg::NodePtr& node)
     return middle - osg::Pnt3f();
 }
 
+/// Of a rotation that is kept without angles those nearest to none: 0, 110, 0 and not 180, 70, 180.
+osg::Vec3f rotationOf(const osg::NodePtr& node)
+{
+    const osg::Vec3f angles = nbNodeUtils::getTransformNodeRotation(node);
+    const auto core = osg::Transform3DPtr::dcast(node->getCore());
+    if (core != osg::NullFC && core->getRotationMode() != osg::Transform3D::QuaternionMode) {
+        return angles;
+    }
+    const int order =
+        core == osg::NullFC ? 0 : nbEulerUtils::getOrderFromString(core->getEulerRotationOrder());
+    return nbEulerUtils::toVec3f(nbEulerUtils::toDegrees(
+        nbEulerUtils::nearest(nbEulerUtils::fromDegrees(angles, order), { 0.0, 0.0, 0.0, order })));
+}
+
 const ObjectVector kVectors[] = {
     { "object.translation", &setInParent<&nbTransformModel::setTranslation>,
       [](const osg::NodePtr& node) { return nbTransformModel::getTranslation(node, false); } },
@@ -96,7 +111,7 @@ const ObjectVector kVectors[] = {
       [](osg::UInt32 count, nbTransformModel::ValueFunction values) {
           return nbTransformModel::the()->setRotation(count, values);
       },
-      [](const osg::NodePtr& node) { return nbNodeUtils::getTransformNodeRotation(node); } },
+      &rotationOf },
     { "object.scale",
       [](osg::UInt32 count, nbTransformModel::ValueFunction values) {
           return nbTransformModel::the()->setScale(count, values);
