@@ -100,11 +100,6 @@ QJsonArray namesOf(const std::vector<osg::NodePtr>& nodes)
     return names;
 }
 
-bool hasSelection(const PlatesTool& tool, const char* command, QString& error)
-{
-    return tool.hasSelection(error) || refuse(command, error, error);
-}
-
 // == Adding
 
 bool paint(const PlateText& text, int viewHeightPx, NewPlate& plate, QString& error)
@@ -151,8 +146,7 @@ bool addText(Stage& stage, PlatesTool& tool, const QJsonValue& value, QString& e
     NewText wanted;
     wanted.plate.name = value["text"].toString().simplified().toStdString();
     const bool isPainted = JsonInput(error).readObject(value, prefixed("addText"), wanted) &&
-        (paint(wanted.text, stage.view().getHeight(), wanted.plate, error) ||
-         refuse("addText.text", error, error));
+        paint(wanted.text, stage.view().getHeight(), wanted.plate, error);
     if (isPainted) {
         tool.add(wanted.plate);
     }
@@ -178,18 +172,17 @@ bool changeText(Stage& stage, PlatesTool& tool, const QJsonValue& value, QString
     std::optional<PlateText> text = selectedText(tool);
     NewPlate painted;
     if (!text) {
-        return refuse("text", Text::tr("no text is selected"), error);
+        error = Text::tr("no text is selected");
+        return false;
     }
     const QString former = text->text.simplified();
     const auto height = static_cast<float>(stage.view().getHeight());
-    if (!JsonInput(error).readObject(value, prefixed("text"), *text)) {
+    if (!JsonInput(error).readObject(value, prefixed("text"), *text) ||
+        !paint(*text, stage.view().getHeight(), painted, error)) {
         return false;
     }
-    if (!paint(*text, stage.view().getHeight(), painted, error)) {
-        return refuse("text.text", error, error);
-    }
     const osg::NodePtr node = tool.selected().back();
-    const nbScopedUndo step(QT_TRANSLATE_NOOP("Manipulator", "Change text"));
+    const nbScopedUndo step;
     nbSceneplateEditing::edit({ node }, QT_TRANSLATE_NOOP("Manipulator", "Change text"),
                               [&](osg::Sceneplate& plate) {
                                   plate.setImage(painted.image.get());
@@ -283,14 +276,13 @@ void addValueOfLast(Stage& stage, const PlatesTool& tool, const char* name, Read
 void addField(Stage& stage, PlatesTool& tool, const PlateField& field)
 {
     const bool isVisible = QLatin1String(field.name) == "visible";
-    stage.commands().add(prefixed(field.name),
-                         [&tool, &field, isVisible](const QJsonValue& value, QString& error) {
-                             if (isVisible && value.isObject()) {
-                                 return setVisible(field, value.toObject(), error);
-                             }
-                             return hasSelection(tool, field.name, error) &&
-                                 setField(tool.selected(), field, value, error);
-                         });
+    stage.commands().add(
+        prefixed(field.name), [&tool, &field, isVisible](const QJsonValue& value, QString& error) {
+            if (isVisible && value.isObject()) {
+                return setVisible(field, value.toObject(), error);
+            }
+            return tool.hasSelection(error) && setField(tool.selected(), field, value, error);
+        });
     addValueOfLast(stage, tool, field.name, [&field](const osg::NodePtr& node) {
         return field.read(*nbSceneplateList::plateOf(node));
     });
@@ -299,7 +291,7 @@ void addField(Stage& stage, PlatesTool& tool, const PlateField& field)
 bool setAnchor(Stage& stage, PlatesTool& tool, const QJsonValue& value, QString& error)
 {
     const std::optional<osg::Int32> anchor = anchorFromName(value.toString());
-    if (!hasSelection(tool, "anchor", error)) {
+    if (!tool.hasSelection(error)) {
         return false;
     }
     if (!anchor) {
@@ -312,14 +304,15 @@ bool setAnchor(Stage& stage, PlatesTool& tool, const QJsonValue& value, QString&
 
 bool rename(Stage& /*stage*/, PlatesTool& tool, const QJsonValue& value, QString& error)
 {
-    if (!hasSelection(tool, "name", error)) {
+    if (!tool.hasSelection(error)) {
         return false;
     }
     const std::string name = value.toString().trimmed().toStdString();
     const osg::NodePtr node = tool.selected().back();
     const osg::NodePtr former = PlatesTool::plateByName(name);
     if (name.empty() || (former != osg::NullFC && former != node)) {
-        return refuse("name", Text::tr("expected a name that no other plate has"), error);
+        error = Text::tr("expected a name that no other plate has");
+        return false;
     }
     nbSceneplateEditing::rename(node, name);
     return true;
@@ -327,15 +320,15 @@ bool rename(Stage& /*stage*/, PlatesTool& tool, const QJsonValue& value, QString
 
 bool remove(Stage& /*stage*/, PlatesTool& tool, const QJsonValue& /*value*/, QString& error)
 {
-    return hasSelection(tool, "remove", error) && nbSceneplateEditing::remove(tool.selected()) > 0;
+    return tool.hasSelection(error) && nbSceneplateEditing::remove(tool.selected()) > 0;
 }
 
 void addRestacking(Stage& stage, PlatesTool& tool, const char* name, int steps)
 {
-    stage.commands().add(prefixed(name), [&tool, name, steps](const QJsonValue&, QString& error) {
-        return hasSelection(tool, name, error) &&
-            (nbSceneplateEditing::restack(tool.selected(), steps) ||
-             refuse(name, Text::tr("there is no further plate on this side"), error));
+    stage.commands().add(prefixed(name), [&tool, steps](const QJsonValue&, QString& error) {
+        const bool isDone = nbSceneplateEditing::restack(tool.selected(), steps);
+        error = isDone ? error : Text::tr("there is no further plate on this side");
+        return tool.hasSelection(error) && isDone;
     });
 }
 
