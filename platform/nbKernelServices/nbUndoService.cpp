@@ -132,10 +132,12 @@ void nbUndoService::Internals::finishStep()
     const bool isStep = std::any_of(records.begin(), records.end(),
                                     [](const auto& record) { return record->isStepAlone(); });
     std::move(records.begin(), records.end(), std::back_inserter(waiting));
-    if (isStep) {
-        stack().push(new StepCommand(step.getTitle(), std::exchange(waiting, {}), restoreState));
-    }
+    const QString title = step.getTitle();
+    // First, as who hears of the stack may begin another step.
     step.clear();
+    if (isStep) {
+        stack().push(new StepCommand(title, std::exchange(waiting, {}), restoreState));
+    }
     clearIfPending();
 }
 

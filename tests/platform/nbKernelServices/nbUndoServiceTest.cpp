@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <nbKernelServices/nbChildrenRecord.h>
 #include <nbKernelServices/nbScopedMultiCommand.h>
 #include <nbKernelServices/nbScopedUndo.h>
 #include <nbKernelServices/nbUndoService.h>
@@ -138,6 +139,26 @@ TEST_F(nbUndoServiceTest, WhatWasDestroyedIsPassedOver)
     root->subChild(other);
     EXPECT_TRUE(undo->redo());
     EXPECT_TRUE(undo->undo());
+}
+
+TEST_F(nbUndoServiceTest, WhoHearsOfAStepMayMakeAnother)
+{
+    const auto addGroup = [this] {
+        undo->beginGroup();
+        undo->record(std::make_unique<nbChildrenRecord>(std::vector<osg::NodePtr> { root }));
+        root->addChild(osg::makeNodeFor(osg::Group::create()));
+        undo->endGroup();
+    };
+    QObject listener;
+    QObject::connect(undo->getStack(), &QUndoStack::indexChanged, &listener, [&](int index) {
+        if (index == 1 && root->getNChildren() == 2) {
+            addGroup();
+        }
+    });
+    addGroup();
+
+    EXPECT_EQ(2, undo->getStack()->count());
+    EXPECT_EQ(3U, root->getNChildren());
 }
 
 // == Conversions
