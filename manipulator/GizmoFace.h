@@ -96,8 +96,6 @@ protected:
     GizmoFace(const GizmoFace&) = delete;
     GizmoFace& operator=(const GizmoFace&) = delete;
 
-    ~GizmoFace() override = default;
-
     std::unique_ptr<Gizmo> gizmo;
 };
 

@@ -32,17 +32,17 @@ AbstractManipulator* dragged(const ManipulatorInteractionContext& context)
     return dynamic_cast<AbstractManipulator*>(context.getManipulator());
 }
 
-bool isCancelled(const InteractionManager* manager)
-{
-    return manager != nullptr && manager->getDragEnd() == interaction::DragEnd::Cancelled;
-}
-
 }  // namespace
 
 Manipulator::~Manipulator()
 {
+    ManipulatorInteractionContext::forget(this);
+}
+
+void ManipulatorInteractionContext::forget(const Manipulator* gone)
+{
     for (ManipulatorInteractionContext* const context : liveContexts()) {
-        if (context->manipulator == this) {
+        if (context->manipulator == gone) {
             context->manipulator = nullptr;
         }
     }
@@ -130,7 +130,9 @@ bool ManipulatorInteractionContext::triggerEvent(InteractionManager* manager,
             return manipulator->startManipulator(this, hint);
         }
         if (name == "stop") {
-            AbstractManipulator* const taken = isCancelled(manager) ? dragged(*this) : nullptr;
+            const bool isCancelled =
+                manager != nullptr && manager->getDragEnd() == interaction::DragEnd::Cancelled;
+            AbstractManipulator* const taken = isCancelled ? dragged(*this) : nullptr;
             return (taken != nullptr && taken->cancelDrag()) ||
                 manipulator->stopManipulator(this, hint);
         }
@@ -144,11 +146,10 @@ bool ManipulatorInteractionContext::triggerEvent(InteractionManager* manager,
             return false;
         }
         manipulator->reset(this, hint);
-    } else if (tool == toolName && hint == "selectThrough" && name == "start") {
-        manipulator->reset(this, hint);
     } else if (tool == "mode" && hint == "tool" && name == "start") {
         manipulator->hover(this, hint);
-    } else if (tool == "mode" && hint == "tool" && name == "stop") {
+    } else if ((tool == "mode" && hint == "tool" && name == "stop") ||
+               (tool == toolName && hint == "selectThrough" && name == "start")) {
         manipulator->reset(this, hint);
     }
     return MultimodeInteractionContext::triggerEvent(manager, event);

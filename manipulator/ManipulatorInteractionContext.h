@@ -81,9 +81,10 @@ public:
     /// The last pointer position, device pixels, y from the top; (0, 0) before the first.
     osg::Pnt2f getPointerPosition() const { return pointerPosition; }
 
-private:
-    friend class Manipulator;
+    /// Takes a manipulator that is being destroyed out of all contexts.
+    static void forget(const Manipulator* gone);
 
+private:
     void handOverCollider();
 
     Manipulator* manipulator = nullptr;

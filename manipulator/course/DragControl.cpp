@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "manipulator/course/DragControl.h"
 
+#include "manipulator/ManipulatorInteractionContext.h"
 #include "manipulator/course/DragReadout.h"
 #include "manipulator/course/ValueText.h"
 
@@ -34,6 +35,8 @@ DragControl::DragControl(const DragControl& other)
 
 DragControl::~DragControl()
 {
+    // Who hears of the end may send events.
+    ManipulatorInteractionContext::forget(event.manipulator);
     event.manipulator = nullptr;
     ended();
 }

@@ -24,6 +24,7 @@ AnchoredGizmo::AnchoredGizmo(HandleTable table, HandleSet::Materials materials, 
 void AnchoredGizmo::setComponent(const osg::MaterialPtr& material, const std::string& name,
                                  nbStateChunkBase* gui)
 {
+    const osg::RefPtr<osg::MaterialPtr> kept(material);  // also by who hears of the end
     if (!component.is(material, name)) {
         endDrag();
     }

@@ -87,6 +87,9 @@ TYPED_TEST(Manipulators, NoOrderOfDestructionDoesHarm)
         route->setManipulator(this->gizmo.get());
         *copy = *route;
         manager->addContext(route.get());
+        this->gizmo->addDragListener([&copy](const DragEvent& event) {
+            EXPECT_EQ(copy->getManipulator(), event.manipulator) << "who dies hears of no event";
+        });
         equip(*this->gizmo, this->stage);
         this->stage.view->setMousePosition(place);
         manager->pointerMoved(place);
