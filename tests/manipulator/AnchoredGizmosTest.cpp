@@ -150,7 +150,6 @@ TEST(AnchoredGizmos, ValuesComeFromMaterialOrEditorObjectInTheOrderOfTheKind)
     Panel panel;
     const auto first = [&panel](auto& at, const std::string& component, const char* name) {
         at.gizmo.setMaterialComponent(at.material.get(), component, &panel);
-        EXPECT_EQ(at.gizmo.getGUI(), &panel);
         EXPECT_TRUE(at.grab("yaShape", Vec3f(0, 1.9F, 0)));
         EXPECT_TRUE(at.stepTo(Vec2f()));
         EXPECT_TRUE(at.release());
@@ -166,7 +165,6 @@ TEST(AnchoredGizmos, ValuesComeFromMaterialOrEditorObjectInTheOrderOfTheKind)
     Triplanar triplanar;
     expectPair(first(triplanar, "diffuse", "XOffset"), "XOffset", Vec2f(0.1F, 0.4F));
     expectPair(first(triplanar, "mine", "ZOffset"), "ZOffset", Vec2f(2, 9));
-    expectPair(first(triplanar, "nobody's", "ZOffset"), "ZOffset", Vec2f());
     expectPair(first(triplanar, "torn", "ZOffset"), "ZOffset", Vec2f());
     // Settings of another projection do not count.
     triplanar.editSettings([](const auto& values) { values->setTextureProjectionType(1); });
@@ -300,8 +298,8 @@ TEST(TriplanarTextureManipulator, AShaftIsHitAllTheSameWhileItIsLitAndThinner)
     Triplanar at;
     const Pnt2f shaft = at.rayPixelOf(at.onHandle("xsShape", Vec3f(2.3F, 0, 0)));
     for (float px = 0; px < 8; ++px) {
-        const bool isHit = at.scene.send("hover", shaft + Vec2f(0, px));
-        EXPECT_EQ(at.scene.send("hover", shaft + Vec2f(0, px)), isHit) << px;
+        const Pnt2f beside = shaft + Vec2f(0, px);
+        EXPECT_EQ(at.scene.send("hover", beside), at.scene.send("hover", beside)) << px;
     }
 }
 

@@ -142,10 +142,9 @@ TEST(PlanarDrag, TabsMoveOneEndOfASideAndTheCentreHalfAsFar)
     }
 
     // A camera without a place.
-    const Vec3f nowhere(NAN, NAN, NAN);
-    EXPECT_EQ(halfSizesBetween(beginDrag(turnedFrame(), Active::ScaleZPlane), at(0, 0), at(0, 0),
-                               { nowhere, nowhere, nowhere }, false),
-              Vec3f(2, 3, 0.5F));
+    const Sights blind = { Vec3f(NAN, 0, 0), kSight, kSight };
+    const ProjectionDrag depth = beginDrag(turnedFrame(), Active::ScaleZPlane);
+    EXPECT_EQ(halfSizesBetween(depth, at(0, 0), at(0, 0), blind, false).z(), 0.5F);
 
     // A side without length grows whichever way its end goes; a picture has its own extents.
     ProjectionFrame flat = turnedFrame();
