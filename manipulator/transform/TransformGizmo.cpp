@@ -33,7 +33,6 @@ constexpr float kMarkReach = 0.15F;
 /// Deliberate: the rotation precision is turned into radians with this many digits.
 constexpr double kDegreeFactor = 3.1415927 / 360.0;
 
-constexpr double kWholeTurnRad = 360.0 / kDegPerRad;
 /// By which a sum of small turns may be off its true value, radians.
 constexpr double kSumRounding = 1e-9;
 
@@ -310,7 +309,7 @@ DragStep TransformGizmo::turnAt(const osg::Pnt3f& point, const DragTrack& before
     next.turned += angle;
     // A sum of steps is off by its rounding, and would be back at the start as well.
     const double direct = computeRotation(drag.dragStartLocal, place, drag.action.axis());
-    const double off = std::remainder(next.turned - direct, kWholeTurnRad);
+    const double off = std::remainder(next.turned - direct, 360.0 / kDegPerRad);
     next.turned -= std::abs(off) < kSumRounding ? off : 0.0;
     const double zero = snapSettings.isAbsolute ? turnAtStart(drag.starts.front()) : 0.0;
     const double total =

@@ -162,14 +162,11 @@ bool setVector(Stage& stage, const ObjectVector& row, const QJsonValue& value, Q
         }
         vectors.push_back(v);
     }
-    if (objects.empty()) {
-        return false;
-    }
     const osg::UInt32 count =
         row.set(static_cast<osg::UInt32>(objects.size()), [&objects, &vectors](osg::UInt32 i) {
             return nbTransformModel::Value { { objects[i], -1 }, vectors[i] };
         });
-    if (count == 0) {
+    if (count == 0 && !objects.empty()) {
         error = Text::tr("the selected object is locked or cannot take this value");
     }
     return count > 0;
@@ -178,15 +175,12 @@ bool setVector(Stage& stage, const ObjectVector& row, const QJsonValue& value, Q
 bool setSwitch(Stage& stage, const ObjectSwitch& row, bool on, QString& error)
 {
     const std::vector<osg::NodePtr> objects = selectedIn(stage, error);
-    if (objects.empty()) {
-        return false;
-    }
     const nbScopedUndo scope(row.title);
     for (const osg::NodePtr& object : objects) {
         recordValue(object, row.get, row.set);
         row.set(object, on);
     }
-    return true;
+    return !objects.empty();
 }
 
 bool selectPaths(Stage& /*stage*/, const QJsonValue& value, QString& error)

@@ -103,11 +103,9 @@ bool PreselectionTool::stopTool(nbec::interaction::ToolInteractionContext* conte
 
 osg::NodePtr PreselectionTool::getPreselected() const
 {
-    if (preselectedId == 0 || !nbScenegraph::isPreselectionEnabled()) {
-        return {};
-    }
     const auto node = resolveContainer<osg::NodePtr>(preselectedId);
-    const bool isThere = nbNodeUtils::hasParent(node, nbScenegraph::getRootNode());
+    const bool isThere = nbScenegraph::isPreselectionEnabled() &&
+        nbNodeUtils::hasParent(node, nbScenegraph::getRootNode());
     return isThere ? node : osg::NodePtr();  // it may have been deleted under the pointer
 }
 
