@@ -197,7 +197,7 @@ bool PlanarGizmo::canStep(const View& /*view*/)
         return false;
     }
     if (!isTargetReady && node != nbScenegraph::getRootNode()) {
-        nbNodeUtils::convertToTransform3DNode(node);
+        makeTransform(node);
         if (!hasPivots(node)) {
             setBothPivots(node, objectCenter(node, false));
         }
