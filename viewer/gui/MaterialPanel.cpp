@@ -7,6 +7,7 @@
 #include "viewer/stage/Stage.h"
 #include "viewer/textures/SurfaceMaterial.h"
 
+#include <nbKernelServices/nbUndoService.h>
 #include <nbMaterialEditor/nbBoxCoordinates.h>
 
 #include <QButtonGroup>
@@ -19,6 +20,8 @@
 #include <QPushButton>
 #include <QSlider>
 #include <QToolButton>
+
+#include <utility>
 
 namespace viewer {
 namespace {
@@ -340,6 +343,8 @@ void MaterialPanel::refresh()
     projectionContent->setEnabled(tool.target().settings() != osg::NullFC);
     refreshHandles();
     picture->setPaused(tool.preview().isPaused());
+    const osg::UInt64 restores = nbUndoService::the()->getRestoreCount();
+    isPictureOld = std::exchange(restoresShown, restores) != restores || isPictureOld;
     if (isPictureOld && isVisible()) {
         refreshPicture();
     }

@@ -53,6 +53,7 @@ private:
     QButtonGroup* handleButtons = nullptr;
     QMap<QString, QWidget*> valueRows;  ///< by the word of their projection
     bool isPictureOld = true;
+    osg::UInt64 restoresShown = 0;  ///< steps that had been taken back or done again
 };
 
 }  // namespace viewer

@@ -407,11 +407,8 @@ void addArranging(Stage& stage, PlatesTool& tool)
         return tool.hasSelection(error) && move(stage, tool, value, error);
     });
     commands.add("plates.duplicate", [&tool](const QJsonValue&, QString& error) {
-        const bool isDone = tool.hasSelection(error);
-        if (isDone) {
-            tool.select(nbSceneplateEditing::duplicate(tool.selected(), &PlatesTool::unusedName));
-        }
-        return isDone;
+        tool.select(nbSceneplateEditing::duplicate(tool.selected(), &PlatesTool::unusedName));
+        return tool.hasSelection(error);
     });
 }
 
