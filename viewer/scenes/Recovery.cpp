@@ -16,6 +16,7 @@ namespace {
 
 const QString kScenes = "recovery-*.nbscene";
 const QString kLocks = "recovery-*.lock";
+constexpr const char* kPicture = ".png";
 constexpr int kMostProcesses = 1000;
 constexpr QSize kPicturePx(320, 200);
 
@@ -24,11 +25,6 @@ QString beside(const QString& file, const char* ending)
 {
     const QFileInfo info(file);
     return info.dir().absoluteFilePath(info.completeBaseName() + QLatin1String(ending));
-}
-
-QString pictureOf(const QString& file)
-{
-    return beside(file, ".png");
 }
 
 /// Takes the lock of a scene's file. The system lets go of it when a process ends, however it does;
@@ -60,7 +56,6 @@ Recovery::Recovery(const QDir& wanted)
         ownFile = folder.absoluteFilePath(QStringLiteral("recovery-%1.nbscene").arg(number));
         lock = QFile::exists(ownFile) ? nullptr : lockOf(ownFile);
     }
-    fault = lock ? QString() : Text::tr("%1: cannot be written").arg(ownFile);
 }
 
 Recovery::~Recovery()
@@ -70,6 +65,9 @@ Recovery::~Recovery()
 
 bool Recovery::keep(SceneDocument document, const QImage& frame)
 {
+    if (!lock) {
+        fault = Text::tr("%1: cannot be written").arg(ownFile);
+    }
     if (!lock || isWriting()) {
         return false;
     }
@@ -77,7 +75,7 @@ bool Recovery::keep(SceneDocument document, const QImage& frame)
     auto write = [file = ownFile, kept = std::move(document), frame] {
         QString error;
         if (!frame.isNull()) {
-            writePicture(pictureOf(file),
+            writePicture(beside(file, kPicture),
                          frame.scaled(kPicturePx, Qt::KeepAspectRatio, Qt::SmoothTransformation),
                          error);
         }
@@ -119,8 +117,8 @@ std::optional<Recovery::Kept> Recovery::find()
         const QString file = left.absoluteFilePath();
         if (auto held = lockOf(file)) {
             QString error;
-            return Kept { file, left.lastModified(), decodePictureFile(pictureOf(file), error),
-                          std::move(held) };
+            return Kept { file, left.lastModified(),
+                          decodePictureFile(beside(file, kPicture), error), std::move(held) };
         }
     }
     return std::nullopt;
@@ -129,14 +127,14 @@ std::optional<Recovery::Kept> Recovery::find()
 bool Recovery::takeUp(const Kept& kept)
 {
     forget();
-    QFile::rename(pictureOf(kept.file), pictureOf(ownFile));
+    QFile::rename(beside(kept.file, kPicture), beside(ownFile, kPicture));
     return QFile::rename(kept.file, ownFile);
 }
 
 void Recovery::discard(const QString& file)
 {
     QFile::remove(file);
-    QFile::remove(pictureOf(file));
+    QFile::remove(beside(file, kPicture));
 }
 
 }  // namespace viewer

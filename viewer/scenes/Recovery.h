@@ -59,7 +59,7 @@ private:
     QString ownFile;
     std::shared_ptr<QFile> lock;  ///< null where the folder cannot be written to
     std::future<QString> writing;  ///< why it is not on the disk, "" if it is
-    QString fault;  ///< of the last one written, or why there is no lock
+    QString fault;  ///< of the last one written, or that there is no lock
 };
 
 }  // namespace viewer
