@@ -19,6 +19,7 @@
 #include <QTimer>
 
 #include <clocale>
+#include <csignal>
 #include <cstdio>
 #include <optional>
 
@@ -89,15 +90,6 @@ std::optional<int> prepare(const QStringList& arguments, CommandLine& options,
     return std::nullopt;
 }
 
-/// Pictures and sessions are the same on every desktop.
-viewer::Language languageFor(const CommandLine& options)
-{
-    if (options.language) {
-        return *options.language;
-    }
-    return options.isUnattended() ? viewer::Language::English : viewer::memory::language();
-}
-
 int runWindow(QApplication& application, const CommandLine& options,
               const std::optional<viewer::Session>& session)
 {
@@ -114,6 +106,13 @@ int runWindow(QApplication& application, const CommandLine& options,
 
 int main(int argc, char** argv)
 {
+    std::signal(SIGXFSZ, SIG_IGN);  // a file that may not be so large is an error to be told
+    // Warnings of Qt's readers of pictures quote strangers' files, without end.
+    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& text) {
+        if (type == QtCriticalMsg || type == QtFatalMsg) {
+            StartUp::complain(text);
+        }
+    });
     CommandLine options;
     std::optional<viewer::Session> session;
     if (const std::optional<int> status =
@@ -137,7 +136,9 @@ int main(int argc, char** argv)
     QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/nbviewer.svg")));
     // Numbers have a point, whatever the language of the desktop.
     std::setlocale(LC_NUMERIC, "C");
-    viewer::applyLanguage(languageFor(options));
+    // Pictures and sessions are the same on every desktop.
+    viewer::applyLanguage(options.language.value_or(
+        options.isUnattended() ? viewer::Language::English : viewer::memory::language()));
     osg::osgInit(argc, argv);
     const int status = runWindow(application, options, session);
     nbController::clear();

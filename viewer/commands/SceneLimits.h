@@ -24,8 +24,8 @@ bool isSceneNumber(Number number)
     return std::abs(number) <= Number(kLargestNumber);
 }
 
-/// The nearest number that a scene can have, 0 for none: what models and drags add up to beyond the
-/// limits is saved at the limit, as otherwise nothing could be saved.
+/// The nearest number and scale that a scene can have, 0 for none: what models and drags add up to
+/// beyond the limits is saved at the limit, as otherwise nothing could be saved.
 template <class Number>
 Number nearestSceneNumber(Number number)
 {

@@ -41,18 +41,6 @@ QUndoStack& steps()
     return *nbUndoService::the()->getStack();
 }
 
-QStringList modelFilesOf(const SceneDocument& document)
-{
-    QStringList files;
-    for (const SceneModel& model : document.models) {
-        if (!model.file.isEmpty()) {
-            files.append(model.file);
-        }
-    }
-    files.removeDuplicates();
-    return files;
-}
-
 /// Hands out models that were read before, in the order of the document, each file once.
 SceneAssets assetsOf(std::vector<BuiltModel> models)
 {
@@ -144,7 +132,12 @@ void SceneFileActions::open(const QString& path, bool isByPerson)
         emit problem(error);
         return;
     }
-    const QStringList files = modelFilesOf(*document);
+    QStringList files;
+    for (const SceneModel& model : document->models) {
+        files.append(model.file);
+    }
+    files.removeAll(QString());  // built in
+    files.removeDuplicates();
     if (files.isEmpty()) {
         conclude();
     } else {

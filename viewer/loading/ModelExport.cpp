@@ -57,8 +57,10 @@ Value* arrayOf(const std::vector<Value>& values)
 class Export
 {
 public:
-    explicit Export(const QFileInfo& target)
+    /// @param pictureFiles  gets those that go beside the models, by name
+    Export(const QFileInfo& target, std::map<QString, QByteArray>& pictureFiles)
         : file(target)
+        , pictures(pictureFiles)
         , isGltf(file.suffix().startsWith(QLatin1String("gl")))
     { }
 
@@ -74,9 +76,6 @@ public:
         made->mTextures = arrayOf(textures);
         return made;
     }
-
-    /// Files of pictures that go beside that of the models, by name; once.
-    std::map<QString, QByteArray> takePictures() { return std::move(pictures); }
 
 private:
     aiNode* convert(const osg::NodePtr& node)
@@ -130,20 +129,20 @@ private:
     {
         auto* const mesh = new aiMesh;
         mesh->mPrimitiveTypes = aiPrimitiveType_TRIANGLE;
-        std::vector<aiVector3D> positions;
-        std::vector<aiVector3D> normals;
-        std::vector<aiVector3D> texCoords;
-        for (const nbrender::MeshVertex& vertex : source.vertices) {
-            positions.emplace_back(vertex.position[0], vertex.position[1], vertex.position[2]);
-            normals.emplace_back(vertex.normal[0], vertex.normal[1], vertex.normal[2]);
-            texCoords.emplace_back(vertex.texCoord[0], vertex.texCoord[1], 0.0F);
-        }
-        mesh->mNumVertices = static_cast<unsigned>(positions.size());
-        mesh->mVertices = arrayOf(positions);
-        mesh->mNormals = arrayOf(normals);
+        mesh->mNumVertices = static_cast<unsigned>(source.vertices.size());
+        mesh->mVertices = new aiVector3D[mesh->mNumVertices];
+        mesh->mNormals = new aiVector3D[mesh->mNumVertices];
         if (source.hasTexCoords) {
-            mesh->mTextureCoords[0] = arrayOf(texCoords);
+            mesh->mTextureCoords[0] = new aiVector3D[mesh->mNumVertices];
             mesh->mNumUVComponents[0] = 2;
+        }
+        for (unsigned i = 0; i < mesh->mNumVertices; ++i) {
+            const nbrender::MeshVertex& from = source.vertices[i];
+            mesh->mVertices[i] = { from.position[0], from.position[1], from.position[2] };
+            mesh->mNormals[i] = { from.normal[0], from.normal[1], from.normal[2] };
+            if (source.hasTexCoords) {
+                mesh->mTextureCoords[0][i] = { from.texCoord[0], from.texCoord[1], 0.0F };
+            }
         }
         mesh->mNumFaces = static_cast<unsigned>(source.triangles.size() / 3);
         mesh->mFaces = new aiFace[mesh->mNumFaces];
@@ -228,27 +227,14 @@ private:
     }
 
     QFileInfo file;
+    std::map<QString, QByteArray>& pictures;
     bool isGltf;
     std::vector<aiMesh*> meshes;
     std::vector<aiMaterial*> materials;
     std::vector<aiTexture*> textures;
-    std::map<QString, QByteArray> pictures;  ///< beside the file, by name
     std::map<osg::UInt32, unsigned> meshNumbers;  ///< by the ids of geometries
     std::map<osg::UInt32, unsigned> materialNumbers;  ///< by their ids
 };
-
-/// Whether a file that goes with that of the models is new or came with it before: nobody was asked
-/// about another one, and a link leads elsewhere.
-bool isOwn(const QFileInfo& models, const QString& name, QString& error)
-{
-    const QFileInfo part(models.dir(), name);
-    if (name == models.fileName() || (!part.isSymLink() && (models.exists() || !part.exists()))) {
-        return true;
-    }
-    error =
-        oneLine(Text::tr("%1: is there already and belongs to another file").arg(part.filePath()));
-    return false;
-}
 
 }  // namespace
 
@@ -259,44 +245,52 @@ QStringList exportEndings()
 
 bool exportModels(const QString& path, QString& error)
 {
+    const auto fail = [&error](const QString& what) {
+        error = oneLine(what);
+        return false;
+    };
     const QFileInfo target(path);
     const int kind = exportEndings().indexOf(target.suffix().toLower());
     if (kind < 0) {
-        error = oneLine(Text::tr("%1: models are exported to %2")
-                            .arg(path, exportEndings().join(QStringLiteral(", "))));
-        return false;
+        return fail(
+            Text::tr("%1: models are exported to %2").arg(path, exportEndings().join(", ")));
+    }
+    std::map<QString, QByteArray> parts;
+    const std::unique_ptr<aiScene> scene = Export(target, parts).scene();
+    if (scene->mNumMeshes == 0) {
+        return fail(Text::tr("there is nothing to export"));
     }
     // Made in memory and written when all of it is there: a full disk leaves what was there.
     Assimp::Exporter exporter;
     Assimp::ExportProperties properties;
     properties.SetPropertyString(AI_CONFIG_EXPORT_BLOB_NAME, target.fileName().toStdString());
-    Export models(target);
-    const std::unique_ptr<aiScene> scene = models.scene();
     static constexpr const char* kKinds[] = { "glb2", "gltf2", "obj", "ply", "stl" };
-    const aiExportDataBlob* made = scene->mNumMeshes == 0
-        ? nullptr
-        : exporter.ExportToBlob(scene.get(), kKinds[kind], 0U, &properties);
+    const aiExportDataBlob* made =
+        exporter.ExportToBlob(scene.get(), kKinds[kind], 0U, &properties);
     if (made == nullptr) {
-        error = scene->mNumMeshes == 0
-            ? Text::tr("there is nothing to export")
-            : oneLine(QStringLiteral("%1: %2").arg(path, exporter.GetErrorString()));
-        return false;
+        return fail(QStringLiteral("%1: %2").arg(path, exporter.GetErrorString()));
     }
-    std::map<QString, QByteArray> parts = models.takePictures();
     for (; made != nullptr; made = made->next) {
         if (made->size > std::size_t(std::numeric_limits<int>::max())) {
-            error = oneLine(Text::tr("%1: cannot be written").arg(path));
-            return false;
+            return fail(Text::tr("%1: cannot be written").arg(path));
         }
         const QString ending = QFileInfo(made->name.C_Str()).suffix();
         parts[ending.isEmpty() ? target.fileName() : target.completeBaseName() + '.' + ending] =
             QByteArray(static_cast<const char*>(made->data), static_cast<int>(made->size));
     }
-    const auto mayBeWritten = [&](const auto& part) { return isOwn(target, part.first, error); };
-    return std::all_of(parts.begin(), parts.end(), mayBeWritten) &&
-        std::all_of(parts.begin(), parts.end(), [&](const auto& part) {
-               return writeWhole(target.dir().filePath(part.first), part.second, error);
-           });
+    // Nobody was asked about what goes beside and is there without the models; links lead
+    // elsewhere.
+    for (const auto& entry : parts) {
+        const QFileInfo part(target.dir(), entry.first);
+        if (entry.first != target.fileName() &&
+            (part.isSymLink() || (part.exists() && !target.exists()))) {
+            return fail(
+                Text::tr("%1: is there already and belongs to another file").arg(part.filePath()));
+        }
+    }
+    return std::all_of(parts.begin(), parts.end(), [&](const auto& part) {
+        return writeWhole(target.dir().filePath(part.first), part.second, error);
+    });
 }
 
 }  // namespace viewer

@@ -128,7 +128,8 @@ bool ModelReader::start(QString& error)
         return true;
     }
     program = std::make_unique<QProcess>();
-    program->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    // What its libraries say quotes strangers' files, and may be without end.
+    program->setStandardErrorFile(QProcess::nullDevice());
     program->start(limits.program.isEmpty() ? readerProgram() : limits.program,
                    { QString::number(limits.memoryBytes), QString::number(pictureBudget()),
                      languageName(appliedLanguage()) });
