@@ -18,6 +18,7 @@
 #include <QSurfaceFormat>
 #include <QTimer>
 
+#include <atomic>
 #include <clocale>
 #include <csignal>
 #include <cstdio>
@@ -108,8 +109,9 @@ int main(int argc, char** argv)
 {
     std::signal(SIGXFSZ, SIG_IGN);  // a file that may not be so large is an error to be told
     // Warnings of Qt's readers of pictures quote strangers' files, without end.
-    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& text) {
-        if (type == QtCriticalMsg || type == QtFatalMsg) {
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& text) {
+        static std::atomic<int> left { 20 };
+        if (left-- > 0) {
             StartUp::complain(text);
         }
     });
