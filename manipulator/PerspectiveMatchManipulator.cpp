@@ -14,7 +14,6 @@
 #include <nbKernelServices/nbdPerspectiveMatch.h>
 #include <nbMagnifier/nbMagnifierRenderer.h>
 #include <nbOpenSGExt/nbContainerId.h>
-#include <nbOpenSGExt/nbIsFinite.h>
 #include <nbOpenSGUberCamera/nbUberCameraPool.h>
 #include <nbUtils/nbGuard.h>
 
@@ -283,7 +282,8 @@ nbdCameraNode PerspectiveMatchManipulator::getNbdCameraNode() const
 void PerspectiveMatchManipulator::setLine(PerspectiveMatchLine which, const osg::Line2D& value)
 {
     const nbdCameraNode camera = getNbdCameraNode();
-    if (which == PerspectiveMatchLine::NoLine || camera.isNull() || camera.isLocked()) {
+    if (which == PerspectiveMatchLine::NoLine || !match::isMatchLineShown(value) ||
+        camera.isNull() || camera.isLocked()) {
         return;
     }
     const QString title =
@@ -349,7 +349,7 @@ void PerspectiveMatchManipulator::beginDrag(const View& view)
 /// Lets go of what is held or hovered; a magnifier over it vanishes.
 void PerspectiveMatchManipulator::endDrag()
 {
-    if (grabbed) {
+    if (grabbed || dragging) {
         nbMagnifierRenderer::setVisible(false);
     }
     if (dragging) {
@@ -386,11 +386,10 @@ DragParameters PerspectiveMatchManipulator::parametersAt(const View& view) const
     osg::Line2D laid;
     const LineRule rule = lineRule;  // which may replace itself
     const auto lay = [&] { laid = rule(movedLine(way), handle); };
-    if (rule && nbGuarded("PerspectiveMatchManipulator: the rule of lines", lay)) {
-        const osg::Vec2f ruled = handle == match::kSecondEnd
-            ? laid.getSecond() - lineAtDragStart.getSecond()
-            : laid.getFirst() - lineAtDragStart.getFirst();
-        way = nbIsFinite(ruled) ? ruled : way;
+    if (rule && nbGuarded("PerspectiveMatchManipulator: the rule of lines", lay) &&
+        match::isMatchLineShown(laid)) {
+        way = handle == match::kSecondEnd ? laid.getSecond() - lineAtDragStart.getSecond()
+                                          : laid.getFirst() - lineAtDragStart.getFirst();
     }
     return { DragParameters::Kind::Offset, osg::Vec3f(way.x(), way.y(), 0.0F) };
 }

@@ -302,11 +302,13 @@ TEST_F(PerspectiveMatchManipulatorTest, TheMagnifierShowsExactlyWhileAnEndIsHeld
     EXPECT_FALSE(nbMagnifierRenderer::isVisible()) << "a line is held";
     scene.send("stop", from);
 
-    for (const bool isDeleted : { false, true }) {
+    for (const bool isDeleted : { true, false }) {
         auto other = std::make_unique<PerspectiveMatchManipulator>();
         scene.manager.removeContext(&scene.context);
         scene.installFor(*other);
-        ASSERT_TRUE(scene.grab(match().getZLine1().p1()));
+        const QPointF end = match().getZLine1().p1();
+        ASSERT_TRUE(isDeleted ? scene.send("hover", scene.pixelOf(end)) : scene.grab(end));
+        scene.send("process", from);
         scene.send("process", from);
         EXPECT_TRUE(nbMagnifierRenderer::isVisible());
         // Past the manager, which would stop the drag.

@@ -13,7 +13,6 @@ TEST(nbManipulatorMaterials, ProjectionMaterialHoldsOneShaderWithTwoUniforms)
         osg::Color4f(1.0F, 0.5F, 0.25F, 0.75F), -3);
     ASSERT_EQ(material->getMFChunks()->size(), 1U);
     const osg::SHLChunkPtr shader = osg::SHLChunkPtr::dcast(material->getChunks(0));
-    ASSERT_NE(shader, osg::NullFC);
 
     const auto& parameters = *shader->getMFParameters();
     ASSERT_EQ(parameters.size(), 2U);
