@@ -15,17 +15,15 @@ using namespace osg;
 
 namespace {
 
-/// A geometry of primitives over the same points.
-GeometryPtr makeGeometry(const std::vector<std::pair<GLenum, UInt32>>& primitives,
-                         const std::vector<Pnt3f>& points, const std::vector<UInt32>& indices = {})
+/// A geometry of one primitive.
+GeometryPtr makeGeometry(GLenum type, UInt32 length, const std::vector<Pnt3f>& points,
+                         const std::vector<UInt32>& indices = {})
 {
     const GeometryPtr geometry = Geometry::create();
     const GeoPTypesUI8Ptr types = GeoPTypesUI8::create();
     const GeoPLengthsUI32Ptr lengths = GeoPLengthsUI32::create();
-    for (const auto& primitive : primitives) {
-        types->addValue(primitive.first);
-        lengths->addValue(primitive.second);
-    }
+    types->addValue(type);
+    lengths->addValue(length);
     const GeoPositions3fPtr positions = GeoPositions3f::create();
     positions->getField().getValues().assign(points.begin(), points.end());
     geometry->setTypes(types);
@@ -63,7 +61,7 @@ using Corners = std::vector<std::vector<Int32>>;
 TEST(Geometry, AnEditOfAPropertyReachesAllGeometriesThatShareIt)
 {
     const RefPtr<NodePtr> root(makeCoredNode<Group>());
-    const GeometryPtr first = makeGeometry({ { GL_QUADS, 4 } }, kSquare);
+    const GeometryPtr first = makeGeometry(GL_QUADS, 4, kSquare);
     const GeometryPtr second = first->clone();
     const GeoPositions3fPtr positions = GeoPositions3fPtr::dcast(first->getPositions());
     second->setPositions(positions);
@@ -85,7 +83,7 @@ TEST(Geometry, AnEditOfAPropertyReachesAllGeometriesThatShareIt)
 
 TEST(Geometry, OnlyVerticesOfPrimitivesCountForTheVolume)
 {
-    const RefPtr<NodePtr> node(makeNodeFor(makeGeometry({ { GL_LINES, 2 } }, kSquare, { 0, 1 })));
+    const RefPtr<NodePtr> node(makeNodeFor(makeGeometry(GL_LINES, 2, kSquare, { 0, 1 })));
     EXPECT_EQ(node->getVolume(true).getMax(), Pnt3f(1.f, 0.f, 0.f));
 
     const RefPtr<NodePtr> bare(makeNodeFor(Geometry::create()));
@@ -94,7 +92,7 @@ TEST(Geometry, OnlyVerticesOfPrimitivesCountForTheVolume)
 
 TEST(Geometry, BrokenDataReadAsZerosAndDoNotCrash)
 {
-    const RefPtr<GeometryPtr> wild(makeGeometry({ { GL_TRIANGLES, 6 } }, kSquare, { 0, 1, 99 }));
+    const RefPtr<GeometryPtr> wild(makeGeometry(GL_TRIANGLES, 6, kSquare, { 0, 1, 99 }));
     TriangleIterator it = wild->beginTriangles();
     EXPECT_EQ(it.getPosition(1), kSquare[1]);
     EXPECT_EQ(it.getPosition(2), Pnt3f());
@@ -102,8 +100,7 @@ TEST(Geometry, BrokenDataReadAsZerosAndDoNotCrash)
     EXPECT_EQ(it.getPositionIndex(0), -1);
     EXPECT_EQ(it.getNormal(0), Vec3f());
 
-    const RefPtr<NodePtr> longer(
-        makeNodeFor(makeGeometry({ { GL_POLYGON, 4000000000u } }, kSquare)));
+    const RefPtr<NodePtr> longer(makeNodeFor(makeGeometry(GL_POLYGON, 4000000000u, kSquare)));
     EXPECT_EQ(longer->getVolume(true).getMax(), Pnt3f(1.f, 1.f, 0.f));
     calcVertexNormals(wild);
     EXPECT_EQ(wild->getNormals(), NullFC) << "no complete triangle";
@@ -132,7 +129,7 @@ TEST(Iterators, SplitEveryKindOfPrimitive)
     };
 
     for (const auto& [name, type, length, triangles, lines] : cases) {
-        const RefPtr<GeometryPtr> geometry(makeGeometry({ { type, length } }, points));
+        const RefPtr<GeometryPtr> geometry(makeGeometry(type, length, points));
         EXPECT_EQ(cornersFrom(geometry->beginTriangles()), triangles) << name;
         EXPECT_EQ(cornersFrom(geometry->beginLines()), lines) << name;
     }

@@ -128,11 +128,8 @@ TEST_F(TextureValuesTest, SwitchingTheProjectionFitsWhatWasNeverUsed)
     setImage(20, 10);
     object = root.get();
     editor->setMaterial(material.get(), object, kDiffuse);
-    {
-        const nbEdit edit(place, osg::Transform3D::PartsFieldMask);
-        place->setScale(osg::Vec3f(2.f, 1.f, 1.f));
-        place->setRotation(osg::Vec3f(0.f, 0.f, 45.f));
-    }
+    nbtest::edited(place)->setScale(osg::Vec3f(2.f, 1.f, 1.f));
+    nbtest::edited(place)->setRotation(osg::Vec3f(0.f, 0.f, 45.f));
     ASSERT_TRUE(editor->setTextureProjectionType(Settings::TriplanarProjection));
     // Pictures 2 units high (half of 4) and 4 units wide.
     expectNear(values().triplanarRepeatU, { 25.f, 25.f, 25.f }, "u");

@@ -44,12 +44,10 @@ protected:
 
 TEST_F(nbMaterialEditorTest, OffsetAloneMovesWithinThePlaneAndRotateTurnsBackwardsAboutOwnZ)
 {
-    {
-        const nbEdit edit(projection(), osg::Transform3D::PartsFieldMask);
-        projection()->setRotation(osg::Vec3f(0.f, 90.f, 0.f));
-        projection()->setRotationOrientation(osg::Quaternion(osg::Vec3f(0.f, 0.f, 1.f), kHalfPi));
-        projection()->setScale(osg::Vec3f(2.f, 2.f, 2.f));
-    }
+    const osg::Quaternion aboutZ(osg::Vec3f(0.f, 0.f, 1.f), kHalfPi);
+    nbtest::edited(projection())->setRotation(osg::Vec3f(0.f, 90.f, 0.f));
+    nbtest::edited(projection())->setRotationOrientation(aboutZ);
+    nbtest::edited(projection())->setScale(osg::Vec3f(2.f, 2.f, 2.f));
     // Own X looks to Y, own Y to +Z, and Z to X.
     change({ { "offset", osg::Vec2f(1.f, 3.f) } });
     expectNear(projection()->getTranslation(), { 0.f, 1.f, 3.f }, "offset");
@@ -59,8 +57,7 @@ TEST_F(nbMaterialEditorTest, OffsetAloneMovesWithinThePlaneAndRotateTurnsBackwar
     change({ { "rotate", kHalfPi } });
     expectNear(direction(0.f, 0.f, 1.f), { 2.f, 0.f, 0.f }, "own z stays");
     expectNear(direction(1.f, 0.f, 0.f), { 0.f, 0.f, -2.f }, "own x turned by -90 degrees");
-    EXPECT_EQ(projection()->getRotationOrientation(),
-              osg::Quaternion(osg::Vec3f(0.f, 0.f, 1.f), kHalfPi));
+    EXPECT_EQ(projection()->getRotationOrientation(), aboutZ);
     change({ { "rotate", 0.f } });
     EXPECT_EQ(projection()->getRotationMode(), osg::Transform3D::EulerMode)
         << "back at the start nothing has changed";

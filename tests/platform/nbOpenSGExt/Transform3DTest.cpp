@@ -27,14 +27,11 @@ osg::Pnt3f image(const osg::Transform3DRefPtr& transform)
 TEST(Transform3D, MatrixTakesItsPartsInOrder)
 {
     const osg::Transform3DRefPtr transform(osg::Transform3D::create());
-    {
-        const nbEdit edit(transform.get(), osg::FieldBits::AllFields);
-        transform->setTranslation(osg::Vec3f(1.f, 2.f, 3.f));
-        transform->setRotatePivot(osg::Vec3f(1.f, 0.f, 0.f));
-        transform->setScalePivot(osg::Vec3f(0.f, 1.f, 0.f));
-        transform->setRotation(osg::Vec3f(0.f, 0.f, 90.f));
-        transform->setScale(osg::Vec3f(2.f, 3.f, 4.f));
-    }
+    nbtest::edited(transform)->setTranslation(osg::Vec3f(1.f, 2.f, 3.f));
+    nbtest::edited(transform)->setRotatePivot(osg::Vec3f(1.f, 0.f, 0.f));
+    nbtest::edited(transform)->setScalePivot(osg::Vec3f(0.f, 1.f, 0.f));
+    nbtest::edited(transform)->setRotation(osg::Vec3f(0.f, 0.f, 90.f));
+    nbtest::edited(transform)->setScale(osg::Vec3f(2.f, 3.f, 4.f));
 
     // (1,1,1): about the scale pivot (2,1,4), about the rotate pivot (0,1,4), moved (1,3,7).
     EXPECT_TRUE(image(transform).equals(osg::Pnt3f(1.f, 3.f, 7.f), kTolerance));

@@ -68,11 +68,8 @@ TEST_F(nbRenderClippingTest, MovingTheTransformNodeMovesTheCut)
     EXPECT_EQ(at(before, 0.f, 0.5f), kRed);
     EXPECT_NE(at(before, 0.f, -0.5f), kRed);
 
-    {
-        const nbEdit edit(mover, osg::Transform3D::PartsFieldMask);
-        mover->setTranslation(osg::Vec3f(0.5f, 0.f, 0.f));
-        mover->setRotation(osg::Vec3f(0.f, 0.f, 90.f));
-    }
+    nbtest::edited(mover)->setTranslation(osg::Vec3f(0.5f, 0.f, 0.f));
+    nbtest::edited(mover)->setRotation(osg::Vec3f(0.f, 0.f, 90.f));
     const QImage after = redraw();
 
     // Up has turned to the left of x = 0.5.

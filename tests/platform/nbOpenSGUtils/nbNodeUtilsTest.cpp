@@ -96,16 +96,12 @@ TEST_F(ConversionTest, ComponentTransformKeepsItsCentreAsPivots)
     for (const bool turnedScale : { false, true }) {
         SetUp();
         const osg::ComponentTransformPtr core = osg::ComponentTransform::create();
-        {
-            const nbEdit edit(core, osg::FieldBits::AllFields);
-            core->setTranslation(osg::Vec3f(1.f, 2.f, 3.f));
-            core->setCenter(osg::Vec3f(4.f, 5.f, 6.f));
-            core->setRotation(osg::Quaternion(osg::Vec3f(0.f, 1.f, 1.f), 0.5f));
-            core->setScale(osg::Vec3f(1.f, 2.f, 3.f));
-            if (turnedScale) {
-                core->setScaleOrientation(osg::Quaternion(osg::Vec3f(1.f, 0.f, 0.f), 0.7f));
-            }
-        }
+        const osg::Quaternion orientation(osg::Vec3f(1.f, 0.f, 0.f), turnedScale ? 0.7f : 0.f);
+        nbtest::edited(core)->setTranslation(osg::Vec3f(1.f, 2.f, 3.f));
+        nbtest::edited(core)->setCenter(osg::Vec3f(4.f, 5.f, 6.f));
+        nbtest::edited(core)->setRotation(osg::Quaternion(osg::Vec3f(0.f, 1.f, 1.f), 0.5f));
+        nbtest::edited(core)->setScale(osg::Vec3f(1.f, 2.f, 3.f));
+        nbtest::edited(core)->setScaleOrientation(orientation);
         node->setCore(core);
 
         convertAndCompare();

@@ -19,12 +19,9 @@ inline osg::NodePtr transformed(const osg::NodePtr& child, const osg::Vec3f& tra
 {
     osg::Transform3DPtr core;
     const osg::NodePtr node = osg::makeCoredNode<osg::Transform3D>(&core);
-    {
-        const nbEdit edit(core, osg::Transform3D::PartsFieldMask);
-        core->setTranslation(translation);
-        core->setRotation(rotationDeg);
-        core->setScale(scale);
-    }
+    nbtest::edited(core)->setTranslation(translation);
+    nbtest::edited(core)->setRotation(rotationDeg);
+    nbtest::edited(core)->setScale(scale);
     node->addChild(child);
     return node;
 }
@@ -73,10 +70,9 @@ struct PictureMaterial
     void place(const osg::Vec3f& translation, const osg::Vec3f& scale,
                const osg::Vec3f& rotationDeg = osg::Vec3f(0.f, 0.f, 0.f))
     {
-        const nbEdit edit(projection, osg::Transform3D::PartsFieldMask);
-        projection->setTranslation(translation);
-        projection->setScale(scale);
-        projection->setRotation(rotationDeg);
+        nbtest::edited(projection)->setTranslation(translation);
+        nbtest::edited(projection)->setScale(scale);
+        nbtest::edited(projection)->setRotation(rotationDeg);
     }
 
     void setOrientation(float radians)
@@ -89,9 +85,8 @@ struct PictureMaterial
 
     void setMask(bool asMask, bool invert)
     {
-        const nbEdit edit(settings, osg::FieldBits::AllFields);
-        settings->setAsMask(asMask);
-        settings->setInvert(invert);
+        nbtest::edited(settings)->setAsMask(asMask);
+        nbtest::edited(settings)->setInvert(invert);
     }
 
     std::string component;

@@ -119,11 +119,8 @@ inline osg::NodePtr placed(const osg::NodePtr& child, const osg::Vec3f& translat
 {
     osg::ComponentTransformPtr core;
     const osg::NodePtr node = osg::makeCoredNode<osg::ComponentTransform>(&core);
-    {
-        const nbEdit edit(core, osg::FieldBits::AllFields);
-        core->setTranslation(translation);
-        core->setRotation(rotation);
-    }
+    nbtest::edited(core)->setTranslation(translation);
+    nbtest::edited(core)->setRotation(rotation);
     node->addChild(child);
     return node;
 }

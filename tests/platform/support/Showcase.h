@@ -10,9 +10,7 @@ namespace rendertest {
 
 inline void setDiffuse(const osg::MaterialPtr& material, const QColor& c)
 {
-    const auto simple = osg::SimpleMaterialPtr::dcast(material);
-    const nbEdit edit(simple, osg::SimpleMaterial::DiffuseFieldMask);
-    simple->setDiffuse(color(c));
+    nbtest::edited(osg::SimpleMaterialPtr::dcast(material))->setDiffuse(color(c));
 }
 
 inline osg::MaterialPtr materialOf(const osg::NodePtr& placedGeometry)
@@ -51,8 +49,7 @@ inline osg::TextureChunkPtr textureChunk()
 inline void turn(const osg::NodePtr& node, float z)
 {
     const auto core = osg::ComponentTransformPtr::dcast(node->getCore());
-    const nbEdit edit(core, osg::FieldBits::AllFields);
-    core->setTranslation(core->getTranslation() + osg::Vec3f(0.f, 0.f, z));
+    nbtest::edited(core)->setTranslation(core->getTranslation() + osg::Vec3f(0.f, 0.f, z));
 }
 
 /// One of each thing that a picture depends on, in a perspective view.
