@@ -71,10 +71,11 @@ std::optional<osg::Pnt3f> followPlane(const osg::Plane& plane, const std::option
     if (!ray || !intersectPlane(plane, *ray, hit)) {
         return std::nullopt;
     }
-    if (!track.start) {
-        track.start = hit;
-    }
-    return hit;
+    // Rays through one pixel differ by their rounding while near and far follow the scene.
+    const bool isBack = track.start &&
+        (hit - *track.start).length() < kShortest * (hit - ray->getPosition()).length();
+    track.start = track.start ? track.start : hit;
+    return isBack ? *track.start : hit;
 }
 
 osg::Vec3f axisPlaneNormal(const osg::Vec3f& axis, const osg::Vec3f& view)

@@ -68,20 +68,21 @@ osg::Matrix RingDrag::frame(osg::UInt32 axis) const
 std::optional<osg::Pnt3f> RingDrag::follow(const std::optional<osg::Line>& ray,
                                            DragTrack& track) const
 {
-    const bool isFirst = !track.start;
-    std::optional<osg::Pnt3f> hit = followPlane(plane(), ray, track);
+    DragTrack met = track;
+    met.start = isWire ? track.grabbed : track.start;
+    std::optional<osg::Pnt3f> hit = followPlane(plane(), ray, met);
     if (hit && isWire) {
         // Back where it was grabbed the bead is as well, whichever way the pointer has come.
         const double from =
             track.grabbed == hit ? kWholeTurn * std::round(track.bead / kWholeTurn) : track.bead;
-        track.grabbed = track.grabbed ? track.grabbed : hit;
+        track.grabbed = met.start;
         track.bead = beadAt(osg::Vec3d(*hit - center), from);
         const osg::Vec3d arm = armAt(track.bead);
         hit = center +
             osg::Vec3f(static_cast<float>(arm.x()), static_cast<float>(arm.y()),
                        static_cast<float>(arm.z()));
-        track.start = isFirst ? hit : track.start;
     }
+    track.start = track.start ? track.start : hit;
     return hit;
 }
 

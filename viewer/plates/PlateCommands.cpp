@@ -291,15 +291,12 @@ void addField(Stage& stage, PlatesTool& tool, const PlateField& field)
 bool setAnchor(Stage& stage, PlatesTool& tool, const QJsonValue& value, QString& error)
 {
     const std::optional<osg::Int32> anchor = anchorFromName(value.toString());
-    if (!tool.hasSelection(error)) {
-        return false;
-    }
     if (!anchor) {
         return refuse("anchor", "expected a place such as \"topLeft\"", error);
     }
     nbSceneplateEditing::setAnchor(tool.selected(), *anchor, stage.view().getWidth(),
                                    stage.view().getHeight());
-    return true;
+    return tool.hasSelection(error);
 }
 
 bool rename(Stage& /*stage*/, PlatesTool& tool, const QJsonValue& value, QString& error)
