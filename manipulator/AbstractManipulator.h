@@ -24,8 +24,8 @@ struct DragLimits;
 ///
 /// The visualisation hangs under the root exactly while the manipulator is active. While a handle
 /// is hovered the scene's own hover highlighting (preselection) is off; a manipulator switches on
-/// only what it has switched off. A copy holds the same root. A manipulator is deactivated before it
-/// dies: the destructor detaches nothing. All operations run on the user-interface thread.
+/// only what it has switched off. A copy holds the same root. A manipulator is deactivated before
+/// it dies: the destructor detaches nothing. All operations run on the user-interface thread.
 class NB_MANIPULATOR_API AbstractManipulator : public Manipulator
 {
 public:
