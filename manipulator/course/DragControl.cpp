@@ -147,26 +147,28 @@ void DragControl::changed(const DragParameters& parameters)
     note(DragEvent::Phase::Change);
 }
 
-/// Beside the pointer: below to the right, above it at the view's lower edge. At the right edge it
-/// begins in the last pixel, from where it is moved back into the view.
+/// Beside the pointer, below to the right; at the view's right or lower edge moved back into the
+/// view, but above the pointer in the corner of both. The host moves what begins in the last pixel.
 void DragControl::showReadout() const
 {
     static ValueText text("dragReadout");
     constexpr float kBesidePx = 16.0F;
     constexpr float kHeightPx = 26.0F;
+    constexpr float kWidthPx = 240.0F;  // of long ones
     if (!isReadoutShown) {
         return;
     }
     const View view;
     const float ratio = nbOSGWidget::getPixelRatio(-1, pixelRatio);
-    const float width = static_cast<float>(view.getWidth()) / ratio;
-    const float height = static_cast<float>(view.getHeight()) / ratio;
+    const float right = static_cast<float>(view.getWidth()) / ratio;
+    const float bottom = static_cast<float>(view.getHeight()) / ratio;
     const osg::Pnt2f pointer = lastPointer * (1.0F / ratio);
-    const float below = pointer.y() + kBesidePx;
-    text.showAt(getReadout(),
-                { std::min(pointer.x() + kBesidePx, width - 1.0F),
-                  below + kHeightPx > height ? std::min(pointer.y(), height) - kBesidePx - kHeightPx
-                                             : below });
+    const osg::Pnt2f beside = pointer + osg::Vec2f(kBesidePx, kBesidePx);
+    const float lowest = beside.x() + kWidthPx > right ? pointer.y() - kBesidePx : bottom;
+    text.showAt(
+        getReadout(),
+        { std::min(beside.x(), right - 1.0F),
+          beside.y() + kHeightPx > bottom ? std::min(lowest, bottom) - kHeightPx : beside.y() });
 }
 
 void DragControl::ended()
