@@ -40,11 +40,13 @@ protected:
 const char* const kQuadObj =
     "mtllib quad.mtl\no Quad\nv 0 0 0\nv 2 0 0\nv 2 1 0\nv 0 1 0\nusemtl Red\nf 1 2 3 4\n";
 
-TEST_F(ModelReaderTest, ObjKeepsNamesAndColours)
+TEST_F(ModelReaderTest, ObjKeepsNamesAndColoursAlsoAfterAMark)
 {
-    write("quad.mtl", "newmtl Red\nKd 0.75 0.25 0.125\nKs 0.5 0.5 0.5\nNs 32\nd 0.5\n");
+    // Some programs begin texts with a mark of UTF-8.
+    const QByteArray mark("\xef\xbb\xbf");
+    write("quad.mtl", mark + "newmtl Red\nKd 0.75 0.25 0.125\nKs 0.5 0.5 0.5\nNs 32\nd 0.5\n");
 
-    const auto model = reader.read(write("quad.obj", kQuadObj), {}, error);
+    const auto model = reader.read(write("quad.obj", mark + kQuadObj), {}, error);
 
     ASSERT_TRUE(model) << error.toStdString();
     EXPECT_EQ(model->root.name, "quad");

@@ -19,6 +19,7 @@
 
 #include <assimp/DefaultIOSystem.h>
 #include <assimp/Importer.hpp>
+#include <assimp/MemoryIOWrapper.h>
 #include <assimp/ProgressHandler.hpp>
 #include <assimp/config.h>
 #include <assimp/postprocess.h>
@@ -80,6 +81,13 @@ std::optional<ModelData> fail(const QString& what, QString& error)
     return std::nullopt;
 }
 
+/// Goes past a mark of UTF-8, which the importer would take for a part of the first word.
+bool skipMark(QFile& file)
+{
+    static const QByteArray kMark("\xef\xbb\xbf");
+    return file.peek(kMark.size()) == kMark && file.seek(kMark.size());
+}
+
 /// Opens what a model file refers to: regular files, and none to be written.
 class Files : public Assimp::DefaultIOSystem
 {
@@ -93,8 +101,17 @@ public:
 
     Assimp::IOStream* Open(const char* file, const char* mode) override
     {
-        const bool isAllowed = std::strchr(mode, 'r') != nullptr && Exists(file);
-        return isAllowed ? Assimp::DefaultIOSystem::Open(file, mode) : nullptr;
+        if (std::strchr(mode, 'r') == nullptr || !Exists(file)) {
+            return nullptr;
+        }
+        QFile text(QFile::decodeName(file));
+        if (!text.open(QIODevice::ReadOnly) || !skipMark(text)) {
+            return Assimp::DefaultIOSystem::Open(file, mode);
+        }
+        const QByteArray rest = text.readAll();
+        auto* const bytes = new std::uint8_t[rest.size()];
+        std::copy(rest.begin(), rest.end(), bytes);
+        return new Assimp::MemoryIOStream(bytes, rest.size(), true);  // which owns them
     }
 };
 
@@ -122,6 +139,7 @@ int findLostCorner(const QString& path)
     if (!file.open(QIODevice::ReadOnly)) {
         return 0;
     }
+    skipMark(file);
     QByteArrayList lines = file.readAll().split('\n');
     const auto vertices = std::count_if(lines.begin(), lines.end(), [](const QByteArray& line) {
         return line.startsWith("v ") || line.startsWith("v\t");
