@@ -24,6 +24,8 @@
 #include <cstdio>
 #include <optional>
 
+#include <sys/resource.h>
+
 namespace {
 
 using viewer::CommandLine;
@@ -46,6 +48,19 @@ QStringList argumentsAfterName(int argc, char** argv)
         arguments.append(QString::fromLocal8Bit(argv[i]));
     }
     return arguments;
+}
+
+/// Whether the system allows what starting takes; with less, libraries wait for ever or fault.
+bool hasResources(QString& error)
+{
+    constexpr rlim_t kFewestFiles = 32;
+    constexpr rlim_t kLeastMemory = 1024 * 1024 * 1024;
+    rlimit files {};
+    rlimit memory {};
+    getrlimit(RLIMIT_NOFILE, &files);
+    getrlimit(RLIMIT_AS, &memory);
+    error = "the system allows too little: 32 open files and 1 GiB of memory are needed";
+    return files.rlim_cur >= kFewestFiles && memory.rlim_cur >= kLeastMemory;
 }
 
 /// Looks through the command line before any window exists.
@@ -74,7 +89,7 @@ std::optional<int> prepare(const QStringList& arguments, CommandLine& options,
         std::printf("nbviewer %s\n", viewer::programVersion());
         return 0;
     }
-    if (!viewer::checkCommandLine(options, error)) {
+    if (!hasResources(error) || !viewer::checkCommandLine(options, error)) {
         return refuse();
     }
     if (!options.session.isEmpty()) {
