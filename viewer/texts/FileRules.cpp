@@ -115,13 +115,9 @@ bool writeWhole(const QString& path, const QByteArray& text, QString& error)
     }
     QSaveFile file(path);
     // A buffer would tell of a full disk only when its text is lost.
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) ||
-        file.write(text) != text.size() || !file.commit()) {
+    return (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
+            file.write(text) == text.size() && file.commit()) ||
         fail(path, file.errorString(), error);
-        file.cancelWriting();
-        return false;
-    }
-    return true;
 }
 
 }  // namespace viewer
