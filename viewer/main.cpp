@@ -53,14 +53,11 @@ QStringList argumentsAfterName(int argc, char** argv)
 /// Whether the system allows what starting takes; with less, libraries wait for ever or fault.
 bool hasResources(QString& error)
 {
-    constexpr rlim_t kFewestFiles = 32;
-    constexpr rlim_t kLeastMemory = 1024 * 1024 * 1024;
     rlimit files {};
-    rlimit memory {};
-    getrlimit(RLIMIT_NOFILE, &files);
-    getrlimit(RLIMIT_AS, &memory);
+    rlimit bytes {};
     error = "the system allows too little: 32 open files and 1 GiB of memory are needed";
-    return files.rlim_cur >= kFewestFiles && memory.rlim_cur >= kLeastMemory;
+    return getrlimit(RLIMIT_NOFILE, &files) == 0 && getrlimit(RLIMIT_AS, &bytes) == 0 &&
+        files.rlim_cur >= 32 && bytes.rlim_cur >= 1U << 30;
 }
 
 /// Looks through the command line before any window exists.

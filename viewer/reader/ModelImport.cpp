@@ -84,8 +84,7 @@ std::optional<ModelData> fail(const QString& what, QString& error)
 /// Goes past a mark of UTF-8, which the importer would take for a part of the first word.
 bool skipMark(QFile& file)
 {
-    static const QByteArray kMark("\xef\xbb\xbf");
-    return file.peek(kMark.size()) == kMark && file.seek(kMark.size());
+    return file.peek(3) == "\xef\xbb\xbf" && file.seek(3);
 }
 
 /// Opens what a model file refers to: regular files, and none to be written.
@@ -101,35 +100,24 @@ public:
 
     Assimp::IOStream* Open(const char* file, const char* mode) override
     {
-        if (std::strchr(mode, 'r') == nullptr || !Exists(file)) {
-            return nullptr;
-        }
+        const bool isAllowed = std::strchr(mode, 'r') != nullptr && Exists(file);
         QFile text(QFile::decodeName(file));
-        if (!text.open(QIODevice::ReadOnly) || !skipMark(text)) {
-            return Assimp::DefaultIOSystem::Open(file, mode);
+        if (isAllowed && text.open(QIODevice::ReadOnly) && skipMark(text)) {
+            const QByteArray rest = text.readAll();
+            auto* const bytes = new std::uint8_t[rest.size()];
+            std::copy(rest.begin(), rest.end(), bytes);
+            return new Assimp::MemoryIOStream(bytes, rest.size(), true);  // which owns them
         }
-        const QByteArray rest = text.readAll();
-        auto* const bytes = new std::uint8_t[rest.size()];
-        std::copy(rest.begin(), rest.end(), bytes);
-        return new Assimp::MemoryIOStream(bytes, rest.size(), true);  // which owns them
+        return isAllowed ? Assimp::DefaultIOSystem::Open(file, mode) : nullptr;
     }
 };
 
 /// Whether the header of a PLY file reaches its end; the importer would look for it for ever.
 bool isPlyHeaderWhole(const QString& path)
 {
-    constexpr qint64 kLongestLine = 65536;
+    constexpr qint64 kLongestHeader = 1 << 20;
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return false;
-    }
-    while (!file.atEnd()) {
-        // Files of old systems end their lines with a carriage return alone.
-        if (file.readLine(kLongestLine).contains("end_header")) {
-            return true;
-        }
-    }
-    return false;
+    return file.open(QIODevice::ReadOnly) && file.read(kLongestHeader).contains("end_header");
 }
 
 /// Number of the first line of an OBJ file that names a vertex that there is not; 0 for none.
@@ -182,9 +170,7 @@ std::optional<ModelData> readWithImporter(const QString& path,
     if (scene != nullptr && hasEmptyFaces(*scene)) {
         return fail(Text::tr("cannot be read as a model: it has faces without corners"), error);
     }
-    if (scene != nullptr) {
-        scene = importer.ApplyPostProcessing(flags);
-    }
+    scene = scene != nullptr ? importer.ApplyPostProcessing(flags) : nullptr;
     if (scene == nullptr || scene->mRootNode == nullptr) {
         if (std::strstr(importer.GetErrorString(), "bad_alloc") != nullptr) {
             throw std::bad_alloc();
@@ -221,12 +207,11 @@ std::optional<ModelData> pictureModel(const QString& path, QString& error)
     mesh.normals.assign(4, Vec3 { 0, 0, 1 });
     mesh.texCoords = { { 0, 0 }, { 1, 0 }, { 1, 1 }, { 0, 1 } };
     mesh.triangles = { 0, 1, 2, 0, 2, 3 };
-    MaterialData material;
-    material.diffuse = { 1, 1, 1 };
-    material.texture = picture;
     ModelData model;
     model.meshes.push_back(mesh);
-    model.materials.push_back(material);
+    model.materials.resize(1);
+    model.materials[0].diffuse = { 1, 1, 1 };
+    model.materials[0].texture = picture;
     model.root.meshes = { 0 };
     return model;
 }
