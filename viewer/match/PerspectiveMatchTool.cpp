@@ -35,14 +35,10 @@ constexpr osg::UInt32 kSecondEnd = 3;
 
 constexpr double kDegPerRad = 180.0 / 3.14159265358979323846;
 
-const char* suffixOf(osg::UInt32 part)
-{
-    return part == kFirstEnd ? "a" : part == kSecondEnd ? "b" : "";
-}
-
 std::string handleName(int line, osg::UInt32 part)
 {
-    return std::string(PerspectiveMatchTool::lineName(line)) + suffixOf(part);
+    const char* const suffix = part == kFirstEnd ? "a" : part == kSecondEnd ? "b" : "";
+    return std::string(PerspectiveMatchTool::lineName(line)) + suffix;
 }
 
 struct HandleName
@@ -347,13 +343,18 @@ void PerspectiveMatchTool::update()
     if (stage.isDragging()) {
         return;
     }
-    // A drag that was cancelled has turned the camera back.
     const CameraPose pose = stage.pose();
-    const bool isNew = pose.at - pose.from != resting.at - resting.from || pose.up != resting.up;
-    resting = pose;
-    if (std::exchange(cameraTurned, false) && isNew && active &&
+    const auto isTurnedFrom = [&pose](const CameraPose& other) {
+        return pose.at - pose.from != other.at - other.from || pose.up != other.up;
+    };
+    const CameraPose former = std::exchange(resting, pose);
+    // A drag that was cancelled has turned the camera back.
+    if (std::exchange(cameraTurned, false) && isTurnedFrom(former) && active &&
         nbCameraTypes::isSolved(camera().checkPerspectiveMatch())) {
-        stage.holdView(true);
+        if (!stage.isViewHeld() && isTurnedFrom(unheld)) {
+            unheld = former;
+        }
+        stage.holdView(isTurnedFrom(unheld));  // undone, the view is as free as it was
     }
 }
 

@@ -148,6 +148,7 @@ private:
     bool cameraMoved = false;
     bool cameraTurned = false;
     CameraPose resting;  ///< of the camera when nothing was dragged last
+    CameraPose unheld;  ///< the last one before a match held the view
     bool edgeSnapping = false;
     std::string lastHandle;
 };
