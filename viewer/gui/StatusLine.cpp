@@ -33,9 +33,17 @@ QString pointerText(Stage& stage)
     if (!handle.empty()) {
         const StageTool* tool = stage.activeTool();
         const QString text = tool != nullptr ? tool->handleText(handle) : textOfHandle(handle);
-        return stage.isDragging()
+        if (!stage.isDragging()) {
+            return text;
+        }
+        // Lines of a match, pictures on objects and pivots know no steps.
+        const Gizmo gizmo = stage.gizmo().shown();
+        const bool snaps = tool != nullptr
+            ? tool->name() == QLatin1String("plates")
+            : gizmo != Gizmo::RotatePivot && gizmo != Gizmo::ScalePivot;
+        return snaps
             ? StatusLine::tr("%1: Ctrl snaps, Shift slows, type a number, Esc cancels").arg(text)
-            : text;
+            : StatusLine::tr("%1: Shift slows, type a number, Esc cancels").arg(text);
     }
     const auto hovered = QString::fromStdString(stage.preselectedName());
     return hovered.isEmpty() ? hovered
@@ -50,9 +58,11 @@ StatusLine::StatusLine(QStatusBar& bar)
     , cancelButton(new QToolButton(&bar))
 {
     for (QLabel** label : { &selectionLabel, &handleLabel, &valuesLabel }) {
-        bar.addWidget(*label = new QLabel(&bar));
+        bar.addWidget(*label = new QLabel(&bar), label == &handleLabel ? 1 : 0);
         (*label)->setTextFormat(Qt::PlainText);
     }
+    // In a narrow window the hint is cut off first.
+    handleLabel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     valuesLabel->setObjectName("values");
     progress->setRange(0, kPercent);
     progress->setObjectName("progress");

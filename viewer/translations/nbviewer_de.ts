@@ -1929,6 +1929,10 @@
         <source>%1: Ctrl snaps, Shift slows, type a number, Esc cancels</source>
         <translation>%1: Strg rastet ein, Umschalt verlangsamt, Zahlen lassen sich eintippen, Esc bricht ab</translation>
     </message>
+    <message>
+        <source>%1: Shift slows, type a number, Esc cancels</source>
+        <translation>%1: Umschalt verlangsamt, Zahlen lassen sich eintippen, Esc bricht ab</translation>
+    </message>
 </context>
 <context>
     <name>viewer::ToolBars</name>

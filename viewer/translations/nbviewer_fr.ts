@@ -1929,6 +1929,10 @@
         <source>%1: Ctrl snaps, Shift slows, type a number, Esc cancels</source>
         <translation>%1 : Ctrl aligne, Maj ralentit, saisir un nombre, Échap annule</translation>
     </message>
+    <message>
+        <source>%1: Shift slows, type a number, Esc cancels</source>
+        <translation>%1 : Maj ralentit, saisir un nombre, Échap annule</translation>
+    </message>
 </context>
 <context>
     <name>viewer::ToolBars</name>

@@ -1925,6 +1925,10 @@
         <source>%1: Ctrl snaps, Shift slows, type a number, Esc cancels</source>
         <translation>%1：Ctrl 捕捉，Shift 减速，可输入数值，Esc 取消</translation>
     </message>
+    <message>
+        <source>%1: Shift slows, type a number, Esc cancels</source>
+        <translation>%1：Shift 减速，可输入数值，Esc 取消</translation>
+    </message>
 </context>
 <context>
     <name>viewer::ToolBars</name>
