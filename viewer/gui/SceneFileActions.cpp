@@ -225,6 +225,7 @@ bool SceneFileActions::saveAs()
 
 bool SceneFileActions::saveTo(const QString& path, QString& error)
 {
+    stage.interaction().endDrag();  // as a step, so that what is saved is what undo calls clean
     if (!saveScene(stage, path, error)) {
         return false;
     }
