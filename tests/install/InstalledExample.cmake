@@ -43,7 +43,7 @@ run(pkg-config --libs nbManipulator${SUFFIX})
 separate_arguments(libs UNIX_COMMAND "${output}")
 run(pkg-config --variable=libdir nbManipulator${SUFFIX})
 string(STRIP "${output}" libdir)
-separate_arguments(flags UNIX_COMMAND "${FLAGS}")
+separate_arguments(flags UNIX_COMMAND "-std=c++17 ${FLAGS}")  # not what clang 14 takes by itself
 run(${COMPILER} ${flags} ${cflags} ${CMAKE_CURRENT_LIST_DIR}/drag/drag_gizmo.cpp -o ${SCRATCH}/drag_gizmo ${libs}
     -Wl,-rpath,${libdir})
 run(${SCRATCH}/drag_gizmo)
